@@ -1,0 +1,34 @@
+// loop: one pass of the main loop and what it is made of: pacing, links, touch panel, one SDL event, the page
+// change, the repaint. main starts it; nothing else calls it but MainEventCheck's callers.
+#pragma once
+#include <SDL.h>
+
+extern uint32_t TickNow;
+extern uint32_t TickBefore;
+extern uint32_t MBDownNow;
+extern uint32_t MBDownBefore;
+extern int MBDown;
+extern int Touch_FD;         // -1 closed
+extern int Touch_Resolution; // full-scale raw value
+
+// One pass. Returns 1 when it was the last (the window was closed), otherwise 0.
+int MainPass();
+
+// A reduced pass for code that waits inside a long operation: pacing, one event, repaint. No links, no page change.
+void MainEventCheck();
+// Repaint everything that is dirty and flush the screen.
+void RefreshScreen();
+// Find, open and grab the touch panel. -1 when it is already open, otherwise 0, also when there is none.
+int touch_open();
+// Read the calibration points from the EEPROM; out-of-range values become the defaults.
+void Touch_LoadCalibration();
+// Save the screen on the memory stick as the first free of nine names.
+void Screen_Capture();
+// Tell the panel's buzzer whether a touch beeps.
+void SetTouchBeep();
+// The engineering menu's walk through all pages; called once a pass in that mode.
+void GL_AllPageSet();
+
+// --- For tests ---
+void Loop_Reset();                // as at process start
+void Loop_Event(SDL_Event* event); // handle one event as the pass does

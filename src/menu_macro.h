@@ -1,0 +1,9 @@
+// menu_macro: recording and replay of what the operator does in this menu.
+#pragma once
+#include "types.h"
+
+void mm_protcol_get(const char* line); // every outgoing command passes here
+void mm_macro_run(int reg);
+int mm_macro_file_load(int n); // register n (0..98) from its file; 0, or -1 when there is none
+void mm_event_insert();
+int menu_macro_run_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);

@@ -1,0 +1,110 @@
+// page: which screen is shown. A page is one row of PageTable; a request for an id is resolved to a row (which
+// variant of a page exists depends on the installation), the objects of the old row are emptied and those of the
+// new row built. It owns the histories of the two sides and the remembered page of each menu key; it draws nothing.
+//
+// Code never changes page directly: it stores the id in GL_CreatePage and the main loop calls CreatePage between
+// passes while no window, pane or saver is up.
+#pragma once
+#include "types.h"
+
+constexpr int PAGE_OBJECTS = 8;
+constexpr int PAGE_DEPTH = 8;
+constexpr uint32_t PAGE_END = 0xFFFFFFFF;
+constexpr uint32_t PAGE_TOP = 0x00110000;
+
+enum ObjType : int {
+    OBJ_END = 0,
+    OBJ_BA = 1,  // base area
+    OBJ_BT = 2,  // buttons
+    OBJ_HF = 3,  // tabs along the bottom
+    OBJ_VF = 4,  // tabs down the left
+    OBJ_NB = 5,  // number boxes
+    OBJ_PS = 6,  // pattern select
+    OBJ_LS = 7,  // lists
+    OBJ_PC = 8,  // page code
+    OBJ_KF = 9,  // keyframe timeline
+    OBJ_ST = 10, // status cells
+    OBJ_DW = 11, // DME wipe list
+    OBJ_FM = 12, // frame memory
+    OBJ_KP = 13, // keyframe paths
+    OBJ_DEBUG = 14,
+    OBJ_ERR = 15, // error list
+    OBJ_FL = 17,  // file list
+    OBJ_FF = 18,  // file folder
+};
+
+// One object of a page: what kind, its table, and the argument of the family's _Create.
+struct _pageobject {
+    int type = OBJ_END;
+    const void* addr = nullptr;
+    uint32_t var = 0;
+};
+
+struct PAGE {
+    uint32_t id = PAGE_END;
+    const char* tree[PAGE_DEPTH] = {}; // path segments; tree[0] is the caption of the menu key
+    _pageobject obj[PAGE_OBJECTS] = {}; // in the order of delivery and of creation
+    int knobassign = 0;                 // button that owns the knobs; written at run time
+};
+
+extern PAGE PageTable[];         // the last row has id PAGE_END
+extern const int PageTable_Rows; // with that last row
+
+struct TOPMENU {
+    const char* caption = nullptr;
+    uint32_t page = 0; // the page that the key reopens; written as pages are visited
+};
+extern TOPMENU TopMenu[]; // ended by a null caption
+
+// --- State that others read ---
+extern PAGE* Page; // the current row; null only before the first CreatePage
+extern uint32_t GL_NowPage;
+extern uint32_t GL_PrevPage;
+extern const char* const* GL_NowTree;
+extern int OmoteFlag;   // 1: the front side is shown
+extern int OmoteChange; // the next CreatePage turns the menu over
+extern uint32_t GL_OmoteNowPage;
+extern uint32_t GL_UraNowPage;
+extern uint32_t GL_OmotePrevPage;
+extern uint32_t GL_UraPrevPage;
+extern char NowTopMenu[256];
+extern int MeKeyTpye; // 1 main, 2 sub: the kind of the last key page
+
+// --- For the main loop ---
+// Resolve and change the screen. 0, or -1 when there is no such page: the old one stays.
+int CreatePage(uint32_t id);
+
+// --- For everybody ---
+// The row that a request opens, null when there is none or it is hidden in this installation. The id may have a
+// variant added; the row's own id tells which.
+PAGE* SearchPageTable(uint32_t id);
+PAGE* SearchPageTable_Free_ALL(PAGE* table, uint32_t id); // plain lookup but for five ids that have no page
+
+// side is valued as OmoteFlag is. Requests the page; -1 when there is none in that direction.
+int HistoryBack(int side);
+int HistoryFwd(int side);
+uint32_t GetHistoryBack(int side); // the page a step would open, 0 none
+uint32_t GetHistoryFwd(int side);
+int IsTopHistory(int side);  // 1 when no step back is left
+int IsLastHistory(int side); // 1 when no step forward is left
+
+int IsUserPages(uint32_t id);       // counts for history and side memory
+int IsObjetype(int type);           // 1 when the current page has an object of this type
+int Page_GetKnobAssign();           // button that owns the knobs when the page opens, -1 none
+void Page_SetKnobAssign(int id);    // some pages keep what their row says
+void AddPageOffset(uint32_t* id);   // a template id to the bank and key of the current page
+
+// Classification; id 0 means the current page.
+int isNowPageME(uint32_t id);    // 0; 1 main bank, 2 sub bank, not a key page
+int isNowPageMeKey(uint32_t id); // 0; 1 key page of a main bank, 2 of a sub bank
+int isNowPageFM(uint32_t id);
+int isMainSubCheck(uint32_t id); // 1 when the page has a main and a sub side
+int MainSubAssign_StatusCheck_for_id(uint32_t id); // -1 no row, 0 main, 1 sub, 2 both
+int MainSubAssign_StatusCheck();
+// The M/E of a bank byte: 0 P/P, 1..5 M/E, -1 for other banks.
+int Page_MeIndex(uint32_t id);
+
+// "%04X" or "%04X.%X" of a page id into text (at least 16 characters).
+void Page_Number(char* text, int size, uint32_t id);
+
+void Page_Reset(); // as at process start; for tests

@@ -1,0 +1,241 @@
+#include "harness.h"
+#include "graphics.h"
+#include "loop.h"
+#include "netio.h"
+#include "page.h"
+#include "tdl.h"
+#include <algorithm>
+#include <arpa/inet.h>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <netinet/in.h>
+#include <png.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+uint32_t Clock_ms = 1000;
+
+// The test program's own clock takes the place of the library's.
+extern "C" Uint32 SDL_GetTicks()
+{
+    return Clock_ms;
+}
+extern "C" void SDL_Delay(Uint32 ms)
+{
+    Clock_ms += ms;
+}
+
+void Harness_Video()
+{
+    if (Screen) return;
+    if (chdir(TEST_RUN_DIR) != 0) {
+        perror(TEST_RUN_DIR);
+        exit(1);
+    }
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    setenv("SDL_AUDIODRIVER", "dummy", 1);
+    SDL_Surface* surface = nullptr;
+    if (SDL_Init(SDL_INIT_VIDEO) == 0) surface = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 32, 0);
+    if (!surface || TDL_Init(surface) != 0) {
+        fprintf(stderr, "no video: %s\n", SDL_GetError());
+        exit(1);
+    }
+    LoadGraphics();
+}
+
+void Harness_Reset()
+{
+    Harness_Video();
+    Page_Reset();
+    Loop_Reset();
+    (void)TakeQueuedCommands(); // what an earlier test left
+    TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
+}
+
+Peer::Peer(int port)
+{
+    listen_fd = socket(AF_INET, SOCK_STREAM, 0);
+    const int on = 1;
+    setsockopt(listen_fd, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_port = htons(uint16_t(port));
+    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    if (bind(listen_fd, reinterpret_cast<sockaddr*>(&a), sizeof a) != 0 || listen(listen_fd, 4) != 0)
+        ADD_FAILURE() << "cannot listen on port " << port << ": " << strerror(errno);
+}
+
+Peer::~Peer()
+{
+    Drop();
+    StopListening();
+}
+
+bool Peer::Accept()
+{
+    pollfd p{listen_fd, POLLIN, 0};
+    if (poll(&p, 1, 2000) != 1) return false;
+    fd = accept(listen_fd, nullptr, nullptr);
+    return fd >= 0;
+}
+
+void Peer::Send(const std::string& text)
+{
+    size_t sent = 0;
+    while (sent < text.size()) {
+        const ssize_t n = send(fd, text.data() + sent, text.size() - sent, MSG_NOSIGNAL);
+        if (n <= 0) {
+            ADD_FAILURE() << "send: " << strerror(errno);
+            return;
+        }
+        sent += size_t(n);
+    }
+}
+
+void Peer::Drop()
+{
+    if (fd >= 0) close(fd);
+    fd = -1;
+    received.clear();
+}
+
+void Peer::StopListening()
+{
+    if (listen_fd >= 0) close(listen_fd);
+    listen_fd = -1;
+}
+
+std::vector<std::string> Peer::Lines(int wait_ms)
+{
+    pollfd p{fd, POLLIN, 0};
+    char buf[4096];
+    while (poll(&p, 1, wait_ms) == 1) {
+        const ssize_t n = recv(fd, buf, sizeof buf, 0);
+        if (n <= 0) break;
+        received.append(buf, size_t(n));
+        wait_ms = 5;
+    }
+    std::vector<std::string> lines;
+    for (size_t end; (end = received.find('\n')) != std::string::npos; received.erase(0, end + 1))
+        lines.push_back(received.substr(0, end));
+    return lines;
+}
+
+std::vector<std::string> TakeQueuedCommands()
+{
+    std::vector<std::string> commands;
+    char text[CMD_SIZE];
+    while (Net_TakeQueued(text, sizeof text)) commands.emplace_back(text);
+    return commands;
+}
+
+uint32_t PixelAt(int x, int y)
+{
+    const auto* row = static_cast<const uint8_t*>(Screen->pixels) + y * Screen->pitch;
+    uint32_t pixel;
+    memcpy(&pixel, row + x * 4, 4);
+    return pixel & 0xFFFFFF;
+}
+
+namespace
+{
+struct Picture {
+    int w = 0;
+    int h = 0;
+    std::vector<uint8_t> rgb;
+};
+
+Picture Grab(SDL_Surface* s, const Rect& r)
+{
+    Picture p{r.x2 - r.x1 + 1, r.y2 - r.y1 + 1, {}};
+    p.rgb.reserve(size_t(p.w * p.h * 3));
+    for (int y = r.y1; y <= r.y2; y++) {
+        for (int x = r.x1; x <= r.x2; x++) {
+            const auto* at = static_cast<const uint8_t*>(s->pixels) + y * s->pitch +
+                             x * s->format->BytesPerPixel;
+            uint32_t pixel = 0;
+            memcpy(&pixel, at, s->format->BytesPerPixel);
+            uint8_t c[3];
+            SDL_GetRGB(pixel, s->format, &c[0], &c[1], &c[2]);
+            p.rgb.insert(p.rgb.end(), c, c + 3);
+        }
+    }
+    return p;
+}
+
+bool Save(const std::string& path, const Picture& p)
+{
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = png_uint_32(p.w);
+    image.height = png_uint_32(p.h);
+    image.format = PNG_FORMAT_RGB;
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+    return png_image_write_to_file(&image, path.c_str(), 0, p.rgb.data(), 0, nullptr) != 0;
+}
+
+bool Load(const std::string& path, Picture* p)
+{
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    if (!png_image_begin_read_from_file(&image, path.c_str())) return false;
+    image.format = PNG_FORMAT_RGB;
+    p->w = int(image.width);
+    p->h = int(image.height);
+    p->rgb.resize(PNG_IMAGE_SIZE(image));
+    return png_image_finish_read(&image, nullptr, p->rgb.data(), 0, nullptr) != 0;
+}
+} // namespace
+
+bool WritePng(const std::string& path, SDL_Surface* surface)
+{
+    return Save(path, Grab(surface, {0, 0, surface->w - 1, surface->h - 1}));
+}
+
+testing::AssertionResult MatchesGolden(const std::string& name, Rect part)
+{
+    const std::string golden = TEST_SOURCE_DIR "/screen/golden/" + name + ".png";
+    const Picture actual = Grab(Screen, part);
+    if (getenv("TM3_GOLDEN_UPDATE")) {
+        if (!Save(golden, actual)) return testing::AssertionFailure() << "cannot write " << golden;
+        return testing::AssertionSuccess();
+    }
+    Picture expected;
+    const bool loaded = Load(golden, &expected);
+    if (loaded && expected.w == actual.w && expected.h == actual.h && expected.rgb == actual.rgb)
+        return testing::AssertionSuccess();
+
+    const std::string out = TEST_OUT_DIR "/" + name;
+    Save(out + ".actual.png", actual);
+    if (!loaded) return testing::AssertionFailure() << "no picture " << golden << "; drew " << out << ".actual.png";
+    Save(out + ".expected.png", expected);
+    if (expected.w != actual.w || expected.h != actual.h)
+        return testing::AssertionFailure() << name << ": another size; see " << out << ".*.png";
+
+    Picture difference = actual;
+    int count = 0, first_x = -1, first_y = -1;
+    for (size_t i = 0; i < actual.rgb.size(); i += 3) {
+        const bool same = std::equal(&actual.rgb[i], &actual.rgb[i] + 3, &expected.rgb[i]);
+        for (int c = 0; c < 3; c++)
+            difference.rgb[i + size_t(c)] = uint8_t(same ? actual.rgb[i + size_t(c)] / 4 : 255);
+        if (!same && count++ == 0) {
+            first_x = int(i / 3) % actual.w + part.x1;
+            first_y = int(i / 3) / actual.w + part.y1;
+        }
+    }
+    Save(out + ".difference.png", difference);
+    return testing::AssertionFailure() << name << ": " << count << " pixels differ, the first at (" << first_x
+                                       << ", " << first_y << "); see " << out << ".*.png";
+}
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    if (chdir(TEST_RUN_DIR) != 0) {
+        perror(TEST_RUN_DIR);
+        return 1;
+    }
+    return RUN_ALL_TESTS();
+}

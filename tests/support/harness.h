@@ -1,0 +1,47 @@
+// harness: what the tests share: a clock that only moves when told, a 32-bit screen without a display, and peers
+// on the loopback that play the server.
+#pragma once
+#include "types.h"
+#include <SDL.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+// The fake clock behind SDL_GetTicks and SDL_Delay (which only advances it).
+extern uint32_t Clock_ms;
+
+// SDL, the drawing layer and the bitmaps, once a process. The working directory is build/run.
+void Harness_Video();
+// Every module's state as at process start, as far as tests lean on it; the screen black.
+void Harness_Reset();
+
+// A server for one link: listens on 127.0.0.1:port, speaks lines.
+struct Peer {
+    int listen_fd = -1;
+    int fd = -1;
+    std::string received;
+
+    explicit Peer(int port);
+    ~Peer();
+    Peer(const Peer&) = delete;
+    Peer& operator=(const Peer&) = delete;
+    bool Accept();                      // take the connection that waits (up to 2 s)
+    void Send(const std::string& text); // as it stands
+    void Drop();                        // close the connection, keep listening
+    void StopListening();
+    // Everything that has arrived and the whole lines of it, without their ends; the rest stays.
+    std::vector<std::string> Lines(int wait_ms = 50);
+};
+
+// The commands that the application has queued since the last call, as they would go over the wire. Takes them off
+// the queue: for tests without a peer.
+std::vector<std::string> TakeQueuedCommands();
+
+// --- Pictures ---
+uint32_t PixelAt(int x, int y); // 0x00RRGGBB
+// Compare the screen with tests/screen/golden/NAME.png. A missing or different picture fails; expected, actual and
+// difference are left in the build folder's screen/. With TM3_GOLDEN_UPDATE set in the environment the picture is
+// written instead: look at it before you commit it.
+testing::AssertionResult MatchesGolden(const std::string& name, Rect part = {0, 0, 799, 599});
+// The screen as a PNG file, for people.
+bool WritePng(const std::string& path, SDL_Surface* surface);
