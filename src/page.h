@@ -47,7 +47,7 @@ struct PAGE {
     int knobassign = 0;                 // button that owns the knobs; written at run time
 };
 
-extern PAGE PageTable[];         // the last row has id PAGE_END
+extern PAGE* const PageTable;    // the rows; the last has id PAGE_END
 extern const int PageTable_Rows; // with that last row
 
 struct TOPMENU {

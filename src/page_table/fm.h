@@ -1,0 +1,31 @@
+// fm: the first pages of frame memory.
+#pragma once
+#include "rows.h"
+
+inline constexpr BT_TBL bt_fm_still[] = {
+    Radio(      {.id = 17, .caption = "FM1", .group = "Output", .cmd = {"~@Output#FM1"}}),
+    Radio(      {.id = 18, .caption = "FM2", .group = "Output", .cmd = {"~@Output#FM2"}}),
+    Radio(      {.id = 19, .caption = "FM3", .group = "Output", .cmd = {"~@Output#FM3"}}),
+    Radio(      {.id = 20, .caption = "FM4", .group = "Output", .cmd = {"~@Output#FM4"}}),
+    Toggle(     {.id = 33, .caption = "Frame", .group = "Freeze", .cmd = {"~@Frame#*"}}),
+    Toggle(     {.id = 34, .caption = "Field", .group = "Freeze", .cmd = {"~@Field#*"}}),
+    Action(     {.id = 35, .caption = "Store", .group = "Store", .cmd = {"~@Store#*"}}),
+    Action(     {.id = 36, .caption = "Auto\nStore", .group = "Store", .cmd = {"~@Auto Store#*"}}),
+    Toggle(     {.id = 49, .caption = "Lock", .group = "Output Mode", .cmd = {"~@Lock#*"}}),
+    Toggle(     {.id = 50, .caption = "Black", .group = "Output Mode", .cmd = {"~@Black#*"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_fm_still));
+
+inline constexpr BT_TBL bt_frame_memory_top[] = {
+    Jump(       {.id = 17, .caption = "Still", .group = "Frame Memory", .cmd = {"#21110000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_frame_memory_top));
+
+inline constexpr PAGE fm_pages[] = {
+    {.id = 0x21000000, .tree = {"Frame Memory"}, .obj = {Base(base_main), Buttons(bt_frame_memory_top)}},
+    {.id = 0x21110000, .tree = {"Frame Memory", "Still"}, .obj = {Base(base_main), Buttons(bt_fm_still)}},
+};

@@ -1,0 +1,109 @@
+// machines: the first pages of router, external devices and macros.
+#pragma once
+#include "rows.h"
+
+inline constexpr BT_TBL bt_router[] = {
+    Radio(      {.id = 17, .caption = "Level 1", .group = "Level", .cmd = {"~@Level#Level 1"}}),
+    Radio(      {.id = 18, .caption = "Level 2", .group = "Level", .cmd = {"~@Level#Level 2"}}),
+    Radio(      {.id = 19, .caption = "Level 3", .group = "Level", .cmd = {"~@Level#Level 3"}}),
+    Radio(      {.id = 20, .caption = "Level 4", .group = "Level", .cmd = {"~@Level#Level 4"}}),
+    Radio(      {.id = 21, .caption = "Level 5", .group = "Level", .cmd = {"~@Level#Level 5"}}),
+    Radio(      {.id = 22, .caption = "Level 6", .group = "Level", .cmd = {"~@Level#Level 6"}}),
+    Toggle(     {.id = 33, .caption = "Protect", .group = "Protect", .cmd = {"~@Protect#*"}}),
+    Toggle(     {.id = 34, .caption = "Lock", .group = "Protect", .cmd = {"~@Lock#*"}}),
+    Action(     {.id = 49, .caption = "Take", .group = "Take", .cmd = {"~@Take#*"}}),
+    Action(     {.id = 50, .caption = "Clear", .group = "Take", .cmd = {"~@Clear#*"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_router));
+
+inline constexpr BT_TBL bt_sp[] = {
+    Toggle(     {.id = 17, .caption = "Func 1", .group = "Function", .cmd = {"~@Func 1#*"}}),
+    Toggle(     {.id = 18, .caption = "Func 2", .group = "Function", .cmd = {"~@Func 2#*"}}),
+    Toggle(     {.id = 19, .caption = "Func 3", .group = "Function", .cmd = {"~@Func 3#*"}}),
+    Toggle(     {.id = 20, .caption = "Func 4", .group = "Function", .cmd = {"~@Func 4#*"}}),
+    Toggle(     {.id = 21, .caption = "Func 5", .group = "Function", .cmd = {"~@Func 5#*"}}),
+    Toggle(     {.id = 22, .caption = "Func 6", .group = "Function", .cmd = {"~@Func 6#*"}}),
+    Action(     {.id = 33, .caption = "Connect", .group = "Link", .cmd = {"~@Connect#*"}}),
+    Action(     {.id = 34, .caption = "Release", .group = "Link", .cmd = {"~@Release#*"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_sp));
+
+inline constexpr BT_TBL bt_device_vtr[] = {
+    Radio(      {.id = 17, .caption = "Dev 1", .group = "Device", .cmd = {"~@Device#Dev 1"}}),
+    Radio(      {.id = 18, .caption = "Dev 2", .group = "Device", .cmd = {"~@Device#Dev 2"}}),
+    Radio(      {.id = 19, .caption = "Dev 3", .group = "Device", .cmd = {"~@Device#Dev 3"}}),
+    Radio(      {.id = 20, .caption = "Dev 4", .group = "Device", .cmd = {"~@Device#Dev 4"}}),
+    Radio(      {.id = 21, .caption = "Dev 5", .group = "Device", .cmd = {"~@Device#Dev 5"}}),
+    Radio(      {.id = 22, .caption = "Dev 6", .group = "Device", .cmd = {"~@Device#Dev 6"}}),
+    Action(     {.id = 33, .caption = "Rewind", .group = "Transport", .cmd = {"~@Rewind#*"}}),
+    Action(     {.id = 34, .caption = "Play", .group = "Transport", .cmd = {"~@Play#*"}}),
+    Action(     {.id = 35, .caption = "F Fwd", .group = "Transport", .cmd = {"~@F Fwd#*"}}),
+    Action(     {.id = 36, .caption = "Stop", .group = "Transport", .cmd = {"~@Stop#*"}}),
+    Action(     {.id = 37, .caption = "Record", .group = "Transport", .cmd = {"~@Record#*"}}),
+    Action(     {.id = 38, .caption = "Cue", .group = "Transport", .cmd = {"~@Cue#*"}}),
+    Toggle(     {.id = 49, .caption = "Loop", .group = "Mode", .cmd = {"~@Loop#*"}}),
+    Toggle(     {.id = 50, .caption = "Variable", .group = "Mode", .cmd = {"~@Variable#*"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_device_vtr));
+
+inline constexpr BT_TBL bt_macro[] = {
+    Action(     {.id = 17, .caption = "Recall", .group = "Register", .cmd = {"~@Recall#*"}}),
+    Action(     {.id = 18, .caption = "Store", .group = "Register", .cmd = {"~@Store#*"}}),
+    Action(     {.id = 19, .caption = "Undo", .group = "Register", .cmd = {"~@Undo#*"}}),
+    Toggle(     {.id = 20, .caption = "Pre\nMacro", .group = "Attachment", .cmd = {"~@Pre Macro#*"}}),
+    Toggle(     {.id = 21, .caption = "Post\nMacro", .group = "Attachment", .cmd = {"~@Post Macro#*"}}),
+    Toggle(     {.id = 33, .caption = "Take", .group = "Execute", .cmd = {"~@Take#*"}}),
+    Toggle(     {.id = 34, .caption = "Auto", .group = "Execute", .cmd = {"~@Auto#*"}}),
+    Toggle(     {.id = 35, .caption = "Step", .group = "Execute", .cmd = {"~@Step#*"}}),
+    Action(     {.id = 49, .caption = "Insert", .group = "Edit", .cmd = {"~@Insert#*"}}),
+    Action(     {.id = 50, .caption = "Modify", .group = "Edit", .cmd = {"~@Modify#*"}}),
+    Action(     {.id = 51, .caption = "Delete", .group = "Edit", .cmd = {"~@Delete#*"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_macro));
+
+inline constexpr BT_TBL bt_router_top[] = {
+    Jump(       {.id = 17, .caption = "Control", .group = "Router", .cmd = {"#51110000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_router_top));
+
+inline constexpr BT_TBL bt_sp_top[] = {
+    Jump(       {.id = 17, .caption = "SP", .group = "SP", .cmd = {"#52100000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_sp_top));
+
+inline constexpr BT_TBL bt_device_top[] = {
+    Jump(       {.id = 17, .caption = "VTR", .group = "Device", .cmd = {"#53210000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_device_top));
+
+inline constexpr BT_TBL bt_macro_top[] = {
+    Jump(       {.id = 17, .caption = "Macro", .group = "Macro", .cmd = {"#54100000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_macro_top));
+
+inline constexpr PAGE machines_pages[] = {
+    {.id = 0x51000000, .tree = {"Router"}, .obj = {Base(base_main), Buttons(bt_router_top)}},
+    {.id = 0x52000000, .tree = {"SP"}, .obj = {Base(base_main), Buttons(bt_sp_top)}},
+    {.id = 0x53000000, .tree = {"Device"}, .obj = {Base(base_main), Buttons(bt_device_top)}},
+    {.id = 0x54000000, .tree = {"Macro"}, .obj = {Base(base_main), Buttons(bt_macro_top)}},
+    {.id = 0x51110000, .tree = {"Router", "Control"}, .obj = {Base(base_main), Buttons(bt_router)}},
+    {.id = 0x52100000, .tree = {"SP"}, .obj = {Base(base_main), Buttons(bt_sp)}},
+    {.id = 0x53210000, .tree = {"Device", "VTR", "Control"}, .obj = {Base(base_main), Buttons(bt_device_vtr)}},
+    {.id = 0x54100000, .tree = {"Macro"}, .obj = {Base(base_main), Buttons(bt_macro)}},
+};

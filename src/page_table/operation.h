@@ -1,0 +1,85 @@
+// operation: the first pages of copy and swap, miscellaneous, status.
+#pragma once
+#include "rows.h"
+
+inline constexpr BT_TBL bt_copyswap_me[] = {
+    Radio(      {.id = 17, .caption = "M/E-1", .group = "From", .cmd = {"~@From#M/E-1"}}),
+    Radio(      {.id = 18, .caption = "M/E-2", .group = "From", .cmd = {"~@From#M/E-2"}}),
+    Radio(      {.id = 19, .caption = "M/E-3", .group = "From", .cmd = {"~@From#M/E-3"}}),
+    Radio(      {.id = 20, .caption = "M/E-4", .group = "From", .cmd = {"~@From#M/E-4"}}),
+    Radio(      {.id = 21, .caption = "M/E-5", .group = "From", .cmd = {"~@From#M/E-5"}}),
+    Radio(      {.id = 22, .caption = "P/P", .group = "From", .cmd = {"~@From#P/P"}}),
+    Radio(      {.id = 33, .caption = "M/E-1", .group = "To", .cmd = {"~@To#M/E-1"}}),
+    Radio(      {.id = 34, .caption = "M/E-2", .group = "To", .cmd = {"~@To#M/E-2"}}),
+    Radio(      {.id = 35, .caption = "M/E-3", .group = "To", .cmd = {"~@To#M/E-3"}}),
+    Radio(      {.id = 36, .caption = "M/E-4", .group = "To", .cmd = {"~@To#M/E-4"}}),
+    Radio(      {.id = 37, .caption = "M/E-5", .group = "To", .cmd = {"~@To#M/E-5"}}),
+    Radio(      {.id = 38, .caption = "P/P", .group = "To", .cmd = {"~@To#P/P"}}),
+    Action(     {.id = 49, .caption = "Copy", .group = "Execute", .cmd = {"~@Copy#*"}}),
+    Action(     {.id = 50, .caption = "Swap", .group = "Execute", .cmd = {"~@Swap#*"}}),
+    Action(     {.id = 51, .caption = "Undo", .group = "Undo", .cmd = {"~@Undo#*"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_copyswap_me));
+
+inline constexpr BT_TBL bt_misc_port[] = {
+    Toggle(     {.id = 17, .caption = "K-PVW\nConfig", .group = "Preview", .cmd = {"~@K-PVW Config#*"}}),
+    Toggle(     {.id = 18, .caption = "Wipe\nPreview", .group = "Preview", .cmd = {"~@Wipe Preview#*"}}),
+    Toggle(     {.id = 19, .caption = "Key\nTrans", .group = "Independent", .cmd = {"~@Key Trans#*"}}),
+    Toggle(     {.id = 20, .caption = "Bkgd\nTrans", .group = "Independent", .cmd = {"~@Bkgd Trans#*"}}),
+    Radio(      {.id = 33, .caption = "4:3", .group = "Side Flags", .cmd = {"~@Side Flags#4:3"}}),
+    Radio(      {.id = 34, .caption = "16:9", .group = "Side Flags", .cmd = {"~@Side Flags#16:9"}}),
+    Radio(      {.id = 35, .caption = "Auto", .group = "Side Flags", .cmd = {"~@Side Flags#Auto"}}),
+    Action(     {.id = 49, .caption = "Lamp\nTest", .group = "Panel", .cmd = {"~@Lamp Test#*"}}),
+    Action(     {.id = 50, .caption = "All\nClear", .group = "Panel", .cmd = {"~@All Clear#*"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_misc_port));
+
+inline constexpr BT_TBL bt_status_me[] = {
+    Jump(       {.id = 17, .caption = "M/E-1", .group = "Bank", .cmd = {"#11000000"}}),
+    Jump(       {.id = 18, .caption = "M/E-2", .group = "Bank", .cmd = {"#12000000"}}),
+    Jump(       {.id = 19, .caption = "M/E-3", .group = "Bank", .cmd = {"#13000000"}}),
+    Jump(       {.id = 20, .caption = "M/E-4", .group = "Bank", .cmd = {"#81000000"}}),
+    Jump(       {.id = 21, .caption = "M/E-5", .group = "Bank", .cmd = {"#82000000"}}),
+    Jump(       {.id = 22, .caption = "PGM/PST", .group = "Bank", .cmd = {"#14000000"}}),
+    Jump(       {.id = 33, .caption = "Diag", .group = "System", .cmd = {"#74110000"}}),
+    Jump(       {.id = 34, .caption = "Error\nList", .group = "System", .cmd = {"#99000000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_status_me));
+
+inline constexpr BT_TBL bt_copyswap_top[] = {
+    Jump(       {.id = 17, .caption = "M/E", .group = "Copy/Swap", .cmd = {"#31110000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_copyswap_top));
+
+inline constexpr BT_TBL bt_misc_top[] = {
+    Jump(       {.id = 17, .caption = "Port", .group = "Misc", .cmd = {"#32110000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_misc_top));
+
+inline constexpr BT_TBL bt_status_top[] = {
+    Jump(       {.id = 17, .caption = "M/E", .group = "Status", .cmd = {"#33110000"}}),
+    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_status_top));
+
+inline constexpr PAGE operation_pages[] = {
+    {.id = 0x31000000, .tree = {"Copy/Swap"}, .obj = {Base(base_main), Buttons(bt_copyswap_top)}},
+    {.id = 0x32000000, .tree = {"Misc"}, .obj = {Base(base_main), Buttons(bt_misc_top)}},
+    {.id = 0x33000000, .tree = {"Status"}, .obj = {Base(base_main), Buttons(bt_status_top)}},
+    {.id = 0x31110000, .tree = {"Copy/Swap", "M/E"}, .obj = {Base(base_main), Buttons(bt_copyswap_me)}},
+    {.id = 0x32110000, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port)}},
+    {.id = 0x32110100, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port)}},
+    {.id = 0x33110100, .tree = {"Status", "M/E"}, .obj = {Base(base_main), Buttons(bt_status_me)}},
+    {.id = 0x33110200, .tree = {"Status", "M/E"}, .obj = {Base(base_main), Buttons(bt_status_me)}},
+};

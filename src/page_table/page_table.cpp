@@ -1,0 +1,47 @@
+// PageTable, joined at compile time from the rows of the menu groups.
+#include "dme.h"
+#include "fm.h"
+#include "machines.h"
+#include "me_key.h"
+#include "me_top.h"
+#include "operation.h"
+#include "registers.h"
+#include "sources.h"
+#include "system.h"
+#include "top.h"
+
+static constexpr auto me_top_rows = BankRows<BankRowCount(me_top_pages)>(me_top_pages);
+static constexpr auto me_key_rows = KeyRows<KeyRowCount(me_key_pages)>(me_key_pages);
+
+static constexpr size_t page_rows = std::size(top_pages) + me_top_rows.size() + me_key_rows.size() +
+                                    std::size(fm_pages) + std::size(sources_pages) + std::size(operation_pages) +
+                                    std::size(dme_pages) + std::size(machines_pages) + std::size(registers_pages) +
+                                    std::size(system_pages) + 1;
+
+struct AllRows {
+    PAGE row[page_rows];
+};
+
+static constexpr AllRows JoinRows()
+{
+    AllRows all{};
+    size_t n = 0;
+    const auto add = [&](const auto& rows) {
+        for (const PAGE& p : rows) all.row[n++] = p;
+    };
+    add(top_pages);
+    add(me_top_rows);
+    add(me_key_rows);
+    add(fm_pages);
+    add(sources_pages);
+    add(operation_pages);
+    add(dme_pages);
+    add(machines_pages);
+    add(registers_pages);
+    add(system_pages);
+    return all; // the last row keeps PAGE_END
+}
+
+static constinit AllRows all_rows = JoinRows();
+constinit PAGE* const PageTable = all_rows.row;
+const int PageTable_Rows = int(page_rows);
