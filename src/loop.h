@@ -1,5 +1,5 @@
-// loop: one pass of the main loop and what it is made of: pacing, links, touch panel, one SDL event, the page
-// change, the repaint. main starts it; nothing else calls it but MainEventCheck's callers.
+// loop: one pass of the main loop: pacing, links, touch panel, one SDL event, the page change, the repaint, the
+// schedule of the initial read. main starts it; the touch panel itself is in touch.
 #pragma once
 #include <SDL.h>
 
@@ -8,8 +8,6 @@ extern uint32_t TickBefore;
 extern uint32_t MBDownNow;
 extern uint32_t MBDownBefore;
 extern int MBDown;
-extern int Touch_FD;         // -1 closed
-extern int Touch_Resolution; // full-scale raw value
 
 // One pass. Returns 1 when it was the last (the window was closed), otherwise 0.
 int MainPass();
@@ -18,10 +16,6 @@ int MainPass();
 void MainEventCheck();
 // Repaint everything that is dirty and flush the screen.
 void RefreshScreen();
-// Find, open and grab the touch panel. -1 when it is already open, otherwise 0, also when there is none.
-int touch_open();
-// Read the calibration points from the EEPROM; out-of-range values become the defaults.
-void Touch_LoadCalibration();
 // Save the screen on the memory stick as the first free of nine names.
 void Screen_Capture();
 // Tell the panel's buzzer whether a touch beeps.

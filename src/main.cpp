@@ -1,4 +1,226 @@
-int main()
+// main: start-up in its order, the loop, the end. Everything that needs no server is in init; a
+// failure there is fatal and prints a line, since the log and the screen may not be up.
+#include "a_kf.h"
+#include "bus.h"
+#include "config.h"
+#include "device.h"
+#include "fmctrl.h"
+#include "fmctrl3.h"
+#include "global.h"
+#include "graphics.h"
+#include "i2c.h"
+#include "initread.h"
+#include "log.h"
+#include "loop.h"
+#include "memory.h"
+#include "netio.h"
+#include "page.h"
+#include "pane.h"
+#include "process.h"
+#include "saver.h"
+#include "selfdiag.h"
+#include "setup_index.h"
+#include "tdl.h"
+#include "text.h"
+#include "touch.h"
+#include "version.h"
+#include "xsyslog.h"
+#include <SDL.h>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/wait.h>
+#include <unistd.h>
+#include "safeguards.h"
+
+namespace
 {
+constexpr int SERVER_WAIT_MS = 5000; // deliberately lost: the server is left to accept the links
+constexpr int PANE_STYLE_OK = 2;
+constexpr int DRIVE_CHECK_LINES = 2;
+
+struct DriveMessage {
+    const char* title = nullptr;
+    const char* text = nullptr;
+};
+constexpr char text_user_data[] = "The user data partition of local drive is\n"
+                                  "damaged, and all data is lost. The local drive\n"
+                                  "needs to be reformatted.\n"
+                                  "Please execute local drive format on\n"
+                                  "Page 7317.";
+constexpr char text_system_data[] = "The system data partition of local drivek is\n"
+                                    "damaged. The local drive needs to be\n"
+                                    "reformatted. Please execute local drive format\n"
+                                    "on Page 7317.\n"
+                                    "Please make sure to save all data in the user\n"
+                                    "data partition of local drive to any other\n"
+                                    "device or media, before reformatted.";
+constexpr char text_emergency[] = "Menu was launched from the built-in SSD\n"
+                                  "because SCS was not found.\n"
+                                  "\n"
+                                  "Shutdown and restart the system is\n"
+                                  "recommended to exit from emergency mode.";
+} // namespace
+
+// Reaps the one tracked child; others are waited for by whoever started them.
+static void sig_chld(int)
+{
+    if (cpid == 0)
+        return;
+    wait(nullptr);
+    cpid = 0;
+}
+
+static void quit()
+{
+    Global_FreeBusNames();
+    FMCtrl_Quit();
+    FMCtrl3_Quit();
+    FreeGraphics();
+}
+
+static bool start_has_data_disk()
+{
+    if (GL_DebugMode)
+        return true;
+    return !FileExist("/var/log/.tmpdiskerror") && !FileExist("/var/log/.datadiskerror") &&
+           FileExist("/mnt/data/.HARDDISK_IS_AVAILABLE_1.0.0") &&
+           ktr_system("/sbin/sfdisk -l /dev/sda") == 0;
+}
+
+static void start_video()
+{
+    if (SDL_Init(SDL_INIT_TIMER | SDL_INIT_VIDEO) < 0) {
+        printf("Couldn't initialize SDL: %s\n", SDL_GetError());
+        exit(1);
+    }
+    atexit(SDL_Quit);
+    SDL_Surface* surface = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 0, 0);
+    if (!surface) {
+        printf("Couldn't set video mode: %s\n", SDL_GetError());
+        exit(1);
+    }
+    SDL_WM_SetCaption("Vorn KTR-40 GUI", "GUI");
+    SDL_EnableKeyRepeat(500, 30);
+    if (TDL_Init(surface) != 0) {
+        printf("Couldn't initialize TDL.\n");
+        exit(1);
+    }
+    atexit(TDL_Quit);
+}
+
+static void start_identity()
+{
+    unsigned char e[4];
+    if (I2cEepromService_ReadElem(EEPROM_IP_ADDR_ETH0, 4, e) == 4) {
+        SYS_GroupID = e[1] - 128;
+        SYS_UnitID = e[3];
+    }
+    if (I2cEepromService_ReadElem(EEPROM_SHP_ADDR, 4, e) == 4)
+        PrintText(SYS_StatusHubAddress, "%d.%d.%d.%d", e[0], e[1], e[2], e[3]);
+    else if (GL_ClipStoreDebugMode && *GL_ClipStoreDebugAddress)
+        CopyText(SYS_StatusHubAddress, GL_ClipStoreDebugAddress);
+    else
+        CopyText(SYS_StatusHubAddress, "192.168.111.1");
+    SYS_StatusHubPort = 9500;
+    if (I2cEepromService_ReadElem(EEPROM_SHP_PORT, 2, e) == 2)
+        SYS_StatusHubPort = e[0] << 8 | e[1];
+    PrintText(SYS_SHP_MyUserID, "MENU%d", SYS_UnitID);
+}
+
+static void init()
+{
+    if (LoadIniFile() != 0) {
+        printf("Fatal Error: Couldn't load tm3.ini.\n");
+        exit(1);
+    }
+    Log_Init(GL_LogFileName, LOG_FILE_SIZE);
+    xsys_openlog("menu", 1, 8);
+    GL_IsRamDisk = start_has_data_disk() ? 0 : 1;
+    start_video();
+    start_identity();
+    Device_Init();
+    Global_InitBusNames();
+    SetupIndex_Build();
+    SetupIndex_LoadLock();
+    SetTouchBeep();
+    EndScreenSaver();
+    KF_Init();
+    FMCtrl_InitClipStillList();
+    FMCtrl3_Init();
+    SelfDiag_Init();
+    atexit(quit);
+}
+
+static void start_log_versions()
+{
+    Log_Output(LOG_ALWAYS, MOD_START, "APP  : %s\n", GL_MenuDetailInfoFull[0]);
+    Log_Output(LOG_ALWAYS, MOD_START, "LINUX: %s\n", GL_MenuDetailInfoFull[1]);
+    Log_Output(LOG_ALWAYS, MOD_START, "UBOOT: %s\n", GL_MenuDetailInfoFull[2]);
+}
+
+// 1 unless the mount answers: the second line that df prints names the device, which begins with
+// "/".
+static int start_drive_error(const char* command)
+{
+    if (ktr_system_and_redirect(command, GL_TempFile) != 0)
+        return 1;
+    FILE* fp = fopen(GL_TempFile, "r");
+    if (!fp)
+        return 1;
+    char line[PATH_SIZE] = "";
+    int lines = 0;
+    while (lines < DRIVE_CHECK_LINES && fgets(line, sizeof line, fp))
+        lines++;
+    fclose(fp);
+    return lines == DRIVE_CHECK_LINES && line[0] == '/' ? 0 : 1;
+}
+
+static DriveMessage start_drive_message()
+{
+    if (ktr_system("/bin/grep BOOTFROM=SSD /proc/cmdline") == 0)
+        return {"SCS Communication Error", text_emergency};
+    if (GL_SSD_Data_Error && GL_SSD_Sys_Error)
+        return {"Internal Error: Local Drive is unknown", text_user_data};
+    if (GL_SSD_Data_Error)
+        return {"Internal Error: Local Drive (User Data)", text_user_data};
+    if (GL_SSD_Sys_Error)
+        return {"Internal Error: Local Drive (System Data)", text_system_data};
+    return {};
+}
+
+static void start_check_drives()
+{
+    GL_SSD_Data_Error = start_drive_error("/bin/df -m /mnt/data");
+    GL_SSD_Sys_Error = start_drive_error("/bin/df -m /mnt/sys");
+    const DriveMessage message = start_drive_message();
+    if (message.title)
+        PaneMessage_Create(message.title, PANE_STYLE_OK, message.text);
+}
+
+int main(int argc, char** argv)
+{
+    signal(SIGCHLD, sig_chld);
+    init();
+    GetMenuDetailInfo();
+    TDL_FillRect(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
+    TDL_Symbol(20, 20, "Initializing now...", 8, 0xFFFFFF);
+    start_log_versions();
+    if (argc > 1)
+        CopyText(GL_ServerAddress, argv[1]);
+    Net_Init();
+    SDL_Delay(SERVER_WAIT_MS);
+    LoadGraphics();
+    Net_SendCommand("put Info@Initial Read Status#true");
+    GL_NetReConnect = 0;
+    (void)CreatePage(PAGE_TOP); // the one page change outside the loop
+    start_check_drives();
+    InitialProgress(1);
+    Touch_LoadCalibration();
+    touch_open();
+
+    while (!MainPass()) {
+    }
+    printf("UsedMemPtr = %d\n", UsedMemPtr);
     return 0;
 }

@@ -1,0 +1,179 @@
+#include "favorites.h"
+#include "a_bt.h"
+#include "a_pc.h"
+#include "bus.h"
+#include "command.h"
+#include "global.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include "text.h"
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+#include "safeguards.h"
+
+// A favourite is one page. The server keeps it as "Shortcut Name@n#page,caption"; the title above
+// its key is "Group Name@n", its colour "Color Select@n" (1 to 8 a colour, 9 none).
+namespace
+{
+constexpr int FAVORITES = 10;
+constexpr int COLORS = 8; // behind the last: no colour
+
+struct Favorite {
+    char group[32] = "";
+    char caption[32] = "";
+    uint32_t page = 0; // 0: the key is free
+    int color = COLORS;
+};
+} // namespace
+
+static struct {
+    Favorite item[FAVORITES];
+    bool storing = false; // the next key pressed takes the previous page
+} fav;
+
+// The keys stand in two rows of five: ids 1 to 5 and 33 to 37.
+static int fav_button(int n)
+{
+    return n < 5 ? 1 + n : 33 + n - 5;
+}
+
+static int fav_index(int button_id)
+{
+    for (int n = 0; n < FAVORITES; n++)
+        if (fav_button(n) == button_id)
+            return n;
+    return -1;
+}
+
+static void fav_show(int n)
+{
+    const Favorite& f = fav.item[n];
+    if (GL_NowPage != 0x00220000)
+        return;
+    BT_SetCaption(fav_button(n), f.page ? f.caption : "");
+    BT_SetGroup(fav_button(n), f.group);
+    BT_SetDisable(fav_button(n), !f.page && !fav.storing);
+}
+
+void shortcut_menu_group_name_tally(int group, const char* value)
+{
+    if (group < 1 || group > FAVORITES || !value)
+        return;
+    CopyText(fav.item[group - 1].group, value);
+    fav_show(group - 1);
+}
+
+void shortcut_menu_data_tally(int shortcut, const char* value)
+{
+    if (shortcut < 1 || shortcut > FAVORITES || !value)
+        return;
+    char text[CMD_SIZE];
+    CopyText(text, value);
+    char* part[2];
+    Favorite& f = fav.item[shortcut - 1];
+    const int parts = SplitVars(text, part, 2);
+    f.page = uint32_t(strtoul(part[0], nullptr, 16));
+    CopyText(f.caption, parts == 2 ? part[1] : "");
+    for (char* c = f.caption; *c; c++)
+        if (*c == '|')
+            *c = '\n'; // a line end would end the command
+    fav_show(shortcut - 1);
+}
+
+int get_now_btn_color(int button_id)
+{
+    const int n = fav_index(button_id);
+    return n < 0 || !fav.item[n].page ? COLORS : fav.item[n].color;
+}
+
+static void fav_color_tally(int n, const char* value)
+{
+    const int color = int(strtol(value, nullptr, 10)) - 1;
+    fav.item[n].color = color >= 0 && color < COLORS ? color : COLORS;
+    if (GL_NowPage == 0x00220000)
+        BT_SetStatus(fav_button(n), BT_OFF); // a repaint takes the new colour
+}
+
+static void fav_set_storing(bool on)
+{
+    fav.storing = on;
+    SendDummyTally(on ? "LOCAL@Favorites@Store#true" : "LOCAL@Favorites@Store#false");
+    for (int n = 0; n < FAVORITES; n++)
+        fav_show(n);
+}
+
+// The page that was on the screen before this one, with the last word of its tree as the key's
+// caption.
+static void fav_store(int n)
+{
+    const PAGE* page = SearchPageTable(GL_PrevPage);
+    if (!page)
+        return;
+    const char* word = "";
+    for (const char* w : page->tree)
+        if (w)
+            word = w;
+    Net_SendCommandFormat("put Info@Operation Setup Data@Shortcut Name@%d#%08X,%s|%s", n + 1,
+                          unsigned(GL_PrevPage), page->tree[0], word);
+}
+
+static void fav_press(int n)
+{
+    if (fav.storing) {
+        fav_store(n);
+        fav_set_storing(false);
+    } else if (fav.item[n].page) {
+        GL_CreatePage = fav.item[n].page;
+    }
+}
+
+static int pc_favorites_create(int on, uint32_t)
+{
+    fav.storing = false;
+    const char* verb = on ? "add" : "remove";
+    for (int n = 1; n <= FAVORITES; n++)
+        for (const char* word : {"Group Name", "Shortcut Name", "Color Select"})
+            Net_SendCommandFormat("%s Info@Operation Setup Data@%s@%d", verb, word, n);
+    if (!on)
+        return 1;
+    fav_set_storing(false);
+    return 0;
+}
+
+static int fav_button_pressed(const char* path, const char* value)
+{
+    if (strcmp(path, "LOCAL@Favorites@Store") == 0) {
+        fav_set_storing(!fav.storing);
+    } else if (strcmp(path, "LOCAL@Favorites@Open") == 0) {
+        const int n = int(strtol(value, nullptr, 10)) - 1;
+        if (n >= 0 && n < FAVORITES)
+            fav_press(n);
+    }
+    return 0;
+}
+
+static int fav_tally(const char* path, const char* value)
+{
+    static constexpr char prefix[] = "Info@Operation Setup Data@Color Select@";
+    if (!BeginsWith(path, prefix))
+        return 0;
+    const int n = int(strtol(path + sizeof prefix - 1, nullptr, 10)) - 1;
+    if (n >= 0 && n < FAVORITES)
+        fav_color_tally(n, value);
+    return 0;
+}
+
+static int pc_favorites_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    switch (msg) {
+    case MSG_TALLY: return fav_tally(Text(ax), Text(bx));
+    case LMSG_BTNSEL: return fav_button_pressed(Text(ax), Text(bx));
+    default: return 0;
+    }
+}
+
+extern const PC_TBL pc_favorites;
+const PC_TBL pc_favorites = {.proc_func = pc_favorites_proc, .create_func = pc_favorites_create};

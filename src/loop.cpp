@@ -1,0 +1,382 @@
+#include "loop.h"
+#include "a_dw.h"
+#include "a_kf.h"
+#include "a_kp.h"
+#include "a_ls.h"
+#include "bus.h"
+#include "debug.h"
+#include "fmctrl3.h"
+#include "global.h"
+#include "initread.h"
+#include "log.h"
+#include "menu_macro.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include "pane.h"
+#include "process.h"
+#include "saver.h"
+#include "scrollbar.h"
+#include "selfdiag.h"
+#include "storage.h"
+#include "tdl.h"
+#include "text.h"
+#include "touch.h"
+#include "types.h"
+#include "window.h"
+#include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
+#include "safeguards.h"
+
+uint32_t TickNow = 0;
+uint32_t TickBefore = 0;
+uint32_t MBDownNow = 0;
+uint32_t MBDownBefore = 0;
+int MBDown = 0;
+
+namespace
+{
+constexpr int PASS_MS = 10;
+constexpr int ELAPSED_MAX_MS = 5000; // no timer ever sees a larger step
+constexpr int SELFDIAG_MS = 5000;
+constexpr int MOTIONS_A_PASS = 9;
+constexpr int CAPTURE_NAMES = 9;
+constexpr uint32_t STAGE0_PASSES = 100;
+constexpr uint32_t STAGE1_PASSES = 300;
+constexpr uint32_t STAGE2_PASSES = 2000;
+constexpr uint32_t PROGRESS_PASSES = 3000;
+constexpr int MENU_MACRO_REGISTERS = 99;
+
+// One step of the initial read: armed while the pass counter has not gone by, run once when it has.
+struct Stage {
+    uint32_t after_passes = 0;
+    void (*command)() = nullptr;
+};
+constexpr Stage stages[] = {
+    {STAGE0_PASSES, InitialCommand0},
+    {STAGE1_PASSES, InitialCommand1},
+    {STAGE2_PASSES, InitialCommand2},
+};
+} // namespace
+
+static struct {
+    int selfdiag_ms = 0;                             // gathered since the last poll
+    uint32_t event_check_before = 0;                 // TickBefore of MainEventCheck
+    bool armed[sizeof stages / sizeof *stages] = {}; // by stage
+} loop;
+
+void Loop_Reset()
+{
+    loop = {};
+    TickNow = TickBefore = MBDownNow = MBDownBefore = 0;
+    MBDown = 0;
+    Touch_Reset();
+}
+
+// Wait for the rest of a pass of 10 ms. Returns the elapsed ms, 10 to 5000; a clock that was set
+// back counts as 10.
+static int loop_pace(uint32_t now, uint32_t before)
+{
+    const uint32_t delta = now - before;
+    if (now < before) {
+        SDL_Delay(PASS_MS);
+        return PASS_MS;
+    }
+    if (delta < PASS_MS) {
+        SDL_Delay(PASS_MS - delta);
+        return PASS_MS;
+    }
+    return delta > ELAPSED_MAX_MS ? ELAPSED_MAX_MS : int(delta);
+}
+
+void RefreshScreen()
+{
+    SendMessage(MSG_REDRAW, 0, 0, 0, 0);
+    TDL_UpdateScreen();
+}
+
+// --- Events ---
+
+void Screen_Capture()
+{
+    Usb_Auto_Scan();
+    struct stat st;
+    if (stat(GL_ImportDataPath, &st) != 0)
+        return;
+    for (int n = 1; n <= CAPTURE_NAMES; n++) {
+        char name[64]; // a longer path is cut and then names no file that can be written
+        PrintText(name, "%s/menuss_%04X_%02X_%d.bmp", GL_ImportDataPath, unsigned(GL_NowPage >> 16),
+                  unsigned(GL_NowPage & 0xFF), n);
+        if (FileExist(name))
+            continue;
+        SDL_SaveBMP_RW(Screen, SDL_RWFromFile(name, "wb"), 1);
+        sync();
+        sync();
+        return;
+    }
+}
+
+static void loop_set_video(uint32_t flags)
+{
+    TDL_PushScreen(0, 0, SCREEN_W, SCREEN_H);
+    Screen = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 0, flags);
+    TDL_PopScreen();
+}
+
+static void loop_key(const SDL_KeyboardEvent& key)
+{
+    SendMessage(MSG_KEY, key.keysym.sym, key.keysym.mod, 0, 0);
+    if (GL_DebugMode) {
+        switch (key.keysym.sym) {
+        case SDLK_F1: exit(0);
+        case SDLK_F3: loop_set_video(SDL_FULLSCREEN); break;
+        case SDLK_F4: loop_set_video(0); break;
+        case SDLK_F5: KF_Init(); break;
+        default: break;
+        }
+    }
+    if (key.keysym.sym == SDLK_F10)
+        Screen_Capture();
+}
+
+static void loop_drag(const SDL_MouseMotionEvent& motion)
+{
+    SendMessage(MSG_DRAG, motion.x, motion.y, motion.state & 1, motion.state & 4);
+}
+
+// A drag must not lag behind its queue: the motions that wait are delivered in the same pass.
+static void loop_motion(const SDL_MouseMotionEvent& motion)
+{
+    loop_drag(motion);
+    SDL_Event more;
+    for (int n = 1; n < MOTIONS_A_PASS; n++) {
+        if (SDL_PeepEvents(&more, 1, SDL_GETEVENT, SDL_MOUSEMOTIONMASK) != 1)
+            break;
+        loop_drag(more.motion);
+    }
+    if (EndScreenSaver()) {
+        // The finger that woke the screen counts as already down.
+        MBDown = 1;
+        MBDownBefore = SDL_GetTicks();
+    }
+}
+
+// A contact bounces: a press soon after the last one is none. The clock is compared as a signed
+// difference, and one that was set back passes.
+static bool loop_is_genuine_press()
+{
+    MBDownNow = SDL_GetTicks();
+    return int32_t(MBDownNow - MBDownBefore) > GL_ChatteringTime || MBDownNow < MBDownBefore;
+}
+
+static void loop_press(int x, int y, int button)
+{
+    if (loop_is_genuine_press() && EndScreenSaver() == 0) {
+        if (GL_ScreenCapture && button == SDL_BUTTON_RIGHT)
+            Screen_Capture();
+        SendMessage(MSG_PRESS, x, y, button, 0);
+        MBDown = 1;
+    }
+    // A filtered press counts too: a bouncing contact stays filtered until it has been quiet for
+    // the whole time.
+    MBDownBefore = MBDownNow;
+    MenuDspPos_X = x;
+    MenuDspPos_Y = y;
+    MenuMacro_TouchCount++;
+}
+
+// Turn a wheel step over an object with arrows into a press on the arrow. Only the first kind that
+// the page has and that answers counts.
+static bool loop_wheel_to_press(int* x, int* y, int button)
+{
+    return (IsObjetype(OBJ_LS) && LS_ConvPosForWheel(x, y, button)) ||
+           (IsObjetype(OBJ_DW) && DW_ConvPosForWheel(x, y, button)) ||
+           (IsObjetype(OBJ_KP) && KP_ConvPosForWheel(x, y, button));
+}
+
+static void loop_wheel(int x, int y, int button)
+{
+    if (GL_MouseWheelDirection == 1)
+        button = button == SDL_BUTTON_WHEELUP ? SDL_BUTTON_WHEELDOWN : SDL_BUTTON_WHEELUP;
+    SendMessage(button == SDL_BUTTON_WHEELUP ? MSG_WHEELUP : MSG_WHEELDOWN, x, y, 0, 0);
+    if (!loop_wheel_to_press(&x, &y, button))
+        return;
+    if (EndScreenSaver() != 0)
+        return;
+    SB_IgnoreRedraw(1);
+    SendMessage(MSG_PRESS, x, y, 0, 0);
+}
+
+static void loop_button_down(const SDL_MouseButtonEvent& b)
+{
+    if (MBDown)
+        return;
+    if (b.button == SDL_BUTTON_WHEELUP || b.button == SDL_BUTTON_WHEELDOWN)
+        loop_wheel(b.x, b.y, b.button);
+    else
+        loop_press(b.x, b.y, b.button);
+}
+
+void Loop_Event(SDL_Event* event)
+{
+    switch (event->type) {
+    case SDL_KEYDOWN: loop_key(event->key); break;
+    case SDL_MOUSEMOTION: loop_motion(event->motion); break;
+    case SDL_MOUSEBUTTONDOWN: loop_button_down(event->button); break;
+    // A release always goes out, even when its press was filtered; MBDown falls with an empty queue
+    // only.
+    case SDL_MOUSEBUTTONUP: SendMessage(MSG_RELEASE, event->button.x, event->button.y, 0, 0); break;
+    default: break;
+    }
+}
+
+// One event a pass. Returns true when the window was closed.
+static bool loop_one_event()
+{
+    SDL_Event event;
+    if (!SDL_PollEvent(&event)) {
+        MBDown = 0;
+        return false;
+    }
+    if (event.type == SDL_QUIT)
+        return true;
+    Loop_Event(&event);
+    return false;
+}
+
+// --- The parts of a pass ---
+
+static void loop_selfdiag(int elapsed_ms)
+{
+    loop.selfdiag_ms += elapsed_ms;
+    if (loop.selfdiag_ms < SELFDIAG_MS)
+        return;
+    SelfDiag_I2C_Update(loop.selfdiag_ms);
+    loop.selfdiag_ms = 0;
+}
+
+// The page change waits while something stands over the page.
+static void loop_page_change()
+{
+    if (!GL_CreatePage || GL_ScreenSaver_Now || GetWindow() || Pane_GetActiveID())
+        return;
+    const uint32_t id = GL_CreatePage;
+    (void)CreatePage(
+        id); // a page that cannot be resolved leaves the old one: the request is over all the same
+    // What opening the page requested in its turn stands for the next pass.
+    if (GL_CreatePage == id)
+        GL_CreatePage = 0;
+}
+
+static void loop_counter()
+{
+    GL_MainCounter++;
+    if (!GL_LoopCounter)
+        return;
+    char text[16];
+    PrintText(text, "%u", unsigned(GL_MainCounter));
+    TDL_FillRectS(730, 2, 799, 11, 0);
+    TDL_Symbol(730, 2, text, 0, 0xFFFFFF);
+}
+
+// The schedule of the initial read runs on passes, not on time: a loop slowed by heavy repaints
+// stretches it. A restart sets the counter back, which arms all stages again.
+static void loop_initial_read()
+{
+    if (!GL_InitRead)
+        return;
+    for (size_t i = 0; i < sizeof stages / sizeof *stages; i++) {
+        if (GL_MainCounter <= stages[i].after_passes) {
+            loop.armed[i] = true;
+        } else if (loop.armed[i]) {
+            stages[i].command();
+            loop.armed[i] = false;
+        }
+    }
+}
+
+static void loop_progress()
+{
+    if (!GL_InitProgress)
+        return;
+    if (GL_MainCounter <= PROGRESS_PASSES) {
+        PaneProgress_SetProg(GL_InitProgress_PaneID, int(GL_MainCounter / 30), "");
+        return;
+    }
+    GL_InitProgress = 0;
+    Pane_Quit(GL_InitProgress_PaneID);
+    GL_CreatePage = GL_InitialPage;
+    for (int n = 0; n < MENU_MACRO_REGISTERS; n++)
+        mm_macro_file_load(n);
+}
+
+static void loop_hub_reconnect()
+{
+    if (!GL_NetReConnect_SHP)
+        return;
+    // The old subscriptions are withdrawn first, so that the hub never holds two.
+    DeathCommandSHP();
+    FMCtrl3_Clear(0);
+    InitialCommandSHP();
+    GL_NetReConnect_SHP = 0;
+}
+
+int MainPass()
+{
+    TickNow = SDL_GetTicks();
+    const int elapsed_ms = loop_pace(TickNow, TickBefore);
+    TickBefore = SDL_GetTicks();
+    loop_selfdiag(elapsed_ms);
+
+    ReceiveCommand_Management();
+    (void)Net_SendCommandQueue(); // a failed send keeps its item: the next pass tries again
+    (void)Net_SendBinCommandQueue();
+    (void)Net_SendSHPCommandQueue(elapsed_ms);
+    Touch_Poll(elapsed_ms);
+    const bool is_last = loop_one_event();
+    loop_page_change();
+    SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
+    if (GL_ErrorPopup_On)
+        EndScreenSaver();
+    else
+        ScreenSaver(elapsed_ms);
+    GL_NetReConnect = 0; // the server announces itself by tally: nothing to do here
+    loop_counter();
+    loop_initial_read();
+    loop_progress();
+    loop_hub_reconnect();
+    if (GL_AllPageDisplayMode)
+        GL_AllPageSet();
+    return is_last;
+}
+
+void MainEventCheck()
+{
+    const uint32_t now = SDL_GetTicks();
+    const int elapsed_ms = loop_pace(now, loop.event_check_before);
+    loop.event_check_before = SDL_GetTicks();
+
+    SDL_Event e;
+    if (SDL_PollEvent(&e)) {
+        switch (e.type) {
+        case SDL_MOUSEMOTION:
+            SendMessage(MSG_DRAG, e.motion.x, e.motion.y, e.motion.state & 1, 0);
+            break;
+        case SDL_MOUSEBUTTONDOWN:
+            SendMessage(MSG_PRESS, e.button.x, e.button.y, e.button.button, 0);
+            break;
+        case SDL_MOUSEBUTTONUP: SendMessage(MSG_RELEASE, e.button.x, e.button.y, 0, 0); break;
+        case SDL_KEYDOWN: SendMessage(MSG_KEY, e.key.keysym.sym, e.key.keysym.mod, 0, 0); break;
+        default: break;
+        }
+    }
+    SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
+}
+
+void SetTouchBeep()
+{
+    (void)ktr_shell("/bin/echo -ne \"\\r\" > /dev/ttyS2"); // without a buzzer the line goes nowhere
+    (void)ktr_shell(GL_TouchBuzz ? "/bin/echo -ne \"GO7\\r\" > /dev/ttyS2"
+                                 : "/bin/echo -ne \"GO6\\r\" > /dev/ttyS2");
+}

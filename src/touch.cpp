@@ -1,0 +1,247 @@
+#include "touch.h"
+#include "global.h"
+#include "i2c.h"
+#include "log.h"
+#include "process.h"
+#include "text.h"
+#include "types.h"
+#include <SDL.h>
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/input.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include "safeguards.h"
+
+int Touch_FD = -1;
+int Touch_Resolution = 1023;
+
+namespace
+{
+constexpr int RETRY_MS = 5000;
+constexpr size_t RECORD_SIZE = 16; // seconds, microseconds, type, code, value on the controller
+
+// Panels that are known, by the name of their device link.
+struct Panel {
+    const char* find = nullptr;
+    int resolution = 0;
+};
+constexpr Panel panels[] = {
+    {"find /dev/input/ -name \"usb-TSC-30_DMC*\" | grep event > /var/tmp/tslist", 1023},
+    {"find /dev/input/ -name \"usb-Elo_TouchSystems*event*\" | grep event > /var/tmp/tslist", 4095},
+};
+constexpr char list_file[] = "/var/tmp/tslist";
+} // namespace
+
+static struct {
+    int tx = 0; // last converted position, on the screen
+    int ty = 0;
+    int tp = 0;       // last contact: value of the key event
+    int up_p = 0;     // contact changed since the last synchronisation
+    int up_xy = 0;    // position changed
+    int retry_ms = 0; // gathered while closed
+    size_t record_size = RECORD_SIZE;
+} touch;
+
+void Touch_Reset()
+{
+    const size_t record_size = touch.record_size;
+    touch = {};
+    touch.record_size = record_size;
+}
+
+// The kernel's own record is larger where its clock has 64 bits; anything that is no character
+// device (a pipe that stands for the panel on a desk) speaks the controller's 16 bytes.
+static size_t touch_record_size(int fd)
+{
+    struct stat st;
+    if (fstat(fd, &st) == 0 && S_ISCHR(st.st_mode))
+        return sizeof(input_event);
+    return RECORD_SIZE;
+}
+
+static bool touch_device_name(char* name, int size)
+{
+    FILE* fp = fopen(list_file, "r");
+    if (!fp)
+        return false;
+    const bool found = fgets(name, size, fp) != nullptr;
+    fclose(fp);
+    unlink(list_file);
+    if (!found)
+        return false;
+    for (char* c = name; *c; c++)
+        if (uint8_t(*c) < ' ')
+            *c = '\0';
+    return *name != '\0';
+}
+
+int touch_open()
+{
+    if (Touch_FD >= 0)
+        return -1;
+    const Panel* panel = nullptr;
+    for (const Panel& p : panels) {
+        if (ktr_shell(p.find) == 0) {
+            panel = &p;
+            break;
+        }
+    }
+    char name[PATH_SIZE];
+    if (!panel || !touch_device_name(name, sizeof name))
+        return 0;
+    Touch_Resolution = panel->resolution;
+    Touch_FD = open(name, O_RDONLY | O_NONBLOCK);
+    if (Touch_FD < 0) {
+        Touch_FD = -1;
+        return 0;
+    }
+    ioctl(Touch_FD, EVIOCGRAB, 1); // a pipe cannot be grabbed and need not be
+    touch.record_size = touch_record_size(Touch_FD);
+    Log_Output(LOG_LINK, MOD_START, "Touch Panel: dev=%s, fd=%d", name, Touch_FD);
+    return 0;
+}
+
+// --- Conversion: integer division, truncating, in this order; the intermediate results matter ---
+
+static int touch_screen_x(int value)
+{
+    const int ax = SYS_TouchScreen_AX, bx = SYS_TouchScreen_BX;
+    const int r = value * 800 / Touch_Resolution;
+    return std::clamp(ax * 700 / (ax - bx) + 50 + r * 700 / (bx - ax), 0, SCREEN_W - 1);
+}
+
+static int touch_screen_y(int value)
+{
+    const int ay = SYS_TouchScreen_AY, by = SYS_TouchScreen_BY;
+    const int r = value * 600 / Touch_Resolution;
+    return std::clamp(ay * 500 / (ay - by) + 50 + r * 500 / (by - ay), 0, SCREEN_H - 1);
+}
+
+static void touch_push_button()
+{
+    SDL_Event e;
+    memset(&e, 0, sizeof e);
+    e.type = touch.tp ? SDL_MOUSEBUTTONDOWN : SDL_MOUSEBUTTONUP;
+    e.button.button = SDL_BUTTON_LEFT;
+    e.button.state = touch.tp ? SDL_PRESSED : SDL_RELEASED;
+    e.button.x = uint16_t(touch.tx);
+    e.button.y = uint16_t(touch.ty);
+    SDL_PushEvent(&e);
+}
+
+static void touch_push_motion()
+{
+    SDL_Event e;
+    memset(&e, 0, sizeof e);
+    e.type = SDL_MOUSEMOTION;
+    e.motion.state = touch.tp ? 1 : 0;
+    e.motion.x = uint16_t(touch.tx);
+    e.motion.y = uint16_t(touch.ty);
+    SDL_PushEvent(&e);
+    SDL_WarpMouse(uint16_t(touch.tx), uint16_t(touch.ty));
+}
+
+static void touch_sync()
+{
+    if (touch.up_p) {
+        touch_push_button();
+        touch.up_p = 0;
+    }
+    if (touch.up_xy) {
+        touch_push_motion();
+        touch.up_xy = 0;
+    }
+}
+
+void Touch_Record(int type, int code, int value)
+{
+    // A raw value is at most the resolution; rubbish must not overflow the arithmetic.
+    const int raw = std::clamp(value, -Touch_Resolution, 2 * Touch_Resolution);
+    if (type == EV_KEY && (code == BTN_TOUCH || code == BTN_LEFT)) {
+        touch.up_p = 1;
+        touch.tp = value;
+    } else if (type == EV_ABS && code == ABS_X) {
+        touch.tx = touch_screen_x(raw);
+        touch.up_xy = 1;
+    } else if (type == EV_ABS && code == ABS_Y) {
+        touch.ty = touch_screen_y(raw);
+        touch.up_xy = 1;
+    } else if (type == EV_SYN) {
+        touch_sync();
+    }
+}
+
+static int touch_u16(const uint8_t* p)
+{
+    uint16_t v; // the kernel writes in processor order
+    memcpy(&v, p, sizeof v);
+    return v;
+}
+
+static int touch_s32(const uint8_t* p)
+{
+    int32_t v;
+    memcpy(&v, p, sizeof v);
+    return v;
+}
+
+static void touch_read_all()
+{
+    uint8_t record[sizeof(input_event) + RECORD_SIZE];
+    for (;;) {
+        const ssize_t n = read(Touch_FD, record, touch.record_size);
+        if (n < 0 && errno != EAGAIN) {
+            close(Touch_FD);
+            Touch_FD = -1;
+            Log_Output(LOG_LINK, MOD_START, "Touch Panel Closed.");
+        }
+        if (n <= 0)
+            return;
+        if (size_t(n) != touch.record_size)
+            continue;
+        const uint8_t* body =
+            record + touch.record_size - 8; // behind the time stamp, whatever its size
+        Touch_Record(touch_u16(body), touch_u16(body + 2), touch_s32(body + 4));
+    }
+}
+
+void Touch_Poll(int elapsed_ms)
+{
+    if (Touch_FD >= 0) {
+        touch_read_all();
+        return;
+    }
+    touch.retry_ms += elapsed_ms;
+    if (touch.retry_ms < RETRY_MS)
+        return;
+    touch_open();
+    touch.retry_ms = 0;
+}
+
+void Touch_LoadCalibration()
+{
+    SYS_TouchScreen_AX = SYS_TouchScreen_AY = 50;
+    SYS_TouchScreen_BX = 750;
+    SYS_TouchScreen_BY = 550;
+    uint8_t e[8];
+    if (I2cEepromService_ReadElem(EEPROM_TOUCH_CALIBRATION, sizeof e, e) == sizeof e) {
+        const int ax = e[0] << 8 | e[1], ay = e[2] << 8 | e[3];
+        const int bx = e[4] << 8 | e[5], by = e[6] << 8 | e[7];
+        if (ax <= 150)
+            SYS_TouchScreen_AX = ax;
+        if (ay <= 150)
+            SYS_TouchScreen_AY = ay;
+        if (bx >= 650 && bx <= 799)
+            SYS_TouchScreen_BX = bx;
+        if (by >= 450 && by <= 599)
+            SYS_TouchScreen_BY = by;
+    }
+    Log_Output(LOG_LIFE, MOD_CALIBRATION, "Touch Panel Calibration: AX=%d AY=%d BX=%d BY=%d",
+               SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX, SYS_TouchScreen_BY);
+}

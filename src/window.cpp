@@ -1,0 +1,29 @@
+#include "window.h"
+#include "safeguards.h"
+
+// No window can be opened yet.
+
+int GetWindow()
+{
+    return 0;
+}
+
+int CreateWindow(int, const char*, MsgArg, MsgArg, MsgArg)
+{
+    return -1;
+}
+
+int CloseWindow()
+{
+    return 0;
+}
+
+int WindowProc(int, MsgArg, MsgArg, MsgArg, MsgArg)
+{
+    return 0;
+}
+
+const PULLDOWN* PullDown_Find(const char*)
+{
+    return nullptr;
+}
