@@ -1,6 +1,6 @@
-// netio: the three TCP links. Text commands out and tallies in (port 10001), binary frames (port 10000), the
-// status hub. Everything queues; a link that is down loses nothing and comes back by itself. The words on the links
-// belong to command and to those who send them.
+// netio: the three TCP links. Text commands out and tallies in (port 10001), binary frames (port
+// 10000), the status hub. Everything queues; a link that is down loses nothing and comes back by
+// itself. The words on the links belong to command and to those who send them.
 #pragma once
 #include "types.h"
 
@@ -20,13 +20,16 @@ struct ClientSendQueue_t {
 void Net_Init();
 
 // --- For everybody: queue, never fail for a link that is down ---
-int Net_SendCommand(const char* cmd); // one text command without its line end; cut at 1022 characters. Returns 0
+// One text command without its line end. Cut at 1023 characters; one of that length goes out
+// without a line end. Returns 0.
+int Net_SendCommand(const char* cmd);
 int Net_SendCommandFormat(const char* format, ...) __attribute__((format(printf, 1, 2)));
-// One frame: command byte, 32-bit id, ndata bytes of data. Returns -1 for more than 1024 bytes, else 0.
+// One frame: command byte, 32-bit id, ndata bytes of data. Returns -1 for more than 1024 bytes,
+// else 0.
 int Net_SendBinCommand(int command, uint32_t id, const unsigned char* data, int ndata);
 int Net_SendSHPCommand(const char* cmd);
 int Net_SendSHPCommandFormat(const char* format, ...) __attribute__((format(printf, 1, 2)));
-int Get_SHPTargetId(const char* table); // unit number of a hub table, -1
+int Get_SHPTargetId(const char* table);  // unit number of a hub table, -1
 int is_refCS_command(const char* table); // 1 for the clip store of this panel's first switcher
 
 // --- For the main loop, once a pass ---
@@ -35,16 +38,20 @@ int Net_SendBinCommandQueue();
 int Net_SendSHPCommandQueue(int elapsed_ms);
 
 // --- For ReceiveCommand_Management ---
-// The next complete line without its end, or null. It lives until the next call and may be changed.
+// The next complete line without its end, or null. It has at least one character, lives until the
+// next call and may be changed.
 char* Net_ReceiveCommand();
-// The next complete frame as it came, both length bytes included, or null; *length gets its size in bytes. It lives
-// until the next call.
+// The next complete frame as it came, both length bytes and the trailer included, or null; *length
+// gets its size in bytes, which may be less than the head has: only impossible lengths are refused.
+// It lives until the next call.
 const unsigned char* Net_ReceiveBinCommand(int* length);
 char* Net_ReceiveSHPCommand();
 
 // --- For tests and the benchmark ---
 int Net_QueueLength(); // text commands not yet sent
-// Take the head of the text queue without sending it: its text without the line end into text. 1, or 0 when empty.
+// Take the head of the text queue without sending it: its text without the line end into text. 1,
+// or 0 when empty.
 int Net_TakeQueued(char* text, int size);
-// Feed received bytes as if they had come over the text link, as far as the buffer has room. Returns bytes taken.
+// Feed received bytes as if they had come over the text link, as far as the buffer has room.
+// Returns bytes taken.
 int Net_FeedText(const char* bytes, int length);

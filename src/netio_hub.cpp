@@ -1,0 +1,217 @@
+// The status hub link: a text link of its own, present only in clip store mode, fed slowly, and
+// reconnected rarely.
+#include "command.h"
+#include "device.h"
+#include "global.h"
+#include "log.h"
+#include "netio_private.h"
+#include "text.h"
+#include <cerrno>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+
+#include "safeguards.h"
+
+static constexpr int HUB_PACE_MS = 100;
+// Attempts that are left out after one that failed: about a minute of passes. Connecting blocks,
+// and a hub that is not there must not stall the screen.
+static constexpr int HUB_BACK_OFF = 6000;
+
+static int SockFD_SHP = 0;
+static NetQueue SHPSendCommandQueue;
+static char RBuf_SHP[1024]; // always terminated
+static char RCmd_SHP[4096];
+static char SCmd_SHP[CMD_SIZE];
+static char FCmd2[CMD_SIZE];
+static int hub_back_off = 0;
+static int hub_pace_ms = 0; // until the next line may go
+
+static_assert(sizeof RCmd_SHP >= NET_LINE_MAX);
+
+// Any control byte that is not beyond 15, and the one at the end of the table.
+bool net_is_hub_end(unsigned char c)
+{
+    return (c >= 1 && c <= 15) || c == 127;
+}
+
+static bool hub_connect()
+{
+    if (!GL_ClipStoreSupportMode)
+        return false;
+    if (hub_back_off > 0) {
+        hub_back_off--;
+        return false;
+    }
+    Log_Output(LOG_TRACE, MOD_LINK, "create_inet_connection_shp(%s:%d)", SYS_StatusHubAddress,
+               SYS_StatusHubPort);
+    SockFD_SHP = net_open(SYS_StatusHubAddress, SYS_StatusHubPort);
+    if (SockFD_SHP == 0) {
+        hub_back_off = HUB_BACK_OFF;
+        return false;
+    }
+    GL_NetReConnect_SHP = 1;
+    net_queue_restart(&SHPSendCommandQueue);
+    net_drop_open_line(RBuf_SHP, net_is_hub_end);
+    return true;
+}
+
+void net_hub_init()
+{
+    net_close(&SockFD_SHP);
+    RBuf_SHP[0] = '\0';
+    hub_back_off = 0;
+    hub_pace_ms = 0;
+    (void)hub_connect();
+}
+
+static void send_shpcommand(const char* cmd)
+{
+    CopyText(SCmd_SHP, cmd);
+    net_end_line(SCmd_SHP);
+    if (!net_queue_append(&SHPSendCommandQueue, SCmd_SHP, int(strlen(SCmd_SHP))))
+        Log_Output(LOG_TRACE, MOD_LINK, "Net_SendSHCommand:alloc error !\n");
+}
+
+static bool hub_is_subscription(const char* verb)
+{
+    return strcmp(verb, "Listen") == 0 || strcmp(verb, "Unlisten") == 0 ||
+           strcmp(verb, "InitRead") == 0;
+}
+
+// Unit of the i-th switcher of this panel, -1 when there is none.
+static int hub_my_switcher(int i)
+{
+    if (i >= DEVICE_MAX || !DEV_MySwr[i])
+        return -1;
+    return Device_UnitNumber(*DEV_MySwr[i]);
+}
+
+// A request to "CS*." means the clip store of this panel's own switcher; with two switchers side by
+// side, each of theirs. A subscription names its unit itself.
+int Net_SendSHPCommand(const char* cmd)
+{
+    if (!cmd)
+        return 0;
+    char verb[CMD_SIZE];
+    CopyText(verb, cmd);
+    char* rest = FindVarPointer(verb);
+    if (rest > verb && *(rest - 1) == '#')
+        rest[-1] = '\0';
+    if (hub_is_subscription(verb) || !BeginsWith(rest, "CS*.")) {
+        send_shpcommand(cmd);
+        return 0;
+    }
+
+    const int copies = SYS_DualSimul ? SYS_MySwrMax : 1;
+    for (int i = 0; i < copies; i++) {
+        const int unit = hub_my_switcher(i);
+        if (unit < 0) {
+            Log_Output(LOG_LINK, MOD_LINK, "no switcher for \"%s\"", cmd);
+            break;
+        }
+        char line[CMD_SIZE];
+        PrintText(line, "%s#CS%d.%s", verb, unit, rest + 4);
+        send_shpcommand(line);
+    }
+    return 0;
+}
+
+int Net_SendSHPCommandFormat(const char* format, ...)
+{
+    va_list ap;
+    va_start(ap, format);
+    vsnprintf(FCmd2, sizeof FCmd2, format, ap);
+    va_end(ap);
+    return Net_SendSHPCommand(FCmd2);
+}
+
+static int hub_send_first()
+{
+    const ClientSendQueue_t& item = *SHPSendCommandQueue.first;
+    const int sent = net_send(SockFD_SHP, item);
+    const int error = errno;
+    net_log_sent(item);
+    if (sent < 1) {
+        Log_Output(LOG_LINK, MOD_LINK, "send_shp_command: ERROR on send() returns [%d] err=%d.",
+                   sent, error);
+        return -1;
+    }
+    (void)net_queue_sent(&SHPSendCommandQueue, sent,
+                         "send_shp_command"); // a rest waits for its turn
+    return 0;
+}
+
+int Net_SendSHPCommandQueue(int elapsed_ms)
+{
+    if (!SHPSendCommandQueue.first) {
+        hub_pace_ms = 0; // the next line goes at once
+        return 0;
+    }
+    hub_pace_ms -= elapsed_ms;
+    if (hub_pace_ms > 0)
+        return 0;
+    hub_pace_ms = HUB_PACE_MS;
+    if (SockFD_SHP == 0) {
+        (void)hub_connect();
+        return 0;
+    }
+    return hub_send_first();
+}
+
+static void hub_fill()
+{
+    if (strlen(RBuf_SHP) == sizeof RBuf_SHP - 1) {
+        Log_Output(LOG_LINK, MOD_LINK, "Net_ReceiveSHCommand() Buffer Full!!");
+        return;
+    }
+    if (SockFD_SHP == 0 && !hub_connect())
+        return;
+    const size_t used = strlen(RBuf_SHP);
+    const int n = net_read(&SockFD_SHP, RBuf_SHP + used, int(sizeof RBuf_SHP - 1 - used));
+    RBuf_SHP[used + size_t(n)] = '\0';
+}
+
+// An empty line (an end at the front of the buffer) is dropped and ends this pass's reading.
+char* Net_ReceiveSHPCommand()
+{
+    hub_fill();
+    const int length = net_take_line(RBuf_SHP, RCmd_SHP, net_is_hub_end);
+    const bool is_full = strlen(RBuf_SHP) == sizeof RBuf_SHP - 1;
+    // A full buffer without an end would never be read again.
+    if (length == NET_LINE_TOO_LONG || (length == NET_LINE_OPEN && is_full)) {
+        Log_Output(LOG_ALWAYS, MOD_LINK, "Command is too long!!  Received data is lost.");
+        RBuf_SHP[0] = '\0';
+        return nullptr;
+    }
+    if (length < 1)
+        return nullptr;
+    if (GL_ClipStoreDebugMode)
+        Log_Output(LOG_TRACE, MOD_LINK, "<<==[%s]", RCmd_SHP);
+    return RCmd_SHP;
+}
+
+int Get_SHPTargetId(const char* table)
+{
+    if (!table)
+        return -1;
+    char text[CMD_SIZE];
+    CopyText(text, table);
+    const char* unit = strchr(text, '#');
+    unit = unit ? unit + 1 : text;
+    for (const char* letters : {"CS", "SWR", "PNL"}) {
+        if (BeginsWith(unit, letters))
+            return int(strtol(unit + strlen(letters), nullptr, 10));
+    }
+    return -1;
+}
+
+int is_refCS_command(const char* table)
+{
+    if (!table || strlen(table) < 3 || SYS_MySwrMax < 1 || !BeginsWith(table, "CS"))
+        return 0;
+    const int unit = hub_my_switcher(0);
+    return unit >= 0 && Get_SHPTargetId(table) == unit;
+}

@@ -1,0 +1,60 @@
+// netio_private: what the three links share inside netio: connecting, polling, the send queue,
+// cutting lines. Nobody else includes it but tests and fuzz targets of those parts.
+#pragma once
+#include "netio.h"
+
+constexpr int NET_ITEM_MAX = 1040; // bytes of the largest item of any link
+constexpr int NET_LINE_MAX = 1024; // characters of a received line with its terminator
+
+// --- Sockets: a descriptor of 0 is a link that is down ---
+// Connect, blocking for as long as the kernel likes. Returns the socket, or 0 with a log line
+// (without one when the host name does not resolve).
+int net_open(const char* address, int port);
+int net_connect_inet(int port); // to the control server
+void net_close(int* fd);
+// Read what has arrived, without waiting. Returns the bytes read. 0 when there is nothing, or when
+// the link was lost: then the socket is closed and *fd 0.
+int net_read(int* fd, void* buf, int room);
+// Write as much of an item as the kernel takes at once. Returns the bytes taken, below 1 on
+// failure.
+int net_send(int fd, const ClientSendQueue_t& item);
+
+// --- Send queue ---
+struct NetQueue {
+    ClientSendQueue_t* first = nullptr;
+    ClientSendQueue_t* last = nullptr;
+    int count = 0;
+    // What this connection has taken of a first item that did not go in one write. When the link
+    // comes back the peer has no use for the second half alone, so the item is made whole again.
+    int taken_length = 0;
+    unsigned char taken[NET_ITEM_MAX] = {};
+};
+
+bool net_queue_append(NetQueue* queue, const void* bytes, int length); // false when memory is out
+void net_queue_remove(NetQueue* queue);                                // the first item
+void net_queue_restart(NetQueue* queue);                               // the link has come up
+// Note that sent bytes (at least 1) of the first item have gone. Returns 1 when that was all of it,
+// 0 when a rest stays.
+int net_queue_sent(NetQueue* queue, int sent, const char* who);
+// Append "\n" as far as line (CMD_SIZE bytes) has room. A line of 1023 characters goes out without
+// an end. That is meant: the limit is the link's own.
+void net_end_line(char* line);
+void net_log_sent(const ClientSendQueue_t& item); // a text item
+
+// --- Received lines ---
+using NetLineEnd = bool (*)(unsigned char c);
+enum : int { NET_LINE_OPEN = -1, NET_LINE_TOO_LONG = -2 };
+// Move the first line of buf to line (NET_LINE_MAX bytes) and drop it with all ends that follow.
+// Returns its length; in the two other cases buf stays as it is.
+int net_take_line(char* buf, char* line, NetLineEnd is_end);
+void net_drop_open_line(char* buf, NetLineEnd is_end); // what follows the last line end
+
+// --- The other two links ---
+void net_bin_init();
+void net_hub_init();
+bool net_is_hub_end(unsigned char c);
+constexpr int NET_FRAME_MAX = 1039 + 2; // bytes of a received frame with its trailer
+// Move the first frame of buf, which holds *fill bytes, to frame (NET_FRAME_MAX bytes). Returns its
+// size; 0 when it is not yet whole; -1 when its length is impossible, with *fill 0: there is no way
+// to find the next one.
+int net_take_frame(unsigned char* buf, int* fill, unsigned char* frame);
