@@ -7,9 +7,10 @@
 char* ktr_strncpy(char* dst, const char* src, size_t len);
 // Append what fits; len is the size of the whole of dst. Always terminates. Returns dst.
 char* ktr_strncat(char* dst, const char* src, size_t len);
-// The same two for callers that pass the number of characters to take besides the size of dst.
+// At most n characters, as far as dst has room.
 char* strncpy_secu(char* dst, const char* src, size_t dst_size, size_t n);
-char* strncpy_close(char* dst, const char* src, size_t n); // copies n characters and terminates behind them
+// At most n characters, terminated behind them: dst has room for n + 1.
+char* strncpy_close(char* dst, const char* src, size_t n);
 
 // Copy into an array: the size is the array's own, and a bare pointer does not compile.
 template <size_t N> void CopyText(char (&dst)[N], const char* src)
