@@ -1,0 +1,285 @@
+#include "process.h"
+#include "log.h"
+#include "memory.h"
+#include "text.h"
+#include "types.h"
+#include <SDL.h>
+#include <cctype>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "safeguards.h"
+
+volatile int cpid = 0;
+
+namespace
+{
+constexpr int WORDS_MAX = 64;
+constexpr size_t COMMAND_MAX = 4096;
+constexpr long OPEN_MAX_GUESS = 256; // where the system sets no limit
+
+// What ktr_system takes away from the process while its child runs.
+struct Signals {
+    struct sigaction interrupt;
+    struct sigaction quit;
+    sigset_t mask;
+};
+} // namespace
+
+static pid_t* popen_child =
+    nullptr; // by file descriptor, 0: not a stream of ours; null before the first
+static long popen_size = 0;
+
+static void process_hold_signals(Signals& saved)
+{
+    struct sigaction ignore {
+    };
+    ignore.sa_handler = SIG_IGN;
+    sigemptyset(&ignore.sa_mask);
+    sigaction(SIGINT, &ignore, &saved.interrupt);
+    sigaction(SIGQUIT, &ignore, &saved.quit);
+    sigset_t child;
+    sigemptyset(&child);
+    sigaddset(&child, SIGCHLD);
+    sigprocmask(SIG_BLOCK, &child, &saved.mask);
+}
+
+static void process_restore_signals(const Signals& saved)
+{
+    sigaction(SIGINT, &saved.interrupt, nullptr);
+    sigaction(SIGQUIT, &saved.quit, nullptr);
+    sigprocmask(SIG_SETMASK, &saved.mask, nullptr);
+}
+
+// The wait status of one child, -1 when somebody else has taken it.
+static int process_wait(pid_t pid)
+{
+    int status = -1;
+    while (waitpid(pid, &status, 0) < 0) {
+        if (errno != EINTR)
+            return -1;
+    }
+    return status;
+}
+
+// SIGCHLD stays blocked until the child is reaped here, and cpid is clear by then: the handler must
+// not take the status away.
+int ktr_system(const char* cmd)
+{
+    if (!cmd)
+        return -1;
+    Signals saved;
+    process_hold_signals(saved);
+    const pid_t pid = fork();
+    if (pid == 0) {
+        process_restore_signals(saved);
+        const int result = ktr_exec(cmd);
+        sync();
+        _exit(result);
+    }
+    int status = -1;
+    if (pid > 0) {
+        cpid = pid;
+        status = process_wait(pid);
+        cpid = 0;
+    }
+    fflush(nullptr);
+    process_restore_signals(saved);
+    return status;
+}
+
+// Cut a command into words, in place. The number of words, -1 for too many or an open quotation.
+static int process_split(char* text, char* (&words)[WORDS_MAX + 1])
+{
+    int n = 0;
+    for (char* in = text; *in;) {
+        if (isspace(uint8_t(*in))) {
+            in++;
+            continue;
+        }
+        if (n == WORDS_MAX)
+            return -1;
+        char* out = in;
+        words[n++] = out;
+        bool is_quoted = false;
+        for (; *in && (is_quoted || !isspace(uint8_t(*in))); in++) {
+            if (*in == '"')
+                is_quoted = !is_quoted;
+            else
+                *out++ = *in;
+        }
+        if (is_quoted)
+            return -1;
+        if (*in)
+            in++;
+        *out = '\0';
+    }
+    words[n] = nullptr;
+    return n;
+}
+
+int ktr_exec(const char* cmd)
+{
+    char text[COMMAND_MAX];
+    if (!cmd || strlen(cmd) >= sizeof text)
+        return -1;
+    CopyText(text, cmd);
+    char* words[WORDS_MAX + 1];
+    if (process_split(text, words) < 1)
+        return -1;
+    execv(words[0], words);
+    return -1;
+}
+
+static long open_max()
+{
+    const long n = sysconf(_SC_OPEN_MAX);
+    return n > 0 ? n : OPEN_MAX_GUESS;
+}
+
+static bool popen_table()
+{
+    if (popen_child)
+        return true;
+    popen_size = open_max();
+    popen_child = static_cast<pid_t*>(GDL_Calloc(size_t(popen_size), sizeof *popen_child));
+    return popen_child != nullptr;
+}
+
+// The child's end of the pipe becomes its standard input or output. Other streams close by
+// themselves: all pipes here are close-on-exec.
+[[noreturn]] static void popen_run(const char* cmd, int end, int standard)
+{
+    if (end == standard)
+        fcntl(end, F_SETFD, 0);
+    else
+        dup2(end, standard);
+    execl("/bin/sh", "sh", "-c", cmd, static_cast<char*>(nullptr));
+    _exit(127);
+}
+
+FILE* ktr_popen(const char* cmd, const char* type)
+{
+    if (!cmd || !type || (strcmp(type, "r") != 0 && strcmp(type, "w") != 0))
+        return nullptr;
+    const bool is_read = type[0] == 'r';
+    int pipe_fd[2];
+    if (!popen_table() || pipe2(pipe_fd, O_CLOEXEC) != 0)
+        return nullptr;
+    const int mine = pipe_fd[is_read ? 0 : 1];
+    const int theirs = pipe_fd[is_read ? 1 : 0];
+
+    FILE* fp = mine < popen_size ? fdopen(mine, type) : nullptr;
+    const pid_t pid = fp ? fork() : -1;
+    if (pid == 0)
+        popen_run(cmd, theirs, is_read ? STDOUT_FILENO : STDIN_FILENO);
+    close(theirs);
+    if (pid < 0) {
+        if (fp)
+            fclose(fp);
+        else
+            close(mine);
+        return nullptr;
+    }
+    popen_child[mine] = pid;
+    return fp;
+}
+
+int ktr_pclose(FILE* fp)
+{
+    if (!fp || !popen_child)
+        return -1;
+    const int fd = fileno(fp);
+    if (fd < 0 || fd >= popen_size || popen_child[fd] == 0)
+        return -1;
+    const pid_t pid = popen_child[fd];
+    popen_child[fd] = 0;
+    // A writer whose reader has gone away fails here; its status tells the rest.
+    fclose(fp);
+    return process_wait(pid);
+}
+
+int ktr_system_and_redirect(const char* cmd, const char* file)
+{
+    if (!cmd || !file)
+        return -1;
+    FILE* out = fopen(file, "we");
+    if (!out)
+        return -1;
+    FILE* in = ktr_popen(cmd, "r");
+    if (!in) {
+        fclose(out);
+        return -1;
+    }
+    char line[256];
+    while (fgets(line, sizeof line, in))
+        fputs(line, out);
+    fclose(out);
+    return ktr_pclose(in);
+}
+
+int ktr_shell(const char* cmd)
+{
+    return cmd ? system(cmd) : -1;
+}
+
+static bool process_is_safe(char c)
+{
+    return isalnum(uint8_t(c)) || (c && strchr("/._-:@+ ", c));
+}
+
+int IsShellSafe(const char* text)
+{
+    if (!text)
+        return 0;
+    for (const char* p = text; *p; p++) {
+        if (process_is_safe(*p))
+            continue;
+        Log_Output(LOG_LINK, MOD_GLOBAL, "Refused for the shell: [%s]", text);
+        return 0;
+    }
+    return 1;
+}
+
+void WaitSec(int sec)
+{
+    if (sec > 0)
+        SDL_Delay(uint32_t(sec) * 1000);
+}
+
+int FileExist(const char* fn)
+{
+    struct stat st;
+    return fn && stat(fn, &st) == 0;
+}
+
+static int process_make_one(const char* dir)
+{
+    struct stat st;
+    if (mkdir(dir, 0777) == 0)
+        return 0;
+    return errno == EEXIST && stat(dir, &st) == 0 && S_ISDIR(st.st_mode) ? 0 : -1;
+}
+
+int MakeDir(const char* dir)
+{
+    char path[PATH_SIZE];
+    if (!dir || !dir[0] || strlen(dir) >= sizeof path)
+        return -1;
+    CopyText(path, dir);
+    for (char* p = path + 1; *p; p++) {
+        if (*p != '/')
+            continue;
+        *p = '\0';
+        if (process_make_one(path) != 0)
+            return -1;
+        *p = '/';
+    }
+    return process_make_one(path);
+}
