@@ -3,11 +3,12 @@
 
 // Free KB of the file system that holds dir, -1 when it cannot be told.
 int GetDiskFree(const char* dir);
-int NFS_Mount();                        // 0, or -1 with GL_NFS_Mounted cleared
-int NFS_MountEx(const char* mpoint);    // the same with another remote mount point
+int NFS_Mount();                     // 0, or -1 with GL_NFS_Mounted cleared
+int NFS_MountEx(const char* mpoint); // the same with another remote mount point
 int NFS_UnMount();
 int NFS_UnMountEx();
-// With the scan switched on: look for the first stick that is mounted, make it the import path, tell the server.
+// With the scan switched on: look for the first stick that is mounted, make it the import path,
+// tell the server.
 void Usb_Auto_Scan();
 void UsbSync();
 // The mount point of the stick with number n (0..8) into text; 0, or -1 when none is mounted there.
