@@ -1,4 +1,5 @@
-// version: what software and firmware this menu computer runs, for the pages, the log and the other units.
+// version: what software and firmware this menu computer runs, for the pages, the log and the other
+// units.
 #pragma once
 #include "types.h"
 
@@ -12,6 +13,6 @@ extern char GL_VerTime[256];
 
 // Read the version files and the FPGA registers and publish them under /var/tmp/version2.
 void GetMenuDetailInfo();
-// The short form of a version line: what stands before a "#" or the comment in brackets is kept with the
-// brackets, the build number is dropped. dst gets at most size - 1 characters.
+// The short form of a version line: what stands before a "#" or the comment in brackets is kept
+// with the brackets, the build number is dropped. dst gets at most size - 1 characters.
 void Strip_VersionStr(char* dst, const char* src, int size);
