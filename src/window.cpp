@@ -8,7 +8,7 @@ int GetWindow()
     return 0;
 }
 
-int CreateWindow(int, const char*, MsgArg, MsgArg, MsgArg)
+int CreateWindow(int, const char*, const WindowArgs&)
 {
     return -1;
 }
