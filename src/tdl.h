@@ -17,17 +17,19 @@ int TDL_UpdateRect(int x1, int y1, int x2, int y2); // clipped to the screen
 int TDL_UpdateScreen();
 
 // --- Lines and shapes. 0; 1 when a point that must be on the screen is not: then nothing is drawn ---
+// These points are the start of a straight line, which is cut at the edge; both ends of a slanted line, which never is;
+// all corners of a parallelogram's outline; both ends of the slanted line of a solid one, whose runs are cut.
 int TDL_Line(int x1, int y1, int x2, int y2, unsigned col);
 int TDL_LineS(int x1, int y1, int x2, int y2, unsigned col);
 int TDL_LineH(int x, int y, int z, unsigned col); // z pixels to the right
 int TDL_LineHS(int x, int y, int z, unsigned col);
 int TDL_LineV(int x, int y, int z, unsigned col); // z pixels down
 int TDL_LineVS(int x, int y, int z, unsigned col);
-int TDL_Rect(int x1, int y1, int x2, int y2, unsigned col);
+int TDL_Rect(int x1, int y1, int x2, int y2, unsigned col); // four lines; 1 when one of them starts off the screen
 int TDL_RectS(int x1, int y1, int x2, int y2, unsigned col);
-int TDL_FillRect(int x1, int y1, int x2, int y2, unsigned col); // -1 when x1 > x2, -2 when y1 > y2
+int TDL_FillRect(int x1, int y1, int x2, int y2, unsigned col); // cut; -1 when x1 > x2, -2 when y1 > y2
 int TDL_FillRectS(int x1, int y1, int x2, int y2, unsigned col);
-int TDL_FillRectA(int x1, int y1, int x2, int y2, unsigned col, unsigned char alpha); // 255 is opaque
+int TDL_FillRectA(int x1, int y1, int x2, int y2, unsigned col, unsigned char alpha); // the same; 255 is opaque
 int TDL_FillRectAS(int x1, int y1, int x2, int y2, unsigned col, unsigned char alpha);
 int TDL_Para(int x1, int y1, int x2, int y2, int w, unsigned col); // horizontal sides of w pixels
 int TDL_ParaS(int x1, int y1, int x2, int y2, int w, unsigned col);
@@ -43,13 +45,13 @@ int TDL_Put(int x, int y, SDL_Surface* sfc);
 int TDL_PutS(int x, int y, SDL_Surface* sfc);
 int TDL_PutA(int x, int y, SDL_Surface* sfc, unsigned char alpha);
 int TDL_PutAS(int x, int y, SDL_Surface* sfc, unsigned char alpha);
-int TDL_PutSmall(int x, int y, SDL_Surface* sfc); // half size, inside the screen; -1 for 3 bytes a pixel
+int TDL_PutSmall(int x, int y, SDL_Surface* sfc); // half size; -1 unless it has the screen's 1, 2 or 4 bytes a pixel
 int TDL_PutSmallS(int x, int y, SDL_Surface* sfc);
-SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc); // the caller frees it; null for 3 bytes a pixel
+SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc); // the caller frees it; null where the other gives -1
 SDL_Surface* TDL_LoadBmp(const char* fname);           // in display format; null when it cannot be read
 SDL_Surface* TDL_ScreenSaverBMP(const char* fname);
 
-// --- Screen save: one slot ---
+// --- Screen save: one slot, for a rectangle cut at the screen edge; a pop without a push does nothing ---
 int TDL_PushScreen(int x, int y, int w, int h);
 int TDL_PopScreen();
 int TDL_PopScreenXY(int x, int y);

@@ -1,0 +1,162 @@
+#include "graphics.h"
+#include "log.h"
+#include "process.h"
+#include "tdl.h"
+#include "text.h"
+#include "types.h"
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+#include "safeguards.h"
+
+#define BITMAP(name, file) SDL_Surface* G_##name = nullptr;
+#include "graphics_list.h"
+#undef BITMAP
+
+SDL_Surface* G_WipePtn[WIPE_PTN_MAX];
+
+// Pattern numbers that look different on the smaller model: its pictures have an "e" behind the
+// number.
+static constexpr int DmeWipePtn_KTR20[] = {
+    2001, 2002, 2003, 2004, 2005, 2006, 2007, 2008, 2009, 2010, 2011, 2012, 2013, 2014, 2015,
+    2016, 2017, 2018, 2019, 2020, 2021, 2022, 2023, 2024, 2025, 2026, 2027, 2028, 2029,
+};
+static_assert(sizeof DmeWipePtn_KTR20 / sizeof DmeWipePtn_KTR20[0] == 29);
+
+// --- Loading ---
+
+static SDL_Surface* load_gfile(const char* name)
+{
+    char path[PATH_SIZE];
+    PrintText(path, "graphics/%s.bmp", name);
+    SDL_Surface* loaded = TDL_LoadBmp(path);
+    if (!loaded)
+        Log_Output(LOG_TRACE, MOD_START, "Can't load graphics file: [%s]", path);
+    return loaded;
+}
+
+static void load_wipe_ptn(int n, const char* name)
+{
+    char file[PATH_SIZE];
+    PrintText(file, "ptn/%s", name);
+    SDL_FreeSurface(G_WipePtn[n]);
+    G_WipePtn[n] = load_gfile(file);
+}
+
+// --- The list of wipe patterns ---
+
+// The pattern number of a file name that has been cut at its dot; -1 when it is none.
+static int ptn_number(const char* name)
+{
+    if (!*name)
+        return -1;
+    int n = 0;
+    for (; *name; name++) {
+        if (*name < '0' || *name > '9')
+            return -1;
+        n = 10 * n + (*name - '0');
+        if (n >= WIPE_PTN_MAX)
+            return -1;
+    }
+    return n;
+}
+
+// One line of the list, cut at its first dot or control character; what does not fit in name is
+// dropped. False at the end of the file.
+static bool read_name(FILE* fp, char* name, size_t size)
+{
+    size_t len = 0;
+    bool cut = false;
+    int c = fgetc(fp);
+    if (c == EOF)
+        return false;
+    for (; c != EOF && c != '\n'; c = fgetc(fp)) {
+        if (c == '.' || c < ' ')
+            cut = true;
+        if (!cut && len + 1 < size)
+            name[len++] = char(c);
+    }
+    name[len] = '\0';
+    return true;
+}
+
+// False when the list cannot be read.
+static bool load_listed_ptns(const char* list)
+{
+    FILE* fp = fopen(list, "r");
+    if (!fp)
+        return false;
+    char name[64];
+    while (read_name(fp, name, sizeof name)) {
+        const int n = ptn_number(name);
+        if (n >= 0)
+            load_wipe_ptn(n, name);
+    }
+    fclose(fp);
+    return true;
+}
+
+// List the folder first: thousands of opens that fail take seconds on a slow disc.
+static bool list_and_load_ptns()
+{
+    char list[] = "/tmp/ptn_list.XXXXXX";
+    const int fd = mkstemp(list);
+    if (fd < 0)
+        return false;
+    close(fd);
+    char cmd[CMD_SIZE];
+    PrintText(cmd, "/usr/bin/find graphics/ptn/ -fprintf %s \"%%P\\n\"", list);
+    const bool listed = ktr_system(cmd) == 0 && load_listed_ptns(list);
+    unlink(list);
+    return listed;
+}
+
+static void load_all_ptns()
+{
+    char name[16];
+    for (int n = 0; n < WIPE_PTN_MAX; n++) {
+        PrintText(name, "%d", n);
+        load_wipe_ptn(n, name);
+    }
+}
+
+// --- Public ---
+
+void LoadGraphics()
+{
+#define BITMAP(name, file) G_##name = load_gfile(file);
+#include "graphics_list.h"
+#undef BITMAP
+    if (!list_and_load_ptns())
+        load_all_ptns();
+}
+
+static void free_surface(SDL_Surface** surface)
+{
+    SDL_FreeSurface(*surface);
+    *surface = nullptr;
+}
+
+void FreeGraphics()
+{
+#define BITMAP(name, file) free_surface(&G_##name);
+#include "graphics_list.h"
+#undef BITMAP
+    for (SDL_Surface*& picture : G_WipePtn)
+        free_surface(&picture);
+}
+
+SDL_Surface* LoadGFile(const char* name)
+{
+    return load_gfile(name);
+}
+
+void LoadDmeWipePtn_KTR20()
+{
+    char name[16];
+    for (const int n : DmeWipePtn_KTR20) {
+        PrintText(name, "%de", n);
+        load_wipe_ptn(n, name);
+    }
+}

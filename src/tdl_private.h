@@ -1,0 +1,44 @@
+// tdl_private: what the two halves of the drawing layer share: tdl.cpp has surfaces and shapes,
+// tdl_text.cpp the text. Nobody else includes it.
+#pragma once
+#include "types.h"
+#include <SDL.h>
+#include <cstdint>
+
+extern int ScreenX; // size of the display surface; 0 before TDL_Init
+extern int ScreenY;
+
+constexpr Rect TDL_NOTHING = {0, 0, -1, -1}; // an empty rectangle
+
+inline bool tdl_is_empty(const Rect& r)
+{
+    return r.x1 > r.x2 || r.y1 > r.y2;
+}
+
+void tdl_flush(const Rect& r); // clipped to the screen; an empty rectangle is no flush
+
+uint8_t* tdl_pixel_at(SDL_Surface* s, int x, int y);
+uint32_t tdl_map_colour(unsigned col); // 0x00RRGGBB as a pixel of the screen
+
+// True for a screen whose pixels are four bytes with a whole byte for each colour: there all
+// blending is our own.
+bool tdl_blends_bytes();
+
+// The one blending formula on such a screen: d + floor((s - d) * alpha / 256) in each of the four
+// bytes, for alpha from 0 to 254; 255 is a plain copy and the caller's business. It is what the SDL
+// blitters compute, whichever of them the processor gets, so a picture is the same on every
+// machine. Two bytes share one multiplication: a borrow of the lower one is given back when the
+// product is added to d.
+inline uint32_t tdl_mix(uint32_t s, uint32_t d, uint32_t alpha)
+{
+    constexpr uint32_t LOW = 0x00FF00FF;
+    uint32_t even = d & LOW;
+    uint32_t odd = (d >> 8) & LOW;
+    even += (((s & LOW) - even) * alpha) >> 8;
+    odd += ((((s >> 8) & LOW) - odd) * alpha) >> 8;
+    return (even & LOW) | ((odd & LOW) << 8);
+}
+
+int tdl_text_init(); // the glyph surface and both font files: 0, or -1 when one of them cannot be
+                     // had
+void tdl_text_quit();
