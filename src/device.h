@@ -1,6 +1,7 @@
-// device: the units of the installation, and all that follows from which of them belong to this panel.
-// The tables are filled by the bus from tallies; DeviceStructure derives the rest and may be called after any
-// change. Whether a page exists for the models in use is asked with the questions at the end.
+// device: the units of the installation, and all that follows from which of them belong to this
+// panel. The tables are filled by the bus from tallies; DeviceStructure derives the rest and may be
+// called after any change. Whether a page exists for the models in use is asked with the questions
+// at the end.
 #pragma once
 #include "types.h"
 #include <ctime>
@@ -94,10 +95,10 @@ extern char SYS_DmeName[UNIT_MAX][16];
 extern int SYS_MyPnl; // number of this panel
 
 // What belongs to this panel; null behind the last.
-extern DEVICE* DEV_MyPnl[DEVICE_MAX];
-extern DEVICE* DEV_MySwr[DEVICE_MAX];
-extern DEVICE* DEV_MyDme[DEVICE_MAX];
-extern DEVICE* DEV_MyMpe[DEVICE_MAX];
+extern DEVICE* DEV_MyPnl[DEVICE_MAX + 1];
+extern DEVICE* DEV_MySwr[DEVICE_MAX + 1];
+extern DEVICE* DEV_MyDme[DEVICE_MAX + 1];
+extern DEVICE* DEV_MyMpe[DEVICE_MAX + 1];
 extern int SYS_MyPnlMax;
 extern int SYS_MySwrMax;
 extern int SYS_MyDmeMax;
@@ -109,35 +110,64 @@ extern DEVTYPE SYS_RefDmeType;
 extern DEVTYPE SYS_TargetSwrType;
 extern int SYS_RefSwrActiveLine;
 extern int SYS_RefPnlActiveLine;
-extern int SYS_MyDme1; // indices into DEV_Dme of the two channel pairs, -1 none; S: the pair's second unit
+// Indices into DEV_Dme, -1 none. 1 serves channels 1 to 4, 2 channels 5 to 8; S is the second unit
+// that a group has where one unit cannot carry the format alone. They are the four places of the
+// switcher's assignment row in the order 1, 2, 1S, 2S; a place that the first switcher leaves empty
+// is taken from the next.
+extern int SYS_MyDme1;
 extern int SYS_MyDme1S;
 extern int SYS_MyDme2;
 extern int SYS_MyDme2S;
 
+// What DEVICE.function holds.
+enum : int {
+    FUNCTION_OPTION_WORD = 0,     // of a panel: the options that it is fitted with, 0 none
+    FUNCTION_FRAME_CONVERTER = 1, // of a switcher: the frame-converter board is fitted
+};
+
 // --- Life ---
-// The start state: one default device a class, every panel on switcher 1, every switcher on effects units 1 and 2.
+// The start state: one default device a class, every panel on switcher 1, every switcher on effects
+// units 1 and 2, eight keys in every bank until the switcher says less.
 void Device_Init();
-// Derive everything below the tables. Idempotent.
+// Derive everything below the tables. Idempotent. An assignment row names units by their number; a
+// number that no row of the table has is passed over. All multi-picture units in the table belong
+// to this panel: nothing assigns them. Without an own unit of a class its reference type is
+// DEVTYPE_UNKNOWN; a setup target that does not exist means the first switcher.
 void DeviceStructure();
 // Ask the server for the models. The answers complete DEVICE.type.
 void Get_DeviceType();
-// The number in a device's id from its eighth character on: 1 in "SWR001D001".
+// Take an answer to Get_DeviceType or a report of fitted boards. 1 when the path was one of these
+// two, otherwise 0:
+//   "Info@Board Config@Unit Model@SWR1": the model's number from 1 in the order of DEVTYPE
+//   "Info@Board Config@Board Exist Set@SWR1@EEPROM": the entries of DEVICE.function from 0, with
+//   commas between them
+int Device_Tally(const char* path, const char* value);
+// The number in a device's id from its eighth character on: 1 in "SWR001D001"; 0 for an id that is
+// too short.
 int Device_UnitNumber(const DEVICE& dev);
 // The row of a class ("PNL", "SWR", "DME", "MPE") with this name, or null.
 DEVICE* Device_ByName(const char* name);
-// The table of a class by the first three letters; null for none. *max gets the address of its count.
+// The table of a class by the first three letters; null for none. *max gets the address of its
+// count.
 DEVICE* Device_Table(const char* name, int** max);
 
 // --- Questions: 1 or 0 unless said otherwise ---
-int is4KFormat();
-int isDualProc_DualLink();
-int isDualProc_DualLink_DME();
-int is1080P_3G();
-int is1080P_3G_DME();
-int is1080P_ZRD52_DME();
-int isZRD52onSWR(const DEVICE* swr);
-int getDmeReferenceModel(); // DEVTYPE bit of the reference channel's unit
+// Every one has an answer for units that are not known yet. "1080p" is 1080p of 25 Hz and above,
+// which is more than one HD link carries; "first" is the first unit of this panel.
+int is4KFormat();                    // the 4K mode is on or the switcher's picture is 3840 x 2160
+int isDualProc_DualLink();           // two processors share the first switcher's 1080p
+int isDualProc_DualLink_DME();       // the same for the effects units; a ZRD52 needs no partner
+int is1080P_3G();                    // one processor of a KTR40G or later carries 1080p on one link
+int is1080P_3G_DME();                // there the first effects unit runs 1080p, too
+int is1080P_ZRD52_DME();             // the first effects unit is a ZRD52 and runs 1080p
+int isZRD52onSWR(const DEVICE* swr); // an effects unit that is assigned to the switcher is a ZRD52
+// DEVTYPE bit of the unit that serves the lowest reference channel; without a reference that of
+// channel 1.
+int getDmeReferenceModel();
+int getDmeReferenceUnit();         // that unit's number from 1, as GL_DmeModel counts; 0 none
 int isMP2SettingME(uint32_t page); // the page's bank runs multi program 2
 int isME_ConfigSelectType(int me); // me_config_type of 0 P/P, 1..5 M/E
-int isRefPnlPCX50();
-int Is_clip_transition_enable();
+int isRefPnlPCX50();               // the own panel is of the newest frame, QRD11B
+int Is_clip_transition_enable();   // clips come from frame memory V6, which has none in 4K
+int hasPanelOption();              // an own panel reports an option word
+int hasFrameConverter();           // the setup target has the frame-converter board

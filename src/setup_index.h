@@ -1,4 +1,5 @@
-// setup_index: the list of engineering pages, and which of them are locked against changes.
+// setup_index: the list of engineering pages, and which of them are locked against changes. What a
+// lock does to a press belongs to the base area; the password dialogs belong to their page.
 #pragma once
 #include "types.h"
 
@@ -20,19 +21,28 @@ extern int SetupMenu_Max;
 extern SETUPTBL SetupMenuTbl[SETUP_GROUPS];
 
 constexpr int SETUP_LOCK_PAGES = 192;
+// Also the lock file, as one block with its integers in the processor's order: no other program
+// reads it.
 struct SETUPLOCK {
     char password[20] = "";
-    int32_t lock = 0;
-    int32_t num = 0;
+    int32_t lock = 0; // the lock is on: pages of the set take no change
+    int32_t num = 0;  // pages in use, 0..SETUP_LOCK_PAGES
     uint32_t page[SETUP_LOCK_PAGES] = {};
 };
 static_assert(sizeof(SETUPLOCK) == 796);
 extern SETUPLOCK SetupLock;
-extern int SetupLock_New; // no lock file was there
+extern int SetupLock_New; // no usable lock file was there
 #define SETUP_LOCK_FILE "/mnt/data/.setuplock"
 
-void SetupIndex_Build(); // from PageTable
+// --- At start-up, in this order ---
+void SetupIndex_Build(); // from PageTable; rows past SETUP_ROWS are left out with a log line
+// Read the lock file and mark the rows. A missing file, or one of the wrong length, locks nothing.
 void SetupIndex_LoadLock();
-int SetupIndex_SaveLock();            // rebuild the page list from the rows, write. 0 or -1
-int SetupIndex_Find(uint32_t page);   // row of a page (variant byte ignored), -1 none
-void SetupIndex_SetExtensionPanel(int available); // the row of the extension panel exists
+
+// --- For pages ---
+// Rebuild the page list from the marked rows (the first SETUP_LOCK_PAGES) and write the file. 0, or
+// -1 when it cannot be written.
+int SetupIndex_SaveLock();
+int SetupIndex_Find(uint32_t page); // row of a page (variant byte ignored), -1 none
+// Whether the page of the extension panel's buttons exists; asked for by DeviceStructure.
+void SetupIndex_SetExtensionPanel(int available);
