@@ -1,9 +1,10 @@
-// page: which screen is shown. A page is one row of PageTable; a request for an id is resolved to a row (which
-// variant of a page exists depends on the installation), the objects of the old row are emptied and those of the
-// new row built. It owns the histories of the two sides and the remembered page of each menu key; it draws nothing.
+// page: which screen is shown. A page is one row of PageTable; a request for an id is resolved to a
+// row (which variant of a page exists depends on the installation), the objects of the old row are
+// emptied and those of the new row built. It owns the histories of the two sides and the remembered
+// page of each menu key; it draws nothing.
 //
-// Code never changes page directly: it stores the id in GL_CreatePage and the main loop calls CreatePage between
-// passes while no window, pane or saver is up.
+// Code never changes page directly: it stores the id in GL_CreatePage and the main loop calls
+// CreatePage between passes while no window, pane or saver is up.
 #pragma once
 #include "types.h"
 
@@ -42,7 +43,7 @@ struct _pageobject {
 
 struct PAGE {
     uint32_t id = PAGE_END;
-    const char* tree[PAGE_DEPTH] = {}; // path segments; tree[0] is the caption of the menu key
+    const char* tree[PAGE_DEPTH] = {};  // path segments; tree[0] is the caption of the menu key
     _pageobject obj[PAGE_OBJECTS] = {}; // in the order of delivery and of creation
     int knobassign = 0;                 // button that owns the knobs; written at run time
 };
@@ -70,15 +71,35 @@ extern uint32_t GL_UraPrevPage;
 extern char NowTopMenu[256];
 extern int MeKeyTpye; // 1 main, 2 sub: the kind of the last key page
 
+// The pages of each side in the order of their visits. NowPtr is the entry that is shown, or that a
+// page which does not count covers; -1 before the first. MaxPtr is the last entry that a step
+// forward can reach.
+constexpr int HISTORY_DEPTH = 50;
+extern uint32_t Omote_History[HISTORY_DEPTH];
+extern uint32_t Ura_History[HISTORY_DEPTH];
+extern int Omote_History_NowPtr;
+extern int Ura_History_NowPtr;
+extern int Omote_History_MaxPtr;
+extern int Ura_History_MaxPtr;
+
+// The unit that is selected in the list of the install page ("SWR1", "Menu"); written by its page
+// code.
+extern char Page_InstallUnit[16];
+
 // --- For the main loop ---
 // Resolve and change the screen. 0, or -1 when there is no such page: the old one stays.
 int CreatePage(uint32_t id);
 
 // --- For everybody ---
-// The row that a request opens, null when there is none or it is hidden in this installation. The id may have a
-// variant added; the row's own id tells which.
+// The row that a request opens, null when there is none or it is hidden in this installation. The
+// id may have a variant added; the row's own id tells which.
 PAGE* SearchPageTable(uint32_t id);
-PAGE* SearchPageTable_Free_ALL(PAGE* table, uint32_t id); // plain lookup but for five ids that have no page
+PAGE* SearchPageTable_Free_ALL(PAGE* table,
+                               uint32_t id); // plain lookup but for five ids that have no page
+// The id of the row that a request opens: the variant of the page that this installation has, the
+// permitted parent while a background transfer runs, 0 when the page is hidden. Whether there is
+// such a row is not looked at.
+uint32_t ResolvePageId(uint32_t id);
 
 // side is valued as OmoteFlag is. Requests the page; -1 when there is none in that direction.
 int HistoryBack(int side);
@@ -88,17 +109,18 @@ uint32_t GetHistoryFwd(int side);
 int IsTopHistory(int side);  // 1 when no step back is left
 int IsLastHistory(int side); // 1 when no step forward is left
 
-int IsUserPages(uint32_t id);       // counts for history and side memory
-int IsObjetype(int type);           // 1 when the current page has an object of this type
-int Page_GetKnobAssign();           // button that owns the knobs when the page opens, -1 none
-void Page_SetKnobAssign(int id);    // some pages keep what their row says
-void AddPageOffset(uint32_t* id);   // a template id to the bank and key of the current page
+int IsUserPages(uint32_t id);     // counts for history and side memory
+int IsObjetype(int type);         // 1 when the current page has an object of this type
+int Page_GetKnobAssign();         // button that owns the knobs when the page opens, -1 none
+void Page_SetKnobAssign(int id);  // some pages keep what their row says
+void AddPageOffset(uint32_t* id); // a template id to the bank and key of the current page
 
 // Classification; id 0 means the current page.
 int isNowPageME(uint32_t id);    // 0; 1 main bank, 2 sub bank, not a key page
 int isNowPageMeKey(uint32_t id); // 0; 1 key page of a main bank, 2 of a sub bank
 int isNowPageFM(uint32_t id);
-int isMainSubCheck(uint32_t id); // 1 when the page has a main and a sub side
+int isMainSubCheck(
+    uint32_t id); // 1 when the page has a main and a sub side: the bank runs multi program 2
 int MainSubAssign_StatusCheck_for_id(uint32_t id); // -1 no row, 0 main, 1 sub, 2 both
 int MainSubAssign_StatusCheck();
 // The M/E of a bank byte: 0 P/P, 1..5 M/E, -1 for other banks.
