@@ -1,0 +1,184 @@
+#include "command.h"
+#include "page.h"
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+using testing::ElementsAre;
+using Parts = std::vector<std::string>;
+
+static Parts Cut(int (*split)(char*, char**, int), std::string text, int vn)
+{
+    std::vector<char*> v(size_t(vn) + 1, text.data()); // one more, that must stay as it is
+    const int count = split(text.data(), v.data(), vn);
+    EXPECT_EQ(v[size_t(vn)], text.data());
+    Parts parts;
+    for (int i = 0; i < vn; i++) {
+        EXPECT_EQ(v[size_t(i)] != nullptr, i < count);
+        if (i < count)
+            parts.emplace_back(v[size_t(i)]);
+    }
+    return parts;
+}
+
+TEST(Command, ValuesAreCutAtTheirSeparator)
+{
+    static const struct {
+        int (*split)(char*, char**, int);
+        const char* text;
+        int vn;
+        Parts parts;
+    } cases[] = {
+        {SplitVars, "a,b, c", 8, {"a", "b", "c"}},
+        {SplitVars, "a,,b", 8, {"a", "", "b"}},
+        {SplitVars, "a,b,c", 2, {"a", "b,c"}},
+        {SplitVars, ",b", 1, {",b"}},
+        {SplitVars, "a,b", 0, {}},
+        {SplitVars, "", 4, {""}},
+        {SplitVars, "a,", 4, {"a", ""}},
+        {SplitVars, "a, ", 4, {"a", ""}},
+        {SplitVars, "a,  b,", 2, {"a", " b,"}}, // only one blank goes
+        {SplitVars, "a b,c@d:e", 4, {"a b", "c@d:e"}},
+        {SplitCmds, "M/E-1@Key 1@ Type", 8, {"M/E-1", "Key 1", " Type"}},
+        {SplitSHPValues, "CAPACITY:: 1,2", 8, {"CAPACITY", "", "1,2"}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Cut(c.split, c.text, c.vn), c.parts) << c.text;
+
+    char* v[2] = {Cmd, Cmd};
+    EXPECT_EQ(SplitVars(nullptr, v, 2), 0);
+    EXPECT_THAT(v, ElementsAre(nullptr, nullptr));
+}
+
+TEST(Command, TheValueBeginsBehindTheFirstMark)
+{
+    static const struct {
+        const char* text;
+        const char* var;
+        const char* row;
+    } cases[] = {
+        {"A@B#c#d", "c#d", ""},           {"A@B#", "", ""}, {"A@B", "", ""}, {"", "", ""},
+        {"CS1.File:a:b#c", "c", "a:b#c"},
+    };
+    for (const auto& c : cases) {
+        std::string text = c.text;
+        EXPECT_STREQ(FindVarPointer(c.text), c.var) << c.text;
+        EXPECT_STREQ(FindSHPRowIDPointer(text.data()), c.row) << c.text;
+    }
+}
+
+TEST(Command, TheHashTakesBytesAsUnsigned)
+{
+    EXPECT_EQ(Hash(""), 0u);
+    EXPECT_EQ(Hash("\xFF\x01"), 256u);
+}
+
+static void ShowPage(uint32_t id, const char* const* tree)
+{
+    GL_NowPage = id;
+    GL_NowTree = tree;
+}
+
+TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
+{
+    static const char* const key[PAGE_DEPTH] = {"M/E-1", "Key1", "Type"};
+    static const char* const gap[PAGE_DEPTH] = {"M/E-1", nullptr, "Type"};
+    static const char* const file[PAGE_DEPTH] = {"File"};
+    static const char* const none[PAGE_DEPTH] = {};
+    static const char* const deep[PAGE_DEPTH] = {"1", "2", "3", "4", "5", "6", "7", "8"};
+    constexpr uint32_t main_key = 0x11110000, main_wipe = 0x11510000, sub_wipe = 0x15510000;
+    static const struct {
+        uint32_t page;
+        const char* const* tree;
+        const char* text;
+        const char* var;
+        const char* path;
+    } cases[] = {
+        {main_key, key, "~@Key Type#Luminance", "", "M/E-1@Key1@Type@Key Type#Luminance"},
+        {main_key, key, "~2@Processed Key@Rotation", "", "M/E-1@Key1@Processed Key@Rotation"},
+        {main_key, key, "~1@X", "", "M/E-1@X"},
+        {main_key, key, "~", "", "M/E-1@Key1@Type"},
+        {main_key, key, "~X", "", "M/E-1@Key1@TypeX"},
+        {main_key, key, "~9", "", "M/E-1@Key1@Type9"}, // not a depth
+        {main_key, key, "~0@X", "", "M/E-1@Key1@Type0@X"},
+        {main_key, key, "~6@X", "", "M/E-1@Key1@Type@X"},
+        {main_key, key, "A~@B", "", "A~@B"}, // only at the start
+        {main_key, key, "", "", ""},
+        {main_wipe, key, "~1@X", "", "M/E-1@X"},
+        {sub_wipe, key, "~2@X", "", "M/E-1 SUB@Key1@X"},
+        {0x21110000, gap, "~2@X", "", "M/E-1@X"}, // depth counts the empty segment
+        {0x21110000, file, "~1@X", "", "File@X"},
+        {0x21110000, none, "~@X", "", "@X"},
+        {0x21110000, none, "~", "", ""},
+        {0x21110000, nullptr, "~X", "", "X"}, // before the first page
+        {0x21110000, deep, "~", "", "1@2@3@4@5@6@7@8"},
+        {main_key, key, "~1@$@X#$", "5", "M/E-1@5@X#"}, // used up by the first
+        {main_key, key, "A#$", "a$b", "A#a$b"},
+        {main_key, key, "A#$$B", nullptr, "A#B"},
+    };
+    for (const auto& c : cases) {
+        ShowPage(c.page, c.tree);
+        char path[CMD_SIZE];
+        DecodeCommandWithVar(path, c.text, c.var, sizeof path);
+        EXPECT_STREQ(path, c.path) << c.text;
+        if (strchr(c.text, '$'))
+            continue;
+        DecodeCommand(path, c.text, sizeof path);
+        EXPECT_STREQ(path, c.path) << c.text;
+    }
+}
+
+TEST(Command, APathNeverLeavesItsBuffer)
+{
+    static const char* const tree[PAGE_DEPTH] = {"M/E-1", "Key1"};
+    ShowPage(0x15510000, tree);
+    const std::string whole = "M/E-1 SUB@Key1@Fill#abc";
+    for (int size = 0; size <= int(whole.size()) + 2; size++) {
+        std::string with_var(64, '?');
+        std::string without(64, '?');
+        DecodeCommandWithVar(with_var.data(), "~@Fill#$", "abc", size);
+        DecodeCommand(without.data(), "~@Fill#abc", size);
+        EXPECT_EQ(with_var, without) << size;
+        EXPECT_EQ(without.find_first_not_of('?', size_t(size)), std::string::npos) << size;
+        if (size == 0)
+            continue;
+        const std::string text = without.c_str(); // a "@" at the very end may be missing
+        EXPECT_EQ(text, whole.substr(0, text.size()));
+        EXPECT_GE(int(text.size()), std::min(int(whole.size()), size - 2));
+    }
+    char path[8] = "old";
+    DecodeCommand(path, nullptr, sizeof path);
+    EXPECT_STREQ(path, "");
+}
+
+TEST(Command, AConditionDisablesAtItsValues)
+{
+    static const struct {
+        const char* cond;
+        const char* var;
+        int disabled;
+    } cases[] = {
+        {"Off,Auto", "Off", 1},
+        {"Off, Auto", "Auto", 1},
+        {"Off,Auto", "On", 0},
+        {"Off,Auto", "Aut", 0},
+        {"Off", "Off2", 0},
+        {"!On", "Off", 1},
+        {"!On", "On", 0},
+        {"!A,!B", "A", 1},
+        {"!A,B", "A", 0},
+        {"!A,B", "B", 1},
+        {"", "", 1},
+        {"", "A", 0},
+        {"A,", "", 1},
+        {"!", "", 0},
+        {"!", "A", 1},
+        {nullptr, "", 0},
+        {"A", nullptr, 0},
+        {"", nullptr, 1},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(IsDisableCondition(c.cond, c.var), c.disabled)
+            << (c.cond ? c.cond : "null") << " at " << (c.var ? c.var : "null");
+}
