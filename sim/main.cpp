@@ -1,0 +1,123 @@
+// scs_sim: stands in for the control server, the status hub and the units behind them, on a desk
+// without hardware.
+#include "console.h"
+#include "fault.h"
+#include "link.h"
+#include "log.h"
+#include "system.h"
+#include "text.h"
+#include "values.h"
+#include "verbs.h"
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <getopt.h>
+#include <unistd.h>
+
+namespace
+{
+struct Options {
+    const char* values = nullptr;
+    const char* script = nullptr;
+    const char* log = nullptr;
+    const char* listen = "127.0.0.1";
+    bool is_quiet = false;
+    long seed = 1;
+};
+} // namespace
+
+static volatile sig_atomic_t main_signal = 0;
+
+static const char* const usage =
+    "usage: scs_sim [--values FILE] [--script FILE] [--log FILE] [--quiet] [--seed N]\n"
+    "               [--listen ADDRESS]\n"
+    "Commands come from standard input; \"help\" lists them.\n";
+
+static bool main_options(int argc, char** argv, Options* options)
+{
+    static const option names[] = {
+        {"values", required_argument, nullptr, 'v'},
+        {"script", required_argument, nullptr, 's'},
+        {"log", required_argument, nullptr, 'l'},
+        {"listen", required_argument, nullptr, 'a'},
+        {"quiet", no_argument, nullptr, 'q'},
+        {"seed", required_argument, nullptr, 'r'},
+        {nullptr, 0, nullptr, 0},
+    };
+    for (int key; (key = getopt_long(argc, argv, "", names, nullptr)) != -1;) {
+        switch (key) {
+        case 'v': options->values = optarg; break;
+        case 's': options->script = optarg; break;
+        case 'l': options->log = optarg; break;
+        case 'a': options->listen = optarg; break;
+        case 'q': options->is_quiet = true; break;
+        case 'r':
+            if (!Text_ToInt(optarg, &options->seed))
+                return false;
+            break;
+        default: return false;
+        }
+    }
+    return optind == argc;
+}
+
+static bool main_open(const char* file, bool (*open)(const char*))
+{
+    if (!file || open(file))
+        return true;
+    fprintf(stderr, "scs_sim: cannot open %s\n", file);
+    return false;
+}
+
+static void main_catch(int number)
+{
+    main_signal = number;
+}
+
+// One turn: wait for an event or the next thing that is due, then let everybody do what is to be
+// done.
+static void main_turn(int64_t* next)
+{
+    std::vector<pollfd> set;
+    const int64_t now = Now_Ms();
+    *next = std::min(*next, Link_Wait(&set, now));
+    if (Console_IsReading())
+        set.insert(set.begin(), {STDIN_FILENO, POLLIN, 0});
+    const int timeout_ms = int(std::clamp<int64_t>(*next - now, 0, 1000));
+    if (poll(set.data(), set.size(), timeout_ms) < 0)
+        return; // a signal
+    if (Console_IsReading() && set.front().revents)
+        Console_ReadInput();
+    Link_Serve(Now_Ms());
+    const int64_t then = Now_Ms();
+    *next = std::min({Verb_Tick(then), System_Tick(then), Fault_Tick(then), Console_Tick(then)});
+}
+
+int main(int argc, char** argv)
+{
+    Options options;
+    if (!main_options(argc, argv, &options)) {
+        fputs(usage, stderr);
+        return 2;
+    }
+    Log_SetEcho(!options.is_quiet);
+    Fault_Seed(unsigned(options.seed));
+    if (!main_open(options.log, Log_Open) || !main_open(options.values, Values_Load) ||
+        !main_open(options.script, Console_OpenScript))
+        return 1;
+    System_Install();
+    signal(SIGPIPE, SIG_IGN);
+    signal(SIGINT, main_catch);
+    signal(SIGTERM, main_catch);
+    if (!Link_Start(options.listen)) {
+        fprintf(stderr, "scs_sim: cannot listen on %s, see the log\n", options.listen);
+        return 1;
+    }
+    int status = 0;
+    int64_t next = 0;
+    while (!Console_HasQuit(&status) && !main_signal)
+        main_turn(&next);
+    Link_Stop();
+    return status;
+}

@@ -1,0 +1,164 @@
+#include "text.h"
+#include <cctype>
+#include <cerrno>
+#include <chrono>
+#include <cmath>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+
+int64_t Now_Ms()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+std::string Text_Format(const char* format, ...)
+{
+    char text[1024];
+    va_list args;
+    va_start(args, format);
+    vsnprintf(text, sizeof text, format, args);
+    va_end(args);
+    return text;
+}
+
+std::vector<std::string> Text_Split(std::string_view text, char mark)
+{
+    std::vector<std::string> parts;
+    for (;;) {
+        const size_t at = text.find(mark);
+        parts.emplace_back(text.substr(0, at));
+        if (at == std::string_view::npos)
+            return parts;
+        text.remove_prefix(at + 1);
+    }
+}
+
+std::string Text_Trim(std::string_view text)
+{
+    const char* const blanks = " \t\r\n";
+    const size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos)
+        return "";
+    return std::string(text.substr(first, text.find_last_not_of(blanks) - first + 1));
+}
+
+bool Text_Begins(std::string_view text, std::string_view head)
+{
+    return text.substr(0, head.size()) == head;
+}
+
+bool Text_ToNumber(const std::string& text, double* out)
+{
+    // strtod would also take leading blanks, hexadecimal and "nan".
+    if (text.empty() || text.find_first_not_of("+-.0123456789eE") != std::string::npos)
+        return false;
+    char* end = nullptr;
+    const double number = strtod(text.c_str(), &end);
+    if (*end != '\0' || !std::isfinite(number))
+        return false;
+    *out = number;
+    return true;
+}
+
+bool Text_ToInt(const std::string& text, long* out)
+{
+    if (text.empty() || isspace((unsigned char)text[0]))
+        return false;
+    char* end = nullptr;
+    errno = 0;
+    const long number = strtol(text.c_str(), &end, 10);
+    if (*end != '\0' || errno != 0)
+        return false;
+    *out = number;
+    return true;
+}
+
+// Greedy with one point of return: when a later piece fails, the last star takes one byte more.
+bool Text_Matches(std::string_view text, std::string_view pattern)
+{
+    size_t t = 0, p = 0, star = std::string_view::npos, star_text = 0;
+    while (t < text.size()) {
+        if (p < pattern.size() && pattern[p] == '*') {
+            star = p++;
+            star_text = t;
+        } else if (p < pattern.size() && (pattern[p] == '?' || pattern[p] == text[t])) {
+            ++p;
+            ++t;
+        } else if (star != std::string_view::npos) {
+            p = star + 1;
+            t = ++star_text;
+        } else {
+            return false;
+        }
+    }
+    while (p < pattern.size() && pattern[p] == '*')
+        ++p;
+    return p == pattern.size();
+}
+
+static std::string text_escape_byte(unsigned char byte)
+{
+    switch (byte) {
+    case '\n': return "\\n";
+    case '\r': return "\\r";
+    case '\t': return "\\t";
+    case '\\': return "\\\\";
+    default: break;
+    }
+    if (byte < 0x20 || byte == 0x7F)
+        return Text_Format("\\x%02X", byte);
+    return std::string(1, char(byte));
+}
+
+std::string Text_Escape(std::string_view bytes, size_t limit)
+{
+    std::string text;
+    for (const char byte : bytes.substr(0, limit))
+        text += text_escape_byte((unsigned char)byte);
+    if (bytes.size() > limit)
+        text += "...";
+    return text;
+}
+
+// The byte behind "\x", at most two digits from at on; at moves past them.
+static char text_hex_byte(std::string_view text, size_t* at)
+{
+    int byte = 0;
+    for (int i = 0; i < 2 && *at < text.size() && isxdigit((unsigned char)text[*at]); ++i, ++*at) {
+        const int digit = tolower((unsigned char)text[*at]);
+        byte = byte * 16 + (isdigit(digit) ? digit - '0' : digit - 'a' + 10);
+    }
+    return char(byte);
+}
+
+std::string Text_Unescape(std::string_view text)
+{
+    std::string bytes;
+    for (size_t at = 0; at < text.size();) {
+        const char c = text[at++];
+        if (c != '\\' || at == text.size()) {
+            bytes += c;
+            continue;
+        }
+        const char kind = text[at++];
+        switch (kind) {
+        case 'n': bytes += '\n'; break;
+        case 'r': bytes += '\r'; break;
+        case 't': bytes += '\t'; break;
+        case '0': bytes += '\0'; break;
+        case 'x': bytes += text_hex_byte(text, &at); break;
+        default: bytes += kind; break;
+        }
+    }
+    return bytes;
+}
+
+std::string Text_Hex(std::string_view bytes)
+{
+    std::string text;
+    for (const char byte : bytes)
+        text += Text_Format(text.empty() ? "%02X" : " %02X", (unsigned char)byte);
+    return text;
+}

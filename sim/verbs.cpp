@@ -1,0 +1,234 @@
+#include "verbs.h"
+#include "link.h"
+#include "log.h"
+#include "system.h"
+#include "text.h"
+#include "tree.h"
+#include <algorithm>
+#include <climits>
+#include <cmath>
+
+namespace
+{
+struct Pulse {
+    std::string path; // no pointer: the tree may be cleared in between
+    int client = 0;
+    int64_t due_ms = 0;
+};
+
+struct Verb {
+    const char* word = "";
+    bool has_value = false; // the command carries "#VALUE"
+    void (*func)(int client, const std::string& path, const std::string& value) = nullptr;
+};
+} // namespace
+
+static constexpr int PULSE_MS = 100; // long enough for a panel to see the action happen
+
+static struct {
+    bool is_ng = false;
+    std::vector<Pulse> pulses;
+} vb;
+
+static const std::string KNOB_COUNTS =
+    "Panel@Common@Knob"; // and a digit: the panel wants the bare detents
+static const std::string INITIAL_READ = "Info@Initial Read Status";
+
+static void verb_add(int client, const std::string& path, const std::string&)
+{
+    Node* node = Tree_Get(path);
+    if (!node)
+        return Link_SendLine(client, path + "#");
+    Tree_Follow(*node, client);
+    Tree_Answer(*node, client);
+}
+
+static void verb_read(int client, const std::string& path, const std::string&)
+{
+    const Node* node = Tree_Get(path);
+    if (!node)
+        return Link_SendLine(client, path + "#");
+    Tree_Answer(*node, client);
+}
+
+static void verb_remove(int client, const std::string& path, const std::string&)
+{
+    if (Node* node = Tree_Find(path))
+        Tree_Unfollow(*node, client);
+}
+
+// The sender hears the outcome even when nothing changed: its page shows the server's word, not its
+// own wish.
+static void verb_put(int client, const std::string& path, const std::string& value)
+{
+    if (path == INITIAL_READ)
+        return System_Announce(client, value == "true");
+    Node* node = Tree_Get(path);
+    if (!node)
+        return Link_SendLine(client, path + "#");
+    std::string tally = node->value;
+    const PutResult result = vb.is_ng ? PUT_REFUSED : Tree_Put(*node, value, &tally);
+    switch (result) {
+    case PUT_REFUSED:
+        Log_Note("client %d: put refused: %.200s", client, path.c_str());
+        if (node->type.kind == KIND_LIST)
+            return Tree_Answer(*node, client);
+        return Link_SendLine(client, path + "#" + tally);
+    case PUT_SAME: return Link_SendLine(client, path + "#" + tally);
+    case PUT_PULSE: vb.pulses.push_back({path, client, Now_Ms() + PULSE_MS}); break;
+    case PUT_CHANGED: break;
+    }
+    Tree_Tell(*node, tally, client);
+}
+
+// A context, not a state: nobody is told. The menu is each panel's own.
+static void verb_set(int client, const std::string& path, const std::string& value)
+{
+    if (path == "TopMenu") {
+        if (Client* c = Link_Find(client))
+            c->menu = value;
+    } else if (Node* node = Tree_Get(path)) {
+        node->value = value;
+    }
+}
+
+static void verb_tell_all_of(const Node& node, int also_client)
+{
+    if (node.type.kind != KIND_LIST)
+        return Tree_Tell(node, node.value, also_client);
+    for (const int client : node.followers)
+        Tree_Answer(node, client);
+}
+
+static void verb_default(int client, const std::string& path, const std::string&)
+{
+    Node* node = Tree_Find(path);
+    const auto group = Tree_Under(path);
+    const bool is_group = group.size() > (node ? 1u : 0u);
+    if (!node && !is_group)
+        node = Tree_Get(path);
+    for (Node* part : group)
+        if (part != node && Tree_Default(*part))
+            verb_tell_all_of(*part, 0);
+    if (!node)
+        return;
+    if (Tree_Default(*node))
+        verb_tell_all_of(*node, client);
+    else
+        Tree_Answer(*node, client);
+}
+
+// "KnobN#PATH", or "KnobN#null": the knob is free again.
+static void verb_assign(int client, const std::string& knob, const std::string& path)
+{
+    Client* c = Link_Find(client);
+    const bool is_knob =
+        knob.size() == 5 && Text_Begins(knob, "Knob") && knob[4] >= '0' && knob[4] < '0' + KNOBS;
+    if (!c || !is_knob)
+        return Log_Note("client %d: no such knob: %.100s", client, knob.c_str());
+    c->knob[knob[4] - '0'] = path == "null" ? "" : path;
+}
+
+static constexpr Verb verbs[] = {
+    {"add", false, verb_add},      {"read", false, verb_read},     {"put", true, verb_put},
+    {"set", true, verb_set},       {"remove", false, verb_remove}, {"default", false, verb_default},
+    {"assign", true, verb_assign},
+};
+
+static bool verb_is_text(const std::string& line)
+{
+    return std::none_of(line.begin(), line.end(), [](char c) { return (unsigned char)c < 0x20; });
+}
+
+void Verb_Line(int client, const std::string& line)
+{
+    const size_t blank = line.find(' ');
+    const size_t hash = line.find('#');
+    const std::string word = line.substr(0, blank);
+    for (const Verb& verb : verbs) {
+        if (word != verb.word || blank == std::string::npos || !verb_is_text(line))
+            continue;
+        const bool has_value = hash != std::string::npos;
+        const size_t path_end = has_value ? hash : line.size();
+        if (has_value != verb.has_value || path_end <= blank + 1 || path_end - blank > TALLY_BYTES)
+            break;
+        const std::string path = line.substr(blank + 1, path_end - blank - 1);
+        return verb.func(client, path, has_value ? line.substr(hash + 1) : "");
+    }
+    Log_Note("client %d: not a command: %s", client, Text_Escape(line, 100).c_str());
+}
+
+// --- Knobs ---
+
+// What has no limits turns all the same, by 1: the page tables may not list it.
+static void verb_turn(Node& node, int detents)
+{
+    double number = 0;
+    (void)Text_ToNumber(node.value, &number); // no number yet: from 0
+    std::string value;
+    if (node.type.kind == KIND_NUM)
+        value = Tree_NumberText(node.type, number + detents * std::pow(10, -node.type.decimals));
+    else if (node.type.kind == KIND_ANY)
+        value = Text_Format("%.10g", number + detents);
+    else
+        return;
+    if (value == node.value)
+        return; // at the stop
+    node.value = value;
+    Tree_Tell(node, value, 0);
+}
+
+void Verb_Knob(int knob, int detents)
+{
+    std::vector<std::string> turned;
+    for (const int number : Link_Clients(LINK_TEXT)) {
+        const std::string path = Link_Find(number)->knob[knob];
+        if (path.empty())
+            continue;
+        if (Text_Begins(path, KNOB_COUNTS)) {
+            Link_SendLine(number, path + Text_Format("#%d", detents));
+            continue;
+        }
+        if (std::find(turned.begin(), turned.end(), path) != turned.end())
+            continue;
+        turned.push_back(path);
+        if (Node* node = Tree_Get(path))
+            verb_turn(*node, detents);
+    }
+}
+
+// --- Time ---
+
+void Verb_SetNg(bool on)
+{
+    vb.is_ng = on;
+}
+
+int64_t Verb_Tick(int64_t now)
+{
+    // A copy: telling changes no pulse today, but the list must not depend on that.
+    const std::vector<Pulse> pulses = vb.pulses;
+    std::erase_if(vb.pulses, [now](const Pulse& pulse) { return pulse.due_ms <= now; });
+    for (const Pulse& pulse : pulses) {
+        Node* node = Tree_Find(pulse.path);
+        if (pulse.due_ms > now || !node || node->value == "false")
+            continue;
+        node->value = "false";
+        Tree_Tell(*node, node->value, pulse.client);
+    }
+    int64_t next = INT64_MAX;
+    for (const Pulse& pulse : vb.pulses)
+        next = std::min(next, pulse.due_ms);
+    return next;
+}
+
+void Verb_Forget()
+{
+    vb.pulses.clear();
+    for (const int number : Link_Clients(LINK_TEXT)) {
+        Client* client = Link_Find(number);
+        for (std::string& path : client->knob)
+            path.clear();
+        client->menu.clear();
+    }
+}
