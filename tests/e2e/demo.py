@@ -1,0 +1,69 @@
+"""The demonstration: a script of touches on a desk without a display. Leaves numbered pictures in BUILD/demo and the
+wire and the application's log beside them. usage: demo.py BUILD"""
+import os
+import shutil
+import sys
+import time
+
+from desk import Desk
+
+TYPE = "M/E-1@Key1@Type@Key Type"
+
+
+def grid(button_id):
+    """The middle of a standard button."""
+    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
+
+
+def main(build):
+    out = os.path.join(build, "demo")
+    shutil.rmtree(out, ignore_errors=True)
+    os.makedirs(out)
+    number = 0
+
+    def picture(name):
+        nonlocal number
+        number += 1
+        path = os.path.join(out, f"{number:02d}-{name}.png")
+        desk.shot(path)
+        print(path)
+
+    with Desk(build, ini="LogLevel=1\n") as desk:
+        desk.start_app()
+        desk.wait_wire("add TopMenu", 10)
+        time.sleep(0.3)
+        picture("top-menu")
+        desk.touch(112 + 42, 96 + 30)  # M/E-1
+        desk.wait_wire(f"add {TYPE}")
+        time.sleep(0.4)
+        picture("key-type")
+        desk.touch(*grid(17))
+        desk.wait_wire(f"put {TYPE}#Luminance")
+        time.sleep(0.3)
+        picture("before-the-press")
+        desk.touch_down(*grid(19))
+        time.sleep(0.09)
+        picture("pushed")
+        desk.touch_up()
+        desk.wait_wire(f"put {TYPE}#Chroma")
+        time.sleep(0.4)
+        picture("after-the-tally")
+        desk.touch(*grid(2))
+        desk.wait_wire("add M/E-1@Key1@Edge@Edge Type")
+        desk.touch(*grid(18))
+        desk.wait_wire("put M/E-1@Key1@Edge@Edge Type#Border")
+        time.sleep(0.3)
+        picture("edge")
+        desk.console("page 1231")  # a page request from the server
+        desk.wait_wire("add M/E-2@Key3@Type@Key Type")
+        time.sleep(0.3)
+        picture("page-from-the-server")
+        shutil.copy(desk.sim_log, os.path.join(out, "wire.log"))
+        with open(os.path.join(out, "tm3.log"), "w", encoding="latin-1") as f:
+            f.write(desk.log())
+    print(f"{number} pictures in {out}")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1]))
