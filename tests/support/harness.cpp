@@ -29,7 +29,8 @@ extern "C" void SDL_Delay(Uint32 ms)
 
 void Harness_Video()
 {
-    if (Screen) return;
+    if (Screen)
+        return;
     if (chdir(TEST_RUN_DIR) != 0) {
         perror(TEST_RUN_DIR);
         exit(1);
@@ -37,7 +38,8 @@ void Harness_Video()
     setenv("SDL_VIDEODRIVER", "dummy", 1);
     setenv("SDL_AUDIODRIVER", "dummy", 1);
     SDL_Surface* surface = nullptr;
-    if (SDL_Init(SDL_INIT_VIDEO) == 0) surface = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 32, 0);
+    if (SDL_Init(SDL_INIT_VIDEO) == 0)
+        surface = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 32, 0);
     if (!surface || TDL_Init(surface) != 0) {
         fprintf(stderr, "no video: %s\n", SDL_GetError());
         exit(1);
@@ -63,7 +65,8 @@ Peer::Peer(int port)
     a.sin_family = AF_INET;
     a.sin_port = htons(uint16_t(port));
     a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    if (bind(listen_fd, reinterpret_cast<sockaddr*>(&a), sizeof a) != 0 || listen(listen_fd, 4) != 0)
+    if (bind(listen_fd, reinterpret_cast<sockaddr*>(&a), sizeof a) != 0 ||
+        listen(listen_fd, 4) != 0)
         ADD_FAILURE() << "cannot listen on port " << port << ": " << strerror(errno);
 }
 
@@ -76,7 +79,8 @@ Peer::~Peer()
 bool Peer::Accept()
 {
     pollfd p{listen_fd, POLLIN, 0};
-    if (poll(&p, 1, 2000) != 1) return false;
+    if (poll(&p, 1, 2000) != 1)
+        return false;
     fd = accept(listen_fd, nullptr, nullptr);
     return fd >= 0;
 }
@@ -96,14 +100,16 @@ void Peer::Send(const std::string& text)
 
 void Peer::Drop()
 {
-    if (fd >= 0) close(fd);
+    if (fd >= 0)
+        close(fd);
     fd = -1;
     received.clear();
 }
 
 void Peer::StopListening()
 {
-    if (listen_fd >= 0) close(listen_fd);
+    if (listen_fd >= 0)
+        close(listen_fd);
     listen_fd = -1;
 }
 
@@ -113,7 +119,8 @@ std::vector<std::string> Peer::Lines(int wait_ms)
     char buf[4096];
     while (poll(&p, 1, wait_ms) == 1) {
         const ssize_t n = recv(fd, buf, sizeof buf, 0);
-        if (n <= 0) break;
+        if (n <= 0)
+            break;
         received.append(buf, size_t(n));
         wait_ms = 5;
     }
@@ -127,7 +134,8 @@ std::vector<std::string> TakeQueuedCommands()
 {
     std::vector<std::string> commands;
     char text[CMD_SIZE];
-    while (Net_TakeQueued(text, sizeof text)) commands.emplace_back(text);
+    while (Net_TakeQueued(text, sizeof text))
+        commands.emplace_back(text);
     return commands;
 }
 
@@ -180,7 +188,8 @@ bool Load(const std::string& path, Picture* p)
 {
     png_image image{};
     image.version = PNG_IMAGE_VERSION;
-    if (!png_image_begin_read_from_file(&image, path.c_str())) return false;
+    if (!png_image_begin_read_from_file(&image, path.c_str()))
+        return false;
     image.format = PNG_FORMAT_RGB;
     p->w = int(image.width);
     p->h = int(image.height);
@@ -199,7 +208,8 @@ testing::AssertionResult MatchesGolden(const std::string& name, Rect part)
     const std::string golden = TEST_SOURCE_DIR "/screen/golden/" + name + ".png";
     const Picture actual = Grab(Screen, part);
     if (getenv("TM3_GOLDEN_UPDATE")) {
-        if (!Save(golden, actual)) return testing::AssertionFailure() << "cannot write " << golden;
+        if (!Save(golden, actual))
+            return testing::AssertionFailure() << "cannot write " << golden;
         return testing::AssertionSuccess();
     }
     Picture expected;
@@ -209,7 +219,9 @@ testing::AssertionResult MatchesGolden(const std::string& name, Rect part)
 
     const std::string out = TEST_OUT_DIR "/" + name;
     Save(out + ".actual.png", actual);
-    if (!loaded) return testing::AssertionFailure() << "no picture " << golden << "; drew " << out << ".actual.png";
+    if (!loaded)
+        return testing::AssertionFailure()
+               << "no picture " << golden << "; drew " << out << ".actual.png";
     Save(out + ".expected.png", expected);
     if (expected.w != actual.w || expected.h != actual.h)
         return testing::AssertionFailure() << name << ": another size; see " << out << ".*.png";
@@ -226,8 +238,9 @@ testing::AssertionResult MatchesGolden(const std::string& name, Rect part)
         }
     }
     Save(out + ".difference.png", difference);
-    return testing::AssertionFailure() << name << ": " << count << " pixels differ, the first at (" << first_x
-                                       << ", " << first_y << "); see " << out << ".*.png";
+    return testing::AssertionFailure()
+           << name << ": " << count << " pixels differ, the first at (" << first_x << ", "
+           << first_y << "); see " << out << ".*.png";
 }
 
 int main(int argc, char** argv)

@@ -1,5 +1,5 @@
-// harness: what the tests share: a clock that only moves when told, a 32-bit screen without a display, and peers
-// on the loopback that play the server.
+// harness: what the tests share: a clock that only moves when told, a 32-bit screen without a
+// display, and peers on the loopback that play the server.
 #pragma once
 #include "types.h"
 #include <SDL.h>
@@ -33,15 +33,15 @@ struct Peer {
     std::vector<std::string> Lines(int wait_ms = 50);
 };
 
-// The commands that the application has queued since the last call, as they would go over the wire. Takes them off
-// the queue: for tests without a peer.
+// The commands that the application has queued since the last call, as they would go over the wire.
+// Takes them off the queue: for tests without a peer.
 std::vector<std::string> TakeQueuedCommands();
 
 // --- Pictures ---
 uint32_t PixelAt(int x, int y); // 0x00RRGGBB
-// Compare the screen with tests/screen/golden/NAME.png. A missing or different picture fails; expected, actual and
-// difference are left in the build folder's screen/. With TM3_GOLDEN_UPDATE set in the environment the picture is
-// written instead: look at it before you commit it.
+// Compare the screen with tests/screen/golden/NAME.png. A missing or different picture fails;
+// expected, actual and difference are left in the build folder's screen/. With TM3_GOLDEN_UPDATE
+// set in the environment the picture is written instead: look at it before you commit it.
 testing::AssertionResult MatchesGolden(const std::string& name, Rect part = {0, 0, 799, 599});
 // The screen as a PNG file, for people.
 bool WritePng(const std::string& path, SDL_Surface* surface);

@@ -1,0 +1,275 @@
+#include "a_pc.h"
+#include "bus.h"
+#include "global.h"
+#include "harness.h"
+#include "initread.h"
+#include "log.h"
+#include "loop.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include "storage.h"
+#include <algorithm>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+struct Seen {
+    int msg;
+    MsgArg ax, bx, cx, dx;
+};
+std::vector<Seen> seen; // what reached the page, but for repaints
+int redraw_ms = -1;     // ax of the last repaint
+
+int Probe(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    if (msg == MSG_REDRAW)
+        redraw_ms = int(ax);
+    else
+        seen.push_back({msg, ax, bx, cx, dx});
+    return 0;
+}
+int ProbeCreate(int, uint32_t)
+{
+    return 0;
+}
+
+constexpr PC_TBL probe_code = {.proc_func = Probe, .create_func = ProbeCreate};
+PAGE probe_page = {.id = 0x33110100, .tree = {"Probe"}, .obj = {{OBJ_PC, &probe_code, 0}}};
+
+SDL_Event Button(int type, int x, int y, int button = SDL_BUTTON_LEFT)
+{
+    SDL_Event e{};
+    e.type = uint8_t(type);
+    e.button.button = uint8_t(button);
+    e.button.x = uint16_t(x);
+    e.button.y = uint16_t(y);
+    return e;
+}
+
+SDL_Event Motion(int x, int y, int state)
+{
+    SDL_Event e{};
+    e.type = SDL_MOUSEMOTION;
+    e.motion.x = uint16_t(x);
+    e.motion.y = uint16_t(y);
+    e.motion.state = uint8_t(state);
+    return e;
+}
+
+size_t Count(int msg)
+{
+    return size_t(
+        std::count_if(seen.begin(), seen.end(), [&](const Seen& s) { return s.msg == msg; }));
+}
+
+struct Loop : testing::Test {
+    void SetUp() override
+    {
+        Harness_Reset();
+        SDL_Event e;
+        while (SDL_PollEvent(&e)) {
+        }
+        GL_ChatteringTime = 130;
+        GL_CreatePage = 0;
+        GL_InitRead = GL_InitProgress = 0;
+        GL_MouseWheelDirection = 0;
+        CopyServerAddress();
+        Page = &probe_page;
+        PC_Create(&probe_code, 0);
+        Clock_ms = 100000;
+        MainPass();
+        Clear();
+    }
+    void TearDown() override { PC_Create(nullptr, 0); }
+
+    static void CopyServerAddress()
+    {
+        snprintf(GL_ServerAddress, sizeof GL_ServerAddress, "127.0.0.1");
+    }
+    static void Clear()
+    {
+        seen.clear();
+        redraw_ms = -1;
+    }
+    // One event through the whole pass.
+    static void Pass(SDL_Event e)
+    {
+        SDL_PushEvent(&e);
+        MainPass();
+    }
+};
+} // namespace
+
+TEST_F(Loop, APassLastsTenMillisecondsAndItsStepIsClamped)
+{
+    static const struct {
+        int step_ms; // the clock's step since the last pass
+        int elapsed_ms;
+        int waited_ms;
+    } cases[] = {
+        {.step_ms = 0, .elapsed_ms = 10, .waited_ms = 10},
+        {.step_ms = 3, .elapsed_ms = 10, .waited_ms = 7},
+        {.step_ms = 9, .elapsed_ms = 10, .waited_ms = 1},
+        {.step_ms = 10, .elapsed_ms = 10, .waited_ms = 0},
+        {.step_ms = 777, .elapsed_ms = 777, .waited_ms = 0},
+        {.step_ms = 5000, .elapsed_ms = 5000, .waited_ms = 0},
+        {.step_ms = 60000, .elapsed_ms = 5000, .waited_ms = 0},
+        {.step_ms = -2000, .elapsed_ms = 10, .waited_ms = 10}, // the clock was set back
+    };
+    for (const auto& c : cases) {
+        Clock_ms = TickBefore + uint32_t(c.step_ms);
+        const uint32_t before = Clock_ms;
+        MainPass();
+        EXPECT_EQ(redraw_ms, c.elapsed_ms) << c.step_ms;
+        EXPECT_EQ(int(Clock_ms - before), c.waited_ms) << c.step_ms;
+    }
+}
+
+TEST_F(Loop, ABouncingContactIsFilteredUntilItIsQuiet)
+{
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 10, 20));
+    EXPECT_EQ(Count(MSG_PRESS), 1u);
+    for (int bounce = 0; bounce < 4;
+         bounce++) { // each too soon after the one before, filtered or not
+        Pass(Button(SDL_MOUSEBUTTONUP, 10, 20));
+        MainPass();
+        Clock_ms += 90;
+        Pass(Button(SDL_MOUSEBUTTONDOWN, 10, 20));
+    }
+    EXPECT_EQ(Count(MSG_PRESS), 1u);
+    EXPECT_EQ(Count(MSG_RELEASE), 4u); // a release always goes out
+    MainPass();
+    Clock_ms += 131;
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 30, 40));
+    ASSERT_EQ(Count(MSG_PRESS), 2u);
+    EXPECT_EQ(seen.back().ax, 30);
+    EXPECT_EQ(seen.back().bx, 40);
+    EXPECT_EQ(seen.back().cx, SDL_BUTTON_LEFT);
+}
+
+TEST_F(Loop, AClockSetBackDoesNotLoseAPress)
+{
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 10, 20));
+    MainPass();
+    Clock_ms -= 5000;
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 10, 20));
+    EXPECT_EQ(Count(MSG_PRESS), 2u);
+}
+
+TEST_F(Loop, ASecondPressCountsOnlyOnceTheQueueHasRunEmpty)
+{
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 10, 20));
+    Clock_ms += 500;
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 11, 21)); // no empty pass in between
+    EXPECT_EQ(Count(MSG_PRESS), 1u);
+    MainPass();
+    Clock_ms += 500;
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 12, 22));
+    EXPECT_EQ(Count(MSG_PRESS), 2u);
+}
+
+TEST_F(Loop, ADragIsDeliveredNineStepsAPass)
+{
+    for (int i = 0; i < 12; i++) {
+        SDL_Event e = Motion(100 + i, 50, 1 | 4);
+        SDL_PushEvent(&e);
+    }
+    MainPass();
+    ASSERT_EQ(Count(MSG_DRAG), 9u);
+    EXPECT_EQ(seen[8].ax, 108);
+    EXPECT_EQ(seen[8].cx, 1);
+    EXPECT_EQ(seen[8].dx, 4);
+    MainPass();
+    EXPECT_EQ(Count(MSG_DRAG), 12u);
+}
+
+TEST_F(Loop, TheWheelTurnsTheWayTheOperatorChose)
+{
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 5, 6, SDL_BUTTON_WHEELUP));
+    EXPECT_EQ(Count(MSG_WHEELUP), 1u);
+    GL_MouseWheelDirection = 1;
+    Pass(Button(SDL_MOUSEBUTTONDOWN, 5, 6, SDL_BUTTON_WHEELUP));
+    EXPECT_EQ(Count(MSG_WHEELDOWN), 1u);
+    EXPECT_EQ(Count(MSG_PRESS), 0u); // nothing with arrows is on the page
+}
+
+TEST_F(Loop, APageRequestIsServedOnceAndForgottenWhenItFails)
+{
+    GL_CreatePage = 0x00110000;
+    MainPass();
+    EXPECT_EQ(GL_NowPage, 0x00110000u);
+    EXPECT_EQ(GL_CreatePage, 0u);
+    GL_CreatePage = 0x12345678;
+    MainPass();
+    EXPECT_EQ(GL_NowPage, 0x00110000u);
+    EXPECT_EQ(GL_CreatePage, 0u);
+    GL_ScreenSaver_Now = 1;
+    GL_CreatePage = 0x12110000;
+    MainPass();
+    EXPECT_EQ(GL_NowPage, 0x00110000u); // waits for the screen
+    GL_ScreenSaver_Now = 0;
+    MainPass();
+    EXPECT_EQ(GL_NowPage, 0x12110000u);
+}
+
+TEST_F(Loop, TheTimedProgressEndsOnTheInitialPage)
+{
+    GL_InitialPage = 0x12110000;
+    InitialProgress(1);
+    EXPECT_EQ(GL_MainCounter, 0u);
+    for (int pass = 0; pass < 3000; pass++)
+        MainPass();
+    EXPECT_EQ(GL_InitProgress, 1);
+    MainPass();
+    EXPECT_EQ(GL_InitProgress, 0);
+    MainPass();
+    EXPECT_EQ(GL_NowPage, 0x12110000u);
+}
+
+TEST_F(Loop, ACaptureTakesTheFirstFreeOfNineNames)
+{
+    GL_USB_AutoScan = 0;
+    mkdir("/mnt/usb/usb1", 0755);
+    snprintf(GL_ImportDataPath, sizeof GL_ImportDataPath, "/mnt/usb/usb1");
+    GL_NowPage = 0x12310002;
+    for (int n = 1; n <= 9; n++) {
+        char name[80];
+        snprintf(name, sizeof name, "/mnt/usb/usb1/menuss_1231_02_%d.bmp", n);
+        EXPECT_NE(access(name, F_OK), 0);
+        Screen_Capture();
+        EXPECT_EQ(access(name, F_OK), 0) << name;
+    }
+    Screen_Capture(); // all taken: nothing more is written
+    EXPECT_NE(access("/mnt/usb/usb1/menuss_1231_02_10.bmp", F_OK), 0);
+    snprintf(GL_ImportDataPath, sizeof GL_ImportDataPath, "/mnt/usb/none");
+    Screen_Capture();
+    EXPECT_NE(access("/mnt/usb/none", F_OK), 0);
+}
+
+TEST_F(Loop, TheReducedPassKeepsTheScreenAliveAndNothingElse)
+{
+    GL_CreatePage = 0x12110000;
+    SDL_Event e = Button(SDL_MOUSEBUTTONDOWN, 7, 8);
+    SDL_PushEvent(&e);
+    MainEventCheck();
+    EXPECT_EQ(Count(MSG_PRESS), 1u);
+    EXPECT_EQ(redraw_ms, 10);
+    EXPECT_NE(GL_NowPage, 0x12110000u);
+    e = Button(SDL_MOUSEBUTTONDOWN, 7, 8); // no filter here
+    SDL_PushEvent(&e);
+    MainEventCheck();
+    EXPECT_EQ(Count(MSG_PRESS), 2u);
+    GL_CreatePage = 0;
+}
+
+TEST_F(Loop, ClosingTheWindowEndsTheLoop)
+{
+    SDL_Event e{};
+    e.type = SDL_QUIT;
+    SDL_PushEvent(&e);
+    EXPECT_EQ(MainPass(), 1);
+    EXPECT_EQ(redraw_ms, 10); // the pass is finished first
+    EXPECT_EQ(MainPass(), 0);
+}

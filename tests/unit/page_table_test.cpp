@@ -1,0 +1,199 @@
+// What must hold for every row of the page table, also for pages that nobody thought of when a rule
+// was written.
+#include "a_bt.h"
+#include "a_nb.h"
+#include "a_vf.h"
+#include "command.h"
+#include "harness.h"
+#include "page.h"
+#include "tdl.h"
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <set>
+#include <string>
+
+namespace
+{
+const BT_TBL* ButtonsOf(const PAGE& page)
+{
+    for (const auto& object : page.obj)
+        if (object.type == OBJ_BT)
+            return static_cast<const BT_TBL*>(object.addr);
+    return nullptr;
+}
+
+template <typename Visit> void ForEachPage(Visit visit)
+{
+    for (PAGE* page = PageTable; page->id != PAGE_END; page++)
+        visit(*page);
+}
+
+template <typename Visit> void ForEachButton(Visit visit)
+{
+    ForEachPage([&](PAGE& page) {
+        for (const BT_TBL* b = ButtonsOf(page); b && b->id >= 1; b++)
+            visit(page, *b);
+    });
+}
+
+bool IsJump(const BT_TBL& b)
+{
+    return b.cmd[0] && (b.cmd[0][0] == '#') &&
+           (b.type == BT_JUMP || b.type == BT_JUMP_10KEY || b.type == BT_JUMP_KEYBOARD ||
+            b.type == BT_JUMP_POPUP);
+}
+
+// The page that a jump of this page requests, as the button works it out.
+uint32_t TargetOf(PAGE& page, const BT_TBL& b)
+{
+    Page = &page;
+    GL_NowTree = page.tree;
+    GL_NowPage = page.id;
+    const char* number = b.cmd[0] + 1;
+    uint32_t id = uint32_t(strtoul(*number == '+' ? number + 1 : number, nullptr, 16));
+    if (*number == '+')
+        AddPageOffset(&id);
+    return id;
+}
+
+// Every number box that a button of the page may show.
+template <typename Visit> void ForEachBox(Visit visit)
+{
+    ForEachButton([&](PAGE& page, const BT_TBL& b) {
+        if (!b.nb || b.nb == NoKnobs() || SpecialKnobNumber(b.nb))
+            return;
+        for (const NB_TBL* nb = b.nb; nb->id >= 1; nb++)
+            visit(page, b, *nb);
+    });
+}
+} // namespace
+
+TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
+{
+    std::set<uint32_t> ids;
+    ForEachPage(
+        [&](PAGE& page) { EXPECT_TRUE(ids.insert(page.id).second) << std::hex << page.id; });
+    EXPECT_EQ(int(ids.size()) + 1, PageTable_Rows);
+    EXPECT_EQ(PageTable[PageTable_Rows - 1].id, PAGE_END);
+}
+
+TEST(PageTable, EveryMenuKeyOpensAPage)
+{
+    Harness_Reset();
+    for (const TOPMENU* top = TopMenu; top->caption; top++)
+        EXPECT_TRUE(SearchPageTable(top->page)) << top->caption << " " << std::hex << top->page;
+}
+
+TEST(PageTable, EveryPageHasItsBaseFirstAndASectionToGoBackTo)
+{
+    ForEachPage([](PAGE& page) {
+        EXPECT_EQ(page.obj[0].type, OBJ_BA) << std::hex << page.id;
+        ASSERT_TRUE(page.tree[0]) << std::hex << page.id;
+        EXPECT_LE(strlen(page.tree[0]), 20u) << page.tree[0];
+    });
+}
+
+TEST(PageTable, EveryJumpLeadsToAPage)
+{
+    Harness_Reset();
+    int jumps = 0;
+    ForEachButton([&](PAGE& page, const BT_TBL& b) {
+        if (!IsJump(b))
+            return;
+        jumps++;
+        const uint32_t id = TargetOf(page, b);
+        const PAGE* target = SearchPageTable(id);
+        EXPECT_TRUE(target) << std::hex << page.id << " button " << b.id << " to " << id;
+        // A relative jump stays in its bank, its key and its side.
+        if (target && b.cmd[0][1] == '+') {
+            EXPECT_EQ(target->id & 0xFF000000, page.id & 0xFF000000)
+                << std::hex << page.id << " to " << id;
+            if (page.tree[1]) {
+                EXPECT_STREQ(target->tree[1], page.tree[1]);
+            }
+        }
+    });
+    EXPECT_GT(jumps, 1000);
+}
+
+TEST(PageTable, NoCaptionIsCutByItsButton)
+{
+    Harness_Video();
+    ForEachButton([](PAGE& page, const BT_TBL& b) {
+        const int width = b.x2 - b.x1 + 1 - 10; // the caption begins 10 pixels in
+        const int lines = TDL_GetSymbolLine(width, b.caption, 3);
+        int written = 1;
+        for (const char* c = b.caption; *c; c++)
+            written += *c == '\n';
+        EXPECT_EQ(lines, written) << std::hex << page.id << " \"" << b.caption
+                                  << "\" is broken by the machine";
+        EXPECT_LE(lines, 3) << b.caption;
+    });
+}
+
+TEST(PageTable, GroupFramesDoNotReachIntoOneAnother)
+{
+    ForEachPage([](PAGE& page) {
+        struct Frame {
+            std::string title;
+            Rect r;
+        };
+        std::vector<Frame> frames;
+        for (const BT_TBL* b = ButtonsOf(page); b && b->id >= 1; b++) {
+            if (!b->group || !*b->group)
+                continue;
+            auto f = std::find_if(frames.begin(), frames.end(),
+                                  [&](const Frame& x) { return x.title == b->group; });
+            if (f == frames.end())
+                f = frames.insert(f, {b->group, {b->x1, b->y1, b->x2, b->y2}});
+            f->r = {std::min(f->r.x1, b->x1), std::min(f->r.y1, b->y1), std::max(f->r.x2, b->x2),
+                    std::max(f->r.y2, b->y2)};
+        }
+        EXPECT_LE(frames.size(), 12u) << std::hex << page.id;
+        for (const Frame& a : frames)
+            for (const Frame& b : frames)
+                EXPECT_TRUE(&a == &b || a.r.x1 > b.r.x2 || b.r.x1 > a.r.x2 || a.r.y1 > b.r.y2 ||
+                            b.r.y1 > a.r.y2)
+                    << std::hex << page.id << ": \"" << a.title << "\" and \"" << b.title << "\"";
+    });
+}
+
+TEST(PageTable, EveryBoxHasLimitsThatDifferAndACaptionThatFits)
+{
+    Harness_Video();
+    ForEachBox([](PAGE& page, const BT_TBL&, const NB_TBL& nb) {
+        EXPECT_NE(nb.min, nb.max) << std::hex << page.id << " " << nb.caption;
+        EXPECT_LE(TDL_GetSymbolWidth(nb.caption, 3), 74u) << nb.caption;
+    });
+}
+
+TEST(PageTable, BanksAndKeysShareTheirTables)
+{
+    Harness_Reset();
+    static const struct {
+        uint32_t id;
+        const char* bank;
+        const char* key;
+    } cases[] = {
+        {0x11110000, "M/E-1", "Key1"},   {0x12310000, "M/E-2", "Key3"},
+        {0x14410000, "PGM/PST", "DSK4"}, {0x15110000, "M/E-1", "Key5"},
+        {0x18410000, "PGM/PST", "DSK8"}, {0x81210000, "M/E-4", "Key2"},
+        {0x86410000, "M/E-5", "Key8"},
+    };
+    const PAGE* first = nullptr;
+    for (const PAGE* p = PageTable; p->id != PAGE_END; p++)
+        if (p->id == 0x11110000)
+            first = p;
+    ASSERT_TRUE(first);
+    for (const auto& c : cases) {
+        const PAGE* found = nullptr;
+        for (const PAGE* p = PageTable; p->id != PAGE_END; p++)
+            if (p->id == c.id)
+                found = p;
+        ASSERT_TRUE(found) << std::hex << c.id;
+        EXPECT_STREQ(found->tree[0], c.bank);
+        EXPECT_STREQ(found->tree[1], c.key);
+        EXPECT_EQ(ButtonsOf(*found), ButtonsOf(*first));
+    }
+}

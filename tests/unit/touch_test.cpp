@@ -1,0 +1,167 @@
+#include "global.h"
+#include "harness.h"
+#include "i2c.h"
+#include "log.h"
+#include "touch.h"
+#include <fcntl.h>
+#include <linux/input.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+void Calibrate(int ax, int ay, int bx, int by)
+{
+    SYS_TouchScreen_AX = ax;
+    SYS_TouchScreen_AY = ay;
+    SYS_TouchScreen_BX = bx;
+    SYS_TouchScreen_BY = by;
+}
+
+// All events that wait in SDL's queue.
+std::vector<SDL_Event> Events()
+{
+    std::vector<SDL_Event> events;
+    SDL_Event e;
+    SDL_PumpEvents();
+    while (SDL_PeepEvents(&e, 1, SDL_GETEVENT, SDL_ALLEVENTS) == 1)
+        events.push_back(e);
+    return events;
+}
+
+void Finger(int x, int y, int contact)
+{
+    Touch_Record(EV_ABS, ABS_X, x);
+    Touch_Record(EV_ABS, ABS_Y, y);
+    Touch_Record(EV_KEY, BTN_TOUCH, contact);
+    Touch_Record(EV_SYN, 0, 0);
+}
+
+struct Touch : testing::Test {
+    void SetUp() override
+    {
+        Harness_Reset();
+        Touch_Reset();
+        Touch_Resolution = 1023;
+        Calibrate(50, 50, 750, 550);
+        Events();
+    }
+};
+} // namespace
+
+TEST_F(Touch, RawPointsBecomeScreenPointsInTruncatedSteps)
+{
+    static const struct {
+        int resolution, ax, bx, raw, x;
+    } cases[] = {
+        {.resolution = 1023, .ax = 50, .bx = 750, .raw = 0, .x = 0},
+        {.resolution = 1023, .ax = 50, .bx = 750, .raw = 1023, .x = 799}, // 800 is clamped
+        {.resolution = 1023, .ax = 50, .bx = 750, .raw = 512, .x = 400},
+        {.resolution = 4095, .ax = 50, .bx = 750, .raw = 2048, .x = 400},
+        // 60 * 700 / -680 = -61, 50, 234 * 700 / 680 = 240
+        {.resolution = 1023, .ax = 60, .bx = 740, .raw = 300, .x = 229},
+        {.resolution = 1023, .ax = 0, .bx = 799, .raw = 5, .x = 52}, // 3 * 700 / 799 = 2
+        {.resolution = 1023, .ax = 50, .bx = 750, .raw = 2147483647, .x = 799},
+        {.resolution = 1023, .ax = 50, .bx = 750, .raw = -2147483647, .x = 0},
+    };
+    for (const auto& c : cases) {
+        Touch_Resolution = c.resolution;
+        Calibrate(c.ax, 50, c.bx, 550);
+        Finger(c.raw, 0, 1);
+        const auto events = Events();
+        ASSERT_FALSE(events.empty());
+        EXPECT_EQ(events[0].button.x, c.x) << c.raw << " at " << c.ax << ".." << c.bx;
+    }
+}
+
+TEST_F(Touch, ContactComesBeforeMotionAndOnlyOnSynchronisation)
+{
+    Touch_Record(EV_ABS, ABS_X, 512);
+    Touch_Record(EV_KEY, BTN_LEFT, 1);
+    EXPECT_TRUE(Events().empty());
+    Touch_Record(EV_SYN, 0, 0);
+    auto events = Events();
+    ASSERT_GE(events.size(), 2u);
+    EXPECT_EQ(events[0].type, SDL_MOUSEBUTTONDOWN);
+    EXPECT_EQ(events[0].button.button, SDL_BUTTON_LEFT);
+    EXPECT_EQ(events[1].type, SDL_MOUSEMOTION);
+    EXPECT_EQ(events[1].motion.state & 1, 1);
+    // Nothing changed: a synchronisation alone pushes nothing.
+    Touch_Record(EV_SYN, 0, 0);
+    EXPECT_TRUE(Events().empty());
+    Touch_Record(EV_KEY, BTN_TOUCH, 0);
+    Touch_Record(EV_SYN, 0, 0);
+    events = Events();
+    ASSERT_EQ(events.size(), 1u);
+    EXPECT_EQ(events[0].type, SDL_MOUSEBUTTONUP);
+    EXPECT_EQ(events[0].button.x, 400);
+}
+
+TEST_F(Touch, PanelIsFoundGrabbedAndLostAndFoundAgain)
+{
+    // The sandbox's panel is a pipe. Nobody writes: it is open and silent.
+    EXPECT_EQ(touch_open(), 0);
+    ASSERT_GE(Touch_FD, 0);
+    EXPECT_EQ(Touch_Resolution, 1023);
+    EXPECT_EQ(touch_open(), -1); // already open
+
+    const int writer = open("/dev/input/usb-TSC-30_DMC-event", O_WRONLY | O_NONBLOCK);
+    ASSERT_GE(writer, 0);
+    const struct {
+        uint32_t sec, usec;
+        uint16_t type, code;
+        int32_t value;
+    } records[] = {{0, 0, EV_ABS, ABS_X, 512}, {0, 0, EV_KEY, BTN_TOUCH, 1}, {0, 0, EV_SYN, 0, 0}};
+    static_assert(sizeof records == 48);
+    ASSERT_EQ(write(writer, records, sizeof records), ssize_t(sizeof records));
+    Touch_Poll(10);
+    auto events = Events();
+    ASSERT_FALSE(events.empty());
+    EXPECT_EQ(events[0].type, SDL_MOUSEBUTTONDOWN);
+    EXPECT_EQ(events[0].button.x, 400);
+    close(writer);
+
+    // The panel dies under the descriptor: reading a directory is an error.
+    const int dir = open("/dev/input", O_RDONLY | O_DIRECTORY);
+    ASSERT_GE(dir, 0);
+    dup2(dir, Touch_FD);
+    close(dir);
+    Touch_Poll(10);
+    EXPECT_EQ(Touch_FD, -1);
+    Touch_Poll(4999);
+    EXPECT_EQ(Touch_FD, -1); // not yet
+    Touch_Poll(1);
+    EXPECT_GE(Touch_FD, 0);
+    close(Touch_FD);
+    Touch_FD = -1;
+}
+
+TEST_F(Touch, NoPanelIsNoError)
+{
+    ASSERT_EQ(rename("/dev/input/usb-TSC-30_DMC-event", "/dev/input/other"), 0);
+    EXPECT_EQ(touch_open(), 0);
+    EXPECT_EQ(Touch_FD, -1);
+    ASSERT_EQ(rename("/dev/input/other", "/dev/input/usb-TSC-30_DMC-event"), 0);
+}
+
+TEST_F(Touch, CalibrationOutOfRangeFallsBackValueByValue)
+{
+    static const struct {
+        unsigned char bytes[8];
+        int ax, ay, bx, by;
+    } cases[] = {
+        {{0, 60, 0, 70, 2, 0xE4, 2, 0x1C}, 60, 70, 740, 540},
+        {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, 50, 70, 740, 540},
+        {{0, 150, 0, 0, 2, 0x89, 1, 0xC1}, 150, 0, 750, 550}, // 649, 449
+        {{0, 1, 1, 0, 3, 0x1F, 2, 0x57}, 1, 50, 799, 599},
+        {{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, 50, 50, 750, 550},
+    };
+    for (const auto& c : cases) {
+        ASSERT_EQ(I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, 8, c.bytes), 8);
+        Touch_LoadCalibration();
+        EXPECT_EQ(SYS_TouchScreen_AX, c.ax);
+        EXPECT_EQ(SYS_TouchScreen_AY, c.ay);
+        EXPECT_EQ(SYS_TouchScreen_BX, c.bx);
+        EXPECT_EQ(SYS_TouchScreen_BY, c.by);
+    }
+}
