@@ -1,6 +1,7 @@
-// global: the state that all modules read. GL_ is the application's own, SYS_ is what the server told, BUS_ are the
-// name tables of the buses. Every value is valid from its first tally; readers live with the initial value, since
-// pages come up before the server has answered. Devices and what is derived from them are in device.
+// global: the state that all modules read. GL_ is the application's own, SYS_ is what the server
+// told, BUS_ are the name tables of the buses. Every value is valid from its first tally; readers
+// live with the initial value, since pages come up before the server has answered. Devices and what
+// is derived from them are in device.
 #pragma once
 #include "types.h"
 #include <SDL.h>
@@ -68,7 +69,6 @@ extern int GL_MenuMacro_AT_Store;
 extern int GL_MenuMacro_Run;
 extern int GL_Progressbar_Restore_End;
 extern int GL_DeviceNo; // device of the last "Page" tally, from 0
-extern int GL_ST_area_update_draw;
 extern int GL_MM_Knob_Protcol;
 extern uint32_t GL_ShortCutMenu; // the page that asked for a shortcut, and its button
 extern int GL_SelectButtonID;
@@ -128,8 +128,9 @@ extern int SYS_KeyTransitionME4;
 extern int SYS_KeyTransitionME5;
 extern int SYS_KeyTransitionPP;
 extern int multiprogram2_me[ME_COUNT]; // index 0 is P/P, 1..5 M/E-1 to M/E-5
-extern int me_config_type[ME_COUNT];   // the same index: 1 standard, 2 multi program, 3 multi program 2, 4 DSK
-extern int GL_KeyMax[ME_COUNT];        // keys of a bank, 4 or 8
+// The same index: 1 standard, 2 multi program, 3 multi program 2, 4 DSK.
+extern int me_config_type[ME_COUNT];
+extern int GL_KeyMax[ME_COUNT]; // keys of a bank, 4 or 8
 extern int GL_KeyRowMode;
 extern int GL_BoardMESplit[5];
 constexpr int PANEL_ROWS = 14;
