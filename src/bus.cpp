@@ -1,0 +1,314 @@
+#include "bus.h"
+#include "a_ba.h"
+#include "a_bt.h"
+#include "a_dw.h"
+#include "a_ff.h"
+#include "a_fl.h"
+#include "a_fm.h"
+#include "a_hf.h"
+#include "a_kf.h"
+#include "a_kp.h"
+#include "a_ls.h"
+#include "a_nb.h"
+#include "a_pc.h"
+#include "a_ps.h"
+#include "a_st.h"
+#include "a_vf.h"
+#include "command.h"
+#include "debug.h"
+#include "err.h"
+#include "file.h"
+#include "fmctrl.h"
+#include "fmctrl3.h"
+#include "global.h"
+#include "info.h"
+#include "log.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include "pane.h"
+#include "register.h"
+#include "scrollbar.h"
+#include "text.h"
+#include "window.h"
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+#include "safeguards.h"
+
+// What one pass takes off the links, so that a burst of tallies cannot stall the screen.
+constexpr int TEXT_LINES_A_PASS = 129;
+constexpr int BIN_FRAMES_A_PASS = 257;
+constexpr int SHP_LINES_A_PASS = 129;
+
+constexpr uint32_t INTERNAL_BITS = 0xF0000000;
+constexpr unsigned char FRAME_REGION_STREAM = 132;
+constexpr int FRAME_HEAD = 7; // length, command, id
+constexpr int FRAME_MARK = 2; // behind the data
+
+static int MsgMask[BUS_OBJECT_TYPES]; // message bits withheld, by object type
+
+// --- Names for the log ---
+
+namespace
+{
+struct MessageName {
+    int msg;
+    const char* name;
+};
+} // namespace
+
+#define NAMED(msg)                                                                                 \
+    {                                                                                              \
+        msg, #msg                                                                                  \
+    }
+static constexpr MessageName message_names[] = {
+    NAMED(LMSG_LISTSEL),     NAMED(LMSG_BTNSEL),       NAMED(LMSG_KNOBVAR),
+    NAMED(LMSG_KNOBFVAR),    NAMED(LMSG_PULLDOWNSEL),  NAMED(LMSG_SBSEL),
+    NAMED(LMSG_LISTAREASEL), NAMED(LMSG_REGIONSTATUS), NAMED(LMSG_REGSELCHANGE),
+    NAMED(LMSG_SELECTBOX),   NAMED(LMSG_PATHSELSEL),   NAMED(LMSG_LISTFLASH),
+    NAMED(LMSG_KNOBUPPER),   NAMED(LMSG_KNOBLOWER),    NAMED(LMSG_KNOBCREATE),
+    NAMED(LMSG_KNOBDEFAULT), NAMED(LMSG_FMPAIRCHANGE), NAMED(LMSG_FMSELCHANGE),
+    NAMED(LMSG_FMOUTCHANGE), NAMED(LMSG_FMREGSEL),     NAMED(LMSG_FMCTRLCHANGE),
+    NAMED(LMSG_PANEBTNSEL),  NAMED(LMSG_PANEQUIT),     NAMED(LMSG_PANEREGION),
+    NAMED(LMSG_FILESTATUS),  NAMED(LMSG_REGISTER),     NAMED(LMSG_DMEREFCHANGE),
+    NAMED(LMSG_KNOBDIFF),
+};
+#undef NAMED
+
+constexpr bool NamesAreInOrder()
+{
+    for (size_t i = 0; i < std::size(message_names); i++)
+        if ((message_names[i].msg & 0xFF) != int(i) + 1)
+            return false;
+    return std::size(message_names) == 28;
+}
+static_assert(NamesAreInOrder());
+
+static void bus_log_internal(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    const size_t number = msg & 0xFF;
+    if (number < 1 || number > std::size(message_names))
+        return;
+    Log_Output(LOG_TRACE, MOD_PAGE, "LMSG: %s ax=%d, bx=%d, cx=%d, dx=%d",
+               message_names[number - 1].name, int(ax), int(bx), int(cx), int(dx));
+}
+
+// --- Delivery ---
+
+static bool bus_is_event(int msg)
+{
+    return (uint32_t(msg) & INTERNAL_BITS) == 0;
+}
+
+static bool bus_is_masked(int type, int msg)
+{
+    return bus_is_event(msg) && (msg & MsgMask[type]) != 0;
+}
+
+static bool bus_find_takes_input(int msg)
+{
+    switch (msg) {
+    case MSG_PRESS:
+    case MSG_RELEASE:
+    case MSG_DRAG:
+    case MSG_WHEELUP:
+    case MSG_WHEELDOWN: return GL_FM_Find_Window != 0 || Pane_Exist(GL_FM_Find_PaneID) != 0;
+    default: return false;
+    }
+}
+
+// Non-zero when the object consumed the message.
+static int bus_offer(int type, int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    switch (type) {
+    case OBJ_BA: return BA_Proc(msg, ax, bx, cx, dx);
+    case OBJ_BT: return BT_Proc(msg, ax, bx, cx, dx);
+    case OBJ_HF: return HF_Proc(msg, ax, bx, cx, dx);
+    case OBJ_VF: return VF_Proc(msg, ax, bx, cx, dx);
+    case OBJ_NB: return NB_Proc(msg, ax, bx, cx, dx);
+    case OBJ_PS: return PS_Proc(msg, ax, bx, cx, dx);
+    case OBJ_LS: return LS_Proc(msg, ax, bx, cx, dx);
+    case OBJ_PC: return PC_Proc(msg, ax, bx, cx, dx);
+    case OBJ_KF: return KF_Proc(msg, ax, bx, cx, dx);
+    case OBJ_ST: return ST_Proc(msg, ax, bx, cx, dx);
+    case OBJ_DW: return DW_Proc(msg, ax, bx, cx, dx);
+    case OBJ_FM: return FM_Proc(msg, ax, bx, cx, dx);
+    case OBJ_KP: return KP_Proc(msg, ax, bx, cx, dx);
+    case OBJ_FL: return FL_Proc(msg, ax, bx, cx, dx);
+    case OBJ_FF: return FF_Proc(msg, ax, bx, cx, dx);
+    // The engineering menu and the error list see everything and take nothing.
+    case OBJ_DEBUG: (void)Debug_Proc(msg, ax, bx, cx, dx); return 0;
+    case OBJ_ERR: (void)Err_Proc(msg, ax, bx, cx, dx); return 0;
+    default: return 0;
+    }
+}
+
+static void bus_walk_objects(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    if (!Page)
+        return;
+    for (const _pageobject& object : Page->obj) {
+        if (object.type <= OBJ_END)
+            return;
+        if (object.type >= BUS_OBJECT_TYPES || bus_is_masked(object.type, msg))
+            continue;
+        if (bus_offer(object.type, msg, ax, bx, cx, dx))
+            return;
+    }
+}
+
+int SendMessage(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    if (!bus_is_event(msg))
+        bus_log_internal(msg, ax, bx, cx, dx);
+    if (msg == MSG_TALLY) {
+        switch (InterpretTally(Text(ax), Text(bx), uint32_t(cx))) {
+        case TallyRoute::Taken: return 1;
+        case TallyRoute::Refused: return -1;
+        case TallyRoute::Pass: break;
+        }
+    }
+
+    RegisterProc(msg, ax, bx, cx, dx);
+    FileProc(msg, ax, bx, cx, dx);
+    FMCtrlProc(msg, ax, bx, cx, dx);
+    FMCtrl3_Proc(msg, ax, bx, cx, dx);
+    InfoProc(msg, ax, bx, cx, dx);
+
+    if (PaneProc(msg, ax, bx, cx, dx))
+        return 0;
+    if (WindowProc(msg, ax, bx, cx, dx))
+        return 0;
+    // The scroll bars have no mask of their own: they follow the base area's.
+    if (!bus_is_masked(OBJ_BA, msg))
+        ScrollBarProc(msg, ax, bx, cx, dx);
+    if (bus_find_takes_input(msg))
+        return 0;
+    bus_walk_objects(msg, ax, bx, cx, dx);
+    return 0;
+}
+
+// Cut "path#value" in place and return the value. A text without '#' has no value, and the cut
+// falls on its last character. That is meant: such lines lose it. The text must not be empty.
+static char* bus_cut_value(char* text)
+{
+    char* value = FindVarPointer(text);
+    value[-1] = '\0';
+    return value;
+}
+
+int SendDummyTally(const char* text)
+{
+    if (!text)
+        return -1;
+    Log_Output(LOG_TRACE, MOD_GLOBAL, "LOCAL: %s", text);
+    if (!*text)
+        return 0;
+    // On the stack: a handler of this tally may well play another one.
+    char line[CMD_SIZE];
+    CopyText(line, text);
+    const char* value = bus_cut_value(line);
+    SendMessage(MSG_TALLY, Arg(line), Arg(value), Hash(line), 0);
+    return 0;
+}
+
+// --- Masks ---
+
+void HackMessage(int type, int mask)
+{
+    if (type >= BUS_OBJECT_TYPES)
+        return;
+    for (int t = 0; t < BUS_OBJECT_TYPES; t++)
+        if (type <= 0 || t == type)
+            MsgMask[t] |= mask;
+}
+
+void UnHackMessage(int type)
+{
+    if (type >= BUS_OBJECT_TYPES)
+        return;
+    for (int t = 0; t < BUS_OBJECT_TYPES; t++)
+        if (type <= 0 || t == type)
+            MsgMask[t] = 0;
+}
+
+// --- The drain of the links ---
+
+static void bus_drain_text()
+{
+    for (int i = 0; i < TEXT_LINES_A_PASS; i++) {
+        char* path = Net_ReceiveCommand();
+        if (!path)
+            return;
+        if (!*path)
+            continue;
+        const char* value = bus_cut_value(path);
+        SendMessage(MSG_TALLY, Arg(path), Arg(value), Hash(path), 0);
+    }
+}
+
+// The sender counts the payload from a length with its bytes the other way round than the framing
+// does. The count is kept as it is read, but never reaches past the bytes that came.
+static int bus_payload_length(const unsigned char* frame, int length)
+{
+    const int counted = ((frame[1] << 8) | frame[0]) - (FRAME_HEAD + FRAME_MARK);
+    const int came = length - (FRAME_HEAD + FRAME_MARK);
+    return std::max(0, std::min(counted, came));
+}
+
+static void bus_drain_frames()
+{
+    for (int i = 0; i < BIN_FRAMES_A_PASS; i++) {
+        int length = 0;
+        const unsigned char* frame = Net_ReceiveBinCommand(&length);
+        if (!frame)
+            return;
+        if (length < FRAME_HEAD + FRAME_MARK || frame[2] != FRAME_REGION_STREAM)
+            continue;
+        const uint32_t id = uint32_t(frame[3]) | uint32_t(frame[4]) << 8 |
+                            uint32_t(frame[5]) << 16 | uint32_t(frame[6]) << 24;
+        KF_Proc(MSG_BINTALLY, MsgArg(id), Arg(frame + FRAME_HEAD),
+                bus_payload_length(frame, length), 0);
+    }
+}
+
+// Of the hub's tables only the file tables of all units and this panel's own clip store are of
+// interest.
+static bool bus_shp_is_wanted(const char* table)
+{
+    if (BeginsWith(table, "SWR") || BeginsWith(table, "PNL"))
+        return table[3] != '\0' && strcmp(table + 4, ".File") == 0;
+    if (BeginsWith(table, "CS"))
+        return (table[2] != '\0' && strcmp(table + 3, ".File") == 0) || is_refCS_command(table);
+    return false;
+}
+
+static void bus_drain_shp()
+{
+    for (int i = 0; i < SHP_LINES_A_PASS; i++) {
+        char* verb = Net_ReceiveSHPCommand();
+        if (!verb)
+            return;
+        if (!*verb)
+            continue;
+        char* table = bus_cut_value(verb);
+        char* row = nullptr;
+        if (strcmp(verb, "Ready") != 0) {
+            row = FindSHPRowIDPointer(table);
+            if (row > table && row[-1] == ':')
+                row[-1] = '\0'; // no row: the table name stays whole
+        }
+        if (!bus_shp_is_wanted(table))
+            continue;
+        SendMessage(MSG_SHPTALLY, Arg(verb), Arg(table), Hash(verb), Arg(row));
+    }
+}
+
+void ReceiveCommand_Management()
+{
+    bus_drain_text();
+    bus_drain_frames();
+    bus_drain_shp();
+}

@@ -1,0 +1,241 @@
+// Operation modes: which pages exist in them, and whether the current one still does.
+#include "bus_needs.h"
+#include "bus_tally.h"
+#include "device.h"
+#include "global.h"
+#include "netio.h"
+#include "page.h"
+#include <iterator>
+
+#include "safeguards.h"
+
+// --- Proc and simulcast mode of this panel ---
+
+static constexpr const char* second_pair_paths[] = {
+    "Engineering Setup@Switcher@SDI I/F@DME3",
+    "Engineering Setup@Switcher@SDI I/F@DME4",
+    "Engineering Setup@DME@Model@DME3",
+    "Engineering Setup@DME@Model@DME4",
+};
+static constexpr const char* combine_paths[] = {
+    "Global Effect@Ch1-Ch2@Combine@Ch2", "Global Effect@Ch3-Ch4@Combine@Ch2",
+    "Global Effect@Ch5-Ch6@Combine@Ch2", "Global Effect@Ch7-Ch8@Combine@Ch2",
+    "Global Effect@Ch1-Ch4@Combine@Ch1", "Global Effect@Ch1-Ch4@Combine@Ch2",
+    "Global Effect@Ch1-Ch4@Combine@Ch3", "Global Effect@Ch1-Ch4@Combine@Ch4",
+    "Global Effect@Ch5-Ch8@Combine@Ch5", "Global Effect@Ch5-Ch8@Combine@Ch6",
+    "Global Effect@Ch5-Ch8@Combine@Ch7", "Global Effect@Ch5-Ch8@Combine@Ch8",
+};
+
+static bool contains(const char* text, const char* part)
+{
+    return strstr(text, part) != nullptr;
+}
+
+// The page itself where it still exists, else its tab, its menu, the top menu.
+static uint32_t nearest_page(uint32_t id)
+{
+    const uint32_t candidates[] = {id, id & 0xFFFF0000, (id & 0xFF000000) | 0x00110000};
+    for (const uint32_t candidate : candidates)
+        if (SearchPageTable(candidate))
+            return candidate;
+    return PAGE_TOP;
+}
+
+TallyRoute tally_operation_mode(const Tally& t)
+{
+    if (SYS_MyPnl < 0 || SYS_MyPnl >= UNIT_MAX || !Same(t.rest, SYS_PnlName[SYS_MyPnl]))
+        return TallyRoute::Pass;
+
+    const int before[] = {SYS_DualProc, SYS_Simul, SYS_DualSimul};
+    SYS_DualProc = contains(t.value, "Dual");
+    SYS_Simul = contains(t.value, "Single Simul");
+    SYS_DualSimul = contains(t.value, "Dual Simul");
+    const int after[] = {SYS_DualProc, SYS_Simul, SYS_DualSimul};
+
+    if (contains(t.value, "Single Proc 3G") || contains(t.value, "Dual Proc"))
+        for (const char* path : second_pair_paths)
+            Net_SendCommandFormat("add %s", path);
+    // Every time, not on a change only: after a restart of the server the mode is the same and its
+    // subscriptions are gone. A second "add" does no harm.
+    for (const char* path : combine_paths)
+        Net_SendCommandFormat("add %s", path);
+    DeviceStructure();
+    if (memcmp(before, after, sizeof before) != 0 && Page && GL_CreatePage == 0)
+        GL_CreatePage = nearest_page(GL_NowPage);
+    return TallyRoute::Pass;
+}
+
+// --- Combined channels of the effects units ---
+
+constexpr uint32_t PAGE_COMBINE_FIRST = 0x42170000; // the combine pages of Ch1-Ch4 and Ch5-Ch8
+constexpr uint32_t PAGE_COMBINE_SECOND = 0x42270000;
+constexpr int QUAD = 4;
+
+static void reload_combine_page()
+{
+    if (GL_NowPage == PAGE_COMBINE_FIRST || GL_NowPage == PAGE_COMBINE_SECOND)
+        tally_reload_page();
+}
+
+// A channel says whether it is combined with the one before it, so it takes part in a combination
+// when itself or the next one says so. The first of a quad has none before it.
+static void combine_quad(int first)
+{
+    for (int i = 0; i < QUAD; i++) {
+        const bool with_previous = i > 0 && SYS_CombineCh[first + i];
+        const bool with_next = i + 1 < QUAD && SYS_CombineCh[first + i + 1];
+        SYS_Combine[first + i] = with_previous || with_next;
+    }
+}
+
+// arg: the quad's first channel, from 0.
+TallyRoute tally_combine(const Tally& t)
+{
+    const int channel = Index(t.rest, t.arg + QUAD + 1) - 1;
+    if (channel < t.arg)
+        return TallyRoute::Pass;
+    const int on = IsTrue(t.value);
+    if (SYS_CombineCh[channel] == on)
+        return TallyRoute::Pass;
+    SYS_CombineCh[channel] = on;
+    combine_quad(t.arg);
+    reload_combine_page();
+    return TallyRoute::Pass;
+}
+
+// arg: the pair, from 0.
+TallyRoute tally_combine_pair(const Tally& t)
+{
+    const int on = IsTrue(t.value);
+    if (SYS_CombineDP[t.arg] == on)
+        return TallyRoute::Pass;
+    SYS_CombineDP[t.arg] = on;
+    reload_combine_page();
+    const uint32_t bank = GL_NowPage >> 24;
+    if (bank == 0x41 || bank == 0x42)
+        GL_ST_area_update_draw();
+    return TallyRoute::Pass;
+}
+
+// --- Banks ---
+
+namespace
+{
+struct Bank {
+    const char* name;
+    uint32_t key_page;
+    int* key_transition;
+};
+} // namespace
+
+static constexpr Bank banks[ME_COUNT] = {
+    {"M/E-1", 0x11110000, &SYS_KeyTransitionME1}, {"M/E-2", 0x12110000, &SYS_KeyTransitionME2},
+    {"M/E-3", 0x13110000, &SYS_KeyTransitionME3}, {"M/E-4", 0x81110000, &SYS_KeyTransitionME4},
+    {"M/E-5", 0x82110000, &SYS_KeyTransitionME5}, {"P/P", 0x14110000, &SYS_KeyTransitionPP},
+};
+
+static int bank_by_name(const char* name)
+{
+    for (int i = 0; i < ME_COUNT; i++)
+        if (Same(banks[i].name, name))
+            return i;
+    return -1;
+}
+
+// The bank that a page belongs to, main or sub side; -1 for other pages.
+static int bank_of_page(uint32_t id)
+{
+    const int me = Page_MeIndex(id); // P/P first there, last here
+    return me == 0 ? ME_COUNT - 1 : me - 1 < ME_COUNT - 1 && me > 0 ? me - 1 : -1;
+}
+
+// A bank that the operator may no longer touch is left for the next one that is free.
+static void leave_disabled_bank()
+{
+    const int now = bank_of_page(GL_NowPage);
+    if (now < 0 || SYS_MEOperation[now] == 0)
+        return;
+    uint32_t page = PAGE_TOP;
+    for (int i = now + 1; i < ME_COUNT; i++) {
+        if (SYS_MEOperation[i] != 0)
+            continue;
+        page = banks[i].key_page;
+        break;
+    }
+    // The page that is given up must not stay the "current" one: neither history nor a reload may
+    // go back to it.
+    GL_NowPage = page;
+    GL_CreatePage = page;
+}
+
+TallyRoute tally_me_operation(const Tally& t)
+{
+    const int bank = bank_by_name(t.rest);
+    if (bank < 0)
+        return TallyRoute::Pass;
+    SYS_MEOperation[bank] = Same(t.value, "Disable") ? 1 : Same(t.value, "Inhibit") ? 2 : 0;
+    leave_disabled_bank();
+    return TallyRoute::Pass;
+}
+
+static bool is_transition_page(uint32_t id)
+{
+    const uint32_t tab = id >> 16 & 0xFF;
+    return Page_MeIndex(id) >= 0 && (tab == 0x17 || tab == 0x27 || tab == 0x37 || tab == 0x47);
+}
+
+TallyRoute tally_key_transition(const Tally& t)
+{
+    const int bank = bank_by_name(t.rest);
+    if (bank < 0)
+        return TallyRoute::Pass;
+    const int on = SwitchOrNumber(t.value) != 0;
+    if (*banks[bank].key_transition == on)
+        return TallyRoute::Pass;
+    *banks[bank].key_transition = on;
+    if (is_transition_page(GL_NowPage))
+        tally_reload_page();
+    return TallyRoute::Pass;
+}
+
+// --- Formats with pages of their own ---
+
+constexpr int FRAME_DELAYS = 4;
+constexpr int FRAME_DELAY_PART = 2; // two parts of the format itself stand before them
+
+TallyRoute tally_frame_delay(const Tally& t)
+{
+    Parts p;
+    if (SplitValue(p, t.value, FRAME_DELAY_PART + FRAME_DELAYS) < FRAME_DELAY_PART + FRAME_DELAYS)
+        return TallyRoute::Pass;
+    bool changed = false;
+    for (int i = 0; i < FRAME_DELAYS; i++) {
+        const int mode = SwitchOrNumber(p.v[FRAME_DELAY_PART + i]);
+        changed = changed || SYS_FrameDelayMode2[i] != mode;
+        SYS_FrameDelayMode2[i] = mode;
+    }
+    if (changed)
+        tally_reload_page();
+    return TallyRoute::Pass;
+}
+
+static int is_on(const char* value)
+{
+    return Same(value, "On") || SwitchOrNumber(value) != 0;
+}
+
+// arg: the switcher, from 1. Only this panel's own counts.
+TallyRoute tally_3d_mode(const Tally& t)
+{
+    if (SYS_MySwrMax > 0 && DEV_MySwr[0] && Device_UnitNumber(*DEV_MySwr[0]) != t.arg)
+        return TallyRoute::Pass;
+    SYS_3DMode = is_on(t.value);
+    return TallyRoute::Pass;
+}
+
+TallyRoute tally_4k_mode(const Tally& t)
+{
+    SYS_4KMode = is_on(t.value);
+    DeviceStructure();
+    return TallyRoute::Pass;
+}
