@@ -1,5 +1,6 @@
-// info: the module that always listens. It keeps the server's "Info@" tree, the processor states, the setup of
-// the operation and of the system, and the M/E configuration, whatever page is up. It paints nothing.
+// info: the module that always listens. It keeps the server's "Info@" tree, the processor states,
+// the setup of the operation and of the system, and the M/E configuration, whatever page is up. It
+// paints nothing.
 #pragma once
 #include "types.h"
 
