@@ -1,6 +1,7 @@
-// a_ba: the base area, the frame of every page: page button with the access lamps, title band, history buttons,
-// the area at top right, and the key at lower left (default recall or setup lock). The strip at top right is
-// painted by a_kf; what stands in the work area belongs to the other objects.
+// a_ba: the base area, the frame of every page: page button with the access lamps, title band,
+// history buttons, the area at top right, and the key at lower left (default recall or setup lock).
+// The strip at top right is painted by a_kf; what stands in the work area belongs to the other
+// objects.
 #pragma once
 #include "types.h"
 
@@ -32,6 +33,6 @@ void BA_DrawError();       // an error has taken the title
 void BA_SetFtpAccess(int on);
 void BA_SetUsbAccess(int on);
 void BA_SetHDDAccess(int on);
-void BA_AccessDraw();   // lamps, flushed
-void BA_AccessDraw_s(); // lamps, not flushed
+void BA_AccessDraw();          // lamps, flushed
+void BA_AccessDraw_s();        // lamps, not flushed
 void BA_SetRegionGrp(int grp); // which regions the top right of file pages offers

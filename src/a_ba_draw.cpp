@@ -1,0 +1,308 @@
+#include "a_ba_draw.h"
+#include "global.h"
+#include "graphics.h"
+#include "page.h"
+#include "pane.h"
+#include "setup_index.h"
+#include "tdl.h"
+#include "text.h"
+#include <cstring>
+#include "safeguards.h"
+
+namespace
+{
+constexpr unsigned BLACK = 0x000000;
+constexpr unsigned WHITE = 0xFFFFFF;
+constexpr unsigned GREY = 0x808080;
+constexpr unsigned FRAME = 0x1F1F1F;
+constexpr unsigned RED = 0xFF0000;
+constexpr unsigned GREEN = 0x00FF00;
+constexpr unsigned LAMP_OFF = 0x282828;
+constexpr unsigned TREE_OMOTE = 0xE48B1B;
+constexpr unsigned TREE_URA = 0x800019;
+constexpr unsigned REGION_GRID = 0x323246;
+constexpr Rect NOT_FLUSHED = {0, 0, -1, -1};
+} // namespace
+
+// Inputs of the lamps; they outlive the page.
+static int UsbAccess = 0;
+static int FtpAccess = 0;
+static int HDDAccess = 0;
+
+// --- Page button and lamps ---
+
+void BA_AccessDraw_s()
+{
+    const unsigned off = GL_ScreenSaver_Now ? BLACK : LAMP_OFF;
+    TDL_FillRectS(70, 13, 80, 23, UsbAccess ? RED : FtpAccess ? GREEN : off);
+    TDL_FillRectS(55, 13, 65, 23, HDDAccess ? RED : off);
+}
+
+void BA_AccessDraw()
+{
+    BA_AccessDraw_s();
+    TDL_UpdateRect(55, 13, 80, 23);
+}
+
+static void set_lamp(int& input, int on)
+{
+    input = on;
+    if (ba.Base.create_func)
+        BA_AccessDraw(); // before the first page there is nothing to draw on
+}
+
+void BA_SetFtpAccess(int on)
+{
+    set_lamp(FtpAccess, on);
+}
+
+void BA_SetUsbAccess(int on)
+{
+    set_lamp(UsbAccess, on);
+}
+
+void BA_SetHDDAccess(int on)
+{
+    set_lamp(HDDAccess, on);
+}
+
+Rect ba_drw_pagebtn()
+{
+    ba.PageWindow = ba_page_button_down();
+    TDL_PutS(3, 6, ba.PageWindow ? G_PG_on : G_PG_off);
+    TDL_SymbolS(8, 12, "Page", 2, WHITE);
+    char number[16];
+    PrintText(number, "%04X", unsigned(GL_NowPage >> 16));
+    TDL_SymbolS(12, 33, number, 9, WHITE);
+    if (GL_NowPage & 0xFFFF) {
+        PrintText(number, ".%X", unsigned(GL_NowPage & 0xFF));
+        TDL_SymbolS(58, 36, number, 7, WHITE);
+    }
+    BA_AccessDraw_s();
+    return {3, 6, 88, 63};
+}
+
+// --- Title band ---
+
+static SDL_Surface* title_band()
+{
+    // by side, form and look
+    static SDL_Surface** const bands[2][2][2] = {
+        {{&G_TIT_ura_off, &G_TIT_ura_on}, {&G_TIT_ura_s_off, &G_TIT_ura_s_on}},
+        {{&G_TIT_omote_off, &G_TIT_omote_on}, {&G_TIT_omote_s_off, &G_TIT_omote_s_on}},
+    };
+    return *bands[OmoteFlag != 0][ba_has_short_title()][ba.Title.pushed > 0];
+}
+
+static void tree_line(char (&line)[CMD_SIZE])
+{
+    line[0] = '\0';
+    for (int i = 1; i < PAGE_DEPTH && GL_NowTree[i]; i++) {
+        if (i > 1)
+            AppendText(line, " > ");
+        AppendText(line, GL_NowTree[i]);
+    }
+}
+
+// The cutting verb refuses texts of more than 31 characters with their dots; those are shortened to
+// that first.
+static void draw_cut(int x, int y, int width, const char* text, unsigned col)
+{
+    constexpr size_t LONGEST = 29;
+    if (int(TDL_GetSymbolWidth(text, 4)) <= width) {
+        TDL_SymbolS(x, y, text, 4, col);
+        return;
+    }
+    char head[LONGEST + 3];
+    ktr_strncpy(head, text, LONGEST + 1);
+    if (strlen(text) <= LONGEST) {
+        TDL_SymbolWAddS(x, y, width, head, "..", 4, col);
+        return;
+    }
+    AppendText(head, "..");
+    if (int(TDL_GetSymbolWidth(head, 4)) <= width) {
+        TDL_SymbolS(x, y, head, 4, col);
+        return;
+    }
+    head[LONGEST] = '\0';
+    TDL_SymbolWAddS(x, y, width, head, "..", 4, col);
+}
+
+Rect ba_drw_title()
+{
+    const Rect band = {89, 6, ba_has_short_title() ? 298 : 373, 63};
+    TDL_PutS(band.x1, band.y1, title_band());
+    if (!GL_NowTree || !GL_NowTree[0])
+        return band;
+    TDL_SymbolWS(97, 11, band.x2 - 97, GL_NowTree[0], 9, OmoteFlag ? WHITE : BLACK);
+    const int width = band.x2 - 8 - 99;
+    if (GL_ErrorPopup_On) {
+        draw_cut(99, 46, width, "Error: touch here", RED); // leads to the diagnosis
+        return band;
+    }
+    char line[CMD_SIZE];
+    tree_line(line);
+    draw_cut(99, 46, width, line, OmoteFlag ? TREE_OMOTE : TREE_URA);
+    return band;
+}
+
+static Rect draw_side_key(const BaseWidget& w, const char* caption)
+{
+    const int p = w.pushed > 0;
+    TDL_PutS(299, 6, p ? G_TIT_ms_on : G_TIT_ms_off);
+    TDL_SymbolBS(309 + p, 22 + p, 62, 50, caption, 3, WHITE, 0);
+    return {299, 6, 370, 63};
+}
+
+Rect ba_drw_mainsub()
+{
+    return draw_side_key(ba.MainSub, ba.MainSub_mode ? "Sub" : "Main");
+}
+
+Rect ba_drw_keychange()
+{
+    return draw_side_key(ba.KeyChange, "Key\nChange");
+}
+
+// --- History ---
+
+static void draw_history_page(int x, int x_with_sub, uint32_t page)
+{
+    char number[16];
+    Page_Number(number, sizeof number, page);
+    TDL_SymbolS(strchr(number, '.') ? x_with_sub : x, 52, number, 4, WHITE);
+}
+
+Rect ba_drw_back()
+{
+    TDL_FillRectS(374, 6, 440, 63, FRAME);
+    if (IsTopHistory(OmoteFlag)) {
+        TDL_PutS(389, 6, G_BACK_dis);
+        return NOT_FLUSHED;
+    }
+    TDL_PutS(389, 6, ba.Back.pushed > 0 ? G_BACK_on : G_BACK_off);
+    draw_history_page(394, 388, GetHistoryBack(OmoteFlag));
+    return {374, 6, 440, 63};
+}
+
+Rect ba_drw_fwd()
+{
+    TDL_FillRectS(441, 6, 507, 63, FRAME);
+    if (IsLastHistory(OmoteFlag)) {
+        TDL_PutS(446, 6, G_NEXT_dis);
+        return NOT_FLUSHED;
+    }
+    TDL_PutS(446, 6, ba.Fwd.pushed > 0 ? G_NEXT_on : G_NEXT_off);
+    draw_history_page(451, 445, GetHistoryFwd(OmoteFlag));
+    return {441, 6, 507, 63};
+}
+
+// --- Lower left and lower right ---
+
+constexpr Rect LOWER_LEFT = {4, 531, 87, 595};
+
+Rect ba_drw_default()
+{
+    if (ba.Default) {
+        TDL_PutS(4, 531, G_NBA_on);
+        TDL_SymbolS(16, 546, "Default\nRecall", 3, BLACK);
+    } else {
+        TDL_PutS(4, 531, G_NBA_off);
+        TDL_SymbolS(15, 545, "Default\nRecall", 3, WHITE);
+    }
+    return LOWER_LEFT;
+}
+
+// While the lock is on the key is inert and shows a closed padlock on the pages that it holds.
+// While it is off the key chooses them: amber with an open padlock for a page in the set.
+Rect ba_drw_setuplock()
+{
+    const bool locked_page = ba.SetupLock_id < 0 || SetupMenu[ba.SetupLock_id].lock;
+    const int p = ba.SetupLockKey.pushed > 0;
+    if (SetupLock.lock) {
+        TDL_PutS(4, 531, G_NBA_off);
+        if (locked_page)
+            TDL_PutS(35, 555, G_Lock_On_Button);
+        else
+            TDL_SymbolS(15, 545, "Lock Item\nSelect", 3, GREY);
+    } else if (locked_page) {
+        TDL_PutS(4, 531, G_NBA_On_Rev);
+        TDL_SymbolS(16, 546, "Lock Item\nSelect", 3, BLACK);
+        TDL_PutS(55, 565, G_Lock_Off_Button_Rev);
+    } else {
+        TDL_PutS(4, 531, G_NBA_Off_Rev);
+        TDL_SymbolS(15 + p, 545 + p, "Lock Item\nSelect", 3, WHITE);
+    }
+    return LOWER_LEFT;
+}
+
+Rect ba_drw_menu_macro_default()
+{
+    const int p = ba.MM_Default_Pos.pushed > 0;
+    TDL_PutS(4, 531, p ? G_NBA_on : G_NBA_off);
+    TDL_SymbolS(15 + p, 545 + p, "Default\nPosition", 3, p ? BLACK : WHITE);
+    return LOWER_LEFT;
+}
+
+Rect ba_drw_prev()
+{
+    constexpr uint32_t PAGE_MENU_MACRO = 0x71440002;
+    const bool down = ba.Prev.pushed > 0;
+    if (ba_records_menu_macro() && GL_NowPage != PAGE_MENU_MACRO)
+        TDL_PutS(721, 547, down ? G_MMCR_rec_on : G_MMCR_rec_off); // the key stores an event
+    else
+        TDL_PutS(710, 547, down ? G_PRV_on : G_PRV_off);
+    return {710, 547, 790, 599};
+}
+
+// --- Top right ---
+
+Rect ba_drw_menu_macro()
+{
+    TDL_PutS(513, 6, ba.MM.pushed > 0 ? G_KF_mm_on : G_KF_mm_off);
+    return {513, 6, 571, 63};
+}
+
+// How much of a region group is selected, as a colour.
+static unsigned selection_colour(int grp, int main)
+{
+    constexpr unsigned REFERENCE = 0x00FFFF;
+    constexpr unsigned PARTLY = 0xE48B1B;
+    constexpr unsigned NONE = 0x6A6A6A;
+    constexpr int SUB_MAX = 16;
+    int selected = 0;
+    int count = 0;
+    bool reference = false;
+    for (; count < SUB_MAX; count++) {
+        const int id = PaneRegion_GetGrpID(grp, main, count);
+        if (id <= 0)
+            break;
+        const int select = PaneRegion_IsSelected(grp, id);
+        selected += select != 0;
+        reference |= select == 2;
+    }
+    if (selected == 0)
+        return NONE;
+    if (selected < count)
+        return PARTLY;
+    return reference ? REFERENCE : WHITE;
+}
+
+// Ten cells, two rows of five, each with the name of a group.
+Rect ba_drw_region()
+{
+    const int p = ba.Region.pushed > 0;
+    TDL_PutS(508, 6, p ? G_KF_on : G_KF_off);
+    TDL_LineHS(509, 34, 283, REGION_GRID);
+    for (int i = 0; i < 4; i++)
+        TDL_LineVS(565 + 57 * i, 6, 57, REGION_GRID);
+    for (int main = 0; main < PaneRegion_GetMainMax(ba.RegionGrp); main++) {
+        const int pos = PaneRegion_GetGrpPos(ba.RegionGrp, main);
+        if (pos < 0 || pos >= 10)
+            continue;
+        TDL_SymbolWS(520 + pos % 5 * 57 + p, 15 + pos / 5 * 28 + p, 48,
+                     PaneRegion_GetGrpName(ba.RegionGrp, main), 4,
+                     selection_colour(ba.RegionGrp, main));
+    }
+    return {508, 6, 794, 63};
+}
