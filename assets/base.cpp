@@ -20,7 +20,7 @@ enum TitleSide { FRONT, REVERSE };
 void draw_title(const Canvas& cv, const State& st, int side)
 {
     // Colours of the band: off, then pushed.
-    static constexpr struct {
+    constexpr struct {
         Colour top, middle, bottom;
     } bands[2][2] = {{{0x014457, 0x003241, 0x00212C}, {0x001C26, 0x003241, 0x00384A}},
                      {{0xF1E4CF, 0xF1E4CF, 0xD3BF9C}, {0xC8B48F, 0xC8B48F, 0xE2D2B4}}};

@@ -29,7 +29,7 @@ void draw_up(const Canvas& cv, const Face& face, const CapShape& shape, int w)
 
 void draw_pushed(const Canvas& cv, const Material& material, const CapShape& shape, int w)
 {
-    static constexpr double shadow[] = {0.42, 0.24, 0.10};
+    constexpr double shadow[] = {0.42, 0.24, 0.10};
     const int h = cv.height;
     const Face& face = material.pushed;
     const Colour shade = material.is_tinted ? face.lip : 0x000000;
@@ -110,7 +110,7 @@ void CAP_Draw(const Canvas& cv, const Material& material, int pushed, const CapS
 
 void CAP_Flat(const Canvas& cv, int on, const CapShape& shape)
 {
-    static constexpr struct {
+    constexpr struct {
         Colour plate, outline;
     } tones[] = {
         {0x1A1D1F, 0x34393C}, {0x7C898D, 0x96A3A7}, {0x99896A, 0xB3A382}}; // off, on, third

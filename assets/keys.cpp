@@ -134,7 +134,7 @@ enum JumpTarget { TO_PAGE, TO_TEN_KEYS, TO_KEYBOARD, TO_POP_UP, TO_FIND, TO_NEW 
 
 void draw_jump(const Canvas& cv, const State& st, int variant)
 {
-    static constexpr void (*icons[])(const Canvas&, double, double, Colour) = {
+    constexpr void (*icons[])(const Canvas&, double, double, Colour) = {
         icon_page, icon_ten_keys, icon_keyboard, icon_pop_up, icon_find, icon_new};
     if (st.is_disabled)
         CAP_Flat(cv);
@@ -156,8 +156,8 @@ Colour scaled(Colour colour, double factor)
 
 void draw_favourite(const Canvas& cv, const State& st, int number)
 {
-    static constexpr Colour middles[] = {0x8E3B3B, 0x9A6524, 0x7E7A22, 0x3B7A3F, 0x1F7A78,
-                                         0x33609C, 0x66489E, 0x8A3F7C, 0x5A6266};
+    constexpr Colour middles[] = {0x8E3B3B, 0x9A6524, 0x7E7A22, 0x3B7A3F, 0x1F7A78,
+                                  0x33609C, 0x66489E, 0x8A3F7C, 0x5A6266};
     const Colour middle = middles[number - 1];
     const Material material = {.up = {.edge = scaled(middle, 1.6),
                                       .top = scaled(middle, 1.15),

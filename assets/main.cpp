@@ -5,6 +5,8 @@
 #include "canvas.h"
 #include "family.h"
 #include "font.h"
+#include "wipe_numbers.h"
+#include "wipes.h"
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -35,11 +37,34 @@ static int write_family(const std::string& dir, const Family& family)
 
 static int write_bitmaps(const std::string& dir)
 {
-    const std::span<const Family> catalogue[] = {KEYS_Families(), TABS_Families(), BASE_Families()};
+    const std::span<const Family> catalogue[] = {
+        KEYS_Families(),  TABS_Families(),   BASE_Families(),  PANES_Families(), PANEL_Families(),
+        PATHS_Families(), MEMORY_Families(), ICONS_Families(), EDGES_Families(), DEVICE_Families()};
     for (const auto& families : catalogue)
         for (const Family& family : families)
             if (write_family(dir, family) != 0)
                 return -1;
+    return 0;
+}
+
+static int write_range(const std::string& dir, const NumberRange& range, bool with_channels)
+{
+    for (int n = range.first; n <= range.last; n++) {
+        const std::string path = dir + "/" + std::to_string(n) + (with_channels ? ".bmp" : "e.bmp");
+        if (write_picture(path, WIPE_WIDTH, WIPE_HEIGHT, WIPE_Picture(n, with_channels)) != 0)
+            return -1;
+    }
+    return 0;
+}
+
+static int write_wipes(const std::string& dir)
+{
+    for (const NumberRange& range : WIPE_NUMBERS)
+        if (write_range(dir, range, true) != 0)
+            return -1;
+    for (const NumberRange& range : WIPE_NUMBERS_SMALL_MODEL)
+        if (write_range(dir, range, false) != 0)
+            return -1;
     return 0;
 }
 
@@ -57,6 +82,7 @@ int main(int argc, char** argv)
                 error.message().c_str());
         return 1;
     }
-    const bool is_done = FONT_Write(run_dir) == 0 && write_bitmaps(graphics) == 0;
+    const bool is_done = FONT_Write(run_dir) == 0 && write_bitmaps(graphics) == 0 &&
+                         write_wipes(graphics + "/ptn") == 0;
     return is_done ? 0 : 1;
 }
