@@ -1,0 +1,40 @@
+#include "err.h"
+#include "harness.h"
+#include "memory.h"
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <string>
+
+TEST(ErrorList, FillsUpTo12000AndFreesAll)
+{
+    Err_Clear();
+    const int before = UsedMemPtr;
+    for (int i = 0; i < ERR_MAX; i++)
+        ASSERT_EQ(Err_Add("error %d", i), 0);
+    const int full = UsedMemPtr;
+    EXPECT_EQ(Err_Add("one more"), -1);
+    EXPECT_EQ(Err_GetMax(), 12000);
+    EXPECT_EQ(UsedMemPtr, full);
+    Err_Clear();
+    EXPECT_EQ(Err_GetMax(), 0);
+    EXPECT_EQ(UsedMemPtr, before);
+}
+
+TEST(ErrorList, PageWritesTheFileNewestLast)
+{
+    Harness_Reset();
+    Err_Clear();
+    Err_Add("first %s", "%s");
+    Err_Add("%s", std::string(5000, 'x').c_str());
+    Err_Create();
+    std::ifstream in("/var/log2/tm3err.log");
+    const std::string text(std::istreambuf_iterator<char>(in), {});
+    EXPECT_THAT(text, testing::MatchesRegex("\\[..:..:..\\] first %s\n\\[..:..:..\\] x*\n"));
+    EXPECT_EQ(text.size(), 11 + 8 + 1 + 11 + 4095 + 1u);
+
+    Err_Clear();
+    Err_Create();
+    std::ifstream empty("/var/log2/tm3err.log");
+    EXPECT_EQ(empty.get(), EOF) << "a new page starts a new file";
+}

@@ -1,0 +1,143 @@
+#include "i2c.h"
+#include <array>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace
+{
+constexpr char IMAGE[] = "/dev/i2c-0";
+constexpr int IMAGE_BYTES = 128 * 256;
+
+struct I2c : testing::Test {
+    void TearDown() override { std::filesystem::resize_file(IMAGE, IMAGE_BYTES); }
+};
+
+int ImageByte(int device, int address)
+{
+    std::ifstream in(IMAGE, std::ios::binary);
+    in.seekg(device * 256 + address);
+    return in.get();
+}
+
+void Spoil(int device, int address)
+{
+    const int old = ImageByte(device, address);
+    std::fstream image(IMAGE, std::ios::binary | std::ios::in | std::ios::out);
+    image.seekp(device * 256 + address);
+    image.put(char(old ^ 1));
+}
+
+// Make every byte of a device the same.
+void FillDevice(int device, unsigned char value)
+{
+    unsigned char bytes[256];
+    memset(bytes, value, sizeof bytes);
+    i2c_address_set(device);
+    ASSERT_EQ(i2c_open(), 0);
+    ASSERT_EQ(i2c_wr(0, 256, bytes), 256);
+    i2c_close();
+}
+} // namespace
+
+TEST_F(I2c, BytesLieAtDeviceAndAddress)
+{
+    const unsigned char out[3] = {1, 2, 3};
+    i2c_address_set(0x60);
+    ASSERT_EQ(i2c_open(), 0);
+    EXPECT_EQ(i2c_wr(253, 3, out), 3);
+    unsigned char in[3] = {};
+    EXPECT_EQ(i2c_rd(253, 3, in), 3);
+    EXPECT_EQ(memcmp(in, out, 3), 0);
+    i2c_close();
+    EXPECT_EQ(ImageByte(0x60, 254), 2);
+}
+
+TEST_F(I2c, AFailedReadLeavesTheBytes)
+{
+    unsigned char in[4] = {9, 9, 9, 9};
+    i2c_address_set(0x60);
+    EXPECT_EQ(i2c_rd(0, 4, in), -1) << "closed";
+    ASSERT_EQ(i2c_open(), 0);
+    EXPECT_EQ(i2c_rd(253, 4, in), -1) << "past the device";
+    EXPECT_EQ(i2c_rd(-1, 1, in), -1);
+    EXPECT_EQ(i2c_wr(253, 4, in), -1);
+    std::filesystem::resize_file(IMAGE, 0x60 * 256 + 2);
+    EXPECT_EQ(i2c_rd(0, 4, in), -1) << "cut in the middle";
+    i2c_close();
+    for (const unsigned char byte : in)
+        EXPECT_EQ(byte, 9);
+    i2c_address_set(128);
+    EXPECT_EQ(i2c_open(), -1);
+    i2c_address_set(-1);
+    EXPECT_EQ(i2c_open(), -1);
+}
+
+TEST_F(I2c, ElementsAreReadAndWrittenWhole)
+{
+    FillDevice(0x53, 0);
+    const unsigned char port[3] = {0x25, 0x1C, 0x77};
+    EXPECT_EQ(I2cEepromService_WriteElem(EEPROM_SHP_PORT, 3, port), 2);
+    EXPECT_EQ(ImageByte(0x53, 70), 0x25);
+    EXPECT_EQ(ImageByte(0x53, 71), 0x1C);
+    EXPECT_EQ(ImageByte(0x53, 72), 0) << "the next element";
+    unsigned char in[4] = {9, 9, 9, 9};
+    EXPECT_EQ(I2cEepromService_ReadElem(EEPROM_SHP_PORT, 1, in), -1) << "buffer too small";
+    EXPECT_EQ(in[0], 9);
+    EXPECT_EQ(I2cEepromService_ReadElem(EEPROM_SHP_PORT, 4, in), 2);
+    EXPECT_EQ(in[1], 0x1C);
+    EXPECT_EQ(in[2], 9);
+    EXPECT_EQ(I2cEepromService_ReadElem(35, 200, in), -1);
+    EXPECT_EQ(I2cEepromService_ReadElem(-1, 200, in), -1);
+    EXPECT_EQ(I2cEepromService_WriteElem(35, 200, in), -1);
+    int size = 0;
+    EXPECT_EQ(I2cEepromService_GetElemSize(4, &size), 0);
+    EXPECT_EQ(size, 107);
+    EXPECT_EQ(I2cEepromService_GetElemSize(35, &size), -1);
+}
+
+TEST_F(I2c, TheOtherProgramsElementStaysUntouched)
+{
+    FillDevice(0x53, 0x11);
+    const unsigned char zeros[32] = {};
+    EXPECT_EQ(I2cEepromService_WriteElem(17, 32, zeros), -1);
+    EXPECT_EQ(ImageByte(0x53, 16), 0x11);
+}
+
+TEST_F(I2c, EachRegionHasItsCrc)
+{
+    FillDevice(0x57, 0);
+    FillDevice(0x53, 0);
+    // The CRC of 124 and of 60 zero bytes, most significant byte first.
+    static const struct {
+        int device;
+        int crc_address;
+        std::array<int, 4> crc;
+    } regions[] = {
+        {.device = 0x57, .crc_address = 124, .crc = {0x15, 0xD7, 0x0E, 0x0C}},
+        {.device = 0x57, .crc_address = 252, .crc = {0x15, 0xD7, 0x0E, 0x0C}},
+        {.device = 0x53, .crc_address = 124, .crc = {0x15, 0xD7, 0x0E, 0x0C}},
+        {.device = 0x53, .crc_address = 188, .crc = {0x04, 0x12, 0x89, 0x08}},
+    };
+    for (int region = 0; region < 4; region++) {
+        const auto& r = regions[region];
+        EXPECT_EQ(I2cEepromService_IsCrc32Valid(region), 0);
+        EXPECT_EQ(I2cEepromService_UpdateCrc32(region), 0);
+        EXPECT_EQ(I2cEepromService_IsCrc32Valid(region), 1);
+        for (int i = 0; i < 4; i++)
+            EXPECT_EQ(ImageByte(r.device, r.crc_address + i), r.crc[size_t(i)])
+                << region << " " << i;
+    }
+    for (int region = 0; region < 4; region++) {
+        Spoil(regions[region].device, regions[region].crc_address - 1); // the region's last byte
+        for (int other = 0; other < 4; other++)
+            EXPECT_EQ(I2cEepromService_IsCrc32Valid(other), other > region) << region << other;
+    }
+    EXPECT_EQ(I2cEepromService_UpdateCrc32(4), -1);
+    EXPECT_EQ(I2cEepromService_UpdateCrc32(-1), -1);
+    EXPECT_EQ(I2cEepromService_IsCrc32Valid(4), -1);
+    std::filesystem::resize_file(IMAGE, 0x53 * 256);
+    EXPECT_EQ(I2cEepromService_IsCrc32Valid(2), -1);
+    EXPECT_EQ(I2cEepromService_UpdateCrc32(2), -1);
+}

@@ -1,0 +1,199 @@
+#include "global.h"
+#include "log.h"
+#include "xsyslog.h"
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+#include <unistd.h>
+
+namespace
+{
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::MatchesRegex;
+using testing::Not;
+
+constexpr char LOG[] = "/var/log2/unit.log";
+constexpr char MAINTENANCE[] = "/mnt/sys/log/maintenance.log";
+
+std::string Content(const std::string& path)
+{
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void Fill(const std::string& path, const std::string& text)
+{
+    std::ofstream(path) << text;
+}
+
+struct Log : testing::Test {
+    void SetUp() override
+    {
+        std::filesystem::remove_all("/mnt/sys/log");
+        GL_DebugMode = 0;
+        GL_IsRamDisk = 0;
+        Log_SetLevel(0);
+        Log_Init(LOG, 100);
+        std::filesystem::remove_all("/var/log2"); // the start lines
+        std::filesystem::create_directory("/var/log2");
+    }
+    void TearDown() override
+    {
+        GL_DebugMode = 0;
+        Log_SetLevel(0);
+        Log_Init(nullptr, LOG_FILE_SIZE);
+        xsys_closelog();
+    }
+};
+} // namespace
+
+TEST_F(Log, StartWritesItsThreeLinesAndTakesTheLevelFromTheEnvironment)
+{
+    setenv("TM3LOGLEVEL", "4", 1);
+    Log_Init(LOG, 1000);
+    unsetenv("TM3LOGLEVEL");
+    EXPECT_THAT(Content(LOG),
+                MatchesRegex("\\[.*\\]\\[ -1\\] \n\\[.*\\]\\[ -1\\] === <<< START LOG >>> "
+                             "==================================\n\\[.*\\]\\[ -1\\] \n"));
+    EXPECT_TRUE(std::filesystem::is_directory("/mnt/sys/log"));
+    EXPECT_EQ(Log_Output(3, MOD_GLOBAL, "x"), 1);
+    EXPECT_EQ(Log_Output(4, MOD_GLOBAL, "x"), 0);
+}
+
+TEST_F(Log, LinesCarryUtcWhateverTheZone)
+{
+    setenv("TZ", "XXX-9:30", 1);
+    tzset();
+    const time_t before = time(nullptr);
+    EXPECT_EQ(Log_Output(1, 7, "value %d", 42), 0);
+    const std::string line = Content(LOG);
+    unsetenv("TZ");
+    tzset();
+    char stamp[2][32];
+    for (int i = 0; i < 2; i++) { // the second may have turned in between
+        const time_t t = before + i;
+        strftime(stamp[i], sizeof stamp[i], "[%b %d %H:%M:%S][  7] ", gmtime(&t));
+    }
+    EXPECT_TRUE(line == stamp[0] + std::string("value 42\n") ||
+                line == stamp[1] + std::string("value 42\n"))
+        << line;
+}
+
+TEST_F(Log, AFullFileRotatesBeforeTheNextLine)
+{
+    Fill(LOG, std::string(99, 'a'));
+    Log_Output(1, 1, "same file");
+    EXPECT_FALSE(std::filesystem::exists(LOG + std::string(".0")));
+    Fill(LOG, std::string(100, 'b'));
+    Log_Output(1, 1, "new file");
+    EXPECT_EQ(Content(LOG + std::string(".0")), std::string(100, 'b'));
+    EXPECT_THAT(Content(LOG), MatchesRegex("\\[.*\\] new file\n"));
+}
+
+TEST_F(Log, TenOldFilesRemainAndTheOldestGoes)
+{
+    for (int i = 0; i < 10; i++)
+        Fill(LOG + std::string(".") + std::to_string(i), "old " + std::to_string(i));
+    Fill(LOG, std::string(150, 'c'));
+    EXPECT_EQ(Log_Output2(0, "line"), 0);
+    EXPECT_EQ(Content(LOG), "line\n");
+    EXPECT_EQ(Content(LOG + std::string(".0")), std::string(150, 'c'));
+    for (int i = 1; i < 10; i++)
+        EXPECT_EQ(Content(LOG + std::string(".") + std::to_string(i)),
+                  "old " + std::to_string(i - 1));
+    EXPECT_FALSE(std::filesystem::exists(LOG + std::string(".10")));
+}
+
+TEST_F(Log, ADroppedLineTouchesNoFile)
+{
+    Fill(LOG, std::string(200, 'd')); // would rotate
+    Log_SetLevel(3);
+    EXPECT_EQ(Log_Output(2, 1, "x"), 1);
+    EXPECT_EQ(Log_Output2(2, "x"), 1);
+    Log_SetModule(1, 0);
+    EXPECT_EQ(Log_Output(3, 1, "x"), 2);
+    EXPECT_EQ(Content(LOG), std::string(200, 'd'));
+    EXPECT_EQ(Log_Output(3, 2, "x"), 0) << "the switch is the module's own";
+    EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 0);
+
+    Log_Init(nullptr, 100);
+    EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 1) << "no file";
+    Log_Init("/var/log2/none/x.log", 100);
+    EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), -1);
+}
+
+TEST_F(Log, ModulesOutsideTheSwitchAlwaysPass)
+{
+    EXPECT_EQ(Log_SetModule(1024, 0), 0);
+    EXPECT_EQ(Log_SetModule(1025, 0), -1);
+    EXPECT_EQ(Log_SetModule(-1, 0), -1);
+    EXPECT_EQ(Log_Output(1, 1024, "x"), 2);
+    EXPECT_EQ(Log_Output(1, 1023, "x"), 0);
+    Log_SetAllModule(0);
+    EXPECT_EQ(Log_Output(1, 1023, "x"), 2);
+    EXPECT_EQ(Log_Output(1, 1025, "x"), 0);
+    EXPECT_EQ(Log_Output(1, -1, "x"), 0);
+    EXPECT_EQ(Log_SetModule(1023, 1), 0);
+    EXPECT_EQ(Log_Output(1, 1023, "x"), 0);
+}
+
+TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)
+{
+    const std::string fits(4031, 'f'), too_long(4032, 't'), argument(9000, 'a');
+    const char* volatile format = fits.c_str(); // known only at run time
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-security"
+    Log_Output(1, 1, format);
+    EXPECT_THAT(Content(LOG), EndsWith(fits + "\n"));
+    format = too_long.c_str();
+    Log_Output(1, 1, format);
+    EXPECT_THAT(Content(LOG), EndsWith("] <<< TOO LONG OUTPUT!!! >>>\n"));
+#pragma GCC diagnostic pop
+    Log_Output(1, 1, "%s", argument.c_str());
+    EXPECT_THAT(Content(LOG), EndsWith("] " + std::string(4095, 'a') + "\n"));
+}
+
+TEST_F(Log, DebugModeEchoesOnTheConsole)
+{
+    GL_DebugMode = 1;
+    testing::internal::CaptureStdout();
+    Log_Output(1, 1, "echo");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "echo\n");
+}
+
+TEST_F(Log, LifeCycleLinesAlsoGoToTheSystemLog)
+{
+    EXPECT_EQ(xsys_openlog("menu", 1, -1), 1);
+    testing::internal::CaptureStderr();
+    Log_Output(LOG_DETAIL, 11, "quiet");
+    Log_Output(LOG_LIFE, 11, "100%% of %s", "%d");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "menu[" + std::to_string(getpid()) + "]: 11 [info] 100% of %d\n");
+    EXPECT_EQ(xsys_openlog("menu", 1, 8), 0);
+    testing::internal::CaptureStderr();
+    Log_Output(LOG_LIFE, 11, "elsewhere");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(Log, MaintenanceLogNeedsARealDisk)
+{
+    GL_IsRamDisk = 1;
+    EXPECT_EQ(SelfDiag_AddLog("SWR1", "fan %d", 1), 1);
+    EXPECT_FALSE(std::filesystem::exists(MAINTENANCE));
+    GL_IsRamDisk = 0;
+    EXPECT_EQ(SelfDiag_AddLog("SWR1", "fan %d", 1), 0);
+    EXPECT_THAT(Content(MAINTENANCE),
+                MatchesRegex("\\[[A-Z][a-z][a-z] .. ..:..:..\\] \\[SWR1\\]fan 1\n"));
+    Fill(MAINTENANCE, std::string(100, 'm'));
+    EXPECT_EQ(SelfDiag_AddLog("SWR1", "fan %d", 2), 0);
+    EXPECT_EQ(get_filelength("/mnt/sys/log/maintenance.log.0"), 100);
+    std::filesystem::remove_all("/mnt/sys/log");
+    EXPECT_EQ(SelfDiag_AddLog("SWR1", "x"), -1);
+    EXPECT_EQ(get_filelength(MAINTENANCE), -1);
+}

@@ -1,0 +1,161 @@
+#include "log.h"
+#include "process.h"
+#include <csignal>
+#include <cstring>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+std::string Content(const char* path)
+{
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+volatile int signals_seen = 0;
+void CountSignal(int)
+{
+    signals_seen = signals_seen + 1;
+}
+
+// As the program's own handler: takes the tracked child and nobody else.
+void ReapTracked(int)
+{
+    signals_seen = signals_seen + 1;
+    if (cpid)
+        wait(nullptr);
+}
+} // namespace
+
+TEST(Process, WordsRunWithoutAShell)
+{
+    static const struct {
+        const char* cmd;
+        int exit_status;
+    } cases[] = {
+        {.cmd = "/bin/true", .exit_status = 0},
+        {.cmd = "  /bin/sh   -c  \"exit 3\" ", .exit_status = 3},
+        {.cmd = "/bin/test \"a b\" = a\" \"b", .exit_status = 0},
+        {.cmd = "/bin/test -z \"\"", .exit_status = 0},
+        {.cmd = "/bin/test $HOME = /root", .exit_status = 1}, // nothing is expanded
+        {.cmd = "/nowhere/program", .exit_status = 255},
+        {.cmd = "", .exit_status = 255},
+        {.cmd = "/bin/true \"open", .exit_status = 255},
+    };
+    for (const auto& c : cases) {
+        const int status = ktr_system(c.cmd);
+        EXPECT_TRUE(WIFEXITED(status)) << c.cmd;
+        EXPECT_EQ(WEXITSTATUS(status), c.exit_status) << c.cmd;
+    }
+    EXPECT_EQ(ktr_system(nullptr), -1);
+    EXPECT_EQ(WEXITSTATUS(ktr_system(("/bin/true " + std::string(5000, 'x')).c_str())), 255);
+    std::string many = "/bin/true";
+    for (int i = 0; i < 100; i++)
+        many += " x";
+    EXPECT_EQ(WEXITSTATUS(ktr_system(many.c_str())), 255) << "too many words are not cut";
+}
+
+TEST(Process, TheChildsSignalsDoNotReachTheParent)
+{
+    signal(SIGINT, CountSignal);
+    signal(SIGCHLD, ReapTracked);
+    signals_seen = 0;
+    EXPECT_EQ(ktr_system("/bin/sh -c \"kill -INT $PPID; exit 4\""), 4 << 8);
+    EXPECT_EQ(signals_seen, 1) << "only SIGCHLD, once the status was taken";
+    EXPECT_EQ(cpid, 0);
+    signals_seen = 0;
+    raise(SIGINT);
+    EXPECT_EQ(signals_seen, 1) << "the handler is back";
+    signal(SIGCHLD, SIG_DFL);
+
+    signal(SIGINT, SIG_DFL);
+    const int status = ktr_system("/bin/sh -c \"kill -INT $$\"");
+    EXPECT_TRUE(WIFSIGNALED(status)) << "the child has the signal as the parent had it";
+    EXPECT_EQ(WTERMSIG(status), SIGINT);
+
+    sigset_t mask;
+    sigprocmask(SIG_SETMASK, nullptr, &mask);
+    EXPECT_FALSE(sigismember(&mask, SIGCHLD));
+}
+
+TEST(Process, AnInterruptedWaitGoesOn)
+{
+    struct sigaction action {
+    };
+    action.sa_handler = CountSignal; // without SA_RESTART
+    sigaction(SIGALRM, &action, nullptr);
+    signals_seen = 0;
+    const itimerval soon = {{0, 20000}, {0, 20000}};
+    setitimer(ITIMER_REAL, &soon, nullptr);
+    EXPECT_EQ(ktr_system("/bin/sleep 0.2"), 0);
+    const itimerval never{};
+    setitimer(ITIMER_REAL, &never, nullptr);
+    EXPECT_GT(signals_seen, 0);
+    signal(SIGALRM, SIG_DFL);
+}
+
+TEST(Process, StreamsAreToldApart)
+{
+    FILE* reader = ktr_popen("echo one; exit 5", "r");
+    FILE* writer = ktr_popen("cat >/var/tmp/written; exit 6", "w");
+    ASSERT_TRUE(reader && writer);
+    char line[16] = "";
+    EXPECT_STREQ(fgets(line, sizeof line, reader), "one\n");
+    fputs("two\n", writer);
+    // The writer's child sees its end although the reader is still open.
+    EXPECT_EQ(ktr_pclose(writer), 6 << 8);
+    EXPECT_EQ(ktr_pclose(reader), 5 << 8);
+    EXPECT_EQ(Content("/var/tmp/written"), "two\n");
+
+    FILE* other = fopen("/var/tmp/written", "r");
+    EXPECT_EQ(ktr_pclose(other), -1);
+    fclose(other);
+    EXPECT_EQ(ktr_pclose(nullptr), -1);
+    EXPECT_EQ(ktr_popen("true", "rw"), nullptr);
+    EXPECT_EQ(ktr_popen(nullptr, "r"), nullptr);
+}
+
+TEST(Process, OutputGoesToTheFileWhateverItsLineLength)
+{
+    const char* file = "/var/tmp/redirected";
+    EXPECT_EQ(ktr_system_and_redirect("printf '%0700d\\nlast' 1; exit 2", file), 2 << 8);
+    EXPECT_EQ(Content(file), std::string(699, '0') + "1\nlast");
+    EXPECT_EQ(ktr_system_and_redirect("true", "/nowhere/file"), -1);
+    EXPECT_EQ(ktr_system_and_redirect(nullptr, file), -1);
+    EXPECT_EQ(ktr_system_and_redirect("true", nullptr), -1);
+}
+
+TEST(Process, TheShellGetsNoTextThatItWouldActOn)
+{
+    Log_Init("/var/log2/process.log", LOG_FILE_SIZE);
+    EXPECT_EQ(IsShellSafe("/mnt/usb/usb1/A-b_1.x:@+ 2"), 1);
+    EXPECT_EQ(IsShellSafe(""), 1);
+    EXPECT_EQ(IsShellSafe(nullptr), 0);
+    for (const char c : std::string("\"'`$;|&<>()*?[]{}~!#%^=,\\\n\t\x7F\xE9")) {
+        const std::string text = std::string("a") + c;
+        EXPECT_EQ(IsShellSafe(text.c_str()), 0) << c;
+    }
+    EXPECT_EQ(IsShellSafe("a;reboot"), 0);
+    EXPECT_NE(Content("/var/log2/process.log").find("[a;reboot]"), std::string::npos);
+    EXPECT_EQ(ktr_shell("exit 7"), 7 << 8);
+    EXPECT_EQ(ktr_shell(nullptr), -1);
+    Log_Init(nullptr, LOG_FILE_SIZE);
+}
+
+TEST(Process, DirectoriesComeWithTheirParents)
+{
+    EXPECT_EQ(MakeDir("/mnt/data/dirs/b/c/"), 0);
+    EXPECT_EQ(FileExist("/mnt/data/dirs/b/c"), 1);
+    EXPECT_EQ(MakeDir("/mnt/data/dirs/b"), 0) << "there already";
+    std::ofstream("/mnt/data/dirs/file") << "x";
+    EXPECT_EQ(MakeDir("/mnt/data/dirs/file"), -1);
+    EXPECT_EQ(MakeDir("/mnt/data/dirs/file/d"), -1);
+    EXPECT_EQ(MakeDir(""), -1);
+    EXPECT_EQ(FileExist("/mnt/data/none"), 0);
+}

@@ -1,0 +1,162 @@
+#include "global.h"
+#include "harness.h"
+#include "log.h"
+#include "storage.h"
+#include "text.h"
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <string>
+#include <sys/statvfs.h>
+
+namespace
+{
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr char LOG[] = "/var/log2/storage.log";
+
+std::string LogText()
+{
+    std::ifstream in(LOG);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+struct Storage : testing::Test {
+    void SetUp() override
+    {
+        Harness_Reset();
+        std::filesystem::remove_all("/mnt/usb");
+        std::filesystem::create_directories("/mnt/usb");
+        CopyText(GL_TempFile, "/var/tmp/__tm3__.tmp");
+        CopyText(GL_ImportDataPath, "/mnt/usb/usb1/");
+        CopyText(GL_NFS_Server, "127.0.0.1");
+        CopyText(GL_NFS_MountPoint, "/ktrfiles");
+        CopyText(GL_NFS_MountOption, "retrans=5,soft,nolock");
+        remove(LOG);
+        Log_Init(LOG, LOG_FILE_SIZE);
+    }
+    void TearDown() override { Log_Init(nullptr, LOG_FILE_SIZE); }
+};
+} // namespace
+
+TEST_F(Storage, FreeSpaceIsTheSystemsOwnFigure)
+{
+    struct statvfs fs;
+    ASSERT_EQ(statvfs("/mnt/data", &fs), 0);
+    const double expected = double(fs.f_bavail) * double(fs.f_frsize) / 1024;
+    std::filesystem::create_directories("/mnt/data/my show");
+    EXPECT_NEAR(GetDiskFree("/mnt/data"), expected, 100000); // others write meanwhile
+    EXPECT_NEAR(GetDiskFree("/mnt/data/my show"), expected, 100000);
+}
+
+TEST_F(Storage, FreeSpaceOfNoDirectoryIsAFailureWithOneLine)
+{
+    EXPECT_EQ(GetDiskFree("/mnt/none"), -1);
+    EXPECT_THAT(LogText(), HasSubstr("GetDiskSize(/mnt/none) --> ret = -1 [KB]\n"));
+    EXPECT_EQ(GetDiskFree("/mnt\"; touch /mnt/data/run; \""), -1);
+    EXPECT_FALSE(std::filesystem::exists("/mnt/data/run"));
+    EXPECT_EQ(GetDiskFree(nullptr), -1);
+}
+
+TEST_F(Storage, ScanTakesTheFirstStickAndTellsTheServer)
+{
+    std::filesystem::create_directories("/mnt/usb/usb3");
+    std::filesystem::create_directories("/mnt/usb/usb5");
+    GL_USB_AutoScan = 1;
+    Usb_Auto_Scan();
+    EXPECT_STREQ(GL_ImportDataPath, "/mnt/usb/usb3/");
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"));
+    EXPECT_THAT(LogText(), HasSubstr("Usb_Auto_Scan() start GL_ImportDataPath=/mnt/usb/usb1/\n"));
+    EXPECT_THAT(LogText(), HasSubstr("Usb_Auto_Scan() end GL_ImportDataPath=/mnt/usb/usb3/\n"));
+}
+
+TEST_F(Storage, ScanChangesNothingWithoutAStickOrWhenOff)
+{
+    GL_USB_AutoScan = 1;
+    Usb_Auto_Scan();
+    EXPECT_STREQ(GL_ImportDataPath, "/mnt/usb/usb1/");
+    std::filesystem::create_directories("/mnt/usb/usb0");
+    remove(LOG);
+    GL_USB_AutoScan = 0;
+    Usb_Auto_Scan();
+    EXPECT_STREQ(GL_ImportDataPath, "/mnt/usb/usb1/");
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(LogText(), HasSubstr("start"));
+    EXPECT_THAT(LogText(), Not(HasSubstr("end")));
+}
+
+TEST_F(Storage, StickInformationNeedsTheStick)
+{
+    std::filesystem::create_directories("/mnt/usb/usb8");
+    char dir[16] = "";
+    int total_kb = -1, free_kb = -1;
+    EXPECT_EQ(GetUSBMountPointInfo(8, dir, sizeof dir), 0);
+    EXPECT_STREQ(dir, "/mnt/usb/usb8");
+    EXPECT_EQ(GetUSBStorageInfo(8, &total_kb, &free_kb), 0);
+    EXPECT_GE(total_kb, free_kb);
+    EXPECT_GE(free_kb, 0);
+    EXPECT_EQ(GetUSBMountPointInfo(7, dir, sizeof dir), -1);
+    EXPECT_EQ(GetUSBMountPointInfo(9, dir, sizeof dir), -1);
+    EXPECT_EQ(GetUSBMountPointInfo(-1, dir, sizeof dir), -1);
+    EXPECT_EQ(GetUSBStorageInfo(7, &total_kb, &free_kb), -1);
+}
+
+TEST_F(Storage, NfsMountLogsItsStepsAndStopsAtTheFirstFailure)
+{
+    // Nothing here answers: the sandbox has no ping, and if it had, there is no NFS server.
+    static const struct {
+        const char* board;
+        const char* ping;
+    } cases[] = {
+        {.board = "MPU302", .ping = "NFS Mount: /bin/ping -c 1 -w 3 127.0.0.1\n"},
+        {.board = "MPU301", .ping = "NFS Mount: /bin/ping -c 1 127.0.0.1\n"},
+    };
+    for (const auto& c : cases) {
+        setenv("TM3BOARD", c.board, 1);
+        remove(LOG);
+        GL_NFS_Mounted = 1;
+        EXPECT_EQ(NFS_Mount(), -1);
+        EXPECT_EQ(GL_NFS_Mounted, 0);
+        const std::string log = LogText();
+        EXPECT_THAT(log, HasSubstr("NFS Mount: /bin/mkdir -p /var/nfs\n"));
+        EXPECT_THAT(log, HasSubstr("NFS Mount: --> 0\n"));
+        EXPECT_THAT(log, HasSubstr("NFS Mount: /bin/umount /var/nfs\n"));
+        EXPECT_THAT(log, HasSubstr(c.ping));
+        EXPECT_THAT(log, Not(HasSubstr("/bin/mount -t nfs")));
+    }
+    unsetenv("TM3BOARD");
+}
+
+TEST_F(Storage, NfsSettingsThatAreMoreThanAWordAreRefused)
+{
+    static const struct {
+        const char* server;
+        const char* mpoint;
+        const char* option;
+    } cases[] = {
+        {.server = "h;touch$IFS/mnt/data/run", .mpoint = "/k", .option = "soft"},
+        {.server = "h -f", .mpoint = "/k", .option = "soft"},
+        {.server = "-f", .mpoint = "/k", .option = "soft"},
+        {.server = "", .mpoint = "/k", .option = "soft"},
+        {.server = "h", .mpoint = "/k /root", .option = "soft"},
+        {.server = "h", .mpoint = "/k", .option = "soft\t-B"},
+        {.server = "h", .mpoint = "/k", .option = "\"soft"},
+    };
+    for (const auto& c : cases) {
+        CopyText(GL_NFS_Server, c.server);
+        CopyText(GL_NFS_MountOption, c.option);
+        GL_NFS_Mounted = 1;
+        remove(LOG);
+        EXPECT_EQ(NFS_MountEx(c.mpoint), -1);
+        EXPECT_EQ(GL_NFS_Mounted, 0);
+        EXPECT_THAT(LogText(), HasSubstr("refused")) << c.server << c.mpoint << c.option;
+        EXPECT_THAT(LogText(), Not(HasSubstr("/bin/"))) << "nothing was run";
+    }
+    EXPECT_EQ(NFS_MountEx(nullptr), -1);
+}

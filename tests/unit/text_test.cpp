@@ -1,0 +1,144 @@
+#include "memory.h"
+#include "process.h"
+#include "text.h"
+#include <cstring>
+#include <gtest/gtest.h>
+#include <string>
+
+TEST(Text, CopyKeepsItsLimitAndAlwaysTerminates)
+{
+    static const struct {
+        const char* src;
+        size_t len;
+        const char* result;
+    } cases[] = {
+        {.src = "abc", .len = 8, .result = "abc"},
+        {.src = "abcd", .len = 4, .result = "abc"}, // exactly len characters
+        {.src = "abc", .len = 4, .result = "abc"},
+        {.src = "abc", .len = 1, .result = ""},
+        {.src = nullptr, .len = 4, .result = ""},
+    };
+    for (const auto& c : cases) {
+        char dst[10];
+        memset(dst, 'x', sizeof dst);
+        EXPECT_EQ(ktr_strncpy(dst, c.src, c.len), dst);
+        EXPECT_STREQ(dst, c.result);
+        EXPECT_EQ(dst[c.len - 1], '\0');
+        EXPECT_EQ(dst[c.len], 'x') << "wrote behind the end";
+    }
+    char untouched[] = "keep";
+    ktr_strncpy(untouched, "abc", 0);
+    EXPECT_STREQ(untouched, "keep");
+    char shifted[] = "MYHOST:/mnt";
+    CopyText(shifted, shifted + 7);
+    EXPECT_STREQ(shifted, "/mnt");
+}
+
+TEST(Text, AppendKeepsTheSizeOfTheWhole)
+{
+    static const struct {
+        const char* before;
+        const char* more;
+        const char* result;
+    } cases[] = {
+        {.before = "ab", .more = "cd", .result = "abcd"},
+        {.before = "ab", .more = "cdefghij", .result = "abcdefg"},
+        {.before = "abcdefg", .more = "h", .result = "abcdefg"}, // full
+        {.before = "", .more = "", .result = ""},
+    };
+    for (const auto& c : cases) {
+        char dst[9] = {};
+        dst[8] = 'x';
+        ktr_strncpy(dst, c.before, 8);
+        ktr_strncat(dst, c.more, 8);
+        EXPECT_STREQ(dst, c.result);
+        EXPECT_EQ(dst[8], 'x');
+    }
+    char open_end[4] = {'a', 'b', 'c', 'd'}; // no terminator yet
+    ktr_strncat(open_end, "e", sizeof open_end);
+    EXPECT_STREQ(open_end, "abc");
+}
+
+TEST(Text, CountedCopiesTakeAtMostTheCount)
+{
+    char dst[6];
+    EXPECT_STREQ(strncpy_secu(dst, "abcdefgh", sizeof dst, 3), "abc");
+    EXPECT_STREQ(strncpy_secu(dst, "abcdefgh", sizeof dst, 7), "abcde");
+    EXPECT_STREQ(strncpy_secu(dst, "abcdefgh", sizeof dst, size_t(-1)), "abcde");
+    EXPECT_STREQ(strncpy_close(dst, "abcdefgh", 5), "abcde");
+    EXPECT_STREQ(strncpy_close(dst, "ab", 5), "ab");
+}
+
+TEST(Text, NamesLoseWhatTheirKindMayNotHold)
+{
+    static const struct {
+        int (*make)(char*);
+        const char* text;
+        const char* result;
+    } cases[] = {
+        {.make = StrFileName, .text = "a b\\c/d:e,f;g*h?i\"j", .result = "a_b_c_d_e_f_g_h_i_j"},
+        {.make = StrFileName, .text = "con.", .result = "con_"},
+        {.make = StrFileName, .text = "show-1_A+", .result = "show-1_A+"},
+        {.make = StrFileName, .text = "ab\ncd", .result = "ab"},
+        {.make = StrFileName, .text = "\tab", .result = ""},
+        {.make = StrFileName, .text = "caf\xE9", .result = "caf_"},
+        {.make = StrFatFileName, .text = "My Show:1", .result = "My Show_1"},
+        {.make = StrRegName, .text = "cut 1#2", .result = "cut_1_2"},
+        {.make = StrSourceName, .text = "CAM 1/A,B", .result = "CAM 1/A_B"},
+    };
+    for (const auto& c : cases) {
+        char text[64];
+        CopyText(text, c.text);
+        EXPECT_EQ(c.make(text), c.result[0] != '\0') << c.text;
+        EXPECT_STREQ(text, c.result);
+    }
+}
+
+TEST(Text, AFileNameIsSafeForTheShellWhateverItWas)
+{
+    char text[256];
+    for (int c = 1; c < 256; c++)
+        text[c - 1] = char(c < ' ' || c == 127 ? 'x' : c);
+    text[255] = '\0';
+    EXPECT_EQ(StrFileName(text), 1);
+    EXPECT_EQ(IsShellSafe(text), 1) << text;
+    EXPECT_EQ(strlen(text), 255u);
+}
+
+TEST(Text, SearchAndCompareAreCaseBlind)
+{
+    const char* text = "Engineering Setup";
+    EXPECT_EQ(StrIStr(text, "SETUP"), text + 12);
+    EXPECT_EQ(StrIStr(text, "setups"), nullptr);
+    EXPECT_EQ(StrIStr(nullptr, "a"), nullptr);
+    EXPECT_EQ(StrICmp("pwon_ld", "PWON_LD"), 0);
+    EXPECT_LT(StrICmp("a", "B"), 0);
+    EXPECT_NE(StrICmp("a", nullptr), 0);
+    EXPECT_EQ(StrNICmp("Version 1", "VERSION 2", 8), 0);
+    char word[] = "M/e-1";
+    StrUpr(word);
+    EXPECT_STREQ(word, "M/E-1");
+    StrLwr(word);
+    EXPECT_STREQ(word, "m/e-1");
+}
+
+TEST(Memory, CountFollowsLiveBlocks)
+{
+    const int before = UsedMemPtr;
+    void* a = GDL_Malloc(10);
+    void* b = GDL_Calloc(2, 10);
+    char* c = GDL_StrDup("text");
+    void* d = GDL_Realloc(nullptr, 5);
+    EXPECT_EQ(UsedMemPtr, before + 4);
+    d = GDL_Realloc(d, 5000); // the same block, grown
+    EXPECT_EQ(UsedMemPtr, before + 4);
+    EXPECT_EQ(GDL_Realloc(d, 0), nullptr);
+    EXPECT_EQ(UsedMemPtr, before + 3);
+    EXPECT_EQ(GDL_StrDup(nullptr), nullptr);
+    GDL_Free(nullptr);
+    EXPECT_EQ(UsedMemPtr, before + 3);
+    GDL_Free(a);
+    GDL_Free(b);
+    GDL_Free(c);
+    EXPECT_EQ(UsedMemPtr, before);
+}

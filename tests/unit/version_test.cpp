@@ -1,0 +1,119 @@
+#include "global.h"
+#include "i2c.h"
+#include "version.h"
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+
+namespace
+{
+std::string Content(const char* path)
+{
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void Fpga(const unsigned char (&version)[4], const unsigned char (&date)[4])
+{
+    i2c_address_set(82);
+    ASSERT_EQ(i2c_open(), 0);
+    EXPECT_EQ(i2c_wr(20, 4, version), 4);
+    EXPECT_EQ(i2c_wr(24, 4, date), 4);
+    i2c_close();
+}
+} // namespace
+
+TEST(Version, FilesAndFpgaBecomeRowsAndAFile)
+{
+    std::ofstream("/root/version_app.dat") << "Version 5.10#3 (Mar.01.2013)\nsecond line\n";
+    std::ofstream("/root/version_linux.dat") << "Version 2.00\tx\n";
+    std::filesystem::remove("/root/version_uboot.dat");
+    std::filesystem::remove_all("/var/tmp/version2");
+    std::filesystem::remove_all("/var/run/XPP");
+    Fpga({0x01, 0x23, 0x0A, 0}, {0x20, 0x13, 0x12, 0x31});
+    SYS_UnitID = 7;
+    GetMenuDetailInfo();
+
+    EXPECT_STREQ(GL_MenuDetailInfoFull[0], "Version 5.10#3 (Mar.01.2013)");
+    EXPECT_STREQ(GL_MenuDetailInfo[0], "Version 5.10 (Mar.01.2013)");
+    EXPECT_STREQ(GL_Version, "5.10");
+    EXPECT_STREQ(GL_VerTime, "Mar.01.2013");
+    EXPECT_STREQ(GL_MenuDetailInfoFull[1], "Version 2.00") << "cut at the control character";
+    EXPECT_STREQ(GL_MenuDetailInfoTitle[2], "QRD-X62-MENU-UBOOT");
+    EXPECT_STREQ(GL_MenuDetailInfo[2], "--");
+    EXPECT_STREQ(GL_MenuDetailInfo[3], "Version 1.23 (Dec.31.2013)");
+    EXPECT_EQ(GL_DetailInfoMax, 4);
+    EXPECT_EQ(Content("/var/tmp/version2/GUI7"),
+              "QRD-X62: Version 5.10#3 (Mar.01.2013)\n"
+              "QRD-X62-MENU-APP: Version 5.10#3 (Mar.01.2013)\n"
+              "QRD-X62-MENU-LINUX: Version 2.00\n"
+              "QRD-X62-MENU-UBOOT: --\n"
+              "QRD-X62-MENU-FPGA: Version 1.23#A (Dec.31.2013)\n");
+    EXPECT_TRUE(std::filesystem::exists("/var/run/XPP/version_updated"));
+}
+
+TEST(Version, NumberAndTimeAreFoundInAnyLine)
+{
+    static const struct {
+        const char* line;
+        const char* version;
+        const char* time;
+    } cases[] = {
+        {.line = "3.0(May)", .version = "3.0", .time = "May"},
+        {.line = "Build V2 07.5\t x", .version = "07.5", .time = "--"},
+        {.line = "none (open", .version = "--", .time = "--"},
+        {.line = "", .version = "--", .time = "--"},
+        {.line = "x () 1", .version = "1", .time = ""},
+    };
+    for (const auto& c : cases) {
+        std::ofstream("/root/version_app.dat") << c.line << "\n";
+        GetMenuDetailInfo();
+        EXPECT_STREQ(GL_Version, c.version) << c.line;
+        EXPECT_STREQ(GL_VerTime, c.time) << c.line;
+    }
+    std::ofstream("/root/version_app.dat") << std::string(400, '9') << "\n";
+    GetMenuDetailInfo();
+    EXPECT_EQ(std::string(GL_Version), std::string(255, '9'));
+}
+
+TEST(Version, MonthsOutsideTheYearHaveTheirOwnWord)
+{
+    static const struct {
+        unsigned char bcd;
+        const char* text;
+    } cases[] = {
+        {.bcd = 0x01, .text = "Version 0.00 (Jan.02.2013)"},
+        {.bcd = 0x10, .text = "Version 0.00 (Oct.02.2013)"},
+        {.bcd = 0x13, .text = "Version 0.00 (---.02.2013)"},
+        {.bcd = 0x00, .text = "Version 0.00 (---.02.2013)"},
+        {.bcd = 0xFF, .text = "Version 0.00 (---.02.2013)"},
+    };
+    for (const auto& c : cases) {
+        Fpga({}, {0x20, 0x13, c.bcd, 0x02});
+        GetMenuDetailInfo();
+        EXPECT_STREQ(GL_MenuDetailInfo[3], c.text);
+    }
+}
+
+TEST(Version, StrippingDropsTheBuildNumber)
+{
+    static const struct {
+        const char* text;
+        int size;
+        const char* stripped;
+    } cases[] = {
+        {.text = "Version 5.10#3 (Mar)", .size = 256, .stripped = "Version 5.10 (Mar)"},
+        {.text = "5.10#3(Mar)", .size = 256, .stripped = "5.10(Mar)"},
+        {.text = "5.10#3", .size = 256, .stripped = "5.10"},
+        {.text = "5.10", .size = 256, .stripped = "5.10"},
+        {.text = "Version 5.10#3 (Mar)", .size = 10, .stripped = "Version 5"},
+    };
+    for (const auto& c : cases) {
+        char dst[256];
+        Strip_VersionStr(dst, c.text, c.size);
+        EXPECT_STREQ(dst, c.stripped);
+    }
+}
