@@ -151,14 +151,18 @@ static bool con_send(Runner&, const std::string& rest)
 
 static bool con_page(Runner&, const std::string& rest)
 {
+    if (rest.empty())
+        return false;
     con_send_all("Page#" + rest);
-    return !rest.empty();
+    return true;
 }
 
 static bool con_menu(Runner&, const std::string& rest)
 {
+    if (rest.empty())
+        return false;
     con_send_all("TopMenu#" + rest);
-    return !rest.empty();
+    return true;
 }
 
 static bool con_raw(Runner&, const std::string& rest)

@@ -1,5 +1,6 @@
 #include "link.h"
 #include "log.h"
+#include "system.h"
 #include "text.h"
 #include "tree.h"
 #include "verbs.h"
@@ -102,6 +103,8 @@ static void link_accept(LinkKind kind)
     client.kind = kind;
     lk.clients.push_back(client);
     Log_Note("client %d on %s", client.number, lk.listener[kind].name);
+    if (kind == LINK_TEXT)
+        System_Connected(client.number);
 }
 
 static void link_reopen(int64_t now)
@@ -127,9 +130,12 @@ static void link_lose(Client& client, const char* why)
 
 static void link_sweep()
 {
-    for (const Client& client : lk.clients)
-        if (client.fd < 0)
-            Tree_ForgetClient(client.number);
+    for (const Client& client : lk.clients) {
+        if (client.fd >= 0 || client.kind != LINK_TEXT)
+            continue;
+        Tree_ForgetClient(client.number);
+        System_Lost(client.number);
+    }
     std::erase_if(lk.clients, [](const Client& client) { return client.fd < 0; });
 }
 

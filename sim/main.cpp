@@ -91,7 +91,9 @@ static void main_turn(int64_t* next)
         Console_ReadInput();
     Link_Serve(Now_Ms());
     const int64_t then = Now_Ms();
-    *next = std::min({Verb_Tick(then), System_Tick(then), Fault_Tick(then), Console_Tick(then)});
+    // The console first: what it starts is due at once.
+    *next = Console_Tick(then);
+    *next = std::min({*next, Verb_Tick(then), System_Tick(then), Fault_Tick(then)});
 }
 
 int main(int argc, char** argv)

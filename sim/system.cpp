@@ -37,7 +37,12 @@ struct Announcement {
 };
 } // namespace
 
-static std::vector<Announcement> sys_announcements;
+static struct {
+    std::vector<Announcement> announcements; // under way
+    std::vector<int> asked;                  // clients that want them
+    int lost =
+        0; // of those that went without taking back their wish: the next to connect is one of them
+} sy;
 
 static constexpr const char* FORMAT_SWR1 = "Engineering Setup@System@Format@Video Format@SWR1";
 static constexpr const char* BANKS = "M/E-1,M/E-2,M/E-3,M/E-4,M/E-5,P/P";
@@ -274,32 +279,60 @@ int System_FrameRate()
 
 // --- The announcement ---
 
+static void sys_announce(int client)
+{
+    std::erase_if(sy.announcements, [client](const auto& a) { return a.client == client; });
+    Link_SendLine(client, "CONNECT@Status#OK");
+    sy.announcements.push_back({client, 0, Now_Ms() + steps[0].after_ms});
+}
+
+// True when the client had asked.
+static bool sys_forget(int client)
+{
+    std::erase_if(sy.announcements, [client](const auto& a) { return a.client == client; });
+    return std::erase(sy.asked, client) > 0;
+}
+
 void System_Announce(int client, bool on)
 {
-    std::erase_if(sys_announcements, [client](const auto& a) { return a.client == client; });
+    (void)sys_forget(client); // asking twice is asking once
     if (!on)
         return;
-    Link_SendLine(client, "CONNECT@Status#OK");
-    sys_announcements.push_back({client, 0, Now_Ms() + steps[0].after_ms});
+    sy.asked.push_back(client);
+    sys_announce(client);
+}
+
+void System_Connected(int client)
+{
+    if (sy.lost == 0)
+        return;
+    --sy.lost;
+    System_Announce(client, true);
+}
+
+void System_Lost(int client)
+{
+    if (sys_forget(client))
+        ++sy.lost;
 }
 
 void System_Restart()
 {
     Log_Note("restart");
-    sys_announcements.clear();
+    sy.announcements.clear();
     Verb_Forget();
     Tree_Clear();
     System_Install();
     for (const int client : Link_Clients(LINK_TEXT)) {
         Link_SendLine(client, "CONNECT@Status#NG");
-        System_Announce(client, true);
+        sys_announce(client);
     }
 }
 
 int64_t System_Tick(int64_t now)
 {
     int64_t next = INT64_MAX;
-    for (Announcement& a : sys_announcements) {
+    for (Announcement& a : sy.announcements) {
         while (a.step < std::size(steps) && a.due_ms <= now) {
             const Step& step = steps[a.step++];
             Link_SendLine(a.client,
@@ -310,6 +343,6 @@ int64_t System_Tick(int64_t now)
         if (a.step < std::size(steps))
             next = std::min(next, a.due_ms);
     }
-    std::erase_if(sys_announcements, [](const auto& a) { return a.step == std::size(steps); });
+    std::erase_if(sy.announcements, [](const auto& a) { return a.step == std::size(steps); });
     return next;
 }

@@ -4,8 +4,13 @@
 #include <cstdint>
 
 void System_Install(); // fill an empty tree with what the installation says of itself
-// Start (or, with on false, stop) the announcement of the server's own initial read to a client.
+// A client asks for (or, with on false, no more for) announcements of the server's own initial
+// read; asking starts one.
 void System_Announce(int client, bool on);
+// A text client has come or gone. One that comes back doesn't ask again: the server must announce
+// itself.
+void System_Connected(int client);
+void System_Lost(int client);
 void System_Restart(); // the tree at its defaults, subscriptions forgotten, all clients told
 int64_t System_Tick(int64_t now); // returns the time of the next line of an announcement
 int System_FrameRate();           // whole frames a second of the first switcher

@@ -204,10 +204,9 @@ void Tree_ForgetClient(int client)
 
 void Tree_Answer(const Node& node, int client)
 {
-    if (node.type.kind != KIND_LIST) {
-        Link_SendLine(client, node.path + "#" + node.value);
-        return;
-    }
+    const bool is_bare = node.rows.empty() && !node.kill_first; // an empty list answers, too
+    if (node.type.kind != KIND_LIST || is_bare)
+        return Link_SendLine(client, node.path + "#" + node.value);
     if (node.kill_first)
         Link_SendLine(client, node.path + "#KILL");
     for (const std::string& row : node.rows)

@@ -24,6 +24,9 @@ static bool values_parse(const std::vector<std::string>& field, ValueType* type)
     } else if (kind == "word" && field.size() == 3) {
         type->kind = KIND_WORD;
         type->words = Text_Split(field[2], ',');
+        const bool is_open = std::count(type->words.begin(), type->words.end(), "*") > 0;
+        if (is_open)
+            *type = {}; // a button that takes any word
     } else if (kind == "num" && field.size() == 5 && Text_ToNumber(field[2], &type->min) &&
                Text_ToNumber(field[3], &type->max) && Text_ToInt(field[4], &decimals) &&
                decimals >= 0 && decimals <= DECIMALS_MAX) {

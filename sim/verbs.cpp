@@ -92,12 +92,16 @@ static void verb_set(int client, const std::string& path, const std::string& val
     }
 }
 
+// The whole value to all followers and to one more client, who hears it once; 0 for none.
 static void verb_tell_all_of(const Node& node, int also_client)
 {
-    if (node.type.kind != KIND_LIST)
-        return Tree_Tell(node, node.value, also_client);
-    for (const int client : node.followers)
+    bool is_told = also_client == 0;
+    for (const int client : node.followers) {
         Tree_Answer(node, client);
+        is_told = is_told || client == also_client;
+    }
+    if (!is_told)
+        Tree_Answer(node, also_client);
 }
 
 static void verb_default(int client, const std::string& path, const std::string&)
@@ -206,16 +210,14 @@ void Verb_SetNg(bool on)
 
 int64_t Verb_Tick(int64_t now)
 {
-    // A copy: telling changes no pulse today, but the list must not depend on that.
-    const std::vector<Pulse> pulses = vb.pulses;
-    std::erase_if(vb.pulses, [now](const Pulse& pulse) { return pulse.due_ms <= now; });
-    for (const Pulse& pulse : pulses) {
+    for (const Pulse& pulse : vb.pulses) {
         Node* node = Tree_Find(pulse.path);
         if (pulse.due_ms > now || !node || node->value == "false")
             continue;
         node->value = "false";
         Tree_Tell(*node, node->value, pulse.client);
     }
+    std::erase_if(vb.pulses, [now](const Pulse& pulse) { return pulse.due_ms <= now; });
     int64_t next = INT64_MAX;
     for (const Pulse& pulse : vb.pulses)
         next = std::min(next, pulse.due_ms);

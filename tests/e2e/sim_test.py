@@ -1,0 +1,602 @@
+"""The simulator as its clients see it: verbs, two panels, knobs, the announcement, faults, scripts.
+
+usage: sim_test.py BUILD_DIR [TEST...]
+Ports are fixed, so the whole run moves into a sandbox of its own first.
+"""
+
+import os
+import re
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+REPO = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+SIM = ""  # path of the program
+TEXT, BIN, HUB = 10001, 10000, 9500
+UNITS = "Engineering Setup@System@Network Config@List"
+
+VALUES = """\
+# comment
+M/E-1@Key1@Invert\tbool
+M/E-1@Key1@Type\tword\tLuminance,Linear
+M/E-1@Key1@Type\tword\tChroma,Linear
+M/E-1@Key1@Clip\tnum\t109.59\t-7.31\t2
+M/E-1@Key1@Gain\tnum\t5\t10\t0
+M/E-1@Key1@Trans\tnum\t0\t999\t0
+M/E-1@Key1@Auto\taction
+M/E-1@Key1@Free\tword\tOne,*
+M/E-1@Key10@Type\tword\tA,B
+M/E-1@Mixed\tbool
+M/E-1@Mixed\tword\tBoth
+broken line
+M/E-1@Bad\tnum\tlow\thigh\t0
+"""
+
+
+class Client:
+    """One connection to the simulator; lines are kept until somebody asks for them."""
+
+    def __init__(self, port=TEXT):
+        self.socket = socket.create_connection(("127.0.0.1", port), 5)
+        self.bytes = b""
+
+    def close(self):
+        self.socket.close()
+
+    def send(self, *lines):
+        self.socket.sendall("".join(line + "\n" for line in lines).encode())
+
+    def _fill(self, seconds):
+        """False when nothing came in time or the connection has ended."""
+        self.socket.settimeout(max(seconds, 0.001))
+        try:
+            more = self.socket.recv(65536)
+        except (TimeoutError, ConnectionResetError):
+            return False
+        self.bytes += more
+        return bool(more)
+
+    def line(self, seconds=3):
+        end = time.monotonic() + seconds
+        while b"\n" not in self.bytes:
+            if not self._fill(end - time.monotonic()):
+                return None
+        line, _, self.bytes = self.bytes.partition(b"\n")
+        return line.decode("latin-1")
+
+    def lines(self, count):
+        return [self.line() for _ in range(count)]
+
+    def until(self, wanted, seconds=5):
+        """All lines up to the wanted one."""
+        got = []
+        while not got or got[-1] != wanted:
+            line = self.line(seconds)
+            if line is None:
+                raise AssertionError(f"{wanted!r} did not come, but {got[-5:]}")
+            got.append(line)
+        return got
+
+    def sync(self):
+        """What came so far: the answer to a read closes the list and is left out."""
+        self.send("read Sync")
+        return self.until("Sync#")[:-1]
+
+    def has_ended(self, seconds=3):
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            self.socket.settimeout(0.1)
+            try:
+                if not self.socket.recv(65536):
+                    return True
+            except TimeoutError:
+                continue
+            except ConnectionResetError:
+                return True
+        return False
+
+
+class SimTest(unittest.TestCase):
+    values = None
+
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.log = os.path.join(self.folder.name, "sim.log")
+        self.start()
+
+    def file(self, name, text):
+        path = os.path.join(self.folder.name, name)
+        with open(path, "w", encoding="latin-1") as out:
+            out.write(text)
+        return path
+
+    def start(self, *arguments):
+        values = ["--values", self.file("values.txt", self.values)] if self.values else []
+        self.sim = subprocess.Popen(
+            [SIM, "--quiet", "--log", self.log, *values, *arguments],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        self.addCleanup(self.stop)
+        end = time.monotonic() + 5
+        while time.monotonic() < end and self.sim.poll() is None:
+            try:
+                socket.create_connection(("127.0.0.1", HUB), 1).close()
+                return
+            except OSError:
+                time.sleep(0.01)
+
+    def stop(self):
+        if self.sim.poll() is None:
+            self.sim.kill()
+        self.sim.wait()
+        self.sim.stdin.close()
+        self.sim.stdout.close()
+
+    def client(self, port=TEXT):
+        client = Client(port)
+        self.addCleanup(client.close)
+        return client
+
+    def do(self, *commands):
+        self.sim.stdin.write("".join(command + "\n" for command in commands))
+        self.sim.stdin.flush()
+
+    def output(self):
+        """What the console printed until the simulator ended."""
+        self.do("quit")
+        return self.sim.stdout.read()
+
+    def wait_for_log(self, pattern, seconds=3):
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            with open(self.log, encoding="latin-1") as log:
+                if re.search(pattern, log.read()):
+                    return
+            time.sleep(0.01)
+        self.fail(f"not in the log: {pattern}")
+
+
+class Verbs(SimTest):
+    values = VALUES
+
+    def test_put_is_answered_within_the_type(self):
+        panel = self.client()
+        cases = [
+            ("Key1@Invert", "true", "true"),
+            ("Key1@Invert", "maybe", "true"),  # refused: the old value
+            ("Key1@Type", "Chroma", "Chroma"),  # from the second line of its path
+            ("Key1@Type", "Plasma", "Chroma"),
+            ("Key1@Type", "null", "null"),  # released
+            ("Key1@Clip", "12.345", "12.35"),
+            ("Key1@Clip", "500", "109.59"),  # clamped, though the limits are turned round
+            ("Key1@Clip", "-1e3", "-7.31"),
+            ("Key1@Clip", "nan", "-7.31"),
+            ("Key1@Clip", "", "-7.31"),
+            ("Key1@Trans", "1:10", "40"),  # seconds and frames, 30 a second
+            ("Key1@Trans", "1::10", "40"),
+            ("Key1@Trans", "-1:10", "0"),
+            ("Key1@Free", "Anything", "Anything"),
+            ("Mixed", "Both", "Both"),
+            ("Mixed", "true", "true"),
+            ("Bad", "text", "text"),  # its line was no type
+            ("Key1@Unknown", "a,b#c", "a,b#c"),
+        ]
+        for path, value, answer in cases:
+            panel.send(f"put M/E-1@{path}#{value}")
+            self.assertEqual(panel.line(), f"M/E-1@{path}#{answer}", f"put {path}#{value}")
+
+    def test_defaults_follow_the_type_and_serve_the_sub_bank(self):
+        panel = self.client()
+        cases = {"Key1@Invert": "false", "Key1@Type": "Luminance", "Key1@Clip": "0.00",
+                 "Key1@Gain": "5", "Key1@Auto": "false", "Key1@Free": "", "Key1@Unknown": ""}
+        for bank in ("M/E-1", "M/E-1 SUB"):
+            for path, value in cases.items():
+                panel.send(f"read {bank}@{path}")
+                self.assertEqual(panel.line(), f"{bank}@{path}#{value}")
+
+    def test_subscription_brings_every_change_until_removed(self):
+        one, two = self.client(), self.client()
+        one.send("add A@B", "add A@B")
+        self.assertEqual(one.lines(2), ["A@B#", "A@B#"])
+        two.send("put A@B#1")
+        self.assertEqual(two.line(), "A@B#1")  # the sender hears it without a subscription
+        two.send("put A@B#1")
+        self.assertEqual(two.line(), "A@B#1")  # and when nothing changed
+        self.do("set A@B 2")
+        self.assertEqual(one.lines(2), ["A@B#1", "A@B#2"])  # each change once
+        one.send("remove A@B")
+        self.assertEqual(one.sync(), [])
+        two.send("put A@B#3")
+        self.assertEqual(two.line(), "A@B#3")
+        self.assertEqual(one.sync(), [])
+        one.send("read A@B")
+        self.assertEqual(one.line(), "A@B#3")
+
+    def test_a_sender_who_follows_the_path_hears_his_put_once(self):
+        panel = self.client()
+        panel.send("add A", "put A#1", "put A#1")
+        self.assertEqual(panel.sync(), ["A#", "A#1", "A#1"])
+
+    def test_an_action_falls_back(self):
+        one, two = self.client(), self.client()
+        two.send("add M/E-1@Key1@Auto")
+        two.sync()
+        one.send("put M/E-1@Key1@Auto#true")
+        pulse = ["M/E-1@Key1@Auto#true", "M/E-1@Key1@Auto#false"]
+        self.assertEqual(one.lines(2), pulse)
+        self.assertEqual(two.lines(2), pulse)
+
+    def test_default_resets_a_value_or_a_group_and_no_neighbour(self):
+        panel = self.client()
+        panel.send("add M/E-1@Key1@Type", "add M/E-1@Key1@Clip", "add M/E-1@Key10@Type",
+                   "put M/E-1@Key1@Type#Chroma", "put M/E-1@Key1@Clip#1", "put M/E-1@Key10@Type#B")
+        panel.sync()
+        panel.send("default M/E-1@Key1@Type", "default M/E-1@Key1@Type")
+        self.assertEqual(panel.sync(), ["M/E-1@Key1@Type#Luminance"] * 2)
+        panel.send("default M/E-1@Key1")
+        self.assertEqual(panel.sync(), ["M/E-1@Key1@Clip#0.00"])
+        panel.send("read M/E-1@Key10@Type")
+        self.assertEqual(panel.line(), "M/E-1@Key10@Type#B")
+
+    def test_the_menu_context_is_silent_and_each_panels_own(self):
+        one, two = self.client(), self.client()
+        two.send("add TopMenu")
+        self.assertEqual(two.line(), "TopMenu#")
+        one.send("set TopMenu#M/E-1", "add TopMenu")
+        self.assertEqual(one.sync(), ["TopMenu#"])
+        self.assertEqual(two.sync(), [])
+        self.do("clients")
+        self.assertIn("menu=M/E-1\n", self.output())
+
+    def test_rubbish_costs_a_log_line_and_no_more(self):
+        panel = self.client()
+        rubbish = [b"x" * 5000, b"\xff\x00\x01\x7f", b"add", b"add ", b"put A", b"add A#1", b"#",
+                   b"assign Knob5#A", b"assign Knob#A", b"bogus A", b"put #1", b"  ",
+                   b"add " + b"p" * 500, b"put A#\x07", b"%s%n%n"]
+        for piece in rubbish:
+            panel.socket.sendall(piece + b"\n")
+        panel.socket.sendall(b"y" * 300000)  # and its end comes much later
+        panel.socket.sendall(b"\r\nadd Good\r\n")
+        self.assertEqual(panel.sync(), ["Good#"])
+
+    def test_a_value_too_long_for_the_panels_buffer_is_refused(self):
+        panel = self.client()
+        panel.send("put A#" + "v" * 390, "put A#" + "v" * 400)
+        first, second = panel.lines(2)
+        self.assertEqual(first, "A#" + "v" * 390)
+        self.assertEqual(second, first)
+
+
+class Installation(SimTest):
+    def test_the_unit_lists_fill_the_device_tables(self):
+        panel = self.client()
+        system = "Engineering Setup@System@System Config@"
+        panel.send(f"add {UNITS}", f"add {system}Panel Assign", f"add {system}Switcher Assign")
+        lists = {}
+        for line in panel.sync():
+            path, _, row = line.partition("#")
+            lists.setdefault(path, []).append(row.split(","))
+        for rows in lists.values():
+            self.assertEqual(rows.pop(0), ["KILL"])  # old rows go before the new ones come
+        self.assertEqual({len(row) for row in lists[UNITS]}, {5})
+        names = [row[1] for row in lists[UNITS]]
+        for unit, count in (("PNL", 2), ("SWR", 2), ("DME", 4), ("MPE", 1)):
+            self.assertEqual(sum(name.startswith(unit) for name in names), count)
+        for unit_id, name, *addresses in lists[UNITS]:
+            self.assertEqual(int(unit_id[7:]), int(name[3:]))  # the number is read from there
+            self.assertTrue(all(len(address) <= 23 for address in addresses))
+        # Every unit that a row names is there.
+        numbers = {name[:3]: {int(n[3:]) for n in names if n[:3] == name[:3]} for name in names}
+        for row in lists[system + "Panel Assign"]:
+            self.assertEqual(len(row), 6)
+            self.assertLessEqual({int(n) for n in row[1:3]} - {0}, numbers["SWR"])
+        for row in lists[system + "Switcher Assign"]:
+            self.assertEqual(len(row), 5)
+            self.assertLessEqual({int(n) for n in row[1:]} - {0}, numbers["DME"])
+
+    def test_no_line_is_longer_than_a_panel_can_take(self):
+        self.do("tree")
+        lines = self.output().splitlines()
+        self.assertGreater(len(lines), 300)
+        self.assertLessEqual(max(len(line) for line in lines), 400)
+
+    def test_a_put_row_replaces_the_row_of_its_key(self):
+        one, two = self.client(), self.client()
+        path = "Engineering Setup@Panel@Xpt Assign@Source@List"
+        one.send(f"add {path}")
+        before = one.sync()
+        two.send(f"put {path}#3,STAGE")
+        self.assertEqual(one.line(), f"{path}#3,STAGE")
+        two.sync()
+        two.send(f"read {path}")
+        after = two.sync()
+        self.assertEqual(len(after), len(before))
+        self.assertEqual([line for line in after if line not in before], [f"{path}#3,STAGE"])
+        two.send(f"default {path}")
+        self.assertEqual(two.sync(), before)
+
+
+def announcement(lines):
+    head = "Info@Initial Read Status#"
+    return [line[len(head):].split(",") for line in lines if line.startswith(head)]
+
+
+class Announcement(SimTest):
+    END = "Info@Initial Read Status#0,end"
+
+    def check(self, lines):
+        steps = announcement(lines)
+        self.assertEqual(steps[0], ["0", "start"])
+        for unit in "0123456":
+            self.assertLess(steps.index([unit, "start"]), steps.index([unit, "end"]))
+        self.assertEqual(len(steps), 14)
+
+    def test_asked_for_it_comes_whole_and_only_to_who_asked(self):
+        panel, other = self.client(), self.client()
+        panel.send("put Info@Initial Read Status#true")
+        self.check(panel.until(self.END))
+        self.assertEqual(other.sync(), [])
+
+    def test_a_panel_that_lost_its_link_is_announced_to_without_asking(self):
+        panel = self.client()
+        panel.send("put Info@Initial Read Status#true")
+        panel.until(self.END)
+        self.do("drop text")
+        self.assertTrue(panel.has_ended())
+        again, stranger = self.client(), self.client()
+        self.check(again.until(self.END))
+        self.assertEqual(stranger.sync(), [])
+
+    def test_taken_back_it_stops_and_the_next_connection_is_quiet(self):
+        panel = self.client()
+        panel.send("put Info@Initial Read Status#true", "put Info@Initial Read Status#false")
+        time.sleep(0.2)
+        self.assertEqual(announcement(panel.sync()), [])
+        panel.close()
+        time.sleep(0.1)
+        self.assertEqual(self.client().sync(), [])
+
+    def test_a_restart_forgets_values_and_subscriptions_and_says_so(self):
+        panel = self.client()
+        panel.send("add A", "put A#1", "assign Knob0#A")
+        panel.sync()
+        self.do("restart")
+        lines = panel.until(self.END)
+        self.assertEqual(lines[:2], ["CONNECT@Status#NG", "CONNECT@Status#OK"])
+        self.check(lines)
+        self.do("set A 5", "knob 0 +1")
+        self.assertEqual(panel.sync(), [])
+        self.do("restart")
+        panel.until(self.END)
+        panel.send("read A")
+        self.assertEqual(panel.line(), "A#")
+
+
+class Knobs(SimTest):
+    values = VALUES
+
+    def test_a_turn_moves_the_bound_value_by_its_resolution_up_to_the_stop(self):
+        panel = self.client()
+        clip = "M/E-1@Key1@Clip"
+        panel.send(f"add {clip}", f"assign Knob2#{clip}")
+        panel.sync()
+        self.do("knob 2 +3", "knob 1 +3", "knob 2 -1", "knob 2 +99999", "knob 2 +1")
+        self.assertEqual(panel.until(f"{clip}#109.59"), [f"{clip}#{v}" for v in ("0.03", "0.02", "109.59")])
+        panel.send("assign Knob2#null")
+        panel.sync()
+        self.do("knob 2 -1")
+        self.assertEqual(panel.sync(), [])
+
+    def test_two_panels_on_one_path_turn_it_once_and_hear_it_both(self):
+        one, two = self.client(), self.client()
+        for panel in (one, two):
+            panel.send("add M/E-1@Key1@Gain", "assign Knob0#M/E-1@Key1@Gain")
+            panel.sync()
+        self.do("knob 0 +2")
+        for panel in (one, two):
+            self.assertEqual(panel.line(), "M/E-1@Key1@Gain#7")
+            self.assertEqual(panel.sync(), [])
+
+    def test_bare_detents_go_to_the_panel_whose_knob_it_is(self):
+        one, two = self.client(), self.client()
+        one.send("assign Knob4#Panel@Common@Knob4")
+        for panel in (one, two):
+            panel.sync()
+        self.do("knob 4 -3")
+        self.assertEqual(one.line(), "Panel@Common@Knob4#-3")
+        self.assertEqual(two.sync(), [])
+
+
+class Faults(SimTest):
+    def test_a_dropped_link_leaves_the_others_and_stays_down_as_long_as_asked(self):
+        text, frames = self.client(), self.client(BIN)
+        self.do("drop text 400")
+        self.assertTrue(text.has_ended())
+        self.assertFalse(frames.has_ended(0.1))
+        with self.assertRaises(OSError):
+            Client(TEXT)
+        time.sleep(0.5)
+        self.assertEqual(self.client().sync(), [])
+
+    def test_refuse_keeps_who_is_there(self):
+        panel = self.client()
+        self.do("refuse on")
+        self.wait_for_log("refuse on")
+        panel.sync()
+        with self.assertRaises(OSError):
+            Client(HUB)
+        self.do("refuse off")
+        panel.sync()
+        self.client(HUB)
+
+    def test_cut_lines_are_the_same_bytes_in_more_pieces(self):
+        panel = self.client()
+        panel.send(f"read {UNITS}")
+        whole = panel.sync()
+        for fault in ("dribble on", "split 7"):
+            self.do(fault)
+            self.wait_for_log(fault)
+            panel.send(f"read {UNITS}")
+            self.assertTrue(panel._fill(3))
+            self.assertNotEqual(panel.bytes[-1:], b"\n")  # came in part
+            self.assertEqual(panel.sync(), whole)
+        self.do("split 0")
+
+    def test_a_stall_delays_and_loses_nothing(self):
+        panel = self.client()
+        self.do("stall 400")
+        self.wait_for_log("stall 400")
+        panel.send("put A#1")
+        self.assertIsNone(panel.line(0.2))
+        self.assertEqual(panel.line(), "A#1")
+
+    def test_no_good_answers_every_put_with_the_old_value(self):
+        panel = self.client()
+        panel.send("put A#1")
+        panel.sync()
+        self.do("ng on")
+        self.wait_for_log("ng on")
+        panel.send("put A#2")
+        self.assertEqual(panel.line(), "A#1")
+        self.do("ng off")
+        self.wait_for_log("ng off")
+        panel.send("put A#2")
+        self.assertEqual(panel.line(), "A#2")
+
+    def test_a_client_that_does_not_read_holds_up_nobody(self):
+        lazy, panel = self.client(), self.client()
+        lazy.send(*["add Lazy"] * 50)
+        self.do("flood 500000")  # more than the lazy one's sockets hold
+        end = time.monotonic() + 2
+        while time.monotonic() < end:
+            panel.send("read Here")
+            panel.until("Here#", 1)
+        self.assertIsNone(self.sim.poll())
+
+    def test_a_flood_comes_to_the_last_line(self):
+        panel = self.client()
+        self.do("flood 20000")
+        self.wait_for_log("flood is over")
+        self.assertEqual(sum(line.startswith("Flood@") for line in panel.sync()), 20000)
+
+    def test_garbage_hits_all_links_and_the_next_line_is_clean(self):
+        panel, frames, hub = self.client(), self.client(BIN), self.client(HUB)
+        self.do("garbage 200")
+        self.wait_for_log("garbage is over")
+        got = panel.sync()
+        self.assertGreater(len(got), 50)
+        self.assertTrue(any(len(line) > 1024 for line in got))
+        self.assertTrue(any("%n" in line for line in got))
+        self.assertTrue(frames._fill(1) and hub._fill(1))
+
+    def test_a_seed_repeats_the_garbage(self):
+        def garbage():
+            panel = self.client()
+            self.do("garbage 1")
+            self.wait_for_log("garbage is over")
+            return panel.sync()[:20]
+        runs = []
+        for seed in ("7", "7", "8"):
+            self.stop()
+            self.start("--seed", seed)
+            runs.append(garbage())
+        self.assertEqual(runs[0], runs[1])
+        self.assertNotEqual(runs[0], runs[2])
+
+    def test_raw_bytes_and_lines_go_out_as_they_stand(self):
+        panel = self.client()
+        panel.sync()
+        self.do(r"raw A#1\r\nB#\x41\\", r"raw \n", "send C #2", "page 1111.0001", "menu M/E-1")
+        self.assertEqual(panel.lines(5), ["A#1\r", "B#A\\", "C #2", "Page#1111.0001", "TopMenu#M/E-1"])
+
+
+class OtherLinks(SimTest):
+    FRAME = bytes([7, 0, 1, 0xAA, 0, 2, 0, 0xFF, 0xFF])
+
+    def test_frames_are_cut_and_a_bad_one_does_not_stop_the_next(self):
+        link = self.client(BIN)
+        for piece in (self.FRAME[:5], self.FRAME[5:] + self.FRAME[:1], self.FRAME[1:]):
+            link.socket.sendall(piece)
+            time.sleep(0.02)
+        hexadecimal = "< bin 07 00 01 AA 00 02 00 FF FF\n"
+        self.wait_for_log(f"(?s){hexadecimal}.*{hexadecimal}")
+        for bad in (b"\xff\xff", b"\x00\x00", self.FRAME[:7] + b"\x00\x00"):
+            link.socket.sendall(bad)
+            time.sleep(0.05)
+        link.socket.sendall(b"\x08\x00" + self.FRAME[2:7] + b"\x44\xff\xff")
+        self.wait_for_log("< bin 08 00 01 AA 00 02 00 44 FF FF\n")
+
+    def test_hub_lines_are_heard(self):
+        hub = self.client(HUB)
+        self.do("expect hub Listen#CS?.*", "send heard")
+        panel = self.client()
+        hub.send("Listen#CS1.ClipStoreInfo")
+        self.assertEqual(panel.line(), "heard")
+
+
+class Scripts(SimTest):
+    def run_script(self, text, *lines):
+        """Exit status and output of a run in which a client sends the lines at once."""
+        self.stop()
+        self.start("--script", self.file("script.txt", text))
+        if lines:
+            panel = self.client()
+            panel.send(*lines)
+        return self.sim.wait(10), self.sim.stdout.read()
+
+    def test_a_script_expects_in_order_and_misses_nothing_that_came_at_once(self):
+        text = "# both lines come in one piece\nexpect add A*B\nexpect \"put C#1 2\" 3000\nquit\n"
+        status, output = self.run_script(text, "add AxB", "put C#1 2")
+        self.assertEqual((status, output), (0, ""))
+
+    def test_what_does_not_come_ends_it_with_the_line_number(self):
+        started = time.monotonic()
+        status, output = self.run_script("wait 1\n\nexpect add B 300\nquit\n", "add A")
+        self.assertEqual(status, 1)
+        self.assertIn("line 3", output)
+        self.assertLess(time.monotonic() - started, 3)
+
+    def test_a_mistake_ends_it(self):
+        for text in ("bogus\n", "knob 7 +1\n", "knob 1\n", "wait soon\n", "drop all\n", "expect\n"):
+            status, output = self.run_script(text)
+            self.assertEqual((status, "line 1" in output), (1, True), text)
+
+    def test_at_its_end_the_simulator_serves_on(self):
+        self.stop()
+        self.start("--script", self.file("script.txt", "set A 1\n"))
+        panel = self.client()
+        panel.send("read A")
+        self.assertEqual(panel.line(), "A#1")
+
+    def test_a_file_that_is_not_there_ends_the_start(self):
+        self.stop()
+        for option in ("--values", "--script"):
+            self.assertEqual(subprocess.run([SIM, option, "/nowhere/x"], capture_output=True).returncode, 1)
+
+    def test_the_scripts_of_the_repository_are_sound(self):
+        """Each runs up to its first expectation without a mistake."""
+        folder = os.path.join(REPO, "sim", "scripts")
+        scripts = [name for name in os.listdir(folder) if name.endswith(".txt")]
+        self.assertGreater(len(scripts), 2)
+        for name in scripts:
+            with open(os.path.join(folder, name)) as script:
+                text = re.sub(r"(?m)^(expect|wait|stall|garbage|flood) .*", r"wait 1", script.read())
+            self.assertEqual(self.run_script(text + "\nquit\n"), (0, ""), name)
+
+
+def main():
+    global SIM
+    build = os.path.abspath(sys.argv[1])
+    if not os.environ.get("SIM_TEST_SANDBOX"):
+        os.environ["SIM_TEST_SANDBOX"] = "1"
+        command = [os.path.join(REPO, "tools", "sandbox"), sys.executable, os.path.abspath(__file__)]
+        sys.exit(subprocess.run(command + [build] + sys.argv[2:]).returncode)
+    SIM = os.path.join(build, "bin", "scs_sim")
+    unittest.main(argv=sys.argv[:1] + sys.argv[2:])
+
+
+if __name__ == "__main__":
+    main()
