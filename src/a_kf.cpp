@@ -39,4 +39,6 @@ int KF_SetRegionAssigned(int region, int)
 
 void KF_RegionAssignTally(int, const char*) {}
 
+void KF_InitCommand() {}
+
 void KF_InitCommand_MP2() {}

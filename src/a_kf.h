@@ -17,4 +17,6 @@ int KF_SetRegionPriority(int region, int v); // -1 out of bounds
 int KF_SetRegionAssigned(int region, int v); // -1 out of bounds
 // Row row (from 1) of the ten-key region assignment: four regions as "P/P,M/E-1,..." parts of value.
 void KF_RegionAssignTally(int row, const char* value);
+// Subscribe what the timeline needs in text.
+void KF_InitCommand();
 void KF_InitCommand_MP2();

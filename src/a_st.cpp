@@ -12,3 +12,5 @@ int ST_Proc(int, MsgArg, MsgArg, MsgArg, MsgArg)
 {
     return 0;
 }
+
+void GL_ST_area_update_draw() {}

@@ -1,6 +1,6 @@
 // Units: which there are, how they are assigned to each other, their formats and options.
 #include "a_ba.h"
-#include "bus_needs.h"
+#include "pane.h"
 #include "bus_tally.h"
 #include "device.h"
 #include "fmctrl3.h"

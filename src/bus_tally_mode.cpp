@@ -1,5 +1,5 @@
 // Operation modes: which pages exist in them, and whether the current one still does.
-#include "bus_needs.h"
+#include "a_st.h"
 #include "bus_tally.h"
 #include "device.h"
 #include "global.h"

@@ -1,5 +1,8 @@
 // Names and assignment of the buses.
-#include "bus_needs.h"
+#include "a_kf.h"
+#include "a_st.h"
+#include "file.h"
+#include "register.h"
 #include "bus_tally.h"
 #include "global.h"
 #include "memory.h"

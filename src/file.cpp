@@ -27,4 +27,6 @@ int BkgdFileTransfer_PagePermitted(uint32_t)
     return 1;
 }
 
+void Filescp_trnasferlist_init(const char*) {}
+
 void fileprocessprogress_update() {}

@@ -10,4 +10,6 @@ void BkgdFileTransfer_PaneQuit();
 void BkgdHDDTransfer_PaneQuit();
 // The transfer permits this page to stay as it is.
 int BkgdFileTransfer_PagePermitted(uint32_t page);
+// The transfer list of a hub table ("PNL1", "CS2", "SWR1") begins anew.
+void Filescp_trnasferlist_init(const char* target);
 void fileprocessprogress_update(); // the bars of FileProc_Prog have changed

@@ -1,7 +1,7 @@
 #include "initread.h"
 #include "a_kf.h"
-#include "bus_needs.h"
 #include "device.h"
+#include "file.h"
 #include "global.h"
 #include "initread_list.h"
 #include "log.h"

@@ -61,8 +61,10 @@ constexpr Stage stages[] = {
 } // namespace
 
 static struct {
-    int selfdiag_ms = 0;                             // gathered since the last poll
-    uint32_t event_check_before = 0;                 // TickBefore of MainEventCheck
+    int selfdiag_ms = 0;             // gathered since the last poll
+    uint32_t event_check_before = 0; // TickBefore of MainEventCheck
+    int walk_passes = 0;             // of the walk through all pages
+    int walk_row = 0;
     bool armed[sizeof stages / sizeof *stages] = {}; // by stage
 } loop;
 
@@ -349,6 +351,19 @@ int MainPass()
     if (GL_AllPageDisplayMode)
         GL_AllPageSet();
     return is_last;
+}
+
+// One page every GL_AllPageDisplayMsec passes, in the order of the table, for ever.
+void GL_AllPageSet()
+{
+    if (GL_ScreenSaver_Now || GetWindow() || Pane_GetActiveID())
+        return;
+    if (++loop.walk_passes < GL_AllPageDisplayMsec)
+        return;
+    loop.walk_passes = 0;
+    if (PageTable[loop.walk_row].id == PAGE_END)
+        loop.walk_row = 0;
+    GL_CreatePage = PageTable[loop.walk_row++].id;
 }
 
 void MainEventCheck()

@@ -54,3 +54,35 @@ int PaneProc(int, MsgArg, MsgArg, MsgArg, MsgArg)
 {
     return 0;
 }
+
+// No group has a region yet.
+
+int PaneRegion_GetMainMax(int)
+{
+    return 0;
+}
+
+int PaneRegion_GetGrpID(int, int, int)
+{
+    return 0;
+}
+
+const char* PaneRegion_GetGrpName(int, int)
+{
+    return "";
+}
+
+int PaneRegion_GetGrpPos(int, int)
+{
+    return 0;
+}
+
+int PaneRegion_IsSelected(int, int)
+{
+    return 0;
+}
+
+int PaneRegion_GetRef(int)
+{
+    return 0;
+}

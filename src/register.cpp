@@ -10,4 +10,8 @@ int RegisterProc(int, MsgArg, MsgArg, MsgArg, MsgArg)
 
 void Register_RefreshDME() {}
 
+void Register_InitCommand() {}
+
+void Register_DeathCommand() {}
+
 void Register_InitCommand_MP2() {}
