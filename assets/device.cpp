@@ -23,17 +23,20 @@ void trail(const Canvas& cv, std::initializer_list<Point> points, Colour colour 
     CV_Stroke(cv, 2, colour, 1, CAIRO_LINE_CAP_BUTT);
 }
 
+// Whole by itself; the other tiles lie on it: channel i at (0, 32 i), trail i at (60, 32 i), output
+// at (160, 48).
 void draw_combiner_base(const Canvas& cv, const State&, int)
 {
-    constexpr int PITCH = 32, BUS_X = 130, MIDDLE_Y = 60;
+    constexpr int PITCH = 32, BUS_X = 130, OUT_X = 160, MIDDLE_Y = 60;
     for (int i = 0; i < 4; i++) {
         const double y = i * PITCH + TILE_H / 2;
-        trail(cv, {{TILE_W, y}, {60, y}});
-        trail(cv, {{100, y}, {BUS_X + 1, y}});
+        trail(cv, {{TILE_W, y}, {BUS_X + 1, y}});
+        box(cv, 0, i * PITCH, TILE_W, TILE_H);
     }
     trail(cv, {{BUS_X, TILE_H / 2}, {BUS_X, 3 * PITCH + TILE_H / 2}});
-    trail(cv, {{BUS_X, MIDDLE_Y}, {152, MIDDLE_Y}});
-    CV_Arrow(cv, 153, MIDDLE_Y, 1, 0, 6, TRAIL);
+    trail(cv, {{BUS_X, MIDDLE_Y}, {OUT_X - 8, MIDDLE_Y}});
+    CV_Arrow(cv, OUT_X - 7, MIDDLE_Y, 1, 0, 6, TRAIL);
+    box(cv, OUT_X, MIDDLE_Y - TILE_H / 2, TILE_W, TILE_H);
 }
 
 enum TrailKind { TRAIL_NONE, TRAIL_POST, TRAIL_PRE };
@@ -105,7 +108,7 @@ constexpr Colour KEY = 0x4C555A, KEY_DARK = 0x1A1D1F, LIT = 0xD3ECEE, ORANGE = 0
 constexpr Part MENU_PARTS[] = {
     // the touch screen with its knobs
     {20, 10, 1, 1, 98, 60, 0, 0, KEY_DARK},  {22, 12, 1, 1, 94, 56, 0, 0, GLASS},
-    {28, 18, 4, 3, 12, 8, 16, 12, KEY},      {28, 54, 5, 1, 12, 8, 16, 0, 0x25444E},
+    {28, 18, 4, 3, 12, 8, 16, 12, KEY},      {28, 54, 4, 1, 12, 8, 16, 0, 0x25444E},
     {100, 18, 1, 4, 12, 8, 0, 12, 0x006464}, {126, 16, 1, 5, 8, 8, 0, 11, PLATE},
 };
 constexpr Part SWITCHER_PARTS[] = {

@@ -111,7 +111,8 @@ void icon_pop_up(const Canvas& cv, double x, double y, Colour colour)
     CV_Stroke(cv, 1.5, colour);
     CV_RoundRect(cv, x + 4, y + 1, 13, 9, 1);
     CV_Paint(cv, colour);
-    CV_Fill(cv, x + 6, y + 4, 9, 4, 0x1C343D);
+    CV_Fill(cv, x + 6, y + 4, 9, 4,
+            colour == ICON_DISABLED ? 0x1A1D1F : 0x1C343D); // the key shows through
 }
 
 void icon_find(const Canvas& cv, double x, double y, Colour colour)

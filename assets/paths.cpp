@@ -70,10 +70,12 @@ void draw_hue(const Canvas& cv, const Pen& pen, int kind)
     CV_Arc(cv, x, y, RADIUS, way.from * PI, way.to * PI);
     CV_Stroke(cv, 2.6, pen.ink, 1, CAIRO_LINE_CAP_BUTT);
 
-    const double head = (way.is_clockwise ? way.to : way.from) * PI,
+    // The head stands at the end of the way and points a little round the bend, as the eye expects.
+    const double end = (way.is_clockwise ? way.to : way.from) * PI,
                  sense = way.is_clockwise ? 1 : -1;
-    CV_Arrow(cv, x + RADIUS * std::cos(head), y + RADIUS * std::sin(head), -std::sin(head) * sense,
-             std::cos(head) * sense, 5, pen.ink);
+    const double heading = end + 0.35 * sense;
+    CV_Arrow(cv, x + RADIUS * std::cos(end), y + RADIUS * std::sin(end), -std::sin(heading) * sense,
+             std::cos(heading) * sense, 5.5, pen.ink);
     if (way.has_ends)
         dot(cv, pen, {CENTRE_X, CENTRE_Y - RADIUS}, 3);
 }

@@ -7,7 +7,7 @@ namespace
 {
 constexpr double X0 = WIPE_SCREEN_X, Y0 = WIPE_SCREEN_Y, W = WIPE_SCREEN_W, H = WIPE_SCREEN_H;
 constexpr double MIDDLE_X = X0 + W / 2, MIDDLE_Y = Y0 + H / 2;
-constexpr Colour ORANGE = 0xE48B1B, CYAN = 0x00FFFF;
+constexpr Colour ORANGE = 0xE48B1B, CYAN = 0x00FFFF, PLATE = 0x00222B;
 constexpr Colour SEAM = 0x6FA0A6;      // rim of a light picture, and its side in the shade
 constexpr Colour DEPARTING = 0x2A6676; // outgoing picture on its way
 constexpr Colour CURL_DARK = 0x5C8A92, ROUND_DARK = 0x4E7A82;
@@ -20,7 +20,8 @@ constexpr Direction DIRECTIONS[] = {{1, 0}, {0, 1},  {-1, 0},  {0, -1},
 
 void arrow(const Canvas& cv, double x, double y, Direction d)
 {
-    const double length = std::hypot(d.x, d.y), dx = d.x / length, dy = d.y / length;
+    const double length = std::hypot(d.x, d.y);
+    const double dx = d.x / length, dy = d.y / length;
     CV_Lines(cv, {{x - dx * 7, y - dy * 7}, {x + dx * 2, y + dy * 2}});
     CV_Stroke(cv, 3, ORANGE);
     CV_Arrow(cv, x + dx * 4, y + dy * 4, dx, dy, 5, ORANGE);
@@ -226,6 +227,17 @@ constexpr struct Move {
     {401, 418, doors_in_depth},
     {901, 999, user_program},
 };
+
+// Cyan squares at the top right, one a channel, on a plate that keeps them readable over a light
+// picture.
+void draw_channels(const Canvas& cv, int channels)
+{
+    for (int i = 0; i < channels; i++) {
+        const double x = X0 + W - 6 - i * 7;
+        CV_Fill(cv, x - 1, Y0 + 1, 7, 7, PLATE);
+        CV_Fill(cv, x, Y0 + 2, 5, 5, CYAN);
+    }
+}
 } // namespace
 
 std::vector<uint8_t> WIPE_Effect(int number, bool with_channels)
@@ -240,8 +252,7 @@ std::vector<uint8_t> WIPE_Effect(int number, bool with_channels)
             m.draw(cv, move_number - m.first);
     CV_EndClip(cv);
     if (with_channels && channels > 1)
-        for (int i = 0; i < channels; i++)
-            CV_Fill(cv, X0 + W - 6 - i * 7, Y0 + 2, 5, 5, CYAN);
+        draw_channels(cv, channels);
     std::vector<uint8_t> pixels = CV_Pixels(cv);
     CV_Free(cv);
     return pixels;
