@@ -48,54 +48,21 @@ void draw_pushed(const Canvas& cv, const Material& material, const CapShape& sha
 }
 } // namespace
 
-const Material GRAPHITE = {
-    .up = {.edge = 0x737D83,
-           .top = 0x4C555A,
-           .middle = 0x3E464A,
-           .bottom = 0x32383C,
-           .lip = 0x15181A},
-    .pushed = {
-        .edge = 0, .top = 0x262B2E, .middle = 0x2C3235, .bottom = 0x363D41, .lip = 0x101214}};
-const Material ICE = {
-    .up = {.edge = 0xFFFFFF,
-           .top = 0xEAF7F8,
-           .middle = 0xD3ECEE,
-           .bottom = 0xB6DCE0,
-           .lip = 0x4A767D},
-    .pushed = {.edge = 0, .top = 0xA9CFD4, .middle = 0xBDE0E3, .bottom = 0xD1EBED, .lip = 0x3A6067},
-    .is_tinted = true};
-const Material AMBER = {
-    .up = {.edge = 0xFFFBF0,
-           .top = 0xFBE8C6,
-           .middle = 0xF3CF8F,
-           .bottom = 0xE8B25E,
-           .lip = 0x86581A},
-    .pushed = {
-        .edge = 0, .top = 0xE2B468, .middle = 0xF0CB88, .bottom = 0xF9DDAC, .lip = 0x6E4713}};
-const Material STEEL = {
-    .up = {.edge = 0x7888B4,
-           .top = 0x4D5C86,
-           .middle = 0x3E4B72,
-           .bottom = 0x313C5E,
-           .lip = 0x131828},
-    .pushed = {
-        .edge = 0, .top = 0x262F4A, .middle = 0x2D3757, .bottom = 0x37436A, .lip = 0x0E1220}};
-const Material SILVER = {
-    .up = {.edge = 0xFFFFFF,
-           .top = 0xF0F3FD,
-           .middle = 0xDCE1F3,
-           .bottom = 0xC2CAE7,
-           .lip = 0x5A678F},
-    .pushed = {
-        .edge = 0, .top = 0xB5BEDC, .middle = 0xC9D1E9, .bottom = 0xDCE2F4, .lip = 0x48547A}};
-const Material PETROL = {
-    .up = {.edge = 0x527E8B,
-           .top = 0x2F5460,
-           .middle = 0x25444E,
-           .bottom = 0x1C343D,
-           .lip = 0x0B171B},
-    .pushed = {
-        .edge = 0, .top = 0x13262C, .middle = 0x182F37, .bottom = 0x203D47, .lip = 0x081114}};
+// clang-format off
+//                          edge      top       middle    bottom    lip
+const Material GRAPHITE= {{0x737D83, 0x4C555A, 0x3E464A, 0x32383C, 0x15181A},
+                           {0,        0x262B2E, 0x2C3235, 0x363D41, 0x101214}};
+const Material ICE     = {{0xFFFFFF, 0xEAF7F8, 0xD3ECEE, 0xB6DCE0, 0x4A767D},
+                           {0,        0xA9CFD4, 0xBDE0E3, 0xD1EBED, 0x3A6067}, true};
+const Material AMBER   = {{0xFFFBF0, 0xFBE8C6, 0xF3CF8F, 0xE8B25E, 0x86581A},
+                           {0,        0xE2B468, 0xF0CB88, 0xF9DDAC, 0x6E4713}};
+const Material STEEL   = {{0x7888B4, 0x4D5C86, 0x3E4B72, 0x313C5E, 0x131828},
+                           {0,        0x262F4A, 0x2D3757, 0x37436A, 0x0E1220}};
+const Material SILVER  = {{0xFFFFFF, 0xF0F3FD, 0xDCE1F3, 0xC2CAE7, 0x5A678F},
+                           {0,        0xB5BEDC, 0xC9D1E9, 0xDCE2F4, 0x48547A}};
+const Material PETROL  = {{0x527E8B, 0x2F5460, 0x25444E, 0x1C343D, 0x0B171B},
+                           {0,        0x13262C, 0x182F37, 0x203D47, 0x081114}};
+// clang-format on
 
 void CAP_Draw(const Canvas& cv, const Material& material, int pushed, const CapShape& shape)
 {

@@ -52,6 +52,16 @@ void draw_crosspoint(const Canvas& cv, const Pen& pen, int kind)
 
 enum HuePath { HUE_SHORT, HUE_LONG, HUE_CW, HUE_CCW };
 
+// Slender, so that a small one on a bend still tells its direction.
+void arrow_head(const Canvas& cv, const Pen& pen, Point base, double heading)
+{
+    const double x = pen.x + base.x, y = pen.y + base.y;
+    const double dx = std::cos(heading), dy = std::sin(heading);
+    CV_Polygon(
+        cv, {{x + dx * 8, y + dy * 8}, {x - dy * 4.5, y + dx * 4.5}, {x + dy * 4.5, y - dx * 4.5}});
+    CV_Paint(cv, pen.ink);
+}
+
 void draw_hue(const Canvas& cv, const Pen& pen, int kind)
 {
     constexpr struct {
@@ -70,12 +80,9 @@ void draw_hue(const Canvas& cv, const Pen& pen, int kind)
     CV_Arc(cv, x, y, RADIUS, way.from * PI, way.to * PI);
     CV_Stroke(cv, 2.6, pen.ink, 1, CAIRO_LINE_CAP_BUTT);
 
-    // The head stands at the end of the way and points a little round the bend, as the eye expects.
-    const double end = (way.is_clockwise ? way.to : way.from) * PI,
-                 sense = way.is_clockwise ? 1 : -1;
-    const double heading = end + 0.35 * sense;
-    CV_Arrow(cv, x + RADIUS * std::cos(end), y + RADIUS * std::sin(end), -std::sin(heading) * sense,
-             std::cos(heading) * sense, 5.5, pen.ink);
+    const double end = (way.is_clockwise ? way.to : way.from) * PI;
+    arrow_head(cv, pen, {CENTRE_X + RADIUS * std::cos(end), CENTRE_Y + RADIUS * std::sin(end)},
+               end + (way.is_clockwise ? 0.5 : -0.5) * PI + (way.is_clockwise ? 0.25 : -0.25));
     if (way.has_ends)
         dot(cv, pen, {CENTRE_X, CENTRE_Y - RADIUS}, 3);
 }
