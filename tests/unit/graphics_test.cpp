@@ -1,0 +1,163 @@
+#include "graphics.h"
+#include "log.h"
+#include "tdl_fixture.h"
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace
+{
+// A working directory with its own graphics folder; the bitmaps that were loaded before are back at
+// its end.
+struct GraphicsFolder {
+    GraphicsFolder() : had_graphics(G_EXE_p0o0 != nullptr)
+    {
+        FreeGraphics();
+        std::filesystem::create_directories("graphics/ptn");
+        Log_Init("graphics.log", LOG_FILE_SIZE);
+        Log_SetLevel(LOG_TRACE);
+    }
+    ~GraphicsFolder()
+    {
+        FreeGraphics();
+        Log_Init(nullptr, LOG_FILE_SIZE);
+        if (!had_graphics)
+            return;
+        std::filesystem::current_path(TEST_RUN_DIR);
+        LoadGraphics();
+    }
+    GraphicsFolder(const GraphicsFolder&) = delete;
+    GraphicsFolder& operator=(const GraphicsFolder&) = delete;
+    bool had_graphics;
+};
+
+// A bitmap that is known again by its width.
+void SaveBitmap(const std::string& name, int width)
+{
+    SDL_Surface* s = SDL_CreateRGBSurface(SDL_SWSURFACE, width, 1, 24, 0xFF0000, 0xFF00, 0xFF, 0);
+    ASSERT_EQ(SDL_SaveBMP(s, ("graphics/" + name + ".bmp").c_str()), 0);
+    SDL_FreeSurface(s);
+}
+
+int WidthOf(const SDL_Surface* s)
+{
+    return s ? s->w : 0;
+}
+
+int LogLinesWith(const std::string& part)
+{
+    std::ifstream log("graphics.log");
+    int count = 0;
+    for (std::string line; std::getline(log, line);)
+        count += line.find(part) != std::string::npos;
+    return count;
+}
+} // namespace
+
+TEST(Graphics, AMissingFileIsANullBitmapAndALogLine)
+{
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    SaveBitmap("EXE_p0o0", 85);
+    SaveBitmap("KF_off2", 40); // another name than its global's
+    SaveBitmap("KF_off", 41);
+    LoadGraphics();
+    EXPECT_EQ(WidthOf(G_EXE_p0o0), 85);
+    EXPECT_EQ(G_EXE_p0o0->format->BitsPerPixel, 32);
+    EXPECT_EQ(WidthOf(G_KF_off), 40);
+    EXPECT_EQ(WidthOf(G_KFs_off), 41);
+    EXPECT_EQ(G_EXE_p0o1, nullptr);
+    EXPECT_EQ(LogLinesWith("Can't load graphics file: [graphics/EXE_p0o1.bmp]"), 1);
+    EXPECT_EQ(LogLinesWith("EXE_p0o0"), 0);
+    FreeGraphics();
+    EXPECT_EQ(G_EXE_p0o0, nullptr);
+    FreeGraphics(); // nothing left is no harm
+}
+
+TEST(Graphics, OnlyNumbersInRangeBecomePatterns)
+{
+    static const struct {
+        const char* file;
+        int number; // -1: not loaded
+    } cases[] = {
+        {"0", 0},   {"49e", -1}, {"3999", 3999},        {"4000", -1}, {"99999999999999999999", -1},
+        {"x7", -1}, {"17", 17},  {"9.old", 9},          {"-5", -1},   {"dir/12", -1},
+        {"007", 7}, {"31 ", -1}, {"3999999999999", -1},
+    };
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    std::filesystem::create_directories("graphics/ptn/dir");
+    int width = 10;
+    for (const auto& c : cases)
+        SaveBitmap(std::string("ptn/") + c.file, width++);
+    SaveBitmap("ptn/9", 99); // what the cut name 9.old leads to
+    SaveBitmap("ptn/" + std::string(70, '5'), 5);
+    LoadGraphics();
+    int loaded = 0;
+    for (const SDL_Surface* s : G_WipePtn)
+        loaded += s != nullptr;
+    EXPECT_EQ(loaded, 5);
+    EXPECT_EQ(WidthOf(G_WipePtn[9]), 99);
+    width = 10;
+    for (const auto& c : cases) {
+        if (c.number >= 0 && c.number != 9) {
+            EXPECT_EQ(WidthOf(G_WipePtn[c.number]), width) << c.file;
+        }
+        width++;
+    }
+    EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0);
+}
+
+TEST(Graphics, WithoutAListEveryNumberIsTried)
+{
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    SaveBitmap("EXE_p0o0", 85);
+    std::filesystem::remove_all("graphics/ptn");
+    LoadGraphics();
+    EXPECT_EQ(WidthOf(G_EXE_p0o0), 85);
+    EXPECT_EQ(LogLinesWith("graphics/ptn/"), WIPE_PTN_MAX);
+    EXPECT_EQ(LogLinesWith("[graphics/ptn/3999.bmp]"), 1);
+}
+
+TEST(Graphics, AnEmptyPatternFolderIsNoFault)
+{
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    LoadGraphics();
+    for (const SDL_Surface* s : G_WipePtn)
+        ASSERT_EQ(s, nullptr);
+    EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0);
+    EXPECT_TRUE(std::filesystem::is_empty("graphics/ptn"));
+}
+
+TEST(Graphics, TheSmallerModelHasItsOwnPictures)
+{
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    SaveBitmap("ptn/2001", 20);
+    SaveBitmap("ptn/2001e", 21);
+    SaveBitmap("ptn/2002", 22); // no picture of its own: dark, not the wrong one
+    SaveBitmap("ptn/17", 17);
+    SaveBitmap("ptn/17e", 18); // not one of the list
+    LoadGraphics();
+    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 20);
+    LoadDmeWipePtn_KTR20();
+    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 21);
+    EXPECT_EQ(G_WipePtn[2002], nullptr);
+    EXPECT_EQ(WidthOf(G_WipePtn[17]), 17);
+    EXPECT_EQ(LogLinesWith("graphics/ptn/"), 28);
+}
+
+TEST(Graphics, PageCodeLoadsItsOwn)
+{
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    SaveBitmap("own", 33);
+    SDL_Surface* s = LoadGFile("own");
+    EXPECT_EQ(WidthOf(s), 33);
+    SDL_FreeSurface(s);
+    EXPECT_EQ(LoadGFile("none"), nullptr);
+    EXPECT_EQ(LoadGFile(std::string(300, 'x').c_str()), nullptr);
+}

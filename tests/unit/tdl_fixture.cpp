@@ -1,0 +1,202 @@
+#include "tdl_fixture.h"
+#include "tdl.h"
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <unistd.h>
+
+std::vector<Rect> Flushed;
+
+// The test program's own flush takes the place of the library's.
+extern "C" void SDL_UpdateRect(SDL_Surface*, Sint32 x, Sint32 y, Uint32 w, Uint32 h)
+{
+    Flushed.push_back({x, y, x + int(w) - 1, y + int(h) - 1});
+}
+
+int SolidWidth(char c)
+{
+    if (c < ' ')
+        return 0;
+    return c == 'i' ? 2 : c == 'W' ? 9 : 6;
+}
+
+namespace
+{
+int WidthOf(int font, int code)
+{
+    if (font == FONT_SOLID)
+        return SolidWidth(char(code));
+    if (font == FONT_SHADES)
+        return code < ' ' ? 0 : 4 + code % 6;
+    return code == 'A' ? 16 : 0;
+}
+
+uint8_t CoverageOf(int font, int code, int row, int column)
+{
+    if (font == FONT_SOLID)
+        return 255;
+    if (font == FONT_COVERAGE)
+        return uint8_t(16 * row + column);
+    const int v = (37 * code + 11 * row + 53 * column) % 300;
+    return uint8_t(std::max(0, std::min(v - 20, 255)));
+}
+
+void SaveFile(const char* name, const std::vector<uint8_t>& data)
+{
+    FILE* fp = fopen(name, "wb");
+    if (!fp || fwrite(data.data(), 1, data.size(), fp) != data.size())
+        perror(name);
+    if (fp)
+        fclose(fp);
+}
+
+void PutEntry(std::vector<uint8_t>* table, int font, int code, uint32_t value)
+{
+    for (int i = 0; i < 4; i++)
+        (*table)[size_t(font * 512 + code * 4 + i)] = uint8_t(value >> (8 * i));
+}
+
+void WriteFonts()
+{
+    std::vector<uint8_t> table(5120), image;
+    static const struct {
+        int font;
+        int height;
+    } fonts[] = {{FONT_SOLID, FONT_SOLID_H}, {FONT_SHADES, FONT_SHADES_H}, {FONT_COVERAGE, 16}};
+    for (const auto& f : fonts) {
+        PutEntry(&table, f.font, 0, uint32_t(f.height));
+        for (int code = 1; code <= 127; code++) {
+            PutEntry(&table, f.font, code, uint32_t(image.size()));
+            if (code == 127)
+                break;
+            for (int row = 0; row < f.height; row++)
+                for (int i = 0; i < WidthOf(f.font, code); i++)
+                    image.push_back(CoverageOf(f.font, code, row, i));
+        }
+    }
+    PutEntry(&table, FONT_RUBBISH, 0, 20);
+    PutEntry(&table, FONT_RUBBISH, 'A', 119990); // ends behind the file
+    PutEntry(&table, FONT_RUBBISH, 'B', 120990);
+    PutEntry(&table, FONT_RUBBISH, 'C', 300); // begins behind its end
+    PutEntry(&table, FONT_RUBBISH, 'E', 0xFFFFFFF0);
+    PutEntry(&table, FONT_RUBBISH, 'G', 20 * 65); // 'F' has 65 columns
+    SaveFile("font.dat", image);
+    SaveFile("font_ofs.dat", table);
+}
+
+SDL_Surface* SetDepth(int bits_per_pixel)
+{
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    if (!SDL_WasInit(SDL_INIT_VIDEO))
+        SDL_Init(SDL_INIT_VIDEO);
+    SDL_Surface* surface = SDL_SetVideoMode(SCREEN_W, SCREEN_H, bits_per_pixel, 0);
+    if (!surface) {
+        fprintf(stderr, "no video: %s\n", SDL_GetError());
+        exit(1);
+    }
+    return surface;
+}
+} // namespace
+
+TestDisplay::TestDisplay(int bits_per_pixel) : had_screen(Screen != nullptr)
+{
+    char name[] = "/tmp/tdl.XXXXXX";
+    if (!mkdtemp(name) || chdir(name) != 0)
+        perror(name);
+    dir = name;
+    WriteFonts();
+    if (had_screen)
+        TDL_Quit();
+    if (TDL_Init(SetDepth(bits_per_pixel)) != 0)
+        fprintf(stderr, "no fonts in %s\n", name);
+    ClearScreen();
+    Flushed.clear();
+}
+
+// The tests of other modules find the screen as it was.
+TestDisplay::~TestDisplay()
+{
+    TDL_Quit();
+    Screen = nullptr;
+    if (chdir(TEST_RUN_DIR) != 0)
+        perror(TEST_RUN_DIR);
+    std::filesystem::remove_all(dir);
+    if (had_screen && TDL_Init(SetDepth(32)) != 0)
+        fprintf(stderr, "no fonts in the run folder\n");
+}
+
+std::vector<uint32_t> PixelsOf(SDL_Surface* s)
+{
+    std::vector<uint32_t> pixels;
+    pixels.reserve(size_t(s->w * s->h));
+    const int bytes = s->format->BytesPerPixel;
+    for (int y = 0; y < s->h; y++) {
+        const auto* at = static_cast<const uint8_t*>(s->pixels) + y * s->pitch;
+        for (int x = 0; x < s->w; x++, at += bytes) {
+            uint32_t pixel = 0;
+            memcpy(&pixel, at, size_t(bytes));
+            uint8_t r, g, b;
+            SDL_GetRGB(pixel, s->format, &r, &g, &b);
+            pixels.push_back(uint32_t(r << 16 | g << 8 | b));
+        }
+    }
+    return pixels;
+}
+
+std::vector<uint32_t> ScreenPixels()
+{
+    return PixelsOf(Screen);
+}
+
+void ClearScreen(unsigned col)
+{
+    SDL_FillRect(Screen, nullptr,
+                 SDL_MapRGB(Screen->format, uint8_t(col >> 16), uint8_t(col >> 8), uint8_t(col)));
+}
+
+Rect BoxOfDifference(const std::vector<uint32_t>& a, const std::vector<uint32_t>& b)
+{
+    Rect box = {SCREEN_W, SCREEN_H, -1, -1};
+    for (int i = 0; i < SCREEN_W * SCREEN_H; i++) {
+        if (a[size_t(i)] == b[size_t(i)])
+            continue;
+        const int x = i % SCREEN_W;
+        const int y = i / SCREEN_W;
+        box = {std::min(box.x1, x), std::min(box.y1, y), std::max(box.x2, x), std::max(box.y2, y)};
+    }
+    return box;
+}
+
+int CountOfDifference(const std::vector<uint32_t>& a, const std::vector<uint32_t>& b)
+{
+    int count = 0;
+    for (size_t i = 0; i < a.size(); i++)
+        count += a[i] != b[i];
+    return count;
+}
+
+std::string RectText(const Rect& r)
+{
+    if (r.x1 > r.x2 || r.y1 > r.y2)
+        return "nothing";
+    char text[64];
+    snprintf(text, sizeof text, "%d,%d-%d,%d", r.x1, r.y1, r.x2, r.y2);
+    return text;
+}
+
+SDL_Surface* NoiseSurface(int w, int h, unsigned seed)
+{
+    SDL_Surface* made = SDL_CreateRGBSurface(SDL_SWSURFACE, w, h, 32, 0xFF0000, 0xFF00, 0xFF, 0);
+    for (int y = 0; y < h; y++) {
+        for (int x = 0; x < w; x++) {
+            seed = seed * 1664525 + 1013904223;
+            const uint32_t pixel = seed >> 8;
+            memcpy(static_cast<uint8_t*>(made->pixels) + y * made->pitch + 4 * x, &pixel, 4);
+        }
+    }
+    SDL_Surface* converted = SDL_DisplayFormat(made);
+    SDL_FreeSurface(made);
+    return converted;
+}
