@@ -285,7 +285,7 @@ static int draw_slant(int x1, int y1, int x2, int y2, int w, int h, unsigned col
     for (int i = 1; i <= dy; i++) {
         const int x = x1 + moved * step;
         const int y = y1 + i - 1;
-        const int c = int(i / slope);
+        const int c = dy == 1 ? dx : int(i / slope); // a level line is whole, truncated or not
         last = x;
         if (dy > dx) {
             if (c > moved)
