@@ -214,8 +214,8 @@ void net_drop_open_line(char* buf, NetLineEnd is_end)
 
 // --- Text link ---
 
-static constexpr int TEXT_ITEMS_A_PASS =
-    33; // keeps the screen alive while a subscription burst goes out
+// Keeps the screen alive while a subscription burst goes out.
+static constexpr int TEXT_ITEMS_A_PASS = 33;
 
 static int SockFD1 = 0;
 static NetQueue SendCommandQueue;

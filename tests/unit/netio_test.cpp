@@ -91,6 +91,23 @@ TEST_F(Netio, TheQueueKeepsAllInOrderWhileTheLinkIsDown)
     EXPECT_EQ(Net_QueueLength(), 0);
 }
 
+TEST_F(Netio, AnItemThatWentInPartIsMadeWholeForANewConnection)
+{
+    NetQueue queue;
+    net_queue_append(&queue, "abcdefgh\n", 9);
+    net_queue_append(&queue, "next\n", 5);
+    EXPECT_EQ(net_queue_sent(&queue, 2, "test"), 0);
+    EXPECT_EQ(net_queue_sent(&queue, 3, "test"), 0);
+    EXPECT_STREQ(reinterpret_cast<char*>(queue.first->data_array), "fgh\n");
+    net_queue_restart(&queue);
+    EXPECT_STREQ(reinterpret_cast<char*>(queue.first->data_array), "abcdefgh\n");
+    EXPECT_EQ(net_queue_sent(&queue, 9, "test"), 1);
+    net_queue_restart(&queue);
+    EXPECT_STREQ(reinterpret_cast<char*>(queue.first->data_array), "next\n");
+    net_queue_remove(&queue);
+    EXPECT_EQ(queue.last, nullptr);
+}
+
 TEST_F(Netio, AFreezeIsNotedWhileAStoreWaitsForIt)
 {
     static const struct {
