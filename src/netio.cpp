@@ -244,8 +244,8 @@ static void net_sigpipe(int) {}
 void Net_Init()
 {
     struct sigaction action = {};
-    action.sa_handler =
-        net_sigpipe; // a write to a dead socket then fails instead of ending the process
+    // A write to a dead socket then fails instead of ending the process.
+    action.sa_handler = net_sigpipe;
     sigaction(SIGPIPE, &action, nullptr);
 
     net_close(&SockFD1);
@@ -361,13 +361,14 @@ static void text_skip_ends()
         memmove(RBuf, RBuf + ends, strlen(RBuf + ends) + 1);
 }
 
+// At trace level the traffic of one page class, which would swamp the log, stays out of it.
 static void text_log_received()
 {
+    const bool is_quiet_page = GL_NowPage >> 24 == 0x52;
     if (GL_DebugMode)
         Log_Output(LOG_TRACE, MOD_LINK, "<--[%s]", RCmd);
     else
-        Log_Output2((GL_NowPage >> 24) != 0x52,
-                    RCmd); // keeps the traffic of these pages out of the log
+        Log_Output2(is_quiet_page ? 0 : LOG_TRACE, RCmd);
 }
 
 char* Net_ReceiveCommand()

@@ -69,28 +69,6 @@ TEST_F(Netio, ALineThatFillsTheBufferStaysThere)
     EXPECT_EQ(Net_ReceiveCommand(), nullptr);
 }
 
-TEST_F(Netio, TheLineThatCameMayBeCutByItsReader)
-{
-    Net_FeedText("A#1\nB#2\n", 8);
-    char* line = Net_ReceiveCommand();
-    FindVarPointer(line)[-1] = '\0';
-    EXPECT_STREQ(line, "A");
-    EXPECT_STREQ(Net_ReceiveCommand(), "B#2");
-}
-
-TEST_F(Netio, TheQueueKeepsAllInOrderWhileTheLinkIsDown)
-{
-    Strings sent;
-    for (int i = 0; i < 1000; i++) {
-        EXPECT_EQ(Net_SendCommandFormat("put A#%d", i), 0);
-        sent.push_back("put A#" + std::to_string(i));
-        EXPECT_EQ(Net_SendCommandQueue(), 0);
-    }
-    EXPECT_EQ(Net_QueueLength(), 1000);
-    EXPECT_EQ(TakeQueuedCommands(), sent);
-    EXPECT_EQ(Net_QueueLength(), 0);
-}
-
 TEST_F(Netio, AnItemThatWentInPartIsMadeWholeForANewConnection)
 {
     NetQueue queue;
