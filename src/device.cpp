@@ -163,7 +163,7 @@ static void structure_switchers()
 }
 
 // The model numbers of the effects units count from 1 in the order of DEVTYPE.
-static DEVTYPE type_of_model(int model)
+static DEVTYPE type_of_model(long model)
 {
     return model >= 1 && model <= 16 ? 1 << (model - 1) : DEVTYPE_UNKNOWN;
 }
@@ -332,7 +332,7 @@ void Get_DeviceType()
 static void take_model(const char* name, const char* value)
 {
     DEVICE* dev = Device_ByName(name);
-    const DEVTYPE type = type_of_model(int(strtol(value, nullptr, 10)));
+    const DEVTYPE type = type_of_model(strtol(value, nullptr, 10));
     if (!dev || type == DEVTYPE_UNKNOWN)
         Log_Output(LOG_LINK, MOD_GLOBAL, "Unit model: %s#%s", name, value);
     if (!dev || type == DEVTYPE_UNKNOWN || type == dev->type)
@@ -412,7 +412,8 @@ DEVICE* Device_Table(const char* name, int** max)
     return c->table;
 }
 
-// 1080p of 50 or 59.94 Hz: twice what one HD link carries.
+// 1080p of 50 or 59.94 Hz, which have the frame rates 25.0 and 29.97 here: twice what one HD link
+// carries.
 static bool is_1080p_of_two_links(const DEVICE* dev)
 {
     return dev && dev->activeline == ACTIVELINE_1080P && dev->framerate >= 25.0;

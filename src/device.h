@@ -152,8 +152,8 @@ DEVICE* Device_ByName(const char* name);
 DEVICE* Device_Table(const char* name, int** max);
 
 // --- Questions: 1 or 0 unless said otherwise ---
-// Every one has an answer for units that are not known yet. "1080p" is 1080p of 25 Hz and above,
-// which is more than one HD link carries; "first" is the first unit of this panel.
+// Every one has an answer for units that are not known yet. "1080p" is 1080p of 50 or 59.94 Hz,
+// which one HD link cannot carry; "first" is the first unit of this panel.
 int is4KFormat();                    // the 4K mode is on or the switcher's picture is 3840 x 2160
 int isDualProc_DualLink();           // two processors share the first switcher's 1080p
 int isDualProc_DualLink_DME();       // the same for the effects units; a ZRD52 needs no partner

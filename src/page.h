@@ -100,6 +100,9 @@ PAGE* SearchPageTable_Free_ALL(PAGE* table,
 // permitted parent while a background transfer runs, 0 when the page is hidden. Whether there is
 // such a row is not looked at.
 uint32_t ResolvePageId(uint32_t id);
+// The page that stands in for a page of a tab that folds while a transfer runs; other ids as they
+// are.
+uint32_t Page_FirstOfTab(uint32_t id);
 
 // side is valued as OmoteFlag is. Requests the page; -1 when there is none in that direction.
 int HistoryBack(int side);

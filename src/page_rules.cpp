@@ -461,7 +461,7 @@ static uint32_t apply_variants(uint32_t id)
     return id;
 }
 
-static uint32_t first_of_tab(uint32_t id)
+uint32_t Page_FirstOfTab(uint32_t id)
 {
     const uint32_t tab = id >> 20;
     for (const auto& f : folded_tabs)
@@ -474,9 +474,9 @@ static uint32_t first_of_tab(uint32_t id)
 static uint32_t fold_for_transfer(uint32_t id)
 {
     if (BkgdFileTransfer_Check(0) && !BkgdFileTransfer_PagePermitted(id))
-        return first_of_tab(id);
+        return Page_FirstOfTab(id);
     const bool is_hdd = BkgdHDDTransfer_Check(0) && GL_Progressbar_Restore_End == 0;
-    return is_hdd && !BkgdHDDTransfer_Check(id) ? first_of_tab(id) : id;
+    return is_hdd && !BkgdHDDTransfer_Check(id) ? Page_FirstOfTab(id) : id;
 }
 
 static bool is_hidden(uint32_t id)

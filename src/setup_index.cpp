@@ -51,12 +51,12 @@ static void add_row(const PAGE& page)
     CopyText(row.name, last_word(page));
 }
 
-void SetupIndex_Build()
+void SetupIndex_BuildFrom(const PAGE* table)
 {
     SetupMenu_Max = 0;
     for (uint32_t group = 0; group < SETUP_GROUPS; group++) {
         SetupMenuTbl[group].off = SetupMenu_Max;
-        for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        for (const PAGE* page = table; page->id != PAGE_END; page++) {
             const bool belongs = page->id >> 20 == FIRST_GROUP + group && page->id > FIRST_GROUP
                                                                                          << 20;
             if (belongs && !is_other_variant(*page))
@@ -65,6 +65,11 @@ void SetupIndex_Build()
         SetupMenuTbl[group].num = SetupMenu_Max - SetupMenuTbl[group].off;
     }
     SetupIndex_SetExtensionPanel(0);
+}
+
+void SetupIndex_Build()
+{
+    SetupIndex_BuildFrom(PageTable);
 }
 
 static bool read_lock_file()

@@ -1,7 +1,7 @@
 // setup_index: the list of engineering pages, and which of them are locked against changes. What a
 // lock does to a press belongs to the base area; the password dialogs belong to their page.
 #pragma once
-#include "types.h"
+#include "page.h"
 
 struct SETUPMENU {
     uint32_t page = 0; // with the variant byte cleared
@@ -36,6 +36,7 @@ extern int SetupLock_New; // no usable lock file was there
 
 // --- At start-up, in this order ---
 void SetupIndex_Build(); // from PageTable; rows past SETUP_ROWS are left out with a log line
+void SetupIndex_BuildFrom(const PAGE* table); // the same from another table, ended by PAGE_END
 // Read the lock file and mark the rows. A missing file, or one of the wrong length, locks nothing.
 void SetupIndex_LoadLock();
 

@@ -1,0 +1,249 @@
+#include "device.h"
+#include "global.h"
+#include "harness.h"
+#include <cstring>
+
+namespace
+{
+void Unit(DEVICE* table, int& max, const char* prefix, int number, DEVTYPE type)
+{
+    DEVICE& dev = table[max++];
+    dev = {};
+    snprintf(dev.name, sizeof dev.name, "%s%d", prefix, number);
+    snprintf(dev.id, sizeof dev.id, "%s%03dD%03d", prefix, number, number);
+    dev.type = type;
+}
+
+// Two panels, switchers and six effects units; panel 1 is on switchers 1 and 2, these on units 1 to
+// 4 and 5.
+struct Devices : testing::Test {
+    void SetUp() override
+    {
+        Device_Init();
+        SYS_PnlMax = SYS_SwrMax = SYS_DmeMax = 0;
+        Unit(DEV_Pnl, SYS_PnlMax, "PNL", 2, DEVTYPE_QRD31);
+        Unit(DEV_Pnl, SYS_PnlMax, "PNL", 1, DEVTYPE_QRD33);
+        Unit(DEV_Swr, SYS_SwrMax, "SWR", 1, DEVTYPE_KTR40X);
+        Unit(DEV_Swr, SYS_SwrMax, "SWR", 2, DEVTYPE_NTR40);
+        for (int n = 1; n <= 6; n++)
+            Unit(DEV_Dme, SYS_DmeMax, "DME", n, 1 << n);
+        SYS_PnlAssign[1][1] = 2;
+        SYS_SwrAssign[1][2] = 3;
+        SYS_SwrAssign[1][3] = 4;
+        SYS_SwrAssign[2][0] = 5;
+        SYS_SwrAssign[2][1] = 1;
+        Nothing();
+        GL_MainCounter = 1000;
+        (void)TakeQueuedCommands();
+    }
+    void TearDown() override
+    {
+        Device_Init();
+        Nothing();
+    }
+    static void Nothing()
+    {
+        SYS_SetupTarget = SYS_DMEReference = 0;
+        SYS_DualProc = SYS_4KMode = SYS_Format_Size = 0;
+        SYS_FmemV6 = 1;
+        std::fill_n(GL_DmeModel, 4, 0);
+        std::fill_n(multiprogram2_me, ME_COUNT, 0);
+    }
+    static void Run1080p(DEVICE& dev)
+    {
+        dev.activeline = 6;
+        dev.framerate = 29.97;
+    }
+};
+
+std::vector<const DEVICE*> Listed(DEVICE* const* mine)
+{
+    std::vector<const DEVICE*> devices;
+    while (*mine)
+        devices.push_back(*mine++);
+    return devices;
+}
+} // namespace
+
+TEST_F(Devices, TheAssignmentRowsDecideWhatBelongsToThePanel)
+{
+    SYS_SetupTarget = 1;
+    for (int pass = 0; pass < 2; pass++) { // the second changes nothing
+        DeviceStructure();
+        EXPECT_EQ(Listed(DEV_MyPnl), (std::vector<const DEVICE*>{&DEV_Pnl[1]}));
+        EXPECT_EQ(Listed(DEV_MySwr), (std::vector<const DEVICE*>{&DEV_Swr[0], &DEV_Swr[1]}));
+        EXPECT_EQ(Listed(DEV_MyDme),
+                  (std::vector<const DEVICE*>{&DEV_Dme[0], &DEV_Dme[1], &DEV_Dme[2], &DEV_Dme[3],
+                                              &DEV_Dme[4]}));
+        EXPECT_EQ(SYS_MyAllMax, 8);
+        EXPECT_EQ(SYS_RefPnlType, DEVTYPE_QRD33);
+        EXPECT_EQ(SYS_RefSwrType, DEVTYPE_KTR40X);
+        EXPECT_EQ(SYS_TargetSwrType, DEVTYPE_NTR40);
+        EXPECT_EQ(SYS_MyDme1, 0);
+        EXPECT_EQ(SYS_MyDme2, 1);
+        EXPECT_EQ(SYS_MyDme1S, 2);
+        EXPECT_EQ(SYS_MyDme2S, 3);
+    }
+}
+
+TEST_F(Devices, RubbishInTheTablesIsPassedOver)
+{
+    SYS_MyPnl = 999;
+    SYS_SetupTarget = 77;
+    SYS_PnlMax = 500;
+    SYS_DmeMax = -1;
+    DeviceStructure();
+    EXPECT_EQ(SYS_MyAllMax, 0);
+    EXPECT_EQ(DEV_MySwr[0], nullptr);
+    EXPECT_EQ(SYS_RefSwrType, DEVTYPE_UNKNOWN);
+    EXPECT_EQ(SYS_TargetSwrType, DEVTYPE_UNKNOWN);
+    EXPECT_EQ(SYS_MyDme1, -1);
+    for (int question :
+         {isDualProc_DualLink(), is1080P_ZRD52_DME(), hasPanelOption(), hasFrameConverter(),
+          getDmeReferenceModel(), getDmeReferenceUnit(), isZRD52onSWR(nullptr)})
+        EXPECT_EQ(question, 0);
+
+    SYS_MyPnl = 1;
+    SYS_PnlAssign[1][0] = 255;
+    SYS_PnlAssign[1][1] = -3;
+    DeviceStructure();
+    EXPECT_EQ(SYS_MySwrMax, 0);
+    SYS_PnlAssign[1][0] = SYS_PnlAssign[1][1] = 1; // named twice, joins once
+    SYS_SwrMax = DEVICE_MAX;
+    DeviceStructure();
+    EXPECT_EQ(SYS_MySwrMax, 1);
+    EXPECT_EQ(SYS_TargetSwrType, DEVTYPE_KTR40X); // the target that does not exist is the first
+    memcpy(DEV_Swr[0].id, "SWR9", 5);             // too short for a number
+    DeviceStructure();
+    EXPECT_EQ(SYS_MySwrMax, 0);
+}
+
+TEST_F(Devices, AllEightEffectsUnitsCanBelong)
+{
+    Unit(DEV_Dme, SYS_DmeMax, "DME", 7, 1);
+    Unit(DEV_Dme, SYS_DmeMax, "DME", 8, 1);
+    for (int i = 0; i < 4; i++) {
+        SYS_SwrAssign[1][i] = 1 + i;
+        SYS_SwrAssign[2][i] = 5 + i;
+    }
+    DeviceStructure();
+    EXPECT_EQ(SYS_MyDmeMax, DEVICE_MAX);
+    EXPECT_EQ(Listed(DEV_MyDme).size(), size_t(DEVICE_MAX));
+}
+
+TEST_F(Devices, ReferenceChannelPicksTheUnit)
+{
+    static const struct {
+        int channels;
+        int unit;
+    } cases[] = {{0x00, 1}, {0x01, 1}, {0x08, 1}, {0x10, 2}, {0x80, 2}, {0x90, 2}, {0x18, 1}};
+    DeviceStructure();
+    for (const auto& c : cases) {
+        SYS_DMEReference = c.channels;
+        EXPECT_EQ(getDmeReferenceUnit(), c.unit) << std::hex << c.channels;
+        EXPECT_EQ(getDmeReferenceModel(), 1 << c.unit) << std::hex << c.channels;
+    }
+    SYS_DMEReference = 0x10;
+    SYS_DmeMax = 1; // the second group has no unit
+    SYS_SwrAssign[2][1] = 0;
+    DeviceStructure();
+    EXPECT_EQ(SYS_RefDmeType, DEVTYPE_UNKNOWN);
+}
+
+TEST_F(Devices, ANewEffectsModelReadsTheInterfacesOnce)
+{
+    DeviceStructure();
+    (void)TakeQueuedCommands();
+    DeviceStructure();
+    EXPECT_TRUE(TakeQueuedCommands().empty());
+    GL_DmeModel[1] = 8;
+    DeviceStructure();
+    EXPECT_EQ(DEV_Dme[1].type, DEVTYPE_ZRD52);
+    EXPECT_EQ(TakeQueuedCommands(),
+              (std::vector<std::string>{"read Engineering Setup@Switcher@SDI I/F@DME1",
+                                        "read Engineering Setup@Switcher@SDI I/F@DME2"}));
+    EXPECT_TRUE(isZRD52onSWR(&DEV_Swr[0]));
+    EXPECT_FALSE(isZRD52onSWR(&DEV_Swr[1]));
+}
+
+TEST_F(Devices, FrameMemoryFollowsTheSwitcher)
+{
+    for (DEVTYPE type : {DEVTYPE_KTR40, DEVTYPE_KTR40SF, DEVTYPE_LTR50, DEVTYPE_LTR50SF}) {
+        DEV_Swr[0].type = type;
+        DeviceStructure();
+        EXPECT_EQ(SYS_FmemV6, 0) << type;
+    }
+    for (DEVTYPE type : {DEVTYPE_UNKNOWN, DEVTYPE_KTR40A, DEVTYPE_NTR40}) {
+        DEV_Swr[0].type = type;
+        DeviceStructure();
+        EXPECT_EQ(SYS_FmemV6, 1) << type;
+    }
+}
+
+// Which questions hold for 1080p, by switcher model, processors and effects model.
+TEST_F(Devices, LinksOf1080p)
+{
+    static const struct {
+        DEVTYPE swr;
+        int dual;
+        DEVTYPE dme;
+        double rate;
+        int dual_link, dual_link_dme, on_3g, on_3g_dme, zrd52;
+    } cases[] = {
+        {DEVTYPE_KTR40A, 0, DEVTYPE_FXU50, 29.97, 0, 0, 0, 0, 0}, // too old for 3G
+        {DEVTYPE_KTR40G, 0, DEVTYPE_FXU50, 29.97, 0, 0, 1, 1, 0},
+        {DEVTYPE_KTR40G, 0, DEVTYPE_FXU50, 25.0, 0, 0, 1, 1, 0},
+        {DEVTYPE_KTR40G, 1, DEVTYPE_FXU50, 29.97, 1, 1, 0, 0, 0},
+        {DEVTYPE_KTR40G, 1, DEVTYPE_ZRD52, 29.97, 1, 0, 0, 0, 1},
+        {DEVTYPE_KTR40G, 1, DEVTYPE_ZRD52, 24.0, 0, 0, 0, 0, 0}, // one link is enough
+        {DEVTYPE_UNKNOWN, 0, DEVTYPE_UNKNOWN, 29.97, 0, 0, 0, 0, 0},
+    };
+    for (const auto& c : cases) {
+        Run1080p(DEV_Swr[0]);
+        Run1080p(DEV_Dme[0]);
+        DEV_Swr[0].type = c.swr;
+        DEV_Dme[0].type = c.dme;
+        DEV_Swr[0].framerate = DEV_Dme[0].framerate = c.rate;
+        SYS_DualProc = c.dual;
+        DeviceStructure();
+        SCOPED_TRACE(testing::Message()
+                     << c.swr << " dual " << c.dual << " dme " << c.dme << " " << c.rate);
+        EXPECT_EQ(isDualProc_DualLink(), c.dual_link);
+        EXPECT_EQ(isDualProc_DualLink_DME(), c.dual_link_dme);
+        EXPECT_EQ(is1080P_3G(), c.on_3g);
+        EXPECT_EQ(is1080P_3G_DME(), c.on_3g_dme);
+        EXPECT_EQ(is1080P_ZRD52_DME(), c.zrd52);
+    }
+}
+
+TEST_F(Devices, AnswersOfTheServerCompleteTheTables)
+{
+    static const struct {
+        const char* path;
+        const char* value;
+        int taken;
+        DEVTYPE type; // of SWR1 afterwards
+    } cases[] = {
+        {"Info@Board Config@Unit Model@SWR1", "12", 1, DEVTYPE_NTR40},
+        {"Info@Board Config@Unit Model@SWR1", "", 1, DEVTYPE_NTR40},
+        {"Info@Board Config@Unit Model@SWR1", "-1", 1, DEVTYPE_NTR40},
+        {"Info@Board Config@Unit Model@SWR1", "99999999999", 1, DEVTYPE_NTR40},
+        {"Info@Board Config@Unit Model@SWR10", "1", 1, DEVTYPE_NTR40}, // no such unit
+        {"Info@Board Config@Unit Model@", "1", 1, DEVTYPE_NTR40},
+        {"Info@Board Config@Unit Model", "1", 0, DEVTYPE_NTR40},
+        {"Info@Board Config@Unit Model@SWR1", "1", 1, DEVTYPE_KTR40},
+    };
+    DeviceStructure();
+    for (const auto& c : cases) {
+        EXPECT_EQ(Device_Tally(c.path, c.value), c.taken) << c.path << "#" << c.value;
+        EXPECT_EQ(SYS_RefSwrType, c.type) << c.path << "#" << c.value;
+    }
+    EXPECT_EQ(Device_Tally("Info@Board Config@Board Exist Set@SWR1@EEPROM", "4,1"), 1);
+    EXPECT_TRUE(hasFrameConverter());
+    EXPECT_EQ(Device_Tally("Info@Board Config@Board Exist Set@SWR1@Auto Scan", "0,0"), 1);
+    EXPECT_TRUE(hasFrameConverter()); // a board that is down is still fitted
+    EXPECT_EQ(Device_Tally("Info@Board Config@Board Exist Set@SWR1@EEPROM", "4"), 1);
+    EXPECT_FALSE(hasFrameConverter());
+    EXPECT_EQ(Device_Tally("Info@Board Config@Board Exist Set@A name that is far too long", ",,,"),
+              1);
+}

@@ -1,0 +1,425 @@
+#include "device.h"
+#include "global.h"
+#include "harness.h"
+#include "log.h"
+#include "page.h"
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <unistd.h>
+
+namespace
+{
+constexpr char LOG_FILE[] = "/tmp/page_test.log";
+
+// The n-th page of a long list of pages that exist: first page of each key of each bank, then the
+// next tab.
+uint32_t KeyPage(int n)
+{
+    static const uint32_t banks[] = {0x11, 0x12, 0x13, 0x14, 0x15, 0x16,
+                                     0x17, 0x18, 0x81, 0x82, 0x85, 0x86};
+    return banks[n % 12] << 24 | uint32_t(n / 12 % 4 + 1) << 20 | uint32_t(n / 48 + 1) << 16;
+}
+
+struct PageTest : testing::Test {
+    void SetUp() override
+    {
+        Nothing();
+        unlink(LOG_FILE);
+        Log_Init(LOG_FILE, LOG_FILE_SIZE);
+        Log_SetLevel(LOG_LIFE);
+        log_read = 0;
+        (void)TakeQueuedCommands();
+    }
+    void TearDown() override
+    {
+        Log_Init(nullptr, LOG_FILE_SIZE);
+        Nothing();
+    }
+    static void Nothing() // as at process start
+    {
+        Harness_Reset();
+        Device_Init();
+        GL_CreatePage = 0;
+        SYS_Simul = SYS_DualProc = SYS_3DMode = GL_AllPageDisplayMode = 0;
+        GL_Macro_Offline_Store = GL_Macro_Online_TrueOrFalse = GL_MenuMacro_Edit = 0;
+        for (int* flags : {SYS_MEOperation, multiprogram2_me})
+            std::fill_n(flags, ME_COUNT, 0);
+        std::fill_n(GL_DmeModel, 4, 0);
+        std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
+    }
+
+    // What has been logged since the last call.
+    std::string Logged()
+    {
+        std::ifstream in(LOG_FILE);
+        std::string text{std::istreambuf_iterator<char>(in), {}};
+        const std::string news = text.substr(std::min(log_read, text.size()));
+        log_read = text.size();
+        return news;
+    }
+    // The id that a request comes to, whether or not it has a row.
+    uint32_t ComesTo(uint32_t request)
+    {
+        (void)Logged();
+        if (CreatePage(request) == 0)
+            return GL_NowPage;
+        const std::string log = Logged();
+        const size_t at = log.find("Can't find ID: ");
+        return at == std::string::npos ? 0 : uint32_t(std::stoul(log.substr(at + 15), nullptr, 16));
+    }
+    size_t log_read = 0;
+};
+
+// A page that no table brings, for the words of its path.
+struct FakePage {
+    PAGE row;
+    FakePage(uint32_t now, const char* word0, const char* word1)
+        : row{.id = now, .tree = {word0, word1}}
+    {
+        Page = &row;
+        GL_NowPage = now;
+        GL_NowTree = row.tree;
+    }
+    ~FakePage() { Page_Reset(); }
+};
+} // namespace
+
+TEST_F(PageTest, OpeningAPageTakesItsRow)
+{
+    ASSERT_EQ(CreatePage(0x12210000), 0);
+    EXPECT_EQ(Page->id, 0x12210000u);
+    EXPECT_EQ(GL_NowTree, Page->tree);
+    EXPECT_STREQ(GL_NowTree[1], "Key2");
+    EXPECT_EQ(MeKeyTpye, 1);
+    EXPECT_EQ(GL_OmoteNowPage, 0x12210000u);
+    EXPECT_EQ(GL_OmotePrevPage, PAGE_TOP);
+    EXPECT_TRUE(IsObjetype(OBJ_BA));
+    EXPECT_FALSE(IsObjetype(OBJ_ERR));
+    ASSERT_EQ(CreatePage(0x33110000), 0);
+    EXPECT_EQ(GL_NowPage, 0x33110000u); // as asked for ...
+    EXPECT_EQ(Page->id, 0x33110100u);   // ... the row is the variant
+    EXPECT_EQ(GL_PrevPage, 0x12210000u);
+    const std::string log = Logged();
+    EXPECT_NE(log.find("***** CreatePage(33110000h) Called *****"), std::string::npos) << log;
+    EXPECT_NE(log.find("Add Omote Page: 33110000h"), std::string::npos) << log;
+}
+
+TEST_F(PageTest, ARequestWithoutAPageLeavesAllAsItWas)
+{
+    CreatePage(0x11110000);
+    (void)TakeQueuedCommands();
+    for (uint32_t none :
+         {0u, 0x11119999u, 0x339F0000u, PAGE_END}) { // the third: a tab that no page knows
+        (void)Logged();
+        EXPECT_EQ(CreatePage(none), -1);
+        char line[64];
+        snprintf(line, sizeof line, "Can't find ID: %Xh", none);
+        EXPECT_NE(Logged().find(line), std::string::npos) << line;
+    }
+    SYS_Simul = 1;
+    EXPECT_EQ(CreatePage(0x12110000), -1); // hidden
+    EXPECT_EQ(GL_NowPage, 0x11110000u);
+    EXPECT_EQ(Page->id, 0x11110000u);
+    EXPECT_EQ(Omote_History_NowPtr, 0);
+    EXPECT_TRUE(TakeQueuedCommands().empty());
+}
+
+TEST_F(PageTest, FirstVisitOfAMenuReadsTheFormatsAndNoOtherDoes)
+{
+    ASSERT_EQ(CreatePage(0x11110000), 0);
+    std::vector<std::string> sent = TakeQueuedCommands();
+    ASSERT_GE(sent.size(), 28u);
+    EXPECT_EQ(sent[0], "put TopMenu@SubMenuSite#false");
+    EXPECT_EQ(sent[1], "set TopMenu#M/E-1");
+    EXPECT_EQ(sent[2], "read Engineering Setup@System@Format@Video Format@PNL1");
+    EXPECT_EQ(sent[15], "read Engineering Setup@System@Format@Video Format@MPE4");
+    EXPECT_EQ(sent[16], "read Engineering Setup@System@Format@Reference@SWR1");
+    EXPECT_EQ(sent[25], "read Engineering Setup@System@Format@Reference@PNL4");
+    EXPECT_EQ(sent[26], "read Engineering Setup@System@Format@4K Mode");
+    EXPECT_EQ(sent[27], "add TopMenu");
+
+    const auto announced = [] {
+        const auto all = TakeQueuedCommands();
+        return std::count_if(all.begin(), all.end(), [](const std::string& c) {
+            return c.starts_with("set TopMenu") ||
+                   c.starts_with("read Engineering Setup@System@Format@");
+        });
+    };
+    CreatePage(0x15210000); // key 6 of the same bank
+    EXPECT_EQ(announced(), 0);
+    CreatePage(0x63110000);
+    EXPECT_EQ(announced(), 26);
+    EXPECT_STREQ(NowTopMenu, "Snapshot");
+}
+
+TEST_F(PageTest, MenuKeysReopenTheirLastPage)
+{
+    static const struct {
+        uint32_t visit;
+        int row;
+        uint32_t reopens;
+    } steps[] = {
+        {0x11210000, 0, 0x11210000},  {0x16110000, 1, 0x16110000},  {0x81310000, 3, 0x81310000},
+        {0x86110000, 4, 0x86110000},  {0x18410000, 5, 0x18410000},  {0x21110000, 6, 0x21110000},
+        {0x99000000, 6, 0x21110000}, // covers the page, which stays remembered
+        {0x00220000, 27, 0x00220000}, {0x11210000, 27, 0x00220000},
+    };
+    for (const auto& s : steps) {
+        ASSERT_EQ(CreatePage(s.visit), 0) << std::hex << s.visit;
+        EXPECT_EQ(TopMenu[s.row].page, s.reopens) << std::hex << s.visit;
+    }
+    EXPECT_EQ(TopMenu[28].caption, nullptr);
+    for (int i = 0; TopMenu[i].caption; i++)
+        EXPECT_EQ(CreatePage(TopMenu[i].page), 0) << TopMenu[i].caption;
+}
+
+TEST_F(PageTest, HistoryGoesBackAndForward)
+{
+    for (int n = 0; n < 4; n++)
+        CreatePage(KeyPage(n));
+    CreatePage(KeyPage(3)); // again: rebuilt, not listed
+    EXPECT_EQ(Omote_History_NowPtr, 3);
+    EXPECT_TRUE(IsLastHistory(1));
+    EXPECT_EQ(HistoryFwd(1), -1);
+
+    EXPECT_EQ(GetHistoryBack(1), KeyPage(2));
+    for (int n = 2; n >= 1; n--) {
+        ASSERT_EQ(HistoryBack(1), 0);
+        EXPECT_EQ(GL_CreatePage, KeyPage(n));
+        CreatePage(GL_CreatePage);
+    }
+    EXPECT_EQ(GetHistoryFwd(1), KeyPage(2));
+    EXPECT_EQ(HistoryFwd(1), 0);
+    CreatePage(GL_CreatePage);
+    EXPECT_EQ(Omote_History_NowPtr, 2);
+    EXPECT_EQ(Omote_History_MaxPtr, 3);
+
+    CreatePage(KeyPage(9)); // a visit cuts what was ahead
+    EXPECT_EQ(Omote_History_NowPtr, 3);
+    EXPECT_EQ(Omote_History_MaxPtr, 3);
+    EXPECT_EQ(GetHistoryFwd(1), 0u);
+    EXPECT_EQ(HistoryBack(0), -1); // the other side has its own
+}
+
+TEST_F(PageTest, AStepBackFromAnErrorPageReturnsToTheCoveredPage)
+{
+    EXPECT_TRUE(IsTopHistory(1));
+    EXPECT_EQ(HistoryBack(1), -1);
+    CreatePage(KeyPage(0));
+    CreatePage(KeyPage(1));
+    CreatePage(0x99000000);
+    EXPECT_EQ(GL_OmoteNowPage, KeyPage(1));
+    EXPECT_EQ(GetHistoryBack(1), KeyPage(1));
+    ASSERT_EQ(HistoryBack(1), 0);
+    EXPECT_EQ(GL_CreatePage, KeyPage(1));
+    EXPECT_EQ(Omote_History_NowPtr, 1);
+    EXPECT_EQ(GL_PrevPage, KeyPage(1));
+}
+
+TEST_F(PageTest, TheFiftyFirstPageDropsTheOldest)
+{
+    for (int n = 0; n < HISTORY_DEPTH + 1; n++)
+        ASSERT_EQ(CreatePage(KeyPage(n)), 0) << n;
+    EXPECT_EQ(Omote_History_NowPtr, HISTORY_DEPTH - 1);
+    EXPECT_EQ(Omote_History_MaxPtr, HISTORY_DEPTH - 1);
+    EXPECT_EQ(Omote_History[0], KeyPage(1));
+    EXPECT_EQ(Omote_History[HISTORY_DEPTH - 1], KeyPage(HISTORY_DEPTH));
+    int steps = 0;
+    while (HistoryBack(1) == 0) {
+        CreatePage(GL_CreatePage);
+        steps++;
+    }
+    EXPECT_EQ(steps, HISTORY_DEPTH - 1);
+    EXPECT_TRUE(IsTopHistory(1));
+}
+
+TEST_F(PageTest, EachSideKeepsItsOwnPages)
+{
+    CreatePage(KeyPage(0));
+    CreatePage(KeyPage(1));
+    (void)TakeQueuedCommands();
+    OmoteFlag = 0; // as the bus turns the menu over
+    OmoteChange = 1;
+    CreatePage(GL_UraNowPage);
+    EXPECT_NE(Logged().find("Turn to Ura Page: 110000h"), std::string::npos);
+    EXPECT_EQ(TakeQueuedCommands().at(0), "put TopMenu@SubMenuSite#true");
+    EXPECT_EQ(OmoteChange, 0);
+    EXPECT_EQ(GL_NowPage, PAGE_TOP);
+    CreatePage(KeyPage(2));
+    EXPECT_EQ(GL_UraNowPage, KeyPage(2));
+    EXPECT_EQ(GL_UraPrevPage, PAGE_TOP);
+    EXPECT_EQ(GL_OmoteNowPage, KeyPage(1));
+    EXPECT_EQ(GetHistoryBack(0), PAGE_TOP);
+    EXPECT_EQ(GetHistoryBack(1), KeyPage(0));
+
+    OmoteFlag = OmoteChange = 1;
+    CreatePage(GL_OmoteNowPage);
+    EXPECT_EQ(GL_PrevPage, GL_OmotePrevPage);
+    EXPECT_EQ(GL_OmotePrevPage, KeyPage(0));
+    EXPECT_EQ(Omote_History_NowPtr, 1);
+}
+
+TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
+{
+    static const auto four_keys = [] { std::fill_n(GL_KeyMax, ME_COUNT, 4); };
+    // M/E-2 in multi program 2, its panel rows on one side
+    static const auto me2_on = [](int side) {
+        multiprogram2_me[2] = 1;
+        GL_MEAssign[13] = 2;
+        GL_MainSubAssign[13] = side;
+    };
+    static const struct {
+        uint32_t request;
+        uint32_t opens;
+        void (*when)() = nullptr;
+    } cases[] = {
+        {0x15210000, 0x15210000},
+        {0x15210000, 0x11210000, four_keys},
+        {0x18410000, 0x14410000, four_keys},
+        {0x86110000, 0x82110000, four_keys},
+        {0x85110000, 0x81110000, [] { GL_KeyMax[3] = 4; }},
+        {0x17110000, 0x17110000, [] { GL_KeyMax[3] = 4; }},
+        {0x42210000, 0x42110000, [] { GL_DmeModel[0] = 5; }},
+        {0x71420002, 0x71420001},
+        {0x71420002, 0x71420002, [] { GL_Macro_Online_TrueOrFalse = 1; }},
+        {0x71420003, 0x71420001, [] { unlink("/tmp/MacroEdit/MacroEdit.PMR"); }},
+        {0x71440002, 0x71440001},
+        {0x71440002, 0x71440002, [] { GL_MenuMacro_Edit = 1; }},
+        {0x71440102, 0x71440002},
+        {0x12510000, 0x12510000, [] { me2_on(0); }},
+        {0x12510000, 0x16510000, [] { me2_on(1); }},
+        {0x12510000, 0x12510000, [] { me2_on(2); }},
+        {0x16510000, 0x12510000, [] { me2_on(0); }},
+        {0x16510000, 0x16510000, [] { me2_on(1); }},
+        {0x16510000, 0x12510000},                    // no sub side at all
+        {0x12110000, 0x12110000, [] { me2_on(1); }}, // a key page
+        {0x111F0000, 0x111F0000}, // without left tabs in the row a wildcard stays
+    };
+    for (const auto& c : cases) {
+        SetUp();
+        if (c.when)
+            c.when();
+        EXPECT_EQ(ComesTo(c.request), c.opens) << std::hex << c.request << " expected " << c.opens;
+    }
+}
+
+TEST_F(PageTest, ClassificationByBankAndTab)
+{
+    static const struct {
+        uint32_t id;
+        int me, key, index;
+    } cases[] = {
+        {0x11110000, 0, 1, 1},  {0x14410001, 0, 1, 0},  {0x15110000, 0, 2, 1},
+        {0x88110000, 0, 2, -1}, {0x83110000, 0, 1, -1}, {0x11510000, 1, 0, 1},
+        {0x82000000, 1, 0, 5},  {0x18710000, 2, 0, 0},  {0x85510000, 2, 0, 4},
+        {0x21110000, 0, 0, -1}, {0x83510000, 0, 0, -1},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(isNowPageME(c.id), c.me) << std::hex << c.id;
+        EXPECT_EQ(isNowPageMeKey(c.id), c.key) << std::hex << c.id;
+        EXPECT_EQ(Page_MeIndex(c.id), c.index) << std::hex << c.id;
+        const FakePage page(c.id, nullptr, nullptr);
+        EXPECT_EQ(isNowPageME(0), c.me) << "current " << std::hex << c.id;
+    }
+    const FakePage page(0x71620000, "File", nullptr);
+    EXPECT_TRUE(isNowPageFM(0x11110000));
+    GL_NowPage = 0x71610000;
+    EXPECT_FALSE(isNowPageFM(0));
+    EXPECT_TRUE(isNowPageFM(0x21210000));
+}
+
+TEST_F(PageTest, MainAndSubByTheRowsOfThePanel)
+{
+    static const struct {
+        int sides[2]; // of two rows with M/E-4
+        int status;
+    } cases[] = {{{0, 0}, 0}, {{1, 1}, 1}, {{0, 1}, 2}, {{2, 2}, 2}, {{0, 2}, 2}, {{7, -1}, -1}};
+    const FakePage page(0x81510000, "M/E-4", nullptr);
+    EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x81510000), -1); // not in multi program 2
+    multiprogram2_me[4] = 1;
+    EXPECT_EQ(MainSubAssign_StatusCheck(), -1); // on no row
+    GL_MEAssign[0] = GL_MEAssign[13] = 4;
+    for (const auto& c : cases) {
+        GL_MainSubAssign[0] = c.sides[0];
+        GL_MainSubAssign[13] = c.sides[1];
+        EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x85110000), c.status)
+            << c.sides[0] << c.sides[1];
+        EXPECT_EQ(MainSubAssign_StatusCheck(), c.status) << c.sides[0] << c.sides[1];
+    }
+    EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x31110000), -1);
+    const FakePage aux(0x23110000, "2nd AUX", nullptr);
+    EXPECT_EQ(MainSubAssign_StatusCheck(), -1);
+    GL_MEAssign[5] = 7;
+    EXPECT_EQ(MainSubAssign_StatusCheck(), 0);
+}
+
+TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
+{
+    static const struct {
+        uint32_t now;
+        const char* tree[2];
+        uint32_t id;
+        uint32_t moved;
+    } cases[] = {
+        {0x11110000, {"M/E-1", "Key1"}, 0x11170002, 0x11170002},
+        {0x12310000, {"M/E-2", "Key3"}, 0x11170002, 0x12370002},
+        {0x16210000, {"M/E-2", "Key6"}, 0x11170002, 0x16270002},
+        {0x18410000, {"PGM/PST", "DSK8"}, 0x11110000, 0x18410000},
+        {0x81210000, {"M/E-4", "Key2"}, 0x11110000, 0x81210000},
+        {0x86110000, {"M/E-5", "Key5"}, 0x11110000, 0x86110000},
+        {0x13610000, {"M/E-3", "DME Wipe"}, 0x11610000, 0x13610000},
+        {0x17610000, {"M/E-3", "DME Wipe"}, 0x11610000, 0x17610000},
+        {0x85710000, {"M/E-4", "Misc"}, 0x11730000, 0x85730000},
+        {0x15710000, {"M/E-1", "Misc"}, 0x11730000, 0x15730000},
+        {0x15710000, {"M/E-1", "Misc"}, 0x15730000, 0x15730000}, // already there
+        {0x15710000, {"M/E-1", "Misc"}, 0x85730000, 0x85730000},
+        {0x24210000, {"CCR", "CCR2"}, 0x24110000, 0x24210000},
+        {0x12000000, {"M/E-2", nullptr}, 0x11110000, 0x12110000},
+        {0x12110000, {nullptr, "Key3"}, 0x11110000, 0x11110000},
+    };
+    for (const auto& c : cases) {
+        const FakePage page(c.now, c.tree[0], c.tree[1]);
+        uint32_t id = c.id;
+        AddPageOffset(&id);
+        EXPECT_EQ(id, c.moved) << std::hex << c.now << " " << c.id;
+    }
+}
+
+TEST_F(PageTest, PagesThatCoverOthersDoNotCount)
+{
+    for (uint32_t id : {0x54310099u, 0x55550000u, 0x71420003u, 0x73160010u, 0x99000000u,
+                        0x99910004u, 0x99960005u})
+        EXPECT_FALSE(IsUserPages(id)) << std::hex << id;
+    for (uint32_t id : {PAGE_TOP, 0x71420001u, 0x71440102u, 0x99910005u, 0x99911000u, 0x99960006u})
+        EXPECT_TRUE(IsUserPages(id)) << std::hex << id;
+}
+
+TEST_F(PageTest, AFewPagesKeepTheKnobsOfTheirRow)
+{
+    static const struct {
+        uint32_t id;
+        int stored;
+    } cases[] = {{0x73310007, 0}, {0x73310006, 5}, {0x73330002, 5},
+                 {0x73330003, 0}, {0x73340004, 0}, {0x73340005, 5},
+                 {0x73350001, 0}, {0x73350002, 5}, {0x11110000, 5}};
+    EXPECT_EQ(Page_GetKnobAssign(), -1); // before the first page
+    Page_SetKnobAssign(5);
+    for (const auto& c : cases) {
+        const FakePage page(c.id, "Engineering Setup", nullptr);
+        Page_SetKnobAssign(5);
+        EXPECT_EQ(Page_GetKnobAssign(), c.stored) << std::hex << c.id;
+    }
+}
+
+TEST_F(PageTest, NumberOfAPage)
+{
+    char text[16];
+    Page_Number(text, sizeof text, 0x11110000);
+    EXPECT_STREQ(text, "1111");
+    Page_Number(text, sizeof text, 0x00220012);
+    EXPECT_STREQ(text, "0022.12");
+    Page_Number(text, 6, 0x73110099);
+    EXPECT_STREQ(text, "7311.");
+}

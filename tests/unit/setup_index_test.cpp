@@ -1,0 +1,157 @@
+#include "harness.h"
+#include "setup_index.h"
+#include <cstdio>
+#include <cstring>
+#include <unistd.h>
+
+namespace
+{
+PAGE Row(uint32_t id, const char* word)
+{
+    PAGE row;
+    row.id = id;
+    row.tree[0] = "Engineering Setup";
+    row.tree[1] = word;
+    return row;
+}
+
+// Not in order, so that a group's rows are apart.
+const PAGE small_table[] = {
+    Row(0x73100000, "the group's own page"),
+    Row(0x73110000, "Network Config"),
+    Row(0x73210012, "Extension Panel"),
+    Row(0x73160008, "Unit Config"),
+    Row(0x73160108, "Unit Config"),
+    Row(0x73310102, "exists as a variant only"),
+    Row(0x73110099, "last sub page number"),
+    Row(0x73160308, "Unit Config"),
+    Row(0x73710000, "the last group"),
+    Row(0x737F0000, "a name of more than forty-seven characters, to be cut"),
+    Row(0x73800000, "past the groups"),
+    Row(0x74110000, "another menu"),
+    PAGE{},
+};
+
+struct SetupIndex : testing::Test {
+    void SetUp() override
+    {
+        unlink(SETUP_LOCK_FILE);
+        SetupIndex_BuildFrom(small_table);
+        SetupIndex_LoadLock();
+    }
+    static void WriteLockFile(const void* bytes, size_t size)
+    {
+        FILE* fp = fopen(SETUP_LOCK_FILE, "wb");
+        ASSERT_NE(fp, nullptr);
+        fwrite(bytes, size, 1, fp);
+        fclose(fp);
+    }
+};
+} // namespace
+
+TEST_F(SetupIndex, HasOneRowForAPageInEveryVariantGroupedByTab)
+{
+    static const struct {
+        uint32_t page;
+        const char* menu;
+        const char* name;
+    } rows[] = {
+        {0x73110000, "7311", "Network Config"},
+        {0x73160008, "7316.8", "Unit Config"},
+        {0x73110099, "7311.99", "last sub page number"},
+        {0x73210012, "7321.12", "Extension Panel"},
+        {0x73310002, "7331.2", "exists as a variant only"},
+        {0x73710000, "7371", "the last group"},
+        {0x737F0000, "737F", "a name of more than forty-seven characters, to "},
+    };
+    ASSERT_EQ(SetupMenu_Max, int(std::size(rows)));
+    for (size_t i = 0; i < std::size(rows); i++) {
+        EXPECT_EQ(SetupMenu[i].page, rows[i].page);
+        EXPECT_STREQ(SetupMenu[i].menu, rows[i].menu);
+        EXPECT_STREQ(SetupMenu[i].name, rows[i].name);
+    }
+    static const SETUPTBL groups[SETUP_GROUPS] = {{0, 3}, {3, 1}, {4, 1}, {5, 0},
+                                                  {5, 0}, {5, 0}, {5, 2}};
+    for (int g = 0; g < SETUP_GROUPS; g++) {
+        EXPECT_EQ(SetupMenuTbl[g].off, groups[g].off) << g;
+        EXPECT_EQ(SetupMenuTbl[g].num, groups[g].num) << g;
+    }
+}
+
+TEST_F(SetupIndex, ExtensionPanelPageComesAndGoesWithThePanel)
+{
+    const int row = SetupIndex_Find(0x73210012);
+    EXPECT_EQ(SetupMenu[row].active, 0);
+    SetupIndex_SetExtensionPanel(1);
+    EXPECT_EQ(SetupMenu[row].active, 1);
+    EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73110000)].active, 1);
+    SetupIndex_SetExtensionPanel(0);
+    EXPECT_EQ(SetupMenu[row].active, 0);
+}
+
+TEST_F(SetupIndex, LocksSurviveARestart)
+{
+    snprintf(SetupLock.password, sizeof SetupLock.password, "secret");
+    SetupLock.lock = 1;
+    SetupMenu[SetupIndex_Find(0x73160308)].lock = 1; // asked for by a variant's id
+    SetupMenu[SetupIndex_Find(0x73710000)].lock = 1;
+    ASSERT_EQ(SetupIndex_SaveLock(), 0);
+
+    SetupLock = {};
+    SetupIndex_BuildFrom(small_table);
+    SetupIndex_LoadLock();
+    EXPECT_EQ(SetupLock_New, 0);
+    EXPECT_STREQ(SetupLock.password, "secret");
+    EXPECT_EQ(SetupLock.lock, 1);
+    ASSERT_EQ(SetupLock.num, 2);
+    EXPECT_EQ(SetupLock.page[0], 0x73160008u);
+    EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73160008)].lock, 1);
+    EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73710000)].lock, 1);
+    EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73110000)].lock, 0);
+}
+
+TEST_F(SetupIndex, AMissingOrCutLockFileLocksNothing)
+{
+    EXPECT_EQ(SetupLock_New, 1);
+    SETUPLOCK lock;
+    lock.lock = lock.num = 1;
+    lock.page[0] = 0x73110000;
+    WriteLockFile(&lock, sizeof lock - 1);
+    SetupIndex_LoadLock();
+    EXPECT_EQ(SetupLock_New, 1);
+    EXPECT_EQ(SetupLock.lock, 0);
+    EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73110000)].lock, 0);
+}
+
+TEST_F(SetupIndex, ALockFileOfRubbishStaysInBounds)
+{
+    unsigned char rubbish[sizeof(SETUPLOCK)];
+    memset(rubbish, 0x7F,
+           sizeof rubbish); // a count of two thousand million, a password without an end
+    WriteLockFile(rubbish, sizeof rubbish);
+    SetupIndex_LoadLock();
+    EXPECT_EQ(SetupLock.num, SETUP_LOCK_PAGES);
+    EXPECT_EQ(strlen(SetupLock.password), sizeof SetupLock.password - 1);
+}
+
+TEST_F(SetupIndex, AFileThatCannotBeWrittenIsReported)
+{
+    unlink(SETUP_LOCK_FILE);
+    ASSERT_EQ(symlink("/nonexistent/lock", SETUP_LOCK_FILE), 0);
+    EXPECT_EQ(SetupIndex_SaveLock(), -1);
+    unlink(SETUP_LOCK_FILE);
+}
+
+TEST(SetupIndexOfTheProgram, HoldsEverySetupPageOnce)
+{
+    SetupIndex_Build();
+    ASSERT_LT(SetupMenu_Max, SETUP_ROWS);
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        if (page->id <= 0x73100000 || page->id > 0x737FFFFF)
+            continue;
+        int found = 0;
+        for (int i = 0; i < SetupMenu_Max; i++)
+            found += SetupMenu[i].page == (page->id & 0xFFFF00FF);
+        EXPECT_EQ(found, 1) << std::hex << page->id;
+    }
+}
