@@ -18,6 +18,7 @@ TallyRoute tally_page(const Tally& t);
 TallyRoute tally_panel_select(const Tally& t);
 
 // --- bus_tally_device: which units there are, how they are assigned, their formats ---
+TallyRoute tally_unit(const Tally& t);
 TallyRoute tally_dme_reference(const Tally& t);
 TallyRoute tally_dme_channel(const Tally& t);
 TallyRoute tally_mpe_reference(const Tally& t);
@@ -46,6 +47,7 @@ TallyRoute tally_key_transition(const Tally& t);
 TallyRoute tally_frame_delay(const Tally& t);
 TallyRoute tally_3d_mode(const Tally& t);
 TallyRoute tally_4k_mode(const Tally& t);
+TallyRoute tally_me_split(const Tally& t);
 
 // --- bus_tally_names: names and assignment of the buses ---
 TallyRoute tally_external_bus(const Tally& t);

@@ -1,6 +1,5 @@
 // Units: which there are, how they are assigned to each other, their formats and options.
 #include "a_ba.h"
-#include "pane.h"
 #include "bus_tally.h"
 #include "device.h"
 #include "fmctrl3.h"
@@ -9,6 +8,7 @@
 #include "log.h"
 #include "message.h"
 #include "netio.h"
+#include "pane.h"
 #include <iterator>
 
 #include "safeguards.h"
@@ -23,6 +23,13 @@ static const char* last_segment(const char* path)
 static bool is_class(const char* unit, const char* name)
 {
     return strncmp(unit, name, 3) == 0;
+}
+
+// Models and boards of the units, which device reads itself.
+TallyRoute tally_unit(const Tally& t)
+{
+    (void)Device_Tally(t.path, t.value); // the row has picked one of its two paths
+    return TallyRoute::Pass;
 }
 
 // --- Channels ---
@@ -340,7 +347,7 @@ TallyRoute tally_dme_interface(const Tally& t)
     return TallyRoute::Pass;
 }
 
-constexpr int DME_MODELS = 9; // model n is bit n - 1 of DEVTYPE; 0 is unknown
+constexpr int DME_MODELS = 9; // 0 unknown, 1..8
 
 TallyRoute tally_dme_model(const Tally& t)
 {
@@ -348,9 +355,6 @@ TallyRoute tally_dme_model(const Tally& t)
     if (model < 0)
         return TallyRoute::Pass;
     GL_DmeModel[t.arg] = GL_DmeModelDP[t.arg] = model;
-    DEVICE* dev = Device_ByName(last_segment(t.path));
-    if (dev)
-        dev->type = model > 0 ? 1 << (model - 1) : DEVTYPE_UNKNOWN;
     DeviceStructure();
     return TallyRoute::Pass;
 }

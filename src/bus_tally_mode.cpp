@@ -239,3 +239,14 @@ TallyRoute tally_4k_mode(const Tally& t)
     DeviceStructure();
     return TallyRoute::Pass;
 }
+
+// One number a board, with commas between them.
+TallyRoute tally_me_split(const Tally& t)
+{
+    constexpr int BOARDS = int(std::size(GL_BoardMESplit));
+    Parts p;
+    const int n = SplitValue(p, t.value, BOARDS);
+    for (int i = 0; i < BOARDS; i++)
+        GL_BoardMESplit[i] = i < n ? Decimal(p.v[i]) : 0;
+    return TallyRoute::Pass;
+}

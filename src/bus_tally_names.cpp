@@ -1,8 +1,4 @@
 // Names and assignment of the buses.
-#include "a_kf.h"
-#include "a_st.h"
-#include "file.h"
-#include "register.h"
 #include "bus_tally.h"
 #include "global.h"
 #include "memory.h"

@@ -159,7 +159,7 @@ static void take_nfs_mount_option(const char* value)
 // Without a word from the server it is the panel's own option that decides.
 static int operation_log_by_panel()
 {
-    return DEV_MyPnl[0] && DEV_MyPnl[0]->function[0] == 0;
+    return DEV_MyPnl[0] && DEV_MyPnl[0]->function[FUNCTION_OPTION_WORD] == 0;
 }
 
 static void take_operation_log(const char* value)

@@ -30,15 +30,15 @@ def main(build):
 
     with Desk(build, ini="LogLevel=1\n") as desk:
         desk.start_app()
-        desk.wait_wire("add TopMenu", 10)
+        # The initial read holds the link for a while: a press now would wait behind it.
+        desk.wait_wire("add M/E-5@Key8@Processed Key@Rotation", 20)
         time.sleep(0.3)
         picture("top-menu")
         desk.touch(112 + 42, 96 + 30)  # M/E-1
         desk.wait_wire(f"add {TYPE}")
         time.sleep(0.4)
         picture("key-type")
-        desk.touch(*grid(17))
-        desk.wait_wire(f"put {TYPE}#Luminance")
+        desk.touch(*grid(17))  # it is on: the press only moves the knobs to it
         time.sleep(0.3)
         picture("before-the-press")
         desk.touch_down(*grid(19))

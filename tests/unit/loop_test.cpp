@@ -250,6 +250,8 @@ TEST_F(Loop, ACaptureTakesTheFirstFreeOfNineNames)
 
 TEST_F(Loop, TheReducedPassKeepsTheScreenAliveAndNothingElse)
 {
+    MainEventCheck(); // its clock begins here
+    Clear();
     GL_CreatePage = 0x12110000;
     SDL_Event e = Button(SDL_MOUSEBUTTONDOWN, 7, 8);
     SDL_PushEvent(&e);
