@@ -1,6 +1,8 @@
 // The text link's line splitter: whatever arrives in whatever pieces, a line is never empty, holds
 // no line end, and is nothing but what was fed.
+#include "global.h"
 #include "netio.h"
+#include "text.h"
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -9,7 +11,8 @@
 // line ends.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    Net_Init(); // empties the buffer
+    CopyText(GL_ServerAddress, "127.0.0.1"); // refused at once
+    Net_Init();                              // empties the buffer
     size_t taken = 0;
     size_t received = 0;
     while (size > 0) {
