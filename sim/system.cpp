@@ -209,11 +209,11 @@ static void sys_list(const std::string& path, const std::vector<std::string>& ro
     node->kill_first = kill_first;
 }
 
-static std::vector<std::string> sys_numbered(const char* format_name, int first, int last)
+static std::vector<std::string> sys_numbered(const char* word, int first, int last)
 {
     std::vector<std::string> rows;
     for (int n = first; n <= last; ++n)
-        rows.push_back(Text_Format("%d,%s%d", n, format_name, n));
+        rows.push_back(Text_Format("%d,%s%d", n, word, n));
     return rows;
 }
 
