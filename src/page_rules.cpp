@@ -336,7 +336,6 @@ bool is_board_split_in_four()
 }
 
 constexpr uint32_t TAB_MASK = 0xFFFF0000;
-constexpr uint32_t ANY_BANK_1 = 0xF0FFFFFF; // bank 0x1y or 0x8y
 constexpr Hidden hidden[] = {
     NotThere(0x71520000, is_not_fmem_v6),
     NotThere(0x73310015, has_no_zrd52),
@@ -365,8 +364,6 @@ constexpr Hidden hidden[] = {
     NotThere(0x73240002, has_no_own_xpt_panel),
     {0x10760000, 0x10760000, has_no_clip_transition, 0xF0FF0000},
     {0x80760000, 0x80760000, has_no_clip_transition, 0xF0FF0000},
-    {0x10600007, 0x10600007, is_not_fmem_v6, ANY_BANK_1},
-    {0x80600007, 0x80600007, is_not_fmem_v6, ANY_BANK_1},
     NotThere(0x73260007, is_pcx50),
     NotThere(0x73260008, is_not_pcx50),
     {0x10020004, 0x10020004, has_no_second_tab, 0xF00FFFFF},
@@ -479,6 +476,14 @@ static uint32_t fold_for_transfer(uint32_t id)
     return is_hdd && !BkgdHDDTransfer_Check(id) ? Page_FirstOfTab(id) : id;
 }
 
+// The main banks' page of the frame memory V6; their sub banks have none.
+static bool is_frame_memory_of_me(uint32_t id)
+{
+    const uint32_t bank = id >> 24 & 0x0F;
+    const bool is_me = id >> 28 == 1 || id >> 28 == 8;
+    return is_me && bank >= 1 && bank <= 4 && (id & 0x00FFFFFF) == 0x600007;
+}
+
 static bool is_hidden(uint32_t id)
 {
     for (const Hidden& h : hidden) {
@@ -486,6 +491,8 @@ static bool is_hidden(uint32_t id)
         if (base >= h.first && base <= h.last && h.when())
             return true;
     }
+    if (is_frame_memory_of_me(id) && !is_fmem_v6())
+        return true;
     return isNowPageME(id) == 2 && !isMP2SettingME(id);
 }
 

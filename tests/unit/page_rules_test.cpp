@@ -131,6 +131,8 @@ TEST_F(PageRules, GlobalEffectFollowsProcessorsAndModels)
         {0x42230000, 0x42230100, Dual},
         {0x42160000, 0x42160200, [] { Dual(), In3D(); }},
         {0x42260000, 0x42260100, Dual},
+        {0x42160000, 0x42160100, Dual},
+        {0x42260000, 0x42260200, In3D},
         {0x42170000, 0x42170200, In3D},
         {0x42170000, 0x42170100, Dual},
         {0x42170000, 0x42170000, [] { Dual(), Dme(8); }},
@@ -232,6 +234,9 @@ TEST_F(PageRules, TimelinePagesFollowLinkAndConfig)
         {0x61130004, 0x61134004, on_3g},
         {0x61131021, 0x61131021}, // asked for with a variant: it is chosen anew
         {0x61131023, 0x61134023, on_3g},
+        {0x61130021, 0x61134021, on_3g},
+        {0x61130021, 0x61131021},
+        {0x61130023, 0x61131023},
         {0x61130005, 0x61130005},
         {0x61130005, 0x61133005, [] { Switcher(DEVTYPE_KTR40X); }},
         {0x61130012, 0x61133012, [] { Switcher(DEVTYPE_NTR40); }},
@@ -239,6 +244,7 @@ TEST_F(PageRules, TimelinePagesFollowLinkAndConfig)
         {0x61130017, 0x61130017},
         {0x61130017, 0x61133017, on_3g},
         {0x61130020, 0x61133020, on_3g},
+        {0x61130022, 0x61133022, on_3g},
         {0x61130024, 0x61133024, on_3g},
         {0x61131501, 0x61130501},
         {0x61131501, 0x61131501, mp2},
@@ -271,6 +277,8 @@ TEST_F(PageRules, VariantsOfEngineeringPages)
         {0x73440000, 0x73440100, [] { Dual(), Dme(8); }},
         {0x73410001, 0x73410001},
         {0x73410001, 0x73410101, Dual},
+        {0x73440001, 0x73440101, Dual},
+        {0x73440006, 0x73440106, Dual},
         {0x73410001, 0x73410201, [] { Dual(), Dme(8); }},
         {0x73440001, 0x73440201, [] { Run1080p(), Dme(8); }},
         {0x73440003, 0x73440103, Dual},
@@ -331,6 +339,7 @@ TEST_F(PageRules, PagesThatTheModelsLackAreHidden)
         {0x73160011, 0x73160011, [] { Switcher(DEVTYPE_NTR40); }},
         {0x11120004, 0},
         {0x81420004, 0x81420004, [] { Switcher(DEVTYPE_KTR40E); }},
+        {0x81420004, 0},
         {0x11120003, 0x11120003},
         {0, 0},
     };
@@ -345,7 +354,10 @@ TEST_F(PageRules, BanksThatAreNotInUseAreHidden)
         {0x11110000, 0, [] { SYS_Simul = 1; }},
         {0x12750000, 0, [] { SYS_Simul = 1; }},
         {0x13110000, 0x13110000, [] { SYS_Simul = 1; }},
+        {0x11110000, 0, [] { SYS_MEOperation[0] = 1; }},
+        {0x12110000, 0, [] { SYS_MEOperation[1] = 1; }},
         {0x13110000, 0, [] { SYS_MEOperation[2] = 1; }},
+        {0x82110000, 0, [] { SYS_MEOperation[4] = 1; }},
         {0x81110000, 0, [] { SYS_MEOperation[3] = 2; }},
         {0x14110000, 0, [] { SYS_MEOperation[5] = 1; }},
         {0x82110000, 0x82110000, [] { SYS_MEOperation[5] = 1; }},
@@ -357,6 +369,8 @@ TEST_F(PageRules, BanksThatAreNotInUseAreHidden)
         {0x11760000, 0, [] { SYS_4KMode = 1; }},
         {0x82760100, 0, [] { Switcher(DEVTYPE_KTR40); }},
         {0x14600007, 0, [] { Switcher(DEVTYPE_KTR40); }},
+        {0x81600007, 0, [] { Switcher(DEVTYPE_KTR40); }},
+        {0x85600007, 0x85600007, [] { Switcher(DEVTYPE_KTR40), multiprogram2_me[4] = 1; }},
         {0x14600007, 0x14600007},
     };
     Check(cases);
@@ -389,6 +403,7 @@ TEST_F(PageRules, TheWalkThroughAllPagesSkipsTheRules)
     ASSERT_NE(SearchPageTable(0x11110000), nullptr);
     EXPECT_EQ(SearchPageTable(0x33110000), nullptr); // only its variants have rows
     GL_AllPageDisplayMode = 0;
+    ASSERT_NE(SearchPageTable(0x33110000), nullptr);
     EXPECT_EQ(SearchPageTable(0x33110000)->id, 0x33110100u);
     EXPECT_EQ(SearchPageTable(PAGE_END), nullptr);
 }
