@@ -29,7 +29,6 @@ template <int* state> static TallyRoute tally_switch_or_number(const Tally& t)
 }
 
 constexpr int TEN_KEY_ROWS = 23;
-constexpr int TEN_KEY_REGIONS = 4; // behind two numbers that the menu does not use
 
 static TallyRoute tally_ten_key_region(const Tally& t)
 {
