@@ -67,7 +67,7 @@ static void sig_chld(int)
 {
     if (cpid == 0)
         return;
-    wait(nullptr);
+    waitpid(cpid, nullptr, WNOHANG);
     cpid = 0;
 }
 

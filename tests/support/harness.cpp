@@ -1,5 +1,6 @@
 #include "harness.h"
 #include "graphics.h"
+#include "log.h"
 #include "loop.h"
 #include "netio.h"
 #include "page.h"
@@ -50,6 +51,8 @@ void Harness_Video()
 void Harness_Reset()
 {
     Harness_Video();
+    Log_Init(nullptr, LOG_FILE_SIZE);
+    Log_SetLevel(0);
     Page_Reset();
     Loop_Reset();
     (void)TakeQueuedCommands(); // what an earlier test left

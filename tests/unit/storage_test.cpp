@@ -39,6 +39,7 @@ struct Storage : testing::Test {
         CopyText(GL_NFS_MountOption, "retrans=5,soft,nolock");
         remove(LOG);
         Log_Init(LOG, LOG_FILE_SIZE);
+        Log_SetLevel(0);
     }
     void TearDown() override { Log_Init(nullptr, LOG_FILE_SIZE); }
 };
