@@ -16,11 +16,14 @@
 
 SDL_Surface* G_WipePtn[WIPE_PTN_MAX];
 
-// Pattern numbers that look different on the smaller model: its pictures have an "e" behind the
-// number.
+// Patterns that the smaller model shows by other pictures, named with an "e" behind the number: the
+// flat moves over two channels, which it makes with one.
 static constexpr int DmeWipePtn_KTR20[] = {
-    2001, 2002, 2003, 2004, 2005, 2006, 2007, 2008, 2009, 2010, 2011, 2012, 2013, 2014, 2015,
-    2016, 2017, 2018, 2019, 2020, 2021, 2022, 2023, 2024, 2025, 2026, 2027, 2028, 2029,
+    2001, 2002, 2003, 2004, 2005, 2006, 2007, 2008, // slide
+    2011, 2012, 2013, 2014, 2015, 2016, 2017, 2018, // push
+    2021, 2022, 2023, 2024,                         // split
+    2201, 2202, 2203, 2204, 2205, 2206, 2207, 2208, // squeeze
+    2251,                                           // zoom
 };
 static_assert(sizeof DmeWipePtn_KTR20 / sizeof DmeWipePtn_KTR20[0] == 29);
 
@@ -147,11 +150,6 @@ void FreeGraphics()
         free_surface(&picture);
 }
 
-SDL_Surface* LoadGFile(const char* name)
-{
-    return load_gfile(name);
-}
-
 void LoadDmeWipePtn_KTR20()
 {
     char name[16];
@@ -159,4 +157,9 @@ void LoadDmeWipePtn_KTR20()
         PrintText(name, "%de", n);
         load_wipe_ptn(n, name);
     }
+}
+
+SDL_Surface* LoadGFile(const char* name)
+{
+    return load_gfile(name);
 }

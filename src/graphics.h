@@ -1,5 +1,6 @@
-// graphics: the bitmaps of the user interface, loaded once at start-up into one global each: G_ and the stem.
-// A file that is missing leaves a null global and a log line; the drawing verbs take a null surface.
+// graphics: the bitmaps of the user interface, loaded once at start-up into one global each: G_ and
+// the stem. A file that is missing leaves a null global and a log line; the drawing verbs take a
+// null surface.
 #pragma once
 #include <SDL.h>
 
@@ -8,9 +9,11 @@
 #undef BITMAP
 
 constexpr int WIPE_PTN_MAX = 4000;
-extern SDL_Surface* G_WipePtn[WIPE_PTN_MAX]; // picture of a wipe pattern by its number; null where there is none
+// The picture of a wipe pattern by its number; null where there is none.
+extern SDL_Surface* G_WipePtn[WIPE_PTN_MAX];
 
-void LoadGraphics();
+void LoadGraphics(); // at start-up, before the first page
 void FreeGraphics();
-SDL_Surface* LoadGFile(const char* name); // "graphics/NAME.bmp" in display format, null on failure; the caller frees it
-void LoadDmeWipePtn_KTR20();              // the other pictures of the smaller model
+void LoadDmeWipePtn_KTR20(); // after LoadGraphics: the other pictures of the smaller model
+// "graphics/NAME.bmp" in display format, for the caller to free; null and a log line on failure.
+SDL_Surface* LoadGFile(const char* name);

@@ -70,6 +70,7 @@ TEST(Graphics, AMissingFileIsANullBitmapAndALogLine)
     EXPECT_EQ(G_EXE_p0o1, nullptr);
     EXPECT_EQ(LogLinesWith("Can't load graphics file: [graphics/EXE_p0o1.bmp]"), 1);
     EXPECT_EQ(LogLinesWith("EXE_p0o0"), 0);
+    EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0); // an empty folder is no fault
     FreeGraphics();
     EXPECT_EQ(G_EXE_p0o0, nullptr);
     FreeGraphics(); // nothing left is no harm
@@ -119,17 +120,6 @@ TEST(Graphics, WithoutAListEveryNumberIsTried)
     EXPECT_EQ(WidthOf(G_EXE_p0o0), 85);
     EXPECT_EQ(LogLinesWith("graphics/ptn/"), WIPE_PTN_MAX);
     EXPECT_EQ(LogLinesWith("[graphics/ptn/3999.bmp]"), 1);
-}
-
-TEST(Graphics, AnEmptyPatternFolderIsNoFault)
-{
-    const TestDisplay display;
-    const GraphicsFolder folder;
-    LoadGraphics();
-    for (const SDL_Surface* s : G_WipePtn)
-        ASSERT_EQ(s, nullptr);
-    EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0);
-    EXPECT_TRUE(std::filesystem::is_empty("graphics/ptn"));
 }
 
 TEST(Graphics, TheSmallerModelHasItsOwnPictures)
