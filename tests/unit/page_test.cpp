@@ -1,3 +1,4 @@
+#include "a_vf.h"
 #include "device.h"
 #include "global.h"
 #include "harness.h"
@@ -171,6 +172,15 @@ TEST_F(PageTest, MenuKeysReopenTheirLastPage)
         EXPECT_EQ(TopMenu[s.row].page, s.reopens) << std::hex << s.visit;
     }
     EXPECT_EQ(TopMenu[28].caption, nullptr);
+
+    PAGE* row = SearchPageTable_Free_ALL(PageTable, 0x54100000);
+    ASSERT_NE(row, nullptr);
+    row->id = 0x54310099; // a page of the same menu that does not count
+    EXPECT_EQ(CreatePage(0x54310099), 0);
+    row->id = 0x54100000;
+    EXPECT_EQ(TopMenu[18].page, 0x54100000u);
+    EXPECT_EQ(TopMenu[0].page, 0x11210000u); // the page that it covers
+
     for (int i = 0; TopMenu[i].caption; i++)
         EXPECT_EQ(CreatePage(TopMenu[i].page), 0) << TopMenu[i].caption;
 }
@@ -196,9 +206,11 @@ TEST_F(PageTest, HistoryGoesBackAndForward)
     EXPECT_EQ(Omote_History_NowPtr, 2);
     EXPECT_EQ(Omote_History_MaxPtr, 3);
 
+    HistoryBack(1);
+    CreatePage(GL_CreatePage);
     CreatePage(KeyPage(9)); // a visit cuts what was ahead
-    EXPECT_EQ(Omote_History_NowPtr, 3);
-    EXPECT_EQ(Omote_History_MaxPtr, 3);
+    EXPECT_EQ(Omote_History_NowPtr, 2);
+    EXPECT_EQ(Omote_History_MaxPtr, 2);
     EXPECT_EQ(GetHistoryFwd(1), 0u);
     EXPECT_EQ(HistoryBack(0), -1); // the other side has its own
 }
@@ -216,6 +228,8 @@ TEST_F(PageTest, AStepBackFromAnErrorPageReturnsToTheCoveredPage)
     EXPECT_EQ(GL_CreatePage, KeyPage(1));
     EXPECT_EQ(Omote_History_NowPtr, 1);
     EXPECT_EQ(GL_PrevPage, KeyPage(1));
+    CreatePage(KeyPage(2));
+    EXPECT_EQ(GL_PrevPage, KeyPage(1)); // not the error page
 }
 
 TEST_F(PageTest, TheFiftyFirstPageDropsTheOldest)
@@ -303,6 +317,27 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
             c.when();
         EXPECT_EQ(ComesTo(c.request), c.opens) << std::hex << c.request << " expected " << c.opens;
     }
+}
+
+TEST_F(PageTest, AWildcardTabIsTheOneThatTheRowSelects)
+{
+    static const VF_TBL tabs[] = {{.id = 1, .page = 0x32110000},
+                                  {.id = 2, .page = 0x99150000},
+                                  VF_END,
+                                  {.id = 3, .page = 0x32160000}};
+    static const struct {
+        uint32_t selected;
+        uint32_t opens;
+    } cases[] = {{1, 0x32110000}, {2, 0x32150000}, {3, 0x321F0000}, {0, 0x321F0000}};
+    PAGE* row = SearchPageTable_Free_ALL(PageTable, 0x32110000);
+    ASSERT_NE(row, nullptr);
+    const PAGE kept = *row;
+    for (const auto& c : cases) {
+        row->obj[0] = {OBJ_VF, tabs, c.selected};
+        row->obj[1] = {};
+        EXPECT_EQ(ComesTo(0x321F0000), c.opens) << c.selected;
+    }
+    *row = kept;
 }
 
 TEST_F(PageTest, ClassificationByBankAndTab)
