@@ -221,10 +221,10 @@ static void step_mpe_reference()
         present ? ~(present | (present - 1)) : ~0u; // bits over the lowest of present
     const unsigned candidates = available & above ? available & above : available;
     SYS_MPEReference = int(candidates & (~candidates + 1));
-    char digits[9] = "00000000"; // channel 1 first
+    char digits[9] = "00000000"; // a binary number: channel 1 is the last digit
     for (int ch = 0; ch < 8; ch++)
         if (SYS_MPEReference >> ch & 1)
-            digits[ch] = '1';
+            digits[7 - ch] = '1';
     ba.Title.redraw = 1;
     Net_SendCommandFormat("put MPE@Fx@Channel@Reference#%s", digits);
 }

@@ -94,7 +94,7 @@ static SDL_Surface* title_band()
     return *bands[OmoteFlag != 0][ba_has_short_title()][ba.Title.pushed > 0];
 }
 
-static void tree_line(char (&line)[CMD_SIZE])
+static void tree_line(char (&line)[PATH_SIZE])
 {
     line[0] = '\0';
     for (int i = 1; i < PAGE_DEPTH && GL_NowTree[i]; i++) {
@@ -104,28 +104,17 @@ static void tree_line(char (&line)[CMD_SIZE])
     }
 }
 
-// The cutting verb refuses texts of more than 31 characters with their dots; those are shortened to
-// that first.
-static void draw_cut(int x, int y, int width, const char* text, unsigned col)
+// The longest head that fits with "..". The drawing layer's own cut serves short texts only.
+static void draw_cut(int x, int y, int width, char (&text)[PATH_SIZE], unsigned col)
 {
-    constexpr size_t LONGEST = 29;
-    if (int(TDL_GetSymbolWidth(text, 4)) <= width) {
-        TDL_SymbolS(x, y, text, 4, col);
-        return;
+    size_t head = strlen(text);
+    if (int(TDL_GetSymbolWidth(text, 4)) > width) {
+        const int room = width - int(TDL_GetSymbolWidth("..", 4));
+        while (head > 0 && int(TDL_GetSymbolWidth(text, 4)) > room)
+            text[--head] = '\0';
+        AppendText(text, "..");
     }
-    char head[LONGEST + 3];
-    ktr_strncpy(head, text, LONGEST + 1);
-    if (strlen(text) <= LONGEST) {
-        TDL_SymbolWAddS(x, y, width, head, "..", 4, col);
-        return;
-    }
-    AppendText(head, "..");
-    if (int(TDL_GetSymbolWidth(head, 4)) <= width) {
-        TDL_SymbolS(x, y, head, 4, col);
-        return;
-    }
-    head[LONGEST] = '\0';
-    TDL_SymbolWAddS(x, y, width, head, "..", 4, col);
+    TDL_SymbolS(x, y, text, 4, col);
 }
 
 Rect ba_drw_title()
@@ -135,14 +124,13 @@ Rect ba_drw_title()
     if (!GL_NowTree || !GL_NowTree[0])
         return band;
     TDL_SymbolWS(97, 11, band.x2 - 97, GL_NowTree[0], 9, OmoteFlag ? WHITE : BLACK);
-    const int width = band.x2 - 8 - 99;
     if (GL_ErrorPopup_On) {
-        draw_cut(99, 46, width, "Error: touch here", RED); // leads to the diagnosis
+        TDL_SymbolS(99, 46, "Error: touch here", 4, RED); // leads to the diagnosis
         return band;
     }
-    char line[CMD_SIZE];
+    char line[PATH_SIZE];
     tree_line(line);
-    draw_cut(99, 46, width, line, OmoteFlag ? TREE_OMOTE : TREE_URA);
+    draw_cut(99, 46, band.x2 - 8 - 99, line, OmoteFlag ? TREE_OMOTE : TREE_URA);
     return band;
 }
 

@@ -213,6 +213,16 @@ static Chosen choose(const BT_MEM* b, const Faces& faces)
     return c;
 }
 
+// An icon of its own bitmap; there is no grey form of it for a disabled key.
+static void put_icon(const BT_MEM* b, int x, int y, SDL_Surface* icon)
+{
+    constexpr unsigned char DIM = 70; // of 255
+    if (b->visible == BT_ENABLED)
+        TDL_PutS(b->x1 + x, b->y1 + y, icon);
+    else
+        TDL_PutAS(b->x1 + x, b->y1 + y, icon, DIM);
+}
+
 // --- Captions ---
 
 static void edge_rising(int x, int y, unsigned col)
@@ -290,7 +300,7 @@ void bt_caption(const BT_MEM* b, const SDL_Surface* face, int top, int font, uns
                      b->caption, font, col);
         break;
     case BT_NEW:
-        TDL_PutS(b->x1 + 8, b->y1 + 10, G_icon_folder);
+        put_icon(b, 8, 10, G_icon_folder);
         TDL_SymbolS(b->x1 + 30, b->y1 + 10, b->caption, font, col);
         break;
     default:
@@ -478,26 +488,26 @@ namespace
 struct TransportIcon {
     int id;
     SDL_Surface** icon;
-    SDL_Surface** icon_dis;
     int x; // from the key's corner, below a caption of two lines
     int y;
+    SDL_Surface** icon_dis = nullptr; // the grey form, where there is one
 };
 } // namespace
 
 static const TransportIcon clip_playrec_icons[] = {
-    {34, &G_icon_rew, &G_icon_rew, 30, 48},
-    {35, &G_icon_play, &G_icon_play, 38, 48},
-    {36, &G_icon_ff, &G_icon_ff, 34, 48},
-    {37, &G_icon_stop, &G_icon_stop, 35, 49},
+    {34, &G_icon_rew, 30, 48},
+    {35, &G_icon_play, 38, 48},
+    {36, &G_icon_ff, 34, 48},
+    {37, &G_icon_stop, 35, 49},
 };
 static const TransportIcon clip_record_icons[] = {
-    {38, &G_icon_record, &G_icon_record2, 35, 48},
-    {54, &G_icon_stop, &G_icon_stop, 35, 49},
+    {38, &G_icon_record, 35, 48, &G_icon_record2},
+    {54, &G_icon_stop, 35, 49},
 };
 static const TransportIcon menu_macro_icons[] = {
-    {49, &G_icon_rew, &G_icon_rew, 30, 48},
-    {50, &G_icon_play, &G_icon_play, 38, 48},
-    {51, &G_icon_stop, &G_icon_stop, 35, 49},
+    {49, &G_icon_rew, 30, 48},
+    {50, &G_icon_play, 38, 48},
+    {51, &G_icon_stop, 35, 49},
 };
 
 template <size_t N> static int draw_transport(BT_MEM* b, const TransportIcon (&icons)[N])
@@ -505,10 +515,15 @@ template <size_t N> static int draw_transport(BT_MEM* b, const TransportIcon (&i
     if (erased(b))
         return 0;
     draw_face(b, choose(b, faces_by_type[b->type == BT_ACTION ? BT_ACTION : BT_ACTION_STATE]));
-    for (const TransportIcon& t : icons)
-        if (t.id == b->id)
-            TDL_PutS(b->x1 + t.x + pushed_by(b), b->y1 + t.y + pushed_by(b),
-                     b->visible == BT_ENABLED ? *t.icon : *t.icon_dis);
+    const int p = pushed_by(b);
+    for (const TransportIcon& t : icons) {
+        if (t.id != b->id)
+            continue;
+        if (t.icon_dis && b->visible != BT_ENABLED)
+            TDL_PutS(b->x1 + t.x, b->y1 + t.y, *t.icon_dis);
+        else
+            put_icon(b, t.x + p, t.y + p, *t.icon);
+    }
     return finish(b);
 }
 

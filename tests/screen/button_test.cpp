@@ -1,0 +1,336 @@
+#include "a_ba.h"
+#include "a_bt_page.h"
+#include "a_pc.h"
+#include "favorites.h"
+#include "setup_index.h"
+#include "tdl.h"
+
+extern const PC_TBL pc_favorites;
+static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
+
+namespace
+{
+// How one cell of the sheet is brought about.
+struct Cell {
+    const char* caption;
+    int type;
+    int status = BT_OFF;
+    bool pushed = false;
+    bool disabled = false;
+    const NB_TBL* nb = nullptr;
+    bool owner = false;
+    bool undecided = false;
+    int (*draw)(BT_MEM*) = bt_drw_normal;
+    int id = 17;
+};
+
+constexpr Cell Pushed(Cell c)
+{
+    c.pushed = true;
+    return c;
+}
+constexpr Cell Disabled(Cell c)
+{
+    c.disabled = true;
+    return c;
+}
+constexpr Cell WithKnobs(Cell c)
+{
+    c.nb = boxes;
+    return c;
+}
+constexpr Cell Owner(Cell c)
+{
+    c.owner = true;
+    return WithKnobs(c);
+}
+constexpr Cell Undecided(Cell c)
+{
+    c.undecided = true;
+    return c;
+}
+constexpr Cell By(int (*draw)(BT_MEM*), Cell c)
+{
+    c.draw = draw;
+    return c;
+}
+} // namespace
+
+struct ButtonSheet : ButtonPage {
+    static void Draw(int x, int y, const Cell& c)
+    {
+        BT_TBL rows[] = {Button(c.id, c.type, {"~@X#*"}, c.nb), {.id = -1}};
+        rows[0].caption = c.caption;
+        rows[0].draw_func = c.draw;
+        rows[0].x1 = x;
+        rows[0].y1 = y;
+        rows[0].x2 = x + 84;
+        rows[0].y2 = y + 65;
+        BT_Create(rows, 0);
+        BT_MEM* b = bt_find(c.id);
+        BT_SetStatus(c.id, c.status);
+        if (c.owner)
+            BT_SetKnobAssign(c.id);
+        if (c.pushed)
+            b->pushed = 150;
+        if (c.disabled)
+            b->visible = BT_DISABLED;
+        b->undecided = c.undecided;
+        BT_Proc(MSG_REDRAW, 0, 0, 0, 0);
+        BT_SetKnobAssign(-1);
+    }
+    // Cells from the left, a row of the sheet from y.
+    template <size_t N> static void Row(int y, int pitch, const Cell (&cells)[N])
+    {
+        for (size_t i = 0; i < N; i++)
+            Draw(4 + int(i) * pitch, y, cells[i]);
+    }
+};
+
+TEST_F(ButtonSheet, KeysWithAState)
+{
+    constexpr Cell toggle_off{"Off", BT_TOGGLE};
+    constexpr Cell toggle_on{"On", BT_TOGGLE, BT_ON};
+    constexpr Cell toggle_third{"Third", BT_TOGGLE, BT_THIRD};
+    Row(4, 88,
+        {toggle_off, toggle_on, toggle_third, Pushed(toggle_off), Pushed(toggle_on),
+         Pushed(toggle_third), Disabled(toggle_off), Disabled(toggle_on), Disabled(toggle_third)});
+
+    constexpr Cell radio_off = WithKnobs({"Knobs\noff", BT_RADIO});
+    constexpr Cell radio_on = WithKnobs({"Knobs\non", BT_RADIO, BT_ON});
+    constexpr Cell knob_only = WithKnobs({"Knob\nonly", BT_KNOB_ONLY, BT_NO_TALLY});
+    Row(76, 88,
+        {radio_off, radio_on, Pushed(radio_off), Pushed(radio_on), Disabled(radio_off),
+         Disabled(radio_on), knob_only, Pushed(knob_only), Disabled(knob_only)});
+    constexpr Cell fill_off{"Key\nFill", BT_RADIO};
+    constexpr Cell fill_on{"Key\nFill", BT_RADIO, BT_ON};
+    Row(148, 88,
+        {Owner(radio_off), Owner(radio_on), Pushed(Owner(radio_off)), Pushed(Owner(radio_on)),
+         Owner(knob_only), Pushed(Owner(knob_only)), Undecided(fill_off), Undecided(fill_on),
+         Pushed(Undecided(fill_on))});
+
+    constexpr Cell action{"Action", BT_ACTION};
+    constexpr Cell action_on{"Action\non", BT_ACTION, BT_ON};
+    constexpr Cell state_off{"State\noff", BT_ACTION_STATE};
+    constexpr Cell state_on{"State\non", BT_ACTION_STATE, BT_ON};
+    Row(220, 88,
+        {action, action_on, Pushed(action), Disabled(action), state_off, state_on,
+         Pushed(state_off), Pushed(state_on), Disabled(state_off)});
+
+    constexpr Cell list{"Pull-down", BT_PULLDOWN};
+    constexpr Cell list_on{"On", BT_PULLDOWN, BT_ON};
+    constexpr Cell tab = By(bt_drw_tab, {"Tab", BT_TAB});
+    Row(292, 112,
+        {list,
+         {"Register", BT_PULLDOWN},
+         list_on,
+         Pushed(list),
+         Pushed(list_on),
+         Disabled(list),
+         tab});
+    constexpr Cell long_list{"Long list", BT_PULLDOWN_LONG};
+    constexpr Cell long_on{"On", BT_PULLDOWN_LONG, BT_ON};
+    Row(346, 112,
+        {long_list, long_on, Pushed(long_list), Pushed(long_on), Disabled(long_list), Pushed(tab),
+         Disabled({"Tab", BT_TAB})});
+    constexpr Cell right{"Copy", BT_TRANSFER_RIGHT};
+    constexpr Cell left{"Copy", BT_TRANSFER_LEFT};
+    Row(400, 112,
+        {right,
+         {"Copy", BT_TRANSFER_RIGHT, BT_ON},
+         Pushed(right),
+         left,
+         {"Copy", BT_TRANSFER_LEFT, BT_ON},
+         Pushed(left),
+         Disabled(left)});
+
+    GL_DebugMode = 1;
+    Row(454, 88,
+        {{"_RISING", BT_RADIO},
+         {"_FALLING", BT_RADIO, BT_ON},
+         Pushed({"_ANY", BT_RADIO}),
+         Disabled({"_LEVEL", BT_RADIO}),
+         {"_Other", BT_RADIO},
+         {"No tally", BT_RADIO, BT_NO_TALLY},
+         {"A caption that wraps twice", BT_TOGGLE, BT_ON},
+         By(bt_drw_sbus_remote, Undecided({"Router", BT_TOGGLE, BT_ON})),
+         By(bt_drw_normal_nextver, {"Next\nversion", BT_TOGGLE})});
+    EXPECT_TRUE(MatchesGolden("button_state"));
+}
+
+TEST_F(ButtonSheet, KeysThatLeadAndKeysOfTheFamily)
+{
+    constexpr Cell jumps[] = {
+        {"Page", BT_JUMP},         {"Ten key", BT_JUMP_10KEY}, {"Keyboard", BT_JUMP_KEYBOARD},
+        {"Pop-up", BT_JUMP_POPUP}, {"Find", BT_FIND},          {"New", BT_NEW}};
+    for (int i = 0; i < 6; i++) {
+        Draw(4 + 98 * i, 4, jumps[i]);
+        Draw(4 + 98 * i, 76, Pushed(jumps[i]));
+        Draw(4 + 98 * i, 148, Disabled(jumps[i]));
+    }
+
+    // Which transport mark a key has follows from its id.
+    static const struct {
+        int id;
+        const char* caption;
+        int (*draw)(BT_MEM*);
+    } transport[] = {
+        {34, "Rewind", bt_drw_clip_playrec},        {35, "Play", bt_drw_clip_playrec},
+        {36, "Fast\nForward", bt_drw_clip_playrec}, {37, "Stop", bt_drw_clip_playrec},
+        {38, "Record", bt_drw_clip_record},         {54, "Stop", bt_drw_clip_record},
+        {50, "Play", bt_drw_menu_macro_playrec},
+    };
+    for (int i = 0; i < 7; i++) {
+        Cell c{.caption = transport[i].caption, .type = BT_ACTION_STATE};
+        c.draw = transport[i].draw;
+        c.id = transport[i].id;
+        Draw(4 + 98 * i, 220, c);
+        c.pushed = i == 1;
+        c.disabled = i > 3;
+        c.status = i == 0 ? BT_ON : BT_OFF;
+        Draw(4 + 98 * i, 292, c);
+    }
+
+    SYS_DMEReference = 1;
+    GL_DmeModel[0] = 1;
+    GL_LightActive[1] = 1;
+    Draw(4, 364, By(bt_drw_normal_light, {"Light 1", BT_JUMP}));
+    Draw(102, 364, By(bt_drw_normal_light, {"Light 2", BT_JUMP}));
+    GL_DmeModel[0] = 5; // has no lights
+    Draw(200, 364, By(bt_drw_normal_light, {"Light 2", BT_JUMP}));
+    SYS_DMEReference = GL_DmeModel[0] = GL_LightActive[1] = 0;
+
+    SetTree({"PGM/PST", "Misc"}, 0x14750000);
+    Draw(298, 364, By(bt_drw_keypriority, {"Key1", BT_RADIO, BT_ON}));
+    Draw(396, 364, Pushed(By(bt_drw_keypriority, {"Key2", BT_RADIO})));
+    GL_NextVersion = 1;
+    Draw(494, 364, By(bt_drw_normal_nextver, {"Next\nversion", BT_TOGGLE}));
+
+    // The operator's own key in each of its colours.
+    shortcut_menu_data_tally(1, "11110000,Key 1");
+    for (int color = 0; color < 8; color++) {
+        char value[8];
+        PrintText(value, "%d", color + 1);
+        pc_favorites.proc_func(MSG_TALLY, Arg("Info@Operation Setup Data@Color Select@1"),
+                               Arg(value), 0, 0);
+        Cell c = By(bt_drw_color_select, {"M/E-1\nKey 1", BT_JUMP});
+        c.id = 1;
+        c.pushed = color == 7;
+        Draw(4 + 98 * color, 436, c);
+    }
+    EXPECT_TRUE(MatchesGolden("button_family"));
+}
+
+TEST_F(ButtonSheet, GroupsFrameWhatBelongsTogether)
+{
+    BT_TBL rows[] = {
+        Button(17, BT_RADIO, {"~@Key Type#Luminance"}, boxes),
+        Button(18, BT_RADIO, {"~@Key Type#Linear"}, boxes),
+        Button(19, BT_RADIO, {"~@Key Type#Chroma"}, boxes),
+        Button(33, BT_TOGGLE, {"~@Key Invert#*"}),
+        Button(34, BT_TOGGLE, {"~@Clean Mode#*", "~@Key Type#!Luminance"}),
+        Button(35, BT_ACTION, {"~@Auto Chroma#*", "~@Key Type#!Chroma"}),
+        Button(36, BT_JUMP, {"#+11110001"}),
+        Button(37, BT_TOGGLE, {"~@Gone#*"}),
+        {.id = -1},
+    };
+    static const char* const texts[][2] = {
+        {"Luminance", "Key Type"},     {"Linear", "Key Type"},     {"Chroma", "Key Type"},
+        {"Key\nInvert", "@Chroma"},    {"Clean\nMode", "@Chroma"}, {"Auto\nChroma", "#Chroma"},
+        {"Chroma\nAdjust", "#Chroma"}, {"Gone", "Gone"},
+    };
+    for (int i = 0; i < 8; i++) {
+        rows[i].caption = texts[i][0];
+        rows[i].group = texts[i][1];
+    }
+    TDL_FillRectS(97, 73, 702, 526, 0x303030); // what the erasing has to clear
+    BT_Create(rows, 0);
+    Tally("M/E-1@Key1@Type@Key Type", "Luminance");
+    Tally("M/E-1@Key1@Type@Clean Mode", "true");
+    BT_SetCutoff(37, 1);
+    Pass(0); // draws, then erases and frames
+    Pass(0);
+    EXPECT_TRUE(MatchesGolden("button_group", {97, 230, 702, 450}));
+    BT_SetCutoffEx(36, 1);
+    Pass(0);
+    EXPECT_EQ(PixelAt(450, 390), 0u) << "erased";
+    EXPECT_EQ(PixelAt(494, 390), 0x3C3C3Cu) << "its frame stays";
+}
+
+// --- Base area ---
+
+struct BaseSheet : ButtonPage {
+    void TearDown() override
+    {
+        BA_SetUsbAccess(0);
+        BA_SetHDDAccess(0);
+        SetupLock = {};
+        SetupMenu_Max = 0;
+        OmoteFlag = 1;
+        GL_ErrorPopup_On = 0;
+        ButtonPage::TearDown();
+    }
+    void OpenBase(std::initializer_list<const char*> tree, uint32_t id, const BA_TBL& table)
+    {
+        SetTree(tree, id);
+        BA_Create(&table, 0);
+    }
+    static void Touch(int x, int y)
+    {
+        BA_Proc(MSG_PRESS, x, y, 1, 0);
+        BA_Proc(MSG_REDRAW, 0, 0, 0, 0);
+    }
+};
+
+TEST_F(BaseSheet, AKeyPageWithDefaultRecallArmed)
+{
+    Omote_History[0] = 0x11000000;
+    Omote_History[1] = 0x11110000;
+    Omote_History[2] = 0x11110002;
+    Omote_History_NowPtr = 1;
+    Omote_History_MaxPtr = 2;
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000, base_main);
+    BA_SetUsbAccess(1);
+    BA_SetHDDAccess(1);
+    Touch(40, 560);
+    EXPECT_TRUE(MatchesGolden("base_main"));
+}
+
+TEST_F(BaseSheet, TheBackSideWithASetupPageInTheLockSet)
+{
+    OmoteFlag = 0;
+    SetupMenu[0] = {.page = 0x73160008, .lock = 1};
+    SetupMenu_Max = 1;
+    OpenBase({"Engineering Setup", "System", "Maintenance", "Date and Time of all Units"},
+             0x73160008, base_sub);
+    Touch(750, 570); // pushed
+    EXPECT_TRUE(MatchesGolden("base_setup"));
+}
+
+TEST_F(BaseSheet, FacesOfTheLowerLeftKey)
+{
+    constexpr Rect key = {0, 527, 96, 599};
+    SetupMenu[0] = {.page = 0x73110000};
+    SetupMenu_Max = 1;
+    OpenBase({"Engineering Setup"}, 0x73110000, base_main);
+    EXPECT_TRUE(MatchesGolden("base_lock_choose", key));
+    SetupLock.lock = 1;
+    OpenBase({"Engineering Setup"}, 0x73110000, base_main);
+    EXPECT_TRUE(MatchesGolden("base_lock_held", key));
+    SetupMenu[0].lock = 1;
+    OpenBase({"Engineering Setup"}, 0x73110000, base_main);
+    EXPECT_TRUE(MatchesGolden("base_lock_closed", key));
+}
+
+TEST_F(BaseSheet, AFilePageAndPushedKeysOfTheTop)
+{
+    constexpr Rect top = {0, 0, 799, 72};
+    OpenBase({"File", "All"}, 0x71110000, base_file_main);
+    EXPECT_TRUE(MatchesGolden("base_file", top));
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000, base_main);
+    Touch(330, 30);
+    Touch(150, 30);
+    GL_ErrorPopup_On = 1;
+    BA_DrawError();
+    EXPECT_TRUE(MatchesGolden("base_pushed", top));
+}

@@ -1,0 +1,98 @@
+// a_bt_page: a page of test buttons: opened by hand, pressed by id, its page code's messages
+// written down.
+#pragma once
+#include "a_ba.h"
+#include "a_bt.h"
+#include "command.h"
+#include "global.h"
+#include "harness.h"
+#include "message.h"
+#include "page.h"
+#include "text.h"
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+
+// A button on the standard grid with the common functions.
+inline BT_TBL Button(int id, int type, std::initializer_list<const char*> cmd,
+                     const NB_TBL* nb = nullptr)
+{
+    BT_TBL row{.id = id, .caption = "Test", .type = type};
+    row.x1 = 112 + 98 * ((id & 0x0F) - 1);
+    row.y1 = 184 + 88 * ((id >> 4) % 4); // more rows than the screen has share their places
+    row.x2 = row.x1 + 84;
+    row.y2 = row.y1 + 65;
+    row.select_func = bt_sel_normal;
+    row.draw_func = bt_drw_normal;
+    row.tally_func = bt_tly_normal;
+    std::copy(cmd.begin(), cmd.end(), row.cmd);
+    row.nb = nb;
+    return row;
+}
+
+struct ButtonPage : testing::Test {
+    PAGE page;
+    BA_TBL base{.id = 1, .info = {1}, .create_func = nullptr, .proc_func = WriteDown};
+    static inline std::vector<std::string> told; // "path value flag" of each LMSG_BTNSEL
+
+    static int WriteDown(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+    {
+        if (msg == LMSG_BTNSEL)
+            told.push_back(std::string(Text(ax)) + " " + Text(bx) + " " + std::to_string(cx));
+        return 0;
+    }
+
+    void SetUp() override
+    {
+        Harness_Reset();
+        SYS_FmemV6 = 1;
+        GL_NextVersion = 2;
+        GL_DebugMode = 0;
+        told.clear();
+        SetTree({"M/E-1", "Key1", "Type"}, 0x11110000);
+    }
+    void TearDown() override
+    {
+        BT_Create(nullptr, 0);
+        BA_Create(nullptr, 0);
+        Page_Reset();
+        GL_CreatePage = 0;
+        (void)TakeQueuedCommands();
+    }
+
+    void SetTree(std::initializer_list<const char*> tree, uint32_t id)
+    {
+        page = {.id = id, .obj = {{OBJ_BA, &base, 0}, {OBJ_BT, nullptr, 0}}, .knobassign = -1};
+        std::copy(tree.begin(), tree.end(), page.tree);
+        Page = &page;
+        GL_NowPage = id;
+        GL_NowTree = page.tree;
+        BA_Create(&base, 0);
+    }
+    void Open(const BT_TBL* rows)
+    {
+        BT_Create(nullptr, 0);
+        (void)TakeQueuedCommands();
+        page.obj[1].addr = rows;
+        BT_Create(rows, 0);
+    }
+    void OpenTree(std::initializer_list<const char*> tree, uint32_t id, const BT_TBL* rows)
+    {
+        SetTree(tree, id);
+        Open(rows);
+        (void)TakeQueuedCommands();
+    }
+
+    static void Press(int id)
+    {
+        const BT_MEM* b = bt_find(id);
+        ASSERT_TRUE(b) << id;
+        BT_Proc(MSG_PRESS, b->x1 + 5, b->y1 + 5, 1, 0);
+    }
+    static void Tally(const char* path, const char* value)
+    {
+        BT_Proc(MSG_TALLY, Arg(path), Arg(value), MsgArg(Hash(path)), 0);
+    }
+    static void Pass(int elapsed_ms) { BT_Proc(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    static std::vector<std::string> Told() { return std::exchange(told, {}); }
+};

@@ -1,0 +1,303 @@
+#include "a_ba.h"
+#include "a_bt_page.h"
+#include "device.h"
+#include "err.h"
+#include "graphics.h"
+#include "pane.h"
+#include "setup_index.h"
+#include "tdl.h"
+#include <filesystem>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+constexpr uint32_t NONE = 0;
+// A point in the middle of each zone.
+struct Point {
+    int x;
+    int y;
+};
+constexpr Point TITLE = {150, 30};
+constexpr Point SIDE_KEY = {330, 30}; // part of the title where there is no side key
+constexpr Point BACK = {400, 30};
+constexpr Point FWD = {470, 30};
+constexpr Point TOP_RIGHT = {650, 30};
+constexpr Point LOWER_LEFT = {40, 560};
+constexpr Point PREV = {750, 580};
+} // namespace
+
+struct BaseAreaTest : ButtonPage {
+    void SetUp() override
+    {
+        ButtonPage::SetUp();
+        GL_MenuMacro_Edit = GL_AllPageDisplayMode = GL_ErrorPopup_On = GL_ErrorExist = 0;
+        SetupLock = {};
+        SetupMenu_Max = 0;
+        std::fill(GL_KeyMax, GL_KeyMax + ME_COUNT, 4);
+    }
+    void TearDown() override
+    {
+        std::fill(GL_KeyMax, GL_KeyMax + ME_COUNT, 8);
+        GL_ErrorPopup_On = 0;
+        ButtonPage::TearDown();
+    }
+    void OpenBase(std::initializer_list<const char*> tree, uint32_t id,
+                  const BA_TBL& table = base_main)
+    {
+        SetTree(tree, id);
+        BA_Create(&table, 0);
+        (void)TakeQueuedCommands();
+    }
+    static void Touch(Point p) { BA_Proc(MSG_PRESS, p.x, p.y, 1, 0); }
+    static void Pass(int elapsed_ms) { BA_Proc(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    // The page that a touch asks for when its pushed look is over; none before that.
+    static uint32_t PageOf(Point p)
+    {
+        GL_CreatePage = NONE;
+        Touch(p);
+        Pass(149);
+        EXPECT_EQ(GL_CreatePage, NONE) << "the pushed look comes first";
+        Pass(1);
+        return std::exchange(GL_CreatePage, NONE);
+    }
+};
+
+TEST_F(BaseAreaTest, EachZoneLeadsToItsPage)
+{
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    GL_PrevPage = 0x33110000;
+    EXPECT_EQ(PageOf(TITLE), 0x11000000u);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x11000000u) << "the band is long";
+    EXPECT_EQ(PageOf(PREV), 0x33110000u);
+    EXPECT_EQ(PageOf(TOP_RIGHT), 0x61110000u);
+    EXPECT_EQ(PageOf({400, 300}), NONE);
+
+    GL_ErrorPopup_On = 1;
+    EXPECT_EQ(PageOf(TITLE), 0x74120000u);
+    GL_ErrorExist = 2;
+    EXPECT_EQ(PageOf(TITLE), 0x74110000u);
+}
+
+TEST_F(BaseAreaTest, HistoryStepsEndAtBothEnds)
+{
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    EXPECT_EQ(PageOf(BACK), NONE);
+    Omote_History[0] = 0x00110000;
+    Omote_History[1] = 0x11110000;
+    Omote_History[2] = 0x33110000;
+    Omote_History_NowPtr = 1;
+    Omote_History_MaxPtr = 2;
+    EXPECT_EQ(PageOf(FWD), 0x33110000u);
+    Omote_History_NowPtr = 1;
+    EXPECT_EQ(PageOf(BACK), 0x00110000u);
+}
+
+TEST_F(BaseAreaTest, ATimerDoesNotOutliveItsPage)
+{
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    Touch(TITLE);
+    Touch(LOWER_LEFT);
+    OpenBase({"File", "All"}, 0x71110000);
+    Pass(1000);
+    EXPECT_EQ(GL_CreatePage, NONE);
+    EXPECT_EQ(BA_IsDefaultButton(), 0);
+}
+
+TEST_F(BaseAreaTest, ArmedDefaultRecallStopsAllButItself)
+{
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(BA_IsDefaultButton(), 1);
+    for (Point p : {TITLE, SIDE_KEY, BACK, FWD, TOP_RIGHT, PREV})
+        EXPECT_EQ(PageOf(p), NONE) << p.x;
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(BA_IsDefaultButton(), 0);
+    EXPECT_EQ(PageOf(TITLE), 0x11000000u);
+}
+
+TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
+{
+    static const struct {
+        const char* section;
+        uint32_t page;
+        bool recall;
+    } cases[] = {
+        {"M/E-1", 0x11110000, true},
+        {"PGM/PST", 0x14210000, true},
+        {"Global Effect", 0x42110100, true},
+        {"M/E-4", 0x81750000, true},  // key priority while nothing is locked
+        {"M/E-1", 0x15510000, false}, // the sub side
+        {"M/E-1", 0x11570000, false}, // a keypad of stored wipes
+        {"Router", 0x51110000, false},
+        {"Engineering Setup", 0x73110000, false},
+    };
+    for (const auto& c : cases) {
+        OpenBase({c.section, "X"}, c.page);
+        Touch(LOWER_LEFT);
+        EXPECT_EQ(BA_IsDefaultButton(), c.recall) << c.section << std::hex << c.page;
+    }
+    OpenBase({"Key Frame", "Time Line"}, 0x61110000, base_kf_tl);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(BA_IsDefaultButton(), 0);
+    EXPECT_EQ(PageOf(TOP_RIGHT), NONE) << "the timeline is shown already";
+
+    SetupLock.lock = 1;
+    OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11750000);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(BA_IsDefaultButton(), 0) << "locked";
+}
+
+// --- Setup lock ---
+
+struct SetupLockKey : BaseAreaTest {
+    void SetUp() override
+    {
+        BaseAreaTest::SetUp();
+        std::filesystem::create_directories("/mnt/data");
+        std::filesystem::remove_all(SETUP_LOCK_FILE);
+        SetupMenu[0] = {.page = 0x73110000, .lock = 1};
+        SetupMenu[1] = {.page = 0x73120001};
+        SetupMenu_Max = 2;
+    }
+    void TearDown() override
+    {
+        std::filesystem::remove_all(SETUP_LOCK_FILE);
+        SetupLock = {};
+        SetupMenu_Max = 0;
+        BaseAreaTest::TearDown();
+    }
+};
+
+TEST_F(SetupLockKey, ATouchPutsThePageIntoTheLockSetAndTheFile)
+{
+    OpenBase({"Engineering Setup", "System", "X"}, 0x73120101); // a variant of the second row
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(SetupMenu[1].lock, 1);
+    SetupLock = {};
+    SetupIndex_LoadLock();
+    EXPECT_EQ(SetupLock.num, 2);
+    EXPECT_THAT(std::vector<uint32_t>(SetupLock.page, SetupLock.page + 2),
+                ElementsAre(0x73110000u, 0x73120001u));
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(SetupMenu[1].lock, 0);
+    EXPECT_EQ(SetupLock.num, 1);
+}
+
+TEST_F(SetupLockKey, WhileTheLockIsOnATouchChangesNothing)
+{
+    SetupLock.lock = 1;
+    OpenBase({"Engineering Setup", "System", "X"}, 0x73120001);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(SetupMenu[1].lock, 0);
+    EXPECT_FALSE(std::filesystem::exists(SETUP_LOCK_FILE));
+}
+
+TEST_F(SetupLockKey, AFileThatCannotBeWrittenLeadsToTheErrorPage)
+{
+    std::filesystem::create_directory(SETUP_LOCK_FILE); // in the way of the file
+    OpenBase({"Engineering Setup", "System", "X"}, 0x73120001);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(GL_CreatePage, 0x99000000u);
+    EXPECT_EQ(Err_GetMax(), 1);
+    Err_Clear();
+}
+
+// --- Side keys ---
+
+TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
+{
+    GL_KeyMax[1] = 8; // M/E-2
+    OpenBase({"M/E-2", "Key1", "Type"}, 0x12110000);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x16110000u);
+    EXPECT_EQ(PageOf(TITLE), 0x12000000u);
+    EXPECT_EQ(PageOf({372, 30}), NONE) << "between the key and the history";
+    OpenBase({"M/E-2", "Key5", "Type"}, 0x16110000);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x12110000u);
+    OpenBase({"M/E-3", "Key1", "Type"}, 0x13110000);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x13000000u) << "no such keys";
+}
+
+TEST_F(BaseAreaTest, MainSubStepsBetweenTheSides)
+{
+    multiprogram2_me[1] = 1;
+    OpenBase({"M/E-1", "Wipe", "Main Pattern"}, 0x11510000);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x15510000u);
+    OpenBase({"M/E-1", "Wipe", "Main Pattern"}, 0x15510000);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x11510000u);
+    multiprogram2_me[1] = 0;
+}
+
+// --- Others ---
+
+TEST_F(BaseAreaTest, TheTitleStepsTheReferenceOfMultiPictureEffects)
+{
+    OpenBase({"MPE", "Fx"}, 0x45110000);
+    SYS_MPEChannel = 0b10010010;
+    SYS_MPEReference = 0b00010000;
+    for (int i = 0; i < 3; i++)
+        Touch(TITLE);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put MPE@Fx@Channel@Reference#10000000",
+                                                  "put MPE@Fx@Channel@Reference#00000010",
+                                                  "put MPE@Fx@Channel@Reference#00010000"));
+    SYS_MPEChannel = 0;
+    Touch(TITLE);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    SYS_MPEReference = 0;
+}
+
+TEST_F(BaseAreaTest, WhileAMenuMacroIsRecordedItsKeysTakeTheirPlaces)
+{
+    GL_MenuMacro_Edit = 1;
+    GL_PrevPage = 0x33110000;
+    OpenBase({"Router"}, 0x51110000);
+    EXPECT_EQ(PageOf(PREV), NONE) << "it stores an event";
+    EXPECT_EQ(PageOf(LOWER_LEFT), 0x71440002u);
+    Touch(TOP_RIGHT);
+    EXPECT_EQ(GL_CreatePage, NONE) << "beside the key";
+    Touch({540, 30});
+    EXPECT_EQ(GL_CreatePage, 0x71440002u);
+    OpenBase({"File", "Menu Macro"}, 0x71440002);
+    EXPECT_EQ(PageOf(PREV), 0x33110000u);
+    GL_MenuMacro_Edit = 0;
+}
+
+TEST_F(BaseAreaTest, LampsShowWhoUsesStickLinkAndDisk)
+{
+    OpenBase({"File", "All"}, 0x71110000, base_file_main);
+    static const struct {
+        int usb, ftp, hdd;
+        uint32_t right, left;
+    } cases[] = {
+        {0, 0, 0, 0x282828, 0x282828},
+        {0, 1, 0, 0x00FF00, 0x282828},
+        {1, 1, 1, 0xFF0000, 0xFF0000},
+    };
+    for (const auto& c : cases) {
+        BA_SetUsbAccess(c.usb);
+        BA_SetFtpAccess(c.ftp);
+        BA_SetHDDAccess(c.hdd);
+        EXPECT_EQ(PixelAt(75, 18), c.right);
+        EXPECT_EQ(PixelAt(60, 18), c.left);
+    }
+    GL_ScreenSaver_Now = 1;
+    BA_SetUsbAccess(0);
+    BA_SetFtpAccess(0);
+    BA_SetHDDAccess(0);
+    EXPECT_EQ(PixelAt(60, 18), 0u);
+    GL_ScreenSaver_Now = 0;
+}
+
+TEST_F(BaseAreaTest, NothingIsDrawnWithoutAPage)
+{
+    BA_Create(nullptr, 0);
+    TDL_FillRectS(0, 0, 799, 599, 0x123456);
+    BA_SetUsbAccess(1);
+    BA_DrawError();
+    BA_Proc(MSG_REDRAW, 10, 0, 0, 0);
+    EXPECT_EQ(PixelAt(75, 18), 0x123456u);
+    EXPECT_EQ(PixelAt(150, 30), 0x123456u);
+    BA_SetUsbAccess(0);
+}

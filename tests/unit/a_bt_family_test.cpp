@@ -1,0 +1,314 @@
+#include "a_bt.h"
+#include "a_bt_page.h"
+#include "device.h"
+#include "page_table/nb_edge.h"
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct ButtonFamily : ButtonPage {
+    BT_TBL rows[BT_MAX + 1];
+
+    // One button with a tally function of the family; its dependencies are "~@1" to "~@7" with
+    // these conditions.
+    void OpenTally(int (*tally)(BT_MEM*, int, const char*, const char*),
+                   std::initializer_list<const char*> conditions)
+    {
+        static char cmd[BT_COMMANDS][32];
+        rows[0] = Button(17, BT_TOGGLE, {"~@0#*"});
+        rows[1] = {.id = -1};
+        rows[0].tally_func = tally;
+        int n = 1;
+        for (const char* condition : conditions) {
+            PrintText(cmd[n], "~@%d#%s", n, condition);
+            rows[0].cmd[n] = cmd[n];
+            n++;
+        }
+        Open(rows);
+        (void)TakeQueuedCommands();
+    }
+    static void Dependency(int n, const char* value)
+    {
+        char path[64];
+        PrintText(path, "M/E-1@Key1@Type@%d", n);
+        Tally(path, value);
+    }
+    void OpenSelect(int type, const char* cmd, int (*select)(BT_MEM*))
+    {
+        rows[0] = Button(17, type, {cmd});
+        rows[1] = {.id = -1};
+        rows[0].select_func = select;
+        Open(rows);
+        (void)TakeQueuedCommands();
+    }
+};
+
+// --- Tally ---
+
+TEST_F(ButtonFamily, VisibilityFollowsTheRuleOfTheFamily)
+{
+    // Each digit of a combination is the verdict of one dependency, from the first; "x" disables.
+    static const struct {
+        const char* name;
+        int (*tally)(BT_MEM*, int, const char*, const char*);
+        const char* usable;
+        const char* disabled;
+    } cases[] = {
+        {"trans", bt_tly_trans_dmewipeadj, "x-", "xx"},
+        {"graphic", bt_tly_graphic, "-x", "xx"},
+        {"any", bt_tly_normal, "-------", "------x"},
+        {"edgeadj, no second", bt_tly_edgeadj, "x--xx", "xx-x-"},
+        {"edgeadj, no third", bt_tly_edgeadj, "xxx--", "x-x-x"},
+        {"edgeadj, no first", bt_tly_edgeadj, "-xxxx", "xxxxx"},
+        {"keydrop, first", bt_tly_keydrop, "-x--", "x---"},
+        {"keydrop, pair", bt_tly_keydrop, "--x-", "-xx-"},
+        {"keydrop, fourth", bt_tly_keydrop, "----", "---x"},
+    };
+    for (const auto& c : cases) {
+        OpenTally(c.tally, {"x", "x", "x", "x", "x", "x", "x"});
+        for (const char* combination : {c.usable, c.disabled}) {
+            for (int i = 0; combination[i]; i++)
+                Dependency(i + 1, combination[i] == 'x' ? "x" : "");
+            EXPECT_EQ(BT_GetVisible(17), combination == c.disabled) << c.name << " " << combination;
+        }
+        Dependency(0, "true");
+        EXPECT_EQ(BT_GetOnOff(17), 1) << c.name << ": the own state as usual";
+    }
+}
+
+TEST_F(ButtonFamily, AShadowSourceOfFourChannelsNeedsBothConditions)
+{
+    OpenTally(bt_tly_globaleffect_shadow_source, {"x", "x", ""});
+    std::fill(SYS_CombineCh, SYS_CombineCh + 8, 0);
+    Dependency(1, "x");
+    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+    SYS_CombineCh[1] = SYS_CombineCh[2] = SYS_CombineCh[3] = 1;
+    Dependency(1, "x");
+    EXPECT_EQ(BT_GetVisible(17), BT_ENABLED);
+    Dependency(2, "x");
+    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+    Dependency(3, "y");
+    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED) << "the third has no part in it";
+    std::fill(SYS_CombineCh, SYS_CombineCh + 8, 0);
+}
+
+TEST_F(ButtonFamily, TextDependenciesOfLightsAndEdges)
+{
+    static const struct {
+        int (*tally)(BT_MEM*, int, const char*, const char*);
+        const char* first;
+        const char* second;
+        int visible;
+    } cases[] = {
+        {bt_tly_lightptnbar, "true", "null", BT_ENABLED},
+        {bt_tly_lightptnbar, "true", "1", BT_DISABLED},
+        {bt_tly_lightptnbar, "false", "null", BT_DISABLED},
+        {bt_tly_edge, "true", "Chroma", BT_DISABLED},
+        {bt_tly_edge, "true", "Linear", BT_ENABLED},
+        {bt_tly_edge, "false", "Chroma", BT_ENABLED},
+    };
+    for (const auto& c : cases) {
+        OpenTally(c.tally, {"", "", ""});
+        Dependency(1, c.first);
+        Dependency(2, c.second);
+        Dependency(3, "x");
+        EXPECT_EQ(BT_GetVisible(17), c.visible) << c.first << " " << c.second;
+    }
+}
+
+TEST_F(ButtonFamily, TheWipeDecidesOnSizeAndTransparency)
+{
+    static const struct {
+        const char* pattern;
+        bool size;
+        bool trans;
+    } cases[] = {
+        {"1200", false, false}, {"1201", true, true},   {"1208", true, true},
+        {"1209", false, false}, {"1221", true, true},   {"1224", true, true},
+        {"1225", false, false}, {"1251", true, true},   {"1901", true, true},
+        {"1999", true, true},   {"2000", false, false}, {"1031", false, true},
+        {"1396", false, true},  {"1395", false, false}, {"7201", true, true},
+        {"7000", false, false}, {"7381", false, true},  {"", false, false},
+        {"x", false, false},
+    };
+    for (const auto& c : cases) {
+        OpenTally(bt_tly_dmewipe_size, {""});
+        Dependency(1, c.pattern);
+        EXPECT_EQ(BT_GetVisible(17), c.size ? BT_ENABLED : BT_DISABLED) << c.pattern;
+        OpenTally(bt_tly_dmewipe_trans, {""});
+        Dependency(1, c.pattern);
+        EXPECT_EQ(BT_GetVisible(17), c.trans ? BT_ENABLED : BT_DISABLED) << c.pattern;
+    }
+    OpenTally(bt_tly_dmewipe_size, {""});
+    BT_SetKnob(17, nb_me_key_edge_edge_border1);
+    Dependency(1, "1201");
+    Press(17);
+    ASSERT_EQ(BT_GetKnobAssign(), 17);
+    Dependency(1, "1031");
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+}
+
+// --- Key priority ---
+
+struct KeyPriority : ButtonFamily {
+    void OpenMatrix(int (*select)(BT_MEM*), int (*tally)(BT_MEM*, int, const char*, const char*))
+    {
+        for (int i = 0; i < 16; i++) {
+            const int id = (1 + i / 4) << 4 | (1 + i % 4);
+            rows[i] = Button(id, BT_RADIO, {"~@Key Priority#*"});
+            rows[i].select_func = select;
+            rows[i].tally_func = tally;
+        }
+        rows[16] = Button(86, BT_TOGGLE, {"~@Other#*"});
+        rows[17] = {.id = -1};
+        Open(rows);
+        (void)TakeQueuedCommands();
+        BT_SetStatus(86, BT_ON);
+    }
+    static void Priority(const char* value) { Tally("M/E-1@Key1@Type@Key Priority", value); }
+};
+
+TEST_F(KeyPriority, TheTallyGivesEachKeyItsPriority)
+{
+    OpenMatrix(bt_sel_keypriority, bt_tly_keypriority);
+    Priority("1,2,3,");
+    EXPECT_EQ(BT_GetStatus(0x11), BT_NO_TALLY) << "too short";
+    Priority("2,1,4,3,5,6,7,8");
+    for (int id : {0x21, 0x12, 0x43, 0x34})
+        EXPECT_EQ(BT_GetStatus(id), BT_ON) << std::hex << id;
+    EXPECT_EQ(BT_GetStatus(0x11), BT_OFF);
+
+    OpenMatrix(bt_sel_keypriority1, bt_tly_keypriority1);
+    Priority("1,2,3,4,");
+    Priority("1,2,3,4");
+    EXPECT_EQ(BT_GetStatus(0x11), BT_NO_TALLY) << "no second half";
+    Priority("4,3,2,1,2,1,4,3");
+    EXPECT_EQ(BT_GetStatus(0x21), BT_ON);
+    EXPECT_EQ(BT_GetStatus(0x41), BT_OFF);
+}
+
+TEST_F(KeyPriority, APressMovesOneKeyAndShiftsTheOthers)
+{
+    static const struct {
+        int press;
+        const char* before;
+        const char* sent; // behind the '#'
+    } first_half[] = {
+        {0x14, "1,2,3,4,5,6,7,8", "2,3,4,1,5,6,7,8"}, // key 4 to the top
+        {0x41, "1,2,3,4,5,6,7,8", "4,1,2,3,5,6,7,8"}, // key 1 to the bottom
+        {0x32, "1,2,3,4,5,6,7,8", "1,3,2,4,5,6,7,8"},
+        {0x23, "3,1,2,4", "3,1,2,4"}, // it is there already, and the bank has four keys
+    };
+    for (const auto& c : first_half) {
+        OpenMatrix(bt_sel_keypriority, bt_tly_keypriority);
+        Priority(c.before);
+        Press(c.press);
+        EXPECT_THAT(TakeQueuedCommands(),
+                    ElementsAre(std::string("put M/E-1@Key1@Type@Key Priority#") + c.sent));
+    }
+    OpenMatrix(bt_sel_keypriority1, bt_tly_keypriority1);
+    Priority("4,3,2,1,1,2,3,4");
+    Press(0x12);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("put M/E-1@Key1@Type@Key Priority#4,3,2,1,2,1,3,4"));
+}
+
+TEST_F(KeyPriority, NothingIsSentWhileTheOrderIsUnknown)
+{
+    OpenMatrix(bt_sel_keypriority, bt_tly_keypriority);
+    Press(0x11);
+    Priority("1,1,2,3"); // rubbish: nobody has the last place
+    Press(0x11);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+// --- Select ---
+
+TEST_F(ButtonFamily, JumpsByBankAddTheBankOnly)
+{
+    static const struct {
+        const char* bank;
+        uint32_t page;
+    } cases[] = {
+        {"M/E-1", 0x11750000}, {"M/E-2", 0x12750000}, {"M/E-3", 0x13750000},
+        {"M/E-4", 0x81750000}, {"M/E-5", 0x82750000}, {"PGM/PST", 0x14750000},
+    };
+    for (const auto& c : cases) {
+        SetTree({c.bank, "Key3", "Type"}, 0x11110000);
+        OpenSelect(BT_JUMP, "#11750000", bt_sel_jmptokeypriority);
+        Press(17);
+        EXPECT_EQ(GL_CreatePage, c.page) << c.bank;
+    }
+}
+
+TEST_F(ButtonFamily, SpecialPressesSendWhatTheyMust)
+{
+    OpenSelect(BT_TOGGLE, "~@CG Border#*", bt_sel_cgborder);
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@CG Border#true",
+                                                  "read M/E-1@Key1@Type@CG Border"));
+    OpenSelect(BT_RADIO_RELEASE, "~@Split#H&V", bt_sel_roll_splitmode);
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Split#H&V"));
+
+    GL_NextVersion = 1;
+    OpenSelect(BT_TOGGLE, "~@New#*", bt_sel_normal_nextver);
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    GL_NextVersion = 2;
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(1));
+}
+
+// --- Numbered knob links ---
+
+TEST_F(ButtonFamily, TheBorderOfAKeyChoosesItsTable)
+{
+    static const struct {
+        const char* tally[4]; // of the dependencies 1 to 4
+        const NB_TBL* table;
+    } cases[] = {
+        {{"Wipe Pattern", "true", "true", "false"}, nb_me_key_edge_edge_border3},
+        {{"Key Wipe Pattern", "false", "false", "false"}, nb_me_key_edge_edge_border3},
+        {{"Linear", "false", "false", "false"}, nb_me_key_edge_edge_border1},
+        {{"Linear", "false", "true", "false"}, nb_me_key_edge_edge_border1h},
+        {{"Linear", "false", "true", "true"}, nb_me_key_edge_edge_border1},
+        {{"Linear", "true", "false", "false"}, nb_me_key_edge_edge_border2},
+        {{"Linear", "true", "true", "false"}, nb_me_key_edge_edge_border2h},
+        {{"", "", "", ""}, nb_me_key_edge_edge_border2}, // nothing has come yet
+    };
+    for (const auto& c : cases) {
+        OpenTally(bt_tly_normal, {"", "", "", ""});
+        BT_SetKnob(17, SpecialKnob(1));
+        for (int i = 0; i < 4; i++)
+            Dependency(i + 1, c.tally[i]);
+        EXPECT_EQ(special_knob_table(bt_find(17)), c.table)
+            << c.tally[0] << c.tally[1] << c.tally[2];
+    }
+    BT_SetKnob(17, SpecialKnob(255));
+    EXPECT_EQ(special_knob_table(bt_find(17)), nullptr);
+}
+
+TEST_F(ButtonFamily, TheBorderOfAChannelFollowsFormatAndAspect)
+{
+    OpenTally(bt_tly_normal, {});
+    BT_SetKnob(17, SpecialKnob(5));
+    std::vector<const NB_TBL*> tables;
+    for (SYS_SignalFormat = 0; SYS_SignalFormat < 2; SYS_SignalFormat++)
+        for (SYS_ScreenAspect = 0; SYS_ScreenAspect < 2; SYS_ScreenAspect++)
+            tables.push_back(special_knob_table(bt_find(17)));
+    EXPECT_THAT(tables,
+                ElementsAre(nb_dme_edge_bordercrop_border1, nb_dme_edge_bordercrop_border2,
+                            nb_dme_edge_bordercrop_border3, nb_dme_edge_bordercrop_border4));
+    SYS_SignalFormat = SYS_ScreenAspect = 1;
+}
+
+TEST(SpecialKnobs, NumbersAreToldFromTables)
+{
+    EXPECT_EQ(SpecialKnobNumber(SpecialKnob(1)), 1);
+    EXPECT_EQ(SpecialKnobNumber(SpecialKnob(255)), 255);
+    EXPECT_EQ(SpecialKnobNumber(NoKnobs()), 0);
+    EXPECT_EQ(SpecialKnobNumber(nullptr), 0);
+    EXPECT_EQ(SpecialKnobNumber(nb_me_key_edge_edge_border1), 0);
+}

@@ -1,0 +1,346 @@
+#include "a_ba.h"
+#include "a_bt.h"
+#include "a_bt_page.h"
+#include "command.h"
+#include "global.h"
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
+
+// One button of each kind that the tests press, on the standard grid.
+static const BT_TBL table[] = {
+    Button(17, BT_RADIO, {"~@Key Type#Luminance"}, boxes),
+    Button(18, BT_RADIO, {"~@Key Type#Linear"}, boxes),
+    Button(19, BT_RADIO_RELEASE, {"~@Force#Black"}),
+    Button(20, BT_TOGGLE, {"~2@Invert#*", "~@Key Type#!Chroma"}),
+    Button(21, BT_ACTION, {"~@Auto#*"}),
+    Button(22, BT_ACTION_STATE, {"~@Run#*"}),
+    Button(33, BT_JUMP, {"#00220000"}),
+    Button(34, BT_JUMP_POPUP, {"#+11110001"}),
+    Button(35, BT_TOGGLE, {"LOCAL@Test@Mode#1"}, NoKnobs()),
+    Button(36, BT_ACTION, {"LOCAL@Test@Go#2"}),
+    Button(37, BT_KNOB_ONLY, {""}, boxes),
+    Button(38, BT_PULLDOWN, {"~@List#*"}),
+    Button(49, BT_TAB, {"~@Tab#*"}),
+    {.id = -1},
+};
+
+struct Buttons : ButtonPage {
+    void SetUp() override
+    {
+        ButtonPage::SetUp();
+        Open(table);
+        (void)TakeQueuedCommands();
+    }
+};
+
+// --- Subscriptions ---
+
+TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgain)
+{
+    static const BT_TBL rows[] = {
+        Button(17, BT_RADIO, {"~@Key Type#Luminance"}),
+        Button(18, BT_RADIO, {"~@Key Type#Linear", "~2@Invert#true", "LOCAL@Test@Mode#1"}),
+        Button(19, BT_JUMP, {"#00220000", "~@Key Type#Chroma"}),
+        Button(20, BT_TAB, {"~@Tab#*"}),
+        {.id = -1},
+    };
+    Open(rows);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("add M/E-1@Key1@Type@Key Type", "add M/E-1@Key1@Invert"));
+    EXPECT_EQ(BT_Create(nullptr, 0), 1);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("remove M/E-1@Key1@Type@Key Type", "remove M/E-1@Key1@Invert"));
+    BT_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(ButtonPage, CommandsFromNoAddOnAreReadAndNeverRemoved)
+{
+    BT_TBL rows[] = {Button(17, BT_TOGGLE, {"~@A#*", "~@B#1", "~@C#1"}), {.id = -1}};
+    rows[0].no_add = 2;
+    Open(rows);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@A", "read M/E-1@Key1@Type@B",
+                                                  "read M/E-1@Key1@Type@C"));
+    BT_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
+}
+
+TEST_F(ButtonPage, WithoutTheNewerFrameMemoryAResizerIsNotSubscribed)
+{
+    static const BT_TBL rows[] = {
+        Button(17, BT_TOGGLE, {"~2@Processed Key@Resizer#*", "~@Rszr Mode#1", "~@Other#1"}),
+        {.id = -1},
+    };
+    SYS_FmemV6 = 0;
+    Open(rows);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@Other"));
+    SYS_FmemV6 = 1;
+    Open(rows);
+    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("add M/E-1@Key1@Processed Key@Resizer"));
+}
+
+TEST_F(ButtonPage, RowsThatDoNotFitAreLeftOut)
+{
+    BT_TBL rows[BT_MAX + 2];
+    for (int i = 0; i < BT_MAX + 1; i++)
+        rows[i] = Button(17 + i, BT_TOGGLE, {"~@A#*"});
+    rows[BT_MAX + 1].id = -1;
+    Open(rows);
+    EXPECT_EQ(BT_GetStatus(17 + BT_MAX - 1), BT_NO_TALLY);
+    EXPECT_EQ(BT_GetStatus(17 + BT_MAX), -1);
+}
+
+TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
+{
+    const std::string path(2 * CMD_SIZE, 'p');
+    const BT_TBL rows[] = {Button(17, BT_RADIO, {path.c_str(), "~@A#x"}), {.id = -1}};
+    Open(rows);
+    const std::string cut = path.substr(0, CMD_SIZE - 1);
+    EXPECT_EQ(bt_find(17)->cmd[0], cut);
+    Press(17);
+    Tally("M/E-1@Key1@Type@A", path.c_str());
+    EXPECT_EQ(bt_find(17)->tally[1], cut);
+    BT_UndecidedRequest(path.c_str(), 1);
+}
+
+// --- Presses ---
+
+TEST_F(Buttons, APressSendsWhatItsTypeSays)
+{
+    static const struct {
+        int id;
+        int status;
+        const char* sent;
+    } cases[] = {
+        {20, BT_NO_TALLY, "put M/E-1@Key1@Invert#true"},
+        {20, BT_OFF, "put M/E-1@Key1@Invert#true"},
+        {20, BT_ON, "put M/E-1@Key1@Invert#false"},
+        {19, BT_OFF, "put M/E-1@Key1@Type@Force#Black"},
+        {19, BT_ON, "put M/E-1@Key1@Type@Force#null"},
+        {21, BT_NO_TALLY, "put M/E-1@Key1@Type@Auto#true"},
+        {22, BT_ON, "put M/E-1@Key1@Type@Run#false"},
+        {18, BT_OFF, "put M/E-1@Key1@Type@Key Type#Linear"},
+    };
+    for (const auto& c : cases) {
+        BT_SetStatus(c.id, c.status);
+        Press(c.id);
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.sent)) << c.id;
+        EXPECT_EQ(BT_GetStatus(c.id), c.status) << "a press changes no state";
+    }
+    for (int id : {33, 35, 37, 38, 49}) {
+        Press(id);
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << id;
+    }
+}
+
+TEST_F(Buttons, AJumpIsRequestedAsItStandsOrForTheShownKey)
+{
+    OpenTree({"M/E-2", "Key3", "Type"}, 0x12310000, table);
+    Press(33);
+    EXPECT_EQ(GL_CreatePage, 0x00220000u);
+    Press(34);
+    EXPECT_EQ(GL_CreatePage, 0x12310001u);
+}
+
+TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
+{
+    BT_SetDisable(20, 1);
+    BT_SetCutoff(21, 1);
+    Press(20);
+    Press(21);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    BT_SetDisable(20, 0);
+    BA_SetDefaultButton(1);
+    Press(20);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    BA_SetDefaultButton(0);
+    Press(20);
+    EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(1));
+}
+
+TEST_F(ButtonPage, OverlappingButtonsBothActAndEdgesBelongToThem)
+{
+    BT_TBL rows[] = {
+        Button(17, BT_ACTION, {"~@A#*"}), Button(18, BT_ACTION, {"~@B#*"}), {.id = -1}};
+    rows[1].x1 = rows[0].x2; // one column in common
+    Open(rows);
+    (void)TakeQueuedCommands();
+    BT_Proc(MSG_PRESS, rows[0].x2, rows[0].y2, 1, 0);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("put M/E-1@Key1@Type@A#true", "put M/E-1@Key1@Type@B#true"));
+    BT_Proc(MSG_PRESS, rows[0].x2, rows[0].y2 + 1, 1, 0);
+    BT_Proc(MSG_PRESS, rows[0].x1 - 1, rows[0].y1, 1, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(Buttons, ThePushedLookLastsItsTimeAndNoLonger)
+{
+    Press(20);
+    Pass(149);
+    EXPECT_GT(bt_find(20)->pushed, 0);
+    Pass(1);
+    EXPECT_EQ(bt_find(20)->pushed, 0);
+    EXPECT_EQ(bt_find(20)->redraw, 1) << "it comes back up";
+    Pass(10);
+    EXPECT_EQ(bt_find(20)->redraw, 0);
+
+    GL_NowPage = 0x31160000; // the copies of this page run for a second
+    Press(21);
+    Press(20);
+    EXPECT_EQ(bt_find(21)->pushed, 1000);
+    EXPECT_EQ(bt_find(20)->pushed, 150);
+}
+
+TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
+{
+    Press(36);
+    Press(36);
+    Pass(100);
+    Press(36);
+    EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Go 2 0"));
+    Pass(60);
+    Press(36);
+    EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Go 2 0"));
+    // One that goes to the server is not held back.
+    Press(21);
+    Press(21);
+    EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(2));
+}
+
+// --- Tallies ---
+
+TEST_F(Buttons, ATallyAndNotThePressSetsTheState)
+{
+    Tally("M/E-1@Key1@Type@Key Type", "Linear");
+    EXPECT_EQ(BT_GetStatus(17), BT_OFF);
+    EXPECT_EQ(BT_GetStatus(18), BT_ON);
+    Tally("M/E-1@Key1@Invert", "true");
+    Tally("M/E-1@Key1@Type@Run", "true");
+    Tally("M/E-1@Key1@Type@List", "false");
+    EXPECT_EQ(BT_GetOnOff(20), 1);
+    EXPECT_EQ(BT_GetOnOff(22), 1);
+    EXPECT_EQ(BT_GetStatus(38), BT_OFF);
+    Tally("M/E-1@Key1@Type@Auto", "true");
+    EXPECT_EQ(BT_GetStatus(21), BT_NO_TALLY) << "an action has no state";
+}
+
+TEST_F(Buttons, APathWithTheSameSumIsNotTaken)
+{
+    BT_Proc(MSG_TALLY, Arg("M/E-1@Key1@Invetr"), Arg("true"), MsgArg(Hash("M/E-1@Key1@Invert")), 0);
+    EXPECT_EQ(BT_GetStatus(20), BT_NO_TALLY);
+    BT_Proc(MSG_TALLY, Arg(""), Arg("true"), 0, 0);
+    EXPECT_STREQ(bt_find(33)->tally[0], "") << "a jump has no path";
+}
+
+TEST_F(Buttons, ADependencyDisablesAndEnables)
+{
+    Tally("M/E-1@Key1@Type@Key Type", "Linear");
+    EXPECT_EQ(BT_GetVisible(20), BT_DISABLED);
+    Tally("M/E-1@Key1@Type@Key Type", "Chroma");
+    EXPECT_EQ(BT_GetVisible(20), BT_ENABLED);
+    BT_SetCutoff(20, 1);
+    Tally("M/E-1@Key1@Type@Key Type", "Linear");
+    EXPECT_EQ(BT_GetVisible(20), BT_CUTOFF) << "a tally does not bring it back";
+}
+
+// --- Knobs ---
+
+TEST_F(Buttons, TheFirstTouchOfAButtonThatIsOnOnlyFetchesItsKnobs)
+{
+    Tally("M/E-1@Key1@Type@Key Type", "Luminance");
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_EQ(BT_GetKnobAssign(), 17);
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Key Type#Luminance"));
+
+    BT_SetStatus(35, BT_ON);
+    Press(35);
+    Press(35);
+    EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Mode 1 1", "LOCAL@Test@Mode 1 0"));
+    EXPECT_EQ(BT_GetKnobAssign(), 35);
+}
+
+TEST_F(Buttons, TheKnobsGoWithTheStateOfTheirOwner)
+{
+    Press(18);
+    EXPECT_EQ(BT_GetKnobAssign(), 18);
+    Tally("M/E-1@Key1@Type@Key Type", "Luminance");
+    EXPECT_EQ(BT_GetKnobAssign(), -1) << "the server chose another";
+    Tally("M/E-1@Key1@Type@Key Type", "Linear");
+    EXPECT_EQ(BT_GetKnobAssign(), 18) << "the one that was pressed last gets them back";
+
+    Press(35);
+    Tally("LOCAL@Test@Mode", "false");
+    EXPECT_EQ(BT_GetKnobAssign(), 35) << "without a table they stay";
+    BT_SetDisable(35, 1);
+    EXPECT_EQ(BT_GetKnobAssign(), 35);
+    BT_SetAllDisable(1);
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+}
+
+TEST_F(Buttons, AButtonThatCannotBeUsedLetsGoOfTheKnobs)
+{
+    for (auto disable : {BT_SetDisable, BT_SetCutoff, BT_SetCutoffEx}) {
+        Press(17);
+        ASSERT_EQ(BT_GetKnobAssign(), 17);
+        disable(17, 1);
+        EXPECT_EQ(BT_GetKnobAssign(), -1);
+        disable(17, 0);
+    }
+}
+
+TEST_F(Buttons, APageRemembersWhoHadTheKnobs)
+{
+    Press(37);
+    BT_Create(nullptr, 0);
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    BT_Create(table, 0);
+    EXPECT_EQ(BT_GetKnobAssign(), 37);
+}
+
+// --- Operations ---
+
+TEST_F(Buttons, ACommandCanBeReplaced)
+{
+    BT_SetStatus(20, BT_ON);
+    EXPECT_EQ(BT_SetCommand(20, 0, "~@Other#*"), 0);
+    EXPECT_EQ(BT_GetStatus(20), BT_NO_TALLY);
+    EXPECT_EQ(BT_SetCommand(35, 0, "LOCAL@Test@Other#5"), 0);
+    EXPECT_EQ(BT_SetCommand_NoRemove(22, 0, "~@Run 2#*"), 0);
+    EXPECT_EQ(BT_SetCommand_NoAdd(21, 0, "~@Auto 2#*"), 0);
+    EXPECT_EQ(BT_SetCommand(99, 0, "~@X#*"), -1);
+    EXPECT_EQ(BT_SetCommand(20, BT_COMMANDS, "~@X#*"), -1);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("remove M/E-1@Key1@Invert", "add M/E-1@Key1@Type@Other",
+                            "add M/E-1@Key1@Type@Run 2", "read M/E-1@Key1@Type@Auto 2"));
+    Tally("M/E-1@Key1@Type@Other", "true");
+    EXPECT_EQ(BT_GetOnOff(20), 1);
+    Press(35);
+    EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Other 5 0"));
+}
+
+TEST_F(Buttons, AnUndecidedChoiceIsShownOnTheChosenRadioOnly)
+{
+    EXPECT_EQ(BT_UndecidedRequest(nullptr, 1), -1);
+    BT_UndecidedRequest("M/E-1@Key1@Type@Key Type#Linear", 1);
+    EXPECT_EQ(bt_find(17)->undecided, 0);
+    EXPECT_EQ(bt_find(18)->undecided, 1);
+    EXPECT_EQ(BT_GetOnOff(18), 1);
+    BT_UndecidedRequest("M/E-1@Key1@Type@Key Type#Luminance", 1);
+    EXPECT_EQ(bt_find(17)->undecided, 1);
+    EXPECT_EQ(bt_find(18)->undecided, 0);
+    BT_UndecidedRequest("M/E-1@Key1@Type@Key Type#Luminance", 0);
+    EXPECT_EQ(bt_find(17)->undecided, 0);
+}
+
+TEST_F(Buttons, AMovedButtonIsPressedAtItsNewPlace)
+{
+    BT_SetPosition(20, 600, 100, 650, 130);
+    BT_Proc(MSG_PRESS, 650, 100, 1, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Invert#true"));
+}
