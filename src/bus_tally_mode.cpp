@@ -189,7 +189,7 @@ TallyRoute tally_key_transition(const Tally& t)
     const int bank = bank_by_name(t.rest);
     if (bank < 0)
         return TallyRoute::Pass;
-    const int on = SwitchOrNumber(t.value) != 0;
+    const int on = Same(t.value, "Independent") || SwitchOrNumber(t.value) != 0;
     if (*banks[bank].key_transition == on)
         return TallyRoute::Pass;
     *banks[bank].key_transition = on;

@@ -1,0 +1,45 @@
+// The bus: what one tally costs that nobody wants, and a whole pass of them from the wire.
+#include "bus.h"
+#include "command.h"
+#include "global.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include <benchmark/benchmark.h>
+
+// Limit: 2 us for the first; the second is 129 of them with reading and cutting.
+static const char* const unwanted[] = {
+    "M/E-1@Key1@Type@Key Type",
+    "Engineering Setup@Switcher@Input@FC Adjust@Conversion@16",
+    "Info@Board Config@Board Status@SWR1@3",
+    "Global Effect@Ch1-Ch2@Trail@Density",
+};
+
+static void BusTallyNobodyWants(benchmark::State& state)
+{
+    const char* path = unwanted[state.range(0)];
+    const uint32_t hash = Hash(path);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(SendMessage(MSG_TALLY, Arg(path), Arg("1"), hash, 0));
+    state.SetLabel(path);
+}
+BENCHMARK(BusTallyNobodyWants)->DenseRange(0, 3);
+
+constexpr int LINES_A_PASS = 129;
+constexpr int LINES_A_FILL = 8; // the receive buffer holds that many whole
+
+static void BusPassOfTallies(benchmark::State& state)
+{
+    static const char line[] = "M/E-1@Key1@Type@Key Type#Luminance\n";
+    for (auto _ : state) {
+        for (int i = 0; i < LINES_A_PASS; i++) {
+            (void)Net_FeedText(line, int(sizeof line - 1)); // there is room
+            if (i % LINES_A_FILL == LINES_A_FILL - 1 || i == LINES_A_PASS - 1)
+                ReceiveCommand_Management();
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * LINES_A_PASS);
+}
+BENCHMARK(BusPassOfTallies)->Unit(benchmark::kMicrosecond);
+
+BENCHMARK_MAIN();

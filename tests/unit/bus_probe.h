@@ -1,0 +1,72 @@
+// bus_probe: a page whose only object is code that notes what reaches it.
+#pragma once
+#include "a_pc.h"
+#include "bus.h"
+#include "command.h"
+#include "device.h"
+#include "global.h"
+#include "harness.h"
+#include "message.h"
+#include "page.h"
+#include <functional>
+
+namespace probe
+{
+struct Seen {
+    int msg;
+    MsgArg ax, bx, cx, dx;
+};
+inline std::vector<Seen> seen;
+inline std::function<int(const Seen&)> answer; // what the code does with a message; empty: passes
+
+inline int Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    seen.push_back({msg, ax, bx, cx, dx});
+    return answer ? answer(seen.back()) : 0;
+}
+inline constexpr PC_TBL code = {.proc_func = Proc};
+inline PAGE page;
+
+inline int Count(int msg)
+{
+    int n = 0;
+    for (const Seen& s : seen)
+        n += s.msg == msg;
+    return n;
+}
+} // namespace probe
+
+// As the server's line; the texts are gone when it returns.
+inline int Deliver(const std::string& path, const std::string& value)
+{
+    std::string p = path;
+    std::string v = value;
+    const int result = SendMessage(MSG_TALLY, Arg(p.c_str()), Arg(v.c_str()), Hash(p.c_str()), 0);
+    EXPECT_EQ(p, path);
+    EXPECT_EQ(v, value) << "a handler has cut the value of " << path;
+    return result;
+}
+
+struct BusTest : testing::Test {
+    void SetUp() override
+    {
+        Page_Reset();
+        Device_Init();
+        DeviceStructure();
+        probe::page = {.id = PAGE_TOP, .tree = {"Probe"}, .obj = {{OBJ_PC, &probe::code, 0}}};
+        PC_Create(&probe::code, 0);
+        Page = &probe::page;
+        GL_NowPage = PAGE_TOP;
+        GL_CreatePage = 0;
+        probe::seen.clear();
+        (void)TakeQueuedCommands();
+    }
+    void TearDown() override
+    {
+        PC_Create(nullptr, 0);
+        Page_Reset();
+        probe::answer = nullptr;
+        GL_CreatePage = 0;
+        (void)TakeQueuedCommands();
+    }
+};

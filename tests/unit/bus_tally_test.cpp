@@ -1,0 +1,644 @@
+#include "a_ba.h"
+#include "bus_probe.h"
+#include <algorithm>
+#include <cstring>
+#include <gmock/gmock.h>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using Strings = std::vector<std::string>;
+
+#define FORMAT "Engineering Setup@System@Format@"
+#define SYSTEM_CONFIG "Engineering Setup@System@System Config@"
+#define PANEL "Engineering Setup@Panel@"
+#define SWITCHER "Engineering Setup@Switcher@"
+#define OPERATION_MODE SYSTEM_CONFIG "System Operation Mode@"
+
+static const char* const network_list = "Engineering Setup@System@Network Config@List";
+
+struct BusTally : BusTest {
+    static void ResetModes()
+    {
+        SYS_DualProc = SYS_Simul = SYS_DualSimul = SYS_4KMode = 0;
+        for (int i = 0; i < 8; i++)
+            SYS_Combine[i] = SYS_CombineCh[i] = 0;
+        for (int i = 0; i < ME_COUNT; i++)
+            SYS_MEOperation[i] = 0;
+    }
+    void SetUp() override
+    {
+        BusTest::SetUp();
+        Global_InitBusNames();
+        ResetModes();
+    }
+    void TearDown() override
+    {
+        Global_FreeBusNames();
+        ResetModes(); // no mode outlives its test
+        Device_Init();
+        BusTest::TearDown();
+    }
+};
+
+// --- Single values ---
+
+TEST_F(BusTally, AValueLandsInItsPlace)
+{
+    static const struct {
+        const char* path;
+        const char* value;
+        const int* state;
+        int expected;
+    } cases[] = {
+        {"Info@DME@SelCH", "0F", &SYS_DMEChannel, 15},
+        {"Info@DME@SelCH", "ffffffffffff", &SYS_DMEChannel, INT_MAX},
+        {"Info@DME@SelCH", "-1", &SYS_DMEChannel, 0},
+        {"MPE@Fx@Channel@Reference", "2", &SYS_MPEReference, 2},
+        {"MPE@Fx@Channel@Selected", "3", &SYS_MPEChannel, 3},
+        {FORMAT "Reference@SWR1", "BB", &DEV_Swr[0].refinputformat, 1},
+        {FORMAT "Reference@SWR1", "Tri Sync", &DEV_Swr[0].refinputformat, 0},
+        {FORMAT "Switcher Aspect", "SWR1,16:9,4:3,16:9", &DEV_Swr[0].aspect[0], 1},
+        {FORMAT "Switcher Aspect", "SWR1,16:9,4:3,16:9", &DEV_Swr[0].aspect[1], 0},
+        {FORMAT "Switcher Aspect", "SWR1,4:3x", &DEV_Swr[0].aspect[0], 'x'},
+        {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[2], 1},      // no part, no change
+        {FORMAT "Switcher Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[1], 0}, // not a switcher
+        {FORMAT "DME Aspect", "DME1,4:3,16:9,4:3,16:9", &DEV_Dme[0].aspect[3], 1},
+        {FORMAT "Video Format2@SWR1", "4,6,2", &DEV_Swr[0].format_size, 4},
+        {FORMAT "Video Format2@SWR1", "3,6,2", &SYS_Format_Size, 3},
+        {FORMAT "Video Format2@SWR1", "3,6", &SYS_Format_Scan, 2},
+        {FORMAT "Video Format2@SWR1", "-1,6,2", &SYS_Format_Size, 3},
+        {FORMAT "3D Mode@SWR1", "On", &SYS_3DMode, 1},
+        {FORMAT "3D Mode@SWR2", "Off", &SYS_3DMode, 1}, // not this panel's switcher
+        {FORMAT "3D Mode@SWR1", "Off", &SYS_3DMode, 0},
+        {SWITCHER "Key/Wipe@FM Auto Store", "true", &SYS_AutoStore, 1},
+        {SWITCHER "Key/Wipe@FM Auto Store", "false", &SYS_AutoStore, 0},
+        {"Frame Mem@Status@Store Number Sense", "123", &SYS_StoreFree, 123},
+        {"Frame Mem@Status@Store Number2 Sense", "99999999999", &SYS_StoreFree2, INT_MAX},
+        {SWITCHER "Transition@Key Transition@M/E-2", "true", &SYS_KeyTransitionME2, 1},
+        {SWITCHER "Transition@Key Transition@M/E-2", "Common", &SYS_KeyTransitionME2, 0},
+        {SWITCHER "Transition@Key Transition@P/P", "Independent", &SYS_KeyTransitionPP, 1},
+        {SWITCHER "Config@DME Wipe Sub Enable", "true", &SYS_DWSubEnable, 1},
+        {SWITCHER "Config@MP2 Re-Entry", "true", &SYS_MP2ReEntry, 1},
+        {SWITCHER "Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl", "true", &SYS_CCRReEntry, 1},
+        {SWITCHER "SDI I/F@DME2", "Dedicated", &GL_DmeSdiIF[1], 1},
+        {SWITCHER "SDI I/F@DME2", "Dedicated", &GL_DmeSdiIFDP[1], 1},
+        {SWITCHER "SDI I/F@DME2", "Shared", &GL_DmeSdiIF[1], 0},
+        {"Engineering Setup@DME@Model@DME4", "8", &GL_DmeModel[3], 8},
+        {"Engineering Setup@DME@Model@DME4", "8", &GL_DmeModelDP[3], 8},
+        {"Engineering Setup@DME@Model@DME1", "2", &DEV_Dme[0].type, DEVTYPE_HLDB7},
+        {"Engineering Setup@DME@Model@DME1", "9", &GL_DmeModel[0], 2},
+        {"Info@Board Config@Unit Model@SWR1", "2", &SYS_RefSwrType, DEVTYPE_KTR40SF},
+        {"Info@System Setup Data@File Auto Convert", "1", &GL_DataGokan, 1},
+        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "4", &SYS_FmemAncillary, 1},
+        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &SYS_FmemAncillary, 0},
+        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &GL_DmeIFType, 1},
+        {"Info@System Setup Data@FM Data Port Disable@SWR2", "129,3", &GL_FMDataPortDisable[1],
+         1 | 3 << 7},
+        {"Info@System Setup Data@FM Data Port Disable@SWR3", "1,1", &GL_FMDataPortDisable[1],
+         1 | 3 << 7},
+        {"Info@System Setup Data@FM Data Port Disable@SWR2", "0,-1", &GL_FMDataPortDisable[1], 0},
+        {"Engineering Setup@System@Install@Unit Config@M/E Split", "1,2,4", &GL_BoardMESplit[2], 4},
+        {PANEL "Config@M/E Operation@M/E-5", "Inhibit", &SYS_MEOperation[4], 2},
+        {PANEL "Config@M/E Operation@P/P", "Disable", &SYS_MEOperation[5], 1},
+        {PANEL "Config@M/E Operation@P/P", "Enable", &SYS_MEOperation[5], 0},
+        {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignV[253], 7},
+        {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignK[253], -1},
+    };
+    for (const auto& c : cases) {
+        Deliver(c.path, c.value);
+        EXPECT_EQ(*c.state, c.expected) << c.path << "#" << c.value;
+    }
+}
+
+TEST_F(BusTally, ThePageSeesTheNewStateWhenItGetsTheTally)
+{
+    int seen_by_page = -1;
+    probe::answer = [&](const probe::Seen&) {
+        seen_by_page = SYS_AutoStore;
+        return 0;
+    };
+    SYS_AutoStore = 0;
+    EXPECT_EQ(Deliver(SWITCHER "Key/Wipe@FM Auto Store", "true"), 0);
+    EXPECT_EQ(seen_by_page, 1);
+}
+
+TEST_F(BusTally, EffectsChannelsEndHereAndTellAChangeOnce)
+{
+    Deliver("Info@DME@RefCH", "1");
+    probe::seen.clear();
+    EXPECT_EQ(Deliver("Info@DME@RefCH", "10"), 1);
+    EXPECT_EQ(SYS_DMEReference, 16);
+    EXPECT_EQ(Deliver("Info@DME@RefCH", "10"), 1);
+    EXPECT_EQ(Deliver("Info@DME@SelCH", "1"), 1);
+    EXPECT_EQ(probe::Count(LMSG_DMEREFCHANGE), 1);
+    EXPECT_EQ(probe::Count(MSG_TALLY), 0);
+}
+
+// --- Units ---
+
+TEST_F(BusTally, AVideoFormatSetsTheUnitsRateAndLines)
+{
+    static const struct {
+        const char* unit;
+        const char* value;
+        double framerate;
+        int activeline, frame_rate;
+    } cases[] = {
+        {"PNL1", "30/60,1080i", 30.0, 4, 30},
+        {"PNL1", "29.97/59.94,480i", 29.97, 1, 30},
+        {"PNL1", "25/50, 576i", 25.0, 2, 25},
+        {"PNL1", "24,1080PsF", 24.0, 5, 24},
+        {"PNL1", "23.976,1080p", 23.976, 6, 24},
+        {"PNL1", "---,720p", 30.0, 3, 60},
+        {"PNL1", "25/50,3840x2160p", 25.0, 3, 30}, // unknown size
+        {"PNL1", "25/50", 25.0, 3, 30},            // too short
+    };
+    for (const auto& c : cases) {
+        Deliver(std::string(FORMAT "Video Format@") + c.unit, c.value);
+        EXPECT_EQ(DEV_Pnl[0].framerate, c.framerate) << c.value;
+        EXPECT_EQ(DEV_Pnl[0].activeline, c.activeline) << c.value;
+        EXPECT_EQ(SYS_FrameRate, c.frame_rate) << c.value;
+    }
+    EXPECT_EQ(SYS_RefPnlActiveLine, 3);
+    // Only a panel sets the rate of the time codes, and only a unit that is there is set at all.
+    Deliver(FORMAT "Video Format@SWR1", "25/50,1080i");
+    Deliver(FORMAT "Video Format@PNL4", "25/50,1080i");
+    EXPECT_EQ(SYS_FrameRate, 30);
+    EXPECT_EQ(SYS_RefSwrActiveLine, 4);
+    // Another frequency: effects units keep what they had.
+    Deliver(FORMAT "Video Format@DME1", "24,1080i");
+    Deliver(FORMAT "Video Format@DME1", "---,1080i");
+    EXPECT_EQ(DEV_Dme[0].framerate, 24.0);
+    Deliver(FORMAT "Video Format@SWR1", "---,1080i");
+    EXPECT_EQ(DEV_Swr[0].framerate, 30.0);
+}
+
+TEST_F(BusTally, TheListOfUnitsIsClearedFilledAndUpdated)
+{
+    Deliver(network_list, "KILL");
+    EXPECT_EQ(SYS_PnlMax + SYS_SwrMax + SYS_DmeMax + SYS_MpeMax, 0);
+    Deliver(network_list, "SWR001D001,SWR1,10.1.2.1,10.129.2.1,10.2.2.1");
+    Deliver(network_list, "SWR002D001,SWR2,10.1.2.2,10.129.2.2,10.2.2.2");
+    Deliver(network_list, "SWR001D001,SWR7,1,2,3,4"); // the last part keeps its comma
+    ASSERT_EQ(SYS_SwrMax, 2);
+    EXPECT_STREQ(DEV_Swr[0].name, "SWR7");
+    EXPECT_STREQ(DEV_Swr[0].ctrlip, "1");
+    EXPECT_STREQ(DEV_Swr[0].dataip, "2");
+    EXPECT_STREQ(DEV_Swr[0].periip, "3,4");
+    EXPECT_STREQ(DEV_Swr[1].id, "SWR002D001");
+
+    const std::string longest(100, 'x');
+    const std::string unit = "MPE" + longest + "," + longest + "," + longest + ",d,p";
+    Deliver(network_list, unit);
+    Deliver(network_list, unit); // finds its row again although the id was cut
+    ASSERT_EQ(SYS_MpeMax, 1);
+    EXPECT_EQ(strlen(DEV_Mpe[0].id), 15u);
+    EXPECT_EQ(strlen(DEV_Mpe[0].name), 15u);
+    EXPECT_EQ(strlen(DEV_Mpe[0].ctrlip), 23u);
+
+    for (int i = 1; i <= 9; i++)
+        Deliver(network_list, "DME00" + std::to_string(i) + "D001,DME,c,d,p");
+    EXPECT_EQ(SYS_DmeMax, DEVICE_MAX);
+    EXPECT_STREQ(DEV_Dme[7].id, "DME008D001");
+    for (const char* rubbish :
+         {"", "SWR", "SWR003D001,SWR3,c,d", "RTR001,R,c,d,p", ",,,,", "SW,a,b,c,d"})
+        Deliver(network_list, rubbish);
+    EXPECT_EQ(SYS_SwrMax, 2);
+    EXPECT_EQ(SYS_PnlMax, 0);
+}
+
+TEST_F(BusTally, AUnitThatComesBackToItsRowKeepsItsModel)
+{
+    DEV_Swr[0].type = DEVTYPE_KTR40;
+    Deliver(network_list, "KILL");
+    Deliver(network_list, "SWR001D001,SWR1,c,d,p");
+    EXPECT_EQ(DEV_Swr[0].type, DEVTYPE_KTR40);
+    Deliver(network_list, "KILL");
+    Deliver(network_list, "SWR009D001,SWR9,c,d,p");
+    EXPECT_EQ(DEV_Swr[0].type, DEVTYPE_UNKNOWN);
+}
+
+TEST_F(BusTally, TheOwnAddressEndsInThePanelNumber)
+{
+    static const std::string mode = SYSTEM_CONFIG "System Operation Mode@";
+    Deliver("Info@IP Address@Menu CPU", "10.129.1.2");
+    EXPECT_EQ(SYS_MyPnl, 2);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("remove " + mode + "PNL1", "add " + mode + "PNL2"));
+    for (const char* rubbish : {"", "10.129.1.x", "2 "})
+        Deliver("Info@IP Address@Menu CPU", rubbish);
+    EXPECT_EQ(SYS_MyPnl, 2);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)
+{
+    static const struct {
+        const char* value;
+        int first, second, renewed;
+    } cases[] = {
+        {"1,1,0,0,0,0", 1, 0, 0},     // as before
+        {"2,7,8,0,0,0", 1, 0, 0},     // another panel
+        {"1,258,513,0,0,0", 2, 1, 1}, // 8 bits each
+        {"1,2", 2, 1, 0},
+        {"-1,9,9,9,9,9", 2, 1, 0},
+        {"256,9,9,9,9,9", 2, 1, 0},
+    };
+    for (const auto& c : cases) {
+        GL_InitReadSHP = 0;
+        Deliver(SYSTEM_CONFIG "Panel Assign", c.value);
+        EXPECT_EQ(SYS_PnlAssign[1][0], c.first) << c.value;
+        EXPECT_EQ(SYS_PnlAssign[1][1], c.second) << c.value;
+        EXPECT_EQ(GL_InitReadSHP, c.renewed) << c.value;
+    }
+    EXPECT_EQ(SYS_PnlAssign[2][1], 8);
+    Deliver(SYSTEM_CONFIG "Panel Assign", "KILL");
+    EXPECT_EQ(SYS_PnlAssign[2][0] + SYS_PnlAssign[1][0] + SYS_PnlAssign[255][0], 0);
+}
+
+TEST_F(BusTally, SwitcherAssignmentsGoIntoTheirRow)
+{
+    Deliver(SYSTEM_CONFIG "Switcher Assign", "255,1,2,3,260");
+    EXPECT_EQ(SYS_SwrAssign[255][2], 3);
+    EXPECT_EQ(SYS_SwrAssign[255][3], 4);
+    for (const char* rubbish : {"", "255,9,9,9", "256,9,9,9,9", "-1,9,9,9,9", "x,9,9,9,9"})
+        Deliver(SYSTEM_CONFIG "Switcher Assign", rubbish);
+    EXPECT_EQ(SYS_SwrAssign[255][0], 1);
+    Deliver(SYSTEM_CONFIG "Switcher Assign", "KILL");
+    EXPECT_EQ(SYS_SwrAssign[255][0] + SYS_SwrAssign[1][0], 0);
+}
+
+// --- Modes ---
+
+TEST_F(BusTally, TheOperationModeIsThatOfTheOwnPanel)
+{
+    static const struct {
+        const char* panel;
+        const char* value;
+        int dual_proc, simul, dual_simul;
+        bool second_pair;
+    } cases[] = {
+        {"PNL1", "Dual Proc", 1, 0, 0, true},      {"PNL2", "Single Proc", 1, 0, 0, false},
+        {"PNL1", "Single Proc 3G", 0, 0, 0, true}, {"PNL1", "Single Simul", 0, 1, 0, false},
+        {"PNL1", "Dual Simul", 1, 0, 1, false},    {"PNL1", "", 0, 0, 0, false},
+    };
+    for (const auto& c : cases) {
+        (void)TakeQueuedCommands();
+        Deliver(std::string(OPERATION_MODE) + c.panel, c.value);
+        EXPECT_EQ(SYS_DualProc, c.dual_proc) << c.value;
+        EXPECT_EQ(SYS_Simul, c.simul) << c.value;
+        EXPECT_EQ(SYS_DualSimul, c.dual_simul) << c.value;
+        const Strings sent = TakeQueuedCommands();
+        EXPECT_EQ(std::count(sent.begin(), sent.end(), "add Engineering Setup@DME@Model@DME4"),
+                  c.second_pair)
+            << c.value;
+        const int own = strcmp(c.panel, "PNL1") == 0;
+        for (const char* path :
+             {"Global Effect@Ch7-Ch8@Combine@Ch2", "Global Effect@Ch1-Ch4@Combine@Ch1",
+              "Global Effect@Ch5-Ch8@Combine@Ch8"})
+            EXPECT_EQ(std::count(sent.begin(), sent.end(), std::string("add ") + path), own)
+                << path;
+    }
+}
+
+TEST_F(BusTally, AChangeOfModeLeavesAPageThatDoesNotExistInIt)
+{
+    static const struct {
+        uint32_t page;
+        const char* value;
+        uint32_t request;
+    } cases[] = {
+        {0x13110000, "Single Proc", 0},          // no change
+        {0x11110000, "Single Simul", PAGE_TOP},  // M/E-1 is hidden in it
+        {0x13110000, "Single Proc", 0x13110000}, // still there: built anew
+        {0x13110000, "Dual Simul", 0x13110000},
+    };
+    for (const auto& c : cases) {
+        GL_NowPage = c.page;
+        GL_CreatePage = 0;
+        Deliver(OPERATION_MODE "PNL1", c.value);
+        EXPECT_EQ(GL_CreatePage, c.request) << c.value;
+    }
+}
+
+TEST_F(BusTally, CombinedChannelsAreThoseThatHangTogether)
+{
+    static const struct {
+        const char* on; // channels of the first quad that say they are combined with the one before
+        int combined[4];
+    } cases[] = {
+        {"", {0, 0, 0, 0}},   {"1", {0, 0, 0, 0}},   {"2", {1, 1, 0, 0}},
+        {"3", {0, 1, 1, 0}},  {"4", {0, 0, 1, 1}},   {"23", {1, 1, 1, 0}},
+        {"34", {0, 1, 1, 1}}, {"234", {1, 1, 1, 1}}, {"24", {1, 1, 1, 1}}, // two pairs
+    };
+    for (const int first : {0, 4}) {
+        for (const auto& c : cases) {
+            for (int ch = 1; ch <= 4; ch++)
+                Deliver(std::string("Global Effect@") + (first ? "Ch5-Ch8" : "Ch1-Ch4") +
+                            "@Combine@Ch" + std::to_string(first + ch),
+                        strchr(c.on, '0' + ch) && *c.on ? "true" : "false");
+            for (int i = 0; i < 4; i++)
+                EXPECT_EQ(SYS_Combine[first + i], c.combined[i])
+                    << c.on << " channel " << first + i + 1;
+        }
+    }
+    for (const char* rubbish : {"Ch0", "Ch5", "Ch-1", "Ch", "Chx", "Ch99999999999"})
+        Deliver(std::string("Global Effect@Ch1-Ch4@Combine@") + rubbish, "false");
+    EXPECT_EQ(SYS_CombineCh[1], 1);
+    EXPECT_EQ(SYS_CombineCh[4], 0);
+}
+
+TEST_F(BusTally, APageIsReloadedByTheSettingsItShows)
+{
+    static const struct {
+        const char* path;
+        const char* value;
+        uint32_t page;
+        uint32_t request;
+    } cases[] = {
+        {"Global Effect@Ch1-Ch4@Combine@Ch2", "true", 0x42170000, 0x42170000},
+        {"Global Effect@Ch1-Ch4@Combine@Ch2", "true", 0x42170000, 0}, // no change
+        {"Global Effect@Ch1-Ch4@Combine@Ch2", "false", 0x42270000, 0x42270000},
+        {"Global Effect@Ch1-Ch4@Combine@Ch2", "true", 0x41110000, 0},
+        {"Global Effect@Ch3-Ch4@Combine@Ch2", "true", 0x42170000, 0x42170000},
+        {"Global Effect@Ch3-Ch4@Combine@Ch2", "false", 0x11110000, 0},
+        {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000, 0x11170000},
+        {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000, 0},
+        {SWITCHER "Transition@Key Transition@M/E-1", "false", 0x85470000, 0x85470000},
+        {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11110000, 0},
+        {SWITCHER "Transition@Key Transition@M/E-1", "false", 0x42170000, 0},
+        {SWITCHER "Transition@Key Transition@M/E-9", "true", 0x11170000, 0},
+        {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000, 0x73130000},
+        {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000, 0},
+        {FORMAT "FC Format", "3,6,9,9,9", 0x73130000, 0},
+    };
+    SYS_CombineDP[1] = 0;
+    SYS_KeyTransitionME1 = 0;
+    for (const auto& c : cases) {
+        GL_NowPage = c.page;
+        GL_CreatePage = 0;
+        Deliver(c.path, c.value);
+        EXPECT_EQ(GL_CreatePage, c.request) << c.path << "#" << c.value;
+    }
+    EXPECT_EQ(SYS_FrameDelayMode2[0], 1);
+    EXPECT_EQ(SYS_FrameDelayMode2[3], 4);
+    // What the operator has asked for in the meantime is not undone.
+    GL_NowPage = 0x42170000;
+    GL_CreatePage = 0x71110000;
+    Deliver("Global Effect@Ch1-Ch4@Combine@Ch3", "true");
+    EXPECT_EQ(GL_CreatePage, 0x71110000u);
+}
+
+TEST_F(BusTally, ABankThatIsDisabledIsLeftForTheNext)
+{
+    static const struct {
+        const char* bank;
+        uint32_t page;
+        uint32_t now, request;
+    } cases[] = {
+        {"M/E-2", 0x11110000, 0x11110000, 0},          // another bank's page
+        {"M/E-1", 0x15230000, 0x13110000, 0x13110000}, // M/E-2 is off already; sub side
+        {"M/E-3", 0x13110000, 0x81110000, 0x81110000},
+        {"M/E-5", 0x82110000, 0x14110000, 0x14110000},
+        {"P/P", 0x18110000, PAGE_TOP, PAGE_TOP},
+        {"M/E-4", 0x81110000, PAGE_TOP, PAGE_TOP}, // none is left
+        {"M/E-4", 0x73110000, 0x73110000, 0},
+        {"M/E-9", 0x11110000, 0x11110000, 0},
+    };
+    for (const auto& c : cases) {
+        GL_NowPage = c.page;
+        GL_CreatePage = 0;
+        Deliver(std::string(PANEL "Config@M/E Operation@") + c.bank, "Disable");
+        EXPECT_EQ(GL_NowPage, c.now) << c.bank;
+        EXPECT_EQ(GL_CreatePage, c.request) << c.bank;
+    }
+}
+
+// --- Buses ---
+
+TEST_F(BusTally, ANameReplacesTheEntryOfItsBus)
+{
+    static const struct {
+        const char* path;
+        char** names;
+        int count;
+    } cases[] = {
+        {PANEL "Config@External Bus Link@Master Bus List", BUS_ExtMaster, BUS_EXT_MASTER},
+        {SWITCHER "Link@Internal Bus Link@Master Bus List", BUS_IntMaster, BUS_INT_MASTER},
+        {PANEL "Config@External Bus Link@S-BUS Src Name List", BUS_SBusSrc, BUS_SBUS},
+        {PANEL "Config@External Bus Link@S-BUS Dst Name List", BUS_SBusDst, BUS_SBUS},
+        {PANEL "Xpt Assign@Source@List", BUS_XptSrc, BUS_XPT_SRC},
+    };
+    for (const auto& c : cases) {
+        const std::string last = std::to_string(c.count - 1);
+        Deliver(c.path, "0,Cam 1");
+        Deliver(c.path, last + ",a,b");
+        for (const std::string& rubbish :
+             {std::string("-1,x"), std::to_string(c.count) + ",x", std::string("x,y"),
+              std::string("0"), std::string(""), std::string("99999999999999999999,x")})
+            Deliver(c.path, rubbish);
+        EXPECT_STREQ(c.names[0], "Cam 1") << c.path;
+        EXPECT_STREQ(c.names[c.count - 1], "a,b") << c.path;
+        EXPECT_STREQ(c.names[1], "") << c.path;
+    }
+}
+
+TEST_F(BusTally, ACrosspointTellsThePageWhenItChanges)
+{
+    SYS_XptAssignV[4] = SYS_XptAssignK[4] = 0;
+    std::string name;
+    probe::answer = [&](const probe::Seen& s) {
+        if (s.msg == LMSG_XPTSRCCHANGE)
+            name = Text(s.cx);
+        return 0;
+    };
+    for (int i = 0; i < 2; i++) {
+        Deliver(PANEL "Xpt Assign@Source@List", "3,VTR");
+        Deliver(PANEL "Xpt Assign@Assign", "4,5,6");
+        Deliver(PANEL "Xpt Assign@Assign", "254,5,6");
+        Deliver(PANEL "Xpt Assign@Assign", "4,5");
+    }
+    EXPECT_EQ(probe::Count(LMSG_XPTSRCCHANGE), 1);
+    EXPECT_EQ(name, "VTR");
+    EXPECT_EQ(probe::Count(LMSG_XPTASSIGNCHANGE), 1);
+    const auto change =
+        std::find_if(probe::seen.begin(), probe::seen.end(),
+                     [](const probe::Seen& s) { return s.msg == LMSG_XPTASSIGNCHANGE; });
+    ASSERT_NE(change, probe::seen.end());
+    EXPECT_THAT((std::vector<MsgArg>{change->ax, change->bx, change->cx, change->dx}),
+                ElementsAre(4, 0, 5, 6));
+}
+
+// --- Page requests ---
+
+TEST_F(BusTally, AMenuKeyReopensItsPage)
+{
+    static const struct {
+        const char* caption;
+        uint32_t now;
+        int result;
+        uint32_t request;
+    } cases[] = {
+        {"M/E-2", PAGE_TOP, 1, 0x12110000}, {"M/E-2", 0x12110000, 1, 0}, // shown already
+        {"Setup", PAGE_TOP, 1, 0x73110000}, {"No such menu", PAGE_TOP, 1, 0}, {"", PAGE_TOP, 1, 0},
+    };
+    for (const auto& c : cases) {
+        GL_NowPage = c.now;
+        GL_CreatePage = 0;
+        EXPECT_EQ(Deliver("TopMenu", c.caption), c.result) << c.caption;
+        EXPECT_EQ(GL_CreatePage, c.request) << c.caption;
+    }
+    EXPECT_EQ(probe::Count(MSG_TALLY), 0);
+}
+
+TEST_F(BusTally, MenusThatDoNotExistIn4KAreRefused)
+{
+    SYS_4KMode = 1;
+    for (const char* caption : {"Frame Memory", "Status", "DME", "Global Effect"})
+        EXPECT_EQ(Deliver("TopMenu", caption), -1) << caption;
+    EXPECT_EQ(GL_CreatePage, 0u);
+    EXPECT_EQ(Deliver("TopMenu", "CCR"), 1);
+    EXPECT_EQ(GL_CreatePage, 0x24110000u);
+}
+
+TEST_F(BusTally, TheMenuTurnsOverAndBack)
+{
+    GL_OmoteNowPage = 0x11110000;
+    GL_UraNowPage = 0x71110000;
+    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), 1);
+    EXPECT_EQ(OmoteFlag, 0);
+    EXPECT_EQ(OmoteChange, 1);
+    EXPECT_EQ(GL_CreatePage, 0x71110000u);
+    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), 1);
+    EXPECT_EQ(OmoteFlag, 1);
+    EXPECT_EQ(GL_CreatePage, 0x11110000u);
+}
+
+TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
+{
+    static const struct {
+        const char* value;
+        uint32_t request;
+        int device;
+    } cases[] = {
+        {"1111", 0x11110000, 5},
+        {"7316.8", 0x73160008, 5},
+        {"7316.1f,D2", 0x7316001F, 1},
+        {"6211,F8", 0x62110000, 7},
+        {"11", 0x00110000, 7},
+        {"1111.", 0x11110000, 7},
+        {"11112", 0x11110000, 7}, // four digits are taken
+        {"1111,D0", 0x11110000, 7},
+        {"1111,D9", 0x11110000, 7},
+        {"1111,Dffffffffffffffffff", 0x11110000, 7},
+        {"1111,D", 0x11110000, 7},
+        {"1111,X1", 0x11110000, 7},
+        {"", 0, 7},
+        {"x", 0, 7},
+        {"-1", 0, 7},
+        {"0000", 0, 7},
+    };
+    GL_DeviceNo = 5;
+    for (const auto& c : cases) {
+        GL_CreatePage = 0;
+        EXPECT_EQ(Deliver("Page", c.value), 1) << c.value;
+        EXPECT_EQ(GL_CreatePage, c.request) << c.value;
+        EXPECT_EQ(GL_DeviceNo, c.device) << c.value;
+    }
+}
+
+TEST_F(BusTally, AnAssignButtonOpensItsPageAndRemembersWhoAsked)
+{
+    static const struct {
+        const char* value;
+        uint32_t request;
+        const uint32_t* parent;
+        const int* button;
+        int expected;
+    } cases[] = {
+        {"7,0", 0x73240000, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
+        {"8,1", 0x73240001, &GL_UtlAsgnShortCutMenu, &GL_UtlAsgnSelectButtonID, 8},
+        {"9,2", 0x73240002, &GL_XptAsgnShortCutMenu, &GL_XptAsgnSelectButtonID, 9},
+        {"1,3", 0, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
+        {"1,-1", 0, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
+        {"-1,0", 0, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
+        {"1", 0, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
+        {"", 0, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
+    };
+    GL_NowPage = 0x54110000;
+    for (const auto& c : cases) {
+        GL_CreatePage = 0;
+        EXPECT_EQ(Deliver(PANEL "Prefs/Utility@Panel Select", c.value), 0);
+        EXPECT_EQ(GL_CreatePage, c.request) << c.value;
+        EXPECT_EQ(*c.parent, 0x54110000u) << c.value;
+        EXPECT_EQ(*c.button, c.expected) << c.value;
+    }
+}
+
+// --- Rubbish ---
+
+TEST_F(BusTally, NoValueOnAnyPathDoesHarm)
+{
+    static const char* const paths[] = {
+        "TopMenu",
+        "Page",
+        "Info@DME@RefCH",
+        "Info@DME@SelCH",
+        FORMAT "Video Format@PNL1",
+        FORMAT "Video Format@MPE4",
+        FORMAT "Video Format2@SWR1",
+        FORMAT "Reference@SWR2",
+        FORMAT "Switcher Aspect",
+        FORMAT "DME Aspect",
+        "16@Frame Mem@External HDD@Busy",
+        network_list,
+        "Info@IP Address@Menu CPU",
+        SYSTEM_CONFIG "Panel Assign",
+        SYSTEM_CONFIG "Switcher Assign",
+        OPERATION_MODE "PNL1",
+        OPERATION_MODE,
+        "Global Effect@Ch1-Ch4@Combine@Ch",
+        "Global Effect@Ch5-Ch8@Combine@Ch8",
+        "Global Effect@Ch7-Ch8@Combine@Ch2",
+        PANEL "Config@M/E Operation@",
+        PANEL "Xpt Assign@Source@List",
+        PANEL "Xpt Assign@Assign",
+        SWITCHER "Transition@Key Transition@P/P",
+        PANEL "Prefs/Utility@Panel Select",
+        SWITCHER "SDI I/F@DME1",
+        "Engineering Setup@DME@Model@DME1",
+        FORMAT "FC Format",
+        PANEL "Config@10 Key Region Assign@Common@Region@Common@23",
+        PANEL "Config@10 Key Region Assign@Common@Region@Common@",
+        "Info@Menu Macro@Run",
+        "16@Engineering Setup@System@Install@Unit Config@CCR Config",
+        "Info@System Setup Data@FM Data Port Disable@SWR1",
+        "M/E-1@Key1@Processed Key@Rotation",
+        "Info@Board Config@Board Exist Set@SWR1@EEPROM",
+    };
+    const std::string values[] = {
+        "",
+        ",",
+        ",,,,,,,,,,,,",
+        "#",
+        "KILL",
+        "-1",
+        "-1,-1,-1,-1,-1,-1",
+        "99999999999999999999,99999999999999999999,99999999999999999999,9,9,9,9,9,9",
+        "-99999999999999999999,-99999999999999999999,0,0,0,0",
+        "x,y,z,a,b,c",
+        "0x7fffffff,1,1,1,1,1",
+        std::string(1023, 'a'),
+        std::string(1023, ','),
+        std::string(3000, '9'),
+    };
+    for (const char* path : paths) {
+        for (const std::string& value : values)
+            Deliver(path, value);
+        EXPECT_LE(SYS_PnlMax, DEVICE_MAX);
+        EXPECT_TRUE(SYS_MyPnl >= 0 && SYS_MyPnl < UNIT_MAX) << path;
+        EXPECT_TRUE(GL_DeviceNo >= 0 && GL_DeviceNo < DEVICE_MAX) << path;
+    }
+}

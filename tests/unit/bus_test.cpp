@@ -1,0 +1,346 @@
+#include "bus_probe.h"
+#include "log.h"
+#include "netio.h"
+#include <cstring>
+#include <fstream>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using Strings = std::vector<std::string>;
+
+struct Bus : BusTest {
+    void TearDown() override
+    {
+        UnHackMessage(0);
+        GL_FM_Find_Window = 0;
+        BusTest::TearDown();
+    }
+};
+
+TEST_F(Bus, TheRowIsWalkedInOrderToItsFirstEmptyPlace)
+{
+    static const struct {
+        const char* what;
+        std::vector<int> types;
+        int deliveries;
+    } cases[] = {
+        {"nothing on the page", {}, 0},
+        {"all eight", std::vector<int>(8, OBJ_PC), 8},
+        {"an empty place ends it", {OBJ_PC, OBJ_END, OBJ_PC}, 1},
+        {"so does one below 0", {OBJ_PC, -1, OBJ_PC}, 1},
+        {"16 and types out of range are skipped", {16, OBJ_PC, 19, 1000, OBJ_PC}, 2},
+    };
+    for (const auto& c : cases) {
+        probe::page = PAGE{.id = PAGE_TOP};
+        for (size_t i = 0; i < c.types.size(); i++)
+            probe::page.obj[i].type = c.types[i];
+        probe::seen.clear();
+        EXPECT_EQ(SendMessage(MSG_KEY, 0, 0, 0, 0), 0) << c.what;
+        EXPECT_EQ(probe::Count(MSG_KEY), c.deliveries) << c.what;
+    }
+    Page = nullptr; // before the first page
+    EXPECT_EQ(SendMessage(MSG_KEY, 0, 0, 0, 0), 0);
+}
+
+TEST_F(Bus, AConsumedMessageGoesNoFurtherAndStillReturns0)
+{
+    probe::page.obj[1] = probe::page.obj[0];
+    probe::answer = [](const probe::Seen&) { return 1; };
+    EXPECT_EQ(SendMessage(MSG_PRESS, 10, 20, 1, 0), 0);
+    ASSERT_EQ(probe::seen.size(), 1u);
+    EXPECT_EQ(probe::seen[0].ax, 10);
+    EXPECT_EQ(probe::seen[0].bx, 20);
+    EXPECT_EQ(probe::seen[0].cx, 1);
+}
+
+TEST_F(Bus, ANestedMessageIsDeliveredBeforeTheOuterOneGoesOn)
+{
+    probe::page.obj[1] = probe::page.obj[0];
+    probe::answer = [](const probe::Seen& s) {
+        if (s.msg == MSG_PRESS && probe::Count(MSG_PRESS) == 1)
+            SendMessage(LMSG_BTNSEL, 7, 0, 0, 0);
+        return 0;
+    };
+    SendMessage(MSG_PRESS, 1, 2, 1, 0);
+    std::vector<int> order;
+    for (const auto& s : probe::seen)
+        order.push_back(s.msg);
+    EXPECT_THAT(order, ElementsAre(MSG_PRESS, LMSG_BTNSEL, LMSG_BTNSEL, MSG_PRESS));
+}
+
+TEST_F(Bus, AMaskWithholdsEventsFromItsTypeOnly)
+{
+    static const struct {
+        int type, mask, msg, deliveries;
+    } cases[] = {
+        {OBJ_PC, MSG_PRESS, MSG_PRESS, 0},
+        {OBJ_PC, MSG_PRESS, MSG_RELEASE, 1},
+        {OBJ_PC, MSG_PRESS | MSG_RELEASE, MSG_RELEASE, 0},
+        {OBJ_BT, MSG_PRESS, MSG_PRESS, 1},
+        {0, MSG_PRESS, MSG_PRESS, 0},
+        {-1, MSG_PRESS, MSG_PRESS, 0},
+        {OBJ_PC, -1, LMSG_BTNSEL, 1}, // internal messages have no mask
+        {BUS_OBJECT_TYPES, MSG_PRESS, MSG_PRESS, 1},
+        {1 << 20, MSG_PRESS, MSG_PRESS, 1},
+    };
+    for (const auto& c : cases) {
+        UnHackMessage(0);
+        HackMessage(c.type, c.mask);
+        probe::seen.clear();
+        SendMessage(c.msg, 0, 0, 0, 0);
+        EXPECT_EQ(probe::Count(c.msg), c.deliveries) << c.type << " " << c.mask << " " << c.msg;
+    }
+    UnHackMessage(0);
+    probe::seen.clear();
+    HackMessage(OBJ_PC, MSG_PRESS);
+    HackMessage(OBJ_PC, MSG_KEY); // adds
+    UnHackMessage(OBJ_BT);
+    UnHackMessage(BUS_OBJECT_TYPES);
+    SendMessage(MSG_PRESS, 0, 0, 0, 0);
+    EXPECT_EQ(probe::Count(MSG_PRESS), 0);
+    UnHackMessage(OBJ_PC);
+    SendMessage(MSG_PRESS, 0, 0, 0, 0);
+    EXPECT_EQ(probe::Count(MSG_PRESS), 1);
+}
+
+TEST_F(Bus, WhileTheFindIsOpenNoInputReachesThePage)
+{
+    static const struct {
+        int msg, deliveries;
+    } cases[] = {
+        {MSG_PRESS, 0}, {MSG_RELEASE, 0}, {MSG_DRAG, 0},   {MSG_WHEELUP, 0},  {MSG_WHEELDOWN, 0},
+        {MSG_KEY, 1},   {MSG_TALLY, 1},   {MSG_REDRAW, 1}, {MSG_SHPTALLY, 1}, {LMSG_BTNSEL, 1},
+    };
+    GL_FM_Find_Window = 1;
+    for (const auto& c : cases) {
+        SendMessage(c.msg, Arg("A"), Arg("B"), 0, 0);
+        EXPECT_EQ(probe::Count(c.msg), c.deliveries) << c.msg;
+    }
+}
+
+TEST_F(Bus, InternalMessagesWithANameAreLogged)
+{
+    static constexpr char LOG[] = "/var/tmp/bus.log";
+    Log_Init(LOG, LOG_FILE_SIZE);
+    Log_SetLevel(LOG_TRACE);
+    SendMessage(LMSG_LISTSEL, 1, -2, 3, 4);
+    SendMessage(LMSG_KNOBDIFF, 5, 0, 0, 0);      // the last one with a name
+    SendMessage(LMSG_PAGEREQUEST, 71, 71, 0, 0); // the first without
+    SendMessage(0x10000000, 72, 72, 0, 0);
+    SendMessage(MSG_PRESS, 73, 73, 0, 0);
+    SendDummyTally("LOCAL@A#1");
+    Log_Init(nullptr, LOG_FILE_SIZE);
+    std::ifstream file(LOG);
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_THAT(text, HasSubstr("LMSG: LMSG_LISTSEL ax=1, bx=-2, cx=3, dx=4"));
+    EXPECT_THAT(text, HasSubstr("LMSG: LMSG_KNOBDIFF ax=5, bx=0, cx=0, dx=0"));
+    EXPECT_THAT(text, HasSubstr("LOCAL: LOCAL@A#1"));
+    EXPECT_THAT(text, Not(testing::ContainsRegex("ax=7[123]")));
+}
+
+// --- Played tallies ---
+
+TEST_F(Bus, APlayedTallyIsOneFromTheServer)
+{
+    static const struct {
+        std::string text, path, value;
+    } cases[] = {
+        {"LOCAL@A#1", "LOCAL@A", "1"},
+        {"A#", "A", ""},
+        {"#1", "", "1"},
+        {"A#1#2", "A", "1#2"},
+        {"no mark", "no mar", ""},
+        {"x", "", ""},
+        {"A#" + std::string(2000, 'v'), "A", std::string(CMD_SIZE - 1 - 2, 'v')},
+    };
+    for (const auto& c : cases) {
+        std::string path = "none", value = "none";
+        uint32_t hash = 1;
+        probe::answer = [&](const probe::Seen& s) {
+            path = Text(s.ax);
+            value = Text(s.bx);
+            hash = uint32_t(s.cx);
+            return 0;
+        };
+        EXPECT_EQ(SendDummyTally(c.text.c_str()), 0);
+        EXPECT_EQ(path, c.path);
+        EXPECT_EQ(value, c.value);
+        EXPECT_EQ(hash, Hash(c.path.c_str())) << c.path;
+    }
+    probe::seen.clear();
+    EXPECT_EQ(SendDummyTally(nullptr), -1);
+    EXPECT_EQ(SendDummyTally(""), 0);
+    EXPECT_THAT(probe::seen, IsEmpty());
+}
+
+TEST_F(Bus, ATallyPlayedWithinATallyLeavesTheOuterOneWhole)
+{
+    Strings values;
+    probe::answer = [&](const probe::Seen& s) {
+        const std::string path = Text(s.ax);
+        if (path == "Outer")
+            SendDummyTally("Inner#2");
+        values.push_back(path + "=" + Text(s.bx));
+        return 0;
+    };
+    SendDummyTally("Outer#1");
+    EXPECT_THAT(values, ElementsAre("Inner=2", "Outer=1"));
+}
+
+TEST_F(Bus, ATallyWithoutTextsHarmsNobody)
+{
+    EXPECT_EQ(SendMessage(MSG_TALLY, 0, 0, 0, 0), 0);
+    EXPECT_EQ(SendMessage(MSG_TALLY, Arg("Page"), 0, Hash("Page"), 0), 0);
+    EXPECT_EQ(GL_CreatePage, 0u);
+}
+
+// --- The drain ---
+
+static void Receive(const std::string& lines)
+{
+    ASSERT_EQ(Net_FeedText(lines.data(), int(lines.size())), int(lines.size()));
+    ReceiveCommand_Management();
+}
+
+TEST_F(Bus, ALineIsCutAtItsFirstMark)
+{
+    Strings got;
+    probe::answer = [&](const probe::Seen& s) {
+        got.push_back(std::string(Text(s.ax)) + "=" + Text(s.bx));
+        return 0;
+    };
+    Receive("A@B#1,2\nno mark\n#\nC#x#y\n");
+    EXPECT_THAT(got, ElementsAre("A@B=1,2", "no mar=", "=", "C=x#y"));
+}
+
+TEST_F(Bus, APassTakesAtMost129Lines)
+{
+    probe::answer = [](const probe::Seen&) {
+        (void)Net_FeedText("A#1\n", 4); // never ends
+        return 0;
+    };
+    Receive("A#1\n");
+    EXPECT_EQ(probe::Count(MSG_TALLY), 129);
+    probe::answer = nullptr;
+    ReceiveCommand_Management(); // the one that is left
+    EXPECT_EQ(probe::Count(MSG_TALLY), 130);
+}
+
+struct BusHub : Bus {
+    static constexpr int PORT = 9500;
+    Peer hub{PORT};
+
+    void SetUp() override
+    {
+        Bus::SetUp();
+        strcpy(GL_ServerAddress, "127.0.0.1");
+        strcpy(SYS_StatusHubAddress, "127.0.0.1");
+        SYS_StatusHubPort = PORT;
+        GL_ClipStoreSupportMode = 1;
+        Net_Init();
+        ASSERT_TRUE(hub.Accept());
+    }
+    void TearDown() override
+    {
+        GL_ClipStoreSupportMode = 0;
+        Net_Init();
+        GL_NetReConnect_SHP = 0;
+        Bus::TearDown();
+    }
+    Strings Drain(const std::string& lines)
+    {
+        Strings got;
+        probe::answer = [&](const probe::Seen& s) {
+            if (s.msg != MSG_SHPTALLY)
+                return 0;
+            EXPECT_EQ(uint32_t(s.cx), Hash(Text(s.ax)));
+            got.push_back(std::string(Text(s.ax)) + "|" + Text(s.bx) + "|" +
+                          (s.dx ? Text(s.dx) : "none"));
+            return 0;
+        };
+        hub.Send(lines + "Ready#PNL9.File\n"); // the last one says that all have come
+        for (int i = 0; i < 200 && (got.empty() || got.back() != "Ready|PNL9.File|none"); i++) {
+            usleep(1000);
+            ReceiveCommand_Management();
+        }
+        if (!got.empty())
+            got.pop_back();
+        return got;
+    }
+};
+
+TEST_F(BusHub, OnlyFileTablesAndTheOwnClipStorePass)
+{
+    static const struct {
+        const char* line;
+        const char* got; // null: dropped
+    } cases[] = {
+        {"Notify#SWR1.File:3:a:b", "Notify|SWR1.File|3:a:b"},
+        {"Notify#PNL2.File:3", "Notify|PNL2.File|3"},
+        {"Notify#PNL12.File:3", nullptr}, // the number has one digit
+        {"Notify#SWR1.Other:3", nullptr},
+        {"Notify#SWR:3", nullptr},
+        {"Notify#CS2.File:3", "Notify|CS2.File|3"},
+        {"Notify#CS1.ClipStoreInfo:CAPACITY::1,2", "Notify|CS1.ClipStoreInfo|CAPACITY::1,2"},
+        {"Notify#CS2.ClipStoreInfo:1", nullptr}, // of another panel's switcher
+        {"Notify#CS:1", nullptr},
+        {"Notify#DME1.File:1", nullptr},
+        {"Ready#CS1.ClipStoreFile", "Ready|CS1.ClipStoreFile|none"},
+        {"Ready#PNL1.File", "Ready|PNL1.File|none"},
+        {"Disconnect#SWR2.File", "Disconnect|SWR2.File|"}, // no row: the name stays whole
+        {"Notify#", nullptr},
+        {"#", nullptr},
+        {"#:", nullptr},
+        {"x", nullptr},
+    };
+    for (const auto& c : cases) {
+        const Strings got = Drain(std::string(c.line) + "\n");
+        if (c.got)
+            EXPECT_THAT(got, ElementsAre(c.got)) << c.line;
+        else
+            EXPECT_THAT(got, IsEmpty()) << c.line;
+    }
+}
+
+TEST_F(BusHub, APassTakesAtMost129Lines)
+{
+    std::string lines;
+    for (int i = 0; i < 200; i++)
+        lines += "Notify#PNL1.File:1\n";
+    hub.Send(lines);
+    usleep(20000);
+    ReceiveCommand_Management();
+    EXPECT_EQ(probe::Count(MSG_SHPTALLY), 129);
+}
+
+// --- Page code ---
+
+namespace
+{
+Strings calls;
+int CodeProc(int, MsgArg, MsgArg, MsgArg, MsgArg)
+{
+    calls.push_back("proc");
+    return 5;
+}
+int CodeCreate(int on, uint32_t var)
+{
+    calls.push_back((on ? "open " : "close ") + std::to_string(var));
+    SendMessage(MSG_KEY, 0, 0, 0, 0); // still, or already, reaches the page's own procedure
+    return 0;
+}
+constexpr PC_TBL code = {.proc_func = CodeProc, .create_func = CodeCreate};
+} // namespace
+
+TEST_F(Bus, PageCodeHearsWhatIsSentWhileItOpensAndCloses)
+{
+    calls.clear();
+    EXPECT_EQ(PC_Create(&code, 3), 0);
+    EXPECT_EQ(PC_Create(nullptr, 4), 1);
+    EXPECT_EQ(PC_Create(nullptr, 5), 1); // closed once
+    EXPECT_EQ(PC_Proc(MSG_KEY, 0, 0, 0, 0), 0);
+    EXPECT_THAT(calls, ElementsAre("open 3", "proc", "close 4", "proc"));
+}
