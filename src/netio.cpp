@@ -19,6 +19,7 @@
 #include <cstring>
 #include <netdb.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <sys/select.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -338,12 +339,24 @@ int Net_SendCommandQueue()
     return 0;
 }
 
+// The peer has closed, whatever still waits to be read.
+static bool net_is_hung_up(int fd)
+{
+    pollfd p{fd, POLLRDHUP, 0};
+    return fd > 0 && poll(&p, 1, 0) == 1 && (p.revents & (POLLRDHUP | POLLHUP | POLLERR));
+}
+
 // A line of 405 characters that has no end fills the buffer for good. That is meant: the size is
-// part of the contract with the server, and the log says so on every call.
+// part of the contract with the server, and the log says so on every call. Only the end of the
+// connection clears it: the link must come back by itself.
 static void text_fill()
 {
     if (strlen(RBuf) == sizeof RBuf - 1) {
         Log_Output(LOG_LINK, MOD_LINK, "Net_ReceiveCommand() Buffer Full!!");
+        if (net_is_hung_up(SockFD1)) {
+            net_close(&SockFD1);
+            RBuf[0] = '\0';
+        }
         return;
     }
     if (SockFD1 == 0 && !text_connect())

@@ -3,11 +3,14 @@
 The panel is touched through its FIFO, the simulator is driven through its console, the wire is read from its log and
 the screen from the display. Every desk has its own device root, network and display: several may run side by side.
 """
+import atexit
 import os
 import re
 import shutil
+import signal
 import struct
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -31,9 +34,11 @@ class Desk:
         self.run_dir = os.path.join(self.work, "run")
         self.sim_log = os.path.join(self.work, "sim.log")
         self.out = os.path.join(self.work, "tm3.out")
-        self.processes = []
-        self.app = self.sim = None
+        self.box = self.xvfb = None
         self.seen = 0  # lines of the simulator's log already taken
+        self.closed = False
+        atexit.register(self.close)
+        signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # a run that is ended takes its desk along
         self._make_run_dir(ini, remove)
         self._start_display()
         self._start_sandbox()
@@ -86,10 +91,12 @@ class Desk:
         self._box("stop", "sim")
 
     def start_app(self, *args, wait=True):
-        """Start the application; wait until its first page stands."""
+        """Start the application; wait until its first page stands: started holds what it said until then."""
         self._box("start", "app", self.run_dir, os.path.join(self.build, "bin", "tm3"), *args)
         if wait:
-            time.sleep(SERVER_WAIT + 0.8)
+            time.sleep(SERVER_WAIT)
+            self.started = self.wait_wire("add TopMenu", 10)
+            time.sleep(0.3)
 
     def app_status(self):
         """None while the application runs, otherwise its exit status."""
@@ -97,7 +104,12 @@ class Desk:
         return None if text == "running" else int(text)
 
     def close(self):
+        if self.closed:
+            return
+        self.closed = True
         for process in (self.box, self.xvfb):
+            if process is None:
+                continue
             if process.stdin:
                 process.stdin.close()
             try:
@@ -152,21 +164,19 @@ class Desk:
 
     # --- eyes ---
 
+    def _screen_pnm(self):
+        xwd = subprocess.run(["xwd", "-root", "-silent", "-display", self.display], capture_output=True, check=True)
+        return subprocess.run(["xwdtopnm"], input=xwd.stdout, capture_output=True, check=True).stdout
+
     def shot(self, path):
         os.makedirs(os.path.dirname(os.path.abspath(path)), exist_ok=True)
         with open(path, "wb") as f:
-            xwd = subprocess.Popen(["xwd", "-root", "-silent", "-display", self.display], stdout=subprocess.PIPE)
-            pnm = subprocess.Popen(["xwdtopnm"], stdin=xwd.stdout, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-            subprocess.run(["pnmtopng"], stdin=pnm.stdout, stdout=f, stderr=subprocess.DEVNULL, check=True)
-            xwd.wait()
-            pnm.wait()
+            subprocess.run(["pnmtopng"], input=self._screen_pnm(), stdout=f, stderr=subprocess.DEVNULL, check=True)
         return path
 
     def pixels(self):
         """The screen as rows of bytes: pixels()[y][3 * x:3 * x + 3] is red, green, blue."""
-        xwd = subprocess.Popen(["xwd", "-root", "-silent", "-display", self.display], stdout=subprocess.PIPE)
-        pnm = subprocess.run(["xwdtopnm"], stdin=xwd.stdout, capture_output=True, check=True).stdout
-        xwd.wait()
+        pnm = self._screen_pnm()
         header = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", pnm)
         width, height = int(header[1]), int(header[2])
         body = pnm[header.end():]

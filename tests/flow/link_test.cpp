@@ -386,3 +386,14 @@ TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)
     SYS_DualSimul = SYS_MySwrMax = 0;
     DEV_MySwr[0] = DEV_MySwr[1] = nullptr;
 }
+
+TEST_F(Link, AFullBufferEndsWithItsConnection)
+{
+    Peer peer(NET_TEXT_PORT);
+    Connect(peer);
+    peer.Send(std::string(500, 'x')); // 95 of them wait in the socket, behind what can be read
+    EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), IsEmpty());
+    ComeBack(peer);
+    peer.Send("A#1\n");
+    EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("A#1"));
+}

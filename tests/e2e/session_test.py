@@ -1,0 +1,131 @@
+"""A session at the desk: from the first line on the wire to a touch, its command and the tally that repaints."""
+import sys
+import time
+import unittest
+
+from desk import Desk
+
+BUILD = sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev"
+
+FORMATS = ["PNL1", "PNL2", "PNL3", "PNL4", "SWR1", "SWR2", "DME1", "DME2", "DME3", "DME4", "MPE1", "MPE2", "MPE3",
+           "MPE4"]
+REFERENCES = ["SWR1", "SWR2", "DME1", "DME2", "DME3", "DME4", "PNL1", "PNL2", "PNL3", "PNL4"]
+FORMAT = "Engineering Setup@System@Format@"
+MENU_READS = ([f"read {FORMAT}Video Format@{u}" for u in FORMATS] + [f"read {FORMAT}Reference@{u}" for u in REFERENCES] +
+              [f"read {FORMAT}4K Mode", "add TopMenu"])
+INITIAL_READ_END = "add M/E-5@Key8@Processed Key@Rotation"
+TYPE = "M/E-1@Key1@Type@Key Type"
+
+
+def grid(button_id):
+    """The middle of a standard button."""
+    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
+
+
+def subscriptions(lines):
+    """What is still subscribed after these lines, and what was removed without having been added."""
+    added, stray = set(), []
+    for line in lines:
+        verb, _, path = line.partition(" ")
+        if verb == "add":
+            added.add(path)
+        elif verb == "remove" and path in added:
+            added.remove(path)
+        elif verb == "remove":
+            stray.append(path)
+    return added, stray
+
+
+class Session(unittest.TestCase):
+    """The tests build on one another, in the order of their names: one start-up serves all."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desk = Desk(BUILD)
+        cls.addClassCleanup(cls.desk.close)
+        cls.desk.start_app()
+        cls.start = cls.desk.started
+
+    def open_page(self, number, sign):
+        self.desk.console(f"page {number}")
+        lines = self.desk.wait_wire(sign)
+        time.sleep(0.3)
+        return lines + self.desk.wire()
+
+    def test_01_start_up_says_its_lines_in_order(self):
+        expected = ["put Info@Initial Read Status#true", "put TopMenu@SubMenuSite#false", "set TopMenu#Top", *MENU_READS]
+        self.assertEqual(self.start[:len(expected)], expected)
+
+    def test_02_the_initial_read_ends(self):
+        self.desk.wait_wire(INITIAL_READ_END, 15)
+
+    def test_03_a_page_request_opens_the_page_and_reads_once(self):
+        lines = self.open_page("1111", f"add {TYPE}")
+        self.assertEqual(lines[:2 + len(MENU_READS)],
+                         ["put TopMenu@SubMenuSite#false", "set TopMenu#M/E-1", *MENU_READS])
+        Session.page_1111 = lines
+
+    def test_04_inside_a_menu_nothing_is_read_and_the_books_balance(self):
+        lines = self.page_1111 + self.open_page("1112", "add M/E-1@Key1@Edge@Edge Type")
+        opened = lines[len(self.page_1111):]
+        self.assertFalse([line for line in opened if line.startswith(("read Engineering", "set TopMenu"))])
+        added, stray = subscriptions(lines)
+        self.assertEqual(stray, [])
+        self.assertTrue(all(p == "TopMenu" or "@Edge@" in p for p in added), added)
+
+    def test_05_a_touch_sends_its_command_and_the_tally_repaints(self):
+        self.open_page("1111", f"add {TYPE}")
+        x, y = grid(18)
+        before = self.desk.pixels()[y][3 * x:3 * x + 3]
+        self.desk.touch(x, y)
+        self.desk.wait_wire(f"put {TYPE}#Linear")
+        time.sleep(0.4)
+        after = self.desk.pixels()[y][3 * x:3 * x + 3]
+        self.assertGreater(sum(after), sum(before) + 200)  # the light face of a key that is on
+
+    def test_06_without_the_tally_a_press_leaves_no_trace(self):
+        self.desk.console("ng on")
+        x, y = grid(33)
+        before = self.desk.pixels()
+        self.desk.touch(x, y, settle=0.6)
+        self.desk.wait_wire("put M/E-1@Key1@Type@Key Invert#true")
+        self.assertEqual(self.desk.pixels(), before)
+        self.desk.console("ng off")
+
+    def test_07_a_dropped_link_loses_nothing(self):
+        self.desk.console("drop text 1500")
+        time.sleep(0.2)
+        for button in (49, 50, 49, 50):
+            self.desk.touch(*grid(button), settle=0.2)
+        lines = self.desk.wait_wire("put M/E-1@Key1@Type@Key Fill#Matte", 6)
+        time.sleep(0.5)
+        lines += self.desk.wire()
+        puts = [line for line in lines if "Key Fill#" in line and line.startswith("put")]
+        self.assertEqual([p.rsplit("#", 1)[1] for p in puts], ["Key Bus", "Matte", "Key Bus", "Matte"])
+
+    def test_08_the_server_comes_back_and_is_asked_again(self):
+        self.desk.console("restart")
+        lines = self.desk.wait_wire("add Info@System Setup Data@File Load Lock", 15)
+        self.assertIn("put Info@Status Report#true", lines)
+        self.assertIn("add Engineering Setup@System@Network Config@List", lines)
+        self.assertIsNone(self.desk.app_status())
+
+    def test_09_rubbish_on_the_link_leaves_the_screen_alive(self):
+        self.desk.wait_wire(INITIAL_READ_END, 15)
+        for fault in ("garbage 3000", "dribble on", "flood 5000", "split 7"):
+            self.desk.console(fault)
+            time.sleep(3.2 if fault.startswith("garbage") else 0.6)
+            self.assertIsNone(self.desk.app_status(), fault)
+        self.desk.console("dribble off")
+        self.desk.console("split 0")
+        self.desk.console("drop text 100")  # what the rubbish left in the line buffer goes with the link
+        time.sleep(1.5)
+        self.open_page("1212", "add M/E-2@Key1@Edge@Edge Type")
+
+    def test_10_closing_the_window_ends_in_order(self):
+        self.assertNotIn("Can't find ID", self.desk.log())
+        self.assertNotIn("Can't load graphics file", self.desk.log())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)
