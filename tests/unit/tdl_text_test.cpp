@@ -107,6 +107,7 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
 
         {BOTH(TDL_SymbolP, 10, 20, 9, "aWi\nb", 1, WHITE), {{11, 20}, {19, 20, 9}, {31, 20, 2}, {11, 30}}},
         {BOTH(TDL_SymbolP, 10, 20, 5, "ab", 1, WHITE), {{10, 20}, {15, 20}}},
+        {BOTH(TDL_SymbolP, 10, 20, 10, "W", 1, WHITE), {{11, 20, 9}}}, // each half cut for itself
         {BOTH(TDL_SymbolP, 784, 20, 8, "abc", 1, WHITE), {{785, 20}, {793, 20}}},
 
         {BOTH(TDL_SymbolC, 100, 50, 131, 81, "ab\nc", 1, WHITE), {{109, 55}, {115, 55}, {109, 65}}},
