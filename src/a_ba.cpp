@@ -57,6 +57,12 @@ int ba_page_button_down()
     return ba.Pagebtn.pushed > 0 || GetWindow() == WINDOW_PAGE_JUMP;
 }
 
+// File pages have the region selection where others have the strip.
+static bool has_regions()
+{
+    return ba.Base.id >= 4;
+}
+
 bool ba_has_short_title()
 {
     return ba.MainSub_enable || ba.KeyChange_enable;
@@ -71,9 +77,9 @@ static const char* section()
 
 static bool is_operation_section()
 {
-    static const char* const sections[] = {"M/E-1", "M/E-2",   "M/E-3",         "M/E-4",
-                                           "M/E-5", "PGM/PST", "Aux",           "Aux/Mon",
-                                           "CCR",   "DME",     "Global Effect", "Key Frame"};
+    constexpr const char* sections[] = {"M/E-1", "M/E-2",   "M/E-3",         "M/E-4",
+                                        "M/E-5", "PGM/PST", "Aux",           "Aux/Mon",
+                                        "CCR",   "DME",     "Global Effect", "Key Frame"};
     for (const char* s : sections)
         if (strcmp(section(), s) == 0)
             return true;
@@ -120,7 +126,7 @@ static void decide_lower_left()
 // The keys 5 to 8 are a step away where the bank has them.
 static bool has_more_keys()
 {
-    static const int key_max_of_me[ME_COUNT] = {5, 0, 1, 2, 3, 4}; // GL_KeyMax by P/P, M/E-1 to 5
+    constexpr int key_max_of_me[ME_COUNT] = {5, 0, 1, 2, 3, 4}; // GL_KeyMax by P/P, M/E-1 to 5
     const int me = Page_MeIndex(GL_NowPage);
     return isNowPageMeKey(0) != 0 && me >= 0 && me < ME_COUNT && GL_KeyMax[key_max_of_me[me]] > 4;
 }
@@ -156,7 +162,8 @@ static void create_menu_macro()
     if (!ba_records_menu_macro())
         return;
     ba_drw_menu_macro();
-    if (!ba.Default_enable && !ba.SetupLock_enable)
+    ba.MM_Default_enable = !ba.Default_enable && !ba.SetupLock_enable;
+    if (ba.MM_Default_enable)
         ba_drw_menu_macro_default();
 }
 
@@ -259,7 +266,7 @@ static void press_lower_left()
         ba.DefaultKey.redraw = 1;
     } else if (ba.SetupLock_enable) {
         toggle_setup_lock();
-    } else if (ba_records_menu_macro() && ba.Base.id <= 2) {
+    } else if (ba.MM_Default_enable) {
         push(ba.MM_Default_Pos);
     }
 }
@@ -535,7 +542,7 @@ void BA_RedrawTitle()
 
 void BA_RedrawMenuMacro()
 {
-    if (!ba_records_menu_macro())
+    if (!ba_records_menu_macro() || !ba.Base.create_func || has_regions())
         return;
     ba.MM.redraw = 1;
     ba.Prev.redraw = 1;
@@ -553,5 +560,5 @@ void BA_SetRegionGrp(int grp)
 {
     ba.RegionGrp = grp;
     PaneRegion_InitID(grp);
-    ba.Region.redraw = ba.Base.id >= 4; // only file pages have it
+    ba.Region.redraw = has_regions();
 }

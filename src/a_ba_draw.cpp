@@ -87,7 +87,7 @@ Rect ba_drw_pagebtn()
 static SDL_Surface* title_band()
 {
     // by side, form and look
-    static SDL_Surface** const bands[2][2][2] = {
+    constexpr SDL_Surface** bands[2][2][2] = {
         {{&G_TIT_ura_off, &G_TIT_ura_on}, {&G_TIT_ura_s_off, &G_TIT_ura_s_on}},
         {{&G_TIT_omote_off, &G_TIT_omote_on}, {&G_TIT_omote_s_off, &G_TIT_omote_s_on}},
     };

@@ -27,9 +27,10 @@ struct BaseArea {
     BaseWidget MM_Default_Pos;
     BaseWidget KF;
     int Default = 0; // default recall is armed
-    // Whether the widget exists on this page. At most one of each pair.
+    // Whether the widget exists on this page. At most one at lower left, one beside the title.
     int Default_enable = 0;
     int SetupLock_enable = 0;
+    int MM_Default_enable = 0;
     int MainSub_enable = 0;
     int KeyChange_enable = 0;
     int MainSub_mode = 0;  // 1: the sub side is shown

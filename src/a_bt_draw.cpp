@@ -436,7 +436,7 @@ static bool reference_has_lights()
 
 static bool light_is_active(const BT_MEM* b)
 {
-    static const char* const captions[] = {"Light 1", "Light 2", "Light 3"};
+    constexpr const char* captions[] = {"Light 1", "Light 2", "Light 3"};
     static_assert(std::size(captions) == std::size(GL_LightActive));
     if (!b->caption || !reference_has_lights())
         return false;

@@ -22,9 +22,9 @@ static bool is(const char* tally, const char* value)
     return strcmp(tally, value) == 0;
 }
 
-// Border of a key. Tallies: 1 key type, 2 separate edge, 3 border on one side only, 4 its soft
-// form. A pattern key has one border; a separate one has a width a side; half the range where it is
-// one-sided and hard.
+// Border of a key. Tallies: 1 key type, 2 separate edge, 3 and 4 that together halve the range.
+// A pattern key has one plain border; a separate edge has a width a side. Without a tally the edge
+// counts as separate.
 static const NB_TBL* key_edge_border(const BT_MEM* b)
 {
     if (is(b->tally[1], "Wipe Pattern") || is(b->tally[1], "Key Wipe Pattern"))

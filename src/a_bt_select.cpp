@@ -94,7 +94,7 @@ int bt_sel_tab(BT_MEM* b)
 
 static uint32_t bank_offset()
 {
-    static const struct {
+    constexpr struct {
         const char* bank;
         uint32_t offset;
     } banks[] = {

@@ -9,20 +9,20 @@ using testing::IsEmpty;
 
 struct ButtonFamily : ButtonPage {
     BT_TBL rows[BT_MAX + 1];
+    char dependency[BT_COMMANDS][32];
 
     // One button with a tally function of the family; its dependencies are "~@1" to "~@7" with
     // these conditions.
     void OpenTally(int (*tally)(BT_MEM*, int, const char*, const char*),
                    std::initializer_list<const char*> conditions)
     {
-        static char cmd[BT_COMMANDS][32];
         rows[0] = Button(17, BT_TOGGLE, {"~@0#*"});
         rows[1] = {.id = -1};
         rows[0].tally_func = tally;
         int n = 1;
         for (const char* condition : conditions) {
-            PrintText(cmd[n], "~@%d#%s", n, condition);
-            rows[0].cmd[n] = cmd[n];
+            PrintText(dependency[n], "~@%d#%s", n, condition);
+            rows[0].cmd[n] = dependency[n];
             n++;
         }
         Open(rows);
@@ -220,6 +220,7 @@ TEST_F(KeyPriority, NothingIsSentWhileTheOrderIsUnknown)
     Press(0x11);
     Priority("1,1,2,3"); // rubbish: nobody has the last place
     Press(0x11);
+    Press(0x13);
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
 }
 
