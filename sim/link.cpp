@@ -156,6 +156,57 @@ std::vector<int> Link_Clients(LinkKind kind)
     return numbers;
 }
 
+// --- Sending ---
+
+static void link_flush(Client& client, int64_t now)
+{
+    while (client.fd >= 0 && client.out_at < client.out.size() && now >= client.next_write_ms) {
+        size_t count = client.out.size() - client.out_at;
+        if (lk.piece_bytes)
+            count = std::min(count, lk.piece_bytes);
+        const ssize_t sent =
+            send(client.fd, client.out.data() + client.out_at, count, MSG_DONTWAIT | MSG_NOSIGNAL);
+        if (sent < 0 && (errno == EAGAIN || errno == EINTR))
+            break;
+        if (sent < 0)
+            return link_lose(client, "takes no more");
+        client.out_at += size_t(sent);
+        if (!lk.piece_bytes)
+            continue;
+        client.next_write_ms = now + lk.piece_gap_ms;
+        break; // one piece a turn, so that each is a segment of its own
+    }
+    if (client.out_at == client.out.size()) {
+        client.out.clear();
+        client.out_at = 0;
+    } else if (client.out_at > (1 << 16)) {
+        client.out.erase(0, client.out_at);
+        client.out_at = 0;
+    }
+}
+
+void Link_SendBytes(int client, std::string_view bytes)
+{
+    Client* c = Link_Find(client);
+    if (!c)
+        return;
+    if (c->out.size() - c->out_at + bytes.size() > LINK_OUT_BYTES)
+        return link_lose(*c, "is too slow");
+    c->out += bytes;
+}
+
+void Link_SendLine(int client, const std::string& line)
+{
+    Log_Traffic(client, '>', line);
+    Link_SendBytes(client, line + "\n");
+}
+
+size_t Link_Waiting(int client)
+{
+    const Client* c = Link_Find(client);
+    return c ? c->out.size() - c->out_at : 0;
+}
+
 // --- Receiving ---
 
 static void link_hear(const Client& client, const std::string& text)
@@ -226,8 +277,6 @@ static void link_split_frames(Client& client)
     }
 }
 
-static void link_flush(Client& client, int64_t now);
-
 static void link_read(Client& client, int64_t now)
 {
     char bytes[16384];
@@ -246,57 +295,6 @@ static void link_read(Client& client, int64_t now)
         link_split_frames(client);
     else
         link_split_lines(client);
-}
-
-// --- Sending ---
-
-static void link_flush(Client& client, int64_t now)
-{
-    while (client.fd >= 0 && client.out_at < client.out.size() && now >= client.next_write_ms) {
-        size_t count = client.out.size() - client.out_at;
-        if (lk.piece_bytes)
-            count = std::min(count, lk.piece_bytes);
-        const ssize_t sent =
-            send(client.fd, client.out.data() + client.out_at, count, MSG_DONTWAIT | MSG_NOSIGNAL);
-        if (sent < 0 && (errno == EAGAIN || errno == EINTR))
-            break;
-        if (sent < 0)
-            return link_lose(client, "takes no more");
-        client.out_at += size_t(sent);
-        if (!lk.piece_bytes)
-            continue;
-        client.next_write_ms = now + lk.piece_gap_ms;
-        break; // one piece a turn, so that each is a segment of its own
-    }
-    if (client.out_at == client.out.size()) {
-        client.out.clear();
-        client.out_at = 0;
-    } else if (client.out_at > (1 << 16)) {
-        client.out.erase(0, client.out_at);
-        client.out_at = 0;
-    }
-}
-
-void Link_SendBytes(int client, std::string_view bytes)
-{
-    Client* c = Link_Find(client);
-    if (!c)
-        return;
-    if (c->out.size() - c->out_at + bytes.size() > LINK_OUT_BYTES)
-        return link_lose(*c, "is too slow");
-    c->out += bytes;
-}
-
-void Link_SendLine(int client, const std::string& line)
-{
-    Log_Traffic(client, '>', line);
-    Link_SendBytes(client, line + "\n");
-}
-
-size_t Link_Waiting(int client)
-{
-    const Client* c = Link_Find(client);
-    return c ? c->out.size() - c->out_at : 0;
 }
 
 // --- The main loop ---

@@ -419,12 +419,12 @@ class Knobs(SimTest):
 class Faults(SimTest):
     def test_a_dropped_link_leaves_the_others_and_stays_down_as_long_as_asked(self):
         text, frames = self.client(), self.client(BIN)
-        self.do("drop text 400")
+        self.do("drop text 1000")
         self.assertTrue(text.has_ended())
         self.assertFalse(frames.has_ended(0.1))
         with self.assertRaises(OSError):
             Client(TEXT)
-        time.sleep(0.5)
+        time.sleep(1.2)
         self.assertEqual(self.client().sync(), [])
 
     def test_refuse_keeps_who_is_there(self):
@@ -445,16 +445,19 @@ class Faults(SimTest):
         for fault in ("dribble on", "split 7"):
             self.do(fault)
             self.wait_for_log(fault)
-            panel.send(f"read {UNITS}")
-            self.assertTrue(panel._fill(3))
-            self.assertNotEqual(panel.bytes[-1:], b"\n")  # came in part
-            self.assertEqual(panel.sync(), whole)
+            in_part = 0
+            for _ in range(10):  # a busy machine may gather the pieces before they are read
+                panel.send(f"read {UNITS}")
+                panel._fill(3)
+                in_part += panel.bytes[-1:] != b"\n"
+                self.assertEqual(panel.sync(), whole)
+            self.assertGreater(in_part, 0, fault)
         self.do("split 0")
 
     def test_a_stall_delays_and_loses_nothing(self):
         panel = self.client()
-        self.do("stall 400")
-        self.wait_for_log("stall 400")
+        self.do("stall 1000")
+        self.wait_for_log("stall 1000")
         panel.send("put A#1")
         self.assertIsNone(panel.line(0.2))
         self.assertEqual(panel.line(), "A#1")
@@ -483,6 +486,23 @@ class Faults(SimTest):
         with open(self.log, encoding="latin-1") as log:
             self.assertNotIn("too slow", log.read())  # nothing piles up for it either
 
+    def test_a_client_that_lets_too_much_pile_up_is_dropped_alone(self):
+        lazy, hub = self.client(), self.client(HUB)
+        lazy.send("add A")
+        self.do(*["raw " + "x" * 100000] * 500)
+        self.wait_for_log("too slow", 10)
+        self.assertFalse(hub.has_ended(0.1))
+        self.assertEqual(self.client().sync(), [])
+
+    def test_more_clients_than_there_is_room_for_are_turned_away(self):
+        clients = [self.client() for _ in range(32)]
+        clients[31].sync()
+        self.assertTrue(self.client().has_ended())
+        self.assertEqual(clients[0].sync(), [])
+        clients[1].close()
+        time.sleep(0.1)
+        self.assertEqual(self.client().sync(), [])
+
     def test_a_flood_comes_to_the_last_line(self):
         panel = self.client()
         self.do("flood 20000")
@@ -491,7 +511,7 @@ class Faults(SimTest):
 
     def test_garbage_hits_all_links_and_the_next_line_is_clean(self):
         panel, frames, hub = self.client(), self.client(BIN), self.client(HUB)
-        self.do("garbage 200")
+        self.do("garbage 400")
         self.wait_for_log("garbage is over")
         got = panel.sync()
         self.assertGreater(len(got), 50)
@@ -507,7 +527,7 @@ class Faults(SimTest):
             panel = self.client()
             self.do("garbage 1")
             self.wait_for_log("garbage is over")
-            return panel.sync()[:20]
+            return panel.sync()[:8]  # of the first turn, which is the same for all
         runs = []
         for seed in ("7", "7", "8"):
             self.stop()
@@ -545,6 +565,35 @@ class OtherLinks(SimTest):
         panel = self.client()
         hub.send("Listen#CS1.ClipStoreInfo")
         self.assertEqual(panel.line(), "heard")
+
+
+class Life(SimTest):
+    def test_without_a_console_it_serves_on_until_a_signal(self):
+        self.sim.stdin.close()
+        time.sleep(0.05)
+        self.assertEqual(self.client().sync(), [])
+        self.sim.terminate()
+        self.assertEqual(self.sim.wait(3), 0)
+
+    def test_a_mistake_on_the_console_ends_nothing(self):
+        self.do("bogus", "knob 9 +1", "get A")
+        output = self.output()
+        self.assertIn("no such command: bogus", output)
+        self.assertIn("usage: knob", output)
+        self.assertIn("A#\n", output)
+        self.assertEqual(self.sim.wait(3), 0)
+
+    def test_it_does_not_start_beside_another_or_with_bad_options(self):
+        for arguments, status in (([], 1), (["--seed", "x"], 2), (["extra"], 2), (["--listen", "here"], 1)):
+            run = subprocess.run([SIM, "--quiet", *arguments], capture_output=True, text=True)
+            self.assertEqual((run.returncode, run.stderr != ""), (status, True), arguments)
+
+    def test_who_stops_sending_still_gets_the_answer(self):
+        panel = self.client()
+        panel.send(f"read {UNITS}")
+        panel.socket.shutdown(socket.SHUT_WR)
+        self.assertEqual(len(panel.lines(10)), 10)
+        self.assertTrue(panel.has_ended())
 
 
 class Scripts(SimTest):
