@@ -125,7 +125,6 @@ static void info_decay(int elapsed_ms)
         FileProc_Timeout -= elapsed_ms;
     if (FileProc_Timeout > 0)
         return;
-    FileProc_Timeout = 0;
     bool fell = false;
     for (int& prog : FileProc_Prog) {
         if (prog <= 0)

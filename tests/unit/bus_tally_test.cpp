@@ -313,7 +313,8 @@ TEST_F(BusTally, AChangeOfModeLeavesAPageThatDoesNotExistInIt)
         {0x13110000, "Single Proc", 0},          // no change
         {0x11110000, "Single Simul", PAGE_TOP},  // M/E-1 is hidden in it
         {0x13110000, "Single Proc", 0x13110000}, // still there: built anew
-        {0x13110000, "Dual Simul", 0x13110000},
+        {0x13110001, "Dual Simul", 0x13110001},
+        {0x131100AA, "Single Proc", 0x13110000}, // gone: its tab
     };
     for (const auto& c : cases) {
         GL_NowPage = c.page;
@@ -481,8 +482,11 @@ TEST_F(BusTally, AMenuKeyReopensItsPage)
         int result;
         uint32_t request;
     } cases[] = {
-        {"M/E-2", PAGE_TOP, 1, 0x12110000}, {"M/E-2", 0x12110000, 1, 0}, // shown already
-        {"Setup", PAGE_TOP, 1, 0x73110000}, {"No such menu", PAGE_TOP, 1, 0}, {"", PAGE_TOP, 1, 0},
+        {"M/E-2", PAGE_TOP, 1, 0x12110000},
+        {"M/E-2", 0x12110000, 1, 0}, // shown already
+        {"Setup", PAGE_TOP, 1, 0x73110000},
+        {"DME", PAGE_TOP, 1,
+         0x41110000}, // not in 4K only {"No such menu", PAGE_TOP, 1, 0}, {"", PAGE_TOP, 1, 0},
     };
     for (const auto& c : cases) {
         GL_NowPage = c.now;
