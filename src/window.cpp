@@ -13,6 +13,11 @@ int CreateWindow(int, const char*, const WindowArgs&)
     return -1;
 }
 
+int ChangeWindow(const char*, const char*, const char*, const char*)
+{
+    return -1;
+}
+
 int CloseWindow()
 {
     return 0;
