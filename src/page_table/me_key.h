@@ -253,7 +253,7 @@ static_assert(ButtonsAreSound(bt_me_key_submask));
 
 inline constexpr MePage me_key_pages[] = {
     {.page = {.id = 0x11110000, .tree = {"M/E-1", "Key1", "Type"},
-              .obj = {Base(base_main), Buttons(bt_me_key_type)}}},
+              .obj = {Base(base_main), Buttons(bt_me_key_type), Boxes(NB_Non)}}},
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},
               .obj = {Base(base_sub, 0x11110000), Buttons(bt_me_key_chroma_adjust)}}},
     {.page = {.id = 0x11110002, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust"},
@@ -261,11 +261,11 @@ inline constexpr MePage me_key_pages[] = {
     {.page = {.id = 0x11110003, .tree = {"M/E-1", "Key1", "Type", "Signal Select"},
               .obj = {Base(base_sub, 0x11110000), Buttons(bt_me_key_signal_select)}}},
     {.page = {.id = 0x11120000, .tree = {"M/E-1", "Key1", "Edge"},
-              .obj = {Base(base_main), Buttons(bt_me_key_edge)}}},
+              .obj = {Base(base_main), Buttons(bt_me_key_edge), Boxes(NB_Non)}}},
     {.page = {.id = 0x11130000, .tree = {"M/E-1", "Key1", "Main Mask"},
-              .obj = {Base(base_main), Buttons(bt_me_key_mainmask)}}},
+              .obj = {Base(base_main), Buttons(bt_me_key_mainmask), Boxes(NB_Non)}}},
     {.page = {.id = 0x11140000, .tree = {"M/E-1", "Key1", "Sub Mask"},
-              .obj = {Base(base_main), Buttons(bt_me_key_submask)}}},
+              .obj = {Base(base_main), Buttons(bt_me_key_submask), Boxes(NB_Non)}}},
 };
 
 static_assert(ForBankAndKey(me_key_pages[0].page, me_banks[1], me_keys[1]).id == 0x12210000);
