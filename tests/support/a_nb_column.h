@@ -1,0 +1,126 @@
+// a_nb_column: the knob column on a test page, driven through the bus; what its page code hears of
+// the knobs is written down.
+#pragma once
+#include "a_ba.h"
+#include "a_nb.h"
+#include "a_pc.h"
+#include "bus.h"
+#include "command.h"
+#include "global.h"
+#include "harness.h"
+#include "message.h"
+#include "page.h"
+#include "tdl.h"
+#include "window.h"
+#include <cmath>
+#include <functional>
+#include <utility>
+
+struct KnobColumn : testing::Test {
+    PAGE page{.id = 0x11110000,
+              .tree = {"M/E-1", "Key1", "Type"},
+              .obj = {{OBJ_NB, nullptr, 0}, {OBJ_PC, nullptr, 0}}};
+    static inline std::vector<std::string> told;
+    static inline std::function<void(int msg)> answer; // what the page code does about it
+    static inline bool exact_var = false;              // LMSG_KNOBVAR points to its value
+
+    static std::string Number(double v)
+    {
+        char text[32];
+        snprintf(text, sizeof text, "%.2f", v);
+        return text;
+    }
+    static std::string Pointed(MsgArg a) { return Number(*reinterpret_cast<const double*>(a)); }
+
+    static int WriteDown(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+    {
+        const std::string id = std::to_string(ax), whole = std::to_string(bx);
+        const std::string screen = cx == 1 ? " screen" : "";
+        switch (msg) {
+        case LMSG_KNOBCREATE: told.push_back("create " + std::string(Text(bx))); break;
+        case LMSG_KNOBVAR:
+            told.push_back("var " + id + " " + (exact_var ? Pointed(bx) : whole) + screen);
+            break;
+        case LMSG_KNOBFVAR: told.push_back("fvar " + id + " " + Pointed(bx) + screen); break;
+        case LMSG_KNOBDIFF: told.push_back("diff " + id + " " + Pointed(bx)); break;
+        case LMSG_KNOBUPPER: told.push_back("upper " + id + " " + whole); break;
+        case LMSG_KNOBLOWER: told.push_back("lower " + id + " " + whole); break;
+        case LMSG_KNOBDEFAULT: told.push_back("default " + id); break;
+        case LMSG_KNOBRELEASE: told.push_back("layer " + id); break;
+        default: return 0;
+        }
+        if (answer)
+            answer(msg);
+        return 0;
+    }
+    static inline const PC_TBL probe{.proc_func = WriteDown};
+
+    void SetUp() override
+    {
+        Harness_Reset();
+        PC_Create(&probe, 0);
+        Page = &page;
+        GL_NowPage = page.id;
+        GL_NowTree = page.tree;
+        GL_MouseSliderControl = 0;
+        BA_SetDefaultButton(0);
+        NB_Create(nullptr, nullptr);
+        exact_var = false;
+        Forget();
+    }
+    void TearDown() override
+    {
+        CloseWindow();
+        NB_Create(nullptr, nullptr);
+        PC_Create(nullptr, 0);
+        BA_SetDefaultButton(0);
+        GL_MouseSliderControl = 0;
+        answer = nullptr;
+        Page_Reset();
+        SDL_Event e;
+        while (SDL_PollEvent(&e)) {
+        }
+        (void)TakeQueuedCommands();
+    }
+
+    static void Forget()
+    {
+        told.clear();
+        (void)TakeQueuedCommands();
+    }
+    static std::vector<std::string> Told() { return std::exchange(told, {}); }
+    static void Open(const NB_TBL* table, const char* title = "Chroma")
+    {
+        NB_Create(table, title);
+        while (NB_GetLayer() != 0) // where an earlier test left it
+            PressTitle();
+        Forget();
+    }
+    static void Tally(const char* path, const char* value)
+    {
+        SendMessage(MSG_TALLY, Arg(path), Arg(value), MsgArg(Hash(path)), 0);
+    }
+    static void Pass(int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    static int Middle(int slot) { return 127 + 82 * (slot - 1) + 40; } // y of a slot
+    static void PressSlot(int slot, int button = 1)
+    {
+        SendMessage(MSG_PRESS, 750, Middle(slot), button, 0);
+    }
+    static void PressTitle() { SendMessage(MSG_PRESS, 750, 100, 1, 0); }
+    static void Drag(int x, bool left, bool right) { SendMessage(MSG_DRAG, x, 300, left, right); }
+    static void Wheel(int msg, int slot) { SendMessage(msg, 750, Middle(slot), 0, 0); }
+
+    // The shown value of a box by its caption; NAN for none of that caption.
+    static double Shown(const char* caption)
+    {
+        char path[CMD_SIZE];
+        double v = 0;
+        return NB_GetKnob_info(caption, path, &v, sizeof path) < 0 ? double(NAN) : v;
+    }
+    static std::string PathOf(const char* caption)
+    {
+        char path[CMD_SIZE] = "";
+        double v = 0;
+        return NB_GetKnob_info(caption, path, &v, sizeof path) < 0 ? "none" : path;
+    }
+};

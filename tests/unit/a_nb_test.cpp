@@ -1,0 +1,632 @@
+#include "a_nb_column.h"
+#include <cmath>
+#include <gmock/gmock.h>
+#include <tuple>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using Lines = std::vector<std::string>;
+
+// Every kind of path; two layers.
+static const NB_TBL table[] = {
+    {.id = 1, .caption = "Clip", .type = NB_2, .min = 0, .max = 100, .cmd = "~@$@Clip"},
+    {.id = 2,
+     .caption = "Lines",
+     .type = NB_INT,
+     .min = 0,
+     .max = 9,
+     .cmd = "Panel@Common@Knob1",
+     .scale = 7},
+    {.id = 3,
+     .caption = "Shift",
+     .type = NB_1,
+     .min = -10,
+     .max = 10,
+     .cmd = "LOCAL@Panel@Common@Knob2",
+     .scale = 0.5},
+    {.id = 4, .caption = "Pages", .type = NB_INT, .min = 1, .max = 20, .cmd = "LOCAL"},
+    {.id = 5, .caption = "Spare", .type = NB_4, .min = 0, .max = 1, .cmd = ""},
+    {.id = 17, .caption = "Level", .type = NB_2, .min = 109.59, .max = -7.31, .cmd = "~@Level"},
+    {.id = 18, .caption = "Time", .type = NB_TC, .min = -900, .max = 900, .cmd = "~@Time"},
+    NB_END,
+};
+static const NB_TBL one[] = {
+    {.id = 1, .caption = "Gain", .type = NB_2, .min = -100, .max = 100, .cmd = "~2@Gain"},
+    NB_END,
+};
+constexpr char CLIP[] = "M/E-1@Key1@Type@Chroma@Clip";
+constexpr char LEVEL[] = "M/E-1@Key1@Type@Level";
+
+// --- Tables and layers ---
+
+TEST_F(KnobColumn, ATableTakesTheKnobsAndTheNextOneGivesThemBackFirst)
+{
+    EXPECT_EQ(NB_Create(table, "Chroma"), 0);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("add M/E-1@Key1@Type@Chroma@Clip", "add Panel@Common@Knob1",
+                            "add Panel@Common@Knob2", "add M/E-1@Key1@Type@Level",
+                            "add M/E-1@Key1@Type@Time", "assign Knob0#M/E-1@Key1@Type@Chroma@Clip",
+                            "assign Knob1#Panel@Common@Knob1", "assign Knob2#Panel@Common@Knob2"));
+    EXPECT_THAT(Told(), ElementsAre("create Chroma"));
+    NB_Create_NoAdd(one, "Gain");
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("assign Knob0#null", "assign Knob1#null", "assign Knob2#null",
+                            "remove M/E-1@Key1@Type@Chroma@Clip", "remove Panel@Common@Knob1",
+                            "remove Panel@Common@Knob2", "remove M/E-1@Key1@Type@Level",
+                            "remove M/E-1@Key1@Type@Time", "assign Knob0#M/E-1@Key1@Gain"));
+    // What the page code subscribed is the page code's to remove; that holds for one table.
+    NB_Create(one, "Gain");
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("assign Knob0#null", "add M/E-1@Key1@Gain",
+                                                  "assign Knob0#M/E-1@Key1@Gain"));
+    EXPECT_EQ(NB_Create(nullptr, ""), 1);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("assign Knob0#null", "remove M/E-1@Key1@Gain"));
+}
+
+TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
+{
+    Open(table);
+    PressTitle();
+    EXPECT_EQ(NB_GetLayer(), 1);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("assign Knob0#null", "assign Knob1#null", "assign Knob2#null",
+                            "assign Knob0#M/E-1@Key1@Type@Level",
+                            "assign Knob1#M/E-1@Key1@Type@Time"));
+    EXPECT_THAT(Told(), ElementsAre("layer 1"));
+    PressTitle();
+    EXPECT_EQ(NB_GetLayer(), 0);
+    Open(one);
+    PressTitle();
+    EXPECT_THAT(Told(), IsEmpty());
+}
+
+TEST_F(KnobColumn, ATableComesBackOnItsLayerUntil256OthersHaveComeAndGone)
+{
+    static NB_TBL first[3], others[256][3];
+    const auto two_layers = [](NB_TBL* rows) {
+        rows[0] = {.id = 1, .caption = "A", .cmd = ""};
+        rows[1] = {.id = 17, .caption = "B", .cmd = ""};
+        rows[2] = NB_END;
+        return rows;
+    };
+    NB_Create(two_layers(first), "");
+    PressTitle();
+    for (int i = 0; i < 255; i++)
+        NB_Create(two_layers(others[i]), "");
+    NB_Create(first, "");
+    EXPECT_EQ(NB_GetLayer(), 1);
+    NB_Create(two_layers(others[255]), "");
+    NB_Create(first, "");
+    EXPECT_EQ(NB_GetLayer(), 0);
+}
+
+TEST_F(KnobColumn, BoxesBeyondTenAndOutsideTheSlotsAreLeftOut)
+{
+    static NB_TBL many[13];
+    for (int i = 0; i < 12; i++)
+        many[i] = {.id = (i / 5) << 4 | (i % 5 + 1), .caption = "Full", .cmd = ""};
+    many[1].id = 6;
+    many[11].caption = "Late";
+    many[12] = NB_END;
+    Open(many);
+    EXPECT_EQ(NB_SetVar(6, 1), -1);
+    EXPECT_EQ(NB_SetVar(33, 1), 0); // the tenth that counts
+    EXPECT_EQ(NB_SetVar(34, 1), -1);
+    EXPECT_EQ(NB_PushTable(one), -1);
+}
+
+TEST_F(KnobColumn, RowsComeAndGoByThemselves)
+{
+    static const NB_TBL extra[] = {{.id = 2, .caption = "Extra", .cmd = "~2@Extra"}, NB_END};
+    static const NB_TBL twin[] = {{.id = 19, .caption = "Twin", .cmd = "~2@Extra"}, NB_END};
+    Open(one, "Gain");
+    EXPECT_EQ(NB_AddTable(extra), 0);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("add M/E-1@Key1@Extra", "assign Knob1#M/E-1@Key1@Extra"));
+    EXPECT_EQ(NB_PushTable2(extra), 0);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("assign Knob1#null", "remove M/E-1@Key1@Extra", "add M/E-1@Key1@Extra",
+                            "assign Knob1#M/E-1@Key1@Extra"));
+    NB_PushTable(twin);
+    PressTitle();
+    Forget();
+    // The other box of the path still needs the subscription; its layer goes with the last of it.
+    EXPECT_EQ(NB_PopTable(), 0);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("assign Knob2#null", "assign Knob0#M/E-1@Key1@Gain",
+                            "assign Knob1#M/E-1@Key1@Extra"));
+    EXPECT_EQ(NB_GetLayer(), 0);
+    EXPECT_EQ(NB_DeleteTable(1), 0);
+    EXPECT_EQ(NB_DeleteTable(1), -1);
+    EXPECT_EQ(PathOf("Extra"), "M/E-1@Key1@Extra");
+    EXPECT_EQ(NB_PopTable2(extra), 0);
+    EXPECT_EQ(NB_PopTable(), -1);
+}
+
+TEST_F(KnobColumn, AnotherCommandTakesTheKnobAlongAndForgetsTheValue)
+{
+    Open(one, "Key\nGain"); // a line end would cut the command
+    Tally("M/E-1@Key1@Gain", "12");
+    EXPECT_EQ(NB_SetCommand(1, "~2@Phase@$"), 0);
+    NB_SetCommand_NoAdd(1, "~2@Left");
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("assign Knob0#null", "remove M/E-1@Key1@Gain",
+                            "add M/E-1@Key1@Phase@Key Gain",
+                            "assign Knob0#M/E-1@Key1@Phase@Key Gain", "assign Knob0#null",
+                            "remove M/E-1@Key1@Phase@Key Gain", "assign Knob0#M/E-1@Key1@Left"));
+    EXPECT_EQ(Shown("Gain"), 0);
+    Tally("M/E-1@Key1@Gain", "13");
+    EXPECT_EQ(Shown("Gain"), 0);
+    Tally("M/E-1@Key1@Left", "14");
+    EXPECT_EQ(Shown("Gain"), 14);
+}
+
+// --- Tallies and knobs ---
+
+TEST_F(KnobColumn, APathDecidesWhatATallyDoes)
+{
+    static const struct {
+        const char* path;
+        const char* value;
+        Lines heard;
+    } cases[] = {
+        {CLIP, "37.5", {}},
+        {"Panel@Common@Knob1", "14", {"var 2 2", "fvar 2 2.00"}},
+        {"Panel@Common@Knob1", "1", {"fvar 2 2.14"}}, // less than a unit
+        {"Panel@Common@Knob2", "-3", {"diff 3 -1.50"}},
+        {"LOCAL@Panel@Common@Knob2", "1", {}},
+        {"Panel@Common@Knob3", "1", {}},
+        {"LOCAL", "5", {}},
+        {"", "5", {}},
+    };
+    Open(table);
+    for (const auto& c : cases) {
+        Tally(c.path, c.value);
+        EXPECT_EQ(Told(), c.heard) << c.path << " " << c.value;
+    }
+    EXPECT_EQ(Shown("Clip"), 37.5);
+    EXPECT_EQ(Shown("Pages"), 0);
+    EXPECT_EQ(Shown("Spare"), 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(KnobColumn, ATurnStopsAtTheLimitsAndSaysWhich)
+{
+    static const struct {
+        double min, max, from;
+        const char* counts;
+        Lines heard;
+        double to;
+    } cases[] = {
+        {0, 9, 8.5, "70", {"upper 1 9", "fvar 1 9.00"}, 9},
+        {0, 9, 0.4, "-70", {"lower 1 0", "fvar 1 0.00"}, 0},
+        {9, 0, 8.4, "70", {"upper 1 0", "var 1 9", "fvar 1 9.00"}, 9},
+        {9, 0, 0.6, "-70", {"lower 1 9", "var 1 0", "fvar 1 0.00"}, 0},
+        {-9, 0, -0.6, "-1", {"fvar 1 -0.70"}, -0.7}, // both round to -1
+        {-9, 0, -0.6, "2", {"var 1 0", "fvar 1 -0.40"}, -0.4},
+        {0, 9, 4, "1e308", {"upper 1 9", "var 1 9", "fvar 1 9.00"}, 9},
+    };
+    for (const auto& c : cases) {
+        const NB_TBL rows[] = {{.id = 1,
+                                .caption = "Turn",
+                                .type = NB_INT,
+                                .min = c.min,
+                                .max = c.max,
+                                .cmd = "Panel@Common@Knob0",
+                                .scale = 10},
+                               NB_END};
+        Open(rows);
+        NB_SetVar(1, c.from);
+        Tally("Panel@Common@Knob0", c.counts);
+        EXPECT_EQ(Told(), c.heard) << c.min << " " << c.max << " " << c.counts;
+        EXPECT_NEAR(Shown("Turn"), c.to, 1e-9);
+    }
+}
+
+TEST_F(KnobColumn, KnobsOfAnotherLayerAndUnderAWindowAreDead)
+{
+    Open(table);
+    PressTitle();
+    Forget();
+    Tally("Panel@Common@Knob1", "70");
+    Tally("Panel@Common@Knob2", "70");
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(Shown("Lines"), 0);
+    PressTitle();
+    PressSlot(2);
+    if (!GetWindow())
+        GTEST_SKIP() << "no windows in this build";
+    Forget();
+    Tally("Panel@Common@Knob1", "70");
+    Tally(CLIP, "40");
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(Shown("Lines"), 0);
+    EXPECT_EQ(Shown("Clip"), 40);
+    CloseWindow();
+    Tally("Panel@Common@Knob1", "7");
+    EXPECT_EQ(Shown("Lines"), 1);
+}
+
+TEST_F(KnobColumn, PageCodeMayChangeValueAndTableWhileItHearsOfATurn)
+{
+    static int recording_kept_out;
+    recording_kept_out = 0;
+    answer = [](int msg) {
+        recording_kept_out += GL_MM_Knob_Protcol;
+        if (msg == LMSG_KNOBUPPER)
+            NB_SetVar(2, 0); // goes round
+    };
+    Open(table);
+    NB_SetVar(2, 8);
+    Tally("Panel@Common@Knob1", "14");
+    EXPECT_THAT(Told(), ElementsAre("upper 2 9", "var 2 0", "fvar 2 0.00"));
+    EXPECT_EQ(recording_kept_out, 2);
+    EXPECT_EQ(GL_MM_Knob_Protcol, 0);
+    // The boxes of the new table do not count the turn again.
+    static const NB_TBL next[] = {
+        {.id = 4, .caption = "Next", .type = NB_INT, .max = 9, .cmd = "LOCAL"},
+        {.id = 2,
+         .caption = "Again",
+         .type = NB_INT,
+         .max = 9,
+         .cmd = "Panel@Common@Knob1",
+         .scale = 1},
+        NB_END};
+    Open(next + 1);
+    answer = [](int msg) {
+        if (msg == LMSG_KNOBVAR)
+            NB_Create(next, "");
+    };
+    Tally("Panel@Common@Knob1", "3");
+    EXPECT_EQ(Shown("Again"), 0);
+}
+
+TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
+{
+    Open(table);
+    Tally(CLIP, "50");
+    NB_SetVar(2, 5);
+    for (const char* rubbish : {"nan", "inf", "-inf", "1e999"}) {
+        Tally(CLIP, rubbish);
+        Tally("Panel@Common@Knob1", rubbish);
+        Tally("Panel@Common@Knob2", rubbish);
+        EXPECT_EQ(Shown("Clip"), 50) << rubbish;
+        EXPECT_EQ(Shown("Lines"), 5) << rubbish;
+    }
+    EXPECT_THAT(Told(), IsEmpty());
+    TDL_FillRectS(600, 73, 705, 545, 0x123456);
+    for (const char* huge : {"1e300", "-1e300", "99999999999", "1e-300"}) {
+        for (const char* path : {CLIP, LEVEL, "M/E-1@Key1@Type@Time"})
+            Tally(path, huge);
+        NB_SetVar(4, strtod(huge, nullptr));
+        Pass(10);
+        PressTitle();
+        Pass(10);
+    }
+    for (int y = 73; y <= 545; y++)
+        for (int x = 600; x <= 705; x++)
+            ASSERT_EQ(PixelAt(x, y), 0x123456u) << x << "," << y;
+    EXPECT_EQ(NB_SetVar(1, NAN), -1);
+    EXPECT_EQ(NB_SetDispVar(1, INFINITY), -1);
+    EXPECT_EQ(NB_SendValue2(1, NAN), -1);
+    static const NB_TBL unscaled[] = {
+        {.id = 1, .caption = "Zero", .type = NB_2, .max = 9, .cmd = "Panel@Common@Knob0"}, NB_END};
+    Open(unscaled);
+    Tally("Panel@Common@Knob0", "3");
+    EXPECT_EQ(Shown("Zero"), 0);
+}
+
+// --- The operator's changes ---
+
+TEST_F(KnobColumn, ALateTallyDoesNotUpsetStepsThatAddUp)
+{
+    Open(table);
+    Tally(CLIP, "50");
+    Clock_ms += 1000;
+    Wheel(MSG_WHEELDOWN, 1);
+    Clock_ms += 10;
+    Wheel(MSG_WHEELDOWN, 1);
+    Forget();
+    EXPECT_EQ(Shown("Clip"), 50); // until the server says so
+    Tally(CLIP, "50.01");
+    EXPECT_EQ(Shown("Clip"), 50.01);
+    Clock_ms += 10;
+    Wheel(MSG_WHEELDOWN, 1);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Chroma@Clip#52.01",
+                                                  "read M/E-1@Key1@Type@Chroma@Clip"));
+    // The server has the last word: what it said goes on when the operator has rested.
+    Pass(499);
+    Tally(CLIP, "40");
+    Pass(1);
+    Clock_ms += 1000;
+    Wheel(MSG_WHEELUP, 1);
+    Clock_ms += 10;
+    Forget();
+    Wheel(MSG_WHEELUP, 1);
+    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#39.00"));
+}
+
+TEST_F(KnobColumn, TheWheelStepsByItsSpeedAndByOnesWhereOnesCount)
+{
+    static const struct {
+        int type;
+        double min, max;
+        int pause_ms;
+        int msg;
+        const char* sent;
+    } cases[] = {
+        {NB_2, 0, 200, 10, MSG_WHEELDOWN, "put V#52.00"},
+        {NB_2, 0, 200, 100, MSG_WHEELDOWN, "put V#50.20"},
+        {NB_2, 0, 200, 10, MSG_WHEELUP, "put V#48.00"},
+        {NB_2, 0, 200, 0, MSG_WHEELDOWN, "put V#70.00"}, // a step in the same ms: 1 ms
+        {NB_2, 200, 0, 10, MSG_WHEELDOWN, "put V#48.00"},
+        {NB_INT, 0, 200, 1, MSG_WHEELDOWN, "put V#51"},
+        {NB_INT, 200, 0, 1, MSG_WHEELDOWN, "put V#49"},
+        {NB_TC, 0, 200, 1, MSG_WHEELUP, "put V#00:01:19"},
+        {NB_2, 0, 50.5, 1, MSG_WHEELDOWN, "put V#50.50"},
+        {NB_1, 60, 49.8, 1, MSG_WHEELDOWN, "put V#49.8"},
+    };
+    SYS_FrameRate = 30;
+    SYS_Format_Size = 0; // 30 frames a second
+    for (const auto& c : cases) {
+        const NB_TBL rows[] = {
+            {.id = 1, .caption = "V", .type = c.type, .min = c.min, .max = c.max, .cmd = "V"},
+            NB_END};
+        Open(rows);
+        Clock_ms += 1000;
+        Wheel(c.msg, 1); // sets the time of the last step
+        Pass(500);
+        Tally("V", "50");
+        Forget();
+        Clock_ms += uint32_t(c.pause_ms);
+        Wheel(c.msg, 1);
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.sent, "read V")) << c.min << " " << c.max;
+    }
+    SendMessage(MSG_WHEELDOWN, 700, Middle(1), 0, 0);
+    SendMessage(MSG_WHEELDOWN, 750, 100, 0, 0);
+    SendMessage(MSG_WHEELDOWN, 750, Middle(2), 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndTheRightButtonDrags)
+{
+    static const struct {
+        double var;
+        int x;
+    } grabs[] = {{25, 734}, {-5, 714}, {130, 794}};
+    GL_MouseSliderControl = 1;
+    Open(table);
+    for (const auto& g : grabs) {
+        NB_SetVar(1, g.var);
+        PressSlot(1);
+        int x = 0, y = 0;
+        SDL_GetMouseState(&x, &y);
+        EXPECT_EQ(x, g.x) << g.var;
+        EXPECT_EQ(y, 167);
+    }
+    static const struct {
+        int slider;
+        bool left, right, moves;
+    } holds[] = {{1, false, true, true},
+                 {1, true, false, false},
+                 {0, true, false, true},
+                 {0, false, true, false}};
+    for (const auto& h : holds) {
+        GL_MouseSliderControl = h.slider;
+        Forget();
+        Drag(754, h.left, h.right);
+        EXPECT_EQ(TakeQueuedCommands().size(), h.moves ? 2u : 0u) << h.slider << h.left;
+    }
+    Forget();
+    GL_MouseSliderControl = 1;
+    Drag(2000, false, true);
+    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#100.00"));
+    SendMessage(MSG_RELEASE, 0, 0, 0, 0);
+    Drag(754, false, true);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    // A bar that runs backwards, on the other layer; the armed key does not stop the right button.
+    PressTitle();
+    BA_SetDefaultButton(1);
+    PressSlot(1, 3);
+    Forget();
+    Drag(734, false, true);
+    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Level#80.37"));
+}
+
+TEST_F(KnobColumn, WithoutALinkTheNewValueIsOnlyTold)
+{
+    GL_MouseSliderControl = 1;
+    Open(table);
+    static const struct {
+        int slot;
+        Lines heard;
+        double shown;
+        const char* caption;
+    } cases[] = {
+        {2, {"var 2 5 screen", "fvar 2 4.50 screen"}, 4.5, "Lines"},
+        {3, {"var 3 0 screen", "fvar 3 0.00 screen"}, 7, "Shift"},
+        {4, {"var 4 11 screen", "fvar 4 10.50 screen"}, 7, "Pages"},
+        {5, {}, 7, "Spare"},
+    };
+    for (const auto& c : cases) {
+        NB_SetVar(c.slot, 7);
+        PressSlot(c.slot);
+        Drag(754, false, true);
+        EXPECT_EQ(Told(), c.heard) << c.caption;
+        EXPECT_EQ(Shown(c.caption), c.shown) << c.caption;
+    }
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(KnobColumn, SomePagesBendADraggedValue)
+{
+    static const struct {
+        uint32_t page;
+        const char* caption;
+        double min, max;
+        const char* cmd;
+        int x;
+        Lines sent, heard;
+    } cases[] = {
+        {0x41110000, "", -10, 10, "D@Border/Crop@Crop@H", 794, {"0.00"}, {}},
+        {0x41110000, "", -10, 10, "D@Border/Crop@Crop@All", 714, {"-10.00"}, {}},
+        {0x1A350002, "", -10, 10, "D@Border/Crop@Crop@V", 714, {"0.00"}, {}},
+        {0x1A350003, "", -10, 10, "D@Border/Crop@Crop@V", 714, {"-10.00"}, {}},
+        {0x12360003, "H", -100, 100, "LOCAL", 735, {}, {"var 1 -47.50"}},
+        {0x1A650000, "V", 100, -100, "LOCAL", 735, {}, {"var 1 47.50"}},
+        {0x1A650000,
+         "V",
+         -100,
+         100,
+         "LOCAL",
+         735,
+         {},
+         {"var 1 -48 screen", "fvar 1 -47.50 screen"}},
+        {0x12360002,
+         "H",
+         -100,
+         100,
+         "LOCAL",
+         735,
+         {},
+         {"var 1 -48 screen", "fvar 1 -47.50 screen"}},
+    };
+    GL_MouseSliderControl = 1;
+    for (const auto& c : cases) {
+        const NB_TBL rows[] = {
+            {.id = 1, .caption = c.caption, .type = NB_2, .min = c.min, .max = c.max, .cmd = c.cmd},
+            NB_END};
+        GL_NowPage = c.page;
+        Open(rows);
+        PressSlot(1);
+        exact_var = c.heard.size() == 1;
+        Drag(c.x, false, true);
+        EXPECT_EQ(Told(), c.heard) << std::hex << c.page << c.caption;
+        Lines sent;
+        for (const std::string& text : c.sent)
+            sent = {"put " + std::string(c.cmd) + "#" + text, "read " + std::string(c.cmd)};
+        EXPECT_EQ(TakeQueuedCommands(), sent) << std::hex << c.page << c.cmd;
+    }
+}
+
+TEST_F(KnobColumn, TheMiddleButtonAndTheArmedKeyRecallADefault)
+{
+    Open(table);
+    for (const bool armed : {false, true}) {
+        for (int slot = 1; slot <= 5; slot++) {
+            BA_SetDefaultButton(armed);
+            PressSlot(slot, armed ? 1 : 2);
+            EXPECT_EQ(BA_IsDefaultButton(), 0) << slot;
+        }
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre("default M/E-1@Key1@Type@Chroma@Clip",
+                                                      "read M/E-1@Key1@Type@Chroma@Clip"));
+        EXPECT_THAT(Told(), ElementsAre("default 2", "default 3", "default 4"));
+    }
+}
+
+TEST_F(KnobColumn, APressOpensTheTenKeysForTheBox)
+{
+    Open(table);
+    PressTitle();
+    Tally("M/E-1@Key1@Type@Time", "-45");
+    for (const int x : {705, 800})
+        SendMessage(MSG_PRESS, x, Middle(2), 1, 0);
+    PressSlot(3); // no box on this layer
+    SendMessage(MSG_PRESS, 750, 540, 1, 0);
+    EXPECT_EQ(NB_SendValue(1), -1);
+    PressSlot(2);
+    EXPECT_STREQ(GL_KnobSetVar, "-00:01:15");
+    Forget();
+    EXPECT_EQ(NB_SendValue(30), 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Time#00:01:00"));
+    EXPECT_EQ(NB_SendTrimValue(-5000), 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Time#-00:30:00"));
+    NB_SetSelect(0);
+    EXPECT_STREQ(GL_KnobSetVar, "");
+    EXPECT_EQ(NB_SendTrimValue(1), -1);
+    // Ids reach boxes of either layer.
+    NB_SendValue2(2, 6.6);
+    EXPECT_THAT(Told(), ElementsAre("var 2 7 screen", "fvar 2 6.60 screen"));
+    EXPECT_EQ(Shown("Lines"), 6.6);
+}
+
+// --- For page code ---
+
+TEST_F(KnobColumn, AShownValueBecomesTheValueAfterHalfASecond)
+{
+    Open(table);
+    NB_SetVar(2, 3);
+    EXPECT_EQ(NB_SetDispVar(2, 5), 0);
+    NB_SetDispVar(2, 8);
+    Pass(400);
+    Tally("Panel@Common@Knob1", "7"); // counts on from 5, holds the display
+    EXPECT_THAT(Told(), ElementsAre("var 2 6", "fvar 2 6.00"));
+    EXPECT_EQ(Shown("Lines"), 8);
+    Pass(499);
+    Tally("Panel@Common@Knob1", "0");
+    Pass(499);
+    Told();
+    Pass(1);
+    Tally("Panel@Common@Knob1", "7");
+    EXPECT_THAT(Told(), ElementsAre("var 2 9", "fvar 2 9.00"));
+}
+
+TEST_F(KnobColumn, AnUnknownBoxIsRefused)
+{
+    Open(one);
+    char path[8];
+    double v = 0;
+    for (const int result :
+         {NB_SetVar(2, 1), NB_SetDispVar(2, 1), NB_SetStrVar(2, ""), NB_InvalidVar(2),
+          NB_SetMinMax(2, 0, 1), NB_AddMinMax(2, 0, 1), NB_SetCaption(2, ""), NB_SetCommand(2, ""),
+          NB_SetCommand_NoAdd(2, ""), NB_SetSelect(2), NB_SendValue2(2, 1), NB_DeleteTable(2),
+          NB_GetKnob_info("None", path, &v, sizeof path)})
+        EXPECT_EQ(result, -1);
+    EXPECT_EQ(NB_GetKnob_info("Gain", path, &v, sizeof path), 1);
+    EXPECT_STREQ(path, "M/E-1@K");
+}
+
+// --- Painting ---
+
+TEST_F(KnobColumn, OnlyTheBoxThatChangedIsPainted)
+{
+    constexpr uint32_t MARK = 0x654321;
+    const auto painted = [](int elapsed_ms) {
+        TDL_FillRectS(706, 73, 799, 545, MARK);
+        Pass(elapsed_ms);
+        std::string slots = PixelAt(750, 100) != MARK ? "title " : "";
+        for (int slot = 1; slot <= 5; slot++)
+            if (PixelAt(750, Middle(slot)) != MARK)
+                slots += std::to_string(slot);
+        return slots;
+    };
+    Open(table);
+    EXPECT_EQ(painted(10), "title 12345");
+    EXPECT_EQ(painted(10), "");
+    Tally(CLIP, "3");
+    EXPECT_EQ(painted(10), "1");
+    Tally(CLIP, "3");
+    Tally(LEVEL, "3"); // on the other layer
+    EXPECT_EQ(painted(10), "");
+    Clock_ms += 1000;
+    Wheel(MSG_WHEELDOWN, 1);
+    EXPECT_EQ(painted(10), "1");
+    EXPECT_EQ(painted(490), "1");
+    NB_SetSelect(2);
+    EXPECT_EQ(painted(10), "2");
+    NB_SetSelect(3);
+    EXPECT_EQ(painted(10), "23");
+    NB_InvalidVar(4);
+    EXPECT_EQ(painted(10), "4");
+    NB_DeleteTable(5);
+    EXPECT_EQ(painted(10), "5");
+    PressTitle();
+    EXPECT_EQ(painted(149), "title 12345");
+    EXPECT_EQ(painted(1), "");
+    EXPECT_EQ(painted(0), "title "); // up again
+    NB_SetTitle("New");
+    EXPECT_EQ(painted(0), "title ");
+    NB_Create(nullptr, nullptr);
+    EXPECT_EQ(painted(10), "");
+}
