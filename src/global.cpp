@@ -163,6 +163,7 @@ int GL_FM_Find_Window = 0;
 int GL_FM_Find_PaneID = 0;
 int GL_FreezeStore = 0;
 int GL_FreezeStore_Exec = 0;
+int GL_DskInhibit = 0;
 
 // --- Buses ---
 char* BUS_ExtMaster[BUS_EXT_MASTER] = {};

@@ -170,6 +170,7 @@ extern int GL_FM_Find_Window; // the find of the frame memory is open: no input 
 extern int GL_FM_Find_PaneID;
 extern int GL_FreezeStore;
 extern int GL_FreezeStore_Exec;
+extern int GL_DskInhibit; // 1: the pages that assign the DSK faders only show
 
 // --- Buses ---
 constexpr int BUS_EXT_MASTER = 193;
