@@ -1,8 +1,11 @@
-// scrollbar: the scroll bars of lists, four at most, above the page's objects. Positions are rows.
+// scrollbar: the scroll bars of lists and of other objects that scroll, four at most, above the
+// page's objects. A bar turns touches into LMSG_SBSEL and shows the position that its owner sets:
+// a press moves nothing by itself. Positions are rows.
 #pragma once
 #include "types.h"
 
 constexpr int SB_MAX = 4;
+constexpr int SB_W = 46;
 enum : int { SB_THUMB = 0, SB_UP = 1, SB_DOWN = 2 }; // ax of LMSG_SBSEL
 
 struct SB_INFO {
@@ -18,11 +21,14 @@ struct SB_INFO {
     Rect track;
 };
 
-int CreateScrollBar(int n, int x, int y, int h); // -1 for n above 3
-int CloseScrollBar(int n);
+// --- For the owner of a bar; -1 for a number that is not 0 to 3 ---
+int CreateScrollBar(int n, int x, int y, int h); // h at least 82: two arrows and a track
+int CloseScrollBar(int n);                       // what it covers is the owner's to repaint
 void CloseScrollBarAll();
 int SB_SetPosition(int n, int top, int shown, int total);
-int SB_SetPositionRedraw(int n, int top, int shown, int total);
-int SB_GetInfo(SB_INFO* out, int n); // -1 for n above 3
-void SB_IgnoreRedraw(int on);        // the next arrow press is a wheel step: the arrow does not show it
+int SB_SetPositionRedraw(int n, int top, int shown, int total); // painted at the next MSG_REDRAW
+int SB_GetInfo(SB_INFO* out, int n);
+
+// --- For the main loop and the bus ---
+void SB_IgnoreRedraw(int on); // the next arrow press is a wheel step: the arrow does not show it
 int ScrollBarProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
