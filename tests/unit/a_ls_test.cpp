@@ -1,0 +1,647 @@
+#include "a_ls_page.h"
+#include "tdl.h"
+#include <algorithm>
+#include <climits>
+#include <gmock/gmock.h>
+#include <iterator>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// Rows of 22 pixels from y 100 on; the first row begins at 122. Five rows, the bar at x 202.
+static const LS_TBL plain[] = {
+    {.id = 1,
+     .hn = 3,
+     .vn = 5,
+     .x = 100,
+     .y = 100,
+     .head = {"No", "Name", "L/E"},
+     .width = {20, 50, 30},
+     .sb_top = 100,
+     .sb_bottom = 232},
+    LS_END,
+};
+
+template <typename Change> static const LS_TBL* With(Change change)
+{
+    static LS_TBL rows[2];
+    rows[0] = plain[0];
+    rows[1] = LS_END;
+    change(rows[0]);
+    return rows;
+}
+
+static const LS_TBL* Split()
+{
+    return With([](LS_TBL& l) { l.split = 1; });
+}
+static const LS_TBL* Block()
+{
+    return With([](LS_TBL& l) { l.block = 1; });
+}
+static const LS_TBL* View()
+{
+    return With([](LS_TBL& l) { l.view = 1; });
+}
+
+constexpr int PLURAL_X = 190, BLOCK_X = 126, KEY_Y = 242; // the keys' top left
+
+struct Lists : ListPage {
+    static int RowY(int line) { return 122 + 22 * line + 11; } // line from 0 in the window
+    static void TouchLine(int line, int x = 150) { Touch(x, RowY(line)); }
+    static void Plural() { Touch(PLURAL_X, KEY_Y); }
+    static void BlockKey() { Touch(BLOCK_X, KEY_Y); }
+
+    // The first ten rows, x for a selected cell.
+    static std::string Picture(int col = 0)
+    {
+        std::string text;
+        for (int row = 0; row < 10; row++)
+            text += LS_IsSelected(1, row, col) == 1 ? 'x' : '.';
+        return text;
+    }
+    static std::vector<int> SelectedRows()
+    {
+        std::vector<int> rows;
+        for (int n = 0, row; (row = LS_GetSelected(1, n)) >= 0; n++)
+            rows.push_back(row);
+        return rows;
+    }
+};
+
+// --- Touch ---
+
+TEST_F(Lists, ATouchTellsTheCellAndTheList)
+{
+    static const struct {
+        int x, y;
+        int top;
+        std::vector<std::string> said;
+    } cases[] = {
+        {100, 122, 0, {"SEL 1 0 0", "AREA 1"}},
+        {119, 143, 2, {"SEL 1 2 0", "AREA 1"}}, // cells end where the next begin
+        {120, 144, 2, {"SEL 1 3 1", "AREA 1"}},
+        {170, 231, 2, {"SEL 1 6 2", "AREA 1"}},
+        {199, 209, 3, {"SEL 1 6 2", "AREA 1"}},
+        {199, 210, 3, {"SEL 1 7 2", "AREA 1"}},
+        {150, 121, 0, {"AREA 1"}}, // the header
+        {99, 130, 0, {}},
+        {200, 130, 0, {}},
+        {150, 232, 0, {}},
+        {150, 99, 0, {}},
+    };
+    for (const auto& c : cases) {
+        Open(plain, 8);
+        LS_SetTopLine(1, c.top);
+        Touch(c.x, c.y);
+        EXPECT_EQ(told, c.said) << c.x << " " << c.y;
+    }
+    Open(plain, 2);
+    TouchLine(2);
+    EXPECT_THAT(told, ElementsAre("AREA 1")) << "a row that is not in use";
+    EXPECT_EQ(Picture(), "..........");
+}
+
+TEST_F(Lists, WithoutMultiSelectOneRowIsSelectedAndStaysSo)
+{
+    Open(plain, 5);
+    TouchLine(1);
+    EXPECT_EQ(Picture(), ".x........");
+    TouchLine(1);
+    EXPECT_EQ(Picture(), ".x........");
+    EXPECT_THAT(Told(), ElementsAre("SEL 1 1 1")) << "the second changed nothing";
+    TouchLine(3);
+    EXPECT_EQ(Picture(2), "...x......");
+    EXPECT_EQ(LS_GetNowLine(1), 3);
+}
+
+TEST_F(Lists, ABouncingContactDoesNotTakeBackWhatItDid)
+{
+    static const struct {
+        uint32_t pause_ms;
+        const char* after;
+    } cases[] = {{0, "x.........."}, {150, "x.........."}, {151, "..........."}};
+    for (const auto& c : cases) {
+        Open(plain, 5);
+        LS_SetMS(1, 1);
+        TouchLine(0);
+        Clock_ms += c.pause_ms;
+        Press(150, RowY(0));
+        EXPECT_EQ(Picture()[0], c.after[0]) << c.pause_ms;
+        Release();
+        Clock_ms += 20;
+        Press(150, RowY(0)); // and the same for what took a row out
+        EXPECT_EQ(Picture()[0], c.after[0]) << c.pause_ms;
+        Release();
+    }
+}
+
+TEST_F(Lists, AListForDisplayTellsEveryTouchAndSelectsNothing)
+{
+    Open(View(), 5);
+    TouchLine(1);
+    TouchLine(1);
+    Plural(); // not there
+    EXPECT_THAT(Told(), ElementsAre("SEL 1 1 1", "SEL 1 1 1"));
+    EXPECT_EQ(Picture(), "..........");
+    EXPECT_EQ(LS_GetMS(1), 0);
+}
+
+// --- Multi-select ---
+
+TEST_F(Lists, PluralAddsAndTakesAwayUntilItIsLeft)
+{
+    Open(plain, 5);
+    TouchLine(0);
+    Plural();
+    TouchLine(2);
+    TouchLine(3);
+    TouchLine(0);
+    TouchLine(4);
+    EXPECT_EQ(Picture(), "..xxx.....");
+    EXPECT_THAT(Told(), ElementsAre("SEL 1 0 1", "FLASH 1", "SEL 1 2 1", "SEL 1 3 1", "SEL 1 0 1",
+                                    "SEL 1 4 1"));
+    Plural();
+    EXPECT_EQ(Picture(), "....x.....") << "the current row stays";
+    Plural();
+    TouchLine(4);
+    Plural();
+    EXPECT_EQ(Picture(), "..........") << "unless it was taken out";
+}
+
+TEST_F(Lists, BlockTurnsAllRowsOverAndKeepsThemInOnePiece)
+{
+    Open(plain, 5);
+    BlockKey();
+    EXPECT_EQ(Picture(), "xxxxx.....");
+    EXPECT_EQ(LS_GetMS(1), 1);
+    TouchLine(3);
+    EXPECT_EQ(Picture(), "xxx.......");
+    BlockKey();
+    EXPECT_EQ(Picture(), "..........");
+    EXPECT_EQ(LS_GetALL(1), 0);
+    BlockKey();
+    Plural();
+    EXPECT_EQ(LS_GetALL(1), 0) << "all rows are no selection of one";
+    EXPECT_EQ(Picture(), "...x......") << "the current row";
+    EXPECT_THAT(Told("SEL"), testing::Each(testing::AnyOf("FLASH 1", "AREA 1")));
+}
+
+TEST_F(Lists, ABlockStaysOneRun)
+{
+    static const struct {
+        std::vector<int> touches; // lines in the window
+        const char* after;
+    } cases[] = {
+        {{1, 2, 3}, ".xxx......"},
+        {{3, 1, 2}, ".xx......."}, // row 1 began a new block
+        {{0, 4}, "....x....."},
+        {{1, 2, 3, 2}, ".x........"}, // cut in two: the upper part
+                                      // stays
+        {{1, 2, 3, 1}, "..xx......"},
+        {{1, 2, 3, 3}, ".xx......."},
+        {{2, 2}, ".........."},
+        {{0, 1, 0}, ".x........"}, // at the first row
+    };
+    for (const auto& c : cases) {
+        Open(Block(), 5);
+        LS_SetMS(1, 1);
+        for (int line : c.touches)
+            TouchLine(line);
+        EXPECT_EQ(Picture(), c.after);
+    }
+    Open(Block(), LS_ROWS);
+    LS_SetMS(1, 1);
+    LS_SetNowLine(1, LS_ROWS - 1);
+    TouchLine(4);
+    TouchLine(4);
+    EXPECT_EQ(LS_GetSelected(1, 0), -1) << "at the very last row";
+}
+
+TEST_F(Lists, KeysOfAListWithOneColourDoNotFlash)
+{
+    Open(With([](LS_TBL& l) { l.mono = 1; }), 5);
+    Plural();
+    BlockKey();
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(LS_GetALL(1), 1);
+    Open(Block(), 5);
+    Plural();
+    BlockKey();
+    EXPECT_EQ(LS_GetMS(1), 0) << "no keys";
+}
+
+TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
+{
+    static const struct {
+        const char* before;
+        int press;
+        std::vector<int> moves;
+        const char* after;
+    } cases[] = {
+        {"..........", 0, {1, 2}, "xxx......."},
+        {"..........", 4, {0}, "xxxxx....."}, // too quick for the panel: rows between count
+        {"..........", 2, {2, 2}, "..x......."},
+        {"xxxxx.....", 1, {1, 1}, "x.xxx....."}, // a tremble does not put it back
+        {"xxxxx.....", 1, {2, 3}, "x...x....."}, // a touch that takes out goes on taking out
+        {"..........", 3, {9, 2}, "..xx......"}, // off the list and back
+    };
+    for (const auto& c : cases) {
+        Open(plain, 5);
+        LS_SetMS(1, 1);
+        for (int row = 0; row < 5; row++)
+            LS_SetSelected(1, row, 0, c.before[row] == 'x');
+        Clock_ms += 1000;
+        Press(150, RowY(c.press));
+        for (int line : c.moves)
+            Drag(150, RowY(line));
+        EXPECT_EQ(Picture(), c.after);
+        Release();
+        Drag(150, RowY(0));
+        EXPECT_EQ(Picture(), c.after) << "the finger is up";
+    }
+    EXPECT_THAT(Told(), ElementsAre("SEL 1 3 1", "SEL 1 2 1"));
+}
+
+TEST_F(Lists, OnlyAFingerOnAMultiSelectListDrags)
+{
+    Open(plain, 5);
+    Press(150, RowY(0));
+    Drag(150, RowY(2));
+    EXPECT_EQ(Picture(), "x.........") << "single mode";
+    Release();
+    LS_SetMS(1, 1);
+    Clock_ms += 1000;
+    Press(150, 110);
+    Drag(150, RowY(2));
+    EXPECT_EQ(Picture(), "x.........") << "it came down on the header";
+    Press(150, RowY(1));
+    Drag(150, RowY(2), 0);
+    EXPECT_EQ(Picture(), "xx........") << "no button held";
+}
+
+// --- Columns ---
+
+TEST_F(Lists, ASplitListSelectsCells)
+{
+    Open(Split(), 5);
+    TouchLine(1, 130);
+    TouchLine(2, 180);
+    EXPECT_EQ(LS_GetSplitSel(1), 2);
+    EXPECT_EQ(Picture(1), "..........");
+    EXPECT_EQ(Picture(2), "..x.......");
+    TouchLine(3, 110);
+    EXPECT_EQ(LS_GetSplitSel(1), 2) << "column 0 names the row and keeps the current column";
+    EXPECT_EQ(Picture(0), "...x......");
+    Touch(210, 230); // an arrow moves down in the current column
+    EXPECT_EQ(Picture(2), "....x.....");
+    EXPECT_THAT(Told("AREA"),
+                ElementsAre("SEL 1 1 1", "SEL 1 2 2", "SEL 1 3 0", "SB 2 0 1", "SEL 1 4 2"));
+    LS_SetSplitSel(1, 1);
+    EXPECT_EQ(Picture(1), "....x.....");
+    LS_SetMS(1, 1);
+    Press(130, RowY(0));
+    Drag(180, RowY(0));
+    Drag(180, RowY(1));
+    EXPECT_EQ(Picture(1), "x...x.....");
+    EXPECT_EQ(Picture(2), "xx........");
+    Release();
+    LS_SetALL(1, 1);
+    EXPECT_EQ(Picture(2), "xxxxx.....");
+    EXPECT_EQ(Picture(1), "..........");
+    LS_SetSplit(1, 0);
+    EXPECT_EQ(Picture(1), ".x........") << "the current row, as a whole";
+}
+
+// --- Scrolling ---
+
+TEST_F(Lists, ArrowsMoveTheCurrentRowAndKeepItInside)
+{
+    static const struct {
+        int ndata, vn, top, now, delta;
+        int new_top, new_now;
+    } cases[] = {
+        {20, 5, 0, 0, -1, 0, 0},    {20, 5, 0, 1, -1, 0, 0},
+        {20, 5, 0, 0, 1, 0, 1},     {20, 5, 0, 2, 1, 1, 3}, // third from the bottom
+        {20, 5, 5, 7, -1, 4, 6},                            // third from the top
+        {20, 9, 5, 9, 1, 5, 10},    {20, 9, 5, 11, 1, 6, 12},
+        {20, 5, 15, 18, 1, 15, 19}, {20, 5, 15, 19, 1, 15, 19},
+        {20, 5, 0, 10, 1, 9, 11},                           // the window was elsewhere
+        {3, 5, 0, 1, 1, 0, 2},      {20, 1, 4, 4, 1, 5, 5}, // no room for a margin
+        {20, 4, 4, 5, 1, 5, 6},     {12000, 5, 11995, 11999, -1, 11995, 11998},
+    };
+    for (const auto& c : cases) {
+        Open(With([&](LS_TBL& l) { l.vn = c.vn; }), c.ndata);
+        LS_SetNowLine(1, c.now);
+        LS_SetTopLine(1, c.top);
+        SendMessage(LMSG_SBSEL, c.delta < 0 ? SB_UP : SB_DOWN, 0, c.delta, 0);
+        EXPECT_EQ(LS_GetTopLine(1), c.new_top) << c.ndata << " " << c.now << " " << c.delta;
+        EXPECT_EQ(LS_GetNowLine(1), c.new_now) << c.ndata << " " << c.now << " " << c.delta;
+        EXPECT_EQ(SelectedRows(), std::vector<int>{c.new_now});
+        const bool moved = c.now != c.new_now;
+        EXPECT_EQ(Told("SB").size(), size_t(moved)) << c.now << " " << c.delta;
+    }
+    Open(plain, 0);
+    SendMessage(LMSG_SBSEL, SB_DOWN, 0, 1, 0);
+    EXPECT_EQ(LS_GetNowLine(1), 0);
+    EXPECT_THAT(Told("SB"), IsEmpty());
+}
+
+TEST_F(Lists, TheBarMovesTheWindowAloneWhereTheSelectionIsTheOperators)
+{
+    for (const LS_TBL* table : {plain, View()}) {
+        Open(table, 20);
+        LS_SetMS(1, !table->view);
+        LS_SetSelected(1, 3, 0, 1);
+        const std::string before = Picture();
+        static const struct {
+            int kind, value, top;
+        } steps[] = {{SB_DOWN, 1, 1},  {SB_UP, -1, 0},     {SB_UP, -1, 0},
+                     {SB_THUMB, 7, 7}, {SB_THUMB, 19, 15}, {SB_DOWN, 1, 15}};
+        told.clear();
+        for (const auto& s : steps) {
+            SendMessage(LMSG_SBSEL, s.kind, 0, s.value, 0);
+            EXPECT_EQ(LS_GetTopLine(1), s.top) << s.kind << " " << s.value;
+        }
+        EXPECT_EQ(Picture(), before);
+        EXPECT_THAT(Told("SB"), IsEmpty());
+    }
+}
+
+TEST_F(Lists, TheThumbTakesTheCurrentRowAlong)
+{
+    Open(plain, 100);
+    Redraw();        // tells the bar how many rows there are
+    Touch(210, 190); // the last pixel but one of the track: 140 to 191
+    EXPECT_EQ(LS_GetTopLine(1), 95);
+    EXPECT_EQ(LS_GetNowLine(1), 97);
+    EXPECT_EQ(SelectedRows(), std::vector<int>{97});
+    EXPECT_THAT(Told(), ElementsAre("SB 0 0 97", "SEL 1 97 0"));
+}
+
+TEST_F(Lists, ACurrentRowOutsideIsScrolledToTheNearestLine)
+{
+    static const struct {
+        int top, row, new_top;
+    } cases[] = {{10, 9, 9}, {10, 10, 10}, {10, 14, 10}, {10, 15, 11}, {10, 99, 95}, {10, 0, 0}};
+    for (const auto& c : cases) {
+        Open(plain, 100);
+        LS_SetTopLine(1, c.top);
+        EXPECT_EQ(LS_SetNowLine(1, c.row), 0);
+        EXPECT_EQ(LS_GetTopLine(1), c.new_top) << c.row;
+        EXPECT_EQ(SelectedRows(), std::vector<int>{c.row});
+    }
+    EXPECT_THAT(Told(), IsEmpty()) << "page code knows what it asked for";
+}
+
+TEST_F(Lists, TheWheelIsAPressOnAnArrow)
+{
+    static const struct {
+        int view, block, x, y, dir;
+        int taken, at_x, at_y;
+    } cases[] = {
+        {0, 0, 100, 100, 4, 1, 202, 100}, {0, 0, 199, 231, 5, 1, 202, 231},
+        {0, 0, 247, 150, 4, 1, 202, 100}, {0, 0, 248, 150, 4, 0, 248, 150},
+        {0, 0, 201, 150, 4, 0, 201, 150}, {0, 1, 150, 150, 5, 1, 202, 231},
+        {1, 0, 150, 150, 5, 1, 202, 231}, {1, 1, 150, 150, 5, 0, 150, 150},
+    };
+    for (const auto& c : cases) {
+        Open(With([&](LS_TBL& l) {
+                 l.view = c.view;
+                 l.block = c.block;
+             }),
+             20);
+        int x = c.x, y = c.y;
+        EXPECT_EQ(LS_ConvPosForWheel(&x, &y, c.dir), c.taken) << c.x << " " << c.y;
+        EXPECT_EQ(x, c.at_x);
+        EXPECT_EQ(y, c.at_y);
+        Touch(x, y);
+        EXPECT_EQ(LS_GetTopLine(1) + LS_GetNowLine(1), c.taken && c.dir == 5) << c.x << " " << c.y;
+    }
+}
+
+// --- Cells and page code ---
+
+TEST_F(Lists, FewerRowsTakeSelectionAndWindowAlong)
+{
+    Open(plain, 100);
+    LS_SetMS(1, 1);
+    for (int row : {2, 50, 99})
+        LS_SetSelected(1, row, 0, 1);
+    EXPECT_EQ(SelectedRows(), (std::vector<int>{2, 50, 99}));
+    EXPECT_EQ(LS_GetTopLine(1), 95);
+    LS_SetNData(1, 50);
+    EXPECT_EQ(SelectedRows(), std::vector<int>{2});
+    EXPECT_EQ(LS_GetTopLine(1), 45);
+    EXPECT_EQ(LS_GetNowLine(1), 49);
+    LS_SetNData(1, 100);
+    EXPECT_EQ(SelectedRows(), std::vector<int>{2}) << "what went does not come back";
+
+    LS_SetNData(1, 0);
+    EXPECT_EQ(SelectedRows(), std::vector<int>{});
+    EXPECT_EQ(LS_GetTopLine(1), 45) << "a list that is filled anew stays where it was";
+    LS_SetFromN(1, 7, 10);
+    EXPECT_EQ(LS_GetTopLine(1), 5);
+    EXPECT_EQ(LS_GetNData(1), 10);
+}
+
+TEST_F(Lists, SelectedRowsAreFoundByNumberAndByText)
+{
+    Open(plain, LS_ROWS);
+    LS_SetMS(1, 1);
+    for (int row : {0, 7, 11999})
+        LS_SetSelected(1, row, 0, 1);
+    EXPECT_EQ(LS_GetSelected(1, 2), 11999);
+    EXPECT_EQ(LS_GetSelected(1, 0), 0) << "backwards too";
+    EXPECT_EQ(LS_GetSelected(1, 3), -1);
+    EXPECT_EQ(LS_GetSelected(1, 1), 7);
+    LS_SetSelected(1, 7, 0, 0);
+    EXPECT_EQ(LS_GetSelected(1, 1), 11999) << "a change starts the walk anew";
+    EXPECT_EQ(LS_GetSelected(1, -1), -1);
+
+    LS_SetMS(1, 0);
+    LS_SetData(1, 3, 1, "SPLIT");
+    LS_SetData(1, 8000, 1, "NEWS");
+    LS_SetData(1, 8001, 1, "NEWS");
+    EXPECT_EQ(LS_ChangeSelByStr(1, 1, "NEWS"), 0);
+    EXPECT_EQ(SelectedRows(), std::vector<int>{8000});
+    EXPECT_EQ(LS_GetTopLine(1), 7996);
+    EXPECT_EQ(LS_ChangeSelByStr(1, 0, "NEWS"), -1);
+    EXPECT_EQ(LS_ChangeSelByStr(1, 1, nullptr), -1);
+    EXPECT_EQ(SelectedRows(), std::vector<int>{8000});
+    EXPECT_THAT(Told(), IsEmpty());
+}
+
+TEST_F(Lists, AnIndexThatNoListHasIsRefused)
+{
+    Open(plain, 5);
+    const auto refuses = [](int id, int row, int col) {
+        const int results[] = {
+            LS_SetData(id, row, col, "x"),
+            LS_SetStatus(id, row, col, 1),
+            LS_GetStatus(id, row, col),
+            LS_IsSelected(id, row, col),
+        };
+        return std::all_of(std::begin(results), std::end(results), [](int r) { return r == -1; }) &&
+               !LS_GetData(id, row, col);
+    };
+    for (int id : {0, 2, -1, 5, INT_MAX})
+        EXPECT_TRUE(refuses(id, 0, 0)) << id;
+    for (int row : {-1, 12000, INT_MIN, INT_MAX}) {
+        EXPECT_TRUE(refuses(1, row, 0)) << row;
+        EXPECT_EQ(LS_SetHStatus(1, row, 1), -1);
+        EXPECT_EQ(LS_SetDataFolder(1, row, 1, 0), -1);
+        EXPECT_EQ(LS_SetNowLine(1, row), -1);
+        EXPECT_EQ(LS_SetTopLine(1, row), -1);
+        EXPECT_EQ(LS_SetFromN(1, row, 5), -1);
+    }
+    for (int col : {-1, 17, INT_MIN, INT_MAX}) {
+        EXPECT_TRUE(refuses(1, 0, col)) << col;
+        EXPECT_EQ(LS_SetVStatus(1, col, 1), -1);
+        EXPECT_EQ(LS_SetHeadStr(1, col, "x"), -1);
+        EXPECT_EQ(LS_HeaderDisable(1, col, 1), -1);
+        EXPECT_EQ(LS_SetGrouplin(1, col, 1), -1);
+        EXPECT_EQ(LS_SetSplitSel(1, col), -1);
+        EXPECT_EQ(LS_ChangeSelByStr(1, col, "x"), -1);
+    }
+    EXPECT_EQ(LS_SetSelected(1, 12000, 0, 1), -1);
+    EXPECT_EQ(LS_SetSelected(1, 0, 3, 1), -1) << "a column that the list does not show";
+    EXPECT_EQ(LS_SetNData(1, 12001), -1);
+    EXPECT_EQ(LS_SetNData(1, -1), -1);
+    for (int status : {-1, 128})
+        EXPECT_EQ(LS_SetStatus(1, 0, 0, status), -1);
+    for (int side : {-1, 2})
+        EXPECT_EQ(LS_SetDataFolder(1, 0, 1, side), -1);
+    EXPECT_EQ(LS_GetNData(1), 5);
+    EXPECT_EQ(LS_SetData(1, 11999, 16, "x"), 0);
+    EXPECT_STREQ(LS_GetData(1, 11999, 16), "x");
+}
+
+TEST_F(Lists, OpeningAPageFindsNothingOfTheLast)
+{
+    Open(plain, LS_ROWS);
+    static const struct {
+        int row, col;
+    } cells[] = {{0, 0}, {6000, 1}, {11999, 16}};
+    for (const auto& c : cells) {
+        LS_SetData(1, c.row, c.col, "old");
+        LS_SetDataFolder(1, c.row, 1, 0);
+    }
+    LS_SetVStatus(1, 16, 3);
+    LS_SetHStatus(1, 11999, 2);
+    LS_SetALL(1, 1);
+    LS_SetNowLine(1, 500);
+    const auto expect_empty = [&] {
+        EXPECT_EQ(LS_GetNData(1), 0);
+        EXPECT_EQ(LS_GetNowLine(1), 0);
+        EXPECT_EQ(LS_GetTopLine(1), 0);
+        EXPECT_EQ(LS_GetALL(1), 0);
+        for (const auto& c : cells) {
+            EXPECT_EQ(LS_GetData(1, c.row, c.col), nullptr) << c.row;
+            EXPECT_EQ(LS_GetStatus(1, c.row, c.col), 0) << c.row;
+            EXPECT_EQ(LS_IsSelected(1, c.row, 0), 0) << c.row;
+        }
+    };
+    LS_ClearData(1);
+    expect_empty();
+    EXPECT_EQ(LS_GetMS(1), 1) << "the mode stays";
+    LS_SetData(1, 11999, 16, "old");
+    LS_Create(nullptr, 0);
+    EXPECT_EQ(LS_GetNData(1), -1);
+    SB_INFO bar;
+    SB_GetInfo(&bar, 0);
+    EXPECT_EQ(bar.active, 0) << "its bar is gone as well";
+    LS_Create(plain, 0);
+    expect_empty();
+    EXPECT_EQ(LS_GetMS(1), 0);
+}
+
+TEST_F(Lists, APageHasUpToFourLists)
+{
+    LS_TBL rows[8];
+    const int ids[] = {4, 2, 2, 5, 1, 3, 99};
+    for (size_t i = 0; i < std::size(ids); i++) {
+        rows[i] = plain[0];
+        rows[i].id = ids[i];
+        rows[i].x += 10;
+    }
+    rows[0].x = 400;
+    rows[7] = LS_END;
+    EXPECT_EQ(LS_Create(rows, 0), 0);
+    for (int id = 1; id <= 4; id++) {
+        EXPECT_EQ(LS_SetNData(id, id), 0);
+        EXPECT_EQ(LS_GetNData(id), id);
+    }
+    EXPECT_EQ(LS_GetNData(5), -1);
+    Touch(510, 232 - 1); // the bar of list 4
+    Touch(450, RowY(2));
+    EXPECT_THAT(Told(), ElementsAre("SB 2 3 1", "SEL 4 1 0", "SEL 4 2 1"));
+}
+
+TEST_F(Lists, PageCodeMayDropTheListsInAnswer)
+{
+    static int drop_at;
+    answer = [](int msg) {
+        if (msg == drop_at)
+            LS_Create(nullptr, 0);
+    };
+    for (int msg : {LMSG_LISTSEL, LMSG_LISTFLASH}) {
+        drop_at = msg;
+        Open(plain, 5);
+        if (msg == LMSG_LISTFLASH) {
+            Plural();
+        } else {
+            LS_SetMS(1, 1);
+            TouchLine(1);
+            Drag(150, RowY(4));
+        }
+        EXPECT_EQ(told.size(), 1u) << "nobody is left to say more";
+        EXPECT_EQ(LS_GetNData(1), -1);
+    }
+    // A list that shrinks under the finger.
+    answer = [](int msg) {
+        if (msg == LMSG_LISTSEL)
+            LS_SetNData(1, 3);
+    };
+    Open(plain, LS_ROWS);
+    LS_SetTopLine(1, 11995);
+    LS_SetMS(1, 1);
+    Clock_ms += 1000;
+    Press(150, RowY(4));
+    Drag(150, RowY(1));
+    EXPECT_EQ(SelectedRows(), std::vector<int>{1});
+}
+
+// --- Painting ---
+
+TEST_F(Lists, OnlyARowInTheWindowIsPaintedAgain)
+{
+    static const struct {
+        int row;
+        bool painted;
+    } cases[] = {{9, false}, {10, true}, {14, true}, {15, false}, {11999, false}};
+    Open(plain, LS_ROWS);
+    LS_SetTopLine(1, 10);
+    for (const auto& c : cases) {
+        Redraw();
+        TDL_FillRectS(150, 150, 150, 150, 0x123456);
+        LS_SetStatus(1, c.row, 0, 0); // as it is
+        Redraw();
+        EXPECT_EQ(PixelAt(150, 150), 0x123456u);
+        LS_SetData(1, c.row, 0, "text");
+        Redraw();
+        EXPECT_EQ(PixelAt(150, 150) != 0x123456, c.painted) << c.row;
+    }
+}
+
+TEST_F(Lists, ALongTextStaysInItsList)
+{
+    Open(plain, 5);
+    const std::string text(300, 'W');
+    for (int col = 0; col < 3; col++)
+        LS_SetData(1, 0, col, text.c_str());
+    LS_SetHeadStr(1, 2, text.c_str());
+    Redraw();
+    for (int y = 100; y < 232; y++)
+        EXPECT_EQ(PixelAt(200, y), 0u) << y;
+}

@@ -1,0 +1,187 @@
+#include "a_ls_page.h"
+#include "graphics.h"
+#include "tdl.h"
+#include <climits>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr int X = 652;
+constexpr int Y = 78;
+constexpr int HEIGHT = 286; // the track is 206 pixels, from 118 to 323
+constexpr int UP = Y + 20;
+constexpr int DOWN = Y + HEIGHT - 20;
+
+struct ScrollBars : ListPage {
+    void SetUp() override
+    {
+        ListPage::SetUp();
+        ASSERT_EQ(CreateScrollBar(2, X, Y, HEIGHT), 0);
+        SB_SetPosition(2, 0, 12, 99);
+        told.clear();
+    }
+    static bool ArrowLooks(const SDL_Surface* face, int y)
+    {
+        for (int row = 0; row < 40; row++) {
+            uint32_t pixel;
+            memcpy(&pixel, static_cast<const char*>(face->pixels) + row * face->pitch + 23 * 4, 4);
+            if ((pixel & 0xFFFFFF) != PixelAt(X + 23, y + row))
+                return false;
+        }
+        return true;
+    }
+};
+
+TEST_F(ScrollBars, ThumbStandsForTheRowsShown)
+{
+    static const struct {
+        int top, shown, total;
+        int y1, y2; // 0: no thumb
+    } cases[] = {
+        {0, 12, 0, 0, 0},             // no rows
+        {0, 12, 12, 0, 0},            // all rows shown
+        {0, 12, 5, 0, 0},             //
+        {6, 12, 99, 130, 154},        //
+        {0, 15, 12000, 118, 132},     // a thumb never shrinks below 15 pixels,
+        {6000, 15, 12000, 214, 228},  // stands about its place,
+        {11985, 15, 12000, 309, 323}, // and stays on the track
+        {-5, 15, 100, 118, 137},
+        {200, 15, 100, 309, 323},
+    };
+    for (const auto& c : cases) {
+        SB_SetPositionRedraw(2, c.top, c.shown, c.total);
+        Redraw();
+        int y1 = 0, y2 = 0;
+        for (int y = Y + 40; y < Y + HEIGHT - 40; y++) {
+            if (PixelAt(X, y) == 0x003241 && PixelAt(X + 45, y) == 0x003241)
+                continue;
+            y1 = y1 ? y1 : y;
+            y2 = y;
+        }
+        EXPECT_EQ(y1, c.y1) << c.top << " of " << c.total;
+        EXPECT_EQ(y2, c.y2) << c.top << " of " << c.total;
+    }
+}
+
+TEST_F(ScrollBars, ATouchTellsItsOwnerWhereTo)
+{
+    static const struct {
+        int x, y, total;
+        const char* said;
+    } cases[] = {
+        {X, Y, 99, "SB 1 2 -1"},
+        {X + 45, Y + 39, 99, "SB 1 2 -1"},
+        {X + 45, Y + HEIGHT - 1, 99, "SB 2 2 1"},
+        {X, Y + HEIGHT - 40, 0, "SB 2 2 1"}, // an owner without rows takes its own care
+        {X, 118, 99, "SB 0 2 0"},
+        {X, 220, 99, "SB 0 2 49"},
+        {X, 323, 99, "SB 0 2 98"},
+        {X, 323, 1, "SB 0 2 0"},
+        {X, 322, 12000, "SB 0 2 11906"},
+        {X, 220, 0, nullptr},
+        {X - 1, 220, 99, nullptr},
+        {X + 46, 220, 99, nullptr},
+        {X, Y - 1, 99, nullptr},
+        {X, Y + HEIGHT, 99, nullptr},
+    };
+    for (const auto& c : cases) {
+        SB_SetPosition(2, 0, 12, c.total);
+        Touch(c.x, c.y);
+        const auto said = Told();
+        EXPECT_EQ(said.empty() ? "" : said[0], c.said ? c.said : "") << c.x << " " << c.y;
+        EXPECT_LE(said.size(), 1u);
+    }
+}
+
+TEST_F(ScrollBars, AHeldArrowWaitsOnceAndThenRepeats)
+{
+    static const struct {
+        int elapsed_ms;
+        size_t steps;
+    } passes[] = {{299, 0}, {1, 1}, {49, 0}, {1, 1}, {50, 1}, {5000, 1}, {0, 0}, {50, 1}};
+    for (int y : {UP, DOWN}) {
+        Press(X, y);
+        EXPECT_EQ(Told().size(), 1u) << "the first step comes at once";
+        for (const auto& p : passes) {
+            Redraw(p.elapsed_ms);
+            EXPECT_EQ(Told().size(), p.steps) << p.elapsed_ms;
+        }
+        Release();
+        Redraw(5000);
+        EXPECT_THAT(Told(), IsEmpty());
+    }
+}
+
+TEST_F(ScrollBars, AnArrowUnderAPaneDoesNotRunOn)
+{
+    Press(X, DOWN);
+    Told();
+    SendMessage(MSG_PANETICK, 10, 0, 0, 0); // the pane will keep the release to itself
+    Redraw(5000);
+    EXPECT_THAT(Told(), IsEmpty());
+}
+
+TEST_F(ScrollBars, TheThumbFollowsTheFingerThatHoldsIt)
+{
+    Drag(X, 220);
+    Press(X, 118);
+    Drag(X - 300, 220); // off the bar, but held
+    Drag(X, 0);
+    Drag(X, 599);
+    Drag(X, 300, 0); // another button
+    Release();
+    Drag(X, 300);
+    Press(X, UP);
+    Drag(X, 300);
+    EXPECT_THAT(Told(), ElementsAre("SB 0 2 0", "SB 0 2 49", "SB 0 2 0", "SB 0 2 98", "SB 1 2 -1"));
+}
+
+TEST_F(ScrollBars, AnArrowShowsATouchButNoWheelStep)
+{
+    Redraw();
+    Press(X, DOWN);
+    Redraw();
+    EXPECT_TRUE(ArrowLooks(G_SB_dw_on, Y + HEIGHT - 40));
+    Release();
+    Redraw();
+    EXPECT_TRUE(ArrowLooks(G_SB_dw_off, Y + HEIGHT - 40));
+
+    SB_IgnoreRedraw(1);
+    Press(X, UP);
+    Redraw();
+    EXPECT_TRUE(ArrowLooks(G_SB_up_off, Y));
+    Release();
+    Press(X, UP);
+    Redraw();
+    EXPECT_TRUE(ArrowLooks(G_SB_up_on, Y)) << "only one paint was skipped";
+}
+
+TEST_F(ScrollBars, ABarThatIsClosedOrWasNeverThereTakesNothing)
+{
+    for (int n : {-1, 4, INT_MAX}) {
+        SB_INFO info;
+        EXPECT_EQ(CreateScrollBar(n, 0, 0, 200), -1);
+        EXPECT_EQ(CloseScrollBar(n), -1);
+        EXPECT_EQ(SB_SetPosition(n, 0, 1, 1), -1);
+        EXPECT_EQ(SB_SetPositionRedraw(n, 0, 1, 1), -1);
+        EXPECT_EQ(SB_GetInfo(&info, n), -1);
+    }
+    EXPECT_EQ(CreateScrollBar(0, 0, 0, 81), -1) << "no room for a track";
+    EXPECT_EQ(CreateScrollBar(0, 0, 0, 82), 0);
+    SB_SetPosition(0, 0, 1, 10);
+    Touch(0, 41);
+    EXPECT_THAT(Told(), ElementsAre("SB 0 0 9"));
+    CloseScrollBar(2);
+    Touch(X, UP);
+    EXPECT_THAT(Told(), IsEmpty());
+}
+
+// Page code may close the bar in answer to what it says.
+TEST_F(ScrollBars, ABarMayBeClosedWhileItSpeaks)
+{
+    answer = [](int) { CloseScrollBarAll(); };
+    Press(X, DOWN);
+    Redraw(5000);
+    EXPECT_THAT(Told(), ElementsAre("SB 2 2 1"));
+}
