@@ -2,6 +2,7 @@
 #include "a_ls.h"
 #include "log.h"
 #include "memory.h"
+#include "page.h"
 #include "text.h"
 #include <cstdarg>
 #include <cstdio>
@@ -54,6 +55,8 @@ int Err_Add(const char* format, ...)
 
 void Err_Clear()
 {
+    if (IsObjetype(OBJ_ERR))
+        (void)LS_ClearData(ERROR_LIST); // it shows the texts that go here
     for (int i = 0; i < ErrMax; i++) {
         GDL_Free(Err[i]);
         GDL_Free(ErrT[i]);
@@ -76,6 +79,7 @@ void Err_Create()
         if (fp)
             fprintf(fp, "[%s] %s\n", ErrT[row], Err[row]);
     }
+    (void)LS_SetNData(ERROR_LIST, ErrMax);
     if (fp)
         fclose(fp);
 }

@@ -4,9 +4,11 @@
 #include "a_ba.h"
 #include "a_bt.h"
 #include "a_hf.h"
+#include "a_ls.h"
 #include "a_pc.h"
 #include "a_vf.h"
 #include "page.h"
+#include "scrollbar.h"
 #include "types.h"
 
 // --- Buttons ---
@@ -88,6 +90,34 @@ template <size_t N> constexpr bool BoxesAreSound(const NB_TBL (&rows)[N])
     return true;
 }
 
+// --- Lists ---
+
+// The last pixel column of a list; its bar follows after two more.
+constexpr int ListRight(const LS_TBL& list)
+{
+    int x = list.x - 1;
+    for (int col = 0; col < list.hn; col++) x += list.width[col];
+    return x;
+}
+
+// Ends, list numbers 1 to 4 and unique, columns of at least a pixel, list and bar on the screen.
+template <size_t N> constexpr bool ListsAreSound(const LS_TBL (&rows)[N])
+{
+    if (N - 1 > LS_MAX || rows[N - 1].id >= 1) return false;
+    for (size_t i = 0; i + 1 < N; i++) {
+        const LS_TBL& l = rows[i];
+        if (l.id < 1 || l.id > LS_MAX || l.hn < 1 || l.hn > LS_COLUMNS || l.vn < 1) return false;
+        for (int col = 0; col < l.hn; col++)
+            if (l.width[col] < 1) return false;
+        if (l.x < 0 || ListRight(l) + 2 + SB_W >= SCREEN_W) return false;
+        if (l.y < 0 || l.y + LS_ROW_PX * (l.vn + 1) > SCREEN_H) return false;
+        if (l.sb_top < 0 || l.sb_bottom > SCREEN_H || l.sb_bottom - l.sb_top < 82) return false;
+        for (size_t k = 0; k < i; k++)
+            if (rows[k].id == l.id) return false;
+    }
+    return true;
+}
+
 // --- The objects of a page ---
 
 constexpr _pageobject Base(const BA_TBL& table, uint32_t parent = 0) { return {OBJ_BA, &table, parent}; }
@@ -95,6 +125,7 @@ constexpr _pageobject Buttons(const BT_TBL* table) { return {OBJ_BT, table, 0}; 
 constexpr _pageobject BottomTabs(const HF_TBL* table, uint32_t selected) { return {OBJ_HF, table, selected}; }
 constexpr _pageobject LeftTabs(const VF_TBL* table, uint32_t selected) { return {OBJ_VF, table, selected}; }
 constexpr _pageobject Boxes(const NB_TBL* table) { return {OBJ_NB, table, 0}; }
+constexpr _pageobject Lists(const LS_TBL* table) { return {OBJ_LS, table, 0}; }
 constexpr _pageobject Code(const PC_TBL& table, uint32_t var = 0) { return {OBJ_PC, &table, var}; }
 constexpr _pageobject ErrorList() { return {OBJ_ERR, nullptr, 0}; }
 constexpr _pageobject DebugMenu() { return {OBJ_DEBUG, nullptr, 0}; }

@@ -53,10 +53,18 @@ static_assert(ButtonsAreSound(bt_diag_history));
 
 inline constexpr BT_TBL bt_error[] = {
     Jump(       {.id = 49, .caption = "Diag", .cmd = {"#74110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
+    Jump(       {.id = 54, .caption = "Top\nMenu", .cmd = {"#00110000"}}), // the list takes the rows above
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_error));
+
+// One line at a time: it is read, and a selected row keeps the eye on it while the list is scrolled.
+inline constexpr LS_TBL ls_error[] = {
+    {.id = 1, .hn = 2, .vn = 15, .x = 100, .y = 78, .head = {"Time", "Error"}, .width = {80, 470}, .group = {1, 999},
+     .mono = 1, .sb_top = 78, .sb_bottom = 430, .block = 1},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_error));
 
 inline constexpr BT_TBL bt_file_top[] = {
     Jump(       {.id = 17, .caption = "All", .group = "File", .cmd = {"#71110000"}}),
@@ -87,5 +95,5 @@ inline constexpr PAGE system_pages[] = {
     {.id = 0x73110000, .tree = {"Engineering Setup", "System", "Network Config"}, .obj = {Base(base_main), Buttons(bt_setup_network)}},
     {.id = 0x74110000, .tree = {"Diag", "Status"}, .obj = {Base(base_main), Buttons(bt_diag)}},
     {.id = 0x74120000, .tree = {"Diag", "History"}, .obj = {Base(base_main), Buttons(bt_diag_history)}},
-    {.id = 0x99000000, .tree = {"Error"}, .obj = {Base(base_main), Buttons(bt_error), ErrorList()}},
+    {.id = 0x99000000, .tree = {"Error"}, .obj = {Base(base_main), Buttons(bt_error), Lists(ls_error), ErrorList()}},
 };

@@ -1,6 +1,9 @@
+#include "a_ls.h"
 #include "err.h"
 #include "harness.h"
 #include "memory.h"
+#include "page.h"
+#include <cstring>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <iterator>
@@ -33,7 +36,14 @@ TEST(ErrorList, PageWritesTheFileNewestLast)
     EXPECT_THAT(text, testing::MatchesRegex("\\[..:..:..\\] first %s\n\\[..:..:..\\] x*\n"));
     EXPECT_EQ(text.size(), 11 + 8 + 1 + 11 + 4095 + 1u);
 
+    CreatePage(0x99000000);
+    EXPECT_EQ(LS_GetNData(1), 2);
+    EXPECT_STREQ(LS_GetData(1, 0, 1), "first %s");
+    EXPECT_EQ(strlen(LS_GetData(1, 1, 0)), strlen("00:00:00"));
+
     Err_Clear();
+    EXPECT_EQ(LS_GetNData(1), 0) << "the page must not show texts that are gone";
+    EXPECT_EQ(LS_GetData(1, 0, 1), nullptr);
     Err_Create();
     std::ifstream empty("/var/log2/tm3err.log");
     EXPECT_EQ(empty.get(), EOF) << "a new page starts a new file";
