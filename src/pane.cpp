@@ -1,88 +1,375 @@
 #include "pane.h"
+#include "bus.h"
+#include "log.h"
+#include "memory.h"
+#include "message.h"
+#include "pane_private.h"
+#include "saver.h"
+#include "tdl.h"
+#include "window.h"
+#include <climits>
+
 #include "safeguards.h"
 
-// No pane can be opened yet: every request answers 0, the id of no pane.
+constexpr int PUSHED_MS = 150;
+constexpr int REPEAT_FIRST_MS = 300; // a held arrow
+constexpr int REPEAT_MS = 50;
 
-int PaneMessage_Create(const char*, int, const char*)
+static PANE* PaneRoot = nullptr; // the lowest pane
+int PaneID = 0;
+
+// --- The stack ---
+
+PANE* pane_top()
 {
+    PANE* pane = PaneRoot;
+    while (pane && pane->next)
+        pane = pane->next;
+    return pane;
+}
+
+PANE* pane_find(int id)
+{
+    for (PANE* pane = PaneRoot; pane; pane = pane->next)
+        if (pane->id == id)
+            return pane;
+    return nullptr;
+}
+
+PANE* pane_find_type(TYPE type)
+{
+    PANE* found = nullptr;
+    for (PANE* pane = PaneRoot; pane; pane = pane->next)
+        if (pane->type == type)
+            found = pane;
+    return found;
+}
+
+static void pane_free(PANE* pane)
+{
+    GDL_Free(pane->button);
+    GDL_Free(pane->caption);
+    GDL_Free(pane);
+}
+
+static PANE* pane_allocate(const char* caption, int button_max)
+{
+    auto* pane = static_cast<PANE*>(GDL_Calloc(1, sizeof(PANE)));
+    if (!pane)
+        return nullptr;
+    pane->button = static_cast<BUTTON*>(GDL_Calloc(size_t(button_max) + 1, sizeof(BUTTON)));
+    pane->caption = GDL_StrDup(caption ? caption : "");
+    if (!pane->button || !pane->caption) {
+        pane_free(pane);
+        return nullptr;
+    }
+    pane->button[0].id = BUTTON_END;
+    pane->button_max = button_max;
+    return pane;
+}
+
+PANE* pane_create(TYPE type, const char* caption, const Rect& place, int button_max)
+{
+    CloseWindow();
+    EndScreenSaver();
+    PANE* pane = pane_allocate(caption, button_max);
+    if (!pane) {
+        Log_Output(LOG_ALWAYS, MOD_GLOBAL, "No memory for a pane: %s", caption);
+        return nullptr;
+    }
+    if (!PaneRoot)
+        TDL_PushScreen(97, 73, 702, 526);
+    PaneID = PaneID == INT_MAX ? 1 : PaneID + 1;
+    pane->id = PaneID;
+    pane->type = type;
+    pane->x = place.x1;
+    pane->y = place.y1;
+    pane->w = place.x2 - place.x1 + 1;
+    pane->h = place.y2 - place.y1 + 1;
+    pane->redraw = 1;
+    PANE** end = &PaneRoot;
+    while (*end)
+        end = &(*end)->next;
+    *end = pane;
+    return pane;
+}
+
+BUTTON* pane_add(PANE* pane, const BUTTON& row)
+{
+    if (pane->button_num >= pane->button_max)
+        return nullptr;
+    BUTTON* b = &pane->button[pane->button_num++];
+    *b = row;
+    button_create(b);
+    b[1].id = BUTTON_END;
+    return b;
+}
+
+static void pane_delete(int id)
+{
+    for (PANE** at = &PaneRoot; *at; at = &(*at)->next) {
+        if ((*at)->id != id)
+            continue;
+        PANE* pane = *at;
+        *at = pane->next;
+        pane_free(pane);
+        break;
+    }
+    TDL_PopScreen();
+    Pane_RedrawAll();
+}
+
+void Pane_RedrawAll()
+{
+    for (PANE* pane = PaneRoot; pane; pane = pane->next)
+        pane_draw_all(pane);
+}
+
+// --- The end of a pane ---
+
+static void pane_quit(PANE* pane)
+{
+    const int id = pane->id;
+    const bool is_told = pane->quitmem != QUIT_BY_CODE;
+    const int result = pane_result(pane);
+    const int type = pane->type;
+    pane_free_text(pane);
+    pane_delete(id);
+    if (type == TYPE_FRAME)
+        frame_closed();
+    if (is_told)
+        SendMessage(LMSG_PANEQUIT, id, result, 0, 0);
+}
+
+static PANE* pane_about_to_quit()
+{
+    for (PANE* pane = PaneRoot; pane; pane = pane->next)
+        if (pane->quitmem != 0)
+            return pane;
+    return nullptr;
+}
+
+int Pane_Quit(int id)
+{
+    PANE* pane = pane_find(id);
+    if (!pane)
+        return -1;
+    pane->quitmem = QUIT_BY_CODE;
+    pane_quit(pane);
     return 0;
 }
 
-int PaneYesNo_Create(const char*, int, const char*)
+int Pane_SetQuitFlag(int id)
 {
+    PANE* pane = pane_find(id);
+    if (!pane)
+        return -1;
+    pane->quitmem = QUIT_BY_CODE;
     return 0;
-}
-
-int PaneProgress_Create(const char*, const char*, int)
-{
-    return 0;
-}
-
-int PaneProgress_SetProg(int, int, const char*)
-{
-    return -1;
-}
-
-int PaneRegion_InitID(int)
-{
-    return 0;
-}
-
-int PaneRegion_Create(int, int)
-{
-    return 0;
-}
-
-void Pane_SetButtonStyle(int, int) {}
-
-int Pane_Quit(int)
-{
-    return -1;
 }
 
 int Pane_GetActiveID()
 {
-    return 0;
+    const PANE* pane = pane_top();
+    return pane ? pane->id : 0;
 }
 
-int Pane_Exist(int)
+int Pane_Exist(int id)
 {
-    return 0;
+    return pane_find(id) != nullptr;
 }
 
-int PaneProc(int, MsgArg, MsgArg, MsgArg, MsgArg)
+// --- Press and release ---
+
+static bool is_arrow(const BUTTON& b)
 {
-    return 0;
+    return b.type == LOOK_UP || b.type == LOOK_DOWN;
 }
 
-// No group has a region yet.
-
-int PaneRegion_GetMainMax(int)
+static bool is_radio(const BUTTON& b)
 {
-    return 0;
+    return b.type == LOOK_POPUP || b.type == LOOK_FMOUT;
 }
 
-int PaneRegion_GetGrpID(int, int, int)
+bool pane_has_input(const PANE* pane, const BUTTON& b)
 {
-    return 0;
+    if (b.hidden)
+        return false;
+    const int page_size = pane_page_size(pane);
+    if (page_size == 0 || b.id >= BTN_CANCEL)
+        return true;
+    return int(&b - pane->button) / page_size == pane->each.directory.now_page;
 }
 
-const char* PaneRegion_GetGrpName(int, int)
+// One of the buttons is on at a time.
+static void press_radio(PANE* pane, BUTTON* pressed)
 {
-    return "";
+    pressed->silent = pressed->onoff != 0;
+    for (BUTTON* b = pane->button; b->id != BUTTON_END; b++) {
+        if (b == pressed || !is_radio(*b) || !b->onoff)
+            continue;
+        b->onoff = 0;
+        b->redraw = 1;
+    }
+    pressed->onoff = 1;
 }
 
-int PaneRegion_GetGrpPos(int, int)
+static void press_button(PANE* pane, BUTTON* b)
 {
-    return 0;
+    b->redraw = 1;
+    b->pushed = PUSHED_MS;
+    if (is_arrow(*b)) {
+        b->pushed = REPEAT_FIRST_MS;
+        SendMessage(LMSG_PANEBTNSEL, b->id, Arg(b), 0, 0);
+        return;
+    }
+    if (b->type == LOOK_ITEM || b->type == LOOK_LONG_ITEM)
+        b->onoff = 1;
+    if (is_radio(*b))
+        press_radio(pane, b);
 }
 
-int PaneRegion_IsSelected(int, int)
+static BUTTON* button_at(PANE* pane, int x, int y)
 {
-    return 0;
+    for (BUTTON* b = pane->button; b->id != BUTTON_END; b++)
+        if (pane_has_input(pane, *b) && Inside({b->x1, b->y1, b->x2, b->y2}, x, y))
+            return b;
+    return nullptr;
 }
 
-int PaneRegion_GetRef(int)
+static int pane_press(PANE* pane, int x, int y)
 {
-    return 0;
+    if (pane->type == TYPE_FIND && pane->each.find.indicator)
+        return 1; // it is searching
+    BUTTON* b = button_at(pane, x - pane->x, y - pane->y);
+    if (!b)
+        pane_press_beside(pane);
+    else if (!b->disable)
+        press_button(pane, b);
+    return 1;
+}
+
+// Also below the top: a pane that opened under the finger must not leave an arrow running.
+static int pane_release()
+{
+    for (PANE* pane = PaneRoot; pane; pane = pane->next) {
+        for (BUTTON* b = pane->button; b->id != BUTTON_END; b++) {
+            if (!is_arrow(*b) || b->pushed == 0)
+                continue;
+            b->pushed = 0;
+            b->redraw = 1;
+        }
+    }
+    return 1;
+}
+
+// --- Repaint ---
+
+// The push of a button has run out. Sends last: the pane may be gone afterwards.
+static void end_push(PANE* pane, BUTTON* b)
+{
+    if (is_arrow(*b)) {
+        b->pushed = REPEAT_MS;
+        SendMessage(LMSG_PANEBTNSEL, b->id, Arg(b), 0, 0);
+        return;
+    }
+    b->pushed = 0;
+    button_draw(pane, b);
+    if (b->type == LOOK_PREV_PAGE || b->type == LOOK_NEXT_PAGE) {
+        pane_turn_page(pane, b->type == LOOK_NEXT_PAGE ? 1 : -1);
+        return;
+    }
+    if (b->silent) {
+        b->silent = 0;
+        return;
+    }
+    SendMessage(LMSG_PANEBTNSEL, b->id, Arg(b), 0, 0);
+}
+
+static void run_buttons(int pane_id, int elapsed_ms)
+{
+    PANE* pane = pane_find(pane_id);
+    for (int i = 0; pane && pane->button[i].id != BUTTON_END; i++) {
+        BUTTON* b = &pane->button[i];
+        if (b->redraw)
+            button_draw(pane, b);
+        if (b->pushed <= 0)
+            continue;
+        b->pushed -= elapsed_ms;
+        if (b->pushed > 0)
+            continue;
+        end_push(pane, b);
+        pane = pane_find(pane_id);
+    }
+}
+
+static bool is_stale(const PANE* pane)
+{
+    return pane->redraw || pane->text_redraw || pane->inside_redraw ||
+           (pane->type == TYPE_PROGRESS && pane->each.progress.prog_redraw);
+}
+
+// A pane that changed under others can't be painted alone: what covers it, shadows too, comes again
+// over the saved ground.
+static bool repaint_covered(const PANE* top)
+{
+    for (const PANE* pane = PaneRoot; pane != top; pane = pane->next) {
+        if (!is_stale(pane))
+            continue;
+        TDL_PopScreen();
+        Pane_RedrawAll();
+        return true;
+    }
+    return false;
+}
+
+static void repaint(PANE* top)
+{
+    if (repaint_covered(top))
+        return;
+    if (top->redraw) {
+        pane_draw_all(top);
+        return;
+    }
+    if (top->inside_redraw)
+        pane_draw_inside(top);
+    if (top->text_redraw)
+        pane_draw_text(top);
+    top->text_redraw = 0;
+    if (top->type != TYPE_PROGRESS || !top->each.progress.prog_redraw)
+        return;
+    pane_draw_progress(top);
+    top->each.progress.prog_redraw = 0;
+}
+
+static int pane_redraw(PANE* top, int elapsed_ms, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    const int id = top->id;
+    repaint(top);
+    run_buttons(id, elapsed_ms);
+    SendMessage(MSG_PANETICK, elapsed_ms, bx, cx, dx);
+    while (PANE* pane = pane_about_to_quit())
+        pane_quit(pane);
+    return 1;
+}
+
+int PaneProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    PANE* top = pane_top();
+    if (!top)
+        return 0;
+    switch (msg) {
+    case MSG_REDRAW: return pane_redraw(top, int(ax), bx, cx, dx);
+    case MSG_PRESS: return pane_press(top, int(ax), int(bx));
+    case MSG_RELEASE: return pane_release();
+    case MSG_DRAG:
+    case MSG_KEY:
+    case MSG_WHEELUP:
+    case MSG_WHEELDOWN: return 1;
+    case LMSG_PANEBTNSEL: pane_select(top, int(ax)); return 0;
+    default:
+        if (pane_find_type(TYPE_FRAME))
+            (void)keyframerunctrl_proc(msg, ax, bx, cx, dx); // tallies pass on to the page
+        return 0;
+    }
 }
