@@ -19,7 +19,6 @@
 #include <cstring>
 #include <netdb.h>
 #include <netinet/in.h>
-#include <poll.h>
 #include <sys/select.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -220,7 +219,9 @@ static constexpr int TEXT_ITEMS_A_PASS = 33;
 
 static int SockFD1 = 0;
 static NetQueue SendCommandQueue;
-static char RBuf[406]; // always terminated; a line must end within it
+static char RBuf[406];             // always terminated; a line must end within it
+static uint32_t RBufFullSince = 0; // clock at which it had filled up, 0 while it has room
+static constexpr uint32_t FULL_BUFFER_MS = 10000;
 static char RCmd[NET_LINE_MAX];
 static char SCmd[CMD_SIZE];
 static char FCmd[CMD_SIZE];
@@ -339,26 +340,37 @@ int Net_SendCommandQueue()
     return 0;
 }
 
-// The peer has closed, whatever still waits to be read.
-static bool net_is_hung_up(int fd)
+static bool text_is_full()
 {
-    pollfd p{fd, POLLRDHUP, 0};
-    return fd > 0 && poll(&p, 1, 0) == 1 && (p.revents & (POLLRDHUP | POLLHUP | POLLERR));
+    return strlen(RBuf) == sizeof RBuf - 1;
 }
 
-// A line of 405 characters that has no end fills the buffer for good. That is meant: the size is
-// part of the contract with the server, and the log says so on every call. Only the end of the
-// connection clears it: the link must come back by itself.
+// A line of 405 characters that has no end fills the buffer, and nothing is read any more. That is
+// meant: the size is part of the contract with the server, and the log says so on every call. But a
+// panel on air must not stay deaf: what cannot end is given up after a while with its connection,
+// and the new one begins clean.
+static void text_hold_full()
+{
+    Log_Output(LOG_LINK, MOD_LINK, "Net_ReceiveCommand() Buffer Full!!");
+    const uint32_t now = SDL_GetTicks();
+    if (!RBufFullSince)
+        RBufFullSince = now ? now : 1; // 0 means that it is not full
+    if (now - RBufFullSince < FULL_BUFFER_MS)
+        return;
+    Log_Output(LOG_LINK, MOD_LINK, "ERROR: no line end for %u ms, connection given up",
+               unsigned(FULL_BUFFER_MS));
+    net_close(&SockFD1);
+    RBuf[0] = '\0';
+    RBufFullSince = 0;
+}
+
 static void text_fill()
 {
-    if (strlen(RBuf) == sizeof RBuf - 1) {
-        Log_Output(LOG_LINK, MOD_LINK, "Net_ReceiveCommand() Buffer Full!!");
-        if (net_is_hung_up(SockFD1)) {
-            net_close(&SockFD1);
-            RBuf[0] = '\0';
-        }
+    if (text_is_full()) {
+        text_hold_full();
         return;
     }
+    RBufFullSince = 0;
     if (SockFD1 == 0 && !text_connect())
         return;
     const size_t used = strlen(RBuf);

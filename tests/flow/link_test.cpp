@@ -387,13 +387,20 @@ TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)
     DEV_MySwr[0] = DEV_MySwr[1] = nullptr;
 }
 
-TEST_F(Link, AFullBufferEndsWithItsConnection)
+TEST_F(Link, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)
 {
     Peer peer(NET_TEXT_PORT);
     Connect(peer);
     peer.Send(std::string(500, 'x')); // 95 of them wait in the socket, behind what can be read
     EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), IsEmpty());
-    ComeBack(peer);
-    peer.Send("A#1\n");
-    EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("A#1"));
+    Clock_ms += 9000;
+    EXPECT_FALSE(Net_ReceiveCommand());
+    peer.Send("A#1\n"); // nothing is read behind it
+    EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), IsEmpty());
+    Clock_ms += 2000;
+    (void)Net_ReceiveCommand();
+    (void)Net_ReceiveCommand();
+    ASSERT_TRUE(peer.Accept());
+    peer.Send("B#2\n");
+    EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("B#2"));
 }
