@@ -29,13 +29,13 @@ struct KnobSheet : KnobColumn {
     }
 };
 
-// Off, selected, held at the end of its range, without a value, and without a range.
+// Off, selected, held at the end of its range, without a value, and without a range to be in.
 TEST_F(KnobSheet, EachStateLooksItsOwn)
 {
     Tally("Clip", "37.5");
     Tally("Gain", "-100");
     Tally("Filter", "9");
-    Tally("Level", "1");
+    Tally("Level", "2");
     NB_SetSelect(2);
     GL_MouseSliderControl = 1;
     PressSlot(3);
