@@ -4,8 +4,8 @@
 #include "a_ls.h"
 #include "types.h"
 
-// One list of the page. There are no default values: it lives in static storage only, and five
-// tables of zeros that the compiler must write down cost minutes. ls_fill sets every field.
+// One list of the page, about 2 MB. There are no default values: it lives in static storage only,
+// which starts as zeros and takes no memory until it is written. ls_fill sets every field.
 struct LS_MEM {
     int id; // below 1 behind the last list
     int hn;

@@ -257,8 +257,8 @@ int ls_release()
     return 0;
 }
 
-// A row that the finger leaves by is not taken twice: a press that took it out would put it back
-// with the first tremble.
+// Every cell that the finger passes takes the value that the press gave to the first. The one that
+// it rests on is not taken twice: page code may have said no to it, and would hear of each tremble.
 int ls_drag(int x, int y, bool held)
 {
     LS_MEM* l = ls_find(touch.id);
