@@ -377,6 +377,7 @@ void Link_Refuse(bool on)
             link_close_listener(listener);
         listener.open_at_ms = 0;
     }
+    link_reopen(Now_Ms());
 }
 
 void Link_Stall(int ms)

@@ -40,8 +40,7 @@ struct Announcement {
 static struct {
     std::vector<Announcement> announcements; // under way
     std::vector<int> asked;                  // clients that want them
-    int lost =
-        0; // of those that went without taking back their wish: the next to connect is one of them
+    int lost = 0; // of those that went without a word: the next to connect is one of them
 } sy;
 
 static constexpr const char* FORMAT_SWR1 = "Engineering Setup@System@Format@Video Format@SWR1";
@@ -111,7 +110,7 @@ static const Preset presets[] = {
     {"Info@Operation Setup Data@Usb Auto Scan", "", "true"},
     {"Info@Operation Setup Data@Color Select", "1..12", "0"},
     {"Info@Operation Setup Data@Mouse Wheel Direction", "", "Scrl Up Clockwise"},
-    {"Info@Operation Setup Data@Mouse Slider Control", "", "Left Button"},
+    {"Info@Operation Setup Data@Mouse Slider Control", "", "Right Button"},
     {"Info@System Setup Data@File Auto Convert", "", "false"},
     {"Info@System Setup Data@NFS Enable", "", "false"},
     {"Info@System Setup Data@NFS Server", "", "192.168.10.100"},
