@@ -4,7 +4,9 @@
 #include "loop.h"
 #include "netio.h"
 #include "page.h"
+#include "pane.h"
 #include "tdl.h"
+#include "window.h"
 #include <algorithm>
 #include <arpa/inet.h>
 #include <cstdlib>
@@ -53,6 +55,9 @@ void Harness_Reset()
     Harness_Video();
     Log_Init(nullptr, LOG_FILE_SIZE);
     Log_SetLevel(0);
+    while (Pane_GetActiveID())
+        Pane_Quit(Pane_GetActiveID());
+    (void)CloseWindow(); // none is open: fine
     Page_Reset();
     Loop_Reset();
     (void)TakeQueuedCommands(); // what an earlier test left
