@@ -67,6 +67,10 @@ class Desk:
         with os.fdopen(read_end) as f:
             self.display = ":" + f.readline().strip()
 
+    def stop_display(self):
+        self.xvfb.terminate()
+        self.xvfb.wait()
+
     def _start_sandbox(self):
         """One shell inside the sandbox starts and ends everything: all share one private loopback."""
         env = dict(os.environ, DISPLAY=self.display, SDL_VIDEODRIVER="x11", SDL_VIDEO_WINDOW_POS="0,0",

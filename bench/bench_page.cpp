@@ -1,0 +1,67 @@
+// The page: a change to a page of 24 captioned buttons with its base area, one button's repaint,
+// and a burst of tallies as the page takes it.
+#include "a_ba.h"
+#include "a_bt.h"
+#include "bench_support.h"
+#include "bus.h"
+#include "command.h"
+#include "device.h"
+#include "global.h"
+#include "log.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include "types.h"
+
+static char taken[CMD_SIZE];
+
+// The queue is emptied as it goes over the wire, so that it does not grow from run to run.
+static void TakeCommands()
+{
+    while (Net_TakeQueued(taken, sizeof taken)) {
+    }
+}
+
+static void OpenTopMenu()
+{
+    (void)CreatePage(0x00110000);
+    TakeCommands();
+}
+
+static void OpenKeyPage()
+{
+    (void)CreatePage(0x11110000);
+    TakeCommands();
+}
+
+// A tally that turns a button on or off, and the pass that paints it.
+static void RepaintButton()
+{
+    static constexpr char path[] = "M/E-1@Key1@Type@Key Invert";
+    const char* value = BT_GetOnOff(33) ? "false" : "true";
+    SendMessage(MSG_TALLY, Arg(path), Arg(value), MsgArg(Hash(path)), 0);
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+}
+
+// A pass in which nothing has changed.
+static void IdlePass()
+{
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+}
+
+static constexpr BenchCase cases[] = {
+    {.name = "page change, top menu of 27 keys", .once = OpenTopMenu, .limit_copies = 8.0},
+    {.name = "page change, key page of 22 buttons", .once = OpenKeyPage, .limit_copies = 8.0},
+    {.name = "one button repainted", .once = RepaintButton, .limit_copies = 0.25},
+    {.name = "a pass without a change", .once = IdlePass, .limit_copies = 0.05},
+};
+
+int main(int argc, char** argv)
+{
+    Bench_Screen();
+    Log_SetLevel(LOG_FORCED);
+    Device_Init();
+    Global_InitBusNames();
+    OpenKeyPage();
+    return Bench_Main(argc, argv, cases);
+}
