@@ -18,7 +18,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <png.h>
-#include <string>
 #include <vector>
 
 static bool WritePng(const char* path)
@@ -60,29 +59,33 @@ static uint32_t PageId(const char* text)
     return high << 16 | low;
 }
 
-// The defaults of the exported values: the first word, false, 0 inside the limits.
+// The defaults of the exported values: the first word, 0 for a number, false for the rest.
+static void SendDefault(char* line)
+{
+    line[strcspn(line, "\n")] = '\0';
+    char* kind = strchr(line, '\t');
+    if (!kind)
+        return;
+    *kind++ = '\0';
+    char* args = strchr(kind, '\t');
+    const char* value = strncmp(kind, "num", 3) == 0 ? "0" : "false";
+    if (strncmp(kind, "word", 4) == 0 && args) {
+        value = args + 1;
+        args[1 + strcspn(args + 1, ",")] = '\0';
+    }
+    char tally[CMD_SIZE];
+    PrintText(tally, "%s#%s", line, value);
+    SendDummyTally(tally);
+}
+
 static void SendDefaults()
 {
     FILE* fp = fopen("values.txt", "r");
     if (!fp)
         return;
     char line[4096];
-    while (fgets(line, sizeof line, fp)) {
-        line[strcspn(line, "\n")] = '\0';
-        char* kind = strchr(line, '\t');
-        if (!kind)
-            continue;
-        *kind++ = '\0';
-        char* args = strchr(kind, '\t');
-        if (args)
-            *args++ = '\0';
-        std::string value = "false";
-        if (strcmp(kind, "word") == 0 && args)
-            value = std::string(args, strcspn(args, ","));
-        if (strcmp(kind, "num") == 0)
-            value = "0";
-        SendDummyTally((std::string(line) + "#" + value).c_str());
-    }
+    while (fgets(line, sizeof line, fp))
+        SendDefault(line);
     fclose(fp);
 }
 

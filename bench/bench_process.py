@@ -1,0 +1,71 @@
+"""The process as a whole, on the desk: start-up to the first page, idle processor time, resident memory.
+
+usage: bench_process.py BUILD [--check]
+"""
+import os
+import sys
+import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), "tests", "e2e"))
+from desk import Desk, SERVER_WAIT  # noqa: E402
+
+IDLE_SECONDS = 10
+TICKS = os.sysconf("SC_CLK_TCK")
+
+
+def pid_of(program):
+    """The process of a desk's program: its name is an absolute path, so no other desk's is meant."""
+    for pid in filter(str.isdigit, os.listdir("/proc")):
+        try:
+            with open(f"/proc/{pid}/cmdline", "rb") as f:
+                if f.read().split(b"\0")[0].decode() == program:
+                    return pid
+        except OSError:
+            pass
+    raise SystemExit(f"{program} does not run")
+
+
+def processor_seconds(pid):
+    with open(f"/proc/{pid}/stat", encoding="ascii") as f:
+        fields = f.read().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / TICKS
+
+
+def resident_mib(pid):
+    with open(f"/proc/{pid}/statm", encoding="ascii") as f:
+        return int(f.read().split()[1]) * os.sysconf("SC_PAGE_SIZE") / 2**20
+
+
+def percent_used(pid):
+    before, start = processor_seconds(pid), time.monotonic()
+    time.sleep(IDLE_SECONDS)
+    return 100 * (processor_seconds(pid) - before) / (time.monotonic() - start)
+
+
+def main():
+    build, check = os.path.abspath(sys.argv[1]), "--check" in sys.argv
+    with Desk(build) as desk:
+        start = time.monotonic()
+        desk.start_app(wait=False)
+        desk.wait_wire("add TopMenu", 15)
+        start_up = time.monotonic() - start - SERVER_WAIT
+        time.sleep(38)  # the initial read, the timed progress
+        app = pid_of(os.path.join(build, "bin", "tm3"))
+        idle = percent_used(app)
+        memory = resident_mib(app)
+        desk._box("start", "loop", desk.work, os.path.join(build, "bin", "sleep_loop"))
+        time.sleep(1)
+        bare = percent_used(pid_of(os.path.join(build, "bin", "sleep_loop")))
+    figures = [
+        ("start-up to the first page, the wait for the server apart", start_up, 0.3, "s"),
+        ("idle processor time above a bare sleep loop", idle - bare, 0.3, "points"),
+        ("resident memory", memory, 64, "MiB"),
+    ]
+    broken = [f for f in figures if f[1] > f[2]]
+    for name, value, limit, unit in broken if check else figures:
+        print(f"{name:60s} {value:8.2f} {unit:6s} limit {limit}")
+    return 1 if broken and check else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
