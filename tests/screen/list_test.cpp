@@ -170,7 +170,7 @@ TEST_F(ListPictures, TwelveThousandRows)
          .sb_bottom = 430},
         LS_END,
     };
-    static char numbers[LS_ROWS][8];
+    static char numbers[LS_ROWS][12];
     Open(table, LS_ROWS);
     for (int row = 0; row < LS_ROWS; row++) {
         snprintf(numbers[row], sizeof numbers[row], "%d", row);
