@@ -35,6 +35,8 @@ struct ListPage : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
+        LS_Create(nullptr, 0); // what an earlier test left open
+        CloseScrollBarAll();
         GL_DebugMode = 0;
         GL_DskInhibit = 0;
         answer = nullptr;
