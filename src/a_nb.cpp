@@ -1,7 +1,6 @@
 #include "a_nb.h"
 #include "a_nb_private.h"
 #include "command.h"
-#include "log.h"
 #include "message.h"
 #include "text.h"
 #include "timecode.h"

@@ -2,14 +2,14 @@
 
 // A box a state. The second layer leaves slots 4 and 5 empty.
 static const NB_TBL table[] = {
-    {.id = 1, .caption = "Clip", .type = NB_2, .min = 0, .max = 100, .cmd = "Clip"},
-    {.id = 2, .caption = "Gain", .type = NB_2, .min = -100, .max = 100, .cmd = "Gain"},
-    {.id = 3, .caption = "Filter", .type = NB_INT, .min = 1, .max = 9, .cmd = "Filter"},
-    {.id = 4, .caption = "Hue", .type = NB_2, .min = 0, .max = 359.99, .cmd = "Hue"},
-    {.id = 5, .caption = "Level", .type = NB_4, .min = 1, .max = 1, .cmd = "Level"},
-    {.id = 17, .caption = "Clip\nLevel", .type = NB_1, .min = 109.5, .max = -7.5, .cmd = "Back"},
-    {.id = 18, .caption = "Duration", .type = NB_TC, .min = 0, .max = 1800, .cmd = "Time"},
-    {.id = 19, .caption = "Delay", .type = NB_TC, .min = -1, .max = 1800, .cmd = "Delay"},
+    Box(1, "Clip", NB_2, 0, 100, "Clip"),
+    Box(2, "Gain", NB_2, -100, 100, "Gain"),
+    Box(3, "Filter", NB_INT, 1, 9, "Filter"),
+    Box(4, "Hue", NB_2, 0, 359.99, "Hue"),
+    Box(5, "Level", NB_4, 1, 1, "Level"),
+    Box(17, "Clip\nLevel", NB_1, 109.5, -7.5, "Back"),
+    Box(18, "Duration", NB_TC, 0, 1800, "Time"),
+    Box(19, "Delay", NB_TC, -1, 1800, "Delay"),
     NB_END,
 };
 

@@ -16,6 +16,12 @@
 #include <functional>
 #include <utility>
 
+constexpr NB_TBL Box(int id, const char* caption, int type, double min, double max, const char* cmd,
+                     double scale = 0)
+{
+    return {id, caption, type, min, max, cmd, scale};
+}
+
 struct KnobColumn : testing::Test {
     PAGE page{.id = 0x11110000,
               .tree = {"M/E-1", "Key1", "Type"},

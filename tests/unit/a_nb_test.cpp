@@ -10,29 +10,17 @@ using Lines = std::vector<std::string>;
 
 // Every kind of path; two layers.
 static const NB_TBL table[] = {
-    {.id = 1, .caption = "Clip", .type = NB_2, .min = 0, .max = 100, .cmd = "~@$@Clip"},
-    {.id = 2,
-     .caption = "Lines",
-     .type = NB_INT,
-     .min = 0,
-     .max = 9,
-     .cmd = "Panel@Common@Knob1",
-     .scale = 7},
-    {.id = 3,
-     .caption = "Shift",
-     .type = NB_1,
-     .min = -10,
-     .max = 10,
-     .cmd = "LOCAL@Panel@Common@Knob2",
-     .scale = 0.5},
-    {.id = 4, .caption = "Pages", .type = NB_INT, .min = 1, .max = 20, .cmd = "LOCAL"},
-    {.id = 5, .caption = "Spare", .type = NB_4, .min = 0, .max = 1, .cmd = ""},
-    {.id = 17, .caption = "Level", .type = NB_2, .min = 109.59, .max = -7.31, .cmd = "~@Level"},
-    {.id = 18, .caption = "Time", .type = NB_TC, .min = -900, .max = 900, .cmd = "~@Time"},
+    Box(1, "Clip", NB_2, 0, 100, "~@$@Clip"),
+    Box(2, "Lines", NB_INT, 0, 9, "Panel@Common@Knob1", 7),
+    Box(3, "Shift", NB_1, -10, 10, "LOCAL@Panel@Common@Knob2", 0.5),
+    Box(4, "Pages", NB_INT, 1, 20, "LOCAL"),
+    Box(5, "Spare", NB_4, 0, 1, ""),
+    Box(17, "Level", NB_2, 109.59, -7.31, "~@Level"),
+    Box(18, "Time", NB_TC, -900, 900, "~@Time"),
     NB_END,
 };
 static const NB_TBL one[] = {
-    {.id = 1, .caption = "Gain", .type = NB_2, .min = -100, .max = 100, .cmd = "~2@Gain"},
+    Box(1, "Gain", NB_2, -100, 100, "~2@Gain"),
     NB_END,
 };
 constexpr char CLIP[] = "M/E-1@Key1@Type@Chroma@Clip";
@@ -84,8 +72,8 @@ TEST_F(KnobColumn, ATableComesBackOnItsLayerUntil256OthersHaveComeAndGone)
 {
     static NB_TBL first[3], others[256][3];
     const auto two_layers = [](NB_TBL* rows) {
-        rows[0] = {.id = 1, .caption = "A", .cmd = ""};
-        rows[1] = {.id = 17, .caption = "B", .cmd = ""};
+        rows[0] = Box(1, "A", 0, 0, 0, "");
+        rows[1] = Box(17, "B", 0, 0, 0, "");
         rows[2] = NB_END;
         return rows;
     };
@@ -104,9 +92,8 @@ TEST_F(KnobColumn, BoxesBeyondTenAndOutsideTheSlotsAreLeftOut)
 {
     static NB_TBL many[13];
     for (int i = 0; i < 12; i++)
-        many[i] = {.id = (i / 5) << 4 | (i % 5 + 1), .caption = "Full", .cmd = ""};
+        many[i] = Box((i / 5) << 4 | (i % 5 + 1), "Full", 0, 0, 0, "");
     many[1].id = 6;
-    many[11].caption = "Late";
     many[12] = NB_END;
     Open(many);
     EXPECT_EQ(NB_SetVar(6, 1), -1);
@@ -117,8 +104,8 @@ TEST_F(KnobColumn, BoxesBeyondTenAndOutsideTheSlotsAreLeftOut)
 
 TEST_F(KnobColumn, RowsComeAndGoByThemselves)
 {
-    static const NB_TBL extra[] = {{.id = 2, .caption = "Extra", .cmd = "~2@Extra"}, NB_END};
-    static const NB_TBL twin[] = {{.id = 19, .caption = "Twin", .cmd = "~2@Extra"}, NB_END};
+    static const NB_TBL extra[] = {Box(2, "Extra", 0, 0, 0, "~2@Extra"), NB_END};
+    static const NB_TBL twin[] = {Box(19, "Twin", 0, 0, 0, "~2@Extra"), NB_END};
     Open(one, "Gain");
     EXPECT_EQ(NB_AddTable(extra), 0);
     EXPECT_THAT(TakeQueuedCommands(),
@@ -207,13 +194,7 @@ TEST_F(KnobColumn, ATurnStopsAtTheLimitsAndSaysWhich)
         {0, 9, 4, "1e308", {"upper 1 9", "var 1 9", "fvar 1 9.00"}, 9},
     };
     for (const auto& c : cases) {
-        const NB_TBL rows[] = {{.id = 1,
-                                .caption = "Turn",
-                                .type = NB_INT,
-                                .min = c.min,
-                                .max = c.max,
-                                .cmd = "Panel@Common@Knob0",
-                                .scale = 10},
+        const NB_TBL rows[] = {Box(1, "Turn", NB_INT, c.min, c.max, "Panel@Common@Knob0", 10),
                                NB_END};
         Open(rows);
         NB_SetVar(1, c.from);
@@ -272,15 +253,8 @@ TEST_F(KnobColumn, PageCodeMayChangeValueAndTableWhileItHearsOfATurn)
     EXPECT_EQ(recording_kept_out, 2);
     EXPECT_EQ(GL_MM_Knob_Protcol, 0);
     // The boxes of the new table do not count the turn again.
-    static const NB_TBL next[] = {
-        {.id = 4, .caption = "Next", .type = NB_INT, .max = 9, .cmd = "LOCAL"},
-        {.id = 2,
-         .caption = "Again",
-         .type = NB_INT,
-         .max = 9,
-         .cmd = "Panel@Common@Knob1",
-         .scale = 1},
-        NB_END};
+    static const NB_TBL next[] = {Box(4, "Next", NB_INT, 0, 9, "LOCAL"),
+                                  Box(2, "Again", NB_INT, 0, 9, "Panel@Common@Knob1", 1), NB_END};
     Open(next + 1);
     answer = [](int msg) {
         if (msg == LMSG_KNOBVAR && told.size() == 1) // the first time
@@ -318,8 +292,7 @@ TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
     EXPECT_EQ(NB_SetVar(1, NAN), -1);
     EXPECT_EQ(NB_SetDispVar(1, INFINITY), -1);
     EXPECT_EQ(NB_SendValue2(1, NAN), -1);
-    static const NB_TBL unscaled[] = {
-        {.id = 1, .caption = "Zero", .type = NB_2, .max = 9, .cmd = "Panel@Common@Knob0"}, NB_END};
+    static const NB_TBL unscaled[] = {Box(1, "Zero", NB_2, 0, 9, "Panel@Common@Knob0"), NB_END};
     Open(unscaled);
     Tally("Panel@Common@Knob0", "3");
     EXPECT_EQ(Shown("Zero"), 0);
@@ -378,9 +351,7 @@ TEST_F(KnobColumn, TheWheelStepsByItsSpeedAndByOnesWhereOnesCount)
     SYS_FrameRate = 30;
     SYS_Format_Size = 0; // 30 frames a second
     for (const auto& c : cases) {
-        const NB_TBL rows[] = {
-            {.id = 1, .caption = "V", .type = c.type, .min = c.min, .max = c.max, .cmd = "V"},
-            NB_END};
+        const NB_TBL rows[] = {Box(1, "V", c.type, c.min, c.max, "V"), NB_END};
         Open(rows);
         Clock_ms += 1000;
         Wheel(c.msg, 1); // sets the time of the last step
@@ -502,9 +473,7 @@ TEST_F(KnobColumn, SomePagesBendADraggedValue)
     };
     GL_MouseSliderControl = 1;
     for (const auto& c : cases) {
-        const NB_TBL rows[] = {
-            {.id = 1, .caption = c.caption, .type = NB_2, .min = c.min, .max = c.max, .cmd = c.cmd},
-            NB_END};
+        const NB_TBL rows[] = {Box(1, c.caption, NB_2, c.min, c.max, c.cmd), NB_END};
         GL_NowPage = c.page;
         Open(rows);
         PressSlot(1);
