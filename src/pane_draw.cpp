@@ -31,6 +31,7 @@ enum Light { NEVER = 0, WHEN_ON = 1, WHEN_PUSHED = 2, EITHER = WHEN_ON | WHEN_PU
 enum Place {
     CENTRED,  // font 3
     CELL,     // font 4, left
+    ITEM,     // as CELL, up to the groove of the key
     COMMIT,   // as CELL, two lines a little higher
     STANDARD, // font 3 at the margin of a standard key
     NO_CAPTION,
@@ -54,24 +55,30 @@ constexpr Face PushFace(int look, SDL_Surface** up, SDL_Surface** down, SDL_Surf
     return {look, up, up, down, down, dis, light, place};
 }
 
+// A wide key that is light when it is on or pushed.
+constexpr Face EntryFace(int look)
+{
+    return {look, &G_FMOUT_off, &G_FMOUT_on, &G_FMOUT_on, &G_FMOUT_on, &G_FMOUT_off, EITHER, CELL};
+}
+
 constexpr Face faces[] = {
     PushFace(LOOK_KEY, &G_BOX_key_off, &G_BOX_key_on, &G_BOX_key_dis, WHEN_PUSHED, CENTRED),
     PushFace(LOOK_UP, &G_BOX_up_off, &G_BOX_up_on, &G_BOX_up_off, NEVER, NO_CAPTION),
     PushFace(LOOK_DOWN, &G_BOX_down_off, &G_BOX_down_on, &G_BOX_down_off, NEVER, NO_CAPTION),
-    {LOOK_ITEM, &G_PD_p0o0, &G_PD_p0o1, &G_PD_p1o0, &G_PD_p1o1, &G_PD_dis, WHEN_ON, CELL},
+    {LOOK_ITEM, &G_PD_p0o0, &G_PD_p0o1, &G_PD_p1o0, &G_PD_p1o1, &G_PD_dis, WHEN_ON, ITEM},
     {LOOK_CELL, &G_PDs_p0o0, &G_PDs_p0o1, &G_PDs_p1o0, &G_PDs_p1o1, &G_PDs_dis, WHEN_ON, CELL},
     PushFace(LOOK_ENTER, &G_PDs_enter_off, &G_PDs_enter_on, &G_PDs_enter_dis, WHEN_PUSHED, COMMIT),
-    {LOOK_POPUP, &G_UP_sel_off, &G_UP_sel_off_amber, &G_UP_sel_on, &G_UP_sel_on_amber,
-     &G_UP_sel_dis, WHEN_PUSHED, CELL},
+    {LOOK_POPUP, &G_UP_sel_off, &G_UP_sel_on, &G_UP_sel_off_amber, &G_UP_sel_on_amber,
+     &G_UP_sel_dis, WHEN_ON, CELL},
     PushFace(LOOK_TEXT, &G_JMP_Key_p0, &G_JMP_Key_p1, &G_JMP_Key_dis, NEVER, STANDARD),
     PushFace(LOOK_COLOUR, &G_OKINI_1_p0, &G_OKINI_1_p1, &G_JMP_dis, NEVER, STANDARD),
-    {LOOK_DIRECTORY, &G_PDs_p0o0, &G_PDs_p0o1, &G_PDs_p1o0, &G_PDs_p1o1, &G_PDs_dis, WHEN_ON, CELL},
-    {LOOK_FOLDER, &G_PD_p0o0, &G_PD_p0o1, &G_PD_p1o0, &G_PD_p1o1, &G_PD_dis, WHEN_ON, CELL},
+    EntryFace(LOOK_DIRECTORY),
+    EntryFace(LOOK_FOLDER),
     PushFace(LOOK_PREV_PAGE, &G_BACK_off, &G_BACK_on, &G_BACK_dis, NEVER, NO_CAPTION),
     PushFace(LOOK_NEXT_PAGE, &G_NEXT_off, &G_NEXT_on, &G_NEXT_dis, NEVER, NO_CAPTION),
     {LOOK_RUN, &G_EXE_p0o0, &G_EXE_p0o1, &G_EXE_p1o0, &G_EXE_p1o1, &G_EXE_dis, WHEN_ON, STANDARD},
-    {LOOK_FMOUT, &G_FMOUT_off, &G_FMOUT_on, &G_FMOUT_on, &G_FMOUT_on, &G_FMOUT_off, EITHER, CELL},
-    {LOOK_LONG_ITEM, &G_PDl_p0o0, &G_PDl_p0o1, &G_PDl_p1o0, &G_PDl_p1o1, &G_PDl_dis, WHEN_ON, CELL},
+    EntryFace(LOOK_FMOUT),
+    {LOOK_LONG_ITEM, &G_PDl_p0o0, &G_PDl_p0o1, &G_PDl_p1o0, &G_PDl_p1o1, &G_PDl_dis, WHEN_ON, ITEM},
 };
 
 constexpr bool IndexedByLook()
@@ -153,6 +160,7 @@ static void draw_caption(const BUTTON& b, int x, int y)
         TDL_SymbolCS(x + p, y + p, x + w - 1 + p, y + h - 1 + p, b.caption, 3, col);
         break;
     case CELL: TDL_SymbolBS(x + 8 + p, y + 9 + p, w - 9, h - 9, b.caption, 4, col, 0); break;
+    case ITEM: TDL_SymbolBS(x + 8 + p, y + 9 + p, 70, h - 9, b.caption, 4, col, 0); break;
     case COMMIT:
         TDL_SymbolBS(x + 8 + p, y + (strchr(b.caption, '\n') ? 7 : 9) + p, w - 9, h - 7, b.caption,
                      4, col, 0);
@@ -356,6 +364,7 @@ static void draw_find(PANE* p)
 {
     draw_dark_box(*p);
     draw_indicator_s(p);
+    TDL_FillRectS(p->x + 124, p->y + 33, p->x + 156, p->y + 105, STRIP);
     TDL_SymbolS(p->x + 40, p->y + 7, p->caption, 8, WHITE);
 }
 

@@ -522,7 +522,7 @@ static int directory_create(TYPE type, PaneGrid grid, int n, const BTNSEL* entri
 
 int PaneDirectory_Create(int n, const BTNSEL* entries)
 {
-    constexpr PaneGrid grid = {8, 5, 15, 15, 64, 44, LOOK_DIRECTORY};
+    constexpr PaneGrid grid = {5, 8, 15, 15, 103, 46, LOOK_DIRECTORY};
     static_assert(grid.columns * grid.rows == DIRECTORY_PAGE);
     return directory_create(TYPE_DIRECTORY, grid, n, entries);
 }

@@ -1,0 +1,87 @@
+// pane_page: a page that writes down what reaches it while panes are open, and the touches of an
+// operator.
+#pragma once
+#include "a_ba.h"
+#include "bus.h"
+#include "device.h"
+#include "global.h"
+#include "harness.h"
+#include "message.h"
+#include "page.h"
+#include "pane.h"
+#include "tdl.h"
+#include <string>
+#include <utility>
+#include <vector>
+
+struct PanePage : testing::Test {
+    static inline PAGE page;
+    static inline BA_TBL base;
+    static inline std::vector<std::string> told; // "button ID", "quit PANE RESULT", in order
+    static inline int ticks_ms = 0;              // of MSG_PANETICK
+    static inline int ticks = 0;
+    static inline int inputs = 0; // presses, releases, drags, keys, wheel steps, repaints
+    static inline void (*on_button)() = nullptr; // what the page does then, once
+
+    static int WriteDown(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+    {
+        switch (msg) {
+        case LMSG_PANEBTNSEL:
+            told.push_back("button " + std::to_string(ax));
+            if (auto act = std::exchange(on_button, nullptr))
+                act();
+            break;
+        case LMSG_PANEQUIT:
+            told.push_back("quit " + std::to_string(ax) + " " + std::to_string(int(bx)));
+            break;
+        case MSG_PANETICK:
+            ticks++;
+            ticks_ms += int(ax);
+            break;
+        case MSG_TALLY: break;
+        default: inputs += msg < LMSG_LISTSEL; break;
+        }
+        return 0;
+    }
+
+    void SetUp() override
+    {
+        Harness_Reset();
+        Device_Init();
+        DeviceStructure();
+        base = {.id = 1, .info = {1}, .create_func = nullptr, .proc_func = WriteDown};
+        page = {.id = 0x71110000, .obj = {{OBJ_BA, &base, 0}}, .knobassign = -1};
+        Page = &page;
+        GL_FM_Find_PaneID = 0;
+        BA_Create(&base, 0);
+        told.clear();
+        ticks_ms = ticks = inputs = 0;
+        on_button = nullptr;
+    }
+    void TearDown() override
+    {
+        while (const int id = Pane_GetActiveID())
+            Pane_Quit(id);
+        BA_Create(nullptr, 0);
+        Page_Reset();
+        Device_Init();
+        DeviceStructure();
+        (void)TakeQueuedCommands();
+    }
+
+    static void Pass(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    static void Press(int x, int y) { SendMessage(MSG_PRESS, x, y, 1, 0); }
+    static void Release(int x, int y) { SendMessage(MSG_RELEASE, x, y, 0, 0); }
+    static void Touch(int x, int y) // and wait until what it started is over
+    {
+        Pass();
+        Press(x, y);
+        Release(x, y);
+        Pass(150);
+    }
+    static std::vector<std::string> Told() { return std::exchange(told, {}); }
+    static std::string Quit(int id, int result)
+    {
+        return "quit " + std::to_string(id) + " " + std::to_string(result);
+    }
+};

@@ -1,0 +1,397 @@
+#include "pane_page.h"
+#include "pane_private.h"
+#include <cstring>
+#include <gmock/gmock.h>
+#include <map>
+#include <set>
+
+using testing::ElementsAre;
+
+struct Regions : PanePage {
+    std::map<int, std::vector<int>> start; // what was selected, by group
+
+    void SetUp() override
+    {
+        PanePage::SetUp();
+        for (int grp = 0; grp < REGION_GROUPS; grp++) {
+            PaneRegion_InitID(grp);
+            for (int i = 0; i < RegionBtn[grp].cells; i++)
+                start[grp].push_back(RegionBtn[grp].btnsel[i].select);
+        }
+    }
+    void TearDown() override
+    {
+        PanePage::TearDown();
+        for (int grp = 0; grp < REGION_GROUPS; grp++) {
+            PaneRegion_InitID(grp);
+            for (int i = 0; i < RegionBtn[grp].cells; i++)
+                RegionBtn[grp].btnsel[i].select = start[grp][size_t(i)];
+        }
+    }
+
+    static void Select(int grp, std::initializer_list<std::pair<int, int>> cells)
+    {
+        for (int i = 0; i < RegionBtn[grp].cells; i++)
+            RegionBtn[grp].btnsel[i].select = 0;
+        for (const auto& [cell, select] : cells)
+            RegionBtn[grp].btnsel[cell].select = select;
+    }
+    // "cell:select" of what is not off.
+    static std::string Selected(int grp)
+    {
+        std::string text;
+        for (int i = 0; i < RegionBtn[grp].cells; i++)
+            if (const int select = RegionBtn[grp].btnsel[i].select)
+                text += (text.empty() ? "" : " ") + std::to_string(i) + (select == 2 ? "*" : "");
+        return text;
+    }
+    static int Width(int grp)
+    {
+        return 64 * RegionBtn[grp].hn + 26 + (grp == 24 || grp == 25 ? 150 : 0);
+    }
+    static int Height(int grp, int single) { return 44 * RegionBtn[grp].vn + (single ? 26 : 76); }
+    static int Left(int grp) { return 400 - Width(grp) / 2; }
+    static int Top(int grp, int single) { return (single ? 220 : 300) - Height(grp, single) / 2; }
+    static void TouchCell(int grp, int cell, int single = 0)
+    {
+        const int x = grp == 24 || grp == 25 ? 115 : 15;
+        Touch(Left(grp) + x + cell % RegionBtn[grp].hn * 64 + 20,
+              Top(grp, single) + 15 + cell / RegionBtn[grp].hn * 44 + 20);
+    }
+    static void TouchKey(int grp, int from_right) // Enter: 0
+    {
+        const int x =
+            from_right ? Left(grp) + Width(grp) - from_right : Left(grp) + Width(grp) / 2 - 30;
+        Touch(x + 20, Top(grp, 0) + Height(grp, 0) - 40);
+    }
+    static void Enter(int grp) { TouchKey(grp, 0); }
+    enum { ALL = 75, SWR_ALL = 140, DME_UNITS = 140, SWR_UNITS = 205 };
+
+    // This panel's units, by numbers of devices.
+    static void Units(int switchers, int effects)
+    {
+        SYS_MySwrMax = switchers;
+        SYS_MyDmeMax = effects;
+        for (int i = 0; i < DEVICE_MAX; i++) {
+            DEV_MySwr[i] = i < switchers ? &DEV_Swr[i] : nullptr;
+            DEV_MyDme[i] = i < effects ? &DEV_Dme[i] : nullptr;
+            snprintf(DEV_Swr[i].name, sizeof DEV_Swr[i].name, "SWR%d", i + 1);
+            snprintf(DEV_Dme[i].name, sizeof DEV_Dme[i].name, "DME%d", i + 1);
+        }
+    }
+};
+
+// One walk over all tables: what must hold in every group.
+TEST_F(Regions, EveryGroupIsSound)
+{
+    Units(2, 8);
+    for (int grp = 0; grp < REGION_GROUPS; grp++) {
+        EXPECT_EQ(PaneRegion_InitID(grp), 0);
+        const REGIONBTN& g = RegionBtn[grp];
+        std::set<int> cells;
+        int references = 0;
+        for (int i = 0; i < g.cells; i++) {
+            if (g.btnsel[i].id <= 0)
+                continue;
+            EXPECT_TRUE(cells.insert(g.btnsel[i].id).second)
+                << grp << ": id " << g.btnsel[i].id << " twice";
+            EXPECT_STRNE(g.btnsel[i].caption, "") << grp;
+            references += g.btnsel[i].select == 2;
+        }
+        EXPECT_LE(references, 1) << grp;
+        std::set<int> named, places;
+        for (int main = 0; main < PaneRegion_GetMainMax(grp); main++) {
+            EXPECT_TRUE(places.insert(PaneRegion_GetGrpPos(grp, main)).second) << grp;
+            EXPECT_LT(PaneRegion_GetGrpPos(grp, main), 10) << grp;
+            for (int sub = 0; PaneRegion_GetGrpID(grp, main, sub) > 0; sub++) {
+                const int id = PaneRegion_GetGrpID(grp, main, sub);
+                EXPECT_TRUE(named.insert(id).second) << grp << ": " << id << " under two names";
+                int found_main = -1, found_sub = -1;
+                EXPECT_EQ(PaneRegion_GetGrpMainSub(grp, id, &found_main, &found_sub), 0);
+                EXPECT_EQ(found_main, main);
+                EXPECT_EQ(found_sub, sub);
+                const bool has_files = grp != 24 && grp != 25 && grp != 46;
+                EXPECT_EQ(*PaneRegion_GetGrpFIRegion(grp, main, sub) != 0, has_files)
+                    << grp << " " << id;
+                EXPECT_EQ(strlen(PaneRegion_GetGrpFIExt(grp, main, sub)), has_files ? 3U : 0U)
+                    << grp << " " << id;
+            }
+        }
+        EXPECT_EQ(named, cells) << "group " << grp << ": the area names what the selector offers";
+        const int pane = PaneRegion_Create(grp, 0);
+        Pass();
+        EXPECT_GE(Top(grp, 0), 73) << "the saved ground reaches no higher";
+        Enter(grp);
+        EXPECT_EQ(Told().back(), Quit(pane, 1)) << grp;
+    }
+}
+
+TEST_F(Regions, FilesOfARegionHaveItsWord)
+{
+    static const struct {
+        int grp;
+        int id;
+        const char* word;
+        const char* dual; // where two processors share the effects units
+        const char* ext;
+    } cases[] = {
+        {0, 897, "DEV", "DEV", "SFS"},   {0, 1152, "DEV", "DEV", "DST"},
+        {0, 1025, "GUI", "GUI", "PST"},  {1, 896, "DEV", "DEV", "SIS"},
+        {1, 1152, "CHF", "CHF", "DIS"},  {2, 896, "DEV", "DEV", "SKM"},
+        {4, 266, "ME5", "ME5", "SKF"},   {4, 256, "PP", "PP", "SKF"},
+        {4, 279, "USR8", "USR8", "SKF"}, {4, 291, "CH4", "CH2", "DKF"},
+        {4, 292, "CH1", "CH1", "DKF"},   {4, 294, "CH3", "CH1", "DKF"},
+        {8, 292, "CHF", "CHF", "DKF"},   {13, 295, "CH4", "CH2", "DSS"},
+        {13, 264, "ME4", "ME4", "SSS"},  {17, 257, "ME1", "ME1", "SWS"},
+        {18, 257, "ME1", "ME1", "SDS"},  {19, 512 + 9, "ME2_2", "ME2_2", "SKS"},
+        {20, 1024, "PNL", "PNL", "PSB"}, {21, 1024, "PNL", "PNL", "PMR"},
+        {22, 1024, "PNL", "PNL", "PMA"}, {23, 896, "FMEM", "FMEM", "SFM"},
+        {33, 1025, "GUI", "GUI", "MMR"}, {40, 896, "DEV", "DEV", "SFR"},
+        {41, 898, "DEV", "DEV", "SUP"},  {30, 260, "PP_SUB", "PP_SUB", "SWS"},
+    };
+    Units(1, 1);
+    for (const auto& c : cases) {
+        PaneRegion_InitID(c.grp);
+        int main = -1, sub = -1;
+        ASSERT_EQ(PaneRegion_GetGrpMainSub(c.grp, c.id, &main, &sub), 0) << c.grp << " " << c.id;
+        EXPECT_STREQ(PaneRegion_GetGrpFIRegion(c.grp, main, sub), c.word) << c.grp << " " << c.id;
+        EXPECT_STREQ(PaneRegion_GetGrpFIRegion_DualProc(c.grp, main, sub), c.dual)
+            << c.grp << " " << c.id;
+        EXPECT_STREQ(PaneRegion_GetGrpFIExt(c.grp, main, sub), c.ext) << c.grp << " " << c.id;
+    }
+}
+
+TEST_F(Regions, UnknownPlacesAnswerNothing)
+{
+    int main = 7, sub = 7;
+    for (int grp : {-1, REGION_GROUPS}) {
+        EXPECT_EQ(PaneRegion_InitID(grp), -1);
+        EXPECT_EQ(PaneRegion_Create(grp, 0), 0);
+        EXPECT_EQ(PaneRegion_GetMainMax(grp), 0);
+        EXPECT_STREQ(PaneRegion_GetGrpCategoryStr(grp), "");
+        EXPECT_EQ(PaneRegion_GetRef(grp), 0);
+        EXPECT_EQ(PaneRegion_IsSelected(grp, 257), 0);
+        EXPECT_EQ(PaneRegion_SetDefaultSelected(grp), -1);
+        EXPECT_EQ(PaneRegion_GetGrpMainSub(grp, 257, &main, &sub), -1);
+    }
+    for (const auto& [m, s] : {std::pair{-1, 0}, {8, 0}, {0, -1}, {0, 12}}) {
+        EXPECT_EQ(PaneRegion_GetGrpID(4, m, s), 0);
+        EXPECT_STREQ(PaneRegion_GetGrpFIRegion(4, m, s), "");
+        EXPECT_STREQ(PaneRegion_GetGrpFIExt(4, m, s), "");
+    }
+    EXPECT_EQ(PaneRegion_GetGrpMainSub(4, 0, &main, &sub), -1) << "an empty cell is no region";
+    EXPECT_EQ(PaneRegion_IsSelected(4, 0), 0);
+    EXPECT_EQ(main, 7);
+}
+
+TEST_F(Regions, CellsFollowTheUnits)
+{
+    static const struct {
+        int grp;
+        int switchers;
+        int effects;
+        std::map<int, std::pair<int, const char*>> cells; // those of units that are there
+    } cases[] = {
+        {0,
+         1,
+         1,
+         {{0, {896, "SWR1"}},
+          {1, {897, "SWR1\n   FC"}},
+          {2, {898, "SWR1\n CCR"}},
+          {6, {1152, "DME1"}}}},
+        {0,
+         2,
+         0,
+         {{0, {896, "SWR1"}},
+          {1, {897, "SWR1\n   FC"}},
+          {2, {898, "SWR1\n CCR"}},
+          {3, {899, "SWR2"}},
+          {4, {900, "SWR2\n   FC"}},
+          {5, {901, "SWR2\n CCR"}}}},
+        {1,
+         2,
+         2,
+         {{0, {896, "SWR1"}}, {1, {897, "SWR2"}}, {4, {1152, "DME1"}}, {5, {1153, "DME2"}}}},
+        {23, 2, 1, {{0, {896, "SWR1"}}, {1, {897, "SWR2"}}}},
+        {32, 1, 1, {{0, {896, "SWR1"}}}},
+        {41, 1, 1, {{0, {896, "SWR1"}}, {1, {897, "SWR1\nUsrSrc"}}, {2, {898, "SWR1\nPatch"}}}},
+        {42, 0, 8, {}},
+    };
+    for (const auto& c : cases) {
+        Units(c.switchers, c.effects);
+        EXPECT_EQ(PaneRegion_InitID(c.grp), 0);
+        for (int i = 0; i < RegionBtn[c.grp].cells; i++) {
+            const BTNSEL& cell = RegionBtn[c.grp].btnsel[i];
+            if (cell.id >= 1024 && cell.id < 1152)
+                continue; // of the panel
+            const auto expected = c.cells.find(i);
+            EXPECT_EQ(cell.id, expected == c.cells.end() ? 0 : expected->second.first)
+                << c.grp << " " << i;
+            EXPECT_STREQ(cell.caption, expected == c.cells.end() ? "" : expected->second.second)
+                << c.grp << " " << i;
+        }
+    }
+}
+
+TEST_F(Regions, AUnitThatGoesTakesItsSelectionWithIt)
+{
+    Units(2, 0);
+    PaneRegion_InitID(23);
+    Select(23, {{0, 1}, {1, 2}});
+    EXPECT_EQ(PaneRegion_GetRef(23), 897);
+    Units(1, 0);
+    PaneRegion_InitID(23);
+    EXPECT_EQ(PaneRegion_GetRef(23), 0);
+    Units(2, 0);
+    PaneRegion_InitID(23);
+    EXPECT_EQ(PaneRegion_IsSelected(23, 897), 0);
+    EXPECT_EQ(PaneRegion_IsSelected(23, 896), 1);
+}
+
+TEST_F(Regions, TheLastOneTouchedIsTheReference)
+{
+    static const struct {
+        int grp;
+        std::vector<int> touches;
+        const char* selected; // "*": the reference
+    } cases[] = {
+        {4, {1}, "0 1*"},
+        {4, {1, 0}, "0* 1"},
+        {4, {1, 9, 1}, "0 1* 9"}, // back to one that is selected
+        {4, {1, 1}, "0*"},        // off: the first that is on takes over
+        {4, {9, 8, 8, 0}, "9*"},  // not always the first cell
+        {4, {0}, ""},             // the last one: no reference is left
+        {4, {6, 7}, "0*"},        // empty cells
+        {24, {0, 1}, "0 1"},      // units have no reference
+        {24, {10, 1, 10}, "1"},
+        {24, {8}, ""},
+        {32, {1}, "1*"}, // one choice
+        {32, {1, 1}, "1*"},
+        {39, {0}, "0*"}, // the reference stays
+        {39, {1}, "0 1*"},
+        {39, {1, 1}, "0 1*"},
+    };
+    Units(2, 2);
+    for (const auto& c : cases) {
+        PaneRegion_InitID(c.grp);
+        if (c.grp == 24)
+            Select(c.grp, {});
+        else
+            Select(c.grp, {{0, 2}});
+        (void)PaneRegion_Create(c.grp, 0);
+        for (const int cell : c.touches)
+            TouchCell(c.grp, cell);
+        Enter(c.grp);
+        EXPECT_EQ(Selected(c.grp), c.selected)
+            << c.grp << ": " << testing::PrintToString(c.touches);
+    }
+    Select(4, {});
+    EXPECT_EQ(PaneRegion_GetRef(4), 0);
+}
+
+TEST_F(Regions, OnlyEnterChangesTheSelection)
+{
+    Units(2, 2);
+    Select(4, {{0, 2}});
+    const int id = PaneRegion_Create(4, 0);
+    TouchCell(4, 3);
+    Touch(5, 5);
+    EXPECT_EQ(Pane_Exist(id), 1) << "a press beside it loses nothing";
+    EXPECT_EQ(Selected(4), "0*");
+    Pane_Quit(id);
+    EXPECT_EQ(Selected(4), "0*");
+    (void)PaneRegion_Create(4, 0);
+    TouchCell(4, 3);
+    Enter(4);
+    EXPECT_EQ(Selected(4), "0 3*");
+    EXPECT_EQ(PaneRegion_GetRef(4), 264);
+    EXPECT_EQ(PaneRegion_IsSelected(4, 257), 1);
+}
+
+TEST_F(Regions, ASingleSelectorAnswersWithTheRegion)
+{
+    Units(2, 2);
+    Select(4, {{0, 2}});
+    int id = PaneRegion_Create(4, 1);
+    TouchCell(4, 10, 1);
+    EXPECT_EQ(Told().back(), Quit(id, 274));
+    id = PaneRegion_Create(4, 1);
+    TouchCell(4, 6, 1); // a hole between the cells
+    EXPECT_EQ(Told().back(), Quit(id, 0));
+    id = PaneRegion_Create(4, 1);
+    Touch(5, 5);
+    EXPECT_EQ(Told().back(), Quit(id, 0));
+    EXPECT_EQ(Selected(4), "0*");
+}
+
+TEST_F(Regions, SelectorsOnTopOfEachOtherKeepApart)
+{
+    Units(2, 2);
+    Select(4, {{0, 2}});
+    Select(17, {{0, 2}});
+    (void)PaneRegion_Create(17, 0);
+    const int upper = PaneRegion_Create(4, 0);
+    TouchCell(4, 9);
+    Pane_Quit(upper);
+    TouchCell(17, 2);
+    Enter(17);
+    EXPECT_EQ(Selected(17), "0 2*");
+    EXPECT_EQ(Selected(4), "0*");
+}
+
+TEST_F(Regions, AllKeysSelectAndClear)
+{
+    static const struct {
+        const char* name;
+        int grp;
+        int switchers;
+        std::vector<std::pair<int, int>> before;
+        int key;
+        const char* selected;
+    } cases[] = {
+        {"all", 17, 1, {}, ALL, "0* 1 2 3 4 5"},
+        {"any off", 17, 1, {{3, 1}}, ALL, ""},
+        {"units", 24, 1, {}, ALL, "0 1 2 3 4 5 6 7 10 11 12 13 14 15 16 17"},
+        {"no switcher", 13, 0, {}, ALL, "16* 17 18 19 20 21 22 23"},
+        {"the third cell", 34, 1, {}, ALL, "0 1 2* 3 4 5 8 10 11 12 13 18 19 20 21"},
+        {"banks on", 13, 1, {}, SWR_ALL, "0* 1 2 3 4 5 8 9 10 11 12 13 14 15"},
+        {"banks on, one reference",
+         13,
+         1,
+         {{16, 2}},
+         SWR_ALL,
+         "0* 1 2 3 4 5 8 9 10 11 12 13 14 15 16"},
+        {"banks off", 13, 1, {{2, 2}, {17, 1}, {18, 1}}, SWR_ALL, "17* 18"},
+        {"banks off, reference elsewhere", 13, 1, {{2, 1}, {17, 1}, {18, 2}}, SWR_ALL, "17 18*"},
+        {"a user off", 13, 1, {{15, 2}}, SWR_ALL, ""},
+        {"without a switcher", 13, 0, {{16, 2}}, SWR_ALL, "16*"},
+        {"DME units", 24, 1, {{0, 1}}, DME_UNITS, "0 10 11 12 13 14 15 16 17"},
+        {"DME units off", 24, 1, {{0, 1}, {10, 1}}, DME_UNITS, "0"},
+        {"SWR units", 25, 1, {{17, 1}}, SWR_UNITS, "0 1 2 3 4 5 6 7 17"},
+        {"no ALL for three columns", 43, 1, {{0, 2}}, ALL, "0*"},
+    };
+    for (const auto& c : cases) {
+        Units(c.switchers, 2);
+        Select(c.grp, {});
+        for (const auto& [cell, select] : c.before)
+            RegionBtn[c.grp].btnsel[cell].select = select;
+        (void)PaneRegion_Create(c.grp, 0);
+        TouchKey(c.grp, c.key);
+        Enter(c.grp);
+        EXPECT_EQ(Selected(c.grp), c.selected) << c.name;
+    }
+}
+
+TEST_F(Regions, WithoutASwitcherTheFirstChannelIsTheDefault)
+{
+    Units(1, 2);
+    Select(4, {{0, 2}, {17, 1}});
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
+    EXPECT_EQ(Selected(4), "0* 17");
+    Units(0, 2);
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
+    EXPECT_EQ(Selected(4), "16* 17");
+    Select(4, {{1, 1}, {38, 2}});
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
+    EXPECT_EQ(Selected(4), "16* 38");
+}

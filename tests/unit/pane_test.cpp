@@ -1,0 +1,533 @@
+#include "memory.h"
+#include "pane_page.h"
+#include "pane_private.h"
+#include <climits>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+// Of the message box at (200, 140).
+constexpr int OK_X = 200 + 160, OK_Y = 140 + 255;
+constexpr int YES_X = 200 + 100, NO_X = 200 + 215;
+constexpr int ARROW_X = 200 + 340, UP_Y = 140 + 70, DOWN_Y = 140 + 205, PROGRESS_UP_Y = 140 + 125;
+
+std::string Lines(int n)
+{
+    std::string text;
+    for (int i = 1; i <= n; i++)
+        text += (i > 1 ? "\n" : "") + std::to_string(i);
+    return text;
+}
+
+std::vector<uint32_t> Area(int x1, int y1, int x2, int y2)
+{
+    std::vector<uint32_t> pixels;
+    for (int y = y1; y <= y2; y++)
+        for (int x = x1; x <= x2; x++)
+            pixels.push_back(PixelAt(x, y));
+    return pixels;
+}
+
+std::vector<uint32_t> Well()
+{
+    return Area(231, 206, 500, 374);
+}
+} // namespace
+
+struct Panes : PanePage {
+};
+
+TEST_F(Panes, AnswersAreTheResult)
+{
+    static const struct {
+        const char* name;
+        int (*open)();
+        int x;
+        int y;
+        int result;
+    } cases[] = {
+        {"OK", [] { return PaneMessage_Create("C", PANE_INFO, "m"); }, OK_X, OK_Y, 0},
+        {"Yes", [] { return PaneYesNo_Create("C", PANE_ALERT, "m"); }, YES_X, OK_Y, 1},
+        {"No", [] { return PaneYesNo_Create("C", PANE_ALERT, "m"); }, NO_X, OK_Y, 2},
+        {"Cancel", [] { return PaneProgress_Create("C", "m", 1); }, OK_X, OK_Y, 1},
+    };
+    for (const auto& c : cases) {
+        const int id = c.open();
+        ASSERT_GT(id, 0) << c.name;
+        Pass();
+        Press(c.x, c.y);
+        Pass(149);
+        EXPECT_THAT(Told(), IsEmpty()) << c.name << ": the pushed look shows first";
+        Pass(1);
+        EXPECT_EQ(Pane_Exist(id), 0) << c.name;
+        EXPECT_EQ(Told().back(), Quit(id, c.result)) << c.name;
+    }
+    const int id = PaneProgress_Create("C", "m", 0);
+    Touch(OK_X, OK_Y);
+    EXPECT_EQ(Pane_Exist(id), 1) << "nothing to cancel";
+}
+
+TEST_F(Panes, OnlyTheTopOneTakesInput)
+{
+    const int lower = PaneYesNo_Create("Lower", PANE_INFO, "m");
+    const int upper = PaneMessage_Create("Upper", PANE_INFO, "m");
+    EXPECT_EQ(Pane_GetActiveID(), upper);
+    Touch(YES_X + 5, OK_Y); // where both have something or nothing
+    EXPECT_THAT(Told(), IsEmpty());
+    Touch(OK_X + 20, OK_Y);
+    EXPECT_THAT(Told(), ElementsAre("button 1", Quit(upper, 0)));
+    EXPECT_EQ(Pane_GetActiveID(), lower);
+    Touch(NO_X, OK_Y);
+    EXPECT_THAT(Told(), ElementsAre("button 2", Quit(lower, 2)));
+}
+
+TEST_F(Panes, ThePageBeneathOnlyTicks)
+{
+    (void)PaneMessage_Create("C", PANE_INFO, "m");
+    for (int msg : {MSG_PRESS, MSG_RELEASE, MSG_DRAG, MSG_KEY, MSG_WHEELUP, MSG_WHEELDOWN})
+        SendMessage(msg, 5, 5, 0, 0);
+    Pass(30);
+    EXPECT_EQ(inputs, 0);
+    EXPECT_EQ(ticks, 1);
+    EXPECT_EQ(ticks_ms, 30);
+    Pane_Quit(Pane_GetActiveID());
+    Pass(30);
+    Press(5, 5);
+    EXPECT_EQ(inputs, 2);
+    EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(Panes, ClosedByCodeTheyTellNobody)
+{
+    EXPECT_EQ(Pane_Quit(4711), -1);
+    EXPECT_EQ(Pane_SetQuitFlag(4711), -1);
+    const int lower = PaneYesNo_Create("C", PANE_INFO, "m");
+    const int upper = PaneProgress_Create("C", "m", 1);
+    EXPECT_EQ(Pane_Quit(upper), 0);
+    EXPECT_EQ(Pane_SetQuitFlag(lower), 0);
+    EXPECT_EQ(Pane_Exist(lower), 1) << "until the next repaint";
+    Pass();
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_THAT(Told(), IsEmpty());
+    PaneID = INT_MAX;
+    EXPECT_EQ(PaneMessage_Create("C", PANE_INFO, "m"), 1) << "0 is no pane";
+}
+
+TEST_F(Panes, ThePageMayCloseThePaneThatItHearsFrom)
+{
+    const int id = PaneYesNo_Create("C", PANE_INFO, "m");
+    on_button = [] { Pane_Quit(Pane_GetActiveID()); };
+    Touch(YES_X, OK_Y);
+    EXPECT_THAT(Told(), ElementsAre("button 1"));
+    EXPECT_EQ(Pane_Exist(id), 0);
+    (void)PaneMessage_Create("C", PANE_INFO, Lines(30).c_str());
+    on_button = [] { Pane_Quit(Pane_GetActiveID()); };
+    Touch(ARROW_X, DOWN_Y); // an arrow reports inside the press
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+}
+
+TEST_F(Panes, TheScreenComesBackWithTheLastOne)
+{
+    TDL_FillRectS(97, 73, 702, 526, 0x123456);
+    const int lower = PaneMessage_Create("Lower", PANE_INFO, "m");
+    Pass();
+    const auto alone = Area(190, 130, 640, 460);
+    const int upper = PaneProgress_Create("Upper", "m", 1);
+    const int find = PaneFind_Create(500, 300, 0);
+    Pass();
+    Pass();
+    EXPECT_NE(Area(190, 130, 640, 460), alone);
+    Pane_Quit(upper);
+    Pane_Quit(find);
+    EXPECT_EQ(Area(190, 130, 640, 460), alone) << "its shadow is laid once";
+    Pane_Quit(lower);
+    for (const uint32_t pixel : Area(97, 73, 702, 526))
+        ASSERT_EQ(pixel, 0x123456U);
+}
+
+TEST_F(Panes, AChangeUnderAnotherPaneStaysUnderIt)
+{
+    const int progress = PaneProgress_Create("C", "m", 1);
+    const int find = PaneFind_Create(150, 180, 0);
+    Pass();
+    Pass();
+    const auto top = Area(150, 180, 324, 329);
+    PaneProgress_SetProg(progress, 90, "");
+    Pass();
+    EXPECT_EQ(Area(150, 180, 324, 329), top);
+    EXPECT_EQ(PixelAt(450, 216), 0x00DDD4U) << "the bar beside it has grown";
+    const uint32_t shadow = PixelAt(328, 225);
+    PaneProgress_SetProg(progress, 95, "");
+    Pass();
+    EXPECT_EQ(PixelAt(328, 225), shadow) << "laid once";
+    Pane_Quit(find);
+}
+
+TEST_F(Panes, HeldArrowsRepeat)
+{
+    (void)PaneMessage_Create("C", PANE_INFO, Lines(40).c_str());
+    Pass();
+    Press(ARROW_X, DOWN_Y);
+    EXPECT_THAT(Told(), ElementsAre("button 3")) << "at once";
+    Pass(299);
+    EXPECT_THAT(Told(), IsEmpty());
+    Pass(1);
+    EXPECT_THAT(Told(), ElementsAre("button 3"));
+    Pass(49);
+    EXPECT_THAT(Told(), IsEmpty());
+    Pass(1);
+    Pass(50);
+    EXPECT_THAT(Told(), ElementsAre("button 3", "button 3"));
+    Release(5, 5); // off the arrow
+    Pass(400);
+    EXPECT_THAT(Told(), IsEmpty());
+
+    Press(ARROW_X, DOWN_Y);
+    const int upper = PaneMessage_Create("C", PANE_INFO, "m");
+    Release(ARROW_X, DOWN_Y);
+    Pane_Quit(upper);
+    (void)Told();
+    Pass(400);
+    EXPECT_THAT(Told(), IsEmpty()) << "a pane that opens under the finger doesn't leave it running";
+}
+
+TEST_F(Panes, TextScrollsToItsEndsAndNoFurther)
+{
+    static const struct {
+        int (*open)(const char*);
+        int up_y;
+        int steps; // to the last page of 15 lines
+    } cases[] = {
+        {[](const char* mes) { return PaneMessage_Create("C", PANE_INFO, mes); }, UP_Y, 5},
+        {[](const char* mes) { return PaneYesNo_Create("C", PANE_INFO, mes); }, UP_Y, 5},
+        {[](const char* mes) { return PaneProgress_Create("C", mes, 1); }, PROGRESS_UP_Y, 9},
+    };
+    for (const auto& c : cases) {
+        const int id = c.open(Lines(15).c_str());
+        Pass();
+        std::vector<std::vector<uint32_t>> seen = {Well()};
+        for (int i = 0; i < c.steps; i++) {
+            Touch(ARROW_X, DOWN_Y);
+            EXPECT_NE(Well(), seen.back());
+            seen.push_back(Well());
+        }
+        Touch(ARROW_X, DOWN_Y);
+        EXPECT_EQ(Well(), seen.back()) << "the last line is in view";
+        for (int i = 0; i < c.steps; i++)
+            Touch(ARROW_X, c.up_y);
+        EXPECT_EQ(Well(), seen.front());
+        Touch(ARROW_X, c.up_y);
+        EXPECT_EQ(Well(), seen.front());
+        Pane_Quit(id);
+    }
+}
+
+TEST_F(Panes, AppendedTextShowsItsEnd)
+{
+    const int id = PaneMessage_Create("C", PANE_INFO, Lines(15).c_str());
+    Pass();
+    for (int i = 0; i < 5; i++)
+        Touch(ARROW_X, DOWN_Y);
+    const auto end = Well();
+    Pane_Quit(id);
+    const int appended = PaneMessage_Create("C", PANE_INFO, "");
+    Pass();
+    EXPECT_EQ(Pane_AppendMessage(appended, Lines(14).c_str()), 0);
+    EXPECT_EQ(Pane_AppendMessage(appended, "\n15"), 0);
+    Pass();
+    EXPECT_EQ(Well(), end);
+    EXPECT_EQ(Pane_AppendMessage(appended, nullptr), 0);
+    EXPECT_EQ(Pane_AppendMessage(4711, "x"), -1);
+    EXPECT_EQ(Pane_AppendMessage(PaneFind_Create(200, 200, 0), "x"), -2);
+}
+
+TEST_F(Panes, ProgressTellsWhatIsAndWhatIsNotOne)
+{
+    const int id = PaneProgress_Create("C", "m", 1);
+    Pass();
+    const auto empty = Area(230, 205, 570, 255);
+    EXPECT_EQ(PaneProgress_SetProg(id, 0, ""), 0);
+    Pass();
+    EXPECT_EQ(Area(230, 205, 570, 255), empty);
+    EXPECT_EQ(PaneProgress_SetProg(id, 400, "x"), 0);
+    Pass();
+    EXPECT_EQ(PixelAt(567, 215), 0x00DDD4U) << "full";
+    EXPECT_EQ(PixelAt(571, 215), 0xE6E6E6U) << "and not over its end";
+    EXPECT_EQ(PaneProgress_SetProg(id, -1, nullptr), 0);
+    EXPECT_EQ(PaneProgress_SetRouteLamp(id, ROUTE_LAMP_DATA), 0);
+    Pass();
+    EXPECT_EQ(PixelAt(233, 215), 0x111416U);
+    EXPECT_EQ(PixelAt(502, 242), 0x00DDD4U) << "the lamp";
+    const int message = PaneMessage_Create("C", PANE_INFO, "m");
+    EXPECT_EQ(PaneProgress_SetProg(message, 1, ""), -2);
+    EXPECT_EQ(PaneProgress_SetRouteLamp(message, 1), -2);
+    EXPECT_EQ(PaneProgress_SetProg(4711, 1, ""), -1);
+    EXPECT_EQ(PaneProgress_SetRouteLamp(4711, 1), -1);
+}
+
+TEST_F(Panes, WhatAClosedPaneHeldIsFreed)
+{
+    const int before = UsedMemPtr;
+    const int id = PaneProgress_Create("C", "m", 1);
+    (void)PaneProgress_SetProg(id, 3, "text");
+    (void)Pane_AppendMessage(id, "more");
+    (void)PaneRegion_Create(4, 0);
+    (void)PaneMessage_Create("C", PANE_INFO, nullptr);
+    while (Pane_GetActiveID())
+        Pane_Quit(Pane_GetActiveID());
+    EXPECT_EQ(UsedMemPtr, before);
+}
+
+// --- Choices ---
+
+static const BTNSEL choices[] = {{11, "One", 0}, {12, "Two", 1}, {0, "", 0}, {14, "Four", 0}};
+
+TEST_F(Panes, AChoiceIsTheResult)
+{
+    static const struct {
+        const char* name;
+        int (*open)();
+        int x; // of the first choice
+        int y;
+        int cancel_x;
+        int cancel_y;
+        int beside; // does a press beside all buttons close it?
+    } cases[] = {
+        {"pull-down", [] { return PanePullDown_Create(600, 100, 4, choices); }, 601, 120, -1, -1,
+         1},
+        {"select", [] { return PaneSelect_Create(2, 2, choices); }, 350, 240, 400, 340, 0},
+        {"colour", [] { return PaneSelect_Color_Button_Create(2, 2, choices); }, 340, 230, 400, 370,
+         0},
+        {"popup", [] { return PanePopup_Create(2, 2, choices); }, 340, 240, 400, 340, 0},
+        {"frame memory out", [] { return FMOutPopup_Create(2, 2, choices); }, 310, 230, 400, 350,
+         0},
+        {"directory", [] { return PaneDirectory_Create(4, choices); }, 150, 100, 400, 490, 0},
+        {"folder", [] { return PaneDirectory_Create_FolderPopup(4, choices); }, 150, 135, 400, 450,
+         0},
+        {"router level", [] { return PaneRTRLvl_Create(1); }, 150, 410, -1, -1, 1},
+    };
+    for (const auto& c : cases) {
+        int id = c.open();
+        ASSERT_GT(id, 0) << c.name;
+        Touch(c.x, c.y);
+        const int first = std::string(c.name) == "router level" ? 1 : 11;
+        EXPECT_THAT(Told(), ElementsAre("button " + std::to_string(first), Quit(id, first)))
+            << c.name;
+        id = c.open();
+        Touch(2, 2);
+        EXPECT_EQ(Pane_Exist(id), !c.beside) << c.name;
+        if (c.cancel_x >= 0)
+            Touch(c.cancel_x, c.cancel_y);
+        EXPECT_EQ(Told().back(), Quit(id, 0)) << c.name;
+        EXPECT_EQ(Pane_Exist(id), 0) << c.name;
+    }
+    EXPECT_EQ(PaneSelect_Create(0, 3, choices), 0);
+    EXPECT_EQ(PanePullDown_Create(0, 0, 0, choices), 0);
+    EXPECT_EQ(PaneDirectory_Create(3, nullptr), 0);
+}
+
+TEST_F(Panes, APopupChoiceThatStandsSaysNothing)
+{
+    const int id = PanePopup_Create(2, 2, choices); // (309, 219), cells at pitch 78 x 43
+    Touch(420, 240);
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(Pane_Exist(id), 1);
+    Touch(340, 240);
+    EXPECT_THAT(Told(), ElementsAre("button 11", Quit(id, 11)));
+}
+
+TEST_F(Panes, PopupButtonsCanBeDisabledAndCutOff)
+{
+    EXPECT_EQ(PanePopup_BtnDisable(11, 1), -1) << "none is open";
+    (void)PanePopup_Create(2, 2, choices);
+    Pass();
+    const uint32_t key = PixelAt(340, 255);
+    EXPECT_EQ(PanePopup_BtnDisable(11, 1), 0);
+    EXPECT_EQ(PanePopup_BtnCutOff(14, 1), 0);
+    EXPECT_EQ(PanePopup_BtnCutOff(13, 1), -1);
+    Pass();
+    EXPECT_NE(PixelAt(340, 255), key);
+    EXPECT_EQ(PixelAt(430, 300), 0x2A2F32U) << "the ground of the pane";
+    Touch(340, 240);
+    Touch(430, 300);
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(PanePopup_BtnDisable(11, 0), 0);
+    Touch(340, 240);
+    EXPECT_EQ(Told().size(), 2U);
+}
+
+TEST_F(Panes, ALongPullDownStaysInTheWorkArea)
+{
+    std::vector<BTNSEL> items;
+    for (int i = 1; i <= 12; i++)
+        items.push_back({i, "Item", 0});
+    const int id = PanePullDown_Create(600, 500, 12, items.data());
+    Pass();
+    EXPECT_EQ(PixelAt(691, 500), 0x1E1E1EU) << "the edge";
+    EXPECT_EQ(PixelAt(500, 526), 0x1E1E1EU);
+    Touch(600, 110); // the second of a row
+    EXPECT_THAT(Told(), ElementsAre("button 2", Quit(id, 2)));
+}
+
+TEST_F(Panes, DirectoriesTurnTheirPages)
+{
+    static const struct {
+        int (*open)(int, const BTNSEL*);
+        int page_size;
+        int x; // of the first entry
+        int y;
+        int prev_x;
+        int turn_y;
+    } cases[] = {
+        {PaneDirectory_Create, 40, 150, 100, 590, 490},
+        {PaneDirectory_Create_FolderPopup, 30, 150, 135, 590, 455},
+    };
+    std::vector<BTNSEL> entries;
+    for (int i = 1; i <= 81; i++)
+        entries.push_back({i, "Entry", 0});
+    for (const auto& c : cases) {
+        const int next_x = c.prev_x + 48;
+        const auto first_of = [&](int turns) {
+            const int id = c.open(81, entries.data());
+            for (int i = 0; i < turns; i++)
+                Touch(next_x, c.turn_y);
+            EXPECT_THAT(Told(), IsEmpty()) << "turning reports nothing";
+            Pass();
+            Touch(c.x, c.y);
+            EXPECT_EQ(Pane_Exist(id), 0);
+            const auto all = Told();
+            return all.empty() ? std::string() : all.back().substr(all.back().rfind(' ') + 1);
+        };
+        EXPECT_EQ(first_of(0), "1");
+        EXPECT_EQ(first_of(1), std::to_string(c.page_size + 1));
+        EXPECT_EQ(first_of(5), std::to_string(81 / c.page_size * c.page_size + 1))
+            << "no page behind the last";
+        const int id = c.open(81, entries.data());
+        Touch(next_x, c.turn_y);
+        Touch(c.prev_x, c.turn_y);
+        Touch(c.prev_x, c.turn_y);
+        Touch(c.x, c.y);
+        EXPECT_THAT(Told(), ElementsAre("button 1", Quit(id, 1)));
+    }
+}
+
+// --- Router level ---
+
+TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
+{
+    PaneRTRLvl_SetSelect(0x105);
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x05) << "eight levels";
+    PaneRTRLvl_LvlSetSelect(7, 1);
+    PaneRTRLvl_LvlSetSelect(8, 1);
+    PaneRTRLvl_LvlSetSelect(-1, 1);
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x85);
+    EXPECT_EQ(PaneRTRLvl_IsSelected(2), 1);
+    EXPECT_EQ(PaneRTRLvl_IsSelected(8), 0);
+
+    int id = PaneRTRLvl_Create(0); // (131, 335)
+    Touch(131 + 20, 335 + 20);
+    Touch(131 + 20 + 64, 335 + 20);
+    Pane_Quit(id);
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x85);
+    id = PaneRTRLvl_Create(0);
+    Touch(131 + 20, 335 + 20);
+    Touch(131 + 20 + 64, 335 + 20);
+    Touch(2, 2);
+    (void)Told();
+    Touch(400, 335 + 80);
+    EXPECT_EQ(Told().back(), Quit(id, 1));
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x86);
+    PaneRTRLvl_SetSelect(0);
+}
+
+// --- Find, run control ---
+
+TEST_F(Panes, FindTakesNoPressWhileItSearches)
+{
+    EXPECT_EQ(PaneFind_Indicator(1), -1);
+    const int id = PaneFind_Create(200, 200, 0);
+    Pass();
+    EXPECT_EQ(PixelAt(201, 201), 0x505050U);
+    EXPECT_EQ(PaneFind_Indicator(1), 0);
+    EXPECT_EQ(PixelAt(201, 201), 0x00DDD4U) << "at once: the search may hold the loop up";
+    EXPECT_EQ(PixelAt(230, 230), 0x00DDD4U);
+    EXPECT_NE(PixelAt(231, 231), 0x00DDD4U);
+    Touch(340, 250);
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(PaneFind_Indicator(0), 0);
+    Touch(340, 250);
+    Touch(340, 285);
+    Touch(220, 260);
+    Touch(320, 320);
+    EXPECT_THAT(Told(), ElementsAre("button 2", "button 3", "button 1", "button 4", Quit(id, 0)));
+}
+
+TEST_F(Panes, RunControlSendsAndShowsTheTally)
+{
+    const int id = KeyFrameRunCtrl_Create(); // (195, 195)
+    Pass();
+    EXPECT_THAT(TakeQueuedCommands(),
+                testing::IsSupersetOf(
+                    {"add Key Frame@Run Control@Run", "read Key Frame@Run Control@Direction"}));
+    const uint32_t off = PixelAt(195 + 150, 195 + 90);
+    Touch(195 + 150, 195 + 90);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Key Frame@Run Control@Run#true"));
+    EXPECT_EQ(PixelAt(195 + 150, 195 + 90), off) << "a press changes nothing";
+    SendDummyTally("Key Frame@Run Control@Run#true");
+    Pass();
+    EXPECT_NE(PixelAt(195 + 150, 195 + 90), off);
+    Touch(195 + 350, 195 + 170); // "Close"
+    EXPECT_EQ(Told().back(), Quit(id, 0));
+    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("remove Key Frame@Run Control@Run"));
+    SendDummyTally("Key Frame@Run Control@Run#true"); // nobody is there any more
+}
+
+// --- Progress without a pane ---
+
+TEST_F(Panes, AProgressComesBackWithWhatWasNoted)
+{
+    static const struct {
+        int (*create)(const char*, const char*, int);
+        int (*init)();
+        int (*prog)(int, const char*);
+        int (*lamp)(int);
+        int (*append)(const char*);
+        int (*quit)();
+    } cases[] = {
+        {PaneProgress_RestoreCreate, PaneProgress_RestoreInit, PaneProgress_RestoreSetProg,
+         PaneProgress_RestoreSetRouteLamp, PaneProgress_RestoreAppendMessage,
+         PaneProgress_RestoreQuit},
+        {PaneProgress_HDD_RestoreCreate, PaneProgress_HDD_RestoreInit,
+         PaneProgress_HDD_RestoreSetProg, PaneProgress_HDD_RestoreSetRouteLamp,
+         PaneProgress_HDD_RestoreAppendMessage, PaneProgress_HDD_RestoreQuit},
+    };
+    const int before = UsedMemPtr;
+    for (const auto& c : cases) {
+        const int expected = PaneProgress_Create("Load", "Loading\n", 1);
+        (void)PaneProgress_SetProg(expected, 40, "4/10");
+        (void)PaneProgress_SetRouteLamp(expected, ROUTE_LAMP_CONTROL);
+        (void)Pane_AppendMessage(expected, "a: NG\nb: NG\n");
+        Pass();
+        const auto picture = Area(200, 140, 599, 439);
+        Pane_Quit(expected);
+
+        EXPECT_EQ(c.init(), 0);
+        EXPECT_EQ(c.prog(10, "1/10"), 0);
+        EXPECT_EQ(c.append("a: NG\n"), 0);
+        EXPECT_EQ(c.lamp(ROUTE_LAMP_CONTROL), 0);
+        EXPECT_EQ(c.append("b: NG\n"), 0);
+        EXPECT_EQ(c.prog(40, "4/10"), 0);
+        EXPECT_EQ(Pane_GetActiveID(), 0) << "noting opens nothing";
+        const int id = c.create("Load", "Loading\n", 1);
+        Pass();
+        EXPECT_EQ(Area(200, 140, 599, 439), picture);
+        EXPECT_EQ(c.quit(), 0);
+        EXPECT_EQ(Pane_Exist(id), 0);
+        EXPECT_EQ(c.quit(), -1);
+        EXPECT_THAT(Told(), IsEmpty());
+    }
+    EXPECT_EQ(UsedMemPtr, before);
+}
