@@ -303,6 +303,9 @@ TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
 TEST_F(KnobColumn, ALateTallyDoesNotUpsetStepsThatAddUp)
 {
     Open(table);
+    Wheel(MSG_WHEELUP, 1); // set the times of the last steps
+    Wheel(MSG_WHEELDOWN, 1);
+    Pass(500);
     Tally(CLIP, "50");
     Clock_ms += 1000;
     Wheel(MSG_WHEELDOWN, 1);
