@@ -199,11 +199,19 @@ static void draw_edge(int x, int y, int w, int h, unsigned light, unsigned dark)
     TDL_LineVS(x + w - 1, y, h, dark);
 }
 
+// Only what the box will not cover: blending is the dearest of all fills.
+static void draw_shadow(const PANE& p)
+{
+    const int right = p.x + p.w + SHADOW;
+    const int bottom = p.y + p.h + SHADOW;
+    TDL_FillRectAS(p.x + p.w, p.y + SHADOW, right, bottom, 0, SHADOW_ALPHA);
+    TDL_FillRectAS(p.x + SHADOW, p.y + p.h, p.x + p.w - 1, bottom, 0, SHADOW_ALPHA);
+}
+
 static void draw_box(const PANE& p, unsigned ground, unsigned light, unsigned light2, unsigned dark,
                      unsigned dark2)
 {
-    TDL_FillRectAS(p.x + SHADOW, p.y + SHADOW, p.x + p.w + SHADOW, p.y + p.h + SHADOW, 0,
-                   SHADOW_ALPHA);
+    draw_shadow(p);
     TDL_FillRectS(p.x, p.y, p.x + p.w - 1, p.y + p.h - 1, ground);
     draw_edge(p.x, p.y, p.w, p.h, light, dark);
     draw_edge(p.x + 1, p.y + 1, p.w - 2, p.h - 2, light2, dark2);
