@@ -246,7 +246,8 @@ static double crop_limit(const NB_MEM& b, double v)
 int nb_drag(int x, bool left_held, bool right_held)
 {
     NB_MEM* b = nb_box_in(nb.DragSelect);
-    if (!b || !(GL_MouseSliderControl ? right_held : left_held))
+    // Whichever button has grabbed the bar drags it: a finger has only the left one.
+    if (!b || !(left_held || right_held))
         return 0;
     const double v = b->min + (b->max - b->min) * (x - NB_BAR_X) / NB_BAR_W;
     send_gesture(*b, crop_limit(*b, nb_clamp(*b, v)));
