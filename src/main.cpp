@@ -95,6 +95,9 @@ static void start_video()
         exit(1);
     }
     atexit(SDL_Quit);
+    // The clock has begun; the library's timer thread would only wake a thousand times a second for
+    // timers that nobody sets. One thread is all there is.
+    SDL_QuitSubSystem(SDL_INIT_TIMER);
     SDL_Surface* surface = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 0, 0);
     if (!surface) {
         printf("Couldn't set video mode: %s\n", SDL_GetError());
