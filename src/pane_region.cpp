@@ -54,13 +54,12 @@ static bool has_switcher()
 
 // --- The units of this system ---
 
-// A cell of a unit that is there, or an empty one; an empty cell is not selected.
+// A cell of a unit that is there, or an empty one. Its selection stays: units go and come back
+// while the server sends its list of them.
 static void set_cell(BTNSEL* cell, int id, const char* caption)
 {
     cell->id = id;
     cell->caption = caption;
-    if (id == 0)
-        cell->select = 0;
 }
 
 static const DEVICE* own_switcher(int n)

@@ -241,7 +241,7 @@ void pane_add_grid(PANE* pane, const PaneGrid& grid, const BTNSEL* cells, int co
                               .type = grid.look,
                               .x1 = grid.x + place % grid.columns * grid.dx,
                               .y1 = grid.y + place / grid.columns * grid.dy,
-                              .onoff = cells[i].select,
+                              .onoff = is_empty ? 0 : cells[i].select,
                               .disable = is_empty,
                               .hidden = is_empty && !*caption});
     }

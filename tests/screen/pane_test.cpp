@@ -118,7 +118,7 @@ TEST_F(PanePictures, LevelsFindAndRunControl)
     TearDown();
     SetUp();
     (void)KeyFrameRunCtrl_Create();
-    SendDummyTally("Key Frame@Run Control@Direction#Normal");
+    SendDummyTally("Key Frame@Timeline@Loop#true");
     EXPECT_TRUE(Picture("run_control", {185, 185, 625, 425}));
 }
 
@@ -150,6 +150,9 @@ TEST_F(PanePictures, Regions)
         TearDown();
         SetUp();
         Switchers(c.switchers);
+        const REGIONBTN& g = RegionBtn[c.grp]; // whatever other tests selected
+        for (int i = 0; i < g.cells; i++)
+            g.btnsel[i].select = i == 0 && c.grp != 24 ? 2 : 0;
         (void)PaneRegion_Create(c.grp, 0);
         if (c.grp == 4) {
             Touch(131 + 15 + 64 + 20, 152 + 30);          // the second bank

@@ -233,7 +233,7 @@ TEST_F(Regions, CellsFollowTheUnits)
     }
 }
 
-TEST_F(Regions, AUnitThatGoesTakesItsSelectionWithIt)
+TEST_F(Regions, AUnitThatGoesIsNoReferenceAndComesBackAsIt)
 {
     Units(2, 0);
     PaneRegion_InitID(23);
@@ -242,10 +242,17 @@ TEST_F(Regions, AUnitThatGoesTakesItsSelectionWithIt)
     Units(1, 0);
     PaneRegion_InitID(23);
     EXPECT_EQ(PaneRegion_GetRef(23), 0);
+    EXPECT_EQ(PaneRegion_IsSelected(23, 897), 0);
     Units(2, 0);
     PaneRegion_InitID(23);
-    EXPECT_EQ(PaneRegion_IsSelected(23, 897), 0);
-    EXPECT_EQ(PaneRegion_IsSelected(23, 896), 1);
+    EXPECT_EQ(PaneRegion_GetRef(23), 897);
+    Units(1, 0);
+    (void)PaneRegion_Create(23, 0);
+    TouchCell(23, 0);
+    Enter(23);
+    Units(2, 0);
+    PaneRegion_InitID(23);
+    EXPECT_EQ(Selected(23), "0*") << "unless somebody chose without it";
 }
 
 TEST_F(Regions, TheLastOneTouchedIsTheReference)

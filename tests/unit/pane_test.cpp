@@ -467,22 +467,30 @@ TEST_F(Panes, FindTakesNoPressWhileItSearches)
 
 TEST_F(Panes, RunControlSendsAndShowsTheTally)
 {
+    constexpr int RUN_X = 195 + 150, ROW1 = 195 + 90, LOOP_X = 195 + 50, CLOSE_X = 195 + 350,
+                  ROW2 = 195 + 170;
     const int id = KeyFrameRunCtrl_Create(); // (195, 195)
     Pass();
+    EXPECT_THAT(TakeQueuedCommands(), testing::IsSupersetOf({"add Key Frame@Timeline@Run",
+                                                             "read Key Frame@Timeline@Loop"}));
+    const uint32_t off = PixelAt(RUN_X, ROW1);
+    Touch(RUN_X, ROW1);
+    Touch(LOOP_X, ROW2);
     EXPECT_THAT(TakeQueuedCommands(),
-                testing::IsSupersetOf(
-                    {"add Key Frame@Run Control@Run", "read Key Frame@Run Control@Direction"}));
-    const uint32_t off = PixelAt(195 + 150, 195 + 90);
-    Touch(195 + 150, 195 + 90);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Key Frame@Run Control@Run#true"));
-    EXPECT_EQ(PixelAt(195 + 150, 195 + 90), off) << "a press changes nothing";
-    SendDummyTally("Key Frame@Run Control@Run#true");
+                ElementsAre("put Key Frame@Timeline@Run#true", "put Key Frame@Timeline@Loop#true"));
+    EXPECT_EQ(PixelAt(RUN_X, ROW1), off) << "a press changes nothing";
+    SendDummyTally("Key Frame@Timeline@Run#true");
+    SendDummyTally("Key Frame@Timeline@Loop#true");
     Pass();
-    EXPECT_NE(PixelAt(195 + 150, 195 + 90), off);
-    Touch(195 + 350, 195 + 170); // "Close"
+    EXPECT_NE(PixelAt(RUN_X, ROW1), off);
+    Touch(RUN_X, ROW1);
+    Touch(LOOP_X, ROW2);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Key Frame@Timeline@Run#true",
+                                                  "put Key Frame@Timeline@Loop#false"));
+    Touch(CLOSE_X, ROW2);
     EXPECT_EQ(Told().back(), Quit(id, 0));
-    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("remove Key Frame@Run Control@Run"));
-    SendDummyTally("Key Frame@Run Control@Run#true"); // nobody is there any more
+    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("remove Key Frame@Timeline@Run"));
+    SendDummyTally("Key Frame@Timeline@Run#true"); // nobody is there any more
 }
 
 // --- Progress without a pane ---
