@@ -33,6 +33,9 @@ def main(build):
         # The initial read holds the link for a while: a press now would wait behind it.
         desk.wait_wire("add M/E-5@Key8@Processed Key@Rotation", 20)
         time.sleep(0.3)
+        picture("initializing")
+        desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
+        time.sleep(0.3)
         picture("top-menu")
         desk.touch(112 + 42, 96 + 30)  # M/E-1
         desk.wait_wire(f"add {TYPE}")
