@@ -88,8 +88,10 @@ static void AddButton(Values* values, const PAGE& page, const BT_TBL& b)
     switch (b.type) {
     case BT_TOGGLE:
     case BT_ACTION_STATE: values->emplace(path, Value{"bool", ""}); break;
-    case BT_RADIO:
-    case BT_RADIO_RELEASE: AddWord(values, path, value); break;
+    case BT_RADIO_RELEASE:
+        AddWord(values, path, "null"); // the first word is the default: none of them
+        [[fallthrough]];
+    case BT_RADIO: AddWord(values, path, value); break;
     case BT_ACTION: values->emplace(path, Value{"action", ""}); break;
     default: values->emplace(path, Value{"any", ""}); break;
     }
