@@ -21,7 +21,7 @@ constexpr const char* OUTLINES_PACKAGE = "fonts-roboto-unhinted";
 // An overhang of one column stays cut while it is fainter than this.
 constexpr uint8_t FAINT = 90;
 
-struct SlotSpec {
+struct SlotFace {
     const char* face;
     int size;     // pixels an em
     int height;   // rows of every glyph, and the line spacing
@@ -30,7 +30,7 @@ struct SlotSpec {
     int digit_width = 0; // 0: as the outlines say
 };
 
-constexpr SlotSpec SPECS[SLOTS] = {
+constexpr SlotFace SLOT_FACES[SLOTS] = {
     {"Regular", 11, 12, 9},        {"Medium", 12, 13, 10},
     {"Regular", 14, 15, 12},       {"Medium", 15, 14, 11, true, 7},
     {"Medium", 14, 14, 11, false}, {"Bold", 14, 15, 12},
@@ -53,28 +53,28 @@ uint8_t darkest_in_last_column(const FT_Bitmap& bitmap)
 
 // A glyph leans left before its cell grows; what still sticks out is cut only when it is hardly
 // visible.
-int cell_width(const FT_GlyphSlot glyph, const SlotSpec& spec, int code)
+int cell_width(const FT_GlyphSlot glyph, const SlotFace& slot_face, int code)
 {
     const int ink = int(glyph->bitmap.width);
     int width = std::max(1, int(std::lround(double(glyph->linearHoriAdvance) / 65536)));
-    if (spec.digit_width && code >= '0' && code <= '9')
-        width = spec.digit_width;
+    if (slot_face.digit_width && code >= '0' && code <= '9')
+        width = slot_face.digit_width;
     if (ink - 1 > width || (ink > width && darkest_in_last_column(glyph->bitmap) > FAINT))
         width = ink;
     return width;
 }
 
-void append_glyph(Sheet& sheet, const FT_GlyphSlot glyph, const SlotSpec& spec, int width)
+void append_glyph(Sheet& sheet, const FT_GlyphSlot glyph, const SlotFace& slot_face, int width)
 {
     const FT_Bitmap& bitmap = glyph->bitmap;
     const int ink = int(bitmap.width);
     const int left = std::min(std::max(0, glyph->bitmap_left), std::max(0, width - ink));
-    const int top = spec.baseline - glyph->bitmap_top;
+    const int top = slot_face.baseline - glyph->bitmap_top;
     const size_t start = sheet.coverage.size();
-    sheet.coverage.resize(start + size_t(width * spec.height), 0);
+    sheet.coverage.resize(start + size_t(width * slot_face.height), 0);
     for (int row = 0; row < int(bitmap.rows); row++) {
         const int y = top + row;
-        if (y >= 0 && y < spec.height)
+        if (y >= 0 && y < slot_face.height)
             std::copy_n(bitmap.buffer + row * bitmap.pitch, std::min(ink, width - left),
                         sheet.coverage.begin() + long(start) + y * width + left);
     }
@@ -82,26 +82,26 @@ void append_glyph(Sheet& sheet, const FT_GlyphSlot glyph, const SlotSpec& spec, 
 
 int render_slot(Sheet& sheet, FT_Library library, int slot)
 {
-    const SlotSpec& spec = SPECS[slot];
+    const SlotFace& slot_face = SLOT_FACES[slot];
     char path[128];
-    snprintf(path, sizeof path, OUTLINES, spec.face);
+    snprintf(path, sizeof path, OUTLINES, slot_face.face);
     FT_Face face;
     if (FT_New_Face(library, path, 0, &face) != 0) {
         fprintf(stderr, "assetgen: cannot read the font %s (Debian package %s)\n", path,
                 OUTLINES_PACKAGE);
         return -1;
     }
-    FT_Set_Pixel_Sizes(face, 0, FT_UInt(spec.size));
+    FT_Set_Pixel_Sizes(face, 0, FT_UInt(slot_face.size));
     uint32_t* offsets = sheet.offsets[slot];
-    offsets[0] = uint32_t(spec.height);
+    offsets[0] = uint32_t(slot_face.height);
     std::fill(offsets + 1, offsets + FIRST_CODE, uint32_t(sheet.coverage.size())); // no width
-    const FT_Int32 hinting = spec.is_hinted ? FT_LOAD_TARGET_LIGHT : FT_LOAD_NO_HINTING;
+    const FT_Int32 hinting = slot_face.is_hinted ? FT_LOAD_TARGET_LIGHT : FT_LOAD_NO_HINTING;
     int failed = 0;
     for (int code = FIRST_CODE; code <= LAST_CODE && !failed; code++) {
         offsets[code] = uint32_t(sheet.coverage.size());
         failed = FT_Load_Char(face, FT_ULong(code), FT_LOAD_RENDER | hinting);
         if (!failed)
-            append_glyph(sheet, face->glyph, spec, cell_width(face->glyph, spec, code));
+            append_glyph(sheet, face->glyph, slot_face, cell_width(face->glyph, slot_face, code));
     }
     offsets[LAST_CODE + 1] = uint32_t(sheet.coverage.size());
     FT_Done_Face(face);
