@@ -1,6 +1,7 @@
 // me_key: the pages of one key: what it is cut by, its edge, its two masks. Written for M/E-1, Key1.
 #pragma once
 #include "me_banks.h"
+#include "pulldowns.h"
 
 // --- Type ---
 
@@ -224,6 +225,7 @@ inline constexpr BT_TBL bt_me_key_mainmask[] = {
     Radio ({.id = 34, .caption = "Pattern",       .group = "Mask Source", .cmd = {"~@Mask Source#Pattern", "~@Main Mask#false"}, .nb = nb_me_key_mask_pattern}),
     Radio ({.id = 35, .caption = "Utility 1\nBus", .group = "Mask Source", .cmd = {"~@Mask Source#Utility 1", "~@Main Mask#false"}}),
     Radio ({.id = 36, .caption = "Utility 2\nBus", .group = "Mask Source", .cmd = {"~@Mask Source#Utility 2", "~@Main Mask#false"}}),
+    Tab   ({.id = 37, .caption = "Source",        .group = "Mask Source", .cmd = {"LOCAL@Mask Source", "~@Main Mask#false"}}),
     RadioRelease({.id = 49, .caption = "Force\nForegnd", .group = "Force", .cmd = {"~@Force#Foreground", "~@Main Mask#false"}}),
     RadioRelease({.id = 50, .caption = "Force\nBkgd", .group = "Force", .cmd = {"~@Force#Background", "~@Main Mask#false"}}),
     Jump  ({.id = 1,  .caption = "Type",          .group = "Page", .cmd = {"#+11110000"}}),
@@ -263,7 +265,7 @@ inline constexpr MePage me_key_pages[] = {
     {.page = {.id = 0x11120000, .tree = {"M/E-1", "Key1", "Edge"},
               .obj = {Base(base_main), Buttons(bt_me_key_edge), Boxes(NB_Non)}}},
     {.page = {.id = 0x11130000, .tree = {"M/E-1", "Key1", "Main Mask"},
-              .obj = {Base(base_main), Buttons(bt_me_key_mainmask), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), Buttons(bt_me_key_mainmask), Boxes(NB_Non), Code(pc_pulldown)}}},
     {.page = {.id = 0x11140000, .tree = {"M/E-1", "Key1", "Sub Mask"},
               .obj = {Base(base_main), Buttons(bt_me_key_submask), Boxes(NB_Non)}}},
 };

@@ -1,5 +1,6 @@
 // operation: the first pages of copy and swap, miscellaneous, status.
 #pragma once
+#include "pulldowns.h"
 #include "rows.h"
 
 inline constexpr BT_TBL bt_copyswap_me[] = {
@@ -31,6 +32,7 @@ inline constexpr BT_TBL bt_misc_port[] = {
     Radio(      {.id = 33, .caption = "4:3", .group = "Side Flags", .cmd = {"~@Side Flags#4:3"}}),
     Radio(      {.id = 34, .caption = "16:9", .group = "Side Flags", .cmd = {"~@Side Flags#16:9"}}),
     Radio(      {.id = 35, .caption = "Auto", .group = "Side Flags", .cmd = {"~@Side Flags#Auto"}}),
+    Tab(        {.id = 36, .caption = "Select", .group = "Side Flags", .cmd = {"LOCAL@Side Flags"}}),
     Action(     {.id = 49, .caption = "Lamp\nTest", .group = "Panel", .cmd = {"~@Lamp Test#*"}}),
     Action(     {.id = 50, .caption = "All\nClear", .group = "Panel", .cmd = {"~@All Clear#*"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
@@ -78,8 +80,8 @@ inline constexpr PAGE operation_pages[] = {
     {.id = 0x32000000, .tree = {"Misc"}, .obj = {Base(base_main), Buttons(bt_misc_top)}},
     {.id = 0x33000000, .tree = {"Status"}, .obj = {Base(base_main), Buttons(bt_status_top)}},
     {.id = 0x31110000, .tree = {"Copy/Swap", "M/E"}, .obj = {Base(base_main), Buttons(bt_copyswap_me)}},
-    {.id = 0x32110000, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port)}},
-    {.id = 0x32110100, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port)}},
+    {.id = 0x32110000, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port), Code(pc_pulldown)}},
+    {.id = 0x32110100, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port), Code(pc_pulldown)}},
     {.id = 0x33110100, .tree = {"Status", "M/E"}, .obj = {Base(base_main), Buttons(bt_status_me)}},
     {.id = 0x33110200, .tree = {"Status", "M/E"}, .obj = {Base(base_main), Buttons(bt_status_me)}},
 };
