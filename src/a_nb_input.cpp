@@ -174,7 +174,7 @@ static void open_ten_keys(NB_MEM& b)
     NB_Text(b, b.max, nb.max_text, sizeof nb.max_text);
     if (moves_on) {
         Log_Output(LOG_TRACE, MOD_PAGE, "**ischange**");
-        if (ChangeWindow(b.caption, GL_KnobSetVar, nb.min_text, nb.max_text) == 0)
+        if (ChangeWindow(b.caption, GL_KnobSetVar, nb.min_text, nb.max_text, b.type == NB_TC) == 0)
             return;
     }
     (void)CreateWindow(WINDOW_KNOB_TRIM, b.caption, // fails for an unknown type only
