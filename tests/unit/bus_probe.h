@@ -8,6 +8,7 @@
 #include "harness.h"
 #include "message.h"
 #include "page.h"
+#include "pane.h"
 #include <functional>
 
 namespace probe
@@ -64,6 +65,8 @@ struct BusTest : testing::Test {
     void TearDown() override
     {
         PC_Create(nullptr, 0);
+        while (Pane_GetActiveID())
+            Pane_Quit(Pane_GetActiveID());
         Page_Reset();
         probe::answer = nullptr;
         GL_CreatePage = 0;
