@@ -6,6 +6,7 @@
 #include "a_hf.h"
 #include "a_ls.h"
 #include "a_pc.h"
+#include "a_st_draw.h"
 #include "a_vf.h"
 #include "page.h"
 #include "scrollbar.h"
@@ -118,6 +119,30 @@ template <size_t N> constexpr bool ListsAreSound(const LS_TBL (&rows)[N])
     return true;
 }
 
+// --- Status cells ---
+
+// Standard cells are 100 x 90 from (100, 75), side by side; a wide one spans several.
+constexpr ST_TBL CellAt(int column, int line, ST_TBL row, int columns = 1, int lines = 1)
+{
+    row.x1 = 100 + 100 * column;
+    row.y1 = 75 + 90 * line;
+    row.x2 = row.x1 + 100 * columns - 1;
+    row.y2 = row.y1 + 90 * lines - 1;
+    return row;
+}
+
+// Ends, at most ST_MAX rows on one page, each with a painter and a rectangle in the work area.
+template <size_t N> constexpr bool CellsAreSound(const ST_TBL (&rows)[N])
+{
+    size_t count = 0;
+    for (size_t i = 0; i + 1 < N; i++) {
+        const ST_TBL& c = rows[i];
+        if (c.id < 1 || !c.draw_func || c.x1 < 97 || c.x2 > 702 || c.y1 < 73 || c.y2 > 526) return false;
+        if (c.id != ST_DUAL_BOARD) count++; // stands in the place of another
+    }
+    return count <= ST_MAX && rows[N - 1].id < 1;
+}
+
 // --- The objects of a page ---
 
 constexpr _pageobject Base(const BA_TBL& table, uint32_t parent = 0) { return {OBJ_BA, &table, parent}; }
@@ -126,6 +151,7 @@ constexpr _pageobject BottomTabs(const HF_TBL* table, uint32_t selected) { retur
 constexpr _pageobject LeftTabs(const VF_TBL* table, uint32_t selected) { return {OBJ_VF, table, selected}; }
 constexpr _pageobject Boxes(const NB_TBL* table) { return {OBJ_NB, table, 0}; }
 constexpr _pageobject Lists(const LS_TBL* table) { return {OBJ_LS, table, 0}; }
+constexpr _pageobject Cells(const ST_TBL* table) { return {OBJ_ST, table, 0}; }
 constexpr _pageobject Code(const PC_TBL& table, uint32_t var = 0) { return {OBJ_PC, &table, var}; }
 constexpr _pageobject ErrorList() { return {OBJ_ERR, nullptr, 0}; }
 constexpr _pageobject DebugMenu() { return {OBJ_DEBUG, nullptr, 0}; }
