@@ -111,10 +111,12 @@ int main(int argc, char** argv)
     for (int i = 3; i < argc; i++) {
         int x = 0, y = 0;
         if (strcmp(argv[i], "--press") == 0 && i + 1 < argc &&
-            sscanf(argv[++i], "%d,%d", &x, &y) == 2)
+            sscanf(argv[++i], "%d,%d", &x, &y) == 2) {
+            SendMessage(MSG_REDRAW, 10, 0, 0, 0); // as a pass would have painted by then
             SendMessage(MSG_PRESS, x, y, SDL_BUTTON_LEFT, 0);
-        else
+        } else {
             SendDummyTally(argv[i]);
+        }
     }
     SendMessage(MSG_REDRAW, 10, 0, 0, 0);
     if (!WritePng(argv[2])) {
