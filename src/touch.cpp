@@ -211,6 +211,11 @@ static void touch_read_all()
     }
 }
 
+bool Touch_IsDown()
+{
+    return touch.tp != 0;
+}
+
 void Touch_Poll(int elapsed_ms)
 {
     if (Touch_FD >= 0) {

@@ -12,6 +12,8 @@ void Touch_LoadCalibration();
 // Once a pass: take all records that wait; while closed, look for the panel every five seconds.
 void Touch_Poll(int elapsed_ms);
 
+bool Touch_IsDown(); // a finger is on the panel
+
 // One record of the panel as the conversion takes it; for Touch_Poll and tests.
 void Touch_Record(int type, int code, int value);
 void Touch_Reset(); // as at process start; a device that is open stays open
