@@ -147,6 +147,7 @@ static void init()
     SetupIndex_Build();
     SetupIndex_LoadLock();
     SetTouchBeep();
+    Saver_LoadSettings();
     EndScreenSaver();
     KF_Init();
     FMCtrl_InitClipStillList();

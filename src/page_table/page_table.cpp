@@ -6,6 +6,7 @@
 #include "me_top.h"
 #include "operation.h"
 #include "registers.h"
+#include "saver.h"
 #include "sources.h"
 #include "system.h"
 #include "top.h"
@@ -16,7 +17,7 @@ static constexpr auto me_key_rows = KeyRows<KeyRowCount(me_key_pages)>(me_key_pa
 static constexpr size_t page_rows = std::size(top_pages) + me_top_rows.size() + me_key_rows.size() +
                                     std::size(fm_pages) + std::size(sources_pages) + std::size(operation_pages) +
                                     std::size(dme_pages) + std::size(machines_pages) + std::size(registers_pages) +
-                                    std::size(system_pages) + 1;
+                                    std::size(system_pages) + std::size(saver_pages) + 1;
 
 struct AllRows {
     PAGE row[page_rows];
@@ -39,6 +40,7 @@ static constexpr AllRows JoinRows()
     add(machines_pages);
     add(registers_pages);
     add(system_pages);
+    add(saver_pages);
     return all; // the last row keeps PAGE_END
 }
 

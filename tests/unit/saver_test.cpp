@@ -1,0 +1,630 @@
+// The screen saver, through the loop's door: when it starts, what it hides and gives back, what
+// each pattern shows.
+#include "a_ba.h"
+#include "a_ls.h"
+#include "bus.h"
+#include "device.h"
+#include "global.h"
+#include "harness.h"
+#include "loop.h"
+#include "message.h"
+#include "page.h"
+#include "pane.h"
+#include "saver.h"
+#include "tdl.h"
+#include "text.h"
+#include "touch.h"
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::Ge;
+using testing::IsEmpty;
+using testing::Le;
+
+namespace
+{
+constexpr uint32_t KEY_PAGE = 0x11110000;
+constexpr char FOLDER[] = "/tmp/saver_test";
+constexpr char SETTINGS[] = "/mnt/data/.screensaver";
+
+std::vector<uint32_t> ScreenCopy()
+{
+    std::vector<uint32_t> pixels(size_t(SCREEN_W * SCREEN_H));
+    for (int y = 0; y < SCREEN_H; y++)
+        memcpy(&pixels[size_t(y * SCREEN_W)],
+               static_cast<uint8_t*>(Screen->pixels) + y * Screen->pitch, SCREEN_W * 4);
+    return pixels;
+}
+
+// The sum of all colours of the screen.
+long Light()
+{
+    long sum = 0;
+    for (int y = 0; y < SCREEN_H; y++) {
+        const auto* byte = static_cast<uint8_t*>(Screen->pixels) + y * Screen->pitch;
+        for (int i = 0; i < SCREEN_W * 4; i++)
+            sum += i % 4 == 3 ? 0 : byte[i];
+    }
+    return sum;
+}
+
+Rect LitArea()
+{
+    Rect lit{SCREEN_W, SCREEN_H, -1, -1};
+    for (int y = 0; y < SCREEN_H; y++)
+        for (int x = 0; x < SCREEN_W; x++)
+            if (PixelAt(x, y))
+                lit = {std::min(lit.x1, x), std::min(lit.y1, y), std::max(lit.x2, x),
+                       std::max(lit.y2, y)};
+    return lit;
+}
+
+void DrainEvents()
+{
+    SDL_Event e;
+    while (SDL_PollEvent(&e)) {
+    }
+}
+
+int Brightest(const Rect& r)
+{
+    uint32_t found = 0;
+    for (int y = r.y1; y <= r.y2; y++)
+        for (int x = r.x1; x <= r.x2; x++)
+            found = std::max(found, PixelAt(x, y) & 0xFF);
+    return int(found);
+}
+} // namespace
+
+struct Saver : testing::Test {
+    void SetUp() override
+    {
+        Harness_Reset();
+        SDL_ShowCursor(0);
+        DrainEvents();
+        BA_SetUsbAccess(0);
+        BA_SetFtpAccess(0);
+        BA_SetHDDAccess(0);
+        ASSERT_EQ(CreatePage(KEY_PAGE), 0);
+        GL_ScreenSaverInterval = 1;
+        EndScreenSaver();
+        (void)TakeQueuedCommands();
+    }
+    void TearDown() override
+    {
+        GL_ContinuousLoad = GL_MenuMacro_Run = GL_SSver_PVW = 0;
+        Wake();
+        GL_ScreenSaverInterval = 1200;
+        GL_ScreenSaverPTN_Mode = SAVER_PATTERNS;
+        GL_ScreenSaverVariable_speed = 0;
+        GL_ScreenSaverPath_Time = 5;
+        CopyText(GL_Scr_disp_ImagePath, "/mnt/data/SSrc");
+        for (char* name : {GL_Scr_disp_name[0], GL_Scr_disp_name[1], GL_Scr_disp_name[9]})
+            name[0] = '\0';
+        CopyText(GL_Scr_disp_name[0], "KTR-20");
+        SYS_RefSwrType = DEVTYPE_UNKNOWN;
+        BA_SetUsbAccess(0);
+        GL_CreatePage = 0;
+        std::filesystem::remove_all(FOLDER);
+        std::filesystem::remove(SETTINGS);
+        Page_Reset();
+        (void)TakeQueuedCommands();
+    }
+
+    // The pointer that comes back with the page would stand in the pictures.
+    static int Wake()
+    {
+        const int was_up = EndScreenSaver();
+        SDL_ShowCursor(0);
+        return was_up;
+    }
+    static void Passes(int n)
+    {
+        while (n-- > 0)
+            ScreenSaver(10);
+    }
+    static void Start(int mode)
+    {
+        SYS_RefSwrType = DEVTYPE_KTR40E;
+        GL_ScreenSaverPTN_Mode = mode;
+        ScreenSaver(1001);
+        ASSERT_TRUE(IsSaver());
+    }
+    static void Event(int type, int x, int y)
+    {
+        SDL_Event e{};
+        e.type = Uint8(type);
+        if (type == SDL_MOUSEMOTION)
+            e.motion.x = Uint16(x), e.motion.y = Uint16(y);
+        else
+            e.button = {.type = Uint8(type),
+                        .which = 0,
+                        .button = 1,
+                        .state = 0,
+                        .x = Uint16(x),
+                        .y = Uint16(y)};
+        Loop_Event(&e);
+    }
+};
+
+// --- Counting and waking ---
+
+TEST_F(Saver, IsBarredWithoutLosingItsCount)
+{
+    static int pane;
+    static const struct {
+        const char* what;
+        int answer;
+        void (*bar)();
+        void (*lift)();
+    } cases[] = {
+        {"error page", 1, [] { GL_NowPage = 0x99000000; }, [] { GL_NowPage = KEY_PAGE; }},
+        {"macro editor", 1, [] { GL_NowPage = 0x71420003; }, [] { GL_NowPage = KEY_PAGE; }},
+        {"pane", 2, [] { pane = PaneMessage_Create("A", PANE_INFO, "B"); },
+         [] { Pane_Quit(pane); }},
+        {"continuous load", 3, [] { GL_ContinuousLoad = 1; }, [] { GL_ContinuousLoad = 0; }},
+        {"menu macro", 1, [] { GL_MenuMacro_Run = 1; }, [] { GL_MenuMacro_Run = 0; }},
+    };
+    for (const auto& c : cases) {
+        Wake();
+        c.bar(); // a pane wakes the saver: the count begins here
+        EXPECT_EQ(ScreenSaver(5000), c.answer) << c.what;
+        c.lift();
+        EXPECT_EQ(ScreenSaver(900), 0) << c.what;
+        EXPECT_FALSE(IsSaver()) << c.what;
+        ScreenSaver(101);
+        EXPECT_TRUE(IsSaver()) << c.what;
+    }
+}
+
+TEST_F(Saver, NeverStartsWithoutAnInterval)
+{
+    GL_ScreenSaverInterval = 0;
+    Wake();
+    EXPECT_EQ(ScreenSaver(5000), 1);
+    GL_ScreenSaverInterval = 1;
+    ScreenSaver(10);
+    EXPECT_FALSE(IsSaver()) << "it counts from when it is switched on";
+    ScreenSaver(1000);
+    EXPECT_TRUE(IsSaver());
+}
+
+TEST_F(Saver, ATouchStartsTheCountAnew)
+{
+    ScreenSaver(900);
+    Event(SDL_MOUSEMOTION, 300, 300);
+    ScreenSaver(900);
+    EXPECT_FALSE(IsSaver());
+}
+
+TEST_F(Saver, HidesThePageAndGivesItBackWhole)
+{
+    CreatePage(KEY_PAGE);
+    SendMessage(MSG_REDRAW, 0, 0, 0, 0);
+    const auto before = ScreenCopy();
+    for (int mode = 0; mode <= SAVER_PATTERNS; mode++) {
+        Start(mode);
+        Passes(100);
+        SendDummyTally("M/E-1@Key1@Type@Key Type#Luminance");
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        EXPECT_EQ(PixelAt(2, 590), 0u) << "the page repaints under mode " << mode;
+        EXPECT_EQ(Wake(), 1);
+        EXPECT_FALSE(GL_ScreenSaver_Now);
+        EXPECT_EQ(GL_NowPage, KEY_PAGE);
+        EXPECT_TRUE(ScreenCopy() == before) << "mode " << mode;
+        EXPECT_EQ(Wake(), 0);
+    }
+    SendDummyTally("M/E-1@Key1@Type@Key Type#Luminance");
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    EXPECT_FALSE(ScreenCopy() == before) << "the page is still held";
+}
+
+TEST_F(Saver, SwallowsTheTouchThatWakesIt)
+{
+    const Rect key = {112, 272, 196, 337}; // "Luminance": a press puts
+    for (int type : {SDL_MOUSEBUTTONDOWN, SDL_MOUSEMOTION}) {
+        Start(1);
+        Clock_ms += 1000;
+        MBDown = 0;
+        Event(type, key.x1 + 5, key.y1 + 5);
+        EXPECT_FALSE(IsSaver());
+        Event(SDL_MOUSEBUTTONUP, key.x1 + 5, key.y1 + 5);
+        for (const auto& command : TakeQueuedCommands())
+            EXPECT_EQ(command.find("put M/E"), std::string::npos) << command;
+    }
+    Clock_ms += 1000;
+    MBDown = 0;
+    Event(SDL_MOUSEBUTTONDOWN, key.x1 + 5, key.y1 + 5);
+    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("put M/E-1@Key1@Type@Key Type#Luminance"));
+    MBDown = 0;
+}
+
+TEST_F(Saver, APaneWakesIt)
+{
+    Start(1);
+    const int pane = PaneMessage_Create("A", PANE_INFO, "B");
+    SDL_ShowCursor(0);
+    EXPECT_FALSE(IsSaver());
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    EXPECT_EQ(PixelAt(210, 430), 0xE6E6E6u);
+    Pane_Quit(pane);
+}
+
+TEST_F(Saver, OpensTheTopMenuWhenThePageIsGone)
+{
+    Start(1);
+    SYS_MEOperation[0] = 1;
+    EXPECT_EQ(Wake(), 1);
+    SYS_MEOperation[0] = 0;
+    EXPECT_EQ(GL_CreatePage, PAGE_TOP);
+}
+
+TEST_F(Saver, APreviewWaitsForTheFingerAndShowsThePatterns)
+{
+    GL_SSver_PVW = 1;
+    Touch_Record(1, 330, 1);
+    ScreenSaver(10);
+    EXPECT_FALSE(IsSaver()) << "the finger is on the key";
+    Touch_Record(1, 330, 0);
+    Touch_Record(0, 0, 0);
+    ScreenSaver(10);
+    EXPECT_FALSE(IsSaver()) << "its last events are still queued";
+    DrainEvents();
+    ScreenSaver(10);
+    EXPECT_TRUE(IsSaver());
+    EXPECT_EQ(SYS_RefSwrType, DEVTYPE_KTR40E);
+    EXPECT_EQ(GL_SSver_PVW, 0);
+}
+
+// --- Texts ---
+
+TEST_F(Saver, ThePlainTextFadesInAndOut)
+{
+    ScreenSaver(1001); // the first step
+    int passes = 1;
+    static const struct {
+        int pass;
+        int level;
+    } cases[] = {{1, 1}, {128, 128}, {255, 255}, {256, 254}, {510, 0}, {511, 1}, {765, 255}};
+    for (const auto& c : cases) {
+        for (; passes < c.pass; passes++)
+            ScreenSaver(10);
+        EXPECT_EQ(Brightest({260, 300, 540, 320}), c.level) << c.pass;
+    }
+    const Rect lit = LitArea();
+    EXPECT_THAT(lit.x1, Ge(260));
+    EXPECT_THAT(lit.x2, Le(540));
+}
+
+// Light that jumps hurts the eyes of those who work beside the panel.
+TEST_F(Saver, NoTextFlashesAndTheLampsStayAlive)
+{
+    CopyText(GL_Scr_disp_name[1],
+             "A NAME OF SIXTY-THREE LETTERS, AS LONG AS ONE CAN BE: ABCDEFGHI");
+    CopyText(GL_Scr_disp_name[9], "STUDIO 4");
+    for (int mode : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 17}) {
+        Start(mode);
+        BA_SetUsbAccess(1);
+        Passes(1);
+        long before = Light();
+        long brightest = 0;
+        for (int pass = 0; pass < 120; pass++) {
+            Passes(7);
+            const long now = Light();
+            brightest = std::max(brightest, now);
+            ASSERT_LE(std::abs(now - before), 250000) << "mode " << mode << " pass " << pass * 7;
+            before = now;
+        }
+        EXPECT_GT(brightest, 100000) << "mode " << mode << " shows nothing";
+        EXPECT_LT(brightest, 27250000) << "mode " << mode << " is not dark";
+        EXPECT_EQ(PixelAt(75, 18), 0xFF0000u) << mode;
+        EXPECT_EQ(PixelAt(60, 18), 0u) << mode;
+        BA_SetUsbAccess(0);
+        Wake();
+    }
+}
+
+TEST_F(Saver, TheFadingTextMovesInTheDarkAndKeepsOffTheLamps)
+{
+    for (int mode : {10, 11, 17}) {
+        Start(mode);
+        std::vector<Rect> places;
+        for (int n = 0; n < 60; n++) {
+            Passes(n ? 510 : 127); // half bright on its way up: the colours are never dark then
+            places.push_back(LitArea());
+        }
+        int moves = 0;
+        for (size_t i = 0; i < places.size(); i++) {
+            const Rect& r = places[i];
+            EXPECT_LE(r.x2 - r.x1, 299) << "a text was left behind";
+            EXPECT_LE(r.y2 - r.y1, 80) << "a text was left behind";
+            EXPECT_FALSE(r.x1 <= 90 && r.y1 < 30) << r.x1 << " " << r.y1;
+            EXPECT_LE(r.y1, 499);
+            moves += i > 0 && (r.x1 != places[i - 1].x1 || r.y1 != places[i - 1].y1);
+        }
+        EXPECT_GT(moves, 40) << mode;
+        Wake();
+    }
+}
+
+// --- Pictures ---
+
+struct SaverPictures : Saver {
+    void SetUp() override
+    {
+        Saver::SetUp();
+        std::filesystem::create_directory(FOLDER);
+        CopyText(GL_Scr_disp_ImagePath, FOLDER);
+        GL_ScreenSaverPath_Time = 1;
+    }
+    static std::string Path(const std::string& name) { return std::string(FOLDER) + "/" + name; }
+    // A picture of one colour.
+    static void Put(const std::string& name, uint32_t colour, int w = SCREEN_W, int h = SCREEN_H)
+    {
+        SDL_Surface* s = SDL_CreateRGBSurface(SDL_SWSURFACE, w, h, 24, 0xFF0000, 0xFF00, 0xFF, 0);
+        SDL_FillRect(s, nullptr,
+                     SDL_MapRGB(s->format, Uint8(colour >> 16), Uint8(colour >> 8), Uint8(colour)));
+        ASSERT_EQ(SDL_SaveBMP(s, Path(name).c_str()), 0);
+        SDL_FreeSurface(s);
+    }
+    static uint32_t Middle() { return PixelAt(400, 300); }
+    // Until the pixel in the middle is that colour; the number of passes, -1 when it never is.
+    static int PassesUntil(uint32_t colour)
+    {
+        for (int n = 0; n < 1000; n++) {
+            if (Middle() == colour)
+                return n;
+            ScreenSaver(10);
+        }
+        return -1;
+    }
+};
+
+TEST_F(SaverPictures, ShowsTheNumbersInTurnAndLeavesOutWhatIsNone)
+{
+    static const struct {
+        std::vector<const char*> files;
+        std::vector<int> shown; // by the number of the file in the list
+    } cases[] = {
+        {{"SSrc_7.bmp"}, {0, 0, 0}},
+        {{"SSrc_0.bmp", "SSrc_3.BMP", "SSrc_99.bmp"}, {0, 1, 2, 0, 1}},
+        {{"SSrc_1.jpg", "SSrc_2.JPG", "SSrc_2.bmp"}, {0, 2, 0, 2}}, // a bitmap under both names
+        {{"SSrc_100.bmp", "SSrc_04.bmp", "SSrc_5.png", "ssrc_6.bmp", "SSrc_8.bmp"}, {4, 4}},
+    };
+    Start(12);
+    Wake();
+    for (const auto& c : cases) {
+        std::filesystem::remove_all(FOLDER);
+        std::filesystem::create_directory(FOLDER);
+        for (size_t i = 0; i < c.files.size(); i++)
+            Put(c.files[i], 0x100000 + uint32_t(i));
+        std::ofstream(Path("SSrc_50.bmp")) << "no bitmap";
+        std::ofstream(Path("SSrc_51.bmp"));
+        std::filesystem::create_directory(Path("SSrc_52.bmp"));
+        // Wherever the last case stopped: the first number of this one begins the count.
+        Start(12);
+        for (int n = 0; n < 200 && Middle() != 0x100000u + uint32_t(c.shown[0]); n++)
+            ScreenSaver(1000);
+        std::vector<int> shown;
+        for (size_t n = 0; n < c.shown.size(); n++) {
+            shown.push_back(int(Middle() - 0x100000));
+            Passes(99);
+            EXPECT_EQ(int(Middle() - 0x100000), shown.back()) << "it is held";
+            Passes(1);
+        }
+        EXPECT_EQ(shown, c.shown) << c.files[0];
+        Wake();
+    }
+}
+
+TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
+{
+    for (const char* folder : {FOLDER, "/tmp/saver_test/none", ""}) {
+        CopyText(GL_Scr_disp_ImagePath, folder);
+        for (int mode : {12, 13, 14, 15, 16}) {
+            Start(mode);
+            Passes(200);
+            EXPECT_GT(Brightest(LitArea()), 150) << mode << " " << folder;
+            Wake();
+        }
+    }
+    CopyText(GL_Scr_disp_ImagePath, FOLDER);
+    for (int mode : {12, 13, 14, 15, 16}) {
+        Start(mode);
+        Passes(200);
+        Put("SSrc_5.bmp", 0x204060);
+        EXPECT_GE(PassesUntil(0x204060), 0) << mode;
+        std::filesystem::remove(Path("SSrc_5.bmp"));
+        Passes(350);
+        EXPECT_NE(Middle() & 0xFF, 0x60u) << "the picture stays behind the text of mode " << mode;
+        EXPECT_GT(Brightest(LitArea()), 0) << mode;
+        Wake();
+    }
+}
+
+TEST_F(SaverPictures, AFadeGoesThroughBlackToTheNext)
+{
+    Put("SSrc_1.bmp", 0xC80000);
+    Put("SSrc_2.bmp", 0x0000C8);
+    GL_ScreenSaverVariable_speed = 9; // 50 a pass
+    Start(13);
+    const bool red_first = Middle() == 0xC80000;
+    const auto part = [](bool red) { return int(red ? Middle() >> 16 : Middle() & 0xFF); };
+    Passes(100);
+    std::vector<int> out, in;
+    for (int n = 0; n < 6; n++) {
+        ScreenSaver(10);
+        out.push_back(part(red_first));
+        EXPECT_EQ(part(!red_first), 0);
+    }
+    for (int n = 0; n < 6; n++) {
+        ScreenSaver(10);
+        in.push_back(part(!red_first));
+        EXPECT_EQ(part(red_first), 0);
+    }
+    EXPECT_THAT(out, ElementsAre(160, 121, 82, 42, 3, 0));
+    EXPECT_THAT(in, ElementsAre(39, 78, 117, 156, 195, 200));
+    Passes(99);
+    EXPECT_EQ(part(!red_first), 200) << "it is held";
+}
+
+TEST_F(SaverPictures, ACrossFadeHasBothAndEndsWithTheNext)
+{
+    Put("SSrc_1.bmp", 0xC80000);
+    Put("SSrc_2.bmp", 0x0000C8);
+    GL_ScreenSaverVariable_speed = 9;
+    for (int mode : {15, 16}) {
+        Start(mode);
+        const uint32_t first = Middle();
+        Passes(100); // held
+        for (int step = 0; step < 6; step++) {
+            EXPECT_NE(Middle(), first ^ 0xC800C8) << mode << " step " << step;
+            ScreenSaver(10);
+            EXPECT_THAT((Middle() & 0xFF) + (Middle() >> 16), AllOf(Ge(140u), Le(200u))) << mode;
+        }
+        EXPECT_EQ(Middle(), first ^ 0xC800C8) << mode;
+        Wake();
+    }
+}
+
+TEST_F(SaverPictures, ASmallPictureStandsOnBlack)
+{
+    Put("SSrc_1.bmp", 0xC80000);
+    Put("SSrc_2.bmp", 0x0000C8, 100, 100);
+    for (int mode : {12, 13, 15, 16}) {
+        Start(mode);
+        ASSERT_GE(PassesUntil(0xC80000), 0) << mode;
+        ASSERT_GE(PassesUntil(0), 0) << mode << ": the large picture stays around the small one";
+        Wake();
+    }
+}
+
+TEST_F(SaverPictures, APictureThatIsReplacedIsSeen)
+{
+    Put("SSrc_1.bmp", 0xC80000);
+    for (int mode : {12, 13, 14, 15, 16}) {
+        Put("SSrc_1.bmp", 0xC80000);
+        Start(mode);
+        Passes(2);
+        EXPECT_EQ(Middle(), 0xC80000u);
+        Put("SSrc_1.bmp", 0x00C800, 700, 500);
+        EXPECT_GE(PassesUntil(0x00C800), 0) << mode;
+        Wake();
+    }
+}
+
+// --- Settings ---
+
+TEST_F(Saver, SettingsComeBackAndRubbishChangesNothing)
+{
+    GL_ScreenSaverPTN_Mode = 5;
+    GL_ScreenSaverVariable_speed = 9;
+    GL_ScreenSaverPath_Time = 30;
+    CopyText(GL_Scr_disp_ImagePath, "/mnt/data/My Pictures");
+    CopyText(GL_Scr_disp_name[0], "");
+    CopyText(GL_Scr_disp_name[9], "a=b");
+    ASSERT_EQ(Saver_SaveSettings(), 0);
+
+    GL_ScreenSaverPTN_Mode = GL_ScreenSaverVariable_speed = GL_ScreenSaverPath_Time = 1;
+    CopyText(GL_Scr_disp_name[0], "x");
+    CopyText(GL_Scr_disp_name[9], "x");
+    CopyText(GL_Scr_disp_ImagePath, "x");
+    Saver_LoadSettings();
+    const auto as_saved = [] {
+        return GL_ScreenSaverPTN_Mode == 5 && GL_ScreenSaverVariable_speed == 9 &&
+               GL_ScreenSaverPath_Time == 30 && !*GL_Scr_disp_name[0] &&
+               !strcmp(GL_Scr_disp_name[9], "a=b") &&
+               !strcmp(GL_Scr_disp_ImagePath, "/mnt/data/My Pictures");
+    };
+    EXPECT_TRUE(as_saved());
+
+    static const char* const rubbish[] = {
+        "Pattern=18", "Pattern=-1", "Pattern=5x", "Pattern=",
+        "Pattern",    "Speed=10",   "Hold=0",     "Hold=999999999999",
+        "Name10=x",   "Name-1=x",   "Namex=x",    "Name=x",
+        "=",          "\n\n",       "Folder=",
+    };
+    for (const char* text : rubbish) {
+        std::ofstream(SETTINGS) << text << "\n";
+        Saver_LoadSettings();
+        EXPECT_TRUE(as_saved()) << text;
+    }
+    std::ofstream(SETTINGS) << "Name9=" << std::string(500, 'n') << "\nPattern=3";
+    Saver_LoadSettings();
+    EXPECT_EQ(strlen(GL_Scr_disp_name[9]), size_t(SAVER_TEXT - 1));
+    EXPECT_EQ(GL_ScreenSaverPTN_Mode, 3);
+}
+
+// --- The setup page ---
+
+struct SaverSetup : Saver {
+    void SetUp() override
+    {
+        Saver::SetUp();
+        ASSERT_EQ(CreatePage(0x99930000), 0);
+    }
+    void TearDown() override
+    {
+        CreatePage(KEY_PAGE); // writes the settings
+        Saver::TearDown();
+    }
+    static void Press(const char* path) { SendMessage(LMSG_BTNSEL, Arg(path), Arg("*"), 0, 0); }
+};
+
+TEST_F(SaverSetup, KnobsSetThePatternAndItsTimes)
+{
+    static const struct {
+        int knob;
+        int value;
+        const int* setting;
+        int expected;
+    } cases[] = {
+        {1, 12, &GL_ScreenSaverPTN_Mode, 12},      {1, 0, &GL_ScreenSaverPTN_Mode, 0},
+        {1, 17, &GL_ScreenSaverPTN_Mode, 17},      {1, 99, &GL_ScreenSaverPTN_Mode, 17},
+        {2, 10, &GL_ScreenSaverVariable_speed, 9}, {2, 1, &GL_ScreenSaverVariable_speed, 0},
+        {2, -5, &GL_ScreenSaverVariable_speed, 0}, {2, 99, &GL_ScreenSaverVariable_speed, 9},
+        {3, 30, &GL_ScreenSaverPath_Time, 30},     {3, 0, &GL_ScreenSaverPath_Time, 1},
+        {4, 7, &GL_ScreenSaverPath_Time, 1},
+    };
+    for (const auto& c : cases) {
+        SendMessage(LMSG_KNOBVAR, c.knob, c.value, 1, 0);
+        EXPECT_EQ(*c.setting, c.expected) << c.knob << " " << c.value;
+    }
+    SendMessage(LMSG_KNOBVAR, 1, 12, 1, 0);
+    EXPECT_STREQ(LS_GetData(1, 10, 1), "Pictures, cut");
+}
+
+TEST_F(SaverSetup, ButtonsActOnTheNameThatTheListStandsOn)
+{
+    LS_SetNowLine(1, 9);
+    Press("LOCAL@Screen Sever@Setup@Default");
+    EXPECT_STREQ(GL_Scr_disp_name[9], "KTR-20");
+    EXPECT_STREQ(LS_GetData(1, 9, 1), "KTR-20");
+    GL_Scr_disp_name[0][0] = '\0';
+    LS_SetNowLine(1, 11); // the folder is no name
+    Press("LOCAL@Screen Sever@Setup@Default");
+    EXPECT_STREQ(GL_Scr_disp_name[0], "KTR-20");
+    EXPECT_STREQ(GL_Scr_disp_ImagePath, "/mnt/data/SSrc");
+
+    Press("LOCAL@Screen Sever@Setup@Push START");
+    EXPECT_EQ(GL_SSver_PVW, 1);
+    Press("LOCAL@Screen Sever@Setup@Something");
+    Press("");
+}
+
+TEST_F(SaverSetup, IsSavedWhenThePageIsLeftAndOnlyThen)
+{
+    CreatePage(KEY_PAGE);
+    EXPECT_FALSE(std::filesystem::exists(SETTINGS)) << "nothing was changed";
+    CreatePage(0x99930000);
+    SendMessage(LMSG_KNOBVAR, 2, 7, 1, 0);
+    CreatePage(KEY_PAGE);
+    GL_ScreenSaverVariable_speed = 0;
+    Saver_LoadSettings();
+    EXPECT_EQ(GL_ScreenSaverVariable_speed, 6);
+}
