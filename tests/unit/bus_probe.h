@@ -51,6 +51,7 @@ inline int Deliver(const std::string& path, const std::string& value)
 struct BusTest : testing::Test {
     void SetUp() override
     {
+        Harness_Video(); // a tally may open a pane
         Page_Reset();
         Device_Init();
         DeviceStructure();
