@@ -246,13 +246,13 @@ static Well well_of(const PANE* pane)
     return {65, 235, TEXT_LINES};
 }
 
-static void draw_text_s(const PANE* pane)
+static void draw_text_s(PANE* pane)
 {
     const Well well = well_of(pane);
     const int x = pane->x + 30;
     const int y1 = pane->y + well.top;
     const int y2 = pane->y + well.bottom;
-    const SCROLLTEXT* text = pane_text(const_cast<PANE*>(pane));
+    const SCROLLTEXT* text = pane_text(pane);
     TDL_FillRectS(x, y1, x + 306, y2, WELL);
     draw_edge(x, y1, 341, y2 - y1 + 1, 0x969696, 0xFFFFFF);
     const int height = well.lines * int(TDL_GetSymbolSize("", TEXT_FONT) >> 16);
@@ -261,7 +261,7 @@ static void draw_text_s(const PANE* pane)
                  text->topline);
 }
 
-void pane_draw_text(const PANE* pane)
+void pane_draw_text(PANE* pane)
 {
     draw_text_s(pane);
     const Well well = well_of(pane);

@@ -155,7 +155,7 @@ bool pane_has_input(const PANE* pane, const BUTTON& b); // it is shown, on the p
 void button_create(BUTTON* b); // bitmaps and size of its look
 void button_draw(const PANE* pane, BUTTON* b);
 void pane_draw_all(PANE* pane); // with the shadow; flushes
-void pane_draw_text(const PANE* pane);
+void pane_draw_text(PANE* pane);
 void pane_draw_progress(const PANE* pane);
 void pane_draw_inside(PANE* pane);
 void pane_draw_indicator(const PANE* pane);

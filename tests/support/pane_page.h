@@ -80,6 +80,11 @@ struct PanePage : testing::Test {
         Pass(150);
     }
     static std::vector<std::string> Told() { return std::exchange(told, {}); }
+    static std::string Last() // and forget all
+    {
+        const auto all = Told();
+        return all.empty() ? "nothing" : all.back();
+    }
     static std::string Quit(int id, int result)
     {
         return "quit " + std::to_string(id) + " " + std::to_string(result);

@@ -122,7 +122,7 @@ TEST_F(Regions, EveryGroupIsSound)
         Pass();
         EXPECT_GE(Top(grp, 0), 73) << "the saved ground reaches no higher";
         Enter(grp);
-        EXPECT_EQ(Told().back(), Quit(pane, 1)) << grp;
+        EXPECT_EQ(Last(), Quit(pane, 1)) << grp;
     }
 }
 
@@ -321,13 +321,13 @@ TEST_F(Regions, ASingleSelectorAnswersWithTheRegion)
     Select(4, {{0, 2}});
     int id = PaneRegion_Create(4, 1);
     TouchCell(4, 10, 1);
-    EXPECT_EQ(Told().back(), Quit(id, 274));
+    EXPECT_EQ(Last(), Quit(id, 274));
     id = PaneRegion_Create(4, 1);
     TouchCell(4, 6, 1); // a hole between the cells
-    EXPECT_EQ(Told().back(), Quit(id, 0));
+    EXPECT_EQ(Last(), Quit(id, 0));
     id = PaneRegion_Create(4, 1);
     Touch(5, 5);
-    EXPECT_EQ(Told().back(), Quit(id, 0));
+    EXPECT_EQ(Last(), Quit(id, 0));
     EXPECT_EQ(Selected(4), "0*");
 }
 

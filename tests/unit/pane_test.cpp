@@ -63,7 +63,7 @@ TEST_F(Panes, AnswersAreTheResult)
         EXPECT_THAT(Told(), IsEmpty()) << c.name << ": the pushed look shows first";
         Pass(1);
         EXPECT_EQ(Pane_Exist(id), 0) << c.name;
-        EXPECT_EQ(Told().back(), Quit(id, c.result)) << c.name;
+        EXPECT_EQ(Last(), Quit(id, c.result)) << c.name;
     }
     const int id = PaneProgress_Create("C", "m", 0);
     Touch(OK_X, OK_Y);
@@ -322,7 +322,7 @@ TEST_F(Panes, AChoiceIsTheResult)
         EXPECT_EQ(Pane_Exist(id), !c.beside) << c.name;
         if (c.cancel_x >= 0)
             Touch(c.cancel_x, c.cancel_y);
-        EXPECT_EQ(Told().back(), Quit(id, 0)) << c.name;
+        EXPECT_EQ(Last(), Quit(id, 0)) << c.name;
         EXPECT_EQ(Pane_Exist(id), 0) << c.name;
     }
     EXPECT_EQ(PaneSelect_Create(0, 3, choices), 0);
@@ -439,7 +439,7 @@ TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
     Touch(2, 2);
     (void)Told();
     Touch(400, 335 + 80);
-    EXPECT_EQ(Told().back(), Quit(id, 1));
+    EXPECT_EQ(Last(), Quit(id, 1));
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x86);
     PaneRTRLvl_SetSelect(0);
 }
@@ -489,7 +489,7 @@ TEST_F(Panes, RunControlSendsAndShowsTheTally)
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Key Frame@Timeline@Run#true",
                                                   "put Key Frame@Timeline@Loop#false"));
     Touch(CLOSE_X, ROW2);
-    EXPECT_EQ(Told().back(), Quit(id, 0));
+    EXPECT_EQ(Last(), Quit(id, 0));
     EXPECT_THAT(TakeQueuedCommands(), testing::Contains("remove Key Frame@Timeline@Run"));
     SendDummyTally("Key Frame@Timeline@Run#true"); // nobody is there any more
 }
