@@ -193,12 +193,6 @@ static uint32_t entered_page(const WindowState& w)
     return high << 16 | (low & 0xFFFF);
 }
 
-static bool is_page_window()
-{
-    return win.Window == WINDOW_PAGE_JUMP || win.Window == WINDOW_PAGE_GET ||
-           win.Window == WINDOW_PAGE_INITIAL;
-}
-
 // What the number so far stands for, where the window has room for it.
 static void draw_tree()
 {
@@ -219,8 +213,7 @@ static void draw_entry()
 {
     draw_entry_s();
     window_flush(well_rect());
-    if (is_page_window())
-        draw_tree();
+    draw_tree();
 }
 
 static void draw_pad_window()
@@ -229,6 +222,7 @@ static void draw_pad_window()
     window_draw_title(20, 15, WHITE);
     draw_limits_s();
     draw_entry_s();
+    draw_tree();
 }
 
 // --- Keys ---

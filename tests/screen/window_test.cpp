@@ -1,0 +1,153 @@
+// The windows as they look, over a page of keys.
+#include "a_bt_page.h"
+#include "a_nb.h"
+#include "bus.h"
+#include "pane.h"
+#include "tdl.h"
+#include "window.h"
+#include <cstdio>
+#include <filesystem>
+
+struct WindowPictures : ButtonPage {
+    void SetUp() override
+    {
+        ButtonPage::SetUp();
+        TDL_FillRectS(0, 0, 799, 599, 0x000000);
+        static BT_TBL table[25];
+        int n = 0;
+        for (int row = 0; row < 4; row++)
+            for (int column = 1; column <= 6; column++)
+                table[n++] = Button(row * 16 + column, BT_TOGGLE, {"Test#*"});
+        table[n] = {.id = -1};
+        Open(table);
+        Redraw();
+    }
+    void TearDown() override
+    {
+        CloseWindow();
+        ButtonPage::TearDown();
+    }
+    static void Redraw(int elapsed_ms = 0) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    static void Press(int x, int y)
+    {
+        SendMessage(MSG_PRESS, x, y, 1, 0);
+        Redraw(200);
+    }
+    static void Type(std::initializer_list<int> keys)
+    {
+        for (int sym : keys)
+            SendMessage(MSG_KEY, sym, 0, 0, 0);
+        Redraw(200);
+    }
+};
+
+// The value that stands, and one key held down.
+TEST_F(WindowPictures, TenKeysOverAPage)
+{
+    CreateWindow(WINDOW_KNOB_TRIM, "Gain",
+                 {.value = "-12.50", .min_text = "-100.00", .max_text = "100.00"});
+    Redraw();
+    EXPECT_TRUE(MatchesGolden("window_ten_keys"));
+    SendMessage(MSG_PRESS, 446 + 71 + 20, 140 + 192 + 20, 1, 0);
+    SendMessage(MSG_PRESS, 446 + 125 + 20, 140 + 310 + 20, 1, 0);
+    EXPECT_TRUE(MatchesGolden("window_ten_keys_typed", {446, 140, 691, 521}));
+}
+
+TEST_F(WindowPictures, TimeCode)
+{
+    CreateWindow(
+        WINDOW_KNOB, "Transition\nRate",
+        {.value = "00:01:00", .min_text = "00:00:00", .max_text = "00:33:09", .is_timecode = true});
+    Type({'1', '2', '3', '4', '5', '6'});
+    EXPECT_TRUE(MatchesGolden("window_timecode", {446, 140, 700, 530}));
+}
+
+// A text with the cursor in it; then both modes, which the letters follow.
+TEST_F(WindowPictures, Keyboard)
+{
+    CreateWindow(WINDOW_KEYBOARD, "New Password\n(Confirm)", {.value = "Opening_7"});
+    Type({SDLK_LEFT, SDLK_LEFT});
+    EXPECT_TRUE(MatchesGolden("window_keyboard", {30, 100, 799, 499}));
+    Press(34 + 12 + 20, 114 + 91 + 54 * 3 + 20);
+    Press(34 + 12 + 20, 114 + 91 + 54 * 4 + 20);
+    EXPECT_TRUE(MatchesGolden("window_keyboard_shift", {30, 100, 799, 499}));
+}
+
+TEST_F(WindowPictures, HexKeys)
+{
+    CreateWindow(WINDOW_HEX, "Address", {.value = "1F", .min_text = "0", .max_text = "ffff"});
+    Type({'c', '0', 'd', 'e'});
+    EXPECT_TRUE(MatchesGolden("window_hex", {270, 40, 540, 570}));
+}
+
+// Two records in the file; what the number so far stands for; a key held down.
+TEST_F(WindowPictures, PageJumpWithFavorites)
+{
+    std::filesystem::create_directories("/mnt/data/TopMenu");
+    std::string file(29 * 24, '\0');
+    file.replace(0, 24,
+                 std::string("\x11\x11\0\0\x07\x01"
+                             "1111\nType\0\0\0\0\0\0\0\0\0",
+                             24));
+    file.replace(24 * 6, 24,
+                 std::string("\x33\x11\0\0\x01\x02"
+                             "3311\nStatus\0\0\0\0\0\0\0",
+                             24));
+    const char path[] = "/mnt/data/TopMenu/user_date1.usr";
+    FILE* fp = fopen(path, "wb");
+    ASSERT_TRUE(fp);
+    fwrite(file.data(), 1, file.size(), fp);
+    fclose(fp);
+    CreateWindow(WINDOW_PAGE_JUMP, "Page");
+    Type({'1', '2', '2', '1'});
+    SendMessage(MSG_PRESS, 98 + 17 + 86 + 20, 78 + 55 + 43 + 20, 1, 0);
+    EXPECT_TRUE(MatchesGolden("window_page_jump"));
+    std::filesystem::remove_all("/mnt/data/TopMenu");
+}
+
+TEST_F(WindowPictures, PageGet)
+{
+    CreateWindow(WINDOW_PAGE_GET, "Page", {.value = "1111.2"});
+    Redraw();
+    EXPECT_TRUE(MatchesGolden("window_page_get", {140, 70, 680, 540}));
+}
+
+TEST_F(WindowPictures, PullDownAndSelect)
+{
+    static const char* const cells[] = {"M/E-1", "M/E-4", "M/E-2", "M/E-5", "M/E-3", nullptr};
+    const WindowArgs args{
+        .x = 150, .y = 200, .columns = 2, .rows = 3, .captions = cells, .selected = 3};
+    CreateWindow(WINDOW_PULLDOWN, "Copy From", args);
+    EXPECT_TRUE(MatchesGolden("window_pulldown", {140, 190, 390, 330}));
+    CreateWindow(WINDOW_SELECT, "Copy From", args);
+    EXPECT_TRUE(MatchesGolden("window_select", {140, 190, 360, 410}));
+}
+
+TEST_F(WindowPictures, PathSelects)
+{
+    static const struct {
+        int type;
+        int selected;
+        const char* name;
+    } cases[] = {{PATHSEL_XPT, PATH_XPT_CHANGE, "window_path_xpt"},
+                 {PATHSEL_HUE, PATH_HUE_LONG, "window_path_hue"},
+                 {PATHSEL_CURVE0, PATH_CURVE_SPLINE, "window_path_curve"}};
+    for (const auto& c : cases) {
+        CreateWindow(WINDOW_PATH, "",
+                     {.x = 150, .y = 200, .selected = c.selected, .path_type = c.type});
+        EXPECT_TRUE(MatchesGolden(c.name, {140, 190, 530, 290}));
+    }
+}
+
+TEST_F(WindowPictures, Boxes)
+{
+    const char* text = "This operation will cause the system to\nreboot.\n\nContinue?";
+    CreateWindow(WINDOW_MESSAGE, "Execute", {.message = text, .is_yes_no = true});
+    EXPECT_TRUE(MatchesGolden("window_yes_no", {190, 140, 620, 470}));
+    CreateWindow(WINDOW_MESSAGE, "Install", {.message = "All processes have succeeded."});
+    SendMessage(MSG_PRESS, 400, 415, 1, 0); // the key is seen pressed, then the box goes
+    CreateWindow(WINDOW_PROGRESS, "Install", {.message = "Old", .ok = [](int) { return 0; }});
+    ProgBox_RedrawProgress(42);
+    MBox_RedrawMessage("Configuring now...");
+    EXPECT_TRUE(MatchesGolden("window_progress", {190, 140, 620, 470}));
+}

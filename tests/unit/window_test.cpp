@@ -1,0 +1,758 @@
+#include "a_nb_column.h"
+#include "bus_probe.h"
+#include "message.h"
+#include "pane.h"
+#include "window.h"
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <initializer_list>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// --- Hands: the same keys by touch and on a keyboard ---
+
+namespace
+{
+using Keys = std::vector<const char*>;
+
+struct Place {
+    int x;
+    int y;
+};
+
+// Of a 50 pixel key, from the window's corner.
+void TouchAt(Place window, Place key)
+{
+    SendMessage(MSG_PRESS, window.x + key.x + 25, window.y + key.y + 25, 1, 0);
+}
+
+constexpr Place KNOB_WINDOW = {446, 140};
+
+Place TenKeyPlace(const std::string& key)
+{
+    static const struct {
+        const char* key;
+        Place place;
+    } others[] = {
+        {"0", {17, 310}},      {".", {71, 310}},     {":", {71, 310}},       {"+/-", {125, 310}},
+        {"Clear", {179, 133}}, {"Trim", {179, 192}}, {"Cancel", {179, 251}}, {"Enter", {179, 310}},
+    };
+    for (const auto& o : others)
+        if (key == o.key)
+            return o.place;
+    const int n = key[0] - '1';
+    return {17 + 54 * (n % 3), 251 - 59 * (n / 3)};
+}
+
+int TenKeySym(const std::string& key)
+{
+    if (key == "Enter")
+        return SDLK_KP_ENTER;
+    if (key == "Cancel")
+        return SDLK_ESCAPE;
+    if (key == "Clear")
+        return SDLK_DELETE;
+    if (key == "+/-")
+        return SDLK_KP_MINUS;
+    return key[0] >= '0' && key[0] <= '9' ? SDLK_KP0 + key[0] - '0' : key[0];
+}
+
+void Stroke(int sym, int mod = 0)
+{
+    SendMessage(MSG_KEY, sym, mod, 0, 0);
+}
+
+bool HasSym(const char* key)
+{
+    return strcmp(key, "Trim") != 0;
+}
+
+constexpr Place KEYBOARD_WINDOW = {(800 - 722) / 2, (600 - 369) / 2 - 3};
+
+Place KeyboardPlace(const std::string& key)
+{
+    static const struct {
+        const char* key;
+        int column, row;
+    } others[] = {{"Enter", 11, 2}, {"Shift", 0, 3}, {"Del", 12, 3}, {"Caps", 0, 4},   {" ", 2, 4},
+                  {"Left", 7, 4},   {"Right", 8, 4}, {"BS", 9, 4},   {"Cancel", 11, 4}};
+    for (const auto& o : others)
+        if (key == o.key)
+            return {12 + 54 * o.column, 91 + 54 * o.row};
+    static const struct {
+        const char* keys;
+        int first, row;
+    } rows[] = {{"`1234567890-=", 0, 0},
+                {"qwertyuiop[]\\", 0, 1},
+                {"asdfghjkl;'", 0, 2},
+                {"zxcvbnm,./", 2, 3}};
+    for (const auto& r : rows)
+        if (const char* at = strchr(r.keys, key[0]))
+            return {12 + 54 * (r.first + int(at - r.keys)), 91 + 54 * r.row};
+    return {};
+}
+
+// As on a keyboard: "Shift" is held for the next key, "Caps" turns the lock.
+void StrokeKeys(const Keys& keys)
+{
+    static const struct {
+        const char* key;
+        int sym;
+    } others[] = {{"Enter", SDLK_RETURN}, {"Del", SDLK_DELETE},   {"Left", SDLK_LEFT},
+                  {"Right", SDLK_RIGHT},  {"BS", SDLK_BACKSPACE}, {"Cancel", SDLK_ESCAPE}};
+    int caps = 0;
+    int shift = 0;
+    for (const std::string key : keys) {
+        if (key == "Shift") {
+            shift ^= KMOD_LSHIFT;
+            continue;
+        }
+        if (key == "Caps") {
+            caps ^= KMOD_CAPS;
+            continue;
+        }
+        int sym = key[0];
+        for (const auto& o : others)
+            if (key == o.key)
+                sym = o.sym;
+        Stroke(sym, caps | shift);
+        shift = 0;
+    }
+}
+
+void TouchKeyboard(const Keys& keys)
+{
+    for (const char* key : keys)
+        TouchAt(KEYBOARD_WINDOW, KeyboardPlace(key));
+}
+
+std::vector<std::string> heard; // what came back, in order
+
+int HearText(const char* text)
+{
+    heard.push_back(std::string("text ") + text + (GetWindow() ? " too early" : ""));
+    return 0;
+}
+int HearValue(int value)
+{
+    char line[32];
+    snprintf(line, sizeof line, "value %X%s", unsigned(value), GetWindow() ? " too early" : "");
+    heard.push_back(line);
+    return 0;
+}
+int HearMessage(const probe::Seen& s)
+{
+    const std::string numbers = std::to_string(s.bx) + (GetWindow() ? " too early" : "");
+    if (s.msg == LMSG_PULLDOWNSEL)
+        heard.push_back(std::string("pull-down ") + Text(s.ax) + " " + numbers);
+    if (s.msg == LMSG_SELECTBOX)
+        heard.push_back(std::string("select ") + Text(s.ax) + " " + numbers);
+    if (s.msg == LMSG_PATHSELSEL)
+        heard.push_back("path " + std::to_string(s.ax) + " " + numbers);
+    return 0;
+}
+std::vector<std::string> Heard()
+{
+    return std::exchange(heard, {});
+}
+} // namespace
+
+struct Windows : BusTest {
+    void SetUp() override
+    {
+        Harness_Reset();
+        BusTest::SetUp();
+        probe::answer = HearMessage;
+        heard.clear();
+    }
+    void TearDown() override
+    {
+        CloseWindow();
+        BusTest::TearDown();
+    }
+    static void Pass(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+};
+
+// --- The one window ---
+
+TEST_F(Windows, ThePageHearsTalliesAndNothingElseUntilTheWindowHasGone)
+{
+    EXPECT_EQ(CloseWindow(), -1);
+    CreateWindow(WINDOW_KEYBOARD, "Name");
+    EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
+    for (int msg : {MSG_REDRAW, MSG_PRESS, MSG_RELEASE, MSG_DRAG, MSG_WHEELUP, MSG_WHEELDOWN})
+        SendMessage(msg, 0, 0, 0, 0);
+    Stroke('a');
+    EXPECT_THAT(probe::seen, IsEmpty());
+    Deliver("M/E-1@Key1@Type@Key Type", "Linear");
+    EXPECT_EQ(probe::Count(MSG_TALLY), 1);
+    EXPECT_EQ(CloseWindow(), 0);
+    EXPECT_EQ(GetWindow(), 0);
+    Pass();
+    SendMessage(MSG_PRESS, 0, 0, 1, 0);
+    EXPECT_EQ(probe::Count(MSG_REDRAW), 1);
+    EXPECT_EQ(probe::Count(MSG_PRESS), 1);
+}
+
+TEST_F(Windows, NoneComesOfAnUnknownTypeOrUnderAPane)
+{
+    for (int type : {-1, 0, 14, 1000})
+        EXPECT_EQ(CreateWindow(type, "No"), -1) << type;
+    const int pane = PaneMessage_Create("Pane", PANE_INFO, "Text");
+    EXPECT_EQ(CreateWindow(WINDOW_MESSAGE, "No"), -1);
+    Pane_Quit(pane);
+    EXPECT_EQ(GetWindow(), 0);
+    Pass();
+    EXPECT_EQ(probe::Count(MSG_REDRAW), 1) << "the page has been silenced";
+}
+
+// What stood under a window comes back, whichever way it goes and whatever it did meanwhile.
+TEST_F(Windows, EveryTypeGivesTheScreenBack)
+{
+    static const char* const cells[] = {"A", "B"};
+    TDL_FillRectS(0, 0, 799, 599, 0x102030);
+    for (int type = WINDOW_PAGE_JUMP; type <= WINDOW_KNOB_TRIM; type++) {
+        ASSERT_EQ(
+            CreateWindow(type, "Window", {.x = 180, .y = 60, .columns = 2, .captions = cells}), 0)
+            << type;
+        EXPECT_NE(PixelAt(190, 70), 0x102030u) << type;
+        Stroke('1');
+        Pass(200);
+        if (type % 2)
+            (void)PaneMessage_Create("Pane", PANE_INFO, "Text");
+        else
+            CloseWindow();
+        EXPECT_EQ(GetWindow(), 0) << type;
+        while (Pane_GetActiveID())
+            Pane_Quit(Pane_GetActiveID());
+        for (int y = 0; y < 600; y += 7)
+            for (int x = 0; x < 800; x += 3)
+                ASSERT_EQ(PixelAt(x, y), 0x102030u) << type << " at " << x << ", " << y;
+    }
+    EXPECT_THAT(Heard(), IsEmpty()) << "a cancel says nothing";
+}
+
+// Each way to close has its own numbers; a pass must go by before it happens.
+TEST_F(Windows, AReservedQuitIsAnsweredAtTheNextPassAsItsKeyWould)
+{
+    static const char* const cells[] = {"A", "B", "C"};
+    static const struct {
+        int type;
+        int var;
+        std::vector<std::string> heard;
+    } cases[] = {
+        {WINDOW_KEYBOARD, 0, {"text abc"}},
+        {WINDOW_KEYBOARD, 1, {}},
+        {WINDOW_MESSAGE, 0, {"value 7"}},
+        {WINDOW_MESSAGE, 1, {}},
+        {WINDOW_PROGRESS, 0, {"value 7"}},
+        {WINDOW_PROGRESS, 1, {}},
+        {WINDOW_BANK, 2, {"value 0"}},
+        {WINDOW_BANK, 0, {}},
+        {WINDOW_HEX, 2, {"value ABC"}},
+        {WINDOW_HEX, 0, {}},
+        {WINDOW_PAGE_GET, 2, {"value ABC0000"}},
+        {WINDOW_PAGE_GET, 0, {}},
+        {WINDOW_PULLDOWN, 3, {"pull-down Any 2"}},
+        {WINDOW_PULLDOWN, 0, {}},
+        {WINDOW_SELECT, 1, {"select Any 0"}},
+        {WINDOW_SELECT, 0, {}},
+        {WINDOW_PATH, 4, {"path 2 3"}},
+        {WINDOW_PATH, 0, {}},
+    };
+    for (const auto& c : cases) {
+        CreateWindow(c.type, "Any",
+                     {.value = "abc",
+                      .rows = 3,
+                      .captions = cells,
+                      .path_type = PATHSEL_CURVE0,
+                      .ok = HearValue,
+                      .ok_var = 7,
+                      .ok_text = HearText});
+        Window_ReserveQuit(c.var);
+        EXPECT_EQ(GetWindow(), c.type);
+        Pass();
+        EXPECT_EQ(GetWindow(), 0) << c.type;
+        EXPECT_EQ(Heard(), c.heard) << c.type << " " << c.var;
+    }
+    Window_ReserveQuit(0); // nobody is there
+    CreateWindow(WINDOW_MESSAGE, "Next");
+    Pass();
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+}
+
+TEST_F(Windows, AnAnswerMayOpenTheNextWindow)
+{
+    CreateWindow(WINDOW_KEYBOARD, "Password", {.ok_text = [](const char*) {
+                     return CreateWindow(WINDOW_MESSAGE, "Password",
+                                         {.message = "Password Incorrect."});
+                 }});
+    Stroke(SDLK_RETURN);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    Stroke(SDLK_RETURN);
+    EXPECT_EQ(GetWindow(), 0);
+    Pass();
+    EXPECT_EQ(probe::Count(MSG_REDRAW), 1);
+}
+
+// --- Keyboard ---
+
+TEST_F(Windows, TheKeyboardWritesTheSameByTouchAndByKeys)
+{
+    static const struct {
+        const char* value;
+        Keys keys;
+        const char* text;
+    } cases[] = {
+        {"", {"a", "Shift", "a", "a"}, "aAa"},
+        {"", {"Caps", "a", "1", "Shift", "1", "a"}, "A1!A"},
+        {"", {"Caps", "Shift", "a", "Caps", "a"}, "Aa"},
+        {"", {"Shift", "Shift", "a"}, "a"},
+        {"", {"Shift", "`", "Shift", "\\", "Shift", "'", ";", "Shift", "/", "="}, "~|\";?="},
+        {"", {"Shift", "-", "-", " ", "z"}, "_- z"},
+        {"ab", {"Left", "c"}, "acb"},
+        {"ab", {"Left", "BS", "BS", "BS"}, "b"},
+        {"ab", {"Left", "Left", "Left", "Del", "x"}, "xb"},
+        {"ab", {"Right", "Right", "Del", "c"}, "abc"},
+        {"", {"BS", "Del", "Left", "Right"}, ""},
+        {"as it was", {}, "as it was"},
+    };
+    for (const auto& c : cases)
+        for (const bool by_touch : {true, false}) {
+            CreateWindow(WINDOW_KEYBOARD, "Name", {.value = c.value, .ok_text = HearText});
+            Keys keys = c.keys;
+            keys.push_back("Enter");
+            by_touch ? TouchKeyboard(keys) : StrokeKeys(keys);
+            EXPECT_THAT(Heard(), ElementsAre(std::string("text ") + c.text)) << by_touch;
+        }
+}
+
+TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
+{
+    static const struct {
+        int input_max;
+        int length;
+    } cases[] = {{-5, 0}, {0, 0}, {1, 1}, {16, 16}, {32, 32}, {33, 32}, {1000, 32}};
+    for (const auto& c : cases) {
+        CreateWindow(WINDOW_KEYBOARD, "Name",
+                     {.value = "0123456789012345678901234567890123456789",
+                      .input_max = c.input_max,
+                      .ok_text = HearText});
+        for (int i = 0; i < 5; i++)
+            TouchKeyboard({"x", "Left", "y"});
+        TouchKeyboard({"Enter"});
+        EXPECT_THAT(
+            Heard(),
+            ElementsAre("text " +
+                        std::string("01234567890123456789012345678901").substr(0, c.length)))
+            << c.input_max;
+    }
+}
+
+TEST_F(Windows, ACancelHandsNothingOver)
+{
+    for (const bool by_touch : {true, false}) {
+        CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "abc", .ok_text = HearText});
+        by_touch ? TouchKeyboard({"d", "Cancel"}) : StrokeKeys({"d", "Cancel"});
+        EXPECT_EQ(GetWindow(), 0);
+    }
+    EXPECT_THAT(Heard(), IsEmpty());
+    CreateWindow(WINDOW_KEYBOARD, "Nobody listens");
+    StrokeKeys({"a", "Enter"});
+    EXPECT_EQ(GetWindow(), 0);
+}
+
+// Keys that the keyboard on the screen does not have must not write rubbish.
+TEST_F(Windows, StrayKeysWriteNothing)
+{
+    CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "", .ok_text = HearText});
+    for (int sym = 0; sym < 512; sym++)
+        if (sym < ' ' && sym != SDLK_RETURN && sym != SDLK_ESCAPE)
+            Stroke(sym);
+    for (int sym :
+         {int(SDLK_F1), int(SDLK_UP), int(SDLK_CAPSLOCK), int(SDLK_LSHIFT), 200, -1, 100000})
+        Stroke(sym);
+    Stroke(SDLK_RETURN);
+    EXPECT_THAT(Heard(), ElementsAre("text "));
+}
+
+// --- Numbers ---
+
+TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
+{
+    static const struct {
+        int type;
+        const char* keys;
+        std::vector<std::string> heard;
+    } cases[] = {
+        {WINDOW_BANK, "12", {"value C"}},
+        {WINDOW_BANK, "1.-2", {"value C"}},
+        {WINDOW_BANK, "99999999999", {"value 7FFFFFFF"}},
+        {WINDOW_HEX, "c0de", {"value C0DE"}},
+        {WINDOW_HEX, "1.a", {"value 1A"}},
+        {WINDOW_HEX, "ffffffffff", {"value FFFF"}}, // the limit
+        {WINDOW_HEX, "1", {"value 10"}},            // the other one
+        {WINDOW_PAGE_GET, "1111", {"value 11110000"}},
+        {WINDOW_PAGE_GET, "7316.10", {"value 73160010"}},
+        {WINDOW_PAGE_GET, "22..3", {"value 220003"}},
+        {WINDOW_PAGE_GET, "", {}},
+        {WINDOW_PAGE_INITIAL, "11", {"value 110000"}},
+    };
+    for (const auto& c : cases) {
+        CreateWindow(c.type, "Number", {.min_text = "10", .max_text = "ffff", .ok = HearValue});
+        for (const char* key = c.keys; *key; key++)
+            Stroke(*key);
+        Stroke(SDLK_RETURN);
+        EXPECT_EQ(Heard(), c.heard) << c.type << " " << c.keys;
+        CreateWindow(c.type, "Number", {.ok = HearValue});
+        Stroke('1');
+        Stroke(SDLK_ESCAPE);
+        EXPECT_THAT(Heard(), IsEmpty());
+    }
+}
+
+// The digits by touch, at the places that this window has for them.
+TEST_F(Windows, HexKeysReachFromZeroToF)
+{
+    CreateWindow(WINDOW_HEX, "Address", {.x = 100, .y = 50, .ok = HearValue});
+    for (Place key : {Place{17, 135}, {71, 135}, {125, 135}, {17, 194}, {125, 371}, {17, 430}})
+        TouchAt({100, 50}, key);
+    TouchAt({100, 50}, {179, 430});
+    EXPECT_THAT(Heard(), ElementsAre("value DEFA30"));
+}
+
+// --- Choices ---
+
+TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
+{
+    static const char* const cells[] = {"A", "B", nullptr, "D", "", "F"};
+    static const struct {
+        int type;
+        int x, y; // in the window at (100, 100)
+        std::vector<std::string> heard;
+    } cases[] = {
+        {WINDOW_PULLDOWN, 20, 20, {"pull-down LOCAL@List 0"}},
+        {WINDOW_PULLDOWN, 120, 50, {"pull-down LOCAL@List 3"}},
+        {WINDOW_PULLDOWN, 120, 80, {"pull-down LOCAL@List 5"}},
+        {WINDOW_PULLDOWN, -10, 20, {}},
+        {WINDOW_SELECT, 20, 60, {"select LOCAL@List 0"}},
+        {WINDOW_SELECT, 100, 60 + 2 * 43, {"select LOCAL@List 5"}},
+        {WINDOW_SELECT, 400, 400, {}},
+        {WINDOW_PATH, 20, 20, {"path 4 0"}},
+        {WINDOW_PATH, 20 + 2 * 68, 20, {"path 4 4"}}, // no S, no spline
+        {WINDOW_PATH, 20 + 4 * 68, 20, {}},
+    };
+    for (const auto& c : cases) {
+        CreateWindow(c.type, "LOCAL@List",
+                     {.x = 100,
+                      .y = 100,
+                      .columns = 2,
+                      .rows = 3,
+                      .captions = cells,
+                      .path_type = PATHSEL_CURVE2});
+        SendMessage(MSG_PRESS, 100 + c.x, 100 + c.y, 1, 0);
+        EXPECT_EQ(GetWindow(), 0) << c.type;
+        EXPECT_EQ(Heard(), c.heard) << c.type;
+    }
+    CreateWindow(WINDOW_PULLDOWN, "List",
+                 {.x = 100, .y = 100, .columns = 2, .rows = 3, .captions = cells});
+    SendMessage(MSG_PRESS, 120, 180, 1, 0); // an empty cell: nothing
+    EXPECT_EQ(GetWindow(), WINDOW_PULLDOWN);
+    CreateWindow(WINDOW_SELECT, "Huge", {.columns = 1000, .rows = 1000});
+    CreateWindow(WINDOW_PATH, "Strange", {.path_type = 99});
+    EXPECT_THAT(Heard(), IsEmpty());
+}
+
+TEST_F(Windows, ABoxAnswersWithTheKeysThatItHas)
+{
+    static const struct {
+        WindowArgs args;
+        int type;
+        int sym;
+        int window; // afterwards
+        std::vector<std::string> heard;
+    } cases[] = {
+        {{}, WINDOW_MESSAGE, SDLK_RETURN, 0, {"value 5"}},
+        {{}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, {"value 5"}},
+        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_RETURN, 0, {"value 5"}},
+        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, {}},
+        {{.no_button = true}, WINDOW_MESSAGE, SDLK_RETURN, WINDOW_MESSAGE, {}},
+        {{.no_button = true}, WINDOW_MESSAGE, SDLK_ESCAPE, WINDOW_MESSAGE, {}},
+        {{}, WINDOW_PROGRESS, SDLK_RETURN, WINDOW_PROGRESS, {}},
+        {{}, WINDOW_PROGRESS, SDLK_ESCAPE, 0, {"value 5"}},
+    };
+    for (const auto& c : cases) {
+        WindowArgs args = c.args;
+        args.ok = HearValue;
+        args.ok_var = 5;
+        CreateWindow(c.type, "Box", args);
+        Stroke('x');
+        Stroke(c.sym);
+        EXPECT_EQ(GetWindow(), c.window);
+        EXPECT_EQ(Heard(), c.heard);
+    }
+    CreateWindow(WINDOW_PROGRESS, "Nobody hears of a cancel");
+    Stroke(SDLK_ESCAPE);
+    SendMessage(MSG_PRESS, 400, 420, 1, 0);
+    EXPECT_EQ(GetWindow(), WINDOW_PROGRESS);
+    ProgBox_RedrawProgress(1000);
+    MBox_RedrawMessage(std::string(3000, 'x').c_str());
+    CreateWindow(WINDOW_KEYBOARD, "Not theirs");
+    ProgBox_RedrawProgress(5);
+    MBox_RedrawMessage("text");
+}
+
+// --- Page jump and its favourites ---
+
+struct PageJump : Windows {
+    static constexpr char DIRECTORY[] = "/mnt/data/TopMenu";
+    void SetUp() override
+    {
+        std::filesystem::remove_all(DIRECTORY);
+        Windows::SetUp();
+    }
+    void TearDown() override
+    {
+        Windows::TearDown();
+        std::filesystem::remove_all(DIRECTORY);
+    }
+    static constexpr Place CORNER = {(800 - 604) / 2, (600 - 443) / 2};
+    static void PressFavorite(int n)
+    {
+        TouchAt(CORNER, {17 + 86 * (n % 4), 55 + 43 * (n / 4) - 10});
+    }
+    static void WriteFile(int set, const std::string& bytes)
+    {
+        std::filesystem::create_directories(DIRECTORY);
+        char path[64];
+        snprintf(path, sizeof path, "%s/user_date%d.usr", DIRECTORY, set);
+        FILE* fp = fopen(path, "wb");
+        ASSERT_TRUE(fp);
+        fwrite(bytes.data(), 1, bytes.size(), fp);
+        fclose(fp);
+    }
+    static std::string ReadFile(int set)
+    {
+        char path[64];
+        snprintf(path, sizeof path, "%s/user_date%d.usr", DIRECTORY, set);
+        char bytes[1000];
+        FILE* fp = fopen(path, "rb");
+        if (!fp)
+            return "";
+        const size_t n = fread(bytes, 1, sizeof bytes, fp);
+        fclose(fp);
+        return {bytes, n};
+    }
+};
+
+TEST_F(PageJump, EnterOpensThePageThatWasTyped)
+{
+    static const struct {
+        const char* keys;
+        uint32_t page;
+    } cases[] = {{"1111", 0x11110000}, {"1111.2", 0x11110002}, {"7316.10", 0x73160010}, {"", 0}};
+    for (const auto& c : cases) {
+        GL_CreatePage = 0;
+        CreateWindow(WINDOW_PAGE_JUMP, "Page");
+        for (const char* key = c.keys; *key; key++)
+            TouchAt(CORNER, *key == '.'   ? Place{429, 371}
+                            : *key == '0' ? Place{375, 371}
+                                          : Place{375 + 54 * ((*key - '1') % 3),
+                                                  312 - 59 * ((*key - '1') / 3)});
+        TouchAt(CORNER, {537, 371});
+        EXPECT_EQ(GL_CreatePage, c.page) << c.keys;
+        EXPECT_EQ(GetWindow(), 0);
+    }
+}
+
+TEST_F(PageJump, AFavouriteOpensItsPage)
+{
+    std::string file(29 * 24, '\0');
+    file.replace(24 * 5, 24,
+                 std::string("\x11\x11\x00\x02\x03\x01", 6) + std::string(18, 'W')); // no end
+    file.replace(24 * 28, 6, std::string("\x73\x16\x00\x10\xFF\xFF", 6)); // colours that are none
+    WriteFile(1, file);
+    for (const auto& [n, page] : {std::pair{5, 0x11110002u}, {28, 0x73160010u}}) {
+        GL_CreatePage = 0;
+        CreateWindow(WINDOW_PAGE_JUMP, "Page");
+        PressFavorite(0); // a free one
+        EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
+        PressFavorite(n);
+        EXPECT_EQ(GetWindow(), 0);
+        EXPECT_EQ(GL_CreatePage, page);
+    }
+    GL_CreatePage = 0;
+    WriteFile(1, file.substr(0, 28 * 24 + 23)); // cut: none of it
+    CreateWindow(WINDOW_PAGE_JUMP, "Page");
+    PressFavorite(5);
+    EXPECT_EQ(GL_CreatePage, 0u);
+}
+
+// Place of the keys under the favourites: set, store, colour.
+TEST_F(PageJump, StoredKeysAndColoursAreInTheFileAtOnce)
+{
+    GL_NowPage = 0x11110002;
+    CreateWindow(WINDOW_PAGE_JUMP, "Page");
+    TouchAt(CORNER, {17 + 86 * 2, 346});
+    PressFavorite(1);
+    const std::string stored = ReadFile(1);
+    ASSERT_EQ(stored.size(), 29u * 24);
+    EXPECT_EQ(stored.substr(24, 6), std::string("\x11\x11\x00\x02\x00\x01", 6));
+    EXPECT_STREQ(stored.substr(30, 18).c_str(), "1111\nProbe");
+    TouchAt(CORNER, {17 + 86 * 3, 346});
+    PressFavorite(1);
+    EXPECT_EQ(ReadFile(1).substr(28, 2), std::string("\x01\x02", 2)); // white with black letters
+    TouchAt(CORNER, {17 + 86 * 3, 346});                              // no longer
+    for (int set = 1; set < 5; set++) {
+        TouchAt(CORNER, {17 + 86, 346});
+        PressFavorite(1);
+        EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP) << "set " << set + 1 << " is empty";
+    }
+    TouchAt(CORNER, {17 + 86, 346}); // round again
+    PressFavorite(1);
+    EXPECT_EQ(GL_CreatePage, 0x11110002u);
+}
+
+// --- Names ---
+
+TEST(WindowNames, ReservedNamesAreKnownInAnyCase)
+{
+    for (const char* name :
+         {"CON", "con", "PRN", "Aux", "clock$", "NUL", "com0", "COM9", "lpt0", "LPT9"})
+        EXPECT_EQ(InvalidFileNameCheck(name), 1) << name;
+    for (const char* name : {"CON1", "COM", "COM10", "", "CO", "CLOCK", " CON", "LPTA"})
+        EXPECT_EQ(InvalidFileNameCheck(name), 0) << name;
+    EXPECT_EQ(InvalidFileNameCheck(nullptr), 0);
+}
+
+// --- Knob input, with the boxes behind it ---
+
+static const NB_TBL boxes[] = {
+    {.id = 1, .caption = "Clip", .type = NB_2, .min = -100, .max = 100, .cmd = "Clip"},
+    {.id = 2, .caption = "Level", .type = NB_1, .min = 109.5, .max = -7.5, .cmd = "Level"},
+    {.id = 3, .caption = "Rate", .type = NB_TC, .min = -1800, .max = 1800, .cmd = "Rate"},
+    NB_END,
+};
+
+struct KnobInput : KnobColumn {
+    void SetUp() override
+    {
+        KnobColumn::SetUp();
+        SYS_FrameRate = 30;
+        SYS_Format_Size = 0;
+        Open(boxes);
+        Tally("Clip", "-12.5");
+        Tally("Level", "20");
+        Tally("Rate", "90");
+        Forget();
+    }
+    static void Hit(const Keys& keys, bool by_touch)
+    {
+        for (const char* key : keys)
+            if (by_touch || !HasSym(key))
+                TouchAt(KNOB_WINDOW, TenKeyPlace(key));
+            else
+                Stroke(TenKeySym(key));
+    }
+};
+
+TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
+{
+    static const struct {
+        int slot;
+        Keys keys;
+        std::vector<std::string> sent;
+    } cases[] = {
+        {1, {"Enter"}, {"put Clip#-12.50"}}, // as shown
+        {1, {"Cancel"}, {}},
+        {1, {"5", "Cancel"}, {}},
+        {1, {"5", "Enter"}, {"put Clip#5.00"}},
+        {1, {"+/-", "5", "Enter"}, {"put Clip#-5.00"}},
+        {1, {"5", "+/-", "+/-", "Enter"}, {"put Clip#5.00"}},
+        {1, {".", "5", ".", "2", "Enter"}, {"put Clip#0.52"}},
+        {1, {"1", "2", "+/-", "Clear", "7", "Enter"}, {"put Clip#7.00"}},
+        {1, {"Clear", "Enter"}, {"put Clip#0.00"}},
+        {1, {"1", "2", "3", "4", "Enter"}, {"put Clip#100.00"}},
+        {1, {"+/-", "9", "9", "9", "Enter"}, {"put Clip#-100.00"}},
+        {1, {"5", "Trim"}, {"put Clip#-7.50"}},
+        {1, {"Trim", "2", "Trim"}, {"put Clip#-10.50"}}, // the first has nothing to add
+        {1, {"+/-", "9", "0", "Trim"}, {"put Clip#-100.00"}},
+        {2, {"2", "0", "0", "Enter"}, {"put Level#109.5"}}, // limits the other way round
+        {2, {"+/-", "9", "Enter"}, {"put Level#-7.5"}},
+        {3, {"Enter"}, {"put Rate#00:03:00"}},
+        {3, {"5", "Enter"}, {"put Rate#00:00:05"}},
+        {3, {"2", "5", "1", "2", "Enter"}, {"put Rate#00:25:12"}},
+        {3, {"5", "+/-", "Enter"}, {"put Rate#-00:00:05"}},
+        {3, {"1", ":", "5", "Enter"}, {"put Rate#00:01:05"}},
+        {3, {"1", ":", "1", "2", "Enter"}, {"put Rate#00:01:12"}},
+        {3, {"1", ":", ":", "Enter"}, {"put Rate#01:00:00"}},
+        {3, {"9", "9", "9", "9", "9", "9", "9", "9", "9", "Enter"}, {"put Rate#01:00:00"}},
+    };
+    for (const auto& c : cases)
+        for (const bool by_touch : {true, false}) {
+            PressSlot(c.slot);
+            ASSERT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
+            Forget();
+            Hit(c.keys, by_touch);
+            EXPECT_EQ(TakeQueuedCommands(), c.sent) << c.keys[0] << " by touch " << by_touch;
+            EXPECT_EQ(GetWindow(), 0);
+            EXPECT_EQ(NB_SendValue(1), -1) << "a box is still selected";
+        }
+}
+
+// A press on another box moves the window there; the page under it is still saved.
+TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
+{
+    TDL_FillRectS(440, 130, 705, 535, 0x102030);
+    PressSlot(1);
+    Hit({"9", "+/-"}, true);
+    strcpy(NB_Entry_Mode, "Any");
+    PressSlot(3);
+    EXPECT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
+    Hit({"1", ":", "Enter"}, true); // the point has become a colon, the sign is forgotten
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Rate#00:01:00"));
+    EXPECT_STREQ(NB_Entry_Mode, "");
+    for (int y = 135; y < 535; y += 5)
+        for (int x = 440; x < 705; x += 5)
+            ASSERT_EQ(PixelAt(x, y), 0x102030u) << x << ", " << y;
+    EXPECT_EQ(ChangeWindow("Clip", "1", "0", "2"), -1);
+    CreateWindow(WINDOW_KEYBOARD, "Name");
+    EXPECT_EQ(ChangeWindow("Clip", "1", "0", "2"), -1);
+}
+
+// A receiver of the value may open a window or a pane: it must not be torn down with this one.
+TEST_F(KnobInput, TheReceiverOfAValueMayOpenWhatItLikes)
+{
+    static const NB_TBL local[] = {
+        {.id = 1, .caption = "Count", .type = NB_INT, .min = 0, .max = 9, .cmd = "LOCAL"}, NB_END};
+    Open(local);
+    PressSlot(1);
+    answer = [](int msg) {
+        if (msg == LMSG_KNOBVAR)
+            CreateWindow(WINDOW_MESSAGE, "Count");
+    };
+    Hit({"4", "Enter"}, true);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    Forget();
+}
+
+// --- From a tab on a real page to the wire ---
+
+TEST(WindowPullDown, ATabOfTheMaskPagePutsTheChoice)
+{
+    Harness_Reset();
+    ASSERT_EQ(CreatePage(0x11130000), 0);
+    SendMessage(MSG_TALLY, Arg("M/E-1@Key1@Main Mask@Main Mask"), Arg("true"),
+                MsgArg(Hash("M/E-1@Key1@Main Mask@Main Mask")), 0);
+    (void)TakeQueuedCommands();
+    SendMessage(MSG_PRESS, 504 + 40, 360 + 30, 1, 0);
+    ASSERT_EQ(GetWindow(), WINDOW_PULLDOWN);
+    SendMessage(MSG_PRESS, 400, 300 - 64 + 32 + 16, 1, 0); // the second of four
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Main Mask@Mask Source#Pattern"));
+    EXPECT_EQ(PullDown_Find(nullptr), nullptr);
+    EXPECT_EQ(PullDown_Find("LOCAL@No"), nullptr);
+    Page_Reset();
+}
