@@ -146,12 +146,20 @@ static void draw_key(WINOBJ& k)
 
 // --- For the types ---
 
+// On the screen as a whole, as far as it is not larger.
+static int placed(int wanted, int own, int size, int screen)
+{
+    const int middle = (screen - size) / 2;
+    const int at = wanted >= 0 ? wanted : own >= 0 ? own : middle;
+    return std::clamp(at, 0, std::max(0, screen - size));
+}
+
 void window_size(const WindowArgs& args, int w, int h, int x, int y)
 {
     win.w = w;
     win.h = h;
-    win.WinX = args.x >= 0 ? args.x : x >= 0 ? x : std::max(0, (SCREEN_W - w) / 2);
-    win.WinY = args.y >= 0 ? args.y : y >= 0 ? y : std::max(0, (SCREEN_H - h) / 2);
+    win.WinX = placed(args.x, x, w, SCREEN_W);
+    win.WinY = placed(args.y, y, h, SCREEN_H);
 }
 
 WINOBJ* window_add(int id, const char* caption, int look, int x, int y)

@@ -40,7 +40,7 @@ enum : int { PATH_CURVE_OFF, PATH_CURVE_LINEAR, PATH_CURVE_S, PATH_CURVE_SPLINE,
 // What a window needs besides its caption; each type reads its own fields and ignores the rest.
 // Texts are copied, but captions of cells live as long as the window.
 struct WindowArgs {
-    int x = -1; // top left; -1: the type's own place
+    int x = -1; // top left, moved onto the screen; -1: the type's own place
     int y = -1;
     const char* value = "";    // number windows: shown until the first key; keyboard: to be edited
     const char* min_text = ""; // knob, hex: limits, as text; both empty: none

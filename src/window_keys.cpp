@@ -93,6 +93,15 @@ static void shift_out()
     win.field_open = 0;
 }
 
+// The last character, or the sign when there is none.
+static void take_back()
+{
+    if (is_empty(win))
+        win.Minus = 0;
+    else
+        shift_out();
+}
+
 // A colon ends the field: the next one is empty, and its first two digits fill it.
 static void end_field()
 {
@@ -127,7 +136,7 @@ static void entry_text(const WindowState& w, char* text, size_t size)
 static double parse(const char* text, const WindowState& w)
 {
     if (w.Window == WINDOW_HEX)
-        return double(strtoul(text, nullptr, 16));
+        return double(std::min(strtoull(text, nullptr, 16), 0xFFFFFFFFull));
     return w.TimeCode ? TC2Frame(text) : strtod(text, nullptr);
 }
 
@@ -306,7 +315,7 @@ static void edit(int id)
     else if (id == KEY_CLEAR)
         clear_input();
     else if (id == KEY_BACKSPACE)
-        is_empty(win) ? void(win.Minus = 0) : shift_out();
+        take_back();
 }
 
 // --- Knob input ---
@@ -450,7 +459,7 @@ static void hexkey_quit(int v)
     const WindowState last = window_end();
     const double value = entered_value(last);
     if (v == 2 && last.OKFunc)
-        last.OKFunc(int(uint32_t(std::min(value, double(UINT32_MAX)))));
+        last.OKFunc(int(uint32_t(value)));
     else if (v == 2)
         (void)NB_SendValue(value); // the box may have gone
     if (!last.OKFunc)

@@ -3,6 +3,7 @@
 #include "rows.h"
 #include "window.h"
 #include <iterator>
+#include <string_view>
 
 // A tab is lower than a key of the grid and a little wider: 89 x 40, in the middle of its place.
 constexpr BT_TBL Tab(BT_TBL row)
@@ -36,7 +37,7 @@ constexpr bool PullDownsAreSound()
         for (int n = 0; n < p.columns * p.rows; n++)
             if (!p.captions[n]) return false;
         for (size_t k = 0; k < i; k++)
-            if (p.name == PullDown[k].name) return false;
+            if (std::string_view(p.name) == PullDown[k].name) return false;
     }
     return true;
 }

@@ -393,8 +393,8 @@ TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
         {WINDOW_BANK, "99999999999", {"value 7FFFFFFF"}},
         {WINDOW_HEX, "c0de", {"value C0DE"}},
         {WINDOW_HEX, "1.a", {"value 1A"}},
-        {WINDOW_HEX, "ffffffffff", {"value FFFF"}}, // the limit
-        {WINDOW_HEX, "1", {"value 10"}},            // the other one
+        {WINDOW_HEX, "fffffffffff", {"value FFFF"}}, // the limit
+        {WINDOW_HEX, "1", {"value 10"}},             // the other one
         {WINDOW_PAGE_GET, "1111", {"value 11110000"}},
         {WINDOW_PAGE_GET, "7316.10", {"value 73160010"}},
         {WINDOW_PAGE_GET, "22..3", {"value 220003"}},
@@ -461,6 +461,9 @@ TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
                  {.x = 100, .y = 100, .columns = 2, .rows = 3, .captions = cells});
     SendMessage(MSG_PRESS, 120, 180, 1, 0); // an empty cell: nothing
     EXPECT_EQ(GetWindow(), WINDOW_PULLDOWN);
+    CreateWindow(WINDOW_SELECT, "Corner", {.x = 790, .y = 590, .captions = cells});
+    SendMessage(MSG_PRESS, 750, 560, 1, 0); // it has been moved onto the screen
+    EXPECT_THAT(Heard(), ElementsAre("select Corner 0"));
     CreateWindow(WINDOW_SELECT, "Huge", {.columns = 1000, .rows = 1000});
     CreateWindow(WINDOW_PATH, "Strange", {.path_type = 99});
     EXPECT_THAT(Heard(), IsEmpty());
@@ -750,7 +753,7 @@ TEST(WindowPullDown, ATabOfTheMaskPagePutsTheChoice)
     (void)TakeQueuedCommands();
     SendMessage(MSG_PRESS, 504 + 40, 360 + 30, 1, 0);
     ASSERT_EQ(GetWindow(), WINDOW_PULLDOWN);
-    SendMessage(MSG_PRESS, 400, 300 - 64 + 32 + 16, 1, 0); // the second of four
+    SendMessage(MSG_PRESS, 504 + 40, 413 + 6 + 32 + 16, 1, 0); // the second of four, below it
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Main Mask@Mask Source#Pattern"));
     EXPECT_EQ(PullDown_Find(nullptr), nullptr);
     EXPECT_EQ(PullDown_Find("LOCAL@No"), nullptr);
