@@ -86,7 +86,11 @@ int bt_sel_tab(BT_MEM* b)
     show_pushed();
     if (const PULLDOWN* list = PullDown_Find(b->cmd[0]))
         CreateWindow(WINDOW_PULLDOWN, list->name,
-                     {.columns = list->columns, .rows = list->rows, .captions = list->captions});
+                     {.x = b->x1,
+                      .y = b->y2 + 1,
+                      .columns = list->columns,
+                      .rows = list->rows,
+                      .captions = list->captions});
     return 0;
 }
 
