@@ -23,13 +23,10 @@ struct Block {
     int tally;
 };
 constexpr Block blocks[] = {
-    {"Location", 0},    {"Rotation", 3},    {"Axis", 6},
-    {"Aspect/Skew", 9}, {"Size/Persp", 12}, {"Crop", 15},
+    {"Location", 0}, {"Rotation", 3}, {"Axis", 6}, {"Aspect", 9}, {"Size", 12}, {"Crop", 15},
 };
 constexpr int BLOCKS_A_ROW = 3;
-constexpr int HALF = int(std::size(blocks)) * AXES; // tallies of one transform
 constexpr int TOP = 24;
-constexpr int BLOCK_H = 70;
 } // namespace
 
 int st_drw_dmestatus_rect(int x1, int y1, int x2, int y2, const char* title)
@@ -49,37 +46,37 @@ int st_drw_dmestatus_value(int x, int y, int width, const char* label, const cha
     return TDL_SymbolS(x + width - text_width, y, value, st_font(), WHITE);
 }
 
-static void put_block(const ST_MEM* c, int index, int rows, int first_tally)
+static void put_block(const ST_MEM* c, int index)
 {
+    constexpr int rows = int(std::size(blocks)) / BLOCKS_A_ROW;
     const int width = (c->x2 - c->x1 - 12) / BLOCKS_A_ROW;
-    const int height = rows > 1 ? (c->y2 - c->y1 - TOP - 6) / rows : BLOCK_H;
+    const int height = (c->y2 - c->y1 - TOP - 6) / rows;
     const int x = c->x1 + 6 + width * (index % BLOCKS_A_ROW);
     const int y = c->y1 + TOP + height * (index / BLOCKS_A_ROW);
     st_drw_dmestatus_rect(x, y, x + width - 2, y + height - 3, blocks[index].title);
     for (int i = 0; i < AXES; i++)
         st_drw_dmestatus_value(x + 6, y + 19 + 15 * i, width - 14, axes[i],
-                               c->tally[first_tally + blocks[index].tally + i]);
+                               c->tally[blocks[index].tally + i]);
 }
 
-static int draw_transform(ST_MEM* cell, const char* name, int block_count, int first_tally)
+static int draw_transform(ST_MEM* cell, const char* name)
 {
     const ST_MEM* c = st_begin(cell, st_in_view(cell), name);
     if (!c)
         return -1;
-    const int rows = (block_count + BLOCKS_A_ROW - 1) / BLOCKS_A_ROW;
-    for (int i = 0; i < block_count; i++)
-        put_block(c, i, rows, first_tally);
+    for (int i = 0; i < int(std::size(blocks)); i++)
+        put_block(c, i);
     return 0;
 }
 
 int st_drw_dme_status_global(ST_MEM* cell)
 {
-    return draw_transform(cell, "Global", BLOCKS_A_ROW, 0);
+    return draw_transform(cell, "Global");
 }
 
 int st_drw_dme_status_local(ST_MEM* cell)
 {
-    return draw_transform(cell, "Local", BLOCKS_A_ROW, 0);
+    return draw_transform(cell, "Local");
 }
 
 // The name of a transform with the channels that it means.
@@ -95,7 +92,7 @@ static int draw_referred(ST_MEM* cell, const char* transform)
         PrintText(text, "%s%d", used++ ? "," : "  Ch", ch + 1);
         AppendText(name, text);
     }
-    return draw_transform(cell, name, int(std::size(blocks)), 0);
+    return draw_transform(cell, name);
 }
 
 int st_drw_dme_glbsrc_status(ST_MEM* cell)

@@ -100,8 +100,10 @@ static void put_in_box(const ST_MEM* cell, const char* text, unsigned col)
     const size_t length = at_blank ? blank : ELSE_AFTER;
     char first[BLANK_WITHIN + 1];
     strncpy_close(first, text, length);
-    const int left = cell->x1 + 4;
-    const int right = cell->x1 + 95;
+    // Black text would be lost beside the white box.
+    const int margin = col == BLACK ? 27 : 4;
+    const int left = cell->x1 + margin;
+    const int right = cell->x1 + 99 - margin;
     st_put_centred(left, right, cell->y1 + 33, first, st_font(), col);
     st_put_centred(left, right, cell->y1 + 45, text + length + at_blank, st_font(), col);
 }
@@ -208,15 +210,17 @@ static int widest_label(const ST_VAL* val)
     return widest;
 }
 
-// Values are right aligned, so that their decimal points stand in a column.
+// Values are right aligned, so that their decimal points stand in a column. A long one takes the
+// small font before it is cut: half a number is a wrong number.
 static void put_value(const ST_VAL* val, int y, const char* text, unsigned col)
 {
     const int room = val->v_right - val->v_left;
-    const int width = int(TDL_GetSymbolWidth(text, st_font()));
+    const int font = int(TDL_GetSymbolWidth(text, st_font())) > room ? FONT_SMALL : st_font();
+    const int width = int(TDL_GetSymbolWidth(text, font));
     if (width > room)
-        TDL_SymbolWS(val->v_left, y, room, text, st_font(), col);
+        TDL_SymbolWS(val->v_left, y, room, text, font, col);
     else
-        TDL_SymbolS(val->v_right - width, y, text, st_font(), col);
+        TDL_SymbolS(val->v_right - width, y, text, font, col);
 }
 
 // The "=" column lies on the tail of the label column: the values need the room.

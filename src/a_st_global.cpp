@@ -103,11 +103,12 @@ int st_drw_center_image_globaleffect_combiner_trail_3D(const ST_MEM* cell, int r
     return st_drw_center_image_globaleffect_combiner_trail(cell, 2 * row + 1, trail);
 }
 
-// A pair goes as one, between its two rows.
+// A pair goes as one: the trail lies on its first row.
 int st_drw_center_image_globaleffect_combiner_trail_st_dp(const ST_MEM* cell, int row,
                                                           const char* trail)
 {
-    return put_tile(cell, TRAIL_X, (2 * row) * ROW_PITCH + ROW_PITCH / 2, trail_picture(trail));
+    st_drw_center_image_globaleffect_combiner_trail(cell, 2 * row, trail);
+    return st_drw_center_image_globaleffect_combiner_trail(cell, 2 * row + 1, "Off");
 }
 
 // --- A channel's output ---
@@ -186,19 +187,25 @@ constexpr Combiner pairs = {CHANNELS / 2, st_drw_center_image_globaleffect_combi
 constexpr Combiner small_unit = {2, st_drw_center_image_globaleffect_combiner_trail, 1};
 } // namespace
 
-static void put_channels(const ST_MEM* c, const Combiner& form, int channel, bool is_combined)
+static void veil_row(const ST_MEM* c, int row)
+{
+    const int x = c->x1 + DIAGRAM_X;
+    const int y = c->y1 + DIAGRAM_Y + row * ROW_PITCH;
+    TDL_FillRectAS(x, y, x + 39, y + 23, 0, static_cast<unsigned char>(gry_rat));
+}
+
+static void put_channel(const ST_MEM* c, const Combiner& form, int channel)
 {
     SDL_Surface* const tiles[CHANNELS] = {G_Combiner_Chx1, G_Combiner_Chx2, G_Combiner_Chx3,
                                           G_Combiner_Chx4};
+    const bool is_combined = st_is_on(c, COMBINE + channel);
     for (int i = 0; i < form.rows_a_channel; i++) {
         const int row = channel * form.rows_a_channel + i;
         put_tile(c, 0, row * ROW_PITCH, tiles[row]);
-        if (is_combined)
-            continue;
-        const int y = c->y1 + DIAGRAM_Y + row * ROW_PITCH;
-        TDL_FillRectAS(c->x1 + DIAGRAM_X, y, c->x1 + DIAGRAM_X + 39, y + 23, 0,
-                       static_cast<unsigned char>(gry_rat));
+        if (!is_combined)
+            veil_row(c, row);
     }
+    form.put_trail(c, channel, is_combined ? c->tally[TRAIL + channel] : "Off");
 }
 
 static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form)
@@ -208,10 +215,11 @@ static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form)
         return -1;
     TDL_PutS(c->x1 + DIAGRAM_X, c->y1 + DIAGRAM_Y, G_Combiner_Base);
     put_tile(c, OUT_X, OUT_Y, G_Combiner_Out);
-    for (int i = 0; i < form.channels; i++) {
-        const bool is_combined = st_is_on(c, COMBINE + i);
-        put_channels(c, form, i, is_combined);
-        form.put_trail(c, i, is_combined ? c->tally[TRAIL + i] : "Off");
+    for (int i = 0; i < form.channels; i++)
+        put_channel(c, form, i);
+    for (int row = form.channels * form.rows_a_channel; row < CHANNELS; row++) {
+        st_drw_center_image_globaleffect_combiner_trail(c, row, "Off");
+        veil_row(c, row); // the unit has no such channel
     }
     return 0;
 }

@@ -66,7 +66,7 @@ constexpr int TYPE_INVERT = 3;
 static int is_type_page_in_view(const ST_MEM* cell)
 {
     const uint32_t page = GL_NowPage & 0xF00FFFFF;
-    return (page == 0x10010000 || page == 0x80010000) && is_key_in_view(cell);
+    return (page == 0x10010000 || page == 0x80010000) && isNowPageMeKey(0) && is_key_in_view(cell);
 }
 
 static const KeyType* key_type_of(const char* value)

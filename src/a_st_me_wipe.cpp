@@ -47,17 +47,17 @@ static int whole(const char* text)
     return int(std::clamp(strtol(text, nullptr, 10), long(SHRT_MIN), long(SHRT_MAX)));
 }
 
+// Never lit: for the page on which both are adjusted the pattern stands.
 static int draw_position(ST_MEM* cell, const char* name)
 {
-    const int lit = st_in_view(cell);
-    const ST_MEM* c = st_begin(cell, lit, name);
+    const ST_MEM* c = st_begin(cell, 0, name);
     if (!c)
         return -1;
     st_drw_center_image_wipe_position(c, whole(c->tally[1]), whole(c->tally[2]));
     if (st_is_on(c, 3))
         st_drw_under_strings(c, "Auto Center", 0);
     if (st_is_off(c, 0))
-        st_drw_recoats_grayout(c, lit);
+        st_drw_recoats_grayout(c, 0);
     return 0;
 }
 

@@ -1,0 +1,519 @@
+#include "a_st_page.h"
+#include "graphics.h"
+#include "log.h"
+#include "page_table/st_me_key.h"
+#include "page_table/st_me_misc.h"
+#include "page_table/st_me_wipe.h"
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <unistd.h>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr uint32_t BORDER = 0x4D4D4D;
+constexpr uint32_t BORDER_LIT = 0xE48B1B;
+constexpr uint32_t LIT = 0x0B3A46;
+constexpr uint32_t WHITE = 0xFFFFFF;
+
+// A painter that leaves a mark, so that a repaint can be seen.
+static int painted = 0;
+static int draw_mark(ST_MEM* cell)
+{
+    painted++;
+    return TDL_FillRectS(cell->x1, cell->y1, cell->x2, cell->y2, 0x123456);
+}
+
+static ST_TBL Cell(int id, std::initializer_list<const char*> cmd, uint32_t jump = 0)
+{
+    ST_TBL row =
+        CellAt(id % 6, id / 6 % 4, {.id = id, .draw_func = draw_mark, .jamp_id_base = jump});
+    std::copy(cmd.begin(), cmd.end(), row.cmd);
+    return row;
+}
+static uint32_t PageOfCell(const ST_TBL& row)
+{
+    return CellPage::PageAt(row.x1 + 50, row.y1 + 45);
+}
+
+struct StatusCells : CellPage {
+    void SetUp() override
+    {
+        CellPage::SetUp();
+        painted = 0;
+    }
+};
+
+// --- Subscriptions ---
+
+TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceUpdatesBothAndIsRemovedOnce)
+{
+    const ST_TBL rows[] = {Cell(1, {"~2@A", "~1@B"}), Cell(3, {"~2@A", "LOCAL@C", "~2@D"}), ST_END};
+    Open(rows);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("add M/E-1@Key1@A", "add M/E-1@B", "add M/E-1@Key1@D"));
+    Tally("M/E-1@Key1@A", "x");
+    Pass();
+    EXPECT_EQ(painted, 2);
+    Tally("M/E-1@Key1@Other", "x");
+    Pass();
+    EXPECT_EQ(painted, 2) << "nobody's";
+    EXPECT_EQ(ST_Create(nullptr, 0), 1);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("remove M/E-1@Key1@A", "remove M/E-1@B", "remove M/E-1@Key1@D"));
+    ST_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(StatusCells, AFullCellKeepsEachOfItsPathsAndItsTextsInBounds)
+{
+    ST_TBL row = Cell(1, {});
+    std::fill(std::begin(row.cmd), std::end(row.cmd), "~2@A");
+    const std::string path(2 * CMD_SIZE, 'p');
+    row.cmd[ST_COMMANDS - 1] = path.c_str();
+    const ST_TBL rows[] = {row, ST_END};
+    Open(rows);
+    const std::string cut = path.substr(0, CMD_SIZE - 1);
+    Tally(cut.c_str(), path.c_str());
+    Tally("M/E-1@Key1@A", path.c_str());
+    Pass();
+    EXPECT_EQ(painted, 1);
+}
+
+// --- Which rows stand ---
+
+static std::string LogWritten(const char* path)
+{
+    std::ifstream file(path);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST_F(StatusCells, TheNineteenthRowIsLeftOutAndLogged)
+{
+    const char* path = "/tmp/a_st_test.log";
+    (void)unlink(path);
+    Log_Init(path, LOG_FILE_SIZE);
+    Log_SetLevel(LOG_ALWAYS);
+    ST_TBL rows[ST_MAX + 2];
+    for (int i = 0; i <= ST_MAX; i++)
+        rows[i] = Cell(i + 3, {}, 0x11110000);
+    rows[ST_MAX + 1] = ST_END;
+    Open(rows);
+    Log_Init(nullptr, LOG_FILE_SIZE);
+    Log_SetLevel(LOG_FORCED);
+    EXPECT_THAT(LogWritten(path), HasSubstr("Buffer overflow for ST Objects!!"));
+    (void)unlink(path);
+    GL_ST_area_update_draw();
+    Pass();
+    EXPECT_EQ(painted, ST_MAX);
+}
+
+TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)
+{
+    const ST_TBL rows[] = {Cell(1, {"~2@1"}), Cell(2, {"~2@2"}), Cell(97, {"~2@97"}),
+                           Cell(98, {"~2@98"}), ST_END};
+    static const struct {
+        int dual, mode_4k;
+        const char* key;
+        std::vector<std::string> words;
+    } cases[] = {
+        {0, 0, "Key3", {"1", "2", "97"}}, {1, 0, "Key3", {"1", "2", "98"}},
+        {0, 1, "Key3", {"1", "97"}},      {0, 1, "DSK4", {"1", "97"}},
+        {0, 1, "Key1", {"1", "2", "97"}}, {0, 1, "Key7", {"1", "2", "97"}},
+    };
+    for (const auto& c : cases) {
+        SYS_DualProc = c.dual;
+        SYS_4KMode = c.mode_4k;
+        SetTree({"M/E-1", c.key, "Type"}, 0x11310000);
+        Open(rows);
+        std::vector<std::string> expected;
+        for (const auto& word : c.words)
+            expected.push_back("add M/E-1@" + std::string(c.key) + "@" + word);
+        EXPECT_EQ(TakeQueuedCommands(), expected) << c.dual << c.mode_4k << c.key;
+    }
+}
+
+// --- Jumps ---
+
+TEST_F(StatusCells, ATargetTakesTheBankAndForKeyPagesTheKeyOfThePage)
+{
+    static const struct {
+        uint32_t page, base, target;
+    } cases[] = {
+        {0x11110000, 0x11120000, 0x11120000},
+        {0x12310000, 0x11120000, 0x12320000}, // bank 2, key 3
+        {0x85410000, 0x11110003, 0x85410003},
+        {0x12310000, 0x11510000, 0x12510000}, // a group of the bank
+        {0x15510000, 0x11650001, 0x15650001},
+        {0x12000000, 0x11340000, 0x12340000}, // above the keys the cell names the key
+        {0x11310000, 0x11730000, 0x11730000},
+        {0x15310000, 0x11730000, 0x11730000}, // keys 5 to 8: the one page of the bank
+        {0x15710000, 0x11730000, 0x15730000}, // no key page
+        {0x11110000, 0, 0},
+    };
+    for (const auto& c : cases) {
+        SetTree({"M/E-1", "Key1"}, c.page);
+        const ST_TBL rows[] = {Cell(1, {}, c.base), ST_END};
+        Open(rows);
+        EXPECT_EQ(PageOfCell(rows[0]), c.target) << std::hex << c.page << " " << c.base;
+    }
+}
+
+TEST_F(StatusCells, ThePressIsInsideTheBorderAndWaitsForNoOtherRequest)
+{
+    const ST_TBL rows[] = {Cell(1, {}, 0x11120000), Cell(3, {}, 0x11130000), ST_END};
+    Open(rows);
+    const ST_TBL& c = rows[0];
+    EXPECT_EQ(PageAt(c.x1, 100), 0u);
+    EXPECT_EQ(PageAt(c.x2, 100), 0u);
+    EXPECT_EQ(PageAt(c.x1 + 50, c.y1), 0u);
+    EXPECT_EQ(PageAt(c.x1 + 50, c.y2), 0u);
+    EXPECT_EQ(PageAt(c.x1 + 1, c.y1 + 1), 0x11120000u);
+    EXPECT_EQ(PageAt(c.x2 - 1, c.y2 - 1), 0x11120000u);
+    GL_CreatePage = 0x00110000;
+    ST_Proc(MSG_PRESS, c.x1 + 50, c.y1 + 45, 1, 0);
+    EXPECT_EQ(GL_CreatePage, 0x00110000u);
+}
+
+TEST_F(StatusCells, TheTwoCellsOfSignalSelectSayWhichSignalIsMeant)
+{
+    Open(st_me_key);
+    GL_FillSourceAssignMode = 7;
+    EXPECT_EQ(PageOfCell(st_me_key[0]), 0x11110000u);
+    EXPECT_EQ(GL_FillSourceAssignMode, 7);
+    EXPECT_EQ(PageOfCell(st_me_key[6]), 0x11110003u);
+    EXPECT_EQ(GL_FillSourceAssignMode, 0);
+    EXPECT_EQ(PageOfCell(st_me_key[7]), 0x11110003u);
+    EXPECT_EQ(GL_FillSourceAssignMode, 1);
+    EXPECT_STREQ(st_me_key[6].cmd[0], "~2@Type@Key Fill");
+}
+
+TEST_F(StatusCells, ATransitionOrClipCellLeadsWhereItsTallySays)
+{
+    SetTree({"PGM/PST", "Misc"}, 0x14710000);
+    Open(st_me_misc);
+    const ST_TBL& transition = st_me_misc[0];
+    const ST_TBL& clip = st_me_misc[7];
+    EXPECT_EQ(PageOfCell(transition), 0u);
+    Tally("PGM/PST@Misc@Transition@DME Wipe", "true");
+    EXPECT_EQ(PageOfCell(transition), 0u);
+    Tally("PGM/PST@Misc@Transition@Transition Mode", "Full");
+    EXPECT_EQ(PageOfCell(transition), 0x14610000u);
+    Tally("PGM/PST@Misc@Transition@Wipe", "true");
+    EXPECT_EQ(PageOfCell(transition), 0x14510000u);
+    EXPECT_EQ(PageOfCell(clip), 0u);
+    Tally("PGM/PST@Misc@Clip Transition@Output", "FM1");
+    EXPECT_EQ(PageOfCell(clip), 0x21110000u);
+}
+
+// --- The reference of the effects units ---
+
+constexpr const char* REFERENCE = "DME@Status@3D Param@Mode Status@Reference";
+
+TEST_F(StatusCells, TheReferenceChoosesTheTableOfADmePage)
+{
+    static const struct {
+        const char* value;
+        const char* added; // null: nothing is rebuilt
+    } cases[] = {
+        {"2,1,0", "Local Source"},
+        {"2,1,9", nullptr}, // the third part tells nothing
+        {"52,1,0", "Global Source"},
+        {"12,1,0", "Global Source"},
+        {"92,1,0", "Local Source"},
+        {"1,1,0", "Local Target"},
+        {"11,1,0", "Global Target"},
+        {"11,2,0", "Global Target"}, // another channel
+        {"0,1,0", nullptr},
+        {"12,0,0", nullptr},
+        {"", nullptr},
+        {"zz", nullptr},
+        {"11,2,0", nullptr}, // the refused ones changed nothing
+    };
+    SetTree({"DME"}, 0x41110000);
+    for (const auto& c : cases) {
+        (void)TakeQueuedCommands();
+        const std::string before = std::to_string(st_dme_reference());
+        Tally(REFERENCE, c.value);
+        const auto sent = TakeQueuedCommands();
+        if (!c.added)
+            EXPECT_THAT(sent, IsEmpty()) << c.value;
+        else
+            EXPECT_THAT(sent,
+                        Contains("add DME@Status@3D Param@" + std::string(c.added) + "@Location@X"))
+                << c.value;
+    }
+    Tally(REFERENCE, "12,0,0");
+    EXPECT_EQ(st_dme_reference(), -1);
+    Tally(REFERENCE, "12,5,0");
+    EXPECT_EQ(st_dme_reference(), 5);
+}
+
+TEST_F(StatusCells, OnlyDmePagesAreRebuilt)
+{
+    for (uint32_t id : {0x11110000u, 0x41410000u, 0x41410003u, 0x42110000u}) {
+        SetTree({"M/E-1", "Key1"}, id);
+        Open(st_me_key);
+        (void)TakeQueuedCommands();
+        Tally(REFERENCE, "12,1,0");
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << std::hex << id;
+    }
+}
+
+// --- Painting ---
+
+constexpr Rect FIRST = {100, 75, 199, 164};
+constexpr const char* TYPE = "M/E-1@Key1@Type@Key Type";
+
+TEST_F(StatusCells, ACellWithoutATallyShowsItsBorderOnlyAndOnlyWithTheSwitcherUp)
+{
+    Open(st_me_key);
+    Pass();
+    EXPECT_EQ(PixelAt(102, 77), 0u);
+    GL_ProcStatus[1] = 1;
+    Open(st_me_key);
+    Pass();
+    EXPECT_EQ(PixelAt(102, 77), BORDER_LIT);
+    EXPECT_EQ(PixelAt(202, 77), BORDER);
+    EXPECT_EQ(Count(FIRST, WHITE), 0);
+    Tally(TYPE, "Luminance");
+    Pass();
+    EXPECT_GT(Count(FIRST, WHITE), 0);
+}
+
+TEST_F(StatusCells, OnlyTheCellOfThePageInViewIsLit)
+{
+    static const struct {
+        uint32_t page;
+        std::initializer_list<const char*> tree;
+        int lit_cell;
+    } cases[] = {
+        {0x11110000, {"M/E-1", "Key1"}, 0},  {0x82310000, {"M/E-1", "Key1"}, 0},
+        {0x11110001, {"M/E-1", "Key1"}, -1}, {0x12220000, {"M/E-1", "Key1"}, 1},
+        {0x11130000, {"M/E-1", "Key1"}, 2},  {0x11510000, {"M/E-1", "Wipe"}, -1},
+        {0x11110003, {"M/E-1", "Key1"}, 6},
+    };
+    for (const auto& c : cases) {
+        SetTree(c.tree, c.page);
+        GL_ProcStatus[1] = 1;
+        Open(st_me_key);
+        Pass();
+        for (int i = 0; i < 8; i++)
+            EXPECT_EQ(PixelAt(st_me_key[i].x1 + 4, st_me_key[i].y2 - 4), i == c.lit_cell ? LIT : 0u)
+                << std::hex << c.page << " " << i;
+    }
+}
+
+// A page that is built anew must not flash, and no key may show what another has.
+TEST_F(StatusCells, ARebuiltCellShowsItsLastPictureAndNeverThatOfAnotherKey)
+{
+    GL_ProcStatus[1] = 1;
+    Open(st_me_key);
+    Tally(TYPE, "Luminance");
+    Pass();
+    const int white = Count(FIRST, WHITE);
+    TDL_FillRectS(97, 73, 702, 256, 0);
+    SetTree({"M/E-1", "Key1", "Edge"}, 0x11120000);
+    Open(st_me_key);
+    Pass();
+    EXPECT_EQ(Count(FIRST, WHITE), white);
+    EXPECT_EQ(PixelAt(104, 160), 0u) << "no longer lit";
+
+    SetTree({"M/E-1", "Key2", "Type"}, 0x11210000);
+    Open(st_me_key);
+    Pass();
+    EXPECT_EQ(Count(FIRST, WHITE), 0);
+}
+
+TEST_F(StatusCells, AKeyTypeIsToldByItsPictureAndTheLineBelow)
+{
+    constexpr Rect box = {126, 101, 173, 136};
+    constexpr Rect under = {103, 146, 196, 158};
+    static const struct {
+        const char* type;
+        const char* path; // a further tally
+        const char* value;
+        bool has_line;
+    } cases[] = {
+        {"Luminance", "Type@Clean Mode@Luminance", "true", true},
+        {"Luminance", "Type@Clean Mode@Linear", "true", false},
+        {"Linear", "Type@Clean Mode@Linear", "true", true},
+        {"Color Vector", "Type@Clean Mode@Color Vector", "true", true},
+        {"Color Vector", "Type@Clean Mode@Luminance", "true", false},
+        {"Chroma", "Type@Chroma@Mix Mode", "Additive Mix", true},
+        {"Chroma", "Type@Chroma@Mix Mode", "Normal", false},
+        {"Key Wipe Pattern", "Type@Key Wipe Pattern@Pattern", "229", true},
+    };
+    for (const auto& c : cases) {
+        Open(st_me_key);
+        Tally(TYPE, c.type);
+        Tally((std::string("M/E-1@Key1@") + c.path).c_str(), c.value);
+        Pass();
+        EXPECT_EQ(Count(under, WHITE) > 0, c.has_line) << c.type << " " << c.path;
+        const int plain = Count(box, WHITE);
+        const int line = Count(under, WHITE);
+        Tally("M/E-1@Key1@Type@Key Invert", "true");
+        Pass();
+        if (c.type[0] == 'K') // a pattern turns its line over
+            EXPECT_GT(Count(under, WHITE), line + 500);
+        else
+            EXPECT_GT(Count(box, WHITE), plain + 500) << c.type;
+    }
+}
+
+TEST_F(StatusCells, AnUnknownWordOrPatternLeavesTheFrameEmpty)
+{
+    constexpr Rect picture = {103, 96, 196, 140};
+    static const struct {
+        const char* type;
+        const char* pattern;
+    } cases[] = {{"Magic", "1"}, {"", "1"}, {"Key Wipe Pattern", ""}};
+    for (const auto& c : cases) {
+        Open(st_me_key);
+        Tally(TYPE, c.type);
+        Tally("M/E-1@Key1@Type@Key Wipe Pattern@Pattern", c.pattern);
+        Tally("M/E-1@Key1@Type@Key Invert", "false");
+        Pass();
+        EXPECT_EQ(Count(picture, LIT), 94 * 45) << c.type;
+    }
+    for (const char* number : {"0", "-1", "4000", "99999999999999999999", "x", ""})
+        EXPECT_EQ(st_pattern(number), nullptr) << number;
+    EXPECT_EQ(st_pattern("3999"), G_WipePtn[3999]);
+    EXPECT_TRUE(st_pattern("1"));
+}
+
+TEST_F(StatusCells, AnEdgeHasThePictureOfItsTypeAndSoftness)
+{
+    static const struct {
+        const char* type;
+        const char* modifier;
+        SDL_Surface** picture;
+    } cases[] = {
+        {"Normal", "None", &G_Edge_Normal},
+        {"Border", "None", &G_Edge_Border},
+        {"Drop Border", "Soft Edge", &G_Edge_Drop_border_soft},
+        {"Shadow", "None", &G_Edge_Shadow},
+        {"Outline", "None", &G_Edge_Outline},
+        {"Emboss", "Soft Edge", &G_Edge_Emboss_soft},
+        {"Border", "Separate Edge", &G_Edge_Separate},
+        {"Normal", "Separate Edge", &G_Edge_Normal}, // no edge to separate
+        {"Border", "Fine Key", &G_Edge_Fine},
+    };
+    for (const auto& c : cases) {
+        Open(st_me_key);
+        Tally("M/E-1@Key1@Edge@Edge Type", c.type);
+        Tally((std::string("M/E-1@Key1@Edge@") + c.modifier).c_str(), "true");
+        Pass();
+        const auto* row =
+            static_cast<const uint8_t*>(Screen->pixels) + (75 + 20 + 24) * Screen->pitch;
+        const auto* expected =
+            static_cast<const uint8_t*>((*c.picture)->pixels) + 24 * (*c.picture)->pitch;
+        EXPECT_EQ(memcmp(row + 220 * 4, expected, 60 * 4), 0) << c.type << " " << c.modifier;
+    }
+}
+
+TEST_F(StatusCells, TheCrossHairStandsWhereTheWipeDoes)
+{
+    static const struct {
+        const char *h, *v;
+        int px, py; // from the corner of the cell
+    } cases[] = {
+        {"0", "0", 50, 44},
+        {"-200", "-200", 26, 62},
+        {"200", "200", 74, 26},
+        {"100", "-100", 62, 53},
+        {"1", "1", 50, 43},
+        {"300", "0", 86, 44},                    // outside the frame
+        {"99999999999", "-99999999999", -1, -1}, // nowhere, and no fault
+    };
+    SetTree({"M/E-1", "Wipe"}, 0x11520000);
+    for (const auto& c : cases) {
+        Open(st_me_wipe);
+        Tally("M/E-1@Wipe@Main Pattern@Position@H", c.h);
+        Tally("M/E-1@Wipe@Main Pattern@Position@V", c.v);
+        Pass();
+        if (c.px < 0)
+            continue;
+        EXPECT_EQ(Count({200 + c.px, 75 + 27, 200 + c.px, 75 + 61}, WHITE), 35) << c.h;
+        EXPECT_EQ(Count({200 + 27, 75 + c.py, 200 + 73, 75 + c.py}, WHITE), 47) << c.v;
+        EXPECT_EQ(PixelAt(200 + c.px + 1, 75 + c.py + 1), WHITE) << "the dot";
+    }
+    Tally("M/E-1@Wipe@Main Pattern@Position", "false");
+    Pass();
+    EXPECT_EQ(Count({203, 75 + 26, 296, 75 + 62}, WHITE), 0) << "veiled";
+}
+
+TEST_F(StatusCells, TheDirectionIsOneOfTwoOrUntold)
+{
+    constexpr Rect first_line = {407, 95, 492, 109};
+    SetTree({"M/E-1", "Wipe"}, 0x11520000);
+    static const struct {
+        const char *normal, *reverse;
+        bool told;
+    } cases[] = {{"true", "false", true},
+                 {"false", "true", true},
+                 {"true", "true", false},
+                 {"false", "false", false}};
+    for (const auto& c : cases) {
+        ST_TBL rows[] = {CellAt(3, 0, st_me_wipe[4]), ST_END};
+        Open(rows);
+        Tally("M/E-1@Wipe@Direction@Normal", c.normal);
+        Tally("M/E-1@Wipe@Direction@Reverse", c.reverse);
+        Pass();
+        EXPECT_EQ(Count(first_line, WHITE) > 0, c.told) << c.normal << c.reverse;
+    }
+}
+
+// The server drops the old kind before it raises the new one.
+TEST_F(StatusCells, ATransitionKeepsItsPictureWhileTheKindChanges)
+{
+    constexpr Rect box = {126, 101, 173, 136};
+    SetTree({"M/E-1", "Misc"}, 0x11710000);
+    Open(st_me_misc);
+    Tally("M/E-1@Misc@Transition@Mix", "true");
+    Pass();
+    const int white = Count(box, WHITE);
+    EXPECT_GT(white, 0);
+    Tally("M/E-1@Misc@Transition@Mix", "false");
+    Pass();
+    EXPECT_EQ(Count(box, WHITE), white);
+    Open(st_me_misc);
+    Tally("M/E-1@Misc@Transition@Mix", "false");
+    Pass();
+    EXPECT_EQ(Count(box, WHITE), 0) << "a page begins without";
+}
+
+TEST_F(StatusCells, ACentreTextIsSplitOrStandsOnOneLine)
+{
+    static const struct {
+        const char* text;
+        int first_width; // of the upper line; 0: one line
+    } cases[] = {
+        {"Twelve chars", 0},
+        {"Key Wipe Pattern", int(TDL_GetSymbolWidth("Key", 3))},
+        {"Preset Color Mix", int(TDL_GetSymbolWidth("Preset", 3))},
+        {"Abcdefgh ijklm", int(TDL_GetSymbolWidth("Abcd", 3))}, // its blank comes too late
+        {"Abcdefghijklmn", int(TDL_GetSymbolWidth("Abcd", 3))},
+    };
+    ST_MEM cell;
+    cell.x1 = 100, cell.y1 = 75, cell.x2 = 199, cell.y2 = 164;
+    for (const auto& c : cases) {
+        TDL_FillRectS(100, 75, 199, 164, 0);
+        st_drw_center_image_square(&cell, c.text, 0);
+        int left = 200, right = 0;
+        for (int x = 104; x <= 195; x++)
+            for (int y = 75 + 33; y < 75 + 33 + 9; y++)
+                if (x != 126 && x != 173 && PixelAt(x, y)) {
+                    left = std::min(left, x);
+                    right = std::max(right, x);
+                }
+        const int width = right - left + 1;
+        if (c.first_width)
+            EXPECT_NEAR(width, c.first_width, 3) << c.text;
+        else
+            EXPECT_GT(width, 60) << c.text;
+    }
+}
