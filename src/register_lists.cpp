@@ -46,18 +46,20 @@ constexpr int BOUND_LONG = LINE_SIZE;
 
 // The words of a table up to its empty last one.
 template <size_t N>
-static constexpr RegisterList Regions(RegisterList row, const std::array<RegisterWord, N>& words)
+static constexpr RegisterList Regions(const std::array<RegisterWord, N>& words, RegisterList row)
 {
     row.words = words.data();
     row.known = int(N) - (words[N - 1].length == 0);
     row.subscribed = row.known;
     row.head_length = Word(row.head).length;
+    if (!row.digest)
+        row.digest = register_tly;
     return row;
 }
 
 static constexpr RegisterList Single(RegisterList row)
 {
-    row = Regions(row, one_list);
+    row = Regions(one_list, row);
     row.known = row.subscribed = 1;
     return row;
 }
@@ -66,7 +68,7 @@ static constexpr RegisterList Single(RegisterList row)
 // behind them. That is meant: keep it.
 static constexpr RegisterList Clips(RegisterList row)
 {
-    row = Regions(row, clip_words);
+    row = Regions(clip_words, row);
     row.known = int(ClipEventCmd.size());
     row.subscribed = int(ClipEventSubREG.size());
     return row;
@@ -75,24 +77,32 @@ static constexpr RegisterList Clips(RegisterList row)
 // In the order in which they are subscribed.
 // clang-format off
 static constexpr RegisterList lists[] = {
-    Regions({.kind = REGISTER_EFFECT, .head = "Effect@Effect@Attribute@List@",
-             .fields = 6, .status = 1, .lock = 3, .name = 2, .digest = effect_tly}, effect_words),
-    Single ({.kind = REGISTER_EFFECT, .head = "Effect@Master Timeline@Store/Recall@List", .first_row = EFF_REGION_MASTER,
-             .fields = 47, .status = 2, .lock = 3, .name = 1, .bound = BOUND_LONG, .digest = register_tly}),
-    Regions({.kind = REGISTER_SNAPSHOT, .head = "Snapshot@Snapshot@Attribute@", .tail = "@List",
-             .fields = 7, .status = 2, .lock = 2, .name = 1, .bound = BOUND_SNAPSHOT, .digest = register_tly}, snapshot_words),
-    Single ({.kind = REGISTER_SNAPSHOT, .head = "Snapshot@Master Snapshot@Store/Recall@List", .first_row = SS_REGION_MASTER,
-             .fields = 34, .status = 2, .lock = 3, .name = 1, .bound = BOUND_LONG, .digest = register_tly}),
-    Regions({.kind = REGISTER_WIPESS, .head = "Snapshot@Wipe Snapshot@", .tail = "@List",
-             .fields = 3, .status = 2, .lock = 2, .name = 1, .max_number = REGISTERS_WIPESS, .digest = register_tly}, side_words),
-    Regions({.kind = REGISTER_DMESS, .head = "Snapshot@DME Snapshot@", .tail = "@List",
-             .fields = 3, .status = 2, .lock = 2, .name = 1, .max_number = REGISTERS_WIPESS, .digest = register_tly}, side_words),
-    Regions({.kind = REGISTER_KEYSS, .head = "Snapshot@Key Snapshot@Attribute@", .tail = "@List",
-             .fields = 3, .status = 2, .lock = 2, .name = 1, .max_number = REGISTERS_KEYSS, .digest = register_tly}, key_words),
+    Regions(effect_words,
+            {.kind = REGISTER_EFFECT, .head = "Effect@Effect@Attribute@List@",
+             .fields = 6, .status = 1, .lock = 3, .name = 2, .digest = effect_tly}),
+    Single ({.kind = REGISTER_EFFECT, .head = "Effect@Master Timeline@Store/Recall@List",
+             .first_row = EFF_REGION_MASTER,
+             .fields = 47, .status = 2, .lock = 3, .name = 1, .bound = BOUND_LONG}),
+    Regions(snapshot_words,
+            {.kind = REGISTER_SNAPSHOT, .head = "Snapshot@Snapshot@Attribute@", .tail = "@List",
+             .fields = 7, .status = 2, .lock = 2, .name = 1, .bound = BOUND_SNAPSHOT}),
+    Single ({.kind = REGISTER_SNAPSHOT, .head = "Snapshot@Master Snapshot@Store/Recall@List",
+             .first_row = SS_REGION_MASTER,
+             .fields = 34, .status = 2, .lock = 3, .name = 1, .bound = BOUND_LONG}),
+    Regions(side_words,
+            {.kind = REGISTER_WIPESS, .head = "Snapshot@Wipe Snapshot@", .tail = "@List",
+             .fields = 3, .status = 2, .lock = 2, .name = 1, .max_number = REGISTERS_WIPESS}),
+    Regions(side_words,
+            {.kind = REGISTER_DMESS, .head = "Snapshot@DME Snapshot@", .tail = "@List",
+             .fields = 3, .status = 2, .lock = 2, .name = 1, .max_number = REGISTERS_WIPESS}),
+    Regions(key_words,
+            {.kind = REGISTER_KEYSS, .head = "Snapshot@Key Snapshot@Attribute@", .tail = "@List",
+             .fields = 3, .status = 2, .lock = 2, .name = 1, .max_number = REGISTERS_KEYSS}),
     Single ({.kind = REGISTER_SHOTBOX, .head = "Shotbox@Register@Store/Recall@List",
-             .fields = LINE_FIELDS, .lock = 2, .name = 1, .first_data = 4, .bound = BOUND_LONG, .digest = register_tly}),
+             .fields = LINE_FIELDS, .lock = 2, .name = 1, .first_data = 4, .bound = BOUND_LONG}),
     Single ({.kind = REGISTER_MACRO, .head = "Macro@Register@List",
-             .fields = 4, .status = 1, .lock = 3, .name = 2, .bound = BOUND_LONG, .max_number = REGISTERS_MACRO, .digest = register_tly}),
+             .fields = 4, .status = 1, .lock = 3, .name = 2, .bound = BOUND_LONG,
+             .max_number = REGISTERS_MACRO}),
     Clips  ({.kind = REGISTER_CLIP_EVENT, .head = "Snapshot@Snapshot@Clip Event@", .tail = "@List",
              .fields = 8, .digest = clipevnt_tly}),
 };
@@ -102,7 +112,7 @@ static constexpr bool ListsAreSound()
 {
     for (const RegisterList& list : lists)
         if (list.fields > LINE_FIELDS || list.bound > LINE_SIZE || list.status >= list.fields ||
-            list.lock >= list.fields || list.name >= list.fields || !list.digest)
+            list.lock >= list.fields || list.name >= list.fields)
             return false;
     return true;
 }
