@@ -123,7 +123,11 @@ TEST_F(InitialReadTest, AStageAndItsOppositeCancel)
     } stages[] = {
         {InitialCommand0, DeathCommand0, "put Info@Status Report#false",
          "put Info@Initial Read Status#false"},
-        {InitialCommand1, DeathCommand1, nullptr, nullptr},
+        {[] { // the lists of the sub sides come later, but end here
+             InitialCommand1();
+             InitialCommand_MP2();
+         },
+         DeathCommand1, nullptr, nullptr},
         {InitialCommand2, DeathCommand2, nullptr, "put Info@Self Diagnosis Notice@DME4#false"},
     };
     for (const auto& stage : stages) {
