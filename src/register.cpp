@@ -50,15 +50,13 @@ void register_tell(int kind, int row, int index, int extra)
         SendMessage(LMSG_REGISTER, kind, row, index, extra);
 }
 
-// The new copy is made before the old one goes: the line may be the mirror's own, played back.
 static void register_set(REGISTER& r, const RegisterHeadline& headline, const char* line)
 {
-    char* copy = GDL_StrDup(line);
     r.exist = headline.exist;
     r.lock = headline.lock;
     CopyText(r.name, headline.name);
     GDL_Free(r.tally);
-    r.tally = copy;
+    r.tally = GDL_StrDup(line);
 }
 
 // A line says all that is kept of a register, so an equal line changes nothing.
