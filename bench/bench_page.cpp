@@ -51,7 +51,7 @@ static void IdlePass()
 
 static constexpr BenchCase cases[] = {
     {.name = "page change, top menu of 27 keys", .once = OpenTopMenu, .limit_copies = 8.0},
-    {.name = "page change, key page of 22 buttons", .once = OpenKeyPage, .limit_copies = 8.0},
+    {.name = "page change, key page with its tabs", .once = OpenKeyPage, .limit_copies = 8.0},
     {.name = "one button repainted", .once = RepaintButton, .limit_copies = 0.25},
     {.name = "a pass without a change", .once = IdlePass, .limit_copies = 0.05},
 };

@@ -1,12 +1,32 @@
-// a_dw: the list of effects-unit wipes with its scroll bar.
+// a_dw: the list of effects-unit wipes: one group of patterns below the other, with a scroll bar.
+// The window moves by lines of six cells; which cell is chosen is a matter of the tally.
 #pragma once
+#include "a_nb.h"
 #include "types.h"
 
-struct DW_TBL;
+constexpr int DW_GROUPS = 18; // of one list
 
-// A null table empties the object and returns 1.
-int DW_Create(const DW_TBL* table, uint32_t var);
+struct DMEWIPEPTN {
+    int num = 0; // pattern number; 0 ends a group
+    const NB_TBL* nb = nullptr;
+};
+struct DMEWIPEGRP {
+    int id = 0;
+    const char* caption = "";
+    const DMEWIPEPTN* ptn = nullptr;
+    // Each keyer has patterns of its own here: the numbers are those of Key1 in P/P, and move with
+    // key and bank.
+    bool is_per_key = false;
+};
+struct DW_TBL {
+    const char* cmd = "";
+    int grpid[DW_GROUPS] = {}; // in the order shown; 0 is a group that this list leaves out
+};
+
+// Has the scroll bar 0 from here on. knob_row: non-zero when a row of keys stands below the list. A
+// null table empties the object and returns 1.
+int DW_Create(const DW_TBL* table, uint32_t knob_row);
 int DW_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
-// Turn a wheel step at (x, y) into a press on the up or down control under it. Non-zero when x and y were rewritten;
-// button is 4 or 5.
+// Turn a wheel step at (x, y) into a press on the up or down control under it. Non-zero when x and
+// y were rewritten; button is 4 or 5.
 int DW_ConvPosForWheel(int* x, int* y, int button);

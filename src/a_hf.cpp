@@ -1,14 +1,187 @@
 #include "a_hf.h"
+#include "a_ba.h"
+#include "global.h"
+#include "graphics.h"
+#include "log.h"
+#include "message.h"
+#include "tab_status.h"
+#include "tdl.h"
+#include <algorithm>
+#include <span>
 #include "safeguards.h"
 
-// No page brings a table of this kind yet: the object stays empty and lets every message pass.
-
-int HF_Create(const HF_TBL*, uint32_t)
+namespace
 {
-    return 1;
+constexpr int MIN_X = 97;
+constexpr int PITCH = 86;
+constexpr int BOTTOM = SCREEN_H - 1;
+
+// What the two forms differ in; asked for at run time, since the bitmaps are loaded by then.
+struct Form {
+    int y;
+    SDL_Surface* on;
+    SDL_Surface* off;
+    SDL_Surface* blank;
+};
+
+struct HF_MEM {
+    int id = 0;
+    const char* caption = nullptr;
+    uint32_t page = 0;
+    TabStatus stat[HF_STATUS];
+    int stats = 0; // in use
+    int redraw = 0;
+    int display = 0;
+};
+} // namespace
+
+static HF_MEM Tab[HF_MAX];
+static int TabMax = 0;
+static int Selected = 0;
+static bool IsLow = false;
+
+static std::span<HF_MEM> tabs()
+{
+    return {Tab, size_t(TabMax)};
 }
 
-int HF_Proc(int, MsgArg, MsgArg, MsgArg, MsgArg)
+static HF_MEM* find_tab(int id)
 {
+    for (HF_MEM& t : tabs())
+        if (t.id == id)
+            return &t;
+    return nullptr;
+}
+
+static std::span<TabStatus> stats(HF_MEM& t)
+{
+    return {t.stat, size_t(t.stats)};
+}
+
+static Form form()
+{
+    if (IsLow)
+        return {556, G_HFS_on, G_HFS_off, G_HFS_blank};
+    return {531, G_HF_on, G_HF_off, G_HF_blank};
+}
+
+static void send_paths(const char* verb)
+{
+    static_assert(HF_MAX * HF_STATUS <= TAB_PATHS);
+    TabPaths paths;
+    for (HF_MEM& t : tabs())
+        for (const TabStatus& s : stats(t))
+            TabStatus_Send(paths, s, verb);
+}
+
+static void fill_tab(HF_MEM& t, const HF_TBL& row)
+{
+    t.id = row.id;
+    t.caption = row.caption;
+    t.page = row.page;
+    t.redraw = t.display = 1;
+    t.stats = 0;
+    for (const char* statcmd : row.statcmd)
+        if (TabStatus_Set(t.stat[t.stats], statcmd))
+            t.stats++;
+}
+
+int HF_Create(const HF_TBL* table, uint32_t selected)
+{
+    send_paths("remove");
+    TabMax = 0;
+    if (!table)
+        return 1;
+    IsLow = (selected & HF_LOW) != 0;
+    Selected = int(selected & ~HF_LOW);
+    for (const HF_TBL* row = table; row->id >= 1; row++) {
+        if (TabMax == HF_MAX) {
+            Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for HF Objects!!\n");
+            break;
+        }
+        fill_tab(Tab[TabMax++], *row);
+    }
+    send_paths("add");
     return 0;
+}
+
+int HF_SetDisplay(int id, int on)
+{
+    HF_MEM* t = find_tab(id);
+    if (!t)
+        return -1;
+    t->display = on != 0;
+    t->redraw = 1;
+    return 0;
+}
+
+static int press(int x, int y)
+{
+    const Rect area = {MIN_X, form().y, MIN_X + HF_MAX * PITCH - 1, BOTTOM};
+    if (!Inside(area, x, y) || BA_IsDefaultButton())
+        return 0;
+    const HF_MEM* t = find_tab((x - MIN_X) / PITCH + 1);
+    if (t && t->display && t->page)
+        GL_CreatePage = t->page;
+    return 0;
+}
+
+// --- Tally and picture ---
+
+static bool is_active(HF_MEM& t)
+{
+    const auto all = stats(t);
+    return std::any_of(all.begin(), all.end(), [](const TabStatus& s) { return s.status; });
+}
+
+static int tally(const char* path, const char* value, uint32_t hash)
+{
+    for (HF_MEM& t : tabs())
+        for (TabStatus& s : stats(t)) // a path may stand there several times
+            if (TabStatus_Tally(s, path, value, hash))
+                t.redraw = 1;
+    return 0;
+}
+
+static void draw_bar(int x)
+{
+    constexpr int BAR_W = 70;
+    TDL_LineHS(x, 584, BAR_W, 0xE48B1B);
+    TDL_LineHS(x, 585, BAR_W, 0xC86E05);
+    TDL_LineHS(x, 586, BAR_W, 0xE48B1B);
+}
+
+static void draw(HF_MEM& t)
+{
+    t.redraw = 0;
+    if (t.id > HF_MAX)
+        return;
+    const Form f = form();
+    const int x = MIN_X + PITCH * (t.id - 1);
+    const bool is_on = t.id == Selected;
+    TDL_PutS(x + 1, f.y, !t.display ? f.blank : is_on ? f.on : f.off);
+    if (t.display) {
+        TDL_SymbolS(x + 8, f.y + 8, t.caption, 4, is_on ? 0x000000 : 0xFFFFFF);
+        if (is_active(t))
+            draw_bar(x + 8);
+    }
+    TDL_UpdateRect(x, f.y, x + 85, BOTTOM);
+}
+
+static int redraw()
+{
+    for (HF_MEM& t : tabs())
+        if (t.redraw)
+            draw(t);
+    return 0;
+}
+
+int HF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+{
+    switch (msg) {
+    case MSG_REDRAW: return redraw();
+    case MSG_PRESS: return press(int(ax), int(bx));
+    case MSG_TALLY: return tally(Text(ax), Text(bx), uint32_t(cx));
+    default: return 0;
+    }
 }

@@ -1,19 +1,390 @@
 #include "a_kp.h"
+#include "a_ba.h"
+#include "command.h"
+#include "global.h"
+#include "graphics.h"
+#include "log.h"
+#include "message.h"
+#include "netio.h"
+#include "scroll_window.h"
+#include "scrollbar.h"
+#include "tally_value.h"
+#include "tdl.h"
+#include "window.h"
+#include <algorithm>
+#include <iterator>
+#include <span>
 #include "safeguards.h"
 
-// No page brings a table of this kind yet: the object stays empty and lets every message pass.
-
-int KP_Create(const KP_TBL*, uint32_t)
+namespace
 {
-    return 1;
+constexpr int LEFT = 104;
+constexpr int HEAD_TOP = 82;
+constexpr int HEAD_H = 22;
+constexpr int TOP = HEAD_TOP + HEAD_H;
+constexpr int ROW_H = 40;
+constexpr int ROWS_SHOWN = 10;
+constexpr int BOTTOM = TOP + ROWS_SHOWN * ROW_H - 1;
+constexpr int CAPTION_RIGHT = 262;
+constexpr int MARK_X = CAPTION_RIGHT - 26; // of a row that leads to a page
+constexpr int BAR_X = 654;
+constexpr int RIGHT = BAR_X - 2;
+constexpr int CELL_W = 60;
+constexpr int PUSHED_MS = 150;
+constexpr Rect AREA = {LEFT, HEAD_TOP, RIGHT, BOTTOM};
+
+enum : int { XPT, HUE, CURVE, CELLS };
+enum : int { TENS, CONT, BIAS, SPLINES };
+enum : int { NOT_KNOWN = -1, IS_MIXED = -2 }; // other than the index of a choice
+
+struct CellColumn {
+    const char* caption;
+    const char* path; // behind the row's own
+    int x;
+    int window_x; // where the window of the column opens
+};
+struct SplineColumn {
+    const char* caption;
+    const char* path;
+    int x;
+};
+
+struct KP_MEM {
+    const char* caption = nullptr;
+    bool has[CELLS] = {};
+    int type[CELLS] = {};    // PATHSEL_ of the cell's window
+    char cmd[CMD_SIZE] = {}; // "" for a row that is only a heading
+    uint32_t jump = 0;
+    int value[CELLS] = {};
+    double spline[SPLINES] = {};
+    int redraw = 0;
+    int pushed = 0; // ms for which the caption still looks pushed
+};
+} // namespace
+
+static constexpr CellColumn cell_columns[CELLS] = {
+    {"Xpt", "Xpt", 270, 160},
+    {"Hue", "Hue", 360, 250},
+    {"Curve", "Curve", 450, 340},
+};
+static constexpr SplineColumn spline_columns[SPLINES] = {
+    {"Tens", "Curve@Spline@Tens", 516},
+    {"Cont", "Curve@Spline@Cont", 561},
+    {"Bias", "Curve@Spline@Bias", 606},
+};
+
+#define CHOICE(word, stem)                                                                         \
+    {                                                                                              \
+        word, &G_PATH_##stem, &G_PATHSEL_##stem##_off, &G_PATHSEL_##stem##_on                      \
+    }
+static const KP_CHOICE xpt_choices[] = {
+    CHOICE("Hold", xpt_hold),
+    CHOICE("Change", xpt_change),
+};
+static const KP_CHOICE hue_choices[] = {
+    CHOICE("Short", hue_short),
+    CHOICE("Long", hue_long),
+    CHOICE("CW", hue_cw),
+    CHOICE("CCW", hue_ccw),
+};
+// Each curve type has one less than the type before, from the end.
+static const KP_CHOICE curve_choices[] = {
+    CHOICE("Off", curve_off),   CHOICE("Step", curve_step),     CHOICE("Linear", curve_linear),
+    CHOICE("S-Curve", curve_s), CHOICE("Spline", curve_spline),
+};
+#undef CHOICE
+static constexpr int CURVE_SPLINE = int(std::size(curve_choices)) - 1;
+
+static KP_MEM Row[KP_MAX];
+static ScrollWindow Window; // its total is how many rows there are
+static bool RedrawAll = false;
+static int AskedRow = -1; // whose cell the open window is for
+static int AskedCell = 0;
+
+static std::span<KP_MEM> rows()
+{
+    return {Row, size_t(Window.total)};
 }
 
-int KP_Proc(int, MsgArg, MsgArg, MsgArg, MsgArg)
+const KP_CHOICE* KP_Choices(int path_type, int* count)
 {
+    *count = 0;
+    if (path_type == PATHSEL_XPT) {
+        *count = int(std::size(xpt_choices));
+        return xpt_choices;
+    }
+    if (path_type == PATHSEL_HUE) {
+        *count = int(std::size(hue_choices));
+        return hue_choices;
+    }
+    if (path_type < PATHSEL_CURVE0 || path_type > PATHSEL_CURVE3)
+        return nullptr;
+    *count = int(std::size(curve_choices)) - (path_type - PATHSEL_CURVE0);
+    return curve_choices;
+}
+
+// --- Opening and closing ---
+
+static void send_paths(const char* verb)
+{
+    for (const KP_MEM& r : rows()) {
+        if (!r.cmd[0] || IsLocal(r.cmd))
+            continue;
+        for (const CellColumn& c : cell_columns)
+            Net_SendCommandFormat("%s %s%s", verb, r.cmd, c.path);
+        for (const SplineColumn& c : spline_columns)
+            Net_SendCommandFormat("%s %s%s", verb, r.cmd, c.path);
+    }
+}
+
+static void fill_row(KP_MEM& r, const KP_TBL& from)
+{
+    r.caption = from.caption;
+    r.has[XPT] = from.isxpt != 0;
+    r.has[HUE] = from.ishue != 0;
+    r.has[CURVE] = from.iscurve != 0;
+    r.type[XPT] = PATHSEL_XPT;
+    r.type[HUE] = PATHSEL_HUE;
+    r.type[CURVE] = PATHSEL_CURVE0 + std::clamp(from.curvetype, 0, 3);
+    DecodeCommand(r.cmd, from.cmd, CMD_SIZE);
+    r.jump = from.jump;
+    std::fill(std::begin(r.value), std::end(r.value), int(NOT_KNOWN));
+    std::fill(std::begin(r.spline), std::end(r.spline), 0.0);
+    r.redraw = r.pushed = 0;
+}
+
+int KP_Create(const KP_TBL* table, uint32_t)
+{
+    send_paths("remove");
+    if (Window.shown)
+        CloseScrollBar(0);
+    Window = {};
+    AskedRow = -1;
+    RedrawAll = false;
+    if (!table)
+        return 1;
+    for (const KP_TBL* from = table; from->caption; from++) {
+        if (Window.total == KP_MAX) {
+            Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for KP Objects!!\n");
+            break;
+        }
+        fill_row(Row[Window.total++], *from);
+    }
+    Window.shown = ROWS_SHOWN;
+    RedrawAll = true;
+    ScrollWindow_Open(Window, BAR_X, HEAD_TOP, BOTTOM - HEAD_TOP + 1);
+    send_paths("add");
     return 0;
 }
 
-int KP_ConvPosForWheel(int*, int*, int)
+// --- Press ---
+
+static void send_choice(const KP_MEM& r, int cell, int choice)
 {
+    int count;
+    const KP_CHOICE* choices = KP_Choices(r.type[cell], &count);
+    if (choice >= 0 && choice < count)
+        Net_SendCommandFormat("put %s%s#%s", r.cmd, cell_columns[cell].path, choices[choice].word);
+}
+
+// Where no window can be opened the press takes the next word.
+static void step(const KP_MEM& r, int cell)
+{
+    int count;
+    (void)KP_Choices(r.type[cell], &count);
+    send_choice(r, cell, r.value[cell] < 0 ? 0 : (r.value[cell] + 1) % count);
+}
+
+static void press_cell(int n, int cell, int y)
+{
+    const KP_MEM& r = Row[n];
+    const char* caption = cell_columns[cell].caption;
+    const WindowArgs args = {.x = cell_columns[cell].window_x,
+                             .y = y,
+                             .selected = r.value[cell],
+                             .path_type = r.type[cell]};
+    AskedRow = n;
+    AskedCell = cell;
+    if (CreateWindow(WINDOW_PATH, caption, args) == 0)
+        return;
+    AskedRow = -1;
+    step(r, cell);
+}
+
+static int press(int x, int y)
+{
+    if (!Inside({LEFT, TOP, RIGHT, BOTTOM}, x, y) || BA_IsDefaultButton())
+        return 0;
+    const int n = Window.top + (y - TOP) / ROW_H;
+    if (n >= Window.total)
+        return 0;
+    KP_MEM& r = Row[n];
+    if (x <= CAPTION_RIGHT && r.jump) {
+        r.pushed = PUSHED_MS;
+        r.redraw = 1;
+        GL_CreatePage = r.jump;
+    }
+    for (int cell = 0; cell < CELLS; cell++) {
+        const int left = cell_columns[cell].x;
+        if (x >= left && x < left + CELL_W && r.has[cell] && r.cmd[0])
+            press_cell(n, cell, TOP + (n - Window.top) * ROW_H);
+    }
     return 0;
+}
+
+static int chosen(int path_type, int choice)
+{
+    const int n = AskedRow;
+    AskedRow = -1;
+    if (n >= 0 && n < Window.total && Row[n].type[AskedCell] == path_type)
+        send_choice(Row[n], AskedCell, choice);
+    return 0;
+}
+
+// --- Tally ---
+
+// "Mixed" is the tally of a row that stands for several whose paths differ.
+static int choice_of(int path_type, const char* value)
+{
+    int count;
+    const KP_CHOICE* choices = KP_Choices(path_type, &count);
+    for (int i = 0; i < count; i++)
+        if (Same(choices[i].word, value))
+            return i;
+    return Same(value, "Mixed") ? IS_MIXED : NOT_KNOWN;
+}
+
+template <typename T> static void take(KP_MEM& r, T& old, T value)
+{
+    if (old == value)
+        return;
+    old = value;
+    r.redraw = 1;
+}
+
+static void tally_row(KP_MEM& r, const char* rest, const char* value)
+{
+    for (int cell = 0; cell < CELLS; cell++)
+        if (Same(cell_columns[cell].path, rest))
+            take(r, r.value[cell], choice_of(r.type[cell], value));
+    for (int i = 0; i < SPLINES; i++)
+        if (Same(spline_columns[i].path, rest))
+            take(r, r.spline[i], strtod(value, nullptr));
+}
+
+static int tally(const char* path, const char* value)
+{
+    for (KP_MEM& r : rows())
+        if (r.cmd[0] && BeginsWith(path, r.cmd))
+            tally_row(r, path + strlen(r.cmd), value);
+    return 0;
+}
+
+static int scroll(int kind, int bar, int step_or_line)
+{
+    if (Window.shown && ScrollWindow_Move(Window, kind, bar, step_or_line))
+        RedrawAll = true;
+    return 0;
+}
+
+// --- Picture ---
+
+static SDL_Surface* picture(const KP_MEM& r, int cell)
+{
+    int count;
+    const KP_CHOICE* choices = KP_Choices(r.type[cell], &count);
+    const int value = r.value[cell];
+    return value >= 0 ? *choices[value].cell : value == IS_MIXED ? G_PATH_mixed : G_PATH_none;
+}
+
+static void draw_splines(const KP_MEM& r, int y)
+{
+    for (int i = 0; i < SPLINES; i++) {
+        char text[32];
+        PrintText(text, "%.2f", r.spline[i]);
+        TDL_SymbolWS(spline_columns[i].x, y + 13, 44, text, 3, 0xFFFFFF);
+    }
+}
+
+static void draw_row(int n)
+{
+    KP_MEM& r = Row[n];
+    const int y = TOP + (n - Window.top) * ROW_H;
+    r.redraw = 0;
+    TDL_FillRectS(LEFT, y, RIGHT, y + ROW_H - 1, 0x000000);
+    TDL_LineHS(LEFT, y + ROW_H - 1, RIGHT - LEFT + 1, 0x3C3C3C);
+    if (r.pushed > 0)
+        TDL_FillRectS(LEFT, y, MARK_X - 1, y + ROW_H - 2, 0x003241);
+    TDL_SymbolWS(LEFT + 4, y + 13, MARK_X - LEFT - 4, r.caption, 3, 0xFFFFFF);
+    if (r.jump)
+        TDL_PutS(MARK_X, y + 8, G_path_right);
+    for (int cell = 0; cell < CELLS; cell++)
+        if (r.has[cell])
+            TDL_PutS(cell_columns[cell].x, y + 2, picture(r, cell));
+    if (r.has[CURVE] && r.value[CURVE] == CURVE_SPLINE)
+        draw_splines(r, y);
+}
+
+static void draw_head()
+{
+    constexpr unsigned TITLE = 0xB4FFC8;
+    TDL_FillRectS(LEFT, HEAD_TOP, RIGHT, HEAD_TOP + HEAD_H - 1, 0x003241);
+    TDL_SymbolS(LEFT + 4, HEAD_TOP + 5, "Path", 3, TITLE);
+    for (const CellColumn& c : cell_columns)
+        TDL_SymbolS(c.x + 4, HEAD_TOP + 5, c.caption, 3, TITLE);
+    for (const SplineColumn& c : spline_columns)
+        TDL_SymbolS(c.x, HEAD_TOP + 5, c.caption, 3, TITLE);
+}
+
+static void draw_all()
+{
+    RedrawAll = false;
+    draw_head();
+    TDL_FillRectS(LEFT, TOP, RIGHT, BOTTOM, 0x000000);
+    for (int n = Window.top; n < Window.total && n < Window.top + Window.shown; n++)
+        draw_row(n);
+    TDL_UpdateRect(AREA.x1, AREA.y1, AREA.x2, AREA.y2);
+}
+
+static void let_go(int elapsed_ms)
+{
+    for (KP_MEM& r : rows()) {
+        if (r.pushed <= 0)
+            continue;
+        r.pushed -= elapsed_ms;
+        if (r.pushed <= 0)
+            r.redraw = 1;
+    }
+}
+
+static int redraw(int elapsed_ms)
+{
+    let_go(elapsed_ms);
+    if (RedrawAll)
+        draw_all();
+    for (int n = Window.top; n < Window.total && n < Window.top + Window.shown; n++) {
+        if (!Row[n].redraw)
+            continue;
+        draw_row(n);
+        const int y = TOP + (n - Window.top) * ROW_H;
+        TDL_UpdateRect(LEFT, y, RIGHT, y + ROW_H - 1);
+    }
+    return 0;
+}
+
+int KP_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+{
+    switch (msg) {
+    case MSG_REDRAW: return redraw(int(ax));
+    case MSG_PRESS: return press(int(ax), int(bx));
+    case MSG_TALLY: return tally(Text(ax), Text(bx));
+    case LMSG_PATHSELSEL: return chosen(int(ax), int(bx));
+    case LMSG_SBSEL: return scroll(int(ax), int(bx), int(cx));
+    default: return 0;
+    }
+}
+
+int KP_ConvPosForWheel(int* x, int* y, int button)
+{
+    return Window.shown ? ScrollWindow_ConvPosForWheel(AREA, x, y, button) : 0;
 }

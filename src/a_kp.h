@@ -1,11 +1,36 @@
-// a_kp: the list of keyframe paths.
+// a_kp: the list of keyframe paths: how crosspoint, hue and curve of each part of a region move
+// from one keyframe to the next. A cell shows what the tally said; a press on it opens the window
+// that offers the words, and the answer goes out.
 #pragma once
 #include "types.h"
+#include <SDL.h>
 
-struct KP_TBL;
+constexpr int KP_MAX = 64; // rows of one list
 
-// A null table empties the object and returns 1.
+struct KP_TBL {
+    const char* caption = nullptr; // null ends the table
+    int isxpt = 0;                 // which cells the row has
+    int ishue = 0;
+    int iscurve = 0;
+    int curvetype = 0;    // 0..3: how many of the curves there are
+    const char* cmd = ""; // what stands before "Xpt", "Hue", "Curve"
+    uint32_t jump = 0;    // page that the caption opens, 0 none
+};
+constexpr KP_TBL KP_END = {};
+
+// Has the scroll bar 0 from here on. Rows past KP_MAX are left out with a log line. A null table
+// empties the object and returns 1.
 int KP_Create(const KP_TBL* table, uint32_t var);
 int KP_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 // As DW_ConvPosForWheel.
 int KP_ConvPosForWheel(int* x, int* y, int button);
+
+// --- For the path select window: what it offers, in the order of its keys ---
+struct KP_CHOICE {
+    const char* word;      // on the wire
+    SDL_Surface** cell;    // in the list
+    SDL_Surface** key_off; // in the window
+    SDL_Surface** key_on;
+};
+// path_type is one of the PATHSEL_ numbers. Null, and a count of 0, for others.
+const KP_CHOICE* KP_Choices(int path_type, int* count);

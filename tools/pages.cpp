@@ -8,7 +8,9 @@
 #include "a_nb.h"
 #include "command.h"
 #include "page.h"
+#include "page_table/patterns.h"
 #include "text.h"
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -121,6 +123,21 @@ static bool IsTable(const NB_TBL* nb)
     return nb && !SpecialKnobNumber(nb) && nb != NoKnobs();
 }
 
+// A pattern is a number of any layer, and each layer may bring boxes.
+static void AddPatterns(Values* values, const PAGE& page, const PS_TBL& table)
+{
+    std::string value;
+    const int last =
+        std::max_element(std::begin(LayerName), std::end(LayerName),
+                         [](const PTN_LAYER& a, const PTN_LAYER& b) { return a.last < b.last; })
+            ->last;
+    values->emplace(PathOf(page, table.cmd, &value),
+                    Value{"num", "1\t" + std::to_string(last) + "\t0"});
+    AddBoxes(values, page, table.init_nb);
+    for (const PTN_LAYER& layer : LayerName)
+        AddBoxes(values, page, layer.nb);
+}
+
 static Values Collect()
 {
     Values values;
@@ -130,9 +147,12 @@ static Values Collect()
             if (IsTable(b->nb))
                 AddBoxes(&values, *page, b->nb);
         }
-        for (const auto& object : page->obj)
+        for (const auto& object : page->obj) {
             if (object.type == OBJ_NB)
                 AddBoxes(&values, *page, static_cast<const NB_TBL*>(object.addr));
+            if (object.type == OBJ_PS)
+                AddPatterns(&values, *page, *static_cast<const PS_TBL*>(object.addr));
+        }
     }
     return values;
 }

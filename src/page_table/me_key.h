@@ -1,6 +1,7 @@
 // me_key: the pages of one key: what it is cut by, its edge, its two masks. Written for M/E-1, Key1.
 #pragma once
 #include "me_banks.h"
+#include "patterns.h"
 #include "pulldowns.h"
 
 // --- Type ---
@@ -81,10 +82,6 @@ inline constexpr BT_TBL bt_me_key_type[] = {
     Radio ({.id = 52, .caption = "Self",         .group = "Key Source", .cmd = {"~@Key Source#Self"}}),
     Radio ({.id = 53, .caption = "Split",        .group = "Key Source", .cmd = {"~@Key Source#Split"}}),
     Action({.id = 54, .caption = "Store\nKey",   .cmd = {"~@Store Key#*"}}),
-    Jump  ({.id = 2,  .caption = "Edge",         .group = "Page", .cmd = {"#+11120000"}}),
-    Jump  ({.id = 3,  .caption = "Main\nMask",   .group = "Page", .cmd = {"#+11130000"}}),
-    Jump  ({.id = 4,  .caption = "Sub\nMask",    .group = "Page", .cmd = {"#+11140000"}}),
-    Jump  ({.id = 6,  .caption = "Top\nMenu",    .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_type));
@@ -189,10 +186,6 @@ inline constexpr BT_TBL bt_me_key_edge[] = {
     Toggle({.id = 38, .caption = "Fine Key",     .group = "Edge Modify", .cmd = {"~@Fine Key#*"}}),
     Toggle({.id = 49, .caption = "Soft Edge",    .group = "Softness", .cmd = {"~@Soft Edge#*"}, .nb = nb_me_key_edge_soft}),
     Toggle({.id = 50, .caption = "Key Drop",     .group = "Drop", .cmd = {"~@Key Drop#*"}, .nb = nb_me_key_edge_keydrop}),
-    Jump  ({.id = 1,  .caption = "Type",         .group = "Page", .cmd = {"#+11110000"}}),
-    Jump  ({.id = 3,  .caption = "Main\nMask",   .group = "Page", .cmd = {"#+11130000"}}),
-    Jump  ({.id = 4,  .caption = "Sub\nMask",    .group = "Page", .cmd = {"#+11140000"}}),
-    Jump  ({.id = 6,  .caption = "Top\nMenu",    .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_edge));
@@ -225,13 +218,10 @@ inline constexpr BT_TBL bt_me_key_mainmask[] = {
     Radio ({.id = 34, .caption = "Pattern",       .group = "Mask Source", .cmd = {"~@Mask Source#Pattern", "~@Main Mask#false"}, .nb = nb_me_key_mask_pattern}),
     Radio ({.id = 35, .caption = "Utility 1\nBus", .group = "Mask Source", .cmd = {"~@Mask Source#Utility 1", "~@Main Mask#false"}}),
     Radio ({.id = 36, .caption = "Utility 2\nBus", .group = "Mask Source", .cmd = {"~@Mask Source#Utility 2", "~@Main Mask#false"}}),
-    Tab   ({.id = 37, .caption = "Source",        .group = "Mask Source", .cmd = {"LOCAL@Mask Source", "~@Main Mask#false"}}),
+    Jump  ({.id = 37, .caption = "Pattern\nSelect", .group = "Mask Source", .cmd = {"#+11130001", "~@Mask Source#!Pattern"}}),
+    Tab   ({.id = 38, .caption = "Source",        .group = "Mask Source", .cmd = {"LOCAL@Mask Source", "~@Main Mask#false"}}),
     RadioRelease({.id = 49, .caption = "Force\nForegnd", .group = "Force", .cmd = {"~@Force#Foreground", "~@Main Mask#false"}}),
     RadioRelease({.id = 50, .caption = "Force\nBkgd", .group = "Force", .cmd = {"~@Force#Background", "~@Main Mask#false"}}),
-    Jump  ({.id = 1,  .caption = "Type",          .group = "Page", .cmd = {"#+11110000"}}),
-    Jump  ({.id = 2,  .caption = "Edge",          .group = "Page", .cmd = {"#+11120000"}}),
-    Jump  ({.id = 4,  .caption = "Sub\nMask",     .group = "Page", .cmd = {"#+11140000"}}),
-    Jump  ({.id = 6,  .caption = "Top\nMenu",     .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_mainmask));
@@ -243,10 +233,6 @@ inline constexpr BT_TBL bt_me_key_submask[] = {
     Radio ({.id = 34, .caption = "Pattern",       .group = "Mask Source", .cmd = {"~@Mask Source#Pattern", "~@Sub Mask#false"}, .nb = nb_me_key_mask_pattern}),
     RadioRelease({.id = 49, .caption = "Force\nForegnd", .group = "Force", .cmd = {"~@Force#Foreground", "~@Sub Mask#false"}}),
     RadioRelease({.id = 50, .caption = "Force\nBkgd", .group = "Force", .cmd = {"~@Force#Background", "~@Sub Mask#false"}}),
-    Jump  ({.id = 1,  .caption = "Type",          .group = "Page", .cmd = {"#+11110000"}}),
-    Jump  ({.id = 2,  .caption = "Edge",          .group = "Page", .cmd = {"#+11120000"}}),
-    Jump  ({.id = 3,  .caption = "Main\nMask",    .group = "Page", .cmd = {"#+11130000"}}),
-    Jump  ({.id = 6,  .caption = "Top\nMenu",     .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_submask));
@@ -255,19 +241,21 @@ static_assert(ButtonsAreSound(bt_me_key_submask));
 
 inline constexpr MePage me_key_pages[] = {
     {.page = {.id = 0x11110000, .tree = {"M/E-1", "Key1", "Type"},
-              .obj = {Base(base_main), Buttons(bt_me_key_type), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non)}}},
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},
-              .obj = {Base(base_sub, 0x11110000), Buttons(bt_me_key_chroma_adjust)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_chroma_adjust)}}},
     {.page = {.id = 0x11110002, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust"},
-              .obj = {Base(base_sub, 0x11110000), Buttons(bt_me_key_matte_adjust)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_matte_adjust)}}},
     {.page = {.id = 0x11110003, .tree = {"M/E-1", "Key1", "Type", "Signal Select"},
-              .obj = {Base(base_sub, 0x11110000), Buttons(bt_me_key_signal_select)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select)}}},
     {.page = {.id = 0x11120000, .tree = {"M/E-1", "Key1", "Edge"},
-              .obj = {Base(base_main), Buttons(bt_me_key_edge), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 2), Buttons(bt_me_key_edge), Boxes(NB_Non)}}},
     {.page = {.id = 0x11130000, .tree = {"M/E-1", "Key1", "Main Mask"},
-              .obj = {Base(base_main), Buttons(bt_me_key_mainmask), Boxes(NB_Non), Code(pc_pulldown)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Buttons(bt_me_key_mainmask), Boxes(NB_Non), Code(pc_pulldown)}}},
+    {.page = {.id = 0x11130001, .tree = {"M/E-1", "Key1", "Main Mask", "Ptn Select"},
+              .obj = {Base(base_sub, 0x11130000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Boxes(NB_Non), Patterns(ps_me_key_mainmask_maskptnsel)}}},
     {.page = {.id = 0x11140000, .tree = {"M/E-1", "Key1", "Sub Mask"},
-              .obj = {Base(base_main), Buttons(bt_me_key_submask), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 4), Buttons(bt_me_key_submask), Boxes(NB_Non)}}},
 };
 
 static_assert(ForBankAndKey(me_key_pages[0].page, me_banks[1], me_keys[1]).id == 0x12210000);

@@ -3,9 +3,12 @@
 #pragma once
 #include "a_ba.h"
 #include "a_bt.h"
+#include "a_dw.h"
 #include "a_hf.h"
+#include "a_kp.h"
 #include "a_ls.h"
 #include "a_pc.h"
+#include "a_ps.h"
 #include "a_st_draw.h"
 #include "a_vf.h"
 #include "page.h"
@@ -148,7 +151,11 @@ template <size_t N> constexpr bool CellsAreSound(const ST_TBL (&rows)[N])
 constexpr _pageobject Base(const BA_TBL& table, uint32_t parent = 0) { return {OBJ_BA, &table, parent}; }
 constexpr _pageobject Buttons(const BT_TBL* table) { return {OBJ_BT, table, 0}; }
 constexpr _pageobject BottomTabs(const HF_TBL* table, uint32_t selected) { return {OBJ_HF, table, selected}; }
+constexpr _pageobject LowBottomTabs(const HF_TBL* table, uint32_t selected) { return {OBJ_HF, table, selected | HF_LOW}; }
 constexpr _pageobject LeftTabs(const VF_TBL* table, uint32_t selected) { return {OBJ_VF, table, selected}; }
+constexpr _pageobject Patterns(const PS_TBL& table) { return {OBJ_PS, &table, 0}; }
+constexpr _pageobject WipeList(const DW_TBL& table, uint32_t knob_row = 0) { return {OBJ_DW, &table, knob_row}; }
+constexpr _pageobject PathList(const KP_TBL* table) { return {OBJ_KP, table, 0}; }
 constexpr _pageobject Boxes(const NB_TBL* table) { return {OBJ_NB, table, 0}; }
 constexpr _pageobject Lists(const LS_TBL* table) { return {OBJ_LS, table, 0}; }
 constexpr _pageobject Cells(const ST_TBL* table) { return {OBJ_ST, table, 0}; }

@@ -51,8 +51,8 @@ def main(build):
         desk.wait_wire(f"put {TYPE}#Chroma")
         time.sleep(0.4)
         picture("after-the-tally")
-        desk.touch(*grid(2))
-        desk.wait_wire("add M/E-1@Key1@Edge@Edge Type")
+        desk.touch(97 + 86 + 43, 531 + 33)  # the bottom tab "Edge"
+        desk.wait_wire("add M/E-1@Key1@Edge@Edge Fill")
         desk.touch(*grid(18))
         desk.wait_wire("put M/E-1@Key1@Edge@Edge Type#Border")
         time.sleep(0.3)

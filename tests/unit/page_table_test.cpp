@@ -1,11 +1,13 @@
 // What must hold for every row of the page table, also for pages that nobody thought of when a rule
 // was written.
 #include "a_bt.h"
+#include "a_hf.h"
 #include "a_nb.h"
 #include "a_vf.h"
 #include "command.h"
 #include "harness.h"
 #include "page.h"
+#include "page_table/me_tabs.h"
 #include "tdl.h"
 #include <algorithm>
 #include <cstdlib>
@@ -55,6 +57,28 @@ uint32_t TargetOf(PAGE& page, const BT_TBL& b)
     if (*number == '+')
         AddPageOffset(&id);
     return id;
+}
+
+const void* TableOf(const PAGE& page, int type, uint32_t* selected)
+{
+    for (const auto& object : page.obj)
+        if (object.type == type) {
+            *selected = object.var;
+            return object.addr;
+        }
+    return nullptr;
+}
+
+// Both kinds of tabs of a page, as (id, caption, page, is chosen).
+template <typename Visit> void ForEachTab(PAGE& page, Visit visit)
+{
+    uint32_t selected = 0;
+    if (const auto* t = static_cast<const VF_TBL*>(TableOf(page, OBJ_VF, &selected)))
+        for (; t->id >= 1; t++)
+            visit(OBJ_VF, t->id, t->caption, t->page, uint32_t(t->id) == selected);
+    if (const auto* t = static_cast<const HF_TBL*>(TableOf(page, OBJ_HF, &selected)))
+        for (; t->id >= 1; t++)
+            visit(OBJ_HF, t->id, t->caption, t->page, uint32_t(t->id) == (selected & ~HF_LOW));
 }
 
 // Every number box that a button of the page may show.
@@ -114,7 +138,57 @@ TEST(PageTable, EveryJumpLeadsToAPage)
             }
         }
     });
-    EXPECT_GT(jumps, 1000);
+    EXPECT_GT(jumps, 500);
+}
+
+TEST(PageTable, EveryTabLeadsToAPageAndTheChosenOneToItsOwn)
+{
+    Harness_Reset();
+    ForEachPage([&](PAGE& page) {
+        int chosen[OBJ_VF + 1] = {}, tabs[OBJ_VF + 1] = {};
+        ForEachTab(page, [&](int kind, int id, const char* caption, uint32_t target, bool is_own) {
+            tabs[kind]++;
+            EXPECT_TRUE(SearchPageTable(target)) << std::hex << page.id << " to " << target;
+            EXPECT_EQ(target & 0xFF000000, page.id & 0xFF000000) << caption; // in the same bank
+            if (!is_own)
+                return;
+            chosen[kind]++;
+            const uint32_t group = kind == OBJ_VF ? 0xFFF00000 : 0xFFFF0000;
+            EXPECT_EQ(target & group, page.id & group) << std::hex << page.id << " tab " << id;
+            if (kind == OBJ_VF && isNowPageMeKey(page.id)) {
+                EXPECT_STREQ(caption, page.tree[1]);
+            }
+        });
+        for (int kind : {OBJ_VF, OBJ_HF})
+            EXPECT_EQ(chosen[kind], tabs[kind] ? 1 : 0) << std::hex << page.id;
+        EXPECT_TRUE(!isNowPageMeKey(page.id) || (tabs[OBJ_VF] && tabs[OBJ_HF]))
+            << std::hex << page.id << " is a page of a key and has no tabs";
+    });
+}
+
+// Who adds the pages of a group gives them their tab in me_tabs.h, too.
+TEST(PageTable, ATabIsLeftOutOnlyWhileItsPageDoesNotExist)
+{
+    Harness_Reset();
+    const auto agrees = [](uint32_t page, Side where) {
+        return (SearchPageTable(page) != nullptr) == (where != NOWHERE);
+    };
+    for (const auto& group : me_groups)
+        EXPECT_TRUE(agrees(group.row.page, group.where)) << group.row.caption;
+    for (const auto& tab : me_key_tabs)
+        EXPECT_TRUE(agrees(tab.row.page, tab.where)) << tab.row.caption;
+}
+
+TEST(PageTable, NoCaptionOfATabIsCut)
+{
+    Harness_Video();
+    ForEachPage([](PAGE& page) {
+        ForEachTab(page, [&](int kind, int, const char* caption, uint32_t, bool) {
+            EXPECT_LE(TDL_GetSymbolWidth(caption, kind == OBJ_VF ? 3 : 4),
+                      kind == OBJ_VF ? 78u : 76u)
+                << caption;
+        });
+    });
 }
 
 TEST(PageTable, NoCaptionIsCutByItsButton)

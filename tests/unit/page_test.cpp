@@ -309,7 +309,8 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
         {0x16510000, 0x16510000, [] { me2_on(1); }},
         {0x16510000, 0x12510000},                    // no sub side at all
         {0x12110000, 0x12110000, [] { me2_on(1); }}, // a key page
-        {0x111F0000, 0x111F0000}, // without left tabs in the row a wildcard stays
+        {0x111F0000, 0x11110000},                    // the tab of a key is its own
+        {0x311F0000, 0x311F0000}, // without left tabs in the row a wildcard stays
     };
     for (const auto& c : cases) {
         SetUp();

@@ -751,9 +751,9 @@ TEST(WindowPullDown, ATabOfTheMaskPagePutsTheChoice)
     SendMessage(MSG_TALLY, Arg("M/E-1@Key1@Main Mask@Main Mask"), Arg("true"),
                 MsgArg(Hash("M/E-1@Key1@Main Mask@Main Mask")), 0);
     (void)TakeQueuedCommands();
-    SendMessage(MSG_PRESS, 504 + 40, 360 + 30, 1, 0);
+    SendMessage(MSG_PRESS, 602 + 40, 360 + 30, 1, 0);
     ASSERT_EQ(GetWindow(), WINDOW_PULLDOWN);
-    SendMessage(MSG_PRESS, 504 + 40, 413 + 6 + 32 + 16, 1, 0); // the second of four, below it
+    SendMessage(MSG_PRESS, 602 + 40, 413 + 6 + 32 + 16, 1, 0); // the second of four, below it
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Main Mask@Mask Source#Pattern"));
     EXPECT_EQ(PullDown_Find(nullptr), nullptr);
     EXPECT_EQ(PullDown_Find("LOCAL@No"), nullptr);

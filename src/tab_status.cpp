@@ -1,0 +1,48 @@
+#include "tab_status.h"
+#include "command.h"
+#include "netio.h"
+#include "tally_value.h"
+
+#include "safeguards.h"
+
+bool TabStatus_Set(TabStatus& s, const char* statcmd)
+{
+    s.cmd[0] = s.var[0] = '\0';
+    s.hash = 0;
+    s.status = 0;
+    if (!statcmd || !*statcmd)
+        return false;
+    DecodeCommand(s.cmd, statcmd, CMD_SIZE);
+    char* value = FindVarPointer(s.cmd);
+    CopyText(s.var, value);
+    if (value > s.cmd && value[-1] == '#')
+        value[-1] = '\0';
+    s.hash = Hash(s.cmd);
+    return s.cmd[0] != '\0';
+}
+
+bool TabStatus_Tally(TabStatus& s, const char* path, const char* value, uint32_t hash)
+{
+    if (s.hash != hash || !s.cmd[0] || !Same(s.cmd, path))
+        return false;
+    const int before = s.status;
+    s.status = Same(s.var, value);
+    return s.status != before;
+}
+
+void TabStatus_Send(TabPaths& paths, const TabStatus& s, const char* verb)
+{
+    if (!s.cmd[0] || IsLocal(s.cmd) || paths.count == TAB_PATHS)
+        return;
+    for (int i = 0; i < paths.count; i++)
+        if (paths.met[i]->hash == s.hash && Same(paths.met[i]->cmd, s.cmd))
+            return;
+    paths.met[paths.count++] = &s;
+    Net_SendCommandFormat("%s %s", verb, s.cmd);
+}
+
+bool IsKeyAssignPath(const char* path)
+{
+    return Same(path, "Engineering Setup@Switcher@Config@M/E Output Assign@List") ||
+           Same(path, "Engineering Setup@Switcher@Config@PGM Config@List");
+}

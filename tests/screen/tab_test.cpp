@@ -1,0 +1,131 @@
+// The tabs of a page, the pattern grid and the two scrolling lists as they look.
+#include "a_dw.h"
+#include "a_hf.h"
+#include "a_kp.h"
+#include "a_ps.h"
+#include "a_vf.h"
+#include "page_table/me_tabs.h"
+#include "page_table/patterns.h"
+#include "tab_page.h"
+
+struct TabPictures : TabPage {
+    void TearDown() override
+    {
+        VF_Create(nullptr, 0);
+        HF_Create(nullptr, 0);
+        PS_Create(nullptr, 0);
+        DW_Create(nullptr, 0);
+        KP_Create(nullptr, 0);
+        TabPage::TearDown();
+    }
+    void Tree(std::initializer_list<const char*> tree, uint32_t id, int kind)
+    {
+        SetTree(tree, id, kind);
+        Pass(); // the frame and its keys
+    }
+};
+
+TEST_F(TabPictures, LeftTabsOfAKey)
+{
+    static const VF_TBL tabs[] = {
+        {.id = 1, .caption = "Key1", .page = 0x11110000},
+        {.id = 2, .caption = "Key2", .page = 0x11210000},
+        {.id = 3, .caption = "Key3", .page = 0x11310000},
+        {.id = 4, .caption = "Key4", .page = 0x11410000},
+        {.id = 5, .caption = "Wipe", .page = 0x11510000},
+        {.id = 6, .caption = "Hidden", .page = 0x11610000},
+        {.id = 7, .caption = "Misc", .page = 0x11710000},
+        VF_END,
+    };
+    Tree({"M/E-1", "Key2", "Type"}, 0x11210000, OBJ_VF);
+    VF_Create(tabs, 2);
+    VF_SetDisplay(6, 0);
+    multiprogram2_me[1] = 1;
+    for (const char* row : {"M/E-1,1,Main", "M/E-1,2,Sub"})
+        Tally(OUTPUT_LIST, row);
+    for (const char* row : {"M/E-1,1,03", "M/E-1,2,06"})
+        Tally(PGM_LIST, row);
+    Pass();
+    EXPECT_TRUE(MatchesGolden("tab_left", {0, 66, 99, 599}));
+}
+
+TEST_F(TabPictures, BottomTabsWithWhatIsActive)
+{
+    Tree({"M/E-1", "Key1", "Type"}, 0x11110000, OBJ_HF);
+    HF_Create(hf_me_key, 1);
+    Tally("M/E-1@Key1@Edge@Edge Type", "Border");
+    Tally("M/E-1@Key1@Main Mask@Main Mask", "true");
+    Tally("M/E-1@Key1@Sub Mask@Sub Mask", "false");
+    Pass();
+    EXPECT_TRUE(MatchesGolden("tab_bottom", {90, 520, 799, 599}));
+}
+
+TEST_F(TabPictures, LowBottomTabs)
+{
+    static const HF_TBL tabs[] = {
+        {.id = 1, .caption = "Time Line", .page = 0x61110000},
+        {.id = 2, .caption = "Path", .page = 0x61130000, .statcmd = {"~1@PGM#true"}},
+        {.id = 3, .caption = "DME User\nPGM", .page = 0x61140000},
+        {.id = 4, .caption = "Hidden", .page = 0x61150000},
+        {.id = 7, .caption = "Region\nSelect", .page = 0x61170000},
+        HF_END,
+    };
+    Tree({"Key Frame", "Time Line"}, 0x61110000, OBJ_HF);
+    HF_Create(tabs, 1 | HF_LOW);
+    HF_SetDisplay(4, 0);
+    Tally("Key Frame@PGM", "true");
+    Pass();
+    EXPECT_TRUE(MatchesGolden("tab_bottom_low", {90, 520, 799, 599}));
+}
+
+TEST_F(TabPictures, PatternSelectWithAChosenCell)
+{
+    Tree({"M/E-1", "Key1", "Main Mask", "Ptn Select"}, 0x11130001, OBJ_PS);
+    PS_Create(&ps_me_key_mainmask_maskptnsel, 0);
+    Tally("M/E-1@Key1@Main Mask@Ptn Select@Pattern", "49");
+    Pass();
+    EXPECT_TRUE(MatchesGolden("pattern_select", {97, 73, 702, 526}));
+}
+
+TEST_F(TabPictures, ListOfEffectsUnitWipes)
+{
+    Tree({"M/E-1", "Key1", "Transition", "Adjust"}, 0x11170003, OBJ_DW);
+    DW_Create(&dw_me_key_trans_dmewipeadj_1ch, 0);
+    Tally("M/E-1@Key1@Transition@Adjust@Pattern Select@Pattern", "1012");
+    SendMessage(LMSG_SBSEL, SB_DOWN, 0, 1, 0);
+    Pass();
+    Pass();
+    EXPECT_TRUE(MatchesGolden("dme_wipe_list", {97, 73, 702, 526}));
+}
+
+TEST_F(TabPictures, ListOfPaths)
+{
+    static const KP_TBL rows[] = {
+        {"M/E-1 All", 1, 1, 1, 0, "~@All@", 0x61130000},
+        {"Bkgd/Util", 1, 1, 1, 1, "~@Bkgd/Util@", 0x61130501},
+        {"Key1", 1, 1, 1, 0, "~@Key1@", 0x61130502},
+        {"Wipe", 0, 0, 1, 0, "~@Wipe@"},
+        KP_END,
+    };
+    Tree({"Key Frame", "M/E-1"}, 0x61130000, OBJ_KP);
+    KP_Create(rows, 0);
+    static const struct {
+        const char *path, *value;
+    } tallies[] = {
+        {"All@Xpt", "Mixed"},
+        {"All@Hue", "Short"},
+        {"All@Curve", "Linear"},
+        {"Bkgd/Util@Xpt", "Change"},
+        {"Bkgd/Util@Hue", "CCW"},
+        {"Key1@Xpt", "Hold"},
+        {"Key1@Curve", "Spline"},
+        {"Key1@Curve@Spline@Tens", "0.5"},
+        {"Key1@Curve@Spline@Cont", "-1"},
+        {"Wipe@Curve", "Step"},
+    };
+    for (const auto& t : tallies)
+        Tally((std::string("Key Frame@M/E-1@") + t.path).c_str(), t.value);
+    Touch(150, 104 + 50); // the caption of the second row is felt
+    Pass(0);
+    EXPECT_TRUE(MatchesGolden("path_list", {97, 73, 702, 526}));
+}

@@ -1,0 +1,200 @@
+#include "a_dw.h"
+#include "tab_page.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+const DW_TBL table = {.cmd = "~4@Pattern Select@Pattern", .grpid = {17, 0, 36, 22, 99}};
+constexpr const char* PATH = "M/E-1@Key1@Transition@Adjust@Pattern Select@Pattern";
+
+// The middle of a cell of the window.
+constexpr int X(int column)
+{
+    return 160 + 76 * column + 34;
+}
+constexpr int Y(int row)
+{
+    return 89 + 76 * row + 34;
+}
+} // namespace
+
+// The lines of this list: slide 8 (two), user 10 (two), roll 16 (three).
+struct WipeLists : TabPage {
+    void SetUp() override
+    {
+        TabPage::SetUp();
+        Open({"M/E-1", "Key1", "Transition", "Adjust"}, 0);
+    }
+    void TearDown() override
+    {
+        DW_Create(nullptr, 0);
+        TabPage::TearDown();
+    }
+    void Open(std::initializer_list<const char*> tree, uint32_t knob_row)
+    {
+        DW_Create(nullptr, 0);
+        SetTree(tree, 0x11170003, OBJ_DW);
+        (void)TakeQueuedCommands();
+        DW_Create(&table, knob_row);
+    }
+    static std::string Number(int column, int row)
+    {
+        const auto lines = Sent(X(column), Y(row));
+        return lines.empty() ? "" : lines[0].substr(lines[0].find('#') + 1);
+    }
+};
+
+TEST_F(WipeLists, APressSendsTheNumberOfItsCell)
+{
+    EXPECT_THAT(Sent(X(0), Y(0)), ElementsAre(std::string("put ") + PATH + "#1001"));
+    static const struct {
+        int x, y;
+        const char* number; // null: sends nothing
+    } cases[] = {
+        {X(5), Y(0), "1006"},  {X(1), Y(1), "1008"},     {X(2), Y(1), nullptr},
+        {X(0), Y(2), "1921"},  {160, Y(0), "1001"},      {228, Y(0), "1001"},
+        {229, Y(0), nullptr},  {X(0), 89 + 69, nullptr}, {159, Y(0), nullptr},
+        {X(6), Y(0), nullptr}, {X(0), 88, nullptr},      {X(0), Y(4), nullptr},
+    };
+    for (const auto& c : cases) {
+        const auto sent = Sent(c.x, c.y);
+        ASSERT_EQ(sent.empty(), !c.number) << c.x << "," << c.y;
+        if (c.number) {
+            EXPECT_EQ(sent[0].substr(sent[0].find('#') + 1), c.number);
+        }
+    }
+    BA_SetDefaultButton(1);
+    EXPECT_THAT(Sent(X(0), Y(0)), IsEmpty());
+}
+
+TEST_F(WipeLists, TheNumbersOfUserProgramsMoveWithBankAndKey)
+{
+    static const struct {
+        const char *bank, *key, *user;
+    } cases[] = {
+        {"PGM/PST", "DSK1", "1901"}, {"PGM/PST", "DSK2", "1911"}, {"M/E-1", "Key1", "1921"},
+        {"M/E-1", "Key2", "1931"},   {"M/E-2", "Key1", "1941"},   {"M/E-2", "Key2", "1951"},
+        {"M/E-3", "Key3", "1901"},
+    };
+    for (const auto& c : cases) {
+        Open({c.bank, c.key, "Transition", "Adjust"}, 0);
+        EXPECT_EQ(Number(0, 2), c.user) << c.bank << " " << c.key;
+        EXPECT_EQ(Number(0, 0), "1001") << c.bank << " " << c.key;
+    }
+}
+
+TEST_F(WipeLists, KnobsComeWithTheCellThatHasThem)
+{
+    NB_Create(nullptr, nullptr);
+    SendMessage(LMSG_SBSEL, SB_THUMB, 0, 3, 0);
+    Touch(X(1), Y(1));
+    EXPECT_STREQ(NB_GetTitle(), "1322");
+    Touch(X(0), Y(0));
+    EXPECT_STREQ(NB_GetTitle(), "");
+}
+
+TEST_F(WipeLists, TheWindowStaysInsideTheList)
+{
+    static const struct {
+        int kind, bar, value;
+        const char* first;
+    } cases[] = {
+        {SB_UP, 0, -1, "1001"},    {SB_DOWN, 0, 1, "1007"},
+        {SB_DOWN, 0, 1, "1921"},   {SB_DOWN, 1, 1, "1921"},
+        {SB_DOWN, 0, 1, "1927"},   {SB_DOWN, 0, 1, "1927"}, // 7 lines, 4 shown
+        {SB_THUMB, 0, 6, "1927"},  {SB_THUMB, 0, 1, "1007"},
+        {SB_THUMB, 0, -4, "1001"},
+    };
+    for (const auto& c : cases) {
+        SendMessage(LMSG_SBSEL, c.kind, c.bar, c.value, 0);
+        EXPECT_EQ(Number(0, 0), c.first) << c.kind << " " << c.value;
+        SB_INFO bar;
+        SB_GetInfo(&bar, 0);
+        EXPECT_EQ(bar.total, 7);
+    }
+}
+
+TEST_F(WipeLists, AScrolledWindowIsPaintedAnew)
+{
+    const auto third_is_empty = [] {
+        Pass();
+        return PixelAt(X(2) - 20, Y(0)) == 0;
+    };
+    EXPECT_FALSE(third_is_empty());
+    SendMessage(LMSG_SBSEL, SB_DOWN, 0, 1, 0); // to a line of two
+    EXPECT_TRUE(third_is_empty());
+}
+
+TEST_F(WipeLists, ARowOfKnobKeysTakesALineFromTheList)
+{
+    static const struct {
+        uint32_t knob_row;
+        int height, shown;
+    } cases[] = {{0, 322, 4}, {1, 246, 3}};
+    for (const auto& c : cases) {
+        Open({"M/E-1", "Key1", "Transition", "Adjust"}, c.knob_row);
+        SB_INFO bar;
+        ASSERT_EQ(SB_GetInfo(&bar, 0), 0);
+        EXPECT_EQ(bar.x, 620);
+        EXPECT_EQ(bar.y, 80);
+        EXPECT_EQ(bar.height, c.height);
+        EXPECT_EQ(bar.shown, c.shown);
+        EXPECT_EQ(Number(0, 3).empty(), c.shown == 3);
+    }
+}
+
+TEST_F(WipeLists, AWheelStepBecomesAPressOnAnArrow)
+{
+    static const struct {
+        int x, y, button;
+        int to_x, to_y; // 0: stays
+    } cases[] = {
+        {X(0), Y(0), 4, 620, 80}, {X(0), Y(3), 5, 620, 401}, {640, 200, 4, 620, 80},
+        {640, 200, 5, 620, 401},  {700, 200, 4, 0, 0},       {X(0), 470, 4, 0, 0},
+    };
+    for (const auto& c : cases) {
+        int x = c.x, y = c.y;
+        EXPECT_EQ(DW_ConvPosForWheel(&x, &y, c.button), c.to_x != 0);
+        EXPECT_EQ(x, c.to_x ? c.to_x : c.x);
+        EXPECT_EQ(y, c.to_x ? c.to_y : c.y);
+    }
+    int x = X(0), y = Y(0);
+    ASSERT_EQ(DW_ConvPosForWheel(&x, &y, 5), 1);
+    Touch(x, y);
+    EXPECT_EQ(Number(0, 0), "1007");
+    DW_Create(nullptr, 0);
+    EXPECT_EQ(DW_ConvPosForWheel(&x, &y, 5), 0);
+}
+
+TEST_F(WipeLists, TheVeilFollowsTheTally)
+{
+    const auto corner = [](int column) {
+        Pass();
+        return PixelAt(X(column) - 20, Y(0)); // a light place of a light picture, or its veil
+    };
+    const uint32_t plain = corner(0);
+    Touch(X(0), Y(0));
+    EXPECT_EQ(corner(0), plain);
+    Tally(PATH, "1001");
+    EXPECT_NE(corner(0), plain);
+    for (const char* value : {"1002", "", "99999999999", "-5"}) {
+        Tally(PATH, "1001");
+        Tally(PATH, value);
+        EXPECT_EQ(corner(0), plain) << value;
+    }
+}
+
+TEST_F(WipeLists, ItsPathIsSubscribedAndItsBarClosedAgain)
+{
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("add ") + PATH));
+    EXPECT_EQ(DW_Create(nullptr, 0), 1);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("remove ") + PATH));
+    SB_INFO bar;
+    SB_GetInfo(&bar, 0);
+    EXPECT_FALSE(bar.active);
+    DW_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Sent(X(0), Y(0)), IsEmpty());
+}

@@ -1,0 +1,215 @@
+#include "a_kp.h"
+#include "graphics.h"
+#include "tab_page.h"
+#include "window.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+const KP_TBL rows[] = {
+    {"M/E-1 All", 1, 1, 1, 0, "~@All@", 0x61130000},
+    {"Bkgd/Util", 1, 0, 1, 3, "~@Bkgd/Util@All@", 0x61130501},
+    {"Heading"},
+    KP_END,
+};
+constexpr int XPT_X = 300, HUE_X = 390, CURVE_X = 480, CAPTION_X = 150;
+constexpr int Y(int row)
+{
+    return 104 + 40 * row + 20;
+}
+} // namespace
+
+struct PathLists : TabPage {
+    void SetUp() override
+    {
+        TabPage::SetUp();
+        SetTree({"Key Frame", "Path"}, 0x61130000, OBJ_KP);
+        (void)TakeQueuedCommands();
+        KP_Create(rows, 0);
+    }
+    void TearDown() override
+    {
+        CloseWindow();
+        KP_Create(nullptr, 0);
+        TabPage::TearDown();
+    }
+    // What the press on a cell comes to, when the key of the choice is pressed in its window.
+    static std::vector<std::string> Choose(int x, int y, int type, int choice)
+    {
+        const auto sent = Sent(x, y);
+        if (GetWindow() == WINDOW_NONE)
+            return sent;
+        CloseWindow();
+        SendMessage(LMSG_PATHSELSEL, type, choice, 0, 0);
+        return TakeQueuedCommands();
+    }
+    static SDL_Surface* Shown(int x, int row)
+    {
+        Pass();
+        for (SDL_Surface* s : {G_PATH_none, G_PATH_mixed, G_PATH_xpt_hold, G_PATH_xpt_change,
+                               G_PATH_hue_ccw, G_PATH_curve_off, G_PATH_curve_step})
+            if (Looks(s, x, Y(row) - 18))
+                return s;
+        return nullptr;
+    }
+    static bool Looks(const SDL_Surface* s, int x, int y)
+    {
+        for (int dy = 0; dy < s->h; dy++)
+            for (int dx = 0; dx < s->w; dx++) {
+                uint32_t pixel;
+                memcpy(&pixel, static_cast<char*>(s->pixels) + dy * s->pitch + dx * 4, 4);
+                if ((pixel & 0xFFFFFF) != PixelAt(x + dx, y + dy))
+                    return false;
+            }
+        return true;
+    }
+};
+
+TEST_F(PathLists, EachRowWithAPrefixIsSubscribedAndRemovedAgain)
+{
+    std::vector<std::string> paths;
+    for (const char* prefix : {"Key Frame@Path@All@", "Key Frame@Path@Bkgd/Util@All@"})
+        for (const char* leaf :
+             {"Xpt", "Hue", "Curve", "Curve@Spline@Tens", "Curve@Spline@Cont", "Curve@Spline@Bias"})
+            paths.push_back(std::string(prefix) + leaf);
+    const auto lines = [&](const char* verb) {
+        std::vector<std::string> out;
+        for (const std::string& p : paths)
+            out.push_back(verb + p);
+        return out;
+    };
+    EXPECT_EQ(TakeQueuedCommands(), lines("add "));
+    EXPECT_EQ(KP_Create(nullptr, 0), 1);
+    EXPECT_EQ(TakeQueuedCommands(), lines("remove "));
+    KP_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+TEST_F(PathLists, ACellShowsItsTally)
+{
+    static const struct {
+        const char *path, *value;
+        int x, row;
+        SDL_Surface** shown;
+    } cases[] = {
+        {"Key Frame@Path@All@Xpt", "Change", 270, 0, &G_PATH_xpt_change},
+        {"Key Frame@Path@All@Xpt", "Mixed", 270, 0, &G_PATH_mixed},
+        {"Key Frame@Path@All@Xpt", "Step", 270, 0, &G_PATH_none}, // no word of this column
+        {"Key Frame@Path@All@Hue", "CCW", 360, 0, &G_PATH_hue_ccw},
+        {"Key Frame@Path@Bkgd/Util@All@Curve", "Step", 450, 1, &G_PATH_curve_step},
+        {"Key Frame@Path@Bkgd/Util@All@Curve", "Spline", 450, 1, &G_PATH_none}, // not of type 3
+        {"Key Frame@Path@Bkgd/Util@All@Curve", "", 450, 1, &G_PATH_none},
+        {"Key Frame@Path@Bkgd/Util@All@Curve@Spline", "Off", 450, 1, &G_PATH_none},
+        {"Key Frame@Path@All@Xpt", "Hold", 270, 0, &G_PATH_xpt_hold},
+    };
+    for (const auto& c : cases) {
+        Tally(c.path, c.value);
+        EXPECT_EQ(Shown(c.x, c.row), *c.shown) << c.path << "#" << c.value;
+    }
+    EXPECT_EQ(Shown(360, 1), nullptr); // the second row has no hue
+}
+
+TEST_F(PathLists, APressOnACellComesToTheChosenWord)
+{
+    Tally("Key Frame@Path@All@Hue", "Long");
+    Tally("Key Frame@Path@Bkgd/Util@All@Curve", "Step");
+    static const struct {
+        int x, row, type, choice;
+        const char* put; // null: sends nothing
+    } cases[] = {
+        {XPT_X, 0, PATHSEL_XPT, 0, "put Key Frame@Path@All@Xpt#Hold"},
+        {HUE_X, 0, PATHSEL_HUE, 2, "put Key Frame@Path@All@Hue#CW"},
+        {CURVE_X, 0, PATHSEL_CURVE0, 0, "put Key Frame@Path@All@Curve#Off"},
+        {CURVE_X, 1, PATHSEL_CURVE3, 0,
+         "put Key Frame@Path@Bkgd/Util@All@Curve#Off"}, // round again
+        {HUE_X, 1, PATHSEL_HUE, 0, nullptr},
+        {CURVE_X, 2, PATHSEL_CURVE0, 0, nullptr},
+        {CURVE_X, 3, PATHSEL_CURVE0, 0, nullptr},
+        {330, 0, PATHSEL_XPT, 0, nullptr}, // between the columns
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Choose(c.x, Y(c.row), c.type, c.choice),
+                  c.put ? std::vector<std::string>{c.put} : std::vector<std::string>{})
+            << c.x << " row " << c.row;
+    SendMessage(LMSG_PATHSELSEL, PATHSEL_XPT, 1, 0, 0); // nobody asked
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    BA_SetDefaultButton(1);
+    EXPECT_THAT(Sent(XPT_X, Y(0)), IsEmpty());
+}
+
+TEST_F(PathLists, ACaptionOpensThePageOfItsRow)
+{
+    EXPECT_EQ(Asked(CAPTION_X, Y(0)), 0x61130000u);
+    EXPECT_EQ(Asked(CAPTION_X, Y(1)), 0x61130501u);
+    EXPECT_EQ(Asked(CAPTION_X, Y(2)), 0u);
+    EXPECT_EQ(Asked(CAPTION_X, Y(3)), 0u);
+    Pass(0);
+    EXPECT_EQ(PixelAt(106, Y(0)), 0x003241u); // felt,
+    Pass(150);
+    EXPECT_EQ(PixelAt(106, Y(0)), 0x000000u); // and let go
+}
+
+TEST_F(PathLists, TheListScrollsAndTheWheelIsItsArrow)
+{
+    static KP_TBL many[KP_MAX + 2];
+    static std::vector<std::string> prefix(KP_MAX + 1);
+    for (int i = 0; i <= KP_MAX; i++) {
+        prefix[size_t(i)] = "Row" + std::to_string(i) + "@";
+        many[i] = {"Row", 1, 0, 0, 0, prefix[size_t(i)].c_str(), 0};
+    }
+    KP_Create(many, 0);
+    SB_INFO bar;
+    SB_GetInfo(&bar, 0);
+    EXPECT_EQ(bar.total, KP_MAX); // one more has no place
+    static const struct {
+        int kind, value;
+        const char* first;
+    } cases[] = {
+        {SB_DOWN, 1, "Row1@"}, {SB_THUMB, 60, "Row54@"}, {SB_DOWN, 1, "Row54@"},
+        {SB_UP, -1, "Row53@"}, {SB_THUMB, 0, "Row0@"},   {SB_UP, -1, "Row0@"},
+    };
+    for (const auto& c : cases) {
+        SendMessage(LMSG_SBSEL, c.kind, 0, c.value, 0);
+        EXPECT_THAT(Choose(XPT_X, Y(0), PATHSEL_XPT, 0),
+                    ElementsAre(std::string("put ") + c.first + "Xpt#Hold"));
+    }
+    Tally("Row0@Xpt", "Hold");
+    EXPECT_EQ(Shown(270, 0), G_PATH_xpt_hold);
+    SendMessage(LMSG_SBSEL, SB_DOWN, 0, 1, 0);
+    EXPECT_EQ(Shown(270, 0), G_PATH_none);
+    int x = CAPTION_X, y = Y(5);
+    ASSERT_EQ(KP_ConvPosForWheel(&x, &y, 5), 1);
+    EXPECT_TRUE(Inside(bar.down, x, y));
+    x = CAPTION_X;
+    y = Y(5);
+    ASSERT_EQ(KP_ConvPosForWheel(&x, &y, 4), 1);
+    EXPECT_TRUE(Inside(bar.up, x, y));
+    x = 750;
+    EXPECT_EQ(KP_ConvPosForWheel(&x, &y, 4), 0);
+    KP_Create(rows, 0);
+    (void)TakeQueuedCommands();
+    EXPECT_THAT(Sent(XPT_X, Y(3)), IsEmpty()); // nothing is left of the longer list
+    KP_Create(nullptr, 0);
+    SB_GetInfo(&bar, 0);
+    EXPECT_FALSE(bar.active);
+}
+
+TEST_F(PathLists, EachCurveTypeHasOneChoiceLess)
+{
+    static const struct {
+        int type, count;
+    } cases[] = {
+        {PATHSEL_XPT, 2},    {PATHSEL_HUE, 4},    {PATHSEL_CURVE0, 5},     {PATHSEL_CURVE1, 4},
+        {PATHSEL_CURVE2, 3}, {PATHSEL_CURVE3, 2}, {PATHSEL_CURVE3 + 1, 0}, {-1, 0},
+    };
+    for (const auto& c : cases) {
+        int count = -1;
+        const KP_CHOICE* choices = KP_Choices(c.type, &count);
+        EXPECT_EQ(count, c.count) << c.type;
+        EXPECT_EQ(choices != nullptr, count > 0);
+        for (int i = 0; i < count; i++)
+            EXPECT_TRUE(*choices[i].cell && *choices[i].key_off && *choices[i].key_on);
+    }
+}

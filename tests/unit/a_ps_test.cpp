@@ -1,0 +1,181 @@
+#include "a_ps.h"
+#include "log.h"
+#include "page_table/patterns.h"
+#include "tab_page.h"
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+constexpr const char* PATH = "M/E-1@Key1@Main Mask@Ptn Select@Pattern";
+const PS_TBL& table = ps_me_key_mainmask_maskptnsel;
+
+Rect Cell(int i)
+{
+    const int x = 120 + i % 6 * 95;
+    const int y = 80 + i / 6 * 55;
+    return {x, y, x + 94, y + 54};
+}
+} // namespace
+
+struct PatternSelect : TabPage {
+    void SetUp() override
+    {
+        TabPage::SetUp();
+        Open({"M/E-1", "Key1", "Main Mask", "Ptn Select"});
+    }
+    void TearDown() override
+    {
+        PS_Create(nullptr, 0);
+        TabPage::TearDown();
+    }
+    void Open(std::initializer_list<const char*> tree)
+    {
+        PS_Create(nullptr, 0);
+        SetTree(tree, 0x11130001, OBJ_PS);
+        (void)TakeQueuedCommands();
+        PS_Create(&table, 0);
+    }
+    static std::string FirstPut(int x, int y)
+    {
+        for (const std::string& line : Sent(x, y))
+            if (line.rfind("put ", 0) == 0)
+                return line;
+        return "";
+    }
+    static void TouchLayer(int i) { Touch(125 + i % 6 * 95, 415 + i / 6 * 45); }
+    // The number that a touch on the first cell sends tells the layer.
+    static std::string FirstNumber()
+    {
+        const std::string put = FirstPut(120, 80);
+        return put.substr(std::min(put.size(), put.find('#') + 1));
+    }
+    static bool IsChosen(int i)
+    {
+        Pass();
+        return PixelAt(Cell(i).x1, Cell(i).y1) == 0x00DDD4;
+    }
+};
+
+TEST_F(PatternSelect, APressSendsTheNumberAndMarksNothing)
+{
+    const std::string put = std::string("put ") + PATH + "#";
+    static const struct {
+        int x, y;
+        const char* number; // null: sends nothing
+    } cases[] = {
+        {120, 80, "1"},     {214, 134, "1"},     {215, 80, "2"},
+        {689, 80, "6"},     {690, 80, nullptr},  {119, 80, nullptr},
+        {120, 79, nullptr}, {120, 135, "7"},     {310, 355, nullptr}, // behind the 32nd
+        {215, 355, "32"},   {120, 500, nullptr},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(FirstPut(c.x, c.y), c.number ? put + c.number : "") << c.x << "," << c.y;
+    EXPECT_FALSE(IsChosen(0));
+    BA_SetDefaultButton(1);
+    EXPECT_THAT(Sent(120, 80), IsEmpty());
+}
+
+TEST_F(PatternSelect, AKnobTableComesWithTheCellThatHasOne)
+{
+    EXPECT_STREQ(NB_GetTitle(), "Pattern");
+    Touch(120, 80);
+    EXPECT_STREQ(NB_GetTitle(), ""); // the first layer has none
+    TouchLayer(2);
+    (void)TakeQueuedCommands();
+    Touch(215, 80);
+    EXPECT_STREQ(NB_GetTitle(), "82");
+    EXPECT_THAT(TakeQueuedCommands(),
+                testing::Contains("add M/E-1@Key1@Main Mask@Ptn Select@Modify@Blades"));
+}
+
+TEST_F(PatternSelect, TheChosenCellFollowsItsTallyIntoItsLayer)
+{
+    static const struct {
+        const char* value;
+        int cell; // -1: none of those shown
+        const char* first;
+    } cases[] = {
+        {"5", 4, "1"},      {"32", 31, "1"},    {"33", 0, "33"},
+        {"0", -1, "33"},    {"9999", -1, "33"}, {"-1", -1, "33"},
+        {"304", 31, "273"}, {"x", -1, "273"},   {"304", 31, "273"},
+    };
+    for (const auto& c : cases) {
+        Tally(PATH, c.value);
+        for (int i = 0; i < PS_CELLS; i++)
+            EXPECT_EQ(IsChosen(i), i == c.cell) << c.value << " cell " << i;
+        EXPECT_EQ(FirstNumber(), c.first) << c.value;
+    }
+    Tally("M/E-1@Key2@Main Mask@Ptn Select@Pattern", "7");
+    EXPECT_EQ(FirstNumber(), "273");
+}
+
+TEST_F(PatternSelect, ALayerKeyShowsItsLayerUntilAnotherPatternIsChosen)
+{
+    Tally(PATH, "5");
+    TouchLayer(9);
+    EXPECT_EQ(FirstNumber(), "273");
+    EXPECT_FALSE(IsChosen(4));
+    Tally(PATH, "5"); // told again: the operator stays where he is
+    EXPECT_EQ(FirstNumber(), "273");
+    Tally(PATH, "6");
+    EXPECT_EQ(FirstNumber(), "1");
+    Touch(305, 415); // right of the second key
+    Touch(220, 452); // below it
+    TouchLayer(10);  // no such layer
+    EXPECT_EQ(FirstNumber(), "1");
+}
+
+TEST_F(PatternSelect, PageAndBankDecideWhichLayersThereAre)
+{
+    static const struct {
+        std::initializer_list<const char*> tree;
+        int split;
+        int last; // the last layer key that works
+    } cases[] = {
+        {{"M/E-1", "Key1", "Main Mask", "Ptn Select"}, 4, 9},
+        {{"M/E-1", "Wipe", "Sub Pattern"}, 0, 7},
+        {{"M/E-2", "Wipe", "Main Pattern"}, 2, 9},
+        {{"M/E-2", "Wipe", "Main Pattern"}, 3, 3},
+        {{"M/E-3", "Wipe", "Sub Pattern"}, 4, 3},
+    };
+    for (const auto& c : cases) {
+        GL_BoardMESplit[4] = c.split;
+        Open(c.tree);
+        TouchLayer(c.last);
+        EXPECT_EQ(FirstNumber(), std::to_string(LayerName[c.last].first)) << *c.tree.begin();
+        TouchLayer(c.last + 1);
+        EXPECT_EQ(FirstNumber(), std::to_string(LayerName[c.last].first)) << *c.tree.begin();
+    }
+}
+
+TEST_F(PatternSelect, ItsPathIsSubscribedAndRemovedAgain)
+{
+    EXPECT_EQ(TakeQueuedCommands().back(), std::string("add ") + PATH);
+    EXPECT_EQ(PS_Create(nullptr, 0), 1);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("remove ") + PATH));
+    PS_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Sent(120, 80), IsEmpty());
+}
+
+TEST_F(PatternSelect, AMissingPictureLeavesItsCellInUse)
+{
+    const auto run = std::filesystem::current_path();
+    std::filesystem::current_path("/tmp");
+    unlink("pattern.log");
+    Log_Init("pattern.log", LOG_FILE_SIZE);
+    PS_Create(&table, 0);
+    Log_Init(nullptr, LOG_FILE_SIZE);
+    std::ifstream file("pattern.log");
+    const std::string log{std::istreambuf_iterator<char>(file), {}};
+    unlink("pattern.log");
+    std::filesystem::current_path(run);
+    EXPECT_THAT(log, testing::HasSubstr("Can't load pattern: graphics/ptn/32.bmp"));
+    Pass();
+    EXPECT_EQ(FirstNumber(), "1");
+}
