@@ -6,9 +6,7 @@
 #include "register_private.h"
 #include "snapshot_region.h"
 #include "tally_value.h"
-#include <algorithm>
 #include <cstring>
-#include <iterator>
 
 #include "safeguards.h"
 

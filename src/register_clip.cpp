@@ -4,7 +4,7 @@
 #include "snapshot_region.h"
 #include "tally_value.h"
 #include <algorithm>
-#include <cstring>
+#include <iterator>
 
 #include "safeguards.h"
 

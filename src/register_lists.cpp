@@ -4,8 +4,8 @@
 #include "register_private.h"
 #include "snapshot_region.h"
 #include "tally_value.h"
+#include <array>
 #include <cstring>
-#include <iterator>
 
 #include "safeguards.h"
 
@@ -52,8 +52,7 @@ static constexpr RegisterList Regions(const std::array<RegisterWord, N>& words, 
     row.known = int(N) - (words[N - 1].length == 0);
     row.subscribed = row.known;
     row.head_length = Word(row.head).length;
-    if (!row.digest)
-        row.digest = register_tly;
+    row.digest = register_tly;
     return row;
 }
 
@@ -64,11 +63,19 @@ static constexpr RegisterList Single(RegisterList row)
     return row;
 }
 
+static constexpr RegisterList Effects(RegisterList row)
+{
+    row = Regions(effect_words, row);
+    row.digest = effect_tly;
+    return row;
+}
+
 // Twenty words are subscribed although there are eight users: the frame memories FM1 to FM12 stand
 // behind them. That is meant: keep it.
 static constexpr RegisterList Clips(RegisterList row)
 {
     row = Regions(clip_words, row);
+    row.digest = clipevnt_tly;
     row.known = int(ClipEventCmd.size());
     row.subscribed = int(ClipEventSubREG.size());
     return row;
@@ -77,9 +84,8 @@ static constexpr RegisterList Clips(RegisterList row)
 // In the order in which they are subscribed.
 // clang-format off
 static constexpr RegisterList lists[] = {
-    Regions(effect_words,
-            {.kind = REGISTER_EFFECT, .head = "Effect@Effect@Attribute@List@",
-             .fields = 6, .status = 1, .lock = 3, .name = 2, .digest = effect_tly}),
+    Effects({.kind = REGISTER_EFFECT, .head = "Effect@Effect@Attribute@List@",
+             .fields = 6, .status = 1, .lock = 3, .name = 2}),
     Single ({.kind = REGISTER_EFFECT, .head = "Effect@Master Timeline@Store/Recall@List",
              .first_row = EFF_REGION_MASTER,
              .fields = 47, .status = 2, .lock = 3, .name = 1, .bound = BOUND_LONG}),
@@ -104,7 +110,7 @@ static constexpr RegisterList lists[] = {
              .fields = 4, .status = 1, .lock = 3, .name = 2, .bound = BOUND_LONG,
              .max_number = REGISTERS_MACRO}),
     Clips  ({.kind = REGISTER_CLIP_EVENT, .head = "Snapshot@Snapshot@Clip Event@", .tail = "@List",
-             .fields = 8, .digest = clipevnt_tly}),
+             .fields = 8}),
 };
 // clang-format on
 
@@ -157,7 +163,7 @@ void Register_DeathCommand()
     send_lists("remove", Sides::All);
 }
 
-// By kind: the first list of it is the one with regions.
+// Of two lists of a kind the first is the one with regions.
 void register_ask(int kind, int region)
 {
     for (const RegisterList& list : lists)
@@ -240,7 +246,7 @@ static int effect_tly(const RegisterList& list, int region, const char* value)
 
 // --- From a path to its list ---
 
-int register_find(const RegisterWord* words, int count, const char* text, size_t length)
+static int find_word(const RegisterWord* words, int count, const char* text, size_t length)
 {
     uint32_t hash = 0;
     for (size_t i = 0; i < length; i++)
@@ -269,6 +275,6 @@ int register_take(const char* path, const char* value)
     const char* end = *list->tail ? strstr(region, list->tail) : region + strlen(region);
     if (!end)
         return -1; // a path beside the lists
-    const int row = register_find(list->words, list->known, region, size_t(end - region));
+    const int row = find_word(list->words, list->known, region, size_t(end - region));
     return list->digest(*list, row, value);
 }

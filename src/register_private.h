@@ -64,7 +64,6 @@ int register_take(const char* path, const char* value); // -1 when it is no list
 bool register_cut(RegisterLine& line, const RegisterList& list, const char* value);
 // Send "read" for one list of a kind with regions.
 void register_ask(int kind, int region);
-int register_find(const RegisterWord* words, int count, const char* text, size_t length);
 
 // --- register_clip ---
 int clipevnt_tly(const RegisterList& list, int user, const char* value);

@@ -3,6 +3,7 @@
 #include "register.h"
 #include "snapshot_region.h"
 #include <algorithm>
+#include <climits>
 #include <gmock/gmock.h>
 
 using testing::Contains;
@@ -19,10 +20,7 @@ struct Place {
     int row = 0;
     int index = 0;
     int extra = 0;
-    bool operator==(const Place& o) const
-    {
-        return kind == o.kind && row == o.row && index == o.index && extra == o.extra;
-    }
+    bool operator==(const Place&) const = default;
 };
 std::ostream& operator<<(std::ostream& out, const Place& p)
 {
@@ -299,41 +297,22 @@ TEST_F(Registers, TwoLinksMakeFourGroupsOfChannels)
 
 TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
 {
+    using Numbers = std::vector<int>; // event, autoplay, loop, start, stop
     static const struct {
         const char* path;
         std::string value;
         Place place;
-        const char* name;
-        int event, autoplay, loop, start, stop;
+        std::string name;
+        Numbers numbers;
     } cases[] = {
-        {"User8@List",
-         "FM20, 99, ON, OFF, ON, clip, 10, 20",
-         {10, 7, 19, 98},
-         "clip",
-         1,
-         0,
-         1,
-         10,
-         20},
-        {"User1@List",
-         "FM21,1,on,ON,,a,-7,99999999999",
-         {10, 0, 0, 0},
-         "a",
-         0,
-         1,
-         0,
-         -7,
-         2147483647},
-        {"FM3@List", "FM2,1,ON,ON,ON,b,x,", {10, 0, 1, 0}, "b", 1, 1, 1, 0, 0},
+        {"User8@List", "FM20, 99, ON, OFF, ON, a, 10, 20", {10, 7, 19, 98}, "a", {1, 0, 1, 10, 20}},
+        {"User1@List", "FM21,1,on,ON,,b,-7,99999999999", {10}, "b", {0, 1, 0, -7, INT_MAX}},
+        {"FM3@List", "FM2,1,ON,ON,ON,c,x,", {10, 0, 1, 0}, "c", {1, 1, 1, 0, 0}},
         {"User2@List",
          "FM1,2,,,," + std::string(40, 'n') + ",1,2",
          {10, 1, 0, 1},
-         "nnnnnnnnnnnnnnnnnnnnnnnnnnnnnnn",
-         0,
-         0,
-         0,
-         1,
-         2},
+         std::string(31, 'n'),
+         {0, 0, 0, 1, 2}},
     };
     for (const auto& c : cases) {
         Deliver(CLIP + c.path, c.value);
@@ -343,12 +322,13 @@ TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
         const int user = c.place.row;
         const int sub = c.place.index;
         const int no = c.place.extra;
-        EXPECT_STREQ(ClipEvent_Tally_Name(user, sub, no), c.name);
-        EXPECT_EQ(ClipEvent_Tally_Event(user, sub, no), c.event) << c.value;
-        EXPECT_EQ(ClipEvent_Tally_AutoPlay(user, sub, no), c.autoplay) << c.value;
-        EXPECT_EQ(ClipEvent_Tally_Loop(user, sub, no), c.loop) << c.value;
-        EXPECT_EQ(ClipEvent_Tally_Start_TC(user, sub, no), c.start) << c.value;
-        EXPECT_EQ(ClipEvent_Tally_Stop_TC(user, sub, no), c.stop) << c.value;
+        EXPECT_EQ(ClipEvent_Tally_Name(user, sub, no), c.name);
+        EXPECT_EQ(
+            c.numbers,
+            (Numbers{ClipEvent_Tally_Event(user, sub, no), ClipEvent_Tally_AutoPlay(user, sub, no),
+                     ClipEvent_Tally_Loop(user, sub, no), ClipEvent_Tally_Start_TC(user, sub, no),
+                     ClipEvent_Tally_Stop_TC(user, sub, no)}))
+            << c.value;
     }
 }
 
