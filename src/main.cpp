@@ -17,6 +17,7 @@
 #include "page.h"
 #include "pane.h"
 #include "process.h"
+#include "register.h"
 #include "saver.h"
 #include "selfdiag.h"
 #include "setup_index.h"
@@ -74,6 +75,7 @@ static void sig_chld(int)
 static void quit()
 {
     Global_FreeBusNames();
+    Register_Free();
     FMCtrl_Quit();
     FMCtrl3_Quit();
     FreeGraphics();
