@@ -1,6 +1,7 @@
 // PageTable, joined at compile time from the rows of the menu groups.
 #include "dme.h"
 #include "fm.h"
+#include "gallery.h"
 #include "machines.h"
 #include "me_key.h"
 #include "me_top.h"
@@ -17,7 +18,7 @@ static constexpr auto me_key_rows = KeyRows<KeyRowCount(me_key_pages)>(me_key_pa
 static constexpr size_t page_rows = std::size(top_pages) + me_top_rows.size() + me_key_rows.size() +
                                     std::size(fm_pages) + std::size(sources_pages) + std::size(operation_pages) +
                                     std::size(dme_pages) + std::size(machines_pages) + std::size(registers_pages) +
-                                    std::size(system_pages) + std::size(saver_pages) + 1;
+                                    std::size(system_pages) + std::size(saver_pages) + std::size(gallery_pages) + 1;
 
 struct AllRows {
     PAGE row[page_rows];
@@ -41,6 +42,7 @@ static constexpr AllRows JoinRows()
     add(registers_pages);
     add(system_pages);
     add(saver_pages);
+    add(gallery_pages);
     return all; // the last row keeps PAGE_END
 }
 

@@ -9,7 +9,7 @@ inline constexpr BT_TBL bt_screen_saver_setup[] = {
     Action(     {.id = 50, .caption = "Default", .group = "Name", .cmd = {"LOCAL@Screen Sever@Setup@Default#*"}}),
     Action(     {.id = 51, .caption = "Image\nFile Path", .group = "Pictures", .cmd = {"LOCAL@Screen Sever@Setup@Path#*"}}),
     Action(     {.id = 52, .caption = "Push\nSTART", .group = "Preview", .cmd = {"LOCAL@Screen Sever@Setup@Push START#*"}}),
-    Jump(       {.id = 54, .caption = "Diag", .cmd = {"#74110000"}}),
+    Jump(       {.id = 54, .caption = "Engineer-\ning", .cmd = {"#99910000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_screen_saver_setup));
