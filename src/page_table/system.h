@@ -38,6 +38,7 @@ inline constexpr BT_TBL bt_diag[] = {
     Action(     {.id = 18, .caption = "Clear\nLog", .group = "Report", .cmd = {"~@Clear Log#*"}}),
     Jump(       {.id = 33, .caption = "Error\nList", .group = "Lists", .cmd = {"#99000000"}}),
     Jump(       {.id = 34, .caption = "History", .group = "Lists", .cmd = {"#74120000"}}),
+    Jump(       {.id = 49, .caption = "Engineer-\ning", .group = "Development", .cmd = {"#99910000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
