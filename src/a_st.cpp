@@ -191,6 +191,21 @@ static uint32_t target_of(uint32_t base)
     return id;
 }
 
+// On the pages of a sub side the first word of the tree is a subtree of its own. A key has no part
+// in it: its pages, also those of keys 5 to 8, stand under the bank.
+static void leave_sub_side(char* path)
+{
+    static constexpr char SUB_SIDE[] = " SUB@";
+    constexpr size_t length = sizeof SUB_SIDE - 1;
+    char* at = strstr(path, SUB_SIDE);
+    if (!at)
+        return;
+    const char* word = at + length;
+    const bool is_key = BeginsWith(word, "Key") || BeginsWith(word, "DSK");
+    if (is_key && word[3] >= '1' && word[3] <= '8' && word[4] == '@')
+        memmove(at, at + length - 1, strlen(at + length - 1) + 1);
+}
+
 // The buffers are 256 KB a cell: only entries in use are touched.
 static void fill_cell(ST_MEM& c, const ST_TBL& row)
 {
@@ -208,6 +223,7 @@ static void fill_cell(ST_MEM& c, const ST_TBL& row)
     c.used = used;
     for (int i = 0; i < used; i++) {
         DecodeCommand(c.cmd[i], row.cmd[i], CMD_SIZE);
+        leave_sub_side(c.cmd[i]);
         c.cmd_hash[i] = c.cmd[i][0] ? Hash(c.cmd[i]) : NO_HASH;
         c.tally[i][0] = '\0';
     }

@@ -4,10 +4,18 @@
 #include "me_tabs.h"
 #include <array>
 
+enum BankKind : int { ANY_BANK, ONLY_ME, ONLY_PGM }; // a table that spells out the words of keys serves one kind
+
 struct MePage {
     PAGE page;
     Side where = BOTH;
+    BankKind kind = ANY_BANK;
 };
+
+constexpr bool IsOn(const MePage& p, const Bank& bank)
+{
+    return (p.where & bank.side) && (p.kind == ANY_BANK || (p.kind == ONLY_PGM) == bank.is_pgm);
+}
 
 // What a table object of the template carries as a page id (the parent of a sub page) moves with its page.
 constexpr PAGE Shifted(PAGE row, uint32_t offset)
@@ -40,7 +48,7 @@ template <size_t N> constexpr size_t KeyRowCount(const MePage (&pages)[N])
     for (const Bank& bank : me_banks)
         for (const Key& key : me_keys)
             for (const MePage& p : pages)
-                if (key.side == bank.side && (p.where & bank.side)) count++;
+                if (key.side == bank.side && IsOn(p, bank)) count++;
     return count;
 }
 template <size_t ROWS, size_t N> constexpr std::array<PAGE, ROWS> KeyRows(const MePage (&pages)[N])
@@ -50,7 +58,7 @@ template <size_t ROWS, size_t N> constexpr std::array<PAGE, ROWS> KeyRows(const 
     for (const Bank& bank : me_banks)
         for (const Key& key : me_keys)
             for (const MePage& p : pages)
-                if (key.side == bank.side && (p.where & bank.side)) rows[n++] = ForBankAndKey(p.page, bank, key);
+                if (key.side == bank.side && IsOn(p, bank)) rows[n++] = ForBankAndKey(p.page, bank, key);
     return rows;
 }
 
@@ -60,7 +68,7 @@ template <size_t N> constexpr size_t BankRowCount(const MePage (&pages)[N])
     size_t count = 0;
     for (const Bank& bank : me_banks)
         for (const MePage& p : pages)
-            if (p.where & bank.side) count++;
+            if (IsOn(p, bank)) count++;
     return count;
 }
 template <size_t ROWS, size_t N> constexpr std::array<PAGE, ROWS> BankRows(const MePage (&pages)[N])
@@ -69,6 +77,6 @@ template <size_t ROWS, size_t N> constexpr std::array<PAGE, ROWS> BankRows(const
     size_t n = 0;
     for (const Bank& bank : me_banks)
         for (const MePage& p : pages)
-            if (p.where & bank.side) rows[n++] = ForBank(p.page, bank);
+            if (IsOn(p, bank)) rows[n++] = ForBank(p.page, bank);
     return rows;
 }

@@ -3,6 +3,7 @@
 #include "me_banks.h"
 #include "patterns.h"
 #include "pulldowns.h"
+#include "st_me_key.h"
 
 // --- Type ---
 
@@ -95,7 +96,6 @@ inline constexpr BT_TBL bt_me_key_chroma_adjust[] = {
     Action({.id = 36, .caption = "Sample\nMark",    .group = "Auto Chroma", .cmd = {"~@Sample Mark#*"}}),
     Action({.id = 37, .caption = "Auto\nStart",     .group = "Auto Chroma", .cmd = {"~@Auto Start#*"}}),
     Action({.id = 38, .caption = "Undo",            .group = "Auto Chroma", .cmd = {"~@Undo#*"}}),
-    Jump  ({.id = 6,  .caption = "Type",            .cmd = {"#+11110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_chroma_adjust));
@@ -107,7 +107,6 @@ inline constexpr BT_TBL bt_me_key_matte_adjust[] = {
     Radio ({.id = 34, .caption = "Color 2",     .group = "Color", .cmd = {"~@Color#Color 2", "~@Mode#Flat"}}),
     Action({.id = 35, .caption = "Copy\n1 to 2", .group = "Color", .cmd = {"~@Copy#*", "~@Mode#Flat"}}),
     Action({.id = 36, .caption = "Swap",        .group = "Color", .cmd = {"~@Swap#*", "~@Mode#Flat"}}),
-    Jump  ({.id = 6,  .caption = "Type",        .cmd = {"#+11110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_matte_adjust));
@@ -121,7 +120,6 @@ inline constexpr BT_TBL bt_me_key_signal_select[] = {
     Radio ({.id = 33, .caption = "Key Bus",   .group = "Key Source Signal", .cmd = {"~@Source#Key Bus"}}),
     Radio ({.id = 34, .caption = "Utility 1", .group = "Key Source Signal", .cmd = {"~@Source#Utility 1"}}),
     Radio ({.id = 35, .caption = "Utility 2", .group = "Key Source Signal", .cmd = {"~@Source#Utility 2"}}),
-    Jump  ({.id = 6,  .caption = "Type",      .cmd = {"#+11110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_signal_select));
@@ -241,21 +239,21 @@ static_assert(ButtonsAreSound(bt_me_key_submask));
 
 inline constexpr MePage me_key_pages[] = {
     {.page = {.id = 0x11110000, .tree = {"M/E-1", "Key1", "Type"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non), Cells(st_me_key)}}},
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},
-              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_chroma_adjust)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_chroma_adjust), Cells(st_me_key)}}},
     {.page = {.id = 0x11110002, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust"},
-              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_matte_adjust)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_matte_adjust), Cells(st_me_key)}}},
     {.page = {.id = 0x11110003, .tree = {"M/E-1", "Key1", "Type", "Signal Select"},
-              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select), Cells(st_me_key)}}},
     {.page = {.id = 0x11120000, .tree = {"M/E-1", "Key1", "Edge"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 2), Buttons(bt_me_key_edge), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 2), Buttons(bt_me_key_edge), Boxes(NB_Non), Cells(st_me_key)}}},
     {.page = {.id = 0x11130000, .tree = {"M/E-1", "Key1", "Main Mask"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Buttons(bt_me_key_mainmask), Boxes(NB_Non), Code(pc_pulldown)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Buttons(bt_me_key_mainmask), Boxes(NB_Non), Cells(st_me_key), Code(pc_pulldown)}}},
     {.page = {.id = 0x11130001, .tree = {"M/E-1", "Key1", "Main Mask", "Ptn Select"},
               .obj = {Base(base_sub, 0x11130000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Boxes(NB_Non), Patterns(ps_me_key_mainmask_maskptnsel)}}},
     {.page = {.id = 0x11140000, .tree = {"M/E-1", "Key1", "Sub Mask"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 4), Buttons(bt_me_key_submask), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 4), Buttons(bt_me_key_submask), Boxes(NB_Non), Cells(st_me_key)}}},
 };
 
 static_assert(ForBankAndKey(me_key_pages[0].page, me_banks[1], me_keys[1]).id == 0x12210000);

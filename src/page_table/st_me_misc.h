@@ -33,9 +33,9 @@ inline constexpr ST_TBL st_me_misc[] = {
     ST_END,
 };
 inline constexpr ST_TBL st_me_misc_sub[] = {
-    CellAt(0, 0, {.id = 1, .draw_func = st_drw_me_misc_transition,        .cmd = ST_TRANSITION("~1 SUB@Misc")}),
-    CellAt(1, 0, {.id = 3, .draw_func = st_drw_me_misc_key_priority_gray, .cmd = ST_PRIORITY("~1 SUB@Misc@Key Priority"), .jamp_id_base = 0x15730000}),
-    CellAt(2, 0, {.id = 4, .draw_func = st_drw_me_misc_video_proc,        .cmd = ST_VIDEO("~1 SUB@Misc"), .jamp_id_base = 0x15720000}),
+    CellAt(0, 0, {.id = 1, .draw_func = st_drw_me_misc_transition,        .cmd = ST_TRANSITION("~1@Misc")}),
+    CellAt(1, 0, {.id = 3, .draw_func = st_drw_me_misc_key_priority_gray, .cmd = ST_PRIORITY("~1@Misc@Key Priority"), .jamp_id_base = 0x15730000}),
+    CellAt(2, 0, {.id = 4, .draw_func = st_drw_me_misc_video_proc,        .cmd = ST_VIDEO("~1@Misc"), .jamp_id_base = 0x15720000}),
     ST_END,
 };
 static_assert(CellsAreSound(st_me_misc) && CellsAreSound(st_me_misc_sub));

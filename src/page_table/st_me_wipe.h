@@ -1,5 +1,5 @@
 // st_me_wipe: the status cells over the wipe pages of a bank. The sub side of a bank has a wipe of its own, with one
-// pattern; its paths begin with the bank's word and " SUB".
+// pattern; "~1" is its subtree there.
 #pragma once
 #include "rows.h"
 
@@ -29,12 +29,12 @@ inline constexpr ST_TBL st_me_wipe[] = {
     ST_END,
 };
 inline constexpr ST_TBL st_me_wipe_sub[] = {
-    CellAt(0, 0, {.id = 1, .draw_func = st_drw_me_wipe_main_pattern,  .cmd = ST_WIPE_PATTERN("~1 SUB@Wipe", "Main Pattern"), .jamp_id_base = 0x15510000}),
-    CellAt(1, 0, {.id = 3, .draw_func = st_drw_me_wipe_main_position, .cmd = ST_WIPE_POSITION("~1 SUB@Wipe", "Main Pattern"), .jamp_id_base = 0x15510000}),
-    CellAt(2, 0, {.id = 4, .draw_func = st_drw_me_wipe_mp2sub_modify, .cmd = ST_WIPE_MODIFY("~1 SUB@Wipe", "Main Modify"), .jamp_id_base = 0x15540000}),
-    CellAt(3, 0, {.id = 5, .draw_func = st_drw_me_wipe_direction,     .cmd = ST_WIPE_DIRECTION("~1 SUB@Wipe"), .jamp_id_base = 0x15530000}),
-    CellAt(4, 0, {.id = 6, .draw_func = st_drw_me_wipe_edge,          .cmd = ST_WIPE_EDGE("~1 SUB@Wipe"), .jamp_id_base = 0x15530000}),
-    CellAt(5, 0, {.id = 7, .draw_func = st_drw_me_wipe_edge_2,        .cmd = ST_WIPE_EDGE("~1 SUB@Wipe"), .jamp_id_base = 0x15530000}),
+    CellAt(0, 0, {.id = 1, .draw_func = st_drw_me_wipe_main_pattern,  .cmd = ST_WIPE_PATTERN("~1@Wipe", "Main Pattern"), .jamp_id_base = 0x15510000}),
+    CellAt(1, 0, {.id = 3, .draw_func = st_drw_me_wipe_main_position, .cmd = ST_WIPE_POSITION("~1@Wipe", "Main Pattern"), .jamp_id_base = 0x15510000}),
+    CellAt(2, 0, {.id = 4, .draw_func = st_drw_me_wipe_mp2sub_modify, .cmd = ST_WIPE_MODIFY("~1@Wipe", "Main Modify"), .jamp_id_base = 0x15540000}),
+    CellAt(3, 0, {.id = 5, .draw_func = st_drw_me_wipe_direction,     .cmd = ST_WIPE_DIRECTION("~1@Wipe"), .jamp_id_base = 0x15530000}),
+    CellAt(4, 0, {.id = 6, .draw_func = st_drw_me_wipe_edge,          .cmd = ST_WIPE_EDGE("~1@Wipe"), .jamp_id_base = 0x15530000}),
+    CellAt(5, 0, {.id = 7, .draw_func = st_drw_me_wipe_edge_2,        .cmd = ST_WIPE_EDGE("~1@Wipe"), .jamp_id_base = 0x15530000}),
     ST_END,
 };
 static_assert(CellsAreSound(st_me_wipe) && CellsAreSound(st_me_wipe_sub));

@@ -517,3 +517,64 @@ TEST_F(StatusCells, ACentreTextIsSplitOrStandsOnOneLine)
             EXPECT_GT(width, 60) << c.text;
     }
 }
+
+// --- The cells of all pages ---
+
+static bool Overlap(const ST_TBL& c, const BT_TBL& b)
+{
+    return c.x1 <= b.x2 && b.x1 <= c.x2 && c.y1 <= b.y2 && b.y1 <= c.y2;
+}
+
+static const void* TableOf(const PAGE& page, int type)
+{
+    for (const auto& object : page.obj)
+        if (object.type == type)
+            return object.addr;
+    return nullptr;
+}
+
+TEST_F(StatusCells, EachCellOfEachPageLeadsToAPageAndCoversNoButton)
+{
+    int cells = 0;
+    for (PAGE* p = PageTable; p->id != PAGE_END; p++) {
+        const auto* rows = static_cast<const ST_TBL*>(TableOf(*p, OBJ_ST));
+        if (!rows)
+            continue;
+        Page = p;
+        GL_NowPage = p->id;
+        GL_NowTree = p->tree;
+        Open(rows);
+        for (const ST_TBL* c = rows; c->id >= 1; c++) {
+            cells++;
+            const uint32_t id = PageOfCell(*c);
+            EXPECT_TRUE(!c->jamp_id_base || SearchPageTable_Free_ALL(PageTable, id))
+                << std::hex << p->id << " " << id;
+            const auto* b = static_cast<const BT_TBL*>(TableOf(*p, OBJ_BT));
+            for (; b && b->id >= 1; b++)
+                EXPECT_FALSE(Overlap(*c, *b)) << std::hex << p->id << " " << b->caption;
+        }
+    }
+    EXPECT_GT(cells, 4000);
+}
+
+TEST_F(StatusCells, AnOverviewSpeaksOfTheKeysOfItsBank)
+{
+    static const struct {
+        uint32_t id;
+        const char* path; // of the third key's type
+        uint32_t target;
+    } cases[] = {
+        {0x12000000, "M/E-2@Key3@Type@Key Type", 0x12310000},
+        {0x14000000, "PGM/PST@DSK3@Type@Key Type", 0x14310000},
+        {0x18000000, "PGM/PST@DSK7@Type@Key Type", 0x18310000},
+        {0x85000000, "M/E-4@Key7@Type@Key Type", 0x85310000},
+    };
+    for (const auto& c : cases) {
+        PAGE* p = SearchPageTable_Free_ALL(PageTable, c.id);
+        ASSERT_TRUE(p);
+        SetTree({p->tree[0]}, c.id);
+        Open(static_cast<const ST_TBL*>(TableOf(*p, OBJ_ST)));
+        EXPECT_THAT(TakeQueuedCommands(), Contains(std::string("add ") + c.path));
+        EXPECT_EQ(PageAt(150, 75 + 2 * 90 + 45), c.target);
+    }
+}
