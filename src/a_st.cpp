@@ -108,10 +108,18 @@ static void keep(ST_MEM& copy, const ST_MEM& c)
         CopyText(copy.tally[i], c.tally[i]);
 }
 
+// Null for a cell that is none of the page's.
+static ST_MEM* last_shown_of(const ST_MEM* cell)
+{
+    for (int i = 0; i < ST_MAX; i++)
+        if (cell == &Status[i])
+            return &LastShown[i];
+    return nullptr;
+}
+
 ST_MEM* st_shown(ST_MEM* cell)
 {
-    const ptrdiff_t index = cell - Status;
-    ST_MEM* copy = index >= 0 && index < ST_MAX ? &LastShown[index] : nullptr;
+    ST_MEM* copy = last_shown_of(cell);
     if (has_tally(*cell)) {
         if (copy)
             keep(*copy, *cell);

@@ -546,6 +546,7 @@ TEST_F(StatusCells, EachCellOfEachPageLeadsToAPageAndCoversNoButton)
         Open(rows);
         for (const ST_TBL* c = rows; c->id >= 1; c++) {
             cells++;
+            EXPECT_TRUE(c->draw_func) << std::hex << p->id;
             const uint32_t id = PageOfCell(*c);
             EXPECT_TRUE(!c->jamp_id_base || SearchPageTable_Free_ALL(PageTable, id))
                 << std::hex << p->id << " " << id;
