@@ -7,7 +7,7 @@
 #include "bus.h"
 #include "command.h"
 #include "message.h"
-#include "page_table/gallery.h"
+#include "page_table/gallery_shared.h"
 #include "text.h"
 #include <cstring>
 #include <iterator>

@@ -4,7 +4,7 @@
 #include "a_pc.h"
 #include "global.h"
 #include "message.h"
-#include "page_table/gallery.h"
+#include "page_table/gallery_shared.h"
 #include "pane.h"
 #include "tdl.h"
 #include "text.h"
