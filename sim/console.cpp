@@ -1,4 +1,5 @@
 #include "console.h"
+#include "console_command.h"
 #include "fault.h"
 #include "link.h"
 #include "log.h"
@@ -9,36 +10,8 @@
 #include <algorithm>
 #include <cctype>
 #include <climits>
-#include <deque>
 #include <fstream>
 #include <unistd.h>
-
-namespace
-{
-struct Line {
-    std::string text;
-    int number = 0; // in the script
-};
-
-// A source of commands and where it stands.
-struct Runner {
-    const char* name = "";
-    bool is_script = false; // a mistake or a line that doesn't come ends the program
-    std::deque<Line> lines;
-    int line_number = 0; // of the line that is being run
-    int64_t wait_until_ms = 0;
-    std::string expected; // pattern; empty: not waiting for a line
-    int64_t expect_until_ms = 0;
-    int64_t heard = 0; // number of the first client line that "expect" has not looked at
-};
-
-struct Command {
-    const char* word = "";
-    const char* arguments = "";
-    const char* help = "";
-    bool (*func)(Runner& runner, const std::string& rest) = nullptr; // false: wrong arguments
-};
-} // namespace
 
 static constexpr int EXPECT_MS = 5000;
 static constexpr int MS_MAX = 24 * 3600 * 1000;
@@ -55,13 +28,13 @@ static struct {
 
 // --- Arguments ---
 
-static bool con_on_off(const std::string& text, bool* on)
+bool Console_OnOff(const std::string& text, bool* on)
 {
     *on = text == "on";
     return text == "on" || text == "off";
 }
 
-static bool con_number(const std::string& text, long from, long to, long* number)
+bool Console_Number(const std::string& text, long from, long to, long* number)
 {
     return Text_ToInt(text, number) && *number >= from && *number <= to;
 }
@@ -127,9 +100,9 @@ static bool con_knob(Runner&, const std::string& rest)
 {
     const auto part = Text_Split(rest, ' ');
     long knob = 0, detents = 0;
-    if (part.size() != 2 || !con_number(part[0], 0, KNOBS - 1, &knob))
+    if (part.size() != 2 || !Console_Number(part[0], 0, KNOBS - 1, &knob))
         return false;
-    if (!con_number(part[1], -100000, 100000, &detents))
+    if (!Console_Number(part[1], -100000, 100000, &detents))
         return false;
     Verb_Knob(int(knob), int(detents));
     return true;
@@ -180,7 +153,7 @@ static bool con_raw(Runner&, const std::string& rest)
 static bool con_wait(Runner& runner, const std::string& rest)
 {
     long ms = 0;
-    if (!con_number(rest, 0, MS_MAX, &ms))
+    if (!Console_Number(rest, 0, MS_MAX, &ms))
         return false;
     runner.wait_until_ms = Now_Ms() + ms;
     return true;
@@ -198,9 +171,10 @@ static bool con_expect(Runner& runner, const std::string& rest)
             return false;
         pattern = rest.substr(1, quote - 1);
         const std::string timeout = Text_Trim(rest.substr(quote + 1));
-        if (!timeout.empty() && !con_number(timeout, 0, MS_MAX, &ms))
+        if (!timeout.empty() && !Console_Number(timeout, 0, MS_MAX, &ms))
             return false;
-    } else if (blank != std::string::npos && con_number(rest.substr(blank + 1), 0, MS_MAX, &ms)) {
+    } else if (blank != std::string::npos &&
+               Console_Number(rest.substr(blank + 1), 0, MS_MAX, &ms)) {
         pattern = Text_Trim(rest.substr(0, blank));
     } else {
         ms = EXPECT_MS;
@@ -213,7 +187,7 @@ static bool con_expect(Runner& runner, const std::string& rest)
 static bool con_log(Runner&, const std::string& rest)
 {
     bool on = false;
-    if (!con_on_off(rest, &on))
+    if (!Console_OnOff(rest, &on))
         return false;
     Log_SetEcho(on);
     return true;
@@ -254,7 +228,7 @@ static bool con_drop(Runner&, const std::string& rest)
     static const char* const names[] = {"text", "bin", "hub"};
     const auto part = Text_Split(rest, ' ');
     long ms = 0;
-    if (part.size() > 2 || (part.size() == 2 && !con_number(part[1], 0, MS_MAX, &ms)))
+    if (part.size() > 2 || (part.size() == 2 && !Console_Number(part[1], 0, MS_MAX, &ms)))
         return false;
     for (int kind = 0; kind < LINK_KINDS; ++kind) {
         if (part[0] != names[kind])
@@ -268,7 +242,7 @@ static bool con_drop(Runner&, const std::string& rest)
 static bool con_stall(Runner&, const std::string& rest)
 {
     long ms = 0;
-    if (!con_number(rest, 0, MS_MAX, &ms))
+    if (!Console_Number(rest, 0, MS_MAX, &ms))
         return false;
     Link_Stall(int(ms));
     return true;
@@ -277,7 +251,7 @@ static bool con_stall(Runner&, const std::string& rest)
 static bool con_dribble(Runner&, const std::string& rest)
 {
     bool on = false;
-    if (!con_on_off(rest, &on))
+    if (!Console_OnOff(rest, &on))
         return false;
     Link_Pieces(on ? 1 : 0, 0);
     return true;
@@ -286,7 +260,7 @@ static bool con_dribble(Runner&, const std::string& rest)
 static bool con_split(Runner&, const std::string& rest)
 {
     long bytes = 0;
-    if (!con_number(rest, 0, 1 << 20, &bytes))
+    if (!Console_Number(rest, 0, 1 << 20, &bytes))
         return false;
     Link_Pieces(size_t(bytes), SPLIT_GAP_MS);
     return true;
@@ -295,7 +269,7 @@ static bool con_split(Runner&, const std::string& rest)
 static bool con_flood(Runner&, const std::string& rest)
 {
     long lines = 0;
-    if (!con_number(rest, 0, 100000000, &lines))
+    if (!Console_Number(rest, 0, 100000000, &lines))
         return false;
     Fault_Flood(lines);
     return true;
@@ -304,7 +278,7 @@ static bool con_flood(Runner&, const std::string& rest)
 static bool con_garbage(Runner&, const std::string& rest)
 {
     long ms = 0;
-    if (!con_number(rest, 0, MS_MAX, &ms))
+    if (!Console_Number(rest, 0, MS_MAX, &ms))
         return false;
     Fault_Garbage(int(ms));
     return true;
@@ -313,7 +287,7 @@ static bool con_garbage(Runner&, const std::string& rest)
 static bool con_refuse(Runner&, const std::string& rest)
 {
     bool on = false;
-    if (!con_on_off(rest, &on))
+    if (!Console_OnOff(rest, &on))
         return false;
     Link_Refuse(on);
     return true;
@@ -322,7 +296,7 @@ static bool con_refuse(Runner&, const std::string& rest)
 static bool con_ng(Runner&, const std::string& rest)
 {
     bool on = false;
-    if (!con_on_off(rest, &on))
+    if (!Console_OnOff(rest, &on))
         return false;
     Verb_SetNg(on);
     return true;
@@ -358,11 +332,23 @@ static constexpr Command commands[] = {
     {"quit", "", "end", con_quit},
 };
 
+static const std::span<const Command> command_sets[] = {commands, console_effect_commands};
+
 static bool con_help(Runner&, const std::string&)
 {
-    for (const Command& command : commands)
-        printf("  %-8s %-18s %s\n", command.word, command.arguments, command.help);
+    for (const auto& set : command_sets)
+        for (const Command& command : set)
+            printf("  %-9s %-24s %s\n", command.word, command.arguments, command.help);
     return true;
+}
+
+static const Command* con_command(const std::string& word)
+{
+    for (const auto& set : command_sets)
+        for (const Command& command : set)
+            if (word == command.word)
+                return &command;
+    return nullptr;
 }
 
 // A mistake: a message for a person, the end for a script.
@@ -377,7 +363,7 @@ static void con_fail(const Runner& runner, const std::string& why)
         Console_Quit(1);
 }
 
-static void con_run(Runner& runner, const Line& line)
+static void con_run(Runner& runner, const ConsoleLine& line)
 {
     runner.line_number = line.number;
     const std::string text = Text_Trim(line.text);
@@ -387,14 +373,11 @@ static void con_run(Runner& runner, const Line& line)
     const size_t blank = text.find(' ');
     const std::string word = text.substr(0, blank);
     const std::string rest = blank == std::string::npos ? "" : Text_Trim(text.substr(blank));
-    for (const Command& command : commands) {
-        if (word != command.word)
-            continue;
-        if (!command.func(runner, rest))
-            con_fail(runner, std::string("usage: ") + command.word + " " + command.arguments);
-        return;
-    }
-    con_fail(runner, "no such command: " + word + " (try help)");
+    const Command* const command = con_command(word);
+    if (!command)
+        con_fail(runner, "no such command: " + word + " (try help)");
+    else if (!command->func(runner, rest))
+        con_fail(runner, std::string("usage: ") + command->word + " " + command->arguments);
 }
 
 // True when the runner may go on to its next line.
@@ -420,7 +403,7 @@ static int64_t con_advance(Runner& runner, int64_t now)
     while (!cn.has_quit && con_is_ready(runner, now)) {
         if (runner.lines.empty() || cn.has_quit)
             return INT64_MAX;
-        const Line line = runner.lines.front();
+        const ConsoleLine line = runner.lines.front();
         runner.lines.pop_front();
         con_run(runner, line);
     }

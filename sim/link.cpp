@@ -1,5 +1,6 @@
 #include "link.h"
 #include "log.h"
+#include "stream.h"
 #include "system.h"
 #include "text.h"
 #include "tree.h"
@@ -131,7 +132,11 @@ static void link_lose(Client& client, const char* why)
 static void link_sweep()
 {
     for (const Client& client : lk.clients) {
-        if (client.fd >= 0 || client.kind != LINK_TEXT)
+        if (client.fd >= 0)
+            continue;
+        if (client.kind == LINK_BIN)
+            Stream_ForgetClient(client.number);
+        if (client.kind != LINK_TEXT)
             continue;
         Tree_ForgetClient(client.number);
         System_Lost(client.number);
@@ -256,6 +261,14 @@ static void link_split_lines(Client& client)
     client.in.clear();
 }
 
+static void link_frame(int client, const std::string& frame)
+{
+    unsigned id = 0;
+    for (size_t at = FRAME_HEAD; at-- > 3;)
+        id = id << 8 | (unsigned char)frame[at];
+    Stream_Receive(client, (unsigned char)frame[2], id, std::string_view(frame).substr(FRAME_HEAD));
+}
+
 // A frame: length L low byte first, command, id (4), data, and 0xFF 0xFF behind the L bytes. There
 // is no way back into step but the next connection, so a bad frame costs all that was received.
 static void link_split_frames(Client& client)
@@ -272,8 +285,10 @@ static void link_split_frames(Client& client)
             client.in.clear();
             return;
         }
-        link_hear(client, "bin " + Text_Hex(client.in.substr(0, length + 2)));
+        const std::string frame = client.in.substr(0, length + 2);
         client.in.erase(0, length + 2);
+        link_hear(client, "bin " + Text_Hex(frame));
+        link_frame(client.number, frame.substr(0, length));
     }
 }
 

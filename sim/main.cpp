@@ -6,6 +6,7 @@
 #include "log.h"
 #include "system.h"
 #include "text.h"
+#include "timeline.h"
 #include "values.h"
 #include "verbs.h"
 #include <algorithm>
@@ -93,7 +94,8 @@ static void main_turn(int64_t* next)
     const int64_t then = Now_Ms();
     // The console first: what it starts is due at once.
     *next = Console_Tick(then);
-    *next = std::min({*next, Verb_Tick(then), System_Tick(then), Fault_Tick(then)});
+    *next = std::min(
+        {*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then), Fault_Tick(then)});
 }
 
 int main(int argc, char** argv)

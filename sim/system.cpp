@@ -1,7 +1,10 @@
 #include "system.h"
 #include "link.h"
 #include "log.h"
+#include "region.h"
+#include "stream.h"
 #include "text.h"
+#include "timeline.h"
 #include "tree.h"
 #include "verbs.h"
 #include <algorithm>
@@ -260,6 +263,19 @@ void System_Install()
     sys_crosspoints();
     sys_tenkeys();
     sys_folders();
+    Timeline_Install();
+}
+
+// The processors are numbered from the panel's own on: 1 panel, 2 switcher, 3 to 6 effects units.
+// What runs on a unit stops with it.
+void System_SetDme(int unit, bool is_up)
+{
+    Tree_Show("Info@Processor Status@" + std::to_string(unit + 2), is_up ? "OK" : "NG");
+    std::vector<int> gone;
+    for (int i = 0; i < REGION_COUNT; ++i)
+        if (Regions()[size_t(i)].unit == unit)
+            gone.push_back(i);
+    Timeline_Rewind(gone);
 }
 
 int System_FrameRate()
@@ -320,6 +336,7 @@ void System_Restart()
     Log_Note("restart");
     sy.announcements.clear();
     Verb_Forget();
+    Stream_Forget();
     Tree_Clear();
     System_Install();
     for (const int client : Link_Clients(LINK_TEXT)) {

@@ -12,5 +12,6 @@ void System_Announce(int client, bool on);
 void System_Connected(int client);
 void System_Lost(int client);
 void System_Restart(); // the tree at its defaults, subscriptions forgotten, all clients told
-int64_t System_Tick(int64_t now); // returns the time of the next line of an announcement
-int System_FrameRate();           // whole frames a second of the first switcher
+void System_SetDme(int unit, bool is_up); // 1 to 4
+int64_t System_Tick(int64_t now);         // returns the time of the next line of an announcement
+int System_FrameRate();                   // whole frames a second of the first switcher

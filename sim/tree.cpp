@@ -184,6 +184,16 @@ void Tree_Preset(const std::string& path, const std::string& value)
         words.push_back(value);
 }
 
+void Tree_SetKind(const std::string& path, ValueKind kind)
+{
+    Node* node = Tree_Get(path);
+    if (!node)
+        return;
+    node->type = {.kind = kind, .words = {}};
+    node->initial = Tree_Start(node->type);
+    node->value = node->initial;
+}
+
 void Tree_Follow(Node& node, int client)
 {
     std::vector<int>& list = node.followers;
@@ -223,4 +233,13 @@ void Tree_Tell(const Node& node, const std::string& value, int also_client)
     }
     if (!is_told)
         Link_SendLine(also_client, line);
+}
+
+void Tree_Show(const std::string& path, const std::string& value)
+{
+    Node* node = Tree_Get(path);
+    if (!node || node->value == value)
+        return;
+    node->value = value;
+    Tree_Tell(*node, value, 0);
 }

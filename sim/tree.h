@@ -56,7 +56,9 @@ void Tree_Clear();
 PutResult Tree_Put(Node& node, const std::string& wanted, std::string* tally);
 bool Tree_Default(Node& node);                                       // true when it changed
 void Tree_Preset(const std::string& path, const std::string& value); // value and default
-std::string Tree_NumberText(const ValueType& type, double number);   // clamped and rounded
+// What the value file says doesn't count here: the simulator acts on this value itself.
+void Tree_SetKind(const std::string& path, ValueKind kind);
+std::string Tree_NumberText(const ValueType& type, double number); // clamped and rounded
 std::string Tree_Start(const ValueType& type); // the default that follows from a type
 
 // --- Telling ---
@@ -64,5 +66,7 @@ void Tree_Follow(Node& node, int client); // twice is once
 void Tree_Unfollow(Node& node, int client);
 void Tree_ForgetClient(int client);
 void Tree_Answer(const Node& node, int client); // the whole value, a list row by row
+// A value that the switcher itself has changed, to all followers; the same value, nothing to tell.
+void Tree_Show(const std::string& path, const std::string& value);
 // One value to all followers and to one more client, who hears it once; 0 for none.
 void Tree_Tell(const Node& node, const std::string& value, int also_client);

@@ -3,6 +3,7 @@
 #include "log.h"
 #include "system.h"
 #include "text.h"
+#include "timeline.h"
 #include "tree.h"
 #include <algorithm>
 #include <climits>
@@ -20,6 +21,12 @@ struct Verb {
     const char* word = "";
     bool has_value = false; // the command carries "#VALUE"
     void (*func)(int client, const std::string& path, const std::string& value) = nullptr;
+};
+
+// Who acts on the puts below a path. True: it has shown the value itself.
+struct Owner {
+    const char* prefix = "";
+    bool (*put)(const std::string& path, const std::string& value) = nullptr;
 };
 } // namespace
 
@@ -57,6 +64,31 @@ static void verb_remove(int client, const std::string& path, const std::string&)
         Tree_Unfollow(*node, client);
 }
 
+static constexpr Owner owners[] = {
+    {"Key Frame@", Timeline_Put},
+};
+
+static bool verb_follows(const Node& node, int client)
+{
+    return std::find(node.followers.begin(), node.followers.end(), client) != node.followers.end();
+}
+
+// True when an owner has taken the put; the sender then has its answer.
+static bool verb_put_to_owner(int client, const std::string& path, const std::string& value)
+{
+    const std::string before = Tree_Get(path)->value;
+    for (const Owner& owner : owners) {
+        if (!Text_Begins(path, owner.prefix) || !owner.put(path, value))
+            continue;
+        const Node& node = *Tree_Get(path);
+        const bool is_told = node.value != before && verb_follows(node, client);
+        if (!is_told)
+            Tree_Answer(node, client);
+        return true;
+    }
+    return false;
+}
+
 // The sender hears the outcome even when nothing changed: its page shows the server's word, not its
 // own wish.
 static void verb_put(int client, const std::string& path, const std::string& value)
@@ -66,6 +98,8 @@ static void verb_put(int client, const std::string& path, const std::string& val
     Node* node = Tree_Get(path);
     if (!node)
         return Link_SendLine(client, path + "#");
+    if (!vb.is_ng && verb_put_to_owner(client, path, value))
+        return;
     std::string tally = node->value;
     const PutResult result = vb.is_ng ? PUT_REFUSED : Tree_Put(*node, value, &tally);
     switch (result) {

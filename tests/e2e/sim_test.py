@@ -647,16 +647,16 @@ class Scripts(SimTest):
             self.assertEqual(self.run_script(text + "\nquit\n"), (0, ""), name)
 
 
-def main():
+def main(file):
     global SIM
     build = os.path.abspath(sys.argv[1])
     if not os.environ.get("SIM_TEST_SANDBOX"):
         os.environ["SIM_TEST_SANDBOX"] = "1"
-        command = [os.path.join(REPO, "tools", "sandbox"), sys.executable, os.path.abspath(__file__)]
+        command = [os.path.join(REPO, "tools", "sandbox"), sys.executable, os.path.abspath(file)]
         sys.exit(subprocess.run(command + [build] + sys.argv[2:]).returncode)
     SIM = os.path.join(build, "bin", "scs_sim")
     unittest.main(argv=sys.argv[:1] + sys.argv[2:])
 
 
 if __name__ == "__main__":
-    main()
+    main(__file__)

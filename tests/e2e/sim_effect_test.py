@@ -1,0 +1,434 @@
+"""The simulator's regions: the frames of the binary link, byte by byte, and what makes them move.
+
+usage: sim_effect_test.py BUILD_DIR [TEST...]
+"""
+
+import signal
+import time
+
+import sim_test
+from sim_test import BIN, SimTest
+
+SELECTION, POSITION, EFFECT = 0x000200AA, 0x001000AA, 0x001100AA
+JOIN, SEND = 0x008200AA, 0x008100AA
+PP, ME1, ME2, ME4, USER1, DME2, DME2_GLB, DEV1, DEV9, RTR = 0, 1, 2, 80, 8, 17, 33, 48, 56, 66
+HOUR = 3600 * 30  # frames; every time axis begins there
+RUN = "Key Frame@Timeline@"
+SELECT = "Key Frame@Region Select@"
+
+
+def word(data, at):
+    return data[at] << 8 | data[at + 1]
+
+
+def frames(bcd):
+    """A time code of four decimal bytes at 30 frames a second."""
+    digits = [byte >> 4 for byte in bcd] + [byte & 15 for byte in bcd]
+    assert max(digits[1:4] + digits[4:]) <= 9 and digits[0] & 7 <= 2, bcd
+    hours, minutes, seconds, count = (10 * (b >> 4) + (b & 15) for b in (bcd[0] & 0x3F, bcd[1], bcd[2], bcd[3]))
+    assert minutes < 60 and seconds < 60 and count < 30, bcd
+    total = ((hours * 60 + minutes) * 60 + seconds) * 30 + count
+    return -total if bcd[0] & 0x80 else total
+
+
+class Effect:
+    def __init__(self, data):
+        self.code, self.number, self.name = data[0], word(data, 1), data[3:11]
+        self.locked, self.free, self.count = data[11] == 2, word(data, 12), word(data, 16)
+        self.start, self.delay, self.end, self.duration = (frames(data[at:at + 4]) for at in (18, 22, 26, 30))
+        self.loop = word(data, 34), word(data, 36), data[38]
+        self.keys = [(word(data, at) & 0x07FF, word(data, at) & 0x8000 != 0) for at in range(39, len(data), 2)]
+
+
+class Position:
+    def __init__(self, data):
+        assert len(data) == 12, data
+        self.code, self.time, self.key, self.run = data[0], frames(data[3:7]) - HOUR, word(data, 7), data[9]
+        self.loop_on, self.loops_left = data[11] >> 7, data[11] & 0x7F
+
+
+class Panel:
+    """The binary link of one panel."""
+
+    def __init__(self, client):
+        self.client = client
+
+    def send(self, command, number, data=b""):
+        length = len(data) + 7
+        self.client.socket.sendall(bytes([length & 255, length >> 8, command]) + number.to_bytes(4, "little") + data +
+                                   b"\xff\xff")
+
+    def join(self, *codes):
+        for code in codes:
+            self.send(4, JOIN, bytes([1, code, 1, 0]))
+        self.send(4, SEND)
+
+    def frame(self, seconds=3):
+        """Id and data of the next frame, None when none comes in time."""
+        end = time.monotonic() + seconds
+        while True:
+            have = self.client.bytes
+            if len(have) >= 2 and len(have) >= word(have, 0) + 2:  # high byte first on the way to a panel
+                break
+            if not self.client._fill(end - time.monotonic()):
+                return None
+        length = word(have, 0)
+        frame, self.client.bytes = have[:length + 2], have[length + 2:]
+        assert frame[2] == 132 and frame[-2:] == b"\xff\xff" and len(frame) <= 1040, frame.hex()
+        return int.from_bytes(frame[3:7], "little"), frame[7:-2]
+
+    def next(self, number, seconds=3):
+        """The data of the next frame with this id; others are left out."""
+        end = time.monotonic() + seconds
+        while True:
+            frame = self.frame(end - time.monotonic())
+            if frame is None:
+                raise AssertionError(f"no frame {number:06X}")
+            if frame[0] == number:
+                return frame[1]
+
+    def selection(self):
+        return self.next(SELECTION)
+
+    def effect(self):
+        return Effect(self.next(EFFECT))
+
+    def position(self, seconds=3):
+        return Position(self.next(POSITION, seconds))
+
+    def run_until(self, condition, seconds=5):
+        """All positions up to the one that the condition holds for."""
+        positions = [self.position(seconds)]
+        while not condition(positions[-1]):
+            positions.append(self.position(seconds))
+        return positions
+
+    def quiet(self, seconds=0.3):
+        return self.frame(seconds) is None
+
+    def drain(self):
+        while self.frame(0.15):
+            pass
+
+
+class StreamTest(SimTest):
+    def panel(self, *codes, streams=(SELECTION, POSITION, EFFECT)):
+        panel = Panel(self.client(BIN))
+        for stream in streams:
+            panel.send(1, stream)
+        if codes:
+            panel.join(*codes)
+        panel.drain()
+        return panel
+
+    def told(self, client, *lines):
+        """The client hears these lines next, in any order."""
+        self.assertEqual(sorted(client.lines(len(lines))), sorted(lines))
+
+
+class Streams(StreamTest):
+    def test_each_stream_comes_only_to_who_asked_and_until_it_is_ended(self):
+        panel = Panel(self.client(BIN))
+        panel.join(ME1)
+        self.do("kf M/E-1 2 10", "select M/E-2 on")
+        self.assertTrue(panel.quiet())
+        panel.send(1, SELECTION)
+        self.assertEqual(panel.frame()[0], SELECTION)  # the state as it is now
+        panel.send(5, SELECTION)
+        self.assertEqual(panel.frame()[0], SELECTION)
+        panel.send(1, EFFECT)
+        panel.send(4, SEND)
+        self.assertEqual(panel.effect().code, ME1)
+        panel.send(1, POSITION)
+        panel.send(4, SEND, bytes([ME1]))
+        self.assertEqual((panel.effect().code, panel.position().code), (ME1, ME1))
+        panel.send(2, EFFECT)
+        panel.send(2, SELECTION)
+        self.do("wait 100", "kf M/E-1 3 10", "select M/E-2 off", "kf M/E-2 3 10")
+        self.assertEqual(panel.frame()[0], POSITION)
+        self.assertTrue(panel.quiet())
+
+    def test_the_list_of_regions_is_answered_for_all_of_them(self):
+        codes = [*range(4), *range(8, 24), *range(32, 40), *range(48, 60), 64, 65, 66, 69, 80, 82]
+        panel = self.panel(streams=(EFFECT,))
+        for code in codes + [68]:  # no region has 68
+            panel.send(4, JOIN, bytes([1, code, 1, 0]))
+        panel.send(4, SEND)
+        self.assertEqual(sorted(panel.effect().code for _ in codes), sorted(codes))
+        self.assertTrue(panel.quiet())
+
+    def test_the_selection_has_a_bit_for_each_region(self):
+        panel = self.panel()
+        for region in ("M/E-1", "P/P"):
+            self.do(f"select {region} off")
+        panel.drain()
+        cases = [("P/P", 1, 0), ("M/E-1", 1, 1), ("M/E-3", 1, 3), ("P/P Sub", 1, 4), ("M/E-3 Sub", 1, 7),
+                 ("User1", 2, 0), ("User8", 2, 7), ("DME1", 3, 0), ("DME8 GLB", 3, 7), ("Dev1", 5, 0),
+                 ("Dev8", 5, 7), ("Dev9", 6, 0), ("Dev12", 6, 3), ("P-Bus", 6, 4), ("GPI", 6, 5), ("RTR", 6, 6),
+                 ("MACRO", 6, 7), ("M/E-4", 7, 0), ("M/E-4 Sub", 7, 1), ("M/E-5", 7, 2), ("M/E-5 Sub", 7, 3)]
+        for region, byte, bit in cases:
+            self.do(f"select {region} on")
+            on = panel.selection()
+            self.assertEqual({at: value for at, value in enumerate(on[1:], 1) if value}, {byte: 1 << bit}, region)
+            self.do(f"select {region} off")
+            self.assertEqual(set(panel.selection()[1:]), {0})
+
+    def test_the_effect_frame_carries_every_field(self):
+        panel = self.panel(ME4)
+        self.do("kf M/E-4 3 70", "pause M/E-4 2", "loop M/E-4 1 3 5", "delay M/E-4 45")
+        for _ in range(3):
+            panel.effect()
+        effect = panel.effect()
+        self.assertEqual((effect.code, effect.number, effect.locked, effect.count, effect.free), (ME4, 0, False, 3, 493))
+        self.assertEqual(effect.keys, [(70, False), (70, True), (0, False)])
+        self.assertEqual((effect.start, effect.delay, effect.end, effect.duration), (HOUR + 45, 45, HOUR + 185, 140))
+        self.assertEqual(effect.loop, (1, 3, 5))
+        self.assertEqual(len(effect.name), 8)
+
+    def test_the_largest_effect_still_fits_a_panels_buffer(self):
+        panel = self.panel(ME1)
+        self.do("kf M/E-1 496 2047", "kf M/E-1 497 1", "kf M/E-1 1 2048")
+        effect = panel.effect()
+        self.assertEqual((effect.count, effect.free, len(effect.keys)), (496, 0, 496))
+        self.assertEqual(effect.keys[0], (2047, False))
+        self.assertEqual(effect.duration, 495 * 2047)
+        panel.drain()
+        self.assertTrue(panel.quiet())
+
+    def test_a_restart_forgets_subscriptions_and_a_second_read_brings_all_again(self):
+        text, panel = self.client(), self.panel(ME1)
+        text.send("put Info@Initial Read Status#true")
+        text.until("Info@Initial Read Status#0,end")
+        for _ in range(2):
+            self.do("kf M/E-1 4 10", "select M/E-2 on")
+            panel.drain()
+            self.do("restart")
+            text.until("Info@Initial Read Status#0,end")
+            self.do("kf M/E-1 5 10")
+            self.assertTrue(panel.quiet())
+            panel.send(1, SELECTION)
+            self.assertEqual(panel.selection()[1], 0b11)
+            panel.send(1, EFFECT)
+            panel.send(1, POSITION)
+            panel.join(ME1)
+            self.assertEqual((panel.effect().count, panel.position().key), (5, 1))
+
+    def test_a_panel_that_does_not_read_keeps_its_link(self):
+        self.do("kf M/E-1 496 2047", *[f"kf Dev{n} 496 2047" for n in range(1, 13)], "run M/E-1",
+                *[f"run Dev{n}" for n in range(1, 13)])
+        panel = self.panel(streams=())
+        panel.send(1, POSITION)
+        panel.join(ME1, *range(DEV1, DEV1 + 12))
+        time.sleep(0.5)
+        self.do("stop")
+        self.assertGreater(len(panel.run_until(lambda p: p.code == ME1 and p.run == 0)), 12 * 10)
+
+
+class Running(StreamTest):
+    def setUp(self):
+        super().setUp()
+        self.text = self.client()
+        self.panel1 = self.panel(ME1)
+
+    def load(self, *commands):
+        self.do(*commands)
+        self.panel1.drain()
+
+    def test_a_run_moves_the_cursor_by_one_frame_at_the_rate_of_the_format(self):
+        self.load("kf M/E-1 3 20")
+        started = time.monotonic()
+        self.do("run M/E-1")
+        run = self.panel1.run_until(lambda p: p.run == 0)
+        took = time.monotonic() - started
+        self.assertEqual([p.time for p in run], list(range(41)))
+        self.assertEqual([run[at].key for at in (0, 19, 20, 39, 40)], [1, 1, 2, 2, 3])
+        self.assertEqual({p.run for p in run[:-1]}, {1})
+        self.assertGreater(took, 40 / 30 - 0.05)
+        self.assertLess(took, 40 / 30 + 0.7)
+
+    def test_the_format_sets_the_rate_and_the_time_code(self):
+        self.load("set Engineering Setup@System@Format@Video Format@SWR1#25/50,1080i", "kf M/E-1 2 50")
+        self.panel1.send(4, SEND)
+        data = self.panel1.next(EFFECT)
+        self.assertEqual(data[26:34], bytes([1, 0, 2, 0, 0, 0, 2, 0]))  # two seconds
+        self.panel1.position()
+        started = time.monotonic()
+        self.do("run M/E-1")
+        while self.panel1.next(POSITION)[9]:
+            pass
+        self.assertGreater(time.monotonic() - started, 1.95)
+
+    def test_a_pause_holds_until_the_next_run(self):
+        self.load("kf M/E-1 3 5", "pause M/E-1 2")
+        self.do("run M/E-1")
+        self.assertEqual(self.panel1.run_until(lambda p: p.run == 0)[-1].time, 5)
+        self.do("run M/E-1")
+        self.assertEqual(self.panel1.run_until(lambda p: p.run == 0)[-1].key, 3)
+        self.do("run M/E-1")
+        again = self.panel1.run_until(lambda p: p.run == 0)  # from the end it starts over
+        self.assertEqual((again[0].time, again[-1].time, again[-1].key), (0, 5, 2))
+
+    def test_reverse_and_the_jumps_to_both_ends(self):
+        self.load("kf M/E-1 3 5")
+        self.do("ff M/E-1")
+        self.assertEqual(self.panel1.position().time, 10)
+        self.do("reverse M/E-1")
+        run = self.panel1.run_until(lambda p: p.run == 0)
+        self.assertEqual([p.time for p in run], list(range(10, -1, -1)))
+        self.assertEqual({p.run for p in run[:-1]}, {0x11})
+        self.do("kf M/E-1 2 300", "run M/E-1")
+        self.panel1.run_until(lambda p: p.time > 3)
+        self.do("rewind M/E-1")
+        self.assertEqual([p.run for p in self.panel1.run_until(lambda p: p.time == 0)][-1], 0)
+
+    def test_a_loop_counts_its_passes_down_and_goes_on(self):
+        self.load("kf M/E-1 4 4", "loop M/E-1 2 3 3")
+        self.do("run M/E-1")
+        run = self.panel1.run_until(lambda p: p.run == 0)
+        self.assertEqual([p.time for p in run], [*range(8), *range(4, 8), *range(4, 13)])
+        self.assertEqual({p.loop_on for p in run}, {1})
+        self.assertEqual([run[at].loops_left for at in (0, 7, 8, 11, 12, 16)], [3, 3, 2, 2, 1, 0])
+
+    def test_an_endless_loop_ends_when_it_is_switched_off(self):
+        self.load("kf M/E-1 3 3")
+        self.text.send(f"put {RUN}Loop#true")
+        self.do("wait 50", "run M/E-1")
+        self.panel1.run_until(lambda p: p.time == 5)
+        self.panel1.run_until(lambda p: p.time == 5)
+        self.text.send(f"put {RUN}Loop#false")
+        self.assertEqual(self.panel1.run_until(lambda p: p.run == 0)[-1].time, 6)
+
+    def test_a_delay_comes_before_the_first_keyframe(self):
+        self.load("kf M/E-1 2 5", "delay M/E-1 6")
+        self.do("run M/E-1")
+        run = self.panel1.run_until(lambda p: p.run == 0)
+        self.assertEqual([p.time for p in run], list(range(12)))
+        self.assertEqual([run[at].key for at in (0, 6, 11)], [1, 1, 2])
+        self.text.send(f"put {RUN}Delay#false")
+        self.assertEqual(self.panel1.effect().delay, 0)
+        self.do("run M/E-1")
+        self.assertEqual(self.panel1.run_until(lambda p: p.run == 0)[-1].time, 5)
+
+    def test_nothing_runs_without_keyframes(self):
+        self.do("kf M/E-1 0 0", "run M/E-1", "kf M/E-1 1 100", "run M/E-1")
+        for _ in range(4):
+            self.assertEqual(self.panel1.position().run, 0)
+        self.assertTrue(self.panel1.quiet())
+
+    def test_time_in_which_the_program_stood_still_is_not_made_up_for(self):
+        self.load("kf M/E-1 2 2000")
+        self.do("run M/E-1")
+        before = self.panel1.run_until(lambda p: p.time > 5)[-1].time
+        self.sim.send_signal(signal.SIGSTOP)
+        time.sleep(2)
+        self.sim.send_signal(signal.SIGCONT)
+        self.do("stop M/E-1")
+        last = self.panel1.run_until(lambda p: p.run == 0)[-1]
+        self.assertLess(last.time, before + 40)
+
+
+class Keys(StreamTest):
+    """The text commands of the timeline pages."""
+
+    def setUp(self):
+        super().setUp()
+        self.text = self.client()
+        self.other = self.client()
+
+    def test_the_run_keys_act_on_the_selected_regions_and_show_what_runs(self):
+        panel = self.panel(ME1, ME2, PP)
+        self.do("kf M/E-1 2 12", "kf M/E-2 2 12", "kf P/P 2 300")
+        panel.drain()
+        self.other.send(f"add {RUN}Run", f"add {RUN}Reverse", f"add {RUN}Stop")
+        self.assertEqual(self.other.sync(), [f"{RUN}{key}#false" for key in ("Run", "Reverse", "Stop")])
+        self.text.send(f"put {RUN}Run#true")
+        self.assertEqual(self.text.line(), f"{RUN}Run#true")
+        self.assertEqual(self.other.line(), f"{RUN}Run#true")
+        moved = {p.code for p in panel.run_until(lambda p: p.code == ME1 and p.run == 0)}
+        self.assertEqual(moved, {ME1, PP})
+        self.text.send(f"put {RUN}Reverse#true")
+        self.told(self.other, f"{RUN}Run#false", f"{RUN}Reverse#true")
+        self.text.send(f"put {RUN}Stop#true")
+        self.told(self.other, f"{RUN}Reverse#false", f"{RUN}Stop#true", f"{RUN}Stop#false")
+        self.text.send(f"put {RUN}Run#true")
+        self.told(self.other, f"{RUN}Run#true")
+        self.do("rewind")
+        self.told(self.other, f"{RUN}Run#false")
+
+    def test_ping_pong_turns_at_both_ends(self):
+        panel = self.panel(ME1)
+        self.do("kf M/E-1 2 4")
+        self.text.send(f"put {RUN}Ping-Pong#true", f"put {RUN}Ping-Pong#true")
+        self.assertEqual(self.text.sync(), [f"{RUN}Ping-Pong#true"] * 2)
+        panel.drain()
+        self.do("run M/E-1")
+        self.assertEqual([panel.position().time for _ in range(11)], [0, 1, 2, 3, 4, 3, 2, 1, 0, 1, 2])
+
+    def test_a_region_is_selected_and_made_the_reference_by_name(self):
+        panel = self.panel()
+        self.other.send(f"add {SELECT}Ref Region Set", f"add {SELECT}Region Enable@DME2",
+                        f"add {SELECT}Region Enable@DME2 GLB", f"add {SELECT}Region Enable@M/E-1")
+        self.assertEqual(self.other.sync(), [f"{SELECT}Ref Region Set#M/E-1", f"{SELECT}Region Enable@DME2#false",
+                                             f"{SELECT}Region Enable@DME2 GLB#false",
+                                             f"{SELECT}Region Enable@M/E-1#true"])
+        self.text.send(f"put {SELECT}Ref Region Set#DME2")
+        self.assertEqual(self.text.line(), f"{SELECT}Ref Region Set#DME2")
+        self.told(self.other, f"{SELECT}Region Enable@DME2#true", f"{SELECT}Region Enable@DME2 GLB#true",
+                  f"{SELECT}Ref Region Set#DME2")
+        data = panel.selection()
+        self.assertEqual((data[0], data[1], data[3]), (DME2, 0b11, 0b10))
+        self.text.send(f"put {SELECT}Region Enable@DME2#false")  # the reference goes to one that is still selected
+        self.assertEqual(panel.selection(), bytes([ME1, 0b11, 0, 0, 0, 0, 0, 0]))
+        self.text.send(f"put {SELECT}Ref Region Set#Nowhere", f"put {SELECT}Region Enable@M/E-1#maybe")
+        self.text.line()
+        self.assertEqual(self.text.lines(2), [f"{SELECT}Ref Region Set#M/E-1", f"{SELECT}Region Enable@M/E-1#true"])
+        self.assertTrue(panel.quiet())
+
+    def test_edits_change_the_keyframe_at_the_cursor_and_can_be_undone(self):
+        panel = self.panel(ME1)
+        self.do("select P/P off", "kf M/E-1 3 40")
+        panel.drain()
+
+        def keys(command):
+            self.text.send(f"put {RUN}{command}#true")
+            return [duration for duration, _ in panel.effect().keys]
+        self.assertEqual(keys("Insert"), [30, 40, 40, 0])  # on a keyframe: a second more
+        self.assertEqual(keys("Undo"), [40, 40, 0])
+        self.text.send(f"put {RUN}Const Dur#true")
+        self.assertEqual(keys("Insert"), [20, 20, 40, 0])
+        self.text.send(f"put {RUN}Copy#true")
+        self.assertEqual(keys("Paste"), [20, 20, 20, 40, 0])
+        panel.drain()
+        self.do("ff M/E-1")
+        self.assertEqual(panel.position().key, 5)
+        self.assertEqual(keys("Delete"), [20, 20, 20, 40])
+        self.assertEqual(keys("Undo"), [20, 20, 20, 40, 0])
+        self.text.send(f"put {RUN}Const Dur#false")
+        self.assertEqual(keys("Delete"), [20, 20, 20, 0])
+
+    def test_no_good_moves_nothing(self):
+        panel = self.panel(ME1)
+        self.do("kf M/E-1 2 100", "ng on")
+        panel.drain()
+        self.text.send(f"put {RUN}Run#true", f"put {SELECT}Region Enable@M/E-2#true")
+        self.assertEqual(self.text.lines(2), [f"{RUN}Run#false", f"{SELECT}Region Enable@M/E-2#false"])
+        self.assertTrue(panel.quiet())
+
+    def test_a_unit_that_fails_says_so_and_takes_its_channels_along(self):
+        panel = self.panel(DME2, ME1)
+        self.do("kf DME2 2 300", "kf M/E-1 2 300", "run DME2", "run M/E-1")
+        panel.run_until(lambda p: p.code == DME2 and p.time > 2)
+        self.other.send("add Info@Processor Status@3", "add Info@Processor Status@4")
+        self.other.lines(2)
+        self.do("dme down 1")
+        self.assertEqual(self.other.line(), "Info@Processor Status@3#NG")
+        stopped = panel.run_until(lambda p: p.code == DME2 and p.run == 0)[-1]
+        self.assertEqual(stopped.time, 0)
+        self.assertEqual(panel.run_until(lambda p: p.code == ME1)[-1].run, 1)
+        self.do("dme up 1")
+        self.assertEqual(self.other.line(), "Info@Processor Status@3#OK")
+        self.assertEqual(self.other.sync(), [])
+
+
+if __name__ == "__main__":
+    sim_test.main(__file__)
