@@ -116,7 +116,7 @@ static std::string stream_effect(int index)
     put16(data, line.number);
     data += name;
     put8(data, line.is_locked ? 2 : 0);
-    put16(data, STREAM_KEYFRAMES - int(effect.keys.size()));
+    put16(data, int(TIMELINE_KEYFRAMES - effect.keys.size()));
     put16(data, 0);
     put16(data, int(effect.keys.size()));
     put_time(data, start);

@@ -3,8 +3,6 @@
 #pragma once
 #include <string_view>
 
-constexpr int STREAM_KEYFRAMES = 496; // a panel takes frames of 1040 bytes: the rest has no room
-
 void Stream_Receive(int client, int command, unsigned id, std::string_view data);
 void Stream_ForgetClient(int client);
 void Stream_Forget(); // the server restarts

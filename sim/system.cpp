@@ -2,6 +2,7 @@
 #include "link.h"
 #include "log.h"
 #include "region.h"
+#include "store.h"
 #include "stream.h"
 #include "text.h"
 #include "timeline.h"
@@ -61,16 +62,23 @@ static const Preset presets[] = {
     {"Info@Processor Status", "1..6", "OK"},
 
     {"Engineering Setup@System@System Config@System Operation Mode", PNLS, "Single Proc"},
-    {"Engineering Setup@System@System Config@Setup Target", "", "1"},
+    {"Engineering Setup@System@System Config@Setup Target", "", "0"}, // the first switcher
     {"Engineering Setup@System@System Config@S-Bus Remote", "", "false"},
     {"Engineering Setup@System@Format@Video Format", ALL_UNITS, "29.97/59.94,1080i"},
+    {"Engineering Setup@System@Format@Video Format2", SWRS, "3,6,0"}, // size, frequency, scan
     {"Engineering Setup@System@Format@Reference", "SWR1,SWR2,DME1,DME2,DME3,DME4,PNL1,PNL2", "BB"},
     {"Engineering Setup@System@Format@3D Mode", "SWR1,SWR2,DME1,DME2,DME3,DME4", "Off"},
     {"Engineering Setup@System@Format@4K Mode", "", "Off"},
-    {"Engineering Setup@Panel@Model", PNLS, "9"},
-    {"Engineering Setup@Switcher@Model", SWRS, "10"},
+    {"Info@Board Config@Unit Model", PNLS, "9"},
+    {"Info@Board Config@Unit Model", SWRS, "10"},
+    // An entry for each place; 0 is an empty one.
+    {"Info@Board Config@Board Exist Set",
+     "SWR1@EEPROM,SWR1@Auto Scan,SWR2@EEPROM,SWR2@Auto Scan,DME1,DME2,DME3,DME4",
+     "1,1,1,1,1,1,1,1"},
     {"Engineering Setup@DME@Model", DMES, "4"},
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
+    {"MPE@Fx@Channel@Selected", "", "F"}, // masks of channels, hexadecimal
+    {"MPE@Fx@Channel@Reference", "", "1"},
     {"Engineering Setup@MPE@Config@SCU Select", "MPE1", "1"},
     {"Engineering Setup@MPE@Config@SWR Select", "MPE1", "1"},
     {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "", "4"},
@@ -201,14 +209,9 @@ static void sys_preset(const Preset& preset)
 
 static void sys_list(const std::string& path, const std::vector<std::string>& rows, bool kill_first)
 {
-    Node* node = Tree_Get(path);
-    if (!node)
-        return;
-    node->type = {};
-    node->type.kind = KIND_LIST;
-    node->rows = rows;
-    node->initial_rows = rows;
-    node->kill_first = kill_first;
+    Tree_SetList(path, rows, 1);
+    if (Node* node = Tree_Get(path))
+        node->kill_first = kill_first;
 }
 
 static std::vector<std::string> sys_numbered(const char* word, int first, int last)
@@ -264,6 +267,15 @@ void System_Install()
     sys_tenkeys();
     sys_folders();
     Timeline_Install();
+    Store_Install();
+}
+
+bool System_PutMpe(const std::string& path, const std::string& digits)
+{
+    const bool is_mask = digits.size() == 8 && digits.find_first_not_of("01") == std::string::npos;
+    if (is_mask)
+        Tree_Show(path, Text_Format("%lX", strtoul(digits.c_str(), nullptr, 2)));
+    return true; // anything else is answered with the old one
 }
 
 // The processors are numbered from the panel's own on: 1 panel, 2 switcher, 3 to 6 effects units.

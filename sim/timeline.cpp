@@ -366,7 +366,7 @@ static void edit(int region, void (*func)(Timeline&, bool), bool is_constant)
 {
     Timeline& line = tl.lines[region];
     const Effect before = line.effect;
-    if (func != edit_undo && before.keys.size() >= size_t(STREAM_KEYFRAMES) && func != edit_delete)
+    if (func != edit_undo && before.keys.size() >= TIMELINE_KEYFRAMES && func != edit_delete)
         return;
     func(line, is_constant);
     if (line.effect.keys == before.keys)

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+constexpr size_t TIMELINE_KEYFRAMES = 496;    // more don't fit into a panel's 1040 bytes
 constexpr int KEYFRAME_FRAMES = 2047;         // of one keyframe: 11 bits on the wire
 constexpr int LOOPS_MAX = 127;                // 7 bits
 constexpr int TIMELINE_ORIGIN_SECONDS = 3600; // every time axis begins at 01:00:00:00

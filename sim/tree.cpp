@@ -122,16 +122,19 @@ static bool tree_accept(const ValueType& type, const std::string& wanted, std::s
     return true;
 }
 
-static std::string tree_key(const std::string& row)
+static std::string_view tree_key(const Node& node, std::string_view row)
 {
-    return row.substr(0, row.find(','));
+    size_t end = row.find(',');
+    for (int field = 1; field < node.key_fields && end != row.npos; ++field)
+        end = row.find(',', end + 1);
+    return row.substr(0, end);
 }
 
 static PutResult tree_put_row(Node& node, const std::string& row, std::string* tally)
 {
     *tally = row;
     for (std::string& old : node.rows) {
-        if (tree_key(old) != tree_key(row))
+        if (tree_key(node, old) != tree_key(node, row))
             continue;
         if (old == row)
             return PUT_SAME;
@@ -194,6 +197,18 @@ void Tree_SetKind(const std::string& path, ValueKind kind)
     node->value = node->initial;
 }
 
+void Tree_SetList(const std::string& path, const std::vector<std::string>& rows, int key_fields)
+{
+    Node* node = Tree_Get(path);
+    if (!node)
+        return;
+    node->type = {};
+    node->type.kind = KIND_LIST;
+    node->rows = rows;
+    node->initial_rows = rows;
+    node->key_fields = key_fields;
+}
+
 void Tree_Follow(Node& node, int client)
 {
     std::vector<int>& list = node.followers;
@@ -242,4 +257,14 @@ void Tree_Show(const std::string& path, const std::string& value)
         return;
     node->value = value;
     Tree_Tell(*node, value, 0);
+}
+
+void Tree_ShowRow(const std::string& path, const std::string& row)
+{
+    Node* node = Tree_Get(path);
+    std::string tally;
+    if (!node || tree_put_row(*node, row, &tally) != PUT_CHANGED)
+        return;
+    node->initial_rows = node->rows;
+    Tree_Tell(*node, row, 0);
 }

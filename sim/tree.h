@@ -13,7 +13,7 @@ enum ValueKind {
     KIND_WORD,   // one of the words, or "null": released
     KIND_NUM,    // a number that is clamped to the limits
     KIND_ACTION, // "true" makes it happen and falls back by itself
-    KIND_LIST,   // rows; the text before a row's first comma is its key
+    KIND_LIST,   // rows; the first field of a row, or the first two, are its key
 };
 
 struct ValueType {
@@ -31,6 +31,7 @@ struct Node {
     std::string initial; // what "default" brings back
     std::vector<std::string> rows;
     std::vector<std::string> initial_rows;
+    int key_fields = 1;
     bool kill_first = false;    // a full answer begins with "KILL": it replaces what the client has
     std::vector<int> followers; // client numbers
 };
@@ -56,8 +57,9 @@ void Tree_Clear();
 PutResult Tree_Put(Node& node, const std::string& wanted, std::string* tally);
 bool Tree_Default(Node& node);                                       // true when it changed
 void Tree_Preset(const std::string& path, const std::string& value); // value and default
-// What the value file says doesn't count here: the simulator acts on this value itself.
+// What the value file says doesn't count for these: the simulator acts on them itself.
 void Tree_SetKind(const std::string& path, ValueKind kind);
+void Tree_SetList(const std::string& path, const std::vector<std::string>& rows, int key_fields);
 std::string Tree_NumberText(const ValueType& type, double number); // clamped and rounded
 std::string Tree_Start(const ValueType& type); // the default that follows from a type
 
@@ -68,5 +70,7 @@ void Tree_ForgetClient(int client);
 void Tree_Answer(const Node& node, int client); // the whole value, a list row by row
 // A value that the switcher itself has changed, to all followers; the same value, nothing to tell.
 void Tree_Show(const std::string& path, const std::string& value);
+// The same for one row of a list that no panel may write: its default is what it is.
+void Tree_ShowRow(const std::string& path, const std::string& row);
 // One value to all followers and to one more client, who hears it once; 0 for none.
 void Tree_Tell(const Node& node, const std::string& value, int also_client);

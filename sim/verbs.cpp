@@ -1,6 +1,8 @@
 #include "verbs.h"
 #include "link.h"
 #include "log.h"
+#include "rules.h"
+#include "store.h"
 #include "system.h"
 #include "text.h"
 #include "timeline.h"
@@ -19,7 +21,8 @@ struct Pulse {
 
 struct Verb {
     const char* word = "";
-    bool has_value = false; // the command carries "#VALUE"
+    bool has_value = false;    // the command carries "#VALUE"
+    bool may_have_key = false; // or the key of a list row there
     void (*func)(int client, const std::string& path, const std::string& value) = nullptr;
 };
 
@@ -41,13 +44,19 @@ static const std::string KNOB_COUNTS =
     "Panel@Common@Knob"; // and a digit: the panel wants the bare detents
 static const std::string INITIAL_READ = "Info@Initial Read Status";
 
-static void verb_add(int client, const std::string& path, const std::string&)
+static void verb_add(int client, const std::string& path, const std::string& key)
 {
     Node* node = Tree_Get(path);
     if (!node)
         return Link_SendLine(client, path + "#");
+    if (!key.empty() && node->type.kind != KIND_LIST)
+        return Log_Note("client %d: no list: %.200s", client, path.c_str());
     Tree_Follow(*node, client);
-    Tree_Answer(*node, client);
+    if (key.empty())
+        return Tree_Answer(*node, client);
+    for (const std::string& row : node->rows)
+        if (Text_Begins(row, key + ","))
+            Link_SendLine(client, path + "#" + row);
 }
 
 static void verb_read(int client, const std::string& path, const std::string&)
@@ -66,6 +75,13 @@ static void verb_remove(int client, const std::string& path, const std::string&)
 
 static constexpr Owner owners[] = {
     {"Key Frame@", Timeline_Put},
+    {"Effect@", Store_Put},
+    {"Snapshot@", Store_Put},
+    {"Master@Effect@", Store_Put},
+    {"Shotbox@", Store_Put},
+    {"Macro@", Store_Put},
+    {"Register@All Delete@", Store_Put},
+    {"MPE@Fx@Channel@Reference", System_PutMpe},
 };
 
 static bool verb_follows(const Node& node, int client)
@@ -76,6 +92,8 @@ static bool verb_follows(const Node& node, int client)
 // True when an owner has taken the put; the sender then has its answer.
 static bool verb_put_to_owner(int client, const std::string& path, const std::string& value)
 {
+    if (path.size() + 1 + value.size() > TALLY_BYTES)
+        return false;
     const std::string before = Tree_Get(path)->value;
     for (const Owner& owner : owners) {
         if (!Text_Begins(path, owner.prefix) || !owner.put(path, value))
@@ -113,6 +131,7 @@ static void verb_put(int client, const std::string& path, const std::string& val
     case PUT_CHANGED: break;
     }
     Tree_Tell(*node, tally, client);
+    Rules_Follow(path, tally);
 }
 
 // A context, not a state: nobody is told. The menu is each panel's own.
@@ -168,9 +187,10 @@ static void verb_assign(int client, const std::string& knob, const std::string& 
 }
 
 static constexpr Verb verbs[] = {
-    {"add", false, verb_add},      {"read", false, verb_read},     {"put", true, verb_put},
-    {"set", true, verb_set},       {"remove", false, verb_remove}, {"default", false, verb_default},
-    {"assign", true, verb_assign},
+    {"add", false, true, verb_add},       {"read", false, false, verb_read},
+    {"put", true, false, verb_put},       {"set", true, false, verb_set},
+    {"remove", false, true, verb_remove}, {"default", false, false, verb_default},
+    {"assign", true, false, verb_assign},
 };
 
 static bool verb_is_text(const std::string& line)
@@ -188,7 +208,8 @@ void Verb_Line(int client, const std::string& line)
             continue;
         const bool has_value = hash != std::string::npos;
         const size_t path_end = has_value ? hash : line.size();
-        if (has_value != verb.has_value || path_end <= blank + 1 || path_end - blank > TALLY_BYTES)
+        const bool is_formed = has_value == verb.has_value || (has_value && verb.may_have_key);
+        if (!is_formed || path_end <= blank + 1 || path_end - blank > TALLY_BYTES)
             break;
         const std::string path = line.substr(blank + 1, path_end - blank - 1);
         return verb.func(client, path, has_value ? line.substr(hash + 1) : "");
