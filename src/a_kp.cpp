@@ -37,11 +37,17 @@ enum : int { XPT, HUE, CURVE, CELLS };
 enum : int { TENS, CONT, BIAS, SPLINES };
 enum : int { NOT_KNOWN = -1, IS_MIXED = -2 }; // other than the index of a choice
 
+struct Choice {
+    const char* word; // on the wire
+    SDL_Surface** picture;
+    int last_type; // the last PATHSEL_ that offers it
+};
 struct CellColumn {
     const char* caption;
     const char* path; // behind the row's own
     int x;
     int window_x; // where the window of the column opens
+    std::span<const Choice> choices;
 };
 struct SplineColumn {
     const char* caption;
@@ -62,38 +68,36 @@ struct KP_MEM {
 };
 } // namespace
 
+// In the order of the numbers that the window answers with.
+static constexpr Choice xpt_choices[] = {
+    {"Hold", &G_PATH_xpt_hold, PATHSEL_XPT},
+    {"Change", &G_PATH_xpt_change, PATHSEL_XPT},
+};
+static constexpr Choice hue_choices[] = {
+    {"Short", &G_PATH_hue_short, PATHSEL_HUE},
+    {"Long", &G_PATH_hue_long, PATHSEL_HUE},
+    {"CW", &G_PATH_hue_cw, PATHSEL_HUE},
+    {"CCW", &G_PATH_hue_ccw, PATHSEL_HUE},
+};
+static constexpr Choice curve_choices[] = {
+    {"Off", &G_PATH_curve_off, PATHSEL_CURVE3},   {"Linear", &G_PATH_curve_linear, PATHSEL_CURVE2},
+    {"S-Curve", &G_PATH_curve_s, PATHSEL_CURVE1}, {"Spline", &G_PATH_curve_spline, PATHSEL_CURVE0},
+    {"Step", &G_PATH_curve_step, PATHSEL_CURVE3},
+};
+static_assert(std::size(xpt_choices) == PATH_XPT_CHANGE + 1);
+static_assert(std::size(hue_choices) == PATH_HUE_CCW + 1);
+static_assert(std::size(curve_choices) == PATH_CURVE_STEP + 1);
+
 static constexpr CellColumn cell_columns[CELLS] = {
-    {"Xpt", "Xpt", 270, 160},
-    {"Hue", "Hue", 360, 250},
-    {"Curve", "Curve", 450, 340},
+    {"Xpt", "Xpt", 270, 160, xpt_choices},
+    {"Hue", "Hue", 360, 250, hue_choices},
+    {"Curve", "Curve", 450, 340, curve_choices},
 };
 static constexpr SplineColumn spline_columns[SPLINES] = {
     {"Tens", "Curve@Spline@Tens", 516},
     {"Cont", "Curve@Spline@Cont", 561},
     {"Bias", "Curve@Spline@Bias", 606},
 };
-
-#define CHOICE(word, stem)                                                                         \
-    {                                                                                              \
-        word, &G_PATH_##stem, &G_PATHSEL_##stem##_off, &G_PATHSEL_##stem##_on                      \
-    }
-static const KP_CHOICE xpt_choices[] = {
-    CHOICE("Hold", xpt_hold),
-    CHOICE("Change", xpt_change),
-};
-static const KP_CHOICE hue_choices[] = {
-    CHOICE("Short", hue_short),
-    CHOICE("Long", hue_long),
-    CHOICE("CW", hue_cw),
-    CHOICE("CCW", hue_ccw),
-};
-// Each curve type has one less than the type before, from the end.
-static const KP_CHOICE curve_choices[] = {
-    CHOICE("Off", curve_off),   CHOICE("Step", curve_step),     CHOICE("Linear", curve_linear),
-    CHOICE("S-Curve", curve_s), CHOICE("Spline", curve_spline),
-};
-#undef CHOICE
-static constexpr int CURVE_SPLINE = int(std::size(curve_choices)) - 1;
 
 static KP_MEM Row[KP_MAX];
 static ScrollWindow Window; // its total is how many rows there are
@@ -106,21 +110,12 @@ static std::span<KP_MEM> rows()
     return {Row, size_t(Window.total)};
 }
 
-const KP_CHOICE* KP_Choices(int path_type, int* count)
+// Whether the window of a cell has this choice.
+static bool is_offered(const KP_MEM& r, int cell, int choice)
 {
-    *count = 0;
-    if (path_type == PATHSEL_XPT) {
-        *count = int(std::size(xpt_choices));
-        return xpt_choices;
-    }
-    if (path_type == PATHSEL_HUE) {
-        *count = int(std::size(hue_choices));
-        return hue_choices;
-    }
-    if (path_type < PATHSEL_CURVE0 || path_type > PATHSEL_CURVE3)
-        return nullptr;
-    *count = int(std::size(curve_choices)) - (path_type - PATHSEL_CURVE0);
-    return curve_choices;
+    const auto& choices = cell_columns[cell].choices;
+    return choice >= 0 && choice < int(choices.size()) &&
+           r.type[cell] <= choices[size_t(choice)].last_type;
 }
 
 // --- Opening and closing ---
@@ -181,18 +176,20 @@ int KP_Create(const KP_TBL* table, uint32_t)
 
 static void send_choice(const KP_MEM& r, int cell, int choice)
 {
-    int count;
-    const KP_CHOICE* choices = KP_Choices(r.type[cell], &count);
-    if (choice >= 0 && choice < count)
-        Net_SendCommandFormat("put %s%s#%s", r.cmd, cell_columns[cell].path, choices[choice].word);
+    if (!is_offered(r, cell, choice))
+        return;
+    const CellColumn& c = cell_columns[cell];
+    Net_SendCommandFormat("put %s%s#%s", r.cmd, c.path, c.choices[size_t(choice)].word);
 }
 
 // Where no window can be opened the press takes the next word.
 static void step(const KP_MEM& r, int cell)
 {
-    int count;
-    (void)KP_Choices(r.type[cell], &count);
-    send_choice(r, cell, r.value[cell] < 0 ? 0 : (r.value[cell] + 1) % count);
+    const int count = int(cell_columns[cell].choices.size());
+    int choice = r.value[cell] < 0 ? 0 : (r.value[cell] + 1) % count;
+    while (!is_offered(r, cell, choice)) // the first is always there
+        choice = (choice + 1) % count;
+    send_choice(r, cell, choice);
 }
 
 static void press_cell(int n, int cell, int y)
@@ -244,13 +241,12 @@ static int chosen(int path_type, int choice)
 // --- Tally ---
 
 // "Mixed" is the tally of a row that stands for several whose paths differ.
-static int choice_of(int path_type, const char* value)
+static int choice_of(const KP_MEM& r, int cell, const char* value)
 {
-    int count;
-    const KP_CHOICE* choices = KP_Choices(path_type, &count);
-    for (int i = 0; i < count; i++)
-        if (Same(choices[i].word, value))
-            return i;
+    const auto& choices = cell_columns[cell].choices;
+    for (size_t i = 0; i < choices.size(); i++)
+        if (is_offered(r, cell, int(i)) && Same(choices[i].word, value))
+            return int(i);
     return Same(value, "Mixed") ? IS_MIXED : NOT_KNOWN;
 }
 
@@ -266,7 +262,7 @@ static void tally_row(KP_MEM& r, const char* rest, const char* value)
 {
     for (int cell = 0; cell < CELLS; cell++)
         if (Same(cell_columns[cell].path, rest))
-            take(r, r.value[cell], choice_of(r.type[cell], value));
+            take(r, r.value[cell], choice_of(r, cell, value));
     for (int i = 0; i < SPLINES; i++)
         if (Same(spline_columns[i].path, rest))
             take(r, r.spline[i], strtod(value, nullptr));
@@ -291,10 +287,10 @@ static int scroll(int kind, int bar, int step_or_line)
 
 static SDL_Surface* picture(const KP_MEM& r, int cell)
 {
-    int count;
-    const KP_CHOICE* choices = KP_Choices(r.type[cell], &count);
     const int value = r.value[cell];
-    return value >= 0 ? *choices[value].cell : value == IS_MIXED ? G_PATH_mixed : G_PATH_none;
+    if (value >= 0)
+        return *cell_columns[cell].choices[size_t(value)].picture;
+    return value == IS_MIXED ? G_PATH_mixed : G_PATH_none;
 }
 
 static void draw_splines(const KP_MEM& r, int y)
@@ -321,7 +317,7 @@ static void draw_row(int n)
     for (int cell = 0; cell < CELLS; cell++)
         if (r.has[cell])
             TDL_PutS(cell_columns[cell].x, y + 2, picture(r, cell));
-    if (r.has[CURVE] && r.value[CURVE] == CURVE_SPLINE)
+    if (r.has[CURVE] && r.value[CURVE] == PATH_CURVE_SPLINE)
         draw_splines(r, y);
 }
 

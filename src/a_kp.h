@@ -3,7 +3,6 @@
 // that offers the words, and the answer goes out.
 #pragma once
 #include "types.h"
-#include <SDL.h>
 
 constexpr int KP_MAX = 64; // rows of one list
 
@@ -24,13 +23,3 @@ int KP_Create(const KP_TBL* table, uint32_t var);
 int KP_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 // As DW_ConvPosForWheel.
 int KP_ConvPosForWheel(int* x, int* y, int button);
-
-// --- For the path select window: what it offers, in the order of its keys ---
-struct KP_CHOICE {
-    const char* word;      // on the wire
-    SDL_Surface** cell;    // in the list
-    SDL_Surface** key_off; // in the window
-    SDL_Surface** key_on;
-};
-// path_type is one of the PATHSEL_ numbers. Null, and a count of 0, for others.
-const KP_CHOICE* KP_Choices(int path_type, int* count);

@@ -1,5 +1,6 @@
 #include "a_kp.h"
 #include "graphics.h"
+#include "pane.h"
 #include "tab_page.h"
 #include "window.h"
 
@@ -35,21 +36,21 @@ struct PathLists : TabPage {
         KP_Create(nullptr, 0);
         TabPage::TearDown();
     }
-    // What the press on a cell comes to, when the key of the choice is pressed in its window.
-    static std::vector<std::string> Choose(int x, int y, int type, int choice)
+    // What the press on a cell comes to, when the key in that place of its window is pressed.
+    static std::vector<std::string> Choose(int x, int y, int window_x, int place)
     {
         const auto sent = Sent(x, y);
         if (GetWindow() == WINDOW_NONE)
             return sent;
-        CloseWindow();
-        SendMessage(LMSG_PATHSELSEL, type, choice, 0, 0);
-        return TakeQueuedCommands();
+        EXPECT_THAT(sent, IsEmpty());
+        return Sent(window_x + 20 + 68 * place, (y - 104) / 40 * 40 + 104 + 20);
     }
     static SDL_Surface* Shown(int x, int row)
     {
         Pass();
         for (SDL_Surface* s : {G_PATH_none, G_PATH_mixed, G_PATH_xpt_hold, G_PATH_xpt_change,
-                               G_PATH_hue_ccw, G_PATH_curve_off, G_PATH_curve_step})
+                               G_PATH_hue_ccw, G_PATH_curve_off, G_PATH_curve_step,
+                               G_PATH_curve_linear, G_PATH_curve_s, G_PATH_curve_spline})
             if (Looks(s, x, Y(row) - 18))
                 return s;
         return nullptr;
@@ -111,32 +112,49 @@ TEST_F(PathLists, ACellShowsItsTally)
     EXPECT_EQ(Shown(360, 1), nullptr); // the second row has no hue
 }
 
-TEST_F(PathLists, APressOnACellComesToTheChosenWord)
+TEST_F(PathLists, APressOnACellOpensTheWindowWhoseAnswerGoesOut)
 {
-    Tally("Key Frame@Path@All@Hue", "Long");
-    Tally("Key Frame@Path@Bkgd/Util@All@Curve", "Step");
     static const struct {
-        int x, row, type, choice;
-        const char* put; // null: sends nothing
+        int x, row, window_x, place;
+        const char* put; // null: no window
     } cases[] = {
-        {XPT_X, 0, PATHSEL_XPT, 0, "put Key Frame@Path@All@Xpt#Hold"},
-        {HUE_X, 0, PATHSEL_HUE, 2, "put Key Frame@Path@All@Hue#CW"},
-        {CURVE_X, 0, PATHSEL_CURVE0, 0, "put Key Frame@Path@All@Curve#Off"},
-        {CURVE_X, 1, PATHSEL_CURVE3, 0,
-         "put Key Frame@Path@Bkgd/Util@All@Curve#Off"}, // round again
-        {HUE_X, 1, PATHSEL_HUE, 0, nullptr},
-        {CURVE_X, 2, PATHSEL_CURVE0, 0, nullptr},
-        {CURVE_X, 3, PATHSEL_CURVE0, 0, nullptr},
-        {330, 0, PATHSEL_XPT, 0, nullptr}, // between the columns
+        {XPT_X, 0, 160, 1, "put Key Frame@Path@All@Xpt#Change"},
+        {HUE_X, 0, 250, 2, "put Key Frame@Path@All@Hue#CW"},
+        {CURVE_X, 0, 340, 2, "put Key Frame@Path@All@Curve#S-Curve"},
+        {CURVE_X, 1, 340, 1, "put Key Frame@Path@Bkgd/Util@All@Curve#Step"},
+        {HUE_X, 1, 250, 0, nullptr},
+        {CURVE_X, 2, 340, 0, nullptr},
+        {CURVE_X, 3, 340, 0, nullptr},
+        {330, 0, 160, 0, nullptr}, // between the columns
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Choose(c.x, Y(c.row), c.type, c.choice),
+    for (const auto& c : cases) {
+        EXPECT_EQ(Choose(c.x, Y(c.row), c.window_x, c.place),
                   c.put ? std::vector<std::string>{c.put} : std::vector<std::string>{})
             << c.x << " row " << c.row;
+        EXPECT_EQ(GetWindow(), WINDOW_NONE);
+    }
     SendMessage(LMSG_PATHSELSEL, PATHSEL_XPT, 1, 0, 0); // nobody asked
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     BA_SetDefaultButton(1);
     EXPECT_THAT(Sent(XPT_X, Y(0)), IsEmpty());
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
+}
+
+TEST_F(PathLists, UnderAPaneAPressTakesTheNextWord)
+{
+    static const struct {
+        const char *now, *next;
+    } cases[] = {{"?", "Off"}, {"Off", "Step"}, {"Step", "Off"}}; // of curve type 3
+    const int pane = PaneMessage_Create("Test", PANE_INFO, "Test");
+    ASSERT_GT(pane, 0);
+    for (const auto& c : cases) {
+        Tally("Key Frame@Path@Bkgd/Util@All@Curve", c.now);
+        (void)TakeQueuedCommands();
+        KP_Proc(MSG_PRESS, CURVE_X, Y(1), 1, 0);
+        EXPECT_THAT(TakeQueuedCommands(),
+                    ElementsAre(std::string("put Key Frame@Path@Bkgd/Util@All@Curve#") + c.next));
+    }
+    Pane_Quit(pane);
 }
 
 TEST_F(PathLists, ACaptionOpensThePageOfItsRow)
@@ -172,7 +190,7 @@ TEST_F(PathLists, TheListScrollsAndTheWheelIsItsArrow)
     };
     for (const auto& c : cases) {
         SendMessage(LMSG_SBSEL, c.kind, 0, c.value, 0);
-        EXPECT_THAT(Choose(XPT_X, Y(0), PATHSEL_XPT, 0),
+        EXPECT_THAT(Choose(XPT_X, Y(0), 160, 0),
                     ElementsAre(std::string("put ") + c.first + "Xpt#Hold"));
     }
     Tally("Row0@Xpt", "Hold");
@@ -199,17 +217,21 @@ TEST_F(PathLists, TheListScrollsAndTheWheelIsItsArrow)
 TEST_F(PathLists, EachCurveTypeHasOneChoiceLess)
 {
     static const struct {
-        int type, count;
+        const char* word;
+        SDL_Surface** picture;
+        int last_type;
     } cases[] = {
-        {PATHSEL_XPT, 2},    {PATHSEL_HUE, 4},    {PATHSEL_CURVE0, 5},     {PATHSEL_CURVE1, 4},
-        {PATHSEL_CURVE2, 3}, {PATHSEL_CURVE3, 2}, {PATHSEL_CURVE3 + 1, 0}, {-1, 0},
+        {"Off", &G_PATH_curve_off, 3},   {"Linear", &G_PATH_curve_linear, 2},
+        {"S-Curve", &G_PATH_curve_s, 1}, {"Spline", &G_PATH_curve_spline, 0},
+        {"Step", &G_PATH_curve_step, 3},
     };
-    for (const auto& c : cases) {
-        int count = -1;
-        const KP_CHOICE* choices = KP_Choices(c.type, &count);
-        EXPECT_EQ(count, c.count) << c.type;
-        EXPECT_EQ(choices != nullptr, count > 0);
-        for (int i = 0; i < count; i++)
-            EXPECT_TRUE(*choices[i].cell && *choices[i].key_off && *choices[i].key_on);
+    for (int type = 0; type <= 3; type++) {
+        const KP_TBL one[] = {{"Row", 0, 0, 1, type, "Row@", 0}, KP_END};
+        KP_Create(one, 0);
+        for (const auto& c : cases) {
+            Tally("Row@Curve", c.word);
+            EXPECT_EQ(Shown(450, 0), type <= c.last_type ? *c.picture : G_PATH_none)
+                << c.word << " of type " << type;
+        }
     }
 }
