@@ -1,4 +1,5 @@
 #include "harness.h"
+#include "a_kf.h"
 #include "graphics.h"
 #include "log.h"
 #include "loop.h"
@@ -60,6 +61,7 @@ void Harness_Reset()
     (void)CloseWindow(); // none is open: fine
     Page_Reset();
     Loop_Reset();
+    KF_Init();
     (void)TakeQueuedCommands(); // what an earlier test left
     TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
 }
