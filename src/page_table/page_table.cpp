@@ -2,6 +2,7 @@
 #include "dme.h"
 #include "fm.h"
 #include "gallery.h"
+#include "keyframe.h"
 #include "machines.h"
 #include "me_key.h"
 #include "me_top.h"
@@ -15,10 +16,20 @@
 static constexpr auto me_top_rows = BankRows<BankRowCount(me_top_pages)>(me_top_pages);
 static constexpr auto me_key_rows = KeyRows<KeyRowCount(me_key_pages)>(me_key_pages);
 
-static constexpr size_t page_rows = std::size(top_pages) + me_top_rows.size() + me_key_rows.size() +
-                                    std::size(fm_pages) + std::size(sources_pages) + std::size(operation_pages) +
-                                    std::size(dme_pages) + std::size(machines_pages) + std::size(registers_pages) +
-                                    std::size(system_pages) + std::size(saver_pages) + std::size(gallery_pages) + 1;
+static constexpr size_t page_rows = std::size(top_pages) +
+                                    me_top_rows.size() +
+                                    me_key_rows.size() +
+                                    std::size(fm_pages) +
+                                    std::size(sources_pages) +
+                                    std::size(operation_pages) +
+                                    std::size(dme_pages) +
+                                    std::size(machines_pages) +
+                                    std::size(keyframe_pages) +
+                                    std::size(registers_pages) +
+                                    std::size(system_pages) +
+                                    std::size(saver_pages) +
+                                    std::size(gallery_pages) +
+                                    1; // the end
 
 struct AllRows {
     PAGE row[page_rows];
@@ -39,6 +50,7 @@ static constexpr AllRows JoinRows()
     add(operation_pages);
     add(dme_pages);
     add(machines_pages);
+    add(keyframe_pages);
     add(registers_pages);
     add(system_pages);
     add(saver_pages);

@@ -1,26 +1,6 @@
-// registers: the first pages of keyframes and the stored registers.
+// registers: the first pages of the stored registers.
 #pragma once
 #include "rows.h"
-
-inline constexpr BT_TBL bt_kf_timeline[] = {
-    Action(     {.id = 17, .caption = "Run", .group = "Run", .cmd = {"~@Run#*"}}),
-    Action(     {.id = 18, .caption = "Rewind", .group = "Run", .cmd = {"~@Rewind#*"}}),
-    Action(     {.id = 19, .caption = "Stop", .group = "Run", .cmd = {"~@Stop#*"}}),
-    Action(     {.id = 20, .caption = "Reverse", .group = "Run", .cmd = {"~@Reverse#*"}}),
-    Toggle(     {.id = 21, .caption = "Loop", .group = "Mode", .cmd = {"~@Loop#*"}}),
-    Toggle(     {.id = 22, .caption = "Ping-Pong", .group = "Mode", .cmd = {"~@Ping-Pong#*"}}),
-    Action(     {.id = 33, .caption = "Insert", .group = "Edit", .cmd = {"~@Insert#*"}}),
-    Action(     {.id = 34, .caption = "Modify", .group = "Edit", .cmd = {"~@Modify#*"}}),
-    Action(     {.id = 35, .caption = "Delete", .group = "Edit", .cmd = {"~@Delete#*"}}),
-    Action(     {.id = 36, .caption = "Copy", .group = "Edit", .cmd = {"~@Copy#*"}}),
-    Action(     {.id = 37, .caption = "Paste", .group = "Edit", .cmd = {"~@Paste#*"}}),
-    Action(     {.id = 38, .caption = "Undo", .group = "Edit", .cmd = {"~@Undo#*"}}),
-    Toggle(     {.id = 49, .caption = "Const\nDur", .group = "Duration", .cmd = {"~@Const Dur#*"}}),
-    Toggle(     {.id = 50, .caption = "Delay", .group = "Duration", .cmd = {"~@Delay#*"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_kf_timeline));
 
 inline constexpr BT_TBL bt_effect[] = {
     Action(     {.id = 17, .caption = "Recall", .group = "Register", .cmd = {"~@Recall#*"}}),
@@ -62,13 +42,6 @@ inline constexpr BT_TBL bt_shotbox[] = {
 };
 static_assert(ButtonsAreSound(bt_shotbox));
 
-inline constexpr BT_TBL bt_key_frame_top[] = {
-    Jump(       {.id = 17, .caption = "Timeline", .group = "Key Frame", .cmd = {"#61110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_key_frame_top));
-
 inline constexpr BT_TBL bt_effect_top[] = {
     Jump(       {.id = 17, .caption = "Register", .group = "Effect", .cmd = {"#62110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
@@ -91,11 +64,9 @@ inline constexpr BT_TBL bt_shotbox_top[] = {
 static_assert(ButtonsAreSound(bt_shotbox_top));
 
 inline constexpr PAGE registers_pages[] = {
-    {.id = 0x61000000, .tree = {"Key Frame"}, .obj = {Base(base_main), Buttons(bt_key_frame_top)}},
     {.id = 0x62000000, .tree = {"Effect"}, .obj = {Base(base_main), Buttons(bt_effect_top)}},
     {.id = 0x63000000, .tree = {"Snapshot"}, .obj = {Base(base_main), Buttons(bt_snapshot_top)}},
     {.id = 0x64000000, .tree = {"Shotbox"}, .obj = {Base(base_main), Buttons(bt_shotbox_top)}},
-    {.id = 0x61110000, .tree = {"Key Frame", "Timeline"}, .obj = {Base(base_kf_tl), Buttons(bt_kf_timeline)}},
     {.id = 0x62110000, .tree = {"Effect", "Register"}, .obj = {Base(base_main), Buttons(bt_effect)}},
     {.id = 0x63110000, .tree = {"Snapshot", "Master"}, .obj = {Base(base_main), Buttons(bt_snapshot)}},
     {.id = 0x64110000, .tree = {"Shotbox", "Register"}, .obj = {Base(base_main), Buttons(bt_shotbox)}},

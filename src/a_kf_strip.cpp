@@ -1,0 +1,106 @@
+// The strip at top right: what the reference region does, on every normal page.
+#include "a_kf_private.h"
+#include "global.h"
+#include "graphics.h"
+#include "page.h"
+#include "tdl.h"
+#include "text.h"
+#include "timecode.h"
+#include <cstring>
+#include <initializer_list>
+#include "safeguards.h"
+
+namespace
+{
+constexpr int CODE_ROUTER = 66; // it has no timeline to show
+constexpr uint32_t PAGE_TIMELINE = 0x61110000;
+
+constexpr unsigned WHITE = 0xFFFFFF;
+constexpr unsigned CYAN = 0x00FFFF;
+constexpr Rect STRIP = {508, 6, 797, 65};
+constexpr int FONT_TEXT = 4;
+constexpr int FONT_NAME = 8;
+constexpr int FONT_LONG_NAME = 7;
+constexpr int FONT_TIME = 8;
+constexpr int TIME_CELL_PX = 10;
+} // namespace
+
+static bool strip_is_pushed = false; // as it was painted last
+
+// While a menu macro is recorded its keys are there, but on the pages where there is none to
+// record.
+static bool has_strip()
+{
+    if (GL_AllPageDisplayMode)
+        return false;
+    if (!GL_MenuMacro_Edit)
+        return true;
+    const uint32_t menu = GL_NowPage >> 24;
+    if (menu != 0x61 && menu != 0x71)
+        return false;
+    for (const uint32_t page : {0x71440002u, 0x61130000u, 0x61140000u, 0x61150000u, 0x61170000u})
+        if (GL_NowPage == page)
+            return false;
+    return true;
+}
+
+static KF_REGION& strip_region()
+{
+    const int index = RefRegion == CODE_ROUTER ? -1 : KF_RegionOfCode(RefRegion);
+    return Region[index < 0 ? 0 : index];
+}
+
+// "M/E-1 Sub" is M/E-1S here, "DME1 GLB" DME1G.
+static void short_name(char (&name)[16], const char* full)
+{
+    CopyText(name, full);
+    for (const char* const side : {"Sub", "GLB"}) {
+        char* const at = strstr(name, side);
+        if (!at || at == name)
+            continue;
+        at[-1] = *side;
+        at[0] = '\0';
+    }
+}
+
+static void draw_name(const char* full)
+{
+    char name[16];
+    short_name(name, full);
+    if (strcmp(name, "MACRO") == 0)
+        TDL_SymbolS(518, 40, name, FONT_LONG_NAME, CYAN);
+    else
+        TDL_SymbolS(515, 36, name, FONT_NAME, CYAN);
+}
+
+static void draw_strip(const KF_REGION& r)
+{
+    char text[64];
+    TDL_PutS(STRIP.x1, STRIP.y1, strip_is_pushed ? G_KF_on : G_KF_off);
+    PrintText(text, "Effect#: %d (%s)", r.regnum, r.regname);
+    TDL_SymbolS(515, 16, text, FONT_TEXT, WHITE);
+    PrintText(text, "Free KF: %d", r.freekf);
+    TDL_SymbolS(700, 16, text, FONT_TEXT, WHITE);
+    draw_name(r.name);
+    PrintText(text, "KF# %d / %d", r.ckfnum, r.kfnum);
+    TDL_SymbolS(590, 41, text, FONT_TEXT, WHITE);
+    TDL_SymbolPS(680, 36, TIME_CELL_PX, Frame2TC(r.ctime, 4), FONT_TIME, WHITE);
+    TDL_UpdateRect(STRIP.x1, STRIP.y1, STRIP.x2, STRIP.y2);
+}
+
+void KF_DrawTopArea(int pushed)
+{
+    if (!has_strip())
+        return;
+    const bool is_anew = pushed == KF_DRAW_ANEW;
+    const bool is_pushed = !is_anew && pushed > 0;
+    KF_REGION& r = strip_region();
+    if (!is_anew && !r.redraw && !r.redraw_tl && is_pushed == strip_is_pushed)
+        return;
+    strip_is_pushed = is_pushed;
+    draw_strip(r);
+    if (GL_NowPage == PAGE_TIMELINE)
+        return; // its rows wait for the same marks
+    r.redraw = 0;
+    r.redraw_tl = 0;
+}

@@ -1,0 +1,525 @@
+#include "a_ba.h"
+#include "a_kf.h"
+#include "a_kf_frames.h"
+#include "a_pc.h"
+#include "command.h"
+#include "global.h"
+#include "harness.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include "pane.h"
+#include "tdl.h"
+#include "text.h"
+#include <algorithm>
+#include <functional>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+namespace
+{
+constexpr int ME1 = 0, ME2 = 1, PP = 5, DME1 = 14, DME1_GLB = 22, MACRO = 51;
+constexpr int RATE = 30;
+constexpr int HOUR = 3600 * RATE;
+
+const KF_REGION& R(int region)
+{
+    return *KF_GetRegionStatus(region);
+}
+
+// The first n places of the order.
+std::vector<int> Order(int n)
+{
+    std::vector<int> order;
+    for (int i = 0; i < n; i++)
+        order.push_back(KF_GetRegionPriority(i));
+    return order;
+}
+} // namespace
+
+struct Keyframes : testing::Test {
+    PAGE page;
+    static inline std::vector<std::string> told; // "STATUS 14", "SELECTION"
+
+    static int WriteDown(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
+    {
+        if (msg == LMSG_REGIONSTATUS)
+            told.push_back("STATUS " + std::to_string(reinterpret_cast<const KF_REGION*>(ax) -
+                                                      KF_GetRegionStatus(0)));
+        if (msg == LMSG_REGSELCHANGE)
+            told.push_back("SELECTION");
+        return 0;
+    }
+    static constexpr PC_TBL listener = {.proc_func = WriteDown};
+
+    void SetUp() override
+    {
+        Harness_Reset();
+        SYS_FrameRate = RATE;
+        GL_TimelineDisplayPriority = 0;
+        GL_MenuMacro_Edit = 0;
+        GL_AllPageDisplayMode = 0;
+        KF_Init();
+        OpenPage(0x11110000);
+    }
+    void TearDown() override
+    {
+        PC_Create(nullptr, 0);
+        KF_Create(nullptr, 0);
+        KF_Init();
+        SYS_FrameRate = 60;
+        GL_TimelineDisplayPriority = 0;
+        GL_MenuMacro_Edit = 0;
+        GL_AllPageDisplayMode = 0;
+        Page_Reset();
+        (void)TakeQueuedCommands();
+    }
+    void OpenPage(uint32_t id)
+    {
+        page = {.id = id, .tree = {"Test"}, .obj = {{OBJ_PC, &listener, 0}, {OBJ_KF, nullptr, 0}}};
+        Page = &page;
+        GL_NowPage = id;
+        GL_NowTree = page.tree;
+        PC_Create(&listener, 0);
+        told.clear();
+    }
+};
+
+// --- Region data ---
+
+static const kf::Data opening = {
+    .code = 1,
+    .regnum = 312,
+    .regname = "OPENING ",
+    .flags = 0x02,
+    .freekf = 986,
+    .start = {0x01, 0, 0, 0x15},
+    .delay = {0, 0, 0, 0x15},
+    .end = {0x01, 0, 0x10, 0},
+    .duration = {0, 0, 0x09, 0x15},
+    .loopstart = 2,
+    .loopend = 0x8000 | 3,
+    .loopnum = 7,
+    .keyframes = {45, 0x7FF, kf::PAUSE | 30},
+};
+
+TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
+{
+    EXPECT_EQ(kf::Send(kf::DATA, kf::DataFrame(opening)), 0);
+    const KF_REGION& r = R(ME1);
+    EXPECT_EQ(r.regnum, 312);
+    EXPECT_STREQ(r.regname, "OPENING ");
+    EXPECT_EQ(r.lock, 1);
+    EXPECT_EQ(r.freekf, 986);
+    EXPECT_EQ(r.kfnum, 3);
+    EXPECT_EQ(r.dtime, 15);
+    EXPECT_EQ(r.stime, HOUR) << "the delay comes before the first keyframe";
+    EXPECT_EQ(r.etime, HOUR + 10 * RATE);
+    EXPECT_EQ(r.duration, 9 * RATE + 15);
+    EXPECT_EQ(r.loopstart, 2);
+    EXPECT_EQ(r.loopend, 3);
+    EXPECT_EQ(r.loopnum, 7);
+    EXPECT_EQ(r.kf[1].duration, 45);
+    EXPECT_EQ(r.kf[2].duration, 0x7FF);
+    EXPECT_EQ(r.kf[2].pause, 0);
+    EXPECT_EQ(r.kf[3].duration, 30);
+    EXPECT_EQ(r.kf[3].pause, 1);
+    EXPECT_EQ(r.kf[0].duration, 0);
+    EXPECT_THAT(told, ElementsAre("STATUS 0"));
+    kf::Send(kf::DATA, kf::DataFrame(opening));
+    EXPECT_THAT(told, ElementsAre("STATUS 0")) << "neither register nor count has changed";
+}
+
+TEST_F(Keyframes, TimeCodesHaveASignAndFlags)
+{
+    static const struct {
+        kf::Code code;
+        int frames;
+    } cases[] = {
+        {{0x80, 0, 0x01, 0x05}, -(RATE + 5)},
+        {{0x41, 0x80, 0x80, 0xC0}, HOUR}, // the bits above the digits are flags
+        {{0x23, 0x59, 0x59, 0x29}, 24 * HOUR - 1},
+        {{0x25, 0, 0, 0}, 9999999}, // no such hour
+    };
+    for (const auto& c : cases) {
+        kf::Send(kf::STATUS, kf::StatusFrame({.code = 1, .time = c.code}));
+        EXPECT_EQ(R(ME1).ctime, c.frames) << int(c.code.h);
+    }
+}
+
+TEST_F(Keyframes, AFrameWithoutKeyframesLeavesTheOldList)
+{
+    kf::Send(kf::DATA, kf::DataFrame(opening));
+    kf::Data none = opening;
+    none.keyframes.clear();
+    none.freekf = 1;
+    kf::Send(kf::DATA, kf::DataFrame(none));
+    EXPECT_EQ(R(ME1).kfnum, 0);
+    EXPECT_EQ(R(ME1).freekf, 1);
+    EXPECT_EQ(R(ME1).kf[2].duration, 0x7FF);
+}
+
+TEST_F(Keyframes, ARegionFrameMayEndAnywhere)
+{
+    const kf::Bytes whole = kf::DataFrame(opening);
+    constexpr size_t HEAD = 39;
+    for (size_t n = 0; n < whole.size(); n++) {
+        KF_Init();
+        kf::Send(kf::DATA, kf::Bytes(whole.begin(), whole.begin() + long(n)));
+        const KF_REGION& r = R(ME1);
+        EXPECT_EQ(r.regnum, n < HEAD ? 0 : 312) << n;
+        EXPECT_EQ(r.kf[1].duration, n < HEAD + 2 ? 0 : 45) << n;
+        EXPECT_EQ(r.kf[2].duration, n < HEAD + 4 ? 0 : 0x7FF) << n;
+        EXPECT_EQ(r.kf[3].duration, 0) << n;
+    }
+}
+
+TEST_F(Keyframes, CountsBeyondTheDataAndTheListAreNotBelieved)
+{
+    kf::Data d = opening;
+    d.kfnum = 0xFFFF;
+    kf::Send(kf::DATA, kf::DataFrame(d));
+    EXPECT_EQ(R(ME1).kfnum, 0xFFFF);
+    EXPECT_EQ(R(ME1).kf[4].duration, 0);
+    d.keyframes.assign(1200, 9);
+    kf::Send(kf::DATA, kf::DataFrame(d));
+    EXPECT_EQ(R(ME1).kf[KF_KEYFRAMES - 1].duration, 9);
+    EXPECT_STREQ(R(ME2).regname, "--------");
+    EXPECT_EQ(R(ME1).redraw, 1) << "what lies behind the list is untouched";
+}
+
+TEST_F(Keyframes, ANameCannotBreakItsLine)
+{
+    kf::Data d = opening;
+    d.regname = "A\nB\x80\x7F\x1B C";
+    kf::Send(kf::DATA, kf::DataFrame(d));
+    EXPECT_STREQ(R(ME1).regname, "A B    C");
+}
+
+TEST_F(Keyframes, UnknownRegionsAndIdsAreDropped)
+{
+    const auto unchanged = [] {
+        for (int i = 0; i < KF_REGIONS; i++)
+            if (R(i).regnum != 0 || R(i).ckfnum != 0)
+                return false;
+        return true;
+    };
+    for (const int code : {24, 67, 68, 84, 240, 254, 255}) {
+        kf::Data d = opening;
+        d.code = code;
+        EXPECT_EQ(kf::Send(kf::DATA, kf::DataFrame(d)), 0);
+        EXPECT_EQ(kf::Send(kf::STATUS, kf::StatusFrame({.code = code, .keyframe = 3})), 0);
+        EXPECT_TRUE(unchanged()) << code;
+    }
+    EXPECT_EQ(kf::Send(0x1200AA, kf::DataFrame(opening)), 1);
+    EXPECT_TRUE(unchanged());
+    EXPECT_THAT(told, ElementsAre());
+}
+
+// --- Run status ---
+
+TEST_F(Keyframes, AStatusFrameMovesTheCursorAndTellsOfNewKeyframesOnly)
+{
+    static const struct {
+        int run, loop;
+        int runstat, loopon, loopremain;
+    } cases[] = {
+        {0x01, 0x00, 1, 0, 0},
+        {0x11, 0x83, -1, 1, 3},
+        {0x10, 0x7F, 0, 0, 127},
+        {0xEE, 0x80, 0, 1, 0},
+    };
+    for (const auto& c : cases) {
+        kf::Send(kf::STATUS, kf::StatusFrame({.code = 16,
+                                              .time = {0, 0, 0x04, 0x12},
+                                              .keyframe = 258,
+                                              .run = c.run,
+                                              .loop = c.loop}));
+        EXPECT_EQ(R(DME1).runstat, c.runstat) << c.run;
+        EXPECT_EQ(R(DME1).loopon, c.loopon) << c.loop;
+        EXPECT_EQ(R(DME1).loopremain, c.loopremain) << c.loop;
+    }
+    EXPECT_EQ(R(DME1).ctime, 4 * RATE + 12);
+    EXPECT_EQ(R(DME1).ckfnum, 258);
+    EXPECT_THAT(told, ElementsAre("STATUS 14"));
+}
+
+TEST_F(Keyframes, AShortStatusFrameIsRefusedWhole)
+{
+    const kf::Bytes whole = kf::StatusFrame({.code = 1, .time = {0, 0, 1, 0}, .keyframe = 2});
+    for (size_t n = 0; n < whole.size(); n++) {
+        kf::Send(kf::STATUS, kf::Bytes(whole.begin(), whole.begin() + long(n)));
+        EXPECT_EQ(R(ME1).ctime, 0) << n;
+    }
+    kf::Send(kf::STATUS, whole);
+    EXPECT_EQ(R(ME1).ckfnum, 2);
+}
+
+// --- Selection ---
+
+TEST_F(Keyframes, EachSelectionBitMeansItsRegions)
+{
+    static const struct {
+        int byte, bit;
+        std::vector<const char*> names;
+    } cases[] = {
+        {1, 0, {"P/P"}},
+        {1, 1, {"M/E-1"}},
+        {1, 3, {"M/E-3"}},
+        {1, 4, {"P/P Sub"}},
+        {1, 5, {"M/E-1 Sub"}},
+        {1, 7, {"M/E-3 Sub"}},
+        {2, 0, {"USER1"}},
+        {2, 7, {"USER8"}},
+        {3, 0, {"DME1", "DME1 GLB"}},
+        {3, 7, {"DME8", "DME8 GLB"}},
+        {4, 0, {}},
+        {5, 0, {"DEV1"}},
+        {5, 7, {"DEV8"}},
+        {6, 0, {"DEV9"}},
+        {6, 3, {"DEV12"}},
+        {6, 4, {"P-BUS"}},
+        {6, 5, {"GPI"}},
+        {6, 6, {"RTR"}},
+        {6, 7, {"MACRO"}},
+        {7, 0, {"M/E-4"}},
+        {7, 1, {"M/E-4 Sub"}},
+        {7, 2, {"M/E-5"}},
+        {7, 3, {"M/E-5 Sub"}},
+        {7, 4, {}},
+    };
+    for (const auto& c : cases) {
+        kf::Bytes frame(8, 0);
+        frame[size_t(c.byte)] = static_cast<unsigned char>(1 << c.bit);
+        kf::Send(kf::SELECTION, frame);
+        std::vector<std::string> selected;
+        for (int i = 0; i < KF_REGIONS; i++)
+            if (KF_IsRegionSelected(i))
+                selected.push_back(KF_GetRegionName(i));
+        EXPECT_THAT(selected, testing::UnorderedElementsAreArray(c.names))
+            << c.byte << "." << c.bit;
+    }
+}
+
+TEST_F(Keyframes, ASelectionIsToldOncePerChange)
+{
+    kf::Select({1, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0});
+    EXPECT_THAT(told, ElementsAre("SELECTION"));
+    kf::Select({0, 0xFF, 0xFF, 0xFF, 0xAA, 0, 0, 0});
+    EXPECT_THAT(told, ElementsAre("SELECTION")) << "only the reference is another";
+    EXPECT_EQ(KF_RefRegionCode(), 0);
+    kf::Select({16, 0, 0, 0, 0, 0, 0});
+    EXPECT_EQ(KF_RefRegionCode(), 0) << "a frame without its last byte";
+    EXPECT_TRUE(KF_IsRegionSelected(PP));
+    kf::Select({16, 0, 0, 0, 0, 0, 0, 0});
+    EXPECT_THAT(told, ElementsAre("SELECTION", "SELECTION"));
+}
+
+TEST_F(Keyframes, TheTimelineIsPaintedLessOftenTheMoreOfItIsSelected)
+{
+    kf::AssignAll();
+    kf::Select({1, 0x0E, 0, 0, 0, 0, 0, 0}); // M/E-1 to M/E-3
+    EXPECT_EQ(GL_TimelineDrawInterval, 30);
+    kf::Select({1, 0x0E, 0, 0, 0, 0, 0x80, 0}); // MACRO is in no row
+    EXPECT_EQ(GL_TimelineDrawInterval, 30);
+}
+
+// --- Assignment and order ---
+
+TEST_F(Keyframes, RegionsOfTheTenKeysAreThoseOfTheSystem)
+{
+    KF_RegionAssignTally(1, "M/E-1,User1,No Assign,");
+    KF_RegionAssignTally(23, "DME1,,,rubbish");
+    KF_RegionAssignTally(0, "M/E-2,,,");
+    KF_RegionAssignTally(24, "M/E-2,,,");
+    std::vector<int> assigned;
+    for (int i = 0; i < KF_REGIONS; i++)
+        if (KF_IsRegionAssigned(i))
+            assigned.push_back(i);
+    EXPECT_THAT(assigned, ElementsAre(ME1, 6, DME1, DME1_GLB));
+    KF_RegionAssignTally(1, "GPI");
+    EXPECT_FALSE(KF_IsRegionAssigned(ME1));
+    EXPECT_TRUE(KF_IsRegionAssigned(43));
+}
+
+TEST_F(Keyframes, WhatIsOutOfBoundsHasNoRegion)
+{
+    for (const int region : {-1, 64, 9999}) {
+        EXPECT_EQ(KF_IsRegionSelected(region), 0);
+        EXPECT_EQ(KF_IsRegionAssigned(region), 0);
+        EXPECT_EQ(KF_SetRegionAssigned(region, 1), -1);
+        EXPECT_EQ(KF_GetRegionDisplay(region), 2);
+        EXPECT_EQ(KF_SetRegionDisplay(region, 1), -1);
+        EXPECT_EQ(KF_GetRegionPriority(region), 255);
+        EXPECT_EQ(KF_SetRegionPriority(region, 1), -1);
+        EXPECT_EQ(KF_InsertRegionPriority(0, region), -1);
+        EXPECT_EQ(KF_InsertRegionPriority(region, 0), -1);
+        EXPECT_EQ(KF_GetRegionName(region), nullptr);
+        EXPECT_EQ(KF_GetRegionStatus(region), nullptr);
+    }
+    EXPECT_EQ(KF_SetRegionDisplay(0, 3), -1);
+    EXPECT_STREQ(KF_GetRegionName(63), "");
+}
+
+TEST_F(Keyframes, NewRegionsComeToTheFrontAndThoseThatWentLeaveTheOrder)
+{
+    KF_RegionAssignTally(1, "M/E-1,P/P,MACRO");
+    KF_InitPriority();
+    EXPECT_THAT(Order(4), ElementsAre(ME1, PP, MACRO, 255));
+    KF_RegionAssignTally(2, "M/E-2");
+    KF_InitPriority();
+    EXPECT_THAT(Order(5), ElementsAre(ME2, ME1, PP, MACRO, 255));
+    KF_SetRegionDisplay(ME1, 2);
+    KF_SetRegionDisplay(PP, 1);
+    KF_InitPriority();
+    EXPECT_THAT(Order(4), ElementsAre(ME2, PP, MACRO, 255)) << "one that is hidden keeps its place";
+    KF_RegionAssignTally(1, "");
+    KF_InitPriority();
+    EXPECT_THAT(Order(2), ElementsAre(ME2, 255));
+}
+
+TEST_F(Keyframes, AnOrderFromTheServerIsFreedOfWhatIsWrongInIt)
+{
+    KF_RegionAssignTally(1, "M/E-1,M/E-2,P/P");
+    int place = 0;
+    for (const int v : {PP, 200, ME1, PP, 255, ME2, ME2, MACRO})
+        KF_SetRegionPriority(place++, v);
+    KF_InitPriority();
+    EXPECT_THAT(Order(4), ElementsAre(PP, ME1, ME2, 255));
+}
+
+TEST_F(Keyframes, AnInsertedRegionLeavesItsOldPlace)
+{
+    KF_RegionAssignTally(1, "M/E-1,M/E-2,M/E-3,P/P");
+    static const struct {
+        int place, region;
+        std::vector<int> order;
+    } cases[] = {
+        {0, PP, {PP, 0, 1, 2, 255}},
+        {3, 0, {1, 2, 0, PP, 255}}, // its old place, before the new one, closes up
+        {4, 0, {1, 2, PP, 0, 255}},
+        {1, 1, {0, 1, 2, PP, 255}},
+    };
+    for (const auto& c : cases) {
+        KF_DefaultRegionPriority();
+        int place = 0;
+        for (const int v : {0, 1, 2, PP})
+            KF_SetRegionPriority(place++, v);
+        KF_SetRegionDisplay(c.region, 1);
+        EXPECT_EQ(KF_InsertRegionPriority(c.place, c.region), 0);
+        EXPECT_THAT(Order(5), ElementsAreArray(c.order)) << c.place << " " << c.region;
+        EXPECT_EQ(KF_GetRegionDisplay(c.region), 0);
+    }
+}
+
+TEST_F(Keyframes, TheDefaultOrderPutsSubSidesBehindTheirBanks)
+{
+    kf::AssignAll();
+    KF_SetRegionDisplay(ME1, 2);
+    KF_DefaultRegionPriority();
+    EXPECT_THAT(Order(14), ElementsAre(0, 45, 1, 46, 2, 47, 3, 48, 4, 49, 5, 50, 6, 7));
+    EXPECT_EQ(KF_GetRegionPriority(51), MACRO);
+    EXPECT_EQ(KF_GetRegionPriority(52), 255);
+}
+
+// --- Subscriptions ---
+
+// What the application sends, taken off the wire.
+static std::string Sent(Peer& server, void (*send)())
+{
+    send();
+    EXPECT_EQ(Net_SendBinCommandQueue(), 0);
+    std::string bytes;
+    for (const std::string& line : server.Lines()) // a 10 among the bytes ends a "line"
+        bytes += line + '\n';
+    return bytes + std::exchange(server.received, {});
+}
+
+TEST_F(Keyframes, EachRegionIsAskedForOnceAndSubSidesApart)
+{
+    CopyText(GL_ServerAddress, "127.0.0.1");
+    Peer server(NET_BIN_PORT);
+    Net_Init();
+    ASSERT_TRUE(server.Accept());
+    std::string sent = Sent(server, KF_InitCommand);
+    const std::string first("\x0B\0\x04\xAA\0\x82\0\x01\x01\x01\0\xFF\xFF", 13);
+    const std::string end("\x07\0\x04\xAA\0\x81\0\xFF\xFF", 9);
+    ASSERT_EQ(sent.size(), 46 * first.size() + end.size());
+    EXPECT_EQ(sent.substr(0, first.size()), first);
+    EXPECT_EQ(sent.substr(46 * first.size()), end);
+
+    sent = Sent(server, KF_InitCommand_MP2);
+    ASSERT_EQ(sent.size(), 6u * 13 + 6 * 10);
+    std::vector<int> added, ended;
+    for (size_t i = 0; i < 6; i++) {
+        added.push_back(sent[i * 13 + 8] & 0xFF);
+        ended.push_back(sent[6 * 13 + i * 10 + 7] & 0xFF);
+    }
+    EXPECT_THAT(added, ElementsAre(5, 6, 7, 81, 83, 4));
+    EXPECT_THAT(ended, ElementsAre(5, 6, 7, 81, 83, 4));
+    server.Drop();
+    server.StopListening();
+    Net_Init(); // nobody is there: the link is down again
+}
+
+// --- The strip ---
+
+static std::vector<uint32_t> StripPixels()
+{
+    std::vector<uint32_t> pixels;
+    for (int y = 6; y <= 65; y++)
+        for (int x = 508; x <= 797; x++)
+            pixels.push_back(PixelAt(x, y));
+    return pixels;
+}
+
+static bool StripPaints(int pushed)
+{
+    constexpr uint32_t MARK = 0x123456;
+    TDL_FillRectS(508, 6, 797, 65, MARK);
+    KF_DrawTopArea(pushed);
+    const auto pixels = StripPixels();
+    return std::any_of(pixels.begin(), pixels.end(), [](uint32_t p) { return p != MARK; });
+}
+
+TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNews)
+{
+    kf::Select({1, 0x02, 0, 0, 0, 0, 0, 0});
+    EXPECT_TRUE(StripPaints(0));
+    EXPECT_FALSE(StripPaints(0));
+    EXPECT_TRUE(StripPaints(150)) << "pushed";
+    EXPECT_FALSE(StripPaints(90)) << "still pushed";
+    EXPECT_TRUE(StripPaints(0)) << "up again";
+    EXPECT_TRUE(StripPaints(KF_DRAW_ANEW));
+    kf::Send(kf::STATUS, kf::StatusFrame({.code = 2}));
+    EXPECT_FALSE(StripPaints(0)) << "of another region";
+    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
+    EXPECT_TRUE(StripPaints(0));
+    EXPECT_EQ(R(ME1).redraw_tl, 0);
+    GL_NowPage = 0x61110000;
+    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
+    EXPECT_TRUE(StripPaints(0));
+    EXPECT_EQ(R(ME1).redraw_tl, 1) << "the rows of the timeline need it";
+}
+
+TEST_F(Keyframes, TheStripLeavesItsPlaceToTheMenuMacro)
+{
+    static const struct {
+        int macro, all;
+        uint32_t page;
+        bool paints;
+    } cases[] = {
+        {0, 0, 0x11110000, true},  {1, 0, 0x11110000, false}, {1, 0, 0x61110000, true},
+        {1, 0, 0x71110000, true},  {1, 0, 0x71440002, false}, {1, 0, 0x61130000, false},
+        {1, 0, 0x61140000, false}, {1, 0, 0x61150000, false}, {1, 0, 0x61170000, false},
+        {0, 0, 0x61170000, true},  {0, 1, 0x11110000, false},
+    };
+    for (const auto& c : cases) {
+        GL_MenuMacro_Edit = c.macro;
+        GL_AllPageDisplayMode = c.all;
+        GL_NowPage = c.page;
+        EXPECT_EQ(StripPaints(KF_DRAW_ANEW), c.paints) << c.macro << std::hex << c.page;
+    }
+}
