@@ -17,7 +17,9 @@ constexpr uint32_t PAGE_TIMELINE = 0x61110000;
 
 constexpr unsigned WHITE = 0xFFFFFF;
 constexpr unsigned CYAN = 0x00FFFF;
-constexpr Rect STRIP = {508, 6, 797, 65};
+constexpr unsigned FRAME = 0x1F1F1F;
+constexpr Rect STRIP = {508, 6, 799, 65};
+constexpr int BITMAP_RIGHT = 794; // a negative time reaches beyond it
 constexpr int FONT_TEXT = 4;
 constexpr int FONT_NAME = 8;
 constexpr int FONT_LONG_NAME = 7;
@@ -76,6 +78,7 @@ static void draw_name(const char* full)
 static void draw_strip(const KF_REGION& r)
 {
     char text[64];
+    TDL_FillRectS(BITMAP_RIGHT + 1, STRIP.y1, STRIP.x2, STRIP.y2, FRAME);
     TDL_PutS(STRIP.x1, STRIP.y1, strip_is_pushed ? G_KF_on : G_KF_off);
     PrintText(text, "Effect#: %d (%s)", r.regnum, r.regname);
     TDL_SymbolS(515, 16, text, FONT_TEXT, WHITE);
