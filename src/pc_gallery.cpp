@@ -1,9 +1,11 @@
-// The gallery pages of the objects that stand on a page: buttons, boxes, lists, status cells.
+// The gallery pages of the objects that stand on a page.
 #include "a_bt.h"
+#include "a_hf.h"
 #include "a_ls.h"
 #include "a_nb.h"
 #include "a_pc.h"
 #include "a_st_draw.h"
+#include "a_vf.h"
 #include "bus.h"
 #include "command.h"
 #include "message.h"
@@ -18,6 +20,8 @@
 static struct {
     bool is_undecided = false;
     bool has_grey_title = false;
+    bool has_bars = false;
+    bool has_gaps = false;
 } gallery; // valid from create(1) to create(0)
 
 static void mirror(const char* path, const char* value)
@@ -292,7 +296,48 @@ static int pc_gallery_cells_create(int on, uint32_t)
     return 0;
 }
 
+// --- Tabs ---
+
+static void tabs_bars(bool on)
+{
+    gallery.has_bars = on;
+    mirror("LOCAL@Gallery@Tabs@Bars", Bool(on));
+}
+
+static void tabs_gaps(bool on)
+{
+    constexpr int GAPS[] = {3, 6}; // tabs of both edges that go
+    gallery.has_gaps = on;
+    for (int id : GAPS) {
+        HF_SetDisplay(id, !on);
+        VF_SetDisplay(id, !on);
+    }
+    mirror("LOCAL@Gallery@Tabs@Gaps", Bool(on));
+}
+
+static int pc_gallery_tabs_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
+{
+    if (msg != LMSG_BTNSEL)
+        return 0;
+    if (strcmp(Text(ax), "LOCAL@Gallery@Tabs@Bars") == 0)
+        tabs_bars(!gallery.has_bars);
+    else if (strcmp(Text(ax), "LOCAL@Gallery@Tabs@Gaps") == 0)
+        tabs_gaps(!gallery.has_gaps);
+    return 0;
+}
+
+static int pc_gallery_tabs_create(int on, uint32_t)
+{
+    gallery = {};
+    if (!on)
+        return 1;
+    tabs_bars(false);
+    tabs_gaps(false);
+    return 0;
+}
+
 const PC_TBL pc_gallery_buttons = {pc_gallery_buttons_proc, pc_gallery_buttons_create};
 const PC_TBL pc_gallery_boxes = {pc_gallery_boxes_proc, pc_gallery_boxes_create};
 const PC_TBL pc_gallery_lists = {pc_gallery_lists_proc, pc_gallery_lists_create};
 const PC_TBL pc_gallery_cells = {pc_gallery_cells_proc, pc_gallery_cells_create};
+const PC_TBL pc_gallery_tabs = {pc_gallery_tabs_proc, pc_gallery_tabs_create};

@@ -3,6 +3,7 @@
 #pragma once
 #include "a_st_draw.h"
 #include "gallery_shared.h"
+#include "patterns.h"
 #include "pulldowns.h"
 #include "rows.h"
 #include "top.h"
@@ -12,6 +13,8 @@ inline constexpr BT_TBL bt_engineering_menu[] = {
     Jump(       {.id = 18, .caption = "Boxes", .group = "Object Gallery", .cmd = {"#99920001"}}),
     Jump(       {.id = 19, .caption = "Lists", .group = "Object Gallery", .cmd = {"#99920002"}}),
     Jump(       {.id = 20, .caption = "Status\nCells", .group = "Object Gallery", .cmd = {"#99920003"}}),
+    Jump(       {.id = 21, .caption = "Tabs", .group = "Object Gallery", .cmd = {"#99920004"}}),
+    Jump(       {.id = 22, .caption = "Patterns", .group = "Object Gallery", .cmd = {"#99920005"}}),
     Jump(       {.id = 33, .caption = "Panes", .group = "Above a Page", .cmd = {"#99920006"}}),
     Jump(       {.id = 34, .caption = "Windows", .group = "Above a Page", .cmd = {"#99920007"}}),
     Jump(       {.id = 36, .caption = "Screen\nSaver", .group = "Maintenance", .cmd = {"#99930000"}}),
@@ -209,20 +212,77 @@ inline constexpr BT_TBL bt_gallery_windows[] = {
 };
 static_assert(ButtonsAreSound(bt_gallery_windows));
 
+// --- Tabs: along the bottom of all pages here, and in all forms on pages of their own ---
+
+inline constexpr HF_TBL hf_gallery[] = {
+    {.id = 1, .caption = "Buttons",       .page = 0x99920000},
+    {.id = 2, .caption = "Boxes",         .page = 0x99920001, .statcmd = {"LOCAL@Gallery@Tabs@Bars#true"}},
+    {.id = 3, .caption = "Lists",         .page = 0x99920002},
+    {.id = 4, .caption = "Status\nCells", .page = 0x99920003, .statcmd = {"LOCAL@Gallery@Tabs@Bars#true"}},
+    {.id = 5, .caption = "Tabs",          .page = 0x99920004, .statcmd = {"LOCAL@Gallery@Tabs@Bars#true"}},
+    {.id = 6, .caption = "Panes",         .page = 0x99920006},
+    {.id = 7, .caption = "Windows",       .page = 0x99920007},
+    HF_END,
+};
+inline constexpr VF_TBL vf_gallery[] = {
+    {.id = 1, .caption = "Tabs",        .page = 0x99920004},
+    {.id = 2, .caption = "Low Tabs",    .page = 0x99920008},
+    {.id = 3, .caption = "Patterns",    .page = 0x99920005},
+    {.id = 4, .caption = "Wipe List",   .page = 0x99920009},
+    {.id = 5, .caption = "Path List",   .page = 0x9992000A},
+    {.id = 6, .caption = "Two\nLines",  .page = 0x99920004},
+    {.id = 7, .caption = "Last",        .page = 0x99920004},
+    VF_END,
+};
+
+inline constexpr BT_TBL bt_gallery_tabs[] = {
+    Toggle(     {.id = 17, .caption = "Bars", .group = "Tabs", .cmd = {"LOCAL@Gallery@Tabs@Bars#*"}}),
+    Toggle(     {.id = 18, .caption = "Gaps", .group = "Tabs", .cmd = {"LOCAL@Gallery@Tabs@Gaps#*"}}),
+    ToEngineeringMenu(),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_gallery_tabs));
+
+// --- Patterns, wipes, paths: these have no local form, so they want a server, under the page's own path ---
+
+inline constexpr PS_TBL ps_gallery = {.cmd = "~@Pattern", .init_nb = nb_gallery_one, .init_nb_caption = "Pattern"};
+inline constexpr DW_TBL dw_gallery = {.cmd = "~@Pattern", .grpid = {17, 18, 19, 20, 21, 22, 33, 34, 35, 36}};
+inline constexpr KP_TBL kp_gallery[] = {
+    {.caption = "Crosspoint",  .isxpt = 1,                .cmd = "~@Row 1@"},
+    {.caption = "Hue",         .ishue = 1,                .cmd = "~@Row 2@"},
+    {.caption = "Curve, all",  .iscurve = 1,              .cmd = "~@Row 3@"},
+    {.caption = "Curve, few",  .iscurve = 1, .curvetype = 3, .cmd = "~@Row 4@"},
+    {.caption = "All three",   .isxpt = 1, .ishue = 1, .iscurve = 1, .cmd = "~@Row 5@"},
+    {.caption = "A way out",   .iscurve = 1,              .cmd = "~@Row 6@", .jump = 0x99910000},
+    KP_END,
+};
+
 inline constexpr PAGE gallery_pages[] = {
     {.id = 0x99910000, .tree = {"Maintenance", "Engineering"}, .obj = {Base(base_main), Buttons(bt_engineering_menu)}},
     // The same for installations of the first generation, whose requests lead here.
     {.id = 0x99911000, .tree = {"Maintenance", "Engineering"}, .obj = {Base(base_main), Buttons(bt_engineering_menu)}},
     {.id = 0x99920000, .tree = {"Maintenance", "Gallery", "Buttons"},
-     .obj = {Base(base_main), Buttons(bt_gallery_buttons), Boxes(NB_Non), Code(pc_gallery_buttons)}},
+     .obj = {Base(base_main), BottomTabs(hf_gallery, 1), Buttons(bt_gallery_buttons), Boxes(NB_Non), Code(pc_gallery_buttons)}},
     {.id = 0x99920001, .tree = {"Maintenance", "Gallery", "Boxes"},
-     .obj = {Base(base_main), Buttons(bt_gallery_boxes), Boxes(NB_Non), Code(pc_gallery_boxes)}, .knobassign = 17},
+     .obj = {Base(base_main), BottomTabs(hf_gallery, 2), Buttons(bt_gallery_boxes), Boxes(NB_Non), Code(pc_gallery_boxes)}, .knobassign = 17},
     {.id = 0x99920002, .tree = {"Maintenance", "Gallery", "Lists"},
-     .obj = {Base(base_main), Buttons(bt_gallery_lists), Lists(ls_gallery), Code(pc_gallery_lists)}},
+     .obj = {Base(base_main), BottomTabs(hf_gallery, 3), Buttons(bt_gallery_lists), Lists(ls_gallery), Code(pc_gallery_lists)}},
     {.id = 0x99920003, .tree = {"Maintenance", "Gallery", "Status Cells"},
-     .obj = {Base(base_main), Cells(st_gallery), Buttons(bt_gallery_cells), Code(pc_gallery_cells)}},
+     .obj = {Base(base_main), BottomTabs(hf_gallery, 4), Cells(st_gallery), Buttons(bt_gallery_cells), Code(pc_gallery_cells)}},
+    {.id = 0x99920004, .tree = {"Maintenance", "Gallery", "Tabs"},
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 1), BottomTabs(hf_gallery, 5), Buttons(bt_gallery_tabs),
+             Code(pc_gallery_tabs)}},
+    {.id = 0x99920005, .tree = {"Maintenance", "Gallery", "Patterns"},
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 3), Patterns(ps_gallery), Boxes(NB_Non)}},
     {.id = 0x99920006, .tree = {"Maintenance", "Gallery", "Panes"},
-     .obj = {Base(base_main), Buttons(bt_gallery_panes), Code(pc_gallery_panes)}},
+     .obj = {Base(base_main), BottomTabs(hf_gallery, 6), Buttons(bt_gallery_panes), Code(pc_gallery_panes)}},
     {.id = 0x99920007, .tree = {"Maintenance", "Gallery", "Windows"},
-     .obj = {Base(base_main), Buttons(bt_gallery_windows), Boxes(nb_gallery_windows), Code(pc_gallery_windows)}},
+     .obj = {Base(base_main), BottomTabs(hf_gallery, 7), Buttons(bt_gallery_windows), Boxes(nb_gallery_windows), Code(pc_gallery_windows)}},
+    {.id = 0x99920008, .tree = {"Maintenance", "Gallery", "Low Tabs"},
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 2), LowBottomTabs(hf_gallery, 5), Buttons(bt_gallery_tabs),
+             Code(pc_gallery_tabs)}},
+    {.id = 0x99920009, .tree = {"Maintenance", "Gallery", "Wipe List"},
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 4), WipeList(dw_gallery), Boxes(NB_Non)}},
+    {.id = 0x9992000A, .tree = {"Maintenance", "Gallery", "Path List"},
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 5), PathList(kp_gallery)}},
 };

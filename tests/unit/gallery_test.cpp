@@ -141,3 +141,23 @@ TEST_F(Gallery, ListsAndCellsShowWhatTheirKeysSay)
     Open(0x99910000);
     EXPECT_FALSE(bgcen || inven || gryen || s_font) << "they leak to the operator's pages";
 }
+
+TEST_F(Gallery, TabsLightTheirBarsAndLeaveGaps)
+{
+    constexpr uint32_t ACTIVE = 0xC86E05; // the middle line of the bar
+    constexpr uint32_t FRAME = 0x1F1F1F;
+    Open(0x99920004);
+    EXPECT_NE(PixelAt(225, 585), ACTIVE);   // the bar of "Boxes"
+    const uint32_t face = PixelAt(60, 230); // of the third tab on the left
+    EXPECT_NE(face, FRAME);
+    Press(17);
+    Press(18);
+    Pass();
+    EXPECT_EQ(PixelAt(225, 585), ACTIVE);
+    EXPECT_EQ(PixelAt(60, 230), FRAME);
+    Press(17);
+    Press(18);
+    Pass();
+    EXPECT_NE(PixelAt(225, 585), ACTIVE);
+    EXPECT_EQ(PixelAt(60, 230), face);
+}
