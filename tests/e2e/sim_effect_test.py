@@ -278,6 +278,11 @@ class Running(StreamTest):
         self.assertEqual({p.run for p in run[:-1]}, {0x11})
         self.do("kf M/E-1 2 300", "run M/E-1")
         self.panel1.run_until(lambda p: p.time > 3)
+        self.do("reverse M/E-1")
+        turned = self.panel1.run_until(lambda p: p.run == 0x11)[-1].time
+        self.assertLess(turned, 200)  # from where it was
+        self.do("run M/E-1")
+        self.panel1.run_until(lambda p: p.run == 1 and p.time > turned)
         self.do("rewind M/E-1")
         self.assertEqual([p.run for p in self.panel1.run_until(lambda p: p.time == 0)][-1], 0)
 
@@ -354,6 +359,8 @@ class Keys(StreamTest):
         self.told(self.other, f"{RUN}Run#true")
         self.do("rewind")
         self.told(self.other, f"{RUN}Run#false")
+        self.do("run M/E-1")
+        self.assertEqual(self.other.lines(2), [f"{RUN}Run#true", f"{RUN}Run#false"])  # at its end by itself
 
     def test_ping_pong_turns_at_both_ends(self):
         panel = self.panel(ME1)

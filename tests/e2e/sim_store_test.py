@@ -87,6 +87,9 @@ class Lists(StoreTest):
         told = self.put("Snapshot@Snapshot@Clip Event@User1@FM2@AutoPlay", "1,ON")
         self.assertEqual(told, [f"{path}#FM2,1,ON,ON,ON,BACKDROP,30,900"])
         self.assertEqual(self.put("Snapshot@Snapshot@Clip Event@User1@FM21@AutoPlay", "1,ON"), [])
+        self.put("Snapshot@Snapshot@Clip Event@User1@FM2@AutoPlay", "7,OFF")  # a row of its own
+        self.text.send(f"read {path}")
+        self.assertEqual(len(self.text.sync()), 3)
         self.other.send("add Snapshot@Snapshot@Clip Event@FM3@List")
         self.assertEqual(self.other.sync(), ["Snapshot@Snapshot@Clip Event@FM3@List#"])
 
@@ -162,9 +165,9 @@ class Commands(StoreTest):
         copied = {1: "OPENING", 2: "OPENING", 3: "SLIDE IN", 4: "LOGO LOOP"}
         self.assertEqual(names(), [first, copied])
         self.assertEqual(self.rows(lists[1])[4][3], "U")  # the copy of a locked register is free
-        self.put("Effect@Effect@Copy/Merge@Copy", f"{MASK['M/E-2']},3,4,{MASK['M/E-2']},2,true")
+        self.put("Effect@Effect@Copy/Merge@Copy", f"{MASK['M/E-2']},2,3,{MASK['M/E-2']},3,true")
         self.assertEqual(names()[1], copied)  # without the names; source and target overlap
-        self.assertEqual([self.rows(lists[1])[n][5] for n in (2, 3, 4)], ["90", "100", "100"])
+        self.assertEqual([self.rows(lists[1])[n][5] for n in (2, 3, 4)], ["180", "180", "90"])
         self.put("Effect@Effect@Move@Move", f"{MASK['M/E-1']},1,3,{MASK['M/E-2']},10,false")
         self.assertEqual(names(), [{3: "LOGO LOOP", 99: "BLACK"}, {**copied, 10: "OPENING", 11: "SLIDE IN"}])
         self.put("Effect@Effect@Swap@Swap", f"{MASK['M/E-2']},10,11,{MASK['M/E-1']},98,false")
@@ -293,7 +296,7 @@ class Recall(StoreTest, StreamTest):
         self.assertEqual(told, [f"{MASTERS}Current Register#30",
                                 f"{MASTERS}List#30,MSS30,S,U,10,1" + "," * 28])
         self.put("Snapshot@Snapshot@Recall", "2, 1")
-        self.assertEqual(self.put(MASTERS + "Edit@Recall", "1"), [f"{MASTERS}Current Register#1"])  # looked at only
+        self.assertEqual(self.put(MASTERS + "Edit@Recall", "2"), [f"{MASTERS}Current Register#2"])  # looked at only
         self.assertEqual(self.put(MASTERS + "Recall", "30"), [f"{KEY_TYPE}#Chroma", f"{MASTERS}Current Register#30"])
 
     def test_a_master_effect_and_a_shotbox_load_their_regions(self):
