@@ -108,6 +108,8 @@ static const Preset presets[] = {
     {"Engineering Setup@Switcher@Config@MP2 Re-Entry", "", "false"},
     {"Engineering Setup@Switcher@Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl", "", "false"},
 
+    {"Key Frame@DME User PGM@Transition Mode", "101..199", "0"}, // single
+    {"Key Frame@DME User PGM@Transition Mode", "201..299", "1"}, // dual
     {"Info@DME@RefCH", "", "1"},
     {"Info@DME@SelCH", "", "1"},
     {"Info@Xpt Button Count", "", "32"},
