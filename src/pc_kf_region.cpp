@@ -49,7 +49,10 @@ constexpr unsigned GREEN = 0x00FF00;
 constexpr unsigned ORANGE = 0xE48B1B;
 constexpr unsigned RED = 0xFF0000;
 constexpr unsigned BLACK = 0x000000;
-constexpr int FONT_KEY = 2;
+constexpr int FONT_NUMBER = 2;
+constexpr int FONT_KEY = 1;
+constexpr int CAPTION_X = 8;
+constexpr int CAPTION_Y = 9;
 constexpr int FONT_TITLE = 3;
 
 // Codes of regions and their numbers on the ten keys. A channel and its global twin share one.
@@ -292,9 +295,9 @@ static unsigned key_colour(const RegionKey& key, const regnametbl* shown)
 static void draw_number(int button, const RegionKey& key, const Rect& r)
 {
     char text[16];
-    TDL_SymbolS(r.x1 + 2, r.y1, NumStr(button + 1), FONT_KEY, WHITE);
+    TDL_SymbolS(r.x1 + 2, r.y1, NumStr(button + 1), FONT_NUMBER, WHITE);
     PrintText(text, "( %d )", count_assigned(key));
-    TDL_SymbolS(r.x1 + 28, r.y1, text, FONT_KEY, ORANGE);
+    TDL_SymbolS(r.x1 + 28, r.y1, text, FONT_NUMBER, ORANGE);
 }
 
 static void draw_face(const RegionKey& key, int x, int y)
@@ -303,11 +306,11 @@ static void draw_face(const RegionKey& key, int x, int y)
     const unsigned colour = key_colour(key, shown);
     TDL_PutS(x, y, G_PSELm_off);
     if (is_assigned(shown))
-        TDL_SymbolS(x + 8, y + 4, shown->caption, FONT_KEY, colour);
+        TDL_SymbolS(x + CAPTION_X, y + CAPTION_Y, shown->caption, FONT_KEY, colour);
     if (!Button_Discord_check(key))
         return;
     for (int line = 0; line < 3; line++)
-        TDL_LineHS(x + 8, y + 33 + line, 30, colour == GREY ? GREY : RED);
+        TDL_LineHS(x + CAPTION_X, y + 33 + line, 30, colour == GREY ? GREY : RED);
 }
 
 static void draw_key(int button)
@@ -338,11 +341,9 @@ static void draw_region(int button)
     const Rect r = KF_RegBtnRect(button);
     const regnametbl* const region = key_of_button(rs.current).slot[button % SLOTS];
     const bool is_on = button < SLOTS ? is_reference(region) : is_selected(region);
-    if (!is_assigned(region))
-        return;
     const bool is_usable = can_use(region);
     TDL_PutS(r.x1, r.y1, !is_usable ? G_PSELm_dis : is_on ? G_PSELm_on : G_PSELm_off);
-    TDL_SymbolS(r.x1 + 8, r.y1 + 5, region->caption, FONT_KEY,
+    TDL_SymbolS(r.x1 + CAPTION_X, r.y1 + CAPTION_Y, region->caption, FONT_KEY,
                 !is_usable ? GREY
                 : is_on    ? BLACK
                            : WHITE);

@@ -14,7 +14,6 @@ inline constexpr HF_TBL hf_kf[] = {
     {.id = 5, .caption = "Region\nSelect",   .page = 0x61170000},
     HF_END,
 };
-constexpr uint32_t LOW_TABS = 0x100; // with the tab's number: tabs below the labels of the time axis
 
 inline constexpr NB_TBL nb_kf_tl[] = {
     {.id = 1, .caption = "Region\nScroll", .type = NB_INT, .min = 0, .max = 0, .cmd = "Panel@Common@Knob0", .scale = 7},
@@ -24,6 +23,7 @@ static_assert(BoxesAreSound(nb_kf_tl));
 
 inline constexpr BT_TBL bt_key_frame_top[] = {
     Jump(  {.id = 17, .caption = "Time Line",        .group = "Key Frame", .cmd = {"#61110000"}}),
+    Jump(  {.id = 18, .caption = "Path",             .group = "Key Frame", .cmd = {"#61130000"}}),
     Jump(  {.id = 19, .caption = "DME User\nPGM",    .group = "Key Frame", .cmd = {"#61140000"}}),
     Jump(  {.id = 20, .caption = "Timeline\nAssign", .group = "Key Frame", .cmd = {"#61150000"}}),
     Jump(  {.id = 21, .caption = "Region\nSelect",   .group = "Key Frame", .cmd = {"#61170000"}}),
@@ -88,7 +88,7 @@ static_assert(ButtonsAreSound(bt_keyframe_region_select));
 inline constexpr PAGE keyframe_pages[] = {
     {.id = 0x61000000, .tree = {"Key Frame"}, .obj = {Base(base_main), Buttons(bt_key_frame_top)}},
     {.id = 0x61110000, .tree = {"Key Frame", "Time Line"},
-     .obj = {Base(base_kf_tl), BottomTabs(hf_kf, LOW_TABS + 1), Boxes(nb_kf_tl), Timeline(kf_tl)}},
+     .obj = {Base(base_kf_tl), LowBottomTabs(hf_kf, 1), Boxes(nb_kf_tl), Timeline(kf_tl)}},
     {.id = 0x61140000, .tree = {"Key Frame", "DME User PGM"},
      .obj = {Base(base_main), BottomTabs(hf_kf, 3), Buttons(bt_keyframe_dmeuserpgm), Code(pc_keyframe_dmeuserpgm)}},
     {.id = 0x61150000, .tree = {"Key Frame", "Timeline Assign"},

@@ -3,6 +3,7 @@
 #include "fm.h"
 #include "gallery.h"
 #include "keyframe.h"
+#include "keyframe_path.h"
 #include "machines.h"
 #include "me_key.h"
 #include "me_top.h"
@@ -25,6 +26,7 @@ static constexpr size_t page_rows = std::size(top_pages) +
                                     std::size(dme_pages) +
                                     std::size(machines_pages) +
                                     std::size(keyframe_pages) +
+                                    keyframe_path_rows.size() +
                                     std::size(registers_pages) +
                                     std::size(system_pages) +
                                     std::size(saver_pages) +
@@ -51,6 +53,7 @@ static constexpr AllRows JoinRows()
     add(dme_pages);
     add(machines_pages);
     add(keyframe_pages);
+    add(keyframe_path_rows);
     add(registers_pages);
     add(system_pages);
     add(saver_pages);

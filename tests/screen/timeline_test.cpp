@@ -7,6 +7,7 @@
 #include "harness.h"
 #include "message.h"
 #include "page.h"
+#include "pc_kf_page.h"
 #include "tdl.h"
 
 struct TimelinePictures : testing::Test {
@@ -166,4 +167,44 @@ TEST_F(TimelinePictures, Strip)
         KF_DrawTopArea(c.pushed);
         EXPECT_TRUE(MatchesGolden(c.picture, {500, 0, 799, 72}));
     }
+}
+
+// --- The pages around it ---
+
+struct KeyframePictures : KeyframePage {
+    void SetUp() override
+    {
+        KeyframePage::SetUp();
+        kf::AssignAll();
+        KF_DefaultRegionPriority();
+        kf::Select({1, 0x07, 0x01, 0x04, 0, 0, 0, 0});
+    }
+    static void Paint()
+    {
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    }
+};
+
+TEST_F(KeyframePictures, TimelineAssign)
+{
+    KF_SetRegionDisplay(1, 1);
+    Open(0x61150000);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("timeline_assign"));
+}
+
+// A reference, a selected region, one of two, none, a grey one that is half selected.
+TEST_F(KeyframePictures, RegionSelect)
+{
+    SYS_3DMode = 1;
+    Open(0x61170000);
+    TenKey(1, "M/E-1,M/E-2,DME4,");
+    TenKey(2, "P/P,,,");
+    TenKey(3, "User1,User2,Dev12,MACRO");
+    TenKey(4, "M/E-5 Sub,,,");
+    TenKey(5, "M/E-3,M/E-1,,");
+    TenKey(23, "P-Bus,GPI,,");
+    Paint();
+    EXPECT_TRUE(MatchesGolden("region_select"));
 }

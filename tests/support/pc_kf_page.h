@@ -1,0 +1,79 @@
+// pc_kf_page: the pages around the timeline, opened from the page table and worked over the bus.
+#pragma once
+#include "a_bt.h"
+#include "a_kf.h"
+#include "a_kf_frames.h"
+#include "bus.h"
+#include "command.h"
+#include "device.h"
+#include "global.h"
+#include "harness.h"
+#include "message.h"
+#include "page.h"
+#include <algorithm>
+
+struct KeyframePage : testing::Test {
+    void SetUp() override
+    {
+        Harness_Reset();
+        Device_Init();
+        DeviceStructure();
+        SYS_FrameRate = 30;
+        SYS_3DMode = 0;
+        GL_TimelineDisplayPriority = 0;
+        GL_CreatePage = 0;
+    }
+    void TearDown() override
+    {
+        CreatePage(PAGE_TOP);
+        Device_Init();
+        DeviceStructure();
+        SYS_FrameRate = 60;
+        SYS_3DMode = 0;
+        GL_TimelineDisplayPriority = 0;
+        KF_Init();
+        Page_Reset();
+        GL_CreatePage = 0;
+        (void)TakeQueuedCommands();
+    }
+    static void Open(uint32_t id)
+    {
+        ASSERT_EQ(CreatePage(id), 0);
+        (void)TakeQueuedCommands();
+    }
+    static void Press(int x, int y)
+    {
+        Clock_ms += 1000;
+        SendMessage(MSG_PRESS, x, y, 1, 0);
+        SendMessage(MSG_RELEASE, x, y, 0, 0);
+        SendMessage(MSG_REDRAW, 200, 0, 0, 0);
+    }
+    static void Button(int id)
+    {
+        const BT_MEM* b = bt_find(id);
+        ASSERT_TRUE(b) << id;
+        Press(b->x1 + 5, b->y1 + 5);
+    }
+    // What the page itself has sent, without the subscriptions and what a change of page brings.
+    static std::vector<std::string> Sent(const char* verb = "put")
+    {
+        std::vector<std::string> lines = TakeQueuedCommands();
+        lines.erase(std::remove_if(lines.begin(), lines.end(),
+                                   [&](const std::string& l) {
+                                       return l.rfind(verb, 0) != 0 ||
+                                              l.rfind("put TopMenu", 0) == 0;
+                                   }),
+                    lines.end());
+        return lines;
+    }
+    static void Tally(const std::string& path, const char* value)
+    {
+        SendMessage(MSG_TALLY, Arg(path.c_str()), Arg(value), MsgArg(Hash(path.c_str())), 0);
+    }
+    static void TenKey(int number, const char* regions)
+    {
+        const std::string n = std::to_string(number);
+        Tally("Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@" + n,
+              (n + ",0," + regions).c_str());
+    }
+};

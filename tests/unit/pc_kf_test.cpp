@@ -1,0 +1,586 @@
+#include "a_kp.h"
+#include "a_ls.h"
+#include "a_nb.h"
+#include "netio.h"
+#include "pane.h"
+#include "pc_kf.h"
+#include "pc_kf_page.h"
+#include "setup_index.h"
+#include "tdl.h"
+#include "text.h"
+#include <cstring>
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// --- Time Line ---
+
+struct TimelinePage : KeyframePage {
+    static constexpr int X = 400; // in every row's bar
+    static int RowY(int row) { return row * 45 + 115; }
+    static bool IsPainted(int row) { return PixelAt(X, RowY(row)) == 0; }
+    static void Smear()
+    {
+        for (int row = 0; row < 10; row++)
+            TDL_FillRectS(X, RowY(row), X, RowY(row), 0x123456);
+    }
+    static void Redraw(int ms) { SendMessage(MSG_REDRAW, ms, 0, 0, 0); }
+    void SetUp() override
+    {
+        KeyframePage::SetUp();
+        kf::AssignAll();
+        KF_DefaultRegionPriority();
+        Open(0x61110000);
+        Redraw(1000);
+        Redraw(1000);
+    }
+};
+
+TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPainted)
+{
+    Smear();
+    TDL_FillRectS(50, 110, 50, 110, 0x123456); // in the first row's block
+    Redraw(1000);
+    EXPECT_FALSE(IsPainted(0)) << "nothing has come";
+    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
+    Redraw(1000);
+    EXPECT_TRUE(IsPainted(0));
+    EXPECT_EQ(PixelAt(50, 110), 0x123456u) << "the name stands";
+    EXPECT_FALSE(IsPainted(2));
+    kf::Send(kf::DATA, kf::DataFrame({.code = 2}));
+    Redraw(1000);
+    EXPECT_TRUE(IsPainted(2));
+    EXPECT_FALSE(IsPainted(3));
+}
+
+TEST_F(TimelinePage, ItWaitsTenMillisecondsForEachSelectedRow)
+{
+    kf::Select({1, 0x0E, 0, 0, 0, 0, 0, 0});
+    Redraw(31);
+    Redraw(0);
+    for (const bool is_last : {false, false, true}) { // 10, 20, 31 ms
+        Smear();
+        kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
+        Redraw(is_last ? 11 : 10);
+        EXPECT_EQ(IsPainted(0), is_last);
+    }
+}
+
+TEST_F(TimelinePage, TheAxisReachesFromTheFirstStartToTheLastEnd)
+{
+    // Label columns that differ between two digits tell that a label was painted.
+    const auto label = [](int x) {
+        std::vector<uint32_t> pixels;
+        for (int y = 535; y <= 546; y++)
+            for (int i = x; i <= x + 70; i++)
+                pixels.push_back(PixelAt(i, y));
+        return pixels;
+    };
+    const auto empty_start = label(117);
+    const auto empty_end = label(617);
+    EXPECT_EQ(empty_start, empty_end) << "00:00:00:00 both";
+    kf::Send(kf::DATA,
+             kf::DataFrame(
+                 {.code = 1, .start = {1, 0, 2, 0}, .end = {1, 0, 4, 0}, .keyframes = {30, 0}}));
+    kf::Send(kf::DATA, kf::DataFrame({.code = 2, .start = {0, 0, 0, 0}, .end = {1, 0, 6, 0}}));
+    Redraw(1000);
+    Redraw(1000);
+    EXPECT_NE(label(117), empty_start);
+    EXPECT_NE(label(617), empty_end);
+    // 2 s to 6 s on 500 pixels: the second keyframe, at 3 s, stands at column 125.
+    EXPECT_EQ(PixelAt(275, 106), 0xFFFFFFu);
+    EXPECT_EQ(PixelAt(274, 106), 0u);
+    kf::Send(kf::DATA, kf::DataFrame({.code = 2, .start = {0, 0, 0, 0}}));
+    Redraw(1000);
+    Redraw(1000);
+    EXPECT_EQ(PixelAt(400, 106), 0xFFFFFFu) << "the end has moved to 4 s";
+}
+
+TEST_F(TimelinePage, AnEndBeforeTheStartEmptiesTheAxis)
+{
+    kf::Send(kf::DATA,
+             kf::DataFrame(
+                 {.code = 1, .start = {1, 0, 0, 0}, .end = {0, 0, 5, 0}, .keyframes = {30, 30}}));
+    Redraw(1000);
+    Redraw(1000);
+    EXPECT_EQ(PixelAt(149, 107), 0xFFFFFFu) << "the markers lie on the first column";
+    for (int x = 155; x < 640; x++)
+        ASSERT_EQ(PixelAt(x, 91), 0u) << x;
+}
+
+TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
+{
+    const auto turn = [](int to) { return SendMessage(LMSG_KNOBVAR, 1, to, 0, 0); };
+    kf::Send(kf::DATA, kf::DataFrame({.code = 69,
+                                      .start = {1, 0, 0, 0},
+                                      .end = {1, 0, 4, 0},
+                                      .keyframes = {30}})); // MACRO: place 51
+    char path[CMD_SIZE];
+    double value = 0;
+    EXPECT_EQ(NB_GetKnob_info("Region\nScroll", path, &value, sizeof path), 1);
+    turn(42);
+    Redraw(1000);
+    Redraw(1000);
+    EXPECT_EQ(PixelAt(160, 9 * 45 + 91), 0x606060u) << "MACRO is the last row";
+    Open(0x61110000);
+    EXPECT_EQ(NB_GetKnob_info("Region\nScroll", path, &value, sizeof path), 1);
+    EXPECT_EQ(value, 42) << "the page comes back where it was left";
+    for (int row = 2; row <= 11; row++)
+        KF_RegionAssignTally(row, "");
+    Open(0x61110000);
+    NB_GetKnob_info("Region\nScroll", path, &value, sizeof path);
+    EXPECT_EQ(value, 0) << "four regions need no scrolling";
+    for (const int wild : {-1, 1 << 20})
+        turn(wild); // no further than the list
+    Redraw(1000);
+}
+
+TEST_F(TimelinePage, RegionsThatAreAssignedLaterComeIn)
+{
+    KF_Init();
+    Open(0x61110000);
+    KF_RegionAssignTally(1, "GPI");
+    kf::Send(
+        kf::DATA,
+        kf::DataFrame({.code = 65, .start = {1, 0, 0, 0}, .end = {1, 0, 4, 0}, .keyframes = {60}}));
+    Redraw(1000);
+    Redraw(1000);
+    EXPECT_EQ(PixelAt(160, 91), 0x606060u);
+}
+
+TEST_F(TimelinePage, ATouchOnANameOpensTheRunControl)
+{
+    Press(50, 200);
+    EXPECT_NE(Pane_GetActiveID(), 0);
+    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("add Key Frame@Timeline@Run"));
+}
+
+TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
+{
+    Harness_Reset();
+    Device_Init();
+    DeviceStructure();
+    int jumps = 0;
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        for (const auto& object : page->obj) {
+            if (object.type != OBJ_KP || page->id >> 24 != 0x61)
+                continue;
+            for (auto row = static_cast<const KP_TBL*>(object.addr); row->caption; row++) {
+                if (!row->jump)
+                    continue;
+                jumps++;
+                const PAGE* const target = SearchPageTable(row->jump);
+                ASSERT_TRUE(target) << std::hex << page->id << " " << row->caption;
+                EXPECT_NE(target, page) << std::hex << page->id << " " << row->caption;
+                // From the list of regions to the region of that name.
+                if (!page->tree[2]) {
+                    EXPECT_STREQ(target->tree[2], row->caption);
+                }
+            }
+        }
+    }
+    EXPECT_GT(jumps, 50);
+}
+
+// --- Timeline Assign ---
+
+struct AssignPage : KeyframePage {
+    enum : int { ACTIVE = 49, DISPLAY = 50, INSERT = 52, DELETE_KEY = 53, DEFAULT = 54 };
+
+    void SetUp() override
+    {
+        KeyframePage::SetUp();
+        KF_RegionAssignTally(1, "M/E-1,M/E-1 Sub,P/P,User1");
+        KF_DefaultRegionPriority();
+        Open(0x61150000);
+    }
+    // The cells of a list, row by row.
+    static std::vector<std::string> Cells(int list, int columns)
+    {
+        std::vector<std::string> rows;
+        for (int row = 0; row < LS_GetNData(list); row++) {
+            std::string line;
+            for (int col = 0; col < columns; col++)
+                line += (col ? " " : "") + std::string(LS_GetData(list, row, col));
+            rows.push_back(line);
+        }
+        return rows;
+    }
+    static std::vector<std::string> Order() { return Cells(1, 3); }
+};
+
+TEST_F(AssignPage, TheListsShowTheOrderAndTheSystem)
+{
+    EXPECT_THAT(Order(),
+                ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ON", "3 P/P ON", "4 USER1 ON", "  "));
+    EXPECT_THAT(Cells(2, 2), ElementsAre("1 M/E-1", "2 M/E-1 Sub", "3 P/P", "4 USER1"));
+}
+
+TEST_F(AssignPage, TheKeysWorkAtTheCursors)
+{
+    LS_SetNowLine(1, 1);
+    Button(DISPLAY);
+    EXPECT_THAT(Order(), ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ", "3 P/P ON", "4 USER1 ON", "  "));
+    Button(DISPLAY);
+    LS_SetNowLine(1, 4); // behind the last
+    LS_SetNowLine(2, 0);
+    Button(INSERT);
+    EXPECT_THAT(Order(),
+                ElementsAre("1 M/E-1 Sub ON", "2 P/P ON", "3 USER1 ON", "4 M/E-1 ON", "  "));
+    LS_SetNowLine(1, 0);
+    LS_SetNowLine(2, 3);
+    Button(INSERT);
+    LS_SetNowLine(1, 2);
+    Button(DELETE_KEY);
+    EXPECT_THAT(Order(), ElementsAre("1 USER1 ON", "2 M/E-1 Sub ON", "3 M/E-1 ON", "  "));
+    EXPECT_EQ(KF_GetRegionDisplay(5), 2);
+    LS_SetNowLine(1, 3);
+    Button(DELETE_KEY); // on the empty row: nothing
+    Button(DISPLAY);
+    EXPECT_EQ(Order().size(), 4u);
+    Button(DEFAULT);
+    EXPECT_THAT(Order(),
+                ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ON", "3 P/P ON", "4 USER1 ON", "  "));
+    EXPECT_THAT(Sent(), IsEmpty());
+}
+
+TEST_F(AssignPage, TheDisplayKeyFollowsTheCursor)
+{
+    KF_SetRegionDisplay(45, 1);
+    SendMessage(LMSG_LISTSEL, 1, 0, 0, 0);
+    EXPECT_EQ(BT_GetStatus(DISPLAY), BT_ON);
+    LS_SetNowLine(1, 1);
+    SendMessage(LMSG_LISTSEL, 1, 1, 0, 0);
+    EXPECT_EQ(BT_GetStatus(DISPLAY), BT_OFF);
+}
+
+TEST_F(AssignPage, WithActiveRegionTheSelectionDecides)
+{
+    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_OFF);
+    Button(ACTIVE);
+    EXPECT_EQ(GL_TimelineDisplayPriority, 1);
+    EXPECT_THAT(Sent(), ElementsAre("put Info@Operation Setup Data@Timeline Display Priority#1"));
+    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_ON);
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED);
+    EXPECT_EQ(LS_GetStatus(1, 0, 2), 1);
+    Button(ACTIVE);
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_ENABLED);
+    EXPECT_EQ(LS_GetStatus(1, 0, 2), 0);
+    EXPECT_THAT(Sent(), ElementsAre("put Info@Operation Setup Data@Timeline Display Priority#0"));
+    Tally("Info@Operation Setup Data@Timeline Display Priority", "1");
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED) << "changed elsewhere";
+}
+
+TEST_F(AssignPage, ClosingSavesAllRows)
+{
+    LS_SetNowLine(1, 2);
+    Button(DISPLAY);
+    CreatePage(PAGE_TOP);
+    const auto sent = Sent();
+    ASSERT_EQ(sent.size(), 128u);
+    EXPECT_EQ(sent[0], "put Info@Operation Setup Data@Timeline Region Display#1,0");
+    EXPECT_EQ(sent[1], "put Info@Operation Setup Data@Timeline Region Priority#1,0");
+    EXPECT_EQ(sent[3], "put Info@Operation Setup Data@Timeline Region Priority#2,45");
+    EXPECT_EQ(sent[10], "put Info@Operation Setup Data@Timeline Region Display#6,1");
+    EXPECT_EQ(sent[127], "put Info@Operation Setup Data@Timeline Region Priority#64,255");
+}
+
+TEST_F(AssignPage, ActiveRegionListsTheSelectedFirst)
+{
+    CreatePage(PAGE_TOP);
+    GL_TimelineDisplayPriority = 1;
+    kf::Send(
+        kf::DATA,
+        kf::DataFrame({.code = 8, .start = {1, 0, 0, 0}, .end = {1, 0, 4, 0}, .keyframes = {60}}));
+    kf::Select({8, 0, 0x01, 0, 0, 0, 0, 0}); // USER1
+    Open(0x61110000);
+    for (int i = 0; i < 2; i++)
+        SendMessage(MSG_REDRAW, 1000, 0, 0, 0);
+    EXPECT_EQ(PixelAt(160, 91), 0x606060u) << "in the first row";
+}
+
+// --- DME User PGM ---
+
+struct ProgramPage : KeyframePage {
+    // Select DME1 (and DME2) with these registers.
+    static void Load(int regnum1, int regnum2)
+    {
+        kf::Send(kf::DATA, kf::DataFrame({.code = 16, .regnum = regnum1}));
+        kf::Send(kf::DATA, kf::DataFrame({.code = 17, .regnum = regnum2}));
+        kf::Select({16, 0, 0, 3, 0, 0, 0, 0});
+        CreatePage(0x61140000);
+    }
+    static std::vector<int> Enabled()
+    {
+        std::vector<int> ids;
+        for (const int id : {17, 18, 19, 20, 33, 34, 35, 36})
+            if (BT_GetVisible(id) == BT_ENABLED)
+                ids.push_back(id);
+        return ids;
+    }
+};
+
+TEST_F(ProgramPage, TheSelectedProgramsDecideWhichModesThereAre)
+{
+    static const struct {
+        int reg1, reg2;
+        std::vector<int> enabled;
+    } cases[] = {
+        {1, 99, {}},
+        {100, 200, {}},
+        {300, 0, {}},
+        {201, 0, {19, 20, 34}},
+        {0, 299, {19, 20, 34}},
+        {101, 0, {17, 18, 20, 33, 34, 35, 36}},
+        {250, 199, {17, 18, 19, 20, 33, 34, 35, 36}},
+    };
+    for (const auto& c : cases) {
+        Load(c.reg1, c.reg2);
+        EXPECT_EQ(Enabled(), c.enabled) << c.reg1 << " " << c.reg2;
+    }
+    Load(101, 201);
+    kf::Select({16, 0, 0, 0, 0, 0, 0, 0});
+    CreatePage(0x61140000);
+    EXPECT_THAT(Enabled(), IsEmpty()) << "none is selected";
+}
+
+TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgram)
+{
+    constexpr char path[] = "Key Frame@DME User PGM@Transition Mode@150";
+    Load(150, 201);
+    EXPECT_THAT(Sent("add Key Frame"), ElementsAre(std::string("add ") + path));
+    static const struct {
+        int button, value;
+    } cases[] = {{17, 0}, {18, 8}, {19, 1}, {20, 5}, {33, 3}, {34, 2}, {35, 6}, {36, 7}};
+    for (const auto& c : cases) {
+        Button(c.button);
+        EXPECT_THAT(Sent(),
+                    ElementsAre("put " + std::string(path) + "#" + std::to_string(c.value)));
+        Tally(path, std::to_string(c.value).c_str());
+        EXPECT_EQ(BT_GetStatus(c.button), BT_ON) << c.button;
+    }
+    for (const char* wild : {"9", "-1", "", "x"})
+        Tally(path, wild);
+    EXPECT_EQ(BT_GetStatus(36), BT_ON) << "ignored";
+    CreatePage(PAGE_TOP);
+    EXPECT_THAT(Sent("remove Key Frame"), ElementsAre(std::string("remove ") + path));
+}
+
+TEST_F(ProgramPage, ADualProgramCallsItsModesByTheirNumbers)
+{
+    Load(0, 222);
+    (void)TakeQueuedCommands();
+    Button(20);
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@DME User PGM@Transition Mode@222#4"));
+}
+
+TEST_F(ProgramPage, ItIsLoadedAnewWhenARegionChanges)
+{
+    Load(101, 0);
+    GL_CreatePage = 0;
+    kf::Send(kf::DATA, kf::DataFrame({.code = 16, .regnum = 202}));
+    EXPECT_EQ(GL_CreatePage, 0x61140000u);
+    GL_CreatePage = 0;
+    kf::Select({16, 0, 0, 1, 0, 0, 0, 0});
+    EXPECT_EQ(GL_CreatePage, 0x61140000u);
+}
+
+// --- Region Select ---
+
+struct RegionPage : KeyframePage {
+    // Of the key with this number, of its regions: the reference row and the selection row.
+    static void Key(int number)
+    {
+        Press(104 + 68 * ((number - 1) % 5) + 10, 84 + 70 * ((number - 1) / 5) + 30);
+    }
+    static void Reference(int slot) { Press(456 + 61 * slot + 10, 120 + 10); }
+    static void Selection(int slot) { Press(456 + 61 * slot + 10, 210 + 10); }
+    // Whether any pixel of the key's cap has this colour.
+    static bool Shows(int number, uint32_t colour)
+    {
+        const int x1 = 104 + 68 * ((number - 1) % 5);
+        const int y1 = 84 + 70 * ((number - 1) / 5) + 16;
+        for (int y = y1; y < y1 + 40; y++)
+            for (int x = x1; x < x1 + 60; x++)
+                if (PixelAt(x, y) == colour)
+                    return true;
+        return false;
+    }
+    static void Redraw() { SendMessage(MSG_REDRAW, 10, 0, 0, 0); }
+    void SetUp() override
+    {
+        KeyframePage::SetUp();
+        SetupLock = {};
+        kf::Select({1, 0x03, 0, 0, 0, 0, 0, 0}); // M/E-1, the reference, and P/P
+        Open(0x61170000);
+    }
+    void TearDown() override
+    {
+        SetupLock = {};
+        SetupMenu_Max = 0;
+        KeyframePage::TearDown();
+    }
+};
+
+TEST_F(RegionPage, EntryAndExitTellThePanel)
+{
+    constexpr char pcx[] = "put Engineering Setup@Panel@Config@10 Key Region Assign@Pcx#40";
+    CreatePage(PAGE_TOP);
+    EXPECT_THAT(Sent(), ElementsAre(pcx));
+    CreatePage(0x61170000);
+    const auto sent = TakeQueuedCommands();
+    EXPECT_THAT(sent, testing::Contains(pcx));
+    for (const char* n : {"1", "23"})
+        EXPECT_THAT(sent, testing::Contains(std::string("read Engineering Setup@Panel@Config@10 "
+                                                        "Key Region Assign@Common@Region@Common@") +
+                                            n));
+}
+
+TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
+{
+    TenKey(1, "M/E-1,M/E-2,No Assign,P/P");
+    TenKey(7, "User3,DME1,,");
+    Selection(0);
+    Selection(1);
+    Selection(2); // nobody's
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@M/E-1#false",
+                                    "put Key Frame@Region Select@Region Enable@M/E-2#true"));
+    Reference(0);
+    Reference(1); // not selected: it cannot be the reference
+    Reference(3);
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Ref Region Set#M/E-1",
+                                    "put Key Frame@Region Select@Ref Region Set#P/P"));
+    Key(7);
+    Selection(0);
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@User3#true"));
+    Key(22);
+    Selection(0);
+    EXPECT_THAT(Sent(), IsEmpty());
+}
+
+TEST_F(RegionPage, ColoursTellWhatAKeyHolds)
+{
+    constexpr uint32_t GREEN = 0x00FF00, ORANGE = 0xE48B1B, WHITE = 0xFFFFFF, RED = 0xFF0000,
+                       GREY = 0x787878;
+    TenKey(2, "M/E-1,,,");
+    TenKey(3, "P/P,,,");
+    TenKey(4, "M/E-2,P/P,,");
+    TenKey(8, "M/E-3,,,");
+    Redraw();
+    EXPECT_TRUE(Shows(2, GREEN) && !Shows(2, RED));
+    EXPECT_TRUE(Shows(3, ORANGE) && !Shows(3, RED));
+    EXPECT_TRUE(Shows(4, ORANGE) && Shows(4, RED)) << "one of two is selected";
+    EXPECT_TRUE(Shows(8, WHITE) && !Shows(8, RED));
+    SYS_3DMode = 1;
+    TenKey(8, "M/E-3,P/P,,");
+    Redraw();
+    EXPECT_TRUE(Shows(8, GREY) && !Shows(8, RED) && !Shows(8, ORANGE));
+    kf::Select({0, 0x03, 0, 0, 0, 0, 0, 0}); // only the reference changes: nobody is told
+    Redraw();
+    EXPECT_TRUE(Shows(3, GREEN) && Shows(2, ORANGE));
+}
+
+TEST_F(RegionPage, RegionsThatTheModeTakesAwayAreGrey)
+{
+    static const struct {
+        const char* region;
+        DEVTYPE panel;
+        int mode_3d;
+        bool is_grey;
+    } cases[] = {
+        {"M/E-3", DEVTYPE_QRD11, 1, true},  {"M/E-4", DEVTYPE_QRD11, 1, true},
+        {"M/E-2", DEVTYPE_QRD11, 1, false}, {"M/E-3", DEVTYPE_QRD11, 0, false},
+        {"M/E-2", DEVTYPE_QRD11B, 1, true}, {"M/E-4", DEVTYPE_QRD11B, 1, false},
+        {"DME3", DEVTYPE_QRD11, 1, true},   {"DME8", DEVTYPE_QRD11, 1, true},
+        {"DME5", DEVTYPE_QRD11, 1, false},  {"M/E-3 Sub", DEVTYPE_QRD11, 1, false},
+    };
+    for (const auto& c : cases) {
+        SYS_RefPnlType = c.panel;
+        SYS_3DMode = c.mode_3d;
+        TenKey(1, (std::string(c.region) + ",,,").c_str());
+        Selection(0);
+        EXPECT_EQ(Sent().empty(), c.is_grey) << c.region << " " << c.panel;
+    }
+}
+
+TEST_F(RegionPage, OneProcessorOnTwoLinksLosesBanksAndChannels)
+{
+    DEV_MySwr[0]->activeline = 6;
+    DEV_MySwr[0]->framerate = 25.0;
+    SYS_DualProc = 0;
+    TenKey(1, "M/E-3,DME3,,");
+    Selection(0);
+    Selection(1);
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@DME3#true"));
+    DEV_MyDme[0]->activeline = 6;
+    DEV_MyDme[0]->framerate = 25.0;
+    Selection(1);
+    EXPECT_THAT(Sent(), IsEmpty());
+}
+
+TEST_F(RegionPage, TheLockSetTakesNoPress)
+{
+    TenKey(1, "M/E-1,,,");
+    SetupMenu[0] = {.page = 0x61170000, .lock = 1};
+    SetupMenu_Max = 1;
+    Selection(0);
+    EXPECT_EQ(Sent().size(), 1u) << "the lock is off";
+    SetupLock.lock = 1;
+    Selection(0);
+    Key(2);
+    EXPECT_THAT(Sent(), IsEmpty());
+    SetupMenu[0].lock = 0;
+    Selection(0);
+    EXPECT_EQ(Sent().size(), 1u);
+}
+
+TEST_F(RegionPage, RubbishOnTheKeysIsNoAssign)
+{
+    TenKey(1, "M/E-1,,,");
+    for (const char* number : {"0", "24", "-1", "", "x", "99999999999"})
+        Tally(std::string(
+                  "Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@") +
+                  number,
+              "1,0,P/P,,,");
+    Selection(0);
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@M/E-1#false"));
+    for (const char* regions : {",,,", "No Assign,,,", "M/E-9,,,", "M/E-1x"}) {
+        TenKey(1, regions);
+        Selection(0);
+        EXPECT_THAT(Sent(), IsEmpty()) << regions;
+    }
+    TenKey(1, "M/E-1");
+    Selection(0);
+    EXPECT_EQ(Sent().size(), 1u) << "the other three are not there";
+}
+
+TEST_F(RegionPage, TheNewestPanelHasItsKeysOnTwoModules)
+{
+    EXPECT_EQ(BT_GetVisible(53), BT_CUTOFF);
+    SYS_RefPnlType = DEVTYPE_QRD11B;
+    Open(0x61170000);
+    EXPECT_EQ(BT_GetVisible(53), BT_ENABLED);
+    TenKey(1, "M/E-1,,,");
+    TenKey(8, "User1,,,");
+    TenKey(22, "User2,,,");
+    Button(54); // the second module: its first key has the number 8
+    EXPECT_EQ(BT_GetStatus(54), BT_ON);
+    Key(1);
+    Selection(0);
+    Key(15);
+    Selection(0);
+    Key(16); // there is none
+    Selection(0);
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@User1#true",
+                                    "put Key Frame@Region Select@Region Enable@User2#true",
+                                    "put Key Frame@Region Select@Region Enable@User2#true"));
+    Button(53);
+    EXPECT_EQ(BT_GetStatus(53), BT_ON);
+    Key(1);
+    Selection(0);
+    Key(8);
+    Selection(0);
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@M/E-1#false",
+                                    "put Key Frame@Region Select@Region Enable@M/E-1#false"));
+}
