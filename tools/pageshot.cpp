@@ -4,6 +4,7 @@
 // usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]...      in the working directory
 // build/run
 //        PAGE as the operator writes it: 1111, 1111.2
+#include "a_kf.h"
 #include "bus.h"
 #include "device.h"
 #include "global.h"
@@ -102,6 +103,7 @@ int main(int argc, char** argv)
     }
     Device_Init();
     Global_InitBusNames();
+    KF_Init();
     DeviceStructure();
     if (CreatePage(PageId(argv[1])) != 0) {
         fprintf(stderr, "pageshot: there is no page %s\n", argv[1]);
