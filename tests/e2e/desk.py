@@ -166,6 +166,21 @@ class Desk:
         self._box("say", "sim", line)
         time.sleep(0.05)
 
+    def value(self, path, timeout=2.0):
+        """What the server holds at this path."""
+        out = os.path.join(self.work, "sim.out")
+        seen = os.path.getsize(out)
+        self._box("say", "sim", f"get {path}")
+        end = time.monotonic() + timeout
+        while time.monotonic() < end:
+            with open(out, encoding="latin-1") as f:
+                f.seek(seen)
+                for line in f.read().split("\n")[:-1]:
+                    if line.startswith(path + "#"):
+                        return line[len(path) + 1:]
+            time.sleep(0.02)
+        raise AssertionError(f"the server doesn't answer for {path}")
+
     # --- eyes ---
 
     def _screen_pnm(self):
@@ -185,6 +200,10 @@ class Desk:
         width, height = int(header[1]), int(header[2])
         body = pnm[header.end():]
         return [body[y * width * 3:(y + 1) * width * 3] for y in range(height)]
+
+    def part(self, x1, y1, x2, y2):
+        """The pixels of a rectangle, its edges included: two looks at it can be compared."""
+        return [row[3 * x1:3 * x2 + 3] for row in self.pixels()[y1:y2 + 1]]
 
     def log(self):
         """The application's log."""

@@ -1,0 +1,235 @@
+"""A hand on the objects of a page: knobs, boxes, ten keys, tabs, cells and windows, up to what the server holds."""
+import sys
+import time
+import unittest
+
+from desk import Desk
+
+BUILD = sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev"
+
+INITIAL_READ_END = "add M/E-5@Key8@Processed Key@Rotation"
+TYPE = "M/E-1@Key1@Type@Key Type"
+CHROMA = f"{TYPE}@Chroma@"
+COLUMN = (706, 127, 799, 545)  # the number boxes
+WORK_AREA = (97, 73, 702, 526)
+LAYER_KEY = (749, 96)
+DEFAULT_KEY = (45, 563)
+PAGE_KEY = (45, 35)
+BAR_X, BAR_W = 714, 80
+KNOB_PAD = (446 + 17, 140 + 310)  # where the "0" of the knob window stands
+PAGE_PAD = (98 + 375, 78 + 371)  # and that of the page window, which is centred
+SETUP = "Info@Operation Setup Data@"
+
+
+def grid(button_id):
+    """The middle of a standard button."""
+    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
+
+
+def slot(number):
+    """The rectangle of a number box, from 1."""
+    top = 127 + 82 * (number - 1)
+    return 706, top, 799, top + 81
+
+
+def middle(rect):
+    return (rect[0] + rect[2]) // 2, (rect[1] + rect[3]) // 2
+
+
+def key_of(pad, key):
+    """The middle of a key of a ten-key window whose zero stands at pad."""
+    row_and_column = {"0": (0, 0), ".": (0, 1), "+/-": (0, 2), "Enter": (0, 3), "Cancel": (1, 3)}
+    if key in row_and_column:
+        row, column = row_and_column[key]
+    else:
+        row, column = (int(key) + 2) // 3, (int(key) - 1) % 3
+    return pad[0] + 54 * column + 24, pad[1] - 59 * row + 24
+
+
+class Objects(unittest.TestCase):
+    """One start-up serves all; each test opens the page that it is about."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desk = Desk(BUILD)
+        cls.addClassCleanup(cls.desk.close)
+        cls.desk.start_app()
+        cls.desk.wait_wire(INITIAL_READ_END, 20)
+        cls.desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
+        cls.desk.console(f"set {TYPE}#Chroma")
+
+    def open_page(self, number, sign):
+        self.desk.wire()
+        self.desk.console(f"page {number}")
+        self.desk.wait_wire(sign)
+        time.sleep(0.3)
+
+    def open_chroma(self):
+        """The page of the key type with the knobs of its chroma key, coming from another page."""
+        self.open_page("1231", "add M/E-2@Key3@Type@Key Type")
+        self.open_page("1111", f"add {TYPE}")
+        self.desk.touch(*grid(19))
+
+    def wait_value(self, path, expected, timeout=2.0):
+        end = time.monotonic() + timeout
+        while self.desk.value(path) != expected:
+            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {expected}")
+            time.sleep(0.05)
+
+    def type_on(self, pad, *keys):
+        for key in keys:
+            self.desk.touch(*key_of(pad, key), settle=0.3)
+
+    def test_01_a_selected_button_brings_its_knobs(self):
+        self.open_page("1231", "add M/E-2@Key3@Type@Key Type")
+        self.open_page("1111", f"add {TYPE}")
+        self.desk.touch(*grid(18))
+        self.desk.wait_wire(f"put {TYPE}#Linear")
+        time.sleep(0.3)
+        linear = self.desk.part(*COLUMN)
+        self.desk.touch(*grid(19))
+        lines = self.desk.wait_wire(f"add {CHROMA}Hue") + self.desk.wire()
+        self.assertIn(f"put {TYPE}#Chroma", lines)
+        self.assertIn(f"remove {TYPE}@Linear@Clip", lines)
+        time.sleep(0.3)
+        self.assertNotEqual(self.desk.part(*COLUMN), linear)
+
+    def test_02_a_knob_turns_the_value_of_its_box(self):
+        self.open_chroma()
+        before, shown, beside = self.desk.value(CHROMA + "Hue"), self.desk.part(*slot(3)), self.desk.part(*slot(4))
+        self.desk.console("knob 2 +3")
+        time.sleep(0.4)
+        self.assertGreater(float(self.desk.value(CHROMA + "Hue")), float(before))
+        self.assertNotEqual(self.desk.part(*slot(3)), shown)
+        self.assertEqual(self.desk.part(*slot(4)), beside)
+        self.desk.console("knob 2 -3")
+        time.sleep(0.8)  # the box holds a fresh change for a while
+        self.assertEqual(self.desk.value(CHROMA + "Hue"), before)
+        self.assertEqual(self.desk.part(*slot(3)), shown)
+
+    def test_03_a_drag_puts_what_the_bar_shows(self):
+        self.open_chroma()
+        self.desk.console(f"set {SETUP}Mouse Slider Control#Left Button")
+        self.addCleanup(self.desk.console, f"set {SETUP}Mouse Slider Control#Right Button")
+        shown = self.desk.part(*slot(1))
+        y = middle(slot(1))[1]
+        self.desk.wire()
+        self.desk.touch_down(BAR_X + 10, y)
+        time.sleep(0.1)
+        for step in (20, 40, 60):
+            self.desk.touch_move(BAR_X + step, y)
+            time.sleep(0.05)
+        self.desk.touch_up()
+        time.sleep(0.8)
+        puts = [line for line in self.desk.wire() if line.startswith(f"put {CHROMA}Clip#")]
+        self.assertGreater(len(puts), 2)
+        dragged = float(puts[-1].rsplit("#", 1)[1])
+        self.assertAlmostEqual(dragged, 100 * 60 / BAR_W, delta=2)  # the panel is coarser than a pixel
+        self.assertEqual(float(self.desk.value(CHROMA + "Clip")), dragged)
+        self.assertNotEqual(self.desk.part(*slot(1)), shown)
+
+    def test_04_a_typed_value_is_put_once(self):
+        self.open_chroma()
+        shown = self.desk.part(*slot(2))
+        self.desk.touch(*middle(slot(2)))
+        self.desk.wire()
+        self.type_on(KNOB_PAD, "4", "2", ".", "5", "+/-", "Enter")
+        time.sleep(0.5)
+        self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [f"put {CHROMA}Gain#-42.50"])
+        self.assertEqual(self.desk.value(CHROMA + "Gain"), "-42.50")
+        self.assertNotEqual(self.desk.part(*slot(2)), shown)
+
+    def test_05_a_typed_value_is_held_to_the_range_and_cancel_puts_nothing(self):
+        self.open_chroma()
+        self.desk.touch(*middle(slot(2)))
+        self.type_on(KNOB_PAD, "9", "9", "9", "Enter")
+        self.wait_value(CHROMA + "Gain", "100.00")
+        self.desk.touch(*middle(slot(2)))
+        self.desk.wire()
+        self.type_on(KNOB_PAD, "7", "Cancel")
+        self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [])
+
+    def test_06_the_layers_of_a_table_take_turns_on_the_knobs(self):
+        self.open_chroma()
+        first = self.desk.part(*COLUMN)
+        clip, angle = self.desk.value(CHROMA + "Clip"), self.desk.value(CHROMA + "Angle")
+        self.desk.touch(*LAYER_KEY)
+        self.assertNotEqual(self.desk.part(*COLUMN), first)
+        self.desk.console("knob 0 +3")
+        time.sleep(0.3)
+        self.assertEqual(self.desk.value(CHROMA + "Clip"), clip)
+        self.assertGreater(float(self.desk.value(CHROMA + "Angle")), float(angle))
+        self.desk.touch(*LAYER_KEY)
+        self.assertEqual(self.desk.part(*COLUMN), first)
+
+    def test_07_default_recall_takes_one_touch_on_a_box(self):
+        self.open_chroma()
+        self.desk.touch(*middle(slot(2)))
+        self.type_on(KNOB_PAD, "8", "Enter")
+        self.wait_value(CHROMA + "Gain", "8.00")
+        self.desk.touch(*DEFAULT_KEY)
+        self.desk.wire()
+        self.desk.touch(*middle(slot(2)))
+        self.assertIn(f"default {CHROMA}Gain", self.desk.wait_wire(f"read {CHROMA}Gain"))
+        self.assertNotEqual(self.desk.value(CHROMA + "Gain"), "8.00")
+        # It was armed for that touch alone: the next one opens the ten keys.
+        covered = self.desk.part(*WORK_AREA)
+        self.desk.touch(*middle(slot(2)))
+        self.assertNotIn(f"default {CHROMA}Gain", self.desk.wire())
+        self.assertNotEqual(self.desk.part(*WORK_AREA), covered)
+        self.type_on(KNOB_PAD, "Cancel")
+
+    def test_08_tabs_and_cells_open_their_pages(self):
+        self.open_chroma()
+        self.desk.touch(97 + 86 + 43, 564)  # the second tab along the bottom
+        self.desk.wait_wire("add M/E-1@Key1@Edge@Edge Fill")
+        time.sleep(0.3)
+        self.desk.touch(48, 73 + 65 + 30)  # the second tab on the left
+        self.desk.wait_wire("add M/E-1@Key2@Type@Auto Chroma")
+        time.sleep(0.3)
+        self.desk.touch(100 + 100 + 50, 75 + 45)  # the second cell: the edge of this key
+        self.desk.wait_wire("add M/E-1@Key2@Edge@Edge Fill")
+
+    def test_09_a_number_in_the_page_window_opens_the_page(self):
+        self.open_chroma()
+        self.desk.touch(*PAGE_KEY)
+        self.type_on(PAGE_PAD, "1", "2", "1", "3", "Enter")
+        self.desk.wait_wire("add M/E-2@Key1@Main Mask@Main Mask")
+
+    def test_10_a_pane_refuses_the_servers_page(self):
+        self.desk.console("page 9992.0006")
+        time.sleep(0.6)
+        before = self.desk.part(*WORK_AREA)
+        self.desk.touch(*grid(17))  # a progress of its own
+        pane = self.desk.part(*WORK_AREA)
+        self.assertNotEqual(pane, before)
+        self.desk.wire()
+        self.desk.console("page 1111")
+        time.sleep(0.6)
+        self.assertNotIn(f"add {TYPE}", self.desk.wire())
+        time.sleep(5)  # it ends by itself
+        self.open_page("1111", f"add {TYPE}")
+
+    def test_11_the_saver_comes_and_the_touch_that_wakes_presses_nothing(self):
+        self.open_chroma()
+        time.sleep(0.5)
+        page = self.desk.part(*WORK_AREA)
+        self.desk.console(f"set {SETUP}Screen Saver#3")
+        self.addCleanup(self.desk.console, f"set {SETUP}Screen Saver#1200")
+        time.sleep(4.5)
+        self.assertNotEqual(self.desk.part(*WORK_AREA), page)
+        self.desk.wire()
+        self.desk.touch(*grid(18), settle=0.8)
+        # What it says is what each opening of a page says; no button has sent anything.
+        self.assertEqual([line for line in self.desk.wire() if line.startswith("put M/E")], [])
+        self.assertEqual(self.desk.part(*WORK_AREA), page)
+        self.desk.touch(*grid(18))  # awake, it is a press again
+        self.desk.wait_wire(f"put {TYPE}#Linear")
+
+    def test_99_nothing_was_missing(self):
+        self.assertIsNone(self.desk.app_status())
+        self.assertNotIn("Can't load graphics file", self.desk.log())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)

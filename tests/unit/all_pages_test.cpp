@@ -1,0 +1,152 @@
+// The walk over all pages: every row is opened, drawn and left again, in the order of the table.
+#include "bus.h"
+#include "command.h"
+#include "global.h"
+#include "harness.h"
+#include "log.h"
+#include "memory.h"
+#include "message.h"
+#include "page.h"
+#include "pane.h"
+#include "window.h"
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <set>
+#include <string>
+
+namespace
+{
+constexpr char LOG[] = "/var/log2/all_pages.log";
+
+// What is still subscribed after the commands of a walk.
+struct Books {
+    std::map<std::string, int> open;
+    std::set<std::string> stray; // removed, but not added before
+
+    void Take()
+    {
+        for (const std::string& line : TakeQueuedCommands()) {
+            const size_t space = line.find(' ');
+            const std::string verb = line.substr(0, space);
+            const std::string path = space == std::string::npos ? "" : line.substr(space + 1);
+            if (verb == "add")
+                open[path]++;
+            else if (verb == "remove" && --open[path] < 0) {
+                open[path] = 0;
+                stray.insert(path);
+            }
+        }
+    }
+    // The paths that are subscribed now.
+    std::map<std::string, int> Held() const
+    {
+        std::map<std::string, int> held;
+        for (const auto& [path, count] : open)
+            if (count)
+                held.emplace(path, count);
+        return held;
+    }
+};
+
+void Pass(int elapsed_ms)
+{
+    SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
+}
+
+// Windows and panes that a page opens by itself would stand over the next one.
+void CloseAll()
+{
+    (void)CloseWindow(); // none may be open
+    while (int id = Pane_GetActiveID())
+        Pane_Quit(id);
+}
+
+std::string ReadAll(const char* path)
+{
+    std::string text;
+    if (FILE* f = fopen(path, "r")) {
+        char buf[4096];
+        while (size_t n = fread(buf, 1, sizeof buf, f))
+            text.append(buf, n);
+        fclose(f);
+    }
+    return text;
+}
+} // namespace
+
+struct AllPages : testing::Test {
+    void SetUp() override
+    {
+        Harness_Reset();
+        CloseAll();
+    }
+    void TearDown() override
+    {
+        CloseAll();
+        CreatePage(PAGE_TOP);
+        Page_Reset();
+        GL_CreatePage = 0;
+        (void)TakeQueuedCommands();
+        Log_Init(nullptr, LOG_FILE_SIZE);
+    }
+    // Opens every page that this installation shows, each from the top menu and back to it, and
+    // tells the visitor what the visit left subscribed.
+    template <typename Visit> static int Walk(Visit visit)
+    {
+        int opened = 0;
+        Books books;
+        EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+        Pass(10);
+        books.Take();
+        for (const PAGE* row = PageTable; row->id != PAGE_END; row++) {
+            if (CreatePage(row->id) != 0)
+                continue;
+            opened++;
+            Pass(10);
+            Pass(10);
+            CloseAll();
+            (void)CreatePage(PAGE_TOP); // it was there before
+            Pass(10);
+            books.Take();
+            visit(*row, books);
+            books.stray.clear();
+        }
+        return opened;
+    }
+};
+
+TEST_F(AllPages, EachGivesBackWhatItSubscribed)
+{
+    std::map<std::string, int> before;
+    int faults = 0;
+    const int opened = Walk([&](const PAGE& row, Books& books) {
+        const auto held = books.Held();
+        for (const auto& [path, count] : held)
+            if (path != "TopMenu" && !before.contains(path) && faults++ < 40)
+                ADD_FAILURE() << std::hex << row.id << " leaves " << path;
+        for (const std::string& path : books.stray)
+            if (faults++ < 40)
+                ADD_FAILURE() << std::hex << row.id << " removes " << path << " unasked";
+        before = held;
+    });
+    EXPECT_EQ(faults, 0);
+    EXPECT_GT(opened, PageTable_Rows * 8 / 10) << "too many are hidden";
+}
+
+TEST_F(AllPages, NoneKeepsMemoryOrLacksABitmap)
+{
+    (void)Walk([](const PAGE&, Books&) {}); // what is loaded once and kept is there from here on
+    remove(LOG);
+    Log_Init(LOG, 100 * LOG_FILE_SIZE);
+    const int before = UsedMemPtr;
+    int last = before;
+    (void)Walk([&](const PAGE& row, Books&) {
+        EXPECT_LE(UsedMemPtr, last) << std::hex << row.id << " keeps memory";
+        last = UsedMemPtr;
+    });
+    EXPECT_EQ(UsedMemPtr, before);
+    const std::string log = ReadAll(LOG);
+    EXPECT_NE(log, "") << "no log was written";
+    EXPECT_EQ(log.find("Can't load graphics file"), std::string::npos);
+}
