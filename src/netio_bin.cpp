@@ -152,3 +152,9 @@ const unsigned char* Net_ReceiveBinCommand(int* length)
     *length = size;
     return RBCmd;
 }
+
+void Net_DropBinQueue()
+{
+    while (BinSendCommandQueue.first)
+        net_queue_remove(&BinSendCommandQueue);
+}

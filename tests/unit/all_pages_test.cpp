@@ -6,6 +6,7 @@
 #include "log.h"
 #include "memory.h"
 #include "message.h"
+#include "netio.h"
 #include "page.h"
 #include "pane.h"
 #include "window.h"
@@ -26,6 +27,7 @@ struct Books {
 
     void Take()
     {
+        Net_DropBinQueue(); // no link is up to take them
         for (const std::string& line : TakeQueuedCommands()) {
             const size_t space = line.find(' ');
             const std::string verb = line.substr(0, space);
