@@ -63,10 +63,11 @@ static std::vector<Region> region_table()
     return all;
 }
 
+static const std::vector<Region> table = region_table();
+
 const std::vector<Region>& Regions()
 {
-    static const std::vector<Region> all = region_table();
-    return all;
+    return table;
 }
 
 static std::string region_plain(const std::string& name)

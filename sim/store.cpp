@@ -210,7 +210,7 @@ void Store_ShowRow(const Kind& kind, int row)
 
 static std::vector<std::string> store_lines(const Kind& kind, int row)
 {
-    static const Register empty;
+    const Register empty;
     const auto& held = Store_Row(kind, row);
     std::vector<std::string> lines;
     for (int number = 1; number < 400; ++number) {
@@ -263,98 +263,7 @@ int Store_Current(const Kind& kind, int row)
     return sr.current[kind.kind][size_t(row)];
 }
 
-// --- What is there at the start ---
-
-namespace
-{
-struct Stock {
-    StoreKind kind;
-    const char* row; // name of a region or key
-    int number;
-    const char* name;
-    bool is_locked;
-};
-struct EffectStock {
-    const char* region;
-    int number;
-    int keys, frames; // apart
-    int pause, loop_first, loop_last, loop_count, delay;
-};
-} // namespace
-
-static const Stock stock[] = {
-    {STORE_EFFECT, "M/E-1", 1, "OPENING", false},
-    {STORE_EFFECT, "M/E-1", 2, "SLIDE IN", false},
-    {STORE_EFFECT, "M/E-1", 3, "LOGO LOOP", true},
-    {STORE_EFFECT, "M/E-1", 99, "BLACK", true},
-    {STORE_EFFECT, "M/E-2", 1, "OPENING", false},
-    {STORE_EFFECT, "P/P", 1, "OPENING", false},
-    {STORE_EFFECT, "P/P", 2, "CREDITS", false},
-    {STORE_EFFECT, "User1", 1, "AUX SWEEP", false},
-    {STORE_EFFECT, "DME1", 1, "FLY IN", false},
-    {STORE_EFFECT, "DME1", 2, "SPIN", false},
-    {STORE_EFFECT, "DME2", 1, "FLY OUT", false},
-    {STORE_EFFECT, "DME1", 101, "PAGE TURN", false},
-    {STORE_EFFECT, "DME1", 102, "CUBE", true},
-    {STORE_EFFECT, "DME1", 201, "DUAL FLIP", false},
-    {STORE_EFFECT, "DME1", 301, "TRIPLE", false},
-    {STORE_EFFECT, "DME5", 101, "SPHERE", false},
-    {STORE_EFFECT, "Dev1", 1, "VTR ROLL", false},
-    {STORE_EFFECT, "Dev1", 250, "SERVER CUE", false},
-    {STORE_EFFECT, "P-Bus", 10, "PBUS 10", false},
-    {STORE_EFFECT, "GPI", 1, "TALLY", false},
-    {STORE_EFFECT, "MACRO", 1, "START", false},
-    {STORE_MASTER_EFFECT, "", 1, "SHOW OPEN", false},
-    {STORE_MASTER_EFFECT, "", 2, "SHOW END", true},
-    {STORE_SNAPSHOT, "M/E-1", 1, "TWO SHOT", false},
-    {STORE_SNAPSHOT, "M/E-1", 2, "WIDE", true},
-    {STORE_SNAPSHOT, "M/E-1", 10, "WEATHER", false},
-    {STORE_SNAPSHOT, "M/E-2", 1, "SPORTS", false},
-    {STORE_SNAPSHOT, "P/P", 1, "STUDIO", false},
-    {STORE_SNAPSHOT, "User1", 1, "AUX DAY", false},
-    {STORE_SNAPSHOT, "DME1", 1, "FULL SIZE", false},
-    {STORE_SNAPSHOT, "RTR", 1, "NORMAL", false},
-    {STORE_MASTER_SNAPSHOT, "", 1, "MORNING", false},
-    {STORE_MASTER_SNAPSHOT, "", 2, "EVENING", true},
-    {STORE_WIPE, "M/E-1", 1, "CIRCLE", false},
-    {STORE_WIPE, "P/P", 1, "DIAGONAL", true},
-    {STORE_DME, "M/E-1", 1, "PUSH", false},
-    {STORE_KEY, "M/E-1@Key1", 1, "TITLE", false},
-    {STORE_KEY, "M/E-1@Key1", 2, "LOGO", true},
-    {STORE_KEY, "P/P@Key1", 1, "CLOCK", false},
-    {STORE_SHOTBOX, "", 1, "INTRO", false},
-    {STORE_SHOTBOX, "", 2, "BREAK", true},
-    {STORE_MACRO, "", 1, "MIC CHECK", false},
-    {STORE_MACRO, "", 2, "GO LIVE", true},
-    {STORE_MACRO, "", 250, "PARK", false},
-};
-
-// What the snapshots above hold; all else below their region is at its default in them.
-static const struct {
-    StoreKind kind;
-    const char* row;
-    int number;
-    const char* path;
-    const char* value;
-} stock_values[] = {
-    {STORE_SNAPSHOT, "M/E-1", 1, "M/E-1@Key1@Type@Key Type", "Linear"},
-    {STORE_SNAPSHOT, "M/E-1", 1, "M/E-1@Key1@Type@Key Type@Linear@Clip", "20.00"},
-    {STORE_SNAPSHOT, "M/E-1", 2, "M/E-1@Key1@Type@Key Type", "Wipe Pattern"},
-    {STORE_SNAPSHOT, "M/E-1", 10, "M/E-1@Key1@Type@Key Type", "Chroma"},
-    {STORE_SNAPSHOT, "M/E-1", 10, "M/E-1@Key1@Type@Key Type@Chroma@Hue", "120.00"},
-    {STORE_KEY, "M/E-1@Key1", 2, "M/E-1@Key1@Type@Key Type", "Color Vector"},
-};
-
-// The others have three keyframes, a second apart.
-static const EffectStock effect_stock[] = {
-    {"M/E-1", 1, 5, 45, 3, 0, 0, 0, 0},   {"M/E-1", 2, 4, 30, 0, 0, 0, 0, 15},
-    {"M/E-1", 3, 6, 20, 0, 2, 5, 3, 0},   {"M/E-2", 1, 3, 60, 0, 0, 0, 0, 30},
-    {"P/P", 1, 2, 150, 0, 0, 0, 0, 0},    {"P/P", 2, 8, 25, 0, 1, 8, 0, 0},
-    {"DME1", 1, 10, 12, 0, 0, 0, 0, 0},   {"DME1", 2, 5, 15, 0, 1, 5, 0, 0},
-    {"Dev1", 250, 2, 300, 1, 0, 0, 0, 0},
-};
-
-static int row_of_name(const Kind& kind, const std::string& name)
+int Store_RowOfName(const Kind& kind, const std::string& name)
 {
     if (kind.rows == 1)
         return name.empty() ? 0 : -1;
@@ -368,65 +277,6 @@ static int row_of_name(const Kind& kind, const std::string& name)
     return -1;
 }
 
-static Effect stock_effect(const EffectStock& s, const std::string& name)
-{
-    Effect effect;
-    effect.name = name;
-    effect.keys.assign(size_t(s.keys), Keyframe{s.frames, false});
-    effect.keys.back().duration = 0;
-    if (s.pause > 0)
-        effect.keys[size_t(s.pause - 1)].has_pause = true;
-    effect.delay = s.delay;
-    effect.loop_first = s.loop_first;
-    effect.loop_last = s.loop_last;
-    effect.loop_count = s.loop_count;
-    return effect;
-}
-
-static void stock_links()
-{
-    Register& open = Store_Register(kinds[STORE_MASTER_EFFECT], 0, 1);
-    open.links.assign(REGION_EFFECTS, 0);
-    open.links[REGION_ME1] = open.links[REGION_ME1 + 1] = open.links[REGION_PP] = 1;
-    Store_Register(kinds[STORE_MASTER_EFFECT], 0, 2).links = {3, 0, 0, 0, 0, 2};
-    Store_Register(kinds[STORE_MASTER_SNAPSHOT], 0, 1).links = {1, 1, 0, 0, 0, 1};
-    Store_Register(kinds[STORE_MASTER_SNAPSHOT], 0, 2).links = {10};
-    Register& intro = Store_Register(kinds[STORE_SHOTBOX], 0, 1);
-    intro.links.assign(REGION_DME1 + 1, 0);
-    intro.links[REGION_ME1] = 1;
-    intro.links[REGION_DME1] = 2;
-    intro.is_auto_run = true;
-    Store_Register(kinds[STORE_SHOTBOX], 0, 2).links = {0, 0, 0, 0, 0, 2};
-}
-
-static void stock_registers()
-{
-    for (const Stock& s : stock) {
-        Register& r = Store_Register(kinds[s.kind], row_of_name(kinds[s.kind], s.row), s.number);
-        r.exists = true;
-        r.name = s.name;
-        r.is_locked = s.is_locked;
-        r.effect = s.kind == STORE_EFFECT
-                       ? stock_effect({s.row, s.number, 3, 30, 0, 0, 0, 0, 0}, s.name)
-                       : Effect{};
-    }
-    for (const EffectStock& s : effect_stock) {
-        Effect& effect =
-            Store_Register(kinds[STORE_EFFECT], Region_ByName(s.region), s.number).effect;
-        effect = stock_effect(s, effect.name);
-    }
-    for (const auto& s : stock_values)
-        Store_Register(kinds[s.kind], row_of_name(kinds[s.kind], s.row), s.number).values[s.path] =
-            s.value;
-    Register& weather = Store_Register(kinds[STORE_SNAPSHOT], REGION_ME1, 10);
-    weather.hold = "AB12U1";
-    weather.dissolve_frames = 30;
-    weather.has_dissolve = true;
-    stock_links();
-    sr.clips[0][{0, 1}] = {true, true, false, "OPENER", 0, 300};
-    sr.clips[0][{1, 1}] = {true, false, true, "BACKDROP", 30, 900};
-}
-
 void Store_Install()
 {
     sr = {};
@@ -434,7 +284,9 @@ void Store_Install()
         sr.rows[kind.kind].resize(size_t(kind.rows));
         sr.current[kind.kind].assign(size_t(kind.rows), 0);
     }
-    stock_registers();
+    Store_Stock();
+    sr.clips[0][{0, 1}] = {true, true, false, "OPENER", 0, 300};
+    sr.clips[0][{1, 1}] = {true, false, true, "BACKDROP", 30, 900};
     store_make_lists();
     const Kind& effects = kinds[STORE_EFFECT];
     for (const char* name : {"M/E-1", "P/P"}) {
@@ -458,7 +310,7 @@ static const Kind* kind_of_word(const std::string& word)
 bool Store_Print(const std::string& word, const std::string& region)
 {
     const Kind* kind = kind_of_word(word);
-    const int only = kind && !region.empty() ? row_of_name(*kind, region) : -1;
+    const int only = kind && !region.empty() ? Store_RowOfName(*kind, region) : -1;
     if (!kind || (!region.empty() && only < 0))
         return false;
     for (int row = 0; row < kind->rows; ++row)
@@ -473,7 +325,7 @@ bool Store_Do(const std::string& verb, const std::string& word, const std::strin
               int number, const std::string& name)
 {
     const Kind* kind = kind_of_word(word);
-    const int row = kind ? row_of_name(*kind, region) : -1;
+    const int row = kind ? Store_RowOfName(*kind, region) : -1;
     if (row < 0 || !Store_IsNumber(*kind, row, number))
         return false;
     if (verb == "store")

@@ -10,6 +10,8 @@
 #include "tree.h"
 #include <algorithm>
 
+static const std::string ALL_DELETE = "Register@All Delete@";
+static const std::string CLIP_EVENT = "Snapshot@Snapshot@Clip Event@";
 static constexpr int KEYS = 8;
 static constexpr size_t HOLD_BYTES = 300; // of the router 256; a list line has to hold it
 
@@ -537,17 +539,15 @@ static void put_command(const Kind& kind, const std::string& path, const std::st
 
 bool Store_Put(const std::string& path, const std::string& value)
 {
-    static const std::string all_delete = "Register@All Delete@";
-    static const std::string clip_event = "Snapshot@Snapshot@Clip Event@";
     const Node* node = Tree_Find(path);
     const bool is_register_list =
         node && node->type.kind == KIND_LIST && path.find("Recall Mode") == std::string::npos;
     if (is_register_list)
         return true; // it shows the registers; who wants others stores them
-    if (Text_Begins(path, all_delete))
-        return put_all_delete(path.substr(all_delete.size()), value);
-    if (Text_Begins(path, clip_event))
-        return put_auto_play(path.substr(clip_event.size()), value);
+    if (Text_Begins(path, ALL_DELETE))
+        return put_all_delete(path.substr(ALL_DELETE.size()), value);
+    if (Text_Begins(path, CLIP_EVENT))
+        return put_auto_play(path.substr(CLIP_EVENT.size()), value);
     if (const Kind* kind = kind_of_path(path))
         put_command(*kind, path, value);
     return false;

@@ -49,6 +49,7 @@ constexpr size_t NAME_BYTES = 11;
 
 const Kind& Store_Kind(StoreKind kind);
 std::string Store_RowName(const Kind& kind, int row);
+int Store_RowOfName(const Kind& kind, const std::string& name); // -1: none
 bool Store_IsNumber(const Kind& kind, int row, int number);
 std::string Store_ListPath(const Kind& kind, int row);
 // Channels of one effects unit have the numbers from 101 on in common: the row that keeps them.
@@ -60,6 +61,8 @@ void Store_ShowRow(const Kind& kind, int row);                // tell all of it
 void Store_SetCurrent(const Kind& kind, int row, int number); // the last recalled or stored
 int Store_Current(const Kind& kind, int row);                 // 0: none
 void Store_SetAutoPlay(int user, int sub_region, int number, bool on); // of a clip event; from 0
+
+void Store_Stock(); // fill the empty rows with what is there at the start
 
 // --- What commands and console do; a locked register is left as it is ---
 void Store_Recall(const Kind& kind, int row, int number);

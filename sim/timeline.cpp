@@ -3,6 +3,7 @@
 #include "stream.h"
 #include "system.h"
 #include "text.h"
+#include "timeline_edit.h"
 #include "tree.h"
 #include <algorithm>
 #include <climits>
@@ -16,8 +17,6 @@ static constexpr int FRAMES_BEHIND = 30; // after a stall the cursors skip what 
 static struct {
     Timeline lines[REGION_COUNT];
     int reference = REGION_ME1;
-    Keyframe copied;
-    bool has_copied = false;
     // The frame clock. It stands while nothing runs.
     bool is_counting = false;
     int64_t start_ms = 0;
@@ -57,9 +56,9 @@ int Timeline::key() const
     return effect.keys.empty() ? 0 : std::max(found, 1);
 }
 
-static int line_end(const Timeline& line)
+int Timeline::end() const
 {
-    return line.delay() + line.effect.duration();
+    return delay() + effect.duration();
 }
 
 static bool line_has_loop(const Timeline& line)
@@ -110,6 +109,7 @@ static void show_selection()
 void Timeline_Install()
 {
     tl = {};
+    Edit_Forget();
     for (const char* word : {"Run", "Reverse", "Loop", "Ping-Pong", "Delay", "Const Dur"})
         Tree_SetKind(RUN_CONTROL + word, KIND_BOOL);
     for (const char* word :
@@ -209,12 +209,12 @@ void Timeline_SetHead(int region, int number, const std::string& name, bool is_l
 
 static void line_run(Timeline& line, int direction)
 {
-    if (line_end(line) == 0)
+    if (line.end() == 0)
         return;
-    if (direction > 0 && line.time >= line_end(line))
+    if (direction > 0 && line.time >= line.end())
         line_go_to(line, 0);
     else if (direction < 0 && line.time <= 0)
-        line_go_to(line, line_end(line));
+        line_go_to(line, line.end());
     line.run = direction;
 }
 
@@ -232,7 +232,7 @@ static void line_rewind(Timeline& line, int)
 static void line_fast_forward(Timeline& line, int)
 {
     line.run = 0;
-    line_go_to(line, line_end(line));
+    line_go_to(line, line.end());
 }
 
 static void for_lines(const std::vector<int>& regions, void (*func)(Timeline&, int), int argument)
@@ -286,95 +286,7 @@ static void line_ping_pong(Timeline& line, int on)
 static void line_delay(Timeline& line, int on)
 {
     line.is_delay_on = on != 0;
-    line.time = std::min(line.time, line_end(line));
-}
-
-// --- Edits ---
-
-// Between two keyframes the segment is divided. On one, it is halved with constant duration;
-// without, what follows moves back by a second.
-static void edit_insert(Timeline& line, bool is_constant)
-{
-    auto& keys = line.effect.keys;
-    const int key = line.key();
-    if (key == 0)
-        return keys.push_back({});
-    Keyframe& before = keys[size_t(key - 1)];
-    int into = std::max(line.time - line.delay() - line.effect.position(key), 0);
-    int rest = before.duration - into;
-    if (into == 0 && is_constant) {
-        into = before.duration / 2;
-        rest -= into;
-    } else if (into == 0) {
-        into = System_FrameRate();
-    }
-    before.duration = into;
-    keys.insert(keys.begin() + key, Keyframe{rest, false});
-}
-
-// With constant duration the keyframe before reaches to the next one; without, what follows moves
-// up.
-static void edit_delete(Timeline& line, bool is_constant)
-{
-    auto& keys = line.effect.keys;
-    const int key = line.key();
-    if (key == 0)
-        return;
-    const int gone = keys[size_t(key - 1)].duration;
-    keys.erase(keys.begin() + key - 1);
-    if (key == 1)
-        return;
-    Keyframe& before = keys[size_t(key - 2)];
-    if (is_constant)
-        before.duration = std::min(before.duration + gone, KEYFRAME_FRAMES);
-    else if (key > int(keys.size()))
-        before.duration = 0;
-}
-
-static void edit_copy(Timeline& line, bool)
-{
-    const int key = line.key();
-    tl.has_copied = key > 0;
-    if (key > 0)
-        tl.copied = line.effect.keys[size_t(key - 1)];
-}
-
-static void edit_paste(Timeline& line, bool)
-{
-    if (tl.has_copied)
-        line.effect.keys.insert(line.effect.keys.begin() + line.key(), tl.copied);
-}
-
-static void edit_undo(Timeline& line, bool)
-{
-    std::swap(line.effect, line.undo);
-}
-
-// No loop and no cursor reaches past the end.
-static void edit_settle(Timeline& line)
-{
-    Effect& effect = line.effect;
-    const int count = int(effect.keys.size());
-    if (effect.loop_last > count)
-        effect.loop_last = count;
-    if (effect.loop_first >= effect.loop_last)
-        effect.loop_first = effect.loop_last = 0;
-    line.time = std::min(line.time, line_end(line));
-}
-
-static void edit(int region, void (*func)(Timeline&, bool), bool is_constant)
-{
-    Timeline& line = tl.lines[region];
-    const Effect before = line.effect;
-    if (func != edit_undo && before.keys.size() >= TIMELINE_KEYFRAMES && func != edit_delete)
-        return;
-    func(line, is_constant);
-    if (line.effect.keys == before.keys)
-        return;
-    if (func != edit_undo)
-        line.undo = before;
-    edit_settle(line);
-    Stream_Effect(region);
+    line.time = std::min(line.time, line.end());
 }
 
 // --- Puts ---
@@ -390,10 +302,6 @@ struct ModeKey {
     const char* word;
     void (*func)(Timeline&, int);
 };
-struct EditKey {
-    const char* word;
-    void (*func)(Timeline&, bool);
-};
 } // namespace
 
 static constexpr RunKey run_keys[] = {
@@ -405,11 +313,6 @@ static constexpr RunKey run_keys[] = {
 };
 static constexpr ModeKey mode_keys[] = {
     {"Loop", line_loop}, {"Ping-Pong", line_ping_pong}, {"Delay", line_delay}};
-static constexpr EditKey edit_keys[] = {{"Insert", edit_insert},
-                                        {"Delete", edit_delete},
-                                        {"Copy", edit_copy},
-                                        {"Paste", edit_paste},
-                                        {"Undo", edit_undo}};
 
 // The run keys only ever start something: what they show falls back by itself. Stop and Rewind are
 // actions, whose pulse the tree gives.
@@ -433,10 +336,9 @@ static bool put_run_control(const std::string& word, bool on)
         return true;
     }
     const Node* constant = Tree_Find(RUN_CONTROL + "Const Dur");
-    for (const EditKey& key : edit_keys)
-        if (on && word == key.word)
-            for (const int region : Timeline_Selected())
-                edit(region, key.func, constant && constant->value == "true");
+    for (const int region : Timeline_Selected())
+        if (on && Edit_Do(tl.lines[region], word, constant && constant->value == "true"))
+            Stream_Effect(region);
     return false;
 }
 
@@ -502,7 +404,7 @@ static void line_step(Timeline& line)
     line.time += line.run;
     if (line.run > 0 && line_loops_back(line))
         return;
-    const bool is_at_end = line.run > 0 ? line.time >= line_end(line) : line.time <= 0;
+    const bool is_at_end = line.run > 0 ? line.time >= line.end() : line.time <= 0;
     if (has_pause_at(line, line.time) || (is_at_end && !line.is_ping_pong))
         line.run = 0;
     else if (is_at_end)

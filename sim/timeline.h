@@ -42,7 +42,8 @@ struct Timeline {
     bool is_delay_on = false;
     bool is_selected = false;
     int delay() const; // the one in force
-    int key() const;   // the keyframe at or before the cursor, 0 when there is none
+    int end() const;
+    int key() const; // the keyframe at or before the cursor, 0 when there is none
 };
 
 void Timeline_Install(); // nothing loaded, M/E-1 and P/P selected, M/E-1 the reference

@@ -89,22 +89,26 @@ static bool verb_follows(const Node& node, int client)
     return std::find(node.followers.begin(), node.followers.end(), client) != node.followers.end();
 }
 
+static bool verb_owner_takes(const std::string& path, const std::string& value)
+{
+    return std::any_of(std::begin(owners), std::end(owners), [&](const Owner& owner) {
+        return Text_Begins(path, owner.prefix) && owner.put(path, value);
+    });
+}
+
 // True when an owner has taken the put; the sender then has its answer.
 static bool verb_put_to_owner(int client, const std::string& path, const std::string& value)
 {
     if (path.size() + 1 + value.size() > TALLY_BYTES)
         return false;
     const std::string before = Tree_Get(path)->value;
-    for (const Owner& owner : owners) {
-        if (!Text_Begins(path, owner.prefix) || !owner.put(path, value))
-            continue;
-        const Node& node = *Tree_Get(path);
-        const bool is_told = node.value != before && verb_follows(node, client);
-        if (!is_told)
-            Tree_Answer(node, client);
-        return true;
-    }
-    return false;
+    if (!verb_owner_takes(path, value))
+        return false;
+    const Node& node = *Tree_Get(path);
+    const bool is_told = node.value != before && verb_follows(node, client);
+    if (!is_told)
+        Tree_Answer(node, client);
+    return true;
 }
 
 // The sender hears the outcome even when nothing changed: its page shows the server's word, not its
@@ -157,6 +161,13 @@ static void verb_tell_all_of(const Node& node, int also_client)
         Tree_Answer(node, also_client);
 }
 
+// True when it has changed and nobody knows yet. An owner is asked for the default like for any
+// value.
+static bool verb_reset(Node& node)
+{
+    return !verb_owner_takes(node.path, node.initial) && Tree_Default(node);
+}
+
 static void verb_default(int client, const std::string& path, const std::string&)
 {
     Node* node = Tree_Find(path);
@@ -165,11 +176,11 @@ static void verb_default(int client, const std::string& path, const std::string&
     if (!node && !is_group)
         node = Tree_Get(path);
     for (Node* part : group)
-        if (part != node && Tree_Default(*part))
+        if (part != node && verb_reset(*part))
             verb_tell_all_of(*part, 0);
     if (!node)
         return;
-    if (Tree_Default(*node))
+    if (verb_reset(*node))
         verb_tell_all_of(*node, client);
     else
         Tree_Answer(*node, client);

@@ -370,6 +370,8 @@ class Keys(StreamTest):
         panel.drain()
         self.do("run M/E-1")
         self.assertEqual([panel.position().time for _ in range(11)], [0, 1, 2, 3, 4, 3, 2, 1, 0, 1, 2])
+        self.text.send("default Key Frame")  # the mode itself goes, not only what shows it
+        self.assertLess(panel.run_until(lambda p: p.run == 0)[-1].time, 5)
 
     def test_a_region_is_selected_and_made_the_reference_by_name(self):
         panel = self.panel()
