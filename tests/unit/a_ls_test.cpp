@@ -218,19 +218,6 @@ TEST_F(Lists, ABlockStaysOneRun)
     EXPECT_EQ(LS_GetSelected(1, 0), -1) << "at the very last row";
 }
 
-TEST_F(Lists, KeysOfAListWithOneColourDoNotFlash)
-{
-    Open(With([](LS_TBL& l) { l.mono = 1; }), 5);
-    Plural();
-    BlockKey();
-    EXPECT_THAT(Told(), IsEmpty());
-    EXPECT_EQ(LS_GetALL(1), 1);
-    Open(Block(), 5);
-    Plural();
-    BlockKey();
-    EXPECT_EQ(LS_GetMS(1), 0) << "no keys";
-}
-
 TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
 {
     static const struct {
@@ -384,32 +371,6 @@ TEST_F(Lists, TheBarMovesTheWindowAloneWhereTheSelectionIsTheOperators)
     }
 }
 
-TEST_F(Lists, TheThumbTakesTheCurrentRowAlong)
-{
-    Open(plain, 100);
-    Redraw();        // tells the bar how many rows there are
-    Touch(210, 190); // the last pixel but one of the track: 140 to 191
-    EXPECT_EQ(LS_GetTopLine(1), 95);
-    EXPECT_EQ(LS_GetNowLine(1), 97);
-    EXPECT_EQ(SelectedRows(), std::vector<int>{97});
-    EXPECT_THAT(Told(), ElementsAre("SB 0 0 97", "SEL 1 97 0"));
-}
-
-TEST_F(Lists, ACurrentRowOutsideIsScrolledToTheNearestLine)
-{
-    static const struct {
-        int top, row, new_top;
-    } cases[] = {{10, 9, 9}, {10, 10, 10}, {10, 14, 10}, {10, 15, 11}, {10, 99, 95}, {10, 0, 0}};
-    for (const auto& c : cases) {
-        Open(plain, 100);
-        LS_SetTopLine(1, c.top);
-        EXPECT_EQ(LS_SetNowLine(1, c.row), 0);
-        EXPECT_EQ(LS_GetTopLine(1), c.new_top) << c.row;
-        EXPECT_EQ(SelectedRows(), std::vector<int>{c.row});
-    }
-    EXPECT_THAT(Told(), IsEmpty()) << "page code knows what it asked for";
-}
-
 TEST_F(Lists, TheWheelIsAPressOnAnArrow)
 {
     static const struct {
@@ -461,33 +422,6 @@ TEST_F(Lists, FewerRowsTakeSelectionAndWindowAlong)
     EXPECT_EQ(LS_GetNData(1), 10);
 }
 
-TEST_F(Lists, SelectedRowsAreFoundByNumberAndByText)
-{
-    Open(plain, LS_ROWS);
-    LS_SetMS(1, 1);
-    for (int row : {0, 7, 11999})
-        LS_SetSelected(1, row, 0, 1);
-    EXPECT_EQ(LS_GetSelected(1, 2), 11999);
-    EXPECT_EQ(LS_GetSelected(1, 0), 0) << "backwards too";
-    EXPECT_EQ(LS_GetSelected(1, 3), -1);
-    EXPECT_EQ(LS_GetSelected(1, 1), 7);
-    LS_SetSelected(1, 7, 0, 0);
-    EXPECT_EQ(LS_GetSelected(1, 1), 11999) << "a change starts the walk anew";
-    EXPECT_EQ(LS_GetSelected(1, -1), -1);
-
-    LS_SetMS(1, 0);
-    LS_SetData(1, 3, 1, "SPLIT");
-    LS_SetData(1, 8000, 1, "NEWS");
-    LS_SetData(1, 8001, 1, "NEWS");
-    EXPECT_EQ(LS_ChangeSelByStr(1, 1, "NEWS"), 0);
-    EXPECT_EQ(SelectedRows(), std::vector<int>{8000});
-    EXPECT_EQ(LS_GetTopLine(1), 7996);
-    EXPECT_EQ(LS_ChangeSelByStr(1, 0, "NEWS"), -1);
-    EXPECT_EQ(LS_ChangeSelByStr(1, 1, nullptr), -1);
-    EXPECT_EQ(SelectedRows(), std::vector<int>{8000});
-    EXPECT_THAT(Told(), IsEmpty());
-}
-
 TEST_F(Lists, AnIndexThatNoListHasIsRefused)
 {
     Open(plain, 5);
@@ -531,45 +465,6 @@ TEST_F(Lists, AnIndexThatNoListHasIsRefused)
     EXPECT_EQ(LS_GetNData(1), 5);
     EXPECT_EQ(LS_SetData(1, 11999, 16, "x"), 0);
     EXPECT_STREQ(LS_GetData(1, 11999, 16), "x");
-}
-
-TEST_F(Lists, OpeningAPageFindsNothingOfTheLast)
-{
-    Open(plain, LS_ROWS);
-    static const struct {
-        int row, col;
-    } cells[] = {{0, 0}, {6000, 1}, {11999, 16}};
-    for (const auto& c : cells) {
-        LS_SetData(1, c.row, c.col, "old");
-        LS_SetDataFolder(1, c.row, 1, 0);
-    }
-    LS_SetVStatus(1, 16, 3);
-    LS_SetHStatus(1, 11999, 2);
-    LS_SetALL(1, 1);
-    LS_SetNowLine(1, 500);
-    const auto expect_empty = [&] {
-        EXPECT_EQ(LS_GetNData(1), 0);
-        EXPECT_EQ(LS_GetNowLine(1), 0);
-        EXPECT_EQ(LS_GetTopLine(1), 0);
-        EXPECT_EQ(LS_GetALL(1), 0);
-        for (const auto& c : cells) {
-            EXPECT_EQ(LS_GetData(1, c.row, c.col), nullptr) << c.row;
-            EXPECT_EQ(LS_GetStatus(1, c.row, c.col), 0) << c.row;
-            EXPECT_EQ(LS_IsSelected(1, c.row, 0), 0) << c.row;
-        }
-    };
-    LS_ClearData(1);
-    expect_empty();
-    EXPECT_EQ(LS_GetMS(1), 1) << "the mode stays";
-    LS_SetData(1, 11999, 16, "old");
-    LS_Create(nullptr, 0);
-    EXPECT_EQ(LS_GetNData(1), -1);
-    SB_INFO bar;
-    SB_GetInfo(&bar, 0);
-    EXPECT_EQ(bar.active, 0) << "its bar is gone as well";
-    LS_Create(plain, 0);
-    expect_empty();
-    EXPECT_EQ(LS_GetMS(1), 0);
 }
 
 TEST_F(Lists, APageHasUpToFourLists)
@@ -629,26 +524,6 @@ TEST_F(Lists, PageCodeMayDropTheListsInAnswer)
 }
 
 // --- Painting ---
-
-TEST_F(Lists, OnlyARowInTheWindowIsPaintedAgain)
-{
-    static const struct {
-        int row;
-        bool painted;
-    } cases[] = {{9, false}, {10, true}, {14, true}, {15, false}, {11999, false}};
-    Open(plain, LS_ROWS);
-    LS_SetTopLine(1, 10);
-    for (const auto& c : cases) {
-        Redraw();
-        TDL_FillRectS(150, 150, 150, 150, 0x123456);
-        LS_SetStatus(1, c.row, 0, 0); // as it is
-        Redraw();
-        EXPECT_EQ(PixelAt(150, 150), 0x123456u);
-        LS_SetData(1, c.row, 0, "text");
-        Redraw();
-        EXPECT_EQ(PixelAt(150, 150) != 0x123456, c.painted) << c.row;
-    }
-}
 
 TEST_F(Lists, ALongTextStaysInItsList)
 {

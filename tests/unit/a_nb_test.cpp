@@ -68,26 +68,6 @@ TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
     EXPECT_THAT(Told(), IsEmpty());
 }
 
-TEST_F(KnobColumn, ATableComesBackOnItsLayerUntil256OthersHaveComeAndGone)
-{
-    static NB_TBL first[3], others[256][3];
-    const auto two_layers = [](NB_TBL* rows) {
-        rows[0] = Box(1, "A", 0, 0, 0, "");
-        rows[1] = Box(17, "B", 0, 0, 0, "");
-        rows[2] = NB_END;
-        return rows;
-    };
-    NB_Create(two_layers(first), "");
-    PressTitle();
-    for (int i = 0; i < 255; i++)
-        NB_Create(two_layers(others[i]), "");
-    NB_Create(first, "");
-    EXPECT_EQ(NB_GetLayer(), 1);
-    NB_Create(two_layers(others[255]), "");
-    NB_Create(first, "");
-    EXPECT_EQ(NB_GetLayer(), 0);
-}
-
 TEST_F(KnobColumn, BoxesBeyondTenAndOutsideTheSlotsAreLeftOut)
 {
     static NB_TBL many[13];
@@ -220,18 +200,6 @@ TEST_F(KnobColumn, KnobsOfAnotherLayerAndUnderAPaneAreDead)
     EXPECT_EQ(Shown("Lines"), 0);
     EXPECT_EQ(Shown("Clip"), 40);
     Pane_Quit(pane);
-    Tally("Panel@Common@Knob1", "7");
-    EXPECT_EQ(Shown("Lines"), 1);
-}
-
-TEST_F(KnobColumn, KnobsUnderTheTenKeysAreDead)
-{
-    Open(table);
-    PressSlot(2);
-    ASSERT_NE(GetWindow(), WINDOW_NONE);
-    Tally("Panel@Common@Knob1", "70");
-    EXPECT_EQ(Shown("Lines"), 0);
-    CloseWindow();
     Tally("Panel@Common@Knob1", "7");
     EXPECT_EQ(Shown("Lines"), 1);
 }
@@ -410,31 +378,6 @@ TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
     EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Level#80.37"));
 }
 
-TEST_F(KnobColumn, WithoutALinkTheNewValueIsOnlyTold)
-{
-    GL_MouseSliderControl = 1;
-    Open(table);
-    static const struct {
-        int slot;
-        Lines heard;
-        double shown;
-        const char* caption;
-    } cases[] = {
-        {2, {"var 2 5 screen", "fvar 2 4.50 screen"}, 4.5, "Lines"},
-        {3, {"var 3 0 screen", "fvar 3 0.00 screen"}, 7, "Shift"},
-        {4, {"var 4 11 screen", "fvar 4 10.50 screen"}, 7, "Pages"},
-        {5, {}, 7, "Spare"},
-    };
-    for (const auto& c : cases) {
-        NB_SetVar(c.slot, 7);
-        PressSlot(c.slot);
-        Drag(754, false, true);
-        EXPECT_EQ(Told(), c.heard) << c.caption;
-        EXPECT_EQ(Shown(c.caption), c.shown) << c.caption;
-    }
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-}
-
 TEST_F(KnobColumn, SomePagesBendADraggedValue)
 {
     static const struct {
@@ -562,45 +505,3 @@ TEST_F(KnobColumn, AnUnknownBoxIsRefused)
 }
 
 // --- Painting ---
-
-TEST_F(KnobColumn, OnlyTheBoxThatChangedIsPainted)
-{
-    constexpr uint32_t MARK = 0x654321;
-    const auto painted = [](int elapsed_ms) {
-        TDL_FillRectS(706, 73, 799, 545, MARK);
-        Pass(elapsed_ms);
-        std::string slots = PixelAt(750, 100) != MARK ? "title " : "";
-        for (int slot = 1; slot <= 5; slot++)
-            if (PixelAt(750, Middle(slot)) != MARK)
-                slots += std::to_string(slot);
-        return slots;
-    };
-    Open(table);
-    EXPECT_EQ(painted(10), "title 12345");
-    EXPECT_EQ(painted(10), "");
-    Tally(CLIP, "3");
-    EXPECT_EQ(painted(10), "1");
-    Tally(CLIP, "3");
-    Tally(LEVEL, "3"); // on the other layer
-    EXPECT_EQ(painted(10), "");
-    Clock_ms += 1000;
-    Wheel(MSG_WHEELDOWN, 1);
-    EXPECT_EQ(painted(10), "1");
-    EXPECT_EQ(painted(490), "1");
-    NB_SetSelect(2);
-    EXPECT_EQ(painted(10), "2");
-    NB_SetSelect(3);
-    EXPECT_EQ(painted(10), "23");
-    NB_InvalidVar(4);
-    EXPECT_EQ(painted(10), "4");
-    NB_DeleteTable(5);
-    EXPECT_EQ(painted(10), "5");
-    PressTitle();
-    EXPECT_EQ(painted(149), "title 12345");
-    EXPECT_EQ(painted(1), "");
-    EXPECT_EQ(painted(0), "title "); // up again
-    NB_SetTitle("New");
-    EXPECT_EQ(painted(0), "title ");
-    NB_Create(nullptr, nullptr);
-    EXPECT_EQ(painted(10), "");
-}

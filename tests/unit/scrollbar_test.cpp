@@ -21,16 +21,6 @@ struct ScrollBars : ListPage {
         SB_SetPosition(2, 0, 12, 99);
         told.clear();
     }
-    static bool ArrowLooks(const SDL_Surface* face, int y)
-    {
-        for (int row = 0; row < 40; row++) {
-            uint32_t pixel;
-            memcpy(&pixel, static_cast<const char*>(face->pixels) + row * face->pitch + 23 * 4, 4);
-            if ((pixel & 0xFFFFFF) != PixelAt(X + 23, y + row))
-                return false;
-        }
-        return true;
-    }
 };
 
 TEST_F(ScrollBars, ThumbStandsForTheRowsShown)
@@ -135,26 +125,6 @@ TEST_F(ScrollBars, TheThumbFollowsTheFingerThatHoldsIt)
     Press(X, UP);
     Drag(X, 300);
     EXPECT_THAT(Told(), ElementsAre("SB 0 2 0", "SB 0 2 49", "SB 0 2 0", "SB 0 2 98", "SB 1 2 -1"));
-}
-
-TEST_F(ScrollBars, AnArrowShowsATouchButNoWheelStep)
-{
-    Redraw();
-    Press(X, DOWN);
-    Redraw();
-    EXPECT_TRUE(ArrowLooks(G_SB_dw_on, Y + HEIGHT - 40));
-    Release();
-    Redraw();
-    EXPECT_TRUE(ArrowLooks(G_SB_dw_off, Y + HEIGHT - 40));
-
-    SB_IgnoreRedraw(1);
-    Press(X, UP);
-    Redraw();
-    EXPECT_TRUE(ArrowLooks(G_SB_up_off, Y));
-    Release();
-    Press(X, UP);
-    Redraw();
-    EXPECT_TRUE(ArrowLooks(G_SB_up_on, Y)) << "only one paint was skipped";
 }
 
 TEST_F(ScrollBars, ABarThatIsClosedOrWasNeverThereTakesNothing)
