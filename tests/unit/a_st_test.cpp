@@ -268,22 +268,6 @@ TEST_F(StatusCells, OnlyDmePagesAreRebuilt)
 constexpr Rect FIRST = {100, 75, 199, 164};
 constexpr const char* TYPE = "M/E-1@Key1@Type@Key Type";
 
-TEST_F(StatusCells, ACellWithoutATallyShowsItsBorderOnlyAndOnlyWithTheSwitcherUp)
-{
-    Open(st_me_key);
-    Pass();
-    EXPECT_EQ(PixelAt(102, 77), 0u);
-    GL_ProcStatus[1] = 1;
-    Open(st_me_key);
-    Pass();
-    EXPECT_EQ(PixelAt(102, 77), BORDER_LIT);
-    EXPECT_EQ(PixelAt(202, 77), BORDER);
-    EXPECT_EQ(Count(FIRST, WHITE), 0);
-    Tally(TYPE, "Luminance");
-    Pass();
-    EXPECT_GT(Count(FIRST, WHITE), 0);
-}
-
 TEST_F(StatusCells, OnlyTheCellOfThePageInViewIsLit)
 {
     static const struct {
@@ -328,42 +312,6 @@ TEST_F(StatusCells, ARebuiltCellShowsItsLastPictureAndNeverThatOfAnotherKey)
     EXPECT_EQ(Count(FIRST, WHITE), 0);
 }
 
-TEST_F(StatusCells, AKeyTypeIsToldByItsPictureAndTheLineBelow)
-{
-    constexpr Rect box = {126, 101, 173, 136};
-    constexpr Rect under = {103, 146, 196, 158};
-    static const struct {
-        const char* type;
-        const char* path; // a further tally
-        const char* value;
-        bool has_line;
-    } cases[] = {
-        {"Luminance", "Type@Clean Mode@Luminance", "true", true},
-        {"Luminance", "Type@Clean Mode@Linear", "true", false},
-        {"Linear", "Type@Clean Mode@Linear", "true", true},
-        {"Color Vector", "Type@Clean Mode@Color Vector", "true", true},
-        {"Color Vector", "Type@Clean Mode@Luminance", "true", false},
-        {"Chroma", "Type@Chroma@Mix Mode", "Additive Mix", true},
-        {"Chroma", "Type@Chroma@Mix Mode", "Normal", false},
-        {"Key Wipe Pattern", "Type@Key Wipe Pattern@Pattern", "229", true},
-    };
-    for (const auto& c : cases) {
-        Open(st_me_key);
-        Tally(TYPE, c.type);
-        Tally((std::string("M/E-1@Key1@") + c.path).c_str(), c.value);
-        Pass();
-        EXPECT_EQ(Count(under, WHITE) > 0, c.has_line) << c.type << " " << c.path;
-        const int plain = Count(box, WHITE);
-        const int line = Count(under, WHITE);
-        Tally("M/E-1@Key1@Type@Key Invert", "true");
-        Pass();
-        if (c.type[0] == 'K') // a pattern turns its line over
-            EXPECT_GT(Count(under, WHITE), line + 500);
-        else
-            EXPECT_GT(Count(box, WHITE), plain + 500) << c.type;
-    }
-}
-
 TEST_F(StatusCells, AnUnknownWordOrPatternLeavesTheFrameEmpty)
 {
     constexpr Rect picture = {103, 96, 196, 140};
@@ -383,36 +331,6 @@ TEST_F(StatusCells, AnUnknownWordOrPatternLeavesTheFrameEmpty)
         EXPECT_EQ(st_pattern(number), nullptr) << number;
     EXPECT_EQ(st_pattern("3999"), G_WipePtn[3999]);
     EXPECT_TRUE(st_pattern("1"));
-}
-
-TEST_F(StatusCells, AnEdgeHasThePictureOfItsTypeAndSoftness)
-{
-    static const struct {
-        const char* type;
-        const char* modifier;
-        SDL_Surface** picture;
-    } cases[] = {
-        {"Normal", "None", &G_Edge_Normal},
-        {"Border", "None", &G_Edge_Border},
-        {"Drop Border", "Soft Edge", &G_Edge_Drop_border_soft},
-        {"Shadow", "None", &G_Edge_Shadow},
-        {"Outline", "None", &G_Edge_Outline},
-        {"Emboss", "Soft Edge", &G_Edge_Emboss_soft},
-        {"Border", "Separate Edge", &G_Edge_Separate},
-        {"Normal", "Separate Edge", &G_Edge_Normal}, // no edge to separate
-        {"Border", "Fine Key", &G_Edge_Fine},
-    };
-    for (const auto& c : cases) {
-        Open(st_me_key);
-        Tally("M/E-1@Key1@Edge@Edge Type", c.type);
-        Tally((std::string("M/E-1@Key1@Edge@") + c.modifier).c_str(), "true");
-        Pass();
-        const auto* row =
-            static_cast<const uint8_t*>(Screen->pixels) + (75 + 20 + 24) * Screen->pitch;
-        const auto* expected =
-            static_cast<const uint8_t*>((*c.picture)->pixels) + 24 * (*c.picture)->pitch;
-        EXPECT_EQ(memcmp(row + 220 * 4, expected, 60 * 4), 0) << c.type << " " << c.modifier;
-    }
 }
 
 TEST_F(StatusCells, TheCrossHairStandsWhereTheWipeDoes)
@@ -444,78 +362,6 @@ TEST_F(StatusCells, TheCrossHairStandsWhereTheWipeDoes)
     Tally("M/E-1@Wipe@Main Pattern@Position", "false");
     Pass();
     EXPECT_EQ(Count({203, 75 + 26, 296, 75 + 62}, WHITE), 0) << "veiled";
-}
-
-TEST_F(StatusCells, TheDirectionIsOneOfTwoOrUntold)
-{
-    constexpr Rect first_line = {407, 95, 492, 109};
-    SetTree({"M/E-1", "Wipe"}, 0x11520000);
-    static const struct {
-        const char *normal, *reverse;
-        bool told;
-    } cases[] = {{"true", "false", true},
-                 {"false", "true", true},
-                 {"true", "true", false},
-                 {"false", "false", false}};
-    for (const auto& c : cases) {
-        ST_TBL rows[] = {CellAt(3, 0, st_me_wipe[4]), ST_END};
-        Open(rows);
-        Tally("M/E-1@Wipe@Direction@Normal", c.normal);
-        Tally("M/E-1@Wipe@Direction@Reverse", c.reverse);
-        Pass();
-        EXPECT_EQ(Count(first_line, WHITE) > 0, c.told) << c.normal << c.reverse;
-    }
-}
-
-// The server drops the old kind before it raises the new one.
-TEST_F(StatusCells, ATransitionKeepsItsPictureWhileTheKindChanges)
-{
-    constexpr Rect box = {126, 101, 173, 136};
-    SetTree({"M/E-1", "Misc"}, 0x11710000);
-    Open(st_me_misc);
-    Tally("M/E-1@Misc@Transition@Mix", "true");
-    Pass();
-    const int white = Count(box, WHITE);
-    EXPECT_GT(white, 0);
-    Tally("M/E-1@Misc@Transition@Mix", "false");
-    Pass();
-    EXPECT_EQ(Count(box, WHITE), white);
-    Open(st_me_misc);
-    Tally("M/E-1@Misc@Transition@Mix", "false");
-    Pass();
-    EXPECT_EQ(Count(box, WHITE), 0) << "a page begins without";
-}
-
-TEST_F(StatusCells, ACentreTextIsSplitOrStandsOnOneLine)
-{
-    static const struct {
-        const char* text;
-        int first_width; // of the upper line; 0: one line
-    } cases[] = {
-        {"Twelve chars", 0},
-        {"Key Wipe Pattern", int(TDL_GetSymbolWidth("Key", 3))},
-        {"Preset Color Mix", int(TDL_GetSymbolWidth("Preset", 3))},
-        {"Abcdefgh ijklm", int(TDL_GetSymbolWidth("Abcd", 3))}, // its blank comes too late
-        {"Abcdefghijklmn", int(TDL_GetSymbolWidth("Abcd", 3))},
-    };
-    ST_MEM cell;
-    cell.x1 = 100, cell.y1 = 75, cell.x2 = 199, cell.y2 = 164;
-    for (const auto& c : cases) {
-        TDL_FillRectS(100, 75, 199, 164, 0);
-        st_drw_center_image_square(&cell, c.text, 0);
-        int left = 200, right = 0;
-        for (int x = 104; x <= 195; x++)
-            for (int y = 75 + 33; y < 75 + 33 + 9; y++)
-                if (x != 126 && x != 173 && PixelAt(x, y)) {
-                    left = std::min(left, x);
-                    right = std::max(right, x);
-                }
-        const int width = right - left + 1;
-        if (c.first_width)
-            EXPECT_NEAR(width, c.first_width, 3) << c.text;
-        else
-            EXPECT_GT(width, 60) << c.text;
-    }
 }
 
 // --- The cells of all pages ---
@@ -556,26 +402,4 @@ TEST_F(StatusCells, EachCellOfEachPageLeadsToAPageAndCoversNoButton)
         }
     }
     EXPECT_GT(cells, 4000);
-}
-
-TEST_F(StatusCells, AnOverviewSpeaksOfTheKeysOfItsBank)
-{
-    static const struct {
-        uint32_t id;
-        const char* path; // of the third key's type
-        uint32_t target;
-    } cases[] = {
-        {0x12000000, "M/E-2@Key3@Type@Key Type", 0x12310000},
-        {0x14000000, "PGM/PST@DSK3@Type@Key Type", 0x14310000},
-        {0x18000000, "PGM/PST@DSK7@Type@Key Type", 0x18310000},
-        {0x85000000, "M/E-4@Key7@Type@Key Type", 0x85310000},
-    };
-    for (const auto& c : cases) {
-        PAGE* p = SearchPageTable_Free_ALL(PageTable, c.id);
-        ASSERT_TRUE(p);
-        SetTree({p->tree[0]}, c.id);
-        Open(static_cast<const ST_TBL*>(TableOf(*p, OBJ_ST)));
-        EXPECT_THAT(TakeQueuedCommands(), Contains(std::string("add ") + c.path));
-        EXPECT_EQ(PageAt(150, 75 + 2 * 90 + 45), c.target);
-    }
 }

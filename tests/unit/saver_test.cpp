@@ -284,24 +284,6 @@ TEST_F(Saver, APreviewWaitsForTheFingerAndShowsThePatterns)
 
 // --- Texts ---
 
-TEST_F(Saver, ThePlainTextFadesInAndOut)
-{
-    ScreenSaver(1001); // the first step
-    int passes = 1;
-    static const struct {
-        int pass;
-        int level;
-    } cases[] = {{1, 1}, {128, 128}, {255, 255}, {256, 254}, {510, 0}, {511, 1}, {765, 255}};
-    for (const auto& c : cases) {
-        for (; passes < c.pass; passes++)
-            ScreenSaver(10);
-        EXPECT_EQ(Brightest({260, 300, 540, 320}), c.level) << c.pass;
-    }
-    const Rect lit = LitArea();
-    EXPECT_THAT(lit.x1, Ge(260));
-    EXPECT_THAT(lit.x2, Le(540));
-}
-
 // Light that jumps hurts the eyes of those who work beside the panel.
 TEST_F(Saver, NoTextFlashesAndTheLampsStayAlive)
 {
@@ -326,29 +308,6 @@ TEST_F(Saver, NoTextFlashesAndTheLampsStayAlive)
         EXPECT_EQ(PixelAt(75, 18), 0xFF0000u) << mode;
         EXPECT_EQ(PixelAt(60, 18), 0u) << mode;
         BA_SetUsbAccess(0);
-        Wake();
-    }
-}
-
-TEST_F(Saver, TheFadingTextMovesInTheDarkAndKeepsOffTheLamps)
-{
-    for (int mode : {10, 11, 17}) {
-        Start(mode);
-        std::vector<Rect> places;
-        for (int n = 0; n < 60; n++) {
-            Passes(n ? 510 : 127); // half bright on its way up: the colours are never dark then
-            places.push_back(LitArea());
-        }
-        int moves = 0;
-        for (size_t i = 0; i < places.size(); i++) {
-            const Rect& r = places[i];
-            EXPECT_LE(r.x2 - r.x1, 299) << "a text was left behind";
-            EXPECT_LE(r.y2 - r.y1, 80) << "a text was left behind";
-            EXPECT_FALSE(r.x1 <= 90 && r.y1 < 30) << r.x1 << " " << r.y1;
-            EXPECT_LE(r.y1, 499);
-            moves += i > 0 && (r.x1 != places[i - 1].x1 || r.y1 != places[i - 1].y1);
-        }
-        EXPECT_GT(moves, 40) << mode;
         Wake();
     }
 }
@@ -449,78 +408,6 @@ TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
     }
 }
 
-TEST_F(SaverPictures, AFadeGoesThroughBlackToTheNext)
-{
-    Put("SSrc_1.bmp", 0xC80000);
-    Put("SSrc_2.bmp", 0x0000C8);
-    GL_ScreenSaverVariable_speed = 9; // 50 a pass
-    Start(13);
-    const bool red_first = Middle() == 0xC80000;
-    const auto part = [](bool red) { return int(red ? Middle() >> 16 : Middle() & 0xFF); };
-    Passes(100);
-    std::vector<int> out, in;
-    for (int n = 0; n < 6; n++) {
-        ScreenSaver(10);
-        out.push_back(part(red_first));
-        EXPECT_EQ(part(!red_first), 0);
-    }
-    for (int n = 0; n < 6; n++) {
-        ScreenSaver(10);
-        in.push_back(part(!red_first));
-        EXPECT_EQ(part(red_first), 0);
-    }
-    EXPECT_THAT(out, ElementsAre(160, 121, 82, 42, 3, 0));
-    EXPECT_THAT(in, ElementsAre(39, 78, 117, 156, 195, 200));
-    Passes(99);
-    EXPECT_EQ(part(!red_first), 200) << "it is held";
-}
-
-TEST_F(SaverPictures, ACrossFadeHasBothAndEndsWithTheNext)
-{
-    Put("SSrc_1.bmp", 0xC80000);
-    Put("SSrc_2.bmp", 0x0000C8);
-    GL_ScreenSaverVariable_speed = 9;
-    for (int mode : {15, 16}) {
-        Start(mode);
-        for (uint32_t going = Middle(), round = 0; round < 2; round++, going = Middle()) {
-            Passes(100); // held
-            for (int step = 0; step < 6; step++) {
-                EXPECT_NE(Middle(), going ^ 0xC800C8) << mode << " step " << step;
-                ScreenSaver(10);
-                EXPECT_THAT((Middle() & 0xFF) + (Middle() >> 16), AllOf(Ge(140u), Le(200u)));
-            }
-            EXPECT_EQ(Middle(), going ^ 0xC800C8) << mode;
-        }
-        Wake();
-    }
-}
-
-TEST_F(SaverPictures, ASmallPictureStandsOnBlack)
-{
-    Put("SSrc_1.bmp", 0xC80000);
-    Put("SSrc_2.bmp", 0x0000C8, 100, 100);
-    for (int mode : {12, 13, 15, 16}) {
-        Start(mode);
-        ASSERT_GE(PassesUntil(0xC80000), 0) << mode;
-        ASSERT_GE(PassesUntil(0), 0) << mode << ": the large picture stays around the small one";
-        Wake();
-    }
-}
-
-TEST_F(SaverPictures, APictureThatIsReplacedIsSeen)
-{
-    Put("SSrc_1.bmp", 0xC80000);
-    for (int mode : {12, 13, 14, 15, 16}) {
-        Put("SSrc_1.bmp", 0xC80000);
-        Start(mode);
-        Passes(2);
-        EXPECT_EQ(Middle(), 0xC80000u);
-        Put("SSrc_1.bmp", 0x00C800, 700, 500);
-        EXPECT_GE(PassesUntil(0x00C800), 0) << mode;
-        Wake();
-    }
-}
-
 // --- Settings ---
 
 TEST_F(Saver, SettingsComeBackAndRubbishChangesNothing)
@@ -600,24 +487,6 @@ TEST_F(SaverSetup, KnobsSetThePatternAndItsTimes)
     }
     SendMessage(LMSG_KNOBVAR, 1, 12, 1, 0);
     EXPECT_STREQ(LS_GetData(1, 10, 1), "Pictures, cut");
-}
-
-TEST_F(SaverSetup, ButtonsActOnTheNameThatTheListStandsOn)
-{
-    LS_SetNowLine(1, 9);
-    Press("LOCAL@Screen Sever@Setup@Default");
-    EXPECT_STREQ(GL_Scr_disp_name[9], "KTR-20");
-    EXPECT_STREQ(LS_GetData(1, 9, 1), "KTR-20");
-    GL_Scr_disp_name[0][0] = '\0';
-    LS_SetNowLine(1, 11); // the folder is no name
-    Press("LOCAL@Screen Sever@Setup@Default");
-    EXPECT_STREQ(GL_Scr_disp_name[0], "KTR-20");
-    EXPECT_STREQ(GL_Scr_disp_ImagePath, "/mnt/data/SSrc");
-
-    Press("LOCAL@Screen Sever@Setup@Push START");
-    EXPECT_EQ(GL_SSver_PVW, 1);
-    Press("LOCAL@Screen Sever@Setup@Something");
-    Press("");
 }
 
 TEST_F(SaverSetup, IsSavedWhenThePageIsLeftAndOnlyThen)
