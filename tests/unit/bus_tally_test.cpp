@@ -55,45 +55,27 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"Info@DME@SelCH", "0F", &SYS_DMEChannel, 15},
         {"Info@DME@SelCH", "ffffffffffff", &SYS_DMEChannel, INT_MAX},
         {"Info@DME@SelCH", "-1", &SYS_DMEChannel, 0},
-        {"MPE@Fx@Channel@Reference", "2", &SYS_MPEReference, 2},
-        {"MPE@Fx@Channel@Selected", "3", &SYS_MPEChannel, 3},
         {FORMAT "Reference@SWR1", "BB", &DEV_Swr[0].refinputformat, 1},
-        {FORMAT "Reference@SWR1", "Tri Sync", &DEV_Swr[0].refinputformat, 0},
         {FORMAT "Switcher Aspect", "SWR1,16:9,4:3,16:9", &DEV_Swr[0].aspect[0], 1},
         {FORMAT "Switcher Aspect", "SWR1,16:9,4:3,16:9", &DEV_Swr[0].aspect[1], 0},
         {FORMAT "Switcher Aspect", "SWR1,4:3x", &DEV_Swr[0].aspect[0], 'x'},
         {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[2], 1},      // no part, no change
         {FORMAT "Switcher Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[1], 0}, // not a switcher
-        {FORMAT "DME Aspect", "DME1,4:3,16:9,4:3,16:9", &DEV_Dme[0].aspect[3], 1},
         {FORMAT "Video Format2@SWR1", "4,6,2", &DEV_Swr[0].format_size, 4},
         {FORMAT "Video Format2@SWR1", "3,6,2", &SYS_Format_Size, 3},
         {FORMAT "Video Format2@SWR1", "3,6", &SYS_Format_Scan, 2},
-        {FORMAT "Video Format2@SWR1", "-1,6,2", &SYS_Format_Size, 3},
         {FORMAT "3D Mode@SWR1", "On", &SYS_3DMode, 1},
         {FORMAT "3D Mode@SWR2", "Off", &SYS_3DMode, 1}, // not this panel's switcher
         {FORMAT "3D Mode@SWR1", "Off", &SYS_3DMode, 0},
         {SWITCHER "Key/Wipe@FM Auto Store", "true", &SYS_AutoStore, 1},
-        {SWITCHER "Key/Wipe@FM Auto Store", "false", &SYS_AutoStore, 0},
-        {"Frame Mem@Status@Store Number Sense", "123", &SYS_StoreFree, 123},
         {"Frame Mem@Status@Store Number2 Sense", "99999999999", &SYS_StoreFree2, INT_MAX},
         {SWITCHER "Transition@Key Transition@M/E-2", "true", &SYS_KeyTransitionME2, 1},
-        {SWITCHER "Transition@Key Transition@M/E-2", "Common", &SYS_KeyTransitionME2, 0},
-        {SWITCHER "Transition@Key Transition@P/P", "Independent", &SYS_KeyTransitionPP, 1},
-        {SWITCHER "Config@DME Wipe Sub Enable", "true", &SYS_DWSubEnable, 1},
-        {SWITCHER "Config@MP2 Re-Entry", "true", &SYS_MP2ReEntry, 1},
-        {SWITCHER "Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl", "true", &SYS_CCRReEntry, 1},
         {SWITCHER "SDI I/F@DME2", "Dedicated", &GL_DmeSdiIF[1], 1},
-        {SWITCHER "SDI I/F@DME2", "Dedicated", &GL_DmeSdiIFDP[1], 1},
-        {SWITCHER "SDI I/F@DME2", "Shared", &GL_DmeSdiIF[1], 0},
         {"Engineering Setup@DME@Model@DME4", "8", &GL_DmeModel[3], 8},
-        {"Engineering Setup@DME@Model@DME4", "8", &GL_DmeModelDP[3], 8},
         {"Engineering Setup@DME@Model@DME1", "2", &DEV_Dme[0].type, DEVTYPE_HLDB7},
         {"Engineering Setup@DME@Model@DME1", "9", &GL_DmeModel[0], 2},
         {"Info@Board Config@Unit Model@SWR1", "2", &SYS_RefSwrType, DEVTYPE_KTR40SF},
-        {"Info@System Setup Data@File Auto Convert", "1", &GL_DataGokan, 1},
-        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "4", &SYS_FmemAncillary, 1},
         {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &SYS_FmemAncillary, 0},
-        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &GL_DmeIFType, 1},
         {"Info@System Setup Data@FM Data Port Disable@SWR2", "129,3", &GL_FMDataPortDisable[1],
          1 | 3 << 7},
         {"Info@System Setup Data@FM Data Port Disable@SWR3", "1,1", &GL_FMDataPortDisable[1],
@@ -102,7 +84,6 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"Engineering Setup@System@Install@Unit Config@M/E Split", "1,2,4", &GL_BoardMESplit[2], 4},
         {PANEL "Config@M/E Operation@M/E-5", "Inhibit", &SYS_MEOperation[4], 2},
         {PANEL "Config@M/E Operation@P/P", "Disable", &SYS_MEOperation[5], 1},
-        {PANEL "Config@M/E Operation@P/P", "Enable", &SYS_MEOperation[5], 0},
         {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignV[253], 7},
         {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignK[253], -1},
     };
@@ -505,19 +486,6 @@ TEST_F(BusTally, MenusThatDoNotExistIn4KAreRefused)
     EXPECT_EQ(GL_CreatePage, 0u);
     EXPECT_EQ(Deliver("TopMenu", "CCR"), 1);
     EXPECT_EQ(GL_CreatePage, 0x24110000u);
-}
-
-TEST_F(BusTally, TheMenuTurnsOverAndBack)
-{
-    GL_OmoteNowPage = 0x11110000;
-    GL_UraNowPage = 0x71110000;
-    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), 1);
-    EXPECT_EQ(OmoteFlag, 0);
-    EXPECT_EQ(OmoteChange, 1);
-    EXPECT_EQ(GL_CreatePage, 0x71110000u);
-    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), 1);
-    EXPECT_EQ(OmoteFlag, 1);
-    EXPECT_EQ(GL_CreatePage, 0x11110000u);
 }
 
 TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)

@@ -121,26 +121,6 @@ TEST_F(Bus, WhileTheFindIsOpenNoInputReachesThePage)
     }
 }
 
-TEST_F(Bus, InternalMessagesWithANameAreLogged)
-{
-    static constexpr char LOG[] = "/var/tmp/bus.log";
-    Log_Init(LOG, LOG_FILE_SIZE);
-    Log_SetLevel(LOG_TRACE);
-    SendMessage(LMSG_LISTSEL, 1, -2, 3, 4);
-    SendMessage(LMSG_KNOBDIFF, 5, 0, 0, 0);      // the last one with a name
-    SendMessage(LMSG_PAGEREQUEST, 71, 71, 0, 0); // the first without
-    SendMessage(0x10000000, 72, 72, 0, 0);
-    SendMessage(MSG_PRESS, 73, 73, 0, 0);
-    SendDummyTally("LOCAL@A#1");
-    Log_Init(nullptr, LOG_FILE_SIZE);
-    std::ifstream file(LOG);
-    const std::string text{std::istreambuf_iterator<char>(file), {}};
-    EXPECT_THAT(text, HasSubstr("LMSG: LMSG_LISTSEL ax=1, bx=-2, cx=3, dx=4"));
-    EXPECT_THAT(text, HasSubstr("LMSG: LMSG_KNOBDIFF ax=5, bx=0, cx=0, dx=0"));
-    EXPECT_THAT(text, HasSubstr("LOCAL: LOCAL@A#1"));
-    EXPECT_THAT(text, Not(testing::ContainsRegex("ax=7[123]")));
-}
-
 // --- Played tallies ---
 
 TEST_F(Bus, APlayedTallyIsOneFromTheServer)
