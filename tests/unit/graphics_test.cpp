@@ -110,18 +110,6 @@ TEST(Graphics, OnlyNumbersInRangeBecomePatterns)
     EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0);
 }
 
-TEST(Graphics, WithoutAListEveryNumberIsTried)
-{
-    const TestDisplay display;
-    const GraphicsFolder folder;
-    SaveBitmap("EXE_p0o0", 85);
-    std::filesystem::remove_all("graphics/ptn");
-    LoadGraphics();
-    EXPECT_EQ(WidthOf(G_EXE_p0o0), 85);
-    EXPECT_EQ(LogLinesWith("graphics/ptn/"), WIPE_PTN_MAX);
-    EXPECT_EQ(LogLinesWith("[graphics/ptn/3999.bmp]"), 1);
-}
-
 TEST(Graphics, TheSmallerModelHasItsOwnPictures)
 {
     const TestDisplay display;
@@ -138,16 +126,4 @@ TEST(Graphics, TheSmallerModelHasItsOwnPictures)
     EXPECT_EQ(G_WipePtn[2002], nullptr);
     EXPECT_EQ(WidthOf(G_WipePtn[17]), 17);
     EXPECT_EQ(LogLinesWith("graphics/ptn/"), 28);
-}
-
-TEST(Graphics, PageCodeLoadsItsOwn)
-{
-    const TestDisplay display;
-    const GraphicsFolder folder;
-    SaveBitmap("own", 33);
-    SDL_Surface* s = LoadGFile("own");
-    EXPECT_EQ(WidthOf(s), 33);
-    SDL_FreeSurface(s);
-    EXPECT_EQ(LoadGFile("none"), nullptr);
-    EXPECT_EQ(LoadGFile(std::string(300, 'x').c_str()), nullptr);
 }
