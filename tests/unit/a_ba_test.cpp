@@ -195,16 +195,6 @@ TEST_F(SetupLockKey, WhileTheLockIsOnATouchChangesNothing)
     EXPECT_FALSE(std::filesystem::exists(SETUP_LOCK_FILE));
 }
 
-TEST_F(SetupLockKey, AFileThatCannotBeWrittenLeadsToTheErrorPage)
-{
-    std::filesystem::create_directory(SETUP_LOCK_FILE); // in the way of the file
-    OpenBase({"Engineering Setup", "System", "X"}, 0x73120001);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(GL_CreatePage, 0x99000000u);
-    EXPECT_EQ(Err_GetMax(), 1);
-    Err_Clear();
-}
-
 // --- Side keys ---
 
 TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
@@ -262,32 +252,6 @@ TEST_F(BaseAreaTest, WhileAMenuMacroIsRecordedItsKeysTakeTheirPlaces)
     OpenBase({"File", "Menu Macro"}, 0x71440002);
     EXPECT_EQ(PageOf(PREV), 0x33110000u);
     GL_MenuMacro_Edit = 0;
-}
-
-TEST_F(BaseAreaTest, LampsShowWhoUsesStickLinkAndDisk)
-{
-    OpenBase({"File", "All"}, 0x71110000, base_file_main);
-    static const struct {
-        int usb, ftp, hdd;
-        uint32_t right, left;
-    } cases[] = {
-        {0, 0, 0, 0x282828, 0x282828},
-        {0, 1, 0, 0x00FF00, 0x282828},
-        {1, 1, 1, 0xFF0000, 0xFF0000},
-    };
-    for (const auto& c : cases) {
-        BA_SetUsbAccess(c.usb);
-        BA_SetFtpAccess(c.ftp);
-        BA_SetHDDAccess(c.hdd);
-        EXPECT_EQ(PixelAt(75, 18), c.right);
-        EXPECT_EQ(PixelAt(60, 18), c.left);
-    }
-    GL_ScreenSaver_Now = 1;
-    BA_SetUsbAccess(0);
-    BA_SetFtpAccess(0);
-    BA_SetHDDAccess(0);
-    EXPECT_EQ(PixelAt(60, 18), 0u);
-    GL_ScreenSaver_Now = 0;
 }
 
 TEST_F(BaseAreaTest, NothingIsDrawnWithoutAPage)

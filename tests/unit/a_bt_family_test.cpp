@@ -77,46 +77,6 @@ TEST_F(ButtonFamily, VisibilityFollowsTheRuleOfTheFamily)
     }
 }
 
-TEST_F(ButtonFamily, AShadowSourceOfFourChannelsNeedsBothConditions)
-{
-    OpenTally(bt_tly_globaleffect_shadow_source, {"x", "x", ""});
-    std::fill(SYS_CombineCh, SYS_CombineCh + 8, 0);
-    Dependency(1, "x");
-    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
-    SYS_CombineCh[1] = SYS_CombineCh[2] = SYS_CombineCh[3] = 1;
-    Dependency(1, "x");
-    EXPECT_EQ(BT_GetVisible(17), BT_ENABLED);
-    Dependency(2, "x");
-    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
-    Dependency(3, "y");
-    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED) << "the third has no part in it";
-    std::fill(SYS_CombineCh, SYS_CombineCh + 8, 0);
-}
-
-TEST_F(ButtonFamily, TextDependenciesOfLightsAndEdges)
-{
-    static const struct {
-        int (*tally)(BT_MEM*, int, const char*, const char*);
-        const char* first;
-        const char* second;
-        int visible;
-    } cases[] = {
-        {bt_tly_lightptnbar, "true", "null", BT_ENABLED},
-        {bt_tly_lightptnbar, "true", "1", BT_DISABLED},
-        {bt_tly_lightptnbar, "false", "null", BT_DISABLED},
-        {bt_tly_edge, "true", "Chroma", BT_DISABLED},
-        {bt_tly_edge, "true", "Linear", BT_ENABLED},
-        {bt_tly_edge, "false", "Chroma", BT_ENABLED},
-    };
-    for (const auto& c : cases) {
-        OpenTally(c.tally, {"", "", ""});
-        Dependency(1, c.first);
-        Dependency(2, c.second);
-        Dependency(3, "x");
-        EXPECT_EQ(BT_GetVisible(17), c.visible) << c.first << " " << c.second;
-    }
-}
-
 TEST_F(ButtonFamily, TheWipeDecidesOnSizeAndTransparency)
 {
     static const struct {
@@ -289,27 +249,4 @@ TEST_F(ButtonFamily, TheBorderOfAKeyChoosesItsTable)
     }
     BT_SetKnob(17, SpecialKnob(255));
     EXPECT_EQ(special_knob_table(bt_find(17)), nullptr);
-}
-
-TEST_F(ButtonFamily, TheBorderOfAChannelFollowsFormatAndAspect)
-{
-    OpenTally(bt_tly_normal, {});
-    BT_SetKnob(17, SpecialKnob(5));
-    std::vector<const NB_TBL*> tables;
-    for (SYS_SignalFormat = 0; SYS_SignalFormat < 2; SYS_SignalFormat++)
-        for (SYS_ScreenAspect = 0; SYS_ScreenAspect < 2; SYS_ScreenAspect++)
-            tables.push_back(special_knob_table(bt_find(17)));
-    EXPECT_THAT(tables,
-                ElementsAre(nb_dme_edge_bordercrop_border1, nb_dme_edge_bordercrop_border2,
-                            nb_dme_edge_bordercrop_border3, nb_dme_edge_bordercrop_border4));
-    SYS_SignalFormat = SYS_ScreenAspect = 1;
-}
-
-TEST(SpecialKnobs, NumbersAreToldFromTables)
-{
-    EXPECT_EQ(SpecialKnobNumber(SpecialKnob(1)), 1);
-    EXPECT_EQ(SpecialKnobNumber(SpecialKnob(255)), 255);
-    EXPECT_EQ(SpecialKnobNumber(NoKnobs()), 0);
-    EXPECT_EQ(SpecialKnobNumber(nullptr), 0);
-    EXPECT_EQ(SpecialKnobNumber(nb_me_key_edge_edge_border1), 0);
 }

@@ -323,24 +323,3 @@ TEST_F(Buttons, ACommandCanBeReplaced)
     Press(35);
     EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Other 5 0"));
 }
-
-TEST_F(Buttons, AnUndecidedChoiceIsShownOnTheChosenRadioOnly)
-{
-    EXPECT_EQ(BT_UndecidedRequest(nullptr, 1), -1);
-    BT_UndecidedRequest("M/E-1@Key1@Type@Key Type#Linear", 1);
-    EXPECT_EQ(bt_find(17)->undecided, 0);
-    EXPECT_EQ(bt_find(18)->undecided, 1);
-    EXPECT_EQ(BT_GetOnOff(18), 1);
-    BT_UndecidedRequest("M/E-1@Key1@Type@Key Type#Luminance", 1);
-    EXPECT_EQ(bt_find(17)->undecided, 1);
-    EXPECT_EQ(bt_find(18)->undecided, 0);
-    BT_UndecidedRequest("M/E-1@Key1@Type@Key Type#Luminance", 0);
-    EXPECT_EQ(bt_find(17)->undecided, 0);
-}
-
-TEST_F(Buttons, AMovedButtonIsPressedAtItsNewPlace)
-{
-    BT_SetPosition(20, 600, 100, 650, 130);
-    BT_Proc(MSG_PRESS, 650, 100, 1, 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Invert#true"));
-}

@@ -118,19 +118,6 @@ TEST_F(Devices, RubbishInTheTablesIsPassedOver)
     EXPECT_EQ(SYS_MySwrMax, 0);
 }
 
-TEST_F(Devices, AllEightEffectsUnitsCanBelong)
-{
-    Unit(DEV_Dme, SYS_DmeMax, "DME", 7, 1);
-    Unit(DEV_Dme, SYS_DmeMax, "DME", 8, 1);
-    for (int i = 0; i < 4; i++) {
-        SYS_SwrAssign[1][i] = 1 + i;
-        SYS_SwrAssign[2][i] = 5 + i;
-    }
-    DeviceStructure();
-    EXPECT_EQ(SYS_MyDmeMax, DEVICE_MAX);
-    EXPECT_EQ(Listed(DEV_MyDme).size(), size_t(DEVICE_MAX));
-}
-
 TEST_F(Devices, ReferenceChannelPicksTheUnit)
 {
     static const struct {
@@ -164,20 +151,6 @@ TEST_F(Devices, ANewEffectsModelReadsTheInterfacesOnce)
                                         "read Engineering Setup@Switcher@SDI I/F@DME2"}));
     EXPECT_TRUE(isZRD52onSWR(&DEV_Swr[0]));
     EXPECT_FALSE(isZRD52onSWR(&DEV_Swr[1]));
-}
-
-TEST_F(Devices, FrameMemoryFollowsTheSwitcher)
-{
-    for (DEVTYPE type : {DEVTYPE_KTR40, DEVTYPE_KTR40SF, DEVTYPE_LTR50, DEVTYPE_LTR50SF}) {
-        DEV_Swr[0].type = type;
-        DeviceStructure();
-        EXPECT_EQ(SYS_FmemV6, 0) << type;
-    }
-    for (DEVTYPE type : {DEVTYPE_UNKNOWN, DEVTYPE_KTR40A, DEVTYPE_NTR40}) {
-        DEV_Swr[0].type = type;
-        DeviceStructure();
-        EXPECT_EQ(SYS_FmemV6, 1) << type;
-    }
 }
 
 // Which questions hold for 1080p, by switcher model, processors and effects model.

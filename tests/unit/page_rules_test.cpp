@@ -407,17 +407,3 @@ TEST_F(PageRules, TheWalkThroughAllPagesSkipsTheRules)
     EXPECT_EQ(SearchPageTable(0x33110000)->id, 0x33110100u);
     EXPECT_EQ(SearchPageTable(PAGE_END), nullptr);
 }
-
-TEST_F(PageRules, FiveIdsHaveNoPageInTheWalk)
-{
-    PAGE rows[] = {{.id = 0x71720000},
-                   {.id = 0x71730000},
-                   {.id = 0x73160005},
-                   {.id = 0x73160010},
-                   {.id = 0x73270001},
-                   {.id = 0x71740000},
-                   {}};
-    for (int i = 0; i < 5; i++)
-        EXPECT_EQ(SearchPageTable_Free_ALL(rows, rows[i].id), nullptr);
-    EXPECT_EQ(SearchPageTable_Free_ALL(rows, 0x71740000), &rows[5]);
-}

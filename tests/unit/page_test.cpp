@@ -320,52 +320,6 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
     }
 }
 
-TEST_F(PageTest, AWildcardTabIsTheOneThatTheRowSelects)
-{
-    static const VF_TBL tabs[] = {{.id = 1, .page = 0x32110000},
-                                  {.id = 2, .page = 0x99150000},
-                                  VF_END,
-                                  {.id = 3, .page = 0x32160000}};
-    static const struct {
-        uint32_t selected;
-        uint32_t opens;
-    } cases[] = {{1, 0x32110000}, {2, 0x32150000}, {3, 0x321F0000}, {0, 0x321F0000}};
-    PAGE* row = SearchPageTable_Free_ALL(PageTable, 0x32110000);
-    ASSERT_NE(row, nullptr);
-    const PAGE kept = *row;
-    for (const auto& c : cases) {
-        row->obj[0] = {OBJ_VF, tabs, c.selected};
-        row->obj[1] = {};
-        EXPECT_EQ(ComesTo(0x321F0000), c.opens) << c.selected;
-    }
-    *row = kept;
-}
-
-TEST_F(PageTest, ClassificationByBankAndTab)
-{
-    static const struct {
-        uint32_t id;
-        int me, key, index;
-    } cases[] = {
-        {0x11110000, 0, 1, 1},  {0x14410001, 0, 1, 0},  {0x15110000, 0, 2, 1},
-        {0x88110000, 0, 2, -1}, {0x83110000, 0, 1, -1}, {0x11510000, 1, 0, 1},
-        {0x82000000, 1, 0, 5},  {0x18710000, 2, 0, 0},  {0x85510000, 2, 0, 4},
-        {0x21110000, 0, 0, -1}, {0x83510000, 0, 0, -1},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(isNowPageME(c.id), c.me) << std::hex << c.id;
-        EXPECT_EQ(isNowPageMeKey(c.id), c.key) << std::hex << c.id;
-        EXPECT_EQ(Page_MeIndex(c.id), c.index) << std::hex << c.id;
-        const FakePage page(c.id, nullptr, nullptr);
-        EXPECT_EQ(isNowPageME(0), c.me) << "current " << std::hex << c.id;
-    }
-    const FakePage page(0x71620000, "File", nullptr);
-    EXPECT_TRUE(isNowPageFM(0x11110000));
-    GL_NowPage = 0x71610000;
-    EXPECT_FALSE(isNowPageFM(0));
-    EXPECT_TRUE(isNowPageFM(0x21210000));
-}
-
 TEST_F(PageTest, MainAndSubByTheRowsOfThePanel)
 {
     static const struct {
@@ -430,32 +384,4 @@ TEST_F(PageTest, PagesThatCoverOthersDoNotCount)
         EXPECT_FALSE(IsUserPages(id)) << std::hex << id;
     for (uint32_t id : {PAGE_TOP, 0x71420001u, 0x71440102u, 0x99910005u, 0x99911000u, 0x99960006u})
         EXPECT_TRUE(IsUserPages(id)) << std::hex << id;
-}
-
-TEST_F(PageTest, AFewPagesKeepTheKnobsOfTheirRow)
-{
-    static const struct {
-        uint32_t id;
-        int stored;
-    } cases[] = {{0x73310007, 0}, {0x73310006, 5}, {0x73330002, 5},
-                 {0x73330003, 0}, {0x73340004, 0}, {0x73340005, 5},
-                 {0x73350001, 0}, {0x73350002, 5}, {0x11110000, 5}};
-    EXPECT_EQ(Page_GetKnobAssign(), -1); // before the first page
-    Page_SetKnobAssign(5);
-    for (const auto& c : cases) {
-        const FakePage page(c.id, "Engineering Setup", nullptr);
-        Page_SetKnobAssign(5);
-        EXPECT_EQ(Page_GetKnobAssign(), c.stored) << std::hex << c.id;
-    }
-}
-
-TEST_F(PageTest, NumberOfAPage)
-{
-    char text[16];
-    Page_Number(text, sizeof text, 0x11110000);
-    EXPECT_STREQ(text, "1111");
-    Page_Number(text, sizeof text, 0x00220012);
-    EXPECT_STREQ(text, "0022.12");
-    Page_Number(text, 6, 0x73110099);
-    EXPECT_STREQ(text, "7311.");
 }
