@@ -331,21 +331,6 @@ TEST_F(Regions, ASingleSelectorAnswersWithTheRegion)
     EXPECT_EQ(Selected(4), "0*");
 }
 
-TEST_F(Regions, SelectorsOnTopOfEachOtherKeepApart)
-{
-    Units(2, 2);
-    Select(4, {{0, 2}});
-    Select(17, {{0, 2}});
-    (void)PaneRegion_Create(17, 0);
-    const int upper = PaneRegion_Create(4, 0);
-    TouchCell(4, 9);
-    Pane_Quit(upper);
-    TouchCell(17, 2);
-    Enter(17);
-    EXPECT_EQ(Selected(17), "0 2*");
-    EXPECT_EQ(Selected(4), "0*");
-}
-
 TEST_F(Regions, AllKeysSelectAndClear)
 {
     static const struct {

@@ -148,25 +148,6 @@ TEST_F(Panes, TheScreenComesBackWithTheLastOne)
         ASSERT_EQ(pixel, 0x123456U);
 }
 
-TEST_F(Panes, AChangeUnderAnotherPaneStaysUnderIt)
-{
-    TDL_FillRectS(97, 73, 702, 526, 0x123456); // for the shadows to fall on
-    const int progress = PaneProgress_Create("C", "m", 1);
-    const int find = PaneFind_Create(150, 180, 0);
-    Pass();
-    Pass();
-    const auto top = Area(150, 180, 324, 329);
-    PaneProgress_SetProg(progress, 90, "");
-    Pass();
-    EXPECT_EQ(Area(150, 180, 324, 329), top);
-    EXPECT_EQ(PixelAt(450, 216), 0x00DDD4U) << "the bar beside it has grown";
-    const uint32_t shadow = PixelAt(170, 333);
-    PaneProgress_SetProg(progress, 95, "");
-    Pass();
-    EXPECT_EQ(PixelAt(170, 333), shadow) << "laid once";
-    Pane_Quit(find);
-}
-
 TEST_F(Panes, HeldArrowsRepeat)
 {
     (void)PaneMessage_Create("C", PANE_INFO, Lines(40).c_str());
@@ -224,25 +205,6 @@ TEST_F(Panes, TextScrollsToItsEndsAndNoFurther)
         EXPECT_EQ(Well(), seen.front());
         Pane_Quit(id);
     }
-}
-
-TEST_F(Panes, AppendedTextShowsItsEnd)
-{
-    const int id = PaneMessage_Create("C", PANE_INFO, Lines(15).c_str());
-    Pass();
-    for (int i = 0; i < 5; i++)
-        Touch(ARROW_X, DOWN_Y);
-    const auto end = Well();
-    Pane_Quit(id);
-    const int appended = PaneMessage_Create("C", PANE_INFO, "");
-    Pass();
-    EXPECT_EQ(Pane_AppendMessage(appended, Lines(14).c_str()), 0);
-    EXPECT_EQ(Pane_AppendMessage(appended, "\n15"), 0);
-    Pass();
-    EXPECT_EQ(Well(), end);
-    EXPECT_EQ(Pane_AppendMessage(appended, nullptr), 0);
-    EXPECT_EQ(Pane_AppendMessage(4711, "x"), -1);
-    EXPECT_EQ(Pane_AppendMessage(PaneFind_Create(200, 200, 0), "x"), -2);
 }
 
 TEST_F(Panes, ProgressTellsWhatIsAndWhatIsNotOne)
@@ -328,36 +290,6 @@ TEST_F(Panes, AChoiceIsTheResult)
     EXPECT_EQ(PaneSelect_Create(0, 3, choices), 0);
     EXPECT_EQ(PanePullDown_Create(0, 0, 0, choices), 0);
     EXPECT_EQ(PaneDirectory_Create(3, nullptr), 0);
-}
-
-TEST_F(Panes, APopupChoiceThatStandsSaysNothing)
-{
-    const int id = PanePopup_Create(2, 2, choices); // (309, 219), cells at pitch 78 x 43
-    Touch(420, 240);
-    EXPECT_THAT(Told(), IsEmpty());
-    EXPECT_EQ(Pane_Exist(id), 1);
-    Touch(340, 240);
-    EXPECT_THAT(Told(), ElementsAre("button 11", Quit(id, 11)));
-}
-
-TEST_F(Panes, PopupButtonsCanBeDisabledAndCutOff)
-{
-    EXPECT_EQ(PanePopup_BtnDisable(11, 1), -1) << "none is open";
-    (void)PanePopup_Create(2, 2, choices);
-    Pass();
-    const uint32_t key = PixelAt(340, 255);
-    EXPECT_EQ(PanePopup_BtnDisable(11, 1), 0);
-    EXPECT_EQ(PanePopup_BtnCutOff(14, 1), 0);
-    EXPECT_EQ(PanePopup_BtnCutOff(13, 1), -1);
-    Pass();
-    EXPECT_NE(PixelAt(340, 255), key);
-    EXPECT_EQ(PixelAt(430, 300), 0x2A2F32U) << "the ground of the pane";
-    Touch(340, 240);
-    Touch(430, 300);
-    EXPECT_THAT(Told(), IsEmpty());
-    EXPECT_EQ(PanePopup_BtnDisable(11, 0), 0);
-    Touch(340, 240);
-    EXPECT_EQ(Told().size(), 2U);
 }
 
 TEST_F(Panes, ALongPullDownStaysInTheWorkArea)

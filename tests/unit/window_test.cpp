@@ -248,14 +248,8 @@ TEST_F(Windows, AReservedQuitIsAnsweredAtTheNextPassAsItsKeyWould)
         {WINDOW_KEYBOARD, 1, {}},
         {WINDOW_MESSAGE, 0, {"value 7"}},
         {WINDOW_MESSAGE, 1, {}},
-        {WINDOW_PROGRESS, 0, {"value 7"}},
-        {WINDOW_PROGRESS, 1, {}},
-        {WINDOW_BANK, 2, {"value 0"}},
-        {WINDOW_BANK, 0, {}},
         {WINDOW_HEX, 2, {"value ABC"}},
         {WINDOW_HEX, 0, {}},
-        {WINDOW_PAGE_GET, 2, {"value ABC0000"}},
-        {WINDOW_PAGE_GET, 0, {}},
         {WINDOW_PULLDOWN, 3, {"pull-down Any 2"}},
         {WINDOW_PULLDOWN, 0, {}},
         {WINDOW_SELECT, 1, {"select Any 0"}},
@@ -350,19 +344,6 @@ TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
                         std::string("01234567890123456789012345678901").substr(0, c.length)))
             << c.input_max;
     }
-}
-
-TEST_F(Windows, ACancelHandsNothingOver)
-{
-    for (const bool by_touch : {true, false}) {
-        CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "abc", .ok_text = HearText});
-        by_touch ? TouchKeyboard({"d", "Cancel"}) : StrokeKeys({"d", "Cancel"});
-        EXPECT_EQ(GetWindow(), 0);
-    }
-    EXPECT_THAT(Heard(), IsEmpty());
-    CreateWindow(WINDOW_KEYBOARD, "Nobody listens");
-    StrokeKeys({"a", "Enter"});
-    EXPECT_EQ(GetWindow(), 0);
 }
 
 // Keys that the keyboard on the screen does not have must not write rubbish.
@@ -724,22 +705,6 @@ TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
     EXPECT_EQ(ChangeWindow("Clip", "1", "0", "2"), -1);
     CreateWindow(WINDOW_KEYBOARD, "Name");
     EXPECT_EQ(ChangeWindow("Clip", "1", "0", "2"), -1);
-}
-
-// A receiver of the value may open a window or a pane: it must not be torn down with this one.
-TEST_F(KnobInput, TheReceiverOfAValueMayOpenWhatItLikes)
-{
-    static const NB_TBL local[] = {
-        {.id = 1, .caption = "Count", .type = NB_INT, .min = 0, .max = 9, .cmd = "LOCAL"}, NB_END};
-    Open(local);
-    PressSlot(1);
-    answer = [](int msg) {
-        if (msg == LMSG_KNOBVAR)
-            CreateWindow(WINDOW_MESSAGE, "Count");
-    };
-    Hit({"4", "Enter"}, true);
-    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
-    Forget();
 }
 
 // --- From a tab on a real page to the wire ---
