@@ -147,16 +147,6 @@ TEST_F(Link, AWriteToADeadSocketKeepsTheCommand)
     EXPECT_THAT(peer.Lines(), ElementsAre("put A#2"));
 }
 
-TEST_F(Link, AServerMayBeGivenByName)
-{
-    strcpy(GL_ServerAddress, "localhost");
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
-    Net_SendCommand("read A");
-    Net_SendCommandQueue();
-    EXPECT_THAT(peer.Lines(), ElementsAre("read A"));
-}
-
 TEST_F(Link, AReturningServerIsReadUnderAnyDescriptorAndFromItsFirstByte)
 {
     Peer peer(NET_TEXT_PORT);

@@ -49,13 +49,6 @@ TEST_F(Access, OpenFilesAreCounted)
     EXPECT_EQ(FileCounter, 0);
 }
 
-TEST_F(Access, AFileThatDoesNotOpenIsNotCounted)
-{
-    EXPECT_EQ(FileOpen("/nowhere/a", "r"), nullptr);
-    EXPECT_EQ(FileCounter, 0);
-    EXPECT_EQ(LogTexts(), "|FileOpen: /nowhere/a|FileOpen: Error!!!|FileOpen(): FileCounter = 0");
-}
-
 TEST_F(Access, CountersNeverFallBelowZero)
 {
     FileCounterDown();

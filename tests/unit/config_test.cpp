@@ -84,15 +84,6 @@ TEST_F(Config, AnEmptyValueEmptiesATextAndClearsANumber)
     EXPECT_EQ(GL_DebugMode, 0);
 }
 
-TEST_F(Config, PathsStartFromTheirDefaultsAtEachLoad)
-{
-    Load("TempFile=/tmp/x\nRegistDataPath=/mnt/x/\n");
-    EXPECT_STREQ(GL_TempFile, "/tmp/x");
-    Load("");
-    EXPECT_STREQ(GL_TempFile, "/var/tmp/__tm3__.tmp");
-    EXPECT_STREQ(GL_RegistDataPath, "/mnt/data/");
-}
-
 TEST_F(Config, DebugKeysOfTheEffectsUnitsNeedTheirModeBeforeThem)
 {
     EXPECT_EQ(Load("DMEDebugModel1=4\nDMEDebugMode=1\nDMEDebugModel2=8\n"),

@@ -85,23 +85,19 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
     InitialCommand1();
     EXPECT_EQ(SYS_ConfigChange, 0);
     const Strings sent = TakeQueuedCommands();
-    for (const char* line : {
-             "add Info@Processor Status@1",
-             "add Info@Processor Status@6",
-             "put Info@Menu Macro@Report#true",
-             "add Info@Operation Setup Data@Color Select@12",
-             "add Info@System Setup Data@Panel Operation Log",
-             "add Engineering Setup@System@Format@Video Format@MPE4",
-             "add Engineering Setup@System@Format@Reference@PNL4",
-             "add 32@Engineering Setup@System@Install@Unit Config@FM Data",
-             "read Engineering Setup@Panel@Config@External Bus Link@S-BUS Dst Name List",
-             "add Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@23",
-             "add Engineering Setup@Panel@Config@M/E Assign@14th Row",
-             "add Engineering Setup@Panel@Config@Compact Key Module Assign@KY Unit Config@0",
-             "add 16@Frame Mem@Status@Folder Status@172",
-             "add M/E-5@Key8@Processed Key@Rotation",
-             "add PGM/PST@DSK1@Processed Key@Rotation",
-         })
+    for (const char* line :
+         {"add Info@Processor Status@1", "add Info@Processor Status@6",
+          "put Info@Menu Macro@Report#true", "add Info@Operation Setup Data@Color Select@12",
+          "add Info@System Setup Data@Panel Operation Log",
+          "add Engineering Setup@System@Format@Video Format@MPE4",
+          "add Engineering Setup@System@Format@Reference@PNL4",
+          "add 32@Engineering Setup@System@Install@Unit Config@FM Data",
+          "read Engineering Setup@Panel@Config@External Bus Link@S-BUS Dst Name List",
+          "add Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@23",
+          "add Engineering Setup@Panel@Config@M/E Assign@14th Row",
+          "add Engineering Setup@Panel@Config@Compact Key Module Assign@KY Unit Config@0",
+          "add 16@Frame Mem@Status@Folder Status@172", "add M/E-5@Key8@Processed Key@Rotation",
+          "add PGM/PST@DSK1@Processed Key@Rotation"})
         EXPECT_THAT(sent, Contains(line));
     EXPECT_THAT(sent, Not(Contains("add 16@Frame Mem@Status@Register Status@45")));
     // A shortcut stands right behind its group.

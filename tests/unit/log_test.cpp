@@ -53,38 +53,6 @@ struct Log : testing::Test {
 };
 } // namespace
 
-TEST_F(Log, StartWritesItsThreeLinesAndTakesTheLevelFromTheEnvironment)
-{
-    setenv("TM3LOGLEVEL", "4", 1);
-    Log_Init(LOG, 1000);
-    unsetenv("TM3LOGLEVEL");
-    EXPECT_THAT(Content(LOG),
-                MatchesRegex("\\[.*\\]\\[ -1\\] \n\\[.*\\]\\[ -1\\] === <<< START LOG >>> "
-                             "==================================\n\\[.*\\]\\[ -1\\] \n"));
-    EXPECT_TRUE(std::filesystem::is_directory("/mnt/sys/log"));
-    EXPECT_EQ(Log_Output(3, MOD_GLOBAL, "x"), 1);
-    EXPECT_EQ(Log_Output(4, MOD_GLOBAL, "x"), 0);
-}
-
-TEST_F(Log, LinesCarryUtcWhateverTheZone)
-{
-    setenv("TZ", "XXX-9:30", 1);
-    tzset();
-    const time_t before = time(nullptr);
-    EXPECT_EQ(Log_Output(1, 7, "value %d", 42), 0);
-    const std::string line = Content(LOG);
-    unsetenv("TZ");
-    tzset();
-    char stamp[2][32];
-    for (int i = 0; i < 2; i++) { // the second may have turned in between
-        const time_t t = before + i;
-        strftime(stamp[i], sizeof stamp[i], "[%b %d %H:%M:%S][  7] ", gmtime(&t));
-    }
-    EXPECT_TRUE(line == stamp[0] + std::string("value 42\n") ||
-                line == stamp[1] + std::string("value 42\n"))
-        << line;
-}
-
 TEST_F(Log, AFullFileRotatesBeforeTheNextLine)
 {
     Fill(LOG, std::string(99, 'a'));
@@ -157,14 +125,6 @@ TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)
 #pragma GCC diagnostic pop
     Log_Output(1, 1, "%s", argument.c_str());
     EXPECT_THAT(Content(LOG), EndsWith("] " + std::string(4095, 'a') + "\n"));
-}
-
-TEST_F(Log, DebugModeEchoesOnTheConsole)
-{
-    GL_DebugMode = 1;
-    testing::internal::CaptureStdout();
-    Log_Output(1, 1, "echo");
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "echo\n");
 }
 
 TEST_F(Log, LifeCycleLinesAlsoGoToTheSystemLog)

@@ -105,21 +105,6 @@ TEST(Text, AFileNameIsSafeForTheShellWhateverItWas)
     EXPECT_EQ(strlen(text), 255u);
 }
 
-TEST(Text, SearchAndCompareAreCaseBlind)
-{
-    const char* text = "Engineering Setup";
-    EXPECT_EQ(StrIStr(text, "SETUP"), text + 12);
-    EXPECT_EQ(StrIStr(nullptr, "a"), nullptr);
-    EXPECT_EQ(StrICmp("pwon_ld", "PWON_LD"), 0);
-    EXPECT_NE(StrICmp("a", nullptr), 0);
-    EXPECT_EQ(StrNICmp("Version 1", "VERSION 2", 8), 0);
-    char word[] = "M/e-1";
-    StrUpr(word);
-    EXPECT_STREQ(word, "M/E-1");
-    StrLwr(word);
-    EXPECT_STREQ(word, "m/e-1");
-}
-
 TEST(Memory, CountFollowsLiveBlocks)
 {
     const int before = UsedMemPtr;

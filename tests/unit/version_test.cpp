@@ -79,25 +79,6 @@ TEST(Version, NumberAndTimeAreFoundInAnyLine)
     EXPECT_EQ(std::string(GL_Version), std::string(255, '9'));
 }
 
-TEST(Version, MonthsOutsideTheYearHaveTheirOwnWord)
-{
-    static const struct {
-        unsigned char bcd;
-        const char* text;
-    } cases[] = {
-        {.bcd = 0x01, .text = "Version 0.00 (Jan.02.2013)"},
-        {.bcd = 0x10, .text = "Version 0.00 (Oct.02.2013)"},
-        {.bcd = 0x13, .text = "Version 0.00 (---.02.2013)"},
-        {.bcd = 0x00, .text = "Version 0.00 (---.02.2013)"},
-        {.bcd = 0xFF, .text = "Version 0.00 (---.02.2013)"},
-    };
-    for (const auto& c : cases) {
-        Fpga({}, {0x20, 0x13, c.bcd, 0x02});
-        GetMenuDetailInfo();
-        EXPECT_STREQ(GL_MenuDetailInfo[3], c.text);
-    }
-}
-
 TEST(Version, StrippingDropsTheBuildNumberAlone)
 {
     char dst[10];
