@@ -102,7 +102,7 @@ static const kf::Data opening = {
     .loopstart = 2,
     .loopend = 0x8000 | 3,
     .loopnum = 7,
-    .keyframes = {45, 0x7FF, kf::PAUSE | 30},
+    .keyframes = {45, 0x7FF, kf::PAUSE | 0x7800 | 30}, // four bits mean nothing
 };
 
 TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
@@ -179,10 +179,13 @@ TEST_F(Keyframes, ARegionFrameMayEndAnywhere)
 TEST_F(Keyframes, CountsBeyondTheDataAndTheListAreNotBelieved)
 {
     kf::Data d = opening;
+    d.keyframes.push_back(77);
+    kf::Send(kf::DATA, kf::DataFrame(d));
+    d.keyframes.resize(3);
     d.kfnum = 0xFFFF;
     kf::Send(kf::DATA, kf::DataFrame(d));
     EXPECT_EQ(R(ME1).kfnum, 0xFFFF);
-    EXPECT_EQ(R(ME1).kf[4].duration, 0);
+    EXPECT_EQ(R(ME1).kf[4].duration, 77) << "what did not come is not stored";
     d.keyframes.assign(1200, 9);
     kf::Send(kf::DATA, kf::DataFrame(d));
     EXPECT_EQ(R(ME1).kf[KF_KEYFRAMES - 1].duration, 9);
