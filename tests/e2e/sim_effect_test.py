@@ -96,11 +96,12 @@ class Panel:
     def position(self, seconds=3):
         return Position(self.next(POSITION, seconds))
 
-    def run_until(self, condition, seconds=5):
+    def run_until(self, condition, seconds=8):
         """All positions up to the one that the condition holds for."""
-        positions = [self.position(seconds)]
-        while not condition(positions[-1]):
-            positions.append(self.position(seconds))
+        positions, end = [], time.monotonic() + seconds
+        while not positions or not condition(positions[-1]):
+            assert time.monotonic() < end, [p.time for p in positions[-5:]]
+            positions.append(self.position())
         return positions
 
     def quiet(self, seconds=0.3):
