@@ -172,11 +172,12 @@ static void open_ten_keys(NB_MEM& b)
     NB_Text(b, nb_shown_var(b), GL_KnobSetVar, sizeof GL_KnobSetVar);
     NB_Text(b, b.min, nb.min_text, sizeof nb.min_text);
     NB_Text(b, b.max, nb.max_text, sizeof nb.max_text);
-    if (moves_on) {
+    if (moves_on)
         Log_Output(LOG_TRACE, MOD_PAGE, "**ischange**");
-        if (ChangeWindow(b.caption, GL_KnobSetVar, nb.min_text, nb.max_text, b.type == NB_TC) == 0)
-            return;
-    }
+    // Also when the box that the window was opened for has gone under it: closing the window would
+    // take the selection along.
+    if (ChangeWindow(b.caption, GL_KnobSetVar, nb.min_text, nb.max_text, b.type == NB_TC) == 0)
+        return;
     (void)CreateWindow(WINDOW_KNOB_TRIM, b.caption, // fails for an unknown type only
                        {.value = GL_KnobSetVar,
                         .min_text = nb.min_text,
@@ -203,6 +204,7 @@ static void nb_select(int y, int button)
 
 int nb_press(int x, int y, int button)
 {
+    (void)nb_release(); // a pane that opened under the finger has kept the last one
     if (!nb.is_open || !Inside(NB_COLUMN, x, y))
         return 0;
     if (button == BUTTON_DEFAULT) {
