@@ -192,6 +192,9 @@ static void loop_press(int x, int y, int button)
 // the page has and that answers counts.
 static bool loop_wheel_to_press(int* x, int* y, int button)
 {
+    // What stands over the page would take the press for its own, or for one beside it.
+    if (GetWindow() || Pane_GetActiveID())
+        return false;
     return (IsObjetype(OBJ_LS) && LS_ConvPosForWheel(x, y, button)) ||
            (IsObjetype(OBJ_DW) && DW_ConvPosForWheel(x, y, button)) ||
            (IsObjetype(OBJ_KP) && KP_ConvPosForWheel(x, y, button));
