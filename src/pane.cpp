@@ -300,6 +300,8 @@ static void run_buttons(int pane_id, int elapsed_ms)
             continue;
         end_push(pane, b);
         pane = pane_find(pane_id);
+        if (pane != pane_top())
+            return; // the rest waits until the pane that has opened is answered
     }
 }
 
