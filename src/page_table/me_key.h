@@ -2,6 +2,7 @@
 #pragma once
 #include "me_banks.h"
 #include "patterns.h"
+#include "pc_me.h"
 #include "pulldowns.h"
 #include "st_me_key.h"
 
@@ -53,10 +54,11 @@ inline constexpr NB_TBL nb_me_key_type_keywipe[] = {
     {.id = 3, .caption = "Density", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Key Type@Key Wipe Pattern@Density"},
     NB_END,
 };
+// The page code names the paths: they follow the key type.
 inline constexpr NB_TBL nb_me_key_type_position[] = {
-    {.id = 1, .caption = "H Phase", .type = NB_2, .min = -8,  .max = 8, .cmd = "~@Key Position@H Phase"},
-    {.id = 2, .caption = "Left",    .type = NB_2, .min = -8,  .max = 8, .cmd = "~@Key Position@Left"},
-    {.id = 3, .caption = "Right",   .type = NB_2, .min = -8,  .max = 8, .cmd = "~@Key Position@Right"},
+    {.id = 1, .caption = "H Phase", .type = NB_2, .min = -8,  .max = 8, .cmd = ""},
+    {.id = 2, .caption = "Left",    .type = NB_2, .min = -8,  .max = 8, .cmd = ""},
+    {.id = 3, .caption = "Right",   .type = NB_2, .min = -8,  .max = 8, .cmd = ""},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_key_type_luminance) && BoxesAreSound(nb_me_key_type_linear));
@@ -72,14 +74,14 @@ inline constexpr BT_TBL bt_me_key_type[] = {
     Radio ({.id = 21, .caption = "Wipe\nPattern", .group = "Key Type", .cmd = {"~@Key Type#Wipe Pattern"}, .nb = nb_me_key_type_wipe}),
     Radio ({.id = 22, .caption = "Key Wipe\nPattern", .group = "Key Type", .cmd = {"~@Key Type#Key Wipe Pattern"}, .nb = nb_me_key_type_keywipe}),
     Toggle({.id = 33, .caption = "Key\nInvert",  .group = "Key Modify", .cmd = {"~@Key Invert#*"}}),
-    Toggle({.id = 34, .caption = "Clean\nMode",  .group = "Key Modify", .cmd = {"~@Clean Mode#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}}),
-    Toggle({.id = 35, .caption = "Key\nPosition", .group = "Position", .cmd = {"~@Key Position#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}, .nb = nb_me_key_type_position}),
+    Toggle({.id = 34, .caption = "Clean\nMode",  .group = "Key Modify", .cmd = {"LOCAL@M/E@Key@Type@Clean Mode#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}}),
+    Toggle({.id = 35, .caption = "Key\nPosition", .group = "Position", .cmd = {"LOCAL@M/E@Key@Type@Key Position#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}, .nb = nb_me_key_type_position}),
     Action({.id = 36, .caption = "Auto\nChroma", .group = "Chroma",   .cmd = {"~@Auto Chroma#*", "~@Key Type#!Chroma"}}),
     Jump  ({.id = 37, .caption = "Chroma\nAdjust", .group = "Chroma", .cmd = {"#+11110001", "~@Key Type#!Chroma"}}),
-    Jump  ({.id = 38, .caption = "Signal\nSelect", .group = "Chroma", .cmd = {"#+11110003"}}),
+    Action({.id = 38, .caption = "Signal\nSelect", .group = "Source", .cmd = {"LOCAL@M/E@Key@Type@Pattern Select"}}),
     Radio ({.id = 49, .caption = "Key Bus",      .group = "Key Fill", .cmd = {"~@Key Fill#Key Bus"}}),
     Radio ({.id = 50, .caption = "Matte",        .group = "Key Fill", .cmd = {"~@Key Fill#Matte"}}),
-    Jump  ({.id = 51, .caption = "Matte\nAdjust", .group = "Key Fill", .cmd = {"#+11110002", "~@Key Fill#!Matte"}}),
+    Action({.id = 51, .caption = "Signal\nSelect", .group = "Key Fill", .cmd = {"LOCAL@M/E@Key@Key Fill@Adjust"}}),
     Radio ({.id = 52, .caption = "Self",         .group = "Key Source", .cmd = {"~@Key Source#Self"}}),
     Radio ({.id = 53, .caption = "Split",        .group = "Key Source", .cmd = {"~@Key Source#Split"}}),
     Action({.id = 54, .caption = "Store\nKey",   .cmd = {"~@Store Key#*"}}),
@@ -239,7 +241,7 @@ static_assert(ButtonsAreSound(bt_me_key_submask));
 
 inline constexpr MePage me_key_pages[] = {
     {.page = {.id = 0x11110000, .tree = {"M/E-1", "Key1", "Type"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non), Cells(st_me_key)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_type)}}},
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},
               .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_chroma_adjust), Cells(st_me_key)}}},
     {.page = {.id = 0x11110002, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust"},

@@ -6,6 +6,9 @@
 #include "keyframe_path.h"
 #include "machines.h"
 #include "me_key.h"
+#include "me_key_process.h"
+#include "me_key_resizer.h"
+#include "me_key_trans.h"
 #include "me_top.h"
 #include "operation.h"
 #include "registers.h"
@@ -16,10 +19,16 @@
 
 static constexpr auto me_top_rows = BankRows<BankRowCount(me_top_pages)>(me_top_pages);
 static constexpr auto me_key_rows = KeyRows<KeyRowCount(me_key_pages)>(me_key_pages);
+static constexpr auto me_key_resizer_rows = KeyRows<KeyRowCount(me_key_resizer_pages)>(me_key_resizer_pages);
+static constexpr auto me_key_process_rows = KeyRows<KeyRowCount(me_key_process_pages)>(me_key_process_pages);
+static constexpr auto me_key_trans_rows = KeyRows<KeyRowCount(me_key_trans_pages)>(me_key_trans_pages);
 
 static constexpr size_t page_rows = std::size(top_pages) +
                                     me_top_rows.size() +
                                     me_key_rows.size() +
+                                    me_key_resizer_rows.size() +
+                                    me_key_process_rows.size() +
+                                    me_key_trans_rows.size() +
                                     std::size(fm_pages) +
                                     std::size(sources_pages) +
                                     std::size(operation_pages) +
@@ -47,6 +56,9 @@ static constexpr AllRows JoinRows()
     add(top_pages);
     add(me_top_rows);
     add(me_key_rows);
+    add(me_key_resizer_rows);
+    add(me_key_process_rows);
+    add(me_key_trans_rows);
     add(fm_pages);
     add(sources_pages);
     add(operation_pages);
