@@ -78,7 +78,7 @@ static const Preset presets[] = {
     {"Engineering Setup@DME@Model", DMES, "4"},
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
     {"MPE@Fx@Channel@Selected", "", "F"}, // masks of channels, hexadecimal
-    {"MPE@Fx@Channel@Reference", "", "1"},
+    {"MPE@Fx@Channel@Reference", "", "00000001"}, // binary, channel 1 last
     {"Engineering Setup@MPE@Config@SCU Select", "MPE1", "1"},
     {"Engineering Setup@MPE@Config@SWR Select", "MPE1", "1"},
     {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "", "4"},
@@ -276,7 +276,7 @@ bool System_PutMpe(const std::string& path, const std::string& digits)
 {
     const bool is_mask = digits.size() == 8 && digits.find_first_not_of("01") == std::string::npos;
     if (is_mask)
-        Tree_Show(path, Text_Format("%lX", strtoul(digits.c_str(), nullptr, 2)));
+        Tree_Show(path, digits);
     return true; // anything else is answered with the old one
 }
 

@@ -54,7 +54,7 @@ TallyRoute tally_dme_channel(const Tally& t)
 
 TallyRoute tally_mpe_reference(const Tally& t)
 {
-    SYS_MPEReference = int(NumberIn(t.value, 0, INT_MAX, 16));
+    SYS_MPEReference = int(NumberIn(t.value, 0, INT_MAX, 2)); // the digits that the title puts
     return TallyRoute::Pass;
 }
 

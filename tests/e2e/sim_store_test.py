@@ -343,13 +343,14 @@ class Rules(StoreTest):
 
 
 class Units(StoreTest):
-    def test_the_reference_channel_comes_in_binary_and_goes_out_in_hexadecimal(self):
+    def test_the_reference_channel_is_eight_binary_digits_both_ways(self):
         path = "MPE@Fx@Channel@Reference"
         self.follow(path)
-        for digits, mask in (("00000010", "2"), ("10000000", "80"), ("1", "80"), ("00000020", "80"), ("", "80")):
+        two, eight = "00000010", "10000000"
+        for digits, told in ((two, two), (eight, eight), ("1", eight), ("00000020", eight), ("", eight)):
             self.text.send(f"put {path}#{digits}")
-            self.assertEqual(self.text.line(), f"{path}#{mask}")
-        self.assertEqual(self.other.sync(), [f"{path}#2", f"{path}#80"])
+            self.assertEqual(self.text.line(), f"{path}#{told}")
+        self.assertEqual(self.other.sync(), [f"{path}#{two}", f"{path}#{eight}"])
 
     def test_units_have_models_and_boards(self):
         model = "Info@Board Config@Unit Model@"

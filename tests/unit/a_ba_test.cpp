@@ -1,5 +1,6 @@
 #include "a_ba.h"
 #include "a_bt_page.h"
+#include "bus.h"
 #include "device.h"
 #include "err.h"
 #include "graphics.h"
@@ -226,7 +227,7 @@ TEST_F(BaseAreaTest, TheTitleStepsTheReferenceOfMultiPictureEffects)
 {
     OpenBase({"MPE", "Fx"}, 0x45110000);
     SYS_MPEChannel = 0b10010010;
-    SYS_MPEReference = 0b00010000;
+    SendDummyTally("MPE@Fx@Channel@Reference#00010000");
     for (int i = 0; i < 3; i++)
         Touch(TITLE);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put MPE@Fx@Channel@Reference#10000000",
