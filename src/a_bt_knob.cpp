@@ -66,5 +66,6 @@ const NB_TBL* special_knob_table(const BT_MEM* b)
 int special_knob(BT_MEM* b)
 {
     const NB_TBL* table = special_knob_table(b);
-    return table ? NB_Create(table, b->caption) : 0;
+    // Without a table of its own the button must not turn the boxes of the one before it.
+    return table ? NB_Create(table, b->caption) : NB_CreateBlank();
 }
