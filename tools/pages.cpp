@@ -5,7 +5,9 @@
 //        pages --buttons  the same with the buttons and number boxes of each page
 //        pages --values   path, kind and limits, tab-separated, one line a path
 #include "a_bt.h"
+#include "a_hf.h"
 #include "a_nb.h"
+#include "a_vf.h"
 #include "command.h"
 #include "page.h"
 #include "page_table/patterns.h"
@@ -138,6 +140,38 @@ static void AddPatterns(Values* values, const PAGE& page, const PS_TBL& table)
         AddBoxes(values, page, layer.nb);
 }
 
+// What lights a tab. The boxes and buttons know their paths better: only a path of none of them is
+// taken from here, and its default, the first word, leaves the tab dark.
+static void AddStatus(Values* values, const PAGE& page, const char* command)
+{
+    std::string value;
+    const std::string path = PathOf(page, command ? command : "", &value);
+    if (path.empty() || IsLocal(path.c_str()))
+        return;
+    const auto found = values->find(path);
+    if (value == "true" || value == "false") {
+        values->emplace(path, Value{"bool", ""});
+    } else if (found == values->end()) {
+        AddWord(values, path, "null");
+        AddWord(values, path, value);
+    } else if (found->second.kind == "word") {
+        AddWord(values, path, value);
+    }
+}
+
+static void AddTabs(Values* values, const PAGE& page)
+{
+    for (const auto& object : page.obj) {
+        if (object.type == OBJ_VF)
+            for (auto* t = static_cast<const VF_TBL*>(object.addr); t->id >= 1; t++)
+                AddStatus(values, page, t->statcmd);
+        if (object.type == OBJ_HF)
+            for (auto* t = static_cast<const HF_TBL*>(object.addr); t->id >= 1; t++)
+                for (const char* command : t->statcmd)
+                    AddStatus(values, page, command);
+    }
+}
+
 static Values Collect()
 {
     Values values;
@@ -154,6 +188,8 @@ static Values Collect()
                 AddPatterns(&values, *page, *static_cast<const PS_TBL*>(object.addr));
         }
     }
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++)
+        AddTabs(&values, *page);
     return values;
 }
 
