@@ -51,6 +51,14 @@ def main(build):
         desk.wait_wire(f"put {TYPE}#Chroma")
         time.sleep(0.4)
         picture("after-the-tally")
+        desk.console("knob 2 +12")
+        time.sleep(0.3)
+        picture("knob-turned")
+        desk.touch(752, 127 + 41)  # the first box
+        time.sleep(0.3)
+        picture("ten-keys")
+        desk.touch(446 + 17 + 3 * 54 + 24, 140 + 310 - 59 + 24)  # Cancel
+        time.sleep(0.3)
         desk.touch(97 + 86 + 43, 531 + 33)  # the bottom tab "Edge"
         desk.wait_wire("add M/E-1@Key1@Edge@Edge Fill")
         desk.touch(*grid(18))
@@ -61,6 +69,9 @@ def main(build):
         desk.wait_wire("add M/E-2@Key3@Type@Key Type")
         time.sleep(0.3)
         picture("page-from-the-server")
+        desk.console("page 9992.0002")  # of the gallery
+        time.sleep(0.6)
+        picture("list")
         shutil.copy(desk.sim_log, os.path.join(out, "wire.log"))
         with open(os.path.join(out, "tm3.log"), "w", encoding="latin-1") as f:
             f.write(desk.log())
