@@ -241,33 +241,3 @@ TEST(PageTable, EveryBoxHasLimitsThatDifferAndACaptionThatFits)
         EXPECT_LE(TDL_GetSymbolWidth(nb.caption, 3), 74u) << nb.caption;
     });
 }
-
-TEST(PageTable, BanksAndKeysShareTheirTables)
-{
-    Harness_Reset();
-    static const struct {
-        uint32_t id;
-        const char* bank;
-        const char* key;
-    } cases[] = {
-        {0x11110000, "M/E-1", "Key1"},   {0x12310000, "M/E-2", "Key3"},
-        {0x14410000, "PGM/PST", "DSK4"}, {0x15110000, "M/E-1", "Key5"},
-        {0x18410000, "PGM/PST", "DSK8"}, {0x81210000, "M/E-4", "Key2"},
-        {0x86410000, "M/E-5", "Key8"},
-    };
-    const PAGE* first = nullptr;
-    for (const PAGE* p = PageTable; p->id != PAGE_END; p++)
-        if (p->id == 0x11110000)
-            first = p;
-    ASSERT_TRUE(first);
-    for (const auto& c : cases) {
-        const PAGE* found = nullptr;
-        for (const PAGE* p = PageTable; p->id != PAGE_END; p++)
-            if (p->id == c.id)
-                found = p;
-        ASSERT_TRUE(found) << std::hex << c.id;
-        EXPECT_STREQ(found->tree[0], c.bank);
-        EXPECT_STREQ(found->tree[1], c.key);
-        EXPECT_EQ(ButtonsOf(*found), ButtonsOf(*first));
-    }
-}

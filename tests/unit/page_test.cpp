@@ -1,4 +1,3 @@
-#include "a_vf.h"
 #include "device.h"
 #include "global.h"
 #include "harness.h"
@@ -6,7 +5,6 @@
 #include "page.h"
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <fstream>
 #include <unistd.h>
 
