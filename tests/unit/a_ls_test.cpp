@@ -350,27 +350,6 @@ TEST_F(Lists, ArrowsMoveTheCurrentRowAndKeepItInside)
     EXPECT_THAT(Told("SB"), IsEmpty());
 }
 
-TEST_F(Lists, TheBarMovesTheWindowAloneWhereTheSelectionIsTheOperators)
-{
-    for (const LS_TBL* table : {plain, View()}) {
-        Open(table, 20);
-        LS_SetMS(1, !table->view);
-        LS_SetSelected(1, 3, 0, 1);
-        const std::string before = Picture();
-        static const struct {
-            int kind, value, top;
-        } steps[] = {{SB_DOWN, 1, 1},  {SB_UP, -1, 0},     {SB_UP, -1, 0},
-                     {SB_THUMB, 7, 7}, {SB_THUMB, 19, 15}, {SB_DOWN, 1, 15}};
-        told.clear();
-        for (const auto& s : steps) {
-            SendMessage(LMSG_SBSEL, s.kind, 0, s.value, 0);
-            EXPECT_EQ(LS_GetTopLine(1), s.top) << s.kind << " " << s.value;
-        }
-        EXPECT_EQ(Picture(), before);
-        EXPECT_THAT(Told("SB"), IsEmpty());
-    }
-}
-
 TEST_F(Lists, TheWheelIsAPressOnAnArrow)
 {
     static const struct {
@@ -439,29 +418,22 @@ TEST_F(Lists, AnIndexThatNoListHasIsRefused)
         EXPECT_TRUE(refuses(id, 0, 0)) << id;
     for (int row : {-1, 12000, INT_MIN, INT_MAX}) {
         EXPECT_TRUE(refuses(1, row, 0)) << row;
-        EXPECT_EQ(LS_SetHStatus(1, row, 1), -1);
-        EXPECT_EQ(LS_SetDataFolder(1, row, 1, 0), -1);
-        EXPECT_EQ(LS_SetNowLine(1, row), -1);
-        EXPECT_EQ(LS_SetTopLine(1, row), -1);
-        EXPECT_EQ(LS_SetFromN(1, row, 5), -1);
+        for (int result : {LS_SetHStatus(1, row, 1), LS_SetDataFolder(1, row, 1, 0),
+                           LS_SetNowLine(1, row), LS_SetTopLine(1, row), LS_SetFromN(1, row, 5)})
+            EXPECT_EQ(result, -1) << row;
     }
     for (int col : {-1, 17, INT_MIN, INT_MAX}) {
         EXPECT_TRUE(refuses(1, 0, col)) << col;
-        EXPECT_EQ(LS_SetVStatus(1, col, 1), -1);
-        EXPECT_EQ(LS_SetHeadStr(1, col, "x"), -1);
-        EXPECT_EQ(LS_HeaderDisable(1, col, 1), -1);
-        EXPECT_EQ(LS_SetGrouplin(1, col, 1), -1);
-        EXPECT_EQ(LS_SetSplitSel(1, col), -1);
-        EXPECT_EQ(LS_ChangeSelByStr(1, col, "x"), -1);
+        for (int result :
+             {LS_SetVStatus(1, col, 1), LS_SetHeadStr(1, col, "x"), LS_HeaderDisable(1, col, 1),
+              LS_SetGrouplin(1, col, 1), LS_SetSplitSel(1, col), LS_ChangeSelByStr(1, col, "x")})
+            EXPECT_EQ(result, -1) << col;
     }
-    EXPECT_EQ(LS_SetSelected(1, 12000, 0, 1), -1);
-    EXPECT_EQ(LS_SetSelected(1, 0, 3, 1), -1) << "a column that the list does not show";
-    EXPECT_EQ(LS_SetNData(1, 12001), -1);
-    EXPECT_EQ(LS_SetNData(1, -1), -1);
-    for (int status : {-1, 128})
-        EXPECT_EQ(LS_SetStatus(1, 0, 0, status), -1);
-    for (int side : {-1, 2})
-        EXPECT_EQ(LS_SetDataFolder(1, 0, 1, side), -1);
+    for (int result :
+         {LS_SetSelected(1, 12000, 0, 1), LS_SetSelected(1, 0, 3, 1), LS_SetNData(1, 12001),
+          LS_SetNData(1, -1), LS_SetStatus(1, 0, 0, -1), LS_SetStatus(1, 0, 0, 128),
+          LS_SetDataFolder(1, 0, 1, -1), LS_SetDataFolder(1, 0, 1, 2)})
+        EXPECT_EQ(result, -1);
     EXPECT_EQ(LS_GetNData(1), 5);
     EXPECT_EQ(LS_SetData(1, 11999, 16, "x"), 0);
     EXPECT_STREQ(LS_GetData(1, 11999, 16), "x");

@@ -6,7 +6,6 @@
 #include <climits>
 #include <gmock/gmock.h>
 
-using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -106,11 +105,7 @@ TEST_F(Registers, ALineLandsInItsPlace)
         {EFFECT + "P/P Sub", "99,E,,L,,", {0, 11, 98}, 0, 1, ""},
         {EFFECT + "Dev12", "250,D,Last,U,N,0", {0, 39, 249}, 1, 0, "Last"},
         {EFFECT + "Dev1", "100,D,,Lock,N,0", {0, 28, 99}, 1, 1, ""},
-        {EFFECT + "P-Bus", "200,D,x,U,N,0", {0, 40, 199}, 1, 0, "x"},
-        {EFFECT + "MACRO", "7,,x,U,N,0", {0, 42, 6}, 1, 0, "x"},
-        {EFFECT + "DME8", "99,D,x,U,N,0", {0, 27, 98}, 1, 0, "x"},
         {EFFECT + "DME1", "101,D,x,U,N,0", {1, 0, 0}, 1, 0, "x"},
-        {EFFECT + "DME4", "199,D,x,U,N,0", {1, 0, 98}, 1, 0, "x"},
         {EFFECT + "DME1", "250,D,x,U,N,0", {2, 0, 49}, 1, 0, "x"},
         {EFFECT + "DME5", "399,D,x,U,N,0", {3, 1, 98}, 1, 0, "x"},
         {EFFECT + "User1", "2,D,Twelve chars,U,N,0", {0, 12, 1}, 1, 0, "Twelve char"},
@@ -128,7 +123,6 @@ TEST_F(Registers, ALineLandsInItsPlace)
         {SHOTBOX, "99,Shot,L" + Commas(45), {8, 0, 98}, 0, 1, "Shot"},
         {SHOTBOX, "99,Shot,U,5" + Commas(44), {8, 0, 98}, 0, 0, "Shot"},
         {SHOTBOX, "99,Shot,U,,1" + Commas(43), {8, 0, 98}, 1, 0, "Shot"},
-        {SHOTBOX, "98,Shot,U" + Commas(45) + "1", {8, 0, 97}, 1, 0, "Shot"},
         {MACRO, "250,D,Run,L", {9, 0, 249}, 1, 1, "Run"},
         {MACRO, "1,E,,U,,,", {9, 0, 0}, 0, 0, ""},
     };
@@ -185,42 +179,28 @@ TEST_F(Registers, RubbishIsDropped)
         std::string path, value;
     } lines[] = {
         {EFFECT + "M/E-1", "100,D,x,U,N,0"},
-        {EFFECT + "M/E-1", "250,D,x,U,N,0"},
         {EFFECT + "GPI", "100,D,x,U,N,0"},
         {EFFECT + "Dev12", "251,D,x,U,N,0"},
-        {EFFECT + "P-Bus", "251,D,x,U,N,0"},
         {EFFECT + "DME1", "100,D,x,U,N,0"},
-        {EFFECT + "DME1", "200,D,x,U,N,0"},
-        {EFFECT + "DME1", "300,D,x,U,N,0"},
         {EFFECT + "DME1", "400,D,x,U,N,0"},
         {EFFECT + "M/E-1", "1,D,x,U,N"},
         {EFFECT, "1,D,x,U,N,0"}, // the row of the Master Timeline has no word
         {EFFECT + "M/E-6", "1,D,x,U,N,0"},
         {EFFECT + "M/E-1@List", "1,D,x,U,N,0"},
         {EFFECT + "1-M/E", "1,D,x,U,N,0"}, // the same sum as M/E-1
-        {EFFECT + "RTR", "1,D,x,U,N,0"},
         {EFFECT + std::string(3000, 'M'), "1,D,x,U,N,0"},
         {SNAPSHOT + "M/E-1@List", "100,x,D,,,,"},
         {SNAPSHOT + "M/E-1@List", "1,x,D,,,"},
-        {SNAPSHOT + "M/E-1", "1,x,D,,,,"},
-        {SNAPSHOT + "@List", "1,x,D,,,,"},
-        {SNAPSHOT + "Dev1@List", "1,x,D,,,,"},
-        {SNAPSHOT + "M/E-1@Temporary Duration", "1,x,D,,,,"},
         {SNAPSHOT + "M/E-1@List", "1,x,D," + std::string(510, 'F') + ",,,"},
         {"Snapshot@Wipe Snapshot@User1@List", "1,x,D"},
         {"Snapshot@Wipe Snapshot@M/E-1@List", "11,x,D"},
-        {"Snapshot@DME Snapshot@M/E-1@List", "11,x,D"},
         {"Snapshot@Key Snapshot@Attribute@M/E-1@Key9@List", "1,x,D"},
         {"Snapshot@Key Snapshot@Attribute@M/E-1@Key1@List", "5,x,D"},
         {MASTER_TIMELINE, "1,Show,D,L" + Commas(42)},
-        {MASTER_TIMELINE, "100,Show,D,L" + Commas(43)},
         {std::string(MASTER_TIMELINE) + "s", "1,Show,D,L" + Commas(43)},
         {MASTER_SNAPSHOT, "1,All,D,L" + Commas(29)},
-        {MASTER_SNAPSHOT, "100,All,D,L" + Commas(30)},
         {SHOTBOX, "1,Shot,L" + Commas(44)},
-        {SHOTBOX, "100,Shot,L" + Commas(45)},
         {MACRO, "1,D,Run"},
-        {MACRO, "251,D,Run,L"},
         {CLIP + "User1@List", "FM1,1,ON,ON,ON,clip,1"},
         {CLIP + "User1@List", "FM1,100,ON,ON,ON,clip,1,2"},
         {CLIP + "User1@FM1@AutoPlay", "FM1,1,ON,ON,ON,clip,1,2"},
@@ -475,31 +455,6 @@ TEST_F(Registers, ARegionHasItsBitInTheMap)
             expected[8] = map[8] = 0xFF; // not its own
             EXPECT_EQ(Register_Exist_Effect_EX_AllRegion(6, map) != 0, is_device);
             EXPECT_EQ(memcmp(map, expected, 9), 0) << EffectCmd[size_t(region)];
-        }
-    }
-}
-
-TEST_F(Registers, GroupsThatAreNotInUseAreNotInTheMap)
-{
-    DualLink(true);
-    for (const char* number : {"107", "208", "309"}) {
-        for (const char* region : {"DME1", "DME7"})
-            Deliver(EFFECT + region, number + std::string(",D,x,U,N,0"));
-    }
-    static const struct {
-        int (*map)(int, unsigned char*);
-        int no;
-    } cases[] = {{Register_Exist_Eff100_AllRegion, 6},
-                 {Register_Exist_Eff200_AllRegion, 7},
-                 {Register_Exist_Eff300_AllRegion, 8}};
-    for (const auto& c : cases) {
-        unsigned char map[9];
-        for (const bool dual : {true, false}) {
-            DualLink(dual);
-            memset(map, 0xFF, sizeof map);
-            EXPECT_NE(c.map(c.no, map), 0);
-            EXPECT_THAT(map, ElementsAre(dual ? 9 : 1, 0, 0, 0, 0, 0, 0, 0xFF, 0xFF)) << c.no;
-            EXPECT_EQ(c.map(c.no + 1, map), 0);
         }
     }
 }
