@@ -1,8 +1,6 @@
 #include "global.h"
 #include "log.h"
 #include "xsyslog.h"
-#include <cstdlib>
-#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
@@ -14,9 +12,7 @@
 namespace
 {
 using testing::EndsWith;
-using testing::HasSubstr;
 using testing::MatchesRegex;
-using testing::Not;
 
 constexpr char LOG[] = "/var/log2/unit.log";
 constexpr char MAINTENANCE[] = "/mnt/sys/log/maintenance.log";
@@ -94,21 +90,6 @@ TEST_F(Log, ADroppedLineTouchesNoFile)
     EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 1) << "no file";
     Log_Init("/var/log2/none/x.log", 100);
     EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), -1);
-}
-
-TEST_F(Log, ModulesOutsideTheSwitchAlwaysPass)
-{
-    EXPECT_EQ(Log_SetModule(1024, 0), 0);
-    EXPECT_EQ(Log_SetModule(1025, 0), -1);
-    EXPECT_EQ(Log_SetModule(-1, 0), -1);
-    EXPECT_EQ(Log_Output(1, 1024, "x"), 2);
-    EXPECT_EQ(Log_Output(1, 1023, "x"), 0);
-    Log_SetAllModule(0);
-    EXPECT_EQ(Log_Output(1, 1023, "x"), 2);
-    EXPECT_EQ(Log_Output(1, 1025, "x"), 0);
-    EXPECT_EQ(Log_Output(1, -1, "x"), 0);
-    EXPECT_EQ(Log_SetModule(1023, 1), 0);
-    EXPECT_EQ(Log_Output(1, 1023, "x"), 0);
 }
 
 TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)

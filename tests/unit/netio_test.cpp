@@ -1,11 +1,9 @@
 #include "command.h"
-#include "device.h"
 #include "global.h"
 #include "harness.h"
 #include "netio_private.h"
 #include <cstring>
 #include <gmock/gmock.h>
-#include <memory>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -67,23 +65,6 @@ TEST_F(Netio, ALineThatFillsTheBufferStaysThere)
     EXPECT_THAT(Feed(std::string(405, 'a')), IsEmpty());
     EXPECT_EQ(Net_FeedText("\n", 1), 0);
     EXPECT_EQ(Net_ReceiveCommand(), nullptr);
-}
-
-TEST_F(Netio, AnItemThatWentInPartIsMadeWholeForANewConnection)
-{
-    NetQueue queue;
-    net_queue_append(&queue, "abcdefgh\n", 9);
-    net_queue_append(&queue, "next\n", 5);
-    EXPECT_EQ(net_queue_sent(&queue, 2, "test"), 0);
-    EXPECT_EQ(net_queue_sent(&queue, 3, "test"), 0);
-    EXPECT_STREQ(reinterpret_cast<char*>(queue.first->data_array), "fgh\n");
-    net_queue_restart(&queue);
-    EXPECT_STREQ(reinterpret_cast<char*>(queue.first->data_array), "abcdefgh\n");
-    EXPECT_EQ(net_queue_sent(&queue, 9, "test"), 1);
-    net_queue_restart(&queue);
-    EXPECT_STREQ(reinterpret_cast<char*>(queue.first->data_array), "next\n");
-    net_queue_remove(&queue);
-    EXPECT_EQ(queue.last, nullptr);
 }
 
 TEST_F(Netio, AFreezeIsNotedWhileAStoreWaitsForIt)
@@ -150,40 +131,4 @@ TEST(NetioFrame, FramesComeWholeHoweverTheyArrive)
     EXPECT_THAT(TakeFrames(Frame(1040).substr(0, 2) + a, 2)[0],
                 "wrong"); // the two bytes are enough
     EXPECT_THAT(TakeFrames(Frame(0) + a, 8000), ElementsAre(Frame(0), a));
-}
-
-// --- Hub tables ---
-
-TEST(NetioHub, ATableNamesItsUnit)
-{
-    static const struct {
-        const char* table;
-        int unit;
-        int is_mine;
-    } cases[] = {
-        {"CS1.ClipStoreInfo", 1, 0},
-        {"CS2.ClipStoreInfo", 2, 1},
-        {"CS2", 2, 1},
-        {"CS22.File", 22, 0},
-        {"CS2:1.a", 2, 1},
-        {"Read#CS2.File", 2, 0},
-        {"SWR2.File", 2, 0},
-        {"PNL12.File:a", 12, 0},
-        {"CS*.File", 0, 0},
-        {"XY2.File", -1, 0},
-        {"", -1, 0},
-        {"CS", 0, 0},
-        {nullptr, -1, 0},
-    };
-    auto mine = std::make_unique<DEVICE>();
-    strcpy(mine->id, "SWR001D002"); // read behind the D
-    DEV_MySwr[0] = mine.get();
-    SYS_MySwrMax = 1;
-    for (const auto& c : cases) {
-        EXPECT_EQ(Get_SHPTargetId(c.table), c.unit) << (c.table ? c.table : "null");
-        EXPECT_EQ(is_refCS_command(c.table), c.is_mine) << (c.table ? c.table : "null");
-    }
-    SYS_MySwrMax = 0;
-    EXPECT_EQ(is_refCS_command("CS2.File"), 0);
-    DEV_MySwr[0] = nullptr;
 }

@@ -103,27 +103,6 @@ TEST(Process, AnInterruptedWaitGoesOn)
     signal(SIGALRM, SIG_DFL);
 }
 
-TEST(Process, StreamsAreToldApart)
-{
-    FILE* reader = ktr_popen("echo one; exit 5", "r");
-    FILE* writer = ktr_popen("cat >/var/tmp/written; exit 6", "w");
-    ASSERT_TRUE(reader && writer);
-    char line[16] = "";
-    EXPECT_STREQ(fgets(line, sizeof line, reader), "one\n");
-    fputs("two\n", writer);
-    // The writer's child sees its end although the reader is still open.
-    EXPECT_EQ(ktr_pclose(writer), 6 << 8);
-    EXPECT_EQ(ktr_pclose(reader), 5 << 8);
-    EXPECT_EQ(Content("/var/tmp/written"), "two\n");
-
-    FILE* other = fopen("/var/tmp/written", "r");
-    EXPECT_EQ(ktr_pclose(other), -1);
-    fclose(other);
-    EXPECT_EQ(ktr_pclose(nullptr), -1);
-    EXPECT_EQ(ktr_popen("true", "rw"), nullptr);
-    EXPECT_EQ(ktr_popen(nullptr, "r"), nullptr);
-}
-
 TEST(Process, OutputGoesToTheFileWhateverItsLineLength)
 {
     const char* file = "/var/tmp/redirected";

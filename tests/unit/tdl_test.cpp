@@ -243,31 +243,6 @@ TEST(Drawing, BitmapsAreCutAndBlendedLikeTheLibraryDoes)
     }
 }
 
-TEST(Drawing, HalfSizeIsEverySecondPixel)
-{
-    for (const int depth : DEPTHS) {
-        const TestDisplay display(depth);
-        SDL_Surface* bitmap = NoiseSurface(5, 7, 42);
-        SDL_Surface* small = TDL_CreateSmallSurface(bitmap);
-        EXPECT_EQ(TDL_PutSmallS(10, 20, bitmap), depth == 24 ? -1 : 0);
-        ASSERT_EQ(small == nullptr, depth == 24);
-        const auto from = PixelsOf(bitmap);
-        const auto screen = PixelsOf(Screen);
-        std::vector<uint32_t> expected;
-        for (int i = 0; i < 6; i++)
-            expected.push_back(from[size_t(i / 2 * 10 + i % 2 * 2)]);
-        for (int i = 0; small && i < 6; i++)
-            EXPECT_EQ(screen[size_t(SCREEN_W * (20 + i / 2) + 10 + i % 2)], expected[size_t(i)]);
-        if (small) {
-            EXPECT_EQ(small->w, 2);
-            EXPECT_EQ(PixelsOf(small), expected) << depth;
-        }
-        EXPECT_LE(Painted(), 6);
-        SDL_FreeSurface(small);
-        SDL_FreeSurface(bitmap);
-    }
-}
-
 TEST(Drawing, OnlyTheLastPushComesBack)
 {
     for (const int depth : DEPTHS) {

@@ -59,16 +59,6 @@ TEST(Text, AppendKeepsTheSizeOfTheWhole)
     EXPECT_STREQ(open_end, "abc");
 }
 
-TEST(Text, CountedCopiesTakeAtMostTheCount)
-{
-    char dst[6];
-    EXPECT_STREQ(strncpy_secu(dst, "abcdefgh", sizeof dst, 3), "abc");
-    EXPECT_STREQ(strncpy_secu(dst, "abcdefgh", sizeof dst, 7), "abcde");
-    EXPECT_STREQ(strncpy_secu(dst, "xyz", sizeof dst, size_t(-1)), "xyz");
-    EXPECT_STREQ(strncpy_close(dst, "abcdefgh", 5), "abcde");
-    EXPECT_STREQ(strncpy_close(dst, "ab", 5), "ab");
-}
-
 TEST(Text, NamesLoseWhatTheirKindMayNotHold)
 {
     static const struct {

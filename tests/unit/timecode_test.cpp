@@ -88,14 +88,3 @@ TEST(Timecode, SwitcherRateFollowsItsFormat)
     EXPECT_EQ(TC2Frame_SWR("1:30", 0), TC_BAD);
     EXPECT_STREQ(Frame2TC_SWR(80, 3, 0), "00:03:05");
 }
-
-TEST(Timecode, PackedFormHoldsTheSameTexts)
-{
-    SYS_FrameRate = 30;
-    EXPECT_EQ(TC2BTC("12:34:56:29"), 0x12345629u);
-    EXPECT_EQ(TC2BTC("-1:05"), 0x80000105u);
-    EXPECT_EQ(TC2BTC("0:30"), unsigned(TC_BAD));
-    EXPECT_STREQ(BTC2TC(0x12345629u, 4), "12:34:56:29");
-    EXPECT_STREQ(BTC2TC(0x80000105u, 2), "-01:05");
-    EXPECT_STREQ(BTC2TC(0x40008040u, 4), "00:00:00:00") << "flags above the digits";
-}

@@ -78,12 +78,3 @@ TEST(Version, NumberAndTimeAreFoundInAnyLine)
     GetMenuDetailInfo();
     EXPECT_EQ(std::string(GL_Version), std::string(255, '9'));
 }
-
-TEST(Version, StrippingDropsTheBuildNumberAlone)
-{
-    char dst[10];
-    Strip_VersionStr(dst, "5.1#3(Mar)", sizeof dst);
-    EXPECT_STREQ(dst, "5.1(Mar)");
-    Strip_VersionStr(dst, "Version 5.10#3", sizeof dst);
-    EXPECT_STREQ(dst, "Version 5");
-}
