@@ -2,8 +2,6 @@
 #include "a_bt_page.h"
 #include "bus.h"
 #include "device.h"
-#include "err.h"
-#include "graphics.h"
 #include "pane.h"
 #include "setup_index.h"
 #include "tdl.h"

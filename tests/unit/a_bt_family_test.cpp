@@ -1,6 +1,5 @@
 #include "a_bt.h"
 #include "a_bt_page.h"
-#include "device.h"
 #include "page_table/nb_edge.h"
 #include <gmock/gmock.h>
 

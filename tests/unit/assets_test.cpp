@@ -2,7 +2,6 @@
 #include "../../assets/wipe_numbers.h"
 #include "types.h"
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>

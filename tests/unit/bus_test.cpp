@@ -1,14 +1,10 @@
 #include "bus_probe.h"
-#include "log.h"
 #include "netio.h"
 #include <cstring>
-#include <fstream>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using Strings = std::vector<std::string>;
 
 struct Bus : BusTest {

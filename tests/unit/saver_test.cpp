@@ -20,12 +20,6 @@
 #include <fstream>
 #include <gmock/gmock.h>
 
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::Ge;
-using testing::IsEmpty;
-using testing::Le;
-
 namespace
 {
 constexpr uint32_t KEY_PAGE = 0x11110000;
