@@ -1,5 +1,7 @@
 #include "a_ls_page.h"
+#include "loop.h"
 #include "tdl.h"
+#include "window.h"
 #include <algorithm>
 #include <climits>
 #include <gmock/gmock.h>
@@ -374,6 +376,23 @@ TEST_F(Lists, TheWheelIsAPressOnAnArrow)
         Touch(x, y);
         EXPECT_EQ(LS_GetTopLine(1) + LS_GetNowLine(1), c.taken && c.dir == 5) << c.x << " " << c.y;
     }
+}
+
+TEST_F(Lists, TheWheelIsNoPressBesideWhatStandsOverThem)
+{
+    static const char* const captions[] = {"M/E-1", "M/E-2"};
+    Open(plain, 20);
+    CreateWindow(WINDOW_PULLDOWN, "Bank", {.x = 400, .y = 100, .rows = 2, .captions = captions});
+    SDL_Event wheel{};
+    wheel.type = SDL_MOUSEBUTTONDOWN;
+    wheel.button.button = SDL_BUTTON_WHEELDOWN;
+    wheel.button.x = wheel.button.y = 150;
+    Loop_Reset();
+    Loop_Event(&wheel);
+    EXPECT_EQ(GetWindow(), WINDOW_PULLDOWN);
+    CloseWindow();
+    Loop_Event(&wheel);
+    EXPECT_EQ(LS_GetNowLine(1), 1);
 }
 
 // --- Cells and page code ---

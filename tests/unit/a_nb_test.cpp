@@ -369,6 +369,11 @@ TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
     SendMessage(MSG_RELEASE, 0, 0, 0, 0);
     Drag(754, false, true);
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    // The release went to a pane: the next press, wherever it is, ends the hold.
+    PressSlot(1);
+    SendMessage(MSG_PRESS, 300, 300, 1, 0);
+    Drag(754, true, false);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     // A bar that runs backwards, on the other layer; the armed key does not stop the right button.
     PressTitle();
     BA_SetDefaultButton(1);
