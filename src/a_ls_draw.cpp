@@ -27,8 +27,8 @@ constexpr int FONT_CELL = 3;
 constexpr int FONT_KEY = 2;
 constexpr int TEXT_TOP = 5; // below the row's top
 constexpr int TEXT_LEFT = 4;
-constexpr int TEXT_LEFT_NARROW = 2;
-constexpr int NARROW_PX = 30; // a column below this has the small margin
+constexpr int TITLE_LEFT_NARROW = 2; // what a narrow column's title takes of the margin
+constexpr int NARROW_PX = 30;
 constexpr int KEY_CAPTION_X = 12;
 constexpr int KEY_CAPTION_Y = 13;
 constexpr int GROUP_THE_REST = 999;
@@ -103,7 +103,7 @@ static void find_columns(const LS_MEM& l, Column (&columns)[LS_COLUMNS])
     int group = 0;
     int left = l.group[0]; // columns until the end of the group; never met by 0 and by the rest
     for (int col = 0; col < l.hn; col++) {
-        const int text_x = x + (l.width[col] < NARROW_PX ? TEXT_LEFT_NARROW : TEXT_LEFT);
+        const int text_x = x + TEXT_LEFT;
         columns[col] = {.x = x,
                         .width = l.width[col],
                         .text_x = text_x,
@@ -140,7 +140,8 @@ static void draw_header(const LS_MEM& l, const Column (&columns)[LS_COLUMNS])
     for (int col = 0; col < l.hn; col++) {
         const Column& c = columns[col];
         draw_ground(c, l.y, HEADER);
-        (void)TDL_SymbolWS(c.text_x, l.y + TEXT_TOP, c.text_width, l.head[col], FONT_CELL,
+        const int title_x = c.text_x - (c.width < NARROW_PX ? TITLE_LEFT_NARROW : 0);
+        (void)TDL_SymbolWS(title_x, l.y + TEXT_TOP, c.text_width, l.head[col], FONT_CELL,
                            title_colour(l, col)); // no title is fine
         draw_separator(c, l.y);
     }
