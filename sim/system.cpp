@@ -77,7 +77,7 @@ static const Preset presets[] = {
      "1,1,1,1,1,1,1,1"},
     {"Engineering Setup@DME@Model", DMES, "4"},
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
-    {"MPE@Fx@Channel@Selected", "", "F"}, // masks of channels, hexadecimal
+    {"MPE@Fx@Channel@Selected", "", "F"},         // masks of channels, hexadecimal
     {"MPE@Fx@Channel@Reference", "", "00000001"}, // binary, channel 1 last
     {"Engineering Setup@MPE@Config@SCU Select", "MPE1", "1"},
     {"Engineering Setup@MPE@Config@SWR Select", "MPE1", "1"},

@@ -87,7 +87,7 @@ static void draw_bar(const Segment& s, int y)
     const int x1 = std::max(s.x1, 0);
     const int width = axis_is_empty() ? 1 : std::min(s.x2, AXIS_PX) - x1;
     if (width <= 0)
-        return; // a keyframe at the right edge, or less than a pixel long
+        return;                        // a keyframe at the right edge, or less than a pixel long
     for (int n = 1; n < SHADES; n++) { // the middle is black as the ground
         const unsigned shade = unsigned(n) * s.step;
         TDL_LineHS(AXIS_X + x1, y + BAR_UPPER - n, width, shade);

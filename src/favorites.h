@@ -1,4 +1,5 @@
-// favorites: the operator's own buttons on the home page: twelve pages in ten groups, and their colours.
+// favorites: the operator's own buttons on the home page: twelve pages in ten groups, and their
+// colours.
 #pragma once
 #include "types.h"
 

@@ -1,20 +1,20 @@
 // message: the numbers of everything that travels through SendMessage.
-// Below 0x10000000 the numbers are bits, so that a mask can withhold classes of them from an object type;
-// from 0x10000001 upward they are internal notifications, which are never masked.
+// Below 0x10000000 the numbers are bits, so that a mask can withhold classes of them from an object
+// type; from 0x10000001 upward they are internal notifications, which are never masked.
 #pragma once
 
 enum : int {
-    MSG_REDRAW = 1,      // elapsed ms (0: asked for by code)
-    MSG_PRESS = 2,       // x, y, mouse button (0: made from a wheel step)
-    MSG_RELEASE = 4,     // x, y
-    MSG_TALLY = 8,       // path, value, Hash(path)
-    MSG_DRAG = 16,       // x, y, left button held, right button held
-    MSG_KEY = 32,        // SDL key symbol, modifier state
-    MSG_BINTALLY = 128,  // id, payload, length; handed to KF_Proc directly
-    MSG_PANETICK = 256,  // elapsed ms, in place of MSG_REDRAW while a pane is up
-    MSG_WHEELUP = 512,   // x, y
+    MSG_REDRAW = 1,       // elapsed ms (0: asked for by code)
+    MSG_PRESS = 2,        // x, y, mouse button (0: made from a wheel step)
+    MSG_RELEASE = 4,      // x, y
+    MSG_TALLY = 8,        // path, value, Hash(path)
+    MSG_DRAG = 16,        // x, y, left button held, right button held
+    MSG_KEY = 32,         // SDL key symbol, modifier state
+    MSG_BINTALLY = 128,   // id, payload, length; handed to KF_Proc directly
+    MSG_PANETICK = 256,   // elapsed ms, in place of MSG_REDRAW while a pane is up
+    MSG_WHEELUP = 512,    // x, y
     MSG_WHEELDOWN = 1024, // x, y
-    MSG_SHPTALLY = 2048, // verb, table path, Hash(verb), row id text or 0
+    MSG_SHPTALLY = 2048,  // verb, table path, Hash(verb), row id text or 0
 };
 
 enum : int {

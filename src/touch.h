@@ -1,5 +1,5 @@
-// touch: the touch panel. Its raw records become SDL mouse events, so that a finger and a mouse share one road. It
-// finds, grabs and re-opens the device; what a press means belongs to the loop.
+// touch: the touch panel. Its raw records become SDL mouse events, so that a finger and a mouse
+// share one road. It finds, grabs and re-opens the device; what a press means belongs to the loop.
 #pragma once
 
 extern int Touch_FD;         // -1 closed

@@ -3,7 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
-// A message argument carries an integer or a pointer; the build is 64-bit on a desk, 32-bit on the controller.
+// A message argument carries an integer or a pointer; the build is 64-bit on a desk, 32-bit on the
+// controller.
 using MsgArg = intptr_t;
 
 // An inclusive rectangle in screen pixels.

@@ -42,7 +42,8 @@ struct Touch : testing::Test {
     {
         Harness_Reset();
         Touch_Reset();
-        if (Touch_FD >= 0) close(Touch_FD); // another test's passes may have found the panel
+        if (Touch_FD >= 0)
+            close(Touch_FD); // another test's passes may have found the panel
         Touch_FD = -1;
         Touch_Resolution = 1023;
         Calibrate(50, 50, 750, 550);
