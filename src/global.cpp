@@ -98,7 +98,7 @@ int GL_FMDataPortDisable[2] = {};
 int GL_FileProcessing = 0;
 
 // --- Formats and modes of the switcher ---
-int SYS_FrameRate = 30;
+int SYS_FrameRate = 60;
 int SYS_Format_Size = 0;
 int SYS_Format_Freq = 0;
 int SYS_Format_Scan = 0;
