@@ -46,85 +46,66 @@ struct TimelinePictures : testing::Test {
     static void Pass() { KF_Proc(MSG_REDRAW, 1000, 0, 0, 0); }
 };
 
-// The rows: a running loop under the cursor, a delay, a pause under the cursor, one keyframe, the
-// end of the axis, an endless loop in reverse, a global twin, stacked keyframes behind a pause.
+// BCD of a time in frames from 1:00:00:00 on, less than a minute away.
+static kf::Code At(int frames)
+{
+    const int t = 3600 * 30 + frames;
+    const auto bcd = [](int v) { return static_cast<unsigned char>(v / 10 << 4 | v % 10); };
+    return {bcd(t / 108000), bcd(t / 1800 % 60), bcd(t / 30 % 60), bcd(t % 30)};
+}
+
+// A running loop under the cursor, a delay, a pause ahead of the cursor, one keyframe, a keyframe
+// at the end of the axis, an endless loop in reverse, a cursor behind the end, one that starts
+// first, stacked keyframes behind a pause.
 static void SendRegions()
 {
-    const auto send = [](kf::Data d, const kf::Status& s) {
-        d.code = s.code;
-        kf::Send(kf::DATA, kf::DataFrame(d));
-        kf::Send(kf::STATUS, kf::StatusFrame(s));
-    };
-    constexpr kf::Code zero = {1, 0, 0, 0};
-    constexpr kf::Code half = {0, 0, 0, 0x15};
     constexpr int P = kf::PAUSE;
-    send({.regnum = 12,
-          .regname = "OPENING ",
-          .flags = 2,
-          .freekf = 986,
-          .start = zero,
-          .end = {0, 0, 0x10, 0},
-          .duration = {0, 0, 0x10, 0},
-          .loopstart = 2,
-          .loopend = 5,
-          .loopnum = 3,
-          .keyframes = {45, 60, 30, 90, P, 0, 45, 30}},
-         {.code = 1, .time = {1, 0, 3, 0x10}, .keyframe = 3, .run = 1, .loop = 0x82});
-    send({.regnum = 12,
-          .start = {1, 0, 0, 0x15},
-          .delay = half,
-          .end = {1, 0, 6, 0x15},
-          .duration = {0, 0, 6, 0},
-          .keyframes = {60, 60, 60}},
-         {.code = 5, .time = {1, 0, 2, 0x15}, .keyframe = 2});
-    send({.regnum = 7,
-          .start = {1, 0, 1, 0},
-          .delay = {0, 0, 1, 0},
-          .end = {1, 0, 9, 0},
-          .duration = {0, 0, 8, 0},
-          .keyframes = {30, 30, P | 30, 30, 60, 60}},
-         {.code = 2, .time = {1, 0, 2, 0}, .keyframe = 3, .run = 1});
-    send({.regnum = 1,
-          .start = zero,
-          .end = {1, 0, 5, 0},
-          .duration = {0, 0, 5, 0},
-          .keyframes = {150}},
-         {.code = 0, .time = zero, .keyframe = 1});
-    send({.regnum = 101,
-          .start = zero,
-          .end = {1, 0, 0x10, 0},
-          .duration = {0, 0, 0x10, 0},
-          .keyframes = {90, 210, 0}},
-         {.code = 8, .time = {1, 0, 0x10, 0}, .keyframe = 3});
-    send({.regnum = 210,
-          .flags = 2,
-          .start = {1, 0, 1, 0x15},
-          .delay = {0, 0, 1, 0x15},
-          .end = {1, 0, 8, 5},
-          .duration = {0, 0, 6, 0x20},
-          .loopstart = 1,
-          .loopend = 8,
-          .keyframes = {20, 20, 20, 20, 20, 20, 20, 20, 40}},
-         {.code = 16, .time = {1, 0, 4, 0x20}, .keyframe = 5, .run = 0x11, .loop = 0x80});
-    send({.regnum = 210,
-          .start = {1, 0, 1, 0x15},
-          .end = {1, 0, 8, 5},
-          .duration = {0, 0, 6, 0x20},
-          .keyframes = {200}},
-         {.code = 32, .time = {1, 0, 9, 0}, .keyframe = 1});
-    send({.regnum = 3,
-          .start = {0, 0x59, 0x58, 0},
-          .end = {1, 0, 8, 0},
-          .duration = {0, 0, 8, 0},
-          .keyframes = {30, 90, 120}},
-         {.code = 48, .time = zero, .keyframe = 1, .run = 0x11});
-    send({.regnum = 44,
-          .start = {1, 0, 2, 0},
-          .delay = {0, 0, 2, 0},
-          .end = {1, 0, 8, 0},
-          .duration = {0, 0, 6, 0},
-          .keyframes = {P | 60, 0, 0, 60, 60}},
-         {.code = 69, .time = {1, 0, 3, 0}, .keyframe = 1});
+    static const struct {
+        int code, regnum, start, delay, length;
+        std::vector<int> keyframes;
+        int cursor, keyframe, run = 0, loop = 0, loopstart = 0, loopend = 0, loopnum = 0, flags = 0;
+    } rows[] = {
+        {1, 12, 0, 0, 300, {45, 60, 30, 90, P, 0, 45, 30}, 100, 3, 1, 0x82, 2, 5, 3, 2},
+        {5, 12, 15, 15, 180, {60, 60, 60}, 75, 2},
+        {2, 7, 30, 30, 240, {30, 30, P | 30, 30, 60, 60}, 60, 3, 1},
+        {0, 1, 0, 0, 150, {150}, 0, 1},
+        {8, 101, 0, 0, 300, {90, 210, 0}, 300, 3},
+        {16,
+         210,
+         45,
+         45,
+         200,
+         {20, 20, 20, 20, 20, 20, 20, 20, 40},
+         140,
+         5,
+         0x11,
+         0x80,
+         1,
+         8,
+         0,
+         2},
+        {32, 210, 45, 0, 200, {200}, 270, 1},
+        {48, 3, -60, 0, 240, {30, 90, 120}, 0, 1, 0x11},
+        {69, 44, 60, 60, 180, {P | 60, 0, 0, 60, 60}, 90, 1},
+    };
+    for (const auto& r : rows) {
+        const kf::Code delay = {0, 0, At(r.delay).s, At(r.delay).f};
+        const kf::Code length = {0, 0, At(r.length).s, At(r.length).f};
+        kf::Send(kf::DATA, kf::DataFrame({.code = r.code,
+                                          .regnum = r.regnum,
+                                          .regname = "OPENING ",
+                                          .flags = r.flags,
+                                          .freekf = 986,
+                                          .start = At(r.start),
+                                          .delay = delay,
+                                          .end = At(r.start + r.length),
+                                          .duration = length,
+                                          .loopstart = r.loopstart,
+                                          .loopend = r.loopend,
+                                          .loopnum = r.loopnum,
+                                          .keyframes = r.keyframes}));
+        kf::Send(kf::STATUS, kf::StatusFrame({r.code, At(r.cursor), r.keyframe, r.run, r.loop}));
+    }
 }
 
 TEST_F(TimelinePictures, Page)

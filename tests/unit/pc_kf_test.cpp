@@ -216,17 +216,13 @@ struct AssignPage : KeyframePage {
     static std::vector<std::string> Order() { return Cells(1, 3); }
 };
 
-TEST_F(AssignPage, TheListsShowTheOrderAndTheSystem)
-{
-    EXPECT_THAT(Order(),
-                ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ON", "3 P/P ON", "4 USER1 ON", "  "));
-    EXPECT_THAT(Cells(2, 2), ElementsAre("1 M/E-1", "2 M/E-1 Sub", "3 P/P", "4 USER1"));
-}
-
 TEST_F(AssignPage, TheKeysWorkAtTheCursors)
 {
     LS_SetNowLine(1, 1);
+    SendMessage(LMSG_LISTSEL, 1, 1, 0, 0);
+    EXPECT_EQ(BT_GetStatus(DISPLAY), BT_ON);
     Button(DISPLAY);
+    EXPECT_EQ(BT_GetStatus(DISPLAY), BT_OFF);
     EXPECT_THAT(Order(), ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ", "3 P/P ON", "4 USER1 ON", "  "));
     Button(DISPLAY);
     LS_SetNowLine(1, 4); // behind the last
@@ -249,16 +245,6 @@ TEST_F(AssignPage, TheKeysWorkAtTheCursors)
     EXPECT_THAT(Order(),
                 ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ON", "3 P/P ON", "4 USER1 ON", "  "));
     EXPECT_THAT(Sent(), IsEmpty());
-}
-
-TEST_F(AssignPage, TheDisplayKeyFollowsTheCursor)
-{
-    KF_SetRegionDisplay(45, 1);
-    SendMessage(LMSG_LISTSEL, 1, 0, 0, 0);
-    EXPECT_EQ(BT_GetStatus(DISPLAY), BT_ON);
-    LS_SetNowLine(1, 1);
-    SendMessage(LMSG_LISTSEL, 1, 1, 0, 0);
-    EXPECT_EQ(BT_GetStatus(DISPLAY), BT_OFF);
 }
 
 TEST_F(AssignPage, WithActiveRegionTheSelectionDecides)
@@ -371,14 +357,11 @@ TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgram)
     EXPECT_EQ(BT_GetStatus(36), BT_ON) << "ignored";
     CreatePage(PAGE_TOP);
     EXPECT_THAT(Sent("remove Key Frame"), ElementsAre(std::string("remove ") + path));
-}
-
-TEST_F(ProgramPage, ADualProgramCallsItsModesByTheirNumbers)
-{
     Load(0, 222);
     (void)TakeQueuedCommands();
     Button(20);
-    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@DME User PGM@Transition Mode@222#4"));
+    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@DME User PGM@Transition Mode@222#4"))
+        << "a dual program has the button's own number";
 }
 
 TEST_F(ProgramPage, ItIsLoadedAnewWhenARegionChanges)
