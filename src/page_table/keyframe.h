@@ -12,8 +12,32 @@ inline constexpr HF_TBL hf_kf[] = {
     {.id = 3, .caption = "DME User\nPGM",    .page = 0x61140000},
     {.id = 4, .caption = "Timeline\nAssign", .page = 0x61150000},
     {.id = 5, .caption = "Region\nSelect",   .page = 0x61170000},
+    {.id = 6, .caption = "Edit",             .page = 0x61120000},
+    {.id = 7, .caption = "Run Mode",         .page = 0x61160000},
     HF_END,
 };
+
+// --- Edit and Run Mode: the values of the timeline, acting on the selected regions ---
+
+inline constexpr BT_TBL bt_keyframe_edit[] = {
+    Action({.id = 17, .caption = "Insert", .group = "Keyframe",  .cmd = {"Key Frame@Timeline@Insert#*"}}),
+    Action({.id = 18, .caption = "Modify", .group = "Keyframe",  .cmd = {"Key Frame@Timeline@Modify#*"}}),
+    Action({.id = 19, .caption = "Delete", .group = "Keyframe",  .cmd = {"Key Frame@Timeline@Delete#*"}}),
+    Action({.id = 21, .caption = "Copy",   .group = "Clipboard", .cmd = {"Key Frame@Timeline@Copy#*"}}),
+    Action({.id = 22, .caption = "Paste",  .group = "Clipboard", .cmd = {"Key Frame@Timeline@Paste#*"}}),
+    Action({.id = 33, .caption = "Undo",   .cmd = {"Key Frame@Timeline@Undo#*"}}),
+    BT_END,
+};
+inline constexpr BT_TBL bt_keyframe_runmode[] = {
+    Action({.id = 17, .caption = "Run",       .group = "Run",  .cmd = {"Key Frame@Timeline@Run#*"}}),
+    Action({.id = 18, .caption = "Rewind",    .group = "Run",  .cmd = {"Key Frame@Timeline@Rewind#*"}}),
+    Action({.id = 19, .caption = "Stop",      .group = "Run",  .cmd = {"Key Frame@Timeline@Stop#*"}}),
+    Toggle({.id = 33, .caption = "Reverse",   .group = "Mode", .cmd = {"Key Frame@Timeline@Reverse#*"}}),
+    Toggle({.id = 34, .caption = "Loop",      .group = "Mode", .cmd = {"Key Frame@Timeline@Loop#*"}}),
+    Toggle({.id = 35, .caption = "Ping-Pong", .group = "Mode", .cmd = {"Key Frame@Timeline@Ping-Pong#*"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_keyframe_edit) && ButtonsAreSound(bt_keyframe_runmode));
 
 inline constexpr NB_TBL nb_kf_tl[] = {
     {.id = 1, .caption = "Region\nScroll", .type = NB_INT, .min = 0, .max = 0, .cmd = "Panel@Common@Knob0", .scale = 7},
@@ -89,6 +113,10 @@ inline constexpr PAGE keyframe_pages[] = {
     {.id = 0x61000000, .tree = {"Key Frame"}, .obj = {Base(base_main), Buttons(bt_key_frame_top)}},
     {.id = 0x61110000, .tree = {"Key Frame", "Time Line"},
      .obj = {Base(base_kf_tl), LowBottomTabs(hf_kf, 1), Boxes(nb_kf_tl), Timeline(kf_tl)}},
+    {.id = 0x61120000, .tree = {"Key Frame", "Edit"},
+     .obj = {Base(base_main), BottomTabs(hf_kf, 6), Buttons(bt_keyframe_edit), Boxes(NB_Non)}},
+    {.id = 0x61160000, .tree = {"Key Frame", "Run Mode"},
+     .obj = {Base(base_main), BottomTabs(hf_kf, 7), Buttons(bt_keyframe_runmode), Boxes(NB_Non)}},
     {.id = 0x61140000, .tree = {"Key Frame", "DME User PGM"},
      .obj = {Base(base_main), BottomTabs(hf_kf, 3), Buttons(bt_keyframe_dmeuserpgm), Code(pc_keyframe_dmeuserpgm)}},
     {.id = 0x61150000, .tree = {"Key Frame", "Timeline Assign"},
