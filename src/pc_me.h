@@ -1,6 +1,36 @@
-// pc_me: page code of the pages of a mix/effect bank. A table says nearly all of such a page; the
-// code adds what depends on a choice made on the page.
+// pc_me: what the page code of the mix/effect banks shares: which bank the page is of, in the words
+// of the server's paths and in the numbers of the snapshots. A table says nearly all of such a
+// page; the code adds what depends on a choice made on the page.
 #pragma once
 #include "a_pc.h"
 
+// --- The bank of the page that is shown ---
+
+constexpr int ME_BANKS_SHOWN = 6;
+extern const char* const me_data[ME_BANKS_SHOWN]; // "M/E-1" to "M/E-5", "P/P"
+
+// Index of the page's bank in me_data: 0 to 4 M/E-1 to M/E-5, 5 PGM/PST; 0 for any other page.
+int Now_disp_draw();
+// 1 on a page of a bank's sub side that is no page of a key, else 0.
+int ME_IsSubPage();
+// The bank as the first word of a path: "M/E-1", on the sub side "M/E-1 SUB"; "" when the page has
+// no tree. dst holds size bytes; a longer word is cut.
+void ME_BankWord(char* dst, int size);
+template <size_t N> void ME_BankWord(char (&dst)[N])
+{
+    ME_BankWord(dst, int(N));
+}
+
+// --- Regions of the wipe and DME wipe snapshots ---
+
+struct ME_SSREGION {
+    unsigned bits; // in the command
+    const char* word;
+};
+// The rows stand in the order of WipeSSCmd and DMESSCmd, so that a row is a region of the mirror.
+extern const ME_SSREGION DMEWipeSSRegion[2 * ME_BANKS_SHOWN];
+// The row of the page's bank and side.
+int ME_SnapshotRegion();
+
+// --- Page code of the pages of a key ---
 extern const PC_TBL pc_me_key_type;

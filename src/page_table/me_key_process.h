@@ -1,6 +1,6 @@
 // me_key_process: the pages of a key whose picture goes through channels of an effects unit. Written for M/E-1, Key1.
 #pragma once
-#include "me_key.h"
+#include "me_key_mask.h"
 
 #define DME_SELECT(n) "~@DME Select@DME" n "#*"
 inline constexpr BT_TBL bt_me_key_prockey[] = {
@@ -40,4 +40,6 @@ inline constexpr MePage me_key_process_pages[] = {
               .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 6), Buttons(bt_me_key_prockey), Cells(st_me_key)}}},
     {.page = {.id = 0x11160001, .tree = {"M/E-1", "Key1", "Processed Key", "Monitor"},
               .obj = {Base(base_sub, 0x11160000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 6), Buttons(bt_me_key_prockey_mon), Cells(st_me_key)}}},
+    {.page = {.id = 0x11160003, .tree = {"M/E-1", "Key1", "Processed Key", "Border/Crop"},
+              .obj = {Base(base_sub, 0x11160000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 6), Boxes(NB_Non), Cells(st_me_key)}}},
 };

@@ -1,7 +1,7 @@
 // me_key_resizer: the pages of a key's resizer: place and size, its filters, border and crop, effects, mask. Written for
 // M/E-1, Key1.
 #pragma once
-#include "me_key.h"
+#include "me_key_mask.h"
 
 // --- Place and size ---
 
@@ -137,4 +137,6 @@ inline constexpr MePage me_key_resizer_pages[] = {
               .obj = {Base(base_sub, 0x11150000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 5), Buttons(bt_me_key_resizer_enhancedeffect), Boxes(NB_Non), Cells(st_me_key)}}},
     {.page = {.id = 0x11150004, .tree = {"M/E-1", "Key1", "Resizer", "Mask"},
               .obj = {Base(base_sub, 0x11150000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 5), Buttons(bt_me_key_resizer_mask), Boxes(NB_Non), Cells(st_me_key)}}},
+    {.page = {.id = 0x11150005, .tree = {"M/E-1", "Key1", "Resizer", "Rotation"},
+              .obj = {Base(base_sub, 0x11150000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 5), Boxes(NB_Non), Cells(st_me_key)}}},
 };

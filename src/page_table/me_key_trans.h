@@ -1,7 +1,7 @@
 // me_key_trans: how a key comes and goes, and its video process. The tab has two forms: on and off share a setting, or
 // each has its own; which of them opens is a matter of the installation. Written for M/E-1, Key1.
 #pragma once
-#include "me_key.h"
+#include "me_key_mask.h"
 
 inline constexpr NB_TBL nb_me_key_trans_on[] = { // frames
     {.id = 1, .caption = "ON Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Transition Rate"},

@@ -15,10 +15,11 @@ template <typename ROW> struct MeTab {
 
 // The groups of a bank below its four keys.
 inline constexpr MeTab<VF_TBL> me_groups[] = {
-    {{.id = 5, .caption = "Wipe",     .page = 0x11510000}, NOWHERE},
-    {{.id = 6, .caption = "DME Wipe", .page = 0x11610000}, NOWHERE},
-    {{.id = 7, .caption = "Misc",     .page = 0x11710000}, NOWHERE},
+    {{.id = 5, .caption = "Wipe",     .page = 0x11510000}},
+    {{.id = 6, .caption = "DME Wipe", .page = 0x11610000}},
+    {{.id = 7, .caption = "Misc",     .page = 0x11710000}},
 };
+constexpr uint32_t FIRST_GROUP = 5; // page digit of the first of them
 
 inline constexpr MeTab<HF_TBL> me_key_tabs[] = {
     {{.id = 1, .caption = "Type",      .page = 0x11110000}},
@@ -33,11 +34,37 @@ inline constexpr MeTab<HF_TBL> me_key_tabs[] = {
     {{.id = 7, .caption = "Transition/\nVideo\nProcess", .page = 0x11170000}},
 };
 
+// The sub side has a wipe of one pattern, and none of what the keys of a bank share.
+inline constexpr MeTab<HF_TBL> me_wipe_tabs[] = {
+    {{.id = 1, .caption = "Main\nPattern",    .page = 0x11510000}},
+    {{.id = 2, .caption = "Sub\nPattern",     .page = 0x11520000}, MAIN},
+    {{.id = 3, .caption = "Pattern\nMix",     .page = 0x11530000, .statcmd = {"~2@Pattern Mix@Pattern Mix#true"}}, MAIN},
+    {{.id = 4, .caption = "Edge/\nDirection", .page = 0x11540000, .statcmd = {"~2@Edge@Border#true", "~2@Edge@Soft#true"}}},
+    {{.id = 5, .caption = "Main\nModify",     .page = 0x11550000}},
+    {{.id = 6, .caption = "Sub\nModify",      .page = 0x11560000}, MAIN},
+    {{.id = 7, .caption = "Wipe\nSnapshot",   .page = 0x11570000}},
+};
+inline constexpr MeTab<HF_TBL> me_dmewipe_tabs[] = {
+    {{.id = 1, .caption = "Pattern\nSelect",   .page = 0x11610000}},
+    {{.id = 2, .caption = "Pattern\nModifier", .page = 0x11630000}},
+    {{.id = 3, .caption = "Edge/\nDirection",  .page = 0x11640000}},
+    {{.id = 4, .caption = "Modify",            .page = 0x11650000}},
+    {{.id = 5, .caption = "DME Wipe\nSnapshot", .page = 0x11670000}},
+};
+inline constexpr MeTab<HF_TBL> me_misc_tabs[] = {
+    {{.id = 1, .caption = "Transition",       .page = 0x11710000}},
+    {{.id = 2, .caption = "Video\nProcess",   .page = 0x11720000}},
+    {{.id = 3, .caption = "Key\nPriority",    .page = 0x11730000}},
+    {{.id = 4, .caption = "Key\nAssign",      .page = 0x11740000}, MAIN},
+    {{.id = 5, .caption = "Clip\nTransition", .page = 0x11760000}, MAIN},
+    {{.id = 6, .caption = "Snapshot",         .page = 0x11770000}, MAIN},
+};
+
 // --- The rule ---
 
 // The last row stays as it is made: its id of 0 ends the table.
 struct VfTable { VF_TBL row[ME_SIDE_KEYS + std::size(me_groups) + 1]; };
-struct HfTable { HF_TBL row[std::size(me_key_tabs) + 1]; };
+struct HfTable { HF_TBL row[HF_MAX + 1]; };
 
 constexpr VfTable VfOf(const Bank& bank)
 {
@@ -56,11 +83,12 @@ constexpr VfTable VfOf(const Bank& bank)
     return table;
 }
 
-constexpr HfTable HfOf(const Bank& bank, uint32_t key_offset)
+template <size_t N> constexpr HfTable HfOf(const MeTab<HF_TBL> (&tabs)[N], const Bank& bank, uint32_t key_offset = 0)
 {
+    static_assert(N <= HF_MAX);
     HfTable table{};
     size_t n = 0;
-    for (const auto& tab : me_key_tabs)
+    for (const auto& tab : tabs)
         if (tab.where & bank.side) {
             table.row[n] = tab.row;
             table.row[n++].page += bank.offset + key_offset;
@@ -71,13 +99,17 @@ constexpr HfTable HfOf(const Bank& bank, uint32_t key_offset)
 struct MeTabTables {
     VfTable vf[ME_BANKS];
     HfTable hf_key[ME_BANKS][ME_SIDE_KEYS];
+    HfTable hf_group[ME_BANKS][std::size(me_groups)];
 };
 constexpr MeTabTables MakeMeTabs()
 {
     MeTabTables all{};
     for (size_t b = 0; b < ME_BANKS; b++) {
         all.vf[b] = VfOf(me_banks[b]);
-        for (size_t k = 0; k < ME_SIDE_KEYS; k++) all.hf_key[b][k] = HfOf(me_banks[b], uint32_t(k) * KEY_OFFSET);
+        for (size_t k = 0; k < ME_SIDE_KEYS; k++) all.hf_key[b][k] = HfOf(me_key_tabs, me_banks[b], uint32_t(k) * KEY_OFFSET);
+        all.hf_group[b][0] = HfOf(me_wipe_tabs, me_banks[b]);
+        all.hf_group[b][1] = HfOf(me_dmewipe_tabs, me_banks[b]);
+        all.hf_group[b][2] = HfOf(me_misc_tabs, me_banks[b]);
     }
     return all;
 }
@@ -86,12 +118,19 @@ inline constexpr MeTabTables me_tabs = MakeMeTabs();
 // What the pages of the template name.
 inline constexpr const VF_TBL* vf_me1 = me_tabs.vf[0].row;
 inline constexpr const HF_TBL* hf_me_key = me_tabs.hf_key[0][0].row;
+inline constexpr const HF_TBL* hf_me_wipe = me_tabs.hf_group[0][0].row;
+inline constexpr const HF_TBL* hf_me_dmewipe = me_tabs.hf_group[0][1].row;
+inline constexpr const HF_TBL* hf_me_misc = me_tabs.hf_group[0][2].row;
 
-// The left tabs of the template become those of the page's own bank,
+// The tabs of the template become those of the page's own bank,
 constexpr PAGE WithBankTabs(PAGE page, const Bank& bank)
 {
-    for (auto& object : page.obj)
+    const uint32_t group = page.id >> 20 & 0xF;
+    for (auto& object : page.obj) {
         if (object.type == OBJ_VF) object.addr = me_tabs.vf[BankIndex(bank)].row;
+        if (object.type == OBJ_HF && group >= FIRST_GROUP)
+            object.addr = me_tabs.hf_group[BankIndex(bank)][group - FIRST_GROUP].row;
+    }
     return page;
 }
 // and on the pages of a key its own tab is the chosen one and the bottom tabs are its own.

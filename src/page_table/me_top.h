@@ -1,7 +1,8 @@
 // me_top: the first page of a bank: what its keys are set to, each cell a way to the page of the key that adjusts it.
 // Written for M/E-1.
 #pragma once
-#include "me_key.h"
+#include "me_banks.h"
+#include "st_me_key.h"
 
 inline constexpr BT_TBL bt_me_top[] = {
     Jump({.id = 54, .caption = "Top\nMenu", .cmd = {"#00110000"}}), // below the cells

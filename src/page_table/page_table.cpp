@@ -5,11 +5,17 @@
 #include "keyframe.h"
 #include "keyframe_path.h"
 #include "machines.h"
-#include "me_key.h"
+#include "me_dmewipe.h"
+#include "me_key_dmewipe.h"
+#include "me_key_edge.h"
+#include "me_key_mask.h"
 #include "me_key_process.h"
 #include "me_key_resizer.h"
 #include "me_key_trans.h"
+#include "me_key_type.h"
+#include "me_misc.h"
 #include "me_top.h"
+#include "me_wipe.h"
 #include "operation.h"
 #include "registers.h"
 #include "saver.h"
@@ -18,17 +24,29 @@
 #include "top.h"
 
 static constexpr auto me_top_rows = BankRows<BankRowCount(me_top_pages)>(me_top_pages);
-static constexpr auto me_key_rows = KeyRows<KeyRowCount(me_key_pages)>(me_key_pages);
+static constexpr auto me_key_type_rows = KeyRows<KeyRowCount(me_key_type_pages)>(me_key_type_pages);
+static constexpr auto me_key_edge_rows = KeyRows<KeyRowCount(me_key_edge_pages)>(me_key_edge_pages);
+static constexpr auto me_key_mask_rows = KeyRows<KeyRowCount(me_key_mask_pages)>(me_key_mask_pages);
 static constexpr auto me_key_resizer_rows = KeyRows<KeyRowCount(me_key_resizer_pages)>(me_key_resizer_pages);
 static constexpr auto me_key_process_rows = KeyRows<KeyRowCount(me_key_process_pages)>(me_key_process_pages);
 static constexpr auto me_key_trans_rows = KeyRows<KeyRowCount(me_key_trans_pages)>(me_key_trans_pages);
+static constexpr auto me_key_dmewipe_rows = KeyRows<KeyRowCount(me_key_dmewipe_pages)>(me_key_dmewipe_pages);
+static constexpr auto me_wipe_rows = BankRows<BankRowCount(me_wipe_pages)>(me_wipe_pages);
+static constexpr auto me_dmewipe_rows = BankRows<BankRowCount(me_dmewipe_pages)>(me_dmewipe_pages);
+static constexpr auto me_misc_rows = BankRows<BankRowCount(me_misc_pages)>(me_misc_pages);
 
 static constexpr size_t page_rows = std::size(top_pages) +
                                     me_top_rows.size() +
-                                    me_key_rows.size() +
+                                    me_key_type_rows.size() +
+                                    me_key_edge_rows.size() +
+                                    me_key_mask_rows.size() +
                                     me_key_resizer_rows.size() +
                                     me_key_process_rows.size() +
                                     me_key_trans_rows.size() +
+                                    me_key_dmewipe_rows.size() +
+                                    me_wipe_rows.size() +
+                                    me_dmewipe_rows.size() +
+                                    me_misc_rows.size() +
                                     std::size(fm_pages) +
                                     std::size(sources_pages) +
                                     std::size(operation_pages) +
@@ -55,10 +73,16 @@ static constexpr AllRows JoinRows()
     };
     add(top_pages);
     add(me_top_rows);
-    add(me_key_rows);
+    add(me_key_type_rows);
+    add(me_key_edge_rows);
+    add(me_key_mask_rows);
     add(me_key_resizer_rows);
     add(me_key_process_rows);
     add(me_key_trans_rows);
+    add(me_key_dmewipe_rows);
+    add(me_wipe_rows);
+    add(me_dmewipe_rows);
+    add(me_misc_rows);
     add(fm_pages);
     add(sources_pages);
     add(operation_pages);

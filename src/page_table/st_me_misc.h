@@ -22,14 +22,14 @@ inline constexpr ST_TBL st_me_misc[] = {
     CellAt(4, 0, {.id = 6,  .draw_func = st_drw_me_misc_key_assign2,       .cmd = ST_ASSIGN("~1@Misc", "Key5", "Key6", "Key7", "Key8"), .jamp_id_base = 0x11740000}),
     CellAt(5, 0, {.id = 7,  .draw_func = st_drw_me_misc_video_proc,        .cmd = ST_VIDEO("~1@Misc"), .jamp_id_base = 0x11720000}),
     CellAt(0, 1, {.id = 8,  .draw_func = st_drw_me_misc_cliptrans_bkgd,
-                  .cmd = {"~1@Misc@Clip Transition@Bkgd", "~1@Misc@Clip Transition@Bkgd Name"}, .jamp_id_base = 0x11750000}),
+                  .cmd = {"~1@Misc@Clip Transition@Bkgd", "~1@Misc@Clip Transition@Bkgd Name"}, .jamp_id_base = 0x11760000}),
     CellAt(1, 1, {.id = 9,  .draw_func = st_drw_me_misc_cliptrans_clip,
                   .cmd = {"~1@Misc@Clip Transition@Output", "~1@Misc@Clip Transition@Clip Name"}}),
     CellAt(2, 1, {.id = 10, .draw_func = st_drw_me_misc_cliptrans_indicator,
-                  .cmd = {"~1@Misc@Clip Transition@Player", "~1@Misc@Clip Transition@Time Code"}, .jamp_id_base = 0x11750000}),
+                  .cmd = {"~1@Misc@Clip Transition@Player", "~1@Misc@Clip Transition@Time Code"}, .jamp_id_base = 0x11760000}),
     CellAt(3, 1, {.id = 11, .draw_func = st_drw_me_misc_cliptrans_bar,
                   .cmd = {"~1@Misc@Clip Transition@Position", "~1@Misc@Clip Transition@Start", "~1@Misc@Clip Transition@End"},
-                  .jamp_id_base = 0x11750000}, 3),
+                  .jamp_id_base = 0x11760000}, 3),
     ST_END,
 };
 inline constexpr ST_TBL st_me_misc_sub[] = {

@@ -1,5 +1,7 @@
 #include "harness.h"
 #include "a_kf.h"
+#include "device.h"
+#include "global.h"
 #include "graphics.h"
 #include "log.h"
 #include "loop.h"
@@ -64,6 +66,25 @@ void Harness_Reset()
     KF_Init();
     (void)TakeQueuedCommands(); // what an earlier test left
     TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
+}
+
+FullHouse::FullHouse() : switcher(SYS_RefSwrType), frame_memory(SYS_FmemV6)
+{
+    static_assert(sizeof multi == sizeof multiprogram2_me && sizeof keys == sizeof GL_KeyMax);
+    std::copy_n(multiprogram2_me, ME_COUNT, multi);
+    std::copy_n(GL_KeyMax, ME_COUNT, keys);
+    std::fill_n(multiprogram2_me, ME_COUNT, 1);
+    std::fill_n(GL_KeyMax, ME_COUNT, 8);
+    SYS_RefSwrType = DEVTYPE_KTR40GSF;
+    SYS_FmemV6 = 1;
+}
+
+FullHouse::~FullHouse()
+{
+    std::copy_n(multi, ME_COUNT, multiprogram2_me);
+    std::copy_n(keys, ME_COUNT, GL_KeyMax);
+    SYS_RefSwrType = switcher;
+    SYS_FmemV6 = frame_memory;
 }
 
 Peer::Peer(int port)

@@ -1,0 +1,50 @@
+#include "pc_me.h"
+#include "page.h"
+#include "snapshot_region.h"
+#include "text.h"
+#include <cstdio>
+#include <cstring>
+#include <iterator>
+#include "safeguards.h"
+
+const char* const me_data[ME_BANKS_SHOWN] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P"};
+
+const ME_SSREGION DMEWipeSSRegion[2 * ME_BANKS_SHOWN] = {
+    {0x00000002, "M/E-1"},     {0x00000004, "M/E-2"},     {0x00000008, "M/E-3"},
+    {0x00000010, "M/E-4"},     {0x00000020, "M/E-5"},     {0x00000001, "P/P"},
+    {0x01000000, "M/E-1 Sub"}, {0x02000000, "M/E-2 Sub"}, {0x04000000, "M/E-3 Sub"},
+    {0x08000000, "M/E-4 Sub"}, {0x10000000, "M/E-5 Sub"}, {0x00800000, "P/P Sub"},
+};
+static_assert(std::size(DMEWipeSSRegion) == WipeSSCmd.size());
+
+constexpr int BANK_PP = 5;
+
+static const char* first_word()
+{
+    return GL_NowTree && GL_NowTree[0] ? GL_NowTree[0] : "";
+}
+
+int Now_disp_draw()
+{
+    if (strcmp(first_word(), "PGM/PST") == 0)
+        return BANK_PP;
+    for (int i = 0; i < ME_BANKS_SHOWN; i++)
+        if (strcmp(first_word(), me_data[i]) == 0)
+            return i;
+    return 0;
+}
+
+int ME_IsSubPage()
+{
+    return isNowPageME(0) == 2;
+}
+
+void ME_BankWord(char* dst, int size)
+{
+    snprintf(dst, size_t(size), "%s%s", first_word(), ME_IsSubPage() ? " SUB" : "");
+}
+
+int ME_SnapshotRegion()
+{
+    return Now_disp_draw() + (ME_IsSubPage() ? ME_BANKS_SHOWN : 0);
+}
