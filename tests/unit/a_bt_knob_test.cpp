@@ -8,7 +8,7 @@
 #include <cstring>
 #include <set>
 
-constexpr int LAST_NUMBER = 59;
+constexpr int LAST_NUMBER = 130;
 
 struct KnobLinks : ButtonPage {
     BT_TBL rows[2];
