@@ -160,6 +160,7 @@ int bt_tly_edge(BT_MEM* b, int i, const char* path, const char* value);
 int bt_tly_edgeadj(BT_MEM* b, int i, const char* path, const char* value);
 int bt_tly_keydrop(BT_MEM* b, int i, const char* path, const char* value);
 int bt_tly_freeze(BT_MEM* b, int i, const char* path, const char* value);
+int bt_tly_corner_pinning(BT_MEM* b, int i, const char* path, const char* value);
 
 // --- Between a_bt and its families ---
 BT_MEM* bt_first();      // the buttons in table order, ended by an id below 1
