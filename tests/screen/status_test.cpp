@@ -154,24 +154,6 @@ TEST_F(StatusPicture, ChannelsAndTheirCombiners)
     EXPECT_TRUE(MatchesGolden("status_global", work_area));
 }
 
-TEST_F(StatusPicture, OtherWaysOfCountingChannels)
-{
-    static constexpr ST_TBL rows[] = {st_globaleffect_status_dp[0],
-                                      st_globaleffect_status_dp[2],
-                                      CellAt(3, 2, st_globaleffect_status_3D[0], 3, 2),
-                                      CellAt(0, 2, st_globaleffect_status_e[2], 3, 2),
-                                      CellAt(4, 0, st_globaleffect_status_e[0]),
-                                      ST_END};
-    SetTree({"Global Effect"}, 0x42000000);
-    Open(rows);
-    Say({{"Global Effect@Ch1-Ch2@Combine@Ch2", "true"},
-         {"Global Effect@Ch1-Ch4@Combine@Ch1", "true"},
-         {"Global Effect@Ch1-Ch4@Trail@Ch1", "Pre"},
-         {"Global Effect@Ch1-Ch4@Priority@Ch1", "1"}});
-    Pass();
-    EXPECT_TRUE(MatchesGolden("status_global_forms", work_area));
-}
-
 TEST_F(StatusPicture, TablesOfTransforms)
 {
     SetTree({"DME"}, 0x41110000);
@@ -189,45 +171,4 @@ TEST_F(StatusPicture, TablesOfTransforms)
          {"DME@Status@Channel@2", "P/P Sub"}});
     Pass();
     EXPECT_TRUE(MatchesGolden("status_dme", work_area));
-}
-
-// Every shared part, plain, lit, inverted and veiled, in both fonts.
-TEST_F(StatusPicture, SharedParts)
-{
-    static constexpr int (*painters[])(ST_MEM*) = {st_drw_status_string_type,
-                                                   st_drw_status_value_type,
-                                                   st_drw_status_bmp,
-                                                   st_drw_status_image,
-                                                   st_drw_put_bmp_ptn1,
-                                                   st_drw_put_bmp_ptn2,
-                                                   st_drw_put_bmp_ptn3,
-                                                   st_drw_test_1,
-                                                   st_drw_test_2,
-                                                   st_drw_test_3,
-                                                   st_drw_test_4,
-                                                   st_drw_status_dummy};
-    static const struct {
-        int lit, invert, veil, small;
-    } looks[] = {{0, 0, 0, 0}, {1, 1, 0, 0}, {1, 0, 1, 1}};
-    GL_ProcStatus[1] = 1;
-    for (int i = 0; i < 3; i++) {
-        bgcen = looks[i].lit;
-        inven = looks[i].invert;
-        gryen = looks[i].veil;
-        s_font = looks[i].small;
-        ST_TBL rows[13];
-        for (int n = 0; n < 12; n++)
-            rows[n] = CellAt(n % 6, n / 6, {.id = n + 10, .draw_func = painters[n]});
-        rows[12] = ST_END;
-        for (int n = 0; n < 12; n++) { // three looks share the screen
-            rows[n].x1 = 4 + 100 * (n % 6);
-            rows[n].x2 = rows[n].x1 + 99;
-            rows[n].y1 = 10 + 190 * i + 90 * (n / 6);
-            rows[n].y2 = rows[n].y1 + 89;
-        }
-        Open(rows);
-        Pass();
-    }
-    bgcen = inven = gryen = s_font = 0;
-    EXPECT_TRUE(MatchesGolden("status_parts", {0, 0, 610, 570}));
 }
