@@ -191,21 +191,6 @@ TEST_F(ButtonSheet, KeysThatLeadAndKeysOfTheFamily)
         Draw(4 + 98 * i, 292, c);
     }
 
-    SYS_DMEReference = 1;
-    GL_DmeModel[0] = 1;
-    GL_LightActive[1] = 1;
-    Draw(4, 364, By(bt_drw_normal_light, {"Light 1", BT_JUMP}));
-    Draw(102, 364, By(bt_drw_normal_light, {"Light 2", BT_JUMP}));
-    GL_DmeModel[0] = 5; // has no lights
-    Draw(200, 364, By(bt_drw_normal_light, {"Light 2", BT_JUMP}));
-    SYS_DMEReference = GL_DmeModel[0] = GL_LightActive[1] = 0;
-
-    SetTree({"PGM/PST", "Misc"}, 0x14750000);
-    Draw(298, 364, By(bt_drw_keypriority, {"Key1", BT_RADIO, BT_ON}));
-    Draw(396, 364, Pushed(By(bt_drw_keypriority, {"Key2", BT_RADIO})));
-    GL_NextVersion = 1;
-    Draw(494, 364, By(bt_drw_normal_nextver, {"Next\nversion", BT_TOGGLE}));
-
     // The operator's own key in each of its colours.
     shortcut_menu_data_tally(1, "11110000,Key 1");
     for (int color = 0; color < 8; color++) {
@@ -307,30 +292,13 @@ TEST_F(BaseSheet, TheBackSideWithASetupPageInTheLockSet)
     EXPECT_TRUE(MatchesGolden("base_setup"));
 }
 
-TEST_F(BaseSheet, FacesOfTheLowerLeftKey)
+TEST_F(BaseSheet, TheLowerLeftKeyOfALockedPage)
 {
     constexpr Rect key = {0, 527, 96, 599};
     SetupMenu[0] = {.page = 0x73110000};
     SetupMenu_Max = 1;
-    OpenBase({"Engineering Setup"}, 0x73110000, base_main);
-    EXPECT_TRUE(MatchesGolden("base_lock_choose", key));
     SetupLock.lock = 1;
-    OpenBase({"Engineering Setup"}, 0x73110000, base_main);
-    EXPECT_TRUE(MatchesGolden("base_lock_held", key));
     SetupMenu[0].lock = 1;
     OpenBase({"Engineering Setup"}, 0x73110000, base_main);
     EXPECT_TRUE(MatchesGolden("base_lock_closed", key));
-}
-
-TEST_F(BaseSheet, AFilePageAndPushedKeysOfTheTop)
-{
-    constexpr Rect top = {0, 0, 799, 72};
-    OpenBase({"File", "All"}, 0x71110000, base_file_main);
-    EXPECT_TRUE(MatchesGolden("base_file", top));
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000, base_main);
-    Touch(330, 30);
-    Touch(150, 30);
-    GL_ErrorPopup_On = 1;
-    BA_DrawError();
-    EXPECT_TRUE(MatchesGolden("base_pushed", top));
 }
