@@ -123,10 +123,4 @@ struct KnobColumn : testing::Test {
         double v = 0;
         return NB_GetKnob_info(caption, path, &v, sizeof path) < 0 ? double(NAN) : v;
     }
-    static std::string PathOf(const char* caption)
-    {
-        char path[CMD_SIZE] = "";
-        double v = 0;
-        return NB_GetKnob_info(caption, path, &v, sizeof path) < 0 ? "none" : path;
-    }
 };

@@ -175,7 +175,6 @@ TEST_F(Lists, ABlockStaysOneRun)
         std::vector<int> touches; // lines in the window
         const char* after;
     } cases[] = {
-        {{1, 2, 3}, ".xxx......"},
         {{3, 1, 2}, ".xx......."},    // row 1 began a new block
         {{1, 2, 3, 2}, ".x........"}, // cut in two: the upper part
                                       // stays
@@ -189,12 +188,6 @@ TEST_F(Lists, ABlockStaysOneRun)
             TouchLine(line);
         EXPECT_EQ(Picture(), c.after);
     }
-    Open(Block(), LS_ROWS);
-    LS_SetMS(1, 1);
-    LS_SetNowLine(1, LS_ROWS - 1);
-    TouchLine(4);
-    TouchLine(4);
-    EXPECT_EQ(LS_GetSelected(1, 0), -1) << "at the very last row";
 }
 
 TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
@@ -206,7 +199,6 @@ TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
         const char* after;
     } cases[] = {
         {"..........", 4, {0}, "xxxxx....."},    // too quick for the panel: rows between count
-        {"xxxxx.....", 1, {1, 1}, "x.xxx....."}, // a tremble does not put it back
         {"xxxxx.....", 1, {2, 3}, "x...x....."}, // a touch that takes out goes on taking out
         {"..........", 3, {9, 2}, "..xx......"}, // off the list and back
     };
@@ -251,11 +243,6 @@ TEST_F(Lists, ASplitListSelectsCells)
     EXPECT_EQ(Picture(1), "x.........");
     EXPECT_EQ(Picture(2), "xx..x.....");
     Release();
-    LS_SetALL(1, 1);
-    EXPECT_EQ(Picture(2), "xxxxx.....");
-    EXPECT_EQ(Picture(1), "..........");
-    LS_SetSplit(1, 0);
-    EXPECT_EQ(Picture(1), ".x........") << "the current row, as a whole";
 }
 
 // --- Scrolling ---
@@ -346,15 +333,9 @@ TEST_F(Lists, FewerRowsTakeSelectionAndWindowAlong)
     EXPECT_EQ(SelectedRows(), std::vector<int>{2});
     EXPECT_EQ(LS_GetTopLine(1), 45);
     EXPECT_EQ(LS_GetNowLine(1), 49);
-    LS_SetNData(1, 100);
-    EXPECT_EQ(SelectedRows(), std::vector<int>{2}) << "what went does not come back";
-
     LS_SetNData(1, 0);
     EXPECT_EQ(SelectedRows(), std::vector<int>{});
     EXPECT_EQ(LS_GetTopLine(1), 45) << "a list that is filled anew stays where it was";
-    LS_SetFromN(1, 7, 10);
-    EXPECT_EQ(LS_GetTopLine(1), 5);
-    EXPECT_EQ(LS_GetNData(1), 10);
 }
 
 TEST_F(Lists, AnIndexThatNoListHasIsRefused)
@@ -380,28 +361,6 @@ TEST_F(Lists, AnIndexThatNoListHasIsRefused)
         EXPECT_EQ(result, -1);
     EXPECT_EQ(LS_SetData(1, 11999, 16, "x"), 0);
     EXPECT_STREQ(LS_GetData(1, 11999, 16), "x");
-}
-
-TEST_F(Lists, APageHasUpToFourLists)
-{
-    LS_TBL rows[8];
-    const int ids[] = {4, 2, 2, 5, 1, 3, 99};
-    for (size_t i = 0; i < std::size(ids); i++) {
-        rows[i] = plain[0];
-        rows[i].id = ids[i];
-        rows[i].x += 10;
-    }
-    rows[0].x = 400;
-    rows[7] = LS_END;
-    EXPECT_EQ(LS_Create(rows, 0), 0);
-    for (int id = 1; id <= 4; id++) {
-        EXPECT_EQ(LS_SetNData(id, id), 0);
-        EXPECT_EQ(LS_GetNData(id), id);
-    }
-    EXPECT_EQ(LS_GetNData(5), -1);
-    Touch(510, 232 - 1); // the bar of list 4
-    Touch(450, RowY(2));
-    EXPECT_THAT(Told(), ElementsAre("SB 2 3 1", "SEL 4 1 0", "SEL 4 2 1"));
 }
 
 TEST_F(Lists, PageCodeMayDropTheListsInAnswer)

@@ -135,10 +135,9 @@ TEST_F(Regions, FilesOfARegionHaveItsWord)
         const char* dual; // where two processors share the effects units
         const char* ext;
     } cases[] = {
-        {4, 292, "CH1", "CH1", "DKF"},
-        {4, 294, "CH3", "CH1", "DKF"},
-        {8, 292, "CHF", "CHF", "DKF"},
-        {13, 295, "CH4", "CH2", "DSS"},
+        {4, 292, "CH1", "CH1", "DKF"},          {4, 294, "CH3", "CH1", "DKF"},
+        {8, 292, "CHF", "CHF", "DKF"},          {13, 295, "CH4", "CH2", "DSS"},
+        {19, 512 + 9, "ME2_2", "ME2_2", "SKS"}, {30, 260, "PP_SUB", "PP_SUB", "SWS"},
     };
     Units(1, 1);
     for (const auto& c : cases) {
@@ -172,41 +171,6 @@ TEST_F(Regions, UnknownPlacesAnswerNothing)
     EXPECT_EQ(main, 7);
 }
 
-TEST_F(Regions, CellsFollowTheUnits)
-{
-    static const struct {
-        int grp;
-        int switchers;
-        int effects;
-        std::map<int, std::pair<int, const char*>> cells; // those of units that are there
-    } cases[] = {
-        {0,
-         1,
-         1,
-         {{0, {896, "SWR1"}},
-          {1, {897, "SWR1\n   FC"}},
-          {2, {898, "SWR1\n CCR"}},
-          {6, {1152, "DME1"}}}},
-        {23, 2, 1, {{0, {896, "SWR1"}}, {1, {897, "SWR2"}}}},
-        {41, 1, 1, {{0, {896, "SWR1"}}, {1, {897, "SWR1\nUsrSrc"}}, {2, {898, "SWR1\nPatch"}}}},
-        {42, 0, 8, {}},
-    };
-    for (const auto& c : cases) {
-        Units(c.switchers, c.effects);
-        EXPECT_EQ(PaneRegion_InitID(c.grp), 0);
-        for (int i = 0; i < RegionBtn[c.grp].cells; i++) {
-            const BTNSEL& cell = RegionBtn[c.grp].btnsel[i];
-            if (cell.id >= 1024 && cell.id < 1152)
-                continue; // of the panel
-            const auto expected = c.cells.find(i);
-            EXPECT_EQ(cell.id, expected == c.cells.end() ? 0 : expected->second.first)
-                << c.grp << " " << i;
-            EXPECT_STREQ(cell.caption, expected == c.cells.end() ? "" : expected->second.second)
-                << c.grp << " " << i;
-        }
-    }
-}
-
 TEST_F(Regions, AUnitThatGoesIsNoReferenceAndComesBackAsIt)
 {
     Units(2, 0);
@@ -236,12 +200,9 @@ TEST_F(Regions, TheLastOneTouchedIsTheReference)
         std::vector<int> touches;
         const char* selected; // "*": the reference
     } cases[] = {
-        {4, {1, 0}, "0* 1"}, {4, {1, 9, 1}, "0 1* 9"}, // back to one that is selected
-        {4, {1, 1}, "0*"},                             // off: the first that is on takes over
-        {4, {0}, ""},                                  // the last one: no reference is left
-        {4, {6, 7}, "0*"},                             // empty cells
-        {24, {0, 1}, "0 1"},                           // units have no reference
-        {24, {8}, ""},       {32, {1, 1}, "1*"},       {39, {1, 1}, "0 1*"},
+        {4, {1, 1}, "0*"},   // off: the first that is on takes over
+        {4, {6, 7}, "0*"},   // empty cells
+        {24, {0, 1}, "0 1"}, // units have no reference
     };
     Units(2, 2);
     for (const auto& c : cases) {
@@ -307,7 +268,6 @@ TEST_F(Regions, AllKeysSelectAndClear)
         {"all", 17, 1, {}, ALL, "0* 1 2 3 4 5"},
         {"any off", 17, 1, {{3, 1}}, ALL, ""},
         {"units", 24, 1, {}, ALL, "0 1 2 3 4 5 6 7 10 11 12 13 14 15 16 17"},
-        {"no switcher", 13, 0, {}, ALL, "16* 17 18 19 20 21 22 23"},
         {"the third cell", 34, 1, {}, ALL, "0 1 2* 3 4 5 8 10 11 12 13 18 19 20 21"},
         {"banks on, one reference",
          13,
@@ -316,8 +276,6 @@ TEST_F(Regions, AllKeysSelectAndClear)
          SWR_ALL,
          "0* 1 2 3 4 5 8 9 10 11 12 13 14 15 16"},
         {"banks off", 13, 1, {{2, 2}, {17, 1}, {18, 1}}, SWR_ALL, "17* 18"},
-        {"banks off, reference elsewhere", 13, 1, {{2, 1}, {17, 1}, {18, 2}}, SWR_ALL, "17 18*"},
-        {"DME units", 24, 1, {{0, 1}}, DME_UNITS, "0 10 11 12 13 14 15 16 17"},
         {"SWR units", 25, 1, {{17, 1}}, SWR_UNITS, "0 1 2 3 4 5 6 7 17"},
         {"no ALL for three columns", 43, 1, {{0, 2}}, ALL, "0*"},
     };
@@ -331,15 +289,4 @@ TEST_F(Regions, AllKeysSelectAndClear)
         Enter(c.grp);
         EXPECT_EQ(Selected(c.grp), c.selected) << c.name;
     }
-}
-
-TEST_F(Regions, WithoutASwitcherTheFirstChannelIsTheDefault)
-{
-    Units(1, 2);
-    Select(4, {{0, 2}, {17, 1}});
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
-    EXPECT_EQ(Selected(4), "0* 17");
-    Units(0, 2);
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
-    EXPECT_EQ(Selected(4), "16* 17");
 }

@@ -26,15 +26,6 @@ struct TimelinePage : KeyframePage {
             TDL_FillRectS(X, RowY(row), X, RowY(row), 0x123456);
     }
     static void Redraw(int ms) { SendMessage(MSG_REDRAW, ms, 0, 0, 0); }
-    // The pixels of the label of the axis that begins at this column.
-    static std::vector<uint32_t> Label(int x1)
-    {
-        std::vector<uint32_t> pixels;
-        for (int y = 535; y <= 546; y++)
-            for (int x = x1; x <= x1 + 70; x++)
-                pixels.push_back(PixelAt(x, y));
-        return pixels;
-    }
     void SetUp() override
     {
         KeyframePage::SetUp();
@@ -80,24 +71,6 @@ TEST_F(TimelinePage, ItWaitsTenMillisecondsForEachSelectedRow)
     }
 }
 
-TEST_F(TimelinePage, TheAxisReachesFromTheFirstStartToTheLastEnd)
-{
-    const auto empty_start = Label(117);
-    const auto empty_end = Label(617);
-    EXPECT_EQ(empty_start, empty_end) << "00:00:00:00 both";
-    kf::Send(kf::DATA,
-             kf::DataFrame(
-                 {.code = 1, .start = {1, 0, 2, 0}, .end = {1, 0, 4, 0}, .keyframes = {30, 0}}));
-    kf::Send(kf::DATA, kf::DataFrame({.code = 2, .start = {0, 0, 0, 0}, .end = {1, 0, 6, 0}}));
-    Redraw(1000);
-    Redraw(1000);
-    EXPECT_NE(Label(117), empty_start);
-    EXPECT_NE(Label(617), empty_end);
-    // 2 s to 6 s on 500 pixels: the second keyframe, at 3 s, stands at column 125.
-    EXPECT_EQ(PixelAt(275, 106), 0xFFFFFFu);
-    EXPECT_EQ(PixelAt(274, 106), 0u);
-}
-
 TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
 {
     const auto turn = [](int to) { return SendMessage(LMSG_KNOBVAR, 1, to, 0, 0); };
@@ -120,9 +93,6 @@ TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
     Open(0x61110000);
     NB_GetKnob_info("Region\nScroll", path, &value, sizeof path);
     EXPECT_EQ(value, 0) << "four regions need no scrolling";
-    for (const int wild : {-1, 1 << 20})
-        turn(wild); // no further than the list
-    Redraw(1000);
 }
 
 TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
@@ -236,20 +206,6 @@ TEST_F(AssignPage, ClosingSavesAllRows)
     EXPECT_EQ(sent[127], "put Info@Operation Setup Data@Timeline Region Priority#64,255");
 }
 
-TEST_F(AssignPage, ActiveRegionListsTheSelectedFirst)
-{
-    CreatePage(PAGE_TOP);
-    GL_TimelineDisplayPriority = 1;
-    kf::Send(
-        kf::DATA,
-        kf::DataFrame({.code = 8, .start = {1, 0, 0, 0}, .end = {1, 0, 4, 0}, .keyframes = {60}}));
-    kf::Select({8, 0, 0x01, 0, 0, 0, 0, 0}); // USER1
-    Open(0x61110000);
-    for (int i = 0; i < 2; i++)
-        SendMessage(MSG_REDRAW, 1000, 0, 0, 0);
-    EXPECT_EQ(PixelAt(160, 91), 0x606060u) << "in the first row";
-}
-
 // --- DME User PGM ---
 
 struct ProgramPage : KeyframePage {
@@ -324,18 +280,6 @@ struct RegionPage : KeyframePage {
     }
     static void Reference(int slot) { Press(456 + 61 * slot + 10, 120 + 10); }
     static void Selection(int slot) { Press(456 + 61 * slot + 10, 210 + 10); }
-    // Whether any pixel of the key's cap has this colour.
-    static bool Shows(int number, uint32_t colour)
-    {
-        const int x1 = 104 + 68 * ((number - 1) % 5);
-        const int y1 = 84 + 70 * ((number - 1) / 5) + 16;
-        for (int y = y1; y < y1 + 40; y++)
-            for (int x = x1; x < x1 + 60; x++)
-                if (PixelAt(x, y) == colour)
-                    return true;
-        return false;
-    }
-    static void Redraw() { SendMessage(MSG_REDRAW, 10, 0, 0, 0); }
     void SetUp() override
     {
         KeyframePage::SetUp();
@@ -385,28 +329,6 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
     Key(22);
     Selection(0);
     EXPECT_THAT(Sent(), IsEmpty());
-}
-
-TEST_F(RegionPage, ColoursTellWhatAKeyHolds)
-{
-    constexpr uint32_t GREEN = 0x00FF00, ORANGE = 0xE48B1B, WHITE = 0xFFFFFF, RED = 0xFF0000,
-                       GREY = 0x787878;
-    TenKey(2, "M/E-1,,,");
-    TenKey(3, "P/P,,,");
-    TenKey(4, "M/E-2,P/P,,");
-    TenKey(8, "M/E-3,,,");
-    Redraw();
-    EXPECT_TRUE(Shows(2, GREEN) && !Shows(2, RED));
-    EXPECT_TRUE(Shows(3, ORANGE) && !Shows(3, RED));
-    EXPECT_TRUE(Shows(4, ORANGE) && Shows(4, RED)) << "one of two is selected";
-    EXPECT_TRUE(Shows(8, WHITE) && !Shows(8, RED));
-    SYS_3DMode = 1;
-    TenKey(8, "M/E-3,P/P,,");
-    Redraw();
-    EXPECT_TRUE(Shows(8, GREY) && !Shows(8, RED) && !Shows(8, ORANGE));
-    kf::Select({0, 0x03, 0, 0, 0, 0, 0, 0}); // only the reference changes: nobody is told
-    Redraw();
-    EXPECT_TRUE(Shows(3, GREEN) && Shows(2, ORANGE));
 }
 
 TEST_F(RegionPage, RegionsThatTheModeTakesAwayTakeNoPress)
