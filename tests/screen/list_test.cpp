@@ -116,29 +116,21 @@ TEST_F(ListPictures, ColourClasses)
 // A split list whose current row may not be changed, and one whose selection is not shown.
 TEST_F(ListPictures, CurrentRow)
 {
-    static const LS_TBL table[] = {
-        {.id = 1,
-         .hn = 3,
-         .vn = 4,
-         .x = 100,
-         .y = 78,
-         .head = {"Fader", "1", "2"},
-         .width = {60, 50, 50},
-         .split = 1,
-         .sb_top = 78,
-         .sb_bottom = 188},
-        {.id = 2,
-         .hn = 3,
-         .vn = 4,
-         .x = 320,
-         .y = 78,
-         .head = {"Fader", "1", "2"},
-         .width = {60, 50, 50},
-         .split = 1,
-         .sb_top = 78,
-         .sb_bottom = 188},
-        LS_END,
-    };
+    LS_TBL table[] = {{.id = 1,
+                       .hn = 3,
+                       .vn = 4,
+                       .x = 100,
+                       .y = 78,
+                       .head = {"Fader", "1", "2"},
+                       .width = {60, 50, 50},
+                       .split = 1,
+                       .sb_top = 78,
+                       .sb_bottom = 188},
+                      {},
+                      LS_END};
+    table[1] = table[0];
+    table[1].id = 2;
+    table[1].x = 320;
     Open(table, 4);
     for (int row = 0; row < 4; row++)
         Row(1, row, {"DSK", "A", "B"}), Row(2, row, {"DSK", "A", "B"});
@@ -146,8 +138,6 @@ TEST_F(ListPictures, CurrentRow)
     Touch(440, 152);
     Touch(320 + 160 - 12 + 5, 198 + 5);
     Paint();
-    EXPECT_TRUE(MatchesGolden("list_split", {97, 74, 550, 240}));
-
     page.tree[1] = "DSK Fader Assign";
     GL_DskInhibit = 1;
     LS_SetNowLineDisable(1);

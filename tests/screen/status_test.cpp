@@ -55,59 +55,6 @@ TEST_F(StatusPicture, TheCellsOverAKeyPage)
     EXPECT_TRUE(MatchesGolden("status_key", two_lines));
 }
 
-TEST_F(StatusPicture, TheOverviewOfABank)
-{
-    static constexpr ST_TBL rows[] = {
-        st_me_wipe[0],
-        st_me_wipe[1],
-        CellAt(2, 0, st_me_top[0]),
-        CellAt(3, 0, st_me_top[4]),
-        CellAt(4, 0, st_me_top[8]),
-        CellAt(5, 0, st_me_top[12]),
-        st_me_wipe[6],
-        st_me_wipe[7],
-        CellAt(2, 1, st_me_wipe[5]),
-        CellAt(3, 1, st_me_wipe[4]),
-        st_me_wipe[10],
-        CellAt(5, 1, st_me_wipe[2]),
-        ST_END,
-    };
-    SetTree({"M/E-1", "Wipe", "Main Pattern"}, 0x11510000);
-    GL_ProcStatus[1] = 1;
-    Open(rows);
-    Say({{"M/E-1@Wipe@Main Pattern@Pattern", "67"},
-         {"M/E-1@Wipe@Main Pattern@Position", "true"},
-         {"M/E-1@Wipe@Main Pattern@Position@H", "60"},
-         {"M/E-1@Wipe@Main Pattern@Position@V", "40"},
-         {"M/E-1@Key1@Type@Key Type", "Luminance"},
-         {"M/E-1@Key1@Type@Key Invert", "true"},
-         {"M/E-1@Key1@Type@Clean Mode@Luminance", "true"},
-         {"M/E-1@Key2@Type@Key Type", "Chroma"},
-         {"M/E-1@Key2@Type@Chroma@Mix Mode", "Additive Mix"},
-         {"M/E-1@Key3@Type@Key Type", "Key Wipe Pattern"},
-         {"M/E-1@Key3@Type@Key Wipe Pattern@Pattern", "229"},
-         {"M/E-1@Key3@Type@Key Invert", "true"},
-         {"M/E-1@Key4@Type@Key Type", "Linear"},
-         {"M/E-1@Wipe@Sub Pattern@Pattern", "146"},
-         {"M/E-1@Wipe@Sub Pattern@Enable", "false"},
-         {"M/E-1@Wipe@Sub Pattern@Position", "false"},
-         {"M/E-1@Wipe@Sub Pattern@Position@H", "0"},
-         {"M/E-1@Wipe@Sub Pattern@Position@V", "0"},
-         {"M/E-1@Wipe@Sub Pattern@Auto Center", "true"},
-         {"M/E-1@Wipe@Edge@Border", "true"},
-         {"M/E-1@Wipe@Direction@Normal", "true"},
-         {"M/E-1@Wipe@Direction@Reverse", "false"},
-         {"M/E-1@Wipe@Direction@Norm/Rev", "true"},
-         {"M/E-1@Wipe@Direction@Pattern Limit", "false"},
-         {"M/E-1@Wipe@Pattern Mix@Pattern Mix", "Mix"},
-         {"M/E-1@Wipe@Pattern Mix@Pattern", "179"},
-         {"M/E-1@Wipe@Main Modify@Aspect", "25.00"},
-         {"M/E-1@Wipe@Main Modify@Angle", "-45.0"},
-         {"M/E-1@Wipe@Main Modify@Multi", "4"}});
-    Pass();
-    EXPECT_TRUE(MatchesGolden("status_bank", two_lines));
-}
-
 TEST_F(StatusPicture, TheCellsOfABanksOwnSettings)
 {
     SetTree({"PGM/PST", "Misc", "Transition"}, 0x14710000);

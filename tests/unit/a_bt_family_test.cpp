@@ -131,14 +131,6 @@ TEST_F(KeyPriority, TheTallyGivesEachKeyItsPriority)
     for (int id : {0x21, 0x12, 0x43, 0x34})
         EXPECT_EQ(BT_GetStatus(id), BT_ON) << std::hex << id;
     EXPECT_EQ(BT_GetStatus(0x11), BT_OFF);
-
-    OpenMatrix(bt_sel_keypriority1, bt_tly_keypriority1);
-    Priority("1,2,3,4,");
-    Priority("1,2,3,4");
-    EXPECT_EQ(BT_GetStatus(0x11), BT_NO_TALLY) << "no second half";
-    Priority("4,3,2,1,2,1,4,3");
-    EXPECT_EQ(BT_GetStatus(0x21), BT_ON);
-    EXPECT_EQ(BT_GetStatus(0x41), BT_OFF);
 }
 
 TEST_F(KeyPriority, APressMovesOneKeyAndShiftsTheOthers)
@@ -186,21 +178,6 @@ TEST_F(ButtonFamily, JumpsByBankAddTheBankOnly)
     EXPECT_EQ(GL_CreatePage, 0x81750000u);
 }
 
-TEST_F(ButtonFamily, SpecialPressesSendWhatTheyMust)
-{
-    OpenSelect(BT_TOGGLE, "~@CG Border#*", bt_sel_cgborder);
-    Press(17);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@CG Border#true",
-                                                  "read M/E-1@Key1@Type@CG Border"));
-    GL_NextVersion = 1;
-    OpenSelect(BT_TOGGLE, "~@New#*", bt_sel_normal_nextver);
-    Press(17);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    GL_NextVersion = 2;
-    Press(17);
-    EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(1));
-}
-
 // --- Numbered knob links ---
 
 TEST_F(ButtonFamily, TheBorderOfAKeyChoosesItsTable)
@@ -211,8 +188,6 @@ TEST_F(ButtonFamily, TheBorderOfAKeyChoosesItsTable)
     } cases[] = {
         {{"Wipe Pattern", "true", "true", "false"}, nb_me_key_edge_edge_border3},
         {{"Linear", "false", "true", "false"}, nb_me_key_edge_edge_border1h},
-        {{"Linear", "false", "true", "true"}, nb_me_key_edge_edge_border1},
-        {{"Linear", "true", "true", "false"}, nb_me_key_edge_edge_border2h},
         {{"", "", "", ""}, nb_me_key_edge_edge_border2}, // nothing has come yet
     };
     for (const auto& c : cases) {

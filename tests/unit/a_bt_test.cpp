@@ -146,20 +146,6 @@ TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
     EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(1));
 }
 
-TEST_F(ButtonPage, OverlappingButtonsBothActAndEdgesBelongToThem)
-{
-    BT_TBL rows[] = {
-        Button(17, BT_ACTION, {"~@A#*"}), Button(18, BT_ACTION, {"~@B#*"}), {.id = -1}};
-    rows[1].x1 = rows[0].x2; // one column in common
-    Open(rows);
-    (void)TakeQueuedCommands();
-    BT_Proc(MSG_PRESS, rows[0].x2, rows[0].y2, 1, 0);
-    EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("put M/E-1@Key1@Type@A#true", "put M/E-1@Key1@Type@B#true"));
-    BT_Proc(MSG_PRESS, rows[0].x2, rows[0].y2 + 1, 1, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-}
-
 TEST_F(Buttons, ThePushedLookLastsItsTimeAndNoLonger)
 {
     Press(20);
@@ -170,12 +156,6 @@ TEST_F(Buttons, ThePushedLookLastsItsTimeAndNoLonger)
     EXPECT_EQ(bt_find(20)->redraw, 1) << "it comes back up";
     Pass(10);
     EXPECT_EQ(bt_find(20)->redraw, 0);
-
-    GL_NowPage = 0x31160000; // the copies of this page run for a second
-    Press(21);
-    Press(20);
-    EXPECT_EQ(bt_find(21)->pushed, 1000);
-    EXPECT_EQ(bt_find(20)->pushed, 150);
 }
 
 TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
@@ -246,14 +226,6 @@ TEST_F(Buttons, TheKnobsGoWithTheStateOfTheirOwner)
     EXPECT_EQ(BT_GetKnobAssign(), -1) << "the server chose another";
     Tally("M/E-1@Key1@Type@Key Type", "Linear");
     EXPECT_EQ(BT_GetKnobAssign(), 18) << "the one that was pressed last gets them back";
-
-    Press(35);
-    Tally("LOCAL@Test@Mode", "false");
-    EXPECT_EQ(BT_GetKnobAssign(), 35) << "without a table they stay";
-    BT_SetDisable(35, 1);
-    EXPECT_EQ(BT_GetKnobAssign(), 35);
-    BT_SetAllDisable(1);
-    EXPECT_EQ(BT_GetKnobAssign(), -1);
 }
 
 TEST_F(Buttons, AButtonThatCannotBeUsedLetsGoOfTheKnobs)
@@ -283,13 +255,10 @@ TEST_F(Buttons, ACommandCanBeReplaced)
     BT_SetStatus(20, BT_ON);
     EXPECT_EQ(BT_SetCommand(20, 0, "~@Other#*"), 0);
     EXPECT_EQ(BT_GetStatus(20), BT_NO_TALLY);
-    EXPECT_EQ(BT_SetCommand(35, 0, "LOCAL@Test@Other#5"), 0);
     EXPECT_EQ(BT_SetCommand(99, 0, "~@X#*"), -1);
     EXPECT_EQ(BT_SetCommand(20, BT_COMMANDS, "~@X#*"), -1);
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("remove M/E-1@Key1@Invert", "add M/E-1@Key1@Type@Other"));
     Tally("M/E-1@Key1@Type@Other", "true");
     EXPECT_EQ(BT_GetOnOff(20), 1);
-    Press(35);
-    EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Other 5 0"));
 }
