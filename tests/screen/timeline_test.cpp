@@ -116,18 +116,6 @@ TEST_F(TimelinePictures, Page)
     EXPECT_TRUE(MatchesGolden("timeline"));
 }
 
-TEST_F(TimelinePictures, Strip)
-{
-    kf::Send(kf::DATA,
-             kf::DataFrame(
-                 {.code = 32, .regnum = 399, .regname = "ABCDEFGH", .freekf = 999, .kfnum = 999}));
-    kf::Send(kf::STATUS, kf::StatusFrame({.code = 32, .time = {0x80, 0, 4, 0x12}}));
-    kf::Select({32, 0, 0, 0, 0, 0, 0, 0});
-    TDL_FillRectS(508, 6, 797, 65, 0x1F1F1F);
-    KF_DrawTopArea(150);
-    EXPECT_TRUE(MatchesGolden("strip_global_pushed", {500, 0, 799, 72}));
-}
-
 // --- The pages around it ---
 
 struct KeyframePictures : KeyframePage {

@@ -54,8 +54,6 @@ TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgain)
     EXPECT_EQ(BT_Create(nullptr, 0), 1);
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("remove M/E-1@Key1@Type@Key Type", "remove M/E-1@Key1@Invert"));
-    BT_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
 }
 
 TEST_F(ButtonPage, CommandsFromNoAddOnAreReadAndNeverRemoved)
@@ -67,17 +65,6 @@ TEST_F(ButtonPage, CommandsFromNoAddOnAreReadAndNeverRemoved)
                                                   "read M/E-1@Key1@Type@C"));
     BT_Create(nullptr, 0);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
-}
-
-TEST_F(ButtonPage, RowsThatDoNotFitAreLeftOut)
-{
-    BT_TBL rows[BT_MAX + 2];
-    for (int i = 0; i < BT_MAX + 1; i++)
-        rows[i] = Button(17 + i, BT_TOGGLE, {"~@A#*"});
-    rows[BT_MAX + 1].id = -1;
-    Open(rows);
-    EXPECT_EQ(BT_GetStatus(17 + BT_MAX - 1), BT_NO_TALLY);
-    EXPECT_EQ(BT_GetStatus(17 + BT_MAX), -1);
 }
 
 TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)

@@ -103,22 +103,6 @@ TEST_F(WipeLists, TheWindowStaysInsideTheList)
     }
 }
 
-TEST_F(WipeLists, ARowOfKnobKeysTakesALineFromTheList)
-{
-    static const struct {
-        uint32_t knob_row;
-        int height, shown;
-    } cases[] = {{0, 322, 4}, {1, 246, 3}};
-    for (const auto& c : cases) {
-        Open({"M/E-1", "Key1", "Transition", "Adjust"}, c.knob_row);
-        SB_INFO bar;
-        ASSERT_EQ(SB_GetInfo(&bar, 0), 0);
-        EXPECT_EQ(bar.height, c.height);
-        EXPECT_EQ(bar.shown, c.shown);
-        EXPECT_EQ(Number(0, 3).empty(), c.shown == 3);
-    }
-}
-
 TEST_F(WipeLists, AWheelStepBecomesAPressOnAnArrow)
 {
     int beside = 700, above = Y(0);
@@ -131,6 +115,7 @@ TEST_F(WipeLists, AWheelStepBecomesAPressOnAnArrow)
 
 TEST_F(WipeLists, TheVeilFollowsTheTally)
 {
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("add ") + PATH));
     const auto corner = [](int column) {
         Pass();
         return PixelAt(X(column) - 20, Y(0)); // a light place of a light picture, or its veil
@@ -145,17 +130,4 @@ TEST_F(WipeLists, TheVeilFollowsTheTally)
         Tally(PATH, value);
         EXPECT_EQ(corner(0), plain) << value;
     }
-}
-
-TEST_F(WipeLists, ItsPathIsSubscribedAndItsBarClosedAgain)
-{
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("add ") + PATH));
-    EXPECT_EQ(DW_Create(nullptr, 0), 1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("remove ") + PATH));
-    SB_INFO bar;
-    SB_GetInfo(&bar, 0);
-    EXPECT_FALSE(bar.active);
-    DW_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    EXPECT_THAT(Sent(X(0), Y(0)), IsEmpty());
 }

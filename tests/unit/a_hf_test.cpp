@@ -68,13 +68,6 @@ TEST_F(BottomTabs, APressAsksForThePageOfItsCell)
     EXPECT_EQ(HF_SetDisplay(3, 1), -1);
 }
 
-TEST_F(BottomTabs, TheLowFormTakesNoPressAboveItsFace)
-{
-    HF_Create(tabs, 2 | HF_LOW);
-    EXPECT_EQ(Asked(Cell(2), 555), 0u);
-    EXPECT_EQ(Asked(Cell(2), 556), 0x11120000u);
-}
-
 TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)
 {
     static const struct {
@@ -95,28 +88,8 @@ TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)
     }
 }
 
-TEST_F(BottomTabs, EachPathIsSubscribedOnceAndRemovedAgain)
+TEST_F(BottomTabs, EachPathIsSubscribedOnce)
 {
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("add M/E-1@Key1@Edge@Edge Type", "add M/E-1@Key1@Edge@Soft Edge"));
-    EXPECT_EQ(HF_Create(nullptr, 0), 1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Edge@Edge Type",
-                                                  "remove M/E-1@Key1@Edge@Soft Edge"));
-    HF_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-}
-
-TEST_F(BottomTabs, ATableMayFillEveryCellAndEveryPath)
-{
-    HF_TBL rows[HF_MAX + 2];
-    for (int i = 0; i <= HF_MAX; i++) {
-        rows[i] = {.id = i + 1, .caption = "Tab", .page = 0x11000000};
-        std::fill(std::begin(rows[i].statcmd), std::end(rows[i].statcmd), "~@A#1");
-    }
-    rows[HF_MAX + 1] = HF_END;
-    HF_Create(rows, 1);
-    EXPECT_EQ(HF_SetDisplay(HF_MAX, 1), 0);
-    EXPECT_EQ(HF_SetDisplay(HF_MAX + 1, 1), -1); // no place: left out
-    Tally("M/E-1@Key1@Type@A", "1");
-    EXPECT_TRUE(IsLit(HF_MAX));
 }

@@ -202,17 +202,6 @@ TEST_F(Keyframes, AStatusFrameMovesTheCursorAndTellsOfNewKeyframesOnly)
     EXPECT_THAT(told, ElementsAre("STATUS 14"));
 }
 
-TEST_F(Keyframes, AShortStatusFrameIsRefusedWhole)
-{
-    const kf::Bytes whole = kf::StatusFrame({.code = 1, .time = {0, 0, 1, 0}, .keyframe = 2});
-    for (size_t n = 0; n < whole.size(); n++) {
-        kf::Send(kf::STATUS, kf::Bytes(whole.begin(), whole.begin() + long(n)));
-        EXPECT_EQ(R(ME1).ctime, 0) << n;
-    }
-    kf::Send(kf::STATUS, whole);
-    EXPECT_EQ(R(ME1).ckfnum, 2);
-}
-
 // --- Selection ---
 
 TEST_F(Keyframes, EachSelectionBitMeansItsRegions)

@@ -41,11 +41,6 @@ static const LS_TBL* Block()
 {
     return With([](LS_TBL& l) { l.block = 1; });
 }
-static const LS_TBL* View()
-{
-    return With([](LS_TBL& l) { l.view = 1; });
-}
-
 constexpr int PLURAL_X = 190, BLOCK_X = 126, KEY_Y = 242; // the keys' top left
 
 struct Lists : ListPage {
@@ -119,17 +114,6 @@ TEST_F(Lists, ABouncingContactDoesNotTakeBackWhatItDid)
         EXPECT_EQ(Picture()[0], c.after[0]) << c.pause_ms;
         Release();
     }
-}
-
-TEST_F(Lists, AListForDisplayTellsEveryTouchAndSelectsNothing)
-{
-    Open(View(), 5);
-    TouchLine(1);
-    TouchLine(1);
-    Plural(); // not there
-    EXPECT_THAT(Told(), ElementsAre("SEL 1 1 1", "SEL 1 1 1"));
-    EXPECT_EQ(Picture(), "..........");
-    EXPECT_EQ(LS_GetMS(1), 0);
 }
 
 // --- Multi-select ---
@@ -386,15 +370,3 @@ TEST_F(Lists, PageCodeMayDropTheListsInAnswer)
 }
 
 // --- Painting ---
-
-TEST_F(Lists, ALongTextStaysInItsList)
-{
-    Open(plain, 5);
-    const std::string text(300, 'i'); // narrow: comes close to any edge
-    for (int col = 0; col < 3; col++)
-        LS_SetData(1, 0, col, text.c_str());
-    LS_SetHeadStr(1, 2, text.c_str());
-    Redraw();
-    for (int y = 100; y < 232; y++)
-        EXPECT_EQ(PixelAt(200, y) | PixelAt(201, y), 0u) << y;
-}

@@ -89,6 +89,7 @@ TEST_F(PatternSelect, AKnobTableComesWithTheCellThatHasOne)
 
 TEST_F(PatternSelect, TheChosenCellFollowsItsTallyIntoItsLayer)
 {
+    EXPECT_EQ(TakeQueuedCommands().back(), std::string("add ") + PATH);
     static const struct {
         const char* value;
         int cell; // -1: none of those shown
@@ -140,14 +141,4 @@ TEST_F(PatternSelect, PageAndBankDecideWhichLayersThereAre)
         TouchLayer(c.last + 1);
         EXPECT_EQ(FirstNumber(), std::to_string(LayerName[c.last].first)) << *c.tree.begin();
     }
-}
-
-TEST_F(PatternSelect, ItsPathIsSubscribedAndRemovedAgain)
-{
-    EXPECT_EQ(TakeQueuedCommands().back(), std::string("add ") + PATH);
-    EXPECT_EQ(PS_Create(nullptr, 0), 1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("remove ") + PATH));
-    PS_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    EXPECT_THAT(Sent(120, 80), IsEmpty());
 }

@@ -43,7 +43,7 @@ struct StatusCells : CellPage {
 
 // --- Subscriptions ---
 
-TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceUpdatesBothAndIsRemovedOnce)
+TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceAndUpdatesBoth)
 {
     const ST_TBL rows[] = {Cell(1, {"~2@A", "~1@B"}), Cell(3, {"~2@A", "LOCAL@C", "~2@D"}), ST_END};
     Open(rows);
@@ -52,14 +52,6 @@ TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceUpdatesBothAndIsRemovedOnce)
     Tally("M/E-1@Key1@A", "x");
     Pass();
     EXPECT_EQ(painted, 2);
-    Tally("M/E-1@Key1@Other", "x");
-    Pass();
-    EXPECT_EQ(painted, 2) << "nobody's";
-    EXPECT_EQ(ST_Create(nullptr, 0), 1);
-    EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("remove M/E-1@Key1@A", "remove M/E-1@B", "remove M/E-1@Key1@D"));
-    ST_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
 }
 
 TEST_F(StatusCells, AFullCellKeepsEachOfItsPathsAndItsTextsInBounds)
@@ -78,18 +70,6 @@ TEST_F(StatusCells, AFullCellKeepsEachOfItsPathsAndItsTextsInBounds)
 }
 
 // --- Which rows stand ---
-
-TEST_F(StatusCells, TheNineteenthRowIsLeftOut)
-{
-    ST_TBL rows[ST_MAX + 2];
-    for (int i = 0; i <= ST_MAX; i++)
-        rows[i] = Cell(i + 3, {}, 0x11110000);
-    rows[ST_MAX + 1] = ST_END;
-    Open(rows);
-    GL_ST_area_update_draw();
-    Pass();
-    EXPECT_EQ(painted, ST_MAX);
-}
 
 TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)
 {
@@ -148,18 +128,6 @@ TEST_F(StatusCells, ThePressIsInsideTheBorderAndWaitsForNoOtherRequest)
     GL_CreatePage = 0x00110000;
     ST_Proc(MSG_PRESS, c.x1 + 50, c.y1 + 45, 1, 0);
     EXPECT_EQ(GL_CreatePage, 0x00110000u);
-}
-
-TEST_F(StatusCells, TheTwoCellsOfSignalSelectSayWhichSignalIsMeant)
-{
-    Open(st_me_key);
-    GL_FillSourceAssignMode = 7;
-    EXPECT_EQ(PageOfCell(st_me_key[0]), 0x11110000u);
-    EXPECT_EQ(GL_FillSourceAssignMode, 7);
-    EXPECT_EQ(PageOfCell(st_me_key[6]), 0x11110003u);
-    EXPECT_EQ(GL_FillSourceAssignMode, 0);
-    EXPECT_EQ(PageOfCell(st_me_key[7]), 0x11110003u);
-    EXPECT_EQ(GL_FillSourceAssignMode, 1);
 }
 
 TEST_F(StatusCells, ATransitionOrClipCellLeadsWhereItsTallySays)

@@ -59,25 +59,6 @@ TEST_F(LeftTabs, APressAsksForThePageOfItsSlot)
     EXPECT_EQ(VF_SetDisplay(6, 1), -1);
 }
 
-TEST_F(LeftTabs, OneDeviceHasNoEdgePageForKeysThreeAndFour)
-{
-    static const struct {
-        int device, slot;
-        uint32_t page, opens;
-    } cases[] = {
-        {256, 3, 0x12320000, 0x12310000},
-        {256, 2, 0x12220000, 0x12220000},
-        {256, 3, 0x12330000, 0x12330000},
-        {512, 3, 0x12320000, 0x12320000},
-    };
-    for (const auto& c : cases) {
-        const VF_TBL one[] = {{.id = c.slot, .caption = "Key", .page = c.page}, VF_END};
-        VF_Create(one, 1);
-        SYS_RefSwrType = c.device;
-        EXPECT_EQ(Asked(X, Slot(c.slot)), c.opens) << std::hex << c.page;
-    }
-}
-
 TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
 {
     static const struct {
@@ -98,37 +79,9 @@ TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
     EXPECT_THAT(Sent(X, Slot(2)), IsEmpty());
 }
 
-TEST_F(LeftTabs, ARecallOnAWipePageTakesTheKnobsOfTwoButtons)
-{
-    static const struct {
-        uint32_t page;
-        int owner, owner_after;
-    } cases[] = {
-        {0x11510000, 33, -1},
-        {0x15530000, 34, -1},
-        {0x11510000, 35, 35},
-        {0x11610000, 33, 33},
-    };
-    static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 1}, NB_END};
-    for (const auto& c : cases) {
-        GL_NowPage = c.page;
-        BT_SetKnobAssign(c.owner);
-        NB_Create(boxes, "Held");
-        BA_SetDefaultButton(1);
-        Touch(X, Slot(1));
-        EXPECT_EQ(BT_GetKnobAssign(), c.owner_after) << std::hex << c.page;
-        EXPECT_STREQ(NB_GetTitle(), c.owner_after < 0 ? "" : "Held");
-    }
-}
-
-TEST_F(LeftTabs, EachPathIsSubscribedOnceAndRemovedAgain)
+TEST_F(LeftTabs, EachPathIsSubscribedOnce)
 {
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Enable"));
-    EXPECT_EQ(VF_Create(nullptr, 0), 1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Enable"));
-    VF_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    EXPECT_EQ(Asked(X, Slot(1)), 0u);
 }
 
 TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)

@@ -80,18 +80,6 @@ TEST_F(BusTally, AValueLandsInItsPlace)
     }
 }
 
-TEST_F(BusTally, EffectsChannelsEndHereAndTellAChangeOnce)
-{
-    Deliver("Info@DME@RefCH", "1");
-    probe::seen.clear();
-    EXPECT_EQ(Deliver("Info@DME@RefCH", "10"), 1);
-    EXPECT_EQ(SYS_DMEReference, 16);
-    EXPECT_EQ(Deliver("Info@DME@RefCH", "10"), 1);
-    EXPECT_EQ(Deliver("Info@DME@SelCH", "1"), 1);
-    EXPECT_EQ(probe::Count(LMSG_DMEREFCHANGE), 1);
-    EXPECT_EQ(probe::Count(MSG_TALLY), 0);
-}
-
 // --- Units ---
 
 TEST_F(BusTally, AVideoFormatSetsTheUnitsRateAndLines)
@@ -434,6 +422,17 @@ TEST_F(BusTally, NoValueOnAnyPathDoesHarm)
         SYSTEM_CONFIG "Panel Assign",
         OPERATION_MODE,
         "Global Effect@Ch1-Ch4@Combine@Ch",
+        "Info@Processor Status@1",
+        "Info@Initial Read Status",
+        "INFORMATION@DME File Process Progress",
+        "Info@Operation Setup Data@Timeline Region Display",
+        "Info@Operation Setup Data@Timeline Region Priority",
+        "Info@Operation Setup Data@Group Name@",
+        "Info@Operation Setup Data@Shortcut Name@-1",
+        SWITCHER "Config@M/E Config@",
+        PANEL "Config@M/E Assign@",
+        PANEL "Config@MP2 Main/Sub Assign@Main/Sub Assign@1st Row",
+        PANEL "Config@Compact Key Module Assign@KY Unit Config@14",
         PANEL "Config@M/E Operation@",
         PANEL "Xpt Assign@Source@List",
         PANEL "Xpt Assign@Assign",

@@ -158,25 +158,6 @@ TEST_F(Info, ANewBankSettingReloadsThePageButForFour)
     }
 }
 
-TEST_F(Info, TheOperationLogIsSwitchedOnTheServerToo)
-{
-    static const struct {
-        const char* value;
-        int option_word, on;
-        const char* sent;
-    } cases[] = {
-        {"1", 5, 1, "set Option@LogFile@Panel Operation Log#true"},
-        {"2", 0, 0, "set Option@LogFile@Panel Operation Log#false"},
-        {"0", 0, 1, "set Option@LogFile@Panel Operation Log#true"},
-    };
-    for (const auto& c : cases) {
-        DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = c.option_word;
-        Deliver(SYSTEM "Panel Operation Log", c.value);
-        EXPECT_EQ(GL_PanelOperationLog, c.on) << c.value;
-        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.sent)) << c.value;
-    }
-}
-
 TEST_F(Info, TheFileLockWordIsReadFromItsTopBit)
 {
     Deliver(SYSTEM "File Load Lock", "80004001");
@@ -196,42 +177,4 @@ TEST_F(Info, ATextIsCutToItsPlace)
     EXPECT_EQ(strlen(GL_ImportDataPath), sizeof GL_ImportDataPath - 1);
     Deliver(OPERATION "Import Path", before);
     EXPECT_EQ(GL_ImportDataPath, before);
-}
-
-TEST_F(Info, NoValueOnAnyPathDoesHarm)
-{
-    static const char* const paths[] = {
-        "Info@Processor Status@1",
-        "CONNECT@Status",
-        "Info@Initial Read Status",
-        "INFORMATION@DME" PROGRESS,
-        ME_CONFIG "M/E-1",
-        ME_CONFIG,
-        ME_ASSIGN,
-        MAIN_SUB "1st Row",
-        KEY_UNIT "14",
-        KEY_UNIT "0",
-        KEY_UNIT "-1",
-        OPERATION "Timeline Region Display",
-        OPERATION "Group Name@",
-        OPERATION "Group Name@11",
-        OPERATION "Shortcut Name@-1",
-        OPERATION "Timeline Region Priority",
-        OPERATION,
-        SYSTEM,
-    };
-    const std::string values[] = {
-        "",
-        ",",
-        "0,0",
-        "65,3",
-        "1,256",
-        "99999999999999999999,99999999999999999999",
-        std::string(1023, ','),
-        std::string(3000, '9'),
-    };
-    for (const char* path : paths)
-        for (const std::string& value : values)
-            Deliver(path, value);
-    EXPECT_EQ(GL_CreatePage, 0u);
 }

@@ -8,10 +8,7 @@
 #include "message.h"
 #include "netio.h"
 #include "page.h"
-#include "storage.h"
 #include <algorithm>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
@@ -210,23 +207,6 @@ TEST_F(Loop, TheTimedProgressEndsOnTheInitialPage)
     EXPECT_EQ(GL_InitProgress, 0);
     MainPass();
     EXPECT_EQ(GL_NowPage, 0x12110000u);
-}
-
-TEST_F(Loop, ACaptureTakesTheFirstFreeOfNineNames)
-{
-    GL_USB_AutoScan = 0;
-    mkdir("/mnt/usb/usb1", 0755);
-    snprintf(GL_ImportDataPath, sizeof GL_ImportDataPath, "/mnt/usb/usb1");
-    GL_NowPage = 0x12310002;
-    for (int n = 1; n <= 9; n++) {
-        char name[80];
-        snprintf(name, sizeof name, "/mnt/usb/usb1/menuss_1231_02_%d.bmp", n);
-        EXPECT_NE(access(name, F_OK), 0);
-        Screen_Capture();
-        EXPECT_EQ(access(name, F_OK), 0) << name;
-    }
-    Screen_Capture(); // all taken: nothing more is written
-    EXPECT_NE(access("/mnt/usb/usb1/menuss_1231_02_10.bmp", F_OK), 0);
 }
 
 TEST_F(Loop, TheReducedPassKeepsTheScreenAliveAndNothingElse)

@@ -269,27 +269,6 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
     }
 }
 
-TEST_F(PageTest, MainAndSubByTheRowsOfThePanel)
-{
-    static const struct {
-        int sides[2]; // of two rows with M/E-4
-        int status;
-    } cases[] = {{{0, 0}, 0}, {{1, 1}, 1}, {{0, 1}, 2}, {{7, -1}, -1}};
-    const FakePage page(0x81510000, "M/E-4", nullptr);
-    EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x81510000), -1); // not in multi program 2
-    multiprogram2_me[4] = 1;
-    EXPECT_EQ(MainSubAssign_StatusCheck(), -1); // on no row
-    GL_MEAssign[0] = GL_MEAssign[13] = 4;
-    for (const auto& c : cases) {
-        GL_MainSubAssign[0] = c.sides[0];
-        GL_MainSubAssign[13] = c.sides[1];
-        EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x85110000), c.status)
-            << c.sides[0] << c.sides[1];
-        EXPECT_EQ(MainSubAssign_StatusCheck(), c.status) << c.sides[0] << c.sides[1];
-    }
-    EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x31110000), -1);
-}
-
 TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
 {
     static const struct {

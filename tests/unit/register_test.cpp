@@ -276,21 +276,6 @@ TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
     }
 }
 
-TEST_F(Registers, FastProgressiveFormatsHalveTheFramesOfAClip)
-{
-    static const struct {
-        int size, freq, scan, stop;
-    } cases[] = {{3, 5, 2, 10}, {2, 6, 2, 10}, {3, 4, 2, 21}, {3, 5, 0, 21}, {4, 5, 2, 21}};
-    Deliver(CLIP + "User1@List", "FM1,1,ON,ON,ON,a,-21,21");
-    for (const auto& c : cases) {
-        SYS_Format_Size = c.size;
-        SYS_Format_Freq = c.freq;
-        SYS_Format_Scan = c.scan;
-        EXPECT_EQ(ClipEvent_Tally_Stop_TC(0, 0, 0), c.stop) << c.size << " " << c.freq;
-        EXPECT_EQ(ClipEvent_Tally_Start_TC(0, 0, 0), -21);
-    }
-}
-
 // --- Subscriptions ---
 
 static Strings Sent(void (*send)())

@@ -78,17 +78,6 @@ TEST_F(SetupIndex, HasOneRowForAPageInEveryVariantGroupedByTab)
     }
 }
 
-TEST_F(SetupIndex, ExtensionPanelPageComesAndGoesWithThePanel)
-{
-    const int row = SetupIndex_Find(0x73210012);
-    EXPECT_EQ(SetupMenu[row].active, 0);
-    SetupIndex_SetExtensionPanel(1);
-    EXPECT_EQ(SetupMenu[row].active, 1);
-    EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73110000)].active, 1);
-    SetupIndex_SetExtensionPanel(0);
-    EXPECT_EQ(SetupMenu[row].active, 0);
-}
-
 TEST_F(SetupIndex, LocksSurviveARestart)
 {
     snprintf(SetupLock.password, sizeof SetupLock.password, "secret");

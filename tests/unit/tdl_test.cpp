@@ -91,26 +91,6 @@ TEST(Drawing, TheScreenEdgeCutsOrRefuses)
 }
 // clang-format on
 
-TEST(Drawing, ShapesAreTheSameAtEveryDepth)
-{
-    std::vector<uint32_t> first;
-    for (const int depth : DEPTHS) {
-        const TestDisplay display(depth);
-        TDL_FillRectS(-5, 500, 40, 700, RED);
-        TDL_RectS(100, 100, 300, 200, 0x00FF00);
-        TDL_LineHS(700, 10, 200, 0x0000FF);
-        TDL_LineVS(10, 580, 200, 0xFFFFFF);
-        TDL_LineS(5, 5, 222, 90, 0xFFFF00);
-        TDL_FillParaS(400, 400, 333, 590, 30, 0x00FFFF);
-        TDL_FillParaVS(500, 400, 590, 440, 30, RED);
-        TDL_FillRectAS(600, 300, 650, 350, 0xFF00FF, 255);
-        EXPECT_GT(Painted(), 16000);
-        if (first.empty())
-            first = PixelsOf(Screen);
-        EXPECT_EQ(Difference(PixelsOf(Screen), first), "nothing") << depth;
-    }
-}
-
 TEST(Drawing, AFlushIsCutAtTheScreenAndNeverEmpty)
 {
     static const struct {
