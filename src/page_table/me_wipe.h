@@ -2,6 +2,7 @@
 // has a wipe of its own, of one pattern. Written for M/E-1.
 #pragma once
 #include "me_banks.h"
+#include "me_snapshot.h"
 #include "nb_me_wipe.h"
 #include "patterns.h"
 #include "pc_me_wipe.h"
@@ -137,7 +138,7 @@ inline constexpr MePage me_wipe_pages[] = {
     {.page = {.id = 0x11560000, .tree = {"M/E-1", "Wipe", "Sub Modify"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 5), BottomTabs(hf_me_wipe, 6), Buttons(bt_me_wipe_submodify), Boxes(NB_Non), Cells(st_me_wipe), Code(pc_me_wipe_submodify)}}, .where = MAIN},
     {.page = {.id = 0x11570000, .tree = {"M/E-1", "Wipe", "Wipe Snapshot"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 5), BottomTabs(hf_me_wipe, 7), Boxes(NB_Non), Cells(st_me_wipe)}}, .where = MAIN},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 5), BottomTabs(hf_me_wipe, 7), Buttons(bt_me_snapshot), Boxes(NB_Non), Cells(st_me_wipe), Code(pc_me_wipe_wipess)}}, .where = MAIN},
     {.page = {.id = 0x11570000, .tree = {"M/E-1", "Wipe", "Wipe Snapshot"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 5), BottomTabs(hf_me_wipe, 7), Boxes(NB_Non), Cells(st_me_wipe_sub)}}, .where = SUB},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 5), BottomTabs(hf_me_wipe, 7), Buttons(bt_me_snapshot), Boxes(NB_Non), Cells(st_me_wipe_sub), Code(pc_me_wipe_wipess)}}, .where = SUB},
 };

@@ -1,5 +1,5 @@
-// The wipe pages of a bank as the table opens them: their own lines on the wire, their buttons
-// after tallies, on several banks and both sides.
+// The wipe pages of a bank and both kinds of wipe snapshots, as the table opens them: their own
+// lines on the wire, their buttons after tallies, on several banks and both sides.
 #include "a_bt.h"
 #include "a_nb.h"
 #include "bus.h"
@@ -8,6 +8,7 @@
 #include "message.h"
 #include "page.h"
 #include "pc_me_wipe.h"
+#include "register.h"
 #include <algorithm>
 #include <gmock/gmock.h>
 
@@ -25,6 +26,7 @@ struct MeWipe : testing::Test {
         GL_CreatePage = 0;
         CreatePage(PAGE_TOP);
         Page_Reset();
+        Register_Free();
         (void)TakeQueuedCommands();
     }
     static void Open(uint32_t id)
@@ -266,4 +268,144 @@ TEST_F(MeWipe, TheKnobsOfTheMatteMixFollowItsPattern)
     EXPECT_STREQ(NB_GetTitle(), "Color 1");
     (void)Press(18);
     EXPECT_TRUE(has_place());
+}
+
+// --- Snapshots ---
+
+struct MeWipeSnapshot : MeWipe {
+    // Keys of registers 7, 5, 1 and 10.
+    enum : int { KEY_7 = 17, KEY_5 = 34, KEY_1 = 49, KEY_10 = 52, STORE = 22, DELETE = 38 };
+
+    static void OpenWith(uint32_t page, const std::string& list, const Lines& lines)
+    {
+        Open(page);
+        for (const std::string& line : lines)
+            Tell(list + "#" + line);
+    }
+    static std::string Caption(int id) { return bt_find(id)->caption; }
+};
+
+TEST_F(MeWipeSnapshot, EachKeyRecallsItsRegisterAndPattern)
+{
+    static const struct {
+        uint32_t page;
+        const char *list, *line;
+        int key;
+        Lines sent;
+    } cases[] = {
+        {0x12570000,
+         "Snapshot@Wipe Snapshot@M/E-2@List",
+         "7,CIRCLE,S,67",
+         KEY_7,
+         {"put Snapshot@Wipe Snapshot@Recall#4,7", "put M/E-2@Wipe@Main Pattern@Pattern#67"}},
+        {0x85570000,
+         "Snapshot@Wipe Snapshot@M/E-4 Sub@List",
+         "5,OLD,L",
+         KEY_5,
+         {"put Snapshot@Wipe Snapshot@Recall#8000000,5"}},
+        {0x14570000,
+         "Snapshot@Wipe Snapshot@P/P@List",
+         "10,240,S",
+         KEY_10,
+         {"put Snapshot@Wipe Snapshot@Recall#1,10", "put PGM/PST@Wipe@Main Pattern@Pattern#240"}},
+        {0x14570000,
+         "Snapshot@Wipe Snapshot@P/P@List",
+         "10,BIG,S,1000",
+         KEY_10,
+         {"put Snapshot@Wipe Snapshot@Recall#1,10"}},
+        {0x14570000, "Snapshot@Wipe Snapshot@P/P@List", "10,EMPTY,E,5", KEY_10, {}},
+        {0x18670000,
+         "Snapshot@DME Snapshot@P/P Sub@List",
+         "1,PUSH,S,1011",
+         KEY_1,
+         {"put Snapshot@DME Snapshot@Recall#800000,1",
+          "put PGM/PST SUB@DME Wipe@Pattern Select@Pattern#1011"}},
+        {0x81670000,
+         "Snapshot@DME Snapshot@M/E-4@List",
+         "1,SMALL,S,999",
+         KEY_1,
+         {"put Snapshot@DME Snapshot@Recall#10,1"}},
+        {0x81670000, "Snapshot@Wipe Snapshot@M/E-4@List", "1,OTHER,S,67", KEY_1, {}},
+    };
+    for (const auto& c : cases) {
+        Register_Free();
+        OpenWith(c.page, c.list, {c.line});
+        EXPECT_EQ(Press(c.key), c.sent) << c.line;
+    }
+}
+
+TEST_F(MeWipeSnapshot, AModeStoresOrDeletesOnceAndThenRecallsAgain)
+{
+    const std::string list = "Snapshot@Wipe Snapshot@M/E-1@List";
+    OpenWith(0x11570000, list, {"7,CIRCLE,S", "5,BOX,L"});
+    EXPECT_THAT(Press(KEY_1), IsEmpty()) << "empty";
+
+    static const struct {
+        int mode, key;
+        Lines sent;
+        int after; // status of the mode key
+    } cases[] = {
+        {STORE, KEY_1, {"put Snapshot@Wipe Snapshot@Store#2,1"}, BT_OFF},
+        {STORE, KEY_7, {"put Snapshot@Wipe Snapshot@Store#2,7"}, BT_OFF},
+        {STORE, KEY_5, {}, BT_OFF},
+        {DELETE, KEY_7, {"put Snapshot@Wipe Snapshot@Delete#2,7,7"}, BT_OFF},
+        {DELETE, KEY_5, {}, BT_OFF},
+        {DELETE, KEY_10, {}, BT_THIRD},
+    };
+    for (const auto& c : cases) {
+        EXPECT_THAT(Press(c.mode), IsEmpty());
+        EXPECT_EQ(BT_GetStatus(c.mode), BT_THIRD);
+        EXPECT_EQ(Press(c.key), c.sent) << c.mode << " " << c.key;
+        EXPECT_EQ(BT_GetStatus(c.mode), c.after) << c.mode << " " << c.key;
+        Pass(200);
+    }
+    (void)Press(STORE); // one mode ends the other
+    EXPECT_EQ(BT_GetStatus(DELETE), BT_OFF);
+    (void)Press(STORE);
+    EXPECT_EQ(BT_GetStatus(STORE), BT_OFF);
+    EXPECT_THAT(Press(KEY_7), ElementsAre("put Snapshot@Wipe Snapshot@Recall#2,7"));
+}
+
+TEST_F(MeWipeSnapshot, ATouchThatChattersDoesNotRecallWhatItStored)
+{
+    OpenWith(0x11570000, "Snapshot@Wipe Snapshot@M/E-1@List", {"7,CIRCLE,S"});
+    (void)Press(STORE);
+    EXPECT_EQ(Press(KEY_7).size(), 1u);
+    EXPECT_EQ(BT_GetStatus(KEY_7), BT_ON);
+    Pass(140);
+    EXPECT_THAT(Press(KEY_7), IsEmpty());
+    Pass(10);
+    EXPECT_EQ(BT_GetStatus(KEY_7), BT_OFF);
+    EXPECT_EQ(Press(KEY_7).size(), 1u);
+}
+
+TEST_F(MeWipeSnapshot, AKeyShowsNumberNamePatternAndLock)
+{
+    Harness_Video();
+    const std::string list = "Snapshot@DME Snapshot@M/E-3@List";
+    OpenWith(0x13670000, list, {"7,PUSH,S,1011", "5,1201,L", "10,,S", "1,WWWWWWWWWWW,S,1301"});
+    EXPECT_EQ(Caption(KEY_7), "7\nPUSH\n1011");
+    EXPECT_EQ(Caption(KEY_5), "5   Lock\n1201");
+    EXPECT_EQ(Caption(KEY_10), "10");
+    EXPECT_LT(Caption(KEY_1).size(), strlen("1\nWWWWWWWWWWW\n1301")) << "wider than the key";
+    EXPECT_EQ(Disabled({17, 18, 34, 49, 52}), Lines{"18"});
+
+    Tell(list + "#7,PUSH,E,1011");
+    EXPECT_EQ(Caption(KEY_7), "7");
+    EXPECT_EQ(BT_GetVisible(KEY_7), BT_DISABLED);
+    Tell("Snapshot@DME Snapshot@M/E-3 Sub@List#7,OTHER,S,1011"); // another side
+    EXPECT_EQ(Caption(KEY_7), "7");
+    (void)Press(STORE);
+    EXPECT_THAT(Disabled({17, 18, 34, 49, 52}), IsEmpty());
+}
+
+TEST_F(MeWipeSnapshot, WhatTheMirrorLacksIsAskedForOnce)
+{
+    const std::string read = "read Snapshot@Wipe Snapshot@M/E-5 Sub@List";
+    ASSERT_EQ(CreatePage(0x86570000), 0);
+    EXPECT_EQ(std::ranges::count(TakeQueuedCommands(), read), 1);
+    for (int i = 1; i <= 10; i++)
+        Tell("Snapshot@Wipe Snapshot@M/E-5 Sub@List#" + std::to_string(i) + ",,E");
+    ASSERT_EQ(CreatePage(0x86570000), 0);
+    EXPECT_EQ(std::ranges::count(TakeQueuedCommands(), read), 0);
 }
