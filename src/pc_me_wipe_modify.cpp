@@ -14,9 +14,8 @@ static constexpr struct {
 } modify_keys[] = {
     {17, WIPE_CENTER},     {18, WIPE_CENTER},     {19, WIPE_CENTER},     {20, WIPE_ASPECT},
     {21, WIPE_ANGLE},      {22, WIPE_ANGLE},      {33, WIPE_MULTI},      {34, WIPE_MULTI},
-    {35, WIPE_MULTI},      {36, WIPE_MULTI},      {37, WIPE_OUTLINE},    {38, WIPE_OUTLINE},
+    {35, WIPE_MULTI},      {36, WIPE_LINES},      {37, WIPE_LINES},      {38, WIPE_OUTLINE},
     {49, WIPE_MODULATION}, {50, WIPE_MODULATION}, {51, WIPE_MODULATION}, {52, WIPE_MODULATION},
-    {53, WIPE_LINES},      {54, WIPE_LINES},
 };
 
 static struct {

@@ -24,6 +24,18 @@ inline constexpr NB_TBL nb_wipe_modify_speed[] = {
     {.id = 1, .caption = "Speed", .type = NB_2, .min = -999.99, .max = 999.99, .cmd = "~@Speed@Speed"}, // turns
     NB_END,
 };
+inline constexpr NB_TBL nb_wipe_modify_multi[] = { // 1 by 1 is the pattern alone
+    {.id = 1, .caption = "H",     .type = NB_INT, .min = 1,  .max = 63,  .cmd = "~@Multi@H"},
+    {.id = 2, .caption = "V",     .type = NB_INT, .min = 1,  .max = 63,  .cmd = "~@Multi@V"},
+    {.id = 3, .caption = "Shift", .type = NB_2, .min = -100, .max = 100, .cmd = "~@Multi@Shift"},
+    NB_END,
+};
+inline constexpr NB_TBL nb_wipe_modify_spring[] = { // no width, no spring
+    {.id = 1, .caption = "Width",  .type = NB_2, .min = 0, .max = 100, .cmd = "~@Spring@Width"},
+    {.id = 2, .caption = "Number", .type = NB_INT, .min = 1, .max = 20, .cmd = "~@Spring@Number"},
+    {.id = 3, .caption = "Random", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Spring@Random"},
+    NB_END,
+};
 inline constexpr NB_TBL nb_wipe_modify_split[] = {
     {.id = 1, .caption = "H Gap", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Split@H"},
     {.id = 2, .caption = "V Gap", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Split@V"},
@@ -37,6 +49,7 @@ inline constexpr NB_TBL nb_wipe_modify_modulation[] = {
 };
 static_assert(BoxesAreSound(nb_wipe_position) && BoxesAreSound(nb_wipe_modify_split));
 static_assert(BoxesAreSound(nb_wipe_modify_main_position) && BoxesAreSound(nb_wipe_modify_sub_position));
+static_assert(BoxesAreSound(nb_wipe_modify_multi) && BoxesAreSound(nb_wipe_modify_spring));
 static_assert(BoxesAreSound(nb_wipe_modify_speed) && BoxesAreSound(nb_wipe_modify_modulation));
 
 // --- Pattern mix: 0 is the main pattern alone, 100 the sub pattern ---
