@@ -134,7 +134,8 @@ static void print_caption(int place)
     char name[16];
     CopyText(name, Snapshot.kind->name(Snapshot.region, index));
     fit_line(name);
-    if (*name && pattern_in(name) != key.pattern) {
+    const bool is_pattern = key.pattern != NO_PATTERN && pattern_in(name) == key.pattern;
+    if (*name && !is_pattern) {
         AppendText(key.caption, "\n");
         AppendText(key.caption, name);
     }

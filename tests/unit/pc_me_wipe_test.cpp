@@ -382,10 +382,12 @@ TEST_F(MeWipeSnapshot, AKeyShowsNumberNamePatternAndLock)
 {
     Harness_Video();
     const std::string list = "Snapshot@DME Snapshot@M/E-3@List";
-    OpenWith(0x13670000, list, {"7,PUSH,S,1011", "5,1201,L", "10,,S", "1,WWWWWWWWWWW,S,1301"});
+    OpenWith(0x13670000, list,
+             {"7,PUSH,S,1011", "5,1201,L", "10,,S", "1,WWWWWWWWWWW,S,1301", "2,FLY IN,S"});
     EXPECT_EQ(Caption(KEY_7), "7\nPUSH\n1011");
     EXPECT_EQ(Caption(KEY_5), "5   Lock\n1201");
     EXPECT_EQ(Caption(KEY_10), "10");
+    EXPECT_EQ(Caption(50), "2\nFLY IN");
     EXPECT_LT(Caption(KEY_1).size(), strlen("1\nWWWWWWWWWWW\n1301")) << "wider than the key";
     EXPECT_EQ(Disabled({17, 18, 34, 49, 52}), Lines{"18"});
 
