@@ -207,18 +207,6 @@ class Running(StreamTest):
         self.assertGreater(took, 40 / 30 - 0.05)
         self.assertLess(took, 40 / 30 + 0.7)
 
-    def test_the_format_sets_the_rate_and_the_time_code(self):
-        self.load("set Engineering Setup@System@Format@Video Format@SWR1#25/50,1080i", "kf M/E-1 2 50")
-        self.panel1.send(4, SEND)
-        data = self.panel1.next(EFFECT)
-        self.assertEqual(data[26:34], bytes([1, 0, 2, 0, 0, 0, 2, 0]))  # two seconds
-        self.panel1.position()
-        started = time.monotonic()
-        self.do("run M/E-1")
-        while self.panel1.next(POSITION)[9]:
-            pass
-        self.assertGreater(time.monotonic() - started, 1.95)
-
     def test_a_pause_holds_until_the_next_run(self):
         self.load("kf M/E-1 3 5", "pause M/E-1 2")
         self.do("run M/E-1")
@@ -249,12 +237,6 @@ class Running(StreamTest):
         self.assertEqual([p.time for p in run], [*range(8), *range(4, 8), *range(4, 13)])
         self.assertEqual({p.loop_on for p in run}, {1})
         self.assertEqual([run[at].loops_left for at in (0, 7, 8, 11, 12, 16)], [3, 3, 2, 2, 1, 0])
-
-    def test_nothing_runs_without_keyframes(self):
-        self.do("kf M/E-1 0 0", "run M/E-1", "kf M/E-1 1 100", "run M/E-1")
-        for _ in range(4):
-            self.assertEqual(self.panel1.position().run, 0)
-        self.assertTrue(self.panel1.quiet())
 
 
 class Keys(StreamTest):

@@ -13,8 +13,8 @@ MASTERS = "Snapshot@Master Snapshot@Store/Recall@"
 TIMELINES = "Effect@Master Timeline@Store/Recall@"
 KEY_TYPE = "M/E-1@Key1@Type@Key Type"
 MASK = {"M/E-1": "0000000000000002", "M/E-2": "0000000000000004", "both": "0000000000000006",
-        "M/E-4": "0004000000000000", "M/E-1 Sub": "0000400000000000", "DME2": "0000000000202000",
-        "DME5": "0000000001010000", "Dev5": "0000000100000000", "GPI": "0000020000000000"}
+        "M/E-4": "0004000000000000", "M/E-1 Sub": "0000400000000000", "Dev5": "0000000100000000",
+        "GPI": "0000020000000000"}
 
 
 class StoreTest(SimTest):
@@ -97,16 +97,6 @@ class Commands(StoreTest):
         for mask in ("0000000000000000", "", "xyz", "-"):
             self.assertEqual(self.put("Effect@Effect@Store@Store", mask + ",8,NONE"), [], mask)
 
-    def test_channels_of_a_unit_have_the_higher_numbers_in_common(self):
-        self.follow(EFFECTS + "DME1", EFFECTS + "DME2", EFFECTS + "DME5")
-        self.assertEqual(self.put("Effect@Effect@Store@Store", MASK["DME2"] + ",150,A"),
-                         [f"{EFFECTS}DME1#150,S,A,U,N,0"])
-        self.assertEqual(self.put("Effect@Effect@Store@Store", MASK["DME5"] + ",150,B"),
-                         [f"{EFFECTS}DME5#150,S,B,U,N,0"])
-        for number in (100, 200, 300, 400, 0):
-            self.assertEqual(self.put("Effect@Effect@Store@Store", f"{MASK['DME5']},{number},C"), [])
-        self.assertEqual(self.put("Effect@Effect@Store@Store", f"{MASK['M/E-1']},100,C"), [])
-
     def test_copy_keeps_the_source_and_move_and_swap_do_not(self):
         lists = EFFECTS + "M/E-1", EFFECTS + "M/E-2"
         self.follow(*lists)
@@ -125,21 +115,6 @@ class Commands(StoreTest):
         self.assertEqual([self.rows(lists[1])[n][5] for n in (2, 3, 4)], ["180", "180", "90"])
         self.put("Effect@Effect@Move@Move", f"{MASK['M/E-1']},1,3,{MASK['M/E-2']},10,false")
         self.assertEqual(names(), [{3: "LOGO LOOP", 99: "BLACK"}, {**copied, 10: "OPENING", 11: "SLIDE IN"}])
-    def test_the_attributes_of_a_snapshot_stand_in_its_line(self):
-        path = SNAPSHOTS + "M/E-1@List"
-        self.follow(path)
-        attribute = SNAPSHOTS
-        steps = [("Effect Dissolve", "2,1,1,true", ["", "0", "n", "n"]), ("Duration", "2,1,1,45", ["", "45", "n", "n"]),
-                 ("Auto Transition", "2,1,1,true", ["", "45", "45", "n"]),
-                 ("Xpt Hold", "2,1,1,AB1U2", ["AB1U2", "45", "45", "n"])]
-        for word, value, fields in steps:
-            told = self.put(attribute + word, value)
-            self.assertEqual(told, [f"{path}#1,TWO SHOT,S,{','.join(fields)}"], word)
-        self.assertEqual(self.put(attribute + "GPI", "2,2,3,1"), [])  # locked, and empty
-        self.assertEqual(self.put(attribute + "Xpt Hold", "2,1,1," + "F" * 310), [])  # no line would hold it
-        self.assertEqual(self.put("Snapshot@Snapshot@UnLock", "2,1,5"), [f"{path}#2,WIDE,S,,n,n,n"])
-        self.assertEqual(self.put("Snapshot@Snapshot@Lock", "2,2,5"), [f"{path}#2,WIDE,L,,n,n,n"])
-
     def test_rubbish_changes_nothing(self):
         self.do("list effect", "list snapshot", "list mastersnapshot")
         self.wait_for_log("console: list mastersnapshot")

@@ -2,8 +2,6 @@
 #include "page_table/st_dme.h"
 #include "page_table/st_globaleffect.h"
 #include "page_table/st_me_key.h"
-#include "page_table/st_me_misc.h"
-#include "page_table/st_me_wipe.h"
 
 constexpr Rect two_lines = {97, 73, 702, 256};
 constexpr Rect work_area = {97, 73, 702, 526};
@@ -53,32 +51,6 @@ TEST_F(StatusPicture, TheCellsOverAKeyPage)
          {"M/E-1@Misc@Key Priority@3", "Key2"}});
     Pass();
     EXPECT_TRUE(MatchesGolden("status_key", two_lines));
-}
-
-TEST_F(StatusPicture, TheCellsOfABanksOwnSettings)
-{
-    SetTree({"PGM/PST", "Misc", "Transition"}, 0x14710000);
-    GL_ProcStatus[1] = 1;
-    Open(st_me_misc);
-    Say({{"PGM/PST@Misc@Transition@DME Wipe", "true"},
-         {"PGM/PST@DME Wipe@Pattern Select@Pattern", "1201"},
-         {"PGM/PST@Misc@Key Priority@1", "Key4"},
-         {"PGM/PST@Misc@Key Priority@2", "Key3"},
-         {"PGM/PST@Misc@Next Key Priority@4", "Key1"},
-         {"Engineering Setup@Switcher@Config@PGM Config@List", "PGM, PGM,Clean,,PGM,Clean2"},
-         {"PGM/PST@Misc@Key Assign@Key3", "Out3"},
-         {"PGM/PST@Misc@Video Process@Video Process", "true"},
-         {"PGM/PST@Misc@Video Process@Luminance", "-100.00"},
-         {"PGM/PST@Misc@Clip Transition@Bkgd", "Both"},
-         {"PGM/PST@Misc@Clip Transition@Output", "FM1"},
-         {"PGM/PST@Misc@Clip Transition@Clip Name", "GOAL_STINGER_2"},
-         {"PGM/PST@Misc@Clip Transition@Player", "Play"},
-         {"PGM/PST@Misc@Clip Transition@Time Code", "00:00:12:05"},
-         {"PGM/PST@Misc@Clip Transition@Position", "40"},
-         {"PGM/PST@Misc@Clip Transition@Start", "25"},
-         {"PGM/PST@Misc@Clip Transition@End", "75"}});
-    Pass();
-    EXPECT_TRUE(MatchesGolden("status_misc", two_lines));
 }
 
 TEST_F(StatusPicture, ChannelsAndTheirCombiners)

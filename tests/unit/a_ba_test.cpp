@@ -135,11 +135,6 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
         Touch(LOWER_LEFT);
         EXPECT_EQ(BA_IsDefaultButton(), c.recall) << c.section << std::hex << c.page;
     }
-    OpenBase({"Key Frame", "Time Line"}, 0x61110000, base_kf_tl);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 0);
-    EXPECT_EQ(PageOf(TOP_RIGHT), NONE) << "the timeline is shown already";
-
     SetupLock.lock = 1;
     OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11750000);
     Touch(LOWER_LEFT);
@@ -224,20 +219,4 @@ TEST_F(BaseAreaTest, TheTitleStepsTheReferenceOfMultiPictureEffects)
                                                   "put MPE@Fx@Channel@Reference#00010000"));
     SYS_MPEChannel = 0;
     SYS_MPEReference = 0;
-}
-
-TEST_F(BaseAreaTest, WhileAMenuMacroIsRecordedItsKeysTakeTheirPlaces)
-{
-    GL_MenuMacro_Edit = 1;
-    GL_PrevPage = 0x33110000;
-    OpenBase({"Router"}, 0x51110000);
-    EXPECT_EQ(PageOf(PREV), NONE) << "it stores an event";
-    EXPECT_EQ(PageOf(LOWER_LEFT), 0x71440002u);
-    Touch(TOP_RIGHT);
-    EXPECT_EQ(GL_CreatePage, NONE) << "beside the key";
-    Touch({540, 30});
-    EXPECT_EQ(GL_CreatePage, 0x71440002u);
-    OpenBase({"File", "Menu Macro"}, 0x71440002);
-    EXPECT_EQ(PageOf(PREV), 0x33110000u);
-    GL_MenuMacro_Edit = 0;
 }

@@ -40,10 +40,6 @@ TEST(Command, ValuesAreCutAtTheirSeparator)
     };
     for (const auto& c : cases)
         EXPECT_EQ(Cut(c.split, c.text, c.vn), c.parts) << c.text;
-
-    char* v[2] = {Cmd, Cmd};
-    EXPECT_EQ(SplitVars(nullptr, v, 2), 0);
-    EXPECT_THAT(v, ElementsAre(nullptr, nullptr));
 }
 
 TEST(Command, TheValueBeginsBehindTheFirstMark)

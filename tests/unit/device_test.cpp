@@ -121,22 +121,6 @@ TEST_F(Devices, ReferenceChannelPicksTheUnit)
     }
 }
 
-TEST_F(Devices, ANewEffectsModelReadsTheInterfacesOnce)
-{
-    DeviceStructure();
-    (void)TakeQueuedCommands();
-    DeviceStructure();
-    EXPECT_TRUE(TakeQueuedCommands().empty());
-    GL_DmeModel[1] = 8;
-    DeviceStructure();
-    EXPECT_EQ(DEV_Dme[1].type, DEVTYPE_ZRD52);
-    EXPECT_EQ(TakeQueuedCommands(),
-              (std::vector<std::string>{"read Engineering Setup@Switcher@SDI I/F@DME1",
-                                        "read Engineering Setup@Switcher@SDI I/F@DME2"}));
-    EXPECT_TRUE(isZRD52onSWR(&DEV_Swr[0]));
-    EXPECT_FALSE(isZRD52onSWR(&DEV_Swr[1]));
-}
-
 // Which questions hold for 1080p, by switcher model, processors and effects model.
 TEST_F(Devices, LinksOf1080p)
 {

@@ -76,7 +76,6 @@ TEST_F(Log, ADroppedLineTouchesNoFile)
     Fill(LOG, std::string(200, 'd')); // would rotate
     Log_SetLevel(3);
     EXPECT_EQ(Log_Output(2, 1, "x"), 1);
-    EXPECT_EQ(Log_Output2(2, "x"), 1);
     Log_SetModule(1, 0);
     EXPECT_EQ(Log_Output(3, 1, "x"), 2);
     EXPECT_EQ(Content(LOG), std::string(200, 'd'));

