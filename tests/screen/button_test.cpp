@@ -190,16 +190,6 @@ TEST_F(ButtonSheet, GroupsFrameWhatBelongsTogether)
 // --- Base area ---
 
 struct BaseSheet : ButtonPage {
-    void TearDown() override
-    {
-        BA_SetUsbAccess(0);
-        BA_SetHDDAccess(0);
-        SetupLock = {};
-        SetupMenu_Max = 0;
-        OmoteFlag = 1;
-        GL_ErrorPopup_On = 0;
-        ButtonPage::TearDown();
-    }
     void OpenBase(std::initializer_list<const char*> tree, uint32_t id, const BA_TBL& table)
     {
         SetTree(tree, id);

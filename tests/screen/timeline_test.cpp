@@ -17,7 +17,6 @@ struct TimelinePictures : testing::Test {
     {
         Harness_Reset();
         SYS_FrameRate = 30;
-        GL_TimelineDisplayPriority = 0;
         page = {.id = 0x61110000,
                 .tree = {"Key Frame", "Time Line"},
                 .obj = {{OBJ_BA, &base_kf_tl, 0}, {OBJ_KF, &kf_tl, 0}}};
@@ -28,14 +27,7 @@ struct TimelinePictures : testing::Test {
         KF_RegionAssignTally(2, "User1,DME1,Dev1,MACRO");
         KF_DefaultRegionPriority();
     }
-    void TearDown() override
-    {
-        KF_Create(nullptr, 0);
-        BA_Create(nullptr, 0);
-        KF_Init();
-        SYS_FrameRate = 60;
-        Page_Reset();
-    }
+    void TearDown() override { Harness_Reset(); }
     static void Open()
     {
         BA_Create(&base_kf_tl, 0);

@@ -12,7 +12,6 @@ struct WindowPictures : ButtonPage {
     void SetUp() override
     {
         ButtonPage::SetUp();
-        TDL_FillRectS(0, 0, 799, 599, 0x000000);
         static BT_TBL table[25];
         int n = 0;
         for (int row = 0; row < 4; row++)
@@ -21,11 +20,6 @@ struct WindowPictures : ButtonPage {
         table[n] = {.id = -1};
         Open(table);
         Redraw();
-    }
-    void TearDown() override
-    {
-        CloseWindow();
-        ButtonPage::TearDown();
     }
     static void Redraw(int elapsed_ms = 0) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
     static void Press(int x, int y)

@@ -32,16 +32,7 @@ struct BaseAreaTest : ButtonPage {
     void SetUp() override
     {
         ButtonPage::SetUp();
-        GL_MenuMacro_Edit = GL_AllPageDisplayMode = GL_ErrorPopup_On = GL_ErrorExist = 0;
-        SetupLock = {};
-        SetupMenu_Max = 0;
         std::fill(GL_KeyMax, GL_KeyMax + ME_COUNT, 4);
-    }
-    void TearDown() override
-    {
-        std::fill(GL_KeyMax, GL_KeyMax + ME_COUNT, 8);
-        GL_ErrorPopup_On = 0;
-        ButtonPage::TearDown();
     }
     void OpenBase(std::initializer_list<const char*> tree, uint32_t id,
                   const BA_TBL& table = base_main)
@@ -156,8 +147,6 @@ struct SetupLockKey : BaseAreaTest {
     void TearDown() override
     {
         std::filesystem::remove_all(SETUP_LOCK_FILE);
-        SetupLock = {};
-        SetupMenu_Max = 0;
         BaseAreaTest::TearDown();
     }
 };
@@ -202,7 +191,6 @@ TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
     multiprogram2_me[1] = 1;
     OpenBase({"M/E-1", "Wipe", "Main Pattern"}, 0x15510000);
     EXPECT_EQ(PageOf(SIDE_KEY), 0x11510000u) << "a bank of two sides";
-    multiprogram2_me[1] = 0;
 }
 
 // --- Others ---

@@ -30,13 +30,7 @@ struct BottomTabs : TabPage {
     {
         TabPage::SetUp();
         SetTree({"M/E-1", "Key1", "Type"}, 0x11110000, OBJ_HF);
-        (void)TakeQueuedCommands();
         HF_Create(tabs, 1);
-    }
-    void TearDown() override
-    {
-        HF_Create(nullptr, 0);
-        TabPage::TearDown();
     }
     static bool IsLit(int id)
     {

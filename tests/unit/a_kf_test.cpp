@@ -58,24 +58,9 @@ struct Keyframes : testing::Test {
     {
         Harness_Reset();
         SYS_FrameRate = RATE;
-        GL_TimelineDisplayPriority = 0;
-        GL_MenuMacro_Edit = 0;
-        GL_AllPageDisplayMode = 0;
-        KF_Init();
         OpenPage(0x11110000);
     }
-    void TearDown() override
-    {
-        PC_Create(nullptr, 0);
-        KF_Create(nullptr, 0);
-        KF_Init();
-        SYS_FrameRate = 60;
-        GL_TimelineDisplayPriority = 0;
-        GL_MenuMacro_Edit = 0;
-        GL_AllPageDisplayMode = 0;
-        Page_Reset();
-        (void)TakeQueuedCommands();
-    }
+    void TearDown() override { Harness_Reset(); }
     void OpenPage(uint32_t id)
     {
         page = {.id = id, .tree = {"Test"}, .obj = {{OBJ_PC, &listener, 0}, {OBJ_KF, nullptr, 0}}};

@@ -26,7 +26,6 @@ struct PathLists : TabPage {
     {
         TabPage::SetUp();
         SetTree({"Key Frame", "Path"}, 0x61130000, OBJ_KP);
-        (void)TakeQueuedCommands();
         KP_Create(rows, 0);
     }
     void TearDown() override

@@ -27,13 +27,7 @@ struct LeftTabs : TabPage {
     void SetUp() override
     {
         TabPage::SetUp();
-        (void)TakeQueuedCommands();
         VF_Create(tabs, 1);
-    }
-    void TearDown() override
-    {
-        VF_Create(nullptr, 0);
-        TabPage::TearDown();
     }
 };
 

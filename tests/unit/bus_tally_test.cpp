@@ -19,25 +19,14 @@ using Strings = std::vector<std::string>;
 static const char* const network_list = "Engineering Setup@System@Network Config@List";
 
 struct BusTally : BusTest {
-    static void ResetModes()
-    {
-        SYS_DualProc = SYS_Simul = SYS_DualSimul = SYS_4KMode = 0;
-        for (int i = 0; i < 8; i++)
-            SYS_Combine[i] = SYS_CombineCh[i] = 0;
-        std::fill_n(SYS_MEOperation, ME_COUNT, 0);
-        std::fill_n(GL_BoardMESplit, 5, 0);
-    }
     void SetUp() override
     {
         BusTest::SetUp();
         Global_InitBusNames();
-        ResetModes();
     }
     void TearDown() override
     {
         Global_FreeBusNames();
-        ResetModes(); // no mode outlives its test
-        Device_Init();
         BusTest::TearDown();
     }
 };

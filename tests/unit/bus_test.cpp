@@ -8,12 +8,6 @@ using testing::IsEmpty;
 using Strings = std::vector<std::string>;
 
 struct Bus : BusTest {
-    void TearDown() override
-    {
-        UnHackMessage(0);
-        GL_FM_Find_Window = 0;
-        BusTest::TearDown();
-    }
 };
 
 TEST_F(Bus, TheRowIsWalkedToItsFirstEmptyPlace)
@@ -186,10 +180,9 @@ struct BusHub : Bus {
     }
     void TearDown() override
     {
-        GL_ClipStoreSupportMode = 0;
-        Net_Init();
-        GL_NetReConnect_SHP = 0;
         Bus::TearDown();
+        Net_Init(); // without clip stores
+        GL_NetReConnect_SHP = 0;
     }
     Strings Drain(const std::string& lines)
     {

@@ -19,7 +19,7 @@ void Unit(DEVICE* table, int& max, const char* prefix, int number, DEVTYPE type)
 struct Devices : testing::Test {
     void SetUp() override
     {
-        Device_Init();
+        Harness_Reset();
         SYS_PnlMax = SYS_SwrMax = SYS_DmeMax = 0;
         Unit(DEV_Pnl, SYS_PnlMax, "PNL", 2, DEVTYPE_QRD31);
         Unit(DEV_Pnl, SYS_PnlMax, "PNL", 1, DEVTYPE_QRD33);
@@ -32,23 +32,9 @@ struct Devices : testing::Test {
         SYS_SwrAssign[1][3] = 4;
         SYS_SwrAssign[2][0] = 5;
         SYS_SwrAssign[2][1] = 1;
-        Nothing();
         GL_MainCounter = 1000;
-        (void)TakeQueuedCommands();
     }
-    void TearDown() override
-    {
-        Device_Init();
-        Nothing();
-    }
-    static void Nothing()
-    {
-        SYS_SetupTarget = SYS_DMEReference = 0;
-        SYS_DualProc = SYS_4KMode = SYS_Format_Size = 0;
-        SYS_FmemV6 = 1;
-        std::fill_n(GL_DmeModel, 4, 0);
-        std::fill_n(multiprogram2_me, ME_COUNT, 0);
-    }
+    void TearDown() override { Harness_Reset(); }
     static void Run1080p(DEVICE& dev)
     {
         dev.activeline = 6;

@@ -10,19 +10,8 @@
 #include <cstring>
 
 struct Gallery : testing::Test {
-    void SetUp() override
-    {
-        Harness_Reset();
-        Close();
-    }
-    void TearDown() override
-    {
-        Close();
-        CreatePage(PAGE_TOP);
-        Page_Reset();
-        GL_CreatePage = 0;
-        (void)TakeQueuedCommands();
-    }
+    void SetUp() override { Harness_Reset(); }
+    void TearDown() override { Harness_Reset(); }
     static void Close()
     {
         CloseWindow();

@@ -1,9 +1,11 @@
 #include "bus_probe.h"
 #include "info.h"
 #include "initread.h"
+#include <algorithm>
 #include <climits>
 #include <cstring>
 #include <gmock/gmock.h>
+#include <iterator>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -20,27 +22,8 @@ struct Info : BusTest {
     void SetUp() override
     {
         BusTest::SetUp();
-        Reset();
-    }
-    void TearDown() override
-    {
-        Reset();
-        BusTest::TearDown();
-    }
-    static void Reset()
-    {
-        for (int& status : GL_ProcStatus)
-            status = 0;
-        for (int& prog : FileProc_Prog)
-            prog = 0;
-        for (int i = 0; i < ME_COUNT; i++)
-            me_config_type[i] = multiprogram2_me[i] = 0;
-        for (int i = 0; i < PANEL_ROWS; i++) {
-            GL_MEAssign[i] = -1;
-            GL_MainSubAssign[i] = 0;
-        }
-        FileProc_Timeout = GL_FileProcessing = SYS_SetupTarget = 0;
-        GL_InitialPage = PAGE_TOP;
+        std::fill(std::begin(FileProc_Prog), std::end(FileProc_Prog), 0);
+        FileProc_Timeout = 0;
     }
 };
 
@@ -75,8 +58,6 @@ TEST_F(Info, AValueLandsInItsPlace)
         Deliver(c.path, c.value);
         EXPECT_EQ(*c.state, c.expected) << c.path << "#" << c.value;
     }
-    GL_UnnecessaryThumb = GL_USB_AutoScan = GL_SRAM_12K_Extension = 0;
-    GL_MouseSliderControl = GL_ScreenSaverInterval = GL_ErrorPopup = 0;
 }
 
 TEST_F(Info, ALostServerTakesAllProcessorsWithIt)

@@ -12,17 +12,7 @@ struct InitialReadTest : BusTest {
     void SetUp() override
     {
         BusTest::SetUp();
-        GL_InitRead = GL_InitReadStatus_Busy = 0;
         GL_MainCounter = 50;
-        for (int& status : GL_InitReadStatus)
-            status = 0;
-    }
-    void TearDown() override
-    {
-        GL_InitRead = GL_InitReadStatus_Busy = 0;
-        for (int& status : GL_InitReadStatus)
-            status = 0;
-        BusTest::TearDown();
     }
 };
 

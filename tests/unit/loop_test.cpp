@@ -65,13 +65,7 @@ struct Loop : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        SDL_Event e;
-        while (SDL_PollEvent(&e)) {
-        }
         GL_ChatteringTime = 130;
-        GL_CreatePage = 0;
-        GL_InitRead = GL_InitProgress = 0;
-        GL_MouseWheelDirection = 0;
         CopyServerAddress();
         Page = &probe_page;
         PC_Create(&probe_code, 0);
@@ -79,7 +73,7 @@ struct Loop : testing::Test {
         MainPass();
         Clear();
     }
-    void TearDown() override { PC_Create(nullptr, 0); }
+    void TearDown() override { Harness_Reset(); }
 
     static void CopyServerAddress()
     {

@@ -46,35 +46,16 @@ void Install(const char* unit)
     snprintf(Page_InstallUnit, sizeof Page_InstallUnit, "%s", unit);
 }
 
-// As at process start.
-void Nothing()
-{
-    Harness_Reset();
-    Device_Init();
-    SYS_SetupTarget = SYS_DMEReference = SYS_DualProc = SYS_Simul = SYS_3DMode = SYS_4KMode = 0;
-    SYS_Format_Size = SYS_Format_Freq = SYS_Format_Scan = 0;
-    SYS_KeyTransitionME1 = SYS_KeyTransitionME2 = SYS_KeyTransitionME3 = 0;
-    SYS_KeyTransitionME4 = SYS_KeyTransitionME5 = SYS_KeyTransitionPP = 0;
-    GL_AllPageDisplayMode = GL_KeyRowMode = 0;
-    for (int* flags : {SYS_Combine, SYS_CombineCh})
-        std::fill_n(flags, 8, 0);
-    for (int* flags : {SYS_MEOperation, multiprogram2_me, me_config_type})
-        std::fill_n(flags, ME_COUNT, 0);
-    std::fill_n(GL_BoardMESplit, 5, 0);
-    for (int* units : {GL_DmeSdiIF, GL_DmeModel})
-        std::fill_n(units, 4, 0);
-}
-
 // One switcher of the middle generation, one effects unit, one panel, nothing special on.
 void Standard()
 {
-    Nothing();
+    Harness_Reset();
     Dme(3); // FXU50
     Switcher(DEVTYPE_KTR40A);
 }
 
 struct PageRules : testing::Test {
-    void TearDown() override { Nothing(); }
+    void TearDown() override { Harness_Reset(); }
 };
 
 struct Case {

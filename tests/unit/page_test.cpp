@@ -24,30 +24,13 @@ uint32_t KeyPage(int n)
 struct PageTest : testing::Test {
     void SetUp() override
     {
-        Nothing();
+        Harness_Reset();
         unlink(LOG_FILE);
         Log_Init(LOG_FILE, LOG_FILE_SIZE);
         Log_SetLevel(LOG_LIFE);
         log_read = 0;
-        (void)TakeQueuedCommands();
     }
-    void TearDown() override
-    {
-        Log_Init(nullptr, LOG_FILE_SIZE);
-        Nothing();
-    }
-    static void Nothing() // as at process start
-    {
-        Harness_Reset();
-        Device_Init();
-        GL_CreatePage = 0;
-        SYS_Simul = SYS_DualProc = SYS_3DMode = GL_AllPageDisplayMode = 0;
-        GL_Macro_Offline_Store = GL_Macro_Online_TrueOrFalse = GL_MenuMacro_Edit = 0;
-        for (int* flags : {SYS_MEOperation, multiprogram2_me})
-            std::fill_n(flags, ME_COUNT, 0);
-        std::fill_n(GL_DmeModel, 4, 0);
-        std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
-    }
+    void TearDown() override { Harness_Reset(); }
 
     // What has been logged since the last call.
     std::string Logged()

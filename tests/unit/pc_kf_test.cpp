@@ -283,15 +283,8 @@ struct RegionPage : KeyframePage {
     void SetUp() override
     {
         KeyframePage::SetUp();
-        SetupLock = {};
         kf::Select({1, 0x03, 0, 0, 0, 0, 0, 0}); // M/E-1, the reference, and P/P
         Open(0x61170000);
-    }
-    void TearDown() override
-    {
-        SetupLock = {};
-        SetupMenu_Max = 0;
-        KeyframePage::TearDown();
     }
 };
 

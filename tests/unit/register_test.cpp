@@ -86,14 +86,11 @@ struct Registers : BusTest {
         BusTest::SetUp();
         Register_Free();
         Register_StatusReport(1);
-        DualLink(false);
     }
     void TearDown() override
     {
-        DualLink(false);
         Register_StatusReport(0);
         Register_Free();
-        SYS_Format_Size = SYS_Format_Freq = SYS_Format_Scan = 0;
         BusTest::TearDown();
     }
     static void DualLink(bool on)

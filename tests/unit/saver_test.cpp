@@ -46,48 +46,22 @@ long Light()
     return sum;
 }
 
-void DrainEvents()
-{
-    SDL_Event e;
-    while (SDL_PollEvent(&e)) {
-    }
-}
-
 } // namespace
 
 struct Saver : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        SDL_ShowCursor(0);
-        DrainEvents();
-        BA_SetUsbAccess(0);
-        BA_SetFtpAccess(0);
-        BA_SetHDDAccess(0);
         ASSERT_EQ(CreatePage(KEY_PAGE), 0);
         GL_ScreenSaverInterval = 1;
-        EndScreenSaver();
+        EndScreenSaver(); // counts from here
         (void)TakeQueuedCommands();
     }
     void TearDown() override
     {
-        GL_ContinuousLoad = GL_MenuMacro_Run = GL_SSver_PVW = 0;
-        Wake();
-        GL_ScreenSaverInterval = 1200;
-        GL_ScreenSaverPTN_Mode = SAVER_PATTERNS;
-        GL_ScreenSaverVariable_speed = 0;
-        GL_ScreenSaverPath_Time = 5;
-        CopyText(GL_Scr_disp_ImagePath, "/mnt/data/SSrc");
-        for (char* name : {GL_Scr_disp_name[0], GL_Scr_disp_name[1], GL_Scr_disp_name[9]})
-            name[0] = '\0';
-        CopyText(GL_Scr_disp_name[0], "KTR-20");
-        SYS_RefSwrType = DEVTYPE_UNKNOWN;
-        BA_SetUsbAccess(0);
-        GL_CreatePage = 0;
         std::filesystem::remove_all(FOLDER);
         std::filesystem::remove(SETTINGS);
-        Page_Reset();
-        (void)TakeQueuedCommands();
+        Harness_Reset();
     }
 
     // The pointer that comes back with the page would stand in the pictures.

@@ -117,15 +117,9 @@ std::vector<std::string> Heard()
 struct Windows : BusTest {
     void SetUp() override
     {
-        Harness_Reset();
         BusTest::SetUp();
         probe::answer = HearMessage;
         heard.clear();
-    }
-    void TearDown() override
-    {
-        CloseWindow();
-        BusTest::TearDown();
     }
     static void Pass(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
 };
