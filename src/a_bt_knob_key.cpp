@@ -1,5 +1,7 @@
-// Numbered knob links of a key's pages. The list for authors of pages; "On" is the end of a path
-// that the button must have among its dependencies, without a condition behind the "#":
+// Numbered knob links of a key's pages. The list for authors of pages; a quoted end of a path
+// stands for a dependency that the button must have, without a condition behind the "#". Where the
+// rotation of the key decides, "~2@Processed Key@Rotation#" among them lets a shown column follow
+// it:
 //
 //    1 Border             1st to 4th dependency: key type, separate edge, two that halve the range
 //    2 Drop Border        "@Separate Edge", "@Fine Key"

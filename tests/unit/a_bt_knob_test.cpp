@@ -192,6 +192,16 @@ TEST_F(KnobLinks, AKeyThatTurnsHasItsOwnBoxes)
     }
 }
 
+TEST_F(KnobLinks, AShownColumnFollowsTheRotationOfTheKey)
+{
+    SetTree({"M/E-1", "Key1", "Processed Key"}, 0x11160000);
+    OpenLink(23, {"~2@Processed Key@Rotation#"});
+    Press(17);
+    (void)TakeQueuedCommands();
+    SendDummyTally("M/E-1@Key1@Processed Key@Rotation#true");
+    EXPECT_THAT(TakeQueuedCommands(), Contains("assign Knob0#M/E-1@Key1@Processed Key@Rotation@X"));
+}
+
 TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumn)
 {
     OpenLink(57, {"~@Color#"});
