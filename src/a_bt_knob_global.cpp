@@ -15,19 +15,22 @@
 //  129 Output Phase       format
 //  130 Frame Delay        "@Lines" (in lines, too); format
 #include "a_bt_knob_private.h"
+#include "page_table/nb_dme.h"
 #include "page_table/nb_global.h"
 #include "safeguards.h"
 
 constexpr KnobCase knob_cases_global[] = {
     {119, {SCREEN_WIDE}, Of(nb_ge_shadow)},
-    {120, {Words("@Source", "Near"), SCREEN_WIDE}, Of(nb_ge_light, nb_ge_light, nb_ge_light_near)},
+    {120,
+     {Words("@Source", "Near"), SCREEN_WIDE},
+     Of(nb_dme_light_distant, nb_dme_light_distant, nb_dme_light_near)},
     {121, {SCREEN_WIDE}, Of(nb_ge_brick)},
     {122, {On("@Intersect")}, Of(nb_ge_combine_depth, nb_ge_combine_soft)},
     {123, {On("@Trail@Strobe")}, Of(nb_ge_trail, nb_ge_trail_strobe)},
     {124, {Words("@Fill", "Video")}, Of(nb_ge_bkgd, nb_ge_bkgd_video)},
-    {125, {SCREEN_WIDE}, Of(nb_ge_location)},
-    {126, {On("@Spin")}, Of(nb_ge_rotation, nb_ge_spin)},
-    {127, {On("@Separate")}, Of(nb_ge_size, nb_ge_size_sep)},
+    {125, {SCREEN_WIDE}, Of(nb_dme_trans_location)},
+    {126, {On("@Spin")}, Of(nb_dme_trans_rotation, nb_dme_trans_spin)},
+    {127, {On("@Separate")}, Of(nb_dme_trans_size, nb_ge_size_sep)},
     {128, {SCREEN_WIDE}, Of(nb_misc_safe_area)},
     {129, {HD}, Of(nb_misc_output_phase)},
     {130, {On("@Lines"), HD}, Of(nb_misc_frame_delay, nb_misc_frame_delay, nb_misc_line_delay)},

@@ -1,5 +1,6 @@
 // nb_global: knob tables of the global effects, which move several channels as one, and of settings that belong to no
-// menu of their own, for the numbered links that choose among them. Units as in nb_dme.
+// menu of their own, for the numbered links that choose among them. Units, and what a single channel has as well, as in
+// nb_dme.
 #pragma once
 #include "nb_rows.h"
 
@@ -7,16 +8,6 @@ inline constexpr auto nb_ge_shadow = FamilyOf<2>([](int wide) {
     return Column(Span   (1, "H",       "~@Shadow@H", Wide(2, wide)),
                   Span   (2, "V",       "~@Shadow@V", 2),
                   Percent(3, "Density", "~@Shadow@Density"));
-});
-inline constexpr auto nb_ge_light = Column(
-    Degrees(1, "Azimuth",   "~@Light@Azimuth"),
-    Span   (2, "Elevation", "~@Light@Elevation", 90),
-    Percent(3, "Intensity", "~@Light@Intensity"));
-inline constexpr auto nb_ge_light_near = FamilyOf<2>([](int wide) {
-    return Column(Span   (1, "X",         "~@Light@X", Wide(4, wide)),
-                  Span   (2, "Y",         "~@Light@Y", 4),
-                  Span   (3, "Z",         "~@Light@Z", 10),
-                  Percent(4, "Intensity", "~@Light@Intensity"));
 });
 // A block as wide as its front picture.
 inline constexpr auto nb_ge_brick = FamilyOf<2>([](int wide) {
@@ -40,20 +31,6 @@ inline constexpr auto nb_ge_bkgd = Column(
     Percent(2, "Saturat'n", "~@Bkgd@Saturation"),
     Hue    (3,              "~@Bkgd@Hue"));
 inline constexpr auto nb_ge_bkgd_video = Column(Percent(1, "Level", "~@Bkgd@Level"));
-inline constexpr auto nb_ge_location = FamilyOf<2>([](int wide) {
-    return Column(Span(1, "X", "~@Location@X", Wide(4, wide)),
-                  Span(2, "Y", "~@Location@Y", 4),
-                  Span(3, "Z", "~@Location@Z", 10));
-});
-inline constexpr auto nb_ge_rotation = Column(
-    Degrees(1, "X", "~@Rotation@X"),
-    Degrees(2, "Y", "~@Rotation@Y"),
-    Degrees(3, "Z", "~@Rotation@Z"));
-inline constexpr auto nb_ge_spin = Column(
-    Turns(1, "X Turns", "~@Rotation@X Turns"),
-    Turns(2, "Y Turns", "~@Rotation@Y Turns"),
-    Turns(3, "Z Turns", "~@Rotation@Z Turns"));
-inline constexpr auto nb_ge_size = Column(Percent(1, "Size", "~@Size@Size", 400));
 inline constexpr auto nb_ge_size_sep = Column(
     Percent(1, "Size X", "~@Size@X", 400),
     Percent(2, "Size Y", "~@Size@Y", 400),

@@ -95,10 +95,6 @@ inline constexpr auto nb_me_dmewipe_crop = FamilyOf<2>([](int hd) {
                   Box(2, "V",   "LOCAL", 100,  0, hd ? NB_2 : NB_1),
                   Box(3, "All", "LOCAL", -100, 0, hd ? NB_2 : NB_1));
 });
-inline constexpr auto nb_me_dmewipe_modify_position = FamilyOf<2>([](int wide) {
-    return Column(Span(1, "H", "~@Position@H", Wide(100, wide)),
-                  Span(2, "V", "~@Position@V", 100));
-});
 inline constexpr auto nb_me_dmewipe_rotation = Column(Turns(1, "Rotation", "~@Rotation@Rotation"));
 inline constexpr auto nb_me_dmewipe_rotation_axis = FamilyOf<2>([](int wide) {
     return Column(Turns(1, "Rotation", "~@Rotation@Rotation"),
@@ -148,12 +144,8 @@ inline constexpr auto nb_me_dmewipe_transparency_fade = Column(
     Percent(1, "Start", "~@Transparency@Start"),
     Percent(2, "End",   "~@Transparency@End"));
 
-// --- Background colours: one, or a mix of two along a pattern ---
+// --- Background colours: one, which is that of a matte, or a mix of two along a pattern ---
 
-inline constexpr auto nb_bkgd_color = Column(
-    Percent(1, "Luminance", "~@Color 1@Luminance"),
-    Percent(2, "Saturat'n", "~@Color 1@Saturation"),
-    Hue    (3,              "~@Color 1@Hue"));
 inline constexpr auto nb_bkgd_color2 = Column(
     Percent(1, "Luminance", "~@Color 2@Luminance"),
     Percent(2, "Saturat'n", "~@Color 2@Saturation"),
