@@ -162,8 +162,14 @@ static bool IsTable(const NB_TBL* nb)
 
 static void AddKnobs(Values* values, const PAGE& page, const BT_TBL& b)
 {
+    constexpr int TABLES = 64; // of one number
+    const NB_TBL* tables[TABLES] = {};
     if (IsTable(b.nb))
         AddBoxes(values, page, b.nb, b.caption);
+    const int number = b.nb ? SpecialKnobNumber(b.nb) : 0;
+    const int count = number ? special_knob_tables(number, tables, TABLES) : 0;
+    for (int i = 0; i < count; i++)
+        AddBoxes(values, page, tables[i], b.caption);
 }
 
 // A pattern is a number of any layer, and each layer may bring boxes.

@@ -187,12 +187,11 @@ class Recall(StoreTest, StreamTest):
 
 class Rules(StoreTest):
     def test_a_pattern_key_has_no_clean_mode_and_no_key_position(self):
-        clean, position = "M/E-1@Key1@Type@Clean Mode", "M/E-1@Key1@Type@Key Position"
-        for path in (clean, position, "M/E-1@Key2@Type@Clean Mode"):
-            self.follow(path)
-            self.put(path, "true")
-        self.assertEqual(self.put(KEY_TYPE, "Chroma"), [])
-        self.assertEqual(self.put(KEY_TYPE, "Wipe Pattern"), [f"{clean}#false", f"{position}#false"])
+        for what in ("Clean Mode", "Key Position"):
+            path = f"M/E-1@Key1@Type@{what}@"
+            for key_type, told in (("Luminance", []), ("Key Wipe Pattern", [f"{path}Key Wipe Pattern#false"])):
+                self.follow(path + key_type)
+                self.assertEqual(self.put(path + key_type, "true"), [f"{path}{key_type}#true"] + told)
 
 
 if __name__ == "__main__":
