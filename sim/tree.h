@@ -13,7 +13,7 @@ enum ValueKind {
     KIND_WORD,   // one of the words, or "null": released
     KIND_NUM,    // a number that is clamped to the limits
     KIND_ACTION, // "true" makes it happen and falls back by itself
-    KIND_ORDER,  // the fields of its default in any order: "2,1,3"
+    KIND_ORDER,  // the fields of its default in another order: "2,1,3,4"
     KIND_LIST,   // rows; the first field of a row, or the first two, are its key
 };
 
