@@ -25,6 +25,16 @@ static struct {
     std::array<std::string, CHANNELS> users; // "M/E-1@Key1", empty: free
 } dm;
 
+// The key that has the channel, or the bank whose transition is such a wipe just now; empty: free.
+static std::string user_of(int channel)
+{
+    const std::string& key = dm.users[size_t(channel)];
+    const int bank = wipes[channel].bank;
+    const std::string word = bank == 0 ? "PGM/PST" : Text_Format("M/E-%d", bank);
+    const Node* const is_wipe = Tree_Find(word + "@Misc@Transition@DME Wipe");
+    return !key.empty() || !is_wipe || is_wipe->value != "true" ? key : word + "@DME Wipe";
+}
+
 static std::string selection_of(const std::string& key, int channel)
 {
     return key + "@Processed Key@DME Select@DME" + std::to_string(channel + 1);
@@ -58,11 +68,13 @@ static void show_channels_of(const std::string& key)
     Tree_Show(key + "@Processed Key@Channel Pairs", pairs);
 }
 
-static void show_status()
+void Dme_ShowStatus()
 {
     std::string status;
-    for (const std::string& user : dm.users)
+    for (int i = 0; i < CHANNELS; ++i) {
+        const std::string user = user_of(i);
         status += (status.empty() ? "" : ",") + (user.empty() ? "Free" : user);
+    }
     Tree_Show(STATUS, status);
 }
 
@@ -80,7 +92,7 @@ static void give(int channel, const std::string& key)
         show_channels_of(one);
     }
     Tree_ShowRow(ASPECT, aspect_row(channel));
-    show_status();
+    Dme_ShowStatus();
 }
 
 void Dme_Install()
@@ -88,7 +100,7 @@ void Dme_Install()
     dm = {};
     for (int i = 0; i < CHANNELS; ++i)
         Tree_ShowRow(ASPECT, aspect_row(i));
-    show_status();
+    Dme_ShowStatus();
     if (Node* node = Tree_Find(STATUS))
         node->initial = node->value;
 }
@@ -107,7 +119,7 @@ bool Dme_Put(const std::string& path, const std::string& value)
     if (channel < 0 || channel >= CHANNELS)
         return true;
     const std::string key = Text_Head(path, 2);
-    const std::string& user = dm.users[size_t(channel)];
+    const std::string user = user_of(channel);
     const bool may_take = user.empty() || user == key || Text_MatchesPath(path, OVERRIDE);
     if (value == "true" && may_take)
         give(channel, key);

@@ -25,7 +25,7 @@ static constexpr PathKind kinds[] = {
     {"*@*@Status@Key ON", "bool"},
     {"**@Status@Transition Position", PERCENT},
     {"**@FTB@Position", PERCENT},
-    {"**@FTB@Busy", "bool"},
+    {"**@FTB@*", "bool"},
     {"*@Misc@Transition@Auto Trans", "action"},
     {"*@Misc@Transition@Cut", "action"},
     // Keys. Each key type has a clean mode and a position of its own.

@@ -1,4 +1,5 @@
 #include "rules.h"
+#include "dme_channels.h"
 #include "text.h"
 #include "tree.h"
 #include <algorithm>
@@ -63,8 +64,11 @@ static void act_oppose(const Hit& hit)
 {
     double number = 0;
     Node* const node = Tree_Get(hit.target);
-    if (node && Text_ToNumber(hit.now, &number))
-        Tree_Show(hit.target, Tree_NumberText(node->type, -number));
+    if (!node || !Text_ToNumber(hit.now, &number))
+        return;
+    const bool has_limits = node->type.kind == KIND_NUM;
+    Tree_Show(hit.target,
+              has_limits ? Tree_NumberText(node->type, -number) : Text_Format("%.2f", -number));
 }
 
 // The values below one path as they are relative to it.
@@ -125,6 +129,11 @@ static void act_change_set(const Hit& hit)
     if (is_internal != (hit.now == "Internal"))
         Tree_Show(hit.target,
                   Tree_NumberText(pattern->type, number + (is_internal ? -INTERNAL : INTERNAL)));
+}
+
+static void act_show_channels(const Hit&)
+{
+    Dme_ShowStatus();
 }
 
 // --- The rules ---
@@ -189,6 +198,7 @@ static constexpr Rule rules[] = {
     {"**@Video Process@Unity", "true", act_default, "^@Hue", ""},
 
     // Wipes.
+    {"*@Misc@Transition@*", "", act_show_channels, "", ""},
     {"*@Wipe@*@Center", "true", act_default, "^@Position@H", ""},
     {"*@Wipe@*@Center", "true", act_default, "^@Position@V", ""},
     {"**@Pattern Limit@Set", "true", act_copy, "^@Limit", "~1@Status@Transition Position"},
@@ -199,6 +209,7 @@ static constexpr Rule rules[] = {
     {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Right@$", "25.00"},
 };
 
+// The sets come before the rules: a rule finds the others off.
 static constexpr OneOf one_ofs[] = {
     {"*@Wipe@Direction", "Normal,Reverse", true},
     {"*@Misc@Transition", "Mix,NAM,Super Mix,Preset Color Mix,Wipe,DME Wipe,Clip", true},
@@ -260,11 +271,11 @@ static void follow_one_of(const OneOf& set, const std::string& path, const std::
 
 void Rules_Follow(const std::string& path, const std::string& value)
 {
+    for (const OneOf& set : one_ofs)
+        follow_one_of(set, path, value);
     for (const Rule& rule : rules)
         if (Text_MatchesPath(path, rule.path) && is_started_by(rule.values, value))
             rule.act({path, value, rule_path(path, rule.target), rule_path(path, rule.value)});
-    for (const OneOf& set : one_ofs)
-        follow_one_of(set, path, value);
 }
 
 void Rules_Install()

@@ -109,20 +109,19 @@ bool Tree_Accepts(const ValueType& type, const std::string& wanted, std::string*
     return true;
 }
 
-// "diff1.50": a panel counts detents while the value moves on under it.
-static bool tree_is_relative(const Node& node, const std::string& wanted, double* number)
+// "diff8.00": steps of the last decimal, since a panel counts them while the value moves on under
+// it. The steps of a fast turn grow beyond all limits of the values.
+static bool tree_is_relative(const Node& node, const std::string& wanted, double* steps)
 {
-    const bool is_number = node.type.kind == KIND_NUM || node.type.kind == KIND_ANY;
-    return is_number && Text_Begins(wanted, "diff") && Text_ToNumber(wanted.substr(4), number);
+    return node.type.kind == KIND_NUM && Text_Begins(wanted, "diff") &&
+           Text_ToNumber(wanted.substr(4), steps);
 }
 
-static std::string tree_moved(const Node& node, double by)
+static std::string tree_moved(const Node& node, double steps)
 {
     double number = 0;
     (void)Text_ToNumber(node.value, &number); // no number yet: from 0
-    if (node.type.kind == KIND_NUM)
-        return Tree_NumberText(node.type, number + by);
-    return Text_Format("%.2f", number + by);
+    return Tree_NumberText(node.type, number + steps * std::pow(10, -node.type.decimals));
 }
 
 // Keys 1 to 4 have an order among themselves, and so have keys 5 to 8.
@@ -142,9 +141,9 @@ static bool tree_is_order(const std::string& list, const std::string& wanted)
 
 static bool tree_accept(const Node& node, const std::string& wanted, std::string* value)
 {
-    double by = 0;
-    if (tree_is_relative(node, wanted, &by)) {
-        *value = tree_moved(node, by);
+    double steps = 0;
+    if (tree_is_relative(node, wanted, &steps)) {
+        *value = tree_moved(node, steps);
         return true;
     }
     if (node.type.kind == KIND_ORDER && !tree_is_order(node.initial, wanted))

@@ -53,7 +53,7 @@ const std::map<std::string, Node>& Tree_All();
 void Tree_Clear();
 
 // --- Changing; nobody is told yet ---
-// What the client asks for, within the type; "diff1.50" is relative to the value. *tally gets the
+// What the client asks for, within the type; "diff8.00" moves the value. *tally gets the
 // value to tell: the new one or, when refused, the old.
 PutResult Tree_Put(Node& node, const std::string& wanted, std::string* tally);
 bool Tree_Default(Node& node);                                       // true when it changed
