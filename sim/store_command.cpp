@@ -71,7 +71,7 @@ static void keep_pattern(const Kind& kind, int row, Register& r)
 static bool is_kept(const Node& node)
 {
     return node.type.kind != KIND_ACTION && node.type.kind != KIND_LIST &&
-           !Dme_IsSelection(node.path);
+           !Dme_IsSelection(node.path) && !Text_MatchesPath(node.path, "**@Transition Position");
 }
 
 static void keep_values(Register& r, const std::string& path)
