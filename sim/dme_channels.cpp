@@ -7,6 +7,7 @@ static constexpr int CHANNELS = 8;
 static constexpr const char* SELECTION = "*@*@Processed Key@DME Select@DME*";
 static constexpr const char* OVERRIDE = "*@*@Processed Key@Override@DME*";
 static const std::string STATUS = "M/E-1@Key1@Processed Key@DME Status"; // one for the whole system
+static const std::string CHANNEL = "DME@Status@Channel@"; // for the cells of the effects menu
 static const std::string ASPECT = "Engineering Setup@System@Format@DME Aspect";
 
 namespace
@@ -74,6 +75,7 @@ void Dme_ShowStatus()
     for (int i = 0; i < CHANNELS; ++i) {
         const std::string user = user_of(i);
         status += (status.empty() ? "" : ",") + (user.empty() ? "Free" : user);
+        Tree_Show(CHANNEL + std::to_string(i + 1), user);
     }
     Tree_Show(STATUS, status);
 }

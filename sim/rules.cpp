@@ -189,9 +189,9 @@ static constexpr Rule rules[] = {
     {"**@Crop@All", "", act_oppose, "^@Right", ""},
     {"**@Crop@All", "", act_oppose, "^@Top", ""},
     {"**@Crop@All", "", act_follow, "^@Bottom", ""},
-    // What a 16:9 picture has more than a 4:3 one.
-    {"**@Border/Crop@4:3 Crop", "true", act_set, "^@Crop@Left", "-25.00"},
-    {"**@Border/Crop@4:3 Crop", "true", act_set, "^@Crop@Right", "25.00"},
+    // Of a 16:9 picture three quarters are a 4:3 one.
+    {"**@Border/Crop@4:3 Crop", "true", act_set, "^@Crop@Left", "-75.00"},
+    {"**@Border/Crop@4:3 Crop", "true", act_set, "^@Crop@Right", "75.00"},
     {"*@*@Processed Key@Center", "true", act_default, "^@Location", ""},
     {"**@Video Process@Unity", "true", act_default, "^@Luminance", ""},
     {"**@Video Process@Unity", "true", act_default, "^@Chroma", ""},
@@ -205,8 +205,8 @@ static constexpr Rule rules[] = {
     {"**@Pattern Select@Channel Set", "", act_change_set, "^@Pattern", ""},
     {"**@Modify@Position@Center@*", "true", act_default, "^^@Position@H@$", ""},
     {"**@Modify@Position@Center@*", "true", act_default, "^^@Position@V@$", ""},
-    {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Left@$", "-25.00"},
-    {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Right@$", "25.00"},
+    {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Left@$", "-75.00"},
+    {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Right@$", "75.00"},
 };
 
 // The sets come before the rules: a rule finds the others off.

@@ -73,13 +73,13 @@ static const Preset presets[] = {
     {"Engineering Setup@System@Format@Reference", "SWR1,SWR2,DME1,DME2,DME3,DME4,PNL1,PNL2", "BB"},
     {"Engineering Setup@System@Format@3D Mode", "SWR1,SWR2,DME1,DME2,DME3,DME4", "Off"},
     {"Engineering Setup@System@Format@4K Mode", "", "Off"},
-    {"Info@Board Config@Unit Model", PNLS, "9"},
+    {"Info@Board Config@Unit Model", PNLS, "8"}, // the large panel: the small one lacks functions
     {"Info@Board Config@Unit Model", SWRS, "10"},
     // An entry for each place; 0 is an empty one.
     {"Info@Board Config@Board Exist Set",
      "SWR1@EEPROM,SWR1@Auto Scan,SWR2@EEPROM,SWR2@Auto Scan,DME1,DME2,DME3,DME4",
      "1,1,1,1,1,1,1,1"},
-    {"Engineering Setup@DME@Model", DMES, "4"},
+    {"Engineering Setup@DME@Model", DMES, "3"}, // with all pages of the effects menu
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
     {"MPE@Fx@Channel@Selected", "", "F"},         // masks of channels, hexadecimal
     {"MPE@Fx@Channel@Reference", "", "00000001"}, // binary, channel 1 last

@@ -109,19 +109,19 @@ bool Tree_Accepts(const ValueType& type, const std::string& wanted, std::string*
     return true;
 }
 
-// "diff8.00": steps of the last decimal, since a panel counts them while the value moves on under
-// it. The steps of a fast turn grow beyond all limits of the values.
-static bool tree_is_relative(const Node& node, const std::string& wanted, double* steps)
+// "diff8.00": so many hundredths. A panel counts the steps of a knob while the value moves on under
+// it; those of a fast turn go far beyond the limits.
+static bool tree_is_relative(const Node& node, const std::string& wanted, double* hundredths)
 {
     return node.type.kind == KIND_NUM && Text_Begins(wanted, "diff") &&
-           Text_ToNumber(wanted.substr(4), steps);
+           Text_ToNumber(wanted.substr(4), hundredths);
 }
 
-static std::string tree_moved(const Node& node, double steps)
+static std::string tree_moved(const Node& node, double hundredths)
 {
     double number = 0;
     (void)Text_ToNumber(node.value, &number); // no number yet: from 0
-    return Tree_NumberText(node.type, number + steps * std::pow(10, -node.type.decimals));
+    return Tree_NumberText(node.type, number + hundredths / 100);
 }
 
 // Keys 1 to 4 have an order among themselves, and so have keys 5 to 8.
@@ -141,9 +141,9 @@ static bool tree_is_order(const std::string& list, const std::string& wanted)
 
 static bool tree_accept(const Node& node, const std::string& wanted, std::string* value)
 {
-    double steps = 0;
-    if (tree_is_relative(node, wanted, &steps)) {
-        *value = tree_moved(node, steps);
+    double hundredths = 0;
+    if (tree_is_relative(node, wanted, &hundredths)) {
+        *value = tree_moved(node, hundredths);
         return true;
     }
     if (node.type.kind == KIND_ORDER && !tree_is_order(node.initial, wanted))

@@ -32,7 +32,7 @@ class Values(MeTest):
             self.text.send(f"put {path}#{wanted}")
             self.assertEqual(self.text.line(), f"{path}#{told}")
 
-    def test_a_relative_put_counts_steps_and_stops_at_the_limit(self):
+    def test_a_relative_put_counts_hundredths_and_stops_at_the_limit(self):
         path = "M/E-2 SUB@DME Wipe@Modify@Position@Position@H@1"
         for steps, told in (("8.00", "0.08"), ("-76", "-0.68"), ("11536.00", "114.68"), ("11536.00", "200.00"), ("", "200.00")):
             self.text.send(f"put {path}#diff{steps}")
@@ -56,7 +56,7 @@ class Rules(MeTest):
         cases = [  # set before; the put; what others hear
             ((KEY + "Edge@Edge#Border", KEY + "Edge@Key Drop#true"), (KEY + "Edge@Edge", "Normal"), [KEY + "Edge@Key Drop#false"]),
             ((), (crop + "V", "12.50"), [crop + "Top#12.50", crop + "Bottom#-12.50"]),
-            ((), (KEY + "Resizer@Border/Crop@4:3 Crop", "true"), [crop + "Left#-25.00", crop + "Right#25.00"]),
+            ((), (KEY + "Resizer@Border/Crop@4:3 Crop", "true"), [crop + "Left#-75.00", crop + "Right#75.00"]),
             ((effect + "Mosaic#true",), (effect + "Defocus", "true"), [effect + "Mosaic#false"]),
             ((wipe + "Normal#true", wipe + "Reverse#false"), (wipe + "Reverse", "true"), [wipe + "Normal#false"]),
             ((wipe + "Normal#false", wipe + "Reverse#true"), (wipe + "Reverse", "false"), [wipe + "Reverse#true"]),
