@@ -4,6 +4,10 @@
 #include "a_bt.h"
 #include "a_pc.h"
 
+// --- Masks (pc_me_key_mask) ---
+extern const PC_TBL pc_me_mainmask; // with the list behind "Source"
+extern const PC_TBL pc_me_submask;
+
 // --- Resizer (pc_me_key_resizer) ---
 extern const PC_TBL pc_me_key_resizer;
 extern const PC_TBL pc_me_key_resizer_resproc;
