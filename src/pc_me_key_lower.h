@@ -16,6 +16,11 @@ extern const PC_TBL pc_me_key_resizer_enhancedeffect;
 extern const PC_TBL pc_me_key_resizer_mask;
 extern const PC_TBL pc_me_key_resizer_rotation;
 
+// --- Processed key (pc_me_key_prockey) ---
+extern const PC_TBL pc_me_key_prockey;
+extern const PC_TBL pc_me_key_prockey_mon;
+extern const PC_TBL pc_me_key_prockey_bordercrop; // pc_me_key_prockey_crop
+
 // Enable or disable button id by the page code's verdict, painting only when that changes. The
 // button must have no conditions in its row: enabling it would pass over them. Unknown ids are
 // ignored.
