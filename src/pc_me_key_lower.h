@@ -21,6 +21,10 @@ extern const PC_TBL pc_me_key_prockey;
 extern const PC_TBL pc_me_key_prockey_mon;
 extern const PC_TBL pc_me_key_prockey_bordercrop; // pc_me_key_prockey_crop
 
+// --- Transition (pc_me_key_trans) ---
+extern const PC_TBL pc_me_key_trans_same;
+extern const PC_TBL pc_me_key_trans_independ;
+
 // Enable or disable button id by the page code's verdict, painting only when that changes. The
 // button must have no conditions in its row: enabling it would pass over them. Unknown ids are
 // ignored.
