@@ -36,14 +36,17 @@ constexpr CropBox crop_boxes[] = {
 
 constexpr int BTN_CROP = 33;
 constexpr int BTN_CROP_4_3 = 34;
-constexpr int BTN_FILL[] = {20, 21, 22, 36, 37};
-constexpr int BTN_ONLY_MIX[] = {22, 37};
+constexpr struct {
+    int button;
+    bool needs_mix;
+} fill_buttons[] = {{20, false}, {21, false}, {22, true}, {36, false}, {37, true}};
 } // namespace
 
 static struct {
     char CropCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Processed Key@Border/Crop@Crop@"; the edge follows
     char PageCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Processed Key@Border/Crop@"
     double Edge[EDGES] = {CROP_MAX, -CROP_MAX, CROP_MAX, -CROP_MAX};
+    bool IsKnown[EDGES] = {}; // the server has told the edge
     bool IsBorder = false;
     bool IsMix = false;
     bool IsCrop = false;
@@ -51,10 +54,8 @@ static struct {
 
 static void show_border_greys()
 {
-    for (const int id : BTN_FILL)
-        ME_DisableKey(id, !Crop.IsBorder);
-    for (const int id : BTN_ONLY_MIX)
-        ME_DisableKey(id, !Crop.IsBorder || !Crop.IsMix);
+    for (const auto& f : fill_buttons)
+        ME_DisableKey(f.button, !Crop.IsBorder || (f.needs_mix && !Crop.IsMix));
     ME_DisableKey(BTN_CROP_4_3, !Crop.IsCrop);
 }
 
@@ -63,7 +64,8 @@ static void show_crop_boxes()
     if (BT_GetKnobAssign() != BTN_CROP)
         return;
     for (const CropBox& box : crop_boxes)
-        (void)NB_SetVar(box.id, Crop.Edge[box.shown]); // the boxes are those of the owner
+        if (Crop.IsKnown[box.shown])
+            (void)NB_SetVar(box.id, Crop.Edge[box.shown]); // the boxes are those of the owner
 }
 
 static void edge_tally(const char* edge, const char* value)
@@ -73,8 +75,10 @@ static void edge_tally(const char* edge, const char* value)
             continue;
         char* end = nullptr;
         const double v = strtod(value, &end);
-        if (end != value && std::isfinite(v))
-            Crop.Edge[i] = v;
+        if (end == value || !std::isfinite(v))
+            return;
+        Crop.Edge[i] = v;
+        Crop.IsKnown[i] = true;
         show_crop_boxes();
     }
 }

@@ -83,6 +83,25 @@ struct KeyProcessCrop : KeyProcessPages {
     }
 };
 
+TEST_F(KeyProcessCrop, TheFillNeedsABorderAndItsSecondColorAMix)
+{
+    static const struct {
+        const char* line;
+        std::set<int> disabled;
+    } steps[] = {
+        {"Border#false", {20, 21, 22, 34, 36, 37}},
+        {"Border Fill#Mix", {20, 21, 22, 34, 36, 37}},
+        {"Border#true", {34}},
+        {"Border Fill#Flat", {22, 34, 37}},
+        {"Crop#true", {22, 37}},
+    };
+    Open(0x12160003);
+    for (const auto& step : steps) {
+        Tell(std::string("M/E-2@Key1@Processed Key@Border/Crop@") + step.line);
+        EXPECT_EQ(Disabled(), step.disabled) << step.line;
+    }
+}
+
 // The banks of the two page groups are told in different ways: by address, or rounded and exact.
 TEST_F(KeyProcessCrop, OneValueBecomesTheEdges)
 {
