@@ -50,7 +50,7 @@ static_assert(ButtonsAreSound(bt_me_key_prockey_mon));
 
 // On the second layer two edges or all four go together. Such a value exists only here: the page code turns it into
 // edges, and takes the bare counts of the knobs. V runs backwards, so that every bar is empty where nothing is cropped.
-inline constexpr NB_TBL nb_me_key_prockey_crop[] = {
+inline constexpr NB_TBL nb_me_key_prockey_edges[] = {
     {.id = 1,  .caption = "Top",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Crop@Top"},
     {.id = 2,  .caption = "Left",   .type = NB_2, .min = -100, .max = 0,   .cmd = "~@Crop@Left"},
     {.id = 3,  .caption = "Right",  .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Crop@Right"},
@@ -61,12 +61,12 @@ inline constexpr NB_TBL nb_me_key_prockey_crop[] = {
     {.id = 19, .caption = "All",    .type = NB_2, .min = -100, .max = 0,   .cmd = "LOCAL@Panel@Common@Knob2", .scale = 0.5},
     NB_END,
 };
-static_assert(BoxesAreSound(nb_me_key_prockey_crop));
+static_assert(BoxesAreSound(nb_me_key_prockey_edges));
 
 inline constexpr BT_TBL bt_me_key_prockey_bordercrop[] = {
     Toggle({.id = 17, .caption = "Border",     .group = "Border", .cmd = {"~@Border#*"}, .nb = SpecialKnob(5)}),
     BORDER_FILL,
-    Toggle({.id = 33, .caption = "Crop",       .group = "Crop", .cmd = {"~@Crop#*"}, .nb = nb_me_key_prockey_crop}),
+    Toggle({.id = 33, .caption = "Crop",       .group = "Crop", .cmd = {"~@Crop#*"}, .nb = nb_me_key_prockey_edges}),
     Action({.id = 34, .caption = "4:3 Crop",   .group = "Crop", .cmd = {"~@4:3 Crop#*"}}),
     BT_END,
 };
