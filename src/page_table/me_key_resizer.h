@@ -133,7 +133,7 @@ static_assert(ButtonsAreSound(bt_me_key_resizer_enhancedeffect));
 // --- Mask ---
 
 inline constexpr BT_TBL bt_me_key_resizer_mask[] = {
-    Toggle({.id = 17, .caption = "Resizer\nMask", .group = "Mask", .cmd = {"~@Mask#*"}, .nb = SpecialKnob(21)}),
+    Toggle({.id = 17, .caption = "Mask",         .group = "Mask", .cmd = {"~@Mask#*"}, .nb = SpecialKnob(21)}),
     Toggle({.id = 18, .caption = "Mask\nInvert",  .group = "Mask", .cmd = {"~@Mask Invert#*"}}),
     BT_END,
 };
