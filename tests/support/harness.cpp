@@ -129,6 +129,16 @@ static void reset_state()
     CopyText(GL_Scr_disp_name[0], "KTR-20");
 }
 
+static int full_houses; // alive
+
+static void fill_house()
+{
+    std::fill_n(multiprogram2_me, ME_COUNT, 1);
+    std::fill_n(GL_KeyMax, ME_COUNT, 8);
+    SYS_RefSwrType = DEVTYPE_KTR40GSF;
+    SYS_FmemV6 = 1;
+}
+
 void Harness_Reset()
 {
     Harness_Video();
@@ -144,6 +154,8 @@ void Harness_Reset()
     Loop_Reset();
     KF_Init();
     reset_state();
+    if (full_houses)
+        fill_house();
     GL_CreatePage = 0;
     SDL_Event e;
     while (SDL_PollEvent(&e)) {
@@ -157,14 +169,13 @@ FullHouse::FullHouse() : switcher(SYS_RefSwrType), frame_memory(SYS_FmemV6)
     static_assert(sizeof multi == sizeof multiprogram2_me && sizeof keys == sizeof GL_KeyMax);
     std::copy_n(multiprogram2_me, ME_COUNT, multi);
     std::copy_n(GL_KeyMax, ME_COUNT, keys);
-    std::fill_n(multiprogram2_me, ME_COUNT, 1);
-    std::fill_n(GL_KeyMax, ME_COUNT, 8);
-    SYS_RefSwrType = DEVTYPE_KTR40GSF;
-    SYS_FmemV6 = 1;
+    full_houses++;
+    fill_house();
 }
 
 FullHouse::~FullHouse()
 {
+    full_houses--;
     std::copy_n(multi, ME_COUNT, multiprogram2_me);
     std::copy_n(keys, ME_COUNT, GL_KeyMax);
     SYS_RefSwrType = switcher;

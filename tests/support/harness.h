@@ -15,8 +15,8 @@ void Harness_Video();
 // Every module's state as at process start, as far as tests lean on it; the screen black.
 void Harness_Reset();
 
-// While it lives, the installation has everything that a page may ask for: both sides of every
-// bank, eight keys, the large switcher, the newest frame memory.
+// While it lives, also across a reset, the installation has everything that a page may ask for:
+// both sides of every bank, eight keys, the large switcher, the newest frame memory.
 struct FullHouse {
     int multi[6], keys[6], switcher, frame_memory;
     FullHouse();
