@@ -39,7 +39,6 @@ constexpr uint32_t PAGE_KEY_PATTERN = 0x11170002;
 constexpr uint32_t PAGE_MATTE_ADJUST = 0x11110002;
 constexpr uint32_t PAGE_SIGNAL_SELECT = 0x11110003;
 constexpr uint32_t BANK_BYTE = 0xFF000000;
-constexpr uint32_t SUB_BANK = 0x04000000; // from a main bank to its sub bank
 } // namespace
 
 static struct {
@@ -82,7 +81,7 @@ static void show_pattern_button()
     const bool only_patterns = SYS_RefPnlType == DEVTYPE_QRD33;
     BT_SetCaption(BTN_PATTERN,
                   is_wipe_type() || only_patterns ? "Pattern\nSelect" : "Signal\nSelect");
-    if (only_patterns)
+    if (only_patterns && BT_GetVisible(BTN_PATTERN) != BT_CUTOFF) // it would come back
         BT_SetDisable(BTN_PATTERN, !is_wipe_type());
 }
 
@@ -223,12 +222,11 @@ static void open_signals(int assign)
     open_page_of_key(PAGE_SIGNAL_SELECT);
 }
 
-// The wipe generator of a bank has no key, and serves the keys of the sub side as well.
+// The wipe generator of a bank has no key. That of a sub side is asked for also where a bank has
+// one side only: the page change goes on to the main one.
 static void open_main_pattern()
 {
-    const uint32_t bank = GL_NowPage & BANK_BYTE;
-    const uint32_t main_bank = isNowPageMeKey(0) == 2 ? bank - SUB_BANK : bank;
-    GL_CreatePage = (PAGE_MAIN_PATTERN & ~BANK_BYTE) | main_bank;
+    GL_CreatePage = (PAGE_MAIN_PATTERN & ~BANK_BYTE) | (GL_NowPage & BANK_BYTE);
 }
 
 static void press_pattern(bool)

@@ -1,42 +1,14 @@
 // The key type page as the table opens it: its own lines on the wire, its buttons after tallies.
-#include "a_bt_page.h"
-#include "a_st.h"
-#include "bus.h"
-#include "device.h"
+#include "key_page.h"
 #include "loop.h"
-#include <gmock/gmock.h>
 
+using std::string;
+using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
-struct KeyTypePage : testing::Test {
-    void SetUp() override
-    {
-        Harness_Reset();
-        SYS_4KMode = 0;
-        SYS_Format_Size = 0;
-        GL_FillSourceAssignMode = 0;
-    }
-    void TearDown() override
-    {
-        SYS_4KMode = 0;
-        GL_CreatePage = 0;
-        Page_Reset();
-        (void)TakeQueuedCommands();
-    }
-    static void Open(uint32_t id)
-    {
-        ASSERT_EQ(CreatePage(id), 0);
-        GL_CreatePage = 0;
-    }
-    static void Tell(const char* line) { SendDummyTally(line); }
-    static void Press(int id)
-    {
-        const BT_MEM* b = bt_find(id);
-        ASSERT_TRUE(b) << id;
-        (void)TakeQueuedCommands();
-        SendMessage(MSG_PRESS, b->x1 + 5, b->y1 + 5, 1, 0);
-    }
+struct KeyTypePage : KeyPage {
 };
 
 TEST_F(KeyTypePage, WhatItAddsItRemovesAgain)
@@ -48,7 +20,7 @@ TEST_F(KeyTypePage, WhatItAddsItRemovesAgain)
     for (const char* type :
          {"Luminance", "Linear", "Chroma", "Color Vector", "Wipe Pattern", "Key Wipe Pattern"})
         for (const char* setting : {"Clean Mode@", "Key Position@"}) {
-            const std::string path = std::string("M/E-4@Key3@Type@") + setting + type;
+            const string path = string("M/E-4@Key3@Type@") + setting + type;
             EXPECT_THAT(opened, Contains("add " + path));
             EXPECT_THAT(left, Contains("remove " + path));
         }
@@ -64,8 +36,7 @@ TEST_F(KeyTypePage, CleanModeIsThatOfTheChosenType)
     EXPECT_EQ(BT_GetStatus(34), BT_OFF);
     Tell("M/E-1@Key1@Type@Key Type#Chroma");
     EXPECT_EQ(BT_GetStatus(34), BT_ON);
-    Press(34);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Clean Mode@Chroma#false"));
+    EXPECT_THAT(Press(34), ElementsAre("put M/E-1@Key1@Type@Clean Mode@Chroma#false"));
 }
 
 TEST_F(KeyTypePage, PositionTakesTheKnobsOfItsType)
@@ -73,41 +44,61 @@ TEST_F(KeyTypePage, PositionTakesTheKnobsOfItsType)
     Open(0x11110000);
     Tell("M/E-1@Key1@Type@Key Type#Linear");
     Tell("M/E-1@Key1@Type@Key Position@Linear#false");
-    Press(35);
-    const auto lines = TakeQueuedCommands();
-    EXPECT_THAT(lines, Contains("put M/E-1@Key1@Type@Key Position@Linear#true"));
-    EXPECT_THAT(lines, Contains("add M/E-1@Key1@Type@Key Position@Left@Linear"));
+    EXPECT_THAT(Press(35), AllOf(Contains("put M/E-1@Key1@Type@Key Position@Linear#true"),
+                                 Contains("add M/E-1@Key1@Type@Key Position@Left@Linear")));
 }
 
-TEST_F(KeyTypePage, PatternSelectLeadsToWhatTheTypeIsMadeOf)
+TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
 {
     static const struct {
         uint32_t page;
-        const char* type;
+        const char* setting;
+        int button;
         uint32_t target;
+        int assign; // GL_FillSourceAssignMode on the way; 7 untouched
     } cases[] = {
-        {0x12310000, "M/E-2@Key3@Type@Key Type#Luminance", 0x12310003},
-        {0x12310000, "M/E-2@Key3@Type@Key Type#Wipe Pattern", 0x12510000},
-        {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 0x81510000},
-        {0x12310000, "M/E-2@Key3@Type@Key Type#Key Wipe Pattern", 0x12370002},
+        {0x12310000, "M/E-2@Key3@Type@Key Type#Luminance", 38, 0x12310003, 1},
+        {0x12310000, "M/E-2@Key3@Type@Key Type#Wipe Pattern", 38, 0x12510000, 7},
+        {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 38, 0x85510000, 7},
+        {0x12310000, "M/E-2@Key3@Type@Key Type#Key Wipe Pattern", 38, 0x12370002, 7},
+        {0x85210000, "M/E-4@Key6@Type@Key Fill#Key Bus", 51, 0x85210003, 0},
+        {0x14410000, "PGM/PST@DSK4@Type@Key Fill#Matte", 51, 0x14410002, 7},
     };
     for (const auto& c : cases) {
         Open(0x00110000);
         Open(c.page);
-        Tell(c.type);
-        Press(38);
-        EXPECT_EQ(GL_CreatePage, c.target) << c.type;
+        Tell(c.setting);
+        GL_FillSourceAssignMode = 7;
+        Press(c.button);
+        EXPECT_EQ(GL_CreatePage, c.target) << c.setting;
+        EXPECT_EQ(GL_FillSourceAssignMode, c.assign) << c.setting;
+        EXPECT_EQ(CreatePage(c.target), 0) << c.setting; // on one side only, it is the main one
     }
 }
 
 TEST_F(KeyTypePage, In4KKey3LosesEightButtonsAndKey2None)
 {
     SYS_4KMode = 1;
-    for (const uint32_t page : {0x11210000u, 0x11310000u}) {
-        Open(page);
-        int hidden = 0;
-        for (int id : {17, 18, 19, 20, 21, 22, 33, 34, 35, 36, 37, 38, 49, 50, 51, 52, 53, 54})
-            hidden += BT_GetVisible(id) == BT_CUTOFF;
-        EXPECT_EQ(hidden, page == 0x11310000 ? 8 : 0);
-    }
+    for (const DEVTYPE panel : {DEVTYPE_UNKNOWN, DEVTYPE_QRD33})
+        for (const uint32_t page : {0x11210000u, 0x11310000u}) {
+            SYS_RefPnlType = panel;
+            Open(page);
+            Tell("M/E-1@Key3@Type@Key Type#Linear");
+            int hidden = 0;
+            for (int id : {17, 18, 19, 20, 21, 22, 33, 34, 35, 36, 37, 38, 49, 50, 51, 52, 53, 54})
+                hidden += BT_GetVisible(id) == BT_CUTOFF;
+            EXPECT_EQ(hidden, page == 0x11310000 ? 8 : 0) << panel;
+        }
+}
+
+TEST_F(KeyTypePage, TheSmallPanelSelectsPatternsAndNoSignals)
+{
+    SYS_RefPnlType = DEVTYPE_QRD33;
+    Open(0x11110000);
+    EXPECT_THAT(Usable({38}), IsEmpty());
+    Tell("M/E-1@Key1@Type@Key Type#Wipe Pattern");
+    EXPECT_THAT(Usable({38}), ElementsAre(38));
+    Tell("M/E-1@Key1@Type@Key Type#Linear");
+    EXPECT_THAT(Usable({38}), IsEmpty());
+    EXPECT_EQ(Caption(38), "Pattern\nSelect");
 }
