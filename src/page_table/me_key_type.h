@@ -3,6 +3,7 @@
 #include "me_banks.h"
 #include "patterns.h"
 #include "pc_me.h"
+#include "pc_me_key.h"
 #include "st_me_key.h"
 
 inline constexpr NB_TBL nb_me_key_type_luminance[] = {
@@ -110,19 +111,21 @@ inline constexpr BT_TBL bt_me_key_matte_adjust[] = {
 };
 static_assert(ButtonsAreSound(bt_me_key_matte_adjust));
 
+// --- Signals: a touch in the list is an assignment, so that the arrows must not select ---
+
 inline constexpr BT_TBL bt_me_key_signal_select[] = {
-    Radio ({.id = 17, .caption = "Key Bus",   .group = "Key Fill Signal", .cmd = {"~@Fill#Key Bus"}}),
-    Radio ({.id = 18, .caption = "Color\nBkgd 1", .group = "Key Fill Signal", .cmd = {"~@Fill#Color Bkgd 1"}}),
-    Radio ({.id = 19, .caption = "Color\nBkgd 2", .group = "Key Fill Signal", .cmd = {"~@Fill#Color Bkgd 2"}}),
-    Radio ({.id = 20, .caption = "Utility 1", .group = "Key Fill Signal", .cmd = {"~@Fill#Utility 1"}}),
-    Radio ({.id = 21, .caption = "Utility 2", .group = "Key Fill Signal", .cmd = {"~@Fill#Utility 2"}}),
-    Radio ({.id = 33, .caption = "Key Bus",   .group = "Key Source Signal", .cmd = {"~@Source#Key Bus"}}),
-    Radio ({.id = 34, .caption = "Utility 1", .group = "Key Source Signal", .cmd = {"~@Source#Utility 1"}}),
-    Radio ({.id = 35, .caption = "Utility 2", .group = "Key Source Signal", .cmd = {"~@Source#Utility 2"}}),
+    Radio({.id = 22, .caption = "Key\nFill",   .group = "Assign", .cmd = {"LOCAL@M/E@Key@Signal@Assign#Fill"}}),
+    Radio({.id = 38, .caption = "Key\nSource", .group = "Assign", .cmd = {"LOCAL@M/E@Key@Signal@Assign#Source"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_signal_select));
 
+inline constexpr LS_TBL ls_me_key_signal_select[] = {
+    {.id = 1, .hn = 4, .vn = 10, .x = 100, .y = 266, .head = {"No", "Source Name", "Fill", "Source"},
+     .width = {48, 250, 70, 70}, .group = {2, 1, 999}, .view = 1, .sb_top = 266, .sb_bottom = 508},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_me_key_signal_select));
 
 // --- Patterns ---
 
@@ -132,7 +135,7 @@ inline constexpr PS_TBL ps_me_key_matte_mixptn = {.cmd = "~@Pattern", .init_nb =
 
 inline constexpr MePage me_key_type_pages[] = {
     {.page = {.id = 0x11100000, .tree = {"M/E-1", "Key1", "Fill/Source"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 0), Cells(st_me_key)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 0), Buttons(bt_me_key_signal_select), Lists(ls_me_key_signal_select), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_fillsource)}}},
     {.page = {.id = 0x11110000, .tree = {"M/E-1", "Key1", "Type"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_type)}}},
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},
@@ -140,7 +143,7 @@ inline constexpr MePage me_key_type_pages[] = {
     {.page = {.id = 0x11110002, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust"},
               .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_matte_adjust), Cells(st_me_key)}}},
     {.page = {.id = 0x11110003, .tree = {"M/E-1", "Key1", "Type", "Signal Select"},
-              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select), Cells(st_me_key)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select), Lists(ls_me_key_signal_select), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_fillsource_new)}}},
     {.page = {.id = 0x11110004, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust", "Mix Pattern"},
               .obj = {Base(base_sub, 0x11110002), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Boxes(NB_Non), Patterns(ps_me_key_matte_mixptn)}}},
 };

@@ -1,4 +1,5 @@
-// The key type page as the table opens it: its own lines on the wire, its buttons after tallies.
+// The type pages of a key as the table opens them: their own lines on the wire, what they show
+// after tallies.
 #include "key_page.h"
 #include "loop.h"
 
@@ -7,6 +8,7 @@ using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::MatchesRegex;
 
 struct KeyTypePage : KeyPage {
 };
@@ -101,4 +103,87 @@ TEST_F(KeyTypePage, TheSmallPanelSelectsPatternsAndNoSignals)
     Tell("M/E-1@Key1@Type@Key Type#Linear");
     EXPECT_THAT(Usable({38}), IsEmpty());
     EXPECT_EQ(Caption(38), "Pattern\nSelect");
+}
+
+// --- The list of signals ---
+
+struct KeySignals : KeyPage {
+    void SetUp() override
+    {
+        KeyPage::SetUp();
+        Global_FreeBusNames();
+        for (const char* source : {"1,CAM 1", "2,CAM 2", "7,VTR", "9,"}) // 9 has no name
+            Source(source);
+    }
+    void TearDown() override
+    {
+        KeyPage::TearDown();
+        Global_FreeBusNames();
+    }
+    static void Source(const char* row)
+    {
+        Tell(string("Engineering Setup@Panel@Xpt Assign@Source@List#") + row);
+    }
+    // The marks of the rows: F fill, S source, "-" none; "*" the selected row.
+    static string Rows()
+    {
+        string rows;
+        for (int row = 0; row < LS_GetNData(1); row++) {
+            const bool fill = LS_GetData(1, row, 2), source = LS_GetData(1, row, 3);
+            rows += string(row ? " " : "") + LS_GetData(1, row, 1) + ":";
+            rows += string(fill ? "F" : "") + (source ? "S" : "") + (fill || source ? "" : "-");
+            rows += LS_IsSelected(1, row, 0) == 1 ? "*" : "";
+        }
+        return rows;
+    }
+};
+
+TEST_F(KeySignals, ATouchIsPutToTheBusThatIsAssigned)
+{
+    static const struct {
+        uint32_t page;
+        const char* path;
+    } cases[] = {{0x11100000, "put M/E-1@Key1@Type@Signal Select@"},
+                 {0x12210003, "put M/E-2@Key2@Type@Signal Select@"},
+                 {0x85310003, "put M/E-4@Key7@Type@Signal Select@"}};
+    for (const auto& c : cases) {
+        GL_FillSourceAssignMode = 1; // as the key type page or a cell leaves it
+        Open(c.page);
+        EXPECT_EQ(BT_GetStatus(38), BT_ON);
+        EXPECT_THAT(Touch(2), ElementsAre(string(c.path) + "Source#VTR"));
+        EXPECT_THAT(Press(22), IsEmpty());
+        EXPECT_EQ(GL_FillSourceAssignMode, 0);
+        EXPECT_THAT(Touch(0), ElementsAre(string(c.path) + "Fill#CAM 1"));
+        EXPECT_THAT(Touch(3), IsEmpty()); // below the last row
+        BA_SetDefaultButton(1);
+        EXPECT_THAT(Touch(0), IsEmpty());
+        BA_SetDefaultButton(0);
+    }
+}
+
+TEST_F(KeySignals, TheRowsFollowTalliesAndNeitherTouchesNorTheArrows)
+{
+    Open(0x12210003);
+    Tell("M/E-2@Key2@Type@Signal Select@Fill#CAM 2");
+    Tell("M/E-2@Key2@Type@Signal Select@Source#VTR");
+    Touch(0);
+    EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F* VTR:S");
+    Press(38);
+    EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
+    (void)TakeQueuedCommands();
+    SendMessage(LMSG_SBSEL, 1, 0, -1, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
+    Tell("M/E-2@Key3@Type@Signal Select@Source#CAM 1"); // of another key
+    EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
+}
+
+TEST_F(KeySignals, ANewNameMovesTheRowsAtOnce)
+{
+    Open(0x11110003);
+    Tell("M/E-1@Key1@Type@Signal Select@Fill#CAM 2");
+    Source("5,GRAPHIC");
+    Source("2,STUDIO");
+    EXPECT_THAT(Rows(), MatchesRegex("CAM 1:-\\*? STUDIO:-\\*? GRAPHIC:-\\*? VTR:-\\*?"));
+    EXPECT_THAT(Touch(2), ElementsAre("put M/E-1@Key1@Type@Signal Select@Fill#GRAPHIC"));
 }

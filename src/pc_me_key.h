@@ -1,0 +1,7 @@
+// pc_me_key: the page code of a key's type and edge pages; a page names its code in its row.
+#pragma once
+#include "a_pc.h"
+
+// The list of signals, as a page of its own and as a page of the key type.
+extern const PC_TBL pc_me_key_fillsource;
+extern const PC_TBL pc_me_key_fillsource_new;
