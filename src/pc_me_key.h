@@ -5,3 +5,5 @@
 // The list of signals, as a page of its own and as a page of the key type.
 extern const PC_TBL pc_me_key_fillsource;
 extern const PC_TBL pc_me_key_fillsource_new;
+
+extern const PC_TBL pc_me_key_type_crkadj;

@@ -20,16 +20,19 @@ inline constexpr NB_TBL nb_me_key_type_linear[] = {
     {.id = 4, .caption = "Filter",  .type = NB_INT, .min = 1,  .max = 9,   .cmd = "~@Key Type@Linear@Filter"},
     NB_END,
 };
-inline constexpr NB_TBL nb_me_key_type_chroma[] = {
-    {.id = 1,  .caption = "Clip",     .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Key Type@Chroma@Clip"},
-    {.id = 2,  .caption = "Gain",     .type = NB_2, .min = -100, .max = 100, .cmd = "~@Key Type@Chroma@Gain"},
-    {.id = 3,  .caption = "Hue",      .type = NB_2, .min = 0,    .max = 359.99, .cmd = "~@Key Type@Chroma@Hue"},
-    {.id = 4,  .caption = "Density",  .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Key Type@Chroma@Density"},
-    {.id = 5,  .caption = "Filter",   .type = NB_INT, .min = 1,  .max = 9,   .cmd = "~@Key Type@Chroma@Filter"},
-    {.id = 17, .caption = "Angle",    .type = NB_2, .min = 0,    .max = 180, .cmd = "~@Key Type@Chroma@Angle"},
-    {.id = 18, .caption = "Position", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Key Type@Chroma@Position"},
-    NB_END,
-};
+// A chroma key is tuned on the page of its adjustments, too. "path" is that of the type page.
+#define NB_KEY_CHROMA(path) { \
+    {.id = 1,  .caption = "Clip",     .type = NB_2, .min = 0,    .max = 100, .cmd = path "@Key Type@Chroma@Clip"}, \
+    {.id = 2,  .caption = "Gain",     .type = NB_2, .min = -100, .max = 100, .cmd = path "@Key Type@Chroma@Gain"}, \
+    {.id = 3,  .caption = "Hue",      .type = NB_2, .min = 0,    .max = 359.99, .cmd = path "@Key Type@Chroma@Hue"}, \
+    {.id = 4,  .caption = "Density",  .type = NB_2, .min = 0,    .max = 100, .cmd = path "@Key Type@Chroma@Density"}, \
+    {.id = 5,  .caption = "Filter",   .type = NB_INT, .min = 1,  .max = 9,   .cmd = path "@Key Type@Chroma@Filter"}, \
+    {.id = 17, .caption = "Angle",    .type = NB_2, .min = 0,    .max = 180, .cmd = path "@Key Type@Chroma@Angle"}, \
+    {.id = 18, .caption = "Position", .type = NB_2, .min = 0,    .max = 100, .cmd = path "@Key Type@Chroma@Position"}, \
+    NB_END}
+inline constexpr NB_TBL nb_me_key_type_chroma[] = NB_KEY_CHROMA("~");
+inline constexpr NB_TBL nb_me_key_chroma_key[] = NB_KEY_CHROMA("~3");
+#undef NB_KEY_CHROMA
 inline constexpr NB_TBL nb_me_key_type_colorvector[] = {
     {.id = 1,  .caption = "Clip",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Key Type@Color Vector@Clip"},
     {.id = 2,  .caption = "Gain",    .type = NB_2, .min = -100, .max = 100, .cmd = "~@Key Type@Color Vector@Gain"},
@@ -60,7 +63,7 @@ inline constexpr NB_TBL nb_me_key_type_position[] = {
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_key_type_luminance) && BoxesAreSound(nb_me_key_type_linear));
-static_assert(BoxesAreSound(nb_me_key_type_chroma) && BoxesAreSound(nb_me_key_type_colorvector));
+static_assert(BoxesAreSound(nb_me_key_type_chroma) && BoxesAreSound(nb_me_key_chroma_key) && BoxesAreSound(nb_me_key_type_colorvector));
 static_assert(BoxesAreSound(nb_me_key_type_wipe) && BoxesAreSound(nb_me_key_type_keywipe));
 static_assert(BoxesAreSound(nb_me_key_type_position));
 
@@ -87,18 +90,53 @@ inline constexpr BT_TBL bt_me_key_type[] = {
 };
 static_assert(ButtonsAreSound(bt_me_key_type));
 
+// Of a chroma key: the colour of the background is taken out of the foreground, by the key itself or by a key of its own.
+inline constexpr NB_TBL nb_me_key_chroma_cancelkey[] = {
+    {.id = 1, .caption = "Clip",  .type = NB_2, .min = 0,    .max = 100,    .cmd = "~@Cancel Key@Clip"},
+    {.id = 2, .caption = "Gain",  .type = NB_2, .min = -100, .max = 100,    .cmd = "~@Cancel Key@Gain"},
+    {.id = 3, .caption = "Hue",   .type = NB_2, .min = 0,    .max = 359.99, .cmd = "~@Cancel Key@Hue"},
+    {.id = 4, .caption = "Angle", .type = NB_2, .min = 0,    .max = 180,    .cmd = "~@Cancel Key@Angle"},
+    NB_END,
+};
+inline constexpr NB_TBL nb_me_key_chroma_plane[] = {
+    {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Plane@Luminance"},
+    NB_END,
+};
+inline constexpr NB_TBL nb_me_key_chroma_video[] = {
+    {.id = 1, .caption = "Lum Gain", .type = NB_2, .min = 0,    .max = 200, .cmd = "~@Video Adjust@Luminance"},
+    {.id = 2, .caption = "Chr Gain", .type = NB_2, .min = 0,    .max = 200, .cmd = "~@Video Adjust@Chroma"},
+    {.id = 3, .caption = "Hue",      .type = NB_2, .min = -180, .max = 180, .cmd = "~@Video Adjust@Hue"},
+    {.id = 4, .caption = "H Delay",  .type = NB_2, .min = -8,   .max = 8,   .cmd = "~@Video Adjust@H Delay"},
+    NB_END,
+};
+// The mark lies in the picture, which is 200 to each side of its middle.
+inline constexpr NB_TBL nb_me_key_chroma_mark[] = {
+    {.id = 1, .caption = "H",    .type = NB_2, .min = -200, .max = 200, .cmd = "~@Sample Mark@H"},
+    {.id = 2, .caption = "V",    .type = NB_2, .min = -200, .max = 200, .cmd = "~@Sample Mark@V"},
+    {.id = 3, .caption = "Size", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Sample Mark@Size"},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_me_key_chroma_cancelkey) && BoxesAreSound(nb_me_key_chroma_plane));
+static_assert(BoxesAreSound(nb_me_key_chroma_video) && BoxesAreSound(nb_me_key_chroma_mark));
+
+#define IF_CHROMA "~3@Key Type#!Chroma"
 inline constexpr BT_TBL bt_me_key_chroma_adjust[] = {
-    Toggle({.id = 17, .caption = "Color\nCancel",   .group = "Color Cancel", .cmd = {"~@Color Cancel#*"}}),
-    Toggle({.id = 18, .caption = "Cancel\nKey",     .group = "Color Cancel", .cmd = {"~@Cancel Key#*", "~@Color Cancel#false"}}),
-    Toggle({.id = 19, .caption = "Y Balance",       .group = "Color Cancel", .cmd = {"~@Y Balance#*", "~@Color Cancel#false"}}),
-    Toggle({.id = 33, .caption = "Plane",           .group = "Key Plane", .cmd = {"~@Plane#*"}}),
-    Toggle({.id = 34, .caption = "Key\nActive",     .group = "Key Plane", .cmd = {"~@Key Active#*"}}),
-    Action({.id = 36, .caption = "Sample\nMark",    .group = "Auto Chroma", .cmd = {"~@Sample Mark#*"}}),
-    Action({.id = 37, .caption = "Auto\nStart",     .group = "Auto Chroma", .cmd = {"~@Auto Start#*"}}),
-    Action({.id = 38, .caption = "Undo",            .group = "Auto Chroma", .cmd = {"~@Undo#*"}}),
+    Toggle({.id = 17, .caption = "Color\nCancel",   .group = "Color Cancel", .cmd = {"~@Color Cancel#*", IF_CHROMA, "~@Y Balance#"}, .nb = SpecialKnob(30)}),
+    Toggle({.id = 18, .caption = "Cancel\nKey",     .group = "Color Cancel", .cmd = {"~@Cancel Key#*", IF_CHROMA, "~@Color Cancel#false"}, .nb = nb_me_key_chroma_cancelkey}),
+    Toggle({.id = 19, .caption = "Y Balance",       .group = "Color Cancel", .cmd = {"~@Y Balance#*", IF_CHROMA, "~@Color Cancel#false"}}),
+    Radio ({.id = 20, .caption = "Normal\nMix",     .group = "Mix Mode",     .cmd = {"~3@Chroma@Mix Mode#Normal Mix", IF_CHROMA}}),
+    Radio ({.id = 21, .caption = "Additive\nMix",   .group = "Mix Mode",     .cmd = {"~3@Chroma@Mix Mode#Additive Mix", IF_CHROMA}}),
+    Toggle({.id = 33, .caption = "Plane",           .group = "Key Plane",    .cmd = {"~@Plane#*", IF_CHROMA}, .nb = nb_me_key_chroma_plane}),
+    Toggle({.id = 34, .caption = "Key\nActive",     .group = "Key Plane",    .cmd = {"~@Key Active#*", IF_CHROMA}}),
+    Toggle({.id = 35, .caption = "Video\nAdjust",   .group = "Foreground",   .cmd = {"~@Video Adjust#*", IF_CHROMA}, .nb = nb_me_key_chroma_video}),
+    Knobs ({.id = 36, .caption = "Key\nAdjust",     .group = "Chroma Key",   .cmd = {"", IF_CHROMA}, .nb = nb_me_key_chroma_key}),
+    Toggle({.id = 49, .caption = "Sample\nMark",    .group = "Auto Chroma",  .cmd = {"~@Sample Mark#*", IF_CHROMA}, .nb = nb_me_key_chroma_mark}),
+    Action({.id = 50, .caption = "Auto\nStart",     .group = "Auto Chroma",  .cmd = {"~3@Auto Chroma#*", IF_CHROMA, "~@Sample Mark#false"}}),
+    Action({.id = 51, .caption = "Undo",            .group = "Auto Chroma",  .cmd = {"~@Undo#*", IF_CHROMA}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_chroma_adjust));
+#undef IF_CHROMA
 
 inline constexpr BT_TBL bt_me_key_matte_adjust[] = {
     Radio ({.id = 17, .caption = "Flat",        .group = "Matte", .cmd = {"~@Mode#Flat"}}),
@@ -139,7 +177,7 @@ inline constexpr MePage me_key_type_pages[] = {
     {.page = {.id = 0x11110000, .tree = {"M/E-1", "Key1", "Type"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_type)}}},
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},
-              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_chroma_adjust), Cells(st_me_key)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_chroma_adjust), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_type_crkadj)}}},
     {.page = {.id = 0x11110002, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust"},
               .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_matte_adjust), Cells(st_me_key)}}},
     {.page = {.id = 0x11110003, .tree = {"M/E-1", "Key1", "Type", "Signal Select"},

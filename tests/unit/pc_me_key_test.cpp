@@ -9,6 +9,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::MatchesRegex;
+using testing::Not;
 
 struct KeyTypePage : KeyPage {
 };
@@ -186,4 +187,22 @@ TEST_F(KeySignals, ANewNameMovesTheRowsAtOnce)
     Source("2,STUDIO");
     EXPECT_THAT(Rows(), MatchesRegex("CAM 1:-\\*? STUDIO:-\\*? GRAPHIC:-\\*? VTR:-\\*?"));
     EXPECT_THAT(Touch(2), ElementsAre("put M/E-1@Key1@Type@Signal Select@Fill#GRAPHIC"));
+}
+
+TEST_F(KeyPage, TheSampleMarkGoesWithTheChromaPage)
+{
+    const string mark = "M/E-3@Key4@Type@Chroma Adjust@Sample Mark";
+    for (const bool is_on : {true, false}) {
+        Open(0x13410001);
+        Tell("M/E-3@Key4@Type@Key Type#Chroma");
+        Tell(mark + (is_on ? "#true" : "#false"));
+        EXPECT_EQ(Usable({50}).size(), is_on ? 1u : 0u);
+        (void)TakeQueuedCommands();
+        Open(0x13410000);
+        const auto left = TakeQueuedCommands();
+        if (is_on)
+            EXPECT_THAT(left, Contains("put " + mark + "#false"));
+        else
+            EXPECT_THAT(left, Not(Contains("put " + mark + "#false")));
+    }
 }
