@@ -155,7 +155,7 @@ int st_drw_me_key_edge(ST_MEM* cell)
     const Edge* shown = st_is_on(c, 2)               ? &edge_fine
                         : has_edge && st_is_on(c, 3) ? &edge_separate
                                                      : edge;
-    const bool is_dual = has_edge && strcmp(c->tally[4], "Gradation") == 0;
+    const bool is_dual = has_edge && strcmp(c->tally[4], "Mix") == 0;
     const EdgeLook look = st_is_on(c, 1) ? SOFT : is_dual ? DUAL : PLAIN;
     st_drw_bmpimage_strings(c, *shown->picture[look], "");
     return st_drw_under_strings(c, edge->value, 0);

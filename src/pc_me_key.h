@@ -7,3 +7,11 @@ extern const PC_TBL pc_me_key_fillsource;
 extern const PC_TBL pc_me_key_fillsource_new;
 
 extern const PC_TBL pc_me_key_type_crkadj;
+extern const PC_TBL pc_me_key_type_matteadj;
+extern const PC_TBL pc_me_key_edge;
+extern const PC_TBL pc_me_key_edge_matteadj;
+extern const PC_TBL pc_me_key_edge_zabtonadj;
+
+// The caption of a button that selects a pattern, with the number in value on its last line;
+// without one when value is no number of a pattern.
+void PatternCaption(char (&caption)[32], const char* value);

@@ -1,7 +1,7 @@
 // me_key_type: what a key is cut by, and what fills it. Written for M/E-1, Key1.
 #pragma once
 #include "me_banks.h"
-#include "patterns.h"
+#include "me_key_matte.h"
 #include "pc_me.h"
 #include "pc_me_key.h"
 #include "st_me_key.h"
@@ -138,16 +138,8 @@ inline constexpr BT_TBL bt_me_key_chroma_adjust[] = {
 static_assert(ButtonsAreSound(bt_me_key_chroma_adjust));
 #undef IF_CHROMA
 
-inline constexpr BT_TBL bt_me_key_matte_adjust[] = {
-    Radio ({.id = 17, .caption = "Flat",        .group = "Matte", .cmd = {"~@Mode#Flat"}}),
-    Radio ({.id = 18, .caption = "Gradation",   .group = "Matte", .cmd = {"~@Mode#Gradation"}}),
-    Radio ({.id = 33, .caption = "Color 1",     .group = "Color", .cmd = {"~@Color#Color 1"}}),
-    Radio ({.id = 34, .caption = "Color 2",     .group = "Color", .cmd = {"~@Color#Color 2", "~@Mode#Flat"}}),
-    Action({.id = 35, .caption = "Copy\n1 to 2", .group = "Color", .cmd = {"~@Copy#*", "~@Mode#Flat"}}),
-    Action({.id = 36, .caption = "Swap",        .group = "Color", .cmd = {"~@Swap#*", "~@Mode#Flat"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_me_key_matte_adjust));
+inline constexpr MatteButtons bt_me_key_matte_adjust = MatteButtonsOf("#+11110004");
+static_assert(ButtonsAreSound(bt_me_key_matte_adjust.row));
 
 // --- Signals: a touch in the list is an assignment, so that the arrows must not select ---
 
@@ -165,10 +157,6 @@ inline constexpr LS_TBL ls_me_key_signal_select[] = {
 };
 static_assert(ListsAreSound(ls_me_key_signal_select));
 
-// --- Patterns ---
-
-inline constexpr PS_TBL ps_me_key_matte_mixptn = {.cmd = "~@Pattern", .init_nb = NB_Non, .init_nb_caption = "Mix Pattern"};
-
 // --- The pages ---
 
 inline constexpr MePage me_key_type_pages[] = {
@@ -179,7 +167,7 @@ inline constexpr MePage me_key_type_pages[] = {
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},
               .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_chroma_adjust), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_type_crkadj)}}},
     {.page = {.id = 0x11110002, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust"},
-              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_matte_adjust), Cells(st_me_key)}}},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_matte_adjust.row), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_type_matteadj)}}},
     {.page = {.id = 0x11110003, .tree = {"M/E-1", "Key1", "Type", "Signal Select"},
               .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select), Lists(ls_me_key_signal_select), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_fillsource_new)}}},
     {.page = {.id = 0x11110004, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust", "Mix Pattern"},

@@ -24,8 +24,8 @@ constexpr uint32_t FIRST_GROUP = 5; // page digit of the first of them
 inline constexpr MeTab<HF_TBL> me_key_tabs[] = {
     {{.id = 1, .caption = "Type",      .page = 0x11110000}},
     {{.id = 2, .caption = "Edge",      .page = 0x11120000,
-      .statcmd = {"~2@Edge@Edge Type#Border", "~2@Edge@Edge Type#Drop Border", "~2@Edge@Edge Type#Shadow",
-                  "~2@Edge@Edge Type#Outline", "~2@Edge@Edge Type#Emboss", "~2@Edge@Soft Edge#true",
+      .statcmd = {"~2@Edge@Edge#Border", "~2@Edge@Edge#Drop Border", "~2@Edge@Edge#Shadow",
+                  "~2@Edge@Edge#Outline", "~2@Edge@Edge#Emboss", "~2@Edge@Edge#Zabton", "~2@Edge@Soft Edge#true",
                   "~2@Edge@Key Drop#true"}}},
     {{.id = 3, .caption = "Main Mask", .page = 0x11130000, .statcmd = {"~2@Main Mask@Main Mask#true"}}},
     {{.id = 4, .caption = "Sub Mask",  .page = 0x11140000, .statcmd = {"~2@Sub Mask@Sub Mask#true"}}},

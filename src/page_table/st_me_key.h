@@ -8,7 +8,7 @@
                           key "@Type@Key Invert", key "@Type@Wipe Pattern@Pattern", \
                           key "@Type@Key Wipe Pattern@Pattern", key "@Type@Clean Mode@Linear", \
                           key "@Type@Clean Mode@Color Vector"}
-#define ST_KEY_EDGE(key) {key "@Edge@Edge Type", key "@Edge@Soft Edge", key "@Edge@Fine Key", key "@Edge@Separate Edge", \
+#define ST_KEY_EDGE(key) {key "@Edge@Edge", key "@Edge@Soft Edge", key "@Edge@Fine Key", key "@Edge@Separate Edge", \
                           key "@Edge@Matte Adjust@Mode"}
 #define ST_KEY_MASK(key, mask) {key "@" mask "@" mask, key "@" mask "@Mask Source", key "@" mask "@Mask Invert", \
                                 key "@" mask "@Pattern Mask@Pattern"}

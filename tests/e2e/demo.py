@@ -62,7 +62,7 @@ def main(build):
         desk.touch(97 + 86 + 43, 531 + 33)  # the bottom tab "Edge"
         desk.wait_wire("add M/E-1@Key1@Edge@Edge Fill")
         desk.touch(*grid(18))
-        desk.wait_wire("put M/E-1@Key1@Edge@Edge Type#Border")
+        desk.wait_wire("put M/E-1@Key1@Edge@Edge#Border")
         time.sleep(0.3)
         picture("edge")
         desk.console("page 1231")  # a page request from the server

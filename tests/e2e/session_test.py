@@ -82,7 +82,7 @@ class Session(unittest.TestCase):
         Session.page_1111 = lines[first:]
 
     def test_04_inside_a_menu_nothing_is_read_and_the_books_balance(self):
-        lines = self.page_1111 + self.open_page("1112", "add M/E-1@Key1@Edge@Edge Type")
+        lines = self.page_1111 + self.open_page("1112", "add M/E-1@Key1@Edge@Edge")
         opened = lines[len(self.page_1111):]
         self.assertFalse([line for line in opened if line.startswith(("read Engineering", "set TopMenu"))])
         added, stray = subscriptions(lines)
@@ -138,7 +138,7 @@ class Session(unittest.TestCase):
         time.sleep(11)  # a line that never ends is given up with its connection
         self.desk.console("restart")
         self.desk.wait_wire(INITIAL_READ_END, 25)
-        self.open_page("1212", "add M/E-2@Key1@Edge@Edge Type", 45)
+        self.open_page("1212", "add M/E-2@Key1@Edge@Edge", 45)
 
     def test_10_closing_the_window_ends_in_order(self):
         self.assertNotIn("Can't find ID", self.desk.log())

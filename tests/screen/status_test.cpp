@@ -20,7 +20,7 @@ TEST_F(StatusPicture, TheCellsOverAKeyPage)
     Open(st_me_key);
     Say({{"M/E-1@Key1@Type@Key Type", "Luminance"},
          {"M/E-1@Key1@Type@Clean Mode@Luminance", "true"},
-         {"M/E-1@Key1@Edge@Edge Type", "Border"},
+         {"M/E-1@Key1@Edge@Edge", "Border"},
          {"M/E-1@Key1@Main Mask@Main Mask", "true"},
          {"M/E-1@Key1@Main Mask@Mask Source", "Pattern"},
          {"M/E-1@Key1@Main Mask@Mask Invert", "true"},

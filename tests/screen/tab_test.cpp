@@ -53,7 +53,7 @@ TEST_F(TabPictures, BottomTabsWithWhatIsActive)
 {
     Tree({"M/E-1", "Key1", "Type"}, 0x11110000, OBJ_HF);
     HF_Create(hf_me_key, 1);
-    Tally("M/E-1@Key1@Edge@Edge Type", "Border");
+    Tally("M/E-1@Key1@Edge@Edge", "Border");
     Tally("M/E-1@Key1@Main Mask@Main Mask", "true");
     Tally("M/E-1@Key1@Sub Mask@Sub Mask", "false");
     Pass();

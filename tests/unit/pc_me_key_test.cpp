@@ -189,6 +189,66 @@ TEST_F(KeySignals, ANewNameMovesTheRowsAtOnce)
     EXPECT_THAT(Touch(2), ElementsAre("put M/E-1@Key1@Type@Signal Select@Fill#GRAPHIC"));
 }
 
+// --- Matte and chroma ---
+
+struct KeyMattePage : KeyPage {
+};
+
+TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
+{
+    static const struct {
+        uint32_t page;
+        const char* mode;
+        const char* edge;
+        std::vector<int> usable; // of mode, second colour, pattern
+        const char* color;
+    } cases[] = {
+        {0x12210002, "Flat", "Emboss", {17}, "Color 1"}, // the edge is not the fill's
+        {0x12210002, "Mix", "Normal", {17, 20, 33, 37}, "Color 1"},
+        {0x12220001, "Flat", "Border", {17}, "Color 1"},
+        {0x12220001, "Mix", "Border", {17, 20, 33, 37}, "Color 1"},
+        {0x12220001, "Mix", "Emboss", {20}, "Light"},
+        {0x12220001, "Flat", "Emboss", {20}, "Light"},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        const string group = c.page & 0x00010000 ? "M/E-2@Key2@Type@" : "M/E-2@Key2@Edge@";
+        Tell(group + "Matte Adjust@Mode#" + c.mode);
+        Tell(string("M/E-2@Key2@Edge@Edge#") + c.edge);
+        EXPECT_EQ(Usable({17, 20, 33, 37}), c.usable) << group << c.mode << " " << c.edge;
+        EXPECT_EQ(Caption(19), c.color) << group << c.mode << " " << c.edge;
+    }
+}
+
+TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
+{
+    static const struct {
+        uint32_t page;
+        const char* path;
+        int button;
+        uint32_t target;
+    } cases[] = {
+        {0x11310002, "M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern#", 37, 0x11310004},
+        {0x85320001, "M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern#", 37, 0x85320002},
+        {0x14220003, "PGM/PST@DSK2@Edge@Zabton@Pattern#", 21, 0x14220004},
+    };
+    SYS_RefSwrType = DEVTYPE_NTR40;
+    for (const auto& c : cases) {
+        Open(c.page);
+        Tell(string(c.path) + "67");
+        EXPECT_EQ(Caption(c.button), "Pattern\nSelect\n67");
+        Tell(string(c.path) + "none");
+        EXPECT_EQ(Caption(c.button), "Pattern\nSelect");
+        Tell("M/E-4@Key7@Edge@Matte Adjust@Mode#Mix");
+        Tell("M/E-1@Key3@Type@Matte Adjust@Mode#Mix");
+        Press(c.button);
+        EXPECT_EQ(GL_CreatePage, c.target);
+        const string path = string(c.path).substr(0, string(c.path).size() - 1);
+        Open(0x00110000);
+        EXPECT_THAT(TakeQueuedCommands(), Contains("remove " + path));
+    }
+}
+
 TEST_F(KeyPage, TheSampleMarkGoesWithTheChromaPage)
 {
     const string mark = "M/E-3@Key4@Type@Chroma Adjust@Sample Mark";
