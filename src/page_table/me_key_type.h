@@ -121,7 +121,7 @@ static_assert(BoxesAreSound(nb_me_key_chroma_video) && BoxesAreSound(nb_me_key_c
 
 #define IF_CHROMA "~3@Key Type#!Chroma"
 inline constexpr BT_TBL bt_me_key_chroma_adjust[] = {
-    Toggle({.id = 17, .caption = "Color\nCancel",   .group = "Color Cancel", .cmd = {"~@Color Cancel#*", IF_CHROMA, "~@Y Balance#"}, .nb = SpecialKnob(30)}),
+    Toggle({.id = 17, .caption = "Cancel",          .group = "Color Cancel", .cmd = {"~@Color Cancel#*", IF_CHROMA, "~@Y Balance#"}, .nb = SpecialKnob(30)}),
     Toggle({.id = 18, .caption = "Cancel\nKey",     .group = "Color Cancel", .cmd = {"~@Cancel Key#*", IF_CHROMA, "~@Color Cancel#false"}, .nb = nb_me_key_chroma_cancelkey}),
     Toggle({.id = 19, .caption = "Y Balance",       .group = "Color Cancel", .cmd = {"~@Y Balance#*", IF_CHROMA, "~@Color Cancel#false"}}),
     Radio ({.id = 20, .caption = "Normal\nMix",     .group = "Mix Mode",     .cmd = {"~3@Chroma@Mix Mode#Normal Mix", IF_CHROMA}}),
@@ -129,7 +129,7 @@ inline constexpr BT_TBL bt_me_key_chroma_adjust[] = {
     Toggle({.id = 33, .caption = "Plane",           .group = "Key Plane",    .cmd = {"~@Plane#*", IF_CHROMA}, .nb = nb_me_key_chroma_plane}),
     Toggle({.id = 34, .caption = "Key\nActive",     .group = "Key Plane",    .cmd = {"~@Key Active#*", IF_CHROMA}}),
     Toggle({.id = 35, .caption = "Video\nAdjust",   .group = "Foreground",   .cmd = {"~@Video Adjust#*", IF_CHROMA}, .nb = nb_me_key_chroma_video}),
-    Knobs ({.id = 36, .caption = "Key\nAdjust",     .group = "Chroma Key",   .cmd = {"", IF_CHROMA}, .nb = nb_me_key_chroma_key}),
+    Knobs ({.id = 36, .caption = "Adjust",          .group = "Chroma Key",   .cmd = {"", IF_CHROMA}, .nb = nb_me_key_chroma_key}),
     Toggle({.id = 49, .caption = "Sample\nMark",    .group = "Auto Chroma",  .cmd = {"~@Sample Mark#*", IF_CHROMA}, .nb = nb_me_key_chroma_mark}),
     Action({.id = 50, .caption = "Auto\nStart",     .group = "Auto Chroma",  .cmd = {"~3@Auto Chroma#*", IF_CHROMA, "~@Sample Mark#false"}}),
     Action({.id = 51, .caption = "Undo",            .group = "Auto Chroma",  .cmd = {"~@Undo#*", IF_CHROMA}}),
