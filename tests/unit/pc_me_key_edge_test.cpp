@@ -1,5 +1,5 @@
 // The edge pages of a key: which buttons are of use by what the key and its edge are.
-#include "key_page.h"
+#include "me_key_page.h"
 #include "page_table/nb_edge.h"
 
 using std::string;
@@ -7,7 +7,7 @@ using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 
-struct KeyEdgePage : KeyPage {
+struct KeyEdgePage : MeKeyPage {
 };
 
 TEST_F(KeyEdgePage, OffersWhatThisEdgeOfThisKeyHas)

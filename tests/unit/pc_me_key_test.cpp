@@ -1,7 +1,7 @@
 // The type pages of a key as the table opens them: their own lines on the wire, what they show
 // after tallies.
-#include "key_page.h"
 #include "loop.h"
+#include "me_key_page.h"
 
 using std::string;
 using testing::AllOf;
@@ -11,7 +11,7 @@ using testing::IsEmpty;
 using testing::MatchesRegex;
 using testing::Not;
 
-struct KeyTypePage : KeyPage {
+struct KeyTypePage : MeKeyPage {
 };
 
 TEST_F(KeyTypePage, WhatItAddsItRemovesAgain)
@@ -108,17 +108,17 @@ TEST_F(KeyTypePage, TheSmallPanelSelectsPatternsAndNoSignals)
 
 // --- The list of signals ---
 
-struct KeySignals : KeyPage {
+struct KeySignals : MeKeyPage {
     void SetUp() override
     {
-        KeyPage::SetUp();
+        MeKeyPage::SetUp();
         Global_FreeBusNames();
         for (const char* source : {"1,CAM 1", "2,CAM 2", "7,VTR", "9,"}) // 9 has no name
             Source(source);
     }
     void TearDown() override
     {
-        KeyPage::TearDown();
+        MeKeyPage::TearDown();
         Global_FreeBusNames();
     }
     static void Source(const char* row)
@@ -191,7 +191,7 @@ TEST_F(KeySignals, ANewNameMovesTheRowsAtOnce)
 
 // --- Matte and chroma ---
 
-struct KeyMattePage : KeyPage {
+struct KeyMattePage : MeKeyPage {
 };
 
 TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
@@ -249,7 +249,10 @@ TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
     }
 }
 
-TEST_F(KeyPage, TheSampleMarkGoesWithTheChromaPage)
+struct KeyChromaPage : MeKeyPage {
+};
+
+TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
 {
     const string mark = "M/E-3@Key4@Type@Chroma Adjust@Sample Mark";
     for (const bool is_on : {true, false}) {

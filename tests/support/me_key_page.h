@@ -1,4 +1,4 @@
-// key_page: pages of a key as the table opens them, touched and told by lines of the server.
+// me_key_page: pages of a key as the table opens them, touched and told by lines of the server.
 #pragma once
 #include "a_bt_page.h"
 #include "a_ls.h"
@@ -7,7 +7,7 @@
 #include "device.h"
 #include <gmock/gmock.h>
 
-struct KeyPage : testing::Test {
+struct MeKeyPage : testing::Test {
     void SetUp() override { Reset(); }
     void TearDown() override
     {
