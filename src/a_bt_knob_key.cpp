@@ -12,7 +12,7 @@
 //    7 Soft Edge          "@Separate Edge"
 //    8 Key Drop           format
 //    9 Zabton             "@Zabton@Fit"; aspect of the bank
-//   10 Edge Matte Adjust  "@Mode" (Flat, Gradation), "@Color" (Color 1, Color 2)
+//   10 Edge Matte Adjust  "@Mode" (Flat, Mix), "@Color" (Color 1, Color 2)
 //   11 Main Mask Box      aspect of the bank
 //   12 Mask Pattern       aspect of the bank
 //   13 Mask Utility Bus   "@Mask Source" (Utility 1, Utility 2)
@@ -31,7 +31,7 @@
 //   26 Key Position       format; the page code names the paths
 //   27 Pattern Position   "@Key Type" (Wipe Pattern, Key Wipe Pattern); aspect of the bank
 //   28 Pattern Modify     "@Key Type" (Wipe Pattern, Key Wipe Pattern; blank for the others)
-//   29 Key Fill Matte     "@Mode" (Flat, Gradation), "@Color" (Color 1, Color 2)
+//   29 Key Fill Matte     "@Mode" (Flat, Mix), "@Color" (Color 1, Color 2)
 //   30 Color Cancel       "@Y Balance"
 #include "a_bt_knob_private.h"
 #include "page_table/nb_edge.h"
@@ -60,10 +60,9 @@ constexpr KnobQuestion KEY_BORDER = {.answers = 5, .ask = ask_border};
 constexpr KnobQuestion SEPARATE = On("@Separate Edge");
 constexpr KnobQuestion FINE = On("@Fine Key");
 constexpr KnobQuestion PATTERN_KEY = Words("@Key Type", "Wipe Pattern", "Key Wipe Pattern");
-constexpr KnobQuestion GRADATION = Words("@Mode", "Gradation");
+constexpr KnobQuestion MATTE_MIX = Words("@Mode", "Mix");
 constexpr KnobQuestion COLOR_2 = Words("@Color", "Color 2");
-constexpr KnobTables matte_tables =
-    Of(nb_matte_flat, nb_matte_flat, nb_matte_gradation1, nb_matte_gradation2);
+constexpr KnobTables matte_tables = Of(nb_matte_flat, nb_matte_flat, nb_matte_mix1, nb_matte_mix2);
 
 constexpr KnobCase knob_cases_key[] = {
     {1,
@@ -82,8 +81,8 @@ constexpr KnobCase knob_cases_key[] = {
     {6, {FINE}, Of(nb_me_key_edge_edge_emboss)},
     {7, {SEPARATE}, Of(nb_me_key_edge_soft_edge, nb_me_key_edge_soft_edge_sep)},
     {8, {HD}, Of(nb_me_key_edge_key_drop)},
-    {9, {On("@Zabton@Fit"), BANK_WIDE}, Of(nb_me_key_edge_zabton, nb_me_key_edge_zabton_fit)},
-    {10, {GRADATION, COLOR_2}, matte_tables},
+    {9, {On("@Zabton@Fit"), BANK_WIDE}, Of(nb_me_key_edge_edge_zabton, nb_me_key_edge_edge_zabton_fit)},
+    {10, {MATTE_MIX, COLOR_2}, matte_tables},
     {11, {BANK_WIDE}, Of(nb_me_key_mask_box_aspect)},
     {12, {BANK_WIDE}, Of(nb_me_key_mask_pattern_aspect)},
     {13,
@@ -111,7 +110,7 @@ constexpr KnobCase knob_cases_key[] = {
      {Words("@Key Type", "Key Wipe Pattern"), BANK_WIDE},
      Of(nb_me_key_type_wipe_position, nb_me_key_type_keywipe_position)},
     {28, {PATTERN_KEY}, Of(BLANK, nb_me_key_type_wipe_modify, nb_me_key_type_keywipe_modify)},
-    {29, {GRADATION, COLOR_2}, matte_tables},
+    {29, {MATTE_MIX, COLOR_2}, matte_tables},
     {30, {On("@Y Balance")}, Of(nb_me_key_chroma_cancel, nb_me_key_chroma_cancel_y)},
     KNOB_CASES_END,
 };

@@ -62,7 +62,7 @@ inline constexpr auto nb_me_key_edge_key_drop = FamilyOf<2>([](int hd) {
 });
 
 // The plate behind a title follows the key with a margin, or is a box of its own.
-inline constexpr auto nb_me_key_edge_zabton = FamilyOf<2>([](int wide) {
+inline constexpr auto nb_me_key_edge_edge_zabton = FamilyOf<2>([](int wide) {
     return Column(Span   (1, "Left",    "~@Zabton@Left",   Wide(100, wide)),
                   Span   (2, "Right",   "~@Zabton@Right",  Wide(100, wide)),
                   Span   (3, "Top",     "~@Zabton@Top",    100),
@@ -70,29 +70,29 @@ inline constexpr auto nb_me_key_edge_zabton = FamilyOf<2>([](int wide) {
                   Percent(5, "Soft",    "~@Zabton@Soft"),
                   Percent(17, "Density", "~@Zabton@Density"));
 });
-inline constexpr auto nb_me_key_edge_zabton_fit = FamilyOf<2>([](int wide) {
+inline constexpr auto nb_me_key_edge_edge_zabton_fit = FamilyOf<2>([](int wide) {
     return Column(Percent(1, "Margin H", "~@Zabton@Margin H", Wide(75, wide)),
                   Percent(2, "Margin V", "~@Zabton@Margin V", 75),
                   Percent(3, "Soft",     "~@Zabton@Soft"),
                   Percent(4, "Density",  "~@Zabton@Density"));
 });
 
-// --- Mattes: one colour, or a gradation that leads from colour 1 to colour 2 ---
+// --- Mattes: one colour, or two that a pattern mixes ---
 
 inline constexpr auto nb_matte_flat = Column(
     Percent(1, "Luminance", "~@Color 1@Luminance"),
     Percent(2, "Saturat'n", "~@Color 1@Saturation"),
     Hue    (3,              "~@Color 1@Hue"));
-#define NB_MATTE_GRADATION(color) \
+#define NB_MATTE_MIX(color) \
     Column(Percent(1,  "Luminance", "~@" color "@Luminance"), \
            Percent(2,  "Saturat'n", "~@" color "@Saturation"), \
            Hue    (3,               "~@" color "@Hue"), \
-           Span   (17, "Position",  "~@Gradation@Position", 100), \
-           Percent(18, "Soft",      "~@Gradation@Soft"), \
-           Degrees(19, "Angle",     "~@Gradation@Angle"))
-inline constexpr auto nb_matte_gradation1 = NB_MATTE_GRADATION("Color 1");
-inline constexpr auto nb_matte_gradation2 = NB_MATTE_GRADATION("Color 2");
-#undef NB_MATTE_GRADATION
+           Percent(17, "Size",      "~@Mix Pattern@Size"), \
+           Percent(18, "Soft",      "~@Mix Pattern@Soft"), \
+           Degrees(19, "Angle",     "~@Mix Pattern@Angle@Angle"))
+inline constexpr auto nb_matte_mix1 = NB_MATTE_MIX("Color 1");
+inline constexpr auto nb_matte_mix2 = NB_MATTE_MIX("Color 2");
+#undef NB_MATTE_MIX
 
 // --- Masks ---
 

@@ -142,7 +142,7 @@ TEST_F(KnobLinks, ATallyIsFoundByItsPathAndUnknownWordsChooseTheFirst)
         const NB_TBL* table;
     } cases[] = {
         {10, "Mode#Flat", nb_matte_flat.row},
-        {10, "Mode#Gradation", nb_matte_gradation1.row},
+        {10, "Mode#Mix", nb_matte_mix1.row},
         {4, "Separate Edge#true", nb_me_key_edge_edge_outline_sep.variant[0]},
         {4, "Fine Key#true", nb_me_key_edge_edge_outline.variant[1]},
         {4, "Separate Edge#maybe", nb_me_key_edge_edge_outline.variant[0]},
