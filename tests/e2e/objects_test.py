@@ -12,7 +12,6 @@ TYPE = "M/E-1@Key1@Type@Key Type"
 CHROMA = f"{TYPE}@Chroma@"
 COLUMN = (706, 127, 799, 545)  # the number boxes
 WORK_AREA = (97, 73, 702, 526)
-DEFAULT_KEY = (45, 563)
 PAGE_KEY = (45, 35)
 BAR_X, BAR_W = 714, 80
 KNOB_PAD = (446 + 17, 140 + 310)  # where the "0" of the knob window stands
@@ -68,12 +67,6 @@ class Objects(unittest.TestCase):
         self.open_page("1231", "add M/E-2@Key3@Type@Key Type")
         self.open_page("1111", f"add {TYPE}")
         self.desk.touch(*grid(19))
-
-    def wait_value(self, path, expected, timeout=2.0):
-        end = time.monotonic() + timeout
-        while self.desk.value(path) != expected:
-            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {expected}")
-            time.sleep(0.05)
 
     def type_on(self, pad, *keys):
         for key in keys:
@@ -138,23 +131,6 @@ class Objects(unittest.TestCase):
         self.assertEqual(self.desk.value(CHROMA + "Gain"), "-42.50")
         self.assertNotEqual(self.desk.part(*slot(2)), shown)
 
-    def test_07_default_recall_takes_one_touch_on_a_box(self):
-        self.open_chroma()
-        self.desk.touch(*middle(slot(2)))
-        self.type_on(KNOB_PAD, "8", "Enter")
-        self.wait_value(CHROMA + "Gain", "8.00")
-        self.desk.touch(*DEFAULT_KEY)
-        self.desk.wire()
-        self.desk.touch(*middle(slot(2)))
-        self.assertIn(f"default {CHROMA}Gain", self.desk.wait_wire(f"read {CHROMA}Gain"))
-        self.assertNotEqual(self.desk.value(CHROMA + "Gain"), "8.00")
-        # It was armed for that touch alone: the next one opens the ten keys.
-        covered = self.desk.part(*WORK_AREA)
-        self.desk.touch(*middle(slot(2)))
-        self.assertNotIn(f"default {CHROMA}Gain", self.desk.wire())
-        self.assertNotEqual(self.desk.part(*WORK_AREA), covered)
-        self.type_on(KNOB_PAD, "Cancel")
-
     def test_08_tabs_and_cells_open_their_pages(self):
         self.open_chroma()
         self.desk.touch(97 + 86 + 43, 564)  # the second tab along the bottom
@@ -171,22 +147,6 @@ class Objects(unittest.TestCase):
         self.desk.touch(*PAGE_KEY)
         self.type_on(PAGE_PAD, "1", "2", "1", "3", "Enter")
         self.desk.wait_wire("add M/E-2@Key1@Main Mask@Main Mask")
-
-    def test_11_the_saver_comes_and_the_touch_that_wakes_presses_nothing(self):
-        self.open_chroma()
-        time.sleep(0.5)
-        page = self.desk.part(*WORK_AREA)
-        self.desk.console(f"set {SETUP}Screen Saver#3")
-        self.addCleanup(self.desk.console, f"set {SETUP}Screen Saver#1200")
-        time.sleep(4.5)
-        self.assertNotEqual(self.desk.part(*WORK_AREA), page)
-        self.desk.wire()
-        self.desk.touch(*grid(18), settle=0.8)
-        # What it says is what each opening of a page says; no button has sent anything.
-        self.assertEqual([line for line in self.desk.wire() if line.startswith("put M/E")], [])
-        self.assertEqual(self.desk.part(*WORK_AREA), page)
-        self.desk.touch(*grid(18))  # awake, it is a press again
-        self.desk.wait_wire(f"put {TYPE}#Linear")
 
     def test_99_nothing_was_missing(self):
         self.assertIsNone(self.desk.app_status())

@@ -101,15 +101,6 @@ class Session(unittest.TestCase):
         after = self.desk.pixels()[y][3 * x:3 * x + 3]
         self.assertGreater(sum(after), sum(before) + 200)  # the light face of a key that is on
 
-    def test_06_without_the_tally_a_press_leaves_no_trace(self):
-        self.desk.console("ng on")
-        x, y = grid(33)
-        before = self.desk.pixels()
-        self.desk.touch(x, y, settle=0.6)
-        self.desk.wait_wire("put M/E-1@Key1@Type@Key Invert#true")
-        self.assertEqual(self.desk.pixels(), before)
-        self.desk.console("ng off")
-
     def test_07_a_dropped_link_loses_nothing(self):
         self.desk.console("drop text 1500")
         time.sleep(0.2)

@@ -174,16 +174,6 @@ class Streams(StreamTest):
         self.assertEqual(effect.loop, (1, 3, 5))
         self.assertEqual(len(effect.name), 8)
 
-    def test_the_largest_effect_still_fits_a_panels_buffer(self):
-        panel = self.panel(ME1)
-        self.do("kf M/E-1 496 2047", "kf M/E-1 497 1", "kf M/E-1 1 2048")
-        effect = panel.effect()
-        self.assertEqual((effect.count, effect.free, len(effect.keys)), (496, 0, 496))
-        self.assertEqual(effect.keys[0], (2047, False))
-        self.assertEqual(effect.duration, 495 * 2047)
-        panel.drain()
-        self.assertTrue(panel.quiet())
-
 
 class Running(StreamTest):
     def setUp(self):

@@ -163,17 +163,6 @@ class Recall(StoreTest, StreamTest):
         self.assertEqual(sorted(told), sorted([f"{KEY_TYPE}#old", "M/E-1@Late#"]))
         self.assertEqual(self.put("Snapshot@Snapshot@Recall", "2, 21"), [])
 
-    def test_a_master_stores_what_each_region_has_and_recalls_it(self):
-        self.follow(MASTERS + "Current Register", MASTERS + "List", KEY_TYPE)
-        self.put("Snapshot@Snapshot@Recall", "2, 10")
-        self.put("Snapshot@Snapshot@Recall", "4, 1")
-        told = self.put(MASTERS + "Edit@Store", "30")
-        self.assertEqual(told, [f"{MASTERS}Current Register#30",
-                                f"{MASTERS}List#30,MSS30,S,U,10,1" + "," * 28])
-        self.put("Snapshot@Snapshot@Recall", "2, 1")
-        self.assertEqual(self.put(MASTERS + "Edit@Recall", "2"), [f"{MASTERS}Current Register#2"])  # looked at only
-        self.assertEqual(self.put(MASTERS + "Recall", "30"), [f"{KEY_TYPE}#Chroma", f"{MASTERS}Current Register#30"])
-
     def test_the_console_stores_recalls_and_lists_by_words(self):
         self.do("store snapshot M/E-1 Sub 5 SUB SHOT", "store key M/E-1@Key3 2 K THREE", "store macro 9",
                 "list snapshot M/E-1 Sub", "list key M/E-1@Key3", "list macro", "store snapshot Nowhere 1", "recall plan 1",

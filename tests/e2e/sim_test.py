@@ -182,15 +182,6 @@ class Verbs(SimTest):
             panel.send(f"put M/E-1@{path}#{value}")
             self.assertEqual(panel.line(), f"M/E-1@{path}#{answer}", f"put {path}#{value}")
 
-    def test_defaults_follow_the_type_and_serve_the_sub_bank(self):
-        panel = self.client()
-        cases = {"Key1@Invert": "false", "Key1@Type": "Luminance", "Key1@Clip": "0.00",
-                 "Key1@Gain": "5", "Key1@Auto": "false", "Key1@Free": "", "Key1@Unknown": ""}
-        for bank in ("M/E-1", "M/E-1 SUB"):
-            for path, value in cases.items():
-                panel.send(f"read {bank}@{path}")
-                self.assertEqual(panel.line(), f"{bank}@{path}#{value}")
-
     def test_subscription_brings_every_change_until_removed(self):
         one, two = self.client(), self.client()
         one.send("add A@B", "add A@B")

@@ -303,16 +303,6 @@ TEST_F(Link, AHubThatIsNotThereIsLeftAloneFor6000Calls)
     (void)Net_ReceiveSHPCommand();
     EXPECT_EQ(GL_NetReConnect_SHP, 1);
     ASSERT_TRUE(peer.Accept());
-
-    peer.Send("half a li");
-    EXPECT_THAT(ReceiveAll(Net_ReceiveSHPCommand, 1), IsEmpty());
-    peer.Drop(); // a loss alone starts no back-off
-    usleep(20000);
-    (void)Net_ReceiveSHPCommand();
-    (void)Net_ReceiveSHPCommand();
-    ASSERT_TRUE(peer.Accept());
-    peer.Send("A#1\n");
-    EXPECT_THAT(ReceiveAll(Net_ReceiveSHPCommand, 1), ElementsAre("A#1"));
 }
 
 TEST_F(Link, HubLinesEndWithAnyLowControlByte)

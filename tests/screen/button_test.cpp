@@ -115,25 +115,12 @@ TEST_F(ButtonSheet, KeysThatLeadAndKeysOfTheFamily)
     }
 
     // Which transport mark a key has follows from its id.
-    static const struct {
-        int id;
-        const char* caption;
-        int (*draw)(BT_MEM*);
-    } transport[] = {
-        {34, "Rewind", bt_drw_clip_playrec},        {35, "Play", bt_drw_clip_playrec},
-        {36, "Fast\nForward", bt_drw_clip_playrec}, {37, "Stop", bt_drw_clip_playrec},
-        {38, "Record", bt_drw_clip_record},         {54, "Stop", bt_drw_clip_record},
-        {50, "Play", bt_drw_menu_macro_playrec},
-    };
-    for (int i = 0; i < 7; i++) {
-        Cell c{.caption = transport[i].caption, .type = BT_ACTION_STATE};
-        c.draw = transport[i].draw;
-        c.id = transport[i].id;
-        Draw(4 + 98 * i, 220, c);
-        c.pushed = i == 1;
-        c.disabled = i > 3;
-        c.status = i == 0 ? BT_ON : BT_OFF;
-        Draw(4 + 98 * i, 292, c);
+    for (int id = 34; id <= 38; id++) {
+        Cell c = By(id == 38 ? bt_drw_clip_record : bt_drw_clip_playrec, {"Clip", BT_ACTION_STATE});
+        c.id = id;
+        Draw(4 + 98 * (id - 34), 220, c);
+        c.disabled = true;
+        Draw(4 + 98 * (id - 34), 292, c);
     }
 
     // The operator's own key in each of its colours.

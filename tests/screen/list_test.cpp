@@ -3,11 +3,6 @@
 #include <iterator>
 
 struct ListPictures : ListPage {
-    void TearDown() override
-    {
-        LS_SetNowLineDisable(0);
-        ListPage::TearDown();
-    }
     static void Paint()
     {
         Redraw(); // the list,
@@ -111,36 +106,4 @@ TEST_F(ListPictures, ColourClasses)
     LS_SetNowLine(2, 3);
     Paint();
     EXPECT_TRUE(MatchesGolden("list_classes", {97, 74, 550, 500}));
-}
-
-// A split list whose current row may not be changed, and one whose selection is not shown.
-TEST_F(ListPictures, CurrentRow)
-{
-    LS_TBL table[] = {{.id = 1,
-                       .hn = 3,
-                       .vn = 4,
-                       .x = 100,
-                       .y = 78,
-                       .head = {"Fader", "1", "2"},
-                       .width = {60, 50, 50},
-                       .split = 1,
-                       .sb_top = 78,
-                       .sb_bottom = 188},
-                      {},
-                      LS_END};
-    table[1] = table[0];
-    table[1].id = 2;
-    table[1].x = 320;
-    Open(table, 4);
-    for (int row = 0; row < 4; row++)
-        Row(1, row, {"DSK", "A", "B"}), Row(2, row, {"DSK", "A", "B"});
-    Touch(220, 130);
-    Touch(440, 152);
-    Touch(320 + 160 - 12 + 5, 198 + 5);
-    Paint();
-    page.tree[1] = "DSK Fader Assign";
-    GL_DskInhibit = 1;
-    LS_SetNowLineDisable(1);
-    Paint();
-    EXPECT_TRUE(MatchesGolden("list_split_inhibited", {97, 74, 550, 240}));
 }

@@ -194,17 +194,3 @@ TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
 }
 
 // --- Others ---
-
-TEST_F(BaseAreaTest, TheTitleStepsTheReferenceOfMultiPictureEffects)
-{
-    OpenBase({"MPE", "Fx"}, 0x45110000);
-    SYS_MPEChannel = 0b10010010;
-    SendDummyTally("MPE@Fx@Channel@Reference#00010000");
-    for (int i = 0; i < 3; i++)
-        Touch(TITLE);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put MPE@Fx@Channel@Reference#10000000",
-                                                  "put MPE@Fx@Channel@Reference#00000010",
-                                                  "put MPE@Fx@Channel@Reference#00010000"));
-    SYS_MPEChannel = 0;
-    SYS_MPEReference = 0;
-}

@@ -161,25 +161,3 @@ TEST_F(KeyPriority, NothingIsSentWhileTheOrderIsUnknown)
 // --- Select ---
 
 // --- Numbered knob links ---
-
-TEST_F(ButtonFamily, TheBorderOfAKeyChoosesItsTable)
-{
-    static const struct {
-        const char* tally[4]; // of the dependencies 1 to 4
-        const NB_TBL* table;
-    } cases[] = {
-        {{"Wipe Pattern", "true", "true", "false"}, nb_me_key_edge_edge_border3},
-        {{"Linear", "false", "true", "false"}, nb_me_key_edge_edge_border1h},
-        {{"", "", "", ""}, nb_me_key_edge_edge_border2}, // nothing has come yet
-    };
-    for (const auto& c : cases) {
-        OpenTally(bt_tly_normal, {"", "", "", ""});
-        BT_SetKnob(17, SpecialKnob(1));
-        for (int i = 0; i < 4; i++)
-            Dependency(i + 1, c.tally[i]);
-        EXPECT_EQ(special_knob_table(bt_find(17)), c.table)
-            << c.tally[0] << c.tally[1] << c.tally[2];
-    }
-    BT_SetKnob(17, SpecialKnob(255));
-    EXPECT_EQ(special_knob_table(bt_find(17)), nullptr);
-}

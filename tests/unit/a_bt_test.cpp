@@ -56,17 +56,6 @@ TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgain)
                 ElementsAre("remove M/E-1@Key1@Type@Key Type", "remove M/E-1@Key1@Invert"));
 }
 
-TEST_F(ButtonPage, CommandsFromNoAddOnAreReadAndNeverRemoved)
-{
-    BT_TBL rows[] = {Button(17, BT_TOGGLE, {"~@A#*", "~@B#1", "~@C#1"}), {.id = -1}};
-    rows[0].no_add = 2;
-    Open(rows);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@A", "read M/E-1@Key1@Type@B",
-                                                  "read M/E-1@Key1@Type@C"));
-    BT_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
-}
-
 TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
 {
     const std::string path(2 * CMD_SIZE, 'p');

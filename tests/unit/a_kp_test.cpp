@@ -152,8 +152,6 @@ TEST_F(PathLists, TheListScrollsAndTheWheelIsItsArrow)
     int x = CAPTION_X, y = Y(5);
     ASSERT_EQ(KP_ConvPosForWheel(&x, &y, 5), 1);
     EXPECT_TRUE(Inside(bar.down, x, y));
-    x = 750;
-    EXPECT_EQ(KP_ConvPosForWheel(&x, &y, 4), 0);
     KP_Create(rows, 0);
     (void)TakeQueuedCommands();
     EXPECT_THAT(Sent(XPT_X, Y(3)), IsEmpty()); // nothing is left of the longer list

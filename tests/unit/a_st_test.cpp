@@ -172,10 +172,6 @@ TEST_F(StatusCells, TheReferenceChoosesTheTableOfADmePage)
                         Contains("add DME@Status@3D Param@" + std::string(c.added) + "@Location@X"))
                 << c.value;
     }
-    Tally(REFERENCE, "12,0,0");
-    EXPECT_EQ(st_dme_reference(), -1);
-    Tally(REFERENCE, "12,5,0");
-    EXPECT_EQ(st_dme_reference(), 5);
 }
 
 // --- Painting ---
@@ -264,9 +260,6 @@ TEST_F(StatusCells, TheCrossHairStandsWhereTheWipeDoes)
         EXPECT_EQ(Count({200 + 27, 75 + c.py, 200 + 73, 75 + c.py}, WHITE), 47) << c.v;
         EXPECT_EQ(PixelAt(200 + c.px + 1, 75 + c.py + 1), WHITE) << "the dot";
     }
-    Tally("M/E-1@Wipe@Main Pattern@Position", "false");
-    Pass();
-    EXPECT_EQ(Count({203, 75 + 26, 296, 75 + 62}, WHITE), 0) << "veiled";
 }
 
 // --- The cells of all pages ---

@@ -110,21 +110,3 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
     Tally(PGM_LIST, "KILL");
     EXPECT_STREQ(keyassign_str_get(0x11310000).main, "Main");
 }
-
-TEST_F(LeftTabs, ARotationIsKeptByBankAndKey)
-{
-    static const struct {
-        const char *path, *value;
-        int me, key, info;
-    } cases[] = {
-        {"M/E-1@Key2@Processed Key@Rotation", "true", 1, 2, 1},
-        {"PGM/PST@DSK8@Processed Key@Rotation", "2", 0, 8, 2},
-        {"M/E-1@Key2@Processed Key@Rotation@X", "7", 1, 2, 1},
-        {"M/E-1@Key9@Processed Key@Rotation", "7", 1, 9, 0},
-    };
-    for (const auto& c : cases) {
-        Tally(c.path, c.value);
-        EXPECT_EQ(GL_ProcKeyRotationInfo(c.me, c.key), c.info) << c.path;
-    }
-    EXPECT_EQ(GL_ProcKeyRotationInfo(6, 1), 0);
-}

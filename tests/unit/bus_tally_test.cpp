@@ -373,29 +373,6 @@ TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
     }
 }
 
-TEST_F(BusTally, AnAssignButtonOpensItsPageAndRemembersWhoAsked)
-{
-    static const struct {
-        const char* value;
-        uint32_t request;
-        const uint32_t* parent;
-        const int* button;
-        int expected;
-    } cases[] = {
-        {"7,0", 0x73240000, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
-        {"9,2", 0x73240002, &GL_XptAsgnShortCutMenu, &GL_XptAsgnSelectButtonID, 9},
-        {"1,3", 0, &GL_ShortCutMenu, &GL_SelectButtonID, 7},
-    };
-    GL_NowPage = 0x54110000;
-    for (const auto& c : cases) {
-        GL_CreatePage = 0;
-        EXPECT_EQ(Deliver(PANEL "Prefs/Utility@Panel Select", c.value), 0);
-        EXPECT_EQ(GL_CreatePage, c.request) << c.value;
-        EXPECT_EQ(*c.parent, 0x54110000u) << c.value;
-        EXPECT_EQ(*c.button, c.expected) << c.value;
-    }
-}
-
 // --- Rubbish ---
 
 TEST_F(BusTally, NoValueOnAnyPathDoesHarm)

@@ -103,29 +103,6 @@ TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
     }
 }
 
-TEST(Command, APathNeverLeavesItsBuffer)
-{
-    static const char* const tree[PAGE_DEPTH] = {"M/E-1", "Key1"};
-    ShowPage(0x15510000, tree);
-    const std::string whole = "M/E-1 SUB@Key1@Fill#abc";
-    for (int size = 0; size <= int(whole.size()) + 2; size++) {
-        std::string with_var(64, '?');
-        std::string without(64, '?');
-        DecodeCommandWithVar(with_var.data(), "~@Fill#$", "abc", size);
-        DecodeCommand(without.data(), "~@Fill#abc", size);
-        EXPECT_EQ(with_var, without) << size;
-        EXPECT_EQ(without.find_first_not_of('?', size_t(size)), std::string::npos) << size;
-        if (size == 0)
-            continue;
-        const std::string text = without.c_str(); // a "@" at the very end may be missing
-        EXPECT_EQ(text, whole.substr(0, text.size()));
-        EXPECT_GE(int(text.size()), std::min(int(whole.size()), size - 2));
-    }
-    char path[8] = "old";
-    DecodeCommand(path, nullptr, sizeof path);
-    EXPECT_STREQ(path, "");
-}
-
 TEST(Command, AConditionDisablesAtItsValues)
 {
     static const struct {

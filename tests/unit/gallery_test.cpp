@@ -29,7 +29,6 @@ struct Gallery : testing::Test {
         SendMessage(MSG_PRESS, b.x1 + 5, b.y1 + 5, 1, 0);
         SendMessage(MSG_RELEASE, b.x1 + 5, b.y1 + 5, 0, 0);
     }
-    static void Press(int id) { Press(*bt_find(id)); }
     // The keys of the page that open something.
     template <typename Check> static int ForEachAction(Check check)
     {
@@ -68,22 +67,4 @@ TEST_F(Gallery, EveryKeyOfTheWindowsOpensOne)
     });
     EXPECT_GE(n, 17);
     EXPECT_EQ(types, 0x3FFE) << "not all kinds are there";
-}
-
-TEST_F(Gallery, AllButtonsTakeTheStateThatIsChosen)
-{
-    Open(0x99920000);
-    for (const auto& [key, status, visible] : {std::tuple{67, BT_THIRD, BT_ENABLED},
-                                               {69, BT_ON, BT_DISABLED},
-                                               {65, BT_OFF, BT_ENABLED}}) {
-        Press(key);
-        EXPECT_EQ(BT_GetStatus(key), BT_ON) << key;
-        EXPECT_EQ(BT_GetStatus(1), status) << key;
-        EXPECT_EQ(BT_GetVisible(50), visible) << key;
-        EXPECT_EQ(BT_GetVisible(54), BT_ENABLED) << "the way out";
-    }
-    Press(1);
-    EXPECT_EQ(BT_GetStatus(1), BT_ON) << "a toggle answers without a server";
-    for (const auto& command : TakeQueuedCommands())
-        EXPECT_EQ(command.find("Gallery"), std::string::npos) << command;
 }

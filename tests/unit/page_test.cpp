@@ -103,24 +103,6 @@ TEST_F(PageTest, ARequestWithoutAPageLeavesAllAsItWas)
     EXPECT_TRUE(TakeQueuedCommands().empty());
 }
 
-TEST_F(PageTest, OnlyTheFirstVisitOfAMenuReadsTheFormats)
-{
-    ASSERT_EQ(CreatePage(0x11110000), 0);
-    (void)TakeQueuedCommands();
-    const auto announced = [] {
-        const auto all = TakeQueuedCommands();
-        return std::count_if(all.begin(), all.end(), [](const std::string& c) {
-            return c.starts_with("set TopMenu") ||
-                   c.starts_with("read Engineering Setup@System@Format@");
-        });
-    };
-    CreatePage(0x15210000); // key 6 of the same bank
-    EXPECT_EQ(announced(), 0);
-    CreatePage(0x63110000);
-    EXPECT_EQ(announced(), 26);
-    EXPECT_STREQ(NowTopMenu, "Snapshot");
-}
-
 TEST_F(PageTest, MenuKeysReopenTheirLastPage)
 {
     static const struct {

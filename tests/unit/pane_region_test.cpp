@@ -257,7 +257,6 @@ TEST_F(Regions, AllKeysSelectAndClear)
     } cases[] = {
         {"all", 17, 1, {}, ALL, "0* 1 2 3 4 5"},
         {"any off", 17, 1, {{3, 1}}, ALL, ""},
-        {"units", 24, 1, {}, ALL, "0 1 2 3 4 5 6 7 10 11 12 13 14 15 16 17"},
         {"the third cell", 34, 1, {}, ALL, "0 1 2* 3 4 5 8 10 11 12 13 18 19 20 21"},
         {"banks on, one reference",
          13,
@@ -266,7 +265,6 @@ TEST_F(Regions, AllKeysSelectAndClear)
          SWR_ALL,
          "0* 1 2 3 4 5 8 9 10 11 12 13 14 15 16"},
         {"banks off", 13, 1, {{2, 2}, {17, 1}, {18, 1}}, SWR_ALL, "17* 18"},
-        {"SWR units", 25, 1, {{17, 1}}, SWR_UNITS, "0 1 2 3 4 5 6 7 17"},
         {"no ALL for three columns", 43, 1, {{0, 2}}, ALL, "0*"},
     };
     for (const auto& c : cases) {

@@ -54,23 +54,6 @@ TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPainted)
     EXPECT_FALSE(IsPainted(3));
 }
 
-TEST_F(TimelinePage, ItWaitsTenMillisecondsForEachSelectedRow)
-{
-    kf::Select({1, 0x0E, 0, 0, 0, 0, 0, 0});
-    Redraw(31);
-    Redraw(0);
-    static const struct {
-        int ms;
-        bool paints;
-    } passes[] = {{10, false}, {20, false}, {1, true}, {30, false}, {10, true}};
-    for (const auto& pass : passes) {
-        Smear();
-        kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
-        Redraw(pass.ms);
-        EXPECT_EQ(IsPainted(0), pass.paints) << pass.ms;
-    }
-}
-
 TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
 {
     const auto turn = [](int to) { return SendMessage(LMSG_KNOBVAR, 1, to, 0, 0); };
