@@ -1,5 +1,4 @@
 // The three links over real sockets: a server that stalls, drops and comes back.
-#include "command.h"
 #include "device.h"
 #include "global.h"
 #include "harness.h"

@@ -1,6 +1,5 @@
 // Lists as they look: every colour class, header, marks, keys and thumb.
 #include "a_ls_page.h"
-#include <iterator>
 
 struct ListPictures : ListPage {
     static void Paint()

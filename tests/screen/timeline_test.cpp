@@ -3,12 +3,10 @@
 #include "a_kf.h"
 #include "a_kf_frames.h"
 #include "global.h"
-#include "graphics.h"
 #include "harness.h"
 #include "message.h"
 #include "page.h"
 #include "pc_kf_page.h"
-#include "tdl.h"
 
 struct TimelinePictures : testing::Test {
     PAGE page;

@@ -1,12 +1,9 @@
 // The windows as they look, over a page of keys.
 #include "a_bt_page.h"
-#include "a_nb.h"
 #include "bus.h"
-#include "pane.h"
-#include "tdl.h"
 #include "window.h"
-#include <cstdio>
 #include <filesystem>
+#include <fstream>
 
 struct WindowPictures : ButtonPage {
     void SetUp() override
@@ -68,11 +65,7 @@ TEST_F(WindowPictures, PageJumpWithFavorites)
                  std::string("\x33\x11\0\0\x01\x02"
                              "3311\nStatus\0\0\0\0\0\0\0",
                              24));
-    const char path[] = "/mnt/data/TopMenu/user_date1.usr";
-    FILE* fp = fopen(path, "wb");
-    ASSERT_TRUE(fp);
-    fwrite(file.data(), 1, file.size(), fp);
-    fclose(fp);
+    std::ofstream("/mnt/data/TopMenu/user_date1.usr", std::ios::binary) << file;
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
     Type({'1', '2', '2', '1'});
     SendMessage(MSG_PRESS, 98 + 17 + 86 + 20, 78 + 55 + 43 + 20, 1, 0);

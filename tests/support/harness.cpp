@@ -29,6 +29,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <netinet/in.h>
 #include <png.h>
 #include <poll.h>
@@ -265,12 +266,27 @@ std::vector<std::string> TakeQueuedCommands()
     return commands;
 }
 
+std::string FileText(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
 uint32_t PixelAt(int x, int y)
 {
     const auto* row = static_cast<const uint8_t*>(Screen->pixels) + y * Screen->pitch;
     uint32_t pixel;
     memcpy(&pixel, row + x * 4, 4);
     return pixel & 0xFFFFFF;
+}
+
+std::vector<uint32_t> PixelsIn(const Rect& r)
+{
+    std::vector<uint32_t> pixels;
+    for (int y = r.y1; y <= r.y2; y++)
+        for (int x = r.x1; x <= r.x2; x++)
+            pixels.push_back(PixelAt(x, y));
+    return pixels;
 }
 
 namespace

@@ -47,8 +47,12 @@ struct Peer {
 // Takes them off the queue: for tests without a peer.
 std::vector<std::string> TakeQueuedCommands();
 
+// What a file holds; nothing when it is not there.
+std::string FileText(const std::string& path);
+
 // --- Pictures ---
-uint32_t PixelAt(int x, int y); // 0x00RRGGBB
+uint32_t PixelAt(int x, int y);                // 0x00RRGGBB
+std::vector<uint32_t> PixelsIn(const Rect& r); // the same, row by row
 // Compare the screen with tests/screen/golden/NAME.png. A missing or different picture fails;
 // expected, actual and difference are left in the build folder's screen/. With TM3_GOLDEN_UPDATE
 // set in the environment the picture is written instead: look at it before you commit it.

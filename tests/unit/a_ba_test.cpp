@@ -2,14 +2,11 @@
 #include "a_bt_page.h"
 #include "bus.h"
 #include "device.h"
-#include "pane.h"
 #include "setup_index.h"
-#include "tdl.h"
 #include <filesystem>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {

@@ -8,7 +8,6 @@
 #include "message.h"
 #include "netio.h"
 #include "page.h"
-#include "pane.h"
 #include "tdl.h"
 #include "text.h"
 #include <algorithm>
@@ -327,21 +326,12 @@ TEST_F(Keyframes, EachRegionIsAskedForOnceAndSubSidesApart)
 
 // --- The strip ---
 
-static std::vector<uint32_t> StripPixels()
-{
-    std::vector<uint32_t> pixels;
-    for (int y = 6; y <= 65; y++)
-        for (int x = 508; x <= 797; x++)
-            pixels.push_back(PixelAt(x, y));
-    return pixels;
-}
-
 static bool StripPaints(int pushed)
 {
     constexpr uint32_t MARK = 0x123456;
     TDL_FillRectS(508, 6, 797, 65, MARK);
     KF_DrawTopArea(pushed);
-    const auto pixels = StripPixels();
+    const auto pixels = PixelsIn({508, 6, 797, 65});
     return std::any_of(pixels.begin(), pixels.end(), [](uint32_t p) { return p != MARK; });
 }
 

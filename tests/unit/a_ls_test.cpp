@@ -2,10 +2,8 @@
 #include "loop.h"
 #include "tdl.h"
 #include "window.h"
-#include <algorithm>
 #include <climits>
 #include <gmock/gmock.h>
-#include <iterator>
 
 using testing::ElementsAre;
 using testing::IsEmpty;

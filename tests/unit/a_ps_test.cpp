@@ -2,7 +2,6 @@
 #include "page_table/patterns.h"
 #include "tab_page.h"
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace

@@ -1,12 +1,9 @@
 // What assetgen leaves in the run directory, read as the application reads it.
 #include "../../assets/wipe_numbers.h"
-#include "types.h"
+#include "harness.h"
 #include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <map>
 #include <string>
-#include <vector>
 
 namespace fs = std::filesystem;
 using Bytes = std::string;
@@ -20,12 +17,6 @@ const char* const STEMS[] = {
 #include "graphics_list.h"
 #undef BITMAP
 };
-
-Bytes read_file(const std::string& path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return Bytes(std::istreambuf_iterator<char>(in), {});
-}
 
 uint32_t little_endian(const Bytes& bytes, size_t at, int count = 4)
 {
@@ -43,7 +34,7 @@ struct Picture {
 Picture read_picture(const std::string& name)
 {
     Picture p;
-    p.file = read_file(RUN_DIR + "/graphics/" + name + ".bmp");
+    p.file = FileText(RUN_DIR + "/graphics/" + name + ".bmp");
     if (p.file.size() > 54) {
         p.width = int(little_endian(p.file, 18));
         p.height = int(little_endian(p.file, 22));
@@ -72,8 +63,8 @@ int text_width(const Bytes& offsets, int font, const char* text)
 
 TEST(Assets, FontsHaveTheMeasuredWidths)
 {
-    ASSERT_EQ(read_file(RUN_DIR + "/font.dat").size(), 120000u);
-    const Bytes offsets = read_file(RUN_DIR + "/font_ofs.dat");
+    ASSERT_EQ(FileText(RUN_DIR + "/font.dat").size(), 120000u);
+    const Bytes offsets = FileText(RUN_DIR + "/font_ofs.dat");
     ASSERT_EQ(offsets.size(), 5120u);
     EXPECT_EQ(little_endian(offsets, 9 * 512 + 127 * 4), 116281u); // end of the last glyph of all
 

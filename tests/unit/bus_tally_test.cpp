@@ -1,13 +1,10 @@
-#include "a_ba.h"
 #include "bus_probe.h"
 #include <algorithm>
 #include <cstring>
 #include <gmock/gmock.h>
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 using Strings = std::vector<std::string>;
 
 #define FORMAT "Engineering Setup@System@Format@"

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-using testing::ElementsAre;
 using Parts = std::vector<std::string>;
 
 static Parts Cut(int (*split)(char*, char**, int), std::string text, int vn)

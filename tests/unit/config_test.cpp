@@ -11,7 +11,6 @@
 
 namespace
 {
-using testing::HasSubstr;
 
 struct Config : testing::Test {
     std::filesystem::path home = std::filesystem::current_path();

@@ -3,10 +3,7 @@
 #include "harness.h"
 #include "memory.h"
 #include "page.h"
-#include <cstring>
-#include <fstream>
 #include <gmock/gmock.h>
-#include <iterator>
 #include <string>
 
 TEST(ErrorList, FillsUpTo12000AndFreesAll)
@@ -31,8 +28,7 @@ TEST(ErrorList, PageWritesTheFileNewestLast)
     Err_Add("first %s", "%s");
     Err_Add("%s", std::string(5000, 'x').c_str());
     Err_Create();
-    std::ifstream in("/var/log2/tm3err.log");
-    const std::string text(std::istreambuf_iterator<char>(in), {});
+    const std::string text = FileText("/var/log2/tm3err.log");
     EXPECT_THAT(text, testing::MatchesRegex("\\[..:..:..\\] first %s\n\\[..:..:..\\] x*\n"));
     EXPECT_EQ(text.size(), 11 + 8 + 1 + 11 + 4095 + 1u);
 

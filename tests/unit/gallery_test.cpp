@@ -1,13 +1,11 @@
 // The gallery: every key of its pages is pressed, and what it opens is there.
 #include "a_bt.h"
 #include "bus.h"
-#include "global.h"
 #include "harness.h"
 #include "message.h"
 #include "page.h"
 #include "pane.h"
 #include "window.h"
-#include <cstring>
 
 struct Gallery : testing::Test {
     void SetUp() override { Harness_Reset(); }

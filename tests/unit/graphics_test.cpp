@@ -1,8 +1,8 @@
 #include "graphics.h"
+#include "harness.h"
 #include "log.h"
 #include "tdl_fixture.h"
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -47,10 +47,10 @@ int WidthOf(const SDL_Surface* s)
 
 int LogLinesWith(const std::string& part)
 {
-    std::ifstream log("graphics.log");
+    const std::string log = FileText("graphics.log");
     int count = 0;
-    for (std::string line; std::getline(log, line);)
-        count += line.find(part) != std::string::npos;
+    for (size_t at = 0; (at = log.find(part, at)) != std::string::npos; at++)
+        count++;
     return count;
 }
 } // namespace

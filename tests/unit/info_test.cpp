@@ -1,6 +1,5 @@
 #include "bus_probe.h"
 #include "info.h"
-#include "initread.h"
 #include <algorithm>
 #include <climits>
 #include <cstring>
@@ -8,7 +7,6 @@
 #include <iterator>
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 #define OPERATION "Info@Operation Setup Data@"
 #define SYSTEM "Info@System Setup Data@"

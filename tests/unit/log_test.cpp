@@ -1,10 +1,10 @@
 #include "global.h"
+#include "harness.h"
 #include "log.h"
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 
 namespace
@@ -14,12 +14,6 @@ using testing::MatchesRegex;
 
 constexpr char LOG[] = "/var/log2/unit.log";
 constexpr char MAINTENANCE[] = "/mnt/sys/log/maintenance.log";
-
-std::string Content(const std::string& path)
-{
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 void Fill(const std::string& path, const std::string& text)
 {
@@ -53,8 +47,8 @@ TEST_F(Log, AFullFileRotatesBeforeTheNextLine)
     EXPECT_FALSE(std::filesystem::exists(LOG + std::string(".0")));
     Fill(LOG, std::string(100, 'b'));
     Log_Output(1, 1, "new file");
-    EXPECT_EQ(Content(LOG + std::string(".0")), std::string(100, 'b'));
-    EXPECT_THAT(Content(LOG), MatchesRegex("\\[.*\\] new file\n"));
+    EXPECT_EQ(FileText(LOG + std::string(".0")), std::string(100, 'b'));
+    EXPECT_THAT(FileText(LOG), MatchesRegex("\\[.*\\] new file\n"));
 }
 
 TEST_F(Log, TenOldFilesRemainAndTheOldestGoes)
@@ -63,10 +57,10 @@ TEST_F(Log, TenOldFilesRemainAndTheOldestGoes)
         Fill(LOG + std::string(".") + std::to_string(i), "old " + std::to_string(i));
     Fill(LOG, std::string(150, 'c'));
     EXPECT_EQ(Log_Output2(0, "line"), 0);
-    EXPECT_EQ(Content(LOG), "line\n");
-    EXPECT_EQ(Content(LOG + std::string(".0")), std::string(150, 'c'));
+    EXPECT_EQ(FileText(LOG), "line\n");
+    EXPECT_EQ(FileText(LOG + std::string(".0")), std::string(150, 'c'));
     for (int i = 1; i < 10; i++)
-        EXPECT_EQ(Content(LOG + std::string(".") + std::to_string(i)),
+        EXPECT_EQ(FileText(LOG + std::string(".") + std::to_string(i)),
                   "old " + std::to_string(i - 1));
     EXPECT_FALSE(std::filesystem::exists(LOG + std::string(".10")));
 }
@@ -78,7 +72,7 @@ TEST_F(Log, ADroppedLineTouchesNoFile)
     EXPECT_EQ(Log_Output(2, 1, "x"), 1);
     Log_SetModule(1, 0);
     EXPECT_EQ(Log_Output(3, 1, "x"), 2);
-    EXPECT_EQ(Content(LOG), std::string(200, 'd'));
+    EXPECT_EQ(FileText(LOG), std::string(200, 'd'));
     EXPECT_EQ(Log_Output(3, 2, "x"), 0) << "the switch is the module's own";
     EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 0);
 }
@@ -90,13 +84,13 @@ TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
     Log_Output(1, 1, format);
-    EXPECT_THAT(Content(LOG), EndsWith(fits + "\n"));
+    EXPECT_THAT(FileText(LOG), EndsWith(fits + "\n"));
     format = too_long.c_str();
     Log_Output(1, 1, format);
-    EXPECT_THAT(Content(LOG), EndsWith("] <<< TOO LONG OUTPUT!!! >>>\n"));
+    EXPECT_THAT(FileText(LOG), EndsWith("] <<< TOO LONG OUTPUT!!! >>>\n"));
 #pragma GCC diagnostic pop
     Log_Output(1, 1, "%s", argument.c_str());
-    EXPECT_THAT(Content(LOG), EndsWith("] " + std::string(4095, 'a') + "\n"));
+    EXPECT_THAT(FileText(LOG), EndsWith("] " + std::string(4095, 'a') + "\n"));
 }
 
 TEST_F(Log, MaintenanceLogNeedsARealDisk)
@@ -106,7 +100,7 @@ TEST_F(Log, MaintenanceLogNeedsARealDisk)
     EXPECT_FALSE(std::filesystem::exists(MAINTENANCE));
     GL_IsRamDisk = 0;
     EXPECT_EQ(SelfDiag_AddLog("SWR1", "fan %d", 1), 0);
-    EXPECT_THAT(Content(MAINTENANCE),
+    EXPECT_THAT(FileText(MAINTENANCE),
                 MatchesRegex("\\[[A-Z][a-z][a-z] .. ..:..:..\\] \\[SWR1\\]fan 1\n"));
     std::filesystem::remove_all("/mnt/sys/log");
     EXPECT_EQ(SelfDiag_AddLog("SWR1", "x"), -1);

@@ -3,7 +3,6 @@
 #include "global.h"
 #include "harness.h"
 #include "initread.h"
-#include "log.h"
 #include "loop.h"
 #include "message.h"
 #include "netio.h"

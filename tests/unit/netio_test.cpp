@@ -1,4 +1,3 @@
-#include "command.h"
 #include "global.h"
 #include "harness.h"
 #include "netio_private.h"

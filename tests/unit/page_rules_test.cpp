@@ -2,7 +2,6 @@
 #include "global.h"
 #include "harness.h"
 #include "page.h"
-#include <cstring>
 
 namespace
 {

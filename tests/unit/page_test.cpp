@@ -1,11 +1,9 @@
-#include "device.h"
 #include "global.h"
 #include "harness.h"
 #include "log.h"
 #include "page.h"
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <unistd.h>
 
 namespace
@@ -35,8 +33,7 @@ struct PageTest : testing::Test {
     // What has been logged since the last call.
     std::string Logged()
     {
-        std::ifstream in(LOG_FILE);
-        std::string text{std::istreambuf_iterator<char>(in), {}};
+        const std::string text = FileText(LOG_FILE);
         const std::string news = text.substr(std::min(log_read, text.size()));
         log_read = text.size();
         return news;

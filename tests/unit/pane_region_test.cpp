@@ -2,33 +2,9 @@
 #include "pane_private.h"
 #include <cstring>
 #include <gmock/gmock.h>
-#include <map>
 #include <set>
 
-using testing::ElementsAre;
-
 struct Regions : PanePage {
-    std::map<int, std::vector<int>> start; // what was selected, by group
-
-    void SetUp() override
-    {
-        PanePage::SetUp();
-        for (int grp = 0; grp < REGION_GROUPS; grp++) {
-            PaneRegion_InitID(grp);
-            for (int i = 0; i < RegionBtn[grp].cells; i++)
-                start[grp].push_back(RegionBtn[grp].btnsel[i].select);
-        }
-    }
-    void TearDown() override
-    {
-        PanePage::TearDown();
-        for (int grp = 0; grp < REGION_GROUPS; grp++) {
-            PaneRegion_InitID(grp);
-            for (int i = 0; i < RegionBtn[grp].cells; i++)
-                RegionBtn[grp].btnsel[i].select = start[grp][size_t(i)];
-        }
-    }
-
     static void Select(int grp, std::initializer_list<std::pair<int, int>> cells)
     {
         for (int i = 0; i < RegionBtn[grp].cells; i++)

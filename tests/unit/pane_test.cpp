@@ -22,18 +22,9 @@ std::string Lines(int n)
     return text;
 }
 
-std::vector<uint32_t> Area(int x1, int y1, int x2, int y2)
-{
-    std::vector<uint32_t> pixels;
-    for (int y = y1; y <= y2; y++)
-        for (int x = x1; x <= x2; x++)
-            pixels.push_back(PixelAt(x, y));
-    return pixels;
-}
-
 std::vector<uint32_t> Well()
 {
-    return Area(231, 206, 500, 374);
+    return PixelsIn({231, 206, 500, 374});
 }
 } // namespace
 
@@ -126,17 +117,17 @@ TEST_F(Panes, TheScreenComesBackWithTheLastOne)
     TDL_FillRectS(97, 73, 702, 526, 0x123456);
     const int lower = PaneMessage_Create("Lower", PANE_INFO, "m");
     Pass();
-    const auto alone = Area(190, 130, 640, 460);
+    const auto alone = PixelsIn({190, 130, 640, 460});
     const int upper = PaneProgress_Create("Upper", "m", 1);
     const int find = PaneFind_Create(500, 300, 0);
     Pass();
     Pass();
-    EXPECT_NE(Area(190, 130, 640, 460), alone);
+    EXPECT_NE(PixelsIn({190, 130, 640, 460}), alone);
     Pane_Quit(upper);
     Pane_Quit(find);
-    EXPECT_EQ(Area(190, 130, 640, 460), alone) << "its shadow is laid once";
+    EXPECT_EQ(PixelsIn({190, 130, 640, 460}), alone) << "its shadow is laid once";
     Pane_Quit(lower);
-    for (const uint32_t pixel : Area(97, 73, 702, 526))
+    for (const uint32_t pixel : PixelsIn({97, 73, 702, 526}))
         ASSERT_EQ(pixel, 0x123456U);
 }
 

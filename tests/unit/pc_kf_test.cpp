@@ -1,14 +1,10 @@
 #include "a_kp.h"
 #include "a_ls.h"
 #include "a_nb.h"
-#include "netio.h"
-#include "pane.h"
 #include "pc_kf.h"
 #include "pc_kf_page.h"
 #include "setup_index.h"
 #include "tdl.h"
-#include "text.h"
-#include <cstring>
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;

@@ -1,23 +1,14 @@
+#include "harness.h"
 #include "log.h"
 #include "process.h"
 #include <csignal>
-#include <cstring>
 #include <fstream>
-#include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <sys/time.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 namespace
 {
-std::string Content(const char* path)
-{
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 volatile int signals_seen = 0;
 void CountSignal(int)
 {
@@ -96,7 +87,7 @@ TEST(Process, OutputGoesToTheFileWhateverItsLineLength)
 {
     const char* file = "/var/tmp/redirected";
     EXPECT_EQ(ktr_system_and_redirect("printf '%0700d\\nlast' 1; exit 2", file), 2 << 8);
-    EXPECT_EQ(Content(file), std::string(699, '0') + "1\nlast");
+    EXPECT_EQ(FileText(file), std::string(699, '0') + "1\nlast");
     EXPECT_EQ(ktr_system_and_redirect("true", "/nowhere/file"), -1);
     EXPECT_EQ(ktr_system_and_redirect(nullptr, file), -1);
     EXPECT_EQ(ktr_system_and_redirect("true", nullptr), -1);
@@ -114,7 +105,7 @@ TEST(Process, TheShellGetsNoTextThatItWouldActOn)
         EXPECT_EQ(IsShellSafe(text.c_str()), 0) << c;
     }
     EXPECT_EQ(IsShellSafe("a;reboot"), 0);
-    EXPECT_NE(Content("/var/log2/process.log").find("[a;reboot]"), std::string::npos);
+    EXPECT_NE(FileText("/var/log2/process.log").find("[a;reboot]"), std::string::npos);
     EXPECT_EQ(ktr_shell("exit 7"), 7 << 8);
     EXPECT_EQ(ktr_shell(nullptr), -1);
     Log_Init(nullptr, LOG_FILE_SIZE);

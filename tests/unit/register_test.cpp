@@ -2,7 +2,6 @@
 #include "memory.h"
 #include "register.h"
 #include "snapshot_region.h"
-#include <algorithm>
 #include <climits>
 #include <gmock/gmock.h>
 
@@ -55,17 +54,6 @@ const char* const MACRO = "Macro@Register@List";
 std::string Commas(int n)
 {
     return std::string(size_t(n), ',');
-}
-
-std::string Bytes(const unsigned char (&map)[9])
-{
-    std::string text;
-    char byte[4];
-    for (const unsigned char b : map) {
-        snprintf(byte, sizeof byte, "%s%02X", text.empty() ? "" : " ", b);
-        text += byte;
-    }
-    return text;
 }
 
 // What the page was told since the last call.
@@ -351,9 +339,9 @@ TEST_F(Registers, RegionsWithARegisterHaveTheirBitInTheMap)
     unsigned char map[9];
     memset(map, 0xFF, sizeof map);
     EXPECT_NE(Register_Exist_Effect_AllRegion(6, map), 0);
-    EXPECT_EQ(Bytes(map), "01 08 80 01 00 08 00 00 01");
+    EXPECT_THAT(map, ElementsAre(1, 8, 0x80, 1, 0, 8, 0, 0, 1));
     EXPECT_NE(Register_Exist_Effect_EX_AllRegion(6, map), 0) << "of the devices alone";
-    EXPECT_EQ(Bytes(map), "00 00 00 00 00 08 00 00 01") << "the last byte is not its own";
+    EXPECT_THAT(map, ElementsAre(0, 0, 0, 0, 0, 8, 0, 0, 1)) << "the last byte is not its own";
     EXPECT_EQ(Register_Exist_Effect_AllRegion(5, map), 0);
-    EXPECT_EQ(Bytes(map), "00 00 00 00 00 00 00 00 00");
+    EXPECT_THAT(map, Each(0));
 }

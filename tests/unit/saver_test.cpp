@@ -1,7 +1,6 @@
 // The screen saver, through the loop's door: when it starts, what it hides and gives back, what
 // each pattern shows.
 #include "a_ba.h"
-#include "a_ls.h"
 #include "bus.h"
 #include "device.h"
 #include "global.h"
@@ -22,17 +21,9 @@
 namespace
 {
 constexpr uint32_t KEY_PAGE = 0x11110000;
+constexpr Rect SCREEN = {0, 0, SCREEN_W - 1, SCREEN_H - 1};
 constexpr char FOLDER[] = "/tmp/saver_test";
 constexpr char SETTINGS[] = "/mnt/data/.screensaver";
-
-std::vector<uint32_t> ScreenCopy()
-{
-    std::vector<uint32_t> pixels(size_t(SCREEN_W * SCREEN_H));
-    for (int y = 0; y < SCREEN_H; y++)
-        memcpy(&pixels[size_t(y * SCREEN_W)],
-               static_cast<uint8_t*>(Screen->pixels) + y * Screen->pitch, SCREEN_W * 4);
-    return pixels;
-}
 
 // The sum of all colours of the screen.
 long Light()
@@ -133,16 +124,16 @@ TEST_F(Saver, HidesThePageAndGivesItBackWhole)
 {
     CreatePage(KEY_PAGE);
     SendMessage(MSG_REDRAW, 0, 0, 0, 0);
-    const auto before = ScreenCopy();
+    const auto before = PixelsIn(SCREEN);
     for (int mode = 0; mode <= SAVER_PATTERNS; mode++) {
         Start(mode);
         Passes(100);
         SendDummyTally("M/E-1@Key1@Type@Key Type#Luminance");
-        const auto pattern = ScreenCopy();
+        const auto pattern = PixelsIn(SCREEN);
         SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-        EXPECT_TRUE(ScreenCopy() == pattern) << "the page repaints under mode " << mode;
+        EXPECT_TRUE(PixelsIn(SCREEN) == pattern) << "the page repaints under mode " << mode;
         EXPECT_EQ(Wake(), 1);
-        EXPECT_TRUE(ScreenCopy() == before) << "mode " << mode;
+        EXPECT_TRUE(PixelsIn(SCREEN) == before) << "mode " << mode;
     }
 }
 

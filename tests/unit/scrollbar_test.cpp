@@ -1,5 +1,4 @@
 #include "a_ls_page.h"
-#include "tdl.h"
 #include <climits>
 #include <gmock/gmock.h>
 

@@ -3,11 +3,8 @@
 #include "log.h"
 #include "storage.h"
 #include "text.h"
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
-#include <iterator>
 #include <string>
 #include <sys/statvfs.h>
 
@@ -19,12 +16,6 @@ using testing::IsEmpty;
 using testing::Not;
 
 constexpr char LOG[] = "/var/log2/storage.log";
-
-std::string LogText()
-{
-    std::ifstream in(LOG);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 struct Storage : testing::Test {
     void SetUp() override
@@ -58,7 +49,7 @@ TEST_F(Storage, FreeSpaceIsTheSystemsOwnFigure)
 TEST_F(Storage, FreeSpaceOfNoDirectoryIsAFailureWithOneLine)
 {
     EXPECT_EQ(GetDiskFree("/mnt/none"), -1);
-    EXPECT_THAT(LogText(), HasSubstr("GetDiskSize(/mnt/none) --> ret = -1 [KB]\n"));
+    EXPECT_THAT(FileText(LOG), HasSubstr("GetDiskSize(/mnt/none) --> ret = -1 [KB]\n"));
     EXPECT_EQ(GetDiskFree("/mnt\"; touch /mnt/data/run; \""), -1);
     EXPECT_FALSE(std::filesystem::exists("/mnt/data/run"));
     EXPECT_EQ(GetDiskFree(nullptr), -1);
@@ -93,7 +84,7 @@ TEST_F(Storage, NfsMountLogsItsStepsAndStopsAtTheFirstFailure)
     GL_NFS_Mounted = 1;
     EXPECT_EQ(NFS_Mount(), -1);
     EXPECT_EQ(GL_NFS_Mounted, 0);
-    const std::string log = LogText();
+    const std::string log = FileText(LOG);
     EXPECT_THAT(log, HasSubstr("NFS Mount: /bin/mkdir -p /var/nfs\n"));
     EXPECT_THAT(log, HasSubstr("NFS Mount: --> 0\n"));
     EXPECT_THAT(log, HasSubstr("NFS Mount: /bin/umount /var/nfs\n"));
@@ -120,8 +111,8 @@ TEST_F(Storage, NfsSettingsThatAreMoreThanAWordAreRefused)
         remove(LOG);
         EXPECT_EQ(NFS_MountEx(c.mpoint), -1);
         EXPECT_EQ(GL_NFS_Mounted, 0);
-        EXPECT_THAT(LogText(), HasSubstr("refused")) << c.server << c.mpoint << c.option;
-        EXPECT_THAT(LogText(), Not(HasSubstr("/bin/"))) << "nothing was run";
+        EXPECT_THAT(FileText(LOG), HasSubstr("refused")) << c.server << c.mpoint << c.option;
+        EXPECT_THAT(FileText(LOG), Not(HasSubstr("/bin/"))) << "nothing was run";
     }
     EXPECT_EQ(NFS_MountEx(nullptr), -1);
 }

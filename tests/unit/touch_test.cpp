@@ -5,7 +5,6 @@
 #include "touch.h"
 #include <fcntl.h>
 #include <linux/input.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace

@@ -1,21 +1,13 @@
 #include "global.h"
+#include "harness.h"
 #include "i2c.h"
 #include "version.h"
 #include <filesystem>
 #include <fstream>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 
 namespace
 {
-std::string Content(const char* path)
-{
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
 void Fpga(const unsigned char (&version)[4], const unsigned char (&date)[4])
 {
     i2c_address_set(82);
@@ -42,7 +34,7 @@ TEST(Version, FilesAndFpgaBecomeRowsAndAFile)
     EXPECT_STREQ(GL_VerTime, "Mar.01.2013");
     EXPECT_STREQ(GL_MenuDetailInfoFull[1], "Version 2.00") << "cut at the control character";
     EXPECT_STREQ(GL_MenuDetailInfo[3], "Version 1.23 (Dec.31.2013)");
-    EXPECT_EQ(Content("/var/tmp/version2/GUI7"),
+    EXPECT_EQ(FileText("/var/tmp/version2/GUI7"),
               "QRD-X62: Version 5.10#3 (Mar.01.2013)\n"
               "QRD-X62-MENU-APP: Version 5.10#3 (Mar.01.2013)\n"
               "QRD-X62-MENU-LINUX: Version 2.00\n"

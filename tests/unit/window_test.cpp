@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <gmock/gmock.h>
-#include <initializer_list>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -422,27 +422,14 @@ struct PageJump : Windows {
     {
         TouchAt(CORNER, {17 + 86 * (n % 4), 55 + 43 * (n / 4) - 10});
     }
+    static std::string Path(int set)
+    {
+        return std::string(DIRECTORY) + "/user_date" + std::to_string(set) + ".usr";
+    }
     static void WriteFile(int set, const std::string& bytes)
     {
         std::filesystem::create_directories(DIRECTORY);
-        char path[64];
-        snprintf(path, sizeof path, "%s/user_date%d.usr", DIRECTORY, set);
-        FILE* fp = fopen(path, "wb");
-        ASSERT_TRUE(fp);
-        fwrite(bytes.data(), 1, bytes.size(), fp);
-        fclose(fp);
-    }
-    static std::string ReadFile(int set)
-    {
-        char path[64];
-        snprintf(path, sizeof path, "%s/user_date%d.usr", DIRECTORY, set);
-        char bytes[1000];
-        FILE* fp = fopen(path, "rb");
-        if (!fp)
-            return "";
-        const size_t n = fread(bytes, 1, sizeof bytes, fp);
-        fclose(fp);
-        return {bytes, n};
+        std::ofstream(Path(set), std::ios::binary) << bytes;
     }
 };
 
@@ -488,13 +475,14 @@ TEST_F(PageJump, StoredKeysAndColoursAreInTheFileAtOnce)
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
     TouchAt(CORNER, {17 + 86 * 2, 346});
     PressFavorite(1);
-    const std::string stored = ReadFile(1);
+    const std::string stored = FileText(Path(1));
     ASSERT_EQ(stored.size(), 29u * 24);
     EXPECT_EQ(stored.substr(24, 6), std::string("\x11\x11\x00\x02\x00\x01", 6));
     TouchAt(CORNER, {17 + 86 * 3, 346});
     PressFavorite(1);
-    EXPECT_EQ(ReadFile(1).substr(28, 2), std::string("\x01\x02", 2)); // white with black letters
-    TouchAt(CORNER, {17 + 86 * 3, 346});                              // no longer
+    EXPECT_EQ(FileText(Path(1)).substr(28, 2),
+              std::string("\x01\x02", 2)); // white with black letters
+    TouchAt(CORNER, {17 + 86 * 3, 346});   // no longer
     for (int set = 1; set < 5; set++) {
         TouchAt(CORNER, {17 + 86, 346});
         PressFavorite(1);
