@@ -16,6 +16,12 @@
 #include "me_misc.h"
 #include "me_top.h"
 #include "me_wipe.h"
+#include "nb_dme.h" // like the next five: of the numbered knob links; a name used twice ends the build here
+#include "nb_edge.h"
+#include "nb_global.h"
+#include "nb_key.h"
+#include "nb_nonlinear.h"
+#include "nb_wipe.h"
 #include "operation.h"
 #include "registers.h"
 #include "saver.h"
