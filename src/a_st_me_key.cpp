@@ -324,14 +324,15 @@ int st_drw_me_key_offtrans(ST_MEM* cell)
     return draw_transition(cell, name_of(cell, "Off Trans", "Off Trans"));
 }
 
-// Who lies on top, from the top.
+// Where the key lies among those of its side: 0 the priority list.
 int st_drw_me_key_priority(ST_MEM* cell)
 {
-    static constexpr ST_LABEL labels[] = {{"1st", 0}, {"2nd", 1}, {"3rd", 2}};
     const int lit = st_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, "Key Priority");
     if (!c)
         return -1;
-    st_put_values(c, lit, labels);
+    const char* key = GL_NowTree && GL_NowTree[0] && GL_NowTree[1] ? GL_NowTree[1] : "";
+    const int number = strlen(key) == 4 ? key[3] - '0' : 0; // "Key1", "DSK1"
+    st_put_priority(c, lit, c->tally[0], number > 4, number);
     return 0;
 }

@@ -2,6 +2,7 @@
 // bank. The order of the paths is the order of the tallies that a painter reads.
 #pragma once
 #include "rows.h"
+#include "st_me_misc.h"
 
 // The cells that exist for one key and for an overview of all. "key" is the path of the key.
 #define ST_KEY_TYPE(key) {key "@Type@Key Type", key "@Type@Clean Mode@Luminance", key "@Type@Chroma@Mix Mode", \
@@ -43,8 +44,8 @@ inline constexpr ST_TBL st_me_key[] = {
     CellAt(4, 1, {.id = ST_DUAL_BOARD, .draw_func = st_drw_me_key_prockey_dpdl,
                   .cmd = {"~2@Processed Key@Processed Key", "~2@Processed Key@Channel Pairs", "~2@Processed Key@Monitor"},
                   .jamp_id_base = 0x11160000}),
-    CellAt(5, 1, {.id = 12, .draw_func = st_drw_me_key_priority,
-                  .cmd = {"~1@Misc@Key Priority@1", "~1@Misc@Key Priority@2", "~1@Misc@Key Priority@3"}}),
+    CellAt(5, 1, {.id = 12, .draw_func = st_drw_me_key_priority, .cmd = {"~1@Misc@Key Priority@Key Priority"},
+                  .jamp_id_base = 0x11730000}),
     ST_END,
 };
 static_assert(CellsAreSound(st_me_key));
@@ -59,12 +60,14 @@ static_assert(CellsAreSound(st_me_key));
     ST_KEY_LINE(0, key1, 0x11100000), ST_KEY_LINE(1, key2, 0x11200000), \
     ST_KEY_LINE(2, key3, 0x11300000), ST_KEY_LINE(3, key4, 0x11400000)
 
-inline constexpr ST_TBL st_me_top[]      = {ST_KEY_LINES("Key1", "Key2", "Key3", "Key4"), ST_END};
-inline constexpr ST_TBL st_me_top_sub[]  = {ST_KEY_LINES("Key5", "Key6", "Key7", "Key8"), ST_END};
-inline constexpr ST_TBL st_pgm_top[]     = {ST_KEY_LINES("DSK1", "DSK2", "DSK3", "DSK4"), ST_END};
-inline constexpr ST_TBL st_pgm_top_sub[] = {ST_KEY_LINES("DSK5", "DSK6", "DSK7", "DSK8"), ST_END};
+#define ST_TOP(cells, ...) {ST_KEY_LINES(__VA_ARGS__), cells[0], cells[1], ST_END}
+inline constexpr ST_TBL st_me_top[]      = ST_TOP(st_bank_top, "Key1", "Key2", "Key3", "Key4");
+inline constexpr ST_TBL st_me_top_sub[]  = ST_TOP(st_bank_top_sub, "Key5", "Key6", "Key7", "Key8");
+inline constexpr ST_TBL st_pgm_top[]     = ST_TOP(st_bank_top, "DSK1", "DSK2", "DSK3", "DSK4");
+inline constexpr ST_TBL st_pgm_top_sub[] = ST_TOP(st_bank_top_sub, "DSK5", "DSK6", "DSK7", "DSK8");
 static_assert(CellsAreSound(st_me_top) && CellsAreSound(st_me_top_sub));
 static_assert(CellsAreSound(st_pgm_top) && CellsAreSound(st_pgm_top_sub));
+#undef ST_TOP
 #undef ST_KEY_LINES
 #undef ST_KEY_LINE
 #undef ST_KEY_MASK

@@ -48,9 +48,7 @@ TEST_F(StatusPicture, TheCellsOverAKeyPage)
          {"M/E-1@Key1@Transition@OFF DME Wipe Pattern", "1301"},
          {"M/E-1@Key1@Processed Key@Processed Key", "true"},
          {"M/E-1@Key1@Processed Key@Channels", "1"},
-         {"M/E-1@Misc@Key Priority@1", "Key1"},
-         {"M/E-1@Misc@Key Priority@2", "Key3"},
-         {"M/E-1@Misc@Key Priority@3", "Key2"}});
+         {"M/E-1@Misc@Key Priority@Key Priority", "1,3,2,4"}});
     Pass();
     EXPECT_TRUE(MatchesGolden("status_key", two_lines));
 }
@@ -115,11 +113,12 @@ TEST_F(StatusPicture, TheCellsOfABanksOwnSettings)
     Open(st_me_misc);
     Say({{"PGM/PST@Misc@Transition@DME Wipe", "true"},
          {"PGM/PST@DME Wipe@Pattern Select@Pattern", "1201"},
-         {"PGM/PST@Misc@Key Priority@1", "Key4"},
-         {"PGM/PST@Misc@Key Priority@2", "Key3"},
-         {"PGM/PST@Misc@Next Key Priority@4", "Key1"},
-         {"Engineering Setup@Switcher@Config@PGM Config@List", "PGM, PGM,Clean,,PGM,Clean2"},
-         {"PGM/PST@Misc@Key Assign@Key3", "Out3"},
+         {"PGM/PST@Misc@Key Priority@Key Priority", "4,3,2,1,1,4,3,2"},
+         {"PGM/PST@Misc@Key Priority@Next Key Priority", "1,2,3,4,1,2,3,4"},
+         {"Engineering Setup@Switcher@Config@PGM Config@List", "P/P,1,35"},
+         {"Engineering Setup@Switcher@Config@PGM Config@List", "P/P,2,FF"},
+         {"Engineering Setup@Switcher@Config@PGM Config@List", "M/E-1,3,FF"},
+         {"PGM/PST@Misc@Key Assign@Key3", "Main"},
          {"PGM/PST@Misc@Video Process@Video Process", "true"},
          {"PGM/PST@Misc@Video Process@Luminance", "-100.00"},
          {"PGM/PST@Misc@Clip Transition@Bkgd", "Both"},
