@@ -72,7 +72,7 @@ constexpr BT_TBL NextTransition(int id, const char* caption, const char* cmd)
     NextTransition(51, "Key6", "~3@Next Transition@Key6#*"), \
     NextTransition(52, "Key7", "~3@Next Transition@Key7#*"), \
     NextTransition(53, "Key8", "~3@Next Transition@Key8#*"), \
-    Knobs ({.id = 38, .caption = "Rate",            .group = "Rate", .cmd = {""}, .nb = rates})
+    Knobs ({.id = 38, .caption = "Rate",            .group = "Rate", .nb = rates})
 
 inline constexpr BT_TBL bt_me_misc_trans[] = {BT_MISC_TRANSITION(nb_me_misc_rates), BT_END};
 inline constexpr BT_TBL bt_pp_misc_trans[] = {
@@ -98,7 +98,7 @@ inline constexpr BT_TBL bt_me_misc_trans_sub[] = {
     NextTransition(35, "Key6", "~3@Next Transition@Key6#*"),
     NextTransition(36, "Key7", "~3@Next Transition@Key7#*"),
     NextTransition(37, "Key8", "~3@Next Transition@Key8#*"),
-    Knobs ({.id = 38, .caption = "Rate",      .group = "Rate", .cmd = {""}, .nb = nb_me_misc_rate}),
+    Knobs ({.id = 38, .caption = "Rate",      .group = "Rate", .nb = nb_me_misc_rate}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_misc_trans_sub));
@@ -119,27 +119,33 @@ inline constexpr NB_TBL nb_me_misc_color2[] = {
     {.id = 3, .caption = "Hue",        .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Color 2@Hue"},
     NB_END,
 };
-inline constexpr NB_TBL nb_me_misc_mixptn[] = {
-    {.id = 1,  .caption = "Pattern", .type = NB_INT, .min = 1,  .max = 32,  .cmd = "~@Mix Pattern@Pattern"},
-    {.id = 2,  .caption = "Size",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Mix Pattern@Size"},
-    {.id = 3,  .caption = "Soft",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Mix Pattern@Soft"},
-    {.id = 4,  .caption = "H Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~@Mix Pattern@Position@H"},
-    {.id = 5,  .caption = "V Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~@Mix Pattern@Position@V"},
+inline constexpr NB_TBL nb_me_misc_mix[] = {
+    {.id = 1, .caption = "Size", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Mix@Size"},
+    {.id = 2, .caption = "Soft", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Mix@Soft"},
+    {.id = 3, .caption = "H",    .type = NB_2, .min = -200, .max = 200, .cmd = "~@Mix@Position@H"},
+    {.id = 4, .caption = "V",    .type = NB_2, .min = -200, .max = 200, .cmd = "~@Mix@Position@V"},
     NB_END,
 };
-static_assert(BoxesAreSound(nb_me_misc_color1) && BoxesAreSound(nb_me_misc_color2) && BoxesAreSound(nb_me_misc_mixptn));
+static_assert(BoxesAreSound(nb_me_misc_color1) && BoxesAreSound(nb_me_misc_color2) && BoxesAreSound(nb_me_misc_mix));
 
+#define IF_MIX "~@Mode#Flat"
 inline constexpr BT_TBL bt_me_misc_color_matte[] = {
     Radio ({.id = 1,  .caption = "Flat",         .group = "Matte", .cmd = {"~@Mode#Flat"}}),
-    Radio ({.id = 2,  .caption = "Mix",          .group = "Matte", .cmd = {"~@Mode#Mix"}}),
-    Knobs ({.id = 17, .caption = "Color 1",      .group = "Color", .cmd = {""}, .nb = nb_me_misc_color1}),
-    Knobs ({.id = 18, .caption = "Color 2",      .group = "Color", .cmd = {"", "~@Mode#Flat"}, .nb = nb_me_misc_color2}),
-    Action({.id = 19, .caption = "Copy\n1 to 2", .group = "Color", .cmd = {"~@Copy#*", "~@Mode#Flat"}}),
-    Action({.id = 20, .caption = "Swap",         .group = "Color", .cmd = {"~@Swap#*", "~@Mode#Flat"}}),
-    Knobs ({.id = 4,  .caption = "Mix\nPattern", .group = "Mix Pattern", .cmd = {"", "~@Mode#Flat"}, .nb = nb_me_misc_mixptn}),
+    Radio ({.id = 2,  .caption = "Mix",          .group = "Matte", .cmd = {"~@Mode#Mix"}, .nb = nb_me_misc_mix}),
+    Knobs ({.id = 3,  .caption = "Color 1",      .group = "Color", .nb = nb_me_misc_color1}),
+    Knobs ({.id = 4,  .caption = "Color 2",      .group = "Color", .cmd = {nullptr, IF_MIX}, .nb = nb_me_misc_color2}),
+    Action({.id = 5,  .caption = "Copy\n1 to 2", .group = "Color", .cmd = {"~@Copy#*", IF_MIX}}),
+    Action({.id = 6,  .caption = "Swap",         .group = "Color", .cmd = {"~@Swap#*", IF_MIX}}),
+    Radio ({.id = 17, .caption = "Horizontal",   .group = "Mix Pattern", .cmd = {"~@Mix Pattern#Horizontal", IF_MIX}}),
+    Radio ({.id = 18, .caption = "Vertical",     .group = "Mix Pattern", .cmd = {"~@Mix Pattern#Vertical", IF_MIX}}),
+    Radio ({.id = 19, .caption = "Diagonal",     .group = "Mix Pattern", .cmd = {"~@Mix Pattern#Diagonal", IF_MIX}}),
+    Radio ({.id = 20, .caption = "Box",          .group = "Mix Pattern", .cmd = {"~@Mix Pattern#Box", IF_MIX}}),
+    Radio ({.id = 21, .caption = "Diamond",      .group = "Mix Pattern", .cmd = {"~@Mix Pattern#Diamond", IF_MIX}}),
+    Radio ({.id = 22, .caption = "Circle",       .group = "Mix Pattern", .cmd = {"~@Mix Pattern#Circle", IF_MIX}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_misc_color_matte));
+#undef IF_MIX
 
 // --- Fade to black ---
 
@@ -152,7 +158,7 @@ static_assert(BoxesAreSound(nb_pp_misc_ftb_rate));
 
 inline constexpr BT_TBL bt_pp_misc_ftb[] = {
     ActionState({.id = 1,  .caption = "FTB",          .group = "Fade to Black", .cmd = {"~@FTB#*", "~@Inhibit#true"}}),
-    Knobs      ({.id = 2,  .caption = "Rate",         .group = "Fade to Black", .cmd = {""}, .nb = nb_pp_misc_ftb_rate}),
+    Knobs      ({.id = 2,  .caption = "Rate",         .group = "Fade to Black", .nb = nb_pp_misc_ftb_rate}),
     Toggle     ({.id = 4,  .caption = "FTB\nInhibit", .group = "Inhibit", .cmd = {"~@Inhibit#*"}}),
     Radio      ({.id = 17, .caption = "Linear",       .group = "Curve", .cmd = {"~@Curve#Linear"}}),
     Radio      ({.id = 18, .caption = "S-Curve",      .group = "Curve", .cmd = {"~@Curve#S-Curve"}}),
@@ -313,8 +319,8 @@ inline constexpr BT_TBL bt_me_misc_cliptrans[] = {
     Radio ({.id = 36, .caption = "FM8",      .group = "Output", .cmd = {"~3@Output#FM8"}}),
     Radio ({.id = 21, .caption = "Speed",    .group = "Clip", .cmd = {"~3@Time Base#Speed"}, .nb = nb_me_misc_clip_speed}),
     Radio ({.id = 22, .caption = "Duration", .group = "Clip", .cmd = {"~3@Time Base#Duration"}, .nb = nb_me_misc_clip_duration}),
-    Knobs ({.id = 37, .caption = "Start/\nStop TC", .group = "Clip", .cmd = {""}, .nb = nb_me_misc_clip_tc}),
-    Knobs ({.id = 38, .caption = "Bkgd\nChange", .group = "Clip", .cmd = {""}, .nb = nb_me_misc_clip_points}),
+    Knobs ({.id = 37, .caption = "Start/\nStop TC", .group = "Clip", .nb = nb_me_misc_clip_tc}),
+    Knobs ({.id = 38, .caption = "Bkgd\nChange", .group = "Clip", .nb = nb_me_misc_clip_points}),
     Radio ({.id = 49, .caption = "Bkgd A",   .group = "Bkgd", .cmd = {"~3@Bkgd#A"}}),
     Radio ({.id = 50, .caption = "Bkgd B",   .group = "Bkgd", .cmd = {"~3@Bkgd#B"}}),
     Radio ({.id = 51, .caption = "Both",     .group = "Bkgd", .cmd = {"~3@Bkgd#Both"}}),

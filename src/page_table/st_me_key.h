@@ -6,7 +6,7 @@
 
 // The cells that exist for one key and for an overview of all. "key" is the path of the key.
 #define ST_KEY_TYPE(key) {key "@Type@Key Type", key "@Type@Clean Mode@Luminance", key "@Type@Chroma@Mix Mode", \
-                          key "@Type@Key Invert", key "@Type@Wipe Pattern@Pattern", \
+                          key "@Type@Key Invert", "~1@Wipe@Main Pattern@Pattern", \
                           key "@Type@Key Wipe Pattern@Pattern", key "@Type@Clean Mode@Linear", \
                           key "@Type@Clean Mode@Color Vector"}
 #define ST_KEY_EDGE(key) {key "@Edge@Edge Type", key "@Edge@Soft Edge", key "@Edge@Fine Key", key "@Edge@Separate Edge", \

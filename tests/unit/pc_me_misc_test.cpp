@@ -390,3 +390,38 @@ TEST_F(MeMisc, AllHoldTellsNoneSomeAndAllAndSetsTheRest)
     EXPECT_EQ(BT_GetStatus(5), BT_ON) << "keys 5 to 8 are not there";
     EXPECT_THAT(Press(5), Contains("put " + path + "Key2#false"));
 }
+
+// --- The overview ---
+
+TEST_F(MeMisc, TheOverviewLeadsToTheKeysAndPagesOfItsOwnBankAndSide)
+{
+    static const struct {
+        uint32_t page;
+        int x, y; // a cell or a button
+        uint32_t target;
+    } cases[] = {
+        {0x12000000, 150, 120, 0x12110000},                                     // key 1, type
+        {0x14000000, 450, 390, 0x14440000},                                     // key 4, sub mask
+        {0x85000000, 250, 300, 0x85320000},                                     // key 7, edge
+        {0x13000000, 550, 120, 0x13710000},                                     // transition
+        {0x18000000, 550, 120, 0x18710000}, {0x82000000, 650, 120, 0x82730000}, // priority
+        {0x16000000, 650, 120, 0x16730000}, {0x13000000, 550, 200, 0x13510000}, // the buttons
+        {0x18000000, 550, 200, 0x18510000}, {0x82000000, 550, 380, 0x82730000},
+        {0x15000000, 550, 380, 0x15730000},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        SendMessage(MSG_PRESS, c.x, c.y, 1, 0);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0), c.target) << std::hex << c.page << " " << c.x;
+    }
+}
+
+// What a key is cut by has no side; the bank's own cells have.
+TEST_F(MeMisc, TheCellsOfKeysOnASubSideFollowTheBank)
+{
+    const Lines sent = Open(0x85000000);
+    for (const char* path :
+         {"M/E-4@Key5@Type@Key Type", "M/E-4@Wipe@Main Pattern@Pattern",
+          "M/E-4 SUB@Wipe@Main Pattern@Pattern", "M/E-4 SUB@Misc@Key Priority@Key Priority"})
+        EXPECT_EQ(std::count(sent.begin(), sent.end(), std::string("add ") + path), 1) << path;
+}
