@@ -269,6 +269,38 @@ TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
     }
 }
 
+// --- Other cells of a key ---
+
+// Where both ways share a setting it is kept as that of coming.
+TEST_F(MeMisc, TheCellOfGoingShowsHowTheKeyReallyGoes)
+{
+    for (const int has_own : {0, 1}) {
+        SYS_KeyTransitionME2 = has_own;
+        Open(PAGE_TOP);
+        Open(0x12110000);
+        Tell("M/E-2@Key1@Transition@ON Transition Type#Cut");
+        Tell("M/E-2@Key1@Transition@OFF Transition Type#Stinger");
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        int differing = 0;
+        for (int y = 190; y < 230; y++)
+            for (int x = 0; x < 90; x++)
+                differing += PixelAt(305 + x, y) != PixelAt(405 + x, y);
+        EXPECT_EQ(differing != 0, has_own != 0) << differing;
+    }
+    SYS_KeyTransitionME2 = 0;
+}
+
+TEST_F(MeMisc, TheMonitorIsMarkedOnlyForAChannelOfTheKey)
+{
+    Open(0x81210000);
+    Tell("M/E-4@Key2@Processed Key@DME Select@DME3#true");
+    for (const char* monitor : {"3", "2", "0", "9", "x", "-1"}) {
+        Tell(std::string("M/E-1@Key1@Processed Key@Monitor#") + monitor);
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        EXPECT_EQ(PixelAt(508, 165 + 22 + 15) == WHITE, monitor[0] == '3') << monitor;
+    }
+}
+
 // --- Assignment ---
 
 TEST_F(MeMisc, TheTwoSwitchesOfAKeyAreOneWord)
