@@ -200,7 +200,8 @@ void st_drw_me_misc_key_assign_tally_set(const char* value)
     }
 }
 
-// A bank of two sides tells the side, one of a single side the outputs: "1,3".
+// A bank of two sides tells the side, one of a single side the outputs: "1,3". Until the outputs
+// are known all its keys are on that side.
 static void print_setup_of_key(char (&text)[32], int key)
 {
     const int me = Page_MeIndex(GL_NowPage);
@@ -217,8 +218,11 @@ static void print_setup_of_key(char (&text)[32], int key)
             CopyText(text, side.further);
         return;
     }
+    const unsigned* outputs = output_keys[me];
+    if (std::all_of(outputs, outputs + OUTPUTS, [](unsigned keys) { return keys == 0; }))
+        CopyText(text, "Main");
     for (int output = 0; output < OUTPUTS; output++) {
-        if (!(output_keys[me][output] >> key & 1))
+        if (!(outputs[output] >> key & 1))
             continue;
         if (text[0])
             AppendText(text, ",");
@@ -241,7 +245,10 @@ static int draw_key_assign(ST_MEM* cell, const char* name, int first_key)
         val.st_str[i] = label[i];
         val.val_str[i] = c->tally[i][0] ? c->tally[i] : setup[i];
     }
-    return st_drw_status_values(c, &val);
+    st_drw_status_values(c, &val);
+    if (first_key >= GL_KeyMax[Now_disp_draw()]) // the bank lacks them
+        st_drw_recoats_grayout(c, lit);
+    return 0;
 }
 
 int st_drw_me_misc_key_assign1(ST_MEM* cell)
