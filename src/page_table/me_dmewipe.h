@@ -2,6 +2,7 @@
 // channels, snapshots. Written for M/E-1.
 #pragma once
 #include "me_banks.h"
+#include "me_snapshot.h"
 #include "patterns.h"
 
 inline constexpr MePage me_dmewipe_pages[] = {
@@ -16,5 +17,5 @@ inline constexpr MePage me_dmewipe_pages[] = {
     {.page = {.id = 0x11600007, .tree = {"M/E-1", "DME Wipe", "Modify", "Remove Begin"},
               .obj = {Base(base_sub, 0x11650000), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 0), Boxes(NB_Non)}}, .where = MAIN},
     {.page = {.id = 0x11670000, .tree = {"M/E-1", "DME Wipe", "DME Wipe Snapshot"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 5), Boxes(NB_Non)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 5), Buttons(bt_me_snapshot), Boxes(NB_Non), Code(pc_me_dmewipe_dmewipesnapshot)}}},
 };

@@ -4,11 +4,11 @@
 #include "bus.h"
 #include "device.h"
 #include "loop.h"
-#include "me_config.h"
 #include "page_table/me_misc.h"
 #include "tdl.h"
 #include <gmock/gmock.h>
 #include <map>
+#include <optional>
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -22,19 +22,16 @@ using Lines = std::vector<std::string>;
 } // namespace
 
 struct MeMisc : testing::Test {
-    const FullHouse all;
+    std::optional<FullHouse> all;
 
     void SetUp() override
     {
         Harness_Reset();
-        me_config_reset();
-        SYS_4KMode = SYS_Format_Size = 0;
+        all.emplace();
         SYS_DWSubEnable = 1;
-        GL_CreatePage = 0;
     }
     void TearDown() override
     {
-        me_config_reset();
         SYS_DWSubEnable = 0;
         CreatePage(PAGE_TOP);
         GL_CreatePage = 0;
@@ -287,7 +284,6 @@ TEST_F(MeMisc, TheCellOfGoingShowsHowTheKeyReallyGoes)
                 differing += PixelAt(305 + x, y) != PixelAt(405 + x, y);
         EXPECT_EQ(differing != 0, has_own != 0) << differing;
     }
-    SYS_KeyTransitionME2 = 0;
 }
 
 TEST_F(MeMisc, TheMonitorIsMarkedOnlyForAChannelOfTheKey)
@@ -355,6 +351,34 @@ TEST_F(MeMisc, AKeyThatNobodyAssignedFollowsTheSetup)
     EXPECT_EQ(sent.size(), 8u);
     EXPECT_THAT(sent, Contains("put M/E-2@Misc@Key Assign@Key1#Main"));
     EXPECT_THAT(sent, Contains("put M/E-2@Misc@Key Assign@Key7#Sub"));
+}
+
+// A cell that is told a text must look like one that works the same text out from the setup.
+TEST_F(MeMisc, TheAssignCellTellsTheOutputsOfABankOfOneSide)
+{
+    constexpr Rect cell = {403, 95, 496, 162};
+    const std::string list = "Engineering Setup@Switcher@Config@PGM Config@List#";
+    const auto picture = [&] {
+        std::vector<uint32_t> pixels;
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        for (int y = cell.y1; y <= cell.y2; y++)
+            for (int x = cell.x1; x <= cell.x2; x++)
+                pixels.push_back(PixelAt(x, y));
+        return pixels;
+    };
+    const auto told = [&](const char* key1, const char* key2) {
+        Tell(std::string("PGM/PST@Misc@Key Assign@Key1#") + key1);
+        Tell(std::string("PGM/PST@Misc@Key Assign@Key2#") + key2);
+        return picture();
+    };
+    multiprogram2_me[0] = 0;
+    Open(0x14740000);
+    Tell(list + "KILL");
+    EXPECT_EQ(told("", ""), told("Main", "Main")) << "not known";
+    for (const char* row : {"P/P,1,FD", "PGM/PST,3,FF", "M/E-1,2,FF", "P/P,9,FF", "P/P,2"})
+        Tell(list + row);
+    EXPECT_EQ(told("", ""), told("1,3", "3"));
+    EXPECT_NE(told("", ""), told("1,3", "1,3"));
 }
 
 TEST_F(MeMisc, ABankOfOneSideHasNoSubToAssignTo)
