@@ -200,17 +200,23 @@ static uint32_t target_of(uint32_t base)
 }
 
 // On the pages of a sub side the first word of the tree is a subtree of its own. A key has no part
-// in it: its pages, also those of keys 5 to 8, stand under the bank.
+// in it: its pages, also those of keys 5 to 8, stand under the bank, as does the wipe generator
+// that keys are cut by.
+constexpr char SUB_SIDE[] = " SUB@";
+static bool is_path_of_key(const char* path)
+{
+    const char* at = strchr(path, '@');
+    if (!at)
+        return false;
+    const char* word = at + 1;
+    const bool is_key = BeginsWith(word, "Key") || BeginsWith(word, "DSK");
+    return is_key && word[3] >= '1' && word[3] <= '8' && word[4] == '@';
+}
+
 static void leave_sub_side(char* path)
 {
-    static constexpr char SUB_SIDE[] = " SUB@";
     constexpr size_t length = sizeof SUB_SIDE - 1;
-    char* at = strstr(path, SUB_SIDE);
-    if (!at)
-        return;
-    const char* word = at + length;
-    const bool is_key = BeginsWith(word, "Key") || BeginsWith(word, "DSK");
-    if (is_key && word[3] >= '1' && word[3] <= '8' && word[4] == '@')
+    if (char* at = strstr(path, SUB_SIDE))
         memmove(at, at + length - 1, strlen(at + length - 1) + 1);
 }
 
@@ -229,9 +235,13 @@ static void fill_cell(ST_MEM& c, const ST_TBL& row)
     c.y2 = row.y2;
     c.draw_func = row.draw_func;
     c.used = used;
+    bool is_of_key = false; // its first path tells
     for (int i = 0; i < used; i++) {
         DecodeCommand(c.cmd[i], row.cmd[i], CMD_SIZE);
-        leave_sub_side(c.cmd[i]);
+        if (i == 0)
+            is_of_key = is_path_of_key(c.cmd[0]);
+        if (is_of_key)
+            leave_sub_side(c.cmd[i]);
         c.cmd_hash[i] = c.cmd[i][0] ? Hash(c.cmd[i]) : NO_HASH;
         c.tally[i][0] = '\0';
     }

@@ -63,6 +63,9 @@ struct ST_LABEL {
 };
 // Labels with the tallies of the cell as values.
 void st_put_values(const ST_MEM* cell, int lit, std::span<const ST_LABEL> labels);
+// The keys in the order of a priority list, from the top: of keys 1 to 4 (half 0), 5 to 8 (1), or
+// of both as far as the bank has them (-1). The line of marked_key (from 1, 0 none) is inverted.
+void st_put_priority(const ST_MEM* cell, int lit, const char* list, int half, int marked_key);
 
 // --- Keys: a_st_me_key ---
 int st_drw_me_key_type1(ST_MEM*);

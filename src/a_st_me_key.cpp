@@ -4,6 +4,7 @@
 #include "graphics.h"
 #include "page.h"
 #include "text.h"
+#include <cstdlib>
 #include <cstring>
 #include "safeguards.h"
 
@@ -256,19 +257,37 @@ int st_drw_me_key_type_source(ST_MEM* cell)
     return st_drw_under_strings(c, c->tally[2], 0);
 }
 
-// --- Processed key: 0 on, 1 channels, 2 monitor ---
+// --- Processed key: 0 on, 1 to 8 the channels of the effects unit that it has, 9 the one on the
+// monitor ---
 
-static int draw_prockey(ST_MEM* cell, const char* unit)
+namespace
+{
+constexpr int CHANNELS = 8;
+constexpr int PROCKEY_MONITOR = CHANNELS + 1;
+} // namespace
+
+// The first line tells the channels, or the pairs of them; width 2 makes pairs.
+static int draw_prockey(ST_MEM* cell, const char* unit, int width)
 {
     const int lit = st_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, name_of(cell, "Proc Key", "P.Key").text);
     if (!c)
         return -1;
-    char channels[32];
-    PrintText(channels, "%s %.8s%s", unit, c->tally[1], c->tally[1][0] ? "ch" : "");
+    char channels[64];
+    CopyText(channels, unit);
+    int count = 0;
+    for (int n = 0; n < CHANNELS; n += width) {
+        if (!st_is_on(c, n + 1) && !(width == 2 && st_is_on(c, n + 2)))
+            continue;
+        AppendText(channels, count++ ? "," : " ");
+        AppendText(channels, NumStr(n / width + 1));
+    }
+    if (count == 1 && width == 1)
+        AppendText(channels, "ch");
+    const int monitor = int(strtol(c->tally[PROCKEY_MONITOR], nullptr, 10));
     ST_VAL val{.st_num = 2, .st_str = {channels, "Monitor"}, .selected = lit};
     val.invert[0] = st_is_on(c, 0);
-    val.invert[1] = st_is_on(c, 2);
+    val.invert[1] = monitor >= 1 && monitor <= CHANNELS && st_is_on(c, monitor);
     st_drw_status_strings(c, &val);
     if (st_is_off(c, 0))
         st_drw_recoats_grayout(c, lit);
@@ -277,61 +296,80 @@ static int draw_prockey(ST_MEM* cell, const char* unit)
 
 int st_drw_me_key_prockey(ST_MEM* cell)
 {
-    return draw_prockey(cell, "DME");
+    return draw_prockey(cell, "DME", 1);
 }
 
 // Two boards share a picture: a channel of the key is a pair of channels.
 int st_drw_me_key_prockey_dpdl(ST_MEM* cell)
 {
-    return draw_prockey(cell, "DME Pair");
+    return draw_prockey(cell, "Pair", 2);
 }
 
-// --- Transitions: 0 type, 1 wipe pattern, 2 DME wipe pattern ---
+// --- Transitions: 0 DME wipe pattern, then type and wipe pattern; those of off again by those of
+// on ---
 
-static int draw_transition(ST_MEM* cell, const Name& name)
+namespace
+{
+enum KeyTransition : int { KEYTRANS_DME_PATTERN = 0, KEYTRANS_OWN = 1, KEYTRANS_ON = 3 };
+} // namespace
+
+static int draw_transition(ST_MEM* cell, const Name& name, int first)
 {
     static constexpr struct {
         const char* value;
         const char* square; // null: the picture of a pattern
-        int pattern = 0;
     } types[] = {{"Cut", "Cut"},
                  {"Mix", "Mix"},
-                 {"Wipe", nullptr, 1},
-                 {"DME Wipe", nullptr, 2},
+                 {"Wipe", nullptr},
+                 {"DME Wipe", nullptr},
                  {"Stinger", "Stinger"}};
     const int lit = st_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, name.text);
     if (!c)
         return -1;
     for (const auto& t : types) {
-        if (strcmp(t.value, c->tally[0]) != 0)
+        if (strcmp(t.value, c->tally[first]) != 0)
             continue;
         if (t.square)
             return st_drw_center_image_square(c, t.square, 0);
-        st_drw_bmpimage_strings(c, st_pattern(c->tally[t.pattern]), "");
-        return st_drw_under_strings(c, c->tally[t.pattern], 0);
+        const bool is_wipe = strcmp(t.value, "Wipe") == 0;
+        const char* pattern = c->tally[is_wipe ? first + 1 : int(KEYTRANS_DME_PATTERN)];
+        st_drw_bmpimage_strings(c, st_pattern(pattern), "");
+        return st_drw_under_strings(c, pattern, 0);
     }
     return -1;
 }
 
+// The keys of a bank go as they come, or each way has a setting of its own.
+static bool has_own_off()
+{
+    static const int* const flags[ME_COUNT] = {&SYS_KeyTransitionPP,  &SYS_KeyTransitionME1,
+                                               &SYS_KeyTransitionME2, &SYS_KeyTransitionME3,
+                                               &SYS_KeyTransitionME4, &SYS_KeyTransitionME5};
+    const int me = Page_MeIndex(GL_NowPage);
+    return me < 0 || *flags[me] != 0;
+}
+
 int st_drw_me_key_ontrans(ST_MEM* cell)
 {
-    return draw_transition(cell, name_of(cell, "On Trans", "On Trans"));
+    return draw_transition(cell, name_of(cell, "On Trans", "On Trans"), KEYTRANS_OWN);
 }
 
 int st_drw_me_key_offtrans(ST_MEM* cell)
 {
-    return draw_transition(cell, name_of(cell, "Off Trans", "Off Trans"));
+    return draw_transition(cell, name_of(cell, "Off Trans", "Off Trans"),
+                           has_own_off() ? KEYTRANS_OWN : KEYTRANS_ON);
 }
 
-// Who lies on top, from the top.
+// Where the key lies among those of its side: 0 the priority list.
 int st_drw_me_key_priority(ST_MEM* cell)
 {
-    static constexpr ST_LABEL labels[] = {{"1st", 0}, {"2nd", 1}, {"3rd", 2}};
     const int lit = st_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, "Key Priority");
     if (!c)
         return -1;
-    st_put_values(c, lit, labels);
+    const char* key = GL_NowTree && GL_NowTree[0] && GL_NowTree[1] ? GL_NowTree[1] : "";
+    const int number = strlen(key) == 4 ? key[3] - '0' : 0; // "Key1", "DSK1"
+    st_put_priority(c, lit, c->tally[0], number > 4, number);
     return 0;
 }

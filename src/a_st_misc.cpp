@@ -2,7 +2,12 @@
 // transition shows.
 #include "a_st_draw.h"
 #include "command.h"
+#include "device.h"
+#include "global.h"
+#include "me_config.h"
 #include "page.h"
+#include "pc_me.h"
+#include "tally_value.h"
 #include "tdl.h"
 #include "text.h"
 #include <algorithm>
@@ -14,24 +19,44 @@
 namespace
 {
 constexpr int KEYS = 8;
+constexpr int HALF_KEYS = 4;                     // keys of one order of priority
+constexpr int OUTPUTS = 8;                       // of a bank
+constexpr uint32_t PAGE_TRANSITION = 0x00710000; // below the bank
+constexpr uint32_t PAGE_CLIP = 0x00760000;
+constexpr uint32_t BANK_BYTE = 0xFF000000;
+constexpr uint32_t SUB_BANK = 0x04000000;
+
 struct Transition {
     int tally; // "true" while it is the bank's
     const char* square;
+    const char* under = "";
     int pattern = -1; // the tally with the number; its picture takes the place of the text
     int kept = -1;    // where TrnModeStatus keeps that number
 };
 constexpr Transition transitions[] = {
     {TRN_MIX, "Mix"},
     {TRN_NAM, "NAM"},
-    {TRN_SUPER_MIX, "Super Mix"},
-    {TRN_COLOR_MIX, "Preset Color Mix"},
-    {TRN_WIPE, "Wipe", TRN_WIPE_PATTERN, 1},
-    {TRN_DME_WIPE, "DME Wipe", TRN_DME_PATTERN, 2},
+    {TRN_SUPER_MIX, "Super", "Mix"},
+    {TRN_COLOR_MIX, "Preset", "Color Mix"},
+    {TRN_WIPE, "Wipe", "", TRN_WIPE_PATTERN, 1},
+    {TRN_DME_WIPE, "DME Wipe", "", TRN_DME_PATTERN, 2},
     {TRN_CLIP, "Clip"},
 };
 } // namespace
 
-static char key_outputs[KEYS][16]; // by key, as the setup assigns them; "" unknown
+// The keys that each output of each bank shows, bit 0 is Key1; banks as P/P, M/E-1 to M/E-5.
+static unsigned output_keys[ME_COUNT][OUTPUTS];
+
+static bool is_pgm()
+{
+    return GL_NowTree && GL_NowTree[0] && strcmp(GL_NowTree[0], "PGM/PST") == 0;
+}
+
+// A cell that chooses its way by tallies has no target to be known by.
+static int is_page_in_view(uint32_t page)
+{
+    return (GL_NowPage & ~BANK_BYTE) == page;
+}
 
 static int number_of(const char* text)
 {
@@ -56,14 +81,15 @@ static const Transition* transition_of(const ST_MEM* c, int side)
 
 int st_drw_me_misc_transition(ST_MEM* cell)
 {
-    const int lit = st_in_view(cell);
-    const ST_MEM* c = st_begin(cell, lit, "Transition");
+    const ST_MEM* c = st_begin(cell, is_page_in_view(PAGE_TRANSITION), "Transition");
     const int side = isNowPageME(0) == 2;
     const Transition* t = c ? transition_of(c, side) : nullptr;
     if (!t)
         return -1;
-    if (t->pattern < 0)
-        return st_drw_center_image_square(c, t->square, 0);
+    if (t->pattern < 0) {
+        st_drw_center_image_square(c, t->square, 0);
+        return st_drw_under_strings(c, t->under, 0);
+    }
     int* number = &TrnModeStatus[side][t->kept];
     if (c->tally[t->pattern][0])
         *number = number_of(c->tally[t->pattern]);
@@ -74,64 +100,155 @@ int st_drw_me_misc_transition(ST_MEM* cell)
     return st_drw_under_strings(c, text, 0);
 }
 
-// --- Priority: who lies on top, from the top; 4 "false" when it is not in use ---
+// --- Priority: 0 the place of each key, 1 "false" when a sub side has no order of its own ---
 
-static const ST_MEM* draw_priority(ST_MEM* cell, const char* name)
+namespace
 {
-    static constexpr ST_LABEL labels[] = {{"1st", 0}, {"2nd", 1}, {"3rd", 2}, {"4th", 3}};
+struct Order {
+    int key[HALF_KEYS] = {}; // from the top; 1 to 8
+    bool is_known = false;
+};
+} // namespace
+
+// "2,1,3,4,1,2,3,4": the places of keys 1 to 4 and, where a bank has them, of keys 5 to 8.
+static Order order_of(const char* list, int half)
+{
+    constexpr size_t LENGTH = 2 * HALF_KEYS;
+    Order order;
+    if (strlen(list) < LENGTH * size_t(half + 1) - 1)
+        return order;
+    const char* place = list + LENGTH * size_t(half);
+    for (int i = 0; i < HALF_KEYS; i++) {
+        const int at = place[2 * i] - '1';
+        if (at < 0 || at >= HALF_KEYS || order.key[at] != 0)
+            return {};
+        order.key[at] = i + 1 + half * HALF_KEYS;
+    }
+    order.is_known = true;
+    return order;
+}
+
+void st_put_priority(const ST_MEM* cell, int lit, const char* list, int half, int marked_key)
+{
+    static constexpr const char* labels[HALF_KEYS] = {"1st", "2nd", "3rd", "4th"};
+    const bool has_both = half < 0 && GL_KeyMax[Now_disp_draw()] > HALF_KEYS;
+    const Order order = order_of(list, half < 0 ? 0 : half);
+    const Order further = has_both ? order_of(list, 1) : Order{};
+    char text[HALF_KEYS][16] = {};
+    ST_VAL val{.st_num = HALF_KEYS, .selected = lit};
+    for (int i = 0; i < HALF_KEYS; i++) {
+        if (order.is_known && further.is_known)
+            PrintText(text[i], "%d / %d", order.key[i], further.key[i]);
+        else if (order.is_known)
+            PrintText(text[i], "%s%d", is_pgm() ? "DSK" : "Key", order.key[i]);
+        val.st_str[i] = labels[i];
+        val.val_str[i] = text[i];
+        val.invert[i] = order.is_known && order.key[i] == marked_key;
+    }
+    st_drw_status_values(cell, &val);
+}
+
+static const ST_MEM* draw_priority(ST_MEM* cell, const char* name, int half)
+{
     const int lit = st_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, name);
     if (c)
-        st_put_values(c, lit, labels);
+        st_put_priority(c, lit, c->tally[0], half, 0);
     return c;
 }
 
 int st_drw_me_misc_key_priority(ST_MEM* cell)
 {
-    return draw_priority(cell, "Key Priority") ? 0 : -1;
+    return draw_priority(cell, "Key Priority", -1) ? 0 : -1;
 }
 
 int st_drw_me_misc_next_key_priority(ST_MEM* cell)
 {
-    return draw_priority(cell, "Next Priority") ? 0 : -1;
+    return draw_priority(cell, "Next Priority", -1) ? 0 : -1;
 }
 
+// Of a sub side: its keys are 5 to 8.
 int st_drw_me_misc_key_priority_gray(ST_MEM* cell)
 {
-    const ST_MEM* c = draw_priority(cell, "Key Priority");
+    const ST_MEM* c = draw_priority(cell, "Key Priority", 1);
     if (!c)
         return -1;
-    if (st_is_off(c, 4))
+    if (st_is_off(c, 1))
         st_drw_recoats_grayout(c, st_in_view(cell));
     return 0;
 }
 
-// --- Assignment: 0 to 3 the output of a key; without it what the setup says ---
+// --- Assignment: 0 to 3 the side of a key; without it what the setup says ---
 
+// A row of the setup: "M/E-1,2,0F": what the second output shows.
 void st_drw_me_misc_key_assign_tally_set(const char* value)
 {
-    char text[CMD_SIZE];
-    char* part[KEYS + 1];
-    CopyText(text, value);
-    (void)SplitVars(text, part, KEYS + 1); // the last takes what is too many
-    for (int i = 0; i < KEYS; i++)
-        CopyText(key_outputs[i], part[i] ? part[i] : "");
+    if (IsKill(value) || !value[0]) {
+        memset(output_keys, 0, sizeof output_keys);
+        return;
+    }
+    Parts p;
+    if (SplitValue(p, value, 3) < 3)
+        return;
+    const int output = Index(p.v[1], OUTPUTS + 1) - 1;
+    if (output < 0)
+        return;
+    for (int bank = 0; bank < ME_BANKS_SHOWN; bank++) {
+        const bool is_last = bank == ME_BANKS_SHOWN - 1;
+        if (Same(p.v[0], me_data[bank]) || (is_last && Same(p.v[0], "PGM/PST")))
+            output_keys[is_last ? 0 : bank + 1][output] = Hex(p.v[2]);
+    }
+}
+
+// A bank of two sides tells the side, one of a single side the outputs: "1,3". Until the outputs
+// are known all its keys are on that side.
+static void print_setup_of_key(char (&text)[32], int key)
+{
+    const int me = Page_MeIndex(GL_NowPage);
+    text[0] = '\0';
+    if (me < 0)
+        return;
+    if (isMP2SettingME(GL_NowPage)) {
+        const uint32_t bank = GL_NowPage & BANK_BYTE;
+        const uint32_t page = bank + (key < HALF_KEYS ? 0 : SUB_BANK) +
+                              (uint32_t(key % HALF_KEYS) + 1) * 0x00100000 + 0x00010000;
+        const KeyAssignText side = keyassign_str_get(page);
+        CopyText(text, side.main[0] && side.further[0] ? "Both" : side.main);
+        if (!side.main[0])
+            CopyText(text, side.further);
+        return;
+    }
+    const unsigned* outputs = output_keys[me];
+    if (std::all_of(outputs, outputs + OUTPUTS, [](unsigned keys) { return keys == 0; }))
+        CopyText(text, "Main");
+    for (int output = 0; output < OUTPUTS; output++) {
+        if (!(outputs[output] >> key & 1))
+            continue;
+        if (text[0])
+            AppendText(text, ",");
+        AppendText(text, NumStr(output + 1));
+    }
 }
 
 static int draw_key_assign(ST_MEM* cell, const char* name, int first_key)
 {
-    static constexpr const char* labels[KEYS] = {"Key1", "Key2", "Key3", "Key4",
-                                                 "Key5", "Key6", "Key7", "Key8"};
     const int lit = st_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, name);
     if (!c)
         return -1;
-    ST_VAL val{.st_num = KEYS / 2, .selected = lit};
-    for (int i = 0; i < KEYS / 2; i++) {
-        val.st_str[i] = labels[first_key + i];
-        val.val_str[i] = c->tally[i][0] ? c->tally[i] : key_outputs[first_key + i];
+    char label[HALF_KEYS][8];
+    char setup[HALF_KEYS][32];
+    ST_VAL val{.st_num = HALF_KEYS, .selected = lit};
+    for (int i = 0; i < HALF_KEYS; i++) {
+        PrintText(label[i], "%s%d", is_pgm() ? "DSK" : "Key", (first_key + i) % KEYS + 1);
+        print_setup_of_key(setup[i], first_key + i);
+        val.st_str[i] = label[i];
+        val.val_str[i] = c->tally[i][0] ? c->tally[i] : setup[i];
     }
-    return st_drw_status_values(c, &val);
+    st_drw_status_values(c, &val);
+    if (first_key >= GL_KeyMax[Now_disp_draw()]) // the bank lacks them
+        st_drw_recoats_grayout(c, lit);
+    return 0;
 }
 
 int st_drw_me_misc_key_assign1(ST_MEM* cell)
@@ -141,7 +258,7 @@ int st_drw_me_misc_key_assign1(ST_MEM* cell)
 
 int st_drw_me_misc_key_assign2(ST_MEM* cell)
 {
-    return draw_key_assign(cell, "Key Assign 2", KEYS / 2);
+    return draw_key_assign(cell, "Key Assign 2", HALF_KEYS);
 }
 
 // 0 on, then the levels.
@@ -173,7 +290,7 @@ int st_drw_me_misc_cliptrans_bkgd(ST_MEM* cell)
 // 0 the output that plays ("FM1"), 1 name of the clip.
 int st_drw_me_misc_cliptrans_clip(ST_MEM* cell)
 {
-    const ST_MEM* c = st_begin(cell, st_in_view(cell), "Clip");
+    const ST_MEM* c = st_begin(cell, is_page_in_view(PAGE_CLIP), "Clip");
     if (!c)
         return -1;
     st_drw_center_image_square(c, c->tally[0], 1);

@@ -59,12 +59,15 @@ inline constexpr MeTab<HF_TBL> me_dmewipe_tabs[] = {
     {{.id = 5, .caption = "DME Wipe\nSnapshot", .page = 0x11670000}},
 };
 inline constexpr MeTab<HF_TBL> me_misc_tabs[] = {
-    {{.id = 1, .caption = "Transition",       .page = 0x11710000}},
-    {{.id = 2, .caption = "Video\nProcess",   .page = 0x11720000}},
-    {{.id = 3, .caption = "Key\nPriority",    .page = 0x11730000}},
+    {{.id = 1, .caption = "Transition",       .page = 0x11710000,
+      .statcmd = {"~2@Transition@Transition Mode#Limit", "~2@Transition@Transition Preview#true"}}},
+    {{.id = 2, .caption = "Video\nProcess",   .page = 0x11720000, .statcmd = {"~2@Video Process@Video Process#true"}}},
+    {{.id = 3, .caption = "Key\nPriority",    .page = 0x11730000, .statcmd = {"~2@Transition@Next Transition@Key Priority#true"}}, MAIN},
+    {{.id = 3, .caption = "Key\nPriority",    .page = 0x11730000, .statcmd = {"~2@Key Priority@Enable#true"}}, SUB},
     {{.id = 4, .caption = "Key\nAssign",      .page = 0x11740000}, MAIN},
-    {{.id = 5, .caption = "Clip\nTransition", .page = 0x11760000}, MAIN},
-    {{.id = 6, .caption = "Snapshot",         .page = 0x11770000}, MAIN},
+    {{.id = 5, .caption = "Clip\nTransition", .page = 0x11760000, .statcmd = {"~2@Transition@Clip#true"}}, MAIN},
+    {{.id = 6, .caption = "Snapshot",         .page = 0x11770000,
+      .statcmd = {"~2@Snapshot@Effect Dissolve#true", "~2@Snapshot@Auto Transition#true", "~2@Snapshot@Key Disable#true"}}, MAIN},
 };
 
 // --- The rule ---

@@ -4,19 +4,37 @@
 #include "me_banks.h"
 #include "st_me_key.h"
 
+// Beside the lines of the keys, below the two cells of the bank. The priority is shared by both sides and stands on the
+// main one.
 inline constexpr BT_TBL bt_me_top[] = {
-    Jump({.id = 54, .caption = "Top\nMenu", .cmd = {"#00110000"}}), // below the cells
+    Jump({.id = 5,  .caption = "Wipe",           .group = "Bank", .cmd = {"#+11510000"}}),
+    Jump({.id = 6,  .caption = "DME Wipe",       .group = "Bank", .cmd = {"#+11610000"}}),
+    Jump({.id = 21, .caption = "Transition",     .group = "Bank", .cmd = {"#+11710000"}}),
+    Jump({.id = 22, .caption = "Video\nProcess", .group = "Bank", .cmd = {"#+11720000"}}),
+    Jump({.id = 37, .caption = "Key\nPriority",  .group = "Bank", .select_func = bt_sel_jmptokeypriority, .cmd = {"#11730000"}}),
+    Jump({.id = 38, .caption = "Key\nAssign",    .group = "Bank", .cmd = {"#+11740000"}}),
+    Jump({.id = 53, .caption = "Snapshot",       .cmd = {"#+11770000"}}),
+    Jump({.id = 54, .caption = "Top\nMenu",      .cmd = {"#00110000"}}),
     BT_END,
 };
-static_assert(ButtonsAreSound(bt_me_top));
+inline constexpr BT_TBL bt_me_top_sub[] = {
+    Jump({.id = 5,  .caption = "Wipe",           .group = "Bank", .cmd = {"#+15510000"}}),
+    Jump({.id = 6,  .caption = "DME Wipe",       .group = "Bank", .cmd = {"#+15610000"}}),
+    Jump({.id = 21, .caption = "Transition",     .group = "Bank", .cmd = {"#+15710000"}}),
+    Jump({.id = 22, .caption = "Video\nProcess", .group = "Bank", .cmd = {"#+15720000"}}),
+    Jump({.id = 37, .caption = "Key\nPriority",  .group = "Bank", .cmd = {"#+15730000"}}),
+    Jump({.id = 54, .caption = "Top\nMenu",      .cmd = {"#00110000"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_me_top) && ButtonsAreSound(bt_me_top_sub));
 
 inline constexpr MePage me_top_pages[] = {
     {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top), Cells(st_me_top)}},
      .where = MAIN, .kind = ONLY_ME},
-    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top), Cells(st_me_top_sub)}},
+    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top_sub), Cells(st_me_top_sub)}},
      .where = SUB, .kind = ONLY_ME},
     {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top), Cells(st_pgm_top)}},
      .where = MAIN, .kind = ONLY_PGM},
-    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top), Cells(st_pgm_top_sub)}},
+    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top_sub), Cells(st_pgm_top_sub)}},
      .where = SUB, .kind = ONLY_PGM},
 };

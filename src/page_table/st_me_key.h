@@ -2,23 +2,34 @@
 // bank. The order of the paths is the order of the tallies that a painter reads.
 #pragma once
 #include "rows.h"
+#include "st_me_misc.h"
 
 // The cells that exist for one key and for an overview of all. "key" is the path of the key.
 #define ST_KEY_TYPE(key) {key "@Type@Key Type", key "@Type@Clean Mode@Luminance", key "@Type@Chroma@Mix Mode", \
-                          key "@Type@Key Invert", key "@Type@Wipe Pattern@Pattern", \
+                          key "@Type@Key Invert", "~1@Wipe@Main Pattern@Pattern", \
                           key "@Type@Key Wipe Pattern@Pattern", key "@Type@Clean Mode@Linear", \
                           key "@Type@Clean Mode@Color Vector"}
 #define ST_KEY_EDGE(key) {key "@Edge@Edge", key "@Edge@Soft Edge", key "@Edge@Fine Key", key "@Edge@Separate Edge", \
                           key "@Edge@Matte Adjust@Mode"}
-#define ST_KEY_MASK(key, mask) {key "@" mask "@" mask, key "@" mask "@Mask Source", key "@" mask "@Mask Invert", \
-                                key "@" mask "@Pattern Mask@Pattern"}
+#define ST_KEY_MASK(key, mask, pattern) {key "@" mask "@" mask, key "@" mask "@Mask Source", key "@" mask "@Mask Invert", pattern}
+// The main mask has a pattern of its own, the sub mask that of its bank.
+#define ST_KEY_MAIN_MASK(key) ST_KEY_MASK(key, "Main Mask", key "@Main Mask@Ptn Select@Pattern")
+#define ST_KEY_SUB_MASK(key)  ST_KEY_MASK(key, "Sub Mask", "~1@Wipe@Sub Pattern@Pattern")
+#define ST_KEY_TRANS(way) "~2@Transition@" way " Transition Type", "~2@Transition@" way " Wipe Pattern"
+// One monitor serves the whole system.
+#define ST_KEY_PROCKEY {"~2@Processed Key@Processed Key", \
+                        "~2@Processed Key@DME Select@DME1", "~2@Processed Key@DME Select@DME2", \
+                        "~2@Processed Key@DME Select@DME3", "~2@Processed Key@DME Select@DME4", \
+                        "~2@Processed Key@DME Select@DME5", "~2@Processed Key@DME Select@DME6", \
+                        "~2@Processed Key@DME Select@DME7", "~2@Processed Key@DME Select@DME8", \
+                        "M/E-1@Key1@Processed Key@Monitor"}
 
 // The fill stands before the source whatever their places: a press tells them by their index.
 inline constexpr ST_TBL st_me_key[] = {
     CellAt(0, 0, {.id = 1,  .draw_func = st_drw_me_key_type1,    .cmd = ST_KEY_TYPE("~2"), .jamp_id_base = 0x11110000}),
     CellAt(1, 0, {.id = 3,  .draw_func = st_drw_me_key_edge,     .cmd = ST_KEY_EDGE("~2"), .jamp_id_base = 0x11120000}),
-    CellAt(2, 0, {.id = 4,  .draw_func = st_drw_me_key_mainmask, .cmd = ST_KEY_MASK("~2", "Main Mask"), .jamp_id_base = 0x11130000}),
-    CellAt(3, 0, {.id = 5,  .draw_func = st_drw_me_key_submask,  .cmd = ST_KEY_MASK("~2", "Sub Mask"), .jamp_id_base = 0x11140000}),
+    CellAt(2, 0, {.id = 4,  .draw_func = st_drw_me_key_mainmask, .cmd = ST_KEY_MAIN_MASK("~2"), .jamp_id_base = 0x11130000}),
+    CellAt(3, 0, {.id = 5,  .draw_func = st_drw_me_key_submask,  .cmd = ST_KEY_SUB_MASK("~2"), .jamp_id_base = 0x11140000}),
     CellAt(4, 0, {.id = 6,  .draw_func = st_drw_me_key_resizer,
                   .cmd = {"~2@Resizer@Resizer", "~2@Resizer@Size", "~2@Resizer@H", "~2@Resizer@V"},
                   .jamp_id_base = 0x11150000}),
@@ -32,19 +43,15 @@ inline constexpr ST_TBL st_me_key[] = {
                   .cmd = {"~2@Type@Key Source", "~2@Type@Signal Select@Source", "~2@Status@Source Name"},
                   .jamp_id_base = 0x11110003}),
     CellAt(2, 1, {.id = 10, .draw_func = st_drw_me_key_ontrans,
-                  .cmd = {"~2@Transition@ON Transition Type", "~2@Transition@ON Wipe Pattern", "~2@Transition@ON DME Wipe Pattern"},
+                  .cmd = {"~2@Transition@DME Wipe@Pattern Select@Pattern", ST_KEY_TRANS("ON")},
                   .jamp_id_base = 0x11170000}),
     CellAt(3, 1, {.id = 11, .draw_func = st_drw_me_key_offtrans,
-                  .cmd = {"~2@Transition@OFF Transition Type", "~2@Transition@OFF Wipe Pattern", "~2@Transition@OFF DME Wipe Pattern"},
+                  .cmd = {"~2@Transition@DME Wipe@Pattern Select@Pattern", ST_KEY_TRANS("OFF"), ST_KEY_TRANS("ON")},
                   .jamp_id_base = 0x11170000}),
-    CellAt(4, 1, {.id = ST_SINGLE_BOARD, .draw_func = st_drw_me_key_prockey,
-                  .cmd = {"~2@Processed Key@Processed Key", "~2@Processed Key@Channels", "~2@Processed Key@Monitor"},
-                  .jamp_id_base = 0x11160000}),
-    CellAt(4, 1, {.id = ST_DUAL_BOARD, .draw_func = st_drw_me_key_prockey_dpdl,
-                  .cmd = {"~2@Processed Key@Processed Key", "~2@Processed Key@Channel Pairs", "~2@Processed Key@Monitor"},
-                  .jamp_id_base = 0x11160000}),
-    CellAt(5, 1, {.id = 12, .draw_func = st_drw_me_key_priority,
-                  .cmd = {"~1@Misc@Key Priority@1", "~1@Misc@Key Priority@2", "~1@Misc@Key Priority@3"}}),
+    CellAt(4, 1, {.id = ST_SINGLE_BOARD, .draw_func = st_drw_me_key_prockey,      .cmd = ST_KEY_PROCKEY, .jamp_id_base = 0x11160000}),
+    CellAt(4, 1, {.id = ST_DUAL_BOARD,   .draw_func = st_drw_me_key_prockey_dpdl, .cmd = ST_KEY_PROCKEY, .jamp_id_base = 0x11160000}),
+    CellAt(5, 1, {.id = 12, .draw_func = st_drw_me_key_priority, .cmd = {"~1@Misc@Key Priority@Key Priority"},
+                  .jamp_id_base = 0x11730000}),
     ST_END,
 };
 static_assert(CellsAreSound(st_me_key));
@@ -53,20 +60,26 @@ static_assert(CellsAreSound(st_me_key));
 #define ST_KEY_LINE(line, key, page) \
     CellAt(0, line, {.id = 11 + 10 * (line), .draw_func = st_drw_me_key_type1, .cmd = ST_KEY_TYPE("~1@" key), .jamp_id_base = (page) + 0x10000}), \
     CellAt(1, line, {.id = 12 + 10 * (line), .draw_func = st_drw_me_key_edge,  .cmd = ST_KEY_EDGE("~1@" key), .jamp_id_base = (page) + 0x20000}), \
-    CellAt(2, line, {.id = 13 + 10 * (line), .draw_func = st_drw_me_key_mainmask, .cmd = ST_KEY_MASK("~1@" key, "Main Mask"), .jamp_id_base = (page) + 0x30000}), \
-    CellAt(3, line, {.id = 14 + 10 * (line), .draw_func = st_drw_me_key_submask,  .cmd = ST_KEY_MASK("~1@" key, "Sub Mask"), .jamp_id_base = (page) + 0x40000})
+    CellAt(2, line, {.id = 13 + 10 * (line), .draw_func = st_drw_me_key_mainmask, .cmd = ST_KEY_MAIN_MASK("~1@" key), .jamp_id_base = (page) + 0x30000}), \
+    CellAt(3, line, {.id = 14 + 10 * (line), .draw_func = st_drw_me_key_submask,  .cmd = ST_KEY_SUB_MASK("~1@" key), .jamp_id_base = (page) + 0x40000})
 #define ST_KEY_LINES(key1, key2, key3, key4) \
     ST_KEY_LINE(0, key1, 0x11100000), ST_KEY_LINE(1, key2, 0x11200000), \
     ST_KEY_LINE(2, key3, 0x11300000), ST_KEY_LINE(3, key4, 0x11400000)
 
-inline constexpr ST_TBL st_me_top[]      = {ST_KEY_LINES("Key1", "Key2", "Key3", "Key4"), ST_END};
-inline constexpr ST_TBL st_me_top_sub[]  = {ST_KEY_LINES("Key5", "Key6", "Key7", "Key8"), ST_END};
-inline constexpr ST_TBL st_pgm_top[]     = {ST_KEY_LINES("DSK1", "DSK2", "DSK3", "DSK4"), ST_END};
-inline constexpr ST_TBL st_pgm_top_sub[] = {ST_KEY_LINES("DSK5", "DSK6", "DSK7", "DSK8"), ST_END};
+#define ST_TOP(cells, ...) {ST_KEY_LINES(__VA_ARGS__), cells[0], cells[1], ST_END}
+inline constexpr ST_TBL st_me_top[]      = ST_TOP(st_bank_top, "Key1", "Key2", "Key3", "Key4");
+inline constexpr ST_TBL st_me_top_sub[]  = ST_TOP(st_bank_top_sub, "Key5", "Key6", "Key7", "Key8");
+inline constexpr ST_TBL st_pgm_top[]     = ST_TOP(st_bank_top, "DSK1", "DSK2", "DSK3", "DSK4");
+inline constexpr ST_TBL st_pgm_top_sub[] = ST_TOP(st_bank_top_sub, "DSK5", "DSK6", "DSK7", "DSK8");
 static_assert(CellsAreSound(st_me_top) && CellsAreSound(st_me_top_sub));
 static_assert(CellsAreSound(st_pgm_top) && CellsAreSound(st_pgm_top_sub));
+#undef ST_TOP
 #undef ST_KEY_LINES
 #undef ST_KEY_LINE
+#undef ST_KEY_PROCKEY
+#undef ST_KEY_TRANS
+#undef ST_KEY_SUB_MASK
+#undef ST_KEY_MAIN_MASK
 #undef ST_KEY_MASK
 #undef ST_KEY_EDGE
 #undef ST_KEY_TYPE

@@ -88,7 +88,7 @@ class Session(unittest.TestCase):
         added, stray = subscriptions(lines)
         self.assertEqual(stray, [])
         # What is left belongs to the page and to the status cells over it; the type page's own buttons are gone.
-        self.assertTrue(all(p == "TopMenu" or p.startswith(("M/E-1@Key1@", "M/E-1@Misc@Key Priority@")) for p in added), added)
+        self.assertTrue(all(p == "TopMenu" or p.startswith(("M/E-1@Key1@", "M/E-1@Misc@Key Priority@", "M/E-1@Wipe@")) for p in added), added)
         self.assertFalse([p for p in added if p.endswith(("@Auto Chroma", "@Key Position"))], added)
 
     def test_05_a_touch_sends_its_command_and_the_tally_repaints(self):

@@ -17,6 +17,7 @@ struct StatusPicture : CellPage {
 TEST_F(StatusPicture, TheCellsOverAKeyPage)
 {
     GL_ProcStatus[1] = 1;
+    SYS_KeyTransitionME1 = 1;
     Open(st_me_key);
     Say({{"M/E-1@Key1@Type@Key Type", "Luminance"},
          {"M/E-1@Key1@Type@Clean Mode@Luminance", "true"},
@@ -24,10 +25,10 @@ TEST_F(StatusPicture, TheCellsOverAKeyPage)
          {"M/E-1@Key1@Main Mask@Main Mask", "true"},
          {"M/E-1@Key1@Main Mask@Mask Source", "Pattern"},
          {"M/E-1@Key1@Main Mask@Mask Invert", "true"},
-         {"M/E-1@Key1@Main Mask@Pattern Mask@Pattern", "33"},
+         {"M/E-1@Key1@Main Mask@Ptn Select@Pattern", "33"},
          {"M/E-1@Key1@Sub Mask@Sub Mask", "false"},
          {"M/E-1@Key1@Sub Mask@Mask Source", "Pattern"},
-         {"M/E-1@Key1@Sub Mask@Pattern Mask@Pattern", "65"},
+         {"M/E-1@Wipe@Sub Pattern@Pattern", "65"},
          {"M/E-1@Key1@Resizer@Size", "0.75"},
          {"M/E-1@Key1@Resizer@H", "-12.50"},
          {"M/E-1@Key1@Resizer@V", "4.00"},
@@ -41,15 +42,14 @@ TEST_F(StatusPicture, TheCellsOverAKeyPage)
          {"M/E-1@Key1@Type@Key Fill", "Matte"},
          {"M/E-1@Key1@Type@Matte Adjust@Color", "Color 1"},
          {"M/E-1@Key1@Transition@ON Transition Type", "DME Wipe"},
-         {"M/E-1@Key1@Transition@ON DME Wipe Pattern", "1001"},
-         {"M/E-1@Key1@Transition@OFF Transition Type", "DME Wipe"},
-         {"M/E-1@Key1@Transition@OFF DME Wipe Pattern", "1301"},
+         {"M/E-1@Key1@Transition@DME Wipe@Pattern Select@Pattern", "1001"},
+         {"M/E-1@Key1@Transition@OFF Transition Type", "Wipe"},
+         {"M/E-1@Key1@Transition@OFF Wipe Pattern", "2"},
          {"M/E-1@Key1@Processed Key@Processed Key", "true"},
-         {"M/E-1@Key1@Processed Key@Channels", "1"},
-         {"M/E-1@Misc@Key Priority@1", "Key1"},
-         {"M/E-1@Misc@Key Priority@2", "Key3"},
-         {"M/E-1@Misc@Key Priority@3", "Key2"}});
+         {"M/E-1@Key1@Processed Key@DME Select@DME1", "true"},
+         {"M/E-1@Misc@Key Priority@Key Priority", "1,3,2,4"}});
     Pass();
+    SYS_KeyTransitionME1 = 0;
     EXPECT_TRUE(MatchesGolden("status_key", two_lines));
 }
 
