@@ -786,6 +786,8 @@ static int modify_create(int on, const Kind* kind)
     Net_SendCommandFormat("add %s", modify.PatternCmd);
     if (is_small_panel())
         BT_SetCutoff(BTN_3RD_CH, 1);
+    show_channels(); // none until the pattern is known
+    (void)modify_crop_mask();
     return 0;
 }
 

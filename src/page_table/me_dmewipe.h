@@ -4,6 +4,7 @@
 #include "dmewipe_modify.h"
 #include "me_banks.h"
 #include "pc_me_dmewipe.h"
+#include "st_me_dmewipe.h"
 
 // --- Boxes ---
 
@@ -191,15 +192,15 @@ inline constexpr MePage me_dmewipe_pages[] = {
     {.page = {.id = 0x11610000, .tree = {"M/E-1", "DME Wipe", "Pattern Select"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 1), Buttons(bt_me_dmewipe_pattern), Boxes(NB_Non), WipeList(dw_me_dmewipe, 1), Code(pc_me_dmewipe_pattern)}}},
     {.page = {.id = 0x11630000, .tree = {"M/E-1", "DME Wipe", "Pattern Modifier"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 2), Buttons(bt_me_dmewipe_ptnmodifier), Boxes(NB_Non), Code(pc_me_dmewipe_ptnmodifier)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 2), Buttons(bt_me_dmewipe_ptnmodifier), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_ptnmodifier)}}},
     {.page = {.id = 0x11640000, .tree = {"M/E-1", "DME Wipe", "Edge/Direction"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 3), Buttons(bt_me_dmewipe_edgedirection), Boxes(NB_Non), Code(pc_me_dmewipe_edgedirection)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 3), Buttons(bt_me_dmewipe_edgedirection), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_edgedirection)}}},
     {.page = {.id = 0x11650000, .tree = {"M/E-1", "DME Wipe", "Modify"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_modify), Boxes(NB_Non), Code(pc_me_dmewipe_modify)}}, .where = MAIN},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_modify), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify)}}, .where = MAIN},
     {.page = {.id = 0x11650000, .tree = {"M/E-1", "DME Wipe", "Modify"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_modify_sub), Boxes(NB_Non), Code(pc_me_dmewipe_modify)}}, .where = SUB},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_modify_sub), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify)}}, .where = SUB},
     {.page = {.id = 0x11600007, .tree = {"M/E-1", "DME Wipe", "Modify", "Remove Begin"},
-              .obj = {Base(base_sub, 0x11650000), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 0), Buttons(bt_me_dmewipe_removefrombigin), Boxes(NB_Non), Code(pc_me_dmewipe_modify_removefrombigin)}}, .where = MAIN},
+              .obj = {Base(base_sub, 0x11650000), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 0), Buttons(bt_me_dmewipe_removefrombigin), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify_removefrombigin)}}, .where = MAIN},
     {.page = {.id = 0x11670000, .tree = {"M/E-1", "DME Wipe", "DME Wipe Snapshot"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 5), Boxes(NB_Non)}}},
 };

@@ -40,12 +40,12 @@ inline constexpr BT_TBL bt_me_key_trans_dmewipead[] = {
     OfKeyWipe(dmewipe_crop), OfKeyWipe(dmewipe_crop_4_3), OfKeyWipe(dmewipe_size),
     OfKeyWipe(dmewipe_top_left), OfKeyWipe(dmewipe_top_right),
     OfKeyWipe(dmewipe_bottom_left), OfKeyWipe(dmewipe_bottom_right),
-    Toggle({.id = 36, .caption = "Pattern\nSize", .group = "Pattern", .tally_func = bt_tly_dmewipe_size,
+    Toggle({.id = 52, .caption = "Pattern\nSize", .group = "Pattern", .tally_func = bt_tly_dmewipe_size,
             .cmd = {"~4@Pattern Modifier@Size#*", "~4@Pattern Select@Pattern#"}, .nb = nb_me_key_dmewipe_size}),
-    Toggle({.id = 37, .caption = "Trans-\nparency", .group = "Pattern", .tally_func = bt_tly_dmewipe_trans,
+    Toggle({.id = 53, .caption = "Trans-\nparency", .group = "Pattern", .tally_func = bt_tly_dmewipe_trans,
             .cmd = {"~4@Pattern Modifier@Transparency#*", "~4@Pattern Select@Pattern#"}, .nb = nb_me_key_dmewipe_trans}),
-    Jump({.id = 38, .caption = "Pattern\nSelect", .group = "Pattern", .cmd = {"#+11170006"}}),
-    Jump({.id = 54, .caption = "Remove\nBegin", .group = "Adjust", .cmd = {"#+11170007"}}),
+    Jump({.id = 54, .caption = "Pattern\nSelect", .group = "Pattern", .cmd = {"#+11170006"}}),
+    Jump({.id = 38, .caption = "Remove\nBegin", .group = "Adjust", .cmd = {"#+11170007"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_dmewipead));

@@ -545,6 +545,36 @@ TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
     }
 }
 
+TEST_F(MeDmeWipe, AKeyHasTheModifiersOfItsPattern)
+{
+    static const struct {
+        const char* pattern;
+        bool size, transparency;
+    } cases[] = {{"1203", true, true}, {"1394", false, true}, {"1001", false, false}};
+    Open(0x86270003);
+    for (const auto& c : cases) {
+        Tell(std::string("M/E-5@Key6@Transition@DME Wipe@Pattern Select@Pattern#") + c.pattern);
+        EXPECT_EQ(Enabled(52), c.size) << c.pattern;
+        EXPECT_EQ(Enabled(53), c.transparency) << c.pattern;
+    }
+}
+
+TEST_F(MeDmeWipe, TheCellShowsTheSamePictureForBothSetsOfChannels)
+{
+    const auto picture = [](const char* pattern) {
+        Tell(std::string("M/E-2@DME Wipe@Pattern Select@Pattern#") + pattern);
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        std::vector<uint32_t> row;
+        for (int x = 122; x < 178; x++)
+            row.push_back(PixelAt(x, 112));
+        return row;
+    };
+    Open(0x12640000);
+    const auto first = picture("2003");
+    EXPECT_NE(first, picture("2004"));
+    EXPECT_EQ(first, picture("8003"));
+}
+
 TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
 {
     static const struct {
