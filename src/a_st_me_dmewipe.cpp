@@ -42,21 +42,16 @@ int st_drw_me_dmewipe_edge(ST_MEM* cell)
     return draw_switches(cell, "Edge", {.st_num = 3, .st_str = {"Border", "Soft", "Shadow"}});
 }
 
-// The cell is narrower than the word for both ways in turn.
-static const char* direction_of(const char* word)
-{
-    return Same(word, "Normal/Reverse") ? "Norm/Rev" : word;
-}
-
-// 0 direction, 1 pattern limit.
+// 0 direction, 1 normal and reverse in turn, 2 pattern limit.
 int st_drw_me_dmewipe_direction(ST_MEM* cell)
 {
     const int lit = st_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, "Direction");
     if (!c)
         return -1;
-    ST_VAL val{.st_num = 2, .st_str = {direction_of(c->tally[0]), "Ptn Limit"}, .selected = lit};
+    ST_VAL val{.st_num = 3, .st_str = {c->tally[0], "Norm/Rev", "Ptn Limit"}, .selected = lit};
     val.invert[0] = c->tally[0][0] != '\0';
     val.grayout[1] = st_is_off(c, 1);
+    val.grayout[2] = st_is_off(c, 2);
     return st_drw_status_strings(c, &val);
 }

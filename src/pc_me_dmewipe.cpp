@@ -95,19 +95,18 @@ constexpr Moves BUILT_IN = {1, 899}; // all but the user programs
 
 // What a move of the picture leaves open: a user program fixes it all, a slide has no turns.
 constexpr PatternKey modifier_keys[] = {
-    {19, {SQUEEZE, SOLID}}, // axis location
-    {20, {SOLID}},          // turns
-    {21, {CURL}},           // radius and angle
-    {22, {SOLID, CURL}},    // perspective
-    {34, {CURL, SOLID}},    // flip: the back of the picture
-    {35, {CURL, SOLID}},    // tumble
-    {49, {{1, 999}}, 2},    // priority: automatic
-    {50, {{1, 999}}, 2},    // 1st channel on top
-    {51, {{1, 999}}, 2},    {52, {{1, 999}}, 3},
+    {20, {SOLID}},       // turns
+    {21, {CURL}},        // radius and angle
+    {22, {SOLID, CURL}}, // perspective
+    {34, {CURL, SOLID}}, // flip: the back of the picture
+    {35, {CURL, SOLID}}, // tumble
+    {49, {{1, 999}}, 2}, // priority: automatic
+    {50, {{1, 999}}, 2}, // 1st channel on top
+    {51, {{1, 999}}, 2}, {52, {{1, 999}}, 3}, {54, {SQUEEZE, SOLID}}, // axis location
 };
 constexpr PatternKey edge_keys[] = {
-    {33, {{1, 299}, SOLID}}, // drop shadow: a curl throws its own
-    {34, {{1, 299}, SOLID}},
+    {49, {{1, 299}, SOLID}}, // drop shadow: a curl throws its own
+    {50, {{1, 299}, SOLID}},
     {37, {BUILT_IN}}, // pattern limit: a user program runs to its end
     {38, {BUILT_IN}},
 };

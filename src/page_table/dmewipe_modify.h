@@ -1,5 +1,5 @@
-// dmewipe_modify: the keys for place, size and crop of the channels of an effects-unit wipe, which the pages of a bank
-// and of a key share. They are bound to local paths: the page code knows which channels are meant.
+// dmewipe_modify: the keys that the pages of the effects-unit wipe of a bank and of that of a key share. Those for place,
+// size and crop of the channels are bound to local paths: the page code knows which channels are meant.
 #pragma once
 #include "patterns.h"
 
@@ -49,3 +49,26 @@ inline constexpr BT_TBL dmewipe_ch2      = Toggle({.id = 36, .caption = "2nd Ch"
 inline constexpr BT_TBL dmewipe_ch3      = Toggle({.id = 37, .caption = "3rd Ch", .group = "Ch Select", .cmd = {MODIFY "Ch Select@3rd Ch#*"}});
 #undef KNOB
 #undef MODIFY
+
+// --- Size and transparency of a pattern that has them; pattern: the path of its number ---
+
+inline constexpr NB_TBL nb_dmewipe_ptnsize[] = {
+    {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Size@Size"},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_dmewipe_ptnsize));
+
+constexpr BT_TBL dmewipe_ptnsize(int id, const char* caption, const char* pattern)
+{
+    return Toggle({.id = id, .caption = caption, .group = "Pattern", .tally_func = bt_tly_dmewipe_size,
+                   .cmd = {"~@Size#*", pattern}, .nb = nb_dmewipe_ptnsize});
+}
+constexpr BT_TBL dmewipe_transparency(int id, const char* pattern)
+{
+    return Toggle({.id = id, .caption = "Trans-\nparency", .group = "Pattern", .tally_func = bt_tly_dmewipe_trans,
+                   .cmd = {"~@Transparency#*", pattern, "~@Transparency@Fade#"}, .nb = SpecialKnob(54)});
+}
+constexpr BT_TBL dmewipe_fade(int id) // from one transparency to another
+{
+    return Toggle({.id = id, .caption = "Fade", .group = "Pattern", .cmd = {"~@Transparency@Fade#*", "~@Transparency#false"}});
+}

@@ -6,45 +6,21 @@
 #include "pc_me_dmewipe.h"
 #include "st_me_dmewipe.h"
 
-// --- Boxes ---
+// --- Boxes; percent, degrees, turns ---
 
-inline constexpr NB_TBL nb_me_dmewipe_direction[] = { // of the whole transition, in percent
-    {.id = 1, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~2@Edge/Direction@Pattern Limit@Limit"},
+inline constexpr NB_TBL nb_me_dmewipe_limit[] = { // of the whole transition
+    {.id = 1, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~2@Direction@Pattern Limit@Limit"},
     NB_END,
 };
-inline constexpr NB_TBL nb_me_dmewipe_size[] = {
-    {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Size@Size"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_trans[] = {
-    {.id = 1, .caption = "Start", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Transparency@Start"},
-    {.id = 2, .caption = "End",   .type = NB_2, .min = 0, .max = 100, .cmd = "~@Transparency@End"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_axis[] = {
-    {.id = 1, .caption = "X", .type = NB_2, .min = -200, .max = 200, .cmd = "~@Axis Location@X"},
-    {.id = 2, .caption = "Y", .type = NB_2, .min = -200, .max = 200, .cmd = "~@Axis Location@Y"},
-    {.id = 3, .caption = "Z", .type = NB_2, .min = -200, .max = 200, .cmd = "~@Axis Location@Z"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_turns[] = {
-    {.id = 1, .caption = "Turns", .type = NB_2, .min = -8, .max = 8, .cmd = "~@Turns"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_curl[] = { // percent of the picture's height, degrees
+inline constexpr NB_TBL nb_me_dmewipe_ptnmodifier_curl[] = { // of the picture's height
     {.id = 1, .caption = "Radius", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Curl@Radius"},
     {.id = 2, .caption = "Angle",  .type = NB_2, .min = -180, .max = 180, .cmd = "~@Curl@Angle"},
     NB_END,
 };
-inline constexpr NB_TBL nb_me_dmewipe_perspective[] = {
-    {.id = 1, .caption = "Perspectv", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Perspective@Perspective"},
-    NB_END,
-};
-static_assert(BoxesAreSound(nb_me_dmewipe_direction) && BoxesAreSound(nb_me_dmewipe_size) && BoxesAreSound(nb_me_dmewipe_trans));
-static_assert(BoxesAreSound(nb_me_dmewipe_axis) && BoxesAreSound(nb_me_dmewipe_turns) && BoxesAreSound(nb_me_dmewipe_curl));
+static_assert(BoxesAreSound(nb_me_dmewipe_limit) && BoxesAreSound(nb_me_dmewipe_ptnmodifier_curl));
 
-// A colour as everywhere: percent, percent, degrees.
-#define NB_MATTE(name, path) \
+// A colour as everywhere.
+#define NB_COLOR(name, path) \
     inline constexpr NB_TBL name[] = { \
         {.id = 1, .caption = "Luminance",  .type = NB_2, .min = 0, .max = 100,    .cmd = path "@Luminance"}, \
         {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = path "@Saturation"}, \
@@ -52,57 +28,43 @@ static_assert(BoxesAreSound(nb_me_dmewipe_axis) && BoxesAreSound(nb_me_dmewipe_t
         NB_END, \
     }; \
     static_assert(BoxesAreSound(name));
-NB_MATTE(nb_me_dmewipe_bkgd_matte, "~@Background@Matte")
-NB_MATTE(nb_me_dmewipe_border_color1, "~@Border Matte@Color 1")
-NB_MATTE(nb_me_dmewipe_border_color2, "~@Border Matte@Color 2")
-NB_MATTE(nb_me_dmewipe_shadow_matte, "~@Drop Shadow@Matte")
-#undef NB_MATTE
+NB_COLOR(nb_me_dmewipe_ptnmodifier_bkgd, "~@Background@Matte")
+NB_COLOR(nb_me_dmewipe_edgedir_color1, "~@Border Matte@Color 1")
+NB_COLOR(nb_me_dmewipe_edgedir_color2, "~@Border Matte@Color 2")
+NB_COLOR(nb_me_dmewipe_edgedir_shadow, "~@Shadow@Color")
+#undef NB_COLOR
 
-inline constexpr NB_TBL nb_me_dmewipe_border[] = {
-    {.id = 1, .caption = "Width", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Border@Width"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_softedge[] = {
-    {.id = 1, .caption = "Soft", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Soft@Soft"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_border_mix[] = { // how the two colours meet
+inline constexpr NB_TBL nb_me_dmewipe_edgedir_mix[] = { // how the two colours meet
     {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Border Matte@Mix@Size"},
     {.id = 2, .caption = "Soft", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Border Matte@Mix@Soft"},
     NB_END,
 };
-inline constexpr NB_TBL nb_me_dmewipe_shadow[] = {
-    {.id = 1, .caption = "H Pos",   .type = NB_2, .min = -100, .max = 100, .cmd = "~@Drop Shadow@H Position"},
-    {.id = 2, .caption = "V Pos",   .type = NB_2, .min = -100, .max = 100, .cmd = "~@Drop Shadow@V Position"},
-    {.id = 3, .caption = "Density", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Drop Shadow@Density"},
-    {.id = 4, .caption = "Soft",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Drop Shadow@Soft"},
-    NB_END,
-};
-static_assert(BoxesAreSound(nb_me_dmewipe_border) && BoxesAreSound(nb_me_dmewipe_softedge));
-static_assert(BoxesAreSound(nb_me_dmewipe_border_mix) && BoxesAreSound(nb_me_dmewipe_shadow));
+static_assert(BoxesAreSound(nb_me_dmewipe_edgedir_mix));
 
-inline constexpr NB_TBL nb_me_dmewipe_remove1[] = { // of the whole transition, in percent
-    {.id = 1, .caption = "Start", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Start@1"},
-    {.id = 2, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Limit@1"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_remove2[] = {
-    {.id = 1, .caption = "Start", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Start@2"},
-    {.id = 2, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Limit@2"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_dmewipe_remove3[] = {
-    {.id = 1, .caption = "Start", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Start@3"},
-    {.id = 2, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Limit@3"},
-    NB_END,
-};
-static_assert(BoxesAreSound(nb_me_dmewipe_remove1) && BoxesAreSound(nb_me_dmewipe_remove2) && BoxesAreSound(nb_me_dmewipe_remove3));
+#define NB_REMOVE(ch) /* of the whole transition */ \
+    inline constexpr NB_TBL nb_me_dmewipe_remove##ch[] = { \
+        {.id = 1, .caption = "Start", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Start@" #ch}, \
+        {.id = 2, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Remove From Begin@Limit@" #ch}, \
+        NB_END, \
+    }; \
+    static_assert(BoxesAreSound(nb_me_dmewipe_remove##ch));
+NB_REMOVE(1)
+NB_REMOVE(2)
+NB_REMOVE(3)
+#undef NB_REMOVE
 
 // --- Buttons ---
 
-constexpr BT_TBL DmeWipeDirection(int id, const char* caption, const char* cmd)
+constexpr BT_TBL dmewipe_normal(int id) { return Radio({.id = id, .caption = "Normal", .group = "Direction", .cmd = {"~2@Direction#Normal"}}); }
+constexpr BT_TBL dmewipe_reverse(int id) { return Radio({.id = id, .caption = "Reverse", .group = "Direction", .cmd = {"~2@Direction#Reverse"}}); }
+constexpr BT_TBL dmewipe_norm_rev(int id) { return Toggle({.id = id, .caption = "Norm/Rev", .group = "Direction", .cmd = {"~2@Direction@Norm/Rev#*"}}); }
+constexpr BT_TBL dmewipe_limit(int id)
 {
-    return Radio({.id = id, .caption = caption, .group = "Direction", .cmd = {cmd}});
+    return Toggle({.id = id, .caption = "Pattern\nLimit", .group = "Pattern Limit", .cmd = {"~2@Direction@Pattern Limit#*"}, .nb = nb_me_dmewipe_limit});
+}
+constexpr BT_TBL dmewipe_set_limit(int id)
+{
+    return Action({.id = id, .caption = "Set\nLimit", .group = "Pattern Limit", .cmd = {"~2@Direction@Pattern Limit@Set#*"}});
 }
 
 // Two rows below the short list.
@@ -112,52 +74,44 @@ inline constexpr BT_TBL bt_me_dmewipe_pattern[] = {
     Action({.id = 35, .caption = "3 Channels",  .group = "Show Patterns", .cmd = {"LOCAL@Pattern Select@3 Channels"}}),
     Radio ({.id = 37, .caption = "DME",         .group = "Channel Set", .cmd = {"~@Channel Set#DME"}}),
     Radio ({.id = 38, .caption = "Internal",    .group = "Channel Set", .cmd = {"~@Channel Set#Internal"}}),
-    DmeWipeDirection(49, "Normal",              "~2@Edge/Direction@Direction#Normal"),
-    DmeWipeDirection(50, "Normal/\nReverse",    "~2@Edge/Direction@Direction#Normal/Reverse"),
-    DmeWipeDirection(51, "Reverse",             "~2@Edge/Direction@Direction#Reverse"),
-    Toggle({.id = 53, .caption = "Pattern\nLimit", .group = "Pattern Limit", .cmd = {"~2@Edge/Direction@Pattern Limit#*"}, .nb = nb_me_dmewipe_direction}),
-    Action({.id = 54, .caption = "Set\nLimit",  .group = "Pattern Limit", .cmd = {"~2@Edge/Direction@Pattern Limit@Set#*"}}),
+    dmewipe_normal(49), dmewipe_reverse(50), dmewipe_norm_rev(51),
+    dmewipe_limit(53), dmewipe_set_limit(54),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_dmewipe_pattern));
 
 inline constexpr BT_TBL bt_me_dmewipe_ptnmodifier[] = {
-    Toggle({.id = 17, .caption = "Size",          .group = "Pattern", .tally_func = bt_tly_dmewipe_size,
-            .cmd = {"~@Size#*", "~2@Pattern Select@Pattern#"}, .nb = nb_me_dmewipe_size}),
-    Toggle({.id = 18, .caption = "Trans-\nparency", .group = "Pattern", .tally_func = bt_tly_dmewipe_trans,
-            .cmd = {"~@Transparency#*", "~2@Pattern Select@Pattern#"}, .nb = nb_me_dmewipe_trans}),
-    Toggle({.id = 19, .caption = "Axis\nLocation", .group = "Motion", .cmd = {"~@Axis Location#*"}, .nb = nb_me_dmewipe_axis}),
-    Knobs ({.id = 20, .caption = "Number\nof Turns", .group = "Motion", .nb = nb_me_dmewipe_turns}),
-    Knobs ({.id = 21, .caption = "Radius/\nAngle", .group = "Motion", .nb = nb_me_dmewipe_curl}),
-    Toggle({.id = 22, .caption = "Perspective",   .group = "Motion", .cmd = {"~@Perspective#*"}, .nb = nb_me_dmewipe_perspective}),
+    dmewipe_ptnsize(17, "Size", "~2@Pattern Select@Pattern#"), dmewipe_transparency(18, "~2@Pattern Select@Pattern#"), dmewipe_fade(19),
+    Knobs ({.id = 20, .caption = "Number\nof Turns", .group = "Motion", .cmd = {nullptr, "~@Rotation@Axis#"}, .nb = SpecialKnob(46)}),
+    Knobs ({.id = 21, .caption = "Radius/\nAngle", .group = "Motion", .nb = nb_me_dmewipe_ptnmodifier_curl}),
+    Toggle({.id = 22, .caption = "Perspective",   .group = "Motion", .cmd = {"~@Perspective#*"}, .nb = SpecialKnob(48)}),
     Toggle({.id = 33, .caption = "Invert",        .group = "Picture", .cmd = {"~@Invert#*"}}),
     Toggle({.id = 34, .caption = "Flip",          .group = "Picture", .cmd = {"~@Flip#*"}}),
     Toggle({.id = 35, .caption = "Tumble",        .group = "Picture", .cmd = {"~@Tumble#*"}}),
     Radio ({.id = 36, .caption = "Still",         .group = "Background", .cmd = {"~@Background#Still"}}),
-    Radio ({.id = 37, .caption = "Fade",          .group = "Background", .cmd = {"~@Background#Fade"}}),
-    Radio ({.id = 38, .caption = "Matte",         .group = "Background", .cmd = {"~@Background#Matte"}, .nb = nb_me_dmewipe_bkgd_matte}),
+    Radio ({.id = 37, .caption = "Fade\nOut",     .group = "Background", .cmd = {"~@Background#Fade Out"}}),
+    Radio ({.id = 38, .caption = "Matte",         .group = "Background", .cmd = {"~@Background#Matte"}, .nb = nb_me_dmewipe_ptnmodifier_bkgd}),
     Radio ({.id = 49, .caption = "Auto",          .group = "Priority", .cmd = {"~@Priority#Auto"}}),
     Radio ({.id = 50, .caption = "1st Ch\nTop",   .group = "Priority", .cmd = {"~@Priority#1st Ch"}}),
     Radio ({.id = 51, .caption = "2nd Ch\nTop",   .group = "Priority", .cmd = {"~@Priority#2nd Ch"}}),
     Radio ({.id = 52, .caption = "3rd Ch\nTop",   .group = "Priority", .cmd = {"~@Priority#3rd Ch"}}),
+    Toggle({.id = 54, .caption = "Axis\nLocation", .group = "Axis", .cmd = {"~@Rotation@Axis#*"}}), // two knobs more for the turns
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_dmewipe_ptnmodifier));
 
 inline constexpr BT_TBL bt_me_dmewipe_edgedirection[] = {
-    Toggle({.id = 17, .caption = "Border",        .group = "Edge", .cmd = {"~@Border#*"}, .nb = nb_me_dmewipe_border}),
-    Toggle({.id = 18, .caption = "Soft",          .group = "Edge", .cmd = {"~@Soft#*"}, .nb = nb_me_dmewipe_softedge}),
-    Radio ({.id = 19, .caption = "Flat",          .group = "Border Matte", .cmd = {"~@Border Matte#Flat", "~@Border#false"}}),
-    Radio ({.id = 20, .caption = "Mix",           .group = "Border Matte", .cmd = {"~@Border Matte#Mix", "~@Border#false"}, .nb = nb_me_dmewipe_border_mix}),
-    Knobs ({.id = 21, .caption = "Color 1",       .group = "Border Matte", .cmd = {nullptr, "~@Border#false"}, .nb = nb_me_dmewipe_border_color1}),
-    Knobs ({.id = 22, .caption = "Color 2",       .group = "Border Matte", .cmd = {nullptr, "~@Border#false", "~@Border Matte#Flat"}, .nb = nb_me_dmewipe_border_color2}),
-    Toggle({.id = 33, .caption = "Drop\nShadow",  .group = "Shadow", .cmd = {"~@Drop Shadow#*"}, .nb = nb_me_dmewipe_shadow}),
-    Knobs ({.id = 34, .caption = "Shadow\nColor", .group = "Shadow", .cmd = {nullptr, "~@Drop Shadow#false"}, .nb = nb_me_dmewipe_shadow_matte}),
-    Toggle({.id = 37, .caption = "Pattern\nLimit", .group = "Pattern Limit", .cmd = {"~@Pattern Limit#*"}, .nb = nb_me_dmewipe_direction}),
-    Action({.id = 38, .caption = "Set\nLimit",    .group = "Pattern Limit", .cmd = {"~@Pattern Limit@Set#*"}}),
-    DmeWipeDirection(49, "Normal",              "~@Direction#Normal"),
-    DmeWipeDirection(50, "Normal/\nReverse",    "~@Direction#Normal/Reverse"),
-    DmeWipeDirection(51, "Reverse",             "~@Direction#Reverse"),
+    Toggle({.id = 17, .caption = "Border",        .group = "Edge", .cmd = {"~2@Edge@Border#*", "~2@Edge@Soft#"}, .nb = SpecialKnob(50)}),
+    Toggle({.id = 18, .caption = "Soft",          .group = "Edge", .cmd = {"~2@Edge@Soft#*", "~2@Edge@Separate#"}, .nb = SpecialKnob(51)}),
+    Toggle({.id = 19, .caption = "Separate\nSoft", .group = "Edge", .cmd = {"~2@Edge@Separate#*", "~2@Edge@Soft#false"}}),
+    dmewipe_normal(20), dmewipe_reverse(21), dmewipe_norm_rev(22),
+    Radio ({.id = 33, .caption = "Flat",          .group = "Border Matte", .cmd = {"~@Border Matte#Flat", "~2@Edge@Border#false"}}),
+    Radio ({.id = 34, .caption = "Mix",           .group = "Border Matte", .cmd = {"~@Border Matte#Mix", "~2@Edge@Border#false"}, .nb = nb_me_dmewipe_edgedir_mix}),
+    Knobs ({.id = 35, .caption = "Color 1",       .group = "Border Matte", .cmd = {nullptr, "~2@Edge@Border#false"}, .nb = nb_me_dmewipe_edgedir_color1}),
+    Knobs ({.id = 36, .caption = "Color 2",       .group = "Border Matte", .cmd = {nullptr, "~2@Edge@Border#false", "~@Border Matte#Flat"}, .nb = nb_me_dmewipe_edgedir_color2}),
+    dmewipe_limit(37), dmewipe_set_limit(38),
+    Toggle({.id = 49, .caption = "Drop\nShadow",  .group = "Shadow", .cmd = {"~@Shadow#*"}, .nb = SpecialKnob(53)}),
+    Knobs ({.id = 50, .caption = "Shadow\nColor", .group = "Shadow", .cmd = {nullptr, "~@Shadow#false"}, .nb = nb_me_dmewipe_edgedir_shadow}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_dmewipe_edgedirection));

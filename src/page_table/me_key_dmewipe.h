@@ -8,21 +8,12 @@
 
 // --- Boxes ---
 
-inline constexpr NB_TBL nb_me_key_dmewipe_size[] = {
-    {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = "~4@Pattern Modifier@Size@Size"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_key_dmewipe_trans[] = {
-    {.id = 1, .caption = "Start", .type = NB_2, .min = 0, .max = 100, .cmd = "~4@Pattern Modifier@Transparency@Start"},
-    {.id = 2, .caption = "End",   .type = NB_2, .min = 0, .max = 100, .cmd = "~4@Pattern Modifier@Transparency@End"},
-    NB_END,
-};
 inline constexpr NB_TBL nb_me_key_dmewipe_remove[] = { // of the whole transition, in percent
     {.id = 1, .caption = "Start", .type = NB_2, .min = 0, .max = 100, .cmd = "~4@Modify@Remove From Begin@Start@1"},
     {.id = 2, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~4@Modify@Remove From Begin@Limit@1"},
     NB_END,
 };
-static_assert(BoxesAreSound(nb_me_key_dmewipe_size) && BoxesAreSound(nb_me_key_dmewipe_trans) && BoxesAreSound(nb_me_key_dmewipe_remove));
+static_assert(BoxesAreSound(nb_me_key_dmewipe_remove));
 
 // --- Buttons ---
 
@@ -40,10 +31,7 @@ inline constexpr BT_TBL bt_me_key_trans_dmewipead[] = {
     OfKeyWipe(dmewipe_crop), OfKeyWipe(dmewipe_crop_4_3), OfKeyWipe(dmewipe_size),
     OfKeyWipe(dmewipe_top_left), OfKeyWipe(dmewipe_top_right),
     OfKeyWipe(dmewipe_bottom_left), OfKeyWipe(dmewipe_bottom_right),
-    Toggle({.id = 52, .caption = "Pattern\nSize", .group = "Pattern", .tally_func = bt_tly_dmewipe_size,
-            .cmd = {"~4@Pattern Modifier@Size#*", "~4@Pattern Select@Pattern#"}, .nb = nb_me_key_dmewipe_size}),
-    Toggle({.id = 53, .caption = "Trans-\nparency", .group = "Pattern", .tally_func = bt_tly_dmewipe_trans,
-            .cmd = {"~4@Pattern Modifier@Transparency#*", "~4@Pattern Select@Pattern#"}, .nb = nb_me_key_dmewipe_trans}),
+    dmewipe_ptnsize(51, "Pattern\nSize", "~4@Pattern Select@Pattern#"), dmewipe_transparency(52, "~4@Pattern Select@Pattern#"), dmewipe_fade(53),
     Jump({.id = 54, .caption = "Pattern\nSelect", .group = "Pattern", .cmd = {"#+11170006"}}),
     Jump({.id = 38, .caption = "Remove\nBegin", .group = "Adjust", .cmd = {"#+11170007"}}),
     BT_END,

@@ -107,7 +107,8 @@ template <size_t COUNT, size_t N> constexpr std::array<DMEWIPEPTN, COUNT + 1> Pt
     size_t n = 0;
     for (const PtnRange& r : ranges)
         for (int number = r.first; number <= r.last; number++) run.at(n++) = {number, nb};
-    return n == COUNT ? run : throw "the count is not that of the ranges";
+    (void)run.at(n == COUNT ? n : COUNT + 1); // does not compile when the ranges have another count
+    return run;
 }
 inline constexpr auto ptn_slide = PtnRuns<8>({{1001, 1008}});
 inline constexpr auto ptn_push = PtnRuns<8>({{1011, 1018}});

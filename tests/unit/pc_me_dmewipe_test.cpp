@@ -152,7 +152,7 @@ TEST_F(MeDmeWipe, ThePatternDecidesWhichChannelsThereAre)
         const char* pattern;
         int channels; // that can be chosen
     } cases[] = {{"2001", 2}, {"3999", 3}, {"1003", 0}, {"8001", 2}, {"9001", 3},
-                 {"7003", 0}, {"2000", 0}, {"12", 0},   {"x", 0},    {"13001", 0}};
+                 {"7003", 0}, {"2000", 0}, {"12", 0},   {"x", 0},    {"4001", 0}};
     Open(MODIFY_ME1);
     for (const auto& c : cases) {
         Tell(std::string("M/E-1@DME Wipe@Pattern Select@Pattern#") + c.pattern);
@@ -525,18 +525,18 @@ TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
         const char* pattern;
         std::vector<int> usable, dead;
     } cases[] = {
-        {0x13630000, "1203", {17, 18, 19}, {20, 21, 22, 34, 35, 49, 52}},
-        {0x13630000, "1301", {21, 22, 34, 35}, {17, 18, 19, 20, 49}},
-        {0x13630000, "7391", {18, 19, 20, 22}, {17, 21, 49}},
+        {0x13630000, "1203", {17, 18, 54}, {20, 21, 22, 34, 35, 49, 52}},
+        {0x13630000, "1301", {21, 22, 34, 35}, {17, 18, 20, 49, 54}},
+        {0x13630000, "7391", {18, 20, 22, 54}, {17, 21, 49}},
         {0x13630000, "2001", {49, 50, 51}, {17, 20, 52}},
         {0x13630000, "3401", {20, 22, 49, 52}, {21}},
-        {0x13640000, "1310", {17, 37, 38}, {33, 34}},
-        {0x13640000, "1905", {17, 18}, {33, 37, 38}},
-        {0x13640000, "1001", {17, 33, 37}, {}},
+        {0x13640000, "1310", {17, 37, 38}, {49, 50}},
+        {0x13640000, "1905", {17, 18}, {37, 38, 49}},
+        {0x13640000, "1001", {17, 37, 49}, {}},
     };
     for (const auto& c : cases) {
         Open(c.page);
-        Tell("M/E-3@DME Wipe@Edge/Direction@Drop Shadow#true");
+        Tell("M/E-3@DME Wipe@Edge/Direction@Shadow#true");
         Tell(std::string("M/E-3@DME Wipe@Pattern Select@Pattern#") + c.pattern);
         for (int id : c.usable)
             EXPECT_TRUE(Enabled(id)) << c.pattern << " " << id;
@@ -554,8 +554,8 @@ TEST_F(MeDmeWipe, AKeyHasTheModifiersOfItsPattern)
     Open(0x86270003);
     for (const auto& c : cases) {
         Tell(std::string("M/E-5@Key6@Transition@DME Wipe@Pattern Select@Pattern#") + c.pattern);
-        EXPECT_EQ(Enabled(52), c.size) << c.pattern;
-        EXPECT_EQ(Enabled(53), c.transparency) << c.pattern;
+        EXPECT_EQ(Enabled(51), c.size) << c.pattern;
+        EXPECT_EQ(Enabled(52), c.transparency) << c.pattern;
     }
 }
 
