@@ -83,18 +83,19 @@ struct _modify {
 
 // What a key switches for a channel.
 struct Function {
-    const char* path;
-    int _modify::*active;
+    const char* path = "";
+    int _modify::*active = nullptr;
+    int button = 0;
 };
 constexpr Function functions[] = {
-    {"Position@Position", &_modify::posactive},
-    {"Size", &_modify::sizeactive},
-    {"Crop Mode@Crop", &_modify::cropactive},
+    {"Position@Position", &_modify::posactive, BTN_POSITION},
+    {"Size", &_modify::sizeactive, BTN_SIZE},
+    {"Crop Mode@Crop", &_modify::cropactive, BTN_CROP},
 };
 
 struct Value {
-    const char* path;
-    double _modify::*value;
+    const char* path = "";
+    double _modify::*value = nullptr;
 };
 constexpr Value values[] = {
     {"Position@Position@H", &_modify::h},
@@ -109,9 +110,10 @@ constexpr const char* ModifyPosition[] = {"H", "V"}; // by knob
 
 // A corner is the place where the middle of the picture is that of the screen's corner.
 struct Corner {
-    const char* word;
-    int _modify::*is_there;
-    double h, v;
+    const char* word = "";
+    int _modify::*is_there = nullptr;
+    double h = 0;
+    double v = 0;
 };
 constexpr Corner corners[] = {
     {"Top Left", &_modify::tl, -100, 100},
@@ -120,15 +122,15 @@ constexpr Corner corners[] = {
     {"Bttm Right", &_modify::br, 100, -100},
 };
 
-// Each crop knob moves opposite edges towards the middle: to the left of it and below it is
+// Each crop knob moves opposite edges towards the middle. Left of the middle and below it is
 // negative.
 struct Edge {
-    const char* word; // "" ends a list
-    int sign;
+    const char* word = nullptr; // null ends a list
+    int sign = 0;
 };
 struct CropKnob {
-    int sense; // the sign that its values keep to
-    double _modify::*shown;
+    int sense = 0; // the sign that its values keep to
+    double _modify::*shown = nullptr;
     Edge edges[4];
 };
 constexpr CropKnob crop_knobs[] = {
@@ -139,7 +141,7 @@ constexpr CropKnob crop_knobs[] = {
 
 // What differs between the wipe of a bank and that of a key.
 struct Kind {
-    int channels; // that a pattern may take
+    int channels = 0; // that a pattern may take
 };
 constexpr Kind bank_kind = {PATTERN_CHANNELS};
 constexpr Kind key_kind = {1};
@@ -158,6 +160,7 @@ static struct {
     int ch = 0;                  // leading
     int nextcrop[CHANNELS] = {}; // its picture is wider than 4:3
     int relative = 0;
+    int knobs_of = 0; // the button whose knobs go along to a channel just chosen, 0 none
     char DmeAsp[DMES][8] = {};
     int DmeMe[DMES] = {-1, -1, -1, -1, -1, -1, -1, -1}; // 0 PGM/PST, 1 to 5 the M/Es, -1 free
     int DmeFunc[DMES] = {-1, -1, -1, -1, -1, -1, -1, -1};
@@ -439,6 +442,8 @@ static void modify_chselect_sel(int n)
     toggle_channel(n);
     for (int ch = 0; ch < PATTERN_CHANNELS; ch++)
         mirror_channel(ch);
+    if (BT_GetKnobAssign() > 0)
+        modify.knobs_of = BT_GetKnobAssign();
     modify_remove_btn();
     send_switches("remove", modify.ch); // subscribed anew, they are told anew
     send_switches("add", modify.ch);
@@ -484,17 +489,29 @@ static void modify_pattern_tly(const char* value)
     (void)modify_crop_mask();
 }
 
+// A channel that was off when it was chosen has cost the button its knobs; it comes on at once.
 static void switch_tally(const Function& f, int ch, const char* value)
 {
-    modify.Modify[ch].*f.active = IsTrue(value);
-    if (ch == modify.ch)
-        mirror(f.path, IsTrue(value));
+    const int on = IsTrue(value);
+    modify.Modify[ch].*f.active = on;
+    if (ch != modify.ch)
+        return;
+    mirror(f.path, on);
+    BT_MEM* b = bt_find(f.button);
+    if (on && b && f.button == modify.knobs_of && BT_GetKnobAssign() < 0)
+        bt_take_knobs(b);
 }
 
-static void take_corners(_modify& m)
+// True when the picture has come to a corner or left one.
+static bool take_corners(_modify& m)
 {
-    for (const Corner& c : corners)
-        m.*c.is_there = m.h == c.h && m.v == c.v;
+    bool moved = false;
+    for (const Corner& c : corners) {
+        const int is_there = m.h == c.h && m.v == c.v;
+        moved |= m.*c.is_there != is_there;
+        m.*c.is_there = is_there;
+    }
+    return moved;
 }
 
 static void value_tally(const Value& what, int ch, const char* value)
@@ -504,9 +521,10 @@ static void value_tally(const Value& what, int ch, const char* value)
     if (!std::isfinite(number) || m.*what.value == number)
         return;
     m.*what.value = number;
-    take_corners(m);
+    if (take_corners(m) && ch == modify.ch)
+        mirror_corners();
     if (ch == modify.ch || modify_releffect())
-        modify_position_select();
+        show_boxes();
 }
 
 // rest: what stands behind "...@Modify@". The channel is its last word.
@@ -632,27 +650,28 @@ static void turn_crop(int knob, double step)
         set_crop(knob, std::clamp(shown + step / 100, -100.0, 100.0));
 }
 
-static bool is_knob(int knob, int count)
+// From a box to the knob of the button that owns the column, from 0; -1 when it has no such knob.
+static int knob_of(int box)
 {
-    return knob >= 0 && knob < count;
+    static constexpr struct {
+        int button, knobs;
+    } owners[] = {{BTN_POSITION, 2}, {BTN_SIZE, 1}, {BTN_CROP, int(std::size(crop_knobs))}};
+    for (const auto& o : owners)
+        if (o.button == BT_GetKnobAssign() && box >= 1 && box <= o.knobs)
+            return box - 1;
+    return -1;
 }
 
 static int modify_turn(int box, double counts)
 {
-    const int knob = box - 1;
+    const int knob = knob_of(box);
     const int step = modify_position_knobsel(int(std::clamp(std::round(counts), -99.0, 99.0)));
-    if (step == 0)
+    if (knob < 0 || step == 0)
         return 0;
     switch (BT_GetKnobAssign()) {
-    case BTN_POSITION:
-        if (is_knob(knob, 2))
-            turn_position(knob, step);
-        break;
+    case BTN_POSITION: turn_position(knob, step); break;
     case BTN_SIZE: put_size("diff", step); break;
-    case BTN_CROP:
-        if (is_knob(knob, int(std::size(crop_knobs))))
-            turn_crop(knob, step);
-        break;
+    case BTN_CROP: turn_crop(knob, step); break;
     default: break;
     }
     return 0;
@@ -661,17 +680,13 @@ static int modify_turn(int box, double counts)
 // From the ten keys, the bar and the wheel.
 static int modify_set(int box, double v)
 {
-    const int knob = box - 1;
+    const int knob = knob_of(box);
+    if (knob < 0)
+        return 0;
     switch (BT_GetKnobAssign()) {
-    case BTN_POSITION:
-        if (is_knob(knob, 2))
-            set_position(knob, v);
-        break;
+    case BTN_POSITION: set_position(knob, v); break;
     case BTN_SIZE: put_size("", v); break;
-    case BTN_CROP:
-        if (is_knob(knob, int(std::size(crop_knobs))))
-            set_crop(knob, v);
-        break;
+    case BTN_CROP: set_crop(knob, v); break;
     default: break;
     }
     return 0;
@@ -686,22 +701,23 @@ static int modify_knobvar(int box, MsgArg value, bool from_screen)
     return modify_set(box, *reinterpret_cast<const double*>(value));
 }
 
+static void default_crop(int knob)
+{
+    for_edges(knob, [](int ch, const Edge& e) {
+        Net_SendCommandFormat("default %s@Modify@Crop Mode@Crop@%s@%d", modify.ModifyReg, e.word,
+                              ch + 1);
+    });
+}
+
 static int modify_default(int box)
 {
-    const int knob = box - 1;
+    const int knob = knob_of(box);
+    if (knob < 0)
+        return 0;
     switch (BT_GetKnobAssign()) {
-    case BTN_POSITION:
-        if (is_knob(knob, 2))
-            for_chosen([&](int ch) { send_position("default", knob, ch); });
-        break;
+    case BTN_POSITION: for_chosen([&](int ch) { send_position("default", knob, ch); }); break;
     case BTN_SIZE: for_chosen([](int ch) { send_channel("default", "Size@Size", ch); }); break;
-    case BTN_CROP:
-        if (is_knob(knob, int(std::size(crop_knobs))))
-            for_edges(knob, [](int ch, const Edge& e) {
-                Net_SendCommandFormat("default %s@Modify@Crop Mode@Crop@%s@%d", modify.ModifyReg,
-                                      e.word, ch + 1);
-            });
-        break;
+    case BTN_CROP: default_crop(knob); break;
     default: break;
     }
     return 0;
@@ -711,6 +727,7 @@ static int modify_default(int box)
 
 static void press_function(const Function& f)
 {
+    modify.knobs_of = 0;
     const char* value = leading().*f.active ? "#false" : "#true";
     for_chosen([&](int ch) { send_channel("put", f.path, ch, value); });
 }

@@ -215,6 +215,26 @@ TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowed)
     EXPECT_EQ(BT_GetStatus(SIZE), BT_ON);
 }
 
+TEST_F(MeDmeWipe, TheKnobsGoAlongToTheChannelThatIsChosen)
+{
+    const std::string root = "M/E-1@DME Wipe";
+    OpenWith(MODIFY_ME1, root, "2003");
+    Own(root, "Size", SIZE);
+    Tell(root + "@Modify@Size@Size@1#70");
+    (void)Press(CH1); // moves on to the second, which the server tells as it is and then switches
+    Tell(root + "@Modify@Size@2#false");
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    Tell(root + "@Modify@Crop Mode@Crop@2#true");
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    Tell(root + "@Modify@Size@2#true");
+    EXPECT_EQ(BT_GetKnobAssign(), SIZE);
+    Tell(root + "@Modify@Size@Size@2#30");
+    char path[CMD_SIZE];
+    double shown = 0;
+    EXPECT_EQ(NB_GetKnob_info("Size", path, &shown, sizeof path), 1);
+    EXPECT_EQ(shown, 30);
+}
+
 // --- Modify: knobs ---
 
 TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsSteps)
