@@ -71,6 +71,16 @@ static bool con_set(Runner&, const std::string& rest)
     return true;
 }
 
+// As a panel would: with all that the switcher does about it.
+static bool con_put(Runner&, const std::string& rest)
+{
+    std::string path, value;
+    if (!con_path_value(rest, &path, &value))
+        return false;
+    Verb_Line(0, "put " + path + "#" + value);
+    return true;
+}
+
 static void con_print(const Node& node)
 {
     if (node.type.kind != KIND_LIST)
@@ -309,6 +319,7 @@ static bool con_help(Runner&, const std::string&);
 static constexpr Command commands[] = {
     {"help", "", "this list", con_help},
     {"set", "PATH#VALUE", "change a value as the switcher would (also: PATH VALUE)", con_set},
+    {"put", "PATH#VALUE", "change a value as a panel would", con_put},
     {"get", "PATH", "print a value", con_get},
     {"tree", "[PREFIX]", "print all values that somebody has asked for", con_tree},
     {"clients", "", "who is connected, with menu and knobs", con_clients},
@@ -332,7 +343,8 @@ static constexpr Command commands[] = {
     {"quit", "", "end", con_quit},
 };
 
-static const std::span<const Command> command_sets[] = {commands, console_effect_commands};
+static const std::span<const Command> command_sets[] = {commands, console_effect_commands,
+                                                        console_setup_commands};
 
 static bool con_help(Runner&, const std::string&)
 {

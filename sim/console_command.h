@@ -34,3 +34,4 @@ bool Console_OnOff(const std::string& text, bool* on);
 bool Console_Number(const std::string& text, long from, long to, long* number);
 
 extern const std::span<const Command> console_effect_commands; // regions, effects, registers
+extern const std::span<const Command> console_setup_commands;  // what the installation is made of

@@ -7,6 +7,7 @@
 #include "system.h"
 #include "text.h"
 #include "timeline.h"
+#include "transition.h"
 #include "values.h"
 #include "verbs.h"
 #include <algorithm>
@@ -94,8 +95,8 @@ static void main_turn(int64_t* next)
     const int64_t then = Now_Ms();
     // The console first: what it starts is due at once.
     *next = Console_Tick(then);
-    *next = std::min(
-        {*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then), Fault_Tick(then)});
+    *next = std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
+                      Transition_Tick(then), Fault_Tick(then)});
 }
 
 int main(int argc, char** argv)

@@ -1,43 +1,284 @@
 #include "rules.h"
+#include "dme_channels.h"
 #include "text.h"
 #include "tree.h"
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <vector>
 
 namespace
 {
-// When PATH@TAIL becomes one of the words, PATH@OTHER becomes VALUE.
+// A change that a rule follows: its path and value, and the row's two texts for it.
+struct Hit {
+    std::string path;
+    std::string now;
+    std::string target;
+    std::string value; // or a second path
+};
+
+// In target and value "~N" is as much of the path as its first N words, "~" all of it, "^" all but
+// the last word, "^^" all but the last two; "$" is the last word.
 struct Rule {
-    const char* tail = "";
-    const char* words = "";
-    const char* other = "";
+    const char* path = "";   // a pattern
+    const char* values = ""; // that start it: "A,B", "!A,B" all but these, "" every
+    void (*act)(const Hit& hit) = nullptr;
+    const char* target = "";
     const char* value = "";
 };
-} // namespace
 
-static constexpr const char* PATTERN_KEYS = "Wipe Pattern,Key Wipe Pattern";
-
-// A pattern key has no source whose edge could be cleaned or moved. The automatic chroma key finds
-// its values in the picture: here a green wall.
-static constexpr Rule rules[] = {
-    {"Type@Key Type", PATTERN_KEYS, "Type@Clean Mode", "false"},
-    {"Type@Key Type", PATTERN_KEYS, "Type@Key Position", "false"},
-    {"Type@Auto Chroma", "true", "Type@Key Type@Chroma@Hue", "117.50"},
-    {"Type@Auto Chroma", "true", "Type@Key Type@Chroma@Clip", "38.00"},
-    {"Type@Auto Chroma", "true", "Type@Key Type@Chroma@Gain", "12.00"},
+// Switches below one path of which at most one is on, or always one.
+struct OneOf {
+    const char* group = ""; // a pattern
+    const char* words = "";
+    bool is_never_empty = false;
 };
 
-static bool ends_with(const std::string& path, const std::string& tail)
+using PathValues = std::vector<std::pair<std::string, std::string>>;
+} // namespace
+
+static struct {
+    std::map<std::string, PathValues> kept; // before an automatism changed them, by their group
+} rl;
+
+// --- What rules do ---
+
+static void act_set(const Hit& hit)
 {
-    return path.size() > tail.size() && path.substr(path.size() - tail.size()) == tail;
+    Tree_Show(hit.target, hit.value);
+}
+
+static void act_default(const Hit& hit)
+{
+    for (Node* node : Tree_Under(hit.target))
+        Tree_Show(node->path, node->initial);
+}
+
+// The same number, or its mirror image.
+static void act_follow(const Hit& hit)
+{
+    Tree_Show(hit.target, hit.now);
+}
+
+static void act_oppose(const Hit& hit)
+{
+    double number = 0;
+    Node* const node = Tree_Get(hit.target);
+    if (!node || !Text_ToNumber(hit.now, &number))
+        return;
+    const bool has_limits = node->type.kind == KIND_NUM;
+    Tree_Show(hit.target,
+              has_limits ? Tree_NumberText(node->type, -number) : Text_Format("%.2f", -number));
+}
+
+// The values below one path as they are relative to it.
+static PathValues values_below(const std::string& path)
+{
+    PathValues values;
+    for (const Node* node : Tree_Under(path))
+        values.emplace_back(node->path.substr(path.size()), node->value);
+    return values;
+}
+
+static void act_keep(const Hit& hit)
+{
+    rl.kept[hit.target] = values_below(hit.target);
+}
+
+static void act_bring_back(const Hit& hit)
+{
+    for (const auto& [tail, value] : rl.kept[hit.target])
+        Tree_Show(hit.target + tail, value);
+}
+
+// Target becomes like value.
+static void act_copy(const Hit& hit)
+{
+    for (const auto& [tail, value] : values_below(hit.value))
+        Tree_Show(hit.target + tail, value);
+}
+
+static void act_swap(const Hit& hit)
+{
+    const auto one = values_below(hit.target), other = values_below(hit.value);
+    for (const auto& [tail, value] : one)
+        Tree_Show(hit.value + tail, value);
+    for (const auto& [tail, value] : other)
+        Tree_Show(hit.target + tail, value);
+}
+
+// The name of the signal that cuts the key: a self key is cut by its fill.
+static void act_name_source(const Hit& hit)
+{
+    const std::string type = hit.target + "@Type@";
+    const Node* const source = Tree_Get(type + "Key Source");
+    const bool is_split = source && source->value == "Split";
+    if (const Node* signal = Tree_Get(type + "Signal Select@" + (is_split ? "Source" : "Fill")))
+        Tree_Show(hit.target + "@Status@Source Name", signal->value);
+}
+
+// The internal channels make the same wipes under numbers of their own.
+static void act_change_set(const Hit& hit)
+{
+    constexpr double INTERNAL = 6000;
+    double number = 0;
+    Node* const pattern = Tree_Get(hit.target);
+    if (!pattern || !Text_ToNumber(pattern->value, &number))
+        return;
+    const bool is_internal = number > INTERNAL;
+    if (is_internal != (hit.now == "Internal"))
+        Tree_Show(hit.target,
+                  Tree_NumberText(pattern->type, number + (is_internal ? -INTERNAL : INTERNAL)));
+}
+
+static void act_show_channels(const Hit&)
+{
+    Dme_ShowStatus();
+}
+
+// --- The rules ---
+
+static constexpr const char* PATTERN_KEYS = "Wipe Pattern,Key Wipe Pattern";
+static constexpr const char* CHROMA = "~2@Type@Key Type@Chroma";
+
+static constexpr Rule rules[] = {
+    // A pattern key has no source whose edge could be cleaned or moved.
+    {"*@*@Type@Clean Mode@*Wipe Pattern", "true", act_set, "~", "false"},
+    {"*@*@Type@Key Position@*Wipe Pattern", "true", act_set, "~", "false"},
+    {"*@*@Type@Key Type", PATTERN_KEYS, act_set, "~2@Type@Key Source", "Self"},
+    {"*@*@Type@Key Source", "", act_name_source, "~2", ""},
+    {"*@*@Type@Signal Select@*", "", act_name_source, "~2", ""},
+    // The automatic chroma key finds its values in the picture: here a green wall.
+    {"*@*@Type@Auto Chroma", "true", act_keep, CHROMA, ""},
+    {"*@*@Type@Auto Chroma", "true", act_set, "~2@Type@Key Type@Chroma@Hue", "117.50"},
+    {"*@*@Type@Auto Chroma", "true", act_set, "~2@Type@Key Type@Chroma@Clip", "38.00"},
+    {"*@*@Type@Auto Chroma", "true", act_set, "~2@Type@Key Type@Chroma@Gain", "12.00"},
+    {"*@*@Type@Chroma Adjust@Undo", "true", act_bring_back, CHROMA, ""},
+
+    // A dropped key makes room for an edge: without one there is nothing to make room for.
+    {"*@*@Edge@Edge", "Normal,Emboss,Zabton", act_set, "~2@Edge@Key Drop", "false"},
+    {"*@*@Edge@Fine Key", "true", act_set, "~2@Edge@Key Drop", "false"},
+    {"*@*@Type@Key Type", "!Luminance,Linear,Color Vector", act_set, "~2@Edge@Key Drop", "false"},
+
+    // A matte has two colours.
+    {"**@Copy", "true", act_copy, "^@Color 2", "^@Color 1"},
+    {"**@Swap", "true", act_swap, "^@Color 1", "^@Color 2"},
+
+    // With Combine the second channel of the resizer is the partner's and makes no effects.
+    {"*@*@Resizer@Combine", "true", act_set, "~2@Resizer@Enhanced Effect@Mosaic", "false"},
+    {"*@*@Resizer@Combine", "true", act_set, "~2@Resizer@Enhanced Effect@Defocus", "false"},
+    {"*@*@Resizer@Border/Crop@CG Border", "true", act_set, "^@Border", "false"},
+    {"*@*@Resizer@Center", "true", act_default, "~2@Resizer@H", ""},
+    {"*@*@Resizer@Center", "true", act_default, "~2@Resizer@V", ""},
+    {"*@*@Resizer@Full Size", "true", act_default, "~2@Resizer@Size", ""},
+    {"*@*@Resizer@Full Size", "true", act_default, "~2@Resizer@H", ""},
+    {"*@*@Resizer@Full Size", "true", act_default, "~2@Resizer@V", ""},
+    {"*@*@Resizer@Aspect@Unity", "true", act_default, "^@Aspect", ""},
+    {"*@*@Resizer@Aspect@Unity", "true", act_default, "^@H Size", ""},
+    {"*@*@Resizer@Aspect@Unity", "true", act_default, "^@V Size", ""},
+    {"*@*@Resizer@Rotation@Reset", "true", act_default, "^@X", ""},
+    {"*@*@Resizer@Rotation@Reset", "true", act_default, "^@Y", ""},
+    {"*@*@Resizer@Rotation@Reset", "true", act_default, "^@Z", ""},
+
+    // Two edges of a crop, or all four, go together, each to its side of the middle.
+    {"**@Crop@H", "", act_follow, "^@Left", ""},
+    {"**@Crop@H", "", act_oppose, "^@Right", ""},
+    {"**@Crop@V", "", act_follow, "^@Top", ""},
+    {"**@Crop@V", "", act_oppose, "^@Bottom", ""},
+    {"**@Crop@All", "", act_follow, "^@Left", ""},
+    {"**@Crop@All", "", act_oppose, "^@Right", ""},
+    {"**@Crop@All", "", act_oppose, "^@Top", ""},
+    {"**@Crop@All", "", act_follow, "^@Bottom", ""},
+    // Of a 16:9 picture three quarters are a 4:3 one.
+    {"**@Border/Crop@4:3 Crop", "true", act_set, "^@Crop@Left", "-75.00"},
+    {"**@Border/Crop@4:3 Crop", "true", act_set, "^@Crop@Right", "75.00"},
+    {"*@*@Processed Key@Center", "true", act_default, "^@Location", ""},
+    {"**@Video Process@Unity", "true", act_default, "^@Luminance", ""},
+    {"**@Video Process@Unity", "true", act_default, "^@Chroma", ""},
+    {"**@Video Process@Unity", "true", act_default, "^@Hue", ""},
+
+    // Wipes.
+    {"*@Misc@Transition@*", "", act_show_channels, "", ""},
+    {"*@Wipe@*@Center", "true", act_default, "^@Position@H", ""},
+    {"*@Wipe@*@Center", "true", act_default, "^@Position@V", ""},
+    {"**@Pattern Limit@Set", "true", act_copy, "^@Limit", "~1@Status@Transition Position"},
+    {"**@Pattern Select@Channel Set", "", act_change_set, "^@Pattern", ""},
+    {"**@Modify@Position@Center@*", "true", act_default, "^^@Position@H@$", ""},
+    {"**@Modify@Position@Center@*", "true", act_default, "^^@Position@V@$", ""},
+    {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Left@$", "-75.00"},
+    {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Right@$", "75.00"},
+};
+
+// The sets come before the rules: a rule finds the others off.
+static constexpr OneOf one_ofs[] = {
+    {"*@Wipe@Direction", "Normal,Reverse", true},
+    {"*@Misc@Transition", "Mix,NAM,Super Mix,Preset Color Mix,Wipe,DME Wipe,Clip", true},
+    {"*@*@Resizer@Enhanced Effect", "Mosaic,Defocus"}, // one generator makes both
+};
+
+// --- The search ---
+
+static bool is_started_by(const char* values, const std::string& value)
+{
+    const bool is_excluding = values[0] == '!';
+    const auto words = Text_Split(values + is_excluding, ',');
+    const bool is_listed = std::find(words.begin(), words.end(), value) != words.end();
+    return !values[0] || is_listed != is_excluding;
+}
+
+static std::string without_last_words(std::string path, size_t count)
+{
+    for (; count > 0 && !path.empty(); --count)
+        path.resize(path.find('@') == path.npos ? 0 : path.rfind('@'));
+    return path;
+}
+
+static std::string rule_path(const std::string& path, std::string text)
+{
+    const bool has_last = !text.empty() && text.back() == '$';
+    if (has_last)
+        text.replace(text.size() - 1, 1, path.substr(path.rfind('@') + 1));
+    const size_t ups = text.find_first_not_of('^');
+    if (ups != 0 && ups != text.npos)
+        return without_last_words(path, ups) + text.substr(ups);
+    if (text.empty() || text[0] != '~')
+        return text;
+    const bool has_count = text.size() > 1 && isdigit((unsigned char)text[1]);
+    return has_count ? Text_Head(path, text[1] - '0') + text.substr(2) : path + text.substr(1);
+}
+
+static void follow_one_of(const OneOf& set, const std::string& path, const std::string& value)
+{
+    const size_t at = path.rfind('@');
+    if (at == std::string::npos || !Text_MatchesPath(path.substr(0, at), set.group))
+        return;
+    const std::string group = path.substr(0, at + 1);
+    const auto words = Text_Split(set.words, ',');
+    if (std::find(words.begin(), words.end(), path.substr(at + 1)) == words.end())
+        return;
+    bool is_any = value == "true";
+    for (const std::string& word : words) {
+        const Node* other = Tree_Find(group + word);
+        if (group + word == path || !other)
+            continue;
+        if (value == "true")
+            Tree_Show(other->path, "false");
+        is_any = is_any || other->value == "true";
+    }
+    if (!is_any && set.is_never_empty)
+        Tree_Show(path, "true");
 }
 
 void Rules_Follow(const std::string& path, const std::string& value)
 {
-    for (const Rule& rule : rules) {
-        if (!ends_with(path, std::string("@") + rule.tail))
-            continue;
-        const std::string base = path.substr(0, path.size() - std::string(rule.tail).size());
-        for (const std::string& word : Text_Split(rule.words, ','))
-            if (value == word)
-                Tree_Show(base + rule.other, rule.value);
-    }
+    for (const OneOf& set : one_ofs)
+        follow_one_of(set, path, value);
+    for (const Rule& rule : rules)
+        if (Text_MatchesPath(path, rule.path) && is_started_by(rule.values, value))
+            rule.act({path, value, rule_path(path, rule.target), rule_path(path, rule.value)});
+}
+
+void Rules_Install()
+{
+    rl = {};
 }

@@ -165,6 +165,10 @@ static std::string store_line(const Kind& kind, int number, const Register& r)
     case STORE_MACRO:
         return head + Text_Format("%s,%s,%s,%d,0", r.exists ? "S" : "E", r.name.c_str(),
                                   r.is_locked ? "L" : "U", r.exists ? number : 0);
+    case STORE_WIPE:
+    case STORE_DME:
+        return head + r.name + "," + line_status(r) +
+               (r.exists ? Text_Format(",%d", r.pattern) : "");
     default: return head + r.name + "," + line_status(r);
     }
 }

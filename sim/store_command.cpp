@@ -1,6 +1,7 @@
 // Recalling and storing, and the commands of the panels: a path that ends with the verb, and a
 // value of a mask of rows (where the kind has one) and numbers: "put
 // Effect@Effect@Lock@Lock#MASK,1,5,true".
+#include "dme_channels.h"
 #include "log.h"
 #include "region.h"
 #include "store.h"
@@ -34,8 +35,7 @@ struct StoreVerb {
 
 // --- Snapshots of the tree ---
 
-// The values that a row's registers keep stand below this path; empty: it keeps none.
-static std::string kept_path(const Kind& kind, int row)
+std::string Store_KeptPath(const Kind& kind, int row)
 {
     const int region = kind.kind == STORE_KEY        ? row / KEYS
                        : kind.kind == STORE_SNAPSHOT ? Region_OfSnapshotRow(row)
@@ -51,9 +51,27 @@ static std::string kept_path(const Kind& kind, int row)
     }
 }
 
+const char* Store_PatternTail(const Kind& kind)
+{
+    return kind.kind == STORE_WIPE  ? "@Main Pattern@Pattern"
+           : kind.kind == STORE_DME ? "@Pattern Select@Pattern"
+                                    : nullptr;
+}
+
+// The pattern is kept even when nobody has asked for it yet: the list tells it.
+static void keep_pattern(const Kind& kind, int row, Register& r)
+{
+    long number = 0;
+    const char* const tail = Store_PatternTail(kind);
+    const Node* const node = tail ? Tree_Get(Store_KeptPath(kind, row) + tail) : nullptr;
+    if (node && Text_ToInt(node->value, &number))
+        r.pattern = int(number);
+}
+
 static bool is_kept(const Node& node)
 {
-    return node.type.kind != KIND_ACTION && node.type.kind != KIND_LIST;
+    return node.type.kind != KIND_ACTION && node.type.kind != KIND_LIST &&
+           !Dme_IsSelection(node.path) && !Text_MatchesPath(node.path, "**@Transition Position");
 }
 
 static void keep_values(Register& r, const std::string& path)
@@ -114,7 +132,7 @@ void Store_Recall(const Kind& kind, int row, int number)
     case STORE_MASTER_EFFECT:
     case STORE_SHOTBOX: recall_links(r, STORE_EFFECT); break;
     case STORE_MASTER_SNAPSHOT: recall_links(r, STORE_SNAPSHOT); break;
-    default: bring_values_back(r, kept_path(kind, row));
+    default: bring_values_back(r, Store_KeptPath(kind, row));
     }
     Store_SetCurrent(kind, row, number);
 }
@@ -151,7 +169,7 @@ void Store_StoreRegister(const Kind& kind, int row, int number, const std::strin
     case STORE_MASTER_EFFECT: r.links = current_of(STORE_EFFECT, false); break;
     case STORE_MASTER_SNAPSHOT: r.links = current_of(STORE_SNAPSHOT, false); break;
     case STORE_SHOTBOX: r.links = current_of(STORE_EFFECT, true); break;
-    default: keep_values(r, kept_path(kind, row));
+    default: keep_pattern(kind, row, r); keep_values(r, Store_KeptPath(kind, row));
     }
     Store_SetCurrent(kind, row, number);
     Store_Show(kind, row, number);

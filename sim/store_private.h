@@ -24,6 +24,7 @@ struct Register {
     std::string name;
     Effect effect;
     std::map<std::string, std::string> values; // of a snapshot: path and value
+    int pattern = 0;                           // of a wipe or DME wipe
     std::string hold;                          // buses that a snapshot leaves alone
     int dissolve_frames = 0;
     bool has_dissolve = false; // of a snapshot; an effect has its own
@@ -48,6 +49,10 @@ struct Kind {
 constexpr size_t NAME_BYTES = 11;
 
 const Kind& Store_Kind(StoreKind kind);
+// The values that a row's registers keep stand below this path; empty: it keeps none.
+std::string Store_KeptPath(const Kind& kind, int row);
+// Of a wipe or DME wipe: where the number of its pattern stands below that path.
+const char* Store_PatternTail(const Kind& kind);
 std::string Store_RowName(const Kind& kind, int row);
 int Store_RowOfName(const Kind& kind, const std::string& name); // -1: none
 bool Store_IsNumber(const Kind& kind, int row, int number);

@@ -55,8 +55,14 @@ static const Stock stock[] = {
     {STORE_MASTER_SNAPSHOT, "", 1, "MORNING", false},
     {STORE_MASTER_SNAPSHOT, "", 2, "EVENING", true},
     {STORE_WIPE, "M/E-1", 1, "CIRCLE", false},
+    {STORE_WIPE, "M/E-1", 2, "STAR", true},
+    {STORE_WIPE, "M/E-1", 10, "MOSAIC", false},
+    {STORE_WIPE, "M/E-1 Sub", 1, "BOX", false},
+    {STORE_WIPE, "M/E-4", 1, "LINE", false},
     {STORE_WIPE, "P/P", 1, "DIAGONAL", true},
     {STORE_DME, "M/E-1", 1, "PUSH", false},
+    {STORE_DME, "M/E-1", 2, "SPLIT", true},
+    {STORE_DME, "P/P", 1, "PAGE TURN", false},
     {STORE_KEY, "M/E-1@Key1", 1, "TITLE", false},
     {STORE_KEY, "M/E-1@Key1", 2, "LOGO", true},
     {STORE_KEY, "P/P@Key1", 1, "CLOCK", false},
@@ -81,6 +87,26 @@ static const struct {
     {STORE_SNAPSHOT, "M/E-1", 10, "M/E-1@Key1@Type@Key Type", "Chroma"},
     {STORE_SNAPSHOT, "M/E-1", 10, "M/E-1@Key1@Type@Key Type@Chroma@Hue", "120.00"},
     {STORE_KEY, "M/E-1@Key1", 2, "M/E-1@Key1@Type@Key Type", "Color Vector"},
+};
+
+// What wipes and DME wipes hold: a pattern and one setting beside it.
+static const struct {
+    StoreKind kind;
+    const char* row;
+    int number;
+    int pattern;
+    const char* tail; // of another value that isn't at its default
+    const char* value;
+} stock_patterns[] = {
+    {STORE_WIPE, "M/E-1", 1, 65, "@Edge@Border", "true"},
+    {STORE_WIPE, "M/E-1", 2, 241, "@Direction@Norm/Rev", "true"},
+    {STORE_WIPE, "M/E-1", 10, 177, "@Edge@Soft", "true"},
+    {STORE_WIPE, "M/E-1 Sub", 1, 17, "@Edge@Soft", "true"},
+    {STORE_WIPE, "M/E-4", 1, 2, "@Edge@Border", "true"},
+    {STORE_WIPE, "P/P", 1, 3, "@Edge@Border", "true"},
+    {STORE_DME, "M/E-1", 1, 1011, "@Edge/Direction@Border", "true"},
+    {STORE_DME, "M/E-1", 2, 2021, "@Edge/Direction@Soft", "true"},
+    {STORE_DME, "P/P", 1, 1301, "@Edge/Direction@Border", "true"},
 };
 
 // The others have three keyframes, a second apart.
@@ -143,6 +169,15 @@ void Store_Stock()
     for (const auto& s : stock_values)
         Store_Register(Store_Kind(s.kind), Store_RowOfName(Store_Kind(s.kind), s.row), s.number)
             .values[s.path] = s.value;
+    for (const auto& s : stock_patterns) {
+        const Kind& kind = Store_Kind(s.kind);
+        const int row = Store_RowOfName(kind, s.row);
+        const std::string path = Store_KeptPath(kind, row);
+        Register& r = Store_Register(kind, row, s.number);
+        r.pattern = s.pattern;
+        r.values[path + Store_PatternTail(kind)] = std::to_string(s.pattern);
+        r.values[path + s.tail] = s.value;
+    }
     Register& weather = Store_Register(Store_Kind(STORE_SNAPSHOT), REGION_ME1, 10);
     weather.hold = "AB12U1";
     weather.dissolve_frames = 30;

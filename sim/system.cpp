@@ -1,11 +1,14 @@
 #include "system.h"
+#include "dme_channels.h"
 #include "link.h"
 #include "log.h"
 #include "region.h"
+#include "rules.h"
 #include "store.h"
 #include "stream.h"
 #include "text.h"
 #include "timeline.h"
+#include "transition.h"
 #include "tree.h"
 #include "verbs.h"
 #include <algorithm>
@@ -26,6 +29,7 @@ struct Rows {
     const char* path = "";
     bool kill_first = false;
     std::vector<std::string> rows;
+    int key_fields = 1;
 };
 
 struct Step {
@@ -69,13 +73,13 @@ static const Preset presets[] = {
     {"Engineering Setup@System@Format@Reference", "SWR1,SWR2,DME1,DME2,DME3,DME4,PNL1,PNL2", "BB"},
     {"Engineering Setup@System@Format@3D Mode", "SWR1,SWR2,DME1,DME2,DME3,DME4", "Off"},
     {"Engineering Setup@System@Format@4K Mode", "", "Off"},
-    {"Info@Board Config@Unit Model", PNLS, "9"},
+    {"Info@Board Config@Unit Model", PNLS, "8"}, // the large panel: the small one lacks functions
     {"Info@Board Config@Unit Model", SWRS, "10"},
     // An entry for each place; 0 is an empty one.
     {"Info@Board Config@Board Exist Set",
      "SWR1@EEPROM,SWR1@Auto Scan,SWR2@EEPROM,SWR2@Auto Scan,DME1,DME2,DME3,DME4",
      "1,1,1,1,1,1,1,1"},
-    {"Engineering Setup@DME@Model", DMES, "4"},
+    {"Engineering Setup@DME@Model", DMES, "3"}, // with all pages of the effects menu
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
     {"MPE@Fx@Channel@Selected", "", "F"},         // masks of channels, hexadecimal
     {"MPE@Fx@Channel@Reference", "", "00000001"}, // binary, channel 1 last
@@ -83,7 +87,7 @@ static const Preset presets[] = {
     {"Engineering Setup@MPE@Config@SWR Select", "MPE1", "1"},
     {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "", "4"},
     {"32@Engineering Setup@System@Install@Unit Config@CCR Config", "", "4"},
-    {"Engineering Setup@System@Install@Unit Config@M/E Split", "", "false"},
+    {"Engineering Setup@System@Install@Unit Config@M/E Split", "", "1,1,1,1,1"}, // a number a board
 
     {"Engineering Setup@Panel@Config@M/E Operation", BANKS, "Enable"},
     {"Engineering Setup@Panel@Config@M/E Assign", "1st Row", "M/E-1"},
@@ -171,8 +175,8 @@ static const Rows lists[] = {
     {"Info@Operation Setup Data@Timeline Region Display", false, {}},
     {"Info@Operation Setup Data@Timeline Region Priority", false, {}},
     {"Engineering Setup@System@Format@FC Format", false, {}},
-    {"Engineering Setup@Switcher@Config@M/E Output Assign@List", false, {}},
-    {"Engineering Setup@Switcher@Config@PGM Config@List", false, {}},
+    {"Engineering Setup@Switcher@Config@M/E Output Assign@List", true, {}, 2},
+    {"Engineering Setup@Switcher@Config@PGM Config@List", true, {}, 2},
     {"Engineering Setup@Panel@Xpt Assign@Button No", false, {}},
 };
 
@@ -209,9 +213,10 @@ static void sys_preset(const Preset& preset)
     }
 }
 
-static void sys_list(const std::string& path, const std::vector<std::string>& rows, bool kill_first)
+static void sys_list(const std::string& path, const std::vector<std::string>& rows, bool kill_first,
+                     int key_fields = 1)
 {
-    Tree_SetList(path, rows, 1);
+    Tree_SetList(path, rows, key_fields);
     if (Node* node = Tree_Get(path))
         node->kill_first = kill_first;
 }
@@ -264,12 +269,15 @@ void System_Install()
     for (const Preset& preset : presets)
         sys_preset(preset);
     for (const Rows& list : lists)
-        sys_list(list.path, list.rows, list.kill_first);
+        sys_list(list.path, list.rows, list.kill_first, list.key_fields);
     sys_crosspoints();
     sys_tenkeys();
     sys_folders();
     Timeline_Install();
     Store_Install();
+    Transition_Install();
+    Dme_Install();
+    Rules_Install();
 }
 
 bool System_PutMpe(const std::string& path, const std::string& digits)

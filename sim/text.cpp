@@ -98,6 +98,35 @@ bool Text_Matches(std::string_view text, std::string_view pattern)
     return p == pattern.size();
 }
 
+// The last word of a path, which loses it and the mark before it.
+static std::string_view text_take_last(std::string_view* path)
+{
+    const size_t at = path->rfind('@');
+    const std::string_view word = at == std::string_view::npos ? *path : path->substr(at + 1);
+    *path = at == std::string_view::npos ? std::string_view() : path->substr(0, at);
+    return word;
+}
+
+// From the end: paths of one switcher differ there.
+bool Text_MatchesPath(std::string_view path, std::string_view pattern)
+{
+    const bool is_tail = Text_Begins(pattern, "**@");
+    if (is_tail)
+        pattern.remove_prefix(3);
+    while (!path.empty() && !pattern.empty())
+        if (!Text_Matches(text_take_last(&path), text_take_last(&pattern)))
+            return false;
+    return pattern.empty() && path.empty() != is_tail;
+}
+
+std::string Text_Head(std::string_view path, int count)
+{
+    size_t end = 0;
+    for (int i = 0; i < count && end != path.npos; ++i)
+        end = path.find('@', end + (i > 0));
+    return std::string(path.substr(0, end));
+}
+
 static std::string text_escape_byte(unsigned char byte)
 {
     switch (byte) {

@@ -17,6 +17,11 @@ bool Text_ToNumber(const std::string& text, double* out);
 bool Text_ToInt(const std::string& text, long* out);
 // "*" stands for any text, "?" for one byte; everything else for itself.
 bool Text_Matches(std::string_view text, std::string_view pattern);
+// The same word by word for paths ("A@B"): a star stays within its word. "**@" before the pattern
+// stands for one or more words.
+bool Text_MatchesPath(std::string_view path, std::string_view pattern);
+// The first count words of a path; the whole path when it has no more.
+std::string Text_Head(std::string_view path, int count);
 // Bytes as a readable text: control bytes as \n, \r, \t or \xHH; at most limit bytes are looked at.
 std::string Text_Escape(std::string_view bytes, size_t limit);
 std::string

@@ -30,7 +30,7 @@ Node* Tree_Get(const std::string& path)
     Node& node = tr.nodes[path];
     node.path = path;
     node.type = Values_Type(path);
-    node.initial = Tree_Start(node.type);
+    node.initial = Values_Start(path, node.type);
     node.value = node.initial;
     return &node;
 }
@@ -64,19 +64,6 @@ std::string Tree_NumberText(const ValueType& type, double number)
     return strtod(text.c_str(), nullptr) == 0 && text[0] == '-' ? text.substr(1) : text;
 }
 
-std::string Tree_Start(const ValueType& type)
-{
-    switch (type.kind) {
-    case KIND_BOOL:
-    case KIND_ACTION: return "false";
-    case KIND_WORD: return type.words.empty() ? "" : type.words.front();
-    case KIND_NUM: return Tree_NumberText(type, 0);
-    case KIND_ANY:
-    case KIND_LIST: break;
-    }
-    return "";
-}
-
 // "[-][[h:]m:]s:]f" in frames: what a time box sends, where the value itself is a count.
 static bool tree_frames(const std::string& text, double* frames)
 {
@@ -100,8 +87,7 @@ static bool tree_frames(const std::string& text, double* frames)
     return true;
 }
 
-// The value that a type makes of what was asked for; false when it can't be.
-static bool tree_accept(const ValueType& type, const std::string& wanted, std::string* value)
+bool Tree_Accepts(const ValueType& type, const std::string& wanted, std::string* value)
 {
     *value = wanted;
     double number = 0;
@@ -117,9 +103,52 @@ static bool tree_accept(const ValueType& type, const std::string& wanted, std::s
         *value = Tree_NumberText(type, number);
         return true;
     case KIND_ANY:
+    case KIND_ORDER:
     case KIND_LIST: break;
     }
     return true;
+}
+
+// "diff8.00": so many hundredths. A panel counts the steps of a knob while the value moves on under
+// it; those of a fast turn go far beyond the limits.
+static bool tree_is_relative(const Node& node, const std::string& wanted, double* hundredths)
+{
+    return node.type.kind == KIND_NUM && Text_Begins(wanted, "diff") &&
+           Text_ToNumber(wanted.substr(4), hundredths);
+}
+
+static std::string tree_moved(const Node& node, double hundredths)
+{
+    double number = 0;
+    (void)Text_ToNumber(node.value, &number); // no number yet: from 0
+    return Tree_NumberText(node.type, number + hundredths / 100);
+}
+
+// Keys 1 to 4 have an order among themselves, and so have keys 5 to 8.
+static bool tree_is_order(const std::string& list, const std::string& wanted)
+{
+    constexpr size_t GROUP = 4;
+    auto have = Text_Split(list, ','), want = Text_Split(wanted, ',');
+    if (have.size() != want.size())
+        return false;
+    for (size_t first = 0; first < have.size(); first += GROUP) {
+        const size_t last = std::min(first + GROUP, have.size());
+        std::sort(have.begin() + long(first), have.begin() + long(last));
+        std::sort(want.begin() + long(first), want.begin() + long(last));
+    }
+    return have == want;
+}
+
+static bool tree_accept(const Node& node, const std::string& wanted, std::string* value)
+{
+    double hundredths = 0;
+    if (tree_is_relative(node, wanted, &hundredths)) {
+        *value = tree_moved(node, hundredths);
+        return true;
+    }
+    if (node.type.kind == KIND_ORDER && !tree_is_order(node.initial, wanted))
+        return false;
+    return Tree_Accepts(node.type, wanted, value);
 }
 
 static std::string_view tree_key(const Node& node, std::string_view row)
@@ -155,7 +184,7 @@ PutResult Tree_Put(Node& node, const std::string& wanted, std::string* tally)
     if (node.type.kind == KIND_LIST)
         return tree_put_row(node, wanted, tally);
     std::string value;
-    if (!tree_accept(node.type, wanted, &value))
+    if (!tree_accept(node, wanted, &value))
         return PUT_REFUSED;
     const bool is_changed = value != node.value;
     node.value = value;
@@ -193,7 +222,7 @@ void Tree_SetKind(const std::string& path, ValueKind kind)
     if (!node)
         return;
     node->type = {.kind = kind, .words = {}};
-    node->initial = Tree_Start(node->type);
+    node->initial = Values_Start(path, node->type);
     node->value = node->initial;
 }
 

@@ -13,6 +13,7 @@ enum ValueKind {
     KIND_WORD,   // one of the words, or "null": released
     KIND_NUM,    // a number that is clamped to the limits
     KIND_ACTION, // "true" makes it happen and falls back by itself
+    KIND_ORDER,  // the fields of its default in another order: "2,1,3,4"
     KIND_LIST,   // rows; the first field of a row, or the first two, are its key
 };
 
@@ -52,8 +53,8 @@ const std::map<std::string, Node>& Tree_All();
 void Tree_Clear();
 
 // --- Changing; nobody is told yet ---
-// What the client asks for, within the type. *tally gets the value to tell: the new one or, when
-// refused, the old.
+// What the client asks for, within the type; "diff8.00" moves the value. *tally gets the
+// value to tell: the new one or, when refused, the old.
 PutResult Tree_Put(Node& node, const std::string& wanted, std::string* tally);
 bool Tree_Default(Node& node);                                       // true when it changed
 void Tree_Preset(const std::string& path, const std::string& value); // value and default
@@ -61,7 +62,9 @@ void Tree_Preset(const std::string& path, const std::string& value); // value an
 void Tree_SetKind(const std::string& path, ValueKind kind);
 void Tree_SetList(const std::string& path, const std::vector<std::string>& rows, int key_fields);
 std::string Tree_NumberText(const ValueType& type, double number); // clamped and rounded
-std::string Tree_Start(const ValueType& type); // the default that follows from a type
+// The value that a type makes of a text that isn't relative; false when it can't be. Whether an
+// order is one is up to its node.
+bool Tree_Accepts(const ValueType& type, const std::string& wanted, std::string* value);
 
 // --- Telling ---
 void Tree_Follow(Node& node, int client); // twice is once

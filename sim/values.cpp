@@ -1,5 +1,6 @@
 #include "values.h"
 #include "log.h"
+#include "path_kinds.h"
 #include "text.h"
 #include <algorithm>
 #include <fstream>
@@ -11,24 +12,26 @@ static struct {
 
 static constexpr int DECIMALS_MAX = 6;
 
-static bool values_parse(const std::vector<std::string>& field, ValueType* type)
+bool Values_ParseType(const std::vector<std::string>& field, ValueType* type)
 {
-    const std::string& kind = field[1];
+    const std::string& kind = field[0];
     long decimals = 0;
     if (kind == "bool") {
         type->kind = KIND_BOOL;
     } else if (kind == "action") {
         type->kind = KIND_ACTION;
+    } else if (kind == "order") {
+        type->kind = KIND_ORDER;
     } else if (kind == "any") {
         type->kind = KIND_ANY;
-    } else if (kind == "word" && field.size() == 3) {
+    } else if (kind == "word" && field.size() == 2) {
         type->kind = KIND_WORD;
-        type->words = Text_Split(field[2], ',');
+        type->words = Text_Split(field[1], ',');
         const bool is_open = std::count(type->words.begin(), type->words.end(), "*") > 0;
         if (is_open)
             *type = {}; // a button that takes any word
-    } else if (kind == "num" && field.size() == 5 && Text_ToNumber(field[2], &type->min) &&
-               Text_ToNumber(field[3], &type->max) && Text_ToInt(field[4], &decimals) &&
+    } else if (kind == "num" && field.size() == 4 && Text_ToNumber(field[1], &type->min) &&
+               Text_ToNumber(field[2], &type->max) && Text_ToInt(field[3], &decimals) &&
                decimals >= 0 && decimals <= DECIMALS_MAX) {
         type->kind = KIND_NUM;
         type->decimals = int(decimals);
@@ -89,7 +92,7 @@ bool Values_Load(const char* file)
             continue;
         }
         ValueType type;
-        if (!values_parse(field, &type)) {
+        if (!Values_ParseType({field.begin() + 1, field.end()}, &type)) {
             Log_Note("%s:%d: not a type: %.100s", file, number, line.c_str());
             continue;
         }
@@ -101,12 +104,40 @@ bool Values_Load(const char* file)
     return true;
 }
 
-ValueType Values_Type(const std::string& path)
+static const ValueType* values_listed(const std::string& path)
 {
     auto found = vl.types.find(path);
     // The pages of a bank's sub side are those of its main side under another name.
     const size_t sub = path.find(" SUB@");
     if (found == vl.types.end() && sub != std::string::npos)
         found = vl.types.find(std::string(path).erase(sub, 4));
-    return found == vl.types.end() ? ValueType{} : found->second;
+    return found == vl.types.end() || found->second.kind == KIND_ANY ? nullptr : &found->second;
+}
+
+ValueType Values_Type(const std::string& path)
+{
+    const ValueType* const listed = values_listed(path);
+    return listed ? *listed : PathKinds_Type(path);
+}
+
+// The value that a kind begins with when nothing else is known.
+static std::string values_first(const ValueType& type)
+{
+    switch (type.kind) {
+    case KIND_BOOL:
+    case KIND_ACTION: return "false";
+    case KIND_WORD: return type.words.empty() ? "" : type.words.front();
+    case KIND_NUM: return Tree_NumberText(type, 0);
+    case KIND_ANY:
+    case KIND_ORDER:
+    case KIND_LIST: break;
+    }
+    return "";
+}
+
+std::string Values_Start(const std::string& path, const ValueType& type)
+{
+    const std::string start = PathKinds_Start(path);
+    std::string value;
+    return !start.empty() && Tree_Accepts(type, start, &value) ? value : values_first(type);
 }

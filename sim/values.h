@@ -5,4 +5,10 @@
 #include "tree.h"
 
 bool Values_Load(const char* file); // false when it can't be read; a bad line costs a log line
-ValueType Values_Type(const std::string& path); // KIND_ANY for a path that is not listed
+// What the file says; of a path that it doesn't list or knows nothing of, what the switcher knows
+// itself (path_kinds). KIND_ANY for all others.
+ValueType Values_Type(const std::string& path);
+// The value that a path of this type has in a switcher that nobody has touched.
+std::string Values_Start(const std::string& path, const ValueType& type);
+// One type from its fields behind the path; false when it is none.
+bool Values_ParseType(const std::vector<std::string>& fields, ValueType* type);

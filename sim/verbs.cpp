@@ -1,4 +1,5 @@
 #include "verbs.h"
+#include "dme_channels.h"
 #include "link.h"
 #include "log.h"
 #include "rules.h"
@@ -6,6 +7,7 @@
 #include "system.h"
 #include "text.h"
 #include "timeline.h"
+#include "transition.h"
 #include "tree.h"
 #include <algorithm>
 #include <climits>
@@ -82,6 +84,8 @@ static constexpr Owner owners[] = {
     {"Macro@", Store_Put},
     {"Register@All Delete@", Store_Put},
     {"MPE@Fx@Channel@Reference", System_PutMpe},
+    {"", Dme_Put},
+    {"", Transition_Put},
 };
 
 static bool verb_follows(const Node& node, int client)
@@ -176,7 +180,7 @@ static void verb_default(int client, const std::string& path, const std::string&
     if (!node && !is_group)
         node = Tree_Get(path);
     for (Node* part : group)
-        if (part != node && verb_reset(*part))
+        if (part != node && !Transition_IsState(part->path) && verb_reset(*part))
             verb_tell_all_of(*part, 0);
     if (!node)
         return;

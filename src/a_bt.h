@@ -160,6 +160,7 @@ int bt_tly_edge(BT_MEM* b, int i, const char* path, const char* value);
 int bt_tly_edgeadj(BT_MEM* b, int i, const char* path, const char* value);
 int bt_tly_keydrop(BT_MEM* b, int i, const char* path, const char* value);
 int bt_tly_freeze(BT_MEM* b, int i, const char* path, const char* value);
+int bt_tly_corner_pinning(BT_MEM* b, int i, const char* path, const char* value);
 
 // --- Between a_bt and its families ---
 BT_MEM* bt_first();      // the buttons in table order, ended by an id below 1
@@ -178,6 +179,8 @@ void bt_follow_knobs(BT_MEM* b,
 // The table that a numbered link stands for right now, from formats, aspects and the tallies of b;
 // null when the number has no case.
 const NB_TBL* special_knob_table(const BT_MEM* b);
+// All tables that a number may stand for, each once, into tables: at most size. Returns how many.
+int special_knob_tables(int number, const NB_TBL** tables, int size);
 int special_knob(BT_MEM* b); // choose and show it
 
 // Draw the caption with the margins of the type; face gives the size that the text must keep to.

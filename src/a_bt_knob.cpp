@@ -1,9 +1,12 @@
 // Knob links that are a number: the table is chosen when the button takes the knobs, and again when
-// a tally that it depends on has changed. A case is a row: number and chooser.
-#include "a_bt.h"
+// a tally that it depends on has changed. The cases stand in a_bt_knob_key, _wipe, _dme and
+// _global.
+#include "a_bt_knob_private.h"
 #include "global.h"
-#include "page_table/nb_edge.h"
+#include "me_config.h"
+#include "page.h"
 #include <cstring>
+#include <iterator>
 #include "safeguards.h"
 
 const NB_TBL special_knob_marks[256] = {};
@@ -17,50 +20,126 @@ int SpecialKnobNumber(const NB_TBL* nb)
     return int((at - first) / sizeof(NB_TBL));
 }
 
-static bool is(const char* tally, const char* value)
-{
-    return strcmp(tally, value) == 0;
-}
+// --- The bank and key of the page ---
 
-// Border of a key. Tallies: 1 key type, 2 separate edge, 3 and 4 that together halve the range.
-// A pattern key has one plain border; a separate edge has a width a side. Without a tally the edge
-// counts as separate.
-static const NB_TBL* key_edge_border(const BT_MEM* b)
+namespace
 {
-    if (is(b->tally[1], "Wipe Pattern") || is(b->tally[1], "Key Wipe Pattern"))
-        return nb_me_key_edge_edge_border3;
-    const bool separate = !is(b->tally[2], "false");
-    const bool half = is(b->tally[3], "true") && is(b->tally[4], "false");
-    if (separate)
-        return half ? nb_me_key_edge_edge_border2h : nb_me_key_edge_edge_border2;
-    return half ? nb_me_key_edge_edge_border1h : nb_me_key_edge_edge_border1;
-}
-
-// Border of an effects channel: its width counts in picture widths, which differ by format and
-// aspect.
-static const NB_TBL* dme_border(const BT_MEM*)
-{
-    const bool wide = SYS_ScreenAspect == 1;
-    if (SYS_SignalFormat == 0)
-        return wide ? nb_dme_edge_bordercrop_border2 : nb_dme_edge_bordercrop_border1;
-    return wide ? nb_dme_edge_bordercrop_border4 : nb_dme_edge_bordercrop_border3;
-}
-
-static constexpr struct {
-    int number;
-    const NB_TBL* (*chooser)(const BT_MEM*);
-} special_knobs[] = {
-    {1, key_edge_border},
-    {5, dme_border},
+struct BankOfPage {
+    const char* word;
+    int aspect; // its place in SYS_RefSwrScreenAspect
+    int me;     // 0 P/P, 1..5
 };
+} // namespace
+
+static constexpr BankOfPage banks[] = {
+    {"M/E-1", 0, 1}, {"M/E-2", 1, 2}, {"M/E-3", 2, 3},
+    {"M/E-4", 3, 4}, {"M/E-5", 4, 5}, {"PGM/PST", 5, 0},
+};
+
+// A page without a bank counts as one of the first.
+static const BankOfPage& bank_of_page()
+{
+    if (GL_NowTree && GL_NowTree[0])
+        for (const BankOfPage& b : banks)
+            if (strcmp(GL_NowTree[0], b.word) == 0)
+                return b;
+    return banks[0];
+}
+
+// 1..8 for "Key1".."Key8" and "DSK1".."DSK8", 0 for everything else.
+static int key_of_page()
+{
+    const char* word = GL_NowTree && GL_NowTree[0] ? GL_NowTree[1] : nullptr;
+    if (!word || strlen(word) != 4 || (strncmp(word, "Key", 3) && strncmp(word, "DSK", 3)))
+        return 0;
+    const int key = word[3] - '0';
+    return key >= 1 && key <= 8 ? key : 0;
+}
+
+// --- Questions ---
+
+int ask_screen_wide(const BT_MEM*)
+{
+    return SYS_ScreenAspect == 1;
+}
+
+int ask_bank_wide(const BT_MEM*)
+{
+    return SYS_RefSwrScreenAspect[bank_of_page().aspect] == 1;
+}
+
+int ask_hd(const BT_MEM*)
+{
+    return SYS_SignalFormat != 0;
+}
+
+int ask_key_turns(const BT_MEM*)
+{
+    return GL_ProcKeyRotationInfo(bank_of_page().me, key_of_page()) != 0;
+}
+
+static bool ends_with(const char* text, const char* end)
+{
+    const size_t length = strlen(text), tail = strlen(end);
+    return length >= tail && strcmp(text + length - tail, end) == 0;
+}
+
+static const char* tally_of(const BT_MEM* b, const char* path)
+{
+    for (int i = 1; i < BT_COMMANDS; i++)
+        if (ends_with(b->cmd[i], path))
+            return b->tally[i];
+    return "";
+}
+
+static int ask_tally(const BT_MEM* b, const KnobQuestion& q)
+{
+    const char* tally = tally_of(b, q.path);
+    for (int n = 0; n + 1 < q.answers; n++)
+        if (strcmp(tally, q.words[n]) == 0)
+            return n + 1;
+    return 0;
+}
+
+// --- Cases ---
+
+static constexpr const KnobCase* all_cases[] = {knob_cases_key, knob_cases_wipe, knob_cases_dme,
+                                                knob_cases_global};
+
+static const KnobCase* case_of(int number)
+{
+    for (const KnobCase* c : all_cases)
+        for (; c->number >= 1; c++)
+            if (c->number == number)
+                return c;
+    return nullptr;
+}
 
 const NB_TBL* special_knob_table(const BT_MEM* b)
 {
-    const int number = SpecialKnobNumber(b->nb);
-    for (const auto& s : special_knobs)
-        if (s.number == number)
-            return s.chooser(b);
-    return nullptr;
+    const KnobCase* c = case_of(SpecialKnobNumber(b->nb));
+    if (!c)
+        return nullptr;
+    int n = 0;
+    for (const KnobQuestion& q : c->by)
+        if (q.answers)
+            n = n * q.answers + (q.ask ? q.ask(b) : ask_tally(b, q));
+    return c->tables.table[n];
+}
+
+int special_knob_tables(int number, const NB_TBL** tables, int size)
+{
+    const KnobCase* c = case_of(number);
+    int count = 0;
+    for (int i = 0; c && i < c->tables.count && count < size; i++) {
+        const NB_TBL* table = c->tables.table[i];
+        bool is_new = table != nullptr;
+        for (int k = 0; k < count; k++)
+            is_new = is_new && tables[k] != table;
+        if (is_new)
+            tables[count++] = table;
+    }
+    return count;
 }
 
 int special_knob(BT_MEM* b)

@@ -185,3 +185,27 @@ int bt_tly_freeze(BT_MEM* b, int i, const char*, const char* value)
     depend(b, i, too_large || any_condition(b));
     return i != 0;
 }
+
+// --- Corner pinning ---
+
+// The mode changes how far a corner may go. Its boxes are the same in all modes: a shown column
+// keeps its values, also those that the operator is turning, and gets the limits of its new table.
+static void follow_limits(BT_MEM* b)
+{
+    const NB_TBL* nb = special_knob_table(b);
+    for (; nb && nb->id >= 1; nb++)
+        if (NB_AddMinMax(nb->id, nb->min, nb->max) < 0) {
+            special_knob(b);
+            return;
+        }
+}
+
+int bt_tly_corner_pinning(BT_MEM* b, int i, const char*, const char* value)
+{
+    if (i == 0)
+        return own_tally(b, value);
+    bt_show_enabled(b, any_condition(b));
+    if (bt_owns_knobs(b))
+        follow_limits(b);
+    return 1;
+}

@@ -188,13 +188,21 @@ static const char* text_or_empty(const char* text)
     return text ? text : "";
 }
 
+// What is too wide for its place takes the small font before it is cut.
+static int font_for(const char* text, int room)
+{
+    return int(TDL_GetSymbolWidth(text, st_font())) > room ? FONT_SMALL : st_font();
+}
+
 int st_drw_status_strings(const ST_MEM* cell, ST_VAL* val)
 {
+    const int room = cell->x2 - cell->x1 - 25;
     for (int i = 0; i < lines_of(val); i++) {
+        const char* text = text_or_empty(val->st_str[i]);
         if (val->invert[i])
             put_bar(cell, i);
-        TDL_SymbolWS(cell->x1 + 10, line_y(cell, i), cell->x2 - cell->x1 - 25,
-                     text_or_empty(val->st_str[i]), st_font(), val->invert[i] ? BLACK : WHITE);
+        TDL_SymbolWS(cell->x1 + 10, line_y(cell, i), room, text, font_for(text, room),
+                     val->invert[i] ? BLACK : WHITE);
         if (val->grayout[i])
             veil_line(cell, i, val->selected);
     }
@@ -210,12 +218,11 @@ static int widest_label(const ST_VAL* val)
     return widest;
 }
 
-// Values are right aligned, so that their decimal points stand in a column. A long one takes the
-// small font before it is cut: half a number is a wrong number.
+// Values are right aligned, so that their decimal points stand in a column.
 static void put_value(const ST_VAL* val, int y, const char* text, unsigned col)
 {
     const int room = val->v_right - val->v_left;
-    const int font = int(TDL_GetSymbolWidth(text, st_font())) > room ? FONT_SMALL : st_font();
+    const int font = font_for(text, room);
     const int width = int(TDL_GetSymbolWidth(text, font));
     if (width > room)
         TDL_SymbolWS(val->v_left, y, room, text, font, col);

@@ -240,13 +240,18 @@ TallyRoute tally_4k_mode(const Tally& t)
     return TallyRoute::Pass;
 }
 
-// One number a board, with commas between them.
+// One number a board, with commas between them: in how many banks it works. A board has eight keys
+// and gives them to its bank, or to two; in a finer split each bank is left with four. The boards
+// are those of M/E-1 to M/E-5; the program bank is never split.
 TallyRoute tally_me_split(const Tally& t)
 {
     constexpr int BOARDS = int(std::size(GL_BoardMESplit));
+    constexpr int MAX_WITH_ALL_KEYS = 2;
     Parts p;
     const int n = SplitValue(p, t.value, BOARDS);
-    for (int i = 0; i < BOARDS; i++)
+    for (int i = 0; i < BOARDS; i++) {
         GL_BoardMESplit[i] = i < n ? Decimal(p.v[i]) : 0;
+        GL_KeyMax[i] = GL_BoardMESplit[i] > MAX_WITH_ALL_KEYS ? 4 : 8;
+    }
     return TallyRoute::Pass;
 }

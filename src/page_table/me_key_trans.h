@@ -1,7 +1,10 @@
 // me_key_trans: how a key comes and goes, and its video process. The tab has two forms: on and off share a setting, or
 // each has its own; which of them opens is a matter of the installation. Written for M/E-1, Key1.
 #pragma once
-#include "me_key_mask.h"
+#include "me_banks.h"
+#include "patterns.h"
+#include "pc_me_key_lower.h"
+#include "st_me_key.h"
 
 inline constexpr NB_TBL nb_me_key_trans_on[] = { // frames
     {.id = 1, .caption = "ON Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Transition Rate"},
@@ -24,11 +27,13 @@ inline constexpr NB_TBL nb_me_key_videoproc[] = { // gain in percent, hue in deg
 static_assert(BoxesAreSound(nb_me_key_trans_on) && BoxesAreSound(nb_me_key_trans_off));
 static_assert(BoxesAreSound(nb_me_key_trans_same) && BoxesAreSound(nb_me_key_videoproc));
 
-constexpr BT_TBL VideoProcess(int id)
-{
-    return Toggle({.id = id, .caption = "Video\nProcess", .group = "Video Proc",
-                   .cmd = {"~2@Video Process@Video Process#*"}, .nb = nb_me_key_videoproc});
-}
+// What both forms have. A key is cut on or off by its state, and comes or goes by the transition with "Auto Trans".
+#define KEY_ON(place)        ActionState({.id = place, .caption = "Key ON", .group = "Key ON/OFF", .cmd = {"~2@Status@Key ON#*"}})
+#define AUTO_TRANS(place)    Action({.id = place, .caption = "Auto\nTrans", .group = "Key ON/OFF", .cmd = {"~@Auto Trans#*"}})
+#define NORMAL_REVERSE(place) Radio({.id = place, .caption = "Normal/\nReverse", .group = "Direction", .cmd = {"LOCAL@M/E@Key@Transition@Direction#Normal/Reverse"}})
+#define REVERSE(place)       Radio({.id = place, .caption = "Reverse", .group = "Direction", .cmd = {"LOCAL@M/E@Key@Transition@Direction#Reverse"}})
+#define VIDEO_PROCESS(place) Toggle({.id = place, .caption = "Video\nProcess", .group = "Video Proc", \
+                                     .cmd = {"~2@Video Process@Video Process#*"}, .nb = nb_me_key_videoproc})
 
 // A setting that on and off share is kept as that of on.
 inline constexpr BT_TBL bt_me_key_trans_same[] = {
@@ -36,12 +41,16 @@ inline constexpr BT_TBL bt_me_key_trans_same[] = {
     Radio({.id = 18, .caption = "Mix",       .group = "Transition Type", .cmd = {"~@ON Transition Type#Mix"}, .nb = nb_me_key_trans_same}),
     Radio({.id = 19, .caption = "Wipe",      .group = "Transition Type", .cmd = {"~@ON Transition Type#Wipe"}, .nb = nb_me_key_trans_same}),
     Radio({.id = 20, .caption = "DME Wipe",  .group = "Transition Type", .cmd = {"~@ON Transition Type#DME Wipe"}, .nb = nb_me_key_trans_same}),
-    Radio({.id = 21, .caption = "Stinger",   .group = "Transition Type", .cmd = {"~@ON Transition Type#Stinger"}}),
-    Radio({.id = 33, .caption = "Normal",    .group = "Direction", .cmd = {"~@Direction#Normal", "~@ON Transition Type#Cut,Mix,Stinger"}}),
-    Radio({.id = 34, .caption = "Normal/\nReverse", .group = "Direction", .cmd = {"~@Direction#Normal/Reverse", "~@ON Transition Type#Cut,Mix,Stinger"}}),
-    Radio({.id = 35, .caption = "Reverse",   .group = "Direction", .cmd = {"~@Direction#Reverse", "~@ON Transition Type#Cut,Mix,Stinger"}}),
-    Jump ({.id = 37, .caption = "Pattern\nSelect", .group = "Wipe", .cmd = {"#+11170004", "~@ON Transition Type#!Wipe"}}),
-    VideoProcess(49),
+    Radio({.id = 21, .caption = "Stinger",   .group = "Transition Type", .cmd = {"~@ON Transition Type#Stinger"}, .nb = nb_me_key_trans_same}),
+    NORMAL_REVERSE(33),
+    REVERSE(34),
+    Jump ({.id = 36, .caption = "Pattern\nSelect", .group = "Wipe/DME Wipe", .cmd = {"LOCAL@M/E@Key@Transition@ON Pattern"}}),
+    Jump ({.id = 37, .caption = "DME Wipe\nAdjust", .group = "Wipe/DME Wipe", .cmd = {"#+11170003"}}),
+    KEY_ON(49),
+    AUTO_TRANS(50),
+    Knobs({.id = 51, .caption = "Rate",      .group = "Key ON/OFF", .nb = nb_me_key_trans_same}),
+    VIDEO_PROCESS(53),
+    Action({.id = 54, .caption = "Unity",    .group = "Video Proc", .cmd = {"~2@Video Process@Unity#*", "~2@Video Process@Video Process#false"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_same));
@@ -51,34 +60,64 @@ inline constexpr BT_TBL bt_me_key_trans_independ[] = {
     Radio({.id = 18, .caption = "Mix",       .group = "ON Transition", .cmd = {"~@ON Transition Type#Mix"}, .nb = nb_me_key_trans_on}),
     Radio({.id = 19, .caption = "Wipe",      .group = "ON Transition", .cmd = {"~@ON Transition Type#Wipe"}, .nb = nb_me_key_trans_on}),
     Radio({.id = 20, .caption = "DME Wipe",  .group = "ON Transition", .cmd = {"~@ON Transition Type#DME Wipe"}, .nb = nb_me_key_trans_on}),
-    Radio({.id = 21, .caption = "Stinger",   .group = "ON Transition", .cmd = {"~@ON Transition Type#Stinger"}}),
-    Jump ({.id = 22, .caption = "Pattern\nSelect", .group = "ON Wipe", .cmd = {"#+11170004", "~@ON Transition Type#!Wipe"}}),
+    Radio({.id = 21, .caption = "Stinger",   .group = "ON Transition", .cmd = {"~@ON Transition Type#Stinger"}, .nb = nb_me_key_trans_on}),
+    Jump ({.id = 22, .caption = "Pattern\nSelect", .group = "ON Transition", .cmd = {"LOCAL@M/E@Key@Transition@ON Pattern"}}),
     Radio({.id = 33, .caption = "Cut",       .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Cut"}}),
     Radio({.id = 34, .caption = "Mix",       .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Mix"}, .nb = nb_me_key_trans_off}),
     Radio({.id = 35, .caption = "Wipe",      .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Wipe"}, .nb = nb_me_key_trans_off}),
     Radio({.id = 36, .caption = "DME Wipe",  .group = "OFF Transition", .cmd = {"~@OFF Transition Type#DME Wipe"}, .nb = nb_me_key_trans_off}),
-    Radio({.id = 37, .caption = "Stinger",   .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Stinger"}}),
-    Jump ({.id = 38, .caption = "Pattern\nSelect", .group = "OFF Wipe", .cmd = {"#+11170005", "~@OFF Transition Type#!Wipe"}}),
-    VideoProcess(49),
-    Radio({.id = 51, .caption = "Normal",    .group = "Direction", .cmd = {"~@Direction#Normal"}}),
-    Radio({.id = 52, .caption = "Normal/\nReverse", .group = "Direction", .cmd = {"~@Direction#Normal/Reverse"}}),
-    Radio({.id = 53, .caption = "Reverse",   .group = "Direction", .cmd = {"~@Direction#Reverse"}}),
+    Radio({.id = 37, .caption = "Stinger",   .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Stinger"}, .nb = nb_me_key_trans_off}),
+    Jump ({.id = 38, .caption = "Pattern\nSelect", .group = "OFF Transition", .cmd = {"LOCAL@M/E@Key@Transition@OFF Pattern"}}),
+    KEY_ON(49),
+    AUTO_TRANS(50),
+    NORMAL_REVERSE(51),
+    REVERSE(52),
+    Jump ({.id = 53, .caption = "DME Wipe\nAdjust", .group = "DME Wipe", .cmd = {"#+11170003"}}),
+    VIDEO_PROCESS(54),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_independ));
+#undef KEY_ON
+#undef AUTO_TRANS
+#undef NORMAL_REVERSE
+#undef REVERSE
+#undef VIDEO_PROCESS
 
 // --- Patterns: of a key that is itself a wipe, of its coming and of its going ---
 
+inline constexpr NB_TBL nb_me_key_trans_keywipe[] = {
+    {.id = 1, .caption = "Size",    .type = NB_2, .min = 0, .max = 100, .cmd = "~2@Type@Key Type@Key Wipe Pattern@Size"},
+    {.id = 2, .caption = "Soft",    .type = NB_2, .min = 0, .max = 100, .cmd = "~2@Type@Key Type@Key Wipe Pattern@Soft"},
+    {.id = 3, .caption = "Density", .type = NB_2, .min = 0, .max = 100, .cmd = "~2@Type@Key Type@Key Wipe Pattern@Density"},
+    NB_END,
+};
+inline constexpr NB_TBL nb_me_key_trans_onwipe[] = {
+    {.id = 1, .caption = "ON Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@ON Transition Rate"},
+    {.id = 2, .caption = "Soft",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~3@ON Wipe@Soft"},
+    {.id = 3, .caption = "H Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@ON Wipe@H Position"},
+    {.id = 4, .caption = "V Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@ON Wipe@V Position"},
+    NB_END,
+};
+inline constexpr NB_TBL nb_me_key_trans_offwipe[] = {
+    {.id = 1, .caption = "OFF Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@OFF Transition Rate"},
+    {.id = 2, .caption = "Soft",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~3@OFF Wipe@Soft"},
+    {.id = 3, .caption = "H Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@OFF Wipe@H Position"},
+    {.id = 4, .caption = "V Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@OFF Wipe@V Position"},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_me_key_trans_keywipe));
+static_assert(BoxesAreSound(nb_me_key_trans_onwipe) && BoxesAreSound(nb_me_key_trans_offwipe));
+
 inline constexpr PS_TBL ps_me_key_trans_keywipe = {
-    .cmd = "~2@Type@Key Wipe Pattern@Pattern", .init_nb = NB_Non, .init_nb_caption = "Key Wipe"};
-inline constexpr PS_TBL ps_me_key_trans_on = {.cmd = "~3@ON Wipe Pattern", .init_nb = NB_Non, .init_nb_caption = "ON Wipe"};
-inline constexpr PS_TBL ps_me_key_trans_off = {.cmd = "~3@OFF Wipe Pattern", .init_nb = NB_Non, .init_nb_caption = "OFF Wipe"};
+    .cmd = "~2@Type@Key Wipe Pattern@Pattern", .init_nb = nb_me_key_trans_keywipe, .init_nb_caption = "Key Wipe"};
+inline constexpr PS_TBL ps_me_key_trans_on = {.cmd = "~3@ON Wipe Pattern", .init_nb = nb_me_key_trans_onwipe, .init_nb_caption = "ON Wipe"};
+inline constexpr PS_TBL ps_me_key_trans_off = {.cmd = "~3@OFF Wipe Pattern", .init_nb = nb_me_key_trans_offwipe, .init_nb_caption = "OFF Wipe"};
 
 inline constexpr MePage me_key_trans_pages[] = {
     {.page = {.id = 0x11170100, .tree = {"M/E-1", "Key1", "Transition"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Buttons(bt_me_key_trans_same), Boxes(NB_Non), Cells(st_me_key)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Buttons(bt_me_key_trans_same), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_trans_same)}}},
     {.page = {.id = 0x11170200, .tree = {"M/E-1", "Key1", "Transition"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Buttons(bt_me_key_trans_independ), Boxes(NB_Non), Cells(st_me_key)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Buttons(bt_me_key_trans_independ), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_trans_independ)}}},
     {.page = {.id = 0x11170002, .tree = {"M/E-1", "Key1", "Transition", "Key Wipe Ptn"},
               .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Boxes(NB_Non), Patterns(ps_me_key_trans_keywipe)}}},
     {.page = {.id = 0x11170004, .tree = {"M/E-1", "Key1", "Transition", "ON Wipe Ptn"},

@@ -29,21 +29,28 @@ inline constexpr MeTab<HF_TBL> me_key_tabs[] = {
                   "~2@Edge@Key Drop#true"}}},
     {{.id = 3, .caption = "Main Mask", .page = 0x11130000, .statcmd = {"~2@Main Mask@Main Mask#true"}}},
     {{.id = 4, .caption = "Sub Mask",  .page = 0x11140000, .statcmd = {"~2@Sub Mask@Sub Mask#true"}}},
-    {{.id = 5, .caption = "Resizer",   .page = 0x11150000}},
-    {{.id = 6, .caption = "Processed\nKey", .page = 0x11160000}},
-    {{.id = 7, .caption = "Transition/\nVideo\nProcess", .page = 0x11170000}},
+    {{.id = 5, .caption = "Resizer",   .page = 0x11150000, .statcmd = {"~2@Resizer@Resizer#true"}}},
+    {{.id = 6, .caption = "Processed\nKey", .page = 0x11160000, .statcmd = {"~2@Processed Key@Processed Key#true"}}},
+    {{.id = 7, .caption = "Transition/\nVideo\nProcess", .page = 0x11170000, .statcmd = {"~2@Video Process@Video Process#true"}}},
 };
 
 // The sub side has a wipe of one pattern, and none of what the keys of a bank share.
+#define ST_MODIFIED(modify) {modify "@Modulation#H", modify "@Modulation#V", modify "@Modulation#H&V", modify "@Speed#true", \
+                             modify "@Pairing#true", modify "@Split#true"}
 inline constexpr MeTab<HF_TBL> me_wipe_tabs[] = {
-    {{.id = 1, .caption = "Main\nPattern",    .page = 0x11510000}},
-    {{.id = 2, .caption = "Sub\nPattern",     .page = 0x11520000}, MAIN},
-    {{.id = 3, .caption = "Pattern\nMix",     .page = 0x11530000, .statcmd = {"~2@Pattern Mix@Pattern Mix#true"}}, MAIN},
-    {{.id = 4, .caption = "Edge/\nDirection", .page = 0x11540000, .statcmd = {"~2@Edge@Border#true", "~2@Edge@Soft#true"}}},
-    {{.id = 5, .caption = "Main\nModify",     .page = 0x11550000}},
-    {{.id = 6, .caption = "Sub\nModify",      .page = 0x11560000}, MAIN},
+    {{.id = 1, .caption = "Main\nPattern",    .page = 0x11510000, .statcmd = {"~2@Main Pattern@Position#true", "~2@Main Pattern@Auto Center#true"}}},
+    {{.id = 2, .caption = "Sub\nPattern",     .page = 0x11520000, .statcmd = {"~2@Sub Pattern@Position#true", "~2@Sub Pattern@Auto Center#true"}}, MAIN},
+    {{.id = 3, .caption = "Pattern\nMix",     .page = 0x11530000,
+      .statcmd = {"~2@Pattern Mix@Pattern Mix#Mix", "~2@Pattern Mix@Pattern Mix#Additive Mix", "~2@Pattern Mix@Pattern Mix#NAM",
+                  "~2@Pattern Mix@Pattern Mix#Morphing", "~2@Pattern Mix@Pattern Mix#Replicate"}}, MAIN},
+    {{.id = 4, .caption = "Edge/\nDirection", .page = 0x11540000,
+      .statcmd = {"~2@Edge@Border#true", "~2@Edge@Soft#true", "~2@Direction@Reverse#true", "~2@Direction@Norm/Rev#true",
+                  "~2@Direction@Pattern Limit#true"}}},
+    {{.id = 5, .caption = "Main\nModify",     .page = 0x11550000, .statcmd = ST_MODIFIED("~2@Main Modify")}},
+    {{.id = 6, .caption = "Sub\nModify",      .page = 0x11560000, .statcmd = ST_MODIFIED("~2@Sub Modify")}, MAIN},
     {{.id = 7, .caption = "Wipe\nSnapshot",   .page = 0x11570000}},
 };
+#undef ST_MODIFIED
 inline constexpr MeTab<HF_TBL> me_dmewipe_tabs[] = {
     {{.id = 1, .caption = "Pattern\nSelect",   .page = 0x11610000}},
     {{.id = 2, .caption = "Pattern\nModifier", .page = 0x11630000,

@@ -3,14 +3,15 @@
 #pragma once
 #include "rows.h"
 
-#define ST_WIPE_PATTERN(wipe, pattern) {wipe "@" pattern "@Pattern", wipe "@" pattern "@Enable"}
+#define ST_WIPE_PATTERN(wipe, pattern) {wipe "@" pattern "@Pattern"}
 #define ST_WIPE_POSITION(wipe, pattern) {wipe "@" pattern "@Position", wipe "@" pattern "@Position@H", \
                                          wipe "@" pattern "@Position@V", wipe "@" pattern "@Auto Center"}
-#define ST_WIPE_MODIFY(wipe, modify) {wipe "@" modify "@Aspect", wipe "@" modify "@Angle", wipe "@" modify "@Multi", \
-                                      wipe "@" modify "@Modulation", wipe "@" modify "@Speed", wipe "@" modify "@Spring"}
+#define ST_WIPE_MODIFY(wipe, modify) {wipe "@" modify "@Aspect@Aspect", wipe "@" modify "@Angle@Angle", wipe "@" modify "@Multi@H", \
+                                      wipe "@" modify "@Modulation", wipe "@" modify "@Modulation@Speed", \
+                                      wipe "@" modify "@Spring@Width"}
 #define ST_WIPE_DIRECTION(wipe) {wipe "@Direction@Normal", wipe "@Direction@Reverse", wipe "@Direction@Norm/Rev", \
                                  wipe "@Direction@Pattern Limit"}
-#define ST_WIPE_MIX(wipe) {wipe "@Pattern Mix@Pattern Mix", wipe "@Pattern Mix@Pattern"}
+#define ST_WIPE_MIX(wipe) {wipe "@Pattern Mix@Pattern Mix", wipe "@Sub Pattern@Pattern"}
 #define ST_WIPE_EDGE(wipe) {wipe "@Edge@Border", wipe "@Edge@Soft", wipe "@Edge@Border@Width", wipe "@Edge@Soft@Soft"}
 
 inline constexpr ST_TBL st_me_wipe[] = {

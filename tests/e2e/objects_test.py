@@ -12,7 +12,6 @@ TYPE = "M/E-1@Key1@Type@Key Type"
 CHROMA = f"{TYPE}@Chroma@"
 COLUMN = (706, 127, 799, 545)  # the number boxes
 WORK_AREA = (97, 73, 702, 526)
-LAYER_KEY = (749, 96)
 DEFAULT_KEY = (45, 563)
 PAGE_KEY = (45, 35)
 BAR_X, BAR_W = 714, 80
@@ -139,29 +138,6 @@ class Objects(unittest.TestCase):
         self.assertEqual(self.desk.value(CHROMA + "Gain"), "-42.50")
         self.assertNotEqual(self.desk.part(*slot(2)), shown)
 
-    def test_05_a_typed_value_is_held_to_the_range_and_cancel_puts_nothing(self):
-        self.open_chroma()
-        self.desk.touch(*middle(slot(2)))
-        self.type_on(KNOB_PAD, "9", "9", "9", "Enter")
-        self.wait_value(CHROMA + "Gain", "100.00")
-        self.desk.touch(*middle(slot(2)))
-        self.desk.wire()
-        self.type_on(KNOB_PAD, "7", "Cancel")
-        self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [])
-
-    def test_06_the_layers_of_a_table_take_turns_on_the_knobs(self):
-        self.open_chroma()
-        first = self.desk.part(*COLUMN)
-        clip, angle = self.desk.value(CHROMA + "Clip"), self.desk.value(CHROMA + "Angle")
-        self.desk.touch(*LAYER_KEY)
-        self.assertNotEqual(self.desk.part(*COLUMN), first)
-        self.desk.console("knob 0 +3")
-        time.sleep(0.3)
-        self.assertEqual(self.desk.value(CHROMA + "Clip"), clip)
-        self.assertGreater(float(self.desk.value(CHROMA + "Angle")), float(angle))
-        self.desk.touch(*LAYER_KEY)
-        self.assertEqual(self.desk.part(*COLUMN), first)
-
     def test_07_default_recall_takes_one_touch_on_a_box(self):
         self.open_chroma()
         self.desk.touch(*middle(slot(2)))
@@ -195,20 +171,6 @@ class Objects(unittest.TestCase):
         self.desk.touch(*PAGE_KEY)
         self.type_on(PAGE_PAD, "1", "2", "1", "3", "Enter")
         self.desk.wait_wire("add M/E-2@Key1@Main Mask@Main Mask")
-
-    def test_10_a_pane_refuses_the_servers_page(self):
-        self.desk.console("page 9992.0006")
-        time.sleep(0.6)
-        before = self.desk.part(*WORK_AREA)
-        self.desk.touch(*grid(17))  # a progress of its own
-        pane = self.desk.part(*WORK_AREA)
-        self.assertNotEqual(pane, before)
-        self.desk.wire()
-        self.desk.console("page 1111")
-        time.sleep(0.6)
-        self.assertNotIn(f"add {TYPE}", self.desk.wire())
-        time.sleep(5)  # it ends by itself
-        self.open_page("1111", f"add {TYPE}")
 
     def test_11_the_saver_comes_and_the_touch_that_wakes_presses_nothing(self):
         self.open_chroma()

@@ -13,8 +13,8 @@ MASTERS = "Snapshot@Master Snapshot@Store/Recall@"
 TIMELINES = "Effect@Master Timeline@Store/Recall@"
 KEY_TYPE = "M/E-1@Key1@Type@Key Type"
 MASK = {"M/E-1": "0000000000000002", "M/E-2": "0000000000000004", "both": "0000000000000006",
-        "M/E-4": "0004000000000000", "M/E-1 Sub": "0000400000000000", "DME2": "0000000000202000",
-        "DME5": "0000000001010000", "Dev5": "0000000100000000", "GPI": "0000020000000000"}
+        "M/E-4": "0004000000000000", "M/E-1 Sub": "0000400000000000", "Dev5": "0000000100000000",
+        "GPI": "0000020000000000"}
 
 
 class StoreTest(SimTest):
@@ -41,23 +41,15 @@ class StoreTest(SimTest):
         self.text.until(f"{path}#{value}")
         return self.other.sync()
 
-    def wait_for_console(self, command):
-        self.do(command, "get Done")
-        self.wait_for_log("console: get Done")
-
 
 class Lists(StoreTest):
     def test_each_list_answers_with_all_its_numbers_and_fields(self):
         dme = {n for n in range(1, 400) if n % 100}
         cases = [(EFFECTS + "M/E-1", 6, set(range(1, 100))), (EFFECTS + "DME1", 6, dme), (EFFECTS + "DME5", 6, dme),
                  (EFFECTS + "DME2", 6, set(range(1, 100))),  # the rest is kept with the first of its unit
-                 (EFFECTS + "Dev12", 6, set(range(1, 251))), (EFFECTS + "P-Bus", 6, set(range(1, 251))),
-                 (EFFECTS + "MACRO", 6, set(range(1, 100))), (EFFECTS + "P/P Sub", 6, set(range(1, 100))),
-                 (TIMELINES + "List", 47, set(range(1, 100))),
-                 (SNAPSHOTS + "RTR@List", 7, set(range(1, 100))), (SNAPSHOTS + "User8@List", 7, set(range(1, 100))),
-                 (MASTERS + "List", 34, set(range(1, 100))),
+                 (EFFECTS + "Dev12", 6, set(range(1, 251))), (TIMELINES + "List", 47, set(range(1, 100))),
+                 (SNAPSHOTS + "RTR@List", 7, set(range(1, 100))), (MASTERS + "List", 34, set(range(1, 100))),
                  ("Snapshot@Wipe Snapshot@M/E-5 Sub@List", 3, set(range(1, 11))),
-                 ("Snapshot@DME Snapshot@P/P@List", 3, set(range(1, 11))),
                  ("Snapshot@Key Snapshot@Attribute@P/P@Key8@List", 3, set(range(1, 5))),
                  ("Shotbox@Register@Store/Recall@List", 48, set(range(1, 100))),
                  ("Macro@Register@List", 6, set(range(1, 251)))]
@@ -65,33 +57,6 @@ class Lists(StoreTest):
             rows = self.rows(path)
             self.assertEqual(set(rows), numbers, path)
             self.assertEqual({len(row) for row in rows.values()}, {fields}, path)
-
-    def test_the_stock_shows_stored_locked_and_empty_in_the_place_of_each_kind(self):
-        cases = [(EFFECTS + "M/E-1", 1, 1, "S"), (EFFECTS + "M/E-1", 3, 3, "L"), (EFFECTS + "M/E-1", 4, 1, "E"),
-                 (SNAPSHOTS + "M/E-1@List", 1, 2, "S"), (SNAPSHOTS + "M/E-1@List", 2, 2, "L"),
-                 (SNAPSHOTS + "M/E-1@List", 3, 2, "E"), (MASTERS + "List", 2, 2, "S"), (MASTERS + "List", 2, 3, "L"),
-                 ("Shotbox@Register@Store/Recall@List", 2, 2, "L"), ("Macro@Register@List", 3, 1, "E"),
-                 ("Macro@Register@List", 2, 3, "L"), ("Snapshot@Wipe Snapshot@P/P@List", 1, 2, "L")]
-        for path, number, field, value in cases:
-            self.assertEqual(self.rows(path)[number][field], value, (path, number))
-        shotbox = self.rows("Shotbox@Register@Store/Recall@List")
-        self.assertEqual([number for number, row in shotbox.items() if any(row[4:])], [1, 2])
-        self.assertEqual((shotbox[1][4], shotbox[1][4 + 20]), ("1", "2"))  # M/E-1 and DME1
-
-    def test_a_clip_event_is_a_row_of_sub_region_and_number(self):
-        path = "Snapshot@Snapshot@Clip Event@User1@List"
-        self.other.send(f"add {path}")
-        rows = [line.partition("#")[2].split(",") for line in self.other.sync()]
-        self.assertEqual({len(row) for row in rows}, {8})
-        self.assertEqual([row[:2] for row in rows], [["FM1", "1"], ["FM2", "1"]])
-        told = self.put("Snapshot@Snapshot@Clip Event@User1@FM2@AutoPlay", "1,ON")
-        self.assertEqual(told, [f"{path}#FM2,1,ON,ON,ON,BACKDROP,30,900"])
-        self.assertEqual(self.put("Snapshot@Snapshot@Clip Event@User1@FM21@AutoPlay", "1,ON"), [])
-        self.put("Snapshot@Snapshot@Clip Event@User1@FM2@AutoPlay", "7,OFF")  # a row of its own
-        self.text.send(f"read {path}")
-        self.assertEqual(len(self.text.sync()), 3)
-        self.other.send("add Snapshot@Snapshot@Clip Event@FM3@List")
-        self.assertEqual(self.other.sync(), ["Snapshot@Snapshot@Clip Event@FM3@List#"])
 
     def test_nobody_writes_a_list_and_its_default_is_what_it_is(self):
         self.put("Effect@Effect@Rename@Rename", MASK["M/E-1"] + ",1,NEW")
@@ -103,15 +68,6 @@ class Lists(StoreTest):
         self.text.sync()
         self.assertEqual(self.rows(path), before)
         self.assertEqual(before[1][2], "NEW")
-
-    def test_the_recall_mode_of_a_key_is_subscribed_by_its_name(self):
-        path = "Snapshot@Key Snapshot@Attribute@Recall Mode"
-        self.other.send(f"add {path}#M/E-1@Key1")
-        self.assertEqual(self.other.sync(), [f"{path}#M/E-1@Key1,false,false,false"])
-        self.assertEqual(self.put(path, "M/E-1@Key1,true,false,true"), [f"{path}#M/E-1@Key1,true,false,true"])
-        self.other.send(f"remove {path}#M/E-1@Key1")
-        self.other.sync()
-        self.assertEqual(self.put(path, "M/E-1@Key1,true,true,true"), [])
 
 
 class Commands(StoreTest):
@@ -141,16 +97,6 @@ class Commands(StoreTest):
         for mask in ("0000000000000000", "", "xyz", "-"):
             self.assertEqual(self.put("Effect@Effect@Store@Store", mask + ",8,NONE"), [], mask)
 
-    def test_channels_of_a_unit_have_the_higher_numbers_in_common(self):
-        self.follow(EFFECTS + "DME1", EFFECTS + "DME2", EFFECTS + "DME5")
-        self.assertEqual(self.put("Effect@Effect@Store@Store", MASK["DME2"] + ",150,A"),
-                         [f"{EFFECTS}DME1#150,S,A,U,N,0"])
-        self.assertEqual(self.put("Effect@Effect@Store@Store", MASK["DME5"] + ",150,B"),
-                         [f"{EFFECTS}DME5#150,S,B,U,N,0"])
-        for number in (100, 200, 300, 400, 0):
-            self.assertEqual(self.put("Effect@Effect@Store@Store", f"{MASK['DME5']},{number},C"), [])
-        self.assertEqual(self.put("Effect@Effect@Store@Store", f"{MASK['M/E-1']},100,C"), [])
-
     def test_copy_keeps_the_source_and_move_and_swap_do_not(self):
         lists = EFFECTS + "M/E-1", EFFECTS + "M/E-2"
         self.follow(*lists)
@@ -164,51 +110,11 @@ class Commands(StoreTest):
         self.put("Effect@Effect@Copy/Merge@Copy", f"{MASK['M/E-1']},1,3,{MASK['M/E-2']},2,false")
         copied = {1: "OPENING", 2: "OPENING", 3: "SLIDE IN", 4: "LOGO LOOP"}
         self.assertEqual(names(), [first, copied])
-        self.assertEqual(self.rows(lists[1])[4][3], "U")  # the copy of a locked register is free
         self.put("Effect@Effect@Copy/Merge@Copy", f"{MASK['M/E-2']},2,3,{MASK['M/E-2']},3,true")
         self.assertEqual(names()[1], copied)  # without the names; source and target overlap
         self.assertEqual([self.rows(lists[1])[n][5] for n in (2, 3, 4)], ["180", "180", "90"])
         self.put("Effect@Effect@Move@Move", f"{MASK['M/E-1']},1,3,{MASK['M/E-2']},10,false")
         self.assertEqual(names(), [{3: "LOGO LOOP", 99: "BLACK"}, {**copied, 10: "OPENING", 11: "SLIDE IN"}])
-        self.put("Effect@Effect@Swap@Swap", f"{MASK['M/E-2']},10,11,{MASK['M/E-1']},98,false")
-        self.assertEqual(names(), [{3: "LOGO LOOP", 98: "OPENING", 99: "BLACK"}, {**copied, 11: "SLIDE IN"}])
-        self.put("Effect@Effect@Copy/Merge@Copy", f"{MASK['both']},1,1,{MASK['both']},20,false")
-        self.assertEqual(names()[1][20], "OPENING")  # region by region: M/E-1 has no number 1 any more
-        self.assertNotIn(20, names()[0])
-
-    def test_merge_puts_one_effect_behind_another(self):
-        before = int(self.rows(EFFECTS + "M/E-1")[1][5])
-        added = int(self.rows(EFFECTS + "M/E-1")[2][5])
-        self.put("Effect@Effect@Copy/Merge@Merge", f"{MASK['M/E-1']},2,{MASK['M/E-1']},1")
-        self.assertEqual(int(self.rows(EFFECTS + "M/E-1")[1][5]), before + 30 + added)
-
-    def test_the_attributes_of_a_snapshot_stand_in_its_line(self):
-        path = SNAPSHOTS + "M/E-1@List"
-        self.follow(path)
-        attribute = SNAPSHOTS
-        steps = [("Effect Dissolve", "2,1,1,true", ["", "0", "n", "n"]), ("Duration", "2,1,1,45", ["", "45", "n", "n"]),
-                 ("Auto Transition", "2,1,1,true", ["", "45", "45", "n"]), ("GPI", "2,1,1,1", ["", "45", "45", "1"]),
-                 ("Xpt Hold", "2,1,1,AB1U2", ["AB1U2", "45", "45", "1"]), ("GPI", "2,1,1,null", ["AB1U2", "45", "45", "n"]),
-                 ("Effect Dissolve", "2,1,1,false", ["AB1U2", "n", "45", "n"])]
-        for word, value, fields in steps:
-            told = self.put(attribute + word, value)
-            self.assertEqual(told, [f"{path}#1,TWO SHOT,S,{','.join(fields)}"], word)
-        self.assertEqual(self.put(attribute + "GPI", "2,2,3,1"), [])  # locked, and empty
-        self.assertEqual(self.put(attribute + "Xpt Hold", "2,1,1," + "F" * 310), [])  # no line would hold it
-        self.assertEqual(self.put("Snapshot@Snapshot@UnLock", "2,1,5"), [f"{path}#2,WIDE,S,,n,n,n"])
-        self.assertEqual(self.put("Snapshot@Snapshot@Lock", "2,2,5"), [f"{path}#2,WIDE,L,,n,n,n"])
-
-    def test_a_file_transfer_has_the_lists_told_again_and_all_clear_empties_them(self):
-        path, master = "Snapshot@Wipe Snapshot@M/E-1@List", TIMELINES + "List"
-        self.follow(path, "Snapshot@Wipe Snapshot@P/P@List", master, EFFECTS + "Dev1")
-        self.assertEqual(len(self.put("Snapshot@Wipe Snapshot@Register Status", "2")), 10)
-        told = self.put("Register@All Delete@Wipe Snapshot@MP2", "true")
-        self.assertEqual(told, [f"{path}#1,,E", "Snapshot@Wipe Snapshot@P/P@List#1,,E"])
-        self.assertEqual(self.put("Register@All Delete@Effect@MP2", "false"), [])
-        told = self.put("Register@All Delete@Effect@MP2", "true")
-        self.assertEqual([line.split("#")[1].split(",")[:2] for line in told],
-                         [["1", "E"], ["250", "E"], ["1", ""], ["2", ""]])
-
     def test_rubbish_changes_nothing(self):
         self.do("list effect", "list snapshot", "list mastersnapshot")
         self.wait_for_log("console: list mastersnapshot")
@@ -221,13 +127,6 @@ class Commands(StoreTest):
         self.do("list effect", "list snapshot", "list mastersnapshot")
         lines = [line for line in self.output().splitlines() if "#" in line]
         self.assertEqual(lines[:len(lines) // 2], lines[len(lines) // 2:])
-
-    def test_no_good_leaves_every_register_alone(self):
-        self.wait_for_console("ng on")
-        self.follow(EFFECTS + "M/E-1")
-        self.text.send("put Effect@Effect@Delete@Delete#" + MASK["M/E-1"] + ",1,1")
-        self.assertEqual(self.text.line(), "Effect@Effect@Delete@Delete#")
-        self.assertEqual(self.other.sync(), [])
 
 
 class Recall(StoreTest, StreamTest):
@@ -246,18 +145,9 @@ class Recall(StoreTest, StreamTest):
         self.assertEqual((at.time, at.run, at.loops_left), (0, 0, 2))
         self.put("Effect@Effect@Lock@Lock", MASK["M/E-1"] + ",50,50,true")  # the frame follows its register
         self.assertTrue(frames.effect().locked)
-        self.do("kf M/E-1 2 5", "store effect M/E-1 50 OTHER")
-        self.assertEqual(self.rows(EFFECTS + "M/E-1")[50][2:4], ["MY SHOW", "L"])
         frames.drain()
         self.put("Effect@Effect@Recall@Recall", MASK["M/E-1"] + ", 60")  # empty
         self.assertTrue(frames.quiet())
-
-    def test_a_channel_takes_its_common_part_along(self):
-        frames = self.panel(16, 32)
-        self.do("effect DME1 102")
-        both = [frames.effect(), frames.effect()]
-        self.assertEqual([(e.code, e.number, e.name, e.locked) for e in both],
-                         [(16, 102, b"CUBE\0\0\0\0", True), (32, 102, b"CUBE\0\0\0\0", True)])
 
     def test_a_snapshot_brings_every_value_of_its_bank_back_and_no_other(self):
         other = "M/E-1 SUB@Key1@Type@Key Type"
@@ -273,21 +163,6 @@ class Recall(StoreTest, StreamTest):
         self.assertEqual(sorted(told), sorted([f"{KEY_TYPE}#old", "M/E-1@Late#"]))
         self.assertEqual(self.put("Snapshot@Snapshot@Recall", "2, 21"), [])
 
-    def test_wipe_and_key_snapshots_keep_their_own_part(self):
-        for path in ("M/E-1@Wipe@Size", "M/E-1@DME Wipe@Size", KEY_TYPE, "M/E-1@Key2@Size", "PGM/PST@DSK2@Size"):
-            self.text.send(f"put {path}#1")
-        self.text.sync()
-        cases = [("Wipe Snapshot", "2", "M/E-1@Wipe@Size"), ("DME Snapshot", "2", "M/E-1@DME Wipe@Size"),
-                 ("Key Snapshot", "0000000000000001", KEY_TYPE), ("Key Snapshot", "0000020000000000", "PGM/PST@DSK2@Size")]
-        for kind, mask, path in cases:
-            self.put(f"Snapshot@{kind}@Store", f"{mask},3")
-        for _, _, path in cases:
-            self.put(path, "2")
-            self.follow(path)
-        self.put("M/E-1@Key2@Size", "2")
-        for kind, mask, path in cases:
-            self.assertEqual(self.put(f"Snapshot@{kind}@Recall", f"{mask}, 3"), [f"{path}#1"])
-
     def test_a_master_stores_what_each_region_has_and_recalls_it(self):
         self.follow(MASTERS + "Current Register", MASTERS + "List", KEY_TYPE)
         self.put("Snapshot@Snapshot@Recall", "2, 10")
@@ -298,22 +173,6 @@ class Recall(StoreTest, StreamTest):
         self.put("Snapshot@Snapshot@Recall", "2, 1")
         self.assertEqual(self.put(MASTERS + "Edit@Recall", "2"), [f"{MASTERS}Current Register#2"])  # looked at only
         self.assertEqual(self.put(MASTERS + "Recall", "30"), [f"{KEY_TYPE}#Chroma", f"{MASTERS}Current Register#30"])
-
-    def test_a_master_effect_and_a_shotbox_load_their_regions(self):
-        frames = self.panel(ME1)
-        self.put("Master@Effect@Recall@Recall", "2")
-        self.assertEqual(frames.effect().number, 3)
-        self.do("recall shotbox 1")
-        self.assertEqual(frames.effect().number, 1)
-        self.assertEqual(frames.run_until(lambda p: p.run == 1)[-1].code, ME1)  # it has auto run
-
-    def test_a_restart_brings_the_stock_back(self):
-        before = self.rows(EFFECTS + "M/E-1")
-        self.put("Effect@Effect@Delete@Delete", MASK["M/E-1"] + ",1,99")
-        self.assertNotEqual(self.rows(EFFECTS + "M/E-1"), before)
-        self.wait_for_console("restart")
-        self.text.sync()
-        self.assertEqual(self.rows(EFFECTS + "M/E-1"), before)
 
     def test_the_console_stores_recalls_and_lists_by_words(self):
         self.do("store snapshot M/E-1 Sub 5 SUB SHOT", "store key M/E-1@Key3 2 K THREE", "store macro 9",
@@ -328,37 +187,11 @@ class Recall(StoreTest, StreamTest):
 
 class Rules(StoreTest):
     def test_a_pattern_key_has_no_clean_mode_and_no_key_position(self):
-        clean, position = "M/E-1@Key1@Type@Clean Mode", "M/E-1@Key1@Type@Key Position"
-        for path in (clean, position, "M/E-1@Key2@Type@Clean Mode"):
-            self.follow(path)
-            self.put(path, "true")
-        self.assertEqual(self.put(KEY_TYPE, "Chroma"), [])
-        self.assertEqual(self.put(KEY_TYPE, "Wipe Pattern"), [f"{clean}#false", f"{position}#false"])
-
-    def test_auto_chroma_finds_its_values(self):
-        hue = KEY_TYPE + "@Chroma@Hue"
-        self.follow(hue)
-        self.assertEqual(self.put("M/E-1@Key1@Type@Auto Chroma", "false"), [])
-        self.assertEqual(self.put("M/E-1@Key1@Type@Auto Chroma", "true"), [f"{hue}#117.50"])
-
-
-class Units(StoreTest):
-    def test_the_reference_channel_is_eight_binary_digits_both_ways(self):
-        path = "MPE@Fx@Channel@Reference"
-        self.follow(path)
-        two, eight = "00000010", "10000000"
-        for digits, told in ((two, two), (eight, eight), ("1", eight), ("00000020", eight), ("", eight)):
-            self.text.send(f"put {path}#{digits}")
-            self.assertEqual(self.text.line(), f"{path}#{told}")
-        self.assertEqual(self.other.sync(), [f"{path}#{two}", f"{path}#{eight}"])
-
-    def test_units_have_models_and_boards(self):
-        model = "Info@Board Config@Unit Model@"
-        for unit, number in (("PNL1", "9"), ("SWR2", "10"), ("PNL3", "")):
-            self.text.send(f"read {model}{unit}")
-            self.assertEqual(self.text.line(), f"{model}{unit}#{number}")
-        self.text.send("read Info@Board Config@Board Exist Set@SWR1@EEPROM")
-        self.assertRegex(self.text.line(), r"#1(,[01])+$")
+        for what in ("Clean Mode", "Key Position"):
+            path = f"M/E-1@Key1@Type@{what}@"
+            for key_type, told in (("Luminance", []), ("Key Wipe Pattern", [f"{path}Key Wipe Pattern#false"])):
+                self.follow(path + key_type)
+                self.assertEqual(self.put(path + key_type, "true"), [f"{path}{key_type}#true"] + told)
 
 
 if __name__ == "__main__":

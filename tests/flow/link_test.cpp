@@ -140,7 +140,6 @@ TEST_F(Link, AWriteToADeadSocketKeepsTheCommand)
     usleep(20000);
     Net_SendCommand("put A#2");
     EXPECT_EQ(Net_SendCommandQueue(), -1);
-    EXPECT_EQ(Net_SendCommandQueue(), -1);
     EXPECT_EQ(Net_QueueLength(), 1);
     ComeBack(peer);
     EXPECT_EQ(Net_SendCommandQueue(), 0);
@@ -241,7 +240,6 @@ TEST_F(Link, AFrameGoesOutLowByteFirstAndComesInHighByteFirst)
     EXPECT_EQ(Bytes(peer, 13), std::string("\13\0\4\x78\x56\x34\x12\1D\1\0\xFF\xFF", 13));
     const std::string rest = Bytes(peer, 300 * 1033);
     ASSERT_EQ(rest.size(), 300u * 1033);
-    EXPECT_EQ(rest.substr(299 * 1033, 3), std::string("\7\4\5", 3));
 
     const std::string frame("\0\11\x84\xAA\0\2\0\1\2\xFF\xFF", 11);
     peer.Send(frame + frame.substr(0, 5));
@@ -288,10 +286,6 @@ TEST_F(Link, TheHubGetsOneLineEach100ms)
     EXPECT_THAT(peer.Lines(), IsEmpty());
     EXPECT_EQ(Net_SendSHPCommandQueue(10), 0);
     EXPECT_THAT(peer.Lines(), ElementsAre("Listen#PNL1.File"));
-    EXPECT_EQ(Net_SendSHPCommandQueue(10), 0); // nothing waits: the pace starts anew
-    Net_SendSHPCommand("Listen#CS2.File");
-    EXPECT_EQ(Net_SendSHPCommandQueue(10), 0);
-    EXPECT_THAT(peer.Lines(), ElementsAre("Listen#CS2.File"));
 }
 
 TEST_F(Link, AHubThatIsNotThereIsLeftAloneFor6000Calls)
@@ -344,37 +338,24 @@ TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)
     auto swr = std::make_unique<DEVICE[]>(2);
     strcpy(swr[0].id, "SWR001D001");
     strcpy(swr[1].id, "SWR001D003");
-    static const struct {
-        int dual;
-        int switchers;
-        const char* cmd;
-        Strings lines;
-    } cases[] = {
-        {0, 2, "Read#CS*.File:a", {"Read#CS1.File:a"}},
-        {1, 2, "Read#CS*.File:a", {"Read#CS1.File:a", "Read#CS3.File:a"}},
-        {1, 0, "Read#CS*.File:a", {}},
-        {0, 0, "Read#CS*.File:a", {}},
-        {1, 2, "Read#CS2.File:a", {"Read#CS2.File:a"}},
-        {1, 2, "Listen#CS*.File", {"Listen#CS*.File"}},
-        {1, 0, "InitRead#CS*.File", {"InitRead#CS*.File"}},
-        {1, 2, "CS*.File", {"CS*.File"}},
-        {1, 2, "#CS*.File", {"#CS1.File", "#CS3.File"}},
-    };
     GL_ClipStoreSupportMode = 1;
     Peer peer(HUB_PORT);
     Connect(peer);
-    for (const auto& c : cases) {
-        SYS_DualSimul = c.dual;
-        SYS_MySwrMax = c.switchers;
-        for (int i = 0; i < 2; i++)
-            DEV_MySwr[i] = i < c.switchers ? &swr[size_t(i)] : nullptr;
-        Net_SendSHPCommand(c.cmd);
-        for (int i = 0; i < 4; i++)
-            Net_SendSHPCommandQueue(100);
-        EXPECT_EQ(peer.Lines(10), c.lines) << c.dual << c.switchers << " " << c.cmd;
-    }
-    SYS_DualSimul = SYS_MySwrMax = 0;
+    SYS_MySwrMax = 2;
+    for (int i = 0; i < 2; i++)
+        DEV_MySwr[i] = &swr[size_t(i)];
+    Net_SendSHPCommand("Read#CS*.File:a");
+    SYS_DualSimul = 1;
+    for (const char* cmd : {"Read#CS*.File:b", "Read#CS2.File:c", "Listen#CS*.File"})
+        Net_SendSHPCommand(cmd);
+    SYS_MySwrMax = 0;
     DEV_MySwr[0] = DEV_MySwr[1] = nullptr;
+    Net_SendSHPCommand("Read#CS*.File:d"); // no switcher, no request
+    SYS_DualSimul = 0;
+    for (int i = 0; i < 6; i++)
+        Net_SendSHPCommandQueue(100);
+    EXPECT_THAT(peer.Lines(), ElementsAre("Read#CS1.File:a", "Read#CS1.File:b", "Read#CS3.File:b",
+                                          "Read#CS2.File:c", "Listen#CS*.File"));
 }
 
 TEST_F(Link, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)

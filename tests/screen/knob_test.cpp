@@ -53,9 +53,3 @@ TEST_F(KnobSheet, TheOtherLayerAndWhatIsNotANumber)
     NB_SetStrVar(19, "Auto");
     EXPECT_TRUE(Matches("knob_layer"));
 }
-
-TEST_F(KnobSheet, ATableOfOneLayerHasNoKeyAndTheBlankOneNoBoxes)
-{
-    NB_Create(NB_Non, "Key\nPosition");
-    EXPECT_TRUE(Matches("knob_blank"));
-}

@@ -15,9 +15,6 @@ struct SaverPicture : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        SDL_ShowCursor(0);
-        BA_SetFtpAccess(0);
-        BA_SetHDDAccess(0);
         ASSERT_EQ(CreatePage(PAGE_TOP), 0);
         GL_ScreenSaverInterval = 1;
         SYS_RefSwrType = DEVTYPE_KTR40E;
@@ -25,20 +22,7 @@ struct SaverPicture : testing::Test {
         CopyText(GL_Scr_disp_name[2], "OB UNIT");
         srand(4); // the place of the fading text
     }
-    void TearDown() override
-    {
-        EndScreenSaver();
-        SDL_ShowCursor(0);
-        GL_ScreenSaverInterval = 1200;
-        GL_ScreenSaverPTN_Mode = SAVER_PATTERNS;
-        GL_ScreenSaverPath_Time = 5;
-        SYS_RefSwrType = DEVTYPE_UNKNOWN;
-        GL_Scr_disp_name[1][0] = GL_Scr_disp_name[2][0] = '\0';
-        CopyText(GL_Scr_disp_ImagePath, "/mnt/data/SSrc");
-        BA_SetUsbAccess(0);
-        Page_Reset();
-        (void)TakeQueuedCommands();
-    }
+    void TearDown() override { Harness_Reset(); }
     static void Run(int mode, int passes)
     {
         EndScreenSaver();

@@ -60,24 +60,6 @@ TEST_F(TabPictures, BottomTabsWithWhatIsActive)
     EXPECT_TRUE(MatchesGolden("tab_bottom", {90, 520, 799, 599}));
 }
 
-TEST_F(TabPictures, LowBottomTabs)
-{
-    static const HF_TBL tabs[] = {
-        {.id = 1, .caption = "Time Line", .page = 0x61110000},
-        {.id = 2, .caption = "Path", .page = 0x61130000, .statcmd = {"~1@PGM#true"}},
-        {.id = 3, .caption = "DME User\nPGM", .page = 0x61140000},
-        {.id = 4, .caption = "Hidden", .page = 0x61150000},
-        {.id = 7, .caption = "Region\nSelect", .page = 0x61170000},
-        HF_END,
-    };
-    Tree({"Key Frame", "Time Line"}, 0x61110000, OBJ_HF);
-    HF_Create(tabs, 1 | HF_LOW);
-    HF_SetDisplay(4, 0);
-    Tally("Key Frame@PGM", "true");
-    Pass();
-    EXPECT_TRUE(MatchesGolden("tab_bottom_low", {90, 520, 799, 599}));
-}
-
 TEST_F(TabPictures, PatternSelectWithAChosenCell)
 {
     Tree({"M/E-1", "Key1", "Main Mask", "Ptn Select"}, 0x11130001, OBJ_PS);

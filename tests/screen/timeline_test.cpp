@@ -17,7 +17,6 @@ struct TimelinePictures : testing::Test {
     {
         Harness_Reset();
         SYS_FrameRate = 30;
-        GL_TimelineDisplayPriority = 0;
         page = {.id = 0x61110000,
                 .tree = {"Key Frame", "Time Line"},
                 .obj = {{OBJ_BA, &base_kf_tl, 0}, {OBJ_KF, &kf_tl, 0}}};
@@ -28,14 +27,7 @@ struct TimelinePictures : testing::Test {
         KF_RegionAssignTally(2, "User1,DME1,Dev1,MACRO");
         KF_DefaultRegionPriority();
     }
-    void TearDown() override
-    {
-        KF_Create(nullptr, 0);
-        BA_Create(nullptr, 0);
-        KF_Init();
-        SYS_FrameRate = 60;
-        Page_Reset();
-    }
+    void TearDown() override { Harness_Reset(); }
     static void Open()
     {
         BA_Create(&base_kf_tl, 0);
@@ -114,40 +106,6 @@ TEST_F(TimelinePictures, Page)
     kf::Select({1, 0x26, 0x01, 0x01, 0, 0, 0x80, 0});
     Open();
     EXPECT_TRUE(MatchesGolden("timeline"));
-}
-
-TEST_F(TimelinePictures, AnEmptyAxis)
-{
-    kf::Data d = {.code = 1, .regnum = 5, .regname = "STILL   ", .keyframes = {30, 30}};
-    kf::Send(kf::DATA, kf::DataFrame(d));
-    Open();
-    EXPECT_TRUE(MatchesGolden("timeline_empty", {0, 73, 702, 552}));
-}
-
-TEST_F(TimelinePictures, Strip)
-{
-    static const struct {
-        int reference;
-        kf::Status status;
-        int pushed;
-        const char* picture;
-    } cases[] = {
-        {5, {.code = 5, .time = {0, 0, 4, 0x12}, .keyframe = 3}, 0, "strip_sub"},
-        {32, {.code = 32, .time = {0x80, 0, 4, 0x12}}, 150, "strip_global_pushed"},
-        {69, {.code = 69, .time = {0x12, 0x34, 0x56, 0}, .keyframe = 999}, 0, "strip_macro"},
-    };
-    for (const auto& c : cases) {
-        kf::Send(kf::DATA, kf::DataFrame({.code = c.status.code,
-                                          .regnum = 399,
-                                          .regname = "ABCDEFGH",
-                                          .freekf = 999,
-                                          .kfnum = 999}));
-        kf::Send(kf::STATUS, kf::StatusFrame(c.status));
-        kf::Select({c.reference, 0, 0, 0, 0, 0, 0, 0});
-        TDL_FillRectS(508, 6, 797, 65, 0x1F1F1F);
-        KF_DrawTopArea(c.pushed);
-        EXPECT_TRUE(MatchesGolden(c.picture, {500, 0, 799, 72}));
-    }
 }
 
 // --- The pages around it ---

@@ -12,7 +12,6 @@ struct WindowPictures : ButtonPage {
     void SetUp() override
     {
         ButtonPage::SetUp();
-        TDL_FillRectS(0, 0, 799, 599, 0x000000);
         static BT_TBL table[25];
         int n = 0;
         for (int row = 0; row < 4; row++)
@@ -21,11 +20,6 @@ struct WindowPictures : ButtonPage {
         table[n] = {.id = -1};
         Open(table);
         Redraw();
-    }
-    void TearDown() override
-    {
-        CloseWindow();
-        ButtonPage::TearDown();
     }
     static void Redraw(int elapsed_ms = 0) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
     static void Press(int x, int y)
@@ -46,20 +40,9 @@ TEST_F(WindowPictures, TenKeysOverAPage)
 {
     CreateWindow(WINDOW_KNOB_TRIM, "Gain",
                  {.value = "-12.50", .min_text = "-100.00", .max_text = "100.00"});
-    Redraw();
-    EXPECT_TRUE(MatchesGolden("window_ten_keys"));
     SendMessage(MSG_PRESS, 446 + 71 + 20, 140 + 192 + 20, 1, 0);
     SendMessage(MSG_PRESS, 446 + 125 + 20, 140 + 310 + 20, 1, 0);
     EXPECT_TRUE(MatchesGolden("window_ten_keys_typed", {446, 140, 691, 521}));
-}
-
-TEST_F(WindowPictures, TimeCode)
-{
-    CreateWindow(
-        WINDOW_KNOB, "Transition\nRate",
-        {.value = "00:01:00", .min_text = "00:00:00", .max_text = "00:33:09", .is_timecode = true});
-    Type({'1', '2', '3', '4', '5', '6'});
-    EXPECT_TRUE(MatchesGolden("window_timecode", {446, 140, 700, 530}));
 }
 
 // A text with the cursor in it; then both modes, which the letters follow.
@@ -67,17 +50,9 @@ TEST_F(WindowPictures, Keyboard)
 {
     CreateWindow(WINDOW_KEYBOARD, "New Password\n(Confirm)", {.value = "Opening_7"});
     Type({SDLK_LEFT, SDLK_LEFT});
-    EXPECT_TRUE(MatchesGolden("window_keyboard", {30, 100, 799, 499}));
     Press(34 + 12 + 20, 114 + 91 + 54 * 3 + 20);
     Press(34 + 12 + 20, 114 + 91 + 54 * 4 + 20);
     EXPECT_TRUE(MatchesGolden("window_keyboard_shift", {30, 100, 799, 499}));
-}
-
-TEST_F(WindowPictures, HexKeys)
-{
-    CreateWindow(WINDOW_HEX, "Address", {.value = "1F", .min_text = "0", .max_text = "ffff"});
-    Type({'c', '0', 'd', 'e'});
-    EXPECT_TRUE(MatchesGolden("window_hex", {270, 40, 540, 570}));
 }
 
 // Two records in the file; what the number so far stands for; a key held down.
@@ -105,13 +80,6 @@ TEST_F(WindowPictures, PageJumpWithFavorites)
     std::filesystem::remove_all("/mnt/data/TopMenu");
 }
 
-TEST_F(WindowPictures, PageGet)
-{
-    CreateWindow(WINDOW_PAGE_GET, "Page", {.value = "1111.2"});
-    Redraw();
-    EXPECT_TRUE(MatchesGolden("window_page_get", {140, 70, 680, 540}));
-}
-
 TEST_F(WindowPictures, PullDownAndSelect)
 {
     static const char* const cells[] = {"M/E-1", "M/E-4", "M/E-2", "M/E-5", "M/E-3", nullptr};
@@ -123,20 +91,11 @@ TEST_F(WindowPictures, PullDownAndSelect)
     EXPECT_TRUE(MatchesGolden("window_select", {140, 190, 360, 410}));
 }
 
-TEST_F(WindowPictures, PathSelects)
+TEST_F(WindowPictures, PathSelect)
 {
-    static const struct {
-        int type;
-        int selected;
-        const char* name;
-    } cases[] = {{PATHSEL_XPT, PATH_XPT_CHANGE, "window_path_xpt"},
-                 {PATHSEL_HUE, PATH_HUE_LONG, "window_path_hue"},
-                 {PATHSEL_CURVE0, PATH_CURVE_SPLINE, "window_path_curve"}};
-    for (const auto& c : cases) {
-        CreateWindow(WINDOW_PATH, "",
-                     {.x = 150, .y = 200, .selected = c.selected, .path_type = c.type});
-        EXPECT_TRUE(MatchesGolden(c.name, {140, 190, 530, 290}));
-    }
+    CreateWindow(WINDOW_PATH, "",
+                 {.x = 150, .y = 200, .selected = PATH_CURVE_SPLINE, .path_type = PATHSEL_CURVE0});
+    EXPECT_TRUE(MatchesGolden("window_path_curve", {140, 190, 530, 290}));
 }
 
 TEST_F(WindowPictures, Boxes)

@@ -45,20 +45,11 @@ struct ButtonPage : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        SYS_FmemV6 = 1;
         GL_NextVersion = 2;
-        GL_DebugMode = 0;
         told.clear();
         SetTree({"M/E-1", "Key1", "Type"}, 0x11110000);
     }
-    void TearDown() override
-    {
-        BT_Create(nullptr, 0);
-        BA_Create(nullptr, 0);
-        Page_Reset();
-        GL_CreatePage = 0;
-        (void)TakeQueuedCommands();
-    }
+    void TearDown() override { Harness_Reset(); }
 
     void SetTree(std::initializer_list<const char*> tree, uint32_t id)
     {

@@ -35,22 +35,11 @@ struct ListPage : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        LS_Create(nullptr, 0); // what an earlier test left open
-        CloseScrollBarAll();
-        GL_DebugMode = 0;
-        GL_DskInhibit = 0;
         answer = nullptr;
         SetPage(0x62210000);
         Clock_ms += 1000; // the last test's finger has long been lifted
     }
-    void TearDown() override
-    {
-        LS_Create(nullptr, 0);
-        CloseScrollBarAll();
-        BA_Create(nullptr, 0);
-        GL_DskInhibit = 0;
-        Page_Reset();
-    }
+    void TearDown() override { Harness_Reset(); }
 
     void SetPage(uint32_t id)
     {

@@ -68,25 +68,13 @@ struct KnobColumn : testing::Test {
         Page = &page;
         GL_NowPage = page.id;
         GL_NowTree = page.tree;
-        GL_MouseSliderControl = 0;
-        BA_SetDefaultButton(0);
-        NB_Create(nullptr, nullptr);
         exact_var = false;
         Forget();
     }
     void TearDown() override
     {
-        CloseWindow();
-        NB_Create(nullptr, nullptr);
-        PC_Create(nullptr, 0);
-        BA_SetDefaultButton(0);
-        GL_MouseSliderControl = 0;
         answer = nullptr;
-        Page_Reset();
-        SDL_Event e;
-        while (SDL_PollEvent(&e)) {
-        }
-        (void)TakeQueuedCommands();
+        Harness_Reset();
     }
 
     static void Forget()
@@ -122,11 +110,5 @@ struct KnobColumn : testing::Test {
         char path[CMD_SIZE];
         double v = 0;
         return NB_GetKnob_info(caption, path, &v, sizeof path) < 0 ? double(NAN) : v;
-    }
-    static std::string PathOf(const char* caption)
-    {
-        char path[CMD_SIZE] = "";
-        double v = 0;
-        return NB_GetKnob_info(caption, path, &v, sizeof path) < 0 ? "none" : path;
     }
 };

@@ -18,22 +18,14 @@ struct CellPage : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        SYS_DualProc = SYS_4KMode = 0;
-        GL_CreatePage = 0;
-        GL_ProcStatus[1] = 0;
         SetTree({"M/E-1", "Key1", "Type"}, 0x11110000);
     }
     void TearDown() override
     {
-        ST_Create(nullptr, 0);
-        Page_Reset();
-        SYS_DualProc = SYS_4KMode = 0;
-        GL_CreatePage = 0;
-        GL_ProcStatus[1] = 0;
+        Harness_Reset();
         s_font = 0;
         GL_FillSourceAssignMode = 0;
         st_drw_me_misc_key_assign_tally_set("");
-        (void)TakeQueuedCommands();
     }
     void SetTree(std::initializer_list<const char*> tree, uint32_t id)
     {

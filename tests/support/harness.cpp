@@ -1,14 +1,28 @@
 #include "harness.h"
+#include "a_ba.h"
+#include "a_bt.h"
+#include "a_hf.h"
 #include "a_kf.h"
+#include "a_ls.h"
+#include "a_nb.h"
+#include "a_pc.h"
+#include "a_st.h"
+#include "a_vf.h"
+#include "bus.h"
 #include "device.h"
 #include "global.h"
 #include "graphics.h"
 #include "log.h"
 #include "loop.h"
+#include "me_config.h"
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "saver.h"
+#include "scrollbar.h"
+#include "setup_index.h"
 #include "tdl.h"
+#include "text.h"
 #include "window.h"
 #include <algorithm>
 #include <arpa/inet.h>
@@ -53,17 +67,87 @@ void Harness_Video()
     LoadGraphics();
 }
 
+// The objects of the page that is left; its rows may live in a test that ends.
+static void empty_page()
+{
+    PC_Create(nullptr, 0);
+    KF_Create(nullptr, 0);
+    NB_Create(nullptr, nullptr);
+    LS_Create(nullptr, 0);
+    ST_Create(nullptr, 0);
+    HF_Create(nullptr, 0);
+    VF_Create(nullptr, 0);
+    BT_Create(nullptr, 0);
+    BA_Create(nullptr, 0);
+    CloseScrollBarAll();
+}
+
+// What tests set of the settings and the system's state.
+static void reset_state()
+{
+    Device_Init();
+    DeviceStructure();
+    me_config_reset();
+    SYS_DualProc = SYS_Simul = SYS_DualSimul = SYS_3DMode = SYS_4KMode = SYS_SetupTarget = 0;
+    SYS_DMEReference = SYS_Format_Size = SYS_Format_Freq = SYS_Format_Scan = 0;
+    SYS_KeyTransitionME1 = SYS_KeyTransitionME2 = SYS_KeyTransitionME3 = SYS_KeyTransitionME4 = 0;
+    SYS_KeyTransitionME5 = SYS_KeyTransitionPP = 0;
+    GL_KeyRowMode = GL_DebugMode = GL_DskInhibit = GL_AllPageDisplayMode = GL_MenuMacro_Edit = 0;
+    GL_MenuMacro_Run = GL_Macro_Offline_Store = GL_Macro_Online_TrueOrFalse = 0;
+    GL_TimelineDisplayPriority = GL_ContinuousLoad = GL_SSver_PVW = GL_FileProcessing = 0;
+    GL_ErrorPopup_On = GL_ErrorExist = GL_InitRead = GL_InitProgress = GL_InitReadStatus_Busy = 0;
+    GL_MouseSliderControl = GL_MouseWheelDirection = GL_FM_Find_Window = GL_FM_Find_PaneID = 0;
+    GL_ClipStoreSupportMode = SetupMenu_Max = 0;
+    for (int* me : {SYS_MEOperation, multiprogram2_me, me_config_type})
+        std::fill_n(me, ME_COUNT, 0);
+    for (int* units : {GL_DmeModel, GL_DmeSdiIF})
+        std::fill_n(units, 4, 0);
+    for (int* channels : {SYS_Combine, SYS_CombineCh})
+        std::fill_n(channels, 8, 0);
+    for (int* status : {GL_ProcStatus, GL_InitReadStatus})
+        std::fill_n(status, 7, 0);
+    std::fill_n(GL_BoardMESplit, 5, 0);
+    std::fill_n(GL_KeyMax, ME_COUNT, 8);
+    std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
+    std::fill_n(GL_MainSubAssign, PANEL_ROWS, 0);
+    SYS_FrameRate = 60;
+    SYS_FmemV6 = 1;
+    GL_InitialPage = PAGE_TOP;
+    SetupLock = {};
+    BA_SetDefaultButton(0);
+    BA_SetUsbAccess(0);
+    BA_SetFtpAccess(0);
+    BA_SetHDDAccess(0);
+    UnHackMessage(0);
+    GL_ScreenSaverInterval = 1200;
+    GL_ScreenSaverPTN_Mode = SAVER_PATTERNS;
+    GL_ScreenSaverVariable_speed = 0;
+    GL_ScreenSaverPath_Time = 5;
+    CopyText(GL_Scr_disp_ImagePath, "/mnt/data/SSrc");
+    for (auto& name : GL_Scr_disp_name)
+        name[0] = '\0';
+    CopyText(GL_Scr_disp_name[0], "KTR-20");
+}
+
 void Harness_Reset()
 {
     Harness_Video();
     Log_Init(nullptr, LOG_FILE_SIZE);
     Log_SetLevel(0);
+    (void)EndScreenSaver();
+    SDL_ShowCursor(0);
     while (Pane_GetActiveID())
         Pane_Quit(Pane_GetActiveID());
     (void)CloseWindow(); // none is open: fine
+    empty_page();
     Page_Reset();
     Loop_Reset();
     KF_Init();
+    reset_state();
+    GL_CreatePage = 0;
+    SDL_Event e;
+    while (SDL_PollEvent(&e)) {
+    }
     (void)TakeQueuedCommands(); // what an earlier test left
     TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
 }

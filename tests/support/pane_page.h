@@ -47,27 +47,15 @@ struct PanePage : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        Device_Init();
-        DeviceStructure();
         base = {.id = 1, .info = {1}, .create_func = nullptr, .proc_func = WriteDown};
         page = {.id = 0x71110000, .obj = {{OBJ_BA, &base, 0}}, .knobassign = -1};
         Page = &page;
-        GL_FM_Find_PaneID = 0;
         BA_Create(&base, 0);
         told.clear();
         ticks_ms = ticks = inputs = 0;
         on_button = nullptr;
     }
-    void TearDown() override
-    {
-        while (const int id = Pane_GetActiveID())
-            Pane_Quit(id);
-        BA_Create(nullptr, 0);
-        Page_Reset();
-        Device_Init();
-        DeviceStructure();
-        (void)TakeQueuedCommands();
-    }
+    void TearDown() override { Harness_Reset(); }
 
     static void Pass(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
     static void Press(int x, int y) { SendMessage(MSG_PRESS, x, y, 1, 0); }

@@ -16,26 +16,9 @@ struct KeyframePage : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        Device_Init();
-        DeviceStructure();
         SYS_FrameRate = 30;
-        SYS_3DMode = 0;
-        GL_TimelineDisplayPriority = 0;
-        GL_CreatePage = 0;
     }
-    void TearDown() override
-    {
-        CreatePage(PAGE_TOP);
-        Device_Init();
-        DeviceStructure();
-        SYS_FrameRate = 60;
-        SYS_3DMode = 0;
-        GL_TimelineDisplayPriority = 0;
-        KF_Init();
-        Page_Reset();
-        GL_CreatePage = 0;
-        (void)TakeQueuedCommands();
-    }
+    void TearDown() override { Harness_Reset(); }
     static void Open(uint32_t id)
     {
         ASSERT_EQ(CreatePage(id), 0);

@@ -27,30 +27,9 @@ struct TabPage : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        me_config_reset();
-        CloseScrollBarAll();
-        GL_DebugMode = 0;
-        SYS_RefSwrType = 0;
-        GL_CreatePage = 0;
-        std::fill(std::begin(multiprogram2_me), std::end(multiprogram2_me), 0);
-        std::fill(std::begin(GL_BoardMESplit), std::end(GL_BoardMESplit), 0);
         SetTree({"M/E-1", "Key1", "Type"}, 0x11110000);
     }
-    void TearDown() override
-    {
-        BA_SetDefaultButton(0);
-        NB_Create(nullptr, nullptr);
-        BT_SetKnobAssign(-1);
-        BA_Create(nullptr, 0);
-        CloseScrollBarAll();
-        me_config_reset();
-        Page_Reset();
-        std::fill(std::begin(multiprogram2_me), std::end(multiprogram2_me), 0);
-        std::fill(std::begin(GL_BoardMESplit), std::end(GL_BoardMESplit), 0);
-        SYS_RefSwrType = 0;
-        GL_CreatePage = 0;
-        (void)TakeQueuedCommands();
-    }
+    void TearDown() override { Harness_Reset(); }
 
     // The object of a kind stands behind the base area and the number boxes.
     void SetTree(std::initializer_list<const char*> tree, uint32_t id, int kind = OBJ_VF)

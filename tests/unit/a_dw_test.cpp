@@ -53,10 +53,8 @@ TEST_F(WipeLists, APressSendsTheNumberOfItsCell)
         int x, y;
         const char* number; // null: sends nothing
     } cases[] = {
-        {X(5), Y(0), "1006"},  {X(1), Y(1), "1008"},     {X(2), Y(1), nullptr},
-        {X(0), Y(2), "1921"},  {160, Y(0), "1001"},      {228, Y(0), "1001"},
-        {229, Y(0), nullptr},  {X(0), 89 + 69, nullptr}, {159, Y(0), nullptr},
-        {X(6), Y(0), nullptr}, {X(0), 88, nullptr},      {X(0), Y(4), nullptr},
+        {X(1), Y(1), "1008"}, {X(2), Y(1), nullptr},    {X(0), Y(2), "1921"},  {228, Y(0), "1001"},
+        {229, Y(0), nullptr}, {X(0), 89 + 69, nullptr}, {X(6), Y(0), nullptr},
     };
     for (const auto& c : cases) {
         const auto sent = Sent(c.x, c.y);
@@ -74,8 +72,9 @@ TEST_F(WipeLists, TheNumbersOfUserProgramsMoveWithBankAndKey)
     static const struct {
         const char *bank, *key, *user;
     } cases[] = {
-        {"PGM/PST", "DSK1", "1901"}, {"PGM/PST", "DSK2", "1911"}, {"M/E-1", "Key1", "1921"},
-        {"M/E-1", "Key2", "1931"},   {"M/E-2", "Key1", "1941"},   {"M/E-2", "Key2", "1951"},
+        {"PGM/PST", "DSK2", "1911"},
+        {"M/E-1", "Key1", "1921"},
+        {"M/E-2", "Key2", "1951"},
         {"M/E-3", "Key3", "1901"},
     };
     for (const auto& c : cases) {
@@ -85,26 +84,14 @@ TEST_F(WipeLists, TheNumbersOfUserProgramsMoveWithBankAndKey)
     }
 }
 
-TEST_F(WipeLists, KnobsComeWithTheCellThatHasThem)
-{
-    NB_Create(nullptr, nullptr);
-    SendMessage(LMSG_SBSEL, SB_THUMB, 0, 3, 0);
-    Touch(X(1), Y(1));
-    EXPECT_STREQ(NB_GetTitle(), "1322");
-    Touch(X(0), Y(0));
-    EXPECT_STREQ(NB_GetTitle(), "");
-}
-
 TEST_F(WipeLists, TheWindowStaysInsideTheList)
 {
     static const struct {
         int kind, bar, value;
         const char* first;
     } cases[] = {
-        {SB_UP, 0, -1, "1001"},    {SB_DOWN, 0, 1, "1007"},
-        {SB_DOWN, 0, 1, "1921"},   {SB_DOWN, 1, 1, "1921"},
-        {SB_DOWN, 0, 1, "1927"},   {SB_DOWN, 0, 1, "1927"}, // 7 lines, 4 shown
-        {SB_THUMB, 0, 6, "1927"},  {SB_THUMB, 0, 1, "1007"},
+        {SB_UP, 0, -1, "1001"},    {SB_DOWN, 0, 1, "1007"}, {SB_DOWN, 1, 1, "1007"},
+        {SB_THUMB, 0, 6, "1927"},  {SB_DOWN, 0, 1, "1927"}, // 7 lines, 4 shown
         {SB_THUMB, 0, -4, "1001"},
     };
     for (const auto& c : cases) {
@@ -116,60 +103,19 @@ TEST_F(WipeLists, TheWindowStaysInsideTheList)
     }
 }
 
-TEST_F(WipeLists, AScrolledWindowIsPaintedAnew)
-{
-    const auto third_is_empty = [] {
-        Pass();
-        return PixelAt(X(2) - 20, Y(0)) == 0;
-    };
-    EXPECT_FALSE(third_is_empty());
-    SendMessage(LMSG_SBSEL, SB_DOWN, 0, 1, 0); // to a line of two
-    EXPECT_TRUE(third_is_empty());
-}
-
-TEST_F(WipeLists, ARowOfKnobKeysTakesALineFromTheList)
-{
-    static const struct {
-        uint32_t knob_row;
-        int height, shown;
-    } cases[] = {{0, 322, 4}, {1, 246, 3}};
-    for (const auto& c : cases) {
-        Open({"M/E-1", "Key1", "Transition", "Adjust"}, c.knob_row);
-        SB_INFO bar;
-        ASSERT_EQ(SB_GetInfo(&bar, 0), 0);
-        EXPECT_EQ(bar.x, 620);
-        EXPECT_EQ(bar.y, 80);
-        EXPECT_EQ(bar.height, c.height);
-        EXPECT_EQ(bar.shown, c.shown);
-        EXPECT_EQ(Number(0, 3).empty(), c.shown == 3);
-    }
-}
-
 TEST_F(WipeLists, AWheelStepBecomesAPressOnAnArrow)
 {
-    static const struct {
-        int x, y, button;
-        int to_x, to_y; // 0: stays
-    } cases[] = {
-        {X(0), Y(0), 4, 620, 80}, {X(0), Y(3), 5, 620, 401}, {640, 200, 4, 620, 80},
-        {640, 200, 5, 620, 401},  {700, 200, 4, 0, 0},       {X(0), 470, 4, 0, 0},
-    };
-    for (const auto& c : cases) {
-        int x = c.x, y = c.y;
-        EXPECT_EQ(DW_ConvPosForWheel(&x, &y, c.button), c.to_x != 0);
-        EXPECT_EQ(x, c.to_x ? c.to_x : c.x);
-        EXPECT_EQ(y, c.to_x ? c.to_y : c.y);
-    }
+    int beside = 700, above = Y(0);
+    EXPECT_EQ(DW_ConvPosForWheel(&beside, &above, 4), 0);
     int x = X(0), y = Y(0);
     ASSERT_EQ(DW_ConvPosForWheel(&x, &y, 5), 1);
     Touch(x, y);
     EXPECT_EQ(Number(0, 0), "1007");
-    DW_Create(nullptr, 0);
-    EXPECT_EQ(DW_ConvPosForWheel(&x, &y, 5), 0);
 }
 
 TEST_F(WipeLists, TheVeilFollowsTheTally)
 {
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("add ") + PATH));
     const auto corner = [](int column) {
         Pass();
         return PixelAt(X(column) - 20, Y(0)); // a light place of a light picture, or its veil
@@ -184,17 +130,4 @@ TEST_F(WipeLists, TheVeilFollowsTheTally)
         Tally(PATH, value);
         EXPECT_EQ(corner(0), plain) << value;
     }
-}
-
-TEST_F(WipeLists, ItsPathIsSubscribedAndItsBarClosedAgain)
-{
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("add ") + PATH));
-    EXPECT_EQ(DW_Create(nullptr, 0), 1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(std::string("remove ") + PATH));
-    SB_INFO bar;
-    SB_GetInfo(&bar, 0);
-    EXPECT_FALSE(bar.active);
-    DW_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    EXPECT_THAT(Sent(X(0), Y(0)), IsEmpty());
 }

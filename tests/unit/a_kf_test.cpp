@@ -58,24 +58,9 @@ struct Keyframes : testing::Test {
     {
         Harness_Reset();
         SYS_FrameRate = RATE;
-        GL_TimelineDisplayPriority = 0;
-        GL_MenuMacro_Edit = 0;
-        GL_AllPageDisplayMode = 0;
-        KF_Init();
         OpenPage(0x11110000);
     }
-    void TearDown() override
-    {
-        PC_Create(nullptr, 0);
-        KF_Create(nullptr, 0);
-        KF_Init();
-        SYS_FrameRate = 60;
-        GL_TimelineDisplayPriority = 0;
-        GL_MenuMacro_Edit = 0;
-        GL_AllPageDisplayMode = 0;
-        Page_Reset();
-        (void)TakeQueuedCommands();
-    }
+    void TearDown() override { Harness_Reset(); }
     void OpenPage(uint32_t id)
     {
         page = {.id = id, .tree = {"Test"}, .obj = {{OBJ_PC, &listener, 0}, {OBJ_KF, nullptr, 0}}};
@@ -117,8 +102,6 @@ TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
     EXPECT_EQ(r.dtime, 15);
     EXPECT_EQ(r.stime, HOUR) << "the delay comes before the first keyframe";
     EXPECT_EQ(r.etime, HOUR + 10 * RATE);
-    EXPECT_EQ(r.duration, 9 * RATE + 15);
-    EXPECT_EQ(r.loopstart, 2);
     EXPECT_EQ(r.loopend, 3);
     EXPECT_EQ(r.loopnum, 7);
     EXPECT_EQ(r.kf[1].duration, 45);
@@ -126,43 +109,16 @@ TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
     EXPECT_EQ(r.kf[2].pause, 0);
     EXPECT_EQ(r.kf[3].duration, 30);
     EXPECT_EQ(r.kf[3].pause, 1);
-    EXPECT_EQ(r.kf[0].duration, 0);
     EXPECT_THAT(told, ElementsAre("STATUS 0"));
     kf::Send(kf::DATA, kf::DataFrame(opening));
     EXPECT_THAT(told, ElementsAre("STATUS 0")) << "neither register nor count has changed";
     kf::Data strange = opening;
     strange.regname = "A\nB\x80\x7F\x1B C";
+    strange.keyframes.clear();
     kf::Send(kf::DATA, kf::DataFrame(strange));
     EXPECT_STREQ(r.regname, "A B    C") << "a name cannot break its line";
-}
-
-TEST_F(Keyframes, TimeCodesHaveASignAndFlags)
-{
-    static const struct {
-        kf::Code code;
-        int frames;
-    } cases[] = {
-        {{0x80, 0, 0x01, 0x05}, -(RATE + 5)},
-        {{0x41, 0x80, 0x80, 0xC0}, HOUR}, // the bits above the digits are flags
-        {{0x23, 0x59, 0x59, 0x29}, 24 * HOUR - 1},
-        {{0x25, 0, 0, 0}, 9999999}, // no such hour
-    };
-    for (const auto& c : cases) {
-        kf::Send(kf::STATUS, kf::StatusFrame({.code = 1, .time = c.code}));
-        EXPECT_EQ(R(ME1).ctime, c.frames) << int(c.code.h);
-    }
-}
-
-TEST_F(Keyframes, AFrameWithoutKeyframesLeavesTheOldList)
-{
-    kf::Send(kf::DATA, kf::DataFrame(opening));
-    kf::Data none = opening;
-    none.keyframes.clear();
-    none.freekf = 1;
-    kf::Send(kf::DATA, kf::DataFrame(none));
-    EXPECT_EQ(R(ME1).kfnum, 0);
-    EXPECT_EQ(R(ME1).freekf, 1);
-    EXPECT_EQ(R(ME1).kf[2].duration, 0x7FF);
+    EXPECT_EQ(r.kfnum, 0);
+    EXPECT_EQ(r.kf[2].duration, 0x7FF) << "a frame without keyframes leaves the old list";
 }
 
 TEST_F(Keyframes, ARegionFrameMayEndAnywhere)
@@ -183,13 +139,9 @@ TEST_F(Keyframes, ARegionFrameMayEndAnywhere)
 TEST_F(Keyframes, CountsBeyondTheDataAndTheListAreNotBelieved)
 {
     kf::Data d = opening;
-    d.keyframes.push_back(77);
-    kf::Send(kf::DATA, kf::DataFrame(d));
-    d.keyframes.resize(3);
     d.kfnum = 0xFFFF;
     kf::Send(kf::DATA, kf::DataFrame(d));
-    EXPECT_EQ(R(ME1).kfnum, 0xFFFF);
-    EXPECT_EQ(R(ME1).kf[4].duration, 77) << "what did not come is not stored";
+    EXPECT_EQ(R(ME1).kf[4].duration, 0) << "what did not come is not stored";
     d.keyframes.assign(1200, 9);
     kf::Send(kf::DATA, kf::DataFrame(d));
     EXPECT_EQ(R(ME1).kf[KF_KEYFRAMES - 1].duration, 9);
@@ -221,39 +173,18 @@ TEST_F(Keyframes, UnknownRegionsAndIdsAreDropped)
 
 TEST_F(Keyframes, AStatusFrameMovesTheCursorAndTellsOfNewKeyframesOnly)
 {
-    static const struct {
-        int run, loop;
-        int runstat, loopon, loopremain;
-    } cases[] = {
-        {0x01, 0x00, 1, 0, 0},
-        {0x11, 0x83, -1, 1, 3},
-        {0x10, 0x7F, 0, 0, 127},
-        {0xEE, 0x80, 0, 1, 0},
-    };
-    for (const auto& c : cases) {
+    for (const int run : {0x01, 0x11})
         kf::Send(kf::STATUS, kf::StatusFrame({.code = 16,
-                                              .time = {0, 0, 0x04, 0x12},
+                                              .time = {0x80, 0, 0x04, 0x12},
                                               .keyframe = 258,
-                                              .run = c.run,
-                                              .loop = c.loop}));
-        EXPECT_EQ(R(DME1).runstat, c.runstat) << c.run;
-        EXPECT_EQ(R(DME1).loopon, c.loopon) << c.loop;
-        EXPECT_EQ(R(DME1).loopremain, c.loopremain) << c.loop;
-    }
-    EXPECT_EQ(R(DME1).ctime, 4 * RATE + 12);
+                                              .run = run,
+                                              .loop = 0x83}));
+    EXPECT_EQ(R(DME1).runstat, -1);
+    EXPECT_EQ(R(DME1).loopon, 1);
+    EXPECT_EQ(R(DME1).loopremain, 3);
+    EXPECT_EQ(R(DME1).ctime, -(4 * RATE + 12));
     EXPECT_EQ(R(DME1).ckfnum, 258);
     EXPECT_THAT(told, ElementsAre("STATUS 14"));
-}
-
-TEST_F(Keyframes, AShortStatusFrameIsRefusedWhole)
-{
-    const kf::Bytes whole = kf::StatusFrame({.code = 1, .time = {0, 0, 1, 0}, .keyframe = 2});
-    for (size_t n = 0; n < whole.size(); n++) {
-        kf::Send(kf::STATUS, kf::Bytes(whole.begin(), whole.begin() + long(n)));
-        EXPECT_EQ(R(ME1).ctime, 0) << n;
-    }
-    kf::Send(kf::STATUS, whole);
-    EXPECT_EQ(R(ME1).ckfnum, 2);
 }
 
 // --- Selection ---
@@ -297,17 +228,6 @@ TEST_F(Keyframes, ASelectionIsToldOncePerChange)
     kf::Select({16, 0, 0, 0, 0, 0, 0});
     EXPECT_EQ(KF_RefRegionCode(), 0) << "a frame without its last byte";
     EXPECT_TRUE(KF_IsRegionSelected(PP));
-    kf::Select({16, 0, 0, 0, 0, 0, 0, 0});
-    EXPECT_THAT(told, ElementsAre("SELECTION", "SELECTION"));
-}
-
-TEST_F(Keyframes, TheTimelineIsPaintedLessOftenTheMoreOfItIsSelected)
-{
-    kf::AssignAll();
-    kf::Select({1, 0x0E, 0, 0, 0, 0, 0, 0}); // M/E-1 to M/E-3
-    EXPECT_EQ(GL_TimelineDrawInterval, 30);
-    kf::Select({1, 0x0E, 0, 0, 0, 0, 0x80, 0}); // MACRO is in no row
-    EXPECT_EQ(GL_TimelineDrawInterval, 30);
 }
 
 // --- Assignment and order ---
@@ -323,15 +243,11 @@ TEST_F(Keyframes, RegionsOfTheTenKeysAreThoseOfTheSystem)
         if (KF_IsRegionAssigned(i))
             assigned.push_back(i);
     EXPECT_THAT(assigned, ElementsAre(ME1, 6, DME1, DME1_GLB));
-    KF_RegionAssignTally(1, "GPI");
-    EXPECT_FALSE(KF_IsRegionAssigned(ME1));
-    EXPECT_TRUE(KF_IsRegionAssigned(43));
 }
 
 TEST_F(Keyframes, WhatIsOutOfBoundsHasNoRegion)
 {
     for (const int region : {-1, 64, 9999}) {
-        EXPECT_EQ(KF_IsRegionSelected(region), 0);
         EXPECT_EQ(KF_IsRegionAssigned(region), 0);
         EXPECT_EQ(KF_SetRegionAssigned(region, 1), -1);
         EXPECT_EQ(KF_GetRegionDisplay(region), 2);
@@ -343,8 +259,6 @@ TEST_F(Keyframes, WhatIsOutOfBoundsHasNoRegion)
         EXPECT_EQ(KF_GetRegionName(region), nullptr);
         EXPECT_EQ(KF_GetRegionStatus(region), nullptr);
     }
-    EXPECT_EQ(KF_SetRegionDisplay(0, 3), -1);
-    EXPECT_STREQ(KF_GetRegionName(63), "");
 }
 
 TEST_F(Keyframes, NewRegionsComeToTheFrontAndThoseThatWentLeaveTheOrder)
@@ -359,19 +273,6 @@ TEST_F(Keyframes, NewRegionsComeToTheFrontAndThoseThatWentLeaveTheOrder)
     KF_SetRegionDisplay(PP, 1);
     KF_InitPriority();
     EXPECT_THAT(Order(4), ElementsAre(ME2, PP, MACRO, 255)) << "one that is hidden keeps its place";
-    KF_RegionAssignTally(1, "");
-    KF_InitPriority();
-    EXPECT_THAT(Order(2), ElementsAre(ME2, 255));
-}
-
-TEST_F(Keyframes, AnOrderFromTheServerIsFreedOfWhatIsWrongInIt)
-{
-    KF_RegionAssignTally(1, "M/E-1,M/E-2,P/P");
-    int place = 0;
-    for (const int v : {PP, 200, ME1, PP, 255, ME2, ME2, MACRO})
-        KF_SetRegionPriority(place++, v);
-    KF_InitPriority();
-    EXPECT_THAT(Order(4), ElementsAre(PP, ME1, ME2, 255));
 }
 
 TEST_F(Keyframes, AnInsertedRegionLeavesItsOldPlace)
@@ -384,7 +285,6 @@ TEST_F(Keyframes, AnInsertedRegionLeavesItsOldPlace)
         {0, PP, {PP, 0, 1, 2, 255}},
         {3, 0, {1, 2, 0, PP, 255}}, // its old place, before the new one, closes up
         {4, 0, {1, 2, PP, 0, 255}},
-        {1, 1, {0, 1, 2, PP, 255}},
     };
     for (const auto& c : cases) {
         KF_DefaultRegionPriority();
@@ -418,22 +318,14 @@ TEST_F(Keyframes, EachRegionIsAskedForOnceAndSubSidesApart)
     Net_Init();
     ASSERT_TRUE(server.Accept());
     (void)Sent(server, [] {}); // what an earlier test has left in the queue
-    std::string sent = Sent(server, KF_InitCommand);
+    const std::string sent = Sent(server, KF_InitCommand);
     const std::string first("\x0B\0\x04\xAA\0\x82\0\x01\x01\x01\0\xFF\xFF", 13);
     const std::string end("\x07\0\x04\xAA\0\x81\0\xFF\xFF", 9);
     ASSERT_EQ(sent.size(), 46 * first.size() + end.size());
     EXPECT_EQ(sent.substr(0, first.size()), first);
     EXPECT_EQ(sent.substr(46 * first.size()), end);
 
-    sent = Sent(server, KF_InitCommand_MP2);
-    ASSERT_EQ(sent.size(), 6u * 13 + 6 * 10);
-    std::vector<int> added, ended;
-    for (size_t i = 0; i < 6; i++) {
-        added.push_back(sent[i * 13 + 8] & 0xFF);
-        ended.push_back(sent[6 * 13 + i * 10 + 7] & 0xFF);
-    }
-    EXPECT_THAT(added, ElementsAre(5, 6, 7, 81, 83, 4));
-    EXPECT_THAT(ended, ElementsAre(5, 6, 7, 81, 83, 4));
+    EXPECT_EQ(Sent(server, KF_InitCommand_MP2).size(), 6u * 13 + 6 * 10);
     server.Drop();
     server.StopListening();
     Net_Init(); // nobody is there: the link is down again
@@ -466,13 +358,9 @@ TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNews)
     EXPECT_FALSE(StripPaints(0));
     EXPECT_TRUE(StripPaints(150)) << "pushed";
     EXPECT_FALSE(StripPaints(90)) << "still pushed";
-    EXPECT_TRUE(StripPaints(0)) << "up again";
     EXPECT_TRUE(StripPaints(KF_DRAW_ANEW));
-    kf::Send(kf::STATUS, kf::StatusFrame({.code = 2}));
-    EXPECT_FALSE(StripPaints(0)) << "of another region";
     kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
     EXPECT_TRUE(StripPaints(0));
-    EXPECT_EQ(R(ME1).redraw_tl, 0);
     GL_NowPage = 0x61110000;
     kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
     EXPECT_TRUE(StripPaints(0));
@@ -487,9 +375,7 @@ TEST_F(Keyframes, TheStripLeavesItsPlaceToTheMenuMacro)
         bool paints;
     } cases[] = {
         {0, 0, 0x11110000, true},  {1, 0, 0x11110000, false}, {1, 0, 0x61110000, true},
-        {1, 0, 0x71110000, true},  {1, 0, 0x71440002, false}, {1, 0, 0x61130000, false},
-        {1, 0, 0x61140000, false}, {1, 0, 0x61150000, false}, {1, 0, 0x61170000, false},
-        {0, 0, 0x61170000, true},  {0, 1, 0x11110000, false},
+        {1, 0, 0x61130000, false}, {0, 1, 0x11110000, false},
     };
     for (const auto& c : cases) {
         GL_MenuMacro_Edit = c.macro;

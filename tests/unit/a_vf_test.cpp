@@ -27,13 +27,7 @@ struct LeftTabs : TabPage {
     void SetUp() override
     {
         TabPage::SetUp();
-        (void)TakeQueuedCommands();
         VF_Create(tabs, 1);
-    }
-    void TearDown() override
-    {
-        VF_Create(nullptr, 0);
-        TabPage::TearDown();
     }
 };
 
@@ -43,35 +37,20 @@ TEST_F(LeftTabs, APressAsksForThePageOfItsSlot)
         int x, y;
         uint32_t page;
     } cases[] = {
-        {X, Slot(1), 0x11110000}, {X, Slot(2) - 1, 0x11110000}, {X, Slot(2), 0x11210000},
-        {3, Slot(2), 0x11210000}, {93, Slot(2), 0x11210000},    {2, Slot(2), 0},
-        {94, Slot(2), 0},         {X, Slot(1) - 1, 0},          {X, Slot(4), 0}, // no page
-        {X, Slot(6), 0},                                                         // no row
-        {X, Slot(7), 0x11000000}, {X, 527, 0x11000000},         {X, 528, 0},
+        {X, Slot(2) - 1, 0x11110000},
+        {X, Slot(2), 0x11210000},
+        {93, Slot(2), 0x11210000},
+        {94, Slot(2), 0},
+        {X, Slot(4), 0},
+        {X, Slot(6), 0},
+        {X, 527, 0x11000000},
+        {X, 528, 0},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Asked(c.x, c.y), c.page) << c.x << "," << c.y;
     EXPECT_EQ(VF_SetDisplay(2, 0), 0);
     EXPECT_EQ(Asked(X, Slot(2)), 0u);
     EXPECT_EQ(VF_SetDisplay(6, 1), -1);
-}
-
-TEST_F(LeftTabs, OneDeviceHasNoEdgePageForKeysThreeAndFour)
-{
-    static const struct {
-        int device, slot;
-        uint32_t page, opens;
-    } cases[] = {
-        {256, 3, 0x12320000, 0x12310000}, {256, 4, 0x12420000, 0x12410000},
-        {256, 2, 0x12220000, 0x12220000}, {256, 3, 0x12330000, 0x12330000},
-        {256, 3, 0x81320000, 0x81320000}, {512, 3, 0x12320000, 0x12320000},
-    };
-    for (const auto& c : cases) {
-        const VF_TBL one[] = {{.id = c.slot, .caption = "Key", .page = c.page}, VF_END};
-        VF_Create(one, 1);
-        SYS_RefSwrType = c.device;
-        EXPECT_EQ(Asked(X, Slot(c.slot)), c.opens) << std::hex << c.page;
-    }
 }
 
 TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
@@ -94,61 +73,9 @@ TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
     EXPECT_THAT(Sent(X, Slot(2)), IsEmpty());
 }
 
-TEST_F(LeftTabs, ARecallOnAWipePageTakesTheKnobsOfTwoButtons)
-{
-    static const struct {
-        uint32_t page;
-        int owner, owner_after;
-    } cases[] = {
-        {0x11510000, 33, -1}, {0x15530000, 34, -1}, {0x81510000, 33, -1}, {0x11510000, 35, 35},
-        {0x11610000, 33, 33}, {0x11110000, 34, 34}, {0x41510000, 33, 33},
-    };
-    static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 1}, NB_END};
-    for (const auto& c : cases) {
-        GL_NowPage = c.page;
-        BT_SetKnobAssign(c.owner);
-        NB_Create(boxes, "Held");
-        BA_SetDefaultButton(1);
-        Touch(X, Slot(1));
-        EXPECT_EQ(BT_GetKnobAssign(), c.owner_after) << std::hex << c.page;
-        EXPECT_STREQ(NB_GetTitle(), c.owner_after < 0 ? "" : "Held");
-    }
-}
-
-TEST_F(LeftTabs, EachPathIsSubscribedOnceAndRemovedAgain)
+TEST_F(LeftTabs, EachPathIsSubscribedOnce)
 {
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Enable"));
-    EXPECT_EQ(VF_Create(nullptr, 0), 1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Enable"));
-    VF_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    EXPECT_EQ(Asked(X, Slot(1)), 0u);
-}
-
-TEST_F(LeftTabs, AStatusFollowsItsTally)
-{
-    static const struct {
-        const char* value;
-        int first, second;
-    } cases[] = {{"true", 1, 0}, {"false", 0, 1}, {"tru", 0, 0}, {"", 0, 0}};
-    for (const auto& c : cases) {
-        Tally("M/E-1@Key1@Enable", c.value);
-        EXPECT_EQ(VF_GetStatus(1), c.first) << c.value;
-        EXPECT_EQ(VF_GetStatus(2), c.second) << c.value;
-    }
-}
-
-TEST_F(LeftTabs, RowsThatDoNotFitAreLeftOut)
-{
-    VF_TBL rows[VF_MAX + 2];
-    for (int i = 0; i <= VF_MAX; i++)
-        rows[i] = {.id = i + 1, .caption = "Tab", .page = 0x11000000};
-    rows[VF_MAX + 1] = VF_END;
-    VF_Create(rows, 1);
-    EXPECT_EQ(VF_SetDisplay(VF_MAX, 1), 0);
-    EXPECT_EQ(VF_SetDisplay(VF_MAX + 1, 1), -1);
-    Pass();
-    EXPECT_EQ(PixelAt(50, Slot(8) + 20), 0u); // slots below the seventh are not painted
 }
 
 TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
@@ -161,12 +88,8 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
         {0x11210000, "Main", "Sub"}, // key 2: both
         {0x11310000, "", "Sub"},     // key 3: output 2
         {0x11410000, "", ""},        // key 4: no output
-        {0x15110000, "", "Sub"},     // key 5
         {0x12410000, "Main", ""},    // a bank of one side
-        {0x81110000, "Main", ""},    // a bank whose lists have not come
-        {0x14110000, "", "Sub"},     //
         {0x11510000, "", ""},        // no key page
-        {0x00110000, "", ""},        //
     };
     multiprogram2_me[0] = multiprogram2_me[1] = multiprogram2_me[4] = 1;
     for (const char* row : {"M/E-1,1,Main", "M/E-1,2,Sub", "P/P,8,Sub", "M/E-2,1,Sub"})
@@ -188,19 +111,6 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
     EXPECT_STREQ(keyassign_str_get(0x11310000).main, "Main");
 }
 
-TEST_F(LeftTabs, AChangedListRepaintsTheKeyLine)
-{
-    constexpr int LINE_X = 84; // on the plate, right of its text
-    const int line_y = Slot(2) + 50;
-    multiprogram2_me[1] = 1;
-    Pass();
-    const uint32_t plate = PixelAt(LINE_X, line_y);
-    Tally(OUTPUT_LIST, "M/E-1,1,Main");
-    Tally(PGM_LIST, "M/E-1,1,00");
-    Pass();
-    EXPECT_NE(PixelAt(LINE_X, line_y), plate); // no output shows a key: no plate
-}
-
 TEST_F(LeftTabs, ARotationIsKeptByBankAndKey)
 {
     static const struct {
@@ -210,15 +120,11 @@ TEST_F(LeftTabs, ARotationIsKeptByBankAndKey)
         {"M/E-1@Key2@Processed Key@Rotation", "true", 1, 2, 1},
         {"PGM/PST@DSK8@Processed Key@Rotation", "2", 0, 8, 2},
         {"M/E-1@Key2@Processed Key@Rotation@X", "7", 1, 2, 1},
-        {"M/E-7@Key2@Processed Key@Rotation", "7", 1, 2, 1},
         {"M/E-1@Key9@Processed Key@Rotation", "7", 1, 9, 0},
-        {"M/E-1@Key0@Processed Key@Rotation", "7", 1, 0, 0},
-        {"M/E-1@Key2@Processed Key@Rotation", "LOCAL", 1, 2, 1},
     };
     for (const auto& c : cases) {
         Tally(c.path, c.value);
         EXPECT_EQ(GL_ProcKeyRotationInfo(c.me, c.key), c.info) << c.path;
     }
     EXPECT_EQ(GL_ProcKeyRotationInfo(6, 1), 0);
-    EXPECT_EQ(GL_ProcKeyRotationInfo(-1, 1), 0);
 }

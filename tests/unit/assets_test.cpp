@@ -1,7 +1,6 @@
 // What assetgen leaves in the run directory, read as the application reads it.
 #include "../../assets/wipe_numbers.h"
 #include "types.h"
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -15,7 +14,6 @@ using Bytes = std::string;
 namespace
 {
 const std::string RUN_DIR = TEST_RUN_DIR;
-const std::string ASSETGEN = RUN_DIR + "/../bin/assetgen";
 
 const char* const STEMS[] = {
 #define BITMAP(name, file) file,
@@ -70,14 +68,6 @@ int text_width(const Bytes& offsets, int font, const char* text)
     return width;
 }
 
-std::vector<int> small_model_numbers()
-{
-    std::vector<int> list;
-    for (const NumberRange& r : WIPE_NUMBERS_SMALL_MODEL)
-        for (int n = r.first; n <= r.last; n++)
-            list.push_back(n);
-    return list;
-}
 } // namespace
 
 TEST(Assets, FontsHaveTheMeasuredWidths)
@@ -86,10 +76,6 @@ TEST(Assets, FontsHaveTheMeasuredWidths)
     const Bytes offsets = read_file(RUN_DIR + "/font_ofs.dat");
     ASSERT_EQ(offsets.size(), 5120u);
     EXPECT_EQ(little_endian(offsets, 9 * 512 + 127 * 4), 116281u); // end of the last glyph of all
-
-    static const int heights[] = {12, 13, 15, 14, 14, 15, 13, 21, 21, 25};
-    for (int font = 0; font < 10; font++)
-        EXPECT_EQ(little_endian(offsets, size_t(font * 512)), uint32_t(heights[font])) << font;
 
     static const struct {
         const char* text;
@@ -134,44 +120,13 @@ TEST(Assets, EveryWipeNumberHasAPicture)
             ASSERT_EQ(p.height, 48) << n;
             EXPECT_EQ(pixel(p, 1, 24), 0u) << n; // outside the screen
         }
-    files += small_model_numbers().size();
+    for (const NumberRange& r : WIPE_NUMBERS_SMALL_MODEL)
+        for (int n = r.first; n <= r.last; n++, files++) {
+            const Bytes small = read_picture("ptn/" + std::to_string(n) + "e").file;
+            EXPECT_NE(small, read_picture("ptn/" + std::to_string(n)).file) << n;
+            EXPECT_EQ(small, read_picture("ptn/" + std::to_string(n - 1000)).file) << n;
+        }
     const fs::directory_iterator folder(RUN_DIR + "/graphics/ptn");
     EXPECT_EQ(size_t(std::distance(begin(folder), end(folder))), files)
         << "a number without a meaning has a file";
-}
-
-TEST(Assets, SmallModelHasNoChannelSquares)
-{
-    ASSERT_EQ(small_model_numbers().size(), 29u);
-    for (int n : small_model_numbers()) {
-        const Picture full = read_picture("ptn/" + std::to_string(n));
-        const Picture small = read_picture("ptn/" + std::to_string(n) + "e");
-        const Picture one_channel = read_picture("ptn/" + std::to_string(n - 1000));
-        EXPECT_EQ(pixel(full, 53, 6), 0x00FFFFu) << n;
-        EXPECT_EQ(small.file, one_channel.file) << n;
-        ASSERT_NE(small.file, full.file) << n;
-    }
-}
-
-TEST(Assets, AnotherRunGivesTheSameBytes)
-{
-    const fs::path dir = fs::temp_directory_path() / "assets_again";
-    fs::remove_all(dir);
-    ASSERT_EQ(system((ASSETGEN + " " + dir.string()).c_str()), 0);
-    size_t compared = 0;
-    for (const auto& entry : fs::recursive_directory_iterator(dir)) {
-        if (!entry.is_regular_file())
-            continue;
-        const std::string name = fs::relative(entry.path(), dir).string();
-        EXPECT_EQ(read_file(entry.path().string()), read_file(RUN_DIR + "/" + name)) << name;
-        compared++;
-    }
-    EXPECT_GT(compared, std::size(STEMS));
-    fs::remove_all(dir);
-}
-
-TEST(Assets, AFolderThatCannotBeMadeFailsTheRun)
-{
-    EXPECT_NE(system((ASSETGEN + " /proc/nowhere 2>/dev/null").c_str()), 0);
-    EXPECT_NE(system((ASSETGEN + " 2>/dev/null").c_str()), 0);
 }

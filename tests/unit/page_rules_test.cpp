@@ -46,35 +46,16 @@ void Install(const char* unit)
     snprintf(Page_InstallUnit, sizeof Page_InstallUnit, "%s", unit);
 }
 
-// As at process start.
-void Nothing()
-{
-    Harness_Reset();
-    Device_Init();
-    SYS_SetupTarget = SYS_DMEReference = SYS_DualProc = SYS_Simul = SYS_3DMode = SYS_4KMode = 0;
-    SYS_Format_Size = SYS_Format_Freq = SYS_Format_Scan = 0;
-    SYS_KeyTransitionME1 = SYS_KeyTransitionME2 = SYS_KeyTransitionME3 = 0;
-    SYS_KeyTransitionME4 = SYS_KeyTransitionME5 = SYS_KeyTransitionPP = 0;
-    GL_AllPageDisplayMode = GL_KeyRowMode = 0;
-    for (int* flags : {SYS_Combine, SYS_CombineCh})
-        std::fill_n(flags, 8, 0);
-    for (int* flags : {SYS_MEOperation, multiprogram2_me, me_config_type})
-        std::fill_n(flags, ME_COUNT, 0);
-    std::fill_n(GL_BoardMESplit, 5, 0);
-    for (int* units : {GL_DmeSdiIF, GL_DmeModel})
-        std::fill_n(units, 4, 0);
-}
-
 // One switcher of the middle generation, one effects unit, one panel, nothing special on.
 void Standard()
 {
-    Nothing();
+    Harness_Reset();
     Dme(3); // FXU50
     Switcher(DEVTYPE_KTR40A);
 }
 
 struct PageRules : testing::Test {
-    void TearDown() override { Nothing(); }
+    void TearDown() override { Harness_Reset(); }
 };
 
 struct Case {
@@ -101,28 +82,13 @@ TEST_F(PageRules, GlobalEffectFollowsProcessorsAndModels)
     static const Case cases[] = {
         {0x42000000, 0x42000000},
         {0x42000000, 0x42000400, [] { Dual(), In3D(); }}, // 3D before all else
-        {0x42000000, 0x42000500, [] { Dual(), Dme(8); }},
-        {0x42000000, 0x42000200, [] { Dual(), Dme(5); }},
-        {0x42110000, 0x42111000, In3D},
-        {0x42110000, 0x42110900, Dual},
         {0x42110000, 0x42110800, [] { Dme(5); }},
-        {0x42210000, 0x42211000, In3D},
-        {0x42210000, 0x42210100, [] { Dme(5); }},
         {0x42120000, 0x42120400, In3D},
         {0x42120000, 0x42120200, [] { Dual(), Dme(8); }},
         {0x42120000, 0x42120100, [] { SYS_CombineCh[1] = SYS_CombineCh[2] = 1; }},
-        {0x42120000, 0x42120100, [] { SYS_CombineCh[2] = SYS_CombineCh[3] = 1; }},
-        {0x42120000, 0x42120200, [] { SYS_CombineCh[1] = SYS_CombineCh[3] = 1; }},
-        {0x42220000, 0x42220400, In3D},
         {0x42220000, 0x42220100, [] { SYS_CombineCh[5] = SYS_CombineCh[6] = 1; }},
-        {0x42220000, 0x42220100, [] { SYS_CombineCh[6] = SYS_CombineCh[7] = 1; }},
-        {0x42130000, 0x42130300, In3D},
-        {0x42130000, 0x42130200, Dual},
         {0x42130000, 0x42130000, [] { Dual(), Dme(8); }},
-        {0x42160000, 0x42160100, Dual},
-        {0x42170000, 0x42170200, In3D},
         {0x42270000, 0x42270100, [] { Run1080p(), Dme(8); }},
-        {0x42270000, 0x42270000, [] { Dme(8); }},
     };
     Check(cases);
 }
@@ -136,8 +102,7 @@ TEST_F(PageRules, CombinedChannelsPickThePageOfTheirGroup)
     } cases[] = {
         {{0, 0, 0, 0}, 0, 0x0100}, {{0, 1, 1, 0}, 0, 0x0300}, {{0, 1, 1, 1}, 0, 0x0400},
         {{0, 0, 1, 1}, 0, 0x0500}, {{1, 1, 1, 0}, 1, 0x0200}, {{1, 1, 1, 1}, 0, 0x0600},
-        {{1, 1, 1, 1}, 1, 0x0700}, {{1, 1, 0, 0}, 0, 0x0100}, {{1, 0, 1, 1}, 1, 0x0100},
-        {{1, 1, 0, 1}, 0, 0x0100}, {{0, 1, 0, 1}, 0, 0x0100},
+        {{1, 1, 1, 1}, 1, 0x0700}, {{1, 0, 1, 1}, 1, 0x0100},
     };
     for (const auto& c : cases) {
         for (int group = 0; group < 2; group++) {
@@ -156,26 +121,14 @@ TEST_F(PageRules, CombinedChannelsPickThePageOfTheirGroup)
 TEST_F(PageRules, VariantsOfOperationPages)
 {
     static const Case cases[] = {
-        {0x24170000, 0x24170000},
-        {0x24170000, 0x24170100, [] { Switcher(DEVTYPE_KTR40X); }},
         {0x24270000, 0x24270000, [] { Switcher(DEVTYPE_KTR40XSF); }},
         {0x33110000, 0x33110100},
-        {0x33110000, 0x33110200, [] { Switcher(DEVTYPE_KTR40E); }},
-        {0x41110000, 0x41110100, [] { Dme(1); }},
-        {0x41110000, 0x41110200, [] { Dme(2); }},
-        {0x41610000, 0x41610100, [] { Dme(6); }},
         {0x41110000, 0x41110100, [] { SYS_DMEReference = 0x10; }}, // the second group has no unit
-        {0x41210000, 0x41210100, [] { Dme(2); }},
         {0x41210000, 0x41210200, [] { Dme(6), GL_DmeSdiIF[0] = 1; }},
-        {0x41210000, 0x41210100, [] { Dme(3), GL_DmeSdiIF[0] = 1; }},
         {0x41210000, 0x41210100,
          [] { Dme(4), GL_DmeSdiIF[0] = 1, Switcher(DEVTYPE_KTR40X), Run1080p(); }},
         {0x31210000, 0x31210100, Run1080p},
-        {0x32110000, 0x32110000, Run1080p},
         {0x32110000, 0x32110100, Dual},
-        {0x71510001, 0x71510201},
-        {0x71510000, 0x71510100, [] { Switcher(DEVTYPE_LTR50); }},
-        {0x71520000, 0x71520000},
         {0x71520000, 0, [] { Switcher(DEVTYPE_LTR50); }},
     };
     Check(cases);
@@ -208,18 +161,10 @@ TEST_F(PageRules, TimelinePagesFollowLinkAndConfig)
     static const Case cases[] = {
         {0x61130000, 0x61131000},
         {0x61130004, 0x61134004, on_3g},
-        {0x61131021, 0x61131021}, // asked for with a variant: it is chosen anew
         {0x61130021, 0x61131021},
-        {0x61130005, 0x61130005},
-        {0x61130005, 0x61133005, [] { Switcher(DEVTYPE_KTR40X); }},
-        {0x61130013, 0x61130013, [] { Switcher(DEVTYPE_NTR40); }},
-        {0x61130017, 0x61130017},
         {0x61130017, 0x61133017, on_3g},
-        {0x61131501, 0x61130501},
-        {0x61131501, 0x61131501, mp2},
         {0x61131502, 0x61130502, [] { mp2(), me_config_type[2] = 2; }},
         {0x61131504, 0x61130504, [] { mp2(), me_config_type[0] = 2; }}, // P/P
-        {0x61130016, 0x61130016},
         {0x61130016, 0, [] { GL_BoardMESplit[4] = 4; }},
     };
     Check(cases);
@@ -228,21 +173,11 @@ TEST_F(PageRules, TimelinePagesFollowLinkAndConfig)
 TEST_F(PageRules, VariantsOfEngineeringPages)
 {
     static const Case cases[] = {
-        {0x73160008, 0x73160908},
         {0x73160108, 0x73160308, [] { Install("SWR2"); }},
         {0x73160308, 0x73160208, [] { Install("Menu"), Switcher(DEVTYPE_KTR40SF); }},
         {0x73160008, 0x73160908, [] { Install("Menu"), Switcher(DEVTYPE_LTR50); }},
-        {0x73160008, 0x73160908, [] { Install("DME1"), Switcher(DEVTYPE_KTR40); }},
-        {0x73310006, 0x73310006},
         {0x73310006, 0x73310106, [] { Switcher(DEVTYPE_KTR40E); }},
-        {0x73430000, 0x73430000},
-        {0x73410001, 0x73410001},
-        {0x73410001, 0x73410101, Dual},
         {0x73410001, 0x73410201, [] { Dual(), Dme(8); }},
-        {0x73440001, 0x73440201, [] { Run1080p(), Dme(8); }},
-        {0x73440006, 0x73440006, [] { Dual(), Dme(8); }},
-        {0x73440005, 0x73440005, Dual},
-        {0x99910000, 0x99910000},
         {0x99910000, 0x99911000, [] { Switcher(DEVTYPE_KTR40), Dme(1); }},
         {0x99910004, 0x99910004, [] { Switcher(DEVTYPE_KTR40SF), Dme(1), Panel(DEVTYPE_QRD11B); }},
     };
@@ -251,37 +186,19 @@ TEST_F(PageRules, VariantsOfEngineeringPages)
 
 TEST_F(PageRules, PagesThatTheModelsLackAreHidden)
 {
-    static const auto old_swr = [] { Switcher(DEVTYPE_LTR50SF); };
     static const auto fc = [] {
         Switcher(DEVTYPE_KTR40GSF), DEV_Swr[0].function[FUNCTION_FRAME_CONVERTER] = 1;
     };
     static const Case cases[] = {
-        {0x73220010, 0x73220010},
-        {0x73220010, 0, old_swr},
-        {0x73330007, 0},
         {0x73330007, 0x73330007, fc},
         {0x73330007, 0, [] { fc(), Run1080p(); }},
-        {0x73330007, 0, [] { fc(), In3D(); }},
         {0x73330007, 0, [] { fc(), DEV_Swr[0].function[FUNCTION_FRAME_CONVERTER] = 0; }},
-        {0x73330007, 0, [] { fc(), Switcher(DEVTYPE_KTR40X); }},
-        {0x73330008, 0},
-        {0x73330008, 0x73330008, [] { Switcher(DEVTYPE_KTR40E); }},
-        {0x32120000, 0},
         {0x32120000, 0x32120000, [] { DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = 2; }},
-        {0x73310015, 0},
-        {0x73310015, 0x73310015, [] { Dme(8); }},
         {0x625F1234, 0, [] { Dme(5); }},
-        {0x41130000, 0x41130000},
         {0x41130000, 0, [] { Dme(4); }},
-        {0x41730001, 0, [] { Dme(4); }},
-        {0x73440007, 0},
         {0x73440007, 0x73440007, Dual},
-        {0x73240002, 0x73240002, [] { Panel(DEVTYPE_QRD31); }},
         {0x73240002, 0, [] { Panel(DEVTYPE_QRD21); }},
         {0x73260007, 0, [] { Panel(DEVTYPE_QRD11B); }},
-        {0x73260013, 0, [] { GL_KeyRowMode = 1; }},
-        {0x73160011, 0},
-        {0x11120004, 0},
         {0x81420004, 0x81420004, [] { Switcher(DEVTYPE_KTR40E); }},
         {0, 0},
     };
@@ -292,23 +209,13 @@ TEST_F(PageRules, BanksThatAreNotInUseAreHidden)
 {
     static const auto mp2_me4 = [] { multiprogram2_me[4] = 1; };
     static const Case cases[] = {
-        {0x11110000, 0x11110000},
         {0x11110000, 0, [] { SYS_Simul = 1; }},
-        {0x13110000, 0x13110000, [] { SYS_Simul = 1; }},
         {0x11110000, 0, [] { SYS_MEOperation[0] = 1; }},
-        {0x81110000, 0, [] { SYS_MEOperation[3] = 2; }},
         {0x14110000, 0, [] { SYS_MEOperation[5] = 1; }},
-        {0x82110000, 0x82110000, [] { SYS_MEOperation[5] = 1; }},
-        {0x15110000, 0x15110000}, // key 5
-        {0x85510000, 0},          // the sub side of M/E-4
         {0x85510000, 0x85510000, mp2_me4},
         {0x86510000, 0, mp2_me4},
-        {0x11760000, 0x11760000},
         {0x11760000, 0, [] { SYS_4KMode = 1; }},
-        {0x82760100, 0, [] { Switcher(DEVTYPE_KTR40); }},
-        {0x81600007, 0, [] { Switcher(DEVTYPE_KTR40); }},
         {0x85600007, 0x85600007, [] { Switcher(DEVTYPE_KTR40), multiprogram2_me[4] = 1; }},
-        {0x14600007, 0x14600007},
     };
     Check(cases);
 }
@@ -319,11 +226,8 @@ TEST_F(PageRules, ATransferFoldsATabIntoItsFirstPage)
         uint32_t page;
         uint32_t first;
     } cases[] = {
-        {0x21110000, 0x21100000}, {0x21100000, 0x21100000}, {0x21670203, 0x21600000},
-        {0x64110001, 0x64100000}, {0x71510200, 0x71500000}, {0x71810000, 0x71810000},
-        {0x73110099, 0x73100000}, {0x73210000, 0x73210000}, {0x74310000, 0x74300000},
-        {0x11760002, 0x11700000}, {0x86760000, 0x86700000}, {0x11750000, 0x11750000},
-        {0x41760000, 0x41760000},
+        {0x21670203, 0x21600000}, {0x71510200, 0x71500000}, {0x71810000, 0x71810000},
+        {0x73110099, 0x73100000}, {0x86760000, 0x86700000}, {0x11750000, 0x11750000},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Page_FirstOfTab(c.page), c.first) << std::hex << c.page;

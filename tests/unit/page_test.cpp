@@ -24,30 +24,13 @@ uint32_t KeyPage(int n)
 struct PageTest : testing::Test {
     void SetUp() override
     {
-        Nothing();
+        Harness_Reset();
         unlink(LOG_FILE);
         Log_Init(LOG_FILE, LOG_FILE_SIZE);
         Log_SetLevel(LOG_LIFE);
         log_read = 0;
-        (void)TakeQueuedCommands();
     }
-    void TearDown() override
-    {
-        Log_Init(nullptr, LOG_FILE_SIZE);
-        Nothing();
-    }
-    static void Nothing() // as at process start
-    {
-        Harness_Reset();
-        Device_Init();
-        GL_CreatePage = 0;
-        SYS_Simul = SYS_DualProc = SYS_3DMode = GL_AllPageDisplayMode = 0;
-        GL_Macro_Offline_Store = GL_Macro_Online_TrueOrFalse = GL_MenuMacro_Edit = 0;
-        for (int* flags : {SYS_MEOperation, multiprogram2_me})
-            std::fill_n(flags, ME_COUNT, 0);
-        std::fill_n(GL_DmeModel, 4, 0);
-        std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
-    }
+    void TearDown() override { Harness_Reset(); }
 
     // What has been logged since the last call.
     std::string Logged()
@@ -94,15 +77,10 @@ TEST_F(PageTest, OpeningAPageTakesItsRow)
     EXPECT_EQ(MeKeyTpye, 1);
     EXPECT_EQ(GL_OmoteNowPage, 0x12210000u);
     EXPECT_EQ(GL_OmotePrevPage, PAGE_TOP);
-    EXPECT_TRUE(IsObjetype(OBJ_BA));
-    EXPECT_FALSE(IsObjetype(OBJ_ERR));
     ASSERT_EQ(CreatePage(0x33110000), 0);
     EXPECT_EQ(GL_NowPage, 0x33110000u); // as asked for ...
     EXPECT_EQ(Page->id, 0x33110100u);   // ... the row is the variant
     EXPECT_EQ(GL_PrevPage, 0x12210000u);
-    const std::string log = Logged();
-    EXPECT_NE(log.find("***** CreatePage(33110000h) Called *****"), std::string::npos) << log;
-    EXPECT_NE(log.find("Add Omote Page: 33110000h"), std::string::npos) << log;
 }
 
 TEST_F(PageTest, ARequestWithoutAPageLeavesAllAsItWas)
@@ -125,20 +103,10 @@ TEST_F(PageTest, ARequestWithoutAPageLeavesAllAsItWas)
     EXPECT_TRUE(TakeQueuedCommands().empty());
 }
 
-TEST_F(PageTest, FirstVisitOfAMenuReadsTheFormatsAndNoOtherDoes)
+TEST_F(PageTest, OnlyTheFirstVisitOfAMenuReadsTheFormats)
 {
     ASSERT_EQ(CreatePage(0x11110000), 0);
-    std::vector<std::string> sent = TakeQueuedCommands();
-    ASSERT_GE(sent.size(), 28u);
-    EXPECT_EQ(sent[0], "put TopMenu@SubMenuSite#false");
-    EXPECT_EQ(sent[1], "set TopMenu#M/E-1");
-    EXPECT_EQ(sent[2], "read Engineering Setup@System@Format@Video Format@PNL1");
-    EXPECT_EQ(sent[15], "read Engineering Setup@System@Format@Video Format@MPE4");
-    EXPECT_EQ(sent[16], "read Engineering Setup@System@Format@Reference@SWR1");
-    EXPECT_EQ(sent[25], "read Engineering Setup@System@Format@Reference@PNL4");
-    EXPECT_EQ(sent[26], "read Engineering Setup@System@Format@4K Mode");
-    EXPECT_EQ(sent[27], "add TopMenu");
-
+    (void)TakeQueuedCommands();
     const auto announced = [] {
         const auto all = TakeQueuedCommands();
         return std::count_if(all.begin(), all.end(), [](const std::string& c) {
@@ -160,24 +128,17 @@ TEST_F(PageTest, MenuKeysReopenTheirLastPage)
         int row;
         uint32_t reopens;
     } steps[] = {
-        {0x11210000, 0, 0x11210000},  {0x16110000, 1, 0x16110000},  {0x81310000, 3, 0x81310000},
-        {0x86110000, 4, 0x86110000},  {0x18410000, 5, 0x18410000},  {0x21110000, 6, 0x21110000},
+        {0x11210000, 0, 0x11210000},
+        {0x16110000, 1, 0x16110000},
+        {0x86110000, 4, 0x86110000},
+        {0x18410000, 5, 0x18410000},
+        {0x21110000, 6, 0x21110000},
         {0x99000000, 6, 0x21110000}, // covers the page, which stays remembered
-        {0x00220000, 27, 0x00220000}, {0x11210000, 27, 0x00220000},
     };
     for (const auto& s : steps) {
         ASSERT_EQ(CreatePage(s.visit), 0) << std::hex << s.visit;
         EXPECT_EQ(TopMenu[s.row].page, s.reopens) << std::hex << s.visit;
     }
-    EXPECT_EQ(TopMenu[28].caption, nullptr);
-
-    PAGE* row = SearchPageTable_Free_ALL(PageTable, 0x54100000);
-    ASSERT_NE(row, nullptr);
-    row->id = 0x54310099; // a page of the same menu that does not count
-    EXPECT_EQ(CreatePage(0x54310099), 0);
-    row->id = 0x54100000;
-    EXPECT_EQ(TopMenu[18].page, 0x54100000u);
-    EXPECT_EQ(TopMenu[0].page, 0x11210000u); // the page that it covers
 
     for (int i = 0; TopMenu[i].caption; i++)
         EXPECT_EQ(CreatePage(TopMenu[i].page), 0) << TopMenu[i].caption;
@@ -204,11 +165,7 @@ TEST_F(PageTest, HistoryGoesBackAndForward)
     EXPECT_EQ(Omote_History_NowPtr, 2);
     EXPECT_EQ(Omote_History_MaxPtr, 3);
 
-    HistoryBack(1);
-    CreatePage(GL_CreatePage);
     CreatePage(KeyPage(9)); // a visit cuts what was ahead
-    EXPECT_EQ(Omote_History_NowPtr, 2);
-    EXPECT_EQ(Omote_History_MaxPtr, 2);
     EXPECT_EQ(GetHistoryFwd(1), 0u);
     EXPECT_EQ(HistoryBack(0), -1); // the other side has its own
 }
@@ -225,25 +182,17 @@ TEST_F(PageTest, AStepBackFromAnErrorPageReturnsToTheCoveredPage)
     ASSERT_EQ(HistoryBack(1), 0);
     EXPECT_EQ(GL_CreatePage, KeyPage(1));
     EXPECT_EQ(Omote_History_NowPtr, 1);
-    EXPECT_EQ(GL_PrevPage, KeyPage(1));
-    CreatePage(KeyPage(2));
-    EXPECT_EQ(GL_PrevPage, KeyPage(1)); // not the error page
 }
 
 TEST_F(PageTest, TheFiftyFirstPageDropsTheOldest)
 {
     for (int n = 0; n < HISTORY_DEPTH + 1; n++)
         ASSERT_EQ(CreatePage(KeyPage(n)), 0) << n;
-    EXPECT_EQ(Omote_History_NowPtr, HISTORY_DEPTH - 1);
-    EXPECT_EQ(Omote_History_MaxPtr, HISTORY_DEPTH - 1);
-    EXPECT_EQ(Omote_History[0], KeyPage(1));
-    EXPECT_EQ(Omote_History[HISTORY_DEPTH - 1], KeyPage(HISTORY_DEPTH));
-    int steps = 0;
-    while (HistoryBack(1) == 0) {
+    for (int n = HISTORY_DEPTH - 1; n >= 1; n--) {
+        ASSERT_EQ(HistoryBack(1), 0);
+        EXPECT_EQ(GL_CreatePage, KeyPage(n));
         CreatePage(GL_CreatePage);
-        steps++;
     }
-    EXPECT_EQ(steps, HISTORY_DEPTH - 1);
     EXPECT_TRUE(IsTopHistory(1));
 }
 
@@ -255,16 +204,13 @@ TEST_F(PageTest, EachSideKeepsItsOwnPages)
     OmoteFlag = 0; // as the bus turns the menu over
     OmoteChange = 1;
     CreatePage(GL_UraNowPage);
-    EXPECT_NE(Logged().find("Turn to Ura Page: 110000h"), std::string::npos);
     EXPECT_EQ(TakeQueuedCommands().at(0), "put TopMenu@SubMenuSite#true");
     EXPECT_EQ(OmoteChange, 0);
     EXPECT_EQ(GL_NowPage, PAGE_TOP);
     CreatePage(KeyPage(2));
     EXPECT_EQ(GL_UraNowPage, KeyPage(2));
-    EXPECT_EQ(GL_UraPrevPage, PAGE_TOP);
     EXPECT_EQ(GL_OmoteNowPage, KeyPage(1));
     EXPECT_EQ(GetHistoryBack(0), PAGE_TOP);
-    EXPECT_EQ(GetHistoryBack(1), KeyPage(0));
 
     OmoteFlag = OmoteChange = 1;
     CreatePage(GL_OmoteNowPage);
@@ -287,24 +233,12 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
         uint32_t opens;
         void (*when)() = nullptr;
     } cases[] = {
-        {0x15210000, 0x15210000},
         {0x15210000, 0x11210000, four_keys},
         {0x18410000, 0x14410000, four_keys},
-        {0x86110000, 0x82110000, four_keys},
-        {0x85110000, 0x81110000, [] { GL_KeyMax[3] = 4; }},
-        {0x17110000, 0x17110000, [] { GL_KeyMax[3] = 4; }},
-        {0x42210000, 0x42110000, [] { GL_DmeModel[0] = 5; }},
-        {0x71420002, 0x71420001},
         {0x71420002, 0x71420002, [] { GL_Macro_Online_TrueOrFalse = 1; }},
         {0x71420003, 0x71420001, [] { unlink("/tmp/MacroEdit/MacroEdit.PMR"); }},
-        {0x71440002, 0x71440001},
-        {0x71440002, 0x71440002, [] { GL_MenuMacro_Edit = 1; }},
-        {0x71440102, 0x71440002},
-        {0x12510000, 0x12510000, [] { me2_on(0); }},
         {0x12510000, 0x16510000, [] { me2_on(1); }},
-        {0x12510000, 0x12510000, [] { me2_on(2); }},
         {0x16510000, 0x12510000, [] { me2_on(0); }},
-        {0x16510000, 0x16510000, [] { me2_on(1); }},
         {0x16510000, 0x12510000},                    // no sub side at all
         {0x12110000, 0x12110000, [] { me2_on(1); }}, // a key page
         {0x111F0000, 0x11110000},                    // the tab of a key is its own
@@ -318,31 +252,6 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
     }
 }
 
-TEST_F(PageTest, MainAndSubByTheRowsOfThePanel)
-{
-    static const struct {
-        int sides[2]; // of two rows with M/E-4
-        int status;
-    } cases[] = {{{0, 0}, 0}, {{1, 1}, 1}, {{0, 1}, 2}, {{2, 2}, 2}, {{0, 2}, 2}, {{7, -1}, -1}};
-    const FakePage page(0x81510000, "M/E-4", nullptr);
-    EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x81510000), -1); // not in multi program 2
-    multiprogram2_me[4] = 1;
-    EXPECT_EQ(MainSubAssign_StatusCheck(), -1); // on no row
-    GL_MEAssign[0] = GL_MEAssign[13] = 4;
-    for (const auto& c : cases) {
-        GL_MainSubAssign[0] = c.sides[0];
-        GL_MainSubAssign[13] = c.sides[1];
-        EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x85110000), c.status)
-            << c.sides[0] << c.sides[1];
-        EXPECT_EQ(MainSubAssign_StatusCheck(), c.status) << c.sides[0] << c.sides[1];
-    }
-    EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x31110000), -1);
-    const FakePage aux(0x23110000, "2nd AUX", nullptr);
-    EXPECT_EQ(MainSubAssign_StatusCheck(), -1);
-    GL_MEAssign[5] = 7;
-    EXPECT_EQ(MainSubAssign_StatusCheck(), 0);
-}
-
 TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
 {
     static const struct {
@@ -351,19 +260,10 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
         uint32_t id;
         uint32_t moved;
     } cases[] = {
-        {0x11110000, {"M/E-1", "Key1"}, 0x11170002, 0x11170002},
         {0x12310000, {"M/E-2", "Key3"}, 0x11170002, 0x12370002},
-        {0x16210000, {"M/E-2", "Key6"}, 0x11170002, 0x16270002},
-        {0x18410000, {"PGM/PST", "DSK8"}, 0x11110000, 0x18410000},
         {0x81210000, {"M/E-4", "Key2"}, 0x11110000, 0x81210000},
-        {0x86110000, {"M/E-5", "Key5"}, 0x11110000, 0x86110000},
-        {0x13610000, {"M/E-3", "DME Wipe"}, 0x11610000, 0x13610000},
-        {0x17610000, {"M/E-3", "DME Wipe"}, 0x11610000, 0x17610000},
         {0x85710000, {"M/E-4", "Misc"}, 0x11730000, 0x85730000},
-        {0x15710000, {"M/E-1", "Misc"}, 0x11730000, 0x15730000},
         {0x15710000, {"M/E-1", "Misc"}, 0x15730000, 0x15730000}, // already there
-        {0x15710000, {"M/E-1", "Misc"}, 0x85730000, 0x85730000},
-        {0x24210000, {"CCR", "CCR2"}, 0x24110000, 0x24210000},
         {0x12000000, {"M/E-2", nullptr}, 0x11110000, 0x12110000},
         {0x12110000, {nullptr, "Key3"}, 0x11110000, 0x11110000},
     };
@@ -373,13 +273,4 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
         AddPageOffset(&id);
         EXPECT_EQ(id, c.moved) << std::hex << c.now << " " << c.id;
     }
-}
-
-TEST_F(PageTest, PagesThatCoverOthersDoNotCount)
-{
-    for (uint32_t id : {0x54310099u, 0x55550000u, 0x71420003u, 0x73160010u, 0x99000000u,
-                        0x99910004u, 0x99960005u})
-        EXPECT_FALSE(IsUserPages(id)) << std::hex << id;
-    for (uint32_t id : {PAGE_TOP, 0x71420001u, 0x71440102u, 0x99910005u, 0x99911000u, 0x99960006u})
-        EXPECT_TRUE(IsUserPages(id)) << std::hex << id;
 }

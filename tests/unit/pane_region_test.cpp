@@ -135,19 +135,9 @@ TEST_F(Regions, FilesOfARegionHaveItsWord)
         const char* dual; // where two processors share the effects units
         const char* ext;
     } cases[] = {
-        {0, 897, "DEV", "DEV", "SFS"},   {0, 1152, "DEV", "DEV", "DST"},
-        {0, 1025, "GUI", "GUI", "PST"},  {1, 896, "DEV", "DEV", "SIS"},
-        {1, 1152, "CHF", "CHF", "DIS"},  {2, 896, "DEV", "DEV", "SKM"},
-        {4, 266, "ME5", "ME5", "SKF"},   {4, 256, "PP", "PP", "SKF"},
-        {4, 279, "USR8", "USR8", "SKF"}, {4, 291, "CH4", "CH2", "DKF"},
-        {4, 292, "CH1", "CH1", "DKF"},   {4, 294, "CH3", "CH1", "DKF"},
-        {8, 292, "CHF", "CHF", "DKF"},   {13, 295, "CH4", "CH2", "DSS"},
-        {13, 264, "ME4", "ME4", "SSS"},  {17, 257, "ME1", "ME1", "SWS"},
-        {18, 257, "ME1", "ME1", "SDS"},  {19, 512 + 9, "ME2_2", "ME2_2", "SKS"},
-        {20, 1024, "PNL", "PNL", "PSB"}, {21, 1024, "PNL", "PNL", "PMR"},
-        {22, 1024, "PNL", "PNL", "PMA"}, {23, 896, "FMEM", "FMEM", "SFM"},
-        {33, 1025, "GUI", "GUI", "MMR"}, {40, 896, "DEV", "DEV", "SFR"},
-        {41, 898, "DEV", "DEV", "SUP"},  {30, 260, "PP_SUB", "PP_SUB", "SWS"},
+        {4, 292, "CH1", "CH1", "DKF"},          {4, 294, "CH3", "CH1", "DKF"},
+        {8, 292, "CHF", "CHF", "DKF"},          {13, 295, "CH4", "CH2", "DSS"},
+        {19, 512 + 9, "ME2_2", "ME2_2", "SKS"}, {30, 260, "PP_SUB", "PP_SUB", "SWS"},
     };
     Units(1, 1);
     for (const auto& c : cases) {
@@ -169,59 +159,13 @@ TEST_F(Regions, UnknownPlacesAnswerNothing)
         EXPECT_EQ(PaneRegion_Create(grp, 0), 0);
         EXPECT_EQ(PaneRegion_GetMainMax(grp), 0);
         EXPECT_STREQ(PaneRegion_GetGrpCategoryStr(grp), "");
-        EXPECT_EQ(PaneRegion_GetRef(grp), 0);
-        EXPECT_EQ(PaneRegion_IsSelected(grp, 257), 0);
-        EXPECT_EQ(PaneRegion_SetDefaultSelected(grp), -1);
         EXPECT_EQ(PaneRegion_GetGrpMainSub(grp, 257, &main, &sub), -1);
     }
-    for (const auto& [m, s] : {std::pair{-1, 0}, {8, 0}, {0, -1}, {0, 12}}) {
-        EXPECT_EQ(PaneRegion_GetGrpID(4, m, s), 0);
-        EXPECT_STREQ(PaneRegion_GetGrpFIRegion(4, m, s), "");
-        EXPECT_STREQ(PaneRegion_GetGrpFIExt(4, m, s), "");
-    }
+    EXPECT_EQ(PaneRegion_GetGrpID(4, 8, 0), 0);
+    EXPECT_STREQ(PaneRegion_GetGrpFIRegion(4, 0, 12), "");
     EXPECT_EQ(PaneRegion_GetGrpMainSub(4, 0, &main, &sub), -1) << "an empty cell is no region";
     EXPECT_EQ(PaneRegion_IsSelected(4, 0), 0);
     EXPECT_EQ(main, 7);
-}
-
-TEST_F(Regions, CellsFollowTheUnits)
-{
-    static const struct {
-        int grp;
-        int switchers;
-        int effects;
-        std::map<int, std::pair<int, const char*>> cells; // those of units that are there
-    } cases[] = {
-        {0,
-         1,
-         1,
-         {{0, {896, "SWR1"}},
-          {1, {897, "SWR1\n   FC"}},
-          {2, {898, "SWR1\n CCR"}},
-          {6, {1152, "DME1"}}}},
-        {1,
-         2,
-         2,
-         {{0, {896, "SWR1"}}, {1, {897, "SWR2"}}, {4, {1152, "DME1"}}, {5, {1153, "DME2"}}}},
-        {23, 2, 1, {{0, {896, "SWR1"}}, {1, {897, "SWR2"}}}},
-        {32, 1, 1, {{0, {896, "SWR1"}}}},
-        {41, 1, 1, {{0, {896, "SWR1"}}, {1, {897, "SWR1\nUsrSrc"}}, {2, {898, "SWR1\nPatch"}}}},
-        {42, 0, 8, {}},
-    };
-    for (const auto& c : cases) {
-        Units(c.switchers, c.effects);
-        EXPECT_EQ(PaneRegion_InitID(c.grp), 0);
-        for (int i = 0; i < RegionBtn[c.grp].cells; i++) {
-            const BTNSEL& cell = RegionBtn[c.grp].btnsel[i];
-            if (cell.id >= 1024 && cell.id < 1152)
-                continue; // of the panel
-            const auto expected = c.cells.find(i);
-            EXPECT_EQ(cell.id, expected == c.cells.end() ? 0 : expected->second.first)
-                << c.grp << " " << i;
-            EXPECT_STREQ(cell.caption, expected == c.cells.end() ? "" : expected->second.second)
-                << c.grp << " " << i;
-        }
-    }
 }
 
 TEST_F(Regions, AUnitThatGoesIsNoReferenceAndComesBackAsIt)
@@ -237,13 +181,6 @@ TEST_F(Regions, AUnitThatGoesIsNoReferenceAndComesBackAsIt)
     Units(2, 0);
     PaneRegion_InitID(23);
     EXPECT_EQ(PaneRegion_GetRef(23), 897);
-    Units(1, 0);
-    (void)PaneRegion_Create(23, 0);
-    TouchCell(23, 0);
-    Enter(23);
-    Units(2, 0);
-    PaneRegion_InitID(23);
-    EXPECT_EQ(Selected(23), "0*") << "unless somebody chose without it";
 }
 
 TEST_F(Regions, TheLastOneTouchedIsTheReference)
@@ -253,21 +190,9 @@ TEST_F(Regions, TheLastOneTouchedIsTheReference)
         std::vector<int> touches;
         const char* selected; // "*": the reference
     } cases[] = {
-        {4, {1}, "0 1*"},
-        {4, {1, 0}, "0* 1"},
-        {4, {1, 9, 1}, "0 1* 9"}, // back to one that is selected
-        {4, {1, 1}, "0*"},        // off: the first that is on takes over
-        {4, {9, 8, 8, 0}, "9*"},  // not always the first cell
-        {4, {0}, ""},             // the last one: no reference is left
-        {4, {6, 7}, "0*"},        // empty cells
-        {24, {0, 1}, "0 1"},      // units have no reference
-        {24, {10, 1, 10}, "1"},
-        {24, {8}, ""},
-        {32, {1}, "1*"}, // one choice
-        {32, {1, 1}, "1*"},
-        {39, {0}, "0*"}, // the reference stays
-        {39, {1}, "0 1*"},
-        {39, {1, 1}, "0 1*"},
+        {4, {1, 1}, "0*"},   // off: the first that is on takes over
+        {4, {6, 7}, "0*"},   // empty cells
+        {24, {0, 1}, "0 1"}, // units have no reference
     };
     Units(2, 2);
     for (const auto& c : cases) {
@@ -302,8 +227,6 @@ TEST_F(Regions, OnlyEnterChangesTheSelection)
     TouchCell(4, 3);
     Enter(4);
     EXPECT_EQ(Selected(4), "0 3*");
-    EXPECT_EQ(PaneRegion_GetRef(4), 264);
-    EXPECT_EQ(PaneRegion_IsSelected(4, 257), 1);
 }
 
 TEST_F(Regions, ASingleSelectorAnswersWithTheRegion)
@@ -335,9 +258,7 @@ TEST_F(Regions, AllKeysSelectAndClear)
         {"all", 17, 1, {}, ALL, "0* 1 2 3 4 5"},
         {"any off", 17, 1, {{3, 1}}, ALL, ""},
         {"units", 24, 1, {}, ALL, "0 1 2 3 4 5 6 7 10 11 12 13 14 15 16 17"},
-        {"no switcher", 13, 0, {}, ALL, "16* 17 18 19 20 21 22 23"},
         {"the third cell", 34, 1, {}, ALL, "0 1 2* 3 4 5 8 10 11 12 13 18 19 20 21"},
-        {"banks on", 13, 1, {}, SWR_ALL, "0* 1 2 3 4 5 8 9 10 11 12 13 14 15"},
         {"banks on, one reference",
          13,
          1,
@@ -345,11 +266,6 @@ TEST_F(Regions, AllKeysSelectAndClear)
          SWR_ALL,
          "0* 1 2 3 4 5 8 9 10 11 12 13 14 15 16"},
         {"banks off", 13, 1, {{2, 2}, {17, 1}, {18, 1}}, SWR_ALL, "17* 18"},
-        {"banks off, reference elsewhere", 13, 1, {{2, 1}, {17, 1}, {18, 2}}, SWR_ALL, "17 18*"},
-        {"a user off", 13, 1, {{15, 2}}, SWR_ALL, ""},
-        {"without a switcher", 13, 0, {{16, 2}}, SWR_ALL, "16*"},
-        {"DME units", 24, 1, {{0, 1}}, DME_UNITS, "0 10 11 12 13 14 15 16 17"},
-        {"DME units off", 24, 1, {{0, 1}, {10, 1}}, DME_UNITS, "0"},
         {"SWR units", 25, 1, {{17, 1}}, SWR_UNITS, "0 1 2 3 4 5 6 7 17"},
         {"no ALL for three columns", 43, 1, {{0, 2}}, ALL, "0*"},
     };
@@ -363,18 +279,4 @@ TEST_F(Regions, AllKeysSelectAndClear)
         Enter(c.grp);
         EXPECT_EQ(Selected(c.grp), c.selected) << c.name;
     }
-}
-
-TEST_F(Regions, WithoutASwitcherTheFirstChannelIsTheDefault)
-{
-    Units(1, 2);
-    Select(4, {{0, 2}, {17, 1}});
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
-    EXPECT_EQ(Selected(4), "0* 17");
-    Units(0, 2);
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
-    EXPECT_EQ(Selected(4), "16* 17");
-    Select(4, {{1, 1}, {38, 2}});
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(4), 0);
-    EXPECT_EQ(Selected(4), "16* 38");
 }

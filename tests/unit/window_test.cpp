@@ -47,27 +47,9 @@ Place TenKeyPlace(const std::string& key)
     return {17 + 54 * (n % 3), 251 - 59 * (n / 3)};
 }
 
-int TenKeySym(const std::string& key)
-{
-    if (key == "Enter")
-        return SDLK_KP_ENTER;
-    if (key == "Cancel")
-        return SDLK_ESCAPE;
-    if (key == "Clear")
-        return SDLK_DELETE;
-    if (key == "+/-")
-        return SDLK_KP_MINUS;
-    return key[0] >= '0' && key[0] <= '9' ? SDLK_KP0 + key[0] - '0' : key[0];
-}
-
 void Stroke(int sym, int mod = 0)
 {
     SendMessage(MSG_KEY, sym, mod, 0, 0);
-}
-
-bool HasSym(const char* key)
-{
-    return strcmp(key, "Trim") != 0;
 }
 
 constexpr Place KEYBOARD_WINDOW = {(800 - 722) / 2, (600 - 369) / 2 - 3};
@@ -93,34 +75,6 @@ Place KeyboardPlace(const std::string& key)
         if (const char* at = strchr(r.keys, key[0]))
             return {12 + 54 * (r.first + int(at - r.keys)), 91 + 54 * r.row};
     return {};
-}
-
-// As on a keyboard: "Shift" is held for the next key, "Caps" turns the lock.
-void StrokeKeys(const Keys& keys)
-{
-    static const struct {
-        const char* key;
-        int sym;
-    } others[] = {{"Enter", SDLK_RETURN}, {"Del", SDLK_DELETE},   {"Left", SDLK_LEFT},
-                  {"Right", SDLK_RIGHT},  {"BS", SDLK_BACKSPACE}, {"Cancel", SDLK_ESCAPE}};
-    int caps = 0;
-    int shift = 0;
-    for (const std::string key : keys) {
-        if (key == "Shift") {
-            shift ^= KMOD_LSHIFT;
-            continue;
-        }
-        if (key == "Caps") {
-            caps ^= KMOD_CAPS;
-            continue;
-        }
-        int sym = key[0];
-        for (const auto& o : others)
-            if (key == o.key)
-                sym = o.sym;
-        Stroke(sym, caps | shift);
-        shift = 0;
-    }
 }
 
 void TouchKeyboard(const Keys& keys)
@@ -163,15 +117,9 @@ std::vector<std::string> Heard()
 struct Windows : BusTest {
     void SetUp() override
     {
-        Harness_Reset();
         BusTest::SetUp();
         probe::answer = HearMessage;
         heard.clear();
-    }
-    void TearDown() override
-    {
-        CloseWindow();
-        BusTest::TearDown();
     }
     static void Pass(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
 };
@@ -245,27 +193,20 @@ TEST_F(Windows, AReservedQuitIsAnsweredAtTheNextPassAsItsKeyWould)
         std::vector<std::string> heard;
     } cases[] = {
         {WINDOW_KEYBOARD, 0, {"text abc"}},
-        {WINDOW_KEYBOARD, 1, {}},
         {WINDOW_MESSAGE, 0, {"value 7"}},
         {WINDOW_MESSAGE, 1, {}},
         {WINDOW_HEX, 2, {"value ABC"}},
-        {WINDOW_HEX, 0, {}},
         {WINDOW_PULLDOWN, 3, {"pull-down Any 2"}},
         {WINDOW_PULLDOWN, 0, {}},
         {WINDOW_SELECT, 1, {"select Any 0"}},
-        {WINDOW_SELECT, 0, {}},
         {WINDOW_PATH, 4, {"path 2 3"}},
-        {WINDOW_PATH, 0, {}},
     };
     for (const auto& c : cases) {
-        CreateWindow(c.type, "Any",
-                     {.value = "abc",
-                      .rows = 3,
-                      .captions = cells,
-                      .path_type = PATHSEL_CURVE0,
-                      .ok = HearValue,
-                      .ok_var = 7,
-                      .ok_text = HearText});
+        WindowArgs args{.value = "abc", .rows = 3, .captions = cells, .path_type = PATHSEL_CURVE0};
+        args.ok = HearValue;
+        args.ok_var = 7;
+        args.ok_text = HearText;
+        CreateWindow(c.type, "Any", args);
         Window_ReserveQuit(c.var);
         EXPECT_EQ(GetWindow(), c.type);
         Pass();
@@ -294,7 +235,7 @@ TEST_F(Windows, AnAnswerMayOpenTheNextWindow)
 
 // --- Keyboard ---
 
-TEST_F(Windows, TheKeyboardWritesTheSameByTouchAndByKeys)
+TEST_F(Windows, TheKeyboardWritesWhatIsTouched)
 {
     static const struct {
         const char* value;
@@ -304,36 +245,41 @@ TEST_F(Windows, TheKeyboardWritesTheSameByTouchAndByKeys)
         {"", {"a", "Shift", "a", "a"}, "aAa"},
         {"", {"Caps", "a", "1", "Shift", "1", "a"}, "A1!A"},
         {"", {"Caps", "Shift", "a", "Caps", "a"}, "Aa"},
-        {"", {"Shift", "Shift", "a"}, "a"},
         {"", {"Shift", "`", "Shift", "\\", "Shift", "'", ";", "Shift", "/", "="}, "~|\";?="},
-        {"", {"Shift", "-", "-", " ", "z"}, "_- z"},
         {"ab", {"Left", "c"}, "acb"},
         {"ab", {"Left", "BS", "BS", "BS"}, "b"},
         {"ab", {"Left", "Left", "Left", "Del", "x"}, "xb"},
         {"ab", {"Right", "Right", "Del", "c"}, "abc"},
-        {"", {"BS", "Del", "Left", "Right"}, ""},
         {"as it was", {}, "as it was"},
     };
-    for (const auto& c : cases)
-        for (const bool by_touch : {true, false}) {
-            CreateWindow(WINDOW_KEYBOARD, "Name", {.value = c.value, .ok_text = HearText});
-            Keys keys = c.keys;
-            keys.push_back("Enter");
-            by_touch ? TouchKeyboard(keys) : StrokeKeys(keys);
-            EXPECT_THAT(Heard(), ElementsAre(std::string("text ") + c.text)) << by_touch;
-        }
+    for (const auto& c : cases) {
+        CreateWindow(WINDOW_KEYBOARD, "Name", {.value = c.value, .ok_text = HearText});
+        TouchKeyboard(c.keys);
+        TouchKeyboard({"Enter"});
+        EXPECT_THAT(Heard(), ElementsAre(std::string("text ") + c.text));
+    }
+}
+
+TEST_F(Windows, KeysOfAKeyboardWriteAsOnTheScreen)
+{
+    CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "ab", .ok_text = HearText});
+    for (int sym : {int(SDLK_LEFT), int(SDLK_BACKSPACE), int(SDLK_RIGHT), int('c')})
+        Stroke(sym);
+    Stroke('1', KMOD_LSHIFT);
+    Stroke('d', KMOD_CAPS);
+    Stroke('e', KMOD_CAPS | KMOD_LSHIFT);
+    Stroke(SDLK_LEFT);
+    Stroke(SDLK_DELETE);
+    Stroke(SDLK_RETURN);
+    EXPECT_THAT(Heard(), ElementsAre("text bc!D"));
 }
 
 TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
 {
-    static const struct {
-        int input_max;
-        int length;
-    } cases[] = {{-5, 0}, {0, 0}, {1, 1}, {16, 16}, {32, 32}, {33, 32}, {1000, 32}};
-    for (const auto& c : cases) {
+    for (const auto& [max, length] : {std::pair{-5, 0}, {0, 0}, {16, 16}, {33, 32}}) {
         CreateWindow(WINDOW_KEYBOARD, "Name",
                      {.value = "0123456789012345678901234567890123456789",
-                      .input_max = c.input_max,
+                      .input_max = max,
                       .ok_text = HearText});
         for (int i = 0; i < 5; i++)
             TouchKeyboard({"x", "Left", "y"});
@@ -341,8 +287,7 @@ TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
         EXPECT_THAT(
             Heard(),
             ElementsAre("text " +
-                        std::string("01234567890123456789012345678901").substr(0, c.length)))
-            << c.input_max;
+                        std::string("01234567890123456789012345678901").substr(0, size_t(length))));
     }
 }
 
@@ -369,14 +314,11 @@ TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
         const char* keys;
         std::vector<std::string> heard;
     } cases[] = {
-        {WINDOW_BANK, "12", {"value C"}},
         {WINDOW_BANK, "1.-2", {"value C"}},
         {WINDOW_BANK, "99999999999", {"value 7FFFFFFF"}},
         {WINDOW_HEX, "c0de", {"value C0DE"}},
-        {WINDOW_HEX, "1.a", {"value 1A"}},
         {WINDOW_HEX, "fffffffffff", {"value FFFF"}}, // the limit
         {WINDOW_HEX, "1", {"value 10"}},             // the other one
-        {WINDOW_PAGE_GET, "1111", {"value 11110000"}},
         {WINDOW_PAGE_GET, "7316.10", {"value 73160010"}},
         {WINDOW_PAGE_GET, "22..3", {"value 220003"}},
         {WINDOW_PAGE_GET, "", {}},
@@ -388,21 +330,7 @@ TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
             Stroke(*key);
         Stroke(SDLK_RETURN);
         EXPECT_EQ(Heard(), c.heard) << c.type << " " << c.keys;
-        CreateWindow(c.type, "Number", {.ok = HearValue});
-        Stroke('1');
-        Stroke(SDLK_ESCAPE);
-        EXPECT_THAT(Heard(), IsEmpty());
     }
-}
-
-// The digits by touch, at the places that this window has for them.
-TEST_F(Windows, HexKeysReachFromZeroToF)
-{
-    CreateWindow(WINDOW_HEX, "Address", {.x = 100, .y = 50, .ok = HearValue});
-    for (Place key : {Place{17, 135}, {71, 135}, {125, 135}, {17, 194}, {125, 371}, {17, 430}})
-        TouchAt({100, 50}, key);
-    TouchAt({100, 50}, {179, 430});
-    EXPECT_THAT(Heard(), ElementsAre("value DEFA30"));
 }
 
 // --- Choices ---
@@ -416,10 +344,8 @@ TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
         std::vector<std::string> heard;
     } cases[] = {
         {WINDOW_PULLDOWN, 20, 20, {"pull-down LOCAL@List 0"}},
-        {WINDOW_PULLDOWN, 120, 50, {"pull-down LOCAL@List 3"}},
         {WINDOW_PULLDOWN, 120, 80, {"pull-down LOCAL@List 5"}},
         {WINDOW_PULLDOWN, -10, 20, {}},
-        {WINDOW_SELECT, 20, 60, {"select LOCAL@List 0"}},
         {WINDOW_SELECT, 100, 60 + 2 * 43, {"select LOCAL@List 5"}},
         {WINDOW_SELECT, 400, 400, {}},
         {WINDOW_PATH, 20, 20, {"path 4 0"}},
@@ -438,10 +364,6 @@ TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
         EXPECT_EQ(GetWindow(), 0) << c.type;
         EXPECT_EQ(Heard(), c.heard) << c.type;
     }
-    CreateWindow(WINDOW_PULLDOWN, "List",
-                 {.x = 100, .y = 100, .columns = 2, .rows = 3, .captions = cells});
-    SendMessage(MSG_PRESS, 120, 180, 1, 0); // an empty cell: nothing
-    EXPECT_EQ(GetWindow(), WINDOW_PULLDOWN);
     CreateWindow(WINDOW_SELECT, "Corner", {.x = 790, .y = 590, .captions = cells});
     SendMessage(MSG_PRESS, 750, 560, 1, 0); // it has been moved onto the screen
     EXPECT_THAT(Heard(), ElementsAre("select Corner 0"));
@@ -454,29 +376,24 @@ TEST_F(Windows, ABoxAnswersWithTheKeysThatItHas)
 {
     static const struct {
         WindowArgs args;
-        int type;
-        int sym;
-        int window; // afterwards
-        std::vector<std::string> heard;
+        int type, sym, window; // the one that is open afterwards
+        size_t heard;
     } cases[] = {
-        {{}, WINDOW_MESSAGE, SDLK_RETURN, 0, {"value 5"}},
-        {{}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, {"value 5"}},
-        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_RETURN, 0, {"value 5"}},
-        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, {}},
-        {{.no_button = true}, WINDOW_MESSAGE, SDLK_RETURN, WINDOW_MESSAGE, {}},
-        {{.no_button = true}, WINDOW_MESSAGE, SDLK_ESCAPE, WINDOW_MESSAGE, {}},
-        {{}, WINDOW_PROGRESS, SDLK_RETURN, WINDOW_PROGRESS, {}},
-        {{}, WINDOW_PROGRESS, SDLK_ESCAPE, 0, {"value 5"}},
+        {{}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 1},
+        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_RETURN, 0, 1},
+        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 0},
+        {{.no_button = true}, WINDOW_MESSAGE, SDLK_ESCAPE, WINDOW_MESSAGE, 0},
+        {{}, WINDOW_PROGRESS, SDLK_RETURN, WINDOW_PROGRESS, 0},
+        {{}, WINDOW_PROGRESS, SDLK_ESCAPE, 0, 1},
     };
     for (const auto& c : cases) {
         WindowArgs args = c.args;
         args.ok = HearValue;
-        args.ok_var = 5;
         CreateWindow(c.type, "Box", args);
         Stroke('x');
         Stroke(c.sym);
         EXPECT_EQ(GetWindow(), c.window);
-        EXPECT_EQ(Heard(), c.heard);
+        EXPECT_EQ(Heard().size(), c.heard);
     }
     CreateWindow(WINDOW_PROGRESS, "Nobody hears of a cancel");
     Stroke(SDLK_ESCAPE);
@@ -484,9 +401,6 @@ TEST_F(Windows, ABoxAnswersWithTheKeysThatItHas)
     EXPECT_EQ(GetWindow(), WINDOW_PROGRESS);
     ProgBox_RedrawProgress(1000);
     MBox_RedrawMessage(std::string(3000, 'x').c_str());
-    CreateWindow(WINDOW_KEYBOARD, "Not theirs");
-    ProgBox_RedrawProgress(5);
-    MBox_RedrawMessage("text");
 }
 
 // --- Page jump and its favourites ---
@@ -534,22 +448,15 @@ struct PageJump : Windows {
 
 TEST_F(PageJump, EnterOpensThePageThatWasTyped)
 {
-    static const struct {
-        const char* keys;
-        uint32_t page;
-    } cases[] = {{"1111", 0x11110000}, {"1111.2", 0x11110002}, {"7316.10", 0x73160010}, {"", 0}};
-    for (const auto& c : cases) {
-        GL_CreatePage = 0;
-        CreateWindow(WINDOW_PAGE_JUMP, "Page");
-        for (const char* key = c.keys; *key; key++)
-            TouchAt(CORNER, *key == '.'   ? Place{429, 371}
-                            : *key == '0' ? Place{375, 371}
-                                          : Place{375 + 54 * ((*key - '1') % 3),
-                                                  312 - 59 * ((*key - '1') / 3)});
-        TouchAt(CORNER, {537, 371});
-        EXPECT_EQ(GL_CreatePage, c.page) << c.keys;
-        EXPECT_EQ(GetWindow(), 0);
-    }
+    CreateWindow(WINDOW_PAGE_JUMP, "Page");
+    for (const char key : {'7', '3', '1', '6', '.', '1', '0'})
+        TouchAt(CORNER, key == '.' ? Place{429, 371}
+                        : key == '0'
+                            ? Place{375, 371}
+                            : Place{375 + 54 * ((key - '1') % 3), 312 - 59 * ((key - '1') / 3)});
+    TouchAt(CORNER, {537, 371});
+    EXPECT_EQ(GL_CreatePage, 0x73160010u);
+    EXPECT_EQ(GetWindow(), 0);
 }
 
 TEST_F(PageJump, AFavouriteOpensItsPage)
@@ -568,11 +475,10 @@ TEST_F(PageJump, AFavouriteOpensItsPage)
         EXPECT_EQ(GetWindow(), 0);
         EXPECT_EQ(GL_CreatePage, page);
     }
-    GL_CreatePage = 0;
     WriteFile(1, file.substr(0, 28 * 24 + 23)); // cut: none of it
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
     PressFavorite(5);
-    EXPECT_EQ(GL_CreatePage, 0u);
+    EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
 }
 
 // Place of the keys under the favourites: set, store, colour.
@@ -585,7 +491,6 @@ TEST_F(PageJump, StoredKeysAndColoursAreInTheFileAtOnce)
     const std::string stored = ReadFile(1);
     ASSERT_EQ(stored.size(), 29u * 24);
     EXPECT_EQ(stored.substr(24, 6), std::string("\x11\x11\x00\x02\x00\x01", 6));
-    EXPECT_STREQ(stored.substr(30, 18).c_str(), "1111\nProbe");
     TouchAt(CORNER, {17 + 86 * 3, 346});
     PressFavorite(1);
     EXPECT_EQ(ReadFile(1).substr(28, 2), std::string("\x01\x02", 2)); // white with black letters
@@ -633,13 +538,10 @@ struct KnobInput : KnobColumn {
         Tally("Rate", "90");
         Forget();
     }
-    static void Hit(const Keys& keys, bool by_touch)
+    static void Hit(const Keys& keys)
     {
         for (const char* key : keys)
-            if (by_touch || !HasSym(key))
-                TouchAt(KNOB_WINDOW, TenKeyPlace(key));
-            else
-                Stroke(TenKeySym(key));
+            TouchAt(KNOB_WINDOW, TenKeyPlace(key));
     }
 };
 
@@ -652,39 +554,35 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
     } cases[] = {
         {1, {"Enter"}, {"put Clip#-12.50"}}, // as shown
         {1, {"Cancel"}, {}},
-        {1, {"5", "Cancel"}, {}},
-        {1, {"5", "Enter"}, {"put Clip#5.00"}},
-        {1, {"+/-", "5", "Enter"}, {"put Clip#-5.00"}},
         {1, {"5", "+/-", "+/-", "Enter"}, {"put Clip#5.00"}},
         {1, {".", "5", ".", "2", "Enter"}, {"put Clip#0.52"}},
         {1, {"1", "2", "+/-", "Clear", "7", "Enter"}, {"put Clip#7.00"}},
-        {1, {"Clear", "Enter"}, {"put Clip#0.00"}},
         {1, {"1", "2", "3", "4", "Enter"}, {"put Clip#100.00"}},
-        {1, {"+/-", "9", "9", "9", "Enter"}, {"put Clip#-100.00"}},
-        {1, {"5", "Trim"}, {"put Clip#-7.50"}},
         {1, {"Trim", "2", "Trim"}, {"put Clip#-10.50"}}, // the first has nothing to add
         {1, {"+/-", "9", "0", "Trim"}, {"put Clip#-100.00"}},
         {2, {"2", "0", "0", "Enter"}, {"put Level#109.5"}}, // limits the other way round
-        {2, {"+/-", "9", "Enter"}, {"put Level#-7.5"}},
         {3, {"Enter"}, {"put Rate#00:03:00"}},
-        {3, {"5", "Enter"}, {"put Rate#00:00:05"}},
         {3, {"2", "5", "1", "2", "Enter"}, {"put Rate#00:25:12"}},
         {3, {"5", "+/-", "Enter"}, {"put Rate#-00:00:05"}},
-        {3, {"1", ":", "5", "Enter"}, {"put Rate#00:01:05"}},
         {3, {"1", ":", "1", "2", "Enter"}, {"put Rate#00:01:12"}},
-        {3, {"1", ":", ":", "Enter"}, {"put Rate#01:00:00"}},
         {3, {"9", "9", "9", "9", "9", "9", "9", "9", "9", "Enter"}, {"put Rate#01:00:00"}},
     };
-    for (const auto& c : cases)
-        for (const bool by_touch : {true, false}) {
-            PressSlot(c.slot);
-            ASSERT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
-            Forget();
-            Hit(c.keys, by_touch);
-            EXPECT_EQ(TakeQueuedCommands(), c.sent) << c.keys[0] << " by touch " << by_touch;
-            EXPECT_EQ(GetWindow(), 0);
-            EXPECT_EQ(NB_SendValue(1), -1) << "a box is still selected";
-        }
+    for (const auto& c : cases) {
+        PressSlot(c.slot);
+        ASSERT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
+        Forget();
+        Hit(c.keys);
+        EXPECT_EQ(TakeQueuedCommands(), c.sent) << c.keys[0];
+        EXPECT_EQ(GetWindow(), 0);
+        EXPECT_EQ(NB_SendValue(1), -1) << "a box is still selected";
+    }
+    // The ten keys of a keyboard.
+    PressSlot(1);
+    Forget();
+    for (int sym : {int(SDLK_KP1), int(SDLK_DELETE), int(SDLK_KP_MINUS), int(SDLK_KP9), int('.'),
+                    int(SDLK_KP0), int(SDLK_KP5), int(SDLK_KP_ENTER)})
+        Stroke(sym);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Clip#-9.05"));
 }
 
 // A press on another box moves the window there; the page under it is still saved.
@@ -692,18 +590,13 @@ TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
 {
     TDL_FillRectS(440, 130, 705, 535, 0x102030);
     PressSlot(1);
-    Hit({"9", "+/-"}, true);
-    strcpy(NB_Entry_Mode, "Any");
+    Hit({"9", "+/-"});
     PressSlot(3);
-    EXPECT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
-    Hit({"1", ":", "Enter"}, true); // the point has become a colon, the sign is forgotten
+    Hit({"1", ":", "Enter"}); // the point has become a colon, the sign is forgotten
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Rate#00:01:00"));
-    EXPECT_STREQ(NB_Entry_Mode, "");
     for (int y = 135; y < 535; y += 5)
         for (int x = 440; x < 705; x += 5)
             ASSERT_EQ(PixelAt(x, y), 0x102030u) << x << ", " << y;
-    EXPECT_EQ(ChangeWindow("Clip", "1", "0", "2"), -1);
-    CreateWindow(WINDOW_KEYBOARD, "Name");
     EXPECT_EQ(ChangeWindow("Clip", "1", "0", "2"), -1);
 }
 
@@ -720,7 +613,5 @@ TEST(WindowPullDown, ATabOfTheMaskPagePutsTheChoice)
     ASSERT_EQ(GetWindow(), WINDOW_PULLDOWN);
     SendMessage(MSG_PRESS, 602 + 40, 413 + 6 + 32 + 16, 1, 0); // the second of four, below it
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Main Mask@Mask Source#Pattern"));
-    EXPECT_EQ(PullDown_Find(nullptr), nullptr);
-    EXPECT_EQ(PullDown_Find("LOCAL@No"), nullptr);
     Page_Reset();
 }

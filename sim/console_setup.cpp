@@ -1,0 +1,35 @@
+// The commands that change the installation.
+#include "console_command.h"
+#include "setup.h"
+#include "text.h"
+
+static bool con_keys(Runner&, const std::string& rest)
+{
+    const auto word = Text_Split(rest, ' ');
+    if (word.size() != 2 || (word[1] != "4" && word[1] != "8"))
+        return false;
+    return Setup_Keys(word[0], word[1] == "4" ? 4 : 8);
+}
+
+static bool con_multi(Runner&, const std::string& rest)
+{
+    const auto word = Text_Split(rest, ' ');
+    bool on = false;
+    return word.size() == 2 && Console_OnOff(word[1], &on) && Setup_Multi(word[0], on);
+}
+
+static bool con_4k(Runner&, const std::string& rest)
+{
+    bool on = false;
+    if (!Console_OnOff(rest, &on))
+        return false;
+    Setup_4K(on);
+    return true;
+}
+
+static constexpr Command commands[] = {
+    {"keys", "M/E-1 4|8", "how many keys the bank has", con_keys},
+    {"multi", "BANK|all on|off", "a bank runs two programs: main and sub side", con_multi},
+    {"4k", "on|off", "the picture format", con_4k},
+};
+constinit const std::span<const Command> console_setup_commands = commands;

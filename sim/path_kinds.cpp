@@ -1,0 +1,169 @@
+#include "path_kinds.h"
+#include "text.h"
+#include "values.h"
+
+namespace
+{
+// Of several rows for a path the first counts.
+struct PathKind {
+    const char* path = "";
+    const char* type = ""; // as in the value file, with blanks: "num 0 100 2"
+};
+struct PathStart {
+    const char* path = "";
+    const char* value = "";
+};
+} // namespace
+
+static constexpr const char* PERCENT = "num 0 100 2";
+static constexpr const char* TWICE = "num -200 200 2";
+static constexpr const char* PATTERN = "num 1 304 0";
+static constexpr const char* DME_PATTERN = "num 1001 9999 0";
+
+static constexpr PathKind kinds[] = {
+    // What is on the air.
+    {"*@*@Status@Key ON", "bool"},
+    {"**@Status@Transition Position", PERCENT},
+    {"**@FTB@Position", PERCENT},
+    {"**@FTB@*", "bool"},
+    {"*@Misc@Transition@Auto Trans", "action"},
+    {"*@Misc@Transition@Cut", "action"},
+    // Keys. Each key type has a clean mode and a position of its own.
+    {"*@*@Type@Clean Mode@*", "bool"},
+    {"*@*@Type@Key Position@*@*", "num -8 8 2"}, // H phase, left, right
+    {"*@*@Type@Key Position@*", "bool"},
+    {"*@*@Type@*@Pattern", PATTERN},
+    {"*@*@Edge@Zabton@Pattern", PATTERN},
+    {"**@Mix Pattern@Pattern", PATTERN},
+    {"**@Mask@Pattern Mask@Pattern", PATTERN},
+    {"*@*@Transition@Direction", "word Normal,Reverse,Normal/Reverse"},
+    {"*@*@Transition@* DME Wipe Pattern", DME_PATTERN},
+    {"*@*@Transition@* Wipe Pattern", PATTERN},
+    {"*@*@Processed Key@DME Select@DME*", "bool"},
+    {"*@*@Processed Key@Override@DME*", "bool"},
+    {"*@*@Processed Key@Rotation", "num 0 3 0"},       // 1 about X, 2 about Y
+    {"M/E-1@Key1@Processed Key@Monitor", "num 0 8 0"}, // of the whole system
+    {"*@*@Processed Key@Monitor", "bool"},
+    // The wipes of a bank, and the channels of an effects wipe.
+    {"*@Wipe@Direction@*", "bool"},
+    {"*@Wipe@*@Pattern", PATTERN},
+    {"**@Pattern Select@Pattern", DME_PATTERN},
+    {"**@Modify@Position@Position@*@*", TWICE},
+    {"**@Modify@Position@Position@*", "bool"},
+    {"**@Modify@Position@Center@*", "action"},
+    {"**@Modify@Size@Size@*", PERCENT},
+    {"**@Modify@Size@*", "bool"},
+    {"**@Modify@Crop Mode@4:3 Crop@*", "action"},
+    {"**@Modify@Crop Mode@Crop@Top@*", PERCENT},
+    {"**@Modify@Crop Mode@Crop@Right@*", PERCENT},
+    {"**@Modify@Crop Mode@Crop@*@*", "num -100 0 2"},
+    {"**@Modify@Crop Mode@Crop@*", "bool"},
+    // The effects units.
+    {"DME@Status@3D Param@*@*@*", "num -999.99 999.99 2"},
+    // What the keys of a bank share.
+    {"*@Misc@Transition@Transition Mode", "word Full,Limit"},
+    {"*@Misc@Transition@*", "bool"},
+    {"*@Misc@Key Priority@*Key Priority", "order"},
+    {"*@Misc@Key Priority@Enable", "bool"},
+    {"*@Misc@Key Assign@Key*", "word ,Off,Main,Sub,Both"}, // empty: as the setup says
+    {"*@Misc@Clip Transition@Position", PERCENT},
+    {"*@Misc@Clip Transition@Clip Duration", "num 1 215999 0"},
+};
+
+// In a switcher that nobody has touched.
+static constexpr PathStart starts[] = {
+    {"**@Density", "100"},
+    {"**@* Rate", "30"},
+    {"**@Rate", "30"},
+    {"**@Wipe@Size", "100"},
+    {"**@Video Process@Luminance", "100"},
+    {"**@Video Process@Chroma", "100"},
+    {"**@Video Adjust@Luminance", "100"},
+    {"**@Video Adjust@Chroma", "100"},
+    {"*@*@Type@Key Fill", "Key Bus"},
+    {"*@*@Type@Key Source", "Self"},
+    {"*@*@Type@Key Type@Chroma@Hue", "120"},
+    {"*@*@Type@Key Type@*Pattern@Size", "50"},
+    {"*@*@Type@Signal Select@Fill", "CAM1"},
+    {"*@*@Type@Signal Select@Source", "CAM2"},
+    {"*@*@Status@Source Name", "CAM1"},
+    {"*@*@Edge@Edge", "Normal"},
+    {"*@*@Edge@Edge Fill", "Matte"},
+    {"*@*@*Mask@Box@Left", "-50"},
+    {"*@*@*Mask@Box@Right", "50"},
+    {"*@*@*Mask@Box@Top", "50"},
+    {"*@*@*Mask@Box@Bottom", "-50"},
+    {"*@*@*Mask@Pattern Mask@Size", "50"},
+    {"*@*@Resizer@Size", "100"},
+    {"*@*@Resizer@Aspect@* Size", "100"},
+    {"*@*@Processed Key@Size*", "100"},
+    // Edges as places: at a hundred is the whole picture.
+    {"**@Crop@Left", "-100"},
+    {"**@Crop@Bottom", "-100"},
+    {"**@Crop@H", "-100"},
+    {"**@Crop@All", "-100"},
+    {"**@Crop@Right", "100"},
+    {"**@Crop@Top", "100"},
+    {"**@Crop@V", "100"},
+    {"**@Crop Mode@Crop@Left@*", "-100"},
+    {"**@Crop Mode@Crop@Bottom@*", "-100"},
+    {"**@Crop Mode@Crop@Right@*", "100"},
+    {"**@Crop Mode@Crop@Top@*", "100"},
+    {"*@*@Transition@ON Transition Type", "Mix"},
+    {"*@*@Transition@OFF Transition Type", "Mix"},
+    {"**@Color 1@Luminance", "50"},
+    {"**@Color 1@Saturation", "50"},
+    {"**@Color 2@Luminance", "50"},
+    {"**@Color 2@Saturation", "50"},
+    {"**@Color 2@Hue", "180"},
+    {"*@Wipe@Direction@Normal", "true"},
+    {"**@Modify@Size@Size@*", "100"},
+    {"DME@Status@3D Param@*@Size@*", "1"},
+    {"DME@Status@3D Param@*@Aspect@*", "1"},
+    {"*@Misc@Transition@Mix", "true"},
+    {"*@Misc@Transition@Next Transition@Bkgd", "true"},
+    {"*@Misc@Transition@Super Mix@* Video", "100"},
+    {"*@Misc@Key Priority@*Key Priority", "1,2,3,4,1,2,3,4"},
+    {"*@Misc@Clip Transition@End", "100"},
+    {"*@Misc@Clip Transition@Speed", "100"},
+    {"*@Misc@Clip Transition@Clip Name", "OPENER"},
+    {"*@Misc@Clip Transition@Clip Duration", "300"},
+    {"*@Misc@Clip Transition@Bkgd Name", "CAM1"},
+    {"*@Misc@Clip Transition@Player", "Stop"},
+    {"*@Misc@Clip Transition@Time Code", "00:00:00:00"},
+    {"*@Status@Xpt Assign@A", "CAM1"},
+    {"*@Status@Xpt Assign@B", "CAM2"},
+    {"*@Status@Xpt Assign@UTIL1", "CAM31"},
+    {"*@Status@Xpt Assign@UTIL2", "CAM32"},
+};
+
+static ValueType type_of(const char* text)
+{
+    const std::string type = text;
+    const size_t blank = type.find(' ');
+    std::vector<std::string> fields = {type.substr(0, blank)};
+    if (blank != std::string::npos) {
+        const std::string rest = type.substr(blank + 1); // words may hold blanks, numbers don't
+        const bool is_number = fields[0] == "num";
+        for (const std::string& field : Text_Split(rest, is_number ? ' ' : '\n'))
+            fields.push_back(field);
+    }
+    ValueType parsed;
+    return Values_ParseType(fields, &parsed) ? parsed : ValueType{};
+}
+
+ValueType PathKinds_Type(const std::string& path)
+{
+    for (const PathKind& row : kinds)
+        if (Text_MatchesPath(path, row.path))
+            return type_of(row.type);
+    return {};
+}
+
+std::string PathKinds_Start(const std::string& path)
+{
+    for (const PathStart& row : starts)
+        if (Text_MatchesPath(path, row.path))
+            return row.value;
+    return "";
+}

@@ -1,0 +1,158 @@
+// nb_wipe: knob tables of a bank's wipe and DME wipe pages, for the numbered links that choose among them. Sizes, softness
+// and densities in percent, positions in percent of half a 4:3 picture, sideways a third more at 16:9.
+#pragma once
+#include "nb_rows.h"
+
+// --- Wipe: "~" is a pattern or its modify page ---
+
+inline constexpr auto nb_me_wipe_position = FamilyOf<2>([](int wide) {
+    return Column(Span(1, "H", "~@Position@H", Wide(100, wide)),
+                  Span(2, "V", "~@Position@V", 100));
+});
+inline constexpr auto nb_me_wipe_limit = Column(
+    Percent(1, "Limit", "~@Pattern Limit@Limit"));
+inline constexpr auto nb_me_wipe_limit_both = Column(
+    Percent(1, "Start", "~@Pattern Limit@Start"),
+    Percent(2, "Limit", "~@Pattern Limit@Limit"));
+inline constexpr auto nb_me_wipe_mix_morph = Column(
+    Percent(1, "Balance", "~@Pattern Mix@Balance"),
+    Percent(2, "Soft",    "~@Pattern Mix@Soft"));
+inline constexpr auto nb_me_wipe_mix_add = Column(
+    Percent(1, "Main", "~@Pattern Mix@Main"),
+    Percent(2, "Sub",  "~@Pattern Mix@Sub"));
+
+inline constexpr auto nb_me_wipe_aspect = FamilyOf<2>([](int wide) {
+    return Column(Span(1, "Aspect", "~@Aspect@Aspect", Wide(75, wide))); // to a strip of the picture's height
+});
+inline constexpr auto nb_me_wipe_angle = Column(Degrees(1, "Angle", "~@Angle@Angle"));
+inline constexpr auto nb_me_wipe_speed = Column(
+    Degrees(1, "Angle", "~@Angle@Angle"),
+    Turns  (2, "Speed", "~@Speed@Speed"));
+inline constexpr auto nb_me_wipe_multi = Column(
+    Count(1, "H", "~@Multi@H", 1, 63),
+    Count(2, "V", "~@Multi@V", 1, 63));
+inline constexpr auto nb_me_wipe_multi_shift = Column(
+    Count(1, "H",     "~@Multi@H", 1, 63),
+    Count(2, "V",     "~@Multi@V", 1, 63),
+    Span (3, "Shift", "~@Multi@Shift", 100));
+inline constexpr auto nb_me_wipe_modulation = Column(
+    Percent(1, "Amplitude", "~@Modulation@Amplitude"),
+    Percent(2, "Frequency", "~@Modulation@Frequency"),
+    Span   (3, "Speed",     "~@Modulation@Speed", 100));
+inline constexpr auto nb_me_wipe_modulation_both = Column(
+    Percent(1,  "H Ampl.", "~@Modulation@H Amplitude"),
+    Percent(2,  "H Freq.", "~@Modulation@H Frequency"),
+    Span   (3,  "H Speed", "~@Modulation@H Speed", 100),
+    Percent(17, "V Ampl.", "~@Modulation@V Amplitude"),
+    Percent(18, "V Freq.", "~@Modulation@V Frequency"),
+    Span   (19, "V Speed", "~@Modulation@V Speed", 100));
+inline constexpr auto nb_me_wipe_spring = Column(
+    Percent(1, "Width",  "~@Spring@Width"),
+    Count  (2, "Number", "~@Spring@Number", 1, 20));
+inline constexpr auto nb_me_wipe_spring_random = Column(
+    Percent(1, "Width",  "~@Spring@Width"),
+    Count  (2, "Number", "~@Spring@Number", 1, 20),
+    Percent(3, "Random", "~@Spring@Random"));
+// Blinds in lines, pairs of sides in percent.
+inline constexpr auto nb_me_wipe_pairing = FamilyOf<2>([](int hd) {
+    return Column(Count(1, "Lines", "~@Pairing@Lines", 1, hd ? 540 : 288));
+});
+inline constexpr auto nb_me_wipe_pairing_both = FamilyOf<2>([](int hd) {
+    return Column(Count(1, "Lines",   "~@Pairing@Lines", 1, hd ? 540 : 288),
+                  Count(2, "Columns", "~@Pairing@Columns", 1, hd ? 960 : 360));
+});
+
+// Edge/Direction shares its paths with the cells over it: "~2" is the wipe.
+inline constexpr auto nb_me_wipe_edge_border = Column(
+    Percent(1, "Width", "~2@Edge@Border@Width"),
+    Percent(2, "Soft",  "~2@Edge@Soft@Soft"));
+inline constexpr auto nb_me_wipe_edge_border_sep = Column(
+    Percent(1, "Width",  "~2@Edge@Border@Width"),
+    Percent(2, "Inside", "~2@Edge@Soft@Inside"),
+    Percent(3, "Outside", "~2@Edge@Soft@Outside"));
+inline constexpr auto nb_me_wipe_edge_soft = Column(Percent(1, "Soft", "~2@Edge@Soft@Soft"));
+inline constexpr auto nb_me_wipe_edge_soft_full = Column(Percent(1, "Soft", "~2@Edge@Soft@Soft", 200)); // no border to keep clear
+inline constexpr auto nb_me_wipe_rotation = Column(
+    Degrees(1, "Start", "~@Rotation@Start"),
+    Degrees(2, "End",   "~@Rotation@End"));
+inline constexpr auto nb_me_wipe_rotation_free = Column(
+    Turns(1, "Speed", "~@Rotation@Speed"));
+
+// --- DME wipe ---
+
+// The page code turns the channels that are selected by the difference.
+inline constexpr auto nb_me_dmewipe_position = FamilyOf<2>([](int wide) {
+    return Column(Span(1, "H", "LOCAL@Panel@Common@Knob0", Wide(100, wide)),
+                  Span(2, "V", "LOCAL@Panel@Common@Knob1", 100));
+});
+inline constexpr auto nb_me_dmewipe_size = FamilyOf<2>([](int wide) {
+    return Column(Percent(1, "Size", "LOCAL@Panel@Common@Knob0", Wide(150, wide)));
+});
+// Crop towards the middle; the page code knows the boxes by caption and lower limit. Less than a tenth is finer than a
+// pixel of an SD picture.
+inline constexpr auto nb_me_dmewipe_crop = FamilyOf<2>([](int hd) {
+    return Column(Box(1, "H",   "LOCAL", -100, 0, hd ? NB_2 : NB_1),
+                  Box(2, "V",   "LOCAL", 100,  0, hd ? NB_2 : NB_1),
+                  Box(3, "All", "LOCAL", -100, 0, hd ? NB_2 : NB_1));
+});
+inline constexpr auto nb_me_dmewipe_rotation = Column(Turns(1, "Rotation", "~@Rotation@Rotation"));
+inline constexpr auto nb_me_dmewipe_rotation_axis = FamilyOf<2>([](int wide) {
+    return Column(Turns(1, "Rotation", "~@Rotation@Rotation"),
+                  Span (2, "Axis H",   "~@Rotation@Axis H", Wide(4, wide)),
+                  Span (3, "Axis V",   "~@Rotation@Axis V", 4));
+});
+inline constexpr auto nb_me_dmewipe_perspective = FamilyOf<2>([](int wide) {
+    return Column(Percent(1, "Depth", "~@Perspective@Depth"),
+                  Span   (2, "View H", "~@Perspective@View H", Wide(4, wide)),
+                  Span   (3, "View V", "~@Perspective@View V", 4));
+});
+inline constexpr auto nb_me_dmewipe_trail = Column(
+    Frames (1, "Length", "~@Trail@Length"),
+    Percent(2, "Decay",  "~@Trail@Decay"));
+inline constexpr auto nb_me_dmewipe_trail_steps = Column(
+    Frames (1, "Length", "~@Trail@Length"),
+    Percent(2, "Decay",  "~@Trail@Decay"),
+    Frames (3, "Step",   "~@Trail@Step"));
+inline constexpr auto nb_me_dmewipe_edge_border = FamilyOf<2>([](int wide) {
+    return Column(Percent(1, "Width H", "~2@Edge@Border@Width H", Wide(75, wide)),
+                  Percent(2, "Width V", "~2@Edge@Border@Width V", 75),
+                  Percent(3, "Density", "~2@Edge@Border@Density"));
+});
+inline constexpr auto nb_me_dmewipe_edge_border_soft = FamilyOf<2>([](int wide) {
+    return Column(Percent(1, "Width H", "~2@Edge@Border@Width H", Wide(75, wide)),
+                  Percent(2, "Width V", "~2@Edge@Border@Width V", 75),
+                  Percent(3, "Density", "~2@Edge@Border@Density"),
+                  Percent(4, "Soft",    "~2@Edge@Soft@Soft"));
+});
+inline constexpr auto nb_me_dmewipe_edge_soft = Column(Percent(1, "Soft", "~2@Edge@Soft@Soft"));
+inline constexpr auto nb_me_dmewipe_edge_soft_sep = Column(
+    Percent(1, "Soft H", "~2@Edge@Soft@Soft H"),
+    Percent(2, "Soft V", "~2@Edge@Soft@Soft V"));
+inline constexpr auto nb_me_dmewipe_edge_crop = FamilyOf<2>([](int wide) {
+    return Column(Box(1, "Top",    "~2@Edge@Crop@Top",    0, 100),
+                  Box(2, "Left",   "~2@Edge@Crop@Left",   -Wide(100, wide), 0),
+                  Box(3, "Right",  "~2@Edge@Crop@Right",  0, Wide(100, wide)),
+                  Box(4, "Bottom", "~2@Edge@Crop@Bottom", -100, 0));
+});
+inline constexpr auto nb_me_dmewipe_shadow = FamilyOf<2>([](int wide) {
+    return Column(Span   (1, "H",       "~@Shadow@H", Wide(100, wide)),
+                  Span   (2, "V",       "~@Shadow@V", 100),
+                  Percent(3, "Density", "~@Shadow@Density"));
+});
+inline constexpr auto nb_me_dmewipe_transparency = Column(Percent(1, "Transp.", "~@Transparency@Transparency"));
+inline constexpr auto nb_me_dmewipe_transparency_fade = Column(
+    Percent(1, "Start", "~@Transparency@Start"),
+    Percent(2, "End",   "~@Transparency@End"));
+
+// --- Background colours: one, which is that of a matte, or a mix of two along a pattern ---
+
+inline constexpr auto nb_bkgd_color2 = Column(
+    Percent(1, "Luminance", "~@Color 2@Luminance"),
+    Percent(2, "Saturat'n", "~@Color 2@Saturation"),
+    Hue    (3,              "~@Color 2@Hue"));
+inline constexpr auto nb_bkgd_pattern = FamilyOf<2>([](int wide) {
+    return Column(Span   (1, "H",    "~@Pattern@H", Wide(100, wide)),
+                  Span   (2, "V",    "~@Pattern@V", 100),
+                  Percent(3, "Size", "~@Pattern@Size"),
+                  Percent(4, "Soft", "~@Pattern@Soft"));
+});

@@ -1,0 +1,209 @@
+"""The simulator's mix/effect banks: what the switcher does by itself when a panel changes a key, a wipe, a transition.
+
+usage: sim_me_test.py BUILD_DIR [TEST...]
+"""
+
+import time
+
+import sim_test
+from sim_store_test import StoreTest
+
+KEY = "M/E-4@Key6@"
+STATUS = "M/E-1@Key1@Processed Key@DME Status"
+FREE = ["Free"] * 8
+WIPES = "Snapshot@Wipe Snapshot@"
+
+
+class MeTest(StoreTest):
+    values = """\
+M/E-1@Wipe@Main Pattern@Pattern\tnum\t1\t304\t0
+M/E-1@Wipe@Edge@Soft@Soft\tnum\t0\t100\t2
+"""
+
+
+class Values(MeTest):
+    def test_values_of_no_page_have_kinds_in_every_bank_and_key(self):
+        cases = [(KEY + "Type@Clean Mode@Linear", "maybe", "false"),
+                 ("PGM/PST@DSK3@Type@Key Position@Chroma@Left", "99", "8.00"),
+                 ("M/E-1 SUB@DME Wipe@Modify@Crop Mode@Crop@Right@2", "-5", "0.00"),
+                 (KEY + "Transition@DME Wipe@Modify@Crop Mode@Crop@Left@1", "5", "0.00"),
+                 ("M/E-2@Misc@Key Assign@Key7", "Nowhere", "")]
+        for path, wanted, told in cases:
+            self.text.send(f"put {path}#{wanted}")
+            self.assertEqual(self.text.line(), f"{path}#{told}")
+
+    def test_a_relative_put_counts_hundredths_and_stops_at_the_limit(self):
+        path = "M/E-2 SUB@DME Wipe@Modify@Position@Position@H@1"
+        for steps, told in (("8.00", "0.08"), ("-76", "-0.68"), ("11536.00", "114.68"), ("11536.00", "200.00"), ("", "200.00")):
+            self.text.send(f"put {path}#diff{steps}")
+            self.assertEqual(self.text.line(), f"{path}#{told}", steps)
+
+    def test_a_priority_list_stays_an_order_of_each_half(self):
+        path, order = "M/E-3@Misc@Key Priority@Key Priority", "1,2,3,4,1,2,3,4"
+        self.text.send(f"read {path}")
+        self.assertEqual(self.text.line(), f"{path}#{order}")
+        for wanted in ("1,1,3,4,1,2,3,4", "1,1,2,2,3,3,4,4", "2,1,3,4", "1,2,3,4,1,2,3,4,", "4,3,2,1,5,6,7,8"):
+            self.text.send(f"put {path}#{wanted}")
+            self.assertEqual(self.text.line(), f"{path}#{order}", wanted)
+        self.text.send(f"put {path}#2,1,4,3,4,3,2,1")
+        self.assertEqual(self.text.line(), f"{path}#2,1,4,3,4,3,2,1")
+
+
+class Rules(MeTest):
+    def test_one_change_brings_the_others_in_its_own_key_alone(self):
+        crop, wipe = KEY + "Resizer@Border/Crop@Crop@", "M/E-1 SUB@Wipe@Direction@"
+        effect, matte = KEY + "Resizer@Enhanced Effect@", KEY + "Edge@Matte Adjust@"
+        cases = [  # set before; the put; what others hear
+            ((KEY + "Edge@Edge#Border", KEY + "Edge@Key Drop#true"), (KEY + "Edge@Edge", "Normal"), [KEY + "Edge@Key Drop#false"]),
+            ((), (crop + "V", "12.50"), [crop + "Top#12.50", crop + "Bottom#-12.50"]),
+            ((), (KEY + "Resizer@Border/Crop@4:3 Crop", "true"), [crop + "Left#-75.00", crop + "Right#75.00"]),
+            ((effect + "Mosaic#true",), (effect + "Defocus", "true"), [effect + "Mosaic#false"]),
+            ((wipe + "Normal#true", wipe + "Reverse#false"), (wipe + "Reverse", "true"), [wipe + "Normal#false"]),
+            ((wipe + "Normal#false", wipe + "Reverse#true"), (wipe + "Reverse", "false"), [wipe + "Reverse#true"]),
+            ((matte + "Color 1@Hue#10.00", matte + "Color 2@Hue#20.00"), (matte + "Swap", "true"),
+             [matte + "Color 2@Hue#10.00", matte + "Color 1@Hue#20.00"]),
+            ((KEY + "Resizer@H#5.00",), (KEY + "Resizer@Center", "true"), [KEY + "Resizer@H#"]),
+            ((KEY + "Type@Key Source#Split",), (KEY + "Type@Signal Select@Source", "CAM9"),
+             [KEY + "Status@Source Name#CAM9"])]
+        for before, (path, value), told in cases:
+            self.do(*(f"set {line}" for line in before), "get Set")
+            self.wait_for_log("console: get Set")
+            for line in [path, *(line.partition("#")[0] for line in [*before, *told])]:
+                self.follow(line)
+                self.follow(line.replace("Key6", "Key5").replace(" SUB", ""))
+            heard = [line for line in self.put(path, value) if not line.startswith(path + "#" + value)]
+            self.assertEqual(heard, told, path)
+
+    def test_auto_chroma_can_be_undone(self):
+        hue = KEY + "Type@Key Type@Chroma@Hue"
+        self.follow(hue)
+        self.put(hue, "200")
+        self.assertEqual(self.put(KEY + "Type@Auto Chroma", "true"), [f"{hue}#117.50"])
+        self.assertEqual(self.put(KEY + "Type@Chroma Adjust@Undo", "true"), [f"{hue}#200"])
+
+    def test_a_default_of_a_key_leaves_it_on_the_air(self):
+        on, clean = KEY + "Status@Key ON", KEY + "Type@Clean Mode@Linear"
+        self.follow(on, clean)
+        for path in (on, clean):
+            self.put(path, "true")
+        self.text.send("default M/E-4@Key6")
+        self.text.sync()
+        self.assertEqual(self.other.sync(), [f"{clean}#false"])
+        self.text.send(f"default {on}")
+        self.assertEqual(self.text.line(), f"{on}#false")
+
+
+class Transitions(MeTest):
+    def heard(self, last, *paths):
+        """What the other panel hears up to that line, of these paths."""
+        return [line for line in self.other.until(last, 3) if line.partition("#")[0] in paths]
+
+    def test_a_key_is_on_from_the_first_frame_to_the_last(self):
+        on, auto, position = KEY + "Status@Key ON", KEY + "Transition@Auto Trans", KEY + "Status@Transition Position"
+        self.do(f"set {KEY}Transition@ON Transition Rate#6")
+        self.follow(on, auto, position)
+        for order in ([f"{on}#true", f"{auto}#true", f"{auto}#false"], [f"{auto}#true", f"{on}#false", f"{auto}#false"]):
+            start = time.monotonic()
+            self.text.send(f"put {auto}#true")
+            lines = self.other.until(f"{auto}#false", 3)
+            self.assertAlmostEqual(time.monotonic() - start, 0.2, delta=0.15)
+            self.assertEqual([line for line in lines if not line.startswith(position)], order)
+            course = [float(line.partition("#")[2]) for line in lines if line.startswith(position)]
+            self.assertEqual(course[:-1], sorted(course[:-1]))
+            self.assertGreater(len(course), 2)
+            self.assertEqual(course[-1], 0)
+
+    def test_a_cut_in_the_middle_of_a_transition_ends_it(self):
+        on, auto = KEY + "Status@Key ON", KEY + "Transition@Auto Trans"
+        self.do(f"set {KEY}Transition@ON Transition Rate#900")
+        self.follow(on, auto)
+        self.assertEqual(self.put(auto, "true"), [f"{on}#true", f"{auto}#true"])
+        self.assertEqual(self.put(on, "false"), [f"{auto}#false", f"{on}#false"])
+        self.do(f"set {KEY}Transition@ON Transition Type#Cut")
+        self.text.send(f"put {auto}#true")
+        self.other.until(f"{on}#true")
+
+    def test_a_bank_changes_its_background_and_the_keys_that_take_part(self):
+        a, b = "PGM/PST@Status@Xpt Assign@A", "PGM/PST@Status@Xpt Assign@B"
+        key, other = "PGM/PST@DSK2@Status@Key ON", "PGM/PST@DSK1@Status@Key ON"
+        self.follow(a, b, key, other)
+        self.do("put PGM/PST@Misc@Transition@Next Transition@Key2#true", "put PGM/PST@Misc@Transition@Cut#true")
+        self.assertEqual(self.heard(f"{key}#true", a, b, other), [])
+        self.assertEqual(self.other.lines(2), [f"{a}#CAM2", f"{b}#CAM1"])
+
+    def test_a_fade_to_black_takes_its_rate_unless_inhibited(self):
+        ftb = "PGM/PST@Misc@Transition@FTB@"
+        self.do(f"set {ftb}ON Rate#3", f"set {ftb}OFF Rate#3", f"set {ftb}Inhibit#true")
+        self.follow(ftb + "FTB", ftb + "Position", ftb + "Busy")
+        self.text.send(f"put {ftb}FTB#true")
+        self.assertEqual(self.text.line(), f"{ftb}FTB#false")
+        self.do(f"set {ftb}Inhibit#false", f"put {ftb}FTB#true")
+        self.assertEqual(self.heard(f"{ftb}Busy#false", ftb + "FTB"), [f"{ftb}FTB#true"])
+        self.do(f"put {ftb}FTB#false")
+        self.assertEqual(self.heard(f"{ftb}FTB#false", ftb + "Busy"), [f"{ftb}Busy#true"])
+
+
+class Channels(MeTest):
+    def test_a_channel_has_one_key_until_another_overrides(self):
+        mine, his = KEY + "Processed Key@", "M/E-2@Key1@Processed Key@"
+        self.follow(STATUS, mine + "DME Select@DME3", mine + "Channels")
+        taken = ",".join(FREE[:2] + ["M/E-4@Key6"] + FREE[3:])
+        self.assertEqual(self.put(mine + "DME Select@DME3", "true"),
+                         [f"{mine}DME Select@DME3#true", f"{mine}Channels#3", f"{STATUS}#{taken}"])
+        self.text.send(f"put {his}DME Select@DME3#true")
+        self.assertEqual(self.text.line(), f"{his}DME Select@DME3#false")
+        self.text.send(f"put {his}Override@DME3#true")
+        self.assertEqual(self.text.line(), f"{his}Override@DME3#false")
+        self.assertEqual(self.other.lines(3), [f"{mine}DME Select@DME3#false", f"{mine}Channels#",
+                                               f"{STATUS}#{taken.replace('M/E-4@Key6', 'M/E-2@Key1')}"])
+
+    def test_the_wipes_are_told_whose_channel_it_is_and_how_wide(self):
+        path = "Engineering Setup@System@Format@DME Aspect"
+        self.text.send(f"read {path}")
+        rows = self.text.sync()
+        self.assertIn(f"{path}#3,4:3,1,8", rows)  # a wipe of M/E-1
+        self.follow(path)
+        self.put(KEY + "Processed Key@DME Select@DME3", "true")
+        self.text.send("put M/E-1@Misc@Transition@DME Wipe#true", f"read {STATUS}")
+        self.assertEqual(self.text.until(f"{STATUS}#M/E-1@DME Wipe,M/E-1@DME Wipe,M/E-4@Key6" + ",Free" * 5)[-1][:5], "M/E-1")
+
+
+class WipeRegisters(MeTest):
+    def test_a_wipe_of_a_sub_side_comes_back_with_its_pattern(self):
+        pattern, soft = "M/E-1 SUB@Wipe@Main Pattern@Pattern", "M/E-1 SUB@Wipe@Edge@Soft@Soft"
+        path = WIPES + "M/E-1 Sub@List"
+        self.follow(path, pattern, soft)
+        self.put(pattern, "209")
+        self.put(soft, "40.00")
+        self.assertEqual(self.put(WIPES + "Store", "1000000,7"), [f"{path}#7,WIPE7,S,209"])
+        self.put(pattern, "12")
+        self.put(soft, "0.00")
+        self.assertEqual(sorted(self.put(WIPES + "Recall", "1000000,7")), [f"{soft}#40.00", f"{pattern}#209"])
+        self.assertEqual(self.put(WIPES + "Delete", "1000000,7,7"), [f"{path}#7,,E"])
+        self.assertEqual(self.put(WIPES + "Recall", "1000000,7"), [])
+
+    def test_no_register_keeps_a_channel_of_an_effects_unit(self):
+        channel = "M/E-1@Key1@Processed Key@DME Select@DME1"
+        self.put(channel, "true")
+        self.do("store key M/E-1@Key1 3")
+        self.put(channel, "false")
+        self.follow(channel)
+        self.do("recall key M/E-1@Key1 3", "get Recalled")
+        self.wait_for_log("console: get Recalled")
+        self.assertEqual(self.other.sync(), [])
+
+
+class Installation(MeTest):
+    def test_the_console_gives_a_bank_four_keys_and_two_programs(self):
+        split = "Engineering Setup@System@Install@Unit Config@M/E Split"
+        config, keys = "Engineering Setup@Switcher@Config@M/E Config@P/P", "Engineering Setup@Switcher@Config@PGM Config@List"
+        self.follow(split, config, keys)
+        self.do("keys M/E-3 4", "multi P/P on", "4k on", "keys P/P 4", "multi M/E-9 on", "get Done")
+        self.wait_for_log("console: get Done")
+        self.assertEqual(self.other.sync(), [f"{split}#1,1,4,1,1", f"{keys}#P/P,1,0F", f"{keys}#P/P,2,F0",
+                                             f"{config}#Multi Program 2"])
+        self.assertEqual(self.output().count("usage:"), 2)
+
+
+if __name__ == "__main__":
+    sim_test.main(__file__)

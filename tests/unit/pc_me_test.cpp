@@ -1,0 +1,58 @@
+// What the pages of the banks share: their words and numbers, and how a split board limits them.
+#include "bus.h"
+#include "global.h"
+#include "harness.h"
+#include "page.h"
+#include "pc_me.h"
+
+TEST(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
+{
+    Harness_Reset();
+    const FullHouse all;
+    static const struct {
+        uint32_t page;
+        int index;
+        const char* word; // of its paths
+        int region;
+        unsigned bits;
+    } cases[] = {
+        {0x11510000, 0, "M/E-1", 0, 0x2},   {0x16510000, 1, "M/E-2 SUB", 7, 0x2000000},
+        {0x81670000, 3, "M/E-4", 3, 0x10},  {0x86510000, 4, "M/E-5 SUB", 10, 0x10000000},
+        {0x14710000, 5, "PGM/PST", 5, 0x1}, {0x18510000, 5, "PGM/PST SUB", 11, 0x800000},
+        {0x16110000, 1, "M/E-2", 1, 0x4}, // keys 5 to 8 are keys of the bank, not of its sub side
+    };
+    for (const auto& c : cases) {
+        ASSERT_EQ(CreatePage(c.page), 0) << std::hex << c.page;
+        char word[16];
+        ME_BankWord(word);
+        EXPECT_STREQ(word, c.word);
+        EXPECT_EQ(Now_disp_draw(), c.index) << c.word;
+        EXPECT_EQ(ME_SnapshotRegion(), c.region) << c.word;
+        EXPECT_EQ(DMEWipeSSRegion[ME_SnapshotRegion()].bits, c.bits) << c.word;
+    }
+    CreatePage(PAGE_TOP); // no bank: the first one
+    EXPECT_EQ(Now_disp_draw(), 0);
+}
+
+TEST(MeBank, ABoardInFourBanksLeavesEachWithFourKeys)
+{
+    Harness_Reset();
+    const FullHouse all;
+    char split[] = "Engineering Setup@System@Install@Unit Config@M/E Split#1,4,2,1,1";
+    SendDummyTally(split);
+    static const struct {
+        uint32_t asked, opened;
+    } cases[] = {
+        {0x15130000, 0x15130000}, // M/E-1 has eight
+        {0x16330000, 0x12330000}, // M/E-2: the same page of its first four
+        {0x17110000, 0x17110000}, // two banks: eight each
+        {0x16510000, 0x16510000}, // the limit is one of keys
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(CreatePage(c.asked), 0);
+        EXPECT_EQ(GL_NowPage, c.opened) << std::hex << c.asked;
+    }
+    CreatePage(PAGE_TOP);
+    char whole[] = "Engineering Setup@System@Install@Unit Config@M/E Split#1,1,1,1,1";
+    SendDummyTally(whole);
+}
