@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 #include "safeguards.h"
 
@@ -52,7 +53,7 @@ int SYS_MyDme2S = -1;
 
 namespace
 {
-enum : int { ACTIVELINE_1080P = 6, FORMAT_SIZE_2160 = 4 };
+enum : int { ACTIVELINE_576I = 2, ACTIVELINE_1080P = 6, FORMAT_SIZE_2160 = 4 };
 constexpr DEVTYPE OLD_SWITCHERS =
     DEVTYPE_KTR40 | DEVTYPE_KTR40SF | DEVTYPE_LTR50 | DEVTYPE_LTR50SF; // frame memory before V6
 constexpr DEVTYPE SWITCHERS_3G = DEVTYPE_KTR40G | DEVTYPE_KTR40GSF | DEVTYPE_KTR40E |
@@ -223,6 +224,35 @@ static void structure_dmes()
     report_new_dme_models();
 }
 
+// Row of the unit that serves the lowest reference channel, -1 none.
+static int reference_dme()
+{
+    const bool is_second_group = (SYS_DMEReference & 0x0F) == 0 && (SYS_DMEReference & 0xF0) != 0;
+    return is_second_group ? SYS_MyDme2 : SYS_MyDme1;
+}
+
+// The lowest reference channel as its unit counts, 0..3; the first without a reference.
+static int reference_channel()
+{
+    for (int ch = 0; ch < 8; ch++)
+        if (SYS_DMEReference & 1 << ch)
+            return ch % 4;
+    return 0;
+}
+
+// What knob tables go by: the switcher's lines, the aspect of each of its banks and that of the
+// effects channel that the operator has as the reference. What no unit has told stands as it was.
+static void structure_picture()
+{
+    if (SYS_RefSwrActiveLine != 0)
+        SYS_SignalFormat = SYS_RefSwrActiveLine > ACTIVELINE_576I;
+    if (const DEVICE* swr = DEV_MySwr[0])
+        std::copy(std::begin(swr->aspect), std::end(swr->aspect), SYS_RefSwrScreenAspect);
+    const int dme = reference_dme();
+    if (dme >= 0)
+        SYS_ScreenAspect = DEV_Dme[dme].aspect[reference_channel()];
+}
+
 static void structure_frame_memory()
 {
     const int v6 = (SYS_RefSwrType & OLD_SWITCHERS) == 0;
@@ -262,6 +292,7 @@ void DeviceStructure()
     structure_panels();
     structure_switchers();
     structure_dmes();
+    structure_picture();
     for (int i = 0; i < rows_in_use(mpe_class); i++)
         join(mpe_class, i);
     structure_frame_memory();
@@ -463,13 +494,6 @@ int isZRD52onSWR(const DEVICE* swr)
             return 1;
     }
     return 0;
-}
-
-// Row of the unit that serves the lowest reference channel, -1 none.
-static int reference_dme()
-{
-    const bool is_second_group = (SYS_DMEReference & 0x0F) == 0 && (SYS_DMEReference & 0xF0) != 0;
-    return is_second_group ? SYS_MyDme2 : SYS_MyDme1;
 }
 
 int getDmeReferenceModel()

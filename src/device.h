@@ -64,8 +64,8 @@ struct DEVICE {
     int format_size = 0;
     int format_freq = 0;
     int format_scan = 0;
-    int refinputformat = 0; // 1 when the reference is "BB"
-    int aspect[7] = {};
+    int refinputformat = 0;                // 1 when the reference is "BB"
+    int aspect[7] = {1, 1, 1, 1, 1, 1, 1}; // of each output or channel; 0 is 4:3, 1 is 16:9
     int function[256] = {};
     DEVTYPE type = DEVTYPE_UNKNOWN;
     char version[16] = "";

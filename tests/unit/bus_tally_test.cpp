@@ -45,7 +45,7 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {FORMAT "Reference@SWR1", "BB", &DEV_Swr[0].refinputformat, 1},
         {FORMAT "Switcher Aspect", "SWR1,16:9,4:3,16:9", &DEV_Swr[0].aspect[0], 1},
         {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[2], 1},      // no part, no change
-        {FORMAT "Switcher Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[1], 0}, // not a switcher
+        {FORMAT "Switcher Aspect", "DME1,16:9,4:3", &DEV_Dme[0].aspect[1], 1}, // not a switcher
         {FORMAT "Video Format2@SWR1", "3,6,2", &SYS_Format_Size, 3},
         {FORMAT "Video Format2@SWR1", "3,6", &SYS_Format_Scan, 2},
         {FORMAT "3D Mode@SWR1", "On", &SYS_3DMode, 1},

@@ -69,6 +69,32 @@ TEST_F(Devices, TheAssignmentRowsDecideWhatBelongsToThePanel)
     EXPECT_EQ(SYS_MyDme2S, 3);
 }
 
+TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
+{
+    static const struct {
+        int line;
+        int hd;
+    } lines[] = {{1, 0}, {2, 0}, {0, 0}, {3, 1}, {6, 1}, {0, 1}}; // 0: not told, as it was
+    for (const auto& c : lines) {
+        DEV_Swr[0].activeline = c.line;
+        DeviceStructure();
+        EXPECT_EQ(SYS_SignalFormat, c.hd) << c.line;
+    }
+    DEV_Swr[0].aspect[2] = DEV_Swr[1].aspect[3] = 0; // the second switcher's has no part
+    DEV_Dme[0].aspect[1] = DEV_Dme[1].aspect[3] = 0; // channels 2 and 8
+    static const struct {
+        int reference;
+        int wide;
+    } channels[] = {{0, 1}, {1, 1}, {2, 0}, {0x82, 0}, {0x80, 0}, {0x90, 1}, {0x40, 1}};
+    for (const auto& c : channels) {
+        SYS_DMEReference = c.reference;
+        DeviceStructure();
+        EXPECT_EQ(SYS_ScreenAspect, c.wide) << std::hex << c.reference;
+    }
+    EXPECT_EQ(SYS_RefSwrScreenAspect[2], 0);
+    EXPECT_EQ(SYS_RefSwrScreenAspect[3], 1);
+}
+
 TEST_F(Devices, RubbishInTheTablesIsPassedOver)
 {
     SYS_MyPnl = 999;
