@@ -30,6 +30,7 @@
 #define LOCAL_MODIFY "LOCAL@Modify@"
 #define DME_STATUS "M/E-1@Key1@Processed Key@DME Status" // one for the whole system
 #define DME_ASPECT "Engineering Setup@System@Format@DME Aspect"
+#define SWITCHER_ASPECT "Engineering Setup@System@Format@Switcher Aspect"
 
 namespace
 {
@@ -556,8 +557,8 @@ static int modify_tally(const char* path, const char* value)
         Net_SendCommand("read " DME_ASPECT); // a DME has gone to another wipe
     else if (BeginsWith(path, modify.ModifyReg) && BeginsWith(path + reg, "@Modify@"))
         channel_tally(path + reg + strlen("@Modify@"), value);
-    else if (StrIStr(path, "Transition Type"))
-        (void)modify_crop_mask(); // of the key: its buttons have just followed it
+    else if (strcmp(path, SWITCHER_ASPECT) == 0 || StrIStr(path, "Transition Type"))
+        (void)modify_crop_mask(); // of the bank; of the key, whose buttons have just followed it
     return 0;
 }
 

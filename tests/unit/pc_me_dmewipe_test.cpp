@@ -491,9 +491,10 @@ TEST_F(MeDmeWipe, A4To3CropNeedsAPictureThatIsWider)
     };
     for (const auto& c : cases) {
         Open(c.page);
-        SYS_RefSwrScreenAspect[(c.page >> 24) == 0x14 ? 5 : 0] = c.bank_aspect;
         for (const char* line : c.dmes)
             Tell(std::string("Engineering Setup@System@Format@DME Aspect#") + line);
+        std::fill_n(SYS_RefSwrScreenAspect, 7, !c.bank_aspect); // each line has set them anew
+        SYS_RefSwrScreenAspect[(c.page >> 24) == 0x14 ? 5 : 0] = c.bank_aspect;
         Tell(std::string(c.root) + "@Pattern Select@Pattern#" + c.pattern);
         for (int id : c.presses)
             (void)Press(id);
@@ -513,6 +514,7 @@ TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannel)
     EXPECT_TRUE(Enabled(CH2));
     Tell("Engineering Setup@System@Format@DME Aspect#1,16:9,0,8");
     SYS_RefPnlType = DEVTYPE_QRD33; // no unit of this desk is the reference
+    SYS_RefSwrScreenAspect[5] = 0;
     Tell("PGM/PST@DME Wipe@Pattern Select@Pattern#2003");
     EXPECT_FALSE(Enabled(CROP_4_3)); // here PGM/PST goes by its own aspect
 }
