@@ -139,7 +139,8 @@ static const DMEWIPEPTN* pattern_at(int row, int column)
     return i < g.ptnn ? &g.ptn[i] : nullptr;
 }
 
-static int number_of(const DMEWIPEPTN* p, int row)
+// Of the first set of channels.
+static int base_number_of(const DMEWIPEPTN* p, int row)
 {
     return p->num + dw.group[dw.line[dw.window.top + row].group].offset;
 }
@@ -156,7 +157,7 @@ static int press(int x, int y)
     if (!p)
         return 0;
     char number[16];
-    PrintText(number, "%d", number_of(p, row));
+    PrintText(number, "%d", base_number_of(p, row) + DW_SetOf(dw.number));
     Net_SendCommandFormat("put %s#%s", dw.cmd, number);
     if (p->nb)
         NB_Create(p->nb, number);
@@ -184,18 +185,30 @@ static int scroll(int kind, int bar, int step_or_line)
     return 0;
 }
 
+int DW_ShowChannels(int channels)
+{
+    for (int i = 0; i < dw.window.total; i++) {
+        if (DW_ChannelsOf(dw.group[dw.line[i].group].ptn[0].num) != channels)
+            continue;
+        (void)scroll(SB_THUMB, 0, i); // bar 0; the window stays inside the list
+        return 0;
+    }
+    return -1;
+}
+
 // --- Picture ---
 
-static void draw_cell(int x, int y, int number)
+static void draw_cell(int x, int y, int base)
 {
     constexpr unsigned char VEIL = 200;
     const int right = x + CELL_PX - 1;
     const int bottom = y + CELL_PX - 1;
+    const int number = base + DW_SetOf(dw.number);
     char text[16];
     PrintText(text, "%d", number);
     TDL_FillRectS(x, y, right, bottom, 0x000000);
-    if (number > 0 && number < WIPE_PTN_MAX)
-        TDL_PutS(x + 4, y + 2, G_WipePtn[number]);
+    if (base > 0 && base < WIPE_PTN_MAX)
+        TDL_PutS(x + 4, y + 2, G_WipePtn[base]);
     if (number != dw.number) {
         TDL_SymbolS(x + 4, y + 53, text, 1, 0xFFFFFF);
         return;
@@ -214,7 +227,7 @@ static void draw_line(int row)
                      0xFFFFFF);
     for (int column = 0; column < COLUMNS; column++)
         if (const DMEWIPEPTN* p = pattern_at(row, column))
-            draw_cell(CELL_X + column * PITCH, y, number_of(p, row));
+            draw_cell(CELL_X + column * PITCH, y, base_number_of(p, row));
 }
 
 static int redraw()

@@ -98,6 +98,12 @@ int st_drw_me_wipe_pattern_mix(ST_MEM*);
 int st_drw_me_wipe_edge(ST_MEM*);
 int st_drw_me_wipe_edge_2(ST_MEM*);
 
+// --- Effects-unit wipes: a_st_me_dmewipe ---
+int st_drw_me_dmewipe_pattern(ST_MEM*);
+int st_drw_me_dmewipe_modifier(ST_MEM*);
+int st_drw_me_dmewipe_edge(ST_MEM*);
+int st_drw_me_dmewipe_direction(ST_MEM*);
+
 // --- The bank: a_st_misc ---
 enum TransitionTally : int { // of the transition cell
     TRN_MIX = 0,

@@ -53,9 +53,12 @@ inline constexpr MeTab<HF_TBL> me_wipe_tabs[] = {
 #undef ST_MODIFIED
 inline constexpr MeTab<HF_TBL> me_dmewipe_tabs[] = {
     {{.id = 1, .caption = "Pattern\nSelect",   .page = 0x11610000}},
-    {{.id = 2, .caption = "Pattern\nModifier", .page = 0x11630000}},
-    {{.id = 3, .caption = "Edge/\nDirection",  .page = 0x11640000}},
-    {{.id = 4, .caption = "Modify",            .page = 0x11650000}},
+    {{.id = 2, .caption = "Pattern\nModifier", .page = 0x11630000,
+      .statcmd = {"~2@Pattern Modifier@Size#true", "~2@Pattern Modifier@Transparency#true"}}},
+    {{.id = 3, .caption = "Edge/\nDirection",  .page = 0x11640000,
+      .statcmd = {"~2@Edge@Border#true", "~2@Edge@Soft#true", "~2@Edge/Direction@Shadow#true"}}},
+    {{.id = 4, .caption = "Modify",            .page = 0x11650000,
+      .statcmd = {"~2@Modify@Position@Position@1#true", "~2@Modify@Size@1#true", "~2@Modify@Crop Mode@Crop@1#true"}}},
     {{.id = 5, .caption = "DME Wipe\nSnapshot", .page = 0x11670000}},
 };
 inline constexpr MeTab<HF_TBL> me_misc_tabs[] = {

@@ -1,0 +1,31 @@
+// pc_me_dmewipe: page code around the effects-unit wipe of a bank and that with which a key comes
+// and goes: its pattern, its modifiers, place, size and crop of its channels. The list of patterns
+// itself is a_dw's; the snapshots are not here.
+#pragma once
+#include "a_pc.h"
+
+// --- Page code: the wipe of a bank ---
+extern const PC_TBL pc_me_dmewipe_pattern;
+extern const PC_TBL pc_me_dmewipe_ptnmodifier;
+extern const PC_TBL pc_me_dmewipe_edgedirection;
+extern const PC_TBL pc_me_dmewipe_modify;
+extern const PC_TBL pc_me_dmewipe_modify_removefrombigin;
+
+// --- Page code: the wipe of a key ---
+extern const PC_TBL pc_me_key_trans_dmewipead;
+extern const PC_TBL pc_me_key_trans_removefrombigin;
+
+// --- What they share ---
+
+// True while the bank of the page has no effects-unit wipe to adjust: its main page while the bank
+// is assigned to the sub side only, its sub page while it is assigned to the main side only or the
+// installation has no such wipe on sub sides. Never on a page of a key.
+bool dmewipe_is_off();
+
+// The subtree of the wipe that the page is about: "M/E-1 SUB@DME Wipe",
+// "M/E-1@Key1@Transition@DME Wipe". dst holds size bytes; a longer path is cut.
+void dmewipe_root(char* dst, int size);
+template <size_t N> void dmewipe_root(char (&dst)[N])
+{
+    dmewipe_root(dst, int(N));
+}

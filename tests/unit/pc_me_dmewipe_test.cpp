@@ -1,0 +1,650 @@
+// The pages of the effects-unit wipes as the table opens them: of banks and of keys.
+#include "a_bt_page.h"
+#include "a_dw.h"
+#include "a_pc.h"
+#include "bus.h"
+#include "device.h"
+#include "loop.h"
+#include <gmock/gmock.h>
+#include <optional>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+namespace
+{
+constexpr uint32_t MODIFY_ME1 = 0x11650000;
+constexpr uint32_t MODIFY_ME4 = 0x81650000;
+constexpr int POSITION = 17, RELATIVE = 19, CROP = 20, CROP_4_3 = 21, SIZE = 22;
+constexpr int CH1 = 35, CH2 = 36, CH3 = 37;
+
+using Lines = std::vector<std::string>;
+} // namespace
+
+struct MeDmeWipe : testing::Test {
+    std::optional<FullHouse> all; // both sides of every bank
+
+    void SetUp() override
+    {
+        Harness_Reset();
+        all.emplace();
+        SYS_DWSubEnable = 1;
+        for (PAGE* p = PageTable; p->id != PAGE_END; p++)
+            p->knobassign = -1;
+    }
+    void TearDown() override
+    {
+        std::fill_n(SYS_RefSwrScreenAspect, 7, 0);
+        SYS_DWSubEnable = 0;
+        SYS_RefPnlType = DEVTYPE_UNKNOWN;
+        DW_Create(nullptr, 0);
+        all.reset();
+        Harness_Reset();
+        (void)TakeQueuedCommands();
+    }
+    static void Open(uint32_t id)
+    {
+        CreatePage(PAGE_TOP);
+        (void)TakeQueuedCommands();
+        ASSERT_EQ(CreatePage(id), 0) << std::hex << id;
+    }
+    static void Tell(const std::string& line) { SendDummyTally(line.c_str()); }
+    // The page with a pattern; what that sent is forgotten.
+    static void OpenWith(uint32_t id, const std::string& root, const std::string& pattern)
+    {
+        Open(id);
+        Tell(root + "@Pattern Select@Pattern#" + pattern);
+        (void)TakeQueuedCommands();
+    }
+    // What a press sends; an action key is let run out first.
+    static Lines Press(int id)
+    {
+        const BT_MEM* b = bt_find(id);
+        EXPECT_TRUE(b) << id;
+        SendMessage(MSG_REDRAW, 1000, 0, 0, 0);
+        (void)TakeQueuedCommands();
+        if (b)
+            SendMessage(MSG_PRESS, b->x1 + 5, b->y1 + 5, 1, 0);
+        return TakeQueuedCommands();
+    }
+    // Switch a function on as the server does, and give its button the knobs.
+    static void Own(const std::string& root, const std::string& function, int button)
+    {
+        Tell(root + "@Modify@" + function + "@1#true");
+        (void)Press(button);
+        ASSERT_EQ(BT_GetKnobAssign(), button);
+    }
+    static Lines Enter(int box, double value)
+    {
+        (void)TakeQueuedCommands();
+        NB_SendValue2(box, value);
+        return TakeQueuedCommands();
+    }
+    static Lines Turn(const std::string& line)
+    {
+        (void)TakeQueuedCommands();
+        Tell(line);
+        return TakeQueuedCommands();
+    }
+    static Lines Default(int box)
+    {
+        (void)TakeQueuedCommands();
+        SendMessage(MSG_PRESS, 720, 127 + 82 * (box - 1) + 20, 2, 0);
+        return TakeQueuedCommands();
+    }
+    static bool Enabled(int id) { return BT_GetVisible(id) == BT_ENABLED; }
+    static std::string Chosen()
+    {
+        std::string chosen;
+        for (int id : {CH1, CH2, CH3})
+            chosen += BT_GetOnOff(id) ? '1' : '0';
+        return chosen;
+    }
+};
+
+// --- Modify: subscriptions ---
+
+TEST_F(MeDmeWipe, WhatModifyAddsItRemovesInThisOrder)
+{
+    static const struct {
+        uint32_t page;
+        const char *root, *pattern;
+        int channels;
+    } cases[] = {
+        {MODIFY_ME4, "M/E-4@DME Wipe", "2003", 2},
+        {0x15650000, "M/E-1 SUB@DME Wipe", "9001", 3},
+        {0x15270003, "M/E-1@Key6@Transition@DME Wipe", "1203", 1},
+        {0x14470003, "PGM/PST@DSK4@Transition@DME Wipe", "2003", 1}, // a key has one channel
+    };
+    const auto path = [](const std::string& root, const char* what, int ch) {
+        return root + "@Modify@" + what + "@" + std::to_string(ch);
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        EXPECT_THAT(TakeQueuedCommands(),
+                    Contains("add M/E-1@Key1@Processed Key@DME Status").Times(1));
+        Tell(std::string(c.root) + "@Pattern Select@Pattern#" + c.pattern);
+        const Lines opened = TakeQueuedCommands();
+        Lines expected = {std::string("remove ") + c.root + "@Pattern Select@Pattern",
+                          "remove M/E-1@Key1@Processed Key@DME Status"};
+        for (int ch = 1; ch <= c.channels; ch++)
+            for (const char* what : {"Position@Position", "Size", "Crop Mode@Crop"}) {
+                EXPECT_THAT(opened, Contains("add " + path(c.root, what, ch)).Times(1)) << c.root;
+                expected.push_back("remove " + path(c.root, what, ch));
+            }
+        for (const char* what :
+             {"Position@Position@H", "Position@Position@V", "Size@Size", "Crop Mode@Crop@Top",
+              "Crop Mode@Crop@Left", "Crop Mode@Crop@Right", "Crop Mode@Crop@Bottom"}) {
+            EXPECT_THAT(opened, Contains("add " + path(c.root, what, 1)).Times(1)) << c.root;
+            expected.push_back("remove " + path(c.root, what, 1));
+        }
+        EXPECT_THAT(opened, Contains("read " + path(c.root, "Position@Position@V", c.channels)));
+        PC_Create(nullptr, 0);
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAreArray(expected)) << c.root;
+    }
+}
+
+TEST_F(MeDmeWipe, ThePatternDecidesWhichChannelsThereAre)
+{
+    static const struct {
+        const char* pattern;
+        int channels; // that can be chosen
+    } cases[] = {{"2001", 2}, {"3999", 3}, {"1003", 0}, {"8001", 2}, {"9001", 3},
+                 {"7003", 0}, {"2000", 0}, {"12", 0},   {"x", 0},    {"4001", 0}};
+    Open(MODIFY_ME1);
+    for (const auto& c : cases) {
+        Tell(std::string("M/E-1@DME Wipe@Pattern Select@Pattern#") + c.pattern);
+        EXPECT_EQ(Enabled(CH1) + Enabled(CH2) + Enabled(CH3), c.channels) << c.pattern;
+        EXPECT_EQ(Enabled(RELATIVE), c.channels > 0) << c.pattern;
+    }
+}
+
+TEST_F(MeDmeWipe, AnotherPatternLeavesNothingOfTheOneBefore)
+{
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "3001");
+    Own("M/E-1@DME Wipe", "Size", SIZE);
+    (void)Press(CH3);
+    (void)TakeQueuedCommands();
+    Tell("M/E-1@DME Wipe@Pattern Select@Pattern#1001");
+    const Lines sent = TakeQueuedCommands();
+    EXPECT_THAT(sent, Contains("remove M/E-1@DME Wipe@Modify@Size@3"));
+    EXPECT_THAT(sent, Contains("remove M/E-1@DME Wipe@Modify@Size@Size@3"));
+    EXPECT_EQ(Chosen(), "100");
+    EXPECT_EQ(BT_GetStatus(SIZE), BT_OFF);
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    Tell("M/E-1@DME Wipe@Pattern Select@Pattern#1001"); // once more: nothing new
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+// --- Modify: choice of channels ---
+
+TEST_F(MeDmeWipe, OneChannelStaysChosen)
+{
+    static const struct {
+        const char* pattern;
+        std::vector<int> presses;
+        const char* chosen;
+    } cases[] = {
+        {"2003", {CH2}, "110"},      {"2003", {CH1}, "010"},           {"2003", {CH1, CH2}, "100"},
+        {"3003", {CH3, CH1}, "001"}, {"3003", {CH3, CH1, CH3}, "100"}, {"2003", {CH3}, "100"},
+        {"1003", {CH2}, "100"},
+    };
+    for (const auto& c : cases) {
+        OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", c.pattern);
+        for (int id : c.presses)
+            (void)Press(id);
+        EXPECT_EQ(Chosen(), c.chosen) << c.pattern << " " << c.presses[0];
+    }
+}
+
+TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowed)
+{
+    OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", "2003");
+    const Lines sent = Press(CH1); // moves on to the second
+    EXPECT_THAT(sent, Contains("remove M/E-4@DME Wipe@Modify@Crop Mode@Crop@Top@1"));
+    EXPECT_THAT(sent, Contains("put M/E-4@DME Wipe@Modify@Position@Position@2#true"));
+    EXPECT_THAT(sent, Contains("put M/E-4@DME Wipe@Modify@Size@2#true"));
+    EXPECT_THAT(sent, Contains("put M/E-4@DME Wipe@Modify@Crop Mode@Crop@2#true"));
+    EXPECT_THAT(sent, Contains("add M/E-4@DME Wipe@Modify@Size@Size@2"));
+    EXPECT_THAT(sent, Not(Contains(testing::HasSubstr("@1#"))));
+    Tell("M/E-4@DME Wipe@Modify@Size@1#true"); // not the leading one
+    EXPECT_NE(BT_GetStatus(SIZE), BT_ON);
+    Tell("M/E-4@DME Wipe@Modify@Size@2#true");
+    EXPECT_EQ(BT_GetStatus(SIZE), BT_ON);
+}
+
+TEST_F(MeDmeWipe, TheKnobsGoAlongToTheChannelThatIsChosen)
+{
+    const std::string root = "M/E-1@DME Wipe";
+    OpenWith(MODIFY_ME1, root, "2003");
+    Own(root, "Size", SIZE);
+    Tell(root + "@Modify@Size@Size@1#70");
+    (void)Press(CH1); // moves on to the second, which the server tells as it is and then switches
+    Tell(root + "@Modify@Size@2#false");
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    Tell(root + "@Modify@Crop Mode@Crop@2#true");
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    Tell(root + "@Modify@Size@2#true");
+    EXPECT_EQ(BT_GetKnobAssign(), SIZE);
+    Tell(root + "@Modify@Size@Size@2#30");
+    char path[CMD_SIZE];
+    double shown = 0;
+    EXPECT_EQ(NB_GetKnob_info("Size", path, &shown, sizeof path), 1);
+    EXPECT_EQ(shown, 30);
+}
+
+// --- Modify: knobs ---
+
+TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsSteps)
+{
+    static const struct {
+        const char *counts, *value; // null: sends nothing
+    } cases[] = {{"1", "8.00"},        {"-2", "-32.00"}, {"18", "11536.00"},  {"25", "11536.00"},
+                 {"-25", "-11536.00"}, {"0", nullptr},   {"1e30", "11536.00"}};
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
+    Own("M/E-1@DME Wipe", "Position@Position", POSITION);
+    for (const auto& c : cases) {
+        const Lines sent = Turn(std::string("Panel@Common@Knob1#") + c.counts);
+        if (c.value)
+            EXPECT_THAT(
+                sent,
+                ElementsAre(std::string("put M/E-1@DME Wipe@Modify@Position@Position@V@1#diff") +
+                            c.value));
+        else
+            EXPECT_THAT(sent, IsEmpty()) << c.counts;
+    }
+}
+
+TEST_F(MeDmeWipe, AllChosenChannelsFollowAKnob)
+{
+    OpenWith(0x15650000, "M/E-1 SUB@DME Wipe", "3001");
+    Own("M/E-1 SUB@DME Wipe", "Size", SIZE);
+    (void)Press(CH3);
+    EXPECT_THAT(Turn("Panel@Common@Knob0#2"),
+                ElementsAre("put M/E-1 SUB@DME Wipe@Modify@Size@Size@1#diff32.00",
+                            "put M/E-1 SUB@DME Wipe@Modify@Size@Size@3#diff32.00"));
+    EXPECT_THAT(Enter(1, 12.5), ElementsAre("put M/E-1 SUB@DME Wipe@Modify@Size@Size@1#12.50",
+                                            "put M/E-1 SUB@DME Wipe@Modify@Size@Size@3#12.50"));
+}
+
+TEST_F(MeDmeWipe, RelativeChannelsMoveAgainstEachOther)
+{
+    const std::string pos = "M/E-4@DME Wipe@Modify@Position@Position@";
+    OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", "2003");
+    Own("M/E-4@DME Wipe", "Position@Position", POSITION);
+    (void)Press(RELATIVE);
+    EXPECT_EQ(BT_GetStatus(RELATIVE), BT_ON);
+    EXPECT_THAT(Turn("Panel@Common@Knob0#1"), ElementsAre("put " + pos + "H@1#diff8.00"))
+        << "one channel alone has nothing to move against";
+    (void)Press(CH2);
+    EXPECT_THAT(Turn("Panel@Common@Knob0#1"),
+                ElementsAre("put " + pos + "H@1#diff8.00", "put " + pos + "H@2#diff-8.00",
+                            "read " + pos + "H@1", "read " + pos + "H@2"));
+    static const struct {
+        double number;
+        const char *first, *second;
+    } cases[] = {{50, "25.00", "-25.00"}, {-30.5, "-15.25", "15.25"}, {0, "0.00", "0.00"}};
+    for (const auto& c : cases)
+        EXPECT_THAT(Enter(2, c.number),
+                    ElementsAre("put " + pos + "V@1#" + c.first, "put " + pos + "V@2#" + c.second,
+                                "read " + pos + "V@1", "read " + pos + "V@2"));
+    Tell(pos + "H@1#30");
+    Tell(pos + "H@2#-10");
+    char path[CMD_SIZE];
+    double shown = 0;
+    EXPECT_EQ(NB_GetKnob_info("H Distance", path, &shown, sizeof path), 1);
+    EXPECT_EQ(shown, 40);
+}
+
+TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
+{
+    static const struct {
+        int box;
+        double value;
+        std::vector<const char*> edges; // in this order
+    } cases[] = {
+        {1, -40, {"Right@1#40.00", "Left@1#-40.00"}},
+        {1, 5, {"Right@1#0.00", "Left@1#0.00"}},
+        {2, 30, {"Bottom@1#-30.00", "Top@1#30.00"}},
+        {2, -5, {"Bottom@1#0.00", "Top@1#0.00"}},
+        {3, -7.25, {"Right@1#7.25", "Left@1#-7.25", "Bottom@1#-7.25", "Top@1#7.25"}},
+        {3, 7, {"Right@1#0.00", "Left@1#0.00", "Bottom@1#0.00", "Top@1#0.00"}},
+    };
+    // Banks differ in how a box tells its value.
+    static const struct {
+        uint32_t page;
+        const char* root;
+    } pages[] = {{MODIFY_ME1, "M/E-1@DME Wipe"},
+                 {MODIFY_ME4, "M/E-4@DME Wipe"},
+                 {0x12370003, "M/E-2@Key3@Transition@DME Wipe"}};
+    for (const auto& p : pages) {
+        OpenWith(p.page, p.root, "1003");
+        Own(p.root, "Crop Mode@Crop", CROP);
+        for (const auto& c : cases) {
+            Lines expected;
+            for (const char* edge : c.edges)
+                expected.push_back(std::string("put ") + p.root + "@Modify@Crop Mode@Crop@" + edge);
+            EXPECT_THAT(Enter(c.box, c.value), ElementsAreArray(expected))
+                << p.root << " " << c.box;
+        }
+    }
+}
+
+TEST_F(MeDmeWipe, AChannelThatIsNotCroppedStaysAsItIs)
+{
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
+    Own("M/E-1@DME Wipe", "Crop Mode@Crop", CROP);
+    (void)Press(CH2);
+    EXPECT_EQ(Enter(1, -10).size(), 2u); // the server hasn't switched the second on
+    Tell("M/E-1@DME Wipe@Modify@Crop Mode@Crop@2#true");
+    EXPECT_EQ(Enter(1, -10).size(), 4u);
+}
+
+TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
+{
+    const std::string crop = "M/E-1@DME Wipe@Modify@Crop Mode@Crop@";
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
+    Own("M/E-1@DME Wipe", "Crop Mode@Crop", CROP);
+    EXPECT_THAT(Turn("Panel@Common@Knob0#3"), IsEmpty()) << "no value yet";
+    Tell(crop + "Left@1#-50");
+    EXPECT_THAT(Turn("Panel@Common@Knob0#3"),
+                ElementsAre("put " + crop + "Right@1#49.24", "put " + crop + "Left@1#-49.24"));
+    EXPECT_THAT(Turn("Panel@Common@Knob0#-25"),
+                ElementsAre("put " + crop + "Right@1#100.00", "put " + crop + "Left@1#-100.00"));
+}
+
+TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
+{
+    static const struct {
+        int button;
+        const char* function;
+        int box;
+        std::vector<const char*> paths;
+    } cases[] = {
+        {POSITION, "Position@Position", 2, {"Position@Position@V@1"}},
+        {SIZE, "Size", 1, {"Size@Size@1"}},
+        {CROP, "Crop Mode@Crop", 2, {"Crop Mode@Crop@Bottom@1", "Crop Mode@Crop@Top@1"}},
+    };
+    const std::string root = "PGM/PST@DSK2@Transition@DME Wipe";
+    OpenWith(0x14270003, root, "1003");
+    for (const auto& c : cases) {
+        Own(root, c.function, c.button);
+        Lines expected;
+        for (const char* path : c.paths)
+            expected.push_back("default " + root + "@Modify@" + path);
+        EXPECT_THAT(Default(c.box), ElementsAreArray(expected));
+    }
+}
+
+// --- Modify: keys ---
+
+TEST_F(MeDmeWipe, KeysSendForTheChosenChannels)
+{
+    static const struct {
+        int button;
+        std::vector<const char*> puts; // behind "...@Modify@"
+    } cases[] = {
+        {CROP, {"Crop Mode@Crop@1#false", "Crop Mode@Crop@2#false"}}, // it is on and has the knobs
+        {POSITION, {"Position@Position@1#true", "Position@Position@2#true"}},
+        {18, {"Position@Center@1#true", "Position@Center@2#true"}},
+        {CROP_4_3, {"Crop Mode@4:3 Crop@1#true", "Crop Mode@4:3 Crop@2#true"}},
+        {49,
+         {"Position@Position@H@1#-100.00", "Position@Position@V@1#-100.00",
+          "Position@Position@H@2#-100.00", "Position@Position@V@2#-100.00"}},
+    };
+    const std::string root = "M/E-4@DME Wipe";
+    OpenWith(MODIFY_ME4, root, "2003");
+    (void)Press(CH2);
+    Own(root, "Crop Mode@Crop", CROP);
+    Tell("Engineering Setup@System@Format@DME Aspect#1,16:9,4,8");
+    for (const auto& c : cases) {
+        Lines expected;
+        for (const char* put : c.puts)
+            expected.push_back("put " + root + "@Modify@" + put);
+        Lines sent = Press(c.button);
+        std::erase_if(sent, [](const std::string& line) { return line.find("put M/E-4") != 0; });
+        EXPECT_THAT(sent, ElementsAreArray(expected)) << c.button;
+    }
+}
+
+TEST_F(MeDmeWipe, ACornerIsLitWhileThePictureStandsInIt)
+{
+    static const struct {
+        const char *h, *v;
+        int lit; // button, 0 none
+    } cases[] = {{"-100", "100", 33}, {"100", "100", 34},  {"-100.00", "-100.00", 49},
+                 {"100", "-100", 50}, {"100", "-99.9", 0}, {"nan", "-100", 50}};
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
+    for (const auto& c : cases) {
+        Tell(std::string("M/E-1@DME Wipe@Modify@Position@Position@H@1#") + c.h);
+        Tell(std::string("M/E-1@DME Wipe@Modify@Position@Position@V@1#") + c.v);
+        for (int id : {33, 34, 49, 50})
+            EXPECT_EQ(BT_GetOnOff(id), id == c.lit) << c.h << "," << c.v;
+    }
+}
+
+// --- Modify: which wipe there is ---
+
+TEST_F(MeDmeWipe, ABankWithoutItsWipeHasDeadKeys)
+{
+    enum { NONE = -1, MAIN_SIDE, SUB_SIDE, BOTH_SIDES };
+    static const struct {
+        uint32_t page;
+        int side, sub_enable;
+        bool off;
+    } cases[] = {
+        {0x12650000, NONE, 0, false},       {0x12650000, SUB_SIDE, 1, true},
+        {0x12650000, BOTH_SIDES, 1, false}, {0x16650000, MAIN_SIDE, 1, true},
+        {0x16650000, SUB_SIDE, 1, false},   {0x16650000, SUB_SIDE, 0, true},
+        {0x16630000, SUB_SIDE, 0, true},    {0x16640000, MAIN_SIDE, 1, true},
+        {0x16610000, SUB_SIDE, 0, true},    {0x16370003, SUB_SIDE, 0, false}, // of a key
+    };
+    for (const auto& c : cases) {
+        const bool is_key = isNowPageMeKey(c.page) != 0;
+        GL_MEAssign[3] = -1;
+        Open(c.page);
+        GL_MEAssign[3] = c.side == NONE ? -1 : 2; // now: a request would be led to the other side
+        GL_MainSubAssign[3] = c.side;
+        SYS_DWSubEnable = c.sub_enable;
+        for (const auto& object : Page->obj)
+            if (object.type == OBJ_PC)
+                PC_Create(static_cast<const PC_TBL*>(object.addr), 0);
+        Tell(std::string(is_key ? "M/E-2@Key7@Transition" : "M/E-2") +
+             (c.page < 0x13000000 || is_key ? "" : " SUB") +
+             "@DME Wipe@Pattern Select@Pattern#1201");
+        int enabled = 0;
+        for (int id : {17, 20, 22, 33, 49})
+            enabled += Enabled(id);
+        EXPECT_EQ(enabled == 0, c.off) << std::hex << c.page << " " << c.side;
+    }
+}
+
+TEST_F(MeDmeWipe, A4To3CropNeedsAPictureThatIsWider)
+{
+    static const struct {
+        uint32_t page;
+        const char *root, *pattern;
+        std::vector<const char*> dmes;
+        int bank_aspect; // of the bank itself
+        std::vector<int> presses;
+        bool usable;
+    } cases[] = {
+        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,16:9,1,8"}, 0, {}, true},
+        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,4:3,1,8"}, 1, {}, false},
+        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,16:9,1,9"}, 1, {}, false}, // the sub side's
+        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,16:9,2,8"}, 1, {}, false}, // of M/E-2
+        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"9,16:9,1,8", "0,16:9,1,8"}, 1, {}, false},
+        {0x15650000, "M/E-1 SUB@DME Wipe", "1003", {"8,16:9,1,9"}, 0, {}, true},
+        {0x14650000, "PGM/PST@DME Wipe", "1003", {"1,16:9,0,8"}, 0, {}, true},
+        {0x15270003, "M/E-1@Key6@Transition@DME Wipe", "1003", {"2,16:9,1,5"}, 0, {}, true},
+        // the second channel, and the third, go by the DME behind the first
+        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {}, false},
+        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH1}, true},
+        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"1,4:3,1,8", "2,16:9,3,8"}, 0, {CH1}, false},
+        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"4,4:3,1,8", "5,16:9,1,8"}, 0, {CH1}, false},
+        {MODIFY_ME1, "M/E-1@DME Wipe", "3003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH3, CH1}, true},
+        // the second set of channels has the bank's own aspect
+        {MODIFY_ME1, "M/E-1@DME Wipe", "7003", {"3,16:9,1,8"}, 0, {}, false},
+        {MODIFY_ME1, "M/E-1@DME Wipe", "7003", {}, 1, {}, true},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        for (const char* line : c.dmes)
+            Tell(std::string("Engineering Setup@System@Format@DME Aspect#") + line);
+        std::fill_n(SYS_RefSwrScreenAspect, 7, !c.bank_aspect); // each line has set them anew
+        SYS_RefSwrScreenAspect[(c.page >> 24) == 0x14 ? 5 : 0] = c.bank_aspect;
+        Tell(std::string(c.root) + "@Pattern Select@Pattern#" + c.pattern);
+        for (int id : c.presses)
+            (void)Press(id);
+        EXPECT_EQ(Enabled(CROP_4_3), c.usable)
+            << c.root << " " << c.pattern << " " << c.dmes.size();
+    }
+    (void)TakeQueuedCommands();
+    Tell("M/E-1@Key1@Processed Key@DME Status#anything");
+    EXPECT_THAT(TakeQueuedCommands(), Contains("read Engineering Setup@System@Format@DME Aspect"));
+}
+
+TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannel)
+{
+    SYS_RefPnlType = DEVTYPE_QRD33;
+    OpenWith(0x14650000, "PGM/PST@DME Wipe", "3003");
+    EXPECT_EQ(BT_GetVisible(CH3), BT_CUTOFF);
+    EXPECT_TRUE(Enabled(CH2));
+    Tell("Engineering Setup@System@Format@DME Aspect#1,16:9,0,8");
+    SYS_RefPnlType = DEVTYPE_QRD33; // no unit of this desk is the reference
+    SYS_RefSwrScreenAspect[5] = 0;
+    Tell("PGM/PST@DME Wipe@Pattern Select@Pattern#2003");
+    EXPECT_FALSE(Enabled(CROP_4_3)); // here PGM/PST goes by its own aspect
+}
+
+TEST_F(MeDmeWipe, AKeyIsAdjustedWhileEitherOfItsTransitionsIsSuchAWipe)
+{
+    static const struct {
+        const char *on, *off;
+        bool usable;
+    } cases[] = {{"DME Wipe", "Mix", true},
+                 {"Wipe", "Mix", false},
+                 {"Cut", "DME Wipe", true},
+                 {"DME Wipe", "DME Wipe", true}};
+    OpenWith(0x11170003, "M/E-1@Key1@Transition@DME Wipe", "1003");
+    Tell("Engineering Setup@System@Format@DME Aspect#1,16:9,1,0");
+    for (const auto& c : cases) {
+        Tell(std::string("M/E-1@Key1@Transition@ON Transition Type#") + c.on);
+        Tell(std::string("M/E-1@Key1@Transition@OFF Transition Type#") + c.off);
+        for (int id : {POSITION, CROP, CROP_4_3, SIZE, 33})
+            EXPECT_EQ(Enabled(id), c.usable) << c.on << "," << c.off << " " << id;
+    }
+}
+
+// --- The other pages ---
+
+TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
+{
+    static const struct {
+        uint32_t page;
+        const char* pattern;
+        std::vector<int> usable, dead;
+    } cases[] = {
+        {0x13630000, "1203", {17, 18, 54}, {20, 21, 22, 34, 35, 49, 52}},
+        {0x13630000, "1301", {21, 22, 34, 35}, {17, 18, 20, 49, 54}},
+        {0x13630000, "7391", {18, 20, 22, 54}, {17, 21, 49}},
+        {0x13630000, "2001", {49, 50, 51}, {17, 20, 52}},
+        {0x13630000, "3401", {20, 22, 49, 52}, {21}},
+        {0x13640000, "1310", {17, 37, 38}, {49, 50}},
+        {0x13640000, "1905", {17, 18}, {37, 38, 49}},
+        {0x13640000, "1001", {17, 37, 49}, {}},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        Tell("M/E-3@DME Wipe@Edge/Direction@Shadow#true");
+        Tell(std::string("M/E-3@DME Wipe@Pattern Select@Pattern#") + c.pattern);
+        for (int id : c.usable)
+            EXPECT_TRUE(Enabled(id)) << c.pattern << " " << id;
+        for (int id : c.dead)
+            EXPECT_FALSE(Enabled(id)) << c.pattern << " " << id;
+    }
+}
+
+TEST_F(MeDmeWipe, AKeyHasTheModifiersOfItsPattern)
+{
+    static const struct {
+        const char* pattern;
+        bool size, transparency;
+    } cases[] = {{"1203", true, true}, {"1394", false, true}, {"1001", false, false}};
+    Open(0x86270003);
+    for (const auto& c : cases) {
+        Tell(std::string("M/E-5@Key6@Transition@DME Wipe@Pattern Select@Pattern#") + c.pattern);
+        EXPECT_EQ(Enabled(51), c.size) << c.pattern;
+        EXPECT_EQ(Enabled(52), c.transparency) << c.pattern;
+    }
+}
+
+TEST_F(MeDmeWipe, TheCellShowsTheSamePictureForBothSetsOfChannels)
+{
+    const auto picture = [](const char* pattern) {
+        Tell(std::string("M/E-2@DME Wipe@Pattern Select@Pattern#") + pattern);
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        std::vector<uint32_t> row;
+        for (int x = 122; x < 178; x++)
+            row.push_back(PixelAt(x, 112));
+        return row;
+    };
+    Open(0x12640000);
+    const auto first = picture("2003");
+    EXPECT_NE(first, picture("2004"));
+    EXPECT_EQ(first, picture("8003"));
+}
+
+TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
+{
+    static const struct {
+        uint32_t page;
+        const char *root, *pattern;
+        int button, channel;
+    } cases[] = {{0x12600007, "M/E-2@DME Wipe", "2003", 18, 2},
+                 {0x12170007, "M/E-2@Key1@Transition@DME Wipe", "1003", 17, 1}};
+    for (const auto& c : cases) {
+        OpenWith(c.page, c.root, c.pattern);
+        EXPECT_FALSE(Enabled(19));
+        const std::string remove = std::string(c.root) + "@Modify@Remove From Begin@";
+        const std::string ch = std::to_string(c.channel);
+        Tell(remove + ch + "#true");
+        (void)Press(c.button);
+        Tell(remove + "Start@" + ch + "#20");
+        Tell(remove + "Limit@" + ch + "#60");
+        Tell(remove + "Start@3#90"); // another channel's
+        // The bar's left end is now the start, its right end of the other box the limit.
+        SendMessage(MSG_WHEELUP, 720, 127 + 82 + 20, 0, 0);
+        const Lines up = TakeQueuedCommands();
+        ASSERT_FALSE(up.empty());
+        for (int i = 0; i < 60; i++)
+            SendMessage(MSG_WHEELUP, 720, 127 + 82 + 20, 0, 0);
+        EXPECT_THAT(TakeQueuedCommands(), Contains("put " + remove + "Limit@" + ch + "#20.00"));
+    }
+}
+
+TEST_F(MeDmeWipe, TheListShowsWhatIsAskedForAndStaysOnItsSetOfChannels)
+{
+    const auto press = [] {
+        (void)TakeQueuedCommands();
+        SendMessage(MSG_PRESS, 160 + 20, 89 + 20, 1, 0); // the first cell
+        return TakeQueuedCommands();
+    };
+    static const struct {
+        int button;
+        const char *pattern, *number;
+    } cases[] = {{33, "1003", "1001"},
+                 {34, "1003", "2001"},
+                 {35, "9001", "9001"},
+                 {34, "8251", "8001"},
+                 {33, "2003", "1001"}};
+    Open(0x82610000);
+    for (const auto& c : cases) {
+        Tell(std::string("M/E-5@DME Wipe@Pattern Select@Pattern#") + c.pattern);
+        (void)Press(c.button);
+        EXPECT_THAT(press(),
+                    Contains(std::string("put M/E-5@DME Wipe@Pattern Select@Pattern#") + c.number));
+    }
+}
