@@ -1,0 +1,213 @@
+"""A person works the pages of a mix/effect bank: one keyer from its type to its transition, the same on another bank and
+key, wipe snapshots, default recall, what a format and an installation take away, and a link that goes in the middle."""
+import re
+import sys
+import time
+import unittest
+
+from desk import Desk
+
+BUILD = sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev"
+
+INITIAL_READ_END = "add M/E-5@Key8@Processed Key@Rotation"
+DEFAULT_KEY = (45, 563)
+WIPE = "M/E-1@Wipe@Main Pattern@Pattern"
+REGISTERS = "Snapshot@Wipe Snapshot@"
+BTN_STORE = 22
+BTN_OF_REGISTER = {1: 49, 4: 33, 5: 34}  # as on a keypad
+
+
+def grid(button_id):
+    """The middle of a standard button."""
+    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
+
+
+def face(button_id):
+    """A standard button without its rim."""
+    x, y = grid(button_id)
+    return x - 36, y - 24, x + 36, y + 28
+
+
+def cell(column, line):
+    """A status cell."""
+    return 100 + 100 * column, 75 + 90 * line, 199 + 100 * column, 164 + 90 * line
+
+
+def bottom_tab(number):
+    return 97 + 86 * (number - 1) + 43, 564
+
+
+def left_tab(number):
+    return 48, 73 + 65 * (number - 1) + 30
+
+
+class MixEffect(unittest.TestCase):
+    """The tests build on one another, in the order of their names: one start-up serves all."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desk = Desk(BUILD)
+        cls.addClassCleanup(cls.desk.close)
+        cls.desk.start_app()
+        cls.desk.wait_wire(INITIAL_READ_END, 20)
+        cls.desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
+
+    def open_page(self, number, sign):
+        self.desk.wire()
+        self.desk.console(f"page {number}")
+        self.desk.wait_wire(sign)
+        time.sleep(0.3)
+
+    def touch(self, button_id, *lines):
+        """A touch on a button, and what it must send."""
+        self.desk.wire()
+        self.desk.touch(*grid(button_id), settle=0.15)
+        sent = []
+        for line in lines:
+            sent += self.desk.wait_wire(line) if line not in sent else []
+        return sent
+
+    def said(self, pattern):
+        """What the application has sent since the start that matches, whoever has read the wire."""
+        with open(self.desk.sim_log, encoding="latin-1") as log:
+            return re.findall(f"< {pattern}", log.read())
+
+    def turn(self, knob, detents, tail, step=0.01):
+        """Turn a knob that the page has assigned to a path of that tail; each detent is a step."""
+        path = self.said(f"assign Knob{knob}#(.*)")[-1]
+        self.assertTrue(path.endswith(tail), path)
+        wanted = float(self.desk.value(path)) + detents * step
+        self.desk.console(f"knob {knob} {detents:+d}")
+        end = time.monotonic() + 2
+        while abs(float(self.desk.value(path)) - wanted) > step / 2:
+            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {wanted}")
+
+    def wait_value(self, path, expected, timeout=2.0):
+        end = time.monotonic() + timeout
+        while self.desk.value(path) != expected:
+            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {expected}")
+            time.sleep(0.05)
+
+    def wait_part(self, rect, before, timeout=2.0):
+        """The picture there, once it differs from before."""
+        end = time.monotonic() + timeout
+        while self.desk.part(*rect) == before:
+            self.assertLess(time.monotonic(), end, f"nothing changes in {rect}")
+            time.sleep(0.05)
+        return self.desk.part(*rect)
+
+    def work_through(self, pages, key):
+        """All tabs of a keyer; pages is what its page numbers begin with, key its path."""
+        self.open_page(pages + "1", f"add {key}@Type@Key Type")
+        self.touch(19, f"put {key}@Type@Key Type#Chroma", f"assign Knob0#{key}@Type@Key Type@Chroma@Clip")
+        self.turn(0, 1250, "@Chroma@Clip")
+        self.turn(1, -500, "@Chroma@Gain")
+        self.desk.touch(*bottom_tab(2))
+        self.desk.wait_wire(f"add {key}@Edge@Edge")
+        self.touch(18, f"put {key}@Edge@Edge#Border")
+        self.turn(0, 150, "@Border@Width")
+        self.desk.touch(*bottom_tab(3))
+        self.desk.wait_wire(f"add {key}@Main Mask@Main Mask")
+        self.touch(17, f"put {key}@Main Mask@Main Mask#true")
+        self.touch(33, f"assign Knob0#{key}@Main Mask@Box@Left")
+        self.turn(0, 1000, "@Box@Left")
+        self.desk.touch(*bottom_tab(5))
+        self.desk.wait_wire(f"add {key}@Resizer@Resizer")
+        self.touch(17, f"put {key}@Resizer@Resizer#true")
+        self.turn(0, -2500, "@Resizer@Size")
+        self.desk.touch(*bottom_tab(7))
+        self.desk.wait_wire(f"add {key}@Transition@ON Transition Type")
+        self.touch(51, f"assign Knob0#{key}@Transition@ON Transition Rate")
+        self.turn(0, -20, "@ON Transition Rate", 1)
+        before = self.desk.part(*face(49))
+        self.touch(50, f"put {key}@Transition@Auto Trans#true")
+        self.wait_value(f"{key}@Status@Key ON", "true")
+        self.wait_part(face(49), before)
+
+    def overview_changes(self, page, sign, line, pages, key):
+        """The three cells of a key on the first page of its bank show what was done on its pages."""
+        cells = [cell(column, line) for column in range(3)]
+        self.open_page(page, sign)
+        before = [self.desk.part(*rect) for rect in cells]
+        other = self.desk.part(*cell(0, line ^ 1))
+        earlier = len(self.said("put (?!TopMenu)(.*)"))
+        self.work_through(pages, key)
+        puts = self.said("put (?!TopMenu)(.*)")[earlier:]
+        self.assertGreater(len(puts), 4)
+        self.assertEqual([path for path in puts if not path.startswith(key + "@")], [])
+        self.open_page(page, sign)
+        for rect, was in zip(cells, before):
+            self.wait_part(rect, was)
+        self.assertEqual(self.desk.part(*cell(0, line ^ 1)), other)
+
+    def test_01_a_keyer_is_worked_through_and_the_overview_follows(self):
+        self.overview_changes("1100", "add M/E-1@Key1@Main Mask@Main Mask", 0, "111", "M/E-1@Key1")
+
+    def test_02_the_same_on_another_bank_and_side(self):
+        self.desk.console("multi M/E-4 on")
+        time.sleep(0.5)
+        self.overview_changes("8500", "add M/E-4@Key6@Main Mask@Main Mask", 1, "852", "M/E-4@Key6")
+        self.assertEqual(self.desk.value("M/E-1@Key1@Resizer@Size"), "75.00")
+        self.assertEqual(self.desk.value("M/E-4@Key5@Resizer@Size"), "100.00")
+
+    def test_03_a_wipe_snapshot_brings_its_pattern_back(self):
+        self.desk.console(f"put {WIPE}#12")
+        self.open_page("1157", f"add {WIPE}")
+        empty = self.desk.part(*face(BTN_OF_REGISTER[5]))
+        self.touch(BTN_STORE)
+        self.touch(BTN_OF_REGISTER[5], f"put {REGISTERS}Store#2,5")
+        self.wait_part(face(BTN_OF_REGISTER[5]), empty)
+        main_pattern = self.desk.part(*cell(0, 0))
+        self.touch(BTN_OF_REGISTER[1], f"put {REGISTERS}Recall#2,1")
+        self.wait_value(WIPE, "65")
+        self.wait_part(cell(0, 0), main_pattern)
+        self.touch(BTN_OF_REGISTER[5], f"put {REGISTERS}Recall#2,5")
+        self.wait_value(WIPE, "12")
+        self.assertNotIn(f"put {REGISTERS}Recall#2,4", self.touch(BTN_OF_REGISTER[4]))  # that one is empty
+
+    def test_04_default_recall_on_a_tab_resets_the_key_and_no_other(self):
+        self.open_page("1111", "add M/E-1@Key1@Type@Key Type")
+        self.desk.touch(*DEFAULT_KEY)
+        self.desk.touch(*left_tab(1))
+        self.desk.wait_wire("default M/E-1@Key1")
+        self.wait_value("M/E-1@Key1@Type@Key Type", "Luminance")
+        self.assertEqual(self.desk.value("M/E-1@Key1@Edge@Edge"), "Normal")
+        self.assertEqual(self.desk.value("M/E-1@Key1@Status@Key ON"), "true")
+        self.assertEqual(self.desk.value("M/E-4@Key6@Edge@Edge"), "Border")
+
+    def test_05_a_4k_format_takes_eight_buttons_from_key3(self):
+        lost = (19, 20, 21, 22, 35, 36, 37, 38)
+        self.open_page("1131", "add M/E-1@Key3@Type@Key Type")
+        self.desk.console("4k on")
+        self.addCleanup(self.desk.console, "4k off")
+        self.open_page("1111", "add M/E-1@Key1@Type@Key Type")
+        self.touch(21, "put M/E-1@Key1@Type@Key Type#Wipe Pattern")
+        self.open_page("1131", "add M/E-1@Key3@Type@Key Type")
+        for button in lost:
+            self.assertFalse(any(b"".join(self.desk.part(*face(button)))), button)
+        for button in (19, 35, 38):
+            self.assertEqual([line for line in self.touch(button) + self.desk.wire() if line.startswith("put")], [], button)
+        self.touch(18, "put M/E-1@Key3@Type@Key Type#Linear")
+
+    def test_06_a_bank_of_four_keys_has_no_further_pages(self):
+        self.open_page("1521", "add M/E-1@Key6@Type@Key Type")
+        self.desk.console("keys M/E-1 4")
+        self.addCleanup(self.desk.console, "keys M/E-1 8")
+        self.open_page("1531", "add M/E-1@Key3@Type@Key Type")
+
+    def test_07_what_is_pressed_while_the_link_is_down_is_not_lost(self):
+        self.open_page("8522", "add M/E-4@Key6@Edge@Edge")
+        dark = self.desk.part(*face(19))
+        self.desk.console("drop text 1500")
+        self.desk.wire()
+        for button in (20, 19):
+            self.desk.touch(*grid(button), settle=0.2)
+        lines = self.desk.wait_wire("put M/E-4@Key6@Edge@Edge#Drop Border", 6)
+        self.assertIn("put M/E-4@Key6@Edge@Edge#Shadow", lines)
+        self.wait_value("M/E-4@Key6@Edge@Edge", "Drop Border")
+        self.wait_part(face(19), dark)
+        self.assertIsNone(self.desk.app_status())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)
