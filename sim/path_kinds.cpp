@@ -120,6 +120,7 @@ static constexpr PathStart starts[] = {
     {"**@Modify@Size@Size@*", "100"},
     {"DME@Status@3D Param@*@Size@*", "1"},
     {"DME@Status@3D Param@*@Aspect@*", "1"},
+    {"*@Misc@Transition@Flip-Flop", "true"},
     {"*@Misc@Transition@Mix", "true"},
     {"*@Misc@Transition@Next Transition@Bkgd", "true"},
     {"*@Misc@Transition@Super Mix@* Video", "100"},

@@ -138,14 +138,34 @@ static std::string key_path(std::string bank, int key)
     return bank + (bank == "PGM/PST" ? "@DSK" : "@Key") + std::to_string(key);
 }
 
-// The background changes its two buses; each key that takes part comes or goes.
+// A wipe that runs normally and in reverse by turns has the other direction next.
+static void turn_direction(Run* run, const std::string& bank)
+{
+    const std::string direction = bank + "@Wipe@Direction@";
+    if (!is_on(direction + "Norm/Rev") || !is_on(bank + "@Misc@Transition@Wipe"))
+        return;
+    const bool was_normal = is_on(direction + "Normal");
+    run->landing.push_back({direction + "Normal", was_normal ? "false" : "true"});
+    run->landing.push_back({direction + "Reverse", was_normal ? "true" : "false"});
+}
+
+// What was on the preset bus is on the program bus; with flip-flop they change places.
+static void change_background(Run* run, const std::string& bank)
+{
+    const std::string a = bank + "@Status@Xpt Assign@A", b = bank + "@Status@Xpt Assign@B";
+    run->landing.push_back({a, value_of(b)});
+    if (is_on(bank + "@Misc@Transition@Flip-Flop"))
+        run->landing.push_back({b, value_of(a)});
+    turn_direction(run, bank);
+}
+
+// Each key that takes part comes or goes.
 static void take_next(Run* run, const std::string& bank)
 {
     const std::string next = bank + "@Misc@Transition@Next Transition@";
-    const std::string a = bank + "@Status@Xpt Assign@A", b = bank + "@Status@Xpt Assign@B";
     const std::string priority = bank + "@Misc@Key Priority@";
     if (is_on(next + "Bkgd"))
-        run->landing.insert(run->landing.end(), {{a, value_of(b)}, {b, value_of(a)}});
+        change_background(run, bank);
     const bool is_sub = bank.find(" SUB") != std::string::npos;
     for (int key = is_sub ? MAIN_KEYS + 1 : 1; key <= KEYS; ++key)
         if (is_on(next + "Key" + std::to_string(key))) {

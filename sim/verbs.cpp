@@ -250,6 +250,7 @@ static void verb_turn(Node& node, int detents)
         return; // at the stop
     node.value = value;
     Tree_Tell(node, value, 0);
+    Rules_Follow(node.path, value);
 }
 
 void Verb_Knob(int knob, int detents)

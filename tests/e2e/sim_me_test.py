@@ -74,6 +74,14 @@ class Rules(MeTest):
             heard = [line for line in self.put(path, value) if not line.startswith(path + "#" + value)]
             self.assertEqual(heard, told, path)
 
+    def test_a_turned_knob_has_its_consequences_too(self):
+        crop = KEY + "Resizer@Border/Crop@Crop@"
+        self.follow(crop + "Left", crop + "Right")
+        self.text.send(f"assign Knob2#{crop}H")
+        self.text.sync()
+        self.do("knob 2 +5")
+        self.assertEqual(self.other.lines(2), [f"{crop}Left#-95", f"{crop}Right#95.00"])
+
     def test_auto_chroma_can_be_undone(self):
         hue = KEY + "Type@Key Type@Chroma@Hue"
         self.follow(hue)
