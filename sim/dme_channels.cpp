@@ -56,19 +56,6 @@ static std::string aspect_row(int channel)
     return Text_Format("%d,%s,%d,%d", channel + 1, wipes[channel].aspect, bank, function);
 }
 
-static void show_channels_of(const std::string& key)
-{
-    std::string channels, pairs;
-    for (int i = 0; i < CHANNELS; ++i)
-        if (dm.users[size_t(i)] == key)
-            channels += (channels.empty() ? "" : ",") + std::to_string(i + 1);
-    for (int i = 0; i < CHANNELS; i += 2)
-        if (dm.users[size_t(i)] == key || dm.users[size_t(i + 1)] == key)
-            pairs += (pairs.empty() ? "" : ",") + std::to_string(i / 2 + 1);
-    Tree_Show(key + "@Processed Key@Channels", channels);
-    Tree_Show(key + "@Processed Key@Channel Pairs", pairs);
-}
-
 void Dme_ShowStatus()
 {
     std::string status;
@@ -87,12 +74,9 @@ static void give(int channel, const std::string& key)
     if (before == key)
         return;
     user = key;
-    for (const std::string& one : {before, key}) {
-        if (one.empty())
-            continue;
-        Tree_Show(selection_of(one, channel), one == key ? "true" : "false");
-        show_channels_of(one);
-    }
+    for (const std::string& one : {before, key})
+        if (!one.empty())
+            Tree_Show(selection_of(one, channel), one == key ? "true" : "false");
     Tree_ShowRow(ASPECT, aspect_row(channel));
     Dme_ShowStatus();
 }

@@ -43,7 +43,6 @@ static constexpr PathKind kinds[] = {
     {"*@*@Processed Key@Override@DME*", "bool"},
     {"*@*@Processed Key@Rotation", "num 0 3 0"},       // 1 about X, 2 about Y
     {"M/E-1@Key1@Processed Key@Monitor", "num 0 8 0"}, // of the whole system
-    {"*@*@Processed Key@Monitor", "bool"},
     // The wipes of a bank, and the channels of an effects wipe.
     {"*@Wipe@Direction@*", "bool"},
     {"*@Wipe@*@Pattern", PATTERN},

@@ -154,15 +154,15 @@ class Transitions(MeTest):
 class Channels(MeTest):
     def test_a_channel_has_one_key_until_another_overrides(self):
         mine, his = KEY + "Processed Key@", "M/E-2@Key1@Processed Key@"
-        self.follow(STATUS, mine + "DME Select@DME3", mine + "Channels")
+        self.follow(STATUS, mine + "DME Select@DME3")
         taken = ",".join(FREE[:2] + ["M/E-4@Key6"] + FREE[3:])
         self.assertEqual(self.put(mine + "DME Select@DME3", "true"),
-                         [f"{mine}DME Select@DME3#true", f"{mine}Channels#3", f"{STATUS}#{taken}"])
+                         [f"{mine}DME Select@DME3#true", f"{STATUS}#{taken}"])
         self.text.send(f"put {his}DME Select@DME3#true")
         self.assertEqual(self.text.line(), f"{his}DME Select@DME3#false")
         self.text.send(f"put {his}Override@DME3#true")
         self.assertEqual(self.text.line(), f"{his}Override@DME3#false")
-        self.assertEqual(self.other.lines(3), [f"{mine}DME Select@DME3#false", f"{mine}Channels#",
+        self.assertEqual(self.other.lines(2), [f"{mine}DME Select@DME3#false",
                                                f"{STATUS}#{taken.replace('M/E-4@Key6', 'M/E-2@Key1')}"])
 
     def test_the_wipes_are_told_whose_channel_it_is_and_how_wide(self):
