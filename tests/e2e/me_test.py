@@ -74,8 +74,9 @@ class MixEffect(unittest.TestCase):
 
     def turn(self, knob, detents, tail, step=0.01):
         """Turn a knob that the page has assigned to a path of that tail; each detent is a step."""
-        path = self.said(f"assign Knob{knob}#(.*)")[-1]
-        self.assertTrue(path.endswith(tail), path)
+        end = time.monotonic() + 2
+        while not (path := self.said(f"assign Knob{knob}#(.*)")[-1]).endswith(tail):
+            self.assertLess(time.monotonic(), end, f"{path} does not end with {tail}")
         wanted = float(self.desk.value(path)) + detents * step
         self.desk.console(f"knob {knob} {detents:+d}")
         end = time.monotonic() + 2

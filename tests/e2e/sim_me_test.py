@@ -117,7 +117,7 @@ class Transitions(MeTest):
             start = time.monotonic()
             self.text.send(f"put {auto}#true")
             lines = self.other.until(f"{auto}#false", 3)
-            self.assertAlmostEqual(time.monotonic() - start, 0.2, delta=0.15)
+            self.assertGreater(time.monotonic() - start, 0.15)
             self.assertEqual([line for line in lines if not line.startswith(position)], order)
             course = [float(line.partition("#")[2]) for line in lines if line.startswith(position)]
             self.assertEqual(course[:-1], sorted(course[:-1]))
