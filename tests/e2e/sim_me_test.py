@@ -54,6 +54,7 @@ class Rules(MeTest):
     def test_one_change_brings_the_others_in_its_own_key_alone(self):
         crop, wipe = KEY + "Resizer@Border/Crop@Crop@", "M/E-1 SUB@Wipe@Direction@"
         effect, matte = KEY + "Resizer@Enhanced Effect@", KEY + "Edge@Matte Adjust@"
+        place = "M/E-2 SUB@DME Wipe@Modify@Position@"
         cases = [  # set before; the put; what others hear
             ((KEY + "Edge@Edge#Border", KEY + "Edge@Key Drop#true"), (KEY + "Edge@Edge", "Normal"),
              [KEY + "Edge@Key Drop#false"]),
@@ -65,6 +66,8 @@ class Rules(MeTest):
             ((matte + "Color 1@Hue#10.00", matte + "Color 2@Hue#20.00"), (matte + "Swap", "true"),
              [matte + "Color 2@Hue#10.00", matte + "Color 1@Hue#20.00"]),
             ((KEY + "Resizer@H#5.00",), (KEY + "Resizer@Center", "true"), [KEY + "Resizer@H#"]),
+            ((place + "Position@H@2#5.00", place + "Position@H@1#5.00"), (place + "Center@2", "true"),
+             [place + "Position@H@2#0.00"]),
             ((KEY + "Type@Key Source#Split",), (KEY + "Type@Signal Select@Source", "CAM9"),
              [KEY + "Status@Source Name#CAM9"])]
         for before, (path, value), told in cases:
@@ -196,7 +199,8 @@ class WipeRegisters(MeTest):
     def test_no_register_keeps_a_channel_of_an_effects_unit(self):
         channel = "M/E-1@Key1@Processed Key@DME Select@DME1"
         self.put(channel, "true")
-        self.do("store key M/E-1@Key1 3")
+        self.do("store key M/E-1@Key1 3", "get Stored")
+        self.wait_for_log("console: get Stored")
         self.put(channel, "false")
         self.follow(channel)
         self.do("recall key M/E-1@Key1 3", "get Recalled")
