@@ -66,7 +66,7 @@ static constexpr PathKind kinds[] = {
     {"*@Misc@Key Priority@Enable", "bool"},
     {"*@Misc@Key Assign@Key*", "word ,Off,Main,Sub,Both"}, // empty: as the setup says
     {"*@Misc@Clip Transition@Position", PERCENT},
-    {"*@Misc@Clip Transition@Clip Duration", "num 1 215999 0"},
+    {"*@Misc@Clip Transition@Clip Duration", "num 1 215999 0"}, // frames
 };
 
 // In a switcher that nobody has touched.

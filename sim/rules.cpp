@@ -197,6 +197,14 @@ static constexpr Rule rules[] = {
     {"**@Video Process@Unity", "true", act_default, "^@Chroma", ""},
     {"**@Video Process@Unity", "true", act_default, "^@Hue", ""},
 
+    // The clips that the frame memory has.
+    {"*@Misc@Clip Transition@Output", "FM1", act_set, "^@Clip Name", "OPENER"},
+    {"*@Misc@Clip Transition@Output", "FM2", act_set, "^@Clip Name", "BACKDROP"},
+    {"*@Misc@Clip Transition@Output", "!FM1,FM2", act_set, "^@Clip Name", ""},
+    {"*@Misc@Clip Transition@Cue Up", "true", act_set, "^@Player", "Cue"},
+    {"*@Misc@Clip Transition@Cue Up", "true", act_default, "^@Position", ""},
+    {"*@Misc@Clip Transition@Cue Up", "true", act_default, "^@Time Code", ""},
+
     // Wipes.
     {"*@Misc@Transition@*", "", act_show_channels, "", ""},
     {"*@Wipe@*@Center", "true", act_default, "^@Position@H", ""},

@@ -17,6 +17,7 @@ struct Change {
 struct Run {
     std::string trigger;
     std::string position;
+    std::string clip; // group of the clip that plays along; empty: none
     int frames = 0;
     int64_t start_ms = 0;
     std::vector<Change> landing; // shown with the last frame
@@ -53,10 +54,22 @@ static bool is_on(const std::string& path)
 
 // --- Runs ---
 
+static void show_clip(const Run& run, int frame, const char* player)
+{
+    if (run.clip.empty())
+        return;
+    const int rate = System_FrameRate(), seconds = frame / rate;
+    Tree_Show(run.clip + "Player", player);
+    Tree_Show(run.clip + "Position", Text_Format("%.2f", 100.0 * frame / std::max(run.frames, 1)));
+    Tree_Show(run.clip + "Time Code", Text_Format("%02d:%02d:%02d:%02d", seconds / 3600,
+                                                  seconds / 60 % 60, seconds % 60, frame % rate));
+}
+
 static void land(const Run& run)
 {
     for (const Change& change : run.landing)
         Tree_Show(change.path, change.value);
+    show_clip(run, run.frames, "Stop");
     Tree_Show(run.position, "0.00");
     Tree_Show(run.trigger, "false");
 }
@@ -70,6 +83,7 @@ static void drop(const std::string& path)
                         [&path](const Change& change) { return change.path == path; });
         if (!lands_there)
             return false;
+        show_clip(run, 0, "Stop");
         Tree_Show(run.position, "0.00");
         Tree_Show(run.trigger, "false");
         return true;
@@ -183,6 +197,10 @@ static void start_bank(const std::string& trigger, const std::string& bank, bool
     run.trigger = trigger;
     run.position = bank + POSITION;
     run.frames = is_cut ? 0 : frames_of(bank + "@Misc@Transition@Transition Rate");
+    if (!is_cut && is_on(bank + "@Misc@Transition@Clip")) {
+        run.clip = bank + "@Misc@Clip Transition@";
+        run.frames = frames_of(run.clip + "Clip Duration");
+    }
     take_next(&run, bank);
     start(run);
 }
@@ -251,10 +269,12 @@ int64_t Transition_Tick(int64_t now)
     std::vector<Run> landed;
     for (const Run& run : tn.runs) {
         const int64_t frame = (now - run.start_ms) * rate / 1000;
-        if (frame >= run.frames)
+        if (frame >= run.frames) {
             landed.push_back(run);
-        else
+        } else {
             Tree_Show(run.position, Text_Format("%.2f", 100.0 * double(frame) / run.frames));
+            show_clip(run, int(frame), "Play");
+        }
         next = std::min(next, run.start_ms + (frame + 1) * 1000 / rate + 1);
     }
     std::erase_if(tn.runs,

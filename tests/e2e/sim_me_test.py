@@ -145,6 +145,15 @@ class Transitions(MeTest):
         self.assertEqual(self.heard(f"{key}#true", a, b, other), [])
         self.assertEqual(self.other.lines(2), [f"{a}#CAM2", f"{b}#CAM1"])
 
+    def test_a_clip_plays_along_with_the_transition_that_it_is(self):
+        clip = "M/E-2@Misc@Clip Transition@"
+        self.follow(clip + "Player", clip + "Time Code")
+        self.do(f"set {clip}Clip Duration#40", "put M/E-2@Misc@Transition@Clip#true",
+                "put M/E-2@Misc@Transition@Auto Trans#true")
+        heard = self.heard(f"{clip}Time Code#00:00:01:10", clip + "Player", clip + "Time Code")
+        self.assertIn(f"{clip}Player#Play", heard)
+        self.assertGreater(len(heard), 10)
+
     def test_a_fade_to_black_takes_its_rate_unless_inhibited(self):
         ftb = "PGM/PST@Misc@Transition@FTB@"
         self.do(f"set {ftb}ON Rate#3", f"set {ftb}OFF Rate#3", f"set {ftb}Inhibit#true")
