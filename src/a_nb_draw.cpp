@@ -110,6 +110,25 @@ static void draw_blank_slots()
     nb.blank_slots = 0;
 }
 
+// The caption of a button as one line: "Color\nVector", "Poster-\nization", "Border/\nCrop". The
+// second line would stand on the layer mark.
+template <size_t N> static void title_line(char (&dst)[N])
+{
+    size_t n = 0;
+    for (const char* c = nb.Title; *c && n + 1 < N; c++) {
+        if (*c != '\n') {
+            dst[n++] = *c;
+            continue;
+        }
+        const char before = n ? dst[n - 1] : '\0';
+        if (before == '-')
+            n--;
+        else if (before != '/')
+            dst[n++] = ' ';
+    }
+    dst[n] = '\0';
+}
+
 static void draw_title()
 {
     nb.Title_redraw = 0;
@@ -121,7 +140,11 @@ static void draw_title()
         TDL_PutS(TITLE.x1, TITLE.y1, nb.Title_pushed > 0 ? G_NBS_on : G_NBS_off);
         TDL_SymbolS(766, 104, counter, 5, COUNTER);
     }
-    TDL_SymbolS(713, 83, nb.Title, 4, WHITE);
+    constexpr int TITLE_ROOM = 84;
+    char title[sizeof nb.Title];
+    title_line(title);
+    const bool is_wide = TDL_GetSymbolWidth(title, 4) > TITLE_ROOM;
+    TDL_SymbolS(713, 83, title, is_wide ? 1 : 4, WHITE); // small before it is cut
     TDL_UpdateRect(TITLE.x1, TITLE.y1, TITLE.x2, TITLE.y2);
 }
 

@@ -84,6 +84,12 @@ int st_drw_recoats_grayout(const ST_MEM* cell, int lit)
 
 // --- Centre ---
 
+// What is too wide for its place takes the small font before it is cut.
+static int font_for(const char* text, int room)
+{
+    return int(TDL_GetSymbolWidth(text, st_font())) > room ? FONT_SMALL : st_font();
+}
+
 // A long text stands on two lines in the middle of the picture.
 static void put_in_box(const ST_MEM* cell, const char* text, unsigned col)
 {
@@ -91,8 +97,9 @@ static void put_in_box(const ST_MEM* cell, const char* text, unsigned col)
     constexpr size_t BLANK_WITHIN = 8;
     constexpr size_t ELSE_AFTER = 4;
     if (strlen(text) < LONG) {
-        TDL_SymbolCS(cell->x1 + 26, cell->y1 + 26, cell->x1 + 73, cell->y1 + 61, text, st_font(),
-                     col);
+        constexpr int ROOM = 73 - 26 - 3; // a pixel of air inside the frame
+        TDL_SymbolCS(cell->x1 + 26, cell->y1 + 26, cell->x1 + 73, cell->y1 + 61, text,
+                     font_for(text, ROOM), col);
         return;
     }
     const size_t blank = strcspn(text, " ");
@@ -186,12 +193,6 @@ static int lines_of(const ST_VAL* val)
 static const char* text_or_empty(const char* text)
 {
     return text ? text : "";
-}
-
-// What is too wide for its place takes the small font before it is cut.
-static int font_for(const char* text, int room)
-{
-    return int(TDL_GetSymbolWidth(text, st_font())) > room ? FONT_SMALL : st_font();
 }
 
 int st_drw_status_strings(const ST_MEM* cell, ST_VAL* val)
