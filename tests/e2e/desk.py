@@ -93,9 +93,6 @@ class Desk:
         self._box("start", "sim", self.work, os.path.join(self.build, "bin", "scs_sim"), "--values", values,
                   "--log", self.sim_log, *args)
 
-    def stop_sim(self):
-        self._box("stop", "sim")
-
     def start_app(self, *args, wait=True):
         """Start the application; wait until its first page stands: started holds what it said until then."""
         self._box("start", "app", self.run_dir, os.path.join(self.build, "bin", "tm3"), *args)

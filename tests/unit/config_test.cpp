@@ -94,12 +94,3 @@ TEST_F(Config, LongLinesAreCutAndTheirRestIsNoLine)
     Load("ChatteringTime=99999999999999999999\n");
     EXPECT_EQ(GL_ChatteringTime, 2147483647);
 }
-
-TEST_F(Config, AMissingFileIsAFailure)
-{
-    std::filesystem::remove("tm3.ini");
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(LoadIniFile(), -1);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Error: Can't open tm3.ini\n");
-    EXPECT_STREQ(GL_RegistDataPath, "/mnt/data/");
-}

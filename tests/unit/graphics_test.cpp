@@ -98,21 +98,3 @@ TEST(Graphics, OnlyNumbersInRangeBecomePatterns)
     EXPECT_EQ(WidthOf(G_WipePtn[9]), 99);
     EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0);
 }
-
-TEST(Graphics, TheSmallerModelHasItsOwnPictures)
-{
-    const TestDisplay display;
-    const GraphicsFolder folder;
-    SaveBitmap("ptn/2001", 20);
-    SaveBitmap("ptn/2001e", 21);
-    SaveBitmap("ptn/2002", 22); // no picture of its own: dark, not the wrong one
-    SaveBitmap("ptn/17", 17);
-    SaveBitmap("ptn/17e", 18); // not one of the list
-    LoadGraphics();
-    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 20);
-    LoadDmeWipePtn_KTR20();
-    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 21);
-    EXPECT_EQ(G_WipePtn[2002], nullptr);
-    EXPECT_EQ(WidthOf(G_WipePtn[17]), 17);
-    EXPECT_EQ(LogLinesWith("graphics/ptn/"), 28);
-}

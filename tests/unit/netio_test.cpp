@@ -64,22 +64,13 @@ TEST_F(Netio, ALineThatFillsTheBufferStaysThere)
 
 TEST_F(Netio, AFreezeIsNotedWhileAStoreWaitsForIt)
 {
-    static const struct {
-        int waits;
-        const char* cmd;
-        int noted;
-    } cases[] = {
-        {1, "put Frame Mem@Edit@Freeze@Freeze@Frame@PROC#1", 1},
-        {1, "put Frame Mem@Edit@Freeze@Freeze@Field@PROC", 1},
-        {1, "put Frame Mem@Edit@Freeze@Freeze@Frame@PRO", 0},
-        {0, "put Frame Mem@Edit@Freeze@Freeze@Frame@PROC#1", 0},
-    };
-    for (const auto& c : cases) {
-        GL_FreezeStore = c.waits;
-        GL_FreezeStore_Exec = 0;
-        Net_SendCommand(c.cmd);
-        EXPECT_EQ(GL_FreezeStore_Exec, c.noted) << c.cmd;
-    }
+    Net_SendCommand("put Frame Mem@Edit@Freeze@Freeze@Frame@PROC#1");
+    EXPECT_EQ(GL_FreezeStore_Exec, 0);
+    GL_FreezeStore = 1;
+    Net_SendCommand("put Frame Mem@Edit@Freeze@Freeze@Frame@PRO");
+    EXPECT_EQ(GL_FreezeStore_Exec, 0);
+    Net_SendCommand("put Frame Mem@Edit@Freeze@Freeze@Field@PROC");
+    EXPECT_EQ(GL_FreezeStore_Exec, 1);
 }
 
 // --- Frames ---

@@ -13,39 +13,6 @@ constexpr unsigned RED = 0xFF0000; // exact at every depth
 SDL_Surface* Source; // of the bitmap verbs
 } // namespace
 
-// clang-format off
-TEST(Drawing, SlantedShapesTruncateTheirColumns)
-{
-    static const struct {
-        Verb verb;
-        const char* art; // the top left of the screen
-    } cases[] = {
-        {BOTH(TDL_Line, 0, 0, 6, 2, RED), "##.....\n..##...\n....###\n"},
-        {BOTH(TDL_Line, 6, 2, 0, 0, RED), "##.....\n..##...\n....###\n"},
-        {BOTH(TDL_Line, 2, 6, 0, 0, RED), "#..\n#..\n#..\n.#.\n.#.\n..#\n..#\n"},
-        {BOTH(TDL_Line, 1, 0, 0, 3, RED), ".#\n.#\n#.\n#.\n"},
-        {BOTH(TDL_Line, 4, 0, 1, 0, RED), ".####\n.....\n"},
-        {BOTH(TDL_Para, 3, 0, 0, 3, 4, RED), "...####.\n..#..#..\n.#..#...\n####....\n"},
-        {BOTH(TDL_ParaV, 0, 0, 3, 3, 3, RED), "#...\n##..\n#.#.\n.#.#\n..##\n...#\n"},
-        {BOTH(TDL_FillPara, 0, 0, 4, 1, 3, RED), "####...\n..#####\n"},
-        {BOTH(TDL_FillParaV, 1, 0, 0, 2, 2, RED), ".#\n.#\n##\n#.\n"},
-    };
-    const TestDisplay display;
-    for (const auto& c : cases) {
-        const Drawn drawn = Draw(c.verb);
-        EXPECT_EQ(drawn.result, 0) << c.verb.text;
-        const std::string expected = c.art;
-        const size_t width = expected.find('\n');
-        std::string art;
-        for (size_t i = 0; i < expected.size(); i++) {
-            const size_t x = i % (width + 1);
-            art += x == width ? '\n' : drawn.pixels[i / (width + 1) * SCREEN_W + x] ? '#' : '.';
-        }
-        EXPECT_EQ(art, expected) << c.verb.text;
-        EXPECT_EQ(drawn.count, std::count(art.begin(), art.end(), '#')) << c.verb.text;
-    }
-}
-
 TEST(Drawing, TheScreenEdgeCutsOrRefuses)
 {
     static const struct {

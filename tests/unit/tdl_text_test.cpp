@@ -164,10 +164,6 @@ TEST(DrawnText, Measures)
     };
     const TestDisplay display;
     int pitch;
-    EXPECT_EQ(TDL_GetSymbolSize(nullptr, 1), 1u);
-    EXPECT_EQ(TDL_GetSymbolWidth(nullptr, 1), 1u);
-    EXPECT_EQ(TDL_GetSymbolLine(10, nullptr, 1), 0);
-    EXPECT_EQ(TDL_linecheck(0, 0, 9, 9, 9, 9, nullptr, 1, WHITE, 0), -1);
     for (const auto& c : cases) {
         const unsigned height = unsigned(c.lines * 10) << 16;
         EXPECT_EQ(TDL_GetSymbolSize(c.text, 1), height | unsigned(c.width)) << c.text;
@@ -178,22 +174,4 @@ TEST(DrawnText, Measures)
         EXPECT_EQ(TDL_linecheck(0, 0, 9, 9, 13, 999, c.text, 1, WHITE, 0), c.wrapped_at_13 - 1);
     }
     EXPECT_EQ(Painted(), 0);
-}
-
-TEST(DrawnText, MissingOrShortFontFiles)
-{
-    const TestDisplay display;
-    TDL_Quit();
-    ASSERT_EQ(truncate("font.dat", 100), 0); // the rest counts as transparent
-    EXPECT_EQ(TDL_Init(Screen), 0);
-    EXPECT_EQ(TDL_GetSymbolWidth("ab", FONT_SOLID), 12u);
-    TDL_SymbolS(0, 0, "ab", FONT_SOLID, WHITE);
-    EXPECT_EQ(Painted(), 0);
-    for (const char* name : {"font_ofs.dat", "font.dat"}) {
-        TDL_Quit();
-        ASSERT_EQ(rename(name, "away"), 0);
-        EXPECT_EQ(TDL_Init(Screen), -1) << name;
-        EXPECT_EQ(TDL_FillRectAS(0, 0, 9, 9, WHITE, 9), 0) << "the surfaces are there";
-        ASSERT_EQ(rename("away", name), 0);
-    }
 }

@@ -42,25 +42,3 @@ TEST(Version, FilesAndFpgaBecomeRowsAndAFile)
               "QRD-X62-MENU-FPGA: Version 1.23#A (Dec.31.2013)\n");
     EXPECT_TRUE(std::filesystem::exists("/var/run/XPP/version_updated"));
 }
-
-TEST(Version, NumberAndTimeAreFoundInAnyLine)
-{
-    static const struct {
-        const char* line;
-        const char* version;
-        const char* time;
-    } cases[] = {
-        {.line = "3.0(May)", .version = "3.0", .time = "May"},
-        {.line = "Build V2 07.5\t x", .version = "07.5", .time = "--"},
-        {.line = "", .version = "--", .time = "--"},
-    };
-    for (const auto& c : cases) {
-        std::ofstream("/root/version_app.dat") << c.line << "\n";
-        GetMenuDetailInfo();
-        EXPECT_STREQ(GL_Version, c.version) << c.line;
-        EXPECT_STREQ(GL_VerTime, c.time) << c.line;
-    }
-    std::ofstream("/root/version_app.dat") << std::string(400, '9') << "\n";
-    GetMenuDetailInfo();
-    EXPECT_EQ(std::string(GL_Version), std::string(255, '9'));
-}
