@@ -147,10 +147,6 @@ class Desk:
         rx, ry = self._raw(x, y)
         self._records((EV_ABS, 0, rx), (EV_ABS, 1, ry), (EV_KEY, BTN_TOUCH, 1), (EV_SYN, 0, 0))
 
-    def touch_move(self, x, y):
-        rx, ry = self._raw(x, y)
-        self._records((EV_ABS, 0, rx), (EV_ABS, 1, ry), (EV_SYN, 0, 0))
-
     def touch_up(self):
         self._records((EV_KEY, BTN_TOUCH, 0), (EV_SYN, 0, 0))
 

@@ -13,10 +13,8 @@ CHROMA = f"{TYPE}@Chroma@"
 COLUMN = (706, 127, 799, 545)  # the number boxes
 WORK_AREA = (97, 73, 702, 526)
 PAGE_KEY = (45, 35)
-BAR_X, BAR_W = 714, 80
 KNOB_PAD = (446 + 17, 140 + 310)  # where the "0" of the knob window stands
 PAGE_PAD = (98 + 375, 78 + 371)  # and that of the page window, which is centred
-SETUP = "Info@Operation Setup Data@"
 
 
 def grid(button_id):
@@ -98,27 +96,6 @@ class Objects(unittest.TestCase):
         time.sleep(0.8)  # the box holds a fresh change for a while
         self.assertEqual(self.desk.value(CHROMA + "Hue"), before)
         self.assertEqual(self.desk.part(*slot(3)), shown)
-
-    def test_03_a_drag_puts_what_the_bar_shows(self):
-        self.open_chroma()
-        self.desk.console(f"set {SETUP}Mouse Slider Control#Left Button")
-        self.addCleanup(self.desk.console, f"set {SETUP}Mouse Slider Control#Right Button")
-        shown = self.desk.part(*slot(1))
-        y = middle(slot(1))[1]
-        self.desk.wire()
-        self.desk.touch_down(BAR_X + 10, y)
-        time.sleep(0.1)
-        for step in (20, 40, 60):
-            self.desk.touch_move(BAR_X + step, y)
-            time.sleep(0.05)
-        self.desk.touch_up()
-        time.sleep(0.8)
-        puts = [line for line in self.desk.wire() if line.startswith(f"put {CHROMA}Clip#")]
-        self.assertGreater(len(puts), 2)
-        dragged = float(puts[-1].rsplit("#", 1)[1])
-        self.assertAlmostEqual(dragged, 100 * 60 / BAR_W, delta=2)  # the panel is coarser than a pixel
-        self.assertEqual(float(self.desk.value(CHROMA + "Clip")), dragged)
-        self.assertNotEqual(self.desk.part(*slot(1)), shown)
 
     def test_04_a_typed_value_is_put_once(self):
         self.open_chroma()

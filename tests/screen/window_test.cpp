@@ -84,13 +84,6 @@ TEST_F(WindowPictures, PullDownAndSelect)
     EXPECT_TRUE(MatchesGolden("window_select", {140, 190, 360, 410}));
 }
 
-TEST_F(WindowPictures, PathSelect)
-{
-    CreateWindow(WINDOW_PATH, "",
-                 {.x = 150, .y = 200, .selected = PATH_CURVE_SPLINE, .path_type = PATHSEL_CURVE0});
-    EXPECT_TRUE(MatchesGolden("window_path_curve", {140, 190, 530, 290}));
-}
-
 TEST_F(WindowPictures, Boxes)
 {
     const char* text = "This operation will cause the system to\nreboot.\n\nContinue?";

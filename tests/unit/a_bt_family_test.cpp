@@ -83,13 +83,6 @@ TEST_F(ButtonFamily, TheWipeDecidesOnSizeAndTransparency)
         Dependency(1, c.pattern);
         EXPECT_EQ(BT_GetVisible(17), c.trans ? BT_ENABLED : BT_DISABLED) << c.pattern;
     }
-    OpenTally(bt_tly_dmewipe_size, {""});
-    BT_SetKnob(17, nb_me_key_edge_edge_border1);
-    Dependency(1, "1201");
-    Press(17);
-    ASSERT_EQ(BT_GetKnobAssign(), 17);
-    Dependency(1, "1031");
-    EXPECT_EQ(BT_GetKnobAssign(), -1);
 }
 
 // --- Key priority ---
@@ -131,7 +124,6 @@ TEST_F(KeyPriority, APressMovesOneKeyAndShiftsTheOthers)
         const char* sent; // behind the '#'
     } first_half[] = {
         {0x14, "1,2,3,4,5,6,7,8", "2,3,4,1,5,6,7,8"}, // key 4 to the top
-        {0x41, "1,2,3,4,5,6,7,8", "4,1,2,3,5,6,7,8"}, // key 1 to the bottom
         {0x23, "3,1,2,4", "3,1,2,4"}, // it is there already, and the bank has four keys
     };
     for (const auto& c : first_half) {

@@ -248,7 +248,6 @@ TEST_F(Keyframes, WhatIsOutOfBoundsHasNoRegion)
         EXPECT_EQ(KF_GetRegionPriority(region), 255);
         EXPECT_EQ(KF_SetRegionPriority(region, 1), -1);
         EXPECT_EQ(KF_InsertRegionPriority(0, region), -1);
-        EXPECT_EQ(KF_InsertRegionPriority(region, 0), -1);
         EXPECT_EQ(KF_GetRegionName(region), nullptr);
         EXPECT_EQ(KF_GetRegionStatus(region), nullptr);
     }

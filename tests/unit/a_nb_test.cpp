@@ -157,7 +157,6 @@ TEST_F(KnobColumn, KnobsOfAnotherLayerAndUnderAPaneAreDead)
     PressTitle();
     Forget();
     Tally("Panel@Common@Knob1", "70");
-    Tally("Panel@Common@Knob2", "70");
     PressTitle();
     Forget();
     const int pane = PaneMessage_Create("Wait", PANE_INFO, "A moment");

@@ -150,27 +150,18 @@ constexpr const char* REFERENCE = "DME@Status@3D Param@Mode Status@Reference";
 
 TEST_F(StatusCells, TheReferenceChoosesTheTableOfADmePage)
 {
-    static const struct {
-        const char* value;
-        const char* added; // null: nothing is rebuilt
-    } cases[] = {
-        {"2,1,0", "Local Source"},   {"2,1,9", nullptr}, // the third part tells nothing
-        {"52,1,0", "Global Source"}, {"11,1,0", "Global Target"},
-        {"11,2,0", "Global Target"}, // another channel
-        {"12,0,0", nullptr},         {"zz", nullptr},
-        {"11,2,0", nullptr}, // the refused ones changed nothing
-    };
     SetTree({"DME"}, 0x41110000);
-    for (const auto& c : cases) {
-        (void)TakeQueuedCommands();
-        Tally(REFERENCE, c.value);
-        const auto sent = TakeQueuedCommands();
-        if (!c.added)
-            EXPECT_THAT(sent, IsEmpty()) << c.value;
-        else
-            EXPECT_THAT(sent,
-                        Contains("add DME@Status@3D Param@" + std::string(c.added) + "@Location@X"))
-                << c.value;
+    (void)TakeQueuedCommands();
+    for (const auto& [value, table] : {std::pair{"2,1,0", "Local Source"},
+                                       {"52,1,0", "Global Source"},
+                                       {"11,2,0", "Global Target"}}) {
+        Tally(REFERENCE, value);
+        EXPECT_THAT(TakeQueuedCommands(),
+                    Contains("add DME@Status@3D Param@" + std::string(table) + "@Location@X"));
+    }
+    for (const char* value : {"11,2,9", "12,0,0", "zz", ""}) {
+        Tally(REFERENCE, value);
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << value;
     }
 }
 

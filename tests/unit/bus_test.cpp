@@ -97,7 +97,6 @@ TEST_F(Bus, APlayedTallyIsOneFromTheServer)
         std::string text, path, value;
     } cases[] = {
         {"LOCAL@A#1", "LOCAL@A", "1"},
-        {"A#", "A", ""},
         {"no mark", "no mar", ""},
         {"A#" + std::string(2000, 'v'), "A", std::string(CMD_SIZE - 1 - 2, 'v')},
     };

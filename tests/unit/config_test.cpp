@@ -2,10 +2,8 @@
 #include "global.h"
 #include "log.h"
 #include "text.h"
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 

@@ -105,7 +105,6 @@ TEST_F(Devices, RubbishInTheTablesIsPassedOver)
     EXPECT_EQ(SYS_MyAllMax, 0);
     EXPECT_EQ(DEV_MySwr[0], nullptr);
     EXPECT_EQ(SYS_RefSwrType, DEVTYPE_UNKNOWN);
-    EXPECT_EQ(SYS_MyDme1, -1);
     EXPECT_EQ(getDmeReferenceUnit() + isZRD52onSWR(nullptr), 0);
 
     SYS_MyPnl = 1;

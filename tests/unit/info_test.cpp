@@ -2,7 +2,6 @@
 #include "info.h"
 #include <algorithm>
 #include <climits>
-#include <cstring>
 #include <gmock/gmock.h>
 #include <iterator>
 
@@ -147,13 +146,4 @@ TEST_F(Info, TheFileLockWordIsReadFromItsTopBit)
     EXPECT_THAT(GL_FileLock, ElementsAre(1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1));
     Deliver(SYSTEM "File Load Lock", "00000000");
     EXPECT_EQ(GL_FileLock[0], 0);
-}
-
-TEST_F(Info, ATextIsCutToItsPlace)
-{
-    const std::string before = GL_ImportDataPath;
-    Deliver(OPERATION "Import Path", std::string(2000, 'x'));
-    EXPECT_EQ(strlen(GL_ImportDataPath), sizeof GL_ImportDataPath - 1);
-    Deliver(OPERATION "Import Path", before);
-    EXPECT_EQ(GL_ImportDataPath, before);
 }

@@ -138,9 +138,9 @@ TEST_F(PageRules, TransitionPagesFollowTheFlagOfTheirBank)
     static const struct {
         uint32_t bank;
         int* flag;
-    } banks[] = {{0x11000000, &SYS_KeyTransitionME1}, {0x12000000, &SYS_KeyTransitionME2},
-                 {0x13000000, &SYS_KeyTransitionME3}, {0x14000000, &SYS_KeyTransitionPP},
-                 {0x81000000, &SYS_KeyTransitionME4}, {0x82000000, &SYS_KeyTransitionME5}};
+    } banks[] = {{0x11000000, &SYS_KeyTransitionME1},
+                 {0x14000000, &SYS_KeyTransitionPP},
+                 {0x82000000, &SYS_KeyTransitionME5}};
     for (const auto& b : banks) {
         for (uint32_t page :
              {b.bank + 0x00170000, b.bank + 0x00470000, b.bank + 0x04270000, b.bank + 0x04370000}) {

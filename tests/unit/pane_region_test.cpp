@@ -1,7 +1,6 @@
 #include "pane_page.h"
 #include "pane_private.h"
 #include <cstring>
-#include <gmock/gmock.h>
 #include <set>
 
 struct Regions : PanePage {

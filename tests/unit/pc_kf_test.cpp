@@ -363,9 +363,6 @@ TEST_F(RegionPage, TheNewestPanelHasItsKeysOnTwoModules)
     Selection(0);
     Key(15);
     Selection(0);
-    Key(16); // there is none
-    Selection(0);
     EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@User1#true",
-                                    "put Key Frame@Region Select@Region Enable@User2#true",
                                     "put Key Frame@Region Select@Region Enable@User2#true"));
 }

@@ -229,31 +229,18 @@ TEST_F(Registers, TwoLinksMakeFourGroupsOfChannels)
 
 TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
 {
-    using Numbers = std::vector<int>; // event, autoplay, loop, start, stop
-    static const struct {
-        const char* path;
-        std::string value;
-        Place place;
-        std::string name;
-        Numbers numbers;
-    } cases[] = {
-        {"User8@List", "FM20, 99, ON, OFF, ON, a, 10, 20", {10, 7, 19, 98}, "a", {1, 0, 1, 10, 20}},
-        {"User1@List", "FM21,1,on,ON,,b,-7,99999999999", {10}, "b", {0, 1, 0, -7, INT_MAX}},
-    };
-    for (const auto& c : cases) {
-        Deliver(CLIP + c.path, c.value);
-        EXPECT_THAT(Told(), ElementsAre(c.place)) << c.value;
-        const int user = c.place.row;
-        const int sub = c.place.index;
-        const int no = c.place.extra;
-        EXPECT_EQ(ClipEvent_Tally_Name(user, sub, no), c.name);
-        EXPECT_EQ(
-            c.numbers,
-            (Numbers{ClipEvent_Tally_Event(user, sub, no), ClipEvent_Tally_AutoPlay(user, sub, no),
-                     ClipEvent_Tally_Loop(user, sub, no), ClipEvent_Tally_Start_TC(user, sub, no),
-                     ClipEvent_Tally_Stop_TC(user, sub, no)}))
-            << c.value;
-    }
+    const std::string value = "FM20, 99, ON, OFF, ON, a, -7, 99999999999";
+    for (int i = 0; i < 2; i++)
+        Deliver(CLIP + "User8@List", value);
+    EXPECT_THAT(Told(), ElementsAre(Place{10, 7, 19, 98})) << "once";
+    EXPECT_STREQ(ClipEvent_Tally_Name(7, 19, 98), "a");
+    EXPECT_EQ(ClipEvent_Tally_Event(7, 19, 98), 1);
+    EXPECT_EQ(ClipEvent_Tally_AutoPlay(7, 19, 98), 0);
+    EXPECT_EQ(ClipEvent_Tally_Loop(7, 19, 98), 1);
+    EXPECT_EQ(ClipEvent_Tally_Start_TC(7, 19, 98), -7);
+    EXPECT_EQ(ClipEvent_Tally_Stop_TC(7, 19, 98), INT_MAX);
+    Deliver(CLIP + "User1@List", "FM21,1,on,ON,,b,0,1");
+    EXPECT_THAT(Told(), ElementsAre(Place{10})) << "the stranger is the first";
 }
 
 // --- Subscriptions ---

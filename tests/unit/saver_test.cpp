@@ -78,15 +78,14 @@ struct Saver : testing::Test {
     {
         SDL_Event e{};
         e.type = Uint8(type);
-        if (type == SDL_MOUSEMOTION)
-            e.motion.x = Uint16(x), e.motion.y = Uint16(y);
-        else
-            e.button = {.type = Uint8(type),
-                        .which = 0,
-                        .button = 1,
-                        .state = 0,
-                        .x = Uint16(x),
-                        .y = Uint16(y)};
+        if (type == SDL_MOUSEMOTION) {
+            e.motion.x = Uint16(x);
+            e.motion.y = Uint16(y);
+        } else {
+            e.button.button = SDL_BUTTON_LEFT;
+            e.button.x = Uint16(x);
+            e.button.y = Uint16(y);
+        }
         Loop_Event(&e);
     }
 };

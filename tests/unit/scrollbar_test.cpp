@@ -126,10 +126,6 @@ TEST_F(ScrollBars, ABarThatIsClosedOrWasNeverThereTakesNothing)
             EXPECT_EQ(result, -1) << n;
     }
     EXPECT_EQ(CreateScrollBar(0, 0, 0, 81), -1) << "no room for a track";
-    EXPECT_EQ(CreateScrollBar(0, 0, 0, 82), 0);
-    SB_SetPosition(0, 0, 1, 10);
-    Touch(0, 41);
-    EXPECT_THAT(Told(), ElementsAre("SB 0 0 9"));
     CloseScrollBar(2);
     Touch(X, UP);
     EXPECT_THAT(Told(), IsEmpty());

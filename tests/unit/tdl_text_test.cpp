@@ -1,10 +1,8 @@
 #include "tdl.h"
 #include "tdl_fixture.h"
-#include <cstdio>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <string>
-#include <unistd.h>
 
 namespace
 {
@@ -97,7 +95,6 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
         {BOTH(TDL_SymbolB, 10, 20, 99, 99, "a\nb", 1, WHITE, 2), {}},
         {BOTH(TDL_SymbolB, 10, 20, 99, 99, "a\n\nb", 1, WHITE, 0), {{10, 20}, {10, 40}}},
         {SILENT(TDL_SymbolBS, 10, 20, 5, 39, "ab", 1, WHITE, 0), {{10, 30}, {10, 40}}}, // wider than the block
-        {SILENT(TDL_SymbolBS, 10, 575, 13, 99, "abcde", 1, WHITE, 0), {{10, 575}, {16, 575}, {10, 585}, {16, 585}}},
 
         {BOTH(TDL_SymbolP, 10, 20, 9, "aWi\nb", 1, WHITE), {{11, 20}, {19, 20, 9}, {31, 20, 2}, {11, 30}}},
         {BOTH(TDL_SymbolP, 10, 20, 10, "W", 1, WHITE), {{11, 20, 9}}}, // each half cut for itself
@@ -109,8 +106,6 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
         {SILENT(TDL_SymbolCBS, 100, 50, 140, 90, 25, 99, "ab", 1, WHITE, 0, 0), {{114, 65}, {120, 65}}},
         {SILENT(TDL_SymbolCBS, 100, 50, 140, 91, 13, 99, "abc", 1, WHITE, 0, 4), // (37 & ~1) - 20: 8 down
          {{108, 66}, {114, 66}, {108, 76}}},
-        {SILENT(TDL_SymbolCBS, 100, 50, 140, 61, 13, 99, "abc", 1, WHITE, 0, 4), // (7 & ~1) - 20: 7 up
-         {{108, 51}, {114, 51}, {108, 61}}},
 
         {SILENT(TDL_SymbolWAddS, 10, 20, 18, "abc", "..", 1, WHITE), {{10, 20}, {16, 20}, {22, 20}}},
         {SILENT(TDL_SymbolWAddS, 10, 20, 24, "abcde", "ii", 1, WHITE),
@@ -118,7 +113,6 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
 
         {BOTH(TDL_Symbol, 10, 10, "ABCDEFGW", FONT_RUBBISH, WHITE), {}}, // costs glyphs, not the process
         {BOTH(TDL_SymbolB, 10, 10, 99, 99, "ABCDEFGW", FONT_RUBBISH, WHITE, 0), {}},
-        {BOTH(TDL_SymbolB, 10, 10, 99, 99, "ABC", FONT_NONE, WHITE, 0), {}},
     };
     const TestDisplay display;
     for (const auto& c : cases) {

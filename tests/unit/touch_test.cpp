@@ -138,7 +138,6 @@ TEST_F(Touch, CalibrationOutOfRangeFallsBackValueByValue)
     } cases[] = {
         {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, 50, 70, 740, 540},
         {{0, 150, 0, 0, 2, 0x89, 1, 0xC1}, 150, 0, 750, 550}, // 649, 449
-        {{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, 50, 50, 750, 550},
     };
     for (const auto& c : cases) {
         ASSERT_EQ(I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, 8, c.bytes), 8);

@@ -4,7 +4,6 @@
 #include "version.h"
 #include <filesystem>
 #include <fstream>
-#include <string>
 
 namespace
 {
