@@ -32,6 +32,7 @@ static constexpr PathKind kinds[] = {
     {"*@*@Type@Clean Mode@*", "bool"},
     {"*@*@Type@Key Position@*@*", "num -8 8 2"}, // H phase, left, right
     {"*@*@Type@Key Position@*", "bool"},
+    {"*@*@Type@Chroma Adjust@Backing", "word Green,Blue,Red"},
     {"*@*@Type@*@Pattern", PATTERN},
     {"*@*@Edge@Zabton@Pattern", PATTERN},
     {"**@Mix Pattern@Pattern", PATTERN},

@@ -117,6 +117,16 @@ static void act_name_source(const Hit& hit)
         Tree_Show(hit.target + "@Status@Source Name", signal->value);
 }
 
+// The automatic chroma key looks for the backing in the picture.
+static void act_find_hue(const Hit& hit)
+{
+    const Node* const backing = Tree_Get(hit.target + "@Chroma Adjust@Backing");
+    const std::string word = backing ? backing->value : "";
+    Tree_Show(hit.target + "@Key Type@Chroma@Hue", word == "Blue"  ? "229.00"
+                                                   : word == "Red" ? "4.50"
+                                                                   : "117.50");
+}
+
 // The internal channels make the same wipes under numbers of their own.
 static void act_change_set(const Hit& hit)
 {
@@ -148,9 +158,9 @@ static constexpr Rule rules[] = {
     {"*@*@Type@Key Type", PATTERN_KEYS, act_set, "~2@Type@Key Source", "Self"},
     {"*@*@Type@Key Source", "", act_name_source, "~2", ""},
     {"*@*@Type@Signal Select@*", "", act_name_source, "~2", ""},
-    // The automatic chroma key finds its values in the picture: here a green wall.
+    // The automatic chroma key finds its values in the picture.
     {"*@*@Type@Auto Chroma", "true", act_keep, CHROMA, ""},
-    {"*@*@Type@Auto Chroma", "true", act_set, "~2@Type@Key Type@Chroma@Hue", "117.50"},
+    {"*@*@Type@Auto Chroma", "true", act_find_hue, "~2@Type", ""},
     {"*@*@Type@Auto Chroma", "true", act_set, "~2@Type@Key Type@Chroma@Clip", "38.00"},
     {"*@*@Type@Auto Chroma", "true", act_set, "~2@Type@Key Type@Chroma@Gain", "12.00"},
     {"*@*@Type@Chroma Adjust@Undo", "true", act_bring_back, CHROMA, ""},

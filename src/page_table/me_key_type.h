@@ -133,6 +133,8 @@ inline constexpr BT_TBL bt_me_key_chroma_adjust[] = {
     Toggle({.id = 49, .caption = "Sample\nMark",    .group = "Auto Chroma",  .cmd = {"~@Sample Mark#*", IF_CHROMA}, .nb = nb_me_key_chroma_mark}),
     Action({.id = 50, .caption = "Auto\nStart",     .group = "Auto Chroma",  .cmd = {"~3@Auto Chroma#*", IF_CHROMA, "~@Sample Mark#false"}}),
     Action({.id = 51, .caption = "Undo",            .group = "Auto Chroma",  .cmd = {"~@Undo#*", IF_CHROMA}}),
+    // The colour behind the foreground, from which Auto Start sets out; the code shows the choice as the caption.
+    PullDownKey({.id = 54, .caption = "Backing",    .group = "Backing",      .cmd = {"LOCAL@M/E@Key@Chroma Adjust@Backing", IF_CHROMA, "~@Backing#"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_chroma_adjust));

@@ -2,6 +2,7 @@
 // after tallies.
 #include "loop.h"
 #include "me_key_page.h"
+#include "pane.h"
 
 using std::string;
 using testing::AllOf;
@@ -268,4 +269,28 @@ TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
         else
             EXPECT_THAT(left, Not(Contains("put " + mark + "#false")));
     }
+}
+
+TEST_F(KeyChromaPage, TheBackingIsChosenFromItsPullDown)
+{
+    const string backing = "M/E-4@Key2@Type@Chroma Adjust@Backing";
+    Open(0x81210001);
+    Tell("M/E-4@Key2@Type@Key Type#Chroma");
+    Tell(backing + "#Green");
+    EXPECT_EQ(Caption(54), "Green");
+    EXPECT_THAT(Press(54), IsEmpty()) << "the choice is in the pane";
+    ASSERT_NE(Pane_GetActiveID(), 0);
+    const auto pass = [](int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); };
+    pass(10);
+    (void)PressAt(630, 442);
+    pass(150); // it has looked pushed
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + backing + "#Blue"));
+    EXPECT_EQ(Caption(54), "Green") << "only the tally changes it";
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    Press(54);
+    pass(10);
+    (void)PressAt(200, 200);
+    pass(150);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << "beside it: no choice";
+    EXPECT_EQ(Pane_GetActiveID(), 0);
 }
