@@ -118,8 +118,9 @@ static constexpr PathStart starts[] = {
     {"**@Color 2@Hue", "180"},
     {"*@Wipe@Direction@Normal", "true"},
     {"**@Modify@Size@Size@*", "100"},
-    {"DME@Status@3D Param@*@Size@*", "1"},
-    {"DME@Status@3D Param@*@Aspect@*", "1"},
+    {"DME@Status@3D Param@Mode Status@Reference", "1,1,0"}, // the local target of channel 1
+    {"DME@Status@3D Param@*@Size@*", "100"},
+    {"DME@Transform@3D Trans@Size@*", "100"},
     {"*@Misc@Transition@Flip-Flop", "true"},
     {"*@Misc@Transition@Mix", "true"},
     {"*@Misc@Transition@Next Transition@Bkgd", "true"},

@@ -141,6 +141,47 @@ static void act_change_set(const Hit& hit)
                   Tree_NumberText(pattern->type, number + (is_internal ? -INTERNAL : INTERNAL)));
 }
 
+// --- The transform of the effects units ---
+
+static const std::string TRANSFORM = "DME@Transform@3D Trans@";
+static const std::string TRANSFORM_STATUS = "DME@Status@3D Param@";
+
+static bool transform_is(const char* setting, const char* word)
+{
+    const Node* const node = Tree_Get(TRANSFORM + setting);
+    return node && node->value == word;
+}
+
+// "...@Local Target@": what is turned just now.
+static std::string transform_shown()
+{
+    return TRANSFORM_STATUS + (transform_is("Transform", "Global") ? "Global " : "Local ") +
+           (transform_is("Space", "Source") ? "Source@" : "Target@");
+}
+
+static void act_show_transform(const Hit& hit)
+{
+    Tree_Show(transform_shown() + hit.target, hit.now);
+}
+
+static void act_reset_transform(const Hit& hit)
+{
+    for (const char* part : {"Location", "Rotation", "Axis", "Aspect", "Size"}) {
+        if (!hit.target.empty() && hit.target != part)
+            continue;
+        act_default({.path = "", .now = "", .target = TRANSFORM + part, .value = ""});
+        act_default({.path = "", .now = "", .target = transform_shown() + part, .value = ""});
+    }
+}
+
+// Bits of what is turned, the channels, and a part that nobody here needs.
+static void act_show_reference(const Hit&)
+{
+    const unsigned mode = (transform_is("Space", "Source") ? 0x02 : 0x01) |
+                          (transform_is("Transform", "Global") ? 0x10 : 0);
+    Tree_Show(TRANSFORM_STATUS + "Mode Status@Reference", Text_Format("%X,1,0", mode));
+}
+
 static void act_show_channels(const Hit&)
 {
     Dme_ShowStatus();
@@ -225,6 +266,19 @@ static constexpr Rule rules[] = {
     {"**@Modify@Position@Center@*", "true", act_default, "^^@Position@V@$", ""},
     {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Left@$", "-75.00"},
     {"**@Modify@Crop Mode@4:3 Crop@*", "true", act_set, "^^@Crop@Right@$", "75.00"},
+
+    // The cells over the effects pages show what is turned.
+    {"DME@Transform@3D Trans@Transform", "", act_show_reference, "", ""},
+    {"DME@Transform@3D Trans@Space", "", act_show_reference, "", ""},
+    {"DME@Transform@3D Trans@Location@?", "", act_show_transform, "Location@$", ""},
+    {"DME@Transform@3D Trans@Rotation@?", "", act_show_transform, "Rotation@$", ""},
+    {"DME@Transform@3D Trans@Axis@?", "", act_show_transform, "Axis@$", ""},
+    {"DME@Transform@3D Trans@Aspect@?", "", act_show_transform, "Aspect@$", ""},
+    {"DME@Transform@3D Trans@Size@?", "", act_show_transform, "Size@$", ""},
+    {"DME@Transform@3D Trans@Size@Size", "", act_show_transform, "Size@X", ""},
+    {"DME@Transform@3D Trans@Size@Size", "", act_show_transform, "Size@Y", ""},
+    {"DME@Transform@3D Trans@Center", "true", act_reset_transform, "Location", ""},
+    {"DME@Transform@3D Trans@Reset", "true", act_reset_transform, "", ""},
 };
 
 // The sets come before the rules: a rule finds the others off.

@@ -68,6 +68,7 @@ class Rules(MeTest):
             ((KEY + "Resizer@H#5.00",), (KEY + "Resizer@Center", "true"), [KEY + "Resizer@H#"]),
             ((place + "Position@H@2#5.00", place + "Position@H@1#5.00"), (place + "Center@2", "true"),
              [place + "Position@H@2#0.00"]),
+            ((), ("DME@Transform@3D Trans@Axis@Y", "1.50"), ["DME@Status@3D Param@Local Target@Axis@Y#1.50"]),
             ((KEY + "Type@Key Source#Split",), (KEY + "Type@Signal Select@Source", "CAM9"),
              [KEY + "Status@Source Name#CAM9"])]
         for before, (path, value), told in cases:
