@@ -121,14 +121,26 @@ static void drop_wipe_knobs()
     NB_CreateBlank();
 }
 
+// The page that a press on the tab would open: a bank without a sub side opens the main one.
+static const PAGE* page_of(const VF_MEM& t)
+{
+    constexpr uint32_t TO_SUB_BANK = 0x04000000;
+    if (const PAGE* page = SearchPageTable(t.page))
+        return page;
+    return isNowPageME(t.page) == 2 ? SearchPageTable(t.page - TO_SUB_BANK) : nullptr;
+}
+
 // One recall for one arming, as with the number boxes: the next touch must not take another group.
+// The sub side has values of its own, and a recall there must not reach what the main side has on
+// the air.
 static void recall_default(const VF_MEM& t)
 {
-    const PAGE* page = SearchPageTable(t.page);
+    const PAGE* page = page_of(t);
     if (!page || !page->tree[0])
         return;
+    const char* side = isNowPageME(page->id) == 2 ? " SUB" : "";
     if (page->tree[1])
-        Net_SendCommandFormat("default %s@%s", page->tree[0], page->tree[1]);
+        Net_SendCommandFormat("default %s%s@%s", page->tree[0], side, page->tree[1]);
     else
         Net_SendCommandFormat("default %s", page->tree[0]);
     drop_wipe_knobs();

@@ -1,9 +1,12 @@
 // What the pages of the banks share: their words and numbers, and how a split board limits them.
+#include "a_ba.h"
 #include "bus.h"
 #include "global.h"
 #include "harness.h"
+#include "message.h"
 #include "page.h"
 #include "pc_me.h"
+#include <gmock/gmock.h>
 
 TEST(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
 {
@@ -55,4 +58,30 @@ TEST(MeBank, ABoardInFourBanksLeavesEachWithFourKeys)
     CreatePage(PAGE_TOP);
     char whole[] = "Engineering Setup@System@Install@Unit Config@M/E Split#1,1,1,1,1";
     SendDummyTally(whole);
+}
+
+TEST(MeBank, DefaultRecallFromATabStaysOnItsSide)
+{
+    Harness_Reset();
+    const FullHouse all;
+    static const struct {
+        uint32_t page;
+        int slot;
+        int multi; // the bank has a sub side
+        const char* sent;
+    } cases[] = {
+        {0x15510000, 5, 1, "default M/E-1 SUB@Wipe"},     {0x15110000, 1, 1, "default M/E-1@Key5"},
+        {0x86710000, 6, 1, "default M/E-5 SUB@DME Wipe"}, {0x15110000, 5, 0, "default M/E-1@Wipe"},
+        {0x81110000, 7, 0, "default M/E-4@Misc"},
+    };
+    for (const auto& c : cases) {
+        std::fill_n(multiprogram2_me, ME_COUNT, c.multi);
+        ASSERT_EQ(CreatePage(c.page), 0);
+        (void)TakeQueuedCommands();
+        BA_SetDefaultButton(1);
+        SendMessage(MSG_PRESS, 40, 73 + 65 * (c.slot - 1) + 20, 1, 0);
+        EXPECT_THAT(TakeQueuedCommands(), testing::Contains(c.sent));
+        EXPECT_EQ(BA_IsDefaultButton(), 0) << c.sent;
+    }
+    CreatePage(PAGE_TOP);
 }
