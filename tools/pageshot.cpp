@@ -1,9 +1,9 @@
 // pageshot: one page as a PNG, without a server: every path of the page gets the default that the
 // simulator would answer, then the tallies of the command line.
 //
-// usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]...      in the working directory
-// build/run
-//        PAGE as the operator writes it: 1111, 1111.2
+// usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]... [--before PATH#VALUE]...
+//        in the working directory build/run. PAGE as the operator writes it: 1111, 1111.2; a
+//        tally that decides whether the page exists is played before it opens
 #include "a_kf.h"
 #include "bus.h"
 #include "device.h"
@@ -79,6 +79,31 @@ static void SendDefault(char* line)
     SendDummyTally(tally);
 }
 
+// The options of the command line that count once the page is open are left where they are.
+static void PlayBefore(int argc, char** argv)
+{
+    for (int i = 3; i + 1 < argc; i++)
+        if (strcmp(argv[i], "--before") == 0)
+            SendDummyTally(argv[++i]);
+}
+
+// Tallies and touches in the order in which they stand.
+static void Play(int argc, char** argv)
+{
+    for (int i = 3; i < argc; i++) {
+        int x = 0, y = 0;
+        if (strcmp(argv[i], "--before") == 0) {
+            i++;
+        } else if (strcmp(argv[i], "--press") == 0 && i + 1 < argc &&
+                   sscanf(argv[++i], "%d,%d", &x, &y) == 2) {
+            SendMessage(MSG_REDRAW, 10, 0, 0, 0); // as a pass would have painted by then
+            SendMessage(MSG_PRESS, x, y, SDL_BUTTON_LEFT, 0);
+        } else {
+            SendDummyTally(argv[i]);
+        }
+    }
+}
+
 static void SendDefaults()
 {
     FILE* fp = fopen("values.txt", "r");
@@ -93,7 +118,8 @@ static void SendDefaults()
 int main(int argc, char** argv)
 {
     if (argc < 3) {
-        fprintf(stderr, "usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]...\n");
+        fprintf(stderr, "usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]... "
+                        "[--before PATH#VALUE]...\n");
         return 2;
     }
     Log_SetLevel(LOG_FORCED);
@@ -105,21 +131,13 @@ int main(int argc, char** argv)
     Global_InitBusNames();
     KF_Init();
     DeviceStructure();
+    PlayBefore(argc, argv);
     if (CreatePage(PageId(argv[1])) != 0) {
         fprintf(stderr, "pageshot: there is no page %s\n", argv[1]);
         return 1;
     }
     SendDefaults();
-    for (int i = 3; i < argc; i++) {
-        int x = 0, y = 0;
-        if (strcmp(argv[i], "--press") == 0 && i + 1 < argc &&
-            sscanf(argv[++i], "%d,%d", &x, &y) == 2) {
-            SendMessage(MSG_REDRAW, 10, 0, 0, 0); // as a pass would have painted by then
-            SendMessage(MSG_PRESS, x, y, SDL_BUTTON_LEFT, 0);
-        } else {
-            SendDummyTally(argv[i]);
-        }
-    }
+    Play(argc, argv);
     SendMessage(MSG_REDRAW, 10, 0, 0, 0);
     if (!WritePng(argv[2])) {
         fprintf(stderr, "pageshot: cannot write %s\n", argv[2]);
