@@ -24,13 +24,13 @@ constexpr int BTN_MIX_PATTERN = 37;
 } // namespace
 
 static struct {
-    char ModeCmd[CMD_SIZE] = "";   // "M/E-1@Key1@Edge@Matte Adjust@Mode"
-    char MixPtnCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Edge@Matte Adjust@Mix Pattern@Pattern"
-    char EdgeCmd[CMD_SIZE] = "";   // "M/E-1@Key1@Edge@Edge"; "" on the page of the fill
-    char MixPtnStr[32] = "";       // caption of the button that selects the pattern
-    bool is_mix = false;           // two colours and a pattern
+    char ModeCmd[CMD_SIZE] = "";            // "M/E-1@Key1@Edge@Matte Adjust@Mode"
+    char MatteAdj_MixPtnCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Edge@Matte Adjust@Mix Pattern@Pattern"
+    char EdgeCmd[CMD_SIZE] = "";            // "M/E-1@Key1@Edge@Edge"; "" on the page of the fill
+    char MatteAdj_MixPtnStr[32] = "";       // caption of the button that selects the pattern
+    bool is_mix = false;                    // two colours and a pattern
     bool is_emboss = false;
-} MatteAdj; // valid from create(1) to create(0)
+} matte; // valid from create(1) to create(0)
 
 // --- What the buttons show ---
 
@@ -43,11 +43,11 @@ static void mirror(const char* name, bool on)
 
 static void show_parts()
 {
-    mirror("Emboss", MatteAdj.is_emboss);
-    mirror("Two Colors", MatteAdj.is_mix || MatteAdj.is_emboss);
-    mirror("Mix", MatteAdj.is_mix && !MatteAdj.is_emboss);
-    BT_SetCaption(BTN_COLOR_1, MatteAdj.is_emboss ? "Light" : "Color 1");
-    BT_SetCaption(BTN_COLOR_2, MatteAdj.is_emboss ? "Shade" : "Color 2");
+    mirror("Emboss", matte.is_emboss);
+    mirror("Two Colors", matte.is_mix || matte.is_emboss);
+    mirror("Mix", matte.is_mix && !matte.is_emboss);
+    BT_SetCaption(BTN_COLOR_1, matte.is_emboss ? "Light" : "Color 1");
+    BT_SetCaption(BTN_COLOR_2, matte.is_emboss ? "Shade" : "Color 2");
 }
 
 void PatternCaption(char (&caption)[32], const char* value)
@@ -61,26 +61,25 @@ void PatternCaption(char (&caption)[32], const char* value)
 
 static void show_pattern(const char* value)
 {
-    PatternCaption(MatteAdj.MixPtnStr, value);
-    BT_SetCaption(BTN_MIX_PATTERN, MatteAdj.MixPtnStr);
+    PatternCaption(matte.MatteAdj_MixPtnStr, value);
+    BT_SetCaption(BTN_MIX_PATTERN, matte.MatteAdj_MixPtnStr);
 }
 
 // --- Messages ---
 
 static int matteadj_tally(const char* path, const char* value)
 {
-    if (strcmp(path, MatteAdj.MixPtnCmd) == 0) {
+    if (strcmp(path, matte.MatteAdj_MixPtnCmd) == 0) {
         show_pattern(value);
         return 0;
     }
-    const bool is_mix =
-        strcmp(path, MatteAdj.ModeCmd) == 0 ? strcmp(value, "Mix") == 0 : MatteAdj.is_mix;
+    const bool is_mix = strcmp(path, matte.ModeCmd) == 0 ? strcmp(value, "Mix") == 0 : matte.is_mix;
     const bool is_emboss =
-        strcmp(path, MatteAdj.EdgeCmd) == 0 ? strcmp(value, "Emboss") == 0 : MatteAdj.is_emboss;
-    if (is_mix == MatteAdj.is_mix && is_emboss == MatteAdj.is_emboss)
+        strcmp(path, matte.EdgeCmd) == 0 ? strcmp(value, "Emboss") == 0 : matte.is_emboss;
+    if (is_mix == matte.is_mix && is_emboss == matte.is_emboss)
         return 0;
-    MatteAdj.is_mix = is_mix;
-    MatteAdj.is_emboss = is_emboss;
+    matte.is_mix = is_mix;
+    matte.is_emboss = is_emboss;
     show_parts();
     return 0;
 }
@@ -93,7 +92,7 @@ static int pc_me_key_matteadj_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg
 // The mode is subscribed by its buttons.
 static void subscribe(const char* verb)
 {
-    for (const char* path : {MatteAdj.MixPtnCmd, MatteAdj.EdgeCmd})
+    for (const char* path : {matte.MatteAdj_MixPtnCmd, matte.EdgeCmd})
         if (*path)
             Net_SendCommandFormat("%s %s", verb, path);
 }
@@ -106,13 +105,14 @@ static int matteadj_create(int on, const char* group)
         subscribe("remove");
         return 1;
     }
-    MatteAdj = {};
+    matte = {};
     const char* bank = GL_NowTree[0];
     const char* key = GL_NowTree[1];
-    PrintText(MatteAdj.ModeCmd, "%s@%s@%s@Matte Adjust@Mode", bank, key, group);
-    PrintText(MatteAdj.MixPtnCmd, "%s@%s@%s@Matte Adjust@Mix Pattern@Pattern", bank, key, group);
+    PrintText(matte.ModeCmd, "%s@%s@%s@Matte Adjust@Mode", bank, key, group);
+    PrintText(matte.MatteAdj_MixPtnCmd, "%s@%s@%s@Matte Adjust@Mix Pattern@Pattern", bank, key,
+              group);
     if (strcmp(group, "Edge") == 0)
-        PrintText(MatteAdj.EdgeCmd, "%s@%s@Edge@Edge", bank, key);
+        PrintText(matte.EdgeCmd, "%s@%s@Edge@Edge", bank, key);
     subscribe("add");
     show_parts();
     return 0;

@@ -37,31 +37,31 @@ static struct {
     char Own[128] = "";            // "M/E-1@Key1", as a user in the status
     char SelectCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Processed Key@DME Select@DME"; the number follows
     char OverrideCmd[CMD_SIZE] = ""; // likewise
-    int Override = 0;                // the next channel may be one of another key
+    int Prockey_Override = 0;        // the next channel may be one of another key
     int Monitor = 0;                 // channel on the monitor, 0 none
     Channel Dme[DME_CHANNELS];
-} Prockey; // valid from create(1) to create(0)
+} pk; // valid from create(1) to create(0)
 
 // --- Who uses the channels ---
 
 static bool is_anothers(const Channel& c)
 {
-    return c.user[0] && !Same(c.user, Prockey.Own);
+    return c.user[0] && !Same(c.user, pk.Own);
 }
 
 // The user stands below the number, a word a line.
 static void show_user(int n)
 {
-    Channel& c = Prockey.Dme[n];
+    Channel& c = pk.Dme[n];
     PrintText(c.caption, "DME%d%s%s", n + 1, c.user[0] ? "\n" : "", c.user);
     std::replace(std::begin(c.caption), std::end(c.caption), '@', '\n');
-    (void)BT_SetCaption(Prockey.Buttons[n], c.caption); // never null
+    (void)BT_SetCaption(pk.Buttons[n], c.caption); // never null
 }
 
 // One part of the status: "None" for a channel that isn't fitted, "Free", or bank and key.
 static void take_user(int n, const char* word)
 {
-    Channel& c = Prockey.Dme[n];
+    Channel& c = pk.Dme[n];
     c.is_missing = Same(word, "None");
     CopyText(c.user, c.is_missing || Same(word, "Free") ? "" : word);
     show_user(n);
@@ -85,11 +85,11 @@ static int channel_behind(const char* path, const char* prefix)
 
 static void open_channels(const int* buttons)
 {
-    Prockey = {};
-    Prockey.Buttons = buttons;
-    PrintText(Prockey.Own, "%s@%s", GL_NowTree[0], GL_NowTree[1]);
-    PrintText(Prockey.SelectCmd, "%s@Processed Key@DME Select@DME", Prockey.Own);
-    PrintText(Prockey.OverrideCmd, "%s@Processed Key@Override@DME", Prockey.Own);
+    pk = {};
+    pk.Buttons = buttons;
+    PrintText(pk.Own, "%s@%s", GL_NowTree[0], GL_NowTree[1]);
+    PrintText(pk.SelectCmd, "%s@Processed Key@DME Select@DME", pk.Own);
+    PrintText(pk.OverrideCmd, "%s@Processed Key@Override@DME", pk.Own);
     Net_SendCommandFormat("add %s", STATUS_CMD);
 }
 
@@ -99,20 +99,20 @@ static void open_channels(const int* buttons)
 static void show_override()
 {
     SendDummyTally(LOCAL_PROCKEY "Override#false");
-    if (Prockey.Override)
+    if (pk.Prockey_Override)
         (void)BT_SetStatus(BTN_OVERRIDE, BT_THIRD); // the button is there
 }
 
 // In use by another key is the third state of a button.
 static void show_channel(int n)
 {
-    const Channel& c = Prockey.Dme[n];
+    const Channel& c = pk.Dme[n];
     char line[CMD_SIZE];
     PrintText(line, LOCAL_PROCKEY "DME Select@DME%d#%s", n + 1, Bool(c.is_on));
     SendDummyTally(line);
     if (is_anothers(c))
         (void)BT_SetStatus(BTN_SELECT[n], BT_THIRD); // the button is there
-    ME_DisableKey(BTN_SELECT[n], c.is_missing || (is_anothers(c) && !Prockey.Override));
+    ME_DisableKey(BTN_SELECT[n], c.is_missing || (is_anothers(c) && !pk.Prockey_Override));
 }
 
 static void show_channels()
@@ -123,7 +123,7 @@ static void show_channels()
 
 static void set_override(int on)
 {
-    Prockey.Override = on;
+    pk.Prockey_Override = on;
     show_override();
     show_channels();
 }
@@ -133,8 +133,8 @@ static int prockey_tally(const char* path, const char* value)
     if (Same(path, STATUS_CMD)) {
         if (status_tally(value))
             show_channels();
-    } else if (const int n = channel_behind(path, Prockey.SelectCmd); n >= 0) {
-        Prockey.Dme[n].is_on = IsTrue(value);
+    } else if (const int n = channel_behind(path, pk.SelectCmd); n >= 0) {
+        pk.Dme[n].is_on = IsTrue(value);
         show_channel(n);
     }
     return 0;
@@ -142,9 +142,9 @@ static int prockey_tally(const char* path, const char* value)
 
 static void press_channel(int n)
 {
-    const char* cmd = Prockey.Override ? Prockey.OverrideCmd : Prockey.SelectCmd;
-    const bool is_ours = Prockey.Dme[n].is_on && !is_anothers(Prockey.Dme[n]);
-    if (Prockey.Override)
+    const char* cmd = pk.Prockey_Override ? pk.OverrideCmd : pk.SelectCmd;
+    const bool is_ours = pk.Dme[n].is_on && !is_anothers(pk.Dme[n]);
+    if (pk.Prockey_Override)
         set_override(0);
     Net_SendCommandFormat("put %s%d#%s", cmd, n + 1, ToggleBool(is_ours));
 }
@@ -152,7 +152,7 @@ static void press_channel(int n)
 static int prockey_press(const char* path)
 {
     if (Same(path, LOCAL_PROCKEY "Override"))
-        set_override(!Prockey.Override);
+        set_override(!pk.Prockey_Override);
     else if (const int n = channel_behind(path, LOCAL_PROCKEY "DME Select@DME"); n >= 0)
         press_channel(n);
     return 0;
@@ -161,7 +161,7 @@ static int prockey_press(const char* path)
 static void subscribe_selection(const char* verb)
 {
     for (int n = 1; n <= DME_CHANNELS; n++)
-        Net_SendCommandFormat("%s %s%d", verb, Prockey.SelectCmd, n);
+        Net_SendCommandFormat("%s %s%d", verb, pk.SelectCmd, n);
 }
 
 static int pc_me_key_prockey_create(int on, uint32_t)
@@ -193,11 +193,11 @@ static int monitor_tally(const char* path, const char* value)
     if (Same(path, STATUS_CMD)) {
         if (status_tally(value))
             for (int n = 0; n < DME_CHANNELS; n++)
-                ME_DisableKey(BTN_MONITOR[n], Prockey.Dme[n].is_missing);
+                ME_DisableKey(BTN_MONITOR[n], pk.Dme[n].is_missing);
     } else if (Same(path, MONITOR_CMD)) {
-        Prockey.Monitor = Decimal(value);
+        pk.Monitor = Decimal(value);
         char line[CMD_SIZE];
-        PrintText(line, LOCAL_PROCKEY "Monitor#%d", Prockey.Monitor);
+        PrintText(line, LOCAL_PROCKEY "Monitor#%d", pk.Monitor);
         SendDummyTally(line);
     }
     return 0;
@@ -209,7 +209,7 @@ static int monitor_press(const char* path, const char* value)
     if (!Same(path, LOCAL_PROCKEY "Monitor"))
         return 0;
     const int channel = Decimal(value);
-    Net_SendCommandFormat("put %s#%d", MONITOR_CMD, channel == Prockey.Monitor ? 0 : channel);
+    Net_SendCommandFormat("put %s#%d", MONITOR_CMD, channel == pk.Monitor ? 0 : channel);
     return 0;
 }
 

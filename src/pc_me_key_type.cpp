@@ -42,36 +42,36 @@ constexpr uint32_t BANK_BYTE = 0xFF000000;
 } // namespace
 
 static struct {
-    char TypeCmd[CMD_SIZE] = "";      // "M/E-1@Key1@Type@Key Type"
-    char CleanModeCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Type@Clean Mode@"; the type follows
-    char PositionCmd[CMD_SIZE] = "";  // "M/E-1@Key1@Type@Key Position@"; the type follows
-    char FillCmd[CMD_SIZE] = "";      // "M/E-1@Key1@Type@Key Fill"
-    int Entry = 0;                    // the first tallies are still on their way
-    int Type = TYPE_UNKNOWN;          // index into KeyType_TypeStr
+    char KeyType_TypeCmd[CMD_SIZE] = "";      // "M/E-1@Key1@Type@Key Type"
+    char KeyType_CleanModeCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Type@Clean Mode@"; the type follows
+    char KeyType_PositionCmd[CMD_SIZE] = "";  // "M/E-1@Key1@Type@Key Position@"; the type follows
+    char KeyFill_TypeCmd[CMD_SIZE] = "";      // "M/E-1@Key1@Type@Key Fill"
+    int KeyType_Entry = 0;                    // the first tallies are still on their way
+    int KeyType_Type = TYPE_UNKNOWN;          // index into KeyType_TypeStr
     int CleanMode[KEY_TYPES] = {};
     int Position[KEY_TYPES] = {};
-    int FillType = FILL_KEY_BUS;
-} KeyType; // valid from create(1) to create(0)
+    int KeyFill_Type = FILL_KEY_BUS;
+} kt; // valid from create(1) to create(0)
 
 // --- What the buttons show ---
 
 static void mirror_clean_mode()
 {
     char line[CMD_SIZE];
-    PrintText(line, LOCAL_TYPE "Clean Mode#%s", Bool(KeyType.CleanMode[KeyType.Type]));
+    PrintText(line, LOCAL_TYPE "Clean Mode#%s", Bool(kt.CleanMode[kt.KeyType_Type]));
     SendDummyTally(line);
 }
 
 static void mirror_position()
 {
     char line[CMD_SIZE];
-    PrintText(line, LOCAL_TYPE "Key Position#%s", Bool(KeyType.Position[KeyType.Type]));
+    PrintText(line, LOCAL_TYPE "Key Position#%s", Bool(kt.Position[kt.KeyType_Type]));
     SendDummyTally(line);
 }
 
 static bool is_wipe_type()
 {
-    return KeyType.Type == TYPE_WIPE || KeyType.Type == TYPE_KEY_WIPE;
+    return kt.KeyType_Type == TYPE_WIPE || kt.KeyType_Type == TYPE_KEY_WIPE;
 }
 
 // One button opens the pattern of a wipe or the signals of every other type. On the small panel it
@@ -111,11 +111,12 @@ static void keytype_knob_assign(int button)
         int knob;
         const char* name;
     } knobs[] = {{1, "H Phase"}, {2, "Left"}, {3, "Right"}};
-    if (button != BTN_POSITION || KeyType.Type == TYPE_UNKNOWN)
+    if (button != BTN_POSITION || kt.KeyType_Type == TYPE_UNKNOWN)
         return;
     for (const auto& k : knobs) {
         char path[CMD_SIZE];
-        PrintText(path, "%.900s%s@%s", KeyType.PositionCmd, k.name, KeyType_TypeStr[KeyType.Type]);
+        PrintText(path, "%.900s%s@%s", kt.KeyType_PositionCmd, k.name,
+                  KeyType_TypeStr[kt.KeyType_Type]);
         NB_SetCommand(k.knob, path);
     }
 }
@@ -135,9 +136,9 @@ static void type_tally(const char* value)
     const int type = type_of_word(value);
     if (type == TYPE_UNKNOWN)
         return;
-    KeyType.Type = type;
+    kt.KeyType_Type = type;
     show_pattern_button();
-    if (KeyType.Entry)
+    if (kt.KeyType_Entry)
         return; // the settings of this type follow
     mirror_clean_mode();
     mirror_position();
@@ -146,21 +147,21 @@ static void type_tally(const char* value)
 
 static void clean_mode_tally(int type, const char* value)
 {
-    KeyType.CleanMode[type] = *value == 't';
-    if (type == KeyType.Type)
+    kt.CleanMode[type] = *value == 't';
+    if (type == kt.KeyType_Type)
         mirror_clean_mode();
 }
 
 // The position of the chosen type is the last of the first tallies that the page needs.
 static void position_tally(int type, const char* value)
 {
-    KeyType.Position[type] = *value == 't';
-    if (type != KeyType.Type)
+    kt.Position[type] = *value == 't';
+    if (type != kt.KeyType_Type)
         return;
     mirror_position();
-    if (KeyType.Entry && KeyType.Position[type] && BT_GetKnobAssign() == BTN_POSITION)
+    if (kt.KeyType_Entry && kt.Position[type] && BT_GetKnobAssign() == BTN_POSITION)
         keytype_knob_assign(BTN_POSITION);
-    KeyType.Entry = 0;
+    kt.KeyType_Entry = 0;
 }
 
 static void fill_tally(const char* value)
@@ -168,7 +169,7 @@ static void fill_tally(const char* value)
     const bool is_matte = strcmp(value, "Matte") == 0;
     if (!is_matte && strcmp(value, "Key Bus") != 0)
         return;
-    KeyType.FillType = is_matte ? FILL_MATTE : FILL_KEY_BUS;
+    kt.KeyFill_Type = is_matte ? FILL_MATTE : FILL_KEY_BUS;
     BT_SetCaption(BTN_FILL_ADJUST, is_matte ? "Matte\nAdjust" : "Signal\nSelect");
 }
 
@@ -180,13 +181,13 @@ static int type_behind(const char* path, const char* prefix)
 
 static int type_page_tally(const char* path, const char* value)
 {
-    if (strcmp(path, KeyType.TypeCmd) == 0)
+    if (strcmp(path, kt.KeyType_TypeCmd) == 0)
         type_tally(value);
-    else if (strcmp(path, KeyType.FillCmd) == 0)
+    else if (strcmp(path, kt.KeyFill_TypeCmd) == 0)
         fill_tally(value);
-    else if (const int type = type_behind(path, KeyType.CleanModeCmd); type != TYPE_UNKNOWN)
+    else if (const int type = type_behind(path, kt.KeyType_CleanModeCmd); type != TYPE_UNKNOWN)
         clean_mode_tally(type, value);
-    else if (const int place = type_behind(path, KeyType.PositionCmd); place != TYPE_UNKNOWN)
+    else if (const int place = type_behind(path, kt.KeyType_PositionCmd); place != TYPE_UNKNOWN)
         position_tally(place, value);
     return 0;
 }
@@ -195,18 +196,18 @@ static int type_page_tally(const char* path, const char* value)
 
 static void press_clean_mode(bool)
 {
-    const int type = KeyType.Type;
+    const int type = kt.KeyType_Type;
     if (type != TYPE_UNKNOWN)
-        Net_SendCommandFormat("put %s%s#%s", KeyType.CleanModeCmd, KeyType_TypeStr[type],
-                              ToggleBool(KeyType.CleanMode[type]));
+        Net_SendCommandFormat("put %s%s#%s", kt.KeyType_CleanModeCmd, KeyType_TypeStr[type],
+                              ToggleBool(kt.CleanMode[type]));
 }
 
 static void press_position(bool only_knobs)
 {
-    const int type = KeyType.Type;
+    const int type = kt.KeyType_Type;
     if (type != TYPE_UNKNOWN && !only_knobs)
-        Net_SendCommandFormat("put %s%s#%s", KeyType.PositionCmd, KeyType_TypeStr[type],
-                              ToggleBool(KeyType.Position[type]));
+        Net_SendCommandFormat("put %s%s#%s", kt.KeyType_PositionCmd, KeyType_TypeStr[type],
+                              ToggleBool(kt.Position[type]));
     keytype_knob_assign(BTN_POSITION);
 }
 
@@ -231,7 +232,7 @@ static void open_main_pattern()
 
 static void press_pattern(bool)
 {
-    switch (KeyType.Type) {
+    switch (kt.KeyType_Type) {
     case TYPE_WIPE: open_main_pattern(); break;
     case TYPE_KEY_WIPE: open_page_of_key(PAGE_KEY_PATTERN); break;
     default: open_signals(ASSIGN_SOURCE); break;
@@ -240,7 +241,7 @@ static void press_pattern(bool)
 
 static void press_fill_adjust(bool)
 {
-    if (KeyType.FillType == FILL_MATTE)
+    if (kt.KeyFill_Type == FILL_MATTE)
         open_page_of_key(PAGE_MATTE_ADJUST);
     else
         open_signals(ASSIGN_FILL);
@@ -275,18 +276,18 @@ static void print_paths()
 {
     const char* bank = GL_NowTree[0];
     const char* key = GL_NowTree[1];
-    PrintText(KeyType.TypeCmd, "%s@%s@Type@Key Type", bank, key);
-    PrintText(KeyType.CleanModeCmd, "%s@%s@Type@Clean Mode@", bank, key);
-    PrintText(KeyType.PositionCmd, "%s@%s@Type@Key Position@", bank, key);
-    PrintText(KeyType.FillCmd, "%s@%s@Type@Key Fill", bank, key);
+    PrintText(kt.KeyType_TypeCmd, "%s@%s@Type@Key Type", bank, key);
+    PrintText(kt.KeyType_CleanModeCmd, "%s@%s@Type@Clean Mode@", bank, key);
+    PrintText(kt.KeyType_PositionCmd, "%s@%s@Type@Key Position@", bank, key);
+    PrintText(kt.KeyFill_TypeCmd, "%s@%s@Type@Key Fill", bank, key);
 }
 
 // The type and the fill are subscribed by their buttons.
 static void subscribe(const char* verb)
 {
     for (const char* type : KeyType_TypeStr) {
-        Net_SendCommandFormat("%s %s%s", verb, KeyType.CleanModeCmd, type);
-        Net_SendCommandFormat("%s %s%s", verb, KeyType.PositionCmd, type);
+        Net_SendCommandFormat("%s %s%s", verb, kt.KeyType_CleanModeCmd, type);
+        Net_SendCommandFormat("%s %s%s", verb, kt.KeyType_PositionCmd, type);
     }
 }
 
@@ -296,8 +297,8 @@ static int pc_me_key_type_create(int on, uint32_t)
         subscribe("remove");
         return 1;
     }
-    KeyType = {};
-    KeyType.Entry = 1;
+    kt = {};
+    kt.KeyType_Entry = 1;
     print_paths();
     subscribe("add");
     hide_what_4k_lacks();

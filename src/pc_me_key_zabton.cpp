@@ -15,16 +15,16 @@ constexpr uint32_t PAGE_PATTERN = 0x11120004;
 } // namespace
 
 static struct {
-    char ZabtonPtnCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Edge@Zabton@Pattern"
-    char ZabtonPtnStr[32] = "";       // caption of the button that selects the pattern
-} ZabtonAdj;                          // valid from create(1) to create(0)
+    char PtnCmd[CMD_SIZE] = "";           // "M/E-1@Key1@Edge@Zabton@Pattern"
+    char ZabtonAdj_ZabtonPtnStr[32] = ""; // caption of the button that selects the pattern
+} zabton;                                 // valid from create(1) to create(0)
 
 static int zabtonadj_tally(const char* path, const char* value)
 {
-    if (strcmp(path, ZabtonAdj.ZabtonPtnCmd) != 0)
+    if (strcmp(path, zabton.PtnCmd) != 0)
         return 0;
-    PatternCaption(ZabtonAdj.ZabtonPtnStr, value);
-    BT_SetCaption(BTN_PATTERN, ZabtonAdj.ZabtonPtnStr);
+    PatternCaption(zabton.ZabtonAdj_ZabtonPtnStr, value);
+    BT_SetCaption(BTN_PATTERN, zabton.ZabtonAdj_ZabtonPtnStr);
     return 0;
 }
 
@@ -43,12 +43,12 @@ static bool has_pattern_page()
 static int pc_me_key_edge_zabtonadj_create(int on, uint32_t)
 {
     if (!on) {
-        Net_SendCommandFormat("remove %s", ZabtonAdj.ZabtonPtnCmd);
+        Net_SendCommandFormat("remove %s", zabton.PtnCmd);
         return 1;
     }
-    ZabtonAdj = {};
-    PrintText(ZabtonAdj.ZabtonPtnCmd, "%s@%s@Edge@Zabton@Pattern", GL_NowTree[0], GL_NowTree[1]);
-    Net_SendCommandFormat("add %s", ZabtonAdj.ZabtonPtnCmd);
+    zabton = {};
+    PrintText(zabton.PtnCmd, "%s@%s@Edge@Zabton@Pattern", GL_NowTree[0], GL_NowTree[1]);
+    Net_SendCommandFormat("add %s", zabton.PtnCmd);
     if (!has_pattern_page())
         BT_SetDisable(BTN_PATTERN, 1);
     return 0;

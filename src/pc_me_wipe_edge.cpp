@@ -85,7 +85,7 @@ constexpr const char* MIX_TITLE = "Mix"; // the button's caption
 constexpr struct {
     const char* word;
     const NB_TBL* nb;
-} MatteAdj_MixPtnStr[] = {
+} mix_patterns[] = {
     {"Horizontal", nb_wipe_matte_mix_across}, {"Vertical", nb_wipe_matte_mix_across},
     {"Diagonal", nb_wipe_matte_mix_across},   {"Box", nb_wipe_matte_mix_round},
     {"Diamond", nb_wipe_matte_mix_round},     {"Circle", nb_wipe_matte_mix_round},
@@ -101,7 +101,7 @@ static int mix_pattern_tally(const char* path, const char* value)
 {
     if (!Same(path, MatteAdj.MixPtnCmd))
         return 0;
-    for (const auto& pattern : MatteAdj_MixPtnStr) {
+    for (const auto& pattern : mix_patterns) {
         if (!Same(value, pattern.word) || MatteAdj.nb == pattern.nb)
             continue;
         MatteAdj.nb = pattern.nb;
