@@ -39,6 +39,8 @@ constexpr uint32_t PAGE_KEY_PATTERN = 0x11170002;
 constexpr uint32_t PAGE_MATTE_ADJUST = 0x11110002;
 constexpr uint32_t PAGE_SIGNAL_SELECT = 0x11110003;
 constexpr uint32_t BANK_BYTE = 0xFF000000;
+constexpr uint32_t TO_SUB_BANK = 0x04000000;
+constexpr int KEY_OF_SUB_BANK = 2; // isNowPageMeKey
 } // namespace
 
 static struct {
@@ -223,11 +225,14 @@ static void open_signals(int assign)
     open_page_of_key(PAGE_SIGNAL_SELECT);
 }
 
-// The wipe generator of a bank has no key. That of a sub side is asked for also where a bank has
-// one side only: the page change goes on to the main one.
+// Of a key in the sub bank, too, it is the wipe of the main side that cuts it: the page change goes
+// on to the side that the panel has.
 static void open_main_pattern()
 {
-    GL_CreatePage = (PAGE_MAIN_PATTERN & ~BANK_BYTE) | (GL_NowPage & BANK_BYTE);
+    uint32_t bank = GL_NowPage & BANK_BYTE;
+    if (isNowPageMeKey(0) == KEY_OF_SUB_BANK)
+        bank -= TO_SUB_BANK;
+    GL_CreatePage = (PAGE_MAIN_PATTERN & ~BANK_BYTE) | bank;
 }
 
 static void press_pattern(bool)

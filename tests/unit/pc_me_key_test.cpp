@@ -63,7 +63,7 @@ TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
     } cases[] = {
         {0x12310000, "M/E-2@Key3@Type@Key Type#Luminance", 38, 0x12310003, 1},
         {0x12310000, "M/E-2@Key3@Type@Key Type#Wipe Pattern", 38, 0x12510000, 7},
-        {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 38, 0x85510000, 7},
+        {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 38, 0x81510000, 7},
         {0x12310000, "M/E-2@Key3@Type@Key Type#Key Wipe Pattern", 38, 0x12370002, 7},
         {0x85210000, "M/E-4@Key6@Type@Key Fill#Key Bus", 51, 0x85210003, 0},
         {0x14410000, "PGM/PST@DSK4@Type@Key Fill#Matte", 51, 0x14410002, 7},
