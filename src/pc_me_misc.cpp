@@ -51,7 +51,7 @@ int misc_key_max()
     return GL_KeyMax[Now_disp_draw()];
 }
 
-static bool is_pgm()
+bool misc_is_pgm()
 {
     return Now_disp_draw() == BANK_PP;
 }
@@ -67,7 +67,7 @@ void misc_show_keys(std::span<const MiscKeyButton> buttons)
     static constexpr const char* dsk[MISC_KEYS] = {"DSK1", "DSK2", "DSK3", "DSK4",
                                                    "DSK5", "DSK6", "DSK7", "DSK8"};
     for (const MiscKeyButton& b : buttons) {
-        if (is_pgm())
+        if (misc_is_pgm())
             BT_SetCaption(b.id, dsk[b.key - 1]);
         if (lacks_key(b.key))
             BT_SetCutoff(b.id, 1);
@@ -150,7 +150,7 @@ static void show_rates()
 {
     if (ME_IsSubPage() || misc_key_max() > MISC_HALF_KEYS)
         return;
-    const NB_TBL* rates = is_pgm() ? nb_pp_misc_rates_4key : nb_me_misc_rates_4key;
+    const NB_TBL* rates = misc_is_pgm() ? nb_pp_misc_rates_4key : nb_me_misc_rates_4key;
     BT_SetKnob(BTN_RATE, rates);
     if (BT_GetKnobAssign() == BTN_RATE)
         NB_Create(rates, "Rate");

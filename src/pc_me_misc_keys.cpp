@@ -124,6 +124,8 @@ static int pc_me_misc_keypriority_create(int on, uint32_t)
     if (!Priority.has_next)
         return 0;
     Net_SendCommandFormat("add %s", Priority.path[LIST_NEXT]);
+    if (misc_is_pgm())
+        BT_SetCaption(BTN_FURTHER_KEYS, "DSK 5-8");
     if (misc_key_max() <= MISC_HALF_KEYS)
         BT_SetCutoff(BTN_FURTHER_KEYS, 1);
     mirror_list();

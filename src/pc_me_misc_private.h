@@ -9,6 +9,7 @@ constexpr int MISC_HALF_KEYS = 4; // of one side, or of one order of priority
 // "M/E-1@Misc@TAIL" of the page's bank and side.
 void misc_path(char (&dst)[CMD_SIZE], const char* tail);
 int misc_key_max(); // keys of the page's bank, 4 or 8
+bool misc_is_pgm(); // the bank whose keys are called DSK
 
 // A button that stands for a key, counted from 1.
 struct MiscKeyButton {
