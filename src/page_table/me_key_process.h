@@ -78,7 +78,7 @@ inline constexpr MePage me_key_process_pages[] = {
     {.page = {.id = 0x11160000, .tree = {"M/E-1", "Key1", "Processed Key"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 6), Buttons(bt_me_key_prockey), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_prockey)}}},
     {.page = {.id = 0x11160001, .tree = {"M/E-1", "Key1", "Processed Key", "Monitor"},
-              .obj = {Base(base_sub, 0x11160000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 6), Buttons(bt_me_key_prockey_mon), Cells(st_me_key), Code(pc_me_key_prockey_mon)}}},
+              .obj = {Base(base_sub, 0x11160000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 6), Buttons(bt_me_key_prockey_mon), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_prockey_mon)}}},
     {.page = {.id = 0x11160003, .tree = {"M/E-1", "Key1", "Processed Key", "Border/Crop"},
               .obj = {Base(base_sub, 0x11160000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 6), Buttons(bt_me_key_prockey_bordercrop), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_prockey_bordercrop)}}},
 };
