@@ -112,7 +112,9 @@ static void reset_state()
     std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
     std::fill_n(GL_MainSubAssign, PANEL_ROWS, 0);
     SYS_FrameRate = 60;
-    SYS_FmemV6 = 1;
+    SYS_FmemV6 = SYS_SignalFormat = SYS_ScreenAspect = 1;
+    SYS_DWSubEnable = GL_FillSourceAssignMode = 0;
+    std::fill_n(SYS_RefSwrScreenAspect, 7, 0);
     GL_InitialPage = PAGE_TOP;
     SetupLock = {};
     BA_SetDefaultButton(0);
@@ -137,7 +139,7 @@ static void fill_house()
     std::fill_n(multiprogram2_me, ME_COUNT, 1);
     std::fill_n(GL_KeyMax, ME_COUNT, 8);
     SYS_RefSwrType = DEVTYPE_KTR40GSF;
-    SYS_FmemV6 = 1;
+    SYS_FmemV6 = SYS_DWSubEnable = 1;
 }
 
 void Harness_Reset()
@@ -181,6 +183,7 @@ FullHouse::~FullHouse()
     std::copy_n(keys, ME_COUNT, GL_KeyMax);
     SYS_RefSwrType = switcher;
     SYS_FmemV6 = frame_memory;
+    SYS_DWSubEnable = 0;
 }
 
 Peer::Peer(int port)

@@ -16,7 +16,7 @@ void Harness_Video();
 void Harness_Reset();
 
 // While it lives, also across a reset, the installation has everything that a page may ask for:
-// both sides of every bank, eight keys, the large switcher, the newest frame memory.
+// both sides of every bank with all wipes, eight keys, the large switcher, the newest frame memory.
 struct FullHouse {
     int multi[6], keys[6], switcher, frame_memory;
     FullHouse();

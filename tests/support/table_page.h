@@ -1,0 +1,130 @@
+// table_page: pages of a bank, a key or an effects unit as the table opens them, in an installation
+// that has everything: lines from the server, touches, what goes over the wire.
+#pragma once
+#include "a_bt.h"
+#include "a_nb.h"
+#include "bus.h"
+#include "device.h"
+#include "global.h"
+#include "harness.h"
+#include "message.h"
+#include "page.h"
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <set>
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+using testing::Not;
+using Lines = std::vector<std::string>;
+
+struct TablePage : testing::Test {
+    const FullHouse all;
+
+    void SetUp() override
+    {
+        Harness_Reset();
+        for (PAGE* p = PageTable; p->id != PAGE_END; p++)
+            p->knobassign = -1; // no page remembers who had the knobs
+    }
+    void TearDown() override { Harness_Reset(); }
+
+    // From the top menu, so that nothing is left of the visit before; what opening it sends.
+    static Lines Open(uint32_t id)
+    {
+        EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+        (void)TakeQueuedCommands();
+        EXPECT_EQ(CreatePage(id), 0) << std::hex << id;
+        GL_CreatePage = 0;
+        return TakeQueuedCommands();
+    }
+    // What leaving the page sends.
+    static Lines Leave()
+    {
+        (void)TakeQueuedCommands();
+        EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+        return TakeQueuedCommands();
+    }
+    // A line of the server, and what the page answers.
+    static Lines Tell(const std::string& line)
+    {
+        (void)TakeQueuedCommands();
+        SendDummyTally(line.c_str());
+        return TakeQueuedCommands();
+    }
+    // The same for lines that begin alike.
+    static void TellAll(const std::string& path, const Lines& lines)
+    {
+        for (const std::string& line : lines)
+            (void)Tell(path + line);
+    }
+    static void Pass(int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    // What a touch sends.
+    static Lines Touch(int x, int y, int button = 1)
+    {
+        (void)TakeQueuedCommands();
+        SendMessage(MSG_PRESS, x, y, button, 0);
+        return TakeQueuedCommands();
+    }
+    static Lines Press(int id)
+    {
+        const BT_MEM* b = bt_find(id);
+        EXPECT_TRUE(b) << id;
+        return b ? Touch(b->x1 + 5, b->y1 + 5) : Lines{};
+    }
+    // The default key of a box's knob, in slots from 1.
+    static Lines Default(int slot) { return Touch(750, 68 + 82 * slot, 2); }
+    // What a drag of the bar of a box sends; x from 714 to 794.
+    static Lines Drag(int slot, int x)
+    {
+        GL_MouseSliderControl = 1;
+        (void)Touch(750, 68 + 82 * slot);
+        SendMessage(MSG_DRAG, x, 150, 1, 0);
+        const Lines lines = TakeQueuedCommands();
+        SendMessage(MSG_RELEASE, x, 150, 0, 0);
+        return lines;
+    }
+    static void NextLayer() { (void)Touch(740, 90); }
+    // The value of the box of that caption, or that there is none.
+    static std::string Shown(const char* caption)
+    {
+        char path[CMD_SIZE];
+        double value = 0;
+        const int id = NB_GetKnob_info(caption, path, &value, sizeof path);
+        return id > 0 ? testing::PrintToString(value) : "no box";
+    }
+    static std::string Caption(int id)
+    {
+        const BT_MEM* b = bt_find(id);
+        return b ? b->caption : "no such button";
+    }
+    // The buttons that cannot be pressed now.
+    static std::set<int> Disabled()
+    {
+        std::set<int> ids;
+        for (const BT_MEM* b = bt_first(); b->id >= 1; b++)
+            if (b->visible == BT_DISABLED)
+                ids.insert(b->id);
+        return ids;
+    }
+    // Those of the buttons that can.
+    static std::vector<int> Usable(std::vector<int> ids)
+    {
+        std::erase_if(ids, [](int id) { return BT_GetVisible(id) != BT_ENABLED; });
+        return ids;
+    }
+    static Lines Puts(Lines lines)
+    {
+        std::erase_if(lines, [](const std::string& line) { return !line.starts_with("put "); });
+        return lines;
+    }
+    // How often a path is added more than removed.
+    static long Held(const Lines& lines, const std::string& path)
+    {
+        return std::ranges::count(lines, "add " + path) -
+               std::ranges::count(lines, "remove " + path);
+    }
+};
