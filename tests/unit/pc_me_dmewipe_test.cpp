@@ -1,17 +1,6 @@
 // The pages of the effects-unit wipes as the table opens them: of banks and of keys.
-#include "a_bt_page.h"
-#include "a_dw.h"
 #include "a_pc.h"
-#include "bus.h"
-#include "device.h"
-#include "loop.h"
-#include <gmock/gmock.h>
-#include <optional>
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
+#include "table_page.h"
 
 namespace
 {
@@ -19,58 +8,29 @@ constexpr uint32_t MODIFY_ME1 = 0x11650000;
 constexpr uint32_t MODIFY_ME4 = 0x81650000;
 constexpr int POSITION = 17, RELATIVE = 19, CROP = 20, CROP_4_3 = 21, SIZE = 22;
 constexpr int CH1 = 35, CH2 = 36, CH3 = 37;
-
-using Lines = std::vector<std::string>;
+const std::string ASPECT = "Engineering Setup@System@Format@DME Aspect#";
 } // namespace
 
-struct MeDmeWipe : testing::Test {
-    std::optional<FullHouse> all; // both sides of every bank
+struct MeDmeWipe : TablePage {
+    std::string root; // of the paths of the page
 
-    void SetUp() override
+    // The page with a pattern; all that this sends.
+    Lines OpenWith(uint32_t id, const std::string& path, const std::string& pattern)
     {
-        Harness_Reset();
-        all.emplace();
-        SYS_DWSubEnable = 1;
-        for (PAGE* p = PageTable; p->id != PAGE_END; p++)
-            p->knobassign = -1;
+        root = path;
+        Lines sent = Open(id);
+        for (const std::string& line : Tell(root + "@Pattern Select@Pattern#" + pattern))
+            sent.push_back(line);
+        return sent;
     }
-    void TearDown() override
-    {
-        std::fill_n(SYS_RefSwrScreenAspect, 7, 0);
-        SYS_DWSubEnable = 0;
-        SYS_RefPnlType = DEVTYPE_UNKNOWN;
-        DW_Create(nullptr, 0);
-        all.reset();
-        Harness_Reset();
-        (void)TakeQueuedCommands();
-    }
-    static void Open(uint32_t id)
-    {
-        CreatePage(PAGE_TOP);
-        (void)TakeQueuedCommands();
-        ASSERT_EQ(CreatePage(id), 0) << std::hex << id;
-    }
-    static void Tell(const std::string& line) { SendDummyTally(line.c_str()); }
-    // The page with a pattern; what that sent is forgotten.
-    static void OpenWith(uint32_t id, const std::string& root, const std::string& pattern)
-    {
-        Open(id);
-        Tell(root + "@Pattern Select@Pattern#" + pattern);
-        (void)TakeQueuedCommands();
-    }
-    // What a press sends; an action key is let run out first.
+    // An action key is let run out first.
     static Lines Press(int id)
     {
-        const BT_MEM* b = bt_find(id);
-        EXPECT_TRUE(b) << id;
-        SendMessage(MSG_REDRAW, 1000, 0, 0, 0);
-        (void)TakeQueuedCommands();
-        if (b)
-            SendMessage(MSG_PRESS, b->x1 + 5, b->y1 + 5, 1, 0);
-        return TakeQueuedCommands();
+        Pass(1000);
+        return TablePage::Press(id);
     }
     // Switch a function on as the server does, and give its button the knobs.
-    static void Own(const std::string& root, const std::string& function, int button)
+    void Own(const std::string& function, int button)
     {
         Tell(root + "@Modify@" + function + "@1#true");
         (void)Press(button);
@@ -82,17 +42,13 @@ struct MeDmeWipe : testing::Test {
         NB_SendValue2(box, value);
         return TakeQueuedCommands();
     }
-    static Lines Turn(const std::string& line)
+    // Lines with that verb, of paths and values of the function.
+    Lines Sent(const std::string& verb, const Lines& ends) const
     {
-        (void)TakeQueuedCommands();
-        Tell(line);
-        return TakeQueuedCommands();
-    }
-    static Lines Default(int box)
-    {
-        (void)TakeQueuedCommands();
-        SendMessage(MSG_PRESS, 720, 127 + 82 * (box - 1) + 20, 2, 0);
-        return TakeQueuedCommands();
+        Lines lines;
+        for (const std::string& end : ends)
+            lines.push_back(verb + " " + root + "@Modify@" + end);
+        return lines;
     }
     static bool Enabled(int id) { return BT_GetVisible(id) == BT_ENABLED; }
     static std::string Chosen()
@@ -104,7 +60,7 @@ struct MeDmeWipe : testing::Test {
     }
 };
 
-// --- Modify: subscriptions ---
+// --- Modify: channels ---
 
 TEST_F(MeDmeWipe, WhatModifyAddsItRemovesInThisOrder)
 {
@@ -115,34 +71,28 @@ TEST_F(MeDmeWipe, WhatModifyAddsItRemovesInThisOrder)
     } cases[] = {
         {MODIFY_ME4, "M/E-4@DME Wipe", "2003", 2},
         {0x15650000, "M/E-1 SUB@DME Wipe", "9001", 3},
-        {0x15270003, "M/E-1@Key6@Transition@DME Wipe", "1203", 1},
         {0x14470003, "PGM/PST@DSK4@Transition@DME Wipe", "2003", 1}, // a key has one channel
     };
-    const auto path = [](const std::string& root, const char* what, int ch) {
-        return root + "@Modify@" + what + "@" + std::to_string(ch);
-    };
     for (const auto& c : cases) {
-        Open(c.page);
-        EXPECT_THAT(TakeQueuedCommands(),
-                    Contains("add M/E-1@Key1@Processed Key@DME Status").Times(1));
-        Tell(std::string(c.root) + "@Pattern Select@Pattern#" + c.pattern);
-        const Lines opened = TakeQueuedCommands();
-        Lines expected = {std::string("remove ") + c.root + "@Pattern Select@Pattern",
+        const Lines opened = OpenWith(c.page, c.root, c.pattern);
+        Lines expected = {"remove " + root + "@Pattern Select@Pattern",
                           "remove M/E-1@Key1@Processed Key@DME Status"};
+        Lines ends;
         for (int ch = 1; ch <= c.channels; ch++)
-            for (const char* what : {"Position@Position", "Size", "Crop Mode@Crop"}) {
-                EXPECT_THAT(opened, Contains("add " + path(c.root, what, ch)).Times(1)) << c.root;
-                expected.push_back("remove " + path(c.root, what, ch));
-            }
-        for (const char* what :
-             {"Position@Position@H", "Position@Position@V", "Size@Size", "Crop Mode@Crop@Top",
-              "Crop Mode@Crop@Left", "Crop Mode@Crop@Right", "Crop Mode@Crop@Bottom"}) {
-            EXPECT_THAT(opened, Contains("add " + path(c.root, what, 1)).Times(1)) << c.root;
-            expected.push_back("remove " + path(c.root, what, 1));
-        }
-        EXPECT_THAT(opened, Contains("read " + path(c.root, "Position@Position@V", c.channels)));
+            for (const char* what : {"Position@Position@", "Size@", "Crop Mode@Crop@"})
+                ends.push_back(what + std::to_string(ch));
+        for (const char* what : {"Position@Position@H@1", "Position@Position@V@1", "Size@Size@1",
+                                 "Crop Mode@Crop@Top@1", "Crop Mode@Crop@Left@1",
+                                 "Crop Mode@Crop@Right@1", "Crop Mode@Crop@Bottom@1"})
+            ends.push_back(what);
+        for (const std::string& line : Sent("remove", ends))
+            expected.push_back(line);
+        for (const std::string& line : expected)
+            EXPECT_THAT(opened, Contains("add " + line.substr(strlen("remove ")))) << root;
+        EXPECT_THAT(opened, Contains(Sent(
+                                "read", {"Position@Position@V@" + std::to_string(c.channels)})[0]));
         PC_Create(nullptr, 0);
-        EXPECT_THAT(TakeQueuedCommands(), ElementsAreArray(expected)) << c.root;
+        EXPECT_EQ(TakeQueuedCommands(), expected) << root;
     }
 }
 
@@ -164,21 +114,16 @@ TEST_F(MeDmeWipe, ThePatternDecidesWhichChannelsThereAre)
 TEST_F(MeDmeWipe, AnotherPatternLeavesNothingOfTheOneBefore)
 {
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "3001");
-    Own("M/E-1@DME Wipe", "Size", SIZE);
+    Own("Size", SIZE);
     (void)Press(CH3);
-    (void)TakeQueuedCommands();
-    Tell("M/E-1@DME Wipe@Pattern Select@Pattern#1001");
-    const Lines sent = TakeQueuedCommands();
-    EXPECT_THAT(sent, Contains("remove M/E-1@DME Wipe@Modify@Size@3"));
-    EXPECT_THAT(sent, Contains("remove M/E-1@DME Wipe@Modify@Size@Size@3"));
+    const std::string other = root + "@Pattern Select@Pattern#1001";
+    EXPECT_THAT(Tell(other), AllOf(Contains("remove M/E-1@DME Wipe@Modify@Size@3"),
+                                   Contains("remove M/E-1@DME Wipe@Modify@Size@Size@3")));
     EXPECT_EQ(Chosen(), "100");
     EXPECT_EQ(BT_GetStatus(SIZE), BT_OFF);
     EXPECT_EQ(BT_GetKnobAssign(), -1);
-    Tell("M/E-1@DME Wipe@Pattern Select@Pattern#1001"); // once more: nothing new
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Tell(other), IsEmpty()) << "nothing new";
 }
-
-// --- Modify: choice of channels ---
 
 TEST_F(MeDmeWipe, OneChannelStaysChosen)
 {
@@ -199,40 +144,27 @@ TEST_F(MeDmeWipe, OneChannelStaysChosen)
     }
 }
 
-TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowed)
+TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowedByTheKnobs)
 {
-    OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", "2003");
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
+    Own("Size", SIZE);
+    const std::string size = root + "@Modify@Size@";
     const Lines sent = Press(CH1); // moves on to the second
-    EXPECT_THAT(sent, Contains("remove M/E-4@DME Wipe@Modify@Crop Mode@Crop@Top@1"));
-    EXPECT_THAT(sent, Contains("put M/E-4@DME Wipe@Modify@Position@Position@2#true"));
-    EXPECT_THAT(sent, Contains("put M/E-4@DME Wipe@Modify@Size@2#true"));
-    EXPECT_THAT(sent, Contains("put M/E-4@DME Wipe@Modify@Crop Mode@Crop@2#true"));
-    EXPECT_THAT(sent, Contains("add M/E-4@DME Wipe@Modify@Size@Size@2"));
+    for (const char* what : {"Position@Position@2", "Size@2", "Crop Mode@Crop@2"})
+        EXPECT_THAT(sent, Contains("put M/E-1@DME Wipe@Modify@" + std::string(what) + "#true"));
+    EXPECT_THAT(sent, Contains("remove M/E-1@DME Wipe@Modify@Crop Mode@Crop@Top@1"));
+    EXPECT_THAT(sent, Contains("add " + size + "Size@2"));
     EXPECT_THAT(sent, Not(Contains(testing::HasSubstr("@1#"))));
-    Tell("M/E-4@DME Wipe@Modify@Size@1#true"); // not the leading one
+    Tell(size + "2#false"); // the server tells it as it is and then switches
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    TellAll(root + "@Modify@", {"Crop Mode@Crop@2#true", "Size@1#true"}); // not the leading one
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
     EXPECT_NE(BT_GetStatus(SIZE), BT_ON);
-    Tell("M/E-4@DME Wipe@Modify@Size@2#true");
+    Tell(size + "2#true");
     EXPECT_EQ(BT_GetStatus(SIZE), BT_ON);
-}
-
-TEST_F(MeDmeWipe, TheKnobsGoAlongToTheChannelThatIsChosen)
-{
-    const std::string root = "M/E-1@DME Wipe";
-    OpenWith(MODIFY_ME1, root, "2003");
-    Own(root, "Size", SIZE);
-    Tell(root + "@Modify@Size@Size@1#70");
-    (void)Press(CH1); // moves on to the second, which the server tells as it is and then switches
-    Tell(root + "@Modify@Size@2#false");
-    EXPECT_EQ(BT_GetKnobAssign(), -1);
-    Tell(root + "@Modify@Crop Mode@Crop@2#true");
-    EXPECT_EQ(BT_GetKnobAssign(), -1);
-    Tell(root + "@Modify@Size@2#true");
     EXPECT_EQ(BT_GetKnobAssign(), SIZE);
-    Tell(root + "@Modify@Size@Size@2#30");
-    char path[CMD_SIZE];
-    double shown = 0;
-    EXPECT_EQ(NB_GetKnob_info("Size", path, &shown, sizeof path), 1);
-    EXPECT_EQ(shown, 30);
+    TellAll(size, {"Size@1#70", "Size@2#30"});
+    EXPECT_EQ(Shown("Size"), "30");
 }
 
 // --- Modify: knobs ---
@@ -240,46 +172,38 @@ TEST_F(MeDmeWipe, TheKnobsGoAlongToTheChannelThatIsChosen)
 TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsSteps)
 {
     static const struct {
-        const char *counts, *value; // null: sends nothing
-    } cases[] = {{"1", "8.00"},        {"-2", "-32.00"}, {"18", "11536.00"},  {"25", "11536.00"},
-                 {"-25", "-11536.00"}, {"0", nullptr},   {"1e30", "11536.00"}};
+        const char *counts, *value;
+    } cases[] = {{"1", "8.00"},      {"-2", "-32.00"},     {"18", "11536.00"},
+                 {"25", "11536.00"}, {"-25", "-11536.00"}, {"1e30", "11536.00"}};
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
-    Own("M/E-1@DME Wipe", "Position@Position", POSITION);
-    for (const auto& c : cases) {
-        const Lines sent = Turn(std::string("Panel@Common@Knob1#") + c.counts);
-        if (c.value)
-            EXPECT_THAT(
-                sent,
-                ElementsAre(std::string("put M/E-1@DME Wipe@Modify@Position@Position@V@1#diff") +
-                            c.value));
-        else
-            EXPECT_THAT(sent, IsEmpty()) << c.counts;
-    }
+    Own("Position@Position", POSITION);
+    for (const auto& c : cases)
+        EXPECT_EQ(Tell(std::string("Panel@Common@Knob1#") + c.counts),
+                  Sent("put", {std::string("Position@Position@V@1#diff") + c.value}));
+    EXPECT_THAT(Tell("Panel@Common@Knob1#0"), IsEmpty());
 }
 
 TEST_F(MeDmeWipe, AllChosenChannelsFollowAKnob)
 {
     OpenWith(0x15650000, "M/E-1 SUB@DME Wipe", "3001");
-    Own("M/E-1 SUB@DME Wipe", "Size", SIZE);
+    Own("Size", SIZE);
     (void)Press(CH3);
-    EXPECT_THAT(Turn("Panel@Common@Knob0#2"),
-                ElementsAre("put M/E-1 SUB@DME Wipe@Modify@Size@Size@1#diff32.00",
-                            "put M/E-1 SUB@DME Wipe@Modify@Size@Size@3#diff32.00"));
-    EXPECT_THAT(Enter(1, 12.5), ElementsAre("put M/E-1 SUB@DME Wipe@Modify@Size@Size@1#12.50",
-                                            "put M/E-1 SUB@DME Wipe@Modify@Size@Size@3#12.50"));
+    EXPECT_EQ(Tell("Panel@Common@Knob0#2"),
+              Sent("put", {"Size@Size@1#diff32.00", "Size@Size@3#diff32.00"}));
+    EXPECT_EQ(Enter(1, 12.5), Sent("put", {"Size@Size@1#12.50", "Size@Size@3#12.50"}));
 }
 
 TEST_F(MeDmeWipe, RelativeChannelsMoveAgainstEachOther)
 {
     const std::string pos = "M/E-4@DME Wipe@Modify@Position@Position@";
     OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", "2003");
-    Own("M/E-4@DME Wipe", "Position@Position", POSITION);
+    Own("Position@Position", POSITION);
     (void)Press(RELATIVE);
     EXPECT_EQ(BT_GetStatus(RELATIVE), BT_ON);
-    EXPECT_THAT(Turn("Panel@Common@Knob0#1"), ElementsAre("put " + pos + "H@1#diff8.00"))
+    EXPECT_THAT(Tell("Panel@Common@Knob0#1"), ElementsAre("put " + pos + "H@1#diff8.00"))
         << "one channel alone has nothing to move against";
     (void)Press(CH2);
-    EXPECT_THAT(Turn("Panel@Common@Knob0#1"),
+    EXPECT_THAT(Tell("Panel@Common@Knob0#1"),
                 ElementsAre("put " + pos + "H@1#diff8.00", "put " + pos + "H@2#diff-8.00",
                             "read " + pos + "H@1", "read " + pos + "H@2"));
     static const struct {
@@ -290,12 +214,8 @@ TEST_F(MeDmeWipe, RelativeChannelsMoveAgainstEachOther)
         EXPECT_THAT(Enter(2, c.number),
                     ElementsAre("put " + pos + "V@1#" + c.first, "put " + pos + "V@2#" + c.second,
                                 "read " + pos + "V@1", "read " + pos + "V@2"));
-    Tell(pos + "H@1#30");
-    Tell(pos + "H@2#-10");
-    char path[CMD_SIZE];
-    double shown = 0;
-    EXPECT_EQ(NB_GetKnob_info("H Distance", path, &shown, sizeof path), 1);
-    EXPECT_EQ(shown, 40);
+    TellAll(pos, {"H@1#30", "H@2#-10"});
+    EXPECT_EQ(Shown("H Distance"), "40");
 }
 
 TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
@@ -303,7 +223,7 @@ TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
     static const struct {
         int box;
         double value;
-        std::vector<const char*> edges; // in this order
+        Lines edges; // in this order
     } cases[] = {
         {1, -40, {"Right@1#40.00", "Left@1#-40.00"}},
         {1, 5, {"Right@1#0.00", "Left@1#0.00"}},
@@ -313,21 +233,19 @@ TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
         {3, 7, {"Right@1#0.00", "Left@1#0.00", "Bottom@1#0.00", "Top@1#0.00"}},
     };
     // Banks differ in how a box tells its value.
-    static const struct {
-        uint32_t page;
-        const char* root;
-    } pages[] = {{MODIFY_ME1, "M/E-1@DME Wipe"},
-                 {MODIFY_ME4, "M/E-4@DME Wipe"},
-                 {0x12370003, "M/E-2@Key3@Transition@DME Wipe"}};
-    for (const auto& p : pages) {
-        OpenWith(p.page, p.root, "1003");
-        Own(p.root, "Crop Mode@Crop", CROP);
+    static const std::pair<uint32_t, const char*> pages[] = {
+        {MODIFY_ME1, "M/E-1@DME Wipe"},
+        {MODIFY_ME4, "M/E-4@DME Wipe"},
+        {0x12370003, "M/E-2@Key3@Transition@DME Wipe"}};
+    for (const auto& [page, path] : pages) {
+        OpenWith(page, path, "1003");
+        Own("Crop Mode@Crop", CROP);
+        root += "@Modify@Crop Mode@Crop";
         for (const auto& c : cases) {
             Lines expected;
-            for (const char* edge : c.edges)
-                expected.push_back(std::string("put ") + p.root + "@Modify@Crop Mode@Crop@" + edge);
-            EXPECT_THAT(Enter(c.box, c.value), ElementsAreArray(expected))
-                << p.root << " " << c.box;
+            for (const std::string& edge : c.edges)
+                expected.push_back("put " + root + "@" + edge);
+            EXPECT_EQ(Enter(c.box, c.value), expected) << path << " " << c.box;
         }
     }
 }
@@ -335,24 +253,23 @@ TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
 TEST_F(MeDmeWipe, AChannelThatIsNotCroppedStaysAsItIs)
 {
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
-    Own("M/E-1@DME Wipe", "Crop Mode@Crop", CROP);
+    Own("Crop Mode@Crop", CROP);
     (void)Press(CH2);
     EXPECT_EQ(Enter(1, -10).size(), 2u); // the server hasn't switched the second on
-    Tell("M/E-1@DME Wipe@Modify@Crop Mode@Crop@2#true");
+    Tell(root + "@Modify@Crop Mode@Crop@2#true");
     EXPECT_EQ(Enter(1, -10).size(), 4u);
 }
 
 TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
 {
-    const std::string crop = "M/E-1@DME Wipe@Modify@Crop Mode@Crop@";
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
-    Own("M/E-1@DME Wipe", "Crop Mode@Crop", CROP);
-    EXPECT_THAT(Turn("Panel@Common@Knob0#3"), IsEmpty()) << "no value yet";
-    Tell(crop + "Left@1#-50");
-    EXPECT_THAT(Turn("Panel@Common@Knob0#3"),
-                ElementsAre("put " + crop + "Right@1#49.24", "put " + crop + "Left@1#-49.24"));
-    EXPECT_THAT(Turn("Panel@Common@Knob0#-25"),
-                ElementsAre("put " + crop + "Right@1#100.00", "put " + crop + "Left@1#-100.00"));
+    Own("Crop Mode@Crop", CROP);
+    EXPECT_THAT(Tell("Panel@Common@Knob0#3"), IsEmpty()) << "no value yet";
+    Tell(root + "@Modify@Crop Mode@Crop@Left@1#-50");
+    EXPECT_EQ(Tell("Panel@Common@Knob0#3"),
+              Sent("put", {"Crop Mode@Crop@Right@1#49.24", "Crop Mode@Crop@Left@1#-49.24"}));
+    EXPECT_EQ(Tell("Panel@Common@Knob0#-25"),
+              Sent("put", {"Crop Mode@Crop@Right@1#100.00", "Crop Mode@Crop@Left@1#-100.00"}));
 }
 
 TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
@@ -361,20 +278,16 @@ TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
         int button;
         const char* function;
         int box;
-        std::vector<const char*> paths;
+        Lines paths;
     } cases[] = {
         {POSITION, "Position@Position", 2, {"Position@Position@V@1"}},
         {SIZE, "Size", 1, {"Size@Size@1"}},
         {CROP, "Crop Mode@Crop", 2, {"Crop Mode@Crop@Bottom@1", "Crop Mode@Crop@Top@1"}},
     };
-    const std::string root = "PGM/PST@DSK2@Transition@DME Wipe";
-    OpenWith(0x14270003, root, "1003");
+    OpenWith(0x14270003, "PGM/PST@DSK2@Transition@DME Wipe", "1003");
     for (const auto& c : cases) {
-        Own(root, c.function, c.button);
-        Lines expected;
-        for (const char* path : c.paths)
-            expected.push_back("default " + root + "@Modify@" + path);
-        EXPECT_THAT(Default(c.box), ElementsAreArray(expected));
+        Own(c.function, c.button);
+        EXPECT_EQ(Default(c.box), Sent("default", c.paths));
     }
 }
 
@@ -384,7 +297,7 @@ TEST_F(MeDmeWipe, KeysSendForTheChosenChannels)
 {
     static const struct {
         int button;
-        std::vector<const char*> puts; // behind "...@Modify@"
+        Lines puts;
     } cases[] = {
         {CROP, {"Crop Mode@Crop@1#false", "Crop Mode@Crop@2#false"}}, // it is on and has the knobs
         {POSITION, {"Position@Position@1#true", "Position@Position@2#true"}},
@@ -394,19 +307,12 @@ TEST_F(MeDmeWipe, KeysSendForTheChosenChannels)
          {"Position@Position@H@1#-100.00", "Position@Position@V@1#-100.00",
           "Position@Position@H@2#-100.00", "Position@Position@V@2#-100.00"}},
     };
-    const std::string root = "M/E-4@DME Wipe";
-    OpenWith(MODIFY_ME4, root, "2003");
+    OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", "2003");
     (void)Press(CH2);
-    Own(root, "Crop Mode@Crop", CROP);
-    Tell("Engineering Setup@System@Format@DME Aspect#1,16:9,4,8");
-    for (const auto& c : cases) {
-        Lines expected;
-        for (const char* put : c.puts)
-            expected.push_back("put " + root + "@Modify@" + put);
-        Lines sent = Press(c.button);
-        std::erase_if(sent, [](const std::string& line) { return line.find("put M/E-4") != 0; });
-        EXPECT_THAT(sent, ElementsAreArray(expected)) << c.button;
-    }
+    Own("Crop Mode@Crop", CROP);
+    Tell(ASPECT + "1,16:9,4,8");
+    for (const auto& c : cases)
+        EXPECT_EQ(Puts(Press(c.button)), Sent("put", c.puts)) << c.button;
 }
 
 TEST_F(MeDmeWipe, ACornerIsLitWhileThePictureStandsInIt)
@@ -418,8 +324,8 @@ TEST_F(MeDmeWipe, ACornerIsLitWhileThePictureStandsInIt)
                  {"100", "-100", 50}, {"100", "-99.9", 0}, {"nan", "-100", 50}};
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
     for (const auto& c : cases) {
-        Tell(std::string("M/E-1@DME Wipe@Modify@Position@Position@H@1#") + c.h);
-        Tell(std::string("M/E-1@DME Wipe@Modify@Position@Position@V@1#") + c.v);
+        TellAll(root + "@Modify@Position@Position@",
+                {std::string("H@1#") + c.h, std::string("V@1#") + c.v});
         for (int id : {33, 34, 49, 50})
             EXPECT_EQ(BT_GetOnOff(id), id == c.lit) << c.h << "," << c.v;
     }
@@ -454,56 +360,53 @@ TEST_F(MeDmeWipe, ABankWithoutItsWipeHasDeadKeys)
         Tell(std::string(is_key ? "M/E-2@Key7@Transition" : "M/E-2") +
              (c.page < 0x13000000 || is_key ? "" : " SUB") +
              "@DME Wipe@Pattern Select@Pattern#1201");
-        int enabled = 0;
-        for (int id : {17, 20, 22, 33, 49})
-            enabled += Enabled(id);
-        EXPECT_EQ(enabled == 0, c.off) << std::hex << c.page << " " << c.side;
+        EXPECT_EQ(Usable({17, 20, 22, 33, 49}).empty(), c.off)
+            << std::hex << c.page << " " << c.side;
     }
 }
 
 TEST_F(MeDmeWipe, A4To3CropNeedsAPictureThatIsWider)
 {
-    static const struct {
+    const char *const me1 = "M/E-1@DME Wipe", *const pp = "PGM/PST@DME Wipe";
+    const struct {
         uint32_t page;
         const char *root, *pattern;
-        std::vector<const char*> dmes;
+        Lines dmes;
         int bank_aspect; // of the bank itself
         std::vector<int> presses;
         bool usable;
     } cases[] = {
-        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,16:9,1,8"}, 0, {}, true},
-        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,4:3,1,8"}, 1, {}, false},
-        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,16:9,1,9"}, 1, {}, false}, // the sub side's
-        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"3,16:9,2,8"}, 1, {}, false}, // of M/E-2
-        {MODIFY_ME1, "M/E-1@DME Wipe", "1003", {"9,16:9,1,8", "0,16:9,1,8"}, 1, {}, false},
+        {MODIFY_ME1, me1, "1003", {"3,16:9,1,8"}, 0, {}, true},
+        {MODIFY_ME1, me1, "1003", {"3,4:3,1,8"}, 1, {}, false},
+        {MODIFY_ME1, me1, "1003", {"3,16:9,1,9"}, 1, {}, false}, // the sub side's
+        {MODIFY_ME1, me1, "1003", {"3,16:9,2,8"}, 1, {}, false}, // of M/E-2
+        {MODIFY_ME1, me1, "1003", {"9,16:9,1,8", "0,16:9,1,8"}, 1, {}, false},
         {0x15650000, "M/E-1 SUB@DME Wipe", "1003", {"8,16:9,1,9"}, 0, {}, true},
-        {0x14650000, "PGM/PST@DME Wipe", "1003", {"1,16:9,0,8"}, 0, {}, true},
+        {0x14650000, pp, "1003", {"1,16:9,0,8"}, 0, {}, true},
         {0x15270003, "M/E-1@Key6@Transition@DME Wipe", "1003", {"2,16:9,1,5"}, 0, {}, true},
         // the second channel, and the third, go by the DME behind the first
-        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {}, false},
-        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH1}, true},
-        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"1,4:3,1,8", "2,16:9,3,8"}, 0, {CH1}, false},
-        {MODIFY_ME1, "M/E-1@DME Wipe", "2003", {"4,4:3,1,8", "5,16:9,1,8"}, 0, {CH1}, false},
-        {MODIFY_ME1, "M/E-1@DME Wipe", "3003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH3, CH1}, true},
+        {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {}, false},
+        {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH1}, true},
+        {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,3,8"}, 0, {CH1}, false},
+        {MODIFY_ME1, me1, "2003", {"4,4:3,1,8", "5,16:9,1,8"}, 0, {CH1}, false},
+        {MODIFY_ME1, me1, "3003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH3, CH1}, true},
         // the second set of channels has the bank's own aspect
-        {MODIFY_ME1, "M/E-1@DME Wipe", "7003", {"3,16:9,1,8"}, 0, {}, false},
-        {MODIFY_ME1, "M/E-1@DME Wipe", "7003", {}, 1, {}, true},
+        {MODIFY_ME1, me1, "7003", {"3,16:9,1,8"}, 0, {}, false},
+        {MODIFY_ME1, me1, "7003", {}, 1, {}, true},
     };
     for (const auto& c : cases) {
         Open(c.page);
-        for (const char* line : c.dmes)
-            Tell(std::string("Engineering Setup@System@Format@DME Aspect#") + line);
+        TellAll(ASPECT, c.dmes);
         std::fill_n(SYS_RefSwrScreenAspect, 7, !c.bank_aspect); // each line has set them anew
-        SYS_RefSwrScreenAspect[(c.page >> 24) == 0x14 ? 5 : 0] = c.bank_aspect;
+        SYS_RefSwrScreenAspect[c.root == pp ? 5 : 0] = c.bank_aspect;
         Tell(std::string(c.root) + "@Pattern Select@Pattern#" + c.pattern);
         for (int id : c.presses)
             (void)Press(id);
         EXPECT_EQ(Enabled(CROP_4_3), c.usable)
             << c.root << " " << c.pattern << " " << c.dmes.size();
     }
-    (void)TakeQueuedCommands();
-    Tell("M/E-1@Key1@Processed Key@DME Status#anything");
-    EXPECT_THAT(TakeQueuedCommands(), Contains("read Engineering Setup@System@Format@DME Aspect"));
+    EXPECT_THAT(Tell("M/E-1@Key1@Processed Key@DME Status#anything"),
+                Contains("read Engineering Setup@System@Format@DME Aspect"));
 }
 
 TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannel)
@@ -512,7 +415,7 @@ TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannel)
     OpenWith(0x14650000, "PGM/PST@DME Wipe", "3003");
     EXPECT_EQ(BT_GetVisible(CH3), BT_CUTOFF);
     EXPECT_TRUE(Enabled(CH2));
-    Tell("Engineering Setup@System@Format@DME Aspect#1,16:9,0,8");
+    Tell(ASPECT + "1,16:9,0,8");
     SYS_RefPnlType = DEVTYPE_QRD33; // no unit of this desk is the reference
     SYS_RefSwrScreenAspect[5] = 0;
     Tell("PGM/PST@DME Wipe@Pattern Select@Pattern#2003");
@@ -523,18 +426,18 @@ TEST_F(MeDmeWipe, AKeyIsAdjustedWhileEitherOfItsTransitionsIsSuchAWipe)
 {
     static const struct {
         const char *on, *off;
-        bool usable;
-    } cases[] = {{"DME Wipe", "Mix", true},
-                 {"Wipe", "Mix", false},
-                 {"Cut", "DME Wipe", true},
-                 {"DME Wipe", "DME Wipe", true}};
+        size_t usable;
+    } cases[] = {{"DME Wipe", "Mix", 5},
+                 {"Wipe", "Mix", 0},
+                 {"Cut", "DME Wipe", 5},
+                 {"DME Wipe", "DME Wipe", 5}};
     OpenWith(0x11170003, "M/E-1@Key1@Transition@DME Wipe", "1003");
-    Tell("Engineering Setup@System@Format@DME Aspect#1,16:9,1,0");
+    Tell(ASPECT + "1,16:9,1,0");
     for (const auto& c : cases) {
-        Tell(std::string("M/E-1@Key1@Transition@ON Transition Type#") + c.on);
-        Tell(std::string("M/E-1@Key1@Transition@OFF Transition Type#") + c.off);
-        for (int id : {POSITION, CROP, CROP_4_3, SIZE, 33})
-            EXPECT_EQ(Enabled(id), c.usable) << c.on << "," << c.off << " " << id;
+        TellAll("M/E-1@Key1@Transition@", {std::string("ON Transition Type#") + c.on,
+                                           std::string("OFF Transition Type#") + c.off});
+        EXPECT_EQ(Usable({POSITION, CROP, CROP_4_3, SIZE, 33}).size(), c.usable)
+            << c.on << "," << c.off;
     }
 }
 
@@ -544,40 +447,27 @@ TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
 {
     static const struct {
         uint32_t page;
-        const char* pattern;
+        const char *root, *pattern;
         std::vector<int> usable, dead;
     } cases[] = {
-        {0x13630000, "1203", {17, 18, 54}, {20, 21, 22, 34, 35, 49, 52}},
-        {0x13630000, "1301", {21, 22, 34, 35}, {17, 18, 20, 49, 54}},
-        {0x13630000, "7391", {18, 20, 22, 54}, {17, 21, 49}},
-        {0x13630000, "2001", {49, 50, 51}, {17, 20, 52}},
-        {0x13630000, "3401", {20, 22, 49, 52}, {21}},
-        {0x13640000, "1310", {17, 37, 38}, {49, 50}},
-        {0x13640000, "1905", {17, 18}, {37, 38, 49}},
-        {0x13640000, "1001", {17, 37, 49}, {}},
+        {0x13630000, "M/E-3", "1203", {17, 18, 54}, {20, 21, 22, 34, 35, 49, 52}},
+        {0x13630000, "M/E-3", "1301", {21, 22, 34, 35}, {17, 18, 20, 49, 54}},
+        {0x13630000, "M/E-3", "7391", {18, 20, 22, 54}, {17, 21, 49}},
+        {0x13630000, "M/E-3", "2001", {49, 50, 51}, {17, 20, 52}},
+        {0x13630000, "M/E-3", "3401", {20, 22, 49, 52}, {21}},
+        {0x13640000, "M/E-3", "1310", {17, 37, 38}, {49, 50}},
+        {0x13640000, "M/E-3", "1905", {17, 18}, {37, 38, 49}},
+        {0x13640000, "M/E-3", "1001", {17, 37, 49}, {}},
+        {0x86270003, "M/E-5@Key6@Transition", "1203", {51, 52}, {}}, // size and transparency
+        {0x86270003, "M/E-5@Key6@Transition", "1394", {52}, {51}},
+        {0x86270003, "M/E-5@Key6@Transition", "1001", {}, {51, 52}},
     };
     for (const auto& c : cases) {
         Open(c.page);
-        Tell("M/E-3@DME Wipe@Edge/Direction@Shadow#true");
-        Tell(std::string("M/E-3@DME Wipe@Pattern Select@Pattern#") + c.pattern);
-        for (int id : c.usable)
-            EXPECT_TRUE(Enabled(id)) << c.pattern << " " << id;
-        for (int id : c.dead)
-            EXPECT_FALSE(Enabled(id)) << c.pattern << " " << id;
-    }
-}
-
-TEST_F(MeDmeWipe, AKeyHasTheModifiersOfItsPattern)
-{
-    static const struct {
-        const char* pattern;
-        bool size, transparency;
-    } cases[] = {{"1203", true, true}, {"1394", false, true}, {"1001", false, false}};
-    Open(0x86270003);
-    for (const auto& c : cases) {
-        Tell(std::string("M/E-5@Key6@Transition@DME Wipe@Pattern Select@Pattern#") + c.pattern);
-        EXPECT_EQ(Enabled(51), c.size) << c.pattern;
-        EXPECT_EQ(Enabled(52), c.transparency) << c.pattern;
+        TellAll(c.root, {"@DME Wipe@Edge/Direction@Shadow#true",
+                         std::string("@DME Wipe@Pattern Select@Pattern#") + c.pattern});
+        EXPECT_EQ(Usable(c.usable), c.usable) << c.pattern;
+        EXPECT_THAT(Usable(c.dead), IsEmpty()) << c.pattern;
     }
 }
 
@@ -585,11 +475,8 @@ TEST_F(MeDmeWipe, TheCellShowsTheSamePictureForBothSetsOfChannels)
 {
     const auto picture = [](const char* pattern) {
         Tell(std::string("M/E-2@DME Wipe@Pattern Select@Pattern#") + pattern);
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-        std::vector<uint32_t> row;
-        for (int x = 122; x < 178; x++)
-            row.push_back(PixelAt(x, 112));
-        return row;
+        Pass(10);
+        return PixelsIn({122, 112, 177, 112});
     };
     Open(0x12640000);
     const auto first = picture("2003");
@@ -602,24 +489,18 @@ TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
     static const struct {
         uint32_t page;
         const char *root, *pattern;
-        int button, channel;
-    } cases[] = {{0x12600007, "M/E-2@DME Wipe", "2003", 18, 2},
-                 {0x12170007, "M/E-2@Key1@Transition@DME Wipe", "1003", 17, 1}};
+        int button;
+        const char* channel;
+    } cases[] = {{0x12600007, "M/E-2@DME Wipe", "2003", 18, "2"},
+                 {0x12170007, "M/E-2@Key1@Transition@DME Wipe", "1003", 17, "1"}};
     for (const auto& c : cases) {
         OpenWith(c.page, c.root, c.pattern);
         EXPECT_FALSE(Enabled(19));
-        const std::string remove = std::string(c.root) + "@Modify@Remove From Begin@";
-        const std::string ch = std::to_string(c.channel);
+        const std::string remove = root + "@Modify@Remove From Begin@", ch = c.channel;
         Tell(remove + ch + "#true");
         (void)Press(c.button);
-        Tell(remove + "Start@" + ch + "#20");
-        Tell(remove + "Limit@" + ch + "#60");
-        Tell(remove + "Start@3#90"); // another channel's
-        // The bar's left end is now the start, its right end of the other box the limit.
-        SendMessage(MSG_WHEELUP, 720, 127 + 82 + 20, 0, 0);
-        const Lines up = TakeQueuedCommands();
-        ASSERT_FALSE(up.empty());
-        for (int i = 0; i < 60; i++)
+        TellAll(remove, {"Start@" + ch + "#20", "Limit@" + ch + "#60", "Start@3#90"});
+        for (int i = 0; i < 60; i++) // the limit stops at the start of the same channel
             SendMessage(MSG_WHEELUP, 720, 127 + 82 + 20, 0, 0);
         EXPECT_THAT(TakeQueuedCommands(), Contains("put " + remove + "Limit@" + ch + "#20.00"));
     }
@@ -627,11 +508,6 @@ TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
 
 TEST_F(MeDmeWipe, TheListShowsWhatIsAskedForAndStaysOnItsSetOfChannels)
 {
-    const auto press = [] {
-        (void)TakeQueuedCommands();
-        SendMessage(MSG_PRESS, 160 + 20, 89 + 20, 1, 0); // the first cell
-        return TakeQueuedCommands();
-    };
     static const struct {
         int button;
         const char *pattern, *number;
@@ -640,11 +516,11 @@ TEST_F(MeDmeWipe, TheListShowsWhatIsAskedForAndStaysOnItsSetOfChannels)
                  {35, "9001", "9001"},
                  {34, "8251", "8001"},
                  {33, "2003", "1001"}};
+    const std::string path = "M/E-5@DME Wipe@Pattern Select@Pattern#";
     Open(0x82610000);
     for (const auto& c : cases) {
-        Tell(std::string("M/E-5@DME Wipe@Pattern Select@Pattern#") + c.pattern);
+        Tell(path + c.pattern);
         (void)Press(c.button);
-        EXPECT_THAT(press(),
-                    Contains(std::string("put M/E-5@DME Wipe@Pattern Select@Pattern#") + c.number));
+        EXPECT_THAT(Touch(160 + 20, 89 + 20), Contains("put " + path + c.number)); // first cell
     }
 }
