@@ -1,66 +1,8 @@
 // The pages of a bank's own settings as the table opens them: what their page code sends, what it
 // subscribes, which buttons the installation leaves.
-#include "a_bt_page.h"
-#include "bus.h"
-#include "device.h"
-#include "loop.h"
-#include "page_table/me_misc.h"
-#include "tdl.h"
-#include <gmock/gmock.h>
-#include <map>
-#include <optional>
+#include "table_page.h"
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::Not;
-
-namespace
-{
-constexpr uint32_t WHITE = 0xFFFFFF;
-using Lines = std::vector<std::string>;
-} // namespace
-
-struct MeMisc : testing::Test {
-    std::optional<FullHouse> all;
-
-    void SetUp() override
-    {
-        Harness_Reset();
-        all.emplace();
-        SYS_DWSubEnable = 1;
-    }
-    void TearDown() override
-    {
-        SYS_DWSubEnable = 0;
-        CreatePage(PAGE_TOP);
-        GL_CreatePage = 0;
-        Page_Reset();
-        (void)TakeQueuedCommands();
-    }
-    static Lines Open(uint32_t id)
-    {
-        (void)TakeQueuedCommands();
-        EXPECT_EQ(CreatePage(id), 0) << std::hex << id;
-        GL_CreatePage = 0;
-        return TakeQueuedCommands();
-    }
-    static void Tell(const std::string& line) { SendDummyTally(line.c_str()); }
-    static Lines Puts(Lines lines)
-    {
-        std::erase_if(lines, [](const std::string& line) { return !line.starts_with("put "); });
-        return lines;
-    }
-    // What a press on the button sends.
-    static Lines Press(int id)
-    {
-        const BT_MEM* b = bt_find(id);
-        EXPECT_TRUE(b) << id;
-        (void)TakeQueuedCommands();
-        if (b)
-            SendMessage(MSG_PRESS, b->x1 + 5, b->y1 + 5, 1, 0);
-        return TakeQueuedCommands();
-    }
+struct MeMisc : TablePage {
 };
 
 static const struct {
@@ -76,27 +18,19 @@ TEST_F(MeMisc, ATypeOfTransitionTakesThePlaceOfTheOneBefore)
         const std::string path = std::string(b.word) + "@Misc@Transition@";
         EXPECT_THAT(Open(b.bank + 0x710000), Contains("add " + path + "Super Mix"));
         EXPECT_THAT(Puts(Press(1)), ElementsAre("put " + path + "Mix#true")) << "there was none";
-        Tell(path + "Mix#false");
-        Tell(path + "Wipe#true");
+        TellAll(path, {"Mix#false", "Wipe#true"});
         EXPECT_EQ(BT_GetStatus(17), BT_ON);
         EXPECT_THAT(Puts(Press(3)),
                     ElementsAre("put " + path + "Wipe#false", "put " + path + "Super Mix#true"));
-        Tell(path + "Wipe#false");
+        TellAll(path, {"Wipe#false", "Super Mix#true"});
         EXPECT_EQ(BT_GetStatus(17), BT_OFF);
-        Tell(path + "Super Mix#true");
         EXPECT_EQ(BT_GetStatus(3), BT_ON);
         EXPECT_THAT(Press(17), Contains("put " + path + "Super Mix#false"));
+        // A press on a lit type that does not own the knobs only moves them.
+        const Lines sent = Press(3);
+        EXPECT_THAT(sent, Contains("add " + path + "Super Mix@A Video"));
+        EXPECT_THAT(Puts(sent), IsEmpty());
     }
-}
-
-// The first press on a lit type that does not own the knobs only moves them.
-TEST_F(MeMisc, ATypeThatIsOnBringsItsKnobsFirst)
-{
-    Open(0x11710000);
-    Tell("M/E-1@Misc@Transition@Super Mix#true");
-    const Lines sent = Press(3);
-    EXPECT_THAT(sent, Contains("add M/E-1@Misc@Transition@Super Mix@A Video"));
-    EXPECT_THAT(Puts(sent), IsEmpty());
 }
 
 TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
@@ -118,16 +52,14 @@ TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
             GL_KeyMax[c.bank] = keys;
             Open(c.page);
             EXPECT_EQ(BT_GetVisible(c.key5), keys == 8 ? BT_ENABLED : BT_CUTOFF) << c.caption;
-            EXPECT_STREQ(bt_find(c.key5)->caption, c.caption);
+            EXPECT_EQ(Caption(c.key5), c.caption);
             const Lines sent = Press(38);
-            EXPECT_EQ(std::count(sent.begin(), sent.end(), add(c.rate)), keys == 8) << c.rate;
+            EXPECT_EQ(std::ranges::count(sent, add(c.rate)), keys == 8) << c.rate;
             EXPECT_THAT(sent, Not(Contains(add(c.no_rate))));
-            // The page remembers who had the knobs.
-            Open(PAGE_TOP);
-            Open(c.page);
-            SendMessage(MSG_PRESS, 750, 95, 1, 0);
+            Open(c.page); // it remembers who had the knobs
+            NextLayer();
             EXPECT_EQ(NB_GetLayer(), keys == 8) << c.rate;
-            SendMessage(MSG_PRESS, 750, 95, 1, 0);
+            NextLayer();
         }
 }
 
@@ -221,22 +153,16 @@ TEST_F(MeMisc, TheNormalOrderIsThatOfThePagesOwnKeys)
 TEST_F(MeMisc, TheMatrixGivesBackBothListsWhicheverWasShown)
 {
     for (const std::vector<int>& presses : {std::vector<int>{}, {6}, {6, 5}}) {
-        Open(PAGE_TOP);
-        (void)TakeQueuedCommands();
-        std::map<std::string, int> held;
-        const auto count = [&](const Lines& lines) {
-            for (const std::string& line : lines)
-                if (line.find("Key Priority@") != std::string::npos)
-                    held[line.substr(line.find(' ') + 1)] +=
-                        line.starts_with("add ") - line.starts_with("remove ");
+        Lines sent = Open(0x12730001);
+        const auto also = [&](const Lines& lines) {
+            sent.insert(sent.end(), lines.begin(), lines.end());
         };
-        count(Open(0x12730001));
         for (const int id : presses)
-            count(Press(id));
-        count(Open(PAGE_TOP));
-        EXPECT_EQ(held.size(), 2u);
-        for (const auto& [path, open] : held)
-            EXPECT_EQ(open, 0) << path << " after " << presses.size();
+            also(Press(id));
+        EXPECT_GE(Held(sent, "M/E-2@Misc@Key Priority@Key Priority"), 1);
+        also(Leave());
+        for (const char* list : {"Key Priority", "Next Key Priority"})
+            EXPECT_EQ(Held(sent, std::string("M/E-2@Misc@Key Priority@") + list), 0) << list;
     }
 }
 
@@ -256,12 +182,11 @@ TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
         {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#1,2,9,4", -1},
     };
     for (const auto& c : cases) {
-        Open(PAGE_TOP);
         Open(c.page);
         Tell(c.tally);
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        Pass(10);
         for (int line = 0; line < 4; line++)
-            EXPECT_EQ(PixelAt(608, 165 + 22 + 15 * line) == WHITE, line == c.line)
+            EXPECT_EQ(PixelAt(608, 165 + 22 + 15 * line) == 0xFFFFFF, line == c.line)
                 << c.tally << " line " << line;
     }
 }
@@ -273,16 +198,12 @@ TEST_F(MeMisc, TheCellOfGoingShowsHowTheKeyReallyGoes)
 {
     for (const int has_own : {0, 1}) {
         SYS_KeyTransitionME2 = has_own;
-        Open(PAGE_TOP);
         Open(0x12110000);
-        Tell("M/E-2@Key1@Transition@ON Transition Type#Cut");
-        Tell("M/E-2@Key1@Transition@OFF Transition Type#Stinger");
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-        int differing = 0;
-        for (int y = 190; y < 230; y++)
-            for (int x = 0; x < 90; x++)
-                differing += PixelAt(305 + x, y) != PixelAt(405 + x, y);
-        EXPECT_EQ(differing != 0, has_own != 0) << differing;
+        TellAll("M/E-2@Key1@Transition@",
+                {"ON Transition Type#Cut", "OFF Transition Type#Stinger"});
+        Pass(10);
+        const bool is_alike = PixelsIn({305, 190, 394, 229}) == PixelsIn({405, 190, 494, 229});
+        EXPECT_EQ(is_alike, !has_own);
     }
 }
 
@@ -292,8 +213,8 @@ TEST_F(MeMisc, TheMonitorIsMarkedOnlyForAChannelOfTheKey)
     Tell("M/E-4@Key2@Processed Key@DME Select@DME3#true");
     for (const char* monitor : {"3", "2", "0", "9", "x", "-1"}) {
         Tell(std::string("M/E-1@Key1@Processed Key@Monitor#") + monitor);
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-        EXPECT_EQ(PixelAt(508, 165 + 22 + 15) == WHITE, monitor[0] == '3') << monitor;
+        Pass(10);
+        EXPECT_EQ(PixelAt(508, 165 + 22 + 15) == 0xFFFFFF, monitor[0] == '3') << monitor;
     }
 }
 
@@ -312,7 +233,7 @@ TEST_F(MeMisc, TheTwoSwitchesOfAKeyAreOneWord)
     };
     const std::string path = "PGM/PST@Misc@Key Assign@Key6";
     Open(0x14740000);
-    EXPECT_STREQ(bt_find(18)->caption, "DSK6");
+    EXPECT_EQ(Caption(18), "DSK6");
     for (const auto& c : cases) {
         Tell(path + "#" + c.word);
         EXPECT_EQ(BT_GetStatus(18), c.main) << c.word;
@@ -324,18 +245,11 @@ TEST_F(MeMisc, TheTwoSwitchesOfAKeyAreOneWord)
 
 TEST_F(MeMisc, AKeyThatNobodyAssignedFollowsTheSetup)
 {
-    static const struct {
-        const char* path;
-        const char* value;
-    } setup[] = {
-        {"Engineering Setup@Switcher@Config@M/E Output Assign@List", "M/E-2,1,Main"},
-        {"Engineering Setup@Switcher@Config@M/E Output Assign@List", "M/E-2,2,Sub"},
-        {"Engineering Setup@Switcher@Config@PGM Config@List", "M/E-2,1,03"}, // keys 1 and 2
-        {"Engineering Setup@Switcher@Config@PGM Config@List", "M/E-2,2,42"}, // keys 2 and 7
-    };
     Open(0x12740000);
-    for (const auto& s : setup)
-        Tell(std::string(s.path) + "#" + s.value);
+    TellAll("Engineering Setup@Switcher@Config@",
+            {"M/E Output Assign@List#M/E-2,1,Main", "M/E Output Assign@List#M/E-2,2,Sub",
+             "PGM Config@List#M/E-2,1,03",   // keys 1 and 2
+             "PGM Config@List#M/E-2,2,42"}); // keys 2 and 7
     static const struct {
         int main, sub; // buttons
         bool is_main, is_sub;
@@ -356,27 +270,18 @@ TEST_F(MeMisc, AKeyThatNobodyAssignedFollowsTheSetup)
 // A cell that is told a text must look like one that works the same text out from the setup.
 TEST_F(MeMisc, TheAssignCellTellsTheOutputsOfABankOfOneSide)
 {
-    constexpr Rect cell = {403, 95, 496, 162};
     const std::string list = "Engineering Setup@Switcher@Config@PGM Config@List#";
-    const auto picture = [&] {
-        std::vector<uint32_t> pixels;
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-        for (int y = cell.y1; y <= cell.y2; y++)
-            for (int x = cell.x1; x <= cell.x2; x++)
-                pixels.push_back(PixelAt(x, y));
-        return pixels;
-    };
     const auto told = [&](const char* key1, const char* key2) {
-        Tell(std::string("PGM/PST@Misc@Key Assign@Key1#") + key1);
-        Tell(std::string("PGM/PST@Misc@Key Assign@Key2#") + key2);
-        return picture();
+        TellAll("PGM/PST@Misc@Key Assign@",
+                {std::string("Key1#") + key1, std::string("Key2#") + key2});
+        Pass(10);
+        return PixelsIn({403, 95, 496, 162});
     };
     multiprogram2_me[0] = 0;
     Open(0x14740000);
     Tell(list + "KILL");
     EXPECT_EQ(told("", ""), told("Main", "Main")) << "not known";
-    for (const char* row : {"P/P,1,FD", "PGM/PST,3,FF", "M/E-1,2,FF", "P/P,9,FF", "P/P,2"})
-        Tell(list + row);
+    TellAll(list, {"P/P,1,FD", "PGM/PST,3,FF", "M/E-1,2,FF", "P/P,9,FF", "P/P,2"});
     EXPECT_EQ(told("", ""), told("1,3", "3"));
     EXPECT_NE(told("", ""), told("1,3", "1,3"));
 }
@@ -399,31 +304,24 @@ TEST_F(MeMisc, TheTwoTimesLieInTheClipThatIsLoaded)
     const std::string path = "M/E-5@Misc@Clip Transition@";
     Open(0x82760000);
     Tell(path + "Clip Name#");
-    EXPECT_EQ(BT_GetVisible(37), BT_DISABLED);
-    EXPECT_EQ(BT_GetVisible(53), BT_DISABLED);
+    EXPECT_THAT(Usable({37, 53}), IsEmpty());
     Tell(path + "Clip Name#GOAL");
-    EXPECT_EQ(BT_GetVisible(37), BT_ENABLED);
-    EXPECT_EQ(BT_GetVisible(53), BT_ENABLED);
+    EXPECT_THAT(Usable({37, 53}), ElementsAre(37, 53));
     static const struct {
         const char* duration;
-        const char* sent; // after a value far beyond
-    } cases[] = {{"250", "249"}, {"-5", "215999"}, {"x", "215999"}, {"1", "215999"}};
+        double sent; // after a value far beyond
+    } cases[] = {{"250", 249}, {"-5", 215999}, {"x", 215999}, {"1", 215999}};
     for (const auto& c : cases) {
-        Open(PAGE_TOP);
         Open(0x82760000);
         Tell(path + "Clip Duration#" + c.duration);
         (void)Press(37);
         Tell(path + "Start TC#0");
         (void)NB_SetSelect(1);
-        (void)TakeQueuedCommands();
         (void)NB_SendTrimValue(9999999);
-        std::string text;
-        for (const std::string& line : TakeQueuedCommands())
-            if (line.starts_with("put " + path + "Start TC#"))
-                text = line.substr(line.find('#') + 1);
         char expected[64];
-        NB_Text(NB_MEM{.type = NB_TC}, std::stod(c.sent), expected, sizeof expected);
-        EXPECT_EQ(text, expected) << c.duration;
+        NB_Text(NB_MEM{.type = NB_TC}, c.sent, expected, sizeof expected);
+        EXPECT_THAT(TakeQueuedCommands(), Contains("put " + path + "Start TC#" + expected))
+            << c.duration;
     }
 }
 
@@ -479,5 +377,5 @@ TEST_F(MeMisc, TheCellsOfKeysOnASubSideFollowTheBank)
     for (const char* path :
          {"M/E-4@Key5@Type@Key Type", "M/E-4@Wipe@Main Pattern@Pattern",
           "M/E-4 SUB@Wipe@Main Pattern@Pattern", "M/E-4 SUB@Misc@Key Priority@Key Priority"})
-        EXPECT_EQ(std::count(sent.begin(), sent.end(), std::string("add ") + path), 1) << path;
+        EXPECT_EQ(Held(sent, path), 1) << path;
 }
