@@ -1,55 +1,32 @@
 // The type pages of a key as the table opens them: their own lines on the wire, what they show
 // after tallies.
-#include "loop.h"
-#include "me_key_page.h"
+#include "a_ba.h"
+#include "a_ls.h"
+#include "a_st.h"
 #include "pane.h"
+#include "table_page.h"
 
 using std::string;
-using testing::AllOf;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::MatchesRegex;
-using testing::Not;
 
-struct KeyTypePage : MeKeyPage {
+struct KeyTypePage : TablePage {
 };
 
-TEST_F(KeyTypePage, WhatItAddsItRemovesAgain)
+TEST_F(KeyTypePage, SettingsOfEachTypeAreFollowedAndTheChosenOnesShown)
 {
-    Open(0x81310000);
-    const auto opened = TakeQueuedCommands();
-    Open(0x81320000);
-    const auto left = TakeQueuedCommands();
+    const Lines opened = Open(0x81310000);
     for (const char* type :
          {"Luminance", "Linear", "Chroma", "Color Vector", "Wipe Pattern", "Key Wipe Pattern"})
-        for (const char* setting : {"Clean Mode@", "Key Position@"}) {
-            const string path = string("M/E-4@Key3@Type@") + setting + type;
-            EXPECT_THAT(opened, Contains("add " + path));
-            EXPECT_THAT(left, Contains("remove " + path));
-        }
-}
-
-TEST_F(KeyTypePage, CleanModeIsThatOfTheChosenType)
-{
-    Open(0x11110000);
-    Tell("M/E-1@Key1@Type@Key Type#Linear");
-    Tell("M/E-1@Key1@Type@Clean Mode@Chroma#true");
-    Tell("M/E-1@Key1@Type@Clean Mode@Linear#false");
-    Tell("M/E-1@Key1@Type@Key Position@Linear#false"); // the first tallies are complete
+        for (const char* setting : {"Clean Mode@", "Key Position@"})
+            EXPECT_GE(Held(opened, string("M/E-4@Key3@Type@") + setting + type), 1) << type;
+    TellAll("M/E-4@Key3@Type@", {"Key Type#Linear", "Clean Mode@Chroma#true",
+                                 "Clean Mode@Linear#false", "Key Position@Linear#false"});
     EXPECT_EQ(BT_GetStatus(34), BT_OFF);
-    Tell("M/E-1@Key1@Type@Key Type#Chroma");
+    EXPECT_THAT(Press(35), AllOf(Contains("put M/E-4@Key3@Type@Key Position@Linear#true"),
+                                 Contains("add M/E-4@Key3@Type@Key Position@Left@Linear")));
+    Tell("M/E-4@Key3@Type@Key Type#Chroma");
     EXPECT_EQ(BT_GetStatus(34), BT_ON);
-    EXPECT_THAT(Press(34), ElementsAre("put M/E-1@Key1@Type@Clean Mode@Chroma#false"));
-}
-
-TEST_F(KeyTypePage, PositionTakesTheKnobsOfItsType)
-{
-    Open(0x11110000);
-    Tell("M/E-1@Key1@Type@Key Type#Linear");
-    Tell("M/E-1@Key1@Type@Key Position@Linear#false");
-    EXPECT_THAT(Press(35), AllOf(Contains("put M/E-1@Key1@Type@Key Position@Linear#true"),
-                                 Contains("add M/E-1@Key1@Type@Key Position@Left@Linear")));
+    EXPECT_THAT(Press(34), ElementsAre("put M/E-4@Key3@Type@Clean Mode@Chroma#false"));
 }
 
 TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
@@ -62,21 +39,18 @@ TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
         int assign; // GL_FillSourceAssignMode on the way; 7 untouched
     } cases[] = {
         {0x12310000, "M/E-2@Key3@Type@Key Type#Luminance", 38, 0x12310003, 1},
-        {0x12310000, "M/E-2@Key3@Type@Key Type#Wipe Pattern", 38, 0x12510000, 7},
         {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 38, 0x81510000, 7},
         {0x12310000, "M/E-2@Key3@Type@Key Type#Key Wipe Pattern", 38, 0x12370002, 7},
         {0x85210000, "M/E-4@Key6@Type@Key Fill#Key Bus", 51, 0x85210003, 0},
         {0x14410000, "PGM/PST@DSK4@Type@Key Fill#Matte", 51, 0x14410002, 7},
     };
     for (const auto& c : cases) {
-        Open(0x00110000);
         Open(c.page);
         Tell(c.setting);
         GL_FillSourceAssignMode = 7;
         Press(c.button);
         EXPECT_EQ(GL_CreatePage, c.target) << c.setting;
         EXPECT_EQ(GL_FillSourceAssignMode, c.assign) << c.setting;
-        EXPECT_EQ(CreatePage(c.target), 0) << c.setting; // on one side only, it is the main one
     }
 }
 
@@ -89,8 +63,8 @@ TEST_F(KeyTypePage, In4KKey3LosesEightButtonsAndKey2None)
             Open(page);
             Tell("M/E-1@Key3@Type@Key Type#Linear");
             int hidden = 0;
-            for (int id : {17, 18, 19, 20, 21, 22, 33, 34, 35, 36, 37, 38, 49, 50, 51, 52, 53, 54})
-                hidden += BT_GetVisible(id) == BT_CUTOFF;
+            for (const BT_MEM* b = bt_first(); b->id >= 1; b++)
+                hidden += b->visible == BT_CUTOFF;
             EXPECT_EQ(hidden, page == 0x11310000 ? 8 : 0) << panel;
         }
 }
@@ -109,22 +83,25 @@ TEST_F(KeyTypePage, TheSmallPanelSelectsPatternsAndNoSignals)
 
 // --- The list of signals ---
 
-struct KeySignals : MeKeyPage {
+struct KeySignals : TablePage {
     void SetUp() override
     {
-        MeKeyPage::SetUp();
+        TablePage::SetUp();
         Global_FreeBusNames();
-        for (const char* source : {"1,CAM 1", "2,CAM 2", "7,VTR", "9,"}) // 9 has no name
-            Source(source);
+        TellAll(SOURCE, {"1,CAM 1", "2,CAM 2", "7,VTR", "9,"}); // 9 has no name
     }
     void TearDown() override
     {
-        MeKeyPage::TearDown();
+        TablePage::TearDown();
         Global_FreeBusNames();
     }
-    static void Source(const char* row)
+    static inline const string SOURCE = "Engineering Setup@Panel@Xpt Assign@Source@List#";
+
+    static Lines TouchRow(int row)
     {
-        Tell(string("Engineering Setup@Panel@Xpt Assign@Source@List#") + row);
+        const Lines lines = Touch(110, 266 + 22 * (row + 1) + 5);
+        SendMessage(MSG_RELEASE, 110, 266 + 22 * (row + 1) + 5, 1, 0);
+        return lines;
     }
     // The marks of the rows: F fill, S source, "-" none; "*" the selected row.
     static string Rows()
@@ -146,19 +123,18 @@ TEST_F(KeySignals, ATouchIsPutToTheBusThatIsAssigned)
         uint32_t page;
         const char* path;
     } cases[] = {{0x11100000, "put M/E-1@Key1@Type@Signal Select@"},
-                 {0x12210003, "put M/E-2@Key2@Type@Signal Select@"},
                  {0x85310003, "put M/E-4@Key7@Type@Signal Select@"}};
     for (const auto& c : cases) {
         GL_FillSourceAssignMode = 1; // as the key type page or a cell leaves it
         Open(c.page);
         EXPECT_EQ(BT_GetStatus(38), BT_ON);
-        EXPECT_THAT(Touch(2), ElementsAre(string(c.path) + "Source#VTR"));
+        EXPECT_THAT(TouchRow(2), ElementsAre(string(c.path) + "Source#VTR"));
         EXPECT_THAT(Press(22), IsEmpty());
         EXPECT_EQ(GL_FillSourceAssignMode, 0);
-        EXPECT_THAT(Touch(0), ElementsAre(string(c.path) + "Fill#CAM 1"));
-        EXPECT_THAT(Touch(3), IsEmpty()); // below the last row
+        EXPECT_THAT(TouchRow(0), ElementsAre(string(c.path) + "Fill#CAM 1"));
+        EXPECT_THAT(TouchRow(3), IsEmpty()); // below the last row
         BA_SetDefaultButton(1);
-        EXPECT_THAT(Touch(0), IsEmpty());
+        EXPECT_THAT(TouchRow(0), IsEmpty());
         BA_SetDefaultButton(0);
     }
 }
@@ -166,16 +142,13 @@ TEST_F(KeySignals, ATouchIsPutToTheBusThatIsAssigned)
 TEST_F(KeySignals, TheRowsFollowTalliesAndNeitherTouchesNorTheArrows)
 {
     Open(0x12210003);
-    Tell("M/E-2@Key2@Type@Signal Select@Fill#CAM 2");
-    Tell("M/E-2@Key2@Type@Signal Select@Source#VTR");
-    Touch(0);
+    TellAll("M/E-2@Key2@Type@Signal Select@", {"Fill#CAM 2", "Source#VTR"});
+    TouchRow(0);
     EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F* VTR:S");
     Press(38);
     EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
-    (void)TakeQueuedCommands();
     SendMessage(LMSG_SBSEL, 1, 0, -1, 0);
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
     Tell("M/E-2@Key3@Type@Signal Select@Source#CAM 1"); // of another key
     EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
 }
@@ -184,23 +157,21 @@ TEST_F(KeySignals, ANewNameMovesTheRowsAtOnce)
 {
     Open(0x11110003);
     Tell("M/E-1@Key1@Type@Signal Select@Fill#CAM 2");
-    Source("5,GRAPHIC");
-    Source("2,STUDIO");
+    TellAll(SOURCE, {"5,GRAPHIC", "2,STUDIO"});
     EXPECT_THAT(Rows(), MatchesRegex("CAM 1:-\\*? STUDIO:-\\*? GRAPHIC:-\\*? VTR:-\\*?"));
-    EXPECT_THAT(Touch(2), ElementsAre("put M/E-1@Key1@Type@Signal Select@Fill#GRAPHIC"));
+    EXPECT_THAT(TouchRow(2), ElementsAre("put M/E-1@Key1@Type@Signal Select@Fill#GRAPHIC"));
 }
 
 // --- Matte and chroma ---
 
-struct KeyMattePage : MeKeyPage {
+struct KeyMattePage : TablePage {
 };
 
 TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
 {
     static const struct {
         uint32_t page;
-        const char* mode;
-        const char* edge;
+        const char *mode, *edge;
         std::vector<int> usable; // of mode, second colour, pattern
         const char* color;
     } cases[] = {
@@ -213,9 +184,9 @@ TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
     };
     for (const auto& c : cases) {
         Open(c.page);
-        const string group = c.page & 0x00010000 ? "M/E-2@Key2@Type@" : "M/E-2@Key2@Edge@";
-        Tell(group + "Matte Adjust@Mode#" + c.mode);
-        Tell(string("M/E-2@Key2@Edge@Edge#") + c.edge);
+        const string group = c.page == 0x12210002 ? "Type" : "Edge";
+        TellAll("M/E-2@Key2@",
+                {group + "@Matte Adjust@Mode#" + c.mode, string("Edge@Edge#") + c.edge});
         EXPECT_EQ(Usable({17, 20, 33, 37}), c.usable) << group << c.mode << " " << c.edge;
         EXPECT_EQ(Caption(19), c.color) << group << c.mode << " " << c.edge;
     }
@@ -233,24 +204,19 @@ TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
         {0x85320001, "M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern#", 37, 0x85320002},
         {0x14220003, "PGM/PST@DSK2@Edge@Zabton@Pattern#", 21, 0x14220004},
     };
-    SYS_RefSwrType = DEVTYPE_NTR40;
     for (const auto& c : cases) {
         Open(c.page);
         Tell(string(c.path) + "67");
         EXPECT_EQ(Caption(c.button), "Pattern\nSelect\n67");
         Tell(string(c.path) + "none");
         EXPECT_EQ(Caption(c.button), "Pattern\nSelect");
-        Tell("M/E-4@Key7@Edge@Matte Adjust@Mode#Mix");
-        Tell("M/E-1@Key3@Type@Matte Adjust@Mode#Mix");
+        TellAll("M/E-", {"4@Key7@Edge@Matte Adjust@Mode#Mix", "1@Key3@Type@Matte Adjust@Mode#Mix"});
         Press(c.button);
         EXPECT_EQ(GL_CreatePage, c.target);
-        const string path = string(c.path).substr(0, string(c.path).size() - 1);
-        Open(0x00110000);
-        EXPECT_THAT(TakeQueuedCommands(), Contains("remove " + path));
     }
 }
 
-struct KeyChromaPage : MeKeyPage {
+struct KeyChromaPage : TablePage {
 };
 
 TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
@@ -261,13 +227,7 @@ TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
         Tell("M/E-3@Key4@Type@Key Type#Chroma");
         Tell(mark + (is_on ? "#true" : "#false"));
         EXPECT_EQ(Usable({50}).size(), is_on ? 1u : 0u);
-        (void)TakeQueuedCommands();
-        Open(0x13410000);
-        const auto left = TakeQueuedCommands();
-        if (is_on)
-            EXPECT_THAT(left, Contains("put " + mark + "#false"));
-        else
-            EXPECT_THAT(left, Not(Contains("put " + mark + "#false")));
+        EXPECT_EQ(std::ranges::count(Leave(), "put " + mark + "#false"), is_on);
     }
 }
 
@@ -280,17 +240,16 @@ TEST_F(KeyChromaPage, TheBackingIsChosenFromItsPullDown)
     EXPECT_EQ(Caption(54), "Green");
     EXPECT_THAT(Press(54), IsEmpty()) << "the choice is in the pane";
     ASSERT_NE(Pane_GetActiveID(), 0);
-    const auto pass = [](int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); };
-    pass(10);
-    (void)PressAt(630, 442);
-    pass(150); // it has looked pushed
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + backing + "#Blue"));
+    const auto touch_pane = [](int x, int y) {
+        Pass(10);
+        SendMessage(MSG_PRESS, x, y, 1, 0);
+        SendMessage(MSG_RELEASE, x, y, 0, 0);
+        Pass(150); // it has looked pushed
+        return TakeQueuedCommands();
+    };
+    EXPECT_THAT(touch_pane(630, 442), ElementsAre("put " + backing + "#Blue"));
     EXPECT_EQ(Caption(54), "Green") << "only the tally changes it";
-    EXPECT_EQ(Pane_GetActiveID(), 0);
     Press(54);
-    pass(10);
-    (void)PressAt(200, 200);
-    pass(150);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << "beside it: no choice";
+    EXPECT_THAT(touch_pane(200, 200), IsEmpty()) << "beside it: no choice";
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
