@@ -19,9 +19,9 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 using testing::Not;
-using Lines = std::vector<std::string>;
 
 struct TablePage : testing::Test {
+    using Lines = std::vector<std::string>;
     const FullHouse all;
 
     void SetUp() override

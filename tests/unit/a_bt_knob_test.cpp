@@ -1,33 +1,22 @@
-#include "a_bt.h"
+#include "a_bt_knob_private.h"
 #include "a_bt_page.h"
-#include "bus.h"
 #include "me_config.h"
 #include "page_table/nb_dme.h"
 #include "page_table/nb_edge.h"
 #include "page_table/nb_key.h"
 #include "page_table/nb_nonlinear.h"
 #include "page_table/nb_wipe.h"
+#include "table_page.h"
 #include "tdl.h"
 #include <cstring>
-#include <gmock/gmock.h>
-#include <set>
-
-using testing::Contains;
-using testing::IsEmpty;
+#include <map>
+#include <string_view>
 
 constexpr int LAST_NUMBER = 130;
 
 struct KnobLinks : ButtonPage {
     BT_TBL rows[2];
 
-    void TearDown() override
-    {
-        me_config_reset();
-        SYS_SignalFormat = SYS_ScreenAspect = 1;
-        for (int& aspect : SYS_RefSwrScreenAspect)
-            aspect = 0;
-        ButtonPage::TearDown();
-    }
     // One button with this link and these dependencies.
     void OpenLink(int number, std::initializer_list<const char*> dependencies)
     {
@@ -102,8 +91,7 @@ TEST_F(KnobLinks, TheAspectIsThatOfThePagesBank)
                  {"M/E-4", 3}, {"M/E-5", 4}, {"PGM/PST", 5}};
     for (const auto& c : cases)
         for (int wide : {0, 1}) {
-            for (int& aspect : SYS_RefSwrScreenAspect)
-                aspect = !wide;
+            std::fill_n(SYS_RefSwrScreenAspect, 7, !wide);
             SYS_RefSwrScreenAspect[c.entry] = wide;
             SetTree({c.bank, "Wipe", "Main Pattern"}, 0x11510000);
             OpenLink(31, {});
@@ -122,9 +110,7 @@ TEST_F(KnobLinks, TheEffectsUnitGoesByFormatAndAspectOfTheScreen)
     } cases[] = {
         {5, 0, 0, nb_dme_edge_bordercrop_border1}, {5, 0, 1, nb_dme_edge_bordercrop_border2},
         {5, 1, 0, nb_dme_edge_bordercrop_border3}, {5, 1, 1, nb_dme_edge_bordercrop_border4},
-        {71, 0, 1, nb_dme_edge_bevel.variant[0]},  {71, 1, 1, nb_dme_edge_bevel.variant[1]},
-        {62, 1, 0, nb_dme_trans_axis.variant[0]},  {62, 1, 1, nb_dme_trans_axis.variant[1]},
-        {81, 0, 1, nb_dme_pin_tr.variant[1]},      {81, 1, 0, nb_dme_pin_tr.variant[2]},
+        {71, 1, 0, nb_dme_edge_bevel.variant[1]},  {62, 0, 1, nb_dme_trans_axis.variant[1]},
     };
     for (const auto& c : cases) {
         SYS_SignalFormat = c.hd;
@@ -150,9 +136,7 @@ TEST_F(KnobLinks, ATallyIsFoundByItsPathAndUnknownWordsChooseTheFirst)
         {28, "Key Type#Wipe Pattern", nb_me_key_type_wipe_modify.row},
         {28, "Key Type#Key Wipe Pattern", nb_me_key_type_keywipe_modify.row},
         {28, "Key Type#Chroma", nullptr},
-        {91, "Split#H", nb_dme_nonlinear_type_roll_roll1},
-        {91, "Split#V", nb_dme_nonlinear_type_roll_roll2},
-        {91, "Split#H&V", nb_dme_nonlinear_type_roll_roll3},
+        {92, "Split#H&V", nb_dme_nonlinear_type_pageturn_pageturn3},
         {92, "Split#null", nb_dme_nonlinear_type_pageturn_pageturn4},
     };
     for (const auto& c : cases) {
@@ -217,33 +201,7 @@ TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumn)
 
 // --- On the pages of the effects unit ---
 
-struct DmePages : testing::Test {
-    void SetUp() override { Harness_Reset(); }
-    void TearDown() override
-    {
-        SYS_SignalFormat = SYS_ScreenAspect = 1;
-        GL_CreatePage = 0;
-        CreatePage(PAGE_TOP);
-        Page_Reset();
-        (void)TakeQueuedCommands();
-    }
-    static void Open(uint32_t id)
-    {
-        ASSERT_EQ(CreatePage(id), 0);
-        (void)TakeQueuedCommands();
-    }
-    static void Tell(const char* line)
-    {
-        SendDummyTally(line);
-        (void)TakeQueuedCommands();
-    }
-    static void Press(int id)
-    {
-        const BT_MEM* b = bt_find(id);
-        ASSERT_TRUE(b) << id;
-        (void)TakeQueuedCommands();
-        SendMessage(MSG_PRESS, b->x1 + 5, b->y1 + 5, 1, 0);
-    }
+struct DmePages : TablePage {
     static bool IsShown(const NB_TBL* table)
     {
         char path[CMD_SIZE];
@@ -269,120 +227,61 @@ struct DmePages : testing::Test {
 // A link whose button lacks the dependency would stay on its first table for ever.
 TEST_F(DmePages, EveryNumberedLinkHasTheDependenciesThatItsTableGoesBy)
 {
-    static const struct {
-        int number;
-        const char* path;
-    } needs[] = {
-        {60, "@Space#"},
-        {61, "@Spin#"},
-        {63, "@Separate#"},
-        {67, "@Crop@Separate#"},
-        {68, "@Border Soft@Separate#"},
-        {69, "@Matte@Mode#"},
-        {70, "@Soft Edge@Separate#"},
-        {72, "@Drop#"},
-        {73, "@Type#"},
-        {74, "@Projection#"},
-        {75, "@Fill#"},
-        {76, "@Trail@Strobe#"},
-        {77, "@Key Decay#"},
-        {78, "@Source#"},
-        {79, "@White#"},
-        {80, "@Mode#"},
-        {81, "@Mode#"},
-        {82, "@Mode#"},
-        {83, "@Mode#"},
-        {84, "@Mode#"},
-        {85, "@Mode#"},
-        {86, "@Pattern#"},
-        {87, "@Ambient@Color#"},
-        {88, "@Mode#"},
-        {89, "@Mode#"},
-        {90, "@Random#"},
-        {91, "@Split#"},
-        {92, "@Split#"},
-        {95, "@Wave@Both#"},
-        {102, "@Split Slide@Both#"},
-        {106, "@Separate#"},
-        {107, "@Blur@Radial#"},
-        {108, "@RGB#"},
-        {110, "@Separate#"},
-        {111, "@Multi Move@Shift#"},
-        {113, "@Sepia@Color#"},
-        {114, "@Separate#"},
-        {116, "@Color#"},
+    std::map<int, const KnobCase*> unused;
+    for (const KnobCase* c = knob_cases_dme; c->number >= 1; c++)
+        unused[c->number] = c;
+    const auto cases = unused;
+    const auto check = [&](const BT_TBL* b, uint32_t page) {
+        const auto c = cases.find(SpecialKnobNumber(b->nb));
+        if (c == cases.end())
+            return;
+        unused.erase(c->first);
+        for (const KnobQuestion& q : c->second->by)
+            EXPECT_TRUE(!q.path || std::any_of(b->cmd + 1, std::end(b->cmd),
+                                               [&](const char* cmd) {
+                                                   return cmd && std::string_view(cmd).ends_with(
+                                                                     std::string(q.path) + "#");
+                                               }))
+                << std::hex << page << " " << b->caption;
     };
-    std::set<int> seen;
-    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
-        if (page->id >> 24 != 0x41)
-            continue;
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++)
         for (const auto& object : page->obj)
-            for (auto* b =
-                     static_cast<const BT_TBL*>(object.type == OBJ_BT ? object.addr : nullptr);
-                 b && b->id >= 1; b++) {
-                seen.insert(SpecialKnobNumber(b->nb));
-                for (const auto& n : needs) {
-                    if (n.number != SpecialKnobNumber(b->nb))
-                        continue;
-                    const bool has = std::any_of(b->cmd + 1, std::end(b->cmd), [&](const char* c) {
-                        const size_t tail = strlen(n.path);
-                        return c && strlen(c) >= tail && !strcmp(c + strlen(c) - tail, n.path);
-                    });
-                    EXPECT_TRUE(has) << std::hex << page->id << " " << b->caption;
-                }
-            }
-    }
-    for (int number = 60; number <= 118; number++)
-        EXPECT_TRUE(seen.count(number)) << number << " is on no page";
+            if (object.type == OBJ_BT && page->id >> 24 == 0x41)
+                for (auto* b = static_cast<const BT_TBL*>(object.addr); b->id >= 1; b++)
+                    check(b, page->id);
+    for (const auto& [number, c] : unused)
+        ADD_FAILURE() << number << " is on no page";
 }
 
-TEST_F(DmePages, TheKnobsOfRollAndPageTurnFollowTheSplit)
+TEST_F(DmePages, TheKnobsOfARollFollowItsSplit)
 {
-    static const struct {
-        uint32_t page;
-        const char* type; // the line that puts the effect on
-        const char* split;
-        const NB_TBL* tables[4]; // no split, H, V, H&V
-    } cases[] = {
-        {0x41320000,
-         "DME@Nonlinear@Type@Type#Roll",
-         "DME@Nonlinear@Roll@Split",
-         {nb_dme_nonlinear_type_roll_roll4, nb_dme_nonlinear_type_roll_roll1,
-          nb_dme_nonlinear_type_roll_roll2, nb_dme_nonlinear_type_roll_roll3}},
-        {0x41330000,
-         "DME@Nonlinear@Type@Type#Page Turn",
-         "DME@Nonlinear@Page Turn@Split",
-         {nb_dme_nonlinear_type_pageturn_pageturn4, nb_dme_nonlinear_type_pageturn_pageturn1,
-          nb_dme_nonlinear_type_pageturn_pageturn2, nb_dme_nonlinear_type_pageturn_pageturn3}},
-    };
-    constexpr struct {
+    static constexpr struct {
         int button;
         const char* value;
-    } splits[] = {{33, "H"}, {34, "V"}, {35, "H&V"}};
-    for (const auto& c : cases) {
-        Open(c.page);
-        Tell(c.type);
-        Press(17);
-        ASSERT_EQ(BT_GetKnobAssign(), 17);
-        EXPECT_TRUE(IsShown(c.tables[0]));
-        for (int n = 0; n < 3; n++) {
-            const std::string path = c.split;
-            Press(splits[n].button);
-            EXPECT_THAT(TakeQueuedCommands(), Contains("put " + path + "#" + splits[n].value));
-            EXPECT_TRUE(IsShown(c.tables[n + 1])) << path << " at the press, " << splits[n].value;
-            Tell((path + "#" + splits[n].value).c_str());
-            EXPECT_TRUE(IsShown(c.tables[n + 1])) << path << " at the tally";
-            Press(splits[n].button); // a second press takes the split off
-            EXPECT_THAT(TakeQueuedCommands(), Contains("put " + path + "#null"));
-            EXPECT_TRUE(IsShown(c.tables[0])) << path << " off again";
-            Tell((path + "#null").c_str());
-        }
-        Tell((std::string(c.split) + "#V").c_str()); // from another panel
-        EXPECT_TRUE(IsShown(c.tables[2]));
-        Tell("DME@Nonlinear@Type@Type#null");
-        EXPECT_EQ(BT_GetKnobAssign(), -1);
-        EXPECT_EQ(BT_GetVisible(33), BT_DISABLED);
+        const NB_TBL* table;
+    } splits[] = {{33, "H", nb_dme_nonlinear_type_roll_roll1},
+                  {34, "V", nb_dme_nonlinear_type_roll_roll2},
+                  {35, "H&V", nb_dme_nonlinear_type_roll_roll3}};
+    const std::string split = "DME@Nonlinear@Roll@Split#";
+    Open(0x41320000);
+    Tell("DME@Nonlinear@Type@Type#Roll");
+    (void)Press(17);
+    ASSERT_EQ(BT_GetKnobAssign(), 17);
+    EXPECT_TRUE(IsShown(nb_dme_nonlinear_type_roll_roll4));
+    for (const auto& s : splits) {
+        EXPECT_THAT(Press(s.button), Contains("put " + split + s.value));
+        EXPECT_TRUE(IsShown(s.table)) << "at the press, " << s.value;
+        Tell(split + s.value);
+        EXPECT_TRUE(IsShown(s.table)) << "at the tally, " << s.value;
+        EXPECT_THAT(Press(s.button), Contains("put " + split + "null")); // takes the split off
+        EXPECT_TRUE(IsShown(nb_dme_nonlinear_type_roll_roll4)) << "off again";
+        Tell(split + "null");
     }
+    Tell(split + "V"); // from another panel
+    EXPECT_TRUE(IsShown(nb_dme_nonlinear_type_roll_roll2));
+    Tell("DME@Nonlinear@Type@Type#null");
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+    EXPECT_EQ(BT_GetVisible(33), BT_DISABLED);
 }
 
 TEST_F(DmePages, ACornerGoesAsFarAsModeFormatAndAspectLetIt)
@@ -408,26 +307,22 @@ TEST_F(DmePages, ACornerGoesAsFarAsModeFormatAndAspectLetIt)
         {50, {"Bottom Right@H", "Bottom Right@V"}},
         {36, {"All@H", "All@V"}},
     };
-    const std::string put = "put DME@Transform@Corner Pinning@";
+    const std::string path = "DME@Transform@Corner Pinning@";
     for (const auto& c : cases) {
         SYS_SignalFormat = c.hd;
         SYS_ScreenAspect = c.wide;
         Open(0x41720000);
-        Tell("DME@Transform@Corner Pinning@Corner Pinning#true");
-        Tell("DME@Transform@Corner Pinning@Mode#Linear");
+        TellAll(path, {"Corner Pinning#true", "Mode#Linear"});
         for (const auto& corner : corners) {
-            Press(corner.button);
+            (void)Press(corner.button);
             for (int k = 0; k < 2; k++)
-                EXPECT_EQ(Farthest(k + 1), put + corner.path[k] + "#" + c.linear[k]);
+                EXPECT_EQ(Farthest(k + 1), "put " + path + corner.path[k] + "#" + c.linear[k]);
         }
-        SendDummyTally("DME@Transform@Corner Pinning@Mode#Perspective");
-        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << "the column was opened anew";
-        for (int k = 0; k < 2; k++)
-            EXPECT_EQ(Farthest(k + 1), put + corners[4].path[k] + "#" + c.perspective[k]);
-        Press(52);
-        EXPECT_EQ(Farthest(2), put + "Right@H#" + c.perspective[0]);
-        EXPECT_EQ(Farthest(3), put + "Top@V#" + c.perspective[1]);
-        Tell("DME@Transform@Corner Pinning@Corner Pinning#false");
+        EXPECT_THAT(Tell(path + "Mode#Perspective"), IsEmpty()) << "the column was opened anew";
+        EXPECT_EQ(Farthest(1), "put " + path + "All@H#" + c.perspective[0]);
+        (void)Press(52);
+        EXPECT_EQ(Farthest(3), "put " + path + "Top@V#" + c.perspective[1]);
+        Tell(path + "Corner Pinning#false");
         EXPECT_EQ(BT_GetKnobAssign(), -1) << "a disabled corner keeps no knobs";
     }
 }
@@ -449,42 +344,40 @@ TEST_F(DmePages, TheTablesOfACornerDifferInLimitsOnly)
 
 TEST_F(DmePages, TheCropHasOneSenseOnItsPage)
 {
+    const std::string path = "DME@Edge@Border/Crop@Crop";
     Open(0x41110000);
-    EXPECT_EQ(GL_NowPage, 0x41110000u);
-    Tell("DME@Edge@Border/Crop@Crop#true");
-    Press(33);
-    EXPECT_EQ(Farthest(1), "put DME@Edge@Border/Crop@Crop@H#0.00");
-    EXPECT_EQ(Farthest(2), "put DME@Edge@Border/Crop@Crop@V#4.00");
-    Tell("DME@Edge@Border/Crop@Crop@Separate#true");
-    EXPECT_EQ(Farthest(2), "put DME@Edge@Border/Crop@Crop@Left#5.33");
+    Tell(path + "#true");
+    (void)Press(33);
+    EXPECT_EQ(Farthest(1), "put " + path + "@H#0.00");
+    EXPECT_EQ(Farthest(2), "put " + path + "@V#4.00");
+    Tell(path + "@Separate#true");
+    EXPECT_EQ(Farthest(2), "put " + path + "@Left#5.33");
 }
 
 TEST_F(DmePages, TheCellsAreThoseOfTheTransformThatIsTurned)
 {
-    ASSERT_EQ(CreatePage(0x41710000), 0);
-    EXPECT_THAT(TakeQueuedCommands(), Contains("add DME@Status@3D Param@Mode Status@Reference"));
-    SendDummyTally("DME@Status@3D Param@Mode Status@Reference#12,5,0");
-    EXPECT_THAT(TakeQueuedCommands(), Contains("add DME@Status@3D Param@Global Source@Location@X"));
+    const std::string status = "DME@Status@3D Param@";
+    EXPECT_THAT(Open(0x41710000), Contains("add " + status + "Mode Status@Reference"));
+    EXPECT_THAT(Tell(status + "Mode Status@Reference#12,5,0"),
+                Contains("add " + status + "Global Source@Location@X"));
     Open(0x41410000); // a still picture has no cells
-    SendDummyTally("DME@Status@3D Param@Mode Status@Reference#11,5,0");
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Tell(status + "Mode Status@Reference#11,5,0"), IsEmpty());
 }
 
 TEST_F(DmePages, ABarOfLightIsForALightWithoutAPattern)
 {
-    Open(0x41510000);
     static const struct {
-        const char* light;
-        const char* pattern;
+        const char *light, *pattern;
         int visible;
     } cases[] = {
         {"true", "null", BT_ENABLED},
         {"true", "Blinds", BT_DISABLED},
         {"false", "null", BT_DISABLED},
     };
+    Open(0x41510000);
     for (const auto& c : cases) {
-        Tell((std::string("DME@Light@Light@Light#") + c.light).c_str());
-        Tell((std::string("DME@Light@Light@Pattern#") + c.pattern).c_str());
+        TellAll("DME@Light@Light@",
+                {std::string("Light#") + c.light, std::string("Pattern#") + c.pattern});
         EXPECT_EQ(BT_GetVisible(36), c.visible) << c.light << " " << c.pattern;
     }
 }
