@@ -6,14 +6,9 @@ import sys
 import time
 
 sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "e2e"))
-from desk import Desk  # noqa: E402  the end-to-end tests work the same desk
+from desk import INITIAL_READ_END, Desk, grid  # noqa: E402  the end-to-end tests work the same desk
 
 TYPE = "M/E-1@Key1@Type@Key Type"
-
-
-def grid(button_id):
-    """The middle of a standard button."""
-    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
 
 
 def main(build):
@@ -32,7 +27,7 @@ def main(build):
     with Desk(build, ini="LogLevel=1\n") as desk:
         desk.start_app()
         # The initial read holds the link for a while: a press now would wait behind it.
-        desk.wait_wire("add M/E-5@Key8@Processed Key@Rotation", 20)
+        desk.wait_wire(INITIAL_READ_END, 20)
         time.sleep(0.3)
         picture("initializing")
         desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched

@@ -20,6 +20,12 @@ SANDBOX = os.path.join(SOURCE, "tools", "sandbox")
 
 EV_SYN, EV_KEY, EV_ABS, BTN_TOUCH = 0, 1, 3, 330
 SERVER_WAIT = 5.0  # seconds that the application gives the server at start-up
+INITIAL_READ_END = "add M/E-5@Key8@Processed Key@Rotation"  # the last line of it
+
+
+def grid(button_id):
+    """The middle of a standard button."""
+    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
 
 
 class Desk:

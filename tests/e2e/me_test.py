@@ -1,25 +1,17 @@
 """A person works the pages of a mix/effect bank: one keyer from its type to its transition, the same on another bank
-and key, wipe snapshots, default recall, what a format and an installation take away, a link that goes in the middle."""
+and key, wipe snapshots, default recall, what a format takes away."""
 import re
-import sys
 import time
 import unittest
 
-from desk import Desk
+from desk import grid
+from deskcase import DeskCase
 
-BUILD = sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev"
-
-INITIAL_READ_END = "add M/E-5@Key8@Processed Key@Rotation"
 DEFAULT_KEY = (45, 563)
 WIPE = "M/E-1@Wipe@Main Pattern@Pattern"
 REGISTERS = "Snapshot@Wipe Snapshot@"
 BTN_STORE = 22
 BTN_OF_REGISTER = {1: 49, 4: 33, 5: 34}  # as on a keypad
-
-
-def grid(button_id):
-    """The middle of a standard button."""
-    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
 
 
 def face(button_id):
@@ -41,22 +33,8 @@ def left_tab(number):
     return 48, 73 + 65 * (number - 1) + 30
 
 
-class MixEffect(unittest.TestCase):
+class MixEffect(DeskCase):
     """The tests build on one another, in the order of their names: one start-up serves all."""
-
-    @classmethod
-    def setUpClass(cls):
-        cls.desk = Desk(BUILD)
-        cls.addClassCleanup(cls.desk.close)
-        cls.desk.start_app()
-        cls.desk.wait_wire(INITIAL_READ_END, 20)
-        cls.desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
-
-    def open_page(self, number, sign):
-        self.desk.wire()
-        self.desk.console(f"page {number}")
-        self.desk.wait_wire(sign)
-        time.sleep(0.3)
 
     def touch(self, button_id, *lines):
         """A touch on a button, and what it must send."""
@@ -187,29 +165,9 @@ class MixEffect(unittest.TestCase):
         self.open_page("1131", "add M/E-1@Key3@Type@Key Type")
         for button in lost:
             self.assertFalse(any(b"".join(self.desk.part(*face(button)))), button)
-        for button in (19, 35, 38):
-            self.touch(button)
-            self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [], button)
+        self.touch(19)
+        self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [])
         self.touch(18, "put M/E-1@Key3@Type@Key Type#Linear")
-
-    def test_06_a_bank_of_four_keys_has_no_further_pages(self):
-        self.open_page("1521", "add M/E-1@Key6@Type@Key Type")
-        self.desk.console("keys M/E-1 4")
-        self.addCleanup(self.desk.console, "keys M/E-1 8")
-        self.open_page("1531", "add M/E-1@Key3@Type@Key Type")
-
-    def test_07_what_is_pressed_while_the_link_is_down_is_not_lost(self):
-        self.open_page("8522", "add M/E-4@Key6@Edge@Edge")
-        dark = self.desk.part(*face(19))
-        self.desk.console("drop text 1500")
-        self.desk.wire()
-        for button in (20, 19):
-            self.desk.touch(*grid(button), settle=0.2)
-        lines = self.desk.wait_wire("put M/E-4@Key6@Edge@Edge#Drop Border", 6)
-        self.assertIn("put M/E-4@Key6@Edge@Edge#Shadow", lines)
-        self.wait_value("M/E-4@Key6@Edge@Edge", "Drop Border")
-        self.wait_part(face(19), dark)
-        self.assertIsNone(self.desk.app_status())
 
 
 if __name__ == "__main__":

@@ -1,13 +1,10 @@
 """A hand on the objects of a page: knobs, boxes, ten keys, tabs, cells and windows, up to what the server holds."""
-import sys
 import time
 import unittest
 
-from desk import Desk
+from desk import grid
+from deskcase import DeskCase
 
-BUILD = sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev"
-
-INITIAL_READ_END = "add M/E-5@Key8@Processed Key@Rotation"
 TYPE = "M/E-1@Key1@Type@Key Type"
 CHROMA = f"{TYPE}@Chroma@"
 COLUMN = (706, 127, 799, 545)  # the number boxes
@@ -15,11 +12,6 @@ WORK_AREA = (97, 73, 702, 526)
 PAGE_KEY = (45, 35)
 KNOB_PAD = (446 + 17, 140 + 310)  # where the "0" of the knob window stands
 PAGE_PAD = (98 + 375, 78 + 371)  # and that of the page window, which is centred
-
-
-def grid(button_id):
-    """The middle of a standard button."""
-    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
 
 
 def slot(number):
@@ -42,23 +34,13 @@ def key_of(pad, key):
     return pad[0] + 54 * column + 24, pad[1] - 59 * row + 24
 
 
-class Objects(unittest.TestCase):
+class Objects(DeskCase):
     """One start-up serves all; each test opens the page that it is about."""
 
     @classmethod
     def setUpClass(cls):
-        cls.desk = Desk(BUILD)
-        cls.addClassCleanup(cls.desk.close)
-        cls.desk.start_app()
-        cls.desk.wait_wire(INITIAL_READ_END, 20)
-        cls.desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
+        super().setUpClass()
         cls.desk.console(f"set {TYPE}#Chroma")
-
-    def open_page(self, number, sign):
-        self.desk.wire()
-        self.desk.console(f"page {number}")
-        self.desk.wait_wire(sign)
-        time.sleep(0.3)
 
     def open_chroma(self):
         """The page of the key type with the knobs of its chroma key, coming from another page."""

@@ -4,7 +4,7 @@ import time
 import unittest
 from collections import Counter
 
-from desk import Desk
+from desk import INITIAL_READ_END, Desk, grid
 
 BUILD = sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev"
 
@@ -14,13 +14,7 @@ REFERENCES = ["SWR1", "SWR2", "DME1", "DME2", "DME3", "DME4", "PNL1", "PNL2", "P
 FORMAT = "Engineering Setup@System@Format@"
 MENU_READS = ([f"read {FORMAT}Video Format@{u}" for u in FORMATS] + [f"read {FORMAT}Reference@{u}" for u in REFERENCES] +
               [f"read {FORMAT}4K Mode", "add TopMenu"])
-INITIAL_READ_END = "add M/E-5@Key8@Processed Key@Rotation"
 TYPE = "M/E-1@Key1@Type@Key Type"
-
-
-def grid(button_id):
-    """The middle of a standard button."""
-    return 112 + 98 * ((button_id & 15) - 1) + 42, 184 + 88 * (button_id >> 4) + 30
 
 
 def subscriptions(lines):

@@ -95,17 +95,6 @@ class Rules(MeTest):
         self.assertEqual(self.put(KEY + "Type@Auto Chroma", "true"), [f"{hue}#117.50"])
         self.assertEqual(self.put(KEY + "Type@Chroma Adjust@Undo", "true"), [f"{hue}#200"])
 
-    def test_a_default_of_a_key_leaves_it_on_the_air(self):
-        on, clean = KEY + "Status@Key ON", KEY + "Type@Clean Mode@Linear"
-        self.follow(on, clean)
-        for path in (on, clean):
-            self.put(path, "true")
-        self.text.send("default M/E-4@Key6")
-        self.text.sync()
-        self.assertEqual(self.other.sync(), [f"{clean}#false"])
-        self.text.send(f"default {on}")
-        self.assertEqual(self.text.line(), f"{on}#false")
-
 
 class Transitions(MeTest):
     def heard(self, last, *paths):
