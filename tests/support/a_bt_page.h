@@ -1,16 +1,9 @@
 // a_bt_page: a page of test buttons: opened by hand, pressed by id, its page code's messages
 // written down.
 #pragma once
-#include "a_ba.h"
 #include "a_bt.h"
-#include "command.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
+#include "hand_page.h"
 #include "text.h"
-#include <algorithm>
-#include <initializer_list>
 #include <iterator>
 
 // A button on the standard grid with the common functions.
@@ -30,11 +23,14 @@ inline BT_TBL Button(int id, int type, std::initializer_list<const char*> cmd,
     return row;
 }
 
-struct ButtonPage : testing::Test {
-    PAGE page;
-    BA_TBL base{.id = 1, .info = {1}, .create_func = nullptr, .proc_func = WriteDown};
+struct ButtonPage : HandPage {
     static inline std::vector<std::string> told; // "path value flag" of each LMSG_BTNSEL
 
+    ButtonPage()
+    {
+        object_kind = OBJ_BT;
+        base.proc_func = WriteDown;
+    }
     static int WriteDown(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     {
         if (msg == LMSG_BTNSEL)
@@ -44,27 +40,15 @@ struct ButtonPage : testing::Test {
 
     void SetUp() override
     {
-        Harness_Reset();
+        HandPage::SetUp();
         GL_NextVersion = 2;
         told.clear();
-        SetTree({"M/E-1", "Key1", "Type"}, 0x11110000);
-    }
-    void TearDown() override { Harness_Reset(); }
-
-    void SetTree(std::initializer_list<const char*> tree, uint32_t id)
-    {
-        page = {.id = id, .obj = {{OBJ_BA, &base, 0}, {OBJ_BT, nullptr, 0}}, .knobassign = -1};
-        std::copy(tree.begin(), tree.end(), page.tree);
-        Page = &page;
-        GL_NowPage = id;
-        GL_NowTree = page.tree;
-        BA_Create(&base, 0);
     }
     void Open(const BT_TBL* rows)
     {
         BT_Create(nullptr, 0);
         (void)TakeQueuedCommands();
-        page.obj[1].addr = rows;
+        page.obj[2].addr = rows;
         BT_Create(rows, 0);
     }
     void OpenTree(std::initializer_list<const char*> tree, uint32_t id, const BT_TBL* rows)

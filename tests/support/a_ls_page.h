@@ -1,18 +1,11 @@
 // a_ls_page: a page of lists and scroll bars: opened by hand, touched by cell, its messages written
 // down.
 #pragma once
-#include "a_ba.h"
 #include "a_ls.h"
-#include "bus.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
+#include "hand_page.h"
 #include "scrollbar.h"
 
-struct ListPage : testing::Test {
-    PAGE page;
-    BA_TBL base{.id = 1, .info = {1}, .create_func = nullptr, .proc_func = WriteDown};
+struct ListPage : HandPage {
     static inline std::vector<std::string> told;     // "SEL 1 5 0", "FLASH 1", "AREA 1", "SB 2 0 1"
     static inline void (*answer)(int msg) = nullptr; // what page code does about a message
 
@@ -32,23 +25,19 @@ struct ListPage : testing::Test {
         return 0;
     }
 
+    ListPage()
+    {
+        object_kind = OBJ_LS;
+        base.proc_func = WriteDown;
+    }
     void SetUp() override
     {
-        Harness_Reset();
+        HandPage::SetUp();
         answer = nullptr;
         SetPage(0x62210000);
         Clock_ms += 1000; // the last test's finger has long been lifted
     }
-    void TearDown() override { Harness_Reset(); }
-
-    void SetPage(uint32_t id)
-    {
-        page = {.id = id, .tree = {"Effect"}, .obj = {{OBJ_BA, &base, 0}, {OBJ_LS, nullptr, 0}}};
-        Page = &page;
-        GL_NowPage = id;
-        GL_NowTree = page.tree;
-        BA_Create(&base, 0);
-    }
+    void SetPage(uint32_t id) { SetTree({"Effect"}, id); }
     // Open the lists with all their rows in use.
     static void Open(const LS_TBL* rows, int ndata)
     {
@@ -58,7 +47,7 @@ struct ListPage : testing::Test {
         told.clear();
     }
 
-    static void Press(int x, int y) { SendMessage(MSG_PRESS, x, y, 1, 0); }
+    static void Press(int x, int y) { HandPage::Touch(x, y); }
     static void Release() { SendMessage(MSG_RELEASE, 0, 0, 0, 0); }
     static void Drag(int x, int y, int held = 1) { SendMessage(MSG_DRAG, x, y, held, 0); }
     // A touch of its own: long after the last one.
@@ -68,7 +57,7 @@ struct ListPage : testing::Test {
         Press(x, y);
         Release();
     }
-    static void Redraw(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    static void Redraw(int elapsed_ms = 10) { Pass(elapsed_ms); }
     // What has been told since the last call, without the area messages that every touch brings.
     static std::vector<std::string> Told(const char* but = "AREA")
     {

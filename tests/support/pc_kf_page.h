@@ -1,24 +1,16 @@
 // pc_kf_page: the pages around the timeline, opened from the page table and worked over the bus.
 #pragma once
-#include "a_bt.h"
 #include "a_kf.h"
 #include "a_kf_frames.h"
-#include "bus.h"
 #include "command.h"
-#include "device.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
-#include <algorithm>
+#include "table_page.h"
 
-struct KeyframePage : testing::Test {
+struct KeyframePage : TablePage {
     void SetUp() override
     {
-        Harness_Reset();
+        TablePage::SetUp();
         SYS_FrameRate = 30;
     }
-    void TearDown() override { Harness_Reset(); }
     static void Open(uint32_t id)
     {
         ASSERT_EQ(CreatePage(id), 0);
@@ -40,13 +32,10 @@ struct KeyframePage : testing::Test {
     // What the page itself has sent, without the subscriptions and what a change of page brings.
     static std::vector<std::string> Sent(const char* verb = "put")
     {
-        std::vector<std::string> lines = TakeQueuedCommands();
-        lines.erase(std::remove_if(lines.begin(), lines.end(),
-                                   [&](const std::string& l) {
-                                       return l.rfind(verb, 0) != 0 ||
-                                              l.rfind("put TopMenu", 0) == 0;
-                                   }),
-                    lines.end());
+        Lines lines = TakeQueuedCommands();
+        std::erase_if(lines, [&](const std::string& line) {
+            return !line.starts_with(verb) || line.starts_with("put TopMenu");
+        });
         return lines;
     }
     static void Tally(const std::string& path, const char* value)

@@ -30,7 +30,7 @@ static ST_TBL Cell(int id, std::initializer_list<const char*> cmd, uint32_t jump
 }
 static uint32_t PageOfCell(const ST_TBL& row)
 {
-    return CellPage::PageAt(row.x1 + 50, row.y1 + 45);
+    return CellPage::Asked(row.x1 + 50, row.y1 + 45);
 }
 
 struct StatusCells : CellPage {
@@ -123,8 +123,8 @@ TEST_F(StatusCells, ThePressIsInsideTheBorderAndWaitsForNoOtherRequest)
     const ST_TBL rows[] = {Cell(1, {}, 0x11120000), Cell(3, {}, 0x11130000), ST_END};
     Open(rows);
     const ST_TBL& c = rows[0];
-    EXPECT_EQ(PageAt(c.x2, 100), 0u);
-    EXPECT_EQ(PageAt(c.x2 - 1, c.y2 - 1), 0x11120000u);
+    EXPECT_EQ(Asked(c.x2, 100), 0u);
+    EXPECT_EQ(Asked(c.x2 - 1, c.y2 - 1), 0x11120000u);
     GL_CreatePage = 0x00110000;
     ST_Proc(MSG_PRESS, c.x1 + 50, c.y1 + 45, 1, 0);
     EXPECT_EQ(GL_CreatePage, 0x00110000u);

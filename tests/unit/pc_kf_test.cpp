@@ -1,14 +1,9 @@
 #include "a_kp.h"
 #include "a_ls.h"
-#include "a_nb.h"
 #include "pc_kf.h"
 #include "pc_kf_page.h"
 #include "setup_index.h"
 #include "tdl.h"
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 // --- Time Line ---
 
@@ -57,21 +52,18 @@ TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
                                       .start = {1, 0, 0, 0},
                                       .end = {1, 0, 4, 0},
                                       .keyframes = {30}})); // MACRO: place 51
-    char path[CMD_SIZE];
-    double value = 0;
-    EXPECT_EQ(NB_GetKnob_info("Region\nScroll", path, &value, sizeof path), 1);
+    const char* knob = "Region\nScroll";
+    EXPECT_EQ(Shown(knob), "0");
     turn(42);
     Redraw(1000);
     Redraw(1000);
     EXPECT_EQ(PixelAt(160, 9 * 45 + 91), 0x606060u) << "MACRO is the last row";
     Open(0x61110000);
-    EXPECT_EQ(NB_GetKnob_info("Region\nScroll", path, &value, sizeof path), 1);
-    EXPECT_EQ(value, 42) << "the page comes back where it was left";
+    EXPECT_EQ(Shown(knob), "42") << "the page comes back where it was left";
     for (int row = 2; row <= 11; row++)
         KF_RegionAssignTally(row, "");
     Open(0x61110000);
-    NB_GetKnob_info("Region\nScroll", path, &value, sizeof path);
-    EXPECT_EQ(value, 0) << "four regions need no scrolling";
+    EXPECT_EQ(Shown(knob), "0") << "four regions need no scrolling";
 }
 
 TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
@@ -196,14 +188,7 @@ struct ProgramPage : KeyframePage {
         kf::Select({16, 0, 0, 3, 0, 0, 0, 0});
         CreatePage(0x61140000);
     }
-    static std::vector<int> Enabled()
-    {
-        std::vector<int> ids;
-        for (const int id : {17, 18, 19, 20, 33, 34, 35, 36})
-            if (BT_GetVisible(id) == BT_ENABLED)
-                ids.push_back(id);
-        return ids;
-    }
+    static std::vector<int> Enabled() { return Usable({17, 18, 19, 20, 33, 34, 35, 36}); }
 };
 
 TEST_F(ProgramPage, TheSelectedProgramsDecideWhichModesThereAre)
@@ -311,6 +296,7 @@ TEST_F(RegionPage, RegionsThatTheModeTakesAwayTakeNoPress)
     Selection(1);
     EXPECT_THAT(Sent(), IsEmpty());
     SYS_3DMode = 0;
+    SYS_RefSwrType = DEVTYPE_UNKNOWN; // the large one has links of 3 Gb/s
     DEV_MySwr[0]->activeline = 6;
     DEV_MySwr[0]->framerate = 25.0;
     SYS_DualProc = 0;
