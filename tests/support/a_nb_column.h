@@ -1,20 +1,12 @@
 // a_nb_column: the knob column on a test page, driven through the bus; what its page code hears of
 // the knobs is written down.
 #pragma once
-#include "a_ba.h"
 #include "a_nb.h"
-#include "a_pc.h"
-#include "bus.h"
-#include "command.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
+#include "hand_page.h"
 #include "tdl.h"
 #include "window.h"
 #include <cmath>
 #include <functional>
-#include <utility>
 
 constexpr NB_TBL Box(int id, const char* caption, int type, double min, double max, const char* cmd,
                      double scale = 0)
@@ -22,10 +14,7 @@ constexpr NB_TBL Box(int id, const char* caption, int type, double min, double m
     return {id, caption, type, min, max, cmd, scale};
 }
 
-struct KnobColumn : testing::Test {
-    PAGE page{.id = 0x11110000,
-              .tree = {"M/E-1", "Key1", "Type"},
-              .obj = {{OBJ_NB, nullptr, 0}, {OBJ_PC, nullptr, 0}}};
+struct KnobColumn : HandPage {
     static inline std::vector<std::string> told;
     static inline std::function<void(int msg)> answer; // what the page code does about it
     static inline bool exact_var = false;              // LMSG_KNOBVAR points to its value
@@ -59,22 +48,19 @@ struct KnobColumn : testing::Test {
             answer(msg);
         return 0;
     }
-    static inline const PC_TBL probe{.proc_func = WriteDown};
+
+    KnobColumn() { base.proc_func = WriteDown; }
 
     void SetUp() override
     {
-        Harness_Reset();
-        PC_Create(&probe, 0);
-        Page = &page;
-        GL_NowPage = page.id;
-        GL_NowTree = page.tree;
+        HandPage::SetUp();
         exact_var = false;
         Forget();
     }
     void TearDown() override
     {
         answer = nullptr;
-        Harness_Reset();
+        HandPage::TearDown();
     }
 
     static void Forget()
@@ -90,11 +76,6 @@ struct KnobColumn : testing::Test {
             PressTitle();
         Forget();
     }
-    static void Tally(const char* path, const char* value)
-    {
-        SendMessage(MSG_TALLY, Arg(path), Arg(value), MsgArg(Hash(path)), 0);
-    }
-    static void Pass(int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
     static int Middle(int slot) { return 127 + 82 * (slot - 1) + 40; } // y of a slot
     static void PressSlot(int slot, int button = 1)
     {

@@ -1,22 +1,12 @@
 // pane_page: a page that writes down what reaches it while panes are open, and the touches of an
 // operator.
 #pragma once
-#include "a_ba.h"
-#include "bus.h"
 #include "device.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
+#include "hand_page.h"
 #include "pane.h"
 #include "tdl.h"
-#include <string>
-#include <utility>
-#include <vector>
 
-struct PanePage : testing::Test {
-    static inline PAGE page;
-    static inline BA_TBL base;
+struct PanePage : HandPage {
     static inline std::vector<std::string> told; // "button ID", "quit PANE RESULT", in order
     static inline int ticks_ms = 0;              // of MSG_PANETICK
     static inline int ticks = 0;
@@ -44,20 +34,16 @@ struct PanePage : testing::Test {
         return 0;
     }
 
+    PanePage() { base.proc_func = WriteDown; }
+
     void SetUp() override
     {
-        Harness_Reset();
-        base = {.id = 1, .info = {1}, .create_func = nullptr, .proc_func = WriteDown};
-        page = {.id = 0x71110000, .obj = {{OBJ_BA, &base, 0}}, .knobassign = -1};
-        Page = &page;
-        BA_Create(&base, 0);
+        HandPage::SetUp();
+        SetTree({}, 0x71110000);
         told.clear();
         ticks_ms = ticks = inputs = 0;
         on_button = nullptr;
     }
-    void TearDown() override { Harness_Reset(); }
-
-    static void Pass(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
     static void Press(int x, int y) { SendMessage(MSG_PRESS, x, y, 1, 0); }
     static void Release(int x, int y) { SendMessage(MSG_RELEASE, x, y, 0, 0); }
     static void Touch(int x, int y) // and wait until what it started is over
