@@ -131,11 +131,18 @@ static bool has_more_keys()
     return isNowPageMeKey(0) != 0 && me >= 0 && me < ME_COUNT && GL_KeyMax[key_max_of_me[me]] > 4;
 }
 
+static uint32_t other_side()
+{
+    return ba.MainSub_mode ? GL_NowPage - SUB_SIDE : GL_NowPage + SUB_SIDE;
+}
+
+// Some pages of a bank stand for both its sides: there is no other to go to.
 static void decide_side_key()
 {
     ba.KeyChange_enable = has_more_keys();
-    ba.MainSub_enable = !ba.KeyChange_enable && isMainSubCheck(0);
     ba.MainSub_mode = isNowPageME(0) == 2;
+    ba.MainSub_enable =
+        !ba.KeyChange_enable && isMainSubCheck(0) && SearchPageTable(other_side()) != nullptr;
 }
 
 // --- Opening a page: the loop flushes the whole screen when the page is built ---
@@ -348,7 +355,7 @@ static void title_action()
 
 static void mainsub_action()
 {
-    GL_CreatePage = ba.MainSub_mode ? GL_NowPage - SUB_SIDE : GL_NowPage + SUB_SIDE;
+    GL_CreatePage = other_side();
 }
 
 static void keychange_action()

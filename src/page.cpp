@@ -455,14 +455,15 @@ static uint32_t correct_single_dme(uint32_t id)
     return is_second_group && GL_DmeModel[0] == 5 && SYS_MyDmeMax <= 1 ? 0x42110000 : id;
 }
 
-// Menus that exist once for an M/E open on the side that the panel has.
+// Menus that exist once for an M/E open on the side that the panel has; a page that stands for both
+// sides opens where it is.
 static uint32_t correct_main_sub(uint32_t id)
 {
     if ((id & ~BANK_BITS) < 0x00500000)
         return id;
     const int kind = isNowPageME(id);
     if (kind == 1 && MainSubAssign_StatusCheck_for_id(id) == 1)
-        return id + TO_SUB_BANK;
+        return SearchPageTable(id + TO_SUB_BANK) ? id + TO_SUB_BANK : id;
     if (kind == 2 && MainSubAssign_StatusCheck_for_id(id) == 0)
         return id - TO_SUB_BANK;
     return id;

@@ -188,6 +188,8 @@ TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
     multiprogram2_me[1] = 1;
     OpenBase({"M/E-1", "Wipe", "Main Pattern"}, 0x15510000);
     EXPECT_EQ(PageOf(SIDE_KEY), 0x11510000u) << "a bank of two sides";
+    OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11740000);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x11000000u) << "one page for both sides";
 }
 
 // --- Others ---

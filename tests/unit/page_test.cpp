@@ -214,6 +214,7 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
         {0x71420002, 0x71420002, [] { GL_Macro_Online_TrueOrFalse = 1; }},
         {0x71420003, 0x71420001, [] { unlink("/tmp/MacroEdit/MacroEdit.PMR"); }},
         {0x12510000, 0x16510000, [] { me2_on(1); }},
+        {0x12740000, 0x12740000, [] { me2_on(1); }}, // one page for both sides
         {0x16510000, 0x12510000, [] { me2_on(0); }},
         {0x16510000, 0x12510000},                    // no sub side at all
         {0x12110000, 0x12110000, [] { me2_on(1); }}, // a key page
