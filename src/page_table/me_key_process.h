@@ -8,8 +8,8 @@
 #define DME_SELECT(place, n) Toggle({.id = place, .caption = "DME" n, .group = "DME Select", .cmd = {"LOCAL@Processed Key@DME Select@DME" n "#*"}})
 inline constexpr BT_TBL bt_me_key_prockey[] = {
     Toggle({.id = 17, .caption = "Processed\nKey", .group = "Proc Key", .cmd = {"~@Processed Key#*"}}),
-    Knobs ({.id = 18, .caption = "Location",     .group = "Transform", .cmd = {"", "~@Processed Key#false"}, .nb = SpecialKnob(24)}),
-    Knobs ({.id = 19, .caption = "Rotation",     .group = "Transform", .cmd = {"", "~@Processed Key#false"}, .nb = SpecialKnob(23)}),
+    Knobs ({.id = 18, .caption = "Location",     .group = "Transform", .cmd = {"", "~@Processed Key#false", KEY_ROTATION}, .nb = SpecialKnob(24), .no_add = 3}),
+    Knobs ({.id = 19, .caption = "Rotation",     .group = "Transform", .cmd = {"", "~@Processed Key#false", KEY_ROTATION}, .nb = SpecialKnob(23), .no_add = 3}),
     Knobs ({.id = 20, .caption = "Size",         .group = "Transform", .cmd = {"", "~@Processed Key#false", "~@Aspect#"}, .nb = SpecialKnob(25)}),
     Toggle({.id = 21, .caption = "Separate\nH/V", .group = "Transform", .cmd = {"~@Aspect#*", "~@Processed Key#false"}}),
     Action({.id = 22, .caption = "Center",       .group = "Transform", .cmd = {"~@Center#*", "~@Processed Key#false"}}),

@@ -6,11 +6,14 @@
 #include "pc_me_key_lower.h"
 #include "st_me_key.h"
 
+// Lets a shown column follow the rotation of the key. That is subscribed for good: a row only reads it (no_add).
+inline constexpr char KEY_ROTATION[] = "~2@Processed Key@Rotation#";
+
 // --- Place and size ---
 
 // Nothing of the resizer has a condition in its row: what is grey is worked out by the page code.
 inline constexpr BT_TBL bt_me_key_resizer[] = {
-    Toggle({.id = 17, .caption = "Resizer",      .group = "Resizer", .cmd = {"~@Resizer#*"}, .nb = SpecialKnob(14)}),
+    Toggle({.id = 17, .caption = "Resizer",      .group = "Resizer", .cmd = {"~@Resizer#*", KEY_ROTATION}, .nb = SpecialKnob(14), .no_add = 2}),
     Toggle({.id = 18, .caption = "Combine",      .group = "Resizer", .cmd = {"~@Combine#*"}}),
     Action({.id = 20, .caption = "Center",       .group = "Position", .cmd = {"~@Center#*"}}),
     Action({.id = 21, .caption = "Full Size",    .group = "Position", .cmd = {"~@Full Size#*"}}),
@@ -133,7 +136,7 @@ static_assert(ButtonsAreSound(bt_me_key_resizer_enhancedeffect));
 // --- Mask ---
 
 inline constexpr BT_TBL bt_me_key_resizer_mask[] = {
-    Toggle({.id = 17, .caption = "Mask",         .group = "Mask", .cmd = {"~@Mask#*"}, .nb = SpecialKnob(21)}),
+    Toggle({.id = 17, .caption = "Mask",         .group = "Mask", .cmd = {"~@Mask#*", KEY_ROTATION}, .nb = SpecialKnob(21), .no_add = 2}),
     Toggle({.id = 18, .caption = "Mask\nInvert",  .group = "Mask", .cmd = {"~@Mask Invert#*"}}),
     BT_END,
 };

@@ -117,8 +117,38 @@ TEST_F(KeyResizerPages, TheRotationComesBackWithTheAxesItHad)
     EXPECT_EQ(BT_GetStatus(20), BT_OFF);
     EXPECT_TRUE(Disabled().contains(20));
     EXPECT_THAT(Press(17), Contains("put M/E-1@Key1@Processed Key@Rotation#2"));
-    // It is followed for the life of the process: to remove it here would end that.
-    EXPECT_THAT(Leave(), Not(Contains("remove M/E-1@Key1@Processed Key@Rotation")));
+}
+
+// It is followed for the life of the process: to remove it here would end that.
+TEST_F(KeyResizerPages, TheRotationOfAKeyIsNotGivenBack)
+{
+    for (uint32_t page : {0x11150000, 0x11150004, 0x11150005, 0x11160000}) {
+        Open(page);
+        EXPECT_THAT(Leave(), Not(Contains("remove M/E-1@Key1@Processed Key@Rotation")));
+    }
+}
+
+TEST_F(KeyResizerPages, AShownColumnFollowsTheRotation)
+{
+    static const struct {
+        uint32_t page;
+        int button;
+        const char* turned; // a value that there is only while the key turns
+    } cases[] = {
+        {0x15250000, 17, "Resizer@Depth"},
+        {0x15250004, 17, "Resizer@Mask@Box@Angle"},
+        {0x15260000, 18, "Processed Key@Location@Z"},
+        {0x15260000, 19, "Processed Key@Rotation@X"},
+    };
+    const std::string key = "M/E-1@Key6@";
+    for (const auto& c : cases) {
+        const std::string add = "add " + key + c.turned;
+        Tell(key + "Processed Key@Rotation#0");
+        Open(c.page);
+        TellAll(key, {"Resizer@Resizer#true", "Processed Key@Processed Key#true"});
+        EXPECT_THAT(Press(c.button), Not(Contains(add)));
+        EXPECT_THAT(Tell(key + "Processed Key@Rotation#3"), Contains(add));
+    }
 }
 
 TEST_F(KeyResizerPages, AnAxisThatDoesNotTurnHasNoRange)
