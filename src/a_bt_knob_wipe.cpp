@@ -17,7 +17,7 @@
 //   43 Pattern Rotation   "@Rotation" (Speed: it turns by itself; else start and end)
 //   44 Edge Pattern       aspect of the bank: where the gradation of the edge begins
 //
-//   45 DME Wipe Position  aspect of the bank; see below
+//   45 DME Wipe Position  format; see below
 //   46 Modify Rotation    "@Rotation@Axis"; aspect of the bank
 //   47 Modifier Position  aspect of the bank
 //   48 Modifier Perspect. aspect of the bank
@@ -31,7 +31,7 @@
 //   56 DME Wipe Matte     "@Mode" (Flat, Mix), "@Color" (Color 1, Color 2)
 //   57 Color Bkgd         "@Color" (Color 1, Color 2)
 //   58 Color Bkgd Pattern "@Mix" (blank for one plain colour); aspect of the screen
-//   59 DME Wipe Size      aspect of the bank; see below
+//   59 DME Wipe Size      format; see below
 //
 // 45, 55 and 59 are not chosen again at a tally: the page code has the channels.
 #include "a_bt_knob_private.h"
@@ -58,7 +58,7 @@ constexpr KnobCase knob_cases_wipe[] = {
     {42, {MATTE_MIX, COLOR_2}, matte_tables},
     {43, {Words("@Rotation", "Speed")}, Of(nb_me_wipe_rotation, nb_me_wipe_rotation_free)},
     {44, {BANK_WIDE}, Of(nb_bkgd_pattern)},
-    {45, {BANK_WIDE}, Of(nb_me_dmewipe_position)},
+    {45, {HD}, Of(nb_me_dmewipe_position)},
     {46,
      {On("@Rotation@Axis"), BANK_WIDE},
      Of(nb_me_dmewipe_rotation, nb_me_dmewipe_rotation, nb_me_dmewipe_rotation_axis)},
@@ -78,7 +78,7 @@ constexpr KnobCase knob_cases_wipe[] = {
     {56, {MATTE_MIX, COLOR_2}, matte_tables},
     {57, {COLOR_2}, Of(nb_matte_flat, nb_bkgd_color2)},
     {58, {On("@Mix"), SCREEN_WIDE}, Of(BLANK, BLANK, nb_bkgd_pattern)},
-    {59, {BANK_WIDE}, Of(nb_me_dmewipe_size)},
+    {59, {HD}, Of(nb_me_dmewipe_size)},
     KNOB_CASES_END,
 };
 static_assert(CasesAreSound(knob_cases_wipe, 31, 59));

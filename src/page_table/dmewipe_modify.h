@@ -4,33 +4,12 @@
 #include "patterns.h"
 
 #define MODIFY "LOCAL@Modify@"
-#define KNOB(n) "LOCAL@Panel@Common@Knob" #n // differences; one count is one step
 
-inline constexpr NB_TBL nb_dmewipe_modify_position[] = {
-    {.id = 1, .caption = "H Pos", .type = NB_2, .min = -200, .max = 200, .cmd = KNOB(0), .scale = 1},
-    {.id = 2, .caption = "V Pos", .type = NB_2, .min = -200, .max = 200, .cmd = KNOB(1), .scale = 1},
-    NB_END,
-};
-inline constexpr NB_TBL nb_dmewipe_modify_size[] = {
-    {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = KNOB(0), .scale = 1},
-    NB_END,
-};
-// From the picture's whole width or height to nothing. Captions and first limits tell the boxes by which a crop is made
-// from those of other values: keep them.
-inline constexpr NB_TBL nb_dmewipe_modify_crop[] = {
-    {.id = 1, .caption = "H",   .type = NB_2, .min = -100, .max = 0, .cmd = KNOB(0), .scale = 1},
-    {.id = 2, .caption = "V",   .type = NB_2, .min = 100,  .max = 0, .cmd = KNOB(1), .scale = 1},
-    {.id = 3, .caption = "All", .type = NB_2, .min = -100, .max = 0, .cmd = KNOB(2), .scale = 1},
-    NB_END,
-};
-static_assert(BoxesAreSound(nb_dmewipe_modify_position) && BoxesAreSound(nb_dmewipe_modify_size));
-static_assert(BoxesAreSound(nb_dmewipe_modify_crop));
-
-inline constexpr BT_TBL dmewipe_position = Toggle({.id = 17, .caption = "Position", .group = "Position", .cmd = {MODIFY "Position@Position#*"}, .nb = nb_dmewipe_modify_position});
+inline constexpr BT_TBL dmewipe_position = Toggle({.id = 17, .caption = "Position", .group = "Position", .cmd = {MODIFY "Position@Position#*"}, .nb = SpecialKnob(45)});
 inline constexpr BT_TBL dmewipe_center   = Action({.id = 18, .caption = "Center",   .group = "Position", .cmd = {MODIFY "Position@Center"}});
-inline constexpr BT_TBL dmewipe_crop     = Toggle({.id = 20, .caption = "Crop",     .group = "Crop Mode", .cmd = {MODIFY "Crop Mode@Crop#*"}, .nb = nb_dmewipe_modify_crop});
+inline constexpr BT_TBL dmewipe_crop     = Toggle({.id = 20, .caption = "Crop",     .group = "Crop Mode", .cmd = {MODIFY "Crop Mode@Crop#*"}, .nb = SpecialKnob(55)});
 inline constexpr BT_TBL dmewipe_crop_4_3 = Action({.id = 21, .caption = "4:3 Crop", .group = "Crop Mode", .cmd = {MODIFY "Crop Mode@4:3 Crop"}});
-inline constexpr BT_TBL dmewipe_size     = Toggle({.id = 22, .caption = "Size",     .group = "Size", .cmd = {MODIFY "Size#*"}, .nb = nb_dmewipe_modify_size});
+inline constexpr BT_TBL dmewipe_size     = Toggle({.id = 22, .caption = "Size",     .group = "Size", .cmd = {MODIFY "Size#*"}, .nb = SpecialKnob(59)});
 
 // Two by two, as the corners of the screen lie.
 constexpr BT_TBL DmeWipeCorner(int id, const char* caption, const char* cmd)
@@ -47,7 +26,6 @@ inline constexpr BT_TBL dmewipe_relative = Toggle({.id = 19, .caption = "Relativ
 inline constexpr BT_TBL dmewipe_ch1      = Toggle({.id = 35, .caption = "1st Ch", .group = "Ch Select", .cmd = {MODIFY "Ch Select@1st Ch#*"}});
 inline constexpr BT_TBL dmewipe_ch2      = Toggle({.id = 36, .caption = "2nd Ch", .group = "Ch Select", .cmd = {MODIFY "Ch Select@2nd Ch#*"}});
 inline constexpr BT_TBL dmewipe_ch3      = Toggle({.id = 37, .caption = "3rd Ch", .group = "Ch Select", .cmd = {MODIFY "Ch Select@3rd Ch#*"}});
-#undef KNOB
 #undef MODIFY
 
 // --- Size and transparency of a pattern that has them; pattern: the path of its number ---

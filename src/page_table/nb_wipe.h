@@ -80,20 +80,25 @@ inline constexpr auto nb_me_wipe_rotation_free = Column(
 
 // --- DME wipe ---
 
-// The page code turns the channels that are selected by the difference.
-inline constexpr auto nb_me_dmewipe_position = FamilyOf<2>([](int wide) {
-    return Column(Span(1, "H", "LOCAL@Panel@Common@Knob0", Wide(100, wide)),
-                  Span(2, "V", "LOCAL@Panel@Common@Knob1", 100));
+// Place, size and crop of the chosen channels, for the page code: it hears by how many steps a knob was turned. Less than
+// a tenth is finer than a pixel of an SD picture.
+constexpr NB_TBL Steps(int id, const char* caption, const char* cmd, double min, double max, int hd)
+{
+    return {.id = id, .caption = caption, .type = hd ? NB_2 : NB_1, .min = min, .max = max, .cmd = cmd, .scale = 1};
+}
+inline constexpr auto nb_me_dmewipe_position = FamilyOf<2>([](int hd) {
+    return Column(Steps(1, "H Pos", "LOCAL@Panel@Common@Knob0", -200, 200, hd),
+                  Steps(2, "V Pos", "LOCAL@Panel@Common@Knob1", -200, 200, hd));
 });
-inline constexpr auto nb_me_dmewipe_size = FamilyOf<2>([](int wide) {
-    return Column(Percent(1, "Size", "LOCAL@Panel@Common@Knob0", Wide(150, wide)));
+inline constexpr auto nb_me_dmewipe_size = FamilyOf<2>([](int hd) {
+    return Column(Steps(1, "Size", "LOCAL@Panel@Common@Knob0", 0, 100, hd));
 });
-// Crop towards the middle; the page code knows the boxes by caption and lower limit. Less than a tenth is finer than a
-// pixel of an SD picture.
+// From the picture's whole width or height to nothing. Captions and first limits tell the boxes by which a crop is made
+// from those of other values: keep them.
 inline constexpr auto nb_me_dmewipe_crop = FamilyOf<2>([](int hd) {
-    return Column(Box(1, "H",   "LOCAL", -100, 0, hd ? NB_2 : NB_1),
-                  Box(2, "V",   "LOCAL", 100,  0, hd ? NB_2 : NB_1),
-                  Box(3, "All", "LOCAL", -100, 0, hd ? NB_2 : NB_1));
+    return Column(Steps(1, "H",   "LOCAL@Panel@Common@Knob0", -100, 0, hd),
+                  Steps(2, "V",   "LOCAL@Panel@Common@Knob1", 100,  0, hd),
+                  Steps(3, "All", "LOCAL@Panel@Common@Knob2", -100, 0, hd));
 });
 inline constexpr auto nb_me_dmewipe_rotation = Column(Turns(1, "Rotation", "~@Rotation@Rotation"));
 inline constexpr auto nb_me_dmewipe_rotation_axis = FamilyOf<2>([](int wide) {
