@@ -286,10 +286,13 @@ static void mirror_channel(int ch)
     mirror(path, modify.chsel[ch]);
 }
 
-static void clear_buttons()
+// A page that has just opened keeps the knobs that it was left with: the tally of their function,
+// which follows, decides about them.
+static void clear_buttons(bool keep_knobs)
 {
     for (const Function& f : functions)
-        mirror(f.path, 0);
+        if (!keep_knobs || f.button != BT_GetKnobAssign())
+            mirror(f.path, 0);
     for (const Corner& c : corners)
         mirror_corner(c, 0);
     mirror("Position@Relative", modify.relative);
@@ -446,8 +449,7 @@ static void modify_chselect_sel(int n)
     if (BT_GetKnobAssign() > 0)
         modify.knobs_of = BT_GetKnobAssign();
     modify_remove_btn();
-    send_switches("remove", modify.ch); // subscribed anew, they are told anew
-    send_switches("add", modify.ch);
+    send_switches("add", modify.ch); // subscribed already: added once more, they are told anew
     mirror_switches();
     if (leading().posactive)
         modify_position_select();
@@ -469,7 +471,7 @@ static void modify_pattern_tly(const char* value)
     const int number = Decimal(value);
     if (number == modify.number)
         return;
-    const bool replaces_another = modify.number >= 0;
+    const bool is_first = modify.number < 0;
     leave_pattern();
     modify.number = number;
     modify.ptn = std::min(DW_ChannelsOf(number), modify.kind->channels);
@@ -478,8 +480,7 @@ static void modify_pattern_tly(const char* value)
     std::fill(modify.chsel, modify.chsel + CHANNELS, 0);
     modify.chsel[0] = modify.ptn > 0;
     modify.relative = 0;
-    if (replaces_another) // a page that has just opened keeps the knobs that it was left with
-        clear_buttons();
+    clear_buttons(is_first);
     show_channels();
     for (int ch = 0; ch < modify.ptn; ch++) {
         send_switches("add", ch);
@@ -809,7 +810,7 @@ static int modify_create(int on, const Kind* kind)
     return 0;
 }
 
-static int modify_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+static int pc_me_dmewipe_modify_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
     switch (msg) {
     case MSG_TALLY: return modify_tally(Text(ax), Text(bx));
@@ -833,5 +834,6 @@ static int pc_me_key_trans_dmewipead_create(int on, uint32_t)
     return modify_create(on, &key_kind);
 }
 
-const PC_TBL pc_me_dmewipe_modify = {modify_proc, pc_me_dmewipe_modify_create};
-const PC_TBL pc_me_key_trans_dmewipead = {modify_proc, pc_me_key_trans_dmewipead_create};
+const PC_TBL pc_me_dmewipe_modify = {pc_me_dmewipe_modify_proc, pc_me_dmewipe_modify_create};
+const PC_TBL pc_me_key_trans_dmewipead = {pc_me_dmewipe_modify_proc,
+                                          pc_me_key_trans_dmewipead_create};

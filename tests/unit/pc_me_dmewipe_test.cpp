@@ -125,6 +125,18 @@ TEST_F(MeDmeWipe, AnotherPatternLeavesNothingOfTheOneBefore)
     EXPECT_THAT(Tell(other), IsEmpty()) << "nothing new";
 }
 
+TEST_F(MeDmeWipe, TheFirstPatternPutsAllKeysOutAndLeavesTheKnobs)
+{
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
+    for (int id : {POSITION, RELATIVE, CROP, SIZE, 33, 34, 49, 50, CH2})
+        EXPECT_EQ(BT_GetStatus(id), BT_OFF) << id;
+    Own("Size", SIZE);
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
+    EXPECT_EQ(BT_GetKnobAssign(), SIZE);
+    Tell(root + "@Modify@Size@1#false"); // switched off meanwhile
+    EXPECT_EQ(BT_GetKnobAssign(), -1);
+}
+
 TEST_F(MeDmeWipe, OneChannelStaysChosen)
 {
     static const struct {
@@ -154,6 +166,8 @@ TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowedByTheKnobs)
         EXPECT_THAT(sent, Contains("put M/E-1@DME Wipe@Modify@" + std::string(what) + "#true"));
     EXPECT_THAT(sent, Contains("remove M/E-1@DME Wipe@Modify@Crop Mode@Crop@Top@1"));
     EXPECT_THAT(sent, Contains("add " + size + "Size@2"));
+    EXPECT_THAT(sent, Contains("add " + size + "2")); // told anew as it is
+    EXPECT_THAT(sent, Not(Contains("remove " + size + "2")));
     EXPECT_THAT(sent, Not(Contains(testing::HasSubstr("@1#"))));
     Tell(size + "2#false"); // the server tells it as it is and then switches
     EXPECT_EQ(BT_GetKnobAssign(), -1);
