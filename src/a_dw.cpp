@@ -166,6 +166,32 @@ static int press(int x, int y)
     return 0;
 }
 
+static int scroll(int kind, int bar, int step_or_line)
+{
+    if (dw.cmd[0] && ScrollWindow_Move(dw.window, kind, bar, step_or_line))
+        dw.redraw = true;
+    return 0;
+}
+
+static void scroll_to(int line)
+{
+    (void)scroll(SB_THUMB, 0, line); // bar 0; the window stays inside the list
+}
+
+// The line that a number of the first set of channels stands on, -1 when the list has none.
+static int line_of(int base)
+{
+    for (int i = 0; i < dw.window.total; i++) {
+        const Group& g = dw.group[dw.line[i].group];
+        const int end = std::min(dw.line[i].first + COLUMNS, g.ptnn);
+        for (int n = dw.line[i].first; n < end; n++)
+            if (g.ptn[n].num + g.offset == base)
+                return i;
+    }
+    return -1;
+}
+
+// The chosen cell comes into view; the window stays where the operator has put it otherwise.
 static int tally(const char* path, const char* value, uint32_t hash)
 {
     if (dw.hash != hash || !dw.cmd[0] || !Same(dw.cmd, path))
@@ -175,13 +201,9 @@ static int tally(const char* path, const char* value, uint32_t hash)
         return 0;
     dw.number = number;
     dw.redraw = true;
-    return 0;
-}
-
-static int scroll(int kind, int bar, int step_or_line)
-{
-    if (dw.cmd[0] && ScrollWindow_Move(dw.window, kind, bar, step_or_line))
-        dw.redraw = true;
+    const int line = line_of(DW_BaseNumber(number));
+    if (line >= 0 && (line < dw.window.top || line >= dw.window.top + dw.window.shown))
+        scroll_to(line);
     return 0;
 }
 
@@ -190,7 +212,7 @@ int DW_ShowChannels(int channels)
     for (int i = 0; i < dw.window.total; i++) {
         if (DW_ChannelsOf(dw.group[dw.line[i].group].ptn[0].num) != channels)
             continue;
-        (void)scroll(SB_THUMB, 0, i); // bar 0; the window stays inside the list
+        scroll_to(i);
         return 0;
     }
     return -1;

@@ -1,6 +1,6 @@
 // a_dw: the list of effects-unit wipes: one group of patterns below the other, with a scroll bar.
-// The window moves by lines of six cells; which cell is chosen is a matter of the tally, and so is
-// the set of channels that the numbers of all cells stand for.
+// The window moves by lines of six cells; which cell is chosen is a matter of the tally, which
+// brings it into view, and so is the set of channels that the numbers of all cells stand for.
 #pragma once
 #include "a_nb.h"
 #include "types.h"

@@ -103,6 +103,24 @@ TEST_F(WipeLists, TheWindowStaysInsideTheList)
     }
 }
 
+TEST_F(WipeLists, TheChosenCellComesIntoView)
+{
+    static const struct {
+        const char *number, *first;
+    } cases[] = {
+        {"1007", "1001"}, {"1930", "1001"}, // in view already
+        {"1331", "1927"},                   // the last line
+        {"7003", "7001"}, {"1999", "1001"}, // not in the list
+    };
+    for (const auto& c : cases) {
+        SendDummyTally((std::string(PATH) + "#" + c.number).c_str());
+        EXPECT_EQ(Number(0, 0), c.first) << c.number;
+    }
+    SendMessage(LMSG_SBSEL, SB_DOWN, 0, 1, 0);
+    SendDummyTally((std::string(PATH) + "#1999").c_str());
+    EXPECT_EQ(Number(0, 0), "1007") << "told the same once more";
+}
+
 TEST_F(WipeLists, AWheelStepBecomesAPressOnAnArrow)
 {
     int beside = 700, above = Y(0);
