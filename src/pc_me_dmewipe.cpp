@@ -42,6 +42,15 @@ void dmewipe_root(char* dst, int size)
         snprintf(dst, size_t(size), "%s@DME Wipe", bank);
 }
 
+// To allow a key is to override what its row depends on, so that the row has the last word.
+static void set_dead(int id, bool is_dead)
+{
+    BT_SetDisable(id, is_dead);
+    BT_MEM* b = is_dead ? nullptr : bt_find(id);
+    if (b && b->tally_func)
+        b->tally_func(b, 1, b->cmd[1], b->tally[1]);
+}
+
 // --- Pattern Select: three keys move the list ---
 
 static int show_channels(const char* path)
@@ -138,7 +147,7 @@ static void ptnpage_pattern(int number)
     const int channels = DW_ChannelsOf(number);
     for (int i = 0; i < PtnPage.count; i++) {
         const PatternKey& key = PtnPage.keys[i];
-        BT_SetDisable(key.button, channels < key.min_channels || !has_move(key, number));
+        set_dead(key.button, channels < key.min_channels || !has_move(key, number));
     }
 }
 
@@ -201,7 +210,7 @@ static void remove_pattern(int number)
 {
     const int channels = RemoveBegin.off ? 0 : DW_ChannelsOf(number);
     for (int ch = 0; ch < int(std::size(remove_buttons)); ch++)
-        BT_SetDisable(remove_buttons[ch], ch >= channels);
+        set_dead(remove_buttons[ch], ch >= channels);
 }
 
 // The part begins before it ends: each box ends where the other one stands.

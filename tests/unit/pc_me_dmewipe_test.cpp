@@ -485,6 +485,37 @@ TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
     }
 }
 
+TEST_F(MeDmeWipe, APatternDoesNotAllowWhatTheRowForbids)
+{
+    static const struct {
+        uint32_t page;
+        const char* pattern;
+        Lines forbidding;
+        const char* allowing;
+        int button;
+    } cases[] = {
+        {0x13640000,
+         "M/E-3@DME Wipe@Pattern Select@Pattern#1001",
+         {"M/E-3@DME Wipe@Edge/Direction@Shadow#false"},
+         "M/E-3@DME Wipe@Edge/Direction@Shadow#true",
+         50},
+        {0x13170007,
+         "M/E-3@Key1@Transition@DME Wipe@Pattern Select@Pattern#1001",
+         {"M/E-3@Key1@Transition@ON Transition Type#Mix",
+          "M/E-3@Key1@Transition@OFF Transition Type#Mix"},
+         "M/E-3@Key1@Transition@OFF Transition Type#DME Wipe",
+         17},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        TellAll("", c.forbidding);
+        Tell(c.pattern);
+        EXPECT_TRUE(Disabled().contains(c.button)) << c.pattern;
+        Tell(c.allowing);
+        EXPECT_FALSE(Disabled().contains(c.button)) << c.pattern;
+    }
+}
+
 TEST_F(MeDmeWipe, TheCellShowsTheSamePictureForBothSetsOfChannels)
 {
     const auto picture = [](const char* pattern) {
