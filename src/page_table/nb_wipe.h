@@ -80,11 +80,12 @@ inline constexpr auto nb_me_wipe_rotation_free = Column(
 
 // --- DME wipe ---
 
-// Place, size and crop of the chosen channels, for the page code: it hears by how many steps a knob was turned. Less than
-// a tenth is finer than a pixel of an SD picture.
+// Place, size and crop of the chosen channels, for the page code: it hears by how many steps a knob was turned. A knob to
+// the right moves the mark to the right, also on a bar that runs backwards. Less than a tenth is finer than a pixel of an
+// SD picture.
 constexpr NB_TBL Steps(int id, const char* caption, const char* cmd, double min, double max, int hd)
 {
-    return {.id = id, .caption = caption, .type = hd ? NB_2 : NB_1, .min = min, .max = max, .cmd = cmd, .scale = 1};
+    return {.id = id, .caption = caption, .type = hd ? NB_2 : NB_1, .min = min, .max = max, .cmd = cmd, .scale = min > max ? -1.0 : 1.0};
 }
 inline constexpr auto nb_me_dmewipe_position = FamilyOf<2>([](int hd) {
     return Column(Steps(1, "H Pos", "LOCAL@Panel@Common@Knob0", -200, 200, hd),

@@ -284,6 +284,9 @@ TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
               Sent("put", {"Crop Mode@Crop@Right@1#49.24", "Crop Mode@Crop@Left@1#-49.24"}));
     EXPECT_EQ(Tell("Panel@Common@Knob0#-25"),
               Sent("put", {"Crop Mode@Crop@Right@1#100.00", "Crop Mode@Crop@Left@1#-100.00"}));
+    Tell(root + "@Modify@Crop Mode@Crop@Top@1#50"); // the same sense crops, though this value falls
+    EXPECT_EQ(Tell("Panel@Common@Knob1#3"),
+              Sent("put", {"Crop Mode@Crop@Bottom@1#-49.24", "Crop Mode@Crop@Top@1#49.24"}));
 }
 
 TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
