@@ -45,7 +45,7 @@ inline constexpr BT_TBL bt_me_key_trans_dmewipeptn[] = { // below the long list
 static_assert(ButtonsAreSound(bt_me_key_trans_dmewipeptn));
 
 inline constexpr BT_TBL bt_me_key_trans_removefrombigin[] = {
-    OfKeyWipe(Toggle({.id = 17, .caption = "Remove\nFrom\nBegin", .group = "Remove Begin",
+    OfKeyWipe(Toggle({.id = 17, .caption = "Remove\nFrom\nBegin", .group = "Transition",
                       .cmd = {"~4@Modify@Remove From Begin@1#*"}, .nb = nb_me_key_dmewipe_remove})),
     BT_END,
 };
