@@ -451,8 +451,7 @@ static void modify_chselect_sel(int n)
     modify_remove_btn();
     send_switches("add", modify.ch); // subscribed already: added once more, they are told anew
     mirror_switches();
-    if (leading().posactive)
-        modify_position_select();
+    modify_position_select(); // also with its position off: what was on show is another channel's
     modify_ch_assign();
     (void)modify_crop_mask();
 }

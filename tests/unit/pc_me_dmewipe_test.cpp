@@ -181,6 +181,26 @@ TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowedByTheKnobs)
     EXPECT_EQ(Shown("Size"), "30");
 }
 
+TEST_F(MeDmeWipe, LampsAndBoxesAreThoseOfTheLeadingChannel)
+{
+    const std::string root = "M/E-1@DME Wipe", crop = root + "@Modify@Crop Mode@Crop";
+    OpenWith(MODIFY_ME1, root, "2003");
+    (void)Press(CH2);
+    Own(root, "Crop Mode@Crop", CROP);
+    Tell(crop + "@2#true");
+    Tell(crop + "@Left@1#-20");
+    Tell(crop + "@Left@2#-70");
+    Tell(root + "@Modify@Position@Position@H@1#-100");
+    Tell(root + "@Modify@Position@Position@V@1#100");
+    EXPECT_EQ(BT_GetStatus(33), BT_ON);
+    (void)Press(CH1); // the second leads, with its position off; all its values are known
+    char path[CMD_SIZE];
+    double shown = 0;
+    EXPECT_EQ(NB_GetKnob_info("H", path, &shown, sizeof path), 1);
+    EXPECT_EQ(shown, -70);
+    EXPECT_EQ(BT_GetStatus(33), BT_OFF);
+}
+
 // --- Modify: knobs ---
 
 TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsSteps)
