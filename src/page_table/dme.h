@@ -130,7 +130,7 @@ inline constexpr BT_TBL bt_dme_top[] = {
 static_assert(ButtonsAreSound(bt_dme_top));
 
 inline constexpr BT_TBL bt_global_effect_top[] = {
-    Jump(       {.id = 17, .caption = "Combine", .group = "Global Effect", .cmd = {"#42110000"}}),
+    Jump(       {.id = 17, .caption = "Combine", .group = "Effect", .cmd = {"#42110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

@@ -19,7 +19,7 @@ inline constexpr BT_TBL bt_fm_still[] = {
 static_assert(ButtonsAreSound(bt_fm_still));
 
 inline constexpr BT_TBL bt_frame_memory_top[] = {
-    Jump(       {.id = 17, .caption = "Still", .group = "Frame Memory", .cmd = {"#21110000"}}),
+    Jump(       {.id = 17, .caption = "Still", .group = "Memory", .cmd = {"#21110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

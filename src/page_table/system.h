@@ -38,7 +38,7 @@ inline constexpr BT_TBL bt_diag[] = {
     Action(     {.id = 18, .caption = "Clear\nLog", .group = "Report", .cmd = {"~@Clear Log#*"}}),
     Jump(       {.id = 33, .caption = "Error\nList", .group = "Lists", .cmd = {"#99000000"}}),
     Jump(       {.id = 34, .caption = "History", .group = "Lists", .cmd = {"#74120000"}}),
-    Jump(       {.id = 49, .caption = "Engineer-\ning", .group = "Development", .cmd = {"#99910000"}}),
+    Jump(       {.id = 49, .caption = "Engineer-\ning", .group = "Service", .cmd = {"#99910000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
@@ -75,7 +75,7 @@ inline constexpr BT_TBL bt_file_top[] = {
 static_assert(ButtonsAreSound(bt_file_top));
 
 inline constexpr BT_TBL bt_engineering_setup_top[] = {
-    Jump(       {.id = 17, .caption = "Network\nConfig", .group = "Engineering Setup", .cmd = {"#73110000"}}),
+    Jump(       {.id = 17, .caption = "Network\nConfig", .group = "Setup", .cmd = {"#73110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

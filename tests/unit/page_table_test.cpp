@@ -211,6 +211,7 @@ TEST(PageTable, NoCaptionIsCutByItsButton)
 
 TEST(PageTable, GroupFramesDoNotReachIntoOneAnother)
 {
+    Harness_Video();
     ForEachPage([](PAGE& page) {
         struct Frame {
             std::string title;
@@ -228,6 +229,11 @@ TEST(PageTable, GroupFramesDoNotReachIntoOneAnother)
                     std::max(f->r.y2, b->y2)};
         }
         EXPECT_LE(frames.size(), 12u) << std::hex << page.id;
+        for (const Frame& a : frames) { // a title stands in the upper line, from 10 pixels in
+            const char* title = a.title.c_str() + (strchr("@#$%&", a.title[0]) != nullptr);
+            EXPECT_LE(a.r.x1 + 10 + int(TDL_GetSymbolWidth(title, 3)), a.r.x2 + 3)
+                << std::hex << page.id << ": \"" << title << "\" is wider than its frame";
+        }
         for (const Frame& a : frames)
             for (const Frame& b : frames)
                 EXPECT_TRUE(&a == &b || a.r.x1 > b.r.x2 || b.r.x1 > a.r.x2 || a.r.y1 > b.r.y2 ||

@@ -183,21 +183,15 @@ TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowedByTheKnobs)
 
 TEST_F(MeDmeWipe, LampsAndBoxesAreThoseOfTheLeadingChannel)
 {
-    const std::string root = "M/E-1@DME Wipe", crop = root + "@Modify@Crop Mode@Crop";
-    OpenWith(MODIFY_ME1, root, "2003");
+    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
     (void)Press(CH2);
-    Own(root, "Crop Mode@Crop", CROP);
-    Tell(crop + "@2#true");
-    Tell(crop + "@Left@1#-20");
-    Tell(crop + "@Left@2#-70");
-    Tell(root + "@Modify@Position@Position@H@1#-100");
-    Tell(root + "@Modify@Position@Position@V@1#100");
+    Own("Crop Mode@Crop", CROP);
+    TellAll(root + "@Modify@",
+            {"Crop Mode@Crop@2#true", "Crop Mode@Crop@Left@1#-20", "Crop Mode@Crop@Left@2#-70",
+             "Position@Position@H@1#-100", "Position@Position@V@1#100"});
     EXPECT_EQ(BT_GetStatus(33), BT_ON);
     (void)Press(CH1); // the second leads, with its position off; all its values are known
-    char path[CMD_SIZE];
-    double shown = 0;
-    EXPECT_EQ(NB_GetKnob_info("H", path, &shown, sizeof path), 1);
-    EXPECT_EQ(shown, -70);
+    EXPECT_EQ(Shown("H"), "-70");
     EXPECT_EQ(BT_GetStatus(33), BT_OFF);
 }
 
