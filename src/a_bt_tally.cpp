@@ -59,9 +59,10 @@ int bt_tly_tab(BT_MEM*, int, const char*, const char*)
 
 // --- The others differ in how they combine what they depend on ---
 
+// What page code has put out stays out, whatever the rule says.
 static int depend(BT_MEM* b, int i, bool disabled)
 {
-    bt_show_enabled(b, disabled);
+    bt_show_enabled(b, disabled || b->disable[BT_COMMANDS - 1]);
     bt_follow_knobs(b, i);
     return 1;
 }

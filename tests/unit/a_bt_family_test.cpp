@@ -83,6 +83,10 @@ TEST_F(ButtonFamily, TheWipeDecidesOnSizeAndTransparency)
         Dependency(1, c.pattern);
         EXPECT_EQ(BT_GetVisible(17), c.trans ? BT_ENABLED : BT_DISABLED) << c.pattern;
     }
+    OpenTally(bt_tly_dmewipe_size, {""});
+    BT_SetDisable(17, 1); // by page code: no rule brings it back
+    Dependency(1, "1201");
+    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
 }
 
 // --- Key priority ---
