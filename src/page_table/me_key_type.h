@@ -75,7 +75,7 @@ inline constexpr BT_TBL bt_me_key_type[] = {
     Radio ({.id = 21, .caption = "Wipe\nPattern", .group = "Key Type", .cmd = {"~@Key Type#Wipe Pattern"}, .nb = nb_me_key_type_wipe}),
     Radio ({.id = 22, .caption = "Key Wipe\nPattern", .group = "Key Type", .cmd = {"~@Key Type#Key Wipe Pattern"}, .nb = nb_me_key_type_keywipe}),
     Toggle({.id = 33, .caption = "Key\nInvert",  .group = "Key Modify", .cmd = {"~@Key Invert#*"}}),
-    Toggle({.id = 34, .caption = "Clean\nMode",  .group = "Key Modify", .cmd = {"LOCAL@M/E@Key@Type@Clean Mode#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}}),
+    Toggle({.id = 34, .caption = "Clean\nMode",  .group = "Key Modify", .cmd = {"LOCAL@M/E@Key@Type@Clean Mode#*", "~@Key Type#Chroma,Wipe Pattern,Key Wipe Pattern"}}),
     Toggle({.id = 35, .caption = "Key\nPosition", .group = "Position", .cmd = {"LOCAL@M/E@Key@Type@Key Position#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}, .nb = nb_me_key_type_position}),
     Action({.id = 36, .caption = "Auto\nChroma", .group = "Chroma",   .cmd = {"~@Auto Chroma#*", "~@Key Type#!Chroma"}}),
     Jump  ({.id = 37, .caption = "Chroma\nAdjust", .group = "Chroma", .cmd = {"#+11110001", "~@Key Type#!Chroma"}}),

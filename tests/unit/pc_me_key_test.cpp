@@ -19,14 +19,14 @@ TEST_F(KeyTypePage, SettingsOfEachTypeAreFollowedAndTheChosenOnesShown)
          {"Luminance", "Linear", "Chroma", "Color Vector", "Wipe Pattern", "Key Wipe Pattern"})
         for (const char* setting : {"Clean Mode@", "Key Position@"})
             EXPECT_GE(Held(opened, string("M/E-4@Key3@Type@") + setting + type), 1) << type;
-    TellAll("M/E-4@Key3@Type@", {"Key Type#Linear", "Clean Mode@Chroma#true",
+    TellAll("M/E-4@Key3@Type@", {"Key Type#Linear", "Clean Mode@Color Vector#true",
                                  "Clean Mode@Linear#false", "Key Position@Linear#false"});
     EXPECT_EQ(BT_GetStatus(34), BT_OFF);
     EXPECT_THAT(Press(35), AllOf(Contains("put M/E-4@Key3@Type@Key Position@Linear#true"),
                                  Contains("add M/E-4@Key3@Type@Key Position@Left@Linear")));
-    Tell("M/E-4@Key3@Type@Key Type#Chroma");
+    Tell("M/E-4@Key3@Type@Key Type#Color Vector");
     EXPECT_EQ(BT_GetStatus(34), BT_ON);
-    EXPECT_THAT(Press(34), ElementsAre("put M/E-4@Key3@Type@Clean Mode@Chroma#false"));
+    EXPECT_THAT(Press(34), ElementsAre("put M/E-4@Key3@Type@Clean Mode@Color Vector#false"));
 }
 
 TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
