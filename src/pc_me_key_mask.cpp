@@ -15,7 +15,6 @@ namespace
 {
 constexpr int BTN_UTILITY[] = {35, 36};
 constexpr int BTN_PATTERN_SELECT = 37;
-constexpr int ONLY_SUB_SIDE = 1; // MainSubAssign_StatusCheck
 constexpr int UTILITY_BUSES = 2;
 constexpr unsigned NAME_PX = 70; // what a caption has on a standard button, with air
 constexpr int CAPTION_FONT = 3;
@@ -26,14 +25,13 @@ static struct {
     char SourceCmd[CMD_SIZE] = "";                 // "M/E-1@Key1@Main Mask@Mask Source"
     char UtilityCmd[UTILITY_BUSES][CMD_SIZE] = {}; // "M/E-1@Status@Xpt Assign@UTIL1"
     char Caption[UTILITY_BUSES][64] = {};          // shown by the buttons until the page closes
-    bool HasPatternPage = true;
     bool IsOn = false;
     bool IsPattern = false;
 } Mask; // valid from create(1) to create(0)
 
 static void show_pattern_select()
 {
-    ME_DisableKey(BTN_PATTERN_SELECT, !Mask.HasPatternPage || !Mask.IsOn || !Mask.IsPattern);
+    ME_DisableKey(BTN_PATTERN_SELECT, !Mask.IsOn || !Mask.IsPattern);
 }
 
 // The name of the source that the bus carries, cut to the button; without one the bus is named
@@ -64,12 +62,11 @@ static int mask_tally(const char* path, const char* value)
 }
 
 // All four paths are subscribed by the buttons: the buses as what their button depends on.
-static int mask_create(int on, const char* mask, bool has_pattern_page)
+static int mask_create(int on, const char* mask)
 {
     if (!on)
         return 1;
     Mask = {};
-    Mask.HasPatternPage = has_pattern_page;
     PrintText(Mask.SwitchCmd, "%s@%s@%s@%s", GL_NowTree[0], GL_NowTree[1], mask, mask);
     PrintText(Mask.SourceCmd, "%s@%s@%s@Mask Source", GL_NowTree[0], GL_NowTree[1], mask);
     for (int bus = 0; bus < UTILITY_BUSES; bus++)
@@ -80,14 +77,12 @@ static int mask_create(int on, const char* mask, bool has_pattern_page)
 
 static int pc_me_mainmask_create(int on, uint32_t)
 {
-    return mask_create(on, "Main Mask", true);
+    return mask_create(on, "Main Mask");
 }
 
-// A request for the second pattern goes on to the sub side where the panel has nothing else of the
-// bank, and there is no second pattern there.
 static int pc_me_submask_create(int on, uint32_t)
 {
-    return mask_create(on, "Sub Mask", MainSubAssign_StatusCheck() != ONLY_SUB_SIDE);
+    return mask_create(on, "Sub Mask");
 }
 
 static int pc_me_submask_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)

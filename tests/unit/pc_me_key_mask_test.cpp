@@ -64,33 +64,3 @@ TEST_F(KeyMaskPages, TheSubMaskShowsThePatternOfItsBank)
         EXPECT_EQ(GL_CreatePage, c.target) << c.key;
     }
 }
-
-// A panel that has nothing but the sub side of a bank leads to it, where there is one pattern.
-TEST_F(KeyMaskPages, ThePatternIsOutOfReachOfAPanelWithTheSubSideAlone)
-{
-    static const struct {
-        uint32_t page;
-        const char* mask;
-        int side; // GL_MainSubAssign
-        bool disabled;
-    } cases[] = {
-        {0x12140000, "Sub Mask", 1, true},
-        {0x12140000, "Sub Mask", 2, false},
-        {0x13140000, "Sub Mask", 1, false}, // another bank
-        {0x12130000, "Main Mask", 1, false},
-    };
-    for (const auto& c : cases) {
-        GL_MEAssign[4] = 2;
-        GL_MainSubAssign[4] = c.side;
-        Open(c.page);
-        const std::string path =
-            std::string(c.page == 0x13140000 ? "M/E-3" : "M/E-2") + "@Key1@" + c.mask + "@";
-        Tell(path + c.mask + "#true");
-        Tell(path + "Mask Source#Pattern");
-        EXPECT_EQ(Disabled().contains(37), c.disabled) << std::hex << c.page << c.side;
-        (void)Press(37);
-        EXPECT_EQ(GL_CreatePage && CreatePage(GL_CreatePage) == 0, !c.disabled) << c.mask;
-    }
-    GL_MEAssign[4] = -1;
-    GL_MainSubAssign[4] = 0;
-}
