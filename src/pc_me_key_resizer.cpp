@@ -52,7 +52,7 @@ struct ResizerPage {
 };
 constexpr int STATES_MAX = 6;
 
-constexpr State resizer_off = {"~2@Resizer@Resizer", "false", RESIZER_OFF};
+constexpr State resizer_off = {"~2@Processed Key@Resizer", "false", RESIZER_OFF};
 constexpr State combine = {"~2@Resizer@Combine", "true", COMBINE};
 
 constexpr State main_states[] = {resizer_off, combine};

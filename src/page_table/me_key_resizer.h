@@ -13,7 +13,7 @@ inline constexpr char KEY_ROTATION[] = "~2@Processed Key@Rotation#";
 
 // Nothing of the resizer has a condition in its row: what is grey is worked out by the page code.
 inline constexpr BT_TBL bt_me_key_resizer[] = {
-    Toggle({.id = 17, .caption = "Resizer",      .group = "Resizer", .cmd = {"~@Resizer#*", KEY_ROTATION}, .nb = SpecialKnob(14), .no_add = 2}),
+    Toggle({.id = 17, .caption = "Resizer",      .group = "Resizer", .cmd = {"~2@Processed Key@Resizer#*", KEY_ROTATION}, .nb = SpecialKnob(14), .no_add = 2}),
     Toggle({.id = 18, .caption = "Combine",      .group = "Resizer", .cmd = {"~@Combine#*"}}),
     Action({.id = 20, .caption = "Center",       .group = "Position", .cmd = {"~@Center#*"}}),
     Action({.id = 21, .caption = "Full Size",    .group = "Position", .cmd = {"~@Full Size#*"}}),

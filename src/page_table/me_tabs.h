@@ -29,7 +29,7 @@ inline constexpr MeTab<HF_TBL> me_key_tabs[] = {
                   "~2@Edge@Key Drop#true"}}},
     {{.id = 3, .caption = "Main Mask", .page = 0x11130000, .statcmd = {"~2@Main Mask@Main Mask#true"}}},
     {{.id = 4, .caption = "Sub Mask",  .page = 0x11140000, .statcmd = {"~2@Sub Mask@Sub Mask#true"}}},
-    {{.id = 5, .caption = "Resizer",   .page = 0x11150000, .statcmd = {"~2@Resizer@Resizer#true"}}},
+    {{.id = 5, .caption = "Resizer",   .page = 0x11150000, .statcmd = {"~2@Processed Key@Resizer#true"}}},
     {{.id = 6, .caption = "Processed\nKey", .page = 0x11160000, .statcmd = {"~2@Processed Key@Processed Key#true"}}},
     {{.id = 7, .caption = "Transition/\nVideo\nProcess", .page = 0x11170000, .statcmd = {"~2@Video Process@Video Process#true"}}},
 };

@@ -31,7 +31,7 @@ inline constexpr ST_TBL st_me_key[] = {
     CellAt(2, 0, {.id = 4,  .draw_func = st_drw_me_key_mainmask, .cmd = ST_KEY_MAIN_MASK("~2"), .jamp_id_base = 0x11130000}),
     CellAt(3, 0, {.id = 5,  .draw_func = st_drw_me_key_submask,  .cmd = ST_KEY_SUB_MASK("~2"), .jamp_id_base = 0x11140000}),
     CellAt(4, 0, {.id = 6,  .draw_func = st_drw_me_key_resizer,
-                  .cmd = {"~2@Resizer@Resizer", "~2@Resizer@Size", "~2@Resizer@H", "~2@Resizer@V"},
+                  .cmd = {"~2@Processed Key@Resizer", "~2@Resizer@Size", "~2@Resizer@H", "~2@Resizer@V"},
                   .jamp_id_base = 0x11150000}),
     CellAt(5, 0, {.id = 7,  .draw_func = st_drw_me_key_videoproc,
                   .cmd = {"~2@Video Process@Video Process", "~2@Video Process@Luminance", "~2@Video Process@Chroma",

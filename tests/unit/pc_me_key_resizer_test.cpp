@@ -9,7 +9,7 @@ TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
     const std::string border = "Border/Crop@", effect = "Enhanced Effect@";
     const struct {
         uint32_t page;
-        Lines lines; // behind "M/E-2@Key3@Resizer@"
+        Lines lines; // of the key's resizer
         std::set<int> disabled;
     } cases[] = {
         {0x12350000, {"Resizer#false"}, {18, 20, 21, 33, 34, 35, 49, 50, 51, 52, 53}},
@@ -32,7 +32,10 @@ TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
     };
     for (const auto& c : cases) {
         Open(c.page);
-        TellAll("M/E-2@Key3@Resizer@", c.lines);
+        for (const std::string& line : c.lines) {
+            const bool is_switch = line.starts_with("Resizer#"); // it stands with the processed key
+            Tell((is_switch ? "M/E-2@Key3@Processed Key@" : "M/E-2@Key3@Resizer@") + line);
+        }
         EXPECT_EQ(Disabled(), c.disabled) << std::hex << c.page << " " << c.lines.back();
     }
 }
@@ -42,7 +45,7 @@ TEST_F(KeyResizerPages, WithoutTheLargeFrameMemoryThereIsNone)
     SYS_FmemV6 = 0;
     for (uint32_t page = 0x11150000; page <= 0x11150005; page++) {
         EXPECT_EQ(Held(Open(page), "M/E-1@Key1@Resizer@Combine"), 0);
-        Tell("M/E-1@Key1@Resizer@Resizer#true");
+        Tell("M/E-1@Key1@Processed Key@Resizer#true");
         for (const BT_MEM* b = bt_first(); b->id >= 1; b++)
             EXPECT_EQ(b->visible, BT_DISABLED) << std::hex << page << " " << b->id;
     }
@@ -98,7 +101,7 @@ TEST_F(KeyResizerPages, TheButtonsOfTheRotationShareOneSumOfAxes)
     const std::string rotation = "PGM/PST@DSK2@Processed Key@Rotation#";
     for (const auto& c : cases) {
         Open(0x14250005);
-        TellAll("", {"PGM/PST@DSK2@Resizer@Resizer#true", rotation + c.now});
+        TellAll("", {"PGM/PST@DSK2@Processed Key@Resizer#true", rotation + c.now});
         if (BT_GetStatus(c.button) == BT_ON) { // the first press only takes the knobs
             EXPECT_THAT(Puts(Press(c.button)), IsEmpty());
         }
@@ -145,7 +148,7 @@ TEST_F(KeyResizerPages, AShownColumnFollowsTheRotation)
         const std::string add = "add " + key + c.turned;
         Tell(key + "Processed Key@Rotation#0");
         Open(c.page);
-        TellAll(key, {"Resizer@Resizer#true", "Processed Key@Processed Key#true"});
+        TellAll(key, {"Processed Key@Resizer#true", "Processed Key@Processed Key#true"});
         EXPECT_THAT(Press(c.button), Not(Contains(add)));
         EXPECT_THAT(Tell(key + "Processed Key@Rotation#3"), Contains(add));
     }
