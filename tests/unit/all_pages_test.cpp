@@ -12,7 +12,6 @@
 #include "text.h"
 #include "window.h"
 #include <algorithm>
-#include <cstdio>
 #include <map>
 #include <set>
 #include <string>
@@ -63,18 +62,6 @@ void CloseAll()
     (void)CloseWindow(); // none may be open
     while (int id = Pane_GetActiveID())
         Pane_Quit(id);
-}
-
-std::string ReadAll(const char* path)
-{
-    std::string text;
-    if (FILE* f = fopen(path, "r")) {
-        char buf[4096];
-        while (size_t n = fread(buf, 1, sizeof buf, f))
-            text.append(buf, n);
-        fclose(f);
-    }
-    return text;
 }
 } // namespace
 
@@ -169,7 +156,7 @@ TEST_F(AllPages, NoneKeepsMemoryOrLacksABitmap)
     server.Drop();
     server.StopListening();
     Net_Init(); // nobody is there: the link is down again
-    const std::string log = ReadAll(LOG);
+    const std::string log = FileText(LOG);
     EXPECT_NE(log, "") << "no log was written";
     EXPECT_EQ(log.find("Can't load graphics file"), std::string::npos);
 }
