@@ -1,13 +1,7 @@
-#include "a_ba.h"
 #include "a_kf.h"
 #include "a_kf_frames.h"
-#include "a_pc.h"
-#include "command.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
+#include "hand_page.h"
 #include "netio.h"
-#include "page.h"
 #include "tdl.h"
 #include "text.h"
 #include <algorithm>
@@ -38,8 +32,7 @@ std::vector<int> Order(int n)
 }
 } // namespace
 
-struct Keyframes : testing::Test {
-    PAGE page;
+struct Keyframes : HandPage {
     static inline std::vector<std::string> told; // "STATUS 14", "SELECTION"
 
     static int WriteDown(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
@@ -51,22 +44,16 @@ struct Keyframes : testing::Test {
             told.push_back("SELECTION");
         return 0;
     }
-    static constexpr PC_TBL listener = {.proc_func = WriteDown};
 
+    Keyframes()
+    {
+        object_kind = OBJ_KF;
+        base.proc_func = WriteDown;
+    }
     void SetUp() override
     {
-        Harness_Reset();
+        HandPage::SetUp();
         SYS_FrameRate = RATE;
-        OpenPage(0x11110000);
-    }
-    void TearDown() override { Harness_Reset(); }
-    void OpenPage(uint32_t id)
-    {
-        page = {.id = id, .tree = {"Test"}, .obj = {{OBJ_PC, &listener, 0}, {OBJ_KF, nullptr, 0}}};
-        Page = &page;
-        GL_NowPage = id;
-        GL_NowTree = page.tree;
-        PC_Create(&listener, 0);
         told.clear();
     }
 };

@@ -1,39 +1,10 @@
-#include "a_pc.h"
-#include "bus.h"
-#include "global.h"
-#include "harness.h"
+#include "bus_probe.h"
 #include "initread.h"
 #include "loop.h"
-#include "message.h"
 #include "netio.h"
-#include "page.h"
-#include <algorithm>
 
 namespace
 {
-struct Seen {
-    int msg;
-    MsgArg ax, bx, cx, dx;
-};
-std::vector<Seen> seen; // what reached the page, but for repaints
-int redraw_ms = -1;     // ax of the last repaint
-
-int Probe(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
-{
-    if (msg == MSG_REDRAW)
-        redraw_ms = int(ax);
-    else
-        seen.push_back({msg, ax, bx, cx, dx});
-    return 0;
-}
-int ProbeCreate(int, uint32_t)
-{
-    return 0;
-}
-
-constexpr PC_TBL probe_code = {.proc_func = Probe, .create_func = ProbeCreate};
-PAGE probe_page = {.id = 0x33110100, .tree = {"Probe"}, .obj = {{OBJ_PC, &probe_code, 0}}};
-
 SDL_Event Button(int type, int x, int y, int button = SDL_BUTTON_LEFT)
 {
     SDL_Event e{};
@@ -54,34 +25,25 @@ SDL_Event Motion(int x, int y, int state)
     return e;
 }
 
-size_t Count(int msg)
-{
-    return size_t(
-        std::count_if(seen.begin(), seen.end(), [&](const Seen& s) { return s.msg == msg; }));
-}
-
-struct Loop : testing::Test {
+struct Loop : BusTest {
     void SetUp() override
     {
-        Harness_Reset();
+        BusTest::SetUp();
         GL_ChatteringTime = 130;
-        CopyServerAddress();
-        Page = &probe_page;
-        PC_Create(&probe_code, 0);
+        snprintf(GL_ServerAddress, sizeof GL_ServerAddress, "127.0.0.1");
+        GL_NowPage = 0x33110100;
         Clock_ms = 100000;
         MainPass();
-        Clear();
+        probe::seen.clear();
     }
-    void TearDown() override { Harness_Reset(); }
-
-    static void CopyServerAddress()
+    static size_t Count(int msg) { return size_t(probe::Count(msg)); }
+    // What the last repaint was told.
+    static int Elapsed_ms()
     {
-        snprintf(GL_ServerAddress, sizeof GL_ServerAddress, "127.0.0.1");
-    }
-    static void Clear()
-    {
-        seen.clear();
-        redraw_ms = -1;
+        int ms = -1;
+        for (const auto& s : probe::seen)
+            ms = s.msg == MSG_REDRAW ? int(s.ax) : ms;
+        return ms;
     }
     // One event through the whole pass.
     static void Pass(SDL_Event e)
@@ -108,7 +70,7 @@ TEST_F(Loop, APassLastsTenMillisecondsAndItsStepIsClamped)
         Clock_ms = TickBefore + uint32_t(c.step_ms);
         const uint32_t before = Clock_ms;
         MainPass();
-        EXPECT_EQ(redraw_ms, c.elapsed_ms) << c.step_ms;
+        EXPECT_EQ(Elapsed_ms(), c.elapsed_ms) << c.step_ms;
         EXPECT_EQ(int(Clock_ms - before), c.waited_ms) << c.step_ms;
     }
 }
@@ -152,8 +114,8 @@ TEST_F(Loop, ADragIsDeliveredNineStepsAPass)
     }
     MainPass();
     ASSERT_EQ(Count(MSG_DRAG), 9u);
-    EXPECT_EQ(seen[8].ax, 108);
-    EXPECT_EQ(seen[8].dx, 4);
+    EXPECT_EQ(probe::seen[8].ax, 108);
+    EXPECT_EQ(probe::seen[8].dx, 4);
     MainPass();
     EXPECT_EQ(Count(MSG_DRAG), 12u);
 }
@@ -204,13 +166,13 @@ TEST_F(Loop, TheTimedProgressEndsOnTheInitialPage)
 TEST_F(Loop, TheReducedPassKeepsTheScreenAliveAndNothingElse)
 {
     MainEventCheck(); // its clock begins here
-    Clear();
+    probe::seen.clear();
     GL_CreatePage = 0x12110000;
     SDL_Event e = Button(SDL_MOUSEBUTTONDOWN, 7, 8);
     SDL_PushEvent(&e);
     MainEventCheck();
     EXPECT_EQ(Count(MSG_PRESS), 1u);
-    EXPECT_EQ(redraw_ms, 10);
+    EXPECT_EQ(Elapsed_ms(), 10);
     EXPECT_NE(GL_NowPage, 0x12110000u);
     GL_CreatePage = 0;
 }
