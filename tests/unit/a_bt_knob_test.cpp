@@ -7,7 +7,6 @@
 #include "page_table/nb_nonlinear.h"
 #include "page_table/nb_wipe.h"
 #include "table_page.h"
-#include "tdl.h"
 #include <cstring>
 #include <map>
 #include <string_view>
@@ -61,9 +60,8 @@ TEST_F(KnobLinks, EveryNumberChoosesAmongTablesThatDiffer)
     EXPECT_EQ(TablesOf(0).size() + TablesOf(LAST_NUMBER + 1).size() + TablesOf(255).size(), 0u);
 }
 
-TEST_F(KnobLinks, EveryTableIsSound)
+TEST_F(KnobLinks, EveryTableHasItsBoxesInSlotsFromTheFirst)
 {
-    Harness_Video();
     for (int number = 1; number <= LAST_NUMBER; number++)
         for (const NB_TBL* table : TablesOf(number)) {
             std::set<int> ids;
@@ -71,8 +69,6 @@ TEST_F(KnobLinks, EveryTableIsSound)
             for (const NB_TBL* nb = table; nb->id >= 1; nb++) {
                 EXPECT_TRUE(ids.insert(nb->id).second) << number << " " << nb->caption;
                 EXPECT_TRUE((nb->id & 15) >= 1 && (nb->id & 15) <= 5) << number << " " << nb->id;
-                EXPECT_NE(nb->min, nb->max) << number << " " << nb->caption;
-                EXPECT_LE(TDL_GetSymbolWidth(nb->caption, 3), 74u) << number << " " << nb->caption;
                 EXPECT_TRUE(nb->cmd) << number << " " << nb->caption;
             }
             EXPECT_LE(ids.size(), size_t(NB_MAX)) << number;

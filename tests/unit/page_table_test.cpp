@@ -85,10 +85,12 @@ template <typename Visit> void ForEachTab(PAGE& page, Visit visit)
 template <typename Visit> void ForEachBox(Visit visit)
 {
     ForEachButton([&](PAGE& page, const BT_TBL& b) {
-        if (!b.nb || b.nb == NoKnobs() || SpecialKnobNumber(b.nb))
-            return;
-        for (const NB_TBL* nb = b.nb; nb->id >= 1; nb++)
-            visit(page, b, *nb);
+        const NB_TBL* tables[16] = {b.nb};
+        const int number = SpecialKnobNumber(b.nb);
+        const int n = number ? special_knob_tables(number, tables, 16) : b.nb != NoKnobs();
+        for (int i = 0; i < n; i++)
+            for (const NB_TBL* nb = tables[i]; nb && nb->id >= 1; nb++)
+                visit(page, b, *nb);
     });
 }
 } // namespace
