@@ -1,11 +1,14 @@
 #include "harness.h"
 #include "a_ba.h"
 #include "a_bt.h"
+#include "a_dw.h"
 #include "a_hf.h"
 #include "a_kf.h"
+#include "a_kp.h"
 #include "a_ls.h"
 #include "a_nb.h"
 #include "a_pc.h"
+#include "a_ps.h"
 #include "a_st.h"
 #include "a_vf.h"
 #include "bus.h"
@@ -75,6 +78,9 @@ static void empty_page()
     KF_Create(nullptr, 0);
     NB_Create(nullptr, nullptr);
     LS_Create(nullptr, 0);
+    DW_Create(nullptr, 0);
+    KP_Create(nullptr, 0);
+    PS_Create(nullptr, 0);
     ST_Create(nullptr, 0);
     HF_Create(nullptr, 0);
     VF_Create(nullptr, 0);
@@ -89,6 +95,7 @@ static void reset_state()
     Device_Init();
     DeviceStructure();
     me_config_reset();
+    Global_FreeBusNames();
     SYS_DualProc = SYS_Simul = SYS_DualSimul = SYS_3DMode = SYS_4KMode = SYS_SetupTarget = 0;
     SYS_DMEReference = SYS_Format_Size = SYS_Format_Freq = SYS_Format_Scan = 0;
     SYS_KeyTransitionME1 = SYS_KeyTransitionME2 = SYS_KeyTransitionME3 = SYS_KeyTransitionME4 = 0;

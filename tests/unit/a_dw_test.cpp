@@ -27,11 +27,6 @@ struct WipeLists : TabPage {
         TabPage::SetUp();
         Open({"M/E-1", "Key1", "Transition", "Adjust"}, 0);
     }
-    void TearDown() override
-    {
-        DW_Create(nullptr, 0);
-        TabPage::TearDown();
-    }
     void Open(std::initializer_list<const char*> tree, uint32_t knob_row)
     {
         DW_Create(nullptr, 0);

@@ -28,12 +28,6 @@ struct PathLists : TabPage {
         SetTree({"Key Frame", "Path"}, 0x61130000, OBJ_KP);
         KP_Create(rows, 0);
     }
-    void TearDown() override
-    {
-        CloseWindow();
-        KP_Create(nullptr, 0);
-        TabPage::TearDown();
-    }
     // What the press on a cell comes to, when the key in that place of its window is pressed.
     static std::vector<std::string> Choose(int x, int y, int window_x, int place)
     {

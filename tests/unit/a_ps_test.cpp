@@ -23,11 +23,6 @@ struct PatternSelect : TabPage {
         TabPage::SetUp();
         Open({"M/E-1", "Key1", "Main Mask", "Ptn Select"});
     }
-    void TearDown() override
-    {
-        PS_Create(nullptr, 0);
-        TabPage::TearDown();
-    }
     void Open(std::initializer_list<const char*> tree)
     {
         PS_Create(nullptr, 0);

@@ -71,19 +71,9 @@ struct AllPages : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        CloseAll();
         GL_AllPageDisplayMode = 1; // the variants of a page, too
     }
-    void TearDown() override
-    {
-        CloseAll();
-        GL_AllPageDisplayMode = 0;
-        CreatePage(PAGE_TOP);
-        Page_Reset();
-        GL_CreatePage = 0;
-        (void)TakeQueuedCommands();
-        Log_Init(nullptr, LOG_FILE_SIZE);
-    }
+    void TearDown() override { Harness_Reset(); }
     // Opens every page, each from the top menu and back to it, and
     // tells the visitor what the visit left subscribed.
     template <typename Visit> static int Walk(Visit visit)

@@ -21,11 +21,6 @@ struct BusTally : BusTest {
         BusTest::SetUp();
         Global_InitBusNames();
     }
-    void TearDown() override
-    {
-        Global_FreeBusNames();
-        BusTest::TearDown();
-    }
 };
 
 // --- Single values ---

@@ -87,13 +87,7 @@ struct KeySignals : TablePage {
     void SetUp() override
     {
         TablePage::SetUp();
-        Global_FreeBusNames();
         TellAll(SOURCE, {"1,CAM 1", "2,CAM 2", "7,VTR", "9,"}); // 9 has no name
-    }
-    void TearDown() override
-    {
-        TablePage::TearDown();
-        Global_FreeBusNames();
     }
     static inline const string SOURCE = "Engineering Setup@Panel@Xpt Assign@Source@List#";
 

@@ -1,17 +1,13 @@
 // What the pages of the banks share: their words and numbers, and how a split board limits them.
 #include "a_ba.h"
-#include "bus.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
 #include "pc_me.h"
-#include <gmock/gmock.h>
+#include "table_page.h"
 
-TEST(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
+struct MeBank : TablePage {
+};
+
+TEST_F(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
 {
-    Harness_Reset();
-    const FullHouse all;
     static const struct {
         uint32_t page;
         int index;
@@ -37,12 +33,9 @@ TEST(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
     EXPECT_EQ(Now_disp_draw(), 0);
 }
 
-TEST(MeBank, ABoardInFourBanksLeavesEachWithFourKeys)
+TEST_F(MeBank, ABoardInFourBanksLeavesEachWithFourKeys)
 {
-    Harness_Reset();
-    const FullHouse all;
-    char split[] = "Engineering Setup@System@Install@Unit Config@M/E Split#1,4,2,1,1";
-    SendDummyTally(split);
+    Tell("Engineering Setup@System@Install@Unit Config@M/E Split#1,4,2,1,1");
     static const struct {
         uint32_t asked, opened;
     } cases[] = {
@@ -55,15 +48,10 @@ TEST(MeBank, ABoardInFourBanksLeavesEachWithFourKeys)
         EXPECT_EQ(CreatePage(c.asked), 0);
         EXPECT_EQ(GL_NowPage, c.opened) << std::hex << c.asked;
     }
-    CreatePage(PAGE_TOP);
-    char whole[] = "Engineering Setup@System@Install@Unit Config@M/E Split#1,1,1,1,1";
-    SendDummyTally(whole);
 }
 
-TEST(MeBank, DefaultRecallFromATabStaysOnItsSide)
+TEST_F(MeBank, DefaultRecallFromATabStaysOnItsSide)
 {
-    Harness_Reset();
-    const FullHouse all;
     static const struct {
         uint32_t page;
         int slot;
@@ -76,12 +64,9 @@ TEST(MeBank, DefaultRecallFromATabStaysOnItsSide)
     };
     for (const auto& c : cases) {
         std::fill_n(multiprogram2_me, ME_COUNT, c.multi);
-        ASSERT_EQ(CreatePage(c.page), 0);
-        (void)TakeQueuedCommands();
+        Open(c.page);
         BA_SetDefaultButton(1);
-        SendMessage(MSG_PRESS, 40, 73 + 65 * (c.slot - 1) + 20, 1, 0);
-        EXPECT_THAT(TakeQueuedCommands(), testing::Contains(c.sent));
+        EXPECT_THAT(Touch(40, 73 + 65 * (c.slot - 1) + 20), Contains(c.sent));
         EXPECT_EQ(BA_IsDefaultButton(), 0) << c.sent;
     }
-    CreatePage(PAGE_TOP);
 }
