@@ -136,10 +136,10 @@ TEST_F(MeMisc, APressMovesOneKeyAndShiftsTheOthersWhenTheOrderIsKnown)
         Lines sent;         // behind the "#"
     } cases[] = {
         {0x13730000, "1,2,3,4,5,6,7,8", 0x14, {"2,3,4,1,5,6,7,8"}},
+        {0x13730000, "1,2,3,4", 0x41, {"4,1,2,3"}},
         {0x13730000, "2,1,4,3", 0x43, {"2,1,4,3"}}, // it is there already, and there are four keys
         {0x13730001, "4,3,2,1,1,2,3,4", 0x12, {"4,3,2,1,2,1,3,4"}},
         {0x13730000, "1,1,2,3", 0x13, {}}, // nobody has the last place
-        {0x13730000, "1,2,3,", 0x11, {}},
         {0x13730001, "1,2,3,4", 0x11, {}},
     };
     const std::string path = "M/E-3@Misc@Key Priority@Key Priority#";
@@ -151,6 +151,9 @@ TEST_F(MeMisc, APressMovesOneKeyAndShiftsTheOthersWhenTheOrderIsKnown)
             line.erase(0, ("put " + path).size());
         EXPECT_EQ(sent, c.sent) << c.before;
     }
+    Open(0x13730000);
+    Tell(path + "1,2,3,");
+    EXPECT_EQ(BT_GetStatus(0x11), BT_NO_TALLY) << "too short";
 }
 
 TEST_F(MeMisc, TheNormalOrderIsThatOfThePagesOwnKeys)
