@@ -30,7 +30,7 @@ bool Setup_Keys(const std::string& bank, int keys)
     for (size_t i = 0; i < BOARDS; ++i) {
         if (bank != banks[i].word)
             continue;
-        parts[i] = keys == 4 ? "4" : "1";
+        parts[i] = std::string(1, keys == 4 ? '4' : '1'); // a literal here makes g++ -O2 warn
         std::string line;
         for (const std::string& part : parts)
             line += (line.empty() ? "" : ",") + part;
