@@ -154,9 +154,9 @@ static int press(int x, int y)
 
 static void mark(int number)
 {
-    const int i = number - LayerName[ps.layer].first;
-    if (i >= 0 && i < ps.cells)
-        ps.cell[i].redraw = 1;
+    const int first = LayerName[ps.layer].first;
+    if (number >= first && number - first < ps.cells)
+        ps.cell[number - first].redraw = 1;
 }
 
 // The layer that holds a number, -1 when the set has none.

@@ -7,6 +7,7 @@
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "tally_value.h"
 #include "text.h"
 #include <cstdio>
 #include <cstdlib>
@@ -91,8 +92,8 @@ int get_now_btn_color(int button_id)
 
 static void fav_color_tally(int n, const char* value)
 {
-    const int color = int(strtol(value, nullptr, 10)) - 1;
-    fav.item[n].color = color >= 0 && color < COLORS ? color : COLORS;
+    const int color = IndexFrom1(value, COLORS);
+    fav.item[n].color = color >= 0 ? color : COLORS;
     if (GL_NowPage == 0x00220000)
         BT_SetStatus(fav_button(n), BT_OFF); // a repaint takes the new colour
 }
@@ -148,8 +149,8 @@ static int fav_button_pressed(const char* path, const char* value)
     if (strcmp(path, "LOCAL@Favorites@Store") == 0) {
         fav_set_storing(!fav.storing);
     } else if (strcmp(path, "LOCAL@Favorites@Open") == 0) {
-        const int n = int(strtol(value, nullptr, 10)) - 1;
-        if (n >= 0 && n < FAVORITES)
+        const int n = IndexFrom1(value, FAVORITES);
+        if (n >= 0)
             fav_press(n);
     }
     return 0;
@@ -160,8 +161,8 @@ static int fav_tally(const char* path, const char* value)
     static constexpr char prefix[] = "Info@Operation Setup Data@Color Select@";
     if (!BeginsWith(path, prefix))
         return 0;
-    const int n = int(strtol(path + sizeof prefix - 1, nullptr, 10)) - 1;
-    if (n >= 0 && n < FAVORITES)
+    const int n = IndexFrom1(path + sizeof prefix - 1, FAVORITES);
+    if (n >= 0)
         fav_color_tally(n, value);
     return 0;
 }

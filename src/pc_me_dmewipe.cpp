@@ -216,10 +216,13 @@ static void remove_pattern(int number)
 // The part begins before it ends: each box ends where the other one stands.
 static void remove_value(const char* rest, double value)
 {
-    int ch = 0;
-    if (sscanf(rest, "Start@%d", &ch) == 1 && BT_GetKnobAssign() == remove_buttons[0] + ch - 1)
+    const char* at = strrchr(rest, '@');
+    const int ch = at ? IndexFrom1(at + 1, int(std::size(remove_buttons))) : -1;
+    if (ch < 0 || BT_GetKnobAssign() != remove_buttons[ch])
+        return;
+    if (BeginsWith(rest, "Start@"))
         NB_AddMinMax(BOX_LIMIT, value, 100);
-    else if (sscanf(rest, "Limit@%d", &ch) == 1 && BT_GetKnobAssign() == remove_buttons[0] + ch - 1)
+    else if (BeginsWith(rest, "Limit@"))
         NB_AddMinMax(BOX_START, 0, value);
 }
 

@@ -419,8 +419,8 @@ static void dme_aspect_tally(const char* value)
     Parts p;
     if (SplitValue(p, value, 4) < 4)
         return;
-    const int dme = Decimal(p.v[0]) - 1;
-    if (dme < 0 || dme >= DMES)
+    const int dme = IndexFrom1(p.v[0], DMES);
+    if (dme < 0)
         return;
     CopyText(modify.DmeAsp[dme], p.v[1]);
     modify.DmeMe[dme] = Decimal(p.v[2]);
@@ -532,8 +532,8 @@ static void value_tally(const Value& what, int ch, const char* value)
 static void channel_tally(const char* rest, const char* value)
 {
     const char* at = strrchr(rest, '@');
-    const int ch = at ? Decimal(at + 1) - 1 : -1;
-    if (ch < 0 || ch >= modify.ptn)
+    const int ch = at ? IndexFrom1(at + 1, modify.ptn) : -1;
+    if (ch < 0)
         return;
     const auto is = [&](const char* path) {
         return strlen(path) == size_t(at - rest) && BeginsWith(rest, path);

@@ -73,3 +73,10 @@ inline int Index(const char* text, int count)
     const long long n = strtoll(text, &end, 10);
     return end == text || n < 0 || n >= count ? -1 : int(n);
 }
+
+// The same for rows that are counted from 1: "1" picks the first.
+inline int IndexFrom1(const char* text, int count)
+{
+    const int n = Index(text, count + 1);
+    return n < 1 ? -1 : n - 1;
+}

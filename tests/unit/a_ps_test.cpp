@@ -89,8 +89,13 @@ TEST_F(PatternSelect, TheChosenCellFollowsItsTallyIntoItsLayer)
         int cell; // -1: none of those shown
         const char* first;
     } cases[] = {
-        {"5", 4, "1"},      {"32", 31, "1"},    {"33", 0, "33"},
-        {"9999", -1, "33"}, {"304", 31, "273"}, {"x", -1, "273"},
+        {"5", 4, "1"},
+        {"32", 31, "1"},
+        {"33", 0, "33"},
+        {"9999", -1, "33"},
+        {"304", 31, "273"},
+        {"x", -1, "273"},
+        {"-99999999999", -1, "273"},
     };
     for (const auto& c : cases) {
         Tally(PATH, c.value);
