@@ -34,8 +34,9 @@ int main(int argc, char** argv)
         {.name = "pass, switched off", .once = off, .limit_copies = 0.01},
         {.name = "plain text", .once = step<0>, .limit_copies = 1},
         {.name = "mode 1", .once = step<1>, .limit_copies = 1},
-        {.name = "mode 4", .once = step<4>, .limit_copies = 1},
-        {.name = "mode 5", .once = step<5>, .limit_copies = 1.1},
+        // These two compute rather than copy: where memory is fast they count for more.
+        {.name = "mode 4", .once = step<4>, .limit_copies = 1.4},
+        {.name = "mode 5", .once = step<5>, .limit_copies = 1.4},
         {.name = "mode 7", .once = step<7>, .limit_copies = 1},
         {.name = "mode 9", .once = step<9>, .limit_copies = 1},
         {.name = "mode 17", .once = step<17>, .limit_copies = 1},
