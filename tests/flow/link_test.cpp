@@ -5,14 +5,9 @@
 #include "netio.h"
 #include <cstring>
 #include <fcntl.h>
-#include <gmock/gmock.h>
 #include <memory>
 #include <sys/socket.h>
 #include <unistd.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using Strings = std::vector<std::string>;
 
 static constexpr int HUB_PORT = 9500;
 

@@ -3,9 +3,19 @@
 #pragma once
 #include "types.h"
 #include <SDL.h>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <string>
 #include <vector>
+
+using testing::AllOf;
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using Strings = std::vector<std::string>;
 
 // The fake clock behind SDL_GetTicks and SDL_Delay (which only advances it).
 extern uint32_t Clock_ms;

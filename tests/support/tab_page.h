@@ -6,7 +6,6 @@
 #include "hand_page.h"
 #include "me_config.h"
 #include "scrollbar.h"
-#include <gmock/gmock.h>
 #include <iterator>
 
 constexpr const char* OUTPUT_LIST = "Engineering Setup@Switcher@Config@M/E Output Assign@List";

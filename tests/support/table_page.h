@@ -10,15 +10,7 @@
 #include "message.h"
 #include "page.h"
 #include <algorithm>
-#include <gmock/gmock.h>
 #include <set>
-
-using testing::AllOf;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
-using testing::Not;
 
 struct TablePage : testing::Test {
     using Lines = std::vector<std::string>;

@@ -1,12 +1,7 @@
-#include "a_ba.h"
 #include "a_bt_page.h"
-#include "bus.h"
 #include "device.h"
 #include "setup_index.h"
 #include <filesystem>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
 
 namespace
 {

@@ -1,12 +1,4 @@
-#include "a_ba.h"
-#include "a_bt.h"
 #include "a_bt_page.h"
-#include "command.h"
-#include "global.h"
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
 

@@ -1,9 +1,6 @@
 #include "a_dw.h"
 #include "tab_page.h"
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 const DW_TBL table = {.cmd = "~4@Pattern Select@Pattern", .grpid = {17, 0, 36, 22, 99}};

@@ -1,9 +1,6 @@
 #include "a_hf.h"
 #include "tab_page.h"
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 const HF_TBL tabs[] = {

@@ -4,12 +4,7 @@
 #include "netio.h"
 #include "tdl.h"
 #include "text.h"
-#include <algorithm>
-#include <gmock/gmock.h>
 #include <iterator>
-
-using testing::ElementsAre;
-using testing::ElementsAreArray;
 
 namespace
 {

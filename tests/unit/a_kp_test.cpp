@@ -3,9 +3,6 @@
 #include "tab_page.h"
 #include "window.h"
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 const KP_TBL rows[] = {

@@ -3,10 +3,6 @@
 #include "tdl.h"
 #include "window.h"
 #include <climits>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 // Rows of 22 pixels from y 100 on; the first row begins at 122. Five rows, the bar at x 202.
 static const LS_TBL plain[] = {

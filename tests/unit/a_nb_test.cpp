@@ -1,11 +1,6 @@
 #include "a_nb_column.h"
 #include "pane.h"
-#include <cmath>
-#include <gmock/gmock.h>
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Lines = std::vector<std::string>;
 
 // Every kind of path; two layers.

@@ -2,8 +2,6 @@
 #include "page_table/patterns.h"
 #include "tab_page.h"
 
-using testing::IsEmpty;
-
 namespace
 {
 constexpr const char* PATH = "M/E-1@Key1@Main Mask@Ptn Select@Pattern";

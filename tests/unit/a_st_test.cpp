@@ -3,12 +3,7 @@
 #include "page_table/st_me_key.h"
 #include "page_table/st_me_misc.h"
 #include "page_table/st_me_wipe.h"
-#include <gmock/gmock.h>
 #include <iterator>
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr uint32_t LIT = 0x0B3A46;
 constexpr uint32_t WHITE = 0xFFFFFF;

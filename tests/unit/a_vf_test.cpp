@@ -1,9 +1,6 @@
 #include "a_vf.h"
 #include "tab_page.h"
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace
 {
 const VF_TBL tabs[] = {

@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <map>
 #include <set>
-#include <string>
 
 namespace
 {

@@ -2,7 +2,6 @@
 #include "../../assets/wipe_numbers.h"
 #include "harness.h"
 #include <filesystem>
-#include <string>
 
 namespace fs = std::filesystem;
 using Bytes = std::string;

@@ -1,11 +1,6 @@
 #include "bus_probe.h"
 #include <algorithm>
 #include <cstring>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using Strings = std::vector<std::string>;
 
 #define FORMAT "Engineering Setup@System@Format@"
 #define SYSTEM_CONFIG "Engineering Setup@System@System Config@"

@@ -1,14 +1,8 @@
 #include "bus_probe.h"
 #include "netio.h"
 #include <cstring>
-#include <gmock/gmock.h>
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-using Strings = std::vector<std::string>;
-
-struct Bus : BusTest {
-};
+using Bus = BusTest;
 
 TEST_F(Bus, TheRowIsWalkedToItsFirstEmptyPlace)
 {

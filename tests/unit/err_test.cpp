@@ -3,8 +3,6 @@
 #include "harness.h"
 #include "memory.h"
 #include "page.h"
-#include <gmock/gmock.h>
-#include <string>
 
 TEST(ErrorList, FillsUpTo12000AndFreesAll)
 {

@@ -3,8 +3,6 @@
 #include "log.h"
 #include "tdl_fixture.h"
 #include <filesystem>
-#include <gtest/gtest.h>
-#include <string>
 
 namespace
 {

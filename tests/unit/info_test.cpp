@@ -2,10 +2,7 @@
 #include "info.h"
 #include <algorithm>
 #include <climits>
-#include <gmock/gmock.h>
 #include <iterator>
-
-using testing::ElementsAre;
 
 #define OPERATION "Info@Operation Setup Data@"
 #define SYSTEM "Info@System Setup Data@"

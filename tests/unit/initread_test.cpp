@@ -1,12 +1,7 @@
 #include "bus_probe.h"
 #include "initread.h"
 #include <algorithm>
-#include <gmock/gmock.h>
 #include <set>
-
-using testing::Contains;
-using testing::Not;
-using Strings = std::vector<std::string>;
 
 struct InitialReadTest : BusTest {
     void SetUp() override

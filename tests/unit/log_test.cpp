@@ -3,9 +3,6 @@
 #include "log.h"
 #include <filesystem>
 #include <fstream>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <string>
 
 namespace
 {

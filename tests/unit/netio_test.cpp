@@ -2,10 +2,6 @@
 #include "harness.h"
 #include "netio_private.h"
 #include <cstring>
-#include <gmock/gmock.h>
-
-using testing::IsEmpty;
-using Strings = std::vector<std::string>;
 
 // Nobody listens: the links are down, lines are fed and commands taken by hand.
 struct Netio : testing::Test {

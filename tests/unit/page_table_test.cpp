@@ -13,7 +13,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <set>
-#include <string>
 
 namespace
 {

@@ -2,10 +2,6 @@
 #include "pane_page.h"
 #include "pane_private.h"
 #include <climits>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {
@@ -28,8 +24,7 @@ std::vector<uint32_t> Well()
 }
 } // namespace
 
-struct Panes : PanePage {
-};
+using Panes = PanePage;
 
 TEST_F(Panes, AnswersAreTheResult)
 {

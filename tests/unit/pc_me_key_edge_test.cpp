@@ -4,8 +4,7 @@
 
 using std::string;
 
-struct KeyEdgePage : TablePage {
-};
+using KeyEdgePage = TablePage;
 
 TEST_F(KeyEdgePage, OffersWhatThisEdgeOfThisKeyHas)
 {

@@ -1,8 +1,7 @@
 // The mask pages of a key: what a utility bus carries, and where the pattern is chosen.
 #include "table_page.h"
 
-struct KeyMaskPages : TablePage {
-};
+using KeyMaskPages = TablePage;
 
 TEST_F(KeyMaskPages, AUtilityBusIsNamedByTheSourceOfItsOwnBank)
 {

@@ -4,8 +4,7 @@
 static const std::string STATUS = "M/E-1@Key1@Processed Key@DME Status#";
 static const std::string ALL_FREE = STATUS + "Free,Free,Free,Free,Free,Free,Free,Free";
 
-struct KeyProcessPages : TablePage {
-};
+using KeyProcessPages = TablePage;
 
 TEST_F(KeyProcessPages, AChannelOfAnotherKeyIsTakenOnlyByOverride)
 {

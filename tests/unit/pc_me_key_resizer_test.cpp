@@ -1,8 +1,7 @@
 // The pages of a key's resizer: what is grey, the crop of two edges, the axes of the rotation.
 #include "table_page.h"
 
-struct KeyResizerPages : TablePage {
-};
+using KeyResizerPages = TablePage;
 
 TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
 {

@@ -9,8 +9,7 @@
 using std::string;
 using testing::MatchesRegex;
 
-struct KeyTypePage : TablePage {
-};
+using KeyTypePage = TablePage;
 
 TEST_F(KeyTypePage, SettingsOfEachTypeAreFollowedAndTheChosenOnesShown)
 {
@@ -158,8 +157,7 @@ TEST_F(KeySignals, ANewNameMovesTheRowsAtOnce)
 
 // --- Matte and chroma ---
 
-struct KeyMattePage : TablePage {
-};
+using KeyMattePage = TablePage;
 
 TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
 {
@@ -210,8 +208,7 @@ TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
     }
 }
 
-struct KeyChromaPage : TablePage {
-};
+using KeyChromaPage = TablePage;
 
 TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
 {

@@ -1,8 +1,7 @@
 // The transition page of a key in its two forms: which type governs, and what can be adjusted then.
 #include "table_page.h"
 
-struct KeyTransitionPage : TablePage {
-};
+using KeyTransitionPage = TablePage;
 
 constexpr uint32_t SAME = 0x12370100, INDEPENDENT = 0x12370200;
 

@@ -2,8 +2,7 @@
 // subscribes, which buttons the installation leaves.
 #include "table_page.h"
 
-struct MeMisc : TablePage {
-};
+using MeMisc = TablePage;
 
 static const struct {
     uint32_t bank; // of the page's id

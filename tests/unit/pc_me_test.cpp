@@ -3,8 +3,7 @@
 #include "pc_me.h"
 #include "table_page.h"
 
-struct MeBank : TablePage {
-};
+using MeBank = TablePage;
 
 TEST_F(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
 {

@@ -3,7 +3,6 @@
 #include "process.h"
 #include <csignal>
 #include <fstream>
-#include <string>
 #include <sys/time.h>
 #include <sys/wait.h>
 

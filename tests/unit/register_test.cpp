@@ -3,13 +3,6 @@
 #include "register.h"
 #include "snapshot_region.h"
 #include <climits>
-#include <gmock/gmock.h>
-
-using testing::Each;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
-using Strings = std::vector<std::string>;
 
 namespace
 {

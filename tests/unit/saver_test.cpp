@@ -16,7 +16,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <gmock/gmock.h>
 
 namespace
 {

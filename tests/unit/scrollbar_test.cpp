@@ -1,9 +1,5 @@
 #include "a_ls_page.h"
 #include <climits>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr int X = 652;
 constexpr int Y = 78;

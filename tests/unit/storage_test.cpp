@@ -4,16 +4,10 @@
 #include "storage.h"
 #include "text.h"
 #include <filesystem>
-#include <gmock/gmock.h>
-#include <string>
 #include <sys/statvfs.h>
 
 namespace
 {
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 constexpr char LOG[] = "/var/log2/storage.log";
 

@@ -1,17 +1,9 @@
 #include "a_nb_column.h"
 #include "bus_probe.h"
-#include "message.h"
-#include "pane.h"
-#include "window.h"
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <gmock/gmock.h>
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 // --- Hands: the same keys by touch and on a keyboard ---
 
