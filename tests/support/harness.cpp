@@ -119,6 +119,7 @@ static void reset_state()
     std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
     std::fill_n(GL_MainSubAssign, PANEL_ROWS, 0);
     SYS_FrameRate = 60;
+    GL_ChatteringTime = 130;
     SYS_FmemV6 = SYS_SignalFormat = SYS_ScreenAspect = 1;
     SYS_DWSubEnable = GL_FillSourceAssignMode = 0;
     std::fill_n(SYS_RefSwrScreenAspect, 7, 0);

@@ -25,6 +25,9 @@ constexpr char LEVEL[] = "M/E-1@Key1@Type@Level";
 
 TEST_F(KnobColumn, ATableTakesTheKnobsAndTheNextOneGivesThemBackFirst)
 {
+    Open(table); // in the first layer
+    NB_Create(nullptr, "");
+    Forget();
     EXPECT_EQ(NB_Create(table, "Chroma"), 0);
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("add M/E-1@Key1@Type@Chroma@Clip", "add Panel@Common@Knob1",

@@ -22,8 +22,9 @@ inline std::function<int(const Seen&)> answer; // what the code does with a mess
 
 inline int Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
 {
-    seen.push_back({msg, ax, bx, cx, dx});
-    return answer ? answer(seen.back()) : 0;
+    const Seen now = {msg, ax, bx, cx, dx}; // a nested message moves those in the list
+    seen.push_back(now);
+    return answer ? answer(now) : 0;
 }
 inline constexpr PC_TBL code = {.proc_func = Proc};
 inline PAGE page;

@@ -29,7 +29,6 @@ struct Loop : BusTest {
     void SetUp() override
     {
         BusTest::SetUp();
-        GL_ChatteringTime = 130;
         snprintf(GL_ServerAddress, sizeof GL_ServerAddress, "127.0.0.1");
         GL_NowPage = 0x33110100;
         Clock_ms = 100000;
