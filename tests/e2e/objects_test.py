@@ -8,10 +8,7 @@ from deskcase import DeskCase
 TYPE = "M/E-1@Key1@Type@Key Type"
 CHROMA = f"{TYPE}@Chroma@"
 COLUMN = (706, 127, 799, 545)  # the number boxes
-WORK_AREA = (97, 73, 702, 526)
-PAGE_KEY = (45, 35)
 KNOB_PAD = (446 + 17, 140 + 310)  # where the "0" of the knob window stands
-PAGE_PAD = (98 + 375, 78 + 371)  # and that of the page window, which is centred
 
 
 def slot(number):
@@ -100,12 +97,6 @@ class Objects(DeskCase):
         time.sleep(0.3)
         self.desk.touch(100 + 100 + 50, 75 + 45)  # the second cell: the edge of this key
         self.desk.wait_wire("add M/E-1@Key2@Edge@Edge Fill")
-
-    def test_09_a_number_in_the_page_window_opens_the_page(self):
-        self.open_chroma()
-        self.desk.touch(*PAGE_KEY)
-        self.type_on(PAGE_PAD, "1", "2", "1", "3", "Enter")
-        self.desk.wait_wire("add M/E-2@Key1@Main Mask@Main Mask")
 
     def test_99_nothing_was_missing(self):
         self.assertIsNone(self.desk.app_status())

@@ -1,5 +1,6 @@
 #include "a_nb_column.h"
 #include "bus_probe.h"
+#include "table_page.h"
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -585,16 +586,14 @@ TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
 
 // --- From a tab on a real page to the wire ---
 
-TEST(WindowPullDown, ATabOfTheMaskPagePutsTheChoice)
+using WindowPullDown = TablePage;
+
+TEST_F(WindowPullDown, ATabOfTheMaskPagePutsTheChoice)
 {
-    Harness_Reset();
-    ASSERT_EQ(CreatePage(0x11130000), 0);
-    SendMessage(MSG_TALLY, Arg("M/E-1@Key1@Main Mask@Main Mask"), Arg("true"),
-                MsgArg(Hash("M/E-1@Key1@Main Mask@Main Mask")), 0);
-    (void)TakeQueuedCommands();
-    SendMessage(MSG_PRESS, 602 + 40, 360 + 30, 1, 0);
+    Open(0x11130000);
+    Tell("M/E-1@Key1@Main Mask@Main Mask#true");
+    Touch(602 + 40, 360 + 30);
     ASSERT_EQ(GetWindow(), WINDOW_PULLDOWN);
-    SendMessage(MSG_PRESS, 602 + 40, 413 + 6 + 32 + 16, 1, 0); // the second of four, below it
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Main Mask@Mask Source#Pattern"));
-    Page_Reset();
+    EXPECT_THAT(Touch(602 + 40, 413 + 6 + 32 + 16), // the second of four, below it
+                ElementsAre("put M/E-1@Key1@Main Mask@Mask Source#Pattern"));
 }
