@@ -14,6 +14,7 @@ struct Netio : testing::Test {
     }
     void TearDown() override
     {
+        Net_Init(); // a full buffer takes no line of the next test
         (void)TakeQueuedCommands();
         GL_FreezeStore = GL_FreezeStore_Exec = 0;
     }
