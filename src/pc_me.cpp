@@ -1,7 +1,9 @@
 #include "pc_me.h"
+#include "bus.h"
 #include "page.h"
 #include "snapshot_region.h"
 #include "text.h"
+#include <cstdarg>
 #include <cstdio>
 #include <cstring>
 #include <iterator>
@@ -17,8 +19,6 @@ const ME_SSREGION DMEWipeSSRegion[2 * ME_BANKS_SHOWN] = {
 };
 static_assert(std::size(DMEWipeSSRegion) == WipeSSCmd.size());
 
-constexpr int BANK_PP = 5;
-
 static const char* first_word()
 {
     return GL_NowTree && GL_NowTree[0] ? GL_NowTree[0] : "";
@@ -27,11 +27,16 @@ static const char* first_word()
 int Now_disp_draw()
 {
     if (strcmp(first_word(), "PGM/PST") == 0)
-        return BANK_PP;
+        return ME_BANK_PP;
     for (int i = 0; i < ME_BANKS_SHOWN; i++)
         if (strcmp(first_word(), me_data[i]) == 0)
             return i;
     return 0;
+}
+
+int ME_ServerBank()
+{
+    return (Now_disp_draw() + 1) % ME_BANKS_SHOWN;
 }
 
 int ME_IsSubPage()
@@ -42,6 +47,16 @@ int ME_IsSubPage()
 void ME_BankWord(char* dst, int size)
 {
     snprintf(dst, size_t(size), "%s%s", first_word(), ME_IsSubPage() ? " SUB" : "");
+}
+
+void ME_Mirror(const char* format, ...)
+{
+    char line[CMD_SIZE];
+    va_list ap;
+    va_start(ap, format);
+    vsnprintf(line, sizeof line, format, ap);
+    va_end(ap);
+    SendDummyTally(line);
 }
 
 int ME_SnapshotRegion()

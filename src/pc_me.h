@@ -7,10 +7,13 @@
 // --- The bank of the page that is shown ---
 
 constexpr int ME_BANKS_SHOWN = 6;
+constexpr int ME_BANK_PP = 5;                     // index of PGM/PST
 extern const char* const me_data[ME_BANKS_SHOWN]; // "M/E-1" to "M/E-5", "P/P"
 
 // Index of the page's bank in me_data: 0 to 4 M/E-1 to M/E-5, 5 PGM/PST; 0 for any other page.
 int Now_disp_draw();
+// The same bank as the server counts them: 0 PGM/PST, 1 to 5 the M/Es.
+int ME_ServerBank();
 // 1 on a page of a bank's sub side that is no page of a key, else 0.
 int ME_IsSubPage();
 // The bank as the first word of a path: "M/E-1", on the sub side "M/E-1 SUB"; "" when the page has
@@ -20,6 +23,12 @@ template <size_t N> void ME_BankWord(char (&dst)[N])
 {
     ME_BankWord(dst, int(N));
 }
+
+// --- Buttons that are bound to local paths ---
+
+// Play a tally "LOCAL@...#value" to the objects of the page; one that is longer than a command is
+// cut. Messages nest: finish your own state first.
+void ME_Mirror(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
 // --- Regions of the wipe and DME wipe snapshots ---
 

@@ -16,19 +16,12 @@ namespace
 {
 constexpr int DME_GROUP = 4; // DMEs that work together on one wipe
 constexpr int FIRST_OF_SECOND_SET = 7001;
-constexpr int BANK_PP = 5; // Now_disp_draw
 
 enum : int { // DmeFunc; below them are the keys from 0
     FUNC_WIPE = 8,
     FUNC_SUB_WIPE = 9
 };
 } // namespace
-
-// 0 PGM/PST, 1 to 5 the M/Es.
-static int dme_bank()
-{
-    return (Now_disp_draw() + 1) % ME_BANKS_SHOWN;
-}
 
 static int dme_function()
 {
@@ -42,7 +35,7 @@ static int dme_function()
 // The first DME of the wipe, -1 when none works for it.
 static int find_dme()
 {
-    const int bank = dme_bank();
+    const int bank = ME_ServerBank();
     const int function = dme_function();
     for (int i = 0; i < MODIFY_DMES; i++)
         if (dm.DmeMe[i] == bank && dm.DmeFunc[i] == function)
@@ -80,7 +73,7 @@ int modify_crop_mask()
     find_wide_channels();
     const int bank = Now_disp_draw();
     const bool by_dme =
-        dm.number < FIRST_OF_SECOND_SET && !(modify_is_small_panel() && bank == BANK_PP);
+        dm.number < FIRST_OF_SECOND_SET && !(modify_is_small_panel() && bank == ME_BANK_PP);
     const int wide = by_dme ? dm.modify_nextcrop[dm.modify_ch] : SYS_RefSwrScreenAspect[bank] == 1;
     BT_SetDisable(BTN_CROP_4_3, !wide || BT_GetVisible(BTN_CROP) != BT_ENABLED);
     return 0;

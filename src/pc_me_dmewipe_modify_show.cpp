@@ -1,17 +1,15 @@
 // What the keys of the modify page show. They are bound to local paths, whose tallies are played
 // from here for the leading channel.
 #include "a_bt.h"
-#include "bus.h"
 #include "command.h"
+#include "pc_me.h"
 #include "pc_me_dmewipe_modify_private.h"
 #include "text.h"
 #include "safeguards.h"
 
 void modify_mirror(const char* path, int on)
 {
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_MODIFY "%s#%s", path, Bool(on));
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_MODIFY "%s#%s", path, Bool(on));
 }
 
 void modify_mirror_switches()

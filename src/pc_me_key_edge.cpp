@@ -1,11 +1,11 @@
 // The edge page of a key. Whether an edge is there at all, has sides and has a matte follows from
 // several settings together, which no row of the table can say: the outcome is played to the
 // buttons as local paths.
-#include "bus.h"
 #include "command.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "pc_me.h"
 #include "pc_me_key.h"
 #include "text.h"
 #include <cstring>
@@ -62,9 +62,7 @@ static void mirror(Outcome outcome, bool on)
     if (Edge.shown[outcome] == int(on))
         return;
     Edge.shown[outcome] = on;
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_EDGE "%s#%s", outcome_words[outcome], Bool(on));
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_EDGE "%s#%s", outcome_words[outcome], Bool(on));
 }
 
 static void show_outcomes()

@@ -2,11 +2,11 @@
 // matte is made: of one colour, of two that a pattern mixes, or, on the edge of an embossed key, of
 // the two colours of its light and its shade. The outcome is played to the buttons as local paths.
 #include "a_bt.h"
-#include "bus.h"
 #include "command.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "pc_me.h"
 #include "pc_me_key.h"
 #include "text.h"
 #include <cstdlib>
@@ -36,9 +36,7 @@ static struct {
 
 static void mirror(const char* name, bool on)
 {
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_MATTE "%s#%s", name, Bool(on));
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_MATTE "%s#%s", name, Bool(on));
 }
 
 static void show_parts()

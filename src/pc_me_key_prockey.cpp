@@ -6,6 +6,7 @@
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "pc_me.h"
 #include "pc_me_key_lower.h"
 #include "tally_value.h"
 #include <algorithm>
@@ -107,9 +108,7 @@ static void show_override()
 static void show_channel(int n)
 {
     const Channel& c = pk.Dme[n];
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_PROCKEY "DME Select@DME%d#%s", n + 1, Bool(c.is_on));
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_PROCKEY "DME Select@DME%d#%s", n + 1, Bool(c.is_on));
     if (is_anothers(c))
         (void)BT_SetStatus(BTN_SELECT[n], BT_THIRD); // the button is there
     ME_DisableKey(BTN_SELECT[n], c.is_missing || (is_anothers(c) && !pk.Prockey_Override));
@@ -196,9 +195,7 @@ static int monitor_tally(const char* path, const char* value)
                 ME_DisableKey(BTN_MONITOR[n], pk.Dme[n].is_missing);
     } else if (Same(path, MONITOR_CMD)) {
         pk.Monitor = Decimal(value);
-        char line[CMD_SIZE];
-        PrintText(line, LOCAL_PROCKEY "Monitor#%d", pk.Monitor);
-        SendDummyTally(line);
+        ME_Mirror(LOCAL_PROCKEY "Monitor#%d", pk.Monitor);
     }
     return 0;
 }

@@ -2,7 +2,6 @@
 // partner of the key, and what is made by the second channel (enhanced effects, rotation) is out of
 // use. Which buttons are grey follows from settings of several pages, so it is worked out here and
 // not in their rows. A switcher without the large frame memory has no resizer at all.
-#include "bus.h"
 #include "command.h"
 #include "device.h"
 #include "global.h"
@@ -247,9 +246,8 @@ static int pc_me_key_resizer_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 
 static int turning_axes()
 {
-    const int me = (Now_disp_draw() + 1) % ME_BANKS_SHOWN; // P/P is 0 there
     const int key = Index(GL_NowTree[1] + strlen("Key"), 9);
-    return GL_ProcKeyRotationInfo(me, key) & AXES_ALL;
+    return GL_ProcKeyRotationInfo(ME_ServerBank(), key) & AXES_ALL;
 }
 
 // An axis that doesn't turn has a box without a range.
@@ -269,19 +267,9 @@ static void show_rotation()
     const int axes = turning_axes();
     if (axes)
         Resizer.Axes = axes;
-    const struct {
-        const char* line;
-        bool on;
-    } lines[] = {
-        {LOCAL_PROCKEY "Rotation@Enable#%s", axes != 0},
-        {LOCAL_PROCKEY "X Rotation#%s", (axes & AXIS_X) != 0},
-        {LOCAL_PROCKEY "Y Rotation#%s", (axes & AXIS_Y) != 0},
-    };
-    for (const auto& l : lines) {
-        char line[CMD_SIZE];
-        PrintText(line, l.line, Bool(l.on));
-        SendDummyTally(line);
-    }
+    ME_Mirror(LOCAL_PROCKEY "Rotation@Enable#%s", Bool(axes));
+    ME_Mirror(LOCAL_PROCKEY "X Rotation#%s", Bool(axes & AXIS_X));
+    ME_Mirror(LOCAL_PROCKEY "Y Rotation#%s", Bool(axes & AXIS_Y));
     (void)show_angle_limits(BT_GetKnobAssign());
 }
 

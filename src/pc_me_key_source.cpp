@@ -4,12 +4,12 @@
 #include "a_ba.h"
 #include "a_ls.h"
 #include "a_st.h"
-#include "bus.h"
 #include "command.h"
 #include "global.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "pc_me.h"
 #include "pc_me_key.h"
 #include "text.h"
 #include <cstring>
@@ -89,9 +89,7 @@ static void fill_list()
 static void assign_to(Bus bus)
 {
     GL_FillSourceAssignMode = bus;
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_ASSIGN "#%s", bus_words[bus]);
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_ASSIGN "#%s", bus_words[bus]);
     GL_ST_area_update_draw(); // the cells of the two buses are lit by it
     show_assigned();
 }

@@ -1,11 +1,11 @@
 // How a key comes and goes. In one installation on and off share a setting, which is kept as that
 // of on; in another each has its own. What can be adjusted follows from the types that govern: the
 // type of on alone, or both.
-#include "bus.h"
 #include "global.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "pc_me.h"
 #include "pc_me_key_lower.h"
 #include "tally_value.h"
 #include <initializer_list>
@@ -73,9 +73,7 @@ static void show_type()
 
 static void show_direction()
 {
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_TRANS "Direction#%s", KeyTrans.Direction);
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_TRANS "Direction#%s", KeyTrans.Direction);
 }
 
 // --- Tallies ---

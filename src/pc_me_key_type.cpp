@@ -4,7 +4,6 @@
 #include "a_bt.h"
 #include "a_nb.h"
 #include "a_st.h"
-#include "bus.h"
 #include "command.h"
 #include "device.h"
 #include "global.h"
@@ -59,16 +58,12 @@ static struct {
 
 static void mirror_clean_mode()
 {
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_TYPE "Clean Mode#%s", Bool(kt.CleanMode[kt.KeyType_Type]));
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_TYPE "Clean Mode#%s", Bool(kt.CleanMode[kt.KeyType_Type]));
 }
 
 static void mirror_position()
 {
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_TYPE "Key Position#%s", Bool(kt.Position[kt.KeyType_Type]));
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_TYPE "Key Position#%s", Bool(kt.Position[kt.KeyType_Type]));
 }
 
 static bool is_wipe_type()

@@ -3,7 +3,6 @@
 #include "a_bt.h"
 #include "a_hf.h"
 #include "a_nb.h"
-#include "bus.h"
 #include "command.h"
 #include "device.h"
 #include "global.h"
@@ -24,7 +23,6 @@
 namespace
 {
 constexpr int TAB_CLIP = 5;
-constexpr int BANK_PP = ME_BANKS_SHOWN - 1;
 
 constexpr const char* Trans_TypeStr[] = {"Mix",  "NAM",      "Super Mix", "Preset Color Mix",
                                          "Wipe", "DME Wipe", "Clip"};
@@ -53,7 +51,7 @@ int misc_key_max()
 
 bool misc_is_pgm()
 {
-    return Now_disp_draw() == BANK_PP;
+    return Now_disp_draw() == ME_BANK_PP;
 }
 
 // The keys of a sub side are there whatever the main side has.
@@ -109,9 +107,7 @@ static void mirror_type()
     for (int i = TRANS_TYPES - 1; i >= 0; i--)
         if (Trans.is_on[i])
             shown = Trans_TypeStr[i];
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_TYPE "#%s", shown);
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_TYPE "#%s", shown);
 }
 
 static int trans_tally(const char* path, const char* value)

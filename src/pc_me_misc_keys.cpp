@@ -1,7 +1,6 @@
 // The keys of a bank among themselves: who lies on top of whom, now and after the next transition,
 // and which side each belongs to.
 #include "a_bt.h"
-#include "bus.h"
 #include "command.h"
 #include "device.h"
 #include "global.h"
@@ -44,9 +43,7 @@ static struct {
 
 static void mirror_list()
 {
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_PRIORITY "List#%s", list_words[Priority.shown]);
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_PRIORITY "List#%s", list_words[Priority.shown]);
 }
 
 // The subscriptions of both lists stay with the page: the matrix reads.
@@ -192,10 +189,7 @@ static int sides_of(int key)
 static void mirror_key(int key)
 {
     for (const SideWord& side : sides) {
-        char line[CMD_SIZE];
-        PrintText(line, LOCAL_ASSIGN "%s@Key%d#%s", side.word, key + 1,
-                  Bool(sides_of(key) & side.bit));
-        SendDummyTally(line);
+        ME_Mirror(LOCAL_ASSIGN "%s@Key%d#%s", side.word, key + 1, Bool(sides_of(key) & side.bit));
     }
 }
 

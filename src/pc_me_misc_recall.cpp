@@ -1,10 +1,10 @@
 // What a bank recalls: the clip of a clip transition, and its part of a snapshot.
 #include "a_bt.h"
 #include "a_nb.h"
-#include "bus.h"
 #include "command.h"
 #include "message.h"
 #include "netio.h"
+#include "pc_me.h"
 #include "pc_me_misc.h"
 #include "pc_me_misc_private.h"
 #include "tally_value.h"
@@ -117,9 +117,7 @@ static int held_count()
 static void mirror_all()
 {
     const int held = held_count();
-    char line[CMD_SIZE];
-    PrintText(line, LOCAL_ALL "#%s", Bool(held == holds_there()));
-    SendDummyTally(line);
+    ME_Mirror(LOCAL_ALL "#%s", Bool(held == holds_there()));
     if (held > 0 && held < holds_there())
         BT_SetStatus(BTN_ALL, BT_THIRD);
 }

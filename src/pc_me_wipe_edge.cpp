@@ -1,7 +1,6 @@
 // Edge and direction of a bank's wipe, and the matte that fills the edge.
 #include "a_bt.h"
 #include "a_nb.h"
-#include "bus.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
@@ -30,9 +29,7 @@ static int direction_tally(const char* path, const char* value)
     for (int i = 0; i < 2; i++) {
         if (!Same(path, EdgeDir.DirectionCmd[i]))
             continue;
-        char line[CMD_SIZE];
-        PrintText(line, LOCAL_DIRECTION "%s#%s", directions[i], Bool(IsTrue(value)));
-        SendDummyTally(line);
+        ME_Mirror(LOCAL_DIRECTION "%s#%s", directions[i], Bool(IsTrue(value)));
     }
     return 0;
 }
