@@ -59,7 +59,7 @@ static int show_channels(const char* path)
                                            "LOCAL@Pattern Select@2 Channels",
                                            "LOCAL@Pattern Select@3 Channels"};
     for (int i = 0; i < int(std::size(keys)); i++)
-        if (strcmp(path, keys[i]) == 0)
+        if (Same(path, keys[i]))
             (void)DW_ShowChannels(i + 1); // a list without such patterns stays where it is
     return 0;
 }
@@ -172,7 +172,7 @@ static int ptnpage_create(int on, const PatternKey* keys, int count)
 
 static int ptnpage_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
-    if (msg == MSG_TALLY && strcmp(Text(ax), PtnPage.PatternCmd) == 0)
+    if (msg == MSG_TALLY && Same(Text(ax), PtnPage.PatternCmd))
         ptnpage_pattern(Decimal(Text(bx)));
     return 0;
 }
@@ -248,7 +248,7 @@ static int removefrombigin_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
     if (msg != MSG_TALLY)
         return 0;
     const char* path = Text(ax);
-    if (strcmp(path, RemoveBegin.PatternCmd) == 0)
+    if (Same(path, RemoveBegin.PatternCmd))
         remove_pattern(Decimal(Text(bx)));
     else if (BeginsWith(path, RemoveBegin.RemoveCmd))
         remove_value(path + strlen(RemoveBegin.RemoveCmd), strtod(Text(bx), nullptr));

@@ -3,9 +3,7 @@
 // knobs act on all of them and show the leading one, the lowest chosen. The keys are bound to local
 // paths, since what they stand for moves with the choice.
 #include "a_bt.h"
-#include "command.h"
 #include "device.h"
-#include "global.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
@@ -130,15 +128,15 @@ static void channel_tally(const char* rest, const char* value)
 static int modify_tally(const char* path, const char* value)
 {
     const size_t reg = strlen(dm.ModifyReg);
-    if (strcmp(path, dm.PatternCmd) == 0)
+    if (Same(path, dm.PatternCmd))
         modify_pattern_tly(value);
-    else if (strcmp(path, DME_ASPECT) == 0)
+    else if (Same(path, DME_ASPECT))
         modify_dme_aspect_tally(value);
-    else if (strcmp(path, DME_STATUS) == 0)
+    else if (Same(path, DME_STATUS))
         Net_SendCommand("read " DME_ASPECT); // a DME has gone to another wipe
     else if (BeginsWith(path, dm.ModifyReg) && BeginsWith(path + reg, "@Modify@"))
         channel_tally(path + reg + strlen("@Modify@"), value);
-    else if (strcmp(path, SWITCHER_ASPECT) == 0 || StrIStr(path, "Transition Type"))
+    else if (Same(path, SWITCHER_ASPECT) || StrIStr(path, "Transition Type"))
         (void)modify_crop_mask(); // of the bank; of the key, whose buttons have just followed it
     return 0;
 }
@@ -171,18 +169,18 @@ static void press_relative()
 static int modify_press(const char* key)
 {
     for (const ModifyFunction& f : modify_functions)
-        if (strcmp(key, f.path) == 0)
+        if (Same(key, f.path))
             press_function(f);
     for (int ch = 0; ch < PATTERN_CHANNELS; ch++)
-        if (strcmp(key, modify_channel_keys[ch].path) == 0)
+        if (Same(key, modify_channel_keys[ch].path))
             modify_chselect_sel(ch);
     for (const ModifyCorner& c : modify_corners)
-        if (strcmp(key, c.path) == 0)
+        if (Same(key, c.path))
             press_corner(c);
-    if (strcmp(key, "Position@Relative") == 0)
+    if (Same(key, "Position@Relative"))
         press_relative();
     for (const char* action : {"Position@Center", "Crop Mode@4:3 Crop"})
-        if (strcmp(key, action) == 0)
+        if (Same(key, action))
             modify_for_chosen([&](int ch) { modify_send("put", action, ch, "#true"); });
     return 0;
 }

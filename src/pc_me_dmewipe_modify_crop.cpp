@@ -45,7 +45,7 @@ static int find_dme()
 
 static int is_wide(int dme)
 {
-    return strcmp(dm.DmeAsp[dme], "4:3") != 0;
+    return !Same(dm.DmeAsp[dme], "4:3");
 }
 
 // The aspect of each channel from its DME. Two further channels count as one: both are as wide as

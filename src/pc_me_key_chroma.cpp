@@ -2,15 +2,14 @@
 // automatic chroma key lies in the picture, so it goes when the page does: nobody would look for it
 // afterwards.
 #include "a_bt.h"
-#include "command.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
 #include "pc_me_key.h"
+#include "tally_value.h"
 #include "text.h"
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 #include "safeguards.h"
 
@@ -35,23 +34,23 @@ static void backing_tally(const char* value)
 {
     CrkAdj.Backing = 0;
     for (const BTNSEL& b : backings)
-        if (strcmp(value, b.caption) == 0)
+        if (Same(value, b.caption))
             CrkAdj.Backing = b.id;
     BT_SetCaption(BTN_BACKING, CrkAdj.Backing ? backings[CrkAdj.Backing - 1].caption : "Backing");
 }
 
 static int crkadj_tally(const char* path, const char* value)
 {
-    if (strcmp(path, CrkAdj.MarkCmd) == 0)
-        CrkAdj.is_marked = strcmp(value, "true") == 0;
-    else if (strcmp(path, CrkAdj.BackingCmd) == 0)
+    if (Same(path, CrkAdj.MarkCmd))
+        CrkAdj.is_marked = IsTrue(value);
+    else if (Same(path, CrkAdj.BackingCmd))
         backing_tally(value);
     return 0;
 }
 
 static int crkadj_press(const char* path)
 {
-    if (strcmp(path, LOCAL_BACKING) != 0)
+    if (!Same(path, LOCAL_BACKING))
         return 0;
     BTNSEL items[BACKINGS];
     std::copy(std::begin(backings), std::end(backings), items);

@@ -3,12 +3,11 @@
 // buttons as local paths.
 #include "command.h"
 #include "message.h"
-#include "netio.h"
 #include "page.h"
 #include "pc_me.h"
 #include "pc_me_key.h"
+#include "tally_value.h"
 #include "text.h"
-#include <cstring>
 #include <iterator>
 #include "safeguards.h"
 
@@ -80,28 +79,23 @@ static void show_outcomes()
 static const Kind* kind_of(const char* word)
 {
     for (const Kind& kind : kinds)
-        if (strcmp(word, kind.word) == 0)
+        if (Same(word, kind.word))
             return &kind;
     return &kinds[0];
 }
 
-static bool is_on(const char* value)
-{
-    return strcmp(value, "true") == 0;
-}
-
 static int edge_tally(const char* path, const char* value)
 {
-    if (strcmp(path, Edge.EdgeCmd) == 0)
+    if (Same(path, Edge.EdgeCmd))
         Edge.kind = kind_of(value);
-    else if (strcmp(path, Edge.FineKeyCmd) == 0)
-        Edge.is_fine = is_on(value);
-    else if (strcmp(path, Edge.SoftCmd) == 0)
-        Edge.is_soft = is_on(value);
-    else if (strcmp(path, Edge.FillCmd) == 0)
-        Edge.is_filled_by_matte = strcmp(value, "Matte") == 0;
-    else if (strcmp(path, Edge.TypeCmd) == 0)
-        Edge.is_chroma = strcmp(value, "Chroma") == 0;
+    else if (Same(path, Edge.FineKeyCmd))
+        Edge.is_fine = IsTrue(value);
+    else if (Same(path, Edge.SoftCmd))
+        Edge.is_soft = IsTrue(value);
+    else if (Same(path, Edge.FillCmd))
+        Edge.is_filled_by_matte = Same(value, "Matte");
+    else if (Same(path, Edge.TypeCmd))
+        Edge.is_chroma = Same(value, "Chroma");
     else
         return 0;
     show_outcomes();

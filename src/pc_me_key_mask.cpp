@@ -1,8 +1,6 @@
 // The two masks of a key. A mask may come from a utility bus of the bank: its button tells which
 // source the bus carries. The pattern can be chosen only while it is the mask.
-#include "bus.h"
 #include "message.h"
-#include "netio.h"
 #include "page.h"
 #include "pc_me_key_lower.h"
 #include "tally_value.h"

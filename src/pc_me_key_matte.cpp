@@ -8,9 +8,9 @@
 #include "page.h"
 #include "pc_me.h"
 #include "pc_me_key.h"
+#include "tally_value.h"
 #include "text.h"
 #include <cstdlib>
-#include <cstring>
 #include <initializer_list>
 #include "safeguards.h"
 
@@ -67,13 +67,12 @@ static void show_pattern(const char* value)
 
 static int matteadj_tally(const char* path, const char* value)
 {
-    if (strcmp(path, matte.MatteAdj_MixPtnCmd) == 0) {
+    if (Same(path, matte.MatteAdj_MixPtnCmd)) {
         show_pattern(value);
         return 0;
     }
-    const bool is_mix = strcmp(path, matte.ModeCmd) == 0 ? strcmp(value, "Mix") == 0 : matte.is_mix;
-    const bool is_emboss =
-        strcmp(path, matte.EdgeCmd) == 0 ? strcmp(value, "Emboss") == 0 : matte.is_emboss;
+    const bool is_mix = Same(path, matte.ModeCmd) ? Same(value, "Mix") : matte.is_mix;
+    const bool is_emboss = Same(path, matte.EdgeCmd) ? Same(value, "Emboss") : matte.is_emboss;
     if (is_mix == matte.is_mix && is_emboss == matte.is_emboss)
         return 0;
     matte.is_mix = is_mix;
@@ -109,7 +108,7 @@ static int matteadj_create(int on, const char* group)
     PrintText(matte.ModeCmd, "%s@%s@%s@Matte Adjust@Mode", bank, key, group);
     PrintText(matte.MatteAdj_MixPtnCmd, "%s@%s@%s@Matte Adjust@Mix Pattern@Pattern", bank, key,
               group);
-    if (strcmp(group, "Edge") == 0)
+    if (Same(group, "Edge"))
         PrintText(matte.EdgeCmd, "%s@%s@Edge@Edge", bank, key);
     subscribe("add");
     show_parts();

@@ -1,6 +1,5 @@
 // Border and crop of a processed key. The server has the four edges of the crop; a box for two or
 // four of them at once exists only here, shows one of its edges and moves them all.
-#include "bus.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
@@ -8,7 +7,8 @@
 #include "tally_value.h"
 #include <algorithm>
 #include <cmath>
-#include <iterator>
+#include <cstdlib>
+#include <cstring>
 #include "safeguards.h"
 
 namespace

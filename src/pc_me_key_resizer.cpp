@@ -3,7 +3,6 @@
 // use. Which buttons are grey follows from settings of several pages, so it is worked out here and
 // not in their rows. A switcher without the large frame memory has no resizer at all.
 #include "command.h"
-#include "device.h"
 #include "global.h"
 #include "me_config.h"
 #include "message.h"

@@ -4,15 +4,14 @@
 #include "a_ba.h"
 #include "a_ls.h"
 #include "a_st.h"
-#include "command.h"
 #include "global.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
 #include "pc_me.h"
 #include "pc_me_key.h"
+#include "tally_value.h"
 #include "text.h"
-#include <cstring>
 #include "safeguards.h"
 
 #define LOCAL_ASSIGN "LOCAL@M/E@Key@Signal@Assign"
@@ -49,7 +48,7 @@ static Bus bus_to_assign()
 
 static bool is_assigned(int bus, int row)
 {
-    return strcmp(FillSource.Assigned[bus], FillSource.signal[row].name) == 0;
+    return Same(FillSource.Assigned[bus], FillSource.signal[row].name);
 }
 
 // A name that is not in the list selects nothing.
@@ -96,8 +95,8 @@ static void assign_to(Bus bus)
 
 static int fillsource_press(const char* path, const char* value)
 {
-    if (strcmp(path, LOCAL_ASSIGN) == 0)
-        assign_to(strcmp(value, bus_words[SOURCE]) == 0 ? SOURCE : FILL);
+    if (Same(path, LOCAL_ASSIGN))
+        assign_to(Same(value, bus_words[SOURCE]) ? SOURCE : FILL);
     return 0;
 }
 
@@ -106,7 +105,7 @@ static int fillsource_press(const char* path, const char* value)
 static int fillsource_tally(const char* path, const char* value)
 {
     for (int bus = 0; bus < BUSES; bus++)
-        if (strcmp(path, FillSource.SignalCmd[bus]) == 0) {
+        if (Same(path, FillSource.SignalCmd[bus])) {
             CopyText(FillSource.Assigned[bus], value);
             show_assigned();
         }

@@ -9,7 +9,6 @@
 #include "pc_me_key_lower.h"
 #include "tally_value.h"
 #include <initializer_list>
-#include <iterator>
 #include "safeguards.h"
 
 #define LOCAL_TRANS "LOCAL@M/E@Key@Transition@"

@@ -11,6 +11,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pc_me.h"
+#include "tally_value.h"
 #include "text.h"
 #include <cstring>
 #include <iterator>
@@ -85,7 +86,7 @@ static void show_pattern_button()
 static bool is_key3_or_key4(const char* word)
 {
     for (const char* key : {"Key3", "DSK3", "Key4", "DSK4"})
-        if (strcmp(word, key) == 0)
+        if (Same(word, key))
             return true;
     return false;
 }
@@ -123,7 +124,7 @@ static void keytype_knob_assign(int button)
 static int type_of_word(const char* word)
 {
     for (int i = 0; i < KEY_TYPES; i++)
-        if (strcmp(word, KeyType_TypeStr[i]) == 0)
+        if (Same(word, KeyType_TypeStr[i]))
             return i;
     return TYPE_UNKNOWN;
 }
@@ -163,8 +164,8 @@ static void position_tally(int type, const char* value)
 
 static void fill_tally(const char* value)
 {
-    const bool is_matte = strcmp(value, "Matte") == 0;
-    if (!is_matte && strcmp(value, "Key Bus") != 0)
+    const bool is_matte = Same(value, "Matte");
+    if (!is_matte && !Same(value, "Key Bus"))
         return;
     kt.KeyFill_Type = is_matte ? FILL_MATTE : FILL_KEY_BUS;
     BT_SetCaption(BTN_FILL_ADJUST, is_matte ? "Matte\nAdjust" : "Signal\nSelect");
@@ -178,9 +179,9 @@ static int type_behind(const char* path, const char* prefix)
 
 static int type_page_tally(const char* path, const char* value)
 {
-    if (strcmp(path, kt.KeyType_TypeCmd) == 0)
+    if (Same(path, kt.KeyType_TypeCmd))
         type_tally(value);
-    else if (strcmp(path, kt.KeyFill_TypeCmd) == 0)
+    else if (Same(path, kt.KeyFill_TypeCmd))
         fill_tally(value);
     else if (const int type = type_behind(path, kt.KeyType_CleanModeCmd); type != TYPE_UNKNOWN)
         clean_mode_tally(type, value);
@@ -259,7 +260,7 @@ static int type_page_press(const char* path, bool only_knobs)
         {LOCAL_FILL "Adjust", press_fill_adjust},
     };
     for (const auto& key : keys)
-        if (strcmp(path, key.path) == 0)
+        if (Same(path, key.path))
             key.press(only_knobs);
     return 0;
 }

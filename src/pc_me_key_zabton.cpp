@@ -4,8 +4,8 @@
 #include "netio.h"
 #include "page.h"
 #include "pc_me_key.h"
+#include "tally_value.h"
 #include "text.h"
-#include <cstring>
 #include "safeguards.h"
 
 namespace
@@ -21,7 +21,7 @@ static struct {
 
 static int zabtonadj_tally(const char* path, const char* value)
 {
-    if (strcmp(path, zabton.PtnCmd) != 0)
+    if (!Same(path, zabton.PtnCmd))
         return 0;
     PatternCaption(zabton.ZabtonAdj_ZabtonPtnStr, value);
     BT_SetCaption(BTN_PATTERN, zabton.ZabtonAdj_ZabtonPtnStr);

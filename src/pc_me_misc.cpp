@@ -3,7 +3,6 @@
 #include "a_bt.h"
 #include "a_hf.h"
 #include "a_nb.h"
-#include "command.h"
 #include "device.h"
 #include "global.h"
 #include "message.h"
@@ -12,8 +11,8 @@
 #include "page_table/me_misc.h"
 #include "pc_me.h"
 #include "pc_me_misc_private.h"
+#include "tally_value.h"
 #include "text.h"
-#include <cstring>
 #include <iterator>
 #include "safeguards.h"
 
@@ -113,7 +112,7 @@ static void mirror_type()
 static int trans_tally(const char* path, const char* value)
 {
     for (int i = 0; i < TRANS_TYPES; i++) {
-        if (strcmp(path, Trans.path[i]) != 0)
+        if (!Same(path, Trans.path[i]))
             continue;
         Trans.is_on[i] = value[0] == 't';
         mirror_type();
@@ -124,13 +123,13 @@ static int trans_tally(const char* path, const char* value)
 // A server that keeps the types apart must not be left with two of them.
 static int trans_press(const char* path, const char* type, bool only_knobs)
 {
-    if (only_knobs || strcmp(path, LOCAL_TYPE) != 0)
+    if (only_knobs || !Same(path, LOCAL_TYPE))
         return 0;
     for (int i = 0; i < TRANS_TYPES; i++)
-        if (Trans.is_on[i] && strcmp(type, Trans_TypeStr[i]) != 0)
+        if (Trans.is_on[i] && !Same(type, Trans_TypeStr[i]))
             Net_SendCommandFormat("put %s#false", Trans.path[i]);
     for (int i = 0; i < TRANS_TYPES; i++)
-        if (strcmp(type, Trans_TypeStr[i]) == 0)
+        if (Same(type, Trans_TypeStr[i]))
             Net_SendCommandFormat("put %s#true", Trans.path[i]);
     return 0;
 }
@@ -212,7 +211,7 @@ static int videoproc_press(const char* path)
         const char* value;
     } unity[] = {
         {"Luminance", "100.00"}, {"Chroma", "100.00"}, {"Hue", "0.00"}, {"Black Level", "0.00"}};
-    if (strcmp(path, LOCAL_UNITY) != 0)
+    if (!Same(path, LOCAL_UNITY))
         return 0;
     for (const auto& u : unity) {
         char tail[64];

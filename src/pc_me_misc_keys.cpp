@@ -3,7 +3,6 @@
 #include "a_bt.h"
 #include "command.h"
 #include "device.h"
-#include "global.h"
 #include "me_config.h"
 #include "message.h"
 #include "netio.h"
@@ -12,6 +11,7 @@
 #include "pc_me_misc.h"
 #include "pc_me_misc_private.h"
 #include "tab_status.h"
+#include "tally_value.h"
 #include "text.h"
 #include <cstring>
 #include <iterator>
@@ -78,13 +78,13 @@ static void press_normal()
 
 static int priority_press(const char* path, const char* value)
 {
-    if (strcmp(path, LOCAL_PRIORITY "List") == 0) {
+    if (Same(path, LOCAL_PRIORITY "List")) {
         for (int list = 0; list < LISTS; list++)
-            if (strcmp(value, list_words[list]) == 0)
+            if (Same(value, list_words[list]))
                 show_list(list);
-    } else if (strcmp(path, LOCAL_PRIORITY "Normal") == 0) {
+    } else if (Same(path, LOCAL_PRIORITY "Normal")) {
         press_normal();
-    } else if (strcmp(path, LOCAL_PRIORITY "Copy") == 0 && Priority.value[LIST_CURRENT][0]) {
+    } else if (Same(path, LOCAL_PRIORITY "Copy") && Priority.value[LIST_CURRENT][0]) {
         Net_SendCommandFormat("put %s#%s", Priority.path[LIST_NEXT], Priority.value[LIST_CURRENT]);
     }
     return 0;
@@ -93,7 +93,7 @@ static int priority_press(const char* path, const char* value)
 static int priority_tally(const char* path, const char* value)
 {
     for (int list = 0; list < LISTS; list++)
-        if (strcmp(path, Priority.path[list]) == 0)
+        if (Same(path, Priority.path[list]))
             CopyText(Priority.value[list], value);
     return 0;
 }
@@ -181,7 +181,7 @@ static int sides_in_setup(int key)
 static int sides_of(int key)
 {
     for (int i = 0; i < int(std::size(side_words)); i++)
-        if (strcmp(Assign.word[key], side_words[i]) == 0)
+        if (Same(Assign.word[key], side_words[i]))
             return i;
     return sides_in_setup(key);
 }
@@ -204,7 +204,7 @@ static int assign_tally(const char* path, const char* value)
     if (IsKeyAssignPath(path))
         mirror_keys();
     for (int key = 0; key < MISC_KEYS; key++) {
-        if (strcmp(path, Assign.path[key]) != 0)
+        if (!Same(path, Assign.path[key]))
             continue;
         CopyText(Assign.word[key], value);
         mirror_key(key);
@@ -218,7 +218,7 @@ static void press_side(const char* name)
         for (const SideWord& side : sides) {
             char own[32];
             PrintText(own, "%s@Key%d", side.word, key + 1);
-            if (strcmp(name, own) == 0)
+            if (Same(name, own))
                 Net_SendCommandFormat("put %s#%s", Assign.path[key],
                                       side_words[sides_of(key) ^ side.bit]);
         }
@@ -229,7 +229,7 @@ static int assign_press(const char* path)
     if (!BeginsWith(path, LOCAL_ASSIGN))
         return 0;
     const char* name = path + sizeof LOCAL_ASSIGN - 1;
-    if (strcmp(name, "Setup") != 0) {
+    if (!Same(name, "Setup")) {
         press_side(name);
         return 0;
     }

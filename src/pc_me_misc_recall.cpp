@@ -9,7 +9,6 @@
 #include "pc_me_misc_private.h"
 #include "tally_value.h"
 #include "text.h"
-#include <cstring>
 #include <iterator>
 #include "safeguards.h"
 
@@ -40,10 +39,10 @@ static int clip_limit_knobs(int button)
 
 static int clip_tally(const char* path, const char* value)
 {
-    if (strcmp(path, Clip.name_path) == 0)
+    if (Same(path, Clip.name_path))
         for (const int id : {BTN_CLIP_TC, BTN_CUE_UP})
             BT_SetDisable(id, value[0] == '\0');
-    if (strcmp(path, Clip.length_path) == 0) {
+    if (Same(path, Clip.length_path)) {
         Clip.frames = Index(value, CLIP_FRAMES_MAX + 1);
         clip_limit_knobs(BT_GetKnobAssign());
     }
@@ -126,7 +125,7 @@ static void mirror_all()
 static int hold_tally(const char* path, const char* value)
 {
     for (int i = 0; i < HOLDS; i++) {
-        if (strcmp(path, Hold.path[i]) != 0)
+        if (!Same(path, Hold.path[i]))
             continue;
         Hold.is_held[i] = value[0] == 't';
         mirror_all();
@@ -136,7 +135,7 @@ static int hold_tally(const char* path, const char* value)
 
 static int hold_press(const char* path)
 {
-    if (strcmp(path, LOCAL_ALL) != 0)
+    if (!Same(path, LOCAL_ALL))
         return 0;
     const bool wanted = held_count() < holds_there();
     for (int i = 0; i < holds_there(); i++)

@@ -9,7 +9,6 @@
 #include "register.h"
 #include "tally_value.h"
 #include "tdl.h"
-#include <iterator>
 #include "safeguards.h"
 
 #define LOCAL_SNAPSHOT "LOCAL@M/E@Snapshot@"
