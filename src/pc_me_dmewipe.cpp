@@ -12,8 +12,6 @@
 #include "pc_me.h"
 #include "tally_value.h"
 #include "text.h"
-#include "types.h"
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
@@ -32,14 +30,14 @@ bool dmewipe_is_off()
     }
 }
 
-void dmewipe_root(char* dst, int size)
+void dmewipe_path(char (&dst)[CMD_SIZE], const char* tail)
 {
-    char bank[CMD_SIZE];
+    char bank[32];
     ME_BankWord(bank);
     if (isNowPageMeKey(0))
-        snprintf(dst, size_t(size), "%s@%s@Transition@DME Wipe", bank, GL_NowTree[1]);
+        PrintText(dst, "%s@%s@Transition@DME Wipe%s", bank, GL_NowTree[1], tail);
     else
-        snprintf(dst, size_t(size), "%s@DME Wipe", bank);
+        PrintText(dst, "%s@DME Wipe%s", bank, tail);
 }
 
 // To allow a key is to override what its row depends on, so that the row has the last word.
@@ -161,9 +159,7 @@ static int ptnpage_create(int on, const PatternKey* keys, int count)
     PtnPage.keys = keys;
     PtnPage.count = count;
     PtnPage.off = dmewipe_is_off();
-    char reg[CMD_SIZE];
-    dmewipe_root(reg);
-    PrintText(PtnPage.PatternCmd, "%.900s@Pattern Select@Pattern", reg);
+    dmewipe_path(PtnPage.PatternCmd, "@Pattern Select@Pattern");
     Net_SendCommandFormat("add %s", PtnPage.PatternCmd);
     if (PtnPage.off)
         BT_SetAllDisable(1);
@@ -234,10 +230,8 @@ static int removefrombigin_create(int on, uint32_t)
     }
     RemoveBegin = {};
     RemoveBegin.off = dmewipe_is_off();
-    char reg[CMD_SIZE];
-    dmewipe_root(reg);
-    PrintText(RemoveBegin.PatternCmd, "%.900s@Pattern Select@Pattern", reg);
-    PrintText(RemoveBegin.RemoveCmd, "%.900s@Modify@Remove From Begin@", reg);
+    dmewipe_path(RemoveBegin.PatternCmd, "@Pattern Select@Pattern");
+    dmewipe_path(RemoveBegin.RemoveCmd, "@Modify@Remove From Begin@");
     Net_SendCommandFormat("add %s", RemoveBegin.PatternCmd);
     remove_pattern(0); // until the pattern is known
     return 0;

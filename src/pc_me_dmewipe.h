@@ -3,6 +3,7 @@
 // itself is a_dw's; the snapshots are not here.
 #pragma once
 #include "a_pc.h"
+#include "types.h"
 
 // --- Page code: the wipe of a bank ---
 extern const PC_TBL pc_me_dmewipe_pattern;
@@ -22,10 +23,7 @@ extern const PC_TBL pc_me_key_trans_removefrombigin;
 // installation has no such wipe on sub sides. Never on a page of a key.
 bool dmewipe_is_off();
 
-// The subtree of the wipe that the page is about: "M/E-1 SUB@DME Wipe",
-// "M/E-1@Key1@Transition@DME Wipe". dst holds size bytes; a longer path is cut.
-void dmewipe_root(char* dst, int size);
-template <size_t N> void dmewipe_root(char (&dst)[N])
-{
-    dmewipe_root(dst, int(N));
-}
+// A path of the wipe that the page is about: "M/E-1 SUB@DME Wipe" and the tail, or
+// "M/E-1@Key1@Transition@DME Wipe" and the tail, which begins with "@" or is "". A longer path than
+// a command is cut.
+void dmewipe_path(char (&dst)[CMD_SIZE], const char* tail);

@@ -217,8 +217,8 @@ static int modify_create(int on, int max_channels)
     }
     dm = {};
     dm.max_channels = max_channels;
-    dmewipe_root(dm.ModifyReg);
-    PrintText(dm.PatternCmd, "%.900s@Pattern Select@Pattern", dm.ModifyReg);
+    dmewipe_path(dm.ModifyReg, "");
+    dmewipe_path(dm.PatternCmd, "@Pattern Select@Pattern");
     dm.off = dmewipe_is_off();
     if (dm.off)
         disable_all();
