@@ -24,11 +24,14 @@ template <size_t N> void ME_BankWord(char (&dst)[N])
     ME_BankWord(dst, int(N));
 }
 
-// --- Buttons that are bound to local paths ---
+// --- What buttons show ---
 
 // Play a tally "LOCAL@...#value" to the objects of the page; one that is longer than a command is
 // cut. Messages nest: finish your own state first.
 void ME_Mirror(const char* format, ...) __attribute__((format(printf, 1, 2)));
+
+// Shorten a line of a caption until it is at most width_px wide, at the least to "".
+void ME_FitLine(char* text, int width_px);
 
 // --- Regions of the wipe and DME wipe snapshots ---
 

@@ -2,9 +2,9 @@
 // source the bus carries. The pattern can be chosen only while it is the mask.
 #include "message.h"
 #include "page.h"
+#include "pc_me.h"
 #include "pc_me_key_lower.h"
 #include "tally_value.h"
-#include "tdl.h"
 #include "text.h"
 #include "window.h"
 #include "safeguards.h"
@@ -14,8 +14,7 @@ namespace
 constexpr int BTN_UTILITY[] = {35, 36};
 constexpr int BTN_PATTERN_SELECT = 37;
 constexpr int UTILITY_BUSES = 2;
-constexpr unsigned NAME_PX = 70; // what a caption has on a standard button, with air
-constexpr int CAPTION_FONT = 3;
+constexpr int NAME_PX = 70; // what a caption has on a standard button, with air
 } // namespace
 
 static struct {
@@ -38,8 +37,7 @@ static void show_source(int bus, const char* name)
 {
     char shown[32];
     CopyText(shown, *name ? name : "Bus");
-    for (size_t n = strlen(shown); n > 1 && TDL_GetSymbolWidth(shown, CAPTION_FONT) > NAME_PX; n--)
-        shown[n - 1] = '\0';
+    ME_FitLine(shown, NAME_PX);
     PrintText(Mask.Caption[bus], "Utility %d\n%s", bus + 1, shown);
     (void)BT_SetCaption(BTN_UTILITY[bus], Mask.Caption[bus]); // never null
 }

@@ -8,7 +8,6 @@
 #include "pc_me.h"
 #include "register.h"
 #include "tally_value.h"
-#include "tdl.h"
 #include "safeguards.h"
 
 #define LOCAL_SNAPSHOT "LOCAL@M/E@Snapshot@"
@@ -24,7 +23,7 @@ constexpr int BTN_STORE = 22;
 constexpr int BTN_DELETE = 38;
 constexpr int HIGHLIGHT_MS = 150;
 constexpr int NO_PATTERN = 0;
-constexpr int CAPTION_PX = 74; // of a line on a standard key, font 3
+constexpr int CAPTION_PX = 74; // of a line on a standard key: eleven letters of the usual width
 constexpr int CAPTION_SIZE = 48;
 
 // What the two pages differ in.
@@ -116,13 +115,6 @@ static int pattern_of(int index)
     return pattern_in(Snapshot.kind->name(Snapshot.region, index));
 }
 
-// A name may hold eleven letters and a key is wide enough for as many of the usual width.
-static void fit_line(char* text)
-{
-    for (size_t n = strlen(text); n > 0 && TDL_GetSymbolWidth(text, 3) > CAPTION_PX; n--)
-        text[n - 1] = '\0';
-}
-
 static void print_caption(int place)
 {
     Key& key = Snapshot.key[place];
@@ -132,7 +124,7 @@ static void print_caption(int place)
         return;
     char name[16];
     CopyText(name, Snapshot.kind->name(Snapshot.region, index));
-    fit_line(name);
+    ME_FitLine(name, CAPTION_PX);
     const bool is_pattern = key.pattern != NO_PATTERN && pattern_in(name) == key.pattern;
     if (*name && !is_pattern) {
         AppendText(key.caption, "\n");
