@@ -194,6 +194,9 @@ static int modify_button(const char* path, bool only_knobs)
 
 // --- The page ---
 
+constexpr uint32_t PAGE_REMOVE_FROM_BEGIN = 0x11600007;
+constexpr int BTN_REMOVE_FROM_BEGIN = 54;
+
 // But for the third channel's key on the small panel, which hides it.
 static void disable_all()
 {
@@ -260,8 +263,19 @@ static int pc_me_dmewipe_modify_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, M
     }
 }
 
+// The page behind the key is one of the newer switchers, and of the main sides, which alone have
+// the key.
+static bool has_remove_page()
+{
+    uint32_t id = PAGE_REMOVE_FROM_BEGIN;
+    AddPageOffset(&id);
+    return SearchPageTable(id) != nullptr;
+}
+
 static int pc_me_dmewipe_modify_create(int on, uint32_t)
 {
+    if (on && !has_remove_page())
+        BT_SetCutoff(BTN_REMOVE_FROM_BEGIN, 1);
     return modify_create(on, PATTERN_CHANNELS);
 }
 

@@ -453,6 +453,16 @@ TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannel)
     EXPECT_FALSE(Enabled(CROP_4_3)); // here PGM/PST goes by its own aspect
 }
 
+TEST_F(MeDmeWipe, AnOlderSwitcherHasNoWayToWhatItCannotRemove)
+{
+    constexpr int REMOVE_BEGIN = 54;
+    Open(MODIFY_ME4);
+    EXPECT_TRUE(Enabled(REMOVE_BEGIN));
+    SYS_FmemV6 = 0;
+    Open(MODIFY_ME4);
+    EXPECT_EQ(BT_GetVisible(REMOVE_BEGIN), BT_CUTOFF);
+}
+
 TEST_F(MeDmeWipe, AKeyIsAdjustedWhileEitherOfItsTransitionsIsSuchAWipe)
 {
     static const struct {
