@@ -1,5 +1,6 @@
 #include "pc_me.h"
 #include "bus.h"
+#include "global.h"
 #include "page.h"
 #include "snapshot_region.h"
 #include "tdl.h"
@@ -48,6 +49,12 @@ int ME_IsSubPage()
 void ME_BankWord(char* dst, int size)
 {
     snprintf(dst, size_t(size), "%s%s", first_word(), ME_IsSubPage() ? " SUB" : "");
+}
+
+void ME_OpenPageOfKey(uint32_t id)
+{
+    AddPageOffset(&id);
+    GL_CreatePage = id;
 }
 
 void ME_Mirror(const char* format, ...)

@@ -3,6 +3,7 @@
 // page; the code adds what depends on a choice made on the page.
 #pragma once
 #include "a_pc.h"
+#include "types.h"
 
 // --- The bank of the page that is shown ---
 
@@ -23,6 +24,9 @@ template <size_t N> void ME_BankWord(char (&dst)[N])
 {
     ME_BankWord(dst, int(N));
 }
+
+// Ask for a page of the page's own bank and key; id is that of M/E-1, Key1.
+void ME_OpenPageOfKey(uint32_t id);
 
 // --- What buttons show ---
 

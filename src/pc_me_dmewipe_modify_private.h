@@ -68,8 +68,8 @@ struct ModifyState {
     int modify_relative = 0;
     int added[MODIFY_CHANNELS] = {}; // its values are subscribed
     int knobs_of = 0; // the button whose knobs go along to a channel just chosen, 0 none
-    char DmeAsp[MODIFY_DMES][8] = {};
-    int DmeMe[MODIFY_DMES] = {-1, -1, -1, -1, -1, -1, -1, -1}; // 0 PGM/PST, 1 to 5 the M/Es
+    char DmeAsp[MODIFY_DMES][8] = {};                          // "4:3", "16:9"
+    int DmeMe[MODIFY_DMES] = {-1, -1, -1, -1, -1, -1, -1, -1}; // as ME_ServerBank; -1 free
     int DmeFunc[MODIFY_DMES] = {-1, -1, -1, -1, -1, -1, -1, -1};
 };
 extern ModifyState dm; // valid from create(1) to create(0)

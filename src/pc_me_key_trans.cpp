@@ -1,7 +1,6 @@
 // How a key comes and goes. In one installation on and off share a setting, which is kept as that
 // of on; in another each has its own. What can be adjusted follows from the types that govern: the
 // type of on alone, or both.
-#include "global.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
@@ -104,9 +103,8 @@ static int trans_tally(const char* path, const char* value)
 
 static int open_pattern(int way)
 {
-    uint32_t id = KeyTrans.Type[way] == DME_WIPE ? PAGE_DME_WIPE_PATTERN : PAGE_WIPE_PATTERN[way];
-    AddPageOffset(&id);
-    GL_CreatePage = id;
+    ME_OpenPageOfKey(KeyTrans.Type[way] == DME_WIPE ? PAGE_DME_WIPE_PATTERN
+                                                    : PAGE_WIPE_PATTERN[way]);
     return 0;
 }
 

@@ -209,16 +209,10 @@ static void press_position(bool only_knobs)
     keytype_knob_assign(BTN_POSITION);
 }
 
-static void open_page_of_key(uint32_t id)
-{
-    AddPageOffset(&id);
-    GL_CreatePage = id;
-}
-
 static void open_signals(int assign)
 {
     GL_FillSourceAssignMode = assign;
-    open_page_of_key(PAGE_SIGNAL_SELECT);
+    ME_OpenPageOfKey(PAGE_SIGNAL_SELECT);
 }
 
 // Of a key in the sub bank, too, it is the wipe of the main side that cuts it: the page change goes
@@ -235,7 +229,7 @@ static void press_pattern(bool)
 {
     switch (kt.KeyType_Type) {
     case TYPE_WIPE: open_main_pattern(); break;
-    case TYPE_KEY_WIPE: open_page_of_key(PAGE_KEY_PATTERN); break;
+    case TYPE_KEY_WIPE: ME_OpenPageOfKey(PAGE_KEY_PATTERN); break;
     default: open_signals(ASSIGN_SOURCE); break;
     }
 }
@@ -243,7 +237,7 @@ static void press_pattern(bool)
 static void press_fill_adjust(bool)
 {
     if (kt.KeyFill_Type == FILL_MATTE)
-        open_page_of_key(PAGE_MATTE_ADJUST);
+        ME_OpenPageOfKey(PAGE_MATTE_ADJUST);
     else
         open_signals(ASSIGN_FILL);
 }
