@@ -240,20 +240,20 @@ void Tree_SetList(const std::string& path, const std::vector<std::string>& rows,
 
 void Tree_Follow(Node& node, int client)
 {
-    node.followers[client]++;
+    std::vector<int>& list = node.followers;
+    if (std::find(list.begin(), list.end(), client) == list.end())
+        list.push_back(client);
 }
 
 void Tree_Unfollow(Node& node, int client)
 {
-    const auto found = node.followers.find(client);
-    if (found != node.followers.end() && --found->second == 0)
-        node.followers.erase(found);
+    std::erase(node.followers, client);
 }
 
 void Tree_ForgetClient(int client)
 {
     for (auto& [path, node] : tr.nodes)
-        node.followers.erase(client);
+        Tree_Unfollow(node, client);
 }
 
 void Tree_Answer(const Node& node, int client)
@@ -271,7 +271,7 @@ void Tree_Tell(const Node& node, const std::string& value, int also_client)
 {
     const std::string line = node.path + "#" + value;
     bool is_told = also_client == 0;
-    for (const auto& [client, times] : node.followers) {
+    for (const int client : node.followers) {
         Link_SendLine(client, line);
         is_told = is_told || client == also_client;
     }

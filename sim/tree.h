@@ -33,8 +33,8 @@ struct Node {
     std::vector<std::string> rows;
     std::vector<std::string> initial_rows;
     int key_fields = 1;
-    bool kill_first = false; // a full answer begins with "KILL": it replaces what the client has
-    std::map<int, int> followers; // client, and how often it has asked
+    bool kill_first = false;    // a full answer begins with "KILL": it replaces what the client has
+    std::vector<int> followers; // client numbers
 };
 
 enum PutResult { PUT_REFUSED, PUT_SAME, PUT_CHANGED, PUT_PULSE };
@@ -67,7 +67,7 @@ std::string Tree_NumberText(const ValueType& type, double number); // clamped an
 bool Tree_Accepts(const ValueType& type, const std::string& wanted, std::string* value);
 
 // --- Telling ---
-void Tree_Follow(Node& node, int client); // as often as it is asked; told once all the same
+void Tree_Follow(Node& node, int client); // twice is once
 void Tree_Unfollow(Node& node, int client);
 void Tree_ForgetClient(int client);
 void Tree_Answer(const Node& node, int client); // the whole value, a list row by row

@@ -90,7 +90,7 @@ static constexpr Owner owners[] = {
 
 static bool verb_follows(const Node& node, int client)
 {
-    return node.followers.contains(client);
+    return std::find(node.followers.begin(), node.followers.end(), client) != node.followers.end();
 }
 
 static bool verb_owner_takes(const std::string& path, const std::string& value)
@@ -157,7 +157,7 @@ static void verb_set(int client, const std::string& path, const std::string& val
 static void verb_tell_all_of(const Node& node, int also_client)
 {
     bool is_told = also_client == 0;
-    for (const auto& [client, times] : node.followers) {
+    for (const int client : node.followers) {
         Tree_Answer(node, client);
         is_told = is_told || client == also_client;
     }

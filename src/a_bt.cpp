@@ -163,6 +163,17 @@ static bool read_only_once(const BT_MEM& b, int n)
     return b.no_add > 0 && n >= b.no_add - 1;
 }
 
+int BT_Follows(const char* path)
+{
+    const uint32_t hash = Hash(path);
+    for (const BT_MEM& b : buttons())
+        for (int n = 0; n < BT_COMMANDS; n++)
+            if (b.cmd_hash[n] == hash && strcmp(b.cmd[n], path) == 0 && lives_on_server(b, n) &&
+                !read_only_once(b, n))
+                return 1;
+    return 0;
+}
+
 static void unsubscribe()
 {
     SeenPaths seen;

@@ -122,6 +122,7 @@ int BT_SetCutoffEx(int id, int on);                // group frames stay
 int BT_SetCommand(int id, int n, const char* cmd); // -1 when unknown
 int BT_SetCommand_NoRemove(int id, int n, const char* cmd);
 int BT_SetCommand_NoAdd(int id, int n, const char* cmd);
+int BT_Follows(const char* path);                   // 1 while a button is subscribed to it
 int BT_UndecidedRequest(const char* cmd, int flag); // "path#value"; -1 for null
 
 // --- What a row names: select, draw and tally families ---

@@ -1,5 +1,6 @@
 #include "a_hf.h"
 #include "a_ba.h"
+#include "command.h"
 #include "global.h"
 #include "graphics.h"
 #include "log.h"
@@ -72,6 +73,16 @@ static void send_paths(const char* verb)
     for (HF_MEM& t : tabs())
         for (const TabStatus& s : stats(t))
             TabStatus_Send(paths, s, verb);
+}
+
+int HF_Follows(const char* path)
+{
+    const uint32_t hash = Hash(path);
+    for (HF_MEM& t : tabs())
+        for (const TabStatus& s : stats(t))
+            if (TabStatus_Follows(s, path, hash))
+                return 1;
+    return 0;
 }
 
 static void fill_tab(HF_MEM& t, const HF_TBL& row)

@@ -19,5 +19,7 @@ constexpr uint32_t HF_LOW = 0x100; // with the selected id: the low form, below 
 int HF_Create(const HF_TBL* table, uint32_t selected);
 int HF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 
+int HF_Follows(const char* path); // 1 while a tab is subscribed to it
+
 // --- For page code; -1 for an id that no tab has ---
 int HF_SetDisplay(int id, int on); // off: the cell is blank and takes no press

@@ -1,8 +1,10 @@
 // Which boxes there are: tables and single rows come and go, with their subscriptions, the knobs
 // that the server turns for them, and the layers.
 #include "a_bt.h"
+#include "a_hf.h"
 #include "a_nb.h"
 #include "a_nb_private.h"
+#include "a_st.h"
 #include "bus.h"
 #include "command.h"
 #include "log.h"
@@ -112,9 +114,16 @@ static void subscribe(NB_MEM& b)
     b.added = 1;
 }
 
+// The server keeps one subscription of a path. While a cell, a button or a tab of the page follows
+// it, the boxes must not end it when others take their place; whoever goes last does.
+static bool is_followed_beside(const char* path)
+{
+    return ST_Follows(path) || BT_Follows(path) || HF_Follows(path);
+}
+
 static void unsubscribe(NB_MEM& b)
 {
-    if (b.added)
+    if (b.added && !is_followed_beside(nb_wire_path(b)))
         Net_SendCommandFormat("remove %s", nb_wire_path(b));
     b.added = 0;
 }

@@ -8,6 +8,7 @@
 #include "netio.h"
 #include "page.h"
 #include "page_table/st_dme.h"
+#include "tab_status.h"
 #include "tdl.h"
 #include "text.h"
 #include <cstdlib>
@@ -149,14 +150,40 @@ static bool first_time(const char* path, uint32_t hash)
     return true;
 }
 
-// "add" or "remove" for each path of the cells, each path once.
-static void subscribe(const char* verb)
+// Each path of the cells once. What is followed for the life of the process is only read: a removal
+// would end it for everybody.
+static void for_each_path(void (*send)(const char* path, bool is_for_life))
 {
     seen.count = 0;
     for (const ST_MEM& c : cells())
         for (int i = 0; i < c.used; i++)
             if (c.cmd[i][0] && !IsLocal(c.cmd[i]) && first_time(c.cmd[i], c.cmd_hash[i]))
-                Net_SendCommandFormat("%s %s", verb, c.cmd[i]);
+                send(c.cmd[i], IsKeyAssignPath(c.cmd[i]));
+}
+
+static void subscribe()
+{
+    for_each_path([](const char* path, bool is_for_life) {
+        Net_SendCommandFormat("%s %s", is_for_life ? "read" : "add", path);
+    });
+}
+
+static void unsubscribe()
+{
+    for_each_path([](const char* path, bool is_for_life) {
+        if (!is_for_life)
+            Net_SendCommandFormat("remove %s", path);
+    });
+}
+
+int ST_Follows(const char* path)
+{
+    const uint32_t hash = Hash(path);
+    for (const ST_MEM& c : cells())
+        for (int i = 0; i < c.used; i++)
+            if (c.cmd_hash[i] == hash && strcmp(c.cmd[i], path) == 0)
+                return !IsKeyAssignPath(path);
+    return 0;
 }
 
 // --- Opening and closing a page ---
@@ -252,7 +279,7 @@ static void fill_cell(ST_MEM& c, const ST_TBL& row)
 
 static void empty()
 {
-    subscribe("remove");
+    unsubscribe();
     for (ST_MEM& c : Status)
         c.id = -1;
     StatusMax = 0;
@@ -280,7 +307,7 @@ int ST_Create(const ST_TBL* table, uint32_t)
         fill_cell(Status[StatusMax], *row);
         StatusMax++;
     }
-    subscribe("add");
+    subscribe();
     return 0;
 }
 

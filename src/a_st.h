@@ -50,6 +50,7 @@ int ST_Create(const ST_TBL* table, uint32_t unused);
 int ST_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 
 // --- For everybody ---
+int ST_Follows(const char* path);   // 1 while a cell of the page is subscribed to it
 void GL_ST_area_update_draw();      // draw all cells anew: a global setting has changed
 int st_dme_reference();             // channel bits that the DME cells mean; -1 none
 extern int GL_FillSourceAssignMode; // the signal select page assigns 0 the fill, 1 the source

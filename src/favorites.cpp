@@ -134,12 +134,12 @@ static void fav_press(int n)
 static int pc_favorites_create(int on, uint32_t)
 {
     fav.storing = false;
-    const char* verb = on ? "add" : "remove";
-    for (int n = 1; n <= FAVORITES; n++)
-        for (const char* word : {"Group Name", "Shortcut Name", "Color Select"})
-            Net_SendCommandFormat("%s Info@Operation Setup Data@%s@%d", verb, word, n);
     if (!on)
         return 1;
+    // They are followed for the life of the process: a removal would end that.
+    for (int n = 1; n <= FAVORITES; n++)
+        for (const char* word : {"Group Name", "Shortcut Name", "Color Select"})
+            Net_SendCommandFormat("read Info@Operation Setup Data@%s@%d", word, n);
     fav_set_storing(false);
     return 0;
 }

@@ -180,12 +180,12 @@ static int pc_me_key_prockey_bordercrop_create(int on, uint32_t)
     return 0;
 }
 
-static int pc_me_key_prockey_bordercrop_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+static int pc_me_key_prockey_bordercrop_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
     switch (msg) {
     case MSG_TALLY: return bordercrop_tally(Text(ax), Text(bx));
     case LMSG_KNOBCREATE: show_crop_boxes(); return 0;
-    case LMSG_KNOBVAR: return var_is_address() ? take_value(int(ax), bx) : 0;
+    case LMSG_KNOBVAR: return cx == 0 && var_is_address() ? take_value(int(ax), bx) : 0;
     case LMSG_KNOBFVAR: return take_value(int(ax), bx);
     case LMSG_KNOBDIFF: return take_difference(int(ax), bx);
     case LMSG_KNOBDEFAULT: return reset_crop(int(ax));

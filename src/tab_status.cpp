@@ -23,11 +23,16 @@ bool TabStatus_Set(TabStatus& s, const char* statcmd)
 
 bool TabStatus_Tally(TabStatus& s, const char* path, const char* value, uint32_t hash)
 {
-    if (s.hash != hash || !s.cmd[0] || !Same(s.cmd, path))
+    if (!TabStatus_Follows(s, path, hash))
         return false;
     const int before = s.status;
     s.status = Same(s.var, value);
     return s.status != before;
+}
+
+bool TabStatus_Follows(const TabStatus& s, const char* path, uint32_t hash)
+{
+    return s.hash == hash && s.cmd[0] && Same(s.cmd, path);
 }
 
 void TabStatus_Send(TabPaths& paths, const TabStatus& s, const char* verb)

@@ -24,5 +24,8 @@ struct TabPaths {
 // Send "VERB path" unless this pass has met the path before or it never goes to the server.
 void TabStatus_Send(TabPaths& paths, const TabStatus& s, const char* verb);
 
+// True when s follows the path, whose Hash is hash.
+bool TabStatus_Follows(const TabStatus& s, const char* path, uint32_t hash);
+
 // The lists from which the main and sub side of a key follow.
 bool IsKeyAssignPath(const char* path);

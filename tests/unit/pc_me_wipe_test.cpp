@@ -297,3 +297,14 @@ TEST_F(MeWipeSnapshot, WhatTheMirrorLacksIsAskedForOnce)
         Tell(list + "#" + std::to_string(i) + ",,E");
     EXPECT_EQ(std::ranges::count(Open(0x86570000), "read " + list), 0);
 }
+
+TEST_F(MeWipe, BoxesThatComeLeaveTheCellsTheirPaths)
+{
+    Open(0x11550000);
+    const std::string h = "M/E-1@Wipe@Main Pattern@Position@H";
+    Tell("M/E-1@Wipe@Main Pattern@Pattern#67");
+    Tell("M/E-1@Wipe@Main Pattern@Position#true");
+    EXPECT_THAT(Press(17), Contains("add " + h));
+    EXPECT_THAT(Press(20), Not(Contains("remove " + h))) << "the cell shows it, too";
+    EXPECT_THAT(Leave(), Contains("remove " + h));
+}
