@@ -20,7 +20,6 @@
 namespace
 {
 constexpr int PUSHED_MS = 150;
-constexpr uint32_t SUB_SIDE = 0x04000000; // from a main bank to its sub bank
 
 constexpr uint32_t PAGE_ERRORS = 0x74110000;
 constexpr uint32_t PAGE_ERRORS_GONE = 0x74120000;
@@ -133,7 +132,7 @@ static bool has_more_keys()
 
 static uint32_t other_side()
 {
-    return ba.MainSub_mode ? GL_NowPage - SUB_SIDE : GL_NowPage + SUB_SIDE;
+    return ba.MainSub_mode ? GL_NowPage - TO_SUB_BANK : GL_NowPage + TO_SUB_BANK;
 }
 
 // Some pages of a bank stand for both its sides: there is no other to go to.
@@ -360,7 +359,7 @@ static void mainsub_action()
 
 static void keychange_action()
 {
-    GL_CreatePage = isNowPageMeKey(0) == 1 ? GL_NowPage + SUB_SIDE : GL_NowPage - SUB_SIDE;
+    GL_CreatePage = isNowPageMeKey(0) == 1 ? GL_NowPage + TO_SUB_BANK : GL_NowPage - TO_SUB_BANK;
 }
 
 static void prev_action()

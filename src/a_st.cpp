@@ -36,8 +36,7 @@ enum ReferenceMode : uint32_t {
 constexpr uint32_t NO_HASH = 0xFFFFFFFF; // no path sums up to this
 constexpr uint32_t PAGE_FRAME_MEMORY = 0x21110000;
 constexpr uint32_t PAGE_MISC_KEYS = 0x11730000; // lives in the sub bank for keys 5 to 8
-constexpr uint32_t SUB_BANK = 0x04000000;
-constexpr int CELL_FILL = 6; // the two cells that lead to one page
+constexpr int CELL_FILL = 6;                    // the two cells that lead to one page
 constexpr int CELL_SOURCE = 7;
 } // namespace
 
@@ -222,7 +221,7 @@ static uint32_t target_of(uint32_t base)
     else
         id = (base & 0x00FFFFFF) + (GL_NowPage & 0xFF000000);
     if (base == PAGE_MISC_KEYS && isNowPageMeKey(0) == 2)
-        id -= SUB_BANK;
+        id -= TO_SUB_BANK;
     return id;
 }
 

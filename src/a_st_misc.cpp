@@ -24,7 +24,6 @@ constexpr int OUTPUTS = 8;                       // of a bank
 constexpr uint32_t PAGE_TRANSITION = 0x00710000; // below the bank
 constexpr uint32_t PAGE_CLIP = 0x00760000;
 constexpr uint32_t BANK_BYTE = 0xFF000000;
-constexpr uint32_t SUB_BANK = 0x04000000;
 
 struct Transition {
     int tally; // "true" while it is the bank's
@@ -210,7 +209,7 @@ static void print_setup_of_key(char (&text)[32], int key)
         return;
     if (isMP2SettingME(GL_NowPage)) {
         const uint32_t bank = GL_NowPage & BANK_BYTE;
-        const uint32_t page = bank + (key < HALF_KEYS ? 0 : SUB_BANK) +
+        const uint32_t page = bank + (key < HALF_KEYS ? 0 : TO_SUB_BANK) +
                               (uint32_t(key % HALF_KEYS) + 1) * 0x00100000 + 0x00010000;
         const KeyAssignText side = keyassign_str_get(page);
         CopyText(text, side.main[0] && side.further[0] ? "Both" : side.main);

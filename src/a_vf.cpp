@@ -124,7 +124,6 @@ static void drop_wipe_knobs()
 // The page that a press on the tab would open: a bank without a sub side opens the main one.
 static const PAGE* page_of(const VF_MEM& t)
 {
-    constexpr uint32_t TO_SUB_BANK = 0x04000000;
     if (const PAGE* page = SearchPageTable(t.page))
         return page;
     return isNowPageME(t.page) == 2 ? SearchPageTable(t.page - TO_SUB_BANK) : nullptr;

@@ -56,7 +56,6 @@ char Page_InstallUnit[16] = "";
 
 namespace
 {
-constexpr uint32_t TO_SUB_BANK = 0x04000000;
 constexpr uint32_t BANK_BITS = 0xFF000000;
 constexpr uint32_t KEY_BITS = 0x00F00000; // first-level tab: key 1..4, or a menu group from 5 on
 constexpr uint32_t TAB_BITS = 0x000F0000; // second-level tab; all set: the tab last chosen

@@ -57,6 +57,8 @@ struct TOPMENU {
 };
 extern TOPMENU TopMenu[]; // ended by a null caption
 
+constexpr uint32_t TO_SUB_BANK = 0x04000000; // from a main bank to its sub bank
+
 // --- State that others read ---
 extern PAGE* Page; // the current row; null only before the first CreatePage
 extern uint32_t GL_NowPage;

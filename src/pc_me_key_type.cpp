@@ -39,7 +39,6 @@ constexpr uint32_t PAGE_KEY_PATTERN = 0x11170002;
 constexpr uint32_t PAGE_MATTE_ADJUST = 0x11110002;
 constexpr uint32_t PAGE_SIGNAL_SELECT = 0x11110003;
 constexpr uint32_t BANK_BYTE = 0xFF000000;
-constexpr uint32_t TO_SUB_BANK = 0x04000000;
 constexpr int KEY_OF_SUB_BANK = 2; // isNowPageMeKey
 } // namespace
 

@@ -156,7 +156,6 @@ constexpr MiscKeyButton main_buttons[] = {{1, 1},  {2, 2},  {3, 3},  {4, 4},
 constexpr MiscKeyButton sub_buttons[] = {{33, 1}, {34, 2}, {35, 3}, {36, 4},
                                          {49, 5}, {50, 6}, {51, 7}, {52, 8}};
 constexpr uint32_t BANK_BYTE = 0xFF000000;
-constexpr uint32_t SUB_BANK = 0x04000000;
 constexpr uint32_t KEY_DIGIT = 0x00100000;
 constexpr uint32_t TAB_TYPE = 0x00010000;
 } // namespace
@@ -171,7 +170,7 @@ static int sides_in_setup(int key)
 {
     if (!isMP2SettingME(GL_NowPage))
         return SIDE_MAIN;
-    const uint32_t side = key < MISC_HALF_KEYS ? 0 : SUB_BANK;
+    const uint32_t side = key < MISC_HALF_KEYS ? 0 : TO_SUB_BANK;
     const uint32_t digit = (uint32_t(key % MISC_HALF_KEYS) + 1) * KEY_DIGIT;
     const KeyAssignText text =
         keyassign_str_get((GL_NowPage & BANK_BYTE) + side + digit + TAB_TYPE);
