@@ -7,6 +7,7 @@
 #include "harness.h"
 #include "message.h"
 #include "page.h"
+#include "test_dirs.h"
 #include "text.h"
 #include <sstream>
 

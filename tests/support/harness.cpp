@@ -25,6 +25,7 @@
 #include "scrollbar.h"
 #include "setup_index.h"
 #include "tdl.h"
+#include "test_dirs.h"
 #include "text.h"
 #include "window.h"
 #include <algorithm>

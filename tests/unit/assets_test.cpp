@@ -1,6 +1,7 @@
 // What assetgen leaves in the run directory, read as the application reads it.
 #include "../../assets/wipe_numbers.h"
 #include "harness.h"
+#include "test_dirs.h"
 #include <filesystem>
 
 namespace fs = std::filesystem;

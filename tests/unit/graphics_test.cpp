@@ -2,6 +2,7 @@
 #include "harness.h"
 #include "log.h"
 #include "tdl_fixture.h"
+#include "test_dirs.h"
 #include <filesystem>
 
 namespace

@@ -1,5 +1,6 @@
 #include "tdl_fixture.h"
 #include "tdl.h"
+#include "test_dirs.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
