@@ -179,6 +179,7 @@ static int modify_press(const char* key)
             press_corner(c);
     if (Same(key, "Position@Relative"))
         press_relative();
+    dm.crop = {}; // a crop to 4:3 moves the edges from elsewhere
     for (const char* action : {"Position@Center", "Crop Mode@4:3 Crop"})
         if (Same(key, action))
             modify_for_chosen([&](int ch) { modify_send("put", action, ch, "#true"); });
@@ -253,6 +254,7 @@ static int pc_me_dmewipe_modify_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, M
 {
     switch (msg) {
     case MSG_TALLY: return modify_tally(Text(ax), Text(bx));
+    case MSG_REDRAW: Crop_Pass(dm.crop, int(ax)); return 0;
     case LMSG_BTNSEL: return modify_button(Text(ax), cx != 0);
     case LMSG_KNOBCREATE: modify_show_boxes(); return 0;
     case LMSG_KNOBDIFF: return modify_turn(int(ax), number_at(bx));

@@ -56,6 +56,7 @@ void modify_leave_pattern()
 static void forget_channels()
 {
     dm.modify_ch = 0;
+    dm.crop = {};
     std::fill(dm.Modify, dm.Modify + MODIFY_CHANNELS, _modify{});
     for (const ModifyFunction& f : modify_functions)
         std::fill(dm.*f.active, dm.*f.active + MODIFY_CHANNELS, 0);
@@ -94,6 +95,7 @@ static void toggle_channel(int n)
     chsel[n] = !chsel[n];
     if (modify_chosen_channels() == 0)
         chsel[n == 0 ? 1 : 0] = 1;
+    dm.crop = {};
     dm.modify_ch = int(std::find(chsel, chsel + dm.modify_ptn, 1) - chsel);
 }
 

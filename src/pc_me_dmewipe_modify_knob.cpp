@@ -10,29 +10,14 @@
 #include <iterator>
 #include "safeguards.h"
 
-namespace
-{
-enum : int { TOP, LEFT, RIGHT, BOTTOM };
-constexpr const char* ModifyCrop[] = {"Top", "Left", "Right", "Bottom"};
+// The edge that a crop knob's box shows, in a channel.
+static constexpr double _modify::*crop_edges[CROP_EDGES] = {&_modify::top, &_modify::left,
+                                                            &_modify::right, &_modify::bottom};
 
-// Each crop knob moves opposite edges towards the middle. Left of the middle and below it is
-// negative.
-struct Edge {
-    int edge = 0;
-    int sign = 0; // 0 ends a list
-};
-struct CropKnob {
-    int sense = 0; // the sign that its values keep to
-    double _modify::*shown = nullptr;
-    Edge edges[4];
-};
-constexpr CropKnob crop_knobs[] = {
-    {-1, &_modify::left, {{RIGHT, -1}, {LEFT, 1}}},
-    {1, &_modify::top, {{BOTTOM, -1}, {TOP, 1}}},
-    {-1, &_modify::left, {{RIGHT, -1}, {LEFT, 1}, {BOTTOM, 1}, {TOP, -1}}},
-};
-constexpr int CROP_KNOBS = int(std::size(crop_knobs));
-} // namespace
+static double crop_shown(int knob)
+{
+    return modify_leading().*crop_edges[crop_knobs[knob].shown];
+}
 
 // --- What the boxes show ---
 
@@ -60,7 +45,7 @@ void modify_show_boxes()
     case BTN_SIZE: NB_SetVar(1, modify_leading().size); break;
     case BTN_CROP:
         for (int knob = 0; knob < CROP_KNOBS; knob++)
-            NB_SetVar(knob + 1, modify_leading().*crop_knobs[knob].shown);
+            NB_SetVar(knob + 1, crop_shown(knob));
         break;
     default: break;
     }
@@ -119,35 +104,34 @@ template <typename Act> static void for_edges(int knob, Act act)
     modify_for_chosen([&](int ch) {
         if (!dm.modify_cropactive[ch])
             return;
-        for (const Edge& e : crop_knobs[knob].edges)
-            if (e.sign)
-                act(ch, e);
+        for (const auto& m : crop_knobs[knob].moved)
+            if (m.sense)
+                act(ch, m.edge, m.sense);
     });
 }
 
-// What goes beyond the middle counts as the middle.
-static void set_crop(int knob, double v)
+static void put_crop(int knob, double place)
 {
-    const double within = crop_knobs[knob].sense < 0 ? std::min(v, 0.0) : std::max(v, 0.0);
-    for_edges(knob, [&](int ch, const Edge& e) {
+    if (!std::isfinite(place))
+        return;
+    for_edges(knob, [&](int ch, CropEdge edge, int sense) {
         Net_SendCommandFormat("put %s@Modify@Crop Mode@Crop@%s@%d#%.2f", dm.ModifyReg,
-                              ModifyCrop[e.edge], ch + 1, e.sign < 0 ? 0 - within : within);
+                              CROP_WORDS[edge], ch + 1, Crop_Value(sense, place));
     });
 }
 
-// The edges stay together, so a turn starts from what the box shows.
+// The edges stay together: all go to where the leading channel's shown one goes.
 static void turn_crop(int knob, double step)
 {
-    const double shown = modify_leading().*crop_knobs[knob].shown;
-    if (std::isfinite(shown))
-        set_crop(knob, std::clamp(shown + step / 100, -100.0, 100.0));
+    put_crop(knob, Crop_Turn(dm.crop, knob, crop_shown(knob), step / 100));
 }
 
 static void default_crop(int knob)
 {
-    for_edges(knob, [](int ch, const Edge& e) {
+    dm.crop = {};
+    for_edges(knob, [](int ch, CropEdge edge, int) {
         Net_SendCommandFormat("default %s@Modify@Crop Mode@Crop@%s@%d", dm.ModifyReg,
-                              ModifyCrop[e.edge], ch + 1);
+                              CROP_WORDS[edge], ch + 1);
     });
 }
 
@@ -199,7 +183,7 @@ int modify_set(int box, double v)
     switch (BT_GetKnobAssign()) {
     case BTN_POSITION: set_position(knob, v); break;
     case BTN_SIZE: put_size("", v); break;
-    case BTN_CROP: set_crop(knob, v); break;
+    case BTN_CROP: put_crop(knob, Crop_Place(dm.crop, knob, v)); break;
     default: break;
     }
     return 0;

@@ -3,9 +3,9 @@
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "pc_me_crop.h"
 #include "pc_me_key_lower.h"
 #include "tally_value.h"
-#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
@@ -13,27 +13,7 @@
 
 namespace
 {
-enum : int { TOP, LEFT, RIGHT, BOTTOM, EDGES };
-constexpr const char* EDGE_WORDS[EDGES] = {"Top", "Left", "Right", "Bottom"};
-constexpr double CROP_MAX = 100; // an edge at the border of the picture; 0 is the centre
-
-enum : int { BOX_H = 17, BOX_V = 18, BOX_ALL = 19 };
-struct CropBox {
-    int id;
-    int shown; // the edge whose value the box has
-    double min;
-    double max;
-    struct {
-        int edge;
-        int sense;
-    } moved[EDGES]; // in the order of the commands; a sense of 0 ends them
-};
-constexpr CropBox crop_boxes[] = {
-    {BOX_H, LEFT, -CROP_MAX, 0, {{RIGHT, -1}, {LEFT, 1}}},
-    {BOX_V, TOP, 0, CROP_MAX, {{BOTTOM, -1}, {TOP, 1}}},
-    {BOX_ALL, LEFT, -CROP_MAX, 0, {{RIGHT, -1}, {LEFT, 1}, {BOTTOM, 1}, {TOP, -1}}},
-};
-
+constexpr int FIRST_BOX = 17; // the boxes of the second layer are the knobs in their order
 constexpr int BTN_CROP = 33;
 constexpr int BTN_CROP_4_3 = 34;
 constexpr struct {
@@ -45,8 +25,8 @@ constexpr struct {
 static struct {
     char CropCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Processed Key@Border/Crop@Crop@"; the edge follows
     char PageCmd[CMD_SIZE] = ""; // "M/E-1@Key1@Processed Key@Border/Crop@"
-    double Edge[EDGES] = {CROP_MAX, -CROP_MAX, CROP_MAX, -CROP_MAX};
-    bool IsKnown[EDGES] = {}; // the server has told the edge
+    double Edge[CROP_EDGES] = {NAN, NAN, NAN, NAN}; // not a number until the server has told it
+    CropRun Run;
     bool IsBorder = false;
     bool IsMix = false;
     bool IsCrop = false;
@@ -63,22 +43,20 @@ static void show_crop_boxes()
 {
     if (BT_GetKnobAssign() != BTN_CROP)
         return;
-    for (const CropBox& box : crop_boxes)
-        if (Crop.IsKnown[box.shown])
-            (void)NB_SetVar(box.id, Crop.Edge[box.shown]); // the boxes are those of the owner
+    for (int knob = 0; knob < CROP_KNOBS; knob++)
+        (void)NB_SetVar(FIRST_BOX + knob, Crop.Edge[crop_knobs[knob].shown]); // refuses no number
 }
 
 static void edge_tally(const char* edge, const char* value)
 {
-    for (int i = 0; i < EDGES; i++) {
-        if (!Same(edge, EDGE_WORDS[i]))
+    for (int i = 0; i < CROP_EDGES; i++) {
+        if (!Same(edge, CROP_WORDS[i]))
             continue;
         char* end = nullptr;
         const double v = strtod(value, &end);
         if (end == value || !std::isfinite(v))
             return;
         Crop.Edge[i] = v;
-        Crop.IsKnown[i] = true;
         show_crop_boxes();
     }
 }
@@ -102,43 +80,33 @@ static int bordercrop_tally(const char* path, const char* value)
     return 0;
 }
 
-static const CropBox* crop_box(int id)
+// The knob of a box, -1 for a box that is none of them.
+static int knob_of(int box)
 {
-    for (const CropBox& box : crop_boxes)
-        if (box.id == id)
-            return &box;
-    return nullptr;
+    const int knob = box - FIRST_BOX;
+    return knob >= 0 && knob < CROP_KNOBS ? knob : -1;
 }
 
-// H and All never go above 0, V never below.
-static int crop(int id, double v)
+static int put_crop(int knob, double place)
 {
-    const CropBox* box = crop_box(id);
-    if (!box || !std::isfinite(v))
+    if (!std::isfinite(place))
         return 0;
-    v = std::clamp(v, box->min, box->max);
-    for (const auto& m : box->moved)
+    for (const auto& m : crop_knobs[knob].moved)
         if (m.sense)
-            Net_SendCommandFormat("put %s%s#%.2f", Crop.CropCmd, EDGE_WORDS[m.edge],
-                                  v == 0 ? 0.0 : m.sense * v); // no "-0.00"
+            Net_SendCommandFormat("put %s%s#%.2f", Crop.CropCmd, CROP_WORDS[m.edge],
+                                  Crop_Value(m.sense, place));
     return 0;
 }
 
-// Counts of a knob: on from the edge as the server has it.
-static int turn_crop(int id, double difference)
+static int reset_crop(int box)
 {
-    const CropBox* box = crop_box(id);
-    return box ? crop(id, Crop.Edge[box->shown] + difference) : 0;
-}
-
-static int reset_crop(int id)
-{
-    const CropBox* box = crop_box(id);
-    if (!box)
+    const int knob = knob_of(box);
+    if (knob < 0)
         return 0;
-    for (const auto& m : box->moved)
+    Crop.Run = {};
+    for (const auto& m : crop_knobs[knob].moved)
         if (m.sense)
-            Net_SendCommandFormat("default %s%s", Crop.CropCmd, EDGE_WORDS[m.edge]);
+            Net_SendCommandFormat("default %s%s", Crop.CropCmd, CROP_WORDS[m.edge]);
     return 0;
 }
 
@@ -149,19 +117,28 @@ static bool var_is_address()
     return (GL_NowPage & 0xF00FFFFF) == 0x10060003;
 }
 
-static int take_value(int id, MsgArg address)
+static int take_value(int box, MsgArg address)
 {
-    return crop_box(id) ? crop(id, *reinterpret_cast<const double*>(address)) : 0;
+    const int knob = knob_of(box);
+    if (knob < 0)
+        return 0;
+    const double v = *reinterpret_cast<const double*>(address);
+    return std::isfinite(v) ? put_crop(knob, Crop_Place(Crop.Run, knob, v)) : 0;
 }
 
-static int take_difference(int id, MsgArg address)
+// Counts of a knob: on from where the hand or the server has brought the edge.
+static int take_difference(int box, MsgArg address)
 {
-    return crop_box(id) ? turn_crop(id, *reinterpret_cast<const double*>(address)) : 0;
+    const int knob = knob_of(box);
+    if (knob < 0)
+        return 0;
+    const double by = *reinterpret_cast<const double*>(address);
+    return put_crop(knob, Crop_Turn(Crop.Run, knob, Crop.Edge[crop_knobs[knob].shown], by));
 }
 
 static void subscribe_edges(const char* verb)
 {
-    for (const char* edge : EDGE_WORDS)
+    for (const char* edge : CROP_WORDS)
         Net_SendCommandFormat("%s %s%s", verb, Crop.CropCmd, edge);
 }
 
@@ -184,6 +161,7 @@ static int pc_me_key_prockey_bordercrop_proc(int msg, MsgArg ax, MsgArg bx, MsgA
 {
     switch (msg) {
     case MSG_TALLY: return bordercrop_tally(Text(ax), Text(bx));
+    case MSG_REDRAW: Crop_Pass(Crop.Run, int(ax)); return 0;
     case LMSG_KNOBCREATE: show_crop_boxes(); return 0;
     case LMSG_KNOBVAR: return cx == 0 && var_is_address() ? take_value(int(ax), bx) : 0;
     case LMSG_KNOBFVAR: return take_value(int(ax), bx);

@@ -296,6 +296,19 @@ TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
     Tell(root + "@Modify@Crop Mode@Crop@Left@1#-50");
     EXPECT_EQ(Tell("Panel@Common@Knob0#3"),
               Sent("put", {"Crop Mode@Crop@Right@1#49.24", "Crop Mode@Crop@Left@1#-49.24"}));
+    EXPECT_EQ(Tell("Panel@Common@Knob0#3"),
+              Sent("put", {"Crop Mode@Crop@Right@1#48.48", "Crop Mode@Crop@Left@1#-48.48"}))
+        << "steps that outrun the server add up";
+    EXPECT_EQ(Tell("Panel@Common@Knob2#3")[1], Sent("put", {"Crop Mode@Crop@Left@1#-47.72"})[0])
+        << "another knob of the same edge goes on from there";
+    Tell(root + "@Modify@Crop Mode@Crop@Left@1#-60"); // late, or from elsewhere
+    Pass(499);
+    EXPECT_EQ(Tell("Panel@Common@Knob0#-3"),
+              Sent("put", {"Crop Mode@Crop@Right@1#48.48", "Crop Mode@Crop@Left@1#-48.48"}));
+    Pass(500);
+    EXPECT_EQ(Tell("Panel@Common@Knob0#3"),
+              Sent("put", {"Crop Mode@Crop@Right@1#59.24", "Crop Mode@Crop@Left@1#-59.24"}))
+        << "a hand that has rested starts from the server again";
     EXPECT_EQ(Tell("Panel@Common@Knob0#-25"),
               Sent("put", {"Crop Mode@Crop@Right@1#100.00", "Crop Mode@Crop@Left@1#-100.00"}));
     Tell(root + "@Modify@Crop Mode@Crop@Top@1#50"); // the same sense crops, though this value falls

@@ -114,10 +114,15 @@ TEST_F(KeyProcessCrop, OneValueBecomesTheEdges)
 TEST_F(KeyProcessCrop, AKnobGoesOnFromTheEdgeOfTheServerAndStopsAtTheCentre)
 {
     OpenCrop(0x13260003, "M/E-3@Key2");
+    EXPECT_THAT(Tell("Panel@Common@Knob0#4"), IsEmpty()) << "no value yet";
     TellAll(path, {"@Left#-20", "@Top#60"});
     EXPECT_EQ(Tell("Panel@Common@Knob0#4"), PutOf({"Right#18.00", "Left#-18.00"}));
     // the same sense of the knob: less of the picture
     EXPECT_EQ(Tell("Panel@Common@Knob1#4"), PutOf({"Bottom#-58.00", "Top#58.00"}));
+    EXPECT_EQ(Tell("Panel@Common@Knob0#4"), PutOf({"Right#16.00", "Left#-16.00"}))
+        << "faster than the server";
+    (void)Default(1); // what the server makes of it, it tells
+    EXPECT_EQ(Tell("Panel@Common@Knob0#4"), PutOf({"Right#18.00", "Left#-18.00"}));
     EXPECT_EQ(Tell("Panel@Common@Knob0#400"), PutOf({"Right#0.00", "Left#0.00"}));
 }
 
