@@ -9,6 +9,7 @@
 #include "page.h"
 #include "tdl.h"
 #include "text.h"
+#include "window.h"
 #include <algorithm>
 #include <cstring>
 #include <span>
@@ -89,8 +90,17 @@ void bt_take_knobs(BT_MEM* b)
     show_knobs(b);
 }
 
+// A number that is being entered belongs to a box: it must not end up in another one, nor wait in a
+// window whose Enter reaches nobody.
+static void close_entry()
+{
+    if (GetWindow() == WINDOW_KNOB || GetWindow() == WINDOW_KNOB_TRIM)
+        CloseWindow();
+}
+
 static void release_knobs()
 {
+    close_entry();
     NBAssign = -1;
     Page_SetKnobAssign(-1);
     NB_CreateBlank();
@@ -118,8 +128,14 @@ void bt_follow_knobs(BT_MEM* b, int i)
     const int number = SpecialKnobNumber(b->nb);
     // These three choose by what the page code has set up, which a new choice would undo.
     const bool fixed = number == 45 || number == 55 || number == 59;
-    if (number && !fixed && bt_owns_knobs(b) && b->cmd_var[i][0] == '\0')
-        special_knob(b);
+    if (!number || fixed || !bt_owns_knobs(b) || b->cmd_var[i][0] != '\0')
+        return;
+    // The same boxes go on as they are, with what the operator is turning or entering.
+    const NB_TBL* table = special_knob_table(b);
+    if (NB_ShownTable() == (table ? table : NB_Non))
+        return;
+    close_entry();
+    special_knob(b);
 }
 
 // --- Frames and area ---

@@ -51,6 +51,7 @@ int NB_Create_NoAdd(const NB_TBL* nt, const char* tit);
 int NB_AddTable(const NB_TBL* nt);   // append rows; -1 when they do not all fit
 int NB_PushTable(const NB_TBL* nt);  // append one row; -1 when it does not fit
 int NB_PushTable2(const NB_TBL* nt); // the same, replacing any box of that id
+const NB_TBL* NB_ShownTable();       // that NB_Create has shown last, null when it was emptied
 int NB_PopTable();                   // drop the last box; these three: -1 when there is none
 int NB_PopTable2(const NB_TBL* nt);  // drop the box of that row
 int NB_DeleteTable(int id);          // drop the box, closing the gap

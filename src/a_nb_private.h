@@ -24,13 +24,14 @@ enum class NbPath {
 };
 
 struct NumberBoxes {
-    bool is_open = false;    // a table shows, be it an empty one
-    NB_MEM Knob[NB_MAX + 1]; // the one behind the last has an id of -1
-    int count = 0;           // of boxes in Knob
-    unsigned generation = 0; // changes whenever Knob is filled anew
-    int Select = 0;          // the box that the ten keys are open for; 0 or an id in Knob
-    int Layer = 0;           // shown
-    int LayerN = 0;          // the highest one
+    const NB_TBL* table = nullptr; // that filled the boxes; null when it was emptied
+    bool is_open = false;          // a table shows, be it an empty one
+    NB_MEM Knob[NB_MAX + 1];       // the one behind the last has an id of -1
+    int count = 0;                 // of boxes in Knob
+    unsigned generation = 0;       // changes whenever Knob is filled anew
+    int Select = 0;                // the box that the ten keys are open for; 0 or an id in Knob
+    int Layer = 0;                 // shown
+    int LayerN = 0;                // the highest one
     char Title[256] = "";
     int Title_redraw = 0;
     int Title_pushed = 0; // ms

@@ -235,6 +235,7 @@ static void forget_boxes()
     nb.Knob[0].id = -1;
     nb.count = 0;
     nb.generation++;
+    nb.table = nullptr;
     nb.is_open = false;
     nb.Layer = nb.LayerN = 0;
     nb.DragSelect = 0; // what the mouse holds is gone
@@ -267,6 +268,7 @@ int NB_Create(const NB_TBL* nt, const char* tit)
         CopyText(nb.Title, tit ? tit : "");
     for (const NB_TBL* row = nt; row->id >= 1; row++)
         (void)append_box(*row); // a row too many is logged and left out
+    nb.table = nt;
     nb.LayerN = highest_layer();
     open_layer(nt);
     open_column();
@@ -276,6 +278,11 @@ int NB_Create(const NB_TBL* nt, const char* tit)
     nb_assign_knobs();
     SendMessage(LMSG_KNOBCREATE, BT_GetKnobAssign(), Arg(nb.Title), 0, 0);
     return 0;
+}
+
+const NB_TBL* NB_ShownTable()
+{
+    return nb.table;
 }
 
 int NB_CreateBlank()

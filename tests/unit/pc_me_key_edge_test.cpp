@@ -1,6 +1,7 @@
 // The edge pages of a key: which buttons are of use by what the key and its edge are.
 #include "page_table/nb_edge.h"
 #include "table_page.h"
+#include "window.h"
 
 using std::string;
 
@@ -48,6 +49,30 @@ TEST_F(KeyEdgePage, ALostEdgeComesBack)
     EXPECT_THAT(Usable({18, 20, 21, 49}), IsEmpty());
     Tell("M/E-1@Key1@Type@Key Type#Linear");
     EXPECT_THAT(Usable({18, 20, 21, 49}), ElementsAre(18, 20, 21, 49));
+}
+
+// The operator enters a width while the edge changes elsewhere.
+TEST_F(KeyEdgePage, ANumberBeingEnteredOutlivesATallyThatLeavesTheBoxesAsTheyAre)
+{
+    const string edge = "M/E-1@Key1@Edge@";
+    Open(0x11120000);
+    TellAll("M/E-1@Key1@", {"Type@Key Type#Linear", "Edge@Separate Edge#false",
+                            "Edge@Fine Key#false", "Edge@Edge#Border"});
+    (void)Press(18);
+    Tell(edge + "Edge Type@Border@Width#20");
+    (void)Touch(750, 68 + 82);
+    ASSERT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
+    EXPECT_THAT(Tell(edge + "Key Drop#true"), IsEmpty()) << "the knobs stay assigned";
+    EXPECT_EQ(Shown("Width"), "20");
+    EXPECT_EQ(NB_SendValue(5), 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + edge + "Edge Type@Border@Width#5.00"));
+    Tell(edge + "Separate Edge#true"); // other boxes
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
+
+    (void)Touch(750, 68 + 82);
+    ASSERT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
+    Tell(edge + "Edge#Normal"); // none
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
 }
 
 // The knobs of the border ask for the key, the sides and for what halves its range.
