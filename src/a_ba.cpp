@@ -85,7 +85,7 @@ static bool is_operation_section()
     return false;
 }
 
-// Tab of a bank's page without the bank: 0x75 is the key priority of Misc.
+// Tab of a bank's page without the bank: 0x73 is the key priority of Misc.
 static bool is_bank_tab(int tab)
 {
     return Page_MeIndex(GL_NowPage) >= 0 && int(GL_NowPage >> 16 & 0xFF) == tab;
@@ -93,7 +93,7 @@ static bool is_bank_tab(int tab)
 
 static bool is_key_priority_page()
 {
-    return is_bank_tab(0x75);
+    return is_bank_tab(0x73) || is_bank_tab(0x75);
 }
 
 // The keypads of stored wipes have nothing that could go back to a default.

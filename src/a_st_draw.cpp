@@ -1,8 +1,10 @@
 // The shared parts of all status cells: frame, centre box, picture, lines, value list, veil.
 #include "a_st_draw.h"
+#include "a_dw.h"
 #include "global.h"
 #include "graphics.h"
 #include "page.h"
+#include "tally_value.h"
 #include "tdl.h"
 #include "text.h"
 #include <algorithm>
@@ -136,6 +138,12 @@ SDL_Surface* st_pattern(const char* number)
 {
     const long n = strtol(number, nullptr, 10);
     return n >= 1 && n < WIPE_PTN_MAX ? G_WipePtn[n] : nullptr;
+}
+
+SDL_Surface* st_dme_pattern(const char* number)
+{
+    const int base = DW_BaseNumber(Decimal(number));
+    return base >= 1 && base < WIPE_PTN_MAX ? G_WipePtn[base] : nullptr;
 }
 
 // Truncated towards zero. A value out of range runs outside the frame, which is how it shows.

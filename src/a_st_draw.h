@@ -57,6 +57,9 @@ bool st_is_on(const ST_MEM* cell, int n);  // tally n is "true"
 bool st_is_off(const ST_MEM* cell, int n); // tally n is "false"; one that is missing is neither
 // The picture of the wipe pattern whose number a text is; null when there is none.
 SDL_Surface* st_pattern(const char* number);
+// The same for an effects-unit wipe: one of the second set of channels has the picture of the
+// first.
+SDL_Surface* st_dme_pattern(const char* number);
 struct ST_LABEL {
     const char* label;
     int tally;
@@ -66,6 +69,9 @@ void st_put_values(const ST_MEM* cell, int lit, std::span<const ST_LABEL> labels
 // The keys in the order of a priority list, from the top: of keys 1 to 4 (half 0), 5 to 8 (1), or
 // of both as far as the bank has them (-1). The line of marked_key (from 1, 0 none) is inverted.
 void st_put_priority(const ST_MEM* cell, int lit, const char* list, int half, int marked_key);
+// The list that holds keys 5 to 8, of a cell whose tallies are the bank's order, that of its sub
+// side and whether the sub side has one of its own.
+const char* st_priority_of_5_to_8(const ST_MEM* cell);
 
 // --- Keys: a_st_me_key ---
 int st_drw_me_key_type1(ST_MEM*);

@@ -1,18 +1,14 @@
 // The cells of a bank's effects-unit wipe: pattern, modifiers, direction, edge.
-#include "a_dw.h"
 #include "a_st_draw.h"
-#include "graphics.h"
-#include "tally_value.h"
 #include "safeguards.h"
 
-// 0 number. A wipe of the second set of channels has the picture of the first.
+// 0 number.
 int st_drw_me_dmewipe_pattern(ST_MEM* cell)
 {
     const ST_MEM* c = st_begin(cell, st_in_view(cell), "Pattern");
     if (!c)
         return -1;
-    const int base = DW_BaseNumber(Decimal(c->tally[0]));
-    st_drw_bmpimage_strings(c, base > 0 && base < WIPE_PTN_MAX ? G_WipePtn[base] : nullptr, "");
+    st_drw_bmpimage_strings(c, st_dme_pattern(c->tally[0]), "");
     st_drw_under_strings(c, c->tally[0], 0);
     return 0;
 }

@@ -334,7 +334,7 @@ static int draw_transition(ST_MEM* cell, const Name& name, int first)
             return st_drw_center_image_square(c, t.square, 0);
         const bool is_wipe = strcmp(t.value, "Wipe") == 0;
         const char* pattern = c->tally[is_wipe ? first + 1 : int(KEYTRANS_DME_PATTERN)];
-        st_drw_bmpimage_strings(c, st_pattern(pattern), "");
+        st_drw_bmpimage_strings(c, is_wipe ? st_pattern(pattern) : st_dme_pattern(pattern), "");
         return st_drw_under_strings(c, pattern, 0);
     }
     return -1;
@@ -370,6 +370,8 @@ int st_drw_me_key_priority(ST_MEM* cell)
         return -1;
     const char* key = GL_NowTree && GL_NowTree[0] && GL_NowTree[1] ? GL_NowTree[1] : "";
     const int number = strlen(key) == 4 ? key[3] - '0' : 0; // "Key1", "DSK1"
-    st_put_priority(c, lit, c->tally[0], number > 4, number);
+    const bool is_further = number > 4;
+    st_put_priority(c, lit, is_further ? st_priority_of_5_to_8(c) : c->tally[0], is_further,
+                    number);
     return 0;
 }

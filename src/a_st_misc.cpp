@@ -95,11 +95,13 @@ int st_drw_me_misc_transition(ST_MEM* cell)
     char text[16] = "";
     if (*number)
         PrintText(text, "%d", *number);
-    st_drw_bmpimage_strings(c, st_pattern(text), "");
+    const bool is_dme = t->tally == TRN_DME_WIPE;
+    st_drw_bmpimage_strings(c, is_dme ? st_dme_pattern(text) : st_pattern(text), "");
     return st_drw_under_strings(c, text, 0);
 }
 
-// --- Priority: 0 the place of each key, 1 "false" when a sub side has no order of its own ---
+// --- Priority: 0 the place of each key. 1 and 2 on the main side: the order of the sub side's own,
+// and whether it counts. On a sub side 1 "false": it has no order of its own ---
 
 namespace
 {
@@ -127,12 +129,18 @@ static Order order_of(const char* list, int half)
     return order;
 }
 
+const char* st_priority_of_5_to_8(const ST_MEM* cell)
+{
+    const bool has_own = isMP2SettingME(GL_NowPage) && st_is_on(cell, 2) && cell->tally[1][0];
+    return cell->tally[has_own ? 1 : 0];
+}
+
 void st_put_priority(const ST_MEM* cell, int lit, const char* list, int half, int marked_key)
 {
     static constexpr const char* labels[HALF_KEYS] = {"1st", "2nd", "3rd", "4th"};
     const bool has_both = half < 0 && GL_KeyMax[Now_disp_draw()] > HALF_KEYS;
     const Order order = order_of(list, half < 0 ? 0 : half);
-    const Order further = has_both ? order_of(list, 1) : Order{};
+    const Order further = has_both ? order_of(st_priority_of_5_to_8(cell), 1) : Order{};
     char text[HALF_KEYS][16] = {};
     ST_VAL val{.st_num = HALF_KEYS, .selected = lit};
     for (int i = 0; i < HALF_KEYS; i++) {
@@ -161,6 +169,7 @@ int st_drw_me_misc_key_priority(ST_MEM* cell)
     return draw_priority(cell, "Key Priority", -1) ? 0 : -1;
 }
 
+// A sub side with an order of its own keeps it through the transition.
 int st_drw_me_misc_next_key_priority(ST_MEM* cell)
 {
     return draw_priority(cell, "Next Priority", -1) ? 0 : -1;

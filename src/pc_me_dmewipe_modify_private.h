@@ -68,7 +68,7 @@ struct ModifyState {
     int modify_nextcrop[MODIFY_CHANNELS] = {}; // its picture is wider than 4:3
     int modify_relative = 0;
     int added[MODIFY_CHANNELS] = {}; // its values are subscribed
-    CropRun crop;     // of the leading channel
+    CropRun crop;                    // of the leading channel
     int knobs_of = 0; // the button whose knobs go along to a channel just chosen, 0 none
     char DmeAsp[MODIFY_DMES][8] = {};                          // "4:3", "16:9"
     int DmeMe[MODIFY_DMES] = {-1, -1, -1, -1, -1, -1, -1, -1}; // as ME_ServerBank; -1 free

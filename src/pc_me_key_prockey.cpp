@@ -73,6 +73,8 @@ static bool status_tally(const char* value)
     Parts parts;
     if (SplitValue(parts, value, DME_CHANNELS) < DME_CHANNELS)
         return false;
+    char* const last = parts.v[DME_CHANNELS - 1];
+    last[strcspn(last, ",")] = '\0'; // channels beyond those that a key can have
     for (int n = 0; n < DME_CHANNELS; n++)
         take_user(n, parts.v[n]);
     return true;

@@ -10,9 +10,12 @@
 #include "page.h"
 #include "page_table/me_misc.h"
 #include "pc_me.h"
+#include "pc_me_key_lower.h"
 #include "pc_me_misc_private.h"
+#include "tab_status.h"
 #include "tally_value.h"
 #include "text.h"
+#include <cstring>
 #include <iterator>
 #include "safeguards.h"
 
@@ -54,7 +57,7 @@ bool misc_is_pgm()
 }
 
 // The keys of a sub side are there whatever the main side has.
-static bool lacks_key(int key)
+bool misc_lacks_key(int key)
 {
     return key > misc_key_max() && !ME_IsSubPage();
 }
@@ -66,7 +69,7 @@ void misc_show_keys(std::span<const MiscKeyButton> buttons)
     for (const MiscKeyButton& b : buttons) {
         if (misc_is_pgm())
             BT_SetCaption(b.id, dsk[b.key - 1]);
-        if (lacks_key(b.key))
+        if (misc_lacks_key(b.key))
             BT_SetCutoff(b.id, 1);
     }
 }
@@ -97,7 +100,11 @@ const PC_TBL pc_me_misc_tabs = {pc_me_misc_tabs_proc, pc_me_misc_tabs_create};
 static struct {
     char path[TRANS_TYPES][CMD_SIZE] = {}; // "M/E-1@Misc@Transition@Mix"
     bool is_on[TRANS_TYPES] = {};
-} Trans; // valid from create(1) to create(0)
+    std::span<const MiscKeyButton> keys;
+    char key_path[MISC_KEYS][CMD_SIZE] =
+        {};                            // "M/E-1@Misc@Key Assign@Key1"; "" in a bank of one side
+    char key_word[MISC_KEYS][16] = {}; // what the server says there
+} Trans;                               // valid from create(1) to create(0)
 
 // The buttons are one choice; between two types the server has none.
 static void mirror_type()
@@ -109,8 +116,29 @@ static void mirror_type()
     ME_Mirror(LOCAL_TYPE "#%s", shown);
 }
 
+// A key takes part in the transitions of the sides that it is assigned to.
+static void show_sides()
+{
+    if (!Trans.key_path[0][0])
+        return;
+    const int own = ME_IsSubPage() ? SIDE_SUB : SIDE_MAIN;
+    for (const MiscKeyButton& b : Trans.keys)
+        if (!misc_lacks_key(b.key))
+            ME_DisableKey(b.id, !(misc_sides_of(b.key - 1, Trans.key_word[b.key - 1]) & own));
+}
+
+static void assign_tally(const char* path, const char* value)
+{
+    for (int key = 0; key < MISC_KEYS; key++)
+        if (Same(path, Trans.key_path[key]))
+            CopyText(Trans.key_word[key], value);
+    if (IsKeyAssignPath(path) || strstr(path, "@Key Assign@"))
+        show_sides();
+}
+
 static int trans_tally(const char* path, const char* value)
 {
+    assign_tally(path, value);
     for (int i = 0; i < TRANS_TYPES; i++) {
         if (!Same(path, Trans.path[i]))
             continue;
@@ -155,6 +183,9 @@ static void trans_subscribe(const char* verb)
 {
     for (const char* path : Trans.path)
         Net_SendCommandFormat("%s %s", verb, path);
+    for (const char* path : Trans.key_path)
+        if (path[0])
+            Net_SendCommandFormat("%s %s", verb, path);
 }
 
 static int trans_create(int on, std::span<const MiscKeyButton> keys)
@@ -169,9 +200,14 @@ static int trans_create(int on, std::span<const MiscKeyButton> keys)
         PrintText(tail, "Transition@%s", Trans_TypeStr[i]);
         misc_path(Trans.path[i], tail);
     }
+    Trans.keys = keys;
+    if (isMP2SettingME(GL_NowPage))
+        for (int key = 0; key < MISC_KEYS; key++)
+            PrintText(Trans.key_path[key], "%s@Misc@Key Assign@Key%d", GL_NowTree[0], key + 1);
     trans_subscribe("add");
     misc_show_tabs();
     misc_show_keys(keys);
+    show_sides();
     show_rates();
     if (!has_dme_wipe())
         BT_SetDisable(BTN_DME_WIPE, 1);

@@ -8,6 +8,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pc_me.h"
+#include "pc_me_key_lower.h"
 #include "pc_me_misc.h"
 #include "pc_me_misc_private.h"
 #include "tab_status.h"
@@ -31,6 +32,7 @@ constexpr uint32_t PAGE_KEYS_5_TO_8 = 0x00730001;
 constexpr char NORMAL[] = "1,2,3,4";
 constexpr size_t HALF = sizeof NORMAL - 1; // the rest of a list begins one behind
 constexpr int BTN_FURTHER_KEYS = 53;
+constexpr int choice_buttons[] = {5, 6, 21, 22};
 } // namespace
 
 static struct {
@@ -39,7 +41,8 @@ static struct {
     int shown = LIST_CURRENT;        // that the matrix is bound to
     bool is_moved = false;           // off the path that the table gave it
     bool has_next = false;           // a sub side has no next order
-} Priority;                          // valid from create(1) to create(0)
+    char sub_path[CMD_SIZE] = ""; // "M/E-1 SUB@Misc@Key Priority@Enable"; "" where it is no matter
+} Priority;                       // valid from create(1) to create(0)
 
 static void mirror_list()
 {
@@ -90,8 +93,20 @@ static int priority_press(const char* path, const char* value)
     return 0;
 }
 
+// An order that the sub side does not follow is not to be edited by mistake.
+static void show_sub_has_own(bool has_own)
+{
+    for (int priority = 1; priority <= MISC_HALF_KEYS; priority++)
+        for (int key = 1; key <= MISC_HALF_KEYS; key++)
+            ME_DisableKey(priority * 16 + key, has_own);
+    for (const int id : choice_buttons)
+        ME_DisableKey(id, has_own);
+}
+
 static int priority_tally(const char* path, const char* value)
 {
+    if (Same(path, Priority.sub_path))
+        show_sub_has_own(IsTrue(value));
     for (int list = 0; list < LISTS; list++)
         if (Same(path, Priority.path[list]))
             CopyText(Priority.value[list], value);
@@ -106,7 +121,24 @@ static int priority_leave()
         Net_SendCommandFormat("remove %s", Priority.path[LIST_NEXT]);
     if (Priority.is_moved)
         Net_SendCommandFormat("remove %s", Priority.path[LIST_CURRENT]);
+    if (Priority.sub_path[0])
+        Net_SendCommandFormat("remove %s", Priority.sub_path);
     return 1;
+}
+
+// Keys 5 to 8 of a bank of two sides: where the sub side can be reached, its own page has their
+// order, and this one is of use only while the sub side follows the main side.
+static void follow_sub_side()
+{
+    enum { MAIN_ONLY = 0 };
+    if (!isMP2SettingME(GL_NowPage))
+        return;
+    if (MainSubAssign_StatusCheck() != MAIN_ONLY)
+        (void)BT_SetCommand(BTN_FURTHER_KEYS, 0, "#+15730000"); // the second page lacks the button
+    if (!is_page_of_second_half())
+        return;
+    PrintText(Priority.sub_path, "%s SUB@Misc@Key Priority@Enable", GL_NowTree[0]);
+    Net_SendCommandFormat("add %s", Priority.sub_path);
 }
 
 static int pc_me_misc_keypriority_create(int on, uint32_t)
@@ -125,6 +157,7 @@ static int pc_me_misc_keypriority_create(int on, uint32_t)
         BT_SetCaption(BTN_FURTHER_KEYS, "DSK 5-8");
     if (misc_key_max() <= MISC_HALF_KEYS)
         BT_SetCutoff(BTN_FURTHER_KEYS, 1);
+    follow_sub_side();
     mirror_list();
     return 0;
 }
@@ -144,7 +177,6 @@ const PC_TBL pc_me_misc_keypriority = {pc_me_misc_keypriority_proc, pc_me_misc_k
 
 namespace
 {
-enum : int { SIDE_MAIN = 1, SIDE_SUB = 2 };
 constexpr const char* side_words[] = {"Off", "Main", "Sub", "Both"}; // by the two bits
 struct SideWord {
     const char* word;
@@ -177,12 +209,17 @@ static int sides_in_setup(int key)
     return (text.main[0] ? SIDE_MAIN : 0) | (text.further[0] ? SIDE_SUB : 0);
 }
 
-static int sides_of(int key)
+int misc_sides_of(int key, const char* word)
 {
     for (int i = 0; i < int(std::size(side_words)); i++)
-        if (Same(Assign.word[key], side_words[i]))
+        if (Same(word, side_words[i]))
             return i;
     return sides_in_setup(key);
+}
+
+static int sides_of(int key)
+{
+    return misc_sides_of(key, Assign.word[key]);
 }
 
 static void mirror_key(int key)

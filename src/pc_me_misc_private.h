@@ -16,7 +16,15 @@ struct MiscKeyButton {
     int id = 0;
     int key = 0;
 };
+
+enum : int { SIDE_MAIN = 1, SIDE_SUB = 2 };
+// The sides of a key of the page's bank (from 0) as bits. word is what the server has said below
+// "Key Assign"; a word that is none leaves it to the setup. Without multi program all keys are the
+// main side's.
+int misc_sides_of(int key, const char* word);
 // On PGM/PST the buttons say DSK; those of keys that the bank lacks are hidden.
 void misc_show_keys(std::span<const MiscKeyButton> buttons);
+// Whether the button of a key (from 1) is hidden: the bank lacks it.
+bool misc_lacks_key(int key);
 // The tab of the clip transition goes where the installation plays no clips.
 void misc_show_tabs();

@@ -50,7 +50,7 @@ inline constexpr ST_TBL st_me_key[] = {
                   .jamp_id_base = 0x11170000}),
     CellAt(4, 1, {.id = ST_SINGLE_BOARD, .draw_func = st_drw_me_key_prockey,      .cmd = ST_KEY_PROCKEY, .jamp_id_base = 0x11160000}),
     CellAt(4, 1, {.id = ST_DUAL_BOARD,   .draw_func = st_drw_me_key_prockey_dpdl, .cmd = ST_KEY_PROCKEY, .jamp_id_base = 0x11160000}),
-    CellAt(5, 1, {.id = 12, .draw_func = st_drw_me_key_priority, .cmd = {"~1@Misc@Key Priority@Key Priority"},
+    CellAt(5, 1, {.id = 12, .draw_func = st_drw_me_key_priority, .cmd = ST_PRIORITY("Key Priority"),
                   .jamp_id_base = 0x11730000}),
     ST_END,
 };
@@ -77,6 +77,7 @@ static_assert(CellsAreSound(st_pgm_top) && CellsAreSound(st_pgm_top_sub));
 #undef ST_KEY_LINES
 #undef ST_KEY_LINE
 #undef ST_KEY_PROCKEY
+#undef ST_PRIORITY
 #undef ST_KEY_TRANS
 #undef ST_KEY_SUB_MASK
 #undef ST_KEY_MAIN_MASK

@@ -119,7 +119,7 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
         EXPECT_EQ(BA_IsDefaultButton(), c.recall) << c.section << std::hex << c.page;
     }
     SetupLock.lock = 1;
-    OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11750000);
+    OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11730000);
     Touch(LOWER_LEFT);
     EXPECT_EQ(BA_IsDefaultButton(), 0) << "locked";
 }

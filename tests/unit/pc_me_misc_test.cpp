@@ -219,6 +219,74 @@ TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
     }
 }
 
+// In a bank of two sides keys 5 to 8 go by the order of their own side, once it has one.
+TEST_F(MeMisc, TheOrderOfTheSubSidesKeysIsTheSameOnAllPages)
+{
+    multiprogram2_me[1] = 1;
+    static const struct {
+        const char* enable;
+        int line; // of key 5
+    } cases[] = {{"true", 3}, {"false", 0}};
+    for (const auto& c : cases) {
+        const std::string own = "M/E-1 SUB@Misc@Key Priority@";
+        const auto tell_orders = [&] {
+            Tell("M/E-1@Misc@Key Priority@Key Priority#1,2,3,4,1,2,3,4");
+            TellAll(own, {"Key Priority#1,2,3,4,4,3,2,1", std::string("Enable#") + c.enable});
+            Pass(10);
+        };
+        Open(0x15110000);
+        tell_orders();
+        for (int line = 0; line < 4; line++)
+            EXPECT_EQ(PixelAt(608, 165 + 22 + 15 * line) == 0xFFFFFF, line == c.line)
+                << c.enable << " line " << line;
+
+        Open(0x11730000);
+        (void)Press(53);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0), 0x15730000u);
+
+        const Lines opened = Open(0x11730001);
+        tell_orders();
+        EXPECT_EQ(Usable({0x11, 0x44, 5, 22}).empty(), c.line == 3) << c.enable;
+        EXPECT_EQ(Held(opened, own + "Enable"), -Held(Leave(), own + "Enable"));
+    }
+}
+
+TEST_F(MeMisc, AKeyTakesPartInTheTransitionsOfItsOwnSide)
+{
+    multiprogram2_me[2] = 1;
+    const auto sides = [&](const char* key5) {
+        std::string usable;
+        Open(0x12710000);
+        Tell(std::string("M/E-2@Misc@Key Assign@Key5#") + key5);
+        usable += BT_GetVisible(50) == BT_ENABLED ? "m" : "";
+        Open(0x16710000);
+        Tell(std::string("M/E-2@Misc@Key Assign@Key5#") + key5);
+        usable += BT_GetVisible(34) == BT_ENABLED ? "s" : "";
+        return usable;
+    };
+    EXPECT_EQ(sides("Main"), "m");
+    EXPECT_EQ(sides("Sub"), "s");
+    EXPECT_EQ(sides("Both"), "ms");
+    EXPECT_EQ(sides("Off"), "");
+    multiprogram2_me[2] = 0;
+    EXPECT_EQ(sides("Sub")[0], 'm') << "one side has all keys";
+}
+
+TEST_F(MeMisc, AWipeOfTheInternalChannelsHasItsPictureInTheCells)
+{
+    constexpr Rect picture = {120, 95, 190, 135};
+    const auto shown = [&](const char* number) {
+        Open(0x11710000);
+        Tell("M/E-1@Misc@Transition@DME Wipe#true");
+        Tell(std::string("M/E-1@DME Wipe@Pattern Select@Pattern#") + number);
+        Pass(10);
+        return PixelsIn(picture);
+    };
+    const auto of_set_1 = shown("1001");
+    EXPECT_EQ(shown("7001"), of_set_1);
+    EXPECT_NE(shown("9999"), of_set_1);
+}
+
 // --- Other cells of a key ---
 
 // Where both ways share a setting it is kept as that of coming.
