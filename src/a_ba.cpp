@@ -76,9 +76,10 @@ static const char* section()
 
 static bool is_operation_section()
 {
-    constexpr const char* sections[] = {"M/E-1", "M/E-2",   "M/E-3",         "M/E-4",
-                                        "M/E-5", "PGM/PST", "Aux",           "Aux/Mon",
-                                        "CCR",   "DME",     "Global Effect", "Key Frame"};
+    constexpr const char* sections[] = {"Aux", "Aux/Mon",       "CCR",
+                                        "DME", "Global Effect", "Key Frame"};
+    if (Page_Bank())
+        return true;
     for (const char* s : sections)
         if (strcmp(section(), s) == 0)
             return true;
@@ -88,7 +89,7 @@ static bool is_operation_section()
 // Tab of a bank's page without the bank: 0x73 is the key priority of Misc.
 static bool is_bank_tab(int tab)
 {
-    return Page_MeIndex(GL_NowPage) >= 0 && int(GL_NowPage >> 16 & 0xFF) == tab;
+    return MeBank_OfPage(GL_NowPage) && int(GL_NowPage >> 16 & 0xFF) == tab;
 }
 
 static bool is_key_priority_page()
@@ -125,9 +126,8 @@ static void decide_lower_left()
 // The keys 5 to 8 are a step away where the bank has them.
 static bool has_more_keys()
 {
-    constexpr int key_max_of_me[ME_COUNT] = {5, 0, 1, 2, 3, 4}; // GL_KeyMax by P/P, M/E-1 to 5
-    const int me = Page_MeIndex(GL_NowPage);
-    return isNowPageMeKey(0) != 0 && me >= 0 && me < ME_COUNT && GL_KeyMax[key_max_of_me[me]] > 4;
+    const MeBank* bank = MeBank_OfPage(GL_NowPage);
+    return isNowPageMeKey(0) != 0 && bank && GL_KeyMax[bank->place] > 4;
 }
 
 static uint32_t other_side()

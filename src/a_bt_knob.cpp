@@ -22,28 +22,11 @@ int SpecialKnobNumber(const NB_TBL* nb)
 
 // --- The bank and key of the page ---
 
-namespace
-{
-struct BankOfPage {
-    const char* word;
-    int aspect; // its place in SYS_RefSwrScreenAspect
-    int me;     // 0 P/P, 1..5
-};
-} // namespace
-
-static constexpr BankOfPage banks[] = {
-    {"M/E-1", 0, 1}, {"M/E-2", 1, 2}, {"M/E-3", 2, 3},
-    {"M/E-4", 3, 4}, {"M/E-5", 4, 5}, {"PGM/PST", 5, 0},
-};
-
 // A page without a bank counts as one of the first.
-static const BankOfPage& bank_of_page()
+static const MeBank& bank_of_page()
 {
-    if (GL_NowTree && GL_NowTree[0])
-        for (const BankOfPage& b : banks)
-            if (strcmp(GL_NowTree[0], b.word) == 0)
-                return b;
-    return banks[0];
+    const MeBank* bank = Page_Bank();
+    return bank ? *bank : me_bank[0];
 }
 
 // 1..8 for "Key1".."Key8" and "DSK1".."DSK8", 0 for everything else.
@@ -65,7 +48,7 @@ int ask_screen_wide(const BT_MEM*)
 
 int ask_bank_wide(const BT_MEM*)
 {
-    return SYS_RefSwrScreenAspect[bank_of_page().aspect] == 1;
+    return SYS_RefSwrScreenAspect[bank_of_page().place] == 1;
 }
 
 int ask_hd(const BT_MEM*)

@@ -98,19 +98,8 @@ int bt_sel_tab(BT_MEM* b)
 
 static uint32_t bank_offset()
 {
-    constexpr struct {
-        const char* bank;
-        uint32_t offset;
-    } banks[] = {
-        {"M/E-2", 0x01000000}, {"M/E-3", 0x02000000},   {"M/E-4", 0x70000000},
-        {"M/E-5", 0x71000000}, {"PGM/PST", 0x03000000},
-    };
-    if (!GL_NowTree || !GL_NowTree[0])
-        return 0;
-    for (const auto& b : banks)
-        if (strcmp(GL_NowTree[0], b.bank) == 0)
-            return b.offset;
-    return 0;
+    const MeBank* bank = Page_Bank();
+    return bank ? MeBank_Offset(*bank) : 0;
 }
 
 int bt_sel_jmptokeypriority(BT_MEM* b)

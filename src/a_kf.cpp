@@ -2,6 +2,7 @@
 #include "a_kf_private.h"
 #include "command.h"
 #include "global.h"
+#include "me_bank.h"
 #include "message.h"
 #include "netio.h"
 #include "text.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <string_view>
 #include "safeguards.h"
 
 namespace
@@ -39,6 +41,20 @@ constexpr RegionRow region_rows[] = {
     {"P/P Sub", 4},   {"MACRO", 69},
 };
 static_assert(std::size(region_rows) == ASSIGNABLE);
+
+// The regions of the banks stand in the order of the banks, the sub sides in one run behind.
+constexpr int SUB_FIRST = 45;
+constexpr bool RegionsFollowBanks()
+{
+    for (const MeBank& bank : me_bank) {
+        const std::string_view sub = region_rows[SUB_FIRST + bank.place].name;
+        if (region_rows[bank.place].name != std::string_view(bank.word) ||
+            sub.substr(0, sub.size() - 4) != bank.word || !sub.ends_with(" Sub"))
+            return false;
+    }
+    return true;
+}
+static_assert(RegionsFollowBanks());
 constexpr RegionRow free_row = {"", 240};
 constexpr RegionRow end_row = {"", 254}; // of EMPTY_ROW
 

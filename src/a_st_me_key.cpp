@@ -343,11 +343,8 @@ static int draw_transition(ST_MEM* cell, const Name& name, int first)
 // The keys of a bank go as they come, or each way has a setting of its own.
 static bool has_own_off()
 {
-    static const int* const flags[ME_COUNT] = {&SYS_KeyTransitionPP,  &SYS_KeyTransitionME1,
-                                               &SYS_KeyTransitionME2, &SYS_KeyTransitionME3,
-                                               &SYS_KeyTransitionME4, &SYS_KeyTransitionME5};
-    const int me = Page_MeIndex(GL_NowPage);
-    return me < 0 || *flags[me] != 0;
+    const MeBank* bank = MeBank_OfPage(GL_NowPage);
+    return !bank || *bank->key_transition != 0;
 }
 
 int st_drw_me_key_ontrans(ST_MEM* cell)

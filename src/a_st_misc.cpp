@@ -201,24 +201,21 @@ void st_drw_me_misc_key_assign_tally_set(const char* value)
     const int output = Index(p.v[1], OUTPUTS + 1) - 1;
     if (output < 0)
         return;
-    for (int bank = 0; bank < ME_BANKS_SHOWN; bank++) {
-        const bool is_last = bank == ME_BANKS_SHOWN - 1;
-        if (Same(p.v[0], me_data[bank]) || (is_last && Same(p.v[0], "PGM/PST")))
-            output_keys[is_last ? 0 : bank + 1][output] = Hex(p.v[2]);
-    }
+    if (const MeBank* bank = MeBank_OfName(p.v[0]))
+        output_keys[bank->me][output] = Hex(p.v[2]);
 }
 
 // A bank of two sides tells the side, one of a single side the outputs: "1,3". Until the outputs
 // are known all its keys are on that side.
 static void print_setup_of_key(char (&text)[32], int key)
 {
-    const int me = Page_MeIndex(GL_NowPage);
+    const MeBank* bank = MeBank_OfPage(GL_NowPage);
     text[0] = '\0';
-    if (me < 0)
+    if (!bank)
         return;
     if (isMP2SettingME(GL_NowPage)) {
-        const uint32_t bank = GL_NowPage & BANK_BYTE;
-        const uint32_t page = bank + (key < HALF_KEYS ? 0 : TO_SUB_BANK) +
+        const uint32_t side_of_page = GL_NowPage & BANK_BYTE;
+        const uint32_t page = side_of_page + (key < HALF_KEYS ? 0 : TO_SUB_BANK) +
                               (uint32_t(key % HALF_KEYS) + 1) * 0x00100000 + 0x00010000;
         const KeyAssignText side = keyassign_str_get(page);
         CopyText(text, side.main[0] && side.further[0] ? "Both" : side.main);
@@ -226,7 +223,7 @@ static void print_setup_of_key(char (&text)[32], int key)
             CopyText(text, side.further);
         return;
     }
-    const unsigned* outputs = output_keys[me];
+    const unsigned* outputs = output_keys[bank->me];
     if (std::all_of(outputs, outputs + OUTPUTS, [](unsigned keys) { return keys == 0; }))
         CopyText(text, "Main");
     for (int output = 0; output < OUTPUTS; output++) {

@@ -119,47 +119,19 @@ TallyRoute tally_combine_pair(const Tally& t)
 
 // --- Banks ---
 
-namespace
-{
-struct Bank {
-    const char* name;
-    uint32_t key_page;
-    int* key_transition;
-};
-} // namespace
-
-static constexpr Bank banks[ME_COUNT] = {
-    {"M/E-1", 0x11110000, &SYS_KeyTransitionME1}, {"M/E-2", 0x12110000, &SYS_KeyTransitionME2},
-    {"M/E-3", 0x13110000, &SYS_KeyTransitionME3}, {"M/E-4", 0x81110000, &SYS_KeyTransitionME4},
-    {"M/E-5", 0x82110000, &SYS_KeyTransitionME5}, {"P/P", 0x14110000, &SYS_KeyTransitionPP},
-};
-
-static int bank_by_name(const char* name)
-{
-    for (int i = 0; i < ME_COUNT; i++)
-        if (Same(banks[i].name, name))
-            return i;
-    return -1;
-}
-
-// The bank that a page belongs to, main or sub side; -1 for other pages.
-static int bank_of_page(uint32_t id)
-{
-    const int me = Page_MeIndex(id); // P/P first there, last here
-    return me == 0 ? ME_COUNT - 1 : me - 1 < ME_COUNT - 1 && me > 0 ? me - 1 : -1;
-}
+constexpr uint32_t FIRST_KEY_PAGE = 0x11110000; // of M/E-1
 
 // A bank that the operator may no longer touch is left for the next one that is free.
 static void leave_disabled_bank()
 {
-    const int now = bank_of_page(GL_NowPage);
-    if (now < 0 || SYS_MEOperation[now] == 0)
+    const MeBank* now = MeBank_OfPage(GL_NowPage);
+    if (!now || SYS_MEOperation[now->place] == 0)
         return;
     uint32_t page = PAGE_TOP;
-    for (int i = now + 1; i < ME_COUNT; i++) {
+    for (int i = now->place + 1; i < ME_COUNT; i++) {
         if (SYS_MEOperation[i] != 0)
             continue;
-        page = banks[i].key_page;
+        page = FIRST_KEY_PAGE + MeBank_Offset(me_bank[i]);
         break;
     }
     // The page that is given up must not stay the "current" one: neither history nor a reload may
@@ -170,10 +142,10 @@ static void leave_disabled_bank()
 
 TallyRoute tally_me_operation(const Tally& t)
 {
-    const int bank = bank_by_name(t.rest);
-    if (bank < 0)
+    const MeBank* bank = MeBank_OfWord(t.rest);
+    if (!bank)
         return TallyRoute::Pass;
-    SYS_MEOperation[bank] = Same(t.value, "Disable") ? 1 : Same(t.value, "Inhibit") ? 2 : 0;
+    SYS_MEOperation[bank->place] = Same(t.value, "Disable") ? 1 : Same(t.value, "Inhibit") ? 2 : 0;
     leave_disabled_bank();
     return TallyRoute::Pass;
 }
@@ -181,18 +153,18 @@ TallyRoute tally_me_operation(const Tally& t)
 static bool is_transition_page(uint32_t id)
 {
     const uint32_t tab = id >> 16 & 0xFF;
-    return Page_MeIndex(id) >= 0 && (tab == 0x17 || tab == 0x27 || tab == 0x37 || tab == 0x47);
+    return MeBank_OfPage(id) && (tab == 0x17 || tab == 0x27 || tab == 0x37 || tab == 0x47);
 }
 
 TallyRoute tally_key_transition(const Tally& t)
 {
-    const int bank = bank_by_name(t.rest);
-    if (bank < 0)
+    const MeBank* bank = MeBank_OfWord(t.rest);
+    if (!bank)
         return TallyRoute::Pass;
     const int on = Same(t.value, "Independent") || SwitchOrNumber(t.value) != 0;
-    if (*banks[bank].key_transition == on)
+    if (*bank->key_transition == on)
         return TallyRoute::Pass;
-    *banks[bank].key_transition = on;
+    *bank->key_transition = on;
     if (is_transition_page(GL_NowPage))
         tally_reload_page();
     return TallyRoute::Pass;

@@ -510,8 +510,8 @@ int getDmeReferenceUnit()
 
 int isMP2SettingME(uint32_t page)
 {
-    const int me = Page_MeIndex(page);
-    return me >= 0 && multiprogram2_me[me] != 0;
+    const MeBank* bank = MeBank_OfPage(page);
+    return bank && multiprogram2_me[bank->me] != 0;
 }
 
 int isME_ConfigSelectType(int me)

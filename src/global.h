@@ -134,6 +134,7 @@ extern int GL_KeyMax[ME_COUNT]; // keys of a bank, 4 or 8
 extern int GL_KeyRowMode;
 extern int GL_BoardMESplit[5];
 constexpr int PANEL_ROWS = 14;
+enum { ASSIGN_1ST_AUX = 6, ASSIGN_2ND_AUX = 7 };
 extern int GL_MEAssign[PANEL_ROWS];      // 0 P/P, 1..5 M/E, 6 and 7 the aux buses, -1 none
 extern int GL_MainSubAssign[PANEL_ROWS]; // 0 main, 1 sub, 2 both
 extern int GL_KeyTransKeyUnitConfig[PANEL_ROWS];

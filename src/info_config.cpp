@@ -30,9 +30,6 @@ template <size_t N> static int number_of(const Word (&words)[N], const char* tex
 
 // --- Banks ---
 
-static constexpr Word bank_words[] = {
-    {"P/P", 0}, {"M/E-1", 1}, {"M/E-2", 2}, {"M/E-3", 3}, {"M/E-4", 4}, {"M/E-5", 5},
-};
 static constexpr Word config_words[] = {
     {"Standard", 1},
     {"Multi Program", 2},
@@ -44,11 +41,12 @@ constexpr int CONFIG_MULTI_PROGRAM_2 = 3;
 // Pages that follow the setting themselves, or that must not lose what they are in the middle of.
 static constexpr uint32_t pages_not_reloaded[] = {0x73310000, 0x71610000, 0x73160010, 0x55550000};
 
-void info_me_config(const char* bank, const char* value)
+void info_me_config(const char* word, const char* value)
 {
-    const int me = number_of(bank_words, bank, -1);
-    if (me < 0)
+    const MeBank* bank = MeBank_OfWord(word);
+    if (!bank)
         return;
+    const int me = bank->me;
     me_config_type[me] = number_of(config_words, value, 0);
     const int multi = me_config_type[me] == CONFIG_MULTI_PROGRAM_2;
     if (multiprogram2_me[me] == multi)
@@ -82,9 +80,9 @@ void info_setup_target(const char* value)
 
 // --- Rows of the panel ---
 
-static constexpr Word assign_words[] = {
-    {"P/P", 0},   {"M/E-1", 1}, {"M/E-2", 2},   {"M/E-3", 3},
-    {"M/E-4", 4}, {"M/E-5", 5}, {"1st AUX", 6}, {"2nd AUX", 7},
+static constexpr Word aux_words[] = {
+    {"1st AUX", ASSIGN_1ST_AUX},
+    {"2nd AUX", ASSIGN_2ND_AUX},
 };
 static constexpr Word side_words[] = {
     {"Main", 0},
@@ -109,13 +107,20 @@ static int row_of_path(const char* path, const char* prefix)
     return -1;
 }
 
+// What a row works on, -1 for nothing that there is.
+static int assigned_to(const char* word)
+{
+    const MeBank* bank = MeBank_OfWord(word);
+    return bank ? bank->me : number_of(aux_words, word, -1);
+}
+
 int meassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg != MSG_TALLY || !ax || !bx)
         return 0;
     const int row = row_of_path(Text(ax), "Engineering Setup@Panel@Config@M/E Assign@");
     if (row >= 0)
-        GL_MEAssign[row] = number_of(assign_words, Text(bx), -1);
+        GL_MEAssign[row] = assigned_to(Text(bx));
     return 0;
 }
 

@@ -13,11 +13,6 @@ constexpr int OUTPUTS = 8; // of one bank
 constexpr int KEYS = 8;
 enum : unsigned { SIDE_MAIN = 1, SIDE_SUB = 2 };
 
-struct BankWord {
-    const char* word;
-    int me;
-};
-
 // One bank. All zero: neither list has named it.
 struct BankConfig {
     unsigned side[OUTPUTS];   // that the output carries, 0 none
@@ -29,18 +24,12 @@ struct BankConfig {
 };
 } // namespace
 
-static constexpr BankWord bank_words[] = {
-    {"P/P", 0},   {"PGM/PST", 0}, {"M/E-1", 1}, {"M/E-2", 2},
-    {"M/E-3", 3}, {"M/E-4", 4},   {"M/E-5", 5},
-};
 static BankConfig bank_config[ME_COUNT]; // P/P, M/E-1 to M/E-5
 
 static int me_of_word(const char* word)
 {
-    for (const BankWord& b : bank_words)
-        if (Same(b.word, word))
-            return b.me;
-    return -1;
+    const MeBank* bank = MeBank_OfName(word);
+    return bank ? bank->me : -1;
 }
 
 // --- The two lists ---
@@ -123,11 +112,11 @@ static unsigned sides_of_key(int me, int key)
 KeyAssignText keyassign_str_get(uint32_t page)
 {
     const int side = isNowPageMeKey(page);
-    const int me = Page_MeIndex(page);
-    if (page == 0 || side == 0 || me < 0)
+    const MeBank* bank = MeBank_OfPage(page);
+    if (side == 0 || !bank)
         return {};
     const int key = int(page >> 20 & 0x0F) - 1 + (side == 2 ? 4 : 0);
-    const unsigned sides = sides_of_key(me, key);
+    const unsigned sides = sides_of_key(bank->me, key);
     return {sides & SIDE_MAIN ? "Main" : "", sides & SIDE_SUB ? "Sub" : ""};
 }
 

@@ -61,7 +61,7 @@ constexpr uint32_t KEY_BITS = 0x00F00000; // first-level tab: key 1..4, or a men
 constexpr uint32_t TAB_BITS = 0x000F0000; // second-level tab; all set: the tab last chosen
 
 constexpr TOPMENU start_menu[] = {
-    // the six M/E rows first, in the order of me_page_subid
+    // the banks first, in the order of me_bank
     {"M/E-1", 0x11110000},
     {"M/E-2", 0x12110000},
     {"M/E-3", 0x13110000},
@@ -92,23 +92,16 @@ constexpr TOPMENU start_menu[] = {
     {"Top", PAGE_TOP},
     {nullptr, 0},
 };
-constexpr uint32_t me_page_subid[] = {1, 2, 3, 1, 2, 4}; // low digit of the bank of the M/E rows
-constexpr int ME_ROWS = int(std::size(me_page_subid));
+constexpr bool BanksAreFirst()
+{
+    for (const MeBank& bank : me_bank)
+        if (start_menu[bank.place].page >> 24 != bank.main)
+            return false;
+    return true;
+}
+static_assert(BanksAreFirst());
 constexpr int FRAME_MEMORY_ROW = 6;
 static_assert(start_menu[FRAME_MEMORY_ROW].page == 0x21110000);
-
-// The banks of the M/Es: me 0 is P/P, 1..5 M/E; key_max is the place in GL_KeyMax.
-constexpr struct MeBank {
-    uint32_t main;
-    int me;
-    int key_max;
-    const char* caption;
-    uint32_t offset; // from bank M/E-1
-} me_banks[] = {
-    {0x11, 1, 0, "M/E-1", 0x00000000}, {0x12, 2, 1, "M/E-2", 0x01000000},
-    {0x13, 3, 2, "M/E-3", 0x02000000}, {0x14, 0, 5, "PGM/PST", 0x03000000},
-    {0x81, 4, 3, "M/E-4", 0x70000000}, {0x82, 5, 4, "M/E-5", 0x71000000},
-};
 
 constexpr struct {
     const char* word;
@@ -181,25 +174,15 @@ static uint32_t this_or_now(uint32_t id)
 
 // --- Classification ---
 
-static const MeBank* bank_of(uint32_t id)
-{
-    const uint32_t byte = id >> 24;
-    for (const MeBank& b : me_banks)
-        if (byte == b.main || byte == b.main + 4)
-            return &b;
-    return nullptr;
-}
-
 static bool is_sub_bank(uint32_t id)
 {
-    const MeBank* bank = bank_of(id);
-    return bank && id >> 24 != bank->main;
+    const MeBank* bank = MeBank_OfPage(id);
+    return bank && MeBank_IsSub(*bank, id);
 }
 
-int Page_MeIndex(uint32_t id)
+const MeBank* Page_Bank()
 {
-    const MeBank* bank = bank_of(id);
-    return bank ? bank->me : -1;
+    return GL_NowTree ? MeBank_OfCaption(GL_NowTree[0]) : nullptr;
 }
 
 int isNowPageMeKey(uint32_t id)
@@ -219,7 +202,7 @@ int isNowPageMeKey(uint32_t id)
 int isNowPageME(uint32_t id)
 {
     id = this_or_now(id);
-    if (isNowPageMeKey(id) || !bank_of(id))
+    if (isNowPageMeKey(id) || !MeBank_OfPage(id))
         return 0;
     return is_sub_bank(id) ? 2 : 1;
 }
@@ -255,7 +238,8 @@ static int assigned_sides(int me)
 int MainSubAssign_StatusCheck_for_id(uint32_t id)
 {
     id = this_or_now(id);
-    return isMP2SettingME(id) ? assigned_sides(Page_MeIndex(id)) : -1;
+    const MeBank* bank = MeBank_OfPage(id);
+    return bank && multiprogram2_me[bank->me] ? assigned_sides(bank->me) : -1;
 }
 
 static bool is_on_panel(int assign)
@@ -267,13 +251,11 @@ int MainSubAssign_StatusCheck()
 {
     const char* word = GL_NowTree && GL_NowTree[0] ? GL_NowTree[0] : "";
     if (strcmp(word, "1st AUX") == 0)
-        return is_on_panel(6) ? 0 : -1;
+        return is_on_panel(ASSIGN_1ST_AUX) ? 0 : -1;
     if (strcmp(word, "2nd AUX") == 0)
-        return is_on_panel(7) ? 0 : -1;
-    for (const MeBank& b : me_banks)
-        if (strcmp(word, b.caption) == 0)
-            return multiprogram2_me[b.me] ? assigned_sides(b.me) : -1;
-    return -1;
+        return is_on_panel(ASSIGN_2ND_AUX) ? 0 : -1;
+    const MeBank* bank = Page_Bank();
+    return bank && multiprogram2_me[bank->me] ? assigned_sides(bank->me) : -1;
 }
 
 int IsUserPages(uint32_t id)
@@ -334,9 +316,8 @@ void AddPageOffset(uint32_t* id)
 {
     if (!id || !Page || !Page->tree[0])
         return;
-    for (const MeBank& b : me_banks)
-        if (strcmp(Page->tree[0], b.caption) == 0)
-            *id += b.offset;
+    if (const MeBank* bank = MeBank_OfCaption(Page->tree[0]))
+        *id += MeBank_Offset(*bank);
     if (Page->tree[1])
         *id += word_offset(Page->tree[1], *id);
 }
@@ -476,10 +457,10 @@ static uint32_t correct_single_program(uint32_t id)
 // Keys 5 to 8 of an M/E with four keys are keys 1 to 4.
 static uint32_t correct_key_limit(uint32_t id)
 {
-    const MeBank* bank = bank_of(id);
+    const MeBank* bank = MeBank_OfPage(id);
     if (!bank || isNowPageMeKey(id) != 2)
         return id;
-    return GL_KeyMax[bank->key_max] <= 4 ? id - TO_SUB_BANK : id;
+    return GL_KeyMax[bank->place] <= 4 ? id - TO_SUB_BANK : id;
 }
 
 static uint32_t correct_request(uint32_t id)
@@ -501,9 +482,8 @@ static TOPMENU* menu_row(uint32_t id)
     for (int i = 0; TopMenu[i].caption; i++) {
         const uint32_t page = TopMenu[i].page;
         const uint32_t bank = id & BANK_BITS;
-        if (i < ME_ROWS) {
-            const uint32_t main = (page & 0xF0000000) + (me_page_subid[i] << 24);
-            if (bank == main || bank == main + TO_SUB_BANK)
+        if (i < ME_COUNT) {
+            if (MeBank_OfPage(id) == &me_bank[i])
                 return &TopMenu[i];
         } else if (i == FRAME_MEMORY_ROW) {
             if (bank == 0x21000000 || bank == 0x25000000)

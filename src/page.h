@@ -6,6 +6,7 @@
 // Code never changes page directly: it stores the id in GL_CreatePage and the main loop calls
 // CreatePage between passes while no window, pane or saver is up.
 #pragma once
+#include "me_bank.h"
 #include "types.h"
 
 constexpr int PAGE_OBJECTS = 8;
@@ -56,8 +57,6 @@ struct TOPMENU {
     uint32_t page = 0; // the page that the key reopens; written as pages are visited
 };
 extern TOPMENU TopMenu[]; // ended by a null caption
-
-constexpr uint32_t TO_SUB_BANK = 0x04000000; // from a main bank to its sub bank
 
 // --- State that others read ---
 extern PAGE* Page; // the current row; null only before the first CreatePage
@@ -128,8 +127,7 @@ int isMainSubCheck(
     uint32_t id); // 1 when the page has a main and a sub side: the bank runs multi program 2
 int MainSubAssign_StatusCheck_for_id(uint32_t id); // -1 no row, 0 main, 1 sub, 2 both
 int MainSubAssign_StatusCheck();
-// The M/E of a bank byte: 0 P/P, 1..5 M/E, -1 for other banks.
-int Page_MeIndex(uint32_t id);
+const MeBank* Page_Bank(); // the bank of the current page, by the first word of its path; or null
 
 // "%04X" or "%04X.%X" of a page id into text (at least 16 characters).
 void Page_Number(char* text, int size, uint32_t id);

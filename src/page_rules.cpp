@@ -422,13 +422,10 @@ static uint32_t apply_transition(uint32_t id)
     const uint32_t tab = id & 0x00FFFFFF;
     if (tab != 0x170000 && tab != 0x270000 && tab != 0x370000 && tab != 0x470000)
         return id;
-    static const int* const flags[] = {&SYS_KeyTransitionPP,  &SYS_KeyTransitionME1,
-                                       &SYS_KeyTransitionME2, &SYS_KeyTransitionME3,
-                                       &SYS_KeyTransitionME4, &SYS_KeyTransitionME5};
-    const int me = Page_MeIndex(id);
-    if (me < 0)
+    const MeBank* bank = MeBank_OfPage(id);
+    if (!bank)
         return id;
-    return id + (*flags[me] ? 0x0200 : 0x0100);
+    return id + (*bank->key_transition ? 0x0200 : 0x0100);
 }
 
 // The timeline pages of a bank that is not in multi program 2 are those without sides.
@@ -464,7 +461,7 @@ uint32_t Page_FirstOfTab(uint32_t id)
     for (const auto& f : folded_tabs)
         if (tab >= f.first && tab <= f.last)
             return tab << 20;
-    const bool is_clip_transition = Page_MeIndex(id) >= 0 && (id & 0x00FF0000) == 0x00760000;
+    const bool is_clip_transition = MeBank_OfPage(id) && (id & 0x00FF0000) == 0x00760000;
     return is_clip_transition ? tab << 20 : id;
 }
 

@@ -11,8 +11,6 @@
 #include <iterator>
 #include "safeguards.h"
 
-const char* const me_data[ME_BANKS_SHOWN] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P"};
-
 const ME_SSREGION DMEWipeSSRegion[2 * ME_BANKS_SHOWN] = {
     {0x00000002, "M/E-1"},     {0x00000004, "M/E-2"},     {0x00000008, "M/E-3"},
     {0x00000010, "M/E-4"},     {0x00000020, "M/E-5"},     {0x00000001, "P/P"},
@@ -28,17 +26,13 @@ static const char* first_word()
 
 int Now_disp_draw()
 {
-    if (strcmp(first_word(), "PGM/PST") == 0)
-        return ME_BANK_PP;
-    for (int i = 0; i < ME_BANKS_SHOWN; i++)
-        if (strcmp(first_word(), me_data[i]) == 0)
-            return i;
-    return 0;
+    const MeBank* bank = Page_Bank();
+    return bank ? bank->place : 0;
 }
 
 int ME_ServerBank()
 {
-    return (Now_disp_draw() + 1) % ME_BANKS_SHOWN;
+    return me_bank[Now_disp_draw()].me;
 }
 
 int ME_IsSubPage()

@@ -3,15 +3,16 @@
 // page; the code adds what depends on a choice made on the page.
 #pragma once
 #include "a_pc.h"
+#include "me_bank.h"
 #include "types.h"
 
 // --- The bank of the page that is shown ---
 
-constexpr int ME_BANKS_SHOWN = 6;
-constexpr int ME_BANK_PP = 5;                     // index of PGM/PST
-extern const char* const me_data[ME_BANKS_SHOWN]; // "M/E-1" to "M/E-5", "P/P"
+constexpr int ME_BANKS_SHOWN = ME_COUNT;
+constexpr int ME_BANK_PP = 5; // place of PGM/PST in me_bank
+static_assert(me_bank[ME_BANK_PP].me == 0);
 
-// Index of the page's bank in me_data: 0 to 4 M/E-1 to M/E-5, 5 PGM/PST; 0 for any other page.
+// Place of the page's bank in me_bank: 0 to 4 M/E-1 to M/E-5, 5 PGM/PST; 0 for any other page.
 int Now_disp_draw();
 // The same bank as the server counts them: 0 PGM/PST, 1 to 5 the M/Es.
 int ME_ServerBank();

@@ -3,9 +3,9 @@
 #include "pc_me.h"
 #include "table_page.h"
 
-using MeBank = TablePage;
+using BankOfPage = TablePage;
 
-TEST_F(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
+TEST_F(BankOfPage, TheBankOfAPageHasOneWordAndOneRegion)
 {
     static const struct {
         uint32_t page;
@@ -32,7 +32,7 @@ TEST_F(MeBank, TheBankOfAPageHasOneWordAndOneRegion)
     EXPECT_EQ(Now_disp_draw(), 0);
 }
 
-TEST_F(MeBank, ABoardInFourBanksLeavesEachWithFourKeys)
+TEST_F(BankOfPage, ABoardInFourBanksLeavesEachWithFourKeys)
 {
     Tell("Engineering Setup@System@Install@Unit Config@M/E Split#1,4,2,1,1");
     static const struct {
@@ -49,7 +49,7 @@ TEST_F(MeBank, ABoardInFourBanksLeavesEachWithFourKeys)
     }
 }
 
-TEST_F(MeBank, DefaultRecallFromATabStaysOnItsSide)
+TEST_F(BankOfPage, DefaultRecallFromATabStaysOnItsSide)
 {
     static const struct {
         uint32_t page;
