@@ -29,42 +29,39 @@
 #include "system.h"
 #include "top.h"
 
-static constexpr auto me_top_rows = BankRows<BankRowCount(me_top_pages)>(me_top_pages);
-static constexpr auto me_key_type_rows = KeyRows<KeyRowCount(me_key_type_pages)>(me_key_type_pages);
-static constexpr auto me_key_edge_rows = KeyRows<KeyRowCount(me_key_edge_pages)>(me_key_edge_pages);
-static constexpr auto me_key_mask_rows = KeyRows<KeyRowCount(me_key_mask_pages)>(me_key_mask_pages);
-static constexpr auto me_key_resizer_rows = KeyRows<KeyRowCount(me_key_resizer_pages)>(me_key_resizer_pages);
-static constexpr auto me_key_process_rows = KeyRows<KeyRowCount(me_key_process_pages)>(me_key_process_pages);
-static constexpr auto me_key_trans_rows = KeyRows<KeyRowCount(me_key_trans_pages)>(me_key_trans_pages);
-static constexpr auto me_key_dmewipe_rows = KeyRows<KeyRowCount(me_key_dmewipe_pages)>(me_key_dmewipe_pages);
-static constexpr auto me_wipe_rows = BankRows<BankRowCount(me_wipe_pages)>(me_wipe_pages);
-static constexpr auto me_dmewipe_rows = BankRows<BankRowCount(me_dmewipe_pages)>(me_dmewipe_pages);
-static constexpr auto me_misc_rows = BankRows<BankRowCount(me_misc_pages)>(me_misc_pages);
+// The rows that a template of pages makes for all banks, or for the keys of all banks.
+template <const auto& pages> constexpr auto OfBanks = BankRows<BankRowCount(pages)>(pages);
+template <const auto& pages> constexpr auto OfKeys = KeyRows<KeyRowCount(pages)>(pages);
 
-static constexpr size_t page_rows = std::size(top_pages) +
-                                    me_top_rows.size() +
-                                    me_key_type_rows.size() +
-                                    me_key_edge_rows.size() +
-                                    me_key_mask_rows.size() +
-                                    me_key_resizer_rows.size() +
-                                    me_key_process_rows.size() +
-                                    me_key_trans_rows.size() +
-                                    me_key_dmewipe_rows.size() +
-                                    me_wipe_rows.size() +
-                                    me_dmewipe_rows.size() +
-                                    me_misc_rows.size() +
-                                    std::size(fm_pages) +
-                                    std::size(sources_pages) +
-                                    std::size(operation_pages) +
-                                    std::size(dme_pages) +
-                                    std::size(machines_pages) +
-                                    std::size(keyframe_pages) +
-                                    keyframe_path_rows.size() +
-                                    std::size(registers_pages) +
-                                    std::size(system_pages) +
-                                    std::size(saver_pages) +
-                                    std::size(gallery_pages) +
-                                    1; // the end
+// The groups of rows in their order; a new one is a line here.
+template <typename Work> constexpr auto WithGroups(Work work)
+{
+    return work(top_pages,
+                OfBanks<me_top_pages>,
+                OfKeys<me_key_type_pages>,
+                OfKeys<me_key_edge_pages>,
+                OfKeys<me_key_mask_pages>,
+                OfKeys<me_key_resizer_pages>,
+                OfKeys<me_key_process_pages>,
+                OfKeys<me_key_trans_pages>,
+                OfKeys<me_key_dmewipe_pages>,
+                OfBanks<me_wipe_pages>,
+                OfBanks<me_dmewipe_pages>,
+                OfBanks<me_misc_pages>,
+                fm_pages,
+                sources_pages,
+                operation_pages,
+                dme_pages,
+                machines_pages,
+                keyframe_pages,
+                keyframe_path_rows,
+                registers_pages,
+                system_pages,
+                saver_pages,
+                gallery_pages);
+}
+
+static constexpr size_t page_rows = WithGroups([](const auto&... rows) { return (std::size(rows) + ...); }) + 1; // the end
 
 struct AllRows {
     PAGE row[page_rows];
@@ -72,35 +69,15 @@ struct AllRows {
 
 static constexpr AllRows JoinRows()
 {
-    AllRows all{};
-    size_t n = 0;
-    const auto add = [&](const auto& rows) {
-        for (const PAGE& p : rows) all.row[n++] = p;
-    };
-    add(top_pages);
-    add(me_top_rows);
-    add(me_key_type_rows);
-    add(me_key_edge_rows);
-    add(me_key_mask_rows);
-    add(me_key_resizer_rows);
-    add(me_key_process_rows);
-    add(me_key_trans_rows);
-    add(me_key_dmewipe_rows);
-    add(me_wipe_rows);
-    add(me_dmewipe_rows);
-    add(me_misc_rows);
-    add(fm_pages);
-    add(sources_pages);
-    add(operation_pages);
-    add(dme_pages);
-    add(machines_pages);
-    add(keyframe_pages);
-    add(keyframe_path_rows);
-    add(registers_pages);
-    add(system_pages);
-    add(saver_pages);
-    add(gallery_pages);
-    return all; // the last row keeps PAGE_END
+    return WithGroups([](const auto&... rows) {
+        AllRows all{};
+        size_t n = 0;
+        const auto add = [&](const auto& group) {
+            for (const PAGE& p : group) all.row[n++] = p;
+        };
+        (add(rows), ...);
+        return all; // the last row keeps PAGE_END
+    });
 }
 
 static constinit AllRows all_rows = JoinRows();
