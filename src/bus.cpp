@@ -1,22 +1,6 @@
 #include "bus.h"
-#include "a_ba.h"
-#include "a_bt.h"
-#include "a_dw.h"
-#include "a_ff.h"
-#include "a_fl.h"
-#include "a_fm.h"
-#include "a_hf.h"
 #include "a_kf.h"
-#include "a_kp.h"
-#include "a_ls.h"
-#include "a_nb.h"
-#include "a_pc.h"
-#include "a_ps.h"
-#include "a_st.h"
-#include "a_vf.h"
 #include "command.h"
-#include "debug.h"
-#include "err.h"
 #include "file.h"
 #include "fmctrl.h"
 #include "fmctrl3.h"
@@ -26,6 +10,7 @@
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "page_family.h"
 #include "pane.h"
 #include "register.h"
 #include "scrollbar.h"
@@ -119,32 +104,6 @@ static bool bus_find_takes_input(int msg)
     }
 }
 
-// Non-zero when the object consumed the message.
-static int bus_offer(int type, int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
-{
-    switch (type) {
-    case OBJ_BA: return BA_Proc(msg, ax, bx, cx, dx);
-    case OBJ_BT: return BT_Proc(msg, ax, bx, cx, dx);
-    case OBJ_HF: return HF_Proc(msg, ax, bx, cx, dx);
-    case OBJ_VF: return VF_Proc(msg, ax, bx, cx, dx);
-    case OBJ_NB: return NB_Proc(msg, ax, bx, cx, dx);
-    case OBJ_PS: return PS_Proc(msg, ax, bx, cx, dx);
-    case OBJ_LS: return LS_Proc(msg, ax, bx, cx, dx);
-    case OBJ_PC: return PC_Proc(msg, ax, bx, cx, dx);
-    case OBJ_KF: return KF_Proc(msg, ax, bx, cx, dx);
-    case OBJ_ST: return ST_Proc(msg, ax, bx, cx, dx);
-    case OBJ_DW: return DW_Proc(msg, ax, bx, cx, dx);
-    case OBJ_FM: return FM_Proc(msg, ax, bx, cx, dx);
-    case OBJ_KP: return KP_Proc(msg, ax, bx, cx, dx);
-    case OBJ_FL: return FL_Proc(msg, ax, bx, cx, dx);
-    case OBJ_FF: return FF_Proc(msg, ax, bx, cx, dx);
-    // The engineering menu and the error list see everything and take nothing.
-    case OBJ_DEBUG: (void)Debug_Proc(msg, ax, bx, cx, dx); return 0;
-    case OBJ_ERR: (void)Err_Proc(msg, ax, bx, cx, dx); return 0;
-    default: return 0;
-    }
-}
-
 static void bus_walk_objects(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
 {
     if (!Page)
@@ -152,9 +111,10 @@ static void bus_walk_objects(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx
     for (const _pageobject& object : Page->obj) {
         if (object.type <= OBJ_END)
             return;
-        if (object.type >= BUS_OBJECT_TYPES || bus_is_masked(object.type, msg))
+        const PageFamily* family = PageFamily_Of(object.type);
+        if (!family || bus_is_masked(object.type, msg))
             continue;
-        if (bus_offer(object.type, msg, ax, bx, cx, dx))
+        if (family->proc(msg, ax, bx, cx, dx) && !family->is_watcher)
             return;
     }
 }

@@ -129,6 +129,7 @@ int MainSubAssign_StatusCheck_for_id(uint32_t id); // -1 no row, 0 main, 1 sub, 
 int MainSubAssign_StatusCheck();
 const MeBank* Page_Bank(); // the bank of the current page, by the first word of its path; or null
 
+const char* Page_LastWord(const PAGE& page); // of its path; "" without one
 // "%04X" or "%04X.%X" of a page id into text (at least 16 characters).
 void Page_Number(char* text, int size, uint32_t id);
 

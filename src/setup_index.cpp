@@ -22,17 +22,6 @@ constexpr uint32_t LAST_SUBPAGE = 153; // above it the low half of an id holds a
 constexpr const char* EXTENSION_PANEL = "Extension Panel"; // the last word of its page's path
 } // namespace
 
-static const char* last_word(const PAGE& page)
-{
-    const char* word = "";
-    for (const char* segment : page.tree) {
-        if (!segment)
-            break;
-        word = segment;
-    }
-    return word;
-}
-
 // A page that exists in several variants has one row.
 static bool is_other_variant(const PAGE& page)
 {
@@ -48,7 +37,7 @@ static void add_row(const PAGE& page)
     SETUPMENU& row = SetupMenu[SetupMenu_Max++];
     row = {.page = page.id & ~VARIANT_BITS, .active = 1};
     Page_Number(row.menu, sizeof row.menu, row.page);
-    CopyText(row.name, last_word(page));
+    CopyText(row.name, Page_LastWord(page));
 }
 
 void SetupIndex_BuildFrom(const PAGE* table)

@@ -12,6 +12,7 @@
 #include "a_vf.h"
 #include "command.h"
 #include "page.h"
+#include "page_family.h"
 #include "page_table/patterns.h"
 #include "text.h"
 #include <algorithm>
@@ -36,10 +37,8 @@ using Values = std::map<std::string, Value>;
 
 static const char* ObjectName(int type)
 {
-    static constexpr const char* names[] = {"",      "BA",  "BT", "HF", "VF", "NB", "PS",
-                                            "LS",    "PC",  "KF", "ST", "DW", "FM", "KP",
-                                            "Debug", "Err", "",   "FL", "FF"};
-    return type > 0 && type < int(std::size(names)) ? names[type] : "?";
+    const PageFamily* family = PageFamily_Of(type);
+    return family ? family->name : "?";
 }
 
 static const BT_TBL* ButtonsOf(const PAGE& page)
