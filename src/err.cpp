@@ -3,6 +3,7 @@
 #include "log.h"
 #include "memory.h"
 #include "page.h"
+#include "safe_file.h"
 #include "text.h"
 #include <cstdarg>
 #include <cstdio>
@@ -71,17 +72,17 @@ int Err_GetMax()
 
 void Err_Create()
 {
-    FILE* fp = fopen("/var/log2/tm3err.log", "w");
+    SafeFile file;
+    (void)SafeFile_Open(file, "/var/log2/tm3err.log"); // the list on the page comes first
     for (int row = 0; row < ErrMax; row++) {
         // Without its list the page still writes the file, so the results don't matter.
         (void)LS_SetData(ERROR_LIST, row, COL_TIME, ErrT[row]);
         (void)LS_SetData(ERROR_LIST, row, COL_TEXT, Err[row]);
-        if (fp)
-            fprintf(fp, "[%s] %s\n", ErrT[row], Err[row]);
+        if (file.fp)
+            fprintf(file.fp, "[%s] %s\n", ErrT[row], Err[row]);
     }
     (void)LS_SetNData(ERROR_LIST, ErrMax);
-    if (fp)
-        fclose(fp);
+    (void)SafeFile_Commit(file);
 }
 
 int Err_Proc(int, MsgArg, MsgArg, MsgArg, MsgArg)

@@ -1,19 +1,17 @@
 // The settings of the screen saver in a file of this unit: lines of "Key=value", as in the ini
 // file.
-#include "log.h"
+#include "safe_file.h"
 #include "saver.h"
 #include "text.h"
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <unistd.h>
 
 #include "safeguards.h"
 
 namespace
 {
 constexpr char FILE_NAME[] = "/mnt/data/.screensaver";
-constexpr char NEW_FILE_NAME[] = "/mnt/data/.screensaver.new";
 constexpr char NAME_KEY[] = "Name"; // with its number, from 0
 constexpr char FOLDER_KEY[] = "Folder";
 
@@ -71,26 +69,20 @@ void Saver_LoadSettings()
     fclose(fp);
 }
 
-static bool write_settings(FILE* fp)
+static void write_settings(FILE* fp)
 {
     for (const Number& number : numbers)
         fprintf(fp, "%s=%d\n", number.key, *number.value);
     fprintf(fp, "%s=%s\n", FOLDER_KEY, GL_Scr_disp_ImagePath);
     for (int n = 0; n < SAVER_NAMES; n++)
         fprintf(fp, "%s%d=%s\n", NAME_KEY, n, GL_Scr_disp_name[n]);
-    return fflush(fp) == 0 && !ferror(fp) && fsync(fileno(fp)) == 0;
 }
 
 int Saver_SaveSettings()
 {
-    // A new file takes the place of the old one when it is whole: the power may fail at any moment.
-    FILE* fp = fopen(NEW_FILE_NAME, "w");
-    bool is_written = fp && write_settings(fp);
-    if (fp && fclose(fp) != 0)
-        is_written = false;
-    if (is_written && rename(NEW_FILE_NAME, FILE_NAME) == 0)
-        return 0;
-    Log_Output(LOG_LINK, MOD_GLOBAL, "Screen saver settings not saved: %s", FILE_NAME);
-    (void)unlink(NEW_FILE_NAME); // it may not even have been made
-    return -1;
+    SafeFile file;
+    if (SafeFile_Open(file, FILE_NAME) != 0)
+        return -1;
+    write_settings(file.fp);
+    return SafeFile_Commit(file);
 }

@@ -1,8 +1,10 @@
 #include "setup_index.h"
 #include "log.h"
 #include "page.h"
+#include "safe_file.h"
 #include "text.h"
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 
@@ -61,15 +63,65 @@ void SetupIndex_Build()
     SetupIndex_BuildFrom(PageTable);
 }
 
+// --- The lock file: 796 bytes, numbers with their highest byte first on every machine ---
+
+constexpr size_t LOCK_FILE_SIZE = 20 + 4 + 4 + 4 * SETUP_LOCK_PAGES;
+static_assert(LOCK_FILE_SIZE == 796);
+
+static uint32_t read_u32(const unsigned char*& at)
+{
+    const uint32_t v = uint32_t(at[0]) << 24 | uint32_t(at[1]) << 16 | uint32_t(at[2]) << 8 | at[3];
+    at += 4;
+    return v;
+}
+
+static void write_u32(unsigned char*& at, uint32_t v)
+{
+    for (int shift = 24; shift >= 0; shift -= 8)
+        *at++ = (unsigned char)(v >> shift);
+}
+
+static SETUPLOCK lock_of_bytes(const unsigned char* at)
+{
+    SETUPLOCK lock;
+    memcpy(lock.password, at, sizeof lock.password);
+    lock.password[sizeof lock.password - 1] = '\0';
+    at += sizeof lock.password;
+    lock.lock = int32_t(read_u32(at));
+    const uint32_t num = read_u32(at);
+    lock.num = num > SETUP_LOCK_PAGES ? SETUP_LOCK_PAGES : int32_t(num);
+    for (uint32_t& page : lock.page)
+        page = read_u32(at);
+    return lock;
+}
+
+static void bytes_of_lock(unsigned char* at, const SETUPLOCK& lock)
+{
+    memcpy(at, lock.password, sizeof lock.password);
+    at += sizeof lock.password;
+    write_u32(at, uint32_t(lock.lock));
+    write_u32(at, uint32_t(lock.num));
+    for (const uint32_t page : lock.page)
+        write_u32(at, page);
+}
+
+// A missing file is the state of a new unit; one that cannot be used is a fault to be told.
 static bool read_lock_file()
 {
-    FILE* fp = fopen(SETUP_LOCK_FILE, "rb");
-    if (!fp)
+    FILE* fp = fopen(SETUP_LOCK_FILE, "rbe");
+    if (!fp) {
+        if (errno != ENOENT)
+            Log_Output(LOG_ALWAYS, MOD_START, "Can't read lock file: %s, %s", SETUP_LOCK_FILE,
+                       strerror(errno));
         return false;
-    const bool is_whole = fread(&SetupLock, sizeof SetupLock, 1, fp) == 1;
+    }
+    unsigned char bytes[LOCK_FILE_SIZE];
+    const bool is_whole = fread(bytes, sizeof bytes, 1, fp) == 1;
     fclose(fp);
-    if (!is_whole)
-        Log_Output(LOG_LIFE, MOD_START, "Lock file is too short: %s", SETUP_LOCK_FILE);
+    if (is_whole)
+        SetupLock = lock_of_bytes(bytes);
+    else
+        Log_Output(LOG_ALWAYS, MOD_START, "Lock file is too short: %s", SETUP_LOCK_FILE);
     return is_whole;
 }
 
@@ -78,8 +130,6 @@ void SetupIndex_LoadLock()
     SetupLock_New = !read_lock_file();
     if (SetupLock_New)
         SetupLock = {};
-    SetupLock.password[sizeof SetupLock.password - 1] = '\0';
-    SetupLock.num = std::clamp(SetupLock.num, 0, SETUP_LOCK_PAGES);
     for (int i = 0; i < SetupMenu_Max; i++)
         SetupMenu[i].lock = 0;
     for (int i = 0; i < SetupLock.num; i++) {
@@ -97,12 +147,9 @@ int SetupIndex_SaveLock()
         if (SetupMenu[i].lock)
             SetupLock.page[SetupLock.num++] = SetupMenu[i].page;
 
-    FILE* fp = fopen(SETUP_LOCK_FILE, "wb");
-    if (!fp)
-        return -1;
-    const bool is_written = fwrite(&SetupLock, sizeof SetupLock, 1, fp) == 1;
-    const bool is_closed = fclose(fp) == 0; // a full disk may show only here
-    return is_written && is_closed ? 0 : -1;
+    unsigned char bytes[LOCK_FILE_SIZE];
+    bytes_of_lock(bytes, SetupLock);
+    return SafeFile_Write(SETUP_LOCK_FILE, bytes, sizeof bytes);
 }
 
 int SetupIndex_Find(uint32_t page)

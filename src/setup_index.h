@@ -21,15 +21,13 @@ extern int SetupMenu_Max;
 extern SETUPTBL SetupMenuTbl[SETUP_GROUPS];
 
 constexpr int SETUP_LOCK_PAGES = 192;
-// Also the lock file, as one block with its integers in the processor's order: no other program
-// reads it.
+// What the lock file holds.
 struct SETUPLOCK {
     char password[20] = "";
     int32_t lock = 0; // the lock is on: pages of the set take no change
     int32_t num = 0;  // pages in use, 0..SETUP_LOCK_PAGES
     uint32_t page[SETUP_LOCK_PAGES] = {};
 };
-static_assert(sizeof(SETUPLOCK) == 796);
 extern SETUPLOCK SetupLock;
 extern int SetupLock_New; // no usable lock file was there
 #define SETUP_LOCK_FILE "/mnt/data/.setuplock"

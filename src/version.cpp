@@ -2,6 +2,7 @@
 #include "global.h"
 #include "i2c.h"
 #include "process.h"
+#include "safe_file.h"
 #include "text.h"
 #include <cctype>
 #include <cstdio>
@@ -139,13 +140,13 @@ static void version_publish()
     ktr_system("/bin/mkdir -p /var/tmp/version2");
     char path[PATH_SIZE];
     PrintText(path, "/var/tmp/version2/GUI%d", SYS_UnitID);
-    FILE* fp = fopen(path, "w");
-    if (!fp)
+    SafeFile file;
+    if (SafeFile_Open(file, path) != 0)
         return;
-    fprintf(fp, "QRD-X62: %s\n", GL_MenuDetailInfoFull[ROW_APP]);
+    fprintf(file.fp, "QRD-X62: %s\n", GL_MenuDetailInfoFull[ROW_APP]);
     for (int row = 0; row < GL_DetailInfoMax; row++)
-        fprintf(fp, "%s: %s\n", GL_MenuDetailInfoTitle[row], GL_MenuDetailInfoFull[row]);
-    fclose(fp);
+        fprintf(file.fp, "%s: %s\n", GL_MenuDetailInfoTitle[row], GL_MenuDetailInfoFull[row]);
+    (void)SafeFile_Commit(file); // the others miss a version, which the log tells
 }
 
 void GetMenuDetailInfo()

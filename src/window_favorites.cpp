@@ -2,6 +2,7 @@
 #include "global.h"
 #include "log.h"
 #include "page.h"
+#include "safe_file.h"
 #include "tdl.h"
 #include "text.h"
 #include "window_private.h"
@@ -114,13 +115,7 @@ static int write_set(int set)
     (void)mkdir(DIRECTORY, 0755); // mostly it is there; otherwise the file cannot be opened
     char path[PATH_SIZE];
     file_name(path, set);
-    FILE* fp = fopen(path, "wb");
-    const bool is_written = fp && fwrite(raw, sizeof raw, 1, fp) == 1;
-    const bool is_closed = fp && fclose(fp) == 0; // a full disk may show only here
-    if (is_written && is_closed)
-        return 0;
-    Log_Output(LOG_ALWAYS, MOD_PAGE, "Can't write favourites: %s", path);
-    return -1;
+    return SafeFile_Write(path, raw, sizeof raw);
 }
 
 // --- Drawing ---

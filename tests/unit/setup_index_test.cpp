@@ -39,14 +39,26 @@ struct SetupIndex : testing::Test {
         SetupIndex_BuildFrom(small_table);
         SetupIndex_LoadLock();
     }
-    static void WriteLockFile(const void* bytes, size_t size)
+    void TearDown() override { unlink(SETUP_LOCK_FILE ".new"); }
+    static void WriteLockFile(const std::string& bytes)
     {
         FILE* fp = fopen(SETUP_LOCK_FILE, "wb");
         ASSERT_NE(fp, nullptr);
-        fwrite(bytes, size, 1, fp);
+        fwrite(bytes.data(), bytes.size(), 1, fp);
         fclose(fp);
     }
 };
+
+// The file as its format says: the lock is on, page 7311 is locked.
+std::string LockFileOfOnePage()
+{
+    std::string bytes(796, '\0');
+    bytes.replace(0, 6, "secret");
+    bytes[23] = 1;
+    bytes[27] = 1;
+    bytes.replace(28, 2, "\x73\x11");
+    return bytes;
+}
 } // namespace
 
 TEST_F(SetupIndex, HasOneRowForAPageInEveryVariantGroupedByTab)
@@ -95,10 +107,7 @@ TEST_F(SetupIndex, LocksSurviveARestart)
 TEST_F(SetupIndex, AMissingOrCutLockFileLocksNothing)
 {
     EXPECT_EQ(SetupLock_New, 1);
-    SETUPLOCK lock;
-    lock.lock = lock.num = 1;
-    lock.page[0] = 0x73110000;
-    WriteLockFile(&lock, sizeof lock - 1);
+    WriteLockFile(LockFileOfOnePage().substr(0, 795));
     SetupIndex_LoadLock();
     EXPECT_EQ(SetupLock_New, 1);
     EXPECT_EQ(SetupLock.lock, 0);
@@ -107,13 +116,33 @@ TEST_F(SetupIndex, AMissingOrCutLockFileLocksNothing)
 
 TEST_F(SetupIndex, ALockFileOfRubbishStaysInBounds)
 {
-    unsigned char rubbish[sizeof(SETUPLOCK)];
-    memset(rubbish, 0x7F,
-           sizeof rubbish); // a count of two thousand million, a password without an end
-    WriteLockFile(rubbish, sizeof rubbish);
+    for (const char byte : {'\x7F', '\xFF'}) { // a count far too high, and a negative one
+        WriteLockFile(std::string(796, byte));
+        SetupIndex_LoadLock();
+        EXPECT_EQ(SetupLock.num, SETUP_LOCK_PAGES);
+        EXPECT_EQ(strlen(SetupLock.password), sizeof SetupLock.password - 1);
+    }
+}
+
+TEST_F(SetupIndex, TheLockFileIsTheSameOnEveryMachine)
+{
+    WriteLockFile(LockFileOfOnePage());
     SetupIndex_LoadLock();
-    EXPECT_EQ(SetupLock.num, SETUP_LOCK_PAGES);
-    EXPECT_EQ(strlen(SetupLock.password), sizeof SetupLock.password - 1);
+    EXPECT_EQ(SetupLock.lock, 1);
+    EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73110000)].lock, 1);
+    unlink(SETUP_LOCK_FILE);
+    ASSERT_EQ(SetupIndex_SaveLock(), 0);
+    EXPECT_EQ(FileText(SETUP_LOCK_FILE), LockFileOfOnePage());
+}
+
+TEST_F(SetupIndex, AFullDiskLeavesTheLocksOfTheLastTime)
+{
+    WriteLockFile(LockFileOfOnePage());
+    SetupIndex_LoadLock();
+    SetupMenu[SetupIndex_Find(0x73710000)].lock = 1;
+    ASSERT_EQ(symlink("/dev/full", SETUP_LOCK_FILE ".new"), 0);
+    EXPECT_EQ(SetupIndex_SaveLock(), -1);
+    EXPECT_EQ(FileText(SETUP_LOCK_FILE), LockFileOfOnePage());
 }
 
 TEST(SetupIndexOfTheProgram, HoldsEverySetupPageOnce)

@@ -1,0 +1,60 @@
+#include "harness.h"
+#include "safe_file.h"
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+constexpr char FILE_NAME[] = "/var/tmp/safe_file";
+constexpr char BESIDE[] = "/var/tmp/safe_file.new";
+
+struct SafeFiles : testing::Test {
+    void SetUp() override
+    {
+        unlink(BESIDE);
+        ASSERT_EQ(SafeFile_Write(FILE_NAME, "the old one", 11), 0);
+    }
+    void TearDown() override
+    {
+        unlink(BESIDE);
+        rmdir(BESIDE);
+        unlink(FILE_NAME);
+    }
+};
+} // namespace
+
+TEST_F(SafeFiles, TheOldFileStandsUntilTheNewOneIsWhole)
+{
+    SafeFile file;
+    ASSERT_EQ(SafeFile_Open(file, FILE_NAME), 0);
+    fprintf(file.fp, "half");
+    fflush(file.fp);
+    EXPECT_EQ(FileText(FILE_NAME), "the old one");
+    fprintf(file.fp, " and half");
+    ASSERT_EQ(SafeFile_Commit(file), 0);
+    EXPECT_EQ(FileText(FILE_NAME), "half and half");
+    EXPECT_NE(access(BESIDE, F_OK), 0);
+    EXPECT_EQ(SafeFile_Commit(file), -1) << "a second time";
+
+    ASSERT_EQ(SafeFile_Open(file, FILE_NAME), 0);
+    fprintf(file.fp, "thought better of it");
+    SafeFile_Abandon(file);
+    EXPECT_EQ(FileText(FILE_NAME), "half and half");
+    EXPECT_NE(access(BESIDE, F_OK), 0);
+}
+
+TEST_F(SafeFiles, WhatCannotBeWrittenLeavesTheOldFile)
+{
+    // A full disk shows itself only when the bytes go out.
+    ASSERT_EQ(symlink("/dev/full", BESIDE), 0);
+    EXPECT_EQ(SafeFile_Write(FILE_NAME, "the new one", 11), -1);
+    EXPECT_EQ(FileText(FILE_NAME), "the old one");
+    EXPECT_NE(access(BESIDE, F_OK), 0);
+
+    ASSERT_EQ(mkdir(BESIDE, 0755), 0);
+    EXPECT_EQ(SafeFile_Write(FILE_NAME, "the new one", 11), -1);
+    EXPECT_EQ(FileText(FILE_NAME), "the old one");
+
+    const std::string too_long = "/var/tmp/" + std::string(PATH_SIZE, 'x');
+    EXPECT_EQ(SafeFile_Write(too_long.c_str(), "x", 1), -1);
+}
