@@ -2,6 +2,7 @@
 #include "a_ba_draw.h"
 #include "a_kf.h"
 #include "bus.h"
+#include "colours.h"
 #include "debug.h"
 #include "err.h"
 #include "global.h"
@@ -148,11 +149,10 @@ static void decide_side_key()
 
 static void create_frame(uint32_t parent)
 {
-    constexpr unsigned FRAME = 0x1F1F1F;
     ba.ParentPage = parent;
     decide_side_key();
-    TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, FRAME);
-    TDL_FillRectS(97, 73, 702, 526, 0x000000);
+    TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, FRAME_GROUND);
+    TDL_FillRectS(97, 73, 702, 526, BLACK);
     ba_drw_pagebtn();
     ba_drw_title();
     if (ba.KeyChange_enable)

@@ -1,4 +1,5 @@
 #include "a_ba_draw.h"
+#include "colours.h"
 #include "global.h"
 #include "graphics.h"
 #include "page.h"
@@ -11,14 +12,7 @@
 
 namespace
 {
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned GREY = 0x808080;
-constexpr unsigned FRAME = 0x1F1F1F;
-constexpr unsigned RED = 0xFF0000;
-constexpr unsigned GREEN = 0x00FF00;
-constexpr unsigned LAMP_OFF = 0x282828;
-constexpr unsigned TREE_OMOTE = 0xE48B1B;
+constexpr unsigned TREE_OMOTE = ORANGE;
 constexpr unsigned TREE_URA = 0x800019;
 constexpr unsigned REGION_GRID = 0x323246;
 constexpr Rect NOT_FLUSHED = {0, 0, -1, -1};
@@ -104,19 +98,6 @@ static void tree_line(char (&line)[PATH_SIZE])
     }
 }
 
-// The longest head that fits with "..". The drawing layer's own cut serves short texts only.
-static void draw_cut(int x, int y, int width, char (&text)[PATH_SIZE], unsigned col)
-{
-    size_t head = strlen(text);
-    if (int(TDL_GetSymbolWidth(text, 4)) > width) {
-        const int room = width - int(TDL_GetSymbolWidth("..", 4));
-        while (head > 0 && int(TDL_GetSymbolWidth(text, 4)) > room)
-            text[--head] = '\0';
-        AppendText(text, "..");
-    }
-    TDL_SymbolS(x, y, text, 4, col);
-}
-
 Rect ba_drw_title()
 {
     const Rect band = {89, 6, ba_has_short_title() ? 298 : 373, 63};
@@ -130,7 +111,9 @@ Rect ba_drw_title()
     }
     char line[PATH_SIZE];
     tree_line(line);
-    draw_cut(99, 46, band.x2 - 8 - 99, line, OmoteFlag ? TREE_OMOTE : TREE_URA);
+    (void)TDL_CutText(line, sizeof line, band.x2 - 8 - 99, "..",
+                      4); // the band has room for both dots
+    TDL_SymbolS(99, 46, line, 4, OmoteFlag ? TREE_OMOTE : TREE_URA);
     return band;
 }
 
@@ -163,7 +146,7 @@ static void draw_history_page(int x, int x_with_sub, uint32_t page)
 
 Rect ba_drw_back()
 {
-    TDL_FillRectS(374, 6, 440, 63, FRAME);
+    TDL_FillRectS(374, 6, 440, 63, FRAME_GROUND);
     if (IsTopHistory(OmoteFlag)) {
         TDL_PutS(389, 6, G_BACK_dis);
         return NOT_FLUSHED;
@@ -175,7 +158,7 @@ Rect ba_drw_back()
 
 Rect ba_drw_fwd()
 {
-    TDL_FillRectS(441, 6, 507, 63, FRAME);
+    TDL_FillRectS(441, 6, 507, 63, FRAME_GROUND);
     if (IsLastHistory(OmoteFlag)) {
         TDL_PutS(446, 6, G_NEXT_dis);
         return NOT_FLUSHED;
@@ -254,8 +237,8 @@ Rect ba_drw_menu_macro()
 // How much of a region group is selected, as a colour.
 static unsigned selection_colour(int grp, int main)
 {
-    constexpr unsigned REFERENCE = 0x00FFFF;
-    constexpr unsigned PARTLY = 0xE48B1B;
+    constexpr unsigned REFERENCE = CYAN;
+    constexpr unsigned PARTLY = ORANGE;
     constexpr unsigned NONE = 0x6A6A6A;
     constexpr int SUB_MAX = 16;
     int selected = 0;

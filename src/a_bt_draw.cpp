@@ -1,8 +1,10 @@
 // What a button looks like: its face by type and state, its caption, the frames round groups.
 #include "a_bt.h"
+#include "colours.h"
 #include "favorites.h"
 #include "global.h"
 #include "graphics.h"
+#include "indexed.h"
 #include "page.h"
 #include "tdl.h"
 #include "text.h"
@@ -13,16 +15,8 @@
 
 namespace
 {
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned GREY = 0x808080;
-constexpr unsigned ORANGE = 0xE48B1B;
-constexpr unsigned ORANGE_DARK = 0xC86E05;
-constexpr unsigned UNDECIDED = 0xFFFF00;
-constexpr unsigned PLATE = 0x00222B; // under small text that must read on a light key
-constexpr unsigned NO_TALLY_MARK = 0xFFC800;
-constexpr unsigned PULLDOWN_DISABLED = 0x313A41;
-constexpr unsigned GROUP = 0x3C3C3C;
+constexpr unsigned UNDECIDED = YELLOW;
+constexpr unsigned PLATE = 0x00222B;      // under small text that must read on a light key
 constexpr unsigned AS_STATE = 0xFFFFFFFF; // the caption colour follows from the state
 
 enum Look { OFF, ON, THIRD };
@@ -118,14 +112,7 @@ constexpr Faces faces_by_type[] = {
     jump_faces(BT_NEW, &G_JMP_New_dis, &G_JMP_New_p0, &G_JMP_New_p1),
 };
 
-constexpr bool IndexedByType()
-{
-    for (int i = 0; i <= BT_NEW; i++)
-        if (faces_by_type[i].type != i)
-            return false;
-    return std::size(faces_by_type) == BT_NEW + 1;
-}
-static_assert(IndexedByType());
+static_assert(IndexedBy(faces_by_type, &Faces::type, BT_NEW + 1));
 
 // Buttons with knobs: without and with the ownership. There is no third bitmap; the third state
 // looks on.
@@ -579,9 +566,9 @@ static void draw_group(const Group& g)
 {
     const auto [x, y, X, Y] = g.box;
     for (int line : {y - 8, y - 7, Y + 2, Y + 3})
-        TDL_LineHS(x - 5, line, X + 11 - x, GROUP);
+        TDL_LineHS(x - 5, line, X + 11 - x, GROUP_FRAME);
     for (int line : {x - 5, x - 4, X + 4, X + 5})
-        TDL_LineVS(line, y - 6, Y + 9 - y, GROUP);
+        TDL_LineVS(line, y - 6, Y + 9 - y, GROUP_FRAME);
 
     // A leading mark keeps two frames with the same visible title apart.
     char title[GROUP_TITLE];

@@ -1,5 +1,6 @@
 #include "a_dw.h"
 #include "a_ba.h"
+#include "colours.h"
 #include "command.h"
 #include "graphics.h"
 #include "log.h"
@@ -228,15 +229,15 @@ static void draw_cell(int x, int y, int base)
     const int number = base + DW_SetOf(dw.number);
     char text[16];
     PrintText(text, "%d", number);
-    TDL_FillRectS(x, y, right, bottom, 0x000000);
+    TDL_FillRectS(x, y, right, bottom, BLACK);
     if (base > 0 && base < WIPE_PTN_MAX)
         TDL_PutS(x + 4, y + 2, G_WipePtn[base]);
     if (number != dw.number) {
-        TDL_SymbolS(x + 4, y + 53, text, 1, 0xFFFFFF);
+        TDL_SymbolS(x + 4, y + 53, text, 1, WHITE);
         return;
     }
     TDL_FillRectAS(x, y, right, bottom, 0, VEIL);
-    TDL_SymbolCS(x, y, right, bottom, text, 5, 0xFFFFFF);
+    TDL_SymbolCS(x, y, right, bottom, text, 5, WHITE);
 }
 
 static void draw_line(int row)
@@ -245,8 +246,7 @@ static void draw_line(int row)
     const Line& line = dw.line[dw.window.top + row];
     // A group that began above the window still says its name.
     if (line.first == 0 || row == 0)
-        TDL_SymbolWS(CAPTION_X, y + 6, CELL_X - CAPTION_X, dw.group[line.group].caption, 3,
-                     0xFFFFFF);
+        TDL_SymbolWS(CAPTION_X, y + 6, CELL_X - CAPTION_X, dw.group[line.group].caption, 3, WHITE);
     for (int column = 0; column < COLUMNS; column++)
         if (const DMEWIPEPTN* p = pattern_at(row, column))
             draw_cell(CELL_X + column * PITCH, y, base_number_of(p, row));
@@ -258,7 +258,7 @@ static int redraw()
         return 0;
     dw.redraw = false;
     const Rect r = area();
-    TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, 0x000000);
+    TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, BLACK);
     for (int row = 0; row < dw.window.shown && dw.window.top + row < dw.window.total; row++)
         draw_line(row);
     TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);

@@ -1,5 +1,6 @@
 #include "a_hf.h"
 #include "a_ba.h"
+#include "colours.h"
 #include "command.h"
 #include "global.h"
 #include "graphics.h"
@@ -157,9 +158,9 @@ static int tally(const char* path, const char* value, uint32_t hash)
 static void draw_bar(int x)
 {
     constexpr int BAR_W = 70;
-    TDL_LineHS(x, 584, BAR_W, 0xE48B1B);
-    TDL_LineHS(x, 585, BAR_W, 0xC86E05);
-    TDL_LineHS(x, 586, BAR_W, 0xE48B1B);
+    TDL_LineHS(x, 584, BAR_W, ORANGE);
+    TDL_LineHS(x, 585, BAR_W, ORANGE_DARK);
+    TDL_LineHS(x, 586, BAR_W, ORANGE);
 }
 
 static void draw(HF_MEM& t)
@@ -172,7 +173,7 @@ static void draw(HF_MEM& t)
     const bool is_on = t.id == Selected;
     TDL_PutS(x + 1, f.y, !t.display ? f.blank : is_on ? f.on : f.off);
     if (t.display) {
-        TDL_SymbolS(x + 8, f.y + 8, t.caption, 4, is_on ? 0x000000 : 0xFFFFFF);
+        TDL_SymbolS(x + 8, f.y + 8, t.caption, 4, is_on ? BLACK : WHITE);
         if (is_active(t))
             draw_bar(x + 8);
     }

@@ -1,6 +1,7 @@
 // The rows of the timeline: a region's name at the left, its keyframes on the time axis. Each row
 // is painted as a whole and flushed by itself.
 #include "a_kf_private.h"
+#include "colours.h"
 #include "tdl.h"
 #include "text.h"
 #include "timecode.h"
@@ -9,19 +10,12 @@
 
 namespace
 {
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned CYAN = 0x00FFFF;
-constexpr unsigned ORANGE = 0xE48B1B;
-constexpr unsigned YELLOW = 0xFFFF00;
-constexpr unsigned RED = 0xFF0000;
 constexpr unsigned BLOCK = 0x333333;
-constexpr unsigned BLOCK_FRAME = 0x4D4D4D;
 constexpr unsigned NOT_SELECTED = 0x464646;
 constexpr unsigned END_TIME = 0xC8C8C8;
-constexpr unsigned LOOP_TEXT = 0x00DDD4;
+constexpr unsigned LOOP_TEXT = TEAL;
 constexpr unsigned DELAY = 0x003296;
-constexpr unsigned BOUNDARY = 0xB4B4B4;
+constexpr unsigned BOUNDARY = SEPARATOR;
 
 constexpr int FONT_NAME = 5;
 constexpr int FONT_SMALL = 1;
@@ -247,7 +241,7 @@ int tl_draw(const KF_REGION* region, int row)
     const int y = row * ROW_PX;
     const Rect box = {NAME_BOX.x1, y + NAME_BOX.y1, NAME_BOX.x2, y + NAME_BOX.y2};
     TDL_FillRectS(box.x1, box.y1, box.x2, box.y2, BLOCK);
-    TDL_RectS(box.x1, box.y1, box.x2, box.y2, BLOCK_FRAME);
+    TDL_RectS(box.x1, box.y1, box.x2, box.y2, CELL_FRAME);
     if (!is_empty_row(*region))
         draw_name(*region, y);
     TDL_UpdateRect(box.x1, box.y1, box.x2, box.y2);

@@ -1,5 +1,6 @@
 // The strip at top right: what the reference region does, on every normal page.
 #include "a_kf_private.h"
+#include "colours.h"
 #include "global.h"
 #include "graphics.h"
 #include "page.h"
@@ -15,9 +16,6 @@ namespace
 constexpr int CODE_ROUTER = 66; // it has no timeline to show
 constexpr uint32_t PAGE_TIMELINE = 0x61110000;
 
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned CYAN = 0x00FFFF;
-constexpr unsigned FRAME = 0x1F1F1F;
 constexpr Rect STRIP = {508, 6, 799, 65};
 constexpr int BITMAP_RIGHT = 794; // a negative time reaches beyond it
 constexpr int FONT_TEXT = 4;
@@ -78,7 +76,7 @@ static void draw_name(const char* full)
 static void draw_strip(const KF_REGION& r)
 {
     char text[64];
-    TDL_FillRectS(BITMAP_RIGHT + 1, STRIP.y1, STRIP.x2, STRIP.y2, FRAME);
+    TDL_FillRectS(BITMAP_RIGHT + 1, STRIP.y1, STRIP.x2, STRIP.y2, FRAME_GROUND);
     TDL_PutS(STRIP.x1, STRIP.y1, strip_is_pushed ? G_KF_on : G_KF_off);
     PrintText(text, "Effect#: %d (%s)", r.regnum, r.regname);
     TDL_SymbolS(515, 16, text, FONT_TEXT, WHITE);

@@ -1,6 +1,7 @@
 // The timeline page: ten rows of regions, their common time axis, the knob that scrolls them.
 #include "a_kf_private.h"
 #include "a_nb.h"
+#include "colours.h"
 #include "global.h"
 #include "message.h"
 #include "pane.h"
@@ -14,8 +15,6 @@ namespace
 {
 constexpr int KNOB_SCROLL = 1;
 
-constexpr unsigned FRAME = 0x1F1F1F;
-constexpr unsigned WHITE = 0xFFFFFF;
 constexpr Rect STRIP = {97, 530, 702, 550}; // between the rows and the tabs
 constexpr Rect START_LABEL = {117, 535, 187, 546};
 constexpr Rect END_LABEL = {617, 535, 687, 546};
@@ -71,7 +70,7 @@ static void order_rows()
 
 static void draw_label(const Rect& r, int time)
 {
-    TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, FRAME);
+    TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, FRAME_GROUND);
     TDL_SymbolS(r.x1, r.y1, Frame2TC(time, 4), FONT_LABEL, WHITE);
     TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);
 }
@@ -108,7 +107,7 @@ static int kf_tl_create(int on, uint32_t)
     if (!on)
         return 0;
     unpainted_ms = 0;
-    TDL_FillRectS(STRIP.x1, STRIP.y1, STRIP.x2, STRIP.y2, FRAME);
+    TDL_FillRectS(STRIP.x1, STRIP.y1, STRIP.x2, STRIP.y2, FRAME_GROUND);
     order_rows();
     paint_rows();
     draw_label(START_LABEL, tlSTime);

@@ -1,5 +1,6 @@
 #include "a_kp.h"
 #include "a_ba.h"
+#include "colours.h"
 #include "command.h"
 #include "global.h"
 #include "graphics.h"
@@ -298,7 +299,7 @@ static void draw_splines(const KP_MEM& r, int y)
     for (int i = 0; i < SPLINES; i++) {
         char text[32];
         PrintText(text, "%.2f", r.spline[i]);
-        TDL_SymbolWS(spline_columns[i].x, y + 13, 44, text, 3, 0xFFFFFF);
+        TDL_SymbolWS(spline_columns[i].x, y + 13, 44, text, 3, WHITE);
     }
 }
 
@@ -307,11 +308,11 @@ static void draw_row(int n)
     KP_MEM& r = Row[n];
     const int y = TOP + (n - Window.top) * ROW_H;
     r.redraw = 0;
-    TDL_FillRectS(LEFT, y, RIGHT, y + ROW_H - 1, 0x000000);
-    TDL_LineHS(LEFT, y + ROW_H - 1, RIGHT - LEFT + 1, 0x3C3C3C);
+    TDL_FillRectS(LEFT, y, RIGHT, y + ROW_H - 1, BLACK);
+    TDL_LineHS(LEFT, y + ROW_H - 1, RIGHT - LEFT + 1, GROUP_FRAME);
     if (r.pushed > 0)
-        TDL_FillRectS(LEFT, y, MARK_X - 1, y + ROW_H - 2, 0x003241);
-    TDL_SymbolWS(LEFT + 4, y + 13, MARK_X - LEFT - 4, r.caption, 3, 0xFFFFFF);
+        TDL_FillRectS(LEFT, y, MARK_X - 1, y + ROW_H - 2, HEADER_GROUND);
+    TDL_SymbolWS(LEFT + 4, y + 13, MARK_X - LEFT - 4, r.caption, 3, WHITE);
     if (r.jump)
         TDL_PutS(MARK_X, y + 8, G_path_right);
     for (int cell = 0; cell < CELLS; cell++)
@@ -323,20 +324,19 @@ static void draw_row(int n)
 
 static void draw_head()
 {
-    constexpr unsigned TITLE = 0xB4FFC8;
-    TDL_FillRectS(LEFT, HEAD_TOP, RIGHT, HEAD_TOP + HEAD_H - 1, 0x003241);
-    TDL_SymbolS(LEFT + 4, HEAD_TOP + 5, "Path", 3, TITLE);
+    TDL_FillRectS(LEFT, HEAD_TOP, RIGHT, HEAD_TOP + HEAD_H - 1, HEADER_GROUND);
+    TDL_SymbolS(LEFT + 4, HEAD_TOP + 5, "Path", 3, LIST_TITLE);
     for (const CellColumn& c : cell_columns)
-        TDL_SymbolS(c.x + 4, HEAD_TOP + 5, c.caption, 3, TITLE);
+        TDL_SymbolS(c.x + 4, HEAD_TOP + 5, c.caption, 3, LIST_TITLE);
     for (const SplineColumn& c : spline_columns)
-        TDL_SymbolS(c.x, HEAD_TOP + 5, c.caption, 3, TITLE);
+        TDL_SymbolS(c.x, HEAD_TOP + 5, c.caption, 3, LIST_TITLE);
 }
 
 static void draw_all()
 {
     RedrawAll = false;
     draw_head();
-    TDL_FillRectS(LEFT, TOP, RIGHT, BOTTOM, 0x000000);
+    TDL_FillRectS(LEFT, TOP, RIGHT, BOTTOM, BLACK);
     for (int n = Window.top; n < Window.total && n < Window.top + Window.shown; n++)
         draw_row(n);
     TDL_UpdateRect(AREA.x1, AREA.y1, AREA.x2, AREA.y2);

@@ -1,6 +1,7 @@
 // What a list looks like. Only the rows in the window are looked at, however many there are.
 #include "a_ls.h"
 #include "a_ls_private.h"
+#include "colours.h"
 #include "global.h"
 #include "graphics.h"
 #include "page.h"
@@ -14,13 +15,9 @@
 
 namespace
 {
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned HEADER = 0x003241;
-constexpr unsigned SEPARATOR = 0x00141E;
-constexpr unsigned TITLE = 0xB4FFC8;
+constexpr unsigned HEADER_SEPARATOR = 0x00141E;
 constexpr unsigned TITLE_DISABLED = 0x787878;
-constexpr unsigned CURRENT = 0x00FFFF; // the current column's title, the current row's first cell
+constexpr unsigned CURRENT = CYAN; // the current column's title, the current row's first cell
 constexpr unsigned CURRENT_INHIBITED = 0x8C8C8C;
 
 constexpr int FONT_CELL = 3;
@@ -49,13 +46,13 @@ constexpr struct {
     Look normal;
     Look selected;
 } looks[] = {
-    {{0xFFFFFF, 0x005A6E}, {0x000000, 0x00C8F0}}, // usual
+    {{WHITE, 0x005A6E}, {BLACK, 0x00C8F0}},       // usual
     {{0x787878, 0x005A6E}, {0x505050, 0x8C8C8C}}, // empty
-    {{0xFF0000, 0x005A6E}, {0x000000, 0xF00000}}, // alarm
-    {{0xFFFF00, 0x005A6E}, {0x000000, 0xA0E632}}, // notice
-    {{0xFFFFFF, 0x14323C}, {0x000000, 0x00C8F0}}, // usual, on the darker ground
-    {{0x787878, 0x14323C}, {0x000000, 0x8C8C8C}}, // empty, on the darker ground
-    {{0xFFFFFF, 0x005A6E}, {0x000000, 0x00C8F0}},
+    {{RED, 0x005A6E}, {BLACK, 0xF00000}},         // alarm
+    {{YELLOW, 0x005A6E}, {BLACK, 0xA0E632}},      // notice
+    {{WHITE, 0x14323C}, {BLACK, 0x00C8F0}},       // usual, on the darker ground
+    {{0x787878, 0x14323C}, {BLACK, 0x8C8C8C}},    // empty, on the darker ground
+    {{WHITE, 0x005A6E}, {BLACK, 0x00C8F0}},
 };
 constexpr int LAST_LOOK = int(std::size(looks)) - 1;
 
@@ -123,7 +120,7 @@ static void draw_ground(const Column& c, int y, unsigned ground)
 static void draw_separator(const Column& c, int y)
 {
     if (c.ends_group)
-        TDL_LineVS(c.x + c.width - 1, y, LS_ROW_PX, SEPARATOR);
+        TDL_LineVS(c.x + c.width - 1, y, LS_ROW_PX, HEADER_SEPARATOR);
 }
 
 // --- Header ---
@@ -132,14 +129,14 @@ static unsigned title_colour(const LS_MEM& l, int col)
 {
     if (l.row_disable[col])
         return TITLE_DISABLED;
-    return l.split && col == l.splitsel ? CURRENT : TITLE;
+    return l.split && col == l.splitsel ? CURRENT : LIST_TITLE;
 }
 
 static void draw_header(const LS_MEM& l, const Column (&columns)[LS_COLUMNS])
 {
     for (int col = 0; col < l.hn; col++) {
         const Column& c = columns[col];
-        draw_ground(c, l.y, HEADER);
+        draw_ground(c, l.y, HEADER_GROUND);
         const int title_x = c.text_x - (c.width < NARROW_PX ? TITLE_LEFT_NARROW : 0);
         (void)TDL_SymbolWS(title_x, l.y + TEXT_TOP, c.text_width, l.head[col], FONT_CELL,
                            title_colour(l, col)); // no title is fine
@@ -212,7 +209,7 @@ static void draw_row(const LS_MEM& l, const Column (&columns)[LS_COLUMNS], int r
             draw_ground(columns[col], y, looks[0].normal.ground);
         draw_separator(columns[col], y);
     }
-    TDL_LineHS(l.x, y + LS_ROW_PX - 1, l.area_x2 - l.x + 1, SEPARATOR);
+    TDL_LineHS(l.x, y + LS_ROW_PX - 1, l.area_x2 - l.x + 1, HEADER_SEPARATOR);
     if (in_use && GL_NowPage == PAGE_FOLDERS) {
         draw_folder(FOLDER_LEFT_X, y, l.folder[row]);
         draw_folder(FOLDER_RIGHT_X, y, l.folder2[row]);

@@ -1,17 +1,16 @@
 // What the column looks like.
 #include "a_nb.h"
 #include "a_nb_private.h"
+#include "colours.h"
 #include "graphics.h"
 #include "tdl.h"
 #include "text.h"
 #include <cmath>
 #include "safeguards.h"
 
-constexpr unsigned WHITE = 0xFFFFFF;
 constexpr unsigned COUNTER = 0xC8C8C8;
-constexpr unsigned BAR_GROUND = 0x006464;
-constexpr unsigned MARK = 0x00FFFF; // also the lines round a bar that is held
-constexpr unsigned VALUE = 0x78FFFF;
+constexpr unsigned MARK = CYAN; // also the lines round a bar that is held
+constexpr unsigned VALUE = BOX_VALUE;
 constexpr unsigned NO_VALUE = 0x3C7878;
 constexpr Rect TITLE = {706, 73, 799, 124};
 constexpr int VALUE_RIGHT = 790;

@@ -1,5 +1,6 @@
 #include "a_ps.h"
 #include "a_ba.h"
+#include "colours.h"
 #include "command.h"
 #include "graphics.h"
 #include "log.h"
@@ -189,7 +190,7 @@ static int tally(const char* path, const char* value, uint32_t hash)
 static void draw_cell(int i)
 {
     constexpr unsigned CHOSEN_GROUND = 0x0B3A46;
-    constexpr unsigned CHOSEN_FRAME = 0x00DDD4;
+    constexpr unsigned CHOSEN_FRAME = TEAL;
     ps.cell[i].redraw = 0;
     const int x = LEFT + i % PS_COLUMNS * CELL_W;
     const int y = TOP + i / PS_COLUMNS * CELL_H;
@@ -197,11 +198,11 @@ static void draw_cell(int i)
     const int bottom = y + CELL_H - 2;
     const int number = LayerName[ps.layer].first + i;
     const bool is_chosen = number == ps.number;
-    TDL_FillRectS(x, y, right, bottom, is_chosen ? CHOSEN_GROUND : 0x000000);
+    TDL_FillRectS(x, y, right, bottom, is_chosen ? CHOSEN_GROUND : BLACK);
     TDL_PutS(x + 4, y + 3, ps.cell[i].picture);
     char text[16];
     PrintText(text, "%d", number);
-    TDL_SymbolS(x + 67, y + 21, text, 1, is_chosen ? 0xFFFFFF : 0xB4B4B4);
+    TDL_SymbolS(x + 67, y + 21, text, 1, is_chosen ? WHITE : 0xB4B4B4);
     if (is_chosen) {
         TDL_RectS(x, y, right, bottom, CHOSEN_FRAME);
         TDL_RectS(x + 1, y + 1, right - 1, bottom - 1, CHOSEN_FRAME);
@@ -213,7 +214,7 @@ static void draw_layer_key(int i)
     const int x = i % PS_COLUMNS * CELL_W;
     const int y = i / PS_COLUMNS * LAYER_H;
     TDL_PutS(x + LEFT, y + LAYER_TOP, i == ps.layer ? G_PSEL_on : G_PSEL_off);
-    TDL_SymbolS(x + LEFT + 10, y + LAYER_TOP + 10, LayerName[i].caption, 3, 0xFFFFFF);
+    TDL_SymbolS(x + LEFT + 10, y + LAYER_TOP + 10, LayerName[i].caption, 3, WHITE);
 }
 
 static void draw_all()
@@ -221,7 +222,7 @@ static void draw_all()
     constexpr int RIGHT = LEFT + PS_COLUMNS * CELL_W - 1;
     constexpr int BOTTOM = LAYER_TOP + PS_LAYERS / PS_COLUMNS * LAYER_H - 1;
     ps.redraw_all = false;
-    TDL_FillRectS(LEFT, TOP, RIGHT, BOTTOM, 0x000000);
+    TDL_FillRectS(LEFT, TOP, RIGHT, BOTTOM, BLACK);
     for (int i = 0; i < ps.cells; i++)
         draw_cell(i);
     for (int i = 0; i < ps.layers; i++)

@@ -2,6 +2,7 @@
 // a global one moves several channels as one. Each turns the target (the picture) or the source
 // (the viewer).
 #include "a_st_draw.h"
+#include "colours.h"
 #include "tdl.h"
 #include "text.h"
 #include <cstring>
@@ -10,10 +11,7 @@
 
 namespace
 {
-constexpr unsigned LABEL = 0x9FD8DC;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned FRAME = 0x4D4D4D;
-constexpr unsigned TITLE = 0x00DDD4;
+constexpr unsigned TITLE = TEAL;
 
 constexpr const char* axes[] = {"X", "Y", "Z"};
 constexpr int AXES = int(std::size(axes));
@@ -31,7 +29,7 @@ constexpr int TOP = 24;
 
 int st_drw_dmestatus_rect(int x1, int y1, int x2, int y2, const char* title)
 {
-    TDL_RectS(x1, y1, x2, y2, FRAME);
+    TDL_RectS(x1, y1, x2, y2, CELL_FRAME);
     return TDL_SymbolWS(x1 + 5, y1 + 4, x2 - x1 - 8, title, st_font(), TITLE);
 }
 

@@ -1,6 +1,7 @@
 // The shared parts of all status cells: frame, centre box, picture, lines, value list, veil.
 #include "a_st_draw.h"
 #include "a_dw.h"
+#include "colours.h"
 #include "global.h"
 #include "graphics.h"
 #include "page.h"
@@ -14,12 +15,7 @@
 
 namespace
 {
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned GREY = 0x808080;
-constexpr unsigned FRAME_LIT = 0xE48B1B;
-constexpr unsigned FRAME = 0x4D4D4D;
-constexpr unsigned LABEL = 0x9FD8DC;
+constexpr unsigned FRAME_LIT = ORANGE;
 constexpr unsigned EQUALS = 0x8A9498;
 
 constexpr int FONT = 3;
@@ -72,7 +68,7 @@ int st_drw_background_areaname(const ST_MEM* cell, int lit, const char* name)
 {
     TDL_RectS(cell->x1, cell->y1, cell->x2, cell->y2, BLACK);
     TDL_RectS(cell->x1 + 1, cell->y1 + 1, cell->x2 - 1, cell->y2 - 1, BLACK);
-    TDL_RectS(cell->x1 + 2, cell->y1 + 2, cell->x2 - 2, cell->y2 - 2, lit ? FRAME_LIT : FRAME);
+    TDL_RectS(cell->x1 + 2, cell->y1 + 2, cell->x2 - 2, cell->y2 - 2, lit ? FRAME_LIT : CELL_FRAME);
     TDL_FillRectS(cell->x1 + 3, cell->y1 + 3, cell->x2 - 3, cell->y2 - 3, st_ground(lit));
     TDL_SymbolWS(cell->x1 + 7, cell->y1 + 7, cell->x2 - cell->x1 - 10, name, FONT, WHITE);
     return 0;

@@ -1,6 +1,7 @@
 // The cells of global effects: what leaves each channel of an effects unit, and how the channels of
 // a group of four are combined.
 #include "a_st_draw.h"
+#include "colours.h"
 #include "graphics.h"
 #include "tdl.h"
 #include "text.h"
@@ -10,7 +11,6 @@
 
 namespace
 {
-constexpr unsigned WHITE = 0xFFFFFF;
 constexpr int CHANNELS = 4; // of a group
 
 // How channels are counted: each for itself, in pairs where one link cannot carry the picture, or

@@ -1,6 +1,7 @@
 // The cells of a bank: its transition, key priority and assignment, video process, and what a clip
 // transition shows.
 #include "a_st_draw.h"
+#include "colours.h"
 #include "command.h"
 #include "device.h"
 #include "global.h"
@@ -306,9 +307,9 @@ int st_drw_me_misc_cliptrans_clip(ST_MEM* cell)
 // 2 end, all in percent.
 int st_drw_me_misc_cliptrans_bar(ST_MEM* cell)
 {
-    constexpr unsigned TRACK = 0x006464;
-    constexpr unsigned RANGE = 0xE48B1B;
-    constexpr unsigned CURSOR = 0x00FFFF;
+    constexpr unsigned TRACK = BAR_GROUND;
+    constexpr unsigned RANGE = ORANGE;
+    constexpr unsigned CURSOR = CYAN;
     const ST_MEM* c = st_begin(cell, st_in_view(cell), "Clip Transition");
     if (!c)
         return -1;

@@ -2,6 +2,7 @@
 #include "a_ba.h"
 #include "a_bt.h"
 #include "a_nb.h"
+#include "colours.h"
 #include "device.h"
 #include "global.h"
 #include "graphics.h"
@@ -25,8 +26,8 @@ static_assert((AREA.y2 - TOP) / PITCH == VF_SLOTS - 1); // a press below the las
 constexpr int FACE_W = 91;
 constexpr int FACE_H = 63;
 
-constexpr unsigned MAIN_COLOR = 0x00DDD4;
-constexpr unsigned FURTHER_COLOR = 0xE48B1B;
+constexpr unsigned MAIN_COLOR = TEAL;
+constexpr unsigned FURTHER_COLOR = ORANGE;
 
 constexpr int SWR_WITHOUT_EDGE_3_4 = 256; // the keys 3 and 4 of this device have no edge page
 
@@ -207,7 +208,7 @@ static void draw(VF_MEM& t)
     const bool is_on = uint32_t(t.id) == Selected;
     TDL_PutS(LEFT, top, !t.display ? G_VF_blank : is_on ? G_VF_on : G_VF_off);
     if (t.display) {
-        TDL_SymbolS(11, top + 8, t.caption, 3, is_on ? 0x000000 : 0xFFFFFF);
+        TDL_SymbolS(11, top + 8, t.caption, 3, is_on ? BLACK : WHITE);
         draw_assign(t, top, is_on);
     }
     TDL_UpdateRect(LEFT, top, LEFT + FACE_W - 1, top + FACE_H - 1);

@@ -4,6 +4,7 @@
 #include "a_kp.h"
 #include "a_ls.h"
 #include "bus.h"
+#include "colours.h"
 #include "debug.h"
 #include "fmctrl3.h"
 #include "global.h"
@@ -282,7 +283,7 @@ static void loop_counter()
     char text[16];
     PrintText(text, "%u", unsigned(GL_MainCounter));
     TDL_FillRectS(730, 2, 799, 11, 0);
-    TDL_Symbol(730, 2, text, 0, 0xFFFFFF);
+    TDL_Symbol(730, 2, text, 0, WHITE);
 }
 
 // The schedule of the initial read runs on passes, not on time: a loop slowed by heavy repaints

@@ -2,6 +2,7 @@
 // failure there is fatal and prints a line, since the log and the screen may not be up.
 #include "a_kf.h"
 #include "bus.h"
+#include "colours.h"
 #include "config.h"
 #include "device.h"
 #include "fmctrl.h"
@@ -210,7 +211,7 @@ int main(int argc, char** argv)
     init();
     GetMenuDetailInfo();
     TDL_FillRect(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
-    TDL_Symbol(20, 20, "Initializing now...", 8, 0xFFFFFF);
+    TDL_Symbol(20, 20, "Initializing now...", 8, WHITE);
     start_log_versions();
     if (argc > 1)
         CopyText(GL_ServerAddress, argv[1]);

@@ -1,6 +1,9 @@
 // What panes look like: the two kinds of boxes, the faces of buttons, wells of text, the progress
 // bar.
+#include "box.h"
+#include "colours.h"
 #include "graphics.h"
+#include "indexed.h"
 #include "pane_private.h"
 #include "tdl.h"
 #include "text.h"
@@ -12,18 +15,10 @@
 
 namespace
 {
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned GREY = 0x808080;
-constexpr unsigned BOX = 0xE6E6E6;
 constexpr unsigned WELL = 0xF5F5F5;
 constexpr unsigned STRIP = 0xC3C3C3;
-constexpr unsigned GROUND = 0x2A2F32;
-constexpr unsigned BAR = 0x111416;
-constexpr unsigned TEAL = 0x00DDD4;
-constexpr unsigned LAMP_OFF = 0x505050;
-constexpr int SHADOW = 9;
-constexpr unsigned char SHADOW_ALPHA = 140;
+constexpr unsigned INDICATOR_OFF = 0x505050;
+constexpr int SHADOW_REACH = BOX_SHADOW + 1; // the shadow is a pixel larger than the pane
 
 // When a face is light, and its caption black.
 enum Light { NEVER = 0, WHEN_ON = 1, WHEN_PUSHED = 2, EITHER = WHEN_ON | WHEN_PUSHED };
@@ -81,14 +76,7 @@ constexpr Face faces[] = {
     {LOOK_LONG_ITEM, &G_PDl_p0o0, &G_PDl_p0o1, &G_PDl_p1o0, &G_PDl_p1o1, &G_PDl_dis, WHEN_ON, ITEM},
 };
 
-constexpr bool IndexedByLook()
-{
-    for (int i = 0; i < LOOK_COUNT; i++)
-        if (faces[i].look != i)
-            return false;
-    return std::size(faces) == LOOK_COUNT;
-}
-static_assert(IndexedByLook());
+static_assert(IndexedBy(faces, &Face::look, LOOK_COUNT));
 
 constexpr struct {
     SDL_Surface** up;
@@ -190,41 +178,19 @@ void button_draw(const PANE* pane, BUTTON* b)
 
 // --- Boxes ---
 
-// Two edge lines: light from the top left, dark at the bottom right.
-static void draw_edge(int x, int y, int w, int h, unsigned light, unsigned dark)
+static void draw_box(const PANE& p, const BoxLook& look)
 {
-    TDL_LineHS(x, y, w, light);
-    TDL_LineVS(x, y, h, light);
-    TDL_LineHS(x, y + h - 1, w, dark);
-    TDL_LineVS(x + w - 1, y, h, dark);
-}
-
-// Only what the box will not cover: blending is the dearest of all fills.
-static void draw_shadow(const PANE& p)
-{
-    const int right = p.x + p.w + SHADOW;
-    const int bottom = p.y + p.h + SHADOW;
-    TDL_FillRectAS(p.x + p.w, p.y + SHADOW, right, bottom, 0, SHADOW_ALPHA);
-    TDL_FillRectAS(p.x + SHADOW, p.y + p.h, p.x + p.w - 1, bottom, 0, SHADOW_ALPHA);
-}
-
-static void draw_box(const PANE& p, unsigned ground, unsigned light, unsigned light2, unsigned dark,
-                     unsigned dark2)
-{
-    draw_shadow(p);
-    TDL_FillRectS(p.x, p.y, p.x + p.w - 1, p.y + p.h - 1, ground);
-    draw_edge(p.x, p.y, p.w, p.h, light, dark);
-    draw_edge(p.x + 1, p.y + 1, p.w - 2, p.h - 2, light2, dark2);
+    Box_Draw({p.x, p.y, p.x + p.w - 1, p.y + p.h - 1}, look, SHADOW_REACH);
 }
 
 static void draw_dark_box(const PANE& p)
 {
-    draw_box(p, GROUND, 0xBEBEBE, 0x5C666B, 0x1E1E1E, 0x0F1112);
+    draw_box(p, BOX_DARK);
 }
 
 static void draw_light_box(const PANE& p)
 {
-    draw_box(p, BOX, 0xFFFFFF, 0xF0F0F0, 0x3C3C3C, 0x969696);
+    draw_box(p, BOX_LIGHT);
 }
 
 // --- Messages ---
@@ -254,7 +220,7 @@ static void draw_text_s(PANE* pane)
     const int y2 = pane->y + well.bottom;
     const SCROLLTEXT* text = pane_text(pane);
     TDL_FillRectS(x, y1, x + 306, y2, WELL);
-    draw_edge(x, y1, 341, y2 - y1 + 1, 0x969696, 0xFFFFFF);
+    Box_Edge({x, y1, x + 340, y2}, BOX_SUNK_EDGE, WHITE);
     const int height = well.lines * int(TDL_GetSymbolSize("", TEXT_FONT) >> 16);
     const int margin = (y2 - y1 - height) / 2;
     TDL_SymbolBS(x + 10, y1 + margin, TEXT_WIDTH, height + 1, text->mes, TEXT_FONT, BLACK,
@@ -302,25 +268,17 @@ static void draw_route_lamp(const PANE& p)
         return;
     const int x = p.x + 297;
     const int y = p.y + 97;
-    TDL_FillRectS(x, y, x + 11, y + 11, lamp == ROUTE_LAMP_DATA ? TEAL : LAMP_OFF);
-    draw_edge(x, y, 12, 12, 0x3C3C3C, WHITE);
+    Box_Sunk({x, y, x + 11, y + 11}, lamp == ROUTE_LAMP_DATA ? TEAL : INDICATOR_OFF, BOX_BAR_EDGE);
     TDL_SymbolS(x + 18, y - 1, "Data Port", 1, BLACK);
 }
 
 static void draw_progress_s(const PANE* pane)
 {
-    constexpr int INNER_W = 337;
     const int x = pane->x + 30;
     const int y = pane->y + 65;
     const auto& progress = pane->each.progress;
-    TDL_FillRectS(x, y, x + 340, y + 50, BOX);
-    TDL_FillRectS(x, y, x + 340, y + 22, BAR);
-    draw_edge(x, y, 341, 23, 0x3C3C3C, WHITE);
-    if (progress.prog > 0)
-        TDL_FillRectS(x + 2, y + 2, x + 1 + INNER_W * progress.prog / 100, y + 20, TEAL);
-    char percent[16];
-    PrintText(percent, "%d%%", progress.prog);
-    TDL_SymbolCS(x, y + 1, x + 340, y + 22, percent, 3, progress.prog >= 50 ? BLACK : WHITE);
+    TDL_FillRectS(x, y + 23, x + 340, y + 50, BOX_LIGHT.ground);
+    Box_Progress({x, y, x + 340, y + 22}, BOX_BAR_EDGE, progress.prog);
     TDL_SymbolWS(x, y + 31, 260, progress.progmes, TEXT_FONT, BLACK);
     draw_route_lamp(*pane);
 }
@@ -359,7 +317,7 @@ static void draw_region(PANE* p)
 static void draw_indicator_s(const PANE* p)
 {
     TDL_FillRectS(p->x + 1, p->y + 1, p->x + 30, p->y + 30,
-                  p->each.find.indicator ? TEAL : LAMP_OFF);
+                  p->each.find.indicator ? TEAL : INDICATOR_OFF);
 }
 
 void pane_draw_indicator(const PANE* p)
@@ -435,7 +393,7 @@ void pane_draw_inside(PANE* pane)
 {
     const int x2 = pane->x + pane->w - 3;
     const int y2 = pane->y + pane->h - 3;
-    TDL_FillRectS(pane->x + 2, pane->y + 2, x2, y2, GROUND);
+    TDL_FillRectS(pane->x + 2, pane->y + 2, x2, y2, BOX_DARK.ground);
     draw_page_number(pane);
     for (BUTTON* b = pane->button; b->id != BUTTON_END; b++)
         button_draw_s(pane, b);
@@ -453,5 +411,6 @@ void pane_draw_all(PANE* pane)
     pane->inside_redraw = 0;
     if (pane->type == TYPE_PROGRESS)
         pane->each.progress.prog_redraw = 0;
-    TDL_UpdateRect(pane->x, pane->y, pane->x + pane->w + SHADOW, pane->y + pane->h + SHADOW);
+    TDL_UpdateRect(pane->x, pane->y, pane->x + pane->w - 1 + SHADOW_REACH,
+                   pane->y + pane->h - 1 + SHADOW_REACH);
 }

@@ -2,6 +2,7 @@
 // says how the last one was answered.
 #include "a_nb.h"
 #include "a_pc.h"
+#include "colours.h"
 #include "global.h"
 #include "message.h"
 #include "page_table/gallery_shared.h"
@@ -50,7 +51,7 @@ static int draw_answer()
         return 0;
     layers.is_dirty = false;
     TDL_FillRectS(ANSWER.x1, ANSWER.y1, ANSWER.x2, ANSWER.y2, 0);
-    TDL_SymbolWS(ANSWER.x1, ANSWER.y1, ANSWER.x2 - ANSWER.x1, layers.answer, 4, 0xFFFFFF);
+    TDL_SymbolWS(ANSWER.x1, ANSWER.y1, ANSWER.x2 - ANSWER.x1, layers.answer, 4, WHITE);
     TDL_UpdateRect(ANSWER.x1, ANSWER.y1, ANSWER.x2, ANSWER.y2);
     return 0;
 }

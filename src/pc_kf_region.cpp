@@ -3,6 +3,7 @@
 #include "a_bt.h"
 #include "a_kf.h"
 #include "bus.h"
+#include "colours.h"
 #include "command.h"
 #include "device.h"
 #include "global.h"
@@ -43,12 +44,7 @@ constexpr int ID_NO_ASSIGN = 255;
 constexpr int BIN_ASK = 5;
 constexpr uint32_t BIN_SELECTION = 0x200AA;
 
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned GREY = 0x787878;
-constexpr unsigned GREEN = 0x00FF00;
-constexpr unsigned ORANGE = 0xE48B1B;
-constexpr unsigned RED = 0xFF0000;
-constexpr unsigned BLACK = 0x000000;
+constexpr unsigned UNAVAILABLE = 0x787878;
 constexpr int FONT_NUMBER = 2;
 constexpr int FONT_KEY = 1;
 constexpr int CAPTION_X = 8;
@@ -286,7 +282,7 @@ static const RegionKey& key_of_button(int button)
 static unsigned key_colour(const RegionKey& key, const regnametbl* shown)
 {
     if (is_grayout_region(shown->caption))
-        return GREY;
+        return UNAVAILABLE;
     if (is_reference(shown))
         return GREEN;
     return count_selected(key) > 0 ? ORANGE : WHITE;
@@ -310,7 +306,7 @@ static void draw_face(const RegionKey& key, int x, int y)
     if (!Button_Discord_check(key))
         return;
     for (int line = 0; line < 3; line++)
-        TDL_LineHS(x + CAPTION_X, y + 33 + line, 30, colour == GREY ? GREY : RED);
+        TDL_LineHS(x + CAPTION_X, y + 33 + line, 30, colour == UNAVAILABLE ? UNAVAILABLE : RED);
 }
 
 static void draw_key(int button)
@@ -344,7 +340,7 @@ static void draw_region(int button)
     const bool is_usable = can_use(region);
     TDL_PutS(r.x1, r.y1, !is_usable ? G_PSELm_dis : is_on ? G_PSELm_on : G_PSELm_off);
     TDL_SymbolS(r.x1 + CAPTION_X, r.y1 + CAPTION_Y, region->caption, FONT_KEY,
-                !is_usable ? GREY
+                !is_usable ? UNAVAILABLE
                 : is_on    ? BLACK
                            : WHITE);
 }

@@ -3,7 +3,6 @@
 #include "global.h"
 #include "page.h"
 #include "snapshot_region.h"
-#include "tdl.h"
 #include "text.h"
 #include <cstdarg>
 #include <cstdio>
@@ -59,14 +58,6 @@ void ME_Mirror(const char* format, ...)
     vsnprintf(line, sizeof line, format, ap);
     va_end(ap);
     SendDummyTally(line);
-}
-
-void ME_FitLine(char* text, int width_px)
-{
-    constexpr int CAPTION_FONT = 3;
-    for (size_t n = strlen(text); n > 0 && int(TDL_GetSymbolWidth(text, CAPTION_FONT)) > width_px;
-         n--)
-        text[n - 1] = '\0';
 }
 
 int ME_SnapshotRegion()

@@ -35,8 +35,7 @@ void ME_OpenPageOfKey(uint32_t id);
 // cut. Messages nest: finish your own state first.
 void ME_Mirror(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
-// Shorten a line of a caption until it is at most width_px wide, at the least to "".
-void ME_FitLine(char* text, int width_px);
+constexpr int ME_CAPTION_FONT = 3; // of a standard key, for texts that are cut to it
 
 // --- Regions of the wipe and DME wipe snapshots ---
 

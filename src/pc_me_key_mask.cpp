@@ -5,6 +5,7 @@
 #include "pc_me.h"
 #include "pc_me_key_lower.h"
 #include "tally_value.h"
+#include "tdl.h"
 #include "text.h"
 #include "window.h"
 #include "safeguards.h"
@@ -37,7 +38,7 @@ static void show_source(int bus, const char* name)
 {
     char shown[32];
     CopyText(shown, *name ? name : "Bus");
-    ME_FitLine(shown, NAME_PX);
+    (void)TDL_CutText(shown, sizeof shown, NAME_PX, "", ME_CAPTION_FONT); // "" always fits
     PrintText(Mask.Caption[bus], "Utility %d\n%s", bus + 1, shown);
     (void)BT_SetCaption(BTN_UTILITY[bus], Mask.Caption[bus]); // never null
 }

@@ -8,6 +8,7 @@
 #include "pc_me.h"
 #include "register.h"
 #include "tally_value.h"
+#include "tdl.h"
 #include "safeguards.h"
 
 #define LOCAL_SNAPSHOT "LOCAL@M/E@Snapshot@"
@@ -124,7 +125,7 @@ static void print_caption(int place)
         return;
     char name[16];
     CopyText(name, Snapshot.kind->name(Snapshot.region, index));
-    ME_FitLine(name, CAPTION_PX);
+    (void)TDL_CutText(name, sizeof name, CAPTION_PX, "", ME_CAPTION_FONT); // "" always fits
     const bool is_pattern = key.pattern != NO_PATTERN && pattern_in(name) == key.pattern;
     if (*name && !is_pattern) {
         AppendText(key.caption, "\n");

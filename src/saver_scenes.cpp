@@ -1,6 +1,7 @@
 // The patterns of the screen saver that are made of texts. Each is a function of the passes since
 // the saver started, so a scene has no state but the places that it has to clear again. Nothing
 // jumps and nothing flashes: texts come out of the dark at the edges and go back into it.
+#include "colours.h"
 #include "saver_private.h"
 #include "tdl.h"
 #include <algorithm>
@@ -417,7 +418,7 @@ static void blink(unsigned colour)
 
 void SScr_ptn_blink(int)
 {
-    blink(0xFFFFFF);
+    blink(WHITE);
 }
 
 void SScr_ptn_blink_2(int)
@@ -427,5 +428,5 @@ void SScr_ptn_blink_2(int)
 
 void SScr_ptn_blink_6000(int)
 {
-    blink(0xFFFFFF);
+    blink(WHITE);
 }

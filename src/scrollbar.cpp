@@ -1,5 +1,6 @@
 #include "scrollbar.h"
 #include "bus.h"
+#include "colours.h"
 #include "graphics.h"
 #include "message.h"
 #include "tdl.h"
@@ -15,7 +16,7 @@ constexpr int REPEAT_MS = 50;                // then a step each
 constexpr int SCALE = 256;                   // a position on the track, whatever its length
 constexpr int THUMB_MIN_PX = 15;             // less could not be seen, nor caught
 
-constexpr unsigned TRACK = 0x003241;
+constexpr unsigned TRACK = HEADER_GROUND;
 constexpr unsigned THUMB = 0x366372;
 constexpr unsigned THUMB_TOP = 0x648CA0;
 constexpr unsigned THUMB_BOTTOM = 0x001428;

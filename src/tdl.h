@@ -101,6 +101,9 @@ unsigned TDL_GetSymbolSize(const char* str, int font);  // height << 16 | width;
 unsigned TDL_GetSymbolWidth(const char* str, int font); // widest line; 1 for null
 // In cells as wide as "W", whose width goes to size.
 unsigned TDL_GetSymbolSize_PRO(const char* str, int font, int* size);
+// Leave of a text that is wider than width its longest head that fits with the tail, and append
+// that; size is the text's. -1 when not even the tail fits: it alone is left.
+int TDL_CutText(char* text, size_t size, int width, const char* tail, int font);
 int TDL_GetSymbolLine(int width, const char* str, int font); // lines of a block without limit
 // Line breaks that TDL_SymbolB passes; -1 for null.
 int TDL_linecheck(int x1, int y1, int x2, int y2, int width, int height, const char* str, int font,

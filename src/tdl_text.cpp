@@ -305,20 +305,6 @@ int TDL_SymbolP(int x, int y, int dw, const char* str, int font, unsigned col)
     return 0;
 }
 
-// The longest head of str that leaves room for add_str within the width; -1 when not even an empty
-// one does.
-static int head_that_fits(int width, const char* str, const char* add_str, int font)
-{
-    const int room = width - int(TDL_GetSymbolWidth(add_str, font));
-    char head[32];
-    for (int n = int(strlen(str)) - 1; n >= 0; n--) {
-        ktr_strncpy(head, str, size_t(n) + 1);
-        if (int(TDL_GetSymbolWidth(head, font)) <= room)
-            return n;
-    }
-    return -1;
-}
-
 int TDL_SymbolWAddS(int x, int y, int width, const char* str, const char* add_str, int font,
                     unsigned col)
 {
@@ -330,11 +316,9 @@ int TDL_SymbolWAddS(int x, int y, int width, const char* str, const char* add_st
     char joined[32];
     if (!add_str || strlen(str) + strlen(add_str) >= sizeof joined)
         return -1;
-    const int n = head_that_fits(width, str, add_str, font);
-    if (n < 0)
+    CopyText(joined, str);
+    if (TDL_CutText(joined, sizeof joined, width, add_str, font) != 0)
         return -1;
-    ktr_strncpy(joined, str, size_t(n) + 1);
-    AppendText(joined, add_str);
     return TDL_SymbolS(x, y, joined, font, col);
 }
 
@@ -470,6 +454,17 @@ unsigned TDL_GetSymbolSize_PRO(const char* str, int font, int* size)
     const Extent e = extent_of(str, font);
     *size = glyph_of(font, 'W').w;
     return packed_size(e.lines * font_height(font), e.most_chars * *size);
+}
+
+int TDL_CutText(char* text, size_t size, int width, const char* tail, int font)
+{
+    if (int(TDL_GetSymbolWidth(text, font)) <= width)
+        return 0;
+    const int room = width - int(TDL_GetSymbolWidth(tail, font));
+    for (size_t n = strlen(text); n > 0 && int(TDL_GetSymbolWidth(text, font)) > room; n--)
+        text[n - 1] = '\0';
+    ktr_strncat(text, tail, size);
+    return room < 0 ? -1 : 0;
 }
 
 int TDL_GetSymbolLine(int width, const char* str, int font)

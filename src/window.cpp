@@ -1,6 +1,9 @@
 #include "window.h"
+#include "box.h"
 #include "bus.h"
+#include "colours.h"
 #include "graphics.h"
+#include "indexed.h"
 #include "log.h"
 #include "message.h"
 #include "page.h"
@@ -16,10 +19,7 @@
 #include "safeguards.h"
 
 constexpr int PUSHED_MS = 150;
-constexpr int SHADOW = 9;
-constexpr unsigned char SHADOW_ALPHA = 140;
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
+constexpr int SHADOW = BOX_SHADOW; // the shadow is as large as the window
 // Redraw, press and release: a repaint of the page would go over the window.
 constexpr int WITHHELD = MSG_REDRAW | MSG_PRESS | MSG_RELEASE;
 constexpr Rect BOXES_COLUMN = {706, 73, 799, 545}; // of the number boxes
@@ -87,14 +87,7 @@ constexpr Face faces[] = {
     {LOOK_FAVORITE, nullptr, nullptr, 4},
 };
 
-constexpr bool IndexedByLook()
-{
-    for (int i = 0; i < LOOK_COUNT; i++)
-        if (faces[i].look != i)
-            return false;
-    return std::size(faces) == LOOK_COUNT;
-}
-static_assert(IndexedByLook());
+static_assert(IndexedBy(faces, &Face::look, LOOK_COUNT));
 } // namespace
 
 static bool is_lit(const WINOBJ& k)
@@ -207,37 +200,19 @@ WindowState window_end()
     return last;
 }
 
-static void draw_edge(int inset, unsigned light, unsigned dark)
+static void draw_frame(const BoxLook& look)
 {
-    const int x = win.WinX + inset;
-    const int y = win.WinY + inset;
-    const int w = win.w - 2 * inset;
-    const int h = win.h - 2 * inset;
-    TDL_LineHS(x, y, w, light);
-    TDL_LineVS(x, y, h, light);
-    TDL_LineHS(x, y + h - 1, w, dark);
-    TDL_LineVS(x + w - 1, y, h, dark);
-}
-
-static void draw_ground(unsigned ground)
-{
-    TDL_FillRectAS(win.WinX + SHADOW, win.WinY + SHADOW, win.WinX + win.w + SHADOW - 1,
-                   win.WinY + win.h + SHADOW - 1, 0, SHADOW_ALPHA);
-    TDL_FillRectS(win.WinX, win.WinY, win.WinX + win.w - 1, win.WinY + win.h - 1, ground);
+    Box_Draw({win.WinX, win.WinY, win.WinX + win.w - 1, win.WinY + win.h - 1}, look, SHADOW);
 }
 
 void window_dark_frame(unsigned ground)
 {
-    draw_ground(ground);
-    draw_edge(0, 0xBEBEBE, 0x0A0A0A);
-    draw_edge(1, 0x565E62, 0x000000);
+    draw_frame({ground, RAISED_LIGHT, 0x565E62, 0x0A0A0A, BLACK});
 }
 
 void window_light_frame()
 {
-    draw_ground(0xE6E6E6);
-    draw_edge(0, 0xFFFFFF, 0x3C3C3C);
-    draw_edge(1, 0xF0F0F0, 0x969696);
+    draw_frame(BOX_LIGHT);
 }
 
 void window_draw_well(Rect well)
@@ -246,8 +221,8 @@ void window_draw_well(Rect well)
     const int y1 = win.WinY + well.y1;
     const int x2 = win.WinX + well.x2;
     const int y2 = win.WinY + well.y2;
-    TDL_FillRectS(x1, y1, x2, y2, 0x003241);
-    TDL_RectS(x1, y1, x2, y2, 0x000000);
+    TDL_FillRectS(x1, y1, x2, y2, HEADER_GROUND);
+    TDL_RectS(x1, y1, x2, y2, BLACK);
     TDL_RectS(x1 + 1, y1 + 1, x2 - 1, y2 - 1, 0x00141E);
 }
 

@@ -1,6 +1,8 @@
 // Messages, progress, pull-downs and selections.
 #include "a_pc.h"
+#include "box.h"
 #include "bus.h"
+#include "colours.h"
 #include "command.h"
 #include "graphics.h"
 #include "message.h"
@@ -14,8 +16,6 @@
 #include <cstring>
 #include "safeguards.h"
 
-constexpr unsigned BLACK = 0x000000;
-constexpr unsigned WHITE = 0xFFFFFF;
 constexpr unsigned LIST_GROUND = 0x2A2F32;
 constexpr int CELLS_MAX = WINOBJ_MAX - 1;
 
@@ -30,39 +30,22 @@ static Rect message_well()
     return {30, win.Window == WINDOW_PROGRESS ? 100 : 65, 370, 235};
 }
 
-static void draw_sunk(Rect r, unsigned ground)
+static Rect on_screen(const Rect& r)
 {
-    const int x = win.WinX + r.x1;
-    const int y = win.WinY + r.y1;
-    const int w = r.x2 - r.x1 + 1;
-    const int h = r.y2 - r.y1 + 1;
-    TDL_FillRectS(x, y, x + w - 1, y + h - 1, ground);
-    TDL_LineHS(x, y, w, 0x969696);
-    TDL_LineVS(x, y, h, 0x969696);
-    TDL_LineHS(x, y + h - 1, w, WHITE);
-    TDL_LineVS(x + w - 1, y, h, WHITE);
+    return {win.WinX + r.x1, win.WinY + r.y1, win.WinX + r.x2, win.WinY + r.y2};
 }
 
 static void draw_message_s()
 {
     const Rect well = message_well();
-    draw_sunk(well, 0xF5F5F5);
+    Box_Sunk(on_screen(well), 0xF5F5F5, BOX_SUNK_EDGE);
     TDL_SymbolBS(win.WinX + well.x1 + 12, win.WinY + well.y1 + 12, well.x2 - well.x1 - 24,
                  well.y2 - well.y1 - 16, win.message, 4, BLACK, 0);
 }
 
 static void draw_progress_s()
 {
-    draw_sunk(BAR, 0x111416);
-    const int x = win.WinX + BAR.x1;
-    const int y = win.WinY + BAR.y1;
-    const int inner_w = BAR.x2 - BAR.x1 - 3;
-    if (win.percent > 0)
-        TDL_FillRectS(x + 2, y + 2, x + 1 + inner_w * win.percent / 100, y + 20, 0x00DDD4);
-    char percent[16];
-    PrintText(percent, "%d%%", win.percent);
-    TDL_SymbolCS(x, y + 1, win.WinX + BAR.x2, win.WinY + BAR.y2, percent, 3,
-                 win.percent >= 50 ? BLACK : WHITE);
+    Box_Progress(on_screen(BAR), BOX_SUNK_EDGE, win.percent);
 }
 
 static void mbox_open(const WindowArgs& args)

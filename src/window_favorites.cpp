@@ -1,4 +1,5 @@
 // The operator's own keys beside the page jump: five sets of 29, each in a file of its own.
+#include "colours.h"
 #include "global.h"
 #include "log.h"
 #include "page.h"
@@ -144,13 +145,13 @@ void pagejump_draw_user_key(const WINOBJ& key)
     const int x = win.WinX + key.x1;
     const int y = win.WinY + key.y1;
     const int p = key.pushed > 0 ? 1 : 0;
-    TDL_FillRectS(x, y, x + KEY_W - 1, y + KEY_H - 1, 0x000000);
+    TDL_FillRectS(x, y, x + KEY_W - 1, y + KEY_H - 1, BLACK);
     TDL_FillRectS(x + 1 + p, y + 1 + p, x + KEY_W - 2, y + KEY_H - 2,
                   rgb(colors[d.color_dt_boad].color));
     if (!d.page_id)
         TDL_FillRectAS(x + 1, y + 1, x + KEY_W - 2, y + KEY_H - 2, 0x1A1A1A, 160);
     if (!p)
-        TDL_FillRectAS(x + 1, y + KEY_H - 3, x + KEY_W - 2, y + KEY_H - 2, 0x000000, 110);
+        TDL_FillRectAS(x + 1, y + KEY_H - 3, x + KEY_W - 2, y + KEY_H - 2, BLACK, 110);
     TDL_SymbolBS(x + 6 + p, y + 4 + p, KEY_W - 8, KEY_H - 5, d.button_name, 4,
                  rgb(colors[d.color_dt_moji].color), 0);
 }

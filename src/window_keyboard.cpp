@@ -1,4 +1,5 @@
 // The keyboard: a name or another text, edited in place.
+#include "colours.h"
 #include "tdl.h"
 #include "text.h"
 #include "window_private.h"
@@ -12,7 +13,6 @@ constexpr int PITCH = 54;
 constexpr int LEFT = 12;
 constexpr int TOP = 91;
 constexpr Rect WELL = {12, 44, 709, 81};
-constexpr unsigned WHITE = 0xFFFFFF;
 
 namespace
 {
@@ -133,7 +133,7 @@ static void draw_text_s()
     CopyText(before, win.Input);
     before[win.InputPos] = '\0';
     const int cursor_x = x + (win.InputPos ? int(TDL_GetSymbolWidth(before, 8)) : 0);
-    TDL_FillRectS(cursor_x, y, cursor_x + 2, y + 18, 0x00FFFF);
+    TDL_FillRectS(cursor_x, y, cursor_x + 2, y + 18, CYAN);
 }
 
 static void kyb_draw()

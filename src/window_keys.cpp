@@ -1,5 +1,6 @@
 // The windows of ten keys: the value of a number box, hexadecimal numbers, banks, page numbers.
 #include "a_nb.h"
+#include "colours.h"
 #include "global.h"
 #include "page.h"
 #include "tdl.h"
@@ -15,8 +16,7 @@
 
 constexpr int COLUMNS = 11; // of the entry, right-aligned
 constexpr unsigned GROUND = 0x1A1A1A;
-constexpr unsigned WHITE = 0xFFFFFF;
-constexpr unsigned SHOWN = 0x78FFFF; // the value before the first key
+constexpr unsigned SHOWN = BOX_VALUE; // the value before the first key
 constexpr int DIGIT_DX = 54;
 constexpr int DIGIT_DY = 59;
 
@@ -178,7 +178,7 @@ static void draw_entry_s()
     const int y = win.WinY + well.y1 + 11;
     TDL_SymbolS(x2 - 12 - int(TDL_GetSymbolWidth(text, 8)), y, text, 8,
                 win.FirstInput ? SHOWN : WHITE);
-    TDL_FillRectS(x2 - 9, y, x2 - 7, y + 18, 0x00FFFF);
+    TDL_FillRectS(x2 - 9, y, x2 - 7, y + 18, CYAN);
 }
 
 static void draw_limits_s()
@@ -214,7 +214,7 @@ static void draw_tree()
     TDL_FillRectS(x, y, x + 209, y + LINE * LINES - 1, GROUND);
     const PAGE* page = is_empty(win) ? nullptr : SearchPageTable(entered_page(win));
     for (int i = 0; page && i < LINES && page->tree[i]; i++)
-        TDL_SymbolWS(x, y + LINE * i, 209, page->tree[i], 4, i == 0 ? 0x00DDD4 : 0xE48B1B);
+        TDL_SymbolWS(x, y + LINE * i, 209, page->tree[i], 4, i == 0 ? TEAL : ORANGE);
     TDL_UpdateRect(x, y, x + 209, y + LINE * LINES - 1);
 }
 

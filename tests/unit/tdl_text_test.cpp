@@ -1,5 +1,6 @@
 #include "tdl.h"
 #include "tdl_fixture.h"
+#include "text.h"
 #include <cstring>
 #include <gtest/gtest.h>
 #include <string>
@@ -168,4 +169,35 @@ TEST(DrawnText, Measures)
         EXPECT_EQ(TDL_linecheck(0, 0, 9, 9, 13, 999, c.text, 1, WHITE, 0), c.wrapped_at_13 - 1);
     }
     EXPECT_EQ(Painted(), 0);
+}
+
+TEST(DrawnText, ATextIsCutToItsLongestHeadWithTheTail)
+{
+    static const struct {
+        const char* text;
+        int width;
+        const char* tail;
+        int result;
+        const char* left;
+    } cases[] = {
+        {"abc", 18, "..", 0, "abc"},
+        {"abcd", 23, "..", 0, "a.."},
+        {"abcd", 24, "..", 0, "abcd"},
+        {"abcd", 12, "..", 0, ".."},
+        {"abcd", 11, "..", -1, ".."},
+        {"abcd", 17, "", 0, "ab"},
+        {"abcd", 0, "", 0, ""},
+        {"an operator may give a name of more than thirty characters", 200, "..", 0,
+         "an operator may give a name of m.."},
+    };
+    const TestDisplay display;
+    for (const auto& c : cases) {
+        char text[64];
+        ktr_strncpy(text, c.text, sizeof text);
+        EXPECT_EQ(TDL_CutText(text, sizeof text, c.width, c.tail, 1), c.result) << c.text;
+        EXPECT_STREQ(text, c.left) << c.width;
+    }
+    char full[5] = "abcd";
+    (void)TDL_CutText(full, sizeof full, 23, "......", 1);
+    EXPECT_LT(strlen(full), sizeof full);
 }
