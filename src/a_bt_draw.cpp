@@ -55,9 +55,8 @@ constexpr Faces toggle_faces(int type)
             .font = 3};
 }
 
-// Indexed by type.
-constexpr Faces faces_by_type[] = {
-    toggle_faces(0),
+// From BT_TOGGLE on.
+constexpr Faces faces[] = {
     toggle_faces(BT_TOGGLE),
     toggle_faces(BT_RADIO),
     toggle_faces(BT_RADIO_RELEASE),
@@ -112,7 +111,13 @@ constexpr Faces faces_by_type[] = {
     jump_faces(BT_NEW, &G_JMP_New_dis, &G_JMP_New_p0, &G_JMP_New_p1),
 };
 
-static_assert(IndexedBy(faces_by_type, &Faces::type, BT_NEW + 1));
+static_assert(IndexedBy(faces, &Faces::type, BT_NEW, BT_TOGGLE));
+
+// A type that there isn't looks like a toggle: what can be pressed must be seen.
+constexpr const Faces& faces_by_type(int type)
+{
+    return faces[type >= BT_TOGGLE && type <= BT_NEW ? type - BT_TOGGLE : 0];
+}
 
 // Buttons with knobs: without and with the ownership. There is no third bitmap; the third state
 // looks on.
@@ -163,12 +168,12 @@ static Look look_of(const BT_MEM* b)
 
 static const Faces& faces_of(const BT_MEM* b)
 {
-    const int type = b->type >= BT_TOGGLE && b->type <= BT_NEW ? b->type : BT_TOGGLE;
-    if (type <= BT_RADIO_RELEASE && b->nb)
+    const Faces& own = faces_by_type(b->type);
+    if (own.type <= BT_RADIO_RELEASE && b->nb)
         return with_knobs[bt_owns_knobs(b)];
-    if (type == BT_KNOB_ONLY && bt_owns_knobs(b))
+    if (own.type == BT_KNOB_ONLY && bt_owns_knobs(b))
         return knob_only_owner;
-    return faces_by_type[type];
+    return own;
 }
 
 static unsigned state_colour(const BT_MEM* b)
@@ -178,23 +183,23 @@ static unsigned state_colour(const BT_MEM* b)
     return b->visible != BT_ENABLED ? GREY : WHITE;
 }
 
-static Chosen choose(const BT_MEM* b, const Faces& faces)
+static Chosen choose(const BT_MEM* b, const Faces& of)
 {
     const Look look = look_of(b);
-    Chosen c{.top = faces.top, .font = faces.font};
+    Chosen c{.top = of.top, .font = of.font};
     unsigned col;
     if (b->visible != BT_ENABLED) {
-        c.bitmap = *faces.dis[look];
-        col = faces.col_dis;
+        c.bitmap = *of.dis[look];
+        col = of.col_dis;
     } else if (b->pushed) {
-        c.bitmap = *faces.down[look];
-        col = faces.col_down;
+        c.bitmap = *of.down[look];
+        col = of.col_down;
     } else {
-        c.bitmap = *faces.up[look];
-        col = faces.col_up;
+        c.bitmap = *of.up[look];
+        col = of.col_up;
     }
     c.col = col == AS_STATE ? state_colour(b) : col;
-    if (faces.type == BT_PULLDOWN && b->visible == BT_ENABLED && b->caption &&
+    if (of.type == BT_PULLDOWN && b->visible == BT_ENABLED && b->caption &&
         strcmp(b->caption, "Register") == 0)
         c.col = ORANGE;
     return c;
@@ -367,7 +372,7 @@ int bt_drw_normal(BT_MEM* b)
 
 int bt_drw_normal_nextver(BT_MEM* b)
 {
-    if (GL_NextVersion < 2)
+    if (GL_NextVersion < 2 && b->visible != BT_CUTOFF)
         b->visible = BT_DISABLED;
     return bt_drw_normal(b);
 }
@@ -376,7 +381,7 @@ int bt_drw_tab(BT_MEM* b)
 {
     if (erased(b))
         return 0;
-    TDL_PutS(b->x1, b->y1, choose(b, faces_by_type[BT_TAB]).bitmap);
+    TDL_PutS(b->x1, b->y1, choose(b, faces_by_type(BT_TAB)).bitmap);
     const int p = pushed_by(b);
     TDL_SymbolWS(b->x1 + 10 + p, b->y1 + 10 + p, 83, b->caption, 4, WHITE);
     return finish(b);
@@ -386,7 +391,7 @@ int bt_drw_sbus_remote(BT_MEM* b)
 {
     if (erased(b))
         return 0;
-    draw_face(b, choose(b, faces_by_type[BT_TOGGLE]));
+    draw_face(b, choose(b, faces_by_type(BT_TOGGLE)));
     draw_undecided(b);
     return finish(b);
 }
@@ -395,7 +400,7 @@ int bt_drw_keypriority(BT_MEM* b)
 {
     if (erased(b))
         return 0;
-    const Chosen c = choose(b, faces_by_type[BT_TOGGLE]);
+    const Chosen c = choose(b, faces_by_type(BT_TOGGLE));
     char caption[64];
     CopyText(caption, b->caption);
     const bool keys_of_program =
@@ -437,7 +442,7 @@ int bt_drw_normal_light(BT_MEM* b)
 {
     if (erased(b))
         return 0;
-    draw_face(b, choose(b, faces_by_type[BT_JUMP]));
+    draw_face(b, choose(b, faces_by_type(BT_JUMP)));
     if (light_is_active(b)) {
         TDL_LineHS(b->x1 + 5, b->y1 + 54, 75, ORANGE);
         TDL_LineHS(b->x1 + 5, b->y1 + 55, 75, ORANGE_DARK);
@@ -461,7 +466,7 @@ int bt_drw_color_select(BT_MEM* b)
         return 0;
     const int color = get_now_btn_color(b->id);
     const bool none = color < 0 || color >= COLOR_NONE;
-    Chosen c = choose(b, faces_by_type[none ? BT_ACTION : BT_JUMP]);
+    Chosen c = choose(b, faces_by_type(none ? BT_ACTION : BT_JUMP));
     if (!none && b->visible == BT_ENABLED)
         c.bitmap = *color_faces[color][pushed_by(b)];
     draw_face(b, c);
@@ -501,7 +506,7 @@ template <size_t N> static int draw_transport(BT_MEM* b, const TransportIcon (&i
 {
     if (erased(b))
         return 0;
-    draw_face(b, choose(b, faces_by_type[b->type == BT_ACTION ? BT_ACTION : BT_ACTION_STATE]));
+    draw_face(b, choose(b, faces_by_type(b->type == BT_ACTION ? BT_ACTION : BT_ACTION_STATE)));
     const int p = pushed_by(b);
     for (const TransportIcon& t : icons) {
         if (t.id != b->id)

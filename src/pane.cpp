@@ -7,6 +7,7 @@
 #include "saver.h"
 #include "tdl.h"
 #include "window.h"
+#include <algorithm>
 #include <climits>
 
 #include "safeguards.h"
@@ -16,9 +17,15 @@ constexpr int REPEAT_FIRST_MS = 300; // a held arrow
 constexpr int REPEAT_MS = 50;
 
 static PANE* PaneRoot = nullptr; // the lowest pane
+static bool GroundSaved = false; // what all panes stand on is in the screen save
 int PaneID = 0;
 
 // --- The stack ---
+
+PANE* pane_bottom()
+{
+    return PaneRoot;
+}
 
 PANE* pane_top()
 {
@@ -77,8 +84,6 @@ PANE* pane_create(TYPE type, const char* caption, const Rect& place, int button_
         Log_Output(LOG_ALWAYS, MOD_GLOBAL, "No memory for a pane: %s", caption);
         return nullptr;
     }
-    if (!PaneRoot)
-        TDL_PushScreen(97, 73, 702, 526);
     PaneID = PaneID == INT_MAX ? 1 : PaneID + 1;
     pane->id = PaneID;
     pane->type = type;
@@ -105,7 +110,59 @@ BUTTON* pane_add(PANE* pane, const BUTTON& row)
     return b;
 }
 
-static void pane_delete(int id)
+static bool is_arrow(const BUTTON& b)
+{
+    return b.type == LOOK_UP || b.type == LOOK_DOWN;
+}
+
+// Also below the top: a pane that opened under the finger must not leave an arrow running.
+static void release_arrows()
+{
+    for (PANE* pane = PaneRoot; pane; pane = pane->next) {
+        for (BUTTON* b = pane->button; b->id != BUTTON_END; b++) {
+            if (!is_arrow(*b) || b->pushed == 0)
+                continue;
+            b->pushed = 0;
+            b->redraw = 1;
+        }
+    }
+}
+
+// --- The ground ---
+
+// From the corner of the work area; the screen cuts it.
+constexpr Rect GROUND = {97, 73, 97 + 702 - 1, 73 + 526 - 1};
+
+static void save_ground(const Rect& r)
+{
+    TDL_PushScreen(r.x1, r.y1, r.x2 - r.x1 + 1, r.y2 - r.y1 + 1);
+    GroundSaved = true;
+}
+
+// A pane may open in the midst of a repaint, with objects of the page yet to be painted in the same
+// pass. So the ground is saved when the first pane is painted, and not when it opens.
+static void paint_all()
+{
+    if (PaneRoot && !GroundSaved)
+        save_ground(GROUND);
+    for (PANE* pane = PaneRoot; pane; pane = pane->next)
+        pane_draw_all(pane);
+}
+
+// All panes anew on the ground that was saved.
+static void repaint_all()
+{
+    TDL_PopScreen();
+    paint_all();
+}
+
+void Pane_RedrawAll()
+{
+    paint_all();
+    Window_RedrawAll();
+}
+
+static void unlink_pane(int id)
 {
     for (PANE** at = &PaneRoot; *at; at = &(*at)->next) {
         if ((*at)->id != id)
@@ -113,16 +170,36 @@ static void pane_delete(int id)
         PANE* pane = *at;
         *at = pane->next;
         pane_free(pane);
-        break;
+        return;
     }
-    TDL_PopScreen();
-    Pane_RedrawAll();
 }
 
-void Pane_RedrawAll()
+static void pane_delete(int id)
 {
-    for (PANE* pane = PaneRoot; pane; pane = pane->next)
-        pane_draw_all(pane);
+    unlink_pane(id);
+    if (!GroundSaved)
+        return; // none of them has been painted yet
+    repaint_all();
+    if (!PaneRoot)
+        GroundSaved = false;
+    Window_RedrawAll();
+}
+
+void Pane_WindowOpens(const Rect& box)
+{
+    release_arrows(); // the window takes the release
+    if (GroundSaved)
+        TDL_PopScreen();
+    save_ground({std::min(box.x1, GROUND.x1), std::min(box.y1, GROUND.y1),
+                 std::max(box.x2, GROUND.x2), std::max(box.y2, GROUND.y2)});
+    paint_all();
+}
+
+void Pane_WindowCloses()
+{
+    TDL_PopScreen();
+    save_ground(GROUND);
+    paint_all();
 }
 
 // --- The end of a pane ---
@@ -133,7 +210,7 @@ static void pane_quit(PANE* pane)
     const bool is_told = pane->quitmem != QUIT_BY_CODE;
     const int result = pane_result(pane);
     const int type = pane->type;
-    pane_free_text(pane);
+    pane_release(pane);
     pane_delete(id);
     if (type == TYPE_FRAME)
         frame_closed();
@@ -147,6 +224,12 @@ static PANE* pane_about_to_quit()
         if (pane->quitmem != 0)
             return pane;
     return nullptr;
+}
+
+static void quit_panes()
+{
+    while (PANE* pane = pane_about_to_quit())
+        pane_quit(pane);
 }
 
 int Pane_Quit(int id)
@@ -181,11 +264,6 @@ int Pane_Exist(int id)
 
 // --- Press and release ---
 
-static bool is_arrow(const BUTTON& b)
-{
-    return b.type == LOOK_UP || b.type == LOOK_DOWN;
-}
-
 static bool is_radio(const BUTTON& b)
 {
     return b.type == LOOK_POPUP || b.type == LOOK_FMOUT;
@@ -195,7 +273,7 @@ bool pane_has_input(const PANE* pane, const BUTTON& b)
 {
     if (b.hidden)
         return false;
-    const int page_size = pane_page_size(pane);
+    const int page_size = pane_kind(pane).page_size;
     if (page_size == 0 || b.id >= BTN_CANCEL)
         return true;
     return int(&b - pane->button) / page_size == pane->each.directory.now_page;
@@ -241,25 +319,15 @@ static int pane_press(PANE* pane, int x, int y)
 {
     if (pane->type == TYPE_FIND && pane->each.find.indicator)
         return 1; // it is searching
-    BUTTON* b = button_at(pane, x - pane->x, y - pane->y);
+    if (pane->quitmem != 0)
+        return 1; // it is answered
+    x -= pane->x;
+    y -= pane->y;
+    BUTTON* b = button_at(pane, x, y);
     if (!b)
-        pane_press_beside(pane);
+        pane_press_beside(pane, !Inside({0, 0, pane->w - 1, pane->h - 1}, x, y));
     else if (!b->disable)
         press_button(pane, b);
-    return 1;
-}
-
-// Also below the top: a pane that opened under the finger must not leave an arrow running.
-static int pane_release()
-{
-    for (PANE* pane = PaneRoot; pane; pane = pane->next) {
-        for (BUTTON* b = pane->button; b->id != BUTTON_END; b++) {
-            if (!is_arrow(*b) || b->pushed == 0)
-                continue;
-            b->pushed = 0;
-            b->redraw = 1;
-        }
-    }
     return 1;
 }
 
@@ -300,8 +368,10 @@ static void run_buttons(int pane_id, int elapsed_ms)
             continue;
         end_push(pane, b);
         pane = pane_find(pane_id);
-        if (pane != pane_top())
-            return; // the rest waits until the pane that has opened is answered
+        if (pane != pane_top() || GetWindow() != WINDOW_NONE)
+            return; // the rest waits until what has opened is answered
+        if (pane && pane->quitmem != 0)
+            return; // the first answer counts
     }
 }
 
@@ -318,8 +388,7 @@ static bool repaint_covered(const PANE* top)
     for (const PANE* pane = PaneRoot; pane != top; pane = pane->next) {
         if (!is_stale(pane))
             continue;
-        TDL_PopScreen();
-        Pane_RedrawAll();
+        repaint_all();
         return true;
     }
     return false;
@@ -327,6 +396,10 @@ static bool repaint_covered(const PANE* top)
 
 static void repaint(PANE* top)
 {
+    if (!GroundSaved) {
+        paint_all();
+        return;
+    }
     if (repaint_covered(top))
         return;
     if (top->redraw) {
@@ -350,9 +423,32 @@ static int pane_redraw(PANE* top, int elapsed_ms, MsgArg bx, MsgArg cx, MsgArg d
     repaint(top);
     run_buttons(id, elapsed_ms);
     SendMessage(MSG_PANETICK, elapsed_ms, bx, cx, dx);
-    while (PANE* pane = pane_about_to_quit())
-        pane_quit(pane);
+    quit_panes();
     return 1;
+}
+
+// A window stands above: it paints and takes the input. What waits for an answer from a pane waits
+// on, but code may close one, and the page goes on ticking.
+static int pane_under_window(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
+{
+    if (msg != MSG_REDRAW)
+        return 0;
+    SendMessage(MSG_PANETICK, ax, bx, cx, dx);
+    quit_panes();
+    return 0;
+}
+
+static bool is_input(int msg)
+{
+    switch (msg) {
+    case MSG_PRESS:
+    case MSG_RELEASE:
+    case MSG_DRAG:
+    case MSG_KEY:
+    case MSG_WHEELUP:
+    case MSG_WHEELDOWN: return true;
+    default: return false;
+    }
 }
 
 int PaneProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
@@ -360,14 +456,17 @@ int PaneProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
     PANE* top = pane_top();
     if (!top)
         return 0;
+    if (GetWindow() != WINDOW_NONE && (msg == MSG_REDRAW || is_input(msg)))
+        return pane_under_window(msg, ax, bx, cx, dx);
     switch (msg) {
     case MSG_REDRAW: return pane_redraw(top, int(ax), bx, cx, dx);
     case MSG_PRESS: return pane_press(top, int(ax), int(bx));
-    case MSG_RELEASE: return pane_release();
+    case MSG_RELEASE: release_arrows(); return 1;
     case MSG_DRAG:
     case MSG_KEY:
     case MSG_WHEELUP:
     case MSG_WHEELDOWN: return 1;
+    // Only the top pane sends it: a pane that is covered runs no buttons.
     case LMSG_PANEBTNSEL: pane_select(top, int(ax)); return 0;
     default:
         if (pane_find_type(TYPE_FRAME))

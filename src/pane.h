@@ -87,7 +87,11 @@ int Pane_Quit(int id);        // close now, without a result message; -1 unknown
 int Pane_SetQuitFlag(int id); // the same at the next repaint
 int Pane_GetActiveID();       // the pane on top, 0 none
 int Pane_Exist(int id);       // 1 or 0
-void Pane_RedrawAll();
+void Pane_RedrawAll();        // with the window above them, if there is one
+// For a window that opens above panes: box is what it will cover, its shadow included. There is one
+// screen save, so theirs holds the ground of both, and they are painted anew when it has gone.
+void Pane_WindowOpens(const Rect& box);
+void Pane_WindowCloses();
 // Offered every message first; non-zero consumes it.
 int PaneProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 

@@ -195,43 +195,31 @@ static void draw_light_box(const PANE& p)
 
 // --- Messages ---
 
-namespace
+// The text well of a light box, relative to its corner.
+static Rect well_of(const PANE* pane)
 {
-// The text well of a light box, from its corner.
-struct Well {
-    int top;
-    int bottom;
-    int lines; // in view
-};
-} // namespace
-
-static Well well_of(const PANE* pane)
-{
-    if (pane->type == TYPE_PROGRESS)
-        return {120, 235, PROGRESS_LINES};
-    return {65, 235, TEXT_LINES};
+    return {30, pane->type == TYPE_PROGRESS ? 120 : 65, 370, 235};
 }
 
 static void draw_text_s(PANE* pane)
 {
-    const Well well = well_of(pane);
-    const int x = pane->x + 30;
-    const int y1 = pane->y + well.top;
-    const int y2 = pane->y + well.bottom;
-    const SCROLLTEXT* text = pane_text(pane);
+    const Rect well = well_of(pane);
+    const int x = pane->x + well.x1;
+    const int y1 = pane->y + well.y1;
+    const int y2 = pane->y + well.y2;
     TDL_FillRectS(x, y1, x + 306, y2, WELL);
     Box_Edge({x, y1, x + 340, y2}, BOX_SUNK_EDGE, WHITE);
-    const int height = well.lines * int(TDL_GetSymbolSize("", TEXT_FONT) >> 16);
+    const int height = pane_kind(pane).lines * int(TDL_GetSymbolSize("", TEXT_FONT) >> 16);
     const int margin = (y2 - y1 - height) / 2;
-    TDL_SymbolBS(x + 10, y1 + margin, TEXT_WIDTH, height + 1, text->mes, TEXT_FONT, BLACK,
-                 text->topline);
+    TDL_SymbolBS(x + 10, y1 + margin, TEXT_WIDTH, height + 1, pane_text_in_view(pane), TEXT_FONT,
+                 BLACK, 0);
 }
 
 void pane_draw_text(PANE* pane)
 {
     draw_text_s(pane);
-    const Well well = well_of(pane);
-    TDL_UpdateRect(pane->x + 30, pane->y + well.top, pane->x + 370, pane->y + well.bottom);
+    const Rect well = well_of(pane);
+    TDL_UpdateRect(pane->x + well.x1, pane->y + well.y1, pane->x + well.x2, pane->y + well.y2);
 }
 
 static SDL_Surface* icon_of(int icon)
@@ -246,11 +234,11 @@ static SDL_Surface* icon_of(int icon)
 static void draw_message_frame(const PANE& p)
 {
     draw_light_box(p);
-    const Well well = well_of(&p);
-    TDL_FillRectS(p.x + 337, p.y + well.top, p.x + 370, p.y + well.bottom, STRIP);
+    const Rect well = well_of(&p);
+    TDL_FillRectS(p.x + 337, p.y + well.y1, p.x + well.x2, p.y + well.y2, STRIP);
 }
 
-static void draw_message(PANE* p)
+void pane_draw_message(PANE* p)
 {
     draw_message_frame(*p);
     TDL_PutS(p->x + 15, p->y + 15, icon_of(p->each.message.icon));
@@ -289,7 +277,7 @@ void pane_draw_progress(const PANE* pane)
     TDL_UpdateRect(pane->x + 30, pane->y + 65, pane->x + 370, pane->y + 115);
 }
 
-static void draw_progress_pane(PANE* p)
+void pane_draw_progress_box(PANE* p)
 {
     draw_message_frame(*p);
     TDL_SymbolWS(p->x + 30, p->y + 20, p->w - 46, p->caption, 8, BLACK);
@@ -299,13 +287,13 @@ static void draw_progress_pane(PANE* p)
 
 // --- The dark panes ---
 
-static void draw_grid(PANE* p)
+void pane_draw_grid(PANE* p)
 {
     draw_dark_box(*p);
 }
 
 // The names of the classes stand in the margin beside their rows of units.
-static void draw_region(PANE* p)
+void pane_draw_region(PANE* p)
 {
     draw_dark_box(*p);
     if (!region_has_margin(p))
@@ -326,7 +314,7 @@ void pane_draw_indicator(const PANE* p)
     TDL_UpdateRect(p->x + 1, p->y + 1, p->x + 30, p->y + 30);
 }
 
-static void draw_find(PANE* p)
+void pane_draw_find(PANE* p)
 {
     draw_dark_box(*p);
     draw_indicator_s(p);
@@ -336,7 +324,7 @@ static void draw_find(PANE* p)
 
 static void draw_page_number(const PANE* p)
 {
-    if (pane_page_size(p) == 0 || p->each.directory.all_page < 2)
+    if (pane_kind(p).page_size == 0 || p->each.directory.all_page < 2)
         return;
     const auto& directory = p->each.directory;
     char number[24];
@@ -345,49 +333,17 @@ static void draw_page_number(const PANE* p)
                  WHITE);
 }
 
-static void draw_directory(PANE* p)
+void pane_draw_directory(PANE* p)
 {
     draw_dark_box(*p);
     draw_page_number(p);
 }
 
-static void draw_run_control(PANE* p)
+void pane_draw_run_control(PANE* p)
 {
     draw_dark_box(*p);
     TDL_SymbolS(p->x + 18, p->y + 13, p->caption, 8, WHITE);
 }
-
-namespace
-{
-constexpr struct {
-    TYPE type;
-    void (*draw)(PANE*);
-} kinds[] = {
-    {TYPE_MESSAGE, draw_message},
-    {TYPE_YESNO, draw_message},
-    {TYPE_PROGRESS, draw_progress_pane},
-    {TYPE_PULLDOWN, draw_grid},
-    {TYPE_SELECT, draw_grid},
-    {TYPE_REGION, draw_region},
-    {TYPE_RTRLVL, draw_grid},
-    {TYPE_POPUP, draw_grid},
-    {TYPE_FIND, draw_find},
-    {TYPE_COLOR, draw_grid},
-    {TYPE_FRAME, draw_run_control},
-    {TYPE_DIRECTORY, draw_directory},
-    {TYPE_FMOUT, draw_grid},
-    {TYPE_FMFOLDER, draw_directory},
-};
-
-constexpr bool IndexedByType()
-{
-    for (int i = 0; i < TYPE_COUNT; i++)
-        if (kinds[i].type != i)
-            return false;
-    return std::size(kinds) == TYPE_COUNT;
-}
-static_assert(IndexedByType());
-} // namespace
 
 void pane_draw_inside(PANE* pane)
 {
@@ -403,7 +359,7 @@ void pane_draw_inside(PANE* pane)
 
 void pane_draw_all(PANE* pane)
 {
-    kinds[pane->type].draw(pane);
+    pane_kind(pane).draw(pane);
     for (BUTTON* b = pane->button; b->id != BUTTON_END; b++)
         button_draw_s(pane, b);
     pane->redraw = 0;

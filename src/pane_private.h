@@ -1,7 +1,8 @@
 // pane_private: what the files of the pane module share. pane owns the stack, the input and the end
-// of a pane; pane_draw paints boxes and buttons; pane_types opens the dialogs and says what their
-// buttons do; pane_region has the region selector over the tables of pane_region_tables;
-// pane_restore keeps progress beyond a pane; pane_keyframe is the run control of the timelines.
+// of a pane; pane_types has a row for each type; pane_draw paints boxes and buttons; pane_message,
+// pane_choice, pane_directory and pane_find open the dialogs and say what their buttons do;
+// pane_region has the region selector over the tables of pane_region_tables; pane_restore keeps
+// progress beyond a pane; pane_keyframe is the run control of the timelines.
 #pragma once
 #include "pane.h"
 #include "types.h"
@@ -26,7 +27,7 @@ enum TYPE : int {
 };
 
 // The look of a button says also how it answers a press.
-enum LOOK : int {
+enum PANELOOK : int {
     LOOK_KEY = 0,
     LOOK_UP = 1, // scroll arrows act at once and repeat while they are held
     LOOK_DOWN = 2,
@@ -83,11 +84,21 @@ struct BUTTON {
     int redraw = 0;
 };
 
-// A text that scrolls. line counts the empty line behind the text's last break, too.
+// A text that is appended to, at a cost that does not grow with what is there. All zero is empty.
+struct GROWTEXT {
+    char* mes; // owned; null while empty
+    size_t length;
+    size_t room; // bytes that mes has
+};
+
+// A text that scrolls. Where its lines start is kept, so that neither an append nor a repaint walks
+// what lies before.
 struct SCROLLTEXT {
-    char* mes; // owned
+    GROWTEXT grown;
+    size_t* start; // of each line, the empty one behind the last break included; owned
+    int starts;
+    size_t start_room;
     int topline;
-    int line;
 };
 
 // Lies in allocated memory: all bits zero is the start state of every field.
@@ -149,7 +160,31 @@ BUTTON* pane_add(PANE* pane, const BUTTON& row); // the row's id, caption, look,
 PANE* pane_find(int id);
 PANE* pane_find_type(TYPE type); // the topmost of that type
 PANE* pane_top();
+PANE* pane_bottom(); // the first of the list; null when there is none
 bool pane_has_input(const PANE* pane, const BUTTON& b); // it is shown, on the page in view
+
+// --- pane_types ---
+constexpr int TEXT_LINES = 10; // in view in a message
+constexpr int PROGRESS_LINES = 6;
+constexpr int DIRECTORY_PAGE = 40; // entries
+constexpr int FOLDER_PAGE = 30;
+
+struct PaneKind {
+    TYPE type;
+    void (*draw)(PANE* pane);                               // all but the buttons
+    void (*select)(PANE* pane, int id);                     // the push of a button is over
+    void (*press_beside)(PANE*, bool is_outside) = nullptr; // a press on no button; null: nothing
+    int (*result)(const PANE*) = nullptr; // null: quitmem itself, 0 without an answer
+    void (*release)(PANE*) = nullptr;     // frees what the type owns
+    int lines = 0;                        // of text in view, 0: it has none
+    int page_size = 0;                    // entries, 0: it has no pages
+};
+const PaneKind& pane_kind(const PANE* pane);
+void pane_select(PANE* pane, int id);
+// is_outside: not even on the pane.
+void pane_press_beside(PANE* pane, bool is_outside);
+int pane_result(const PANE* pane); // what quitmem means to whoever asked
+void pane_release(PANE* pane);
 
 // --- pane_draw ---
 void button_create(BUTTON* b); // bitmaps and size of its look
@@ -159,21 +194,29 @@ void pane_draw_text(PANE* pane);
 void pane_draw_progress(const PANE* pane);
 void pane_draw_inside(PANE* pane);
 void pane_draw_indicator(const PANE* pane);
-constexpr int TEXT_LINES = 10; // in view in a message
-constexpr int PROGRESS_LINES = 6;
+void pane_draw_message(PANE* pane); // of these none flushes
+void pane_draw_progress_box(PANE* pane);
+void pane_draw_grid(PANE* pane);
+void pane_draw_region(PANE* pane);
+void pane_draw_find(PANE* pane);
+void pane_draw_directory(PANE* pane);
+void pane_draw_run_control(PANE* pane);
 constexpr int TEXT_WIDTH = 290;
 constexpr int TEXT_FONT = 4;
 
-// --- pane_types: what a button does, once its push is over ---
-void pane_select(PANE* pane, int id);
-void pane_press_beside(PANE* pane);
-SCROLLTEXT* pane_text(PANE* pane); // null for a type without a text
-constexpr int DIRECTORY_PAGE = 40; // entries
-constexpr int FOLDER_PAGE = 30;
-int pane_page_size(const PANE* pane); // entries on one page, 0 when the pane has no pages
-void pane_turn_page(PANE* pane, int step);
-int pane_result(const PANE* pane); // what quitmem means to whoever asked
-void pane_free_text(PANE* pane);
+// --- pane_message ---
+bool grow_text(GROWTEXT* text, const char* more); // false when memory is out: it is as before
+void free_text(GROWTEXT* text);
+SCROLLTEXT* pane_text(PANE* pane);         // null for a type without a text
+const char* pane_text_in_view(PANE* pane); // from its top line; "" when there is none
+void message_select(PANE* pane, int id);
+int message_result(const PANE* pane);
+void message_release(PANE* pane);
+void progress_release(PANE* pane);
+
+// --- pane_choice ---
+void choice_select(PANE* pane, int id);
+void level_select(PANE* pane, int id);
 // A grid of cells; an empty cell gets no button, or with keep_empty a hidden one.
 struct PaneGrid {
     int columns;
@@ -186,10 +229,23 @@ struct PaneGrid {
     bool keep_empty = false;
 };
 void pane_add_grid(PANE* pane, const PaneGrid& grid, const BTNSEL* cells, int count);
+void pane_add_bottom_key(PANE* pane, int id, const char* caption, int look, int x);
+// A box in the middle of the screen.
+constexpr Rect pane_centred(int w, int h)
+{
+    return {400 - w / 2, 300 - h / 2, 400 - w / 2 + w - 1, 300 - h / 2 + h - 1};
+}
+constexpr Rect pane_box(int x, int y, int w, int h)
+{
+    return {x, y, x + w - 1, y + h - 1};
+}
+
+// --- pane_directory, pane_find ---
+void pane_turn_page(PANE* pane, int step);
+void find_select(PANE* pane, int id);
 
 // --- pane_region ---
 void region_select(PANE* pane, int id);
-void region_press_beside(PANE* pane);
 bool region_has_margin(const PANE* pane); // room for names at the left
 
 // --- pane_keyframe ---

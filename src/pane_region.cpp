@@ -212,13 +212,13 @@ static bool IsInvalidBtn(const BUTTON& b)
 }
 
 // By the start of the caption, so that a bank's Sub side counts, too.
-static bool IsSwitcherBtn(const BUTTON& b)
+static bool IsSwitcherBtn(const char* caption)
 {
     static constexpr const char* names[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5",
                                             "P/P",   "User1", "User2", "User3", "User4",
                                             "User5", "User6", "User7", "User8"};
     return std::any_of(std::begin(names), std::end(names),
-                       [&](const char* n) { return BeginsWith(b.caption, n); });
+                       [&](const char* n) { return BeginsWith(caption, n); });
 }
 
 static bool is_first_channel(const char* caption)
@@ -305,7 +305,7 @@ static int select_all(const REGIONBTN& g)
     int first = -1;
     for (int i = 0; i < Region_BtnNum; i++) {
         BUTTON* b = &Button_Region[i];
-        if (IsInvalidBtn(*b) || (i < channel && IsSwitcherBtn(*b)))
+        if (IsInvalidBtn(*b) || (i < channel && IsSwitcherBtn(b->caption)))
             continue;
         set_on(b, 1);
         if (first < 0)
@@ -393,12 +393,6 @@ void region_select(PANE* pane, int id)
         pane->quitmem = id;
     else
         touch_cell(g, b);
-}
-
-void region_press_beside(PANE* pane)
-{
-    if (pane->each.choice.single)
-        pane->quitmem = QUIT_SILENT;
 }
 
 // --- Lookups ---
@@ -518,7 +512,7 @@ int PaneRegion_SetDefaultSelected(int grp)
     if (channel == end)
         return 0;
     for (BTNSEL* b = g->btnsel; b != end; b++) {
-        if (b < channel)
+        if (b < channel && IsSwitcherBtn(b->caption))
             b->select = 0;
         else if (b->select == 2)
             b->select = 1;

@@ -1,9 +1,7 @@
 // Progress that outlives its pane: a transfer goes on while the operator is on another page, and
 // the pane comes back with what has happened meanwhile.
-#include "memory.h"
 #include "pane_private.h"
 #include "text.h"
-#include <cstring>
 
 #include "safeguards.h"
 
@@ -14,7 +12,7 @@ struct SavedProgress {
     int prog = 0;    // percent
     int lamp = ROUTE_LAMP_NONE;
     char progmes[PATH_SIZE] = "";
-    char* mes = nullptr; // what was appended; owned, null while empty
+    GROWTEXT mes = {}; // what was appended
 };
 } // namespace
 
@@ -23,7 +21,7 @@ static SavedProgress pane_restore_hdd;
 
 static int restore_init(SavedProgress* saved)
 {
-    GDL_Free(saved->mes);
+    free_text(&saved->mes);
     const int pane_id = saved->pane_id;
     *saved = {};
     saved->pane_id = pane_id;
@@ -38,7 +36,7 @@ static int restore_create(SavedProgress* saved, const char* caption, const char*
     saved->pane_id = id;
     (void)PaneProgress_SetProg(id, saved->prog, saved->progmes);
     (void)PaneProgress_SetRouteLamp(id, saved->lamp);
-    (void)Pane_AppendMessage(id, saved->mes); // null while nothing was
+    (void)Pane_AppendMessage(id, saved->mes.mes); // null while nothing was
     return id;
 }
 
@@ -60,15 +58,7 @@ static int restore_append(SavedProgress* saved, const char* text)
 {
     if (!text)
         return 0;
-    const size_t length = saved->mes ? strlen(saved->mes) : 0;
-    const size_t size = length + strlen(text) + 1;
-    auto* mes = static_cast<char*>(GDL_Realloc(saved->mes, size));
-    if (!mes)
-        return -1;
-    mes[length] = '\0';
-    ktr_strncat(mes, text, size);
-    saved->mes = mes;
-    return 0;
+    return grow_text(&saved->mes, text) ? 0 : -1;
 }
 
 static int restore_quit(SavedProgress* saved)

@@ -105,6 +105,9 @@ unsigned TDL_GetSymbolSize_PRO(const char* str, int font, int* size);
 // that; size is the text's. -1 when not even the tail fits: it alone is left.
 int TDL_CutText(char* text, size_t size, int width, const char* tail, int font);
 int TDL_GetSymbolLine(int width, const char* str, int font); // lines of a block without limit
+// How many characters of str the first line of such a block takes, its line feed included; one at
+// least, 0 for an empty text.
+size_t TDL_GetLineLength(int width, const char* str, int font);
 // Line breaks that TDL_SymbolB passes; -1 for null.
 int TDL_linecheck(int x1, int y1, int x2, int y2, int width, int height, const char* str, int font,
                   unsigned col, int topline);

@@ -474,6 +474,20 @@ int TDL_GetSymbolLine(int width, const char* str, int font)
     return walk_block(nullptr, font, width, INT_MAX, str, 0).breaks + 1;
 }
 
+size_t TDL_GetLineLength(int width, const char* str, int font)
+{
+    int line_px = 0;
+    size_t n = 0;
+    for (; str[n]; n++) {
+        if (str[n] == '\n')
+            return n + 1;
+        line_px += glyph_of(font, str[n]).w;
+        if (line_px >= width && n > 0)
+            return n;
+    }
+    return n;
+}
+
 int TDL_linecheck(int, int, int, int, int width, int height, const char* str, int font, unsigned,
                   int topline)
 {

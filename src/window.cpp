@@ -193,10 +193,13 @@ void window_light(int id, bool on)
 
 WindowState window_end()
 {
-    TDL_PopScreen();
-    UnHackMessage(0);
     const WindowState last = win;
     win = {};
+    if (Pane_GetActiveID() != 0)
+        Pane_WindowCloses();
+    else
+        TDL_PopScreen();
+    UnHackMessage(0);
     return last;
 }
 
@@ -264,19 +267,34 @@ static void withhold_input()
         UnHackMessage(OBJ_NB);
 }
 
+static void save_ground()
+{
+    const int w = win.w + SHADOW;
+    const int h = win.h + SHADOW;
+    if (Pane_GetActiveID() != 0)
+        Pane_WindowOpens({win.WinX, win.WinY, win.WinX + w - 1, win.WinY + h - 1});
+    else
+        TDL_PushScreen(win.WinX, win.WinY, w, h);
+}
+
 static void draw_all()
 {
-    TDL_PushScreen(win.WinX, win.WinY, win.w + SHADOW, win.h + SHADOW);
     win.kind->draw();
     for (WINOBJ* k = win.Key; k->id != WINOBJ_END; k++)
         draw_key_s(*k);
     window_flush({0, 0, win.w + SHADOW - 1, win.h + SHADOW - 1});
 }
 
+// The boxes beside a knob window are the page's, and a pane withholds the page.
+static bool is_refused(int type)
+{
+    return Pane_GetActiveID() != 0 && (type == WINDOW_KNOB || type == WINDOW_KNOB_TRIM);
+}
+
 int CreateWindow(int type, const char* caption, const WindowArgs& args)
 {
     const WindowKind* kind = find_kind(type);
-    if (!kind || Pane_GetActiveID() != 0) {
+    if (!kind || is_refused(type)) {
         Log_Output(LOG_ALWAYS, MOD_PAGE, "Can't create window... type %d%s", type,
                    kind ? ": a pane is up" : "");
         return -1;
@@ -291,8 +309,18 @@ int CreateWindow(int type, const char* caption, const WindowArgs& args)
     win.OKText = args.ok_text;
     withhold_input();
     kind->open(args);
+    save_ground();
     draw_all();
     return 0;
+}
+
+void Window_RedrawAll()
+{
+    if (!win.kind)
+        return;
+    if (Pane_GetActiveID() == 0)
+        save_ground(); // the last pane beneath has gone
+    draw_all();
 }
 
 int ChangeWindow(const char* caption, const char* value, const char* min_text, const char* max_text,

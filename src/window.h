@@ -1,8 +1,8 @@
 // window: the modal windows: keyboard, ten keys, page jump, pull-downs and selections. Only one
 // exists at a time. While it is up all input is its own; the page beneath hears tallies but neither
-// paints nor is pressed, and catches up when the window has gone. A pane that opens closes it, and
-// none can be opened under a pane. The knob window alone leaves the number boxes beside it alive: a
-// press on another box moves it there.
+// paints nor is pressed, and catches up when the window has gone. A pane that opens closes it; one
+// that opens while a pane stands lies above it, and the pane goes on afterwards. The knob window
+// alone leaves the number boxes beside it alive: a press on another box moves it there.
 #pragma once
 #include "types.h"
 
@@ -65,14 +65,17 @@ struct WindowArgs {
     int (*ok_text)(const char* text) = nullptr; // keyboard
 };
 
-// Open a window over the page, closing one that is open as by cancel. 0; -1 with a log line for an
-// unknown type and under a pane.
+// Open a window over the page and its panes, closing one that is open as by cancel. 0; -1 with a
+// log line for an unknown type, and for a knob window while a pane stands.
 int CreateWindow(int type, const char* caption, const WindowArgs& args = {});
 // The open knob window moves on to another box, without restoring the screen. -1 when none is open.
 int ChangeWindow(const char* caption, const char* value, const char* min_text, const char* max_text,
                  bool is_timecode = false);
 int CloseWindow(); // as by cancel. -1 when there is none
 int GetWindow();   // the open window's type, 0 none
+// For panes: what lies beneath the window has been painted. Paint it again, on a ground of its own
+// when the last pane has gone. Nothing without a window.
+void Window_RedrawAll();
 // Close at the next pass, as one of the window's own keys does. Ten keys of all kinds: 0 cancel, 2
 // enter. Keyboard, message, progress: 0 the answer, 1 cancel. Pull-down, select, path: 0 cancel,
 // n the choice n - 1.

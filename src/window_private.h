@@ -6,7 +6,7 @@
 #include "types.h"
 #include "window.h"
 
-enum LOOK : int {
+enum WINLOOK : int {
     LOOK_DIGIT,
     LOOK_SIGN,
     LOOK_CLEAR, // and every key that does something to the entry

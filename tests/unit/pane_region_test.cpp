@@ -101,6 +101,54 @@ TEST_F(Regions, EveryGroupIsSound)
     }
 }
 
+TEST_F(Regions, CellsOfUnitsAreNamedAfterThem)
+{
+    static const struct {
+        int grp;
+        std::vector<std::string> cells; // "id caption ext", from the first
+    } cases[] = {
+        {0,
+         {"896 SWR1 SST", "897 SWR1\n   FC SFS", "898 SWR1\n CCR SCC", "899 SWR2 SST",
+          "900 SWR2\n   FC SFS", "901 SWR2\n CCR SCC"}},
+        {41,
+         {"896 SWR1 SUS", "897 SWR1\nUsrSrc SUN", "898 SWR1\nPatch SUP", "899 SWR2 SUS",
+          "900 SWR2\nUsrSrc SUN", "901 SWR2\nPatch SUP"}},
+    };
+    Units(2, 1);
+    for (const auto& c : cases) {
+        PaneRegion_InitID(c.grp);
+        std::vector<std::string> cells;
+        for (size_t i = 0; i < c.cells.size(); i++) {
+            const BTNSEL& b = RegionBtn[c.grp].btnsel[i];
+            int main = 0, sub = 0;
+            EXPECT_EQ(PaneRegion_GetGrpMainSub(c.grp, b.id, &main, &sub), 0);
+            cells.push_back(std::to_string(b.id) + " " + b.caption + " " +
+                            PaneRegion_GetGrpFIExt(c.grp, main, sub));
+        }
+        EXPECT_EQ(cells, c.cells) << c.grp;
+    }
+    PaneRegion_InitID(1);
+    EXPECT_EQ(RegionBtn[1].btnsel[0].id, 896);
+    EXPECT_EQ(RegionBtn[1].btnsel[4].id, 1152);
+    EXPECT_EQ(RegionBtn[1].btnsel[5].id, 0) << "there is no second effects unit";
+}
+
+TEST_F(Regions, WithoutASwitcherTheFirstChannelLeads)
+{
+    constexpr int M_E_1 = 0, ROUTER = 6, CHANNEL_1 = 16, CHANNEL_2 = 17;
+    Units(1, 1);
+    Select(14, {{M_E_1, 2}, {ROUTER, 1}});
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
+    EXPECT_EQ(Selected(14), "0* 6") << "there is a switcher";
+    Units(0, 1);
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
+    EXPECT_EQ(Selected(14), "6 16*") << "the router is none of its cells";
+    Select(14, {{M_E_1, 1}, {CHANNEL_1, 1}, {CHANNEL_2, 2}});
+    PaneRegion_SetDefaultSelected(14);
+    EXPECT_EQ(Selected(14), "16* 17");
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(REGION_GROUPS), -1);
+}
+
 TEST_F(Regions, FilesOfARegionHaveItsWord)
 {
     static const struct {
@@ -168,6 +216,9 @@ TEST_F(Regions, TheLastOneTouchedIsTheReference)
         {4, {1, 1}, "0*"},   // off: the first that is on takes over
         {4, {6, 7}, "0*"},   // empty cells
         {24, {0, 1}, "0 1"}, // units have no reference
+        {32, {1}, "1*"},     // one at a time
+        {39, {0}, "0*"},     // the reference stays
+        {39, {1}, "0 1*"},
     };
     Units(2, 2);
     for (const auto& c : cases) {
@@ -193,10 +244,12 @@ TEST_F(Regions, OnlyEnterChangesTheSelection)
     Select(4, {{0, 2}});
     const int id = PaneRegion_Create(4, 0);
     TouchCell(4, 3);
+    Touch(Left(4) + 15 + 62, Top(4, 0) + 30); // between two cells
+    EXPECT_EQ(Pane_Exist(id), 1) << "a touch that missed loses nothing";
     Touch(5, 5);
-    EXPECT_EQ(Pane_Exist(id), 1) << "a press beside it loses nothing";
+    EXPECT_EQ(Last(), Quit(id, 0)) << "the way out";
     EXPECT_EQ(Selected(4), "0*");
-    Pane_Quit(id);
+    Pane_Quit(PaneRegion_Create(4, 0));
     EXPECT_EQ(Selected(4), "0*");
     (void)PaneRegion_Create(4, 0);
     TouchCell(4, 3);
@@ -240,6 +293,10 @@ TEST_F(Regions, AllKeysSelectAndClear)
          SWR_ALL,
          "0* 1 2 3 4 5 8 9 10 11 12 13 14 15 16"},
         {"banks off", 13, 1, {{2, 2}, {17, 1}, {18, 1}}, SWR_ALL, "17* 18"},
+        {"switchers among units", 24, 1, {{0, 0}}, SWR_UNITS, "0 1 2 3 4 5 6 7"},
+        {"effects units, the others stay", 25, 1, {{1, 1}}, DME_UNITS, "1 10 11 12 13 14 15 16 17"},
+        {"no switcher: the first channel leads", 14, 0, {}, ALL, "6 16* 17 18 19 20 21 22 23"},
+        {"no switcher: nothing for its banks", 13, 0, {{17, 2}}, SWR_ALL, "17*"},
         {"no ALL for three columns", 43, 1, {{0, 2}}, ALL, "0*"},
     };
     for (const auto& c : cases) {

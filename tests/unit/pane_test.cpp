@@ -1,6 +1,7 @@
 #include "memory.h"
 #include "pane_page.h"
 #include "pane_private.h"
+#include <chrono>
 #include <climits>
 
 namespace
@@ -125,6 +126,30 @@ TEST_F(Panes, TheScreenComesBackWithTheLastOne)
         ASSERT_EQ(pixel, 0x123456U);
 }
 
+// An object that stands behind the opener in the row paints after it, in the same pass.
+TEST_F(Panes, TheGroundIsThatOfTheWholePass)
+{
+    TDL_FillRectS(97, 73, 702, 526, 0x123456);
+    const int lower = PaneMessage_Create("Lower", PANE_INFO, "m");
+    Pane_Quit(PaneMessage_Create("Gone again", PANE_INFO, "m"));
+    TDL_FillRectS(250, 200, 300, 250, 0x654321);
+    Pass();
+    EXPECT_NE(PixelAt(260, 210), 0x654321U);
+    Pane_Quit(lower);
+    EXPECT_EQ(PixelAt(260, 210), 0x654321U);
+    EXPECT_EQ(PixelAt(310, 260), 0x123456U);
+}
+
+TEST_F(Panes, TheFirstAnswerCounts)
+{
+    const int id = PaneYesNo_Create("C", PANE_INFO, "m");
+    Pass();
+    Press(YES_X, OK_Y);
+    Press(NO_X, OK_Y);
+    Pass(400);
+    EXPECT_THAT(Told(), ElementsAre("button 1", Quit(id, 1)));
+}
+
 TEST_F(Panes, HeldArrowsRepeat)
 {
     (void)PaneMessage_Create("C", PANE_INFO, Lines(40).c_str());
@@ -169,6 +194,50 @@ TEST_F(Panes, TextScrollsToItsEndsAndNoFurther)
     for (int i = 0; i < 10; i++)
         Touch(ARROW_X, PROGRESS_UP_Y);
     EXPECT_EQ(Well(), first);
+}
+
+// However a text came together, its end is shown alike.
+TEST_F(Panes, AppendedTextIsTheTextInOnePiece)
+{
+    const std::string wide(90, 'W');
+    const std::string texts[] = {Lines(40), Lines(12) + "\n",
+                                 "one\n\n" + wide + "\ntwo\n" + wide + "\n" + Lines(9) + wide,
+                                 wide + wide + wide + wide + wide, "\n\n\n"};
+    for (const std::string& text : texts) {
+        const std::string head = text.substr(0, text.size() - 1);
+        const std::string tail = text.substr(text.size() - 1);
+        int id = PaneMessage_Create("C", PANE_INFO, head.c_str());
+        EXPECT_EQ(Pane_AppendMessage(id, tail.c_str()), 0);
+        Pass();
+        const auto whole = Well();
+        Pane_Quit(id);
+        id = PaneMessage_Create("C", PANE_INFO, nullptr);
+        for (size_t at = 0; at < text.size(); at += 7)
+            EXPECT_EQ(Pane_AppendMessage(id, text.substr(at, 7).c_str()), 0);
+        Pass();
+        EXPECT_EQ(Well(), whole) << text;
+        Touch(ARROW_X, DOWN_Y);
+        EXPECT_EQ(Well(), whole) << "it is the end: " << text;
+        Pane_Quit(id);
+    }
+    EXPECT_EQ(Pane_AppendMessage(4711, "x"), -1);
+    EXPECT_EQ(Pane_AppendMessage(PaneFind_Create(200, 200, 0), "x"), -2);
+}
+
+// A long job appends a line for each of its files; the loop has 10 ms a pass.
+TEST_F(Panes, AnAppendCostsWhatIsAppended)
+{
+    constexpr int LINES = 30000;
+    const int before = UsedMemPtr;
+    const int id = PaneProgress_Create("C", "", 1);
+    Pass();
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < LINES; i++)
+        (void)Pane_AppendMessage(id, "ME1/a name of usual length.SFH: OK\n");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
+    Pass();
+    Pane_Quit(id);
+    EXPECT_EQ(UsedMemPtr, before);
 }
 
 TEST_F(Panes, ProgressTellsWhatIsAndWhatIsNotOne)
@@ -229,6 +298,62 @@ TEST_F(Panes, AChoiceIsTheResult)
     EXPECT_EQ(PaneDirectory_Create(3, nullptr), 0);
 }
 
+TEST_F(Panes, APullDownThatIsTooLongEndsAtTheScreen)
+{
+    std::vector<BTNSEL> items;
+    for (int i = 1; i <= 80; i++)
+        items.push_back({i, "Item", 0});
+    const int id = PanePullDown_Create(600, 100, 80, items.data());
+    ASSERT_GT(id, 0);
+    EXPECT_GE(pane_find(id)->x, 0);
+    Touch(pane_find(id)->x + 20, pane_find(id)->y + 20);
+    EXPECT_EQ(Last(), Quit(id, 1));
+}
+
+// The choices of a popup are a radio: one is on, and it says nothing when it is pressed again.
+TEST_F(Panes, TheChoiceOfAPopupThatStandsSaysNothing)
+{
+    static const struct {
+        const char* name;
+        int (*open)(int, int, const BTNSEL*);
+        int first_x, second_x, y;
+    } cases[] = {
+        {"popup", PanePopup_Create, 311 + 30, 311 + 108, 230},
+        {"frame memory out", FMOutPopup_Create, 284 + 40, 284 + 145, 225},
+    };
+    for (const auto& c : cases) {
+        const int id = c.open(2, 2, choices); // the second one is on
+        Pass();
+        Touch(c.second_x, c.y);
+        EXPECT_THAT(Told(), IsEmpty()) << c.name;
+        EXPECT_EQ(Pane_Exist(id), 1) << c.name;
+        Press(c.first_x, c.y);
+        EXPECT_EQ(pane_find(id)->button[1].onoff, 0) << c.name << ": the old choice goes off";
+        EXPECT_EQ(pane_find(id)->button[0].onoff, 1) << c.name;
+        Pass(150);
+        EXPECT_EQ(Last(), Quit(id, 11)) << c.name;
+    }
+}
+
+TEST_F(Panes, ButtonsOfThePopupOnTopCanBeTakenAway)
+{
+    EXPECT_EQ(PanePopup_BtnDisable(11, 1), -1) << "no popup";
+    const int lower = PanePopup_Create(2, 2, choices);
+    const int upper = FMOutPopup_Create(2, 2, choices);
+    EXPECT_EQ(PanePopup_BtnDisable(11, 1), 0);
+    EXPECT_EQ(PanePopup_BtnCutOff(14, 1), 0);
+    EXPECT_EQ(PanePopup_BtnCutOff(99, 1), -1);
+    Touch(284 + 40, 225);
+    Touch(284 + 145, 275);
+    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_EQ(PixelAt(284 + 145, 275), 0x2A2F32u) << "the ground shows where it was";
+    EXPECT_EQ(PanePopup_BtnDisable(11, 0), 0);
+    Touch(284 + 40, 225);
+    EXPECT_EQ(Last(), Quit(upper, 11));
+    Touch(311 + 30, 230);
+    EXPECT_EQ(Last(), Quit(lower, 11)) << "the lower one was not meant";
+}
+
 TEST_F(Panes, DirectoriesTurnTheirPages)
 {
     std::vector<BTNSEL> entries;
@@ -266,6 +391,14 @@ TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
     Touch(400, 335 + 80);
     EXPECT_EQ(Last(), Quit(id, 1));
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x86);
+
+    const int again = PaneRTRLvl_Create(0);
+    Touch(131 + 20, 335 + 20);
+    Touch(131 + 20, 335 + 80); // on the pane, beside its keys
+    EXPECT_EQ(Pane_Exist(again), 1);
+    Touch(5, 5);
+    EXPECT_EQ(Last(), Quit(again, 0));
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x86) << "left without a result";
     PaneRTRLvl_SetSelect(0);
 }
 

@@ -147,17 +147,103 @@ TEST_F(Windows, ThePageHearsTalliesAndNothingElseUntilTheWindowHasGone)
     EXPECT_EQ(probe::Count(MSG_PRESS), 1);
 }
 
-TEST_F(Windows, NoneComesOfAnUnknownTypeOrUnderAPane)
+TEST_F(Windows, WhatCannotOpenLeavesThePageItsInput)
 {
     for (int type : {-1, 0, 14, 1000})
         EXPECT_EQ(CreateWindow(type, "No"), -1) << type;
     const int pane = PaneMessage_Create("Pane", PANE_INFO, "Text");
-    EXPECT_EQ(CreateWindow(WINDOW_MESSAGE, "No"), -1);
+    EXPECT_EQ(CreateWindow(WINDOW_KNOB, "No"), -1) << "the boxes beside it would be the page's";
+    EXPECT_EQ(CreateWindow(WINDOW_KNOB_TRIM, "No"), -1);
     Pane_Quit(pane);
     EXPECT_EQ(GetWindow(), 0);
     Pass();
     EXPECT_EQ(probe::Count(MSG_REDRAW), 1) << "the page has been silenced";
 }
+
+// --- A window above a pane ---
+
+struct WindowOverPane : Windows {
+    int pane = 0;
+    std::vector<uint32_t> before; // the whole screen with the pane alone
+
+    void SetUp() override
+    {
+        Windows::SetUp();
+        TDL_FillRectS(0, 0, 799, 599, GROUND);
+        pane = PaneProgress_Create("Load", "Text\nof it", 1);
+        Pass();
+        before = Picture();
+        probe::seen.clear();
+    }
+    static std::vector<uint32_t> Picture() { return PixelsIn({0, 0, 799, 599}); }
+    static void TouchOk() { SendMessage(MSG_PRESS, 200 + 180, 150 + 260, 1, 0); }
+};
+
+TEST_F(WindowOverPane, ItIsAnsweredFirstAndThePaneGoesOn)
+{
+    for (int type : {WINDOW_MESSAGE, WINDOW_KEYBOARD}) { // inside the saved ground, and beyond it
+        ASSERT_EQ(CreateWindow(type, "Install", {.message = "All is well."}), 0);
+        EXPECT_NE(Picture(), before);
+        const auto with_window = Picture();
+        PaneProgress_SetProg(pane, 50, "half");
+        Pane_AppendMessage(pane, "more\n");
+        Pass(1000);
+        EXPECT_EQ(Picture(), with_window) << "the pane does not paint through";
+        if (type == WINDOW_MESSAGE)
+            TouchOk(); // the pane's "Cancel" lies beneath
+        else
+            CloseWindow();
+        Pass(1000);
+        EXPECT_EQ(GetWindow(), 0);
+        EXPECT_EQ(Pane_Exist(pane), 1) << "the touch was the window's";
+        EXPECT_EQ(probe::Count(MSG_REDRAW), 0);
+        EXPECT_GE(probe::Count(MSG_PANETICK), 1) << "the page goes on ticking";
+        EXPECT_NE(Picture(), before) << "the progress has caught up";
+    }
+    Pane_Quit(pane);
+    EXPECT_EQ(Painted({0, 0, 799, 599}), 0);
+    Pass();
+    EXPECT_EQ(probe::Count(MSG_REDRAW), 1);
+}
+
+TEST_F(WindowOverPane, APaneThatClosesBeneathLeavesTheWindow)
+{
+    for (const bool at_once : {true, false}) {
+        CreateWindow(WINDOW_MESSAGE, "Load", {.message = "Confirm the categories."});
+        TDL_FillRectS(0, 0, 40, 40, GROUND + 1); // drawn by the base area meanwhile
+        const auto window = PixelsIn({210, 160, 590, 440});
+        if (at_once)
+            Pane_Quit(pane);
+        else
+            Pane_SetQuitFlag(pane);
+        Pass();
+        EXPECT_EQ(Pane_GetActiveID(), 0);
+        EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+        EXPECT_EQ(PixelsIn({210, 160, 590, 440}), window);
+        EXPECT_EQ(PixelAt(20, 20), GROUND + 1);
+        TouchOk();
+        EXPECT_EQ(GetWindow(), 0);
+        TDL_FillRectS(0, 0, 40, 40, GROUND);
+        EXPECT_EQ(Painted({0, 0, 799, 599}), 0);
+        pane = PaneProgress_Create("Load", "Text", 1);
+        Pass();
+    }
+    Pane_Quit(pane);
+}
+
+TEST_F(WindowOverPane, APaneThatOpensClosesIt)
+{
+    CreateWindow(WINDOW_KEYBOARD, "Name");
+    const int upper = PaneMessage_Create("Pane", PANE_INFO, "Text");
+    EXPECT_EQ(GetWindow(), 0);
+    Pass();
+    Pane_Quit(upper);
+    EXPECT_EQ(Picture(), before);
+    Pane_Quit(pane);
+    EXPECT_EQ(Painted({0, 0, 799, 599}), 0);
+}
+
+// --- Opening and closing ---
 
 // What stood under a window comes back, whichever way it goes and whatever it did meanwhile.
 TEST_F(Windows, EveryTypeGivesTheScreenBack)
