@@ -27,20 +27,8 @@ constexpr uint32_t PAGE_ERRORS_GONE = 0x74120000;
 constexpr uint32_t PAGE_ERROR_TEXT = 0x99000000;
 constexpr uint32_t PAGE_WALK = 0x99970000; // starts the walk through all pages
 constexpr uint32_t PAGE_TIMELINE = 0x61110000;
-constexpr uint32_t PAGE_MENU_MACRO = 0x71440002;
 constexpr uint32_t PAGE_SETUP_LOCK = 0x73170001;
 
-constexpr Rect ZONE_PAGE = {3, 6, 88, 63};
-constexpr Rect ZONE_TITLE = {89, 6, 373, 63};
-constexpr Rect ZONE_TITLE_SHORT = {89, 6, 298, 63};
-constexpr Rect ZONE_SIDE = {299, 6, 370, 63}; // main/sub or key change
-constexpr Rect ZONE_BACK = {374, 6, 440, 63};
-constexpr Rect ZONE_FWD = {441, 6, 507, 63};
-constexpr Rect ZONE_TOP_RIGHT = {508, 6, 794, 63};
-constexpr Rect ZONE_LOWER_LEFT = {4, 531, 87, 595};
-constexpr Rect ZONE_PREV = {710, 547, 790, 599};
-constexpr int MM_KEY_X1 = 513; // the menu macro key inside the top right
-constexpr int MM_KEY_X2 = 571;
 } // namespace
 
 BaseArea ba;
@@ -87,7 +75,12 @@ static bool is_operation_section()
     return false;
 }
 
-// Tab of a bank's page without the bank: 0x73 is the key priority of Misc.
+// Tabs of a bank's pages.
+constexpr int TAB_WIPE_KEYPAD = 0x57;
+constexpr int TAB_DMEWIPE_KEYPAD = 0x67;
+constexpr int TAB_KEY_PRIORITY = 0x73;  // of Misc
+constexpr int TAB_KEY_PRIORITY2 = 0x75; // its other number, which no page of this table has
+
 static bool is_bank_tab(int tab)
 {
     return MeBank_OfPage(GL_NowPage) && int(GL_NowPage >> 16 & 0xFF) == tab;
@@ -95,16 +88,16 @@ static bool is_bank_tab(int tab)
 
 static bool is_key_priority_page()
 {
-    return is_bank_tab(0x73) || is_bank_tab(0x75);
+    return is_bank_tab(TAB_KEY_PRIORITY) || is_bank_tab(TAB_KEY_PRIORITY2);
 }
 
 // The keypads of stored wipes have nothing that could go back to a default.
 static bool is_keypad_page()
 {
-    return is_bank_tab(0x57) || is_bank_tab(0x67);
+    return is_bank_tab(TAB_WIPE_KEYPAD) || is_bank_tab(TAB_DMEWIPE_KEYPAD);
 }
 
-static bool IsSetupLock()
+static bool is_setup_locked()
 {
     return SetupLock.lock != 0;
 }
@@ -114,7 +107,7 @@ static void decide_lower_left()
     if (is_operation_section()) {
         if (isNowPageME(0) == 2 || is_keypad_page())
             return;
-        if (is_key_priority_page() && IsSetupLock())
+        if (is_key_priority_page() && is_setup_locked())
             ba.SetupLock_enable = 1; // shows that the lock is on
         else
             ba.Default_enable = 1;
@@ -244,7 +237,7 @@ static void step_mpe_reference()
 
 static void press_title()
 {
-    if (BeginsWith(section(), "MPE"))
+    if (BeginsWith(section(), "MPE") && !GL_ErrorPopup_On) // the error's text says to touch it
         step_mpe_reference();
     else
         push(ba.Title);
@@ -253,7 +246,7 @@ static void press_title()
 static void toggle_setup_lock()
 {
     ba.SetupLockKey.redraw = 1;
-    if (IsSetupLock() || ba.SetupLock_id < 0)
+    if (is_setup_locked() || ba.SetupLock_id < 0)
         return;
     ba.SetupLockKey.pushed = PUSHED_MS;
     SETUPMENU& entry = SetupMenu[ba.SetupLock_id];
@@ -283,7 +276,7 @@ static void press_top_right(int x, int y)
         GL_AllPageDisplayMode = 1;
         allpagedisp_select(x, y);
     } else if (ba_records_menu_macro()) {
-        if (x < MM_KEY_X1 || x > MM_KEY_X2)
+        if (!Inside(ZONE_MENU_MACRO, x, y))
             return;
         push(ba.MM);
         GL_CreatePage = PAGE_MENU_MACRO;
@@ -327,22 +320,21 @@ static int press_normal(int x, int y)
     return 0;
 }
 
+// These pages don't arm; page code that does stops the steps through the history alone.
 static int press_file(int x, int y)
 {
-    if (Inside(ZONE_PAGE, x, y)) {
-        press_page(); // these pages never arm; whoever armed for them still gets the page window
+    const bool is_step =
+        Inside(ZONE_BACK, x, y) || Inside(ZONE_FWD, x, y) || Inside(ZONE_PREV, x, y);
+    if (Inside(ZONE_PAGE, x, y))
+        press_page();
+    else if (ba.Default && is_step)
         return 0;
-    }
-    if (ba.Default)
-        return 0;
-    if (!press_frame(x, y) && Inside(ZONE_TOP_RIGHT, x, y))
+    else if (!press_frame(x, y) && Inside(ZONE_TOP_RIGHT, x, y))
         push(ba.Region);
     return 0;
 }
 
 // --- What a widget does when its pushed look has been seen ---
-
-static void nothing() {}
 
 static void title_action()
 {
@@ -400,18 +392,18 @@ static void timeline_action()
 static const struct {
     BaseWidget BaseArea::*widget;
     Rect (*draw)();
-    void (*at_end)();
+    void (*at_end)(); // null: it only comes up again
 } widgets[] = {
-    {&BaseArea::Pagebtn, ba_drw_pagebtn, nothing},
+    {&BaseArea::Pagebtn, ba_drw_pagebtn, nullptr},
     {&BaseArea::Title, ba_drw_title, title_action},
     {&BaseArea::MainSub, ba_drw_mainsub, mainsub_action},
     {&BaseArea::KeyChange, ba_drw_keychange, keychange_action},
     {&BaseArea::Prev, ba_drw_prev, prev_action},
     {&BaseArea::Back, ba_drw_back, back_action},
     {&BaseArea::Fwd, ba_drw_fwd, fwd_action},
-    {&BaseArea::DefaultKey, ba_drw_default, nothing},
-    {&BaseArea::SetupLockKey, ba_drw_setuplock, nothing},
-    {&BaseArea::MM, ba_drw_menu_macro, nothing},
+    {&BaseArea::DefaultKey, ba_drw_default, nullptr},
+    {&BaseArea::SetupLockKey, ba_drw_setuplock, nullptr},
+    {&BaseArea::MM, ba_drw_menu_macro, nullptr},
     {&BaseArea::MM_Default_Pos, ba_drw_menu_macro_default, menu_macro_default_action},
     {&BaseArea::Region, ba_drw_region, region_action},
 };
@@ -443,7 +435,8 @@ static int redraw_widgets(int elapsed_ms)
         if (!run_down(w, elapsed_ms))
             continue;
         w.redraw = 1;
-        row.at_end();
+        if (row.at_end)
+            row.at_end();
     }
     return 0;
 }
@@ -451,7 +444,7 @@ static int redraw_widgets(int elapsed_ms)
 static int redraw_with_strip(int elapsed_ms, void (*strip_action)())
 {
     redraw_widgets(elapsed_ms);
-    if (run_down(ba.KF, elapsed_ms))
+    if (run_down(ba.KF, elapsed_ms) && strip_action)
         strip_action();
     KF_DrawTopArea(ba.KF.pushed);
     return 0;
@@ -481,8 +474,10 @@ static int ba_proc_normal(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 static int ba_proc_kf_tl(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: return redraw_with_strip(int(ax), nothing); // the timeline is this page
+    case MSG_REDRAW: return redraw_with_strip(int(ax), nullptr); // the timeline is this page
     case MSG_PRESS: return press_normal(int(ax), int(bx));
+    case LMSG_FMCLIPCHANGE:
+    case LMSG_FMLOAD: BA_RedrawTitle(); return 0;
     default: return 0;
     }
 }

@@ -73,7 +73,7 @@ Rect ba_drw_pagebtn()
         TDL_SymbolS(58, 36, number, 7, WHITE);
     }
     BA_AccessDraw_s();
-    return {3, 6, 88, 63};
+    return ZONE_PAGE;
 }
 
 // --- Title band ---
@@ -100,7 +100,7 @@ static void tree_line(char (&line)[PATH_SIZE])
 
 Rect ba_drw_title()
 {
-    const Rect band = {89, 6, ba_has_short_title() ? 298 : 373, 63};
+    const Rect band = ba_has_short_title() ? ZONE_TITLE_SHORT : ZONE_TITLE;
     TDL_PutS(band.x1, band.y1, title_band());
     if (!GL_NowTree || !GL_NowTree[0])
         return band;
@@ -122,7 +122,7 @@ static Rect draw_side_key(const BaseWidget& w, const char* caption)
     const int p = w.pushed > 0;
     TDL_PutS(299, 6, p ? G_TIT_ms_on : G_TIT_ms_off);
     TDL_SymbolBS(309 + p, 22 + p, 62, 50, caption, 3, WHITE, 0);
-    return {299, 6, 370, 63};
+    return ZONE_SIDE;
 }
 
 Rect ba_drw_mainsub()
@@ -137,40 +137,45 @@ Rect ba_drw_keychange()
 
 // --- History ---
 
+static void fill(const Rect& r, unsigned col)
+{
+    TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, col);
+}
+
+// As the page button names it: without the digits of a variant, which the label has no room for.
 static void draw_history_page(int x, int x_with_sub, uint32_t page)
 {
     char number[16];
-    Page_Number(number, sizeof number, page);
-    TDL_SymbolS(strchr(number, '.') ? x_with_sub : x, 52, number, 4, WHITE);
+    Page_Number(number, sizeof number, page & 0xFFFF00FF);
+    const bool has_sub = strchr(number, '.') != nullptr;
+    TDL_SymbolS(has_sub ? x_with_sub : x, 52, number, 4, WHITE);
 }
 
 Rect ba_drw_back()
 {
-    TDL_FillRectS(374, 6, 440, 63, FRAME_GROUND);
+    fill(ZONE_BACK, FRAME_GROUND);
     if (IsTopHistory(OmoteFlag)) {
         TDL_PutS(389, 6, G_BACK_dis);
         return NOT_FLUSHED;
     }
     TDL_PutS(389, 6, ba.Back.pushed > 0 ? G_BACK_on : G_BACK_off);
     draw_history_page(394, 388, GetHistoryBack(OmoteFlag));
-    return {374, 6, 440, 63};
+    return ZONE_BACK;
 }
 
 Rect ba_drw_fwd()
 {
-    TDL_FillRectS(441, 6, 507, 63, FRAME_GROUND);
+    fill(ZONE_FWD, FRAME_GROUND);
     if (IsLastHistory(OmoteFlag)) {
         TDL_PutS(446, 6, G_NEXT_dis);
         return NOT_FLUSHED;
     }
     TDL_PutS(446, 6, ba.Fwd.pushed > 0 ? G_NEXT_on : G_NEXT_off);
     draw_history_page(451, 445, GetHistoryFwd(OmoteFlag));
-    return {441, 6, 507, 63};
+    return ZONE_FWD;
 }
 
 // --- Lower left and lower right ---
-
-constexpr Rect LOWER_LEFT = {4, 531, 87, 595};
 
 Rect ba_drw_default()
 {
@@ -181,7 +186,7 @@ Rect ba_drw_default()
         TDL_PutS(4, 531, G_NBA_off);
         TDL_SymbolS(15, 545, "Default\nRecall", 3, WHITE);
     }
-    return LOWER_LEFT;
+    return ZONE_LOWER_LEFT;
 }
 
 // While the lock is on the key is inert and shows a closed padlock on the pages that it holds.
@@ -204,7 +209,7 @@ Rect ba_drw_setuplock()
         TDL_PutS(4, 531, G_NBA_Off_Rev);
         TDL_SymbolS(15 + p, 545 + p, "Lock Item\nSelect", 3, WHITE);
     }
-    return LOWER_LEFT;
+    return ZONE_LOWER_LEFT;
 }
 
 Rect ba_drw_menu_macro_default()
@@ -212,18 +217,17 @@ Rect ba_drw_menu_macro_default()
     const int p = ba.MM_Default_Pos.pushed > 0;
     TDL_PutS(4, 531, p ? G_NBA_on : G_NBA_off);
     TDL_SymbolS(15 + p, 545 + p, "Default\nPosition", 3, p ? BLACK : WHITE);
-    return LOWER_LEFT;
+    return ZONE_LOWER_LEFT;
 }
 
 Rect ba_drw_prev()
 {
-    constexpr uint32_t PAGE_MENU_MACRO = 0x71440002;
     const bool down = ba.Prev.pushed > 0;
     if (ba_records_menu_macro() && GL_NowPage != PAGE_MENU_MACRO)
         TDL_PutS(721, 547, down ? G_MMCR_rec_on : G_MMCR_rec_off); // the key stores an event
     else
         TDL_PutS(710, 547, down ? G_PRV_on : G_PRV_off);
-    return {710, 547, 790, 599};
+    return ZONE_PREV;
 }
 
 // --- Top right ---
@@ -231,7 +235,7 @@ Rect ba_drw_prev()
 Rect ba_drw_menu_macro()
 {
     TDL_PutS(513, 6, ba.MM.pushed > 0 ? G_KF_mm_on : G_KF_mm_off);
-    return {513, 6, 571, 63};
+    return ZONE_MENU_MACRO;
 }
 
 // How much of a region group is selected, as a colour.
@@ -275,5 +279,5 @@ Rect ba_drw_region()
                      PaneRegion_GetGrpName(ba.RegionGrp, main), 4,
                      selection_colour(ba.RegionGrp, main));
     }
-    return {508, 6, 794, 63};
+    return ZONE_TOP_RIGHT;
 }

@@ -5,6 +5,20 @@
 #include "a_ba.h"
 #include "types.h"
 
+// Where the widgets are touched, and what is repainted with them.
+constexpr Rect ZONE_PAGE = {3, 6, 88, 63};
+constexpr Rect ZONE_TITLE = {89, 6, 373, 63};
+constexpr Rect ZONE_TITLE_SHORT = {89, 6, 298, 63};
+constexpr Rect ZONE_SIDE = {299, 6, 370, 63}; // main/sub or key change
+constexpr Rect ZONE_BACK = {374, 6, 440, 63};
+constexpr Rect ZONE_FWD = {441, 6, 507, 63};
+constexpr Rect ZONE_TOP_RIGHT = {508, 6, 794, 63};
+constexpr Rect ZONE_LOWER_LEFT = {4, 531, 87, 595};
+constexpr Rect ZONE_PREV = {710, 547, 790, 599};
+constexpr Rect ZONE_MENU_MACRO = {513, 6, 571, 63}; // inside the top right while one is recorded
+
+constexpr uint32_t PAGE_MENU_MACRO = 0x71440002;
+
 struct BaseWidget {
     int redraw = 0;
     int pushed = 0; // ms for which it still looks pushed; at its end the widget acts

@@ -1,6 +1,12 @@
+#include "a_ba_draw.h"
 #include "a_bt_page.h"
+#include "a_pc.h"
 #include "device.h"
+#include "err.h"
+#include "pane.h"
 #include "setup_index.h"
+#include "window.h"
+#include <cstring>
 #include <filesystem>
 
 namespace
@@ -108,7 +114,7 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
         bool recall;
     } cases[] = {
         {"M/E-1", 0x11110000, true},
-        {"M/E-4", 0x81750000, true},  // key priority while nothing is locked
+        {"M/E-4", 0x81730000, true},  // key priority while nothing is locked
         {"M/E-1", 0x15510000, false}, // the sub side
         {"M/E-1", 0x11570000, false}, // a keypad of stored wipes
         {"Engineering Setup", 0x73110000, false},
@@ -118,10 +124,6 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
         Touch(LOWER_LEFT);
         EXPECT_EQ(BA_IsDefaultButton(), c.recall) << c.section << std::hex << c.page;
     }
-    SetupLock.lock = 1;
-    OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11730000);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 0) << "locked";
 }
 
 // --- Setup lock ---
@@ -167,6 +169,183 @@ TEST_F(SetupLockKey, WhileTheLockIsOnATouchChangesNothing)
     EXPECT_FALSE(std::filesystem::exists(SETUP_LOCK_FILE));
 }
 
+// The key priority pages that there are, of all banks.
+TEST_F(SetupLockKey, KeyPriorityShowsTheLockInPlaceOfDefaultRecall)
+{
+    int pages = 0;
+    for (const PAGE* row = PageTable; row->id != PAGE_END; row++) {
+        const uint32_t tab = row->id >> 16 & 0xFF;
+        if (tab != 0x73 || Page_MeIndex(row->id) < 0 || !row->tree[2] ||
+            strcmp(row->tree[2], "Key Priority") != 0)
+            continue;
+        pages++;
+        for (const bool lock : {false, true}) {
+            SetupLock.lock = lock;
+            OpenBase({row->tree[0], row->tree[1], row->tree[2]}, row->id);
+            const bool is_sub = isNowPageME(0) == 2;
+            Touch(LOWER_LEFT);
+            EXPECT_EQ(BA_IsDefaultButton(), !lock && !is_sub) << std::hex << row->id;
+            EXPECT_EQ(ba.SetupLock_enable, lock && !is_sub) << std::hex << row->id;
+        }
+    }
+    EXPECT_GE(pages, 6) << "one a bank";
+}
+
+TEST_F(SetupLockKey, AFileThatCannotBeWrittenIsToldToTheOperator)
+{
+    std::filesystem::create_directories(std::string(SETUP_LOCK_FILE) + "/in the way");
+    OpenBase({"Engineering Setup", "System", "X"}, 0x73120001);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(std::exchange(GL_CreatePage, NONE), 0x99000000u);
+    EXPECT_EQ(Err_GetMax(), 1) << "the page has a line to show";
+}
+
+// --- Effects processor ---
+
+TEST_F(BaseAreaTest, ATouchOfTheTitleStepsTheChannelOfAnMpe)
+{
+    static const struct {
+        int available, reference;
+        const char* digits;
+    } cases[] = {
+        {0x31, 0x10, "00100000"}, // channel 5, then 6
+        {0x31, 0x20, "00000001"}, // behind the last comes the first
+        {0x31, 0x00, "00000001"},
+        {0x10, 0x10, "00010000"},
+    };
+    OpenBase({"MPE", "Fx"}, 0x44110000);
+    for (const auto& c : cases) {
+        SYS_MPEChannel = c.available;
+        SYS_MPEReference = c.reference;
+        Touch(TITLE);
+        EXPECT_THAT(TakeQueuedCommands(),
+                    ElementsAre(std::string("put MPE@Fx@Channel@Reference#") + c.digits));
+    }
+    SYS_MPEChannel = 0;
+    EXPECT_EQ(PageOf(TITLE), NONE);
+    GL_ErrorPopup_On = GL_ErrorExist = 1;
+    EXPECT_EQ(PageOf(TITLE), 0x74110000u) << "the title says: touch here";
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
+
+// --- File pages ---
+
+struct FileBase : BaseAreaTest {
+    void SetUp() override
+    {
+        BaseAreaTest::SetUp();
+        BA_SetRegionGrp(4);
+        OpenBase({"File", "Effect"}, 0x71210000, base_file_main);
+        GL_PrevPage = 0x33110000;
+    }
+};
+
+TEST_F(FileBase, WhileArmedOnlyTheStepsThroughTheHistoryStandStill)
+{
+    BA_SetDefaultButton(1);
+    EXPECT_EQ(PageOf(PREV), NONE);
+    EXPECT_EQ(PageOf(TITLE), 0x71000000u);
+    Touch({40, 30});
+    EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
+    CloseWindow();
+    BA_SetDefaultButton(0);
+    EXPECT_EQ(PageOf(PREV), 0x33110000u);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(BA_IsDefaultButton(), 0) << "there is no such key";
+}
+
+TEST_F(FileBase, TheRegionAreaOpensItsSelectorAndTellsItsEnd)
+{
+    static int ends;
+    ends = 0;
+    static const PC_TBL code = {.proc_func = [](int msg, MsgArg, MsgArg, MsgArg, MsgArg) {
+        ends += msg == LMSG_PANEREGION;
+        return 0;
+    }};
+    page.obj[0] = {OBJ_BA, &base_file_main, 0};
+    page.obj[2] = {OBJ_PC, &code, 0};
+    PC_Create(&code, 0);
+    Touch(TOP_RIGHT);
+    Pass(150);
+    const int pane = Pane_GetActiveID();
+    ASSERT_GT(pane, 0);
+    SendMessage(LMSG_PANEQUIT, pane + 1, 0, 0, 0);
+    EXPECT_EQ(ends, 0) << "another pane's end";
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    SendMessage(MSG_PRESS, 20, 300, 1, 0); // beside it
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_EQ(ends, 1);
+    PC_Create(nullptr, 0);
+}
+
+// --- While a menu macro is recorded ---
+
+TEST_F(BaseAreaTest, ARecordedMenuMacroTakesTheKeysOver)
+{
+    GL_MenuMacro_Edit = 1;
+    OpenBase({"File", "All"}, 0x71110000);
+    GL_PrevPage = 0x33110000;
+    EXPECT_EQ(PageOf({540, 30}), NONE) << "its page is asked for at once";
+    Touch({540, 30});
+    EXPECT_EQ(std::exchange(GL_CreatePage, NONE), 0x71440002u);
+    EXPECT_EQ(PageOf({580, 30}), NONE) << "beside the key";
+    EXPECT_EQ(PageOf(PREV), NONE) << "the key stores an event";
+    EXPECT_EQ(PageOf(LOWER_LEFT), 0x71440002u);
+    OpenBase({"File", "Menu Macro"}, 0x71440002);
+    EXPECT_EQ(PageOf(PREV), 0x33110000u);
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(BA_IsDefaultButton(), 1) << "default recall keeps its place";
+    GL_MenuMacro_Edit = 0;
+}
+
+TEST_F(BaseAreaTest, TheTimelineIsItsOwnPage)
+{
+    OpenBase({"Key Frame", "Timeline"}, 0x61110000, base_kf_tl);
+    EXPECT_EQ(PageOf(TOP_RIGHT), NONE);
+    EXPECT_EQ(PageOf(TITLE), 0x61000000u);
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(BA_IsDefaultButton(), 0);
+}
+
+// --- Lamps ---
+
+TEST_F(BaseAreaTest, LampsTellWhoIsAtTheDisks)
+{
+    constexpr uint32_t OFF = 0x282828, RED = 0xFF0000, GREEN = 0x00FF00;
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    const auto lamps = [] { return std::pair{PixelAt(75, 18), PixelAt(60, 18)}; };
+    EXPECT_EQ(lamps(), std::pair(OFF, OFF));
+    BA_SetFtpAccess(1);
+    EXPECT_EQ(lamps(), std::pair(GREEN, OFF));
+    BA_SetUsbAccess(1);
+    EXPECT_EQ(lamps(), std::pair(RED, OFF)) << "the stick must not be pulled";
+    BA_SetHDDAccess(1);
+    BA_SetUsbAccess(0);
+    EXPECT_EQ(lamps(), std::pair(GREEN, RED));
+    BA_SetFtpAccess(0);
+    BA_SetHDDAccess(0);
+    EXPECT_EQ(lamps(), std::pair(OFF, OFF));
+}
+
+// The label of a step has room for what the page button shows, and no more.
+TEST_F(BaseAreaTest, TheHistoryNamesAPageWithoutItsVariant)
+{
+    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    Omote_History_NowPtr = 1;
+    Omote_History_MaxPtr = 1;
+    Omote_History[0] = 0x61130001;
+    (void)ba_drw_back();
+    const auto plain = PixelsIn(ZONE_BACK);
+    Omote_History[0] = 0x61131001;
+    (void)ba_drw_back();
+    EXPECT_EQ(PixelsIn(ZONE_BACK), plain);
+    Omote_History[0] = 0x61130002;
+    (void)ba_drw_back();
+    EXPECT_NE(PixelsIn(ZONE_BACK), plain);
+}
+
 // --- Side keys ---
 
 TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
@@ -186,5 +365,3 @@ TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
     OpenBase({"M/E-1", "Misc", "Key Priority"}, 0x11740000);
     EXPECT_EQ(PageOf(SIDE_KEY), 0x11000000u) << "one page for both sides";
 }
-
-// --- Others ---
