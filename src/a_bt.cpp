@@ -357,8 +357,14 @@ static int tally(const char* path, const char* value, uint32_t hash)
     return 0;
 }
 
+// The area is erased and the frames drawn before the buttons and not behind them: otherwise each
+// button would be painted twice, with a black field between, on all pages whose code hides one when
+// it opens.
 static int redraw(int elapsed_ms)
 {
+    if (RedrawAll)
+        redraw_all(1);
+    RedrawAll = 0;
     for (BT_MEM& b : buttons()) {
         if (b.redraw && b.draw_func)
             b.draw_func(&b);
@@ -370,9 +376,6 @@ static int redraw(int elapsed_ms)
         b.pushed = 0;
         b.redraw = 1;
     }
-    if (RedrawAll)
-        redraw_all(1);
-    RedrawAll = 0;
     return 0;
 }
 

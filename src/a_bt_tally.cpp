@@ -43,13 +43,28 @@ static bool any_condition(const BT_MEM* b)
     return false;
 }
 
-int bt_tly_normal(BT_MEM* b, int i, const char*, const char* value)
+// What page code has put out stays out, whatever the rule says.
+static void show_by_rule(BT_MEM* b, bool (*is_disabled)(const BT_MEM* b))
+{
+    bt_show_enabled(b, is_disabled(b) || b->disable[BT_COMMANDS - 1]);
+}
+
+// The tally function of all families but their rule. Dependencies behind the last one that has a
+// part in the rule only reach the knobs.
+static int follow_rule(BT_MEM* b, int i, const char* value, bool (*is_disabled)(const BT_MEM* b),
+                       int last = BT_COMMANDS - 1)
 {
     if (i == 0)
         return own_tally(b, value);
-    bt_show_enabled(b, any_condition(b));
+    if (i <= last)
+        show_by_rule(b, is_disabled);
     bt_follow_knobs(b, i);
     return 1;
+}
+
+int bt_tly_normal(BT_MEM* b, int i, const char*, const char* value)
+{
+    return follow_rule(b, i, value, any_condition);
 }
 
 int bt_tly_tab(BT_MEM*, int, const char*, const char*)
@@ -59,49 +74,40 @@ int bt_tly_tab(BT_MEM*, int, const char*, const char*)
 
 // --- The others differ in how they combine what they depend on ---
 
-// What page code has put out stays out, whatever the rule says.
-static int depend(BT_MEM* b, int i, bool disabled)
+static bool both_conditions(const BT_MEM* b)
 {
-    bt_show_enabled(b, disabled || b->disable[BT_COMMANDS - 1]);
-    bt_follow_knobs(b, i);
-    return 1;
-}
-
-// A dependency that has no part in the rule only reaches the knobs.
-static int depend_no_part(BT_MEM* b, int i)
-{
-    bt_follow_knobs(b, i);
-    return 1;
+    return b->disable[1] && b->disable[2];
 }
 
 int bt_tly_trans_dmewipeadj(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    return depend(b, i, b->disable[1] && b->disable[2]);
+    return follow_rule(b, i, value, both_conditions);
 }
 
-int bt_tly_graphic(BT_MEM* b, int i, const char* path, const char* value)
+int bt_tly_graphic(BT_MEM* b, int i, const char*, const char* value)
 {
-    return bt_tly_trans_dmewipeadj(b, i, path, value);
+    return follow_rule(b, i, value, both_conditions);
+}
+
+static bool is_not_lit_alone(const BT_MEM* b)
+{
+    return b->tally[1][0] != 't' || strcmp(b->tally[2], "null") != 0;
 }
 
 int bt_tly_lightptnbar(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    const bool usable = b->tally[1][0] == 't' && strcmp(b->tally[2], "null") == 0;
-    return depend(b, i, !usable);
+    return follow_rule(b, i, value, is_not_lit_alone);
+}
+
+static bool has_no_shadow_source(const BT_MEM* b)
+{
+    const bool four_channels = SYS_CombineCh[1] && SYS_CombineCh[2] && SYS_CombineCh[3];
+    return b->disable[1] && (!four_channels || b->disable[2]);
 }
 
 int bt_tly_globaleffect_shadow_source(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    if (i > 2)
-        return depend_no_part(b, i);
-    const bool four_channels = SYS_CombineCh[1] && SYS_CombineCh[2] && SYS_CombineCh[3];
-    return depend(b, i, b->disable[1] && (!four_channels || b->disable[2]));
+    return follow_rule(b, i, value, has_no_shadow_source, 2);
 }
 
 // --- By the number of the effects-unit wipe ---
@@ -132,59 +138,77 @@ static bool wipe_has_transparency(int n)
     }
 }
 
+static bool has_no_size(const BT_MEM* b)
+{
+    return !wipe_has_size(wipe_number(b->tally[1]));
+}
+
+static bool has_no_transparency(const BT_MEM* b)
+{
+    return !wipe_has_transparency(wipe_number(b->tally[1]));
+}
+
 int bt_tly_dmewipe_size(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    return depend(b, i, !wipe_has_size(wipe_number(b->tally[1])));
+    return follow_rule(b, i, value, has_no_size);
 }
 
 int bt_tly_dmewipe_trans(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    return depend(b, i, !wipe_has_transparency(wipe_number(b->tally[1])));
+    return follow_rule(b, i, value, has_no_transparency);
 }
 
 // --- Keys ---
 
 // A chroma key with fine key on has no edge.
+static bool has_no_edge(const BT_MEM* b)
+{
+    return b->tally[1][0] == 't' && strcmp(b->tally[2], "Chroma") == 0;
+}
+
+static bool has_no_edge_fill(const BT_MEM* b)
+{
+    const int* d = b->disable;
+    return d[1] && (d[2] || d[3]) && (d[4] || d[5]);
+}
+
+static bool has_no_drop(const BT_MEM* b)
+{
+    const int* d = b->disable;
+    return d[1] || (d[2] && d[3]) || d[4];
+}
+
 int bt_tly_edge(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    if (i > 2)
-        return depend_no_part(b, i);
-    return depend(b, i, b->tally[1][0] == 't' && strcmp(b->tally[2], "Chroma") == 0);
+    return follow_rule(b, i, value, has_no_edge, 2);
 }
 
 int bt_tly_edgeadj(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    const int* d = b->disable;
-    return depend(b, i, d[1] && (d[2] || d[3]) && (d[4] || d[5]));
+    return follow_rule(b, i, value, has_no_edge_fill);
 }
 
 int bt_tly_keydrop(BT_MEM* b, int i, const char*, const char* value)
 {
-    if (i == 0)
-        return own_tally(b, value);
-    const int* d = b->disable;
-    return depend(b, i, d[1] || (d[2] && d[3]) || d[4]);
+    return follow_rule(b, i, value, has_no_drop);
 }
 
 // A progressive picture of 1080 lines is too large for the frame store of all units but the
 // largest.
-int bt_tly_freeze(BT_MEM* b, int i, const char*, const char* value)
+static bool cannot_freeze(const BT_MEM* b)
 {
     constexpr int LINES_1080P = 6;
-    if (i == 0)
-        own_tally(b, value);
     const bool too_large =
         SYS_RefSwrActiveLine == LINES_1080P && getDmeReferenceModel() != DEVTYPE_ZRD52;
-    depend(b, i, too_large || any_condition(b));
-    return i != 0;
+    return too_large || any_condition(b);
+}
+
+// No tally tells that the reference unit is another one now: its own comes whenever it may be.
+int bt_tly_freeze(BT_MEM* b, int i, const char*, const char* value)
+{
+    if (i == 0)
+        show_by_rule(b, cannot_freeze);
+    return follow_rule(b, i, value, cannot_freeze);
 }
 
 // --- Corner pinning ---

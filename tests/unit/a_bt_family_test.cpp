@@ -1,4 +1,6 @@
 #include "a_bt_page.h"
+#include "device.h"
+#include <cstring>
 
 struct ButtonFamily : ButtonPage {
     BT_TBL rows[BT_MAX + 1];
@@ -59,10 +61,204 @@ TEST_F(ButtonFamily, VisibilityFollowsTheRuleOfTheFamily)
     }
 }
 
+TEST_F(ButtonFamily, AWipeHasSizeAndTransparencyByItsNumber)
+{
+    static const struct {
+        const char* number;
+        bool size, transparency;
+    } cases[] = {
+        {"1200", false, false}, {"1201", true, true},   {"1208", true, true},
+        {"1209", false, false}, {"1220", false, false}, {"1221", true, true},
+        {"1224", true, true},   {"1225", false, false}, {"1251", true, true},
+        {"1900", false, false}, {"1901", true, true},   {"1999", true, true},
+        {"2000", false, false}, {"1031", false, true},  {"1381", false, true},
+        {"1391", false, true},  {"1392", false, false}, {"1393", false, true},
+        {"1394", false, true},  {"1396", false, true},  {"", false, false},
+        {"7201", true, true},   {"7000", false, false}, {"7031", false, true}, // other channels
+    };
+    for (const auto& c : cases) {
+        OpenTally(bt_tly_dmewipe_size, {""});
+        Dependency(1, c.number);
+        EXPECT_EQ(BT_GetVisible(17), c.size ? BT_ENABLED : BT_DISABLED) << c.number;
+        OpenTally(bt_tly_dmewipe_trans, {""});
+        Dependency(1, c.number);
+        EXPECT_EQ(BT_GetVisible(17), c.transparency ? BT_ENABLED : BT_DISABLED) << c.number;
+    }
+}
+
+TEST_F(ButtonFamily, ABarIsForALightThatIsOnWithoutAPattern)
+{
+    static const struct {
+        const char* light;
+        const char* pattern;
+        int visible;
+    } cases[] = {{"true", "null", BT_ENABLED},
+                 {"false", "null", BT_DISABLED},
+                 {"true", "3", BT_DISABLED},
+                 {"true", "", BT_DISABLED}};
+    for (const auto& c : cases) {
+        OpenTally(bt_tly_lightptnbar, {"", ""});
+        Dependency(1, c.light);
+        Dependency(2, c.pattern);
+        EXPECT_EQ(BT_GetVisible(17), c.visible) << c.light << " " << c.pattern;
+    }
+}
+
+TEST_F(ButtonFamily, AShadowHasASourceBesideItsOwnOnlyInFourCombinedChannels)
+{
+    const int combined[] = {SYS_CombineCh[1], SYS_CombineCh[2], SYS_CombineCh[3]};
+    for (const bool four : {true, false}) {
+        SYS_CombineCh[1] = SYS_CombineCh[2] = 1;
+        SYS_CombineCh[3] = four;
+        OpenTally(bt_tly_globaleffect_shadow_source, {"x", "x", "x"});
+        Dependency(1, "x");
+        EXPECT_EQ(BT_GetVisible(17), four ? BT_ENABLED : BT_DISABLED);
+        Dependency(2, "x");
+        EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+        Dependency(1, "");
+        EXPECT_EQ(BT_GetVisible(17), BT_ENABLED);
+        Dependency(3, "x");
+        EXPECT_EQ(BT_GetVisible(17), BT_ENABLED) << "the third one has no part in it";
+    }
+    std::copy(std::begin(combined), std::end(combined), SYS_CombineCh + 1);
+}
+
+TEST_F(ButtonFamily, AFreezeNeedsAUnitThatHoldsThePicture)
+{
+    const auto line = SYS_RefSwrActiveLine;
+    const auto unit = SYS_MyDme1;
+    const auto type = DEV_Dme[0].type;
+    SYS_MyDme1 = 0;
+    for (const bool is_large : {true, false}) {
+        DEV_Dme[0].type = is_large ? DEVTYPE_ZRD52 : DEVTYPE_UNKNOWN;
+        for (const bool is_1080p : {true, false}) {
+            SYS_RefSwrActiveLine = is_1080p ? 6 : 5;
+            OpenTally(bt_tly_freeze, {"x"});
+            Dependency(0, "true");
+            EXPECT_EQ(BT_GetVisible(17), is_1080p && !is_large ? BT_DISABLED : BT_ENABLED)
+                << "its own tally decides, too";
+            EXPECT_EQ(BT_GetOnOff(17), 1);
+            Dependency(1, "x");
+            EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+        }
+    }
+    SYS_RefSwrActiveLine = line;
+    SYS_MyDme1 = unit;
+    DEV_Dme[0].type = type;
+}
+
 TEST_F(ButtonFamily, WhatPageCodePutsOutStaysOut)
 {
     OpenTally(bt_tly_dmewipe_size, {""});
     BT_SetDisable(17, 1);
     Dependency(1, "1201"); // this wipe has a size
     EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+}
+
+// --- Select ---
+
+TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBank)
+{
+    static const struct {
+        const char* bank;
+        uint32_t page;
+    } cases[] = {{"M/E-1", 0x11730000}, {"M/E-2", 0x12730000}, {"M/E-3", 0x13730000},
+                 {"M/E-4", 0x81730000}, {"M/E-5", 0x82730000}, {"PGM/PST", 0x14730000},
+                 {"Aux", 0x11730000}};
+    rows[0] = Button(17, BT_JUMP, {"#11730000"});
+    rows[0].select_func = bt_sel_jmptokeypriority;
+    rows[1] = {.id = -1};
+    for (const auto& c : cases) {
+        OpenTree({c.bank, "X"}, 0x11110000, rows);
+        Press(17);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), c.page) << c.bank;
+    }
+}
+
+// --- Draw ---
+
+TEST_F(ButtonFamily, TriggerInputsAreDrawnAndOtherCaptionsWritten)
+{
+    static const char* const captions[] = {"_RISING", "_FALLING", "_LEVEL", "_ANY", "_OTHER", ""};
+    std::vector<std::vector<uint32_t>> pictures;
+    for (const char* caption : captions) {
+        rows[0] = Button(17, BT_TOGGLE, {"~@0#*"});
+        rows[0].caption = caption;
+        rows[1] = {.id = -1};
+        Open(rows);
+        Pass(10);
+        const BT_MEM* b = bt_find(17);
+        for (const auto& other : pictures)
+            EXPECT_NE(PixelsIn({b->x1, b->y1, b->x2, b->y2}), other) << caption;
+        pictures.push_back(PixelsIn({b->x1, b->y1, b->x2, b->y2}));
+        const auto white = [&](int x, int y) { return PixelAt(b->x1 + x, b->y1 + y) == 0xFFFFFF; };
+        // The middle of the upper and of the lower line, and the feet.
+        EXPECT_EQ(white(45, 15), !strcmp(caption, "_RISING") || !strcmp(caption, "_LEVEL"))
+            << caption;
+        if (!strcmp(caption, "_FALLING")) {
+            EXPECT_TRUE(white(45, 35) && white(22, 15) && white(58, 15) && white(30, 25));
+        }
+        if (!strcmp(caption, "_ANY")) {
+            EXPECT_TRUE(white(32, 15) && white(51, 34) && white(32, 35) && white(51, 16));
+        }
+    }
+}
+
+TEST_F(ButtonFamily, ALightThatIsActiveHasABar)
+{
+    constexpr uint32_t ORANGE = 0xE48B1B, DARK = 0xC86E05;
+    rows[0] = Button(17, BT_JUMP, {"#11110000"});
+    rows[0].caption = "Light 2";
+    rows[0].draw_func = bt_drw_normal_light;
+    rows[1] = {.id = -1};
+    GL_LightActive[1] = 1;
+    static const struct {
+        int reference;
+        int model; // of the first unit; 5 has no lighting
+        bool bar;
+    } cases[] = {{0x01, 1, true}, {0x01, 5, false}, {0x00, 1, false}, {0x10, 5, true}};
+    for (const auto& c : cases) {
+        SYS_DMEReference = c.reference;
+        GL_DmeModel[0] = c.model;
+        GL_DmeModel[1] = 1;
+        Open(rows);
+        Pass(10);
+        const BT_MEM* b = bt_find(17);
+        EXPECT_EQ(PixelAt(b->x1 + 40, b->y1 + 54) == ORANGE, c.bar) << c.reference << c.model;
+        EXPECT_EQ(PixelAt(b->x1 + 40, b->y1 + 55) == DARK, c.bar);
+    }
+    GL_LightActive[1] = 0;
+    SYS_DMEReference = GL_DmeModel[0] = GL_DmeModel[1] = 0;
+}
+
+TEST_F(ButtonFamily, DevelopersSeeWhatWasNeverAnswered)
+{
+    const auto marks = [&](int type, int debug) {
+        GL_DebugMode = debug;
+        rows[0] = Button(17, type, {"~@0#*"});
+        rows[1] = {.id = -1};
+        Open(rows);
+        Pass(10);
+        const auto pixels = PixelsIn({rows[0].x1 + 70, rows[0].y1 + 35, rows[0].x2, rows[0].y2});
+        return std::count(pixels.begin(), pixels.end(), 0xFFC800u) > 0;
+    };
+    EXPECT_TRUE(marks(BT_TOGGLE, 1));
+    EXPECT_FALSE(marks(BT_TOGGLE, 0));
+    EXPECT_FALSE(marks(BT_JUMP, 1)) << "expects no answer";
+    EXPECT_TRUE(marks(BT_FIND, 1));
+    GL_DebugMode = 0;
+}
+
+TEST_F(ButtonFamily, AButtonOfTheNextVersionThatIsCutOffStaysSo)
+{
+    rows[0] = Button(17, BT_TOGGLE, {"~@0#*"});
+    rows[0].draw_func = bt_drw_normal_nextver;
+    rows[1] = {.id = -1};
+    GL_NextVersion = 1;
+    Open(rows);
+    Pass(10);
+    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+    BT_SetCutoff(17, 1);
+    Pass(10);
+    EXPECT_EQ(BT_GetVisible(17), BT_CUTOFF);
 }

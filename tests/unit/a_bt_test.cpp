@@ -216,6 +216,123 @@ TEST_F(Buttons, APageRemembersWhoHadTheKnobs)
     EXPECT_EQ(BT_GetKnobAssign(), 37);
 }
 
+// --- Subscriptions that differ ---
+
+struct SpecialRows : ButtonPage {
+    BT_TBL rows[BT_MAX + 3];
+};
+
+TEST_F(SpecialRows, WhatIsReadOnceIsNeitherAddedNorRemoved)
+{
+    rows[0] = Button(17, BT_TOGGLE, {"~@A#*", "~@B#", "~@C#"});
+    rows[0].no_add = 2; // from the second command on
+    rows[1] = {.id = -1};
+    BT_Create(rows, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@A", "read M/E-1@Key1@Type@B",
+                                                  "read M/E-1@Key1@Type@C"));
+    BT_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
+}
+
+TEST_F(SpecialRows, AnOlderFrameMemoryHasNoResizerToFollow)
+{
+    rows[0] = Button(17, BT_TOGGLE, {"~@Resizer@Mode#*", "~@Rszr#", "~@Other#"});
+    rows[1] = {.id = -1};
+    for (const int v6 : {0, 1}) {
+        SYS_FmemV6 = v6;
+        BT_Create(rows, 0);
+        const auto sent = TakeQueuedCommands();
+        EXPECT_EQ(sent.size(), v6 ? 3u : 1u);
+        EXPECT_THAT(sent, Contains("add M/E-1@Key1@Type@Other"));
+        BT_Create(nullptr, 0);
+        (void)TakeQueuedCommands();
+    }
+    SYS_FmemV6 = 0;
+}
+
+TEST_F(SpecialRows, APageHasThirtyTwoButtonsAndNoMore)
+{
+    for (int i = 0; i < BT_MAX + 2; i++)
+        rows[i] = Button(17 + i, BT_TOGGLE, {""});
+    rows[BT_MAX + 2] = {.id = -1};
+    Open(rows);
+    EXPECT_TRUE(bt_find(17 + BT_MAX - 1));
+    EXPECT_FALSE(bt_find(17 + BT_MAX));
+    EXPECT_EQ(bt_first()[BT_MAX].id, -1);
+}
+
+TEST_F(SpecialRows, ALongActionLooksPushedForASecond)
+{
+    rows[0] = Button(17, BT_ACTION, {"~@A#*"});
+    rows[1] = Button(18, BT_TOGGLE, {"~@B#*"});
+    rows[2] = {.id = -1};
+    OpenTree({"Copy", "X"}, 0x31160000, rows);
+    Press(17);
+    Press(18);
+    Pass(999);
+    EXPECT_GT(bt_find(17)->pushed, 0);
+    EXPECT_EQ(bt_find(18)->pushed, 0) << "only actions run that long";
+    Pass(1);
+    EXPECT_EQ(bt_find(17)->pushed, 0);
+}
+
+TEST_F(SpecialRows, ButtonsThatOverlapBothAct)
+{
+    rows[0] = Button(17, BT_ACTION, {"~@A#*"});
+    rows[1] = Button(17 + 64, BT_ACTION, {"~@B#*"});
+    rows[2] = {.id = -1};
+    Open(rows);
+    (void)TakeQueuedCommands();
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("put M/E-1@Key1@Type@A#true", "put M/E-1@Key1@Type@B#true"));
+}
+
+// --- What changes on a page that stands ---
+
+TEST_F(SpecialRows, WhatMovesOrGoesIsPaintedInOnePass)
+{
+    rows[0] = Button(17, BT_TOGGLE, {""});
+    rows[1] = Button(18, BT_TOGGLE, {""});
+    rows[0].group = rows[1].group = "Frame";
+    rows[2] = {.id = -1};
+    Open(rows);
+    Pass(10);
+    const Rect first = {rows[0].x1, rows[0].y1, rows[0].x2, rows[0].y2};
+    const auto key = PixelsIn(first);
+    const auto black = std::vector<uint32_t>(key.size(), 0);
+    EXPECT_EQ(PixelAt(rows[0].x1 - 5, rows[0].y1 + 10), 0x3C3C3Cu) << "the frame";
+
+    BT_SetCutoff(18, 1);
+    Pass(10);
+    EXPECT_EQ(PixelsIn(first), key) << "no black field between";
+    EXPECT_EQ(PixelsIn({rows[1].x1, rows[1].y1, rows[1].x2, rows[1].y2}), black);
+    EXPECT_EQ(PixelAt(rows[0].x2 + 4, rows[0].y1 + 10), 0x3C3C3Cu) << "the frame is narrower";
+    EXPECT_EQ(bt_find(17)->redraw, 0) << "and nothing is painted twice";
+
+    BT_SetPosition(17, 400, 400, 484, 465);
+    BT_SetGroup(17, "");
+    Pass(10);
+    EXPECT_EQ(PixelsIn({400, 400, 484, 465}), key);
+    EXPECT_EQ(PixelsIn(first), black) << "the old place is erased";
+    EXPECT_EQ(PixelAt(rows[0].x1 - 5, rows[0].y1 + 10), 0u) << "so is the frame";
+}
+
+TEST_F(Buttons, AllButtonsGoOutTogetherAndNobodyKeepsTheKnobs)
+{
+    for (const int owner : {17, 35}) { // with boxes, and with a link to none
+        Open(table);
+        BT_SetKnobAssign(owner);
+        BT_SetCutoff(20, 1);
+        BT_SetAllDisable(1);
+        EXPECT_EQ(BT_GetKnobAssign(), -1) << owner;
+        EXPECT_EQ(BT_GetVisible(18), BT_DISABLED);
+        EXPECT_EQ(BT_GetVisible(20), BT_CUTOFF) << "what is not there stays away";
+        BT_SetAllDisable(0);
+        EXPECT_EQ(BT_GetVisible(18), BT_ENABLED);
+    }
+}
+
 // --- Operations ---
 
 TEST_F(Buttons, ACommandCanBeReplaced)

@@ -97,3 +97,21 @@ TEST(Graphics, OnlyNumbersInRangeBecomePatterns)
     EXPECT_EQ(WidthOf(G_WipePtn[9]), 99);
     EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0);
 }
+
+// The smaller model has pictures of its own for some wipes; one whose file is missing is no wipe of
+// the larger one.
+TEST(Graphics, TheSmallerModelReplacesItsOwnPictures)
+{
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    SaveBitmap("ptn/1001", 20);
+    SaveBitmap("ptn/2001", 21);
+    SaveBitmap("ptn/2001e", 22);
+    SaveBitmap("ptn/2002", 23);
+    LoadGraphics();
+    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 21);
+    LoadDmeWipePtn_KTR20();
+    EXPECT_EQ(WidthOf(G_WipePtn[1001]), 20) << "not one of them";
+    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 22);
+    EXPECT_EQ(G_WipePtn[2002], nullptr);
+}
