@@ -27,7 +27,7 @@ int PaneYesNo_Create(const char* caption, int icon, const char* mes);      // re
 int PaneProgress_Create(const char* caption, const char* mes, int cancel); // result 1: cancelled
 // Show a progress; a null text leaves the line as it is. -1 unknown id, -2 wrong type.
 int PaneProgress_SetProg(int id, int percent, const char* text);
-int PaneProgress_SetRouteLamp(int id, int on); // ROUTE_LAMP_; -1, -2 the same
+int PaneProgress_SetRouteLamp(int id, int lamp); // ROUTE_LAMP_; -1, -2 the same
 // Append to a message, yes/no or progress pane and show the end of its text. -1 unknown, -2 wrong
 // type.
 int Pane_AppendMessage(int id, const char* text);
@@ -47,8 +47,8 @@ int PaneDirectory_Create(
 int PaneDirectory_Create_FolderPopup(int n, const BTNSEL* entries); // of up to 30
 
 // Router levels 0 to 7, bit n for level n. Single: the first press closes it, and its result is the
-// level + 1. Otherwise "Enter" takes the selection over; closed in any other way it stays as it
-// was.
+// level + 1. Otherwise "Enter" takes the selection over, result 1; closed by a press outside, 0, or
+// in any other way it stays as it was.
 int PaneRTRLvl_Create(int single);
 void PaneRTRLvl_SetSelect(int bits);
 void PaneRTRLvl_LvlSetSelect(int level, int on);
@@ -72,13 +72,13 @@ int keyframerunctrl_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx,
 int PaneProgress_RestoreCreate(const char* caption, const char* mes, int cancel);
 int PaneProgress_RestoreInit();
 int PaneProgress_RestoreSetProg(int percent, const char* text);
-int PaneProgress_RestoreSetRouteLamp(int on);
+int PaneProgress_RestoreSetRouteLamp(int lamp);
 int PaneProgress_RestoreAppendMessage(const char* text);
 int PaneProgress_RestoreQuit(); // -1 when its pane is not open
 int PaneProgress_HDD_RestoreCreate(const char* caption, const char* mes, int cancel);
 int PaneProgress_HDD_RestoreInit();
 int PaneProgress_HDD_RestoreSetProg(int percent, const char* text);
-int PaneProgress_HDD_RestoreSetRouteLamp(int on);
+int PaneProgress_HDD_RestoreSetRouteLamp(int lamp);
 int PaneProgress_HDD_RestoreAppendMessage(const char* text);
 int PaneProgress_HDD_RestoreQuit();
 
@@ -99,8 +99,9 @@ int PaneProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 // regions --- Everything answers for an unknown group or place, too: 0, -1 where said, or "".
 constexpr int REGION_GROUPS = 47;
 int PaneRegion_InitID(int grp); // the cells of the units that exist; -1 unknown group
-int PaneRegion_Create(int grp,
-                      int single); // result: single: the region's id; otherwise 1 for "Enter"
+int PaneRegion_Create(
+    int grp,
+    int single); // result: single: the region's id; otherwise 1 for "Enter". 0: left
 int PaneRegion_GetMainMax(int grp);
 int PaneRegion_GetGrpID(int grp, int main, int sub); // 0 behind the last
 const char* PaneRegion_GetGrpName(int grp, int main);

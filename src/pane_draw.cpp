@@ -252,7 +252,7 @@ void pane_draw_message(PANE* p)
 static void draw_route_lamp(const PANE& p)
 {
     const int lamp = p.each.progress.lamp;
-    if ((lamp & ROUTE_LAMP_CONTROL) == 0)
+    if (lamp != ROUTE_LAMP_CONTROL && lamp != ROUTE_LAMP_DATA)
         return;
     const int x = p.x + 297;
     const int y = p.y + 97;

@@ -238,15 +238,15 @@ int PaneProgress_SetProg(int id, int percent, const char* text)
     return 0;
 }
 
-int PaneProgress_SetRouteLamp(int id, int on)
+int PaneProgress_SetRouteLamp(int id, int lamp)
 {
     PANE* pane;
     if (const int error = find_progress(id, &pane))
         return error;
     auto& progress = pane->each.progress;
-    if (progress.lamp == on)
+    if (progress.lamp == lamp)
         return 0;
-    progress.lamp = on;
+    progress.lamp = lamp;
     progress.prog_redraw = 1;
     return 0;
 }

@@ -48,9 +48,9 @@ static int restore_set_prog(SavedProgress* saved, int percent, const char* text)
     return 0;
 }
 
-static int restore_set_lamp(SavedProgress* saved, int on)
+static int restore_set_lamp(SavedProgress* saved, int lamp)
 {
-    saved->lamp = on;
+    saved->lamp = lamp;
     return 0;
 }
 
@@ -84,9 +84,9 @@ int PaneProgress_RestoreSetProg(int percent, const char* text)
     return restore_set_prog(&pane_restore, percent, text);
 }
 
-int PaneProgress_RestoreSetRouteLamp(int on)
+int PaneProgress_RestoreSetRouteLamp(int lamp)
 {
-    return restore_set_lamp(&pane_restore, on);
+    return restore_set_lamp(&pane_restore, lamp);
 }
 
 int PaneProgress_RestoreAppendMessage(const char* text)
@@ -114,9 +114,9 @@ int PaneProgress_HDD_RestoreSetProg(int percent, const char* text)
     return restore_set_prog(&pane_restore_hdd, percent, text);
 }
 
-int PaneProgress_HDD_RestoreSetRouteLamp(int on)
+int PaneProgress_HDD_RestoreSetRouteLamp(int lamp)
 {
-    return restore_set_lamp(&pane_restore_hdd, on);
+    return restore_set_lamp(&pane_restore_hdd, lamp);
 }
 
 int PaneProgress_HDD_RestoreAppendMessage(const char* text)
