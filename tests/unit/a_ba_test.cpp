@@ -286,9 +286,8 @@ TEST_F(BaseAreaTest, ARecordedMenuMacroTakesTheKeysOver)
     GL_MenuMacro_Edit = 1;
     OpenBase({"File", "All"}, 0x71110000);
     GL_PrevPage = 0x33110000;
-    EXPECT_EQ(PageOf({540, 30}), NONE) << "its page is asked for at once";
     Touch({540, 30});
-    EXPECT_EQ(std::exchange(GL_CreatePage, NONE), 0x71440002u);
+    EXPECT_EQ(std::exchange(GL_CreatePage, NONE), 0x71440002u) << "at once";
     EXPECT_EQ(PageOf({580, 30}), NONE) << "beside the key";
     EXPECT_EQ(PageOf(PREV), NONE) << "the key stores an event";
     EXPECT_EQ(PageOf(LOWER_LEFT), 0x71440002u);

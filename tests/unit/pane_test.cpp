@@ -318,8 +318,8 @@ TEST_F(Panes, TheChoiceOfAPopupThatStandsSaysNothing)
         int (*open)(int, int, const BTNSEL*);
         int first_x, second_x, y;
     } cases[] = {
-        {"popup", PanePopup_Create, 311 + 30, 311 + 108, 230},
-        {"frame memory out", FMOutPopup_Create, 284 + 40, 284 + 145, 225},
+        {"popup", PanePopup_Create, 354, 432, 250},
+        {"frame memory out", FMOutPopup_Create, 330, 440, 240},
     };
     for (const auto& c : cases) {
         const int id = c.open(2, 2, choices); // the second one is on
@@ -343,14 +343,14 @@ TEST_F(Panes, ButtonsOfThePopupOnTopCanBeTakenAway)
     EXPECT_EQ(PanePopup_BtnDisable(11, 1), 0);
     EXPECT_EQ(PanePopup_BtnCutOff(14, 1), 0);
     EXPECT_EQ(PanePopup_BtnCutOff(99, 1), -1);
-    Touch(284 + 40, 225);
-    Touch(284 + 145, 275);
+    Touch(330, 240);
+    Touch(440, 290);
     EXPECT_THAT(Told(), IsEmpty());
-    EXPECT_EQ(PixelAt(284 + 145, 275), 0x2A2F32u) << "the ground shows where it was";
+    EXPECT_EQ(PixelAt(440, 290), 0x2A2F32u) << "the ground shows where it was";
     EXPECT_EQ(PanePopup_BtnDisable(11, 0), 0);
-    Touch(284 + 40, 225);
+    Touch(330, 240);
     EXPECT_EQ(Last(), Quit(upper, 11));
-    Touch(311 + 30, 230);
+    Touch(354, 250);
     EXPECT_EQ(Last(), Quit(lower, 11)) << "the lower one was not meant";
 }
 
