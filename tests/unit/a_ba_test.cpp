@@ -3,6 +3,7 @@
 #include "a_pc.h"
 #include "device.h"
 #include "err.h"
+#include "me_bank.h"
 #include "pane.h"
 #include "setup_index.h"
 #include "window.h"
@@ -175,7 +176,7 @@ TEST_F(SetupLockKey, KeyPriorityShowsTheLockInPlaceOfDefaultRecall)
     int pages = 0;
     for (const PAGE* row = PageTable; row->id != PAGE_END; row++) {
         const uint32_t tab = row->id >> 16 & 0xFF;
-        if (tab != 0x73 || Page_MeIndex(row->id) < 0 || !row->tree[2] ||
+        if (tab != 0x73 || !MeBank_OfPage(row->id) || !row->tree[2] ||
             strcmp(row->tree[2], "Key Priority") != 0)
             continue;
         pages++;
