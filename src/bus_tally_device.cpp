@@ -123,12 +123,12 @@ static void set_video_format(DEVICE& dev, bool is_panel, const char* frequency, 
 TallyRoute tally_video_format(const Tally& t)
 {
     Parts p;
-    if (SplitValue(p, t.value, 2) < 2)
-        return TallyRoute::Pass;
+    const int parts = SplitValue(p, t.value, 2);
+    const char* size = parts < 2 ? "" : p.v[1]; // a missing size is an unknown one
     const char* unit = last_segment(t.path);
     DEVICE* dev = Device_ByName(unit);
-    if (dev)
-        set_video_format(*dev, is_class(unit, "PNL"), p.v[0], p.v[1]);
+    if (dev && *t.value)
+        set_video_format(*dev, is_class(unit, "PNL"), p.v[0], size);
     DeviceStructure();
     return TallyRoute::Pass;
 }
@@ -347,7 +347,7 @@ TallyRoute tally_dme_interface(const Tally& t)
     return TallyRoute::Pass;
 }
 
-constexpr int DME_MODELS = 9; // 0 unknown, 1..8
+constexpr int DME_MODELS = 17; // 0 unknown, 1..8 known today, the others none of those
 
 TallyRoute tally_dme_model(const Tally& t)
 {
@@ -376,7 +376,7 @@ TallyRoute tally_hdd_busy(const Tally& t)
 // The option word of the first switcher's colour-correction and memory board.
 TallyRoute tally_ccr_config(const Tally& t)
 {
-    const uint32_t options = uint32_t(NumberIn(t.value, 0, UINT32_MAX, 0));
+    const uint32_t options = uint32_t(NumberIn(t.value, 0, UINT32_MAX));
     SYS_FmemAncillary = options >> 2 & 1;
     GL_DmeIFType = options >> 3 & 1;
     // With ancillary data there are all pairs to choose from, without it the first two.

@@ -62,7 +62,8 @@ static void turn_menu_over()
 {
     OmoteChange = 1;
     OmoteFlag = !OmoteFlag;
-    GL_CreatePage = OmoteFlag ? GL_OmoteNowPage : GL_UraNowPage;
+    // The page of the other side may have gone with its bank since; a side always has a page.
+    GL_CreatePage = Page_Nearest(OmoteFlag ? GL_OmoteNowPage : GL_UraNowPage);
     Log_Output(LOG_LIFE, MOD_PAGE, "Create %s Page: %Xh", OmoteFlag ? "Omote" : "Ura",
                GL_CreatePage);
 }
@@ -128,7 +129,7 @@ static uint32_t page_of_number(const char* text)
     uint32_t high = 0;
     uint32_t low = 0;
     int digits = 0;
-    text = read_hex(text, 4, &high, &digits);
+    text = read_hex(text + strspn(text, " "), 4, &high, &digits);
     if (digits == 0)
         return 0;
     if (*text == '.')

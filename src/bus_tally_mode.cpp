@@ -31,16 +31,6 @@ static bool contains(const char* text, const char* part)
     return strstr(text, part) != nullptr;
 }
 
-// The page itself where it still exists, else its tab, its menu, the top menu.
-static uint32_t nearest_page(uint32_t id)
-{
-    const uint32_t candidates[] = {id, id & 0xFFFF0000, (id & 0xFF000000) | 0x00110000};
-    for (const uint32_t candidate : candidates)
-        if (SearchPageTable(candidate))
-            return candidate;
-    return PAGE_TOP;
-}
-
 TallyRoute tally_operation_mode(const Tally& t)
 {
     if (SYS_MyPnl < 0 || SYS_MyPnl >= UNIT_MAX || !Same(t.rest, SYS_PnlName[SYS_MyPnl]))
@@ -61,7 +51,7 @@ TallyRoute tally_operation_mode(const Tally& t)
         Net_SendCommandFormat("add %s", path);
     DeviceStructure();
     if (memcmp(before, after, sizeof before) != 0 && Page && GL_CreatePage == 0)
-        GL_CreatePage = nearest_page(GL_NowPage);
+        GL_CreatePage = Page_Nearest(GL_NowPage);
     return TallyRoute::Pass;
 }
 
@@ -125,11 +115,11 @@ constexpr uint32_t FIRST_KEY_PAGE = 0x11110000; // of M/E-1
 static void leave_disabled_bank()
 {
     const MeBank* now = MeBank_OfPage(GL_NowPage);
-    if (!now || SYS_MEOperation[now->place] == 0)
+    if (!now || !MeBank_IsOff(*now))
         return;
     uint32_t page = PAGE_TOP;
     for (int i = now->place + 1; i < ME_COUNT; i++) {
-        if (SYS_MEOperation[i] != 0)
+        if (MeBank_IsOff(me_bank[i]))
             continue;
         page = FIRST_KEY_PAGE + MeBank_Offset(me_bank[i]);
         break;

@@ -53,9 +53,7 @@ int SYS_MyDme2S = -1;
 
 namespace
 {
-enum : int { ACTIVELINE_576I = 2, ACTIVELINE_1080P = 6, FORMAT_SIZE_2160 = 4 };
-constexpr DEVTYPE OLD_SWITCHERS =
-    DEVTYPE_KTR40 | DEVTYPE_KTR40SF | DEVTYPE_LTR50 | DEVTYPE_LTR50SF; // frame memory before V6
+constexpr int FORMAT_SIZE_2160 = 4;
 constexpr DEVTYPE SWITCHERS_3G = DEVTYPE_KTR40G | DEVTYPE_KTR40GSF | DEVTYPE_KTR40E |
                                  DEVTYPE_KTR40X | DEVTYPE_KTR40XSF | DEVTYPE_NTR40;
 constexpr DEVTYPE SMALL_SWITCHER = DEVTYPE_KTR40E; // other pictures for some effects wipes

@@ -119,6 +119,10 @@ extern int SYS_MyDme1S;
 extern int SYS_MyDme2;
 extern int SYS_MyDme2S;
 
+constexpr DEVTYPE OLD_SWITCHERS =
+    DEVTYPE_KTR40 | DEVTYPE_KTR40SF | DEVTYPE_LTR50 | DEVTYPE_LTR50SF; // frame memory before V6
+enum : int { ACTIVELINE_576I = 2, ACTIVELINE_1080P = 6 };              // of DEVICE.activeline
+
 // What DEVICE.function holds.
 enum : int {
     FUNCTION_OPTION_WORD = 0,     // of a panel: the options that it is fitted with, 0 none
@@ -140,7 +144,7 @@ void Get_DeviceType();
 // two, otherwise 0:
 //   "Info@Board Config@Unit Model@SWR1": the model's number from 1 in the order of DEVTYPE
 //   "Info@Board Config@Board Exist Set@SWR1@EEPROM": the entries of DEVICE.function from 0, with
-//   commas between them
+//   commas between them; "...@PNL1" begins with the panel's option word
 int Device_Tally(const char* path, const char* value);
 // The number in a device's id from its eighth character on: 1 in "SWR001D001"; 0 for an id that is
 // too short.

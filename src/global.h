@@ -129,6 +129,7 @@ extern int SYS_KeyTransitionME5;
 extern int SYS_KeyTransitionPP;
 extern int multiprogram2_me[ME_COUNT]; // index 0 is P/P, 1..5 M/E-1 to M/E-5
 // The same index: 1 standard, 2 multi program, 3 multi program 2, 4 DSK.
+constexpr int CONFIG_MULTI_PROGRAM_2 = 3;
 extern int me_config_type[ME_COUNT];
 extern int GL_KeyMax[ME_COUNT]; // keys of a bank, 4 or 8
 extern int GL_KeyRowMode;

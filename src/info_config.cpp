@@ -36,7 +36,6 @@ static constexpr Word config_words[] = {
     {"Multi Program 2", 3},
     {"DSK", 4},
 };
-constexpr int CONFIG_MULTI_PROGRAM_2 = 3;
 
 // Pages that follow the setting themselves, or that must not lose what they are in the middle of.
 static constexpr uint32_t pages_not_reloaded[] = {0x73310000, 0x71610000, 0x73160010, 0x55550000};

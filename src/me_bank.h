@@ -51,6 +51,14 @@ constexpr bool MeBank_IsSub(const MeBank& bank, uint32_t page)
     return page >> 24 == bank.main + (TO_SUB_BANK >> 24);
 }
 
+// The operator may not touch the bank: it is disabled or inhibited, or a single simulcast has taken
+// it. Neither of its sides has a page then.
+inline bool MeBank_IsOff(const MeBank& bank)
+{
+    constexpr int SIMUL_BANKS = 2; // M/E-1 and M/E-2
+    return SYS_MEOperation[bank.place] != 0 || (SYS_Simul != 0 && bank.place < SIMUL_BANKS);
+}
+
 // --- Look-ups; null when it is no bank's ---
 
 // The bank whose main or sub side the page belongs to.

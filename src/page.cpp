@@ -37,6 +37,9 @@ int Ura_History_NowPtr = -1;
 int Omote_History_MaxPtr = -1;
 int Ura_History_MaxPtr = -1;
 char Page_InstallUnit[16] = "";
+uint32_t Page_Changes = 0;
+
+static int side_on_screen = 1; // OmoteFlag of the page that is shown
 
 namespace
 {
@@ -110,9 +113,20 @@ static TOPMENU* menu_row(uint32_t id)
     return nullptr;
 }
 
+// The old page stays on screen, and with it its side.
+static void take_back_turn()
+{
+    if (!OmoteChange)
+        return;
+    OmoteChange = 0;
+    OmoteFlag = side_on_screen;
+}
+
 static void take_page(PAGE* row, uint32_t id)
 {
     Page = row;
+    if (GL_NowPage != id)
+        Page_Changes++;
     if (GL_NowPage != id && IsUserPages(GL_NowPage))
         GL_PrevPage = GL_NowPage;
     GL_NowPage = id;
@@ -121,6 +135,7 @@ static void take_page(PAGE* row, uint32_t id)
 static void take_side(uint32_t id)
 {
     const MenuSide& side = page_side(OmoteFlag);
+    side_on_screen = OmoteFlag;
     if (OmoteChange) {
         OmoteChange = 0;
         GL_PrevPage = *side.prev_page;
@@ -174,6 +189,7 @@ int CreatePage(uint32_t id)
     PAGE* row = SearchPageTable(id);
     if (!row) {
         Log_Output(LOG_LIFE, MOD_PAGE, "Can't find ID: %Xh", id);
+        take_back_turn();
         return -1;
     }
     take_page(row, id);
@@ -205,7 +221,7 @@ void Page_Reset()
     Page = nullptr;
     GL_NowPage = GL_PrevPage = 0;
     GL_NowTree = nullptr;
-    OmoteFlag = 1;
+    OmoteFlag = side_on_screen = 1;
     OmoteChange = 0;
     GL_OmoteNowPage = GL_UraNowPage = PAGE_TOP;
     GL_OmotePrevPage = GL_UraPrevPage = 0;

@@ -87,6 +87,8 @@ extern int Ura_History_MaxPtr;
 // code.
 extern char Page_InstallUnit[16];
 
+extern uint32_t Page_Changes; // how often a page took the place of another one
+
 // --- For the main loop ---
 // Resolve and change the screen. 0, or -1 when there is no such page: the old one stays.
 int CreatePage(uint32_t id);
@@ -105,6 +107,12 @@ uint32_t ResolvePageId(uint32_t id);
 // are.
 uint32_t Page_FirstOfTab(uint32_t id);
 
+// Whether CreatePage would open a page for the request.
+bool Page_Exists(uint32_t id);
+// The page itself where it exists, else its tab, its menu, the top menu.
+uint32_t Page_Nearest(uint32_t id);
+
+// A step passes over pages that this installation has lost since the visit.
 // side is valued as OmoteFlag is. Requests the page; -1 when there is none in that direction.
 int HistoryBack(int side);
 int HistoryFwd(int side);

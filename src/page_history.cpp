@@ -24,12 +24,18 @@ static int place_back(const MenuSide& side)
 {
     if (*side.now < 1)
         return -1;
-    return IsUserPages(GL_NowPage) ? *side.now - 1 : *side.now;
+    int place = IsUserPages(GL_NowPage) ? *side.now - 1 : *side.now;
+    while (place >= 0 && !Page_Exists(side.history[place]))
+        place--;
+    return place;
 }
 
 static int place_fwd(const MenuSide& side)
 {
-    return *side.now < *side.max ? *side.now + 1 : -1;
+    for (int place = *side.now + 1; place <= *side.max; place++)
+        if (Page_Exists(side.history[place]))
+            return place;
+    return -1;
 }
 
 static int history_go(const MenuSide& side, int place)
@@ -65,10 +71,10 @@ uint32_t GetHistoryFwd(int side)
 
 int IsTopHistory(int side)
 {
-    return *page_side(side).now < 1;
+    return place_back(page_side(side)) < 0;
 }
 
 int IsLastHistory(int side)
 {
-    return *page_side(side).now >= *page_side(side).max;
+    return place_fwd(page_side(side)) < 0;
 }

@@ -105,6 +105,20 @@ uint32_t page_correct_request(uint32_t id)
     return correct_key_limit(id);
 }
 
+bool Page_Exists(uint32_t id)
+{
+    return SearchPageTable(page_correct_request(id)) != nullptr;
+}
+
+uint32_t Page_Nearest(uint32_t id)
+{
+    const uint32_t candidates[] = {id, id & 0xFFFF0000, (id & PAGE_BANK_BITS) | 0x00110000};
+    for (const uint32_t candidate : candidates)
+        if (Page_Exists(candidate))
+            return candidate;
+    return PAGE_TOP;
+}
+
 // --- From a template to the page's own bank and key ---
 
 // What the second word of the path adds to an id whose bank is already right.

@@ -16,10 +16,7 @@ namespace
 {
 constexpr int MODEL_QRD51 = 5; // GL_DmeModel: a unit with one channel group
 constexpr int MODEL_ZRD52 = 8;
-constexpr int ACTIVELINE_1080P = 6;
-constexpr int CONFIG_MULTI_PROGRAM_2 = 3; // me_config_type
 
-constexpr DEVTYPE OLD_SWITCHERS = DEVTYPE_KTR40 | DEVTYPE_KTR40SF | DEVTYPE_LTR50 | DEVTYPE_LTR50SF;
 constexpr DEVTYPE KTR40G = DEVTYPE_KTR40G | DEVTYPE_KTR40GSF;
 constexpr DEVTYPE KTR40X_OR_NTR40 = DEVTYPE_KTR40X | DEVTYPE_NTR40;
 
@@ -244,12 +241,6 @@ constexpr Hidden NotThere(uint32_t id, bool (*when)())
 {
     return {id, id, when};
 }
-// A whole bank.
-constexpr Hidden Bank(uint32_t byte, bool (*when)())
-{
-    return {byte << 24, byte << 24, when, 0xFF000000};
-}
-
 bool has_old_switcher()
 {
     return is_one_of(SYS_RefSwrType, OLD_SWITCHERS);
@@ -302,15 +293,6 @@ bool is_not_ntr40()
 {
     return SYS_RefSwrType != DEVTYPE_NTR40;
 }
-bool is_simul()
-{
-    return SYS_Simul != 0;
-}
-template <int N> bool is_me_off()
-{
-    return SYS_MEOperation[N] != 0;
-}
-
 bool has_no_zrd52()
 {
     return std::none_of(DEV_MySwr, DEV_MySwr + SYS_MySwrMax,
@@ -348,15 +330,6 @@ constexpr Hidden hidden[] = {
     NotThere(0x32130000, has_old_switcher),
     {0x71240000, 0x71240001, is_qrd51},
     {0x62500000, 0x62500000, is_qrd51, 0xFFF00000},
-    Bank(0x11, is_simul),
-    Bank(0x12, is_simul),
-    // Keys 5 to 8 of a bank are reached through keys 1 to 4.
-    Bank(0x11, is_me_off<0>),
-    Bank(0x12, is_me_off<1>),
-    Bank(0x13, is_me_off<2>),
-    Bank(0x81, is_me_off<3>),
-    Bank(0x82, is_me_off<4>),
-    Bank(0x14, is_me_off<5>),
     {0x41130000, 0x41170000, is_fxu40a, TAB_MASK},
     {0x41550000, 0x41560000, is_fxu40a, TAB_MASK},
     {0x41730000, 0x41730000, is_fxu40a, TAB_MASK},
@@ -489,6 +462,10 @@ static bool is_hidden(uint32_t id)
             return true;
     }
     if (is_frame_memory_of_me(id) && !is_fmem_v6())
+        return true;
+    const MeBank* bank = MeBank_OfPage(id);
+    // The sub bank too: it is the other side of the same bank, or holds its keys 5 to 8.
+    if (bank && MeBank_IsOff(*bank))
         return true;
     return isNowPageME(id) == 2 && !isMP2SettingME(id);
 }

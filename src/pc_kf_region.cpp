@@ -223,7 +223,6 @@ static bool Button_Discord_check(const RegionKey& key)
 
 static bool is_1080p_of_two_links(const DEVICE* dev)
 {
-    constexpr int ACTIVELINE_1080P = 6;
     return dev && dev->activeline == ACTIVELINE_1080P && dev->framerate >= 25.0;
 }
 

@@ -1,4 +1,5 @@
 #include "bus_probe.h"
+#include "window.h"
 #include <algorithm>
 #include <cstring>
 
@@ -40,7 +41,8 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"Frame Mem@Status@Store Number2 Sense", "99999999999", &SYS_StoreFree2, INT_MAX},
         {SWITCHER "SDI I/F@DME2", "Dedicated", &GL_DmeSdiIF[1], 1},
         {"Engineering Setup@DME@Model@DME1", "2", &DEV_Dme[0].type, DEVTYPE_HLDB7},
-        {"Engineering Setup@DME@Model@DME1", "9", &GL_DmeModel[0], 2},
+        {"Engineering Setup@DME@Model@DME1", "9", &GL_DmeModel[0], 9}, // none of today's
+        {"Engineering Setup@DME@Model@DME1", "17", &GL_DmeModel[0], 9},
         {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &SYS_FmemAncillary, 0},
         {"Info@System Setup Data@FM Data Port Disable@SWR2", "129,3", &GL_FMDataPortDisable[1],
          1 | 3 << 7},
@@ -70,7 +72,11 @@ TEST_F(BusTally, AVideoFormatSetsTheUnitsRateAndLines)
         {"PNL1", "23.976,1080p", 23.976, 6, 24},
         {"PNL1", "---,720p", 30.0, 3, 60},
         {"PNL1", "25/50,3840x2160p", 25.0, 3, 30}, // unknown size
-        {"PNL1", "25/50", 25.0, 3, 30},            // too short
+        {"PNL1", "30/60,1080i", 30.0, 4, 30},
+        {"PNL1", "25/50", 25.0, 4, 30}, // no size
+        {"PNL1", "", 25.0, 4, 30},
+        {"PNL1", "25/50,720p", 25.0, 3, 25},
+        {"PNL1", "25/50", 25.0, 3, 30},
     };
     for (const auto& c : cases) {
         Deliver(std::string(FORMAT "Video Format@") + c.unit, c.value);
@@ -275,6 +281,26 @@ TEST_F(BusTally, ABankThatIsDisabledIsLeftForTheNext)
     }
 }
 
+// In single simulcast M/E-2 is no place to go to, and a bank that was left has no way back.
+TEST_F(BusTally, ADisabledBankIsNotReachedAgain)
+{
+    ASSERT_EQ(CreatePage(0x13110000), 0);
+    ASSERT_EQ(CreatePage(0x15110000), 0); // Key5 of M/E-1
+    SYS_Simul = 1;
+    Deliver(PANEL "Config@M/E Operation@M/E-1", "Disable");
+    EXPECT_EQ(GL_CreatePage, 0x13110000u);
+    ASSERT_EQ(CreatePage(GL_CreatePage), 0);
+    EXPECT_EQ(GetHistoryBack(1), 0x13110000u) << "the step passes over Key5";
+    GL_CreatePage = 0;
+    Deliver("TopMenu", "M/E-1");
+    EXPECT_EQ(CreatePage(GL_CreatePage), -1);
+    EXPECT_EQ(CreatePage(0x15210000), -1);
+    EXPECT_EQ(GL_NowPage, 0x13110000u);
+    SYS_Simul = 0;
+    Deliver(PANEL "Config@M/E Operation@M/E-1", "Enable");
+    EXPECT_EQ(CreatePage(0x15210000), 0);
+}
+
 // --- Buses ---
 
 TEST_F(BusTally, ANameReplacesTheEntryOfItsBus)
@@ -334,6 +360,60 @@ TEST_F(BusTally, AMenuKeyReopensItsPage)
     EXPECT_EQ(probe::Count(MSG_TALLY), 0);
 }
 
+TEST_F(BusTally, AMenuKeyIsRefusedWhileSomethingIsToBeAnswered)
+{
+    EXPECT_EQ(Deliver("TopMenu", "DME"), 1);
+    SYS_4KMode = 1;
+    EXPECT_EQ(Deliver("TopMenu", "DME"), -1);
+    EXPECT_EQ(Deliver("TopMenu", "M/E-2"), 1);
+    GL_CreatePage = 0;
+    const int pane = PaneMessage_Create("Title", 2, "text");
+    EXPECT_EQ(Deliver("TopMenu", "M/E-2"), -1);
+    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), -1);
+    Pane_Quit(pane);
+    CreateWindow(WINDOW_PAGE_JUMP, "");
+    EXPECT_EQ(Deliver("TopMenu", "M/E-2"), -1);
+    EXPECT_EQ(Deliver("Page", "1211"), -1);
+    CloseWindow();
+    EXPECT_EQ(GL_CreatePage, 0u);
+    EXPECT_EQ(OmoteFlag, 1);
+    EXPECT_EQ(probe::Count(MSG_TALLY), 0);
+}
+
+TEST_F(BusTally, TheMenuTurnsOverToAPageThatExists)
+{
+    ASSERT_EQ(CreatePage(0x12110000), 0);
+    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), 1);
+    EXPECT_EQ(OmoteFlag, 0);
+    EXPECT_EQ(GL_CreatePage, PAGE_TOP);
+    ASSERT_EQ(CreatePage(GL_CreatePage), 0);
+    ASSERT_EQ(CreatePage(0x13110000), 0);
+    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), 1);
+    ASSERT_EQ(CreatePage(GL_CreatePage), 0);
+    EXPECT_EQ(GL_NowPage, 0x12110000u);
+    // The page of the other side goes with its bank.
+    Deliver(PANEL "Config@M/E Operation@M/E-3", "Disable");
+    EXPECT_EQ(Deliver("TopMenu", "SubMenuSite"), 1);
+    EXPECT_EQ(GL_CreatePage, PAGE_TOP);
+    // Something else is asked for before the turn, and has no page.
+    EXPECT_EQ(CreatePage(0x13110000), -1);
+    EXPECT_EQ(OmoteFlag, 1) << "what is shown is the front";
+    EXPECT_EQ(OmoteChange, 0);
+    (void)TakeQueuedCommands();
+    ASSERT_EQ(CreatePage(0x12210000), 0);
+    EXPECT_EQ(GL_OmoteNowPage, 0x12210000u);
+    EXPECT_EQ(TakeQueuedCommands().at(0), "put TopMenu@SubMenuSite#false");
+}
+
+TEST_F(BusTally, ThePanelsAssignButtonsOpenTheirPage)
+{
+    GL_NowPage = 0x12110000;
+    Deliver("Engineering Setup@Panel@Prefs/Utility@Panel Select", "7,1");
+    EXPECT_EQ(GL_UtlAsgnShortCutMenu, 0x12110000u);
+    EXPECT_EQ(GL_UtlAsgnSelectButtonID, 7);
+    EXPECT_EQ(GL_CreatePage, 0x73240001u);
+}
+
 TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
 {
     static const struct {
@@ -344,6 +424,7 @@ TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
         {"1111", 0x11110000, 5},
         {"7316.8", 0x73160008, 5},
         {"7316.1f,D2", 0x7316001F, 1},
+        {" 1111", 0x11110000, 1},
         {"1111.", 0x11110000, 1},
         {"11112", 0x11110000, 1}, // four digits are taken
         {"1111,D9", 0x11110000, 1},
