@@ -5,6 +5,7 @@
 #include "colours.h"
 #include "config.h"
 #include "device.h"
+#include "drive_check.h"
 #include "fmctrl.h"
 #include "fmctrl3.h"
 #include "global.h"
@@ -16,7 +17,6 @@
 #include "memory.h"
 #include "netio.h"
 #include "page.h"
-#include "pane.h"
 #include "process.h"
 #include "register.h"
 #include "saver.h"
@@ -38,30 +38,6 @@
 namespace
 {
 constexpr int SERVER_WAIT_MS = 5000; // deliberately lost: the server is left to accept the links
-constexpr int PANE_STYLE_OK = 2;
-constexpr int DRIVE_CHECK_LINES = 2;
-
-struct DriveMessage {
-    const char* title = nullptr;
-    const char* text = nullptr;
-};
-constexpr char text_user_data[] = "The user data partition of local drive is\n"
-                                  "damaged, and all data is lost. The local drive\n"
-                                  "needs to be reformatted.\n"
-                                  "Please execute local drive format on\n"
-                                  "Page 7317.";
-constexpr char text_system_data[] = "The system data partition of local drivek is\n"
-                                    "damaged. The local drive needs to be\n"
-                                    "reformatted. Please execute local drive format\n"
-                                    "on Page 7317.\n"
-                                    "Please make sure to save all data in the user\n"
-                                    "data partition of local drive to any other\n"
-                                    "device or media, before reformatted.";
-constexpr char text_emergency[] = "Menu was launched from the built-in SSD\n"
-                                  "because SCS was not found.\n"
-                                  "\n"
-                                  "Shutdown and restart the system is\n"
-                                  "recommended to exit from emergency mode.";
 } // namespace
 
 // Reaps the one tracked child; others are waited for by whoever started them.
@@ -166,45 +142,6 @@ static void start_log_versions()
     Log_Output(LOG_ALWAYS, MOD_START, "UBOOT: %s\n", GL_MenuDetailInfoFull[2]);
 }
 
-// 1 unless the mount answers: the second line that df prints names the device, which begins with
-// "/".
-static int start_drive_error(const char* command)
-{
-    if (ktr_system_and_redirect(command, GL_TempFile) != 0)
-        return 1;
-    FILE* fp = fopen(GL_TempFile, "r");
-    if (!fp)
-        return 1;
-    char line[PATH_SIZE] = "";
-    int lines = 0;
-    while (lines < DRIVE_CHECK_LINES && fgets(line, sizeof line, fp))
-        lines++;
-    fclose(fp);
-    return lines == DRIVE_CHECK_LINES && line[0] == '/' ? 0 : 1;
-}
-
-static DriveMessage start_drive_message()
-{
-    if (ktr_system("/bin/grep BOOTFROM=SSD /proc/cmdline") == 0)
-        return {"SCS Communication Error", text_emergency};
-    if (GL_SSD_Data_Error && GL_SSD_Sys_Error)
-        return {"Internal Error: Local Drive is unknown", text_user_data};
-    if (GL_SSD_Data_Error)
-        return {"Internal Error: Local Drive (User Data)", text_user_data};
-    if (GL_SSD_Sys_Error)
-        return {"Internal Error: Local Drive (System Data)", text_system_data};
-    return {};
-}
-
-static void start_check_drives()
-{
-    GL_SSD_Data_Error = start_drive_error("/bin/df -m /mnt/data");
-    GL_SSD_Sys_Error = start_drive_error("/bin/df -m /mnt/sys");
-    const DriveMessage message = start_drive_message();
-    if (message.title)
-        PaneMessage_Create(message.title, PANE_STYLE_OK, message.text);
-}
-
 int main(int argc, char** argv)
 {
     signal(SIGCHLD, sig_chld);
@@ -221,7 +158,7 @@ int main(int argc, char** argv)
     Net_SendCommand("put Info@Initial Read Status#true");
     GL_NetReConnect = 0;
     (void)CreatePage(PAGE_TOP); // the one page change outside the loop
-    start_check_drives();
+    DriveCheck();
     InitialProgress(1);
     Touch_LoadCalibration();
     touch_open();
