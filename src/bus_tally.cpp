@@ -40,11 +40,9 @@ static TallyRoute tally_ten_key_region(const Tally& t)
     return TallyRoute::Pass;
 }
 
-constexpr int MENU_MACRO_REGISTERS = 100;
-
 static TallyRoute tally_menu_macro_run(const Tally& t)
 {
-    const int reg = Index(t.value, MENU_MACRO_REGISTERS);
+    const int reg = Index(t.value, MENU_MACRO_REGISTERS + 1);
     if (reg >= 0)
         mm_macro_run(reg);
     return TallyRoute::Pass;

@@ -5,10 +5,10 @@
 #include "global.h"
 #include "info.h"
 #include "log.h"
-#include "loop.h"
 #include "message.h"
 #include "netio.h"
 #include "tally_value.h"
+#include "touch.h"
 #include <cctype>
 #include <iterator>
 
@@ -162,14 +162,27 @@ static int operation_log_by_panel()
     return DEV_MyPnl[0] && DEV_MyPnl[0]->function[FUNCTION_OPTION_WORD] == 0;
 }
 
+static void set_operation_log(int on)
+{
+    GL_PanelOperationLog = on;
+    Net_SendCommandFormat("set Option@LogFile@Panel Operation Log#%s", Bool(on));
+}
+
+static bool operation_log_follows_panel; // the setup has left the choice to the option
+
 static void take_operation_log(const char* value)
 {
-    switch (Decimal(value)) {
-    case 1: GL_PanelOperationLog = 1; break;
-    case 2: GL_PanelOperationLog = 0; break;
-    default: GL_PanelOperationLog = operation_log_by_panel(); break;
-    }
-    Net_SendCommandFormat("set Option@LogFile@Panel Operation Log#%s", Bool(GL_PanelOperationLog));
+    const int choice = Decimal(value);
+    operation_log_follows_panel = choice != 1 && choice != 2;
+    set_operation_log(operation_log_follows_panel ? operation_log_by_panel() : choice == 1);
+}
+
+// The option word may come after the setup that goes by it.
+static void follow_panel_option()
+{
+    const int on = operation_log_by_panel();
+    if (operation_log_follows_panel && on != GL_PanelOperationLog)
+        set_operation_log(on);
 }
 
 static bool is_lock_word(const char* value)
@@ -201,10 +214,15 @@ static constexpr SetupRow system_rows[] = {
 };
 
 static constexpr char SYSTEM_PATH[] = "Info@System Setup Data@";
+static constexpr char PANEL_BOARDS_PATH[] = "Info@Board Config@Board Exist Set@PNL";
 
 int systemsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
-    if (msg != MSG_TALLY || !ax || !bx || !BeginsWith(Text(ax), SYSTEM_PATH))
+    if (msg != MSG_TALLY || !ax || !bx)
+        return 0;
+    if (BeginsWith(Text(ax), PANEL_BOARDS_PATH))
+        follow_panel_option(); // the word itself has been taken with the units
+    if (!BeginsWith(Text(ax), SYSTEM_PATH))
         return 0;
     take_row(system_rows, Text(ax) + sizeof SYSTEM_PATH - 1, Text(bx));
     return 0;

@@ -18,7 +18,8 @@
 
 constexpr uint32_t PAGE_MAINTENANCE = 0x99990000; // runs beside an initial read
 
-static int InitRead_PaneID; // "Initial Read", 0 while none
+static int InitRead_PaneID;            // "Initial Read", 0 while none
+static uint32_t progress_page_changes; // Page_Changes when the timed progress began
 
 // --- The schedule ---
 
@@ -30,9 +31,19 @@ void InitialRead()
 
 void InitialProgress(int cancel)
 {
+    if (GL_InitProgress)
+        (void)Pane_Quit(GL_InitProgress_PaneID); // the operator may have closed it
+    progress_page_changes = Page_Changes;
     GL_InitProgress_PaneID = PaneProgress_Create("Initialize", "Initializing now...", cancel);
     GL_InitProgress = 1;
     GL_MainCounter = 0;
+}
+
+bool InitialProgress_HasScreen()
+{
+    // A page that is only built anew is not asked for by the operator.
+    const bool is_asked_for = GL_CreatePage != 0 && GL_CreatePage != GL_NowPage;
+    return Page_Changes == progress_page_changes && !is_asked_for;
 }
 
 static int any_unit_reads()

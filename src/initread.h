@@ -6,8 +6,11 @@
 // Restart the schedule: the main loop runs the stages as its pass counter goes by.
 void InitialRead();
 // The timed progress pane after a start or a reconfiguration; cancel non-zero gives it a cancel
-// button.
+// button. One that is up makes way.
 void InitialProgress(int cancel);
+// Whether the page is still the one from before the timed progress, and none is asked for: then the
+// initial page may take its place.
+bool InitialProgress_HasScreen();
 
 // --- The stages, for the main loop and the system install ---
 void InitialCommand0(); // the lists of units; the queue then waits for the answers

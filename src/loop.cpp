@@ -15,19 +15,16 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
-#include "process.h"
 #include "saver.h"
+#include "screen_capture.h"
 #include "scrollbar.h"
 #include "selfdiag.h"
-#include "storage.h"
 #include "tdl.h"
 #include "text.h"
 #include "touch.h"
 #include "types.h"
 #include "window.h"
 #include <cstdlib>
-#include <sys/stat.h>
-#include <unistd.h>
 #include "safeguards.h"
 
 uint32_t TickNow = 0;
@@ -42,12 +39,10 @@ constexpr int PASS_MS = 10;
 constexpr int ELAPSED_MAX_MS = 5000; // no timer ever sees a larger step
 constexpr int SELFDIAG_MS = 5000;
 constexpr int MOTIONS_A_PASS = 9;
-constexpr int CAPTURE_NAMES = 9;
 constexpr uint32_t STAGE0_PASSES = 100;
 constexpr uint32_t STAGE1_PASSES = 300;
 constexpr uint32_t STAGE2_PASSES = 2000;
 constexpr uint32_t PROGRESS_PASSES = 3000;
-constexpr int MENU_MACRO_REGISTERS = 99;
 
 // One step of the initial read: armed while the pass counter has not gone by, run once when it has.
 struct Stage {
@@ -100,25 +95,6 @@ void RefreshScreen()
 }
 
 // --- Events ---
-
-void Screen_Capture()
-{
-    Usb_Auto_Scan();
-    struct stat st;
-    if (stat(GL_ImportDataPath, &st) != 0)
-        return;
-    for (int n = 1; n <= CAPTURE_NAMES; n++) {
-        char name[64]; // a longer path is cut and then names no file that can be written
-        PrintText(name, "%s/menuss_%04X_%02X_%d.bmp", GL_ImportDataPath, unsigned(GL_NowPage >> 16),
-                  unsigned(GL_NowPage & 0xFF), n);
-        if (FileExist(name))
-            continue;
-        SDL_SaveBMP_RW(Screen, SDL_RWFromFile(name, "wb"), 1);
-        sync();
-        sync();
-        return;
-    }
-}
 
 static void loop_set_video(uint32_t flags)
 {
@@ -268,8 +244,8 @@ static void loop_page_change()
     if (!GL_CreatePage || GL_ScreenSaver_Now || GetWindow() || Pane_GetActiveID())
         return;
     const uint32_t id = GL_CreatePage;
-    (void)CreatePage(
-        id); // a page that cannot be resolved leaves the old one: the request is over all the same
+    // A page that cannot be resolved leaves the old one: the request is over all the same.
+    (void)CreatePage(id);
     // What opening the page requested in its turn stands for the next pass.
     if (GL_CreatePage == id)
         GL_CreatePage = 0;
@@ -312,7 +288,8 @@ static void loop_progress()
     }
     GL_InitProgress = 0;
     Pane_Quit(GL_InitProgress_PaneID);
-    GL_CreatePage = GL_InitialPage;
+    if (InitialProgress_HasScreen())
+        GL_CreatePage = GL_InitialPage;
     for (int n = 0; n < MENU_MACRO_REGISTERS; n++)
         mm_macro_file_load(n);
 }
@@ -391,11 +368,4 @@ void MainEventCheck()
         }
     }
     SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
-}
-
-void SetTouchBeep()
-{
-    (void)ktr_shell("/bin/echo -ne \"\\r\" > /dev/ttyS2"); // without a buzzer the line goes nowhere
-    (void)ktr_shell(GL_TouchBuzz ? "/bin/echo -ne \"GO7\\r\" > /dev/ttyS2"
-                                 : "/bin/echo -ne \"GO6\\r\" > /dev/ttyS2");
 }

@@ -17,10 +17,6 @@ int MainPass();
 void MainEventCheck();
 // Repaint everything that is dirty and flush the screen.
 void RefreshScreen();
-// Save the screen on the memory stick as the first free of nine names.
-void Screen_Capture();
-// Tell the panel's buzzer whether a touch beeps.
-void SetTouchBeep();
 // The engineering menu's walk through all pages; called once a pass in that mode.
 void GL_AllPageSet();
 

@@ -2,6 +2,8 @@
 #pragma once
 #include "types.h"
 
+constexpr int MENU_MACRO_REGISTERS = 99; // a tally names one by its number, up to this one
+
 void mm_protcol_get(const char* line); // every outgoing command passes here
 void mm_macro_run(int reg);
 int mm_macro_file_load(int n); // register n (0..98) from its file; 0, or -1 when there is none

@@ -41,10 +41,11 @@ constexpr char list_file[] = "/var/tmp/tslist";
 static struct {
     int tx = 0; // last converted position, on the screen
     int ty = 0;
-    int tp = 0;       // last contact: value of the key event
-    int up_p = 0;     // contact changed since the last synchronisation
-    int up_xy = 0;    // position changed
-    int retry_ms = 0; // gathered while closed
+    int tp = 0;        // last contact: value of the key event
+    int up_p = 0;      // contact changed since the last synchronisation
+    int up_xy = 0;     // position changed
+    bool owes = false; // the queue of events was full: the last synchronisation is not yet through
+    int retry_ms = 0;  // gathered while closed
     size_t record_size = RECORD_SIZE;
 } touch;
 
@@ -96,7 +97,7 @@ int touch_open()
     if (!panel || !touch_device_name(name, sizeof name))
         return 0;
     Touch_Resolution = panel->resolution;
-    Touch_FD = open(name, O_RDONLY | O_NONBLOCK);
+    Touch_FD = open(name, O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (Touch_FD < 0) {
         Touch_FD = -1;
         return 0;
@@ -123,7 +124,8 @@ static int touch_screen_y(int value)
     return std::clamp(ay * 500 / (ay - by) + 50 + r * 500 / (by - ay), 0, SCREEN_H - 1);
 }
 
-static void touch_push_button()
+// False when the queue of events is full.
+static bool touch_push_button()
 {
     SDL_Event e;
     memset(&e, 0, sizeof e);
@@ -132,10 +134,10 @@ static void touch_push_button()
     e.button.state = touch.tp ? SDL_PRESSED : SDL_RELEASED;
     e.button.x = uint16_t(touch.tx);
     e.button.y = uint16_t(touch.ty);
-    SDL_PushEvent(&e);
+    return SDL_PushEvent(&e) == 0;
 }
 
-static void touch_push_motion()
+static bool touch_push_motion()
 {
     SDL_Event e;
     memset(&e, 0, sizeof e);
@@ -143,20 +145,32 @@ static void touch_push_motion()
     e.motion.state = touch.tp ? 1 : 0;
     e.motion.x = uint16_t(touch.tx);
     e.motion.y = uint16_t(touch.ty);
-    SDL_PushEvent(&e);
+    if (SDL_PushEvent(&e) != 0)
+        return false;
     SDL_WarpMouse(uint16_t(touch.tx), uint16_t(touch.ty));
+    return true;
 }
 
+// A release that were lost would leave a button or an arrow held for ever: what does not fit into
+// the queue is owed to the next pass.
 static void touch_sync()
 {
-    if (touch.up_p) {
-        touch_push_button();
+    if (touch.up_p && touch_push_button())
         touch.up_p = 0;
-    }
-    if (touch.up_xy) {
-        touch_push_motion();
+    if (touch.up_xy && !touch.up_p && touch_push_motion())
         touch.up_xy = 0;
-    }
+    touch.owes = touch.up_p || touch.up_xy;
+}
+
+// The panel is gone, and the finger on it will never be told to leave.
+static void touch_lost()
+{
+    close(Touch_FD);
+    Touch_FD = -1;
+    Log_Output(LOG_LINK, MOD_START, "Touch Panel Closed.");
+    touch.up_p = touch.tp;
+    touch.tp = touch.up_xy = 0;
+    touch_sync();
 }
 
 void Touch_Record(int type, int code, int value)
@@ -194,13 +208,10 @@ static int touch_s32(const uint8_t* p)
 static void touch_read_all()
 {
     uint8_t record[sizeof(input_event) + RECORD_SIZE];
-    for (;;) {
+    while (!touch.owes) {
         const ssize_t n = read(Touch_FD, record, touch.record_size);
-        if (n < 0 && errno != EAGAIN) {
-            close(Touch_FD);
-            Touch_FD = -1;
-            Log_Output(LOG_LINK, MOD_START, "Touch Panel Closed.");
-        }
+        if (n < 0 && errno != EAGAIN)
+            touch_lost();
         if (n <= 0)
             return;
         if (size_t(n) != touch.record_size)
@@ -218,6 +229,8 @@ bool Touch_IsDown()
 
 void Touch_Poll(int elapsed_ms)
 {
+    if (touch.owes)
+        touch_sync();
     if (Touch_FD >= 0) {
         touch_read_all();
         return;
@@ -249,4 +262,11 @@ void Touch_LoadCalibration()
     }
     Log_Output(LOG_LIFE, MOD_CALIBRATION, "Touch Panel Calibration: AX=%d AY=%d BX=%d BY=%d",
                SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX, SYS_TouchScreen_BY);
+}
+
+void SetTouchBeep()
+{
+    (void)ktr_shell("/bin/echo -ne \"\\r\" > /dev/ttyS2"); // without a buzzer the line goes nowhere
+    (void)ktr_shell(GL_TouchBuzz ? "/bin/echo -ne \"GO7\\r\" > /dev/ttyS2"
+                                 : "/bin/echo -ne \"GO6\\r\" > /dev/ttyS2");
 }

@@ -9,8 +9,11 @@ extern int Touch_Resolution; // full-scale raw value: 1023 or 4095
 int touch_open();
 // Read the calibration points from the EEPROM; a value out of range becomes the default.
 void Touch_LoadCalibration();
-// Once a pass: take all records that wait; while closed, look for the panel every five seconds.
+// Once a pass: take all records that wait, as far as SDL has room for them; while closed, look for
+// the panel every five seconds.
 void Touch_Poll(int elapsed_ms);
+
+void SetTouchBeep(); // tell the panel's buzzer whether a touch beeps
 
 bool Touch_IsDown(); // a finger is on the panel
 

@@ -144,3 +144,33 @@ TEST_F(Info, TheFileLockWordIsReadFromItsTopBit)
     Deliver(SYSTEM "File Load Lock", "00000000");
     EXPECT_EQ(GL_FileLock[0], 0);
 }
+
+TEST_F(Info, TheOperationLogFollowsThePanelsOptionUnlessTheSetupSaysSo)
+{
+    static constexpr char log[] = SYSTEM "Panel Operation Log";
+    static constexpr char option[] = "Info@Board Config@Board Exist Set@PNL1";
+    static const struct {
+        const char* path;
+        const char* value;
+        const char* sent; // empty: nothing
+    } steps[] = {
+        {option, "2", ""}, // nothing has been said of the log
+        {log, "1", "#true"},
+        {log, "0", "#false"}, // an option is fitted
+        {option, "0", "#true"},
+        {option, "0,4", ""}, // as before
+        {"Info@Board Config@Board Exist Set@PNL2", "4", ""},
+        {log, "2", "#false"},
+        {option, "0", ""},
+    };
+    for (const auto& s : steps) {
+        (void)TakeQueuedCommands();
+        Deliver(s.path, s.value);
+        const Strings sent = TakeQueuedCommands();
+        if (*s.sent)
+            EXPECT_THAT(
+                sent, ElementsAre(std::string("set Option@LogFile@Panel Operation Log") + s.sent));
+        else
+            EXPECT_THAT(sent, IsEmpty()) << s.path << s.value;
+    }
+}

@@ -162,6 +162,30 @@ TEST_F(Loop, TheTimedProgressEndsOnTheInitialPage)
     EXPECT_EQ(GL_NowPage, 0x12110000u);
 }
 
+TEST_F(Loop, TheInitialPageYieldsToAPageThatTheOperatorOpened)
+{
+    static const struct {
+        uint32_t asked_for;
+        bool pane_is_closed;
+        uint32_t ends_on;
+    } cases[] = {
+        {0x33110100, true, 0x12110000},  // the page that is shown is built anew
+        {0x13110000, true, 0x13110000},  // opened meanwhile
+        {0x13110000, false, 0x13110000}, // waits under the pane
+    };
+    for (const auto& c : cases) {
+        SetUp();
+        GL_InitialPage = 0x12110000;
+        InitialProgress(1);
+        if (c.pane_is_closed)
+            Pane_Quit(GL_InitProgress_PaneID);
+        GL_CreatePage = c.asked_for;
+        for (int pass = 0; pass < 3002; pass++)
+            MainPass();
+        EXPECT_EQ(GL_NowPage, c.ends_on) << std::hex << c.asked_for;
+    }
+}
+
 TEST_F(Loop, TheReducedPassKeepsTheScreenAliveAndNothingElse)
 {
     MainEventCheck(); // its clock begins here

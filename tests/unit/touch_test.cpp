@@ -93,6 +93,22 @@ TEST_F(Touch, ContactComesBeforeMotionAndOnlyOnSynchronisation)
     EXPECT_EQ(events[0].button.x, 400);
 }
 
+TEST_F(Touch, AReleaseIsNotLostInAFullQueue)
+{
+    Finger(100, 100, 1);
+    SDL_Event filler{};
+    filler.type = SDL_USEREVENT;
+    while (SDL_PushEvent(&filler) == 0) {
+    }
+    Finger(100, 100, 0);
+    for (const SDL_Event& e : Events())
+        ASSERT_NE(e.type, SDL_MOUSEBUTTONUP) << "the queue was not full";
+    Touch_Poll(10);
+    const auto events = Events();
+    ASSERT_FALSE(events.empty());
+    EXPECT_EQ(events[0].type, SDL_MOUSEBUTTONUP);
+}
+
 TEST_F(Touch, PanelIsFoundGrabbedAndLostAndFoundAgain)
 {
     // The sandbox's panel is a pipe. Nobody writes: it is open and silent.
@@ -124,6 +140,10 @@ TEST_F(Touch, PanelIsFoundGrabbedAndLostAndFoundAgain)
     close(dir);
     Touch_Poll(10);
     EXPECT_EQ(Touch_FD, -1);
+    events = Events();
+    ASSERT_EQ(events.size(), 1u) << "the finger that was on it leaves";
+    EXPECT_EQ(events[0].type, SDL_MOUSEBUTTONUP);
+    EXPECT_FALSE(Touch_IsDown());
     Touch_Poll(5000);
     EXPECT_GE(Touch_FD, 0);
     close(Touch_FD);
