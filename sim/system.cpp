@@ -79,7 +79,8 @@ static const Preset presets[] = {
     {"Info@Board Config@Board Exist Set",
      "SWR1@EEPROM,SWR1@Auto Scan,SWR2@EEPROM,SWR2@Auto Scan,DME1,DME2,DME3,DME4",
      "1,1,1,1,1,1,1,1"},
-    {"Engineering Setup@DME@Model", DMES, "3"}, // with all pages of the effects menu
+    {"Info@Board Config@Board Exist Set", PNLS, "1"}, // the option word: fitted with the option
+    {"Engineering Setup@DME@Model", DMES, "3"},       // with all pages of the effects menu
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
     {"MPE@Fx@Channel@Selected", "", "F"},         // masks of channels, hexadecimal
     {"MPE@Fx@Channel@Reference", "", "00000001"}, // binary, channel 1 last

@@ -123,6 +123,7 @@ constexpr SubscribeRow initial_1[] = {
     AddEach("Info@System Setup Data@", words_system),
     Add("Info@Xpt Button Count"),
     AddEach("Info@Board Config@Board Exist Set@", words_board),
+    {.verb = Verb::AddOwnPanel, .head = "Info@Board Config@Board Exist Set@"}, // its option word
     Add("TopMenu"),
     Put("TopMenu@SubMenuSite#false"),
     AddEach(FORMAT "Video Format2@", words_switchers),

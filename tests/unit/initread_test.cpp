@@ -1,5 +1,6 @@
 #include "bus_probe.h"
 #include "initread.h"
+#include "loop.h"
 #include <algorithm>
 #include <set>
 
@@ -33,6 +34,39 @@ TEST_F(InitialReadTest, OnlyTheServersOwnEndStartsOurs)
     }
 }
 
+// By the first lines of their logs; each once, in their order, and again after a restart.
+TEST_F(InitialReadTest, TheStagesRunWhenTheirPassesHaveGoneBy)
+{
+    static const struct {
+        uint32_t pass;
+        const char* line; // that only this stage sends
+    } stages[] = {
+        {101, "put Info@Status Report#true"},
+        {301, "put Info@Menu Macro@Report#true"},
+        {2001, "add Info@Operation Setup Data@Auto Load"},
+    };
+    for (int restart = 0; restart < 2; restart++) {
+        InitialRead();
+        (void)TakeQueuedCommands();
+        for (uint32_t pass = 1; pass <= 2100; pass++) {
+            MainPass();
+            const Strings sent = TakeQueuedCommands();
+            for (const auto& s : stages)
+                EXPECT_EQ(std::count(sent.begin(), sent.end(), s.line), s.pass == pass)
+                    << "pass " << pass << ": " << s.line;
+        }
+    }
+}
+
+TEST_F(InitialReadTest, ASecondTimedProgressTakesThePlaceOfTheFirst)
+{
+    InitialProgress(0);
+    const int first = GL_InitProgress_PaneID;
+    InitialProgress(0);
+    EXPECT_EQ(Pane_Exist(first), 0);
+    EXPECT_EQ(Pane_Exist(GL_InitProgress_PaneID), 1);
+}
+
 TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
 {
     SYS_ConfigChange = 1;
@@ -43,7 +77,7 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
          {"add Info@Processor Status@6", "add Info@Operation Setup Data@Color Select@12",
           "add Engineering Setup@System@Format@Reference@PNL4",
           "add Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@23",
-          "add PGM/PST@DSK1@Processed Key@Rotation"})
+          "add PGM/PST@DSK1@Processed Key@Rotation", "add Info@Board Config@Board Exist Set@PNL1"})
         EXPECT_THAT(sent, Contains(line));
     EXPECT_THAT(sent, Not(Contains("add 16@Frame Mem@Status@Register Status@45")));
     // A shortcut stands right behind its group.
