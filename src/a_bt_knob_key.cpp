@@ -36,23 +36,18 @@
 #include "a_bt_knob_private.h"
 #include "page_table/nb_edge.h"
 #include "page_table/nb_key.h"
-#include <cstring>
+#include "tally_value.h"
 #include "safeguards.h"
-
-static bool is(const char* tally, const char* value)
-{
-    return strcmp(tally, value) == 0;
-}
 
 // Border of a key. Tallies: 1 key type, 2 separate edge, 3 and 4 that together halve the range.
 // A pattern key has one plain border; a separate edge has a width a side. Without a tally the edge
 // counts as separate.
 static int ask_border(const BT_MEM* b)
 {
-    if (is(b->tally[1], "Wipe Pattern") || is(b->tally[1], "Key Wipe Pattern"))
+    if (Same(b->tally[1], "Wipe Pattern") || Same(b->tally[1], "Key Wipe Pattern"))
         return 4;
-    const bool separate = !is(b->tally[2], "false");
-    const bool half = is(b->tally[3], "true") && is(b->tally[4], "false");
+    const bool separate = !Same(b->tally[2], "false");
+    const bool half = Same(b->tally[3], "true") && Same(b->tally[4], "false");
     return 2 * separate + half;
 }
 

@@ -1,16 +1,12 @@
 // What a tally does to a button. Index 0 is the button's own command and gives its state; the
 // others are what it depends on, and decide whether it can be used.
 #include "a_bt.h"
+#include "a_dw.h"
 #include "device.h"
 #include "global.h"
-#include <cstdlib>
+#include "tally_value.h"
 #include <cstring>
 #include "safeguards.h"
-
-static bool is_true(const char* value)
-{
-    return strcmp(value, "true") == 0;
-}
 
 static int own_tally(BT_MEM* b, const char* value)
 {
@@ -21,8 +17,8 @@ static int own_tally(BT_MEM* b, const char* value)
     case BT_PULLDOWN:
     case BT_PULLDOWN_LONG:
     case BT_TRANSFER_RIGHT:
-    case BT_TRANSFER_LEFT: b->status = is_true(value) ? BT_ON : BT_OFF; return 0;
-    case BT_TOGGLE: on = is_true(value); break;
+    case BT_TRANSFER_LEFT: b->status = IsTrue(value) ? BT_ON : BT_OFF; return 0;
+    case BT_TOGGLE: on = IsTrue(value); break;
     case BT_RADIO:
     case BT_RADIO_RELEASE: on = strcmp(value, b->cmd_var[0]) == 0; break;
     default: return 0; // keys without a state
@@ -112,11 +108,9 @@ int bt_tly_globaleffect_shadow_source(BT_MEM* b, int i, const char*, const char*
 
 // --- By the number of the effects-unit wipe ---
 
-// The same wipe on other channels has 6000 added.
 static int wipe_number(const char* value)
 {
-    const int n = int(strtol(value, nullptr, 10));
-    return n > 7000 ? n - 6000 : n;
+    return DW_BaseNumber(Decimal(value));
 }
 
 static bool wipe_has_size(int n)

@@ -52,6 +52,7 @@ static struct {
     ScrollWindow window; // its total is how many lines there are
     int number = 0;      // chosen by the tally, 0 none
     bool redraw = false;
+    bool is_dead = false; // its cells take no press
 } dw;
 
 // --- Opening and closing ---
@@ -148,7 +149,7 @@ static int base_number_of(const DMEWIPEPTN* p, int row)
 
 static int press(int x, int y)
 {
-    if (!dw.cmd[0] || !Inside(area(), x, y) || x < CELL_X || BA_IsDefaultButton())
+    if (!dw.cmd[0] || dw.is_dead || !Inside(area(), x, y) || x < CELL_X || BA_IsDefaultButton())
         return 0;
     const int row = (y - CELL_Y) / PITCH;
     const int column = (x - CELL_X) / PITCH;
@@ -262,6 +263,12 @@ static int redraw()
     for (int row = 0; row < dw.window.shown && dw.window.top + row < dw.window.total; row++)
         draw_line(row);
     TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);
+    return 0;
+}
+
+int DW_SetDead(int on)
+{
+    dw.is_dead = on != 0;
     return 0;
 }
 

@@ -49,6 +49,8 @@ int DW_Create(const DW_TBL* table, uint32_t knob_row);
 // Move the window to the first group whose patterns take that many channels; -1 when the list has
 // none.
 int DW_ShowChannels(int channels);
+// The list can be read but takes no press until the page is left: the bank has no such wipe now.
+int DW_SetDead(int on);
 int DW_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 // Turn a wheel step at (x, y) into a press on the up or down control under it. Non-zero when x and
 // y were rewritten; button is 4 or 5.

@@ -8,6 +8,7 @@
 #include "netio.h"
 #include "page.h"
 #include "page_table/st_dme.h"
+#include "pc_me.h"
 #include "tab_status.h"
 #include "tdl.h"
 #include "text.h"
@@ -36,8 +37,6 @@ enum ReferenceMode : uint32_t {
 constexpr uint32_t NO_HASH = 0xFFFFFFFF; // no path sums up to this
 constexpr uint32_t PAGE_FRAME_MEMORY = 0x21110000;
 constexpr uint32_t PAGE_MISC_KEYS = 0x11730000; // lives in the sub bank for keys 5 to 8
-constexpr int CELL_FILL = 6;                    // the two cells that lead to one page
-constexpr int CELL_SOURCE = 7;
 } // namespace
 
 static ST_MEM Status[ST_MAX + 1]; // an id of -1: not in use
@@ -187,22 +186,12 @@ int ST_Follows(const char* path)
 
 // --- Opening and closing a page ---
 
-static bool is_3rd_or_4th_key()
-{
-    static const char* const words[] = {"Key3", "DSK3", "Key4", "DSK4"};
-    const char* key = GL_NowTree && GL_NowTree[0] ? GL_NowTree[1] : nullptr;
-    for (const char* word : words)
-        if (key && strcmp(key, word) == 0)
-            return true;
-    return false;
-}
-
 static bool is_absent(const ST_TBL& row)
 {
     switch (row.id) {
     case ST_SINGLE_BOARD: return SYS_DualProc != 0;
     case ST_DUAL_BOARD: return SYS_DualProc == 0;
-    case ST_KEY_TYPE_2: return is4KFormat() && is_3rd_or_4th_key();
+    case ST_KEY_TYPE_2: return is4KFormat() && ME_IsKey3Or4();
     default: return false;
     }
 }
@@ -333,13 +322,13 @@ static bool is_signal_select(uint32_t id)
     return page == 0x10010003 || page == 0x80010003;
 }
 
-static void jump_from(int index)
+// Two cells of a key lead to one page, which assigns what the pressed one shows.
+static void jump_from(const ST_MEM& c)
 {
-    const ST_MEM& c = Status[index];
     if (c.jamp_id & 0xFF000000) {
-        if (is_signal_select(c.jamp_id) && index == CELL_FILL)
+        if (is_signal_select(c.jamp_id) && c.draw_func == st_drw_me_key_type_keyfill)
             GL_FillSourceAssignMode = 0;
-        if (is_signal_select(c.jamp_id) && index == CELL_SOURCE)
+        if (is_signal_select(c.jamp_id) && c.draw_func == st_drw_me_key_type_source)
             GL_FillSourceAssignMode = 1;
         GL_CreatePage = c.jamp_id;
         return;
@@ -352,11 +341,10 @@ static int press(int x, int y)
 {
     if (GL_CreatePage)
         return 0;
-    for (int i = 0; i < StatusMax; i++) {
-        const ST_MEM& c = Status[i];
+    for (const ST_MEM& c : cells()) {
         // The border belongs to nobody: neighbours share none.
         if (x > c.x1 && x < c.x2 && y > c.y1 && y < c.y2) {
-            jump_from(i);
+            jump_from(c);
             return 0;
         }
     }

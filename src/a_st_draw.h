@@ -79,7 +79,6 @@ int st_drw_me_key_type2(ST_MEM*);
 int st_drw_me_key_edge(ST_MEM*);
 int st_drw_me_key_mainmask(ST_MEM*);
 int st_drw_me_key_submask(ST_MEM*);
-int st_drw_me_key_resizer(ST_MEM*);
 int st_drw_me_key_videoproc(ST_MEM*);
 int st_drw_me_key_type_keyfill(ST_MEM*);
 int st_drw_me_key_type_source(ST_MEM*);

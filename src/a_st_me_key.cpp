@@ -6,6 +6,7 @@
 #include "text.h"
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include "safeguards.h"
 
 namespace
@@ -99,17 +100,24 @@ int st_drw_me_key_type1(ST_MEM* cell)
     return 0;
 }
 
-// What a key of a 4K format lacks: 0 inversion, 1 position.
+// What is done with the cut: 0 inversion, 1 type, 2 to 5 position by type. Some keys of a 4K format
+// lack the cell.
 int st_drw_me_key_type2(ST_MEM* cell)
 {
+    static constexpr const char* with_position[] = {"Luminance", "Linear", "Chroma",
+                                                    "Color Vector"};
     const int lit = is_type_page_in_view(cell);
     const ST_MEM* c = st_begin(cell, lit, name_of(cell, "Key Modify", "Modify").text);
     if (!c)
         return -1;
+    bool is_on[] = {st_is_on(c, 0), false};
+    for (int i = 0; i < int(std::size(with_position)); i++)
+        if (strcmp(c->tally[1], with_position[i]) == 0)
+            is_on[1] = st_is_on(c, 2 + i);
     ST_VAL val{.st_num = 2, .st_str = {"Key Invert", "Position"}, .selected = lit};
     for (int i = 0; i < 2; i++) {
-        val.invert[i] = st_is_on(c, i);
-        val.grayout[i] = st_is_off(c, i);
+        val.invert[i] = is_on[i];
+        val.grayout[i] = !is_on[i];
     }
     return st_drw_status_strings(c, &val);
 }
@@ -213,12 +221,6 @@ static int draw_function(ST_MEM* cell, const Name& name, std::span<const ST_LABE
     if (st_is_off(c, 0))
         st_drw_recoats_grayout(c, lit);
     return 0;
-}
-
-int st_drw_me_key_resizer(ST_MEM* cell)
-{
-    static constexpr ST_LABEL labels[] = {{"Size", 1}, {"H", 2}, {"V", 3}};
-    return draw_function(cell, name_of(cell, "Resizer", "Resizer"), labels);
 }
 
 int st_drw_me_key_videoproc(ST_MEM* cell)

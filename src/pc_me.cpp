@@ -44,6 +44,15 @@ void ME_BankWord(char* dst, int size)
     snprintf(dst, size_t(size), "%s%s", first_word(), ME_IsSubPage() ? " SUB" : "");
 }
 
+bool ME_IsKey3Or4()
+{
+    const char* key = *first_word() ? GL_NowTree[1] : nullptr;
+    for (const char* word : {"Key3", "DSK3", "Key4", "DSK4"})
+        if (key && strcmp(key, word) == 0)
+            return true;
+    return false;
+}
+
 void ME_OpenPageOfKey(uint32_t id)
 {
     AddPageOffset(&id);

@@ -26,6 +26,10 @@ template <size_t N> void ME_BankWord(char (&dst)[N])
     ME_BankWord(dst, int(N));
 }
 
+// The page is of one of the two keys of a side that a 4K format leaves without chroma, vector, wipe
+// and position.
+bool ME_IsKey3Or4();
+
 // Ask for a page of the page's own bank and key; id is that of M/E-1, Key1.
 void ME_OpenPageOfKey(uint32_t id);
 

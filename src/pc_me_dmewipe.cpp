@@ -66,8 +66,10 @@ static int pc_me_dmewipe_pattern_create(int on, uint32_t)
 {
     if (!on)
         return 1;
-    if (dmewipe_is_off())
+    if (dmewipe_is_off()) {
         BT_SetAllDisable(1);
+        DW_SetDead(1);
+    }
     return 0;
 }
 

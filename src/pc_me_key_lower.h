@@ -7,6 +7,7 @@
 // --- Masks (pc_me_key_mask) ---
 extern const PC_TBL pc_me_mainmask; // with the list behind "Source"
 extern const PC_TBL pc_me_submask;
+extern const PC_TBL pc_me_mainmask_ptnsel;
 
 // --- Resizer (pc_me_key_resizer) ---
 extern const PC_TBL pc_me_key_resizer;

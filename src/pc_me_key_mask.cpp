@@ -1,7 +1,11 @@
 // The two masks of a key. A mask may come from a utility bus of the bank: its button tells which
 // source the bus carries. The pattern can be chosen only while it is the mask.
+#include "a_nb.h"
+#include "global.h"
 #include "message.h"
 #include "page.h"
+#include "page_table/nb_rows.h"
+#include "page_table/patterns.h"
 #include "pc_me.h"
 #include "pc_me_key_lower.h"
 #include "tally_value.h"
@@ -14,6 +18,7 @@ namespace
 {
 constexpr int BTN_UTILITY[] = {35, 36};
 constexpr int BTN_PATTERN_SELECT = 37;
+constexpr int BTN_SOURCE_LIST = 38; // of the main mask alone
 constexpr int UTILITY_BUSES = 2;
 constexpr int NAME_PX = 70; // what a caption has on a standard button, with air
 } // namespace
@@ -30,6 +35,7 @@ static struct {
 static void show_pattern_select()
 {
     ME_DisableKey(BTN_PATTERN_SELECT, !Mask.IsOn || !Mask.IsPattern);
+    ME_DisableKey(BTN_SOURCE_LIST, !Mask.IsOn); // a tab takes no condition from its row
 }
 
 // The name of the source that the bus carries, cut to the button; without one the bus is named
@@ -96,3 +102,27 @@ static int pc_me_mainmask_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg 
 
 const PC_TBL pc_me_mainmask = {pc_me_mainmask_proc, pc_me_mainmask_create};
 const PC_TBL pc_me_submask = {pc_me_submask_proc, pc_me_submask_create};
+
+// --- The pattern of the main mask: its boxes have the limits of those beside the choice ---
+
+static int limit_position()
+{
+    constexpr int BOX_H = 3;
+    if (NB_ShownTable() != nb_me_key_mainmask_maskptnsel)
+        return 0;
+    const int aspect = Now_disp_draw(); // banks stand in the same order there
+    const double h = Wide(100, SYS_RefSwrScreenAspect[aspect] == 1);
+    return NB_AddMinMax(BOX_H, -h, h);
+}
+
+static int pc_me_mainmask_ptnsel_create(int on, uint32_t)
+{
+    return on ? limit_position() : 1;
+}
+
+static int pc_me_mainmask_ptnsel_proc(int msg, MsgArg, MsgArg, MsgArg, MsgArg)
+{
+    return msg == LMSG_KNOBCREATE ? limit_position() : 0;
+}
+
+const PC_TBL pc_me_mainmask_ptnsel = {pc_me_mainmask_ptnsel_proc, pc_me_mainmask_ptnsel_create};

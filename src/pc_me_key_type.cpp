@@ -82,18 +82,10 @@ static void show_pattern_button()
         BT_SetDisable(BTN_PATTERN, !is_wipe_type());
 }
 
-static bool is_key3_or_key4(const char* word)
-{
-    for (const char* key : {"Key3", "DSK3", "Key4", "DSK4"})
-        if (Same(word, key))
-            return true;
-    return false;
-}
-
 // In the 4K format these two keys have neither chroma nor vector, neither wipe nor position.
 static void hide_what_4k_lacks()
 {
-    if (!is4KFormat() || !is_key3_or_key4(GL_NowTree[1]))
+    if (!is4KFormat() || !ME_IsKey3Or4())
         return;
     for (const int id : BTN_NOT_IN_4K)
         BT_SetCutoff(id, 1);

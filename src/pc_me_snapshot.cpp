@@ -6,6 +6,7 @@
 #include "message.h"
 #include "netio.h"
 #include "pc_me.h"
+#include "pc_me_dmewipe.h"
 #include "register.h"
 #include "tally_value.h"
 #include "tdl.h"
@@ -323,7 +324,10 @@ static int pc_me_wipe_wipess_create(int on, uint32_t)
 
 static int pc_me_dmewipe_dmewipesnapshot_create(int on, uint32_t)
 {
-    return snapshot_create(on, &dme_kind);
+    const int gone = snapshot_create(on, &dme_kind);
+    if (on && dmewipe_is_off())
+        BT_SetAllDisable(1);
+    return gone;
 }
 
 static int snapshot_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)

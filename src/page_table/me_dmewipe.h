@@ -155,7 +155,7 @@ inline constexpr MePage me_dmewipe_pages[] = {
     {.page = {.id = 0x11650000, .tree = {"M/E-1", "DME Wipe", "Modify"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_modify_sub), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify)}}, .where = SUB},
     {.page = {.id = 0x11600007, .tree = {"M/E-1", "DME Wipe", "Modify", "Remove Begin"},
-              .obj = {Base(base_sub, 0x11650000), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 0), Buttons(bt_me_dmewipe_removefrombigin), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify_removefrombigin)}}, .where = MAIN},
+              .obj = {Base(base_sub, 0x11650000), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_removefrombigin), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify_removefrombigin)}}, .where = MAIN},
     {.page = {.id = 0x11670000, .tree = {"M/E-1", "DME Wipe", "DME Wipe Snapshot"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 5), Buttons(bt_me_snapshot), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_dmewipesnapshot)}}},
 };

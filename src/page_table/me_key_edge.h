@@ -11,7 +11,7 @@
 // What fills the edge is adjusted on a page of its own; its first colour is at hand beside the choice.
 inline constexpr NB_TBL nb_me_key_edge_matte[] = {
     {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~3@Matte Adjust@Color 1@Luminance"},
-    {.id = 2, .caption = "Saturat'n", .type = NB_2, .min = 0, .max = 100,    .cmd = "~3@Matte Adjust@Color 1@Saturation"},
+    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~3@Matte Adjust@Color 1@Saturation"},
     {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~3@Matte Adjust@Color 1@Hue"},
     NB_END,
 };

@@ -30,7 +30,7 @@ inline constexpr BT_TBL bt_me_key_mainmask[] = {
     Radio ({.id = 35, .caption = "Utility 1\nBus", .group = "Mask Source", .cmd = {"~@Mask Source#Utility 1", "~@Main Mask#false", "~1@Status@Xpt Assign@UTIL1#"}, .nb = nb_me_key_mask_bus1}),
     Radio ({.id = 36, .caption = "Utility 2\nBus", .group = "Mask Source", .cmd = {"~@Mask Source#Utility 2", "~@Main Mask#false", "~1@Status@Xpt Assign@UTIL2#"}, .nb = nb_me_key_mask_bus2}),
     Jump  ({.id = 37, .caption = "Pattern\nSelect", .group = "Mask Source", .cmd = {"#+11130001"}}),
-    Tab   ({.id = 38, .caption = "Source",        .group = "Mask Source", .cmd = {"LOCAL@Mask Source", "~@Main Mask#false"}}),
+    Tab   ({.id = 38, .caption = "Source",        .group = "Mask Source", .cmd = {"LOCAL@Mask Source"}}),
     RadioRelease({.id = 49, .caption = "Force\nForegnd", .group = "Force", .cmd = {"~@Force#Foreground", "~@Main Mask#false"}}),
     RadioRelease({.id = 50, .caption = "Force\nBkgd", .group = "Force", .cmd = {"~@Force#Background", "~@Main Mask#false"}}),
     BT_END,
@@ -58,7 +58,7 @@ inline constexpr MePage me_key_mask_pages[] = {
     {.page = {.id = 0x11130000, .tree = {"M/E-1", "Key1", "Main Mask"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Buttons(bt_me_key_mainmask), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_mainmask)}}},
     {.page = {.id = 0x11130001, .tree = {"M/E-1", "Key1", "Main Mask", "Ptn Select"},
-              .obj = {Base(base_sub, 0x11130000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Boxes(NB_Non), Patterns(ps_me_key_mainmask_maskptnsel)}}},
+              .obj = {Base(base_sub, 0x11130000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 3), Boxes(NB_Non), Patterns(ps_me_key_mainmask_maskptnsel), Code(pc_me_mainmask_ptnsel)}}},
     {.page = {.id = 0x11140000, .tree = {"M/E-1", "Key1", "Sub Mask"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 4), Buttons(bt_me_key_submask), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_submask)}}},
 };

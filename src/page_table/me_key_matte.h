@@ -7,7 +7,7 @@
 
 #define NB_MATTE_COLOR(color) { \
     {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~4@" color "@Luminance"}, \
-    {.id = 2, .caption = "Saturat'n", .type = NB_2, .min = 0, .max = 100,    .cmd = "~4@" color "@Saturation"}, \
+    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~4@" color "@Saturation"}, \
     {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~4@" color "@Hue"}, \
     NB_END}
 inline constexpr NB_TBL nb_me_key_matte_color1[] = NB_MATTE_COLOR("Color 1");

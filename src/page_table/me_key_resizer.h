@@ -58,13 +58,13 @@ static_assert(ButtonsAreSound(bt_me_key_resizer_resproc));
 // The matte of a border, also that of a processed key.
 inline constexpr NB_TBL nb_me_key_border_color1[] = {
     {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 1@Luminance"},
-    {.id = 2, .caption = "Saturat'n", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 1@Saturation"},
+    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 1@Saturation"},
     {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Border Fill@Color 1@Hue"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_border_color2[] = {
     {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 2@Luminance"},
-    {.id = 2, .caption = "Saturat'n", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 2@Saturation"},
+    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 2@Saturation"},
     {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Border Fill@Color 2@Hue"},
     NB_END,
 };
@@ -111,7 +111,7 @@ static_assert(ButtonsAreSound(bt_me_key_resizer_bordercrop));
 // --- Enhanced effects: one generator makes the mosaic or the defocus ---
 
 inline constexpr NB_TBL nb_me_key_resizer_mono[] = { // the colour that is left
-    {.id = 1, .caption = "Saturat'n", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Mono@Saturation"},
+    {.id = 1, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Mono@Saturation"},
     {.id = 2, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Mono@Hue"},
     NB_END,
 };

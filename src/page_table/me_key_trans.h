@@ -7,15 +7,15 @@
 #include "st_me_key.h"
 
 inline constexpr NB_TBL nb_me_key_trans_on[] = { // frames
-    {.id = 1, .caption = "ON Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Transition Rate"},
+    {.id = 1, .caption = "ON Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Transition Rate"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_trans_off[] = {
-    {.id = 1, .caption = "OFF Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@OFF Transition Rate"},
+    {.id = 1, .caption = "OFF Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@OFF Transition Rate"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_trans_same[] = {
-    {.id = 1, .caption = "Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Transition Rate"},
+    {.id = 1, .caption = "Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Transition Rate"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_videoproc[] = { // gain in percent, hue in degrees
@@ -92,14 +92,14 @@ inline constexpr NB_TBL nb_me_key_trans_keywipe[] = {
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_trans_onwipe[] = {
-    {.id = 1, .caption = "ON Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@ON Transition Rate"},
+    {.id = 1, .caption = "ON Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@ON Transition Rate"},
     {.id = 2, .caption = "Soft",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~3@ON Wipe@Soft"},
     {.id = 3, .caption = "H Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@ON Wipe@H Position"},
     {.id = 4, .caption = "V Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@ON Wipe@V Position"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_trans_offwipe[] = {
-    {.id = 1, .caption = "OFF Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@OFF Transition Rate"},
+    {.id = 1, .caption = "OFF Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@OFF Transition Rate"},
     {.id = 2, .caption = "Soft",    .type = NB_2, .min = 0,    .max = 100, .cmd = "~3@OFF Wipe@Soft"},
     {.id = 3, .caption = "H Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@OFF Wipe@H Position"},
     {.id = 4, .caption = "V Pos",   .type = NB_2, .min = -200, .max = 200, .cmd = "~3@OFF Wipe@V Position"},

@@ -55,17 +55,6 @@ inline constexpr NB_TBL nb_me_key_type_keywipe[] = {
     {.id = 3, .caption = "Density", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Key Type@Key Wipe Pattern@Density"},
     NB_END,
 };
-// The page code names the paths: they follow the key type.
-inline constexpr NB_TBL nb_me_key_type_position[] = {
-    {.id = 1, .caption = "H Phase", .type = NB_2, .min = -8,  .max = 8, .cmd = ""},
-    {.id = 2, .caption = "Left",    .type = NB_2, .min = -8,  .max = 8, .cmd = ""},
-    {.id = 3, .caption = "Right",   .type = NB_2, .min = -8,  .max = 8, .cmd = ""},
-    NB_END,
-};
-static_assert(BoxesAreSound(nb_me_key_type_luminance) && BoxesAreSound(nb_me_key_type_linear));
-static_assert(BoxesAreSound(nb_me_key_type_chroma) && BoxesAreSound(nb_me_key_chroma_key) && BoxesAreSound(nb_me_key_type_colorvector));
-static_assert(BoxesAreSound(nb_me_key_type_wipe) && BoxesAreSound(nb_me_key_type_keywipe));
-static_assert(BoxesAreSound(nb_me_key_type_position));
 
 inline constexpr BT_TBL bt_me_key_type[] = {
     Radio ({.id = 17, .caption = "Luminance",    .group = "Key Type", .cmd = {"~@Key Type#Luminance"},    .nb = nb_me_key_type_luminance}),
@@ -76,7 +65,7 @@ inline constexpr BT_TBL bt_me_key_type[] = {
     Radio ({.id = 22, .caption = "Key Wipe\nPattern", .group = "Key Type", .cmd = {"~@Key Type#Key Wipe Pattern"}, .nb = nb_me_key_type_keywipe}),
     Toggle({.id = 33, .caption = "Key\nInvert",  .group = "Key Modify", .cmd = {"~@Key Invert#*"}}),
     Toggle({.id = 34, .caption = "Clean\nMode",  .group = "Key Modify", .cmd = {"LOCAL@M/E@Key@Type@Clean Mode#*", "~@Key Type#Chroma,Wipe Pattern,Key Wipe Pattern"}}),
-    Toggle({.id = 35, .caption = "Key\nPosition", .group = "Position", .cmd = {"LOCAL@M/E@Key@Type@Key Position#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}, .nb = nb_me_key_type_position}),
+    Toggle({.id = 35, .caption = "Key\nPosition", .group = "Position", .cmd = {"LOCAL@M/E@Key@Type@Key Position#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}, .nb = SpecialKnob(26)}),
     Action({.id = 36, .caption = "Auto\nChroma", .group = "Chroma",   .cmd = {"~@Auto Chroma#*", "~@Key Type#!Chroma"}}),
     Jump  ({.id = 37, .caption = "Chroma\nAdjust", .group = "Chroma", .cmd = {"#+11110001", "~@Key Type#!Chroma"}}),
     Jump  ({.id = 38, .caption = "Signal\nSelect", .group = "Source", .cmd = {"LOCAL@M/E@Key@Type@Pattern Select"}}),
@@ -163,7 +152,7 @@ static_assert(ListsAreSound(ls_me_key_signal_select));
 
 inline constexpr MePage me_key_type_pages[] = {
     {.page = {.id = 0x11100000, .tree = {"M/E-1", "Key1", "Fill/Source"},
-              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 0), Buttons(bt_me_key_signal_select), Lists(ls_me_key_signal_select), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_fillsource)}}},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select), Lists(ls_me_key_signal_select), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_fillsource)}}},
     {.page = {.id = 0x11110000, .tree = {"M/E-1", "Key1", "Type"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_type), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_type)}}},
     {.page = {.id = 0x11110001, .tree = {"M/E-1", "Key1", "Type", "Chroma Adjust"},

@@ -9,11 +9,11 @@
 
 // Rates count in frames.
 inline constexpr NB_TBL nb_me_misc_rate[] = {
-    {.id = 1, .caption = "Trans Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Transition Rate"},
+    {.id = 1, .caption = "Trans Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Transition Rate"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_misc_supermix[] = {
-    {.id = 1, .caption = "Trans Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Transition Rate"},
+    {.id = 1, .caption = "Trans Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Transition Rate"},
     {.id = 2, .caption = "A Video",    .type = NB_2,   .min = 0, .max = 100, .cmd = "~3@Super Mix@A Video"},
     {.id = 3, .caption = "B Video",    .type = NB_2,   .min = 0, .max = 100, .cmd = "~3@Super Mix@B Video"},
     NB_END,
@@ -25,7 +25,7 @@ inline constexpr NB_TBL nb_me_misc_limit[] = {
 static_assert(BoxesAreSound(nb_me_misc_rate) && BoxesAreSound(nb_me_misc_supermix) && BoxesAreSound(nb_me_misc_limit));
 
 // The rate of the bank, and those with which its keys come independently of it.
-#define NB_KEY_RATE(slot, key) {.id = slot, .caption = key " Rate", .type = NB_INT, .min = 0, .max = 999, \
+#define NB_KEY_RATE(slot, key) {.id = slot, .caption = key " Rate\nframes", .type = NB_INT, .min = 0, .max = 999, \
                                 .cmd = "~1@" key "@Transition@ON Transition Rate"}
 #define NB_RATES(key) nb_me_misc_rate[0], NB_KEY_RATE(2, key "1"), NB_KEY_RATE(3, key "2"), NB_KEY_RATE(4, key "3"), NB_KEY_RATE(5, key "4")
 #define NB_FURTHER_RATES(key) NB_KEY_RATE(17, key "5"), NB_KEY_RATE(18, key "6"), NB_KEY_RATE(19, key "7"), NB_KEY_RATE(20, key "8")
@@ -74,7 +74,11 @@ constexpr BT_TBL NextTransition(int id, const char* caption, const char* cmd)
     NextTransition(53, "Key8", "~3@Next Transition@Key8#*"), \
     Knobs ({.id = 38, .caption = "Rate",            .group = "Rate", .nb = rates})
 
-inline constexpr BT_TBL bt_me_misc_trans[] = {BT_MISC_TRANSITION(nb_me_misc_rates), BT_END};
+inline constexpr BT_TBL bt_me_misc_trans[] = {
+    BT_MISC_TRANSITION(nb_me_misc_rates),
+    Action({.id = 54, .caption = "Auto\nTrans", .group = "Transition", .cmd = {"~3@Auto Trans#*"}}),
+    BT_END,
+};
 inline constexpr BT_TBL bt_pp_misc_trans[] = {
     BT_MISC_TRANSITION(nb_pp_misc_rates),
     Jump({.id = 54, .caption = "Fade to\nBlack", .group = "FTB", .cmd = {"#+11710002"}}),
@@ -99,6 +103,8 @@ inline constexpr BT_TBL bt_me_misc_trans_sub[] = {
     NextTransition(36, "Key7", "~3@Next Transition@Key7#*"),
     NextTransition(37, "Key8", "~3@Next Transition@Key8#*"),
     Knobs ({.id = 38, .caption = "Rate",      .group = "Rate", .nb = nb_me_misc_rate}),
+    Action({.id = 53, .caption = "Cut",       .group = "Transition", .cmd = {"~3@Cut#*"}}),
+    Action({.id = 54, .caption = "Auto\nTrans", .group = "Transition", .cmd = {"~3@Auto Trans#*"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_misc_trans_sub));
@@ -150,8 +156,8 @@ static_assert(ButtonsAreSound(bt_me_misc_color_matte));
 // --- Fade to black ---
 
 inline constexpr NB_TBL nb_pp_misc_ftb_rate[] = { // frames
-    {.id = 1, .caption = "ON Rate",  .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Rate"},
-    {.id = 2, .caption = "OFF Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@OFF Rate"},
+    {.id = 1, .caption = "ON Rate\nframes",  .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Rate"},
+    {.id = 2, .caption = "OFF Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@OFF Rate"},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_pp_misc_ftb_rate));
@@ -291,7 +297,7 @@ inline constexpr NB_TBL nb_me_misc_clip_speed[] = { // percent of the clip's own
     NB_END,
 };
 inline constexpr NB_TBL nb_me_misc_clip_duration[] = { // frames
-    {.id = 1, .caption = "Duration", .type = NB_INT, .min = 1, .max = 999, .cmd = "~3@Duration"},
+    {.id = 1, .caption = "Duration\nframes", .type = NB_INT, .min = 1, .max = 999, .cmd = "~3@Duration"},
     NB_END,
 };
 // Until the length of the clip is known, an hour at 60 frames a second.
@@ -334,11 +340,11 @@ static_assert(ButtonsAreSound(bt_me_misc_cliptrans));
 // --- Snapshot: what the bank's snapshots hold back, how they come, and what is in them ---
 
 inline constexpr NB_TBL nb_me_misc_ss_dissolve[] = { // frames
-    {.id = 1, .caption = "Duration", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Effect Dissolve@Duration"},
+    {.id = 1, .caption = "Duration\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Effect Dissolve@Duration"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_misc_ss_autotrans[] = {
-    {.id = 1, .caption = "Trans Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Auto Transition@Rate"},
+    {.id = 1, .caption = "Trans Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Auto Transition@Rate"},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_misc_ss_dissolve) && BoxesAreSound(nb_me_misc_ss_autotrans));

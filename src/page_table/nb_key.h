@@ -81,11 +81,11 @@ inline constexpr auto nb_me_key_edge_edge_zabton_fit = FamilyOf<2>([](int wide) 
 
 inline constexpr auto nb_matte_flat = Column(
     Percent(1, "Luminance", "~@Color 1@Luminance"),
-    Percent(2, "Saturat'n", "~@Color 1@Saturation"),
+    Percent(2, "Saturation", "~@Color 1@Saturation"),
     Hue    (3,              "~@Color 1@Hue"));
 #define NB_MATTE_MIX(color) \
     Column(Percent(1,  "Luminance", "~@" color "@Luminance"), \
-           Percent(2,  "Saturat'n", "~@" color "@Saturation"), \
+           Percent(2,  "Saturation", "~@" color "@Saturation"), \
            Hue    (3,               "~@" color "@Hue"), \
            Percent(17, "Size",      "~@Mix Pattern@Size"), \
            Percent(18, "Soft",      "~@Mix Pattern@Soft"), \
@@ -187,9 +187,9 @@ inline constexpr auto nb_me_key_prockey_crop = FamilyOf<2>([](int wide) {
 });
 inline constexpr auto nb_me_key_prockey_rotation_flat = Column(Degrees(3, "Z", "~@Rotation@Z"));
 inline constexpr auto nb_me_key_prockey_rotation = Column(
-    Turns(1, "X", "~@Rotation@X"),
-    Turns(2, "Y", "~@Rotation@Y"),
-    Turns(3, "Z", "~@Rotation@Z"));
+    Turns(1, "X\nturns", "~@Rotation@X"),
+    Turns(2, "Y\nturns", "~@Rotation@Y"),
+    Turns(3, "Z\nturns", "~@Rotation@Z"));
 inline constexpr auto nb_me_key_prockey_location_flat = FamilyOf<2>([](int wide) {
     return Column(Span(1, "X", "~@Location@X", Wide(4, wide)),
                   Span(2, "Y", "~@Location@Y", 4));
@@ -208,9 +208,9 @@ inline constexpr auto nb_me_key_prockey_size_sep = Column(
 
 // The page code names the paths: they follow the key type. Phase in clocks of the picture.
 inline constexpr auto nb_me_key_type_phase = FamilyOf<2>([](int hd) {
-    return Column(Span(1, "H Phase", "", hd ? 16 : 8),
-                  Span(2, "Left",    "", hd ? 16 : 8),
-                  Span(3, "Right",   "", hd ? 16 : 8));
+    return Column(Span(1, "H Phase\nclocks", "", hd ? 16 : 8),
+                  Span(2, "Left\nclocks",    "", hd ? 16 : 8),
+                  Span(3, "Right\nclocks",   "", hd ? 16 : 8));
 });
 #define NB_KEY_PATTERN(type, wide) \
     Column(Span   (1, "H",      "~@Key Type@" type "@H Position", Wide(100, wide)), \
@@ -231,11 +231,11 @@ inline constexpr auto nb_me_key_type_keywipe_modify = NB_KEY_PATTERN_MODIFY("Key
 
 inline constexpr auto nb_me_key_chroma_cancel = Column(
     Percent(1, "Luminance", "~@Color Cancel@Luminance"),
-    Percent(2, "Saturat'n", "~@Color Cancel@Saturation"),
+    Percent(2, "Saturation", "~@Color Cancel@Saturation"),
     Hue    (3,              "~@Color Cancel@Hue"));
 inline constexpr auto nb_me_key_chroma_cancel_y = Column(
     Percent(1,  "Luminance", "~@Color Cancel@Luminance"),
-    Percent(2,  "Saturat'n", "~@Color Cancel@Saturation"),
+    Percent(2,  "Saturation", "~@Color Cancel@Saturation"),
     Hue    (3,               "~@Color Cancel@Hue"),
     Span   (17, "Y Gain",    "~@Y Balance@Gain", 100),
     Percent(18, "Y Clip",    "~@Y Balance@Clip"));

@@ -21,7 +21,7 @@ inline constexpr NB_TBL nb_wipe_modify_main_position[] = NB_POSITION_OF("Main Pa
 inline constexpr NB_TBL nb_wipe_modify_sub_position[] = NB_POSITION_OF("Sub Pattern");
 #undef NB_POSITION_OF
 inline constexpr NB_TBL nb_wipe_modify_speed[] = {
-    {.id = 1, .caption = "Speed", .type = NB_2, .min = -999.99, .max = 999.99, .cmd = "~@Speed@Speed"}, // turns
+    {.id = 1, .caption = "Speed\nturns", .type = NB_2, .min = -999.99, .max = 999.99, .cmd = "~@Speed@Speed"}, // turns
     NB_END,
 };
 inline constexpr NB_TBL nb_wipe_modify_multi[] = { // 1 by 1 is the pattern alone

@@ -154,7 +154,7 @@ inline constexpr auto nb_me_dmewipe_transparency_fade = Column(
 
 inline constexpr auto nb_bkgd_color2 = Column(
     Percent(1, "Luminance", "~@Color 2@Luminance"),
-    Percent(2, "Saturat'n", "~@Color 2@Saturation"),
+    Percent(2, "Saturation", "~@Color 2@Saturation"),
     Hue    (3,              "~@Color 2@Hue"));
 inline constexpr auto nb_bkgd_pattern = FamilyOf<2>([](int wide) {
     return Column(Span   (1, "H",    "~@Pattern@H", Wide(100, wide)),

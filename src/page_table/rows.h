@@ -79,6 +79,9 @@ template <size_t N> constexpr bool ButtonsAreSound(const BT_TBL (&rows)[N])
         if (b.x2 >= SCREEN_W || b.y2 >= SCREEN_H) return false;
         for (size_t k = 0; k < i; k++)
             if (rows[k].id == b.id) return false;
+        // A tab follows no tally: what it depends on would have no effect.
+        for (int n = 1; b.type == BT_TAB && n < BT_COMMANDS; n++)
+            if (b.cmd[n]) return false;
     }
     return true;
 }

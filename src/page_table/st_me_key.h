@@ -24,15 +24,15 @@
                         "~2@Processed Key@DME Select@DME7", "~2@Processed Key@DME Select@DME8", \
                         "M/E-1@Key1@Processed Key@Monitor"}
 
-// The fill stands before the source whatever their places: a press tells them by their index.
 inline constexpr ST_TBL st_me_key[] = {
     CellAt(0, 0, {.id = 1,  .draw_func = st_drw_me_key_type1,    .cmd = ST_KEY_TYPE("~2"), .jamp_id_base = 0x11110000}),
-    CellAt(1, 0, {.id = 3,  .draw_func = st_drw_me_key_edge,     .cmd = ST_KEY_EDGE("~2"), .jamp_id_base = 0x11120000}),
-    CellAt(2, 0, {.id = 4,  .draw_func = st_drw_me_key_mainmask, .cmd = ST_KEY_MAIN_MASK("~2"), .jamp_id_base = 0x11130000}),
-    CellAt(3, 0, {.id = 5,  .draw_func = st_drw_me_key_submask,  .cmd = ST_KEY_SUB_MASK("~2"), .jamp_id_base = 0x11140000}),
-    CellAt(4, 0, {.id = 6,  .draw_func = st_drw_me_key_resizer,
-                  .cmd = {"~2@Processed Key@Resizer", "~2@Resizer@Size", "~2@Resizer@H", "~2@Resizer@V"},
-                  .jamp_id_base = 0x11150000}),
+    CellAt(1, 0, {.id = ST_KEY_TYPE_2, .draw_func = st_drw_me_key_type2,
+                  .cmd = {"~2@Type@Key Invert", "~2@Type@Key Type", "~2@Type@Key Position@Luminance",
+                          "~2@Type@Key Position@Linear", "~2@Type@Key Position@Chroma", "~2@Type@Key Position@Color Vector"},
+                  .jamp_id_base = 0x11110000}),
+    CellAt(2, 0, {.id = 3,  .draw_func = st_drw_me_key_edge,     .cmd = ST_KEY_EDGE("~2"), .jamp_id_base = 0x11120000}),
+    CellAt(3, 0, {.id = 4,  .draw_func = st_drw_me_key_mainmask, .cmd = ST_KEY_MAIN_MASK("~2"), .jamp_id_base = 0x11130000}),
+    CellAt(4, 0, {.id = 5,  .draw_func = st_drw_me_key_submask,  .cmd = ST_KEY_SUB_MASK("~2"), .jamp_id_base = 0x11140000}),
     CellAt(5, 0, {.id = 7,  .draw_func = st_drw_me_key_videoproc,
                   .cmd = {"~2@Video Process@Video Process", "~2@Video Process@Luminance", "~2@Video Process@Chroma",
                           "~2@Video Process@Hue"}, .jamp_id_base = 0x11170000}),

@@ -157,14 +157,16 @@ TEST(PageTable, EveryTabLeadsToAPageAndTheChosenOneToItsOwn)
                 return;
             chosen[kind]++;
             const uint32_t group = kind == OBJ_VF ? 0xFFF00000 : 0xFFFF0000;
-            EXPECT_EQ(target & group, page.id & group) << std::hex << page.id << " tab " << id;
+            // A page beside those of its group lights the tab that leads back to it.
+            const bool is_beside = kind == OBJ_HF && (page.id & 0x000F0000) == 0;
+            EXPECT_EQ(target & group, (is_beside ? target : page.id) & group)
+                << std::hex << page.id << " tab " << id;
             if (kind == OBJ_VF && isNowPageMeKey(page.id)) {
                 EXPECT_STREQ(caption, page.tree[1]);
             }
         });
-        const bool is_of_no_tab = (page.id & 0x000F0000) == 0; // a page beside those of the group
         EXPECT_EQ(chosen[OBJ_VF], tabs[OBJ_VF] ? 1 : 0) << std::hex << page.id;
-        EXPECT_EQ(chosen[OBJ_HF], tabs[OBJ_HF] && !is_of_no_tab ? 1 : 0) << std::hex << page.id;
+        EXPECT_EQ(chosen[OBJ_HF], tabs[OBJ_HF] ? 1 : 0) << std::hex << page.id;
         EXPECT_TRUE(!isNowPageMeKey(page.id) || (tabs[OBJ_VF] && tabs[OBJ_HF]))
             << std::hex << page.id << " is a page of a key and has no tabs";
     });
@@ -249,5 +251,41 @@ TEST(PageTable, EveryBoxHasLimitsThatDifferAndACaptionThatFits)
     ForEachBox([](PAGE& page, const BT_TBL&, const NB_TBL& nb) {
         EXPECT_NE(nb.min, nb.max) << std::hex << page.id << " " << nb.caption;
         EXPECT_LE(TDL_GetSymbolWidth(nb.caption, 3), 74u) << nb.caption;
+    });
+}
+
+// A page that nothing on the screen leads to is a page that no operator finds.
+TEST(PageTable, EveryPageOfABankIsLedTo)
+{
+    // By page code, as for M/E-1 and Key1.
+    static const std::set<uint32_t> by_code = {0x11510000, 0x11170002, 0x11110002, 0x11110003,
+                                               0x11170004, 0x11170005, 0x11170006};
+    // The tab opens one of two forms, by how the installation is set up.
+    static const std::set<uint32_t> by_form = {0x11170100, 0x11170200};
+    // The list of signals by itself: only its number opens it.
+    static const std::set<uint32_t> by_number = {0x11100000};
+    Harness_Reset();
+    const FullHouse all;
+    std::set<uint32_t> led_to;
+    ForEachButton([&](PAGE& page, const BT_TBL& b) {
+        if (IsJump(b))
+            led_to.insert(TargetOf(page, b));
+    });
+    ForEachPage([&](PAGE& page) {
+        ForEachTab(page, [&](int, int, const char*, uint32_t target, bool) {
+            const PAGE* opened = SearchPageTable(target);
+            led_to.insert(opened ? opened->id : target);
+            led_to.insert(target);
+        });
+    });
+    ForEachPage([&](PAGE& page) {
+        if (!isNowPageMeKey(page.id) && !isNowPageME(page.id))
+            return;
+        const uint32_t first = (page.id & 0x00F00000) < 0x00500000 ? 0x000FFFFF : 0x00FFFFFF;
+        const uint32_t as_first =
+            (page.id & first) | 0x11000000 | (first == 0x000FFFFF ? 0x100000 : 0);
+        EXPECT_TRUE(led_to.count(page.id) || by_code.count(as_first) || by_form.count(as_first) ||
+                    by_number.count(as_first))
+            << std::hex << page.id;
     });
 }

@@ -1,5 +1,6 @@
 // The pages of a bank's own settings as the table opens them: what their page code sends, what it
 // subscribes, which buttons the installation leaves.
+#include "a_st.h"
 #include "table_page.h"
 
 using MeMisc = TablePage;
@@ -288,6 +289,39 @@ TEST_F(MeMisc, AWipeOfTheInternalChannelsHasItsPictureInTheCells)
 }
 
 // --- Other cells of a key ---
+
+TEST_F(MeMisc, TheCellOfTheCutTellsInversionAndThePositionOfItsType)
+{
+    const std::string type = "M/E-1@Key1@Type@";
+    const auto lit = [] {
+        Pass(10);
+        return std::string(PixelAt(208, 97) == 0xFFFFFF ? "i" : "") +
+               (PixelAt(208, 112) == 0xFFFFFF ? "p" : "");
+    };
+    Open(0x11120000);
+    TellAll(type, {"Key Type#Luminance", "Key Position@Linear#true"});
+    EXPECT_EQ(lit(), "");
+    Tell(type + "Key Position@Luminance#true");
+    EXPECT_EQ(lit(), "p");
+    TellAll(type, {"Key Invert#true", "Key Type#Chroma"});
+    EXPECT_EQ(lit(), "i");
+}
+
+// Without that cell the fill and the source still say which of them is assigned.
+TEST_F(MeMisc, FillAndSourceOpenTheirAssignmentAlsoWhereACellIsMissing)
+{
+    for (const int is_4k : {0, 1}) {
+        SYS_4KMode = is_4k;
+        for (const uint32_t page : {0x11110000u, 0x11310000u}) {
+            Open(page);
+            (void)Touch(250, 200);
+            EXPECT_EQ(GL_FillSourceAssignMode, 0) << std::hex << page;
+            Open(page);
+            (void)Touch(150, 200);
+            EXPECT_EQ(GL_FillSourceAssignMode, 1) << std::hex << page;
+        }
+    }
+}
 
 // Where both ways share a setting it is kept as that of coming.
 TEST_F(MeMisc, TheCellOfGoingShowsHowTheKeyReallyGoes)

@@ -1,7 +1,11 @@
 // What the pages of the banks share: their words and numbers, and how a split board limits them.
 #include "a_ba.h"
+#include "a_nb_private.h"
+#include "command.h"
 #include "pc_me.h"
 #include "table_page.h"
+#include <cstring>
+#include <map>
 
 using BankOfPage = TablePage;
 
@@ -68,4 +72,42 @@ TEST_F(BankOfPage, DefaultRecallFromATabStaysOnItsSide)
         EXPECT_THAT(Touch(40, 73 + 65 * (c.slot - 1) + 20), Contains(c.sent));
         EXPECT_EQ(BA_IsDefaultButton(), 0) << c.sent;
     }
+}
+
+// Two pages that let the same value be set must not disagree about how far it goes: the number that
+// one allows would jump under the hand on the other. Of a bank with a wide
+// picture.
+TEST_F(MeBank, ABanksValueHasTheSameLimitsOnAllItsPages)
+{
+    struct Limits {
+        double min, max;
+        uint32_t page;
+    };
+    SYS_RefSwrScreenAspect[0] = 1;
+    std::map<std::string, Limits> of_path;
+    for (PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        if (page->id >> 24 != 0x11)
+            continue;
+        ASSERT_EQ(CreatePage(page->id), 0) << std::hex << page->id;
+        GL_CreatePage = 0;
+        Tell("M/E-1@Wipe@Edge@Border#true"); // without one its softness goes further
+        const auto compare = [&](int id) {
+            for (const NB_MEM* box = nb.Knob; box->id >= 1; box++) {
+                if (!strchr(box->cmd, '@') || IsLocal(box->cmd))
+                    continue; // the page's own
+                const auto [at, is_new] =
+                    of_path.insert({box->cmd, {box->min, box->max, page->id}});
+                EXPECT_TRUE(is_new || (at->second.min == box->min && at->second.max == box->max))
+                    << box->cmd << " on " << std::hex << page->id << " button " << std::dec << id
+                    << " and on " << std::hex << at->second.page;
+            }
+        };
+        compare(0);
+        for (BT_MEM* b = bt_first(); b && b->id >= 1; b++)
+            if (b->nb && b->nb != NoKnobs()) {
+                bt_take_knobs(b);
+                compare(b->id);
+            }
+    }
+    EXPECT_GT(of_path.size(), 200u);
 }
