@@ -123,6 +123,11 @@ int DW_Create(const DW_TBL* table, uint32_t knob_row)
     return 0;
 }
 
+int DW_Follows(const char* path)
+{
+    return dw.cmd[0] && Same(dw.cmd, path);
+}
+
 // --- Cells ---
 
 static Rect area()
@@ -285,5 +290,5 @@ int DW_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 
 int DW_ConvPosForWheel(int* x, int* y, int button)
 {
-    return dw.cmd[0] ? ScrollWindow_ConvPosForWheel(area(), x, y, button) : 0;
+    return dw.cmd[0] ? SB_ConvPosForWheel(0, area(), x, y, button) : 0;
 }

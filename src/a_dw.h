@@ -52,6 +52,7 @@ int DW_ShowChannels(int channels);
 // The list can be read but takes no press until the page is left: the bank has no such wipe now.
 int DW_SetDead(int on);
 int DW_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+int DW_Follows(const char* path); // 1 while the list is subscribed to it
 // Turn a wheel step at (x, y) into a press on the up or down control under it. Non-zero when x and
 // y were rewritten; button is 4 or 5.
 int DW_ConvPosForWheel(int* x, int* y, int button);

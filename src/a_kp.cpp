@@ -11,8 +11,10 @@
 #include "scrollbar.h"
 #include "tally_value.h"
 #include "tdl.h"
+#include "text.h"
 #include "window.h"
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 #include <span>
 #include "safeguards.h"
@@ -101,14 +103,14 @@ static constexpr SplineColumn spline_columns[SPLINES] = {
 };
 
 static KP_MEM Row[KP_MAX];
-static ScrollWindow Window; // its total is how many rows there are
+static ScrollWindow Scrolled; // its total is how many rows there are
 static bool RedrawAll = false;
 static int AskedRow = -1; // whose cell the open window is for
 static int AskedCell = 0;
 
 static std::span<KP_MEM> rows()
 {
-    return {Row, size_t(Window.total)};
+    return {Row, size_t(Scrolled.total)};
 }
 
 // Whether the window of a cell has this choice.
@@ -152,25 +154,41 @@ static void fill_row(KP_MEM& r, const KP_TBL& from)
 int KP_Create(const KP_TBL* table, uint32_t)
 {
     send_paths("remove");
-    if (Window.shown)
+    if (Scrolled.shown)
         CloseScrollBar(0);
-    Window = {};
+    Scrolled = {};
     AskedRow = -1;
     RedrawAll = false;
     if (!table)
         return 1;
     for (const KP_TBL* from = table; from->caption; from++) {
-        if (Window.total == KP_MAX) {
+        if (Scrolled.total == KP_MAX) {
             Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for KP Objects!!\n");
             break;
         }
-        fill_row(Row[Window.total++], *from);
+        fill_row(Row[Scrolled.total++], *from);
     }
-    Window.shown = ROWS_SHOWN;
+    Scrolled.shown = ROWS_SHOWN;
     RedrawAll = true;
-    ScrollWindow_Open(Window, BAR_X, HEAD_TOP, BOTTOM - HEAD_TOP + 1);
+    ScrollWindow_Open(Scrolled, BAR_X, HEAD_TOP, BOTTOM - HEAD_TOP + 1);
     send_paths("add");
     return 0;
+}
+
+static bool has_path(const KP_MEM& r, const char* path)
+{
+    if (!r.cmd[0] || IsLocal(r.cmd) || !BeginsWith(path, r.cmd))
+        return false;
+    const auto is_path = [&](const auto& c) { return Same(path + strlen(r.cmd), c.path); };
+    return std::any_of(std::begin(cell_columns), std::end(cell_columns), is_path) ||
+           std::any_of(std::begin(spline_columns), std::end(spline_columns), is_path);
+}
+
+int KP_Follows(const char* path)
+{
+    const auto all = rows();
+    return std::any_of(all.begin(), all.end(),
+                       [path](const KP_MEM& r) { return has_path(r, path); });
 }
 
 // --- Press ---
@@ -213,8 +231,8 @@ static int press(int x, int y)
 {
     if (!Inside({LEFT, TOP, RIGHT, BOTTOM}, x, y) || BA_IsDefaultButton())
         return 0;
-    const int n = Window.top + (y - TOP) / ROW_H;
-    if (n >= Window.total)
+    const int n = Scrolled.top + (y - TOP) / ROW_H;
+    if (n >= Scrolled.total)
         return 0;
     KP_MEM& r = Row[n];
     if (x <= CAPTION_RIGHT && r.jump) {
@@ -225,7 +243,7 @@ static int press(int x, int y)
     for (int cell = 0; cell < CELLS; cell++) {
         const int left = cell_columns[cell].x;
         if (x >= left && x < left + CELL_W && r.has[cell] && r.cmd[0])
-            press_cell(n, cell, TOP + (n - Window.top) * ROW_H);
+            press_cell(n, cell, TOP + (n - Scrolled.top) * ROW_H);
     }
     return 0;
 }
@@ -234,7 +252,7 @@ static int chosen(int path_type, int choice)
 {
     const int n = AskedRow;
     AskedRow = -1;
-    if (n >= 0 && n < Window.total && Row[n].type[AskedCell] == path_type)
+    if (n >= 0 && n < Scrolled.total && Row[n].type[AskedCell] == path_type)
         send_choice(Row[n], AskedCell, choice);
     return 0;
 }
@@ -279,7 +297,7 @@ static int tally(const char* path, const char* value)
 
 static int scroll(int kind, int bar, int step_or_line)
 {
-    if (Window.shown && ScrollWindow_Move(Window, kind, bar, step_or_line))
+    if (Scrolled.shown && ScrollWindow_Move(Scrolled, kind, bar, step_or_line))
         RedrawAll = true;
     return 0;
 }
@@ -306,7 +324,7 @@ static void draw_splines(const KP_MEM& r, int y)
 static void draw_row(int n)
 {
     KP_MEM& r = Row[n];
-    const int y = TOP + (n - Window.top) * ROW_H;
+    const int y = TOP + (n - Scrolled.top) * ROW_H;
     r.redraw = 0;
     TDL_FillRectS(LEFT, y, RIGHT, y + ROW_H - 1, BLACK);
     TDL_LineHS(LEFT, y + ROW_H - 1, RIGHT - LEFT + 1, GROUP_FRAME);
@@ -337,7 +355,7 @@ static void draw_all()
     RedrawAll = false;
     draw_head();
     TDL_FillRectS(LEFT, TOP, RIGHT, BOTTOM, BLACK);
-    for (int n = Window.top; n < Window.total && n < Window.top + Window.shown; n++)
+    for (int n = Scrolled.top; n < Scrolled.total && n < Scrolled.top + Scrolled.shown; n++)
         draw_row(n);
     TDL_UpdateRect(AREA.x1, AREA.y1, AREA.x2, AREA.y2);
 }
@@ -358,11 +376,11 @@ static int redraw(int elapsed_ms)
     let_go(elapsed_ms);
     if (RedrawAll)
         draw_all();
-    for (int n = Window.top; n < Window.total && n < Window.top + Window.shown; n++) {
+    for (int n = Scrolled.top; n < Scrolled.total && n < Scrolled.top + Scrolled.shown; n++) {
         if (!Row[n].redraw)
             continue;
         draw_row(n);
-        const int y = TOP + (n - Window.top) * ROW_H;
+        const int y = TOP + (n - Scrolled.top) * ROW_H;
         TDL_UpdateRect(LEFT, y, RIGHT, y + ROW_H - 1);
     }
     return 0;
@@ -382,5 +400,5 @@ int KP_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 
 int KP_ConvPosForWheel(int* x, int* y, int button)
 {
-    return Window.shown ? ScrollWindow_ConvPosForWheel(AREA, x, y, button) : 0;
+    return Scrolled.shown ? SB_ConvPosForWheel(0, AREA, x, y, button) : 0;
 }

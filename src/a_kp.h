@@ -21,5 +21,6 @@ constexpr KP_TBL KP_END = {};
 // empties the object and returns 1.
 int KP_Create(const KP_TBL* table, uint32_t var);
 int KP_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+int KP_Follows(const char* path); // 1 while a row is subscribed to it
 // As DW_ConvPosForWheel.
 int KP_ConvPosForWheel(int* x, int* y, int button);

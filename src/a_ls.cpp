@@ -197,7 +197,7 @@ int LS_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     switch (msg) {
     case MSG_REDRAW: return ls_redraw();
     case MSG_PRESS: return ls_press(int(ax), int(bx));
-    case MSG_RELEASE: return ls_release();
+    case MSG_RELEASE: return ls_release(int(ax) >= 0);
     case MSG_DRAG: return ls_drag(int(ax), int(bx), cx != 0);
     case LMSG_SBSEL: return ls_sbsel(int(ax), int(bx), int(cx));
     default: return 0;
@@ -206,18 +206,10 @@ int LS_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 
 int LS_ConvPosForWheel(int* x, int* y, int dir)
 {
-    constexpr int WHEEL_UP = 4;
     for (const LS_MEM* l = List; l->id >= 1; l++) {
-        SB_INFO bar;
-        if ((l->view && l->block) || SB_GetInfo(&bar, l->id - 1) != 0 || !bar.active)
-            continue;
-        const Rect whole = {bar.up.x1, bar.up.y1, bar.down.x2, bar.down.y2};
         const Rect area = {l->area_x1, l->area_y1, l->area_x2, l->area_y2};
-        if (!Inside(area, *x, *y) && !Inside(whole, *x, *y))
-            continue;
-        *x = dir == WHEEL_UP ? bar.up.x1 : bar.down.x1;
-        *y = dir == WHEEL_UP ? bar.up.y1 : bar.down.y2;
-        return 1;
+        if (!(l->view && l->block) && SB_ConvPosForWheel(l->id - 1, area, x, y, dir))
+            return 1;
     }
     return 0;
 }

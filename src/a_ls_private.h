@@ -64,7 +64,7 @@ int ls_last_top(const LS_MEM& l);    // the window at the end of the rows
 // --- a_ls_select.cpp ---
 void ls_forget_touch(); // no finger is down
 int ls_press(int x, int y);
-int ls_release();
+int ls_release(bool is_on_screen);
 int ls_drag(int x, int y, bool held);
 int ls_sbsel(int kind, int bar, int value);
 void ls_unselect(LS_MEM& l, int from, int to); // rows from up to before to, in silence

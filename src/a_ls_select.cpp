@@ -250,9 +250,11 @@ int ls_press(int x, int y)
     return 0;
 }
 
-int ls_release()
+// A release that went elsewhere has no place on the screen, and no bounce follows it.
+int ls_release(bool is_on_screen)
 {
-    touch.released_ms = SDL_GetTicks();
+    if (is_on_screen)
+        touch.released_ms = SDL_GetTicks();
     touch.id = 0;
     return 0;
 }

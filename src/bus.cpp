@@ -5,6 +5,7 @@
 #include "fmctrl.h"
 #include "fmctrl3.h"
 #include "global.h"
+#include "held.h"
 #include "info.h"
 #include "log.h"
 #include "message.h"
@@ -119,8 +120,26 @@ static void bus_walk_objects(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx
     }
 }
 
+// The release that the page is owed has gone, or will go, to somebody else. What stands over the
+// page has no part in this one, and no mask keeps it.
+static void bus_let_go()
+{
+    constexpr int NOWHERE = -1;
+    (void)ScrollBarProc(MSG_RELEASE, NOWHERE, NOWHERE, 0, 0);
+    if (!Page)
+        return;
+    for (const _pageobject& object : Page->obj) {
+        if (object.type <= OBJ_END)
+            return;
+        if (const PageFamily* family = PageFamily_Of(object.type))
+            (void)family->proc(MSG_RELEASE, NOWHERE, NOWHERE, 0, 0);
+    }
+}
+
 int SendMessage(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
 {
+    if (Held_IsLost(msg))
+        bus_let_go();
     if (!bus_is_event(msg))
         bus_log_internal(msg, ax, bx, cx, dx);
     if (msg == MSG_TALLY) {

@@ -23,17 +23,3 @@ bool ScrollWindow_Move(ScrollWindow& w, int kind, int bar, int step_or_line)
     (void)SB_SetPositionRedraw(BAR, w.top, w.shown, w.total);
     return true;
 }
-
-int ScrollWindow_ConvPosForWheel(const Rect& area, int* x, int* y, int button)
-{
-    constexpr int WHEEL_UP = 4;
-    SB_INFO bar;
-    if (SB_GetInfo(&bar, BAR) != 0 || !bar.active)
-        return 0;
-    const Rect whole = {bar.up.x1, bar.up.y1, bar.down.x2, bar.down.y2};
-    if (!Inside(area, *x, *y) && !Inside(whole, *x, *y))
-        return 0;
-    *x = button == WHEEL_UP ? bar.up.x1 : bar.down.x1;
-    *y = button == WHEEL_UP ? bar.up.y1 : bar.down.y2;
-    return 1;
-}

@@ -13,5 +13,3 @@ struct ScrollWindow {
 void ScrollWindow_Open(const ScrollWindow& w, int x, int y, int height);
 // LMSG_SBSEL: true when the window has moved.
 bool ScrollWindow_Move(ScrollWindow& w, int kind, int bar, int step_or_line);
-// As LS_ConvPosForWheel, for an object that covers area.
-int ScrollWindow_ConvPosForWheel(const Rect& area, int* x, int* y, int button);

@@ -105,6 +105,21 @@ int SB_GetInfo(SB_INFO* out, int n)
     return 0;
 }
 
+int SB_ConvPosForWheel(int n, const Rect& area, int* x, int* y, int dir)
+{
+    constexpr int WHEEL_UP = 4;
+    const Bar* b = find_bar(n);
+    if (!b || !b->info.active)
+        return 0;
+    const Rect& up = b->info.up;
+    const Rect& down = b->info.down;
+    if (!Inside(area, *x, *y) && !Inside({up.x1, up.y1, down.x2, down.y2}, *x, *y))
+        return 0;
+    *x = up.x1;
+    *y = dir == WHEEL_UP ? up.y1 : down.y2;
+    return 1;
+}
+
 void SB_IgnoreRedraw(int on)
 {
     IgnoreRedraw = on != 0;
@@ -244,8 +259,6 @@ int ScrollBarProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     case MSG_PRESS: return press(int(ax), int(bx));
     case MSG_RELEASE: return release();
     case MSG_DRAG: return drag(int(bx), cx != 0);
-    // A pane has come over the page and will take the release: the arrow must not run on behind it.
-    case MSG_PANETICK: return release();
     default: return 0;
     }
 }

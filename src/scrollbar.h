@@ -28,6 +28,9 @@ void CloseScrollBarAll();
 int SB_SetPosition(int n, int top, int shown, int total);
 int SB_SetPositionRedraw(int n, int top, int shown, int total); // painted at the next MSG_REDRAW
 int SB_GetInfo(SB_INFO* out, int n);
+// Turn a wheel step over the bar, or over the area beside it that it scrolls, into a press on one
+// of its arrows; dir is 4 up, 5 down. 1 when x and y were rewritten.
+int SB_ConvPosForWheel(int n, const Rect& area, int* x, int* y, int dir);
 
 // --- For the main loop and the bus ---
 void SB_IgnoreRedraw(int on); // the next arrow press is a wheel step: the arrow does not show it

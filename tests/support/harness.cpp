@@ -15,6 +15,7 @@
 #include "device.h"
 #include "global.h"
 #include "graphics.h"
+#include "held.h"
 #include "log.h"
 #include "loop.h"
 #include "me_config.h"
@@ -164,6 +165,7 @@ void Harness_Reset()
     empty_page();
     Page_Reset();
     Loop_Reset();
+    Held_Reset();
     KF_Init();
     reset_state();
     if (full_houses)

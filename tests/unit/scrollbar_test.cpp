@@ -89,15 +89,6 @@ TEST_F(ScrollBars, AHeldArrowWaitsOnceAndThenRepeats)
     }
 }
 
-TEST_F(ScrollBars, AnArrowUnderAPaneDoesNotRunOn)
-{
-    Press(X, DOWN);
-    Told();
-    SendMessage(MSG_PANETICK, 10, 0, 0, 0); // the pane will keep the release to itself
-    Redraw(5000);
-    EXPECT_THAT(Told(), IsEmpty());
-}
-
 TEST_F(ScrollBars, TheThumbFollowsTheFingerThatHoldsIt)
 {
     Drag(X, 220);

@@ -1,0 +1,135 @@
+// What the page holds - a slider, rows of a list, a scroll arrow, a thumb - when its release goes
+// elsewhere.
+#include "a_ls_page.h"
+#include "a_nb.h"
+#include "pane.h"
+#include "window.h"
+
+namespace
+{
+const LS_TBL list[] = {
+    {.id = 1,
+     .hn = 1,
+     .vn = 5,
+     .x = 100,
+     .y = 100,
+     .width = {100},
+     .sb_top = 100,
+     .sb_bottom = 232},
+    LS_END,
+};
+const NB_TBL boxes[] = {
+    {.id = 1, .caption = "Gain", .type = NB_2, .min = -100, .max = 100, .cmd = "Gain"}, NB_END};
+
+int pane = 0;
+PAGE other_page;
+
+// Ways to lose a release. What has come over the page goes again without one.
+struct Thief {
+    const char* name;
+    void (*comes)();
+    void (*goes)();
+};
+constexpr Thief thieves[] = {
+    {"pane", [] { pane = PaneMessage_Create("Pane", PANE_INFO, "Text"); }, [] { Pane_Quit(pane); }},
+    {"window", [] { (void)CreateWindow(WINDOW_KEYBOARD, "Name"); }, [] { (void)CloseWindow(); }},
+    {"ten keys", [] { (void)CreateWindow(WINDOW_KNOB, "Box"); }, [] { (void)CloseWindow(); }},
+    {"page", [] { Page = &other_page; }, [] {}},
+    {"nobody: the next press comes without one", [] {},
+     [] { SendMessage(MSG_PRESS, 400, 560, 1, 0); }},
+};
+
+struct Hold {
+    const char* name;
+    int x, y; // of the press
+    int to_x, to_y;
+};
+constexpr Hold holds[] = {
+    {"slider", 750, 167, 714, 167},
+    {"rows", 150, 133, 150, 221},
+    {"arrow", 220, 225, 220, 225},
+    {"thumb", 220, 150, 220, 190},
+};
+} // namespace
+
+struct Held : ListPage {
+    void SetUp() override
+    {
+        ListPage::SetUp();
+        other_page = page;
+        GL_MouseSliderControl = 1;
+        NB_Create(boxes, "");
+        Tally("Gain", "50");
+        Open(list, 100);
+        LS_SetMS(1, 1);
+        Pass();
+        Rest();
+    }
+    // All that a touch can bring about.
+    static void Rest()
+    {
+        (void)TakeQueuedCommands();
+        Told();
+    }
+    static size_t Effects() { return TakeQueuedCommands().size() + Told().size(); }
+};
+
+TEST_F(Held, WhatIsHeldFollowsTheFinger)
+{
+    for (const Hold& h : holds) {
+        Clock_ms += 1000;
+        Press(h.x, h.y);
+        Rest();
+        Pass(300);
+        Drag(h.to_x, h.to_y);
+        EXPECT_GT(Effects(), 0u) << h.name;
+        Release();
+        Pass(1000);
+        Drag(h.x, h.y);
+        EXPECT_EQ(Effects(), 0u) << h.name << " goes on behind its release";
+    }
+}
+
+TEST_F(Held, WhateverTakesTheReleaseEndsTheHold)
+{
+    for (const Thief& t : thieves) {
+        for (const Hold& h : holds) {
+            SetUp();
+            Press(h.x, h.y);
+            Rest();
+            t.comes();
+            Pass();
+            Release(); // goes to what has come, if anything
+            if (t.goes == thieves[4].goes)
+                Press(h.x, h.y); // and once more, with nothing between
+            t.goes();
+            Pass(1000);
+            Rest();
+            Pass(1000);
+            Drag(h.to_x, h.to_y);
+            EXPECT_EQ(Effects(), 0u) << h.name << " goes on behind a " << t.name;
+        }
+    }
+}
+
+// The panel is gone while a pane is up: no release at all, and the drag is that of the next finger.
+TEST_F(Held, AHoldEndsAsSoonAsSomethingComesOverThePage)
+{
+    Press(220, 225);
+    Rest();
+    pane = PaneMessage_Create("Pane", PANE_INFO, "Text");
+    Pass(1000);
+    Pass(1000);
+    EXPECT_EQ(Effects(), 0u);
+    Pane_Quit(pane);
+    Pass(1000);
+    EXPECT_EQ(Effects(), 0u);
+}
+
+// A press that got no release is no bounce of the next one.
+TEST_F(Held, ATouchAfterALostReleaseIsAWholeTouch)
+{
+    Press(150, 133);
+    Press(150, 133);
+    EXPECT_EQ(LS_IsSelected(1, 0, 0), 0) << "on and off again";
+}
