@@ -2,11 +2,13 @@
 #include "a_ba.h"
 #include "bus.h"
 #include "command.h"
+#include "followed.h"
 #include "global.h"
 #include "log.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "path_set.h"
 #include "tdl.h"
 #include "text.h"
 #include "window.h"
@@ -17,13 +19,6 @@
 
 namespace
 {
-// The distinct paths that one pass over the buttons has met.
-struct SeenPaths {
-    const char* path[BT_MAX * BT_COMMANDS];
-    uint32_t hash[BT_MAX * BT_COMMANDS];
-    int count = 0;
-};
-
 constexpr uint32_t NO_HASH = 0xFFFFFFFF; // no path sums up to this
 constexpr int PUSHED_MS = 150;           // long enough to be seen, over before the next press
 constexpr int PUSHED_LONG_MS = 1000;     // the copies of this page run that long
@@ -157,17 +152,7 @@ static void redraw_all(int flag)
 
 // --- Subscriptions ---
 
-// Whether this is the first time that the pass meets the path; remembers it.
-static bool first_time(SeenPaths& seen, const char* path, uint32_t hash)
-{
-    for (int i = 0; i < seen.count; i++)
-        if (seen.hash[i] == hash && strcmp(seen.path[i], path) == 0)
-            return false;
-    seen.path[seen.count] = path;
-    seen.hash[seen.count] = hash;
-    seen.count++;
-    return true;
-}
+static_assert(BT_MAX * BT_COMMANDS <= PATH_SET_MAX);
 
 static bool lives_on_server(const BT_MEM& b, int n)
 {
@@ -192,12 +177,12 @@ int BT_Follows(const char* path)
 
 static void unsubscribe()
 {
-    SeenPaths seen;
+    PathSet met;
     for (const BT_MEM& b : buttons()) {
         for (int n = 0; n < BT_COMMANDS; n++) {
             if (!lives_on_server(b, n) || read_only_once(b, n))
                 continue;
-            if (first_time(seen, b.cmd[n], b.cmd_hash[n]))
+            if (PathSet_Add(met, b.cmd[n], b.cmd_hash[n]))
                 Net_SendCommandFormat("remove %s", b.cmd[n]);
         }
     }
@@ -211,14 +196,14 @@ static bool server_lacks(const char* path)
 
 static void subscribe()
 {
-    SeenPaths seen;
+    PathSet met;
     for (const BT_MEM& b : buttons()) {
         for (int n = 0; n < BT_COMMANDS; n++) {
             if (!lives_on_server(b, n))
                 continue;
             if (read_only_once(b, n))
                 Net_SendCommandFormat("read %s", b.cmd[n]);
-            else if (first_time(seen, b.cmd[n], b.cmd_hash[n]) && !server_lacks(b.cmd[n]))
+            else if (PathSet_Add(met, b.cmd[n], b.cmd_hash[n]) && !server_lacks(b.cmd[n]))
                 Net_SendCommandFormat("add %s", b.cmd[n]);
         }
     }
@@ -569,7 +554,9 @@ int BT_SetCommand(int id, int n, const char* cmd)
     BT_MEM* b = find_command(id, n);
     if (!b)
         return -1;
-    if (b->cmd[n][0] && !IsLocal(b->cmd[n]))
+    const bool was_added = lives_on_server(*b, n) && !read_only_once(*b, n);
+    b->cmd_hash[n] = NO_HASH; // this command no longer follows its path, others may
+    if (was_added && !IsFollowed(b->cmd[n]))
         Net_SendCommandFormat("remove %s", b->cmd[n]);
     return replace_command(b, n, cmd, 0, "add");
 }

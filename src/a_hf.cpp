@@ -69,11 +69,11 @@ static Form form()
 
 static void send_paths(const char* verb)
 {
-    static_assert(HF_MAX * HF_STATUS <= TAB_PATHS);
-    TabPaths paths;
+    static_assert(HF_MAX * HF_STATUS <= PATH_SET_MAX);
+    PathSet met;
     for (HF_MEM& t : tabs())
         for (const TabStatus& s : stats(t))
-            TabStatus_Send(paths, s, verb);
+            TabStatus_Send(met, s, verb);
 }
 
 int HF_Follows(const char* path)

@@ -93,6 +93,15 @@ int NB_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
     }
 }
 
+int NB_Follows(const char* path)
+{
+    const uint32_t hash = Hash(path);
+    for (const NB_MEM& b : nb_boxes())
+        if (b.added && b.cmd_hash == hash && strcmp(nb_wire_path(b), path) == 0)
+            return 1;
+    return 0;
+}
+
 // --- For page code ---
 
 int NB_SetVar(int id, double var)

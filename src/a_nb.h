@@ -56,6 +56,7 @@ int NB_PopTable();                   // drop the last box; these three: -1 when 
 int NB_PopTable2(const NB_TBL* nt);  // drop the box of that row
 int NB_DeleteTable(int id);          // drop the box, closing the gap
 int NB_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+int NB_Follows(const char* path); // 1 while a box is subscribed to it from here
 
 // --- For page code; -1 for an id that no box has and for a value that is not finite ---
 int NB_SetVar(int id, double var);

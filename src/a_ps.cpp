@@ -110,12 +110,17 @@ int PS_Create(const PS_TBL* table, uint32_t)
     return 0;
 }
 
+int PS_Follows(const char* path)
+{
+    return ps.cmd[0] && Same(ps.cmd, path);
+}
+
 // --- Press ---
 
 // The place in a grid of columns from the left; -1 beside it.
-static int place(int x, int y, int top, int height, int last_row)
+static int place(int x, int y, int top, int height, int rows)
 {
-    if (x < LEFT || y < top || x >= LEFT + PS_COLUMNS * CELL_W || y >= top + height * last_row)
+    if (x < LEFT || y < top || x >= LEFT + PS_COLUMNS * CELL_W || y >= top + height * rows)
         return -1;
     return (y - top) / height * PS_COLUMNS + (x - LEFT) / CELL_W;
 }

@@ -19,3 +19,4 @@ constexpr int PS_LAYERS = 12; // two rows of keys
 // object and returns 1.
 int PS_Create(const PS_TBL* table, uint32_t var);
 int PS_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+int PS_Follows(const char* path); // 1 while the grid is subscribed to it

@@ -8,6 +8,7 @@
 #include "netio.h"
 #include "page.h"
 #include "page_table/st_dme.h"
+#include "path_set.h"
 #include "pc_me.h"
 #include "tab_status.h"
 #include "tdl.h"
@@ -45,12 +46,6 @@ static int StatusMax = 0;
 static const ST_TBL* StatusNowTbl = nullptr;
 static int StatusRefModule = -1;
 static Reference StatusRef;
-// The distinct paths that one pass over the cells has met.
-static struct {
-    const char* path[ST_MAX * ST_COMMANDS];
-    uint32_t hash[ST_MAX * ST_COMMANDS];
-    int count;
-} seen;
 
 int TrnModeStatus[2][TRN_VALUES];
 int GL_FillSourceAssignMode = 0;
@@ -92,10 +87,13 @@ static bool is_of_same_setting(const ST_MEM& a, const ST_MEM& b)
     return true;
 }
 
-// Only the texts in use are copied; what lies behind a terminator is never read.
+// Only the texts in use are copied. Painters may look past them: what another cell has left there
+// must not be taken for a tally.
 static void keep(ST_MEM& copy, const ST_MEM& c)
 {
     if (!is_of_same_setting(copy, c)) {
+        for (int i = c.used; i < copy.used; i++)
+            copy.cmd[i][0] = copy.tally[i][0] = '\0';
         copy.draw_func = c.draw_func;
         copy.used = c.used;
         for (int i = 0; i < c.used; i++) {
@@ -137,25 +135,15 @@ ST_MEM* st_shown(ST_MEM* cell)
 
 // --- Subscriptions ---
 
-static bool first_time(const char* path, uint32_t hash)
-{
-    for (int i = 0; i < seen.count; i++)
-        if (seen.hash[i] == hash && strcmp(seen.path[i], path) == 0)
-            return false;
-    seen.path[seen.count] = path;
-    seen.hash[seen.count] = hash;
-    seen.count++;
-    return true;
-}
-
 // Each path of the cells once. What is followed for the life of the process is only read: a removal
 // would end it for everybody.
 static void for_each_path(void (*send)(const char* path, bool is_for_life))
 {
-    seen.count = 0;
+    static_assert(ST_MAX * ST_COMMANDS <= PATH_SET_MAX);
+    PathSet met;
     for (const ST_MEM& c : cells())
         for (int i = 0; i < c.used; i++)
-            if (c.cmd[i][0] && !IsLocal(c.cmd[i]) && first_time(c.cmd[i], c.cmd_hash[i]))
+            if (c.cmd[i][0] && !IsLocal(c.cmd[i]) && PathSet_Add(met, c.cmd[i], c.cmd_hash[i]))
                 send(c.cmd[i], IsKeyAssignPath(c.cmd[i]));
 }
 

@@ -3,6 +3,7 @@
 #include "a_bt.h"
 #include "a_nb.h"
 #include "colours.h"
+#include "command.h"
 #include "device.h"
 #include "global.h"
 #include "graphics.h"
@@ -60,9 +61,18 @@ static VF_MEM* find_tab(int id)
 
 static void send_paths(const char* verb)
 {
-    TabPaths paths;
+    PathSet met;
     for (const VF_MEM& t : tabs())
-        TabStatus_Send(paths, t.stat, verb);
+        TabStatus_Send(met, t.stat, verb);
+}
+
+int VF_Follows(const char* path)
+{
+    const uint32_t hash = Hash(path);
+    for (const VF_MEM& t : tabs())
+        if (TabStatus_Follows(t.stat, path, hash))
+            return 1;
+    return 0;
 }
 
 int VF_Create(const VF_TBL* table, uint32_t selected)

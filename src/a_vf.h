@@ -19,6 +19,8 @@ constexpr int VF_SLOTS = 7;
 int VF_Create(const VF_TBL* table, uint32_t selected);
 int VF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 
+int VF_Follows(const char* path); // 1 while a tab is subscribed to it
+
 // --- For page code; -1 for an id that no tab has ---
 int VF_SetDisplay(int id, int on); // off: the slot is blank and takes no press
 int VF_GetStatus(int id);          // 1 while the last tally had the row's value

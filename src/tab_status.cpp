@@ -35,15 +35,10 @@ bool TabStatus_Follows(const TabStatus& s, const char* path, uint32_t hash)
     return s.hash == hash && s.cmd[0] && Same(s.cmd, path);
 }
 
-void TabStatus_Send(TabPaths& paths, const TabStatus& s, const char* verb)
+void TabStatus_Send(PathSet& met, const TabStatus& s, const char* verb)
 {
-    if (!s.cmd[0] || IsLocal(s.cmd) || paths.count == TAB_PATHS)
-        return;
-    for (int i = 0; i < paths.count; i++)
-        if (paths.met[i]->hash == s.hash && Same(paths.met[i]->cmd, s.cmd))
-            return;
-    paths.met[paths.count++] = &s;
-    Net_SendCommandFormat("%s %s", verb, s.cmd);
+    if (s.cmd[0] && !IsLocal(s.cmd) && PathSet_Add(met, s.cmd, s.hash))
+        Net_SendCommandFormat("%s %s", verb, s.cmd);
 }
 
 bool IsKeyAssignPath(const char* path)

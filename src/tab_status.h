@@ -1,5 +1,6 @@
 // tab_status: the tallies that light a tab of a page; shared by the left and the bottom tabs.
 #pragma once
+#include "path_set.h"
 #include "types.h"
 
 // One path of one tab. All zero is empty, so that arrays of them cost no file space.
@@ -15,14 +16,8 @@ bool TabStatus_Set(TabStatus& s, const char* statcmd);
 // The path's own tally: status is what the value says. True when that changed it.
 bool TabStatus_Tally(TabStatus& s, const char* path, const char* value, uint32_t hash);
 
-// The paths that one pass over the tabs has met.
-constexpr int TAB_PATHS = 256;
-struct TabPaths {
-    const TabStatus* met[TAB_PATHS];
-    int count = 0;
-};
-// Send "VERB path" unless this pass has met the path before or it never goes to the server.
-void TabStatus_Send(TabPaths& paths, const TabStatus& s, const char* verb);
+// Send "VERB path" unless this walk has met the path before or it never goes to the server.
+void TabStatus_Send(PathSet& met, const TabStatus& s, const char* verb);
 
 // True when s follows the path, whose Hash is hash.
 bool TabStatus_Follows(const TabStatus& s, const char* path, uint32_t hash);

@@ -346,4 +346,16 @@ TEST_F(Buttons, ACommandCanBeReplaced)
                 ElementsAre("remove M/E-1@Key1@Invert", "add M/E-1@Key1@Type@Other"));
     Tally("M/E-1@Key1@Type@Other", "true");
     EXPECT_EQ(BT_GetOnOff(20), 1);
+    // A box, and then another button, still follow the path that is left.
+    static const NB_TBL box[] = {{.id = 1, .cmd = "~@Other"}, NB_END};
+    NB_Create(box, "");
+    (void)TakeQueuedCommands();
+    BT_SetCommand(20, 0, "~@Third#*");
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@Third"));
+    BT_SetCommand(21, 0, "~@Third#*");
+    (void)TakeQueuedCommands();
+    BT_SetCommand(20, 0, "~@Other#*");
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@Other"));
+    BT_SetCommand(21, 0, "~@Fourth#*");
+    EXPECT_THAT(TakeQueuedCommands(), Contains("remove M/E-1@Key1@Type@Third"));
 }

@@ -209,6 +209,33 @@ TEST_F(StatusCells, ARebuiltCellShowsItsLastPictureAndNeverThatOfAnotherKey)
     EXPECT_EQ(Count(FIRST, WHITE), 0);
 }
 
+// Painters may ask for tallies that a cell does not have: none of them is another cell's.
+TEST_F(StatusCells, ARebuiltCellShowsNothingOfTheCellThatStoodInItsPlace)
+{
+    static std::string second;
+    const auto note = [](ST_MEM* cell) {
+        const ST_MEM* shown = st_shown(cell);
+        second = shown ? shown->tally[1] : "no picture";
+        return 0;
+    };
+    ST_TBL two = Cell(1, {"~2@A", "~2@B"});
+    ST_TBL one = Cell(1, {"~2@C"});
+    two.draw_func = one.draw_func = note;
+    const ST_TBL first[] = {two, ST_END};
+    const ST_TBL next[] = {one, ST_END};
+    GL_ProcStatus[1] = 1;
+    Open(first);
+    Tally("M/E-1@Key1@B", "false");
+    Pass();
+    EXPECT_EQ(second, "false");
+    Open(next);
+    Tally("M/E-1@Key1@C", "5");
+    Pass();
+    Open(next); // before the server has answered
+    Pass();
+    EXPECT_EQ(second, "");
+}
+
 TEST_F(StatusCells, AnUnknownWordOrPatternLeavesTheFrameEmpty)
 {
     constexpr Rect picture = {103, 96, 196, 140};
