@@ -7,6 +7,7 @@
 #include <climits>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include "safeguards.h"
 
@@ -65,6 +66,19 @@ int nb_round(double v)
     return int(std::clamp(std::round(v), double(INT_MIN), double(INT_MAX)));
 }
 
+static const char* timecode_text(int frames)
+{
+    constexpr int FIELDS = 3;
+    const int hour = 3600 * GetFrameNum_SWR(0);
+    const bool has_hours = frames >= hour || frames <= -hour;
+    return Frame2TC_SWR(frames, has_hours ? FIELDS + 1 : FIELDS, 0);
+}
+
+double nb_value_of_text(const NB_MEM& b, const char* text)
+{
+    return b.type == NB_TC ? TC2Frame_SWR(text, 0) : strtod(text, nullptr);
+}
+
 void NB_Text(const NB_MEM& box, double var, char* text, int size)
 {
     switch (box.type) {
@@ -72,7 +86,7 @@ void NB_Text(const NB_MEM& box, double var, char* text, int size)
     case NB_2: snprintf(text, size_t(size), "%.2f", var); break;
     case NB_4: snprintf(text, size_t(size), "%.4f", var); break;
     case NB_INT: snprintf(text, size_t(size), "%d", nb_round(var)); break;
-    case NB_TC: snprintf(text, size_t(size), "%s", Frame2TC_SWR(nb_round(var), 3, 0)); break;
+    case NB_TC: snprintf(text, size_t(size), "%s", timecode_text(nb_round(var))); break;
     default: snprintf(text, size_t(size), "%s", ""); break;
     }
 }

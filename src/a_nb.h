@@ -45,6 +45,9 @@ struct NB_MEM {
 // Show a table under a title, which also fills the '$' of its commands. A table of several layers
 // comes back on the layer that it was left on. Null or NoKnobs() empties the object and returns 1.
 int NB_Create(const NB_TBL* nt, const char* tit);
+// The table that shows already, under the same title, is made anew without losing what the operator
+// is doing: values, the selected box with its ten keys, a bar that is held. Another one closes the
+// ten keys with nothing sent.
 int NB_CreateBlank();
 // The boxes are not subscribed, and the next NB_Create will not remove them.
 int NB_Create_NoAdd(const NB_TBL* nt, const char* tit);
@@ -76,12 +79,15 @@ int NB_GetLayer();
 int NB_SetSelect(int id); // 0: none
 
 // --- For the ten-key window and the menu macro; -1 as above ---
-int NB_SendValue(double var);          // to the selected box
+// To the selected box. The value that it had when it was selected goes out as it is or, where its
+// text would round it, not at all.
+int NB_SendValue(double var);
 int NB_SendValue2(int id, double var); // to a named box
 int NB_SendTrimValue(double var);      // added to the selected box's value
 // The box with this caption: its command and its shown value. Returns its id, or -1.
 int NB_GetKnob_info(const char* knob_key, char* msg, double* var, int msg_size);
-// A value as its box shows it; "" for a type that shows nothing.
+// A value as its box shows it; "" for a type that shows nothing. A time code shows its hours from
+// one hour on.
 void NB_Text(const NB_MEM& box, double var, char* text, int size);
 
 extern char NB_Entry_Mode[32]; // what a ten-key window is for; "" none

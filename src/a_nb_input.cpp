@@ -12,6 +12,7 @@
 #include "window.h"
 #include <SDL.h>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include "safeguards.h"
 
@@ -115,9 +116,22 @@ static int send_entry(NB_MEM* b, double v)
     return 0;
 }
 
+// Whether the server would take the text for this very value.
+static bool is_told_exactly(const NB_MEM& b, double v)
+{
+    constexpr double SAME = 1e-9;
+    char text[64];
+    NB_Text(b, v, text, sizeof text);
+    return std::fabs(nb_value_of_text(b, text) - v) < SAME;
+}
+
 int NB_SendValue(double var)
 {
-    return send_entry(nb_find(nb.Select), var);
+    NB_MEM* b = nb_find(nb.Select);
+    const bool is_left_as_it_was = b && var == nb.NowVar;
+    if (is_left_as_it_was && nb_path(*b) == NbPath::Server && !is_told_exactly(*b, var))
+        return 0;
+    return send_entry(b, var);
 }
 
 int NB_SendValue2(int id, double var)
@@ -128,7 +142,7 @@ int NB_SendValue2(int id, double var)
 int NB_SendTrimValue(double var)
 {
     NB_MEM* b = nb_find(nb.Select);
-    if (!b || !std::isfinite(var))
+    if (!b || !b->var_valid || !std::isfinite(var))
         return -1;
     return send_entry(b, nb_clamp(*b, b->var + var));
 }
@@ -154,13 +168,20 @@ static void recall_default(const NB_MEM& b)
     }
 }
 
-// Hold the bar: the mouse is put on the mark, so that the drag begins at the value.
-static void grab(NB_MEM& b)
+// Hold the bar: the mouse is put on the mark, so that the drag begins at the value. Without a value
+// there is no mark, and nothing that a drag could begin at.
+static void grab(NB_MEM& b, int press_x, int button)
 {
+    if (!b.var_valid)
+        return;
     const double f = b.min == b.max ? 0 : (b.var - b.min) / (b.max - b.min);
     const int x = NB_BAR_X + nb_round(std::clamp(f, 0.0, 1.0) * NB_BAR_W);
     const int slot = nb_slot(b);
     nb.DragSelect = slot;
+    nb.Grab = {.press_x = press_x,
+               .mark_x = x,
+               .var = nb_clamp(b, b.var),
+               .by_finger = button != BUTTON_SLIDER};
     b.redraw = 1;
     SDL_WarpMouse(uint16_t(x), uint16_t(nb_slot_top(slot) + GRAB_Y));
 }
@@ -169,30 +190,35 @@ static void open_ten_keys(NB_MEM& b)
 {
     const bool moves_on = nb.Select != 0;
     NB_SetSelect(b.id);
-    NB_Text(b, nb_shown_var(b), GL_KnobSetVar, sizeof GL_KnobSetVar);
+    nb.NowVar = nb_shown_var(b);
+    if (b.var_valid)
+        NB_Text(b, nb.NowVar, GL_KnobSetVar, sizeof GL_KnobSetVar);
     NB_Text(b, b.min, nb.min_text, sizeof nb.min_text);
     NB_Text(b, b.max, nb.max_text, sizeof nb.max_text);
     if (moves_on)
         Log_Output(LOG_TRACE, MOD_PAGE, "**ischange**");
     // Also when the box that the window was opened for has gone under it: closing the window would
     // take the selection along.
-    if (ChangeWindow(b.caption, GL_KnobSetVar, nb.min_text, nb.max_text, b.type == NB_TC) == 0)
+    const bool is_timecode = b.type == NB_TC;
+    const WindowArgs args = {.value = GL_KnobSetVar,
+                             .min_text = nb.min_text,
+                             .max_text = nb.max_text,
+                             .current = b.var_valid ? nb.NowVar : double(NAN),
+                             .is_timecode = is_timecode};
+    if (ChangeWindow(b.caption, args) == 0)
         return;
-    (void)CreateWindow(WINDOW_KNOB_TRIM, b.caption, // fails for an unknown type only
-                       {.value = GL_KnobSetVar,
-                        .min_text = nb.min_text,
-                        .max_text = nb.max_text,
-                        .is_timecode = b.type == NB_TC});
+    if (CreateWindow(is_timecode ? WINDOW_KNOB : WINDOW_KNOB_TRIM, b.caption, args) != 0)
+        NB_SetSelect(0); // under a pane
 }
 
-static void nb_select(int y, int button)
+static void nb_select(int x, int y, int button)
 {
     NB_MEM* b = nb_box_in(slot_at(y));
     if (!b)
         return;
     const bool armed = BA_IsDefaultButton() != 0;
     if (GL_MouseSliderControl && (button == BUTTON_SLIDER || !armed)) {
-        grab(*b);
+        grab(*b, x, button);
     } else if (armed) {
         nb_mark(nb.Select);
         recall_default(*b);
@@ -204,7 +230,6 @@ static void nb_select(int y, int button)
 
 int nb_press(int x, int y, int button)
 {
-    (void)nb_release(); // a pane that opened under the finger has kept the last one
     if (!nb.is_open || !Inside(NB_COLUMN, x, y))
         return 0;
     if (button == BUTTON_DEFAULT) {
@@ -213,7 +238,7 @@ int nb_press(int x, int y, int button)
     } else if (button != BUTTON_SLIDER && Inside(TITLE_KEY, x, y)) {
         nb_next_layer();
     } else {
-        nb_select(y, button);
+        nb_select(x, y, button);
     }
     return 0;
 }
@@ -245,14 +270,38 @@ static double crop_limit(const NB_MEM& b, double v)
     return v;
 }
 
+// A tap puts nothing on the air: a value moves once the pointer has left the place of the press. A
+// mouse leaves it by being put on the mark, where the value is; a finger by drawing along.
+static bool is_moving(NbGrab& g, int x)
+{
+    constexpr int TREMBLE_PX = 6; // so far a finger rolls in a tap
+    constexpr int AT_MARK_PX = 2;
+    if (g.is_moving || std::abs(x - g.press_x) <= TREMBLE_PX)
+        return g.is_moving;
+    g.is_moving = true;
+    const int edge = x < g.press_x ? g.press_x - TREMBLE_PX : g.press_x + TREMBLE_PX;
+    g.from_x = std::abs(x - g.mark_x) <= AT_MARK_PX ? g.mark_x : edge;
+    return true;
+}
+
+// The bar has fewer places than most values have steps: back on the mark the value is what it was.
+static double value_at(const NB_MEM& b, const NbGrab& g, int x)
+{
+    const double range = b.max - b.min;
+    if (g.by_finger)
+        return g.var + range * (x - g.from_x) / NB_BAR_W;
+    return x == g.mark_x ? g.var : b.min + range * (x - NB_BAR_X) / NB_BAR_W;
+}
+
 int nb_drag(int x, bool left_held, bool right_held)
 {
     NB_MEM* b = nb_box_in(nb.DragSelect);
     // Whichever button has grabbed the bar drags it: a finger has only the left one.
-    if (!b || !(left_held || right_held))
+    if (!b || !(left_held || right_held) || !is_moving(nb.Grab, x))
         return 0;
-    const double v = b->min + (b->max - b->min) * (x - NB_BAR_X) / NB_BAR_W;
-    send_gesture(*b, crop_limit(*b, nb_clamp(*b, v)));
+    const double v = crop_limit(*b, nb_clamp(*b, value_at(*b, nb.Grab, x)));
+    if (v != b->var)
+        send_gesture(*b, v);
     return 0;
 }
 
@@ -291,7 +340,8 @@ static int turn_wheel(int x, int y, int sense, uint32_t& last_ms)
     if (!b)
         return 0;
     const double step = wheel_step(*b, step_time(last_ms));
-    send_gesture(*b, nb_clamp(*b, b->var + sense * step));
+    if (b->var_valid)
+        send_gesture(*b, nb_clamp(*b, b->var + sense * step));
     return 0;
 }
 

@@ -23,6 +23,16 @@ enum class NbPath {
     Server, // in the server, which applies the turns itself
 };
 
+// How a bar was taken hold of.
+struct NbGrab {
+    int press_x = 0;
+    int mark_x = 0;         // where the mouse was put
+    double var = 0;         // the value then
+    bool by_finger = false; // which does not follow the mouse
+    bool is_moving = false; // it has left the place of the press
+    int from_x = 0;         // where var lies for a finger; set when it moves
+};
+
 struct NumberBoxes {
     const NB_TBL* table = nullptr; // that filled the boxes; null when it was emptied
     bool is_open = false;          // a table shows, be it an empty one
@@ -30,6 +40,7 @@ struct NumberBoxes {
     int count = 0;                 // of boxes in Knob
     unsigned generation = 0;       // changes whenever Knob is filled anew
     int Select = 0;                // the box that the ten keys are open for; 0 or an id in Knob
+    double NowVar = 0;             // its value when it was selected
     int Layer = 0;                 // shown
     int LayerN = 0;                // the highest one
     char Title[256] = "";
@@ -38,7 +49,8 @@ struct NumberBoxes {
     int RedrawAll = 0;
     int AreaUpdate = 0;       // flush all slots at the next repaint
     unsigned blank_slots = 0; // bit k: slot k is to be emptied at the next repaint
-    int DragSelect = 0;       // the slot whose bar the mouse holds, 0 none
+    int DragSelect = 0;       // the slot whose bar is held, 0 none
+    NbGrab Grab;              // valid while DragSelect is set
     int NoAdd = 0;            // the next table is subscribed by its page code
     char min_text[16] = "";   // limits of the selected box; an open window may point here
     char max_text[16] = "";
@@ -77,12 +89,14 @@ NB_MEM* nb_find(int id);
 NB_MEM* nb_box_in(int slot); // of the shown layer
 void nb_mark(int id);        // the box, if there is one, is to be repainted
 int nb_round(double v);      // half away from zero, held to the range of an int
+double nb_value_of_text(const NB_MEM& b, const char* text); // of a text that NB_Text has made
 
 // --- Tables (a_nb_table.cpp) ---
 void nb_unsubscribe();
 void nb_assign_knobs();
 void nb_release_knobs();
 void nb_retarget(NB_MEM& b, const char* cmd, bool add);
+void nb_close_ten_keys(); // the box that they are open for has gone: nothing is sent
 void nb_next_layer();
 
 // --- Painting (a_nb_draw.cpp) ---

@@ -1,16 +1,16 @@
 // Which boxes there are: tables and single rows come and go, with their subscriptions, the knobs
 // that the server turns for them, and the layers.
 #include "a_bt.h"
-#include "a_hf.h"
 #include "a_nb.h"
 #include "a_nb_private.h"
-#include "a_st.h"
 #include "bus.h"
 #include "command.h"
+#include "followed.h"
 #include "log.h"
 #include "message.h"
 #include "netio.h"
 #include "text.h"
+#include "window.h"
 #include <cstring>
 #include <utility>
 #include "safeguards.h"
@@ -114,18 +114,15 @@ static void subscribe(NB_MEM& b)
     b.added = 1;
 }
 
-// The server keeps one subscription of a path. While a cell, a button or a tab of the page follows
-// it, the boxes must not end it when others take their place; whoever goes last does.
-static bool is_followed_beside(const char* path)
-{
-    return ST_Follows(path) || BT_Follows(path) || HF_Follows(path);
-}
-
+// While another object of the page follows the path, the boxes must not end its subscription when
+// others take their place; whoever goes last does.
 static void unsubscribe(NB_MEM& b)
 {
-    if (b.added && !is_followed_beside(nb_wire_path(b)))
-        Net_SendCommandFormat("remove %s", nb_wire_path(b));
+    if (!b.added)
+        return;
     b.added = 0;
+    if (!IsFollowed(nb_wire_path(b)))
+        Net_SendCommandFormat("remove %s", nb_wire_path(b));
 }
 
 void nb_unsubscribe()
@@ -246,6 +243,14 @@ static void forget_boxes()
     NB_SetSelect(0);
 }
 
+void nb_close_ten_keys()
+{
+    const int window = GetWindow();
+    if (window == WINDOW_KNOB || window == WINDOW_KNOB_TRIM || window == WINDOW_HEX)
+        (void)CloseWindow(); // it is open
+    NB_SetSelect(0);
+}
+
 static void open_column()
 {
     nb.is_open = true;
@@ -253,16 +258,78 @@ static void open_column()
     nb.Title_redraw = 1;
 }
 
+// --- The same table anew ---
+
+// What the operator sees and does, kept while a table is made anew.
+static struct {
+    NB_MEM box[NB_MAX];
+    int count = 0;
+    int Select = 0;
+    char knob_text[sizeof GL_KnobSetVar] = "";
+    int DragSelect = 0;
+} kept;
+
+static void keep_column(bool is_same_table)
+{
+    kept.count = is_same_table ? nb.count : 0;
+    std::copy_n(nb.Knob, kept.count, kept.box);
+    kept.Select = nb.Select;
+    CopyText(kept.knob_text, GL_KnobSetVar);
+    kept.DragSelect = nb.DragSelect;
+}
+
+// Null when there was none, or it meant something else.
+static const NB_MEM* kept_box(const NB_MEM& b)
+{
+    for (const NB_MEM& k : std::span(kept.box, size_t(kept.count)))
+        if (k.id == b.id && k.type == b.type && strcmp(k.cmd, b.cmd) == 0)
+            return &k;
+    return nullptr;
+}
+
+static void take_value(NB_MEM& b, const NB_MEM& from)
+{
+    b.var = from.var;
+    b.var_valid = from.var_valid;
+    b.dispvar = from.dispvar;
+    b.dispvar_enable = from.dispvar_enable;
+    b.dispvar_time = from.dispvar_time;
+    b.str_val = from.str_val;
+}
+
+static void restore_column()
+{
+    bool has_selected = false;
+    for (NB_MEM& b : nb_boxes()) {
+        const NB_MEM* k = kept_box(b);
+        if (!k)
+            continue;
+        take_value(b, *k);
+        has_selected |= b.id == kept.Select;
+        if (nb_is_shown(b) && nb_slot(b) == kept.DragSelect)
+            nb.DragSelect = kept.DragSelect;
+    }
+    if (has_selected) {
+        nb.Select = kept.Select;
+        CopyText(GL_KnobSetVar, kept.knob_text);
+    } else if (kept.Select) {
+        nb_close_ten_keys();
+    }
+}
+
 // --- Tables ---
 
 int NB_Create(const NB_TBL* nt, const char* tit)
 {
     const bool no_add = std::exchange(nb.NoAdd, 0);
+    keep_column(nt && nt == nb.table && strcmp(nb.Title, tit ? tit : "") == 0);
     nb_release_knobs();
     nb_unsubscribe();
     forget_boxes();
-    if (!nt || nt == NoKnobs())
+    if (!nt || nt == NoKnobs()) {
+        restore_column();
         return 1;
+    }
 
     if (tit != nb.Title)
         CopyText(nb.Title, tit ? tit : "");
@@ -271,6 +338,7 @@ int NB_Create(const NB_TBL* nt, const char* tit)
     nb.table = nt;
     nb.LayerN = highest_layer();
     open_layer(nt);
+    restore_column();
     open_column();
     if (!no_add)
         for (NB_MEM& b : nb_boxes())
@@ -328,7 +396,7 @@ static int delete_box(NB_MEM* b)
     release_knob(*b);
     unsubscribe_alone(*b);
     if (nb.Select == id)
-        NB_SetSelect(0);
+        nb_close_ten_keys();
     if (nb_is_shown(*b)) {
         nb.blank_slots |= 1u << nb_slot(*b);
         nb.AreaUpdate = 1;

@@ -20,8 +20,8 @@
 
 constexpr int PUSHED_MS = 150;
 constexpr int SHADOW = BOX_SHADOW; // the shadow is as large as the window
-// Redraw, press and release: a repaint of the page would go over the window.
-constexpr int WITHHELD = MSG_REDRAW | MSG_PRESS | MSG_RELEASE;
+// A repaint of the page would go over the window, and a touch is the window's own.
+constexpr int WITHHELD = MSG_REDRAW | MSG_PRESS | MSG_RELEASE | MSG_DRAG;
 constexpr Rect BOXES_COLUMN = {706, 73, 799, 545}; // of the number boxes
 
 WindowState win;
@@ -323,13 +323,14 @@ void Window_RedrawAll()
     draw_all();
 }
 
-int ChangeWindow(const char* caption, const char* value, const char* min_text, const char* max_text,
-                 bool is_timecode)
+int ChangeWindow(const char* caption, const WindowArgs& args)
 {
     if (!is_knob_window())
         return -1;
     CopyText(win.Caption, caption ? caption : "");
-    knobinput_change(value, min_text, max_text, is_timecode);
+    win.Window = args.is_timecode ? WINDOW_KNOB : WINDOW_KNOB_TRIM;
+    win.kind = find_kind(win.Window);
+    knobinput_change(args);
     return 0;
 }
 
@@ -428,8 +429,8 @@ int WindowProc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
     case MSG_REDRAW: return window_pass(int(ax));
     case MSG_PRESS: return press(int(ax), int(bx));
     case MSG_KEY: return key_stroke(int(ax), int(bx));
-    case MSG_RELEASE: return is_knob_window() ? 0 : 1; // of a number box's slider
-    case MSG_DRAG: return is_knob_window() ? 0 : 1;
+    case MSG_RELEASE:
+    case MSG_DRAG: return is_knob_window() ? 0 : 1; // of a number box's slider
     case MSG_WHEELUP:
     case MSG_WHEELDOWN: return 1;
     default: return 0;

@@ -5,6 +5,7 @@
 // alone leaves the number boxes beside it alive: a press on another box moves it there.
 #pragma once
 #include "types.h"
+#include <cmath>
 
 enum : int {
     WINDOW_NONE = 0,
@@ -45,6 +46,7 @@ struct WindowArgs {
     const char* value = "";    // number windows: shown until the first key; keyboard: to be edited
     const char* min_text = ""; // knob, hex: limits, as text; both empty: none
     const char* max_text = "";
+    double current = NAN;     // knob: the number behind value, which Enter alone leaves; NAN none
     bool is_timecode = false; // knob
     int input_max = 32;       // keyboard: characters, at most 32
     // pull-down, select
@@ -68,9 +70,9 @@ struct WindowArgs {
 // Open a window over the page and its panes, closing one that is open as by cancel. 0; -1 with a
 // log line for an unknown type, and for a knob window while a pane stands.
 int CreateWindow(int type, const char* caption, const WindowArgs& args = {});
-// The open knob window moves on to another box, without restoring the screen. -1 when none is open.
-int ChangeWindow(const char* caption, const char* value, const char* min_text, const char* max_text,
-                 bool is_timecode = false);
+// The open knob window moves on to another box, without restoring the screen, and becomes the type
+// that suits it: a time code has no Trim key. -1 when none is open.
+int ChangeWindow(const char* caption, const WindowArgs& args);
 int CloseWindow(); // as by cancel. -1 when there is none
 int GetWindow();   // the open window's type, 0 none
 // For panes: what lies beneath the window has been painted. Paint it again, on a ground of its own

@@ -10,6 +10,7 @@
 #include <SDL.h>
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include "safeguards.h"
@@ -17,6 +18,8 @@
 constexpr int COLUMNS = 11; // of the entry, right-aligned
 constexpr unsigned GROUND = 0x1A1A1A;
 constexpr unsigned SHOWN = BOX_VALUE; // the value before the first key
+constexpr unsigned REFUSED = 0xFF0000;
+constexpr size_t PAGE_DIGITS = 4; // on each side of the point
 constexpr int DIGIT_DX = 54;
 constexpr int DIGIT_DY = 59;
 
@@ -133,29 +136,34 @@ static void entry_text(const WindowState& w, char* text, size_t size)
     ktr_strncat(text, typed(w), size);
 }
 
+// Time code goes by the rate that the boxes show it with. NAN for one that does not exist.
 static double parse(const char* text, const WindowState& w)
 {
     if (w.Window == WINDOW_HEX)
         return double(std::min(strtoull(text, nullptr, 16), 0xFFFFFFFFull));
-    return w.TimeCode ? TC2Frame(text) : strtod(text, nullptr);
+    if (!w.TimeCode)
+        return strtod(text, nullptr);
+    const int frames = TC2Frame_SWR(text, 0);
+    return frames == TC_BAD ? double(NAN) : frames;
 }
 
 static void take_limits(const char* min_text, const char* max_text)
 {
     CopyText(win.min_text, min_text ? min_text : "");
     CopyText(win.max_text, max_text ? max_text : "");
-    win.has_limits = win.min_text[0] || win.max_text[0];
     win.MinValue = parse(win.min_text, win);
     win.MaxValue = parse(win.max_text, win);
+    const bool exist = std::isfinite(win.MinValue) && std::isfinite(win.MaxValue);
+    win.has_limits = exist && (win.min_text[0] || win.max_text[0]);
 }
 
-// What was typed, within the limits, whichever way round they are.
+// What was typed, within the limits, whichever way round they are. NAN for no time code.
 static double entered_value(const WindowState& w)
 {
     char text[INPUT_MAX + 2] = "";
     entry_text(w, text, sizeof text);
     const double v = parse(text, w);
-    if (!w.has_limits)
+    if (!w.has_limits || !std::isfinite(v))
         return v;
     return std::clamp(v, std::min(w.MinValue, w.MaxValue), std::max(w.MinValue, w.MaxValue));
 }
@@ -176,8 +184,8 @@ static void draw_entry_s()
     entry_text(win, text, sizeof text);
     const int x2 = win.WinX + well.x2;
     const int y = win.WinY + well.y1 + 11;
-    TDL_SymbolS(x2 - 12 - int(TDL_GetSymbolWidth(text, 8)), y, text, 8,
-                win.FirstInput ? SHOWN : WHITE);
+    const unsigned col = win.is_refused ? REFUSED : win.FirstInput ? SHOWN : WHITE;
+    TDL_SymbolS(x2 - 12 - int(TDL_GetSymbolWidth(text, 8)), y, text, 8, col);
     TDL_FillRectS(x2 - 9, y, x2 - 7, y + 18, CYAN);
 }
 
@@ -331,13 +339,25 @@ static void dress_point_key()
     k->redraw = 1;
 }
 
-static void take_box(const char* value, const char* min_text, const char* max_text,
-                     bool is_timecode)
+// A sum of time codes is no use to anybody.
+static void dress_trim_key()
 {
-    win.TimeCode = is_timecode;
+    WINOBJ* k = window_key(KEY_TRIM);
+    if (!k)
+        return;
+    k->visible = win.Window == WINDOW_KNOB_TRIM ? 0 : 1;
+    k->redraw = 1;
+}
+
+static void take_box(const WindowArgs& args)
+{
+    win.TimeCode = args.is_timecode;
+    win.is_refused = false;
     dress_point_key();
-    take_limits(min_text, max_text);
-    show_value(value);
+    dress_trim_key();
+    take_limits(args.min_text, args.max_text);
+    win.CurrentValue = args.current;
+    show_value(args.value);
 }
 
 static void knobinput_open(const WindowArgs& args)
@@ -346,15 +366,23 @@ static void knobinput_open(const WindowArgs& args)
     add_common();
     add_bottom(1, KEY_POINT, ".", LOOK_DIGIT);
     add_bottom(2, KEY_SIGN, "+/-", LOOK_SIGN);
-    if (win.Window == WINDOW_KNOB_TRIM)
-        add_function(2, KEY_TRIM, "Trim", LOOK_CLEAR);
-    take_box(args.value, args.min_text, args.max_text, args.is_timecode);
+    add_function(2, KEY_TRIM, "Trim", LOOK_CLEAR); // hidden where it has no use
+    take_box(args);
 }
 
-void knobinput_change(const char* value, const char* min_text, const char* max_text,
-                      bool is_timecode)
+static void erase_hidden_key(int id)
 {
-    take_box(value, min_text, max_text, is_timecode);
+    const WINOBJ* k = window_key(id);
+    if (!k || !k->visible)
+        return;
+    TDL_FillRectS(win.WinX + k->x1, win.WinY + k->y1, win.WinX + k->x2, win.WinY + k->y2, GROUND);
+    window_flush({k->x1, k->y1, k->x2, k->y2});
+}
+
+void knobinput_change(const WindowArgs& args)
+{
+    take_box(args);
+    erase_hidden_key(KEY_TRIM);
     const int x = win.WinX;
     const int y = win.WinY;
     TDL_FillRectS(x + 3, y + 3, x + 172, y + 70, GROUND);
@@ -374,8 +402,9 @@ static void release_box()
 static void knobinput_quit(int v)
 {
     const WindowState last = window_end();
+    // Refused when there is no number, or when the box has gone.
     if (v == 2)
-        (void)NB_SendValue(entered_value(last)); // the box may have gone
+        (void)NB_SendValue(last.FirstInput ? last.CurrentValue : entered_value(last));
     release_box();
 }
 
@@ -389,8 +418,21 @@ static void knobinput_quit2(int v)
     release_box();
 }
 
+// A time code that does not exist stays in view for the operator to mend.
+static bool refuse_entry()
+{
+    if (win.FirstInput || std::isfinite(entered_value(win)))
+        return false;
+    win.is_refused = true;
+    draw_entry();
+    return true;
+}
+
 static void knobinput_sel(int id)
 {
+    win.is_refused = false;
+    if ((id == KEY_ENTER || id == KEY_TRIM) && refuse_entry())
+        return;
     if (!begin_input(id)) {
         knobinput_quit(id == KEY_ENTER ? 2 : 0);
         return;
@@ -513,6 +555,13 @@ static void pagejump_open(const WindowArgs& args)
     favorites_open();
 }
 
+// A fifth digit would push the first one out, and the number would stand for another page.
+static bool takes_digit()
+{
+    const char* point = strchr(typed(win), '.');
+    return strlen(point ? point + 1 : typed(win)) < PAGE_DIGITS;
+}
+
 // Sends the key's work on, or ends the window.
 static void page_get_sel(int id)
 {
@@ -522,7 +571,7 @@ static void page_get_sel(int id)
     }
     if (id == KEY_POINT)
         point_in();
-    else
+    else if ((id & KEY_KIND) != KEY_DIGIT || takes_digit())
         edit(id);
     draw_entry();
 }

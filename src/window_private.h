@@ -116,6 +116,8 @@ struct WindowState {
     bool has_limits = false;
     double MinValue = 0;
     double MaxValue = 0;
+    double CurrentValue = NAN; // knob: as it was at the opening
+    bool is_refused = false;   // the entry was no time code; until the next key
     int CapsLock = 0;
     int Shift = 0;
 
@@ -160,8 +162,7 @@ extern const WindowKind page_get_kind;
 extern const WindowKind pageini_kind;
 
 // --- window_keys ---
-void knobinput_change(const char* value, const char* min_text, const char* max_text,
-                      bool is_timecode);
+void knobinput_change(const WindowArgs& args);
 
 // --- window_keyboard ---
 const char* kyb_caption(const WINOBJ& key, char (&letter)[2]); // by caps lock and shift

@@ -282,11 +282,14 @@ TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
     EXPECT_EQ(x, 734);
     EXPECT_EQ(y, 167);
     Forget();
-    Drag(754, true, false);
-    EXPECT_EQ(TakeQueuedCommands().size(), 2u);
-    Drag(754, false, false);
+    Drag(734, true, false); // the mouse has followed
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    GL_MouseSliderControl = 1;
+    Drag(754, true, false);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Chroma@Clip#50.00",
+                                                  "read M/E-1@Key1@Type@Chroma@Clip"));
+    Drag(754, true, false);
+    Drag(774, false, false);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     Drag(2000, false, true);
     EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#100.00"));
     SendMessage(MSG_RELEASE, 0, 0, 0, 0);
@@ -299,10 +302,55 @@ TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     // A bar that runs backwards, on the other layer.
     PressTitle();
-    PressSlot(1);
+    NB_SetVar(17, 50);
+    PressSlot(1, 3);
     Forget();
     Drag(734, false, true);
     EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Level#80.37"));
+}
+
+// With the panel a touch is a press and a motion to the same place, some pixels off and on.
+TEST_F(KnobColumn, AFingerMovesTheValueAndATapDoesNot)
+{
+    GL_MouseSliderControl = 1;
+    Open(table);
+    NB_SetVar(1, 33.3);
+    for (int x : {700, 720, 741, 790}) {
+        SendMessage(MSG_PRESS, x, Middle(1), 1, 0);
+        for (int tremble : {0, 3, -6, 6})
+            Drag(x + tremble, true, false);
+        SendMessage(MSG_RELEASE, x, Middle(1), 0, 0);
+        EXPECT_THAT(TakeQueuedCommands(), testing::Not(Contains(testing::StartsWith("put")))) << x;
+    }
+    SendMessage(MSG_PRESS, 790, Middle(1), 1, 0);
+    Drag(768, true, false); // 16 of 80 pixels behind the tremble
+    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#13.30"));
+    // The right button is a mouse, which the grab has put on the mark: 33.3 is nearest to pixel 27.
+    NB_SetVar(1, 33.3);
+    PressSlot(1, 3);
+    Forget();
+    Drag(714 + 27, false, true);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    Drag(714 + 40, false, true);
+    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#50.00"));
+}
+
+TEST_F(KnobColumn, ABoxWithoutAValueSendsNoneMadeOfNothing)
+{
+    GL_MouseSliderControl = 1;
+    Open(table, "Never told");
+    for (int slot = 1; slot <= 4; slot++) {
+        Wheel(MSG_WHEELDOWN, slot);
+        PressSlot(slot, 3);
+        Drag(780, false, true);
+        SendMessage(MSG_RELEASE, 780, 300, 0, 0);
+    }
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Told(), IsEmpty());
+    Tally("M/E-1@Key1@Type@Never told@Clip", "50");
+    PressSlot(1, 3);
+    Drag(774, false, true);
+    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Never told@Clip#75.00"));
 }
 
 TEST_F(KnobColumn, SomePagesBendADraggedValue)
@@ -323,7 +371,8 @@ TEST_F(KnobColumn, SomePagesBendADraggedValue)
         const NB_TBL rows[] = {Box(1, "", NB_2, -10, 10, c.cmd), NB_END};
         GL_NowPage = c.page;
         Open(rows);
-        PressSlot(1);
+        NB_SetVar(1, 5);
+        PressSlot(1, 3);
         Drag(c.x, false, true);
         EXPECT_THAT(TakeQueuedCommands(),
                     Contains("put " + std::string(c.cmd) + "#" + std::string(c.sent)));

@@ -1,10 +1,12 @@
 #include "a_nb_column.h"
 #include "bus_probe.h"
 #include "table_page.h"
+#include "timecode.h"
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 // --- Hands: the same keys by touch and on a keyboard ---
 
@@ -406,6 +408,7 @@ TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
         {WINDOW_HEX, "1", {"value 10"}},             // the other one
         {WINDOW_PAGE_GET, "7316.10", {"value 73160010"}},
         {WINDOW_PAGE_GET, "22..3", {"value 220003"}},
+        {WINDOW_PAGE_GET, "123456789.123456", {"value 12341234"}}, // the rest finds no room
         {WINDOW_PAGE_GET, "", {}},
     };
     for (const auto& c : cases) {
@@ -624,7 +627,7 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
         Keys keys;
         std::vector<std::string> sent;
     } cases[] = {
-        {1, {"Enter"}, {"put Clip#-12.50"}}, // as shown
+        {1, {"Enter"}, {"put Clip#-12.50"}}, // as it was
         {1, {"Cancel"}, {}},
         {1, {"5", "+/-", "+/-", "Enter"}, {"put Clip#5.00"}},
         {1, {".", "5", ".", "2", "Enter"}, {"put Clip#0.52"}},
@@ -637,11 +640,11 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
         {3, {"2", "5", "1", "2", "Enter"}, {"put Rate#00:25:12"}},
         {3, {"5", "+/-", "Enter"}, {"put Rate#-00:00:05"}},
         {3, {"1", ":", "1", "2", "Enter"}, {"put Rate#00:01:12"}},
-        {3, {"9", "9", "9", "9", "9", "9", "9", "9", "9", "Enter"}, {"put Rate#01:00:00"}},
+        {3, {"2", "3", ":", "0", ":", "0", ":", "0", "Enter"}, {"put Rate#01:00:00"}},
     };
     for (const auto& c : cases) {
         PressSlot(c.slot);
-        ASSERT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
+        ASSERT_EQ(GetWindow(), c.slot == 3 ? WINDOW_KNOB : WINDOW_KNOB_TRIM);
         Forget();
         Hit(c.keys);
         EXPECT_EQ(TakeQueuedCommands(), c.sent) << c.keys[0];
@@ -667,7 +670,118 @@ TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
     Hit({"1", ":", "Enter"}); // the point has become a colon, the sign is forgotten
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Rate#00:01:00"));
     EXPECT_EQ(Painted({440, 130, 705, 535}), 0);
-    EXPECT_EQ(ChangeWindow("Clip", "1", "0", "2"), -1);
+    EXPECT_EQ(ChangeWindow("Clip", {.value = "1", .min_text = "0", .max_text = "2"}), -1);
+    // A time code has no Trim key, and the next box has one again.
+    PressSlot(3);
+    Hit({"5", "Trim"});
+    EXPECT_EQ(GetWindow(), WINDOW_KNOB);
+    PressSlot(1);
+    Hit({"1", "Trim"});
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Clip#-11.50"));
+}
+
+// The value of a box on the air: what nobody has typed does not change it.
+TEST_F(KnobInput, EnterAsTheFirstKeyLeavesEveryValueAsItWas)
+{
+    static const struct {
+        int slot;
+        const char* tally;
+        std::vector<std::string> sent;
+    } cases[] = {
+        {1, "-12.34", {"put Clip#-12.34"}}, {1, "-12.345", {}}, // its text would be another value
+        {1, "250", {"put Clip#250.00"}},                        // beyond the limits of the box
+        {3, "45", {"put Rate#00:01:15"}},   {3, "126000", {"put Rate#01:10:00:00"}},
+    };
+    static const char* const paths[] = {"", "Clip", "Level", "Rate"};
+    for (const auto& c : cases) {
+        Tally(paths[c.slot], c.tally);
+        PressSlot(c.slot);
+        Forget();
+        Hit({"Enter"});
+        EXPECT_EQ(TakeQueuedCommands(), c.sent) << c.tally;
+        EXPECT_EQ(GetWindow(), 0);
+    }
+    Open(boxes, "No value"); // another title: told anew
+    for (const char* key : {"Enter", "Trim"}) {
+        PressSlot(1);
+        EXPECT_STREQ(GL_KnobSetVar, "");
+        Forget();
+        Hit(key[0] == 'T' ? Keys{"5", key} : Keys{key});
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << key;
+    }
+}
+
+// Shown and entered by the same rate, whatever the two formats say.
+TEST_F(KnobInput, ATimeCodeGoesBackByTheRateThatShowedIt)
+{
+    SYS_FrameRate = 60;
+    for (const auto& [size, freq, sent] :
+         {std::tuple{0, 0, "put Rate#00:01:29"}, {2, 5, "put Rate#00:01:24"}}) {
+        SYS_Format_Size = size;
+        SYS_Format_Freq = freq;
+        const int rate = GetFrameNum_SWR(0);
+        Tally("Rate", std::to_string(2 * rate - 1).c_str());
+        PressSlot(3);
+        EXPECT_STREQ(GL_KnobSetVar, sent + strlen("put Rate#"));
+        Forget();
+        Hit({"1", "2", "9", "Enter"}); // frames 29
+        EXPECT_EQ(GetWindow() != 0, rate == 25);
+        CloseWindow();
+        Forget();
+        PressSlot(3);
+        Hit({"Enter"});
+        EXPECT_THAT(TakeQueuedCommands(), Contains(sent));
+    }
+}
+
+TEST_F(KnobInput, ATimeCodeThatDoesNotExistIsSentNowhere)
+{
+    for (const Keys& keys :
+         {Keys{"4", "5"}, {"7", "5", "0", "0"}, {"9", "9", "9", "9", "9", "9"}}) {
+        PressSlot(3);
+        Forget();
+        Hit(keys);
+        Hit({"Enter"});
+        EXPECT_EQ(GetWindow(), WINDOW_KNOB) << "what was typed can be mended";
+        Window_ReserveQuit(2); // code has its way
+        Pass(10);
+        EXPECT_EQ(GetWindow(), 0);
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << keys[0];
+    }
+    PressSlot(3);
+    Forget();
+    Hit({"4", "5", "Enter", "Clear", "1", "5", "Enter"});
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Rate#00:00:15"));
+}
+
+// The page may choose the boxes anew at any tally: an entry that is under way outlives that as long
+// as its box does, and is never sent to another one.
+TEST_F(KnobInput, TheTenKeysStayWithTheirBox)
+{
+    static const NB_TBL others[] = {
+        {.id = 1, .caption = "Other", .type = NB_2, .min = 0, .max = 9, .cmd = "Other"}, NB_END};
+    PressSlot(1);
+    Hit({"4", "2"});
+    NB_Create(boxes, "Chroma");
+    EXPECT_EQ(Shown("Clip"), -12.5) << "the server has not taken it back";
+    EXPECT_EQ(GetWindow(), WINDOW_KNOB_TRIM);
+    Forget();
+    Hit({"Enter"});
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Clip#42.00"));
+    for (const NB_TBL* table : {others, NB_Non}) {
+        Open(boxes);
+        PressSlot(1);
+        Hit({"4", "2"});
+        NB_Create(table, "Chroma");
+        EXPECT_EQ(GetWindow(), 0);
+        EXPECT_EQ(NB_SendValue(1), -1);
+    }
+    Open(boxes);
+    PressSlot(2);
+    NB_DeleteTable(2);
+    EXPECT_EQ(GetWindow(), 0);
+    for (const auto& line : TakeQueuedCommands())
+        EXPECT_THAT(line, testing::Not(testing::StartsWith("put")));
 }
 
 // --- From a tab on a real page to the wire ---
