@@ -73,8 +73,8 @@ struct TablePage : testing::Test {
     static Lines Drag(int slot, int x)
     {
         GL_MouseSliderControl = 1;
-        (void)Touch(750, 68 + 82 * slot);
-        SendMessage(MSG_DRAG, x, 150, 1, 0);
+        (void)Touch(750, 68 + 82 * slot, 3);
+        SendMessage(MSG_DRAG, x, 150, 0, 1);
         const Lines lines = TakeQueuedCommands();
         SendMessage(MSG_RELEASE, x, 150, 0, 0);
         return lines;

@@ -211,6 +211,7 @@ struct DmePages : TablePage {
     // What a turn far beyond the limit sends.
     static std::string Farthest(int id)
     {
+        NB_SetVar(id, 0);
         (void)TakeQueuedCommands();
         NB_SetSelect(id);
         NB_SendTrimValue(1000);

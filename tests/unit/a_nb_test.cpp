@@ -1,5 +1,7 @@
 #include "a_nb_column.h"
+#include "global.h"
 #include "pane.h"
+#include <array>
 
 using Lines = std::vector<std::string>;
 
@@ -135,6 +137,8 @@ TEST_F(KnobColumn, ATurnStopsAtTheLimitsAndSaysWhich)
     } cases[] = {
         {0, 9, 8.5, "70", {"upper 1 9", "fvar 1 9.00"}, 9},
         {9, 0, 8.4, "70", {"upper 1 0", "var 1 9", "fvar 1 9.00"}, 9},
+        {0, 9, 0.5, "-70", {"lower 1 0", "var 1 0", "fvar 1 0.00"}, 0},
+        {9, 0, 0.5, "-70", {"lower 1 9", "var 1 0", "fvar 1 0.00"}, 0},
         {-9, 0, -0.6, "-1", {"fvar 1 -0.70"}, -0.7}, // both round to -1
         {0, 9, 4, "1e308", {"upper 1 9", "var 1 9", "fvar 1 9.00"}, 9},
     };
@@ -166,6 +170,68 @@ TEST_F(KnobColumn, KnobsOfAnotherLayerAndUnderAPaneAreDead)
     Pane_Quit(pane);
     Tally("Panel@Common@Knob1", "7");
     EXPECT_EQ(Shown("Lines"), 1);
+    PressSlot(1);
+    ASSERT_NE(GetWindow(), 0);
+    Told();
+    for (const char* knob : {"Panel@Common@Knob1", "Panel@Common@Knob2"})
+        Tally(knob, "7");
+    EXPECT_THAT(Told(), ElementsAre("diff 3 3.50")) << "a difference is not the box's to refuse";
+    EXPECT_EQ(Shown("Lines"), 1);
+    CloseWindow();
+    PressTitle();
+    Told();
+    Tally("Panel@Common@Knob2", "7");
+    EXPECT_THAT(Told(), IsEmpty());
+}
+
+// What the recorder of menu macros tells a turn by.
+TEST_F(KnobColumn, ATurnIsMarkedWhileThePageHearsOfIt)
+{
+    static int marked;
+    answer = [](int msg) {
+        if (msg == LMSG_KNOBVAR || msg == LMSG_KNOBFVAR)
+            marked += GL_MM_Knob_Protcol;
+    };
+    Open(table);
+    marked = 0;
+    Tally("Panel@Common@Knob1", "14");
+    EXPECT_EQ(marked, 2);
+    Wheel(MSG_WHEELDOWN, 2);
+    EXPECT_EQ(marked, 2) << "the screen is no knob";
+}
+
+TEST_F(KnobColumn, TheOldestLayerIsForgottenFirst)
+{
+    constexpr size_t REMEMBERED = 256;
+    static std::vector<std::array<NB_TBL, 3>> tables(
+        REMEMBERED + 1, {Box(1, "Low", NB_2, 0, 1, ""), Box(17, "High", NB_2, 0, 1, ""), NB_END});
+    const auto layer_of = [](size_t n) {
+        NB_Create(tables[n].data(), "");
+        return NB_GetLayer();
+    };
+    layer_of(0);
+    PressTitle();
+    for (size_t n = 1; n < REMEMBERED; n++)
+        layer_of(n);
+    EXPECT_EQ(layer_of(0), 1);
+    layer_of(REMEMBERED);
+    EXPECT_EQ(layer_of(0), 0);
+    EXPECT_EQ(layer_of(REMEMBERED), 0);
+}
+
+TEST_F(KnobColumn, ABoxThatGoesLeavesItsSlotEmpty)
+{
+    static const NB_TBL extra[] = {Box(2, "Extra", NB_2, 0, 1, "~2@Extra"), NB_END};
+    const Rect slot = {706, 209, 799, 288};
+    Open(one, "Gain");
+    Pass(10);
+    const auto empty = PixelsIn(slot);
+    NB_PushTable(extra);
+    Pass(10);
+    EXPECT_NE(PixelsIn(slot), empty);
+    NB_DeleteTable(2);
+    Pass(10);
+    EXPECT_EQ(PixelsIn(slot), empty);
 }
 
 TEST_F(KnobColumn, PageCodeMayChangeValueAndTableWhileItHearsOfATurn)

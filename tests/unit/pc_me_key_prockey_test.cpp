@@ -103,6 +103,7 @@ TEST_F(KeyProcessCrop, OneValueBecomesTheEdges)
                                                              {0x82360003, "M/E-5@Key3"}};
     for (const auto& [page, key] : pages) {
         OpenCrop(page, key);
+        TellAll(path, {"@Left#-20", "@Top#60"});
         EXPECT_EQ(Drag(1, 735), PutOf({"Right#73.75", "Left#-73.75"}));
         EXPECT_EQ(Drag(2, 735), PutOf({"Bottom#-73.75", "Top#73.75"}));
         EXPECT_EQ(Drag(3, 735),

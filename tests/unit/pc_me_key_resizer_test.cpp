@@ -84,6 +84,7 @@ TEST_F(KeyResizerPages, TwoEdgesAtOnceKeepTheirSense)
         (void)Press(33);
         if (NB_GetLayer() == 0)
             NextLayer();
+        Tell(path + "#10");
         EXPECT_THAT(Drag(c.slot, c.x), ElementsAre("put " + path + "#" + c.value, "read " + path));
     }
 }
@@ -161,7 +162,7 @@ TEST_F(KeyResizerPages, AnAxisThatDoesNotTurnHasNoRange)
     const std::string path = "M/E-1@Key1@Resizer@Rotation@";
     TellAll(path, {"X#0", "Y#0"});
     EXPECT_THAT(Drag(1, 794), Contains("put " + path + "X#360.00"));
-    EXPECT_THAT(Drag(2, 794), Contains("put " + path + "Y#0.00"));
+    EXPECT_THAT(Drag(2, 794), testing::Not(Contains(testing::StartsWith("put"))));
     Tell("M/E-1@Key1@Processed Key@Rotation#3");
     EXPECT_THAT(Drag(2, 794), Contains("put " + path + "Y#360.00"));
 }
