@@ -18,8 +18,7 @@
 constexpr int COLUMNS = 11; // of the entry, right-aligned
 constexpr unsigned GROUND = 0x1A1A1A;
 constexpr unsigned SHOWN = BOX_VALUE; // the value before the first key
-constexpr unsigned REFUSED = 0xFF0000;
-constexpr size_t PAGE_DIGITS = 4; // on each side of the point
+constexpr size_t PAGE_DIGITS = 4;     // on each side of the point
 constexpr int DIGIT_DX = 54;
 constexpr int DIGIT_DY = 59;
 
@@ -184,7 +183,7 @@ static void draw_entry_s()
     entry_text(win, text, sizeof text);
     const int x2 = win.WinX + well.x2;
     const int y = win.WinY + well.y1 + 11;
-    const unsigned col = win.is_refused ? REFUSED : win.FirstInput ? SHOWN : WHITE;
+    const unsigned col = win.is_refused ? RED : win.FirstInput ? SHOWN : WHITE;
     TDL_SymbolS(x2 - 12 - int(TDL_GetSymbolWidth(text, 8)), y, text, 8, col);
     TDL_FillRectS(x2 - 9, y, x2 - 7, y + 18, CYAN);
 }
