@@ -148,10 +148,12 @@ using FILE_LIST_FUNC = void (*)(uint32_t label, int tag);
 // when the server's was none); at the end with two nulls. The end's message is LMSG_FINDSTATUS.
 using FILE_FIND_FUNC = void (*)(uint32_t label, int tag, const char* name, const char* const* pair);
 // FindSFM: for each row with its seven fields, commas between; at the end with null.
-using FILE_ROW_FUNC = void (*)(uint32_t label, int tag, const char* row);
+using FILE_ROW_FUNC = FILE_TEXT_FUNC;
+
+constexpr int FILE_IN_FLIGHT = 8; // staged items of a job under way at once
 
 union FILERETFUNC {
-    FILE_TEXT_FUNC text; // also FILE_ROW_FUNC
+    FILE_TEXT_FUNC text;
     FILE_LIST_FUNC list;
     FILE_FIND_FUNC find;
 };
@@ -167,17 +169,20 @@ struct QUEUE {
     QUEUE* next = nullptr;
 
     // The engine's own: what would otherwise be counted over the whole list at every reply.
-    FILEXFERLIST* started = nullptr; // all items up to this one have been looked at by the launcher
+    FILEXFERLIST* last = nullptr;    // all items up to this one have a label
+    FILEXFERLIST* started = nullptr; // ... and have been looked at by the launcher
     int items = 0;
-    int finished = 0;        // status 128 and above, 131 too
-    int checking = 0;        // status 131
-    int in_flight = 0;       // REQ or EXEC
-    bool is_syncing = false; // all done, the drives are being written
-    struct FILECOUNT* scp = nullptr;
+    int finished = 0;                     // status 128 and above, 131 too
+    int checking = 0;                     // status 131
+    int in_flight = 0;                    // REQ or EXEC
+    uint32_t flight[FILE_IN_FLIGHT] = {}; // labels of staged items under way, 0 free
+    int sync_pid = 0;                     // all done, this child writes the drives; 0 none
+    struct FILECOUNT* scp = nullptr;      // remote copies: the same by target and category
 };
 
 extern QUEUE* QueueRoot;
-extern uint32_t LabelID; // the next label; 0 is read as 1
+extern uint32_t LabelID;           // the next label; 0 is read as 1
+extern int GL_FMDataPortStatus[2]; // 1: the switcher's data port is connected
 
 // --- Starting jobs: each returns the job's label, or -1 (an empty list, memory out) ---
 
@@ -301,3 +306,4 @@ void fileprocessprogress_update(); // the bars of FileProc_Prog have changed
 // --- For tests: how the drives are written at a job's end ---
 // start returns the child that writes, 0 when there is nothing to wait for. Null: the real thing.
 void File_ReplaceSync(int (*start)());
+void File_Reset(); // no job, no reservation, first label, as at process start

@@ -10,6 +10,8 @@ int FMCtrlProc(int, MsgArg, MsgArg, MsgArg, MsgArg)
 
 void FMCtrl_InitClipStillList() {}
 
+void FMCtrl_GetWaitThumbnailAll() {}
+
 void FMCtrl_Quit() {}
 
 int framememory_proc(int, MsgArg, MsgArg, MsgArg, MsgArg)

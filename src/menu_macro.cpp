@@ -1,4 +1,7 @@
 #include "menu_macro.h"
+#include "text.h"
+#include <cstdio>
+
 #include "safeguards.h"
 
 // Nothing is recorded yet, and no register holds a macro.
@@ -10,6 +13,23 @@ void mm_macro_run(int) {}
 int mm_macro_file_load(int)
 {
     return -1;
+}
+
+int mm_macro_tmpfile_save(const char*)
+{
+    return -1;
+}
+
+int mm_macro_tmpfile_load(const char*, const char*)
+{
+    return -1;
+}
+
+void mm_macro_tmpfile_del(int n)
+{
+    char path[64];
+    PrintText(path, "/var/tmp/MenuMacro/mm_reg%02d.tmp", n + 1);
+    (void)remove(path); // most often there is none
 }
 
 void mm_event_insert() {}

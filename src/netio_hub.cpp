@@ -193,6 +193,17 @@ char* Net_ReceiveSHPCommand()
     return RCmd_SHP;
 }
 
+int Net_TakeQueuedSHP(char* text, int size)
+{
+    if (!SHPSendCommandQueue.first)
+        return 0;
+    ktr_strncpy(text, reinterpret_cast<const char*>(SHPSendCommandQueue.first->data_array),
+                size_t(size));
+    text[strcspn(text, "\n")] = '\0';
+    net_queue_remove(&SHPSendCommandQueue);
+    return 1;
+}
+
 int Get_SHPTargetId(const char* table)
 {
     if (!table)

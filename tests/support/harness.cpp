@@ -13,6 +13,7 @@
 #include "a_vf.h"
 #include "bus.h"
 #include "device.h"
+#include "file.h"
 #include "global.h"
 #include "graphics.h"
 #include "held.h"
@@ -174,7 +175,10 @@ void Harness_Reset()
     SDL_Event e;
     while (SDL_PollEvent(&e)) {
     }
-    (void)TakeQueuedCommands(); // what an earlier test left
+    File_Reset();
+    File_ReplaceSync([] { return 0; }); // a job of a test does not wait for the host's drives
+    (void)TakeQueuedCommands();         // what an earlier test left
+    (void)TakeQueuedHubLines();
     TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
 }
 
@@ -278,6 +282,15 @@ std::vector<std::string> TakeQueuedCommands()
     while (Net_TakeQueued(text, sizeof text))
         commands.emplace_back(text);
     return commands;
+}
+
+std::vector<std::string> TakeQueuedHubLines()
+{
+    std::vector<std::string> lines;
+    char text[CMD_SIZE];
+    while (Net_TakeQueuedSHP(text, sizeof text))
+        lines.emplace_back(text);
+    return lines;
 }
 
 std::string FileText(const std::string& path)

@@ -56,6 +56,7 @@ struct Peer {
 // The commands that the application has queued since the last call, as they would go over the wire.
 // Takes them off the queue: for tests without a peer.
 std::vector<std::string> TakeQueuedCommands();
+std::vector<std::string> TakeQueuedHubLines(); // the same for the hub
 
 // What a file holds; nothing when it is not there.
 std::string FileText(const std::string& path);

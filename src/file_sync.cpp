@@ -1,0 +1,66 @@
+// Writing the drives at the end of a job. It can take seconds with a stick, and for ever with a
+// network drive that has gone: a child does it, the screen goes on, and the job's pane stays until
+// the child has ended, so that "gone" means that a stick may be pulled.
+#include "file_private.h"
+#include "log.h"
+#include <cerrno>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "safeguards.h"
+
+static int start_child()
+{
+    const pid_t pid = fork();
+    if (pid == 0) {
+        sync();
+        sync();
+        _exit(0);
+    }
+    if (pid < 0)
+        Log_Output(LOG_ALWAYS, MOD_FILE, "no process for sync, errno=%d", errno);
+    return pid > 0 ? int(pid) : 0;
+}
+
+static int (*sync_start)() = start_child;
+
+int file_sync_start()
+{
+    Log_Output(LOG_TRACE, MOD_FILE, "Sync...");
+    return sync_start();
+}
+
+bool file_sync_is_done(int pid)
+{
+    if (pid > 0 && waitpid(pid, nullptr, WNOHANG) == 0)
+        return false;
+    Log_Output(LOG_TRACE, MOD_FILE, "...done");
+    return true;
+}
+
+static int released[8]; // children to be taken off the kernel's hands, 0 free
+
+void file_sync_release(int pid)
+{
+    if (pid <= 0)
+        return;
+    for (int& place : released) {
+        if (place != 0)
+            continue;
+        place = pid;
+        return;
+    }
+    Log_Output(LOG_LINK, MOD_FILE, "sync %d is left alone", pid);
+}
+
+void file_sync_tick()
+{
+    for (int& place : released)
+        if (place != 0 && waitpid(place, nullptr, WNOHANG) != 0)
+            place = 0;
+}
+
+void File_ReplaceSync(int (*start)())
+{
+    sync_start = start ? start : start_child;
+}

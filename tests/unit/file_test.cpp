@@ -1,0 +1,443 @@
+#include "access.h"
+#include "file_page.h"
+#include "page.h"
+#include <chrono>
+
+constexpr char ROW_DATE[] = "Wed Nov 25 09:20:08 2026";
+
+struct FileJobs : FileTest {
+};
+
+TEST_F(FileJobs, ASingleJobLivesFromItsCommandToItsReply)
+{
+    const int label = File_ExecCopy("MYHOST:/a", "MYHOST:/b", Text, 7);
+    EXPECT_EQ(label, 1);
+    EXPECT_EQ(SentOne(), "Access@Copy#L1,MYHOST:/a,MYHOST:/b");
+    EXPECT_EQ(FileCounter, 1);
+    Ack(1, 50);
+    EXPECT_THAT(told, IsEmpty());
+    Status(50, "NG(full)");
+    EXPECT_THAT(told, ElementsAre("1 7 NG(full)"));
+    ASSERT_EQ(Seen(LMSG_FILESTATUS), 1);
+    EXPECT_EQ(QueueRoot, nullptr);
+    EXPECT_EQ(FileCounter, 0);
+    Status(50, "OK");
+    EXPECT_EQ(told.size(), 1u) << "the second reply found a job";
+}
+
+TEST_F(FileJobs, EveryEntrySaysItsCommand)
+{
+    const char* a = "MYHOST:/a";
+    const char* b = "SWR000D001:b";
+    File_ExecTransfer(a, b, Text, 0);
+    File_ExecFmPut(a, b, Text, 0);
+    File_ExecFmGet(b, a, Text, 0);
+    File_ExecFmCtrlGet(b, a, Text, 0);
+    File_ExecFind(a, "*.*", Found, 0);
+    File_ExecFind2(a, 3, "*.*", Found, 0);
+    File_ExecListDir(a, Found, 0);
+    File_ExecMkdir(a, Text, 0);
+    File_ExecCopydir(a, b, Text, 0);
+    File_ExecRmdir(a, Text, 0);
+    File_ExecMove(a, b, Text, 0);
+    File_ExecRemove(a, Text, 0);
+    File_ExecFindSFM(a, "*", Text, 0);
+    File_ExecUSBReload(Text, 0);
+    File_ExecUSBRefresh(Text, 0);
+    File_StatusFMDataPort("SWR1");
+    File_ExecSCPGet(b, a, "SETUP", Text, 0);
+    File_ExecSCPdirGet(b, a, nullptr, Text, 0);
+    File_ExecSCPdirPut(a, b, "MACRO", Text, 0);
+    File_ThumbnailGet("x.SFT", "y.SFT", Text, 0);
+    EXPECT_THAT(
+        Sent(),
+        ElementsAre(
+            "put File@Transfer@Transfer#L1,MYHOST:/a,SWR000D001:b",
+            "put File@Frame Memory@PutV3#L2,MYHOST:/a,SWR000D001:b",
+            "put File@Frame Memory@Get#L3,SWR000D001:b,MYHOST:/a",
+            "put File@Frame Memory@GetCtrl#L4,SWR000D001:b,MYHOST:/a",
+            "put File@Access@Find#L5,MYHOST:/a,*.*", "put File@Access@Find2#L6,MYHOST:/a,3,*.*",
+            "put File@Access@ListDir#L7,MYHOST:/a", "put File@Access@Mkdir#L8,MYHOST:/a",
+            "put File@Access@Copydir#L9,MYHOST:/a,SWR000D001:b",
+            "put File@Access@Rmdir#L10,MYHOST:/a",
+            "put File@Access@Move#L11,MYHOST:/a,SWR000D001:b",
+            "put File@Access@Remove#L12,MYHOST:/a", "put File@Access@FindSFM#L13,MYHOST:/a,*",
+            "put File@Access@USB Storage Reload#L14,", "put File@Access@USB Storage Refresh#L15,",
+            "put File@Status@FM Data Port Status@SWR1#L16",
+            "put File@Remote Access@SCP Get#L17,SWR000D001:b,MYHOST:/a,SETUP",
+            "put File@Remote Access@SCP Dir Get#L18,SWR000D001:b,MYHOST:/a,",
+            "put File@Remote Access@SCP Dir Put#L19,MYHOST:/a,SWR000D001:b,MACRO",
+            "put File@Remote Access@SCP Dir Get#L20,SWR000D001:/vorn/FM/1/x.SFT,"
+            "MYHOST:/mnt/sys/FM/1/y.SFT,"));
+}
+
+TEST_F(FileJobs, ACommandThatDoesNotFitIsNotSentCut)
+{
+    const std::string path = "MYHOST:/" + std::string(700, 'x');
+    EXPECT_EQ(File_ExecRemove((path + path).c_str(), Text, 0), -1);
+    EXPECT_EQ(File_ExecMove(path.c_str(), path.c_str(), Text, 0), -1);
+    EXPECT_EQ(File_ExecCopy(nullptr, "b", Text, 0), -1);
+    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_EQ(QueueRoot, nullptr);
+    File_ExecRemove("MYHOST:/a\nput File@Access@Rmdir#L1,MYHOST:/", Text, 0);
+    EXPECT_THAT(SentOne(), HasSubstr("MYHOST:/a_put"));
+}
+
+TEST_F(FileJobs, ASearchPassesItsRowsOnAndThenEnds)
+{
+    File_ExecFind("MYHOST:/d", "*", Found, 3);
+    Ack(1, 9);
+    Status(9, std::string("/d/a.SSS,") + ROW_DATE);
+    Status(9, std::string("/d/a,b.SSS,") + ROW_DATE); // could not be said back to the server
+    Status(9, "/d/b.SSS,yesterday");
+    EXPECT_THAT(told, ElementsAre("/d/a.SSS|/d/a.SSS|Nov.25.2026 09:20", "/d/b.SSS|/d/b.SSS|"));
+    EXPECT_EQ(Seen(LMSG_FILESTATUS), 2);
+    EXPECT_EQ(Seen(LMSG_FINDSTATUS), 0);
+    Status(9, "NG(no such, directory)");
+    EXPECT_EQ(told.back(), "end");
+    EXPECT_EQ(Seen(LMSG_FINDSTATUS), 1);
+    EXPECT_EQ(QueueRoot, nullptr);
+}
+
+TEST_F(FileJobs, RowsOfSixAndSevenFieldsKeepTheirJob)
+{
+    File_ExecUSBReload(Text, 0);
+    File_ExecFindSFM("MYHOST:/d", "*", Text, 0);
+    Ack(1, 11);
+    Ack(2, 12);
+    Status(11, "a,b,c,d,e,f");
+    Status(12, "a,b,c,d,e,f,g");
+    EXPECT_THAT(told, ElementsAre("1 0 a,b,c,d,e,f", "2 0 a,b,c,d,e,f,g"));
+    Status(11, "OK");
+    Status(12, "OK");
+    EXPECT_THAT(told, testing::Contains("1 0 OK"));
+    EXPECT_EQ(told.back(), "2 0 (null)");
+    EXPECT_EQ(QueueRoot, nullptr);
+}
+
+TEST_F(FileJobs, LinesThatAreNoneChangeNothing)
+{
+    File_ExecCopy("a", "b", Text, 0);
+    for (const char* ack : {"", "L", "L1", "L1,", "L1,0", "L0,5", "L4294967295,5", "L4294967296,5",
+                            "L99999999999999999999,5", "Lx,5", "1,5", "L-1,5", "L1 ,5"})
+        Deliver("File@Access@Copy", ack);
+    ASSERT_TRUE(QueueRoot);
+    EXPECT_EQ(QueueRoot->ack, 0u);
+    Ack(1, 4294967295u);
+    for (const char* status :
+         {"", ",", "0,OK", "5,OK", "4294967296,OK", "-5,OK", "x,OK", "4294967295"})
+        Deliver("File@Access@Copy@Status", status);
+    Deliver("File@Other@Copy@Status", "4294967295,OK");
+    EXPECT_THAT(told, IsEmpty());
+    for (int commas = 1; commas <= 200; commas++)
+        Deliver("File@Access@Find@Status", "77" + std::string(size_t(commas), ','));
+    Status(4294967295u, "OK");
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileJobs, ACancelledTransferWaitsForItsReplyAForgottenReloadDoesNot)
+{
+    File_ExecTransfer("a", "b", Text, 0);
+    (void)Sent();
+    EXPECT_EQ(File_CancelTransfer(1), 0);
+    EXPECT_THAT(Sent(), IsEmpty()) << "there was no work number yet";
+    Ack(1, 3);
+    File_CancelTransfer(1);
+    EXPECT_EQ(SentOne(), "Transfer@Cancel#Lx,3");
+    EXPECT_TRUE(QueueRoot);
+    EXPECT_EQ(File_ExecUSBReload_cancel(1), 0);
+    EXPECT_EQ(QueueRoot, nullptr);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(File_CancelTransfer(1), -1);
+}
+
+// --- Lists ---
+
+struct FileLists : FileTest {
+    FILEXFERLIST* list = nullptr;
+    void TearDown() override
+    {
+        File_XferList_RemoveAll(&list);
+        FileTest::TearDown();
+    }
+    void Fill(int n)
+    {
+        for (int i = 0; i < n; i++)
+            File_XferList_Add(&list, ("MYHOST:/s/f" + std::to_string(i)).c_str(),
+                              ("MYHOST:/d/f" + std::to_string(i)).c_str());
+    }
+    FILEXFERLIST* At(int n)
+    {
+        FILEXFERLIST* item = list;
+        while (n-- > 0)
+            item = item->next;
+        return item;
+    }
+};
+
+TEST_F(FileLists, ItemsKeepTheirOrderAndLeaveByTheirTexts)
+{
+    FILEXFERLIST* other = nullptr;
+    Fill(3);
+    EXPECT_EQ(File_XferList_SCPAdd(&list, "s", "d", "SETUP", "SWR1"), 0);
+    EXPECT_EQ(File_XferList_Add(&other, "x", "y"), 0);
+    EXPECT_EQ(File_XferList_Add(nullptr, "x", "y"), -1);
+    EXPECT_EQ(File_XferList_Remove(&list, "MYHOST:/s/f1", "MYHOST:/d/f2"), -1);
+    EXPECT_EQ(File_XferList_Remove(&list, "MYHOST:/s/f1", "MYHOST:/d/f1"), 0);
+    EXPECT_EQ(File_XferList_SCPRemove(&list, "s", "d", "SETUP", "SWR2"), -1);
+    EXPECT_EQ(File_XferList_SCPRemove(&list, "s", "d", "SETUP", "SWR1"), 0);
+    EXPECT_EQ(File_XferList_Move(&list, list, &other), 0);
+    EXPECT_EQ(File_XferList_Add(&list, "last", "l"), 0);
+    EXPECT_STREQ(list->src, "MYHOST:/s/f2");
+    EXPECT_STREQ(list->next->src, "last");
+    EXPECT_STREQ(other->next->src, "MYHOST:/s/f0");
+    EXPECT_EQ(other->next->next, nullptr);
+    const std::string path(300, 'p');
+    File_XferList_Add(&other, path.c_str(), path.c_str());
+    EXPECT_EQ(strlen(other->next->next->src), 256u);
+    File_XferList_RemoveAll(&other);
+    EXPECT_EQ(other, nullptr);
+}
+
+TEST_F(FileLists, AnEmptyListIsNoJobAndASecondCallIsNoSecondOne)
+{
+    EXPECT_EQ(File_ExecCopyList(&list, List, 0), -1);
+    EXPECT_EQ(File_ExecTransferList(nullptr, List, 0), -1);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    Fill(2);
+    const int label = File_ExecRemoveList(&list, List, 5);
+    EXPECT_EQ(label, 3) << "items are numbered first";
+    EXPECT_THAT(Sent(), ElementsAre("put File@Access@Remove#L1,MYHOST:/s/f0",
+                                    "put File@Access@Remove#L2,MYHOST:/s/f1"));
+    Fill(1);
+    EXPECT_EQ(File_ExecRemoveList(&list, List, 5), label);
+    EXPECT_EQ(SentOne(), "Access@Remove#L4,MYHOST:/s/f0");
+    EXPECT_EQ(QueueRoot->next, nullptr);
+    EXPECT_EQ(FileCounter, 1);
+}
+
+TEST_F(FileLists, RepliesInAnyOrderEndTheJobOnce)
+{
+    Fill(3);
+    File_ExecCopyList(&list, List, 5);
+    const int pane = QueueRoot->paneid;
+    EXPECT_TRUE(Pane_Exist(pane));
+    for (uint32_t l = 1; l <= 3; l++)
+        Ack(l, 10 + l);
+    Status(13, "OK");
+    Status(11, "NG(no)");
+    Status(11, "OK"); // too late
+    EXPECT_EQ(At(0)->status, FILESTATUS_NG);
+    EXPECT_STREQ(At(0)->mesg, "f0: NG(no)");
+    EXPECT_EQ(At(1)->status, FILESTATUS_EXEC);
+    EXPECT_THAT(told, IsEmpty());
+    Status(12, "Canceled");
+    EXPECT_THAT(told, ElementsAre("4 5"));
+    EXPECT_EQ(list, nullptr);
+    EXPECT_FALSE(Pane_Exist(pane));
+    EXPECT_EQ(Seen(LMSG_FILESTATUS), 1);
+}
+
+TEST_F(FileLists, ANoThatMayPassIsTriedThreeTimesMore)
+{
+    Fill(1);
+    File_ExecMoveList(&list, List, 0);
+    const std::string command = SentOne();
+    for (int i = 0; i < 3; i++) {
+        Answer(1, "NG(busy.)");
+        EXPECT_EQ(SentOne(), command) << i;
+        EXPECT_EQ(list->status, FILESTATUS_REQ);
+    }
+    Answer(1, "NG(busy.)");
+    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileLists, TheLineCutsTheReplyNotTheName)
+{
+    const std::string name(100, 'n');
+    File_XferList_Add(&list, ("MYHOST:/s/" + name).c_str(), "d");
+    File_XferList_Add(&list, "d:/x", "d");
+    File_ExecMoveList(&list, List, 0);
+    Answer(1, "NG(" + std::string(200, 't') + ")");
+    EXPECT_EQ(std::string(list->mesg), name + ": NG(" + std::string(17, 't'));
+}
+
+TEST_F(FileLists, AScanTellsItsRowsAndEndsWithoutACallback)
+{
+    File_XferList_Add(&list, "MYHOST:/s/", "");
+    File_ExecListDirList(&list, List, 0);
+    EXPECT_EQ(SentOne(), "Access@ListDir#L1,MYHOST:/s/");
+    Ack(1, 8);
+    probe::seen.clear();
+    std::string row;
+    probe::answer = [&row](const probe::Seen& s) {
+        if (s.msg == LMSG_FILESTATUS)
+            row = std::string(::Text(s.cx)) + "|" + ::Text(s.dx);
+        return 0;
+    };
+    Status(8, std::string("News,") + ROW_DATE); // begins as a failure does
+    EXPECT_EQ(row, "News|Nov.25.2026 09:20");
+    EXPECT_EQ(list->status, FILESTATUS_REQ);
+    Status(8, "OK");
+    EXPECT_EQ(list, nullptr);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(FileLists, CancelStopsWhatRunsAndEndsAtOnce)
+{
+    Fill(3);
+    File_ExecCopyList(&list, List, 0);
+    (void)Sent();
+    Ack(1, 21);
+    Ack(2, 22);
+    Status(21, "OK");
+    SendMessage(LMSG_PANEQUIT, 12345, 1, 0, 0);
+    EXPECT_THAT(told, IsEmpty());
+    std::string lines;
+    probe::answer = [&](const probe::Seen& s) {
+        if (s.msg == LMSG_FILESTATUS)
+            for (FILEXFERLIST* i = *reinterpret_cast<FILEXFERLIST**>(s.cx); i; i = i->next)
+                lines += std::to_string(i->status) + i->mesg + ";";
+        return 0;
+    };
+    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    EXPECT_EQ(SentOne(), "Access@Cancel#Lx,22");
+    EXPECT_EQ(lines, "128f0: OK;130f1: Canceled;130f2: Canceled;");
+    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(QueueRoot, nullptr);
+    Status(22, "NG(cancelled)");
+    Ack(3, 23);
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileLists, ACallbackMayEmptyItsListAndBeginAnew)
+{
+    static FILEXFERLIST* again;
+    again = nullptr;
+    Fill(1);
+    static FILEXFERLIST** own;
+    own = &list;
+    File_ExecCopyList(
+        &list,
+        [](uint32_t, int) {
+            File_XferList_RemoveAll(own);
+            File_XferList_Add(&again, "a", "b");
+            File_ExecCopyList(&again, List, 9);
+        },
+        0);
+    const int pane = QueueRoot->paneid;
+    Answer(1, "OK");
+    EXPECT_FALSE(Pane_Exist(pane));
+    ASSERT_TRUE(QueueRoot);
+    EXPECT_EQ(QueueRoot->xferlist, &again);
+    EXPECT_EQ(QueueRoot->next, nullptr);
+    EXPECT_EQ(FileCounter, 1);
+    File_XferList_RemoveAll(&again);
+    EXPECT_EQ(QueueRoot, nullptr);
+    EXPECT_EQ(FileCounter, 0);
+}
+
+TEST_F(FileLists, TheDrivesAreWrittenBeforeTheJobEnds)
+{
+    static int pipe_ends[2];
+    ASSERT_EQ(pipe(pipe_ends), 0);
+    File_ReplaceSync([] {
+        const int pid = fork();
+        if (pid == 0) {
+            char c;
+            close(pipe_ends[1]);
+            (void)!read(pipe_ends[0], &c, 1);
+            _exit(0);
+        }
+        return pid;
+    });
+    Fill(1);
+    File_ExecCopyList(&list, List, 0);
+    Answer(1, "OK");
+    for (int i = 0; i < 5; i++)
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_TRUE(Pane_Exist(QueueRoot->paneid));
+    close(pipe_ends[1]);
+    for (int i = 0; i < 500 && QueueRoot; i++) {
+        usleep(10000);
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    }
+    EXPECT_EQ(told.size(), 1u);
+    close(pipe_ends[0]);
+}
+
+TEST_F(FileLists, AMemorySizedJobAnswersInTime)
+{
+    constexpr int N = 2000;
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    Fill(N);
+    File_ExecCopyList(&list, List, 0);
+    EXPECT_EQ(Sent().size(), size_t(N));
+    for (uint32_t l = N; l >= 1; l--)
+        Ack(l, 5000 + l);
+    for (uint32_t l = 1; l <= N; l++)
+        Status(5000 + l, "OK");
+    EXPECT_EQ(told.size(), 1u);
+    // A walk of the list for each line takes seconds.
+    EXPECT_LT(std::chrono::duration<double>(Clock::now() - start).count(), 1.5);
+}
+
+// --- In the background ---
+
+struct FileBackground : FileLists {
+    void TearDown() override
+    {
+        FileLists::TearDown();
+        (void)PaneProgress_RestoreQuit(); // nothing may be open
+        GL_NowPage = PAGE_TOP;
+    }
+};
+
+TEST_F(FileBackground, EachPageOfTheMenuHasItsBit)
+{
+    EXPECT_EQ(BkgdFileTransfer_Check(0), 0);
+    EXPECT_EQ(BkgdFileTransfer_Set(0x71220300, 1), 0);
+    EXPECT_EQ(BkgdFileTransfer_Check(0x71220000), 1);
+    EXPECT_EQ(BkgdFileTransfer_Check(0x71220500), 1);
+    EXPECT_EQ(BkgdFileTransfer_Check(0x71210000), 0);
+    EXPECT_EQ(BkgdFileTransfer_Check(0x12345678), 0);
+    EXPECT_EQ(BkgdFileTransfer_PagePermitted(0x71220000), 1);
+    EXPECT_EQ(BkgdFileTransfer_PagePermitted(0x21110000), 0);
+    EXPECT_EQ(BkgdFileTransfer_Set(0x12345678, 1), -1);
+    EXPECT_EQ(BkgdFileTransfer_Set(0, 2), -1);
+    EXPECT_EQ(BkgdFileTransfer_Set(0x71220000, 0), 0);
+    EXPECT_EQ(BkgdFileTransfer_Check(0), 0);
+    BkgdFileTransfer_Set(0, 1);
+    EXPECT_EQ(BkgdFileTransfer_Check(0x71510000), 1);
+    EXPECT_EQ(BkgdFileTransfer_Check(0x71620000), 0);
+    BkgdHDDTransfer_Set(0x25620000, 1);
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
+    EXPECT_EQ(BkgdHDDTransfer_Check(0x25620000), 1);
+    EXPECT_EQ(BkgdHDDTransfer_Check(0x25620001), 0);
+}
+
+TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
+{
+    Fill(4);
+    GL_NowPage = 0x71210000;
+    BkgdFileTransfer_Set(0x71210000, 1);
+    File_ExecCopyList(&list, List, 0);
+    const int first = QueueRoot->paneid;
+    BkgdFileTransfer_PaneQuit();
+    EXPECT_FALSE(Pane_Exist(first));
+    GL_NowPage = 0x11110000;
+    Answer(1, "OK");
+    Answer(2, "NG(no)");
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    GL_NowPage = 0x71210000;
+    const int second = BkgdFileTransfer_PaneRestore();
+    EXPECT_TRUE(Pane_Exist(second));
+    EXPECT_EQ(QueueRoot->paneid, second);
+    EXPECT_EQ(BkgdFileTransfer_PaneRestore(), second);
+    SendMessage(LMSG_PANEQUIT, second, 1, 0, 0);
+    EXPECT_EQ(told.size(), 1u) << "cancelled from the pane that came back";
+}
