@@ -53,7 +53,7 @@ int Net_QueueLength(); // text commands not yet sent
 // or 0 when empty.
 int Net_TakeQueued(char* text, int size);
 int Net_TakeQueuedSHP(char* text, int size); // the same of the hub's queue
-void Net_DropBinQueue(); // frames that wait for the binary link are forgotten
+void Net_DropBinQueue();                     // frames that wait for the binary link are forgotten
 // Feed received bytes as if they had come over the text link, as far as the buffer has room.
 // Returns bytes taken.
 int Net_FeedText(const char* bytes, int length);

@@ -1,0 +1,560 @@
+#include "file_page.h"
+#include <cstdlib>
+
+#define WORK "/vorn/tmp/file/"
+
+// The conversation about one switcher; the hub says little, and the test says it.
+struct FileRemote : FileTest {
+    FILEXFERLIST* list = nullptr;
+    void SetUp() override
+    {
+        FileTest::SetUp();
+        CopyText(DEV_Swr[0].id, "SWR000D001");
+        DeviceStructure();
+        for (const char* target : {"SWR1", "SWR2", "CS1", "PNL1"}) {
+            Filescp_trnasferlist_init(target);
+            Hub("Ready", std::string(target) + ".File");
+        }
+        (void)HubSent();
+    }
+    void TearDown() override
+    {
+        File_XferList_RemoveAll(&list);
+        FileTest::TearDown();
+    }
+    void AddGet(const char* name, const char* category = "SETUP", const char* target = "SWR1")
+    {
+        File_XferList_SCPAdd(&list,
+                             (std::string("SWR000D001:" WORK) + category + "/SWR1/" + name).c_str(),
+                             (std::string("MYHOST:/d/") + name).c_str(), category, target);
+    }
+    void AddPut(const char* name, const char* category = "SETUP", const char* target = "SWR1")
+    {
+        File_XferList_SCPAdd(&list, (std::string("MYHOST:/d/") + name).c_str(),
+                             (std::string("SWR000D001:" WORK) + category + "/SWR1/" + name).c_str(),
+                             category, target);
+    }
+    static void Result(const std::string& text, const char* way = "Get",
+                       const char* who = "SETUP.SWR1")
+    {
+        WriteFile(std::string("/var/tmp/FILE/") + who + "." + way + ".result.lst", text);
+    }
+    // The label of the command that fetches the list; it must be the only one that went out.
+    static uint32_t FetchLabel()
+    {
+        const std::string one = SentOne();
+        EXPECT_THAT(one, HasSubstr("result.lst"));
+        return uint32_t(strtoul(one.c_str() + one.find("#L") + 2, nullptr, 10));
+    }
+    static int State(const char* category = "SETUP", int target = 0)
+    {
+        for (const FILETRANS_SCPCATEGORY& c : Scp_TrnasferList[target].category)
+            if (strcmp(c.name, category) == 0)
+                return c.status;
+        return -1;
+    }
+    FILEXFERLIST* At(int n)
+    {
+        FILEXFERLIST* item = list;
+        while (n-- > 0)
+            item = item->next;
+        return item;
+    }
+};
+
+TEST_F(FileRemote, AGetAsksHoldsReadsTheListCopiesAndGivesBack)
+{
+    AddGet("a.SST");
+    AddGet("b.SST");
+    File_TransSCPdirGetList(&list, List, 4);
+    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
+    EXPECT_EQ(check_category_target_status("SETUP", "SWR1", FILE_CATEGORY_STATUS_WAIT_USER), 0);
+    Notify("SETUP.USER_ID:MENU1");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Get"));
+    EXPECT_EQ(check_category_target_status("SETUP", "SWR1", FILE_CATEGORY_STATUS_WAIT_GET), 1);
+    Notify("SETUP.STATUS:Get");
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_RESULT);
+    const Strings fetch = Sent();
+    EXPECT_THAT(fetch, ElementsAre("put File@Remote Access@SCP Dir Get#L4,SWR000D001:" WORK
+                                   "SETUP/SWR1/result.lst,MYHOST:/var/tmp/FILE/"
+                                   "SETUP.SWR1.Get.result.lst,SETUP"));
+    Result("a.SST,ok\r\nb.SST,OK \r\n");
+    Answer(4, "OK");
+    EXPECT_EQ(SentOne(), "Remote Access@SCP Dir Get#L1,SWR000D001:" WORK
+                         "SETUP/SWR1/a.SST,MYHOST:/d/a.SST,SETUP");
+    EXPECT_STREQ(At(1)->mesg, "b.SST: OK ");
+    EXPECT_EQ(At(1)->status, FILESTATUS_NG);
+    Answer(1, "OK");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Standby"));
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_FINISH);
+    EXPECT_THAT(told, IsEmpty());
+    Notify("SETUP.STATUS:Standby");
+    EXPECT_THAT(told, ElementsAre("3 4"));
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_NO);
+    EXPECT_EQ(Scp_TrnasferList[0].status, FILE_SCP_STATUS_NO);
+    EXPECT_EQ(list, nullptr);
+}
+
+TEST_F(FileRemote, APutIsCheckedByTheDeviceAndCountsHalfUntilThen)
+{
+    AddPut("a.SST");
+    AddPut("b.SST");
+    File_TransSCPdirPutList(&list, List, 0);
+    (void)HubSent();
+    Notify("SETUP.USER_ID:MENU1");
+    EXPECT_EQ(Sent().size(), 2u);
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_SCPPUT);
+    Answer(1, "OK");
+    EXPECT_EQ(At(0)->status, FILESTATUS_CHKRESULT);
+    EXPECT_THAT(HubSent(), IsEmpty());
+    Answer(2, "OK");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Put"));
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_PUT);
+    Notify("SETUP.STATUS:Put,elsewhere/x.SST");
+    EXPECT_THAT(Sent(), IsEmpty());
+    Notify("SETUP.STATUS:Put,a.SST");
+    const uint32_t fetch = FetchLabel();
+    Result("nobody\nb.SST,OK\n", "Put");
+    Answer(fetch, "OK");
+    EXPECT_STREQ(At(0)->mesg, "a.SST: NG([ERROR] File Load failed.)");
+    EXPECT_EQ(At(1)->status, FILESTATUS_OK);
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Standby"));
+    Notify("SETUP.STATUS:Standby");
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileRemote, WhatIsNoResultLineIsPassedOver)
+{
+    const std::string longest(1024 - 3, 'x');
+    static const struct {
+        std::string text;
+        int status; // of a.SST
+    } cases[] = {
+        {"a.SST,OK", FILESTATUS_REQ},
+        {"\r\n\r\na.SST,Ok\r\n", FILESTATUS_REQ},
+        {"a.SST,OK\ra.SST,NG\r", FILESTATUS_REQ}, // the first counts
+        {"a.SST OK\n", FILESTATUS_NG},
+        {"", FILESTATUS_NG},
+        {"a.SST,OK,\n", FILESTATUS_NG},
+        {"a.SST,\n", FILESTATUS_NG},
+        {longest + ",OK\na.SST,OK\n", FILESTATUS_REQ},
+        {longest + "x,OK\na.SST,OK\n", FILESTATUS_REQ},         // 1,025 characters
+        {std::string(1017, 'x') + "a.SST,OK\n", FILESTATUS_NG}, // its end is no line
+        {std::string("\0\0,a.SST,OK\na.SST,OK", 20), FILESTATUS_REQ},
+    };
+    for (const auto& c : cases) {
+        AddGet("a.SST");
+        AddGet("keeps the job.SST");
+        File_TransSCPdirGetList(&list, List, 0);
+        Notify("SETUP.USER_ID:MENU1");
+        Notify("SETUP.STATUS:Get");
+        const uint32_t fetch = FetchLabel();
+        Result(c.text + "\nkeeps the job.SST,OK\n");
+        Answer(fetch, "OK");
+        ASSERT_TRUE(list);
+        EXPECT_EQ(list->status, c.status) << c.text.substr(0, 60);
+        (void)Sent();
+        Hub("Disconnect", "SWR1.File");
+        Hub("Ready", "SWR1.File");
+        (void)Sent();
+        (void)HubSent();
+    }
+}
+
+TEST_F(FileRemote, AListThatCannotBeFetchedIsTriedThreeTimesMore)
+{
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    Notify("SETUP.USER_ID:MENU1");
+    Notify("SETUP.STATUS:Get");
+    (void)HubSent();
+    for (int i = 0; i < 4; i++) {
+        const uint32_t fetch = FetchLabel();
+        EXPECT_THAT(HubSent(), IsEmpty());
+        Answer(fetch, "NG(x)");
+    }
+    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_STREQ(list->mesg, "a.SST: NG([ERROR] Result File Error.)");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Standby"));
+    // One that is missing although the fetch went well.
+    Notify("SETUP.STATUS:Standby");
+    std::remove("/var/tmp/FILE/SETUP.SWR1.Get.result.lst");
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    Notify("SETUP.USER_ID:MENU1");
+    Notify("SETUP.STATUS:Get");
+    Answer(FetchLabel(), "OK");
+    EXPECT_STREQ(list->mesg, "a.SST: NG([ERROR] File Not Exist.)");
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_FINISH);
+}
+
+TEST_F(FileRemote, WhatCannotBeginFailsAtOnce)
+{
+    AddGet("a.SST", "SETUP", "PNL2"); // never ready
+    AddGet("b.SST", "NOTHING");
+    AddGet("c.SST", "SETUP", "SWR9");
+    std::string lines;
+    probe::answer = [&](const probe::Seen& s) {
+        if (s.msg == LMSG_FILESTATUS)
+            for (FILEXFERLIST* i = *reinterpret_cast<FILEXFERLIST**>(s.cx); i; i = i->next)
+                lines += std::string(i->mesg) + ";";
+        return 0;
+    };
+    File_TransSCPdirGetList(&list, List, 0);
+    EXPECT_EQ(lines, "a.SST: NG([ERROR] Server Not Ready.);b.SST: NG([ERROR] Internal Error.);"
+                     "c.SST: NG([ERROR] Internal Error.);");
+    EXPECT_EQ(list, nullptr);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+}
+
+TEST_F(FileRemote, AnotherUserIsWaitedFor)
+{
+    Notify("SETUP.USER_ID:PANEL7");
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_NON);
+    EXPECT_THAT(HubSent(), IsEmpty());
+    Notify("SETUP.USER_ID:Non");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
+    Notify("SETUP.USER_ID:PANEL8"); // was quicker
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_NON);
+    Notify("SETUP.USER_ID:Non");
+    Notify("SETUP.USER_ID:MENU1");
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_GET);
+    Notify("SETUP.USER_ID:MENU1"); // no news
+    EXPECT_EQ(HubSent().size(), 2u);
+}
+
+TEST_F(FileRemote, TheOtherDirectionWaitsUntilTheTargetIsFree)
+{
+    FILEXFERLIST* puts = nullptr;
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 1);
+    File_XferList_SCPAdd(&puts, "MYHOST:/d/k.SKM", "SWR000D001:/k.SKM", "KEYMEM", "SWR1");
+    File_XferList_SCPAdd(&puts, "MYHOST:/d/v.SVM", "SWR000D001:/v.SVM", "VPROCMEM", "SWR1");
+    File_TransSCPdirPutList(&puts, List, 2);
+    EXPECT_EQ(HubSent().size(), 1u);
+    Notify("SETUP.USER_ID:MENU1");
+    Notify("SETUP.STATUS:Get");
+    Result("a.SST,NG(none)\n");
+    Answer(FetchLabel(), "OK");
+    Notify("SETUP.STATUS:Standby");
+    EXPECT_EQ(told.size(), 1u);
+    (void)HubSent();
+    Notify("SETUP.USER_ID:Non");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:KEYMEM.USER_ID:MENU1",
+                                       "Request#SWR1.File:VPROCMEM.USER_ID:MENU1"));
+    EXPECT_EQ(Scp_TrnasferList[0].status, FILE_SCP_STATUS_PUT);
+    File_XferList_RemoveAll(&puts);
+}
+
+TEST_F(FileRemote, AllCategoriesOfAJobEndBeforeItDoes)
+{
+    AddGet("a.SST");
+    AddGet("b.SKM", "KEYMEM");
+    File_TransSCPdirGetList(&list, List, 0);
+    for (const char* c : {"SETUP", "KEYMEM"}) {
+        Notify(std::string(c) + ".USER_ID:MENU1");
+        Notify(std::string(c) + ".STATUS:Get");
+        Result(std::string(c) == "SETUP" ? "a.SST,OK" : "b.SKM,OK", "Get",
+               (std::string(c) + ".SWR1").c_str());
+        Answer(FetchLabel(), "OK");
+        (void)Sent();
+    }
+    Answer(1, "OK");
+    Notify("SETUP.STATUS:Standby");
+    EXPECT_THAT(told, IsEmpty());
+    Answer(2, "NG(no)");
+    // The holder goes before the word "Standby" comes: that is an answer, too.
+    Notify("KEYMEM.USER_ID:Non");
+    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(Scp_TrnasferList[0].status, FILE_SCP_STATUS_NO);
+}
+
+TEST_F(FileRemote, ACancelBeforeTheAnswerWaitsForIt)
+{
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    (void)HubSent();
+    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_USER_CANCEL);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(HubSent(), IsEmpty());
+    Notify("SETUP.USER_ID:MENU1");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Standby"));
+    Notify("SETUP.STATUS:Standby");
+    EXPECT_EQ(told.size(), 1u);
+    // Somebody else got it instead.
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Notify("SETUP.USER_ID:PANEL3");
+    EXPECT_EQ(told.size(), 2u);
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_NO);
+    // Waiting behind another user: nothing is owed.
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    EXPECT_EQ(told.size(), 3u);
+}
+
+TEST_F(FileRemote, ACancelInTheMiddleGivesTheCategoryBack)
+{
+    AddPut("a.SST");
+    AddPut("b.SST");
+    File_TransSCPdirPutList(&list, List, 0);
+    Notify("SETUP.USER_ID:MENU1");
+    Ack(1, 71);
+    (void)Sent();
+    (void)HubSent();
+    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    EXPECT_EQ(SentOne(), "Access@Cancel#Lx,71");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Standby"));
+    Status(71, "OK");
+    Answer(2, "OK");
+    EXPECT_EQ(list->status, FILESTATUS_CANCEL) << "a late reply brought it back";
+    Notify("SETUP.STATUS:Put"); // a late answer of the device
+    EXPECT_THAT(told, IsEmpty());
+    Notify("SETUP.STATUS:Standby");
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileRemote, ADisconnectEndsTheJobWhereverItIs)
+{
+    for (int depth = 0; depth < 5; depth++) {
+        AddGet("a.SST");
+        File_TransSCPdirGetList(&list, List, 0);
+        if (depth > 0)
+            Notify("SETUP.USER_ID:MENU1");
+        if (depth > 1)
+            Notify("SETUP.STATUS:Get");
+        if (depth > 2) {
+            Result("a.SST,OK");
+            Answer(FetchLabel(), "OK");
+            (void)Sent();
+            Ack(list->label, 91);
+        }
+        if (depth > 3)
+            Status(91, "OK");
+        told.clear();
+        Hub("Disconnect", "SWR1.File");
+        EXPECT_EQ(told.size(), 1u) << depth;
+        EXPECT_EQ(Sent().size(), depth == 3 || depth == 2 ? 1u : 0u) << depth;
+        EXPECT_EQ(State(), FILE_CATEGORY_STATUS_NO);
+        EXPECT_EQ(Scp_TrnasferList[0].connect, FILE_DISCONNECT);
+        EXPECT_EQ(QueueRoot, nullptr);
+        Hub("Ready", "SWR1.File");
+        (void)HubSent();
+    }
+}
+
+TEST_F(FileRemote, ADisconnectLeavesTheOtherTargetItsWork)
+{
+    AddGet("a.SST");
+    AddGet("p.PST", "SETUP", "PNL1");
+    File_TransSCPdirGetList(&list, List, 0);
+    Hub("Disconnect", "SWR1.File");
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(At(0)->status, FILESTATUS_CANCEL);
+    Notify("SETUP.USER_ID:MENU1", "PNL1.File");
+    EXPECT_EQ(State("SETUP", 4), FILE_CATEGORY_STATUS_WAIT_GET);
+    Hub("Disconnect", "PNL1.File");
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileRemote, ReadyInTheMiddleAsksAgainAndGoesOn)
+{
+    AddPut("a.SST");
+    File_TransSCPdirPutList(&list, List, 0);
+    Notify("SETUP.USER_ID:MENU1");
+    Answer(1, "OK");
+    (void)Sent();
+    (void)HubSent();
+    Hub("Ready", "SWR1.File");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
+    Notify("SETUP.USER_ID:MENU1");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Put"));
+    Notify("SETUP.STATUS:Put");
+    Result("a.SST,OK", "Put");
+    Answer(FetchLabel(), "OK");
+    (void)HubSent();
+    Hub("Ready", "SWR1.File"); // while it is being given back
+    Notify("SETUP.USER_ID:MENU1");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1",
+                                       "Request#SWR1.File:SETUP.STATUS:Standby"));
+    Notify("SETUP.STATUS:Standby");
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileRemote, RubbishFromTheHubChangesNothing)
+{
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    (void)HubSent();
+    for (const char* row : {"", ":", ".", "SETUP", "SETUP.", "SETUP:USER_ID", "SETUP.USER_ID",
+                            "SETUP.USER:MENU1", "NOTHING.USER_ID:MENU1", ".USER_ID:MENU1"})
+        Notify(row);
+    for (const char* table : {"", "SWR1", "SWR3.File", "SWR1.File.File", ".File", "CS.File"})
+        Notify("SETUP.USER_ID:MENU1", table);
+    Hub("Insert", "SWR1.File", "SETUP.USER_ID:MENU1");
+    Notify("SETUP.STATUS:Get");
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_USER);
+    EXPECT_THAT(HubSent(), IsEmpty());
+    Notify("SETUP.USER_ID:" + std::string(500, 'u'));
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_NON);
+}
+
+TEST_F(FileRemote, ALargeResultListIsReadInOnePass)
+{
+    constexpr int N = 2000;
+    std::string text;
+    for (int i = N; i-- > 0;) {
+        const std::string name = "f" + std::to_string(i) + ".SST";
+        AddGet(name.c_str());
+        text += name + (i % 2 ? ",OK\r\n" : ",NG(bad)\r\n");
+    }
+    File_TransSCPdirGetList(&list, List, 0);
+    Notify("SETUP.USER_ID:MENU1");
+    Notify("SETUP.STATUS:Get");
+    Result(text);
+    const uint32_t fetch = FetchLabel();
+    Answer(fetch, "OK");
+    EXPECT_EQ(Sent().size(), size_t(N / 2));
+    EXPECT_EQ(QueueRoot->finished, N / 2);
+}
+
+// --- Frame memory ---
+
+struct FileStore : FileRemote {
+    void SetUp() override
+    {
+        FileRemote::SetUp();
+        for (DEVICE* dev : {&DEV_Swr[0]}) {
+            dev->format_size = 3;
+            dev->format_freq = 6;
+            dev->format_scan = 0;
+        }
+    }
+    static void Store(const std::string& row) { Notify("FRAMEMEM." + row, "CS1.File"); }
+    static void Listed(const char* name, const char* way)
+    {
+        Result(std::string(name) + ",OK\n", way, "FRAMEMEM.CS1");
+        Answer(FetchLabel(), "OK");
+    }
+};
+
+TEST_F(FileStore, PicturesAreGotOneAtATime)
+{
+    for (const char* name : {"A/x", "y", "z"})
+        File_XferList_SCPAdd_FM(&list, (std::string("SWR000D001:/") + name + ".SFH").c_str(),
+                                (std::string("MYHOST:/d/") + name + ".SFH").c_str(), "FRAMEMEM",
+                                "CS1", 0, "", 0, 0);
+    File_TransSCPdirGetList_FM(&list, List, 0);
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.USER_ID::MENU1"));
+    Store("USER_ID::MENU1");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x.SFH"));
+    EXPECT_EQ(list->status, FILESTATUS_GET_START);
+    Store("STATUS::Get,/y.SFH"); // another one's
+    EXPECT_THAT(Sent(), IsEmpty());
+    Store("STATUS::Get,A/x.SFH");
+    Listed("A/x.SFH", "Get");
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Get#L1,SWR000D001:/A/x.SFH"));
+    EXPECT_EQ(At(1)->status, FILESTATUS_WAIT);
+    Answer(1, "OK");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/y.SFH"));
+    Store("STATUS::Get,/y.SFH");
+    Listed("other.SFH", "Get");
+    EXPECT_STREQ(At(1)->mesg, "y.SFH: NG([ERROR] File Not Exist.)");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/z.SFH"));
+    Store("STATUS::Get,/z.SFH");
+    Listed("/z", "Get");
+    (void)Sent();
+    Answer(3, "NG(x)");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Standby"));
+    Store("STATUS::Standby");
+    EXPECT_EQ(told.size(), 1u);
+}
+
+TEST_F(FileStore, AnExportComesAsTheWantedKind)
+{
+    File_XferList_SCPAdd_FM(&list, "SWR000D001:/A/x.SFH", "MYHOST:/mnt/usb/usb1/x.TIF", "FRAMEMEM",
+                            "CS1", 1, "", 0, 0);
+    File_ExecFmExportList2(&list, List, 0);
+    (void)HubSent();
+    Store("USER_ID::MENU1");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x.SFH,TIF"));
+    Store("STATUS::Get,/A/x.SFH");
+    Listed("/A/x.TIF", "Get");
+    EXPECT_EQ(SentOne(), "Remote Access@SCP Dir Get#L1,SWR000D001:" WORK
+                         "FRAMEMEM/CS1/A/x.TIF,MYHOST:/mnt/usb/usb1/x.TIF,FRAMEMEM");
+}
+
+// Folders first, each once in a row; the files one at a time, each checked by the store.
+TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
+{
+    for (const char* name : {"A/x", "A/y", "B/z"})
+        File_XferList_SCPAdd_FM(&list, (std::string("MYHOST:/d/") + name + ".SFH").c_str(),
+                                (std::string("SWR000D001:/") + name + ".SFH").c_str(), "FRAMEMEM",
+                                "CS1", 0, "", 0, 0);
+    File_TransSCPdirPutList_FM(&list, List, 0);
+    Store("USER_ID::MENU1");
+    (void)HubSent();
+    EXPECT_EQ(SentOne(), "Remote Access@Make Dir#L5,SWR000D001:/A,FRAMEMEM");
+    EXPECT_EQ(list->status, FILESTATUS_WAIT_REQ);
+    Answer(5, "OK");
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L1,"));
+    Answer(1, "OK");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Put,/A/x.SFH,4,1"));
+    Store("STATUS::Put,/A/x.SFH");
+    Listed("A/x", "Put");
+    EXPECT_EQ(list->status, FILESTATUS_OK);
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,")) << "the folder is there";
+    Answer(2, "NG(x)");
+    const std::string folder = SentOne();
+    EXPECT_THAT(folder, HasSubstr("Make Dir#L7,SWR000D001:/B,FRAMEMEM"));
+    Answer(7, "NG(x)");
+    EXPECT_STREQ(At(2)->mesg, "z.SFH: NG([ERROR] Make Folder failed.)");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Standby"));
+}
+
+TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)
+{
+    for (int frame = 0; frame < 2; frame++)
+        File_XferList_ImportAdd2(
+            &list, ("MYHOST:/mnt/usb/usb1/c" + std::to_string(frame) + ".TIF").c_str(),
+            ("SWR000D001:/c.SFH/c#00000" + std::to_string(frame) + ".SFH").c_str(), 0, "c", frame,
+            2, frame == 0, "FRAMEMEM", "CS1");
+    File_ExecFmImportList2(&list, List, 0);
+    Store("USER_ID::MENU1");
+    (void)HubSent();
+    EXPECT_EQ(SentOne(), "Remote Access@Make Dir#L4,SWR000D001:/c.SFH,FRAMEMEM");
+    Answer(4, "OK");
+    EXPECT_EQ(SentOne(), "Remote Access@SCP Dir Put#L1,MYHOST:/mnt/usb/usb1/c0.TIF.SUB,"
+                         "SWR000D001:/c.SFH/c#000000.SFH.SUB,FRAMEMEM");
+    EXPECT_EQ(State("FRAMEMEM", 2), FILE_CATEGORY_STATUS_SCPPUT_SUB);
+    Answer(1, "NG(no companion)");
+    EXPECT_EQ(SentOne(), "Remote Access@SCP Dir Put#L1,MYHOST:/mnt/usb/usb1/c0.TIF,"
+                         "SWR000D001:/c.SFH/c#000000.SFH,FRAMEMEM");
+    Answer(1, "OK");
+    EXPECT_THAT(HubSent(),
+                ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Put,/c.SFH/c#000000.SFH,4,2"));
+    Store("STATUS::Put,/c.SFH/c#000000.SFH");
+    Listed("/c.SFH/c#000000.SFH", "Put");
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,")) << "no second folder";
+    DEV_Swr[0].format_size = 9;
+    Answer(2, "OK");
+    EXPECT_STREQ(At(1)->mesg, "c1.TIF: NG([ERROR] Internal Error.)");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Standby"));
+}
+
+TEST_F(FileStore, TheStoreHearsTheFormatOfItsSwitcher)
+{
+    EXPECT_EQ(file_scp_get_systemformat("SWR000D001:"), 4);
+    SYS_Format_Size = 2;
+    SYS_Format_Freq = 5;
+    SYS_Format_Scan = 2;
+    EXPECT_EQ(file_scp_get_systemformat(nullptr), 11);
+    SYS_Format_Size = 4;
+    EXPECT_EQ(file_scp_get_systemformat(nullptr), -1);
+}

@@ -1,0 +1,329 @@
+#include "file_page.h"
+#include <cstdlib>
+
+// What an item sends from its start to its end when every command ends well, without "put File@".
+struct FileSteps : FileTest {
+    FILEXFERLIST* list = nullptr;
+    using Entry = int (*)(FILEXFERLIST**, FILE_LIST_FUNC, int);
+
+    void SetUp() override
+    {
+        FileTest::SetUp();
+        CopyText(DEV_Swr[0].id, "SWR000D001");
+        CopyText(DEV_Swr[0].name, "SWR1");
+        DeviceStructure();
+        ASSERT_TRUE(DEV_MySwr[0]);
+    }
+    void TearDown() override
+    {
+        File_XferList_RemoveAll(&list);
+        FileTest::TearDown();
+    }
+    Strings Run(Entry entry, const char* src, const char* dst)
+    {
+        Strings commands;
+        File_XferList_Add(&list, src, dst);
+        const int job = entry(&list, List, 0);
+        const uint32_t label = uint32_t(job) - 1;
+        for (int i = 0; i < 10 && list; i++) {
+            const std::string one = SentOne();
+            commands.push_back(one);
+            Answer(label, "OK");
+        }
+        EXPECT_EQ(told.size(), 1u);
+        told.clear();
+        for (std::string& c : commands) {
+            const size_t at = c.find("#L");
+            c.replace(at, c.find(',', at) - at, "#");
+        }
+        return commands;
+    }
+    FILEXFERLIST* At(int n)
+    {
+        FILEXFERLIST* item = list;
+        while (n-- > 0)
+            item = item->next;
+        return item;
+    }
+};
+
+TEST_F(FileSteps, AFileTakesTheWayOfItsEnds)
+{
+    SYS_FmemV6 = 0;
+    const Entry transfer = File_ExecTransferList;
+    EXPECT_THAT(Run(transfer, "MYHOST:/a/x.SSS", "SWR000D001:/b/x.SSS"),
+                ElementsAre("Transfer@Transfer#,MYHOST:/a/x.SSS,SWR000D001:/b/x.SSS"));
+    EXPECT_THAT(
+        Run(transfer, "SWR000D001:/b/x.SSS", "MYHOST:/mnt/usb/usb1/d/x.SSS"),
+        ElementsAre("Transfer@Transfer#,SWR000D001:/b/x.SSS,MYHOST:/var/tmp/usb1/d/x.SSS",
+                    "Access@Copy#,MYHOST:/var/tmp/usb1/d/x.SSS,MYHOST:/mnt/usb/usb1/d/x.SSS",
+                    "Access@Remove#,MYHOST:/var/tmp/usb1/d/x.SSS"));
+    EXPECT_THAT(Run(transfer, "MYHOST:/mnt/usb/usb1/x.SSS", "SWR000D001:/b/x.SSS"),
+                ElementsAre("Access@Copy#,MYHOST:/mnt/usb/usb1/x.SSS,MYHOST:/var/tmp/usb1/x.SSS",
+                            "Transfer@Transfer#,MYHOST:/var/tmp/usb1/x.SSS,SWR000D001:/b/x.SSS",
+                            "Access@Remove#,MYHOST:/var/tmp/usb1/x.SSS"));
+    EXPECT_THAT(
+        Run(transfer, "MYHOST:/a/Mx.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
+        ElementsAre("Frame Memory@PutV3#,MYHOST:/a/Mx.FMEM_001.SFM,SWR000D001:FMEM_001.SFM"));
+    EXPECT_THAT(Run(transfer, "SWR000D001:FMEM_001.SFM", "MYHOST:/a/Mx.FMEM_001.SFM"),
+                ElementsAre("Frame Memory@Get#,SWR000D001:FMEM_001.SFM,MYHOST:/a/Mx.FMEM_001.SFM"));
+    EXPECT_THAT(
+        Run(transfer, "MYHOST:/mnt/usb/usb1/M.SFM", "SWR000D001:FMEM_001.SFM"),
+        ElementsAre("Access@Copy#,MYHOST:/mnt/usb/usb1/M.SFM,MYHOST:/var/tmp/usb1/M.SFM",
+                    "Frame Memory@PutV3#,MYHOST:/var/tmp/usb1/M.SFM,SWR000D001:FMEM_001.SFM",
+                    "Access@Remove#,MYHOST:/var/tmp/usb1/M.SFM"));
+}
+
+TEST_F(FileSteps, ThePicturesOfTheNewFrameMemoryArePacked)
+{
+    SYS_FmemV6 = 1;
+    const std::string put = "MYHOST:/var/tmp/FMXfer/SWR000D001FMEM_001.SF2";
+    EXPECT_THAT(Run(File_ExecTransferList, "MYHOST:/a/M.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
+                ElementsAre("Frame Memory@Compress#,MYHOST:/a/M.FMEM_001.SFM," + put,
+                            "Frame Memory@PutV3#," + put + ",SWR000D001:FMEM_001.SF2",
+                            "Access@Remove#," + put));
+    const std::string got = "MYHOST:/var/tmp/FMXfer/SWR000D001FMEX_002.SF4";
+    EXPECT_THAT(Run(File_ExecTransferList, "SWR000D001:FMEX_002.SFA", "MYHOST:/mnt/usb/usb1/M.SFA"),
+                ElementsAre("Frame Memory@Get#,SWR000D001:FMEX_002.SF4," + got,
+                            "Frame Memory@Uncompress#," + got + ",MYHOST:/mnt/usb/usb1/M.SFA",
+                            "Access@Remove#," + got));
+    EXPECT_THAT(Run(File_ExecTransferList_AutoLoad, "MYHOST:/mnt/sys/FMLoad/FM1/M.SFM",
+                    "SWR000D001:FMEM_001.SFM"),
+                ElementsAre("Frame Memory@Compress#,MYHOST:/mnt/sys/FMLoad/FM1/M.SFM," + put,
+                            "Frame Memory@PutV3#," + put + ",SWR000D001:FMEM_001.SF2",
+                            "Access@Remove#," + put));
+}
+
+TEST_F(FileSteps, AStillBecomesAnImageOfTheWantedKind)
+{
+    SYS_FmemV6 = 1;
+    const std::string tmp = "MYHOST:/var/tmp/Mpicture1.FMEM_000.SF2";
+    const std::string plain = "MYHOST:/var/tmp/Mpicture1.FMEM_000.SFM";
+    EXPECT_THAT(
+        Run(File_ExecFmExportList, "SWR000D001:FMEM_001.SFM", "MYHOST:/mnt/usb/usb1/picture12.PNG"),
+        ElementsAre("Frame Memory@Get#,SWR000D001:FMEM_001.SF2," + tmp,
+                    "Frame Memory@Uncompress#," + tmp + "," + plain, "Access@Remove#," + tmp,
+                    "Frame Memory@SFM2PNG#," + plain + ",MYHOST:/mnt/usb/usb1/picture12.PNG",
+                    "Access@Remove#," + plain));
+    SYS_FmemV6 = 0;
+    const std::string old = "MYHOST:/var/tmp/Sa.FMEM_000.SFM";
+    EXPECT_THAT(Run(File_ExecFmExportList, "SWR000D001:FMEM_002.SFM", "MYHOST:/x/a.TGA.SUB"),
+                ElementsAre("Frame Memory@Get#,SWR000D001:FMEM_002.SFM," + old,
+                            "Frame Memory@SFM2TGA#," + old + ",MYHOST:/x/a.TGA.SUB",
+                            "Access@Remove#," + old));
+}
+
+TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
+{
+    GL_DataGokan = 1;
+    DEV_Swr[0].type = DEVTYPE_KTR40;
+    CopyText(DEV_Swr[0].version, "5.42");
+    EXPECT_THAT(Run(File_ExecTransferList, "MYHOST:/mnt/d/x.SSS", "SWR000D001:/b/x.SSS"),
+                ElementsAre("Access@Raw#,MYHOST:/usr/local/sbin/dg_snapshot 5.42 /mnt/d/x.SSS "
+                            "/var/tmp/mnt/d/x.SSS",
+                            "Transfer@Transfer#,MYHOST:/var/tmp/mnt/d/x.SSS,SWR000D001:/b/x.SSS",
+                            "Access@Remove#,MYHOST:/var/tmp/mnt/d/x.SSS"));
+    // What the server's shell could take apart is not said to it.
+    for (const char* name : {"MYHOST:/d/$(x).SSS", "MYHOST:/d/a b.SSS", "MYHOST:/d/a;b.SSS"})
+        EXPECT_THAT(
+            Run(File_ExecTransferList, name, "SWR000D001:/b/x.SSS"),
+            ElementsAre(std::string("Transfer@Transfer#,") + name + ",SWR000D001:/b/x.SSS"));
+    File_XferList_Add(&list, "MYHOST:/d/x.SKF", "SWR000D001:/b/x.SKF");
+    File_ExecTransferList(&list, List, 0);
+    EXPECT_THAT(SentOne(), HasSubstr("dg_keyframe"));
+    Answer(list->label, "NG(version.)");
+    EXPECT_THAT(SentOne(), HasSubstr("Transfer@Transfer#L"));
+    EXPECT_STREQ(list->mesg, "x.SKF: Can't convert file. It is not supported version.");
+    EXPECT_EQ(list->usb, 0);
+    File_XferList_RemoveAll(&list);
+    for (const char* version : {"5.41", "6.00", "5.4"}) {
+        CopyText(DEV_Swr[0].version, version);
+        EXPECT_EQ(Run(File_ExecTransferList, "MYHOST:/d/x.SSS", "SWR000D001:/b/x.SSS").size(), 1u)
+            << version;
+    }
+}
+
+TEST_F(FileSteps, AFailedStepLeavesNoTemporary)
+{
+    File_XferList_Add(&list, "SWR000D001:/b/x.SSS", "MYHOST:/mnt/usb/usb1/x.SSS");
+    File_XferList_Add(&list, "SWR000D001:/b/y.SSS", "MYHOST:/mnt/usb/usb1/y.SSS");
+    File_XferList_Add(&list, "SWR000D001:/b/z.SSS", "MYHOST:/mnt/usb/usb1/z.SSS");
+    File_ExecTransferList(&list, List, 0);
+    (void)Sent();
+    Answer(1, "OK");
+    Answer(2, "OK");
+    (void)Sent();
+    Answer(1, "NG(full)");
+    EXPECT_EQ(SentOne(), "Access@Remove#Lx,MYHOST:/var/tmp/usb1/x.SSS");
+    Answer(2, "Canceled");
+    EXPECT_EQ(SentOne(), "Access@Remove#Lx,MYHOST:/var/tmp/usb1/y.SSS");
+    Answer(3, "NG(full)");
+    EXPECT_THAT(Sent(), IsEmpty()) << "nothing was copied yet";
+    EXPECT_EQ(list, nullptr);
+}
+
+TEST_F(FileSteps, EightPicturesAreUnderWayAndOneOnARamDisk)
+{
+    SYS_FmemV6 = 1;
+    for (int i = 1; i <= 10; i++)
+        File_XferList_Add(&list, ("MYHOST:/a/M" + std::to_string(i) + ".SFM").c_str(),
+                          ("SWR000D001:FMEM_" + std::to_string(100 + i) + ".SFM").c_str());
+    File_ExecTransferList(&list, List, 0);
+    EXPECT_EQ(Sent().size(), 8u);
+    for (uint32_t l = 1; l <= 8; l++)
+        for (int step = 0; step < 3; step++) {
+            EXPECT_EQ(At(8)->status, FILESTATUS_NON);
+            Answer(l, "OK");
+        }
+    EXPECT_EQ(Sent().size(), 16u + 2u) << "two steps of eight, and the last two";
+    File_XferList_RemoveAll(&list);
+    GL_IsRamDisk = 1;
+    for (int i = 1; i <= 3; i++)
+        File_XferList_Add(&list, ("SWR000D001:FMEM_00" + std::to_string(i) + ".SFM").c_str(),
+                          ("MYHOST:/x/a" + std::to_string(i) + ".TIF").c_str());
+    File_ExecFmExportList(&list, List, 0);
+    EXPECT_EQ(Sent().size(), 1u);
+    Answer(list->label, "NG(x)");
+    EXPECT_EQ(Sent().size(), 1u);
+}
+
+TEST_F(FileSteps, TwoFilesNeverShareAStagingPath)
+{
+    SYS_FmemV6 = 1;
+    for (const char* dst : {"MYHOST:/x/longname1.TIF", "MYHOST:/x/longname2.TIF"})
+        File_XferList_Add(&list, "SWR000D001:FMEM_001.SFM", dst);
+    File_ExecFmExportList(&list, List, 0);
+    EXPECT_EQ(Sent().size(), 1u);
+    Answer(1, "NG(x)");
+    EXPECT_EQ(Sent().size(), 1u);
+}
+
+// --- Import ---
+
+struct FileImport : FileSteps {
+    const std::string first = "/var/tmp/XPORT/SWR000D001/Mabcdefgh.FMEM_001.SF2";
+    const std::string second = "/var/tmp/XPORT/SWR000D001/Sabcdefgh.FMEM_002.SF2";
+    void SetUp() override
+    {
+        FileSteps::SetUp();
+        SYS_FmemV6 = 1;
+        DEV_Swr[0].activeline = 4;
+        File_ExecFmImportStartRegNoSet(1);
+        File_ExecFmImportRegNoSet(11, 0);
+        File_ExecFmImportRegNoSet(1234, 1);
+    }
+    void TearDown() override
+    {
+        std::remove(first.c_str());
+        std::remove(second.c_str());
+        FileSteps::TearDown();
+    }
+};
+
+TEST_F(FileImport, BothSidesAreStoredUnderTheirRegistersAndRemoved)
+{
+    WriteFile(first, "x");
+    WriteFile(second, "x");
+    const std::string a = "MYHOST:" + first;
+    const std::string b = "MYHOST:" + second;
+    EXPECT_THAT(Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefghij.tif", "SWR000D001"),
+                ElementsAre("Frame Memory@TIF2SFM with Compress#,"
+                            "MYHOST:/mnt/usb/usb1/abcdefghij.tif," +
+                                a + "," + b + ",3,0,0",
+                            "Frame Memory@PutV3#," + a + ",SWR000D001:FMEM_012.SF2",
+                            "Frame Memory@PutV3#," + b + ",SWR000D001:FMEM1235.SF2",
+                            "Access@Remove#," + a, "Access@Remove#," + b));
+}
+
+TEST_F(FileImport, ASideThatIsMissingIsPassedOver)
+{
+    const std::string b = "MYHOST:" + second;
+    WriteFile(second, "x");
+    Strings steps = Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
+    steps.erase(steps.begin());
+    EXPECT_THAT(steps, ElementsAre("Frame Memory@PutV3#," + b + ",SWR000D001:FMEM_012.SF2",
+                                   "Access@Remove#," + b));
+    std::remove(second.c_str());
+    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
+    int status = 0;
+    probe::answer = [&](const probe::Seen& s) {
+        if (s.msg == LMSG_FILESTATUS)
+            status = (*reinterpret_cast<FILEXFERLIST**>(s.cx))->status;
+        return 0;
+    };
+    const int job = File_ExecFmImportList(&list, List, 0);
+    (void)Sent();
+    Answer(uint32_t(job) - 1, "OK");
+    EXPECT_EQ(status, FILESTATUS_NG);
+    EXPECT_EQ(list, nullptr);
+}
+
+TEST_F(FileImport, AStoreThatFailsTakesBothTemporariesAway)
+{
+    WriteFile(first, "x");
+    WriteFile(second, "x");
+    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.BMP", "SWR000D001");
+    File_ExecFmImportList(&list, List, 0);
+    Answer(1, "OK");
+    EXPECT_STREQ(list->mesg, "abcdefgh.BMP [1/3]");
+    (void)Sent();
+    Answer(1, "NG(full)");
+    EXPECT_THAT(Sent(), ElementsAre("put File@Access@Remove#Lx,MYHOST:" + first,
+                                    "put File@Access@Remove#Lx,MYHOST:" + second));
+}
+
+TEST_F(FileImport, OnlyKnownImagesFromKnownDrivesAreTaken)
+{
+    static const struct {
+        const char* src;
+        const char* dst;
+    } refused[] = {
+        {"MYHOST:/mnt/data/a.TIF", "SWR000D001"},
+        {"MYHOST:/mnt/usb/../data/a.TIF", "SWR000D001"},
+        {"MYHOST:/mnt/usb/usb1/a.TIF", "SWR000D009"},
+        {"MYHOST:/mnt/usb/usb1/a.JPG", "SWR000D001"},
+        {"MYHOST:/mnt/usb/usb1/a.tIF", "SWR000D001"},
+        {"MYHOST:/mnt/sys/FMLoad/FM1/a.TIF", "SWR000D001"},
+    };
+    for (const auto& r : refused)
+        File_XferList_ImportAdd(&list, r.src, r.dst, 0);
+    File_ExecFmImportList(&list, List, 0);
+    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_EQ(list, nullptr) << "nothing is left to wait for";
+    EXPECT_EQ(told.size(), 1u);
+    File_XferList_ImportAdd(&list, "MYHOST:/mnt/sys/FMLoad/FM1/a.TIF", "SWR000D001", 0);
+    File_ExecFmImportList_AutoLoad(&list, List, 0);
+    EXPECT_THAT(SentOne(), HasSubstr("TIF2SFM"));
+}
+
+TEST_F(FileImport, FourAreUnderWayAndOneFollowsEachThatEnds)
+{
+    for (int i = 0; i < 6; i++)
+        File_XferList_Add(&list, ("MYHOST:/var/nfs/user/i" + std::to_string(i) + ".TIF").c_str(),
+                          "SWR000D001");
+    File_ExecFmImportList(&list, List, 0);
+    EXPECT_EQ(Sent().size(), 4u);
+    Answer(1, "NG(x)");
+    EXPECT_THAT(Sent(), IsEmpty()) << "a failure alone makes no room";
+    list->next->usb = 0; // as in its last step
+    Answer(2, "OK");
+    EXPECT_EQ(Sent().size(), 2u);
+}
+
+// --- Lamps and thumbnails ---
+
+TEST_F(FileSteps, ThumbnailsWaitForWhatGoesOverTheDataPort)
+{
+    SYS_FmemV6 = 0;
+    GL_FMDataPortDisable[0] = 1;
+    File_XferList_Add(&list, "MYHOST:/a/x.SFM", "SWR000D001:FMEM_001.SFM");
+    File_ExecTransferList(&list, List, 0);
+    EXPECT_EQ(GL_FMThumbnailGetAfter, 0);
+    Answer(1, "OK");
+    GL_FMDataPortStatus[0] = 1;
+    File_XferList_Add(&list, "MYHOST:/a/x.SFM", "SWR000D001:FMEM_001.SFM");
+    const int job = File_ExecTransferList(&list, List, 0);
+    EXPECT_EQ(GL_FMThumbnailGetAfter, 1);
+    Answer(uint32_t(job) - 1, "OK");
+    EXPECT_EQ(GL_FMThumbnailGetAfter, 0);
+}
