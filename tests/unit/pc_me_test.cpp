@@ -77,7 +77,7 @@ TEST_F(BankOfPage, DefaultRecallFromATabStaysOnItsSide)
 // Two pages that let the same value be set must not disagree about how far it goes: the number that
 // one allows would jump under the hand on the other. Of a bank with a wide
 // picture.
-TEST_F(MeBank, ABanksValueHasTheSameLimitsOnAllItsPages)
+TEST_F(BankOfPage, ABanksValueHasTheSameLimitsOnAllItsPages)
 {
     struct Limits {
         double min, max;
