@@ -1,5 +1,6 @@
 #include "bus.h"
 #include "a_kf.h"
+#include "bin_frame.h"
 #include "command.h"
 #include "file.h"
 #include "fmctrl.h"
@@ -17,7 +18,6 @@
 #include "scrollbar.h"
 #include "text.h"
 #include "window.h"
-#include <algorithm>
 #include <cstring>
 #include <iterator>
 
@@ -29,9 +29,6 @@ constexpr int BIN_FRAMES_A_PASS = 257;
 constexpr int SHP_LINES_A_PASS = 129;
 
 constexpr uint32_t INTERNAL_BITS = 0xF0000000;
-constexpr unsigned char FRAME_REGION_STREAM = 132;
-constexpr int FRAME_HEAD = 7; // length, command, id
-constexpr int FRAME_MARK = 2; // behind the data
 
 static int MsgMask[BUS_OBJECT_TYPES]; // message bits withheld, by object type
 
@@ -228,28 +225,20 @@ static void bus_drain_text()
     }
 }
 
-// The sender counts the payload from a length with its bytes the other way round than the framing
-// does. The count is kept as it is read, but never reaches past the bytes that came.
-static int bus_payload_length(const unsigned char* frame, int length)
-{
-    const int counted = ((frame[1] << 8) | frame[0]) - (FRAME_HEAD + FRAME_MARK);
-    const int came = length - (FRAME_HEAD + FRAME_MARK);
-    return std::max(0, std::min(counted, came));
-}
-
+// The data are what came between head and trailer. The length bytes are not read a second time, the
+// other way round: for many counts of keyframes that number is smaller than the data, and the end
+// of an effect would be lost.
 static void bus_drain_frames()
 {
+    constexpr int NO_DATA = FRAME_HEAD + FRAME_TRAILER;
     for (int i = 0; i < BIN_FRAMES_A_PASS; i++) {
         int length = 0;
         const unsigned char* frame = Net_ReceiveBinCommand(&length);
         if (!frame)
             return;
-        if (length < FRAME_HEAD + FRAME_MARK || frame[2] != FRAME_REGION_STREAM)
-            continue;
-        const uint32_t id = uint32_t(frame[3]) | uint32_t(frame[4]) << 8 |
-                            uint32_t(frame[5]) << 16 | uint32_t(frame[6]) << 24;
-        KF_Proc(MSG_BINTALLY, MsgArg(id), Arg(frame + FRAME_HEAD),
-                bus_payload_length(frame, length), 0);
+        if (length >= NO_DATA && frame[2] == BIN_TALLY)
+            KF_Proc(MSG_BINTALLY, MsgArg(Frame_Id(frame)), Arg(frame + FRAME_HEAD),
+                    length - NO_DATA, 0);
     }
 }
 

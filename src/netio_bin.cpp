@@ -1,33 +1,30 @@
-// The binary link: fixed frames, in both directions. A frame is two bytes of length (the bytes
-// before the trailer), command, id of four bytes low byte first, data, and two trailer bytes 0xFF.
-// The length goes out low byte first and comes in high byte first. That is meant: the server speaks
-// so.
+// The binary link: fixed frames, in both directions. The length of a frame counts the bytes before
+// the trailer, which are two of 0xFF. It goes out low byte first and comes in high byte first. That
+// is meant: the server speaks so.
+#include "bin_frame.h"
 #include "log.h"
 #include "netio_private.h"
 #include <cstring>
 
 #include "safeguards.h"
 
-static constexpr int BIN_HEAD = 7;
-static constexpr int BIN_TRAILER = 2;
-static constexpr int BIN_DATA_MAX = 1024;
 static constexpr int BIN_IN_LENGTH_MAX = 1039;
 
 static int SockFD2 = 0;
+static NetDial bin_dial;
 static NetQueue BinSendCommandQueue;
 static unsigned char BBuf[8192];
 static int BBufPos = 0; // bytes in BBuf
 static unsigned char RBCmd[NET_FRAME_MAX];
 static unsigned char SBCmd[1040];
 
-static_assert(NET_FRAME_MAX == BIN_IN_LENGTH_MAX + BIN_TRAILER);
-static_assert(BIN_HEAD + BIN_DATA_MAX + BIN_TRAILER <= sizeof SBCmd);
+static_assert(NET_FRAME_MAX == BIN_IN_LENGTH_MAX + FRAME_TRAILER);
+static_assert(FRAME_HEAD + FRAME_DATA_MAX + FRAME_TRAILER <= sizeof SBCmd);
 static_assert(sizeof SBCmd <= NET_ITEM_MAX);
 
 static bool bin_connect()
 {
-    SockFD2 = net_connect_inet(NET_BIN_PORT);
-    if (SockFD2 == 0)
+    if (net_connect_inet(&bin_dial, NET_BIN_PORT, &SockFD2) < 1)
         return false;
     net_queue_restart(&BinSendCommandQueue);
     BBufPos = 0; // half a frame of the old connection would put all that follows out of step
@@ -37,8 +34,9 @@ static bool bin_connect()
 void net_bin_init()
 {
     net_close(&SockFD2);
+    net_hang_up(&bin_dial);
     BBufPos = 0;
-    (void)bin_connect(); // retried every pass
+    (void)bin_connect(); // goes on in every pass
 }
 
 // " %02X" for each byte, by hand: frames come many times a second. Only as many as text has room
@@ -61,30 +59,32 @@ static void bin_hex(char* text, int size, const unsigned char* bytes, int length
 
 int Net_SendBinCommand(int command, uint32_t id, const unsigned char* data, int ndata)
 {
-    if (ndata < 0 || ndata > BIN_DATA_MAX)
+    if (ndata < 0 || ndata > FRAME_DATA_MAX)
         return -1;
-    const int length = BIN_HEAD + ndata;
+    const int length = FRAME_HEAD + ndata;
     SBCmd[0] = uint8_t(length);
     SBCmd[1] = uint8_t(length >> 8);
     SBCmd[2] = uint8_t(command);
     for (int i = 0; i < 4; i++)
         SBCmd[3 + i] = uint8_t(id >> (8 * i));
     if (ndata > 0)
-        memcpy(SBCmd + BIN_HEAD, data, size_t(ndata));
+        memcpy(SBCmd + FRAME_HEAD, data, size_t(ndata));
     SBCmd[length] = 0xFF;
     SBCmd[length + 1] = 0xFF;
-    if (!net_queue_append(&BinSendCommandQueue, SBCmd, length + BIN_TRAILER))
+    if (!net_queue_append(&BinSendCommandQueue, SBCmd, length + FRAME_TRAILER))
         Log_Output(LOG_TRACE, MOD_LINK, "Net_SendBinCommand:alloc error !\n");
     return 0;
 }
 
-// 1 when the first frame is gone, 0 when a rest of it stays, -1 on failure.
+// 1 when the first frame is gone, 0 when it or a rest of it stays, -1 on failure.
 static int bin_send_first()
 {
     const ClientSendQueue_t& item = *BinSendCommandQueue.first;
+    const int sent = net_send(SockFD2, item);
+    if (sent == NET_NO_ROOM)
+        return 0;
     char hex[4096];
     bin_hex(hex, sizeof hex, item.data_array, item.length, true);
-    const int sent = net_send(SockFD2, item);
     Log_Output(LOG_TRACE, MOD_LINK, ">%s", hex);
     if (sent < 1) {
         Log_Output(LOG_LINK, MOD_LINK, "send_client_command: ERROR on send() returns [%d].", sent);
@@ -127,7 +127,7 @@ int net_take_frame(unsigned char* buf, int* fill, unsigned char* frame)
         *fill = 0;
         return -1;
     }
-    const int size = length + BIN_TRAILER;
+    const int size = length + FRAME_TRAILER;
     if (size > *fill)
         return 0;
     memcpy(frame, buf, size_t(size));

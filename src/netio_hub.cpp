@@ -16,11 +16,11 @@
 #include "safeguards.h"
 
 static constexpr int HUB_PACE_MS = 100;
-// Attempts that are left out after one that failed: about a minute of passes. Connecting blocks,
-// and a hub that is not there must not stall the screen.
+// Calls without an attempt after one that failed: about a minute of passes.
 static constexpr int HUB_BACK_OFF = 6000;
 
 static int SockFD_SHP = 0;
+static NetDial hub_dial;
 static NetQueue SHPSendCommandQueue;
 static char RBuf_SHP[1024]; // always terminated
 static char RCmd_SHP[4096];
@@ -45,13 +45,14 @@ static bool hub_connect()
         hub_back_off--;
         return false;
     }
-    Log_Output(LOG_TRACE, MOD_LINK, "create_inet_connection_shp(%s:%d)", SYS_StatusHubAddress,
-               SYS_StatusHubPort);
-    SockFD_SHP = net_open(SYS_StatusHubAddress, SYS_StatusHubPort);
-    if (SockFD_SHP == 0) {
+    if (net_may_begin(hub_dial))
+        Log_Output(LOG_TRACE, MOD_LINK, "create_inet_connection_shp(%s:%d)", SYS_StatusHubAddress,
+                   SYS_StatusHubPort);
+    const int state = net_dial(&hub_dial, SYS_StatusHubAddress, SYS_StatusHubPort, &SockFD_SHP);
+    if (state == NET_FAILED)
         hub_back_off = HUB_BACK_OFF;
+    if (state < 1)
         return false;
-    }
     GL_NetReConnect_SHP = 1;
     net_queue_restart(&SHPSendCommandQueue);
     net_drop_open_line(RBuf_SHP, net_is_hub_end);
@@ -61,6 +62,7 @@ static bool hub_connect()
 void net_hub_init()
 {
     net_close(&SockFD_SHP);
+    net_hang_up(&hub_dial);
     RBuf_SHP[0] = '\0';
     hub_back_off = 0;
     hub_pace_ms = 0;
@@ -133,6 +135,8 @@ static int hub_send_first()
     const ClientSendQueue_t& item = *SHPSendCommandQueue.first;
     const int sent = net_send(SockFD_SHP, item);
     const int error = errno;
+    if (sent == NET_NO_ROOM)
+        return 0;
     net_log_sent(item);
     if (sent < 1) {
         Log_Output(LOG_LINK, MOD_LINK, "send_shp_command: ERROR on send() returns [%d] err=%d.",

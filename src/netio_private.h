@@ -6,18 +6,38 @@
 constexpr int NET_ITEM_MAX = 1040; // bytes of the largest item of any link
 constexpr int NET_LINE_MAX = 1024; // characters of a received line with its terminator
 
+constexpr int NET_FD_MAX = 1024; // no descriptor of this process is above
+
+// --- Connecting: begun without waiting, then looked at once a call ---
+// One connection in the making, and what is known of its host.
+struct NetDial {
+    int fd = 0;                    // the socket that connects, 0 while none does
+    uint32_t begun = 0;            // SDL_GetTicks of the attempt, or of the last one
+    bool is_paused = false;        // its name did not resolve; the next attempt waits
+    char name[64] = "";            // the host that address belongs to or is looked up for
+    uint32_t address = UINT32_MAX; // in network order; all ones: not known
+    uint32_t found = 0;            // SDL_GetTicks of the answer of a look-up
+    int lookup_pid = 0;            // the child that looks the name up, 0 none
+    int lookup_fd = -1;            // its answer
+};
+enum : int { NET_PENDING = 0, NET_FAILED = -1 };
+// Begin a connection, or look at the one that is being made. 1 with the socket in *fd, which does
+// not block; NET_PENDING; NET_FAILED with a log line (without one when the name does not resolve).
+int net_dial(NetDial* dial, const char* host, int port, int* fd);
+bool net_may_begin(const NetDial& dial); // the next net_dial begins an attempt
+void net_hang_up(NetDial* dial);         // as if nothing had been begun
+// net_dial to the control server, with its log line for each attempt and GL_NetReConnect.
+int net_connect_inet(NetDial* dial, int port, int* fd);
+
 // --- Sockets: a descriptor of 0 is a link that is down ---
-// Connect, blocking for as long as the kernel likes. Returns the socket, or 0 with a log line
-// (without one when the host name does not resolve).
-int net_open(const char* address, int port);
-int net_connect_inet(int port); // to the control server
 void net_close(int* fd);
 // Read what has arrived, without waiting. Returns the bytes read. 0 when there is nothing, or when
 // the link was lost: then the socket is closed and *fd 0.
 int net_read(int* fd, void* buf, int room);
-// Write as much of an item as the kernel takes at once. Returns the bytes taken, below 1 on
-// failure.
+// Write as much of an item as the kernel takes at once. Returns the bytes taken, NET_NO_ROOM when
+// the peer is behind with its reading, below that on failure.
 int net_send(int fd, const ClientSendQueue_t& item);
+constexpr int NET_NO_ROOM = 0;
 
 // --- Send queue ---
 struct NetQueue {
