@@ -183,7 +183,7 @@ int SelfDiag_AddLog(const char* dev, const char* format, ...)
     const char* message = Log_Format(format, ap);
     va_end(ap);
 
-    char stamp[32], head[64];
+    char stamp[32], head[PATH_SIZE];
     log_stamp(stamp);
     PrintText(head, "[%s] [%s]", stamp, dev);
     return log_append(MAINTENANCE_LOG, head, message);

@@ -28,6 +28,7 @@
 #include "version.h"
 #include "xsyslog.h"
 #include <SDL.h>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -45,7 +46,9 @@ static void sig_chld(int)
 {
     if (cpid == 0)
         return;
+    const int interrupted = errno; // it belongs to whoever was at work
     waitpid(cpid, nullptr, WNOHANG);
+    errno = interrupted;
     cpid = 0;
 }
 

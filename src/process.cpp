@@ -4,6 +4,7 @@
 #include "text.h"
 #include "types.h"
 #include <SDL.h>
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <csignal>
@@ -23,6 +24,7 @@ namespace
 constexpr int WORDS_MAX = 64;
 constexpr size_t COMMAND_MAX = 4096;
 constexpr long OPEN_MAX_GUESS = 256; // where the system sets no limit
+constexpr long POPEN_MAX = 1024;     // where it allows a million
 
 // What ktr_system takes away from the process while its child runs.
 struct Signals {
@@ -140,7 +142,7 @@ int ktr_exec(const char* cmd)
 static long open_max()
 {
     const long n = sysconf(_SC_OPEN_MAX);
-    return n > 0 ? n : OPEN_MAX_GUESS;
+    return n > 0 ? std::min(n, POPEN_MAX) : OPEN_MAX_GUESS;
 }
 
 static bool popen_table()
@@ -153,7 +155,7 @@ static bool popen_table()
 }
 
 // The child's end of the pipe becomes its standard input or output. Other streams close by
-// themselves: all pipes here are close-on-exec.
+// themselves: pipes, sockets and the panel are close-on-exec.
 [[noreturn]] static void popen_run(const char* cmd, int end, int standard)
 {
     if (end == standard)

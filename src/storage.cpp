@@ -18,55 +18,21 @@
 namespace
 {
 constexpr int USB_STICKS = 9; // /mnt/usb/usb0 to usb8
-constexpr int DF_FREE_COLUMN = 3;
 } // namespace
-
-// The column of a text cut at blanks, from 0; null when there are fewer.
-static const char* storage_column(const char* line, int column)
-{
-    const char* p = line;
-    for (;; column--) {
-        p += strspn(p, " \t");
-        if (*p == '\0')
-            return nullptr;
-        if (column == 0)
-            return p;
-        p += strcspn(p, " \t");
-    }
-}
 
 static int storage_kb(unsigned long long kb)
 {
     return kb > INT_MAX ? INT_MAX : int(kb);
 }
 
-// The free KB in what df wrote: a head line, then the figures.
-static int storage_read_df(const char* file)
-{
-    char line[256];
-    FILE* fp = fopen(file, "r");
-    if (!fp)
-        return -1;
-    const bool has_figures = fgets(line, sizeof line, fp) && fgets(line, sizeof line, fp);
-    fclose(fp);
-    const char* figure = has_figures ? storage_column(line, DF_FREE_COLUMN) : nullptr;
-    if (!figure || !isdigit(uint8_t(*figure)))
-        return -1;
-    return storage_kb(strtoull(figure, nullptr, 10));
-}
-
+// Asked of the kernel, as df does: a directory that was named on a PC would not survive a shell.
 int GetDiskFree(const char* dir)
 {
-    char cmd[CMD_SIZE];
-    int free_kb = -1;
-    if (IsShellSafe(dir)) {
-        PrintText(cmd, "/bin/df --block-size=1024 \"%s\"", dir);
-        if (ktr_system_and_redirect(cmd, GL_TempFile) == 0)
-            free_kb = storage_read_df(GL_TempFile);
-    }
-    if (free_kb < 0)
-        Log_Output(LOG_LINK, MOD_GLOBAL, "GetDiskSize(%s) --> ret = %d [KB]", dir ? dir : "", -1);
-    return free_kb;
+    struct statvfs fs;
+    if (dir && statvfs(dir, &fs) == 0)
+        return storage_kb(1ull * fs.f_bavail * fs.f_frsize / 1024);
+    Log_Output(LOG_LINK, MOD_GLOBAL, "GetDiskSize(%s) --> ret = %d [KB]", dir ? dir : "", -1);
+    return -1;
 }
 
 // --- NFS ---
