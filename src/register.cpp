@@ -57,13 +57,15 @@ static void register_set(REGISTER& r, const RegisterHeadline& headline, const ch
     r.tally = GDL_StrDup(line);
 }
 
-// A line says all that is kept of a register, so an equal line changes nothing.
+// A line says all that is kept of a register, so an equal one changes nothing. It is told all the
+// same: the page that has asked for it waits for the answer.
 void register_keep(const RegisterPlace& place, const RegisterHeadline& headline, const char* line)
 {
     REGISTER* r = register_at(place);
-    if (!r || (r->tally && Same(r->tally, line)))
+    if (!r)
         return;
-    register_set(*r, headline, line);
+    if (!r->tally || !Same(r->tally, line))
+        register_set(*r, headline, line);
     register_tell(place.kind, place.row, place.index, 0);
 }
 

@@ -41,12 +41,6 @@ static CLIP_EVENT_DT clip_read(const RegisterLine& line)
     return clip;
 }
 
-static bool clip_is_same(const CLIP_EVENT_DT& a, const CLIP_EVENT_DT& b)
-{
-    return a.event == b.event && a.autoplay == b.autoplay && a.loop == b.loop &&
-           a.start_tc == b.start_tc && a.stop_tc == b.stop_tc && Same(a.name, b.name);
-}
-
 // A user that the table does not have counts as the first, too.
 int clipevnt_tly(const RegisterList& list, int user, const char* value)
 {
@@ -58,11 +52,7 @@ int clipevnt_tly(const RegisterList& list, int user, const char* value)
         return -1;
     const int region = std::max(user, 0);
     const int sub_region = clip_sub_region(line.v[CLIP_SUB_REGION]);
-    CLIP_EVENT_DT& kept = SSClipEvent[region][sub_region][number - 1];
-    const CLIP_EVENT_DT clip = clip_read(line);
-    if (clip_is_same(clip, kept))
-        return 0;
-    kept = clip;
+    SSClipEvent[region][sub_region][number - 1] = clip_read(line);
     register_tell(REGISTER_CLIP_EVENT, region, sub_region, number - 1);
     return 0;
 }

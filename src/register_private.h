@@ -55,7 +55,7 @@ struct RegisterHeadline {
 };
 
 // --- register ---
-// Keep a headline and the whole line that it came from; the same line again is nothing new.
+// Keep a headline and the whole line that it came from, and tell.
 void register_keep(const RegisterPlace& place, const RegisterHeadline& headline, const char* line);
 void register_tell(int kind, int row, int index, int extra);
 
