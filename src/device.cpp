@@ -77,7 +77,6 @@ const UnitClass* const classes[] = {&pnl_class, &swr_class, &dme_class, &mpe_cla
 static struct {
     DEVTYPE dme_type[DEVICE_MAX] = {}; // by row of DEV_Dme
     int mp2 = 0;                       // the multi-program entries are subscribed
-    uint32_t mp2_pass = 0;             // GL_MainCounter at that time
     int small_pictures = 0;            // the small model's wipe pictures are loaded; they stay
 } seen;
 
@@ -260,19 +259,21 @@ static void structure_frame_memory()
     Log_Output(LOG_DETAIL, MOD_GLOBAL, "New Frame Memory Mode = %s", v6 ? "V6" : "V5");
 }
 
-// The subscriptions are sent when the state comes on, and once more after a restart of the pass
-// counter: then the server has announced itself anew and forgotten them. Not at every call, of
-// which a change of menu causes a dozen.
+// The subscriptions are sent when the state comes on and when they have been forgotten, not at
+// every call, of which a change of menu causes a dozen.
 static void subscribe_multi_program()
 {
     const int mp2 =
         std::any_of(multiprogram2_me, multiprogram2_me + ME_COUNT, [](int on) { return on != 0; });
-    const bool is_forgotten = GL_MainCounter < seen.mp2_pass;
-    const bool is_due = mp2 && (!seen.mp2 || is_forgotten);
+    const bool is_due = mp2 && !seen.mp2;
     seen.mp2 = mp2;
-    seen.mp2_pass = GL_MainCounter;
     if (is_due)
         InitialCommand_MP2();
+}
+
+void Device_ForgetMultiProgram()
+{
+    seen.mp2 = 0;
 }
 
 static void load_small_pictures()
@@ -461,6 +462,17 @@ int isDualProc_DualLink()
 int isDualProc_DualLink_DME()
 {
     return SYS_DualProc != 0 && is_1080p_of_two_links(DEV_MyDme[0]) && !is1080P_ZRD52_DME();
+}
+
+int isSingleProc_DualLink()
+{
+    return SYS_DualProc == 0 && is_1080p_of_two_links(DEV_MySwr[0]) && !is1080P_3G();
+}
+
+int isSingleProc_DualLink_DME()
+{
+    return SYS_DualProc == 0 && is_1080p_of_two_links(DEV_MyDme[0]) && !is1080P_3G_DME() &&
+           !is1080P_ZRD52_DME();
 }
 
 int is1080P_3G()

@@ -138,6 +138,9 @@ void Device_Init();
 // to this panel: nothing assigns them. Without an own unit of a class its reference type is
 // DEVTYPE_UNKNOWN; a setup target that does not exist means the first switcher.
 void DeviceStructure();
+// The subscriptions of the sub sides are gone: the next DeviceStructure makes them anew if some
+// bank runs multi program 2.
+void Device_ForgetMultiProgram();
 // Ask the server for the models. The answers complete DEVICE.type.
 void Get_DeviceType();
 // Take an answer to Get_DeviceType or a report of fitted boards. 1 when the path was one of these
@@ -158,9 +161,12 @@ DEVICE* Device_Table(const char* name, int** max);
 // --- Questions: 1 or 0 unless said otherwise ---
 // Every one has an answer for units that are not known yet. "1080p" is 1080p of 50 or 59.94 Hz,
 // which one HD link cannot carry; "first" is the first unit of this panel.
-int is4KFormat();                    // the 4K mode is on or the switcher's picture is 3840 x 2160
-int isDualProc_DualLink();           // two processors share the first switcher's 1080p
-int isDualProc_DualLink_DME();       // the same for the effects units; a ZRD52 needs no partner
+int is4KFormat();              // the 4K mode is on or the switcher's picture is 3840 x 2160
+int isDualProc_DualLink();     // two processors share the first switcher's 1080p
+int isDualProc_DualLink_DME(); // the same for the effects units; a ZRD52 needs no partner
+// The same with one processor, which then lacks half of its banks or channels.
+int isSingleProc_DualLink();
+int isSingleProc_DualLink_DME();
 int is1080P_3G();                    // one processor of a KTR40G or later carries 1080p on one link
 int is1080P_3G_DME();                // there the first effects unit runs 1080p, too
 int is1080P_ZRD52_DME();             // the first effects unit is a ZRD52 and runs 1080p

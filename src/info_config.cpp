@@ -51,6 +51,7 @@ void info_me_config(const char* word, const char* value)
     if (multiprogram2_me[me] == multi)
         return;
     multiprogram2_me[me] = multi;
+    DeviceStructure(); // the sub sides come with it
     const auto* end = std::end(pages_not_reloaded);
     if (std::find(std::begin(pages_not_reloaded), end, GL_NowPage) == end)
         tally_reload_page();

@@ -1,5 +1,7 @@
 #include "initread.h"
 #include "a_kf.h"
+#include "bin_frame.h"
+#include "bus_tally.h"
 #include "device.h"
 #include "file.h"
 #include "global.h"
@@ -101,12 +103,13 @@ static const char* own_panel_name()
     return SYS_MyPnl >= 0 && SYS_MyPnl < UNIT_MAX ? SYS_PnlName[SYS_MyPnl] : "--";
 }
 
-// The path of the row with item in it, and the one of the second head behind it.
+// The path of the row with item in it, and those of its further heads behind it.
 static void send_item(const char* verb, const SubscribeRow& row, const char* item)
 {
     Net_SendCommandFormat("%s %s%s%s", verb, row.head, item, row.tail);
-    if (row.also)
-        Net_SendCommandFormat("%s %s%s%s", verb, row.also, item, row.tail);
+    for (const char* head : row.also)
+        if (head)
+            Net_SendCommandFormat("%s %s%s%s", verb, head, item, row.tail);
 }
 
 static void send_row(const char* verb, const SubscribeRow& row)
@@ -164,12 +167,7 @@ void DeathCommand0()
 
 // --- Stage 1 ---
 
-constexpr int BIN_SUBSCRIBE = 1;
-constexpr int BIN_UNSUBSCRIBE = 2;
-constexpr int BIN_SETUP = 4;
-constexpr uint32_t BIN_REGION_GROUP = 0x008200AA;
-constexpr uint32_t BIN_REGION_GROUP_END = 0x008100AA;
-static constexpr uint32_t region_streams[] = {0x000200AA, 0x001000AA, 0x001100AA};
+static constexpr uint32_t region_streams[] = {STREAM_SELECTION, STREAM_STATUS, STREAM_DATA};
 constexpr int KEYS = 8;
 
 static void send_region_streams(int command)
@@ -181,8 +179,8 @@ static void send_region_streams(int command)
 static void send_region_group(unsigned char letter)
 {
     const unsigned char begin[] = {1, letter, 1, 0};
-    Net_SendBinCommand(BIN_SETUP, BIN_REGION_GROUP, begin, sizeof begin);
-    Net_SendBinCommand(BIN_SETUP, BIN_REGION_GROUP_END, &letter, 1);
+    Net_SendBinCommand(BIN_SETUP, STREAM_JOIN, begin, sizeof begin);
+    Net_SendBinCommand(BIN_SETUP, STREAM_JOINED, &letter, 1);
 }
 
 static void send_key_rotations(const char* verb)
@@ -192,6 +190,9 @@ static void send_key_rotations(const char* verb)
             Net_SendCommandFormat("%s %s%d@Processed Key@Rotation", verb, *bank, key);
 }
 
+// Of what this list brings, the tallies of the units' formats let the sub sides be subscribed anew
+// where there are any. The page that is up is opened once more: the server has forgotten what it
+// follows, and what it shows may be from before.
 void InitialCommand1()
 {
     Log_Output(LOG_LIFE, MOD_GLOBAL, "InitialCommand1() Called.");
@@ -204,6 +205,9 @@ void InitialCommand1()
     Register_InitCommand();
     send_key_rotations("add");
     SYS_ConfigChange = 0;
+    Device_ForgetMultiProgram();
+    if (IsUserPages(GL_NowPage)) // others are in the middle of something
+        tally_reload_page();
 }
 
 void DeathCommand1()

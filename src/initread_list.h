@@ -5,7 +5,7 @@
 enum class Verb { Add, Read, Put, Wait, AddOwnPanel };
 
 // One path, or one for each word or number that stands between head and tail. With also, each is
-// followed by the same with that head.
+// followed by the same with those heads.
 struct SubscribeRow {
     Verb verb = Verb::Add;
     const char* head = "";
@@ -13,20 +13,21 @@ struct SubscribeRow {
     const char* const* words = nullptr; // ended by null
     int from = 0;
     int to = -1; // below from: no numbers
-    const char* also = nullptr;
+    const char* also[2] = {};
 };
 
 constexpr SubscribeRow Add(const char* path)
 {
     return {.head = path};
 }
-constexpr SubscribeRow AddEach(const char* head, const char* const* words)
+constexpr SubscribeRow AddEach(const char* head, const char* const* words,
+                               const char* also = nullptr, const char* also_2 = nullptr)
 {
-    return {.head = head, .words = words};
+    return {.head = head, .words = words, .also = {also, also_2}};
 }
 constexpr SubscribeRow AddNumbers(const char* head, int from, int to, const char* also = nullptr)
 {
-    return {.head = head, .from = from, .to = to, .also = also};
+    return {.head = head, .from = from, .to = to, .also = {also}};
 }
 constexpr SubscribeRow Read(const char* path)
 {
@@ -50,19 +51,19 @@ constexpr const char* words_video_format[] = {"PNL1", "PNL2", "PNL3", "PNL4", "S
                                               "MPE1", "MPE2", "MPE3", "MPE4", nullptr};
 constexpr const char* words_reference[] = {"SWR1", "SWR2", "DME1", "DME2", "DME3", "DME4",
                                            "PNL1", "PNL2", "PNL3", "PNL4", nullptr};
-constexpr const char* words_operation[] = {"SRAM Map KeyCode",
-                                           "Screen Saver",
-                                           "Touch Buzz",
-                                           "Import Path",
-                                           "Timeline Display Priority",
-                                           "Error Status",
-                                           "Timeline Region Display",
-                                           "Timeline Region Priority",
-                                           "Initial Menu Set",
-                                           "V/K Pair Assign",
-                                           nullptr};
-constexpr const char* words_mouse[] = {"Usb Auto Scan", "Mouse Wheel Direction",
-                                       "Mouse Slider Control", "Reg Name Display", nullptr};
+constexpr const char* words_setup_data[] = {"SRAM Map KeyCode",
+                                            "Screen Saver",
+                                            "Touch Buzz",
+                                            "Import Path",
+                                            "Timeline Display Priority",
+                                            "Error Status",
+                                            "Timeline Region Display",
+                                            "Timeline Region Priority",
+                                            "Initial Menu Set",
+                                            "V/K Pair Assign",
+                                            nullptr};
+constexpr const char* words_setup_data_end[] = {
+    "Usb Auto Scan", "Mouse Wheel Direction", "Mouse Slider Control", "Reg Name Display", nullptr};
 constexpr const char* words_system[] = {
     "File Auto Convert", "NFS Enable",     "NFS Server",          "NFS Mount Point",
     "NFS Mount Option",  "File Load Lock", "Panel Operation Log", nullptr};
@@ -112,12 +113,12 @@ constexpr SubscribeRow initial_1[] = {
     AddNumbers("Info@Processor Status@", 1, 6),
     Put("Info@Menu Macro@Report#true"),
     Put(OPERATION "SRAM Map KeyCode#true"),
-    AddEach(OPERATION, words_operation),
+    AddEach(OPERATION, words_setup_data),
     AddNumbers(OPERATION "Color Select@", 1, 12),
     Add(OPERATION "Unnecessary Thumbnail"),
     AddEach("Info@System Setup Data@FM Data Port Disable@", words_switchers),
     AddNumbers(OPERATION "Group Name@", 1, 10, OPERATION "Shortcut Name@"),
-    AddEach(OPERATION, words_mouse),
+    AddEach(OPERATION, words_setup_data_end),
     Add("Info@DME@RefCH"),
     Add("Info@DME@SelCH"),
     AddEach("Info@System Setup Data@", words_system),
@@ -181,9 +182,7 @@ constexpr SubscribeRow initial_1[] = {
     AddEach("Frame Mem@Edit@Freeze@Freeze@Field@", words_procs),
     AddEach("Frame Mem 2@Clip/Still@Pair@", words_fm_pairs),
     Add("Frame Mem 2@Clip/Still@Out Pair Select"),
-    AddEach(FLEXI_PAD "Assign@", words_flexi_pad),
-    AddEach(FLEXI_PAD "Page Name@", words_flexi_pad),
-    AddEach(FLEXI_PAD "Page Jump@", words_flexi_pad),
+    AddEach(FLEXI_PAD "Assign@", words_flexi_pad, FLEXI_PAD "Page Name@", FLEXI_PAD "Page Jump@"),
     Add("Macro@Attachment@All Clear"),
 };
 

@@ -67,6 +67,28 @@ TEST_F(InitialReadTest, ASecondTimedProgressTakesThePlaceOfTheFirst)
     EXPECT_EQ(Pane_Exist(GL_InitProgress_PaneID), 1);
 }
 
+TEST_F(InitialReadTest, APaneStandsWhileSomeUnitReads)
+{
+    static const struct {
+        uint32_t page;
+        int disabled;
+        bool opens;
+    } cases[] = {{0x11110000, 0, true}, {0x11110000, 1, false}, {0x99990000, 0, false}};
+    constexpr char status[] = "Info@Initial Read Status";
+    for (const auto& c : cases) {
+        GL_NowPage = c.page;
+        GL_InitialReadPopupDisable = c.disabled;
+        Deliver(status, "3,start");
+        EXPECT_EQ(Pane_GetActiveID() != 0, c.opens) << std::hex << c.page;
+        Deliver(status, "4,progress");
+        Deliver(status, "3,end");
+        EXPECT_EQ(Pane_GetActiveID() != 0, c.opens) << "one unit still reads";
+        Deliver(status, "4,end");
+        EXPECT_EQ(Pane_GetActiveID(), 0);
+    }
+    GL_InitialReadPopupDisable = 0;
+}
+
 TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
 {
     SYS_ConfigChange = 1;
@@ -86,6 +108,65 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
     ASSERT_NE(group, sent.end());
     EXPECT_EQ(*(group + 1), "add Info@Operation Setup Data@Shortcut Name@10");
     EXPECT_EQ(std::set<std::string>(sent.begin(), sent.end()).size(), sent.size()) << "sent twice";
+}
+
+TEST_F(InitialReadTest, TheLinesOfAFlexiPadBusStandTogether)
+{
+    InitialCommand1();
+    const Strings sent = TakeQueuedCommands();
+    const std::string path = "Engineering Setup@Panel@Operation@Xpt Module Operation@"
+                             "Flexi Pad Button@";
+    const auto at = std::find(sent.begin(), sent.end(), "add " + path + "Assign@P/P");
+    ASSERT_NE(at, sent.end());
+    EXPECT_EQ(Strings(at, at + 4),
+              Strings({"add " + path + "Assign@P/P", "add " + path + "Page Name@P/P",
+                       "add " + path + "Page Jump@P/P", "add " + path + "Assign@M/E-1"}));
+    EXPECT_THAT(sent, Contains("add " + path + "Page Jump@2nd AUX"));
+}
+
+// The server has forgotten what the page follows.
+TEST_F(InitialReadTest, ThePageThatIsUpIsOpenedAnewAfterTheSecondStage)
+{
+    static const struct {
+        uint32_t page, asked, then;
+    } cases[] = {
+        {0x11110000, 0, 0x11110000},
+        {0x11110000, 0x31110000, 0x31110000}, // another request stands
+        {0x71420003, 0, 0},                   // the macro editor is in the middle of something
+    };
+    for (const auto& c : cases) {
+        GL_NowPage = c.page;
+        GL_CreatePage = c.asked;
+        InitialCommand1();
+        EXPECT_EQ(GL_CreatePage, c.then) << std::hex << c.page;
+    }
+    GL_CreatePage = 0;
+}
+
+// A sub side's streams mean nothing to a server that has not been asked for the streams themselves.
+TEST_F(InitialReadTest, SubSidesAreSubscribedOnceAndAgainBehindTheSecondStage)
+{
+    const auto subs = [] {
+        const Strings sent = TakeQueuedCommands();
+        return std::count(sent.begin(), sent.end(), "add Effect@Effect@Attribute@List@M/E-1 Sub");
+    };
+    DeviceStructure(); // no bank has a sub side
+    (void)TakeQueuedCommands();
+    constexpr char config[] = "Engineering Setup@Switcher@Config@M/E Config@M/E-1";
+    Deliver(config, "Multi Program 2");
+    EXPECT_EQ(subs(), 1) << "at once";
+    DeviceStructure();
+    EXPECT_EQ(subs(), 0);
+    Deliver("Info@Initial Read Status", "0,end");
+    DeviceStructure();
+    EXPECT_EQ(subs(), 0) << "not yet";
+    DeathCommand1(); // the lists go with it
+    InitialCommand1();
+    EXPECT_EQ(subs(), 0);
+    DeviceStructure();
+    EXPECT_EQ(subs(), 1);
+    Deliver(config, "Standard");
+    EXPECT_EQ(subs(), 0);
 }
 
 // What a stage adds, its opposite removes; what it only asked once or set leaves nothing behind.
