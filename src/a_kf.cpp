@@ -1,5 +1,6 @@
 #include "a_kf.h"
 #include "a_kf_private.h"
+#include "bin_frame.h"
 #include "command.h"
 #include "global.h"
 #include "me_bank.h"
@@ -16,10 +17,6 @@
 namespace
 {
 constexpr int ASSIGNABLE = 52; // regions behind these are places for later ones
-constexpr int DME_FIRST = 14;
-constexpr int DME_LAST = 21;
-constexpr int DME_TO_GLOBAL = 8; // from a channel to its global twin
-
 constexpr int TEN_KEYS = 23;
 constexpr int REGIONS_A_KEY = 4;
 
@@ -57,10 +54,6 @@ constexpr bool RegionsFollowBanks()
 static_assert(RegionsFollowBanks());
 constexpr RegionRow free_row = {"", 240};
 constexpr RegionRow end_row = {"", 254}; // of EMPTY_ROW
-
-constexpr int BIN_STREAM = 4;
-constexpr uint32_t STREAM_ADD = 0x8200AA;
-constexpr uint32_t STREAM_END = 0x8100AA;
 } // namespace
 
 KF_REGION Region[KF_REGIONS];
@@ -82,6 +75,9 @@ const int TlAssign_TBL_List[KF_REGIONS] = {
     38, 39, 40, 41, 42, 43, 44, 51, 52, 53, 54, 55, 56, 57, 58, 59, 60, 61, 62, 63,
 };
 
+// The order as the server or the operator has said it last. Regions that this system does not have
+// keep their places in it: before the assignments have come that is all of them.
+static int KeptOrder[KF_REGIONS];
 static KF_TBL kf;                           // the functions of the page that is up
 static int tenkey[TEN_KEYS][REGIONS_A_KEY]; // region index of each assignment, -1 none
 
@@ -106,7 +102,7 @@ void KF_Init()
 {
     for (int i = 0; i < KF_REGIONS; i++) {
         init_region(Region[i], row_of(i));
-        RegionPriority[i] = KF_NO_REGION;
+        RegionPriority[i] = KeptOrder[i] = KF_NO_REGION;
         tlPriority[i] = &Region[EMPTY_ROW];
     }
     for (auto& key : tenkey)
@@ -151,14 +147,14 @@ static void add_streams(bool sub_sides)
         if (is_sub_side(row.code) != sub_sides)
             continue;
         const unsigned char data[] = {1, static_cast<unsigned char>(row.code), 1, 0};
-        (void)Net_SendBinCommand(BIN_STREAM, STREAM_ADD, data, sizeof data); // it fits
+        (void)Net_SendBinCommand(BIN_SETUP, STREAM_JOIN, data, sizeof data); // it fits
     }
 }
 
 void KF_InitCommand()
 {
     add_streams(false);
-    (void)Net_SendBinCommand(BIN_STREAM, STREAM_END, nullptr, 0);
+    (void)Net_SendBinCommand(BIN_SETUP, STREAM_JOINED, nullptr, 0);
 }
 
 void KF_InitCommand_MP2()
@@ -167,7 +163,7 @@ void KF_InitCommand_MP2()
     for (const RegionRow& row : region_rows) {
         const unsigned char code = static_cast<unsigned char>(row.code);
         if (is_sub_side(row.code))
-            (void)Net_SendBinCommand(BIN_STREAM, STREAM_END, &code, 1);
+            (void)Net_SendBinCommand(BIN_SETUP, STREAM_JOINED, &code, 1);
     }
 }
 
@@ -207,6 +203,8 @@ int KF_SetRegionDisplay(int region, int v)
 {
     if (!is_region(region) || v < KF_SHOWN || v > KF_REMOVED)
         return -1;
+    if (Region[region].display != v)
+        tlOrder_stale = 1;
     Region[region].display = v;
     return 0;
 }
@@ -250,8 +248,8 @@ static void renew_assigned()
             if (region < 0)
                 continue;
             assigned[region] = 1;
-            if (region >= DME_FIRST && region <= DME_LAST)
-                assigned[region + DME_TO_GLOBAL] = 1;
+            if (region >= KF_DME_FIRST && region <= KF_DME_LAST)
+                assigned[region + KF_DME_TO_GLOBAL] = 1;
         }
     }
     for (int i = 0; i < ASSIGNABLE; i++)
@@ -282,14 +280,22 @@ int KF_SetRegionPriority(int place, int region)
 {
     if (!is_region(place))
         return -1;
-    RegionPriority[place] = is_region(region) ? region : KF_NO_REGION;
+    const int kept = is_region(region) ? region : KF_NO_REGION;
+    if (KeptOrder[place] != kept)
+        tlOrder_stale = 1;
+    KeptOrder[place] = kept;
     return 0;
 }
 
-static bool is_listed(int region)
+int KF_IsOrderStale()
 {
-    return std::find(std::begin(RegionPriority), std::end(RegionPriority), region) !=
-           std::end(RegionPriority);
+    return tlOrder_stale;
+}
+
+int KF_IsAnyAssigned()
+{
+    return std::any_of(std::begin(Region), std::end(Region),
+                       [](const KF_REGION& r) { return r.assigned != 0; });
 }
 
 static bool wants_place(int region)
@@ -297,19 +303,50 @@ static bool wants_place(int region)
     return Region[region].assigned && Region[region].display != KF_REMOVED;
 }
 
-// What is not to be there goes, and the rest closes up. A list from the server may name a region
-// twice: the first stays.
-static void drop_unwanted()
+static bool is_in(const int (&list)[KF_REGIONS], int region)
 {
-    bool seen[KF_REGIONS] = {};
-    int n = 0;
-    for (const int region : RegionPriority) {
-        if (!is_region(region) || seen[region] || !wants_place(region))
-            continue;
-        seen[region] = true;
-        RegionPriority[n++] = region;
-    }
-    std::fill(RegionPriority + n, std::end(RegionPriority), KF_NO_REGION);
+    return std::find(std::begin(list), std::end(list), region) != std::end(list);
+}
+
+namespace
+{
+// A list of regions in the making. Each is in it once, however often it is appended.
+struct OrderDraft {
+    int region[KF_REGIONS];
+    int count = 0;
+    bool has[KF_REGIONS] = {};
+};
+} // namespace
+
+static void append(OrderDraft& draft, int region)
+{
+    if (!is_region(region) || draft.has[region] || !wants_place(region))
+        return;
+    draft.has[region] = true;
+    draft.region[draft.count++] = region;
+}
+
+// Regions that the kept order does not have come first: the new ones, then those that were in front
+// already. Behind them stands what it has and this system shows.
+static void derive_order()
+{
+    OrderDraft draft;
+    for (int region = 0; region < KF_REGIONS; region++)
+        if (!is_in(KeptOrder, region) && !is_in(RegionPriority, region))
+            append(draft, region);
+    for (const int region : RegionPriority)
+        if (!is_in(KeptOrder, region))
+            append(draft, region);
+    for (const int region : KeptOrder)
+        append(draft, region);
+    std::copy(draft.region, draft.region + draft.count, RegionPriority);
+    std::fill(RegionPriority + draft.count, std::end(RegionPriority), KF_NO_REGION);
+}
+
+// From now on the order is the one that is listed.
+static void keep_order()
+{
+    std::copy(std::begin(RegionPriority), std::end(RegionPriority), KeptOrder);
 }
 
 static void insert_place(int place, int region)
@@ -317,13 +354,6 @@ static void insert_place(int place, int region)
     int* const at = RegionPriority + place;
     std::copy_backward(at, std::end(RegionPriority) - 1, std::end(RegionPriority));
     *at = region;
-}
-
-static void add_missing()
-{
-    for (int region = KF_REGIONS - 1; region >= 0; region--)
-        if (wants_place(region) && !is_listed(region))
-            insert_place(0, region);
 }
 
 void kf_fill_rows()
@@ -346,8 +376,7 @@ template <class Wanted> static int list_if(int n, Wanted wanted)
 
 void KF_InitPriority()
 {
-    drop_unwanted();
-    add_missing();
+    derive_order();
     std::fill(std::begin(tlPriority), std::end(tlPriority), &Region[EMPTY_ROW]);
     if (GL_TimelineDisplayPriority) {
         const int n = list_if(0, [](const KF_REGION& r) { return r.selected != 0; });
@@ -372,6 +401,7 @@ int KF_InsertRegionPriority(int place, int region)
         break;
     }
     Region[region].display = KF_SHOWN;
+    keep_order();
     KF_InitPriority();
     return 0;
 }
@@ -385,5 +415,6 @@ void KF_DefaultRegionPriority()
             RegionPriority[n++] = region;
     }
     std::fill(RegionPriority + n, std::end(RegionPriority), KF_NO_REGION);
+    keep_order();
     KF_InitPriority();
 }

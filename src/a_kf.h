@@ -9,6 +9,9 @@ constexpr int KF_REGIONS = 64;
 constexpr int KF_KEYFRAMES = 1000; // entry 0 is never used
 constexpr int KF_NO_REGION = 255;  // an empty place in a list of regions
 constexpr int KF_NO_CODE = 240;    // codes from here on are no region
+constexpr int KF_DME_FIRST = 14;   // the effects channels
+constexpr int KF_DME_LAST = 21;
+constexpr int KF_DME_TO_GLOBAL = 8; // from a channel to its global twin
 
 enum : int { KF_SHOWN = 0, KF_HIDDEN = 1, KF_REMOVED = 2 }; // KF_REGION::display
 
@@ -86,10 +89,15 @@ int KF_RefRegionCode();                          // KF_NO_REGION until the serve
 void KF_RegionAssignTally(int row, const char* value);
 
 // --- The order in which regions are listed: places 0 to 63 of region indices ---
-int KF_GetRegionPriority(int place);             // KF_NO_REGION
-int KF_SetRegionPriority(int place, int region); // -1; what is no region empties the place
-// Bring the order in line with assigned and display, and what is shown with the order.
+int KF_GetRegionPriority(int place); // as listed; KF_NO_REGION
+// As the server has it; listed by the next KF_InitPriority. -1; what is no region empties the
+// place.
+int KF_SetRegionPriority(int place, int region);
+// List the regions that are assigned and not removed, and bring what is shown in line with that.
+// The order itself loses nothing by it: a region that is assigned later comes to its place.
 void KF_InitPriority();
+int KF_IsOrderStale();  // the last KF_InitPriority is out of date
+int KF_IsAnyAssigned(); // the server has told which regions there are
 // Put a region at a place; it leaves its old one and is shown. -1 when either is out of bounds.
 int KF_InsertRegionPriority(int place, int region);
 void KF_DefaultRegionPriority();

@@ -8,7 +8,7 @@ constexpr int TL_ROWS = 10;
 constexpr int EMPTY_ROW = KF_REGIONS - 1; // the region that stands for an empty row
 
 extern KF_REGION Region[KF_REGIONS];
-extern int RegionPriority[KF_REGIONS]; // region indices, KF_NO_REGION in an empty place
+extern int RegionPriority[KF_REGIONS]; // as listed: indices, KF_NO_REGION in an empty place
 extern KF_REGION* tlPriority[KF_REGIONS];
 extern KF_REGION* tlDisp[TL_ROWS]; // null only before KF_Init
 extern int RegionScroll;           // the place in tlPriority of the first row
@@ -16,7 +16,7 @@ extern int tlSTime;                // the edges of the time axis
 extern int tlETime;
 extern int tlSETime_redraw; // the axis may have changed
 extern int RefRegion;       // code of the reference region
-extern int tlOrder_stale;   // assignments have changed since the order was made
+extern int tlOrder_stale;   // what the order is made of has changed since
 
 // Returns 1 for an id that is not of the regions, else 0.
 int KF_TallyProc(uint32_t id, const unsigned char* data, int ndata);

@@ -1,6 +1,7 @@
 // The frames of the server's region streams. A frame that ends before its record does is refused
 // whole; of a list of keyframes that ends early, those that are there are taken.
 #include "a_kf_private.h"
+#include "bin_frame.h"
 #include "bus.h"
 #include "log.h"
 #include "message.h"
@@ -12,13 +13,8 @@
 
 namespace
 {
-constexpr uint32_t ID_SELECTION = 0x200AA;
-constexpr uint32_t ID_DATA = 0x1100AA;
-constexpr uint32_t ID_STATUS = 0x1000AA;
-
 constexpr int REGNAME = 8;
 constexpr int MS_A_SELECTED_ROW = 10;
-constexpr int GLOBAL_TWIN = 8; // from the index of a DME region to its GLB region
 
 // Reads what is left of a frame; once it was asked for more than that, it stays short.
 struct Cursor {
@@ -214,7 +210,7 @@ static void select_regions(const unsigned char* bits)
                 continue;
             Region[region].selected = 1;
             if (byte == DME_BYTE)
-                Region[region + GLOBAL_TWIN].selected = 1;
+                Region[region + KF_DME_TO_GLOBAL].selected = 1;
         }
     }
 }
@@ -261,9 +257,9 @@ static void tally_selection(const unsigned char* data, int ndata)
 int KF_TallyProc(uint32_t id, const unsigned char* data, int ndata)
 {
     switch (id) {
-    case ID_STATUS: tally_status(data, ndata); return 0;
-    case ID_DATA: tally_data(data, ndata); return 0;
-    case ID_SELECTION: tally_selection(data, ndata); return 0;
+    case STREAM_STATUS: tally_status(data, ndata); return 0;
+    case STREAM_DATA: tally_data(data, ndata); return 0;
+    case STREAM_SELECTION: tally_selection(data, ndata); return 0;
     default: return 1;
     }
 }

@@ -3,7 +3,7 @@
 #include "a_bt.h"
 #include "a_kf.h"
 #include "bus.h"
-#include "global.h"
+#include "bus_tally.h"
 #include "message.h"
 #include "netio.h"
 #include "tally_value.h"
@@ -15,21 +15,22 @@
 
 namespace
 {
-constexpr uint32_t PAGE_DME_USER_PGM = 0x61140000;
-constexpr int DME_FIRST = 14;
-constexpr int DME_LAST = 21;
-
 constexpr int MODES = 9; // 0 to 8
 // What the button "P In P" says, and what a single channel calls it.
 constexpr int MODE_P_IN_P = 4;
 constexpr int MODE_P_IN_P_SINGLE = 5;
-} // namespace
 
-static struct {
+struct Programs {
     int RegSingle = 0; // a selected region has a program of one channel
     int RegDual = 0;   // ... of two
     int kf_ptn = 0;    // register of the first of them, 0 none
     int kf_ch = 0;     // its channels
+    bool operator==(const Programs&) const = default;
+};
+} // namespace
+
+static struct {
+    Programs now; // what the page shows
     char path[PATH_SIZE] = "";
 } pgm; // valid from create(1) to create(0)
 
@@ -40,19 +41,21 @@ static int channels_of(int regnum)
     return regnum >= 201 && regnum <= 299 ? 2 : 0;
 }
 
-static void find_programs()
+static Programs find_programs()
 {
-    for (int i = DME_FIRST; i <= DME_LAST; i++) {
+    Programs found;
+    for (int i = KF_DME_FIRST; i <= KF_DME_LAST; i++) {
         const KF_REGION* const r = KF_GetRegionStatus(i);
         const int channels = r->selected ? channels_of(r->regnum) : 0;
         if (channels == 0)
             continue;
-        (channels == 1 ? pgm.RegSingle : pgm.RegDual) = 1;
-        if (pgm.kf_ptn != 0)
+        (channels == 1 ? found.RegSingle : found.RegDual) = 1;
+        if (found.kf_ptn != 0)
             continue;
-        pgm.kf_ptn = r->regnum;
-        pgm.kf_ch = channels;
+        found.kf_ptn = r->regnum;
+        found.kf_ch = channels;
     }
+    return found;
 }
 
 static void enable(std::initializer_list<int> buttons, bool on)
@@ -63,8 +66,8 @@ static void enable(std::initializer_list<int> buttons, bool on)
 
 static void enable_buttons()
 {
-    const bool single = pgm.RegSingle != 0;
-    const bool dual = pgm.RegDual != 0;
+    const bool single = pgm.now.RegSingle != 0;
+    const bool dual = pgm.now.RegDual != 0;
     enable({17, 18, 33, 35, 36}, single);
     enable({19}, dual);
     enable({20, 34}, single || dual);
@@ -73,17 +76,17 @@ static void enable_buttons()
 static int pgm_create(int on, uint32_t)
 {
     if (!on) {
-        if (pgm.kf_ptn != 0)
+        if (pgm.now.kf_ptn != 0)
             Net_SendCommandFormat("remove %s", pgm.path);
         pgm = {};
         return 0;
     }
     pgm = {};
-    find_programs();
+    pgm.now = find_programs();
     enable_buttons();
-    if (pgm.kf_ptn == 0)
+    if (pgm.now.kf_ptn == 0)
         return 0;
-    PrintText(pgm.path, "Key Frame@DME User PGM@Transition Mode@%d", pgm.kf_ptn);
+    PrintText(pgm.path, "Key Frame@DME User PGM@Transition Mode@%d", pgm.now.kf_ptn);
     Net_SendCommandFormat("add %s", pgm.path);
     return 0;
 }
@@ -91,9 +94,9 @@ static int pgm_create(int on, uint32_t)
 static int pgm_press(const char* path, const char* value)
 {
     const int mode = Index(value, MODES);
-    if (!Same(path, LOCAL_MODE) || mode < 0 || pgm.kf_ptn == 0)
+    if (!Same(path, LOCAL_MODE) || mode < 0 || pgm.now.kf_ptn == 0)
         return 0;
-    const bool is_renamed = pgm.kf_ch == 1 && mode == MODE_P_IN_P;
+    const bool is_renamed = pgm.now.kf_ch == 1 && mode == MODE_P_IN_P;
     Net_SendCommandFormat("put %s#%d", pgm.path, is_renamed ? MODE_P_IN_P_SINGLE : mode);
     return 0;
 }
@@ -101,7 +104,7 @@ static int pgm_press(const char* path, const char* value)
 static int pgm_tally(const char* path, const char* value)
 {
     const int mode = Index(value, MODES);
-    if (pgm.kf_ptn == 0 || !Same(path, pgm.path) || mode < 0)
+    if (pgm.now.kf_ptn == 0 || !Same(path, pgm.path) || mode < 0)
         return 0;
     char line[CMD_SIZE];
     PrintText(line, LOCAL_MODE "#%d", mode == MODE_P_IN_P_SINGLE ? MODE_P_IN_P : mode);
@@ -109,9 +112,12 @@ static int pgm_tally(const char* path, const char* value)
     return 0;
 }
 
+// Running regions tell of each keyframe. The page is opened anew only when it would be another one:
+// otherwise no touch would live long enough to act.
 static int pgm_reload()
 {
-    GL_CreatePage = PAGE_DME_USER_PGM;
+    if (find_programs() != pgm.now)
+        tally_reload_page();
     return 0;
 }
 

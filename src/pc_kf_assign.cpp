@@ -191,10 +191,12 @@ static void save_order()
     }
 }
 
+// Before the server has told which regions there are, the order is nobody's choice.
 static int assign_create(int on, uint32_t)
 {
     if (!on) {
-        save_order();
+        if (KF_IsAnyAssigned())
+            save_order();
         return 0;
     }
     print_numbers();
@@ -230,10 +232,21 @@ static int assign_selection()
     return 0;
 }
 
+// Another panel has changed the order, or the assignments have come.
+static int assign_redraw()
+{
+    if (KF_IsOrderStale()) {
+        fill_regions();
+        renew();
+    }
+    return 0;
+}
+
 static int assign_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
 {
     switch (msg) {
     case MSG_TALLY: return assign_tally(Text(ax));
+    case MSG_REDRAW: return assign_redraw();
     case LMSG_BTNSEL: return assign_press(Text(ax));
     case LMSG_LISTSEL: return assign_list(int(ax));
     case LMSG_REGSELCHANGE: return assign_selection();

@@ -2,6 +2,7 @@
 // shows its regions at the right, where each can be made the reference and switched in and out.
 #include "a_bt.h"
 #include "a_kf.h"
+#include "bin_frame.h"
 #include "bus.h"
 #include "colours.h"
 #include "command.h"
@@ -40,9 +41,6 @@ constexpr int BTN_FLEXI_PAD = 54;
 constexpr int ID_MAX = 108;
 constexpr int ID_MAX_TWO_PADS = 128;
 constexpr int ID_NO_ASSIGN = 255;
-
-constexpr int BIN_ASK = 5;
-constexpr uint32_t BIN_SELECTION = 0x200AA;
 
 constexpr unsigned UNAVAILABLE = 0x787878;
 constexpr int FONT_NUMBER = 2;
@@ -220,22 +218,6 @@ static bool Button_Discord_check(const RegionKey& key)
 }
 
 // --- What this system cannot use ---
-
-static bool is_1080p_of_two_links(const DEVICE* dev)
-{
-    return dev && dev->activeline == ACTIVELINE_1080P && dev->framerate >= 25.0;
-}
-
-static bool isSingleProc_DualLink()
-{
-    return !SYS_DualProc && is_1080p_of_two_links(DEV_MySwr[0]) && !is1080P_3G();
-}
-
-static bool isSingleProc_DualLink_DME()
-{
-    return !SYS_DualProc && is_1080p_of_two_links(DEV_MyDme[0]) && !is1080P_3G_DME() &&
-           !is1080P_ZRD52_DME();
-}
 
 static bool is_3d()
 {
@@ -472,7 +454,7 @@ static int region_create(int on, uint32_t)
         BT_SetCutoff(button, GL_PCX_Mode != PCX_TWO_PADS);
     for (int number = 1; number <= TEN_KEYS; number++)
         Net_SendCommandFormat("read " TEN_KEY_REGIONS "%d", number);
-    (void)Net_SendBinCommand(BIN_ASK, BIN_SELECTION, nullptr, 0); // it fits
+    (void)Net_SendBinCommand(BIN_READ, STREAM_SELECTION, nullptr, 0); // it fits
     return 0;
 }
 

@@ -120,6 +120,22 @@ struct AssignPage : KeyframePage {
     static std::vector<std::string> Order() { return Cells(1, 3); }
 };
 
+TEST_F(AssignPage, ShowsWhatAnotherPanelHasChosen)
+{
+    Tally("Info@Operation Setup Data@Timeline Region Priority", "1,6");
+    Tally("Info@Operation Setup Data@Timeline Region Priority", "4,0");
+    Tally("Info@Operation Setup Data@Timeline Region Display", "46,1");
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    EXPECT_THAT(Order(), ElementsAre("1 USER1 ON", "2 M/E-1 Sub ", "3 P/P ON", "4 M/E-1 ON", "  "));
+}
+
+TEST_F(AssignPage, SavesNothingBeforeTheServerHasToldItsRegions)
+{
+    KF_Init();
+    CreatePage(PAGE_TOP);
+    EXPECT_THAT(Sent(), IsEmpty());
+}
+
 TEST_F(AssignPage, TheKeysWorkAtTheCursors)
 {
     LS_SetNowLine(1, 1);
@@ -232,6 +248,25 @@ TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgram)
     EXPECT_EQ(BT_GetStatus(36), BT_ON) << "ignored";
     CreatePage(PAGE_TOP);
     EXPECT_THAT(Sent("remove Key Frame"), ElementsAre(std::string("remove ") + path));
+}
+
+// A running region tells of every keyframe, many times a second.
+TEST_F(ProgramPage, OnlyAnotherProgramOpensThePageAnewAndNeverOverAnotherRequest)
+{
+    const auto keyframe = [](int code, int number) {
+        kf::Send(kf::STATUS, kf::StatusFrame({.code = code, .keyframe = number, .run = 1}));
+    };
+    Load(150, 201);
+    GL_CreatePage = 0;
+    keyframe(16, 1);
+    keyframe(1, 2);
+    EXPECT_EQ(GL_CreatePage, 0u);
+    kf::Send(kf::DATA, kf::DataFrame({.code = 16, .regnum = 151}));
+    EXPECT_EQ(GL_CreatePage, 0x61140000u);
+    GL_CreatePage = 0x11110000;
+    kf::Send(kf::DATA, kf::DataFrame({.code = 16, .regnum = 152}));
+    EXPECT_EQ(GL_CreatePage, 0x11110000u) << "the operator's wish";
+    GL_CreatePage = 0;
 }
 
 // --- Region Select ---
