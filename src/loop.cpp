@@ -179,6 +179,10 @@ static bool loop_wheel_to_press(int* x, int* y, int button)
 
 static void loop_wheel(int x, int y, int button)
 {
+    if (IsSaver()) {
+        (void)EndScreenSaver(); // what wakes the screen turns nothing: nobody sees what it would be
+        return;
+    }
     if (GL_MouseWheelDirection == 1)
         button = button == SDL_BUTTON_WHEELUP ? SDL_BUTTON_WHEELDOWN : SDL_BUTTON_WHEELUP;
     SendMessage(button == SDL_BUTTON_WHEELUP ? MSG_WHEELUP : MSG_WHEELDOWN, x, y, 0, 0);

@@ -55,11 +55,11 @@ static void setup_changed()
     setup_show();
 }
 
-// The name that the list stands on; on the rows behind them it is the first.
+// The name that the list stands on, -1 on the rows behind them.
 static int setup_name_row()
 {
     const int row = LS_GetNowLine(LIST);
-    return row >= 0 && row < SAVER_NAMES ? row : 0;
+    return row >= 0 && row < SAVER_NAMES ? row : -1;
 }
 
 // --- Buttons ---
@@ -78,7 +78,10 @@ static int setup_take_name(const char* text)
 
 static void setup_rename()
 {
-    setup.renamed = setup_name_row();
+    const int row = setup_name_row();
+    if (row < 0)
+        return;
+    setup.renamed = row;
     WindowArgs args;
     args.value = GL_Scr_disp_name[setup.renamed];
     args.input_max = SAVER_TEXT - 1;
@@ -88,7 +91,10 @@ static void setup_rename()
 
 static void setup_default()
 {
-    CopyText(GL_Scr_disp_name[setup_name_row()], "KTR-20");
+    const int row = setup_name_row();
+    if (row < 0)
+        return;
+    CopyText(GL_Scr_disp_name[row], "KTR-20");
     setup_changed();
 }
 
@@ -151,6 +157,7 @@ static int setup_knob(int knob, int value)
 static int pc_screen_saver_setup_create(int on, uint32_t)
 {
     if (!on) {
+        GL_SSver_PVW = 0; // a preview that did not come is not wanted elsewhere
         if (setup.is_changed)
             (void)Saver_SaveSettings(); // the log has it; the settings hold until the end
         setup.is_changed = false;

@@ -18,6 +18,7 @@ int GL_ScreenSaverPTN_Mode = SAVER_PATTERNS;
 int GL_ScreenSaverVariable_speed = 0;
 int GL_ScreenSaverPath_Time = 5;
 int GL_SSver_PVW = 0;
+int GL_SSver_Shown = 0;
 char GL_Scr_disp_name[SAVER_NAMES][SAVER_TEXT] = {"KTR-20"};
 char GL_Scr_disp_ImagePath[SAVER_TEXT] = "/mnt/data/SSrc";
 const char S_SYS_Name[] = "Vorn Production Switcher System";
@@ -68,7 +69,8 @@ static struct {
     int grey = 0; // of the plain form
     int step = 1;
     ColourCycle cycle;
-} look; // valid from the start of the saver to its end
+    bool has_patterns = false; // what was drawn last is of a pattern
+} look;                        // valid from the start of the saver to its end
 
 static bool was_off = false; // the interval was 0 in the last pass: the count is not of this one
 
@@ -108,6 +110,11 @@ static void ScreenSaver_ptn(int elapsed_ms)
     TDL_UpdateRect(0, 0, SCREEN_W, SCREEN_H);
 }
 
+static bool wants_patterns()
+{
+    return (GL_SSver_Shown || SYS_RefSwrType == DEVTYPE_KTR40E) && GL_ScreenSaverPTN_Mode != 0;
+}
+
 static void ScreenSaver_plain()
 {
     look.grey += look.step;
@@ -124,6 +131,7 @@ static void saver_start()
     HackMessage(0, MSG_REDRAW);
     TDL_FillRect(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
     look = {};
+    look.has_patterns = wants_patterns();
     saver_scenes_start();
     saver_pictures_start();
     SDL_ShowCursor(0);
@@ -131,6 +139,20 @@ static void saver_start()
     SSav = 1;
     GL_ScreenSaver_Now = 1;
     BA_AccessDraw();
+}
+
+// The two forms do not clear what the other has drawn.
+static void saver_step(int elapsed_ms)
+{
+    if (look.has_patterns != wants_patterns()) {
+        look.has_patterns = !look.has_patterns;
+        TDL_FillRect(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
+        BA_AccessDraw();
+    }
+    if (look.has_patterns)
+        ScreenSaver_ptn(elapsed_ms);
+    else
+        ScreenSaver_plain();
 }
 
 // --- Counting and waking ---
@@ -150,8 +172,12 @@ static void saver_reload()
 
 int ScreenSaver(int elapsed_ms)
 {
-    if (GL_ScreenSaverInterval <= 0)
+    if (GL_ScreenSaverInterval <= 0) {
         was_off = true;
+        GL_SSver_PVW = 0; // not in an hour, when somebody switches the saver on
+        if (SSav)
+            (void)EndScreenSaver(); // a picture that stands still protects nothing
+    }
     if (GL_NowPage == ERROR_PAGE || GL_NowPage == MACRO_EDIT_PAGE || GL_ScreenSaverInterval <= 0)
         return 1;
     if (GetWindow() || Pane_GetActiveID())
@@ -169,19 +195,15 @@ int ScreenSaver(int elapsed_ms)
     if (GL_SSver_PVW == 1 && touch_is_over()) {
         GL_SSver_PVW = 0;
         SSavCnt = 0;
-        SYS_RefSwrType = DEVTYPE_KTR40E; // else the operator would preview what he did not choose
+        GL_SSver_Shown = 1; // else the operator would preview what he did not choose
     }
     if (!SSav) {
         SSavCnt -= elapsed_ms;
         if (SSavCnt < 0)
             saver_start();
     }
-    if (!SSav)
-        return 0;
-    if (SYS_RefSwrType == DEVTYPE_KTR40E && GL_ScreenSaverPTN_Mode != 0)
-        ScreenSaver_ptn(elapsed_ms);
-    else
-        ScreenSaver_plain();
+    if (SSav)
+        saver_step(elapsed_ms);
     return 0;
 }
 

@@ -17,6 +17,7 @@ extern int GL_ScreenSaverPTN_Mode;       // 0 to SAVER_PATTERNS; any other numbe
 extern int GL_ScreenSaverVariable_speed; // 0 to SAVER_SPEEDS - 1: how fast pictures fade
 extern int GL_ScreenSaverPath_Time;      // s that a picture is held
 extern int GL_SSver_PVW;                 // start at the next pass, with the patterns
+extern int GL_SSver_Shown;               // so it did: the patterns are shown on any switcher
 extern char GL_Scr_disp_name[SAVER_NAMES][SAVER_TEXT];
 extern char GL_Scr_disp_ImagePath[SAVER_TEXT]; // the folder of SSrc_0.bmp to SSrc_99.bmp
 

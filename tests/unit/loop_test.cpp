@@ -2,6 +2,7 @@
 #include "initread.h"
 #include "loop.h"
 #include "netio.h"
+#include "saver.h"
 
 namespace
 {
@@ -52,6 +53,20 @@ struct Loop : BusTest {
     }
 };
 } // namespace
+
+// Nobody sees what it would turn.
+TEST_F(Loop, AWheelStepUnderTheSaverWakesTheScreenAndReachesNobody)
+{
+    GL_ScreenSaverInterval = 1;
+    EndScreenSaver();
+    ScreenSaver(1001);
+    ASSERT_TRUE(IsSaver());
+    probe::seen.clear();
+    SDL_Event step = Button(SDL_MOUSEBUTTONDOWN, 400, 300, SDL_BUTTON_WHEELUP);
+    Loop_Event(&step);
+    EXPECT_FALSE(IsSaver());
+    EXPECT_EQ(Count(MSG_WHEELUP) + Count(MSG_PRESS), 0u);
+}
 
 TEST_F(Loop, APassLastsTenMillisecondsAndItsStepIsClamped)
 {

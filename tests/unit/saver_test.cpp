@@ -91,6 +91,50 @@ struct Saver : testing::Test {
 
 // --- Counting and waking ---
 
+TEST_F(Saver, APreviewShowsThePatternsAndLeavesTheSwitcherAsItIs)
+{
+    constexpr Rect LINES = {0, 60, 799, 290}; // the plain form leaves them dark
+    const auto has_pattern = [&] {
+        const auto pixels = PixelsIn(LINES);
+        return std::any_of(pixels.begin(), pixels.end(), [](uint32_t p) { return p != 0; });
+    };
+    SYS_RefSwrType = DEVTYPE_KTR40X;
+    GL_ScreenSaverPTN_Mode = 1;
+    ScreenSaver(1001);
+    Passes(500);
+    EXPECT_FALSE(has_pattern());
+    Wake();
+    GL_SSver_PVW = 1;
+    Passes(500);
+    ASSERT_TRUE(IsSaver());
+    EXPECT_TRUE(has_pattern());
+    EXPECT_EQ(SYS_RefSwrType, DEVTYPE_KTR40X) << "which pages there are hangs on it";
+    Wake();
+    DeviceStructure(); // a change of menu brings a dozen
+    ScreenSaver(1001);
+    Passes(500);
+    EXPECT_TRUE(has_pattern()) << "what was previewed is what comes";
+}
+
+TEST_F(Saver, APreviewThatCannotComeIsForgotten)
+{
+    GL_ScreenSaverInterval = 0;
+    GL_SSver_PVW = 1;
+    EXPECT_EQ(ScreenSaver(10), 1);
+    GL_ScreenSaverInterval = 600;
+    Passes(3);
+    EXPECT_FALSE(IsSaver()) << "in the middle of work";
+}
+
+TEST_F(Saver, SwitchedOffWhileItIsUpItGoes)
+{
+    Start(17);
+    GL_ScreenSaverInterval = 0;
+    EXPECT_EQ(ScreenSaver(10), 1);
+    EXPECT_FALSE(IsSaver()) << "a still picture is what it is to prevent";
+    SDL_ShowCursor(0);
+}
+
 TEST_F(Saver, IsBarredWithoutLosingItsCount)
 {
     static int pane;
