@@ -1,6 +1,7 @@
 #include "console.h"
 #include "console_command.h"
 #include "fault.h"
+#include "file_job.h"
 #include "link.h"
 #include "log.h"
 #include "system.h"
@@ -303,9 +304,23 @@ static bool con_refuse(Runner&, const std::string& rest)
     return true;
 }
 
+// "next [N] [WORDS]"
+static bool con_ng_next(const std::string& rest)
+{
+    const auto word = Text_Split(rest, ' ');
+    long count = 1;
+    const bool has_count = word.size() > 1 && Console_Number(word[1], 1, 1000000, &count);
+    size_t at = 4 + (has_count ? word[1].size() + 1 : 0);
+    at = std::min(at + 1, rest.size());
+    FileJob_FailNext(int(count), at < rest.size() ? rest.substr(at) : "Device Error");
+    return true;
+}
+
 static bool con_ng(Runner&, const std::string& rest)
 {
     bool on = false;
+    if (Text_Begins(rest, "next"))
+        return con_ng_next(rest);
     if (!Console_OnOff(rest, &on))
         return false;
     Verb_SetNg(on);
@@ -338,13 +353,13 @@ static constexpr Command commands[] = {
     {"flood", "N", "N tallies that nobody wants", con_flood},
     {"garbage", "MS", "rubbish on all links", con_garbage},
     {"refuse", "on|off", "stop listening", con_refuse},
-    {"ng", "on|off", "apply no put", con_ng},
+    {"ng", "on|off|next [N] [WORDS]", "apply no put; the next N file jobs fail", con_ng},
     {"restart", "", "all values at their defaults, announced to all", con_restart},
     {"quit", "", "end", con_quit},
 };
 
-static const std::span<const Command> command_sets[] = {commands, console_effect_commands,
-                                                        console_setup_commands};
+static const std::span<const Command> command_sets[] = {
+    commands, console_effect_commands, console_file_commands, console_setup_commands};
 
 static bool con_help(Runner&, const std::string&)
 {

@@ -1,4 +1,5 @@
 #include "link.h"
+#include "hub.h"
 #include "log.h"
 #include "stream.h"
 #include "system.h"
@@ -136,6 +137,8 @@ static void link_sweep()
             continue;
         if (client.kind == LINK_BIN)
             Stream_ForgetClient(client.number);
+        if (client.kind == LINK_HUB)
+            Hub_ForgetClient(client.number);
         if (client.kind != LINK_TEXT)
             continue;
         Tree_ForgetClient(client.number);
@@ -231,6 +234,8 @@ static void link_line(const Client& client, const std::string& line)
     link_hear(client, client.kind == LINK_HUB ? "hub " + line : line);
     if (client.kind == LINK_TEXT)
         Verb_Line(client.number, line);
+    else
+        Hub_Line(client.number, line);
 }
 
 // Take whole lines off the front; what is left is the begin of the next.

@@ -1,7 +1,11 @@
 // scs_sim: stands in for the control server, the status hub and the units behind them, on a desk
 // without hardware.
+#include "autoload.h"
 #include "console.h"
+#include "drive.h"
 #include "fault.h"
+#include "file_job.h"
+#include "hub.h"
 #include "link.h"
 #include "log.h"
 #include "system.h"
@@ -24,6 +28,8 @@ struct Options {
     const char* script = nullptr;
     const char* log = nullptr;
     const char* listen = "127.0.0.1";
+    const char* root = "";
+    bool has_files = false;
     bool is_quiet = false;
     long seed = 1;
 };
@@ -33,7 +39,7 @@ static volatile sig_atomic_t main_signal = 0;
 
 static const char* const usage =
     "usage: scs_sim [--values FILE] [--script FILE] [--log FILE] [--quiet] [--seed N]\n"
-    "               [--listen ADDRESS]\n"
+    "               [--listen ADDRESS] [--root DIR] [--lay]\n"
     "Commands come from standard input; \"help\" lists them.\n";
 
 static bool main_options(int argc, char** argv, Options* options)
@@ -44,6 +50,8 @@ static bool main_options(int argc, char** argv, Options* options)
         {"log", required_argument, nullptr, 'l'},
         {"listen", required_argument, nullptr, 'a'},
         {"quiet", no_argument, nullptr, 'q'},
+        {"root", required_argument, nullptr, 'f'},
+        {"lay", no_argument, nullptr, 'd'},
         {"seed", required_argument, nullptr, 'r'},
         {nullptr, 0, nullptr, 0},
     };
@@ -53,6 +61,8 @@ static bool main_options(int argc, char** argv, Options* options)
         case 's': options->script = optarg; break;
         case 'l': options->log = optarg; break;
         case 'a': options->listen = optarg; break;
+        case 'f': options->root = optarg; break;
+        case 'd': options->has_files = true; break;
         case 'q': options->is_quiet = true; break;
         case 'r':
             if (!Text_ToInt(optarg, &options->seed))
@@ -96,7 +106,8 @@ static void main_turn(int64_t* next)
     // The console first: what it starts is due at once.
     *next = Console_Tick(then);
     *next = std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
-                      Transition_Tick(then), Fault_Tick(then)});
+                      Transition_Tick(then), Fault_Tick(then), FileJob_Tick(then), Hub_Tick(then),
+                      Autoload_Tick(then)});
 }
 
 int main(int argc, char** argv)
@@ -111,6 +122,9 @@ int main(int argc, char** argv)
     if (!main_open(options.log, Log_Open) || !main_open(options.values, Values_Load) ||
         !main_open(options.script, Console_OpenScript))
         return 1;
+    Drive_SetRoot(options.root);
+    if (options.has_files)
+        Drive_Lay();
     System_Install();
     signal(SIGPIPE, SIG_IGN);
     signal(SIGINT, main_catch);

@@ -1,5 +1,8 @@
 #include "system.h"
 #include "dme_channels.h"
+#include "file_job.h"
+#include "frame_memory.h"
+#include "hub.h"
 #include "link.h"
 #include "log.h"
 #include "region.h"
@@ -138,12 +141,6 @@ static const Preset presets[] = {
     {"Info@System Setup Data@Panel Operation Log", "", "2"},
     {"Info@System Setup Data@FM Data Port Disable", SWRS, "0,0"},
 
-    // The stores are there and empty.
-    {"Frame Mem@Status@Extended Capacity", "", "0"},
-    {"Frame Mem@Status", "Store Number Sense,Store Number2 Sense", "1000"},
-    {"16@Frame Mem@Status@Max Register", "", "1000"},
-    {"16@Frame Mem@Status@Register Status", "0..44", "00000000000000000000000000000000"},
-    {"16@Frame Mem@Status@Folder Name Sense", "", "0,Default"},
     {"16@Frame Mem@External HDD@Busy", "", "false"},
     {"32@Frame Mem@External HDD@Busy", "", "false"},
 };
@@ -257,14 +254,6 @@ static void sys_tenkeys()
     }
 }
 
-// Two hexadecimal digits for each of a bank's 128 registers: all in the default folder.
-static void sys_folders()
-{
-    for (int bank = 0; bank <= 44; ++bank)
-        Tree_Preset("16@Frame Mem@Status@Folder Status@" + std::to_string(bank),
-                    std::string(256, '0'));
-}
-
 void System_Install()
 {
     for (const Preset& preset : presets)
@@ -273,9 +262,9 @@ void System_Install()
         sys_list(list.path, list.rows, list.kill_first, list.key_fields);
     sys_crosspoints();
     sys_tenkeys();
-    sys_folders();
     Timeline_Install();
     Store_Install();
+    FrameMemory_Install();
     Transition_Install();
     Dme_Install();
     Rules_Install();
@@ -360,6 +349,8 @@ void System_Restart()
     sy.announcements.clear();
     Verb_Forget();
     Stream_Forget();
+    FileJob_Forget();
+    Hub_Restart();
     Tree_Clear();
     System_Install();
     for (const int client : Link_Clients(LINK_TEXT)) {

@@ -1,5 +1,8 @@
 #include "verbs.h"
+#include "autoload.h"
 #include "dme_channels.h"
+#include "file_job.h"
+#include "frame_memory.h"
 #include "link.h"
 #include "log.h"
 #include "rules.h"
@@ -115,12 +118,21 @@ static bool verb_put_to_owner(int client, const std::string& path, const std::st
     return true;
 }
 
+// Requests have no value to be told: they are answered in their own way.
+static bool verb_put_is_request(int client, const std::string& path, const std::string& value)
+{
+    return FileJob_Put(client, path, value) || FrameMemory_Put(client, path, value) ||
+           Autoload_Put(path, value);
+}
+
 // The sender hears the outcome even when nothing changed: its page shows the server's word, not its
 // own wish.
 static void verb_put(int client, const std::string& path, const std::string& value)
 {
     if (path == INITIAL_READ)
         return System_Announce(client, value == "true");
+    if (!vb.is_ng && verb_put_is_request(client, path, value))
+        return;
     Node* node = Tree_Get(path);
     if (!node)
         return Link_SendLine(client, path + "#");

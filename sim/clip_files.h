@@ -1,0 +1,9 @@
+// clip_files: the clip store's pictures as files, in "/vorn/FM/1/" of its switcher, and the work
+// folder that the hub hands out for them, with its result list.
+#pragma once
+#include <string>
+
+void ClipFiles_ClearWork(int unit);
+// Get one picture ready: its path without an extension, and the kind: SFH, TIF, BMP, TGA or PNG.
+void ClipFiles_PrepareGet(int unit, const std::string& path, const std::string& kind);
+void ClipFiles_TakePut(int unit); // all that is in the work folder
