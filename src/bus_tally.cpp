@@ -170,6 +170,7 @@ static constexpr Row rows[] = {
     Exact("Info@Menu Macro@Run", tally_menu_macro_run),
     Exact("16@Engineering Setup@System@Install@Unit Config@CCR Config", tally_ccr_config),
     Prefix("Info@System Setup Data@FM Data Port Disable@SWR", tally_fm_data_port),
+    Prefix("File@Status@FM Data Port Status@SWR", tally_fm_data_port_status),
     Prefix("Info@Board Config@Unit Model@", tally_unit),
     Prefix("Info@Board Config@Board Exist Set@", tally_unit),
     Exact("Engineering Setup@System@Install@Unit Config@M/E Split", tally_me_split),

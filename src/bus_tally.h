@@ -37,6 +37,7 @@ TallyRoute tally_dme_interface(const Tally& t);
 TallyRoute tally_dme_model(const Tally& t);
 TallyRoute tally_ccr_config(const Tally& t);
 TallyRoute tally_fm_data_port(const Tally& t);
+TallyRoute tally_fm_data_port_status(const Tally& t);
 
 // --- bus_tally_mode: operation modes and what pages exist in them ---
 TallyRoute tally_operation_mode(const Tally& t);

@@ -2,6 +2,7 @@
 #include "a_ba.h"
 #include "bus_tally.h"
 #include "device.h"
+#include "file.h"
 #include "fmctrl3.h"
 #include "global.h"
 #include "initread.h"
@@ -393,5 +394,15 @@ TallyRoute tally_fm_data_port(const Tally& t)
         return TallyRoute::Pass;
     const int low = int(NumberIn(p.v[0], 0, INT_MAX)) & 0x7F;
     GL_FMDataPortDisable[n] = low | int(NumberIn(p.v[1], 0, INT_MAX >> 7)) << 7;
+    return TallyRoute::Pass;
+}
+
+// What File_StatusFMDataPort asks for: "1", or with the label in front "L7,1".
+TallyRoute tally_fm_data_port_status(const Tally& t)
+{
+    const int n = IndexFrom1(t.rest, int(std::size(GL_FMDataPortStatus)));
+    const char* comma = strrchr(t.value, ',');
+    if (n >= 0)
+        GL_FMDataPortStatus[n] = Decimal(comma ? comma + 1 : t.value);
     return TallyRoute::Pass;
 }

@@ -314,7 +314,7 @@ static void reply_find(QUEUE* job, const char* text)
     }
     if (copy.retfunc.find)
         copy.retfunc.find(copy.label, copy.tag, nullptr, nullptr);
-    SendMessage(LMSG_FINDSTATUS, copy.worktype, MsgArg(copy.label), 0, 0);
+    SendMessage(LMSG_FINDSTATUS, copy.worktype, int(copy.label), 0, 0);
     queue_remove(copy.label);
 }
 

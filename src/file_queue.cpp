@@ -237,7 +237,7 @@ void queue_remove(uint32_t label)
 
 void file_tell(const QUEUE* job, const void* cx, const void* dx)
 {
-    SendMessage(LMSG_FILESTATUS, job->worktype, MsgArg(job->label), Arg(cx), Arg(dx));
+    SendMessage(LMSG_FILESTATUS, job->worktype, int(job->label), Arg(cx), Arg(dx));
 }
 
 // A callback may end the job, empty its list or give it another pane: nothing of it is trusted
@@ -250,7 +250,7 @@ void file_finish(QUEUE* job)
     int pane = job->paneid;
     if (job->retfunc.list)
         job->retfunc.list(label, job->tag);
-    SendMessage(LMSG_FILESTATUS, type, MsgArg(label), Arg(list), 0);
+    SendMessage(LMSG_FILESTATUS, type, int(label), Arg(list), 0);
     job = queue_find(label);
     if (job)
         pane = job->paneid;
