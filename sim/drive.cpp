@@ -339,14 +339,3 @@ bool Drive_PutStick(bool is_in)
         fs::create_directories(stick, error);
     return !error;
 }
-
-void Drive_Lay()
-{
-    for (const char* folder : {"/mnt/data/user/root/SYSTEM", "/var/nfs/user/root/SYSTEM",
-                               "/var/tmp/FMXfer", "/var/tmp/XPORT", "/var/tmp/FILE"}) {
-        const std::string error = Drive_MakeFolder(dr.root + folder);
-        if (!error.empty())
-            Log_Note("no folder %s: %s", folder, error.c_str());
-    }
-    (void)Drive_PutStick(true);
-}

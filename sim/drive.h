@@ -30,8 +30,6 @@ constexpr int DRIVE_ENTRIES = 20000;     // a search ends there
 
 // All folders stand below this one; empty: they are those of the machine itself.
 void Drive_SetRoot(const std::string& root);
-// The folders of a new desk: drives, and pictures to import on the stick.
-void Drive_Lay();
 
 // --- Names. False, with a log line: no such host, or the path leads out of the folders ---
 bool Drive_Place(const std::string& text, Place* place);

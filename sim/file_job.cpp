@@ -2,6 +2,7 @@
 #include "link.h"
 #include "log.h"
 #include "text.h"
+#include "tree.h"
 #include <algorithm>
 #include <climits>
 #include <cstdio>
@@ -11,6 +12,7 @@
 static constexpr int64_t BYTES_PER_MS = 20000;
 static constexpr size_t JOBS_MAX = 20000; // a panel that asks for more is told so
 static constexpr size_t ROWS_A_STEP = 200;
+static constexpr int TURN_MS = 5; // of steps, then the links have their turn
 
 static struct {
     std::deque<Job> jobs; // a job stays where it is while it runs: commands may ask for more
@@ -101,8 +103,35 @@ static bool job_cancel(const std::string& value)
     return true;
 }
 
+// Pictures have a road of their own where a switcher's data port is set to it; panels show which.
+static void job_tell_route(const Job& job)
+{
+    const std::string command = job.command->path;
+    const bool is_picture = command == "File@Frame Memory@PutV3" ||
+                            (command == "File@Frame Memory@Get" && !job.args.empty() &&
+                             job.args[0].find(".SFT") == std::string::npos);
+    const Node* const node = Tree_Get("Info@System Setup Data@FM Data Port Disable@SWR1");
+    if (!is_picture || job.is_mute || !job.client || !node)
+        return;
+    const bool is_port = atoi(node->value.c_str()) & 127;
+    Link_SendLine(job.client,
+                  Text_Format("FILEXFER@Transfer Route#%u,0,%d", job.ack, int(is_port)));
+}
+
+// Whether a switcher's data port is connected: the console sets it.
+static void job_tell_port(int client, const std::string& path, const std::string& label)
+{
+    const Node* const node = Tree_Get(path);
+    const bool is_on = node && node->value == "1";
+    Link_SendLine(client, path + "#" + label.substr(0, 20) + (is_on ? ",1" : ",0"));
+}
+
 bool FileJob_Put(int client, const std::string& path, const std::string& value)
 {
+    if (client && Text_Begins(path, "File@Status@FM Data Port Status@")) {
+        job_tell_port(client, path, value);
+        return true;
+    }
     if (path == "File@Transfer@Cancel" || path == "File@Access@Cancel" ||
         path == "File@Remote Access@Cancel")
         return job_cancel(value);
@@ -123,6 +152,7 @@ bool FileJob_Put(int client, const std::string& path, const std::string& value)
     job.ack = ++jb.last_ack;
     if (!job.is_mute && client)
         Link_SendLine(client, path + Text_Format("#L%s,%u", label.c_str(), job.ack));
+    job_tell_route(job);
     const bool is_full = jb.jobs.size() >= JOBS_MAX;
     if (is_full || job.args.size() < command->args)
         (void)FileJob_End(job, is_full ? "NG(Too Many Requests)" : "NG(Invalid Parameter)");
@@ -159,6 +189,10 @@ int64_t FileJob_Tick(int64_t now)
     // By number: a step may bring more jobs.
     for (size_t i = 0; i < jb.jobs.size(); ++i) {
         Job& job = jb.jobs[i];
+        if (Now_Ms() - now > TURN_MS) {
+            next = now;
+            break;
+        }
         if (job.due_ms > now && job.result != "Cancel") {
             next = std::min(next, job.due_ms);
             continue;
@@ -198,6 +232,7 @@ void FileJob_FailNext(int count, const std::string& words)
 {
     jb.fail_next = count;
     jb.fail_words = words;
+    std::replace(jb.fail_words.begin(), jb.fail_words.end(), ',', ' '); // it isn't to be a row
 }
 
 void FileJob_Print()

@@ -102,6 +102,17 @@ static std::string write_import(const Place& to, const Picture& picture, int for
     return Drive_Write(to.local, FrameFile_Write(frame));
 }
 
+// What is larger than a picture of the system is made smaller in both directions alike.
+static void fit(Picture* picture)
+{
+    constexpr int WIDTH = 1920, HEIGHT = 1080;
+    const double factor =
+        std::max(double(picture->width) / WIDTH, double(picture->height) / HEIGHT);
+    if (factor > 1)
+        *picture = Picture_Scale(*picture, std::max(1, int(picture->width / factor)),
+                                 std::max(1, int(picture->height / factor)));
+}
+
 // SOURCE, FIRST, SECOND, FORMAT, 0, 0. The second file is the key, when the picture has one.
 static bool step_import(Job& job)
 {
@@ -113,6 +124,7 @@ static bool step_import(Job& job)
         return FileJob_End(job, error);
     if (!Picture_Read(kind_of(job), bytes, &picture))
         return FileJob_End(job, WRONG_TYPE);
+    fit(&picture);
     (void)(job.args.size() > 3 && Text_ToInt(job.args[3], &format)); // none: 0
     Place second; // the plain form of the command has none
     const bool has_key =

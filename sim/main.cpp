@@ -6,6 +6,7 @@
 #include "fault.h"
 #include "file_job.h"
 #include "hub.h"
+#include "lay.h"
 #include "link.h"
 #include "log.h"
 #include "system.h"
@@ -124,7 +125,7 @@ int main(int argc, char** argv)
         return 1;
     Drive_SetRoot(options.root);
     if (options.has_files)
-        Drive_Lay();
+        Lay_Desk();
     System_Install();
     signal(SIGPIPE, SIG_IGN);
     signal(SIGINT, main_catch);

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-constexpr int PICTURE_SIDE = 8192; // pixels at most, width and height
+constexpr int PICTURE_SIDE = 4096; // pixels at most, width and height
 
 struct Picture {
     int width = 0;

@@ -1,0 +1,62 @@
+#include "lay.h"
+#include "drive.h"
+#include "log.h"
+#include "picture.h"
+
+static constexpr const char* folders[] = {
+    "/mnt/data/user/root/SYSTEM",
+    "/var/nfs/user/root/SYSTEM",
+    "/var/tmp/FMXfer",
+    "/var/tmp/XPORT",
+    "/var/tmp/FILE",
+};
+
+// A picture with a key in it takes two registers.
+static constexpr struct {
+    const char* file;
+    const char* kind;
+    bool has_key;
+} pictures[] = {
+    {"beach.BMP", "BMP", false},
+    {"lower3rd.TGA", "TGA", true},
+    {"skyline.TIF", "TIF", false},
+    {"bug.PNG", "PNG", true},
+};
+
+static Picture lay_picture(const std::string& name, bool has_key)
+{
+    Picture picture = Picture_Draw(name, 320, 180);
+    picture.has_alpha = has_key;
+    for (size_t i = 0; has_key && i < picture.pixels.size(); ++i) {
+        const bool is_seen = int(i) / picture.width > picture.height / 2;
+        picture.pixels[i] = (is_seen ? 0xFF000000 : 0) | (picture.pixels[i] & 0xFFFFFF);
+    }
+    return picture;
+}
+
+static void lay_pictures()
+{
+    for (const auto& picture : pictures) {
+        Place place;
+        std::string bytes;
+        const std::string name = picture.file;
+        if (!Drive_Place("MYHOST:/mnt/usb/usb1/IMPORT/" + name, &place) ||
+            Drive_IsFile(place.local))
+            continue;
+        const Picture drawn = lay_picture(name.substr(0, name.find('.')), picture.has_key);
+        if (Picture_Write(picture.kind, drawn, &bytes) && !Drive_Write(place.local, bytes).empty())
+            Log_Note("no picture %s", picture.file);
+    }
+}
+
+void Lay_Desk()
+{
+    for (const char* folder : folders) {
+        Place place;
+        if (!Drive_Place(std::string("MYHOST:") + folder, &place) ||
+            !Drive_MakeFolder(place.local).empty())
+            Log_Note("no folder %s", folder);
+    }
+    if (Drive_PutStick(true))
+        lay_pictures();
+}
