@@ -31,6 +31,7 @@ struct FMEMREG {
     int buff_flug = 0; // mark of the priority pass: the register has its class
 
     // The catalogue's own.
+    bool is_doomed = false;  // told to be empty, not yet taken out of everything
     bool is_listed = false;  // stands in the name chain; the name must not change meanwhile
     int chain_next = -1;     // registers of one hash of the name without its prefix,
     int chain_prev = -1;     // by index

@@ -32,6 +32,8 @@ void mm_macro_tmpfile_del(int n)
     (void)remove(path); // most often there is none
 }
 
+void MM_Register_Data_All_Delete() {}
+
 void mm_event_insert() {}
 
 int menu_macro_run_proc(int, MsgArg, MsgArg, MsgArg, MsgArg)

@@ -11,6 +11,7 @@ int mm_macro_file_load(int n); // register n (0..98) from its file; 0, or -1 whe
 // begin with a host. 0, or -1 when there is nothing to write or the file is none.
 int mm_macro_tmpfile_save(const char* tmp);
 int mm_macro_tmpfile_load(const char* src, const char* tmp);
-void mm_macro_tmpfile_del(int n); // the temporary of register n (0..98)
+void mm_macro_tmpfile_del(int n);   // the temporary of register n (0..98)
+void MM_Register_Data_All_Delete(); // every register of this menu becomes empty
 void mm_event_insert();
 int menu_macro_run_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);

@@ -1,0 +1,345 @@
+#include "file.h"
+#include "fmctrl_page.h"
+#include <algorithm>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+namespace fs = std::filesystem;
+
+struct DropFolders : FrameMemory {
+    int work = 500;
+
+    void SetUp() override
+    {
+        FrameMemory::SetUp();
+        File_ReplaceSync([] { return 0; });
+        for (int i = 0; i < 12; i++)
+            Pass(0); // the folders are made, at the first test of the process
+        for (const char* folder : {"/mnt/sys/FMLoad", "/mnt/sys/FTPIF/Command"})
+            for (const auto& entry : fs::recursive_directory_iterator(folder))
+                if (!entry.is_directory())
+                    fs::remove(entry.path());
+        Max(5662);
+        Settle();
+        (void)TakeQueuedCommands();
+    }
+    void TearDown() override
+    {
+        Settle();
+        File_ReplaceSync(nullptr);
+        FrameMemory::TearDown();
+    }
+    // All folders are as they were last seen, and the registers are known.
+    void Settle()
+    {
+        usleep(30000); // file times move in steps
+        (void)TakeQueuedCommands();
+        Pass(2000);
+        Strings lines = TakeQueuedCommands();
+        for (int i = 0; i < 20; i++) {
+            if (lines.empty())
+                return;
+            (void)Found(lines, {});
+            lines = Look();
+        }
+        FAIL() << "the search does not end";
+    }
+    static Strings Look()
+    {
+        (void)TakeQueuedCommands();
+        Pass(1000);
+        return TakeQueuedCommands();
+    }
+    static void Drop(const std::string& path, const std::string& text = "image")
+    {
+        usleep(30000); // file times move in steps
+        std::ofstream("/mnt/sys/FMLoad/" + path) << text;
+        usleep(30000);
+    }
+    static std::string Label(const std::string& line)
+    {
+        const size_t at = line.find('#') + 1;
+        return line.substr(at, line.find(',') - at);
+    }
+    // The server takes a command and reports by it; what the application sends then.
+    Strings Serve(const std::string& line, const Strings& reports)
+    {
+        const std::string path = line.substr(4, line.find('#') - 4);
+        const std::string ack = std::to_string(++work);
+        (void)Tell(path, Label(line) + "," + ack);
+        Strings sent;
+        for (const std::string& report : reports)
+            for (const std::string& more : Tell(path + "@Status", ack + "," + report))
+                sent.push_back(more);
+        return sent;
+    }
+    Strings Found(const Strings& search, const Strings& paths)
+    {
+        Strings rows;
+        for (const std::string& path : paths)
+            rows.push_back("/mnt/sys/FMLoad/" + path + ",Sat Apr  4 12:34:56 2020");
+        rows.push_back("OK");
+        return search.empty() ? Strings{} : Serve(search[0], rows);
+    }
+    // The two files of a conversion lie where its command says.
+    static void Convert(const std::string& line)
+    {
+        constexpr char STAGING[] = "/var/tmp/XPORT/";
+        for (size_t at = line.find(STAGING); at != std::string::npos;
+             at = line.find(STAGING, at + 1)) {
+            const fs::path path = line.substr(at, line.find(',', at) - at);
+            fs::create_directories(path.parent_path());
+            std::ofstream{path} << "converted";
+        }
+    }
+    // Every file command is carried out, to the end of all.
+    Strings Finish(Strings lines, const std::string& reply = "OK")
+    {
+        Strings all;
+        for (size_t i = 0; i < lines.size() && i < 20000; i++) {
+            all.push_back(lines[i]);
+            if (reply == "OK" && lines[i].find("2SFM") != std::string::npos)
+                Convert(lines[i]);
+            if (lines[i].starts_with("put File@"))
+                for (const std::string& more : Serve(lines[i], {reply}))
+                    lines.push_back(more);
+            if (i + 1 == lines.size()) { // the end of a job waits for the drives
+                for (int pass = 0; pass < 20; pass++)
+                    Pass(10);
+                for (const std::string& more : TakeQueuedCommands())
+                    lines.push_back(more);
+            }
+        }
+        return all;
+    }
+    static Strings Others(Strings lines)
+    {
+        std::erase_if(lines, [](const std::string& l) { return l.starts_with("put File@"); });
+        return lines;
+    }
+    static bool Exists(const std::string& path) { return fs::exists(path); }
+};
+
+struct CommandFolder : DropFolders {
+    static inline const std::string folder = "/tmp/FTPIF/Command/";
+    static void Mark(const std::string& name, const std::string& text = "")
+    {
+        std::ofstream(folder + name) << text;
+    }
+};
+} // namespace
+
+TEST_F(DropFolders, AnImageIsImportedShownAndRemoved)
+{
+    (void)Sense(1, "81", "Mlogo");
+    (void)Sense(3, "81", "Mused");
+    Pass(2000);
+    Drop("FM4/logo.2.png");
+    const Strings search = Look();
+    ASSERT_EQ(search.size(), 1u);
+    EXPECT_THAT(search[0], HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4,*.*"));
+    EXPECT_THAT(Found(search, {"FM4/logo.2.png"}),
+                ElementsAre("put Frame Mem@File@Delete Thumbnail@Single#Mlogo"));
+    Pass(499);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    Pass(1);
+    const Strings sent = Finish(TakeQueuedCommands());
+    ASSERT_FALSE(sent.empty());
+    EXPECT_THAT(sent[0], HasSubstr("PNG2SFM with Compress#"));
+    EXPECT_THAT(sent[0], HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4/logo.2.png,"));
+    EXPECT_THAT(Others(sent), ElementsAre("put Frame Mem@Recall@Recall Thumbnail@Select#FM3&4",
+                                          "put Frame Mem@Recall@Recall Thumbnail@FM4#Mlogo"));
+    EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM4/logo.2.png"));
+}
+
+TEST_F(DropFolders, GraphicsWithoutRecallGoIntoTheirFolder)
+{
+    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "1,news");
+    Pass(2000);
+    Drop("NoRecall/b.TGA");
+    Drop("NoRecall/Mclip.FMEM_001.SFM");
+    const Strings search = Look();
+    ASSERT_EQ(search.size(), 1u);
+    EXPECT_THAT(search[0], HasSubstr("FMLoad/NoRecall,"));
+    EXPECT_THAT(Found(search, {"NoRecall/b.TGA", "NoRecall/Mclip.FMEM_001.SFM",
+                               "NoRecall/readme.txt", "NoRecall/.png"}),
+                ElementsAre("put Frame Mem@Folder@Rename#2,Graphics"));
+    Pass(500);
+    const Strings sent = Finish(TakeQueuedCommands());
+    EXPECT_THAT(sent, Contains(HasSubstr("SWR000D001:FMEM_003.SF2")));
+    Strings others = Others(sent);
+    std::sort(others.begin(), others.end());
+    EXPECT_THAT(others, ElementsAre("put Frame Mem@Folder@Move Still#0,Mb,2",
+                                    "put Frame Mem@Folder@Move Still#0,Mclip,2",
+                                    "put Frame Mem@Folder@Move Still#0,Sb,2"));
+    // The folder is known by now.
+    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "2,Graphics");
+    Settle();
+    Drop("NoRecall/c.bmp");
+    EXPECT_THAT(Found(Look(), {"NoRecall/c.bmp"}), IsEmpty());
+    Pass(500);
+    EXPECT_THAT(Finish(TakeQueuedCommands()), Contains("put Frame Mem@Folder@Move Still#0,Mc,2"));
+}
+
+TEST_F(DropFolders, WhatCannotBeImportedIsNeitherShownNorKept)
+{
+    Drop("FM1/bad.bmp");
+    (void)Found(Look(), {"FM1/bad.bmp"});
+    Pass(500);
+    EXPECT_THAT(Others(Finish(TakeQueuedCommands(), "NG([ERROR] no image.)")), IsEmpty());
+    EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM1/bad.bmp"));
+}
+
+TEST_F(DropFolders, AnImageThatIsStillArrivingIsWaitedFor)
+{
+    Drop("FM1/big.bmp", "a");
+    (void)Found(Look(), {"FM1/big.bmp"});
+    for (const char* text : {"ab", "abc"}) {
+        Drop("FM1/big.bmp", text);
+        Pass(500);
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << text;
+    }
+    Pass(500);
+    EXPECT_EQ(Finish(TakeQueuedCommands()).empty(), false);
+}
+
+TEST_F(DropFolders, NamesThatCouldLeaveTheFolderOrTheCommandAreRefused)
+{
+    const std::string kept = "/mnt/sys/kept.png";
+    std::ofstream(kept) << "image";
+    Drop("FM1/a.png");
+    const Strings search = Look();
+    Strings paths = {"FM1/../../kept.png", "FM2/other.png",
+                     "FM1/sub/x.png",      "../kept.png",
+                     "FM1/a#b.png",        "FM1/a;b.png",
+                     "FM1/$(id).png",      "FM1/`id`.png",
+                     "FM1/a'b.png",        "FM1/a\"b.png",
+                     "FM1/-rf.png",        "FM1/",
+                     "FM1/a\tb.png",       "FM1/" + std::string(300, 'a') + ".png"};
+    EXPECT_THAT(Found(search, paths), IsEmpty());
+    Pass(500);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_TRUE(Exists(kept));
+    EXPECT_TRUE(Exists("/mnt/sys/FMLoad/FM1/a.png")) << "nobody told of it";
+}
+
+TEST_F(DropFolders, ThreeHundredImagesTakeTheEmptyRegistersAndNoneMore)
+{
+    Max(601);
+    (void)Sense(2, "81", "Mused");
+    Pass(2000);
+    Strings paths;
+    for (int i = 0; i < 301; i++) {
+        char name[32];
+        snprintf(name, sizeof name, "FM8/i%03d.png", 300 - i);
+        std::ofstream(std::string("/mnt/sys/FMLoad/") + name) << "image";
+        paths.push_back(name);
+    }
+    usleep(30000);
+    (void)Found(Look(), paths);
+    Pass(500);
+    const Strings sent = Finish(TakeQueuedCommands());
+    const auto count = [&](const char* part) {
+        return std::ranges::count_if(
+            sent, [=](const std::string& l) { return l.find(part) != std::string::npos; });
+    };
+    EXPECT_EQ(count("PNG2SFM"), 300) << "600 registers are free";
+    ASSERT_FALSE(sent.empty());
+    EXPECT_THAT(sent[0], HasSubstr("i001.png")) << "by name";
+    EXPECT_EQ(count("Recall Thumbnail@FM8#Mi"), 300);
+    EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM8/i300.png"));
+    EXPECT_TRUE(Exists("/mnt/sys/FMLoad/FM8/i000.png")) << "found when the store was full";
+}
+
+TEST_F(DropFolders, NothingIsTakenBeforeTheRegistersAreKnown)
+{
+    Max(5662);
+    Drop("FM1/a.png");
+    EXPECT_THAT(Look(), IsEmpty());
+    (void)Sense(1, "81", "Mused");
+    Pass(1000);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << "one was told meanwhile";
+    Pass(1000);
+    EXPECT_EQ(TakeQueuedCommands().size(), 1u);
+    // The server that was to answer has gone: it is asked again.
+    Max(5662);
+    Pass(2000);
+    Strings again = TakeQueuedCommands();
+    std::erase_if(again, [](const std::string& l) { return !l.starts_with("put File@"); });
+    EXPECT_EQ(again.size(), 1u);
+    (void)Found(again, {});
+}
+
+TEST_F(CommandFolder, AllClearAnswersWhenTheDeletionHasEnded)
+{
+    Mark("allclear.cmd");
+    const Strings sent = Look();
+    EXPECT_EQ(sent.size(), 7u);
+    EXPECT_THAT(sent, Contains("put Register@All Delete@Wipe Snapshot@MP2#true"));
+    EXPECT_FALSE(Exists(folder + "allclear.cmd"));
+    Mark("allclear.cmd"); // again, while the first one is under way
+    GL_FileProcessing = 1;
+    for (int i = 0; i < 20; i++)
+        EXPECT_THAT(Look(), IsEmpty());
+    GL_FileProcessing = 0;
+    Pass(10);
+    Pass(2980);
+    EXPECT_FALSE(Exists(folder + "allclear.res"));
+    Pass(10);
+    EXPECT_EQ(FileText(folder + "allclear.res"), "OK\n");
+    EXPECT_EQ(Look().size(), 7u) << "now the second one";
+    Pass(4990);
+    fs::remove(folder + "allclear.res");
+    Pass(10);
+    EXPECT_EQ(FileText(folder + "allclear.res"), "OK\n") << "5 seconds without any sign of it";
+}
+
+TEST_F(CommandFolder, EveryMarkerIsAnsweredOnce)
+{
+    static const struct {
+        const char* marker;
+        const char* text;
+        const char* reply;
+        const char* answer;
+    } cases[] = {
+        {.marker = "makelog.cmd", .text = "", .reply = "makelog.res", .answer = "Error\n"},
+        {.marker = "nfsmount.cmd", .text = "", .reply = "nfsmount.res", .answer = "Error\n"},
+        {.marker = "nfsmount.cmd",
+         .text = "/export;touch /tmp/owned\n",
+         .reply = "nfsmount.res",
+         .answer = "Error\n"},
+        {.marker = "nfsunmount.cmd", .text = "", .reply = "nfsunmount.res", .answer = "Error\n"},
+    };
+    for (const auto& c : cases) {
+        Mark(c.marker, c.text);
+        (void)Look();
+        EXPECT_EQ(FileText(folder + c.reply), c.answer) << c.marker;
+        EXPECT_FALSE(Exists(folder + c.marker)) << c.marker;
+        fs::remove(folder + c.reply);
+        (void)Look();
+        EXPECT_FALSE(Exists(folder + c.reply)) << c.marker;
+    }
+    EXPECT_FALSE(Exists("/tmp/owned"));
+}
+
+TEST_F(CommandFolder, WhatIsNoPlainFileStaysAndDoesNothing)
+{
+    fs::create_directory(folder + "allclear.cmd");
+    fs::create_symlink("/etc/hostname", folder + "makelog.cmd");
+    EXPECT_THAT(Look(), IsEmpty());
+    EXPECT_TRUE(Exists(folder + "allclear.cmd"));
+    EXPECT_FALSE(Exists(folder + "makelog.res"));
+    fs::remove(folder + "allclear.cmd");
+    fs::remove(folder + "makelog.cmd");
+
+    // A reply does not go where a link in its place leads.
+    std::ofstream("/tmp/precious") << "precious";
+    for (const char* name : {"nfsunmount.res", "nfsunmount.res.new"})
+        fs::create_symlink("/tmp/precious", folder + name);
+    Mark("nfsunmount.cmd");
+    (void)Look();
+    EXPECT_EQ(FileText("/tmp/precious"), "precious");
+    EXPECT_EQ(FileText(folder + "nfsunmount.res"), "Error\n");
+}

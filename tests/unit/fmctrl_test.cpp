@@ -1,0 +1,356 @@
+#include "fmctrl_page.h"
+#include <map>
+#include <random>
+#include <set>
+
+namespace
+{
+struct FrameMemoryLists : FrameMemory {
+    void SetUp() override
+    {
+        FrameMemory::SetUp();
+        Max(300);
+        (void)Tell("Frame Mem@Status@Extended Capacity", "1");
+        (void)Changes();
+    }
+};
+
+struct FrameMemoryFolders : FrameMemoryLists {
+};
+} // namespace
+
+TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammar)
+{
+    static const struct {
+        const char* name;
+        const char* clip; // null: no frame
+        const char* frame;
+    } cases[] = {
+        {.name = "M12345", .clip = "1", .frame = "2345"},
+        {.name = "M1234", .clip = nullptr, .frame = ""},
+        {.name = "Sabcd0001", .clip = "abcd", .frame = "0001"},
+        {.name = "mabc0001", .clip = nullptr, .frame = ""},
+        {.name = "Mabc001", .clip = nullptr, .frame = ""},
+        {.name = "Mabc0001x", .clip = nullptr, .frame = ""},
+        {.name = "Mabc00 1", .clip = nullptr, .frame = ""},
+        {.name = "", .clip = nullptr, .frame = ""},
+    };
+    for (const auto& c : cases) {
+        char clip[8] = "?";
+        char frame[8] = "?";
+        EXPECT_EQ(FMCtrl_DivClipName(c.name, clip, frame, sizeof clip, sizeof frame),
+                  c.clip ? 0 : -1)
+            << c.name;
+        EXPECT_STREQ(clip, c.clip ? c.clip : "") << c.name;
+        EXPECT_STREQ(frame, c.frame) << c.name;
+    }
+    char narrow[3];
+    EXPECT_EQ(FMCtrl_DivClipName("Mabcd0001", narrow, nullptr, sizeof narrow, 0), 0);
+    EXPECT_STREQ(narrow, "ab");
+
+    Store({"M1234", "M12345", "mabc0001", "Mabc0001", "Mabcdefgh", ""});
+    EXPECT_THAT(Clips(), IsEmpty());
+    EXPECT_THAT(Stills(),
+                ElementsAre(": - 5", "1234: 0 -", "12345: 1 -", "abc0001: 3 2", "abcdefgh: 4 -"));
+}
+
+TEST_F(FrameMemoryLists, AStillIsAPairWhicheverSideComesFirst)
+{
+    Store({"Slogo"});
+    EXPECT_THAT(Stills(), ElementsAre("logo: - 0"));
+    EXPECT_FALSE(FMCtrl_IsStillMain(0) || FMCtrl_IsStillPair(0));
+    Store({"Mlogo"}, 16384 + 8);
+    EXPECT_THAT(Stills(), ElementsAre("logo: x7 0"));
+    EXPECT_TRUE(FMCtrl_IsStillPair(0) && FMCtrl_IsStillExtended(0));
+    EXPECT_THAT(Changes(), ElementsAre("0, 0", "16391, 0, extended"));
+    EXPECT_EQ(FMCtrl_GetStillIdx("Mlogo"), 0);
+    EXPECT_EQ(FMCtrl_GetRegIndex("Mlogo"), -1);
+    EXPECT_EQ(FMCtrl2_GetRegIndex("Mlogo"), 16391);
+
+    (void)Sense(1, "0", "");
+    EXPECT_THAT(Stills(), ElementsAre("logo: x7 -"));
+    EXPECT_EQ(FMCtrl_GetStillIdx("Slogo"), -1);
+}
+
+TEST_F(FrameMemoryLists, ANamesakeWaitsForThePlaceOfTheLast)
+{
+    Store({"Mlogo", "Mlogo"});
+    Store({"Mlogo"}, 16384 + 1);
+    EXPECT_THAT(Stills(), ElementsAre("logo: x0 -"));
+    EXPECT_EQ(FMCtrl2_GetRegIndex("Mlogo"), 0) << "the lower number, main before extended";
+    (void)Sense(16384 + 1, "0", "");
+    EXPECT_THAT(Stills(), ElementsAre("logo: 0 -")) << "the lowest of those that are left";
+    Store({"Mnew"});
+    EXPECT_THAT(Stills(), ElementsAre("logo: 1 -", "new: 0 -"));
+}
+
+TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndOneDoesNot)
+{
+    Store({"Mabc0002"});
+    EXPECT_THAT(Clips(), IsEmpty());
+    EXPECT_THAT(Sense(2, "81", "Mabc0001"),
+                ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mabc"));
+    EXPECT_THAT(Clips(), ElementsAre("abc: 1 0 /"));
+    EXPECT_EQ(FMCtrl_GetClipAncillary(0), ANCILLARY_UNKNOWN);
+    EXPECT_EQ(FMCtrl_GetClipMidRegId(0, 0), 0);
+    EXPECT_THAT(Sense(3, "81", "Sabc0002"), IsEmpty());
+    EXPECT_THAT(Clips(), ElementsAre("abc: 1 0 / 2"));
+
+    EXPECT_THAT(Sense(1, "81", "Mabc0002"), IsEmpty()) << "told again, it stays what it is";
+    (void)Sense(2, "0", "");
+    EXPECT_THAT(Clips(), IsEmpty());
+    EXPECT_THAT(Stills(), ElementsAre("abc0002: 0 2"));
+    // The other side makes the clip, and asks by its own prefix.
+    EXPECT_THAT(Sense(4, "81", "Sabc0007"),
+                ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Sabc"));
+    EXPECT_THAT(Clips(), ElementsAre("abc: 0 / 2 3"));
+}
+
+TEST_F(FrameMemoryLists, TheShownFrameMovesWithinItsClip)
+{
+    Store({"Mabc0001", "Mabc0002", "Mabc0003", "Mabc0004", "Mabc0005"});
+    EXPECT_EQ(FMCtrl_GetClipFrameIdx(0, 0), 2);
+    EXPECT_EQ(FMCtrl_MoveClipFrame(0, 0, 100), 0);
+    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 0), 4);
+    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 1), -1);
+    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, -4), 0);
+    EXPECT_EQ(FMCtrl_GetClipMidRegId(0, 0), 2) << "the middle is not moved";
+    EXPECT_EQ(FMCtrl_MoveClipFrame(0, 0, INT_MIN), 0);
+    EXPECT_EQ(FMCtrl_GetClipFrameIdx(0, 0), 0);
+    EXPECT_EQ(FMCtrl_MoveClipFrame(1, 0, 1), -1);
+}
+
+TEST_F(FrameMemoryLists, AncillaryIsOfTheClipOfThatName)
+{
+    Store({"Mabc0001", "Mabc0002", "Mxyz0001", "Mxyz0002", "Mlogo"});
+    (void)Changes();
+    (void)Tell("Frame Mem@Clip@Ancillary Playback Enable", "0,Mxyz,1");
+    (void)Tell("Frame Mem@Clip@Ancillary Playback Enable", "0,Mnone,1");
+    (void)Tell("Frame Mem@Clip@Ancillary Playback Enable", "0,M");
+    EXPECT_THAT(Changes(), ElementsAre("1, 2"));
+    EXPECT_EQ(FMCtrl_GetClipAncillary(1), 1);
+    EXPECT_EQ(FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx("Mxyz0001")), 1);
+    EXPECT_EQ(FMCtrl_GetClipAncillary(0), ANCILLARY_UNKNOWN);
+    EXPECT_EQ(FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx("Mlogo")), 0);
+}
+
+TEST_F(FrameMemoryLists, RegisterStatusAsksForTheSetAndEmptiesTheClear)
+{
+    Store({"Ma", "Mb"});
+    Store({"Mc"}, 16384 + 129);
+    (void)Changes();
+    EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@0", "80000000000000000000000100000001"),
+                ElementsAre("put 16@Frame Mem@Status@File Name Sense#1",
+                            "put 16@Frame Mem@Status@File Name Sense#33",
+                            "put 16@Frame Mem@Status@File Name Sense#128"));
+    EXPECT_THAT(Changes(), ElementsAre("1, 0"));
+    EXPECT_THAT(Stills(), ElementsAre("a: 0 -", "c: x128 -"));
+    EXPECT_STREQ(FMCtrl_GetRegName(1), "");
+
+    const std::string none(32, '0');
+    EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@129", none.substr(1) + "2"),
+                ElementsAre("put 16@Frame Mem@Status@File Name Sense#16514"));
+    EXPECT_FALSE(FMCtrl2_IsRegStore(128));
+    // 300 registers: the third bank ends with the 44th of it.
+    EXPECT_EQ(Tell("16@Frame Mem@Status@Register Status@2", std::string(32, 'F')).size(), 44u);
+
+    for (const char* value : {"", "0000000", "0000000G", "0x000000", "0000,000"})
+        EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@0", value), IsEmpty());
+    for (const char* bank : {"3", "127", "-1", "256", "99999999999", "x", ""})
+        EXPECT_THAT(
+            Tell(std::string("16@Frame Mem@Status@Register Status@") + bank, std::string(32, 'F')),
+            IsEmpty());
+    EXPECT_TRUE(FMCtrl_IsRegStore(0));
+    (void)Tell("Frame Mem@Status@Extended Capacity", "0");
+    EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@128", std::string(32, 'F')), IsEmpty());
+}
+
+TEST_F(FrameMemoryLists, ALineOutOfRangeChangesNothing)
+{
+    for (const char* value : {"0,81,Mx", "301,81,Mx", "16384,81,Mx", "16685,81,Mx", "-1,81,Mx",
+                              "x,81,Mx", "", ",,", "1", "99999999999999999999,81,Mx"})
+        (void)Tell("16@Frame Mem@Status@File Name Sense", value);
+    for (const char* value : {"-1", "16385", "x", ""})
+        (void)Tell("16@Frame Mem@Status@Max Register", value);
+    EXPECT_THAT(Stills(), IsEmpty());
+    EXPECT_EQ(SYS_FmemRegMax, 300);
+    (void)Sense(1, "81", "Ma name that is too long,and a comma");
+    EXPECT_STREQ(FMCtrl_GetRegName(0), "Ma name t");
+}
+
+TEST_F(FrameMemoryLists, MaxRegisterBeginsAnew)
+{
+    Store({"Mabc0001", "Mabc0002"});
+    (void)Changes();
+    const Strings sent = Tell("16@Frame Mem@Status@Max Register", "2");
+    EXPECT_EQ(sent.size(), 46u);
+    EXPECT_THAT(sent, Contains("read 16@Frame Mem@Status@Folder Status@44"));
+    EXPECT_THAT(sent, Contains("read 16@Frame Mem@Status@Folder Name Sense"));
+    EXPECT_THAT(Changes(), ElementsAre("0, 0"));
+    EXPECT_THAT(Stills(), IsEmpty());
+    (void)Sense(2, "81", "Mabc0002"); // the same names as before
+    (void)Sense(1, "81", "Mabc0001");
+    EXPECT_THAT(Clips(), ElementsAre("abc: 0 1 /"));
+
+    Max(0);
+    EXPECT_EQ(FMCtrl2_GetRegIndex("Mabc0001"), -1);
+    EXPECT_EQ(FMCtrl2_EmptyRegNo(0), -1);
+    EXPECT_STREQ(FMCtrl2_GetRegNameMulti(0), "");
+    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 0), -1);
+    EXPECT_STREQ(FMCtrl_GetStillFolderName(0), "");
+    EXPECT_FALSE(FmemReg || FmemReg2);
+}
+
+TEST_F(FrameMemoryLists, AllAtOnceIsEmptiedInSlices)
+{
+    for (int n = 1; n <= 300; n++)
+        (void)Sense(16384 + n, "81", "Mx" + std::to_string(n));
+    Store({"Mmain"});
+    (void)Tell("Frame Mem@Status@Extended Capacity", "0");
+    EXPECT_EQ(FMCtrl_GetStillNum(), 301 - 128);
+    Pass(0);
+    EXPECT_EQ(FMCtrl_GetStillNum(), 301 - 256);
+    (void)Sense(16384 + 300, "81", "Mnew"); // meanwhile
+    Pass(0);
+    Pass(0);
+    EXPECT_THAT(Stills(), ElementsAre("main: 0 -", "new: x299 -"));
+}
+
+TEST_F(FrameMemoryLists, DefaultImageNumbersRiseAndPassThoseInUse)
+{
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 1);
+    Store({"Mimage002", "Simage003", "Mimage004"});
+    Store({"Ximage004", "Simage003"}, 16384 + 1);
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 2) << "free in the extended store";
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 4) << "3 is taken in both";
+    (void)Tell("Frame Mem@Status@Extended Capacity", "0");
+    for (int n = 5; n <= 999; n++)
+        EXPECT_EQ(FMCtrl_GetDefaultImageNum(), n);
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 1) << "and without an extended store";
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 5);
+}
+
+// Registers are stored, renamed and emptied at random, with few names for many registers. What the
+// lists hold is compared with a count over all registers.
+TEST_F(FrameMemoryLists, FollowAStormAsAPlainRecountWould)
+{
+    constexpr int REGISTERS_EACH = 300;
+    std::mt19937 random(20);
+    const auto pick = [&](int n) { return int(random() % unsigned(n)); };
+    std::map<int, std::string> model; // by index
+    const auto recount = [&] {
+        std::map<std::string, std::set<int>> side; // 'M' or 'S' and the bare name
+        std::set<std::string> names;
+        for (const auto& [index, name] : model) {
+            side[(name[0] == 'M' ? "M" : "S") + name.substr(1)].insert(index);
+            names.insert(name.substr(1));
+        }
+        ASSERT_EQ(FMCtrl_GetStillNum(), int(names.size()));
+        std::map<std::string, std::map<std::string, int>> frames[2]; // clip, frame, register
+        int i = 0;
+        for (const std::string& name : names) {
+            ASSERT_EQ(FMCtrl_GetStillName(i), name);
+            for (int is_sub : {0, 1}) {
+                const auto& all = side[(is_sub ? "S" : "M") + name];
+                const int index = FMCtrl_GetStillRegId(i, is_sub);
+                ASSERT_EQ(index >= 0, !all.empty()) << name;
+                if (index < 0)
+                    continue;
+                ASSERT_TRUE(all.count(index)) << name;
+                char clip[12], frame[12];
+                if (FMCtrl_DivClipName(model[index].c_str(), clip, frame, 12, 12) == 0)
+                    frames[is_sub][clip][frame] = index;
+            }
+            i++;
+        }
+        std::set<std::string> clips;
+        for (const auto& one_side : frames)
+            for (const auto& [clip, list] : one_side)
+                if (list.size() > 1)
+                    clips.insert(clip);
+        ASSERT_EQ(FMCtrl_GetClipNum2(), int(clips.size()));
+        int c = 0;
+        for (const std::string& clip : clips) {
+            ASSERT_EQ(FMCtrl_GetClipName(c), clip);
+            for (int is_sub : {0, 1}) {
+                std::string expected;
+                for (const auto& [frame, index] : frames[is_sub][clip])
+                    expected += " " + Number(index);
+                ASSERT_EQ(Frames(c, is_sub), expected) << clip;
+                ASSERT_EQ(FMCtrl_GetClipFrameIdx(c, is_sub), int(frames[is_sub][clip].size()) / 2);
+            }
+            c++;
+        }
+    };
+    const char* words[] = {"a", "ab", "abc0", "1", "A", "a000"};
+    for (int step = 0; step < 30000; step++) {
+        const int index = pick(2) * FMEM_EXTENDED + pick(REGISTERS_EACH);
+        const int density = step / 5000 % 2 ? 8 : 2; // filling, then emptying
+        if (pick(density + 1) == 0 || (density == 2 && pick(2))) {
+            (void)Sense(index + 1, "0", "");
+            model.erase(index);
+        } else {
+            char name[16];
+            snprintf(name, sizeof name, "%c%s%04d", "MMMSSSmX"[pick(8)], words[pick(6)], pick(40));
+            name[pick(30) ? 9 : 1 + pick(8)] = '\0'; // some are cut short
+            (void)Sense(index + 1, "81", name);
+            model[index] = name;
+        }
+        if (step % 300 == 0) {
+            recount();
+            if (HasFatalFailure())
+                FAIL() << "at step " << step;
+        }
+    }
+    FMCtrl_Quit();
+}
+
+TEST_F(FrameMemoryFolders, NamesAreSortedTheUnusedLast)
+{
+    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "0,Default.,1,news,2,,3,Zoo,11,art");
+    Strings names;
+    for (int row = 0; row < 6; row++)
+        names.push_back(std::to_string(FMCtrl_GetFolderId(row)) + FMCtrl_GetFolder(row)->name);
+    EXPECT_THAT(names, ElementsAre("0Default.", "3Zoo", "11art", "1news", "2", "4"));
+    EXPECT_EQ(FMCtrl_GetFolderNum(), 4);
+    EXPECT_EQ(probe::Count(LMSG_FOLDERNAMESENSE), 1);
+    EXPECT_EQ(FMCtrl_GetIsFolderIdx(11), 2);
+    EXPECT_EQ(FMCtrl_GetIsFolderIdx(12), -1);
+    EXPECT_TRUE(FMCtrl_ExistFolderName("art"));
+    EXPECT_FALSE(FMCtrl_ExistFolderName("")) << "the unused have no name";
+    // An id that no folder has ends the line.
+    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "1,a name too long,99,x,3,Zebra");
+    EXPECT_STREQ(FMCtrl_GetFolder(2)->name, "a name t");
+    EXPECT_FALSE(FMCtrl_ExistFolderName("Zebra"));
+}
+
+TEST_F(FrameMemoryFolders, FolderStatusMovesStillsAndClips)
+{
+    Store({"Mlogo", "Mabc0001", "Mabc0002"});
+    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "11,art");
+    (void)Changes();
+    (void)Tell("16@Frame Mem@Status@Folder Status@0", "0B010b03Gx01");
+    EXPECT_THAT(Changes(), ElementsAre("0, 0", "1, 0", "2, 0"));
+    EXPECT_EQ(FMCtrl_GetRegFolderId(3), 3) << "kept for the image that comes";
+    EXPECT_EQ(FMCtrl_GetRegFolderId(5), 0) << "nothing behind what is no number";
+    EXPECT_STREQ(FMCtrl_GetStillFolderName(FMCtrl_GetStillIdx("Mlogo")), "art");
+    EXPECT_EQ(FMCtrl_GetClipFolderId(0), 11) << "that of the frame moved last";
+    EXPECT_EQ(FMCtrl_GetFolderAllStillNum(11), 2);
+    EXPECT_EQ(FMCtrl_GetFolderStillNum(11), 1);
+    EXPECT_EQ(FMCtrl_GetFolderClipNum(11), 1);
+    EXPECT_EQ(FMCtrl_GetFolderExtClipNum(11), 0);
+    (void)Tell("16@Frame Mem@Status@Folder Status@0", "0B010B03");
+    EXPECT_THAT(Changes(), IsEmpty()) << "nothing has changed";
+
+    (void)Tell("Frame Mem@Folder@Move Still", "0,Mlogo,A");
+    EXPECT_EQ(FMCtrl_GetRegFolderId(0), 10);
+    (void)Tell("Frame Mem@Folder@Move Still",
+               "0,Mlogo,11"); // the application's own way to write it
+    EXPECT_EQ(FMCtrl_GetRegFolderId(0), 11);
+    for (const char* value : {"0,Mlogo,12", "0,Mlogo,", "0,Mnone,1", "0,Mlogo", ""})
+        (void)Tell("Frame Mem@Folder@Move Still", value);
+    EXPECT_EQ(FMCtrl_GetRegFolderId(0), 11);
+    Store({"Mext"}, 16384 + 2);
+    (void)Tell("16@Frame Mem@Status@Folder Status@128", "0007");
+    EXPECT_EQ(FMCtrl_GetRegFolderId(FMEM_EXTENDED + 1), 7);
+}
