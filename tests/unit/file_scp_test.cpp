@@ -139,8 +139,9 @@ TEST_F(FileRemote, WhatIsNoResultLineIsPassedOver)
         {"a.SST,OK,\n", FILESTATUS_NG},
         {"a.SST,\n", FILESTATUS_NG},
         {longest + ",OK\na.SST,OK\n", FILESTATUS_REQ},
-        {longest + "x,OK\na.SST,OK\n", FILESTATUS_REQ},         // 1,025 characters
-        {std::string(1017, 'x') + "a.SST,OK\n", FILESTATUS_NG}, // its end is no line
+        {longest + "x,OK\na.SST,OK\n", FILESTATUS_REQ},                       // 1,025 characters
+        {"a.SST," + std::string(1019, 'x') + "\na.SST,OK\n", FILESTATUS_REQ}, // 1,025, too
+        {std::string(1017, 'x') + "a.SST,OK\n", FILESTATUS_NG},               // its end is no line
         {std::string("\0\0,a.SST,OK\na.SST,OK", 20), FILESTATUS_REQ},
     };
     for (const auto& c : cases) {
@@ -247,6 +248,27 @@ TEST_F(FileRemote, TheOtherDirectionWaitsUntilTheTargetIsFree)
                                        "Request#SWR1.File:VPROCMEM.USER_ID:MENU1"));
     EXPECT_EQ(Scp_TrnasferList[0].status, FILE_SCP_STATUS_PUT);
     File_XferList_RemoveAll(&puts);
+}
+
+TEST_F(FileRemote, JobsOfOneDirectionFollowEachOther)
+{
+    FILEXFERLIST* more[2] = {};
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 1);
+    File_XferList_SCPAdd(&more[0], "SWR000D001:/k.SKM", "MYHOST:/d/k.SKM", "KEYMEM", "SWR1");
+    File_TransSCPdirGetList(&more[0], List, 2);
+    File_XferList_SCPAdd(&more[1], "SWR000D001:/b.SST", "MYHOST:/d/b.SST", "SETUP", "SWR1");
+    File_TransSCPdirGetList(&more[1], List, 3);
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
+    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Notify("SETUP.USER_ID:MENU1");
+    Notify("SETUP.STATUS:Standby");
+    (void)HubSent();
+    // Of those that wait, the one that wants the free category is the first.
+    Notify("SETUP.USER_ID:Non");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
+    for (FILEXFERLIST*& one : more)
+        File_XferList_RemoveAll(&one);
 }
 
 TEST_F(FileRemote, AllCategoriesOfAJobEndBeforeItDoes)
@@ -357,6 +379,7 @@ TEST_F(FileRemote, ADisconnectLeavesTheOtherTargetItsWork)
     Hub("Disconnect", "SWR1.File");
     EXPECT_THAT(told, IsEmpty());
     EXPECT_EQ(At(0)->status, FILESTATUS_CANCEL);
+    EXPECT_EQ(At(1)->status, FILESTATUS_WAIT);
     Notify("SETUP.USER_ID:MENU1", "PNL1.File");
     EXPECT_EQ(State("SETUP", 4), FILE_CATEGORY_STATUS_WAIT_GET);
     Hub("Disconnect", "PNL1.File");
@@ -516,6 +539,21 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
     Answer(7, "NG(x)");
     EXPECT_STREQ(At(2)->mesg, "z.SFH: NG([ERROR] Make Folder failed.)");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Standby"));
+}
+
+TEST_F(FileStore, APicturesOwnFolderIsNoneToBeMade)
+{
+    for (const char* name : {"A/m.SFH/m", "A/n.SFH/n"})
+        File_XferList_SCPAdd_FM(&list, (std::string("MYHOST:/d/") + name + ".SFH").c_str(),
+                                (std::string("SWR000D001:/") + name + ".SFH").c_str(), "FRAMEMEM",
+                                "CS1", 0, "", 0, 0);
+    File_TransSCPdirPutList_FM(&list, List, 0);
+    Store("USER_ID::MENU1");
+    EXPECT_THAT(SentOne(), HasSubstr("Make Dir#L4"));
+    Answer(4, "OK");
+    (void)Sent();
+    Answer(1, "NG(x)");
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,"));
 }
 
 TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)

@@ -118,8 +118,9 @@ TEST_F(FileJobs, RowsOfSixAndSevenFieldsKeepTheirJob)
 TEST_F(FileJobs, LinesThatAreNoneChangeNothing)
 {
     File_ExecCopy("a", "b", Text, 0);
-    for (const char* ack : {"", "L", "L1", "L1,", "L1,0", "L0,5", "L4294967295,5", "L4294967296,5",
-                            "L99999999999999999999,5", "Lx,5", "1,5", "L-1,5", "L1 ,5"})
+    for (const char* ack :
+         {"", "L", "L1", "L1,", "L1,0", "L0,5", "L4294967295,5", "L4294967296,5", "L4294967297,5",
+          "L99999999999999999999,5", "Lx,5", "1,5", "L-1,5", "L1 ,5"})
         Deliver("File@Access@Copy", ack);
     ASSERT_TRUE(QueueRoot);
     EXPECT_EQ(QueueRoot->ack, 0u);
@@ -186,10 +187,14 @@ TEST_F(FileLists, ItemsKeepTheirOrderAndLeaveByTheirTexts)
     EXPECT_EQ(File_XferList_Remove(&list, "MYHOST:/s/f1", "MYHOST:/d/f1"), 0);
     EXPECT_EQ(File_XferList_SCPRemove(&list, "s", "d", "SETUP", "SWR2"), -1);
     EXPECT_EQ(File_XferList_SCPRemove(&list, "s", "d", "SETUP", "SWR1"), 0);
+    EXPECT_EQ(File_XferList_Add(&list, "gone", "g"), 0);
+    EXPECT_EQ(File_XferList_Remove(&list, "gone", "g"), 0);
+    EXPECT_EQ(File_XferList_Add(&list, "near the end", "n"), 0);
     EXPECT_EQ(File_XferList_Move(&list, list, &other), 0);
     EXPECT_EQ(File_XferList_Add(&list, "last", "l"), 0);
     EXPECT_STREQ(list->src, "MYHOST:/s/f2");
-    EXPECT_STREQ(list->next->src, "last");
+    EXPECT_STREQ(list->next->src, "near the end");
+    EXPECT_STREQ(list->next->next->src, "last");
     EXPECT_STREQ(other->next->src, "MYHOST:/s/f0");
     EXPECT_EQ(other->next->next, nullptr);
     const std::string path(300, 'p');

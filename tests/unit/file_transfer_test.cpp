@@ -185,6 +185,12 @@ TEST_F(FileSteps, EightPicturesAreUnderWayAndOneOnARamDisk)
     EXPECT_EQ(Sent().size(), 1u);
     Answer(list->label, "NG(x)");
     EXPECT_EQ(Sent().size(), 1u);
+    File_XferList_RemoveAll(&list);
+    for (const char* name : {"a", "b"})
+        File_XferList_Add(&list, (std::string("MYHOST:/a/") + name + ".SFM").c_str(),
+                          (std::string("SWR000D001:FMEM_00") + name + ".SFM").c_str());
+    File_ExecTransferList(&list, List, 0);
+    EXPECT_EQ(Sent().size(), 1u);
 }
 
 TEST_F(FileSteps, TwoFilesNeverShareAStagingPath)
@@ -210,7 +216,7 @@ struct FileImport : FileSteps {
         DEV_Swr[0].activeline = 4;
         File_ExecFmImportStartRegNoSet(1);
         File_ExecFmImportRegNoSet(11, 0);
-        File_ExecFmImportRegNoSet(1234, 1);
+        File_ExecFmImportRegNoSet(999, 1);
     }
     void TearDown() override
     {
@@ -231,7 +237,7 @@ TEST_F(FileImport, BothSidesAreStoredUnderTheirRegistersAndRemoved)
                             "MYHOST:/mnt/usb/usb1/abcdefghij.tif," +
                                 a + "," + b + ",3,0,0",
                             "Frame Memory@PutV3#," + a + ",SWR000D001:FMEM_012.SF2",
-                            "Frame Memory@PutV3#," + b + ",SWR000D001:FMEM1235.SF2",
+                            "Frame Memory@PutV3#," + b + ",SWR000D001:FMEM1000.SF2",
                             "Access@Remove#," + a, "Access@Remove#," + b));
 }
 
@@ -244,6 +250,13 @@ TEST_F(FileImport, ASideThatIsMissingIsPassedOver)
     EXPECT_THAT(steps, ElementsAre("Frame Memory@PutV3#," + b + ",SWR000D001:FMEM_012.SF2",
                                    "Access@Remove#," + b));
     std::remove(second.c_str());
+    const std::string main_side = "MYHOST:" + first;
+    WriteFile(first, "x");
+    steps = Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
+    steps.erase(steps.begin());
+    EXPECT_THAT(steps, ElementsAre("Frame Memory@PutV3#," + main_side + ",SWR000D001:FMEM1000.SF2",
+                                   "Access@Remove#," + main_side));
+    std::remove(first.c_str());
     File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
     int status = 0;
     probe::answer = [&](const probe::Seen& s) {
