@@ -95,7 +95,7 @@ class Objects(DeskCase):
         self.desk.touch(48, 73 + 65 + 30)  # the second tab on the left
         self.desk.wait_wire("add M/E-1@Key2@Type@Auto Chroma")
         time.sleep(0.3)
-        self.desk.touch(100 + 100 + 50, 75 + 45)  # the second cell: the edge of this key
+        self.desk.touch(100 + 2 * 100 + 50, 75 + 45)  # the third cell: the edge of this key
         self.desk.wait_wire("add M/E-1@Key2@Edge@Edge Fill")
 
     def test_99_nothing_was_missing(self):
