@@ -38,6 +38,11 @@ FILEXFERLIST* fmem_current(const Scp& s)
     return item && item->job == s.cat.queue ? item : nullptr;
 }
 
+static const char* without_slash(const char* path)
+{
+    return path[0] == '/' ? path + 1 : path;
+}
+
 bool fmem_is_current(const Scp& s, const char* path)
 {
     const FILEXFERLIST* item = fmem_current(s);
@@ -46,19 +51,23 @@ bool fmem_is_current(const Scp& s, const char* path)
     char own[FILE_PATH_SIZE];
     char named[FILE_PATH_SIZE];
     fmem_relative(own, s, item);
-    CopyText(named, BeginsWith(path, s.cat.path) ? path + strlen(s.cat.path) : path);
     fmem_cut_ext(own);
+    CopyText(named, BeginsWith(path, s.cat.path) ? path + strlen(s.cat.path) : path);
+    // A name may hold a dot of its own: what comes without an extension is compared as it is first.
+    if (strcmp(without_slash(own), without_slash(named)) == 0)
+        return true;
     fmem_cut_ext(named);
-    return strcmp(own[0] == '/' ? own + 1 : own, named[0] == '/' ? named + 1 : named) == 0;
+    return strcmp(without_slash(own), without_slash(named)) == 0;
 }
 
-// --- What the hub is told ---
+// --- What the hub is told: paths without their extensions ---
 
 static void request_get(const Scp& s, FILEXFERLIST* item)
 {
     char path[FILE_PATH_SIZE];
     char rest[FILE_PATH_SIZE + 16];
     fmem_relative(path, s, item);
+    fmem_cut_ext(path);
     if (scp_is_cs(s) && item->fmext != TRANS_FILETYPE_SFH)
         PrintText(rest, ",%s,%s", path, file_trans_filetype(item->fmext));
     else
@@ -76,6 +85,7 @@ static bool request_put(const Scp& s, const FILEXFERLIST* item)
     if (format < 0)
         return false;
     fmem_relative(path, s, item);
+    fmem_cut_ext(path);
     if (scp_is_cs(s))
         PrintText(rest, ",%s,%d,%d", path, format, std::max(1, item->import_no[1]));
     else

@@ -469,14 +469,14 @@ struct FileStore : FileRemote {
 
 TEST_F(FileStore, PicturesAreGotOneAtATime)
 {
-    for (const char* name : {"A/x", "y", "z"})
+    for (const char* name : {"A/x", "y.1", "z"})
         File_XferList_SCPAdd_FM(&list, (std::string("SWR000D001:/") + name + ".SFH").c_str(),
                                 (std::string("MYHOST:/d/") + name + ".SFH").c_str(), "FRAMEMEM",
                                 "CS1", 0, "", 0, 0);
     File_TransSCPdirGetList_FM(&list, List, 0);
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.USER_ID::MENU1"));
     Store("USER_ID::MENU1");
-    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x.SFH"));
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x"));
     EXPECT_EQ(list->status, FILESTATUS_GET_START);
     Store("STATUS::Get,/y.SFH"); // another one's
     EXPECT_THAT(Sent(), IsEmpty());
@@ -485,11 +485,11 @@ TEST_F(FileStore, PicturesAreGotOneAtATime)
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Get#L1,SWR000D001:/A/x.SFH"));
     EXPECT_EQ(At(1)->status, FILESTATUS_WAIT);
     Answer(1, "OK");
-    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/y.SFH"));
-    Store("STATUS::Get,/y.SFH");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/y.1"));
+    Store("STATUS::Get,/y.1");
     Listed("other.SFH", "Get");
-    EXPECT_STREQ(At(1)->mesg, "y.SFH: NG([ERROR] File Not Exist.)");
-    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/z.SFH"));
+    EXPECT_STREQ(At(1)->mesg, "y.1.SFH: NG([ERROR] File Not Exist.)");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/z"));
     Store("STATUS::Get,/z.SFH");
     Listed("/z", "Get");
     (void)Sent();
@@ -506,7 +506,7 @@ TEST_F(FileStore, AnExportComesAsTheWantedKind)
     File_ExecFmExportList2(&list, List, 0);
     (void)HubSent();
     Store("USER_ID::MENU1");
-    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x.SFH,TIF"));
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x,TIF"));
     Store("STATUS::Get,/A/x.SFH");
     Listed("/A/x.TIF", "Get");
     EXPECT_EQ(SentOne(), "Remote Access@SCP Dir Get#L1,SWR000D001:" WORK
@@ -528,7 +528,7 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
     Answer(5, "OK");
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L1,"));
     Answer(1, "OK");
-    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Put,/A/x.SFH,4,1"));
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Put,/A/x,4,1"));
     Store("STATUS::Put,/A/x.SFH");
     Listed("A/x", "Put");
     EXPECT_EQ(list->status, FILESTATUS_OK);
@@ -576,7 +576,7 @@ TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)
                          "SWR000D001:/c.SFH/c#000000.SFH,FRAMEMEM");
     Answer(1, "OK");
     EXPECT_THAT(HubSent(),
-                ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Put,/c.SFH/c#000000.SFH,4,2"));
+                ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Put,/c.SFH/c#000000,4,2"));
     Store("STATUS::Put,/c.SFH/c#000000.SFH");
     Listed("/c.SFH/c#000000.SFH", "Put");
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,")) << "no second folder";
