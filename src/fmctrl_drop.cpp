@@ -69,7 +69,8 @@ static struct {
     int found_room = 0;
     uint64_t sizes = 0; // of all found files, when last looked at
     int graphics_id = 0;
-    int jobs = 0; // transfers that run
+    int jobs = 0;               // transfers that run
+    uint32_t job_label[2] = {}; // of them; 0 none
 } drop;
 
 // --- Making the folders anew at start-up: a command a pass ---
@@ -358,9 +359,21 @@ static void look_at_folders()
 
 void fm_drop_link_lost()
 {
-    if (drop.state != DROP_SEARCH)
-        return;
-    FMAuto[drop.folder].before_tm = drop.searched;
+    switch (drop.state) {
+    case DROP_SEARCH:
+        (void)File_ExecUSBReload_cancel(drop.label);
+        FMAuto[drop.folder].before_tm = drop.searched;
+        break;
+    case DROP_TRANSFER:
+        // The files are still there, also those that have arrived: their registers are replaced.
+        for (uint32_t& label : drop.job_label) {
+            (void)File_ExecUSBReload_cancel(label); // unknown when it has ended
+            label = 0;
+        }
+        FMAuto[drop.folder].before_tm = {};
+        break;
+    default: return;
+    }
     found_forget();
     drop.state = DROP_IDLE;
 }
@@ -428,15 +441,18 @@ static void fmauto_sfm_result(uint32_t, int k)
     job_ended(FMAuto_SfmList, k, false);
 }
 
-static void start_job(int (*start)(FILEXFERLIST**, FILE_LIST_FUNC, int), FILEXFERLIST** list,
-                      FILE_LIST_FUNC result)
+// Returns the job's label, 0 when there is none.
+static uint32_t start_job(int (*start)(FILEXFERLIST**, FILE_LIST_FUNC, int), FILEXFERLIST** list,
+                          FILE_LIST_FUNC result)
 {
     if (!*list)
-        return;
-    if (start(list, result, drop.folder) == -1) {
-        result(0, drop.folder);
-        File_XferList_RemoveAll(list);
-    }
+        return 0;
+    const int label = start(list, result, drop.folder);
+    if (label != -1)
+        return uint32_t(label);
+    result(0, drop.folder);
+    File_XferList_RemoveAll(list);
+    return 0;
 }
 
 static void start_transfers()
@@ -459,8 +475,10 @@ static void start_transfers()
     drop.jobs = (FMAuto_ImageList ? 1 : 0) + (FMAuto_SfmList ? 1 : 0);
     drop.state = drop.jobs ? DROP_TRANSFER : DROP_IDLE;
     File_ExecFmImportStartRegNoSet(1);
-    start_job(File_ExecFmImportList_AutoLoad, &FMAuto_ImageList, fmauto_image_result);
-    start_job(File_ExecTransferList_AutoLoad, &FMAuto_SfmList, fmauto_sfm_result);
+    drop.job_label[0] =
+        start_job(File_ExecFmImportList_AutoLoad, &FMAuto_ImageList, fmauto_image_result);
+    drop.job_label[1] =
+        start_job(File_ExecTransferList_AutoLoad, &FMAuto_SfmList, fmauto_sfm_result);
 }
 
 // A file that is still being written is not taken yet.
@@ -497,9 +515,8 @@ void fm_drop_pass(int elapsed_ms)
 
 void fm_drop_quit()
 {
+    fm_drop_link_lost();
     found_forget();
-    if (drop.state == DROP_TRANSFER)
-        return; // the lists belong to their jobs
     const int setup_step = drop.setup_step;
     drop = {};
     drop.setup_step = setup_step;

@@ -77,7 +77,7 @@ SDL_Surface* fm_load_bmp(const char* path);
 
 // --- Drop folders and command files ---
 void fm_drop_pass(int elapsed_ms);
-void fm_drop_link_lost(); // a search in flight will not be answered: it is made again
+void fm_drop_link_lost(); // what is in flight will not be answered: it is done again
 // How many registers there are has been told; something of them is being told. No image is dropped
 // on a register of which it is not known yet whether it is empty.
 void fm_drop_size_told();

@@ -102,6 +102,7 @@ static void set_waiting(FMEMREG& r)
 void fm_thumbnails_forget_fetches()
 {
     for (int i = 0; i < th.fetches; i++) {
+        (void)File_ExecUSBReload_cancel(th.fetch[i].label); // else it stays for an answer
         FMEMREG* r = fm_register(th.fetch[i].index);
         if (!r || r->filelabel != th.fetch[i].label)
             continue;

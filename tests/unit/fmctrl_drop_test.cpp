@@ -7,6 +7,7 @@
 namespace
 {
 namespace fs = std::filesystem;
+using testing::SizeIs;
 
 struct DropFolders : FrameMemory {
     int work = 500;
@@ -269,7 +270,19 @@ TEST_F(DropFolders, NothingIsTakenBeforeTheRegistersAreKnown)
     Strings again = TakeQueuedCommands();
     std::erase_if(again, [](const std::string& l) { return !l.starts_with("put File@"); });
     EXPECT_EQ(again.size(), 1u);
-    (void)Found(again, {});
+    // And once more while it was to import what has been found.
+    (void)Found(again, {"FM1/a.png"});
+    Pass(500);
+    EXPECT_EQ(TakeQueuedCommands().size(), 1u);
+    Max(5662);
+    EXPECT_EQ(QueueRoot, nullptr) << "nothing waits for an answer";
+    Pass(2000);
+    again = TakeQueuedCommands();
+    std::erase_if(again, [](const std::string& l) { return !l.starts_with("put File@"); });
+    (void)Found(again, {"FM1/a.png"});
+    Pass(500);
+    EXPECT_THAT(Others(Finish(TakeQueuedCommands())), SizeIs(2));
+    EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM1/a.png"));
 }
 
 TEST_F(CommandFolder, AllClearAnswersWhenTheDeletionHasEnded)

@@ -236,6 +236,7 @@ TEST_F(FrameMemoryThumbnails, AServerThatForgotThemIsAskedAgain)
     auto gets = Gets(Sense(1, "1", "Ma"));
     const auto lost = gets;
     Max(2000);
+    EXPECT_EQ(QueueRoot, nullptr) << "nothing waits for an answer";
     Pass(10);
     gets = Gets(TakeQueuedCommands());
     ASSERT_EQ(gets.size(), 1u);
