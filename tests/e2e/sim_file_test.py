@@ -17,6 +17,14 @@ SWR1 = "SWR001D001:"
 WORK = "/vorn/tmp/file/"
 
 
+def bmp(width, height, depth=24, top_first=False):
+    stride = (width * depth // 8 + 3) // 4 * 4
+    rows = b"\x20\x40\x80\xff"[:depth // 8] * width
+    body = rows.ljust(stride, b"\0") * height
+    return b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + len(body), 0, 54, 40, width, -height if top_first else height, 1,
+                               depth, 0, len(body), 0, 0, 0, 0) + body
+
+
 class FileTest(SimTest):
     values = "M/E-1@Key1@Clip\tnum\t0\t100\t0\nDME@Edge@Width\tnum\t0\t100\t0\n"
 
@@ -294,6 +302,32 @@ class Hub(HubTest):
             self.status("PNL1", "SHOTBOX", "Standby")
 
 
+class ClipStore(HubTest):
+    def ask(self, request, answer):
+        self.hub.send("Request#CS1.File:FRAMEMEM." + request)
+        self.hub.until("Notify#CS1.File:FRAMEMEM." + answer)
+
+    def test_pictures_go_in_and_out_under_their_paths(self):
+        host, work, store = "SWR000D001:", WORK + "FRAMEMEM/CS1/", "/var/units/SWR1/vorn/FM/1/"
+        self.lay(LOCAL + "pic.BMP", bmp(16, 8))
+        self.ask("USER_ID::MENU1", "USER_ID::MENU1")
+        self.ok("Remote Access@Make Dir", f"{host}{work}news", "FRAMEMEM")
+        self.ok("Remote Access@SCP Dir Put", f"MYHOST:{LOCAL}pic.BMP", f"{host}{work}news/pic.BMP", "FRAMEMEM")
+        self.ask("STATUS::Put,/news/pic,3,1", "STATUS::Put,/news/pic")
+        result = "/var/units/SWR1" + work + "result.lst"
+        self.assertEqual(self.content(result), b"/news/pic.BMP,OK\n")
+        self.assertEqual(self.content(store + "news/pic.SFH")[64:66], b"BM")
+        self.ask("STATUS::Standby", "USER_ID::Non")
+        self.ask("USER_ID::MENU1", "USER_ID::MENU1")
+        self.ask("STATUS::Get,/news/pic,TIF", "STATUS::Get,/news/pic")
+        self.assertEqual(self.content(result), b"/news/pic.TIF,OK\n")
+        self.ok("Remote Access@SCP Dir Get", f"{host}{work}news/pic.TIF", f"MYHOST:{LOCAL}pic.TIF", "FRAMEMEM")
+        self.assertEqual(self.content(LOCAL + "pic.TIF")[:4], b"II*\0")
+        for path in ("/none", "/../../x"):
+            self.ask(f"STATUS::Get,{path}", f"STATUS::Get,{path}")
+            self.assertRegex(self.content(result).decode(), f"^{path}.SFH,NG")
+
+
 class Registers(HubTest):
     def test_a_saved_snapshot_brings_back_the_desk(self):
         clip, list_path = "M/E-1@Key1@Clip", "Snapshot@Snapshot@Attribute@M/E-1@List"
@@ -372,14 +406,6 @@ class Registers(HubTest):
         self.ok("Transfer@Transfer", f"MYHOST:{LOCAL}TWO SHOT.ME1_001.SSS", f"{SWR1}{WORK}SNAPSHOT/SWR1/ME1_045.SSS")
         for number in (44, 45):
             self.assertTrue(any(f"M/E-1@List#{number},TWO SHOT,S" in line for line in self.panel_lines), number)
-
-
-def bmp(width, height, depth=24, top_first=False):
-    stride = (width * depth // 8 + 3) // 4 * 4
-    rows = b"\x20\x40\x80\xff"[:depth // 8] * width
-    body = rows.ljust(stride, b"\0") * height
-    return b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + len(body), 0, 54, 40, width, -height if top_first else height, 1,
-                               depth, 0, len(body), 0, 0, 0, 0) + body
 
 
 class Frames(FileTest):
