@@ -267,13 +267,20 @@ static bool has_row_marks(const std::string& name)
     return name.find_first_of(",#") != std::string::npos; // it would break the row
 }
 
+// A panel's mark of a protected folder, and a stick that is out. Other names may begin with a dot:
+// a register without a name.
+static bool is_hidden(const std::string& name)
+{
+    return name == ".dirprotect" || name == ".out";
+}
+
 static void list_folder(const std::string& path, const std::string& local, int depth,
                         std::vector<Entry>* entries)
 {
     std::error_code error;
     for (fs::directory_iterator at(local, error), end; !error && at != end; at.increment(error)) {
         const std::string name = at->path().filename().string();
-        if (name[0] == '.' || has_row_marks(name) || entries->size() >= DRIVE_ENTRIES)
+        if (is_hidden(name) || has_row_marks(name) || entries->size() >= DRIVE_ENTRIES)
             continue;
         struct stat status = {};
         if (lstat(at->path().c_str(), &status) != 0 ||

@@ -250,6 +250,15 @@ static std::string kept_file(HostKind host, int unit, const UnitFile& file)
            Text_Format("%s_%04d.%s", file.region.c_str(), file.number, file.ext.c_str());
 }
 
+// A register's name as panels write it in a file name.
+static std::string safe_name(std::string name)
+{
+    for (char& c : name)
+        if (!isalnum((unsigned char)c) && c != '-' && c != '+')
+            c = '_';
+    return name;
+}
+
 // --- Registers ---
 
 static void write_effect(const Effect& effect, std::string* text)
@@ -438,7 +447,8 @@ static std::string load_register(const RegisterSet& set, int row, int unit, cons
         if (const std::string error = Drive_Write(kept_file(HOST_PNL, unit, file), bytes);
             !error.empty())
             return error;
-    if (!file.name.empty())
+    // A file that was renamed renames the register; its safe spelling alone does not.
+    if (!file.name.empty() && file.name != safe_name(loaded.name))
         loaded.name = file.name.substr(0, NAME_BYTES);
     std::replace(loaded.name.begin(), loaded.name.end(), ',', ' '); // it stands in a list line
     loaded.exists = true;
@@ -656,8 +666,11 @@ void UnitFile_PrepareGet(const std::string& word, HostKind host, int unit)
             const std::string name = unit_name(held.file);
             const std::string error =
                 Drive_Write(work_folder(owner, word, host, unit) + name, bytes);
+            // Panels name it with the register's name or without.
             lines += result_line(name, error);
-            if (!held.file.name.empty())
+            const std::string safe = safe_name(held.file.name);
+            lines += result_line(safe + "." + name, error);
+            if (safe != held.file.name)
                 lines += result_line(held.file.name + "." + name, error);
         }
     write_results(word, host, unit, lines);

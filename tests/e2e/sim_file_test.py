@@ -389,6 +389,23 @@ class Registers(HubTest):
         self.assertEqual(self.load(SWR1, "SWR1", "SNAPSHOT", LOCAL + "WIDE.ME1_002.SSS", "ME1_002.SSS"), "NG(Locked)")
         self.assertRegex(self.load(SWR1, "SWR1", "SNAPSHOT", LOCAL + "WIDE.ME1_002.SSS", "ME1_100.SSS"), "^NG")
 
+    def test_every_spelling_of_a_name_is_in_the_result_list(self):
+        self.reserve("SWR1", "SNAPSHOT")
+        self.status("SWR1", "SNAPSHOT", "Get")
+        results = self.results(SWR1, "SWR1", "SNAPSHOT")
+        for name in ("ME1_001.SSS", "TWO_SHOT.ME1_001.SSS", "TWO SHOT.ME1_001.SSS"):
+            self.assertEqual(results.get(name), "OK", name)
+        self.get(SWR1, "SWR1", "SNAPSHOT", "TWO_SHOT.ME1_001.SSS", LOCAL + "TWO_SHOT.ME1_001.SSS")
+        self.status("SWR1", "SNAPSHOT", "Standby")
+        self.save(SWR1, "SWR1", "SETUP", ".DEV_0000.SST", LOCAL + ".DEV_0000.SST")  # it has no name
+        self.assertEqual(self.load(SWR1, "SWR1", "SETUP", LOCAL + ".DEV_0000.SST", ".DEV_0000.SST"), "OK")
+        rows = self.ok("Access@Find", "MYHOST:" + LOCAL, "*.*.*")
+        self.assertEqual([row.split(",")[0] for row in rows], [LOCAL + ".DEV_0000.SST", LOCAL + "TWO_SHOT.ME1_001.SSS"])
+        self.panel.send("add Snapshot@Snapshot@Attribute@M/E-1@List")
+        file = "TWO_SHOT.ME1_050.SSS"
+        self.assertEqual(self.load(SWR1, "SWR1", "SNAPSHOT", LOCAL + "TWO_SHOT.ME1_001.SSS", file), "OK")
+        self.assertTrue(any("M/E-1@List#50,TWO SHOT,S" in line for line in self.panel_lines))
+
     def test_a_macro_file_keeps_its_events(self):
         self.panel.send("add Macro@Register@List")
         body = b"PNL 0001PNL_0007.PMRMY MACRO\r\nEvent?,XPT,BUS?,1\r\n"
