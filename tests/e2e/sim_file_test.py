@@ -159,6 +159,16 @@ class Drives(FileTest):
                         "put File@Transfer@Cancel#", f"put File@Access@Remove#Lx,MYHOST:{LOCAL}none")
         self.assertEqual(self.statuses("Access@Copy", ack), ["Cancel"])
         self.assertFalse(os.path.exists(self.path(LOCAL + "D/big2")))
+        self.do("slow 1")
+        self.wait_for_log("console: slow 1")
+        self.lay(LOCAL + "big", b"x" * 60_000_000)
+        os.makedirs(self.path(LOCAL + "D"), exist_ok=True)
+        ack = self.request("Access@Copy", f"MYHOST:{LOCAL}big", f"MYHOST:{LOCAL}D/big2")
+        while not os.listdir(self.path(LOCAL + "D")):
+            pass
+        self.panel.send(f"put File@Access@Cancel#Lx,{ack}")
+        self.assertEqual(self.statuses("Access@Copy", ack), ["Cancel"])
+        self.assertEqual(os.listdir(self.path(LOCAL + "D")), [])
         self.assertEqual(self.panel.sync(), [])  # who has no label hears nothing
 
     def test_stick_and_room(self):
