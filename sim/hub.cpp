@@ -17,7 +17,8 @@ struct Category {
     std::string user = "Non"; // who has reserved it
     int client = 0;           // his line; 0: a user of the console
     std::string status = "Standby";
-    std::string wanted; // what the unit is working on, with the words behind it; empty: nothing
+    std::string wanted =
+        ""; // what the unit is working on, with the words behind it; empty: nothing
     int64_t due_ms = 0;
 };
 
@@ -27,8 +28,8 @@ struct Target {
     int unit = 0;
     bool is_clip_store = false; // on the switcher of the same number
     bool is_away = false;
-    std::set<int> listeners;
-    std::map<std::string, Category> categories; // those that somebody has asked for
+    std::set<int> listeners = {};
+    std::map<std::string, Category> categories = {}; // those that somebody has asked for
 };
 } // namespace
 
