@@ -185,8 +185,9 @@ int File_DirRead(int drive, void (*done)(int tag), int tag)
     Reading& r = reading[list];
     if (!wait_for(&r, done, tag))
         return -1;
-    if (r.label != 0)
-        return 0;
+    if (r.label != 0) // begun anew: the link may have lost the answer to the last one
+        (void)File_ExecUSBReload_cancel(r.label);
+    r.label = 0;
     const int label = File_ExecListDir(root, dir_tly, list);
     if (label < 0) {
         for (auto& w : r.waiter)

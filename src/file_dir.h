@@ -30,7 +30,8 @@ int File_DirFind(int drive, const char* name);
 // "<directory>/.dirprotect" is there. Asks the file system at once.
 int File_DirIsProtected(int drive, const char* name);
 // Ask the server for the directories of a drive. done comes once at the end, when the list is
-// whole; a search that runs for the drive already serves both. -1 when nothing was asked.
+// whole; a search that runs for the drive already begins anew and serves both. -1 when nothing was
+// asked.
 int File_DirRead(int drive, void (*done)(int tag), int tag);
 
 // A side of a page: what it shows.

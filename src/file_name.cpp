@@ -224,6 +224,11 @@ static const DEVICE* unit_of_region(int grp, int main, int sub)
     }
 }
 
+int File_HasRegion(int grp, int main, int sub)
+{
+    return unit_of_region(grp, main, sub) != nullptr;
+}
+
 const char* File_RegionWord(int grp, int main, int sub)
 {
     const int id = PaneRegion_GetGrpID(grp, main, sub);
@@ -382,13 +387,16 @@ int name2info(const char* path, FILEINFO* info)
 
 // --- Making a path ---
 
-// A register's name as it stands in a file name.
+// A register's name as it stands in a file name: what would end the path or the command is
+// replaced.
 static void name_of_file(const FILEINFO& info, int device, char (&name)[FILE_NAME_SIZE])
 {
     CopyText(name, info.name);
-    (void)StrFileName(name); // an empty name is an empty name
     if (device == FILE_REMOVABLE)
-        (void)StrFatFileName(name);
+        (void)StrFatFileName(name); // an empty name is an empty name
+    for (char* p = name; *p; p++)
+        if (*p == '/' || *p == ',' || iscntrl(uint8_t(*p)))
+            *p = '_';
 }
 
 static bool append_file(const FILEINFO& info, char* buffer, int device, int size)

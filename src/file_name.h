@@ -38,6 +38,8 @@ int File_FirstNumber(int grp); // 0, 1, 101, 201 or 301
 int File_NumberWidth(const char* ext);
 const char* File_RegionWord(int grp, int main, int sub); // as the unit that has the region counts
 
+int File_HasRegion(int grp, int main, int sub); // 1: a unit here has it
+
 // --- A path and what it names ---
 
 constexpr int FILE_WHOLE_ID = 256; // of FILEINFO.device

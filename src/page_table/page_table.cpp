@@ -1,5 +1,6 @@
 // PageTable, joined at compile time from the rows of the menu groups.
 #include "dme.h"
+#include "file_dual.h"
 #include "fm.h"
 #include "gallery.h"
 #include "keyframe.h"
@@ -48,6 +49,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 OfBanks<me_wipe_pages>,
                 OfBanks<me_dmewipe_pages>,
                 OfBanks<me_misc_pages>,
+                file_dual_pages,
                 fm_pages,
                 sources_pages,
                 operation_pages,

@@ -14,6 +14,7 @@
 #include "bus.h"
 #include "device.h"
 #include "file.h"
+#include "file_dir.h"
 #include "global.h"
 #include "graphics.h"
 #include "held.h"
@@ -23,6 +24,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "pc_file_dual.h"
 #include "saver.h"
 #include "scrollbar.h"
 #include "setup_index.h"
@@ -177,6 +179,8 @@ void Harness_Reset()
     while (SDL_PollEvent(&e)) {
     }
     File_Reset();
+    FileDual_Reset();
+    File_DirReset();
     File_ReplaceSync([] { return 0; }); // a job of a test does not wait for the host's drives
     (void)TakeQueuedCommands();         // what an earlier test left
     (void)TakeQueuedHubLines();

@@ -1,0 +1,13 @@
+// file_left_tabs: the groups of the File menu, down the left edge of all its pages.
+#pragma once
+#include "rows.h"
+
+inline constexpr VF_TBL vf_file[] = {
+    {.id = 1, .caption = "All\nSetup", .page = 0x71110000},
+    {.id = 2, .caption = "Effect", .page = 0x71210000},
+    {.id = 3, .caption = "Snapshot", .page = 0x71310000},
+    {.id = 4, .caption = "Shotbox\nMacro", .page = 0x71410000},
+    {.id = 5, .caption = "Frame\nMemory", .page = 0x71530000},
+    {.id = 7, .caption = "Directory\nNames", .page = 0x71740000},
+    VF_END,
+};

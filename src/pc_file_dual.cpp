@@ -1,0 +1,593 @@
+#include "pc_file_dual.h"
+#include "a_ba.h"
+#include "a_bt.h"
+#include "a_ls.h"
+#include "command.h"
+#include "message.h"
+#include "netio.h"
+#include "pane.h"
+#include "pc_file_side.h"
+#include "register.h"
+#include "tally_value.h"
+#include "text.h"
+#include "window.h"
+#include <cstring>
+
+#include "safeguards.h"
+
+#define SINGLE "LOCAL@File@Single@"
+#define PATCH_LINK "File@Src Patch Link"
+
+namespace
+{
+enum : int { SIDE_A = 0, SIDE_B = 1, SIDE_C = 0 }; // C has its page to itself
+constexpr char INHIBITED[] = "Operation in this menu is inhibited\nduring file transfer.";
+constexpr int CAPTION_SIZE = 40;
+
+// Of a kind: outlives the page.
+struct Visits {
+    FileMemory a = {};
+    FileMemory b = {.side = {.device = FILE_LOCAL}};
+    FileMemory c = {};
+    FILEXFERLIST* list = nullptr; // being put together, or of the job that runs
+};
+
+// A touch of a button, by its command.
+struct Touch {
+    const char* command;
+    int (*act)();
+};
+} // namespace
+
+static Visits visits[FILEPAGES];
+
+static struct {
+    const FileKind* kind = nullptr; // null: no page of ours is open
+    bool is_detail = false;
+    int lock_pane = 0;   // asks whether the rest is to be loaded
+    int delete_pane = 0; // asks whether to delete
+    int from = SIDE_A;   // of what lock_pane asks about
+    int to = SIDE_B;
+    char patch_link[8] = "";                       // last tally
+    char device_caption[FILE_SIDES][CAPTION_SIZE]; // the buttons show them from here
+    char dir_caption[FILE_SIDES][CAPTION_SIZE];
+} fd; // valid from create(1) to create(0)
+
+static Visits& visit()
+{
+    return visits[fd.kind->page];
+}
+
+static FileMemory& memory_of(int side)
+{
+    return fd.is_detail ? visit().c : side == SIDE_A ? visit().a : visit().b;
+}
+
+static int list_of(int side)
+{
+    return side + 1;
+}
+
+// --- What the buttons show ---
+
+static bool is_protected(const FILESIDE& side)
+{
+    return side.device != FILE_REGISTER && File_DirIsProtected(side.device, side.dir);
+}
+
+// Nothing goes from the running system to itself or into a protected directory.
+static bool may_transfer(const FILESIDE& from, const FILESIDE& to)
+{
+    return !(from.device == FILE_REGISTER && to.device == FILE_REGISTER) && !is_protected(to);
+}
+
+static void load_save_copy_btn_grayout()
+{
+    const FILESIDE& a = memory_of(SIDE_A).side;
+    const FILESIDE& b = memory_of(SIDE_B).side;
+    BT_SetDisable(BTN_FILE_L_TO_R, !may_transfer(a, b));
+    BT_SetDisable(BTN_FILE_R_TO_L, !may_transfer(b, a));
+}
+
+static void rename_delete_btn_grayout()
+{
+    const FILESIDE& c = memory_of(SIDE_C).side;
+    const bool is_fixed = c.device == FILE_REGISTER ? !fd.kind->commands : is_protected(c);
+    BT_SetDisable(BTN_FILE_RENAME, is_fixed);
+    BT_SetDisable(BTN_FILE_DELETE, is_fixed);
+}
+
+static void show_side(int side)
+{
+    const FILESIDE& where = memory_of(side).side;
+    const bool is_first = side == SIDE_A; // C has the places of A
+    CopyText(fd.device_caption[side], File_DriveCaption(where.device));
+    CopyText(fd.dir_caption[side], where.device == FILE_REGISTER ? "" : where.dir);
+    const int dir = is_first ? BTN_FILE_DIR_A : BTN_FILE_DIR_B;
+    (void)BT_SetCaption(is_first ? BTN_FILE_DEVICE_A : BTN_FILE_DEVICE_B, fd.device_caption[side]);
+    (void)BT_SetCaption(dir, fd.dir_caption[side]);
+    BT_SetDisable(dir, where.device == FILE_REGISTER);
+    if (fd.is_detail)
+        rename_delete_btn_grayout();
+    else
+        load_save_copy_btn_grayout();
+}
+
+static int sides_shown()
+{
+    return fd.is_detail ? 1 : FILE_SIDES;
+}
+
+static void refresh_all()
+{
+    for (int side = 0; side < sides_shown(); side++)
+        FileSide_Refresh(side);
+}
+
+// --- Device and directory ---
+
+static void side_chosen(int side)
+{
+    if (!fd.kind)
+        return;
+    show_side(side);
+    FileSide_Refresh(side);
+}
+
+static int choose_device(int side)
+{
+    return FileSelect_Device(&memory_of(side).side, FILE_DRIVES_ALL, side_chosen, side);
+}
+static int choose_dir(int side)
+{
+    return FileSelect_Dir(&memory_of(side).side, side_chosen, side);
+}
+static int device_a_sel()
+{
+    return choose_device(SIDE_A);
+}
+static int device_b_sel()
+{
+    return choose_device(SIDE_B);
+}
+static int device_c_sel()
+{
+    return choose_device(SIDE_C);
+}
+static int dir_a_sel()
+{
+    return choose_dir(SIDE_A);
+}
+static int dir_b_sel()
+{
+    return choose_dir(SIDE_B);
+}
+static int dir_c_sel()
+{
+    return choose_dir(SIDE_C);
+}
+
+static int open_detail(int side)
+{
+    visit().c = memory_of(side);
+    GL_CreatePage = fd.kind->id + 1;
+    return 0;
+}
+static int detail_a_sel()
+{
+    return open_detail(SIDE_A);
+}
+static int detail_b_sel()
+{
+    return open_detail(SIDE_B);
+}
+
+// --- Transfers ---
+
+static bool is_same_place(const FILESIDE& a, const FILESIDE& b)
+{
+    return a.device == b.device && (a.device == FILE_REGISTER || strcmp(a.dir, b.dir) == 0);
+}
+
+// The row that a transfer begins with.
+static int first_row(int side)
+{
+    const int row = LS_GetSelected(list_of(side), 0);
+    return row >= 0 ? row : LS_GetNowLine(list_of(side));
+}
+
+static void dual_result(uint32_t, int page)
+{
+    Visits& v = visits[page];
+    xferlist_result_display(v.list);
+    (void)BkgdFileTransfer_Set(file_kinds[page].id, 0);
+    (void)PaneProgress_RestoreQuit();
+    if (fd.kind == &file_kinds[page])
+        refresh_all();
+}
+static void dual_a2b_result(uint32_t label, int page)
+{
+    dual_result(label, page);
+}
+static void dual_b2a_result(uint32_t label, int page)
+{
+    dual_result(label, page);
+}
+
+static int transfer_exec(int from, int to)
+{
+    Visits& v = visit();
+    const int page = fd.kind->page;
+    const bool is_save = FileSide_Where(from).device == FILE_REGISTER;
+    const bool is_load = FileSide_Where(to).device == FILE_REGISTER;
+    const FILE_LIST_FUNC result = from == SIDE_A ? dual_a2b_result : dual_b2a_result;
+    if (!v.list)
+        return -1;
+    (void)BkgdFileTransfer_Set(fd.kind->id, 1);
+    int label = -1;
+    if (fd.kind->way == FILEWAY_MACRO)
+        label = MM_File_ExecCopyList(&v.list, result, page, is_save || is_load);
+    else if (!is_save && !is_load)
+        label = File_ExecCopyList(&v.list, result, page);
+    else if (fd.kind->way == FILEWAY_PLAIN)
+        label = File_ExecTransferList(&v.list, result, page);
+    else if (is_save)
+        label = File_TransSCPdirGetList(&v.list, result, page);
+    else
+        label = File_TransSCPdirPutList(&v.list, result, page);
+    if (label >= 0)
+        return 0;
+    (void)BkgdFileTransfer_Set(fd.kind->id, 0);
+    File_XferList_RemoveAll(&v.list);
+    return -1;
+}
+
+// -1 when the file has no name on one of the sides.
+static int add_cell(int from, int to, const FILECELL& cell, int target_no)
+{
+    const FILESIDE& src = FileSide_Where(from);
+    const FILESIDE& dst = FileSide_Where(to);
+    char src_path[FILE_PATH_SIZE];
+    char dst_path[FILE_PATH_SIZE];
+    char target[32];
+    if (info2name(FileSide_Info(from, cell, -1), src_path, src.device, src.dir, sizeof src_path) !=
+            0 ||
+        info2name(FileSide_Info(from, cell, target_no), dst_path, dst.device, dst.dir,
+                  sizeof dst_path) != 0)
+        return -1;
+    const bool is_save = src.device == FILE_REGISTER;
+    const bool is_copy = !is_save && dst.device != FILE_REGISTER;
+    if (is_copy || fd.kind->way != FILEWAY_RESERVED)
+        return File_XferList_Add(&visit().list, src_path, dst_path);
+    if (File_Target(is_save ? src_path : dst_path, target, sizeof target) != 0)
+        return -1;
+    return File_XferList_SCPAdd(&visit().list, src_path, dst_path,
+                                PaneRegion_GetGrpCategoryStr(FileKind_Group(*fd.kind)), target);
+}
+
+// The selected rows of one side go to the other from its first selected row on, with the gaps that
+// they have. True when a locked region of the setup was left out.
+static bool gather(int from, int to)
+{
+    const bool is_setup_load =
+        FileSide_Where(to).device == FILE_REGISTER && fd.kind->page == FILEPAGE_SETUP;
+    const int shift = first_row(to) - first_row(from);
+    bool is_locked = false;
+    for (int i = 0, no; (no = LS_GetSelected(list_of(from), i)) >= 0; i++) {
+        const FILELIST* const row = FileSide_Row(from, no);
+        if (!row || !FileSide_Row(to, no + shift))
+            continue;
+        for (const FILECELL* cell = row->cell; cell; cell = cell->next) {
+            if (!FileSide_InView(*cell))
+                continue;
+            if (is_setup_load && File_IsSetupRegionLocked(cell->main))
+                is_locked = true;
+            else
+                (void)add_cell(from, to, *cell, no + shift); // what has no name there stays
+        }
+    }
+    return is_locked;
+}
+
+static int transfer_sel(int from, int to, const char* lock_question)
+{
+    if (visit().list)
+        return -1; // the job of the page is still there
+    if (!may_transfer(FileSide_Where(from), FileSide_Where(to)))
+        return -1;
+    if (is_same_place(FileSide_Where(from), FileSide_Where(to)) && first_row(from) == first_row(to))
+        return -1;
+    if (!gather(from, to))
+        return transfer_exec(from, to);
+    fd.from = from;
+    fd.to = to;
+    fd.lock_pane = PaneYesNo_Create("Load", PANE_ALERT, lock_question);
+    return 0;
+}
+
+static int dual_a2b_sel()
+{
+    return transfer_sel(SIDE_A, SIDE_B,
+                        "There are some setup regions locked on\nMenu7317.2(File Load Lock).\n"
+                        "Locked setup regions are not loaded.\n\nAre you sure");
+}
+
+// One line break less than the other way. That is meant: keep it.
+static int dual_b2a_sel()
+{
+    return transfer_sel(SIDE_B, SIDE_A,
+                        "There are some setup regions locked on\nMenu7317.2(File Load Lock).\n"
+                        "Locked setup regions are not loaded.\nAre you sure");
+}
+
+static int lock_answer(int result)
+{
+    constexpr int YES = 1;
+    if (result == YES)
+        return transfer_exec(fd.from, fd.to);
+    File_XferList_RemoveAll(&visit().list);
+    return 0;
+}
+
+static int patch_link_sel()
+{
+    return Net_SendCommandFormat("put " PATCH_LINK "#%s", Bool(!Same(fd.patch_link, "true")));
+}
+
+// --- Rename and delete ---
+
+static void single_result(uint32_t, int page)
+{
+    if (fd.kind == &file_kinds[page])
+        refresh_all();
+}
+
+// The bits of all cells of a row that are in view.
+static uint64_t mask_of_row(const FILELIST& row)
+{
+    uint64_t mask = 0;
+    for (const FILECELL* cell = row.cell; cell; cell = cell->next)
+        if (FileSide_InView(*cell))
+            mask |= fd.kind->commands->mask(cell->id);
+    return mask;
+}
+
+static void single_rename_reg(const char* name)
+{
+    for (int i = 0, no; (no = LS_GetSelected(list_of(SIDE_C), i)) >= 0; i++)
+        if (const FILELIST* const row = FileSide_Row(SIDE_C, no))
+            FileKind_Rename(*fd.kind, mask_of_row(*row), no, name);
+}
+
+static void single_delete_reg()
+{
+    for (int i = 0, no; (no = LS_GetSelected(list_of(SIDE_C), i)) >= 0; i++)
+        if (const FILELIST* const row = FileSide_Row(SIDE_C, no))
+            FileKind_Delete(*fd.kind, mask_of_row(*row), no);
+}
+
+// Name of each selected file that is in view; a null name: as it is.
+static void gather_files(const char* new_name)
+{
+    const FILESIDE& where = FileSide_Where(SIDE_C);
+    for (int i = 0, no; (no = LS_GetSelected(list_of(SIDE_C), i)) >= 0; i++) {
+        const FILELIST* const row = FileSide_Row(SIDE_C, no);
+        for (const FILECELL* cell = row ? row->cell : nullptr; cell; cell = cell->next) {
+            char old_path[FILE_PATH_SIZE];
+            char new_path[FILE_PATH_SIZE] = "";
+            FILEINFO info = FileSide_Info(SIDE_C, *cell, -1);
+            if (!FileSide_InView(*cell) ||
+                info2name(info, old_path, where.device, where.dir, sizeof old_path) != 0)
+                continue;
+            if (new_name) {
+                CopyText(info.name, new_name);
+                if (info2name(info, new_path, where.device, where.dir, sizeof new_path) != 0 ||
+                    strcmp(old_path, new_path) == 0)
+                    continue;
+            }
+            (void)File_XferList_Add(&visit().list, old_path, new_path);
+        }
+    }
+}
+
+static int single_rename_exec(const char* text)
+{
+    char name[FILE_NAME_SIZE];
+    CopyText(name, text);
+    if (!fd.kind || !fd.is_detail)
+        return -1;
+    if (!StrFileName(name)) {
+        PaneMessage_Create("Invalid Name", PANE_ALERT, "Empty...");
+        return -1;
+    }
+    if (FileSide_Where(SIDE_C).device == FILE_REGISTER) {
+        single_rename_reg(name);
+        return 0;
+    }
+    if (visit().list)
+        return -1;
+    gather_files(name);
+    return File_ExecMoveList(&visit().list, single_result, fd.kind->page) < 0 ? -1 : 0;
+}
+
+static int single_rename_sel()
+{
+    const FILELIST* const row = FileSide_Row(SIDE_C, first_row(SIDE_C));
+    return CreateWindow(WINDOW_KEYBOARD, "Name",
+                        {.value = row ? row->name : "",
+                         .input_max = FILE_NAME_SIZE - 1,
+                         .ok_text = single_rename_exec});
+}
+
+static int single_delete_sel()
+{
+    if (visit().list)
+        return -1;
+    if (FileSide_Where(SIDE_C).device != FILE_REGISTER) {
+        gather_files(nullptr);
+        if (!visit().list)
+            return -1;
+    }
+    fd.delete_pane = PaneYesNo_Create(
+        "Delete", PANE_ALERT, "This operation will cause the data to be\ndeleted.\n\nContinue?");
+    return 0;
+}
+
+static int delete_answer(int result)
+{
+    constexpr int YES = 1;
+    if (result != YES)
+        File_XferList_RemoveAll(&visit().list);
+    else if (FileSide_Where(SIDE_C).device == FILE_REGISTER)
+        single_delete_reg();
+    else
+        return File_ExecRemoveList(&visit().list, single_result, fd.kind->page) < 0 ? -1 : 0;
+    return 0;
+}
+
+// --- Messages ---
+
+static constexpr Touch dual_touches[] = {
+    {SINGLE "Device A", device_a_sel},
+    {SINGLE "Device B", device_b_sel},
+    {SINGLE "Dir A", dir_a_sel},
+    {SINGLE "Dir B", dir_b_sel},
+    {SINGLE "Detail A", detail_a_sel},
+    {SINGLE "Detail B", detail_b_sel},
+    {SINGLE "L to R", dual_a2b_sel},
+    {SINGLE "R to L", dual_b2a_sel},
+    {"LOCAL@File@All@Src Patch Link", patch_link_sel},
+    {SINGLE "Device C", device_c_sel},
+    {SINGLE "Dir C", dir_c_sel},
+    {SINGLE "Rename", single_rename_sel},
+    {SINGLE "Delete", single_delete_sel},
+};
+
+static int button_pressed(const char* command)
+{
+    for (const Touch& touch : dual_touches) {
+        if (strcmp(touch.command, command) != 0)
+            continue;
+        if (BkgdFileTransfer_Check(fd.kind->id))
+            PaneMessage_Create("File", PANE_ALERT, INHIBITED);
+        else
+            (void)touch.act(); // a refusal changes nothing
+        return 0;
+    }
+    return 0;
+}
+
+static int pane_closed(int pane, int result)
+{
+    if (pane == 0)
+        return 0;
+    if (pane == fd.lock_pane) {
+        fd.lock_pane = 0;
+        (void)lock_answer(result); // an empty list is no job
+    } else if (pane == fd.delete_pane) {
+        fd.delete_pane = 0;
+        (void)delete_answer(result);
+    }
+    return 0;
+}
+
+static int regions_changed()
+{
+    for (int side = 0; side < sides_shown(); side++)
+        FileSide_SetRegions(side);
+    return 0;
+}
+
+static int list_touched(int list)
+{
+    FileSide_Selected(list - 1);
+    return 0;
+}
+
+static int take_tally(const char* path, const char* value)
+{
+    if (!Same(path, PATCH_LINK))
+        return 0;
+    CopyText(fd.patch_link, value);
+    (void)BT_SetStatus(BTN_FILE_PATCH_LINK, Same(value, "true") ? BT_ON : BT_OFF);
+    return 0;
+}
+
+static int file_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+{
+    if (!fd.kind || FileSelect_Proc(msg, ax, bx))
+        return 0;
+    switch (msg) {
+    case LMSG_BTNSEL: return button_pressed(Text(ax));
+    case LMSG_PANEQUIT: return pane_closed(int(ax), int(bx));
+    case LMSG_PANEREGION: return regions_changed();
+    case LMSG_LISTSEL:
+    case LMSG_LISTFLASH: return list_touched(int(ax));
+    case LMSG_REGISTER: (void)FileSide_Registered(int(ax), int(cx)); return 0;
+    case MSG_TALLY: return take_tally(Text(ax), Text(bx));
+    default: return 0;
+    }
+}
+
+// --- Opening and closing ---
+
+static bool has_patch_link(const FileKind& kind)
+{
+    return kind.page == FILEPAGE_EFFECT || kind.page == FILEPAGE_EFFECT_EX;
+}
+
+static int leave()
+{
+    if (!fd.kind)
+        return 0;
+    if (fd.lock_pane || fd.delete_pane) // a question that nobody answers any more
+        File_XferList_RemoveAll(&visit().list);
+    if (!fd.is_detail && has_patch_link(*fd.kind))
+        Net_SendCommand("remove " PATCH_LINK);
+    Register_StatusReport(0);
+    FileSelect_Close();
+    FileSide_CloseAll();
+    fd = {};
+    return 0;
+}
+
+static int open(uint32_t page, bool is_detail)
+{
+    if (page >= FILEPAGES)
+        return -1;
+    fd = {.kind = &file_kinds[page], .is_detail = is_detail};
+    BA_SetRegionGrp(FileKind_Group(*fd.kind));
+    Register_StatusReport(1);
+    if (!is_detail && has_patch_link(*fd.kind))
+        Net_SendCommand("add " PATCH_LINK);
+    for (int side = 0; side < sides_shown(); side++) {
+        FileSide_Open(side, *fd.kind, &memory_of(side), is_detail);
+        show_side(side);
+    }
+    if (BkgdFileTransfer_Check(fd.kind->id))
+        (void)BkgdFileTransfer_PaneRestore();
+    return 0;
+}
+
+static int dual_create(int on, uint32_t page)
+{
+    return on ? open(page, false) : leave();
+}
+
+static int detail_create(int on, uint32_t page)
+{
+    return on ? open(page, true) : leave();
+}
+
+const PC_TBL pc_file_dual = {file_proc, dual_create};
+const PC_TBL pc_file_detail = {file_proc, detail_create};
+
+void FileDual_Reset()
+{
+    for (Visits& v : visits) {
+        File_XferList_RemoveAll(&v.list);
+        v = {};
+    }
+    fd = {};
+    FileSide_CloseAll();
+}

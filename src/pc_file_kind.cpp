@@ -1,0 +1,310 @@
+#include "pc_file_kind.h"
+#include "menu_macro.h"
+#include "netio.h"
+#include "pane.h"
+#include "register.h"
+#include "snapshot_region.h"
+#include "text.h"
+#include <cstring>
+#include <iterator>
+#include <unistd.h>
+
+#include "safeguards.h"
+
+// --- Regions ---
+
+namespace
+{
+enum : int { // region ids, as the selectors have them
+    ID_FIRST_USER = 272,
+    ID_FIRST_CHANNEL = 288,
+    ID_FIRST_DEVICE = 304,
+    ID_PBUS = 320,
+    ID_GPI = 336,
+    ID_ROUTER = 352,
+    ID_MACRO = 368,
+    ID_FIRST_KEY = 512,
+};
+
+// A region of the effects and snapshots: row of the mirror and its bits in the commands.
+struct RegionBits {
+    int id;
+    int row;
+    uint64_t effect;
+    uint32_t snapshot;
+};
+constexpr RegionBits sides[] = {
+    {257, SS_REGION_ME1, 0x2, 0x2},
+    {258, SS_REGION_ME2, 0x4, 0x4},
+    {259, SS_REGION_ME3, 0x8, 0x8},
+    {264, SS_REGION_ME4, 0x0004000000000000, 0x10},
+    {266, SS_REGION_ME5, 0x0010000000000000, 0x20},
+    {256, SS_REGION_PP, 0x1, 0x1},
+    {261, SS_REGION_ME1_SUB, 0x0000400000000000, 0x01000000},
+    {262, SS_REGION_ME2_SUB, 0x0000800000000000, 0x02000000},
+    {263, SS_REGION_ME3_SUB, 0x0001000000000000, 0x04000000},
+    {265, SS_REGION_ME4_SUB, 0x0008000000000000, 0x08000000},
+    {267, SS_REGION_ME5_SUB, 0x0020000000000000, 0x10000000},
+    {260, SS_REGION_PP_SUB, 0x0000200000000000, 0x00800000},
+};
+} // namespace
+
+static RegionBits region_bits(int id)
+{
+    constexpr int USERS = 8, CHANNELS = 8, DEVICES = 12;
+    for (const RegionBits& side : sides)
+        if (side.id == id)
+            return side;
+    if (const int n = id - ID_FIRST_USER; n >= 0 && n < USERS)
+        return {id, SS_REGION_USER1 + n, uint64_t(0x10) << n, 0x40u << n};
+    if (const int n = id - ID_FIRST_CHANNEL;
+        n >= 0 && n < CHANNELS) // its own bit and the common part's
+        return {id, SS_REGION_DME1 + n, uint64_t(0x101000) << n, 0x4000u << n};
+    if (const int n = id - ID_FIRST_DEVICE; n >= 0 && n < DEVICES)
+        return {id, EFF_REGION_DEV1 + n, uint64_t(0x10000000) << n, 0};
+    switch (id) {
+    case ID_PBUS: return {id, EFF_REGION_PBUS, uint64_t(0x100) << 32, 0};
+    case ID_GPI: return {id, EFF_REGION_GPI, uint64_t(0x200) << 32, 0};
+    case ID_MACRO: return {id, EFF_REGION_MACRO, uint64_t(0x20000) << 32, 0};
+    case ID_ROUTER: return {id, SS_REGION_RTR, 0, 0x400000};
+    default: return {id, -1, 0, 0};
+    }
+}
+
+static int row_of_effect(int id)
+{
+    return id == ID_ROUTER ? -1 : region_bits(id).row;
+}
+static int row_of_snapshot(int id)
+{
+    const RegionBits r = region_bits(id);
+    return r.snapshot ? r.row : -1;
+}
+static int row_of_side(int id)
+{
+    const int row = region_bits(id).row;
+    return row <= SS_REGION_PP_SUB ? row : -1;
+}
+static int row_of_channel(int id)
+{
+    const int row = region_bits(id).row;
+    return row >= SS_REGION_DME1 && row <= SS_REGION_DME8 ? Register_DMEGroup(row) : -1;
+}
+static int row_of_key(int id)
+{
+    const int row = id - ID_FIRST_KEY;
+    return row >= 0 && row < int(KeySSCmd.size()) ? row : -1;
+}
+static int row_of_panel(int)
+{
+    return 0;
+}
+
+// EffReg and EffRegx00, SSReg, WipeSSReg and DmeSSReg, KeySSReg: the bits of a region.
+static uint64_t mask_of_effect(int id)
+{
+    return region_bits(id).effect;
+}
+static uint64_t mask_of_snapshot(int id)
+{
+    return region_bits(id).snapshot;
+}
+static uint64_t mask_of_key(int id)
+{
+    const int row = row_of_key(id);
+    return row < 0 ? 0 : uint64_t(1) << row;
+}
+
+// --- Registers ---
+
+static constexpr FileRegisters effects = {REGISTER_EFFECT, Register_Exist_Effect,
+                                          Register_Lock_Effect, Register_Name_Effect,
+                                          row_of_effect};
+static constexpr FileRegisters effects_100 = {REGISTER_EFF100, Register_Exist_Eff100,
+                                              Register_Lock_Eff100, Register_Name_Eff100,
+                                              row_of_channel};
+static constexpr FileRegisters effects_200 = {REGISTER_EFF200, Register_Exist_Eff200,
+                                              Register_Lock_Eff200, Register_Name_Eff200,
+                                              row_of_channel};
+static constexpr FileRegisters effects_300 = {REGISTER_EFF300, Register_Exist_Eff300,
+                                              Register_Lock_Eff300, Register_Name_Eff300,
+                                              row_of_channel};
+static constexpr FileRegisters snapshots = {REGISTER_SNAPSHOT, Register_Exist_Snapshot,
+                                            Register_Lock_Snapshot, Register_Name_Snapshot,
+                                            row_of_snapshot};
+static constexpr FileRegisters wipe_snapshots = {REGISTER_WIPESS, Register_Exist_WipeSS,
+                                                 Register_Lock_WipeSS, Register_Name_WipeSS,
+                                                 row_of_side};
+static constexpr FileRegisters dme_snapshots = {
+    REGISTER_DMESS, Register_Exist_DMESS, Register_Lock_DMESS, Register_Name_DMESS, row_of_side};
+static constexpr FileRegisters key_snapshots = {
+    REGISTER_KEYSS, Register_Exist_KeySS, Register_Lock_KeySS, Register_Name_KeySS, row_of_key};
+static constexpr FileRegisters shotboxes = {REGISTER_SHOTBOX, Register_Exist_Shotbox,
+                                            Register_Lock_Shotbox, Register_Name_Shotbox,
+                                            row_of_panel};
+static constexpr FileRegisters macros = {REGISTER_MACRO, Register_Exist_Macro, Register_Lock_Macro,
+                                         Register_Name_Macro, row_of_panel};
+
+// A menu macro is kept as a file of this unit.
+static int exist_menu_macro(int, int no)
+{
+    char path[PATH_SIZE];
+    PrintText(path, "/mnt/data/Menu_Macro_tmp/mm_reg%02d.tmp", no + 1);
+    return no >= 0 && no < MENU_MACRO_REGISTERS && access(path, R_OK) == 0;
+}
+static int lock_menu_macro(int, int)
+{
+    return 0;
+}
+static char menu_macro_name[16]; // until the next call
+static const char* name_menu_macro(int, int no)
+{
+    PrintText(menu_macro_name, "MMCR%d", no + 1);
+    return menu_macro_name;
+}
+static constexpr int NOT_TOLD = -1; // no message tells of it
+static constexpr FileRegisters menu_macros = {NOT_TOLD, exist_menu_macro, lock_menu_macro,
+                                              name_menu_macro, row_of_panel};
+
+static constexpr FileCommands effect_commands = {"put Effect@Effect@Rename@Rename#%s,%d,%s",
+                                                 "put Effect@Effect@Delete@Delete#%s,%d,%d",
+                                                 mask_of_effect, true};
+static constexpr FileCommands snapshot_commands = {"put Snapshot@Snapshot@Rename#%s,%d,%s",
+                                                   "put Snapshot@Snapshot@Delete#%s,%d,%d",
+                                                   mask_of_snapshot, false};
+static constexpr FileCommands wipe_commands = {"put Snapshot@Wipe Snapshot@Rename#%s,%d,%s",
+                                               "put Snapshot@Wipe Snapshot@Delete#%s,%d,%d",
+                                               mask_of_snapshot, false};
+static constexpr FileCommands dme_commands = {"put Snapshot@DME Snapshot@Rename#%s,%d,%s",
+                                              "put Snapshot@DME Snapshot@Delete#%s,%d,%d",
+                                              mask_of_snapshot, false};
+static constexpr FileCommands key_commands = {"put Snapshot@Key Snapshot@Rename#%s,%d,%s",
+                                              "put Snapshot@Key Snapshot@Delete#%s,%d,%d",
+                                              mask_of_key, true};
+
+constexpr FileKind file_kinds[FILEPAGES] = {
+    {.page = FILEPAGE_SETUP, .id = 0x71120000, .grp = 0},
+    {.page = FILEPAGE_INITSTAT, .id = 0x71130000, .grp = 1},
+    {.page = FILEPAGE_KEYMEM, .id = 0x71140000, .grp = 2},
+    {.page = FILEPAGE_VPROCMEM, .id = 0x71150000, .grp = 3},
+    {.page = FILEPAGE_USERSETUP, .id = 0x71160000, .grp = 41, .way = FILEWAY_PLAIN},
+    {.page = FILEPAGE_EFFECT,
+     .id = 0x71210000,
+     .kind = KIND_EFFECT,
+     .registers = &effects,
+     .commands = &effect_commands},
+    {.page = FILEPAGE_EFF100,
+     .id = 0x71220000,
+     .kind = KIND_EFF100,
+     .registers = &effects_100,
+     .commands = &effect_commands},
+    {.page = FILEPAGE_EFF200,
+     .id = 0x71230000,
+     .kind = KIND_EFF200,
+     .registers = &effects_200,
+     .commands = &effect_commands},
+    {.page = FILEPAGE_EFF300,
+     .id = 0x71240000,
+     .kind = KIND_EFF300,
+     .registers = &effects_300,
+     .commands = &effect_commands},
+    {.page = FILEPAGE_EFFECT_EX,
+     .id = 0x71250000,
+     .kind = KIND_EFFECT_EX,
+     .registers = &effects,
+     .commands = &effect_commands},
+    {.page = FILEPAGE_SNAPSHOT,
+     .id = 0x71310000,
+     .kind = KIND_SNAPSHOT,
+     .registers = &snapshots,
+     .commands = &snapshot_commands},
+    {.page = FILEPAGE_WIPESS,
+     .id = 0x71320000,
+     .kind = KIND_WIPESS,
+     .registers = &wipe_snapshots,
+     .commands = &wipe_commands},
+    {.page = FILEPAGE_DMESS,
+     .id = 0x71330000,
+     .kind = KIND_DMESS,
+     .registers = &dme_snapshots,
+     .commands = &dme_commands},
+    {.page = FILEPAGE_KEYSS,
+     .id = 0x71340000,
+     .grp = 19,
+     .registers = &key_snapshots,
+     .commands = &key_commands},
+    {.page = FILEPAGE_SHOTBOX, .id = 0x71410000, .grp = 20, .registers = &shotboxes},
+    {.page = FILEPAGE_MACRO, .id = 0x71420000, .grp = 21, .registers = &macros},
+    {.page = FILEPAGE_MACROATC, .id = 0x71430000, .grp = 22},
+    {.page = FILEPAGE_MENU_MACRO,
+     .id = 0x71440000,
+     .grp = 33,
+     .registers = &menu_macros,
+     .way = FILEWAY_MACRO},
+    {.page = FILEPAGE_FNAMEDATA, .id = 0x71530000, .grp = 40, .way = FILEWAY_PLAIN},
+    {.page = FILEPAGE_XPTSRCNAME, .id = 0x71740000, .grp = 42, .way = FILEWAY_PLAIN},
+    {.page = FILEPAGE_IMPORTSRCNAME, .id = 0x71750000, .grp = 42, .way = FILEWAY_PLAIN},
+};
+
+static constexpr bool KindsAreSound()
+{
+    for (int i = 0; i < FILEPAGES; i++)
+        if (file_kinds[i].page != i || file_kinds[i].id == 0)
+            return false;
+    return true;
+}
+static_assert(KindsAreSound());
+
+int FileKind_Group(const FileKind& kind)
+{
+    return kind.grp >= 0 ? kind.grp : File_GroupOf(kind.kind);
+}
+
+int FileKind_Register(const FileKind& kind, int region_id, int no, char* name, int size, int* lock)
+{
+    if (!kind.registers) { // the unit's one setting
+        ktr_strncpy(name, PaneRegion_GetGrpCategoryStr(FileKind_Group(kind)), size_t(size));
+        *lock = 0;
+        return no == 0 ? 0 : -1;
+    }
+    const int row = kind.registers->row(region_id);
+    if (row < 0 || !kind.registers->exist(row, no))
+        return -1;
+    ktr_strncpy(name, kind.registers->name(row, no), size_t(size));
+    *lock = kind.registers->lock(row, no);
+    return 0;
+}
+
+// --- Commands ---
+
+static void print_mask(const FileCommands& commands, uint64_t mask, char (&text)[20])
+{
+    if (commands.is_wide)
+        PrintText(text, "%08X%08X", unsigned(mask >> 32), unsigned(mask & 0xFFFFFFFF));
+    else
+        PrintText(text, "%X", unsigned(mask));
+}
+
+static int number_of(const FileKind& kind, int no)
+{
+    return no + File_FirstNumber(FileKind_Group(kind));
+}
+
+void FileKind_Rename(const FileKind& kind, uint64_t mask, int no, const char* name)
+{
+    char text[20];
+    if (!kind.commands || mask == 0)
+        return;
+    print_mask(*kind.commands, mask, text);
+    Net_SendCommandFormat(kind.commands->rename, text, number_of(kind, no), name);
+}
+
+void FileKind_Delete(const FileKind& kind, uint64_t mask, int no)
+{
+    char text[20];
+    if (!kind.commands || mask == 0)
+        return;
+    print_mask(*kind.commands, mask, text);
+    const int number = number_of(kind, no);
+    Net_SendCommandFormat(kind.commands->remove, text, number, number);
+}

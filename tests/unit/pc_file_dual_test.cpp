@@ -1,0 +1,301 @@
+// The pages of two lists in the File menu, through touches, lines and what goes over the wire.
+#include "a_ls.h"
+#include "file_scp.h"
+#include "pane.h"
+#include "pc_file_dual.h"
+#include "pc_file_side.h"
+#include "register.h"
+#include "table_page.h"
+#include "text.h"
+#include "window.h"
+
+namespace
+{
+constexpr uint32_t SNAPSHOT_PAGE = 0x71310000;
+constexpr uint32_t SETUP_PAGE = 0x71120000;
+
+struct FileDualPage : TablePage {
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        DeviceStructure();
+        CopyText(SYS_SHP_MyUserID, "MENU1");
+        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
+        Filescp_trnasferlist_init("SWR1");
+        Filescp_trnasferlist_init("PNL1");
+        for (const char* table : {"SWR1.File", "PNL1.File"})
+            SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg(table), 0, 0);
+        (void)TakeQueuedHubLines();
+        Tell("Snapshot@Snapshot@Attribute@M/E-1@List#3,OPENING,,,,,");
+        Tell("Snapshot@Snapshot@Attribute@M/E-1@List#4,CLOSE,L,,,,");
+        Tell("Snapshot@Snapshot@Attribute@P/P@List#4,CLOSE PP,,,,,");
+    }
+    // The label of the one line that was sent.
+    static int Label(const Lines& lines)
+    {
+        EXPECT_EQ(lines.size(), 1u) << testing::PrintToString(lines);
+        return lines.empty() ? 0 : atoi(lines[0].c_str() + lines[0].find("#L") + 2);
+    }
+    // The rows of a search, and its end.
+    static void Found(int label, const Lines& paths)
+    {
+        const std::string ack = std::to_string(500 + label);
+        Tell("File@Access@Find#L" + std::to_string(label) + "," + ack);
+        for (const std::string& path : paths)
+            Tell("File@Access@Find@Status#" + ack + "," + path + ",Wed Nov 25 10:30:00 2026");
+        Tell("File@Access@Find@Status#" + ack + ",OK");
+    }
+    static std::string Row(int list, int no)
+    {
+        return std::string(LS_GetData(list, no, COL_NAME)) + "|" + LS_GetData(list, no, COL_TIME);
+    }
+    static Lines Answer(int result)
+    {
+        (void)TakeQueuedCommands();
+        const int pane = Pane_GetActiveID();
+        EXPECT_NE(pane, 0);
+        Pane_Quit(pane);
+        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
+        return TakeQueuedCommands();
+    }
+    static std::string Drive(const char* rest)
+    {
+        return std::string("MYHOST:/mnt/data/user/root/SYSTEM/") + rest;
+    }
+};
+} // namespace
+
+TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
+{
+    const Lines opened = Open(SNAPSHOT_PAGE);
+    EXPECT_THAT(opened, Contains(HasSubstr("put File@Access@Find#L")));
+    EXPECT_EQ(Row(1, 2), "OPENING|");
+    EXPECT_EQ(Row(1, 3), "CLOSE|");
+    EXPECT_EQ(Row(1, 0), "|");
+    EXPECT_EQ(LS_GetStatus(1, 0, 0), 1);
+    Found(Label([&] {
+              Lines finds = opened;
+              std::erase_if(finds, [](const std::string& s) { return s.find("Find#") == s.npos; });
+              return finds;
+          }()),
+          {Drive("SNAPSHOT/SWR000D001/ME1/NEWS.ME1_007.SSS"),
+           Drive("SNAPSHOT/SWR000D001/ME1/rubbish.txt"),
+           Drive("SNAPSHOT/SWR000D001/ME2/OTHER.ME2_008.SSS")});
+    EXPECT_EQ(Row(2, 6), "NEWS|Nov.25.2026 10:30");
+    EXPECT_EQ(Row(2, 7), "|") << "its region is not selected";
+    EXPECT_STREQ(LS_GetData(2, 98, COL_NO), "99");
+    // A register that comes while the page stands, and one that goes.
+    Tell("Snapshot@Snapshot@Attribute@M/E-1@List#9,LATE,,,,,");
+    Tell("Snapshot@Snapshot@Attribute@M/E-1@List#3,OPENING,E,,,,");
+    EXPECT_EQ(Row(1, 8), "LATE|");
+    EXPECT_EQ(Row(1, 2), "|");
+}
+
+// Rows 3 and 4 to row 10 and 11, region by region; the hub is asked for the category.
+TEST_F(FileDualPage, SaveGoesFromTheFirstSelectedRowOfTheTarget)
+{
+    Open(SNAPSHOT_PAGE);
+    LS_SetMS(1, 1);
+    LS_SetSelected(1, 0, 0, 0);
+    LS_SetSelected(1, 2, 0, 1);
+    LS_SetSelected(1, 3, 0, 1);
+    LS_SetNowLine(2, 9);
+    (void)TakeQueuedHubLines();
+    Press(BTN_FILE_L_TO_R);
+    EXPECT_THAT(TakeQueuedHubLines(), ElementsAre("Request#SWR1.File:SNAPSHOT.USER_ID:MENU1"));
+    ASSERT_TRUE(QueueRoot);
+    const FILEXFERLIST* item = nullptr;
+    for (const QUEUE* job = QueueRoot; job; job = job->next)
+        if (job->worktype == FILEWORK_RMTACCESS_SCPDIRGETLIST)
+            item = *job->xferlist;
+    ASSERT_TRUE(item);
+    EXPECT_STREQ(item->src, "SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/OPENING.ME1_003.SSS");
+    EXPECT_EQ(item->dst, Drive("SNAPSHOT/SWR000D001/ME1/OPENING.ME1_010.SSS"));
+    EXPECT_STREQ(item->target, "SWR1");
+    ASSERT_TRUE(item->next);
+    EXPECT_EQ(item->next->dst, Drive("SNAPSHOT/SWR000D001/ME1/CLOSE.ME1_011.SSS"));
+    EXPECT_FALSE(item->next->next);
+    EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 1);
+}
+
+// The page is left in the middle and comes back to the pane; at the end all is read anew.
+TEST_F(FileDualPage, TransferGoesOnWithoutItsPage)
+{
+    Open(SNAPSHOT_PAGE);
+    LS_SetNowLine(1, 2);
+    Press(BTN_FILE_L_TO_R);
+    ASSERT_NE(Pane_GetActiveID(), 0);
+    BkgdFileTransfer_PaneQuit();
+    EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_EQ(CreatePage(SNAPSHOT_PAGE), 0);
+    const int pane = Pane_GetActiveID();
+    ASSERT_NE(pane, 0);
+    (void)TakeQueuedCommands();
+    (void)TakeQueuedHubLines();
+    SendMessage(LMSG_PANEQUIT, pane, 1, 0, 0); // cancelled while it waits for its turn
+    SendMessage(MSG_SHPTALLY, Arg("Notify"), Arg("SWR1.File"), 0, Arg("SNAPSHOT.USER_ID:MENU1"));
+    SendMessage(MSG_SHPTALLY, Arg("Notify"), Arg("SWR1.File"), 0, Arg("SNAPSHOT.STATUS:Standby"));
+    for (int i = 0; i < 300 && BkgdFileTransfer_Check(SNAPSHOT_PAGE); i++) {
+        Pass(10);
+        SDL_Delay(10);
+    }
+    EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 0);
+    EXPECT_THAT(TakeQueuedCommands(), Contains(HasSubstr("put File@Access@Find#L")));
+}
+
+TEST_F(FileDualPage, NothingMovesOntoItselfOrIntoAProtectedDirectory)
+{
+    Open(SNAPSHOT_PAGE);
+    EXPECT_EQ(BT_GetVisible(BTN_FILE_L_TO_R), BT_ENABLED);
+    // Both sides the running system: no way at all.
+    Press(BTN_FILE_DEVICE_B);
+    Answer(FILE_REGISTER + 1);
+    EXPECT_EQ(BT_GetVisible(BTN_FILE_L_TO_R), BT_DISABLED);
+    EXPECT_EQ(BT_GetVisible(BTN_FILE_R_TO_L), BT_DISABLED);
+    EXPECT_EQ(Caption(BTN_FILE_DEVICE_B), "Register");
+    EXPECT_EQ(Row(2, 2), "OPENING|");
+}
+
+TEST_F(FileDualPage, DirectoryIsChosenBehindTheDevice)
+{
+    Open(SNAPSHOT_PAGE);
+    Press(BTN_FILE_DEVICE_B);
+    const int label = Label(Answer(FILE_NETWORK + 1));
+    const std::string ack = std::to_string(700 + label);
+    Tell("File@Access@ListDir#L" + std::to_string(label) + "," + ack);
+    for (const char* dir : {"SHOW", "PWON_LD", "MORNING", "A NAME OF SIXTEEN"})
+        Tell("File@Access@ListDir@Status#" + ack + ",MYHOST:/var/nfs/user/root/" + dir +
+             ",Wed Nov 25 10:30:00 2026");
+    EXPECT_EQ(Caption(BTN_FILE_DEVICE_B), "Local Drive") << "not before the choice is whole";
+    Tell("File@Access@ListDir@Status#" + ack + ",OK");
+    int count = 0;
+    const DIRINFO* const dirs = File_DirList(FILE_NETWORK, &count);
+    ASSERT_EQ(count, 3);
+    EXPECT_STREQ(dirs[0].name, "SYSTEM");
+    EXPECT_STREQ(dirs[1].name, "MORNING");
+    EXPECT_THAT(Answer(2), Contains(HasSubstr("MYHOST:/var/nfs/user/root/MORNING/SNAPSHOT/")));
+    EXPECT_EQ(Caption(BTN_FILE_DEVICE_B), "Network");
+    EXPECT_EQ(Caption(BTN_FILE_DIR_B), "MORNING");
+    // It is remembered.
+    Open(SNAPSHOT_PAGE);
+    EXPECT_EQ(Caption(BTN_FILE_DIR_B), "MORNING");
+}
+
+// From the drive to the running system: the locked region stays out, after a question.
+TEST_F(FileDualPage, LockedSetupRegionsAreLeftOutAfterAQuestion)
+{
+    GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP] = 1;
+    Lines opened = Open(SETUP_PAGE);
+    std::erase_if(opened, [](const std::string& s) { return s.find("Find#") == s.npos; });
+    Found(Label(opened), {Drive("SETUP/SWR000D001/S.DEV_0000.SST")});
+    ASSERT_EQ(Row(2, 0), "S|Nov.25.2026 10:30");
+    Press(BTN_FILE_R_TO_L);
+    ASSERT_NE(Pane_GetActiveID(), 0);
+    Answer(2);
+    EXPECT_THAT(TakeQueuedHubLines(), IsEmpty());
+    GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP] = 0;
+    Press(BTN_FILE_R_TO_L);
+    EXPECT_THAT(TakeQueuedHubLines(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
+}
+
+TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
+{
+    Open(SNAPSHOT_PAGE);
+    LS_SetNowLine(1, 3);
+    SendMessage(LMSG_LISTSEL, 1, 3, 0, 0);
+    Press(BTN_FILE_DETAIL_A);
+    EXPECT_EQ(GL_CreatePage, SNAPSHOT_PAGE + 1);
+    EXPECT_EQ(CreatePage(SNAPSHOT_PAGE + 1), 0);
+    EXPECT_EQ(Row(1, 3), "CLOSE|");
+    EXPECT_STREQ(LS_GetData(1, 3, COL_REGIONS), "O");
+    Press(BTN_FILE_DELETE);
+    EXPECT_THAT(Answer(2), IsEmpty());
+    Pass(1000);
+    Press(BTN_FILE_DELETE);
+    EXPECT_THAT(Answer(1), ElementsAre("put Snapshot@Snapshot@Delete#2,4,4"));
+}
+
+// The commands of all kinds that have some.
+TEST_F(FileDualPage, EveryFamilyHasItsOwnCommands)
+{
+    static const struct {
+        FILEPAGE page;
+        int region;
+        const char* rename;
+        const char* remove;
+    } cases[] = {
+        {FILEPAGE_EFFECT, 288, "put Effect@Effect@Rename@Rename#0000000000101000,3,N",
+         "put Effect@Effect@Delete@Delete#0000000000101000,3,3"},
+        {FILEPAGE_EFFECT_EX, 308, "put Effect@Effect@Rename@Rename#0000000100000000,3,N",
+         "put Effect@Effect@Delete@Delete#0000000100000000,3,3"},
+        {FILEPAGE_EFF200, 292, "put Effect@Effect@Rename@Rename#0000000001010000,203,N",
+         "put Effect@Effect@Delete@Delete#0000000001010000,203,203"},
+        {FILEPAGE_SNAPSHOT, 279, "put Snapshot@Snapshot@Rename#2000,3,N",
+         "put Snapshot@Snapshot@Delete#2000,3,3"},
+        {FILEPAGE_WIPESS, 260, "put Snapshot@Wipe Snapshot@Rename#800000,3,N",
+         "put Snapshot@Wipe Snapshot@Delete#800000,3,3"},
+        {FILEPAGE_DMESS, 256, "put Snapshot@DME Snapshot@Rename#1,3,N",
+         "put Snapshot@DME Snapshot@Delete#1,3,3"},
+        {FILEPAGE_KEYSS, 559, "put Snapshot@Key Snapshot@Rename#0000800000000000,3,N",
+         "put Snapshot@Key Snapshot@Delete#0000800000000000,3,3"},
+    };
+    for (const auto& c : cases) {
+        const FileKind& kind = file_kinds[c.page];
+        const uint64_t mask = kind.commands->mask(c.region);
+        (void)TakeQueuedCommands();
+        FileKind_Rename(kind, mask, 2, "N");
+        FileKind_Delete(kind, mask, 2);
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.rename, c.remove));
+        FileKind_Delete(kind, 0, 2);
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << "nothing selected, nothing deleted";
+    }
+}
+
+TEST_F(FileDualPage, RenameOfFilesSkipsWhatKeepsItsName)
+{
+    Open(SNAPSHOT_PAGE);
+    Press(BTN_FILE_DETAIL_B);
+    Lines opened;
+    (void)TakeQueuedCommands();
+    EXPECT_EQ(CreatePage(SNAPSHOT_PAGE + 1), 0);
+    opened = TakeQueuedCommands();
+    std::erase_if(opened, [](const std::string& s) { return s.find("Find#") == s.npos; });
+    Found(Label(opened), {Drive("SNAPSHOT/SWR000D001/ME1/NEWS.ME1_001.SSS")});
+    const auto rename = [](const char* name) {
+        Press(BTN_FILE_RENAME);
+        EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
+        (void)TakeQueuedCommands();
+        SendMessage(MSG_KEY, SDLK_END, 0, 0, 0);
+        for (int i = 0; i < 32; i++)
+            SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
+        for (const char* p = name; *p; p++)
+            SendMessage(MSG_KEY, *p, 0, 0, 0);
+        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+        for (int i = 0; i < 100 && GetWindow(); i++)
+            SendMessage(MSG_REDRAW, 50, 0, 0, 0);
+        return TakeQueuedCommands();
+    };
+    EXPECT_THAT(rename("tom.b"),
+                ElementsAre(AllOf(HasSubstr("put File@Access@Move#L"),
+                                  HasSubstr("NEWS.ME1_001.SSS"), HasSubstr("tom_b.ME1_001.SSS"))));
+}
+
+// Each page opens, is filled and closes; none leaves a subscription behind.
+TEST_F(FileDualPage, EveryPageOpensWithItsGroup)
+{
+    for (const FileKind& kind : file_kinds) {
+        for (const uint32_t id : {kind.id, kind.id + 1}) {
+            const Lines opened = Open(id);
+            EXPECT_EQ(GL_NowPage, id);
+            EXPECT_EQ(LS_GetNData(1), std::min(RegisterNum[FileKind_Group(kind)],
+
+                                               FILE_ROWS))
+                << std::hex << id;
+            Lines sent = opened;
+            const Lines left = Leave();
+            sent.insert(sent.end(), left.begin(), left.end());
+            EXPECT_EQ(Held(sent, "File@Src Patch Link"), 0) << std::hex << id;
+        }
+    }
+}
