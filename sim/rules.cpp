@@ -117,6 +117,50 @@ static void act_name_source(const Hit& hit)
         Tree_Show(hit.target + "@Status@Source Name", signal->value);
 }
 
+// --- The memory of a key: how a signal was cut, for each that cuts the key ---
+
+static std::string key_memory(const std::string& key)
+{
+    const Node* const source = Tree_Get(key + "@Status@Source Name");
+    return key + "@Store Key@" + (source ? source->value : "");
+}
+
+static constexpr const char* REMEMBERED[] = {"@Type@Key Type", "@Type@Key Invert",
+                                             "@Type@Clean Mode", "@Type@Key Position",
+                                             "@Type@Chroma Adjust"};
+
+static std::vector<Node*> remembered_nodes(const std::string& key)
+{
+    std::vector<Node*> nodes;
+    for (const char* part : REMEMBERED)
+        for (Node* node : Tree_Under(key + part))
+            if (node->type.kind != KIND_ACTION)
+                nodes.push_back(node);
+    return nodes;
+}
+
+static void act_store_key(const Hit& hit)
+{
+    PathValues& memory = rl.kept[key_memory(hit.target)];
+    memory.clear();
+    for (const Node* node : remembered_nodes(hit.target))
+        memory.emplace_back(node->path, node->value);
+}
+
+// What nobody had asked for when the key was stored stood at its default.
+static void act_recall_key(const Hit& hit)
+{
+    const auto memory = rl.kept.find(key_memory(hit.target));
+    if (memory == rl.kept.end())
+        return;
+    for (const Node* node : remembered_nodes(hit.target)) {
+        const auto stored =
+            std::find_if(memory->second.begin(), memory->second.end(),
+                         [node](const auto& pair) { return pair.first == node->path; });
+        Tree_Show(node->path, stored == memory->second.end() ? node->initial : stored->second);
+    }
+}
+
 // The automatic chroma key looks for the backing in the picture.
 static void act_find_hue(const Hit& hit)
 {
@@ -199,6 +243,10 @@ static constexpr Rule rules[] = {
     {"*@*@Type@Key Type", PATTERN_KEYS, act_set, "~2@Type@Key Source", "Self"},
     {"*@*@Type@Key Source", "", act_name_source, "~2", ""},
     {"*@*@Type@Signal Select@*", "", act_name_source, "~2", ""},
+    // A signal that has been stored for the key is cut as it was then.
+    {"*@*@Type@Store Key", "true", act_store_key, "~2", ""},
+    {"*@*@Type@Key Source", "", act_recall_key, "~2", ""},
+    {"*@*@Type@Signal Select@*", "", act_recall_key, "~2", ""},
     // The automatic chroma key finds its values in the picture.
     {"*@*@Type@Auto Chroma", "true", act_keep, CHROMA, ""},
     {"*@*@Type@Auto Chroma", "true", act_find_hue, "~2@Type", ""},

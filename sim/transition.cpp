@@ -20,6 +20,8 @@ struct Run {
     std::string clip; // group of the clip that plays along; empty: none
     int frames = 0;
     int64_t start_ms = 0;
+    int cut_frame = -1; // when the cut is shown; before: not yet
+    Change cut;
     std::vector<Change> landing; // shown with the last frame
 };
 
@@ -65,8 +67,17 @@ static void show_clip(const Run& run, int frame, const char* player)
                                                   seconds / 60 % 60, seconds % 60, frame % rate));
 }
 
-static void land(const Run& run)
+static void show_cut(Run& run)
 {
+    if (run.cut_frame < 0)
+        return;
+    run.cut_frame = -1;
+    Tree_Show(run.cut.path, run.cut.value);
+}
+
+static void land(Run run)
+{
+    show_cut(run); // beyond the end of the clip
     for (const Change& change : run.landing)
         Tree_Show(change.path, change.value);
     show_clip(run, run.frames, "Stop");
@@ -79,6 +90,7 @@ static void drop(const std::string& path)
 {
     std::erase_if(tn.runs, [&path](const Run& run) {
         const bool lands_there =
+            run.cut.path == path ||
             std::any_of(run.landing.begin(), run.landing.end(),
                         [&path](const Change& change) { return change.path == path; });
         if (!lands_there)
@@ -137,7 +149,12 @@ static void start_key(const std::string& trigger, const std::string& key, const 
     run.trigger = trigger;
     run.position = key + POSITION;
     run.frames = value_of(way + "Type") == "Cut" ? 0 : frames_of(way + "Rate");
-    turn_over(&run, key + KEY_ON, on);
+    if (value_of(way + "Type") == "Stinger") {
+        run.cut_frame = frames_of(key + "@Transition@Stinger@Cut Point"); // hidden by the clip
+        run.cut = {key + KEY_ON, on ? "true" : "false"};
+    } else {
+        turn_over(&run, key + KEY_ON, on);
+    }
     start(run);
 }
 
@@ -267,13 +284,15 @@ int64_t Transition_Tick(int64_t now)
     const int rate = System_FrameRate();
     int64_t next = INT64_MAX;
     std::vector<Run> landed;
-    for (const Run& run : tn.runs) {
+    for (Run& run : tn.runs) {
         const int64_t frame = (now - run.start_ms) * rate / 1000;
         if (frame >= run.frames) {
             landed.push_back(run);
         } else {
             Tree_Show(run.position, Text_Format("%.2f", 100.0 * double(frame) / run.frames));
             show_clip(run, int(frame), "Play");
+            if (frame >= run.cut_frame)
+                show_cut(run);
         }
         next = std::min(next, run.start_ms + (frame + 1) * 1000 / rate + 1);
     }

@@ -96,6 +96,26 @@ class Rules(MeTest):
         self.assertEqual(self.put(KEY + "Type@Chroma Adjust@Undo", "true"), [f"{hue}#200"])
 
 
+    def test_a_stored_key_comes_back_with_the_signal_that_cuts_it(self):
+        kind, clip, fill = KEY + "Type@Key Type", KEY + "Type@Key Type@Linear@Clip", KEY + "Type@Signal Select@Fill"
+        late, other = KEY + "Type@Key Invert", "M/E-4@Key5@Type@Key Type"
+        self.follow(kind, clip, other)
+        self.put(fill, "CAM5")
+        self.put(kind, "Linear")
+        self.put(clip, "33.00")
+        self.put(KEY + "Type@Store Key", "true")
+        self.put(fill, "CAM6")
+        self.assertEqual(self.put(kind, "Luminance"), [kind + "#Luminance"], "nothing was stored for this one")
+        self.put(clip, "44.00")
+        self.put(late, "true")
+        self.follow(late)
+        heard = self.put(fill, "CAM5")
+        self.assertEqual(sorted(set(heard) - {fill + "#CAM5"}),
+                         sorted([kind + "#Linear", clip + "#33.00", late + "#"]))
+        self.put(clip, "50.00")
+        self.assertNotIn(clip + "#33.00", self.put(fill, "CAM7"))
+
+
 class Transitions(MeTest):
     def heard(self, last, *paths):
         """What the other panel hears up to that line, of these paths."""
@@ -126,6 +146,18 @@ class Transitions(MeTest):
         self.do(f"set {KEY}Transition@ON Transition Type#Cut")
         self.text.send(f"put {auto}#true")
         self.other.until(f"{on}#true")
+
+    def test_a_key_changes_under_a_stinger_at_its_cut(self):
+        on, auto, position = KEY + "Status@Key ON", KEY + "Transition@Auto Trans", KEY + "Status@Transition Position"
+        self.do(f"set {KEY}Transition@ON Transition Rate#20", f"set {KEY}Transition@ON Transition Type#Stinger",
+                f"set {KEY}Transition@Stinger@Cut Point#10")
+        self.follow(on, auto, position)
+        self.text.send(f"put {auto}#true")
+        before = self.other.until(f"{on}#true", 3)
+        after = self.other.until(f"{auto}#false", 3)
+        self.assertGreaterEqual(float(before[-2].partition("#")[2]), 50)
+        self.assertGreater(len(before), 4)
+        self.assertGreater(len(after), 4)
 
     def test_a_bank_changes_its_background_and_the_keys_that_take_part(self):
         a, b = "PGM/PST@Status@Xpt Assign@A", "PGM/PST@Status@Xpt Assign@B"
