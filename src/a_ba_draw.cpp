@@ -7,6 +7,7 @@
 #include "setup_index.h"
 #include "tdl.h"
 #include "text.h"
+#include <algorithm>
 #include <cstring>
 #include "safeguards.h"
 
@@ -88,14 +89,41 @@ static SDL_Surface* title_band()
     return *bands[OmoteFlag != 0][ba_has_short_title()][ba.Title.pushed > 0];
 }
 
-static void tree_line(char (&line)[PATH_SIZE])
+static int tree_depth()
+{
+    int depth = 0;
+    while (depth < PAGE_DEPTH && GL_NowTree[depth])
+        depth++;
+    return depth;
+}
+
+// The elements from the second on; ".." stands for so many of those behind the first of them.
+static void join_tree(char (&line)[PATH_SIZE], int left_out)
 {
     line[0] = '\0';
-    for (int i = 1; i < PAGE_DEPTH && GL_NowTree[i]; i++) {
+    const int depth = tree_depth();
+    for (int i = 1; i < depth; i++) {
         if (i > 1)
             AppendText(line, " > ");
+        if (i == 2 && left_out > 0) {
+            AppendText(line, ".. > ");
+            i += left_out;
+        }
         AppendText(line, GL_NowTree[i]);
     }
+}
+
+// The first element tells where a page is and the last tells it from its neighbours: where the band
+// is too short, what lies between goes.
+static void tree_line(char (&line)[PATH_SIZE], int width_px)
+{
+    const int between = std::max(tree_depth() - 3, 0);
+    for (int left_out = 0; left_out <= between; left_out++) {
+        join_tree(line, left_out);
+        if (int(TDL_GetSymbolWidth(line, 4)) <= width_px)
+            return;
+    }
+    (void)TDL_CutText(line, sizeof line, width_px, "..", 4); // the band has room for both dots
 }
 
 Rect ba_drw_title()
@@ -110,9 +138,7 @@ Rect ba_drw_title()
         return band;
     }
     char line[PATH_SIZE];
-    tree_line(line);
-    (void)TDL_CutText(line, sizeof line, band.x2 - 8 - 99, "..",
-                      4); // the band has room for both dots
+    tree_line(line, band.x2 - 8 - 99);
     TDL_SymbolS(99, 46, line, 4, OmoteFlag ? TREE_OMOTE : TREE_URA);
     return band;
 }

@@ -6,6 +6,7 @@
 #include "tdl.h"
 #include "text.h"
 #include <cmath>
+#include <cstring>
 #include "safeguards.h"
 
 constexpr unsigned COUNTER = 0xC8C8C8;
@@ -95,7 +96,8 @@ static void draw_box(NB_MEM& b)
         return;
     const int y = nb_slot_top(nb_slot(b));
     TDL_PutS(NB_COLUMN.x1, y, b.id == nb.Select ? G_NB_on : G_NB_off);
-    TDL_SymbolS(720, y + 10, b.caption, 3, WHITE);
+    const bool has_unit = strchr(b.caption, '\n') != nullptr; // the bar would cut its descenders
+    TDL_SymbolS(720, y + (has_unit ? 6 : 10), b.caption, 3, WHITE);
     draw_bar(b, y + 35);
     draw_value(b, y + 50);
     TDL_UpdateRect(NB_COLUMN.x1, y, NB_COLUMN.x2, y + 79);

@@ -70,6 +70,20 @@ TEST_F(BaseAreaTest, EachZoneLeadsToItsPage)
     EXPECT_EQ(PageOf(TITLE), 0x74110000u);
 }
 
+// Where the line of a tree is too long for the band, its last word is what tells pages apart.
+TEST_F(BaseAreaTest, PagesOfOneBranchHaveTitlesThatDiffer)
+{
+    constexpr Rect LINE = {99, 44, 372, 62};
+    std::set<std::vector<uint32_t>> titles;
+    constexpr const char* last[] = {"Adjust", "Pattern Select", "Remove From Begin"};
+    for (const char* word : last) {
+        OpenBase({"M/E-1", "Key1", "Transition", "DME Wipe", word}, 0x11170003);
+        Pass(10);
+        titles.insert(PixelsIn(LINE));
+    }
+    EXPECT_EQ(titles.size(), std::size(last));
+}
+
 TEST_F(BaseAreaTest, HistoryStepsEndAtBothEnds)
 {
     OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
