@@ -231,7 +231,7 @@ int st_drw_me_key_videoproc(ST_MEM* cell)
 
 // --- Signals ---
 
-// 0 "Key Bus" or "Matte", 1 the matte's colour, 2 name of the signal.
+// 0 "Key Bus" or "Matte", 1 one colour or a mix of two, 2 name of the signal.
 int st_drw_me_key_type_keyfill(ST_MEM* cell)
 {
     const int lit = st_in_view(cell) && GL_FillSourceAssignMode == 0;

@@ -174,5 +174,5 @@ int st_drw_me_wipe_edge(ST_MEM* cell)
 int st_drw_me_wipe_edge_2(ST_MEM* cell)
 {
     static constexpr ST_LABEL labels[] = {{"Wid", 2}, {"Soft", 3}};
-    return draw_values(cell, "Edge", labels);
+    return draw_values(cell, "Edge Adj", labels);
 }

@@ -19,7 +19,7 @@ constexpr int BTN_CROP_4_3 = 34;
 constexpr struct {
     int button;
     bool needs_mix;
-} fill_buttons[] = {{20, false}, {21, false}, {22, true}, {36, false}, {37, true}};
+} fill_buttons[] = {{20, false}, {21, false}, {22, true}, {36, false}, {37, true}, {38, true}};
 } // namespace
 
 static struct {

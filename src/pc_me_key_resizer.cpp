@@ -88,6 +88,7 @@ constexpr Grey border_greys[] = {
     {22, NO_BORDER | FILL_FLAT},
     {36, NO_BORDER},
     {37, NO_BORDER | FILL_FLAT},
+    {38, NO_BORDER | FILL_FLAT},
     {33, RESIZER_OFF},
     {34, RESIZER_OFF | CROP_OFF},
 };

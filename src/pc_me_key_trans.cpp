@@ -2,7 +2,6 @@
 // of on; in another each has its own. What can be adjusted follows from the types that govern: the
 // type of on alone, or both.
 #include "message.h"
-#include "netio.h"
 #include "page.h"
 #include "pc_me.h"
 #include "pc_me_key_lower.h"
@@ -29,21 +28,19 @@ constexpr uint32_t PAGE_DME_WIPE_PATTERN = 0x11170006;
 struct TransForm {
     int ways; // that have a type of their own
     int pattern[WAYS];
-    int direction[2];
+    int direction[3];
     int dme_adjust;
     int rate;
 };
-constexpr TransForm same_form = {1, {36, -1}, {33, 34}, 37, 51};
-constexpr TransForm independ_form = {2, {22, 38}, {51, 52}, 53, -1};
+constexpr TransForm same_form = {1, {36, -1}, {33, 34, 35}, 37, 51};
+constexpr TransForm independ_form = {2, {22, 38}, {51, 52, 53}, -1, -1};
 } // namespace
 
 static struct {
     const TransForm* Form = nullptr;
     char TypeCmd[WAYS][CMD_SIZE] = {}; // "M/E-1@Key1@Transition@ON Transition Type"
-    char DirectionCmd[CMD_SIZE] = "";  // "M/E-1@Key1@Transition@Direction"
     TransType Type[WAYS] = {OTHER, OTHER};
-    char Direction[32] = ""; // "Normal", "Reverse", "Normal/Reverse"; "" until the first tally
-} KeyTrans;                  // valid from create(1) to create(0)
+} KeyTrans; // valid from create(1) to create(0)
 
 // --- What the buttons show ---
 
@@ -69,11 +66,6 @@ static void show_type()
     ME_DisableKey(form.rate, !any_way_is({OTHER, WIPE, DME_WIPE}));
 }
 
-static void show_direction()
-{
-    ME_Mirror(LOCAL_TRANS "Direction#%s", KeyTrans.Direction);
-}
-
 // --- Tallies ---
 
 static TransType type_of_word(const char* word)
@@ -92,10 +84,6 @@ static int trans_tally(const char* path, const char* value)
         KeyTrans.Type[way] = type_of_word(value);
         show_type();
     }
-    if (Same(path, KeyTrans.DirectionCmd)) {
-        CopyText(KeyTrans.Direction, value);
-        show_direction();
-    }
     return 0;
 }
 
@@ -108,22 +96,12 @@ static int open_pattern(int way)
     return 0;
 }
 
-// Neither of the two keys is lit for "Normal": that is where a second press leads.
-static int press_direction(const char* word)
-{
-    Net_SendCommandFormat("put %s#%s", KeyTrans.DirectionCmd,
-                          Same(word, KeyTrans.Direction) ? "Normal" : word);
-    return 0;
-}
-
-static int trans_press(const char* path, const char* value)
+static int trans_press(const char* path)
 {
     if (Same(path, LOCAL_TRANS "ON Pattern"))
         return open_pattern(ON);
     if (Same(path, LOCAL_TRANS "OFF Pattern"))
         return open_pattern(OFF);
-    if (Same(path, LOCAL_TRANS "Direction"))
-        return press_direction(value);
     return 0;
 }
 
@@ -132,10 +110,8 @@ static int trans_press(const char* path, const char* value)
 // The types are subscribed by their buttons.
 static int trans_create(int on, const TransForm& form)
 {
-    if (!on) {
-        Net_SendCommandFormat("remove %s", KeyTrans.DirectionCmd);
+    if (!on)
         return 1;
-    }
     KeyTrans = {};
     KeyTrans.Form = &form;
     const char* bank = GL_NowTree[0];
@@ -143,8 +119,6 @@ static int trans_create(int on, const TransForm& form)
     for (int way = 0; way < WAYS; way++)
         PrintText(KeyTrans.TypeCmd[way], "%s@%s@Transition@%s Transition Type", bank, key,
                   WAY_WORDS[way]);
-    PrintText(KeyTrans.DirectionCmd, "%s@%s@Transition@Direction", bank, key);
-    Net_SendCommandFormat("add %s", KeyTrans.DirectionCmd);
     show_type();
     return 0;
 }
@@ -163,7 +137,7 @@ static int pc_me_key_trans_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     switch (msg) {
     case MSG_TALLY: return trans_tally(Text(ax), Text(bx));
-    case LMSG_BTNSEL: return trans_press(Text(ax), Text(bx));
+    case LMSG_BTNSEL: return trans_press(Text(ax));
     default: return 0;
     }
 }

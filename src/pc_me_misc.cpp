@@ -20,6 +20,7 @@
 #include "safeguards.h"
 
 #define LOCAL_TYPE "LOCAL@M/E@Misc@Transition@Type"
+#define LOCAL_LIMIT "LOCAL@M/E@Misc@Transition@Limit"
 #define LOCAL_UNITY "LOCAL@M/E@Misc@Video Process@Unity"
 
 namespace
@@ -31,7 +32,7 @@ constexpr const char* Trans_TypeStr[] = {"Mix",  "NAM",      "Super Mix", "Prese
 constexpr int TRANS_TYPES = int(std::size(Trans_TypeStr));
 constexpr int BTN_DME_WIPE = 18;
 constexpr int BTN_CLIP = 19;
-constexpr int BTN_RATE = 38;
+constexpr int BTN_RATE = 22;
 constexpr MiscKeyButton main_keys[] = {{34, 1}, {35, 2}, {36, 3}, {37, 4},
                                        {50, 5}, {51, 6}, {52, 7}, {53, 8}};
 constexpr MiscKeyButton sub_keys[] = {{34, 5}, {35, 6}, {36, 7}, {37, 8}};
@@ -100,6 +101,8 @@ const PC_TBL pc_me_misc_tabs = {pc_me_misc_tabs_proc, pc_me_misc_tabs_create};
 static struct {
     char path[TRANS_TYPES][CMD_SIZE] = {}; // "M/E-1@Misc@Transition@Mix"
     bool is_on[TRANS_TYPES] = {};
+    char mode_path[CMD_SIZE] = ""; // "M/E-1@Misc@Transition@Transition Mode"
+    bool is_limited = false;
     std::span<const MiscKeyButton> keys;
     char key_path[MISC_KEYS][CMD_SIZE] =
         {};                            // "M/E-1@Misc@Key Assign@Key1"; "" in a bank of one side
@@ -139,6 +142,10 @@ static void assign_tally(const char* path, const char* value)
 static int trans_tally(const char* path, const char* value)
 {
     assign_tally(path, value);
+    if (Same(path, Trans.mode_path)) {
+        Trans.is_limited = Same(value, "Limit");
+        ME_Mirror(LOCAL_LIMIT "#%s", Trans.is_limited ? "true" : "false");
+    }
     for (int i = 0; i < TRANS_TYPES; i++) {
         if (!Same(path, Trans.path[i]))
             continue;
@@ -151,7 +158,11 @@ static int trans_tally(const char* path, const char* value)
 // A server that keeps the types apart must not be left with two of them.
 static int trans_press(const char* path, const char* type, bool only_knobs)
 {
-    if (only_knobs || !Same(path, LOCAL_TYPE))
+    if (only_knobs)
+        return 0;
+    if (Same(path, LOCAL_LIMIT))
+        Net_SendCommandFormat("put %s#%s", Trans.mode_path, Trans.is_limited ? "Full" : "Limit");
+    if (!Same(path, LOCAL_TYPE))
         return 0;
     for (int i = 0; i < TRANS_TYPES; i++)
         if (Trans.is_on[i] && !Same(type, Trans_TypeStr[i]))
@@ -183,6 +194,7 @@ static void trans_subscribe(const char* verb)
 {
     for (const char* path : Trans.path)
         Net_SendCommandFormat("%s %s", verb, path);
+    Net_SendCommandFormat("%s %s", verb, Trans.mode_path);
     for (const char* path : Trans.key_path)
         if (path[0])
             Net_SendCommandFormat("%s %s", verb, path);
@@ -200,6 +212,7 @@ static int trans_create(int on, std::span<const MiscKeyButton> keys)
         PrintText(tail, "Transition@%s", Trans_TypeStr[i]);
         misc_path(Trans.path[i], tail);
     }
+    misc_path(Trans.mode_path, "Transition@Transition Mode");
     Trans.keys = keys;
     if (isMP2SettingME(GL_NowPage))
         for (int key = 0; key < MISC_KEYS; key++)

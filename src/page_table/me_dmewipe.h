@@ -4,6 +4,7 @@
 #include "dmewipe_modify.h"
 #include "me_banks.h"
 #include "me_snapshot.h"
+#include "nb_rows.h"
 #include "pc_me_dmewipe.h"
 #include "st_me_dmewipe.h"
 
@@ -20,20 +21,12 @@ inline constexpr NB_TBL nb_me_dmewipe_ptnmodifier_curl[] = { // of the picture's
 };
 static_assert(BoxesAreSound(nb_me_dmewipe_limit) && BoxesAreSound(nb_me_dmewipe_ptnmodifier_curl));
 
-// A colour as everywhere.
-#define NB_COLOR(name, path) \
-    inline constexpr NB_TBL name[] = { \
-        {.id = 1, .caption = "Luminance",  .type = NB_2, .min = 0, .max = 100,    .cmd = path "@Luminance"}, \
-        {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = path "@Saturation"}, \
-        {.id = 3, .caption = "Hue",        .type = NB_2, .min = 0, .max = 359.99, .cmd = path "@Hue"}, \
-        NB_END, \
-    }; \
-    static_assert(BoxesAreSound(name));
-NB_COLOR(nb_me_dmewipe_ptnmodifier_bkgd, "~@Background@Matte")
-NB_COLOR(nb_me_dmewipe_edgedir_color1, "~@Border Matte@Color 1")
-NB_COLOR(nb_me_dmewipe_edgedir_color2, "~@Border Matte@Color 2")
-NB_COLOR(nb_me_dmewipe_edgedir_shadow, "~@Shadow@Color")
-#undef NB_COLOR
+inline constexpr NB_TBL nb_me_dmewipe_ptnmodifier_bkgd[] = {NB_COLOR("~@Background@Matte"), NB_END};
+inline constexpr NB_TBL nb_me_dmewipe_edgedir_color1[] = {NB_COLOR("~@Border Matte@Color 1"), NB_END};
+inline constexpr NB_TBL nb_me_dmewipe_edgedir_color2[] = {NB_COLOR("~@Border Matte@Color 2"), NB_END};
+inline constexpr NB_TBL nb_me_dmewipe_edgedir_shadow[] = {NB_COLOR("~@Shadow@Color"), NB_END};
+static_assert(BoxesAreSound(nb_me_dmewipe_ptnmodifier_bkgd) && BoxesAreSound(nb_me_dmewipe_edgedir_shadow));
+static_assert(BoxesAreSound(nb_me_dmewipe_edgedir_color1) && BoxesAreSound(nb_me_dmewipe_edgedir_color2));
 
 inline constexpr NB_TBL nb_me_dmewipe_edgedir_mix[] = { // how the two colours meet
     {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Border Matte@Mix@Size"},
@@ -58,7 +51,7 @@ NB_REMOVE(3)
 
 constexpr BT_TBL dmewipe_normal(int id) { return Radio({.id = id, .caption = "Normal", .group = "Direction", .cmd = {"~2@Direction#Normal"}}); }
 constexpr BT_TBL dmewipe_reverse(int id) { return Radio({.id = id, .caption = "Reverse", .group = "Direction", .cmd = {"~2@Direction#Reverse"}}); }
-constexpr BT_TBL dmewipe_norm_rev(int id) { return Toggle({.id = id, .caption = "Norm/Rev", .group = "Direction", .cmd = {"~2@Direction@Norm/Rev#*"}}); }
+constexpr BT_TBL dmewipe_norm_rev(int id) { return Toggle({.id = id, .caption = "Normal/\nReverse", .group = "Direction", .cmd = {"~2@Direction@Norm/Rev#*"}}); }
 constexpr BT_TBL dmewipe_limit(int id)
 {
     return Toggle({.id = id, .caption = "Pattern\nLimit", .group = "Pattern Limit", .cmd = {"~2@Direction@Pattern Limit#*"}, .nb = nb_me_dmewipe_limit});
@@ -110,6 +103,8 @@ inline constexpr BT_TBL bt_me_dmewipe_edgedirection[] = {
     Radio ({.id = 34, .caption = "Mix",           .group = "Border Matte", .cmd = {"~@Border Matte#Mix", "~2@Edge@Border#false"}, .nb = nb_me_dmewipe_edgedir_mix}),
     Knobs ({.id = 35, .caption = "Color 1",       .group = "Border Matte", .cmd = {nullptr, "~2@Edge@Border#false"}, .nb = nb_me_dmewipe_edgedir_color1}),
     Knobs ({.id = 36, .caption = "Color 2",       .group = "Border Matte", .cmd = {nullptr, "~2@Edge@Border#false", "~@Border Matte#Flat"}, .nb = nb_me_dmewipe_edgedir_color2}),
+    Action({.id = 52, .caption = "Copy\n1 to 2",  .group = "Color", .cmd = {"~@Border Matte@Copy#*", "~2@Edge@Border#false", "~@Border Matte#Flat"}}),
+    Action({.id = 53, .caption = "Swap",          .group = "Color", .cmd = {"~@Border Matte@Swap#*", "~2@Edge@Border#false", "~@Border Matte#Flat"}}),
     dmewipe_limit(37), dmewipe_set_limit(38),
     Toggle({.id = 49, .caption = "Drop\nShadow",  .group = "Shadow", .cmd = {"~@Shadow#*"}, .nb = SpecialKnob(53)}),
     Knobs ({.id = 50, .caption = "Shadow\nColor", .group = "Shadow", .cmd = {nullptr, "~@Shadow#false"}, .nb = nb_me_dmewipe_edgedir_shadow}),
@@ -121,6 +116,11 @@ inline constexpr BT_TBL bt_me_dmewipe_removefrombigin[] = {
     Toggle({.id = 17, .caption = "1st Ch", .group = "Remove From Begin", .cmd = {"~3@Remove From Begin@1#*"}, .nb = nb_me_dmewipe_remove1}),
     Toggle({.id = 18, .caption = "2nd Ch", .group = "Remove From Begin", .cmd = {"~3@Remove From Begin@2#*"}, .nb = nb_me_dmewipe_remove2}),
     Toggle({.id = 19, .caption = "3rd Ch", .group = "Remove From Begin", .cmd = {"~3@Remove From Begin@3#*"}, .nb = nb_me_dmewipe_remove3}),
+    // To see what it does.
+    Action({.id = 49, .caption = "Cut",        .group = "Transition", .cmd = {"~1@Misc@Transition@Cut#*"}}),
+    Action({.id = 50, .caption = "Auto\nTrans", .group = "Transition", .cmd = {"~1@Misc@Transition@Auto Trans#*"}}),
+    Jump  ({.id = 53, .caption = "Pattern\nSelect", .group = "Adjust", .cmd = {"#+11610000"}}),
+    Jump  ({.id = 54, .caption = "Modify",     .group = "Adjust", .cmd = {"#+11650000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_dmewipe_removefrombigin));
@@ -129,7 +129,7 @@ inline constexpr BT_TBL bt_me_dmewipe_modify[] = {
     dmewipe_position, dmewipe_center, dmewipe_relative, dmewipe_crop, dmewipe_crop_4_3, dmewipe_size,
     dmewipe_top_left, dmewipe_top_right, dmewipe_ch1, dmewipe_ch2, dmewipe_ch3,
     dmewipe_bottom_left, dmewipe_bottom_right,
-    Jump({.id = 54, .caption = "Remove\nBegin", .group = "Adjust", .cmd = {"#+11600007"}}),
+    Jump({.id = 54, .caption = "Remove\nFrom\nBegin", .group = "Adjust", .cmd = {"#+11600007"}}),
     BT_END,
 };
 // The sub side has nothing to remove.
@@ -154,7 +154,7 @@ inline constexpr MePage me_dmewipe_pages[] = {
               .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_modify), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify)}}, .where = MAIN},
     {.page = {.id = 0x11650000, .tree = {"M/E-1", "DME Wipe", "Modify"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_modify_sub), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify)}}, .where = SUB},
-    {.page = {.id = 0x11600007, .tree = {"M/E-1", "DME Wipe", "Modify", "Remove Begin"},
+    {.page = {.id = 0x11600007, .tree = {"M/E-1", "DME Wipe", "Modify", "Remove From Begin"},
               .obj = {Base(base_sub, 0x11650000), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 4), Buttons(bt_me_dmewipe_removefrombigin), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_modify_removefrombigin)}}, .where = MAIN},
     {.page = {.id = 0x11670000, .tree = {"M/E-1", "DME Wipe", "DME Wipe Snapshot"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 6), BottomTabs(hf_me_dmewipe, 5), Buttons(bt_me_snapshot), Boxes(NB_Non), Cells(st_me_dmewipe), Code(pc_me_dmewipe_dmewipesnapshot)}}},

@@ -33,7 +33,7 @@ inline constexpr BT_TBL bt_me_key_trans_dmewipead[] = {
     OfKeyWipe(dmewipe_bottom_left), OfKeyWipe(dmewipe_bottom_right),
     dmewipe_ptnsize(51, "Pattern\nSize", "~4@Pattern Select@Pattern#"), dmewipe_transparency(52, "~4@Pattern Select@Pattern#"), dmewipe_fade(53),
     Jump({.id = 54, .caption = "Pattern\nSelect", .group = "Pattern", .cmd = {"#+11170006"}}),
-    Jump({.id = 38, .caption = "Remove\nBegin", .group = "Adjust", .cmd = {"#+11170007"}}),
+    Jump({.id = 38, .caption = "Remove\nFrom\nBegin", .group = "Adjust", .cmd = {"#+11170007"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_dmewipead));
@@ -47,6 +47,11 @@ static_assert(ButtonsAreSound(bt_me_key_trans_dmewipeptn));
 inline constexpr BT_TBL bt_me_key_trans_removefrombigin[] = {
     OfKeyWipe(Toggle({.id = 17, .caption = "Remove\nFrom\nBegin", .group = "Transition",
                       .cmd = {"~4@Modify@Remove From Begin@1#*"}, .nb = nb_me_key_dmewipe_remove})),
+    // To see what it does.
+    ActionState({.id = 49, .caption = "Key ON",   .group = "Key ON/OFF", .cmd = {"~2@Status@Key ON#*"}}),
+    Action({.id = 50, .caption = "Auto\nTrans",   .group = "Key ON/OFF", .cmd = {"~3@Auto Trans#*"}}),
+    Jump({.id = 53, .caption = "Pattern\nSelect", .group = "Adjust", .cmd = {"#+11170006"}}),
+    Jump({.id = 54, .caption = "DME Wipe\nAdjust", .group = "Adjust", .cmd = {"#+11170003"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_removefrombigin));
@@ -58,6 +63,6 @@ inline constexpr MePage me_key_dmewipe_pages[] = {
               .obj = {Base(base_sub, 0x11170000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Buttons(bt_me_key_trans_dmewipead), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_trans_dmewipead)}}},
     {.page = {.id = 0x11170006, .tree = {"M/E-1", "Key1", "Transition", "DME Wipe", "Pattern Select"},
               .obj = {Base(base_sub, 0x11170000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Buttons(bt_me_key_trans_dmewipeptn), Boxes(NB_Non), WipeList(dw_me_key_trans_dmewipeadj_1ch)}}},
-    {.page = {.id = 0x11170007, .tree = {"M/E-1", "Key1", "Transition", "DME Wipe", "Remove Begin"},
+    {.page = {.id = 0x11170007, .tree = {"M/E-1", "Key1", "Transition", "DME Wipe", "Remove From Begin"},
               .obj = {Base(base_sub, 0x11170003), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 7), Buttons(bt_me_key_trans_removefrombigin), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_trans_removefrombigin)}}},
 };

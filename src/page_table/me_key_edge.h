@@ -2,6 +2,7 @@
 #pragma once
 #include "me_banks.h"
 #include "me_key_matte.h"
+#include "nb_rows.h"
 #include "pc_me.h"
 #include "pc_me_key.h"
 #include "st_me_key.h"
@@ -9,12 +10,7 @@
 // --- Boxes ---
 
 // What fills the edge is adjusted on a page of its own; its first colour is at hand beside the choice.
-inline constexpr NB_TBL nb_me_key_edge_matte[] = {
-    {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~3@Matte Adjust@Color 1@Luminance"},
-    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~3@Matte Adjust@Color 1@Saturation"},
-    {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~3@Matte Adjust@Color 1@Hue"},
-    NB_END,
-};
+inline constexpr NB_TBL nb_me_key_edge_matte[] = {NB_COLOR("~3@Matte Adjust@Color 1"), NB_END};
 // The plate behind the key: a pattern with a soft edge.
 inline constexpr NB_TBL nb_me_key_edge_zabton[] = {
     {.id = 1, .caption = "Size",    .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Zabton@Size"},

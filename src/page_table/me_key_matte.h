@@ -1,18 +1,13 @@
 // me_key_matte: a matte: one colour, or two that a pattern mixes. The fill of a key and its edge have one each, on pages
 // of the same shape: the paths lie beside the page's fourth word. Written for M/E-1, Key1.
 #pragma once
+#include "nb_rows.h"
 #include "patterns.h"
 
 // --- Boxes ---
 
-#define NB_MATTE_COLOR(color) { \
-    {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~4@" color "@Luminance"}, \
-    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~4@" color "@Saturation"}, \
-    {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~4@" color "@Hue"}, \
-    NB_END}
-inline constexpr NB_TBL nb_me_key_matte_color1[] = NB_MATTE_COLOR("Color 1");
-inline constexpr NB_TBL nb_me_key_matte_color2[] = NB_MATTE_COLOR("Color 2");
-#undef NB_MATTE_COLOR
+inline constexpr NB_TBL nb_me_key_matte_color1[] = {NB_COLOR("~4@Color 1"), NB_END};
+inline constexpr NB_TBL nb_me_key_matte_color2[] = {NB_COLOR("~4@Color 2"), NB_END};
 
 inline constexpr NB_TBL nb_me_key_matte_mixptn[] = {
     {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = "~4@Mix Pattern@Size"},

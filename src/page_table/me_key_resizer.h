@@ -2,6 +2,7 @@
 // M/E-1, Key1.
 #pragma once
 #include "me_banks.h"
+#include "nb_rows.h"
 #include "patterns.h"
 #include "pc_me_key_lower.h"
 #include "st_me_key.h"
@@ -25,6 +26,7 @@ inline constexpr BT_TBL bt_me_key_resizer[] = {
     Jump  ({.id = 51, .caption = "Enhanced\nEffect", .group = "Adjust", .cmd = {"#+11150003"}}),
     Jump  ({.id = 52, .caption = "Mask",         .group = "Adjust", .cmd = {"#+11150004"}}),
     Jump  ({.id = 53, .caption = "Rotation",     .group = "Adjust", .cmd = {"#+11150005"}}),
+    Jump  ({.id = 54, .caption = "Fill/\nSource", .group = "Signal", .cmd = {"#+11100000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_resizer));
@@ -56,18 +58,8 @@ static_assert(ButtonsAreSound(bt_me_key_resizer_resproc));
 // --- Border and crop ---
 
 // The matte of a border, also that of a processed key.
-inline constexpr NB_TBL nb_me_key_border_color1[] = {
-    {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 1@Luminance"},
-    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 1@Saturation"},
-    {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Border Fill@Color 1@Hue"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_key_border_color2[] = {
-    {.id = 1, .caption = "Luminance", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 2@Luminance"},
-    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Border Fill@Color 2@Saturation"},
-    {.id = 3, .caption = "Hue",       .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Border Fill@Color 2@Hue"},
-    NB_END,
-};
+inline constexpr NB_TBL nb_me_key_border_color1[] = {NB_COLOR("~@Border Fill@Color 1"), NB_END};
+inline constexpr NB_TBL nb_me_key_border_color2[] = {NB_COLOR("~@Border Fill@Color 2"), NB_END};
 inline constexpr NB_TBL nb_me_key_border_mix[] = {
     {.id = 1, .caption = "Pattern", .type = NB_INT, .min = 1, .max = 304, .cmd = "~@Border Fill@Mix Pattern@Pattern"},
     {.id = 2, .caption = "Size",    .type = NB_2,   .min = 0, .max = 100, .cmd = "~@Border Fill@Mix Pattern@Size"},
@@ -96,7 +88,8 @@ static_assert(BoxesAreSound(nb_me_key_border_color1) && BoxesAreSound(nb_me_key_
     Radio ({.id = 21, .caption = "Mix",          .group = "Border Fill", .cmd = {"~@Border Fill#Mix"}}), \
     Knobs ({.id = 22, .caption = "Mix\nPattern", .group = "Border Fill", .nb = nb_me_key_border_mix}), \
     Knobs ({.id = 36, .caption = "Color 1",      .group = "Border Fill", .nb = nb_me_key_border_color1}), \
-    Knobs ({.id = 37, .caption = "Color 2",      .group = "Border Fill", .nb = nb_me_key_border_color2})
+    Knobs ({.id = 37, .caption = "Color 2",      .group = "Border Fill", .nb = nb_me_key_border_color2}), \
+    Action({.id = 38, .caption = "Copy\n1 to 2", .group = "Border Fill", .cmd = {"~@Border Fill@Copy#*"}})
 inline constexpr BT_TBL bt_me_key_resizer_bordercrop[] = {
     Toggle({.id = 17, .caption = "Border",     .group = "Border", .cmd = {"~@Border#*", "~@Border@Separate#"}, .nb = SpecialKnob(16)}),
     Toggle({.id = 18, .caption = "Separate\nH/V", .group = "Border", .cmd = {"~@Border@Separate#*"}}),

@@ -18,6 +18,19 @@ inline constexpr NB_TBL nb_me_key_trans_same[] = {
     {.id = 1, .caption = "Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@ON Transition Rate"},
     NB_END,
 };
+// A stinger is a clip of the frame memory that runs over the picture; the key changes under it, so many frames from the
+// start. Its rate is the time that it takes. Clip and cut serve both ways.
+#define NB_STINGER(caption_, rate) { \
+    {.id = 1, .caption = caption_ "\nframes",  .type = NB_INT, .min = 0, .max = 999, .cmd = rate}, \
+    {.id = 2, .caption = "Clip FM",            .type = NB_INT, .min = 1, .max = 8,   .cmd = "~@Stinger@FM"}, \
+    {.id = 3, .caption = "Cut Point\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~@Stinger@Cut Point"}, \
+    NB_END}
+inline constexpr NB_TBL nb_me_key_trans_stinger[]     = NB_STINGER("Rate",     "~@ON Transition Rate");
+inline constexpr NB_TBL nb_me_key_trans_on_stinger[]  = NB_STINGER("ON Rate",  "~@ON Transition Rate");
+inline constexpr NB_TBL nb_me_key_trans_off_stinger[] = NB_STINGER("OFF Rate", "~@OFF Transition Rate");
+#undef NB_STINGER
+static_assert(BoxesAreSound(nb_me_key_trans_stinger) && BoxesAreSound(nb_me_key_trans_on_stinger));
+static_assert(BoxesAreSound(nb_me_key_trans_off_stinger));
 inline constexpr NB_TBL nb_me_key_videoproc[] = { // gain in percent, hue in degrees
     {.id = 1, .caption = "Lum Gain", .type = NB_2, .min = 0,    .max = 200, .cmd = "~2@Video Process@Luminance"},
     {.id = 2, .caption = "Chr Gain", .type = NB_2, .min = 0,    .max = 200, .cmd = "~2@Video Process@Chroma"},
@@ -30,8 +43,10 @@ static_assert(BoxesAreSound(nb_me_key_trans_same) && BoxesAreSound(nb_me_key_vid
 // What both forms have. A key is cut on or off by its state, and comes or goes by the transition with "Auto Trans".
 #define KEY_ON(place)        ActionState({.id = place, .caption = "Key ON", .group = "Key ON/OFF", .cmd = {"~2@Status@Key ON#*"}})
 #define AUTO_TRANS(place)    Action({.id = place, .caption = "Auto\nTrans", .group = "Key ON/OFF", .cmd = {"~@Auto Trans#*"}})
-#define NORMAL_REVERSE(place) Radio({.id = place, .caption = "Normal/\nReverse", .group = "Direction", .cmd = {"LOCAL@M/E@Key@Transition@Direction#Normal/Reverse"}})
-#define REVERSE(place)       Radio({.id = place, .caption = "Reverse", .group = "Direction", .cmd = {"LOCAL@M/E@Key@Transition@Direction#Reverse"}})
+#define DIRECTION(id_, word, caption_) Radio({.id = id_, .caption = caption_, .group = "Direction", .cmd = {"~@Direction#" word}})
+#define DIRECTIONS(place) \
+    DIRECTION(place, "Normal", "Normal"), DIRECTION((place) + 1, "Reverse", "Reverse"), \
+    DIRECTION((place) + 2, "Normal/Reverse", "Normal/\nReverse")
 #define VIDEO_PROCESS(place) Toggle({.id = place, .caption = "Video\nProcess", .group = "Video Proc", \
                                      .cmd = {"~2@Video Process@Video Process#*"}, .nb = nb_me_key_videoproc})
 
@@ -41,11 +56,11 @@ inline constexpr BT_TBL bt_me_key_trans_same[] = {
     Radio({.id = 18, .caption = "Mix",       .group = "Transition Type", .cmd = {"~@ON Transition Type#Mix"}, .nb = nb_me_key_trans_same}),
     Radio({.id = 19, .caption = "Wipe",      .group = "Transition Type", .cmd = {"~@ON Transition Type#Wipe"}, .nb = nb_me_key_trans_same}),
     Radio({.id = 20, .caption = "DME Wipe",  .group = "Transition Type", .cmd = {"~@ON Transition Type#DME Wipe"}, .nb = nb_me_key_trans_same}),
-    Radio({.id = 21, .caption = "Stinger",   .group = "Transition Type", .cmd = {"~@ON Transition Type#Stinger"}, .nb = nb_me_key_trans_same}),
-    NORMAL_REVERSE(33),
-    REVERSE(34),
+    Radio({.id = 21, .caption = "Stinger",   .group = "Transition Type", .cmd = {"~@ON Transition Type#Stinger"}, .nb = nb_me_key_trans_stinger}),
+    DIRECTIONS(33),
     Jump ({.id = 36, .caption = "Pattern\nSelect", .group = "Wipe/DME Wipe", .cmd = {"LOCAL@M/E@Key@Transition@ON Pattern"}}),
     Jump ({.id = 37, .caption = "DME Wipe\nAdjust", .group = "Wipe/DME Wipe", .cmd = {"#+11170003"}}),
+    Jump ({.id = 38, .caption = "Fill/\nSource", .group = "Signal", .cmd = {"#+11100000"}}),
     KEY_ON(49),
     AUTO_TRANS(50),
     Knobs({.id = 51, .caption = "Rate",      .group = "Key ON/OFF", .nb = nb_me_key_trans_same}),
@@ -60,27 +75,25 @@ inline constexpr BT_TBL bt_me_key_trans_independ[] = {
     Radio({.id = 18, .caption = "Mix",       .group = "ON Transition", .cmd = {"~@ON Transition Type#Mix"}, .nb = nb_me_key_trans_on}),
     Radio({.id = 19, .caption = "Wipe",      .group = "ON Transition", .cmd = {"~@ON Transition Type#Wipe"}, .nb = nb_me_key_trans_on}),
     Radio({.id = 20, .caption = "DME Wipe",  .group = "ON Transition", .cmd = {"~@ON Transition Type#DME Wipe"}, .nb = nb_me_key_trans_on}),
-    Radio({.id = 21, .caption = "Stinger",   .group = "ON Transition", .cmd = {"~@ON Transition Type#Stinger"}, .nb = nb_me_key_trans_on}),
+    Radio({.id = 21, .caption = "Stinger",   .group = "ON Transition", .cmd = {"~@ON Transition Type#Stinger"}, .nb = nb_me_key_trans_on_stinger}),
     Jump ({.id = 22, .caption = "Pattern\nSelect", .group = "ON Transition", .cmd = {"LOCAL@M/E@Key@Transition@ON Pattern"}}),
     Radio({.id = 33, .caption = "Cut",       .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Cut"}}),
     Radio({.id = 34, .caption = "Mix",       .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Mix"}, .nb = nb_me_key_trans_off}),
     Radio({.id = 35, .caption = "Wipe",      .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Wipe"}, .nb = nb_me_key_trans_off}),
     Radio({.id = 36, .caption = "DME Wipe",  .group = "OFF Transition", .cmd = {"~@OFF Transition Type#DME Wipe"}, .nb = nb_me_key_trans_off}),
-    Radio({.id = 37, .caption = "Stinger",   .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Stinger"}, .nb = nb_me_key_trans_off}),
+    Radio({.id = 37, .caption = "Stinger",   .group = "OFF Transition", .cmd = {"~@OFF Transition Type#Stinger"}, .nb = nb_me_key_trans_off_stinger}),
     Jump ({.id = 38, .caption = "Pattern\nSelect", .group = "OFF Transition", .cmd = {"LOCAL@M/E@Key@Transition@OFF Pattern"}}),
     KEY_ON(49),
     AUTO_TRANS(50),
-    NORMAL_REVERSE(51),
-    REVERSE(52),
-    Jump ({.id = 53, .caption = "DME Wipe\nAdjust", .group = "DME Wipe", .cmd = {"#+11170003"}}),
+    DIRECTIONS(51), // the adjustments of an effects wipe are reached by its pattern
     VIDEO_PROCESS(54),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_independ));
 #undef KEY_ON
 #undef AUTO_TRANS
-#undef NORMAL_REVERSE
-#undef REVERSE
+#undef DIRECTIONS
+#undef DIRECTION
 #undef VIDEO_PROCESS
 
 // --- Patterns: of a key that is itself a wipe, of its coming and of its going ---

@@ -68,7 +68,7 @@ inline constexpr BT_TBL bt_me_key_type[] = {
     Toggle({.id = 35, .caption = "Key\nPosition", .group = "Position", .cmd = {"LOCAL@M/E@Key@Type@Key Position#*", "~@Key Type#Wipe Pattern,Key Wipe Pattern"}, .nb = SpecialKnob(26)}),
     Action({.id = 36, .caption = "Auto\nChroma", .group = "Chroma",   .cmd = {"~@Auto Chroma#*", "~@Key Type#!Chroma"}}),
     Jump  ({.id = 37, .caption = "Chroma\nAdjust", .group = "Chroma", .cmd = {"#+11110001", "~@Key Type#!Chroma"}}),
-    Jump  ({.id = 38, .caption = "Signal\nSelect", .group = "Source", .cmd = {"LOCAL@M/E@Key@Type@Pattern Select"}}),
+    Jump  ({.id = 38, .caption = "Signal\nSelect", .group = "Key Signal", .cmd = {"LOCAL@M/E@Key@Type@Pattern Select"}}),
     Radio ({.id = 49, .caption = "Key Bus",      .group = "Key Fill", .cmd = {"~@Key Fill#Key Bus"}}),
     Radio ({.id = 50, .caption = "Matte",        .group = "Key Fill", .cmd = {"~@Key Fill#Matte"}}),
     Jump  ({.id = 51, .caption = "Signal\nSelect", .group = "Key Fill", .cmd = {"LOCAL@M/E@Key@Key Fill@Adjust"}}),
@@ -110,7 +110,7 @@ static_assert(BoxesAreSound(nb_me_key_chroma_video) && BoxesAreSound(nb_me_key_c
 
 #define IF_CHROMA "~3@Key Type#!Chroma"
 inline constexpr BT_TBL bt_me_key_chroma_adjust[] = {
-    Toggle({.id = 17, .caption = "Cancel",          .group = "Color Cancel", .cmd = {"~@Color Cancel#*", IF_CHROMA, "~@Y Balance#"}, .nb = SpecialKnob(30)}),
+    Toggle({.id = 17, .caption = "Color\nCancel",   .group = "Color Cancel", .cmd = {"~@Color Cancel#*", IF_CHROMA, "~@Y Balance#"}, .nb = SpecialKnob(30)}),
     Toggle({.id = 18, .caption = "Cancel\nKey",     .group = "Color Cancel", .cmd = {"~@Cancel Key#*", IF_CHROMA, "~@Color Cancel#false"}, .nb = nb_me_key_chroma_cancelkey}),
     Toggle({.id = 19, .caption = "Y Balance",       .group = "Color Cancel", .cmd = {"~@Y Balance#*", IF_CHROMA, "~@Color Cancel#false"}}),
     Radio ({.id = 20, .caption = "Normal\nMix",     .group = "Mix Mode",     .cmd = {"~3@Chroma@Mix Mode#Normal Mix", IF_CHROMA}}),

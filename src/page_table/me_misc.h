@@ -2,6 +2,7 @@
 // snapshots. Written for M/E-1. On PGM/PST the page code calls the keys DSK; their paths keep the words "Key1" to "Key8".
 #pragma once
 #include "me_banks.h"
+#include "nb_rows.h"
 #include "pc_me_misc.h"
 #include "st_me_misc.h"
 
@@ -18,11 +19,17 @@ inline constexpr NB_TBL nb_me_misc_supermix[] = {
     {.id = 3, .caption = "B Video",    .type = NB_2,   .min = 0, .max = 100, .cmd = "~3@Super Mix@B Video"},
     NB_END,
 };
+inline constexpr NB_TBL nb_me_misc_preset_sub[] = {
+    {.id = 1, .caption = "Trans Rate\nframes", .type = NB_INT, .min = 0, .max = 999, .cmd = "~3@Transition Rate"},
+    NB_COLOR_FROM(2, "~3@Color Matte@Color 1"),
+    NB_END,
+};
 inline constexpr NB_TBL nb_me_misc_limit[] = {
     {.id = 1, .caption = "Limit", .type = NB_2, .min = 0, .max = 100, .cmd = "~3@Transition Mode@Limit"},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_misc_rate) && BoxesAreSound(nb_me_misc_supermix) && BoxesAreSound(nb_me_misc_limit));
+static_assert(BoxesAreSound(nb_me_misc_preset_sub));
 
 // The rate of the bank, and those with which its keys come independently of it.
 #define NB_KEY_RATE(slot, key) {.id = slot, .caption = key " Rate\nframes", .type = NB_INT, .min = 0, .max = 999, \
@@ -49,6 +56,15 @@ constexpr BT_TBL NextTransition(int id, const char* caption, const char* cmd)
     return Toggle({.id = id, .caption = caption, .group = "Next Transition", .cmd = {cmd}});
 }
 #define LOCAL_TRANSITION "LOCAL@M/E@Misc@Transition@Type#"
+// The server has a word for full or limited; the page code makes one switch of it.
+#define TRANSITION_MODES \
+    Toggle({.id = 5,  .caption = "Limit",     .group = "Trans Mode", .cmd = {"LOCAL@M/E@Misc@Transition@Limit#*"}, .nb = nb_me_misc_limit}), \
+    Toggle({.id = 6,  .caption = "Transition\nPreview", .group = "Preview", .cmd = {"~3@Transition Preview#*"}}), \
+    Toggle({.id = 21, .caption = "Flip-Flop", .group = "Bkgd", .cmd = {"~3@Flip-Flop#*"}})
+// One above the other, as the keys of a panel lie.
+#define TRANSITION_RUN \
+    Action({.id = 38, .caption = "Cut",       .group = "Transition", .cmd = {"~3@Cut#*"}}), \
+    Action({.id = 54, .caption = "Auto\nTrans", .group = "Transition", .cmd = {"~3@Auto Trans#*"}})
 #define BT_MISC_TRANSITION(rates) \
     TransitionType(1,  "Mix",       LOCAL_TRANSITION "Mix"), \
     TransitionType(2,  "NAM",       LOCAL_TRANSITION "NAM"), \
@@ -58,10 +74,7 @@ constexpr BT_TBL NextTransition(int id, const char* caption, const char* cmd)
     TransitionType(18, "DME Wipe",  LOCAL_TRANSITION "DME Wipe"), \
     TransitionType(19, "Clip",      LOCAL_TRANSITION "Clip", nullptr), \
     Jump  ({.id = 20, .caption = "Color\nMatte",    .group = "Transition Type", .cmd = {"#+11710001", "~3@Preset Color Mix#!true"}}), \
-    Radio ({.id = 5,  .caption = "Full",            .group = "Transition Mode", .cmd = {"~3@Transition Mode#Full"}}), \
-    Radio ({.id = 6,  .caption = "Limit",           .group = "Transition Mode", .cmd = {"~3@Transition Mode#Limit"}, .nb = nb_me_misc_limit}), \
-    Toggle({.id = 21, .caption = "Transition\nPreview", .group = "Preview", .cmd = {"~3@Transition Preview#*"}}), \
-    Toggle({.id = 22, .caption = "Flip-Flop",       .group = "Bkgd", .cmd = {"~3@Flip-Flop#*"}}), \
+    TRANSITION_MODES, \
     NextTransition(33, "Bkgd", "~3@Next Transition@Bkgd#*"), \
     NextTransition(34, "Key1", "~3@Next Transition@Key1#*"), \
     NextTransition(35, "Key2", "~3@Next Transition@Key2#*"), \
@@ -72,59 +85,47 @@ constexpr BT_TBL NextTransition(int id, const char* caption, const char* cmd)
     NextTransition(51, "Key6", "~3@Next Transition@Key6#*"), \
     NextTransition(52, "Key7", "~3@Next Transition@Key7#*"), \
     NextTransition(53, "Key8", "~3@Next Transition@Key8#*"), \
-    Knobs ({.id = 38, .caption = "Rate",            .group = "Rate", .nb = rates})
+    Knobs ({.id = 22, .caption = "Rate",            .group = "Rate", .nb = rates}), \
+    TRANSITION_RUN
 
 inline constexpr BT_TBL bt_me_misc_trans[] = {
     BT_MISC_TRANSITION(nb_me_misc_rates),
-    Action({.id = 54, .caption = "Auto\nTrans", .group = "Transition", .cmd = {"~3@Auto Trans#*"}}),
     BT_END,
 };
 inline constexpr BT_TBL bt_pp_misc_trans[] = {
     BT_MISC_TRANSITION(nb_pp_misc_rates),
-    Jump({.id = 54, .caption = "Fade to\nBlack", .group = "FTB", .cmd = {"#+11710002"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_misc_trans) && ButtonsAreSound(bt_pp_misc_trans));
 
-// The sub side mixes and wipes; colour matte and clip are the main side's.
+// The sub side mixes and wipes; clips and mattes of two colours are the main side's. A preset colour of its own is flat.
 inline constexpr BT_TBL bt_me_misc_trans_sub[] = {
     TransitionType(1,  "Mix",       LOCAL_TRANSITION "Mix"),
     TransitionType(2,  "NAM",       LOCAL_TRANSITION "NAM"),
     TransitionType(3,  "Super Mix", LOCAL_TRANSITION "Super Mix", nb_me_misc_supermix),
+    TransitionType(4,  "Preset\nColor Mix", LOCAL_TRANSITION "Preset Color Mix", nb_me_misc_preset_sub),
     TransitionType(17, "Wipe",      LOCAL_TRANSITION "Wipe"),
     TransitionType(18, "DME Wipe",  LOCAL_TRANSITION "DME Wipe"),
-    Radio ({.id = 5,  .caption = "Full",      .group = "Transition Mode", .cmd = {"~3@Transition Mode#Full"}}),
-    Radio ({.id = 6,  .caption = "Limit",     .group = "Transition Mode", .cmd = {"~3@Transition Mode#Limit"}, .nb = nb_me_misc_limit}),
-    Toggle({.id = 21, .caption = "Transition\nPreview", .group = "Preview", .cmd = {"~3@Transition Preview#*"}}),
-    Toggle({.id = 22, .caption = "Flip-Flop", .group = "Bkgd", .cmd = {"~3@Flip-Flop#*"}}),
+    TRANSITION_MODES,
     NextTransition(33, "Bkgd", "~3@Next Transition@Bkgd#*"),
     NextTransition(34, "Key5", "~3@Next Transition@Key5#*"),
     NextTransition(35, "Key6", "~3@Next Transition@Key6#*"),
     NextTransition(36, "Key7", "~3@Next Transition@Key7#*"),
     NextTransition(37, "Key8", "~3@Next Transition@Key8#*"),
-    Knobs ({.id = 38, .caption = "Rate",      .group = "Rate", .nb = nb_me_misc_rate}),
-    Action({.id = 53, .caption = "Cut",       .group = "Transition", .cmd = {"~3@Cut#*"}}),
-    Action({.id = 54, .caption = "Auto\nTrans", .group = "Transition", .cmd = {"~3@Auto Trans#*"}}),
+    Knobs ({.id = 22, .caption = "Rate",      .group = "Rate", .nb = nb_me_misc_rate}),
+    TRANSITION_RUN,
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_misc_trans_sub));
 #undef BT_MISC_TRANSITION
+#undef TRANSITION_RUN
+#undef TRANSITION_MODES
 #undef LOCAL_TRANSITION
 
 // --- The colour of a preset color mix ---
 
-inline constexpr NB_TBL nb_me_misc_color1[] = {
-    {.id = 1, .caption = "Luminance",  .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Color 1@Luminance"},
-    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Color 1@Saturation"},
-    {.id = 3, .caption = "Hue",        .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Color 1@Hue"},
-    NB_END,
-};
-inline constexpr NB_TBL nb_me_misc_color2[] = {
-    {.id = 1, .caption = "Luminance",  .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Color 2@Luminance"},
-    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = "~@Color 2@Saturation"},
-    {.id = 3, .caption = "Hue",        .type = NB_2, .min = 0, .max = 359.99, .cmd = "~@Color 2@Hue"},
-    NB_END,
-};
+inline constexpr NB_TBL nb_me_misc_color1[] = {NB_COLOR("~@Color 1"), NB_END};
+inline constexpr NB_TBL nb_me_misc_color2[] = {NB_COLOR("~@Color 2"), NB_END};
 inline constexpr NB_TBL nb_me_misc_mix[] = {
     {.id = 1, .caption = "Size", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Mix@Size"},
     {.id = 2, .caption = "Soft", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Mix@Soft"},
@@ -385,7 +386,7 @@ inline constexpr MePage me_misc_pages[] = {
               .obj = {Base(base_sub, 0x11710000), LeftTabs(vf_me1, 7), BottomTabs(hf_me_misc, 1), Buttons(bt_me_misc_color_matte),
                       Boxes(NB_Non), Cells(st_me_misc_line), Code(pc_me_misc_tabs)}}, .where = MAIN},
     {.page = {.id = 0x11710002, .tree = {"M/E-1", "Misc", "Transition", "FTB"},
-              .obj = {Base(base_sub, 0x11710000), LeftTabs(vf_me1, 7), BottomTabs(hf_me_misc, 1), Buttons(bt_pp_misc_ftb),
+              .obj = {Base(base_sub, 0x11710000), LeftTabs(vf_me1, 7), BottomTabs(hf_me_misc, 7), Buttons(bt_pp_misc_ftb),
                       Boxes(NB_Non), Cells(st_me_misc_line), Code(pc_me_misc_tabs)}}, .where = MAIN, .kind = ONLY_PGM},
     {.page = {.id = 0x11720000, .tree = {"M/E-1", "Misc", "Video Process"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 7), BottomTabs(hf_me_misc, 2), Buttons(bt_me_misc_videoproc), Boxes(NB_Non),

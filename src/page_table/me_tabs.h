@@ -11,7 +11,12 @@
 template <typename ROW> struct MeTab {
     ROW row;
     Side where = BOTH;
+    bool only_pgm = false;
 };
+template <typename ROW> constexpr bool IsOn(const MeTab<ROW>& tab, const Bank& bank)
+{
+    return (tab.where & bank.side) && (bank.is_pgm || !tab.only_pgm);
+}
 
 // The groups of a bank below its four keys.
 inline constexpr MeTab<VF_TBL> me_groups[] = {
@@ -71,6 +76,8 @@ inline constexpr MeTab<HF_TBL> me_misc_tabs[] = {
     {{.id = 5, .caption = "Clip\nTransition", .page = 0x11760000, .statcmd = {"~2@Transition@Clip#true"}}, MAIN},
     {{.id = 6, .caption = "Snapshot",         .page = 0x11770000,
       .statcmd = {"~2@Snapshot@Effect Dissolve#true", "~2@Snapshot@Auto Transition#true", "~2@Snapshot@Key Disable#true"}}, MAIN},
+    {{.id = 7, .caption = "Fade to\nBlack",   .page = 0x11710002,
+      .statcmd = {"~2@Transition@FTB@FTB#true", "~2@Transition@FTB@Inhibit#true"}}, MAIN, true},
 };
 
 // --- The rule ---
@@ -89,7 +96,7 @@ constexpr VfTable VfOf(const Bank& bank)
                               .caption = bank.is_pgm ? key.pgm_word : key.word,
                               .page = 0x11110000 + bank.offset + key.offset};
     for (const auto& group : me_groups)
-        if (group.where & bank.side) {
+        if (IsOn(group, bank)) {
             table.row[n] = group.row;
             table.row[n++].page += bank.offset;
         }
@@ -98,11 +105,10 @@ constexpr VfTable VfOf(const Bank& bank)
 
 template <size_t N> constexpr HfTable HfOf(const MeTab<HF_TBL> (&tabs)[N], const Bank& bank, uint32_t key_offset = 0)
 {
-    static_assert(N <= HF_MAX);
     HfTable table{};
     size_t n = 0;
     for (const auto& tab : tabs)
-        if (tab.where & bank.side) {
+        if (IsOn(tab, bank)) {
             table.row[n] = tab.row;
             table.row[n++].page += bank.offset + key_offset;
         }
@@ -127,6 +133,14 @@ constexpr MeTabTables MakeMeTabs()
     return all;
 }
 inline constexpr MeTabTables me_tabs = MakeMeTabs();
+constexpr bool TabsFit()
+{
+    for (const auto& bank : me_tabs.hf_group)
+        for (const HfTable& table : bank)
+            if (table.row[HF_MAX].id != 0) return false;
+    return std::size(me_key_tabs) <= HF_MAX;
+}
+static_assert(TabsFit());
 
 // What the pages of the template name.
 inline constexpr const VF_TBL* vf_me1 = me_tabs.vf[0].row;

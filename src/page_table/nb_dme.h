@@ -99,10 +99,9 @@ inline constexpr auto nb_dme_edge_bordercrop_soft = Column(Percent(1, "Soft", "~
 inline constexpr auto nb_dme_edge_bordercrop_soft_sep = Column(
     Percent(1, "Inside",  "~@Border Soft@Inside"),
     Percent(2, "Outside", "~@Border Soft@Outside"));
-#define NB_DME_COLOR(path) Percent(1, "Luminance", path "@Luminance"), Percent(2, "Saturat'n", path "@Saturation"), Hue(3, path "@Hue")
-inline constexpr auto nb_dme_edge_matte = Column(NB_DME_COLOR("~@Matte"));
+inline constexpr auto nb_dme_edge_matte = Column(NB_COLOR("~@Matte"));
 inline constexpr auto nb_dme_edge_matte_grad = Column(
-    NB_DME_COLOR("~@Matte"),
+    NB_COLOR("~@Matte"),
     Span   (17, "Position", "~@Matte@Position", 100),
     Percent(18, "Soft",     "~@Matte@Soft"),
     Degrees(19, "Angle",    "~@Matte@Angle"));
@@ -141,9 +140,9 @@ inline constexpr auto nb_dme_edge_wipe_crop = FamilyOf<2>([](int wide) {
                   Span   (3, "V",    "~@Wipe Crop@V", 1),
                   Percent(4, "Soft", "~@Wipe Crop@Soft"));
 });
-inline constexpr auto nb_dme_edge_color_mix = Column(NB_DME_COLOR("~@Color 1"), Percent(4, "Mix", "~@Color Mix@Mix"));
+inline constexpr auto nb_dme_edge_color_mix = Column(NB_COLOR("~@Color 1"), Percent(4, "Mix", "~@Color Mix@Mix"));
 inline constexpr auto nb_dme_edge_color_mix2 = Column(
-    NB_DME_COLOR("~@Color 2"),
+    NB_COLOR("~@Color 2"),
     Percent(4,  "Mix",      "~@Color Mix@Mix"),
     Span   (17, "Position", "~@Color Mix@Position", 100),
     Degrees(18, "Angle",    "~@Color Mix@Angle"));
@@ -163,7 +162,7 @@ inline constexpr auto nb_dme_shadow_floor = FamilyOf<2>([](int wide) {
                   Percent(4, "Density", "~@Shadow@Density"),
                   Percent(5, "Soft",    "~@Shadow@Soft"));
 });
-inline constexpr auto nb_dme_shadow_color = Column(NB_DME_COLOR("~@Shadow Matte"));
+inline constexpr auto nb_dme_shadow_color = Column(NB_COLOR("~@Shadow Matte"));
 inline constexpr auto nb_dme_shadow_video = Column(Percent(1, "Darkness", "~@Shadow Matte@Darkness"));
 inline constexpr auto nb_dme_trail = Column(
     Frames (1, "Duration", "~@Trail@Duration"),
@@ -191,7 +190,7 @@ inline constexpr auto nb_dme_light_near = FamilyOf<2>([](int wide) {
                   Span   (3, "Z",         "~@Light@Z", 10),
                   Percent(4, "Intensity", "~@Light@Intensity"));
 });
-inline constexpr auto nb_dme_light_color = Column(NB_DME_COLOR("~@Color"));
+inline constexpr auto nb_dme_light_color = Column(NB_COLOR("~@Color"));
 inline constexpr auto nb_dme_light_white = Column(Count(1, "Kelvin", "~@Color@Temperature", 2000, 10000));
 inline constexpr auto nb_dme_spot = FamilyOf<2>([](int wide) {
     return Column(Span   (1, "H",    "~@Spotlight@H", Wide(1, wide)),
@@ -208,7 +207,7 @@ inline constexpr auto nb_dme_spot_pattern = FamilyOf<2>([](int wide) {
                   Degrees(18, "Angle",  "~@Spotlight@Angle"));
 });
 inline constexpr auto nb_dme_ambient = Column(Percent(1, "Ambient", "~@Ambient@Level"));
-inline constexpr auto nb_dme_ambient_color = Column(Percent(4, "Ambient", "~@Ambient@Level"), NB_DME_COLOR("~@Ambient"));
+inline constexpr auto nb_dme_ambient_color = Column(Percent(4, "Ambient", "~@Ambient@Level"), NB_COLOR("~@Ambient"));
 // Across the picture.
 inline constexpr auto nb_dme_light_bar = Column(
     Percent(1, "Width", "~@Bar@Width"),
@@ -290,7 +289,7 @@ inline constexpr auto nb_dme_sepia = Column(Percent(1, "Mix", "~@Sepia@Mix"));
 inline constexpr auto nb_dme_sepia_color = Column(
     Percent(1, "Mix", "~@Sepia@Mix"),
     Hue    (2,        "~@Sepia@Hue"),
-    Percent(3, "Saturat'n", "~@Sepia@Saturation"));
+    Percent(3, "Saturation", "~@Sepia@Saturation"));
 
 // --- Input, output, graphics ---
 
@@ -302,4 +301,3 @@ inline constexpr auto nb_dme_graphic = FamilyOf<2>([](int wide) {
     return Column(Count(1, "Columns", "~@Grid@Columns", 1, wide ? 32 : 24),
                   Count(2, "Lines",   "~@Grid@Lines", 1, 24));
 });
-#undef NB_DME_COLOR

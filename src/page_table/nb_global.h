@@ -28,7 +28,7 @@ inline constexpr auto nb_ge_trail_strobe = Column(
     Frames (3, "Step",     "~@Trail@Step"));
 inline constexpr auto nb_ge_bkgd = Column(
     Percent(1, "Luminance", "~@Bkgd@Luminance"),
-    Percent(2, "Saturat'n", "~@Bkgd@Saturation"),
+    Percent(2, "Saturation", "~@Bkgd@Saturation"),
     Hue    (3,              "~@Bkgd@Hue"));
 inline constexpr auto nb_ge_bkgd_video = Column(Percent(1, "Level", "~@Bkgd@Level"));
 inline constexpr auto nb_ge_size_sep = Column(

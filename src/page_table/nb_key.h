@@ -80,13 +80,9 @@ inline constexpr auto nb_me_key_edge_edge_zabton_fit = FamilyOf<2>([](int wide) 
 // --- Mattes: one colour, or two that a pattern mixes ---
 
 inline constexpr auto nb_matte_flat = Column(
-    Percent(1, "Luminance", "~@Color 1@Luminance"),
-    Percent(2, "Saturation", "~@Color 1@Saturation"),
-    Hue    (3,              "~@Color 1@Hue"));
+    NB_COLOR("~@Color 1"));
 #define NB_MATTE_MIX(color) \
-    Column(Percent(1,  "Luminance", "~@" color "@Luminance"), \
-           Percent(2,  "Saturation", "~@" color "@Saturation"), \
-           Hue    (3,               "~@" color "@Hue"), \
+    Column(NB_COLOR("~@" color), \
            Percent(17, "Size",      "~@Mix Pattern@Size"), \
            Percent(18, "Soft",      "~@Mix Pattern@Soft"), \
            Degrees(19, "Angle",     "~@Mix Pattern@Angle@Angle"))
@@ -230,12 +226,8 @@ inline constexpr auto nb_me_key_type_keywipe_modify = NB_KEY_PATTERN_MODIFY("Key
 // --- Chroma adjust: what is taken out of the foreground, with its luminance kept in step or not ---
 
 inline constexpr auto nb_me_key_chroma_cancel = Column(
-    Percent(1, "Luminance", "~@Color Cancel@Luminance"),
-    Percent(2, "Saturation", "~@Color Cancel@Saturation"),
-    Hue    (3,              "~@Color Cancel@Hue"));
+    NB_COLOR("~@Color Cancel"));
 inline constexpr auto nb_me_key_chroma_cancel_y = Column(
-    Percent(1,  "Luminance", "~@Color Cancel@Luminance"),
-    Percent(2,  "Saturation", "~@Color Cancel@Saturation"),
-    Hue    (3,               "~@Color Cancel@Hue"),
+    NB_COLOR("~@Color Cancel"),
     Span   (17, "Y Gain",    "~@Y Balance@Gain", 100),
     Percent(18, "Y Clip",    "~@Y Balance@Clip"));

@@ -1,6 +1,7 @@
 // nb_me_wipe: knob tables of a bank's wipe pages. Positions as the cells over the pages draw them: the picture ends at 100,
 // the pattern moves to 200. Shares and sizes in percent.
 #pragma once
+#include "nb_rows.h"
 #include "rows.h"
 
 // --- Pattern select: "~" is the pattern ---
@@ -91,15 +92,9 @@ static_assert(BoxesAreSound(nb_wipe_limit));
 
 // --- The matte of the edge: "~" is its page ---
 
-#define NB_COLOR(color) { \
-    {.id = 1, .caption = "Luminance",  .type = NB_2, .min = 0, .max = 100,    .cmd = color "@Luminance"}, \
-    {.id = 2, .caption = "Saturation", .type = NB_2, .min = 0, .max = 100,    .cmd = color "@Saturation"}, \
-    {.id = 3, .caption = "Hue",        .type = NB_2, .min = 0, .max = 359.99, .cmd = color "@Hue"}, \
-    NB_END}
-inline constexpr NB_TBL nb_wipe_edge_matte[] = NB_COLOR("~@Matte Adjust@Color 1"); // from the page above
-inline constexpr NB_TBL nb_wipe_matte_color1[] = NB_COLOR("~@Color 1");
-inline constexpr NB_TBL nb_wipe_matte_color2[] = NB_COLOR("~@Color 2");
-#undef NB_COLOR
+inline constexpr NB_TBL nb_wipe_edge_matte[] = {NB_COLOR("~@Matte Adjust@Color 1"), NB_END}; // from the page above
+inline constexpr NB_TBL nb_wipe_matte_color1[] = {NB_COLOR("~@Color 1"), NB_END};
+inline constexpr NB_TBL nb_wipe_matte_color2[] = {NB_COLOR("~@Color 2"), NB_END};
 // A mix that runs across the whole picture has no place sideways of its run; one round a middle has both.
 inline constexpr NB_TBL nb_wipe_matte_mix_across[] = {
     {.id = 1, .caption = "Size", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Mix@Size"},

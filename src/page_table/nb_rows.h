@@ -52,6 +52,12 @@ constexpr NB_TBL Frames(int id, const char* caption, const char* cmd) { return C
 // Turns, of which a spin counts many.
 constexpr NB_TBL Turns(int id, const char* caption, const char* cmd) { return Span(id, caption, cmd, 999.99); }
 
+// The boxes of a colour, wherever there is one. path: a literal; "first" counts where other boxes lie before them.
+#define NB_COLOR_FROM(first, path) \
+    Percent(first, "Luminance", path "@Luminance"), Percent((first) + 1, "Saturation", path "@Saturation"), \
+    Box((first) + 2, "Hue", path "@Hue", 0, 359.99)
+#define NB_COLOR(path) NB_COLOR_FROM(1, path)
+
 // --- Limits ---
 
 // Sideways: both aspects count in the same steps, of which a 16:9 picture has a third more.

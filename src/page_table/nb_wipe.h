@@ -153,9 +153,7 @@ inline constexpr auto nb_me_dmewipe_transparency_fade = Column(
 // --- Background colours: one, which is that of a matte, or a mix of two along a pattern ---
 
 inline constexpr auto nb_bkgd_color2 = Column(
-    Percent(1, "Luminance", "~@Color 2@Luminance"),
-    Percent(2, "Saturation", "~@Color 2@Saturation"),
-    Hue    (3,              "~@Color 2@Hue"));
+    NB_COLOR("~@Color 2"));
 inline constexpr auto nb_bkgd_pattern = FamilyOf<2>([](int wide) {
     return Column(Span   (1, "H",    "~@Pattern@H", Wide(100, wide)),
                   Span   (2, "V",    "~@Pattern@V", 100),

@@ -37,7 +37,7 @@ inline constexpr ST_TBL st_me_key[] = {
                   .cmd = {"~2@Video Process@Video Process", "~2@Video Process@Luminance", "~2@Video Process@Chroma",
                           "~2@Video Process@Hue"}, .jamp_id_base = 0x11170000}),
     CellAt(1, 1, {.id = 8,  .draw_func = st_drw_me_key_type_keyfill,
-                  .cmd = {"~2@Type@Key Fill", "~2@Type@Matte Adjust@Color", "~2@Type@Signal Select@Fill"},
+                  .cmd = {"~2@Type@Key Fill", "~2@Type@Matte Adjust@Mode", "~2@Type@Signal Select@Fill"},
                   .jamp_id_base = 0x11110003}),
     CellAt(0, 1, {.id = 9,  .draw_func = st_drw_me_key_type_source,
                   .cmd = {"~2@Type@Key Source", "~2@Type@Signal Select@Source", "~2@Status@Source Name"},

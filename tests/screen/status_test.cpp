@@ -40,7 +40,7 @@ TEST_F(StatusPicture, TheCellsOverAKeyPage)
          {"M/E-1@Key1@Type@Signal Select@Source", "Key Bus"},
          {"M/E-1@Key1@Status@Source Name", "CG 1"},
          {"M/E-1@Key1@Type@Key Fill", "Matte"},
-         {"M/E-1@Key1@Type@Matte Adjust@Color", "Color 1"},
+         {"M/E-1@Key1@Type@Matte Adjust@Mode", "Flat"},
          {"M/E-1@Key1@Transition@ON Transition Type", "DME Wipe"},
          {"M/E-1@Key1@Transition@DME Wipe@Pattern Select@Pattern", "1001"},
          {"M/E-1@Key1@Transition@OFF Transition Type", "Wipe"},

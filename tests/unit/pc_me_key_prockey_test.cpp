@@ -83,11 +83,11 @@ TEST_F(KeyProcessCrop, TheFillNeedsABorderAndItsSecondColorAMix)
         const char* line;
         std::set<int> disabled;
     } steps[] = {
-        {"Border#false", {20, 21, 22, 34, 36, 37}},
-        {"Border Fill#Mix", {20, 21, 22, 34, 36, 37}},
+        {"Border#false", {20, 21, 22, 34, 36, 37, 38}},
+        {"Border Fill#Mix", {20, 21, 22, 34, 36, 37, 38}},
         {"Border#true", {34}},
-        {"Border Fill#Flat", {22, 34, 37}},
-        {"Crop#true", {22, 37}},
+        {"Border Fill#Flat", {22, 34, 37, 38}},
+        {"Crop#true", {22, 37, 38}},
     };
     Open(0x12160003);
     for (const auto& step : steps) {

@@ -15,11 +15,11 @@ TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
         {0x12350000, {"Resizer#true", "Combine#true"}, {51, 53}},
         {0x12350000, {"Resizer#false", "Resizer#true", "Combine#false"}, {}},
         {0x12350001, {"Resizer#true", "Process@Filter#false"}, {34}},
-        {0x12350002, {"Resizer#true", border + "CG Border#true"}, {17, 18, 20, 21, 22, 36, 37}},
+        {0x12350002, {"Resizer#true", border + "CG Border#true"}, {17, 18, 20, 21, 22, 36, 37, 38}},
         {0x12350002,
          {border + "Border#false", border + "Crop#false"},
-         {18, 20, 21, 22, 34, 36, 37}},
-        {0x12350002, {border + "Border#true", border + "Border Fill#Flat"}, {22, 37}},
+         {18, 20, 21, 22, 34, 36, 37, 38}},
+        {0x12350002, {border + "Border#true", border + "Border Fill#Flat"}, {22, 37, 38}},
         {0x12350002, {border + "Border#true", border + "Border Fill#Mix"}, {}},
         {0x12350003, {effect + "Mosaic#true", effect + "Defocus#false"}, {18, 19}},
         {0x12350003, {effect + "Defocus#true", effect + "Mosaic#false"}, {17}},
@@ -41,12 +41,14 @@ TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
 
 TEST_F(KeyResizerPages, WithoutTheLargeFrameMemoryThereIsNone)
 {
+    constexpr int FILL_SOURCE = 54; // no business of the resizer
     SYS_FmemV6 = 0;
     for (uint32_t page = 0x11150000; page <= 0x11150005; page++) {
         EXPECT_EQ(Held(Open(page), "M/E-1@Key1@Resizer@Combine"), 0);
         Tell("M/E-1@Key1@Processed Key@Resizer#true");
         for (const BT_MEM* b = bt_first(); b->id >= 1; b++)
-            EXPECT_EQ(b->visible, BT_DISABLED) << std::hex << page << " " << b->id;
+            EXPECT_EQ(b->visible, b->id == FILL_SOURCE ? BT_ENABLED : BT_DISABLED)
+                << std::hex << page << " " << b->id;
     }
 }
 

@@ -12,12 +12,12 @@ TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
         const char *on, *off;
         std::set<int> disabled;
     } cases[] = {
-        {SAME, "Cut", "Wipe", {33, 34, 36, 37, 51}}, // off has no say
-        {SAME, "Mix", "Wipe", {33, 34, 36, 37}},
+        {SAME, "Cut", "Wipe", {33, 34, 35, 36, 37, 51}}, // off has no say
+        {SAME, "Mix", "Wipe", {33, 34, 35, 36, 37}},
         {SAME, "Wipe", "Cut", {37}},
         {SAME, "DME Wipe", "Cut", {}},
         {INDEPENDENT, "Mix", "Cut", {22, 38, 51, 52, 53}},
-        {INDEPENDENT, "Wipe", "Cut", {38, 53}},
+        {INDEPENDENT, "Wipe", "Cut", {38}},
         {INDEPENDENT, "Stinger", "DME Wipe", {22}},
     };
     for (const auto& c : cases) {
@@ -51,15 +51,22 @@ TEST_F(KeyTransitionPage, PatternSelectLeadsToWhatTheTypeIsMadeOf)
     }
 }
 
-TEST_F(KeyTransitionPage, ADirectionPressedAgainIsNormal)
+TEST_F(KeyTransitionPage, OneOfThreeDirectionsIsLit)
 {
     const std::string way = "M/E-2@Key3@Transition@";
     for (const uint32_t page : {SAME, INDEPENDENT}) {
-        const int normal_reverse = page == SAME ? 33 : 51;
+        const int first = page == SAME ? 33 : 51;
+        const auto lit = [first] {
+            std::string on;
+            for (int i = 0; i < 3; i++)
+                on += BT_GetStatus(first + i) == BT_ON ? "nrb"[i] : '.';
+            return on;
+        };
         Open(page);
-        TellAll(way, {"ON Transition Type#Wipe", "Direction#Reverse"});
-        EXPECT_EQ(BT_GetStatus(normal_reverse + 1), BT_ON);
-        EXPECT_THAT(Press(normal_reverse), ElementsAre("put " + way + "Direction#Normal/Reverse"));
-        EXPECT_THAT(Press(normal_reverse + 1), ElementsAre("put " + way + "Direction#Normal"));
+        TellAll(way, {"ON Transition Type#Wipe", "Direction#Normal"});
+        EXPECT_EQ(lit(), "n..");
+        Tell(way + "Direction#Normal/Reverse");
+        EXPECT_EQ(lit(), "..b");
+        EXPECT_THAT(Press(first + 1), ElementsAre("put " + way + "Direction#Reverse"));
     }
 }

@@ -33,6 +33,47 @@ TEST_F(MeMisc, ATypeOfTransitionTakesThePlaceOfTheOneBefore)
     }
 }
 
+TEST_F(MeMisc, LimitIsOneSwitchForAWordOfTheServer)
+{
+    for (const auto& b : two_banks) {
+        const std::string path = std::string(b.word) + "@Misc@Transition@Transition Mode";
+        EXPECT_THAT(Open(b.bank + 0x710000), Contains("add " + path));
+        EXPECT_THAT(Puts(Press(5)), ElementsAre("put " + path + "#Limit"));
+        EXPECT_NE(BT_GetStatus(5), BT_ON) << "the server has not said so";
+        Tell(path + "#Limit");
+        EXPECT_EQ(BT_GetStatus(5), BT_ON);
+        EXPECT_THAT(Puts(Press(5)), ElementsAre("put " + path + "#Full"));
+        EXPECT_THAT(Leave(), Contains("remove " + path));
+    }
+}
+
+TEST_F(MeMisc, EverySideOfABankRunsItsOwnTransition)
+{
+    static const struct {
+        uint32_t page;
+        const char* word;
+    } sides[] = {{0x11710000, "M/E-1"}, {0x14710000, "PGM/PST"}, {0x18710000, "PGM/PST SUB"}};
+    for (const auto& s : sides) {
+        Open(s.page);
+        const std::string path = std::string("put ") + s.word + "@Misc@Transition@";
+        EXPECT_THAT(Puts(Press(38)), ElementsAre(path + "Cut#true"));
+        EXPECT_THAT(Puts(Press(54)), ElementsAre(path + "Auto Trans#true"));
+    }
+}
+
+TEST_F(MeMisc, ProgramHasATabForTheFadeToBlack)
+{
+    constexpr int TAB_X = 97 + 6 * 86 + 40;
+    static const struct {
+        uint32_t page, target;
+    } cases[] = {{0x14730000, 0x14710002}, {0x12730000, 0}, {0x18730000, 0}};
+    for (const auto& c : cases) {
+        Open(c.page);
+        SendMessage(MSG_PRESS, TAB_X, 550, 1, 0);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0), c.target) << std::hex << c.page;
+    }
+}
+
 TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
 {
     static const struct {
@@ -53,7 +94,7 @@ TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
             Open(c.page);
             EXPECT_EQ(BT_GetVisible(c.key5), keys == 8 ? BT_ENABLED : BT_CUTOFF) << c.caption;
             EXPECT_EQ(Caption(c.key5), c.caption);
-            const Lines sent = Press(38);
+            const Lines sent = Press(22);
             EXPECT_EQ(std::ranges::count(sent, add(c.rate)), keys == 8) << c.rate;
             EXPECT_THAT(sent, Not(Contains(add(c.no_rate))));
             Open(c.page); // it remembers who had the knobs

@@ -168,7 +168,7 @@ TEST_F(MeWipe, TheKnobsOfTheMatteMixFollowItsPattern)
     EXPECT_EQ(Shown("V"), "no box");
     Tell(matte + "Mix Pattern#Circle");
     EXPECT_NE(Shown("V"), "no box");
-    (void)Press(20); // the knobs are a colour's now, and stay with it
+    (void)Press(19); // the knobs are a colour's now, and stay with it
     TellAll(matte, {"Mix Pattern#Diagonal", "Mix Pattern#Box"});
     EXPECT_STREQ(NB_GetTitle(), "Color 1");
     (void)Press(18);
