@@ -73,7 +73,8 @@ TEST_F(BaseAreaTest, EachZoneLeadsToItsPage)
 // Where the line of a tree is too long for the band, its last word is what tells pages apart.
 TEST_F(BaseAreaTest, PagesOfOneBranchHaveTitlesThatDiffer)
 {
-    constexpr Rect LINE = {99, 44, 372, 62};
+    constexpr Rect LINE = {99, 44, 297, 62};
+    std::fill(GL_KeyMax, GL_KeyMax + ME_COUNT, 8); // the key for the other keys shortens the band
     std::set<std::vector<uint32_t>> titles;
     constexpr const char* last[] = {"Adjust", "Pattern Select", "Remove From Begin"};
     for (const char* word : last) {
