@@ -310,7 +310,7 @@ static void clear_category(const Scp& s)
 
 static void set_host(FILETRANS_SCPLIST& target)
 {
-    const char* name = target.target;
+    const char* name = shp_target[&target - Scp_TrnasferList]; // its own name may not be set yet
     if (BeginsWith(name, "CS")) {
         PrintText(target.host, "SWR000D%03d:", int(strtol(name + 2, nullptr, 10)) % 1000);
         return;

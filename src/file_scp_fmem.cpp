@@ -14,9 +14,8 @@
 
 void fmem_relative(char (&dst)[FILE_PATH_SIZE], const Scp& s, const FILEXFERLIST* item)
 {
-    const char* end = s.cat.queue && !scp_is_get(s.cat.queue) ? item->dst : item->src;
-    if (!s.cat.queue && file_is_local(item->src))
-        end = item->dst;
+    // By the item's own job: the category may be another one's still.
+    const char* end = scp_is_get(item->job) ? item->src : item->dst;
     const char* colon = strchr(end, ':');
     const char* path = colon ? colon + 1 : end;
     if (s.cat.path[0] && BeginsWith(path, s.cat.path))

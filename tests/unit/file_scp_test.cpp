@@ -513,6 +513,30 @@ TEST_F(FileStore, AnExportComesAsTheWantedKind)
                          "FRAMEMEM/CS1/A/x.TIF,MYHOST:/mnt/usb/usb1/x.TIF,FRAMEMEM");
 }
 
+TEST_F(FileStore, AnExportNamesItsPictureWhoeverHoldsTheStore)
+{
+    FILEXFERLIST* puts = nullptr;
+    File_XferList_SCPAdd_FM(&puts, "MYHOST:/d/p.SFH", "SWR000D001:/p.SFH", "FRAMEMEM", "CS1", 0, "",
+                            0, 0);
+    File_TransSCPdirPutList_FM(&puts, List, 0);
+    Store("USER_ID::MENU1");
+    File_XferList_SCPAdd_FM(&list, "SWR000D001:/A/x.SFH", "MYHOST:/mnt/usb/usb1/q.TIF", "FRAMEMEM",
+                            "CS1", 1, "", 0, 0);
+    File_ExecFmExportList2(&list, List, 0);
+    EXPECT_THAT(list->cmd, HasSubstr(",SWR000D001:" WORK "FRAMEMEM/CS1/A/x.TIF,"));
+    File_XferList_RemoveAll(&puts);
+}
+
+TEST_F(FileStore, AnExportFromAStoreThatWasNeverThereFails)
+{
+    Scp_TrnasferList[3] = {}; // as at process start
+    File_XferList_SCPAdd_FM(&list, "SWR000D002:/A/x.SFH", "MYHOST:/mnt/usb/usb1/x.TIF", "FRAMEMEM",
+                            "CS2", 1, "", 0, 0);
+    File_ExecFmExportList2(&list, List, 0);
+    EXPECT_EQ(told.size(), 1u);
+    EXPECT_STREQ(Scp_TrnasferList[3].host, "SWR000D002:");
+}
+
 // Folders first, each once in a row; the files one at a time, each checked by the store.
 TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
 {
