@@ -451,7 +451,11 @@ void scp_go_on(const Scp& s)
     const FILECOUNT::Count& count = count_of(s);
     if (!is_waiting_or_over(s.cat.status) && count.finished == count.items) {
         if (count.checking == 0) {
-            scp_release(s);
+            // Of what the hub has taken away meanwhile it would not answer "Standby".
+            if (scp_is_mine(s))
+                scp_release(s);
+            else
+                clear_category(s);
         } else if (s.cat.status == FILE_CATEGORY_STATUS_SCPPUT && !scp_is_fmem(s)) {
             s.cat.status = FILE_CATEGORY_STATUS_SCP_FINISH;
             scp_request_status(s, SHP_PUT, "");

@@ -342,6 +342,20 @@ TEST_F(FileRemote, ACancelInTheMiddleGivesTheCategoryBack)
     EXPECT_EQ(told.size(), 1u);
 }
 
+TEST_F(FileRemote, WhatTheHubTookAwayIsNotGivenBack)
+{
+    AddPut("a.SST");
+    File_TransSCPdirPutList(&list, List, 0);
+    Notify("SETUP.USER_ID:MENU1");
+    (void)HubSent();
+    Notify("SETUP.USER_ID:PANEL3");
+    Answer(1, "NG(no)");
+    EXPECT_THAT(HubSent(), IsEmpty());
+    EXPECT_EQ(told.size(), 1u) << "waits for an answer that nobody owes";
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_NO);
+    EXPECT_EQ(Scp_TrnasferList[0].status, FILE_SCP_STATUS_NO);
+}
+
 TEST_F(FileRemote, ADisconnectEndsTheJobWhereverItIs)
 {
     for (int depth = 0; depth < 5; depth++) {
