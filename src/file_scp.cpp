@@ -617,6 +617,16 @@ static void take_holder(const Scp& s, const char* holder)
     }
 }
 
+// By their names; the hub may leave the extension out.
+static bool is_same_file(const char* own, const char* told)
+{
+    const char* a = file_name_of(own);
+    const char* b = file_name_of(told);
+    const char* dot = strrchr(a, '.');
+    const size_t stem = dot ? size_t(dot - a) : strlen(a);
+    return strcmp(a, b) == 0 || (strlen(b) == stem && strncmp(a, b, stem) == 0);
+}
+
 // The device has done what was asked; a path says for which file.
 static bool is_named(const Scp& s, const char* path)
 {
@@ -624,10 +634,9 @@ static bool is_named(const Scp& s, const char* path)
         return true;
     if (scp_is_fmem(s))
         return fmem_is_current(s, path);
-    const char* name = file_name_of(path);
     const bool is_get = scp_is_get(s.cat.queue);
     for (FILEXFERLIST* item = *s.cat.queue->xferlist; item; item = item->next)
-        if (scp_has(s, item) && strcmp(file_name_of(is_get ? item->src : item->dst), name) == 0)
+        if (scp_has(s, item) && is_same_file(is_get ? item->src : item->dst, path))
             return true;
     return false;
 }

@@ -113,7 +113,9 @@ TEST_F(FileRemote, APutIsCheckedByTheDeviceAndCountsHalfUntilThen)
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_PUT);
     Notify("SETUP.STATUS:Put,elsewhere/x.SST");
     EXPECT_THAT(Sent(), IsEmpty());
-    Notify("SETUP.STATUS:Put,a.SST");
+    Notify("SETUP.STATUS:Put,a.SS");
+    EXPECT_THAT(Sent(), IsEmpty());
+    Notify("SETUP.STATUS:Put,/a");
     const uint32_t fetch = FetchLabel();
     Result("nobody\nb.SST,OK\n", "Put");
     Answer(fetch, "OK");
@@ -412,7 +414,7 @@ TEST_F(FileRemote, ReadyInTheMiddleAsksAgainAndGoesOn)
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
     Notify("SETUP.USER_ID:MENU1");
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Put"));
-    Notify("SETUP.STATUS:Put");
+    Notify("SETUP.STATUS:Put,a.SST");
     Result("a.SST,OK", "Put");
     Answer(FetchLabel(), "OK");
     (void)HubSent();
