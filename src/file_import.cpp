@@ -225,6 +225,7 @@ static bool after_conversion(FILEXFERLIST* item, const Pair& pair)
             return put(item, pair, i);
     file_set_text(item, "NG([ERROR] File Not Exist.)");
     file_set_status(item, FILESTATUS_NG);
+    file_import_drop_temporaries(item); // there, but no register for them
     return false;
 }
 

@@ -285,6 +285,20 @@ TEST_F(FileImport, AStoreThatFailsTakesBothTemporariesAway)
                                     "put File@Access@Remove#Lx,MYHOST:" + second));
 }
 
+TEST_F(FileImport, WhatHasNoRegisterIsTakenAway)
+{
+    for (int i = 0; i < 2; i++)
+        File_ExecFmImportRegNoSet(-1, i);
+    File_ExecFmImportStartRegNoSet(1);
+    WriteFile(first, "x");
+    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.BMP", "SWR000D001");
+    File_ExecFmImportList(&list, List, 0);
+    (void)Sent();
+    Answer(1, "OK");
+    EXPECT_THAT(Sent(), ElementsAre("put File@Access@Remove#Lx,MYHOST:" + first));
+    EXPECT_EQ(told.size(), 1u);
+}
+
 TEST_F(FileImport, OnlyKnownImagesFromKnownDrivesAreTaken)
 {
     static const struct {
