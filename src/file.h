@@ -144,7 +144,7 @@ enum FILEWORKTYPE : int {
 using FILE_TEXT_FUNC = void (*)(uint32_t label, int tag, const char* reply);
 // List jobs: once, when all items are finished; their list still stands.
 using FILE_LIST_FUNC = void (*)(uint32_t label, int tag);
-// Searches: for each row with its name and the pair of name and date ("MM.DD.YYYY hh:mm", empty
+// Searches: for each row with its name and the pair of name and date ("Nov.25.2026 09:20", empty
 // when the server's was none); at the end with two nulls. The end's message is LMSG_FINDSTATUS.
 using FILE_FIND_FUNC = void (*)(uint32_t label, int tag, const char* name, const char* const* pair);
 // FindSFM: for each row with its seven fields, commas between; at the end with null.
