@@ -63,6 +63,7 @@ constexpr struct {
     SDL_Surface** selected;
 } icons[] = {
     {"_Folder", &G_Folder, &G_Folder_Selected},
+    {"_CL_Lock", &G_lock_on_s, &G_lock_on_s},
 };
 } // namespace
 

@@ -115,11 +115,6 @@ inline constexpr HF_TBL hf_file_frame[] = {
     {.id = 3, .caption = "Frame\nMemory\nData", .page = 0x71530000},
     HF_END,
 };
-inline constexpr HF_TBL hf_file_names[] = {
-    {.id = 4, .caption = "Xpt\nSource\nName", .page = 0x71740000},
-    {.id = 5, .caption = "Import\nSource\nName", .page = 0x71750000},
-    HF_END,
-};
 
 // One group of the menu: its tab at the left, its tabs at the bottom.
 struct FileGroup {

@@ -1,4 +1,4 @@
-// file_left_tabs: the groups of the File menu, down the left edge of all its pages.
+// file_left_tabs: the groups of the File menu, down the left edge of all its pages, and the pages of the last group.
 #pragma once
 #include "rows.h"
 
@@ -8,6 +8,12 @@ inline constexpr VF_TBL vf_file[] = {
     {.id = 3, .caption = "Snapshot", .page = 0x71310000},
     {.id = 4, .caption = "Shotbox\nMacro", .page = 0x71410000},
     {.id = 5, .caption = "Frame\nMemory", .page = 0x71530000},
-    {.id = 7, .caption = "Directory\nNames", .page = 0x71740000},
+    {.id = 7, .caption = "Directory\nNames", .page = 0x71710000},
     VF_END,
+};
+inline constexpr HF_TBL hf_file_names[] = {
+    {.id = 1, .caption = "Directory", .page = 0x71710000},
+    {.id = 4, .caption = "Xpt\nSource\nName", .page = 0x71740000},
+    {.id = 5, .caption = "Import\nSource\nName", .page = 0x71750000},
+    HF_END,
 };

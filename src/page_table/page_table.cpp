@@ -1,5 +1,6 @@
 // PageTable, joined at compile time from the rows of the menu groups.
 #include "dme.h"
+#include "file_directory.h"
 #include "file_dual.h"
 #include "fm.h"
 #include "gallery.h"
@@ -59,6 +60,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 keyframe_path_rows,
                 registers_pages,
                 system_pages,
+                file_directory_pages,
                 saver_pages,
                 gallery_pages);
 }
