@@ -30,6 +30,8 @@ struct DirectoryPage : TablePage {
     {
         TablePage::TearDown();
         (void)!::system("rm -rf /tmp/directory_test");
+        CopyText(GL_RegistDataPath, "/mnt/data/");
+        CopyText(GL_ImportDataPath, "");
         File_Reset();
         Err_Clear();
     }
