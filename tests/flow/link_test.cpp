@@ -206,10 +206,14 @@ TEST_F(Link, AStalledServerGetsEveryByteOnceAndInOrder)
     Peer peer(NET_TEXT_PORT);
     const int queued = Stall(peer, pad);
     Log_Init("/tmp/stalled.log", 1000000);
-    const std::string before = FileText("/tmp/stalled.log");
+    const auto lines = [] { return std::ranges::count(FileText("/tmp/stalled.log"), '\n'); };
+    const auto before = lines();
+    const int waiting = Net_QueueLength();
     for (int pass = 0; pass < 100; pass++)
         EXPECT_EQ(Net_SendCommandQueue(), 0);
-    EXPECT_EQ(FileText("/tmp/stalled.log"), before) << "it would push all history out of the log";
+    // The kernel may have taken some more; a pass that sent nothing has nothing to say.
+    EXPECT_LE(lines() - before, waiting - Net_QueueLength() + 1)
+        << "it would push all history out of the log";
     Log_Init("", 0);
     ExpectRest(peer, 0, queued, pad);
 }
