@@ -210,7 +210,7 @@ static void draw_frame(const BoxLook& look)
 
 void window_dark_frame(unsigned ground)
 {
-    draw_frame({ground, RAISED_LIGHT, 0x565E62, 0x0A0A0A, BLACK});
+    draw_frame({ground, RAISED_LIGHT, 0x565E62, RAISED_DARK, BLACK});
 }
 
 void window_light_frame()
