@@ -2,6 +2,7 @@
 #include "a_ls.h"
 #include "a_nb.h"
 #include "a_pc.h"
+#include "global.h"
 #include "message.h"
 #include "saver.h"
 #include "text.h"
@@ -37,6 +38,8 @@ static struct {
     int renamed = 0;         // the name that the keyboard is open for
     bool is_changed = false; // there is something to save
 } setup;                     // valid from create(1) to create(0)
+
+static int setup_row = 0; // that the list stands on; the saver closes the page and opens it again
 
 static void setup_show()
 {
@@ -168,7 +171,9 @@ static int pc_screen_saver_setup_create(int on, uint32_t)
         LS_SetData(LIST, row, 0, row_titles[row]);
     setup_show();
     LS_SetNData(LIST, ROWS);
-    LS_SetNowLine(LIST, 0);
+    if (!GL_ScreenSaver_Now)
+        setup_row = 0;
+    LS_SetNowLine(LIST, setup_row);
     NB_SetVar(KNOB_PATTERN, GL_ScreenSaverPTN_Mode);
     NB_SetVar(KNOB_SPEED, GL_ScreenSaverVariable_speed + 1);
     NB_SetVar(KNOB_HOLD, GL_ScreenSaverPath_Time);
@@ -178,6 +183,7 @@ static int pc_screen_saver_setup_create(int on, uint32_t)
 static int pc_screen_saver_setup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     switch (msg) {
+    case LMSG_LISTSEL: setup_row = LS_GetNowLine(LIST); return 0;
     case LMSG_BTNSEL: return setup_button(Text(ax));
     case LMSG_KNOBVAR: return setup_knob(int(ax), int(bx));
     default: return 0;

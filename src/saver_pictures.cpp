@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
+#include <iterator>
 #include <sys/stat.h>
 
 #include "safeguards.h"
@@ -34,9 +35,18 @@ struct Kept {
     SDL_Surface* picture = nullptr;
 };
 constexpr int KEPT = 2; // what goes and what comes
+
+// A file that turned out to be no picture: it is not read again before it changes.
+struct NoPicture {
+    bool is_known = false;
+    off_t size = 0;
+    timespec changed = {};
+};
 } // namespace
 
 static Kept kept[KEPT]; // the last used first
+static NoPicture no_picture[PICTURES]
+                           [std::size(extensions)]; // of the folder; while the saver is up
 
 static int SSav_Disp = 0;       // a first picture has been made
 static int SSav_Disp_alpha = 0; // 1: fading, 0: holding
@@ -56,6 +66,9 @@ void saver_pictures_start()
     show = {};
     SSav_Disp = 0;
     SSav_Disp_alpha = 0;
+    for (auto& number : no_picture)
+        for (NoPicture& file : number)
+            file = {};
 }
 
 void saver_pictures_end()
@@ -69,17 +82,22 @@ void saver_pictures_end()
 
 // --- The folder ---
 
+template <class File> static bool is_unchanged(const File& file, const struct stat& st)
+{
+    return file.size == st.st_size && file.changed.tv_sec == st.st_mtim.tv_sec &&
+           file.changed.tv_nsec == st.st_mtim.tv_nsec;
+}
+
 static bool is_kept(const Kept& k, const char* path, const struct stat& st)
 {
-    return k.picture && k.size == st.st_size && k.changed.tv_sec == st.st_mtim.tv_sec &&
-           k.changed.tv_nsec == st.st_mtim.tv_nsec && strcmp(k.path, path) == 0;
+    return k.picture && is_unchanged(k, st) && strcmp(k.path, path) == 0;
 }
 
 // Null when the file is none that can be shown.
-static SDL_Surface* load_kept(const char* path)
+static SDL_Surface* load_kept(const char* path, NoPicture& no)
 {
     struct stat st;
-    if (stat(path, &st) != 0)
+    if (stat(path, &st) != 0 || (no.is_known && is_unchanged(no, st)))
         return nullptr;
     for (int i = 0; i < KEPT; i++) {
         if (!is_kept(kept[i], path, st))
@@ -88,6 +106,7 @@ static SDL_Surface* load_kept(const char* path)
         return kept[0].picture;
     }
     SDL_Surface* picture = TDL_LoadBmp(path);
+    no = {!picture, st.st_size, st.st_mtim};
     if (!picture)
         return nullptr;
     Kept& oldest = kept[KEPT - 1];
@@ -104,10 +123,10 @@ static SDL_Surface* load_kept(const char* path)
 // others have been asked for.
 static SDL_Surface* Select_fileLoad(int n)
 {
-    for (const char* extension : extensions) {
+    for (size_t i = 0; i < std::size(extensions); i++) {
         char path[PATH_SIZE];
-        PrintText(path, "%s/%s%d.%s", GL_Scr_disp_ImagePath, STEM, n, extension);
-        if (SDL_Surface* picture = load_kept(path))
+        PrintText(path, "%s/%s%d.%s", GL_Scr_disp_ImagePath, STEM, n, extensions[i]);
+        if (SDL_Surface* picture = load_kept(path, no_picture[n][i]))
             return picture;
     }
     return nullptr;
@@ -218,7 +237,7 @@ static bool is_holding(int elapsed_ms)
     return true; // the fade begins with the next pass
 }
 
-// The first picture of a fading pattern. False when there is none yet.
+// The first picture of a fading pattern. True once it stood before this pass.
 static bool begin(int elapsed_ms)
 {
     if (SSav_Disp)

@@ -1,6 +1,7 @@
 // The screen saver, through the loop's door: when it starts, what it hides and gives back, what
 // each pattern shows.
 #include "a_ba.h"
+#include "a_ls.h"
 #include "bus.h"
 #include "device.h"
 #include "global.h"
@@ -12,7 +13,9 @@
 #include "saver.h"
 #include "tdl.h"
 #include "text.h"
+#include "window.h"
 #include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -321,6 +324,24 @@ TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
     }
 }
 
+// A folder of a hundred of them would be read in every pass.
+TEST_F(SaverPictures, AFileThatIsNoPictureIsReadAgainOnlyWhenItChanges)
+{
+    Put("SSrc_5.bmp", 0x204060);
+    const std::string picture = FileText(Path("SSrc_5.bmp"));
+    std::ofstream(Path("SSrc_5.bmp")) << std::string(picture.size(), 'x');
+    const auto written = std::filesystem::last_write_time(Path("SSrc_5.bmp"));
+    Start(12);
+    Passes(20);
+    std::ofstream(Path("SSrc_5.bmp"), std::ios::binary) << picture;
+    std::filesystem::last_write_time(Path("SSrc_5.bmp"), written);
+    Passes(20);
+    EXPECT_NE(Middle(), 0x204060u) << "it looks as it did, so it was not read";
+    std::filesystem::last_write_time(Path("SSrc_5.bmp"), written + std::chrono::seconds(1));
+    EXPECT_GE(PassesUntil(0x204060), 0);
+    Wake();
+}
+
 // --- Settings ---
 
 TEST_F(Saver, SettingsComeBackAndRubbishChangesNothing)
@@ -402,4 +423,62 @@ TEST_F(SaverSetup, IsSavedWhenThePageIsLeftAndOnlyThen)
     GL_ScreenSaverVariable_speed = 0;
     Saver_LoadSettings();
     EXPECT_EQ(GL_ScreenSaverVariable_speed, 6);
+}
+
+// Into the keyboard that is open, in place of what it holds.
+static void TypeAndEnter(const std::string& text)
+{
+    ASSERT_NE(GetWindow(), 0);
+    for (int i = 0; i < SAVER_TEXT; i++)
+        SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
+    for (const char c : text)
+        SendMessage(MSG_KEY, tolower(c), isupper(c) ? KMOD_LSHIFT : 0, 0, 0);
+    SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+    for (int i = 0; i < 100; i++)
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    ASSERT_EQ(GetWindow(), 0);
+}
+
+static void Button(const char* name)
+{
+    const std::string path = std::string("LOCAL@Screen Sever@Setup@") + name;
+    SendMessage(LMSG_BTNSEL, MsgArg(path.c_str()), 0, 0, 0);
+}
+
+TEST_F(SaverSetup, ANameIsTheOneThatTheListStandsOn)
+{
+    CopyText(GL_Scr_disp_name[0], "first");
+    LS_SetNowLine(1, 2);
+    Button("Rename");
+    TypeAndEnter("STUDIO 4");
+    EXPECT_STREQ(GL_Scr_disp_name[2], "STUDIO 4");
+    Button("Default");
+    EXPECT_STREQ(GL_Scr_disp_name[2], "KTR-20");
+
+    LS_SetNowLine(1, 11); // the folder has no name
+    Button("Default");
+    Button("Rename");
+    EXPECT_EQ(GetWindow(), 0);
+    EXPECT_STREQ(GL_Scr_disp_name[0], "first");
+
+    Button("Path");
+    TypeAndEnter("/mnt/x");
+    EXPECT_STREQ(GL_Scr_disp_ImagePath, "/mnt/x");
+}
+
+TEST_F(SaverSetup, APreviewGivesTheListBackOnItsRow)
+{
+    const Rect third_row = {110, 130, 0, 0};
+    SendMessage(MSG_PRESS, third_row.x1, third_row.y1, 0, 0);
+    SendMessage(MSG_RELEASE, third_row.x1, third_row.y1, 0, 0);
+    const int row = LS_GetNowLine(1);
+    ASSERT_GT(row, 0);
+    Button("Push START");
+    Passes(2);
+    ASSERT_TRUE(IsSaver());
+    Wake();
+    EXPECT_EQ(LS_GetNowLine(1), row);
+    CreatePage(KEY_PAGE);
+    CreatePage(0x99930000);
+    EXPECT_EQ(LS_GetNowLine(1), 0) << "whoever opens it anew begins at the top";
 }
