@@ -356,9 +356,16 @@ static void insert_place(int place, int region)
     *at = region;
 }
 
+int kf_furthest_scroll()
+{
+    const auto end = std::find_if(std::begin(tlPriority), std::end(tlPriority),
+                                  [](const KF_REGION* r) { return r->code >= KF_NO_CODE; });
+    return std::max(int(end - std::begin(tlPriority)) - TL_ROWS, 0);
+}
+
 void kf_fill_rows()
 {
-    RegionScroll = std::clamp(RegionScroll, 0, KF_REGIONS - TL_ROWS);
+    RegionScroll = std::clamp(RegionScroll, 0, kf_furthest_scroll());
     for (int row = 0; row < TL_ROWS; row++) {
         tlDisp[row] = tlPriority[RegionScroll + row];
         tlDisp[row]->redraw = 1;

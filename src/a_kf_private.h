@@ -20,7 +20,8 @@ extern int tlOrder_stale;   // what the order is made of has changed since
 
 // Returns 1 for an id that is not of the regions, else 0.
 int KF_TallyProc(uint32_t id, const unsigned char* data, int ndata);
-void kf_fill_rows(); // tlDisp from tlPriority
+void kf_fill_rows();      // tlDisp from tlPriority, with RegionScroll held to
+int kf_furthest_scroll(); // the place from which the last region still is in the last row
 
 // Paint a row of the timeline, or only its bar, flushed. -1 for a null region, -2 for a row that
 // there is not.

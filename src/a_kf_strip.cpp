@@ -25,7 +25,16 @@ constexpr int FONT_TIME = 8;
 constexpr int TIME_CELL_PX = 10;
 } // namespace
 
-static bool strip_is_pushed = false; // as it was painted last
+static struct {
+    bool is_pushed = false;
+    const KF_REGION* region = nullptr;
+    int regnum = 0;
+    char regname[sizeof KF_REGION::regname] = "";
+    int freekf = 0;
+    int kfnum = 0;
+    int ckfnum = 0;
+    int ctime = 0;
+} painted; // what the strip shows
 
 // While a menu macro is recorded its keys are there, but on the pages where there is none to
 // record.
@@ -63,6 +72,19 @@ static void short_name(char (&name)[16], const char* full)
     }
 }
 
+static bool is_shown(const KF_REGION& r)
+{
+    return painted.region == &r && painted.regnum == r.regnum && painted.freekf == r.freekf &&
+           painted.kfnum == r.kfnum && painted.ckfnum == r.ckfnum && painted.ctime == r.ctime &&
+           strcmp(painted.regname, r.regname) == 0;
+}
+
+static void remember(const KF_REGION& r, bool is_pushed)
+{
+    painted = {is_pushed, &r, r.regnum, "", r.freekf, r.kfnum, r.ckfnum, r.ctime};
+    CopyText(painted.regname, r.regname);
+}
+
 static void draw_name(const char* full)
 {
     char name[16];
@@ -77,7 +99,7 @@ static void draw_strip(const KF_REGION& r)
 {
     char text[64];
     TDL_FillRectS(BITMAP_RIGHT + 1, STRIP.y1, STRIP.x2, STRIP.y2, FRAME_GROUND);
-    TDL_PutS(STRIP.x1, STRIP.y1, strip_is_pushed ? G_KF_on : G_KF_off);
+    TDL_PutS(STRIP.x1, STRIP.y1, painted.is_pushed ? G_KF_on : G_KF_off);
     PrintText(text, "Effect#: %d (%s)", r.regnum, r.regname);
     TDL_SymbolS(515, 16, text, FONT_TEXT, WHITE);
     PrintText(text, "Free KF: %d", r.freekf);
@@ -96,12 +118,16 @@ void KF_DrawTopArea(int pushed)
     const bool is_anew = pushed == KF_DRAW_ANEW;
     const bool is_pushed = !is_anew && pushed > 0;
     KF_REGION& r = strip_region();
-    if (!is_anew && !r.redraw && !r.redraw_tl && is_pushed == strip_is_pushed)
+    // The rows of the timeline wait for the same marks, and may wait long: there the marks stay,
+    // and what the strip shows tells whether there is news for it.
+    const bool has_rows = GL_NowPage == PAGE_TIMELINE;
+    const bool is_news = (r.redraw || r.redraw_tl) && !(has_rows && is_shown(r));
+    if (!is_anew && !is_news && is_pushed == painted.is_pushed)
         return;
-    strip_is_pushed = is_pushed;
+    remember(r, is_pushed);
     draw_strip(r);
-    if (GL_NowPage == PAGE_TIMELINE)
-        return; // its rows wait for the same marks
+    if (has_rows)
+        return;
     r.redraw = 0;
     r.redraw_tl = 0;
 }

@@ -49,20 +49,10 @@ static void paint_rows()
     }
 }
 
-static int rows_in_use()
-{
-    const auto end = std::find_if(std::begin(tlPriority), std::end(tlPriority),
-                                  [](const KF_REGION* r) { return r->code >= KF_NO_CODE; });
-    return int(end - std::begin(tlPriority));
-}
-
 static void order_rows()
 {
     KF_InitPriority();
-    const int furthest = std::max(rows_in_use() - TL_ROWS, 0);
-    RegionScroll = std::min(RegionScroll, furthest);
-    kf_fill_rows();
-    (void)NB_SetMinMax(KNOB_SCROLL, 0, furthest); // the column may show another table
+    (void)NB_SetMinMax(KNOB_SCROLL, 0, kf_furthest_scroll()); // the column may show another table
     (void)NB_SetVar(KNOB_SCROLL, RegionScroll);
 }
 

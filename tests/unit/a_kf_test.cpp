@@ -360,7 +360,8 @@ TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNews)
     kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
     EXPECT_TRUE(StripPaints(0));
     GL_NowPage = 0x61110000;
-    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
+    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1, .keyframe = 7}));
     EXPECT_TRUE(StripPaints(0));
     EXPECT_EQ(R(ME1).redraw_tl, 1) << "the rows of the timeline need it";
+    EXPECT_FALSE(StripPaints(0)) << "they have not been painted yet, the strip has";
 }
