@@ -341,16 +341,18 @@ static int press(int x, int y)
 
 // --- Tallies ---
 
-static Reference parse_reference(const char* value)
+// False when a part is missing: such a line says nothing about the reference.
+static bool parse_reference(Reference& r, const char* value)
 {
     char text[64];
     char* field[3];
     CopyText(text, value);
-    (void)SplitVars(text, field, 3); // a part that is missing is null and counts as 0
-    uint32_t number[3] = {};
+    if (SplitVars(text, field, 3) < 3)
+        return false;
+    uint32_t* const number[3] = {&r.mode, &r.module, &r.rest};
     for (int i = 0; i < 3; i++)
-        number[i] = field[i] ? uint32_t(strtoul(field[i], nullptr, 16)) : 0;
-    return {number[0], number[1], number[2]};
+        *number[i] = uint32_t(strtoul(field[i], nullptr, 16));
+    return true;
 }
 
 static const ST_TBL* table_of_reference(uint32_t mode)
@@ -371,7 +373,9 @@ static bool is_dme_page()
 // The cells of a DME page are those of the reference that the operator turns.
 static int reference_tally(const char* value)
 {
-    const Reference now = parse_reference(value);
+    Reference now;
+    if (!parse_reference(now, value))
+        return 0;
     if (now.mode == 0 || now.module == 0) {
         StatusRefModule = -1;
         return 0;

@@ -308,7 +308,7 @@ TallyRoute tally_panel_assign(const Tally& t)
         return TallyRoute::Pass;
     }
     Parts p;
-    if (SplitValue(p, t.value, 6) < 3)
+    if (SplitValue(p, t.value, 6) < 6)
         return TallyRoute::Pass;
     const int panel = Index(p.v[0], UNIT_MAX);
     if (panel < 0)

@@ -154,7 +154,7 @@ TEST_F(StatusCells, TheReferenceChoosesTheTableOfADmePage)
         EXPECT_THAT(TakeQueuedCommands(),
                     Contains("add DME@Status@3D Param@" + std::string(table) + "@Location@X"));
     }
-    for (const char* value : {"11,2,9", "12,0,0", "zz", ""}) {
+    for (const char* value : {"11,2,9", "12,0,0", "2,1", "4", "zz", ""}) {
         Tally(REFERENCE, value);
         EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << value;
     }

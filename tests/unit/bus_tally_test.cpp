@@ -143,6 +143,7 @@ TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)
     } cases[] = {
         {"1,1,0,0,0,0", 1, 0, 0},     // as before
         {"2,7,8,0,0,0", 1, 0, 0},     // another panel
+        {"1,3,4,0,0", 1, 0, 0},       // a part is missing
         {"1,258,513,0,0,0", 2, 1, 1}, // 8 bits each
         {"256,9,9,9,9,9", 2, 1, 0},
     };
