@@ -96,11 +96,20 @@ void RefreshScreen()
 
 // --- Events ---
 
+// The picture is carried over by a copy of its own: the saved screen belongs to an open pane or
+// window. A mode that cannot be had leaves the old one.
 static void loop_set_video(uint32_t flags)
 {
-    TDL_PushScreen(0, 0, SCREEN_W, SCREEN_H);
-    Screen = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 0, flags);
-    TDL_PopScreen();
+    SDL_Surface* const picture = SDL_DisplayFormat(Screen);
+    const uint32_t old_flags = Screen->flags & SDL_FULLSCREEN;
+    SDL_Surface* changed = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 0, flags);
+    if (!changed)
+        changed = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 0, old_flags);
+    if (changed)
+        Screen = changed;
+    if (picture)
+        TDL_Put(0, 0, picture);
+    SDL_FreeSurface(picture);
 }
 
 static void loop_key(const SDL_KeyboardEvent& key)
