@@ -9,7 +9,6 @@
 
 namespace
 {
-constexpr int PANE_STYLE_OK = 2;
 constexpr int DRIVE_CHECK_LINES = 2;
 
 constexpr char text_user_data[] = "The user data partition of local drive is\n"
@@ -71,5 +70,5 @@ void DriveCheck()
     const DriveMessage message =
         DriveCheck_Message(is_emergency_boot, GL_SSD_Data_Error, GL_SSD_Sys_Error);
     if (message.title)
-        PaneMessage_Create(message.title, PANE_STYLE_OK, message.text);
+        PaneMessage_Create(message.title, PANE_FATAL, message.text);
 }
