@@ -1,6 +1,8 @@
 #include "global.h"
 #include "harness.h"
 #include "log.h"
+#include "xsyslog.h"
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -88,6 +90,32 @@ TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)
 #pragma GCC diagnostic pop
     Log_Output(1, 1, "%s", argument.c_str());
     EXPECT_THAT(FileText(LOG), EndsWith("] " + std::string(4095, 'a') + "\n"));
+}
+
+// Ahead of everything that the program says, and whatever level is asked for.
+TEST_F(Log, AStartIsMarkedAndTakesItsLevelFromTheEnvironment)
+{
+    setenv("TM3LOGLEVEL", "4", 1);
+    Log_Init(LOG, LOG_FILE_SIZE);
+    unsetenv("TM3LOGLEVEL");
+    EXPECT_THAT(FileText(LOG), MatchesRegex("\\[[^]]*\\]\\[ -1\\] \n"
+                                            "\\[[^]]*\\]\\[ -1\\] === <<< START LOG >>> =+\n"
+                                            "\\[[^]]*\\]\\[ -1\\] \n"));
+    EXPECT_EQ(Log_Output(3, 1, "x"), 1);
+    EXPECT_EQ(Log_Output(4, 1, "x"), 0);
+    Log_Init(LOG, LOG_FILE_SIZE);
+    EXPECT_EQ(Log_Output(3, 1, "x"), 1) << "without the variable the level stays";
+}
+
+TEST_F(Log, WhatIsOfLevelFiveGoesToTheSystemLogToo)
+{
+    EXPECT_EQ(xsys_openlog("unit", 0, -1), 1); // lines to standard error
+    testing::internal::CaptureStderr();
+    Log_Output(LOG_LIFE - 1, 11, "not this");
+    Log_Output(LOG_LIFE, 11, "fan %d", 2);
+    const std::string lines = testing::internal::GetCapturedStderr();
+    xsys_closelog();
+    EXPECT_THAT(lines, MatchesRegex("unit\\[[0-9]+\\]: 11 \\[info\\] fan 2\n"));
 }
 
 TEST_F(Log, MaintenanceLogNeedsARealDisk)
