@@ -1,6 +1,6 @@
 // file_directory: the Directory page, what of its keys page code names.
 #pragma once
-#include "file_left_tabs.h"
+#include "file_tabs.h"
 #include "rows.h"
 
 enum : int {

@@ -1,7 +1,7 @@
 // file_dual: the pages of two lists in the File menu and the detail page of each. They stand once, as a template; what
 // a page is of is a row of file_dual_list.
 #pragma once
-#include "file_left_tabs.h"
+#include "file_tabs.h"
 #include "pc_file_dual.h"
 #include "rows.h"
 #include <array>
@@ -80,15 +80,6 @@ inline constexpr LS_TBL ls_file_detail[] = {
 };
 static_assert(ListsAreSound(ls_file_detail));
 
-inline constexpr HF_TBL hf_file_setup[] = {
-    {.id = 1, .caption = "All", .page = 0x71110000},
-    {.id = 2, .caption = "Setup", .page = 0x71120000},
-    {.id = 3, .caption = "Initial\nStatus", .page = 0x71130000},
-    {.id = 4, .caption = "Key\nMemory", .page = 0x71140000},
-    {.id = 5, .caption = "Video\nProcess\nMemory", .page = 0x71150000},
-    {.id = 6, .caption = "User\nSetup", .page = 0x71160000},
-    HF_END,
-};
 inline constexpr HF_TBL hf_file_effect[] = {
     {.id = 1, .caption = "Effect\n1-99", .page = 0x71210000},
     {.id = 2, .caption = "User DME\nWipe Eff\n101-199", .page = 0x71220000},

@@ -1,6 +1,6 @@
 // system: the first pages of files, engineering setup, diagnosis and the error page.
 #pragma once
-#include "file_left_tabs.h"
+#include "file_tabs.h"
 #include "rows.h"
 
 inline constexpr BT_TBL bt_file_all[] = {
@@ -94,7 +94,7 @@ inline constexpr PAGE system_pages[] = {
     {.id = 0x71000000, .tree = {"File"}, .obj = {Base(base_main), Buttons(bt_file_top)}},
     {.id = 0x73000000, .tree = {"Engineering Setup"}, .obj = {Base(base_main), Buttons(bt_engineering_setup_top)}},
     {.id = 0x74000000, .tree = {"Diag"}, .obj = {Base(base_main), Buttons(bt_diag_top)}},
-    {.id = 0x71110000, .tree = {"File", "All"}, .obj = {Base(base_file_main), LeftTabs(vf_file, 1), Buttons(bt_file_all)}},
+    {.id = 0x71110000, .tree = {"File", "All"}, .obj = {Base(base_file_main), LeftTabs(vf_file, 1), BottomTabs(hf_file_setup, 1), Buttons(bt_file_all)}},
     {.id = 0x73110000, .tree = {"Engineering Setup", "System", "Network Config"}, .obj = {Base(base_main), Buttons(bt_setup_network)}},
     {.id = 0x74110000, .tree = {"Diag", "Status"}, .obj = {Base(base_main), Buttons(bt_diag)}},
     {.id = 0x74120000, .tree = {"Diag", "History"}, .obj = {Base(base_main), Buttons(bt_diag_history)}},
