@@ -2,6 +2,7 @@
 // and nothing else, a name ends inside its field, and all memory comes back. A line "found#PATH" is
 // a name from a search: what passes lies in its folder. The input is lines of path, "#" and value.
 #include "fmctrl_private.h"
+#include "fuzz_lines.h"
 #include "memory.h"
 #include "message.h"
 #include "netio.h"
@@ -61,16 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     FMCtrl_Quit();
     const int used = UsedMemPtr;
-    const std::string text(reinterpret_cast<const char*>(data), size);
-    for (size_t at = 0; at < text.size();) {
-        const size_t end = std::min(text.find('\n', at), text.size());
-        const std::string line = text.substr(at, end - at);
-        at = end + 1;
-        const size_t mark = line.find('#');
-        if (mark == std::string::npos)
-            continue;
-        const std::string path = line.substr(0, mark);
-        const std::string value = line.substr(mark + 1);
+    ForEachTally(data, size, [](const std::string& path, const std::string& value) {
         if (path == "found")
             CheckFound(value.c_str());
         else
@@ -78,7 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         char sent[CMD_SIZE];
         while (Net_TakeQueued(sent, sizeof sent)) {
         }
-    }
+    });
     CheckLists();
     FMCtrl_Quit();
     Check(UsedMemPtr == used);

@@ -1,5 +1,6 @@
 // The register lists: whatever a line says, the mirror stays in its tables, a name ends inside its
 // field, and the same line twice changes nothing more. The input is lines of path, "#" and value.
+#include "fuzz_lines.h"
 #include "memory.h"
 #include "message.h"
 #include "register.h"
@@ -39,23 +40,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     Register_Free();
     const int used = UsedMemPtr;
-    const std::string text(reinterpret_cast<const char*>(data), size);
-    for (size_t at = 0; at < text.size();) {
-        const size_t end = std::min(text.find('\n', at), text.size());
-        const std::string line = text.substr(at, end - at);
-        at = end + 1;
-        const size_t mark = line.find('#');
-        if (mark == std::string::npos)
-            continue;
-        const std::string path = line.substr(0, mark);
-        const std::string value = line.substr(mark + 1);
+    ForEachTally(data, size, [](const std::string& path, const std::string& value) {
         const int before = UsedMemPtr;
         Take(path, value);
         const int after = UsedMemPtr;
         Check(after - before <= 1); // nothing but its own copy
         Take(path, value);
         Check(UsedMemPtr == after);
-    }
+    });
     CheckMirror();
     Register_Free();
     Check(UsedMemPtr <= used);
