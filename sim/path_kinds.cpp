@@ -38,6 +38,8 @@ static constexpr PathKind kinds[] = {
     {"**@Mix Pattern@Pattern", PATTERN},
     {"**@Mask@Pattern Mask@Pattern", PATTERN},
     {"*@*@Transition@Direction", "word Normal,Reverse,Normal/Reverse"},
+    {"*@*@Resizer@Process@Mode", "word Auto,Field,Frame"},
+    {"*@*@Resizer@Process@Key Mode", "word Video,Field,Frame"},
     {"*@*@Transition@* DME Wipe Pattern", DME_PATTERN},
     {"*@*@Transition@* Wipe Pattern", PATTERN},
     {"*@*@Processed Key@DME Select@DME*", "bool"},

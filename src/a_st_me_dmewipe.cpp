@@ -45,7 +45,7 @@ int st_drw_me_dmewipe_direction(ST_MEM* cell)
     const ST_MEM* c = st_begin(cell, lit, "Direction");
     if (!c)
         return -1;
-    ST_VAL val{.st_num = 3, .st_str = {c->tally[0], "Norm/Rev", "Ptn Limit"}, .selected = lit};
+    ST_VAL val{.st_num = 3, .st_str = {c->tally[0], "Norm/Rev", "Pattern Limit"}, .selected = lit};
     val.invert[0] = c->tally[0][0] != '\0';
     val.grayout[1] = st_is_off(c, 1);
     val.grayout[2] = st_is_off(c, 2);

@@ -1,8 +1,12 @@
 #include "pc_me.h"
+#include "a_bt.h"
 #include "bus.h"
 #include "global.h"
+#include "netio.h"
 #include "page.h"
+#include "pane.h"
 #include "snapshot_region.h"
+#include "tally_value.h"
 #include "text.h"
 #include <cstdarg>
 #include <cstdio>
@@ -67,6 +71,36 @@ void ME_Mirror(const char* format, ...)
     vsnprintf(line, sizeof line, format, ap);
     va_end(ap);
     SendDummyTally(line);
+}
+
+void ME_PullDownTally(const ME_PULLDOWN& of, ME_PULLDOWN_STATE& now, const char* path,
+                      const char* value)
+{
+    if (!*now.Cmd || !Same(path, now.Cmd))
+        return;
+    now.Chosen = 0;
+    for (int i = 0; i < of.choices; i++)
+        if (Same(value, of.choice[i].word))
+            now.Chosen = i + 1;
+    BT_SetCaption(of.button, now.Chosen ? of.choice[now.Chosen - 1].caption : of.caption);
+}
+
+void ME_PullDownOpen(const ME_PULLDOWN& of, ME_PULLDOWN_STATE& now)
+{
+    BTNSEL items[ME_CHOICES_MAX];
+    for (int i = 0; i < of.choices; i++)
+        items[i] = {i + 1, of.choice[i].caption, now.Chosen == i + 1};
+    if (const BT_MEM* key = bt_find(of.button))
+        now.Pane = PanePullDown_Create(key->x1, key->y2 + 1, of.choices, items);
+}
+
+void ME_PullDownClosed(const ME_PULLDOWN& of, ME_PULLDOWN_STATE& now, int pane, int id)
+{
+    if (pane != now.Pane || !pane)
+        return;
+    now.Pane = 0;
+    if (id >= 1 && id <= of.choices)
+        Net_SendCommandFormat("put %s#%s", now.Cmd, of.choice[id - 1].word);
 }
 
 int ME_SnapshotRegion()

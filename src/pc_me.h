@@ -41,6 +41,33 @@ void ME_Mirror(const char* format, ...) __attribute__((format(printf, 1, 2)));
 
 constexpr int ME_CAPTION_FONT = 3; // of a standard key, for texts that are cut to it
 
+// --- A value that is chosen from a pull-down ---
+
+struct ME_CHOICE {
+    const char* word; // on the wire
+    const char* caption;
+};
+constexpr int ME_CHOICES_MAX = 4;
+struct ME_PULLDOWN {
+    int button;          // a PullDownKey that follows the path: its caption is the choice
+    const char* caption; // until the server has told one of the choices
+    ME_CHOICE choice[ME_CHOICES_MAX];
+    int choices;
+};
+struct ME_PULLDOWN_STATE {
+    char Cmd[CMD_SIZE] = ""; // path of the value; the page code fills it in
+    int Chosen = 0;          // 1 and up, 0 none of the choices
+    int Pane = 0;            // that is open, 0 none
+};
+
+// A tally: shows the choice when the path is that of the value.
+void ME_PullDownTally(const ME_PULLDOWN& of, ME_PULLDOWN_STATE& now, const char* path,
+                      const char* value);
+// The button was pressed: opens the list below it, or leaves it when the page has no such button.
+void ME_PullDownOpen(const ME_PULLDOWN& of, ME_PULLDOWN_STATE& now);
+// A pane has closed: puts the choice when it was the list's and one was made.
+void ME_PullDownClosed(const ME_PULLDOWN& of, ME_PULLDOWN_STATE& now, int pane, int id);
+
 // --- Regions of the wipe and DME wipe snapshots ---
 
 struct ME_SSREGION {

@@ -62,12 +62,9 @@ constexpr Grey main_greys[] = {
 
 constexpr State process_states[] = {resizer_off, {"~@Filter", "false", FILTER_OFF}};
 constexpr Grey process_greys[] = {
-    {17, RESIZER_OFF},
-    {18, RESIZER_OFF},
-    {19, RESIZER_OFF},
-    {33, RESIZER_OFF},
-    {34, RESIZER_OFF | FILTER_OFF},
-    {35, RESIZER_OFF},
+    {17, RESIZER_OFF}, {18, RESIZER_OFF}, {19, RESIZER_OFF}, {20, RESIZER_OFF},
+    {21, RESIZER_OFF}, {22, RESIZER_OFF}, {33, RESIZER_OFF}, {34, RESIZER_OFF | FILTER_OFF},
+    {35, RESIZER_OFF}, {36, RESIZER_OFF}, {38, RESIZER_OFF},
 };
 
 // The border of a character generator comes with its picture: the resizer's own is then out of use.
@@ -109,9 +106,9 @@ constexpr Grey effect_greys[] = {
 };
 
 constexpr State mask_states[] = {resizer_off, {"~@Mask", "false", MASK_OFF}};
+constexpr unsigned NO_MASK = RESIZER_OFF | MASK_OFF;
 constexpr Grey mask_greys[] = {
-    {17, RESIZER_OFF},
-    {18, RESIZER_OFF | MASK_OFF},
+    {17, RESIZER_OFF}, {18, NO_MASK}, {19, NO_MASK}, {20, NO_MASK}, {33, NO_MASK}, {34, NO_MASK},
 };
 
 constexpr State rotation_states[] = {

@@ -33,14 +33,22 @@ struct TransForm {
     int rate;
 };
 constexpr TransForm same_form = {1, {36, -1}, {33, 34, 35}, 37, 51};
-constexpr TransForm independ_form = {2, {22, 38}, {51, 52, 53}, -1, -1};
+constexpr TransForm independ_form = {2, {22, 38}, {51, -1, -1}, 52, -1};
+
+// Where three keys would not fit.
+constexpr ME_PULLDOWN direction = {
+    51,
+    "Direction",
+    {{"Normal", "Normal"}, {"Reverse", "Reverse"}, {"Normal/Reverse", "Norm/Rev"}},
+    3};
 } // namespace
 
 static struct {
     const TransForm* Form = nullptr;
     char TypeCmd[WAYS][CMD_SIZE] = {}; // "M/E-1@Key1@Transition@ON Transition Type"
     TransType Type[WAYS] = {OTHER, OTHER};
-} KeyTrans; // valid from create(1) to create(0)
+    ME_PULLDOWN_STATE Direction = {}; // no path in the form that has keys
+} KeyTrans;                           // valid from create(1) to create(0)
 
 // --- What the buttons show ---
 
@@ -84,6 +92,7 @@ static int trans_tally(const char* path, const char* value)
         KeyTrans.Type[way] = type_of_word(value);
         show_type();
     }
+    ME_PullDownTally(direction, KeyTrans.Direction, path, value);
     return 0;
 }
 
@@ -102,6 +111,14 @@ static int trans_press(const char* path)
         return open_pattern(ON);
     if (Same(path, LOCAL_TRANS "OFF Pattern"))
         return open_pattern(OFF);
+    if (Same(path, LOCAL_TRANS "Direction"))
+        ME_PullDownOpen(direction, KeyTrans.Direction);
+    return 0;
+}
+
+static int trans_chosen(int pane, int id)
+{
+    ME_PullDownClosed(direction, KeyTrans.Direction, pane, id);
     return 0;
 }
 
@@ -130,7 +147,11 @@ static int pc_me_key_trans_same_create(int on, uint32_t)
 
 static int pc_me_key_trans_independ_create(int on, uint32_t)
 {
-    return trans_create(on, independ_form);
+    const int result = trans_create(on, independ_form);
+    if (on)
+        PrintText(KeyTrans.Direction.Cmd, "%s@%s@Transition@Direction", GL_NowTree[0],
+                  GL_NowTree[1]);
+    return result;
 }
 
 static int pc_me_key_trans_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
@@ -138,6 +159,7 @@ static int pc_me_key_trans_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
     switch (msg) {
     case MSG_TALLY: return trans_tally(Text(ax), Text(bx));
     case LMSG_BTNSEL: return trans_press(Text(ax));
+    case LMSG_PANEQUIT: return trans_chosen(int(ax), int(bx));
     default: return 0;
     }
 }

@@ -51,7 +51,7 @@ NB_REMOVE(3)
 
 constexpr BT_TBL dmewipe_normal(int id) { return Radio({.id = id, .caption = "Normal", .group = "Direction", .cmd = {"~2@Direction#Normal"}}); }
 constexpr BT_TBL dmewipe_reverse(int id) { return Radio({.id = id, .caption = "Reverse", .group = "Direction", .cmd = {"~2@Direction#Reverse"}}); }
-constexpr BT_TBL dmewipe_norm_rev(int id) { return Toggle({.id = id, .caption = "Normal/\nReverse", .group = "Direction", .cmd = {"~2@Direction@Norm/Rev#*"}}); }
+constexpr BT_TBL dmewipe_norm_rev(int id) { return Toggle({.id = id, .caption = "Norm/Rev", .group = "Direction", .cmd = {"~2@Direction@Norm/Rev#*"}}); }
 constexpr BT_TBL dmewipe_limit(int id)
 {
     return Toggle({.id = id, .caption = "Pattern\nLimit", .group = "Pattern Limit", .cmd = {"~2@Direction@Pattern Limit#*"}, .nb = nb_me_dmewipe_limit});

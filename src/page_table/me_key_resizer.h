@@ -38,19 +38,34 @@ inline constexpr NB_TBL nb_me_key_resizer_filter[] = {
     {.id = 2, .caption = "V Filter", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Filter@V"},
     NB_END,
 };
-inline constexpr NB_TBL nb_me_key_resizer_detail[] = {
-    {.id = 1, .caption = "Level", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Detail@Level"},
+inline constexpr NB_TBL nb_me_key_resizer_detail[] = { // coring leaves noise below it alone
+    {.id = 1, .caption = "Level",  .type = NB_2, .min = 0, .max = 100, .cmd = "~@Detail@Level"},
+    {.id = 2, .caption = "Coring", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Detail@Coring"},
+    NB_END,
+};
+inline constexpr NB_TBL nb_me_key_resizer_moire[] = {
+    {.id = 1, .caption = "Level", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Anti Moire@Level"},
+    NB_END,
+};
+inline constexpr NB_TBL nb_me_key_resizer_motion[] = { // from here on a picture counts as moving
+    {.id = 1, .caption = "Motion", .type = NB_2, .min = 0, .max = 100, .cmd = "~@Mode@Motion"},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_key_resizer_filter) && BoxesAreSound(nb_me_key_resizer_detail));
+static_assert(BoxesAreSound(nb_me_key_resizer_moire) && BoxesAreSound(nb_me_key_resizer_motion));
 
 inline constexpr BT_TBL bt_me_key_resizer_resproc[] = {
-    Radio ({.id = 17, .caption = "Field",   .group = "Process Mode", .cmd = {"~@Mode#Field"}}),
-    Radio ({.id = 18, .caption = "Frame",   .group = "Process Mode", .cmd = {"~@Mode#Frame"}}),
-    Radio ({.id = 19, .caption = "Auto",    .group = "Process Mode", .cmd = {"~@Mode#Auto"}}),
+    Radio ({.id = 17, .caption = "Field",   .group = "Video Process", .cmd = {"~@Mode#Field"}}),
+    Radio ({.id = 18, .caption = "Frame",   .group = "Video Process", .cmd = {"~@Mode#Frame"}}),
+    Radio ({.id = 19, .caption = "Auto",    .group = "Video Process", .cmd = {"~@Mode#Auto"}, .nb = nb_me_key_resizer_motion}),
+    Radio ({.id = 20, .caption = "Field",   .group = "Key Process", .cmd = {"~@Key Mode#Field"}}),
+    Radio ({.id = 21, .caption = "Frame",   .group = "Key Process", .cmd = {"~@Key Mode#Frame"}}),
+    Radio ({.id = 22, .caption = "As\nVideo", .group = "Key Process", .cmd = {"~@Key Mode#Video"}}),
     Toggle({.id = 33, .caption = "Filter",  .group = "Sharpness", .cmd = {"~@Filter#*"}, .nb = nb_me_key_resizer_filter}),
     Toggle({.id = 34, .caption = "Auto\nFilter", .group = "Sharpness", .cmd = {"~@Filter@Auto#*"}}),
     Toggle({.id = 35, .caption = "Detail",  .group = "Sharpness", .cmd = {"~@Detail#*"}, .nb = nb_me_key_resizer_detail}),
+    Toggle({.id = 36, .caption = "Anti\nMoire", .group = "Sharpness", .cmd = {"~@Anti Moire#*"}, .nb = nb_me_key_resizer_moire}),
+    Action({.id = 38, .caption = "Unity",   .group = "Process", .cmd = {"~@Unity#*"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_resizer_resproc));
@@ -131,6 +146,12 @@ static_assert(ButtonsAreSound(bt_me_key_resizer_enhancedeffect));
 inline constexpr BT_TBL bt_me_key_resizer_mask[] = {
     Toggle({.id = 17, .caption = "Mask",         .group = "Mask", .cmd = {"~@Mask#*", KEY_ROTATION}, .nb = SpecialKnob(21), .no_add = 2}),
     Toggle({.id = 18, .caption = "Mask\nInvert",  .group = "Mask", .cmd = {"~@Mask Invert#*"}}),
+    RadioRelease({.id = 19, .caption = "Force\nForegnd", .group = "Force", .cmd = {"~@Force#Foreground"}}),
+    RadioRelease({.id = 20, .caption = "Force\nBkgd", .group = "Force", .cmd = {"~@Force#Background"}}),
+    Action({.id = 33, .caption = "Full\nPicture", .group = "Box", .cmd = {"~@Box@Full Picture#*"}}),
+    Action({.id = 34, .caption = "4:3 Box",    .group = "Box", .cmd = {"~@Box@4:3 Box#*"}}),
+    Jump  ({.id = 35, .caption = "Main\nMask", .group = "Key Masks", .cmd = {"#+11130000"}}),
+    Jump  ({.id = 36, .caption = "Sub\nMask",  .group = "Key Masks", .cmd = {"#+11140000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_resizer_mask));

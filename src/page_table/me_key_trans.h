@@ -46,9 +46,11 @@ static_assert(BoxesAreSound(nb_me_key_trans_same) && BoxesAreSound(nb_me_key_vid
 #define DIRECTION(id_, word, caption_) Radio({.id = id_, .caption = caption_, .group = "Direction", .cmd = {"~@Direction#" word}})
 #define DIRECTIONS(place) \
     DIRECTION(place, "Normal", "Normal"), DIRECTION((place) + 1, "Reverse", "Reverse"), \
-    DIRECTION((place) + 2, "Normal/Reverse", "Normal/\nReverse")
+    DIRECTION((place) + 2, "Normal/Reverse", "Norm/Rev")
 #define VIDEO_PROCESS(place) Toggle({.id = place, .caption = "Video\nProcess", .group = "Video Proc", \
                                      .cmd = {"~2@Video Process@Video Process#*"}, .nb = nb_me_key_videoproc})
+#define UNITY(place)         Action({.id = place, .caption = "Unity", .group = "Video Proc", \
+                                     .cmd = {"~2@Video Process@Unity#*", "~2@Video Process@Video Process#false"}})
 
 // A setting that on and off share is kept as that of on.
 inline constexpr BT_TBL bt_me_key_trans_same[] = {
@@ -65,7 +67,7 @@ inline constexpr BT_TBL bt_me_key_trans_same[] = {
     AUTO_TRANS(50),
     Knobs({.id = 51, .caption = "Rate",      .group = "Key ON/OFF", .nb = nb_me_key_trans_same}),
     VIDEO_PROCESS(53),
-    Action({.id = 54, .caption = "Unity",    .group = "Video Proc", .cmd = {"~2@Video Process@Unity#*", "~2@Video Process@Video Process#false"}}),
+    UNITY(54),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_same));
@@ -85,8 +87,11 @@ inline constexpr BT_TBL bt_me_key_trans_independ[] = {
     Jump ({.id = 38, .caption = "Pattern\nSelect", .group = "OFF Transition", .cmd = {"LOCAL@M/E@Key@Transition@OFF Pattern"}}),
     KEY_ON(49),
     AUTO_TRANS(50),
-    DIRECTIONS(51), // the adjustments of an effects wipe are reached by its pattern
-    VIDEO_PROCESS(54),
+    // In a row that is full, one key shows the direction and opens the choice.
+    PullDownKey({.id = 51, .caption = "Direction", .group = "Wipe/DME Wipe", .cmd = {"LOCAL@M/E@Key@Transition@Direction", "~@Direction#"}}),
+    Jump ({.id = 52, .caption = "DME Wipe\nAdjust", .group = "Wipe/DME Wipe", .cmd = {"#+11170003"}}),
+    VIDEO_PROCESS(53),
+    UNITY(54),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_independ));
@@ -95,6 +100,7 @@ static_assert(ButtonsAreSound(bt_me_key_trans_independ));
 #undef DIRECTIONS
 #undef DIRECTION
 #undef VIDEO_PROCESS
+#undef UNITY
 
 // --- Patterns: of a key that is itself a wipe, of its coming and of its going ---
 

@@ -47,7 +47,7 @@ inline constexpr BT_TBL bt_me_wipe_edgedir[] = {
     Toggle({.id = 19, .caption = "Separate\nSoft", .group = "Edge",      .cmd = {"~2@Edge@Separate#*", "~2@Edge@Border#false"}}),
     Radio ({.id = 20, .caption = "Normal",         .group = "Direction", .cmd = {"LOCAL@M/E@Wipe@Direction@Normal#true"}}),
     Radio ({.id = 21, .caption = "Reverse",        .group = "Direction", .cmd = {"LOCAL@M/E@Wipe@Direction@Reverse#true"}}),
-    Toggle({.id = 22, .caption = "Normal/\nReverse", .group = "Direction", .cmd = {"~2@Direction@Norm/Rev#*"}}),
+    Toggle({.id = 22, .caption = "Norm/Rev", .group = "Direction", .cmd = {"~2@Direction@Norm/Rev#*"}}),
     Radio ({.id = 33, .caption = "Utility 1\nBus", .group = "Edge Fill", .cmd = {"~2@Edge@Edge Fill#Utility 1", "~2@Edge@Border#false"}}),
     Radio ({.id = 34, .caption = "Utility 2\nBus", .group = "Edge Fill", .cmd = {"~2@Edge@Edge Fill#Utility 2", "~2@Edge@Border#false"}}),
     Radio ({.id = 35, .caption = "Matte",          .group = "Edge Fill", .cmd = {"~2@Edge@Edge Fill#Matte", "~2@Edge@Border#false"}, .nb = nb_wipe_edge_matte}),

@@ -24,8 +24,9 @@ TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
         {0x12350003, {effect + "Mosaic#true", effect + "Defocus#false"}, {18, 19}},
         {0x12350003, {effect + "Defocus#true", effect + "Mosaic#false"}, {17}},
         {0x12350003, {"Combine#true"}, {17, 18, 19, 33, 34, 35, 36}},
-        {0x12350004, {"Mask@Mask#false"}, {18}},
-        {0x12350004, {"Resizer#false", "Mask@Mask#true"}, {17, 18}},
+        {0x12350001, {"Resizer#false"}, {17, 18, 19, 20, 21, 22, 33, 34, 35, 36, 38}},
+        {0x12350004, {"Mask@Mask#false"}, {18, 19, 20, 33, 34}},
+        {0x12350004, {"Resizer#false", "Mask@Mask#true"}, {17, 18, 19, 20, 33, 34}},
         {0x12350005, {"Resizer#true"}, {19, 20, 22}}, // the key doesn't turn
         {0x12350005, {"Combine#true"}, {17, 19, 20, 22}},
     };
@@ -41,13 +42,15 @@ TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
 
 TEST_F(KeyResizerPages, WithoutTheLargeFrameMemoryThereIsNone)
 {
-    constexpr int FILL_SOURCE = 54; // no business of the resizer
+    // What is no business of the resizer: the fill and source, the key's own masks.
+    const std::set<std::pair<uint32_t, int>> others = {
+        {0x11150000, 54}, {0x11150004, 35}, {0x11150004, 36}};
     SYS_FmemV6 = 0;
     for (uint32_t page = 0x11150000; page <= 0x11150005; page++) {
         EXPECT_EQ(Held(Open(page), "M/E-1@Key1@Resizer@Combine"), 0);
         Tell("M/E-1@Key1@Processed Key@Resizer#true");
         for (const BT_MEM* b = bt_first(); b->id >= 1; b++)
-            EXPECT_EQ(b->visible, b->id == FILL_SOURCE ? BT_ENABLED : BT_DISABLED)
+            EXPECT_EQ(b->visible, others.count({page, b->id}) ? BT_ENABLED : BT_DISABLED)
                 << std::hex << page << " " << b->id;
     }
 }

@@ -1,4 +1,5 @@
 // The transition page of a key in its two forms: which type governs, and what can be adjusted then.
+#include "pane.h"
 #include "table_page.h"
 
 using KeyTransitionPage = TablePage;
@@ -16,8 +17,8 @@ TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
         {SAME, "Mix", "Wipe", {33, 34, 35, 36, 37}},
         {SAME, "Wipe", "Cut", {37}},
         {SAME, "DME Wipe", "Cut", {}},
-        {INDEPENDENT, "Mix", "Cut", {22, 38, 51, 52, 53}},
-        {INDEPENDENT, "Wipe", "Cut", {38}},
+        {INDEPENDENT, "Mix", "Cut", {22, 38, 51, 52}},
+        {INDEPENDENT, "Wipe", "Cut", {38, 52}},
         {INDEPENDENT, "Stinger", "DME Wipe", {22}},
     };
     for (const auto& c : cases) {
@@ -51,22 +52,33 @@ TEST_F(KeyTransitionPage, PatternSelectLeadsToWhatTheTypeIsMadeOf)
     }
 }
 
-TEST_F(KeyTransitionPage, OneOfThreeDirectionsIsLit)
+TEST_F(KeyTransitionPage, TheDirectionIsOneOfThree)
 {
     const std::string way = "M/E-2@Key3@Transition@";
-    for (const uint32_t page : {SAME, INDEPENDENT}) {
-        const int first = page == SAME ? 33 : 51;
-        const auto lit = [first] {
-            std::string on;
-            for (int i = 0; i < 3; i++)
-                on += BT_GetStatus(first + i) == BT_ON ? "nrb"[i] : '.';
-            return on;
-        };
-        Open(page);
-        TellAll(way, {"ON Transition Type#Wipe", "Direction#Normal"});
-        EXPECT_EQ(lit(), "n..");
-        Tell(way + "Direction#Normal/Reverse");
-        EXPECT_EQ(lit(), "..b");
-        EXPECT_THAT(Press(first + 1), ElementsAre("put " + way + "Direction#Reverse"));
-    }
+    const auto lit = [] {
+        std::string on;
+        for (int i = 0; i < 3; i++)
+            on += BT_GetStatus(33 + i) == BT_ON ? "nrb"[i] : '.';
+        return on;
+    };
+    Open(SAME);
+    TellAll(way, {"ON Transition Type#Wipe", "Direction#Normal"});
+    EXPECT_EQ(lit(), "n..");
+    Tell(way + "Direction#Normal/Reverse");
+    EXPECT_EQ(lit(), "..b");
+    EXPECT_THAT(Press(34), ElementsAre("put " + way + "Direction#Reverse"));
+
+    // The other form has one key for it, which says what holds and opens the choice.
+    Open(INDEPENDENT);
+    TellAll(way, {"ON Transition Type#Wipe", "Direction#Normal/Reverse"});
+    EXPECT_STREQ(bt_find(51)->caption, "Norm/Rev");
+    Tell(way + "Direction#null");
+    EXPECT_STREQ(bt_find(51)->caption, "Direction");
+    (void)Press(51);
+    const int pane = Pane_GetActiveID();
+    ASSERT_NE(pane, 0);
+    SendMessage(LMSG_PANEQUIT, MsgArg(pane + 1), 2, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty()); // of another pane
+    SendMessage(LMSG_PANEQUIT, MsgArg(pane), 2, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + way + "Direction#Reverse"));
 }
