@@ -10,14 +10,3 @@ void AutoLoad_Tally(const char*, const char*) {}
 void AutoLoadFind_Tally(MsgArg, MsgArg, MsgArg, MsgArg) {}
 
 void AutoLoadFindEnd_Tally(MsgArg, MsgArg, MsgArg, MsgArg) {}
-
-// Without an All page nothing can be chosen: the automation's marker waits.
-int AllSave()
-{
-    return -1;
-}
-
-int AllLoad()
-{
-    return -1;
-}
