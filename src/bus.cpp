@@ -277,6 +277,8 @@ static void bus_drain_shp()
 void ReceiveCommand_Management()
 {
     bus_drain_text();
+    if (Net_TakeTextLoss())
+        File_LinkLost();
     bus_drain_frames();
     bus_drain_shp();
 }

@@ -291,6 +291,7 @@ static bool assign_row(int* row, char* const* parts, int count)
 static void change_own_switchers()
 {
     FMCtrl3_Clear(0);
+    File_SHP_All_Clear();
     DeathCommandSHP();
     DeviceStructure();
     FMCtrl3_Clear(0);

@@ -7,6 +7,7 @@
 #include "log.h"
 #include "message.h"
 #include "netio.h"
+#include "pane.h"
 #include "text.h"
 #include <climits>
 #include <cstdlib>
@@ -316,6 +317,74 @@ static void reply_find(QUEUE* job, const char* text)
         copy.retfunc.find(copy.label, copy.tag, nullptr, nullptr);
     SendMessage(LMSG_FINDSTATUS, copy.worktype, int(copy.label), 0, 0);
     queue_remove(copy.label);
+}
+
+// --- The link falls ---
+
+static constexpr char NO_SERVER[] = "NG([ERROR] Server Not Ready.)";
+
+static void give_up_search(QUEUE* job)
+{
+    const QUEUE copy = *job;
+    if (file_work(copy.worktype)->reply == Reply::Rows)
+        call_text(&copy, nullptr);
+    else if (copy.retfunc.find)
+        copy.retfunc.find(copy.label, copy.tag, nullptr, nullptr);
+    queue_remove(copy.label);
+}
+
+static void give_up_list(QUEUE* job)
+{
+    for (FILEXFERLIST* item = *job->xferlist; item && item->job == job; item = item->next) {
+        if (file_is_finished(item) && item->status != FILESTATUS_CHKRESULT)
+            continue;
+        file_set_text(item, NO_SERVER);
+        file_set_status(item, FILESTATUS_NG);
+    }
+    if (job->paneid != 0)
+        (void)Pane_Quit(job->paneid);
+    job->paneid = 0;
+    if (!file_scp_cancel(job)) // the hub's answers end it
+        file_finish(job);
+}
+
+static void give_up(QUEUE* job)
+{
+    switch (file_work(job->worktype)->reply) {
+    case Reply::Single:
+    case Reply::Usb: reply_single(job, NO_SERVER); break;
+    case Reply::Find:
+    case Reply::Rows: give_up_search(job); break;
+    default: give_up_list(job); break;
+    }
+}
+
+// Jobs stand by label. What a callback starts now waits for the link and is not meant.
+static QUEUE* job_between(uint32_t after, uint32_t end)
+{
+    for (QUEUE* job = QueueRoot; job; job = job->next)
+        if (job->label - after - 1 < end - after - 1)
+            return job;
+    return nullptr;
+}
+
+void File_LinkLost()
+{
+    const uint32_t end = LabelID;
+    bool is_seen = false;
+    uint32_t last = QueueRoot ? QueueRoot->label - 1 : 0;
+    while (QUEUE* job = job_between(last, end)) {
+        last = job->label;
+        if (job->sync_pid != 0)
+            continue; // all is done: only the drives are being written
+        is_seen |= job->paneid != 0;
+        Log_Output(LOG_LINK, MOD_FILE, "The link has fallen. (L%d)", int(last));
+        give_up(job);
+    }
+    if (is_seen)
+        (void)PaneMessage_Create("File", PANE_ALERT,
+                                 "The connection to the server is lost.\n"
+                                 "The file operation has been aborted.");
 }
 
 // --- Lines of the server ---

@@ -269,6 +269,9 @@ int File_ExecFmImportRegNoSet(int reg, int i); // place i + 1 is register reg + 
 int check_category_target_status(const char* category, const char* target, int status);
 // The tables of the own units are gone: end what runs over the hub as its Disconnect would.
 void File_SHP_All_Clear();
+// The text link has fallen: the server answers none of the jobs that it has any more. All end as
+// failed, with callback and message as ever; the operator is told when one of them had a pane.
+void File_LinkLost();
 // The hub's transfer table of a target ("PNL1", "CS2", "SWR1") begins anew; others are ignored.
 void Filescp_trnasferlist_init(const char* target);
 // A file "MYHOST:<src>" to "<addr>:<dst>". Blocks, with a pump of the links of its own, until the

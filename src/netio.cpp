@@ -24,6 +24,7 @@ static int SockFD1 = 0;
 static NetDial text_dial;
 static NetQueue SendCommandQueue;
 static char RBuf[406];             // always terminated; a line must end within it
+static bool is_lost = false;       // fallen, and nobody has asked yet
 static uint32_t RBufFullSince = 0; // clock at which it had filled up, 0 while it has room
 static constexpr uint32_t FULL_BUFFER_MS = 10000;
 static char RCmd[NET_LINE_MAX];
@@ -166,6 +167,7 @@ static void text_hold_full()
     Log_Output(LOG_LINK, MOD_LINK, "ERROR: no line end for %u ms, connection given up",
                unsigned(FULL_BUFFER_MS));
     net_close(&SockFD1);
+    is_lost = true;
     RBuf[0] = '\0';
     RBufFullSince = 0;
 }
@@ -182,6 +184,14 @@ static void text_fill()
     const size_t used = strlen(RBuf);
     const int n = net_read(&SockFD1, RBuf + used, int(sizeof RBuf - 1 - used));
     RBuf[used + size_t(n)] = '\0';
+    is_lost |= SockFD1 == 0;
+}
+
+int Net_TakeTextLoss()
+{
+    const bool was_lost = is_lost;
+    is_lost = false;
+    return was_lost;
 }
 
 // Line ends before the first line come from a CRLF that was split between two reads.

@@ -116,11 +116,13 @@ TEST_F(Link, WhatWasQueuedWhileTheServerWasAwayGoesOutInOrder)
 {
     auto peer = std::make_unique<Peer>(NET_TEXT_PORT);
     Connect(*peer);
+    EXPECT_EQ(Net_TakeTextLoss(), 0);
     peer.reset();
     usleep(20000);
     Strings sent;
     for (int i = 0; i < 1000; i++) {
         (void)Net_ReceiveCommand();
+        EXPECT_EQ(Net_TakeTextLoss(), i == 0) << "told once";
         (void)Net_SendCommandQueue();
         sent.push_back(Numbered(i));
         Net_SendCommand(sent.back().c_str());

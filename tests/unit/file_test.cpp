@@ -115,6 +115,40 @@ TEST_F(FileJobs, RowsOfSixAndSevenFieldsKeepTheirJob)
     EXPECT_EQ(QueueRoot, nullptr);
 }
 
+TEST_F(FileJobs, AFallenLinkEndsAllThatTheServerHas)
+{
+    FILEXFERLIST* list = nullptr;
+    File_ExecRmdir("MYHOST:/a", Text, 1);
+    File_ExecFind("MYHOST:/d", "*", Found, 2);
+    File_ExecFindSFM("MYHOST:/d", "*", Text, 3);
+    File_XferList_Add(&list, "MYHOST:/a", "MYHOST:/b");
+    File_XferList_Add(&list, "MYHOST:/c", "MYHOST:/d");
+    File_ExecCopyList(
+        &list,
+        [](uint32_t, int) {
+            const FILEXFERLIST* item = *QueueRoot->xferlist;
+            told.push_back(std::to_string(item->status) + std::to_string(item->next->status) + " " +
+                           item->next->mesg);
+            File_ExecListDir("MYHOST:/d", Found, 0); // waits for the link
+        },
+        4);
+    const int pane = QueueRoot->next->next->next->paneid;
+    Ack(4, 70);
+    Status(70, "OK");
+    File_LinkLost();
+    EXPECT_THAT(told, ElementsAre("1 1 NG([ERROR] Server Not Ready.)", "end", "3 3 (null)",
+                                  "128129 c: NG([ERROR] Server Not Ready.)"));
+    EXPECT_EQ(list, nullptr);
+    EXPECT_FALSE(Pane_Exist(pane));
+    EXPECT_NE(Pane_GetActiveID(), 0) << "the operator is told";
+    ASSERT_NE(QueueRoot, nullptr);
+    EXPECT_EQ(QueueRoot->worktype, FILEWORK_ACCESS_LISTDIR);
+    EXPECT_EQ(QueueRoot->next, nullptr);
+    Pane_Quit(Pane_GetActiveID());
+    File_LinkLost();
+    EXPECT_EQ(Pane_GetActiveID(), 0) << "nobody waited";
+}
+
 TEST_F(FileJobs, LinesThatAreNoneChangeNothing)
 {
     File_ExecCopy("a", "b", Text, 0);
