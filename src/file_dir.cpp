@@ -86,6 +86,11 @@ static bool is_same_dir(int drive, const char* a, const char* b)
     return drive == FILE_REMOVABLE ? StrICmp(a, b) == 0 : strcmp(a, b) == 0;
 }
 
+int File_DirIsAutoload(int drive, const char* name)
+{
+    return drive == FILE_LOCAL && StrICmp(name, FILE_DIR_AUTOLOAD) == 0;
+}
+
 int File_DirFind(int drive, const char* name)
 {
     int count = 0;
@@ -107,26 +112,38 @@ int File_DirIsProtected(int drive, const char* name)
     return access(file, F_OK) == 0;
 }
 
-// A row of the server's: a bare name or a whole path. What is no directory of an operator's is left
-// out: the autoload's own, hidden ones, names that no list could hold.
+// What a row of the server's names right below the root of the drive that was asked about: it comes
+// as a bare name or as a whole path, with or without the host. Null for a place elsewhere.
+static const char* below_root(int drive, const char* path)
+{
+    static constexpr char host[] = "MYHOST:";
+    char root[PATH_SIZE];
+    if (!strchr(path, '/'))
+        return path;
+    if (!File_Root(root, sizeof root, drive))
+        return nullptr;
+    const char* const place = BeginsWith(root, host) ? root + sizeof host - 1 : root;
+    if (BeginsWith(path, host))
+        path += sizeof host - 1;
+    return BeginsWith(path, place) ? path + strlen(place) : nullptr;
+}
+
+// What is no directory of an operator's is left out: the autoload's own, hidden ones, names that no
+// list could hold.
 static void add_dir(int list, const char* path, const char* time)
 {
-    static constexpr char AUTOLOAD_DIR[] = "PWON_LD";
-    size_t length = strlen(path);
-    while (length > 0 && path[length - 1] == '/')
-        length--;
-    size_t begin = length;
-    while (begin > 0 && path[begin - 1] != '/')
-        begin--;
+    const int drive = lists[list].drive;
+    const char* const text = below_root(drive, path);
+    const size_t length = text ? strcspn(text, "/") : 0;
     char name[FILE_DIR_SIZE];
-    if (length == begin || length - begin >= sizeof name || path[begin] == '.')
+    if (length == 0 || length >= sizeof name || text[0] == '.' ||
+        text[length + strspn(text + length, "/")] != '\0')
         return;
-    strncpy_secu(name, path + begin, sizeof name, length - begin);
-    if (strcmp(name, AUTOLOAD_DIR) == 0)
+    strncpy_secu(name, text, sizeof name, length);
+    if (File_DirIsAutoload(drive, name))
         return;
     Reading& r = reading[list];
     DIRINFO* const row = lists[list].row;
-    const int drive = lists[list].drive;
     const int known = File_DirFind(drive, name);
     if (known >= 0) {
         CopyText(row[known].time, time);

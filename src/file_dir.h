@@ -27,6 +27,10 @@ extern DIRINFO DirListNet[DIRLIST_NET_MAX];
 DIRINFO* File_DirList(int drive, int* count);
 // The row of a name (any case on the removable drive), -1 none.
 int File_DirFind(int drive, const char* name);
+// The directory that the autoload loads from, in any case of letters: on the local drive no
+// operator sees, makes or deletes it. On the others it is a name like any.
+constexpr char FILE_DIR_AUTOLOAD[] = "PWON_LD";
+int File_DirIsAutoload(int drive, const char* name);
 // "<directory>/.dirprotect" is there. Asks the file system at once.
 int File_DirIsProtected(int drive, const char* name);
 // Ask the server for the directories of a drive. done comes once at the end, when the list is

@@ -31,8 +31,6 @@ constexpr int COLUMN_NAME = 0;
 constexpr int COLUMN_DATE = 1;
 constexpr int COLUMN_PROTECT = 2;
 
-constexpr char POWER_ON_NAME[] = "PWON_LD";
-
 constexpr BTNSEL drive_keys[] = {
     {FILE_LOCAL, "Local\nDrive"}, {FILE_REMOVABLE, "Removable\nDrive"}, {FILE_NETWORK, "Network"}};
 
@@ -63,19 +61,14 @@ static DIRINFO* chosen_row()
     return row >= 0 && row < count ? &rows[row] : nullptr;
 }
 
-static bool is_power_on(const char* name)
-{
-    return DevDirectory == FILE_LOCAL && StrICmp(name, POWER_ON_NAME) == 0;
-}
-
-// A name that a command can carry, and that is not one that all pages rely on.
+// A name that the page could have made, and that is not one that all pages rely on.
 static bool is_deletable(const DIRINFO* d)
 {
     char made[FILE_DIR_SIZE];
     CopyText(made, d->name);
     (void)StrFatFileName(made);
-    return strcmp(made, d->name) == 0 && !strchr(d->name, '#') && !is_power_on(d->name) &&
-           strcmp(d->name, FILE_DIR_DEFAULT) != 0;
+    return strcmp(made, d->name) == 0 && !strchr(d->name, '#') &&
+           !File_DirIsAutoload(DevDirectory, d->name) && strcmp(d->name, FILE_DIR_DEFAULT) != 0;
 }
 
 // What can be done with the chosen directory.
@@ -181,8 +174,9 @@ static int dir_new_core(const char* text)
         (void)PaneMessage_Create("Invalid Name", PANE_ALERT, "Empty...");
         return -1;
     }
-    if (is_power_on(name) || InvalidFileNameCheck(name)) {
-        PrintText(mes, "The name \"%s\" cannot be used.", is_power_on(name) ? POWER_ON_NAME : name);
+    const bool is_autoload = File_DirIsAutoload(DevDirectory, name);
+    if (is_autoload || InvalidFileNameCheck(name)) {
+        PrintText(mes, "The name \"%s\" cannot be used.", is_autoload ? FILE_DIR_AUTOLOAD : name);
         refuse(mes);
         return -1;
     }

@@ -125,9 +125,13 @@ struct DirectoryPage : TablePage {
 
 TEST_F(DirectoryPage, ShowsTheDirectoriesByNameBehindTheFixedOne)
 {
-    List(opened, {"SPORT", "NEWS", "PWON_LD"}, "/tmp/directory_test/user/root/");
-    EXPECT_EQ(Rows(), (Lines{"SYSTEM", "NEWS", "SPORT"}));
-    EXPECT_STREQ(LS_GetData(1, 1, 1), "Nov.25.2026 09:20");
+    const std::string root = "/tmp/directory_test/user/root/";
+    List(opened,
+         {root + "SPORT", "MYHOST:" + root + "NEWS/", "BARE", root + "PWON_LD", "pwon_ld",
+          root + "NEWS/SETUP", "/etc/LOST", "../UP", root, root + ".hidden", root + "/DOUBLE"},
+         "");
+    EXPECT_EQ(Rows(), (Lines{"SYSTEM", "BARE", "NEWS", "SPORT"})) << "right below the root alone";
+    EXPECT_STREQ(LS_GetData(1, 2, 1), "Nov.25.2026 09:20");
 }
 
 TEST_F(DirectoryPage, TakesNoMoreThanADriveMayHold)
@@ -143,8 +147,10 @@ TEST_F(DirectoryPage, TakesNoMoreThanADriveMayHold)
     EXPECT_TRUE(sent[0].ends_with(",MYHOST:/mnt/usb/usb1/")) << sent[0];
     List(sent, names, "/mnt/usb/usb1/");
     EXPECT_EQ(Rows().size(), 120u);
-    (void)Make("PWON_LD");
+    Take(Make("PWON_LD"), "Mkdir");
     EXPECT_EQ(Pane_GetActiveID(), 0) << "a stick may have one";
+    List(Reply("Mkdir", "OK"), {"PWON_LD"}, "/mnt/usb/usb1/");
+    EXPECT_EQ(Rows(), (Lines{"SYSTEM", "PWON_LD"}));
     EXPECT_EQ(Drive(0).size(), 1u); // which the page remembers
 }
 

@@ -164,7 +164,7 @@ TEST_F(FileDualPage, DirectoryIsChosenBehindTheDevice)
     const int label = Label(Answer(FILE_NETWORK + 1));
     const std::string ack = std::to_string(700 + label);
     Tell("File@Access@ListDir#L" + std::to_string(label) + "," + ack);
-    for (const char* dir : {"SHOW", "PWON_LD", "MORNING", "A NAME OF SIXTEEN"})
+    for (const char* dir : {"SHOW", "MORNING", "A NAME OF SIXTEEN"})
         Tell("File@Access@ListDir@Status#" + ack + ",MYHOST:/var/nfs/user/root/" + dir +
              ",Wed Nov 25 10:30:00 2026");
     EXPECT_EQ(Caption(BTN_FILE_DEVICE_B), "Local Drive") << "not before the choice is whole";
