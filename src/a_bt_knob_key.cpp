@@ -1,7 +1,7 @@
-// Numbered knob links of a key's pages. The list for authors of pages; a quoted end of a path
-// stands for a dependency that the button must have, without a condition behind the "#". Where the
-// rotation of the key decides, "~2@Processed Key@Rotation#" among them lets a shown column follow
-// it:
+// Numbered knob links of a key's pages; what other keys of these pages turn stands in the tables of
+// the pages. The list for authors of pages; a quoted end of a path stands for a dependency that the
+// button must have, without a condition behind the "#". Where the rotation of the key decides,
+// "~2@Processed Key@Rotation#" among them lets a shown column follow it:
 //
 //    1 Border             1st to 4th dependency: key type, separate edge, two that halve the range
 //    2 Drop Border        "@Separate Edge", "@Fine Key"
@@ -11,27 +11,18 @@
 //    6 Emboss             "@Fine Key"
 //    7 Soft Edge          "@Separate Edge"
 //    8 Key Drop           format
-//    9 Zabton             "@Zabton@Fit"; aspect of the bank
-//   10 Edge Matte Adjust  "@Mode" (Flat, Mix), "@Color" (Color 1, Color 2)
 //   11 Main Mask Box      aspect of the bank
 //   12 Mask Pattern       aspect of the bank
-//   13 Mask Utility Bus   "@Mask Source" (Utility 1, Utility 2)
 //   14 Resizer place      rotation of the key, aspect of the bank
-//   15 Resizer Crop       aspect of the bank
 //   16 Resizer Border     "@Border@Separate"; aspect of the bank
 //   17 Resizer Aspect     "@Aspect" (separate H and V)
-//   18 Resizer Rotation   rotation of the key; blank for a key that does not turn
 //   19 Resizer Mosaic     format
 //   20 Resizer Defocus    "@Defocus@Separate"
 //   21 Resizer Mask Box   rotation of the key, aspect of the bank
-//   22 Proc Key Crop      aspect of the bank
 //   23 Proc Key Rotation  rotation of the key
 //   24 Proc Key Location  rotation of the key, aspect of the bank
 //   25 Proc Key Size      "@Aspect" (separate H and V)
 //   26 Key Position       format; the page code names the paths
-//   27 Pattern Position   "@Key Type" (Wipe Pattern, Key Wipe Pattern); aspect of the bank
-//   28 Pattern Modify     "@Key Type" (Wipe Pattern, Key Wipe Pattern; blank for the others)
-//   29 Key Fill Matte     "@Mode" (Flat, Mix), "@Color" (Color 1, Color 2)
 //   30 Color Cancel       "@Y Balance"
 #include "a_bt_knob_private.h"
 #include "page_table/nb_edge.h"
@@ -54,10 +45,6 @@ static int ask_border(const BT_MEM* b)
 constexpr KnobQuestion KEY_BORDER = {.answers = 5, .ask = ask_border};
 constexpr KnobQuestion SEPARATE = On("@Separate Edge");
 constexpr KnobQuestion FINE = On("@Fine Key");
-constexpr KnobQuestion PATTERN_KEY = Words("@Key Type", "Wipe Pattern", "Key Wipe Pattern");
-constexpr KnobQuestion MATTE_MIX = Words("@Mode", "Mix");
-constexpr KnobQuestion COLOR_2 = Words("@Color", "Color 2");
-constexpr KnobTables matte_tables = Of(nb_matte_flat, nb_matte_flat, nb_matte_mix1, nb_matte_mix2);
 
 constexpr KnobCase knob_cases_key[] = {
     {1,
@@ -76,38 +63,23 @@ constexpr KnobCase knob_cases_key[] = {
     {6, {FINE}, Of(nb_me_key_edge_edge_emboss)},
     {7, {SEPARATE}, Of(nb_me_key_edge_soft_edge, nb_me_key_edge_soft_edge_sep)},
     {8, {HD}, Of(nb_me_key_edge_key_drop)},
-    {9,
-     {On("@Zabton@Fit"), BANK_WIDE},
-     Of(nb_me_key_edge_edge_zabton, nb_me_key_edge_edge_zabton_fit)},
-    {10, {MATTE_MIX, COLOR_2}, matte_tables},
     {11, {BANK_WIDE}, Of(nb_me_key_mask_box_aspect)},
     {12, {BANK_WIDE}, Of(nb_me_key_mask_pattern_aspect)},
-    {13,
-     {Words("@Mask Source", "Utility 2")},
-     Of(nb_me_key_mask_utility1, nb_me_key_mask_utility2)},
     {14, {KEY_TURNS, BANK_WIDE}, Of(nb_me_key_resizer_place, nb_me_key_resizer_place_turned)},
-    {15, {BANK_WIDE}, Of(nb_me_key_resizer_crop_aspect)},
     {16,
      {On("@Border@Separate"), BANK_WIDE},
      Of(nb_me_key_resizer_border_joined, nb_me_key_resizer_border_joined,
         nb_me_key_resizer_border_sep)},
     {17, {On("@Aspect")}, Of(nb_me_key_resizer_aspect_joined, nb_me_key_resizer_aspect_sep)},
-    {18, {KEY_TURNS}, Of(BLANK, nb_me_key_resizer_rotation)},
     {19, {HD}, Of(nb_me_key_resizer_mosaic_tiles)},
     {20,
      {On("@Defocus@Separate")},
      Of(nb_me_key_resizer_defocus_joined, nb_me_key_resizer_defocus_sep)},
     {21, {KEY_TURNS, BANK_WIDE}, Of(nb_me_key_mask_box_aspect, nb_me_key_resizer_mask_box)},
-    {22, {BANK_WIDE}, Of(nb_me_key_prockey_crop)},
     {23, {KEY_TURNS}, Of(nb_me_key_prockey_rotation_flat, nb_me_key_prockey_rotation)},
     {24, {KEY_TURNS, BANK_WIDE}, Of(nb_me_key_prockey_location_flat, nb_me_key_prockey_location)},
     {25, {On("@Aspect")}, Of(nb_me_key_prockey_size, nb_me_key_prockey_size_sep)},
     {26, {HD}, Of(nb_me_key_type_phase)},
-    {27,
-     {Words("@Key Type", "Key Wipe Pattern"), BANK_WIDE},
-     Of(nb_me_key_type_wipe_position, nb_me_key_type_keywipe_position)},
-    {28, {PATTERN_KEY}, Of(BLANK, nb_me_key_type_wipe_modify, nb_me_key_type_keywipe_modify)},
-    {29, {MATTE_MIX, COLOR_2}, matte_tables},
     {30, {On("@Y Balance")}, Of(nb_me_key_chroma_cancel, nb_me_key_chroma_cancel_y)},
     KNOB_CASES_END,
 };

@@ -37,7 +37,7 @@ constexpr KnobQuestion KEY_TURNS = {.answers = 2, .ask = ask_key_turns};
 // --- The tables that a case chooses among ---
 constexpr int KNOB_TABLES = 8;
 struct KnobTables {
-    const NB_TBL* table[KNOB_TABLES] = {}; // null: the boxes stay blank
+    const NB_TBL* table[KNOB_TABLES] = {};
     int count = 0;
 };
 constexpr void knob_add(KnobTables& t, const NB_TBL* table)
@@ -61,7 +61,6 @@ template <typename... TABLE> constexpr KnobTables Of(const TABLE&... table)
     (knob_add(all, table), ...);
     return all;
 }
-constexpr const NB_TBL* BLANK = nullptr;
 
 struct KnobCase {
     int number = 0; // below 1 ends the cases

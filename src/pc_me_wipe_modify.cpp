@@ -16,6 +16,7 @@ static constexpr struct {
     {21, WIPE_ANGLE},      {22, WIPE_ANGLE},      {33, WIPE_MULTI},      {34, WIPE_MULTI},
     {35, WIPE_MULTI},      {36, WIPE_LINES},      {37, WIPE_LINES},      {38, WIPE_OUTLINE},
     {49, WIPE_MODULATION}, {50, WIPE_MODULATION}, {51, WIPE_MODULATION}, {52, WIPE_MODULATION},
+    {54, WIPE_LINES},
 };
 
 static struct {

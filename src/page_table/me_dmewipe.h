@@ -16,7 +16,7 @@ inline constexpr NB_TBL nb_me_dmewipe_limit[] = { // of the whole transition
 };
 inline constexpr NB_TBL nb_me_dmewipe_ptnmodifier_curl[] = { // of the picture's height
     {.id = 1, .caption = "Radius", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Curl@Radius"},
-    {.id = 2, .caption = "Angle",  .type = NB_2, .min = -180, .max = 180, .cmd = "~@Curl@Angle"},
+    {.id = 2, .caption = "Angle\ndeg",  .type = NB_2, .min = -180, .max = 180, .cmd = "~@Curl@Angle"},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_dmewipe_limit) && BoxesAreSound(nb_me_dmewipe_ptnmodifier_curl));

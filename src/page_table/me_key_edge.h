@@ -28,7 +28,7 @@ inline constexpr NB_TBL nb_me_key_edge_zabton_aspect[] = {
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_edge_zabton_angle[] = {
-    {.id = 1, .caption = "Angle", .type = NB_2, .min = -360, .max = 360, .cmd = "~3@Zabton@Angle@Angle"},
+    {.id = 1, .caption = "Angle\ndeg", .type = NB_2, .min = -360, .max = 360, .cmd = "~3@Zabton@Angle@Angle"},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_key_edge_matte) && BoxesAreSound(nb_me_key_edge_zabton));

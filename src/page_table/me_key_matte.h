@@ -24,7 +24,7 @@ inline constexpr NB_TBL nb_me_key_matte_aspect[] = {
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_matte_angle[] = {
-    {.id = 1, .caption = "Angle", .type = NB_2, .min = -360, .max = 360, .cmd = "~4@Mix Pattern@Angle@Angle"},
+    {.id = 1, .caption = "Angle\ndeg", .type = NB_2, .min = -360, .max = 360, .cmd = "~4@Mix Pattern@Angle@Angle"},
     NB_END,
 };
 inline constexpr NB_TBL nb_me_key_matte_multi[] = {

@@ -159,9 +159,9 @@ static_assert(ButtonsAreSound(bt_me_key_resizer_mask));
 // --- Rotation: the page code takes the range from the box of an axis that doesn't turn ---
 
 inline constexpr NB_TBL nb_me_key_resizer_angles[] = { // degrees
-    {.id = 1, .caption = "X", .type = NB_2, .min = -360, .max = 360, .cmd = "~@X"},
-    {.id = 2, .caption = "Y", .type = NB_2, .min = -360, .max = 360, .cmd = "~@Y"},
-    {.id = 3, .caption = "Z", .type = NB_2, .min = -360, .max = 360, .cmd = "~@Z"},
+    {.id = 1, .caption = "X\ndeg", .type = NB_2, .min = -360, .max = 360, .cmd = "~@X"},
+    {.id = 2, .caption = "Y\ndeg", .type = NB_2, .min = -360, .max = 360, .cmd = "~@Y"},
+    {.id = 3, .caption = "Z\ndeg", .type = NB_2, .min = -360, .max = 360, .cmd = "~@Z"},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_me_key_resizer_angles));

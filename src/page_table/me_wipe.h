@@ -100,13 +100,14 @@ static_assert(ButtonsAreSound(bt_me_wipe_matteadj));
     Knobs ({.id = 33, .caption = "Multi",        .group = "Multi",    .nb = nb_wipe_modify_multi}), \
     Toggle({.id = 34, .caption = "H Invert",     .group = "Multi",    .cmd = {"~@Multi@H Invert#*"}}), \
     Toggle({.id = 35, .caption = "V Invert",     .group = "Multi",    .cmd = {"~@Multi@V Invert#*"}}), \
-    Toggle({.id = 36, .caption = "Pairing",      .group = "Lines",    .cmd = {"~@Pairing#*"}, .nb = SpecialKnob(39)}), \
+    Toggle({.id = 36, .caption = "Pairing",      .group = "Lines",    .cmd = {"~@Pairing#*", "~@Pairing@Both#"}, .nb = SpecialKnob(39)}), \
     Toggle({.id = 37, .caption = "Split",        .group = "Lines",    .cmd = {"~@Split#*"}, .nb = nb_wipe_modify_split}), \
     Knobs ({.id = 38, .caption = "Spring",       .group = "Spring",   .nb = nb_wipe_modify_spring}), \
     Radio ({.id = 49, .caption = "Off",          .group = "Modulation", .cmd = {"~@Modulation#Off"}}), \
     Radio ({.id = 50, .caption = "H",            .group = "Modulation", .cmd = {"~@Modulation#H"},   .nb = nb_wipe_modify_modulation}), \
     Radio ({.id = 51, .caption = "V",            .group = "Modulation", .cmd = {"~@Modulation#V"},   .nb = nb_wipe_modify_modulation}), \
     Radio ({.id = 52, .caption = "H & V",        .group = "Modulation", .cmd = {"~@Modulation#H&V"}, .nb = nb_wipe_modify_modulation}), \
+    Toggle({.id = 54, .caption = "Lines &\nColumns", .group = "Pairing", .cmd = {"~@Pairing@Both#*"}}), \
     BT_END}
 inline constexpr BT_TBL bt_me_wipe_mainmodify[] = BT_WIPE_MODIFY("Main Pattern", nb_wipe_modify_main_position);
 inline constexpr BT_TBL bt_me_wipe_submodify[] = BT_WIPE_MODIFY("Sub Pattern", nb_wipe_modify_sub_position);

@@ -17,9 +17,9 @@ inline constexpr auto nb_dme_trans_location_src = FamilyOf<2>([](int wide) {
                   Span(3, "Z", "~@Location@Z", 2));
 });
 inline constexpr auto nb_dme_trans_rotation = Column(
-    Degrees(1, "X", "~@Rotation@X"),
-    Degrees(2, "Y", "~@Rotation@Y"),
-    Degrees(3, "Z", "~@Rotation@Z"));
+    Degrees(1, "X\ndeg", "~@Rotation@X"),
+    Degrees(2, "Y\ndeg", "~@Rotation@Y"),
+    Degrees(3, "Z\ndeg", "~@Rotation@Z"));
 inline constexpr auto nb_dme_trans_spin = Column(
     Turns(1, "X Turns", "~@Rotation@X Turns"),
     Turns(2, "Y Turns", "~@Rotation@Y Turns"),
@@ -104,14 +104,14 @@ inline constexpr auto nb_dme_edge_matte_grad = Column(
     NB_COLOR("~@Matte"),
     Span   (17, "Position", "~@Matte@Position", 100),
     Percent(18, "Soft",     "~@Matte@Soft"),
-    Degrees(19, "Angle",    "~@Matte@Angle"));
+    Degrees(19, "Angle\ndeg",    "~@Matte@Angle"));
 inline constexpr auto nb_dme_edge_soft = Column(Percent(1, "Soft", "~@Soft Edge@Soft"));
 inline constexpr auto nb_dme_edge_soft_sep = Column(
     Percent(1, "Soft H", "~@Soft Edge@Soft H"),
     Percent(2, "Soft V", "~@Soft Edge@Soft V"));
 inline constexpr auto nb_dme_edge_bevel = FamilyOf<2>([](int hd) {
     return Column(Count  (1, "Lines", "~@Beveled Edge@Lines", 0, hd ? 120 : 50),
-                  Degrees(2, "Light", "~@Beveled Edge@Light"),
+                  Degrees(2, "Light\ndeg", "~@Beveled Edge@Light"),
                   Percent(3, "Depth", "~@Beveled Edge@Depth"));
 });
 inline constexpr auto nb_dme_edge_key_border = FamilyOf<2>([](int wide) {
@@ -123,7 +123,7 @@ inline constexpr auto nb_dme_edge_key_border_drop = FamilyOf<2>([](int wide) {
     return Column(Percent(1, "Width H", "~@Key Border@Width H", Wide(75, wide)),
                   Percent(2, "Width V", "~@Key Border@Width V", 75),
                   Percent(3, "Density", "~@Key Border@Density"),
-                  Degrees(4, "Drop",    "~@Key Border@Drop Angle"));
+                  Degrees(4, "Drop\ndeg",    "~@Key Border@Drop Angle"));
 });
 inline constexpr auto nb_dme_edge_art = Column(
     Percent(1, "Width", "~@Art Edge@Width"),
@@ -145,7 +145,7 @@ inline constexpr auto nb_dme_edge_color_mix2 = Column(
     NB_COLOR("~@Color 2"),
     Percent(4,  "Mix",      "~@Color Mix@Mix"),
     Span   (17, "Position", "~@Color Mix@Position", 100),
-    Degrees(18, "Angle",    "~@Color Mix@Angle"));
+    Degrees(18, "Angle\ndeg",    "~@Color Mix@Angle"));
 
 // --- Shadow and trail: a projected shadow lies on a floor, a plain one behind the picture ---
 
@@ -181,7 +181,7 @@ inline constexpr auto nb_dme_motion_decay_key = Column(
 // --- Light: a distant light has a direction, a near one a place ---
 
 inline constexpr auto nb_dme_light_distant = Column(
-    Degrees(1, "Azimuth",   "~@Light@Azimuth"),
+    Degrees(1, "Azimuth\ndeg",   "~@Light@Azimuth"),
     Span   (2, "Elevation", "~@Light@Elevation", 90),
     Percent(3, "Intensity", "~@Light@Intensity"));
 inline constexpr auto nb_dme_light_near = FamilyOf<2>([](int wide) {
@@ -204,14 +204,14 @@ inline constexpr auto nb_dme_spot_pattern = FamilyOf<2>([](int wide) {
                   Percent(3,  "Size",   "~@Spotlight@Size"),
                   Percent(4,  "Soft",   "~@Spotlight@Soft"),
                   Span   (17, "Aspect", "~@Spotlight@Aspect", 100),
-                  Degrees(18, "Angle",  "~@Spotlight@Angle"));
+                  Degrees(18, "Angle\ndeg",  "~@Spotlight@Angle"));
 });
 inline constexpr auto nb_dme_ambient = Column(Percent(1, "Ambient", "~@Ambient@Level"));
 inline constexpr auto nb_dme_ambient_color = Column(Percent(4, "Ambient", "~@Ambient@Level"), NB_COLOR("~@Ambient"));
 // Across the picture.
 inline constexpr auto nb_dme_light_bar = Column(
     Percent(1, "Width", "~@Bar@Width"),
-    Degrees(2, "Angle", "~@Bar@Angle"),
+    Degrees(2, "Angle\ndeg", "~@Bar@Angle"),
     Percent(3, "Soft",  "~@Bar@Soft"));
 
 // --- Freeze: a field is half a frame, and counts as one step where the freeze keeps fields ---
@@ -243,7 +243,7 @@ inline constexpr auto nb_dme_key_defocus_sep = Column(
     Percent(2, "V", "~@Key Defocus@V"));
 inline constexpr auto nb_dme_blur = Column(
     Percent(1, "Length", "~@Blur@Length"),
-    Degrees(2, "Angle",  "~@Blur@Angle"));
+    Degrees(2, "Angle\ndeg",  "~@Blur@Angle"));
 inline constexpr auto nb_dme_blur_radial = FamilyOf<2>([](int wide) {
     return Column(Percent(1, "Length",   "~@Blur@Length"),
                   Span   (2, "Center H", "~@Blur@Center H", Wide(1, wide)),

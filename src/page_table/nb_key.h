@@ -7,14 +7,14 @@
 
 inline constexpr auto nb_me_key_edge_edge_drop = FamilyOf<2>([](int fine) {
     return Column(Percent(1, "Width",    "~@Edge Type@Drop Border@Width", fine ? 50 : 100),
-                  Degrees(2, "Position", "~@Edge Type@Drop Border@Position"),
+                  Degrees(2, "Position\ndeg", "~@Edge Type@Drop Border@Position"),
                   Percent(3, "Soft",     "~@Edge Type@Drop Border@Soft"),
                   Percent(4, "Density",  "~@Edge Type@Drop Border@Density"));
 });
 inline constexpr auto nb_me_key_edge_edge_drop_sep = FamilyOf<2>([](int fine) {
     return Column(Percent(1, "Width H",  "~@Edge Type@Drop Border@Width H", fine ? 50 : 100),
                   Percent(2, "Width V",  "~@Edge Type@Drop Border@Width V", fine ? 50 : 100),
-                  Degrees(3, "Position", "~@Edge Type@Drop Border@Position"),
+                  Degrees(3, "Position\ndeg", "~@Edge Type@Drop Border@Position"),
                   Percent(4, "Soft",     "~@Edge Type@Drop Border@Soft"),
                   Percent(5, "Density",  "~@Edge Type@Drop Border@Density"));
 });
@@ -22,7 +22,7 @@ inline constexpr auto nb_me_key_edge_edge_drop_sep = FamilyOf<2>([](int fine) {
 // A joined shadow falls in a direction, a separate one has its own offset and softness each way.
 inline constexpr auto nb_me_key_edge_edge_shadow = Column(
     Percent(1, "Offset",    "~@Edge Type@Shadow@Offset"),
-    Degrees(2, "Direction", "~@Edge Type@Shadow@Direction"),
+    Degrees(2, "Direction\ndeg", "~@Edge Type@Shadow@Direction"),
     Percent(3, "Soft",      "~@Edge Type@Shadow@Soft"),
     Percent(4, "Density",   "~@Edge Type@Shadow@Density"));
 inline constexpr auto nb_me_key_edge_edge_shadow_sep = FamilyOf<2>([](int wide) {
@@ -47,7 +47,7 @@ inline constexpr auto nb_me_key_edge_edge_outline_sep = FamilyOf<2>([](int fine)
 
 inline constexpr auto nb_me_key_edge_edge_emboss = FamilyOf<2>([](int fine) {
     return Column(Percent(1, "Width",    "~@Edge Type@Emboss@Width", fine ? 50 : 100),
-                  Degrees(2, "Position", "~@Edge Type@Emboss@Position"),
+                  Degrees(2, "Position\ndeg", "~@Edge Type@Emboss@Position"),
                   Percent(3, "Light",    "~@Edge Type@Emboss@Light"),
                   Percent(4, "Shade",    "~@Edge Type@Emboss@Shade"));
 });
@@ -60,35 +60,6 @@ inline constexpr auto nb_me_key_edge_soft_edge_sep = Column(
 inline constexpr auto nb_me_key_edge_key_drop = FamilyOf<2>([](int hd) {
     return Column(Lines(1, "Position", "~@Key Drop@Position", 8, hd)); // keeps room for the widest edge
 });
-
-// The plate behind a title follows the key with a margin, or is a box of its own.
-inline constexpr auto nb_me_key_edge_edge_zabton = FamilyOf<2>([](int wide) {
-    return Column(Span   (1, "Left",    "~@Zabton@Left",   Wide(100, wide)),
-                  Span   (2, "Right",   "~@Zabton@Right",  Wide(100, wide)),
-                  Span   (3, "Top",     "~@Zabton@Top",    100),
-                  Span   (4, "Bottom",  "~@Zabton@Bottom", 100),
-                  Percent(5, "Soft",    "~@Zabton@Soft"),
-                  Percent(17, "Density", "~@Zabton@Density"));
-});
-inline constexpr auto nb_me_key_edge_edge_zabton_fit = FamilyOf<2>([](int wide) {
-    return Column(Percent(1, "Margin H", "~@Zabton@Margin H", Wide(75, wide)),
-                  Percent(2, "Margin V", "~@Zabton@Margin V", 75),
-                  Percent(3, "Soft",     "~@Zabton@Soft"),
-                  Percent(4, "Density",  "~@Zabton@Density"));
-});
-
-// --- Mattes: one colour, or two that a pattern mixes ---
-
-inline constexpr auto nb_matte_flat = Column(
-    NB_COLOR("~@Color 1"));
-#define NB_MATTE_MIX(color) \
-    Column(NB_COLOR("~@" color), \
-           Percent(17, "Size",      "~@Mix Pattern@Size"), \
-           Percent(18, "Soft",      "~@Mix Pattern@Soft"), \
-           Degrees(19, "Angle",     "~@Mix Pattern@Angle@Angle"))
-inline constexpr auto nb_matte_mix1 = NB_MATTE_MIX("Color 1");
-inline constexpr auto nb_matte_mix2 = NB_MATTE_MIX("Color 2");
-#undef NB_MATTE_MIX
 
 // --- Masks ---
 
@@ -105,15 +76,8 @@ inline constexpr auto nb_me_key_mask_pattern_aspect = FamilyOf<2>([](int wide) {
                   Span   (3,  "H Pos",  "~@Pattern Mask@H Position", Wide(100, wide)),
                   Span   (4,  "V Pos",  "~@Pattern Mask@V Position", 100),
                   Span   (17, "Aspect", "~@Pattern Mask@Aspect", 100),
-                  Degrees(18, "Angle",  "~@Pattern Mask@Angle"));
+                  Degrees(18, "Angle\ndeg",  "~@Pattern Mask@Angle"));
 });
-#define NB_MASK_BUS(bus) \
-    Column(Percent(1, "Clip",    "~@" bus "@Clip"), \
-           Span   (2, "Gain",    "~@" bus "@Gain", 100), \
-           Percent(3, "Density", "~@" bus "@Density"))
-inline constexpr auto nb_me_key_mask_utility1 = NB_MASK_BUS("Utility 1");
-inline constexpr auto nb_me_key_mask_utility2 = NB_MASK_BUS("Utility 2");
-#undef NB_MASK_BUS
 
 // --- Resizer: a key that turns has a depth ---
 
@@ -129,14 +93,6 @@ inline constexpr auto nb_me_key_resizer_place_turned = FamilyOf<2>([](int wide) 
                   Span   (4, "Depth",     "~@Depth", 200),
                   Percent(5, "Perspect.", "~@Perspective"));
 });
-// Towards the middle only: the sides' signs are those of their halves of the picture.
-inline constexpr auto nb_me_key_resizer_crop_aspect = FamilyOf<2>([](int wide) {
-    return Column(Box    (1, "Top",    "~@Crop@Top",    0, 100),
-                  Box    (2, "Left",   "~@Crop@Left",   -Wide(100, wide), 0),
-                  Box    (3, "Right",  "~@Crop@Right",  0, Wide(100, wide)),
-                  Box    (4, "Bottom", "~@Crop@Bottom", -100, 0),
-                  Percent(5, "Soft",   "~@Crop@Soft"));
-});
 inline constexpr auto nb_me_key_resizer_border_joined = Column(
     Percent(1, "Width",   "~@Border@Width"),
     Percent(2, "Soft",    "~@Border@Soft"),
@@ -151,10 +107,6 @@ inline constexpr auto nb_me_key_resizer_aspect_joined = Column(Span(1, "Aspect",
 inline constexpr auto nb_me_key_resizer_aspect_sep = Column(
     Percent(1, "H Size", "~@Aspect@H Size", 200),
     Percent(2, "V Size", "~@Aspect@V Size", 200));
-inline constexpr auto nb_me_key_resizer_rotation = Column(
-    Degrees(1, "X", "~@Rotation@X"),
-    Degrees(2, "Y", "~@Rotation@Y"),
-    Degrees(3, "Z", "~@Rotation@Z"));
 // Tiles in pixels.
 inline constexpr auto nb_me_key_resizer_mosaic_tiles = FamilyOf<2>([](int hd) {
     return Column(Count(1, "Size",   "~@Mosaic@Size", 1, hd ? 240 : 90),
@@ -170,18 +122,12 @@ inline constexpr auto nb_me_key_resizer_mask_box = FamilyOf<2>([](int wide) {
                   Span   (3,  "Top",    "~@Box@Top",    100),
                   Span   (4,  "Bottom", "~@Box@Bottom", 100),
                   Percent(5,  "Soft",   "~@Box@Soft"),
-                  Degrees(17, "Angle",  "~@Box@Angle")); // it turns with the picture
+                  Degrees(17, "Angle\ndeg",  "~@Box@Angle")); // it turns with the picture
 });
 
 // --- Processed key ---
 
-inline constexpr auto nb_me_key_prockey_crop = FamilyOf<2>([](int wide) {
-    return Column(Box    (1, "H",    "~@Crop@H",   -Wide(100, wide), 0),
-                  Box    (2, "V",    "~@Crop@V",   0, 100),
-                  Box    (3, "All",  "~@Crop@All", -100, 0),
-                  Percent(4, "Soft", "~@Crop@Soft"));
-});
-inline constexpr auto nb_me_key_prockey_rotation_flat = Column(Degrees(3, "Z", "~@Rotation@Z"));
+inline constexpr auto nb_me_key_prockey_rotation_flat = Column(Degrees(3, "Z\ndeg", "~@Rotation@Z"));
 inline constexpr auto nb_me_key_prockey_rotation = Column(
     Turns(1, "X\nturns", "~@Rotation@X"),
     Turns(2, "Y\nturns", "~@Rotation@Y"),
@@ -208,20 +154,6 @@ inline constexpr auto nb_me_key_type_phase = FamilyOf<2>([](int hd) {
                   Span(2, "Left\nclocks",    "", hd ? 16 : 8),
                   Span(3, "Right\nclocks",   "", hd ? 16 : 8));
 });
-#define NB_KEY_PATTERN(type, wide) \
-    Column(Span   (1, "H",      "~@Key Type@" type "@H Position", Wide(100, wide)), \
-           Span   (2, "V",      "~@Key Type@" type "@V Position", 100))
-inline constexpr auto nb_me_key_type_wipe_position = FamilyOf<2>([](int wide) { return NB_KEY_PATTERN("Wipe Pattern", wide); });
-inline constexpr auto nb_me_key_type_keywipe_position = FamilyOf<2>([](int wide) { return NB_KEY_PATTERN("Key Wipe Pattern", wide); });
-#undef NB_KEY_PATTERN
-#define NB_KEY_PATTERN_MODIFY(type) \
-    Column(Span   (1, "Aspect",  "~@Key Type@" type "@Aspect", 100), \
-           Degrees(2, "Angle",   "~@Key Type@" type "@Angle"), \
-           Count  (3, "Multi H", "~@Key Type@" type "@Multi H", 1, 63), \
-           Count  (4, "Multi V", "~@Key Type@" type "@Multi V", 1, 63))
-inline constexpr auto nb_me_key_type_wipe_modify = NB_KEY_PATTERN_MODIFY("Wipe Pattern");
-inline constexpr auto nb_me_key_type_keywipe_modify = NB_KEY_PATTERN_MODIFY("Key Wipe Pattern");
-#undef NB_KEY_PATTERN_MODIFY
 
 // --- Chroma adjust: what is taken out of the foreground, with its luminance kept in step or not ---
 

@@ -28,7 +28,7 @@ inline constexpr NB_TBL nb_dme_nonlinear_type_roll_roll3[] = {
 inline constexpr NB_TBL nb_dme_nonlinear_type_roll_roll4[] = {
     {.id = 1, .caption = "Position", .type = NB_2, .min = 0,     .max = 100,  .cmd = "~@Roll@Position"},
     {.id = 2, .caption = "Radius",   .type = NB_2, .min = 0,     .max = 100,  .cmd = "~@Roll@Radius"},
-    {.id = 3, .caption = "Angle",    .type = NB_2, .min = -360,  .max = 360,  .cmd = "~@Roll@Angle"},
+    {.id = 3, .caption = "Angle\ndeg",    .type = NB_2, .min = -360,  .max = 360,  .cmd = "~@Roll@Angle"},
     NB_END,
 };
 inline constexpr NB_TBL nb_dme_nonlinear_type_pageturn_pageturn1[] = {
@@ -53,7 +53,7 @@ inline constexpr NB_TBL nb_dme_nonlinear_type_pageturn_pageturn3[] = {
 inline constexpr NB_TBL nb_dme_nonlinear_type_pageturn_pageturn4[] = {
     {.id = 1, .caption = "Position", .type = NB_2, .min = 0,     .max = 100,  .cmd = "~@Page Turn@Position"},
     {.id = 2, .caption = "Radius",   .type = NB_2, .min = 0,     .max = 100,  .cmd = "~@Page Turn@Radius"},
-    {.id = 3, .caption = "Angle",    .type = NB_2, .min = -360,  .max = 360,  .cmd = "~@Page Turn@Angle"},
+    {.id = 3, .caption = "Angle\ndeg",    .type = NB_2, .min = -360,  .max = 360,  .cmd = "~@Page Turn@Angle"},
     NB_END,
 };
 
@@ -61,7 +61,7 @@ inline constexpr NB_TBL nb_dme_nonlinear_type_pageturn_pageturn4[] = {
 
 inline constexpr auto nb_dme_nonlinear_cylinder = FamilyOf<2>([](int wide) {
     return Column(Percent(1, "Radius", "~@Cylinder@Radius"),
-                  Degrees(2, "Angle",  "~@Cylinder@Angle"),
+                  Degrees(2, "Angle\ndeg",  "~@Cylinder@Angle"),
                   Span   (3, "Offset", "~@Cylinder@Offset", Wide(4, wide)));
 });
 inline constexpr auto nb_dme_nonlinear_sphere = FamilyOf<2>([](int wide) {
@@ -72,27 +72,27 @@ inline constexpr auto nb_dme_nonlinear_sphere = FamilyOf<2>([](int wide) {
 inline constexpr auto nb_dme_nonlinear_wave = Column(
     Percent(1, "Amplitude", "~@Wave@Amplitude"),
     Percent(2, "Frequency", "~@Wave@Frequency"),
-    Degrees(3, "Phase",     "~@Wave@Phase"));
+    Degrees(3, "Phase\ndeg",     "~@Wave@Phase"));
 inline constexpr auto nb_dme_nonlinear_wave_both = Column(
     Percent(1,  "H Ampl.", "~@Wave@H Amplitude"),
     Percent(2,  "H Freq.", "~@Wave@H Frequency"),
-    Degrees(3,  "H Phase", "~@Wave@H Phase"),
+    Degrees(3,  "H Phase\ndeg", "~@Wave@H Phase"),
     Percent(17, "V Ampl.", "~@Wave@V Amplitude"),
     Percent(18, "V Freq.", "~@Wave@V Frequency"),
-    Degrees(19, "V Phase", "~@Wave@V Phase"));
+    Degrees(19, "V Phase\ndeg", "~@Wave@V Phase"));
 inline constexpr auto nb_dme_nonlinear_ripple = FamilyOf<2>([](int wide) {
     return Column(Percent(1, "Amplitude", "~@Ripple@Amplitude"),
                   Percent(2, "Frequency", "~@Ripple@Frequency"),
-                  Degrees(3, "Phase",     "~@Ripple@Phase"),
+                  Degrees(3, "Phase\ndeg",     "~@Ripple@Phase"),
                   Span   (4, "Center H",  "~@Ripple@Center H", Wide(4, wide)),
                   Span   (5, "Center V",  "~@Ripple@Center V", 4));
 });
 inline constexpr auto nb_dme_nonlinear_twist = FamilyOf<2>([](int wide) {
-    return Column(Turns(1, "Twist", "~@Twist@Twist"),
+    return Column(Turns(1, "Twist\nturns", "~@Twist@Twist"),
                   Span (2, "Axis",  "~@Twist@Axis", Wide(4, wide)));
 });
 inline constexpr auto nb_dme_nonlinear_swirl = FamilyOf<2>([](int wide) {
-    return Column(Turns  (1, "Swirl",    "~@Swirl@Swirl"),
+    return Column(Turns  (1, "Swirl\nturns", "~@Swirl@Swirl"),
                   Percent(2, "Radius",   "~@Swirl@Radius"),
                   Span   (3, "Center H", "~@Swirl@Center H", Wide(4, wide)),
                   Span   (4, "Center V", "~@Swirl@Center V", 4));
@@ -127,7 +127,7 @@ inline constexpr auto nb_dme_nonlinear_mirror = FamilyOf<2>([](int wide) {
 });
 inline constexpr auto nb_dme_nonlinear_kaleidoscope = FamilyOf<2>([](int wide) {
     return Column(Count  (1, "Mirrors",  "~@Kaleidoscope@Mirrors", 2, 16),
-                  Degrees(2, "Angle",    "~@Kaleidoscope@Angle"),
+                  Degrees(2, "Angle\ndeg",    "~@Kaleidoscope@Angle"),
                   Span   (3, "Center H", "~@Kaleidoscope@Center H", Wide(1, wide)),
                   Span   (4, "Center V", "~@Kaleidoscope@Center V", 1));
 });

@@ -27,7 +27,7 @@ template <size_t VARIANTS, typename MAKE> constexpr auto FamilyOf(MAKE make)
     return family;
 }
 
-// --- Boxes ---
+// --- Boxes: a caption names its unit on a second line; without one the value is a share in percent, a hue in degrees ---
 
 constexpr NB_TBL Box(int id, const char* caption, const char* cmd, double min, double max, int type = NB_2)
 {
@@ -46,6 +46,7 @@ constexpr NB_TBL Count(int id, const char* caption, const char* cmd, double min,
 {
     return Box(id, caption, cmd, min, max, NB_INT);
 }
+// The caption ends in "\ndeg", that of Turns in "\nturns".
 constexpr NB_TBL Degrees(int id, const char* caption, const char* cmd) { return Span(id, caption, cmd, 360); }
 constexpr NB_TBL Hue(int id, const char* cmd) { return Box(id, "Hue", cmd, 0, 359.99); }
 constexpr NB_TBL Frames(int id, const char* caption, const char* cmd) { return Count(id, caption, cmd, 0, 999); }

@@ -5,54 +5,13 @@
 
 // --- Wipe: "~" is a pattern or its modify page ---
 
-inline constexpr auto nb_me_wipe_position = FamilyOf<2>([](int wide) {
-    return Column(Span(1, "H", "~@Position@H", Wide(100, wide)),
-                  Span(2, "V", "~@Position@V", 100));
-});
-inline constexpr auto nb_me_wipe_limit = Column(
-    Percent(1, "Limit", "~@Pattern Limit@Limit"));
-inline constexpr auto nb_me_wipe_limit_both = Column(
-    Percent(1, "Start", "~@Pattern Limit@Start"),
-    Percent(2, "Limit", "~@Pattern Limit@Limit"));
-inline constexpr auto nb_me_wipe_mix_morph = Column(
-    Percent(1, "Balance", "~@Pattern Mix@Balance"),
-    Percent(2, "Soft",    "~@Pattern Mix@Soft"));
-inline constexpr auto nb_me_wipe_mix_add = Column(
-    Percent(1, "Main", "~@Pattern Mix@Main"),
-    Percent(2, "Sub",  "~@Pattern Mix@Sub"));
-
 inline constexpr auto nb_me_wipe_aspect = FamilyOf<2>([](int wide) {
     return Column(Span(1, "Aspect", "~@Aspect@Aspect", Wide(75, wide))); // to a strip of the picture's height
 });
-inline constexpr auto nb_me_wipe_angle = Column(Degrees(1, "Angle", "~@Angle@Angle"));
+inline constexpr auto nb_me_wipe_angle = Column(Degrees(1, "Angle\ndeg", "~@Angle@Angle"));
 inline constexpr auto nb_me_wipe_speed = Column(
-    Degrees(1, "Angle", "~@Angle@Angle"),
-    Turns  (2, "Speed", "~@Speed@Speed"));
-inline constexpr auto nb_me_wipe_multi = Column(
-    Count(1, "H", "~@Multi@H", 1, 63),
-    Count(2, "V", "~@Multi@V", 1, 63));
-inline constexpr auto nb_me_wipe_multi_shift = Column(
-    Count(1, "H",     "~@Multi@H", 1, 63),
-    Count(2, "V",     "~@Multi@V", 1, 63),
-    Span (3, "Shift", "~@Multi@Shift", 100));
-inline constexpr auto nb_me_wipe_modulation = Column(
-    Percent(1, "Amplitude", "~@Modulation@Amplitude"),
-    Percent(2, "Frequency", "~@Modulation@Frequency"),
-    Span   (3, "Speed",     "~@Modulation@Speed", 100));
-inline constexpr auto nb_me_wipe_modulation_both = Column(
-    Percent(1,  "H Ampl.", "~@Modulation@H Amplitude"),
-    Percent(2,  "H Freq.", "~@Modulation@H Frequency"),
-    Span   (3,  "H Speed", "~@Modulation@H Speed", 100),
-    Percent(17, "V Ampl.", "~@Modulation@V Amplitude"),
-    Percent(18, "V Freq.", "~@Modulation@V Frequency"),
-    Span   (19, "V Speed", "~@Modulation@V Speed", 100));
-inline constexpr auto nb_me_wipe_spring = Column(
-    Percent(1, "Width",  "~@Spring@Width"),
-    Count  (2, "Number", "~@Spring@Number", 1, 20));
-inline constexpr auto nb_me_wipe_spring_random = Column(
-    Percent(1, "Width",  "~@Spring@Width"),
-    Count  (2, "Number", "~@Spring@Number", 1, 20),
-    Percent(3, "Random", "~@Spring@Random"));
+    Degrees(1, "Angle\ndeg", "~@Angle@Angle"),
+    Turns  (2, "Speed\nturns", "~@Speed@Speed"));
 // Blinds in lines, pairs of sides in percent.
 inline constexpr auto nb_me_wipe_pairing = FamilyOf<2>([](int hd) {
     return Column(Count(1, "Lines", "~@Pairing@Lines", 1, hd ? 540 : 288));
@@ -72,11 +31,6 @@ inline constexpr auto nb_me_wipe_edge_border_sep = Column(
     Percent(3, "Outside", "~2@Edge@Soft@Outside"));
 inline constexpr auto nb_me_wipe_edge_soft = Column(Percent(1, "Soft", "~2@Edge@Soft@Soft"));
 inline constexpr auto nb_me_wipe_edge_soft_full = Column(Percent(1, "Soft", "~2@Edge@Soft@Soft", 200)); // no border to keep clear
-inline constexpr auto nb_me_wipe_rotation = Column(
-    Degrees(1, "Start", "~@Rotation@Start"),
-    Degrees(2, "End",   "~@Rotation@End"));
-inline constexpr auto nb_me_wipe_rotation_free = Column(
-    Turns(1, "Speed", "~@Rotation@Speed"));
 
 // --- DME wipe ---
 
@@ -101,9 +55,9 @@ inline constexpr auto nb_me_dmewipe_crop = FamilyOf<2>([](int hd) {
                   Steps(2, "V",   "LOCAL@Panel@Common@Knob1", 100,  0, hd),
                   Steps(3, "All", "LOCAL@Panel@Common@Knob2", -100, 0, hd));
 });
-inline constexpr auto nb_me_dmewipe_rotation = Column(Turns(1, "Rotation", "~@Rotation@Rotation"));
+inline constexpr auto nb_me_dmewipe_rotation = Column(Turns(1, "Rotation\nturns", "~@Rotation@Rotation"));
 inline constexpr auto nb_me_dmewipe_rotation_axis = FamilyOf<2>([](int wide) {
-    return Column(Turns(1, "Rotation", "~@Rotation@Rotation"),
+    return Column(Turns(1, "Rotation\nturns", "~@Rotation@Rotation"),
                   Span (2, "Axis H",   "~@Rotation@Axis H", Wide(4, wide)),
                   Span (3, "Axis V",   "~@Rotation@Axis V", 4));
 });
@@ -112,13 +66,6 @@ inline constexpr auto nb_me_dmewipe_perspective = FamilyOf<2>([](int wide) {
                   Span   (2, "View H", "~@Perspective@View H", Wide(4, wide)),
                   Span   (3, "View V", "~@Perspective@View V", 4));
 });
-inline constexpr auto nb_me_dmewipe_trail = Column(
-    Frames (1, "Length", "~@Trail@Length"),
-    Percent(2, "Decay",  "~@Trail@Decay"));
-inline constexpr auto nb_me_dmewipe_trail_steps = Column(
-    Frames (1, "Length", "~@Trail@Length"),
-    Percent(2, "Decay",  "~@Trail@Decay"),
-    Frames (3, "Step",   "~@Trail@Step"));
 inline constexpr auto nb_me_dmewipe_edge_border = FamilyOf<2>([](int wide) {
     return Column(Percent(1, "Width H", "~2@Edge@Border@Width H", Wide(75, wide)),
                   Percent(2, "Width V", "~2@Edge@Border@Width V", 75),
@@ -134,12 +81,6 @@ inline constexpr auto nb_me_dmewipe_edge_soft = Column(Percent(1, "Soft", "~2@Ed
 inline constexpr auto nb_me_dmewipe_edge_soft_sep = Column(
     Percent(1, "Soft H", "~2@Edge@Soft@Soft H"),
     Percent(2, "Soft V", "~2@Edge@Soft@Soft V"));
-inline constexpr auto nb_me_dmewipe_edge_crop = FamilyOf<2>([](int wide) {
-    return Column(Box(1, "Top",    "~2@Edge@Crop@Top",    0, 100),
-                  Box(2, "Left",   "~2@Edge@Crop@Left",   -Wide(100, wide), 0),
-                  Box(3, "Right",  "~2@Edge@Crop@Right",  0, Wide(100, wide)),
-                  Box(4, "Bottom", "~2@Edge@Crop@Bottom", -100, 0));
-});
 inline constexpr auto nb_me_dmewipe_shadow = FamilyOf<2>([](int wide) {
     return Column(Span   (1, "H",       "~@Shadow@H", Wide(100, wide)),
                   Span   (2, "V",       "~@Shadow@V", 100),
@@ -149,14 +90,3 @@ inline constexpr auto nb_me_dmewipe_transparency = Column(Percent(1, "Transp.", 
 inline constexpr auto nb_me_dmewipe_transparency_fade = Column(
     Percent(1, "Start", "~@Transparency@Start"),
     Percent(2, "End",   "~@Transparency@End"));
-
-// --- Background colours: one, which is that of a matte, or a mix of two along a pattern ---
-
-inline constexpr auto nb_bkgd_color2 = Column(
-    NB_COLOR("~@Color 2"));
-inline constexpr auto nb_bkgd_pattern = FamilyOf<2>([](int wide) {
-    return Column(Span   (1, "H",    "~@Pattern@H", Wide(100, wide)),
-                  Span   (2, "V",    "~@Pattern@V", 100),
-                  Percent(3, "Size", "~@Pattern@Size"),
-                  Percent(4, "Soft", "~@Pattern@Soft"));
-});

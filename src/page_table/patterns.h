@@ -86,7 +86,7 @@ inline constexpr NB_TBL nb_dmewipe_soft[] = {
 };
 inline constexpr NB_TBL nb_dmewipe_curl[] = {
     {.id = 1, .caption = "Radius", .type = NB_2, .min = 0,    .max = 100, .cmd = "~@Radius"},
-    {.id = 2, .caption = "Angle",  .type = NB_2, .min = -180, .max = 180, .cmd = "~@Angle"},
+    {.id = 2, .caption = "Angle\ndeg",  .type = NB_2, .min = -180, .max = 180, .cmd = "~@Angle"},
     NB_END,
 };
 inline constexpr NB_TBL nb_dmewipe_turn[] = {

@@ -50,8 +50,7 @@ TEST_F(KnobLinks, EveryNumberChoosesAmongTablesThatDiffer)
 {
     for (int number = 1; number <= LAST_NUMBER; number++) {
         const auto tables = TablesOf(number);
-        // The only number with one table is blank while a key does not turn.
-        EXPECT_GE(tables.size(), number == 18 ? 1u : 2u) << number;
+        EXPECT_NE(tables.size(), 1u) << number;
         for (size_t i = 0; i < tables.size(); i++)
             for (size_t k = 0; k < i; k++)
                 EXPECT_FALSE(SameBoxes(tables[i], tables[k]))
@@ -89,10 +88,10 @@ TEST_F(KnobLinks, TheAspectIsThatOfThePagesBank)
         for (int wide : {0, 1}) {
             std::fill_n(SYS_RefSwrScreenAspect, 7, !wide);
             SYS_RefSwrScreenAspect[c.entry] = wide;
-            SetTree({c.bank, "Wipe", "Main Pattern"}, 0x11510000);
-            OpenLink(31, {});
-            EXPECT_EQ(Chosen(), nb_me_wipe_position.variant[wide]) << c.bank << wide;
-            EXPECT_EQ(Chosen()->max, wide ? 133.33 : 100) << c.bank;
+            SetTree({c.bank, "Wipe", "Main Modify"}, 0x11550000);
+            OpenLink(34, {});
+            EXPECT_EQ(Chosen(), nb_me_wipe_aspect.variant[wide]) << c.bank << wide;
+            EXPECT_EQ(Chosen()->max, wide ? 100 : 75) << c.bank;
         }
 }
 
@@ -123,15 +122,10 @@ TEST_F(KnobLinks, ATallyIsFoundByItsPathAndUnknownWordsChooseTheFirst)
         const char* line; // path and value
         const NB_TBL* table;
     } cases[] = {
-        {10, "Mode#Flat", nb_matte_flat.row},
-        {10, "Mode#Mix", nb_matte_mix1.row},
         {4, "Separate Edge#true", nb_me_key_edge_edge_outline_sep.variant[0]},
         {4, "Fine Key#true", nb_me_key_edge_edge_outline.variant[1]},
         {4, "Separate Edge#maybe", nb_me_key_edge_edge_outline.variant[0]},
         {4, "Other#true", nb_me_key_edge_edge_outline.variant[0]},
-        {28, "Key Type#Wipe Pattern", nb_me_key_type_wipe_modify.row},
-        {28, "Key Type#Key Wipe Pattern", nb_me_key_type_keywipe_modify.row},
-        {28, "Key Type#Chroma", nullptr},
         {92, "Split#H&V", nb_dme_nonlinear_type_pageturn_pageturn3},
         {92, "Split#null", nb_dme_nonlinear_type_pageturn_pageturn4},
     };
@@ -167,8 +161,6 @@ TEST_F(KnobLinks, AKeyThatTurnsHasItsOwnBoxes)
         EXPECT_EQ(Chosen(),
                   c.turns ? nb_me_key_prockey_rotation.row : nb_me_key_prockey_rotation_flat.row)
             << c.bank << c.key << " " << c.turning;
-        OpenLink(18, {});
-        EXPECT_EQ(Chosen(), c.turns ? nb_me_key_resizer_rotation.row : nullptr) << c.turning;
     }
 }
 
@@ -184,15 +176,15 @@ TEST_F(KnobLinks, AShownColumnFollowsTheRotationOfTheKey)
 
 TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumn)
 {
-    OpenLink(57, {"~@Color#"});
+    OpenLink(35, {"~@Speed#"});
     Press(17);
-    EXPECT_THAT(TakeQueuedCommands(), Contains("assign Knob0#M/E-1@Key1@Type@Color 1@Luminance"));
-    OpenLink(18, {});
+    EXPECT_THAT(TakeQueuedCommands(), Contains("assign Knob0#M/E-1@Key1@Type@Angle@Angle"));
+    OpenLink(18, {}); // a number that no case has
     Press(17);
     EXPECT_EQ(BT_GetKnobAssign(), 17);
     char path[CMD_SIZE];
     double value;
-    EXPECT_EQ(NB_GetKnob_info("Luminance", path, &value, sizeof path), -1);
+    EXPECT_EQ(NB_GetKnob_info("Angle\ndeg", path, &value, sizeof path), -1);
 }
 
 // --- On the pages of the effects unit ---
@@ -225,8 +217,9 @@ struct DmePages : TablePage {
 TEST_F(DmePages, EveryNumberedLinkHasTheDependenciesThatItsTableGoesBy)
 {
     std::map<int, const KnobCase*> unused;
-    for (const KnobCase* c = knob_cases_dme; c->number >= 1; c++)
-        unused[c->number] = c;
+    for (const KnobCase* c : {knob_cases_key, knob_cases_wipe, knob_cases_dme})
+        for (; c->number >= 1; c++)
+            unused[c->number] = c;
     const auto cases = unused;
     const auto check = [&](const BT_TBL* b, uint32_t page) {
         const auto c = cases.find(SpecialKnobNumber(b->nb));
@@ -243,7 +236,7 @@ TEST_F(DmePages, EveryNumberedLinkHasTheDependenciesThatItsTableGoesBy)
     };
     for (const PAGE* page = PageTable; page->id != PAGE_END; page++)
         for (const auto& object : page->obj)
-            if (object.type == OBJ_BT && page->id >> 24 == 0x41)
+            if (object.type == OBJ_BT && (page->id >> 24 == 0x41 || page->id >> 24 == 0x11))
                 for (auto* b = static_cast<const BT_TBL*>(object.addr); b->id >= 1; b++)
                     check(b, page->id);
     for (const auto& [number, c] : unused)

@@ -111,11 +111,11 @@ TEST_F(MeWipe, TheModifiersOfAPatternAreThoseThatItHas)
         const char* line;
         std::set<int> disabled;
     } cases[] = {
-        {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#67", {36, 37}},
+        {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#67", {36, 37, 54}},
         {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#1", {17, 18, 19, 20}},
         {0x13560000, "M/E-3@Wipe@Sub Pattern@Pattern#1", {17, 18, 19, 20}},
         {0x13560000, "M/E-3@Wipe@Main Pattern@Pattern#1", {}},
-        {0x17550000, "M/E-3 SUB@Wipe@Main Pattern@Pattern#81", {36, 37, 49, 50, 51, 52}},
+        {0x17550000, "M/E-3 SUB@Wipe@Main Pattern@Pattern#81", {36, 37, 49, 50, 51, 52, 54}},
         {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#500", {}},
     };
     for (const auto& c : cases) {
