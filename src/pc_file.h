@@ -7,6 +7,9 @@
 #include "global.h"
 #include "types.h"
 
+// Of a page that a transfer has for itself.
+constexpr char FILE_INHIBITED[] = "Operation in this menu is inhibited\nduring file transfer.";
+
 // --- Lists ---
 
 // One file of a row: the register in one region.

@@ -21,7 +21,6 @@
 namespace
 {
 enum : int { SIDE_A = 0, SIDE_B = 1, SIDE_C = 0 }; // C has its page to itself
-constexpr char INHIBITED[] = "Operation in this menu is inhibited\nduring file transfer.";
 constexpr int CAPTION_SIZE = 40;
 
 // Of a kind: outlives the page.
@@ -469,7 +468,7 @@ static int button_pressed(const char* command)
         if (strcmp(touch.command, command) != 0)
             continue;
         if (BkgdFileTransfer_Check(fd.kind->id))
-            PaneMessage_Create("File", PANE_ALERT, INHIBITED);
+            PaneMessage_Create("File", PANE_ALERT, FILE_INHIBITED);
         else
             (void)touch.act(); // a refusal changes nothing
         return 0;

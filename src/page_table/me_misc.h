@@ -3,6 +3,7 @@
 #pragma once
 #include "me_banks.h"
 #include "nb_rows.h"
+#include "pc_file_bkgd.h"
 #include "pc_me_misc.h"
 #include "st_me_misc.h"
 
@@ -409,6 +410,9 @@ inline constexpr MePage me_misc_pages[] = {
     {.page = {.id = 0x11740000, .tree = {"M/E-1", "Misc", "Key Assign"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 7), BottomTabs(hf_me_misc, 4), Buttons(bt_me_misc_keyassign), Boxes(NB_Non),
                       Cells(st_me_misc_line), Code(pc_me_misc_keyassign)}}, .where = MAIN},
+    // Where the next one leads while a transfer runs in the background.
+    {.page = {.id = 0x11700000, .tree = {"M/E-1", "Misc"},
+              .obj = {Base(base_main), LeftTabs(vf_me1, 7), BottomTabs(hf_me_misc, 0), Code(pc_file_bkgdfiletransfer)}}, .where = MAIN},
     {.page = {.id = 0x11760000, .tree = {"M/E-1", "Misc", "Clip Transition"},
               .obj = {Base(base_main), LeftTabs(vf_me1, 7), BottomTabs(hf_me_misc, 5), Buttons(bt_me_misc_cliptrans), Boxes(NB_Non),
                       Cells(st_me_misc), Code(pc_me_misc_cliptrans)}}, .where = MAIN},

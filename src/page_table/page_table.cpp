@@ -2,6 +2,7 @@
 #include "dme.h"
 #include "file_directory.h"
 #include "file_dual.h"
+#include "file_tops.h"
 #include "fm.h"
 #include "gallery.h"
 #include "keyframe.h"
@@ -51,6 +52,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 OfBanks<me_dmewipe_pages>,
                 OfBanks<me_misc_pages>,
                 file_dual_pages,
+                file_top_pages,
                 fm_pages,
                 sources_pages,
                 operation_pages,
