@@ -220,9 +220,9 @@ static void info_auto_load_find(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg
     if (ax != FIND_WORK_TYPE || AutoLoadFindID == 0 || bx != AutoLoadFindID)
         return;
     if (msg == LMSG_FILESTATUS)
-        AutoLoadFind_Tally(ax, bx, cx, dx);
+        AutoLoadFind_Tally(Text(cx), Text(dx));
     else
-        AutoLoadFindEnd_Tally(ax, bx, cx, dx);
+        AutoLoadFindEnd_Tally();
 }
 
 int InfoProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)

@@ -41,6 +41,9 @@ constexpr SubscribeRow Put(const char* path_and_value)
 constexpr const char* words_switchers[] = {"SWR1", "SWR2", nullptr};
 constexpr const char* words_dmes[] = {"DME1", "DME2", "DME3", "DME4", nullptr};
 constexpr const char* words_mpes[] = {"MPE1", "MPE2", "MPE3", "MPE4", nullptr};
+// The units that are asked for what they shall start with.
+constexpr const char* words_auto_load[] = {"PNL",  "SWR1", "SWR2", "DME1",
+                                           "DME2", "DME3", "DME4", nullptr};
 constexpr const char* words_swr_dme[] = {"SWR1", "SWR2", "DME1", "DME2", "DME3", "DME4", nullptr};
 constexpr const char* words_banks[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P", nullptr};
 constexpr const char* words_rows[] = {"1st Row",  "2nd Row",  "3rd Row",  "4th Row",  "5th Row",
@@ -188,8 +191,8 @@ constexpr SubscribeRow initial_1[] = {
 
 constexpr SubscribeRow initial_2[] = {
     Add(OPERATION "Auto Load"),
-    AddEach("Info@Auto Load@Data Exist@", words_swr_dme),
-    AddEach("Info@Auto Load@Start@", words_swr_dme),
+    AddEach("Info@Auto Load@Data Exist@", words_auto_load),
+    AddEach("Info@Auto Load@Start@", words_auto_load),
 };
 
 #undef FORMAT

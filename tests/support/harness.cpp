@@ -11,6 +11,7 @@
 #include "a_ps.h"
 #include "a_st.h"
 #include "a_vf.h"
+#include "autoload.h"
 #include "bus.h"
 #include "device.h"
 #include "file.h"
@@ -178,6 +179,7 @@ void Harness_Reset()
     SDL_Event e;
     while (SDL_PollEvent(&e)) {
     }
+    AutoLoad_Reset();
     File_Reset();
     FileDual_Reset();
     File_DirReset();

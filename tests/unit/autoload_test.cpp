@@ -1,0 +1,268 @@
+#include "autoload.h"
+#include "err.h"
+#include "file_page.h"
+#include "fmctrl.h"
+#include "pane.h"
+#include "pc_file.h"
+#include <algorithm>
+#include <map>
+#include <utility>
+
+static const std::string ROOT = "/mnt/data/user/root/PWON_LD/";
+static const std::string EXIST = "put Info@Auto Load@Data Exist@";
+static const std::string START = "put Info@Auto Load@Start@";
+
+struct AutoLoad : FileTest {
+    int is_v6 = 0;
+
+    void SetUp() override
+    {
+        FileTest::SetUp();
+        GL_AutoLoad = 1;
+        is_v6 = std::exchange(SYS_FmemV6, 0);
+    }
+    void TearDown() override
+    {
+        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
+        SYS_FmemV6 = is_v6;
+        FMCtrl_Quit();
+        Err_Clear();
+        FileTest::TearDown();
+    }
+    // The labels of the searches and lists that went out, by their paths below the directory.
+    static std::map<std::string, uint32_t> Searches()
+    {
+        std::map<std::string, uint32_t> found;
+        for (const std::string& line : Sent()) {
+            const size_t label = line.find("#L"), host = line.find("MYHOST:" + ROOT);
+            if (line.find("put File@Access@") != 0 || host == std::string::npos)
+                continue;
+            const size_t begin = host + strlen("MYHOST:") + ROOT.size();
+            found[line.substr(begin, line.find(',', begin) - begin)] =
+                uint32_t(std::stoul(line.substr(label + 2)));
+        }
+        return found;
+    }
+    static void Rows(uint32_t label, const Strings& paths, const char* end = "OK")
+    {
+        static uint32_t ack = 5000;
+        Ack(label, ++ack, "File@Access@Find");
+        for (const std::string& path : paths)
+            Status(ack, ROOT + path + ",Wed Nov 25 09:20:00 2026", "File@Access@Find@Status");
+        Status(ack, end, "File@Access@Find@Status");
+    }
+    // Ask for a unit whose searches give these files. What the server is told at the end.
+    static Strings Ask(const char* unit, const std::map<std::string, Strings>& files)
+    {
+        Deliver(std::string("Info@Auto Load@Data Exist@") + unit, "true");
+        for (const auto& [folder, label] : Searches())
+            Rows(label, files.count(folder) ? files.at(folder) : Strings{});
+        return Sent();
+    }
+    // The transfers that a start sends, "<source> <target>", with their labels.
+    static std::map<std::string, uint32_t> Start(const char* unit, Strings* all)
+    {
+        Deliver(std::string("Info@Auto Load@Start@") + unit, "true");
+        std::map<std::string, uint32_t> items;
+        *all = Sent();
+        for (const std::string& line : *all)
+            if (const size_t host = line.find(",MYHOST:" + ROOT); host != std::string::npos)
+                items[line.substr(host + strlen(",MYHOST:") + ROOT.size())] =
+                    uint32_t(std::stoul(line.substr(line.find("#L") + 2)));
+        return items;
+    }
+};
+
+TEST_F(AutoLoad, EachLockedCategoryIsLeftOutOfTheSearch)
+{
+    const Strings folders = {"DSNAP",    "EFFECT",  "FRAMEMEM", "KSNAP", "MACRO",
+                             "MACROATC", "SHOTBOX", "SNAPSHOT", "WSNAP"};
+    const struct {
+        const char* unit;
+        const char* folder;
+        int v6;
+        int lock; // -1 none
+        const char* left_out;
+    } cases[] = {
+        {"PNL", "CTRLCPU", 0, -1, ""},
+        {"PNL", "CTRLCPU", 1, -1, "FRAMEMEM"},
+        {"DME4", "DME000D004", 0, FILELOCK_CATEGORY_EFFECT, "EFFECT"},
+        {"SWR1", "SWR000D001", 0, FILELOCK_CATEGORY_MACRO_ATTACHMENT, "MACROATC"},
+    };
+    for (const auto& c : cases) {
+        SYS_FmemV6 = c.v6;
+        if (c.lock >= 0)
+            GL_FileLock[c.lock] = 1;
+        EXPECT_EQ(AutoLoad_DataExist(c.unit), AUTOLOAD_SEARCHING);
+        Strings expected, searched;
+        for (const std::string& word : folders)
+            if (word != c.left_out)
+                expected.push_back(word + "/" + c.folder + "/");
+        const auto searches = Searches();
+        for (const auto& [folder, label] : searches)
+            searched.push_back(folder);
+        EXPECT_EQ(searched, expected) << c.unit;
+        EXPECT_EQ(AutoLoad_DataExist("SWR2"), AUTOLOAD_BUSY);
+        for (const auto& [folder, label] : searches) {
+            EXPECT_THAT(Sent(), IsEmpty()) << "answered before the last search has ended";
+            Rows(label, {}, "NG(Directory Not Exist)");
+        }
+        EXPECT_THAT(Sent(), ElementsAre(EXIST + c.unit + "#false"));
+        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
+    }
+}
+
+TEST_F(AutoLoad, EachReasonNotToSearchHasItsAnswer)
+{
+    EXPECT_EQ(AutoLoad_DataExist("CCU1"), AUTOLOAD_UNKNOWN);
+    EXPECT_EQ(AutoLoad_Start("CCU1"), -1);
+    GL_AutoLoad = -1;
+    EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_NOT_TOLD);
+    EXPECT_THAT(Sent(), IsEmpty());
+    Deliver("Info@Operation Setup Data@Auto Load", "0");
+    EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_OFF);
+    EXPECT_THAT(Sent(), ElementsAre(EXIST + "SWR1#false"));
+    Deliver("Info@Operation Setup Data@Auto Load", "1");
+    const int pane = PaneMessage_Create("Title", PANE_INFO, "Text");
+    EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_BUSY);
+    Pane_Quit(pane);
+    (void)BkgdFileTransfer_Set(0x71310000, 1);
+    EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_BUSY);
+    (void)BkgdFileTransfer_Set(0, 0);
+    EXPECT_EQ(AutoLoad_Start("SWR1"), 0) << "nothing was found";
+    EXPECT_THAT(Sent(), IsEmpty());
+    // All that could be searched is locked: an answer all the same.
+    SYS_FmemV6 = 1;
+    std::fill_n(GL_FileLock, FILE_LOCKS, 1);
+    EXPECT_EQ(AutoLoad_DataExist("DME1"), AUTOLOAD_SEARCHING);
+    EXPECT_THAT(Sent(), ElementsAre(EXIST + "DME1#false"));
+}
+
+TEST_F(AutoLoad, FilesGoToTheirPlacesAndTheServerHearsOfBothEnds)
+{
+    const std::string open = "EFFECT/SWR000D001/ME1/OPEN.ME1_001.SKF";
+    const std::string key = "KSNAP/SWR000D001/ME1/K.ME1_2_04.SKS";
+    const std::string logo = "FRAMEMEM/SWR000D001/Mlogo.FMEM_017.SFM";
+    EXPECT_THAT(Ask("SWR1", {{"EFFECT/SWR000D001/", {open, "EFFECT/SWR000D001/ME1/x.txt"}},
+                             {"KSNAP/SWR000D001/", {key}},
+                             {"FRAMEMEM/SWR000D001/", {logo}}}),
+                ElementsAre(EXIST + "SWR1#true"));
+    EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_FOUND);
+    EXPECT_THAT(Sent(), ElementsAre(EXIST + "SWR1#true"));
+    const std::string shot = "SHOTBOX/CTRLCPU/S.PNL_0003.PSB";
+    EXPECT_THAT(Ask("PNL", {{"SHOTBOX/CTRLCPU/", {shot}}}), ElementsAre(EXIST + "PNL#true"));
+
+    Strings all;
+    auto items = Start("SWR1", &all);
+    EXPECT_EQ(all[0], START + "SWR1#true");
+    const std::string unit = DEV_MySwr[0]->id, work = ":/vorn/tmp/file/";
+    Strings lines;
+    for (const auto& [line, label] : items)
+        lines.push_back(line);
+    EXPECT_THAT(lines, ElementsAre(open + "," + unit + work + "EFFECT/SWR1/OPEN.ME1_001.SKF",
+                                   logo + "," + unit + ":FMEM_017.SFM",
+                                   key + "," + unit + work + "KSNAP/SWR1/K.ME1_2_04.SKS"));
+    EXPECT_NE(Pane_GetActiveID(), 0) << "the notice";
+    EXPECT_TRUE(BkgdFileTransfer_Check(0x71310000));
+    EXPECT_FALSE(BkgdFileTransfer_Check(0x71620000));
+    EXPECT_EQ(GL_CreatePage, GL_NowPage);
+    const int notice = Pane_GetActiveID();
+
+    // The panel's file joins the same load; the notice that stands serves both.
+    auto more = Start("PNL", &all);
+    EXPECT_EQ(more.size(), 1u);
+    EXPECT_EQ(Pane_GetActiveID(), notice);
+    EXPECT_EQ(QueueRoot->next, nullptr);
+    items.merge(more);
+    (void)Err_Add("old");
+    for (const auto& [line, label] : items) {
+        EXPECT_THAT(Sent(), IsEmpty());
+        Answer(label, line.find("KSNAP") == 0 ? "NG(No Space)" : "OK");
+    }
+    EXPECT_THAT(Sent(), ElementsAre(START + "PNL#false", START + "SWR1#false"));
+    EXPECT_FALSE(BkgdFileTransfer_Check(0));
+    EXPECT_EQ(Err_GetMax(), 1) << "what failed, and nothing older";
+    EXPECT_EQ(GL_CreatePage, 0x99000000u);
+}
+
+TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
+{
+    SYS_FmemV6 = 1;
+    const std::string root = "FMEMFOL/";
+    FMCtrl_InitClipStillList();
+    Deliver("16@Frame Mem@Status@Folder Name Sense", "0,Default.,1,Old,3,Gone");
+    AutoLoad_DataExist("SWR1");
+    auto searches = Searches();
+    const uint32_t list = searches.at(root);
+    searches.erase(root);
+    for (const auto& [folder, label] : searches)
+        Rows(label, {});
+    EXPECT_THAT(Sent(), IsEmpty());
+    Rows(list, {root + "Sport", root + "DEFAULT", root + "A name that is too long", root + "News"});
+
+    const std::string sub = "/SWR000D001/";
+    const std::map<std::string, Strings> files = {
+        {"DEFAULT", {"Mbars.FMEM_009.SFM", "bars.SFM", ".FMEM_001.SFM", "x.FMEM_.SFM"}},
+        {"Sport", {"Mgoal.FMEM_200.SFA", "Mextra.FMEX_001.SFM", "Mgoal.FMEM_003.TIF"}},
+        {"News", {}}};
+    for (const char* name : {"DEFAULT", "Sport", "News"}) { // one at a time
+        searches = Searches();
+        ASSERT_EQ(searches.size(), 1u) << name;
+        EXPECT_EQ(searches.begin()->first, root + name + sub);
+        Strings paths;
+        for (const std::string& file : files.at(name))
+            paths.push_back(root + name + sub + file);
+        Rows(searches.begin()->second, paths);
+    }
+    EXPECT_THAT(Sent(),
+                ElementsAre("put Frame Mem@File@Delete Thumbnail@All#true",
+                            "put Frame Mem@Folder@Delete#3", "put Frame Mem@Folder@Delete#1",
+                            "put Frame Mem@Folder@Rename#1,Sport",
+                            "put Frame Mem@Folder@Rename#2,News", EXIST + "SWR1#true"));
+    Strings all;
+    const auto items = Start("SWR1", &all);
+    const std::string staging = "MYHOST:/var/tmp/FMXfer/" + std::string(DEV_MySwr[0]->id);
+    ASSERT_EQ(items.size(), 2u) << testing::PrintToString(all);
+    EXPECT_EQ(items.begin()->first,
+              root + "DEFAULT" + sub + "Mbars.FMEM_009.SFM," + staging + "FMEM_001.SF2");
+    EXPECT_EQ(items.rbegin()->first,
+              root + "Sport" + sub + "Mgoal.FMEM_200.SFA," + staging + "FMEM_002.SF4");
+    for (const char* step : {"compressed", "stored", "staging removed"})
+        for (const auto& [line, label] : items)
+            Answer(label, step[0] == 's' && step[2] == 'o' && line.find("Mbars") != line.npos
+                              ? "NG(Bad)"
+                              : "OK");
+    const Strings end = Sent();
+    EXPECT_THAT(end, Contains("put 16@Frame Mem@Folder@Move Still#0,Mgoal,1"));
+    EXPECT_THAT(end, Not(Contains(HasSubstr("Mbars,"))));
+    EXPECT_EQ(GL_CreatePage, 0x99000000u);
+}
+
+TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
+{
+    SYS_FmemV6 = 1;
+    AutoLoad_DataExist("SWR1");
+    auto searches = Searches();
+    for (const auto& [folder, label] : searches)
+        if (folder != "FMEMFOL/")
+            Rows(label, {});
+    Rows(searches.at("FMEMFOL/"), {}, "NG(Directory Not Exist)");
+    EXPECT_THAT(Sent(), ElementsAre(EXIST + "SWR1#false"));
+
+    SYS_FmemV6 = 0;
+    AutoLoad_DataExist("SWR1");
+    const uint32_t old = Searches().begin()->second;
+    Deliver("CONNECT@Status", "NG");
+    EXPECT_EQ(QueueRoot, nullptr);
+    Rows(old, {"EFFECT/SWR000D001/ME1/OPEN.ME1_001.SKF"});
+    EXPECT_THAT(Sent(), IsEmpty());
+    const std::string open = "EFFECT/SWR000D001/ME1/OPEN.ME1_001.SKF";
+    EXPECT_THAT(Ask("SWR1", {{"EFFECT/SWR000D001/", {open}}}), ElementsAre(EXIST + "SWR1#true"));
+    Strings all;
+    EXPECT_EQ(Start("SWR1", &all).size(), 1u);
+    Deliver("CONNECT@Status", "NG"); // in the middle of the load
+    EXPECT_FALSE(BkgdFileTransfer_Check(0));
+    EXPECT_EQ(QueueRoot, nullptr);
+    (void)Sent();
+    EXPECT_THAT(Ask("SWR1", {}), ElementsAre(EXIST + "SWR1#false"));
+}
