@@ -359,7 +359,8 @@ static constexpr Command commands[] = {
 };
 
 static const std::span<const Command> command_sets[] = {
-    commands, console_effect_commands, console_file_commands, console_setup_commands};
+    commands, console_effect_commands, console_register_commands, console_file_commands,
+    console_setup_commands};
 
 static bool con_help(Runner&, const std::string&)
 {

@@ -33,6 +33,7 @@ struct Command {
 bool Console_OnOff(const std::string& text, bool* on);
 bool Console_Number(const std::string& text, long from, long to, long* number);
 
-extern const std::span<const Command> console_effect_commands; // regions, effects, registers
-extern const std::span<const Command> console_file_commands;   // files, hub, frame memory
-extern const std::span<const Command> console_setup_commands;  // what the installation is made of
+extern const std::span<const Command> console_effect_commands;   // regions and effects
+extern const std::span<const Command> console_register_commands; // stored registers
+extern const std::span<const Command> console_file_commands;     // files, hub, frame memory
+extern const std::span<const Command> console_setup_commands;    // what the installation is made of

@@ -2,7 +2,6 @@
 // behind it.
 #include "console_command.h"
 #include "region.h"
-#include "store.h"
 #include "system.h"
 #include "text.h"
 #include "timeline.h"
@@ -195,49 +194,6 @@ static bool con_timelines(Runner&, const std::string&)
     return true;
 }
 
-// --- Registers ---
-
-// "store KIND [REGION] N [NAME]": the name is what stands behind the number. The region comes
-// before it, and may hold blanks, so the number is the first word that is one.
-static bool do_register(const std::string& verb, const std::string& rest)
-{
-    const auto word = Text_Split(rest, ' ');
-    long number = 0;
-    size_t at = 1;
-    while (at < word.size() && !Console_Number(word[at], 1, 999, &number))
-        ++at;
-    if (at >= word.size())
-        return false;
-    std::string region, name;
-    for (size_t i = 1; i < at; ++i)
-        region += (i == 1 ? "" : " ") + word[i];
-    for (size_t i = at + 1; i < word.size(); ++i)
-        name += (i == at + 1 ? "" : " ") + word[i];
-    return Store_Do(verb, word[0], region, int(number), name);
-}
-
-static bool con_store(Runner&, const std::string& rest)
-{
-    return do_register("store", rest);
-}
-
-static bool con_recall(Runner&, const std::string& rest)
-{
-    return do_register("recall", rest);
-}
-
-static bool con_effect(Runner&, const std::string& rest)
-{
-    return do_register("recall", "effect " + rest);
-}
-
-static bool con_list(Runner&, const std::string& rest)
-{
-    const size_t blank = rest.find(' ');
-    return Store_Print(rest.substr(0, blank),
-                       blank == std::string::npos ? "" : rest.substr(blank + 1));
-}
-
 // --- Units ---
 
 static bool con_dme(Runner&, const std::string& rest)
@@ -264,10 +220,6 @@ static constexpr Command commands[] = {
     {"loop", "REGION FIRST LAST N", "loop between two keyframes, N 0: endless; 0 0 0: none",
      con_loop},
     {"delay", "REGION FRAMES", "wait so long before the first keyframe", con_delay},
-    {"effect", "REGION N", "recall an effect", con_effect},
-    {"store", "KIND [REGION] N [NAME]", "store what is there now into a register", con_store},
-    {"recall", "KIND [REGION] N", "recall a register", con_recall},
-    {"list", "KIND [REGION]", "print the registers that hold data", con_list},
     {"timelines", "", "print what is loaded and where it stands", con_timelines},
     {"dme", "down|up N", "an effects unit fails, or comes back", con_dme},
 };

@@ -2,6 +2,7 @@
 // without hardware.
 #include "autoload.h"
 #include "console.h"
+#include "dissolve.h"
 #include "drive.h"
 #include "fault.h"
 #include "file_job.h"
@@ -107,8 +108,8 @@ static void main_turn(int64_t* next)
     // The console first: what it starts is due at once.
     *next = Console_Tick(then);
     *next = std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
-                      Transition_Tick(then), Fault_Tick(then), FileJob_Tick(then), Hub_Tick(then),
-                      Autoload_Tick(then)});
+                      Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then),
+                      FileJob_Tick(then), Hub_Tick(then), Autoload_Tick(then)});
 }
 
 int main(int argc, char** argv)

@@ -62,6 +62,10 @@ static constexpr PathKind kinds[] = {
     {"**@Modify@Crop Mode@Crop@*", "bool"},
     // The effects units.
     {"DME@Status@3D Param@*@*@*", "num -999.99 999.99 2"},
+    // Registers.
+    {"**@Temporary Duration", "num 0 999 0"}, // frames
+    {"**@Temporary Duration@*", "num 0 999 0"},
+    {"**@MP2 Auto Correct", "bool"},
     // What the keys of a bank share.
     {"*@Misc@Transition@Transition Mode", "word Full,Limit"},
     {"*@Misc@Transition@*", "bool"},

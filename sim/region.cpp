@@ -35,7 +35,8 @@ static constexpr Bank banks[BANKS] = {
 static void region_add_numbered(std::vector<Region>& all)
 {
     for (int n = 0; n < 8; ++n)
-        all.push_back({Text_Format("User%d", n + 1), 8 + n, 2, n, 0x10ull << n, 0x40u << n, "", 0});
+        all.push_back({Text_Format("User%d", n + 1), 8 + n, 2, n, 0x10ull << n, 0x40u << n,
+                       Text_Format("User%d", n + 1), 0});
     for (int n = 0; n < 8; ++n)
         all.push_back({Text_Format("DME%d", n + 1), 16 + n, 3, n, 0x1000ull << n, 0x4000u << n,
                        n == 0 ? "DME" : "", n / 4 + 1});

@@ -11,7 +11,6 @@ static constexpr int BANKS = 6;
 static constexpr int USERS = 8;
 static constexpr int CLIP_REGIONS = 20;
 static constexpr int MASTER_SNAPSHOT_LINKS = 30; // one more than there are regions
-static constexpr int SHOTBOX_LINKS = 44;
 
 static const Kind kinds[STORE_KINDS] = {
     {STORE_EFFECT, "effect", "Effect@Effect@", "Effect@Effect@Attribute@List@", "", REGION_EFFECTS,
@@ -54,6 +53,11 @@ static struct {
 const Kind& Store_Kind(StoreKind kind)
 {
     return kinds[kind];
+}
+
+int Store_SnapshotRow(int region)
+{
+    return region == REGION_RTR ? REGION_SNAPSHOTS : region < REGION_SNAPSHOTS ? region : -1;
 }
 
 static int row_region(const Kind& kind, int row)
@@ -116,19 +120,21 @@ const std::map<int, Register>& Store_Row(const Kind& kind, int row)
 
 // --- List lines ---
 
+// A bare number is an effect or what the master is of, "S12" a snapshot.
 static std::string line_links(const std::vector<int>& links, size_t count)
 {
     std::string text;
-    for (size_t i = 0; i < count; ++i)
-        text += i < links.size() && links[i] > 0 ? "," + std::to_string(links[i]) : ",";
+    for (size_t i = 0; i < count; ++i) {
+        const int link = i < links.size() ? links[i] : 0;
+        text += link < 0 ? Text_Format(",S%d", -link) : link > 0 ? Text_Format(",%d", link) : ",";
+    }
     return text;
 }
 
 static std::string line_effect(const Register& r)
 {
     return Text_Format("%s,%s,%s,%s,%d", r.exists ? "S" : "E", r.name.c_str(),
-                       r.is_locked ? "L" : "U", r.effect.has_dissolve ? "D" : "N",
-                       r.effect.duration());
+                       r.is_locked ? "L" : "U", r.has_dissolve ? "D" : "N", r.duration);
 }
 
 // One field for both: empty, locked, or stored.
@@ -140,7 +146,7 @@ static const char* line_status(const Register& r)
 // Dissolve and automatic transition show their duration, or none.
 static std::string line_snapshot(const Register& r)
 {
-    const std::string frames = std::to_string(r.dissolve_frames);
+    const std::string frames = std::to_string(r.duration);
     return r.name + "," + line_status(r) + "," + r.hold + "," + (r.has_dissolve ? frames : "n") +
            "," + (r.has_auto_transition ? frames : "n") + "," + (r.has_gpi ? "1" : "n");
 }
@@ -231,10 +237,10 @@ static void store_make_lists()
     for (const Kind& kind : kinds)
         for (int row = 0; row < kind.rows; ++row)
             Tree_SetList(Store_ListPath(kind, row), store_lines(kind, row), 1);
-    std::vector<std::string> modes; // modifier, transition, crosspoint
+    std::vector<std::string> modes; // modifier, transition, crosspoint: all come back
     for (int row = 0; row < kinds[STORE_KEY].rows; ++row)
-        modes.push_back(Store_RowName(kinds[STORE_KEY], row) + ",false,false,false");
-    Tree_SetList("Snapshot@Key Snapshot@Attribute@Recall Mode", modes, 1);
+        modes.push_back(Store_RowName(kinds[STORE_KEY], row) + ",true,true,true");
+    Tree_SetList(KEY_RECALL_MODE, modes, 1);
     for (int user = 0; user < USERS; ++user) {
         std::vector<std::string> lines;
         for (const auto& [key, clip] : sr.clips[user])
@@ -325,16 +331,40 @@ bool Store_Print(const std::string& word, const std::string& region)
     return true;
 }
 
-bool Store_Do(const std::string& verb, const std::string& word, const std::string& region,
-              int number, const std::string& name)
+bool Store_HasRegions(const std::string& word)
 {
-    const Kind* kind = kind_of_word(word);
-    const int row = kind ? Store_RowOfName(*kind, region) : -1;
-    if (row < 0 || !Store_IsNumber(*kind, row, number))
+    const Kind* const kind = kind_of_word(word);
+    return kind && kind->rows > 1;
+}
+
+// It takes the road of a panel's command.
+bool Store_Do(const StoreOrder& order)
+{
+    static const struct {
+        const char* verb;
+        const char* word;
+        const char* tail;
+    } verbs[] = {{"store", "Store", ""},    {"recall", "Recall", ""},     {"rename", "Rename", ""},
+                 {"lock", "Lock", ",true"}, {"unlock", "Lock", ",false"}, {"delete", "Delete", ""},
+                 {"copy", "Copy", ""},      {"move", "Move", ""},         {"swap", "Swap", ""}};
+    const Kind* kind = kind_of_word(order.kind);
+    const int row = kind ? Store_RowOfName(*kind, order.region) : -1;
+    if (row < 0 || !Store_IsNumber(*kind, row, order.first) || order.last < order.first)
         return false;
-    if (verb == "store")
-        Store_StoreRegister(*kind, row, number, name);
-    else
-        Store_Recall(*kind, row, number);
-    return true;
+    const bool is_one = order.verb == "store" || order.verb == "recall" || order.verb == "rename";
+    std::string value = Store_MaskText(*kind, row) + std::to_string(order.first) + "," +
+                        (is_one ? order.name : std::to_string(order.last));
+    if (order.to > 0) {
+        const int to_row = Store_RowOfName(*kind, order.to_region);
+        if (to_row < 0 || !Store_IsNumber(*kind, to_row, order.to))
+            return false;
+        value += "," + Store_MaskText(*kind, to_row) + std::to_string(order.to) +
+                 (order.keeps_names ? ",true" : ",false");
+    }
+    for (const auto& verb : verbs)
+        if (order.verb == verb.verb) {
+            Store_Command(*kind, kind->commands + std::string(verb.word), value + verb.tail);
+            return true;
+        }
+    return false;
 }

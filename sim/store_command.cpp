@@ -1,7 +1,6 @@
-// Recalling and storing, and the commands of the panels: a path that ends with the verb, and a
-// value of a mask of rows (where the kind has one) and numbers: "put
+// The commands of the panels: a path that ends with the verb, and a value of a mask of rows (where
+// the kind has one; the name of one row does as well) and numbers: "put
 // Effect@Effect@Lock@Lock#MASK,1,5,true".
-#include "dme_channels.h"
 #include "log.h"
 #include "region.h"
 #include "store.h"
@@ -13,7 +12,7 @@
 
 static const std::string ALL_DELETE = "Register@All Delete@";
 static const std::string CLIP_EVENT = "Snapshot@Snapshot@Clip Event@";
-static constexpr int KEYS = 8;
+static const std::string SHOTBOX_LINK = "Shotbox@Register@Attribute@Link@";
 static constexpr size_t HOLD_BYTES = 300; // of the router 256; a list line has to hold it
 
 namespace
@@ -23,7 +22,8 @@ struct Request {
     const Kind* kind = nullptr;
     std::vector<int> rows;
     std::vector<std::string> fields;
-    bool is_edit = false; // of a master: its regions are left alone
+    bool is_corrected = false; // what goes to a sub side is made to fit it
+    bool is_edit = false;      // of a master: its regions are left alone
 };
 
 struct StoreVerb {
@@ -32,150 +32,6 @@ struct StoreVerb {
     void (*func)(const Request& request) = nullptr;
 };
 } // namespace
-
-// --- Snapshots of the tree ---
-
-std::string Store_KeptPath(const Kind& kind, int row)
-{
-    const int region = kind.kind == STORE_KEY        ? row / KEYS
-                       : kind.kind == STORE_SNAPSHOT ? Region_OfSnapshotRow(row)
-                                                     : row;
-    const std::string tree = Regions()[size_t(region)].tree;
-    switch (kind.kind) {
-    case STORE_SNAPSHOT: return tree;
-    case STORE_WIPE: return tree + "@Wipe";
-    case STORE_DME: return tree + "@DME Wipe";
-    case STORE_KEY:
-        return tree + (region == REGION_PP ? "@DSK" : "@Key") + std::to_string(row % KEYS + 1);
-    default: return "";
-    }
-}
-
-const char* Store_PatternTail(const Kind& kind)
-{
-    return kind.kind == STORE_WIPE  ? "@Main Pattern@Pattern"
-           : kind.kind == STORE_DME ? "@Pattern Select@Pattern"
-                                    : nullptr;
-}
-
-// The pattern is kept even when nobody has asked for it yet: the list tells it.
-static void keep_pattern(const Kind& kind, int row, Register& r)
-{
-    long number = 0;
-    const char* const tail = Store_PatternTail(kind);
-    const Node* const node = tail ? Tree_Get(Store_KeptPath(kind, row) + tail) : nullptr;
-    if (node && Text_ToInt(node->value, &number))
-        r.pattern = int(number);
-}
-
-static bool is_kept(const Node& node)
-{
-    return node.type.kind != KIND_ACTION && node.type.kind != KIND_LIST &&
-           !Dme_IsSelection(node.path) && !Text_MatchesPath(node.path, "**@Transition Position");
-}
-
-static void keep_values(Register& r, const std::string& path)
-{
-    r.values.clear();
-    if (path.empty())
-        return;
-    for (const Node* node : Tree_Under(path))
-        if (is_kept(*node))
-            r.values[node->path] = node->value;
-}
-
-// What nobody had asked for when it was stored was at its default.
-static void bring_values_back(const Register& r, const std::string& path)
-{
-    if (path.empty())
-        return;
-    for (const Node* node : Tree_Under(path))
-        if (is_kept(*node) && !r.values.contains(node->path))
-            Tree_Show(node->path, node->initial);
-    for (const auto& [kept, value] : r.values)
-        Tree_Show(kept, value);
-}
-
-// --- Recall and store ---
-
-static void recall_effect(int region, int number, const Register& r)
-{
-    Timeline_Load(region, number, r.effect, r.is_locked);
-    const bool is_dme = region >= REGION_DME1 && region < REGION_DEV1;
-    if (is_dme)
-        Timeline_Load(region - REGION_DME1 + REGION_GLOBAL1, number, r.effect, r.is_locked);
-}
-
-// A shotbox has effects in it, and so has a master effect.
-static void recall_links(const Register& r, StoreKind of)
-{
-    const Kind& kind = Store_Kind(of);
-    std::vector<int> recalled;
-    for (int row = 0; row < kind.rows && row < int(r.links.size()); ++row) {
-        const int number = r.links[size_t(row)];
-        if (!Store_IsNumber(kind, row, number))
-            continue;
-        Store_Recall(kind, row, number);
-        recalled.push_back(row);
-    }
-    if (r.is_auto_run)
-        Timeline_Run(recalled, 1);
-}
-
-void Store_Recall(const Kind& kind, int row, int number)
-{
-    const Register r = Store_Register(kind, row, number); // a copy: links may come back here
-    if (!r.exists)
-        return;
-    switch (kind.kind) {
-    case STORE_EFFECT: recall_effect(row, number, r); break;
-    case STORE_MASTER_EFFECT:
-    case STORE_SHOTBOX: recall_links(r, STORE_EFFECT); break;
-    case STORE_MASTER_SNAPSHOT: recall_links(r, STORE_SNAPSHOT); break;
-    default: bring_values_back(r, Store_KeptPath(kind, row));
-    }
-    Store_SetCurrent(kind, row, number);
-}
-
-static std::vector<int> current_of(StoreKind of, bool only_selected)
-{
-    const Kind& kind = Store_Kind(of);
-    std::vector<int> links;
-    for (int row = 0; row < kind.rows; ++row)
-        links.push_back(only_selected && !Timeline_IsSelected(row) ? 0 : Store_Current(kind, row));
-    return links;
-}
-
-static std::string fitting_name(const std::string& name)
-{
-    std::string fitting = name.substr(0, NAME_BYTES);
-    std::replace(fitting.begin(), fitting.end(), ',', ' '); // it stands in a list line
-    return fitting;
-}
-
-void Store_StoreRegister(const Kind& kind, int row, int number, const std::string& name)
-{
-    Register& r = Store_Register(kind, row, number);
-    if (r.is_locked)
-        return Log_Note("locked: %s %d", kind.word, number);
-    if (!name.empty() || !r.exists)
-        r.name = name.empty() ? kind.new_name + std::to_string(number) : fitting_name(name);
-    r.exists = true;
-    switch (kind.kind) {
-    case STORE_EFFECT:
-        r.effect = Timeline_Of(row).effect;
-        r.effect.name = r.name;
-        break;
-    case STORE_MASTER_EFFECT: r.links = current_of(STORE_EFFECT, false); break;
-    case STORE_MASTER_SNAPSHOT: r.links = current_of(STORE_SNAPSHOT, false); break;
-    case STORE_SHOTBOX: r.links = current_of(STORE_EFFECT, true); break;
-    default: keep_pattern(kind, row, r); keep_values(r, Store_KeptPath(kind, row));
-    }
-    Store_SetCurrent(kind, row, number);
-    Store_Show(kind, row, number);
-    if (kind.kind == STORE_EFFECT)
-        Timeline_SetHead(row, number, r.name, false);
-}
 
 // --- The fields of a command ---
 
@@ -194,23 +50,22 @@ static bool is_true_at(const Request& request, size_t field)
            (request.fields[field] == "true" || request.fields[field] == "ON");
 }
 
-static std::vector<int> rows_of_mask(const Kind& kind, uint64_t mask)
+static uint64_t mask_of_row(const Kind& kind, int row)
 {
-    std::vector<int> rows;
-    for (int row = 0; row < kind.rows; ++row) {
-        uint64_t bit = 0;
-        if (kind.kind == STORE_EFFECT)
-            bit = Regions()[size_t(row)].effect_mask;
-        else if (kind.kind == STORE_KEY)
-            bit = 1ull << row;
-        else if (kind.kind == STORE_SNAPSHOT)
-            bit = Regions()[size_t(Region_OfSnapshotRow(row))].snapshot_mask;
-        else
-            bit = Regions()[size_t(row)].snapshot_mask;
-        if (mask & bit)
-            rows.push_back(row);
+    switch (kind.kind) {
+    case STORE_EFFECT: return Regions()[size_t(row)].effect_mask;
+    case STORE_KEY:
+    case STORE_MACRO: return 1ull << row;
+    case STORE_SNAPSHOT: return Regions()[size_t(Region_OfSnapshotRow(row))].snapshot_mask;
+    default: return Regions()[size_t(row)].snapshot_mask;
     }
-    return rows;
+}
+
+std::string Store_MaskText(const Kind& kind, int row)
+{
+    if (!kind.has_mask)
+        return "";
+    return Text_Format("%016llX,", static_cast<unsigned long long>(mask_of_row(kind, row)));
 }
 
 // Macros stand in one list, whatever their mask says.
@@ -219,9 +74,14 @@ static std::vector<int> rows_of_field(const Kind& kind, const std::string& field
     char* end = nullptr;
     const std::string text = Text_Trim(field);
     const uint64_t mask = strtoull(text.c_str(), &end, 16);
-    if (text.empty() || *end != '\0')
+    if (text.empty())
         return {};
-    return kind.kind == STORE_MACRO ? std::vector<int>{0} : rows_of_mask(kind, mask);
+    std::vector<int> rows;
+    for (int row = 0; row < kind.rows; ++row)
+        if (*end != '\0' ? Store_RowName(kind, row) == text
+                         : kind.kind == STORE_MACRO || (mask & mask_of_row(kind, row)))
+            rows.push_back(row);
+    return rows;
 }
 
 // Numbers from the field "first" to the one behind it, those that the row has.
@@ -277,10 +137,36 @@ static void verb_rename(const Request& request)
         Register& r = Store_Register(*request.kind, row, number);
         if (!r.exists || r.is_locked)
             continue;
-        r.name = fitting_name(request.fields[1]);
+        r.name = Store_FittingName(request.fields[1]);
         r.effect.name = r.name;
         Store_Show(*request.kind, row, number);
     }
+}
+
+// Of a master that is edited: number, and the links in the order of the regions, none where a field
+// is empty. Without them it links what each region has just now.
+static void verb_store_links(const Request& request)
+{
+    const int number = number_at(request, 0);
+    if (request.fields.size() < 2)
+        return verb_store(request);
+    std::vector<int> links;
+    for (size_t i = 1; i < request.fields.size(); ++i) {
+        links.push_back(number_at(request, i));
+        if (links.back() == 0 && request.fields[i] != "" && request.fields[i] != "0")
+            return; // no link at all
+    }
+    if (!Store_IsNumber(*request.kind, 0, number) || links.size() > REGION_COUNT)
+        return;
+    Register& r = Store_Register(*request.kind, 0, number);
+    if (r.is_locked)
+        return Log_Note("locked: %s %d", request.kind->word, number);
+    if (!r.exists)
+        r.name = request.kind->new_name + std::to_string(number);
+    r.exists = true;
+    r.links = links;
+    Store_SetCurrent(*request.kind, 0, number);
+    Store_Show(*request.kind, 0, number);
 }
 
 // --- Verbs on a run of registers ---
@@ -312,9 +198,8 @@ static void verb_dissolve(const Request& request)
         if (!r.exists || r.is_locked)
             return;
         r.has_dissolve = is_true_at(q, 2);
-        r.effect.has_dissolve = r.has_dissolve;
         if (q.fields.size() > 3)
-            r.dissolve_frames = number_at(q, 3);
+            r.duration = number_at(q, 3);
     });
 }
 
@@ -330,7 +215,7 @@ static void verb_duration(const Request& request)
 {
     for_registers(request, [](Register& r, const Request& q) {
         if (r.exists && !r.is_locked)
-            r.dissolve_frames = number_at(q, 2);
+            r.duration = number_at(q, 2);
     });
 }
 
@@ -347,6 +232,14 @@ static void verb_hold(const Request& request)
     for_registers(request, [](Register& r, const Request& q) {
         if (r.exists && !r.is_locked && q.fields[2].size() <= HOLD_BYTES)
             r.hold = q.fields[2] == "false" ? "" : q.fields[2];
+    });
+}
+
+static void verb_auto_run(const Request& request)
+{
+    for_registers(request, [](Register& r, const Request& q) {
+        if (r.exists && !r.is_locked)
+            r.is_auto_run = is_true_at(q, 2);
     });
 }
 
@@ -408,6 +301,11 @@ static Register& register_at(const Request& request, const Place& place)
     return Store_Register(*request.kind, place.row, place.number);
 }
 
+static bool is_sub(const Kind& kind, int row)
+{
+    return kind.kind != STORE_KEY && row >= REGION_ME1_SUB && row < REGION_USER1;
+}
+
 static void two_runs(const Request& request, bool is_source_emptied, bool is_swapped)
 {
     const bool keeps_name = is_true_at(request, request.kind->has_mask ? 4 : 3);
@@ -420,6 +318,9 @@ static void two_runs(const Request& request, bool is_source_emptied, bool is_swa
         const bool is_source_held = (is_source_emptied || is_swapped) && sources[i].is_locked;
         if (target.is_locked || is_source_held || (!sources[i].exists && !is_swapped))
             continue;
+        if (request.is_corrected && !is_sub(*request.kind, pairs[i].from.row) &&
+            is_sub(*request.kind, pairs[i].to.row))
+            sources[i].hold = Store_HoldWithoutBackground(sources[i].hold);
         if (is_source_emptied)
             put_register(request, pairs[i].from, {}, false);
         if (is_swapped)
@@ -483,6 +384,7 @@ static constexpr StoreVerb verbs[] = {
     {"Duration", 3, verb_duration},
     {"GPI", 3, verb_gpi},
     {"Xpt Hold", 3, verb_hold},
+    {"Auto Run", 3, verb_auto_run},
     {"Register Status", 0, verb_status},
 };
 
@@ -528,6 +430,35 @@ static bool put_auto_play(const std::string& tail, const std::string& value)
     return false;
 }
 
+// "...Link@M/E-1" with number and what it links: "12" an effect, "S12" a snapshot, "" nothing.
+static bool put_link(const std::string& region_name, const std::string& value)
+{
+    const Kind& kind = Store_Kind(STORE_SHOTBOX);
+    const int region = Region_ByName(region_name);
+    Request request;
+    request.fields = Text_Split(value, ',');
+    const int number = number_at(request, 0);
+    if (request.fields.size() != 2 || region < 0 || region >= SHOTBOX_LINKS ||
+        !Store_IsNumber(kind, 0, number) || Store_Register(kind, 0, number).is_locked)
+        return false;
+    const bool is_snapshot = Text_Begins(request.fields[1], "S");
+    if (is_snapshot)
+        request.fields[1].erase(0, 1);
+    const int row = is_snapshot ? Store_SnapshotRow(region) : region;
+    const Kind& linked = Store_Kind(is_snapshot ? STORE_SNAPSHOT : STORE_EFFECT);
+    const int link = number_at(request, 1);
+    if (link != 0 && (row < 0 || row >= linked.rows || !Store_IsNumber(linked, row, link)))
+        return false;
+    Register& r = Store_Register(kind, 0, number);
+    r.links.resize(SHOTBOX_LINKS);
+    r.links[size_t(region)] = is_snapshot ? -link : link;
+    if (!r.exists && link != 0)
+        r.name = kind.new_name + std::to_string(number);
+    r.exists = r.exists || link != 0;
+    Store_Show(kind, 0, number);
+    return false;
+}
+
 static const Kind* kind_of_path(const std::string& path)
 {
     if (path == "Master@Effect@Recall@Recall")
@@ -538,7 +469,16 @@ static const Kind* kind_of_path(const std::string& path)
     return nullptr;
 }
 
-static void put_command(const Kind& kind, const std::string& path, const std::string& value)
+// "Effect@Effect@Move@MP2 Auto Correct" stands beside the command, or below it.
+static bool is_corrected(const std::string& path)
+{
+    for (const std::string& group : {path, path.substr(0, path.rfind('@'))})
+        if (const Node* node = Tree_Find(group + "@MP2 Auto Correct"))
+            return node->value == "true";
+    return false;
+}
+
+void Store_Command(const Kind& kind, const std::string& path, const std::string& value)
 {
     const std::string word = path.substr(path.rfind('@') + 1);
     Request request;
@@ -546,6 +486,9 @@ static void put_command(const Kind& kind, const std::string& path, const std::st
     request.rows = {0};
     request.fields = Text_Split(value, ',');
     request.is_edit = path.find("@Edit@") != std::string::npos;
+    request.is_corrected = is_corrected(path);
+    if (request.is_edit && word == "Store")
+        return verb_store_links(request);
     if (kind.has_mask) {
         request.rows = rows_of_field(kind, request.fields[0]);
         request.fields.erase(request.fields.begin());
@@ -566,7 +509,9 @@ bool Store_Put(const std::string& path, const std::string& value)
         return put_all_delete(path.substr(ALL_DELETE.size()), value);
     if (Text_Begins(path, CLIP_EVENT))
         return put_auto_play(path.substr(CLIP_EVENT.size()), value);
+    if (Text_Begins(path, SHOTBOX_LINK))
+        return put_link(path.substr(SHOTBOX_LINK.size()), value);
     if (const Kind* kind = kind_of_path(path))
-        put_command(*kind, path, value);
+        Store_Command(*kind, path, value);
     return false;
 }

@@ -2,6 +2,7 @@
 #pragma once
 #include "timeline.h"
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -23,14 +24,17 @@ struct Register {
     bool is_locked = false;
     std::string name;
     Effect effect;
-    std::map<std::string, std::string> values; // of a snapshot: path and value
-    int pattern = 0;                           // of a wipe or DME wipe
-    std::string hold;                          // buses that a snapshot leaves alone
-    int dissolve_frames = 0;
-    bool has_dissolve = false; // of a snapshot; an effect has its own
+    // What it brings back: value by path behind the region's own words, so that a copy is at home
+    // in another region. Of an effect how its first keyframe looks.
+    std::map<std::string, std::string> values;
+    int pattern = 0;  // of a wipe or DME wipe
+    std::string hold; // buses that a snapshot leaves alone
+    int duration = 0; // frames, of dissolve and automatic transition
+    bool has_dissolve = false;
     bool has_auto_transition = false;
     bool has_gpi = false;
-    std::vector<int> links; // of a master or a shotbox: a register for each region, 0 none
+    // Of a master or a shotbox: a register for each region, 0 none; below 0 a shotbox's snapshot.
+    std::vector<int> links;
     bool is_auto_run = false;
 };
 
@@ -47,6 +51,8 @@ struct Kind {
 };
 
 constexpr size_t NAME_BYTES = 11;
+constexpr int SHOTBOX_LINKS = 44; // regions from 0 on, the router the last
+inline const std::string KEY_RECALL_MODE = "Snapshot@Key Snapshot@Attribute@Recall Mode";
 
 const Kind& Store_Kind(StoreKind kind);
 // The values that a row's registers keep stand below this path; empty: it keeps none.
@@ -67,8 +73,23 @@ void Store_SetCurrent(const Kind& kind, int row, int number); // the last recall
 int Store_Current(const Kind& kind, int row);                 // 0: none
 void Store_SetAutoPlay(int user, int sub_region, int number, bool on); // of a clip event; from 0
 
+int Store_SnapshotRow(int region);                      // -1: it has no snapshots
+std::string Store_FittingName(const std::string& name); // as it stands in a list line
+
 void Store_Stock(); // fill the empty rows with what is there at the start
 
 // --- What commands and console do; a locked register is left as it is ---
 void Store_Recall(const Kind& kind, int row, int number);
+// A panel's put to a path of the kind.
+void Store_Command(const Kind& kind, const std::string& path, const std::string& value);
+std::string Store_MaskText(const Kind& kind, int row); // as a command names the row
 void Store_StoreRegister(const Kind& kind, int row, int number, const std::string& name);
+
+// --- What a recall leaves alone ---
+struct Left {
+    std::set<std::string> held;         // ends of paths; all below them, too
+    std::vector<std::string> key_modes; // of a key: "true" where a part comes back
+};
+Left Store_LeftAlone(const Kind& kind, int row, const Register& r);
+bool Store_IsLeftAlone(const Left& left, const std::string& tail);
+std::string Store_HoldWithoutBackground(const std::string& hold); // as fits a sub side

@@ -78,15 +78,15 @@ static const struct {
     StoreKind kind;
     const char* row;
     int number;
-    const char* path;
+    const char* tail;
     const char* value;
 } stock_values[] = {
-    {STORE_SNAPSHOT, "M/E-1", 1, "M/E-1@Key1@Type@Key Type", "Linear"},
-    {STORE_SNAPSHOT, "M/E-1", 1, "M/E-1@Key1@Type@Key Type@Linear@Clip", "20.00"},
-    {STORE_SNAPSHOT, "M/E-1", 2, "M/E-1@Key1@Type@Key Type", "Wipe Pattern"},
-    {STORE_SNAPSHOT, "M/E-1", 10, "M/E-1@Key1@Type@Key Type", "Chroma"},
-    {STORE_SNAPSHOT, "M/E-1", 10, "M/E-1@Key1@Type@Key Type@Chroma@Hue", "120.00"},
-    {STORE_KEY, "M/E-1@Key1", 2, "M/E-1@Key1@Type@Key Type", "Color Vector"},
+    {STORE_SNAPSHOT, "M/E-1", 1, "@Key1@Type@Key Type", "Linear"},
+    {STORE_SNAPSHOT, "M/E-1", 1, "@Key1@Type@Key Type@Linear@Clip", "20.00"},
+    {STORE_SNAPSHOT, "M/E-1", 2, "@Key1@Type@Key Type", "Wipe Pattern"},
+    {STORE_SNAPSHOT, "M/E-1", 10, "@Key1@Type@Key Type", "Chroma"},
+    {STORE_SNAPSHOT, "M/E-1", 10, "@Key1@Type@Key Type@Chroma@Hue", "120.00"},
+    {STORE_KEY, "M/E-1@Key1", 2, "@Type@Key Type", "Color Vector"},
 };
 
 // What wipes and DME wipes hold: a pattern and one setting beside it.
@@ -168,19 +168,18 @@ void Store_Stock()
     }
     for (const auto& s : stock_values)
         Store_Register(Store_Kind(s.kind), Store_RowOfName(Store_Kind(s.kind), s.row), s.number)
-            .values[s.path] = s.value;
+            .values[s.tail] = s.value;
     for (const auto& s : stock_patterns) {
         const Kind& kind = Store_Kind(s.kind);
         const int row = Store_RowOfName(kind, s.row);
-        const std::string path = Store_KeptPath(kind, row);
         Register& r = Store_Register(kind, row, s.number);
         r.pattern = s.pattern;
-        r.values[path + Store_PatternTail(kind)] = std::to_string(s.pattern);
-        r.values[path + s.tail] = s.value;
+        r.values[Store_PatternTail(kind)] = std::to_string(s.pattern);
+        r.values[s.tail] = s.value;
     }
     Register& weather = Store_Register(Store_Kind(STORE_SNAPSHOT), REGION_ME1, 10);
     weather.hold = "AB12U1";
-    weather.dissolve_frames = 30;
+    weather.duration = 30;
     weather.has_dissolve = true;
     stock_links();
 }

@@ -1,4 +1,5 @@
 #include "system.h"
+#include "dissolve.h"
 #include "dme_channels.h"
 #include "file_job.h"
 #include "frame_memory.h"
@@ -266,6 +267,7 @@ void System_Install()
     Store_Install();
     FrameMemory_Install();
     Transition_Install();
+    Dissolve_Install();
     Dme_Install();
     Rules_Install();
 }

@@ -23,8 +23,7 @@ struct Effect {
     int delay = 0;
     int loop_first = 0; // keyframes from 1; 0: no loop
     int loop_last = 0;
-    int loop_count = 0; // passes, 0: endless
-    bool has_dissolve = false;
+    int loop_count = 0;          // passes, 0: endless
     int duration() const;        // from the first keyframe to the end
     int position(int key) const; // of a keyframe from 1, from the first keyframe on
 };

@@ -208,6 +208,18 @@ static void take_next(Run* run, const std::string& bank)
             {priority + "Key Priority", value_of(priority + "Next Key Priority")});
 }
 
+void Transition_Start(const std::string& bank, int frames)
+{
+    Run run;
+    run.trigger = bank + "@Misc@Transition@Auto Trans";
+    if (is_running(run.trigger))
+        return;
+    run.position = bank + POSITION;
+    run.frames = frames;
+    take_next(&run, bank);
+    start(run);
+}
+
 static void start_bank(const std::string& trigger, const std::string& bank, bool is_cut)
 {
     Run run;

@@ -8,6 +8,8 @@
 void Transition_Install(); // nothing runs
 // A panel's put. True: it starts or ends something here, and the values are shown.
 bool Transition_Put(const std::string& path, const std::string& value);
+// Start the next transition of a bank ("M/E-1", "M/E-1 SUB"), unless one is under way.
+void Transition_Start(const std::string& bank, int frames);
 int64_t Transition_Tick(int64_t now); // returns the time of the next frame
 // What is on the air is neither stored in a key's group nor reset with it.
 bool Transition_IsState(const std::string& path);

@@ -263,28 +263,26 @@ static std::string safe_name(std::string name)
 
 static void write_effect(const Effect& effect, std::string* text)
 {
-    *text += Text_Format("effect %d,%d,%d,%d,%d\n", effect.delay, effect.loop_first,
-                         effect.loop_last, effect.loop_count, int(effect.has_dissolve));
+    *text += Text_Format("effect %d,%d,%d,%d\n", effect.delay, effect.loop_first, effect.loop_last,
+                         effect.loop_count);
     for (const Keyframe& key : effect.keys)
         *text += Text_Format("key %d,%d\n", key.duration, int(key.has_pause));
 }
 
-// Values stand without the region's own words: the file may come back to another region.
-static std::string write_register(const Kind& kind, int row, const Register& r)
+static std::string write_register(const Kind& kind, const Register& r)
 {
     std::string text = Text_Format("register %s\nname %s\nlocked %d\n", kind.word, r.name.c_str(),
                                    int(r.is_locked));
     text += Text_Format("pattern %d\nhold %s\ndissolve %d,%d\nauto %d,%d,%d\n", r.pattern,
-                        r.hold.c_str(), int(r.has_dissolve), r.dissolve_frames,
-                        int(r.has_auto_transition), int(r.has_gpi), int(r.is_auto_run));
+                        r.hold.c_str(), int(r.has_dissolve), r.duration, int(r.has_auto_transition),
+                        int(r.has_gpi), int(r.is_auto_run));
     std::string links;
     for (const int link : r.links)
         links += Text_Format(links.empty() ? "%d" : ",%d", link);
     text += "links " + links + "\n";
     write_effect(r.effect, &text);
-    const size_t head = Store_KeptPath(kind, row).size();
-    for (const auto& [path, value] : r.values)
-        text += "value " + path.substr(head) + "#" + value + "\n";
+    for (const auto& [tail, value] : r.values)
+        text += "value " + tail + "#" + value + "\n";
     return text;
 }
 
@@ -301,8 +299,18 @@ static std::vector<int> numbers_of(const std::string& text)
     return numbers;
 }
 
-static void read_line(const std::string& word, const std::string& rest, const std::string& kept,
-                      Register& r)
+static std::vector<int> links_of(const std::string& text)
+{
+    std::vector<int> links;
+    for (const std::string& part : Text_Split(text, ',')) {
+        long number = 0;
+        const bool is_link = Text_ToInt(part, &number) && std::abs(number) < 1000;
+        links.push_back(is_link ? int(number) : 0);
+    }
+    return links;
+}
+
+static void read_line(const std::string& word, const std::string& rest, Register& r)
 {
     const auto n = numbers_of(rest);
     if (word == "name") {
@@ -315,27 +323,26 @@ static void read_line(const std::string& word, const std::string& rest, const st
         r.hold = rest;
     } else if (word == "dissolve") {
         r.has_dissolve = n[0];
-        r.dissolve_frames = n[1];
+        r.duration = n[1];
     } else if (word == "auto") {
         r.has_auto_transition = n[0];
         r.has_gpi = n[1];
         r.is_auto_run = n[2];
     } else if (word == "links") {
-        r.links = n;
+        r.links = links_of(rest);
     } else if (word == "effect") {
         r.effect.delay = n[0];
         r.effect.loop_first = n[1];
         r.effect.loop_last = n[2];
         r.effect.loop_count = std::min(n[3], LOOPS_MAX);
-        r.effect.has_dissolve = n[4];
     } else if (word == "key" && r.effect.keys.size() < TIMELINE_KEYFRAMES) {
         r.effect.keys.push_back({std::min(n[0], KEYFRAME_FRAMES), n[1] != 0});
     } else if (word == "value" && rest.find('#') != std::string::npos) {
-        r.values[kept + rest.substr(0, rest.find('#'))] = rest.substr(rest.find('#') + 1);
+        r.values[rest.substr(0, rest.find('#'))] = rest.substr(rest.find('#') + 1);
     }
 }
 
-static bool read_register(const Kind& kind, int row, const std::string& bytes, Register* r)
+static bool read_register(const Kind& kind, const std::string& bytes, Register* r)
 {
     const auto lines = Text_Split(bytes, '\n');
     if (lines[0] != std::string("register ") + kind.word)
@@ -343,7 +350,7 @@ static bool read_register(const Kind& kind, int row, const std::string& bytes, R
     for (const std::string& line : lines) {
         const size_t blank = line.find(' ');
         if (blank != std::string::npos)
-            read_line(line.substr(0, blank), line.substr(blank + 1), Store_KeptPath(kind, row), *r);
+            read_line(line.substr(0, blank), line.substr(blank + 1), *r);
     }
     const int keys = int(r->effect.keys.size());
     if (r->effect.loop_last > keys)
@@ -412,8 +419,8 @@ bool UnitFile_Make(HostKind host, int unit, const UnitFile& file, std::string* b
             return false;
         const Register& r = Store_Register(kind, row, file.number);
         if (r.exists)
-            *bytes = kind.kind == STORE_MACRO ? write_macro(unit, file, r)
-                                              : write_register(kind, row, r);
+            *bytes =
+                kind.kind == STORE_MACRO ? write_macro(unit, file, r) : write_register(kind, r);
         return r.exists;
     }
     const ValueSet* const values = value_set(file);
@@ -439,8 +446,8 @@ static std::string load_register(const RegisterSet& set, int row, int unit, cons
     if (r.is_locked)
         return "NG(Locked)";
     Register loaded;
-    const bool is_sound = kind.kind == STORE_MACRO ? read_macro(bytes, &loaded)
-                                                   : read_register(kind, row, bytes, &loaded);
+    const bool is_sound =
+        kind.kind == STORE_MACRO ? read_macro(bytes, &loaded) : read_register(kind, bytes, &loaded);
     if (!is_sound)
         return "NG(File Type Error)";
     if (kind.kind == STORE_MACRO)

@@ -3,6 +3,8 @@
 usage: sim_store_test.py BUILD_DIR [TEST...]
 """
 
+import time
+
 import sim_test
 from sim_effect_test import ME1, StreamTest
 from sim_test import SimTest
@@ -75,9 +77,9 @@ class Commands(StoreTest):
         one, two = EFFECTS + "M/E-1", EFFECTS + "M/E-2"
         self.follow(one, two)
         self.assertEqual(self.put("Effect@Effect@Rename@Rename", MASK["both"] + ",1,CUT,IN TWELVE CHARS"),
-                         [f"{one}#1,S,CUT,U,N,180", f"{two}#1,S,CUT,U,N,120"])
+                         [f"{one}#1,S,CUT,U,N,0", f"{two}#1,S,CUT,U,N,0"])
         told = self.put("Effect@Effect@Lock@Lock", MASK["both"] + ",1,4,true")
-        self.assertEqual(told, [f"{one}#1,S,CUT,L,N,180", f"{one}#2,S,SLIDE IN,L,N,90", f"{two}#1,S,CUT,L,N,120"])
+        self.assertEqual(told, [f"{one}#1,S,CUT,L,N,0", f"{one}#2,S,SLIDE IN,L,N,0", f"{two}#1,S,CUT,L,N,0"])
         self.assertEqual(self.put("Effect@Effect@Rename@Rename", MASK["M/E-1"] + ",1,LOCKED"), [])
         self.assertEqual(self.put("Effect@Effect@Delete@Delete", MASK["both"] + ",1,99"), [])
         self.put("Effect@Effect@Lock@Lock", MASK["M/E-1"] + ",1,1,false")
@@ -107,20 +109,86 @@ class Commands(StoreTest):
             return [{number: row[2] for number, row in one.items() if row[1] == "S"} for one in rows]
         first = {1: "OPENING", 2: "SLIDE IN", 3: "LOGO LOOP", 99: "BLACK"}
         self.assertEqual(names(), [first, {1: "OPENING"}])
+        for number, frames in ((1, 45), (2, 15)):
+            self.put("Effect@Effect@Attribute@Effect Dissolve", f"{MASK['M/E-1']},{number},{number},true,{frames}")
         self.put("Effect@Effect@Copy/Merge@Copy", f"{MASK['M/E-1']},1,3,{MASK['M/E-2']},2,false")
         copied = {1: "OPENING", 2: "OPENING", 3: "SLIDE IN", 4: "LOGO LOOP"}
         self.assertEqual(names(), [first, copied])
         self.put("Effect@Effect@Copy/Merge@Copy", f"{MASK['M/E-2']},2,3,{MASK['M/E-2']},3,true")
         self.assertEqual(names()[1], copied)  # without the names; source and target overlap
-        self.assertEqual([self.rows(lists[1])[n][5] for n in (2, 3, 4)], ["180", "180", "90"])
+        self.assertEqual([self.rows(lists[1])[n][4:] for n in (2, 3, 4)], [["D", "45"], ["D", "45"], ["D", "15"]])
         self.put("Effect@Effect@Move@Move", f"{MASK['M/E-1']},1,3,{MASK['M/E-2']},10,false")
         self.assertEqual(names(), [{3: "LOGO LOOP", 99: "BLACK"}, {**copied, 10: "OPENING", 11: "SLIDE IN"}])
+        self.put("Effect@Effect@Swap@Swap", f"{MASK['M/E-1']},1,2,{MASK['M/E-2']},10,false")
+        self.assertEqual(names(), [{1: "OPENING", 2: "SLIDE IN", **first}, copied])
+        self.put("Effect@Effect@Copy/Merge@Copy", "M/E-1,1,1,M/E-2,20,false")  # a region by its name
+        self.assertEqual(names()[1], {**copied, 20: "OPENING"})
+
+    def test_a_copy_is_at_home_in_its_new_region(self):
+        self.put(KEY_TYPE, "kept")
+        self.put("Snapshot@Snapshot@Store", "2,30,HERE")
+        self.put("Snapshot@Snapshot@Copy", "2,30,30,4,31,false")
+        self.put(KEY_TYPE, "new")
+        self.follow(KEY_TYPE, KEY_TYPE.replace("M/E-1", "M/E-2"))
+        self.assertEqual(self.put("Snapshot@Snapshot@Recall", "4, 31"), [KEY_TYPE.replace("M/E-1", "M/E-2") + "#kept"])
+
+    def test_a_copy_to_the_sub_side_loses_its_background_when_it_is_corrected(self):
+        sub = SNAPSHOTS + "M/E-1 Sub@List"
+        for corrected, hold in (("false", "AB12U1"), ("true", "12U1")):
+            self.put("Snapshot@Snapshot@Copy@MP2 Auto Correct", corrected)
+            self.put("Snapshot@Snapshot@Copy", "2,10,10,1000000,40,false")
+            self.assertEqual(self.rows(sub)[40][3], hold)
+
+    def test_every_attribute_is_kept_and_a_locked_register_keeps_its_own(self):
+        attribute = "Snapshot@Snapshot@Attribute@"
+        puts = ((attribute + "Xpt Hold", "A1U2"), (attribute + "Effect Dissolve", "true"), (attribute + "Duration", "40"),
+                (attribute + "Auto Transition", "true"), (attribute + "GPI", "1"))
+        for path, value in puts:
+            self.put(path, f"2,1,2,{value}")  # the second is locked
+        self.put("Snapshot@Snapshot@Store", "2,1")
+        rows = self.rows(SNAPSHOTS + "M/E-1@List")
+        self.assertEqual(rows[1], ["1", "TWO SHOT", "S", "A1U2", "40", "40", "1"])
+        self.assertEqual(rows[2], ["2", "WIDE", "L", "", "n", "n", "n"])
+        self.put("Snapshot@Snapshot@UnLock", "2,1,2")
+        for path, value in ((puts[0][0], "false"), (puts[1][0], "false"), (puts[3][0], "false"), (puts[4][0], "null")):
+            self.put(path, f"2,1,2,{value}")
+        self.assertEqual(self.rows(SNAPSHOTS + "M/E-1@List")[1], ["1", "TWO SHOT", "S", "", "n", "n", "n"])
+
+    def test_what_another_panel_does_is_told_to_this_list_only(self):
+        one, sub, master = SNAPSHOTS + "M/E-1@List", SNAPSHOTS + "M/E-1 Sub@List", MASTERS + "List"
+        self.follow(one, sub, master, SNAPSHOTS + "M/E-2@List", EFFECTS + "M/E-1")
+        empty = ["1,,E,,n,n,n", "3,,E,,n,n,n"]
+        cases = (("store snapshot 3 M/E-1 FIRST NIGHT", [f"{one}#3,FIRST NIGHT,S,,n,n,n"]),
+                 ("lock snapshot 1-3 M/E-1", [f"{one}#1,TWO SHOT,L,,n,n,n", f"{one}#3,FIRST NIGHT,L,,n,n,n"]),
+                 ("delete snapshot 1-9 M/E-1", []), ("rename snapshot 3 M/E-1 LOCKED", []),
+                 ("unlock snapshot 1-3 M/E-1", [f"{one}#1,TWO SHOT,S,,n,n,n", f"{one}#2,WIDE,S,,n,n,n",
+                                                f"{one}#3,FIRST NIGHT,S,,n,n,n"]),
+                 ("rename snapshot 3 M/E-1 LATE", [f"{one}#3,LATE,S,,n,n,n"]),
+                 ("copy snapshot 3 M/E-1 8 M/E-1 Sub", [f"{sub}#8,LATE,S,,n,n,n"]),
+                 ("copy snapshot 1 M/E-1 8 M/E-1 Sub noname", []),
+                 ("swap snapshot 8 M/E-1Sub 2 M/E-1", [f"{sub}#8,WIDE,S,,n,n,n", f"{one}#2,LATE,S,,n,n,n"]),
+                 ("delete snapshot 1-3 M/E-1", [f"{one}#{empty[0]}", f"{one}#2,,E,,n,n,n", f"{one}#{empty[1]}"]),
+                 ("rename mastersnapshot 1 DAWN", [f"{master}#1,DAWN,S,U,1,1,,,,1" + "," * 24]))
+        for command, told in cases:
+            self.do("panel " + command)
+            self.wait_for_log("console: panel " + command)
+            self.assertEqual(self.other.sync(), told, command)
+
+    def test_a_master_is_edited_without_its_regions(self):
+        self.follow(MASTERS + "List", MASTERS + "Current Register", KEY_TYPE)
+        self.assertEqual(self.put(MASTERS + "Edit@Recall", "1"), [MASTERS + "Current Register#1"])
+        self.assertEqual(self.put(MASTERS + "Edit@Store", "3,,7,,,,12"),
+                         [MASTERS + "Current Register#3", f"{MASTERS}List#3,MSS3,S,U,,7,,,,12" + "," * 24])
+        self.assertEqual(self.put(MASTERS + "Edit@Store", "2,5"), [])  # locked
+        self.assertEqual(self.put(MASTERS + "Recall", "1"), [KEY_TYPE + "#Linear", MASTERS + "Current Register#1"])
+
     def test_rubbish_changes_nothing(self):
         self.do("list effect", "list snapshot", "list mastersnapshot")
         self.wait_for_log("console: list mastersnapshot")
         for path in ("Effect@Effect@Delete@Delete", "Effect@Effect@Copy/Merge@Copy", "Effect@Effect@Rename@Rename",
                      "Snapshot@Snapshot@Lock", "Effect@Effect@Swap@Swap", "Effect@Effect@Copy/Merge@Merge",
-                     "Snapshot@Master Snapshot@Delete", "Snapshot@Snapshot@Attribute@Duration"):
+                     "Snapshot@Master Snapshot@Delete", "Snapshot@Snapshot@Attribute@Duration",
+                     "Shotbox@Register@Attribute@Link@M/E-1", MASTERS + "Edit@Store"):
             for value in ("", ",", "FFFFFFFFFFFFFFFF", "FFFFFFFFFFFFFFFF,", "FFFFFFFFFFFFFFFF,5,1",
                           "FFFFFFFFFFFFFFFF,-1,-5,6", "FFFFFFFFFFFFFFFF,a,b,c,d,e,f,g", ",,,,,,", "1,99999999999,1,1"):
                 self.put(path, value)
@@ -162,6 +230,99 @@ class Recall(StoreTest, StreamTest):
         told = self.put("Snapshot@Snapshot@Recall", "2, 20")
         self.assertEqual(sorted(told), sorted([f"{KEY_TYPE}#old", "M/E-1@Late#"]))
         self.assertEqual(self.put("Snapshot@Snapshot@Recall", "2, 21"), [])
+
+    def test_what_is_under_hold_stays(self):
+        xpt = "@Status@Xpt Assign@"
+        cases = (("M/E-1", "2", "A1D2", [f"M/E-1{xpt}A", "M/E-1@Key1@Free", "M/E-1@Key1@Type@Signal Select@Fill", f"M/E-1{xpt}DME2"],
+                  [f"M/E-1{xpt}B", "M/E-1@Key2@Free", "M/E-1@Key12@Free", f"M/E-1{xpt}UTIL1"]),
+                 ("P/P", "1", "3U1", ["PGM/PST@DSK3@Free", f"PGM/PST{xpt}UTIL1"], ["PGM/PST@DSK1@Free", f"PGM/PST{xpt}A"]),
+                 ("User2", "80", "8000000000000001", [f"User2{xpt}Bus32", f"User2{xpt}Bus33"], [f"User2{xpt}Bus1"]),
+                 ("RTR", "400000", "0081", [f"Router{xpt}Dest2@Level1", f"Router{xpt}Dest2@Level8"], [f"Router{xpt}Dest1@Level1"]),
+                 ("DME1", "4000", "FvFkBvBk", [f"DME{xpt}Fv"], ["DME@Free"]))
+        for region, mask, hold, held, free in cases:
+            for path in held + free:
+                self.put(path, "old")
+            self.put("Snapshot@Snapshot@Store", mask + ",60")
+            self.put("Snapshot@Snapshot@Attribute@Xpt Hold", f"{mask},60,60,{hold}")
+            for path in held + free:
+                self.put(path, "new")
+            self.follow(*held, *free)
+            self.assertEqual(sorted(self.put("Snapshot@Snapshot@Recall", mask + ", 60")),
+                             sorted(path + "#old" for path in free), region)
+
+    def test_a_key_brings_back_what_its_recall_mode_says(self):
+        key = "M/E-1@Key4@"
+        parts = key + "Edge@Free", key + "Transition@Free", key + "Type@Signal Select@Fill"
+        for path in parts:
+            self.put(path, "old")
+        self.put("Snapshot@Key Snapshot@Store", "8,1")
+        self.follow(*parts)
+        for mode in ("true,true,true", "true,false,false", "false,true,false", "false,false,true"):
+            self.put("Snapshot@Key Snapshot@Attribute@Recall Mode", "M/E-1@Key4," + mode)
+            for path in parts:
+                self.put(path, "new")
+            self.assertEqual(sorted(self.put("Snapshot@Key Snapshot@Recall", "8, 1")),
+                             [path + "#old" for path, back in zip(parts, mode.split(",")) if back == "true"], mode)
+
+    def test_a_dissolve_moves_numbers_in_the_temporary_duration(self):
+        number, word = "M/E-1@Wipe@Main Pattern@Pattern", "M/E-1@Word"
+        for path, value in ((number, "100"), (word, "old")):
+            self.put(path, value)
+        self.put("Snapshot@Snapshot@Store", "2,70")
+        self.put("Snapshot@Snapshot@Attribute@Effect Dissolve", "2,70,70,true")
+        self.put("Snapshot@Snapshot@Attribute@Duration", "2,70,70,900")
+        self.put("Snapshot@Snapshot@Attribute@M/E-1@Temporary Duration", "6")
+        self.put(number, "10")
+        self.put(word, "new")
+        self.follow(number, word)
+        self.text.send("put Snapshot@Snapshot@Recall#2, 70")
+        told = self.other.until(f"{number}#100")
+        self.assertEqual(told.pop(0), f"{word}#old")
+        way = [int(line.partition("#")[2]) for line in told]
+        self.assertGreater(len(way), 2)
+        self.assertEqual(way, sorted(set(way)))
+        self.put(number, "10")
+        self.text.send("put Snapshot@Snapshot@Recall#2, 70", f"put {number}#200")  # who turns it meanwhile has it
+        self.other.until(f"{number}#200")
+        time.sleep(0.3)
+        self.assertEqual(self.other.sync(), [])
+
+    def test_an_auto_transition_follows_the_recall(self):
+        preset = "M/E-1@Status@Xpt Assign@B"
+        self.put(preset, "CAM7")
+        self.put("Snapshot@Snapshot@Store", "2,71")
+        self.put("Snapshot@Snapshot@Attribute@Auto Transition", "2,71,71,true")
+        self.put("Snapshot@Snapshot@Attribute@Duration", "2,71,71,3")
+        self.put(preset, "CAM2")
+        self.follow(preset, "M/E-1@Status@Xpt Assign@A", "M/E-1@Misc@Transition@Auto Trans")
+        self.text.send("put Snapshot@Snapshot@Recall#2, 71")
+        self.assertEqual(self.other.until("M/E-1@Misc@Transition@Auto Trans#false"),
+                         [f"{preset}#CAM7", "M/E-1@Misc@Transition@Auto Trans#true", "M/E-1@Status@Xpt Assign@A#CAM7",
+                          f"{preset}#CAM1", "M/E-1@Misc@Transition@Auto Trans#false"])
+
+    def test_a_shotbox_recalls_an_effect_or_a_snapshot_for_each_region(self):
+        shots, link = "Shotbox@Register@Store/Recall@List", "Shotbox@Register@Attribute@Link@"
+        self.follow(shots)
+        for region, what, told in (("M/E-1", "5,2", "2"), ("M/E-2", "5,S1", "2,S1"), ("M/E-1", "5,", ",S1"), ("M/E-1", "5,S1", "S1,S1"),
+                                   ("RTR", "5,1", None), ("M/E-1", "5,S100", None), ("M/E-1", "2,1", None)):
+            row = f"5,SHOT5,U,,{told}"
+            lines = self.put(link + region, what)
+            self.assertEqual([line.rstrip(",") for line in lines], [f"{shots}#{row}"] if told else [], what)
+        self.put(link + "P/P", "5,2")
+        self.put("Shotbox@Register@Attribute@Auto Run", "5,5,true")
+        self.follow(KEY_TYPE, "M/E-2@Free", EFFECTS + "P/P")
+        self.put("M/E-2@Free", "new")
+        told = self.put("Shotbox@Register@Store/Recall@Recall", "5")
+        self.assertEqual(told, [f"{KEY_TYPE}#Linear", "M/E-2@Free#"])
+        self.do("timelines")
+        self.assertRegex(self.output(), "P/P selected #2 CREDITS KF [0-9]+/8 frame [0-9]+/175 running")
+
+    def test_an_effect_brings_back_how_its_region_looked(self):
+        self.put(KEY_TYPE, "old")
+        self.put("Effect@Effect@Store@Store", MASK["M/E-1"] + ",30")
+        self.put(KEY_TYPE, "new")
+        self.follow(KEY_TYPE)
+        self.assertEqual(self.put("Effect@Effect@Recall@Recall", MASK["M/E-1"] + ", 30"), [KEY_TYPE + "#old"])
 
     def test_the_console_stores_recalls_and_lists_by_words(self):
         self.do("store snapshot M/E-1 Sub 5 SUB SHOT", "store key M/E-1@Key3 2 K THREE", "store macro 9",
