@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cctype>
 #include <map>
+#include <set>
 
 namespace
 {
@@ -677,12 +678,15 @@ void UnitFile_PrepareGet(const std::string& word, HostKind host, int unit)
             const std::string name = unit_name(held.file);
             const std::string error =
                 Drive_Write(work_folder(owner, word, host, unit) + name, bytes);
-            // Panels name it with the register's name or without.
-            lines += result_line(name, error);
-            const std::string safe = safe_name(held.file.name);
-            lines += result_line(safe + "." + name, error);
-            if (safe != held.file.name)
-                lines += result_line(held.file.name + "." + name, error);
+            // Panels name it with the register's name or without, a setting, which has none, also
+            // by its category.
+            const std::string& held_name = held.file.name;
+            std::set<std::string> spellings = {name, safe_name(held_name) + "." + name,
+                                               held_name + "." + name};
+            if (held_name.empty())
+                spellings.insert(word + "." + name);
+            for (const std::string& spelling : spellings)
+                lines += result_line(spelling, error);
         }
     write_results(word, host, unit, lines);
 }
