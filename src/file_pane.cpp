@@ -8,6 +8,7 @@
 #include "page.h"
 #include "pane.h"
 #include "text.h"
+#include <cstring>
 #include <iterator>
 
 #include "safeguards.h"
@@ -177,6 +178,29 @@ void file_pane_append_line(QUEUE* job, const char* text)
     char line[CMD_SIZE];
     PrintText(line, "%s\n", text);
     file_pane_append(job, line);
+}
+
+bool file_pane_failures(const QUEUE* job, char* text, size_t size)
+{
+    constexpr size_t LAST_LINE = 40;
+    int left_out = 0;
+    text[0] = '\0';
+    for (const FILEXFERLIST* item = *job->xferlist; item && item->job == job; item = item->next) {
+        if (item->status != FILESTATUS_NG)
+            continue;
+        char line[sizeof item->mesg + 1];
+        PrintText(line, "%s\n", item->mesg);
+        if (left_out == 0 && strlen(text) + strlen(line) + LAST_LINE < size)
+            ktr_strncat(text, line, size);
+        else
+            left_out++;
+    }
+    if (left_out > 0) {
+        char line[LAST_LINE];
+        PrintText(line, "and %d more.\n", left_out);
+        ktr_strncat(text, line, size);
+    }
+    return text[0] != '\0';
 }
 
 void file_pane_lamp(QUEUE* job, int lamp)

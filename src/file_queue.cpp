@@ -20,6 +20,8 @@ uint32_t LabelID = 1;
 FILEXFERLIST* NullXfer = nullptr;
 char FileCmd[CMD_SIZE];
 
+static constexpr size_t FAILURES_SIZE = 4096; // of the text about a job that went wrong
+
 // Labels follow each other, and so do a server's work numbers: the low bits spread them evenly.
 static constexpr uint32_t BUCKETS = 4096;
 static FILEXFERLIST* by_label[BUCKETS];
@@ -241,13 +243,16 @@ void file_tell(const QUEUE* job, const void* cx, const void* dx)
 }
 
 // A callback may end the job, empty its list or give it another pane: nothing of it is trusted
-// across a call.
+// across a call. The pane goes with its lines: what went wrong is told once more, until the
+// operator has seen it.
 void file_finish(QUEUE* job)
 {
     const uint32_t label = job->label;
     const FILEWORKTYPE type = job->worktype;
     FILEXFERLIST** list = job->xferlist;
     int pane = job->paneid;
+    char failures[FAILURES_SIZE];
+    const bool has_failed = pane != 0 && file_pane_failures(job, failures, sizeof failures);
     if (job->retfunc.list)
         job->retfunc.list(label, job->tag);
     SendMessage(LMSG_FILESTATUS, type, int(label), Arg(list), 0);
@@ -258,6 +263,9 @@ void file_finish(QUEUE* job)
         (void)Pane_Quit(pane); // gone when the operator cancelled
     queue_remove(label);
     file_wake_thumbnails(type);
+    const char* title = file_work(type)->pane;
+    if (has_failed)
+        (void)PaneMessage_Create(title ? title : "Transfer", PANE_ALERT, failures);
 }
 
 // --- Commands ---

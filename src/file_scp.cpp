@@ -356,11 +356,22 @@ static void request(const Scp& s, int param, const char* value)
                              shp_paramname[param], scp_is_cs(s) ? "::" : ":", value);
 }
 
+// The operator sees for whom the job waits.
+static void wait_for_holder(const Scp& s)
+{
+    s.cat.status = FILE_CATEGORY_STATUS_WAIT_NON;
+    if (!s.cat.queue || is_nobody(s.cat.userid) || scp_is_mine(s))
+        return;
+    char text[TEXT_AND_NAME];
+    PrintText(text, "%s of %s is used by %s.", s.cat.name, s.target.target, s.cat.userid);
+    scp_show_progress(s.cat.queue, text);
+}
+
 static void file_send_request_usrid(const Scp& s)
 {
     const bool is_free = is_nobody(s.cat.userid) || scp_is_mine(s);
     if (s.target.connect == FILE_DISCONNECT || !is_free) {
-        s.cat.status = FILE_CATEGORY_STATUS_WAIT_NON;
+        wait_for_holder(s);
         return;
     }
     // What this unit held before counts for nothing: the answer is to be news.
@@ -611,7 +622,7 @@ static void take_holder(const Scp& s, const char* holder)
         if (is_mine)
             hold(s);
         else if (!is_nobody(holder))
-            s.cat.status = FILE_CATEGORY_STATUS_WAIT_NON;
+            wait_for_holder(s);
     } else if (s.cat.status == FILE_CATEGORY_STATUS_WAIT_USER_CANCEL && is_mine) {
         scp_release(s);
     }

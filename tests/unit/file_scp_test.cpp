@@ -1,4 +1,5 @@
 #include "file_page.h"
+#include "pane_private.h"
 #include <cstdlib>
 
 #define WORK "/vorn/tmp/file/"
@@ -208,7 +209,12 @@ TEST_F(FileRemote, WhatCannotBeginFailsAtOnce)
     EXPECT_EQ(lines, "a.SST: NG([ERROR] Server Not Ready.);b.SST: NG([ERROR] Internal Error.);"
                      "c.SST: NG([ERROR] Internal Error.);");
     EXPECT_EQ(list, nullptr);
-    EXPECT_EQ(Pane_GetActiveID(), 0);
+    PANE* pane = pane_find(Pane_GetActiveID()); // until the operator has read it
+    ASSERT_NE(pane, nullptr);
+    EXPECT_EQ(pane->type, TYPE_MESSAGE);
+    EXPECT_STREQ(pane_text_in_view(pane), "a.SST: NG([ERROR] Server Not Ready.)\n"
+                                          "b.SST: NG([ERROR] Internal Error.)\n"
+                                          "c.SST: NG([ERROR] Internal Error.)\n");
 }
 
 TEST_F(FileRemote, AnotherUserIsWaitedFor)
@@ -218,6 +224,9 @@ TEST_F(FileRemote, AnotherUserIsWaitedFor)
     File_TransSCPdirGetList(&list, List, 0);
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_NON);
     EXPECT_THAT(HubSent(), IsEmpty());
+    const PANE* pane = pane_find(Pane_GetActiveID());
+    ASSERT_NE(pane, nullptr);
+    EXPECT_STREQ(pane->each.progress.progmes, "SETUP of SWR1 is used by PANEL7.");
     Notify("SETUP.USER_ID:Non");
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
     Notify("SETUP.USER_ID:PANEL8"); // was quicker
