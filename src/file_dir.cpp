@@ -218,14 +218,16 @@ int File_DirRead(int drive, void (*done)(int tag), int tag)
 
 // --- Choosing ---
 
-static int device_pane(int drives, int selected)
+int File_DrivePane(int drives, int selected)
 {
+    static constexpr const char* captions[FILE_DRIVES] = {"Register", "Local\nDrive",
+                                                          "Removable\nDrive", "Network"};
     BTNSEL cells[FILE_DRIVES];
     int n = 0;
     for (int drive = 0; drive < FILE_DRIVES; drive++)
         if (drives & 1 << drive)
-            cells[n++] = {drive + 1, File_DriveCaption(drive), drive == selected};
-    return n > 0 ? PaneSelect_Create(1, n, cells) : 0;
+            cells[n++] = {drive + 1, captions[drive], drive == selected};
+    return n > 0 ? PanePopup_Create(1, n, cells) : 0;
 }
 
 static int dir_pane(const FILESIDE& side, int drive)
@@ -270,7 +272,7 @@ int FileSelect_Device(FILESIDE* side, int drives, void (*chosen)(int tag), int t
 {
     choice_turn++;
     choice = {.side = side, .chosen = chosen, .tag = tag};
-    choice.pane = device_pane(drives, side->device);
+    choice.pane = File_DrivePane(drives, side->device);
     if (choice.pane == 0)
         choice = {};
     return choice.side ? 0 : -1;

@@ -44,12 +44,18 @@ struct FILESIDE {
     char dir[FILE_DIR_SIZE] = "SYSTEM"; // without meaning for the registers
 };
 
-// Let the operator choose a drive and then a directory of it, or with FileSelect_Dir a directory of
-// the drive that the side has. drives has a bit (1 << FILEDRIVE) for each that is offered. side is
-// written and chosen called when the choice is whole; until then, and after "Cancel", it is as it
-// was. The side must live until the page is left. 0, or -1 when there is nothing to choose.
+// Drives that are offered: a bit (1 << FILEDRIVE) each.
 constexpr int FILE_DRIVES_ALL = 0x0F;
 constexpr int FILE_DRIVES_DISK = 0x0E;
+
+// The pane of the drives, the selected one marked. Its result is the FILEDRIVE + 1, 0 "Cancel". 0
+// when none is offered.
+int File_DrivePane(int drives, int selected);
+
+// Let the operator choose a drive and then a directory of it, or with FileSelect_Dir a directory of
+// the drive that the side has. side is written and chosen called when the choice is whole; until
+// then, and after "Cancel", it is as it was. The side must live until the page is left. 0, or -1
+// when there is nothing to choose.
 int FileSelect_Device(FILESIDE* side, int drives, void (*chosen)(int tag), int tag);
 int FileSelect_Dir(FILESIDE* side, void (*chosen)(int tag), int tag);
 // Every page that opens a choice forwards its messages here. 1 when the message was one of ours.

@@ -15,8 +15,8 @@
 #include "safe_file.h"
 #include "tally_value.h"
 #include "window.h"
+#include <algorithm>
 #include <cerrno>
-#include <iterator>
 #include <unistd.h>
 
 #include "safeguards.h"
@@ -30,9 +30,6 @@ constexpr int LIST = 1;
 constexpr int COLUMN_NAME = 0;
 constexpr int COLUMN_DATE = 1;
 constexpr int COLUMN_PROTECT = 2;
-
-constexpr BTNSEL drive_keys[] = {
-    {FILE_LOCAL, "Local\nDrive"}, {FILE_REMOVABLE, "Removable\nDrive"}, {FILE_NETWORK, "Network"}};
 
 // How a directory is marked in the list, by DIRINFO's protect.
 constexpr const char* DirProtectStr[] = {"", "_CL_Lock"};
@@ -101,9 +98,7 @@ static void listing_ended(int drive)
         return;
     dp.is_listing = false;
     show_rows();
-    const int row = File_DirFind(DevDirectory, dp.chosen);
-    if (row >= 0)
-        LS_SetNowLine(LIST, row);
+    LS_SetNowLine(LIST, std::max(0, File_DirFind(DevDirectory, dp.chosen)));
     enable_keys();
 }
 
@@ -125,13 +120,13 @@ static void show_drive()
 
 static void choose_device()
 {
-    dp.device_pane = PanePopup_Create(1, int(std::size(drive_keys)), drive_keys);
+    dp.device_pane = File_DrivePane(FILE_DRIVES_DISK, DevDirectory);
 }
 
 static void take_device(int device)
 {
     if (device < FILE_LOCAL || device > FILE_NETWORK)
-        return; // "Cancel"
+        return;
     DevDirectory = device;
     dp.chosen[0] = '\0';
     LS_ClearData(LIST);
@@ -304,7 +299,7 @@ static int directory_pane_closed(int pane, int result)
         return 0;
     if (pane == dp.device_pane) {
         dp.device_pane = 0;
-        take_device(result);
+        take_device(result - 1); // of "Cancel" no drive
     } else if (pane == dp.question_pane) {
         constexpr int yes = 1;
         dp.question_pane = 0;

@@ -219,14 +219,14 @@ class Desk:
             return f.read()
 
     def wire(self):
-        """The lines that the application has sent since the last call."""
+        """The lines that the application has sent to the server since the last call; not those to the hub."""
         try:
             with open(self.sim_log, encoding="latin-1") as f:
                 lines = f.read().split("\n")[:-1]
         except FileNotFoundError:
             return []
         new, self.seen = lines[self.seen:], len(lines)
-        return [m[1] for m in (re.match(r".*?< (.*)", line) for line in new) if m]
+        return [m[1] for m in (re.match(r".*?< (?!hub )(.*)", line) for line in new) if m]
 
     def wait_wire(self, text, timeout=3.0):
         """All lines up to now, once one of them is text; fails the assertion when it does not come."""
