@@ -263,7 +263,9 @@ void Store_SetAutoPlay(int user, int sub_region, int number, bool on)
 void Store_SetCurrent(const Kind& kind, int row, int number)
 {
     sr.current[kind.kind][size_t(row)] = number;
-    if (kind.kind == STORE_MASTER_EFFECT || kind.kind == STORE_MASTER_SNAPSHOT)
+    const bool is_told = kind.kind == STORE_MASTER_EFFECT || kind.kind == STORE_MASTER_SNAPSHOT ||
+                         kind.kind == STORE_SHOTBOX;
+    if (is_told)
         Tree_Show(std::string(kind.commands) + "Store/Recall@Current Register",
                   std::to_string(number));
 }

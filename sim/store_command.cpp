@@ -143,30 +143,54 @@ static void verb_rename(const Request& request)
     }
 }
 
-// Of a master that is edited: number, and the links in the order of the regions, none where a field
-// is empty. Without them it links what each region has just now.
+// What a register links of a region: "12" an effect or what the master is of, "S12" a shotbox's
+// snapshot, "" or "0" nothing. False: the region has no such register.
+static bool link_of_field(const Kind& kind, int region, const std::string& field, int* link)
+{
+    const bool is_snapshot = kind.kind == STORE_SHOTBOX && Text_Begins(field, "S");
+    const StoreKind of =
+        is_snapshot || kind.kind == STORE_MASTER_SNAPSHOT ? STORE_SNAPSHOT : STORE_EFFECT;
+    const int row = is_snapshot ? Store_SnapshotRow(region) : region;
+    long number = 0;
+    const bool is_number = Text_ToInt(field.substr(is_snapshot), &number);
+    *link = is_snapshot ? -int(number) : int(number);
+    if (field.empty() || (is_number && number == 0))
+        return true;
+    return is_number && number < 1000 && row >= 0 && row < Store_Kind(of).rows &&
+           Store_IsNumber(Store_Kind(of), row, int(number));
+}
+
+// False: it is locked, or has never been there and would link nothing.
+static bool put_links(const Kind& kind, int number, const std::vector<int>& links)
+{
+    Register& r = Store_Register(kind, 0, number);
+    const bool links_nothing =
+        std::all_of(links.begin(), links.end(), [](int n) { return n == 0; });
+    if (r.is_locked || (!r.exists && links_nothing))
+        return false;
+    if (!r.exists)
+        r.name = kind.new_name + std::to_string(number);
+    r.exists = true;
+    r.links = links;
+    Store_Show(kind, 0, number);
+    return true;
+}
+
+// Of a register that is edited: number, and the links in the order of the regions. Without them it
+// links what each region has just now.
 static void verb_store_links(const Request& request)
 {
     const int number = number_at(request, 0);
     if (request.fields.size() < 2)
         return verb_store(request);
-    std::vector<int> links;
-    for (size_t i = 1; i < request.fields.size(); ++i) {
-        links.push_back(number_at(request, i));
-        if (links.back() == 0 && request.fields[i] != "" && request.fields[i] != "0")
-            return; // no link at all
-    }
-    if (!Store_IsNumber(*request.kind, 0, number) || links.size() > REGION_COUNT)
+    std::vector<int> links(request.fields.size() - 1);
+    for (size_t i = 0; i < links.size(); ++i)
+        if (!link_of_field(*request.kind, int(i), request.fields[i + 1], &links[i]))
+            return Log_Note("no link: %s", request.fields[i + 1].c_str());
+    if (!Store_IsNumber(*request.kind, 0, number))
         return;
-    Register& r = Store_Register(*request.kind, 0, number);
-    if (r.is_locked)
-        return Log_Note("locked: %s %d", request.kind->word, number);
-    if (!r.exists)
-        r.name = request.kind->new_name + std::to_string(number);
-    r.exists = true;
-    r.links = links;
-    Store_SetCurrent(*request.kind, 0, number);
-    Store_Show(*request.kind, 0, number);
+    if (put_links(*request.kind, number, links))
+        Store_SetCurrent(*request.kind, 0, number);
 }
 
 // --- Verbs on a run of registers ---
@@ -430,7 +454,7 @@ static bool put_auto_play(const std::string& tail, const std::string& value)
     return false;
 }
 
-// "...Link@M/E-1" with number and what it links: "12" an effect, "S12" a snapshot, "" nothing.
+// "...Link@M/E-1" with number and what it links.
 static bool put_link(const std::string& region_name, const std::string& value)
 {
     const Kind& kind = Store_Kind(STORE_SHOTBOX);
@@ -438,24 +462,14 @@ static bool put_link(const std::string& region_name, const std::string& value)
     Request request;
     request.fields = Text_Split(value, ',');
     const int number = number_at(request, 0);
+    int link = 0;
     if (request.fields.size() != 2 || region < 0 || region >= SHOTBOX_LINKS ||
-        !Store_IsNumber(kind, 0, number) || Store_Register(kind, 0, number).is_locked)
+        !Store_IsNumber(kind, 0, number) || !link_of_field(kind, region, request.fields[1], &link))
         return false;
-    const bool is_snapshot = Text_Begins(request.fields[1], "S");
-    if (is_snapshot)
-        request.fields[1].erase(0, 1);
-    const int row = is_snapshot ? Store_SnapshotRow(region) : region;
-    const Kind& linked = Store_Kind(is_snapshot ? STORE_SNAPSHOT : STORE_EFFECT);
-    const int link = number_at(request, 1);
-    if (link != 0 && (row < 0 || row >= linked.rows || !Store_IsNumber(linked, row, link)))
-        return false;
-    Register& r = Store_Register(kind, 0, number);
-    r.links.resize(SHOTBOX_LINKS);
-    r.links[size_t(region)] = is_snapshot ? -link : link;
-    if (!r.exists && link != 0)
-        r.name = kind.new_name + std::to_string(number);
-    r.exists = r.exists || link != 0;
-    Store_Show(kind, 0, number);
+    std::vector<int> links = Store_Register(kind, 0, number).links;
+    links.resize(SHOTBOX_LINKS);
+    links[size_t(region)] = link;
+    (void)put_links(kind, number, links); // the list tells
     return false;
 }
 

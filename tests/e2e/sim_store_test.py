@@ -178,7 +178,7 @@ class Commands(StoreTest):
         self.follow(MASTERS + "List", MASTERS + "Current Register", KEY_TYPE)
         self.assertEqual(self.put(MASTERS + "Edit@Recall", "1"), [MASTERS + "Current Register#1"])
         self.assertEqual(self.put(MASTERS + "Edit@Store", "3,,7,,,,12"),
-                         [MASTERS + "Current Register#3", f"{MASTERS}List#3,MSS3,S,U,,7,,,,12" + "," * 24])
+                         [f"{MASTERS}List#3,MSS3,S,U,,7,,,,12" + "," * 24, MASTERS + "Current Register#3"])
         self.assertEqual(self.put(MASTERS + "Edit@Store", "2,5"), [])  # locked
         self.assertEqual(self.put(MASTERS + "Recall", "1"), [KEY_TYPE + "#Linear", MASTERS + "Current Register#1"])
 
@@ -308,6 +308,9 @@ class Recall(StoreTest, StreamTest):
             row = f"5,SHOT5,U,,{told}"
             lines = self.put(link + region, what)
             self.assertEqual([line.rstrip(",") for line in lines], [f"{shots}#{row}"] if told else [], what)
+        edit = "Shotbox@Register@Store/Recall@Edit@Store"
+        self.assertEqual(self.put(edit, "5,,S999"), [])
+        self.assertEqual([line.rstrip(",") for line in self.put(edit, "6,,S3,12")], [f"{shots}#6,SHOT6,U,,,S3,12"])
         self.put(link + "P/P", "5,2")
         self.put("Shotbox@Register@Attribute@Auto Run", "5,5,true")
         self.follow(KEY_TYPE, "M/E-2@Free", EFFECTS + "P/P")
