@@ -25,8 +25,9 @@ constexpr int CAPTION_SIZE = 40;
 
 // Of a kind: outlives the page.
 struct Visits {
+    bool is_begun = false; // until then the sides are those of the kind
     FileMemory a = {};
-    FileMemory b = {.side = {.device = FILE_LOCAL}};
+    FileMemory b = {};
     FileMemory c = {};
     FILEXFERLIST* list = nullptr; // being put together, or of the job that runs
 };
@@ -550,11 +551,22 @@ static int leave()
     return 0;
 }
 
+static void begin_visits(const FileKind& kind)
+{
+    Visits& v = visits[kind.page];
+    if (v.is_begun)
+        return;
+    v.is_begun = true;
+    v.a.side.device = kind.left;
+    v.b.side.device = kind.right;
+}
+
 static int open(uint32_t page, bool is_detail)
 {
     if (page >= FILEPAGES)
         return -1;
     fd = {.kind = &file_kinds[page], .is_detail = is_detail};
+    begin_visits(*fd.kind);
     BA_SetRegionGrp(FileKind_Group(*fd.kind));
     Register_StatusReport(1);
     if (!is_detail && has_patch_link(*fd.kind))

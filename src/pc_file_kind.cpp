@@ -115,6 +115,16 @@ static uint64_t mask_of_key(int id)
     return row < 0 ? 0 : uint64_t(1) << row;
 }
 
+static uint64_t mask_of_panel(int)
+{
+    return 1;
+}
+// The bit of the macros in the commands of their registers, not that of their effects.
+static uint64_t mask_of_macro(int)
+{
+    return 0x0000100000000000;
+}
+
 // --- Registers ---
 
 static constexpr FileRegisters effects = {REGISTER_EFFECT, Register_Exist_Effect,
@@ -166,21 +176,24 @@ static constexpr int NOT_TOLD = -1; // no message tells of it
 static constexpr FileRegisters menu_macros = {NOT_TOLD, exist_menu_macro, lock_menu_macro,
                                               name_menu_macro, row_of_panel};
 
-static constexpr FileCommands effect_commands = {"put Effect@Effect@Rename@Rename#%s,%d,%s",
-                                                 "put Effect@Effect@Delete@Delete#%s,%d,%d",
-                                                 mask_of_effect, true};
-static constexpr FileCommands snapshot_commands = {"put Snapshot@Snapshot@Rename#%s,%d,%s",
-                                                   "put Snapshot@Snapshot@Delete#%s,%d,%d",
-                                                   mask_of_snapshot, false};
-static constexpr FileCommands wipe_commands = {"put Snapshot@Wipe Snapshot@Rename#%s,%d,%s",
-                                               "put Snapshot@Wipe Snapshot@Delete#%s,%d,%d",
-                                               mask_of_snapshot, false};
-static constexpr FileCommands dme_commands = {"put Snapshot@DME Snapshot@Rename#%s,%d,%s",
-                                              "put Snapshot@DME Snapshot@Delete#%s,%d,%d",
-                                              mask_of_snapshot, false};
-static constexpr FileCommands key_commands = {"put Snapshot@Key Snapshot@Rename#%s,%d,%s",
-                                              "put Snapshot@Key Snapshot@Delete#%s,%d,%d",
-                                              mask_of_key, true};
+static constexpr FileCommands effect_commands = {"put Effect@Effect@Rename@Rename",
+                                                 "put Effect@Effect@Delete@Delete", mask_of_effect,
+                                                 MASK_WIDE};
+static constexpr FileCommands snapshot_commands = {
+    "put Snapshot@Snapshot@Rename", "put Snapshot@Snapshot@Delete", mask_of_snapshot, MASK_SHORT};
+static constexpr FileCommands wipe_commands = {"put Snapshot@Wipe Snapshot@Rename",
+                                               "put Snapshot@Wipe Snapshot@Delete",
+                                               mask_of_snapshot, MASK_SHORT};
+static constexpr FileCommands dme_commands = {"put Snapshot@DME Snapshot@Rename",
+                                              "put Snapshot@DME Snapshot@Delete", mask_of_snapshot,
+                                              MASK_SHORT};
+static constexpr FileCommands key_commands = {
+    "put Snapshot@Key Snapshot@Rename", "put Snapshot@Key Snapshot@Delete", mask_of_key, MASK_WIDE};
+static constexpr FileCommands shotbox_commands = {
+    "put Shotbox@Register@Rename", "put Shotbox@Register@Delete", mask_of_panel, MASK_NONE};
+static constexpr FileCommands macro_commands = {"put Macro@Register@Rename@Rename",
+                                                "put Macro@Register@Delete@Delete", mask_of_macro,
+                                                MASK_WIDE};
 
 constexpr FileKind file_kinds[FILEPAGES] = {
     {.page = FILEPAGE_SETUP, .id = 0x71120000, .grp = 0},
@@ -233,8 +246,16 @@ constexpr FileKind file_kinds[FILEPAGES] = {
      .grp = 19,
      .registers = &key_snapshots,
      .commands = &key_commands},
-    {.page = FILEPAGE_SHOTBOX, .id = 0x71410000, .grp = 20, .registers = &shotboxes},
-    {.page = FILEPAGE_MACRO, .id = 0x71420000, .grp = 21, .registers = &macros},
+    {.page = FILEPAGE_SHOTBOX,
+     .id = 0x71410000,
+     .grp = 20,
+     .registers = &shotboxes,
+     .commands = &shotbox_commands},
+    {.page = FILEPAGE_MACRO,
+     .id = 0x71420000,
+     .grp = 21,
+     .registers = &macros,
+     .commands = &macro_commands},
     {.page = FILEPAGE_MACROATC, .id = 0x71430000, .grp = 22},
     {.page = FILEPAGE_MENU_MACRO,
      .id = 0x71440000,
@@ -243,7 +264,13 @@ constexpr FileKind file_kinds[FILEPAGES] = {
      .way = FILEWAY_MACRO},
     {.page = FILEPAGE_FNAMEDATA, .id = 0x71530000, .grp = 40, .way = FILEWAY_PLAIN},
     {.page = FILEPAGE_XPTSRCNAME, .id = 0x71740000, .grp = 42, .way = FILEWAY_PLAIN},
-    {.page = FILEPAGE_IMPORTSRCNAME, .id = 0x71750000, .grp = 42, .way = FILEWAY_PLAIN},
+    // The names as on the page before; here they come from a stick.
+    {.page = FILEPAGE_IMPORTSRCNAME,
+     .id = 0x71750000,
+     .grp = 42,
+     .way = FILEWAY_PLAIN,
+     .left = FILE_REMOVABLE,
+     .right = FILE_REGISTER},
 };
 
 static constexpr bool KindsAreSound()
@@ -277,12 +304,14 @@ int FileKind_Register(const FileKind& kind, int region_id, int no, char* name, i
 
 // --- Commands ---
 
+// With the comma behind it; empty where there is none.
 static void print_mask(const FileCommands& commands, uint64_t mask, char (&text)[20])
 {
-    if (commands.is_wide)
-        PrintText(text, "%08X%08X", unsigned(mask >> 32), unsigned(mask & 0xFFFFFFFF));
-    else
-        PrintText(text, "%X", unsigned(mask));
+    text[0] = '\0';
+    if (commands.form == MASK_WIDE)
+        PrintText(text, "%08X%08X,", unsigned(mask >> 32), unsigned(mask & 0xFFFFFFFF));
+    else if (commands.form == MASK_SHORT)
+        PrintText(text, "%X,", unsigned(mask));
 }
 
 static int number_of(const FileKind& kind, int no)
@@ -296,7 +325,7 @@ void FileKind_Rename(const FileKind& kind, uint64_t mask, int no, const char* na
     if (!kind.commands || mask == 0)
         return;
     print_mask(*kind.commands, mask, text);
-    Net_SendCommandFormat(kind.commands->rename, text, number_of(kind, no), name);
+    Net_SendCommandFormat("%s#%s%d,%s", kind.commands->rename, text, number_of(kind, no), name);
 }
 
 void FileKind_Delete(const FileKind& kind, uint64_t mask, int no)
@@ -306,5 +335,5 @@ void FileKind_Delete(const FileKind& kind, uint64_t mask, int no)
         return;
     print_mask(*kind.commands, mask, text);
     const int number = number_of(kind, no);
-    Net_SendCommandFormat(kind.commands->remove, text, number, number);
+    Net_SendCommandFormat("%s#%s%d,%d", kind.commands->remove, text, number, number);
 }

@@ -38,12 +38,14 @@ struct FileRegisters {
     int (*row)(int region_id); // of the mirror; -1: not kept
 };
 
-// How the running system is told; regions is the mask of those that are meant.
+// How the running system is told. The values: the mask of the regions that are meant, where there
+// is one, and number and name, or the number twice.
+enum FILEMASK : int { MASK_NONE, MASK_SHORT, MASK_WIDE }; // "%X", or 64 bits as "%08X%08X"
 struct FileCommands {
-    const char* rename; // mask, number, name
-    const char* remove; // mask, number twice
-    uint64_t (*mask)(int region_id);
-    bool is_wide; // a mask of 64 bits, "%08X%08X"
+    const char* rename;
+    const char* remove;
+    uint64_t (*mask)(int region_id); // 0: the region has none of these registers
+    FILEMASK form;
 };
 
 enum FILEWAY : int {
@@ -60,6 +62,8 @@ struct FileKind {
     const FileRegisters* registers = nullptr; // null: one setting, always there
     const FileCommands* commands = nullptr;   // null: renamed and deleted on drives only
     FILEWAY way = FILEWAY_RESERVED;
+    int left = FILE_REGISTER; // FILEDRIVE of the sides until the operator has chosen
+    int right = FILE_LOCAL;
 };
 extern const FileKind file_kinds[FILEPAGES];
 

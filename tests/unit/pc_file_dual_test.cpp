@@ -239,6 +239,9 @@ TEST_F(FileDualPage, EveryFamilyHasItsOwnCommands)
          "put Snapshot@DME Snapshot@Delete#1,3,3"},
         {FILEPAGE_KEYSS, 559, "put Snapshot@Key Snapshot@Rename#0000800000000000,3,N",
          "put Snapshot@Key Snapshot@Delete#0000800000000000,3,3"},
+        {FILEPAGE_SHOTBOX, 0, "put Shotbox@Register@Rename#3,N", "put Shotbox@Register@Delete#3,3"},
+        {FILEPAGE_MACRO, 0, "put Macro@Register@Rename@Rename#0000100000000000,3,N",
+         "put Macro@Register@Delete@Delete#0000100000000000,3,3"},
     };
     for (const auto& c : cases) {
         const FileKind& kind = file_kinds[c.page];
