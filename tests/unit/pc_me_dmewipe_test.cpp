@@ -409,6 +409,26 @@ TEST_F(MeDmeWipe, ABankWithoutItsWipeHasDeadKeys)
     }
 }
 
+// Cells of the list and registers of the snapshots are no buttons with a row of their own.
+TEST_F(MeDmeWipe, ASideWithoutItsWipeTakesNoTouch)
+{
+    for (const uint32_t page : {0x16610000u, 0x16670000u})
+        for (const int is_set_up : {0, 1}) {
+            SYS_DWSubEnable = is_set_up;
+            GL_MEAssign[3] = 2;
+            GL_MainSubAssign[3] = 2; // both sides
+            Open(page);
+            size_t puts = 0;
+            for (int y = 80; y < 520; y += 40)
+                for (int x = 120; x < 690; x += 48) {
+                    puts += Puts(Touch(x, y)).size();
+                    SendMessage(MSG_RELEASE, x, y, 0, 0);
+                    Pass(200);
+                }
+            EXPECT_EQ(puts > 0, is_set_up) << std::hex << page;
+        }
+}
+
 TEST_F(MeDmeWipe, A4To3CropNeedsAPictureThatIsWider)
 {
     const char *const me1 = "M/E-1@DME Wipe", *const pp = "PGM/PST@DME Wipe";

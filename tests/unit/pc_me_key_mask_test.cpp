@@ -1,5 +1,6 @@
 // The mask pages of a key: what a utility bus carries, and where the pattern is chosen.
 #include "table_page.h"
+#include "window.h"
 
 using KeyMaskPages = TablePage;
 
@@ -42,6 +43,17 @@ TEST_F(KeyMaskPages, ThePatternIsOpenOnlyWhileItIsTheMask)
                     {mask + "#" + c.is_on, std::string("Mask Source#") + c.source});
             EXPECT_EQ(Disabled().contains(37), c.disabled) << mask << c.is_on << c.source;
         }
+}
+
+TEST_F(KeyMaskPages, TheListOfSourcesOpensOnlyWhileThereIsAMask)
+{
+    for (const char* is_on : {"false", "true"}) {
+        Open(0x13430000);
+        Tell(std::string("M/E-3@Key4@Main Mask@Main Mask#") + is_on);
+        (void)Press(38);
+        EXPECT_EQ(GetWindow() != 0, *is_on == 't') << is_on;
+        CloseWindow();
+    }
 }
 
 // The pattern of a sub mask is that of the main bank's wipe, also for the keys of the sub side.
