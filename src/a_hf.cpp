@@ -6,6 +6,7 @@
 #include "graphics.h"
 #include "log.h"
 #include "message.h"
+#include "tab_list.h"
 #include "tab_status.h"
 #include "tdl.h"
 #include <algorithm>
@@ -37,23 +38,9 @@ struct HF_MEM {
 };
 } // namespace
 
-static HF_MEM Tab[HF_MAX];
-static int TabMax = 0;
+static TabList<HF_MEM, HF_MAX> Tabs;
 static int Selected = 0;
 static bool IsLow = false;
-
-static std::span<HF_MEM> tabs()
-{
-    return {Tab, size_t(TabMax)};
-}
-
-static HF_MEM* find_tab(int id)
-{
-    for (HF_MEM& t : tabs())
-        if (t.id == id)
-            return &t;
-    return nullptr;
-}
 
 static std::span<TabStatus> stats(HF_MEM& t)
 {
@@ -71,7 +58,7 @@ static void send_paths(const char* verb)
 {
     static_assert(HF_MAX * HF_STATUS <= PATH_SET_MAX);
     PathSet met;
-    for (HF_MEM& t : tabs())
+    for (HF_MEM& t : TabList_All(Tabs))
         for (const TabStatus& s : stats(t))
             TabStatus_Send(met, s, verb);
 }
@@ -79,7 +66,7 @@ static void send_paths(const char* verb)
 int HF_Follows(const char* path)
 {
     const uint32_t hash = Hash(path);
-    for (HF_MEM& t : tabs())
+    for (HF_MEM& t : TabList_All(Tabs))
         for (const TabStatus& s : stats(t))
             if (TabStatus_Follows(s, path, hash))
                 return 1;
@@ -91,7 +78,6 @@ static void fill_tab(HF_MEM& t, const HF_TBL& row)
     t.id = row.id;
     t.caption = row.caption;
     t.page = row.page;
-    t.redraw = t.display = 1;
     t.stats = 0;
     for (const char* statcmd : row.statcmd)
         if (TabStatus_Set(t.stat[t.stats], statcmd))
@@ -101,30 +87,20 @@ static void fill_tab(HF_MEM& t, const HF_TBL& row)
 int HF_Create(const HF_TBL* table, uint32_t selected)
 {
     send_paths("remove");
-    TabMax = 0;
+    Tabs.count = 0;
     if (!table)
         return 1;
     IsLow = (selected & HF_LOW) != 0;
     Selected = int(selected & ~HF_LOW);
-    for (const HF_TBL* row = table; row->id >= 1; row++) {
-        if (TabMax == HF_MAX) {
-            Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for HF Objects!!\n");
-            break;
-        }
-        fill_tab(Tab[TabMax++], *row);
-    }
+    if (!TabList_Fill(Tabs, table, fill_tab))
+        Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for HF Objects!!\n");
     send_paths("add");
     return 0;
 }
 
 int HF_SetDisplay(int id, int on)
 {
-    HF_MEM* t = find_tab(id);
-    if (!t)
-        return -1;
-    t->display = on != 0;
-    t->redraw = 1;
-    return 0;
+    return TabList_SetDisplay(Tabs, id, on);
 }
 
 static int press(int x, int y)
@@ -132,7 +108,7 @@ static int press(int x, int y)
     const Rect area = {MIN_X, form().y, MIN_X + HF_MAX * PITCH - 1, BOTTOM};
     if (!Inside(area, x, y) || BA_IsDefaultButton())
         return 0;
-    const HF_MEM* t = find_tab((x - MIN_X) / PITCH + 1);
+    const HF_MEM* t = TabList_Find(Tabs, (x - MIN_X) / PITCH + 1);
     if (t && t->display && t->page)
         GL_CreatePage = t->page;
     return 0;
@@ -148,7 +124,7 @@ static bool is_active(HF_MEM& t)
 
 static int tally(const char* path, const char* value, uint32_t hash)
 {
-    for (HF_MEM& t : tabs())
+    for (HF_MEM& t : TabList_All(Tabs))
         for (TabStatus& s : stats(t)) // a path may stand there several times
             if (TabStatus_Tally(s, path, value, hash))
                 t.redraw = 1;
@@ -165,7 +141,6 @@ static void draw_bar(int x)
 
 static void draw(HF_MEM& t)
 {
-    t.redraw = 0;
     if (t.id > HF_MAX)
         return;
     const Form f = form();
@@ -180,18 +155,10 @@ static void draw(HF_MEM& t)
     TDL_UpdateRect(x, f.y, x + 85, BOTTOM);
 }
 
-static int redraw()
-{
-    for (HF_MEM& t : tabs())
-        if (t.redraw)
-            draw(t);
-    return 0;
-}
-
 int HF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: return redraw();
+    case MSG_REDRAW: return TabList_Redraw(Tabs, draw);
     case MSG_PRESS: return press(int(ax), int(bx));
     case MSG_TALLY: return tally(Text(ax), Text(bx), uint32_t(cx));
     default: return 0;

@@ -14,6 +14,7 @@
 #include "text.h"
 #include "window.h"
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <iterator>
 #include <span>
@@ -277,6 +278,13 @@ template <typename T> static void take(KP_MEM& r, T& old, T value)
     r.redraw = 1;
 }
 
+// "nan" is no number that could be shown, and never the one of before.
+static double spline_of(const char* value)
+{
+    const double number = strtod(value, nullptr);
+    return std::isfinite(number) ? number : 0;
+}
+
 static void tally_row(KP_MEM& r, const char* rest, const char* value)
 {
     for (int cell = 0; cell < CELLS; cell++)
@@ -284,7 +292,7 @@ static void tally_row(KP_MEM& r, const char* rest, const char* value)
             take(r, r.value[cell], choice_of(r, cell, value));
     for (int i = 0; i < SPLINES; i++)
         if (Same(spline_columns[i].path, rest))
-            take(r, r.spline[i], strtod(value, nullptr));
+            take(r, r.spline[i], spline_of(value));
 }
 
 static int tally(const char* path, const char* value)

@@ -29,7 +29,7 @@ static_assert(TOP + PS_CELLS / PS_COLUMNS * CELL_H <= LAYER_TOP);
 constexpr int SPLIT_SHARED = 2; // boards that are split finer share their pattern generators
 
 struct Cell {
-    SDL_Surface* picture = nullptr; // owned
+    SDL_Surface* picture = nullptr; // owned; null where the start has loaded it for all
     int redraw = 0;
 };
 } // namespace
@@ -76,6 +76,25 @@ static void free_pictures()
     ps.cells = 0;
 }
 
+// An effect may step through the layers with every picture: what is loaded already is not read
+// again. It is looked up when it is drawn, since it may be replaced.
+static SDL_Surface* picture_of(const Cell& c, int number)
+{
+    return c.picture ? c.picture : G_WipePtn[number];
+}
+
+static void load_picture(Cell& c, int number)
+{
+    c.picture = nullptr;
+    if (G_WipePtn[number])
+        return;
+    char path[PATH_SIZE];
+    PrintText(path, "graphics/ptn/%d.bmp", number);
+    c.picture = TDL_LoadBmp(path);
+    if (!c.picture)
+        Log_Output(LOG_ALWAYS, MOD_PAGE, "Can't load pattern: %s\n", path);
+}
+
 static void load_layer(int layer)
 {
     free_pictures();
@@ -83,13 +102,8 @@ static void load_layer(int layer)
     ps.layer = layer;
     ps.cells = l.last - l.first + 1;
     ps.redraw_all = true;
-    for (int i = 0; i < ps.cells; i++) {
-        char path[PATH_SIZE];
-        PrintText(path, "graphics/ptn/%d.bmp", l.first + i);
-        ps.cell[i].picture = TDL_LoadBmp(path);
-        if (!ps.cell[i].picture)
-            Log_Output(LOG_ALWAYS, MOD_PAGE, "Can't load pattern: %s\n", path);
-    }
+    for (int i = 0; i < ps.cells; i++)
+        load_picture(ps.cell[i], l.first + i);
 }
 
 int PS_Create(const PS_TBL* table, uint32_t)
@@ -204,7 +218,7 @@ static void draw_cell(int i)
     const int number = LayerName[ps.layer].first + i;
     const bool is_chosen = number == ps.number;
     TDL_FillRectS(x, y, right, bottom, is_chosen ? CHOSEN_GROUND : BLACK);
-    TDL_PutS(x + 4, y + 3, ps.cell[i].picture);
+    TDL_PutS(x + 4, y + 3, picture_of(ps.cell[i], number));
     char text[16];
     PrintText(text, "%d", number);
     TDL_SymbolS(x + 67, y + 21, text, 1, is_chosen ? WHITE : 0xB4B4B4);

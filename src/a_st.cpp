@@ -399,8 +399,6 @@ static int tally(const char* path, const char* value, uint32_t hash)
 {
     if (strcmp(path, "DME@Status@3D Param@Mode Status@Reference") == 0)
         return reference_tally(value);
-    if (strcmp(path, "Engineering Setup@Switcher@Config@PGM Config@List") == 0)
-        st_drw_me_misc_key_assign_tally_set(value);
     for (ST_MEM& c : cells()) {
         for (int i = 0; i < c.used; i++) {
             if (c.cmd_hash[i] != hash || strcmp(c.cmd[i], path) != 0)

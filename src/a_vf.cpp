@@ -12,9 +12,9 @@
 #include "message.h"
 #include "netio.h"
 #include "page.h"
+#include "tab_list.h"
 #include "tab_status.h"
 #include "tdl.h"
-#include <span>
 #include "safeguards.h"
 
 namespace
@@ -42,75 +42,54 @@ struct VF_MEM {
 };
 } // namespace
 
-static VF_MEM Tab[VF_MAX];
-static int TabMax = 0;
+static TabList<VF_MEM, VF_MAX> Tabs;
 static uint32_t Selected = 0;
-
-static std::span<VF_MEM> tabs()
-{
-    return {Tab, size_t(TabMax)};
-}
-
-static VF_MEM* find_tab(int id)
-{
-    for (VF_MEM& t : tabs())
-        if (t.id == id)
-            return &t;
-    return nullptr;
-}
 
 static void send_paths(const char* verb)
 {
     PathSet met;
-    for (const VF_MEM& t : tabs())
+    for (const VF_MEM& t : TabList_All(Tabs))
         TabStatus_Send(met, t.stat, verb);
 }
 
 int VF_Follows(const char* path)
 {
     const uint32_t hash = Hash(path);
-    for (const VF_MEM& t : tabs())
+    for (const VF_MEM& t : TabList_All(Tabs))
         if (TabStatus_Follows(t.stat, path, hash))
             return 1;
     return 0;
 }
 
+static void fill_tab(VF_MEM& t, const VF_TBL& row)
+{
+    t.id = row.id;
+    t.caption = row.caption;
+    t.page = row.page;
+    TabStatus_Set(t.stat, row.statcmd);
+}
+
 int VF_Create(const VF_TBL* table, uint32_t selected)
 {
     send_paths("remove");
-    TabMax = 0;
+    Tabs.count = 0;
     if (!table)
         return 1;
     Selected = selected;
-    for (const VF_TBL* row = table; row->id >= 1; row++) {
-        if (TabMax == VF_MAX) {
-            Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for VF Objects!!");
-            break;
-        }
-        VF_MEM& t = Tab[TabMax++];
-        t.id = row->id;
-        t.caption = row->caption;
-        t.page = row->page;
-        t.redraw = t.display = 1;
-        TabStatus_Set(t.stat, row->statcmd);
-    }
+    if (!TabList_Fill(Tabs, table, fill_tab))
+        Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for VF Objects!!");
     send_paths("add");
     return 0;
 }
 
 int VF_SetDisplay(int id, int on)
 {
-    VF_MEM* t = find_tab(id);
-    if (!t)
-        return -1;
-    t->display = on != 0;
-    t->redraw = 1;
-    return 0;
+    return TabList_SetDisplay(Tabs, id, on);
 }
 
 int VF_GetStatus(int id)
 {
-    const VF_MEM* t = find_tab(id);
+    const VF_MEM* t = TabList_Find(Tabs, id);
     return t ? t->stat.status : -1;
 }
 
@@ -173,7 +152,7 @@ static int press(int x, int y)
 {
     if (!Inside(AREA, x, y))
         return 0;
-    const VF_MEM* t = find_tab((y - TOP) / PITCH + 1);
+    const VF_MEM* t = TabList_Find(Tabs, (y - TOP) / PITCH + 1);
     if (!t || !t->page || !t->display)
         return 0;
     if (BA_IsDefaultButton())
@@ -188,7 +167,7 @@ static int press(int x, int y)
 static int tally(const char* path, const char* value, uint32_t hash)
 {
     const bool is_assign = IsKeyAssignPath(path);
-    for (VF_MEM& t : tabs())
+    for (VF_MEM& t : TabList_All(Tabs))
         if (TabStatus_Tally(t.stat, path, value, hash) || is_assign)
             t.redraw = 1;
     return 0;
@@ -209,9 +188,8 @@ static void draw_assign(const VF_MEM& t, int top, bool is_on)
     TDL_SymbolS(x, top + 45, text.further, FONT, FURTHER_COLOR);
 }
 
-static void draw(VF_MEM& t)
+static void draw(const VF_MEM& t)
 {
-    t.redraw = 0;
     if (t.id > VF_SLOTS)
         return;
     const int top = (t.id - 1) * PITCH + TOP;
@@ -224,18 +202,10 @@ static void draw(VF_MEM& t)
     TDL_UpdateRect(LEFT, top, LEFT + FACE_W - 1, top + FACE_H - 1);
 }
 
-static int redraw()
-{
-    for (VF_MEM& t : tabs())
-        if (t.redraw)
-            draw(t);
-    return 0;
-}
-
 int VF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: return redraw();
+    case MSG_REDRAW: return TabList_Redraw(Tabs, draw);
     case MSG_PRESS: return press(int(ax), int(bx));
     case MSG_TALLY: return tally(Text(ax), Text(bx), uint32_t(cx));
     default: return 0;

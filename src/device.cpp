@@ -77,7 +77,7 @@ const UnitClass* const classes[] = {&pnl_class, &swr_class, &dme_class, &mpe_cla
 static struct {
     DEVTYPE dme_type[DEVICE_MAX] = {}; // by row of DEV_Dme
     int mp2 = 0;                       // the multi-program entries are subscribed
-    int small_pictures = 0;            // the small model's wipe pictures are loaded; they stay
+    int small_pictures = 0;            // the small model's wipe pictures are loaded
 } seen;
 
 static int rows_in_use(const UnitClass& c)
@@ -276,12 +276,17 @@ void Device_ForgetMultiProgram()
     seen.mp2 = 0;
 }
 
+// While a list of units is told anew there is no reference, and no reason to load anything.
 static void load_small_pictures()
 {
-    if (SYS_RefSwrType != SMALL_SWITCHER || seen.small_pictures)
+    const int is_small = SYS_RefSwrType == SMALL_SWITCHER;
+    if (is_small == seen.small_pictures || SYS_RefSwrType == DEVTYPE_UNKNOWN)
         return;
-    seen.small_pictures = 1;
-    LoadDmeWipePtn_KTR20();
+    seen.small_pictures = is_small;
+    if (is_small)
+        LoadDmeWipePtn_KTR20();
+    else
+        LoadDmeWipePtn_Standard();
 }
 
 void DeviceStructure()

@@ -150,13 +150,23 @@ void FreeGraphics()
         free_surface(&picture);
 }
 
-void LoadDmeWipePtn_KTR20()
+static void load_dme_wipe_ptns(const char* suffix)
 {
     char name[16];
     for (const int n : DmeWipePtn_KTR20) {
-        PrintText(name, "%de", n);
+        PrintText(name, "%d%s", n, suffix);
         load_wipe_ptn(n, name);
     }
+}
+
+void LoadDmeWipePtn_KTR20()
+{
+    load_dme_wipe_ptns("e");
+}
+
+void LoadDmeWipePtn_Standard()
+{
+    load_dme_wipe_ptns("");
 }
 
 SDL_Surface* LoadGFile(const char* name)

@@ -14,6 +14,7 @@ extern SDL_Surface* G_WipePtn[WIPE_PTN_MAX];
 
 void LoadGraphics(); // at start-up, before the first page
 void FreeGraphics();
-void LoadDmeWipePtn_KTR20(); // after LoadGraphics: the other pictures of the smaller model
+void LoadDmeWipePtn_KTR20();    // after LoadGraphics: the other pictures of the smaller model
+void LoadDmeWipePtn_Standard(); // those of all other models again
 // "graphics/NAME.bmp" in display format, for the caller to free; null and a log line on failure.
 SDL_Surface* LoadGFile(const char* name);

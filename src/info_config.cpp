@@ -1,4 +1,5 @@
 #include "info_config.h"
+#include "a_st_draw.h"
 #include "bus_tally.h"
 #include "device.h"
 #include "global.h"
@@ -66,6 +67,7 @@ void info_output_assign(const char* value)
 void info_pgm_config(const char* value)
 {
     swcnfpgm_set(value);
+    st_drw_me_misc_key_assign_tally_set(value); // whatever page is open: it is told once
     mp2_keyassign_check();
 }
 

@@ -1,6 +1,7 @@
 #include "a_kp.h"
 #include "graphics.h"
 #include "tab_page.h"
+#include "tdl.h"
 #include "window.h"
 
 namespace
@@ -77,6 +78,21 @@ TEST_F(PathLists, ACellShowsItsTally)
         EXPECT_EQ(Shown(c.x, c.row), *c.shown) << c.path << "#" << c.value;
     }
     EXPECT_EQ(Shown(360, 1), nullptr); // the second row has no hue
+}
+
+TEST_F(PathLists, WhatIsNoNumberIsNotPaintedAgain)
+{
+    constexpr char TENS[] = "Key Frame@Path@All@Curve@Spline@Tens";
+    constexpr uint32_t MARK = 0xFF00FF; // stays as long as nobody paints the row
+    const int x = 520, y = Y(0) - 10;
+    for (const auto& [value, is_painted] : {std::pair{"nan", false}, {"1.5", true}}) {
+        Tally(TENS, "nan");
+        Pass();
+        TDL_FillRectS(x, y, x, y, MARK);
+        Tally(TENS, value);
+        Pass();
+        EXPECT_EQ(PixelAt(x, y) != MARK, is_painted) << value;
+    }
 }
 
 TEST_F(PathLists, APressOnACellOpensTheWindowWhoseAnswerGoesOut)

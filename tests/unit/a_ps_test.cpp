@@ -1,4 +1,5 @@
 #include "a_ps.h"
+#include "graphics.h"
 #include "page_table/patterns.h"
 #include "tab_page.h"
 
@@ -138,4 +139,25 @@ TEST_F(PatternSelect, PageAndBankDecideWhichLayersThereAre)
         TouchLayer(c.last + 1);
         EXPECT_EQ(FirstNumber(), std::to_string(LayerName[c.last].first)) << *c.tree.begin();
     }
+}
+
+// What the start has loaded is neither read again nor kept when it is replaced.
+TEST_F(PatternSelect, APictureIsTheOneThatIsLoadedNow)
+{
+    const auto ground = [](uint32_t colour) {
+        Pass();
+        return PixelAt(Cell(6).x1 + 6, Cell(6).y1 + 6) == colour;
+    };
+    for (const uint32_t colour : {0xAA0000u, 0x00AA00u}) {
+        SDL_FreeSurface(G_WipePtn[7]);
+        G_WipePtn[7] = SDL_CreateRGBSurface(SDL_SWSURFACE, 56, 42, 32, 0xFF0000, 0xFF00, 0xFF, 0);
+        SDL_FillRect(G_WipePtn[7], nullptr, colour);
+        Tally(PATH, colour == 0xAA0000 ? "7" : "8");
+        Open({"M/E-1", "Key1", "Main Mask", "Ptn Select"});
+        EXPECT_TRUE(ground(colour));
+    }
+    SDL_FreeSurface(G_WipePtn[7]);
+    G_WipePtn[7] = nullptr;
+    Open({"M/E-1", "Key1", "Main Mask", "Ptn Select"});
+    EXPECT_FALSE(ground(0x00AA00)) << "read from its file";
 }

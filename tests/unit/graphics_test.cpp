@@ -114,4 +114,7 @@ TEST(Graphics, TheSmallerModelReplacesItsOwnPictures)
     EXPECT_EQ(WidthOf(G_WipePtn[1001]), 20) << "not one of them";
     EXPECT_EQ(WidthOf(G_WipePtn[2001]), 22);
     EXPECT_EQ(G_WipePtn[2002], nullptr);
+    LoadDmeWipePtn_Standard();
+    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 21);
+    EXPECT_EQ(WidthOf(G_WipePtn[2002]), 23);
 }
