@@ -542,8 +542,7 @@ int AutoLoad_Start(const char* device)
 
 // --- Tallies ---
 
-// Its answers will not come: a search is forgotten, and a load ends without a word to the server.
-static void lose_link()
+void AutoLoad_LinkLost()
 {
     for (int i = 0; i < al.searches; i++)
         (void)File_ExecUSBReload_cancel(al.search[i].label);
@@ -558,10 +557,6 @@ static void lose_link()
     File_XferList_RemoveAll(&al.FileXferList_Exist);
     for (bool& exist : al.FileXferExist)
         exist = false;
-    if (!is_running())
-        return;
-    (void)File_ExecUSBReload_cancel(al.job_label);
-    end_load();
 }
 
 void AutoLoad_Tally(const char* path, const char* value)
@@ -570,7 +565,7 @@ void AutoLoad_Tally(const char* path, const char* value)
         GL_AutoLoad = Decimal(value);
     } else if (Same(path, "CONNECT@Status")) {
         if (Same(value, "NG"))
-            lose_link();
+            AutoLoad_LinkLost();
     } else if (Same(value, "false")) {
         return; // the server has taken an answer
     } else if (BeginsWith(path, DATA_EXIST)) {
@@ -582,7 +577,11 @@ void AutoLoad_Tally(const char* path, const char* value)
 
 void AutoLoad_Reset()
 {
-    lose_link();
+    AutoLoad_LinkLost();
+    if (is_running()) {
+        (void)File_ExecUSBReload_cancel(al.job_label);
+        end_load();
+    }
     al.PaneID_Message = 0;
     GL_AutoLoad = -1;
 }

@@ -29,12 +29,15 @@ int AutoLoad_Start(const char* device);
 
 // --- For info ---
 
-// The setting, the two questions, and the state of the link: what the link's end interrupts is
-// forgotten.
+// The setting, the two questions, and the server's own link.
 void AutoLoad_Tally(const char* path, const char* value);
 // The search through one folder of the frame memory, known by its label: a file, and the end.
 extern uint32_t AutoLoadFindID; // label of the running search, 0 none
 void AutoLoadFind_Tally(const char* path, const char* time);
 void AutoLoadFindEnd_Tally();
 
+// The server answers no search any more and asks all anew: what was found is forgotten. To be
+// called before the work engine ends its jobs, which would pass for answers; a load ends with its
+// job.
+void AutoLoad_LinkLost();
 void AutoLoad_Reset(); // as at process start

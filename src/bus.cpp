@@ -1,5 +1,6 @@
 #include "bus.h"
 #include "a_kf.h"
+#include "autoload.h"
 #include "bin_frame.h"
 #include "command.h"
 #include "file.h"
@@ -277,8 +278,10 @@ static void bus_drain_shp()
 void ReceiveCommand_Management()
 {
     bus_drain_text();
-    if (Net_TakeTextLoss())
+    if (Net_TakeTextLoss()) {
+        AutoLoad_LinkLost();
         File_LinkLost();
+    }
     bus_drain_frames();
     bus_drain_shp();
 }

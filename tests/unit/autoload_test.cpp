@@ -260,9 +260,12 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
     EXPECT_THAT(Ask("SWR1", {{"EFFECT/SWR000D001/", {open}}}), ElementsAre(EXIST + "SWR1#true"));
     Strings all;
     EXPECT_EQ(Start("SWR1", &all).size(), 1u);
-    Deliver("CONNECT@Status", "NG"); // in the middle of the load
+    AutoLoad_LinkLost(); // in the middle of the load
+    File_LinkLost();
     EXPECT_FALSE(BkgdFileTransfer_Check(0));
-    EXPECT_EQ(QueueRoot, nullptr);
+    EXPECT_EQ(Err_GetMax(), 1);
+    while (int pane = Pane_GetActiveID())
+        Pane_Quit(pane);
     (void)Sent();
     EXPECT_THAT(Ask("SWR1", {}), ElementsAre(EXIST + "SWR1#false"));
 }
