@@ -48,7 +48,7 @@ struct WindowArgs {
     const char* max_text = "";
     double current = NAN;     // knob: the number behind value, which Enter alone leaves; NAN none
     bool is_timecode = false; // knob
-    int input_max = 32;       // keyboard: characters, at most 32
+    int input_max = 32;       // keyboard: characters, at most 63
     // pull-down, select
     int columns = 1;
     int rows = 1;

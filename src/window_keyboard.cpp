@@ -123,17 +123,32 @@ const char* kyb_caption(const WINOBJ& key, char (&letter)[2])
     return letter;
 }
 
+constexpr int FONT = 8;
+
+// From the cursor back to a place in the text, in pixels.
+static int width_before_cursor(int from)
+{
+    char before[INPUT_MAX + 1];
+    CopyText(before, win.Input + from);
+    before[win.InputPos - from] = '\0';
+    return *before ? int(TDL_GetSymbolWidth(before, FONT)) : 0;
+}
+
+// A text that is longer than the well is shown from where the cursor still has its place.
 static void draw_text_s()
 {
+    constexpr int MARGIN = 12;
+    constexpr int CURSOR_W = 3;
+    constexpr int ROOM = WELL.x2 - WELL.x1 - 2 * MARGIN;
     window_draw_well(WELL);
-    const int x = win.WinX + WELL.x1 + 12;
+    int from = 0;
+    while (width_before_cursor(from) > ROOM - CURSOR_W)
+        from++;
+    const int x = win.WinX + WELL.x1 + MARGIN;
     const int y = win.WinY + WELL.y1 + 9;
-    TDL_SymbolS(x, y, win.Input, 8, WHITE);
-    char before[INPUT_MAX + 1];
-    CopyText(before, win.Input);
-    before[win.InputPos] = '\0';
-    const int cursor_x = x + (win.InputPos ? int(TDL_GetSymbolWidth(before, 8)) : 0);
-    TDL_FillRectS(cursor_x, y, cursor_x + 2, y + 18, CYAN);
+    TDL_SymbolWS(x, y, ROOM, win.Input + from, FONT, WHITE);
+    const int cursor_x = x + width_before_cursor(from);
+    TDL_FillRectS(cursor_x, y, cursor_x + CURSOR_W - 1, y + 18, CYAN);
 }
 
 static void kyb_draw()

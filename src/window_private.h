@@ -62,7 +62,7 @@ constexpr int KEY_KIND = 0xF0; // the high nibble of an id below KEY_CHARACTER
 
 constexpr int WINOBJ_END = -1;
 constexpr int WINOBJ_MAX = 128; // with the end
-constexpr int INPUT_MAX = 32;
+constexpr int INPUT_MAX = 63;   // the longest text that any keyboard is asked for
 
 struct WINOBJ {
     int id = WINOBJ_END;

@@ -364,18 +364,32 @@ TEST_F(Windows, KeysOfAKeyboardWriteAsOnTheScreen)
 
 TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
 {
-    for (const auto& [max, length] : {std::pair{-5, 0}, {0, 0}, {16, 16}, {33, 32}}) {
+    std::string text;
+    for (int i = 0; i < 80; i++)
+        text += char('0' + i % 10);
+    const int usual = WindowArgs().input_max;
+    for (const auto& [max, length] :
+         {std::pair{-5, 0}, {0, 0}, {16, 16}, {usual, 32}, {63, 63}, {64, 63}}) {
         CreateWindow(WINDOW_KEYBOARD, "Name",
-                     {.value = "0123456789012345678901234567890123456789",
-                      .input_max = max,
-                      .ok_text = HearText});
+                     {.value = text.c_str(), .input_max = max, .ok_text = HearText});
         for (int i = 0; i < 5; i++)
             TouchKeyboard({"x", "Left", "y"});
         TouchKeyboard({"Enter"});
-        EXPECT_THAT(
-            Heard(),
-            ElementsAre("text " +
-                        std::string("01234567890123456789012345678901").substr(0, size_t(length))));
+        EXPECT_THAT(Heard(), ElementsAre("text " + text.substr(0, size_t(length))));
+    }
+}
+
+// The cursor is the only thing of its colour in the well.
+TEST_F(Windows, TheCursorOfALongTextStaysInTheWell)
+{
+    const std::string text(63, 'W');
+    CreateWindow(WINDOW_KEYBOARD, "Name", {.value = text.c_str(), .input_max = 63});
+    for (int left = 0; left <= 63; left++) {
+        int cursor = 0;
+        for (int x = KEYBOARD_WINDOW.x + 12; x <= KEYBOARD_WINDOW.x + 709; x++)
+            cursor += PixelAt(x, KEYBOARD_WINDOW.y + 60) == 0x00FFFF;
+        EXPECT_EQ(cursor, 3) << left;
+        TouchKeyboard({"Left"});
     }
 }
 
