@@ -30,8 +30,10 @@ constexpr int KEY_CAPTION_X = 12;
 constexpr int KEY_CAPTION_Y = 13;
 constexpr int GROUP_THE_REST = 999;
 
-// The file page that lists two sides in one table: its folder marks stand before both names.
+// The file page of the frame memory, its variants and detail page: marks of folders before the
+// names of the left and the right list.
 constexpr uint32_t PAGE_FOLDERS = 0x71510000;
+constexpr uint32_t PAGE_VARIANTS = 0x0000FFFF;
 constexpr int FOLDER_LEFT_X = 150;
 constexpr int FOLDER_RIGHT_X = 500;
 constexpr int ICON_TOP = 3; // marks and icons are 16 high
@@ -211,7 +213,7 @@ static void draw_row(const LS_MEM& l, const Column (&columns)[LS_COLUMNS], int r
         draw_separator(columns[col], y);
     }
     TDL_LineHS(l.x, y + LS_ROW_PX - 1, l.area_x2 - l.x + 1, HEADER_SEPARATOR);
-    if (in_use && GL_NowPage == PAGE_FOLDERS) {
+    if (in_use && (GL_NowPage & ~PAGE_VARIANTS) == PAGE_FOLDERS) {
         draw_folder(FOLDER_LEFT_X, y, l.folder[row]);
         draw_folder(FOLDER_RIGHT_X, y, l.folder2[row]);
     }

@@ -60,6 +60,13 @@ bool File_CategoryPath(char* buffer, int size, int drive, const char* dir, const
            print(buffer, size, "%s%s/%s/", root, dir, category);
 }
 
+bool File_FrameFolderPath(char* buffer, int size, int drive, const char* dir, const char* folder)
+{
+    char root[PATH_SIZE];
+    return File_Root(root, sizeof root, drive) &&
+           print(buffer, size, *folder ? "%s%s/FMEMFOL/%s/" : "%s%s/FMEMFOL/", root, dir, folder);
+}
+
 // --- Groups ---
 
 constexpr int RegisterNum[FILE_GROUPS] = {
@@ -134,6 +141,12 @@ namespace
 {
 enum : int { GRP_SETUP = 0, GRP_FRAMEMEM = 23, GRP_USERSETUP = 41 };
 enum : int { FIRST_CHANNEL = 288, LAST_CHANNEL = 295 }; // region ids
+
+constexpr int FRAME_REGISTERS = 5662; // of a store of the newer frame memory
+constexpr char FRAME_WORD[] = "FMEM";
+constexpr char FRAME_EXTENDED_WORD[] = "FMEX";
+constexpr char FRAME_EXT[] = "SFM";
+constexpr char FRAME_ANCILLARY_EXT[] = "SFA";
 
 enum class Split { // how effects units share the eight channels
     Fours,
@@ -313,6 +326,12 @@ static int device_number(const Piece& folder, const char* ext)
     return -1;
 }
 
+// The newer frame memory has more registers than a page of the older one shows.
+static int registers_of(int grp)
+{
+    return grp == GRP_FRAMEMEM && SYS_FmemV6 ? FRAME_REGISTERS : RegisterNum[grp];
+}
+
 // The register's number from 0, or why there is none.
 static int register_number(int grp, const Piece& digits)
 {
@@ -327,9 +346,21 @@ static int register_number(int grp, const Piece& digits)
     }
     const int first = File_FirstNumber(grp);
     const int no = number - first;
-    if (no >= 0 && no < RegisterNum[grp])
+    if (no >= 0 && no < registers_of(grp))
         return no;
     return first > 100 ? -(first - 1) : NAME_BAD_NUMBER;
+}
+
+// The newer frame memory has two stores and images with an ancillary channel: their words stand for
+// those of the region table.
+static bool take_frame_words(Pieces* p)
+{
+    if (is_text(p->ext, FRAME_ANCILLARY_EXT))
+        p->ext = {FRAME_EXT, int(strlen(FRAME_EXT))};
+    if (!is_text(p->region, FRAME_EXTENDED_WORD))
+        return false;
+    p->region = {FRAME_WORD, int(strlen(FRAME_WORD))};
+    return true;
 }
 
 // Place of the file's region in the group's table; the same word may stand for several units.
@@ -368,6 +399,11 @@ int name2info(const char* path, FILEINFO* info)
     const int cut = cut_path(path, RegionDirExist[found.grp] != 0, &p);
     if (cut != 0)
         return cut;
+    bool is_extended = false;
+    if (found.grp == GRP_FRAMEMEM && SYS_FmemV6) {
+        found.is_ancillary = is_text(p.ext, FRAME_ANCILLARY_EXT);
+        is_extended = take_frame_words(&p);
+    }
     found.device = device_number(p.unit, p.ext.at);
     if (found.device < 0)
         return NAME_UNKNOWN_UNIT;
@@ -379,7 +415,7 @@ int name2info(const char* path, FILEINFO* info)
         return no;
     if (region != 0)
         return region;
-    found.no = no;
+    found.no = no + (is_extended ? FMEM_EXTENDED : 0);
     strncpy_secu(found.name, p.name.at, sizeof found.name, size_t(p.name.length));
     *info = found;
     return 0;
@@ -391,7 +427,10 @@ int name2info(const char* path, FILEINFO* info)
 // replaced.
 static void name_of_file(const FILEINFO& info, int device, char (&name)[FILE_NAME_SIZE])
 {
-    CopyText(name, info.name);
+    if (info.grp == GRP_FRAMEMEM)
+        fname2dispname(info.name, name, sizeof name);
+    else
+        CopyText(name, info.name);
     if (device == FILE_REMOVABLE)
         (void)StrFatFileName(name); // an empty name is an empty name
     for (char* p = name; *p; p++)
@@ -399,18 +438,29 @@ static void name_of_file(const FILEINFO& info, int device, char (&name)[FILE_NAM
             *p = '_';
 }
 
+// A register of the frame memory, in the words of its store and kind.
+static bool append_frame(const FILEINFO& info, char* buffer, int device, int size, const char* name)
+{
+    const bool is_extended = info.no >= FMEM_EXTENDED;
+    const int number = info.no - (is_extended ? FMEM_EXTENDED : 0) + 1;
+    const bool is_wide = SYS_FmemV6 && device == FILE_REGISTER && number > 999;
+    const size_t used = strlen(buffer);
+    return print(buffer + used, size - int(used), is_wide ? "%s%s%s%04d.%s" : "%s%s%s_%03d.%s",
+                 name, *name ? "." : "", is_extended ? FRAME_EXTENDED_WORD : FRAME_WORD, number,
+                 info.is_ancillary ? FRAME_ANCILLARY_EXT : FRAME_EXT);
+}
+
 static bool append_file(const FILEINFO& info, char* buffer, int device, int size)
 {
     const char* const ext = PaneRegion_GetGrpFIExt(info.grp, info.main, info.sub);
-    const int number = info.no + File_FirstNumber(info.grp);
-    const bool is_wide =
-        info.grp == GRP_FRAMEMEM && SYS_FmemV6 && device == FILE_REGISTER && number > 999;
     char name[FILE_NAME_SIZE];
     name_of_file(info, device, name);
+    if (info.grp == GRP_FRAMEMEM)
+        return append_frame(info, buffer, device, size, name);
     const size_t used = strlen(buffer);
     return print(buffer + used, size - int(used), "%s.%s_%0*d.%s", name,
-                 File_RegionWord(info.grp, info.main, info.sub),
-                 is_wide ? 4 : File_NumberWidth(ext), number, ext);
+                 File_RegionWord(info.grp, info.main, info.sub), File_NumberWidth(ext),
+                 info.no + File_FirstNumber(info.grp), ext);
 }
 
 static int unit_number(const DEVICE* unit)
@@ -444,8 +494,9 @@ static bool drive_folder(const FILEINFO& info, const DEVICE* unit, const char* e
 {
     constexpr int CLASS_AND_GROUP = 6;
     char category[PATH_SIZE];
-    if (!File_CategoryPath(category, sizeof category, device, dir,
-                           PaneRegion_GetGrpCategoryStr(info.grp)))
+    if (*info.folder ? !File_FrameFolderPath(category, sizeof category, device, dir, info.folder)
+                     : !File_CategoryPath(category, sizeof category, device, dir,
+                                          PaneRegion_GetGrpCategoryStr(info.grp)))
         return false;
     char region[16] = "";
     if (RegionDirExist[info.grp]) {
@@ -481,6 +532,18 @@ int info2name(const FILEINFO& info, char* buffer, int device, const char* dir, i
             ? unit_folder(unit, ext, PaneRegion_GetGrpCategoryStr(info.grp), buffer, size)
             : drive_folder(info, unit, ext, buffer, device, dir, size);
     if (is_folder && append_file(info, buffer, device, size))
+        return 0;
+    buffer[0] = '\0';
+    return -1;
+}
+
+int File_FrameName(const FILEINFO& info, char* buffer, int size)
+{
+    const DEVICE* const unit = unit_of_region(info.grp, info.main, info.sub);
+    if (size < 1)
+        return -1;
+    if (unit && print(buffer, size, "%s:", unit->id) &&
+        append_file(info, buffer, FILE_REGISTER, size))
         return 0;
     buffer[0] = '\0';
     return -1;

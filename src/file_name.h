@@ -44,13 +44,20 @@ int File_HasRegion(int grp, int main, int sub); // 1: a unit here has it
 
 constexpr int FILE_WHOLE_ID = 256; // of FILEINFO.device
 
+// The folders of the frame memory have a place of their own in a user directory. The default one
+// bears this name there.
+constexpr char FRAME_FOLDER_DEFAULT[] = "DEFAULT";
+constexpr int FRAME_FOLDER_SIZE = 9;
+
 struct FILEINFO {
     int grp = 0;  // to be set before name2info
     int main = 0; // place in the group's region table
     int sub = 0;
-    int no = 0;     // of the register, from 0
+    int no = 0;     // of the register, from 0; of the extended frame memory from FMEM_EXTENDED
     int device = 0; // own unit from 0; plus FILE_WHOLE_ID when its folder bears the whole id
     char name[FILE_NAME_SIZE] = "";
+    char folder[FRAME_FOLDER_SIZE] = ""; // frame memory: on a drive it stands in there; "": none
+    int is_ancillary = 0;                // frame memory: with an ancillary channel, "SFA"
 };
 
 enum : int { // of name2info
@@ -74,6 +81,13 @@ int name2info(const char* path, FILEINFO* info);
 // The path of a register: on a drive in a user directory, or with FILE_REGISTER on the unit. 0; -1
 // when there is no such unit or place, or it does not fit.
 int info2name(const FILEINFO& info, char* buffer, int device, const char* dir, int size);
+// How a register of the frame memory is called where it is put to or got from:
+// "SWR001D001:Mlogo.FMEM_001.SFM", without a name "SWR001D001:FMEM_001.SFM". 0; -1 when the
+// switcher is not there or it does not fit.
+int File_FrameName(const FILEINFO& info, char* buffer, int size);
+// Where a drive has the folders of the frame memory, ending with "/"; with a folder's name that
+// one. False as for File_Root.
+bool File_FrameFolderPath(char* buffer, int size, int drive, const char* dir, const char* folder);
 // The hub's target of a path that info2name made for FILE_REGISTER: "SWR1", "PNL2". -1 when it has
 // none: a menu macro is a file of this unit.
 int File_Target(const char* path, char* target, int size);

@@ -16,6 +16,7 @@ constexpr char FILE_INHIBITED[] = "Operation in this menu is inhibited\nduring f
 struct FILECELL {
     int main = 0; // place in the group's region table
     int sub = 0;
+    int no = 0;           // of the register, as FILEINFO.no
     int device = 0;       // as FILEINFO.device
     int id = 0;           // of the region
     int board = 0;        // its folder bears the unit's whole id
@@ -31,8 +32,9 @@ struct FILECELL {
 };
 
 // A row of a list: a register number over all regions. Without a cell there is nothing.
+enum : int { FILEROW_REGISTER = 0, FILEROW_FOLDER = 1 };
 struct FILELIST {
-    int type = 0;
+    int type = FILEROW_REGISTER; // a folder of the frame memory has no cells
     int pair = 0;
     int is_ancillary = 0;
     char name[16] = ""; // of the first cell in view

@@ -3,6 +3,8 @@
 #include "a_bt.h"
 #include "a_ls.h"
 #include "command.h"
+#include "device.h"
+#include "fmctrl.h"
 #include "message.h"
 #include "netio.h"
 #include "pane.h"
@@ -12,6 +14,8 @@
 #include "text.h"
 #include "window.h"
 #include <cstring>
+#include <string>
+#include <unordered_set>
 
 #include "safeguards.h"
 
@@ -22,6 +26,8 @@ namespace
 {
 enum : int { SIDE_A = 0, SIDE_B = 1, SIDE_C = 0 }; // C has its page to itself
 constexpr int CAPTION_SIZE = 40;
+constexpr char FRAME_TITLE[] = "File Frame Memory";
+constexpr char MOVE_STILL[] = "put %d@Frame Mem@Folder@Move Still#0,%s,%d";
 
 // Of a kind: outlives the page.
 struct Visits {
@@ -30,6 +36,20 @@ struct Visits {
     FileMemory b = {};
     FileMemory c = {};
     FILEXFERLIST* list = nullptr; // being put together, or of the job that runs
+    int folder_id = 0;            // of the frame memory: where that job's loads go
+};
+
+// What was left out of a transfer.
+struct Skipped {
+    bool is_locked = false;    // a region of the setup
+    bool is_duplicate = false; // another register has the name
+    bool is_full = false;      // no empty register
+};
+
+// Frame memory: where the next load goes, and the names that loads have.
+struct FrameTargets {
+    int empty[2] = {0, FMEM_EXTENDED}; // in either store the first that may be empty
+    std::unordered_set<std::string> names;
 };
 
 // A touch of a button, by its command.
@@ -75,18 +95,31 @@ static bool is_protected(const FILESIDE& side)
     return side.device != FILE_REGISTER && File_DirIsProtected(side.device, side.dir);
 }
 
-// Nothing goes from the running system to itself or into a protected directory.
-static bool may_transfer(const FILESIDE& from, const FILESIDE& to)
+static bool is_frames()
 {
-    return !(from.device == FILE_REGISTER && to.device == FILE_REGISTER) && !is_protected(to);
+    return fd.kind->way == FILEWAY_FRAME;
+}
+
+static bool is_register(int side)
+{
+    return memory_of(side).side.device == FILE_REGISTER;
+}
+
+// Nothing goes from the running system to itself, but from one of its folders to another, nor into
+// a protected directory.
+static bool may_transfer(int from, int to)
+{
+    const FileMemory& a = memory_of(from);
+    const FileMemory& b = memory_of(to);
+    if (is_register(from) && is_register(to))
+        return fd.kind->has_folders && strcmp(a.folder, b.folder) != 0;
+    return !is_protected(b.side);
 }
 
 static void load_save_copy_btn_grayout()
 {
-    const FILESIDE& a = memory_of(SIDE_A).side;
-    const FILESIDE& b = memory_of(SIDE_B).side;
-    BT_SetDisable(BTN_FILE_L_TO_R, !may_transfer(a, b));
-    BT_SetDisable(BTN_FILE_R_TO_L, !may_transfer(b, a));
+    BT_SetDisable(BTN_FILE_L_TO_R, !may_transfer(SIDE_A, SIDE_B));
+    BT_SetDisable(BTN_FILE_R_TO_L, !may_transfer(SIDE_B, SIDE_A));
 }
 
 static void rename_delete_btn_grayout()
@@ -184,9 +217,10 @@ static int detail_b_sel()
 
 // --- Transfers ---
 
-static bool is_same_place(const FILESIDE& a, const FILESIDE& b)
+static bool is_same_place(const FileMemory& a, const FileMemory& b)
 {
-    return a.device == b.device && (a.device == FILE_REGISTER || strcmp(a.dir, b.dir) == 0);
+    return a.side.device == b.side.device && strcmp(a.folder, b.folder) == 0 &&
+           (a.side.device == FILE_REGISTER || strcmp(a.side.dir, b.side.dir) == 0);
 }
 
 // The row that a transfer begins with.
@@ -196,10 +230,36 @@ static int first_row(int side)
     return row >= 0 ? row : LS_GetNowLine(list_of(side));
 }
 
+static void move_still(const char* name, int folder_id)
+{
+    constexpr int FIRST_SWITCHER = 16; // twice that the second
+    if (DEV_MySwr[0] && *name)
+        Net_SendCommandFormat(MOVE_STILL, FIRST_SWITCHER * Device_UnitNumber(*DEV_MySwr[0]), name,
+                              folder_id);
+}
+
+// What was loaded stands in the default folder: "SWR001D001:Mlogo.FMEM_001.SFM".
+static void move_loaded(const FILEXFERLIST* list, int folder_id)
+{
+    for (const FILEXFERLIST* item = list; item; item = item->next) {
+        char name[FILE_PATH_SIZE];
+        const char* const colon = strchr(item->dst, ':');
+        if (item->status != FILESTATUS_OK || !colon || BeginsWith(item->dst, "MYHOST:"))
+            continue;
+        CopyText(name, colon + 1);
+        for (int dots = 0; dots < 2; dots++)
+            if (char* const dot = strrchr(name, '.'))
+                *dot = '\0';
+        move_still(name, folder_id);
+    }
+}
+
 static void dual_result(uint32_t, int page)
 {
     Visits& v = visits[page];
     xferlist_result_display(v.list);
+    if (file_kinds[page].has_folders)
+        move_loaded(v.list, v.folder_id);
     (void)BkgdFileTransfer_Set(file_kinds[page].id, 0);
     (void)PaneProgress_RestoreQuit();
     if (fd.kind == &file_kinds[page])
@@ -229,7 +289,7 @@ static int transfer_exec(int from, int to)
         label = MM_File_ExecCopyList(&v.list, result, page, is_save || is_load);
     else if (!is_save && !is_load)
         label = File_ExecCopyList(&v.list, result, page);
-    else if (fd.kind->way == FILEWAY_PLAIN)
+    else if (fd.kind->way == FILEWAY_PLAIN || is_frames())
         label = File_ExecTransferList(&v.list, result, page);
     else if (is_save)
         label = File_TransSCPdirGetList(&v.list, result, page);
@@ -242,6 +302,14 @@ static int transfer_exec(int from, int to)
     return -1;
 }
 
+static int path_of(int side, const FILEINFO& info, char (&path)[FILE_PATH_SIZE])
+{
+    const FILESIDE& where = FileSide_Where(side);
+    return is_frames() && where.device == FILE_REGISTER
+               ? File_FrameName(info, path, sizeof path)
+               : info2name(info, path, where.device, where.dir, sizeof path);
+}
+
 // -1 when the file has no name on one of the sides.
 static int add_cell(int from, int to, const FILECELL& cell, int target_no)
 {
@@ -250,10 +318,12 @@ static int add_cell(int from, int to, const FILECELL& cell, int target_no)
     char src_path[FILE_PATH_SIZE];
     char dst_path[FILE_PATH_SIZE];
     char target[32];
-    if (info2name(FileSide_Info(from, cell, -1), src_path, src.device, src.dir, sizeof src_path) !=
-            0 ||
-        info2name(FileSide_Info(from, cell, target_no), dst_path, dst.device, dst.dir,
-                  sizeof dst_path) != 0)
+    FILEINFO info = FileSide_Info(from, cell, -1);
+    if (path_of(from, info, src_path) != 0)
+        return -1;
+    info.no = target_no;
+    CopyText(info.folder, FileSide_Info(to, cell, -1).folder);
+    if (path_of(to, info, dst_path) != 0)
         return -1;
     const bool is_save = src.device == FILE_REGISTER;
     const bool is_copy = !is_save && dst.device != FILE_REGISTER;
@@ -265,39 +335,106 @@ static int add_cell(int from, int to, const FILECELL& cell, int target_no)
                                 PaneRegion_GetGrpCategoryStr(FileKind_Group(*fd.kind)), target);
 }
 
-// The selected rows of one side go to the other from its first selected row on, with the gaps that
-// they have. True when a locked region of the setup was left out.
-static bool gather(int from, int to)
+// The register that a load goes to when rows are no numbers: the next one that is empty, of its own
+// store when that is there. -1: none is.
+static int next_empty(FrameTargets& t, const FILECELL& cell)
 {
-    const bool is_setup_load =
-        FileSide_Where(to).device == FILE_REGISTER && fd.kind->page == FILEPAGE_SETUP;
+    const bool has_extended = FMCtrl2_IsExtendedCapacity() != 0;
+    const int first = has_extended && cell.no >= FMEM_EXTENDED;
+    for (int store : {first, 1 - first}) {
+        const int index = store == 1 && !has_extended ? -1 : FMCtrl2_EmptyRegNo(t.empty[store]);
+        if (index < 0)
+            continue;
+        t.empty[store] = index + 1;
+        return index;
+    }
+    return -1;
+}
+
+static void add_frame_load(int from, int to, const FILECELL& cell, int no, FrameTargets& t,
+                           Skipped& skipped)
+{
+    const int had = FMCtrl2_GetRegIndex(cell.name);
+    if ((had >= 0 && (fd.kind->has_folders || had != no)) || !t.names.insert(cell.name).second) {
+        skipped.is_duplicate = true;
+        return;
+    }
+    const int target = fd.kind->has_folders ? next_empty(t, cell) : no;
+    if (target < 0)
+        skipped.is_full = true;
+    else
+        (void)add_cell(from, to, cell, target); // what has no name there stays
+}
+
+static void add_row(int from, int to, const FILELIST& row, int no, FrameTargets& t,
+                    Skipped& skipped)
+{
+    const bool is_load = is_register(to);
+    for (const FILECELL* cell = row.cell; cell; cell = cell->next) {
+        if (!FileSide_InView(*cell))
+            continue;
+        if (is_load && fd.kind->page == FILEPAGE_SETUP && File_IsSetupRegionLocked(cell->main))
+            skipped.is_locked = true;
+        else if (is_load && is_frames())
+            add_frame_load(from, to, *cell, no, t, skipped);
+        else
+            (void)add_cell(from, to, *cell, fd.kind->has_folders ? cell->no : no);
+    }
+}
+
+// The selected rows of one side go to the other from its first selected row on, with the gaps that
+// they have. Where rows are no numbers, all that is selected goes.
+static Skipped gather(int from, int to)
+{
     const int shift = first_row(to) - first_row(from);
-    bool is_locked = false;
+    Skipped skipped;
+    FrameTargets targets;
     for (int i = 0, no; (no = LS_GetSelected(list_of(from), i)) >= 0; i++) {
         const FILELIST* const row = FileSide_Row(from, no);
-        if (!row || !FileSide_Row(to, no + shift))
-            continue;
-        for (const FILECELL* cell = row->cell; cell; cell = cell->next) {
-            if (!FileSide_InView(*cell))
-                continue;
-            if (is_setup_load && File_IsSetupRegionLocked(cell->main))
-                is_locked = true;
-            else
-                (void)add_cell(from, to, *cell, no + shift); // what has no name there stays
-        }
+        if (row && (fd.kind->has_folders || FileSide_Row(to, no + shift)))
+            add_row(from, to, *row, no + shift, targets, skipped);
     }
-    return is_locked;
+    return skipped;
+}
+
+// From one folder of the running system to another.
+static int move_selected(int from, int to)
+{
+    const int folder_id = FileSide_FolderId(to);
+    for (int i = 0, no; (no = LS_GetSelected(list_of(from), i)) >= 0; i++) {
+        const FILELIST* const row = FileSide_Row(from, no);
+        if (row && row->cell && FileSide_InView(*row->cell))
+            move_still(FMCtrl2_GetRegNameMulti(row->cell->no), folder_id);
+    }
+    return 0;
+}
+
+static void tell_skipped(const Skipped& skipped)
+{
+    if (skipped.is_full)
+        PaneMessage_Create(FRAME_TITLE, PANE_ALERT,
+                           "Some requests are skipped. \nThere is no empty register left.");
+    if (skipped.is_duplicate)
+        PaneMessage_Create(FRAME_TITLE, PANE_ALERT,
+                           "Some requests are skipped. \nFollowing operation is not permitted.\n"
+                           "  - Loading that will cause duplicate\n    register name.");
 }
 
 static int transfer_sel(int from, int to, const char* lock_question)
 {
     if (visit().list)
         return -1; // the job of the page is still there
-    if (!may_transfer(FileSide_Where(from), FileSide_Where(to)))
+    if (!may_transfer(from, to))
         return -1;
-    if (is_same_place(FileSide_Where(from), FileSide_Where(to)) && first_row(from) == first_row(to))
+    if (is_same_place(memory_of(from), memory_of(to)) &&
+        (fd.kind->has_folders || first_row(from) == first_row(to)))
         return -1;
-    if (!gather(from, to))
+    if (is_register(from) && is_register(to))
+        return move_selected(from, to);
+    const Skipped skipped = gather(from, to);
+    visit().folder_id = FileSide_FolderId(to);
+    tell_skipped(skipped);
+    if (!skipped.is_locked)
         return transfer_exec(from, to);
     fd.from = from;
     fd.to = to;
@@ -359,11 +496,43 @@ static void single_rename_reg(const char* name)
             FileKind_Rename(*fd.kind, mask_of_row(*row), no, name);
 }
 
+// The name that was entered, as the cell may have it. False: it may not.
+static bool name_for(const FILECELL& cell, const char* entered, char (&name)[FILE_NAME_SIZE])
+{
+    CopyText(name, entered);
+    const FILELIST* const first = FileSide_Row(SIDE_C, first_row(SIDE_C));
+    return !is_frames() ||
+           FileKind_FrameName(name, cell.name, first ? first->name : "", entered) == 0;
+}
+
+// Each name is there once, also among those that are being given.
+static void rename_frames(const char* entered)
+{
+    std::unordered_set<std::string> given;
+    bool is_clash = false;
+    for (int i = 0, no; (no = LS_GetSelected(list_of(SIDE_C), i)) >= 0; i++) {
+        const FILELIST* const row = FileSide_Row(SIDE_C, no);
+        char name[FILE_NAME_SIZE];
+        if (!row || !row->cell || !FileSide_InView(*row->cell) ||
+            !name_for(*row->cell, entered, name) || strcmp(name, row->cell->name) == 0)
+            continue;
+        if (FMCtrl2_ExistRegName(name) || !given.insert(name).second)
+            is_clash = true;
+        else
+            FileKind_Rename(*fd.kind, mask_of_row(*row), row->cell->no, name);
+    }
+    if (is_clash)
+        PaneMessage_Create("Invalid Name", PANE_ALERT,
+                           "This name is already existing.\nPlease enter other name.");
+}
+
 static void single_delete_reg()
 {
-    for (int i = 0, no; (no = LS_GetSelected(list_of(SIDE_C), i)) >= 0; i++)
-        if (const FILELIST* const row = FileSide_Row(SIDE_C, no))
-            FileKind_Delete(*fd.kind, mask_of_row(*row), no);
+    for (int i = 0, no; (no = LS_GetSelected(list_of(SIDE_C), i)) >= 0; i++) {
+        const FILELIST* const row = FileSide_Row(SIDE_C, no);
+        if (row && row->cell)
+            FileKind_Delete(*fd.kind, mask_of_row(*row), row->cell->no);
+    }
 }
 
 // Name of each selected file that is in view; a null name: as it is.
@@ -380,8 +549,8 @@ static void gather_files(const char* new_name)
                 info2name(info, old_path, where.device, where.dir, sizeof old_path) != 0)
                 continue;
             if (new_name) {
-                CopyText(info.name, new_name);
-                if (info2name(info, new_path, where.device, where.dir, sizeof new_path) != 0 ||
+                if (!name_for(*cell, new_name, info.name) ||
+                    info2name(info, new_path, where.device, where.dir, sizeof new_path) != 0 ||
                     strcmp(old_path, new_path) == 0)
                     continue;
             }
@@ -401,7 +570,7 @@ static int single_rename_exec(const char* text)
         return -1;
     }
     if (FileSide_Where(SIDE_C).device == FILE_REGISTER) {
-        single_rename_reg(name);
+        (is_frames() ? rename_frames : single_rename_reg)(name);
         return 0;
     }
     if (visit().list)
@@ -413,6 +582,8 @@ static int single_rename_exec(const char* text)
 static int single_rename_sel()
 {
     const FILELIST* const row = FileSide_Row(SIDE_C, first_row(SIDE_C));
+    if (row && row->type == FILEROW_FOLDER)
+        return -1;
     return CreateWindow(WINDOW_KEYBOARD, "Name",
                         {.value = row ? row->name : "",
                          .input_max = FILE_NAME_SIZE - 1,
@@ -498,9 +669,25 @@ static int regions_changed()
     return 0;
 }
 
-static int list_touched(int list)
+static int list_touched(int list, int row)
+{
+    FileSide_Touched(list - 1, row);
+    if (fd.kind->has_folders && list - 1 < sides_shown())
+        show_side(list - 1); // another folder, other ways
+    return 0;
+}
+
+static int list_flashed(int list)
 {
     FileSide_Selected(list - 1);
+    return 0;
+}
+
+static int frames_changed(int what)
+{
+    constexpr int THUMBNAIL = 1;
+    if (what != THUMBNAIL)
+        FileSide_FramesChanged();
     return 0;
 }
 
@@ -521,8 +708,11 @@ static int file_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     case LMSG_BTNSEL: return button_pressed(Text(ax));
     case LMSG_PANEQUIT: return pane_closed(int(ax), int(bx));
     case LMSG_PANEREGION: return regions_changed();
-    case LMSG_LISTSEL:
-    case LMSG_LISTFLASH: return list_touched(int(ax));
+    case LMSG_LISTSEL: return list_touched(int(ax), int(bx));
+    case LMSG_LISTFLASH: return list_flashed(int(ax));
+    case LMSG_FMCTRLCHANGE: return frames_changed(int(bx));
+    case LMSG_FOLDERNAMESENSE: return frames_changed(0);
+    case MSG_REDRAW: FileSide_Pass(); return 0;
     case LMSG_REGISTER: (void)FileSide_Registered(int(ax), int(cx)); return 0;
     case MSG_TALLY: return take_tally(Text(ax), Text(bx));
     default: return 0;

@@ -1,4 +1,5 @@
 #include "pc_file_kind.h"
+#include "fmctrl.h"
 #include "menu_macro.h"
 #include "netio.h"
 #include "pane.h"
@@ -114,6 +115,10 @@ static uint64_t mask_of_key(int id)
     const int row = row_of_key(id);
     return row < 0 ? 0 : uint64_t(1) << row;
 }
+static uint64_t mask_of_frame(int) // its name says all
+{
+    return 1;
+}
 
 static uint64_t mask_of_panel(int)
 {
@@ -176,6 +181,29 @@ static constexpr int NOT_TOLD = -1; // no message tells of it
 static constexpr FileRegisters menu_macros = {NOT_TOLD, exist_menu_macro, lock_menu_macro,
                                               name_menu_macro, row_of_panel};
 
+// The frame memory's catalogue is of the first switcher.
+static int row_of_frames(int id)
+{
+    constexpr int FIRST_SWITCHER = 896;
+    return id == FIRST_SWITCHER ? 0 : -1;
+}
+static int exist_frame(int, int no)
+{
+    return FMCtrl2_IsRegStoreMulti(no);
+}
+static int lock_frame(int, int)
+{
+    return 0;
+}
+static char frame_name[FILE_NAME_SIZE]; // until the next call
+static const char* name_frame(int, int no)
+{
+    fname2dispname(FMCtrl2_GetRegNameMulti(no), frame_name, sizeof frame_name);
+    return frame_name;
+}
+static constexpr FileRegisters frames = {NOT_TOLD, exist_frame, lock_frame, name_frame,
+                                         row_of_frames};
+
 static constexpr FileCommands effect_commands = {"put Effect@Effect@Rename@Rename",
                                                  "put Effect@Effect@Delete@Delete", mask_of_effect,
                                                  MASK_WIDE};
@@ -194,6 +222,10 @@ static constexpr FileCommands shotbox_commands = {
 static constexpr FileCommands macro_commands = {"put Macro@Register@Rename@Rename",
                                                 "put Macro@Register@Delete@Delete", mask_of_macro,
                                                 MASK_WIDE};
+
+static constexpr FileCommands frame_commands = {"put Frame Mem@File@Rename",
+                                                "put Frame Mem@File@Delete Thumbnail@Single",
+                                                mask_of_frame, MASK_NONE, FMCtrl2_GetRegNameMulti};
 
 constexpr FileKind file_kinds[FILEPAGES] = {
     {.page = FILEPAGE_SETUP, .id = 0x71120000, .grp = 0},
@@ -271,6 +303,19 @@ constexpr FileKind file_kinds[FILEPAGES] = {
      .way = FILEWAY_PLAIN,
      .left = FILE_REMOVABLE,
      .right = FILE_REGISTER},
+    {.page = FILEPAGE_FMEM,
+     .id = 0x71510100,
+     .grp = 23,
+     .registers = &frames,
+     .commands = &frame_commands,
+     .way = FILEWAY_FRAME},
+    {.page = FILEPAGE_FMEM_V6,
+     .id = 0x71510200,
+     .grp = 23,
+     .registers = &frames,
+     .commands = &frame_commands,
+     .way = FILEWAY_FRAME,
+     .has_folders = true},
 };
 
 static constexpr bool KindsAreSound()
@@ -324,6 +369,10 @@ void FileKind_Rename(const FileKind& kind, uint64_t mask, int no, const char* na
     char text[20];
     if (!kind.commands || mask == 0)
         return;
+    if (kind.commands->name) {
+        Net_SendCommandFormat("%s#%s,%s", kind.commands->rename, kind.commands->name(no), name);
+        return;
+    }
     print_mask(*kind.commands, mask, text);
     Net_SendCommandFormat("%s#%s%d,%s", kind.commands->rename, text, number_of(kind, no), name);
 }
@@ -333,7 +382,37 @@ void FileKind_Delete(const FileKind& kind, uint64_t mask, int no)
     char text[20];
     if (!kind.commands || mask == 0)
         return;
+    if (kind.commands->name) {
+        Net_SendCommandFormat("%s#%s", kind.commands->remove, kind.commands->name(no));
+        return;
+    }
     print_mask(*kind.commands, mask, text);
     const int number = number_of(kind, no);
     Net_SendCommandFormat("%s#%s%d,%d", kind.commands->remove, text, number, number);
+}
+
+// --- Names of the frame memory ---
+
+// "image" and three digits: the switcher gives these in turn.
+static bool is_default_name(const char* bare)
+{
+    constexpr char WORD[] = "image";
+    constexpr size_t DIGITS = 3;
+    const char* const digits = bare + strlen(WORD);
+    return BeginsWith(bare, WORD) && strlen(digits) == DIGITS &&
+           strspn(digits, "0123456789") == DIGITS;
+}
+
+int FileKind_FrameName(char (&name)[FILE_NAME_SIZE], const char* own, const char* first,
+                       const char* entered)
+{
+    constexpr size_t CHARACTERS = 8; // behind the prefix
+    const bool has_prefix = *first && *entered == *first;
+    char text[CMD_SIZE];
+    CopyText(text, entered + has_prefix);
+    name[0] = '\0';
+    if (!StrRegName(text) || !*own || is_default_name(text))
+        return -1;
+    PrintText(name, "%c%.*s", *own, int(CHARACTERS), text);
+    return 0;
 }

@@ -26,6 +26,8 @@ enum FILEPAGE : int { // rows of file_kinds, the argument of the page code
     FILEPAGE_FNAMEDATA,
     FILEPAGE_XPTSRCNAME,
     FILEPAGE_IMPORTSRCNAME,
+    FILEPAGE_FMEM,    // the older frame memory: a row a register
+    FILEPAGE_FMEM_V6, // the newer one: folders, and of the chosen one what is in it
     FILEPAGES,
 };
 
@@ -46,12 +48,14 @@ struct FileCommands {
     const char* remove;
     uint64_t (*mask)(int region_id); // 0: the region has none of these registers
     FILEMASK form;
+    const char* (*name)(int no) = nullptr; // not null: told by its name instead of mask and number
 };
 
 enum FILEWAY : int {
     FILEWAY_RESERVED, // to and from the running system under the hub's reservation
     FILEWAY_PLAIN,    // by transfer: the hub knows no such category
     FILEWAY_MACRO,    // a file of this unit that the recorder writes and reads
+    FILEWAY_FRAME,    // by transfer, under names of the frame memory's own
 };
 
 struct FileKind {
@@ -64,6 +68,7 @@ struct FileKind {
     FILEWAY way = FILEWAY_RESERVED;
     int left = FILE_REGISTER; // FILEDRIVE of the sides until the operator has chosen
     int right = FILE_LOCAL;
+    bool has_folders = false; // lists what a folder holds instead of a row a register number
 };
 extern const FileKind file_kinds[FILEPAGES];
 
@@ -71,5 +76,10 @@ int FileKind_Group(const FileKind& kind);
 // Rename or delete register no (from 0) of the regions in the mask of the running system.
 void FileKind_Rename(const FileKind& kind, uint64_t mask, int no, const char* name);
 void FileKind_Delete(const FileKind& kind, uint64_t mask, int no);
+// Frame memory: the name that a register gets when an operator enters one for it and for others:
+// its own prefix stays. entered is what stood in the keyboard, first the name that it began with.
+// Returns 0, or -1 for a name that is empty or one that the system gives itself.
+int FileKind_FrameName(char (&name)[FILE_NAME_SIZE], const char* own, const char* first,
+                       const char* entered);
 // What register no of the running system has in a region: 0, or -1 when it is empty.
 int FileKind_Register(const FileKind& kind, int region_id, int no, char* name, int size, int* lock);

@@ -2,7 +2,8 @@
 // that has the register. The cells of the running system come from the mirror of the registers,
 // those of a drive from a search. The side knows which cells the region selection leaves in view
 // and keeps the page's list in step; what is done with the rows that are selected belongs to the
-// pages.
+// pages. Of the newer frame memory it shows the folders and, below them, what the open one holds: a
+// row a register there, by number.
 #pragma once
 #include "file_dir.h"
 #include "pc_file.h"
@@ -20,6 +21,7 @@ struct FileMemory {
     int now = 0;
     bool is_plural = false;
     bool selected[FILE_ROWS] = {};
+    char folder[FRAME_FOLDER_SIZE] = ""; // frame memory: the open one; "": the default folder
 };
 
 // The lists of the two sides in their columns: the detail page goes on with regions.
@@ -30,13 +32,18 @@ constexpr int FILE_SIDES = 2; // at most two are shown at a time; the detail pag
 // --- Opening and closing ---
 // Show the kind on side n in list n + 1; with regions the columns from COL_REGIONS on get a mark
 // for each row of the region table that has the register. memory is read now and kept up to date.
-void FileSide_Open(int n, const FileKind& kind, FileMemory* memory, bool has_regions);
+// Without folder rows the page chooses the folder itself.
+void FileSide_Open(int n, const FileKind& kind, FileMemory* memory, bool has_regions,
+                   bool has_folder_rows = true);
 void FileSide_CloseAll();
 
 // --- Content ---
-void FileSide_Refresh(int n);    // begin anew: registers at once, a drive as its rows come
-void FileSide_SetRegions(int n); // the region selection has changed
-void FileSide_Selected(int n);   // so has the list's: note it
+void FileSide_Refresh(int n);          // begin anew: registers at once, a drive as its rows come
+void FileSide_SetRegions(int n);       // the region selection has changed
+void FileSide_Selected(int n);         // so has the list's: note it
+void FileSide_Touched(int n, int row); // the same by a touch of that row, which may open a folder
+void FileSide_FramesChanged();         // the frame memory's catalogue: shown at the next pass
+void FileSide_Pass();                  // MSG_REDRAW
 int FileSide_Registered(int kind, int no); // LMSG_REGISTER; 1 when a side shows it
 
 // --- For what is done with the rows ---
@@ -50,4 +57,5 @@ inline bool FileSide_InView(const FILECELL& cell)
 }
 // The cell as a file of the side; no in place of its own number when it is not negative.
 FILEINFO FileSide_Info(int n, const FILECELL& cell, int no);
-bool FileSide_IsBusy(int n); // its search is running
+bool FileSide_IsBusy(int n);  // its search is running
+int FileSide_FolderId(int n); // of the frame memory's open folder, 0 the default one

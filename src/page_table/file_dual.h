@@ -28,29 +28,36 @@ constexpr BT_TBL FileMove(int type, int x, BT_TBL row)
 }
 
 #define FILE_SINGLE(word) {"LOCAL@File@Single@" word}
-#define FILE_DUAL_BUTTONS                                                                                              \
+#define FILE_DUAL_BUTTONS(b)                                                                                           \
     FileChoice(100, {.id = BTN_FILE_DEVICE_A, .caption = "", .cmd = FILE_SINGLE("Device A")}),                           \
     FileChoice(204, {.id = BTN_FILE_DIR_A, .caption = "", .cmd = FILE_SINGLE("Dir A")}),                                 \
-    FileChoice(405, {.id = BTN_FILE_DEVICE_B, .caption = "", .cmd = FILE_SINGLE("Device B")}),                           \
-    FileChoice(509, {.id = BTN_FILE_DIR_B, .caption = "", .cmd = FILE_SINGLE("Dir B")}),                                 \
+    FileChoice(b, {.id = BTN_FILE_DEVICE_B, .caption = "", .cmd = FILE_SINGLE("Device B")}),                           \
+    FileChoice(b + 104, {.id = BTN_FILE_DIR_B, .caption = "", .cmd = FILE_SINGLE("Dir B")}),                                 \
     Jump({.id = BTN_FILE_DETAIL_A, .caption = "Detail", .cmd = FILE_SINGLE("Detail A")}),                              \
     FileMove(BT_TRANSFER_RIGHT, 240, {.id = BTN_FILE_L_TO_R, .caption = "L to R", .cmd = FILE_SINGLE("L to R")}),           \
     FileMove(BT_TRANSFER_LEFT, 355, {.id = BTN_FILE_R_TO_L, .caption = "R to L", .cmd = FILE_SINGLE("R to L")}),            \
     Jump({.id = BTN_FILE_DETAIL_B, .caption = "Detail", .cmd = FILE_SINGLE("Detail B")})
 
 inline constexpr BT_TBL bt_file_dual[] = {
-    FILE_DUAL_BUTTONS,
+    FILE_DUAL_BUTTONS(405),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_file_dual));
 
 // The effects: a third key between the two of the transfer and the details.
 inline constexpr BT_TBL bt_file_dual3[] = {
-    FILE_DUAL_BUTTONS,
+    FILE_DUAL_BUTTONS(405),
     Toggle({.id = BTN_FILE_PATCH_LINK, .caption = "Src Patch\nLink", .cmd = {"LOCAL@File@All@Src Patch Link"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_file_dual3));
+
+// The newer frame memory: the lists have marks of folders at places of their own.
+inline constexpr BT_TBL bt_file_frame[] = {
+    FILE_DUAL_BUTTONS(450),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_file_frame));
 
 inline constexpr BT_TBL bt_file_detail[] = {
     FileChoice(100, {.id = BTN_FILE_DEVICE_C, .caption = "", .cmd = FILE_SINGLE("Device C")}),
@@ -80,6 +87,23 @@ inline constexpr LS_TBL ls_file_detail[] = {
 };
 static_assert(ListsAreSound(ls_file_detail));
 
+// The marks of folders stand at x 150 and 500.
+inline constexpr LS_TBL ls_file_frame[] = {
+    {.id = 1, .hn = 3, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 78, 80},
+     .group = {1, 1, 999}, .sb_top = 124, .sb_bottom = 388},
+    {.id = 2, .hn = 3, .vn = 11, .x = 450, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 78, 80},
+     .group = {1, 1, 999}, .sb_top = 124, .sb_bottom = 388},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_file_frame));
+
+inline constexpr LS_TBL ls_file_frame_detail[] = {
+    {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 240, 122, 60},
+     .group = {3, 999}, .sb_top = 124, .sb_bottom = 388},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_file_frame_detail));
+
 inline constexpr HF_TBL hf_file_effect[] = {
     {.id = 1, .caption = "Effect\n1-99", .page = 0x71210000},
     {.id = 2, .caption = "User DME\nWipe Eff\n101-199", .page = 0x71220000},
@@ -103,6 +127,8 @@ inline constexpr HF_TBL hf_file_macro[] = {
     HF_END,
 };
 inline constexpr HF_TBL hf_file_frame[] = {
+    {.id = 1, .caption = "Frame\nMemory", .page = 0x71510000},
+    {.id = 2, .caption = "Folder", .page = 0x71520000},
     {.id = 3, .caption = "Frame\nMemory\nData", .page = 0x71530000},
     HF_END,
 };
@@ -126,6 +152,8 @@ struct FileDual {
     const FileGroup* group;
     uint32_t tab;
     const BT_TBL* buttons = bt_file_dual;
+    const LS_TBL* lists = ls_file_dual;
+    const LS_TBL* detail_lists = ls_file_detail;
 };
 inline constexpr FileDual file_dual_list[] = {
     {0x71120000, FILEPAGE_SETUP, "Setup", &file_group_setup, 2},
@@ -149,6 +177,8 @@ inline constexpr FileDual file_dual_list[] = {
     {0x71530000, FILEPAGE_FNAMEDATA, "Frame Memory Data", &file_group_frame, 3},
     {0x71740000, FILEPAGE_XPTSRCNAME, "Xpt Source Name", &file_group_names, 4},
     {0x71750000, FILEPAGE_IMPORTSRCNAME, "Import Source Name", &file_group_names, 5},
+    {0x71510100, FILEPAGE_FMEM, "Frame Memory", &file_group_frame, 1},
+    {0x71510200, FILEPAGE_FMEM_V6, "Frame Memory", &file_group_frame, 1, bt_file_frame, ls_file_frame, ls_file_frame_detail},
 };
 static_assert(std::size(file_dual_list) == FILEPAGES);
 
@@ -156,14 +186,14 @@ constexpr PAGE FileDualPage(const FileDual& f)
 {
     return {.id = f.id, .tree = {"File", f.word},
             .obj = {Base(base_file_main), LeftTabs(vf_file, f.group->left), BottomTabs(f.group->bottom, f.tab),
-                    Buttons(f.buttons), Lists(ls_file_dual), Code(pc_file_dual, f.page)}};
+                    Buttons(f.buttons), Lists(f.lists), Code(pc_file_dual, f.page)}};
 }
 
 constexpr PAGE FileDetailPage(const FileDual& f)
 {
     return {.id = f.id + 1, .tree = {"File", f.word, "Detail"},
             .obj = {Base(base_file_sub, f.id), LeftTabs(vf_file, f.group->left), BottomTabs(f.group->bottom, f.tab),
-                    Buttons(bt_file_detail), Lists(ls_file_detail), Code(pc_file_detail, f.page)}};
+                    Buttons(bt_file_detail), Lists(f.detail_lists), Code(pc_file_detail, f.page)}};
 }
 
 constexpr auto FileDualRows()

@@ -7,7 +7,7 @@ inline constexpr VF_TBL vf_file[] = {
     {.id = 2, .caption = "Effect", .page = 0x71210000},
     {.id = 3, .caption = "Snapshot", .page = 0x71310000},
     {.id = 4, .caption = "Shotbox\nMacro", .page = 0x71410000},
-    {.id = 5, .caption = "Frame\nMemory", .page = 0x71530000},
+    {.id = 5, .caption = "Frame\nMemory", .page = 0x71510000},
     {.id = 7, .caption = "Directory\nNames", .page = 0x71710000},
     VF_END,
 };

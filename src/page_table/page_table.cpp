@@ -2,6 +2,7 @@
 #include "dme.h"
 #include "file_directory.h"
 #include "file_dual.h"
+#include "file_folder.h"
 #include "file_tops.h"
 #include "fm.h"
 #include "gallery.h"
@@ -63,6 +64,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 registers_pages,
                 system_pages,
                 file_directory_pages,
+                file_folder_pages,
                 saver_pages,
                 gallery_pages);
 }

@@ -69,3 +69,38 @@ TEST_F(FilePictures, DetailPage)
     Paint();
     EXPECT_TRUE(MatchesGolden("file_detail"));
 }
+
+// The newer frame memory: folders on both sides, the second one open at the left.
+TEST_F(FilePictures, FrameMemoryPage)
+{
+    DeviceStructure();
+    Tell("16@Frame Mem@Status@Max Register#200");
+    int number = 0;
+    for (const char* name : {"Mlogo", "Slogo", "Mskyline", "Mnews0001", "Mnews0002", "Mbeach"})
+        Tell("16@Frame Mem@Status@File Name Sense#" + std::to_string(++number) + ",81," + name);
+    Tell("16@Frame Mem@Status@Folder Name Sense#0,Default.,1,Sport,2,Graphics,3,News");
+    for (const char* name : {"Mlogo", "Slogo", "Mbeach"})
+        Tell("Frame Mem@Folder@Move Still#0," + std::string(name) + ",2");
+    Lines sent = Open(0x71510000);
+    for (const std::string& line : sent) {
+        const std::string label =
+            line.substr(line.find("#L") + 2, line.find(',') - line.find("#L") - 2);
+        if (line.find("Access@Find#L") == std::string::npos)
+            continue;
+        Tell("File@Access@Find#L" + label + ",77");
+        for (const char* file : {"Mclock.FMEM_001.SFM", "Mlogo.FMEM_012.SFM", "Sbg.FMEX1234.SFA",
+                                 "Sbg2.FMEX_1234.SFA"})
+            Tell(std::string("File@Access@Find@Status#77,MYHOST:/mnt/data/user/root/SYSTEM/FMEMFOL/"
+                             "DEFAULT/SWR000D001/") +
+                 file + ",Wed Nov 25 10:30:00 2026");
+        Tell("File@Access@Find@Status#77,OK");
+    }
+    Pass(100);
+    (void)Touch(180, 124 + 22 * 2 + 10); // Graphics
+    Pass(100);
+    LS_SetMS(1, 1);
+    LS_SetSelected(1, 4, 0, 1);
+    LS_SetSelected(1, 5, 0, 1);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("file_frame"));
+}

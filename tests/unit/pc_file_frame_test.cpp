@@ -1,0 +1,210 @@
+// The file pages of the frame memory: registers and folders to drives and back, names, folders.
+#include "frame_page.h"
+
+namespace
+{
+constexpr uint32_t OLD = 0x71510100, NEW = 0x71510200, FOLDERS_PAGE = 0x71520000;
+constexpr const char* DRIVE = "MYHOST:/mnt/data/user/root/SYSTEM/";
+constexpr const char* DUPLICATE =
+    "Some requests are skipped. \nFollowing operation is not permitted.\n"
+    "  - Loading that will cause duplicate\n    register name.";
+
+std::string OnDrive(const std::string& rest)
+{
+    return DRIVE + rest;
+}
+} // namespace
+
+TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
+{
+    Tell("Frame Mem@Status@Extended Capacity#1");
+    Store({"Mlogo", "Slogo", "Mbeach"});
+    Store({"Mfar"}, 16384 + 12);
+    Folders("0,Default.,3,Sport");
+    const Lines opened = Open(NEW);
+    EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo", "2 Slogo", "3 Mbeach", "X12 Mfar"));
+    EXPECT_STREQ(LS_GetData(1, 1, COL_NAME) + 6, "Sport");
+    // The drive: what has no name of the grammar is not there.
+    Answer(opened, "Access@ListDir",
+           {OnDrive("FMEMFOL/ARCHIVE"), OnDrive("FMEMFOL/TOO LONG A NAME")});
+    Answer(opened, "Access@Find",
+           {OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mold.FMEM_1234.SFM"),
+            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Sanc.FMEX_007.SFA"),
+            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mlow.FMEM_002.SFM"),
+            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mbad.FMEM_5663.SFM"),
+            OnDrive("FMEMFOL/DEFAULT/SWR000D001/rubbish.txt")});
+    EXPECT_THAT(Rows(2), ElementsAre("2 Mlow", "1234 Mold", "X7 Sanc"));
+    EXPECT_STREQ(LS_GetData(2, 1, COL_NAME) + 6, "ARCHIVE");
+    EXPECT_EQ(LS_GetNData(2), 3 + 3);
+    // A still that is moved leaves, and is in the other folder.
+    Tell("Frame Mem@Folder@Move Still#0,Mlogo,3");
+    Pass(10);
+    EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar"));
+    (void)Touch(180, 124 + 22 * 2 + 5);
+    EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo"));
+    EXPECT_THAT(Touch(560, 124 + 22 * 2 + 5), Contains(HasSubstr("SYSTEM/FMEMFOL/ARCHIVE/,*.*.*")));
+}
+
+TEST_F(FramePage, SaveNamesTheRegisterItsNumberAndTheFolder)
+{
+    Store({"Mlogo", "Slogo"});
+    Store({"Mlate"}, 300);
+    Folders("0,Default.,3,Sport");
+    Answer(Open(NEW), "Access@Find", {});
+    (void)Touch(560, 124 + 22 * 2 + 5); // Sport, which the drive does not have yet
+    Select(1, {2, 4});
+    const Lines sent = Run(Press(BTN_FILE_L_TO_R));
+    EXPECT_THAT(sent, Contains(HasSubstr("Get#")).Times(2));
+    EXPECT_THAT(sent, Contains(HasSubstr(",SWR001D001:Mlogo.FMEM_001.SF2,")));
+    EXPECT_THAT(sent,
+                Contains(HasSubstr("," + OnDrive("FMEMFOL/Sport/SWR000D001/Mlogo.FMEM_001.SFM"))));
+    EXPECT_THAT(sent,
+                Contains(HasSubstr("," + OnDrive("FMEMFOL/Sport/SWR000D001/Mlate.FMEM_300.SFM"))));
+    EXPECT_THAT(sent, Not(Contains(HasSubstr("Move Still"))));
+}
+
+TEST_F(FramePage, LoadTakesEmptyRegistersAndPutsThemIntoTheFolder)
+{
+    Store({"Mlogo", "Slogo"});
+    Folders("0,Default.,3,Sport");
+    const Lines opened = Open(NEW);
+    Answer(opened, "Access@Find",
+           {OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mlogo.FMEM_009.SFM"),
+            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mnew.FMEM_001.SFM"),
+            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mnew.FMEM_002.SFM")});
+    (void)Touch(180, 124 + 22 * 2 + 5); // Sport
+    Select(2, {0, 2, 3, 4});
+    const Lines sent = Run(Press(BTN_FILE_R_TO_L));
+    EXPECT_EQ(Message(), DUPLICATE); // one name is there, one comes twice
+    EXPECT_THAT(sent, Contains(HasSubstr(",SWR001D001:Mnew.FMEM_003.SF2")));
+    EXPECT_THAT(sent, Not(Contains(HasSubstr(":Mlogo."))));
+    EXPECT_THAT(sent, Contains("put 16@Frame Mem@Folder@Move Still#0,Mnew,3"));
+}
+
+TEST_F(FramePage, FullStoreSaysSo)
+{
+    for (int i = 0; i < 300; i++)
+        Store({"Mr" + std::to_string(i) + "x"}, i + 1);
+    Answer(Open(NEW), "Access@Find", {OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mnew.FMEM_001.SFM")});
+    Select(2, {1});
+    EXPECT_THAT(Press(BTN_FILE_R_TO_L), IsEmpty());
+    EXPECT_THAT(Message(), HasSubstr("no empty register"));
+}
+
+TEST_F(FramePage, StillsMoveBetweenFoldersOfTheStore)
+{
+    Store({"Mlogo", "Slogo"});
+    Folders("0,Default.,3,Sport");
+    Open(NEW);
+    Press(BTN_FILE_DEVICE_B);
+    Quit(FILE_REGISTER + 1);
+    EXPECT_EQ(BT_GetVisible(BTN_FILE_L_TO_R), BT_DISABLED); // the same folder
+    (void)Touch(560, 124 + 22 * 2 + 5);
+    Select(1, {2, 3});
+    Pass(1000);
+    EXPECT_THAT(Press(BTN_FILE_L_TO_R),
+                ElementsAre("put 16@Frame Mem@Folder@Move Still#0,Mlogo,3",
+                            "put 16@Frame Mem@Folder@Move Still#0,Slogo,3"));
+}
+
+// The older one: a row a register, and the row is where it goes.
+TEST_F(FramePage, OlderMemoryLoadsByRow)
+{
+    SYS_FmemV6 = 0;
+    Store({"Mlogo", "Slogo", "Mbeach"});
+    const Lines opened = Open(OLD);
+    EXPECT_EQ(LS_GetNData(1), 224);
+    EXPECT_STREQ(LS_GetData(1, 2, COL_NAME), "Mbeach");
+    Answer(opened, "Access@Find",
+           {OnDrive("FRAMEMEM/SWR000D001/Mbeach.FMEM_001.SFM"),
+            OnDrive("FRAMEMEM/SWR000D001/Slogo.FMEM_002.SFM")});
+    Select(2, {0, 1});
+    LS_SetNowLine(
+        1, 2); // the first onto the register of its name, the second under a name that is taken
+    const Lines sent = Run(Press(BTN_FILE_R_TO_L));
+    EXPECT_THAT(sent, Contains(HasSubstr("PutV3#")).Times(1));
+    EXPECT_THAT(sent, Contains(HasSubstr(",SWR001D001:Mbeach.FMEM_003.SFM")));
+    EXPECT_THAT(sent, Not(Contains(HasSubstr("Move Still"))));
+    EXPECT_EQ(Message(), DUPLICATE);
+}
+
+TEST_F(FramePage, RenameKeepsTheSideAndGivesNoNameTwice)
+{
+    Store({"Mlogo", "Slogo", "Mbeach"});
+    static const struct {
+        std::vector<int> rows;
+        const char* entered;
+        Lines sent;
+    } cases[] = {
+        {{1, 2},
+         "Mclock",
+         {"put Frame Mem@File@Rename#Mlogo,Mclock", "put Frame Mem@File@Rename#Slogo,Sclock"}},
+        {{2}, "clock", {"put Frame Mem@File@Rename#Slogo,Sclock"}},
+        {{1}, "Mtoolonganame", {"put Frame Mem@File@Rename#Mlogo,Mtoolonga"}},
+        {{1}, "Mbeach", {}}, // taken
+        {{1}, "Mlogo", {}},  // as it is
+        {{1}, "Mimage001", {}},
+        {{1}, "image123", {}},
+        {{1, 3}, "Mtwice", {"put Frame Mem@File@Rename#Mlogo,Mtwice"}},
+    };
+    for (const auto& c : cases) {
+        Open(NEW + 1);
+        Select(1, c.rows);
+        LS_SetNowLine(1, c.rows[0]);
+        Select(1, c.rows);
+        Press(BTN_FILE_RENAME);
+        EXPECT_EQ(Enter(c.entered), c.sent) << c.entered;
+        const std::string entered = c.entered;
+        const bool says = entered == "Mbeach" || entered == "Mtwice";
+        EXPECT_EQ(Message() == "This name is already existing.\nPlease enter other name.", says)
+            << c.entered;
+        if (says)
+            Quit(0);
+    }
+    Press(BTN_FILE_DELETE);
+    EXPECT_THAT(Quit(1), ElementsAre("put Frame Mem@File@Delete Thumbnail@Single#Mlogo",
+                                     "put Frame Mem@File@Delete Thumbnail@Single#Mbeach"));
+}
+
+TEST_F(FramePage, FoldersAreMadeNamedAndDeleted)
+{
+    Store({"Mlogo", "Mnews0001", "Mnews0002"});
+    Folders("0,Default.,1,Sport,2,");
+    Open(FOLDERS_PAGE);
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 2);
+    EXPECT_STREQ(LS_GetData(1, 0, 1), "1"); // a still and a clip
+    EXPECT_STREQ(LS_GetData(1, 0, 2), "1");
+    EXPECT_EQ(Usable({49, 50, 51}), std::vector{49}); // the switcher's own folder stays
+    static const struct {
+        const char* entered;
+        const char* sent;
+        const char* says;
+    } cases[] = {
+        {"News", "put Frame Mem@Folder@Rename#2,News", ""},
+        {"Too long a name", "put Frame Mem@Folder@Rename#2,Too_long", ""},
+        {"Sport", "", "This name is already existing.\nPlease enter other name."},
+        {"default", "", "This name is already existing.\nPlease enter other name."},
+        {"", "", "Empty..."},
+    };
+    for (const auto& c : cases) {
+        Press(49);
+        EXPECT_EQ(Enter(c.entered), *c.sent ? Lines{c.sent} : Lines{}) << c.entered;
+        EXPECT_EQ(*c.says ? Message() : "", c.says);
+        if (*c.says)
+            Quit(0);
+        Pass(1000);
+    }
+    (void)Touch(180, 78 + 22 * 2 + 5);
+    Press(50);
+    EXPECT_THAT(Enter("Arts"), ElementsAre("put Frame Mem@Folder@Rename#1,Arts"));
+    Folders("0,Default.,1,Arts,2,News"); // it stays on the folder, wherever it stands
+    Folders("0,Default.,1,Zoo,2,News");
+    EXPECT_EQ(LS_GetNowLine(1), 2);
+    Pass(1000);
+    Press(51);
+    EXPECT_THAT(Quit(2), IsEmpty());
+    Pass(1000);
+    Press(51);
+    EXPECT_THAT(Quit(1), ElementsAre("put Frame Mem@Folder@Delete#1"));
+}
