@@ -22,6 +22,8 @@ inline constexpr HF_TBL hf_file_setup[] = {
 };
 inline constexpr HF_TBL hf_file_names[] = {
     {.id = 1, .caption = "Directory", .page = 0x71710000},
+    {.id = 2, .caption = "Unit ID\nCopy", .page = 0x71720000},
+    {.id = 3, .caption = "Group ID\nCopy", .page = 0x71730000},
     {.id = 4, .caption = "Xpt\nSource\nName", .page = 0x71740000},
     {.id = 5, .caption = "Import\nSource\nName", .page = 0x71750000},
     HF_END,

@@ -3,6 +3,7 @@
 #include "file_directory.h"
 #include "file_dual.h"
 #include "file_folder.h"
+#include "file_idcopy.h"
 #include "file_tops.h"
 #include "fm.h"
 #include "gallery.h"
@@ -65,6 +66,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 system_pages,
                 file_directory_pages,
                 file_folder_pages,
+                file_idcopy_pages,
                 saver_pages,
                 gallery_pages);
 }

@@ -69,6 +69,14 @@ struct AllPages : testing::Test {
         Harness_Reset();
         GL_AllPageDisplayMode = 1; // the variants of a page, too
     }
+    // Two pages are not opened in this mode.
+    static bool Open(uint32_t id)
+    {
+        GL_AllPageDisplayMode = SearchPageTable_Free_ALL(PageTable, id) != nullptr;
+        const int result = CreatePage(id);
+        GL_AllPageDisplayMode = 1;
+        return result == 0;
+    }
     void TearDown() override { Harness_Reset(); }
     // Opens every page, each from the top menu and back to it, and
     // tells the visitor what the visit left subscribed.
@@ -80,7 +88,7 @@ struct AllPages : testing::Test {
         Pass(10);
         books.Take();
         for (const PAGE* row = PageTable; row->id != PAGE_END; row++) {
-            if (CreatePage(row->id) != 0)
+            if (!Open(row->id))
                 continue;
             opened++;
             Pass(10);
