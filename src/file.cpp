@@ -293,6 +293,21 @@ bool file_cut_row(char* text, char** name, char** date)
     return true;
 }
 
+static bool is_find_failed = false; // of the search that ends now
+
+static void end_search(const QUEUE* job, bool is_failed)
+{
+    is_find_failed = is_failed;
+    if (job->retfunc.find)
+        job->retfunc.find(job->label, job->tag, nullptr, nullptr);
+    is_find_failed = false;
+}
+
+int File_FindFailed()
+{
+    return is_find_failed;
+}
+
 static void reply_find(QUEUE* job, const char* text)
 {
     char row[CMD_SIZE];
@@ -313,8 +328,7 @@ static void reply_find(QUEUE* job, const char* text)
         file_tell(&copy, name, when);
         return;
     }
-    if (copy.retfunc.find)
-        copy.retfunc.find(copy.label, copy.tag, nullptr, nullptr);
+    end_search(&copy, !BeginsWith(text, "OK"));
     SendMessage(LMSG_FINDSTATUS, copy.worktype, int(copy.label), 0, 0);
     queue_remove(copy.label);
 }
@@ -328,8 +342,8 @@ static void give_up_search(QUEUE* job)
     const QUEUE copy = *job;
     if (file_work(copy.worktype)->reply == Reply::Rows)
         call_text(&copy, nullptr);
-    else if (copy.retfunc.find)
-        copy.retfunc.find(copy.label, copy.tag, nullptr, nullptr);
+    else
+        end_search(&copy, true);
     queue_remove(copy.label);
 }
 

@@ -147,6 +147,7 @@ using FILE_LIST_FUNC = void (*)(uint32_t label, int tag);
 // Searches: for each row with its name and the pair of name and date ("Nov.25.2026 09:20", empty
 // when the server's was none); at the end with two nulls. The end's message is LMSG_FINDSTATUS.
 using FILE_FIND_FUNC = void (*)(uint32_t label, int tag, const char* name, const char* const* pair);
+int File_FindFailed(); // in the call at the end: it was no "OK", there may be more than came
 // FindSFM: for each row with its seven fields, commas between; at the end with null.
 using FILE_ROW_FUNC = FILE_TEXT_FUNC;
 

@@ -395,6 +395,12 @@ static void gather_tly(uint32_t label, int k, const char* path, const char* cons
         return;
     }
     ic.gathering = 0;
+    if (File_FindFailed()) { // nothing is cleared for half of the files
+        end_busy();
+        File_XferList_RemoveAll(&visit().list);
+        refuse("The source directory could not be read.");
+        return;
+    }
     if (visit().list) {
         clear_target();
         return;

@@ -172,6 +172,12 @@ TEST_F(FileIdCopyPage, NothingIsClearedForNothing)
     EXPECT_NE(Pane_GetActiveID(), 0) << "the server's reason";
     EXPECT_THAT(Answer(1), IsEmpty());
 
+    (void)Press(BTN_IDCOPY_COPY);
+    const std::string row = std::string(ROOT) + "SETUP/SWR000D001/A.DEV_0000.SST";
+    EXPECT_THAT(Reply(Answer(1), "Find", {row + ",Wed Nov 25 10:30:00 2026", "NG(Drive Error)"}),
+                IsEmpty());
+    EXPECT_THAT(Answer(1), IsEmpty());
+
     // The same directory at both sides.
     (void)Press(BTN_IDCOPY_DEVICE_B);
     (void)Reply(Answer(FILE_LOCAL + 1), "ListDir", {"OK"});
