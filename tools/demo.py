@@ -31,14 +31,12 @@ def main(build):
         time.sleep(0.3)
         picture("initializing")
         desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
-        time.sleep(0.3)
         picture("top-menu")
         desk.touch(112 + 42, 96 + 30)  # M/E-1
         desk.wait_wire(f"add {TYPE}")
         time.sleep(0.4)
         picture("key-type")
         desk.touch(*grid(17))  # it is on: the press only moves the knobs to it
-        time.sleep(0.3)
         picture("before-the-press")
         desk.touch_down(*grid(19))
         time.sleep(0.09)
@@ -51,10 +49,8 @@ def main(build):
         time.sleep(0.3)
         picture("knob-turned")
         desk.touch(752, 127 + 41)  # the first box
-        time.sleep(0.3)
         picture("ten-keys")
         desk.touch(446 + 17 + 3 * 54 + 24, 140 + 310 - 59 + 24)  # Cancel
-        time.sleep(0.3)
         desk.touch(97 + 86 + 43, 531 + 33)  # the bottom tab "Edge"
         desk.wait_wire("add M/E-1@Key1@Edge@Edge Fill")
         desk.touch(*grid(18))
