@@ -130,6 +130,7 @@ inline constexpr HF_TBL hf_file_frame[] = {
     {.id = 1, .caption = "Frame\nMemory", .page = 0x71510000},
     {.id = 2, .caption = "Folder", .page = 0x71520000},
     {.id = 3, .caption = "Frame\nMemory\nData", .page = 0x71530000},
+    {.id = 4, .caption = "Field\nInvert", .page = 0x71540000},
     HF_END,
 };
 

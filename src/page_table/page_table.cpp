@@ -2,6 +2,7 @@
 #include "dme.h"
 #include "file_directory.h"
 #include "file_dual.h"
+#include "file_fieldinvert.h"
 #include "file_folder.h"
 #include "file_idcopy.h"
 #include "file_tops.h"
@@ -67,6 +68,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 file_directory_pages,
                 file_folder_pages,
                 file_idcopy_pages,
+                file_fieldinvert_pages,
                 saver_pages,
                 gallery_pages);
 }
