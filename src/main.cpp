@@ -1,5 +1,6 @@
 // main: start-up in its order, the loop, the end. Everything that needs no server is in init; a
 // failure there is fatal and prints a line, since the log and the screen may not be up.
+#include "a_fl.h"
 #include "a_kf.h"
 #include "bus.h"
 #include "colours.h"
@@ -134,6 +135,7 @@ static void init()
     KF_Init();
     FMCtrl_InitClipStillList();
     FMCtrl3_Init();
+    FL_Init_File();
     SelfDiag_Init();
     atexit(quit);
 }

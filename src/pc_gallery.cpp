@@ -1,5 +1,6 @@
 // The gallery pages of the objects that stand on a page.
 #include "a_bt.h"
+#include "a_fl.h"
 #include "a_hf.h"
 #include "a_ls.h"
 #include "a_nb.h"
@@ -231,6 +232,50 @@ static int pc_gallery_lists_create(int on, uint32_t)
     return 0;
 }
 
+// --- File list ---
+
+static void files_next_device(int side)
+{
+    const int device = FL_GetDevice(side) + 1;
+    (void)FL_list_init(side,
+                       device > FL_DIRDATA_REMOVABLE_DRIVE ? FL_DIRDATA_STORAGE_ROOT : device);
+}
+
+static void files_open(int side)
+{
+    const FM_FILEPATH shown = [side] {
+        FM_FILEPATH where = {.storage = side, .devType = FL_GetDevice(side)};
+        CopyText(where.dirPath, FL_GetCurrentPath(side));
+        return where;
+    }();
+    FL_DIRFILE_NAMES names;
+    const int row = LS_GetSelected(side + 1, 0);
+    if (row >= 0 && FL_GetDirectoryName(&shown, row, &names) == 0 && names.DirName[0])
+        (void)FL_ChangeDirectory(side, names.DirName); // it is one of those that are shown
+}
+
+static int gallery_files_pressed(const char* path, const char* value)
+{
+    const int side = strcmp(value, "1") == 0 ? FL_R_LIST : FL_L_LIST;
+    if (strcmp(path, "LOCAL@Gallery@Files@Device") == 0)
+        files_next_device(side);
+    else if (strcmp(path, "LOCAL@Gallery@Files@Up") == 0)
+        (void)FL_ChangeDirectory(side, ".."); // at the top there is none
+    else if (strcmp(path, "LOCAL@Gallery@Files@Open") == 0)
+        files_open(side);
+    return 0;
+}
+
+static int pc_gallery_files_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    return msg == LMSG_BTNSEL ? gallery_files_pressed(Text(ax), Text(bx)) : 0;
+}
+
+static int pc_gallery_files_create(int on, uint32_t)
+{
+    return on ? 0 : 1;
+}
+
 // --- Status cells ---
 
 namespace
@@ -339,5 +384,6 @@ static int pc_gallery_tabs_create(int on, uint32_t)
 const PC_TBL pc_gallery_buttons = {pc_gallery_buttons_proc, pc_gallery_buttons_create};
 const PC_TBL pc_gallery_boxes = {pc_gallery_boxes_proc, pc_gallery_boxes_create};
 const PC_TBL pc_gallery_lists = {pc_gallery_lists_proc, pc_gallery_lists_create};
+const PC_TBL pc_gallery_files = {pc_gallery_files_proc, pc_gallery_files_create};
 const PC_TBL pc_gallery_cells = {pc_gallery_cells_proc, pc_gallery_cells_create};
 const PC_TBL pc_gallery_tabs = {pc_gallery_tabs_proc, pc_gallery_tabs_create};

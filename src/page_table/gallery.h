@@ -112,6 +112,31 @@ inline constexpr BT_TBL bt_gallery_lists[] = {
 };
 static_assert(ButtonsAreSound(bt_gallery_lists));
 
+// --- File list: two sides, each with keys below its list ---
+
+inline constexpr FL_TBL fl_gallery = {{{.device = FL_DIRDATA_LOCAL_DRIVE}, {.device = FL_DIRDATA_STORAGE_ROOT}}};
+
+inline constexpr LS_TBL ls_gallery_files[] = {
+    {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 78, .head = {"", "Name", "Frames", "Pair"}, .width = {24, 128, 58, 40},
+     .sb_top = 78, .sb_bottom = 342, .block = 1},
+    {.id = 2, .hn = 4, .vn = 11, .x = 404, .y = 78, .head = {"", "Name", "Frames", "Pair"}, .width = {24, 128, 58, 40},
+     .sb_top = 78, .sb_bottom = 342, .block = 1},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_gallery_files));
+
+inline constexpr BT_TBL bt_gallery_files[] = {
+    Action(     {.id = 33, .caption = "Device", .group = "Left", .cmd = {"LOCAL@Gallery@Files@Device#0"}}),
+    Action(     {.id = 34, .caption = "Up", .group = "Left", .cmd = {"LOCAL@Gallery@Files@Up#0"}}),
+    Action(     {.id = 35, .caption = "Open", .group = "Left", .cmd = {"LOCAL@Gallery@Files@Open#0"}}),
+    Action(     {.id = 36, .caption = "Device", .group = "Right", .cmd = {"LOCAL@Gallery@Files@Device#1"}}),
+    Action(     {.id = 37, .caption = "Up", .group = "Right", .cmd = {"LOCAL@Gallery@Files@Up#1"}}),
+    Action(     {.id = 38, .caption = "Open", .group = "Right", .cmd = {"LOCAL@Gallery@Files@Open#1"}}),
+    ToEngineeringMenu(),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_gallery_files));
+
 // --- Status cells: the shared parts, then the cell of the key type in each of its types ---
 
 constexpr ST_TBL TypeCell(int column, const char* type)
@@ -230,7 +255,7 @@ inline constexpr VF_TBL vf_gallery[] = {
     {.id = 3, .caption = "Patterns",    .page = 0x99920005},
     {.id = 4, .caption = "Wipe List",   .page = 0x99920009},
     {.id = 5, .caption = "Path List",   .page = 0x9992000A},
-    {.id = 6, .caption = "Two\nLines",  .page = 0x99920004},
+    {.id = 6, .caption = "File\nList",   .page = 0x9992000B},
     {.id = 7, .caption = "Last",        .page = 0x99920004},
     VF_END,
 };
@@ -285,4 +310,7 @@ inline constexpr PAGE gallery_pages[] = {
      .obj = {Base(base_main), LeftTabs(vf_gallery, 4), WipeList(dw_gallery), Boxes(NB_Non)}},
     {.id = 0x9992000A, .tree = {"Maintenance", "Gallery", "Path List"},
      .obj = {Base(base_main), LeftTabs(vf_gallery, 5), PathList(kp_gallery)}},
+    {.id = 0x9992000B, .tree = {"Maintenance", "Gallery", "File List"},
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 6), Buttons(bt_gallery_files), Lists(ls_gallery_files), Files(fl_gallery),
+             Code(pc_gallery_files)}},
 };

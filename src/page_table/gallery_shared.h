@@ -6,6 +6,7 @@
 extern const PC_TBL pc_gallery_buttons; // pc_gallery.cpp
 extern const PC_TBL pc_gallery_boxes;
 extern const PC_TBL pc_gallery_lists;
+extern const PC_TBL pc_gallery_files;
 extern const PC_TBL pc_gallery_cells;
 extern const PC_TBL pc_gallery_tabs;
 extern const PC_TBL pc_gallery_panes; // pc_gallery_layers.cpp

@@ -2,6 +2,7 @@
 #include "a_ba.h"
 #include "a_bt.h"
 #include "a_dw.h"
+#include "a_fl.h"
 #include "a_hf.h"
 #include "a_kf.h"
 #include "a_kp.h"
@@ -179,6 +180,7 @@ void Harness_Reset()
     SDL_Event e;
     while (SDL_PollEvent(&e)) {
     }
+    FL_Init_File();
     AutoLoad_Reset();
     File_Reset();
     FileDual_Reset();

@@ -1,0 +1,253 @@
+// The elements of the file list in their order, and what the page's lists show of them.
+#include "a_fl_private.h"
+#include "a_ls.h"
+#include "memory.h"
+#include "text.h"
+#include <cstring>
+#include <new>
+
+#include "safeguards.h"
+
+enum : int { COLUMN_ICON, COLUMN_NAME, COLUMN_FRAMES, COLUMN_PAIR, COLUMN_TIME };
+constexpr int CLASS_USUAL = 0;
+constexpr int CLASS_EMPTY = 1;
+
+// --- The page's list ---
+
+static int page_list(int id)
+{
+    return id + 1;
+}
+
+// By its name: the rows may stand elsewhere afterwards.
+static void remember_selected(int id)
+{
+    const int row = LS_GetSelected(page_list(id), 0);
+    const char* const name = row >= 0 ? LS_GetData(page_list(id), row, COLUMN_NAME) : nullptr;
+    CopyText(fl.now[id].selected, name ? name : "");
+}
+
+// Before an element goes: the page's list holds pointers to its texts.
+static void hide_rows(int id)
+{
+    if (!fl.is_open || !fl_is_side(id) || fl.now[id].is_hidden)
+        return;
+    remember_selected(id);
+    (void)LS_SetNData(page_list(id), 0); // a page need not have the list
+    fl.now[id].is_hidden = fl.now[id].is_dirty = true;
+}
+
+static void mark_dirty(int id)
+{
+    if (fl_is_side(id))
+        fl.now[id].is_dirty = true;
+}
+
+// --- Order ---
+
+// Below 0: a stands before b.
+static int compare(const ELEMENT& a, const ELEMENT& b)
+{
+    if (a.type != b.type)
+        return a.type == ELEMENT_TYPE_FOLDER ? -1 : 1;
+    return strcmp(a.full_name, b.full_name);
+}
+
+// From the end: a drive tells its files in about this order.
+FL_LIST* fl_list_find_joint_point(const FL_CHAIN& list, const ELEMENT& e)
+{
+    FL_LIST* node = list.tail;
+    while (node && compare(node->file.element, e) > 0)
+        node = node->prev;
+    return node;
+}
+
+static void link_behind(FL_CHAIN& list, FL_LIST* before, FL_LIST* node)
+{
+    node->prev = before;
+    node->next = before ? before->next : list.head;
+    (node->next ? node->next->prev : list.tail) = node;
+    (before ? before->next : list.head) = node;
+    list.count++;
+}
+
+static void count_element(int id, const FL_LIST* node, int n)
+{
+    if (fl_is_side(id))
+        (node->file.file_type == OBJECT_TYPE_FOLDER ? fl.now[id].folders : fl.now[id].files) += n;
+}
+
+FL_LIST* fl_list_insert(int id, const FL_FILE& file)
+{
+    FL_CHAIN& list = fl.list[id];
+    if (list.count >= FL_ROWS)
+        return nullptr;
+    void* const room = GDL_Malloc(sizeof(FL_LIST));
+    if (!room)
+        return nullptr;
+    auto* const node = new (room) FL_LIST;
+    node->file = file;
+    link_behind(list, fl_list_find_joint_point(list, file.element), node);
+    count_element(id, node, 1);
+    PrintText(node->frames, "%d", file.element.duration);
+    mark_dirty(id);
+    return node;
+}
+
+void fl_frame_added(int id, FL_LIST* clip)
+{
+    clip->file.element.duration++;
+    PrintText(clip->frames, "%d", clip->file.element.duration);
+    mark_dirty(id);
+}
+
+// --- Lookup ---
+
+FL_LIST* fl_list_equal(int id, const ELEMENT& e)
+{
+    FL_LIST* const node = fl_list_find_joint_point(fl.list[id], e);
+    return node && compare(node->file.element, e) == 0 ? node : nullptr;
+}
+
+FL_LIST* fl_list_of_name(int id, const char* full_name, int type)
+{
+    for (FL_LIST* node = fl.list[id].head; node; node = node->next)
+        if (node->file.element.type == type && strcmp(node->file.element.full_name, full_name) == 0)
+            return node;
+    return nullptr;
+}
+
+FL_LIST* fl_list_at(int id, int index)
+{
+    FL_LIST* node = index >= 0 ? fl.list[id].head : nullptr;
+    while (node && index-- > 0)
+        node = node->next;
+    return node;
+}
+
+int fl_list_place(int id, const FL_LIST* node)
+{
+    int place = 0;
+    for (const FL_LIST* other = fl.list[id].head; other; other = other->next, place++)
+        if (other == node)
+            return place;
+    return -1;
+}
+
+// --- Removal ---
+
+void fl_list_remove(int id, FL_LIST* node)
+{
+    FL_CHAIN& list = fl.list[id];
+    hide_rows(id);
+    if (fl_is_side(id)) {
+        auto& now = fl.now[id];
+        if (now.clip == node)
+            now.clip = nullptr;
+        if (now.found == node)
+            now.found = nullptr;
+    }
+    count_element(id, node, -1);
+    (node->prev ? node->prev->next : list.head) = node->next;
+    (node->next ? node->next->prev : list.tail) = node->prev;
+    list.count--;
+    GDL_Free(node);
+}
+
+void fl_list_free(int id)
+{
+    hide_rows(id);
+    while (FL_LIST* node = fl.list[id].head)
+        fl_list_remove(id, node);
+}
+
+// --- Show ---
+
+// In place of rows: why there is none.
+static const char* notice(int id)
+{
+    const auto& now = fl.now[id];
+    switch (fl.side[id].device) {
+    case FL_DIRDATA_DEV_NON: return "";
+    case FL_DIRDATA_STORAGE_ROOT: return "No clip store";
+    default: break;
+    }
+    if (now.is_gone)
+        return "Folder not found";
+    return now.dir_label || now.file_label ? "Reading..." : "No clips";
+}
+
+static void show_notice(int list, const char* text)
+{
+    for (int col = 0; col <= COLUMN_TIME; col++)
+        (void)LS_SetData(list, 0, col, col == COLUMN_NAME ? text : "");
+    (void)LS_SetHStatus(list, 0, CLASS_EMPTY);
+    (void)LS_SetNData(list, *text ? 1 : 0);
+}
+
+static void show_row(int list, int row, const FL_LIST* node)
+{
+    const ELEMENT& e = node->file.element;
+    const bool is_folder = e.type == ELEMENT_TYPE_FOLDER;
+    (void)LS_SetData(list, row, COLUMN_ICON, is_folder ? "_Folder" : "");
+    (void)LS_SetData(list, row, COLUMN_NAME, e.name);
+    (void)LS_SetData(list, row, COLUMN_FRAMES, is_folder ? "" : node->frames);
+    (void)LS_SetData(list, row, COLUMN_PAIR, !is_folder && e.is_pair ? "P" : "");
+    (void)LS_SetData(list, row, COLUMN_TIME, e.create_time);
+    (void)LS_SetHStatus(list, row, CLASS_USUAL);
+}
+
+// The path may be a long one: its end tells more.
+static const char* head_of(int id)
+{
+    constexpr size_t SHOWN = 18;
+    const char* const path = fl.side[id].current_path;
+    const size_t length = strlen(path);
+    return length > SHOWN ? path + length - SHOWN : path;
+}
+
+// A window that need not move stays: somebody may be scrolling.
+static void select_again(int id)
+{
+    const int list = page_list(id);
+    const char* const name = fl.now[id].selected;
+    const int row = LS_GetSelected(list, 0);
+    if (name[0] == '\0' || (row >= 0 && strcmp(LS_GetData(list, row, COLUMN_NAME), name) == 0))
+        return;
+    (void)LS_ChangeSelByStr(list, COLUMN_NAME, name); // it may be gone
+}
+
+static void show(int id)
+{
+    auto& now = fl.now[id];
+    const int list = page_list(id);
+    now.is_dirty = false;
+    if (LS_SetHeadStr(list, COLUMN_NAME, head_of(id)) != 0)
+        return; // the page has no such list
+    if (!now.is_hidden)
+        remember_selected(id);
+    now.is_hidden = false;
+    if (fl.list[id].count == 0) {
+        show_notice(list, notice(id));
+        return;
+    }
+    int row = 0;
+    for (const FL_LIST* node = fl.list[id].head; node; node = node->next)
+        show_row(list, row++, node);
+    (void)LS_SetNData(list, row);
+    (void)LS_RedrawData(list);
+    select_again(id);
+}
+
+void fl_redraw()
+{
+    for (int id : {FL_L_LIST, FL_R_LIST})
+        if (fl.is_open && fl.now[id].is_dirty)
+            show(id);
+}
+
+void fl_show_selected(int id, int row)
+{
+    show(id); // the row must be there
+    (void)LS_SetNowLine(page_list(id), row);
+}

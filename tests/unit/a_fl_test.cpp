@@ -1,0 +1,285 @@
+#include "a_fl.h"
+#include "a_fl_private.h"
+#include "a_ls.h"
+#include "file_page.h"
+#include <cstdlib>
+#include <utility>
+
+static const std::string ROOT = "/tmp/file_list_test/user/root";
+
+static constexpr FL_TBL sides = {
+    {{.device = FL_DIRDATA_LOCAL_DRIVE}, {.device = FL_DIRDATA_STORAGE_ROOT}}};
+static constexpr LS_TBL lists[] = {
+    {.id = 1,
+     .hn = 5,
+     .vn = 8,
+     .head = {"", "Name", "", "", ""},
+     .width = {20, 90, 30, 30, 90},
+     .sb_bottom = 198,
+     .block = 1},
+    {.id = 2,
+     .hn = 5,
+     .vn = 8,
+     .x = 400,
+     .head = {"", "Name", "", "", ""},
+     .width = {20, 90, 30, 30, 90},
+     .sb_bottom = 198,
+     .block = 1},
+    LS_END,
+};
+
+struct FileList : FileTest {
+    uint32_t dirs = 0, files = 0; // labels of the left side's searches
+
+    void SetUp() override
+    {
+        FileTest::SetUp();
+        CopyText(path_before, GL_RegistDataPath);
+        CopyText(GL_RegistDataPath, "/tmp/file_list_test/");
+        (void)!::system("rm -rf /tmp/file_list_test");
+        LS_Create(lists, 0);
+        FL_Create(&sides, 0);
+        TakeLabels();
+    }
+    void TearDown() override
+    {
+        FL_Create(nullptr, 0);
+        LS_Create(nullptr, 0);
+        CopyText(GL_RegistDataPath, path_before);
+        FileTest::TearDown();
+    }
+    // What the left side has asked for.
+    Strings TakeLabels()
+    {
+        dirs = fl.now[0].dir_label;
+        files = fl.now[0].file_label;
+        return Sent();
+    }
+    static void Rows(uint32_t label, const Strings& paths)
+    {
+        static uint32_t ack = 7000;
+        Ack(label, ++ack, "File@Access@ListDir");
+        for (const std::string& path : paths)
+            Status(ack, ROOT + path + ",Wed Nov  5 09:20:31 2026", "File@Access@ListDir@Status");
+        Status(ack, "OK", "File@Access@ListDir@Status");
+    }
+    static std::string Head(int format, int pair, int is_4k)
+    {
+        std::string head(SFH_BYTES, '\xEE');
+        head[4] = char(format);
+        head[5] = char(pair);
+        head[6] = char(is_4k);
+        return head;
+    }
+    // The page's list, a line a row: name, frames, pair, time.
+    static Strings Shown(int list)
+    {
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        FL_Proc(MSG_REDRAW, 10, 0, 0, 0);
+        Strings rows;
+        for (int row = 0; row < LS_GetNData(list); row++) {
+            std::string text;
+            for (int col = 0; col < 5; col++)
+                text += (col ? "|" : "") + std::string(LS_GetData(list, row, col));
+            rows.push_back(text);
+        }
+        return rows;
+    }
+    // (list, value, kind) of a message, as the page saw them.
+    static Strings Told(int msg)
+    {
+        Strings told;
+        for (const probe::Seen& s : probe::seen)
+            if (s.msg == msg)
+                told.push_back(std::to_string(int(s.ax)) + "," + std::to_string(int(s.bx)) + "," +
+                               std::to_string(int(s.cx)));
+        probe::seen.clear();
+        return told;
+    }
+
+  private:
+    char path_before[PATH_SIZE];
+};
+
+TEST_F(FileList, AFolderIsAskedForAndShownWithItsClips)
+{
+    FL_Init_File();
+    (void)Sent();
+    FL_Create(&sides, 0);
+    EXPECT_THAT(TakeLabels(),
+                ElementsAre(HasSubstr("Access@ListDir#L"), HasSubstr("Access@Find2#L")));
+    EXPECT_THAT(Shown(1), ElementsAre("|Reading...|||"));
+    WriteFile(ROOT + "/logo.SFH", Head(4, 1, 1) + "picture");
+    WriteFile(ROOT + "/short.SFH", Head(4, 1, 1).substr(0, 63));
+    WriteFile(ROOT + "/run.SFH/run#000000.SFH", Head(3, 1, 0));
+    (void)Told(0);
+    Rows(dirs, {"/NEWS", "/A", "/run.SFH", "/A NAME OF 17 CHRS", "/NEWS/BELOW", "/NEWS"});
+    Rows(files, {"/logo.SFH", "/run.SFH/run#000002.SFH", "/run.SFH/run#000000.SFH", "/short.SFH",
+                 "/bare.SFH/bare#000007.SFH", "/NEWS/other.SFH"});
+    EXPECT_THAT(Shown(1), ElementsAre("_Folder|A|||", "_Folder|NEWS|||",
+                                      "|bare|1||2026 Nov.05 09:20", "|logo|1|P|2026 Nov.05 09:20",
+                                      "|run|2|P|2026 Nov.05 09:20", "|short|1||2026 Nov.05 09:20"));
+    EXPECT_THAT(Told(LMSG_FLLISTCHANGE), ElementsAre("0,2,1", "0,4,2"));
+    FF_OBJECT object;
+    EXPECT_EQ(FL_GetFoundObject(FL_L_LIST, "/logo", OBJECT_TYPE_FILE, &object), 0);
+    EXPECT_EQ(object.format, 4);
+    EXPECT_EQ(FL_GetFoundObject(FL_L_LIST, "/logo", OBJECT_TYPE_FOLDER, &object), -1);
+    EXPECT_EQ(FL_GutClipFrameCount(FL_L_LIST, FL_DIRDATA_LOCAL_DRIVE, "/run"), 2);
+    EXPECT_EQ(FL_GutClipFrameCount(FL_L_LIST, FL_DIRDATA_REMOVABLE_DRIVE, "/run"), -1);
+    EXPECT_EQ(fl_list_of_name(0, "/root/logo", ELEMENT_TYPE_FILE)->file.element.format4k, 1);
+}
+
+TEST_F(FileList, RowsThatAreNoClipsLeaveNothing)
+{
+    (void)Told(0);
+    static const std::string long_name(33, 'n');
+    const std::string rows[] = {
+        "",
+        ROOT,
+        ROOT + "/",
+        ROOT + "/.SFH",
+        ROOT + "/a.TIF",
+        ROOT + "/a.SFH.bak",
+        ROOT + "x/a.SFH",
+        "/etc/a.SFH",
+        ROOT + "/../a.SFH",
+        ROOT + "/" + long_name + ".SFH",
+        ROOT + "/" + std::string(300, 'p') + ".SFH",
+        ROOT + "/a:b.SFH",
+        ROOT + "/clip.SFH/clip#00000a.SFH",
+        ROOT + "/clip.SFH/clip#0000000.SFH",
+        ROOT + "/clip.SFH/clip#00000.SFH",
+        ROOT + "/clip.SFH/clip000000.SFH",
+        ROOT + "/clip.SFH/other#000000.SFH",
+        ROOT + "/clip.SFH/x/clip#000000.SFH",
+        ROOT + "/NEWS/a.SFH",
+        ROOT + "/1/2/3/4/5/a.SFH",
+    };
+    for (const std::string& row : rows) {
+        file_find_tly(row.c_str(), "Nov.25.2026 09:20", FL_L_LIST);
+        EXPECT_EQ(fl.list[0].count, 0) << row;
+    }
+    file_find_tly((ROOT + "/a.SFH").c_str(), "", FL_R_LIST); // the store's side
+    EXPECT_EQ(fl.list[1].count, 0);
+    // What only looks like a file is not read, and its row stays with zeros.
+    (void)!::system(("mkdir -p " + ROOT + "/dir.SFH; mkfifo " + ROOT + "/pipe.SFH").c_str());
+    for (const char* name : {"/pipe.SFH", "/dir.SFH", "/none.SFH"})
+        file_find_tly((ROOT + name).c_str(), "no time", FL_L_LIST);
+    EXPECT_THAT(Shown(1), ElementsAre("|dir|1||", "|none|1||", "|pipe|1||"));
+}
+
+TEST_F(FileList, FoldersAreEnteredAndLeftAndAnOldAnswerIsNotTaken)
+{
+    (void)!::system(("mkdir -p " + ROOT + "/NEWS").c_str());
+    const uint32_t old_files = files;
+    Rows(dirs, {"/NEWS"});
+    EXPECT_EQ(FL_ChangeDirectory(FL_L_LIST, "SPORT"), -1);
+    EXPECT_EQ(FL_ChangeDirectory(FL_L_LIST, ".."), -1);
+    (void)Told(0);
+    EXPECT_EQ(FL_ChangeDirectory(FL_L_LIST, "NEWS"), 0);
+    EXPECT_THAT(TakeLabels(), ElementsAre(testing::EndsWith(",MYHOST:" + ROOT + "/NEWS"),
+                                          testing::EndsWith(",MYHOST:" + ROOT + "/NEWS,1,*.SFH")));
+    EXPECT_THAT(Told(LMSG_FLCURDIRCHANGE), ElementsAre("0,0,0"));
+    Rows(old_files, {"/NEWS/late.SFH"});
+    EXPECT_EQ(fl.list[0].count, 0);
+    Rows(dirs, {});
+    Rows(files, {"/NEWS/a.SFH", "/b.SFH"});
+    EXPECT_THAT(Shown(1), ElementsAre("|a|1||2026 Nov.05 09:20"));
+    FM_FILEPATH where = {
+        .storage = FL_L_LIST, .devType = FL_DIRDATA_LOCAL_DRIVE, .dirPath = "/NEWS"};
+    FL_DIRFILE_NAMES names;
+    EXPECT_EQ(FL_GetDirectoryName(&where, 0, &names), 0);
+    EXPECT_STREQ(names.FileName, "a");
+    EXPECT_EQ(FL_GetDirectoryName(&where, 1, &names), -1);
+    int folders = -1, clips = -1;
+    EXPECT_EQ(FL_GetDirectoryAndFileCount(&where, &folders, &clips), 0);
+    EXPECT_EQ(folders * 10 + clips, 1);
+    CopyText(where.dirPath, "/");
+    EXPECT_EQ(FL_GetDirectoryName(&where, 0, &names), -1);
+    // The page closes and opens: the side is where it was left. Then its folder goes.
+    FL_Create(nullptr, 0);
+    FL_Create(&sides, 0);
+    EXPECT_STREQ(FL_GetCurrentPath(FL_L_LIST), "/NEWS");
+    TakeLabels();
+    (void)!::system(("rmdir " + ROOT + "/NEWS").c_str());
+    (void)Told(0);
+    Rows(dirs, {});
+    Rows(files, {});
+    EXPECT_THAT(Told(LMSG_FLCURDIRCHANGE), ElementsAre("0,0,4"));
+    EXPECT_THAT(Shown(1), ElementsAre("|Folder not found|||"));
+    EXPECT_EQ(FL_ChangeDirectory(FL_L_LIST, ".."), 0);
+    EXPECT_STREQ(FL_GetCurrentPath(FL_L_LIST), "/");
+    for (const char* bad : {"", "NEWS", "/a//b", "/..", "/1/2/3/4/5", "/A NAME OF 17 CHRS"})
+        EXPECT_EQ(putCurrentDirectory(FL_L_LIST, bad), -1) << bad;
+    EXPECT_STREQ(FL_GetCurrentPath(FL_L_LIST), "/");
+}
+
+TEST_F(FileList, ASearchWrapsOnceAndTheSelectionFollowsItsName)
+{
+    Rows(dirs, {});
+    Rows(files, {"/b1.SFH", "/b3.SFH", "/c.SFH"});
+    (void)Shown(1);
+    EXPECT_EQ(FL_Find(FL_L_LIST, "", 1), -1);
+    EXPECT_EQ(FL_Find(FL_L_LIST, "x", 1), -1);
+    for (const int place : {0, 1, 0})
+        EXPECT_EQ(FL_Find(FL_L_LIST, "B", 1), place);
+    EXPECT_EQ(FL_Find(FL_L_LIST, "b", -1), 1);
+    EXPECT_EQ(LS_GetSelected(1, 0), 1);
+    FF_OBJECT object;
+    EXPECT_EQ(FL_GetFoundObject(FL_L_FIND_LIST, "/b3", OBJECT_TYPE_ALL, &object), 0);
+    EXPECT_EQ(FL_GetFoundObject(FL_L_FIND_LIST, "/b1", OBJECT_TYPE_ALL, &object), -1);
+    file_find_tly((ROOT + "/b2.SFH").c_str(), "", FL_L_LIST); // before it
+    EXPECT_EQ(Shown(1).size(), 4u);
+    EXPECT_EQ(LS_GetSelected(1, 0), 2);
+}
+
+TEST_F(FileList, TheStoreSideTakesWhatItIsTold)
+{
+    EXPECT_THAT(Shown(2), ElementsAre("|No clip store|||"));
+    ELEMENT clip, below;
+    ASSERT_EQ(FMCtrl3_ReadRow("root/goal.SFH:25, 1, 0, 3, 2026-01-31 23:59:00, 1, 1",
+                              ELEMENT_TYPE_FILE, &clip),
+              0);
+    ASSERT_EQ(FMCtrl3_ReadRow("root/A/x:1,0,0,3,,1,1", ELEMENT_TYPE_FILE, &below), 0);
+    const auto tell = [](int kind, const ELEMENT* e) {
+        FL_Proc(LMSG_FMCTRL3CHANGE, kind, Arg(e), 0, 0);
+    };
+    tell(FMCTRL_MSG_ELEMENT_INSERT, &clip);
+    tell(FMCTRL_MSG_ELEMENT_INSERT, &clip);
+    tell(FMCTRL_MSG_ELEMENT_INSERT, &below);
+    EXPECT_THAT(Shown(2), ElementsAre("|goal|25|P|2026 Jan.31 23:59"));
+    clip.duration = 30;
+    tell(FMCTRL_MSG_ELEMENT_NOTIFY, &clip);
+    EXPECT_THAT(Shown(2), ElementsAre("|goal|30|P|2026 Jan.31 23:59"));
+    tell(FMCTRL_MSG_ELEMENT_DELETE, &clip);
+    EXPECT_EQ(fl.list[1].count, 0);
+    tell(FMCTRL_MSG_ELEMENT_INSERT, &clip);
+    tell(FMCTRL_MSG_TALBE_CLEAR, nullptr);
+    EXPECT_THAT(Shown(2), ElementsAre("|No clip store|||"));
+}
+
+TEST(ElementRow, OnlyWholeRowsAreTaken)
+{
+    static const struct {
+        const char* row;
+        int type;
+        int result;
+    } cases[] = {
+        {"root/a:1,0,0,0,2026-13-01 00:00,1,1", ELEMENT_TYPE_FILE, 0},
+        {"root/1/2/3/4/a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, 0},
+        {"root/1/2/3/4/5/a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, -1},
+        {"root/a:1,0,0,0,,1", ELEMENT_TYPE_FILE, -1},
+        {"root/a:1,0,0,0,,1,1,1", ELEMENT_TYPE_FILE, -1},
+        {"root/a", ELEMENT_TYPE_FILE, -1},
+        {"a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, -1},
+        {"root/A:1", ELEMENT_TYPE_FOLDER, 0},
+        {"root/A:,", ELEMENT_TYPE_FOLDER, -1},
+        {"root//a:1", ELEMENT_TYPE_FOLDER, -1},
+        {"", ELEMENT_TYPE_FOLDER, -1},
+    };
+    for (const auto& c : cases) {
+        ELEMENT e;
+        EXPECT_EQ(FMCtrl3_ReadRow(c.row, c.type, &e), c.result) << c.row;
+        EXPECT_STREQ(e.create_time, "");
+    }
+}
