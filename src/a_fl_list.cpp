@@ -197,13 +197,16 @@ static void show_row(int list, int row, const FL_LIST* node)
     (void)LS_SetHStatus(list, row, CLASS_USUAL);
 }
 
-// The path may be a long one: its end tells more.
+// Device and path; of a long one the end, which tells more.
 static const char* head_of(int id)
 {
+    static constexpr const char* devices[] = {"", "Clip Store", "Local Drive", "Removable Drive"};
     constexpr size_t SHOWN = 18;
+    auto& head = fl.now[id].head;
     const char* const path = fl.side[id].current_path;
-    const size_t length = strlen(path);
-    return length > SHOWN ? path + length - SHOWN : path;
+    PrintText(head, "%s%s", devices[fl.side[id].device], strcmp(path, "/") == 0 ? "" : path);
+    const size_t length = strlen(head);
+    return length > SHOWN ? head + length - SHOWN : head;
 }
 
 // A window that need not move stays: somebody may be scrolling.

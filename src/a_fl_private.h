@@ -53,7 +53,8 @@ struct FL_STATE {
         uint32_t file_label = 0;
         bool is_gone = false; // the folder is not on its drive
         bool is_dirty = false;
-        bool is_hidden = false;                // its rows are not those of the page's list
+        bool is_hidden = false; // its rows are not those of the page's list
+        char head[FL_PATH_SIZE + 16] = "";
         char selected[ELEMENT_NAME_SIZE] = ""; // to be selected again
         FL_LIST* clip = nullptr;               // whose frame came last
         FL_LIST* found = nullptr;              // by the last search
