@@ -20,14 +20,14 @@ struct FileIdCopyPage : TablePage {
         TablePage::SetUp();
         File_Reset();
         FileIdCopy_Reset();
+        for (const int grp : {24, 25})
+            Select(grp, {});
     }
     void TearDown() override
     {
         (void)Leave();
         FileIdCopy_Reset();
         File_Reset();
-        for (const int grp : {24, 25})
-            Select(grp, {});
         TablePage::TearDown();
     }
     // The units of the selector, as "Enter" leaves them.
