@@ -87,6 +87,10 @@ bool is_fmem_v6()
 {
     return SYS_FmemV6 != 0;
 }
+bool is_not_fmem_v6()
+{
+    return !is_fmem_v6();
+}
 
 bool is_dme_with_own_frame()
 {
@@ -202,6 +206,7 @@ constexpr Variant variants[] = {
     One(0x41640000, 0x0200),
     {0x71510000, 0x71510001, 0x0200, is_fmem_v6},
     {0x71510000, 0x71510001, 0x0100},
+    One(0x71610000, 0x0100, is_not_fmem_v6),
     One(0x73310006, 0x0100, is_target_ktr40e),
     {0x73330000, 0x73330001, 0x0200},
     {0x73430000, 0x73430001, 0x0100, is_dual},
@@ -248,10 +253,6 @@ bool has_old_switcher()
 bool has_old_target()
 {
     return is_one_of(SYS_TargetSwrType, OLD_SWITCHERS);
-}
-bool is_not_fmem_v6()
-{
-    return !is_fmem_v6();
 }
 bool is_qrd51()
 {

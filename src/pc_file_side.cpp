@@ -19,7 +19,7 @@ constexpr int FOLDER_ROWS = 44;
 constexpr int ROWS_MAX = FOLDER_ROWS + CELLS_MAX;
 static_assert(ROWS_MAX <= LS_ROWS);
 constexpr int NOT_SEARCHING = 0;
-constexpr char BEHIND_MARK[] = "      "; // where the list has the mark of a folder
+constexpr char BEHIND_MARK[] = "       "; // where the list has the mark of a folder
 
 struct Place {
     int main = 0;

@@ -89,9 +89,9 @@ static_assert(ListsAreSound(ls_file_detail));
 
 // The marks of folders stand at x 150 and 500.
 inline constexpr LS_TBL ls_file_frame[] = {
-    {.id = 1, .hn = 3, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 78, 80},
+    {.id = 1, .hn = 3, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 80, 78},
      .group = {1, 1, 999}, .sb_top = 124, .sb_bottom = 388},
-    {.id = 2, .hn = 3, .vn = 11, .x = 450, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 78, 80},
+    {.id = 2, .hn = 3, .vn = 11, .x = 450, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 80, 78},
      .group = {1, 1, 999}, .sb_top = 124, .sb_bottom = 388},
     LS_END,
 };

@@ -8,6 +8,7 @@ inline constexpr VF_TBL vf_file[] = {
     {.id = 3, .caption = "Snapshot", .page = 0x71310000},
     {.id = 4, .caption = "Shotbox\nMacro", .page = 0x71410000},
     {.id = 5, .caption = "Frame\nMemory", .page = 0x71510000},
+    {.id = 6, .caption = "Import\nExport", .page = 0x71610000},
     {.id = 7, .caption = "Directory\nNames", .page = 0x71710000},
     VF_END,
 };
@@ -18,6 +19,11 @@ inline constexpr HF_TBL hf_file_setup[] = {
     {.id = 4, .caption = "Key\nMemory", .page = 0x71140000},
     {.id = 5, .caption = "Video\nProcess\nMemory", .page = 0x71150000},
     {.id = 6, .caption = "User\nSetup", .page = 0x71160000},
+    HF_END,
+};
+inline constexpr HF_TBL hf_file_xport[] = {
+    {.id = 1, .caption = "Frame\nMemory", .page = 0x71610000},
+    {.id = 2, .caption = "Clip\nStore", .page = 0x71620000},
     HF_END,
 };
 inline constexpr HF_TBL hf_file_names[] = {

@@ -22,7 +22,6 @@ inline constexpr EmptyTops empty_tops[] = {
     {0x621, 0x626, "Effect", 0x62110000},
     {0x631, 0x635, "Snapshot", 0x63110000},
     {0x641, 0x641, "Shotbox", 0x64110000},
-    {0x716, 0x716, "File", 0x71110000}, // no page of these has a tab
     {0x731, 0x731, "Engineering Setup", 0x73110000},
     {0x741, 0x743, "Diag", 0x74110000},
 };
@@ -34,7 +33,8 @@ struct FileTop {
 };
 inline constexpr FileTop file_tops[] = {
     {1, hf_file_setup, "Setup"},   {2, hf_file_effect, "Effect"},         {3, hf_file_snapshot, "Snapshot"},
-    {4, hf_file_macro, "Macro"},   {5, hf_file_frame, "Frame Memory"},    {7, hf_file_names, "Directory"},
+    {4, hf_file_macro, "Macro"},   {5, hf_file_frame, "Frame Memory"},    {6, hf_file_xport, "Import/Export"},
+    {7, hf_file_names, "Directory"},
 };
 
 constexpr uint32_t FileTab(uint32_t left)

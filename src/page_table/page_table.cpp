@@ -6,6 +6,7 @@
 #include "file_folder.h"
 #include "file_idcopy.h"
 #include "file_tops.h"
+#include "file_xport.h"
 #include "fm.h"
 #include "gallery.h"
 #include "keyframe.h"
@@ -69,6 +70,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 file_folder_pages,
                 file_idcopy_pages,
                 file_fieldinvert_pages,
+                file_xport_pages,
                 saver_pages,
                 gallery_pages);
 }

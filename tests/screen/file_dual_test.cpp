@@ -14,6 +14,10 @@ struct FilePictures : TablePage {
     }
     static void Answer(const Lines& sent, const Lines& files)
     {
+        Answer(sent, "MYHOST:/mnt/data/user/root/SYSTEM/SNAPSHOT/SWR000D001/", files);
+    }
+    static void Answer(const Lines& sent, const std::string& folder, const Lines& files)
+    {
         for (const std::string& line : sent) {
             if (line.find("Access@Find#L") == std::string::npos)
                 continue;
@@ -21,9 +25,7 @@ struct FilePictures : TablePage {
                 line.substr(line.find("#L") + 2, line.find(',') - line.find("#L") - 2);
             Tell("File@Access@Find#L" + label + ",77");
             for (const std::string& file : files)
-                Tell("File@Access@Find@Status#77,MYHOST:/mnt/data/user/root/SYSTEM/SNAPSHOT/"
-                     "SWR000D001/" +
-                     file + ",Wed Nov 25 10:30:00 2026");
+                Tell("File@Access@Find@Status#77," + folder + file + ",Wed Nov 25 10:30:00 2026");
             Tell("File@Access@Find@Status#77,OK");
         }
     }
@@ -70,37 +72,53 @@ TEST_F(FilePictures, DetailPage)
     EXPECT_TRUE(MatchesGolden("file_detail"));
 }
 
-// The newer frame memory: folders on both sides, the second one open at the left.
+// The newer frame memory, with a few registers.
+static void Frames(std::initializer_list<const char*> names,
+                   std::initializer_list<const char*> in_folder)
+{
+    TablePage::Tell("16@Frame Mem@Status@Max Register#200");
+    int number = 0;
+    for (const char* name : names)
+        TablePage::Tell("16@Frame Mem@Status@File Name Sense#" + std::to_string(++number) + ",81," +
+                        name);
+    TablePage::Tell("16@Frame Mem@Status@Folder Name Sense#0,Default.,1,Sport,2,Graphics,3,News");
+    for (const char* name : in_folder)
+        TablePage::Tell("Frame Mem@Folder@Move Still#0," + std::string(name) + ",2");
+}
+
+// Folders on both sides, another than the first one open at the left.
 TEST_F(FilePictures, FrameMemoryPage)
 {
     DeviceStructure();
-    Tell("16@Frame Mem@Status@Max Register#200");
-    int number = 0;
-    for (const char* name : {"Mlogo", "Slogo", "Mskyline", "Mnews0001", "Mnews0002", "Mbeach"})
-        Tell("16@Frame Mem@Status@File Name Sense#" + std::to_string(++number) + ",81," + name);
-    Tell("16@Frame Mem@Status@Folder Name Sense#0,Default.,1,Sport,2,Graphics,3,News");
-    for (const char* name : {"Mlogo", "Slogo", "Mbeach"})
-        Tell("Frame Mem@Folder@Move Still#0," + std::string(name) + ",2");
-    Lines sent = Open(0x71510000);
-    for (const std::string& line : sent) {
-        const std::string label =
-            line.substr(line.find("#L") + 2, line.find(',') - line.find("#L") - 2);
-        if (line.find("Access@Find#L") == std::string::npos)
-            continue;
-        Tell("File@Access@Find#L" + label + ",77");
-        for (const char* file : {"Mclock.FMEM_001.SFM", "Mlogo.FMEM_012.SFM", "Sbg.FMEX1234.SFA",
-                                 "Sbg2.FMEX_1234.SFA"})
-            Tell(std::string("File@Access@Find@Status#77,MYHOST:/mnt/data/user/root/SYSTEM/FMEMFOL/"
-                             "DEFAULT/SWR000D001/") +
-                 file + ",Wed Nov 25 10:30:00 2026");
-        Tell("File@Access@Find@Status#77,OK");
-    }
+    Frames({"Mlogo", "Slogo", "Mskyline", "Mnews0001", "Mnews0002", "Mbeach"},
+           {"Mlogo", "Slogo", "Mbeach"});
+    Answer(Open(0x71510000), "MYHOST:/mnt/data/user/root/SYSTEM/FMEMFOL/DEFAULT/SWR000D001/",
+           {"Mclock.FMEM_001.SFM", "Mlogo.FMEM_012.SFM", "Sbg2.FMEX_1234.SFA"});
     Pass(100);
     (void)Touch(180, 124 + 22 * 2 + 10); // Graphics
     Pass(100);
     LS_SetMS(1, 1);
-    LS_SetSelected(1, 4, 0, 1);
-    LS_SetSelected(1, 5, 0, 1);
+    for (const int row : {1, 4, 5})
+        LS_SetSelected(1, row, 0, row != 1);
     Paint();
     EXPECT_TRUE(MatchesGolden("file_frame"));
+}
+
+TEST_F(FilePictures, ImportExportPage)
+{
+    DeviceStructure();
+    Frames({"Mlogo", "Slogo", "Mskyline", "Mnews0001", "Mnews0002", "Mbeach"}, {});
+    for (const std::string& line : Open(0x71610000)) {
+        const bool is_upper = line.ends_with("*.TIF"); // one spelling of the extension is enough
+        Answer({line}, "MYHOST:/mnt/usb/usb1/SYSTEM/",
+               is_upper ? Lines{"bug.TIF", "bug.TIF.SUB", "intro#000000.TIF",
+                                "lower third left.TIF", "skyline.TIF"}
+                        : Lines{});
+    }
+    LS_SetMS(2, 1);
+    for (const int row : {0, 1, 4})
+        LS_SetSelected(2, row, 0, 1);
+    LS_SetSelected(2, 3, 0, 0);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("file_xport"));
 }

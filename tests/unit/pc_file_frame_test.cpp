@@ -23,7 +23,7 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     Folders("0,Default.,3,Sport");
     const Lines opened = Open(NEW);
     EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo", "2 Slogo", "3 Mbeach", "X12 Mfar"));
-    EXPECT_STREQ(LS_GetData(1, 1, COL_NAME) + 6, "Sport");
+    EXPECT_STREQ(LS_GetData(1, 1, COL_NAME) + 7, "Sport");
     // The drive: what has no name of the grammar is not there.
     Answer(opened, "Access@ListDir",
            {OnDrive("FMEMFOL/ARCHIVE"), OnDrive("FMEMFOL/TOO LONG A NAME")});
@@ -34,7 +34,7 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
             OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mbad.FMEM_5663.SFM"),
             OnDrive("FMEMFOL/DEFAULT/SWR000D001/rubbish.txt")});
     EXPECT_THAT(Rows(2), ElementsAre("2 Mlow", "1234 Mold", "X7 Sanc"));
-    EXPECT_STREQ(LS_GetData(2, 1, COL_NAME) + 6, "ARCHIVE");
+    EXPECT_STREQ(LS_GetData(2, 1, COL_NAME) + 7, "ARCHIVE");
     EXPECT_EQ(LS_GetNData(2), 3 + 3);
     // A still that is moved leaves, and is in the other folder.
     Tell("Frame Mem@Folder@Move Still#0,Mlogo,3");

@@ -1,0 +1,662 @@
+#include "pc_file_xport.h"
+#include "a_ba.h"
+#include "a_bt.h"
+#include "a_ls.h"
+#include "device.h"
+#include "file_xport.h"
+#include "global.h"
+#include "memory.h"
+#include "message.h"
+#include "netio.h"
+#include "pane.h"
+#include "pc_file_side.h"
+#include "tally_value.h"
+#include "text.h"
+#include <algorithm>
+#include <cstring>
+#include <new>
+#include <string>
+#include <unordered_set>
+
+#include "safeguards.h"
+
+#define XPORT "LOCAL@File@XPort@"
+
+namespace
+{
+enum : int { SIDE_A = 0 };
+enum : int { LIST_A = 1, LIST_B = 2 };
+enum : int { COL_B_NAME, COL_B_TIME };
+constexpr int FILES_MAX = 4000;
+constexpr int CAPTION_SIZE = 40;
+
+// What a page has at the left, and where a job of it goes.
+struct XportKind {
+    XPORTPAGE page;
+    uint32_t id;
+    FILEPAGE frames; // kind of the left side; FILEPAGES: the clip store
+    int (*import_list)(FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int tag);
+};
+
+// Of a page: outlives it.
+struct Visit {
+    FileMemory a = {};
+    FILESIDE b = {.device = FILE_REMOVABLE};
+    XPORTTYPE type = XPORT_TIF;
+    FILEXFERLIST* list = nullptr; // being put together, or of the job that runs
+    int folder_id = 0;            // of the newer frame memory: where its images go
+};
+
+// What was left out of an import.
+struct Skipped {
+    bool is_work_area = false;
+    bool is_duplicate = false;
+    bool is_full = false;
+};
+
+// The registers that an import may take, and the names that it gives.
+struct Targets {
+    int next = 0; // the first that may be empty; -1: none is left
+    int end = 0;  // from here on the numbers are no operator's
+    int reserved = 0;
+    std::unordered_set<std::string> names;
+};
+} // namespace
+
+static constexpr XportKind kinds[XPORTPAGES] = {
+    {XPORTPAGE_FMEM, 0x71610100, FILEPAGE_FMEM, File_ExecFmImportList},
+    {XPORTPAGE_FMEM_V6, 0x71610000, FILEPAGE_FMEM_V6, File_ExecFmImportList},
+    {XPORTPAGE_CLIP, 0x71620000, FILEPAGES, File_ExecFmImportList2},
+};
+static_assert(kinds[XPORTPAGE_FMEM].page == XPORTPAGE_FMEM &&
+              kinds[XPORTPAGE_FMEM_V6].page == XPORTPAGE_FMEM_V6 &&
+              kinds[XPORTPAGE_CLIP].page == XPORTPAGE_CLIP);
+
+static Visit visits[XPORTPAGES];
+
+static struct {
+    const XportKind* kind = nullptr;   // null: no page of ours is open
+    uint32_t search[XPORT_PATTERNS]{}; // labels of those that run, 0 none
+    XPORTFILE* found = nullptr;        // chain of what they have told
+    XPORTFILE* row[FILES_MAX]{};       // of the list, by name
+    int rows = 0;
+    int type_pane = 0;
+    int folder_pane = 0;
+    char folder_name[FOLDER_MAX]
+                    [FRAME_FOLDER_SIZE]{}; // the pane and the button show them from here
+    char folder_caption[FRAME_FOLDER_SIZE]{};
+    char device_caption[CAPTION_SIZE]{};
+    char dir_caption[CAPTION_SIZE]{};
+} xp; // valid from create(1) to create(0)
+
+static Visit& visit()
+{
+    return visits[xp.kind->page];
+}
+
+static bool is_clip_store()
+{
+    return xp.kind->frames == FILEPAGES;
+}
+
+static bool has_folders()
+{
+    return !is_clip_store() && file_kinds[xp.kind->frames].has_folders;
+}
+
+// "MYHOST:/.../NEWS/"; false without a directory.
+static bool drive_folder(char (&path)[PATH_SIZE])
+{
+    const FILESIDE& b = visit().b;
+    if (!File_DirPath(path, sizeof path, b.device, b.dir))
+        return false;
+    AppendText(path, "/");
+    return true;
+}
+
+// --- The files at the right ---
+
+static void drop_files()
+{
+    while (xp.found) {
+        XPORTFILE* const next = xp.found->next;
+        GDL_Free(xp.found);
+        xp.found = next;
+    }
+    xp.rows = 0;
+}
+
+static void forget_searches()
+{
+    for (uint32_t& label : xp.search) {
+        if (label != 0)
+            (void)File_ExecUSBReload_cancel(label); // -1: it has ended meanwhile
+        label = 0;
+    }
+}
+
+// One row a file; of a clip one row for all its frames.
+static bool is_same_row(const XPORTFILE& a, const XPORTFILE& b)
+{
+    return is_clip_store() && *a.clip ? strcmp(a.clip, b.clip) == 0 : strcmp(a.path, b.path) == 0;
+}
+
+static void show_files()
+{
+    int n = 0;
+    for (XPORTFILE* file = xp.found; file && n < FILES_MAX; file = file->next)
+        xp.row[n++] = file;
+    std::sort(xp.row, xp.row + n, [](const XPORTFILE* a, const XPORTFILE* b) {
+        const int order = strcmp(a->name, b->name);
+        return order != 0 ? order < 0 : strcmp(a->path, b->path) < 0;
+    });
+    xp.rows = int(
+        std::unique(xp.row, xp.row + n,
+                    [](const XPORTFILE* a, const XPORTFILE* b) { return is_same_row(*a, *b); }) -
+        xp.row);
+    for (int i = 0; i < xp.rows; i++) {
+        const XPORTFILE* const file = xp.row[i];
+        (void)LS_SetData(LIST_B, i, COL_B_NAME,
+                         is_clip_store() && *file->clip ? file->clip : file->name);
+        (void)LS_SetData(LIST_B, i, COL_B_TIME, file->time);
+    }
+    (void)LS_SetNData(LIST_B, xp.rows);
+    (void)LS_SetNowLine(LIST_B, std::min(LS_GetNowLine(LIST_B), std::max(0, xp.rows - 1)));
+    (void)LS_RedrawData(LIST_B);
+}
+
+static void add_file(const char* path, const char* time)
+{
+    XPORTFILE read;
+    void* const room = Xport_Read(&read, path, time) ? GDL_Malloc(sizeof read) : nullptr;
+    if (!room)
+        return;
+    XPORTFILE* const file = new (room) XPORTFILE(read);
+    file->next = xp.found;
+    xp.found = file;
+}
+
+static void find_tly(uint32_t label, int pattern, const char* path, const char* const* pair)
+{
+    if (!xp.kind || xp.search[pattern] != label)
+        return; // the page has gone on
+    if (path) {
+        add_file(path, pair && pair[1] ? pair[1] : "");
+        return;
+    }
+    xp.search[pattern] = 0;
+    if (std::count(std::begin(xp.search), std::end(xp.search), 0u) == XPORT_PATTERNS)
+        show_files();
+}
+
+static void search_files()
+{
+    char path[PATH_SIZE];
+    forget_searches();
+    (void)LS_SetNData(LIST_B, 0);
+    (void)LS_RedrawData(LIST_B);
+    drop_files();
+    if (!drive_folder(path))
+        return;
+    for (int i = 0; i < XPORT_PATTERNS; i++) {
+        const int label = File_ExecFind(path, xport_types[visit().type].patterns[i], find_tly, i);
+        xp.search[i] = label > 0 ? uint32_t(label) : 0;
+    }
+}
+
+// --- What the buttons show ---
+
+// Images come from the stick and the network alone.
+static bool may_import()
+{
+    const int device = visit().b.device;
+    return device == FILE_REMOVABLE || device == FILE_NETWORK;
+}
+
+static void show_buttons()
+{
+    const Visit& v = visit();
+    CopyText(xp.device_caption, File_DriveCaption(v.b.device));
+    CopyText(xp.dir_caption, v.b.dir);
+    (void)BT_SetCaption(BTN_XPORT_DEVICE_B, xp.device_caption);
+    (void)BT_SetCaption(BTN_XPORT_DIR_B, xp.dir_caption);
+    (void)BT_SetCaption(BTN_XPORT_TYPE, xport_types[v.type].caption);
+    if (has_folders()) {
+        const int row = FMCtrl_GetIsFolderIdx(FileSide_FolderId(SIDE_A));
+        const FOLDER* const folder = FMCtrl_GetFolder(row);
+        CopyText(xp.folder_caption, folder && *folder->name ? folder->name : "Default.");
+        (void)BT_SetCaption(BTN_XPORT_FOLDER_A, xp.folder_caption);
+    }
+    BT_SetDisable(BTN_XPORT_IMPORT, !may_import());
+    BT_SetDisable(BTN_XPORT_EXPORT, is_clip_store() || File_DirIsProtected(v.b.device, v.b.dir));
+}
+
+// --- Device, directory, type, folder ---
+
+static void side_chosen(int)
+{
+    if (!xp.kind)
+        return;
+    show_buttons();
+    search_files();
+}
+
+static void device_b_sel()
+{
+    (void)FileSelect_Device(&visit().b, FILE_DRIVES_DISK, side_chosen, 0);
+}
+static void dir_b_sel()
+{
+    (void)FileSelect_Dir(&visit().b, side_chosen, 0);
+}
+
+static void type_sel()
+{
+    BTNSEL cells[XPORT_TYPES];
+    for (int i = 0; i < XPORT_TYPES; i++)
+        cells[i] = {i + 1, xport_types[i].caption, i == visit().type};
+    xp.type_pane = PanePopup_Create(1, XPORT_TYPES, cells);
+}
+
+static void type_chosen(int id)
+{
+    if (id < 1 || id > XPORT_TYPES)
+        return; // "Cancel"
+    visit().type = XPORTTYPE(id - 1);
+    show_buttons();
+    search_files();
+}
+
+static void folder_a_sel()
+{
+    BTNSEL cells[FOLDER_MAX];
+    const int rows = FMCtrl_GetFolderNum();
+    const int open = FMCtrl_GetIsFolderIdx(FileSide_FolderId(SIDE_A));
+    for (int row = 0; row < rows; row++) {
+        CopyText(xp.folder_name[row], FMCtrl_GetFolder(row)->name);
+        cells[row] = {row + 1, xp.folder_name[row], row == open};
+    }
+    if (rows > 0)
+        xp.folder_pane = PaneDirectory_Create_FolderPopup(rows, cells);
+}
+
+static void folder_chosen(int id)
+{
+    if (id < 1 || id > FOLDER_MAX)
+        return; // "Cancel"
+    CopyText(visit().a.folder, id == 1 ? "" : xp.folder_name[id - 1]);
+    FileSide_Refresh(SIDE_A);
+    show_buttons();
+}
+
+// --- Import ---
+
+static void move_to_folder(const FILEXFERLIST* item, int folder_id)
+{
+    constexpr int FIRST_SWITCHER = 16; // twice that the second
+    char name[FMEM_NAME_SIZE];
+    Xport_RegisterName(name, item->src);
+    for (const int number : item->import_no) {
+        if (number > 0 && DEV_MySwr[0])
+            Net_SendCommandFormat("put %d@Frame Mem@Folder@Move Still#0,%s,%d",
+                                  FIRST_SWITCHER * Device_UnitNumber(*DEV_MySwr[0]), name,
+                                  folder_id);
+        name[0] = name[0] == 'M' ? 'S' : 'M'; // the key of the picture
+    }
+}
+
+static void xport_result(uint32_t, int page)
+{
+    const Visit& v = visits[page];
+    for (const FILEXFERLIST* item = v.list; page == XPORTPAGE_FMEM_V6 && item; item = item->next)
+        if (item->status == FILESTATUS_OK)
+            move_to_folder(item, v.folder_id);
+    (void)BkgdFileTransfer_Set(kinds[page].id, 0);
+    (void)PaneProgress_RestoreQuit();
+    if (xp.kind == &kinds[page])
+        search_files(); // the registers come by themselves
+}
+
+// The next register that holds nothing and is an operator's; -1 when there is none.
+static int next_register(Targets& t, Skipped& skipped)
+{
+    const int index = t.next < 0 ? -1 : FMCtrl2_EmptyRegNo(t.next);
+    t.next = index < 0 ? -1 : index + 1;
+    if (index >= t.end)
+        skipped.is_work_area = true;
+    return index >= t.end ? -1 : index;
+}
+
+// Two registers, the second for the picture's key if it has one.
+static bool reserve(Targets& t, Skipped& skipped)
+{
+    const Skipped before = skipped;
+    const int first = next_register(t, skipped);
+    if (first < 0) {
+        skipped.is_full |= !skipped.is_work_area;
+        return false;
+    }
+    (void)File_ExecFmImportRegNoSet(first, t.reserved++);
+    (void)File_ExecFmImportRegNoSet(next_register(t, skipped), t.reserved++); // -1: none for a key
+    skipped.is_work_area = before.is_work_area;
+    return t.reserved <= IMPORT_REGISTERS;
+}
+
+static int empty_registers(int first, int count)
+{
+    int n = 0;
+    for (int index = first; index < first + count; index++)
+        n += !FMCtrl2_IsRegStoreMulti(index);
+    return n;
+}
+
+// The older frame memory: from the selected register on; the last ones are the switcher's own work
+// area. The newer one: its main store, and the extended one for what the main store cannot take.
+static Targets targets_of(int images, int* is_extended)
+{
+    Targets t;
+    *is_extended = 0;
+    if (!has_folders()) {
+        t.next = std::max(0, LS_GetNowLine(LIST_A));
+        t.end = RegisterNum[FileKind_Group(file_kinds[xp.kind->frames])];
+        return t;
+    }
+    const int needed = 2 * images;
+    if (FMCtrl2_IsExtendedCapacity() && empty_registers(0, SYS_FmemRegMax) < needed &&
+        empty_registers(FMEM_EXTENDED, SYS_FmemRegMax) >= needed)
+        *is_extended = 1;
+    t.next = *is_extended ? FMEM_EXTENDED : 0;
+    t.end = t.next + SYS_FmemRegMax;
+    return t;
+}
+
+static int selected_files()
+{
+    int n = 0;
+    while (LS_GetSelected(LIST_B, n) >= 0)
+        n++;
+    return n;
+}
+
+static Skipped gather_import()
+{
+    Skipped skipped;
+    int is_extended = 0;
+    Targets t = targets_of(selected_files(), &is_extended);
+    for (int i = 0, row; (row = LS_GetSelected(LIST_B, i)) >= 0 && row < xp.rows; i++) {
+        char name[FMEM_NAME_SIZE];
+        Xport_RegisterName(name, xp.row[row]->path);
+        if (FMCtrl2_ExistRegName(name) || t.names.count(name)) {
+            skipped.is_duplicate = true;
+        } else if (reserve(t, skipped)) {
+            t.names.insert(name);
+            (void)File_XferList_ImportAdd(&visit().list, xp.row[row]->path, DEV_MySwr[0]->id,
+                                          is_extended);
+        }
+    }
+    File_ExecFmImportStartRegNoSet(1);
+    return skipped;
+}
+
+// --- Import into the clip store ---
+
+// Companions travel with their main sides.
+static std::unordered_set<std::string> companions; // valid while clips are gathered
+
+static void note_companions()
+{
+    companions.clear();
+    for (const XPORTFILE* file = xp.found; file; file = file->next)
+        if (Xport_IsSub(file->path))
+            companions.insert(file->path);
+}
+
+static bool has_companion(const XPORTFILE& file)
+{
+    return companions.count(std::string(file.path) + ".SUB") != 0;
+}
+
+static void add_clip_item(const XPORTFILE& file, const char* path, int frame, int frames)
+{
+    char dst[FILE_PATH_SIZE];
+    char target[32];
+    const int unit = Device_UnitNumber(*DEV_MySwr[0]);
+    const bool is_frame = *file.clip != '\0';
+    PrintText(target, "CS%d", unit);
+    if (Xport_ClipPath(dst, sizeof dst, unit, path, is_frame ? file.clip : nullptr,
+                       frames > 1 ? frame : -1))
+        (void)File_XferList_ImportAdd2(&visit().list, file.path, dst, visit().type + 1,
+                                       is_frame ? file.clip : "", frame, frames,
+                                       has_companion(file), "FRAMEMEM", target);
+}
+
+static const XPORTFILE* clip_frame[FILES_MAX]; // of the clip that is being gathered
+
+// The frames of a clip in their order, numbered anew from 0; a still is one.
+static void add_clip(const XPORTFILE& first)
+{
+    int frames = 0;
+    for (const XPORTFILE* file = xp.found; file && *first.clip && frames < FILES_MAX;
+         file = file->next)
+        if (strcmp(file->clip, first.clip) == 0 && !Xport_IsSub(file->path))
+            clip_frame[frames++] = file;
+    std::sort(clip_frame, clip_frame + frames, [](const XPORTFILE* a, const XPORTFILE* b) {
+        return Xport_Frame(a->name) < Xport_Frame(b->name);
+    });
+    char name[sizeof first.name];
+    char path[PATH_SIZE];
+    CopyText(name, *first.clip ? first.clip : first.name);
+    if (!*first.clip)
+        name[strcspn(name, ".")] = '\0';
+    PrintText(path, "/vorn/tmp/file/FRAMEMEM/CS%d/%s", Device_UnitNumber(*DEV_MySwr[0]), name);
+    if (!*first.clip)
+        add_clip_item(first, path, 0, 1);
+    for (int i = 0; i < frames; i++)
+        add_clip_item(*clip_frame[i], path, i, frames);
+}
+
+static Skipped gather_clips()
+{
+    note_companions();
+    for (int i = 0, row; (row = LS_GetSelected(LIST_B, i)) >= 0 && row < xp.rows; i++)
+        if (!Xport_IsSub(xp.row[row]->path))
+            add_clip(*xp.row[row]);
+    companions.clear();
+    return {};
+}
+
+static void tell_skipped(const Skipped& skipped, bool is_all)
+{
+    char text[CMD_SIZE] = "";
+    if (skipped.is_full)
+        (void)PaneMessage_Create("Import", PANE_ALERT,
+                                 "Some requests are skipped. \nThere is no empty register left.");
+    if (!skipped.is_work_area && !skipped.is_duplicate)
+        return;
+    PrintText(text,
+              "%sFollowing operation is not permitted.\n  - Loading to WORK AREA.\n"
+              "  - Loading that will cause duplicate\n    register name.",
+              is_all ? "" : "Some requests are skipped. \n");
+    (void)PaneMessage_Create("Import", PANE_ALERT, text);
+}
+
+static void import_sel()
+{
+    Visit& v = visit();
+    if (v.list || !may_import() || !DEV_MySwr[0])
+        return; // the job of the page is still there, or nothing to import into
+    const Skipped skipped = is_clip_store() ? gather_clips() : gather_import();
+    tell_skipped(skipped, !v.list);
+    if (!v.list)
+        return;
+    v.folder_id = FileSide_FolderId(SIDE_A);
+    (void)BkgdFileTransfer_Set(xp.kind->id, 1); // -1: the page has no transfer in the background
+    if (xp.kind->import_list(&v.list, xport_result, xp.kind->page) >= 0)
+        return;
+    (void)BkgdFileTransfer_Set(xp.kind->id, 0);
+    File_XferList_RemoveAll(&v.list);
+}
+
+// --- Export ---
+
+static void add_export(const FILECELL& cell, const char* folder)
+{
+    const bool is_sub = cell.name[0] == 'S';
+    char src[FILE_PATH_SIZE];
+    char dst[FILE_PATH_SIZE];
+    char name[FILE_NAME_SIZE];
+    FILEINFO info = FileSide_Info(SIDE_A, cell, -1);
+    CopyText(name, cell.name[0] ? cell.name + 1 : "");
+    if (visit().b.device == FILE_REMOVABLE)
+        (void)StrFatFileName(name); // an empty one is refused below
+    info.name[0] = '\0';
+    if (*name && File_FrameName(info, src, sizeof src) == 0 &&
+        Xport_DrivePath(dst, sizeof dst, folder, name, visit().type, -1, is_sub))
+        (void)File_XferList_Add(&visit().list, src, dst);
+}
+
+static void export_sel()
+{
+    Visit& v = visit();
+    char folder[PATH_SIZE];
+    if (v.list || is_clip_store() || File_DirIsProtected(v.b.device, v.b.dir) ||
+        !drive_folder(folder))
+        return;
+    for (int i = 0, no; (no = LS_GetSelected(LIST_A, i)) >= 0; i++) {
+        const FILELIST* const row = FileSide_Row(SIDE_A, no);
+        if (row && row->cell && FileSide_InView(*row->cell))
+            add_export(*row->cell, folder);
+    }
+    if (File_ExecFmExportList(&v.list, xport_result, xp.kind->page) < 0)
+        File_XferList_RemoveAll(&v.list);
+}
+
+// --- Messages ---
+
+static int button_pressed(const char* command)
+{
+    static constexpr struct {
+        const char* command;
+        void (*act)();
+    } touches[] = {
+        {XPORT "Import", import_sel},     {XPORT "Export", export_sel},
+        {XPORT "File Type", type_sel},    {XPORT "Dir B", dir_b_sel},
+        {XPORT "Device B", device_b_sel}, {XPORT "Fol A", folder_a_sel},
+    };
+    for (const auto& touch : touches)
+        if (Same(touch.command, command))
+            touch.act();
+    return 0;
+}
+
+static int pane_closed(int pane, int result)
+{
+    if (pane == 0)
+        return 0;
+    if (pane == xp.type_pane) {
+        xp.type_pane = 0;
+        type_chosen(result);
+    } else if (pane == xp.folder_pane) {
+        xp.folder_pane = 0;
+        folder_chosen(result);
+    }
+    return 0;
+}
+
+static int list_touched(int list)
+{
+    if (list == LIST_A && !is_clip_store())
+        FileSide_Selected(SIDE_A);
+    return 0;
+}
+
+static int frames_changed(int what)
+{
+    constexpr int THUMBNAIL = 1;
+    if (what != THUMBNAIL)
+        FileSide_FramesChanged();
+    return 0;
+}
+
+static int folders_changed()
+{
+    FileSide_FramesChanged();
+    show_buttons();
+    return 0;
+}
+
+static int xport_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    if (!xp.kind || FileSelect_Proc(msg, ax, bx))
+        return 0;
+    switch (msg) {
+    case LMSG_BTNSEL: return button_pressed(Text(ax));
+    case LMSG_PANEQUIT: return pane_closed(int(ax), int(bx));
+    case LMSG_PANEREGION: FileSide_SetRegions(SIDE_A); return 0;
+    case LMSG_LISTSEL:
+    case LMSG_LISTFLASH: return list_touched(int(ax));
+    case LMSG_FMCTRLCHANGE: return frames_changed(int(bx));
+    case LMSG_FOLDERNAMESENSE: return folders_changed();
+    case MSG_REDRAW: FileSide_Pass(); return 0;
+    default: return 0;
+    }
+}
+
+// --- Opening and closing ---
+
+static int leave()
+{
+    if (!xp.kind)
+        return 0;
+    FileSelect_Close();
+    FileSide_CloseAll();
+    forget_searches();
+    drop_files();
+    xp = {};
+    return 0;
+}
+
+// The clip store has not told any clip: none can be chosen.
+static void show_clips()
+{
+    enum : int { CLASS_GREY = 1 };
+    (void)LS_SetData(LIST_A, 0, 1, "No clip has been told.");
+    (void)LS_SetHStatus(LIST_A, 0, CLASS_GREY);
+    (void)LS_SetNData(LIST_A, 1);
+}
+
+static int open(uint32_t page)
+{
+    if (page >= XPORTPAGES)
+        return -1;
+    xp = {};
+    xp.kind = &kinds[page];
+    if (is_clip_store()) {
+        show_clips();
+    } else {
+        const FileKind& frames = file_kinds[xp.kind->frames];
+        BA_SetRegionGrp(FileKind_Group(frames));
+        FileSide_Open(SIDE_A, frames, &visit().a, false, false);
+    }
+    show_buttons();
+    search_files();
+    if (BkgdFileTransfer_Check(xp.kind->id))
+        (void)BkgdFileTransfer_PaneRestore();
+    return 0;
+}
+
+static int xport_create(int on, uint32_t page)
+{
+    return on ? open(page) : leave();
+}
+
+const PC_TBL pc_file_xport = {xport_proc, xport_create};
+
+void FileXport_Reset()
+{
+    (void)leave();
+    for (Visit& v : visits) {
+        File_XferList_RemoveAll(&v.list);
+        v = {};
+    }
+}

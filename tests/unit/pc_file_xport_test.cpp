@@ -1,0 +1,264 @@
+// The Import/Export pages: which files are shown, what becomes of them, and what is refused.
+#include "file_scp.h"
+#include "file_xport.h"
+#include "frame_page.h"
+#include "pc_file_xport.h"
+
+namespace
+{
+constexpr uint32_t NEW = 0x71610000, OLD = 0x71610100, CLIPS = 0x71620000;
+constexpr const char* STICK = "MYHOST:/mnt/usb/usb1/SYSTEM/";
+constexpr const char* NOT_PERMITTED =
+    "Following operation is not permitted.\n  - Loading to WORK AREA.\n"
+    "  - Loading that will cause duplicate\n    register name.";
+
+struct XportPage : FramePage {
+    void SetUp() override
+    {
+        FramePage::SetUp();
+        FileXport_Reset();
+        CopyText(GL_ImportDataPath, "");
+        CopyText(DEV_Swr[0].id, "SWR001D001");
+        (void)!::system("rm -rf /var/tmp/XPORT/SWR001D001; mkdir -p /var/tmp/XPORT/SWR001D001");
+    }
+    void TearDown() override
+    {
+        FileXport_Reset();
+        FramePage::TearDown();
+        (void)!::system("rm -rf /var/tmp/XPORT");
+    }
+    // The page with these files on the stick, found by the searches of their kinds.
+    static void OpenWith(uint32_t page, const Lines& files, XPORTTYPE type = XPORT_TIF)
+    {
+        Lines sent = Open(page);
+        if (type != XPORT_TIF) {
+            Press(BTN_XPORT_TYPE);
+            sent = Quit(type + 1);
+        }
+        Found(sent, files);
+        Pass(1000);
+    }
+    static void Found(const Lines& sent, const Lines& files)
+    {
+        for (const std::string& line : sent) {
+            if (!line.starts_with("put File@Access@Find#"))
+                continue;
+            const std::string ext = line.substr(line.rfind('*') + 1);
+            Lines rows;
+            for (const std::string& file : files)
+                if (file.ends_with(ext))
+                    rows.push_back(STICK + file);
+            Answer({line}, "Access@Find", rows);
+        }
+    }
+    static Lines Files()
+    {
+        Lines rows;
+        for (int no = 0; no < LS_GetNData(2); no++)
+            rows.push_back(LS_GetData(2, no, 0));
+        return rows;
+    }
+    // The converter has left these sides of a picture.
+    static void Converted(const Lines& files)
+    {
+        for (const std::string& file : files)
+            (void)!::system(("touch /var/tmp/XPORT/SWR001D001/" + file).c_str());
+    }
+};
+} // namespace
+
+TEST_F(XportPage, SearchesTheChosenKindInEverySpelling)
+{
+    const Lines files = {"b.TIF", "a.tif",     "c.Tif",     "b.TIF.SUB",
+                         "x.BMP", "x.BMP.SUB", "news/d.TIF"};
+    const Lines opened = Open(NEW);
+    Found(opened, files);
+    EXPECT_THAT(Files(), ElementsAre("a.tif", "b.TIF", "b.TIF.SUB", "c.Tif", "d.TIF"));
+    Press(BTN_XPORT_TYPE);
+    const Lines sent = Quit(XPORT_BMP + 1);
+    EXPECT_EQ(Caption(BTN_XPORT_TYPE), "FrameMem\n(.BMP)");
+    EXPECT_THAT(Files(), IsEmpty());
+    Found(opened, files); // of the search before
+    EXPECT_THAT(Files(), IsEmpty());
+    Found(sent, files);
+    EXPECT_THAT(Files(), ElementsAre("x.BMP", "x.BMP.SUB"));
+    // The local drive takes pictures and gives none.
+    Pass(1000);
+    Press(BTN_XPORT_DEVICE_B);
+    Answer(Quit(FILE_LOCAL + 1), "Access@ListDir", {});
+    Found(Quit(1), {});
+    EXPECT_EQ(Caption(BTN_XPORT_DEVICE_B), "Local Drive");
+    EXPECT_EQ(BT_GetVisible(BTN_XPORT_IMPORT), BT_DISABLED);
+    EXPECT_EQ(BT_GetVisible(BTN_XPORT_EXPORT), BT_ENABLED);
+}
+
+TEST_F(XportPage, ImportTakesEmptyRegistersAndMovesThemIntoTheFolder)
+{
+    Store({"Mone"});
+    Store({"Mthree"}, 3);
+    Folders("0,Default.,2,Sport");
+    OpenWith(NEW, {"beach.TIF", "with a long name.TIF"});
+    Press(BTN_XPORT_FOLDER_A);
+    Quit(2);
+    EXPECT_EQ(Caption(BTN_XPORT_FOLDER_A), "Sport");
+    Select(2, {0, 1});
+    Converted({"Mbeach.FMEM_001.SF2", "Sbeach.FMEM_002.SF2", "Mwith_a_l.FMEM_001.SF2"});
+    Pass(1000);
+    const Lines sent = Run(Press(BTN_XPORT_IMPORT));
+    EXPECT_THAT(sent, Contains(HasSubstr("TIF2SFM with Compress#")).Times(2));
+    EXPECT_THAT(sent, Contains(HasSubstr("Mbeach.FMEM_001.SF2,SWR001D001:FMEM_002.SF2")));
+    EXPECT_THAT(sent, Contains(HasSubstr("Sbeach.FMEM_002.SF2,SWR001D001:FMEM_004.SF2")));
+    EXPECT_THAT(sent, Contains(HasSubstr("Mwith_a_l.FMEM_001.SF2,SWR001D001:FMEM_005.SF2")));
+    Lines moves = sent;
+    std::erase_if(moves, [](const std::string& s) { return s.find("Move Still") == s.npos; });
+    const std::string move = "put 16@Frame Mem@Folder@Move Still#0,";
+    EXPECT_THAT(moves, ElementsAre(move + "Mbeach,2", move + "Sbeach,2", move + "Mwith_a_l,2"));
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+}
+
+TEST_F(XportPage, WhatIsNotPermittedIsSkippedAndSaid)
+{
+    static const struct {
+        uint32_t page;
+        int row; // selected at the left
+        Lines files;
+        int items;
+        std::string says;
+    } cases[] = {
+        {NEW, 0, {"logo.TIF"}, 0, NOT_PERMITTED},
+        {NEW, 0, {"logo.TIF.SUB"}, 1, "no pane"}, // the side that is missing
+        {NEW,
+         0,
+         {"logo.TIF", "beach.TIF"},
+         1,
+         std::string("Some requests are skipped. \n") + NOT_PERMITTED},
+        {NEW,
+         0,
+         {"longname1.TIF", "longname2.TIF"},
+         1,
+         std::string("Some requests are skipped. \n") + NOT_PERMITTED},
+        {OLD, 219, {"a.TIF", "b.TIF", "c.TIF"}, 3, "no pane"}, // 220 to 224: the last has no key
+        {OLD,
+         219,
+         {"a.TIF", "b.TIF", "c.TIF", "d.TIF"},
+         3,
+         std::string("Some requests are skipped. \n") + NOT_PERMITTED},
+        {OLD, 223, {"a.TIF"}, 1, "no pane"},
+    };
+    for (const auto& c : cases) {
+        SetUp();
+        SYS_FmemV6 = c.page == NEW;
+        Store({"Mlogo"});
+        OpenWith(c.page, c.files);
+        LS_SetNowLine(1, c.row);
+        std::vector<int> all_rows;
+        for (int i = 0; i < int(c.files.size()); i++)
+            all_rows.push_back(i);
+        Select(2, all_rows);
+        Lines sent = Press(BTN_XPORT_IMPORT);
+        std::erase_if(sent, [](const std::string& s) { return s.find("2SFM") == s.npos; });
+        EXPECT_EQ(int(sent.size()), c.items) << c.files[0];
+        if (c.items > 0)
+            Pane_Quit(Pane_GetActiveID()); // its progress lies above
+        EXPECT_EQ(Message(), c.says) << c.files[0];
+        while (Pane_GetActiveID())
+            Pane_Quit(Pane_GetActiveID());
+        TearDown();
+    }
+}
+
+TEST_F(XportPage, ExportNamesFilesBySides)
+{
+    Store({"Mlogo", "Slogo", "Mabc0012"});
+    OpenWith(NEW, {}, XPORT_PNG);
+    Select(1, {0, 1, 2});
+    const Lines sent = Run(Press(BTN_XPORT_EXPORT));
+    const std::string stick = STICK;
+    for (const std::string& line :
+         {std::string("SWR001D001:FMEM_002.SF2,MYHOST:/var/tmp/Slogo.FMEM_000.SF2"),
+          "/var/tmp/Mlogo.FMEM_000.SFM," + stick + "logo.PNG",
+          "/var/tmp/Slogo.FMEM_000.SFM," + stick + "logo.PNG.SUB", stick + "abc0012.PNG"})
+        EXPECT_THAT(sent, Contains(HasSubstr(line)));
+    EXPECT_THAT(sent, Contains(HasSubstr("SFM2PNG#")).Times(3));
+}
+
+// Of the clip store: frames in their order under a folder of their clip, stills by their names.
+TEST_F(XportPage, ClipStoreTakesClipsFrameByFrame)
+{
+    OpenWith(CLIPS, {"intro#000009.TIF", "intro#000010.TIF", "intro#000009.TIF.SUB", "still.TIF",
+                     "still.TIF.SUB", "one#000004.TIF"});
+    EXPECT_THAT(Files(), ElementsAre("intro", "one", "still.TIF", "still.TIF.SUB"));
+    EXPECT_EQ(Usable({BTN_XPORT_EXPORT, BTN_XPORT_IMPORT}), std::vector<int>{BTN_XPORT_IMPORT});
+    Filescp_trnasferlist_init("CS1");
+    SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+    Select(2, {0, 1, 2, 3});
+    Press(BTN_XPORT_IMPORT);
+    const FILEXFERLIST* item = nullptr;
+    for (const QUEUE* job = QueueRoot; job; job = job->next)
+        if (job->worktype == FILEWORK_RMTACCESS_SCPIMPORTLIST)
+            item = *job->xferlist;
+    static const struct {
+        const char* src;
+        const char* dst;
+        int frame, frames, info;
+    } cases[] = {
+        {"intro#000009.TIF", "intro.SFH/intro#000000.SFH", 0, 2, 1},
+        {"intro#000010.TIF", "intro.SFH/intro#000001.SFH", 1, 2, 0},
+        {"one#000004.TIF", "one.SFH/one.SFH", 0, 1, 0},
+        {"still.TIF", "still.SFH", 0, 1, 1},
+    };
+    for (const auto& c : cases) {
+        ASSERT_TRUE(item) << c.src;
+        EXPECT_EQ(item->src, STICK + std::string(c.src));
+        EXPECT_EQ(item->dst, std::string("SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/") + c.dst);
+        EXPECT_TRUE(item->import_no[0] == c.frame && item->import_no[1] == c.frames &&
+                    item->info == c.info)
+            << c.src;
+        EXPECT_STREQ(item->target, "CS1");
+        item = item->next;
+    }
+    EXPECT_FALSE(item);
+}
+
+TEST(XportNames, RowsOfASearch)
+{
+    static const struct {
+        std::string path;
+        bool is_taken;
+        const char* name;
+        const char* clip;
+        int frame;
+        const char* register_name;
+    } cases[] = {
+        {"/mnt/usb/usb1/a/logo.TIF", true, "logo.TIF", "", -1, "Mlogo"},
+        {"MYHOST:/mnt/usb/usb1/a/logo.v2.TIF.SUB", true, "logo.v2.TIF.SUB", "", -1, "Slogo"},
+        {"/mnt/usb/usb1/intro#000012.TIF", true, "intro#000012.TIF", "intro", 12, "Mintro_00"},
+        {"/mnt/usb/usb1/intro#00012.TIF", true, "intro#00012.TIF", "", -1, "Mintro_00"},
+        {"/mnt/usb/usb1/#000012.TIF", true, "#000012.TIF", "", -1, "M_000012"},
+        {"/mnt/usb/usb1/.TIF", true, ".TIF", "", -1, ""},
+        {"/mnt/usb/../etc/logo.TIF", false, "", "", -1, nullptr},
+        {"/mnt/usb/usb1/a,b.TIF", false, "", "", -1, nullptr},
+        {"logo.TIF", false, "", "", -1, nullptr},
+        {"/mnt/usb/usb1/", false, "", "", -1, nullptr},
+        {"/mnt/" + std::string(130, 'x') + ".TIF", false, "", "", -1, nullptr},
+        {"/mnt/" + std::string(250, 'x') + "/a.TIF", false, "", "", -1, nullptr},
+    };
+    for (const auto& c : cases) {
+        XPORTFILE file;
+        EXPECT_EQ(Xport_Read(&file, c.path.c_str(), ""), c.is_taken) << c.path;
+        if (!c.is_taken)
+            continue;
+        char name[FMEM_NAME_SIZE];
+        Xport_RegisterName(name, file.path);
+        EXPECT_STREQ(file.name, c.name);
+        EXPECT_STREQ(file.clip, c.clip) << c.path;
+        EXPECT_EQ(Xport_Frame(file.name), c.frame) << c.path;
+        EXPECT_STREQ(name, c.register_name) << c.path;
+    }
+    char buffer[64];
+    EXPECT_TRUE(Xport_DrivePath(buffer, sizeof buffer, "MYHOST:/x/", "abc", XPORT_TGA, 7, true));
+    EXPECT_STREQ(buffer, "MYHOST:/x/abc#000007.TGA.SUB");
+    EXPECT_FALSE(Xport_DrivePath(buffer, 20, "MYHOST:/x/", "abcdef", XPORT_TGA, -1, true));
+    EXPECT_TRUE(Xport_ClipPath(buffer, sizeof buffer, 2, "/news/abc", "abc", 12));
+    EXPECT_STREQ(buffer, "SWR000D002:/news/abc.SFH/abc#000012.SFH");
+}
