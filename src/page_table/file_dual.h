@@ -89,16 +89,16 @@ static_assert(ListsAreSound(ls_file_detail));
 
 // The marks of folders stand at x 150 and 500.
 inline constexpr LS_TBL ls_file_frame[] = {
-    {.id = 1, .hn = 3, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 80, 78},
+    {.id = 1, .hn = 3, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {45, 80, 80},
      .group = {1, 1, 999}, .sb_top = 124, .sb_bottom = 388},
-    {.id = 2, .hn = 3, .vn = 11, .x = 450, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 80, 78},
+    {.id = 2, .hn = 3, .vn = 11, .x = 450, .y = 124, .head = {"No", "Name", "Date"}, .width = {45, 80, 80},
      .group = {1, 1, 999}, .sb_top = 124, .sb_bottom = 388},
     LS_END,
 };
 static_assert(ListsAreSound(ls_file_frame));
 
 inline constexpr LS_TBL ls_file_frame_detail[] = {
-    {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {46, 240, 122, 60},
+    {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {45, 240, 122, 60},
      .group = {3, 999}, .sb_top = 124, .sb_bottom = 388},
     LS_END,
 };
