@@ -124,7 +124,7 @@ static const Preset presets[] = {
     {"Info@Xpt Button Count", "", "32"},
     {"Info@Operation Setup Data@Screen Saver", "", "0"},
     {"Info@Operation Setup Data@Touch Buzz", "", "1"},
-    {"Info@Operation Setup Data@Import Path", "", "/mnt/usb/usb1"},
+    {"Info@Operation Setup Data@Import Path", "", "/mnt/usb/usb1/"},
     {"Info@Operation Setup Data@Timeline Display Priority", "", "0"},
     {"Info@Operation Setup Data@Error Status", "", "1"},
     {"Info@Operation Setup Data@Initial Menu Set", "", "00110000"},

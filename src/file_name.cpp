@@ -35,9 +35,11 @@ bool File_Root(char* buffer, int size, int drive)
 {
     switch (drive) {
     case FILE_LOCAL: return print(buffer, size, "MYHOST:%suser/root/", GL_RegistDataPath);
-    case FILE_REMOVABLE:
-        return print(buffer, size, "MYHOST:%s",
-                     GL_ImportDataPath[0] ? GL_ImportDataPath : "/mnt/usb/usb1/");
+    case FILE_REMOVABLE: {
+        const char* path = GL_ImportDataPath[0] ? GL_ImportDataPath : "/mnt/usb/usb1/";
+        const bool is_whole = path[strlen(path) - 1] == '/'; // a server may tell it without
+        return print(buffer, size, "MYHOST:%s%s", path, is_whole ? "" : "/");
+    }
     case FILE_NETWORK: return print(buffer, size, "MYHOST:/var/nfs/user/root/");
     case FILE_REMOTE_PNL:
         return DEV_MyPnl[0] &&
