@@ -81,6 +81,8 @@ static void reopen_menu(const char* caption)
 
 TallyRoute tally_top_menu(const Tally& t)
 {
+    if (!t.value[0])
+        return TallyRoute::Taken; // what a new page's "add" is answered with: no key was pressed
     if (GetWindow() != 0)
         return TallyRoute::Refused;
     if (is4KFormat() && is_one_of(t.value, menus_not_in_4k))
