@@ -522,7 +522,10 @@ int FileProc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
             file_shp_tally(Text(ax), Text(bx), Text(dx));
         break;
     case LMSG_PANEQUIT: file_pane_cancelled(int(ax)); break;
-    case MSG_REDRAW: file_list_tick(); break;
+    case MSG_REDRAW:
+        file_pane_tick();
+        file_list_tick();
+        break;
     default: break;
     }
     return 0;

@@ -292,8 +292,9 @@ void BkgdFileTransfer_SetPaneID(int pane); // the entries do this for the pane t
 // Jobs that hold the background pane take the new one: after PaneProgress_RestoreCreate.
 void BkgdFileTransfer_ReplacePaneID(int pane);
 void BkgdFileTransfer_PaneQuit(); // close the pane; the job goes on
-// For a page that belongs to the transfer, when it opens: bring the pane back with the job's own
-// title, unless it is there. Returns its id, 0 when no job holds the background pane.
+// For a page that belongs to the transfer, when it opens: once the page has been painted, bring the
+// pane back with the job's own title, unless it is there. Returns the id of a pane that is there, 0
+// when none is yet or no job holds the background pane.
 int BkgdFileTransfer_PaneRestore();
 // The transfer permits this page to stay as it is.
 int BkgdFileTransfer_PagePermitted(uint32_t page);

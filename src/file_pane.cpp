@@ -27,7 +27,8 @@ static_assert(std::size(bkgd_pages) == 13);
 
 static struct {
     uint32_t mask = 0;
-    int pane = 0; // closed or open; the jobs that hold it are known by it
+    int pane = 0;       // closed or open; the jobs that hold it are known by it
+    int restore_in = 0; // redraws until it comes back, 0: it doesn't
     bool is_hdd = false;
     int hdd_pane = 0;
 } bkgd;
@@ -76,21 +77,35 @@ void BkgdFileTransfer_PaneQuit()
         (void)Pane_Quit(bkgd.pane);
 }
 
-int BkgdFileTransfer_PaneRestore()
+static QUEUE* bkgd_job()
 {
-    const QUEUE* job = QueueRoot;
+    QUEUE* job = QueueRoot;
     while (job && (bkgd.pane == 0 || job->paneid != bkgd.pane))
         job = job->next;
-    if (!job)
+    return job;
+}
+
+int BkgdFileTransfer_PaneRestore()
+{
+    if (!bkgd_job())
         return 0;
-    if (!Pane_Exist(bkgd.pane)) {
-        const char* title = file_work(job->worktype)->pane;
-        constexpr int cancel = 1;
-        const int pane = PaneProgress_RestoreCreate(title ? title : "Transfer", "", cancel);
-        if (pane != 0)
-            BkgdFileTransfer_ReplacePaneID(pane);
-    }
-    return bkgd.pane;
+    constexpr int PAINTED = 2; // the page paints at the first redraw, behind this module
+    bkgd.restore_in = Pane_Exist(bkgd.pane) ? 0 : PAINTED;
+    return bkgd.restore_in ? 0 : bkgd.pane;
+}
+
+void file_pane_tick()
+{
+    if (bkgd.restore_in == 0 || --bkgd.restore_in > 0)
+        return;
+    const QUEUE* job = bkgd_job();
+    if (!job || !BkgdFileTransfer_Check(GL_NowPage))
+        return;
+    const char* title = file_work(job->worktype)->pane;
+    constexpr int cancel = 1;
+    const int pane = PaneProgress_RestoreCreate(title ? title : "Transfer", "", cancel);
+    if (pane != 0)
+        BkgdFileTransfer_ReplacePaneID(pane);
 }
 
 int BkgdFileTransfer_PagePermitted(uint32_t page)
@@ -135,7 +150,7 @@ static bool has_copy()
 }
 
 // The page now shown is the transfer's own, or nothing runs in the background.
-static bool is_in_view(const QUEUE* job)
+bool file_pane_is_in_view(const QUEUE* job)
 {
     return job->paneid != 0 && (!has_copy() || BkgdFileTransfer_Check(GL_NowPage));
 }
@@ -161,7 +176,7 @@ void file_pane_progress(QUEUE* job, int percent, const char* text)
 {
     if (is_mirrored(job))
         (void)PaneProgress_RestoreSetProg(percent, text);
-    if (is_in_view(job))
+    if (file_pane_is_in_view(job))
         (void)PaneProgress_SetProg(job->paneid, percent, text);
 }
 
@@ -169,7 +184,7 @@ void file_pane_append(QUEUE* job, const char* text)
 {
     if (is_mirrored(job))
         (void)PaneProgress_RestoreAppendMessage(text);
-    if (is_in_view(job))
+    if (file_pane_is_in_view(job))
         (void)Pane_AppendMessage(job->paneid, text);
 }
 
@@ -207,7 +222,7 @@ void file_pane_lamp(QUEUE* job, int lamp)
 {
     if (is_mirrored(job))
         (void)PaneProgress_RestoreSetRouteLamp(lamp);
-    if (is_in_view(job))
+    if (file_pane_is_in_view(job))
         (void)PaneProgress_SetRouteLamp(job->paneid, lamp);
 }
 

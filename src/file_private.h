@@ -131,8 +131,10 @@ void file_pane_progress(QUEUE* job, int percent, const char* text);
 void file_pane_append(QUEUE* job, const char* text);
 void file_pane_append_line(QUEUE* job, const char* text); // with a line break
 void file_pane_lamp(QUEUE* job, int lamp);
+bool file_pane_is_in_view(const QUEUE* job); // the operator looks at its page
 // What went wrong in the job, a line an item, the first that find room. False: nothing.
 bool file_pane_failures(const QUEUE* job, char* text, size_t size);
+void file_pane_tick(); // at each redraw
 void file_pane_reset();
 void file_pane_cancelled(int pane);
 

@@ -243,8 +243,8 @@ void file_tell(const QUEUE* job, const void* cx, const void* dx)
 }
 
 // A callback may end the job, empty its list or give it another pane: nothing of it is trusted
-// across a call. The pane goes with its lines: what went wrong is told once more, until the
-// operator has seen it.
+// across a call. The pane goes with its lines: what went wrong stays in one that the operator
+// closes. Over a page of other work nothing opens.
 void file_finish(QUEUE* job)
 {
     const uint32_t label = job->label;
@@ -252,7 +252,8 @@ void file_finish(QUEUE* job)
     FILEXFERLIST** list = job->xferlist;
     int pane = job->paneid;
     char failures[FAILURES_SIZE];
-    const bool has_failed = pane != 0 && file_pane_failures(job, failures, sizeof failures);
+    const bool has_failed =
+        file_pane_is_in_view(job) && file_pane_failures(job, failures, sizeof failures);
     if (job->retfunc.list)
         job->retfunc.list(label, job->tag);
     SendMessage(LMSG_FILESTATUS, type, int(label), Arg(list), 0);

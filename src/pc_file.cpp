@@ -1,5 +1,6 @@
 #include "pc_file.h"
 #include "device.h"
+#include "err.h"
 #include "netio.h"
 #include "text.h"
 #include <cstring>
@@ -137,4 +138,22 @@ void xferlist_result_display(const FILEXFERLIST* list)
         if (item)
             row.read();
     }
+}
+
+void xferlist_errors_add(const FILEXFERLIST* list)
+{
+    const FILEXFERLIST* first = nullptr;
+    int more = 0;
+    for (const FILEXFERLIST* item = list; item; item = item->next) {
+        if (item->status != FILESTATUS_NG)
+            continue;
+        if (first)
+            more++;
+        else
+            first = item;
+    }
+    if (first && more)
+        (void)Err_Add("%s (and %d more)", first->mesg, more);
+    else if (first)
+        (void)Err_Add("%s", first->mesg);
 }

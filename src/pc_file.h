@@ -102,3 +102,6 @@ int File_GroupOf(FILEKIND kind);
 // Ask for what the items that ended well may have changed, each category once. Before the job frees
 // its list.
 void xferlist_result_display(const FILEXFERLIST* list);
+// What went wrong while the operator was elsewhere, into the list of errors: the first file that
+// failed, and how many more. Before the job frees its list.
+void xferlist_errors_add(const FILEXFERLIST* list);

@@ -7,6 +7,7 @@
 #include "fmctrl.h"
 #include "message.h"
 #include "netio.h"
+#include "page.h"
 #include "pane.h"
 #include "pc_file_side.h"
 #include "register.h"
@@ -262,6 +263,8 @@ static void dual_result(uint32_t, int page)
         move_loaded(v.list, v.folder_id);
     (void)BkgdFileTransfer_Set(file_kinds[page].id, 0);
     (void)PaneProgress_RestoreQuit();
+    if (GL_NowPage != file_kinds[page].id)
+        xferlist_errors_add(v.list);
     if (fd.kind == &file_kinds[page])
         refresh_all();
 }

@@ -473,9 +473,12 @@ TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
     Answer(2, "NG(no)");
     EXPECT_EQ(Pane_GetActiveID(), 0);
     GL_NowPage = 0x71210000;
-    const int second = BkgdFileTransfer_PaneRestore();
+    EXPECT_EQ(BkgdFileTransfer_PaneRestore(), 0);
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    EXPECT_EQ(Pane_GetActiveID(), 0) << "the page is not painted yet";
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    const int second = QueueRoot->paneid;
     EXPECT_TRUE(Pane_Exist(second));
-    EXPECT_EQ(QueueRoot->paneid, second);
     EXPECT_EQ(BkgdFileTransfer_PaneRestore(), second);
     SendMessage(LMSG_PANEQUIT, second, 1, 0, 0);
     EXPECT_EQ(told.size(), 1u) << "cancelled from the pane that came back";

@@ -129,6 +129,9 @@ TEST_F(FileDualPage, TransferGoesOnWithoutItsPage)
     EXPECT_EQ(CreatePage(PAGE_TOP), 0);
     EXPECT_EQ(Pane_GetActiveID(), 0);
     EXPECT_EQ(CreatePage(SNAPSHOT_PAGE), 0);
+    Pass(10);
+    Tell("TopMenu#"); // no key was pressed
+    Pass(10);
     const int pane = Pane_GetActiveID();
     ASSERT_NE(pane, 0);
     (void)TakeQueuedCommands();
