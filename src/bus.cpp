@@ -15,6 +15,7 @@
 #include "page.h"
 #include "page_family.h"
 #include "pane.h"
+#include "pc_file_all.h"
 #include "register.h"
 #include "scrollbar.h"
 #include "text.h"
@@ -150,6 +151,7 @@ int SendMessage(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
 
     RegisterProc(msg, ax, bx, cx, dx);
     FileProc(msg, ax, bx, cx, dx);
+    FileAllProc(msg, ax, bx, cx, dx);
     FMCtrlProc(msg, ax, bx, cx, dx);
     FMCtrl3_Proc(msg, ax, bx, cx, dx);
     InfoProc(msg, ax, bx, cx, dx);

@@ -197,6 +197,9 @@ void FMCtrl_GetWaitThumbnailAll();
 // second argument a thumbnail came, with 2 the first is a clip whose ancillary flag changed. After
 // "Max Register" all has changed. LMSG_FOLDERNAMESENSE: the folders.
 int FMCtrlProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx); // returns 0
+// Leave the answer to a command of the automation's folder there, "OK" or "Error", as the file
+// name.
+void FMCtrl_FtpAnswer(const char* name, int is_good);
 int framememory_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 void FMCtrl_InitClipStillList(); // at start-up
 void FMCtrl_Quit();              // all as before the first line

@@ -61,7 +61,7 @@ static int AllClear_Deleting = 0;   // the deletion shows as file processing
 
 // --- Replies ---
 
-static void reply(const char* name, bool is_good)
+void FMCtrl_FtpAnswer(const char* name, int is_good)
 {
     char path[PATH_SIZE];
     char beside[PATH_SIZE];
@@ -117,7 +117,8 @@ static bool make_log(const char* path)
 {
     if (!remove_marker(path))
         return false;
-    reply("makelog.res", ktr_system("./script/logbackup.sh /tmp/FTPIF/Export/log/") == 0);
+    FMCtrl_FtpAnswer("makelog.res",
+                     ktr_system("./script/logbackup.sh /tmp/FTPIF/Export/log/") == 0);
     return true;
 }
 
@@ -143,7 +144,8 @@ static bool nfs_mount(const char* path)
     const bool is_read = first_line(path, line);
     if (!remove_marker(path))
         return false;
-    reply("nfsmount.res", is_read && NFS_MountEx(line) == 0); // which looks at the text itself
+    FMCtrl_FtpAnswer("nfsmount.res",
+                     is_read && NFS_MountEx(line) == 0); // which looks at the text itself
     return true;
 }
 
@@ -151,7 +153,7 @@ static bool nfs_unmount(const char* path)
 {
     if (!remove_marker(path))
         return false;
-    reply("nfsunmount.res", NFS_UnMountEx() == 0);
+    FMCtrl_FtpAnswer("nfsunmount.res", NFS_UnMountEx() == 0);
     return true;
 }
 
@@ -177,7 +179,7 @@ static void clear_pass(int elapsed_ms)
     if (AllClear_DelTimeout > 0)
         return;
     ftp.is_clearing = false;
-    reply("allclear.res", true);
+    FMCtrl_FtpAnswer("allclear.res", true);
 }
 
 static void look_at_marker(int i)

@@ -119,17 +119,24 @@ static bool is_screen_setup(const FILEXFERLIST* item)
     return has_ext(item->dst, "PST") && (strstr(item->dst, ".GUI_") || strstr(item->dst, ":GUI_"));
 }
 
+static constexpr struct {
+    const char* category; // null: the screen's own setup
+    void (*read)();
+} readings[] = {
+    {"SNAPSHOT", read_snapshots},  {"WSNAP", read_wipe_snapshots}, {"DSNAP", read_dme_snapshots},
+    {"KSNAP", read_key_snapshots}, {nullptr, read_key_map},
+};
+
+void File_ReadCategory(const char* category)
+{
+    for (const auto& row : readings)
+        if (row.category && strcmp(row.category, category) == 0)
+            row.read();
+}
+
 void xferlist_result_display(const FILEXFERLIST* list)
 {
-    static constexpr struct {
-        const char* category; // null: the screen's own setup
-        void (*read)();
-    } rows[] = {
-        {"SNAPSHOT", read_snapshots},  {"WSNAP", read_wipe_snapshots},
-        {"DSNAP", read_dme_snapshots}, {"KSNAP", read_key_snapshots},
-        {nullptr, read_key_map},
-    };
-    for (const auto& row : rows) {
+    for (const auto& row : readings) {
         const FILEXFERLIST* item = list;
         while (item &&
                !(item->status == FILESTATUS_OK &&

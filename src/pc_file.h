@@ -99,6 +99,8 @@ int File_GroupOf(FILEKIND kind);
 
 // --- After a transfer ---
 
+// Ask for what a load of the category may have changed; nothing for one that tells itself.
+void File_ReadCategory(const char* category);
 // Ask for what the items that ended well may have changed, each category once. Before the job frees
 // its list.
 void xferlist_result_display(const FILEXFERLIST* list);

@@ -1,5 +1,6 @@
 // PageTable, joined at compile time from the rows of the menu groups.
 #include "dme.h"
+#include "file_all.h"
 #include "file_directory.h"
 #include "file_dual.h"
 #include "file_fieldinvert.h"
@@ -55,6 +56,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 OfBanks<me_wipe_pages>,
                 OfBanks<me_dmewipe_pages>,
                 OfBanks<me_misc_pages>,
+                file_all_pages,
                 file_dual_pages,
                 file_top_pages,
                 fm_pages,

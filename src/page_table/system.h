@@ -1,24 +1,6 @@
 // system: the first pages of files, engineering setup, diagnosis and the error page.
 #pragma once
-#include "file_tabs.h"
 #include "rows.h"
-
-inline constexpr BT_TBL bt_file_all[] = {
-    Radio(      {.id = 17, .caption = "Local", .group = "Media", .cmd = {"~@Media#Local"}}),
-    Radio(      {.id = 18, .caption = "Memory\nStick", .group = "Media", .cmd = {"~@Media#Memory Stick"}}),
-    Radio(      {.id = 19, .caption = "Network", .group = "Media", .cmd = {"~@Media#Network"}}),
-    Action(     {.id = 33, .caption = "Load", .group = "Job", .cmd = {"~@Load#*"}}),
-    Action(     {.id = 34, .caption = "Save", .group = "Job", .cmd = {"~@Save#*"}}),
-    Action(     {.id = 35, .caption = "Recall", .group = "Job", .cmd = {"~@Recall#*"}}),
-    Action(     {.id = 36, .caption = "Store", .group = "Job", .cmd = {"~@Store#*"}}),
-    Action(     {.id = 37, .caption = "Delete", .group = "Job", .cmd = {"~@Delete#*"}}),
-    Action(     {.id = 38, .caption = "Rename", .group = "Job", .cmd = {"~@Rename#*"}}),
-    Toggle(     {.id = 49, .caption = "Auto\nLoad", .group = "Option", .cmd = {"~@Auto Load#*"}}),
-    Toggle(     {.id = 50, .caption = "Protect", .group = "Option", .cmd = {"~@Protect#*"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_file_all));
 
 inline constexpr BT_TBL bt_setup_network[] = {
     Radio(      {.id = 17, .caption = "Panel", .group = "Unit", .cmd = {"~@Unit#Panel"}}),
@@ -94,7 +76,6 @@ inline constexpr PAGE system_pages[] = {
     {.id = 0x71000000, .tree = {"File"}, .obj = {Base(base_main), Buttons(bt_file_top)}},
     {.id = 0x73000000, .tree = {"Engineering Setup"}, .obj = {Base(base_main), Buttons(bt_engineering_setup_top)}},
     {.id = 0x74000000, .tree = {"Diag"}, .obj = {Base(base_main), Buttons(bt_diag_top)}},
-    {.id = 0x71110000, .tree = {"File", "All"}, .obj = {Base(base_file_main), LeftTabs(vf_file, 1), BottomTabs(hf_file_setup, 1), Buttons(bt_file_all)}},
     {.id = 0x73110000, .tree = {"Engineering Setup", "System", "Network Config"}, .obj = {Base(base_main), Buttons(bt_setup_network)}},
     {.id = 0x74110000, .tree = {"Diag", "Status"}, .obj = {Base(base_main), Buttons(bt_diag)}},
     {.id = 0x74120000, .tree = {"Diag", "History"}, .obj = {Base(base_main), Buttons(bt_diag_history)}},

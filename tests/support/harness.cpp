@@ -26,6 +26,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "pc_file_all.h"
 #include "pc_file_dual.h"
 #include "saver.h"
 #include "scrollbar.h"
@@ -184,6 +185,7 @@ void Harness_Reset()
     AutoLoad_Reset();
     File_Reset();
     FileDual_Reset();
+    FileAll_Reset();
     File_DirReset();
     File_ReplaceSync([] { return 0; }); // a job of a test does not wait for the host's drives
     (void)TakeQueuedCommands();         // what an earlier test left
