@@ -3,8 +3,8 @@
 #include "menu_macro.h"
 #include "netio.h"
 #include "pane.h"
-#include "register.h"
-#include "snapshot_region.h"
+#include "register_mirror.h"
+#include "register_region.h"
 #include "text.h"
 #include <cstring>
 #include <iterator>
@@ -14,87 +14,26 @@
 
 // --- Regions ---
 
-namespace
-{
-enum : int { // region ids, as the selectors have them
-    ID_FIRST_USER = 272,
-    ID_FIRST_CHANNEL = 288,
-    ID_FIRST_DEVICE = 304,
-    ID_PBUS = 320,
-    ID_GPI = 336,
-    ID_ROUTER = 352,
-    ID_MACRO = 368,
-    ID_FIRST_KEY = 512,
-};
-
-// A region of the effects and snapshots: row of the mirror and its bits in the commands.
-struct RegionBits {
-    int id;
-    int row;
-    uint64_t effect;
-    uint32_t snapshot;
-};
-constexpr RegionBits sides[] = {
-    {257, SS_REGION_ME1, 0x2, 0x2},
-    {258, SS_REGION_ME2, 0x4, 0x4},
-    {259, SS_REGION_ME3, 0x8, 0x8},
-    {264, SS_REGION_ME4, 0x0004000000000000, 0x10},
-    {266, SS_REGION_ME5, 0x0010000000000000, 0x20},
-    {256, SS_REGION_PP, 0x1, 0x1},
-    {261, SS_REGION_ME1_SUB, 0x0000400000000000, 0x01000000},
-    {262, SS_REGION_ME2_SUB, 0x0000800000000000, 0x02000000},
-    {263, SS_REGION_ME3_SUB, 0x0001000000000000, 0x04000000},
-    {265, SS_REGION_ME4_SUB, 0x0008000000000000, 0x08000000},
-    {267, SS_REGION_ME5_SUB, 0x0020000000000000, 0x10000000},
-    {260, SS_REGION_PP_SUB, 0x0000200000000000, 0x00800000},
-};
-} // namespace
-
-static RegionBits region_bits(int id)
-{
-    constexpr int USERS = 8, CHANNELS = 8, DEVICES = 12;
-    for (const RegionBits& side : sides)
-        if (side.id == id)
-            return side;
-    if (const int n = id - ID_FIRST_USER; n >= 0 && n < USERS)
-        return {id, SS_REGION_USER1 + n, uint64_t(0x10) << n, 0x40u << n};
-    if (const int n = id - ID_FIRST_CHANNEL;
-        n >= 0 && n < CHANNELS) // its own bit and the common part's
-        return {id, SS_REGION_DME1 + n, uint64_t(0x101000) << n, 0x4000u << n};
-    if (const int n = id - ID_FIRST_DEVICE; n >= 0 && n < DEVICES)
-        return {id, EFF_REGION_DEV1 + n, uint64_t(0x10000000) << n, 0};
-    switch (id) {
-    case ID_PBUS: return {id, EFF_REGION_PBUS, uint64_t(0x100) << 32, 0};
-    case ID_GPI: return {id, EFF_REGION_GPI, uint64_t(0x200) << 32, 0};
-    case ID_MACRO: return {id, EFF_REGION_MACRO, uint64_t(0x20000) << 32, 0};
-    case ID_ROUTER: return {id, SS_REGION_RTR, 0, 0x400000};
-    default: return {id, -1, 0, 0};
-    }
-}
-
 static int row_of_effect(int id)
 {
-    return id == ID_ROUTER ? -1 : region_bits(id).row;
+    return Region_RowOfId(EffectRegion.data(), id);
 }
 static int row_of_snapshot(int id)
 {
-    const RegionBits r = region_bits(id);
-    return r.snapshot ? r.row : -1;
+    return Region_RowOfId(SnapshotRegion.data(), id);
 }
 static int row_of_side(int id)
 {
-    const int row = region_bits(id).row;
-    return row <= SS_REGION_PP_SUB ? row : -1;
+    return Region_RowOfId(WipeSSRegion.data(), id);
 }
 static int row_of_channel(int id)
 {
-    const int row = region_bits(id).row;
+    const int row = row_of_effect(id);
     return row >= SS_REGION_DME1 && row <= SS_REGION_DME8 ? Register_DMEGroup(row) : -1;
 }
 static int row_of_key(int id)
 {
-    const int row = id - ID_FIRST_KEY;
-    return row >= 0 && row < int(KeySSCmd.size()) ? row : -1;
+    return Region_RowOfId(KeySSRegion.data(), id);
 }
 static int row_of_panel(int)
 {
@@ -102,18 +41,22 @@ static int row_of_panel(int)
 }
 
 // EffReg and EffRegx00, SSReg, WipeSSReg and DmeSSReg, KeySSReg: the bits of a region.
+static uint64_t mask_in(const SSREGION* table, int id)
+{
+    const int row = Region_RowOfId(table, id);
+    return row < 0 ? 0 : table[row].bitmap;
+}
 static uint64_t mask_of_effect(int id)
 {
-    return region_bits(id).effect;
+    return mask_in(EffectRegion.data(), id);
 }
 static uint64_t mask_of_snapshot(int id)
 {
-    return region_bits(id).snapshot;
+    return mask_in(SnapshotRegion.data(), id);
 }
 static uint64_t mask_of_key(int id)
 {
-    const int row = row_of_key(id);
-    return row < 0 ? 0 : uint64_t(1) << row;
+    return mask_in(KeySSRegion.data(), id);
 }
 static uint64_t mask_of_frame(int) // its name says all
 {
@@ -132,33 +75,21 @@ static uint64_t mask_of_macro(int)
 
 // --- Registers ---
 
-static constexpr FileRegisters effects = {REGISTER_EFFECT, Register_Exist_Effect,
-                                          Register_Lock_Effect, Register_Name_Effect,
-                                          row_of_effect};
-static constexpr FileRegisters effects_100 = {REGISTER_EFF100, Register_Exist_Eff100,
-                                              Register_Lock_Eff100, Register_Name_Eff100,
-                                              row_of_channel};
-static constexpr FileRegisters effects_200 = {REGISTER_EFF200, Register_Exist_Eff200,
-                                              Register_Lock_Eff200, Register_Name_Eff200,
-                                              row_of_channel};
-static constexpr FileRegisters effects_300 = {REGISTER_EFF300, Register_Exist_Eff300,
-                                              Register_Lock_Eff300, Register_Name_Eff300,
-                                              row_of_channel};
-static constexpr FileRegisters snapshots = {REGISTER_SNAPSHOT, Register_Exist_Snapshot,
-                                            Register_Lock_Snapshot, Register_Name_Snapshot,
-                                            row_of_snapshot};
-static constexpr FileRegisters wipe_snapshots = {REGISTER_WIPESS, Register_Exist_WipeSS,
-                                                 Register_Lock_WipeSS, Register_Name_WipeSS,
-                                                 row_of_side};
-static constexpr FileRegisters dme_snapshots = {
-    REGISTER_DMESS, Register_Exist_DMESS, Register_Lock_DMESS, Register_Name_DMESS, row_of_side};
-static constexpr FileRegisters key_snapshots = {
-    REGISTER_KEYSS, Register_Exist_KeySS, Register_Lock_KeySS, Register_Name_KeySS, row_of_key};
-static constexpr FileRegisters shotboxes = {REGISTER_SHOTBOX, Register_Exist_Shotbox,
-                                            Register_Lock_Shotbox, Register_Name_Shotbox,
-                                            row_of_panel};
-static constexpr FileRegisters macros = {REGISTER_MACRO, Register_Exist_Macro, Register_Lock_Macro,
-                                         Register_Name_Macro, row_of_panel};
+static constexpr FileRegisters Mirrored(int kind, int (*row)(int region_id))
+{
+    const RegisterMirror& m = register_mirrors[kind];
+    return {kind, m.exist, m.lock, m.name, row};
+}
+static constexpr FileRegisters effects = Mirrored(REGISTER_EFFECT, row_of_effect);
+static constexpr FileRegisters effects_100 = Mirrored(REGISTER_EFF100, row_of_channel);
+static constexpr FileRegisters effects_200 = Mirrored(REGISTER_EFF200, row_of_channel);
+static constexpr FileRegisters effects_300 = Mirrored(REGISTER_EFF300, row_of_channel);
+static constexpr FileRegisters snapshots = Mirrored(REGISTER_SNAPSHOT, row_of_snapshot);
+static constexpr FileRegisters wipe_snapshots = Mirrored(REGISTER_WIPESS, row_of_side);
+static constexpr FileRegisters dme_snapshots = Mirrored(REGISTER_DMESS, row_of_side);
+static constexpr FileRegisters key_snapshots = Mirrored(REGISTER_KEYSS, row_of_key);
+static constexpr FileRegisters shotboxes = Mirrored(REGISTER_SHOTBOX, row_of_panel);
+static constexpr FileRegisters macros = Mirrored(REGISTER_MACRO, row_of_panel);
 
 // A menu macro is kept as a file of this unit.
 static int exist_menu_macro(int, int no)

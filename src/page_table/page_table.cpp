@@ -33,6 +33,7 @@
 #include "operation.h"
 #include "registers.h"
 #include "saver.h"
+#include "snapshot_pages.h"
 #include "sources.h"
 #include "system.h"
 #include "top.h"
@@ -67,6 +68,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 keyframe_pages,
                 keyframe_path_rows,
                 registers_pages,
+                snapshot_register_pages,
                 system_pages,
                 file_directory_pages,
                 file_folder_pages,

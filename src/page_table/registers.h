@@ -16,20 +16,6 @@ inline constexpr BT_TBL bt_effect[] = {
 };
 static_assert(ButtonsAreSound(bt_effect));
 
-inline constexpr BT_TBL bt_snapshot[] = {
-    Action(     {.id = 17, .caption = "Recall", .group = "Register", .cmd = {"~@Recall#*"}}),
-    Action(     {.id = 18, .caption = "Store", .group = "Register", .cmd = {"~@Store#*"}}),
-    Action(     {.id = 19, .caption = "Delete", .group = "Register", .cmd = {"~@Delete#*"}}),
-    Action(     {.id = 20, .caption = "Rename", .group = "Register", .cmd = {"~@Rename#*"}}),
-    Toggle(     {.id = 33, .caption = "Cross-\npoint", .group = "Attribute", .cmd = {"~@Crosspoint#*"}}),
-    Toggle(     {.id = 34, .caption = "Eff Diss", .group = "Attribute", .cmd = {"~@Eff Diss#*"}}),
-    Toggle(     {.id = 35, .caption = "Key\nDisable", .group = "Attribute", .cmd = {"~@Key Disable#*"}}),
-    Toggle(     {.id = 49, .caption = "Lock", .group = "Lock", .cmd = {"~@Lock#*"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_snapshot));
-
 inline constexpr BT_TBL bt_shotbox[] = {
     Action(     {.id = 17, .caption = "Recall", .group = "Register", .cmd = {"~@Recall#*"}}),
     Action(     {.id = 18, .caption = "Store", .group = "Register", .cmd = {"~@Store#*"}}),
@@ -68,6 +54,5 @@ inline constexpr PAGE registers_pages[] = {
     {.id = 0x63000000, .tree = {"Snapshot"}, .obj = {Base(base_main), Buttons(bt_snapshot_top)}},
     {.id = 0x64000000, .tree = {"Shotbox"}, .obj = {Base(base_main), Buttons(bt_shotbox_top)}},
     {.id = 0x62110000, .tree = {"Effect", "Register"}, .obj = {Base(base_main), Buttons(bt_effect)}},
-    {.id = 0x63110000, .tree = {"Snapshot", "Master"}, .obj = {Base(base_main), Buttons(bt_snapshot)}},
     {.id = 0x64110000, .tree = {"Shotbox", "Register"}, .obj = {Base(base_main), Buttons(bt_shotbox)}},
 };

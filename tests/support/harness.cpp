@@ -28,6 +28,7 @@
 #include "pane.h"
 #include "pc_file_all.h"
 #include "pc_file_dual.h"
+#include "pc_register.h"
 #include "saver.h"
 #include "scrollbar.h"
 #include "setup_index.h"
@@ -186,6 +187,7 @@ void Harness_Reset()
     File_Reset();
     FileDual_Reset();
     FileAll_Reset();
+    RegisterPages_Reset();
     File_DirReset();
     File_ReplaceSync([] { return 0; }); // a job of a test does not wait for the host's drives
     (void)TakeQueuedCommands();         // what an earlier test left

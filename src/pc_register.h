@@ -1,0 +1,77 @@
+// pc_register: the pages of the stored registers. A page is a shape (a list with the keys of one
+// job, two lists, a grid) of a kind (pc_register_kind); the row of a page names both as the
+// argument of its page code, and one body serves all. A kind that can do more than the family on
+// its first page says so in a RegisterExtra. Registers change on the server only: a press sends a
+// command, and what it did comes back as lines of the mirror.
+//
+// Operations go to all regions that are selected in the kind's selector; the list shows those of
+// the reference.
+#pragma once
+#include "a_pc.h"
+#include "pc_register_kind.h"
+
+enum REGSHAPE : int {
+    REGSHAPE_ATTRIBUTE, // of masters: Store/Recall
+    REGSHAPE_LOCK,
+    REGSHAPE_COPY, // this and the next two: two lists
+    REGSHAPE_MOVE,
+    REGSHAPE_SWAP,
+    REGSHAPE_DELETE,
+    REGSHAPE_RENAME,
+    REGSHAPES,
+};
+constexpr uint32_t RegisterPageVar(REGKIND kind, REGSHAPE shape)
+{
+    return uint32_t(kind) << 8 | uint32_t(shape);
+}
+
+extern const PC_TBL pc_register;        // argument: RegisterPageVar
+extern const PC_TBL pc_register_group;  // the page of a group: a background transfer's progress
+extern const PC_TBL pc_register_status; // the overview; argument: the kind
+extern const PC_TBL pc_register_edit;   // the links of a master; argument: the kind
+
+// Buttons that the code names.
+enum : int {
+    BTN_REGISTER_REGION = 49, // single pages; of two lists: 1 and 4
+    BTN_REGISTER_REGION_1 = 1,
+    BTN_REGISTER_REGION_2 = 4,
+    BTN_REGISTER_WO_NAME = 50,
+    BTN_REGISTER_AUTO_CORRECT = 51,
+};
+
+// --- What a kind can do on its first page beyond the family ---
+
+struct RegisterTouch {
+    const char* tail; // of the button's command, behind "LOCAL@" and the menu's word
+    int (*act)();
+};
+struct RegisterExtra {
+    REGKIND kind = REGKINDS;
+    const RegisterTouch* touches = nullptr; // ended by a null tail
+    void (*open)(int on) = nullptr;         // the page is opened (1) or left (0)
+    void (*shown)() = nullptr; // the register or the region at the cursor has changed, or its line
+    void (*tally)(const char* path, const char* value) = nullptr;
+    void (*knob)(int id, int value) = nullptr; // LMSG_KNOBVAR
+};
+// The kinds that have one; ended by REGKINDS. A further one is added in pc_register.cpp.
+extern const RegisterExtra snapshot_extra;
+extern const RegisterExtra keyss_extra;
+
+// --- For the extras and the sub pages ---
+const RegisterKind* RegisterPage_Kind(); // null: no page of ours is open
+int RegisterPage_Number();               // at the cursor of the list, as the operator sees it
+const RegisterLine& RegisterPage_Line(); // of that register
+int RegisterPage_Region();               // that the list shows: row of the kind's regions
+// Calls do(span, arg) for each run of selected registers of the list, all selected regions.
+void RegisterPage_EachSpan(void (*act)(const RegisterSpan& span, const void* arg), const void* arg);
+
+// What of a kind outlives its pages, also for sub pages.
+struct RegisterMemory {
+    int region1 = 0;  // rows of the kind's regions that the lists show
+    int region2 = -1; // -1: as region1
+    int sel1 = 0;     // rows of the lists
+    int sel2 = 0;
+    bool wo_name = false;
+};
+RegisterMemory& RegisterPage_Memory(REGKIND kind);
+void RegisterPages_Reset(); // as at process start; for tests

@@ -1,0 +1,70 @@
+// pc_register_columns: the columns of the lists of registers, by kind. A list over the whole width
+// is 552 px wide, one of two 248.
+#pragma once
+#include "pc_register_line.h"
+
+#define TEXT_OF(field) [](const RegisterLine& l) -> const char* { return l.field; }
+inline constexpr RegisterColumn snapshot_columns[] = {
+    {"No", 30, TEXT_OF(no)},        {"Name", 115, TEXT_OF(name)},
+    {"L/E", 30, TEXT_OF(le)},       {"Xpt Hold", 201, TEXT_OF(xpthold)},
+    {"Diss", 53, TEXT_OF(effdiss)}, {"AT", 40, TEXT_OF(autotrans)},
+    {"Clip", 83, TEXT_OF(clip)},    {}};
+inline constexpr RegisterColumn snapshot_dual_columns[] = {{"No", 30, TEXT_OF(no)},
+                                                           {"Name", 106, TEXT_OF(name)},
+                                                           {"L/E", 32, TEXT_OF(le)},
+                                                           {"Attr", 80, TEXT_OF(attri)},
+                                                           {}};
+inline constexpr RegisterColumn wipess_columns[] = {{"No", 35, TEXT_OF(no)},
+                                                    {"Name", 160, TEXT_OF(name)},
+                                                    {"L/E", 57, TEXT_OF(le)},
+                                                    {"Pattern", 300, TEXT_OF(pattern)},
+                                                    {}};
+inline constexpr RegisterColumn wipess_dual_columns[] = {{"No", 30, TEXT_OF(no)},
+                                                         {"Name", 106, TEXT_OF(name)},
+                                                         {"L/E", 42, TEXT_OF(le)},
+                                                         {"Pattern", 70, TEXT_OF(pattern)},
+                                                         {}};
+inline constexpr RegisterColumn keyss_columns[] = {
+    {"No", 35, TEXT_OF(no)}, {"Name", 160, TEXT_OF(name)}, {"L/E", 357, TEXT_OF(le)}, {}};
+inline constexpr RegisterColumn name_dual_columns[] = {
+    {"No", 35, TEXT_OF(no)}, {"Name", 143, TEXT_OF(name)}, {"L/E", 70, TEXT_OF(le)}, {}};
+inline constexpr RegisterColumn effect_columns[] = {
+    {"No", 35, TEXT_OF(no)},          {"Name", 110, TEXT_OF(name)},
+    {"L/E", 40, TEXT_OF(le)},         {"Eff Diss", 60, TEXT_OF(effdiss)},
+    {"M/E", 40, TEXT_OF(region[0])},  {"USR", 40, TEXT_OF(region[1])},
+    {"DME", 40, TEXT_OF(region[2])},  {"DEV", 40, TEXT_OF(region[3])},
+    {"PBUS", 45, TEXT_OF(region[4])}, {"GPI", 50, TEXT_OF(region[5])},
+    {"MCRO", 50, TEXT_OF(region[6])}, {}};
+inline constexpr RegisterColumn effect_dual_columns[] = {{"No", 35, TEXT_OF(no)},
+                                                         {"Name", 113, TEXT_OF(name)},
+                                                         {"L/E", 40, TEXT_OF(le)},
+                                                         {"Eff Diss", 60, TEXT_OF(effdiss)},
+                                                         {}};
+#define BANK_LINKS(width)                                                                          \
+    {"ME1", width, TEXT_OF(link[0])}, {"ME2", width, TEXT_OF(link[1])},                            \
+        {"ME3", width, TEXT_OF(link[2])}, {"ME4", width, TEXT_OF(link[3])},                        \
+        {"ME5", width, TEXT_OF(link[4])}, {"P/P", width, TEXT_OF(link[5])},                        \
+        {"USR", width, TEXT_OF(link[6])},                                                          \
+    {                                                                                              \
+        "DME", width, TEXT_OF(link[7])                                                             \
+    }
+inline constexpr RegisterColumn master_ss_columns[] = {
+    {"No", 30, TEXT_OF(no)}, {"Name", 112, TEXT_OF(name)},  {"L/E", 32, TEXT_OF(le)},
+    BANK_LINKS(42),          {"RTR", 42, TEXT_OF(link[8])}, {}};
+#define ALL_LINKS                                                                                  \
+    BANK_LINKS(32), {"DEV", 32, TEXT_OF(link[8])}, {"PBS", 32, TEXT_OF(link[9])},                  \
+        {"GPI", 32, TEXT_OF(link[10])},                                                            \
+    {                                                                                              \
+        "MCR", 32, TEXT_OF(link[11])                                                               \
+    }
+inline constexpr RegisterColumn master_tl_columns[] = {
+    {"No", 30, TEXT_OF(no)}, {"Name", 106, TEXT_OF(name)}, {"L/E", 32, TEXT_OF(le)}, ALL_LINKS, {}};
+inline constexpr RegisterColumn shotbox_columns[] = {{"No", 30, TEXT_OF(no)},
+                                                     {"Name", 78, TEXT_OF(name)},
+                                                     {"L/E", 28, TEXT_OF(le)},
+                                                     {"Auto", 32, TEXT_OF(attri)},
+                                                     ALL_LINKS,
+                                                     {}};
+#undef ALL_LINKS
+#undef BANK_LINKS
+#undef TEXT_OF

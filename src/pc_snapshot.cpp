@@ -1,0 +1,237 @@
+// What only snapshots have on their first page: the attributes of a register, and for the snapshots
+// of a key what their recall leaves alone.
+#include "pc_snapshot.h"
+#include "a_bt.h"
+#include "a_nb.h"
+#include "command.h"
+#include "global.h"
+#include "netio.h"
+#include "pane.h"
+#include "pc_register.h"
+#include "tally_value.h"
+#include "text.h"
+#include <iterator>
+#include "safeguards.h"
+
+#define ATTRIBUTE "Snapshot@Snapshot@Attribute@"
+#define RECALL_MODE "Snapshot@Key Snapshot@Attribute@Recall Mode"
+
+static constexpr NB_TBL nb_snapshot_attribute[] = {{.id = 1,
+                                                    .caption = "Temp\nDuration",
+                                                    .type = NB_INT,
+                                                    .min = 0,
+                                                    .max = 999,
+                                                    .cmd = "Panel@Common@Knob0",
+                                                    .scale = 1},
+                                                   NB_END};
+
+static struct {
+    int SSAttri_TempDur = 0;          // frames, of the next recall of the region
+    int region = -1;                  // whose duration is subscribed
+    char temp_dur[CMD_SIZE] = "";     // its path
+    char key[CMD_SIZE] = "";          // the key whose recall mode is subscribed
+    bool mode[KEY_RECALL_MODES] = {}; // last tally
+} at;                                 // valid while the first page of a snapshot is open
+
+// --- Attributes of a register ---
+
+static bool is_locked()
+{
+    return *RegisterPage_Line().le == 'L';
+}
+
+static void put_attribute(const char* path, const char* value)
+{
+    if (is_locked())
+        return;
+    struct Attribute {
+        const char* path;
+        const char* value;
+    } attribute = {path, value};
+    RegisterPage_EachSpan(
+        [](const RegisterSpan& span, const void* arg) {
+            const Attribute& a = *static_cast<const Attribute*>(arg);
+            RegisterCmd_Attribute(*RegisterPage_Kind(), a.path, span, a.value);
+        },
+        &attribute);
+}
+
+static int effdiss_sel()
+{
+    put_attribute(ATTRIBUTE "Effect Dissolve", Bool(*RegisterPage_Line().effdiss == '\0'));
+    return 0;
+}
+
+static int autotrans_sel()
+{
+    put_attribute(ATTRIBUTE "Auto Transition", Bool(*RegisterPage_Line().autotrans == '\0'));
+    return 0;
+}
+
+static int gpi_sel()
+{
+    put_attribute(ATTRIBUTE "GPI", *RegisterPage_Line().gpi ? "null" : "1");
+    return 0;
+}
+
+static int duration_sel()
+{
+    put_attribute(ATTRIBUTE "Duration", NumStr(at.SSAttri_TempDur));
+    return 0;
+}
+
+// --- Temporary duration ---
+
+static void follow_duration(const char* verb)
+{
+    if (at.region >= 0)
+        Net_SendCommandFormat("%s %s", verb, at.temp_dur);
+}
+
+static void follow_region()
+{
+    if (RegisterPage_Region() == at.region)
+        return;
+    follow_duration("remove");
+    at.region = RegisterPage_Region();
+    PrintText(at.temp_dur, ATTRIBUTE "%s@Temporary Duration", SnapshotRegion[at.region].cmd);
+    at.SSAttri_TempDur = 0;
+    (void)NB_InvalidVar(1);
+    follow_duration("add");
+}
+
+static void attribute_tally(const char* path, const char* value)
+{
+    if (at.region < 0 || !Same(path, at.temp_dur))
+        return;
+    at.SSAttri_TempDur = int(NumberIn(value, 0, 999));
+    (void)NB_SetVar(1, at.SSAttri_TempDur);
+}
+
+static void attribute_knob(int, int value)
+{
+    if (at.region < 0)
+        return;
+    at.SSAttri_TempDur = value;
+    Net_SendCommandFormat("put %s#%d", at.temp_dur, value);
+}
+
+static void attribute_shown()
+{
+    const RegisterLine& line = RegisterPage_Line();
+    follow_region();
+    (void)BT_SetStatus(BTN_SNAPSHOT_EFFDISS, *line.effdiss ? BT_ON : BT_OFF);
+    (void)BT_SetStatus(BTN_SNAPSHOT_AUTOTRANS, *line.autotrans ? BT_ON : BT_OFF);
+    (void)BT_SetStatus(BTN_SNAPSHOT_GPI, *line.gpi ? BT_ON : BT_OFF);
+}
+
+static void attribute_open(int on)
+{
+    if (!on)
+        follow_duration("remove");
+    at = {};
+    if (!on)
+        return;
+    (void)NB_Create(nb_snapshot_attribute, "Snapshot");
+    attribute_shown();
+}
+
+static constexpr RegisterTouch attribute_touches[] = {
+    {"Attribute@Effect Dissolve", effdiss_sel},
+    {"Attribute@Auto Transition", autotrans_sel},
+    {"Attribute@GPI Output", gpi_sel},
+    {"Attribute@Duration", duration_sel},
+    {nullptr, nullptr},
+};
+const RegisterExtra snapshot_extra = {.kind = REGKIND_SNAPSHOT,
+                                      .touches = attribute_touches,
+                                      .open = attribute_open,
+                                      .shown = attribute_shown,
+                                      .tally = attribute_tally,
+                                      .knob = attribute_knob};
+
+// --- What the recall of a key brings back ---
+
+static void show_modes()
+{
+    for (int m = 0; m < KEY_RECALL_MODES; m++)
+        (void)BT_SetStatus(BTN_KEYSS_MODIFIER + m, at.mode[m] ? BT_ON : BT_OFF);
+}
+
+static void follow_mode(const char* verb)
+{
+    if (*at.key)
+        Net_SendCommandFormat("%s " RECALL_MODE "#%s", verb, at.key);
+}
+
+static void follow_key()
+{
+    const char* const key = KeySSRegion[RegisterPage_Region()].cmd;
+    if (Same(at.key, key))
+        return;
+    follow_mode("remove");
+    CopyText(at.key, key);
+    follow_mode("add");
+}
+
+// "M/E-1@Key1,true,true,true"
+static void keyss_tally(const char* path, const char* value)
+{
+    Parts p;
+    if (!Same(path, RECALL_MODE) ||
+        SplitValue(p, value, KEY_RECALL_MODES + 1) != KEY_RECALL_MODES + 1 || !Same(p.v[0], at.key))
+        return;
+    for (int m = 0; m < KEY_RECALL_MODES; m++)
+        at.mode[m] = IsTrue(p.v[m + 1]);
+    show_modes();
+}
+
+// All selected keys take the modes of the reference, with one turned over.
+static int toggle_mode(int which)
+{
+    bool mode[KEY_RECALL_MODES];
+    for (int m = 0; m < KEY_RECALL_MODES; m++)
+        mode[m] = at.mode[m] != (m == which);
+    const RegisterKind& kind = *RegisterPage_Kind();
+    for (int i = 0; kind.regions[i].id != 0; i++)
+        if (PaneRegion_IsSelected(kind.group(), kind.regions[i].id))
+            Net_SendCommandFormat("put " RECALL_MODE "#%s,%s,%s,%s", kind.regions[i].cmd,
+                                  Bool(mode[0]), Bool(mode[1]), Bool(mode[2]));
+    return 0;
+}
+
+static int modifier_sel()
+{
+    return toggle_mode(0);
+}
+static int transition_sel()
+{
+    return toggle_mode(1);
+}
+static int xpt_sel()
+{
+    return toggle_mode(2);
+}
+
+static void keyss_open(int on)
+{
+    if (!on)
+        follow_mode("remove");
+    at = {};
+    if (!on)
+        return;
+    show_modes();
+    follow_key();
+}
+
+static constexpr RegisterTouch keyss_touches[] = {
+    {"Attribute@Recall Mode@Modifier", modifier_sel},
+    {"Attribute@Recall Mode@Transition", transition_sel},
+    {"Attribute@Recall Mode@XPT", xpt_sel},
+    {nullptr, nullptr},
+};
+const RegisterExtra keyss_extra = {.kind = REGKIND_KEYSS,
+                                   .touches = keyss_touches,
+                                   .open = keyss_open,
+                                   .shown = follow_key,
+                                   .tally = keyss_tally};
