@@ -2,7 +2,6 @@
 #include "a_bt.h"
 #include "a_ls.h"
 #include "command.h"
-#include "file.h"
 #include "global.h"
 #include "message.h"
 #include "netio.h"
@@ -524,15 +523,6 @@ static int register_create(int on, uint32_t var)
 }
 
 const PC_TBL pc_register = {register_proc, register_create};
-
-static int group_create(int on, uint32_t)
-{
-    if (on)
-        (void)BkgdFileTransfer_PaneRestore();
-    return 0;
-}
-
-const PC_TBL pc_register_group = {nullptr, group_create};
 
 // --- For the extras and the sub pages ---
 

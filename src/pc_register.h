@@ -26,7 +26,6 @@ constexpr uint32_t RegisterPageVar(REGKIND kind, REGSHAPE shape)
 }
 
 extern const PC_TBL pc_register;        // argument: RegisterPageVar
-extern const PC_TBL pc_register_group;  // the page of a group: a background transfer's progress
 extern const PC_TBL pc_register_status; // the overview; argument: the kind
 extern const PC_TBL pc_register_edit;   // the links of a master; argument: the kind
 

@@ -163,7 +163,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .mirror = REGISTER_SNAPSHOT,
      .regions = SnapshotRegion.data(),
      .group = group_snapshot,
-     .mask = MASK_NARROW,
+     .mask = REGMASK_NARROW,
      .commands = &snapshot_commands,
      .setdata = snapshot_setdata,
      .complete = snapshot_complete,
@@ -177,7 +177,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .registers = REGISTERS_WIPESS,
      .regions = WipeSSRegion.data(),
      .group = group_wipess,
-     .mask = MASK_NARROW,
+     .mask = REGMASK_NARROW,
      .commands = &wipess_commands,
      .setdata = wipess_setdata,
      .columns = wipess_columns,
@@ -190,7 +190,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .registers = REGISTERS_WIPESS,
      .regions = DmeSSRegion.data(),
      .group = group_dmess,
-     .mask = MASK_NARROW,
+     .mask = REGMASK_NARROW,
      .commands = &dmess_commands,
      .setdata = wipess_setdata,
      .columns = wipess_columns,
@@ -203,7 +203,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .registers = REGISTERS_KEYSS,
      .regions = KeySSRegion.data(),
      .group = group_keyss,
-     .mask = MASK_WIDE,
+     .mask = REGMASK_WIDE,
      .commands = &keyss_commands,
      .setdata = wipess_setdata,
      .columns = keyss_columns,
@@ -225,7 +225,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .mirror = REGISTER_EFFECT,
      .regions = EffectRegion.data(),
      .group = group_effect,
-     .mask = MASK_WIDE,
+     .mask = REGMASK_WIDE,
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = effect_complete,
@@ -240,7 +240,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .regions = EffectRegion.data(),
      .group = group_eff,
      .has_dme_groups = true,
-     .mask = MASK_WIDE,
+     .mask = REGMASK_WIDE,
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = eff100_complete,
@@ -255,7 +255,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .regions = EffectRegion.data(),
      .group = group_eff,
      .has_dme_groups = true,
-     .mask = MASK_WIDE,
+     .mask = REGMASK_WIDE,
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = eff200_complete,
@@ -270,7 +270,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .regions = EffectRegion.data(),
      .group = group_eff,
      .has_dme_groups = true,
-     .mask = MASK_WIDE,
+     .mask = REGMASK_WIDE,
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = eff300_complete,
@@ -284,7 +284,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .registers = REGISTERS_EFFECT,
      .regions = EffectRegion.data(),
      .group = group_effect_ex,
-     .mask = MASK_WIDE,
+     .mask = REGMASK_WIDE,
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = effect_ex_complete,
@@ -315,7 +315,7 @@ static constexpr bool KindsAreSound()
     for (int i = 0; i < REGKINDS; i++) {
         const RegisterKind& k = register_kinds[i];
         if (k.kind != i || k.registers > register_mirrors[k.mirror].registers ||
-            (k.regions != nullptr) != (k.mask != MASK_NONE) ||
+            (k.regions != nullptr) != (k.mask != REGMASK_NONE) ||
             (k.regions != nullptr) != (k.group != nullptr))
             return false;
         if (WidthOf(k.columns) > SINGLE_PX || WidthOf(k.dual_columns) != DUAL_PX)
@@ -411,9 +411,9 @@ bool RegisterKind_IsInUse(const RegisterKind& kind, int region)
 static void print_mask(const RegisterKind& kind, uint64_t mask, char (&text)[20], bool is_lower)
 {
     *text = '\0';
-    if (kind.mask == MASK_WIDE)
+    if (kind.mask == REGMASK_WIDE)
         PrintText(text, "%08X%08X", unsigned(mask >> 32), unsigned(mask & 0xFFFFFFFF));
-    else if (kind.mask == MASK_NARROW)
+    else if (kind.mask == REGMASK_NARROW)
         PrintText(text, is_lower ? "%x" : "%X", unsigned(mask));
 }
 

@@ -28,10 +28,10 @@ enum REGKIND : int { // rows of register_kinds; in the argument of the page code
     REGKINDS,
 };
 
-enum MASKFORM : int {
-    MASK_NONE,   // the kind has no regions: a command begins with the number
-    MASK_NARROW, // "%X"; "%x" in a recall
-    MASK_WIDE,   // "%08X%08X", the high word first
+enum REGMASKFORM : int {
+    REGMASK_NONE,   // the kind has no regions: a command begins with the number
+    REGMASK_NARROW, // "%X"; "%x" in a recall
+    REGMASK_WIDE,   // "%08X%08X", the high word first
 };
 
 // A command on two runs of registers, and the switch that goes with it.
@@ -71,7 +71,7 @@ struct RegisterKind {
     const SSREGION* regions = nullptr; // null: none
     int (*group)() = nullptr;          // selector of the regions, by what this system has
     bool has_dme_groups = false;       // the rows of the mirror are groups of channels
-    MASKFORM mask = MASK_NONE;
+    REGMASKFORM mask = REGMASK_NONE;
     const RegisterCommands* commands = nullptr;
     // Digest the raw line into lines[index]. Returns the index, or -1 for a number that is not
     // this kind's.

@@ -139,20 +139,11 @@ constexpr PAGE RegisterPage(const RegisterGroup& g, REGSHAPE shape)
                     Buttons(g.keys.shape[shape]), Lists(lists), Code(pc_register, RegisterPageVar(g.kind, shape))}};
 }
 
-// The page that stands in for all of a group while a background transfer runs.
-constexpr PAGE RegisterGroupPage(const RegisterGroup& g)
-{
-    return {.id = g.id, .tree = {g.menu, g.word},
-            .obj = {Base(base_main), LeftTabs(g.left, g.tab), BottomTabs(g.bottom, 1), Code(pc_register_group)}};
-}
-
 template <size_t N> constexpr auto RegisterRows(const RegisterGroup (&groups)[N])
 {
-    std::array<PAGE, N * (REGSHAPES + 1)> rows{};
+    std::array<PAGE, N * REGSHAPES> rows{};
     size_t n = 0;
-    for (const RegisterGroup& g : groups) {
-        rows[n++] = RegisterGroupPage(g);
+    for (const RegisterGroup& g : groups)
         for (int shape = 0; shape < REGSHAPES; shape++) rows[n++] = RegisterPage(g, REGSHAPE(shape));
-    }
     return rows;
 }
