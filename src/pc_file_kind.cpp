@@ -137,26 +137,28 @@ static constexpr FileRegisters frames = {NOT_TOLD, exist_frame, lock_frame, name
 
 static constexpr FileCommands effect_commands = {"put Effect@Effect@Rename@Rename",
                                                  "put Effect@Effect@Delete@Delete", mask_of_effect,
-                                                 MASK_WIDE};
-static constexpr FileCommands snapshot_commands = {
-    "put Snapshot@Snapshot@Rename", "put Snapshot@Snapshot@Delete", mask_of_snapshot, MASK_SHORT};
+                                                 FILEMASK_WIDE};
+static constexpr FileCommands snapshot_commands = {"put Snapshot@Snapshot@Rename",
+                                                   "put Snapshot@Snapshot@Delete", mask_of_snapshot,
+                                                   FILEMASK_SHORT};
 static constexpr FileCommands wipe_commands = {"put Snapshot@Wipe Snapshot@Rename",
                                                "put Snapshot@Wipe Snapshot@Delete",
-                                               mask_of_snapshot, MASK_SHORT};
+                                               mask_of_snapshot, FILEMASK_SHORT};
 static constexpr FileCommands dme_commands = {"put Snapshot@DME Snapshot@Rename",
                                               "put Snapshot@DME Snapshot@Delete", mask_of_snapshot,
-                                              MASK_SHORT};
-static constexpr FileCommands key_commands = {
-    "put Snapshot@Key Snapshot@Rename", "put Snapshot@Key Snapshot@Delete", mask_of_key, MASK_WIDE};
+                                              FILEMASK_SHORT};
+static constexpr FileCommands key_commands = {"put Snapshot@Key Snapshot@Rename",
+                                              "put Snapshot@Key Snapshot@Delete", mask_of_key,
+                                              FILEMASK_WIDE};
 static constexpr FileCommands shotbox_commands = {
-    "put Shotbox@Register@Rename", "put Shotbox@Register@Delete", mask_of_panel, MASK_NONE};
+    "put Shotbox@Register@Rename", "put Shotbox@Register@Delete", mask_of_panel, FILEMASK_NONE};
 static constexpr FileCommands macro_commands = {"put Macro@Register@Rename@Rename",
                                                 "put Macro@Register@Delete@Delete", mask_of_macro,
-                                                MASK_WIDE};
+                                                FILEMASK_WIDE};
 
-static constexpr FileCommands frame_commands = {"put Frame Mem@File@Rename",
-                                                "put Frame Mem@File@Delete Thumbnail@Single",
-                                                mask_of_frame, MASK_NONE, FMCtrl2_GetRegNameMulti};
+static constexpr FileCommands frame_commands = {
+    "put Frame Mem@File@Rename", "put Frame Mem@File@Delete Thumbnail@Single", mask_of_frame,
+    FILEMASK_NONE, FMCtrl2_GetRegNameMulti};
 
 constexpr FileKind file_kinds[FILEPAGES] = {
     {.page = FILEPAGE_SETUP, .id = 0x71120000, .grp = 0},
@@ -284,9 +286,9 @@ int FileKind_Register(const FileKind& kind, int region_id, int no, char* name, i
 static void print_mask(const FileCommands& commands, uint64_t mask, char (&text)[20])
 {
     text[0] = '\0';
-    if (commands.form == MASK_WIDE)
+    if (commands.form == FILEMASK_WIDE)
         PrintText(text, "%08X%08X,", unsigned(mask >> 32), unsigned(mask & 0xFFFFFFFF));
-    else if (commands.form == MASK_SHORT)
+    else if (commands.form == FILEMASK_SHORT)
         PrintText(text, "%X,", unsigned(mask));
 }
 

@@ -42,7 +42,11 @@ struct FileRegisters {
 
 // How the running system is told. The values: the mask of the regions that are meant, where there
 // is one, and number and name, or the number twice.
-enum FILEMASK : int { MASK_NONE, MASK_SHORT, MASK_WIDE }; // "%X", or 64 bits as "%08X%08X"
+enum FILEMASK : int {
+    FILEMASK_NONE,
+    FILEMASK_SHORT,
+    FILEMASK_WIDE
+}; // "%X", or 64 bits as "%08X%08X"
 struct FileCommands {
     const char* rename;
     const char* remove;
