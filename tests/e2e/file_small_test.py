@@ -1,0 +1,111 @@
+"""The small pages of the File menu at the desk, up to what lies on the drives.
+
+usage: file_small_test.py BUILD_DIR [TEST...]
+"""
+import os
+import struct
+import time
+import unittest
+import zlib
+
+from desk import grid
+from deskcase import DeskCase
+
+LOCAL = "mnt/data/user/root/SYSTEM"
+STICK = "mnt/usb/usb1/SYSTEM"
+YES = (200 + 97 + 20, 140 + 247 + 15)
+OK_KEY = (200 + 153 + 20, 140 + 247 + 15)
+TEXT_WELL = (230, 205, 560, 370)  # of a pane
+
+
+def frame(name):
+    """A frame-memory file: 64 bytes of header, a BMP of 8 x 8."""
+    body = bytes(range(8 * 8 * 3))
+    bmp = b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + len(body), 0, 54, 40, 8, 8, 1, 24, 0, len(body), 0, 0, 0, 0) + body
+    head = (b"SFMD" + bytes([3, 0, 0, 0, 0]).ljust(12, b"\0") + name.encode()).ljust(60, b"\0")
+    return head + struct.pack(">I", zlib.crc32(head)) + bmp
+
+
+class SmallPages(DeskCase):
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.desk.console("stick in")
+
+    def lay(self, path, content=b"some bytes"):
+        path = os.path.join(self.desk.root, path)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "wb") as out:
+            out.write(content)
+
+    def content(self, path):
+        try:
+            with open(os.path.join(self.desk.root, path), "rb") as file:
+                return file.read()
+        except FileNotFoundError:
+            return None
+
+    def wait(self, is_there, timeout=5.0):
+        end = time.monotonic() + timeout
+        while not is_there():
+            self.assertLess(time.monotonic(), end)
+            time.sleep(0.05)
+
+    def open_file_page(self, number, command):
+        """The search that the page begins with, as far as its label."""
+        self.desk.wire()
+        self.desk.console(f"page {number}")
+        self.wait(lambda: any(line.startswith(command) for line in self.desk.wire()))
+        time.sleep(0.5)
+
+    def test_1_a_units_files_go_to_another_unit(self):
+        desk = self.desk
+        self.lay(f"{LOCAL}/SETUP/SWR000D001/A.DEV_0000.SST")
+        self.lay(f"{LOCAL}/SNAPSHOT/SWR000D001/ME1/A.ME1_001.SSS", b"snapshot one")
+        self.lay(f"{LOCAL}/SNAPSHOT/DME000D001/CH1/A.CH1_0001.DSS")
+        self.lay(f"{STICK}/SETUP/SWR000D003/OLD.DEV_0000.SST")
+        self.open_file_page("7172", "put File@Access@Find#")
+        desk.touch(*grid(54))  # the targets: SWR2, Enter
+        desk.touch(400 - 248 + 115 + 64 + 20, 300 - 126 + 15 + 20)
+        desk.touch(400, 300 - 126 + 252 - 40)
+        desk.touch(347, 478)  # Copy
+        desk.touch(*YES)
+        self.wait(lambda: self.content(f"{STICK}/SNAPSHOT/SWR000D002/ME1/A.ME1_001.SSS") == b"snapshot one")
+        self.wait(lambda: self.content(f"{STICK}/SETUP/SWR000D002/A.DEV_0000.SST") == b"some bytes")
+        time.sleep(0.5)
+        self.assertIsNone(self.content(f"{STICK}/SETUP/SWR000D003/OLD.DEV_0000.SST"))
+        self.assertFalse(os.path.exists(os.path.join(desk.root, STICK, "SNAPSHOT/DME000D001")))
+
+    def test_2_the_fields_of_a_frame_change_places(self):
+        path = f"{LOCAL}/FMEMFOL/DEFAULT/SWR000D001/Mbars.FMEM_200.SFM"
+        self.lay(path, frame("Mbars"))
+        self.open_file_page("7154", "put File@Access@FindSFM#")
+        before = self.desk.part(610, 146, 648, 167)
+        self.desk.touch(200, 157)
+        self.desk.touch(*grid(49))
+        self.desk.touch(*YES)
+        self.wait(lambda: self.content(path) != frame("Mbars"))
+        time.sleep(1.5)
+        self.assertEqual(self.content(path)[8], 1)  # inverted, says the header
+        self.assertNotEqual(self.desk.part(610, 146, 648, 167), before)
+
+    def test_3_a_server_that_goes_ends_the_job_in_view(self):
+        desk = self.desk
+        desk.console("slow 100")
+        self.open_file_page("7172", "put File@Access@Find#")
+        desk.touch(347, 478)
+        desk.touch(*YES)
+        time.sleep(1.0)
+        waiting = desk.part(*TEXT_WELL)
+        desk._box("stop", "sim")
+        self.wait(lambda: "The link has fallen." in desk.log())
+        time.sleep(1.0)
+        self.assertNotEqual(desk.part(*TEXT_WELL), waiting)
+        desk.touch(*OK_KEY)
+        desk.start_sim()
+        self.wait(lambda: any("put Info@Initial Read Status#true" in line for line in desk.wire()), 20)
+        self.assertIsNone(desk.app_status())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)
