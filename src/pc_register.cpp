@@ -509,8 +509,9 @@ static int open(uint32_t var)
     follow("add");
     open_lists();
     show_regions();
-    show_switches();
-    if (!RegisterKind_HasSubSides())
+    if (is_dual())
+        show_switches();
+    if (is_dual() && !RegisterKind_HasSubSides())
         BT_SetCutoffEx(BTN_REGISTER_AUTO_CORRECT, 1);
     if (rp.extra && rp.extra->open)
         rp.extra->open(1);

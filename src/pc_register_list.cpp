@@ -247,28 +247,43 @@ bool RegisterDetail_Has(const RegisterKind& kind)
     return strip_of(kind) != nullptr;
 }
 
-static unsigned ink_of(const Side& side, int region, int no)
+static unsigned ink_of(const RegisterKind& kind, int reference, int region, int no)
 {
-    const int exists = RegisterKind_RegionExist(*side.kind, side.kind->regions[region].id, no);
+    const int exists = RegisterKind_RegionExist(kind, kind.regions[region].id, no);
     if (exists == 0)
         return STRIP_EMPTY;
-    return region == side.region ? CYAN : exists > 0 ? WHITE : ORANGE;
+    return region == reference ? CYAN : exists > 0 ? WHITE : ORANGE;
 }
 
-static void draw_group(const StripGroup& g, const Side& side, int no)
+static void draw_group(const StripGroup& g, const RegisterKind& kind, int reference, int no,
+                       const Rect& place)
 {
-    int x = detail.place.x1 + 8 + g.x;
-    const int y = detail.place.y1 + 5 + g.line * LINE_PX;
+    int x = place.x1 + 8 + g.x;
+    const int y = place.y1 + 5 + g.line * LINE_PX;
     bool is_empty = true;
     for (int region = g.first; region <= g.last; region++)
-        is_empty &= !RegisterKind_IsInUse(*side.kind, region);
+        is_empty &= !RegisterKind_IsInUse(kind, region);
     if (is_empty)
         return;
     TDL_SymbolS(x, y, g.title, FONT_STRIP, STRIP_LABEL);
     x += *g.title ? TITLE_PX : 0;
     for (int region = g.first; region <= g.last; region++, x += g.width)
-        if (RegisterKind_IsInUse(*side.kind, region))
-            TDL_SymbolS(x, y, g.captions[region - g.first], FONT_STRIP, ink_of(side, region, no));
+        if (RegisterKind_IsInUse(kind, region))
+            TDL_SymbolS(x, y, g.captions[region - g.first], FONT_STRIP,
+                        ink_of(kind, reference, region, no));
+}
+
+void RegisterStrip_DrawGround(const Rect& place)
+{
+    TDL_FillRectS(place.x1, place.y1, place.x2, place.y2, STRIP_GROUND);
+    TDL_RectS(place.x1, place.y1, place.x2, place.y2, SEPARATOR);
+    TDL_RectS(place.x1 + 1, place.y1 + 1, place.x2 - 1, place.y2 - 1, RAISED_DARK);
+}
+
+void RegisterStrip_DrawRegions(const RegisterKind& kind, int reference, int no, const Rect& place)
+{
+    for (const StripGroup* g = strip_of(kind); g && g->title; g++)
+        draw_group(*g, kind, reference, no, place);
 }
 
 void RegisterDetail_Open(const Rect& place)
@@ -288,10 +303,7 @@ void RegisterDetail_Redraw()
         return;
     detail.is_dirty = false;
     const Rect& r = detail.place;
-    TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, STRIP_GROUND);
-    TDL_RectS(r.x1, r.y1, r.x2, r.y2, SEPARATOR);
-    TDL_RectS(r.x1 + 1, r.y1 + 1, r.x2 - 1, r.y2 - 1, RAISED_DARK);
-    for (const StripGroup* g = strip_of(*side.kind); g && g->title; g++)
-        draw_group(*g, side, LS_GetNowLine(1));
+    RegisterStrip_DrawGround(r);
+    RegisterStrip_DrawRegions(*side.kind, side.region, LS_GetNowLine(1), r);
     TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);
 }

@@ -25,3 +25,9 @@ bool RegisterDetail_Has(const RegisterKind& kind); // false where the columns te
 void RegisterDetail_Open(const Rect& place);
 void RegisterDetail_SetDirty(); // the cursor or the selection of regions has changed
 void RegisterDetail_Redraw();   // at MSG_REDRAW
+
+// --- What it consists of, for pages without a list; drawn without a flush ---
+void RegisterStrip_DrawGround(const Rect& place);
+// The regions that hold register no, 466 by 58 px from the top left of place; reference is the row
+// that stands out.
+void RegisterStrip_DrawRegions(const RegisterKind& kind, int reference, int no, const Rect& place);

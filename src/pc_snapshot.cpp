@@ -16,15 +16,6 @@
 #define ATTRIBUTE "Snapshot@Snapshot@Attribute@"
 #define RECALL_MODE "Snapshot@Key Snapshot@Attribute@Recall Mode"
 
-static constexpr NB_TBL nb_snapshot_attribute[] = {{.id = 1,
-                                                    .caption = "Temp\nDuration",
-                                                    .type = NB_INT,
-                                                    .min = 0,
-                                                    .max = 999,
-                                                    .cmd = "Panel@Common@Knob0",
-                                                    .scale = 1},
-                                                   NB_END};
-
 static struct {
     int SSAttri_TempDur = 0;          // frames, of the next recall of the region
     int region = -1;                  // whose duration is subscribed
@@ -132,7 +123,6 @@ static void attribute_open(int on)
     at = {};
     if (!on)
         return;
-    (void)NB_Create(nb_snapshot_attribute, "Snapshot");
     attribute_shown();
 }
 

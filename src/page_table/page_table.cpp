@@ -69,6 +69,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 keyframe_path_rows,
                 registers_pages,
                 snapshot_register_pages,
+                snapshot_sub_pages,
                 system_pages,
                 file_directory_pages,
                 file_folder_pages,

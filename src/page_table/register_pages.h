@@ -118,6 +118,7 @@ struct RegisterGroup {
     const HF_TBL* bottom;
     const RegisterLists* lists;
     RegisterKeys keys;
+    const NB_TBL* knobs = NB_Non; // of the first page; its RegisterExtra answers them
 };
 inline constexpr const char* register_shape_words[REGSHAPES] = {nullptr, "Lock", "Copy", "Move", "Swap", "Delete", "Rename"};
 
@@ -136,7 +137,8 @@ constexpr PAGE RegisterPage(const RegisterGroup& g, REGSHAPE shape)
     const char* word = shape == REGSHAPE_ATTRIBUTE ? g.first : register_shape_words[shape];
     return {.id = g.id + 0x10000 * (uint32_t(shape) + 1), .tree = {g.menu, g.word, word},
             .obj = {Base(base_main), LeftTabs(g.left, g.tab), BottomTabs(g.bottom, uint32_t(shape) + 1),
-                    Buttons(g.keys.shape[shape]), Lists(lists), Code(pc_register, RegisterPageVar(g.kind, shape))}};
+                    Buttons(g.keys.shape[shape]), Lists(lists),
+                    Boxes(shape == REGSHAPE_ATTRIBUTE ? g.knobs : NB_Non), Code(pc_register, RegisterPageVar(g.kind, shape))}};
 }
 
 template <size_t N> constexpr auto RegisterRows(const RegisterGroup (&groups)[N])
@@ -146,4 +148,25 @@ template <size_t N> constexpr auto RegisterRows(const RegisterGroup (&groups)[N]
     for (const RegisterGroup& g : groups)
         for (int shape = 0; shape < REGSHAPES; shape++) rows[n++] = RegisterPage(g, REGSHAPE(shape));
     return rows;
+}
+
+// --- The overview of a menu ---
+#define REG_STATUS_KEYS(menu) {                                                                                         \
+    Action({.id = 49, .caption = "Recall", .cmd = {menu "Recall@Recall"}}),                                             \
+    Action({.id = 50, .caption = "Lock",   .cmd = {menu "Lock@Lock"}}),                                                 \
+    Action({.id = 51, .caption = "Rename", .cmd = {menu "Rename@Rename"}}),                                             \
+    Toggle({.id = 52, .caption = "Copy\nFrom", .cmd = {menu "Copy@From"}}),                                             \
+    Action({.id = 53, .caption = "Copy\nTo",   .cmd = {menu "Copy@To"}}),                                               \
+    Action({.id = 54, .caption = "Delete", .cmd = {menu "Delete@Delete"}}), BT_END}
+
+inline constexpr NB_TBL nb_register_status[] = {
+    {.id = 1, .caption = "Register", .type = NB_INT, .min = 1, .max = REGISTERS, .cmd = "Panel@Common@Knob0", .scale = 1},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_register_status));
+
+constexpr PAGE RegisterStatusPage(uint32_t id, const char* menu, REGKIND kind, const VF_TBL* left, uint32_t tab, const BT_TBL* keys)
+{
+    return {.id = id, .tree = {menu, "Status"},
+            .obj = {Base(base_main), LeftTabs(left, tab), Buttons(keys), Boxes(nb_register_status), Code(pc_register_status, kind)}};
 }

@@ -35,13 +35,6 @@ inline constexpr BT_TBL bt_effect_top[] = {
 };
 static_assert(ButtonsAreSound(bt_effect_top));
 
-inline constexpr BT_TBL bt_snapshot_top[] = {
-    Jump(       {.id = 17, .caption = "Master", .group = "Snapshot", .cmd = {"#63110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_snapshot_top));
-
 inline constexpr BT_TBL bt_shotbox_top[] = {
     Jump(       {.id = 17, .caption = "Register", .group = "Shotbox", .cmd = {"#64110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
@@ -51,7 +44,6 @@ static_assert(ButtonsAreSound(bt_shotbox_top));
 
 inline constexpr PAGE registers_pages[] = {
     {.id = 0x62000000, .tree = {"Effect"}, .obj = {Base(base_main), Buttons(bt_effect_top)}},
-    {.id = 0x63000000, .tree = {"Snapshot"}, .obj = {Base(base_main), Buttons(bt_snapshot_top)}},
     {.id = 0x64000000, .tree = {"Shotbox"}, .obj = {Base(base_main), Buttons(bt_shotbox_top)}},
     {.id = 0x62110000, .tree = {"Effect", "Register"}, .obj = {Base(base_main), Buttons(bt_effect)}},
     {.id = 0x64110000, .tree = {"Shotbox", "Register"}, .obj = {Base(base_main), Buttons(bt_shotbox)}},

@@ -75,6 +75,12 @@ inline constexpr RegisterLists ls_keyss = ListsOf(keyss_columns, name_dual_colum
 static_assert(RegisterListsAreSound(ls_master_ss) && RegisterListsAreSound(ls_snapshot) &&
               RegisterListsAreSound(ls_wipess) && RegisterListsAreSound(ls_keyss));
 
+inline constexpr NB_TBL nb_snapshot_attribute[] = {
+    {.id = 1, .caption = "Temp\nDuration", .type = NB_INT, .min = 0, .max = 999, .cmd = "Panel@Common@Knob0", .scale = 1},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_snapshot_attribute));
+
 constexpr RegisterKeys SnapshotKeys()
 {
     RegisterKeys keys = REG_KEYS(bt_snapshot_attribute, snapshot);
@@ -85,7 +91,7 @@ inline constexpr RegisterGroup snapshot_groups_of_pages[] = {
     {0x63100000, REGKIND_MASTER_SS, "Snapshot", "Master Snapshot", "Store/Recall", vf_snapshot, 1, hf_snapshot_master,
      &ls_master_ss, REG_KEYS(bt_master_snapshot, snapshot_master)},
     {0x63200000, REGKIND_SNAPSHOT, "Snapshot", "Snapshot", "Attribute", vf_snapshot, 2, hf_snapshot_snapshot,
-     &ls_snapshot, SnapshotKeys()},
+     &ls_snapshot, SnapshotKeys(), nb_snapshot_attribute},
     {0x63300000, REGKIND_WIPESS, "Snapshot", "Wipe Snapshot", "Store/Recall", vf_snapshot, 3, hf_snapshot_wipess,
      &ls_wipess, REG_KEYS(bt_wipess_attribute, snapshot)},
     {0x63400000, REGKIND_DMESS, "Snapshot", "DME Snapshot", "Store/Recall", vf_snapshot, 4, hf_snapshot_dmess,
@@ -94,4 +100,10 @@ inline constexpr RegisterGroup snapshot_groups_of_pages[] = {
      &ls_keyss, REG_KEYS(bt_keyss_attribute, snapshot)},
 };
 inline constexpr auto snapshot_register_pages = RegisterRows(snapshot_groups_of_pages);
+
+inline constexpr BT_TBL bt_snapshot_status[] = REG_STATUS_KEYS(SS);
+static_assert(ButtonsAreSound(bt_snapshot_status));
+inline constexpr PAGE snapshot_sub_pages[] = {
+    RegisterStatusPage(0x63000000, "Snapshot", REGKIND_SNAPSHOT, vf_snapshot, 7, bt_snapshot_status),
+};
 #undef SS
