@@ -506,11 +506,10 @@ static void load_result(uint32_t, int)
             (void)Err_Add("%s", item->mesg); // a full list is long enough
     if (Err_GetMax() >= 1)
         GL_CreatePage = ERROR_PAGE;
-    if (!SYS_FmemV6)
-        return;
-    for (const FILEXFERLIST* item = al.FileXferList_Now; item; item = item->next)
+    for (const FILEXFERLIST* item = al.FileXferList_Now; SYS_FmemV6 && item; item = item->next)
         if (item->status == FILESTATUS_OK)
             place_picture(item);
+    File_FailuresTold(); // a pane that nobody is there to close would keep the next unit waiting
 }
 
 int AutoLoad_Start(const char* device)

@@ -270,6 +270,9 @@ int File_ExecFmImportRegNoSet(int reg, int i); // place i + 1 is register reg + 
 int check_category_target_status(const char* category, const char* target, int status);
 // The tables of the own units are gone: end what runs over the hub as its Disconnect would.
 void File_SHP_All_Clear();
+// For a list job's callback, as its last word: the operator sees in another place what went wrong,
+// and no pane has to say so.
+void File_FailuresTold();
 // The text link has fallen: the server answers none of the jobs that it has any more. All end as
 // failed, with callback and message as ever; the operator is told when one of them had a pane.
 void File_LinkLost();

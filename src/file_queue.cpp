@@ -21,6 +21,7 @@ FILEXFERLIST* NullXfer = nullptr;
 char FileCmd[CMD_SIZE];
 
 static constexpr size_t FAILURES_SIZE = 4096; // of the text about a job that went wrong
+static bool failures_are_told = false;        // the callback of the job that ends has done so
 
 // Labels follow each other, and so do a server's work numbers: the low bits spread them evenly.
 static constexpr uint32_t BUCKETS = 4096;
@@ -242,6 +243,11 @@ void file_tell(const QUEUE* job, const void* cx, const void* dx)
     SendMessage(LMSG_FILESTATUS, job->worktype, int(job->label), Arg(cx), Arg(dx));
 }
 
+void File_FailuresTold()
+{
+    failures_are_told = true;
+}
+
 // A callback may end the job, empty its list or give it another pane: nothing of it is trusted
 // across a call. The pane goes with its lines: what went wrong stays in one that the operator
 // closes. Over a page of other work nothing opens.
@@ -254,8 +260,10 @@ void file_finish(QUEUE* job)
     char failures[FAILURES_SIZE];
     const bool has_failed =
         file_pane_is_in_view(job) && file_pane_failures(job, failures, sizeof failures);
+    failures_are_told = false;
     if (job->retfunc.list)
         job->retfunc.list(label, job->tag);
+    const bool is_told = failures_are_told;
     SendMessage(LMSG_FILESTATUS, type, int(label), Arg(list), 0);
     job = queue_find(label);
     if (job)
@@ -265,7 +273,7 @@ void file_finish(QUEUE* job)
     queue_remove(label);
     file_wake_thumbnails(type);
     const char* title = file_work(type)->pane;
-    if (has_failed)
+    if (has_failed && !is_told)
         (void)PaneMessage_Create(title ? title : "Transfer", PANE_ALERT, failures);
 }
 

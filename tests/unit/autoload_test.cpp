@@ -183,6 +183,8 @@ TEST_F(AutoLoad, FilesGoToTheirPlacesAndTheServerHearsOfBothEnds)
     EXPECT_FALSE(BkgdFileTransfer_Check(0));
     EXPECT_EQ(Err_GetMax(), 1) << "what failed, and nothing older";
     EXPECT_EQ(GL_CreatePage, 0x99000000u);
+    EXPECT_EQ(Pane_GetActiveID(), notice) << "another pane would keep the next unit waiting";
+    EXPECT_EQ(AutoLoad_DataExist("SWR2"), AUTOLOAD_SEARCHING);
 }
 
 TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
