@@ -104,6 +104,7 @@ static struct {
     int room = 0;
     unsigned stored = 0; // units whose pictures were found since the store was cleared, a bit each
     int device = 0;      // the unit that is searched
+    unsigned listed = 0; // units whose load has ended since the error list was emptied, a bit each
 } al;
 
 static int unit_of(const char* word)
@@ -494,17 +495,33 @@ static void end_load()
     GL_CreatePage = GL_NowPage;
 }
 
-static void load_result(uint32_t, int)
+// The list is emptied when a unit is loaded for the second time: what went wrong with the unit
+// before this one is still to be read. True when something was added.
+static bool list_failures(unsigned ended)
 {
-    for (int dev = 0; dev < UNITS; dev++)
-        if (al.FileXferNow[dev])
-            reply(START, dev, false);
-    end_load();
-    Err_Clear();
+    if (al.listed == 0 || (al.listed & ended) != 0) {
+        Err_Clear();
+        al.listed = 0;
+    }
+    al.listed |= ended;
+    const int before = Err_GetMax();
     for (const FILEXFERLIST* item = al.FileXferList_Now; item; item = item->next)
         if (item->status == FILESTATUS_NG)
             (void)Err_Add("%s", item->mesg); // a full list is long enough
-    if (Err_GetMax() >= 1)
+    return Err_GetMax() > before;
+}
+
+static void load_result(uint32_t, int)
+{
+    unsigned ended = 0;
+    for (int dev = 0; dev < UNITS; dev++) {
+        if (!al.FileXferNow[dev])
+            continue;
+        reply(START, dev, false);
+        ended |= 1u << dev;
+    }
+    end_load();
+    if (list_failures(ended))
         GL_CreatePage = ERROR_PAGE;
     for (const FILEXFERLIST* item = al.FileXferList_Now; SYS_FmemV6 && item; item = item->next)
         if (item->status == FILESTATUS_OK)
@@ -582,5 +599,6 @@ void AutoLoad_Reset()
         end_load();
     }
     al.PaneID_Message = 0;
+    al.listed = 0;
     GL_AutoLoad = -1;
 }

@@ -184,7 +184,17 @@ TEST_F(AutoLoad, FilesGoToTheirPlacesAndTheServerHearsOfBothEnds)
     EXPECT_EQ(Err_GetMax(), 1) << "what failed, and nothing older";
     EXPECT_EQ(GL_CreatePage, 0x99000000u);
     EXPECT_EQ(Pane_GetActiveID(), notice) << "another pane would keep the next unit waiting";
-    EXPECT_EQ(AutoLoad_DataExist("SWR2"), AUTOLOAD_SEARCHING);
+    // What goes well with the next unit hides nothing; the same unit again begins a new list.
+    (void)Ask("DME1", {{"EFFECT/DME000D001/", {"EFFECT/DME000D001/CH1/F.CH1_0001.DKF"}}});
+    GL_CreatePage = 0;
+    for (const auto& [line, label] : Start("DME1", &all))
+        Answer(label, "OK");
+    EXPECT_EQ(Err_GetMax(), 1);
+    EXPECT_EQ(GL_CreatePage, GL_NowPage);
+    (void)Ask("PNL", {{"SHOTBOX/CTRLCPU/", {shot}}});
+    for (const auto& [line, label] : Start("PNL", &all))
+        Answer(label, "OK");
+    EXPECT_EQ(Err_GetMax(), 0);
 }
 
 TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
