@@ -170,3 +170,25 @@ constexpr PAGE RegisterStatusPage(uint32_t id, const char* menu, REGKIND kind, c
     return {.id = id, .tree = {menu, "Status"},
             .obj = {Base(base_main), LeftTabs(left, tab), Buttons(keys), Boxes(nb_register_status), Code(pc_register_status, kind)}};
 }
+
+// --- The edit page of a master. menu is the literal up to "Edit@" ---
+#define REG_EDIT_KEYS(menu) {                                                                                           \
+    Action({.id = 49, .caption = "ALL",       .cmd = {menu "All"}}),                                                    \
+    Action({.id = 50, .caption = "SWR\nALL",  .cmd = {menu "SWR All"}}),                                                \
+    Action({.id = 51, .caption = "Assign",    .cmd = {menu "Assign"}}),                                                 \
+    Action({.id = 52, .caption = "Recall",    .cmd = {menu "Recall"}}),                                                 \
+    Action({.id = 53, .caption = "Store",     .cmd = {menu "Store@Store"}}),                                            \
+    Action({.id = 54, .caption = "Undo",      .cmd = {menu "Store@Undo"}}), BT_END}
+
+inline constexpr NB_TBL nb_register_edit[] = {
+    {.id = 1, .caption = "Register", .type = NB_INT, .min = 0, .max = REGISTERS, .cmd = "Panel@Common@Knob0", .scale = 1},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_register_edit));
+
+constexpr PAGE RegisterEditPage(const RegisterGroup& g, const BT_TBL* keys)
+{
+    return {.id = g.id + 0x10001, .tree = {g.menu, g.word, g.first, "Edit"},
+            .obj = {Base(base_sub, g.id + 0x10000), LeftTabs(g.left, g.tab), BottomTabs(g.bottom, 1), Buttons(keys),
+                    Boxes(nb_register_edit), Code(pc_register_edit, g.kind)}};
+}

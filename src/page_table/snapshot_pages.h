@@ -52,6 +52,7 @@ inline constexpr BT_TBL bt_keyss_attribute[] = {
 inline constexpr BT_TBL bt_master_snapshot[] = {
     Action(   {.id = 49, .caption = "Recall", .cmd = SS_MASTER("Recall")}),
     Action(   {.id = 50, .caption = "Store", .cmd = SS_MASTER("Store")}),
+    Jump(     {.id = 51, .caption = "Edit",  .cmd = {"#63110001"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_snapshot_copy_mp2) && ButtonsAreSound(bt_snapshot_attribute) &&
@@ -103,7 +104,10 @@ inline constexpr auto snapshot_register_pages = RegisterRows(snapshot_groups_of_
 
 inline constexpr BT_TBL bt_snapshot_status[] = REG_STATUS_KEYS(SS);
 static_assert(ButtonsAreSound(bt_snapshot_status));
+inline constexpr BT_TBL bt_master_snapshot_edit[] = REG_EDIT_KEYS(SS "Master Snapshot@Store/Recall@Edit@");
+static_assert(ButtonsAreSound(bt_master_snapshot_edit));
 inline constexpr PAGE snapshot_sub_pages[] = {
+    RegisterEditPage(snapshot_groups_of_pages[0], bt_master_snapshot_edit),
     RegisterStatusPage(0x63000000, "Snapshot", REGKIND_SNAPSHOT, vf_snapshot, 7, bt_snapshot_status),
 };
 #undef SS

@@ -1,0 +1,412 @@
+// The edit page of a master: which register it recalls in each region. Cells are chosen by touch
+// and take the number of the knob; nothing leaves the page before the store. The store sends the
+// links behind the number, in the order of the regions, 0 where a region is left alone.
+#include "a_bt.h"
+#include "a_nb.h"
+#include "colours.h"
+#include "message.h"
+#include "netio.h"
+#include "pc_register.h"
+#include "tally_value.h"
+#include "tdl.h"
+#include "text.h"
+#include "window.h"
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+#include "safeguards.h"
+
+namespace
+{
+constexpr int SLOTS = 8;
+constexpr int LAYERS_MAX = 6;
+constexpr int LINKED_REGIONS = EFF_REGION_MACRO + 1; // of a timeline; a snapshot has fewer
+constexpr int NONE = -1;
+
+constexpr int FONT_CAPTION = 3;
+constexpr int FONT_NUMBER = 7;
+constexpr int FONT_HEAD = 8;
+constexpr unsigned CELL_GROUND = 0x14323C;
+constexpr unsigned CELL_LINKED = 0x005A6E;
+constexpr unsigned CELL_SELECTED = 0x00C8F0;
+constexpr Rect HEAD = {100, 76, 701, 98};
+
+constexpr Rect CellRect(int layer, int slot)
+{
+    const int x = 102 + 75 * slot;
+    const int y = 102 + 55 * layer;
+    return {x, y, x + 70, y + 50};
+}
+
+struct LayerSlot {
+    int region = NONE; // row of the region, place in the links; none: an empty slot
+    const char* caption = "";
+};
+struct Layers {
+    LayerSlot slot[LAYERS_MAX][SLOTS];
+};
+} // namespace
+
+static constexpr const char* side_captions[] = {"ME1", "ME2", "ME3", "ME4", "ME5", "P/P"};
+static constexpr const char* sub_captions[] = {"ME1\nSub", "ME2\nSub", "ME3\nSub",
+                                               "ME4\nSub", "ME5\nSub", "P/P\nSub"};
+static constexpr const char* user_captions[] = {"USR1", "USR2", "USR3", "USR4",
+                                                "USR5", "USR6", "USR7", "USR8"};
+static constexpr const char* channel_captions[] = {"DME1", "DME2", "DME3", "DME4",
+                                                   "DME5", "DME6", "DME7", "DME8"};
+static constexpr const char* device_captions[] = {"DEV1", "DEV2", "DEV3", "DEV4",
+                                                  "DEV5", "DEV6", "DEV7", "DEV8"};
+static constexpr const char* further_captions[] = {"DEV9", "DEV10", "DEV11", "DEV12",
+                                                   "PBUS", "GPI",   "MCRO"};
+
+template <size_t N>
+static constexpr void SetLayer(LayerSlot (&layer)[SLOTS], int first,
+                               const char* const (&captions)[N])
+{
+    for (size_t i = 0; i < N; i++)
+        layer[i] = {first + int(i), captions[i]};
+}
+
+static constexpr Layers MakeLayers(bool is_effect, bool has_sub)
+{
+    Layers all;
+    int n = 0;
+    SetLayer(all.slot[n++], SS_REGION_ME1, side_captions);
+    if (!is_effect)
+        all.slot[0][std::size(side_captions)] = {SS_REGION_RTR, "RTR"};
+    if (has_sub)
+        SetLayer(all.slot[n++], SS_REGION_ME1_SUB, sub_captions);
+    SetLayer(all.slot[n++], SS_REGION_USER1, user_captions);
+    SetLayer(all.slot[n++], SS_REGION_DME1, channel_captions);
+    if (is_effect) {
+        SetLayer(all.slot[n++], EFF_REGION_DEV1, device_captions);
+        SetLayer(all.slot[n++], EFF_REGION_DEV1 + SLOTS, further_captions);
+    }
+    return all;
+}
+static constexpr Layers LayerTblOrg = MakeLayers(false, false);
+static constexpr Layers MP2LayerTblOrg = MakeLayers(false, true);
+static constexpr Layers EffectLayerTblOrg = MakeLayers(true, false);
+static constexpr Layers EffectMP2LayerTblOrg = MakeLayers(true, true);
+
+namespace
+{
+struct EditPage {
+    const RegisterKind* kind = nullptr; // null: no page of ours is open
+    int no = 0;                         // of the register, from 0
+    Layers layers;                      // trimmed to the system
+    int MasterEdit[LINKED_REGIONS] = {};
+    int MasterUndo[LINKED_REGIONS] = {}; // what the last store has replaced
+    bool EditData_Select[LAYERS_MAX][SLOTS] = {};
+    int current = 0;        // the master that was recalled last, 0 none
+    int knob = 0;           // that Assign writes
+    bool is_edited = false; // MasterEdit is not what the register holds
+    bool redraw = false;
+};
+} // namespace
+
+static EditPage me; // valid from create(1) to create(0)
+
+static int regions_of_kind()
+{
+    return me.kind->mirror == REGISTER_SNAPSHOT ? int(SS_REGION_MASTER) : LINKED_REGIONS;
+}
+
+// The regions that the links of the masters belong to.
+static const RegisterKind& linked_kind()
+{
+    return register_kinds[me.kind->mirror == REGISTER_SNAPSHOT ? REGKIND_SNAPSHOT : REGKIND_EFFECT];
+}
+
+static int number()
+{
+    return me.no + me.kind->first_number;
+}
+
+// --- The register ---
+
+static bool is_locked()
+{
+    return RegisterKind_Lock(*me.kind, 0, me.no) != 0;
+}
+
+static void links_of_mirror(int (&links)[LINKED_REGIONS])
+{
+    static RegisterLine lines[REGISTERS]; // about 90 KB
+    const char* const raw = register_mirrors[me.kind->mirror].tally(me.kind->mirror_row, me.no);
+    std::fill(std::begin(links), std::end(links), 0);
+    if (raw && me.kind->setdata(*me.kind, raw, lines) == me.no)
+        std::copy_n(lines[me.no].data, regions_of_kind(), links);
+}
+
+static void take_register()
+{
+    links_of_mirror(me.MasterEdit);
+    me.is_edited = false;
+    me.redraw = true;
+}
+
+static void refuse(const char* message)
+{
+    (void)CreateWindow(WINDOW_MESSAGE, "Lock", {.message = message});
+}
+
+// --- Cells ---
+
+static bool is_slot(int layer, int slot)
+{
+    return me.layers.slot[layer][slot].region != NONE;
+}
+
+// What the system does not have is no slot; layers that have none close up.
+static void trim_layers(const Layers& all)
+{
+    me.layers = Layers();
+    int to = 0;
+    for (const auto& layer : all.slot) {
+        int n = 0;
+        for (const LayerSlot& slot : layer)
+            if (slot.region != NONE && RegisterKind_IsInUse(linked_kind(), slot.region))
+                me.layers.slot[to][n++] = slot;
+        to += n > 0;
+    }
+}
+
+template <typename Is> static void select_cells(Is is_one)
+{
+    bool are_all_on = true;
+    for (int layer = 0; layer < LAYERS_MAX; layer++)
+        for (int slot = 0; slot < SLOTS; slot++)
+            if (is_slot(layer, slot) && is_one(me.layers.slot[layer][slot].region))
+                are_all_on &= me.EditData_Select[layer][slot];
+    for (int layer = 0; layer < LAYERS_MAX; layer++)
+        for (int slot = 0; slot < SLOTS; slot++)
+            if (is_slot(layer, slot) && is_one(me.layers.slot[layer][slot].region))
+                me.EditData_Select[layer][slot] = !are_all_on;
+    me.redraw = true;
+}
+
+static int all_sel()
+{
+    select_cells([](int) { return true; });
+    return 0;
+}
+
+static int swr_all_sel()
+{
+    select_cells([](int region) { return region <= SS_REGION_USER8; });
+    return 0;
+}
+
+// --- Keys ---
+
+static int assign_sel()
+{
+    for (int layer = 0; layer < LAYERS_MAX; layer++)
+        for (int slot = 0; slot < SLOTS; slot++)
+            if (me.EditData_Select[layer][slot] && is_slot(layer, slot))
+                me.MasterEdit[me.layers.slot[layer][slot].region] = me.knob;
+    me.is_edited = me.redraw = true;
+    return 0;
+}
+
+static int edit_recall_sel()
+{
+    Net_SendCommandFormat("put %s#%d", me.kind->commands->edit_recall, number());
+    take_register();
+    return 0;
+}
+
+static void send_store()
+{
+    char links[CMD_SIZE] = "";
+    for (int region = 0; region < regions_of_kind(); region++) {
+        AppendText(links, ",");
+        AppendText(links, NumStr(me.MasterEdit[region]));
+    }
+    Net_SendCommandFormat("put %s#%d%s", me.kind->commands->edit_store, number(), links);
+    me.is_edited = false;
+}
+
+static int store_sel()
+{
+    if (is_locked()) {
+        refuse("This operation will be cancelled, because the\nregister is locked.\n\nPlease "
+               "change the register status to be\nunlocked first.");
+        return 0;
+    }
+    links_of_mirror(me.MasterUndo);
+    send_store();
+    return 0;
+}
+
+static int undo_sel()
+{
+    if (is_locked()) {
+        refuse("This operation is cancelled, because the\nregister is locked.\n\nPlease change the "
+               "register status to be\nunlocked first.");
+        return 0;
+    }
+    std::copy(std::begin(me.MasterUndo), std::end(me.MasterUndo), me.MasterEdit);
+    me.redraw = true;
+    int stored[LINKED_REGIONS];
+    links_of_mirror(stored);
+    if (!std::equal(std::begin(stored), std::end(stored), me.MasterEdit))
+        send_store();
+    return 0;
+}
+
+// --- Drawing ---
+
+static void draw_head()
+{
+    char text[64];
+    TDL_FillRectS(HEAD.x1, HEAD.y1, HEAD.x2, HEAD.y2, BLACK);
+    PrintText(text, "%d  %s%s", number(), RegisterKind_Name(*me.kind, 0, me.no),
+              is_locked() ? "   Lock" : "");
+    TDL_SymbolS(HEAD.x1 + 4, HEAD.y1 + 1, text, FONT_HEAD, WHITE);
+    PrintText(text, me.current ? "Current %d" : "Current --", me.current);
+    TDL_SymbolS(HEAD.x2 - 90, HEAD.y1 + 4, text, FONT_CAPTION, LABEL);
+}
+
+static void draw_slot(int layer, int slot)
+{
+    const Rect r = CellRect(layer, slot);
+    const LayerSlot& s = me.layers.slot[layer][slot];
+    if (s.region == NONE) {
+        TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, BLACK);
+        return;
+    }
+    const int link = me.MasterEdit[s.region];
+    const bool is_on = me.EditData_Select[layer][slot];
+    TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, is_on ? CELL_SELECTED : link ? CELL_LINKED : CELL_GROUND);
+    TDL_RectS(r.x1, r.y1, r.x2, r.y2, CELL_FRAME);
+    TDL_SymbolS(r.x1 + 5, r.y1 + 4, s.caption, FONT_CAPTION, is_on ? BLACK : LABEL);
+    if (!link)
+        return;
+    const char* const text = NumStr(link);
+    TDL_SymbolS(r.x2 - 5 - int(TDL_GetSymbolWidth(text, FONT_NUMBER)), r.y1 + 27, text, FONT_NUMBER,
+                is_on ? BLACK : WHITE);
+}
+
+static int edit_redraw()
+{
+    if (!me.redraw)
+        return 0;
+    me.redraw = false;
+    draw_head();
+    for (int layer = 0; layer < LAYERS_MAX; layer++)
+        for (int slot = 0; slot < SLOTS; slot++)
+            draw_slot(layer, slot);
+    TDL_UpdateRect(HEAD.x1, HEAD.y1, HEAD.x2, CellRect(LAYERS_MAX - 1, 0).y2);
+    return 0;
+}
+
+// --- Messages ---
+
+static int cell_pressed(int x, int y)
+{
+    for (int layer = 0; layer < LAYERS_MAX; layer++)
+        for (int slot = 0; slot < SLOTS; slot++) {
+            const Rect r = CellRect(layer, slot);
+            if (!is_slot(layer, slot) || x < r.x1 || x > r.x2 || y < r.y1 || y > r.y2)
+                continue;
+            me.EditData_Select[layer][slot] = !me.EditData_Select[layer][slot];
+            me.redraw = true;
+            return 1;
+        }
+    return 0;
+}
+
+// By the end of the command, behind "Edit@".
+static constexpr RegisterTouch touches[] = {
+    {"All", all_sel},           {"SWR All", swr_all_sel},
+    {"Assign", assign_sel},     {"Recall", edit_recall_sel},
+    {"Store@Store", store_sel}, {"Store@Undo", undo_sel},
+};
+
+static int button_pressed(const char* command)
+{
+    constexpr char EDIT[] = "@Edit@";
+    const char* const at = strstr(command, EDIT);
+    for (const RegisterTouch& touch : touches)
+        if (at && Same(at + sizeof EDIT - 1, touch.tail))
+            return touch.act();
+    return 0;
+}
+
+static int knob_turned(int value)
+{
+    me.knob = value;
+    (void)NB_SetVar(1, value);
+    return 0;
+}
+
+static int take_tally(const char* path, const char* value)
+{
+    if (Same(path, me.kind->commands->current)) {
+        me.current = int(NumberIn(value, 0, REGISTERS));
+        me.redraw = true;
+    }
+    return 0;
+}
+
+// Our own store has arrived, or another panel's. What has been assigned since stays.
+static int register_changed(int kind, int row, int no)
+{
+    if (kind == me.kind->mirror && row == me.kind->mirror_row && no == me.no) {
+        if (!me.is_edited)
+            take_register();
+        me.redraw = true;
+    }
+    return 0;
+}
+
+static int edit_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+{
+    if (!me.kind)
+        return 0;
+    switch (msg) {
+    case MSG_REDRAW: return edit_redraw();
+    case MSG_PRESS: return cell_pressed(int(ax), int(bx));
+    case MSG_TALLY: return take_tally(Text(ax), Text(bx));
+    case LMSG_BTNSEL: return button_pressed(Text(ax));
+    case LMSG_REGISTER: return register_changed(int(ax), int(bx), int(cx));
+    case LMSG_KNOBVAR: return knob_turned(int(bx));
+    default: return 0;
+    }
+}
+
+static int leave()
+{
+    if (me.kind) {
+        Net_SendCommandFormat("remove %s", me.kind->commands->current);
+        Register_StatusReport(0);
+    }
+    me.kind = nullptr;
+    return 0;
+}
+
+static int edit_create(int on, uint32_t kind)
+{
+    if (!on)
+        return leave();
+    if (kind >= REGKINDS || !register_kinds[kind].commands->edit_store)
+        return -1;
+    me = EditPage();
+    me.kind = &register_kinds[kind];
+    me.no = std::clamp(RegisterPage_Memory(me.kind->kind).sel1, 0, me.kind->registers - 1);
+    const bool has_sub = RegisterKind_HasSubSides();
+    if (me.kind->mirror == REGISTER_SNAPSHOT)
+        trim_layers(has_sub ? MP2LayerTblOrg : LayerTblOrg);
+    else
+        trim_layers(has_sub ? EffectMP2LayerTblOrg : EffectLayerTblOrg);
+    Register_StatusReport(1);
+    Net_SendCommandFormat("add %s", me.kind->commands->current);
+    take_register();
+    links_of_mirror(me.MasterUndo);
+    (void)knob_turned(1);
+    return 0;
+}
+
+const PC_TBL pc_register_edit = {edit_proc, edit_create};
