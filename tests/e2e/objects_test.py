@@ -49,20 +49,6 @@ class Objects(DeskCase):
         for key in keys:
             self.desk.touch(*key_of(pad, key), settle=0.3)
 
-    def test_01_a_selected_button_brings_its_knobs(self):
-        self.open_page("1231", "add M/E-2@Key3@Type@Key Type")
-        self.open_page("1111", f"add {TYPE}")
-        self.desk.touch(*grid(18))
-        self.desk.wait_wire(f"put {TYPE}#Linear")
-        time.sleep(0.3)
-        linear = self.desk.part(*COLUMN)
-        self.desk.touch(*grid(19))
-        lines = self.desk.wait_wire(f"add {CHROMA}Hue") + self.desk.wire()
-        self.assertIn(f"put {TYPE}#Chroma", lines)
-        self.assertIn(f"remove {TYPE}@Linear@Clip", lines)
-        time.sleep(0.3)
-        self.assertNotEqual(self.desk.part(*COLUMN), linear)
-
     def test_02_a_knob_turns_the_value_of_its_box(self):
         self.open_chroma()
         before, shown, beside = self.desk.value(CHROMA + "Hue"), self.desk.part(*slot(3)), self.desk.part(*slot(4))
@@ -86,17 +72,6 @@ class Objects(DeskCase):
         self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [f"put {CHROMA}Gain#-42.50"])
         self.assertEqual(self.desk.value(CHROMA + "Gain"), "-42.50")
         self.assertNotEqual(self.desk.part(*slot(2)), shown)
-
-    def test_08_tabs_and_cells_open_their_pages(self):
-        self.open_chroma()
-        self.desk.touch(97 + 86 + 43, 564)  # the second tab along the bottom
-        self.desk.wait_wire("add M/E-1@Key1@Edge@Edge Fill")
-        time.sleep(0.3)
-        self.desk.touch(48, 73 + 65 + 30)  # the second tab on the left
-        self.desk.wait_wire("add M/E-1@Key2@Type@Auto Chroma")
-        time.sleep(0.3)
-        self.desk.touch(100 + 2 * 100 + 50, 75 + 45)  # the third cell: the edge of this key
-        self.desk.wait_wire("add M/E-1@Key2@Edge@Edge Fill")
 
     def test_99_nothing_was_missing(self):
         self.assertIsNone(self.desk.app_status())

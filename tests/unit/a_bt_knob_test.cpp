@@ -353,21 +353,3 @@ TEST_F(DmePages, TheCellsAreThoseOfTheTransformThatIsTurned)
     Open(0x41410000); // a still picture has no cells
     EXPECT_THAT(Tell(status + "Mode Status@Reference#11,5,0"), IsEmpty());
 }
-
-TEST_F(DmePages, ABarOfLightIsForALightWithoutAPattern)
-{
-    static const struct {
-        const char *light, *pattern;
-        int visible;
-    } cases[] = {
-        {"true", "null", BT_ENABLED},
-        {"true", "Blinds", BT_DISABLED},
-        {"false", "null", BT_DISABLED},
-    };
-    Open(0x41510000);
-    for (const auto& c : cases) {
-        TellAll("DME@Light@Light@",
-                {std::string("Light#") + c.light, std::string("Pattern#") + c.pattern});
-        EXPECT_EQ(BT_GetVisible(36), c.visible) << c.light << " " << c.pattern;
-    }
-}

@@ -78,9 +78,3 @@ TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)
         EXPECT_EQ(IsLit(4), c.mask) << c.path << "#" << c.value;
     }
 }
-
-TEST_F(BottomTabs, EachPathIsSubscribedOnce)
-{
-    EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("add M/E-1@Key1@Edge@Edge Type", "add M/E-1@Key1@Edge@Soft Edge"));
-}

@@ -70,11 +70,6 @@ TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
     EXPECT_THAT(Sent(X, Slot(2)), IsEmpty());
 }
 
-TEST_F(LeftTabs, EachPathIsSubscribedOnce)
-{
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Enable"));
-}
-
 TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
 {
     static const struct {

@@ -85,3 +85,20 @@ struct FileTest : BusTest {
     // Messages with this number that the page saw.
     static int Seen(int msg) { return probe::Count(msg); }
 };
+
+// The same with a list of items.
+struct FileListTest : FileTest {
+    FILEXFERLIST* list = nullptr;
+    void TearDown() override
+    {
+        File_XferList_RemoveAll(&list);
+        FileTest::TearDown();
+    }
+    FILEXFERLIST* At(int n)
+    {
+        FILEXFERLIST* item = list;
+        while (n-- > 0)
+            item = item->next;
+        return item;
+    }
+};

@@ -5,8 +5,7 @@
 #define WORK "/vorn/tmp/file/"
 
 // The conversation about one switcher; the hub says little, and the test says it.
-struct FileRemote : FileTest {
-    FILEXFERLIST* list = nullptr;
+struct FileRemote : FileListTest {
     void SetUp() override
     {
         FileTest::SetUp();
@@ -17,11 +16,6 @@ struct FileRemote : FileTest {
             Hub("Ready", std::string(target) + ".File");
         }
         (void)HubSent();
-    }
-    void TearDown() override
-    {
-        File_XferList_RemoveAll(&list);
-        FileTest::TearDown();
     }
     void AddGet(const char* name, const char* category = "SETUP", const char* target = "SWR1")
     {
@@ -34,6 +28,31 @@ struct FileRemote : FileTest {
         File_XferList_SCPAdd(&list, (std::string("MYHOST:/d/") + name).c_str(),
                              (std::string("SWR000D001:" WORK) + category + "/SWR1/" + name).c_str(),
                              category, target);
+    }
+    void BeginGet(int tag = 0)
+    {
+        AddGet("a.SST");
+        File_TransSCPdirGetList(&list, List, tag);
+    }
+    void BeginPut() { File_TransSCPdirPutList(&list, List, 0); }
+    static void HoldForGet()
+    {
+        Notify("SETUP.USER_ID:MENU1");
+        Notify("SETUP.STATUS:Get");
+    }
+    void AddPicture(const std::string& name, bool is_put)
+    {
+        const std::string here = "MYHOST:/d/" + name + ".SFH",
+                          there = "SWR000D001:/" + name + ".SFH";
+        File_XferList_SCPAdd_FM(&list, (is_put ? here : there).c_str(),
+                                (is_put ? there : here).c_str(), "FRAMEMEM", "CS1", 0, "", 0, 0);
+    }
+    void AddExport(const char* host, const char* image, const char* store)
+    {
+        File_XferList_SCPAdd_FM(&list, (std::string(host) + ":/A/x.SFH").c_str(),
+                                (std::string("MYHOST:/mnt/usb/usb1/") + image).c_str(), "FRAMEMEM",
+                                store, 1, "", 0, 0);
+        File_ExecFmExportList2(&list, List, 0);
     }
     static void Result(const std::string& text, const char* way = "Get",
                        const char* who = "SETUP.SWR1")
@@ -53,13 +72,6 @@ struct FileRemote : FileTest {
             if (strcmp(c.name, category) == 0)
                 return c.status;
         return -1;
-    }
-    FILEXFERLIST* At(int n)
-    {
-        FILEXFERLIST* item = list;
-        while (n-- > 0)
-            item = item->next;
-        return item;
     }
 };
 
@@ -101,7 +113,7 @@ TEST_F(FileRemote, APutIsCheckedByTheDeviceAndCountsHalfUntilThen)
 {
     AddPut("a.SST");
     AddPut("b.SST");
-    File_TransSCPdirPutList(&list, List, 0);
+    BeginPut();
     (void)HubSent();
     Notify("SETUP.USER_ID:MENU1");
     EXPECT_EQ(Sent().size(), 2u);
@@ -151,8 +163,7 @@ TEST_F(FileRemote, WhatIsNoResultLineIsPassedOver)
         AddGet("a.SST");
         AddGet("keeps the job.SST");
         File_TransSCPdirGetList(&list, List, 0);
-        Notify("SETUP.USER_ID:MENU1");
-        Notify("SETUP.STATUS:Get");
+        HoldForGet();
         const uint32_t fetch = FetchLabel();
         Result(c.text + "\nkeeps the job.SST,OK\n");
         Answer(fetch, "OK");
@@ -168,10 +179,8 @@ TEST_F(FileRemote, WhatIsNoResultLineIsPassedOver)
 
 TEST_F(FileRemote, AListThatCannotBeFetchedIsTriedThreeTimesMore)
 {
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
-    Notify("SETUP.USER_ID:MENU1");
-    Notify("SETUP.STATUS:Get");
+    BeginGet();
+    HoldForGet();
     (void)HubSent();
     for (int i = 0; i < 4; i++) {
         const uint32_t fetch = FetchLabel();
@@ -184,10 +193,8 @@ TEST_F(FileRemote, AListThatCannotBeFetchedIsTriedThreeTimesMore)
     // One that is missing although the fetch went well.
     Notify("SETUP.STATUS:Standby");
     std::remove("/var/tmp/FILE/SETUP.SWR1.Get.result.lst");
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
-    Notify("SETUP.USER_ID:MENU1");
-    Notify("SETUP.STATUS:Get");
+    BeginGet();
+    HoldForGet();
     Answer(FetchLabel(), "OK");
     EXPECT_STREQ(list->mesg, "a.SST: NG([ERROR] File Not Exist.)");
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_FINISH);
@@ -220,8 +227,7 @@ TEST_F(FileRemote, WhatCannotBeginFailsAtOnce)
 TEST_F(FileRemote, AnotherUserIsWaitedFor)
 {
     Notify("SETUP.USER_ID:PANEL7");
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
+    BeginGet();
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_NON);
     EXPECT_THAT(HubSent(), IsEmpty());
     const PANE* pane = pane_find(Pane_GetActiveID());
@@ -241,14 +247,12 @@ TEST_F(FileRemote, AnotherUserIsWaitedFor)
 TEST_F(FileRemote, TheOtherDirectionWaitsUntilTheTargetIsFree)
 {
     FILEXFERLIST* puts = nullptr;
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 1);
+    BeginGet(1);
     File_XferList_SCPAdd(&puts, "MYHOST:/d/k.SKM", "SWR000D001:/k.SKM", "KEYMEM", "SWR1");
     File_XferList_SCPAdd(&puts, "MYHOST:/d/v.SVM", "SWR000D001:/v.SVM", "VPROCMEM", "SWR1");
     File_TransSCPdirPutList(&puts, List, 2);
     EXPECT_EQ(HubSent().size(), 1u);
-    Notify("SETUP.USER_ID:MENU1");
-    Notify("SETUP.STATUS:Get");
+    HoldForGet();
     Result("a.SST,NG(none)\n");
     Answer(FetchLabel(), "OK");
     Notify("SETUP.STATUS:Standby");
@@ -264,8 +268,7 @@ TEST_F(FileRemote, TheOtherDirectionWaitsUntilTheTargetIsFree)
 TEST_F(FileRemote, JobsOfOneDirectionFollowEachOther)
 {
     FILEXFERLIST* more[2] = {};
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 1);
+    BeginGet(1);
     File_XferList_SCPAdd(&more[0], "SWR000D001:/k.SKM", "MYHOST:/d/k.SKM", "KEYMEM", "SWR1");
     File_TransSCPdirGetList(&more[0], List, 2);
     File_XferList_SCPAdd(&more[1], "SWR000D001:/b.SST", "MYHOST:/d/b.SST", "SETUP", "SWR1");
@@ -307,8 +310,7 @@ TEST_F(FileRemote, AllCategoriesOfAJobEndBeforeItDoes)
 
 TEST_F(FileRemote, ACancelBeforeTheAnswerWaitsForIt)
 {
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
+    BeginGet();
     (void)HubSent();
     SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_USER_CANCEL);
@@ -319,15 +321,13 @@ TEST_F(FileRemote, ACancelBeforeTheAnswerWaitsForIt)
     Notify("SETUP.STATUS:Standby");
     EXPECT_EQ(told.size(), 1u);
     // Somebody else got it instead.
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
+    BeginGet();
     SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
     Notify("SETUP.USER_ID:PANEL3");
     EXPECT_EQ(told.size(), 2u);
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_NO);
     // Waiting behind another user: nothing is owed.
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
+    BeginGet();
     SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
     EXPECT_EQ(told.size(), 3u);
 }
@@ -336,7 +336,7 @@ TEST_F(FileRemote, ACancelInTheMiddleGivesTheCategoryBack)
 {
     AddPut("a.SST");
     AddPut("b.SST");
-    File_TransSCPdirPutList(&list, List, 0);
+    BeginPut();
     Notify("SETUP.USER_ID:MENU1");
     Ack(1, 71);
     (void)Sent();
@@ -356,7 +356,7 @@ TEST_F(FileRemote, ACancelInTheMiddleGivesTheCategoryBack)
 TEST_F(FileRemote, WhatTheHubTookAwayIsNotGivenBack)
 {
     AddPut("a.SST");
-    File_TransSCPdirPutList(&list, List, 0);
+    BeginPut();
     Notify("SETUP.USER_ID:MENU1");
     (void)HubSent();
     Notify("SETUP.USER_ID:PANEL3");
@@ -370,8 +370,7 @@ TEST_F(FileRemote, WhatTheHubTookAwayIsNotGivenBack)
 TEST_F(FileRemote, ADisconnectEndsTheJobWhereverItIs)
 {
     for (int depth = 0; depth < 5; depth++) {
-        AddGet("a.SST");
-        File_TransSCPdirGetList(&list, List, 0);
+        BeginGet();
         if (depth > 0)
             Notify("SETUP.USER_ID:MENU1");
         if (depth > 1)
@@ -414,7 +413,7 @@ TEST_F(FileRemote, ADisconnectLeavesTheOtherTargetItsWork)
 TEST_F(FileRemote, ReadyInTheMiddleAsksAgainAndGoesOn)
 {
     AddPut("a.SST");
-    File_TransSCPdirPutList(&list, List, 0);
+    BeginPut();
     Notify("SETUP.USER_ID:MENU1");
     Answer(1, "OK");
     (void)Sent();
@@ -437,8 +436,7 @@ TEST_F(FileRemote, ReadyInTheMiddleAsksAgainAndGoesOn)
 
 TEST_F(FileRemote, RubbishFromTheHubChangesNothing)
 {
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
+    BeginGet();
     (void)HubSent();
     for (const char* row : {"", ":", ".", "SETUP", "SETUP.", "SETUP:USER_ID", "SETUP.USER_ID",
                             "SETUP.USER:MENU1", "NOTHING.USER_ID:MENU1", ".USER_ID:MENU1"})
@@ -463,8 +461,7 @@ TEST_F(FileRemote, ALargeResultListIsReadInOnePass)
         text += name + (i % 2 ? ",OK\r\n" : ",NG(bad)\r\n");
     }
     File_TransSCPdirGetList(&list, List, 0);
-    Notify("SETUP.USER_ID:MENU1");
-    Notify("SETUP.STATUS:Get");
+    HoldForGet();
     Result(text);
     const uint32_t fetch = FetchLabel();
     Answer(fetch, "OK");
@@ -495,9 +492,7 @@ struct FileStore : FileRemote {
 TEST_F(FileStore, PicturesAreGotOneAtATime)
 {
     for (const char* name : {"A/x", "y.1", "z"})
-        File_XferList_SCPAdd_FM(&list, (std::string("SWR000D001:/") + name + ".SFH").c_str(),
-                                (std::string("MYHOST:/d/") + name + ".SFH").c_str(), "FRAMEMEM",
-                                "CS1", 0, "", 0, 0);
+        AddPicture(name, false);
     File_TransSCPdirGetList_FM(&list, List, 0);
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.USER_ID::MENU1"));
     Store("USER_ID::MENU1");
@@ -526,9 +521,7 @@ TEST_F(FileStore, PicturesAreGotOneAtATime)
 
 TEST_F(FileStore, AnExportComesAsTheWantedKind)
 {
-    File_XferList_SCPAdd_FM(&list, "SWR000D001:/A/x.SFH", "MYHOST:/mnt/usb/usb1/x.TIF", "FRAMEMEM",
-                            "CS1", 1, "", 0, 0);
-    File_ExecFmExportList2(&list, List, 0);
+    AddExport("SWR000D001", "x.TIF", "CS1");
     (void)HubSent();
     Store("USER_ID::MENU1");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x,TIF"));
@@ -545,9 +538,7 @@ TEST_F(FileStore, AnExportNamesItsPictureWhoeverHoldsTheStore)
                             0, 0);
     File_TransSCPdirPutList_FM(&puts, List, 0);
     Store("USER_ID::MENU1");
-    File_XferList_SCPAdd_FM(&list, "SWR000D001:/A/x.SFH", "MYHOST:/mnt/usb/usb1/q.TIF", "FRAMEMEM",
-                            "CS1", 1, "", 0, 0);
-    File_ExecFmExportList2(&list, List, 0);
+    AddExport("SWR000D001", "q.TIF", "CS1");
     EXPECT_THAT(list->cmd, HasSubstr(",SWR000D001:" WORK "FRAMEMEM/CS1/A/x.TIF,"));
     File_XferList_RemoveAll(&puts);
 }
@@ -555,9 +546,7 @@ TEST_F(FileStore, AnExportNamesItsPictureWhoeverHoldsTheStore)
 TEST_F(FileStore, AnExportFromAStoreThatWasNeverThereFails)
 {
     Scp_TrnasferList[3] = {}; // as at process start
-    File_XferList_SCPAdd_FM(&list, "SWR000D002:/A/x.SFH", "MYHOST:/mnt/usb/usb1/x.TIF", "FRAMEMEM",
-                            "CS2", 1, "", 0, 0);
-    File_ExecFmExportList2(&list, List, 0);
+    AddExport("SWR000D002", "x.TIF", "CS2");
     EXPECT_EQ(told.size(), 1u);
     EXPECT_STREQ(Scp_TrnasferList[3].host, "SWR000D002:");
 }
@@ -566,9 +555,7 @@ TEST_F(FileStore, AnExportFromAStoreThatWasNeverThereFails)
 TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
 {
     for (const char* name : {"A/x", "A/y", "B/z"})
-        File_XferList_SCPAdd_FM(&list, (std::string("MYHOST:/d/") + name + ".SFH").c_str(),
-                                (std::string("SWR000D001:/") + name + ".SFH").c_str(), "FRAMEMEM",
-                                "CS1", 0, "", 0, 0);
+        AddPicture(name, true);
     File_TransSCPdirPutList_FM(&list, List, 0);
     Store("USER_ID::MENU1");
     (void)HubSent();
@@ -593,9 +580,7 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
 TEST_F(FileStore, APicturesOwnFolderIsNoneToBeMade)
 {
     for (const char* name : {"A/m.SFH/m", "A/n.SFH/n"})
-        File_XferList_SCPAdd_FM(&list, (std::string("MYHOST:/d/") + name + ".SFH").c_str(),
-                                (std::string("SWR000D001:/") + name + ".SFH").c_str(), "FRAMEMEM",
-                                "CS1", 0, "", 0, 0);
+        AddPicture(name, true);
     File_TransSCPdirPutList_FM(&list, List, 0);
     Store("USER_ID::MENU1");
     EXPECT_THAT(SentOne(), HasSubstr("Make Dir#L4"));

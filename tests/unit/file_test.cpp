@@ -188,25 +188,12 @@ TEST_F(FileJobs, ACancelledTransferWaitsForItsReplyAForgottenReloadDoesNot)
 
 // --- Lists ---
 
-struct FileLists : FileTest {
-    FILEXFERLIST* list = nullptr;
-    void TearDown() override
-    {
-        File_XferList_RemoveAll(&list);
-        FileTest::TearDown();
-    }
+struct FileLists : FileListTest {
     void Fill(int n)
     {
         for (int i = 0; i < n; i++)
             File_XferList_Add(&list, ("MYHOST:/s/f" + std::to_string(i)).c_str(),
                               ("MYHOST:/d/f" + std::to_string(i)).c_str());
-    }
-    FILEXFERLIST* At(int n)
-    {
-        FILEXFERLIST* item = list;
-        while (n-- > 0)
-            item = item->next;
-        return item;
     }
 };
 

@@ -2,8 +2,7 @@
 #include <cstdlib>
 
 // What an item sends from its start to its end when every command ends well, without "put File@".
-struct FileSteps : FileTest {
-    FILEXFERLIST* list = nullptr;
+struct FileSteps : FileListTest {
     using Entry = int (*)(FILEXFERLIST**, FILE_LIST_FUNC, int);
 
     void SetUp() override
@@ -13,11 +12,6 @@ struct FileSteps : FileTest {
         CopyText(DEV_Swr[0].name, "SWR1");
         DeviceStructure();
         ASSERT_TRUE(DEV_MySwr[0]);
-    }
-    void TearDown() override
-    {
-        File_XferList_RemoveAll(&list);
-        FileTest::TearDown();
     }
     Strings Run(Entry entry, const char* src, const char* dst)
     {
@@ -37,13 +31,6 @@ struct FileSteps : FileTest {
             c.replace(at, c.find(',', at) - at, "#");
         }
         return commands;
-    }
-    FILEXFERLIST* At(int n)
-    {
-        FILEXFERLIST* item = list;
-        while (n-- > 0)
-            item = item->next;
-        return item;
     }
 };
 

@@ -47,33 +47,6 @@ TEST_F(MeMisc, LimitIsOneSwitchForAWordOfTheServer)
     }
 }
 
-TEST_F(MeMisc, EverySideOfABankRunsItsOwnTransition)
-{
-    static const struct {
-        uint32_t page;
-        const char* word;
-    } sides[] = {{0x11710000, "M/E-1"}, {0x14710000, "PGM/PST"}, {0x18710000, "PGM/PST SUB"}};
-    for (const auto& s : sides) {
-        Open(s.page);
-        const std::string path = std::string("put ") + s.word + "@Misc@Transition@";
-        EXPECT_THAT(Puts(Press(38)), ElementsAre(path + "Cut#true"));
-        EXPECT_THAT(Puts(Press(54)), ElementsAre(path + "Auto Trans#true"));
-    }
-}
-
-TEST_F(MeMisc, ProgramHasATabForTheFadeToBlack)
-{
-    constexpr int TAB_X = 97 + 6 * 86 + 40;
-    static const struct {
-        uint32_t page, target;
-    } cases[] = {{0x14730000, 0x14710002}, {0x12730000, 0}, {0x18730000, 0}};
-    for (const auto& c : cases) {
-        Open(c.page);
-        SendMessage(MSG_PRESS, TAB_X, 550, 1, 0);
-        EXPECT_EQ(std::exchange(GL_CreatePage, 0), c.target) << std::hex << c.page;
-    }
-}
-
 TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
 {
     static const struct {
@@ -539,14 +512,4 @@ TEST_F(MeMisc, TheOverviewLeadsToTheKeysAndPagesOfItsOwnBankAndSide)
         SendMessage(MSG_PRESS, c.x, c.y, 1, 0);
         EXPECT_EQ(std::exchange(GL_CreatePage, 0), c.target) << std::hex << c.page << " " << c.x;
     }
-}
-
-// What a key is cut by has no side; the bank's own cells have.
-TEST_F(MeMisc, TheCellsOfKeysOnASubSideFollowTheBank)
-{
-    const Lines sent = Open(0x85000000);
-    for (const char* path :
-         {"M/E-4@Key5@Type@Key Type", "M/E-4@Wipe@Main Pattern@Pattern",
-          "M/E-4 SUB@Wipe@Main Pattern@Pattern", "M/E-4 SUB@Misc@Key Priority@Key Priority"})
-        EXPECT_EQ(Held(sent, path), 1) << path;
 }
