@@ -7,7 +7,10 @@
 
 #include "safeguards.h"
 
-static uint32_t way = 0; // the page that this one makes way for; 0: no such page is open
+static struct {
+    uint32_t way = 0; // the page that this one makes way for; 0: no such page is open
+    int tell_in = 0;  // redraws until it says why it is empty; 0: it doesn't
+} bk;                 // valid from create(1) to create(0)
 
 static bool is_transfer()
 {
@@ -17,25 +20,42 @@ static bool is_transfer()
 static int pc_file_bkgdfiletransfer_create(int on, uint32_t page)
 {
     constexpr uint32_t FIRST_OF_TAB = 0x00010000;
-    way = 0;
+    constexpr int PAINTED = 2; // the message lies over the painted page
+    bk = {};
     if (!on)
         return 1;
     const bool is_asked_for = (GL_NowPage & (FIRST_OF_TAB * 0x10 - 1)) == 0;
-    way = !is_asked_for ? GL_NowPage // what leads here for now
-          : page != 0   ? page
-                        : GL_NowPage + FIRST_OF_TAB;
+    bk.way = !is_asked_for ? GL_NowPage // what leads here for now
+             : page != 0   ? page
+                           : GL_NowPage + FIRST_OF_TAB;
     if (is_transfer())
-        (void)PaneMessage_Create("File", PANE_ALERT, FILE_INHIBITED);
+        bk.tell_in = PAINTED;
     else
-        GL_CreatePage = way;
+        GL_CreatePage = bk.way;
+    return 0;
+}
+
+static int bkgd_redraw()
+{
+    if (bk.tell_in > 0 && --bk.tell_in == 0 && is_transfer())
+        (void)PaneMessage_Create("File", PANE_ALERT, FILE_INHIBITED);
+    return 0;
+}
+
+static int bkgd_make_way()
+{
+    if (bk.way != 0 && GL_CreatePage == 0 && !is_transfer())
+        GL_CreatePage = bk.way;
     return 0;
 }
 
 static int pc_file_bkgdfiletransfer_proc(int msg, MsgArg, MsgArg, MsgArg, MsgArg)
 {
-    if (msg == LMSG_FILESTATUS && way != 0 && GL_CreatePage == 0 && !is_transfer())
-        GL_CreatePage = way;
-    return 0;
+    switch (msg) {
+    case MSG_REDRAW: return bkgd_redraw();
+    case LMSG_FILESTATUS: return bkgd_make_way();
+    default: return 0;
+    }
 }
 
 const PC_TBL pc_file_bkgdfiletransfer = {.proc_func = pc_file_bkgdfiletransfer_proc,

@@ -1,4 +1,5 @@
 #include "access.h"
+#include "err.h"
 #include "file_page.h"
 #include "page.h"
 #include <chrono>
@@ -469,4 +470,20 @@ TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
     EXPECT_EQ(BkgdFileTransfer_PaneRestore(), second);
     SendMessage(LMSG_PANEQUIT, second, 1, 0, 0);
     EXPECT_EQ(told.size(), 1u) << "cancelled from the pane that came back";
+}
+
+TEST_F(FileBackground, AFallenLinkOpensNoMessageOverOtherWork)
+{
+    Fill(2);
+    GL_NowPage = 0x71210000;
+    BkgdFileTransfer_Set(0x71210000, 1);
+    File_ExecCopyList(&list, List, 0);
+    BkgdFileTransfer_PaneQuit();
+    GL_NowPage = 0x11110000;
+    Err_Clear();
+    File_LinkLost();
+    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_EQ(Err_GetMax(), 1);
+    Err_Clear();
 }

@@ -285,6 +285,8 @@ TEST(PageTable, WhileATransferRunsEveryPageLeadsToOneThatSaysSo)
     // It says so, and makes way when the transfer is over.
     CreatePage(0x71320000);
     EXPECT_EQ(Page->id, 0x71300000u);
+    for (int i = 0; i < 3; i++)
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
     const int pane = Pane_GetActiveID();
     EXPECT_NE(pane, 0);
     (void)Pane_Quit(pane);
