@@ -110,8 +110,9 @@ int File_XferList_SCPAdd_FM(FILEXFERLIST** list, const char* src, const char* ds
 
 static void unlink_item(FILEXFERLIST** link)
 {
+    if (appended.tail == *link)
+        appended = {};
     *link = (*link)->next;
-    appended = {}; // its end may be the item that left
 }
 
 // Remove what link points at. A job whose last item this was is gone, too.
