@@ -88,7 +88,7 @@ int FL_list_init(int id, int dev)
 
 void FL_list_all_init()
 {
-    for (int id : {FL_L_LIST, FL_R_LIST})
+    for (int id = 0; id < FL_SIDES; id++)
         read_side(id);
 }
 
@@ -108,7 +108,7 @@ int FL_Create(const FL_TBL* table, uint32_t)
         now = {};
     if (!table)
         return 1;
-    for (int id : {FL_L_LIST, FL_R_LIST}) {
+    for (int id = 0; id < FL_SIDES; id++) {
         const FL_AREA& area = table->area[id];
         if (!is_of_kind(fl.side[id].device, area.device)) {
             fl.side[id] = {.device = area.device};
@@ -153,7 +153,7 @@ static void flctrl_change_delete(int id, const ELEMENT& e)
 
 static void fmctrl_change(int kind, const ELEMENT* e)
 {
-    for (int id : {FL_L_LIST, FL_R_LIST}) {
+    for (int id = 0; id < FL_SIDES; id++) {
         if (!fl.is_open || fl.side[id].device != FL_DIRDATA_STORAGE_ROOT)
             continue;
         switch (kind) {
@@ -185,7 +185,7 @@ static void fl_tally(const char* path, const char* value)
 {
     if (!fl.is_open || strcmp(path, "CONNECT@Status") != 0 || strcmp(value, "OK") != 0)
         return;
-    for (int id : {FL_L_LIST, FL_R_LIST})
+    for (int id = 0; id < FL_SIDES; id++)
         if (fl_is_drive(fl.side[id].device))
             read_side(id);
 }
@@ -276,7 +276,8 @@ static FL_LIST* node_of_path(int index, const char* path, int type)
     char full_name[ELEMENT_PATH_SIZE];
     if (PrintText(full_name, "/%s%s", ELEMENT_ROOT, path) >= int(sizeof full_name))
         return nullptr;
-    for (int element_type : {ELEMENT_TYPE_FOLDER, ELEMENT_TYPE_FILE}) {
+    for (int element_type = ELEMENT_TYPE_FOLDER; element_type <= ELEMENT_TYPE_FILE;
+         element_type++) {
         const bool is_folder = element_type == ELEMENT_TYPE_FOLDER;
         if (type != OBJECT_TYPE_ALL && (type == OBJECT_TYPE_FOLDER) != is_folder)
             continue;

@@ -244,7 +244,7 @@ static void show(int id)
 
 void fl_redraw()
 {
-    for (int id : {FL_L_LIST, FL_R_LIST})
+    for (int id = 0; id < FL_SIDES; id++)
         if (fl.is_open && fl.now[id].is_dirty)
             show(id);
 }
