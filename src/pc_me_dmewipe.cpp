@@ -230,6 +230,8 @@ static int removefrombigin_create(int on, uint32_t)
         Net_SendCommandFormat("remove %s", RemoveBegin.PatternCmd);
         return 1;
     }
+    if (BT_GetKnobAssign() < 0)
+        NB_SetTitle("Remove"); // as with the modifiers
     RemoveBegin = {};
     RemoveBegin.off = dmewipe_is_off();
     dmewipe_path(RemoveBegin.PatternCmd, "@Pattern Select@Pattern");

@@ -1,4 +1,5 @@
 // The walk over all pages: every row is opened, drawn and left again, in the order of the table.
+#include "a_nb.h"
 #include "bus.h"
 #include "command.h"
 #include "global.h"
@@ -9,6 +10,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "tdl.h"
 #include "text.h"
 #include "window.h"
 #include <algorithm>
@@ -78,6 +80,12 @@ struct AllPages : testing::Test {
         return result == 0;
     }
     void TearDown() override { Harness_Reset(); }
+    static bool HasColumn(const PAGE& row)
+    {
+        return std::ranges::any_of(row.obj, [](const auto& o) { return o.type == OBJ_NB; });
+    }
+    static inline std::set<std::string> titles; // over the columns of the pages that were walked
+
     // Opens every page, each from the top menu and back to it, and
     // tells the visitor what the visit left subscribed.
     template <typename Visit> static int Walk(Visit visit)
@@ -91,6 +99,8 @@ struct AllPages : testing::Test {
             if (!Open(row->id))
                 continue;
             opened++;
+            if (HasColumn(*row))
+                titles.insert(NB_GetTitle());
             Pass(10);
             Pass(10);
             CloseAll();
@@ -122,6 +132,10 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
         before = books.held;
     });
     EXPECT_EQ(faults, 0);
+    for (const std::string& title : titles)
+        if (title.find('\n') == std::string::npos) {
+            EXPECT_LE(TDL_GetSymbolWidth(title.c_str(), 1), 84u) << title << " is cut";
+        }
     EXPECT_EQ(opened, PageTable_Rows - 1);
     const auto is_bank = [](uint32_t id) {
         const uint32_t byte = id >> 24;
