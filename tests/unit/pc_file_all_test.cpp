@@ -1,0 +1,360 @@
+// The All page of the File menu against a server that has files: what is gathered from where, what
+// is given to which job, and what automation gets.
+#include "file_scp.h"
+#include "fmctrl.h"
+#include "pane.h"
+#include "pc_file.h"
+#include "pc_file_all.h"
+#include "register.h"
+#include "table_page.h"
+#include "text.h"
+#include "window.h"
+#include <fstream>
+#include <map>
+#include <sstream>
+
+using testing::EndsWith, testing::SizeIs, testing::UnorderedElementsAre;
+
+namespace
+{
+constexpr uint32_t ALL_PAGE = 0x71110000;
+const std::string ROOT = "MYHOST:/mnt/data/user/root/SYSTEM/";
+const std::string CLEAR = "Info@Operation Setup Data@Clear Before Load";
+
+struct FileAllPage : TablePage {
+    std::map<std::string, Lines> files; // of a folder, as the server finds them
+    int ack = 500;
+
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        DeviceStructure();
+        FMCtrl_Quit();
+        FMCtrl_InitClipStillList();
+        CopyText(SYS_SHP_MyUserID, "MENU1");
+        CopyText(GL_ImportDataPath, "/mnt/usb/usb1/");
+        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
+        SYS_FmemV6 = 1;
+        for (const char* target : {"SWR1", "PNL1"}) {
+            Filescp_trnasferlist_init(target);
+            SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg((std::string(target) + ".File").c_str()), 0,
+                        0);
+        }
+        (void)Open(ALL_PAGE);
+    }
+    void TearDown() override
+    {
+        FMCtrl_Quit();
+        SYS_FmemV6 = 0;
+        CopyText(GL_ImportDataPath, "");
+        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
+        TablePage::TearDown();
+    }
+
+    static void Select(const std::set<std::string>& categories)
+    {
+        for (int row = 0; row < ALL_ROWS; row++)
+            if ((AllTbl[row].onoff != 0) != categories.contains(AllTbl[row].cmd))
+                (void)Press(BtnOfAllCategory(row));
+    }
+    static Lines Selected()
+    {
+        Lines on;
+        for (int row = 0; row < ALL_ROWS; row++)
+            if (BT_GetStatus(BtnOfAllCategory(row)) == BT_ON)
+                on.push_back(AllTbl[row].cmd);
+        return on;
+    }
+    static void Answer(int result)
+    {
+        const int pane = Pane_GetActiveID();
+        ASSERT_NE(pane, 0);
+        Pane_Quit(pane);
+        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
+    }
+    // The server answers one command when it is a search or works on a folder.
+    bool Served(const std::string& line)
+    {
+        for (const char* kind : {"Find", "ListDir", "Rmdir", "Mkdir"}) {
+            const std::string path = std::string("File@Access@") + kind;
+            if (!line.starts_with("put " + path + "#L"))
+                continue;
+            const size_t label = line.find("#L") + 2, comma = line.find(',');
+            const std::string number = std::to_string(++ack);
+            const std::string folder =
+                line.substr(comma + 1, line.find(',', comma + 1) - comma - 1);
+            SendDummyTally(
+                (path + "#L" + line.substr(label, comma - label) + "," + number).c_str());
+            for (const std::string& file : files[folder])
+                SendDummyTally((path + "@Status#" + number + "," + folder.substr(7) + file +
+                                ",Wed Nov 25 10:30:00 2026")
+                                   .c_str());
+            SendDummyTally((path + "@Status#" + number + ",OK").c_str());
+            return true;
+        }
+        return false;
+    }
+    // Passes until nothing more is asked; the words and paths of all that was.
+    Lines Run()
+    {
+        Lines asked;
+        for (int quiet = 0; quiet < 20; quiet++) {
+            Pass(10);
+            for (const std::string& line : TakeQueuedCommands()) {
+                quiet = 0;
+                const bool is_served = Served(line);
+                if (is_served)
+                    asked.push_back(line.substr(16, line.find('#') - 16) + " " +
+                                    line.substr(line.find(',') + 1));
+                else
+                    sent.push_back(line);
+            }
+        }
+        return asked;
+    }
+    Lines sent; // what was no search
+    static Lines Items(int worktype)
+    {
+        Lines items;
+        for (const QUEUE* job = QueueRoot; job; job = job->next)
+            for (const FILEXFERLIST* i = job->worktype == worktype ? *job->xferlist : nullptr; i;
+                 i = i->next)
+                items.push_back(std::string(i->target) + " " + i->src + " > " + i->dst);
+        return items;
+    }
+    static void Frames(std::initializer_list<std::pair<int, const char*>> registers)
+    {
+        SendDummyTally("16@Frame Mem@Status@Max Register#1500");
+        SendDummyTally("Frame Mem@Status@Extended Capacity#1");
+        SendDummyTally("16@Frame Mem@Status@Folder Name Sense#0,Default.,4,News");
+        for (const auto& [number, name] : registers)
+            SendDummyTally(
+                ("16@Frame Mem@Status@File Name Sense#" + std::to_string(number) + ",81," + name)
+                    .c_str());
+        (void)TakeQueuedCommands();
+    }
+};
+} // namespace
+
+TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
+{
+    Tell("Snapshot@Snapshot@Attribute@M/E-1@List#3,OPENING,,,,,");
+    Tell("Effect@Effect@Attribute@List@Dev1#7,S,VTR,U,0,0"); // of two groups of regions
+    Tell("Effect@Effect@Attribute@List@Dev1#250,S,CUE,U,0,0");
+    Select({"SNAPSHOT", "EFFECT", "MENUMACRO"});
+    EXPECT_THAT(Press(BTN_ALL_L_TO_R), IsEmpty());
+    Answer(2);
+    EXPECT_THAT(Run(), IsEmpty()) << "not before the operator agrees";
+    (void)Press(BTN_ALL_L_TO_R);
+    Answer(1);
+    EXPECT_THAT(Run(), ElementsAre("Rmdir MYHOST:/mnt/data/user/root/SYSTEM",
+                                   "Mkdir MYHOST:/mnt/data/user/root/SYSTEM"));
+    const std::string work = "SWR1 SWR001D001:/vorn/tmp/file/";
+    EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
+                ElementsAre(work + "EFFECT/SWR1/VTR.DEV1_007.SKF > " + ROOT +
+                                "EFFECT/SWR000D001/DEV1/VTR.DEV1_007.SKF",
+                            work + "EFFECT/SWR1/CUE.DEV1_250.SKF > " + ROOT +
+                                "EFFECT/SWR000D001/DEV1/CUE.DEV1_250.SKF",
+                            work + "SNAPSHOT/SWR1/OPENING.ME1_003.SSS > " + ROOT +
+                                "SNAPSHOT/SWR000D001/ME1/OPENING.ME1_003.SSS"));
+    // While it runs nothing else begins, for automation neither.
+    EXPECT_EQ(AllSave(), -1);
+}
+
+// Nothing is cleared for nothing.
+TEST_F(FileAllPage, AnEmptySaveLeavesTheDirectoryAlone)
+{
+    Select({"MENUMACRO"});
+    (void)Press(BTN_ALL_L_TO_R);
+    Answer(1);
+    EXPECT_THAT(Run(), IsEmpty());
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    Select({});
+    EXPECT_EQ(BT_GetVisible(BTN_ALL_L_TO_R), BT_DISABLED);
+}
+
+TEST_F(FileAllPage, ALoadSearchesWhatIsSelectedAndLeavesOutWhatIsLocked)
+{
+    files[ROOT + "SETUP/"] = {"SWR000D001/SETUP.DEV_0000.SST", "CTRLCPU/SETUP.PNL_0000.PST"};
+    files[ROOT + "SNAPSHOT/"] = {"SWR000D001/ME1/NEWS.ME1_007.SSS", "SWR000D001/ME1/x.txt",
+                                 "SWR000D009/ME1/NEWS.ME1_008.SSS"};
+    GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP] = GL_FileLock[FILELOCK_CATEGORY_KEY_MEMORY] = 1;
+    Select({"SETUP", "KEYMEM", "SNAPSHOT"});
+    (void)Press(BTN_ALL_R_TO_L);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    EXPECT_THAT(Selected(), ElementsAre("SETUP", "SNAPSHOT"))
+        << "a part of the setup may be loaded";
+    (void)CloseWindow();
+    EXPECT_THAT(Run(), IsEmpty()) << "the operator confirms again";
+    (void)Press(BTN_ALL_R_TO_L);
+    EXPECT_THAT(Run(),
+                ElementsAre("Find " + ROOT + "SETUP/,*.*.*", "Find " + ROOT + "SNAPSHOT/,*.*.*"));
+    EXPECT_EQ(AllLoadCount, 0);
+    EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
+                ElementsAre("PNL1 " + ROOT +
+                                "SETUP/CTRLCPU/SETUP.PNL_0000.PST > "
+                                "PNL001D001:/vorn/tmp/file/SETUP/PNL1/SETUP.PNL_0000.PST",
+                            "SWR1 " + ROOT +
+                                "SNAPSHOT/SWR000D001/ME1/NEWS.ME1_007.SSS > "
+                                "SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/NEWS.ME1_007.SSS"));
+    // Cancelled, it may have arrived all the same.
+    sent.clear();
+    Answer(1);
+    for (const char* row : {"SETUP", "SNAPSHOT"})
+        for (const char* table : {"SWR1.File", "PNL1.File"})
+            for (const char* state : {".USER_ID:MENU1", ".STATUS:Standby"})
+                SendMessage(MSG_SHPTALLY, Arg("Notify"), Arg(table), 0,
+                            Arg((std::string(row) + state).c_str()));
+    (void)Run();
+    EXPECT_THAT(sent, Contains("put Snapshot@Snapshot@Register Status#1F803FFF"));
+}
+
+TEST_F(FileAllPage, AllFourRegionsLockTheSetup)
+{
+    std::fill_n(&GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP], SETUP_REGIONS, 1);
+    Select({"SETUP", "MACRO"});
+    (void)Press(BTN_ALL_R_TO_L);
+    EXPECT_THAT(Selected(), ElementsAre("MACRO"));
+    (void)CloseWindow();
+    (void)Press(BTN_ALL_SELECT);
+    EXPECT_EQ(Selected().size(), size_t(ALL_ROWS));
+}
+
+// The search of a drive that has gone never ends: the operator ends it.
+TEST_F(FileAllPage, PreparingCanBeCancelledAndEndsWithThePage)
+{
+    for (const bool is_left : {false, true}) {
+        (void)Press(BTN_ALL_R_TO_L);
+        for (int i = 0; i < 40; i++)
+            Pass(10);
+        EXPECT_EQ(AllLoadCount, ALL_ROWS);
+        if (is_left)
+            (void)Open(ALL_PAGE);
+        else
+            Answer(1);
+        EXPECT_EQ(AllLoadCount, 0);
+        EXPECT_EQ(QueueRoot, nullptr);
+        EXPECT_EQ(Pane_GetActiveID(), 0);
+        Pass(1000);
+    }
+}
+
+TEST_F(FileAllPage, ACopyGoesToAnotherDirectoryOnly)
+{
+    const auto choose = [&](int button, int drive) {
+        (void)Press(button);
+        Answer(drive + 1);
+        (void)Run();
+        Answer(1); // SYSTEM
+        Pass(1000);
+    };
+    choose(BTN_ALL_DEVICE_A, FILE_LOCAL);
+    (void)Press(BTN_ALL_L_TO_R);
+    EXPECT_THAT(Run(), IsEmpty());
+    Answer(0);
+    choose(BTN_ALL_DEVICE_B, FILE_REMOVABLE);
+    files[ROOT + "MACRO/"] = {"CTRLCPU/A?B.PNL_0012.PMR", "CTRLCPU/A.PNL_0251.PMR"};
+    Frames({});
+    files[ROOT + "FMEMFOL/"] = {"News", "A NAME TOO LONG", ".."};
+    files[ROOT + "FMEMFOL/News/"] = {"SWR000D001/Mlogo.FMEM_012.SFM"};
+    GL_FileLock[FILELOCK_CATEGORY_MACRO] = 1; // of no meaning here
+    Select({"MACRO", "FRAMEMEM"});
+    (void)Press(BTN_ALL_L_TO_R);
+    (void)Run();
+    const std::string stick = " > MYHOST:/mnt/usb/usb1/SYSTEM/";
+    EXPECT_THAT(Items(FILEWORK_ACCESS_COPYLIST),
+                UnorderedElementsAre(" " + ROOT + "MACRO/CTRLCPU/A?B.PNL_0012.PMR" + stick +
+                                         "MACRO/CTRLCPU/A_B.PNL_0012.PMR",
+                                     " " + ROOT + "FMEMFOL/News/SWR000D001/Mlogo.FMEM_012.SFM" +
+                                         stick + "FMEMFOL/News/SWR000D001/Mlogo.FMEM_012.SFM"));
+}
+
+TEST_F(FileAllPage, PicturesAreSavedByFolderAndStore)
+{
+    Frames({{1, "Mlogo"}, {1200, "Sbug"}, {16384 + 3, "Mext"}});
+    SendDummyTally("16@Frame Mem@Status@Folder Status@0#04");
+    (void)TakeQueuedCommands();
+    Select({"FRAMEMEM"});
+    (void)Press(BTN_ALL_L_TO_R);
+    Answer(1);
+    (void)Run();
+    const std::string folder = ROOT + "FMEMFOL/";
+    // The job has turned the first names into those of the packed kind.
+    EXPECT_THAT(
+        Items(FILEWORK_TRANSFERLIST),
+        ElementsAre(
+            " SWR001D001:FMEM_001.SF2 > " + folder + "News/SWR000D001/Mlogo.FMEM_001.SFM",
+            " SWR001D001:FMEM1200.SF2 > " + folder + "DEFAULT/SWR000D001/Sbug.FMEM_1200.SFM",
+            " SWR001D001:FMEX_003.SF2 > " + folder + "DEFAULT/SWR000D001/Mext.FMEX_003.SFM"));
+}
+
+TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
+{
+    Frames({{1, "Mlogo"}, {2, "Mold"}});
+    const std::string folder = ROOT + "FMEMFOL/";
+    files[folder] = {"News", "Sport", "a#b", "DEFAULT"};
+    files[folder + "DEFAULT/"] = {
+        "SWR000D001/Mold.FMEM_1300.SFM",       "SWR000D002/Mx.FMEM_003.SFM",
+        "SWR000D001/Mx#1.FMEM_004.SFM",        "SWR000D001/Mx.FMEM_1501.SFM",
+        "SWR000D001/Mx.FMEM_000.SFM",          "SWR000D001/Mx.FMEM_005.TIF",
+        "SWR000D001/Mnametoolong.FMEM_006.SFM"};
+    files[folder + "News/"] = {"SWR000D001/Mlogo.FMEM_001.SFM"};
+    files[folder + "Sport/"] = {"SWR000D001/Mball.FMEX_007.SFA"};
+    Select({"FRAMEMEM"});
+    (void)Press(BTN_ALL_R_TO_L);
+    EXPECT_THAT(Run(),
+                ElementsAre("ListDir " + folder, "Find " + folder + "DEFAULT/,*.*.*",
+                            "Find " + folder + "News/,*.*.*", "Find " + folder + "Sport/,*.*.*"));
+    EXPECT_THAT(Items(FILEWORK_TRANSFERLIST),
+                ElementsAre(EndsWith("Mold.FMEM_1300.SFM > SWR001D001:FMEM1300.SF2"),
+                            EndsWith("Mlogo.FMEM_001.SFM > SWR001D001:FMEM_001.SF2"),
+                            EndsWith("Mball.FMEX_007.SFA > SWR001D001:FMEX_007.SF4")));
+    EXPECT_THAT(sent, Contains("put Frame Mem@File@Delete Thumbnail@Single#Mold"));
+    EXPECT_THAT(sent, Contains("put Frame Mem@Folder@Rename#1,Sport"));
+    EXPECT_THAT(sent, Not(Contains(HasSubstr("Single#Mlogo"))));
+}
+
+TEST_F(FileAllPage, AutomationGetsItsAnswer)
+{
+    const auto answer = [](const char* name) {
+        std::ifstream file(std::string("/tmp/FTPIF/Command/") + name);
+        std::stringstream text;
+        text << file.rdbuf();
+        return text.str();
+    };
+    ASSERT_EQ(::system("rm -rf /tmp/FTPIF; mkdir -p /tmp/FTPIF/Command"), 0);
+    Select({}); // of the page: not of automation
+    EXPECT_EQ(AllLoad(), 0);
+    EXPECT_EQ(AllLoad(), -1) << "one at a time";
+    EXPECT_THAT(Run(), AllOf(SizeIs(ALL_CATEGORIES), Each(HasSubstr("MYHOST:/tmp/FTPIF/Import/"))));
+    EXPECT_EQ(answer("allload.res"), "Error\n") << "there is nothing to be loaded";
+    // A save clears its own folders and no others; it has no pane on the page that is shown.
+    (void)Open(PAGE_TOP);
+    EXPECT_EQ(AllSave(), 0);
+    EXPECT_THAT(Run(), AllOf(Contains("Rmdir MYHOST:/tmp/FTPIF/Export/KSNAP"),
+                             Not(Contains("Rmdir MYHOST:/tmp/FTPIF/Export"))));
+    EXPECT_THAT(
+        Items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
+        Contains(EndsWith("MYHOST:/tmp/FTPIF/Export/KEYMEM/SWR000D001/KEYMEM.DEV_0000.SKM")));
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_EQ(BkgdFileTransfer_Check(0), 1);
+    File_SHP_All_Clear(); // the hub has gone
+    for (int i = 0; i < 300 && answer("allsave.res").empty(); i++) {
+        (void)Run();
+        SDL_Delay(10);
+    }
+    EXPECT_EQ(answer("allsave.res"), "Error\n");
+    EXPECT_EQ(BkgdFileTransfer_Check(0), 0);
+    (void)!::system("rm -rf /tmp/FTPIF");
+}
+
+TEST_F(FileAllPage, ClearBeforeLoadFollowsTheTally)
+{
+    EXPECT_THAT(Press(BTN_ALL_CLEAR), ElementsAre("put " + CLEAR + "#2"));
+    EXPECT_EQ(BT_GetStatus(BTN_ALL_CLEAR), BT_OFF);
+    (void)Tell(CLEAR + "#2");
+    EXPECT_EQ(BT_GetStatus(BTN_ALL_CLEAR), BT_ON);
+    Pass(1000);
+    EXPECT_THAT(Press(BTN_ALL_CLEAR), ElementsAre("put " + CLEAR + "#1"));
+    EXPECT_THAT(Leave(), Contains("remove " + CLEAR));
+}
