@@ -1,0 +1,150 @@
+"""The frame memory's file pages at the desk: pictures from and to the stick, stills and folders to the drive and back.
+
+usage: frame_page_test.py BUILD_DIR [TEST...]
+"""
+import os
+import struct
+import time
+import unittest
+
+from deskcase import DeskCase
+
+STORE = "put File@Frame Memory@PutV3#"
+DELETE, RENAME = "put Frame Mem@File@Delete Thumbnail@Single#", "put Frame Mem@File@Rename#"
+FOLDER = "mnt/data/user/root/SYSTEM/FMEMFOL/"
+ROW = 22
+KEYS = {key: (row, column) for row, keys in enumerate(("`1234567890-=", "qwertyuiop[]", "asdfghjkl", "  zxcvbnm"))
+        for column, key in enumerate(keys)}
+
+
+def bmp(width, height):
+    body = (b"\x20\x40\x80" * width).ljust((width * 3 + 3) // 4 * 4, b"\0") * height
+    return b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + len(body), 0, 54, 40, width, height, 1, 24, 0, len(body),
+                               0, 0, 0, 0) + body
+
+
+class FramePages(DeskCase):
+    def path(self, path):
+        return os.path.join(self.desk.root, path)
+
+    def wait_line(self, begin, timeout=5.0):
+        """The lines up to now, once one of them begins so."""
+        lines, end = [], time.monotonic() + timeout
+        while time.monotonic() < end:
+            lines += self.desk.wire()
+            if any(line.startswith(begin) for line in lines):
+                return lines
+            time.sleep(0.05)
+        self.fail(f"{begin!r} did not come; the wire said {lines[-8:]}")
+
+    def touch(self, x, y):
+        self.desk.touch(x, y, 0.2)
+
+    def show(self, number):
+        self.desk.console(f"page {number}")
+        time.sleep(0.4)
+        self.desk.wire()
+
+    def popup(self, place, of):
+        """A cell of a pop-up of one row."""
+        self.touch(400 - (78 * of + 26) // 2 + 15 + 78 * place + 30, 300 - (43 + 76) // 2 + 50)
+
+    def yes(self):
+        self.touch(200 + 97 + 30, 140 + 247 + 15)
+
+    def type(self, text, erase=0):
+        def key(row, column):
+            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, 0.12)
+        for _ in range(erase):
+            key(4, 9.5)
+        for c in text:
+            key(*KEYS[c])
+        key(2, 11.5)
+
+    def settle(self, begin, timeout=5.0):
+        lines = self.wait_line(begin, timeout)
+        time.sleep(0.4)  # the pane closes, the lists are read anew
+        return lines + self.desk.wire()
+
+    def test_1_a_picture_on_the_stick_becomes_a_register(self):
+        os.makedirs(self.path("mnt/usb/usb1/SYSTEM"), exist_ok=True)
+        with open(self.path("mnt/usb/usb1/SYSTEM/beach.BMP"), "wb") as out:
+            out.write(bmp(64, 36))
+        self.show(7161)
+        time.sleep(1)  # the store is being read
+        self.touch(540, 478)
+        self.popup(1, 4)
+        self.wait_line("put File@Access@Find#")
+        time.sleep(0.5)
+        self.touch(470, 124 + ROW + 10)
+        self.touch(400, 478)
+        lines = self.settle("put File@Frame Memory@Get#")
+        self.assertTrue(any(line.startswith(STORE) and line.endswith("Mbeach.FMEM_001.SF2,SWR001D001:FMEM_005.SF2")
+                            for line in lines), lines)
+        self.assertTrue(any(".SFT," in line for line in lines), lines)  # its thumbnail
+        self.touch(400, 478)  # a second time: its name is there
+        self.assertFalse(any("2SFM" in line for line in self.desk.wire()))
+        self.touch(400, 400)
+
+    def test_2_a_register_becomes_a_picture(self):
+        self.show(7161)
+        self.touch(540, 478)
+        self.popup(3, 4)
+        self.wait_line("put File@Access@Find#")
+        time.sleep(0.3)
+        self.touch(290, 478)  # the first register is selected
+        self.settle("put File@Access@Find#")  # the job has ended
+        with open(self.path("mnt/usb/usb1/SYSTEM/logo.PNG"), "rb") as file:
+            self.assertEqual(file.read(8), b"\x89PNG\r\n\x1a\n")
+
+    def test_3_stills_are_saved_deleted_and_loaded_into_a_folder(self):
+        self.show(7151)
+        rows = 3  # of folders
+        self.touch(170, 124 + ROW * (1 + rows) + 10)
+        self.touch(290, 478)
+        saved = FOLDER + "DEFAULT/SWR000D001/Mlogo.FMEM_001.SFM"
+        self.settle("put File@Access@ListDir#")
+        self.assertTrue(os.path.isfile(self.path(saved)))
+        self.touch(150, 480)  # Detail
+        time.sleep(0.4)
+        self.touch(170, 124 + ROW * (1 + rows) + 10)
+        self.touch(240, 480)
+        self.yes()
+        self.wait_line(DELETE + "Mlogo")
+        self.show(7151)
+        self.touch(170, 124 + ROW * 3 + 10)  # News
+        self.touch(520, 124 + ROW * (1 + rows) + 10)
+        self.touch(400, 478)
+        lines = self.settle("put 16@Frame Mem@Folder@Move Still#0,Mlogo,")
+        self.assertIn("put 16@Frame Mem@Folder@Move Still#0,Mlogo,2", lines)
+        # It is there: a second load is refused.
+        self.touch(520, 124 + ROW * (1 + rows) + 10)
+        self.touch(400, 478)
+        self.assertFalse(any("Frame Memory" in line for line in self.desk.wire()))
+        self.touch(400, 400)
+
+    def test_4_a_still_gets_another_name(self):
+        self.show(7151)
+        self.touch(170, 124 + ROW + 10)
+        self.touch(150, 480)
+        time.sleep(0.4)
+        self.touch(170, 124 + ROW * 4 + 10)
+        self.touch(150, 480)
+        self.type("sky", erase=5)
+        lines = self.wait_line(RENAME)
+        self.assertTrue(any(line.startswith(RENAME) and line.endswith("sky") for line in lines), lines)
+
+    def test_5_folders(self):
+        self.show(7152)
+        self.touch(150, 480)
+        self.type("show")
+        self.wait_line("put Frame Mem@Folder@Rename#3,show")
+        self.assertIn(",3,show,", self.desk.value("16@Frame Mem@Status@Folder Name Sense"))
+        self.touch(200, 78 + ROW * 4 + 10)
+        self.touch(350, 480)
+        self.yes()
+        self.wait_line("put Frame Mem@Folder@Delete#3")
+
+
+if __name__ == "__main__":
+    unittest.main()
