@@ -8,13 +8,21 @@
 #include "safeguards.h"
 
 static struct {
-    uint32_t way = 0; // the page that this one makes way for; 0: no such page is open
-    int tell_in = 0;  // redraws until it says why it is empty; 0: it doesn't
-} bk;                 // valid from create(1) to create(0)
+    uint32_t first = 0; // of the tab; 0: no such page is open
+    uint32_t asked = 0; // what was asked for, this page or one that leads here for now
+    int tell_in = 0;    // redraws until it says why it is empty; 0: it doesn't
+} bk;                   // valid from create(1) to create(0)
 
 static bool is_transfer()
 {
     return BkgdFileTransfer_Check(0) || BkgdHDDTransfer_Check(0);
+}
+
+static int bkgd_make_way()
+{
+    if (bk.first != 0 && GL_CreatePage == 0 && !is_transfer())
+        GL_CreatePage = bk.asked != Page->id && Page_Exists(bk.asked) ? bk.asked : bk.first;
+    return 0;
 }
 
 static int pc_file_bkgdfiletransfer_create(int on, uint32_t page)
@@ -24,28 +32,17 @@ static int pc_file_bkgdfiletransfer_create(int on, uint32_t page)
     bk = {};
     if (!on)
         return 1;
-    const bool is_asked_for = (GL_NowPage & (FIRST_OF_TAB * 0x10 - 1)) == 0;
-    bk.way = !is_asked_for ? GL_NowPage // what leads here for now
-             : page != 0   ? page
-                           : GL_NowPage + FIRST_OF_TAB;
-    if (is_transfer())
-        bk.tell_in = PAINTED;
-    else
-        GL_CreatePage = bk.way;
-    return 0;
+    bk = {.first = page != 0 ? page : Page->id + FIRST_OF_TAB,
+          .asked = GL_NowPage,
+          .tell_in = is_transfer() ? PAINTED : 0};
+    GL_CreatePage = 0; // this request is being met
+    return bkgd_make_way();
 }
 
 static int bkgd_redraw()
 {
     if (bk.tell_in > 0 && --bk.tell_in == 0 && is_transfer())
         (void)PaneMessage_Create("File", PANE_ALERT, FILE_INHIBITED);
-    return 0;
-}
-
-static int bkgd_make_way()
-{
-    if (bk.way != 0 && GL_CreatePage == 0 && !is_transfer())
-        GL_CreatePage = bk.way;
     return 0;
 }
 

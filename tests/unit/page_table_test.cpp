@@ -294,6 +294,12 @@ TEST(PageTable, WhileATransferRunsEveryPageLeadsToOneThatSaysSo)
     SendMessage(LMSG_FILESTATUS, 0, 0, 0, 0);
     EXPECT_EQ(GL_CreatePage, 0x71320000u);
     GL_CreatePage = 0;
+    BkgdFileTransfer_Set(0x71310000, 1);
+    CreatePage(0x71398765);
+    BkgdFileTransfer_Set(0x71310000, 0);
+    SendMessage(LMSG_FILESTATUS, 0, 0, 0, 0);
+    EXPECT_EQ(GL_CreatePage, 0x71310000u) << "what was asked for is nowhere";
+    GL_CreatePage = 0;
     CreatePage(0x12700000);
     EXPECT_EQ(GL_CreatePage, 0x12710000u) << "in its own bank";
     GL_CreatePage = 0;
