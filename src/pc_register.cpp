@@ -6,7 +6,9 @@
 #include "message.h"
 #include "netio.h"
 #include "pane.h"
+#include "pc_effect.h"
 #include "pc_register_list.h"
+#include "pc_shotbox.h"
 #include "tally_value.h"
 #include "text.h"
 #include "window.h"
@@ -36,7 +38,9 @@ static struct {
     char caption[REGISTER_LISTS][CAPTION_SIZE]; // the keys of the regions show them from here
 } rp;                                           // valid from create(1) to create(0)
 
-static constexpr const RegisterExtra* extras[] = {&snapshot_extra, &keyss_extra};
+static constexpr const RegisterExtra* extras[] = {
+    &snapshot_extra,   &keyss_extra,      &effect_extras[0], &effect_extras[1],
+    &effect_extras[2], &effect_extras[3], &effect_extras[4], &shotbox_extra};
 
 static RegisterMemory& memory()
 {
@@ -204,13 +208,6 @@ static bool is_any(int)
 static bool is_free(int no)
 {
     return !is_locked(0, no);
-}
-
-void RegisterPage_EachSpan(void (*act)(const RegisterSpan& span, const void* arg), const void* arg)
-{
-    each_run(is_any, [&](int from, int to) {
-        act({source_mask(), number_of(from), number_of(to)}, arg);
-    });
 }
 
 // --- One list ---
@@ -545,6 +542,16 @@ const RegisterLine& RegisterPage_Line()
 int RegisterPage_Region()
 {
     return memory().region1;
+}
+
+void RegisterPage_PutAttribute(const char* path, const char* value)
+{
+    if (is_locked(0, cursor()))
+        return;
+    each_run(is_any, [path, value](int from, int to) {
+        RegisterCmd_Attribute(*rp.kind, path, {source_mask(), number_of(from), number_of(to)},
+                              value);
+    });
 }
 
 RegisterMemory& RegisterPage_Memory(REGKIND kind)

@@ -61,8 +61,9 @@ const RegisterKind* RegisterPage_Kind(); // null: no page of ours is open
 int RegisterPage_Number();               // at the cursor of the list, as the operator sees it
 const RegisterLine& RegisterPage_Line(); // of that register
 int RegisterPage_Region();               // that the list shows: row of the kind's regions
-// Calls do(span, arg) for each run of selected registers of the list, all selected regions.
-void RegisterPage_EachSpan(void (*act)(const RegisterSpan& span, const void* arg), const void* arg);
+// An attribute of each run of selected registers of the list, in all selected regions; nothing for
+// a locked register at the cursor.
+void RegisterPage_PutAttribute(const char* path, const char* value);
 
 // What of a kind outlives its pages, also for sub pages.
 struct RegisterMemory {

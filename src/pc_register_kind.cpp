@@ -355,6 +355,17 @@ int RegisterKind_Regions(const RegisterKind& kind)
     return std::max(n, 1);
 }
 
+void RegisterKind_Path(const RegisterKind& kind, const char* pattern, int region, char* path,
+                       int size)
+{
+    const char* const at = strstr(pattern, "%s");
+    ktr_strncpy(path, pattern, at ? std::min(int(at - pattern) + 1, size) : size);
+    if (!at)
+        return;
+    ktr_strncat(path, kind.regions ? kind.regions[region].cmd : "", size);
+    ktr_strncat(path, at + 2, size);
+}
+
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind)
 {
     uint64_t mask = 0;

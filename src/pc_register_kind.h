@@ -93,6 +93,9 @@ int RegisterKind_Exist(const RegisterKind& kind, int region, int no);
 int RegisterKind_Lock(const RegisterKind& kind, int region, int no);
 // Rows of the region table; 1 without regions.
 int RegisterKind_Regions(const RegisterKind& kind);
+// The path of a command that has "%s" for the region, if it has.
+void RegisterKind_Path(const RegisterKind& kind, const char* pattern, int region, char* path,
+                       int size);
 // The bits of all regions that are selected in the kind's selector; 0 for none.
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind);
 // Place of the reference in the region table. Without a reference: of the first selected region,

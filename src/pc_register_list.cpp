@@ -66,14 +66,7 @@ static bool take_line(int n, int no)
 static void ask_for_lines(const Side& side)
 {
     char path[CMD_SIZE];
-    const char* const list = side.kind->commands->list;
-    const char* const word = side.kind->regions ? side.kind->regions[side.region].cmd : "";
-    const char* const at = strstr(list, "%s");
-    ktr_strncpy(path, list, at ? size_t(at - list) + 1 : sizeof path);
-    if (at) {
-        AppendText(path, word);
-        AppendText(path, at + 2);
-    }
+    RegisterKind_Path(*side.kind, side.kind->commands->list, side.region, path, sizeof path);
     Net_SendCommandFormat("read %s", path);
 }
 

@@ -2,12 +2,12 @@
 // of a key what their recall leaves alone.
 #include "pc_snapshot.h"
 #include "a_bt.h"
-#include "a_nb.h"
 #include "command.h"
 #include "global.h"
 #include "netio.h"
 #include "pane.h"
 #include "pc_register.h"
+#include "pc_register_duration.h"
 #include "tally_value.h"
 #include "text.h"
 #include <iterator>
@@ -17,100 +17,42 @@
 #define RECALL_MODE "Snapshot@Key Snapshot@Attribute@Recall Mode"
 
 static struct {
-    int SSAttri_TempDur = 0;          // frames, of the next recall of the region
-    int region = -1;                  // whose duration is subscribed
-    char temp_dur[CMD_SIZE] = "";     // its path
     char key[CMD_SIZE] = "";          // the key whose recall mode is subscribed
     bool mode[KEY_RECALL_MODES] = {}; // last tally
-} at;                                 // valid while the first page of a snapshot is open
+} at;                                 // valid while the first page of the key snapshots is open
 
 // --- Attributes of a register ---
 
-static bool is_locked()
-{
-    return *RegisterPage_Line().le == 'L';
-}
-
-static void put_attribute(const char* path, const char* value)
-{
-    if (is_locked())
-        return;
-    struct Attribute {
-        const char* path;
-        const char* value;
-    } attribute = {path, value};
-    RegisterPage_EachSpan(
-        [](const RegisterSpan& span, const void* arg) {
-            const Attribute& a = *static_cast<const Attribute*>(arg);
-            RegisterCmd_Attribute(*RegisterPage_Kind(), a.path, span, a.value);
-        },
-        &attribute);
-}
-
 static int effdiss_sel()
 {
-    put_attribute(ATTRIBUTE "Effect Dissolve", Bool(*RegisterPage_Line().effdiss == '\0'));
+    RegisterPage_PutAttribute(ATTRIBUTE "Effect Dissolve",
+                              Bool(*RegisterPage_Line().effdiss == '\0'));
     return 0;
 }
 
 static int autotrans_sel()
 {
-    put_attribute(ATTRIBUTE "Auto Transition", Bool(*RegisterPage_Line().autotrans == '\0'));
+    RegisterPage_PutAttribute(ATTRIBUTE "Auto Transition",
+                              Bool(*RegisterPage_Line().autotrans == '\0'));
     return 0;
 }
 
 static int gpi_sel()
 {
-    put_attribute(ATTRIBUTE "GPI", *RegisterPage_Line().gpi ? "null" : "1");
+    RegisterPage_PutAttribute(ATTRIBUTE "GPI", *RegisterPage_Line().gpi ? "null" : "1");
     return 0;
 }
 
 static int duration_sel()
 {
-    put_attribute(ATTRIBUTE "Duration", NumStr(at.SSAttri_TempDur));
+    RegisterPage_PutAttribute(ATTRIBUTE "Duration", NumStr(RegisterDuration_Frames()));
     return 0;
-}
-
-// --- Temporary duration ---
-
-static void follow_duration(const char* verb)
-{
-    if (at.region >= 0)
-        Net_SendCommandFormat("%s %s", verb, at.temp_dur);
-}
-
-static void follow_region()
-{
-    if (RegisterPage_Region() == at.region)
-        return;
-    follow_duration("remove");
-    at.region = RegisterPage_Region();
-    PrintText(at.temp_dur, ATTRIBUTE "%s@Temporary Duration", SnapshotRegion[at.region].cmd);
-    at.SSAttri_TempDur = 0;
-    (void)NB_InvalidVar(1);
-    follow_duration("add");
-}
-
-static void attribute_tally(const char* path, const char* value)
-{
-    if (at.region < 0 || !Same(path, at.temp_dur))
-        return;
-    at.SSAttri_TempDur = int(NumberIn(value, 0, 999));
-    (void)NB_SetVar(1, at.SSAttri_TempDur);
-}
-
-static void attribute_knob(int, int value)
-{
-    if (at.region < 0)
-        return;
-    at.SSAttri_TempDur = value;
-    Net_SendCommandFormat("put %s#%d", at.temp_dur, value);
 }
 
 static void attribute_shown()
 {
     const RegisterLine& line = RegisterPage_Line();
-    follow_region();
+    RegisterDuration_Follow();
     (void)BT_SetStatus(BTN_SNAPSHOT_EFFDISS, *line.effdiss ? BT_ON : BT_OFF);
     (void)BT_SetStatus(BTN_SNAPSHOT_AUTOTRANS, *line.autotrans ? BT_ON : BT_OFF);
     (void)BT_SetStatus(BTN_SNAPSHOT_GPI, *line.gpi ? BT_ON : BT_OFF);
@@ -118,12 +60,9 @@ static void attribute_shown()
 
 static void attribute_open(int on)
 {
-    if (!on)
-        follow_duration("remove");
-    at = {};
-    if (!on)
-        return;
-    attribute_shown();
+    RegisterDuration_Open(on);
+    if (on)
+        attribute_shown();
 }
 
 static constexpr RegisterTouch attribute_touches[] = {
@@ -137,8 +76,8 @@ const RegisterExtra snapshot_extra = {.kind = REGKIND_SNAPSHOT,
                                       .touches = attribute_touches,
                                       .open = attribute_open,
                                       .shown = attribute_shown,
-                                      .tally = attribute_tally,
-                                      .knob = attribute_knob};
+                                      .tally = RegisterDuration_Tally,
+                                      .knob = RegisterDuration_Knob};
 
 // --- What the recall of a key brings back ---
 

@@ -1,5 +1,6 @@
 // PageTable, joined at compile time from the rows of the menu groups.
 #include "dme.h"
+#include "effect_pages.h"
 #include "file_all.h"
 #include "file_directory.h"
 #include "file_dual.h"
@@ -31,8 +32,8 @@
 #include "nb_nonlinear.h"
 #include "nb_wipe.h"
 #include "operation.h"
-#include "registers.h"
 #include "saver.h"
+#include "shotbox_pages.h"
 #include "snapshot_pages.h"
 #include "sources.h"
 #include "system.h"
@@ -67,9 +68,12 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 machines_pages,
                 keyframe_pages,
                 keyframe_path_rows,
-                registers_pages,
                 snapshot_register_pages,
                 snapshot_sub_pages,
+                effect_register_pages,
+                effect_sub_pages,
+                shotbox_register_pages,
+                shotbox_sub_pages,
                 system_pages,
                 file_directory_pages,
                 file_folder_pages,

@@ -105,6 +105,13 @@ struct RegisterKeys {
 #define REG_KEYS(first, name)                                                                                           \
     {{first, bt_##name##_lock, bt_##name##_copy, bt_##name##_move, bt_##name##_swap, bt_##name##_delete, bt_##name##_rename}}
 
+// The temporary duration of a first page.
+inline constexpr NB_TBL nb_register_duration[] = {
+    {.id = 1, .caption = "Temp\nDuration", .type = NB_INT, .min = 0, .max = 999, .cmd = "Panel@Common@Knob0", .scale = 1},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_register_duration));
+
 // --- Pages ---
 
 struct RegisterGroup {

@@ -76,12 +76,6 @@ inline constexpr RegisterLists ls_keyss = ListsOf(keyss_columns, name_dual_colum
 static_assert(RegisterListsAreSound(ls_master_ss) && RegisterListsAreSound(ls_snapshot) &&
               RegisterListsAreSound(ls_wipess) && RegisterListsAreSound(ls_keyss));
 
-inline constexpr NB_TBL nb_snapshot_attribute[] = {
-    {.id = 1, .caption = "Temp\nDuration", .type = NB_INT, .min = 0, .max = 999, .cmd = "Panel@Common@Knob0", .scale = 1},
-    NB_END,
-};
-static_assert(BoxesAreSound(nb_snapshot_attribute));
-
 constexpr RegisterKeys SnapshotKeys()
 {
     RegisterKeys keys = REG_KEYS(bt_snapshot_attribute, snapshot);
@@ -92,7 +86,7 @@ inline constexpr RegisterGroup snapshot_groups_of_pages[] = {
     {0x63100000, REGKIND_MASTER_SS, "Snapshot", "Master Snapshot", "Store/Recall", vf_snapshot, 1, hf_snapshot_master,
      &ls_master_ss, REG_KEYS(bt_master_snapshot, snapshot_master)},
     {0x63200000, REGKIND_SNAPSHOT, "Snapshot", "Snapshot", "Attribute", vf_snapshot, 2, hf_snapshot_snapshot,
-     &ls_snapshot, SnapshotKeys(), nb_snapshot_attribute},
+     &ls_snapshot, SnapshotKeys(), nb_register_duration},
     {0x63300000, REGKIND_WIPESS, "Snapshot", "Wipe Snapshot", "Store/Recall", vf_snapshot, 3, hf_snapshot_wipess,
      &ls_wipess, REG_KEYS(bt_wipess_attribute, snapshot)},
     {0x63400000, REGKIND_DMESS, "Snapshot", "DME Snapshot", "Store/Recall", vf_snapshot, 4, hf_snapshot_dmess,
