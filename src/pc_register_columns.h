@@ -35,6 +35,17 @@ inline constexpr RegisterColumn effect_columns[] = {
     {"DME", 40, TEXT_OF(region[2])},  {"DEV", 40, TEXT_OF(region[3])},
     {"PBUS", 45, TEXT_OF(region[4])}, {"GPI", 50, TEXT_OF(region[5])},
     {"MCRO", 50, TEXT_OF(region[6])}, {}};
+inline constexpr RegisterColumn effect_dme_columns[] = {
+    {"No", 40, TEXT_OF(no)},          {"Name", 160, TEXT_OF(name)},
+    {"L/E", 57, TEXT_OF(le)},         {"Eff Diss", 80, TEXT_OF(effdiss)},
+    {"DME", 215, TEXT_OF(region[2])}, {}};
+inline constexpr RegisterColumn effect_ex_columns[] = {{"No", 40, TEXT_OF(no)},
+                                                       {"Name", 160, TEXT_OF(name)},
+                                                       {"L/E", 57, TEXT_OF(le)},
+                                                       {"Eff Diss", 80, TEXT_OF(effdiss)},
+                                                       {"DEV", 107, TEXT_OF(region[3])},
+                                                       {"PBUS", 108, TEXT_OF(region[4])},
+                                                       {}};
 inline constexpr RegisterColumn effect_dual_columns[] = {{"No", 35, TEXT_OF(no)},
                                                          {"Name", 113, TEXT_OF(name)},
                                                          {"L/E", 40, TEXT_OF(le)},
@@ -46,23 +57,23 @@ inline constexpr RegisterColumn effect_dual_columns[] = {{"No", 35, TEXT_OF(no)}
         {"ME5", width, TEXT_OF(link[4])}, {"P/P", width, TEXT_OF(link[5])},                        \
         {"USR", width, TEXT_OF(link[6])},                                                          \
     {                                                                                              \
-        "DME", width, TEXT_OF(link[7])                                                             \
+        "DME", (width) + 1, TEXT_OF(link[7])                                                       \
     }
 inline constexpr RegisterColumn master_ss_columns[] = {
-    {"No", 30, TEXT_OF(no)}, {"Name", 112, TEXT_OF(name)},  {"L/E", 32, TEXT_OF(le)},
+    {"No", 30, TEXT_OF(no)}, {"Name", 111, TEXT_OF(name)},  {"L/E", 32, TEXT_OF(le)},
     BANK_LINKS(42),          {"RTR", 42, TEXT_OF(link[8])}, {}};
 #define ALL_LINKS                                                                                  \
-    BANK_LINKS(32), {"DEV", 32, TEXT_OF(link[8])}, {"PBS", 32, TEXT_OF(link[9])},                  \
-        {"GPI", 32, TEXT_OF(link[10])},                                                            \
+    BANK_LINKS(31), {"DEV", 32, TEXT_OF(link[8])}, {"PBS", 32, TEXT_OF(link[9])},                  \
+        {"GPI", 30, TEXT_OF(link[10])},                                                            \
     {                                                                                              \
-        "MCR", 32, TEXT_OF(link[11])                                                               \
+        "MCR", 36, TEXT_OF(link[11])                                                               \
     }
 inline constexpr RegisterColumn master_tl_columns[] = {
-    {"No", 30, TEXT_OF(no)}, {"Name", 106, TEXT_OF(name)}, {"L/E", 32, TEXT_OF(le)}, ALL_LINKS, {}};
+    {"No", 30, TEXT_OF(no)}, {"Name", 111, TEXT_OF(name)}, {"L/E", 32, TEXT_OF(le)}, ALL_LINKS, {}};
 inline constexpr RegisterColumn shotbox_columns[] = {{"No", 30, TEXT_OF(no)},
-                                                     {"Name", 78, TEXT_OF(name)},
+                                                     {"Name", 79, TEXT_OF(name)},
                                                      {"L/E", 28, TEXT_OF(le)},
-                                                     {"Auto", 32, TEXT_OF(attri)},
+                                                     {"Auto", 36, TEXT_OF(attri)},
                                                      ALL_LINKS,
                                                      {}};
 #undef ALL_LINKS

@@ -244,7 +244,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = eff100_complete,
-     .columns = effect_columns,
+     .columns = effect_dme_columns,
      .dual_columns = effect_dual_columns,
      .delete_title = "Effect Delete"},
     {.kind = REGKIND_EFF200,
@@ -259,7 +259,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = eff200_complete,
-     .columns = effect_columns,
+     .columns = effect_dme_columns,
      .dual_columns = effect_dual_columns,
      .delete_title = "Effect Delete"},
     {.kind = REGKIND_EFF300,
@@ -274,7 +274,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = eff300_complete,
-     .columns = effect_columns,
+     .columns = effect_dme_columns,
      .dual_columns = effect_dual_columns,
      .delete_title = "Effect Delete"},
     {.kind = REGKIND_EFFECT_EX,
@@ -288,7 +288,7 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .commands = &effect_commands,
      .setdata = effect_setdata,
      .complete = effect_ex_complete,
-     .columns = effect_columns,
+     .columns = effect_ex_columns,
      .dual_columns = effect_dual_columns,
      .delete_title = "Effect Delete"},
     {.kind = REGKIND_SHOTBOX,
@@ -490,6 +490,19 @@ void RegisterCmd_Runs(const RegisterKind& kind, const RegisterRuns& runs, const 
     PrintText(rest, "%d,%d,%s%d,%s", span.from, span.to, mask_before(kind, to_mask, text), target,
               Bool(wo_name));
     send(kind, runs.path, span.mask, rest);
+}
+
+void RegisterCmd_CopyInRegion(const RegisterKind& kind, int region, int from, int to, bool wo_name)
+{
+    const char* const path = kind.commands->copy.path;
+    if (kind.regions && kind.mirror == REGISTER_EFFECT) {
+        const char* const word = kind.regions[region].cmd;
+        Net_SendCommandFormat("put %s#%s,%d,%d,%s,%d,%s", path, word, from, from, word, to,
+                              Bool(wo_name));
+        return;
+    }
+    const uint64_t bits = kind.regions ? kind.regions[region].bitmap : 0;
+    RegisterCmd_Runs(kind, kind.commands->copy, {bits, from, from}, bits, to, wo_name);
 }
 
 void RegisterCmd_Merge(const RegisterKind& kind, uint64_t mask, int number, uint64_t to_mask,

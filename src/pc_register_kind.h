@@ -123,6 +123,9 @@ struct RegisterSpan {
 // Copy, move and swap: the span goes to the registers from target on, of the regions to_mask.
 void RegisterCmd_Runs(const RegisterKind& kind, const RegisterRuns& runs, const RegisterSpan& span,
                       uint64_t to_mask, int target, bool wo_name);
+// Copy one register within a region (row of the kind's table); the commands of the effects name it
+// by its word.
+void RegisterCmd_CopyInRegion(const RegisterKind& kind, int region, int from, int to, bool wo_name);
 void RegisterCmd_Merge(const RegisterKind& kind, uint64_t mask, int number, uint64_t to_mask,
                        int target);
 // "put PATH#MASK,FROM,TO,VALUE": an attribute of all registers of the span.

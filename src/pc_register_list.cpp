@@ -201,7 +201,7 @@ constexpr StripGroup effect_groups[] = {
     SIDE_GROUPS,
     USERS_AND_CHANNELS,
     {"DEV", EFF_REGION_DEV1, EFF_REGION_DEV12, digit_captions, DIGIT_PX, 2, 0},
-    {"", EFF_REGION_PBUS, EFF_REGION_MACRO, rest_captions, 44, 2, RIGHT + 38},
+    {"", EFF_REGION_PBUS, EFF_REGION_MACRO, rest_captions, 44, 2, RIGHT + 56},
     STRIP_END};
 constexpr StripGroup device_groups[] = {
     {"DEV", EFF_REGION_DEV1, EFF_REGION_DEV12, digit_captions, DIGIT_PX, 0, 0},

@@ -186,10 +186,8 @@ static int copy_to_sel()
     rs.FromBuf = 0;
     show_from();
     for (int region = 0; region < RegisterKind_Regions(kind); region++)
-        if (RegisterKind_IsInUse(kind, region) && RegisterKind_Exist(kind, region, from - FIRST)) {
-            const uint64_t bits = kind.regions ? kind.regions[region].bitmap : 0;
-            RegisterCmd_Runs(kind, kind.commands->copy, {bits, from, from}, bits, to, wo_name);
-        }
+        if (RegisterKind_IsInUse(kind, region) && RegisterKind_Exist(kind, region, from - FIRST))
+            RegisterCmd_CopyInRegion(kind, region, from, to, wo_name);
     copy_row(from, to, wo_name);
     return 0;
 }

@@ -60,7 +60,10 @@ inline constexpr HF_TBL hf_effect_ex[] = REG_BOTTOM_TABS(0x62600000, "Attribute"
 
 inline constexpr RegisterLists ls_master_tl = ListsOf(master_tl_columns, name_dual_columns);
 inline constexpr RegisterLists ls_effect = ListsOf(effect_columns, effect_dual_columns);
-static_assert(RegisterListsAreSound(ls_master_tl) && RegisterListsAreSound(ls_effect));
+inline constexpr RegisterLists ls_effect_dme = ListsOf(effect_dme_columns, effect_dual_columns);
+inline constexpr RegisterLists ls_effect_ex = ListsOf(effect_ex_columns, effect_dual_columns);
+static_assert(RegisterListsAreSound(ls_master_tl) && RegisterListsAreSound(ls_effect) && RegisterListsAreSound(ls_effect_dme) &&
+              RegisterListsAreSound(ls_effect_ex));
 
 constexpr RegisterKeys EffectKeys()
 {
@@ -74,10 +77,10 @@ inline constexpr RegisterGroup effect_groups_of_pages[] = {
     {0x62100000, REGKIND_MASTER_TL, "Effect", "Master Timeline", "Store/Recall", vf_effect, 1, hf_effect_master,
      &ls_master_tl, REG_KEYS(bt_master_timeline, effect_master)},
     {0x62200000, REGKIND_EFFECT, "Effect", "Effect 1-99", "Attribute", vf_effect, 2, hf_effect_effect, &ls_effect, EffectKeys(), nb_register_duration},
-    {0x62300000, REGKIND_EFF100, "Effect", "User DME Wipe 101-199", "Attribute", vf_effect, 3, hf_effect_eff100, &ls_effect, EffectKeys(), nb_register_duration},
-    {0x62400000, REGKIND_EFF200, "Effect", "User DME Wipe 201-299", "Attribute", vf_effect, 4, hf_effect_eff200, &ls_effect, EffectKeys(), nb_register_duration},
-    {0x62500000, REGKIND_EFF300, "Effect", "User DME Wipe 301-399", "Attribute", vf_effect, 5, hf_effect_eff300, &ls_effect, EffectKeys(), nb_register_duration},
-    {0x62600000, REGKIND_EFFECT_EX, "Effect", "DEV/PBUS 1-250", "Attribute", vf_effect, 6, hf_effect_ex, &ls_effect, EffectKeys(), nb_register_duration},
+    {0x62300000, REGKIND_EFF100, "Effect", "User DME Wipe 101-199", "Attribute", vf_effect, 3, hf_effect_eff100, &ls_effect_dme, EffectKeys(), nb_register_duration},
+    {0x62400000, REGKIND_EFF200, "Effect", "User DME Wipe 201-299", "Attribute", vf_effect, 4, hf_effect_eff200, &ls_effect_dme, EffectKeys(), nb_register_duration},
+    {0x62500000, REGKIND_EFF300, "Effect", "User DME Wipe 301-399", "Attribute", vf_effect, 5, hf_effect_eff300, &ls_effect_dme, EffectKeys(), nb_register_duration},
+    {0x62600000, REGKIND_EFFECT_EX, "Effect", "DEV/PBUS 1-250", "Attribute", vf_effect, 6, hf_effect_ex, &ls_effect_ex, EffectKeys(), nb_register_duration},
 };
 inline constexpr auto effect_register_pages = RegisterRows(effect_groups_of_pages);
 

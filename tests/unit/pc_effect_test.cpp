@@ -1,0 +1,162 @@
+// The pages of the effects and shotboxes: what goes over the wire for every kind and every key, and
+// what the lists show of the mirror.
+#include "a_bt.h"
+#include "a_ls.h"
+#include "pc_effect.h"
+#include "pc_shotbox.h"
+#include "table_page.h"
+#include <cstring>
+
+namespace
+{
+const std::string EFFECTS = "Effect@Effect@Attribute@List@";
+const char* const SHOTS = "Shotbox@Register@Store/Recall@List";
+
+struct EffectPages : TablePage {
+    static void Deliver(const std::string& path, const std::string& value)
+    {
+        (void)Tell(path + "#" + value);
+    }
+    static void Open3To5(uint32_t page) // from register 3 to register 5, where there are two lists
+    {
+        Open(page);
+        LS_SetNowLine(1, 2);
+        LS_SetSelected(1, 2, 0, 1);
+        LS_SetNowLine(2, 4);
+        Pass(10);
+    }
+    static Lines Puts(int id) { return TablePage::Puts(Press(id)); }
+    static std::string Cell(int list, int row, int column)
+    {
+        const char* const text = LS_GetData(list, row, column);
+        return text ? text : "";
+    }
+};
+} // namespace
+
+TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
+{
+    static const struct {
+        uint32_t page;
+        int button;
+        const char* command;
+    } cases[] = {
+        {0x62110000, 49, "put Master@Effect@Recall@Recall#3"},
+        {0x62110000, 50, "put Effect@Master Timeline@Store/Recall@Store#3"},
+        {0x62120000, 50, "put Effect@Master Timeline@Lock@Lock#3,3,true"},
+        {0x62130000, 49, "put Effect@Master Timeline@Copy@Copy#3,3,5,false"},
+        {0x62150000, 49, "put Effect@Master Timeline@Swap@Swap#3,3,5,false"},
+        {0x62210000, 33, "put Effect@Effect@Attribute@Effect Dissolve#0000000000000002,3,3,true,0"},
+        {0x62210000, 50, "put Effect@Effect@Recall@Recall#0000000000000002, 3"},
+        {0x62220000, 51, "put Effect@Effect@Lock@Lock#0000000000000002,3,3,true"},
+        {0x62230000, 49,
+         "put Effect@Effect@Copy/Merge@Copy#0000000000000002,3,3,0000000000000002,5,false"},
+        {0x62230000, 52,
+         "put Effect@Effect@Copy/Merge@Merge#0000000000000002,3,0000000000000002,5"},
+        {0x62240000, 49,
+         "put Effect@Effect@Move@Move#0000000000000002,3,3,0000000000000002,5,false"},
+        {0x62250000, 49,
+         "put Effect@Effect@Swap@Swap#0000000000000002,3,3,0000000000000002,5,false"},
+        {0x62320000, 51, "put Effect@Effect@Lock@Lock#0000000000101000,103,103,true"},
+        {0x62430000, 49,
+         "put Effect@Effect@Copy/Merge@Copy#0000000000101000,203,203,0000000000101000,205,false"},
+        {0x62510000, 50, "put Effect@Effect@Recall@Recall#0000000000101000, 303"},
+        {0x62610000, 50, "put Effect@Effect@Recall@Recall#0000010000000000, 3"},
+        {0x64110000, 33, "put Shotbox@Register@Attribute@Auto Run#3,3,true"},
+        {0x64110000, 49, "put Shotbox@Register@Store/Recall@Recall#3"},
+        {0x64110000, 50, "put Shotbox@Register@Store/Recall@Store#3"},
+        {0x64120000, 50, "put Shotbox@Register@Lock#3,3"},
+        {0x64130000, 49, "put Shotbox@Register@Copy#3,3,5,false"},
+        {0x64140000, 49, "put Shotbox@Register@Move#3,3,5,false"},
+        {0x64150000, 49, "put Shotbox@Register@Swap#3,3,5,false"},
+    };
+    for (const auto& c : cases) {
+        Open3To5(c.page);
+        EXPECT_THAT(Puts(c.button), ElementsAre(c.command))
+            << std::hex << c.page << " " << c.button;
+    }
+}
+
+TEST_F(EffectPages, AnEffectShowsItsStateAndWhichRegionsHoldIt)
+{
+    Deliver(EFFECTS + "M/E-1", "3,S,OPENING,L,D,45");
+    Deliver(EFFECTS + "DME2", "3,S,SPIN,U,N,0");
+    Deliver(EFFECTS + "Dev1", "3,S,ROLL,U,N,0");
+    static const struct {
+        uint32_t page;
+        std::vector<std::string> cells; // from the name on
+    } cases[] = {
+        {0x62210000, {"OPENING", "L", "45", "*", "", "*", "*", "", "", ""}},
+        {0x62310000, {"", "", "", ""}},
+        {0x62610000, {"", "", "", "*", ""}},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        for (size_t i = 0; i < c.cells.size(); i++)
+            EXPECT_EQ(Cell(1, 2, int(i) + 1), c.cells[i]) << std::hex << c.page << " " << i;
+    }
+}
+
+TEST_F(EffectPages, ADissolveTakesTheTimeOfTheKnobAndALockKeepsItsOwn)
+{
+    static const struct {
+        const char* line;
+        int knob;
+        const char* value; // of the command, "" none
+    } cases[] = {
+        {"3,S,A,U,N,0", 30, "true,30"},   {"3,S,A,U,D,20", 30, "true,30"},
+        {"3,S,A,U,D,30", 30, "false,30"}, {"3,S,A,U,D,20", 0, "false,20"},
+        {"3,S,A,L,N,0", 30, ""},
+    };
+    Open3To5(0x62210000);
+    for (const auto& c : cases) {
+        Deliver(EFFECTS + "M/E-1", c.line);
+        Deliver("Effect@Effect@Attribute@Temporary Duration@M/E-1", std::to_string(c.knob));
+        Pass(10);
+        const Lines sent = Puts(BTN_EFFECT_DISSOLVE);
+        if (!*c.value)
+            EXPECT_THAT(sent, IsEmpty()) << c.line;
+        else
+            EXPECT_THAT(sent, ElementsAre("put Effect@Effect@Attribute@Effect Dissolve#"
+                                          "0000000000000002,3,3," +
+                                          std::string(c.value)))
+                << c.line;
+    }
+}
+
+TEST_F(EffectPages, AShotboxShowsWhatItLinks)
+{
+    std::string link[REGISTER_LINKS];
+    link[SS_REGION_ME1] = "1";
+    link[SS_REGION_ME2] = "S12";
+    link[SS_REGION_USER1] = link[SS_REGION_USER2] = "5";
+    link[SS_REGION_DME1] = "2";
+    link[SS_REGION_DME2] = "3";
+    std::string line = "3,INTRO,L,A";
+    for (const std::string& one : link)
+        line += "," + one;
+    Deliver(SHOTS, line);
+    Open(0x64110000);
+    const std::vector<std::string> cells = {"INTRO", "L", "On", "1", "S12", "",
+                                            "",      "",  "",   "5", "..."};
+    for (size_t i = 0; i < cells.size(); i++)
+        EXPECT_EQ(Cell(1, 2, int(i) + 1), cells[i]) << i;
+    LS_SetNowLine(1, 2);
+    LS_SetSelected(1, 2, 0, 1);
+    Pass(10);
+    EXPECT_EQ(BT_GetStatus(BTN_SHOTBOX_AUTO_RUN), BT_ON);
+    EXPECT_THAT(Puts(BTN_SHOTBOX_AUTO_RUN), IsEmpty()); // it is locked
+    EXPECT_THAT(Puts(50), IsEmpty());
+}
+
+TEST_F(EffectPages, TheOverviewCopiesEachRegionThatHoldsTheRegister)
+{
+    Deliver(EFFECTS + "M/E-1", "7,S,A,U,N,0");
+    Deliver(EFFECTS + "GPI", "7,S,B,U,N,0");
+    Open(0x62000000);
+    SendMessage(LMSG_KNOBVAR, 1, 7, 0, 0);
+    EXPECT_THAT(Puts(52), IsEmpty());
+    SendMessage(LMSG_KNOBVAR, 1, 9, 0, 0);
+    EXPECT_THAT(Puts(53), ElementsAre("put Effect@Effect@Copy/Merge@Copy#M/E-1,7,7,M/E-1,9,false",
+                                      "put Effect@Effect@Copy/Merge@Copy#GPI,7,7,GPI,9,false"));
+}
