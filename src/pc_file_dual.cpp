@@ -715,7 +715,7 @@ static int file_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     case LMSG_LISTFLASH: return list_flashed(int(ax));
     case LMSG_FMCTRLCHANGE: return frames_changed(int(bx));
     case LMSG_FOLDERNAMESENSE: return frames_changed(0);
-    case MSG_REDRAW: FileSide_Pass(); return 0;
+    case MSG_REDRAW: FileSide_Pass(int(ax)); return 0;
     case LMSG_REGISTER: (void)FileSide_Registered(int(ax), int(cx)); return 0;
     case MSG_TALLY: return take_tally(Text(ax), Text(bx));
     default: return 0;

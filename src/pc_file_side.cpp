@@ -44,6 +44,7 @@ struct Side {
 
     // Of a kind with folders. Its cells stand one after the other, in the order of their rows.
     bool has_folder_rows = false;
+    int pause_ms = 0;                       // until the list follows the catalogue again
     bool is_stale = false;                  // the catalogue has changed
     uint32_t folder_search = NOT_SEARCHING; // label of the list of folders
     int folders = 0;                        // with the default one, which is the first
@@ -315,7 +316,8 @@ static void take_store(Side& s, int first)
                               &cell.lock) != 0)
             continue;
         const char* const name = FMCtrl2_GetRegNameMulti(index);
-        cell.is_ancillary = FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx(name)) == 1;
+        cell.is_ancillary = FMCtrl_DivClipName(name, nullptr, nullptr, 0, 0) == 0 &&
+                            FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx(name)) == 1;
         add_frame(s, cell);
     }
 }
@@ -483,17 +485,23 @@ void FileSide_FramesChanged()
         s.is_stale |= s.kind && s.kind->way == FILEWAY_FRAME && !is_drive(s);
 }
 
-// A store that tells all its registers changes thousands of times a second.
-void FileSide_Pass()
+// A store that tells all its registers changes thousands of times a second, and its list takes some
+// milliseconds: one side a pass, and not in every one.
+void FileSide_Pass(int elapsed_ms)
 {
+    constexpr int PAUSE_MS = 100;
+    for (Side& s : sides)
+        s.pause_ms = std::max(0, s.pause_ms - elapsed_ms);
     for (Side& s : sides) {
-        if (!s.kind || !s.is_stale)
+        if (!s.kind || !s.is_stale || s.pause_ms > 0)
             continue;
         s.is_stale = false;
+        s.pause_ms = PAUSE_MS;
         if (has_folders(s))
             take_frames(s);
         for (int no = 0; !has_folders(s) && no < s.rows; no++)
             take_register(s, no);
+        return;
     }
 }
 
@@ -560,6 +568,7 @@ void FileSide_Open(int n, const FileKind& kind, FileMemory* memory, bool has_reg
     s.memory = memory;
     s.has_regions = has_regions;
     s.has_folder_rows = has_folder_rows;
+    s.pause_ms = 0;
     s.is_stale = false;
     s.frames = 0;
     s.rows = s.grp < FILE_GROUPS && !has_folders(s) ? std::min(RegisterNum[s.grp], FILE_ROWS) : 0;

@@ -43,7 +43,7 @@ void FileSide_SetRegions(int n);       // the region selection has changed
 void FileSide_Selected(int n);         // so has the list's: note it
 void FileSide_Touched(int n, int row); // the same by a touch of that row, which may open a folder
 void FileSide_FramesChanged();         // the frame memory's catalogue: shown at the next pass
-void FileSide_Pass();                  // MSG_REDRAW
+void FileSide_Pass(int elapsed_ms);    // MSG_REDRAW
 int FileSide_Registered(int kind, int no); // LMSG_REGISTER; 1 when a side shows it
 
 // --- For what is done with the rows ---

@@ -597,7 +597,7 @@ static int xport_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
     case LMSG_LISTFLASH: return list_touched(int(ax));
     case LMSG_FMCTRLCHANGE: return frames_changed(int(bx));
     case LMSG_FOLDERNAMESENSE: return folders_changed();
-    case MSG_REDRAW: FileSide_Pass(); return 0;
+    case MSG_REDRAW: FileSide_Pass(int(ax)); return 0;
     default: return 0;
     }
 }

@@ -98,7 +98,7 @@ inline constexpr LS_TBL ls_file_frame[] = {
 static_assert(ListsAreSound(ls_file_frame));
 
 inline constexpr LS_TBL ls_file_frame_detail[] = {
-    {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {45, 240, 122, 60},
+    {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Date"}, .width = {45, 323, 122, 60},
      .group = {3, 999}, .sb_top = 124, .sb_bottom = 388},
     LS_END,
 };
