@@ -49,6 +49,28 @@ static int duration_sel()
     return 0;
 }
 
+// --- The pages of a register ---
+
+static bool is_user()
+{
+    const int region = RegisterPage_Region();
+    return region >= SS_REGION_USER1 && region <= SS_REGION_USER8;
+}
+
+static int xpthold_sel()
+{
+    GL_CreatePage =
+        RegisterPage_Region() == SS_REGION_RTR ? PAGE_SNAPSHOT_XPTHOLD_RTR : PAGE_SNAPSHOT_XPTHOLD;
+    return 0;
+}
+
+static int clip_sel()
+{
+    if (is_user())
+        GL_CreatePage = PAGE_SNAPSHOT_CLIP;
+    return 0;
+}
+
 static void attribute_shown()
 {
     const RegisterLine& line = RegisterPage_Line();
@@ -56,6 +78,7 @@ static void attribute_shown()
     (void)BT_SetStatus(BTN_SNAPSHOT_EFFDISS, *line.effdiss ? BT_ON : BT_OFF);
     (void)BT_SetStatus(BTN_SNAPSHOT_AUTOTRANS, *line.autotrans ? BT_ON : BT_OFF);
     (void)BT_SetStatus(BTN_SNAPSHOT_GPI, *line.gpi ? BT_ON : BT_OFF);
+    BT_SetDisable(BTN_SNAPSHOT_CLIP, !is_user());
 }
 
 static void attribute_open(int on)
@@ -70,6 +93,8 @@ static constexpr RegisterTouch attribute_touches[] = {
     {"Attribute@Auto Transition", autotrans_sel},
     {"Attribute@GPI Output", gpi_sel},
     {"Attribute@Duration", duration_sel},
+    {"Attribute@Xpt Hold", xpthold_sel},
+    {"Attribute@Frame Memory", clip_sel},
     {nullptr, nullptr},
 };
 const RegisterExtra snapshot_extra = {.kind = REGKIND_SNAPSHOT,

@@ -30,6 +30,8 @@ inline constexpr BT_TBL bt_snapshot_attribute[] = {
     Toggle(   {.id = BTN_SNAPSHOT_AUTOTRANS, .caption = "Auto\nTransition",    .cmd = SS_ATTRIBUTE("Auto Transition#*")}),
     Toggle(   {.id = BTN_SNAPSHOT_GPI,       .caption = "GPI\nOutput",         .cmd = SS_ATTRIBUTE("GPI Output#*")}),
     Action(   {.id = BTN_SNAPSHOT_DURATION,  .caption = "Set\nDuration",       .cmd = SS_ATTRIBUTE("Duration")}),
+    Jump(     {.id = BTN_SNAPSHOT_XPTHOLD,   .caption = "Xpt Hold",            .cmd = SS_ATTRIBUTE("Xpt Hold")}),
+    Jump(     {.id = BTN_SNAPSHOT_CLIP,      .caption = "Clip\nAuto Play",     .cmd = SS_ATTRIBUTE("Frame Memory")}),
     REG_REGION(SS, "Attribute"), REG_RECALL(SS, "Attribute"),
     Action(   {.id = 51, .caption = "Store", .cmd = SS_ATTRIBUTE("Store")}),
     BT_END,
@@ -100,7 +102,56 @@ inline constexpr BT_TBL bt_snapshot_status[] = REG_STATUS_KEYS(SS);
 static_assert(ButtonsAreSound(bt_snapshot_status));
 inline constexpr BT_TBL bt_master_snapshot_edit[] = REG_EDIT_KEYS(SS "Master Snapshot@Store/Recall@Edit@");
 static_assert(ButtonsAreSound(bt_master_snapshot_edit));
+
+// --- The pages of a register ---
+
+#define XPT_HOLD(word) {SS "Attribute@Xpt Hold@" word}
+#define XPT_HOLD_KEYS                                                                                                  \
+    Radio({.id = 49, .caption = "Hold", .group = "Xpt Hold", .cmd = XPT_HOLD("Xpt Hold#ON")}),                         \
+    Radio({.id = 50, .caption = "Release", .group = "Xpt Hold", .cmd = XPT_HOLD("Xpt Hold#OFF")})
+inline constexpr BT_TBL bt_snapshot_xpthold[] = {XPT_HOLD_KEYS, BT_END};
+inline constexpr BT_TBL bt_snapshot_xpthold_rtr[] = {
+    XPT_HOLD_KEYS,
+    JumpPopUp({.id = 52, .caption = "Level", .cmd = XPT_HOLD("Level")}),
+    BT_END,
+};
+#undef XPT_HOLD_KEYS
+#undef XPT_HOLD
+inline constexpr BT_TBL bt_snapshot_clip[] = {
+    Toggle({.id = BTN_CLIP_AUTO_PLAY, .caption = "Auto Play", .group = "Clip", .cmd = {SS "Attribute@Frame Memory@Auto Play#*"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_snapshot_xpthold) && ButtonsAreSound(bt_snapshot_xpthold_rtr) && ButtonsAreSound(bt_snapshot_clip));
+
+inline constexpr LS_TBL ls_snapshot_xpthold[] = {
+    {.id = 1, .hn = 2, .vn = 12, .x = 100, .y = 78, .head = {"Bus", "Xpt Hold"}, .width = {352, 200}, .group = {1, 1},
+     .sb_top = 78, .sb_bottom = 364},
+    LS_END,
+};
+inline constexpr LS_TBL ls_snapshot_xpthold_rtr[] = {
+    {.id = 1, .hn = 9, .vn = 12, .x = 100, .y = 78,
+     .head = {"Destination", "Level 1", "2", "3", "4", "5", "6", "7", "8"},
+     .width = {137, 58, 51, 51, 51, 51, 51, 51, 51}, .group = {1, 1, 1, 1, 1, 1, 1, 1, 1}, .sb_top = 78, .sb_bottom = 364},
+    LS_END,
+};
+inline constexpr LS_TBL ls_snapshot_clip[] = {
+    {.id = 1, .hn = 6, .vn = 12, .x = 100, .y = 78, .head = {"FM", "Auto Play", "Name", "Loop", "Start", "Stop"},
+     .width = {52, 80, 166, 50, 102, 102}, .group = {1, 1, 1, 1, 1, 1}, .sb_top = 78, .sb_bottom = 364},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_snapshot_xpthold) && ListsAreSound(ls_snapshot_xpthold_rtr) && ListsAreSound(ls_snapshot_clip));
+
+constexpr PAGE SnapshotSubPage(uint32_t id, const char* word, const BT_TBL* keys, const LS_TBL* list, _pageobject code)
+{
+    return {.id = id, .tree = {"Snapshot", "Snapshot", "Attribute", word},
+            .obj = {Base(base_sub, PAGE_SNAPSHOT_ATTRIBUTE), LeftTabs(vf_snapshot, 2), BottomTabs(hf_snapshot_snapshot, 1),
+                    Buttons(keys), Lists(list), code}};
+}
+
 inline constexpr PAGE snapshot_sub_pages[] = {
+    SnapshotSubPage(PAGE_SNAPSHOT_XPTHOLD, "Xpt Hold", bt_snapshot_xpthold, ls_snapshot_xpthold, Code(pc_snapshot_xpthold, 0)),
+    SnapshotSubPage(PAGE_SNAPSHOT_XPTHOLD_RTR, "Xpt Hold", bt_snapshot_xpthold_rtr, ls_snapshot_xpthold_rtr, Code(pc_snapshot_xpthold, 1)),
+    SnapshotSubPage(PAGE_SNAPSHOT_CLIP, "Clip Auto Play", bt_snapshot_clip, ls_snapshot_clip, Code(pc_snapshot_clip)),
     RegisterEditPage(snapshot_groups_of_pages[0], bt_master_snapshot_edit),
     RegisterStatusPage(0x63000000, "Snapshot", REGKIND_SNAPSHOT, vf_snapshot, 7, bt_snapshot_status),
 };
