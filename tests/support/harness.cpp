@@ -29,6 +29,7 @@
 #include "pc_file_all.h"
 #include "pc_file_dual.h"
 #include "pc_register.h"
+#include "register.h"
 #include "saver.h"
 #include "scrollbar.h"
 #include "setup_index.h"
@@ -187,6 +188,7 @@ void Harness_Reset()
     File_Reset();
     FileDual_Reset();
     FileAll_Reset();
+    Register_Free();
     RegisterPages_Reset();
     File_DirReset();
     File_ReplaceSync([] { return 0; }); // a job of a test does not wait for the host's drives
