@@ -257,8 +257,6 @@ static void exec_jobs()
 {
     close_preparing();
     run.stage = ALL_JOBS;
-    if (run.is_ftp)
-        (void)BkgdFileTransfer_Set(0, 1);
     if (all_list && ways[run.way].registers(&all_list, registers_result, 0) >= 0) {
         show_in_background();
         return;
@@ -579,6 +577,7 @@ static int begin_ftp(WAY way, const FILESIDE& from, const FILESIDE& to)
     AllLoadCount = 0;
     for (int row = 0; row < ALL_CATEGORIES; row++)
         run.chosen[row] = true;
+    (void)BkgdFileTransfer_Set(0, 1); // from now on, so that no page begins beside it
     return 0;
 }
 

@@ -318,7 +318,8 @@ static void delete_namesake(const Frame& f)
 {
     const int index = FMCtrl2_GetRegIndex(f.name);
     const int target = f.number - 1 + (f.is_extended ? FMEM_EXTENDED : 0);
-    if (index >= 0 && index != target)
+    // Where both stores have the name, a deletion would take both.
+    if (index >= 0 && index != target && strcmp(FMCtrl2_GetRegNameMulti(target), f.name) != 0)
         Net_SendCommandFormat("put Frame Mem@File@Delete Thumbnail@Single#%s", f.name);
 }
 
