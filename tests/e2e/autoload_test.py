@@ -53,9 +53,9 @@ class AutoLoad(DeskCase):
         desk.console(f"set {LOCK}#04000000")  # snapshots
         desk.wire()
         desk.console("autoload")
-        lines = desk.wait_wire(START + "SWR1#false", 20)
+        lines = desk.wait_wire(START + "SWR1#false", 40)
         notice = desk.part(200, 150, 600, 400)
-        lines += desk.wait_wire(EXIST + "DME4#false", 20)
+        lines += desk.wait_wire(EXIST + "DME4#false", 40)
         answers = [line[4:] for line in lines if line.startswith("put Info@Auto Load@")]
         for unit, has in (("PNL", 1), ("SWR1", 1), ("SWR2", 0), ("DME1", 1), ("DME2", 0)):
             exist, start = "Info@Auto Load@Data Exist@" + unit, "Info@Auto Load@Start@" + unit
@@ -77,7 +77,7 @@ class AutoLoad(DeskCase):
         self.lay("FRAMEMEM/SWR000D001/Mold.FMEM_012.SFM", picture("Mold"))
         desk.wire()
         desk.console("autoload")
-        lines = desk.wait_wire(EXIST + "DME4#false", 30)
+        lines = desk.wait_wire(EXIST + "DME4#false", 40)
         self.assertTrue(any("PutV3" in line and line.endswith(":FMEM_012.SFM") for line in lines), lines)
         self.assertFalse(any("FMEMFOL" in line for line in lines))
         self.assertIn(START + "SWR1#false", lines)

@@ -1,4 +1,6 @@
 """A hand on the objects of a page: knobs, boxes, ten keys, tabs, cells and windows, up to what the server holds."""
+import os
+import re
 import time
 import unittest
 
@@ -72,6 +74,50 @@ class Objects(DeskCase):
         self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [f"put {CHROMA}Gain#-42.50"])
         self.assertEqual(self.desk.value(CHROMA + "Gain"), "-42.50")
         self.assertNotEqual(self.desk.part(*slot(2)), shown)
+
+    def changed(self, area, *before):
+        """The area once it is still, and unlike it was."""
+        last = None
+        for _ in range(30):
+            time.sleep(0.15)
+            now = self.desk.part(*area)
+            if now == last and now not in before:
+                return now
+            last = now
+        self.fail("nothing has changed")
+
+    def test_06_a_file_list_goes_down_and_up_and_tells_of_a_stick_that_is_gone(self):
+        desk = self.desk
+        folder = os.path.join(desk.root, "mnt/usb/usb1/NEWS")
+        os.makedirs(os.path.join(folder, "run.SFH"))
+        for number in range(3):
+            with open(os.path.join(folder, "run.SFH", f"run#{number:06d}.SFH"), "wb") as out:
+                out.write(bytes(64))
+        right = (404, 78, 650, 342)
+        before = desk.part(*right)
+        desk.console("page 9992.000B")
+        store = self.changed(right, before)
+        desk.touch(*grid(36))  # the next device: the local drive
+        local = self.changed(right, store)
+        desk.touch(*grid(36))
+        top = self.changed(right, store, local)
+        desk.touch(450, 111)  # the first row
+        chosen = self.changed(right, top)
+        desk.touch(*grid(38))
+        below = self.changed(right, chosen)
+        lines = desk.wire()
+        self.assertTrue(any(re.search("ListDir#L[0-9]+,MYHOST:/mnt/usb/usb1/NEWS$", line) for line in lines), lines)
+        desk.touch(*grid(37))
+        top = self.changed(right, below)
+        desk.console("stick out")
+        desk.touch(450, 111)
+        chosen = self.changed(right, top)
+        desk.touch(*grid(38))
+        gone = self.changed(right, chosen)
+        self.assertNotEqual(gone, below)
+        desk.console("stick in")
+        desk.touch(*grid(37))
+        self.changed(right, gone)
 
     def test_99_nothing_was_missing(self):
         self.assertIsNone(self.desk.app_status())
