@@ -465,7 +465,6 @@ static void take_items(int dev)
 // A picture lies in its folder on the drive; on the unit it is moved into the one of that name.
 static void place_picture(const FILEXFERLIST* item)
 {
-    constexpr int ADDRESSES = 16; // of a switcher's processors, in front of a path
     const char* const dir = strstr(item->src, FOLDER_DIR);
     const char* const file = strrchr(item->src, '/');
     const char* const ext = strrchr(item->src, '.');
@@ -481,8 +480,7 @@ static void place_picture(const FILEXFERLIST* item)
     if (id < 0 || id >= FOLDER_MAX)
         return;
     strncpy_secu(name, file + 1, sizeof name, strcspn(file + 1, "."));
-    Net_SendCommandFormat("put %d@Frame Mem@Folder@Move Still#0,%s,%d",
-                          ADDRESSES * Device_UnitNumber(*DEV_MySwr[swr]), name, id);
+    FMCtrl_MoveStill(DEV_MySwr[swr], name, id);
 }
 
 static void end_load()

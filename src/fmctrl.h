@@ -19,6 +19,7 @@ constexpr int FMEM_NAME_SIZE = 12; // "M" or "S", 8 characters, the terminator
 
 struct STILL;
 struct CLIP;
+struct DEVICE;
 
 struct FMEMREG {
     int store = 0; // 1 stored
@@ -175,6 +176,10 @@ int FMCtrl_GetFolderStillNum(int folder_id);    // stills that are no frame of a
 int FMCtrl_GetFolderAllStillNum(int folder_id); // with the frames
 int FMCtrl_GetFolderClipNum(int folder_id);
 int FMCtrl_GetFolderExtClipNum(int folder_id); // those with frames in the extended store
+
+// Ask for a register of that name, prefix and all, to be put into a folder; without an own switcher
+// nothing. The tally tells when it is there.
+void FMCtrl_MoveStill(const DEVICE* switcher, const char* name, int folder_id);
 
 // --- Thumbnails ---
 

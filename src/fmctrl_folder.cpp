@@ -1,4 +1,5 @@
 #include "bus.h"
+#include "device.h"
 #include "fmctrl_private.h"
 #include "log.h"
 #include "message.h"
@@ -173,6 +174,14 @@ static const FOLDER* folder_of_name(const char* name)
 int FMCtrl_ExistFolderName(const char* name)
 {
     return folder_of_name(name) != nullptr;
+}
+
+void FMCtrl_MoveStill(const DEVICE* switcher, const char* name, int folder_id)
+{
+    constexpr int ADDRESSES = 16; // of a switcher: the second one has twice the first one's
+    if (switcher && *name)
+        Net_SendCommandFormat("put %d@Frame Mem@Folder@Move Still#0,%s,%d",
+                              ADDRESSES * Device_UnitNumber(*switcher), name, folder_id);
 }
 
 int fm_folder_named(const char* name)

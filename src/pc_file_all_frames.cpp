@@ -341,12 +341,9 @@ void AllFrames_Prepare(const FILEXFERLIST* list)
 
 void AllFrames_Place(const FILEXFERLIST* list)
 {
-    constexpr int CLASS_SWITCHERS = 16; // device number of the first one's frame memory
     for (const FILEXFERLIST* item = list; item && SYS_FmemV6; item = item->next) {
         Frame f;
         if (item->status == FILESTATUS_OK && read_path(item->src, &f))
-            Net_SendCommandFormat("put %d@Frame Mem@Folder@Move Still#0,%s,%d",
-                                  CLASS_SWITCHERS * Device_UnitNumber(*switcher()), f.name,
-                                  folder_id(f.folder));
+            FMCtrl_MoveStill(switcher(), f.name, folder_id(f.folder));
     }
 }

@@ -28,7 +28,6 @@ namespace
 enum : int { SIDE_A = 0, SIDE_B = 1, SIDE_C = 0 }; // C has its page to itself
 constexpr int CAPTION_SIZE = 40;
 constexpr char FRAME_TITLE[] = "File Frame Memory";
-constexpr char MOVE_STILL[] = "put %d@Frame Mem@Folder@Move Still#0,%s,%d";
 
 // Of a kind: outlives the page.
 struct Visits {
@@ -231,14 +230,6 @@ static int first_row(int side)
     return row >= 0 ? row : LS_GetNowLine(list_of(side));
 }
 
-static void move_still(const char* name, int folder_id)
-{
-    constexpr int FIRST_SWITCHER = 16; // twice that the second
-    if (DEV_MySwr[0] && *name)
-        Net_SendCommandFormat(MOVE_STILL, FIRST_SWITCHER * Device_UnitNumber(*DEV_MySwr[0]), name,
-                              folder_id);
-}
-
 // What was loaded stands in the default folder: "SWR001D001:Mlogo.FMEM_001.SFM".
 static void move_loaded(const FILEXFERLIST* list, int folder_id)
 {
@@ -251,7 +242,7 @@ static void move_loaded(const FILEXFERLIST* list, int folder_id)
         for (int dots = 0; dots < 2; dots++)
             if (char* const dot = strrchr(name, '.'))
                 *dot = '\0';
-        move_still(name, folder_id);
+        FMCtrl_MoveStill(DEV_MySwr[0], name, folder_id);
     }
 }
 
@@ -407,7 +398,7 @@ static int move_selected(int from, int to)
     for (int i = 0, no; (no = LS_GetSelected(list_of(from), i)) >= 0; i++) {
         const FILELIST* const row = FileSide_Row(from, no);
         if (row && row->cell && FileSide_InView(*row->cell))
-            move_still(FMCtrl2_GetRegNameMulti(row->cell->no), folder_id);
+            FMCtrl_MoveStill(DEV_MySwr[0], FMCtrl2_GetRegNameMulti(row->cell->no), folder_id);
     }
     return 0;
 }

@@ -7,7 +7,6 @@
 #include "global.h"
 #include "memory.h"
 #include "message.h"
-#include "netio.h"
 #include "pane.h"
 #include "pc_file_side.h"
 #include "tally_value.h"
@@ -293,14 +292,11 @@ static void folder_chosen(int id)
 
 static void move_to_folder(const FILEXFERLIST* item, int folder_id)
 {
-    constexpr int FIRST_SWITCHER = 16; // twice that the second
     char name[FMEM_NAME_SIZE];
     Xport_RegisterName(name, item->src);
     for (const int number : item->import_no) {
-        if (number > 0 && DEV_MySwr[0])
-            Net_SendCommandFormat("put %d@Frame Mem@Folder@Move Still#0,%s,%d",
-                                  FIRST_SWITCHER * Device_UnitNumber(*DEV_MySwr[0]), name,
-                                  folder_id);
+        if (number > 0)
+            FMCtrl_MoveStill(DEV_MySwr[0], name, folder_id);
         name[0] = name[0] == 'M' ? 'S' : 'M'; // the key of the picture
     }
 }
