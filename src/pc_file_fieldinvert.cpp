@@ -73,7 +73,7 @@ int File_ReadFrameRow(const char* text, const char* dir, FILELIST_FI* row)
 {
     constexpr int FIELDS = 7;
     char copy[CMD_SIZE];
-    char* field[FIELDS];
+    char* field[FIELDS] = {};
     CopyText(copy, text);
     int n = 0;
     for (char* p = copy; p && n < FIELDS; n++) {

@@ -232,7 +232,7 @@ static void list_side(int side)
 
 static void enable_copy()
 {
-    int number[TARGETS];
+    int number[TARGETS] = {};
     const FILESIDE& to = visit().side[SIDE_B];
     BT_SetDisable(BTN_IDCOPY_COPY, targets(number) == 0 || File_DirIsProtected(to.device, to.dir));
 }
@@ -254,7 +254,7 @@ static void print_id(char (&caption)[CAPTION_SIZE], int number)
 
 static void show_ids()
 {
-    int number[TARGETS];
+    int number[TARGETS] = {};
     const int n = targets(number);
     print_id(ic.from_caption, source().number);
     if (n == 1)
@@ -369,7 +369,7 @@ static void clear_target()
 static void add_file(const char* below, const char* unit)
 {
     char from[PATH_SIZE], to[PATH_SIZE], src[PATH_SIZE], dst[PATH_SIZE], digits[DIGITS + 1];
-    int number[TARGETS];
+    int number[TARGETS] = {};
     const int n = targets(number);
     if (!dir_of(SIDE_A, from) || !dir_of(SIDE_B, to) ||
         PrintText(src, "%s%s", from, below) >= PATH_SIZE ||

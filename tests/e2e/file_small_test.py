@@ -45,7 +45,7 @@ class SmallPages(DeskCase):
         except FileNotFoundError:
             return None
 
-    def wait(self, is_there, timeout=5.0):
+    def wait(self, is_there, timeout=12.0):
         end = time.monotonic() + timeout
         while not is_there():
             self.assertLess(time.monotonic(), end)
@@ -89,7 +89,26 @@ class SmallPages(DeskCase):
         self.assertEqual(self.content(path)[8], 1)  # inverted, says the header
         self.assertNotEqual(self.desk.part(610, 146, 648, 167), before)
 
-    def test_3_a_server_that_goes_ends_the_job_in_view(self):
+    def test_3_a_transfer_bars_the_other_pages_until_it_ends(self):
+        desk = self.desk
+        desk.console("slow 300")
+        self.open_file_page("7121", "put File@Access@Find#")
+        desk.touch(200, 157)
+        desk.touch(290, 478)  # L to R
+        time.sleep(0.5)
+        desk.console("page 7132")
+        time.sleep(0.8)
+        self.assertNotIn("put File@Access@Find#", "".join(desk.wire()))
+        barred = desk.part(*TEXT_WELL)
+        desk.touch(*OK_KEY)
+        self.assertNotEqual(desk.part(*TEXT_WELL), barred)
+        desk.touch(45, 170)  # the tab of the transfer's page: its pane is back
+        time.sleep(0.5)
+        desk.touch(*OK_KEY)  # "Cancel"
+        desk.console("slow 1")
+        self.open_file_page("7132", "put File@Access@Find#")
+
+    def test_4_a_server_that_goes_ends_the_job_in_view(self):
         desk = self.desk
         desk.console("slow 100")
         self.open_file_page("7172", "put File@Access@Find#")
