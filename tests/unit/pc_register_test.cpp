@@ -1,18 +1,74 @@
 // The pages of the stored registers: what goes over the wire for every kind and every key, and what
 // the lists show of the mirror.
+#include "a_bt.h"
 #include "a_ls.h"
 #include "pane.h"
+#include "pane_private.h"
 #include "pc_register.h"
+#include "pc_snapshot.h"
 #include "pc_snapshot_hold.h"
+#include "register_region.h"
 #include "table_page.h"
 #include "window.h"
 #include <cstring>
 
 namespace
 {
+const std::string LIST = "Snapshot@Snapshot@Attribute@";
+
 struct RegisterPages : TablePage {
+    void TearDown() override
+    {
+        Choose(REGKIND_SNAPSHOT, {257});
+        Choose(REGKIND_KEYSS, {512});
+        TablePage::TearDown();
+    }
     // The lines of a press but for what the page merely follows.
-    static Lines Puts(int id) { return TablePage::Puts(Press(id)); }
+    static Lines Puts(int id)
+    {
+        Pass(200); // the key is up again
+        return TablePage::Puts(Press(id));
+    }
+    // Regions by id; the first is the reference.
+    static void Choose(REGKIND kind, const std::vector<int>& ids)
+    {
+        const REGIONBTN& g = RegionBtn[register_kinds[kind].group()];
+        for (int i = 0; i < g.cells; i++) {
+            const auto at = std::ranges::find(ids, g.btnsel[i].id);
+            g.btnsel[i].select = at == ids.end() ? 0 : at == ids.begin() ? 2 : 1;
+        }
+    }
+    // A line of a snapshot, behind its number.
+    static void Store(const std::string& region, int no, const std::string& rest)
+    {
+        (void)Tell(LIST + region + "@List#" + std::to_string(no) + "," + rest);
+    }
+    static void Cursor(int list, int row)
+    {
+        LS_SetNowLine(list, row);
+        LS_SetSelected(list, row, 0, 1);
+        Pass(10);
+    }
+    static void SelectRows(const std::vector<int>& rows)
+    {
+        LS_SetMS(1, 1);
+        LS_SetALL(1, 0);
+        for (const int row : rows)
+            LS_SetSelected(1, row, 0, 1);
+    }
+    static std::string Cell(int list, int row, int column)
+    {
+        const char* const text = LS_GetData(list, row, column);
+        return text ? text : "";
+    }
+    // What the answer to the open window sends.
+    static Lines Answer()
+    {
+        (void)TakeQueuedCommands();
+        Window_ReserveQuit(0);
+        Pass(10);
+        return TakeQueuedCommands();
+    }
 };
 } // namespace
 
@@ -59,4 +115,334 @@ TEST_F(RegisterPages, EveryKeyOfEveryKindSendsItsCommand)
             EXPECT_THAT(sent, ElementsAre(c.command)) << std::hex << c.page << " " << c.button;
         }
     }
+}
+
+// Figures of the server's documents, not of our tables.
+TEST(RegisterRegions, BitsAndIds)
+{
+    static const struct {
+        int row;
+        int id;
+        uint64_t snapshot, effect;
+    } cases[] = {
+        {0, 257, 0x2, 0x2},
+        {1, 258, 0x4, 0x4},
+        {2, 259, 0x8, 0x8},
+        {3, 264, 0x10, 0x4000000000000},
+        {4, 266, 0x20, 0x10000000000000},
+        {5, 256, 0x1, 0x1},
+        {6, 261, 0x1000000, 0x400000000000},
+        {7, 262, 0x2000000, 0x800000000000},
+        {8, 263, 0x4000000, 0x1000000000000},
+        {9, 265, 0x8000000, 0x8000000000000},
+        {10, 267, 0x10000000, 0x20000000000000},
+        {11, 260, 0x800000, 0x200000000000},
+        {12, 272, 0x40, 0x10},
+        {19, 279, 0x2000, 0x800},
+        {20, 288, 0x4000, 0x101000},
+        {27, 295, 0x200000, 0x8080000},
+        {28, 304, 0, 0x10000000},
+        {31, 307, 0, 0x80000000},
+        {32, 308, 0, 0x100000000},
+        {39, 315, 0, 0x8000000000},
+        {40, 320, 0, 0x10000000000},
+        {41, 336, 0, 0x20000000000},
+        {42, 368, 0, 0x2000000000000},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(EffectRegion[size_t(c.row)].bitmap, c.effect) << c.row;
+        EXPECT_EQ(EffectRegion[size_t(c.row)].id, c.id) << c.row;
+        if (c.snapshot) {
+            EXPECT_EQ(SnapshotRegion[size_t(c.row)].bitmap, c.snapshot) << c.row;
+        }
+    }
+    EXPECT_EQ(SnapshotRegion[28].bitmap, 0x400000u);
+    EXPECT_EQ(SnapshotRegion[28].id, 352);
+    EXPECT_EQ(KeySSRegion[47].bitmap, uint64_t(1) << 47);
+    uint64_t seen = 0; // no two regions share a bit
+    for (const EFFREGION* r = EffectRegion.data(); r->id; seen |= r++->bitmap)
+        EXPECT_EQ(seen & r->bitmap, 0u) << r->cmd;
+}
+
+TEST_F(RegisterPages, HoldGoesToMarksAndBack)
+{
+    const std::string full_router(256, 'F');
+    static const struct {
+        int region;
+        std::string text, shown, back, flag;
+        void (*system)() = [] {};
+    } cases[] = {
+        {0, "U1AB12", " A B 1 2 U1", "AB12U1", " x"},
+        {0, "U112D2", " 1 2 U1 D2", "12U1D2", " x"}, // the digits of marks are no keys
+        {0, "", "", "", ""},
+        {5, "zz9\x01?", "", "", ""},
+        {0, "AB12345678U1U2U3", " A B 1 2 3 4 5 6 7 8 U1 U2 U3", "AB12345678U1U2U3", " X"},
+        {0, "AB1234567U1U2U3", " A B 1 2 3 4 5 6 7 U1 U2 U3", "AB1234567U1U2U3", " x"},
+        {0, "AB1234U1U2U3", " A B 1 2 3 4 U1 U2 U3", "AB1234U1U2U3", " X",
+         [] { GL_KeyMax[0] = 4; }},
+        {0, "AB123U1U2U3", " A B 1 2 3 U1 U2 U3", "AB123U1U2U3", " x", [] { GL_KeyMax[0] = 4; }},
+        {0, "A5U1", " A U", "A5U1", " x",
+         [] {
+             SYS_RefPnlType = DEVTYPE_QRD33;
+             SYS_RefSwrType = DEVTYPE_NTR40;
+             GL_KeyMax[0] = 4;
+         }},
+        {0, "AB12345678U1U2U3D2", " A B 1 2 3 4 5 6 7 8 U U2 U3 D2", "AB12345678U1U2U3D2", " x",
+         [] { SYS_RefPnlType = DEVTYPE_QRD33; }}, // exactly 13 there
+        {6, "AB12345678U1U2U3", " 1 2 3 4 5 6 7 8 U1 U2 U3", "12345678U1U2U3", " X"},
+        {6, "AB1234U1U2U3", " 1 2 3 4 U1 U2 U3", "1234U1U2U3", " X", [] { GL_KeyMax[0] = 4; }},
+        {12, "000000010000", " Aux", "0000000100000000", " x"},
+        {12, "FFFFFFFF0000FFFF", " Aux", "FFFFFFFF0000FFFF", " X"},
+        {12, "0000000000010000", "", "0000000000010000", " x"}, // behind the aux buses
+        {20, "FvFkBvBk", " Fv Fk Bv Bk", "FvFkBvBk", " X"},
+        {20, "false", "", "false", ""},
+        {28, "80", " RTR", "80" + std::string(254, '0'), " x"},
+        {28, full_router, " RTR", full_router, " X"},
+        {28, full_router.substr(1) + "7", " RTR", full_router.substr(1) + "7", " x"},
+        {29, "A", "", "", ""},
+    };
+    const int panel = SYS_RefPnlType, switcher = SYS_RefSwrType, keys = GL_KeyMax[0];
+    for (const auto& c : cases) {
+        char flags[HOLD_MARKS_MAX] = {};
+        char text[HOLD_TEXT_SIZE], shown[64];
+        c.system();
+        (void)snapshot_xpthold_set(c.region, c.text.c_str(), flags);
+        snapshot_xpthold_text(c.region, flags, text, sizeof text);
+        snapshot_xpthold_display(c.region, c.text.c_str(), shown, sizeof shown);
+        EXPECT_EQ(text, c.back) << c.text;
+        EXPECT_EQ(shown, c.shown) << c.text;
+        EXPECT_EQ(snapshot_xpthold_flag(c.region, c.text.c_str()), c.flag) << c.text;
+        SYS_RefPnlType = panel;
+        SYS_RefSwrType = switcher;
+        GL_KeyMax[0] = keys;
+    }
+}
+
+// Field by field: status, hold, dissolve, transition, GPI.
+TEST_F(RegisterPages, ALineShowsItsAttributesInItsRegionOnly)
+{
+    Open(0x63210000);
+    Store("M/E-1", 3, "OPENING LONG,L,AB,30,n,1");
+    Store("M/E-2", 4, "ELSEWHERE,S,,n,n,n");
+    Store("M/E-1", 100, "TOO FAR,S,,n,n,n");
+    const Lines row = {"3", "OPENING LON", "L", " A B", "30", "", ""};
+    for (int col = 0; col < int(row.size()); col++)
+        EXPECT_EQ(Cell(1, 2, col), row[size_t(col)]) << col;
+    EXPECT_EQ(Cell(1, 3, 1), "");
+    EXPECT_EQ(LS_GetStatus(1, 2, 0), 0);
+    EXPECT_EQ(LS_GetStatus(1, 3, 0), 1); // grey
+    Open(0x63230000);
+    EXPECT_EQ(Cell(1, 2, 3), " x D G");
+    Choose(REGKIND_SNAPSHOT, {272});
+    (void)Tell("Snapshot@Snapshot@Clip Event@User1@List#FM5,7,ON,ON,OFF,CLIP,0,10");
+    Store("User1", 7, "WITH CLIP,S,,n,n,n");
+    Open(0x63210000);
+    EXPECT_EQ(Cell(1, 6, 6), "On");
+    (void)Tell("Snapshot@Snapshot@Clip Event@User1@List#FM5,7,ON,OFF,OFF,CLIP,0,10");
+    EXPECT_EQ(Cell(1, 6, 6), "");
+}
+
+TEST_F(RegisterPages, OperationsGoToAllSelectedRegionsInRuns)
+{
+    Choose(REGKIND_SNAPSHOT, {258, 257, 352});
+    Store("M/E-2", 4, "LOCKED,L,,n,n,n");
+    Open(0x63260000); // delete; the locked one stays
+    SelectRows({1, 2, 3, 4, 8});
+    (void)Press(51);
+    EXPECT_THAT(Answer(), ElementsAre("put Snapshot@Snapshot@Delete#400006,2,3",
+                                      "put Snapshot@Snapshot@Delete#400006,5,5",
+                                      "put Snapshot@Snapshot@Delete#400006,9,9"));
+    Open(0x63220000); // the register at the cursor says which way
+    Cursor(1, 3);
+    EXPECT_THAT(Puts(51), ElementsAre("put Snapshot@Snapshot@UnLock#400006,4,4"));
+    Open(0x63270000);
+    Cursor(1, 3);
+    (void)Press(51); // locked: no window
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
+    Store("M/E-2", 4, "FREE,S,,n,n,n");
+    (void)Puts(51);
+    EXPECT_THAT(Answer(), ElementsAre("put Snapshot@Snapshot@Rename#400006,4,FREE"));
+}
+
+TEST_F(RegisterPages, RunsKeepTheirGapsAndStayInTheList)
+{
+    Choose(REGKIND_SNAPSHOT, {257});
+    Open(0x63230000);
+    SelectRows({0, 1, 4});
+    Cursor(2, 95);
+    (void)Press(BTN_REGISTER_WO_NAME);
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Copy#2,1,2,2,96,true"));
+    Cursor(2, 94);
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Copy#2,1,2,2,95,true",
+                                      "put Snapshot@Snapshot@Copy#2,5,5,2,99,true"));
+    Store("M/E-1", 96, "LOCKED,L,,n,n,n");
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Copy#2,1,1,2,95,true",
+                                      "put Snapshot@Snapshot@Copy#2,5,5,2,99,true"));
+    Cursor(2, 0); // onto itself
+    EXPECT_THAT(Puts(49), IsEmpty());
+    EXPECT_THAT(Puts(BTN_REGISTER_WO_NAME), IsEmpty());
+    EXPECT_THAT(Tell("Snapshot@Snapshot@Copy@MP2 Auto Correct#true"), IsEmpty());
+    EXPECT_THAT(Puts(BTN_REGISTER_AUTO_CORRECT),
+                ElementsAre("put Snapshot@Snapshot@Copy@MP2 Auto Correct#false"));
+}
+
+TEST_F(RegisterPages, OneRegionMayGoToAnotherOfItsSort)
+{
+    Choose(REGKIND_SNAPSHOT, {257});
+    Store("P/P", 6, "TARGET,S,,n,n,n");
+    Open(0x63230000);
+    const auto go_to = [](int id) {
+        (void)Press(BTN_REGISTER_REGION_2);
+        SendMessage(LMSG_PANEQUIT, Pane_GetActiveID(), id, 0, 0);
+        Pane_Quit(Pane_GetActiveID());
+    };
+    go_to(256);
+    Cursor(2, 5);
+    EXPECT_EQ(Cell(2, 5, 1), "TARGET");
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Copy#2,1,1,1,6,false"));
+    go_to(272); // a user is of another sort
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Copy#2,1,1,1,6,false"));
+    Choose(REGKIND_SNAPSHOT, {257, 258}); // several go to themselves
+    Open(0x63230000);
+    Cursor(2, 5);
+    EXPECT_EQ(BT_GetVisible(BTN_REGISTER_REGION_2), BT_DISABLED);
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Copy#6,1,1,6,6,false"));
+}
+
+TEST_F(RegisterPages, TheHoldPageWritesWhatItsRowsSay)
+{
+    static const struct {
+        int id, row;
+        const char* region;
+        const char* line;
+        int levels; // of the router
+        const char* sent;
+    } cases[] = {
+        {257, 2, "M/E-1", "1,A,S,B2,n,n,n", 0, "2,1,1,B12"},
+        {257, 10, "M/E-1", "1,A,S,B2,n,n,n", 0, "2,1,1,B2U1"},
+        {261, 0, "M/E-1 Sub", "1,A,S,2,n,n,n", 0, "1000000,1,1,12"},
+        {272, 33, "User1", "1,A,S,00000001,n,n,n", 0, "40,1,1,0000000100000002"},
+        {288, 0, "DME1", "1,A,S,false,n,n,n", 0, "4000,1,1,FvFkBvBk"},
+        {352, 1, "RTR", "1,A,S,,n,n,n", 0x81, "400000,1,1,0081"},
+        {257, 2, "M/E-1", "1,A,L,B2,n,n,n", 0, ""}, // locked
+    };
+    for (const auto& c : cases) {
+        Choose(REGKIND_SNAPSHOT, {c.id});
+        (void)Tell(LIST + c.region + "@List#" + c.line);
+        Open(PAGE_SNAPSHOT_ATTRIBUTE);
+        Cursor(1, 0);
+        PaneRTRLvl_SetSelect(c.levels);
+        (void)Press(BTN_SNAPSHOT_XPTHOLD);
+        const uint32_t page = GL_CreatePage;
+        EXPECT_EQ(page, c.id == 352 ? PAGE_SNAPSHOT_XPTHOLD_RTR : PAGE_SNAPSHOT_XPTHOLD);
+        GL_CreatePage = 0;
+        EXPECT_EQ(CreatePage(page), 0);
+        Cursor(1, c.row);
+        const Lines sent = Puts(49);
+        if (!*c.sent) {
+            EXPECT_THAT(sent, IsEmpty());
+            continue;
+        }
+        ASSERT_EQ(sent.size(), 1u) << c.region;
+        const std::string head = std::string("put ") + LIST + "Xpt Hold#" + c.sent;
+        EXPECT_EQ(sent[0].substr(0, head.size()), head);
+        EXPECT_EQ(sent[0].find_first_not_of('0', head.size()),
+                  c.levels ? std::string::npos : sent[0].npos);
+    }
+}
+
+// The second touch comes before the server's line of the first.
+TEST_F(RegisterPages, QuickTouchesDoNotTakeEachOtherBack)
+{
+    Store("M/E-1", 1, "A,S,,n,n,n");
+    Open(PAGE_SNAPSHOT_XPTHOLD);
+    Cursor(1, 0);
+    (void)Press(49);
+    Pass(200);
+    Cursor(1, 1);
+    EXPECT_THAT(Puts(49), ElementsAre("put " + LIST + "Xpt Hold#2,1,1,AB"));
+    EXPECT_EQ(BT_GetOnOff(49), 0);
+    Store("M/E-1", 1, "A,S,AB,n,n,n");
+    Pass(10);
+    EXPECT_EQ(BT_GetStatus(49), BT_ON);
+    EXPECT_EQ(Cell(1, 0, 1), "ON");
+}
+
+TEST_F(RegisterPages, AClipOfAUserIsSwitched)
+{
+    Choose(REGKIND_SNAPSHOT, {273});
+    Open(PAGE_SNAPSHOT_ATTRIBUTE);
+    Cursor(1, 8);
+    (void)Tell("Snapshot@Snapshot@Clip Event@User2@List#FM3,9,ON,ON,OFF,CLIP,0,10");
+    (void)Press(BTN_SNAPSHOT_CLIP);
+    GL_CreatePage = 0;
+    EXPECT_EQ(CreatePage(PAGE_SNAPSHOT_CLIP), 0);
+    Cursor(1, 2);
+    EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY),
+                ElementsAre("put Snapshot@Snapshot@Clip Event@User2@FM3@AutoPlay#9,OFF"));
+    Cursor(1, 3); // no clip there
+    EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), IsEmpty());
+}
+
+TEST_F(RegisterPages, TheRecallModesOfAKeyTurnOverOneByOne)
+{
+    Choose(REGKIND_KEYSS, {513, 512});
+    EXPECT_THAT(Open(0x63510000),
+                Contains("add Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2"));
+    (void)Tell("Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2,true,false,true");
+    (void)Tell("Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key1,false,false,false");
+    EXPECT_THAT(
+        Puts(BTN_KEYSS_MODIFIER + 1),
+        ElementsAre("put Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key1,true,true,true",
+                    "put Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2,true,true,true"));
+    EXPECT_THAT(Leave(), Contains("remove Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2"));
+}
+
+// Cells of the overview from (119, 164), 58 and 26 apart.
+TEST_F(RegisterPages, TheOverviewActsOnEveryRegionThatHoldsTheRegister)
+{
+    Choose(REGKIND_SNAPSHOT, {257});
+    Store("M/E-1", 12, "BOTH,S,,n,n,n");
+    Store("P/P", 12, "BOTH,S,,n,n,n");
+    Open(0x63000000);
+    const auto touch = [](int column, int row) {
+        return Touch(119 + 58 * column + 10, 164 + 26 * row + 10);
+    };
+    touch(1, 2);
+    EXPECT_THAT(Puts(50), ElementsAre("put Snapshot@Snapshot@Lock#3,12,12"));
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Recall#3, 12"));
+    (void)Press(52);
+    touch(0, 0); // no register
+    Touch(119 + 54, 200);
+    EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Recall#3, 12"));
+    touch(2, 1);
+    EXPECT_THAT(Puts(53), ElementsAre("put Snapshot@Snapshot@Copy#2,12,12,2,21,false",
+                                      "put Snapshot@Snapshot@Copy#1,12,12,1,21,false"));
+    touch(9, 9);
+    EXPECT_THAT(Puts(50), IsEmpty()); // nothing there
+}
+
+TEST_F(RegisterPages, AMasterIsEditedStoredAndUndone)
+{
+    const std::string master = "Snapshot@Master Snapshot@Store/Recall@List#1,SHOW,S,";
+    const std::string store = "put Snapshot@Master Snapshot@Store/Recall@Edit@Store#1";
+    const std::string none(28, ','); // 29 regions and a field
+    const auto zeros = [](int n) {
+        std::string text;
+        for (int i = 0; i < n; i++)
+            text += ",0";
+        return text;
+    };
+    (void)Tell(master + "U,7,8" + none);
+    Open(0x63110001);
+    Touch(102 + 75 + 10, 102 + 10); // M/E-2
+    SendMessage(LMSG_KNOBVAR, 1, 42, 0, 0);
+    EXPECT_THAT(Puts(51), IsEmpty());
+    EXPECT_THAT(Puts(53), ElementsAre(store + ",7,42" + zeros(27)));
+    (void)Tell(master + "U,7,42" + none);
+    EXPECT_THAT(Puts(54), ElementsAre(store + ",7,8" + zeros(27)));
+    EXPECT_THAT(Puts(52), ElementsAre("put Snapshot@Master Snapshot@Store/Recall@Edit@Recall#1"));
+    (void)Tell(master + "L,7,8" + none);
+    EXPECT_THAT(Puts(53), IsEmpty());
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
 }
