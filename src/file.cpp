@@ -3,7 +3,6 @@
 #include "bus.h"
 #include "command.h"
 #include "device.h"
-#include "err.h"
 #include "file_private.h"
 #include "log.h"
 #include "message.h"
@@ -386,15 +385,13 @@ static QUEUE* job_between(uint32_t after, uint32_t end)
 void File_LinkLost()
 {
     const uint32_t end = LabelID;
-    bool is_seen = false;   // the operator waits for one
-    bool is_missed = false; // one runs in the background of another page
+    bool is_seen = false; // the operator waits for one; of others their owners tell
     uint32_t last = QueueRoot ? QueueRoot->label - 1 : 0;
     while (QUEUE* job = job_between(last, end)) {
         last = job->label;
         if (job->sync_pid != 0)
             continue; // all is done: only the drives are being written
         is_seen |= file_pane_is_in_view(job);
-        is_missed |= job->paneid != 0 && !file_pane_is_in_view(job);
         Log_Output(LOG_LINK, MOD_FILE, "The link has fallen. (L%d)", int(last));
         give_up(job);
     }
@@ -402,8 +399,6 @@ void File_LinkLost()
         (void)PaneMessage_Create("File", PANE_ALERT,
                                  "The connection to the server is lost.\n"
                                  "The file operation has been aborted.");
-    else if (is_missed)
-        (void)Err_Add("File operation aborted : connection to the server lost");
 }
 
 // --- Lines of the server ---
