@@ -336,16 +336,22 @@ static bool is_default_name(const char* bare)
            strspn(digits, "0123456789") == DIGITS;
 }
 
+// A file on a drive may bear a name without a prefix.
+static bool is_side(char c)
+{
+    return c == 'M' || c == 'S';
+}
+
 int FileKind_FrameName(char (&name)[FILE_NAME_SIZE], const char* own, const char* first,
                        const char* entered)
 {
     constexpr size_t CHARACTERS = 8; // behind the prefix
-    const bool has_prefix = *first && *entered == *first;
+    const bool has_prefix = is_side(*first) && *entered == *first;
     char text[CMD_SIZE];
     CopyText(text, entered + has_prefix);
     name[0] = '\0';
-    if (!StrRegName(text) || !*own || is_default_name(text))
+    if (!StrRegName(text) || is_default_name(text))
         return -1;
-    PrintText(name, "%c%.*s", *own, int(CHARACTERS), text);
+    PrintText(name, "%.*s%.*s", is_side(*own), own, int(CHARACTERS), text);
     return 0;
 }

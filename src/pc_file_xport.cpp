@@ -77,7 +77,8 @@ static struct {
     const XportKind* kind = nullptr;   // null: no page of ours is open
     uint32_t search[XPORT_PATTERNS]{}; // labels of those that run, 0 none
     XPORTFILE* found = nullptr;        // chain of what they have told
-    XPORTFILE* row[FILES_MAX]{};       // of the list, by name
+    int founds = 0;
+    XPORTFILE* row[FILES_MAX]{}; // of the list, by name
     int rows = 0;
     int type_pane = 0;
     int folder_pane = 0;
@@ -117,12 +118,14 @@ static bool drive_folder(char (&path)[PATH_SIZE])
 
 static void drop_files()
 {
+    (void)LS_SetNData(LIST_B, 0); // its texts go; -1: the list has gone already
+    (void)LS_RedrawData(LIST_B);
     while (xp.found) {
         XPORTFILE* const next = xp.found->next;
         GDL_Free(xp.found);
         xp.found = next;
     }
-    xp.rows = 0;
+    xp.rows = xp.founds = 0;
 }
 
 static void forget_searches()
@@ -134,30 +137,40 @@ static void forget_searches()
     }
 }
 
-// One row a file; of a clip one row for all its frames.
-static bool is_same_row(const XPORTFILE& a, const XPORTFILE& b)
+// What a row says: of a clip its name, once for all its frames.
+static const char* row_text(const XPORTFILE& file)
 {
-    return is_clip_store() && *a.clip ? strcmp(a.clip, b.clip) == 0 : strcmp(a.path, b.path) == 0;
+    return is_clip_store() && *file.clip ? file.clip : file.name;
+}
+
+static bool is_same_clip(const XPORTFILE& a, const XPORTFILE& b)
+{
+    const size_t folder = strlen(a.path) - strlen(a.name);
+    return *a.clip && strcmp(a.clip, b.clip) == 0 && folder == strlen(b.path) - strlen(b.name) &&
+           strncmp(a.path, b.path, folder) == 0;
+}
+
+static bool is_same_row(const XPORTFILE* a, const XPORTFILE* b)
+{
+    return strcmp(a->path, b->path) == 0 || (is_clip_store() && is_same_clip(*a, *b));
+}
+
+static bool stands_before(const XPORTFILE* a, const XPORTFILE* b)
+{
+    const int order = strcmp(row_text(*a), row_text(*b));
+    return order != 0 ? order < 0 : strcmp(a->path, b->path) < 0;
 }
 
 static void show_files()
 {
     int n = 0;
-    for (XPORTFILE* file = xp.found; file && n < FILES_MAX; file = file->next)
+    for (XPORTFILE* file = xp.found; file; file = file->next)
         xp.row[n++] = file;
-    std::sort(xp.row, xp.row + n, [](const XPORTFILE* a, const XPORTFILE* b) {
-        const int order = strcmp(a->name, b->name);
-        return order != 0 ? order < 0 : strcmp(a->path, b->path) < 0;
-    });
-    xp.rows = int(
-        std::unique(xp.row, xp.row + n,
-                    [](const XPORTFILE* a, const XPORTFILE* b) { return is_same_row(*a, *b); }) -
-        xp.row);
+    std::sort(xp.row, xp.row + n, stands_before);
+    xp.rows = int(std::unique(xp.row, xp.row + n, is_same_row) - xp.row);
     for (int i = 0; i < xp.rows; i++) {
-        const XPORTFILE* const file = xp.row[i];
-        (void)LS_SetData(LIST_B, i, COL_B_NAME,
-                         is_clip_store() && *file->clip ? file->clip : file->name);
-        (void)LS_SetData(LIST_B, i, COL_B_TIME, file->time);
+        (void)LS_SetData(LIST_B, i, COL_B_NAME, row_text(*xp.row[i]));
+        (void)LS_SetData(LIST_B, i, COL_B_TIME, xp.row[i]->time);
     }
     (void)LS_SetNData(LIST_B, xp.rows);
     (void)LS_SetNowLine(LIST_B, std::min(LS_GetNowLine(LIST_B), std::max(0, xp.rows - 1)));
@@ -167,9 +180,12 @@ static void show_files()
 static void add_file(const char* path, const char* time)
 {
     XPORTFILE read;
-    void* const room = Xport_Read(&read, path, time) ? GDL_Malloc(sizeof read) : nullptr;
+    if (xp.founds == FILES_MAX || !Xport_Read(&read, path, time))
+        return;
+    void* const room = GDL_Malloc(sizeof read);
     if (!room)
         return;
+    xp.founds++;
     XPORTFILE* const file = new (room) XPORTFILE(read);
     file->next = xp.found;
     xp.found = file;
@@ -192,8 +208,6 @@ static void search_files()
 {
     char path[PATH_SIZE];
     forget_searches();
-    (void)LS_SetNData(LIST_B, 0);
-    (void)LS_RedrawData(LIST_B);
     drop_files();
     if (!drive_folder(path))
         return;
@@ -332,8 +346,9 @@ static bool reserve(Targets& t, Skipped& skipped)
         skipped.is_full |= !skipped.is_work_area;
         return false;
     }
-    (void)File_ExecFmImportRegNoSet(first, t.reserved++);
-    (void)File_ExecFmImportRegNoSet(next_register(t, skipped), t.reserved++); // -1: none for a key
+    const int second = next_register(t, skipped); // -1: none for a key
+    for (const int index : {first, second})       // as numbers in their store
+        (void)File_ExecFmImportRegNoSet(index < 0 ? -1 : index % FMEM_EXTENDED, t.reserved++);
     skipped.is_work_area = before.is_work_area;
     return t.reserved <= IMPORT_REGISTERS;
 }
@@ -432,9 +447,8 @@ static const XPORTFILE* clip_frame[FILES_MAX]; // of the clip that is being gath
 static void add_clip(const XPORTFILE& first)
 {
     int frames = 0;
-    for (const XPORTFILE* file = xp.found; file && *first.clip && frames < FILES_MAX;
-         file = file->next)
-        if (strcmp(file->clip, first.clip) == 0 && !Xport_IsSub(file->path))
+    for (const XPORTFILE* file = xp.found; file; file = file->next)
+        if (is_same_clip(first, *file) && !Xport_IsSub(file->path))
             clip_frame[frames++] = file;
     std::sort(clip_frame, clip_frame + frames, [](const XPORTFILE* a, const XPORTFILE* b) {
         return Xport_Frame(a->name) < Xport_Frame(b->name);

@@ -116,6 +116,20 @@ TEST_F(XportPage, ImportTakesEmptyRegistersAndMovesThemIntoTheFolder)
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
+TEST_F(XportPage, ExtendedStoreTakesWhatTheMainOneCannot)
+{
+    Tell("16@Frame Mem@Status@Max Register#3");
+    Tell("Frame Mem@Status@Extended Capacity#1");
+    Store({"Ma", "Mb"});
+    Store({"Mc"}, 16384 + 1);
+    OpenWith(NEW, {"beach.TIF"});
+    Select(2, {0});
+    Converted({"Mbeach.FMEM_001.SF2", "Sbeach.FMEM_002.SF2"});
+    const Lines sent = Run(Press(BTN_XPORT_IMPORT));
+    EXPECT_THAT(sent, Contains(HasSubstr("Mbeach.FMEM_001.SF2,SWR001D001:FMEX_002.SF2")));
+    EXPECT_THAT(sent, Contains(HasSubstr("Sbeach.FMEM_002.SF2,SWR001D001:FMEX_003.SF2")));
+}
+
 TEST_F(XportPage, WhatIsNotPermittedIsSkippedAndSaid)
 {
     static const struct {
@@ -186,12 +200,12 @@ TEST_F(XportPage, ExportNamesFilesBySides)
 TEST_F(XportPage, ClipStoreTakesClipsFrameByFrame)
 {
     OpenWith(CLIPS, {"intro#000009.TIF", "intro#000010.TIF", "intro#000009.TIF.SUB", "still.TIF",
-                     "still.TIF.SUB", "one#000004.TIF"});
-    EXPECT_THAT(Files(), ElementsAre("intro", "one", "still.TIF", "still.TIF.SUB"));
+                     "still.TIF.SUB", "one#000004.TIF", "old/intro#000003.TIF"});
+    EXPECT_THAT(Files(), ElementsAre("intro", "intro", "one", "still.TIF", "still.TIF.SUB"));
     EXPECT_EQ(Usable({BTN_XPORT_EXPORT, BTN_XPORT_IMPORT}), std::vector<int>{BTN_XPORT_IMPORT});
     Filescp_trnasferlist_init("CS1");
     SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
-    Select(2, {0, 1, 2, 3});
+    Select(2, {0, 2, 3, 4});
     Press(BTN_XPORT_IMPORT);
     const FILEXFERLIST* item = nullptr;
     for (const QUEUE* job = QueueRoot; job; job = job->next)
