@@ -19,7 +19,7 @@ namespace
 constexpr int LINES = 10;
 constexpr int FIRST = 1; // register 0 has no cell
 constexpr int NAME_CHARS = 8;
-constexpr int FONT_CELL = 1;
+constexpr int FONT_CELL = 0; // eight letters in a cell
 constexpr int FONT_LABEL = 2;
 constexpr int FONT_NAME = 8;
 constexpr Rect DETAIL = {100, 76, 701, 141};
@@ -214,7 +214,7 @@ static void draw_cell(int number)
     const unsigned ink = is_on ? BLACK : s.isempty ? EMPTY_INK : WHITE;
     TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, ground);
     const char* const text = *s.name ? s.name : s.isempty ? "" : NumStr(number);
-    TDL_SymbolWS(r.x1 + 3, r.y1 + 4, s.islock ? 39 : 47, text, FONT_CELL, ink);
+    TDL_SymbolWS(r.x1 + 2, r.y1 + 5, s.islock ? 41 : 49, text, FONT_CELL, ink);
     if (s.islock)
         TDL_SymbolS(r.x2 - 7, r.y1 + 4, "L", FONT_CELL, is_on ? BLACK : YELLOW);
     TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);

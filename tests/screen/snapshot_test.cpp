@@ -1,0 +1,82 @@
+// The snapshot pages with registers of every state: the attributes, the overview, the hold of a
+// bank, two lists, a master that is edited.
+#include "a_ls.h"
+#include "pc_snapshot.h"
+#include "table_page.h"
+
+namespace
+{
+struct SnapshotPictures : TablePage {
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        DeviceStructure();
+        static const char* const lines[] = {
+            "M/E-1@List#1,OPENING,S,AB12U1,30,n,n",
+            "M/E-1@List#2,HEADLINE,L,AB12345678U1U2U3,n,15,1",
+            "M/E-1@List#3,OTS LEFT,S,,n,n,n",
+            "M/E-1@List#5,OTS RIGHT,S,12,25,25,n",
+            "M/E-1@List#7,WEATHER,S,,n,n,n",
+            "M/E-1@List#35,,S,,n,n,n",
+            "P/P@List#1,OPENING,S,,n,n,n",
+            "P/P@List#12,CREDITS,L,,n,n,n",
+            "User1@List#1,OPENING,S,00000001,n,n,n",
+            "DME2@List#7,FLY IN,S,,n,n,n",
+            "RTR@List#1,OPENING,S,,n,n,n",
+        };
+        for (const char* line : lines)
+            Tell(std::string("Snapshot@Snapshot@Attribute@") + line);
+        Tell("Snapshot@Master Snapshot@Store/Recall@List#1,SHOW ONE,S,U,1,2,,4,,99,,,,,,,12,,,,,,,,"
+             "3,3,,,,,,,5,");
+    }
+    static void Paint()
+    {
+        for (int i = 0; i < 4; i++)
+            Pass(1000);
+    }
+};
+} // namespace
+
+TEST_F(SnapshotPictures, Attributes)
+{
+    Open(PAGE_SNAPSHOT_ATTRIBUTE);
+    Touch(200, 130); // the second row
+    Tell("Snapshot@Snapshot@Attribute@M/E-1@Temporary Duration#45");
+    Paint();
+    EXPECT_TRUE(MatchesGolden("snapshot_attribute"));
+}
+
+TEST_F(SnapshotPictures, Overview)
+{
+    Open(0x63000000);
+    Touch(119 + 58 + 10, 164 + 2 * 26 + 10); // 12
+    Paint();
+    EXPECT_TRUE(MatchesGolden("snapshot_status"));
+}
+
+TEST_F(SnapshotPictures, CrosspointHold)
+{
+    Open(PAGE_SNAPSHOT_XPTHOLD);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("snapshot_xpthold"));
+}
+
+TEST_F(SnapshotPictures, TwoLists)
+{
+    Open(0x63230000);
+    LS_SetMS(1, 1);
+    for (const int row : {0, 1, 2, 4})
+        LS_SetSelected(1, row, 0, 1);
+    LS_SetNowLine(2, 7);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("snapshot_copy"));
+}
+
+TEST_F(SnapshotPictures, MasterEdit)
+{
+    Open(0x63110001);
+    Touch(102 + 2 * 75 + 10, 112);
+    Touch(102 + 3 * 75 + 10, 112);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("snapshot_master_edit"));
+}
