@@ -282,6 +282,7 @@ void ReceiveCommand_Management()
     bus_drain_text();
     if (Net_TakeTextLoss()) {
         AutoLoad_LinkLost();
+        FileAll_LinkLost();
         File_LinkLost();
     }
     bus_drain_frames();

@@ -125,6 +125,7 @@ static struct {
     uint32_t clearing = 0;          // label of the deletion that runs
     int cleared = 0;                // folders of ALL_CLEAR that are done
     bool is_good = true;            // every file so far
+    bool is_lost = false;           // the link has fallen: no job follows the one that runs
 } run;
 
 // Of the registers, and of the pictures: heads that the jobs hold.
@@ -247,7 +248,7 @@ static void registers_result(uint32_t, int)
     note_results(all_list, &is_cancelled);
     if (is_load())
         read_registers(is_cancelled);
-    if (is_cancelled)
+    if (is_cancelled || run.is_lost)
         File_XferList_RemoveAll(&all_frames);
     if (!exec_frames())
         end_transfer();
@@ -857,6 +858,20 @@ static int pc_file_all_create(int on, uint32_t)
 }
 
 const PC_TBL pc_file_all = {pc_file_all_proc, pc_file_all_create};
+
+void FileAll_LinkLost()
+{
+    const bool is_preparing = run.stage == ALL_GATHER || run.stage == ALL_CLEAR;
+    run.is_lost = true;
+    if (!is_preparing)
+        return;
+    const bool was_seen = run.pane != 0;
+    give_up();
+    if (was_seen)
+        (void)PaneMessage_Create("File", PANE_ALERT,
+                                 "The connection to the server is lost.\n"
+                                 "The file operation has been aborted.");
+}
 
 void FileAll_Reset()
 {

@@ -59,4 +59,7 @@ int AllLoad();
 // --- For the bus ---
 int FileAllProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx); // returns 0
 
+// The server answers no search any more, and takes no further job: to be called before the work
+// engine ends the jobs that it has.
+void FileAll_LinkLost();
 void FileAll_Reset(); // as at process start; for tests

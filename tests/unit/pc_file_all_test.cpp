@@ -239,6 +239,39 @@ TEST_F(FileAllPage, PreparingCanBeCancelledAndEndsWithThePage)
     }
 }
 
+// What was found until then is not taken for the whole, and the pictures do not follow.
+TEST_F(FileAllPage, AFallenLinkEndsIt)
+{
+    const auto fall = [] {
+        FileAll_LinkLost();
+        File_LinkLost();
+        (void)TakeQueuedCommands();
+    };
+    Frames({{1, "Mlogo"}});
+    Select({"KEYMEM", "FRAMEMEM"});
+    for (const int button : {BTN_ALL_R_TO_L, BTN_ALL_L_TO_R}) {
+        (void)Press(button);
+        if (button == BTN_ALL_L_TO_R)
+            Answer(1);
+        for (int i = 0; i < 20; i++)
+            Pass(10); // searching, or clearing
+        EXPECT_NE(QueueRoot, nullptr);
+        fall();
+        EXPECT_EQ(QueueRoot, nullptr);
+        Answer(0); // the operator has been told
+        Pass(1000);
+        EXPECT_THAT(Run(), IsEmpty());
+    }
+    (void)Press(BTN_ALL_L_TO_R);
+    Answer(1);
+    (void)Run();
+    EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRGETLIST), SizeIs(1));
+    fall();
+    File_SHP_All_Clear();
+    (void)Run();
+    EXPECT_THAT(Items(FILEWORK_TRANSFERLIST), IsEmpty());
+}
+
 TEST_F(FileAllPage, ACopyGoesToAnotherDirectoryOnly)
 {
     const auto choose = [&](int button, int drive) {
