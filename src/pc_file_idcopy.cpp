@@ -167,7 +167,7 @@ static const char* below_dir(int side, const char* path)
     if (BeginsWith(path, host))
         path += sizeof host - 1;
     const char* const place = dir + (BeginsWith(dir, host) ? sizeof host - 1 : 0);
-    return BeginsWith(path, place) ? path + strlen(place) : nullptr;
+    return BeginsWith(path, place) && !strstr(path, "/../") ? path + strlen(place) : nullptr;
 }
 
 static void count_file(Listing& l, int side, const char* unit, const char* below)

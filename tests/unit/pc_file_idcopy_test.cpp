@@ -123,7 +123,8 @@ TEST_F(FileIdCopyPage, OneUnitGoesToOthersOfItsClass)
     (void)Press(BTN_IDCOPY_COPY);
     const Lines made = Found(
         Answer(1), {"SNAPSHOT/SWR000D001/ME1/A.ME1_001.SSS", "SETUP/SWR003D001/A.DEV_0000.SST",
-                    "SETUP/SWR000D002/A.DEV_0000.SST", "SETUP/DME000D001/A.DEV_0000.DST"});
+                    "SETUP/SWR000D001/../../OUT.DEV_0000.SST", "SETUP/SWR000D002/A.DEV_0000.SST",
+                    "SETUP/DME000D001/A.DEV_0000.DST"});
     const Lines cleared = Reply(made, "Mkdir", {"NG(it is there)"});
     ASSERT_EQ(cleared.size(), 1u);
     EXPECT_THAT(cleared[0], testing::EndsWith(",MYHOST:/mnt/usb/usb1/SYSTEM"));
