@@ -1,0 +1,185 @@
+"""A person works the pages of the stored registers: stores what two banks are, brings it back but for what is under
+hold, locks, renames, copies, deletes and swaps; masters, effects and shotboxes; another panel that does the same.
+
+usage: register_test.py BUILD_DIR [TEST...]
+"""
+import time
+import unittest
+
+from desk import grid
+from deskcase import DeskCase
+
+SNAPSHOTS = "put Snapshot@Snapshot@"
+MASTER = "put Snapshot@Master Snapshot@"
+EFFECTS = "put Effect@Effect@"
+SHOTBOX = "put Shotbox@Register@"
+ME1 = "0000000000000002"
+KEY_TYPE = "M/E-1@Key1@Type@Key Type"
+OTHER_KEY = "M/E-1@Key2@Type@Key Type"
+OTHER_BANK = "M/E-2@Key1@Type@Key Type"
+STATES = (KEY_TYPE, OTHER_KEY, OTHER_BANK)
+TOP, DUAL_TOP, A, B = 78, 124, 150, 500  # of the lists, and a place in a row of each
+PLURAL, ENTER, YES = (668, 395), (400, 395), (341, 414)
+REGION, RECALL = 49, 50
+
+
+class Registers(DeskCase):
+    """The tests build on one another, in the order of their names: one start-up serves all."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        time.sleep(1)  # the last of the start's progress has gone
+
+    def page(self, number):
+        self.desk.console(f"page {number}")
+        time.sleep(0.6)
+
+    def row(self, number, x=A, top=TOP):
+        self.desk.touch(x, top + 22 * number + 11, settle=0.2)
+
+    def shown(self, first, last=None, top=TOP):
+        """Rows of a list: two looks at them can be compared."""
+        return self.desk.part(100, top + 22 * first, 640, top + 22 * (last or first) + 20)
+
+    def press(self, button_id, *lines):
+        """A touch on a button, and all puts that follow: these lines."""
+        self.desk.wire()
+        self.desk.touch(*grid(button_id), settle=0.3)
+        self.assert_puts(*lines)
+
+    def assert_puts(self, *lines):
+        end, puts = time.monotonic() + 3, []
+        while time.monotonic() < end and len(puts) < max(len(lines), 1):
+            puts += [line for line in self.desk.wire() if line.startswith("put ") and "File@" not in line]
+            time.sleep(0.05)
+            if not lines and time.monotonic() > end - 2.5:
+                break
+        self.assertEqual(puts, list(lines))
+
+    def delete(self, *lines):
+        self.press(51)
+        self.desk.touch(*YES, settle=0.2)
+        self.assert_puts(*lines)
+
+    def set_all(self, value):
+        for path in STATES:
+            self.desk.console(f"set {path}#{value}")
+
+    def values(self):
+        return [self.desk.value(path) for path in STATES]
+
+    def assert_changes(self, command, rows, same=()):
+        """Another panel's command changes these rows of the list at once, and those not."""
+        before, rest = [self.shown(row) for row in rows], [self.shown(row) for row in same]
+        self.desk.console(command)
+        time.sleep(0.4)
+        for row, old in zip(rows, before):
+            self.assertNotEqual(self.shown(row), old, f"{command}: row {row}")
+        self.assertEqual([self.shown(row) for row in same], rest, command)
+
+    def test_1_two_banks_come_back_but_for_the_key_under_hold(self):
+        self.set_all("Linear")
+        self.page(6321)
+        self.press(REGION)
+        self.desk.touch(240, 208)  # M/E-2 beside M/E-1: now the reference
+        self.desk.touch(*ENTER)
+        self.row(4)
+        self.press(51, SNAPSHOTS + "Store#6,4")
+        self.desk.console("put Snapshot@Snapshot@Attribute@Xpt Hold#2,4,4,1")
+        self.set_all("Chroma")
+        self.press(RECALL, SNAPSHOTS + "Recall#6, 4")
+        self.assertEqual(self.values(), ["Chroma", "Linear", "Linear"])
+
+    def test_2_a_lock_refuses_and_a_name_shows(self):
+        self.page(6322)
+        self.row(4)
+        self.press(51, SNAPSHOTS + "Lock#6,4,4")
+        self.page(6326)
+        self.row(4)
+        self.delete()
+        self.assert_changes("panel rename snapshot 4 M/E-2 LATE", [], [4])  # there it is refused, too
+        self.page(6322)
+        self.press(51, SNAPSHOTS + "UnLock#6,4,4")
+        self.assert_changes("panel rename snapshot 4 M/E-2 LATE", [4], [1, 2, 3, 5])
+
+    def test_3_copies_a_swap_and_a_range_in_two_regions(self):
+        self.page(6323)
+        self.row(4, A, DUAL_TOP)
+        self.row(6, B, DUAL_TOP)
+        self.press(49, SNAPSHOTS + "Copy#6,4,4,6,6,false")
+        self.press(50)  # without the name
+        self.row(7, B, DUAL_TOP)
+        self.press(49, SNAPSHOTS + "Copy#6,4,4,6,7,true")
+        self.page(6325)
+        self.row(1, A, DUAL_TOP)
+        self.row(7, B, DUAL_TOP)
+        self.press(49, SNAPSHOTS + "Swap#6,1,1,6,7,true")
+        self.page(6326)
+        self.row(4)
+        self.desk.touch(*PLURAL)
+        for number in (5, 6, 7):
+            self.row(number)
+        before = self.shown(4), self.shown(6), self.shown(7)
+        self.delete(SNAPSHOTS + "Delete#6,4,7")
+        time.sleep(0.3)
+        for old, number in zip(before, (4, 6, 7)):
+            self.assertNotEqual(self.shown(number), old)
+        self.desk.touch(*PLURAL)
+
+    def test_4_a_master_brings_back_what_its_regions_had(self):
+        self.set_all("Linear")
+        self.page(6321)
+        self.row(5)
+        self.press(51, SNAPSHOTS + "Store#6,5")
+        self.page(6311)
+        self.row(4)
+        self.press(50, MASTER + "Store/Recall@Store#4")
+        self.set_all("Chroma")
+        self.press(49, MASTER + "Store/Recall@Recall#4")
+        self.assertEqual(self.values(), ["Linear"] * 3)
+
+    def test_5_an_effect_is_recalled_dissolved_copied_and_merged(self):
+        self.page(6221)
+        self.row(2)
+        self.press(RECALL, EFFECTS + f"Recall@Recall#{ME1}, 2")
+        self.desk.console("put Effect@Effect@Attribute@Temporary Duration@M/E-1#25")
+        time.sleep(0.2)
+        before = self.shown(2)
+        self.press(33, EFFECTS + f"Attribute@Effect Dissolve#{ME1},2,2,true,25")
+        self.assertNotEqual(self.shown(2), before)
+        self.page(6223)
+        self.row(2, A, DUAL_TOP)
+        self.row(5, B, DUAL_TOP)
+        self.press(49, EFFECTS + f"Copy/Merge@Copy#{ME1},2,2,{ME1},5,false")
+        self.press(52, EFFECTS + f"Copy/Merge@Merge#{ME1},2,{ME1},5")
+        self.page(6231)
+        self.press(RECALL, EFFECTS + "Recall@Recall#0000000000101000, 101")
+        self.page(6261)
+        self.assert_changes("panel store effect 3 P-Bus CUE", [3], [1, 2, 4])
+
+    def test_6_a_shotbox_runs_what_it_links(self):
+        self.page(6411)
+        self.row(1)
+        self.press(49, SHOTBOX + "Store/Recall@Recall#1")
+        self.assertEqual(self.desk.value("Key Frame@Timeline@Run"), "true")
+        before = self.shown(1)
+        self.press(33, SHOTBOX + "Attribute@Auto Run#1,1,false")
+        self.assertNotEqual(self.shown(1), before)
+        self.row(3)
+        self.press(50, SHOTBOX + "Store/Recall@Store#3")
+
+    def test_7_another_panel_shows_at_once_and_in_its_list_only(self):
+        for page, command, rows in (
+                (6321, "panel store snapshot 8 M/E-2 NIGHT", [8]), (6321, "panel store snapshot 9 P/P NIGHT", []),
+                (6321, "panel store effect 9 M/E-1", []), (6322, "panel lock snapshot 8 M/E-2", [8]),
+                (6221, "panel store effect 8 M/E-1 NIGHT", [8]), (6221, "panel delete effect 8 M/E-1", [8]),
+                (6211, "panel store mastereffect 6 NIGHT", [6]), (6411, "panel store shotbox 6 NIGHT", [6]),
+                (6411, "panel copy shotbox 6 9", [9])):
+            self.page(page)
+            self.row(1)
+            self.assert_changes(command, rows, [row for row in (2, 7, 8, 9) if row not in rows])
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
