@@ -48,7 +48,10 @@ struct Side {
     bool is_stale = false;                  // the catalogue has changed
     uint32_t folder_search = NOT_SEARCHING; // label of the list of folders
     int folders = 0;                        // with the default one, which is the first
-    int frames = 0;                         // cells in use
+    char shown[64];                         // whose rows these are
+    bool was_selected[2 * FMEM_EXTENDED];   // registers, while their rows are made anew
+    int was_now = -1;
+    int frames = 0; // cells in use
     char folder[FOLDER_ROWS][FRAME_FOLDER_SIZE];
     char folder_text[FOLDER_ROWS][sizeof BEHIND_MARK + FRAME_FOLDER_SIZE];
 };
@@ -218,34 +221,36 @@ static bool stands_before(const FILECELL& a, const FILECELL& b)
     return a.no != b.no ? a.no < b.no : strcmp(a.name, b.name) < 0;
 }
 
-// Which registers are selected, while their rows are made anew.
-static bool was_selected[2 * FMEM_EXTENDED];
-
-static int note_selection(const Side& s)
+// Before the cells are filled anew. What was selected elsewhere is not selected here.
+static void note_selection(Side& s)
 {
+    char shown[sizeof s.shown];
     const int id = list_id(s);
-    int now = -1;
-    std::fill_n(was_selected, std::size(was_selected), false);
-    for (int i = 0, no; (no = LS_GetSelected(id, i)) >= 0 && no < s.rows; i++)
+    const FileMemory& m = *s.memory;
+    PrintText(shown, "%d/%s/%s", m.side.device, m.side.dir, m.folder);
+    const bool is_same = strcmp(shown, s.shown) == 0;
+    CopyText(s.shown, shown);
+    std::fill_n(s.was_selected, std::size(s.was_selected), false);
+    s.was_now = -1;
+    for (int i = 0, no; is_same && (no = LS_GetSelected(id, i)) >= 0 && no < s.rows; i++)
         if (const FILECELL* const cell = s.row[no].cell) {
-            was_selected[cell->no] = true;
-            now = now < 0 ? cell->no : now;
+            s.was_selected[cell->no] = true;
+            s.was_now = s.was_now < 0 ? cell->no : s.was_now;
         }
-    return now;
 }
 
-static void restore_selection(const Side& s, int now)
+static void restore_selection(const Side& s)
 {
     const int id = list_id(s);
     int line = s.has_folder_rows ? open_folder(s) : 0;
     for (int no = first_frame_row(s); no < s.rows; no++)
-        if (s.row[no].cell->no == now)
+        if (s.row[no].cell->no == s.was_now)
             line = no;
     const int top = LS_GetTopLine(id);
     (void)LS_SetNowLine(id, line);
     (void)LS_SetTopLine(id, top);
     for (int no = 0; LS_GetMS(id) == 1 && no < s.rows; no++)
-        (void)LS_SetSelected(id, no, 0, s.row[no].cell && was_selected[s.row[no].cell->no]);
+        (void)LS_SetSelected(id, no, 0, s.row[no].cell && s.was_selected[s.row[no].cell->no]);
 }
 
 static void show_folder_rows(Side& s)
@@ -283,7 +288,6 @@ static void show_frame_row(Side& s, int no, FILECELL& cell)
 
 static void show_frames(Side& s)
 {
-    const int now = note_selection(s);
     std::sort(s.cell, s.cell + s.frames, stands_before);
     const int first = first_frame_row(s);
     s.rows = first + s.frames;
@@ -291,7 +295,7 @@ static void show_frames(Side& s)
     for (int i = 0; i < s.frames; i++)
         show_frame_row(s, first + i, s.cell[i]);
     (void)LS_SetNData(list_id(s), s.rows);
-    restore_selection(s, now);
+    restore_selection(s);
     (void)LS_RedrawData(list_id(s));
 }
 
@@ -324,6 +328,7 @@ static void take_store(Side& s, int first)
 
 static void take_frames(Side& s)
 {
+    note_selection(s);
     add_known_folders(s);
     s.frames = 0;
     if (s.places > 0)
@@ -430,6 +435,7 @@ static void search_frames(Side& s)
 {
     char path[PATH_SIZE];
     const FILESIDE& where = s.memory->side;
+    note_selection(s);
     add_known_folders(s);
     s.frames = 0;
     show_frames(s);
@@ -569,6 +575,7 @@ void FileSide_Open(int n, const FileKind& kind, FileMemory* memory, bool has_reg
     s.has_regions = has_regions;
     s.has_folder_rows = has_folder_rows;
     s.pause_ms = 0;
+    s.shown[0] = '\0';
     s.is_stale = false;
     s.frames = 0;
     s.rows = s.grp < FILE_GROUPS && !has_folders(s) ? std::min(RegisterNum[s.grp], FILE_ROWS) : 0;

@@ -36,9 +36,18 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     EXPECT_THAT(Rows(2), ElementsAre("2 Mlow", "1234 Mold", "X7 Sanc"));
     EXPECT_STREQ(LS_GetData(2, 1, COL_NAME) + 7, "ARCHIVE");
     EXPECT_EQ(LS_GetNData(2), 3 + 3);
+    // What is selected stays so while others before it go and come.
+    Select(1, {4});
+    Tell("16@Frame Mem@Status@File Name Sense#1,0,");
+    Pass(200);
+    EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar"));
+    EXPECT_TRUE(LS_IsSelected(1, 3, 0) == 1 && LS_IsSelected(1, 4, 0) == 0);
+    Store({"Mlogo"});
+    Pass(200);
+    EXPECT_TRUE(LS_IsSelected(1, 4, 0) == 1 && LS_IsSelected(1, 3, 0) == 0);
     // A still that is moved leaves, and is in the other folder.
     Tell("Frame Mem@Folder@Move Still#0,Mlogo,3");
-    Pass(10);
+    Pass(200);
     EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar"));
     (void)Touch(180, 124 + 22 * 2 + 5);
     EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo"));
