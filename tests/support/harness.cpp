@@ -26,6 +26,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "pane_private.h"
 #include "pc_file_all.h"
 #include "pc_file_dual.h"
 #include "pc_register.h"
@@ -161,6 +162,22 @@ static void fill_house()
     SYS_FmemV6 = SYS_DWSubEnable = 1;
 }
 
+// Every selector of regions as at the process start.
+static void reset_regions()
+{
+    static std::vector<int> first; // the selections, group by group
+    const bool is_first = first.empty();
+    size_t n = 0;
+    for (int grp = 0; grp < REGION_GROUPS; grp++)
+        for (int i = 0; i < RegionBtn[grp].cells; i++, n++) {
+            BTNSEL& cell = RegionBtn[grp].btnsel[i];
+            if (is_first)
+                first.push_back(cell.select);
+            else
+                cell.select = first[n];
+        }
+}
+
 void Harness_Reset()
 {
     Harness_Video();
@@ -190,6 +207,7 @@ void Harness_Reset()
     FileAll_Reset();
     Register_Free();
     RegisterPages_Reset();
+    reset_regions();
     File_DirReset();
     File_ReplaceSync([] { return 0; }); // a job of a test does not wait for the host's drives
     (void)TakeQueuedCommands();         // what an earlier test left

@@ -17,12 +17,6 @@ namespace
 const std::string LIST = "Snapshot@Snapshot@Attribute@";
 
 struct RegisterPages : TablePage {
-    void TearDown() override
-    {
-        Choose(REGKIND_SNAPSHOT, {257});
-        Choose(REGKIND_KEYSS, {512});
-        TablePage::TearDown();
-    }
     // The lines of a press but for what the page merely follows.
     static Lines Puts(int id)
     {
