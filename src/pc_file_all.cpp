@@ -13,7 +13,6 @@
 #include "text.h"
 #include "window.h"
 #include <cstring>
-#include <iterator>
 #include <unistd.h>
 
 #include "safeguards.h"

@@ -69,7 +69,7 @@ class AllPage(DeskCase):
     def test_1_what_was_saved_comes_back(self):
         for category in CATEGORIES:
             if category not in ("SNAPSHOT", "SETUP", "FRAMEMEM"):
-                self.desk.touch(*key(category), settle=0.16)
+                self.desk.touch(*key(category), settle=0.14)
         self.desk.console(f"put {CLIP}#42")
         self.desk.console("put Snapshot@Snapshot@Store#2,7,MINE")
         stale = self.path(LOCAL + "SNAPSHOT/SWR000D001/ME1/STALE.ME1_050.SSS")
@@ -97,7 +97,7 @@ class AllPage(DeskCase):
 
     def test_2_a_copy_to_the_stick_is_told_what_failed_and_can_be_stopped(self):
         self.desk.touch(*DEVICE_A)
-        self.desk.touch(*STICK_KEY, settle=0.6)
+        self.desk.touch(*STICK_KEY, settle=0.45)
         self.desk.touch(*FIRST_DIRECTORY)
         self.calm = self.desk.part(*PAGE)
         os.makedirs(self.path(STICK + SNAPSHOT_FILE))  # in the way of one file
