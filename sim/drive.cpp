@@ -262,9 +262,10 @@ bool Drive_Read(const std::string& local, std::string* bytes)
     return true;
 }
 
-static bool has_row_marks(const std::string& name)
+// It would break the row; a "#" behind the first one of a line does not.
+static bool has_comma(const std::string& name)
 {
-    return name.find_first_of(",#") != std::string::npos; // it would break the row
+    return name.find(',') != std::string::npos;
 }
 
 // A panel's mark of a protected folder, and a stick that is out. Other names may begin with a dot:
@@ -280,7 +281,7 @@ static void list_folder(const std::string& path, const std::string& local, int d
     std::error_code error;
     for (fs::directory_iterator at(local, error), end; !error && at != end; at.increment(error)) {
         const std::string name = at->path().filename().string();
-        if (is_hidden(name) || has_row_marks(name) || entries->size() >= DRIVE_ENTRIES)
+        if (is_hidden(name) || has_comma(name) || entries->size() >= DRIVE_ENTRIES)
             continue;
         struct stat status = {};
         if (lstat(at->path().c_str(), &status) != 0 ||
