@@ -148,20 +148,6 @@ class Streams(StreamTest):
         self.assertEqual(panel.frame()[0], POSITION)
         self.assertTrue(panel.quiet())
 
-    def test_the_selection_has_a_bit_for_each_region(self):
-        panel = self.panel()
-        for region in ("M/E-1", "P/P"):
-            self.do(f"select {region} off")
-        panel.drain()
-        cases = [("P/P", 1, 0), ("M/E-3 Sub", 1, 7), ("User8", 2, 7), ("DME8 GLB", 3, 7), ("Dev8", 5, 7),
-                 ("Dev12", 6, 3), ("MACRO", 6, 7), ("M/E-5 Sub", 7, 3)]
-        for region, byte, bit in cases:
-            self.do(f"select {region} on")
-            on = panel.selection()
-            self.assertEqual({at: value for at, value in enumerate(on[1:], 1) if value}, {byte: 1 << bit}, region)
-            self.do(f"select {region} off")
-            self.assertEqual(set(panel.selection()[1:]), {0})
-
     def test_the_effect_frame_carries_every_field(self):
         panel = self.panel(ME4)
         self.do("kf M/E-4 3 70", "pause M/E-4 2", "loop M/E-4 1 3 5", "delay M/E-4 45")
@@ -196,16 +182,6 @@ class Running(StreamTest):
         self.assertEqual({p.run for p in run[:-1]}, {1})
         self.assertGreater(took, 40 / 30 - 0.05)
         self.assertLess(took, 40 / 30 + 0.7)
-
-    def test_a_pause_holds_until_the_next_run(self):
-        self.load("kf M/E-1 3 5", "pause M/E-1 2")
-        self.do("run M/E-1")
-        self.assertEqual(self.panel1.run_until(lambda p: p.run == 0)[-1].time, 5)
-        self.do("run M/E-1")
-        self.assertEqual(self.panel1.run_until(lambda p: p.run == 0)[-1].key, 3)
-        self.do("run M/E-1")
-        again = self.panel1.run_until(lambda p: p.run == 0)  # from the end it starts over
-        self.assertEqual((again[0].time, again[-1].time, again[-1].key), (0, 5, 2))
 
     def test_reverse_and_the_jumps_to_both_ends(self):
         self.load("kf M/E-1 3 5")

@@ -22,16 +22,6 @@ M/E-1@Wipe@Edge@Soft@Soft\tnum\t0\t100\t2
 
 
 class Values(MeTest):
-    def test_values_of_no_page_have_kinds_in_every_bank_and_key(self):
-        cases = [(KEY + "Type@Clean Mode@Linear", "maybe", "false"),
-                 ("PGM/PST@DSK3@Type@Key Position@Chroma@Left", "99", "8.00"),
-                 ("M/E-1 SUB@DME Wipe@Modify@Crop Mode@Crop@Right@2", "-5", "0.00"),
-                 (KEY + "Transition@DME Wipe@Modify@Crop Mode@Crop@Left@1", "5", "0.00"),
-                 ("M/E-2@Misc@Key Assign@Key7", "Nowhere", "")]
-        for path, wanted, told in cases:
-            self.text.send(f"put {path}#{wanted}")
-            self.assertEqual(self.text.line(), f"{path}#{told}")
-
     def test_a_relative_put_counts_hundredths_and_stops_at_the_limit(self):
         path = "M/E-2 SUB@DME Wipe@Modify@Position@Position@H@1"
         cases = (("8.00", "0.08"), ("-76", "-0.68"), ("11536.00", "114.68"), ("11536.00", "200.00"), ("", "200.00"))
@@ -83,14 +73,6 @@ class Rules(MeTest):
                 self.follow(line.replace("Key6", "Key5").replace(" SUB", ""))
             heard = [line for line in self.put(path, value) if not line.startswith(path + "#" + value)]
             self.assertEqual(heard, told, path)
-
-    def test_a_turned_knob_has_its_consequences_too(self):
-        crop = KEY + "Resizer@Border/Crop@Crop@"
-        self.follow(crop + "Left", crop + "Right")
-        self.text.send(f"assign Knob2#{crop}H")
-        self.text.sync()
-        self.do("knob 2 +5")
-        self.assertEqual(self.other.lines(2), [f"{crop}Left#-95", f"{crop}Right#95.00"])
 
     def test_auto_chroma_can_be_undone(self):
         hue = KEY + "Type@Key Type@Chroma@Hue"
@@ -230,17 +212,6 @@ class WipeRegisters(MeTest):
         self.assertEqual(sorted(self.put(WIPES + "Recall", "1000000,7")), [f"{soft}#40.00", f"{pattern}#209"])
         self.assertEqual(self.put(WIPES + "Delete", "1000000,7,7"), [f"{path}#7,,E"])
         self.assertEqual(self.put(WIPES + "Recall", "1000000,7"), [])
-
-    def test_no_register_keeps_a_channel_of_an_effects_unit(self):
-        channel = "M/E-1@Key1@Processed Key@DME Select@DME1"
-        self.put(channel, "true")
-        self.do("store key M/E-1@Key1 3", "get Stored")
-        self.wait_for_log("console: get Stored")
-        self.put(channel, "false")
-        self.follow(channel)
-        self.do("recall key M/E-1@Key1 3", "get Recalled")
-        self.wait_for_log("console: get Recalled")
-        self.assertEqual(self.other.sync(), [])
 
 
 class Installation(MeTest):

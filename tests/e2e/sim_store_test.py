@@ -60,17 +60,6 @@ class Lists(StoreTest):
             self.assertEqual(set(rows), numbers, path)
             self.assertEqual({len(row) for row in rows.values()}, {fields}, path)
 
-    def test_nobody_writes_a_list_and_its_default_is_what_it_is(self):
-        self.put("Effect@Effect@Rename@Rename", MASK["M/E-1"] + ",1,NEW")
-        path = EFFECTS + "M/E-1"
-        before = self.rows(path)
-        self.text.send(f"put {path}#1,S,FORGED,U,N,0")
-        self.text.sync()
-        self.text.send(f"default {path}")
-        self.text.sync()
-        self.assertEqual(self.rows(path), before)
-        self.assertEqual(before[1][2], "NEW")
-
 
 class Commands(StoreTest):
     def test_lock_rename_and_delete_reach_every_region_of_the_mask_and_every_follower(self):
@@ -84,20 +73,6 @@ class Commands(StoreTest):
         self.assertEqual(self.put("Effect@Effect@Delete@Delete", MASK["both"] + ",1,99"), [])
         self.put("Effect@Effect@Lock@Lock", MASK["M/E-1"] + ",1,1,false")
         self.assertEqual(self.put("Effect@Effect@Delete@Delete", MASK["both"] + ",1,99"), [f"{one}#1,E,,U,N,0"])
-
-    def test_masks_name_the_regions(self):
-        for region in ("M/E-4", "M/E-1 Sub", "Dev5", "GPI"):
-            self.follow(EFFECTS + region)
-            told = self.put("Effect@Effect@Store@Store", MASK[region] + ",7,HERE")
-            self.assertEqual(told, [f"{EFFECTS}{region}#7,S,HERE,U,N,0"], region)
-        self.follow(SNAPSHOTS + "M/E-4@List", SNAPSHOTS + "P/P Sub@List", SNAPSHOTS + "RTR@List")
-        told = self.put("Snapshot@Snapshot@Store", "C00010,7,THREE")
-        self.assertEqual(told, [f"{SNAPSHOTS}{region}@List#7,THREE,S,,n,n,n" for region in ("M/E-4", "P/P Sub", "RTR")])
-        key = "Snapshot@Key Snapshot@Attribute@M/E-2@Key3@List"
-        self.follow(key)
-        self.assertEqual(self.put("Snapshot@Key Snapshot@Store", "0000000000000400,4,K"), [f"{key}#4,K,S"])
-        for mask in ("0000000000000000", "", "xyz", "-"):
-            self.assertEqual(self.put("Effect@Effect@Store@Store", mask + ",8,NONE"), [], mask)
 
     def test_copy_keeps_the_source_and_move_and_swap_do_not(self):
         lists = EFFECTS + "M/E-1", EFFECTS + "M/E-2"
@@ -131,13 +106,6 @@ class Commands(StoreTest):
         self.put(KEY_TYPE, "new")
         self.follow(KEY_TYPE, KEY_TYPE.replace("M/E-1", "M/E-2"))
         self.assertEqual(self.put("Snapshot@Snapshot@Recall", "4, 31"), [KEY_TYPE.replace("M/E-1", "M/E-2") + "#kept"])
-
-    def test_a_copy_to_the_sub_side_loses_its_background_when_it_is_corrected(self):
-        sub = SNAPSHOTS + "M/E-1 Sub@List"
-        for corrected, hold in (("false", "AB12U1"), ("true", "12U1")):
-            self.put("Snapshot@Snapshot@Copy@MP2 Auto Correct", corrected)
-            self.put("Snapshot@Snapshot@Copy", "2,10,10,1000000,40,false")
-            self.assertEqual(self.rows(sub)[40][3], hold)
 
     def test_every_attribute_is_kept_and_a_locked_register_keeps_its_own(self):
         attribute = "Snapshot@Snapshot@Attribute@"
@@ -319,32 +287,6 @@ class Recall(StoreTest, StreamTest):
         self.assertEqual(told, [f"{KEY_TYPE}#Linear", "M/E-2@Free#"])
         self.do("timelines")
         self.assertRegex(self.output(), "P/P selected #2 CREDITS KF [0-9]+/8 frame [0-9]+/175 running")
-
-    def test_an_effect_brings_back_how_its_region_looked(self):
-        self.put(KEY_TYPE, "old")
-        self.put("Effect@Effect@Store@Store", MASK["M/E-1"] + ",30")
-        self.put(KEY_TYPE, "new")
-        self.follow(KEY_TYPE)
-        self.assertEqual(self.put("Effect@Effect@Recall@Recall", MASK["M/E-1"] + ", 30"), [KEY_TYPE + "#old"])
-
-    def test_the_console_stores_recalls_and_lists_by_words(self):
-        self.do("store snapshot M/E-1 Sub 5 SUB SHOT", "store key M/E-1@Key3 2 K THREE", "store macro 9",
-                "list snapshot M/E-1 Sub", "list key M/E-1@Key3", "list macro", "store snapshot Nowhere 1", "recall plan 1",
-                "store effect M/E-1 100", "store effect", "list plan")
-        output = self.output()
-        self.assertIn(SNAPSHOTS + "M/E-1 Sub@List#5,SUB SHOT,S,,n,n,n\n", output)
-        self.assertIn("Snapshot@Key Snapshot@Attribute@M/E-1@Key3@List#2,K THREE,S\n", output)
-        self.assertIn("Macro@Register@List#9,S,MCRO9,U,9,0\n", output)
-        self.assertEqual(output.count("usage:"), 5)
-
-
-class Rules(StoreTest):
-    def test_a_pattern_key_has_no_clean_mode_and_no_key_position(self):
-        for what in ("Clean Mode", "Key Position"):
-            path = f"M/E-1@Key1@Type@{what}@"
-            for key_type, told in (("Luminance", []), ("Key Wipe Pattern", [f"{path}Key Wipe Pattern#false"])):
-                self.follow(path + key_type)
-                self.assertEqual(self.put(path + key_type, "true"), [f"{path}{key_type}#true"] + told)
 
 
 if __name__ == "__main__":

@@ -123,6 +123,13 @@ TEST_F(ButtonSheet, KeysThatLeadAndKeysOfTheFamily)
         Draw(4 + 98 * (id - 34), 292, c);
     }
 
+    // Trigger inputs are drawn, other captions written.
+    int x = 4;
+    for (const char* caption : {"_RISING", "_FALLING", "_LEVEL", "_ANY", "_OTHER"}) {
+        Draw(x, 364, {caption, BT_TOGGLE});
+        x += 98;
+    }
+
     // The operator's own key in each of its colours.
     shortcut_menu_data_tally(1, "11110000,Key 1");
     for (int color = 0; color < 8; color++) {

@@ -177,33 +177,6 @@ TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBank)
 
 // --- Draw ---
 
-TEST_F(ButtonFamily, TriggerInputsAreDrawnAndOtherCaptionsWritten)
-{
-    static const char* const captions[] = {"_RISING", "_FALLING", "_LEVEL", "_ANY", "_OTHER", ""};
-    std::vector<std::vector<uint32_t>> pictures;
-    for (const char* caption : captions) {
-        rows[0] = Button(17, BT_TOGGLE, {"~@0#*"});
-        rows[0].caption = caption;
-        rows[1] = {.id = -1};
-        Open(rows);
-        Pass(10);
-        const BT_MEM* b = bt_find(17);
-        for (const auto& other : pictures)
-            EXPECT_NE(PixelsIn({b->x1, b->y1, b->x2, b->y2}), other) << caption;
-        pictures.push_back(PixelsIn({b->x1, b->y1, b->x2, b->y2}));
-        const auto white = [&](int x, int y) { return PixelAt(b->x1 + x, b->y1 + y) == 0xFFFFFF; };
-        // The middle of the upper and of the lower line, and the feet.
-        EXPECT_EQ(white(45, 15), !strcmp(caption, "_RISING") || !strcmp(caption, "_LEVEL"))
-            << caption;
-        if (!strcmp(caption, "_FALLING")) {
-            EXPECT_TRUE(white(45, 35) && white(22, 15) && white(58, 15) && white(30, 25));
-        }
-        if (!strcmp(caption, "_ANY")) {
-            EXPECT_TRUE(white(32, 15) && white(51, 34) && white(32, 35) && white(51, 16));
-        }
-    }
-}
-
 TEST_F(ButtonFamily, ALightThatIsActiveHasABar)
 {
     constexpr uint32_t ORANGE = 0xE48B1B, DARK = 0xC86E05;
