@@ -116,6 +116,8 @@ static bool drive_folder(char (&path)[PATH_SIZE])
 
 // --- The files at the right ---
 
+static std::unordered_set<std::string> found_paths; // of xp.found
+
 static void drop_files()
 {
     (void)LS_SetNData(LIST_B, 0); // its texts go; -1: the list has gone already
@@ -125,6 +127,7 @@ static void drop_files()
         GDL_Free(xp.found);
         xp.found = next;
     }
+    found_paths.clear();
     xp.rows = xp.founds = 0;
 }
 
@@ -152,7 +155,7 @@ static bool is_same_clip(const XPORTFILE& a, const XPORTFILE& b)
 
 static bool is_same_row(const XPORTFILE* a, const XPORTFILE* b)
 {
-    return strcmp(a->path, b->path) == 0 || (is_clip_store() && is_same_clip(*a, *b));
+    return is_clip_store() && is_same_clip(*a, *b);
 }
 
 static bool stands_before(const XPORTFILE* a, const XPORTFILE* b)
@@ -180,8 +183,9 @@ static void show_files()
 static void add_file(const char* path, const char* time)
 {
     XPORTFILE read;
-    if (xp.founds == FILES_MAX || !Xport_Read(&read, path, time))
-        return;
+    if (xp.founds == FILES_MAX || !Xport_Read(&read, path, time) ||
+        !found_paths.insert(read.path).second)
+        return; // a server that ignores the case tells it in each search
     void* const room = GDL_Malloc(sizeof read);
     if (!room)
         return;

@@ -199,8 +199,9 @@ TEST_F(XportPage, ExportNamesFilesBySides)
 // Of the clip store: frames in their order under a folder of their clip, stills by their names.
 TEST_F(XportPage, ClipStoreTakesClipsFrameByFrame)
 {
-    OpenWith(CLIPS, {"intro#000009.TIF", "intro#000010.TIF", "intro#000009.TIF.SUB", "still.TIF",
-                     "still.TIF.SUB", "one#000004.TIF", "old/intro#000003.TIF"});
+    OpenWith(CLIPS,
+             {"intro#000009.TIF", "intro#000010.TIF", "intro#000009.TIF.SUB", "still.TIF",
+              "still.TIF.SUB", "one#000004.TIF", "old/intro#000003.TIF", "intro#000010.TIF"});
     EXPECT_THAT(Files(), ElementsAre("intro", "intro", "one", "still.TIF", "still.TIF.SUB"));
     EXPECT_EQ(Usable({BTN_XPORT_EXPORT, BTN_XPORT_IMPORT}), std::vector<int>{BTN_XPORT_IMPORT});
     Filescp_trnasferlist_init("CS1");
