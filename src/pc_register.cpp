@@ -88,10 +88,8 @@ static void show_region_key(int list, int button, int region)
     char(&caption)[CAPTION_SIZE] = rp.caption[list];
     const int others = selected_regions() - 1;
     const bool is_one = list == 1 && has_own_target();
-    if (is_dual())
-        CopyText(caption, rp.kind->regions[region].caption);
-    else
-        PrintText(caption, "Region\n%s", rp.kind->regions[region].caption);
+    const char* const word = others < 0 ? "None" : rp.kind->regions[region].caption;
+    PrintText(caption, "%s%s", is_dual() ? "" : "Region\n", word);
     if (others > 0 && !is_one) {
         AppendText(caption, " +");
         AppendText(caption, NumStr(others));

@@ -187,6 +187,14 @@ static void xpthold_xpthold_sel(bool on)
                           {mask_of_sort(), xh.no + 1, xh.no + 1}, text);
 }
 
+// The columns of the levels that the keys act on have a bright title.
+static void show_levels()
+{
+    for (int level = 0; xh.is_router && level < HOLD_RTR_LEVELS; level++)
+        (void)LS_HeaderDisable(LIST, COL_MARK + level, !PaneRTRLvl_IsSelected(level));
+    (void)LS_RedrawData(LIST);
+}
+
 static int button_pressed(const char* path, const char* value)
 {
     if (Same(path, XPT_HOLD "Xpt Hold"))
@@ -239,6 +247,7 @@ static int xpthold_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     case MSG_REDRAW: return xpthold_redraw();
     case LMSG_BTNSEL: return button_pressed(Text(ax), Text(bx));
     case LMSG_REGISTER: return register_changed(int(ax), int(bx), int(cx));
+    case LMSG_PANEQUIT: show_levels(); return 0;
     default: return 0;
     }
 }
@@ -259,6 +268,10 @@ static int xpthold_create(int on, uint32_t is_router)
     if (!xh.is_router && xh.region == SS_REGION_RTR)
         xh.region = SS_REGION_ME1;
     Register_StatusReport(1);
+    constexpr int ALL_LEVELS = (1 << HOLD_RTR_LEVELS) - 1;
+    if (PaneRTRLvl_Selected() == 0) // none yet: the keys act on all
+        PaneRTRLvl_SetSelect(ALL_LEVELS);
+    show_levels();
     name_rows();
     xpthold_xh_set();
     (void)LS_SetNData(LIST, xh.rows);
