@@ -4,20 +4,6 @@
 #include <set>
 
 struct Regions : PanePage {
-    std::vector<int> selected_before; // of all groups: what a test selects is given back
-    Regions()
-    {
-        for (const REGIONBTN& g : RegionBtn)
-            for (int i = 0; i < g.cells; i++)
-                selected_before.push_back(g.btnsel[i].select);
-    }
-    ~Regions() override
-    {
-        size_t n = 0;
-        for (const REGIONBTN& g : RegionBtn)
-            for (int i = 0; i < g.cells; i++)
-                g.btnsel[i].select = selected_before[n++];
-    }
     static void Select(int grp, std::initializer_list<std::pair<int, int>> cells)
     {
         for (int i = 0; i < RegionBtn[grp].cells; i++)
