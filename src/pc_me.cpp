@@ -5,22 +5,12 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
-#include "snapshot_region.h"
 #include "tally_value.h"
 #include "text.h"
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
-#include <iterator>
 #include "safeguards.h"
-
-const ME_SSREGION DMEWipeSSRegion[2 * ME_BANKS_SHOWN] = {
-    {0x00000002, "M/E-1"},     {0x00000004, "M/E-2"},     {0x00000008, "M/E-3"},
-    {0x00000010, "M/E-4"},     {0x00000020, "M/E-5"},     {0x00000001, "P/P"},
-    {0x01000000, "M/E-1 Sub"}, {0x02000000, "M/E-2 Sub"}, {0x04000000, "M/E-3 Sub"},
-    {0x08000000, "M/E-4 Sub"}, {0x10000000, "M/E-5 Sub"}, {0x00800000, "P/P Sub"},
-};
-static_assert(std::size(DMEWipeSSRegion) == WipeSSCmd.size());
 
 static const char* first_word()
 {

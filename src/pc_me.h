@@ -4,6 +4,7 @@
 #pragma once
 #include "a_pc.h"
 #include "me_bank.h"
+#include "register_region.h"
 #include "types.h"
 
 // --- The bank of the page that is shown ---
@@ -70,12 +71,8 @@ void ME_PullDownClosed(const ME_PULLDOWN& of, ME_PULLDOWN_STATE& now, int pane, 
 
 // --- Regions of the wipe and DME wipe snapshots ---
 
-struct ME_SSREGION {
-    unsigned bits; // in the command
-    const char* word;
-};
-// The rows stand in the order of WipeSSCmd and DMESSCmd, so that a row is a region of the mirror.
-extern const ME_SSREGION DMEWipeSSRegion[2 * ME_BANKS_SHOWN];
+// A row is a region of the mirror, by its place.
+inline constexpr const auto& DMEWipeSSRegion = WipeSSRegion;
 // The row of the page's bank and side.
 int ME_SnapshotRegion();
 

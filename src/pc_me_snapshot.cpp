@@ -197,7 +197,7 @@ static int snapshot_redraw(int elapsed_ms)
 
 static unsigned region_bits()
 {
-    return DMEWipeSSRegion[Snapshot.region].bits;
+    return unsigned(DMEWipeSSRegion[size_t(Snapshot.region)].bitmap);
 }
 
 static void recall(int place)
@@ -291,7 +291,7 @@ static void ask_for_missing_lines()
     for (int index = 0; index < KEYS; index++)
         if (!Snapshot.kind->tally(Snapshot.region, index)) {
             Net_SendCommandFormat("read %s%s@List", Snapshot.kind->commands,
-                                  DMEWipeSSRegion[Snapshot.region].word);
+                                  DMEWipeSSRegion[size_t(Snapshot.region)].cmd);
             return;
         }
 }

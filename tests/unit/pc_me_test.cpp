@@ -30,7 +30,7 @@ TEST_F(BankOfPage, TheBankOfAPageHasOneWordAndOneRegion)
         EXPECT_STREQ(word, c.word);
         EXPECT_EQ(Now_disp_draw(), c.index) << c.word;
         EXPECT_EQ(ME_SnapshotRegion(), c.region) << c.word;
-        EXPECT_EQ(DMEWipeSSRegion[ME_SnapshotRegion()].bits, c.bits) << c.word;
+        EXPECT_EQ(DMEWipeSSRegion[size_t(ME_SnapshotRegion())].bitmap, c.bits) << c.word;
     }
     CreatePage(PAGE_TOP); // no bank: the first one
     EXPECT_EQ(Now_disp_draw(), 0);
