@@ -33,11 +33,11 @@ struct TransForm {
     int rate;
 };
 constexpr TransForm same_form = {1, {36, -1}, {33, 34, 35}, 37, 51};
-constexpr TransForm independ_form = {2, {22, 38}, {51, -1, -1}, 52, -1};
+constexpr TransForm independ_form = {2, {22, 38}, {54, -1, -1}, 53, -1};
 
 // Where three keys would not fit.
 constexpr ME_PULLDOWN direction = {
-    51,
+    54,
     "Direction",
     {{"Normal", "Normal"}, {"Reverse", "Reverse"}, {"Normal/Reverse", "Norm/Rev"}},
     3};

@@ -55,12 +55,12 @@ static_assert(BoxesAreSound(nb_me_key_resizer_filter) && BoxesAreSound(nb_me_key
 static_assert(BoxesAreSound(nb_me_key_resizer_moire) && BoxesAreSound(nb_me_key_resizer_motion));
 
 inline constexpr BT_TBL bt_me_key_resizer_resproc[] = {
-    Radio ({.id = 17, .caption = "Field",   .group = "Video Process", .cmd = {"~@Mode#Field"}}),
-    Radio ({.id = 18, .caption = "Frame",   .group = "Video Process", .cmd = {"~@Mode#Frame"}}),
-    Radio ({.id = 19, .caption = "Auto",    .group = "Video Process", .cmd = {"~@Mode#Auto"}, .nb = nb_me_key_resizer_motion}),
-    Radio ({.id = 20, .caption = "Field",   .group = "Key Process", .cmd = {"~@Key Mode#Field"}}),
-    Radio ({.id = 21, .caption = "Frame",   .group = "Key Process", .cmd = {"~@Key Mode#Frame"}}),
-    Radio ({.id = 22, .caption = "As\nVideo", .group = "Key Process", .cmd = {"~@Key Mode#Video"}}),
+    Radio ({.id = 17, .caption = "Auto",    .group = "Video Process", .cmd = {"~@Mode#Auto"}, .nb = nb_me_key_resizer_motion}),
+    Radio ({.id = 18, .caption = "Field",   .group = "Video Process", .cmd = {"~@Mode#Field"}}),
+    Radio ({.id = 19, .caption = "Frame",   .group = "Video Process", .cmd = {"~@Mode#Frame"}}),
+    Radio ({.id = 20, .caption = "As\nVideo", .group = "Key Process", .cmd = {"~@Key Mode#Video"}}),
+    Radio ({.id = 21, .caption = "Field",   .group = "Key Process", .cmd = {"~@Key Mode#Field"}}),
+    Radio ({.id = 22, .caption = "Frame",   .group = "Key Process", .cmd = {"~@Key Mode#Frame"}}),
     Toggle({.id = 33, .caption = "Filter",  .group = "Sharpness", .cmd = {"~@Filter#*"}, .nb = nb_me_key_resizer_filter}),
     Toggle({.id = 34, .caption = "Auto\nFilter", .group = "Sharpness", .cmd = {"~@Filter@Auto#*"}}),
     Toggle({.id = 35, .caption = "Detail",  .group = "Sharpness", .cmd = {"~@Detail#*"}, .nb = nb_me_key_resizer_detail}),

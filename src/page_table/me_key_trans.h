@@ -87,11 +87,11 @@ inline constexpr BT_TBL bt_me_key_trans_independ[] = {
     Jump ({.id = 38, .caption = "Pattern\nSelect", .group = "OFF Transition", .cmd = {"LOCAL@M/E@Key@Transition@OFF Pattern"}}),
     KEY_ON(49),
     AUTO_TRANS(50),
-    // In a row that is full, one key shows the direction and opens the choice.
-    PullDownKey({.id = 51, .caption = "Direction", .group = "Wipe/DME Wipe", .cmd = {"LOCAL@M/E@Key@Transition@Direction", "~@Direction#"}}),
-    Jump ({.id = 52, .caption = "DME Wipe\nAdjust", .group = "Wipe/DME Wipe", .cmd = {"#+11170003"}}),
-    VIDEO_PROCESS(53),
-    UNITY(54),
+    VIDEO_PROCESS(51),
+    UNITY(52),
+    Jump ({.id = 53, .caption = "DME Wipe\nAdjust", .group = "Wipe/DME Wipe", .cmd = {"#+11170003"}}),
+    // In a row that is full, one key shows the direction and opens the choice, which stands at the right.
+    PullDownKey({.id = 54, .caption = "Direction", .group = "Wipe/DME Wipe", .cmd = {"LOCAL@M/E@Key@Transition@Direction", "~@Direction#"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_trans_independ));

@@ -17,8 +17,8 @@ TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
         {SAME, "Mix", "Wipe", {33, 34, 35, 36, 37}},
         {SAME, "Wipe", "Cut", {37}},
         {SAME, "DME Wipe", "Cut", {}},
-        {INDEPENDENT, "Mix", "Cut", {22, 38, 51, 52}},
-        {INDEPENDENT, "Wipe", "Cut", {38, 52}},
+        {INDEPENDENT, "Mix", "Cut", {22, 38, 53, 54}},
+        {INDEPENDENT, "Wipe", "Cut", {38, 53}},
         {INDEPENDENT, "Stinger", "DME Wipe", {22}},
     };
     for (const auto& c : cases) {
@@ -71,10 +71,10 @@ TEST_F(KeyTransitionPage, TheDirectionIsOneOfThree)
     // The other form has one key for it, which says what holds and opens the choice.
     Open(INDEPENDENT);
     TellAll(way, {"ON Transition Type#Wipe", "Direction#Normal/Reverse"});
-    EXPECT_STREQ(bt_find(51)->caption, "Norm/Rev");
+    EXPECT_STREQ(bt_find(54)->caption, "Norm/Rev");
     Tell(way + "Direction#null");
-    EXPECT_STREQ(bt_find(51)->caption, "Direction");
-    (void)Press(51);
+    EXPECT_STREQ(bt_find(54)->caption, "Direction");
+    (void)Press(54);
     const int pane = Pane_GetActiveID();
     ASSERT_NE(pane, 0);
     SendMessage(LMSG_PANEQUIT, MsgArg(pane + 1), 2, 0, 0);
