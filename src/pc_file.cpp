@@ -1,4 +1,5 @@
 #include "pc_file.h"
+#include "a_hf.h"
 #include "device.h"
 #include "err.h"
 #include "netio.h"
@@ -66,6 +67,14 @@ int File_GroupOf(FILEKIND kind)
     case KIND_DMESS: return has_sub_sides ? 31 : 18;
     }
     return 0;
+}
+
+// --- The tabs of the frame memory's pages ---
+
+void File_ShowFrameTabs()
+{
+    constexpr int TAB_FOLDER = 2;
+    (void)HF_SetDisplay(TAB_FOLDER, SYS_FmemV6); // -1: opened without its tabs
 }
 
 // --- After a transfer ---

@@ -97,6 +97,12 @@ enum FILEKIND : int {
 // The number in RegionBtn whose regions are those of the units here.
 int File_GroupOf(FILEKIND kind);
 
+// --- The tabs of the frame memory's pages ---
+
+// For their page code when it opens: the older frame memory has no folders, and no tab that leads
+// to them.
+void File_ShowFrameTabs();
+
 // --- After a transfer ---
 
 // Ask for what a load of the category may have changed; nothing for one that tells itself.

@@ -752,6 +752,8 @@ static int open(uint32_t page, bool is_detail)
     fd = {.kind = &file_kinds[page], .is_detail = is_detail};
     begin_visits(*fd.kind);
     BA_SetRegionGrp(FileKind_Group(*fd.kind));
+    if (is_frames() || fd.kind->page == FILEPAGE_FNAMEDATA)
+        File_ShowFrameTabs();
     Register_StatusReport(1);
     if (!is_detail && has_patch_link(*fd.kind))
         Net_SendCommand("add " PATCH_LINK);

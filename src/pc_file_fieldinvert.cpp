@@ -7,6 +7,7 @@
 #include "global.h"
 #include "message.h"
 #include "pane.h"
+#include "pc_file.h"
 #include "tally_value.h"
 #include "text.h"
 #include <cctype>
@@ -304,6 +305,7 @@ static int fieldinvert_create(int on, uint32_t)
     }
     fi = {};
     fi.is_open = true;
+    File_ShowFrameTabs();
     show_side();
     list_frames();
     return 0;

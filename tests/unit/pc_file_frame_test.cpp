@@ -137,6 +137,17 @@ TEST_F(FramePage, OlderMemoryLoadsByRow)
     EXPECT_EQ(Message(), DUPLICATE);
 }
 
+TEST_F(FramePage, OlderMemoryHasNoTabOfFolders)
+{
+    for (const int is_newer : {0, 1})
+        for (const uint32_t page : {is_newer ? NEW : OLD, 0x71530000u, 0x71540000u}) {
+            SYS_FmemV6 = is_newer;
+            Open(page);
+            (void)Touch(97 + 86 + 40, 560);
+            EXPECT_EQ(GL_CreatePage, is_newer ? FOLDERS_PAGE : 0) << std::hex << page;
+        }
+}
+
 TEST_F(FramePage, RenameKeepsTheSideAndGivesNoNameTwice)
 {
     Store({"Mlogo", "Slogo", "Mbeach"});
