@@ -63,8 +63,9 @@ static struct {
     int from_pane = 0;
     int to_pane = 0;
     int question_pane = 0;
-    int busy_pane = 0; // from the answer until the copy begins
-    uint32_t gathering = 0;
+    int busy_pane = 0;                        // from the answer until the copy begins
+    uint32_t gathering = 0;                   // label of the search for the source's files
+    uint32_t clearing = 0;                    // label of what is done to the target
     char device_caption[SIDES][CAPTION_SIZE]; // the buttons show them from here
     char from_caption[CAPTION_SIZE];
     char to_caption[CAPTION_SIZE];
@@ -326,43 +327,62 @@ static void idcopy_result(uint32_t, int k)
     list_side(SIDE_B);
 }
 
-// The directory has been cleared.
-static void cleared(uint32_t, int k, const char* reply)
+// Nothing is copied: it was cancelled, or it failed.
+static void give_up()
 {
-    Visit& v = visits[k];
-    const bool is_open = ic.kind == &kinds[k];
-    if (is_open)
-        end_busy();
-    if (is_open && reply[0] != 'N') {
-        if (File_ExecCopyList(&v.list, idcopy_result, k) > 0)
-            return;
-    } else if (is_open) {
+    end_busy();
+    forget_search(ic.gathering);
+    ic.clearing = 0; // what the server still does is nobody's any more
+    File_XferList_RemoveAll(&visit().list);
+}
+
+// The step of the target that ends; false: it is of a copy that was given up.
+static bool take_step(uint32_t label, int k)
+{
+    if (ic.kind != &kinds[k] || ic.clearing != label)
+        return false;
+    ic.clearing = 0;
+    return true;
+}
+
+// The directory has been cleared.
+static void cleared(uint32_t label, int k, const char* reply)
+{
+    if (!take_step(label, k))
+        return;
+    end_busy();
+    if (reply[0] != 'N' && File_ExecCopyList(&visit().list, idcopy_result, k) > 0)
+        return;
+    give_up();
+    if (reply[0] == 'N')
         refuse(reply);
-    }
-    File_XferList_RemoveAll(&v.list);
+}
+
+static bool step_of_target(int (*start)(const char* path, FILE_TEXT_FUNC retfunc, int tag),
+                           FILE_TEXT_FUNC ended)
+{
+    char path[PATH_SIZE];
+    const FILESIDE& to = visit().side[SIDE_B];
+    const int label = File_DirPath(path, sizeof path, to.device, to.dir)
+                          ? start(path, ended, int(ic.kind - kinds))
+                          : -1;
+    if (label < 1)
+        return false;
+    ic.clearing = uint32_t(label);
+    return true;
 }
 
 // The directory is there: what it holds goes.
-static void target_made(uint32_t, int k, const char*)
+static void target_made(uint32_t label, int k, const char*)
 {
-    char path[PATH_SIZE];
-    const bool is_open = ic.kind == &kinds[k];
-    const FILESIDE& to = visits[k].side[SIDE_B];
-    if (is_open && File_DirPath(path, sizeof path, to.device, to.dir) &&
-        File_ExecRmdir(path, cleared, k) > 0)
-        return;
-    File_XferList_RemoveAll(&visits[k].list);
+    if (take_step(label, k) && !step_of_target(File_ExecRmdir, cleared))
+        give_up();
 }
 
 static void clear_target()
 {
-    char path[PATH_SIZE];
-    const FILESIDE& to = visit().side[SIDE_B];
-    if (File_DirPath(path, sizeof path, to.device, to.dir) &&
-        File_ExecMkdir(path, target_made, int(ic.kind - kinds)) > 0)
-        return;
-    end_busy();
-    File_XferList_RemoveAll(&visit().list);
+    if (!step_of_target(File_ExecMkdir, target_made))
+        give_up();
 }
 
 // One item for each target.
@@ -396,8 +416,7 @@ static void gather_tly(uint32_t label, int k, const char* path, const char* cons
     }
     ic.gathering = 0;
     if (File_FindFailed()) { // nothing is cleared for half of the files
-        end_busy();
-        File_XferList_RemoveAll(&visit().list);
+        give_up();
         refuse("The source directory could not be read.");
         return;
     }
@@ -412,7 +431,7 @@ static void gather_tly(uint32_t label, int k, const char* path, const char* cons
 static void copy_exec()
 {
     char path[PATH_SIZE];
-    constexpr int cancel = 0;
+    constexpr int cancel = 1; // the link may be down, and nothing has been changed yet
     if (visit().list || !dir_of(SIDE_A, path))
         return;
     ic.busy_pane = PaneProgress_Create(ic.kind->name, "Preparing...", cancel);
@@ -484,6 +503,9 @@ static int pane_closed(int pane, int result)
     } else if (pane == ic.to_pane) {
         ic.to_pane = 0;
         show_ids();
+    } else if (pane == ic.busy_pane) {
+        ic.busy_pane = 0;
+        give_up(); // the copy itself has a pane of its own
     } else if (pane == ic.question_pane) {
         ic.question_pane = 0;
         if (result == yes)
@@ -509,10 +531,8 @@ static int leave()
 {
     if (!ic.kind)
         return 1;
-    end_busy();
-    if (ic.gathering != 0)
-        File_XferList_RemoveAll(&visit().list);
-    forget_search(ic.gathering);
+    if (ic.gathering != 0 || ic.clearing != 0)
+        give_up();
     for (Listing& l : ic.listing)
         forget_search(l.search);
     FileSelect_Close();

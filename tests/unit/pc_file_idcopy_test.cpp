@@ -179,6 +179,12 @@ TEST_F(FileIdCopyPage, NothingIsClearedForNothing)
                 IsEmpty());
     EXPECT_THAT(Answer(1), IsEmpty());
 
+    // Cancelled before the target is touched.
+    (void)Press(BTN_IDCOPY_COPY);
+    const Lines late = Found(Answer(1), {"SETUP/SWR000D001/A.DEV_0000.SST"});
+    EXPECT_THAT(Answer(1), IsEmpty());
+    EXPECT_THAT(Reply(late, "Mkdir", {"OK"}), IsEmpty());
+
     // The same directory at both sides.
     (void)Press(BTN_IDCOPY_DEVICE_B);
     (void)Reply(Answer(FILE_LOCAL + 1), "ListDir", {"OK"});
