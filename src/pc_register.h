@@ -27,7 +27,7 @@ constexpr uint32_t RegisterPageVar(REGKIND kind, REGSHAPE shape)
 
 extern const PC_TBL pc_register;        // argument: RegisterPageVar
 extern const PC_TBL pc_register_status; // the overview; argument: the kind
-extern const PC_TBL pc_register_edit;   // the links of a master; argument: the kind
+extern const PC_TBL pc_register_edit;   // the links of a master or shotbox; argument: the kind
 
 // Buttons that the code names.
 enum : int {
@@ -36,6 +36,7 @@ enum : int {
     BTN_REGISTER_REGION_2 = 4,
     BTN_REGISTER_WO_NAME = 50,
     BTN_REGISTER_AUTO_CORRECT = 51,
+    BTN_REGISTER_EDIT_SNAPSHOT = 50, // of a shotbox
 };
 
 // --- What a kind can do on its first page beyond the family ---

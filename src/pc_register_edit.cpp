@@ -1,6 +1,8 @@
-// The edit page of a master: which register it recalls in each region. Cells are chosen by touch
-// and take the number of the knob; nothing leaves the page before the store. The store sends the
-// links behind the number, in the order of the regions, 0 where a region is left alone.
+// The edit page of a master or a shotbox: which register it recalls in each region. Cells are
+// chosen by touch and take the number of the knob; nothing leaves the page before the store. The
+// store sends the links behind the number, in the order of the regions, 0 where a region is left
+// alone. A shotbox links an effect or, with "S" before its number, a snapshot of each region; here
+// such a link is below 0, as in a RegisterLine.
 #include "a_bt.h"
 #include "a_nb.h"
 #include "colours.h"
@@ -20,7 +22,8 @@ namespace
 {
 constexpr int SLOTS = 8;
 constexpr int LAYERS_MAX = 6;
-constexpr int LINKED_REGIONS = EFF_REGION_MACRO + 1; // of a timeline; a snapshot has fewer
+constexpr int LINKED_REGIONS = REGISTER_LINKS; // of a shotbox; the others have fewer
+constexpr int SHOTBOX_RTR = EFF_REGION_MASTER; // where its links go on behind the effects
 constexpr int NONE = -1;
 
 constexpr int FONT_CAPTION = 3;
@@ -67,13 +70,13 @@ static constexpr void SetLayer(LayerSlot (&layer)[SLOTS], int first,
         layer[i] = {first + int(i), captions[i]};
 }
 
-static constexpr Layers MakeLayers(bool is_effect, bool has_sub)
+static constexpr Layers MakeLayers(bool is_effect, bool has_sub, int router = NONE)
 {
     Layers all;
     int n = 0;
     SetLayer(all.slot[n++], SS_REGION_ME1, side_captions);
-    if (!is_effect)
-        all.slot[0][std::size(side_captions)] = {SS_REGION_RTR, "RTR"};
+    if (router != NONE)
+        all.slot[0][std::size(side_captions)] = {router, "RTR"};
     if (has_sub)
         SetLayer(all.slot[n++], SS_REGION_ME1_SUB, sub_captions);
     SetLayer(all.slot[n++], SS_REGION_USER1, user_captions);
@@ -84,10 +87,12 @@ static constexpr Layers MakeLayers(bool is_effect, bool has_sub)
     }
     return all;
 }
-static constexpr Layers LayerTblOrg = MakeLayers(false, false);
-static constexpr Layers MP2LayerTblOrg = MakeLayers(false, true);
+static constexpr Layers LayerTblOrg = MakeLayers(false, false, SS_REGION_RTR);
+static constexpr Layers MP2LayerTblOrg = MakeLayers(false, true, SS_REGION_RTR);
 static constexpr Layers EffectLayerTblOrg = MakeLayers(true, false);
 static constexpr Layers EffectMP2LayerTblOrg = MakeLayers(true, true);
+static constexpr Layers ShotboxLayerTblOrg = MakeLayers(true, false, SHOTBOX_RTR);
+static constexpr Layers ShotboxMP2LayerTblOrg = MakeLayers(true, true, SHOTBOX_RTR);
 
 namespace
 {
@@ -98,18 +103,26 @@ struct EditPage {
     int MasterEdit[LINKED_REGIONS] = {};
     int MasterUndo[LINKED_REGIONS] = {}; // what the last store has replaced
     bool EditData_Select[LAYERS_MAX][SLOTS] = {};
-    int current = 0;        // the master that was recalled last, 0 none
-    int knob = 0;           // that Assign writes
-    bool is_edited = false; // MasterEdit is not what the register holds
+    int current = 0;          // the master that was recalled last, 0 none
+    int knob = 0;             // that Assign writes
+    bool is_snapshot = false; // and of which sort, in a shotbox
+    bool is_edited = false;   // MasterEdit is not what the register holds
     bool redraw = false;
 };
 } // namespace
 
 static EditPage me; // valid from create(1) to create(0)
 
+static bool is_shotbox()
+{
+    return me.kind->kind == REGKIND_SHOTBOX;
+}
+
 static int regions_of_kind()
 {
-    return me.kind->mirror == REGISTER_SNAPSHOT ? int(SS_REGION_MASTER) : LINKED_REGIONS;
+    return me.kind->mirror == REGISTER_SNAPSHOT ? int(SS_REGION_MASTER)
+           : is_shotbox()                       ? LINKED_REGIONS
+                                                : int(EFF_REGION_MASTER);
 }
 
 // The regions that the links of the masters belong to.
@@ -200,13 +213,42 @@ static int swr_all_sel()
 
 // --- Keys ---
 
+// What the knob says, or what stands there where the region has no such register.
+static int assigned(int region, int link)
+{
+    const bool is_device = me.kind->mirror != REGISTER_SNAPSHOT && region >= EFF_REGION_DEV1 &&
+                           region <= EFF_REGION_PBUS;
+    const bool is_router = is_shotbox() && region == SHOTBOX_RTR;
+    const bool has_snapshots = region <= SS_REGION_DME8 || is_router;
+    if (me.knob == 0)
+        return 0;
+    if (me.is_snapshot)
+        return has_snapshots && me.knob <= REGISTERS ? -me.knob : link;
+    return !is_router && me.knob <= (is_device ? REGISTERS_EFFECT : REGISTERS) ? me.knob : link;
+}
+
 static int assign_sel()
 {
     for (int layer = 0; layer < LAYERS_MAX; layer++)
         for (int slot = 0; slot < SLOTS; slot++)
-            if (me.EditData_Select[layer][slot] && is_slot(layer, slot))
-                me.MasterEdit[me.layers.slot[layer][slot].region] = me.knob;
+            if (me.EditData_Select[layer][slot] && is_slot(layer, slot)) {
+                const int region = me.layers.slot[layer][slot].region;
+                me.MasterEdit[region] = assigned(region, me.MasterEdit[region]);
+            }
     me.is_edited = me.redraw = true;
+    return 0;
+}
+
+static void show_sort()
+{
+    if (is_shotbox())
+        (void)BT_SetStatus(BTN_REGISTER_EDIT_SNAPSHOT, me.is_snapshot ? BT_ON : BT_OFF);
+}
+
+static int snapshot_sel()
+{
+    me.is_snapshot = is_shotbox() && !me.is_snapshot;
+    show_sort();
     return 0;
 }
 
@@ -221,8 +263,8 @@ static void send_store()
 {
     char links[CMD_SIZE] = "";
     for (int region = 0; region < regions_of_kind(); region++) {
-        AppendText(links, ",");
-        AppendText(links, NumStr(me.MasterEdit[region]));
+        AppendText(links, me.MasterEdit[region] < 0 ? ",S" : ",");
+        AppendText(links, NumStr(std::abs(me.MasterEdit[region])));
     }
     Net_SendCommandFormat("put %s#%d%s", me.kind->commands->edit_store, number(), links);
     me.is_edited = false;
@@ -284,7 +326,8 @@ static void draw_slot(int layer, int slot)
     TDL_SymbolS(r.x1 + 5, r.y1 + 4, s.caption, FONT_CAPTION, is_on ? BLACK : LABEL);
     if (!link)
         return;
-    const char* const text = NumStr(link);
+    char text[8];
+    PrintText(text, "%s%d", link < 0 ? "S" : "", std::abs(link));
     TDL_SymbolS(r.x2 - 5 - int(TDL_GetSymbolWidth(text, FONT_NUMBER)), r.y1 + 27, text, FONT_NUMBER,
                 is_on ? BLACK : WHITE);
 }
@@ -320,9 +363,9 @@ static int cell_pressed(int x, int y)
 
 // By the end of the command, behind "Edit@".
 static constexpr RegisterTouch touches[] = {
-    {"All", all_sel},           {"SWR All", swr_all_sel},
-    {"Assign", assign_sel},     {"Recall", edit_recall_sel},
-    {"Store@Store", store_sel}, {"Store@Undo", undo_sel},
+    {"All", all_sel},         {"SWR All", swr_all_sel},    {"Snapshot", snapshot_sel},
+    {"Assign", assign_sel},   {"Recall", edit_recall_sel}, {"Store@Store", store_sel},
+    {"Store@Undo", undo_sel},
 };
 
 static int button_pressed(const char* command)
@@ -399,6 +442,8 @@ static int edit_create(int on, uint32_t kind)
     const bool has_sub = RegisterKind_HasSubSides();
     if (me.kind->mirror == REGISTER_SNAPSHOT)
         trim_layers(has_sub ? MP2LayerTblOrg : LayerTblOrg);
+    else if (is_shotbox())
+        trim_layers(has_sub ? ShotboxMP2LayerTblOrg : ShotboxLayerTblOrg);
     else
         trim_layers(has_sub ? EffectMP2LayerTblOrg : EffectLayerTblOrg);
     Register_StatusReport(1);
@@ -406,6 +451,7 @@ static int edit_create(int on, uint32_t kind)
     take_register();
     links_of_mirror(me.MasterUndo);
     (void)knob_turned(1);
+    show_sort();
     return 0;
 }
 

@@ -131,16 +131,20 @@ static constexpr RegisterCommands master_tl_commands = {
     .edit_recall = MASTER_TL_HEAD "Store/Recall@Edit@Recall",
     .edit_store = MASTER_TL_HEAD "Store/Recall@Edit@Store",
     .current = MASTER_TL_HEAD "Store/Recall@Current Register"};
-static constexpr RegisterCommands shotbox_commands = {.recall = SHOTBOX_HEAD "Store/Recall@Recall",
-                                                      .store = SHOTBOX_HEAD "Store/Recall@Store",
-                                                      .lock = SHOTBOX_HEAD "Lock",
-                                                      .unlock = SHOTBOX_HEAD "UnLock",
-                                                      .remove = SHOTBOX_HEAD "Delete",
-                                                      .rename = SHOTBOX_HEAD "Rename",
-                                                      .copy = RUNS(SHOTBOX_HEAD "Copy", nullptr),
-                                                      .move = RUNS(SHOTBOX_HEAD "Move", nullptr),
-                                                      .swap = RUNS(SHOTBOX_HEAD "Swap", nullptr),
-                                                      .list = SHOTBOX_HEAD "Store/Recall@List"};
+static constexpr RegisterCommands shotbox_commands = {
+    .recall = SHOTBOX_HEAD "Store/Recall@Recall",
+    .store = SHOTBOX_HEAD "Store/Recall@Store",
+    .lock = SHOTBOX_HEAD "Lock",
+    .unlock = SHOTBOX_HEAD "UnLock",
+    .remove = SHOTBOX_HEAD "Delete",
+    .rename = SHOTBOX_HEAD "Rename",
+    .copy = RUNS(SHOTBOX_HEAD "Copy", nullptr),
+    .move = RUNS(SHOTBOX_HEAD "Move", nullptr),
+    .swap = RUNS(SHOTBOX_HEAD "Swap", nullptr),
+    .list = SHOTBOX_HEAD "Store/Recall@List",
+    .edit_recall = SHOTBOX_HEAD "Store/Recall@Edit@Recall",
+    .edit_store = SHOTBOX_HEAD "Store/Recall@Edit@Store",
+    .current = SHOTBOX_HEAD "Store/Recall@Current Register"};
 #undef RUNS
 #undef SNAPSHOT_COMMANDS
 

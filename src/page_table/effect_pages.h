@@ -43,6 +43,7 @@ inline constexpr BT_TBL bt_effect_attribute[] = {
 inline constexpr BT_TBL bt_master_timeline[] = {
     Action(   {.id = 49, .caption = "Recall", .cmd = EF_MASTER("Recall")}),
     Action(   {.id = 50, .caption = "Store", .cmd = EF_MASTER("Store")}),
+    Jump(     {.id = 51, .caption = "Edit",  .cmd = {"#62110001"}}),
     BT_END,
 };
 #undef EF_MASTER
@@ -85,8 +86,10 @@ inline constexpr RegisterGroup effect_groups_of_pages[] = {
 inline constexpr auto effect_register_pages = RegisterRows(effect_groups_of_pages);
 
 inline constexpr BT_TBL bt_effect_status[] = REG_STATUS_KEYS(EF);
-static_assert(ButtonsAreSound(bt_effect_status));
+inline constexpr BT_TBL bt_master_timeline_edit[] = REG_EDIT_KEYS(EF "Master Timeline@Store/Recall@Edit@");
+static_assert(ButtonsAreSound(bt_effect_status) && ButtonsAreSound(bt_master_timeline_edit));
 inline constexpr PAGE effect_sub_pages[] = {
+    RegisterEditPage(effect_groups_of_pages[0], bt_master_timeline_edit, nb_register_edit_effect),
     RegisterStatusPage(0x62000000, "Effect", REGKIND_EFFECT, vf_effect, 7, bt_effect_status),
 };
 #undef EF

@@ -178,24 +178,28 @@ constexpr PAGE RegisterStatusPage(uint32_t id, const char* menu, REGKIND kind, c
             .obj = {Base(base_main), LeftTabs(left, tab), Buttons(keys), Boxes(nb_register_status), Code(pc_register_status, kind)}};
 }
 
-// --- The edit page of a master. menu is the literal up to "Edit@" ---
-#define REG_EDIT_KEYS(menu) {                                                                                           \
-    Action({.id = 49, .caption = "ALL",       .cmd = {menu "All"}}),                                                    \
-    Action({.id = 50, .caption = "SWR\nALL",  .cmd = {menu "SWR All"}}),                                                \
+// --- The edit page of a master or shotbox. menu is the literal up to "Edit@" ---
+#define REG_EDIT_KEYS(menu) REG_EDIT_KEYS_WITH(Action({.id = 50, .caption = "SWR\nALL", .cmd = {menu "SWR All"}}), menu)
+#define REG_EDIT_KEYS_WITH(second, menu) {                                                                              \
+    Action({.id = 49, .caption = "ALL",       .cmd = {menu "All"}}), second,                                            \
     Action({.id = 51, .caption = "Assign",    .cmd = {menu "Assign"}}),                                                 \
     Action({.id = 52, .caption = "Recall",    .cmd = {menu "Recall"}}),                                                 \
     Action({.id = 53, .caption = "Store",     .cmd = {menu "Store@Store"}}),                                            \
     Action({.id = 54, .caption = "Undo",      .cmd = {menu "Store@Undo"}}), BT_END}
 
+inline constexpr NB_TBL nb_register_edit_effect[] = { // devices have more registers
+    {.id = 1, .caption = "Register", .type = NB_INT, .min = 0, .max = REGISTERS_EFFECT, .cmd = "Panel@Common@Knob0", .scale = 1},
+    NB_END,
+};
 inline constexpr NB_TBL nb_register_edit[] = {
     {.id = 1, .caption = "Register", .type = NB_INT, .min = 0, .max = REGISTERS, .cmd = "Panel@Common@Knob0", .scale = 1},
     NB_END,
 };
-static_assert(BoxesAreSound(nb_register_edit));
+static_assert(BoxesAreSound(nb_register_edit) && BoxesAreSound(nb_register_edit_effect));
 
-constexpr PAGE RegisterEditPage(const RegisterGroup& g, const BT_TBL* keys)
+constexpr PAGE RegisterEditPage(const RegisterGroup& g, const BT_TBL* keys, const NB_TBL* knobs = nb_register_edit)
 {
     return {.id = g.id + 0x10001, .tree = {g.menu, g.word, g.first, "Edit"},
             .obj = {Base(base_sub, g.id + 0x10000), LeftTabs(g.left, g.tab), BottomTabs(g.bottom, 1), Buttons(keys),
-                    Boxes(nb_register_edit), Code(pc_register_edit, g.kind)}};
+                    Boxes(knobs), Code(pc_register_edit, g.kind)}};
 }

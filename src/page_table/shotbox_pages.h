@@ -16,6 +16,7 @@ inline constexpr BT_TBL bt_shotbox_store[] = {
     Toggle(   {.id = BTN_SHOTBOX_AUTO_RUN, .caption = "Auto\nRun", .cmd = {SB "Store/Recall@Auto Run#*"}}),
     Action(   {.id = 49, .caption = "Recall", .cmd = {SB "Store/Recall@Recall"}}),
     Action(   {.id = 50, .caption = "Store", .cmd = {SB "Store/Recall@Store"}}),
+    Jump(     {.id = 51, .caption = "Edit",  .cmd = {"#64110001"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_shotbox_store));
@@ -31,8 +32,13 @@ inline constexpr RegisterGroup shotbox_groups_of_pages[] = {
 inline constexpr auto shotbox_register_pages = RegisterRows(shotbox_groups_of_pages);
 
 inline constexpr BT_TBL bt_shotbox_status[] = REG_STATUS_KEYS(SB);
-static_assert(ButtonsAreSound(bt_shotbox_status));
+#define SB_EDIT SB "Store/Recall@Edit@"
+inline constexpr BT_TBL bt_shotbox_edit[] = REG_EDIT_KEYS_WITH(
+    Toggle({.id = BTN_REGISTER_EDIT_SNAPSHOT, .caption = "Snapshot", .cmd = {SB_EDIT "Snapshot#*"}}), SB_EDIT);
+#undef SB_EDIT
+static_assert(ButtonsAreSound(bt_shotbox_status) && ButtonsAreSound(bt_shotbox_edit));
 inline constexpr PAGE shotbox_sub_pages[] = {
+    RegisterEditPage(shotbox_groups_of_pages[0], bt_shotbox_edit, nb_register_edit_effect),
     RegisterStatusPage(0x64000000, "Shotbox", REGKIND_SHOTBOX, vf_shotbox, 7, bt_shotbox_status),
 };
 #undef SB

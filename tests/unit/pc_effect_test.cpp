@@ -5,7 +5,7 @@
 #include "pc_effect.h"
 #include "pc_shotbox.h"
 #include "table_page.h"
-#include <cstring>
+#include <map>
 
 namespace
 {
@@ -147,6 +147,50 @@ TEST_F(EffectPages, AShotboxShowsWhatItLinks)
     EXPECT_EQ(BT_GetStatus(BTN_SHOTBOX_AUTO_RUN), BT_ON);
     EXPECT_THAT(Puts(BTN_SHOTBOX_AUTO_RUN), IsEmpty()); // it is locked
     EXPECT_THAT(Puts(50), IsEmpty());
+}
+
+// Cells are 75 x 55 from (102, 102).
+TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
+{
+    enum : int { SNAPSHOT = 50, ASSIGN = 51, STORE = 53, UNDO = 54 };
+    const auto assign = [](int knob, std::vector<std::pair<int, int>> cells) {
+        for (const auto& [column, line] : cells)
+            (void)Touch(110 + 75 * column, 110 + 55 * line);
+        SendMessage(LMSG_KNOBVAR, 1, knob, 0, 0);
+        (void)Press(ASSIGN);
+        Pass(1000); // the key is up again
+        for (const auto& [column, line] : cells)
+            (void)Touch(110 + 75 * column, 110 + 55 * line);
+    };
+    const std::pair<int, int> me1 = {0, 0}, me2 = {1, 0}, rtr = {6, 0}, dev1 = {0, 4};
+    const auto links = [](std::map<int, std::string> some, int n) {
+        std::string text;
+        for (int i = 0; i < n; i++)
+            text += "," + (some.contains(i) ? some[i] : "0");
+        return text;
+    };
+    static const std::string edit = "put Shotbox@Register@Store/Recall@Edit@Store#1";
+    Open(0x64110001);
+    assign(200, {me1, dev1}); // a bank has 99 registers
+    assign(12, {me2, rtr});   // the router has snapshots only
+    (void)Press(SNAPSHOT);
+    assign(7, {me1, rtr, dev1}); // a device has none
+    EXPECT_THAT(Puts(STORE), ElementsAre(edit + links({{SS_REGION_ME1, "S7"},
+                                                       {SS_REGION_ME2, "12"},
+                                                       {EFF_REGION_DEV1, "200"},
+                                                       {EFF_REGION_MASTER, "S7"}},
+                                                      REGISTER_LINKS)));
+    EXPECT_THAT(Puts(UNDO), IsEmpty()); // no line of the server has come: it holds what it held
+    Pass(1000);
+    Deliver(SHOTS, "1,SHOT1,U,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
+    EXPECT_THAT(Puts(UNDO), ElementsAre(edit + links({}, REGISTER_LINKS)));
+    Pass(1000);
+    Deliver(SHOTS, "1,SHOT1,L,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
+    EXPECT_THAT(Puts(STORE), IsEmpty()); // it is locked
+    Open(0x62110001);
+    assign(3, {me1});
+    EXPECT_THAT(Puts(STORE), ElementsAre("put Effect@Master Timeline@Store/Recall@Edit@Store#1" +
+                                         links({{SS_REGION_ME1, "3"}}, EFF_REGION_MASTER)));
 }
 
 TEST_F(EffectPages, TheOverviewCopiesEachRegionThatHoldsTheRegister)
