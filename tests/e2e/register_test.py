@@ -3,6 +3,7 @@ hold, locks, renames, copies, deletes and swaps; masters, effects and shotboxes;
 
 usage: register_test.py BUILD_DIR [TEST...]
 """
+import re
 import time
 import unittest
 
@@ -48,14 +49,24 @@ class Registers(DeskCase):
         self.desk.touch(*grid(button_id), settle=0.3)
         self.assert_puts(*lines)
 
-    def assert_puts(self, *lines):
-        end, puts = time.monotonic() + 3, []
-        while time.monotonic() < end and len(puts) < max(len(lines), 1):
-            puts += [line for line in self.desk.wire() if line.startswith("put ") and "File@" not in line]
+    def puts(self, count):
+        """So many puts, if they come in time; with 0 some time without any."""
+        end, puts = time.monotonic() + (3 if count else 0.5), []
+        while time.monotonic() < end and len(puts) < max(count, 1):
+            puts += [line for line in self.desk.wire() if re.match("put (?!File@|TopMenu)", line)]
             time.sleep(0.05)
-            if not lines and time.monotonic() > end - 2.5:
-                break
-        self.assertEqual(puts, list(lines))
+        return puts
+
+    def assert_puts(self, *lines):
+        self.assertEqual(self.puts(len(lines)), list(lines))
+
+    def links(self, button_id, head):
+        """What a key of an edit page stores."""
+        self.desk.wire()
+        self.desk.touch(*grid(button_id), settle=0.3)
+        (line,) = self.puts(1)
+        self.assertTrue(line.startswith(head + ","), line)
+        return line[len(head) + 1:].split(",")
 
     def delete(self, *lines):
         self.press(51)
@@ -138,6 +149,15 @@ class Registers(DeskCase):
         self.set_all("Chroma")
         self.press(49, MASTER + "Store/Recall@Recall#4")
         self.assertEqual(self.values(), ["Linear"] * 3)
+        self.press(51)  # to the edit page
+        time.sleep(0.5)
+        self.desk.touch(110, 112)  # M/E-1
+        self.desk.console("knob 0 +9")
+        time.sleep(0.2)
+        self.press(51)
+        stored = self.links(53, MASTER + "Store/Recall@Edit@Store#4")
+        self.assertEqual(stored[:2], ["10", "5"])
+        self.assertEqual(self.links(54, MASTER + "Store/Recall@Edit@Store#4"), ["5"] + stored[1:])
 
     def test_5_an_effect_is_recalled_dissolved_copied_and_merged(self):
         self.page(6221)
@@ -168,6 +188,16 @@ class Registers(DeskCase):
         self.assertNotEqual(self.shown(1), before)
         self.row(3)
         self.press(50, SHOTBOX + "Store/Recall@Store#3")
+        self.press(51)  # to the edit page
+        time.sleep(0.5)
+        self.desk.touch(110 + 75, 112)  # M/E-2
+        self.press(50)  # a snapshot
+        self.press(51)
+        self.assertEqual(self.links(53, SHOTBOX + "Store/Recall@Edit@Store#3")[1], "S1")
+        self.page(6411)
+        self.desk.console("set M/E-2@Misc@Transition@Transition Rate#99")
+        self.press(49, SHOTBOX + "Store/Recall@Recall#3")
+        self.assertEqual(self.desk.value("M/E-2@Misc@Transition@Transition Rate"), "30")
 
     def test_7_another_panel_shows_at_once_and_in_its_list_only(self):
         for page, command, rows in (
