@@ -50,8 +50,8 @@ struct Side {
     int folders = 0;                        // with the default one, which is the first
     char shown[64];                         // whose rows these are
     bool was_selected[2 * FMEM_EXTENDED];   // registers, while their rows are made anew
-    int was_now = -1;
-    int frames = 0; // cells in use
+    int was_now = 0;                        // the first of them, -1 none
+    int frames = 0;                         // cells in use
     char folder[FOLDER_ROWS][FRAME_FOLDER_SIZE];
     char folder_text[FOLDER_ROWS][sizeof BEHIND_MARK + FRAME_FOLDER_SIZE];
 };
