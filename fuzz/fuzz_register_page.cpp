@@ -1,0 +1,153 @@
+// The pages of the stored registers under any server. The input is lines: "@6321.1" opens a page,
+// "!3" touches its third key, "*200,157" the screen, "?1" answers the pane on top, "+7" turns the
+// knob, "path#value" is a line of the server's. Whatever is told, a command goes to registers that
+// there are, from the first to the last of a run.
+#include "a_bt.h"
+#include "bus.h"
+#include "command.h"
+#include "device.h"
+#include "global.h"
+#include "message.h"
+#include "netio.h"
+#include "page.h"
+#include "pane.h"
+#include "pc_register.h"
+#include "register.h"
+#include "tdl.h"
+#include "text.h"
+#include "window.h"
+#include <SDL.h>
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+static void Check(bool ok, const std::string& what)
+{
+    if (ok)
+        return;
+    fprintf(stderr, "%s\n", what.c_str());
+    abort();
+}
+
+static void Begin()
+{
+    setenv("SDL_VIDEODRIVER", "dummy", 1);
+    SDL_Surface* surface =
+        SDL_Init(SDL_INIT_VIDEO) == 0 ? SDL_SetVideoMode(SCREEN_W, SCREEN_H, 32, 0) : nullptr;
+    Check(surface, "no screen");
+    (void)TDL_Init(surface); // there are no fonts here, and nothing is drawn
+    Device_Init();
+    DeviceStructure();
+    std::fill_n(multiprogram2_me, ME_COUNT, 1);
+}
+
+// "...@Lock#MASK,FROM,TO": the verbs that go to a run of registers.
+static void CheckRun(const std::string& line)
+{
+    static const char* const verbs[] = {"@Lock#", "@UnLock#", "@Delete#",  "@Copy#",
+                                        "@Move#", "@Swap#",   "@Xpt Hold#"};
+    for (const char* verb : verbs) {
+        const size_t at = line.find(verb);
+        if (at == std::string::npos)
+            continue;
+        const bool has_mask =
+            line.find("Master") == std::string::npos && line.find("Shotbox") == std::string::npos;
+        const size_t value = at + strlen(verb);
+        const size_t from_at = has_mask ? line.find(',', value) + 1 : value;
+        const size_t to_at = line.find(',', from_at) + 1;
+        Check(from_at > 0 && to_at > 0, line);
+        const int from = atoi(line.c_str() + from_at);
+        const int to = atoi(line.c_str() + to_at);
+        Check(from >= 1 && from <= to && to < 400, line);
+    }
+}
+
+static void TakeCommands()
+{
+    char text[CMD_SIZE];
+    while (Net_TakeQueued(text, sizeof text))
+        if (BeginsWith(text, "put Snapshot@") || BeginsWith(text, "put Effect@") ||
+            BeginsWith(text, "put Shotbox@"))
+            CheckRun(text);
+}
+
+static void Touch(int n)
+{
+    BT_MEM* b = bt_first();
+    for (int i = 1; i < n && b->id >= 1; i++)
+        b++;
+    if (b->id >= 1 && b->visible == BT_ENABLED && IsLocal(b->cmd[0]))
+        SendMessage(LMSG_BTNSEL, Arg(b->cmd[0]), Arg(b->cmd_var[0]), 0, 0);
+    Window_ReserveQuit(0); // what it has opened is answered
+}
+
+// "X,Y", a finger on the screen, through the pass in which a pane acts.
+static void Press(const char* text)
+{
+    const int x = atoi(text);
+    const int y = strchr(text, ',') ? atoi(strchr(text, ',') + 1) : 0;
+    SendMessage(MSG_PRESS, x, y, 0, 0);
+    SendMessage(MSG_RELEASE, x, y, 0, 0);
+    SendMessage(MSG_REDRAW, 200, 0, 0, 0);
+}
+
+static void Answer(int result)
+{
+    const int pane = Pane_GetActiveID();
+    if (pane == 0)
+        return;
+    (void)Pane_Quit(pane);
+    SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
+}
+
+static void Open(const char* number)
+{
+    char* sub = nullptr;
+    const uint32_t page = uint32_t(strtoul(number, &sub, 16)) << 16;
+    (void)CreatePage(page | (*sub == '.' ? uint32_t(strtoul(sub + 1, nullptr, 16)) & 0xFFFF : 0));
+}
+
+static void Step(const std::string& line)
+{
+    switch (line[0]) {
+    case '@': Open(line.c_str() + 1); break;
+    case '!': Touch(atoi(line.c_str() + 1)); break;
+    case '?': Answer(atoi(line.c_str() + 1)); break;
+    case '*': Press(line.c_str() + 1); break;
+    case '+': SendMessage(LMSG_KNOBVAR, 1, atoi(line.c_str() + 1), 0, 0); break;
+    default:
+        if (line.find('#') != std::string::npos && !line.starts_with("Engineering"))
+            SendDummyTally(line.c_str());
+    }
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    if (GL_CreatePage != 0)
+        (void)CreatePage(GL_CreatePage);
+    GL_CreatePage = 0;
+    TakeCommands();
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    static const bool is_begun = (Begin(), true);
+    (void)is_begun;
+    (void)CreatePage(PAGE_TOP);
+    TakeCommands();
+    const std::string text(reinterpret_cast<const char*>(data), size);
+    for (size_t at = 0; at < text.size();) {
+        const size_t end = std::min(text.find('\n', at), text.size());
+        if (end > at)
+            Step(text.substr(at, std::min<size_t>(end - at, 900)));
+        at = end + 1;
+    }
+    while (Pane_GetActiveID())
+        Answer(0);
+    (void)CloseWindow(); // none is open: fine
+    (void)CreatePage(PAGE_TOP);
+    RegisterPages_Reset();
+    Register_Free();
+    TakeCommands();
+    return 0;
+}
