@@ -218,7 +218,7 @@ int File_DirRead(int drive, void (*done)(int tag), int tag)
 
 // --- Choosing ---
 
-int File_DrivePane(int drives, int selected)
+int File_DrivePane(int drives)
 {
     static constexpr const char* captions[FILE_DRIVES] = {"Register", "Local\nDrive",
                                                           "Removable\nDrive", "Network"};
@@ -226,7 +226,7 @@ int File_DrivePane(int drives, int selected)
     int n = 0;
     for (int drive = 0; drive < FILE_DRIVES; drive++)
         if (drives & 1 << drive)
-            cells[n++] = {drive + 1, captions[drive], drive == selected};
+            cells[n++] = {drive + 1, captions[drive]};
     return n > 0 ? PanePopup_Create(1, n, cells) : 0;
 }
 
@@ -272,7 +272,7 @@ int FileSelect_Device(FILESIDE* side, int drives, void (*chosen)(int tag), int t
 {
     choice_turn++;
     choice = {.side = side, .chosen = chosen, .tag = tag};
-    choice.pane = File_DrivePane(drives, side->device);
+    choice.pane = File_DrivePane(drives);
     if (choice.pane == 0)
         choice = {};
     return choice.side ? 0 : -1;

@@ -48,9 +48,9 @@ struct FILESIDE {
 constexpr int FILE_DRIVES_ALL = 0x0F;
 constexpr int FILE_DRIVES_DISK = 0x0E;
 
-// The pane of the drives, the selected one marked. Its result is the FILEDRIVE + 1, 0 "Cancel". 0
-// when none is offered.
-int File_DrivePane(int drives, int selected);
+// The pane of the drives. None is marked: a touch of a marked key goes for nothing. Its result is
+// the FILEDRIVE + 1, 0 "Cancel". 0 when none is offered.
+int File_DrivePane(int drives);
 
 // Let the operator choose a drive and then a directory of it, or with FileSelect_Dir a directory of
 // the drive that the side has. side is written and chosen called when the choice is whole; until

@@ -120,7 +120,7 @@ static void show_drive()
 
 static void choose_device()
 {
-    dp.device_pane = File_DrivePane(FILE_DRIVES_DISK, DevDirectory);
+    dp.device_pane = File_DrivePane(FILE_DRIVES_DISK);
 }
 
 static void take_device(int device)

@@ -12,8 +12,12 @@ class DeskCase(unittest.TestCase):
     """One start-up serves all tests."""
 
     @classmethod
+    def make_desk(cls):
+        return Desk(BUILD)
+
+    @classmethod
     def setUpClass(cls):
-        cls.desk = Desk(BUILD)
+        cls.desk = cls.make_desk()
         cls.addClassCleanup(cls.desk.close)
         cls.desk.start_app()
         cls.desk.wait_wire(INITIAL_READ_END, 20)
