@@ -38,7 +38,7 @@ class FramePages(DeskCase):
         self.fail(f"{begin!r} did not come; the wire said {lines[-8:]}")
 
     def touch(self, x, y):
-        self.desk.touch(x, y, 0.2)
+        self.desk.touch(x, y, 0.15)
 
     def show(self, number):
         self.desk.console(f"page {number}")
@@ -54,7 +54,7 @@ class FramePages(DeskCase):
 
     def type(self, text, erase=0):
         def key(row, column):
-            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, 0.12)
+            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, 0.1)
         for _ in range(erase):
             key(4, 9.5)
         for c in text:
