@@ -91,7 +91,7 @@ static void show_region_key(int list, int button, int region)
     const char* const word = others < 0 ? "None" : rp.kind->regions[region].caption;
     PrintText(caption, "%s%s", is_dual() ? "" : "Region\n", word);
     if (others > 0 && !is_one) {
-        AppendText(caption, " +");
+        AppendText(caption, "\n+");
         AppendText(caption, NumStr(others));
     }
     (void)BT_SetCaption(button, caption);

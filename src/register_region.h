@@ -89,11 +89,30 @@ constexpr auto Sides()
     return table;
 }
 
+// "ME1 Key1"
+struct KeyCaption {
+    char text[12] = "";
+};
+constexpr auto KeyCaptions()
+{
+    constexpr const char* banks[] = {"ME1", "ME2", "ME3", "ME4", "ME5", "P/P"};
+    std::array<KeyCaption, KeySSCmd.size()> captions{};
+    for (size_t i = 0; i < captions.size(); i++) {
+        char* to = captions[i].text;
+        for (const char* from : {banks[i / REGION_KEYS], " Key"})
+            while (*from)
+                *to++ = *from++;
+        *to = char('1' + i % REGION_KEYS);
+    }
+    return captions;
+}
+inline constexpr auto key_captions = KeyCaptions();
+
 constexpr auto Keys()
 {
     std::array<SSREGION, KeySSCmd.size() + 1> table{};
     for (size_t i = 0; i < KeySSCmd.size(); i++)
-        table[i] = {uint64_t(1) << i, int(REGION_ID_KEY + i), KeySSCmd[i], KeySSCmd[i]};
+        table[i] = {uint64_t(1) << i, int(REGION_ID_KEY + i), KeySSCmd[i], key_captions[i].text};
     return table;
 }
 } // namespace region_table
