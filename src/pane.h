@@ -113,8 +113,9 @@ const char* PaneRegion_GetGrpFIRegion_DualProc(int grp, int main, int sub);
 const char* PaneRegion_GetGrpFIExt(int grp, int main, int sub);
 const char* PaneRegion_GetGrpCategoryStr(int grp);
 int PaneRegion_GetGrpMainSub(int grp, int id, int* main,
-                             int* sub);     // 0, or -1 when the id is not there
-int PaneRegion_IsSelected(int grp, int id); // 0, 1, 2 the reference
-int PaneRegion_GetRef(int grp);             // id of the reference, 0 none
+                             int* sub);             // 0, or -1 when the id is not there
+const char* PaneRegion_GetCaption(int grp, int id); // of its cell; "" when it has none
+int PaneRegion_IsSelected(int grp, int id);         // 0, 1, 2 the reference
+int PaneRegion_GetRef(int grp);                     // id of the reference, 0 none
 // Without a switcher the first effects channel is the reference. -1 unknown group.
 int PaneRegion_SetDefaultSelected(int grp);

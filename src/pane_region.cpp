@@ -481,6 +481,15 @@ int PaneRegion_GetGrpMainSub(int grp, int id, int* main, int* sub)
     return -1;
 }
 
+const char* PaneRegion_GetCaption(int grp, int id)
+{
+    const REGIONBTN* g = group_of(grp);
+    for (int i = 0; g && id > 0 && i < g->cells; i++)
+        if (g->btnsel[i].id == id)
+            return g->btnsel[i].caption;
+    return "";
+}
+
 int PaneRegion_IsSelected(int grp, int id)
 {
     const REGIONBTN* g = group_of(grp);

@@ -88,7 +88,12 @@ static void show_region_key(int list, int button, int region)
     char(&caption)[CAPTION_SIZE] = rp.caption[list];
     const int others = selected_regions() - 1;
     const bool is_one = list == 1 && has_own_target();
-    const char* const word = others < 0 ? "None" : rp.kind->regions[region].caption;
+    const SSREGION& one = rp.kind->regions[region];
+    const char* const name =
+        rp.kind->has_dme_groups
+            ? PaneRegion_GetCaption(rp.kind->group(), one.id) // a run of channels
+            : one.caption;
+    const char* const word = others < 0 ? "None" : name;
     PrintText(caption, "%s%s", is_dual() ? "" : "Region\n", word);
     if (others > 0 && !is_one) {
         AppendText(caption, "\n+");

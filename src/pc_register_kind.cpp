@@ -370,6 +370,16 @@ void RegisterKind_Path(const RegisterKind& kind, const char* pattern, int region
     ktr_strncat(path, at + 2, size);
 }
 
+int RegisterKind_SelectorRow(const RegisterKind& kind, int region)
+{
+    const auto has_cell = [&kind](int row) {
+        return *PaneRegion_GetCaption(kind.group(), kind.regions[row].id) != '\0';
+    };
+    while (kind.has_dme_groups && region > SS_REGION_DME1 && !has_cell(region))
+        region--;
+    return region;
+}
+
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind)
 {
     uint64_t mask = 0;

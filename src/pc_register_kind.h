@@ -96,6 +96,8 @@ int RegisterKind_Regions(const RegisterKind& kind);
 // The path of a command that has "%s" for the region, if it has.
 void RegisterKind_Path(const RegisterKind& kind, const char* pattern, int region, char* path,
                        int size);
+// The region that stands for this one in the selector: a group of channels has its first one there.
+int RegisterKind_SelectorRow(const RegisterKind& kind, int region);
 // The bits of all regions that are selected in the kind's selector; 0 for none.
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind);
 // Place of the reference in the region table. Without a reference: of the first selected region,

@@ -242,10 +242,11 @@ bool RegisterDetail_Has(const RegisterKind& kind)
 
 static unsigned ink_of(const RegisterKind& kind, int reference, int region, int no)
 {
-    const int exists = RegisterKind_RegionExist(kind, kind.regions[region].id, no);
+    const int row = RegisterKind_SelectorRow(kind, region);
+    const int exists = RegisterKind_RegionExist(kind, kind.regions[row].id, no);
     if (exists == 0)
         return STRIP_EMPTY;
-    return region == reference ? CYAN : exists > 0 ? WHITE : ORANGE;
+    return row == RegisterKind_SelectorRow(kind, reference) ? CYAN : exists > 0 ? WHITE : ORANGE;
 }
 
 static void draw_group(const StripGroup& g, const RegisterKind& kind, int reference, int no,
