@@ -37,7 +37,7 @@ static RegisterLine* begin_line(const RegisterKind& kind, const char* number, co
         return nullptr;
     RegisterLine& line = lines[*index];
     line = {};
-    PrintText(line.no, "%d", kind.first_number + *index);
+    CopyText(line.no, NumStr(kind.first_number + *index));
     strncpy_secu(line.name, name, sizeof line.name, NAME_MAX_LEN);
     return &line;
 }
@@ -127,7 +127,7 @@ int effect_setdata(const RegisterKind& kind, const char* text, RegisterLine* lin
     set_status(line, *f.v[1] == 'E', *f.v[3] == 'L');
     line->dur = int(NumberIn(f.v[5], 0, 9999));
     if (*f.v[4] == 'D')
-        PrintText(line->effdiss, "%d", line->dur);
+        CopyText(line->effdiss, NumStr(line->dur));
     return index;
 }
 
@@ -213,7 +213,7 @@ static_assert(int(EFF_REGION_DEV1) == int(SS_REGION_RTR));
 static void print_link(char (&text)[5], int link)
 {
     if (link > 0)
-        PrintText(text, "%d", link);
+        CopyText(text, NumStr(link));
     else if (link < 0)
         PrintText(text, "S%d", -link);
 }

@@ -55,7 +55,7 @@ static bool take_line(int n, int no)
     const char* const raw = register_mirrors[side.kind->mirror].tally(mirror_row(side), no);
     if (!raw || side.kind->setdata(*side.kind, raw, lines[n]) != no) {
         lines[n][no] = {};
-        PrintText(lines[n][no].no, "%d", side.kind->first_number + no);
+        CopyText(lines[n][no].no, NumStr(side.kind->first_number + no));
     }
     if (side.kind->complete)
         side.kind->complete(mirror_row(side), no, &lines[n][no]);

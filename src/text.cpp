@@ -1,5 +1,6 @@
 #include "text.h"
 #include <cctype>
+#include <charconv>
 #include <cstdint>
 #include <cstring>
 #include <strings.h>
@@ -122,6 +123,6 @@ int StrNICmp(const char* a, const char* b, size_t n)
 
 const char* NumStr(int n)
 {
-    PrintText(NumBuf, "%d", n);
+    *std::to_chars(NumBuf, NumBuf + sizeof NumBuf - 1, n).ptr = '\0'; // any int fits
     return NumBuf;
 }
