@@ -13,8 +13,10 @@
 #include "text.h"
 #include "timecode.h"
 #include <algorithm>
+#include <iterator>
 #include "safeguards.h"
 
+#define OUTPUT_STATUS "Frame Mem 2@Clip/Still@Output Status@FM"
 #define AUTO_PLAY "LOCAL@Snapshot@Attribute@Frame Memory@Auto Play"
 
 namespace
@@ -24,12 +26,16 @@ constexpr int FONT_HEAD = 3;
 constexpr Rect HEAD = {100, 372, 560, 392};
 constexpr int HOURS = 4; // down to frames
 constexpr int SUB_REGIONS = int(ClipEventSubREG.size());
-enum : int { COL_REGION, COL_AUTO, COL_NAME, COL_LOOP, COL_START, COL_STOP };
+enum : int { COL_REGION, COL_AUTO, COL_NAME, COL_LOOP, COL_START, COL_STOP, COL_OUTPUT };
 enum : int { CELL_USUAL = 0, CELL_EMPTY = 1 };
+
+// What an output of the frame memory does, by the server's number.
+constexpr const char* output_status[] = {"", "Black", "Through", "Freeze", "Rec", "Play"};
 
 struct ClipRow {
     char start[16] = "";
     char stop[16] = "";
+    const char* output = "";
 };
 } // namespace
 
@@ -49,7 +55,7 @@ static void show_row(int sub)
     const int user = cp.user, no = cp.no;
     const bool is_event = ClipEvent_Tally_Event(user, sub, no) != 0;
     ClipRow& row = cp.row[sub];
-    row = {};
+    *row.start = *row.stop = '\0';
     if (is_event) {
         CopyText(row.start, Frame2TC(ClipEvent_Tally_Start_TC(user, sub, no), HOURS));
         CopyText(row.stop, Frame2TC(ClipEvent_Tally_Stop_TC(user, sub, no), HOURS));
@@ -61,6 +67,7 @@ static void show_row(int sub)
                      is_event && ClipEvent_Tally_Loop(user, sub, no) ? "On" : "");
     (void)LS_SetData(LIST, sub, COL_START, row.start);
     (void)LS_SetData(LIST, sub, COL_STOP, row.stop);
+    (void)LS_SetData(LIST, sub, COL_OUTPUT, row.output);
     (void)LS_SetHStatus(LIST, sub, is_event ? CELL_USUAL : CELL_EMPTY);
     (void)LS_RedrawData(LIST);
 }
@@ -82,6 +89,28 @@ static int autoplay_sel()
         if (ClipEvent_Tally_Event(cp.user, sub, cp.no))
             Net_SendCommandFormat("put Snapshot@Snapshot@Clip Event@User%d@FM%d@AutoPlay#%d,%s",
                                   cp.user + 1, sub + 1, cp.no + 1, on ? "ON" : "OFF");
+    return 0;
+}
+
+// --- The outputs ---
+
+static void follow_outputs(const char* verb)
+{
+    for (int sub = 0; sub < SUB_REGIONS; sub++)
+        Net_SendCommandFormat("%s " OUTPUT_STATUS "%d", verb, sub + 1);
+}
+
+static int take_tally(const char* path, const char* value)
+{
+    constexpr int HEAD_LENGTH = sizeof OUTPUT_STATUS - 1;
+    if (!BeginsWith(path, OUTPUT_STATUS))
+        return 0;
+    const int sub = IndexFrom1(path + HEAD_LENGTH, SUB_REGIONS);
+    const int status = Index(value, int(std::size(output_status)));
+    if (sub < 0)
+        return 0;
+    cp.row[sub].output = output_status[std::max(status, 0)];
+    show_row(sub);
     return 0;
 }
 
@@ -125,6 +154,7 @@ static int clip_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
         return 0;
     switch (msg) {
     case MSG_REDRAW: return clip_redraw();
+    case MSG_TALLY: return take_tally(Text(ax), Text(bx));
     case LMSG_BTNSEL: return Same(Text(ax), AUTO_PLAY) ? autoplay_sel() : 0;
     case LMSG_REGISTER: return event_changed(int(ax), int(bx), int(cx), int(dx));
     default: return 0;
@@ -134,8 +164,10 @@ static int clip_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
 static int clip_create(int on, uint32_t)
 {
     if (!on) {
-        if (cp.is_open)
+        if (cp.is_open) {
+            follow_outputs("remove");
             Register_StatusReport(0);
+        }
         cp.is_open = false;
         return 0;
     }
@@ -145,6 +177,7 @@ static int clip_create(int on, uint32_t)
     cp.no = std::clamp(m.sel1, 0, REGISTERS - 1);
     cp.head_redraw = true;
     Register_StatusReport(1);
+    follow_outputs("add");
     for (int sub = 0; sub < SUB_REGIONS; sub++)
         show_row(sub);
     (void)LS_SetNData(LIST, SUB_REGIONS);

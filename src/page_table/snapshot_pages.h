@@ -135,8 +135,8 @@ inline constexpr LS_TBL ls_snapshot_xpthold_rtr[] = {
     LS_END,
 };
 inline constexpr LS_TBL ls_snapshot_clip[] = {
-    {.id = 1, .hn = 6, .vn = 12, .x = 100, .y = 78, .head = {"FM", "Auto Play", "Name", "Loop", "Start", "Stop"},
-     .width = {52, 80, 166, 50, 102, 102}, .group = {1, 1, 1, 1, 1, 1}, .sb_top = 78, .sb_bottom = 364},
+    {.id = 1, .hn = 7, .vn = 12, .x = 100, .y = 78, .head = {"FM", "Auto Play", "Name", "Loop", "Start", "Stop", "Output"},
+     .width = {45, 72, 151, 42, 84, 84, 74}, .group = {1, 1, 1, 1, 1, 1, 1}, .sb_top = 78, .sb_bottom = 364},
     LS_END,
 };
 static_assert(ListsAreSound(ls_snapshot_xpthold) && ListsAreSound(ls_snapshot_xpthold_rtr) && ListsAreSound(ls_snapshot_clip));

@@ -374,6 +374,11 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     Cursor(1, 2);
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY),
                 ElementsAre("put Snapshot@Snapshot@Clip Event@User2@FM3@AutoPlay#9,OFF"));
+    (void)Tell("Frame Mem 2@Clip/Still@Output Status@FM3#5");
+    EXPECT_EQ(Cell(1, 2, 6), "Play");
+    (void)Tell("Frame Mem 2@Clip/Still@Output Status@FM3#x");
+    (void)Tell("Frame Mem 2@Clip/Still@Output Status@FM99#5");
+    EXPECT_EQ(Cell(1, 2, 6), "");
     Cursor(1, 3); // no clip there
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), IsEmpty());
 }
