@@ -249,6 +249,17 @@ int IsShellSafe(const char* text)
     return 1;
 }
 
+int ShellWord(char* dst, size_t size, const char* text)
+{
+    const char* quote = text && strchr(text, ' ') ? "\"" : "";
+    if (size > 0)
+        dst[0] = '\0';
+    if (!IsShellSafe(text) || strlen(text) + 2 * strlen(quote) >= size)
+        return 0;
+    snprintf(dst, size, "%s%s%s", quote, text, quote);
+    return 1;
+}
+
 void WaitSec(int sec)
 {
     if (sec > 0)

@@ -1,6 +1,7 @@
 // process: child processes without losing signals, and the small file-system helpers around them.
 // One child at a time is tracked in cpid; the SIGCHLD handler of main reaps only that one.
 #pragma once
+#include <cstddef>
 #include <cstdio>
 
 extern volatile int cpid; // the one tracked child, 0 none
@@ -26,6 +27,9 @@ int ktr_shell(const char* cmd);
 // 1 when the text holds only letters, digits, / . _ - : @ + and blanks (so quote it). Otherwise 0,
 // and one log line.
 int IsShellSafe(const char* text);
+// A text from outside as one word of a command of the shell: as it stands, in quotation marks when
+// it has blanks. Returns 1; 0 with dst empty when IsShellSafe refuses it or dst has no room.
+int ShellWord(char* dst, size_t size, const char* text);
 
 void WaitSec(int sec);         // blocks
 int FileExist(const char* fn); // 1 when it can be stat-ed
