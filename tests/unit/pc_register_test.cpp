@@ -66,49 +66,84 @@ struct RegisterPages : TablePage {
 };
 } // namespace
 
+// Register 3 is at the cursor, 4 in the second list.
 TEST_F(RegisterPages, EveryKeyOfEveryKindSendsItsCommand)
 {
     static const struct {
-        uint32_t page;
-        int button;
-        const char* command; // "" none
-    } cases[] = {
-        {0x63110000, 49, "put Snapshot@Master Snapshot@Store/Recall@Recall#3"},
-        {0x63110000, 50, "put Snapshot@Master Snapshot@Store/Recall@Store#3"},
-        {0x63120000, 50, "put Snapshot@Master Snapshot@Lock#3,3"},
-        {0x63130000, 49, "put Snapshot@Master Snapshot@Copy#3,3,5,false"},
-        {0x63210000, 50, "put Snapshot@Snapshot@Recall#2, 3"},
-        {0x63210000, 51, "put Snapshot@Snapshot@Store#2,3"},
-        {0x63210000, 33, "put Snapshot@Snapshot@Attribute@Effect Dissolve#2,3,3,true"},
-        {0x63210000, 34, "put Snapshot@Snapshot@Attribute@Auto Transition#2,3,3,true"},
-        {0x63210000, 35, "put Snapshot@Snapshot@Attribute@GPI#2,3,3,1"},
-        {0x63210000, 36, "put Snapshot@Snapshot@Attribute@Duration#2,3,3,0"},
-        {0x63220000, 51, "put Snapshot@Snapshot@Lock#2,3,3"},
-        {0x63230000, 49, "put Snapshot@Snapshot@Copy#2,3,3,2,5,false"},
-        {0x63240000, 49, "put Snapshot@Snapshot@Move#2,3,3,2,5,false"},
-        {0x63250000, 49, "put Snapshot@Snapshot@Swap#2,3,3,2,5,false"},
-        {0x63310000, 49, "pane"},
-        {0x63310000, 50, "put Snapshot@Wipe Snapshot@Recall#2, 3"},
-        {0x63320000, 51, "put Snapshot@Wipe Snapshot@Lock#2,3,3"},
-        {0x63410000, 50, "put Snapshot@DME Snapshot@Recall#2, 3"},
-        {0x63450000, 49, "put Snapshot@DME Snapshot@Swap#2,3,3,2,5,false"},
-        {0x63510000, 50, "put Snapshot@Key Snapshot@Recall#0000000000000001, 3"},
-        {0x63520000, 51, "put Snapshot@Key Snapshot@Lock#0000000000000001,3,3"},
+        uint32_t group;
+        const char* head;
+        const char* mask; // of the first region, with its comma
+        const char* recall;
+    } kinds[] = {
+        {0x63100000, "Master Snapshot@", "", "Store/Recall@Recall#3"},
+        {0x63200000, "Snapshot@", "2,", "Recall#2, 3"},
+        {0x63300000, "Wipe Snapshot@", "2,", "Recall#2, 3"},
+        {0x63400000, "DME Snapshot@", "2,", "Recall#2, 3"},
+        {0x63500000, "Key Snapshot@", "0000000000000001,", "Recall#0000000000000001, 3"},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        LS_SetNowLine(1, 2);
-        LS_SetSelected(1, 2, 0, 1);
-        LS_SetNowLine(2, 4); // where there is a second list
-        Pass(10);
-        const Lines sent = Puts(c.button);
-        if (strcmp(c.command, "pane") == 0) {
-            EXPECT_NE(Pane_GetActiveID(), 0);
-            Pane_Quit(Pane_GetActiveID());
-        } else {
-            EXPECT_THAT(sent, ElementsAre(c.command)) << std::hex << c.page << " " << c.button;
+    static const struct {
+        uint32_t shape;
+        int key; // of a kind with regions; without them the keys stand one place further left
+        bool has_window;
+        const char *verb, *rest;
+        int masks;
+    } actions[] = {
+        {0x20000, 51, false, "Lock#", "3,3", 1},     {0x30000, 49, false, "Copy#", "4,false", 2},
+        {0x40000, 49, false, "Move#", "4,false", 2}, {0x50000, 49, false, "Swap#", "4,false", 2},
+        {0x60000, 51, true, "Delete#", "3,3", 1},    {0x70000, 51, true, "Rename#", "3,SHOW", 1},
+    };
+    for (const auto& k : kinds) {
+        const bool has_regions = *k.mask;
+        const std::string head = std::string("put Snapshot@") + k.head;
+        (void)Tell(std::string("Snapshot@") + k.head +
+                   (k.group == 0x63100000   ? "Store/Recall@List#3,SHOW,S,U" + std::string(30, ',')
+                    : k.group == 0x63200000 ? "Attribute@M/E-1@List#3,SHOW,S,,n,n,n"
+                    : k.group == 0x63500000 ? "Attribute@M/E-1@Key1@List#3,SHOW,S"
+                                            : "M/E-1@List#3,SHOW,S"));
+        for (const auto& a : actions) {
+            Open(k.group + a.shape);
+            Cursor(1, 2);
+            Cursor(2, 3);
+            Lines sent = Puts(a.masks == 1 && !has_regions ? a.key - 1 : a.key);
+            if (a.has_window)
+                sent = Answer();
+            const std::string runs =
+                a.masks == 2 ? std::string("3,3,") + k.mask + a.rest : std::string(a.rest);
+            EXPECT_THAT(sent, ElementsAre(head + a.verb + k.mask + runs)) << k.head << a.verb;
         }
+        Open(k.group + 0x10000);
+        Cursor(1, 2);
+        EXPECT_THAT(Puts(has_regions ? 50 : 49), ElementsAre(head + k.recall));
     }
+}
+
+TEST_F(RegisterPages, TheAttributesOfARegisterTurnOver)
+{
+    static const struct {
+        int key;
+        const char *off, *on; // what is sent for a line without any, and with all
+    } cases[] = {
+        {BTN_SNAPSHOT_EFFDISS, "Effect Dissolve#2,3,3,true", "Effect Dissolve#2,3,3,false"},
+        {BTN_SNAPSHOT_AUTOTRANS, "Auto Transition#2,3,3,true", "Auto Transition#2,3,3,false"},
+        {BTN_SNAPSHOT_GPI, "GPI#2,3,3,1", "GPI#2,3,3,null"},
+        {BTN_SNAPSHOT_DURATION, "Duration#2,3,3,45", "Duration#2,3,3,45"},
+    };
+    Open(PAGE_SNAPSHOT_ATTRIBUTE);
+    Cursor(1, 2);
+    (void)Tell(LIST + "M/E-1@Temporary Duration#45");
+    for (const auto& c : cases) {
+        Store("M/E-1", 3, "A,S,,n,n,n");
+        EXPECT_THAT(Puts(c.key), ElementsAre("put " + LIST + c.off));
+        Store("M/E-1", 3, "A,S,,30,30,1");
+        EXPECT_THAT(Puts(c.key), ElementsAre("put " + LIST + c.on));
+        Store("M/E-1", 3, "A,L,,n,n,n");
+        EXPECT_THAT(Puts(c.key), IsEmpty());
+    }
+    EXPECT_THAT(Puts(51), IsEmpty()); // store
+    Store("M/E-1", 3, "A,S,,n,n,n");
+    EXPECT_THAT(Puts(51), ElementsAre("put Snapshot@Snapshot@Store#2,3"));
+    SendMessage(LMSG_KNOBVAR, 1, 12, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + LIST + "M/E-1@Temporary Duration#12"));
 }
 
 // Figures of the server's documents, not of our tables.
