@@ -532,11 +532,6 @@ const RegisterKind* RegisterPage_Kind()
     return rp.kind;
 }
 
-int RegisterPage_Number()
-{
-    return number_of(cursor());
-}
-
 const RegisterLine& RegisterPage_Line()
 {
     return RegisterList_Line(0, cursor());

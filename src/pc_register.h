@@ -59,7 +59,6 @@ extern const RegisterExtra keyss_extra;
 
 // --- For the extras and the sub pages ---
 const RegisterKind* RegisterPage_Kind(); // null: no page of ours is open
-int RegisterPage_Number();               // at the cursor of the list, as the operator sees it
 const RegisterLine& RegisterPage_Line(); // of that register
 int RegisterPage_Region();               // that the list shows: row of the kind's regions
 // An attribute of each run of selected registers of the list, in all selected regions; nothing for

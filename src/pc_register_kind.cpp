@@ -400,23 +400,12 @@ int RegisterKind_Reference(const RegisterKind& kind)
     return std::max(row, 0);
 }
 
-static int region_has(const RegisterKind& kind, int id, int no,
-                      int (*has)(const RegisterKind&, int, int))
-{
-    const int region = Region_RowOfId(kind.regions, id);
-    if (region < 0 || !has(kind, region, no))
-        return 0;
-    return PaneRegion_IsSelected(kind.group(), id) ? 1 : -1;
-}
-
 int RegisterKind_RegionExist(const RegisterKind& kind, int id, int no)
 {
-    return region_has(kind, id, no, RegisterKind_Exist);
-}
-
-int RegisterKind_RegionLock(const RegisterKind& kind, int id, int no)
-{
-    return region_has(kind, id, no, RegisterKind_Lock);
+    const int region = Region_RowOfId(kind.regions, id);
+    if (region < 0 || !RegisterKind_Exist(kind, region, no))
+        return 0;
+    return PaneRegion_IsSelected(kind.group(), id) ? 1 : -1;
 }
 
 bool RegisterKind_IsInUse(const RegisterKind& kind, int region)

@@ -105,7 +105,6 @@ uint64_t RegisterKind_SelectedMask(const RegisterKind& kind);
 int RegisterKind_Reference(const RegisterKind& kind);
 // 0 empty, 1 holds data in a region that is selected, -1 in one that is not.
 int RegisterKind_RegionExist(const RegisterKind& kind, int id, int no);
-int RegisterKind_RegionLock(const RegisterKind& kind, int id, int no); // the same of a lock
 // Whether the system runs the region: a sub side needs a bank of two programs, a channel its unit.
 bool RegisterKind_HasSubSides(); // some bank runs two programs
 bool RegisterKind_IsInUse(const RegisterKind& kind, int region);

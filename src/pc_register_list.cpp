@@ -107,11 +107,6 @@ void RegisterList_SetRegion(int n, int region)
     RegisterDetail_SetDirty();
 }
 
-int RegisterList_Region(int n)
-{
-    return sides[n].region;
-}
-
 const RegisterLine& RegisterList_Line(int n, int no)
 {
     const bool is_one = sides[n].kind && no >= 0 && no < sides[n].kind->registers;

@@ -12,8 +12,7 @@ constexpr int REGISTER_LISTS = 2;
 void RegisterList_Open(int n, const RegisterKind& kind, const RegisterColumn* columns, int region,
                        int sel);
 void RegisterList_CloseAll();
-void RegisterList_SetRegion(int n, int region); // fill anew, the cursor stays
-int RegisterList_Region(int n);
+void RegisterList_SetRegion(int n, int region);       // fill anew, the cursor stays
 const RegisterLine& RegisterList_Line(int n, int no); // an empty one out of range
 // LMSG_REGISTER: a register of the mirror has changed. 1 when a list showed it.
 int RegisterList_Registered(int kind, int mirror_row, int no);

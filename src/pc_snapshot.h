@@ -24,6 +24,5 @@ enum : int {
     BTN_SNAPSHOT_XPTHOLD = 37,
     BTN_SNAPSHOT_CLIP = 38,
     BTN_KEYSS_MODIFIER = 33, // the three modes side by side
-    BTN_XPTHOLD_LEVEL = 51,
     BTN_CLIP_AUTO_PLAY = 49,
 };
