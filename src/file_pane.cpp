@@ -201,7 +201,8 @@ bool file_pane_failures(const QUEUE* job, char* text, size_t size)
     int left_out = 0;
     text[0] = '\0';
     for (const FILEXFERLIST* item = *job->xferlist; item && item->job == job; item = item->next) {
-        if (item->status != FILESTATUS_NG)
+        // What the operator cancels has lost its pane before: this was somebody else, or the unit.
+        if ((item->status != FILESTATUS_NG && item->status != FILESTATUS_CANCEL) || !item->mesg[0])
             continue;
         char line[sizeof item->mesg + 1];
         PrintText(line, "%s\n", item->mesg);

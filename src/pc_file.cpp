@@ -161,7 +161,7 @@ void xferlist_errors_add(const FILEXFERLIST* list)
     const FILEXFERLIST* first = nullptr;
     int more = 0;
     for (const FILEXFERLIST* item = list; item; item = item->next) {
-        if (item->status != FILESTATUS_NG)
+        if (item->status != FILESTATUS_NG && item->status != FILESTATUS_CANCEL)
             continue;
         if (first)
             more++;

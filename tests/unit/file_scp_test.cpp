@@ -408,6 +408,9 @@ TEST_F(FileRemote, ADisconnectLeavesTheOtherTargetItsWork)
     EXPECT_EQ(State("SETUP", 4), FILE_CATEGORY_STATUS_WAIT_GET);
     Hub("Disconnect", "PNL1.File");
     EXPECT_EQ(told.size(), 1u);
+    PANE* pane = pane_find(Pane_GetActiveID());
+    ASSERT_NE(pane, nullptr) << "nobody has touched Cancel";
+    EXPECT_STREQ(pane_text_in_view(pane), "a.SST: Canceled\np.PST: Canceled\n");
 }
 
 TEST_F(FileRemote, ReadyInTheMiddleAsksAgainAndGoesOn)
