@@ -59,7 +59,7 @@ extern const RegisterExtra keyss_extra;
 
 // --- For the extras and the sub pages ---
 const RegisterKind* RegisterPage_Kind(); // null: no page of ours is open
-const RegisterLine& RegisterPage_Line(); // of that register
+const RegisterLine& RegisterPage_Line(); // of the register at the cursor
 int RegisterPage_Region();               // that the list shows: row of the kind's regions
 // An attribute of each run of selected registers of the list, in all selected regions; nothing for
 // a locked register at the cursor.
