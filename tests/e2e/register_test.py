@@ -17,7 +17,7 @@ SHOTBOX = "put Shotbox@Register@"
 ME1 = "0000000000000002"
 KEY_TYPE = "M/E-1@Key1@Type@Key Type"
 OTHER_KEY = "M/E-1@Key2@Type@Key Type"
-OTHER_BANK = "M/E-2@Key1@Type@Key Type"
+OTHER_BANK = "M/E-2@Key2@Type@Key Type"
 STATES = (KEY_TYPE, OTHER_KEY, OTHER_BANK)
 TOP, DUAL_TOP, A, B = 78, 124, 150, 500  # of the lists, and a place in a row of each
 PLURAL, ENTER, YES = (668, 395), (400, 395), (341, 414)
@@ -50,10 +50,10 @@ class Registers(DeskCase):
         self.assert_puts(*lines)
 
     def puts(self, count):
-        """So many puts, if they come in time; with 0 some time without any."""
+        """So many puts of registers, if they come in time; with 0 some time without any."""
         end, puts = time.monotonic() + (3 if count else 0.5), []
         while time.monotonic() < end and len(puts) < max(count, 1):
-            puts += [line for line in self.desk.wire() if re.match("put (?!File@|TopMenu)", line)]
+            puts += [line for line in self.desk.wire() if re.match("put (Snapshot|Effect|Master|Shotbox)@", line)]
             time.sleep(0.05)
         return puts
 
@@ -97,7 +97,11 @@ class Registers(DeskCase):
         self.desk.touch(*ENTER)
         self.row(4)
         self.press(51, SNAPSHOTS + "Store#6,4")
-        self.desk.console("put Snapshot@Snapshot@Attribute@Xpt Hold#2,4,4,1")
+        self.press(37)  # to the crosspoint hold
+        time.sleep(0.5)
+        self.row(3)  # below the two backgrounds: key 1
+        self.press(49, SNAPSHOTS + "Attribute@Xpt Hold#6,4,4,1")
+        self.page(6321)
         self.set_all("Chroma")
         self.press(RECALL, SNAPSHOTS + "Recall#6, 4")
         self.assertEqual(self.values(), ["Chroma", "Linear", "Linear"])

@@ -99,6 +99,19 @@ TEST_F(EffectPages, AnEffectShowsItsStateAndWhichRegionsHoldIt)
     EXPECT_EQ(Caption(BTN_REGISTER_REGION), "Region\nDME\n1-4ch");
 }
 
+TEST_F(EffectPages, AnEmptyEffectCountsItsOtherRegionsWhileSeveralAreChosen)
+{
+    Deliver(EFFECTS + "M/E-2", "4,S,A,U,N,0");
+    Deliver(EFFECTS + "GPI", "4,S,A,U,N,0");
+    Open(0x62210000);
+    EXPECT_EQ(Cell(1, 3, 2), ""); // no line has said yet that it is empty here
+    for (const int count : {0, 1}) {
+        Region_Count = count;
+        Deliver(EFFECTS + "M/E-1", "4,E,,U,N,0");
+        EXPECT_EQ(Cell(1, 3, 2), count ? "E2" : "E");
+    }
+}
+
 TEST_F(EffectPages, ADissolveTakesTheTimeOfTheKnobAndALockKeepsItsOwn)
 {
     static const struct {
