@@ -125,7 +125,8 @@ static void load_save_copy_btn_grayout()
 static void rename_delete_btn_grayout()
 {
     const FILESIDE& c = memory_of(SIDE_C).side;
-    const bool is_fixed = c.device == FILE_REGISTER ? !fd.kind->commands : is_protected(c);
+    const bool is_fixed =
+        c.device == FILE_REGISTER ? !FileKind_HasCommands(*fd.kind) : is_protected(c);
     BT_SetDisable(BTN_FILE_RENAME, is_fixed);
     BT_SetDisable(BTN_FILE_DELETE, is_fixed);
 }
@@ -479,7 +480,7 @@ static uint64_t mask_of_row(const FILELIST& row)
     uint64_t mask = 0;
     for (const FILECELL* cell = row.cell; cell; cell = cell->next)
         if (FileSide_InView(*cell))
-            mask |= fd.kind->commands->mask(cell->id);
+            mask |= FileKind_Mask(*fd.kind, cell->id);
     return mask;
 }
 

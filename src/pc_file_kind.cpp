@@ -3,162 +3,50 @@
 #include "menu_macro.h"
 #include "netio.h"
 #include "pane.h"
-#include "register_mirror.h"
-#include "register_region.h"
 #include "text.h"
 #include <cstring>
-#include <iterator>
 #include <unistd.h>
 
 #include "safeguards.h"
 
-// --- Regions ---
-
-static int row_of_effect(int id)
-{
-    return Region_RowOfId(EffectRegion.data(), id);
-}
-static int row_of_snapshot(int id)
-{
-    return Region_RowOfId(SnapshotRegion.data(), id);
-}
-static int row_of_side(int id)
-{
-    return Region_RowOfId(WipeSSRegion.data(), id);
-}
-static int row_of_channel(int id)
-{
-    const int row = row_of_effect(id);
-    return row >= SS_REGION_DME1 && row <= SS_REGION_DME8 ? Register_DMEGroup(row) : -1;
-}
-static int row_of_key(int id)
-{
-    return Region_RowOfId(KeySSRegion.data(), id);
-}
-static int row_of_panel(int)
-{
-    return 0;
-}
-
-// EffReg and EffRegx00, SSReg, WipeSSReg and DmeSSReg, KeySSReg: the bits of a region.
-static uint64_t mask_in(const SSREGION* table, int id)
-{
-    const int row = Region_RowOfId(table, id);
-    return row < 0 ? 0 : table[row].bitmap;
-}
-static uint64_t mask_of_effect(int id)
-{
-    return mask_in(EffectRegion.data(), id);
-}
-static uint64_t mask_of_snapshot(int id)
-{
-    return mask_in(SnapshotRegion.data(), id);
-}
-static uint64_t mask_of_key(int id)
-{
-    return mask_in(KeySSRegion.data(), id);
-}
-static uint64_t mask_of_frame(int) // its name says all
-{
-    return 1;
-}
-
-static uint64_t mask_of_panel(int)
-{
-    return 1;
-}
-// The bit of the macros in the commands of their registers, not that of their effects.
-static uint64_t mask_of_macro(int)
-{
-    return 0x0000100000000000;
-}
-
 // --- Registers ---
 
-static constexpr FileRegisters Mirrored(int kind, int (*row)(int region_id))
-{
-    const RegisterMirror& m = register_mirrors[kind];
-    return {kind, m.exist, m.lock, m.name, row};
-}
-static constexpr FileRegisters effects = Mirrored(REGISTER_EFFECT, row_of_effect);
-static constexpr FileRegisters effects_100 = Mirrored(REGISTER_EFF100, row_of_channel);
-static constexpr FileRegisters effects_200 = Mirrored(REGISTER_EFF200, row_of_channel);
-static constexpr FileRegisters effects_300 = Mirrored(REGISTER_EFF300, row_of_channel);
-static constexpr FileRegisters snapshots = Mirrored(REGISTER_SNAPSHOT, row_of_snapshot);
-static constexpr FileRegisters wipe_snapshots = Mirrored(REGISTER_WIPESS, row_of_side);
-static constexpr FileRegisters dme_snapshots = Mirrored(REGISTER_DMESS, row_of_side);
-static constexpr FileRegisters key_snapshots = Mirrored(REGISTER_KEYSS, row_of_key);
-static constexpr FileRegisters shotboxes = Mirrored(REGISTER_SHOTBOX, row_of_panel);
-static constexpr FileRegisters macros = Mirrored(REGISTER_MACRO, row_of_panel);
+// The macros: they have file pages alone. All commands bear the one bit of the panel, which is not
+// that of their effects.
+static constexpr SSREGION macro_region[] = {{0x0000100000000000, 1024, "", "PNL"}, {}};
+static constexpr RegisterCommands macro_commands = {.remove = "Macro@Register@Delete@Delete",
+                                                    .rename = "Macro@Register@Rename@Rename"};
+static constexpr RegisterKind macros = {.mirror = REGISTER_MACRO,
+                                        .registers = REGISTERS_MACRO,
+                                        .regions = macro_region,
+                                        .mask = REGMASK_WIDE,
+                                        .commands = &macro_commands};
 
 // A menu macro is kept as a file of this unit.
-static int exist_menu_macro(int, int no)
+static int exist_menu_macro(int no)
 {
     char path[PATH_SIZE];
     PrintText(path, "/mnt/data/Menu_Macro_tmp/mm_reg%02d.tmp", no + 1);
     return no >= 0 && no < MENU_MACRO_REGISTERS && access(path, R_OK) == 0;
 }
-static int lock_menu_macro(int, int)
-{
-    return 0;
-}
-static char menu_macro_name[16]; // until the next call
-static const char* name_menu_macro(int, int no)
+static char menu_macro_name[16];
+static const char* name_menu_macro(int no)
 {
     PrintText(menu_macro_name, "MMCR%d", no + 1);
     return menu_macro_name;
 }
-static constexpr int NOT_TOLD = -1; // no message tells of it
-static constexpr FileRegisters menu_macros = {NOT_TOLD, exist_menu_macro, lock_menu_macro,
-                                              name_menu_macro, row_of_panel};
+static constexpr FileRegisters menu_macros = {exist_menu_macro, name_menu_macro, 0};
 
-// The frame memory's catalogue is of the first switcher.
-static int row_of_frames(int id)
-{
-    constexpr int FIRST_SWITCHER = 896;
-    return id == FIRST_SWITCHER ? 0 : -1;
-}
-static int exist_frame(int, int no)
-{
-    return FMCtrl2_IsRegStoreMulti(no);
-}
-static int lock_frame(int, int)
-{
-    return 0;
-}
-static char frame_name[FILE_NAME_SIZE]; // until the next call
-static const char* name_frame(int, int no)
+static char frame_name[FILE_NAME_SIZE];
+static const char* name_frame(int no)
 {
     fname2dispname(FMCtrl2_GetRegNameMulti(no), frame_name, sizeof frame_name);
     return frame_name;
 }
-static constexpr FileRegisters frames = {NOT_TOLD, exist_frame, lock_frame, name_frame,
-                                         row_of_frames};
+constexpr int FIRST_SWITCHER = 896; // the catalogue is its
+static constexpr FileRegisters frames = {FMCtrl2_IsRegStoreMulti, name_frame, FIRST_SWITCHER};
 
-static constexpr FileCommands effect_commands = {"put Effect@Effect@Rename@Rename",
-                                                 "put Effect@Effect@Delete@Delete", mask_of_effect,
-                                                 FILEMASK_WIDE};
-static constexpr FileCommands snapshot_commands = {"put Snapshot@Snapshot@Rename",
-                                                   "put Snapshot@Snapshot@Delete", mask_of_snapshot,
-                                                   FILEMASK_SHORT};
-static constexpr FileCommands wipe_commands = {"put Snapshot@Wipe Snapshot@Rename",
-                                               "put Snapshot@Wipe Snapshot@Delete",
-                                               mask_of_snapshot, FILEMASK_SHORT};
-static constexpr FileCommands dme_commands = {"put Snapshot@DME Snapshot@Rename",
-                                              "put Snapshot@DME Snapshot@Delete", mask_of_snapshot,
-                                              FILEMASK_SHORT};
-static constexpr FileCommands key_commands = {"put Snapshot@Key Snapshot@Rename",
-                                              "put Snapshot@Key Snapshot@Delete", mask_of_key,
-                                              FILEMASK_WIDE};
-static constexpr FileCommands shotbox_commands = {
-    "put Shotbox@Register@Rename", "put Shotbox@Register@Delete", mask_of_panel, FILEMASK_NONE};
-static constexpr FileCommands macro_commands = {"put Macro@Register@Rename@Rename",
-                                                "put Macro@Register@Delete@Delete", mask_of_macro,
-                                                FILEMASK_WIDE};
-
-static constexpr FileCommands frame_commands = {
-    "put Frame Mem@File@Rename", "put Frame Mem@File@Delete Thumbnail@Single", mask_of_frame,
-    FILEMASK_NONE, FMCtrl2_GetRegNameMulti};
+// --- The kinds ---
 
 constexpr FileKind file_kinds[FILEPAGES] = {
     {.page = FILEPAGE_SETUP, .id = 0x71120000, .grp = 0},
@@ -169,58 +57,41 @@ constexpr FileKind file_kinds[FILEPAGES] = {
     {.page = FILEPAGE_EFFECT,
      .id = 0x71210000,
      .kind = KIND_EFFECT,
-     .registers = &effects,
-     .commands = &effect_commands},
+     .stored = &register_kinds[REGKIND_EFFECT]},
     {.page = FILEPAGE_EFF100,
      .id = 0x71220000,
      .kind = KIND_EFF100,
-     .registers = &effects_100,
-     .commands = &effect_commands},
+     .stored = &register_kinds[REGKIND_EFF100]},
     {.page = FILEPAGE_EFF200,
      .id = 0x71230000,
      .kind = KIND_EFF200,
-     .registers = &effects_200,
-     .commands = &effect_commands},
+     .stored = &register_kinds[REGKIND_EFF200]},
     {.page = FILEPAGE_EFF300,
      .id = 0x71240000,
      .kind = KIND_EFF300,
-     .registers = &effects_300,
-     .commands = &effect_commands},
+     .stored = &register_kinds[REGKIND_EFF300]},
     {.page = FILEPAGE_EFFECT_EX,
      .id = 0x71250000,
      .kind = KIND_EFFECT_EX,
-     .registers = &effects,
-     .commands = &effect_commands},
+     .stored = &register_kinds[REGKIND_EFFECT_EX]},
     {.page = FILEPAGE_SNAPSHOT,
      .id = 0x71310000,
      .kind = KIND_SNAPSHOT,
-     .registers = &snapshots,
-     .commands = &snapshot_commands},
+     .stored = &register_kinds[REGKIND_SNAPSHOT]},
     {.page = FILEPAGE_WIPESS,
      .id = 0x71320000,
      .kind = KIND_WIPESS,
-     .registers = &wipe_snapshots,
-     .commands = &wipe_commands},
+     .stored = &register_kinds[REGKIND_WIPESS]},
     {.page = FILEPAGE_DMESS,
      .id = 0x71330000,
      .kind = KIND_DMESS,
-     .registers = &dme_snapshots,
-     .commands = &dme_commands},
-    {.page = FILEPAGE_KEYSS,
-     .id = 0x71340000,
-     .grp = 19,
-     .registers = &key_snapshots,
-     .commands = &key_commands},
+     .stored = &register_kinds[REGKIND_DMESS]},
+    {.page = FILEPAGE_KEYSS, .id = 0x71340000, .grp = 19, .stored = &register_kinds[REGKIND_KEYSS]},
     {.page = FILEPAGE_SHOTBOX,
      .id = 0x71410000,
      .grp = 20,
-     .registers = &shotboxes,
-     .commands = &shotbox_commands},
-    {.page = FILEPAGE_MACRO,
-     .id = 0x71420000,
-     .grp = 21,
-     .registers = &macros,
-     .commands = &macro_commands},
+     .stored = &register_kinds[REGKIND_SHOTBOX]},
+    {.page = FILEPAGE_MACRO, .id = 0x71420000, .grp = 21, .stored = &macros},
     {.page = FILEPAGE_MACROATC, .id = 0x71430000, .grp = 22},
     {.page = FILEPAGE_MENU_MACRO,
      .id = 0x71440000,
@@ -240,13 +111,11 @@ constexpr FileKind file_kinds[FILEPAGES] = {
      .id = 0x71510100,
      .grp = 23,
      .registers = &frames,
-     .commands = &frame_commands,
      .way = FILEWAY_FRAME},
     {.page = FILEPAGE_FMEM_V6,
      .id = 0x71510200,
      .grp = 23,
      .registers = &frames,
-     .commands = &frame_commands,
      .way = FILEWAY_FRAME,
      .has_folders = true},
 };
@@ -265,63 +134,71 @@ int FileKind_Group(const FileKind& kind)
     return kind.grp >= 0 ? kind.grp : File_GroupOf(kind.kind);
 }
 
+int FileKind_Mirror(const FileKind& kind)
+{
+    return kind.stored ? kind.stored->mirror : -1;
+}
+
 int FileKind_Register(const FileKind& kind, int region_id, int no, char* name, int size, int* lock)
 {
+    *lock = 0;
+    if (kind.stored) {
+        const int region =
+            kind.stored->regions ? Region_RowOfId(kind.stored->regions, region_id) : 0;
+        if (region < 0 || !RegisterKind_Exist(*kind.stored, region, no))
+            return -1;
+        ktr_strncpy(name, RegisterKind_Name(*kind.stored, region, no), size_t(size));
+        *lock = RegisterKind_Lock(*kind.stored, region, no);
+        return 0;
+    }
     if (!kind.registers) { // the unit's one setting
         ktr_strncpy(name, PaneRegion_GetGrpCategoryStr(FileKind_Group(kind)), size_t(size));
-        *lock = 0;
         return no == 0 ? 0 : -1;
     }
-    const int row = kind.registers->row(region_id);
-    if (row < 0 || !kind.registers->exist(row, no))
+    const int only = kind.registers->region_id;
+    if ((only != 0 && only != region_id) || !kind.registers->exist(no))
         return -1;
-    ktr_strncpy(name, kind.registers->name(row, no), size_t(size));
-    *lock = kind.registers->lock(row, no);
+    ktr_strncpy(name, kind.registers->name(no), size_t(size));
     return 0;
 }
 
 // --- Commands ---
 
-// With the comma behind it; empty where there is none.
-static void print_mask(const FileCommands& commands, uint64_t mask, char (&text)[20])
+bool FileKind_HasCommands(const FileKind& kind)
 {
-    text[0] = '\0';
-    if (commands.form == FILEMASK_WIDE)
-        PrintText(text, "%08X%08X,", unsigned(mask >> 32), unsigned(mask & 0xFFFFFFFF));
-    else if (commands.form == FILEMASK_SHORT)
-        PrintText(text, "%X,", unsigned(mask));
+    return kind.stored || kind.way == FILEWAY_FRAME;
 }
 
-static int number_of(const FileKind& kind, int no)
+uint64_t FileKind_Mask(const FileKind& kind, int region_id)
 {
-    return no + File_FirstNumber(FileKind_Group(kind));
+    constexpr uint64_t ANY = 1; // the commands have none
+    if (!kind.stored || !kind.stored->regions)
+        return ANY;
+    const int region = Region_RowOfId(kind.stored->regions, region_id);
+    return region < 0 ? 0 : kind.stored->regions[region].bitmap;
 }
 
+// A register of the frame memory is told by its name.
 void FileKind_Rename(const FileKind& kind, uint64_t mask, int no, const char* name)
 {
-    char text[20];
-    if (!kind.commands || mask == 0)
+    if (mask == 0)
         return;
-    if (kind.commands->name) {
-        Net_SendCommandFormat("%s#%s,%s", kind.commands->rename, kind.commands->name(no), name);
-        return;
-    }
-    print_mask(*kind.commands, mask, text);
-    Net_SendCommandFormat("%s#%s%d,%s", kind.commands->rename, text, number_of(kind, no), name);
+    if (kind.stored)
+        RegisterCmd_Rename(*kind.stored, mask, no + kind.stored->first_number, name);
+    else if (kind.way == FILEWAY_FRAME)
+        Net_SendCommandFormat("put Frame Mem@File@Rename#%s,%s", FMCtrl2_GetRegNameMulti(no), name);
 }
 
 void FileKind_Delete(const FileKind& kind, uint64_t mask, int no)
 {
-    char text[20];
-    if (!kind.commands || mask == 0)
+    if (mask == 0)
         return;
-    if (kind.commands->name) {
-        Net_SendCommandFormat("%s#%s", kind.commands->remove, kind.commands->name(no));
-        return;
-    }
-    print_mask(*kind.commands, mask, text);
-    const int number = number_of(kind, no);
-    Net_SendCommandFormat("%s#%s%d,%d", kind.commands->remove, text, number, number);
+    const int number = kind.stored ? no + kind.stored->first_number : 0;
+    if (kind.stored)
+        RegisterCmd_Delete(*kind.stored, mask, number, number);
+    else if (kind.way == FILEWAY_FRAME)
+        Net_SendCommandFormat("put Frame Mem@File@Delete Thumbnail@Single#%s",
+                              FMCtrl2_GetRegNameMulti(no));
 }
 
 // --- Names of the frame memory ---

@@ -1,7 +1,9 @@
 // pc_file_kind: what the pages of two lists in the File menu differ in, a row a page: which group
-// of regions, what the running system holds of it, and how a register is renamed and deleted there.
+// of regions and what the running system holds of it. How stored registers are mirrored, and how
+// one is renamed and deleted there, belongs to pc_register_kind.
 #pragma once
 #include "pc_file.h"
+#include "pc_register_kind.h"
 #include "types.h"
 
 enum FILEPAGE : int { // rows of file_kinds, the argument of the page code
@@ -31,28 +33,11 @@ enum FILEPAGE : int { // rows of file_kinds, the argument of the page code
     FILEPAGES,
 };
 
-// What the mirror of the registers keeps of a kind.
+// Registers that no list of the server's tells: where a file page has them from.
 struct FileRegisters {
-    int kind; // of LMSG_REGISTER
-    int (*exist)(int row, int no);
-    int (*lock)(int row, int no);
-    const char* (*name)(int row, int no);
-    int (*row)(int region_id); // of the mirror; -1: not kept
-};
-
-// How the running system is told. The values: the mask of the regions that are meant, where there
-// is one, and number and name, or the number twice.
-enum FILEMASK : int {
-    FILEMASK_NONE,
-    FILEMASK_SHORT,
-    FILEMASK_WIDE
-}; // "%X", or 64 bits as "%08X%08X"
-struct FileCommands {
-    const char* rename;
-    const char* remove;
-    uint64_t (*mask)(int region_id); // 0: the region has none of these registers
-    FILEMASK form;
-    const char* (*name)(int no) = nullptr; // not null: told by its name instead of mask and number
+    int (*exist)(int no);
+    const char* (*name)(int no); // valid until the next call
+    int region_id;               // the one region that has them; 0: any
 };
 
 enum FILEWAY : int {
@@ -67,8 +52,8 @@ struct FileKind {
     uint32_t id = 0; // of the dual page; its detail page is the next
     int grp = -1;    // -1: by the units, as kind says
     FILEKIND kind = KIND_EFFECT;
-    const FileRegisters* registers = nullptr; // null: one setting, always there
-    const FileCommands* commands = nullptr;   // null: renamed and deleted on drives only
+    const RegisterKind* stored = nullptr;     // mirror, masks and commands of stored registers
+    const FileRegisters* registers = nullptr; // others; both null: one setting, always there
     FILEWAY way = FILEWAY_RESERVED;
     int left = FILE_REGISTER; // FILEDRIVE of the sides until the operator has chosen
     int right = FILE_LOCAL;
@@ -77,7 +62,12 @@ struct FileKind {
 extern const FileKind file_kinds[FILEPAGES];
 
 int FileKind_Group(const FileKind& kind);
-// Rename or delete register no (from 0) of the regions in the mask of the running system.
+int FileKind_Mirror(const FileKind& kind);       // of LMSG_REGISTER; -1: no message tells of it
+bool FileKind_HasCommands(const FileKind& kind); // else renamed and deleted on drives only
+// The bits of a region in the commands; 0: it has none of these registers.
+uint64_t FileKind_Mask(const FileKind& kind, int region_id);
+// Rename or delete register no (from 0) of the regions in the mask of the running system. Nothing
+// is sent for a mask of 0.
 void FileKind_Rename(const FileKind& kind, uint64_t mask, int no, const char* name);
 void FileKind_Delete(const FileKind& kind, uint64_t mask, int no);
 // Frame memory: the name that a register gets when an operator enters one for it and for others:

@@ -476,8 +476,8 @@ int FileSide_Registered(int kind, int no)
 {
     int shown = 0;
     for (Side& s : sides) {
-        if (!s.kind || !s.kind->registers || s.kind->registers->kind != kind ||
-            s.memory->side.device != FILE_REGISTER || no < 0 || no >= s.rows)
+        if (!s.kind || FileKind_Mirror(*s.kind) != kind || s.memory->side.device != FILE_REGISTER ||
+            no < 0 || no >= s.rows)
             continue;
         take_register(s, no);
         shown = 1;

@@ -243,12 +243,12 @@ TEST_F(FileDualPage, EveryFamilyHasItsOwnCommands)
         {FILEPAGE_KEYSS, 559, "put Snapshot@Key Snapshot@Rename#0000800000000000,3,N",
          "put Snapshot@Key Snapshot@Delete#0000800000000000,3,3"},
         {FILEPAGE_SHOTBOX, 0, "put Shotbox@Register@Rename#3,N", "put Shotbox@Register@Delete#3,3"},
-        {FILEPAGE_MACRO, 0, "put Macro@Register@Rename@Rename#0000100000000000,3,N",
+        {FILEPAGE_MACRO, 1024, "put Macro@Register@Rename@Rename#0000100000000000,3,N",
          "put Macro@Register@Delete@Delete#0000100000000000,3,3"},
     };
     for (const auto& c : cases) {
         const FileKind& kind = file_kinds[c.page];
-        const uint64_t mask = kind.commands->mask(c.region);
+        const uint64_t mask = FileKind_Mask(kind, c.region);
         (void)TakeQueuedCommands();
         FileKind_Rename(kind, mask, 2, "N");
         FileKind_Delete(kind, mask, 2);
