@@ -145,11 +145,9 @@ static bool is_locked()
 
 static void links_of_mirror(int (&links)[LINKED_REGIONS])
 {
-    static RegisterLine lines[REGISTERS]; // about 90 KB
-    const char* const raw = register_mirrors[me.kind->mirror].tally(me.kind->mirror_row, me.no);
-    std::fill(std::begin(links), std::end(links), 0);
-    if (raw && me.kind->setdata(*me.kind, raw, lines) == me.no)
-        std::copy_n(lines[me.no].data, regions_of_kind(), links);
+    RegisterLine line;
+    (void)RegisterKind_Line(*me.kind, 0, me.no, &line); // an empty one links nothing
+    std::copy_n(line.data, LINKED_REGIONS, links);
 }
 
 static void take_register()

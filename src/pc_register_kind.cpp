@@ -351,6 +351,19 @@ int RegisterKind_Lock(const RegisterKind& kind, int region, int no)
     return register_mirrors[kind.mirror].lock(RegisterKind_MirrorRow(kind, region), no);
 }
 
+bool RegisterKind_Line(const RegisterKind& kind, int region, int no, RegisterLine* line)
+{
+    const int row = RegisterKind_MirrorRow(kind, region);
+    const char* const raw = register_mirrors[kind.mirror].tally(row, no);
+    if (!raw || kind.setdata(kind, raw, line) != no) {
+        *line = {};
+        CopyText(line->no, NumStr(kind.first_number + no));
+    }
+    if (kind.complete)
+        kind.complete(row, no, line);
+    return raw != nullptr;
+}
+
 int RegisterKind_Regions(const RegisterKind& kind)
 {
     int n = 0;

@@ -73,9 +73,9 @@ struct RegisterKind {
     bool has_dme_groups = false;       // the rows of the mirror are groups of channels
     REGMASKFORM mask = REGMASK_NONE;
     const RegisterCommands* commands = nullptr;
-    // Digest the raw line into lines[index]. Returns the index, or -1 for a number that is not
-    // this kind's.
-    int (*setdata)(const RegisterKind& kind, const char* line, RegisterLine* lines) = nullptr;
+    // Digest a raw text into a line. Returns the index of its register, or -1 for a number that is
+    // not this kind's and a text with too few fields: the line is as it was.
+    int (*setdata)(const RegisterKind& kind, const char* text, RegisterLine* line) = nullptr;
     // What the line does not tell: complete a line of register no, mirrored in row.
     void (*complete)(int row, int no, RegisterLine* line) = nullptr;
     const RegisterColumn* columns = nullptr;      // of a list over the whole width
@@ -89,6 +89,9 @@ extern const RegisterKind register_kinds[REGKINDS];
 int RegisterKind_MirrorRow(const RegisterKind& kind, int region);
 // What the mirror has of register no; region is a row of the kind's table.
 const char* RegisterKind_Name(const RegisterKind& kind, int region, int no);
+// The line of register no, complete; with the number alone where there is none. False when the
+// server has not told the register yet.
+bool RegisterKind_Line(const RegisterKind& kind, int region, int no, RegisterLine* line);
 int RegisterKind_Exist(const RegisterKind& kind, int region, int no);
 int RegisterKind_Lock(const RegisterKind& kind, int region, int no);
 // Rows of the region table; 1 without regions.

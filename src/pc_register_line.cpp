@@ -28,18 +28,17 @@ static bool split(Fields& fields, const char* line, int n)
     return SplitVars(fields.text, fields.v, n) >= n;
 }
 
-// The line that a number stands for, emptied but for what it begins with; null out of range.
-static RegisterLine* begin_line(const RegisterKind& kind, const char* number, const char* name,
-                                RegisterLine* lines, int* index)
+// Empties the line but for what it begins with. Returns the index of its register, -1 out of range.
+static int begin_line(const RegisterKind& kind, const char* number, const char* name,
+                      RegisterLine* line)
 {
-    *index = Decimal(number) - kind.first_number;
-    if (*index < 0 || *index >= kind.registers)
-        return nullptr;
-    RegisterLine& line = lines[*index];
-    line = {};
-    CopyText(line.no, NumStr(kind.first_number + *index));
-    strncpy_secu(line.name, name, sizeof line.name, NAME_MAX_LEN);
-    return &line;
+    const int index = Decimal(number) - kind.first_number;
+    if (index < 0 || index >= kind.registers)
+        return -1;
+    *line = {};
+    CopyText(line->no, NumStr(kind.first_number + index));
+    strncpy_secu(line->name, name, sizeof line->name, NAME_MAX_LEN);
+    return index;
 }
 
 static void set_status(RegisterLine* line, bool is_empty, bool is_locked)
@@ -61,13 +60,11 @@ static void set_short(char (&field)[5], const char* value)
     strncpy_secu(field, *value == 'n' ? "" : value, sizeof field, 3);
 }
 
-int snapshot_setdata(const RegisterKind& kind, const char* text, RegisterLine* lines)
+int snapshot_setdata(const RegisterKind& kind, const char* text, RegisterLine* line)
 {
     Fields f;
-    int index = -1;
-    RegisterLine* const line =
-        split(f, text, 7) ? begin_line(kind, f.v[0], f.v[1], lines, &index) : nullptr;
-    if (!line)
+    const int index = split(f, text, 7) ? begin_line(kind, f.v[0], f.v[1], line) : -1;
+    if (index < 0)
         return -1;
     set_status(line, f.v[2]);
     CopyText(line->xpthold_tly, f.v[3]);
@@ -97,16 +94,14 @@ void snapshot_complete(int row, int no, RegisterLine* line)
         CopyText(line->clip, "On");
 }
 
-int wipess_setdata(const RegisterKind& kind, const char* text, RegisterLine* lines)
+int wipess_setdata(const RegisterKind& kind, const char* text, RegisterLine* line)
 {
     constexpr int FIELDS = 3, PATTERN = 3;
     Fields f;
-    int index = -1;
     CopyText(f.text, text);
     const int n = SplitVars(f.text, f.v, PATTERN + 1);
-    RegisterLine* const line =
-        n >= FIELDS ? begin_line(kind, f.v[0], f.v[1], lines, &index) : nullptr;
-    if (!line)
+    const int index = n >= FIELDS ? begin_line(kind, f.v[0], f.v[1], line) : -1;
+    if (index < 0)
         return -1;
     set_status(line, f.v[2]);
     if (n > PATTERN && *f.v[2] != 'E')
@@ -116,13 +111,11 @@ int wipess_setdata(const RegisterKind& kind, const char* text, RegisterLine* lin
 
 // --- Effects ---
 
-int effect_setdata(const RegisterKind& kind, const char* text, RegisterLine* lines)
+int effect_setdata(const RegisterKind& kind, const char* text, RegisterLine* line)
 {
     Fields f;
-    int index = -1;
-    RegisterLine* const line =
-        split(f, text, 6) ? begin_line(kind, f.v[0], f.v[2], lines, &index) : nullptr;
-    if (!line)
+    const int index = split(f, text, 6) ? begin_line(kind, f.v[0], f.v[2], line) : -1;
+    if (index < 0)
         return -1;
     set_status(line, *f.v[1] == 'E', *f.v[3] == 'L');
     line->dur = int(NumberIn(f.v[5], 0, 9999));
@@ -248,15 +241,13 @@ static void set_links(RegisterLine* line, char* const* fields, int n)
     show_links(line);
 }
 
-int master_setdata(const RegisterKind& kind, const char* text, RegisterLine* lines)
+int master_setdata(const RegisterKind& kind, const char* text, RegisterLine* line)
 {
     constexpr int HEAD = 4;
     const int n = kind.mirror == REGISTER_SNAPSHOT ? 34 : 47;
     Fields f;
-    int index = -1;
-    RegisterLine* const line =
-        split(f, text, n) ? begin_line(kind, f.v[0], f.v[1], lines, &index) : nullptr;
-    if (!line)
+    const int index = split(f, text, n) ? begin_line(kind, f.v[0], f.v[1], line) : -1;
+    if (index < 0)
         return -1;
     set_status(line, *f.v[2] == 'E', *f.v[3] == 'L');
     // A master snapshot has 29 regions and a field that no region has.
@@ -264,14 +255,12 @@ int master_setdata(const RegisterKind& kind, const char* text, RegisterLine* lin
     return index;
 }
 
-int shotbox_setdata(const RegisterKind& kind, const char* text, RegisterLine* lines)
+int shotbox_setdata(const RegisterKind& kind, const char* text, RegisterLine* line)
 {
     constexpr int HEAD = 4, FIELDS = 48;
     Fields f;
-    int index = -1;
-    RegisterLine* const line =
-        split(f, text, FIELDS) ? begin_line(kind, f.v[0], f.v[1], lines, &index) : nullptr;
-    if (!line)
+    const int index = split(f, text, FIELDS) ? begin_line(kind, f.v[0], f.v[1], line) : -1;
+    if (index < 0)
         return -1;
     set_links(line, f.v + HEAD, FIELDS - HEAD);
     const bool is_empty = std::none_of(f.v + HEAD, f.v + FIELDS, [](const char* v) { return *v; });

@@ -41,13 +41,12 @@ struct RegisterColumn {
 extern int Region_Count; // an effect that is empty here shows how many regions do hold it
 
 struct RegisterKind;
-// --- The digests of register_kinds: lines[index] takes over the raw line. They return the index,
-// -1 for a number out of range or a line with too few fields. ---
-int snapshot_setdata(const RegisterKind& kind, const char* line, RegisterLine* lines);
-int wipess_setdata(const RegisterKind& kind, const char* line, RegisterLine* lines); // dmess, keyss
-int effect_setdata(const RegisterKind& kind, const char* line, RegisterLine* lines); // all effects
-int master_setdata(const RegisterKind& kind, const char* line, RegisterLine* lines);
-int shotbox_setdata(const RegisterKind& kind, const char* line, RegisterLine* lines);
+// --- The digests of register_kinds, see setdata there ---
+int snapshot_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
+int wipess_setdata(const RegisterKind& kind, const char* text, RegisterLine* line); // dmess, keyss
+int effect_setdata(const RegisterKind& kind, const char* text, RegisterLine* line); // all effects
+int master_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
+int shotbox_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
 // What the mirror adds to a line.
 void snapshot_complete(int row, int no, RegisterLine* line); // hold, flags and clip of the region
 void effect_complete(int row, int no, RegisterLine* line);

@@ -45,22 +45,17 @@ static void show_cells(int n, int no)
     for (int col = 0; side.columns[col].head; col++)
         (void)LS_SetData(n + 1, no, col, side.columns[col].text(line));
     const bool is_empty = !RegisterKind_Exist(*side.kind, side.region, no);
-    (void)LS_SetHStatus(n + 1, no, is_empty ? CELL_EMPTY : CELL_USUAL);
+    const int status = is_empty ? CELL_EMPTY : CELL_USUAL;
+    if (LS_GetStatus(n + 1, no, 0) != status) // it rarely changes, and is as wide as lists can be
+        (void)LS_SetHStatus(n + 1, no, status);
 }
 
-// True when the mirror has no line of the register yet; its row shows the number then.
+// True when the server has not told the register yet.
 static bool take_line(int n, int no)
 {
-    const Side& side = sides[n];
-    const char* const raw = register_mirrors[side.kind->mirror].tally(mirror_row(side), no);
-    if (!raw || side.kind->setdata(*side.kind, raw, lines[n]) != no) {
-        lines[n][no] = {};
-        CopyText(lines[n][no].no, NumStr(side.kind->first_number + no));
-    }
-    if (side.kind->complete)
-        side.kind->complete(mirror_row(side), no, &lines[n][no]);
+    const bool is_told = RegisterKind_Line(*sides[n].kind, sides[n].region, no, &lines[n][no]);
     show_cells(n, no);
-    return !raw;
+    return !is_told;
 }
 
 static void ask_for_lines(const Side& side)

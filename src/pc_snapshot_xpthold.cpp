@@ -130,10 +130,9 @@ static void show_row(int row)
 
 static void xpthold_xh_set()
 {
-    static RegisterLine line[REGISTERS]; // about 90 KB
-    const char* const raw = Register_Tally_Snapshot(xh.region, xh.no);
-    const bool is_line = raw && kind().setdata(kind(), raw, line) == xh.no;
-    (void)snapshot_xpthold_set(xh.region, is_line ? line[xh.no].xpthold_tly : "", marks);
+    RegisterLine line;
+    (void)RegisterKind_Line(kind(), xh.region, xh.no, &line); // an empty one holds nothing
+    (void)snapshot_xpthold_set(xh.region, line.xpthold_tly, marks);
     std::copy(std::begin(marks), std::end(marks), written);
     for (int row = 0; row < xh.rows; row++)
         show_row(row);
