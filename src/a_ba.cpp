@@ -553,6 +553,10 @@ void BA_DrawError()
 {
     if (!ba.Base.create_func)
         return;
+    ba.Title.redraw = 1;
+    if (Pane_GetActiveID() || GetWindow() || GL_ScreenSaver_Now)
+        return; // what stands above the page is not painted over: when it has gone
+    ba.Title.redraw = 0;
     const Rect r = ba_drw_title();
     TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);
 }

@@ -16,6 +16,7 @@ namespace
 constexpr unsigned TREE_OMOTE = ORANGE;
 constexpr unsigned TREE_URA = 0x800019;
 constexpr unsigned REGION_GRID = 0x323246;
+constexpr unsigned ERROR_GROUND = 0xB40000; // under the words that ask for a touch
 constexpr Rect NOT_FLUSHED = {0, 0, -1, -1};
 } // namespace
 
@@ -126,15 +127,32 @@ static void tree_line(char (&line)[PATH_SIZE], int width_px)
     (void)TDL_CutText(line, sizeof line, width_px, "..", 4); // the band has room for both dots
 }
 
+// How many errors the units report, beside a lamp like those of the page button. Returns where the
+// section's name ends.
+static int draw_error_mark(const Rect& band)
+{
+    if (GL_ErrorExist <= 0)
+        return band.x2;
+    char count[12];
+    PrintText(count, "%d", std::min(GL_ErrorExist, 999));
+    const int lamp = band.x2 - 21;
+    const int x = lamp - 5 - int(TDL_GetSymbolWidth(count, 3));
+    TDL_FillRectS(lamp, 13, lamp + 10, 23, RED);
+    TDL_SymbolS(x, 13, count, 3, OmoteFlag ? WHITE : BLACK);
+    return x - 5;
+}
+
 Rect ba_drw_title()
 {
     const Rect band = ba_has_short_title() ? ZONE_TITLE_SHORT : ZONE_TITLE;
     TDL_PutS(band.x1, band.y1, title_band());
     if (!GL_NowTree || !GL_NowTree[0])
         return band;
-    TDL_SymbolWS(97, 11, band.x2 - 97, GL_NowTree[0], 9, OmoteFlag ? WHITE : BLACK);
+    const int end = draw_error_mark(band);
+    TDL_SymbolWS(97, 11, end - 97, GL_NowTree[0], 9, OmoteFlag ? WHITE : BLACK);
     if (GL_ErrorPopup_On) {
-        TDL_SymbolS(99, 46, "Error: touch here", 4, RED); // leads to the diagnosis
+        TDL_FillRectS(band.x1 + 3, 43, band.x2 - 3, 60, ERROR_GROUND);
+        TDL_SymbolS(99, 46, "Error: touch here", 4, WHITE); // leads to the diagnosis
         return band;
     }
     char line[PATH_SIZE];

@@ -33,6 +33,7 @@
 #include "register.h"
 #include "saver.h"
 #include "scrollbar.h"
+#include "selfdiag.h"
 #include "setup_index.h"
 #include "tdl.h"
 #include "test_dirs.h"
@@ -105,6 +106,8 @@ static void reset_state()
 {
     Device_Init();
     DeviceStructure();
+    SelfDiag_Init();
+    GL_ErrorPopup = GL_RedrawMenu9991 = 0;
     me_config_reset();
     Global_FreeBusNames();
     SYS_DualProc = SYS_Simul = SYS_DualSimul = SYS_3DMode = SYS_4KMode = SYS_SetupTarget = 0;
