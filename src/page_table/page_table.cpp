@@ -1,4 +1,5 @@
 // PageTable, joined at compile time from the rows of the menu groups.
+#include "diag.h"
 #include "dme.h"
 #include "effect_pages.h"
 #include "file_all.h"
@@ -75,6 +76,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 shotbox_register_pages,
                 shotbox_sub_pages,
                 system_pages,
+                diag_pages,
                 file_directory_pages,
                 file_folder_pages,
                 file_idcopy_pages,

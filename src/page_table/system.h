@@ -1,4 +1,4 @@
-// system: the first pages of files, engineering setup, diagnosis and the error page.
+// system: the first pages of files, engineering setup and diagnosis, and the error page.
 #pragma once
 #include "rows.h"
 
@@ -15,25 +15,6 @@ inline constexpr BT_TBL bt_setup_network[] = {
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_setup_network));
-
-inline constexpr BT_TBL bt_diag[] = {
-    Action(     {.id = 17, .caption = "Refresh", .group = "Report", .cmd = {"~@Refresh#*"}}),
-    Action(     {.id = 18, .caption = "Clear\nLog", .group = "Report", .cmd = {"~@Clear Log#*"}}),
-    Jump(       {.id = 33, .caption = "Error\nList", .group = "Lists", .cmd = {"#99000000"}}),
-    Jump(       {.id = 34, .caption = "History", .group = "Lists", .cmd = {"#74120000"}}),
-    Jump(       {.id = 49, .caption = "Engineer-\ning", .group = "Service", .cmd = {"#99910000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_diag));
-
-inline constexpr BT_TBL bt_diag_history[] = {
-    Action(     {.id = 17, .caption = "Clear", .group = "History", .cmd = {"~@Clear#*"}}),
-    Jump(       {.id = 33, .caption = "Status", .group = "Lists", .cmd = {"#74110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_diag_history));
 
 inline constexpr BT_TBL bt_error[] = {
     Jump(       {.id = 49, .caption = "Diag", .cmd = {"#74110000"}}),
@@ -67,6 +48,7 @@ static_assert(ButtonsAreSound(bt_engineering_setup_top));
 
 inline constexpr BT_TBL bt_diag_top[] = {
     Jump(       {.id = 17, .caption = "Status", .group = "Diag", .cmd = {"#74110000"}}),
+    Jump(       {.id = 18, .caption = "History", .group = "Diag", .cmd = {"#74120000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
@@ -77,7 +59,5 @@ inline constexpr PAGE system_pages[] = {
     {.id = 0x73000000, .tree = {"Engineering Setup"}, .obj = {Base(base_main), Buttons(bt_engineering_setup_top)}},
     {.id = 0x74000000, .tree = {"Diag"}, .obj = {Base(base_main), Buttons(bt_diag_top)}},
     {.id = 0x73110000, .tree = {"Engineering Setup", "System", "Network Config"}, .obj = {Base(base_main), Buttons(bt_setup_network)}},
-    {.id = 0x74110000, .tree = {"Diag", "Status"}, .obj = {Base(base_main), Buttons(bt_diag)}},
-    {.id = 0x74120000, .tree = {"Diag", "History"}, .obj = {Base(base_main), Buttons(bt_diag_history)}},
     {.id = 0x99000000, .tree = {"Error"}, .obj = {Base(base_main), Buttons(bt_error), Lists(ls_error), ErrorList()}},
 };
