@@ -358,9 +358,12 @@ static constexpr Command commands[] = {
     {"quit", "", "end", con_quit},
 };
 
-static const std::span<const Command> command_sets[] = {
-    commands, console_effect_commands, console_register_commands, console_file_commands,
-    console_setup_commands};
+static const std::span<const Command> command_sets[] = {commands,
+                                                        console_effect_commands,
+                                                        console_register_commands,
+                                                        console_file_commands,
+                                                        console_setup_commands,
+                                                        console_diag_commands};
 
 static bool con_help(Runner&, const std::string&)
 {

@@ -1,4 +1,5 @@
 #include "link.h"
+#include "diag.h"
 #include "hub.h"
 #include "log.h"
 #include "stream.h"
@@ -142,6 +143,7 @@ static void link_sweep()
         if (client.kind != LINK_TEXT)
             continue;
         Tree_ForgetClient(client.number);
+        Diag_ForgetClient(client.number);
         System_Lost(client.number);
     }
     std::erase_if(lk.clients, [](const Client& client) { return client.fd < 0; });

@@ -1,4 +1,5 @@
 #include "system.h"
+#include "diag.h"
 #include "dissolve.h"
 #include "dme_channels.h"
 #include "file_job.h"
@@ -86,8 +87,9 @@ static const Preset presets[] = {
     {"Info@Board Config@Board Exist Set", PNLS, "1"}, // the option word: fitted with the option
     {"Engineering Setup@DME@Model", DMES, "3"},       // with all pages of the effects menu
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
-    {"MPE@Fx@Channel@Selected", "", "F"},         // masks of channels, hexadecimal
-    {"MPE@Fx@Channel@Reference", "", "00000001"}, // binary, channel 1 last
+    {"Info@Self Diagnosis Notice@MPE Status", "MPE1", "0,0"}, // the state of its two references
+    {"MPE@Fx@Channel@Selected", "", "F"},                     // masks of channels, hexadecimal
+    {"MPE@Fx@Channel@Reference", "", "00000001"},             // binary, channel 1 last
     {"Engineering Setup@MPE@Config@SCU Select", "MPE1", "1"},
     {"Engineering Setup@MPE@Config@SWR Select", "MPE1", "1"},
     {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "", "4"},
@@ -270,6 +272,7 @@ void System_Install()
     Dissolve_Install();
     Dme_Install();
     Rules_Install();
+    Diag_Install();
 }
 
 bool System_PutMpe(const std::string& path, const std::string& digits)
