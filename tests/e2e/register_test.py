@@ -33,8 +33,7 @@ class Registers(DeskCase):
         time.sleep(1)  # the last of the start's progress has gone
 
     def page(self, number):
-        self.desk.console(f"page {number}")
-        time.sleep(0.6)
+        self.open_page(number, "put TopMenu@SubMenuSite#false")  # every page says its side
 
     def row(self, number, x=A, top=TOP):
         self.desk.touch(x, top + 22 * number + 11, settle=0.2)
@@ -98,7 +97,6 @@ class Registers(DeskCase):
         self.row(4)
         self.press(51, SNAPSHOTS + "Store#6,4")
         self.press(37)  # to the crosspoint hold
-        time.sleep(0.5)
         self.row(3)  # below the two backgrounds: key 1
         self.press(49, SNAPSHOTS + "Attribute@Xpt Hold#6,4,4,1")
         self.page(6321)
@@ -154,7 +152,6 @@ class Registers(DeskCase):
         self.press(49, MASTER + "Store/Recall@Recall#4")
         self.assertEqual(self.values(), ["Linear"] * 3)
         self.press(51)  # to the edit page
-        time.sleep(0.5)
         self.desk.touch(110, 112)  # M/E-1
         self.desk.console("knob 0 +9")
         time.sleep(0.2)
@@ -193,7 +190,6 @@ class Registers(DeskCase):
         self.row(3)
         self.press(50, SHOTBOX + "Store/Recall@Store#3")
         self.press(51)  # to the edit page
-        time.sleep(0.5)
         self.desk.touch(110 + 75, 112)  # M/E-2
         self.press(50)  # a snapshot
         self.press(51)
