@@ -16,6 +16,7 @@ char GL_MenuDetailInfoFull[DETAIL_INFO_ROWS][256];
 int GL_DetailInfoMax = 0;
 char GL_Version[256] = "--";
 char GL_VerTime[256] = "--";
+int GL_DetailInfoFull = 0;
 
 namespace
 {

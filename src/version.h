@@ -10,6 +10,7 @@ extern char GL_MenuDetailInfoFull[DETAIL_INFO_ROWS][256];
 extern int GL_DetailInfoMax; // rows in use
 extern char GL_Version[256];
 extern char GL_VerTime[256];
+extern int GL_DetailInfoFull; // versions are shown with their build numbers
 
 // Read the version files and the FPGA registers and publish them under /var/tmp/version2.
 void GetMenuDetailInfo();

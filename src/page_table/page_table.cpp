@@ -12,6 +12,7 @@
 #include "file_xport.h"
 #include "fm.h"
 #include "gallery.h"
+#include "install.h"
 #include "keyframe.h"
 #include "keyframe_path.h"
 #include "machines.h"
@@ -77,6 +78,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 shotbox_sub_pages,
                 system_pages,
                 diag_pages,
+                install_pages,
                 file_directory_pages,
                 file_folder_pages,
                 file_idcopy_pages,

@@ -11,6 +11,7 @@ inline constexpr BT_TBL bt_setup_network[] = {
     Action(     {.id = 34, .caption = "Clear", .group = "Job", .cmd = {"~@Clear#*"}}),
     Action(     {.id = 35, .caption = "Execute", .group = "Job", .cmd = {"~@Execute#*"}}),
     Jump(       {.id = 49, .caption = "Diag", .group = "Engineering", .cmd = {"#74110000"}}),
+    Jump(       {.id = 50, .caption = "Install", .group = "Engineering", .cmd = {"#73160000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

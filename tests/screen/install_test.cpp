@@ -1,0 +1,63 @@
+// The pages of Install/Unit Config with a stick that has something for them.
+#include "a_ls.h"
+#include "install_stick.h"
+#include "table_page.h"
+
+namespace
+{
+struct InstallPictures : TablePage {
+    std::unique_ptr<InstallStick> stick;
+
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        stick = std::make_unique<InstallStick>();
+        CopyText(GL_ImportDataPath, STICK "/usb/");
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        CopyText(GL_ImportDataPath, "");
+        CopyText(GL_Version, "--");
+        Device_Init();
+        stick.reset();
+        TablePage::TearDown();
+    }
+    static void Paint()
+    {
+        for (int i = 0; i < 4; i++)
+            Pass(1000);
+    }
+};
+} // namespace
+
+TEST_F(InstallPictures, NewInstall)
+{
+    static const struct {
+        const char* title;
+        const char* version;
+        const char* target;
+    } packages[] = {
+        {"KTR40G Upgrade", "5.10 (Nov.02.2026)", "SWR"},
+        {"KTR40G Full", "5.10 (Nov.02.2026)", "SWR"},
+        {"KTR40X Upgrade", "6.00", "SWR"},
+        {"Menu Upgrade", "5.11", "MENU"},
+        {"FXU50 Upgrade", "2.02", "DME"},
+    };
+    for (const auto& p : packages)
+        InstallStick::Put(std::string("usb/") + p.title + "/install.cfg",
+                          std::string("TITLE ") + p.title + "\nVERSION " + p.version + "\nTARGET " +
+                              p.target + "\nEXEC step\n");
+    (void)!::system("mkdir -p /var/tmp/version1; "
+                    "echo 'X: Version 5.09 (Mar.01.2026)' >/var/tmp/version1/SWR010100");
+    CopyText(GL_Version, "5.10");
+    DEV_Swr[0].type = DEVTYPE_KTR40G;
+    DEV_Dme[0].type = DEVTYPE_FXU50;
+    DeviceStructure();
+    (void)Open(0x73160010);
+    Paint();
+    (void)Touch(150, 78 + 22 * 6 + 5);
+    (void)Touch(150, 284 + 22 + 5); // a package of another model
+    Paint();
+    EXPECT_TRUE(MatchesGolden("install_list"));
+}
