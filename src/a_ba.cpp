@@ -27,7 +27,6 @@ constexpr uint32_t PAGE_ERRORS_GONE = 0x74120000;
 constexpr uint32_t PAGE_ERROR_TEXT = 0x99000000;
 constexpr uint32_t PAGE_WALK = 0x99970000; // starts the walk through all pages
 constexpr uint32_t PAGE_TIMELINE = 0x61110000;
-constexpr uint32_t PAGE_SETUP_LOCK = 0x73170001;
 
 } // namespace
 
@@ -539,6 +538,13 @@ void BA_SetPagebtn()
 void BA_RedrawTitle()
 {
     ba.Title.redraw = 1;
+}
+
+void BA_FlashSetupLock()
+{
+    if (!ba.SetupLock_enable)
+        return;
+    push(ba.SetupLockKey);
 }
 
 void BA_RedrawMenuMacro()

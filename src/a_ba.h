@@ -29,6 +29,7 @@ void BA_SetDefaultButton(int n);
 void BA_SetPagebtn();      // repaint the page button
 void BA_RedrawTitle();     // repaint the title at the next pass
 void BA_RedrawMenuMacro(); // repaint the menu macro keys
+void BA_FlashSetupLock();  // a press was refused: the lock mark says why
 void BA_DrawError();       // an error has taken the title
 void BA_SetFtpAccess(int on);
 void BA_SetUsbAccess(int on);

@@ -240,9 +240,9 @@ Rect ba_drw_setuplock()
     const bool locked_page = ba.SetupLock_id < 0 || SetupMenu[ba.SetupLock_id].lock;
     const int p = ba.SetupLockKey.pushed > 0;
     if (SetupLock.lock) {
-        TDL_PutS(4, 531, G_NBA_off);
+        TDL_PutS(4, 531, p ? G_NBA_on : G_NBA_off); // lit for a moment when a press was refused
         if (locked_page)
-            TDL_PutS(35, 555, G_Lock_On_Button);
+            TDL_PutS(35, 555, p ? G_Lock_On_Button_Rev : G_Lock_On_Button);
         else
             TDL_SymbolS(15, 545, "Lock Item\nSelect", 3, GREY);
     } else if (locked_page) {

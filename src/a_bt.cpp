@@ -9,6 +9,7 @@
 #include "netio.h"
 #include "page.h"
 #include "path_set.h"
+#include "setup_index.h"
 #include "tdl.h"
 #include "text.h"
 #include "window.h"
@@ -22,6 +23,7 @@ namespace
 constexpr uint32_t NO_HASH = 0xFFFFFFFF; // no path sums up to this
 constexpr int PUSHED_MS = 150;           // long enough to be seen, over before the next press
 constexpr int PUSHED_LONG_MS = 1000;     // the copies of this page run that long
+constexpr uint32_t SETUP_BANK = 0x73;
 constexpr uint32_t PAGE_LONG_ACTIONS = 0x31160000;
 } // namespace
 
@@ -314,13 +316,24 @@ static void press_button(BT_MEM& b)
         SendMessage(LMSG_BTNSEL, Arg(b.cmd[0]), Arg(b.cmd_var[0]), only_knobs, 0);
 }
 
+// A locked setup page takes no change; where a button only leads to another page, it still does.
+static bool is_refused(const BT_MEM& b)
+{
+    const bool is_link = b.type == BT_JUMP && b.cmd[0][0] == '\0' && b.cmd_var[0][0] != '\0';
+    return !is_link && GL_NowPage >> 24 == SETUP_BANK && SetupIndex_IsLocked(GL_NowPage);
+}
+
 static int press(int x, int y)
 {
     if (!Inside({MinX, MinY, MaxX, MaxY}, x, y) || BA_IsDefaultButton())
         return 0;
     for (BT_MEM& b : buttons())
-        if (b.visible == BT_ENABLED && Inside({b.x1, b.y1, b.x2, b.y2}, x, y))
-            press_button(b);
+        if (b.visible == BT_ENABLED && Inside({b.x1, b.y1, b.x2, b.y2}, x, y)) {
+            if (is_refused(b))
+                BA_FlashSetupLock();
+            else
+                press_button(b);
+        }
     return 0;
 }
 

@@ -363,8 +363,7 @@ static int region_redraw()
 // As on the engineering pages: a page of the lock set takes no change while the lock is on.
 static bool is_locked()
 {
-    const int row = SetupIndex_Find(GL_NowPage);
-    return SetupLock.lock && row >= 0 && SetupMenu[row].lock;
+    return SetupIndex_IsLocked(GL_NowPage);
 }
 
 static void choose_key(int button)

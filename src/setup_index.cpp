@@ -160,6 +160,12 @@ int SetupIndex_Find(uint32_t page)
     return -1;
 }
 
+bool SetupIndex_IsLocked(uint32_t page)
+{
+    const int row = SetupIndex_Find(page);
+    return SetupLock.lock && row >= 0 && SetupMenu[row].lock && page != PAGE_SETUP_LOCK;
+}
+
 void SetupIndex_SetExtensionPanel(int available)
 {
     for (int i = 0; i < SetupMenu_Max; i++)

@@ -20,6 +20,8 @@ extern SETUPMENU SetupMenu[SETUP_ROWS];
 extern int SetupMenu_Max;
 extern SETUPTBL SetupMenuTbl[SETUP_GROUPS];
 
+constexpr uint32_t PAGE_SETUP_LOCK = 0x73170001; // where the lock is worked; it can't be locked
+
 constexpr int SETUP_LOCK_PAGES = 192;
 // What the lock file holds.
 struct SETUPLOCK {
@@ -43,5 +45,7 @@ void SetupIndex_LoadLock();
 // -1 when it cannot be written.
 int SetupIndex_SaveLock();
 int SetupIndex_Find(uint32_t page); // row of a page (variant byte ignored), -1 none
+// The page is of the lock set and the lock is on: it takes no change. Never the page of the lock.
+bool SetupIndex_IsLocked(uint32_t page);
 // Whether the page of the extension panel's buttons exists; asked for by DeviceStructure.
 void SetupIndex_SetExtensionPanel(int available);

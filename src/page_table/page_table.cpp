@@ -35,6 +35,7 @@
 #include "nb_wipe.h"
 #include "operation.h"
 #include "saver.h"
+#include "setup_system.h"
 #include "shotbox_pages.h"
 #include "snapshot_pages.h"
 #include "sources.h"
@@ -79,6 +80,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 system_pages,
                 diag_pages,
                 install_pages,
+                setup_system_pages,
                 file_directory_pages,
                 file_folder_pages,
                 file_idcopy_pages,

@@ -1,0 +1,68 @@
+// setup_desk: pages of engineering setup in an installation of one panel with two switchers and
+// three effects units.
+#pragma once
+#include "a_ls.h"
+#include "pane.h"
+#include "setup_index.h"
+#include "table_page.h"
+
+struct SetupTest : TablePage {
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        Device_Init();
+        const std::string list = "Engineering Setup@System@Network Config@List#";
+        TellAll(list, {"KILL", "PNL001D001,PNL1,10.0.0.1,10.0.1.1,10.0.2.1",
+                       "SWR001D001,SWR1,10.0.0.2,10.0.1.2,10.0.2.2",
+                       "SWR002D002,SWR2,10.0.0.3,10.0.1.3,10.0.2.3",
+                       "DME001D001,DME1,10.0.0.4,10.0.1.4,10.0.2.4",
+                       "DME002D002,DME2,10.0.0.5,10.0.1.5,10.0.2.5",
+                       "DME003D003,DME3,10.0.0.6,10.0.1.6,10.0.2.6"});
+        (void)Tell("Info@IP Address@Menu CPU#10.0.0.1");
+        (void)Tell("Engineering Setup@System@System Config@Panel Assign#1,1,2,0,0,0");
+        (void)Tell("Engineering Setup@System@System Config@Switcher Assign#1,1,2,0,0");
+        (void)Tell("Engineering Setup@System@System Config@Switcher Assign#2,3,0,0,0");
+    }
+    void TearDown() override
+    {
+        Device_Init();
+        DeviceStructure();
+        TablePage::TearDown();
+    }
+    // A row of the list: its cells, a changed one with a star.
+    static std::string Row(int row, int columns, int list = 1)
+    {
+        std::string text;
+        for (int col = 0; col < columns; col++) {
+            const char* cell = LS_GetData(list, row, col);
+            text += (col ? "|" : "") + std::string(cell ? cell : "") +
+                    (LS_GetStatus(list, row, col) == 3 ? "*" : "");
+        }
+        return text;
+    }
+    static void SelectRow(int row, int list = 1)
+    {
+        (void)LS_SetNowLine(list, row);
+        SendMessage(LMSG_LISTSEL, list, row, 0, 0);
+    }
+    // Press a button until it looks released.
+    static Lines Push(int id)
+    {
+        Lines lines = Press(id);
+        Pass(200);
+        for (const std::string& line : TakeQueuedCommands())
+            lines.push_back(line);
+        return lines;
+    }
+    // Close the pane on top with a result; what that sends.
+    static Lines Answer(int result)
+    {
+        (void)TakeQueuedCommands();
+        const int pane = Pane_GetActiveID();
+        EXPECT_NE(pane, 0) << "nothing is asked";
+        Pane_Quit(pane);
+        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
+        Pass(1000); // until the key that led here looks released
+        return TakeQueuedCommands();
+    }
+};
