@@ -574,13 +574,22 @@ static int single_rename_exec(const char* text)
     return File_ExecMoveList(&visit().list, single_result, fd.kind->page) < 0 ? -1 : 0;
 }
 
+static const FILECELL* first_in_view(const FILELIST& row)
+{
+    const FILECELL* cell = row.cell;
+    while (cell && !FileSide_InView(*cell))
+        cell = cell->next;
+    return cell;
+}
+
 static int single_rename_sel()
 {
     const FILELIST* const row = FileSide_Row(SIDE_C, first_row(SIDE_C));
     if (row && row->type == FILEROW_FOLDER)
         return -1;
+    const FILECELL* const cell = row ? first_in_view(*row) : nullptr;
     return CreateWindow(WINDOW_KEYBOARD, "Name",
-                        {.value = row ? row->name : "",
+                        {.value = cell ? cell->name : "", // whole: a row may show less of it
                          .input_max = FILE_NAME_SIZE - 1,
                          .ok_text = single_rename_exec});
 }

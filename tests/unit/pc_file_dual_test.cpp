@@ -267,13 +267,14 @@ TEST_F(FileDualPage, RenameOfFilesSkipsWhatKeepsItsName)
     EXPECT_EQ(CreatePage(SNAPSHOT_PAGE + 1), 0);
     opened = TakeQueuedCommands();
     std::erase_if(opened, [](const std::string& s) { return s.find("Find#") == s.npos; });
-    Found(Label(opened), {Drive("SNAPSHOT/SWR000D001/ME1/NEWS.ME1_001.SSS")});
+    Found(Label(opened), {Drive("SNAPSHOT/SWR000D001/ME1/NEWS.ME1_001.SSS"),
+                          Drive("SNAPSHOT/SWR000D001/ME1/A_NAME_LONGER_THAN_ITS_ROW.ME1_002.SSS")});
     const auto rename = [](const char* name) {
         Press(BTN_FILE_RENAME);
         EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
         (void)TakeQueuedCommands();
         SendMessage(MSG_KEY, SDLK_END, 0, 0, 0);
-        for (int i = 0; i < 32; i++)
+        for (int i = 0; *name && i < 32; i++)
             SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
         for (const char* p = name; *p; p++)
             SendMessage(MSG_KEY, *p, 0, 0, 0);
@@ -282,6 +283,10 @@ TEST_F(FileDualPage, RenameOfFilesSkipsWhatKeepsItsName)
             SendMessage(MSG_REDRAW, 50, 0, 0, 0);
         return TakeQueuedCommands();
     };
+    LS_SetNowLine(1, 1);
+    EXPECT_THAT(rename(""), IsEmpty()) << "entered as it stood";
+    LS_SetNowLine(1, 0);
+    Pass(1000);
     EXPECT_THAT(rename("tom.b"),
                 ElementsAre(AllOf(HasSubstr("put File@Access@Move#L"),
                                   HasSubstr("NEWS.ME1_001.SSS"), HasSubstr("tom_b.ME1_001.SSS"))));
