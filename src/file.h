@@ -31,6 +31,8 @@ struct QUEUE;
 // A list is built with the functions below and given to a list entry, which from then on owns its
 // items: when the job ends, after the callback and the message, they are freed and the head is
 // null. Fields that the engine keeps may be read at any time and are not to be written.
+constexpr int IMPORT_KEY_LEFT_OUT = -1; // in import_no[1]: it had one, and info said without
+
 struct FILEXFERLIST {
     char src[FILE_PATH_SIZE] = "";
     char dst[FILE_PATH_SIZE] = "";
@@ -45,7 +47,8 @@ struct FILEXFERLIST {
     int retry = 0;
     int import_no[2] = {}; // import: target registers; copy of a frame: its number, frames in all
     int fmext = 0;         // import: into the extended store; copy of a frame: id of trans_filetype
-    int info = 0;          // a ".SUB" companion travels with it
+    int info =
+        0; // a ".SUB" companion travels with it; import into the frame memory: without its key
     char category[32] = "";
     char target[32] = "";
     FILEXFERLIST* next = nullptr;

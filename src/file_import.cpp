@@ -219,7 +219,9 @@ static bool remove(FILEXFERLIST* item, const Pair& pair, int which, int step)
 static bool after_conversion(FILEXFERLIST* item, const Pair& pair)
 {
     for (int i = 0; i < 2; i++)
-        item->import_no[i] = is_there(pair.path[i]) ? next_register(item->dst) : 0;
+        item->import_no[i] = !is_there(pair.path[i]) ? 0
+                             : i == 1 && item->info  ? IMPORT_KEY_LEFT_OUT
+                                                     : next_register(item->dst);
     for (int i = 0; i < 2; i++)
         if (item->import_no[i] > 0)
             return put(item, pair, i);
@@ -237,7 +239,10 @@ bool file_import_step(FILEXFERLIST* item)
     const bool has_second = item->import_no[1] > 0;
     switch (item->usb) {
     case STEP_CONVERTED: return after_conversion(item, pair);
-    case STEP_FIRST_STORED: return has_second ? put(item, pair, 1) : remove(item, pair, 0, 0);
+    case STEP_FIRST_STORED:
+        if (has_second)
+            return put(item, pair, 1);
+        return remove(item, pair, 0, is_there(pair.path[1]) ? STEP_FIRST_REMOVED : 0);
     case STEP_SECOND_STORED:
         return has_first ? remove(item, pair, 0, STEP_FIRST_REMOVED) : remove(item, pair, 1, 0);
     default: return remove(item, pair, 1, 0);

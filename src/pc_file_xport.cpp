@@ -308,6 +308,21 @@ static void folder_chosen(int id)
 
 // --- Import ---
 
+static void tell_skipped(const Skipped& skipped, bool is_all)
+{
+    char text[CMD_SIZE] = "";
+    if (skipped.is_full)
+        (void)PaneMessage_Create("Import", PANE_ALERT,
+                                 "Some requests are skipped. \nThere is no empty register left.");
+    if (!skipped.is_work_area && !skipped.is_duplicate)
+        return;
+    PrintText(text,
+              "%sFollowing operation is not permitted.\n  - Loading to WORK AREA.\n"
+              "  - Loading that will cause duplicate\n    register name.",
+              is_all ? "" : "Some requests are skipped. \n");
+    (void)PaneMessage_Create("Import", PANE_ALERT, text);
+}
+
 static void move_to_folder(const FILEXFERLIST* item, int folder_id)
 {
     char name[FMEM_NAME_SIZE];
@@ -319,9 +334,18 @@ static void move_to_folder(const FILEXFERLIST* item, int folder_id)
     }
 }
 
+static bool has_key_left_out(const FILEXFERLIST* list)
+{
+    while (list && list->import_no[1] != IMPORT_KEY_LEFT_OUT)
+        list = list->next;
+    return list != nullptr;
+}
+
 static void xport_result(uint32_t, int page)
 {
     const Visit& v = visits[page];
+    if (has_key_left_out(v.list))
+        tell_skipped({.is_duplicate = true}, false);
     for (const FILEXFERLIST* item = v.list; page == XPORTPAGE_FMEM_V6 && item; item = item->next)
         if (item->status == FILESTATUS_OK)
             move_to_folder(item, v.folder_id);
@@ -341,8 +365,14 @@ static int next_register(Targets& t, Skipped& skipped)
     return index >= t.end ? -1 : index;
 }
 
+// Its number in its store; -1 none.
+static void give_register(Targets& t, int index)
+{
+    (void)File_ExecFmImportRegNoSet(index < 0 ? -1 : index % FMEM_EXTENDED, t.reserved++);
+}
+
 // Two registers, the second for the picture's key if it has one.
-static bool reserve(Targets& t, Skipped& skipped)
+static bool reserve(Targets& t, Skipped& skipped, bool is_key_wanted)
 {
     const Skipped before = skipped;
     const int first = next_register(t, skipped);
@@ -350,9 +380,9 @@ static bool reserve(Targets& t, Skipped& skipped)
         skipped.is_full |= !skipped.is_work_area;
         return false;
     }
-    const int second = next_register(t, skipped); // -1: none for a key
-    for (const int index : {first, second})       // as numbers in their store
-        (void)File_ExecFmImportRegNoSet(index < 0 ? -1 : index % FMEM_EXTENDED, t.reserved++);
+    give_register(t, first);
+    if (is_key_wanted)
+        give_register(t, next_register(t, skipped)); // -1: none for a key
     skipped.is_work_area = before.is_work_area;
     return t.reserved <= IMPORT_REGISTERS;
 }
@@ -393,22 +423,47 @@ static int selected_files()
     return n;
 }
 
+// The names that the selected files give.
+static std::unordered_set<std::string> selected_names()
+{
+    std::unordered_set<std::string> names;
+    for (int i = 0, row; (row = LS_GetSelected(LIST_B, i)) >= 0 && row < xp.rows; i++) {
+        char name[FMEM_NAME_SIZE];
+        Xport_RegisterName(name, xp.row[row]->path);
+        names.insert(name);
+    }
+    return names;
+}
+
+// The key of a picture becomes the other side of its name, which must be free, too: what is there
+// stays, and a file of its own for that side comes first.
+static bool is_key_wanted(const char* path, const std::unordered_set<std::string>& names)
+{
+    char name[FMEM_NAME_SIZE];
+    Xport_RegisterName(name, path);
+    name[0] = name[0] == 'M' ? 'S' : 'M';
+    return !FMCtrl2_ExistRegName(name) && !names.contains(name);
+}
+
 static Skipped gather_import()
 {
     Skipped skipped;
     int is_extended = 0;
+    const std::unordered_set<std::string> names = selected_names();
     Targets t = targets_of(selected_files(), &is_extended);
     for (int i = 0, row; (row = LS_GetSelected(LIST_B, i)) >= 0 && row < xp.rows; i++) {
+        const char* const path = xp.row[row]->path;
         char name[FMEM_NAME_SIZE];
-        Xport_RegisterName(name, xp.row[row]->path);
-        if (FMCtrl2_ExistRegName(name) || t.names.count(name)) {
+        Xport_RegisterName(name, path);
+        if (FMCtrl2_ExistRegName(name) || t.names.contains(name)) {
             skipped.is_duplicate = true;
-        } else if (reserve(t, skipped)) {
+        } else if (reserve(t, skipped, is_key_wanted(path, names))) {
             t.names.insert(name);
-            (void)File_XferList_ImportAdd(&visit().list, xp.row[row]->path, DEV_MySwr[0]->id,
-                                          is_extended);
+            (void)File_XferList_ImportAdd(&visit().list, path, DEV_MySwr[0]->id, is_extended);
         }
     }
+    for (FILEXFERLIST* item = visit().list; item; item = item->next)
+        item->info = !is_key_wanted(item->src, names);
     File_ExecFmImportStartRegNoSet(1);
     return skipped;
 }
@@ -477,21 +532,6 @@ static Skipped gather_clips()
             add_clip(*xp.row[row]);
     companions.clear();
     return {};
-}
-
-static void tell_skipped(const Skipped& skipped, bool is_all)
-{
-    char text[CMD_SIZE] = "";
-    if (skipped.is_full)
-        (void)PaneMessage_Create("Import", PANE_ALERT,
-                                 "Some requests are skipped. \nThere is no empty register left.");
-    if (!skipped.is_work_area && !skipped.is_duplicate)
-        return;
-    PrintText(text,
-              "%sFollowing operation is not permitted.\n  - Loading to WORK AREA.\n"
-              "  - Loading that will cause duplicate\n    register name.",
-              is_all ? "" : "Some requests are skipped. \n");
-    (void)PaneMessage_Create("Import", PANE_ALERT, text);
 }
 
 static void import_sel()

@@ -258,6 +258,31 @@ TEST_F(FileImport, ASideThatIsMissingIsPassedOver)
     EXPECT_EQ(list, nullptr);
 }
 
+TEST_F(FileImport, AKeyThatIsNotWantedTakesNoRegister)
+{
+    WriteFile(first, "x");
+    WriteFile(second, "x");
+    int key = 0;
+    probe::answer = [&](const probe::Seen& s) {
+        if (s.msg == LMSG_FILESTATUS)
+            key = (*reinterpret_cast<FILEXFERLIST**>(s.cx))->import_no[1];
+        return 0;
+    };
+    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
+    list->info = 1;
+    File_ExecFmImportList(&list, List, 0);
+    Strings sent;
+    for (int i = 0; i < 4; i++) {
+        Answer(1, "OK");
+        for (const std::string& line : Sent())
+            sent.push_back(line.substr(line.find(',') + 1));
+    }
+    EXPECT_THAT(sent, testing::Contains(testing::HasSubstr("SWR000D001:FMEM_012.SF2")).Times(1));
+    EXPECT_THAT(sent, testing::Not(testing::Contains(testing::HasSubstr("SWR000D001:FMEM1000"))));
+    EXPECT_THAT(sent, testing::IsSupersetOf({"MYHOST:" + first, "MYHOST:" + second})) << "removed";
+    EXPECT_EQ(key, IMPORT_KEY_LEFT_OUT);
+}
+
 TEST_F(FileImport, AStoreThatFailsTakesBothTemporariesAway)
 {
     WriteFile(first, "x");

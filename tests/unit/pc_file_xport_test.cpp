@@ -116,6 +116,27 @@ TEST_F(XportPage, ImportTakesEmptyRegistersAndMovesThemIntoTheFolder)
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
+// The key that a picture has in itself is the other side of its name: one that is there stays, and
+// one that comes from a file of its own goes before.
+TEST_F(XportPage, AKeyDoesNotBecomeASecondRegisterOfItsName)
+{
+    Store({"Slogo"});
+    OpenWith(NEW, {"beach.TIF", "beach.TIF.SUB", "logo.TIF", "sea.TIF"});
+    Select(2, {0, 1, 2, 3});
+    Converted({"Mbeach.FMEM_001.SF2", "Sbeach.FMEM_001.SF2", "Sbeach.FMEM_002.SF2",
+               "Mlogo.FMEM_001.SF2", "Slogo.FMEM_002.SF2", "Msea.FMEM_001.SF2",
+               "Ssea.FMEM_002.SF2"});
+    Pass(1000);
+    Lines sent = Run(Press(BTN_XPORT_IMPORT));
+    std::erase_if(sent, [](const std::string& s) { return s.find("PutV3") == s.npos; });
+    EXPECT_THAT(sent, UnorderedElementsAre(HasSubstr("/Mbeach.FMEM_001.SF2,SWR001D001:FMEM_002"),
+                                           HasSubstr("/Sbeach.FMEM_001.SF2,SWR001D001:FMEM_003"),
+                                           HasSubstr("/Mlogo.FMEM_001.SF2,SWR001D001:FMEM_004"),
+                                           HasSubstr("/Msea.FMEM_001.SF2,SWR001D001:FMEM_005"),
+                                           HasSubstr("/Ssea.FMEM_002.SF2,SWR001D001:FMEM_006")));
+    EXPECT_EQ(Message(), std::string("Some requests are skipped. \n") + NOT_PERMITTED);
+}
+
 TEST_F(XportPage, ExtendedStoreTakesWhatTheMainOneCannot)
 {
     Tell("16@Frame Mem@Status@Max Register#3");
