@@ -74,9 +74,12 @@ static void bring_values_back(const Kind& kind, int row, const Register& r, int 
         if (is_kept(*node))
             values.try_emplace(node->path.substr(path.size()), node->initial);
     const Left left = Store_LeftAlone(kind, row, r);
-    for (const auto& [tail, value] : values)
-        if (!Store_IsLeftAlone(left, tail))
-            Dissolve_To(path + tail, value, frames);
+    for (const auto& [tail, value] : values) {
+        if (Store_IsLeftAlone(left, tail))
+            continue;
+        Transition_Drop(path + tail);
+        Dissolve_To(path + tail, value, frames);
+    }
 }
 
 // --- Recall ---

@@ -85,8 +85,7 @@ static void land(Run run)
     Tree_Show(run.trigger, "false");
 }
 
-// What would land on this path is over and doesn't land.
-static void drop(const std::string& path)
+void Transition_Drop(const std::string& path)
 {
     std::erase_if(tn.runs, [&path](const Run& run) {
         const bool lands_there =
@@ -256,7 +255,7 @@ static void start_ftb(const std::string& trigger, const std::string&, const std:
     run.trigger = ftb + "@Busy";
     run.position = ftb + "@Position";
     run.frames = frames_of(ftb + (on ? "@ON Rate" : "@OFF Rate"));
-    drop(trigger);
+    Transition_Drop(trigger);
     turn_over(&run, trigger, on);
     start(run);
 }
@@ -279,7 +278,7 @@ void Transition_Install()
 bool Transition_Put(const std::string& path, const std::string& value)
 {
     if (Text_MatchesPath(path, KEY_ON_PATTERN))
-        drop(path); // cut on or off in the middle
+        Transition_Drop(path); // cut on or off in the middle
     for (const Starter& s : starters) {
         if (!Text_MatchesPath(path, s.trigger))
             continue;

@@ -10,6 +10,8 @@ void Transition_Install(); // nothing runs
 bool Transition_Put(const std::string& path, const std::string& value);
 // Start the next transition of a bank ("M/E-1", "M/E-1 SUB"), unless one is under way.
 void Transition_Start(const std::string& bank, int frames);
+// What would land on this path is over and doesn't land: somebody else decides it.
+void Transition_Drop(const std::string& path);
 int64_t Transition_Tick(int64_t now); // returns the time of the next frame
 // What is on the air is neither stored in a key's group nor reset with it.
 bool Transition_IsState(const std::string& path);

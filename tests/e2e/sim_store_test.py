@@ -268,6 +268,17 @@ class Recall(StoreTest, StreamTest):
                          [f"{preset}#CAM7", "M/E-1@Misc@Transition@Auto Trans#true", "M/E-1@Status@Xpt Assign@A#CAM7",
                           f"{preset}#CAM1", "M/E-1@Misc@Transition@Auto Trans#false"])
 
+    def test_a_recall_ends_the_transition_that_is_under_way(self):
+        on = "M/E-1@Key1@Status@Key ON"
+        self.put(on, "true")
+        self.put("Snapshot@Snapshot@Store", "2,72")
+        self.follow(on)
+        for path, value in (("M/E-1@Key1@Transition@OFF Transition Rate", "6"), ("M/E-1@Key1@Transition@Auto Trans", "true"),
+                            ("Snapshot@Snapshot@Recall", "2, 72")):
+            self.put(path, value)
+        time.sleep(0.4)
+        self.assertEqual(self.other.sync(), [])
+
     def test_a_shotbox_recalls_an_effect_or_a_snapshot_for_each_region(self):
         shots, link = "Shotbox@Register@Store/Recall@List", "Shotbox@Register@Attribute@Link@"
         self.follow(shots)
