@@ -273,7 +273,7 @@ class Recall(StoreTest, StreamTest):
         self.put(on, "true")
         self.put("Snapshot@Snapshot@Store", "2,72")
         self.follow(on)
-        for path, value in (("M/E-1@Key1@Transition@OFF Transition Rate", "6"), ("M/E-1@Key1@Transition@Auto Trans", "true"),
+        for path, value in (("M/E-1@Key1@Transition@ON Transition Rate", "6"), ("M/E-1@Key1@Transition@Auto Trans", "true"),
                             ("Snapshot@Snapshot@Recall", "2, 72")):
             self.put(path, value)
         time.sleep(0.4)
