@@ -304,8 +304,30 @@ void bt_caption(const BT_MEM* b, const SDL_Surface* face, int top, int font, uns
 
 // --- One button ---
 
+static bool is_empty_pull_down(const BT_MEM* b)
+{
+    return (b->type == BT_PULLDOWN || b->type == BT_PULLDOWN_LONG) && b->visible == BT_DISABLED &&
+           (!b->caption || !*b->caption);
+}
+
+// There is nothing to choose: dark and flat as other dead keys. The bitmap is as light as a dark
+// caption needs it; here it gives the shape.
+static void draw_empty_pull_down(const BT_MEM* b, SDL_Surface* shape)
+{
+    constexpr unsigned char OUTLINE = 126; // of 255: 0x34393C on black
+    constexpr unsigned PLATE = 0x1A1D1F;
+    TDL_FillRectS(b->x1, b->y1, b->x2, b->y2, BLACK);
+    TDL_PutAS(b->x1, b->y1, shape, OUTLINE);
+    for (int in = 2; in <= 4; in++) // its corners are round
+        TDL_FillRectS(b->x1 + in, b->y1 + 6 - in, b->x2 - in, b->y2 - 6 + in, PLATE);
+}
+
 static void draw_face(const BT_MEM* b, const Chosen& c)
 {
+    if (is_empty_pull_down(b)) {
+        draw_empty_pull_down(b, c.bitmap);
+        return;
+    }
     TDL_PutS(b->x1, b->y1, c.bitmap);
     bt_caption(b, c.bitmap, c.top, c.font, c.col);
 }
