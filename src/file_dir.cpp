@@ -101,15 +101,29 @@ int File_DirFind(int drive, const char* name)
     return -1;
 }
 
-int File_DirIsProtected(int drive, const char* name)
+// False also for what lies on another machine.
+static bool is_there(const char* path)
 {
     static constexpr char host[] = "MYHOST:";
+    return BeginsWith(path, host) && access(path + sizeof host - 1, F_OK) == 0;
+}
+
+int File_FindIsWhole(int drive, const char* dir, const char* folder)
+{
+    char path[PATH_SIZE];
+    if (!File_FindFailed())
+        return 1;
+    return !is_there(folder) && File_DirPath(path, sizeof path, drive, dir) && is_there(path);
+}
+
+int File_DirIsProtected(int drive, const char* name)
+{
     char path[PATH_SIZE];
     char file[PATH_SIZE + 16];
-    if (!File_DirPath(path, sizeof path, drive, name) || !BeginsWith(path, host))
+    if (!File_DirPath(path, sizeof path, drive, name))
         return 0;
-    PrintText(file, "%s/.dirprotect", path + sizeof host - 1);
-    return access(file, F_OK) == 0;
+    PrintText(file, "%s/.dirprotect", path);
+    return is_there(file);
 }
 
 // What a row of the server's names right below the root of the drive that was asked about: it comes

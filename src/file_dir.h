@@ -33,6 +33,10 @@ constexpr char FILE_DIR_AUTOLOAD[] = "PWON_LD";
 int File_DirIsAutoload(int drive, const char* name);
 // "<directory>/.dirprotect" is there. Asks the file system at once.
 int File_DirIsProtected(int drive, const char* name);
+// For the end of a search of a folder that lies in a directory: 0 when it failed, so that there may
+// be more than came. A search of a folder that is not there fails, too; a directory need not have
+// all.
+int File_FindIsWhole(int drive, const char* dir, const char* folder);
 // Ask the server for the directories of a drive. done comes once at the end, when the list is
 // whole; a search that runs for the drive already begins anew and serves both. -1 when nothing was
 // asked.

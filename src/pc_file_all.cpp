@@ -12,6 +12,7 @@
 #include "tally_value.h"
 #include "text.h"
 #include "window.h"
+#include <algorithm>
 #include <cstring>
 #include <unistd.h>
 
@@ -60,30 +61,30 @@ static int all_copy(int row, int step);
 static int frames_save(int row, int step);
 static int frames_search(int row, int step);
 
-static constexpr ALLTBL Category(const char* cmd, FILEPAGE first, FILEPAGE last)
+static constexpr ALLTBL Category(const char* cmd, const char* name, FILEPAGE first, FILEPAGE last)
 {
-    return {cmd, 1, all_save, all_load, all_copy, first, last};
+    return {cmd, name, 1, all_save, all_load, all_copy, first, last};
 }
-static constexpr ALLTBL Category(const char* cmd, FILEPAGE only)
+static constexpr ALLTBL Category(const char* cmd, const char* name, FILEPAGE only)
 {
-    return Category(cmd, only, only);
+    return Category(cmd, name, only, only);
 }
 
 ALLTBL AllTbl[ALL_ROWS] = {
-    Category("SETUP", FILEPAGE_SETUP),
-    Category("INITSTAT", FILEPAGE_INITSTAT),
-    Category("KEYMEM", FILEPAGE_KEYMEM),
-    Category("VPROCMEM", FILEPAGE_VPROCMEM),
-    Category("EFFECT", FILEPAGE_EFFECT, FILEPAGE_EFFECT_EX),
-    Category("SNAPSHOT", FILEPAGE_SNAPSHOT),
-    Category("WSNAP", FILEPAGE_WIPESS),
-    Category("DSNAP", FILEPAGE_DMESS),
-    Category("KSNAP", FILEPAGE_KEYSS),
-    Category("SHOTBOX", FILEPAGE_SHOTBOX),
-    Category("MACRO", FILEPAGE_MACRO),
-    Category("MACROATC", FILEPAGE_MACROATC),
-    Category("MENUMACRO", FILEPAGE_MENU_MACRO),
-    {"FRAMEMEM", 1, frames_save, frames_search, frames_search},
+    Category("SETUP", "Setup", FILEPAGE_SETUP),
+    Category("INITSTAT", "Initial Status", FILEPAGE_INITSTAT),
+    Category("KEYMEM", "Key Memory", FILEPAGE_KEYMEM),
+    Category("VPROCMEM", "Video Process Memory", FILEPAGE_VPROCMEM),
+    Category("EFFECT", "Effect", FILEPAGE_EFFECT, FILEPAGE_EFFECT_EX),
+    Category("SNAPSHOT", "Snapshot", FILEPAGE_SNAPSHOT),
+    Category("WSNAP", "Wipe Snapshot", FILEPAGE_WIPESS),
+    Category("DSNAP", "DME Wipe Snapshot", FILEPAGE_DMESS),
+    Category("KSNAP", "Key Snapshot", FILEPAGE_KEYSS),
+    Category("SHOTBOX", "Shotbox", FILEPAGE_SHOTBOX),
+    Category("MACRO", "Macro", FILEPAGE_MACRO),
+    Category("MACROATC", "Macro Attachment", FILEPAGE_MACROATC),
+    Category("MENUMACRO", "Menu Macro", FILEPAGE_MENU_MACRO),
+    {"FRAMEMEM", "Frame Memory", 1, frames_save, frames_search, frames_search},
 };
 
 static constexpr Way ways[] = {
@@ -115,8 +116,9 @@ static struct {
     FILESIDE from;
     FILESIDE to;
     bool chosen[ALL_ROWS] = {};
-    bool read[ALL_ROWS] = {}; // ALLReadRegister: its registers are read anew at the end
-    int row = 0;              // to be gathered next
+    bool read[ALL_ROWS] = {};   // ALLReadRegister: its registers are read anew at the end
+    bool unread[ALL_ROWS] = {}; // its search failed
+    int row = 0;                // to be gathered next
     int step = 0;
     int files = 0;                  // gathered so far
     int pane = 0;                   // "Preparing..."
@@ -156,13 +158,31 @@ static void close_preparing()
     run.pane = 0;
 }
 
+// What could not be searched is not in the transfer.
+static void tell_unread(const char* title, const bool (&unread)[ALL_ROWS])
+{
+    char text[CMD_SIZE] = "Following categories could not be read.";
+    bool is_any = false;
+    for (int row = 0; row < ALL_ROWS; row++) {
+        if (!unread[row])
+            continue;
+        AppendText(text, "\n  - ");
+        AppendText(text, AllTbl[row].name);
+        is_any = true;
+    }
+    if (is_any)
+        (void)PaneMessage_Create(title, PANE_ALERT, text);
+}
+
 static void end_transfer()
 {
     close_preparing();
     const auto ended = run;
     run = {};
-    if (!ended.is_ftp)
+    if (!ended.is_ftp) {
+        tell_unread(ways[ended.way].title, ended.unread);
         return;
+    }
     (void)BkgdFileTransfer_Set(0, 0);
     (void)PaneProgress_RestoreQuit();
     FMCtrl_FtpAnswer(ways[ended.way].answer, ended.is_good);
@@ -174,6 +194,7 @@ static void give_up()
     forget_searches();
     File_XferList_RemoveAll(&all_list);
     File_XferList_RemoveAll(&all_frames);
+    std::fill_n(run.unread, ALL_ROWS, false); // it is no transfer any more
     run.is_good = false;
     end_transfer();
 }
@@ -443,12 +464,29 @@ static void count_down()
     Log_Output(LOG_TRACE, MOD_FILE, "- AllLoadCount = %d", AllLoadCount);
 }
 
+static void note_unread(int row_no)
+{
+    Log_Output(LOG_LINK, MOD_FILE, "All: %s could not be searched", AllTbl[row_no].cmd);
+    run.unread[row_no] = true;
+    run.is_good = false;
+}
+
+static void note_end(int row_no)
+{
+    char path[PATH_SIZE];
+    const FILESIDE& from = run.from;
+    if (File_CategoryPath(path, sizeof path, from.device, from.dir, AllTbl[row_no].cmd) &&
+        !File_FindIsWhole(from.device, from.dir, path))
+        note_unread(row_no);
+}
+
 static void find_tly(uint32_t label, int row_no, const char* path, const char* const*)
 {
     if (run.search[row_no] != label || run.stage != ALL_GATHER)
         return; // one that was given up
     if (!path) {
         run.search[row_no] = 0;
+        note_end(row_no);
         count_down();
         return;
     }
@@ -469,8 +507,10 @@ static int all_search(int row_no)
     if (!File_CategoryPath(path, sizeof path, run.from.device, run.from.dir, AllTbl[row_no].cmd))
         return 0;
     const int label = File_ExecFind(path, "*.*.*", find_tly, row_no);
-    if (label <= 0)
+    if (label <= 0) {
+        note_unread(row_no);
         return 0;
+    }
     run.search[row_no] = uint32_t(label);
     count_up();
     return 0;
@@ -484,10 +524,18 @@ static int all_copy(int row, int)
     return all_search(row);
 }
 
+static void frames_searched(bool is_whole)
+{
+    if (!is_whole)
+        note_unread(ALL_FRAMEMEM);
+    count_down();
+}
+
 // Between drives the pictures travel with the rest.
 static int frames_search(int, int)
 {
-    if (AllFrames_Search(run.from, run.to, is_load() ? &all_frames : &all_list, count_down) == 0)
+    if (AllFrames_Search(run.from, run.to, is_load() ? &all_frames : &all_list, frames_searched) ==
+        0)
         count_up();
     return 0;
 }

@@ -11,8 +11,9 @@
 // A category of the page. The functions gather its files for one of the three ways, a step a call;
 // 1 when there are more steps.
 struct ALLTBL {
-    const char* cmd = ""; // the category's word, also of its button's command
-    int onoff = 1;        // selected
+    const char* cmd = "";  // the category's word, also of its button's command
+    const char* name = ""; // for the operator
+    int onoff = 1;         // selected
     int (*savefunc)(int row, int step) = nullptr;
     int (*loadfunc)(int row, int step) = nullptr;
     int (*copyfunc)(int row, int step) = nullptr;

@@ -32,7 +32,8 @@ static struct {
     FILESIDE from;
     FILESIDE to;
     FILEXFERLIST** list = nullptr; // null: no search runs
-    void (*done)() = nullptr;
+    void (*done)(bool is_whole) = nullptr;
+    bool is_whole = true; // so far
     uint32_t label = 0;
     char folder[FOLDER_MAX][FOLDER_NAME] = {}; // that the side has
     int folders = 0;
@@ -205,12 +206,23 @@ static void add_file(const char* path)
 
 static void end_search()
 {
-    void (*const done)() = search.done;
+    const auto ended = search;
     search = {};
-    done();
+    ended.done(ended.is_whole);
 }
 
 static void search_next();
+
+// The search that ends was of a folder, or without a name of what holds them.
+static void note_end(const char* folder)
+{
+    char base[PATH_SIZE];
+    char path[2 * PATH_SIZE];
+    if (!base_path(base, search.from))
+        return;
+    PrintText(path, "%s%s", base, folder);
+    search.is_whole &= File_FindIsWhole(search.from.device, search.from.dir, path) != 0;
+}
 
 static void frame_tly(uint32_t label, int, const char* path, const char* const*)
 {
@@ -220,6 +232,7 @@ static void frame_tly(uint32_t label, int, const char* path, const char* const*)
         add_file(path);
         return;
     }
+    note_end(search.now < search.folders ? search.folder[search.now] : "");
     search.now++;
     search_next();
 }
@@ -240,6 +253,7 @@ static void search_next()
         const int n = PrintText(path, "%s%s/", base, search.folder[search.now]);
         if (n < int(sizeof path) && find(path))
             return;
+        search.is_whole = false;
         search.now++;
     }
     end_search();
@@ -250,6 +264,7 @@ static void folder_tly(uint32_t label, int, const char* path, const char* const*
     if (!search.list || label != search.label)
         return;
     if (!path) {
+        note_end("");
         search_next();
         return;
     }
@@ -262,13 +277,17 @@ static void folder_tly(uint32_t label, int, const char* path, const char* const*
     CopyText(search.folder[search.folders++], name);
 }
 
-int AllFrames_Search(const FILESIDE& from, const FILESIDE& to, FILEXFERLIST** list, void (*done)())
+int AllFrames_Search(const FILESIDE& from, const FILESIDE& to, FILEXFERLIST** list,
+                     void (*done)(bool is_whole))
 {
     char path[PATH_SIZE];
     AllFrames_Forget();
     if (!switcher() || !base_path(path, from))
         return -1;
-    search = {.from = from, .to = to, .list = list, .done = done};
+    search.from = from;
+    search.to = to;
+    search.list = list;
+    search.done = done;
     if (!SYS_FmemV6) {
         if (find(path))
             return 0;

@@ -9,8 +9,10 @@
 // steps.
 int AllFrames_Save(const FILESIDE& to, int step, FILEXFERLIST** list);
 // Search the side and add what is found to the list; to is the running system or a drive. done is
-// called at the end. 0; -1 when nothing was asked, and done is not called.
-int AllFrames_Search(const FILESIDE& from, const FILESIDE& to, FILEXFERLIST** list, void (*done)());
+// called at the end, with false when there may be more than was found. 0; -1 when nothing was
+// asked, and done is not called.
+int AllFrames_Search(const FILESIDE& from, const FILESIDE& to, FILEXFERLIST** list,
+                     void (*done)(bool is_whole));
 void AllFrames_Forget(); // the search is of no interest any more
 // Before the transfer of what a search for the running system has found: make the folders that are
 // missing and delete registers that hold one of the names at another place.

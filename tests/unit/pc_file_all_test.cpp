@@ -3,6 +3,7 @@
 #include "file_scp.h"
 #include "fmctrl.h"
 #include "pane.h"
+#include "pane_private.h"
 #include "pc_file.h"
 #include "pc_file_all.h"
 #include "register.h"
@@ -22,7 +23,8 @@ const std::string ROOT = "MYHOST:/mnt/data/user/root/SYSTEM/";
 const std::string CLEAR = "Info@Operation Setup Data@Clear Before Load";
 
 struct FileAllPage : TablePage {
-    std::map<std::string, Lines> files; // of a folder, as the server finds them
+    std::map<std::string, Lines> files;         // of a folder, as the server finds them
+    std::map<std::string, std::string> refused; // folders that it cannot search
     int ack = 500;
 
     void SetUp() override
@@ -89,7 +91,8 @@ struct FileAllPage : TablePage {
                 SendDummyTally((path + "@Status#" + number + "," + folder.substr(7) + file +
                                 ",Wed Nov 25 10:30:00 2026")
                                    .c_str());
-            SendDummyTally((path + "@Status#" + number + ",OK").c_str());
+            const std::string end = refused.contains(folder) ? refused[folder] : "OK";
+            SendDummyTally((path + "@Status#" + number + "," + end).c_str());
             return true;
         }
         return false;
@@ -207,6 +210,25 @@ TEST_F(FileAllPage, ALoadSearchesWhatIsSelectedAndLeavesOutWhatIsLocked)
                             Arg((std::string(row) + state).c_str()));
     (void)Run();
     EXPECT_THAT(sent, Contains("put Snapshot@Snapshot@Register Status#1F803FFF"));
+}
+
+// A category that the directory does not have is empty; one that cannot be read is said.
+TEST_F(FileAllPage, ACategoryThatCannotBeReadIsSaid)
+{
+    ASSERT_EQ(
+        ::system("rm -rf /mnt/data/user/root/SYSTEM;"
+                 "mkdir -p /mnt/data/user/root/SYSTEM/WSNAP /mnt/data/user/root/SYSTEM/FMEMFOL"),
+        0);
+    for (const char* folder : {"WSNAP/", "KSNAP/", "FMEMFOL/", "FMEMFOL/DEFAULT/"})
+        refused[ROOT + folder] = "NG(Read Error)";
+    Select({"WSNAP", "KSNAP", "SNAPSHOT", "FRAMEMEM"});
+    (void)Press(BTN_ALL_R_TO_L);
+    (void)Run();
+    PANE* const pane = pane_top();
+    ASSERT_TRUE(pane);
+    EXPECT_STREQ(pane_text_in_view(pane), "Following categories could not be read.\n"
+                                          "  - Wipe Snapshot\n  - Frame Memory");
+    ASSERT_EQ(::system("rm -rf /mnt/data/user/root/SYSTEM"), 0);
 }
 
 TEST_F(FileAllPage, AllFourRegionsLockTheSetup)
