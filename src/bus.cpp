@@ -287,4 +287,6 @@ void ReceiveCommand_Management()
     }
     bus_drain_frames();
     bus_drain_shp();
+    if (Net_TakeHubLoss())
+        File_HubLost();
 }

@@ -279,6 +279,9 @@ void File_FailuresTold();
 // The text link has fallen: the server answers none of the jobs that it has any more. All end as
 // failed, with callback and message as ever; the operator is told when one of them had a pane.
 void File_LinkLost();
+// The status hub has fallen: all targets are away until it tells of them again, and what was under
+// way there ends.
+void File_HubLost();
 // The hub's transfer table of a target ("PNL1", "CS2", "SWR1") begins anew; others are ignored.
 void Filescp_trnasferlist_init(const char* target);
 // A file "MYHOST:<src>" to "<addr>:<dst>". Blocks, with a pump of the links of its own, until the

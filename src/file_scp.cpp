@@ -789,6 +789,12 @@ void file_shp_tally(const char* verb, const char* table, const char* param)
         connected(t);
 }
 
+void File_HubLost()
+{
+    for (const char* target : shp_target)
+        file_shp_disconnect(target);
+}
+
 void File_SHP_All_Clear()
 {
     char table[32];

@@ -44,6 +44,7 @@ char* Net_ReceiveCommand();
 // The text link has fallen since the last call: what the server was asked there is not answered any
 // more. 1 once for each loss, or for several in a row.
 int Net_TakeTextLoss();
+int Net_TakeHubLoss(); // the same of the status hub
 // The next complete frame as it came, both length bytes and the trailer included, or null; *length
 // gets its size in bytes, which may be less than the head has: only impossible lengths are refused.
 // It lives until the next call.

@@ -27,7 +27,8 @@ static char RCmd_SHP[4096];
 static char SCmd_SHP[CMD_SIZE];
 static char FCmd2[CMD_SIZE];
 static int hub_back_off = 0;
-static int hub_pace_ms = 0; // until the next line may go
+static int hub_pace_ms = 0;      // until the next line may go
+static bool is_hub_lost = false; // fallen, and nobody has asked yet
 
 static_assert(sizeof RCmd_SHP >= NET_LINE_MAX);
 
@@ -66,6 +67,7 @@ void net_hub_init()
     RBuf_SHP[0] = '\0';
     hub_back_off = 0;
     hub_pace_ms = 0;
+    is_hub_lost = false;
     (void)hub_connect();
 }
 
@@ -176,6 +178,14 @@ static void hub_fill()
     const size_t used = strlen(RBuf_SHP);
     const int n = net_read(&SockFD_SHP, RBuf_SHP + used, int(sizeof RBuf_SHP - 1 - used));
     RBuf_SHP[used + size_t(n)] = '\0';
+    is_hub_lost |= SockFD_SHP == 0;
+}
+
+int Net_TakeHubLoss()
+{
+    const bool was_lost = is_hub_lost;
+    is_hub_lost = false;
+    return was_lost;
 }
 
 // An empty line (an end at the front of the buffer) is dropped and ends this pass's reading.

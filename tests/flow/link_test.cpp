@@ -586,6 +586,20 @@ TEST_F(Link, HubLinesEndWithAnyLowControlByte)
     EXPECT_THAT(ReceiveAll(Net_ReceiveSHPCommand, 1), ElementsAre("A#1"));
 }
 
+TEST_F(Link, AHubThatHasFallenIsToldOnce)
+{
+    GL_ClipStoreSupportMode = 1;
+    auto peer = std::make_unique<Peer>(HUB_PORT);
+    Connect(*peer);
+    EXPECT_EQ(Net_TakeHubLoss(), 0);
+    peer.reset();
+    usleep(20000);
+    for (int i = 0; i < 3; i++) {
+        (void)Net_ReceiveSHPCommand();
+        EXPECT_EQ(Net_TakeHubLoss(), i == 0) << "and not for a try that fails";
+    }
+}
+
 TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)
 {
     auto swr = std::make_unique<DEVICE[]>(2);

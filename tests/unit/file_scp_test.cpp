@@ -395,6 +395,21 @@ TEST_F(FileRemote, ADisconnectEndsTheJobWhereverItIs)
     }
 }
 
+TEST_F(FileRemote, AHubThatHasFallenEndsAllAndLetsNothingBegin)
+{
+    AddGet("a.SST");
+    AddGet("p.PST", "SETUP", "PNL1");
+    File_TransSCPdirGetList(&list, List, 0);
+    File_HubLost();
+    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(QueueRoot, nullptr);
+    (void)HubSent();
+    AddGet("a.SST");
+    File_TransSCPdirGetList(&list, List, 0);
+    EXPECT_EQ(told.size(), 2u) << "it would wait for ever";
+    EXPECT_THAT(HubSent(), IsEmpty());
+}
+
 TEST_F(FileRemote, ADisconnectLeavesTheOtherTargetItsWork)
 {
     AddGet("a.SST");
