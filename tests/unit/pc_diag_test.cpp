@@ -1,0 +1,159 @@
+// The Diag pages: what they show of the reports, and what is deleted from the history.
+#include "a_ls.h"
+#include "page_table/diag.h"
+#include "pane.h"
+#include "selfdiag.h"
+#include "table_page.h"
+#include "text.h"
+
+namespace
+{
+struct DiagPage : TablePage {
+    static constexpr const char* PNL = "INFORMATION@PNL Self Diagnosis Notice@";
+    static constexpr const char* SWR = "INFORMATION@SWR Self Diagnosis Notice@";
+
+    static void Paint()
+    {
+        Pass(600);
+        Pass(10);
+    }
+    static Lines Rows()
+    {
+        Paint();
+        Lines rows;
+        for (int r = 0; r < LS_GetNData(1); r++) {
+            std::string row;
+            for (int c = 0; c < 4 && LS_GetData(1, r, c); c++)
+                row += (c ? "|" : "") + std::string(LS_GetData(1, r, c));
+            rows.push_back(row);
+        }
+        return rows;
+    }
+    static void Fan(const std::string& words)
+    {
+        (void)Tell(std::string(PNL) + "Fan Speed#PNL1," + words);
+    }
+    // Messages of the log, newest first.
+    static Lines Log()
+    {
+        Lines log;
+        for (int i = 0; i < SelfDiag_GetLogMax(); i++)
+            log.push_back(SelfDiag_GetLog(i)->message);
+        return log;
+    }
+    static void TouchRow(int row) { (void)Touch(200, 78 + 22 * (row + 1) + 5); }
+    static void Answer(bool yes) // the question of a key
+    {
+        ASSERT_NE(Pane_GetActiveID(), 0);
+        (void)Touch(yes ? 317 : 450, 402);
+        Pass(200);
+        Pass(10);
+        ASSERT_EQ(Pane_GetActiveID(), 0);
+    }
+};
+} // namespace
+
+TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAll)
+{
+    Fan("OK,NG");
+    (void)Tell(std::string(SWR) + "Reference Status#SWR1,OK,None");
+    (void)Tell(std::string(PNL) + "FAN Operation Hours#PNL1,10,20,30");
+    Open(PAGE_DIAG_STATUS);
+    EXPECT_THAT(Rows(), ElementsAre("PNL1|Error|FAN-2 Control Function Error|20 h",
+                                    "SWR1|Error|No Reference|"));
+    TouchRow(1);
+    Fan("NG,NG"); // above the current row
+    EXPECT_EQ(Rows().size(), 3u);
+    EXPECT_EQ(LS_GetNowLine(1), 2) << "stays on its item";
+    Fan("OK,OK");
+    (void)Tell(std::string(SWR) + "Reference Status#SWR1,OK,Exist");
+    EXPECT_THAT(Rows(), IsEmpty());
+}
+
+TEST_F(DiagPage, AClassShowsWhatItsUnitsHaveReported)
+{
+    Fan("OK,NG(Max),OK");
+    Open(DiagClassPage(DIAG_PANEL));
+    EXPECT_THAT(Rows(), ElementsAre("PNL1|OK|FAN-1 Speed OK|",
+                                    "PNL1|Error|FAN-2 Control Function Error (Max)|",
+                                    "PNL1|OK|FAN-3 Speed OK|"));
+    (void)Tell(std::string(PNL) + "FAN Operation Hours#PNL1,8760");
+    EXPECT_EQ(Rows()[0], "PNL1|OK|FAN-1 Speed OK|8760 h") << "a value alone";
+    Open(DiagClassPage(DIAG_DCU));
+    EXPECT_THAT(Rows(), ElementsAre("DCU1|--|No report|", "DCU2|--|No report|"));
+}
+
+// While the units answer the list stands still: it must not blink.
+TEST_F(DiagPage, RefreshWaitsForTheUnits)
+{
+    Fan("NG");
+    Open(PAGE_DIAG_STATUS);
+    EXPECT_EQ(Rows().size(), 1u);
+    EXPECT_THAT(Press(49), Contains("put Info@Self Diagnosis Notice@PNL#true"));
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 1);
+    Fan("NG,NG");
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 1);
+    EXPECT_EQ(Rows().size(), 2u);
+}
+
+TEST_F(DiagPage, LookingAnswersThePopup)
+{
+    static const struct {
+        uint32_t page;
+        int popup;
+    } rows[] = {{DiagClassPage(DIAG_SWITCHER), 1}, {PAGE_DIAG_STATUS, 0}, {PAGE_DIAG_HISTORY, 0}};
+    for (const auto& r : rows) {
+        GL_ErrorPopup_On = 1;
+        Open(r.page);
+        EXPECT_EQ(GL_ErrorPopup_On, r.popup) << std::hex << r.page;
+    }
+}
+
+TEST_F(DiagPage, WhatWasTouchedIsDeletedWhateverComesMeanwhile)
+{
+    Fan("NG");
+    Fan("OK");
+    Fan("OK,NG");
+    const Lines log = {"FAN-2 Control Function Error", "FAN-1 Speed OK",
+                       "FAN-1 Control Function Error"};
+    Open(PAGE_DIAG_HISTORY);
+    EXPECT_EQ(Rows().size(), 3u);
+    ASSERT_EQ(Log(), log);
+    TouchRow(1);
+    Fan("OK,NG,NG"); // moves it to row 2
+    Paint();
+    EXPECT_EQ(LS_GetSelected(1, 0), 2);
+    (void)Press(BTN_DIAG_DELETE);
+    Fan("OK,NG,NG,NG"); // and once more, under the question
+    Answer(false);
+    EXPECT_EQ(Log().size(), 5u);
+    Paint();
+    (void)Press(BTN_DIAG_DELETE);
+    Fan("NG,NG,NG,NG");
+    Answer(true);
+    EXPECT_THAT(Log(), ElementsAre("FAN-1 Control Function Error", "FAN-4 Control Function Error",
+                                   "FAN-3 Control Function Error", log[0], log[2]));
+    Paint();
+    EXPECT_EQ(LS_GetNData(1), 5);
+
+    LS_SetMS(1, 1);
+    LS_SetSelected(1, 0, 0, 1);
+    LS_SetSelected(1, 4, 0, 1);
+    const bool has_third = LS_IsSelected(1, 3, 0) == 1; // the current one, from before
+    Fan("OK,NG,NG,NG");
+    Paint();
+    EXPECT_EQ(LS_IsSelected(1, 1, 0), 1);
+    EXPECT_EQ(LS_IsSelected(1, 5, 0), 1);
+    EXPECT_EQ(LS_IsSelected(1, 0, 0), 0);
+    (void)Press(BTN_DIAG_DELETE);
+    Answer(true);
+    EXPECT_EQ(Log().size(), has_third ? 3u : 4u);
+    EXPECT_EQ(Log()[0], "FAN-1 Speed OK");
+    (void)Press(BTN_DIAG_DELETE_ALL);
+    Answer(true);
+    EXPECT_THAT(Log(), IsEmpty());
+    EXPECT_THAT(Disabled(),
+                testing::IsSupersetOf({int(BTN_DIAG_DELETE), int(BTN_DIAG_DELETE_ALL)}));
+}
