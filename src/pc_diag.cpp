@@ -32,7 +32,7 @@ constexpr Rect HISTORY_STRIP = {100, 372, 566, 414};
 constexpr int FONT = 2;
 
 enum : int { COLUMN_UNIT, COLUMN_STATUS, COLUMN_MESSAGE, COLUMN_VALUE, COLUMN_SINCE };
-enum : int { HISTORY_TIME, HISTORY_UNIT, HISTORY_MESSAGE };
+enum : int { HISTORY_TIME, HISTORY_UNIT, HISTORY_STATUS, HISTORY_MESSAGE };
 enum : int { CELLS_NORMAL = 0, CELLS_GREY = 1, CELLS_RED = 2 };
 
 struct Row {
@@ -314,7 +314,9 @@ static void show_log()
         LS_SetData(LIST, i, HISTORY_TIME, entry->time);
         LS_SetData(LIST, i, HISTORY_UNIT, entry->device);
         LS_SetData(LIST, i, HISTORY_MESSAGE, entry->message);
-        LS_SetStatus(LIST, i, HISTORY_UNIT, SelfDiag_LogIsError(i) ? CELLS_RED : CELLS_NORMAL);
+        const bool was_error = SelfDiag_LogIsError(i) == 1;
+        LS_SetData(LIST, i, HISTORY_STATUS, was_error ? "Error" : "OK");
+        LS_SetStatus(LIST, i, HISTORY_STATUS, was_error ? CELLS_RED : CELLS_NORMAL);
     }
     LS_SetNData(LIST, dh.shown);
     LS_RedrawData(LIST);

@@ -55,8 +55,8 @@ inline constexpr LS_TBL ls_diag[] = {
     LS_END,
 };
 inline constexpr LS_TBL ls_diag_history[] = {
-    {.id = 1, .hn = 3, .vn = 12, .x = 100, .y = 78, .head = {"Time", "Unit", "Message"},
-     .width = {146, 64, 340}, .group = {1, 1, 999}, .mono = 1, .sb_top = 78, .sb_bottom = 364},
+    {.id = 1, .hn = 4, .vn = 12, .x = 100, .y = 78, .head = {"Time", "Unit", "Status", "Message"},
+     .width = {146, 64, 54, 286}, .group = {1, 1, 1, 999}, .mono = 1, .sb_top = 78, .sb_bottom = 364},
     LS_END,
 };
 static_assert(ListsAreSound(ls_diag) && ListsAreSound(ls_diag_history));
