@@ -4,11 +4,14 @@
 #include "command.h"
 #include "device.h"
 #include "file_private.h"
+#include "global.h"
+#include "info.h"
 #include "log.h"
 #include "message.h"
 #include "netio.h"
 #include "pane.h"
 #include "text.h"
+#include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <cstring>
@@ -542,4 +545,7 @@ void File_Reset()
     file_scp_reset();
 }
 
-void fileprocessprogress_update() {}
+void fileprocessprogress_update()
+{
+    GL_FileProcessing = std::ranges::any_of(FileProc_Prog, [](int prog) { return prog > 0; });
+}

@@ -315,7 +315,8 @@ void BkgdHDDTransfer_PaneQuit();
 
 // --- For the bus ---
 int FileProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx); // returns 0
-void fileprocessprogress_update(); // the bars of FileProc_Prog have changed
+// The bars of FileProc_Prog have changed: GL_FileProcessing is 1 while one of them is up.
+void fileprocessprogress_update();
 
 // --- For tests: how the drives are written at a job's end ---
 // start returns the child that writes, 0 when there is nothing to wait for. Null: the real thing.

@@ -99,7 +99,7 @@ extern int GL_DataGokan; // files are converted on loading
 constexpr int FILE_LOCKS = 18;
 extern int GL_FileLock[FILE_LOCKS]; // a file category that a load may not touch
 extern int GL_FMDataPortDisable[2];
-extern int GL_FileProcessing;
+extern int GL_FileProcessing; // a unit reports file work of its own, as it does while it deletes
 
 // --- Formats and modes of the switcher ---
 extern int SYS_FrameRate; // frames a second: 60, 30, 25, 24

@@ -20,6 +20,7 @@
 #include "global.h"
 #include "graphics.h"
 #include "held.h"
+#include "info.h"
 #include "log.h"
 #include "loop.h"
 #include "me_config.h"
@@ -117,6 +118,7 @@ static void reset_state()
     GL_KeyRowMode = GL_DebugMode = GL_DskInhibit = GL_AllPageDisplayMode = GL_MenuMacro_Edit = 0;
     GL_MenuMacro_Run = GL_Macro_Offline_Store = GL_Macro_Online_TrueOrFalse = 0;
     GL_TimelineDisplayPriority = GL_ContinuousLoad = GL_SSver_PVW = GL_SSver_Shown = 0;
+    std::fill(std::begin(FileProc_Prog), std::end(FileProc_Prog), 0);
     GL_FileProcessing = 0;
     GL_ErrorPopup_On = GL_ErrorExist = GL_InitRead = GL_InitProgress = GL_InitReadStatus_Busy = 0;
     GL_MouseSliderControl = GL_MouseWheelDirection = GL_FM_Find_Window = GL_FM_Find_PaneID = 0;

@@ -293,10 +293,11 @@ TEST_F(CommandFolder, AllClearAnswersWhenTheDeletionHasEnded)
     EXPECT_THAT(sent, Contains("put Register@All Delete@Wipe Snapshot@MP2#true"));
     EXPECT_FALSE(Exists(folder + "allclear.cmd"));
     Mark("allclear.cmd"); // again, while the first one is under way
-    GL_FileProcessing = 1;
-    for (int i = 0; i < 20; i++)
+    for (int i = 0; i < 20; i++) {
+        Deliver("INFORMATION@SWR File Process Progress", i < 10 ? "SWR1,1,100" : "SWR1,63,100");
         EXPECT_THAT(Look(), IsEmpty());
-    GL_FileProcessing = 0;
+    }
+    Deliver("INFORMATION@SWR File Process Progress", "SWR1,0,0");
     Pass(10);
     Pass(2980);
     EXPECT_FALSE(Exists(folder + "allclear.res"));
