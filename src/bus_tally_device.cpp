@@ -395,6 +395,7 @@ TallyRoute tally_fm_data_port(const Tally& t)
         return TallyRoute::Pass;
     const int low = int(NumberIn(p.v[0], 0, INT_MAX)) & 0x7F;
     GL_FMDataPortDisable[n] = low | int(NumberIn(p.v[1], 0, INT_MAX >> 7)) << 7;
+    File_AskDataPorts();
     return TallyRoute::Pass;
 }
 

@@ -15,6 +15,7 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 #include "safeguards.h"
 
@@ -165,6 +166,17 @@ int File_StatusFMDataPort(const char* device)
     return label;
 }
 
+void File_AskDataPorts()
+{
+    char device[16];
+    for (size_t i = 0; i < std::size(GL_FMDataPortDisable); i++) {
+        if ((GL_FMDataPortDisable[i] & FILE_DATA_PORT_BITS) == 0)
+            continue;
+        PrintText(device, "SWR%d", int(i) + 1);
+        (void)File_StatusFMDataPort(device);
+    }
+}
+
 int File_ExecSCPGet(const char* src, const char* dst, const char* category, FILE_TEXT_FUNC retfunc,
                     int tag)
 {
@@ -217,9 +229,12 @@ int File_CancelTransfer(uint32_t label)
 
 int File_ExecUSBReload_cancel(uint32_t label)
 {
-    if (!queue_find(label))
+    const QUEUE* job = queue_find(label);
+    if (!job)
         return -1;
+    const FILEWORKTYPE type = job->worktype;
     queue_remove(label);
+    file_wake_thumbnails(type);
     return 0;
 }
 

@@ -185,8 +185,9 @@ struct QUEUE {
 };
 
 extern QUEUE* QueueRoot;
-extern uint32_t LabelID;           // the next label; 0 is read as 1
-extern int GL_FMDataPortStatus[2]; // 1: the switcher's data port is connected
+extern uint32_t LabelID;                 // the next label; 0 is read as 1
+extern int GL_FMDataPortStatus[2];       // 1: the switcher's data port is connected
+constexpr int FILE_DATA_PORT_BITS = 127; // of GL_FMDataPortDisable: not 0, its pictures go there
 
 // --- Starting jobs: each returns the job's label, or -1 (an empty list, memory out) ---
 
@@ -210,6 +211,9 @@ int File_ExecUSBRefresh(FILE_TEXT_FUNC retfunc, int tag);
 // Asks at once which way a switcher's ("SWR1") frame memory is reached; the answer is a tally of
 // its own. No job stands for it.
 int File_StatusFMDataPort(const char* device);
+// The same of every switcher that may use its data port, by GL_FMDataPortDisable: when that has
+// been told, and again with each list of files that could take this way.
+void File_AskDataPorts();
 int File_ExecSCPGet(const char* src, const char* dst, const char* category, FILE_TEXT_FUNC retfunc,
                     int tag);
 int File_ExecSCPPut(const char* src, const char* dst, const char* category, FILE_TEXT_FUNC retfunc,

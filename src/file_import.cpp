@@ -193,10 +193,12 @@ static bool compose_put(FILEXFERLIST* item, const char* path, int number)
     const bool is_wide = SYS_FmemV6 && number > REG_DIGITS_MAX;
     const char* store = SYS_FmemV6 && item->fmext ? "FMEX" : "FMEM";
     const char* ext = !SYS_FmemV6 ? "SFM" : strstr(path, ".SFA") ? "SF4" : "SF2";
-    return file_compose_item(item,
-                             is_wide ? "put File@Frame Memory@PutV3#L%d,%s,%s:%s%04d.%s"
-                                     : "put File@Frame Memory@PutV3#L%d,%s,%s:%s_%03d.%s",
-                             int(item->label), path, item->dst, store, number, ext);
+    char place[FILE_PATH_SIZE];
+    PrintText(place, is_wide ? "%.200s:%s%04d.%s" : "%.200s:%s_%03d.%s", item->dst, store, number,
+              ext);
+    file_hold_thumbnails(place);
+    return file_compose_item(item, "put File@Frame Memory@PutV3#L%d,%s,%s", int(item->label), path,
+                             place);
 }
 
 static bool compose_remove(FILEXFERLIST* item, const char* path)
@@ -275,6 +277,7 @@ int file_launch_export(QUEUE* job)
     const int limit = GL_IsRamDisk ? ON_RAM_DISK : FILE_IN_FLIGHT;
     while (FILEXFERLIST* item = file_flight_count(job) < limit ? file_next_new(job) : nullptr) {
         stage_export(item);
+        file_hold_thumbnails(item->src);
         if (!file_flight_join(job, item))
             break;
         if (file_compose_item(item, "put File@Frame Memory@Get#L%d,%s,%s", int(item->label),

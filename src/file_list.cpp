@@ -347,6 +347,10 @@ int file_launch_plain(QUEUE* job)
 {
     const FileWork* work = file_work(job->worktype);
     while (FILEXFERLIST* item = file_next_new(job)) {
+        if (work->wakes_thumbnails) {
+            file_hold_thumbnails(item->src);
+            file_hold_thumbnails(item->dst);
+        }
         const bool is_composed = work->paths == 1
                                      ? file_compose_item(item, "put File@%s#L%d,%s", work->verb,
                                                          int(item->label), item->src)
@@ -380,6 +384,8 @@ int file_run(FILEWORKTYPE type, FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int
     if (!job)
         return -1;
     const int label = int(job->label);
+    if (file_work(type)->wakes_thumbnails)
+        File_AskDataPorts();
     open_pane(job, title);
     go_on(job, true);
     return label;

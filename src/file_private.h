@@ -121,6 +121,9 @@ bool file_import_step(FILEXFERLIST* item);
 void file_import_drop_temporaries(const FILEXFERLIST* item);
 void file_import_reset();
 bool file_is_on_data_port(const char* path, const DEVICE* only); // of this switcher, null: any
+// A job with wakes_thumbnails is to move this file. Thumbnails come over the data port, too: if it
+// does, they wait until the job is done.
+void file_hold_thumbnails(const char* path);
 // The staged items of a job under way: join with the path set; false: another one has it.
 bool file_flight_join(QUEUE* job, const FILEXFERLIST* item);
 int file_flight_count(QUEUE* job);

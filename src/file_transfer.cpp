@@ -49,23 +49,26 @@ static int switcher_of(const char* path)
 
 bool file_is_on_data_port(const char* path, const DEVICE* only)
 {
-    constexpr int CONTROL_BITS = 127;
     const int n = switcher_of(path);
     if (n < 1 || n > int(std::size(GL_FMDataPortStatus)) || !is_frame_memory(path))
         return false;
     if (only && Device_UnitNumber(*only) != n)
         return false;
-    return GL_FMDataPortStatus[n - 1] == 1 && (GL_FMDataPortDisable[n - 1] & CONTROL_BITS) != 0;
+    return GL_FMDataPortStatus[n - 1] == 1 &&
+           (GL_FMDataPortDisable[n - 1] & FILE_DATA_PORT_BITS) != 0;
 }
 
-// Thumbnails come over the data port, too: they wait until the job is done.
-static void set_thumbnailwait(const FILEXFERLIST* item)
+void file_hold_thumbnails(const char* path)
 {
     const DEVICE* first = DEV_MySwr[0];
-    if (GL_FMThumbnailGetAfter || !first)
-        return;
-    if (file_is_on_data_port(item->src, first) || file_is_on_data_port(item->dst, first))
+    if (!GL_FMThumbnailGetAfter && first && file_is_on_data_port(path, first))
         GL_FMThumbnailGetAfter = 1;
+}
+
+static void set_thumbnailwait(const FILEXFERLIST* item)
+{
+    file_hold_thumbnails(item->src);
+    file_hold_thumbnails(item->dst);
 }
 
 // --- Items under way ---

@@ -351,18 +351,51 @@ TEST_F(FileImport, FourAreUnderWayAndOneFollowsEachThatEnds)
 
 // --- Lamps and thumbnails ---
 
-TEST_F(FileSteps, ThumbnailsWaitForWhatGoesOverTheDataPort)
+TEST_F(FileImport, ThumbnailsWaitForWhatGoesOverTheDataPort)
 {
-    SYS_FmemV6 = 0;
+    static constexpr char PLACE[] = "SWR000D001:FMEM_001.SFM";
+    static const struct {
+        Entry entry;
+        const char* src;
+        const char* dst;
+    } cases[] = {
+        {File_ExecTransferList, "MYHOST:/a/x.SFM", PLACE},
+        {File_ExecTransferList_AutoLoad, "MYHOST:/mnt/sys/FMLoad/FM1/x.SFM", PLACE},
+        {File_ExecFmGetList, PLACE, "MYHOST:/a/x.SFM"},
+        {File_ExecFmPutList, "MYHOST:/a/x.SFM", PLACE},
+        {File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefgh.tif", "SWR000D001"},
+        {File_ExecFmExportList, PLACE, "MYHOST:/mnt/usb/usb1/a.TIF"},
+    };
+    WriteFile(first, "x");
     GL_FMDataPortDisable[0] = 1;
+    for (const int connected : {0, 1}) {
+        GL_FMDataPortStatus[0] = connected;
+        for (const auto& c : cases) {
+            File_XferList_Add(&list, c.src, c.dst);
+            const uint32_t label = uint32_t(c.entry(&list, List, 0)) - 1;
+            int held = 0;
+            for (int i = 0; i < 10 && list; i++) {
+                held |= GL_FMThumbnailGetAfter;
+                Answer(label, "OK");
+            }
+            EXPECT_EQ(held, connected) << c.src;
+            EXPECT_EQ(GL_FMThumbnailGetAfter, 0) << c.src;
+        }
+    }
+    File_XferList_Add(&list, "MYHOST:/a/x.SFM", PLACE);
+    (void)File_ExecUSBReload_cancel(uint32_t(File_ExecFmPutList(&list, List, 0)));
+    EXPECT_EQ(GL_FMThumbnailGetAfter, 0) << "a job that is forgotten holds nothing";
+}
+
+TEST_F(FileSteps, TheDataPortIsAskedForWhereItMayBeUsed)
+{
+    Deliver("Info@System Setup Data@FM Data Port Disable@SWR1", "0,1");
+    EXPECT_THAT(Sent(), IsEmpty());
+    Deliver("Info@System Setup Data@FM Data Port Disable@SWR1", "2,0");
+    EXPECT_THAT(SentOne(), HasSubstr("Status@FM Data Port Status@SWR1#L"));
+    Deliver("File@Status@FM Data Port Status@SWR1", "L1,1");
+    EXPECT_EQ(GL_FMDataPortStatus[0], 1);
     File_XferList_Add(&list, "MYHOST:/a/x.SFM", "SWR000D001:FMEM_001.SFM");
-    File_ExecTransferList(&list, List, 0);
-    EXPECT_EQ(GL_FMThumbnailGetAfter, 0);
-    Answer(1, "OK");
-    GL_FMDataPortStatus[0] = 1;
-    File_XferList_Add(&list, "MYHOST:/a/x.SFM", "SWR000D001:FMEM_001.SFM");
-    const int job = File_ExecTransferList(&list, List, 0);
-    EXPECT_EQ(GL_FMThumbnailGetAfter, 1);
-    Answer(uint32_t(job) - 1, "OK");
-    EXPECT_EQ(GL_FMThumbnailGetAfter, 0);
+    File_ExecFmPutList(&list, List, 0);
+    EXPECT_THAT(Sent(), testing::Contains(HasSubstr("Status@FM Data Port Status@SWR1#L")));
 }
