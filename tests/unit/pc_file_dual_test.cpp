@@ -1,5 +1,6 @@
 // The pages of two lists in the File menu, through touches, lines and what goes over the wire.
 #include "a_ls.h"
+#include "err.h"
 #include "file_scp.h"
 #include "pane.h"
 #include "pc_file_dual.h"
@@ -145,6 +146,21 @@ TEST_F(FileDualPage, TransferGoesOnWithoutItsPage)
     }
     EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 0);
     EXPECT_THAT(TakeQueuedCommands(), Contains(HasSubstr("put File@Access@Find#L")));
+}
+
+TEST_F(FileDualPage, WhatFailsWithoutItsPageIsInTheListOfErrors)
+{
+    Open(SNAPSHOT_PAGE);
+    LS_SetNowLine(1, 2);
+    Press(BTN_FILE_L_TO_R);
+    BkgdFileTransfer_PaneQuit();
+    EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+    Err_Clear();
+    SendMessage(MSG_SHPTALLY, Arg("Disconnect"), Arg("SWR1.File"), 0, 0);
+    EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 0);
+    EXPECT_EQ(Pane_GetActiveID(), 0) << "over other work nothing opens";
+    EXPECT_EQ(Err_GetMax(), 1);
+    Err_Clear();
 }
 
 TEST_F(FileDualPage, NothingMovesOntoItselfOrIntoAProtectedDirectory)
