@@ -259,6 +259,19 @@ static int status_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
     }
 }
 
+// A page opens with the first error in view.
+static int first_error_row()
+{
+    DiagUnit unit;
+    for (int r = 0; r < ds.rows; r++) {
+        const Row& row = status_row[r];
+        if (row.item != NO_ITEM && SelfDiag_Unit(row.unit_class, row.unit, &unit) &&
+            is_error(unit.item[row.item]))
+            return r;
+    }
+    return 0;
+}
+
 static int status_create(int on, uint32_t unit_class)
 {
     ds = {};
@@ -268,7 +281,7 @@ static int status_create(int on, uint32_t unit_class)
     if (ds.shown == DIAG_CLASSES)
         answer_popup();
     fill_status();
-    LS_SetNowLine(LIST, 0);
+    LS_SetNowLine(LIST, first_error_row());
     return 0;
 }
 

@@ -34,7 +34,7 @@ struct LogRow {
     bool is_error = false;
 };
 
-// The menu computer's board.
+// Its board.
 constexpr int HOUR_MS = 3600000;
 constexpr int POWER_DEVICE = 82;
 constexpr int POWER_STATUS = 2;
@@ -49,9 +49,13 @@ constexpr int RETRY_MS = 100;
 
 struct Hours {
     int elem = 0;
+    const char* message = "";
     int count = 0;
     bool is_known = false; // an unread count is never written: it would be lost
 };
+
+// Of this computer's items; the others are free.
+enum : int { ITEM_TEMPERATURE, ITEM_CPU_HOURS, ITEM_POWER_HOURS };
 } // namespace
 
 static struct {
@@ -66,8 +70,8 @@ static struct {
     unsigned char power = 0;
     unsigned char temperature = 0;
     bool is_measured = false; // the sensor has answered at least once
-    Hours cpu{.elem = EEPROM_HOURS_CPU};
-    Hours psu{.elem = EEPROM_HOURS_POWER};
+    Hours cpu{.elem = EEPROM_HOURS_CPU, .message = "CPU Operation Hours"};
+    Hours psu{.elem = EEPROM_HOURS_POWER, .message = "Power Operation Hours"};
     int hour_ms = 0; // until the hours rise
 } board;
 
@@ -324,6 +328,19 @@ static void add_hour(Hours& hours)
     (void)I2cEepromService_WriteElem(hours.elem, sizeof b, b);
 }
 
+// For the pages. Hours are neither well nor ill: nothing is logged.
+static void show_hours(const Hours& hours, int item)
+{
+    SELFDIAG& it = sd.UI[item];
+    if (!hours.is_known || (it.status == SELFDIAG_OK && it.value == hours.count))
+        return;
+    it.status = SELFDIAG_OK;
+    it.value = hours.count;
+    time_text(it.time, time(nullptr));
+    CopyText(it.message, hours.message);
+    GL_RedrawMenu9991 = 1;
+}
+
 static void board_begin()
 {
     read_hours(board.cpu, true);
@@ -353,6 +370,8 @@ static void count_hours(int passed_ms)
     (void)I2cEepromService_UpdateCrc32(MAINT_REGION); // noticed at the next start
     Log_Output(LOG_LINK, MOD_GLOBAL, "### I2C OPEHOUR CPU=%d PSU=%d", board.cpu.count,
                board.psu.count);
+    show_hours(board.cpu, ITEM_CPU_HOURS);
+    show_hours(board.psu, ITEM_POWER_HOURS);
 }
 
 static void take_temperature()
@@ -360,10 +379,10 @@ static void take_temperature()
     DiagUnit menu;
     (void)SelfDiag_Unit(DIAG_MENU, 0, &menu); // always there
     const bool is_cool = board.temperature < TEMPERATURE_LIMIT;
-    const int old_value = sd.UI[0].value;
-    sd.UI[0].value = board.temperature;
+    const int old_value = sd.UI[ITEM_TEMPERATURE].value;
+    sd.UI[ITEM_TEMPERATURE].value = board.temperature;
     const bool has_changed = SelfDiag_Take(
-        menu, 0, is_cool ? SELFDIAG_OK : SELFDIAG_ERROR,
+        menu, ITEM_TEMPERATURE, is_cool ? SELFDIAG_OK : SELFDIAG_ERROR,
         is_cool ? "CA-91 Board Temperature OK" : "CA-91 Board Temperature Error", "GUI-BOARDTEMP");
     if (has_changed) {
         check_errorexist();

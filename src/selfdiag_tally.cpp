@@ -539,7 +539,7 @@ const char* SelfDiag_ValueUnit(DIAG_CLASS unit_class, int item)
 {
     static constexpr const UnitKind* kinds[] = {&panel_kind, &dcu_kind, &switcher_kind, &dme_kind};
     if (unit_class == DIAG_MENU)
-        return item == 0 ? "C" : "";
+        return item == 0 ? "C" : "h"; // the temperature, then operating hours
     for (const UnitKind* kind : kinds)
         for (const RUN run : {RUN_FAN, RUN_PSU_EXIST})
             if (kind->unit_class == unit_class && item >= FirstItem(*kind, run) &&

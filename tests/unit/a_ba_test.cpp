@@ -244,6 +244,26 @@ TEST_F(BaseAreaTest, ATouchOfTheTitleStepsTheChannelOfAnMpe)
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
 }
 
+// What stands above a page is not painted over: the title waits until it has gone.
+TEST_F(BaseAreaTest, AnErrorTakesTheTitleOfThePageInView)
+{
+    static constexpr Rect BAND = {89, 6, 370, 63};
+    OpenBase({"M/E-1", "Wipe"}, 0x11510000);
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    const auto before = PixelsIn(BAND);
+    (void)PaneMessage_Create("Title", PANE_INFO, "Text");
+    GL_ErrorPopup_On = GL_ErrorExist = 1;
+    BA_DrawError();
+    EXPECT_EQ(PixelsIn(BAND), before);
+    (void)Pane_Quit(Pane_GetActiveID());
+    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    const auto marked = PixelsIn(BAND);
+    EXPECT_NE(marked, before);
+    GL_ErrorExist = 2;
+    BA_DrawError();
+    EXPECT_NE(PixelsIn(BAND), marked) << "at once, with the count of the errors";
+}
+
 // --- File pages ---
 
 struct FileBase : BaseAreaTest {

@@ -77,6 +77,7 @@ TEST_F(DiagPage, AClassShowsWhatItsUnitsHaveReported)
     EXPECT_THAT(Rows(), ElementsAre("PNL1|OK|FAN-1 Speed OK|",
                                     "PNL1|Error|FAN-2 Control Function Error (Max)|",
                                     "PNL1|OK|FAN-3 Speed OK|"));
+    EXPECT_EQ(LS_GetNowLine(1), 1) << "the first error";
     (void)Tell(std::string(PNL) + "FAN Operation Hours#PNL1,8760");
     EXPECT_EQ(Rows()[0], "PNL1|OK|FAN-1 Speed OK|8760 h") << "a value alone";
     Open(DiagClassPage(DIAG_DCU));

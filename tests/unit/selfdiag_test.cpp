@@ -331,6 +331,7 @@ TEST_F(MenuBoard, HoursTickAtOnceAndThenEachHour)
     EXPECT_EQ(Hours(30), 0x01020305);
     EXPECT_EQ(I2cEepromService_IsCrc32Valid(3), 1);
     EXPECT_EQ(Byte(104, 14), 28);
+    EXPECT_EQ(SelfDiag_GetUI(1)->value, 1001);
     for (int ms = 0; ms < 3600000; ms += 5000)
         SelfDiag_I2C_Update(5000);
     EXPECT_EQ(Hours(29), 1001) << "not before the hour is over";
