@@ -78,20 +78,19 @@ int file_scp_get_systemformat(const char* host)
 {
     enum : int { F23 = 0, F24 = 1, F25 = 2, F29 = 3, F30 = 4, F50 = 5, F59 = 6, F60 = 7 };
     enum : int { I480 = 0, I576 = 1, P720 = 2, L1080 = 3 };
-    enum : int { INTERLACED = 0, SEGMENTED = 1, PROGRESSIVE = 2, SINGLE_DUAL_LINK = 3 };
+    enum : int { INTERLACED = 0, SEGMENTED = 1, PROGRESSIVE = 2 };
     static constexpr struct {
         int size, freq, scan, format;
     } formats[] = {
-        {I480, F59, INTERLACED, 0},          {I576, F50, INTERLACED, 1},
-        {P720, F59, PROGRESSIVE, 2},         {L1080, F50, INTERLACED, 3},
-        {L1080, F59, INTERLACED, 4},         {L1080, F60, INTERLACED, 5},
-        {L1080, F23, SEGMENTED, 6},          {L1080, F24, SEGMENTED, 7},
-        {L1080, F25, SEGMENTED, 8},          {L1080, F29, SEGMENTED, 9},
-        {L1080, F30, SEGMENTED, 10},         {P720, F50, PROGRESSIVE, 11},
-        {L1080, F50, PROGRESSIVE, 12},       {L1080, F59, PROGRESSIVE, 13},
-        {L1080, F50, SINGLE_DUAL_LINK, 128}, {L1080, F59, SINGLE_DUAL_LINK, 129},
+        {I480, F59, INTERLACED, 0},    {I576, F50, INTERLACED, 1},    {P720, F59, PROGRESSIVE, 2},
+        {L1080, F50, INTERLACED, 3},   {L1080, F59, INTERLACED, 4},   {L1080, F60, INTERLACED, 5},
+        {L1080, F23, SEGMENTED, 6},    {L1080, F24, SEGMENTED, 7},    {L1080, F25, SEGMENTED, 8},
+        {L1080, F29, SEGMENTED, 9},    {L1080, F30, SEGMENTED, 10},   {P720, F50, PROGRESSIVE, 11},
+        {L1080, F50, PROGRESSIVE, 12}, {L1080, F59, PROGRESSIVE, 13},
     };
-    constexpr int DUAL_PROCESSOR = 118; // from the plain 1080p to that of two processors
+    // From the plain 1080p to that of one processor with two links, of two, and of one link.
+    constexpr int SINGLE_PROCESSOR = 116;
+    constexpr int DUAL_PROCESSOR = 118;
     constexpr int THREE_GIGABIT = 120;
     int size = SYS_Format_Size;
     int freq = SYS_Format_Freq;
@@ -111,6 +110,8 @@ int file_scp_get_systemformat(const char* host)
             return f.format + THREE_GIGABIT;
         if (is_1080p && isDualProc_DualLink())
             return f.format + DUAL_PROCESSOR;
+        if (is_1080p && isSingleProc_DualLink())
+            return f.format + SINGLE_PROCESSOR;
         return f.format;
     }
     return -1;

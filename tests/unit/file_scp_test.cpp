@@ -647,4 +647,21 @@ TEST_F(FileStore, TheStoreHearsTheFormatOfItsSwitcher)
     EXPECT_EQ(file_scp_get_systemformat(nullptr), 11);
     SYS_Format_Size = 4;
     EXPECT_EQ(file_scp_get_systemformat(nullptr), -1);
+    DEVICE& swr = DEV_Swr[0];
+    swr.format_freq = 5;
+    swr.format_scan = 2;
+    swr.activeline = ACTIVELINE_1080P;
+    swr.framerate = 25.0;
+    DeviceStructure();
+    static const struct {
+        int dual;
+        DEVTYPE type;
+        int format;
+    } cases[] = {{0, DEVTYPE_KTR40, 128}, {1, DEVTYPE_KTR40, 130}, {0, DEVTYPE_KTR40G, 132}};
+    for (const auto& c : cases) {
+        SYS_DualProc = c.dual;
+        swr.type = c.type;
+        DeviceStructure();
+        EXPECT_EQ(file_scp_get_systemformat("SWR000D001:"), c.format);
+    }
 }
