@@ -119,6 +119,17 @@ static void remove_temporary(const FILEXFERLIST* item)
         Net_SendCommand(FileCmd);
 }
 
+void file_drop_staged(const FILEXFERLIST* item)
+{
+    const Step* s = find_step(item->usb);
+    if (!s)
+        return;
+    if (s->compose == file_import_step)
+        file_import_drop_temporaries(item);
+    else
+        remove_temporary(item);
+}
+
 static void step_ok(FILEXFERLIST* item)
 {
     const Step* s = find_step(item->usb);

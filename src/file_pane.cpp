@@ -250,6 +250,8 @@ static void cancel_items(QUEUE* job)
                                   int(item->ack));
         if (file_is_finished(item) && job->worktype < FIRST_REMOTE)
             continue;
+        if (item->status == FILESTATUS_REQ || item->status == FILESTATUS_EXEC)
+            file_drop_staged(item);
         file_set_text(item, "Canceled");
         file_set_status(item, FILESTATUS_CANCEL);
     }

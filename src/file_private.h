@@ -105,7 +105,9 @@ int file_run(FILEWORKTYPE type, FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int
 void file_list_status(QUEUE* job, FILEXFERLIST* item, const char* text);
 void file_list_tick();                   // jobs whose drives have been written end
 FILEXFERLIST* file_next_new(QUEUE* job); // the first item at FILESTATUS_NON, null: none
-int file_percent(const QUEUE* job);      // items that are being checked count half
+// The item is given up in the middle: what it may have left on its staging path goes.
+void file_drop_staged(const FILEXFERLIST* item);
+int file_percent(const QUEUE* job); // items that are being checked count half
 void file_wake_thumbnails(FILEWORKTYPE type);
 void file_finish_macro(FILEXFERLIST* item); // a menu macro has been copied
 

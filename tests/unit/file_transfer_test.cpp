@@ -149,6 +149,25 @@ TEST_F(FileSteps, AFailedStepLeavesNoTemporary)
     EXPECT_EQ(list, nullptr);
 }
 
+TEST_F(FileSteps, ACancelLeavesNothingOnTheStagingPaths)
+{
+    for (const char* name : {"w", "x", "y", "z"})
+        File_XferList_Add(&list, (std::string("SWR000D001:/b/") + name + ".SSS").c_str(),
+                          (std::string("MYHOST:/mnt/usb/usb1/") + name + ".SSS").c_str());
+    File_ExecTransferList(&list, List, 0);
+    Ack(1, 21);
+    Answer(2, "OK"); // to be copied to the stick
+    Answer(3, "OK");
+    Answer(3, "OK"); // it is there: its own command removes what was staged
+    Answer(4, "NG(x)");
+    (void)Sent();
+    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    EXPECT_THAT(Sent(), ElementsAre("put File@Transfer@Cancel#Lx,21",
+                                    "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/w.SSS",
+                                    "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/x.SSS"));
+    EXPECT_EQ(list, nullptr);
+}
+
 TEST_F(FileSteps, EightPicturesAreUnderWayAndOneOnARamDisk)
 {
     SYS_FmemV6 = 1;
