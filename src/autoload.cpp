@@ -144,18 +144,11 @@ static void find_countdown(int dev)
 
 // --- What was found ---
 
-// Its place on the unit: the older frame memory by number alone, registers by their name.
+// Its place on the unit, under its name.
 static bool target_of(const FILEINFO& info, char* target, int size)
 {
-    if (info.grp != GRP_FRAMEMEM)
-        return info2name(info, target, FILE_REGISTER, "", size) == 0;
-    const int swr = info.device % FILE_WHOLE_ID;
-    if (swr >= DEVICE_MAX || !DEV_MySwr[swr])
-        return false;
-    const char* const ext = PaneRegion_GetGrpFIExt(info.grp, info.main, info.sub);
-    return snprintf(target, size_t(size), "%s:%s_%0*d.%s", DEV_MySwr[swr]->id,
-                    File_RegionWord(info.grp, info.main, info.sub), File_NumberWidth(ext),
-                    info.no + File_FirstNumber(info.grp), ext) < size;
+    return (info.grp == GRP_FRAMEMEM ? File_FrameName(info, target, size)
+                                     : info2name(info, target, FILE_REGISTER, "", size)) == 0;
 }
 
 static void add_xfer(const char* path, const char* target, int dev)
@@ -206,14 +199,15 @@ static void find_category(int row, int dev)
 
 // --- The newer frame memory: its folders one after the other ---
 
-static const DEVICE* own_switcher(int dev)
+// Place of the unit among the own switchers, -1 none.
+static int own_switcher(int dev)
 {
     constexpr int CLASS_AND_GROUP = 6;
     for (int i = 0; i < DEVICE_MAX && DEV_MySwr[i]; i++)
         if (strlen(DEV_MySwr[i]->id) > CLASS_AND_GROUP &&
             Same(DEV_MySwr[i]->id + CLASS_AND_GROUP, DevNameTable[dev].folder + CLASS_AND_GROUP))
-            return DEV_MySwr[i];
-    return nullptr;
+            return i;
+    return -1;
 }
 
 static bool folder_root(char* buffer, int size)
@@ -251,11 +245,20 @@ static void clear_store(int dev)
             Net_SendCommandFormat("put Frame Mem@Folder@Delete#%d", folder->folder_id);
 }
 
+// What stands before the store's word, as the register is called.
+static void name_of_picture(const char* path, char* name, int size)
+{
+    char stem[PATH_SIZE];
+    const char* const file = strrchr(path, '/') + 1;
+    strncpy_secu(stem, file, sizeof stem, strcspn(file, "."));
+    fname2dispname(stem, name, size);
+}
+
 static void add_pictures(int dev)
 {
-    const DEVICE* const swr = own_switcher(dev);
+    const int swr = own_switcher(dev);
     int number[2] = {};
-    for (int i = 0; swr && i < al.ListBase2Max; i++) {
+    for (int i = 0; swr >= 0 && i < al.ListBase2Max; i++) {
         const FILEBASE2& picture = al.ListBase2[i];
         const int n = ++number[picture.is_extended];
         if (n > (SYS_FmemRegMax > 0 ? SYS_FmemRegMax : IMPORT_REGISTERS)) {
@@ -263,9 +266,12 @@ static void add_pictures(int dev)
             continue;
         }
         char target[FILE_PATH_SIZE];
-        PrintText(target, n > 999 ? "%s:%s%04d.%s" : "%s:%s_%03d.%s", swr->id,
-                  picture.is_extended ? "FMEX" : "FMEM", n, strrchr(picture.path, '.') + 1);
-        add_xfer(picture.path, target, dev);
+        FILEINFO info = {.grp = GRP_FRAMEMEM, .sub = swr};
+        info.no = n - 1 + (picture.is_extended ? FMEM_EXTENDED : 0);
+        info.is_ancillary = strstr(picture.path, ".SFA") != nullptr;
+        name_of_picture(picture.path, info.name, sizeof info.name);
+        if (target_of(info, target, sizeof target))
+            add_xfer(picture.path, target, dev);
     }
 }
 
@@ -479,7 +485,7 @@ static void place_picture(const FILEXFERLIST* item)
     const int id = folder_place(name);
     if (id < 0 || id >= FOLDER_MAX)
         return;
-    strncpy_secu(name, file + 1, sizeof name, strcspn(file + 1, "."));
+    name_of_picture(item->src, name, sizeof name);
     FMCtrl_MoveStill(DEV_MySwr[swr], name, id);
 }
 

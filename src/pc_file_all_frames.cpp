@@ -14,7 +14,8 @@
 namespace
 {
 constexpr int STEP_REGISTERS = 256; // of a save, in one pass
-constexpr char DEFAULT_FOLDER[] = "DEFAULT";
+constexpr int GRP_FRAMEMEM = 23;
+constexpr const char* DEFAULT_FOLDER = FRAME_FOLDER_DEFAULT;
 constexpr int FOLDER_NAME = sizeof(FOLDER::name);
 constexpr int CLASS_AND_GROUP = 6; // of a unit's id
 
@@ -52,11 +53,6 @@ static const DEVICE* switcher()
     return swr && strlen(swr->id) > CLASS_AND_GROUP ? swr : nullptr;
 }
 
-static const char* ext_of(const Frame& f)
-{
-    return f.is_ancillary ? "SFA" : "SFM";
-}
-
 // Where the files of a side lie, with "/" behind; false when it does not fit.
 static bool base_path(char (&path)[PATH_SIZE], const FILESIDE& side)
 {
@@ -67,27 +63,23 @@ static bool base_path(char (&path)[PATH_SIZE], const FILESIDE& side)
     return n < int(sizeof path);
 }
 
-static void file_path(char (&path)[FILE_PATH_SIZE], const FILESIDE& side, const Frame& f)
+static FILEINFO info_of(const Frame& f)
 {
-    char base[PATH_SIZE];
-    char name[FMEM_NAME_SIZE];
-    path[0] = '\0';
-    if (!base_path(base, side))
-        return;
-    fname2dispname(f.name, name, sizeof name);
-    if (side.device == FILE_REMOVABLE)
-        (void)StrFatFileName(name); // an empty name is an empty name
-    const int n = PrintText(path, "%s%s%sSWR000%s/%s.%s_%03d.%s", base, f.folder,
-                            f.folder[0] ? "/" : "", switcher()->id + CLASS_AND_GROUP, name,
-                            f.is_extended ? "FMEX" : "FMEM", f.number, ext_of(f));
-    if (n >= int(sizeof path))
-        path[0] = '\0';
+    FILEINFO info = {.grp = GRP_FRAMEMEM, .is_ancillary = f.is_ancillary};
+    info.no = f.number - 1 + (f.is_extended ? FMEM_EXTENDED : 0);
+    CopyText(info.name, f.name);
+    CopyText(info.folder, f.folder);
+    return info;
 }
 
-static void register_path(char (&path)[FILE_PATH_SIZE], const Frame& f)
+// A picture is loaded under the name of its file.
+static void add(FILEXFERLIST** list, const char* src, const FILESIDE& to, const Frame& f)
 {
-    PrintText(path, SYS_FmemV6 && f.number > 999 ? "%s:%s%04d.%s" : "%s:%s_%03d.%s", switcher()->id,
-              f.is_extended ? "FMEX" : "FMEM", f.number, ext_of(f));
+    char dst[FILE_PATH_SIZE];
+    const FILEINFO info = info_of(f);
+    if ((to.device == FILE_REGISTER ? File_FrameName(info, dst, sizeof dst)
+                                    : info2name(info, dst, to.device, to.dir, sizeof dst)) == 0)
+        (void)File_XferList_Add(list, src, dst);
 }
 
 // The last piece of a path that ends at *end, behind a c; *end moves before that c.
@@ -124,20 +116,20 @@ static bool is_own_unit(const char* unit)
 static bool read_path(const char* path, Frame* f)
 {
     const char* end = path + strlen(path);
-    char ext[4], number[8], store[8], unit[16];
+    char ext[4], number[8], store[8], name[FMEM_NAME_SIZE], unit[16];
     if (!switcher() || !cut_back(path, &end, '.', ext, sizeof ext) ||
         !cut_back(path, &end, '_', number, sizeof number) ||
         !cut_back(path, &end, '.', store, sizeof store) ||
-        !cut_back(path, &end, '/', f->name, sizeof f->name) ||
+        !cut_back(path, &end, '/', name, sizeof name) ||
         !cut_back(path, &end, '/', unit, sizeof unit))
         return false;
     if (SYS_FmemV6 && !cut_back(path, &end, '/', f->folder, sizeof f->folder))
         return false;
+    fname2dispname(name, f->name, sizeof f->name);
     f->is_extended = strcmp(store, "FMEX") == 0;
     f->is_ancillary = strcmp(ext, "SFA") == 0;
     // What would end a command is no name of a register.
-    return f->name[0] && !strpbrk(f->name, "#,") &&
-           (f->is_extended || strcmp(store, "FMEM") == 0) &&
+    return f->name[0] && !strpbrk(name, "#,") && (f->is_extended || strcmp(store, "FMEM") == 0) &&
            (f->is_ancillary || strcmp(ext, "SFM") == 0) && is_own_unit(unit) &&
            take_number(number, &f->number) && (!f->is_extended || FMCtrl2_IsExtendedCapacity());
 }
@@ -156,17 +148,16 @@ static const char* folder_of(int index)
 static void add_register(const FILESIDE& to, int index, FILEXFERLIST** list)
 {
     char src[FILE_PATH_SIZE];
-    char dst[FILE_PATH_SIZE];
     Frame f;
     CopyText(f.name, FMCtrl2_GetRegNameMulti(index));
     CopyText(f.folder, folder_of(index));
     f.is_extended = index >= FMEM_EXTENDED;
     f.number = index % FMEM_EXTENDED + 1;
     f.is_ancillary = FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx(f.name)) == 1;
-    register_path(src, f);
-    file_path(dst, to, f);
-    if (dst[0])
-        (void)File_XferList_Add(list, src, dst);
+    FILEINFO from = info_of(f);
+    from.name[0] = '\0'; // its number says all
+    if (File_FrameName(from, src, sizeof src) == 0)
+        add(list, src, to, f);
 }
 
 int AllFrames_Save(const FILESIDE& to, int step, FILEXFERLIST** list)
@@ -191,17 +182,11 @@ int AllFrames_Save(const FILESIDE& to, int step, FILEXFERLIST** list)
 static void add_file(const char* path)
 {
     char src[FILE_PATH_SIZE];
-    char dst[FILE_PATH_SIZE];
     Frame f;
     if (!read_path(path, &f))
         return;
     PrintText(src, "%s%s", BeginsWith(path, "MYHOST:") ? "" : "MYHOST:", path);
-    if (search.to.device == FILE_REGISTER)
-        register_path(dst, f);
-    else
-        file_path(dst, search.to, f);
-    if (dst[0])
-        (void)File_XferList_Add(search.list, src, dst);
+    add(search.list, src, search.to, f);
 }
 
 static void end_search()

@@ -78,7 +78,7 @@ class AutoLoad(DeskCase):
         desk.wire()
         desk.console("autoload")
         lines = desk.wait_wire(EXIST + "DME4#false", 40)
-        self.assertTrue(any("PutV3" in line and line.endswith(":FMEM_012.SFM") for line in lines), lines)
+        self.assertTrue(any("PutV3" in line and line.endswith(":Mold.FMEM_012.SFM") for line in lines), lines)
         self.assertFalse(any("FMEMFOL" in line for line in lines))
         self.assertIn(START + "SWR1#false", lines)
         self.assertIn("97,Locked,S", self.listed("snapshot M/E-1"))

@@ -160,7 +160,7 @@ TEST_F(AutoLoad, FilesGoToTheirPlacesAndTheServerHearsOfBothEnds)
     for (const auto& [line, label] : items)
         lines.push_back(line);
     EXPECT_THAT(lines, ElementsAre(open + "," + unit + work + "EFFECT/SWR1/OPEN.ME1_001.SKF",
-                                   logo + "," + unit + ":FMEM_017.SFM",
+                                   logo + "," + unit + ":Mlogo.FMEM_017.SFM",
                                    key + "," + unit + work + "KSNAP/SWR1/K.ME1_2_04.SKS"));
     EXPECT_NE(Pane_GetActiveID(), 0) << "the notice";
     EXPECT_TRUE(BkgdFileTransfer_Check(0x71310000));
@@ -236,9 +236,9 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
     const std::string staging = "MYHOST:/var/tmp/FMXfer/" + std::string(DEV_MySwr[0]->id);
     ASSERT_EQ(items.size(), 2u) << testing::PrintToString(all);
     EXPECT_EQ(items.begin()->first,
-              root + "DEFAULT" + sub + "Mbars.FMEM_009.SFM," + staging + "FMEM_001.SF2");
+              root + "DEFAULT" + sub + "Mbars.FMEM_009.SFM," + staging + "Mbars.FMEM_001.SF2");
     EXPECT_EQ(items.rbegin()->first,
-              root + "Sport" + sub + "Mgoal.FMEM_200.SFA," + staging + "FMEM_002.SF4");
+              root + "Sport" + sub + "Mgoal.FMEM_200.SFA," + staging + "Mgoal.FMEM_002.SF4");
     for (const char* step : {"compressed", "stored", "staging removed"})
         for (const auto& [line, label] : items)
             Answer(label, step[0] == 's' && step[2] == 'o' && line.find("Mbars") != line.npos

@@ -361,9 +361,9 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
                 ElementsAre("ListDir " + folder, "Find " + folder + "DEFAULT/,*.*.*",
                             "Find " + folder + "News/,*.*.*", "Find " + folder + "Sport/,*.*.*"));
     EXPECT_THAT(Items(FILEWORK_TRANSFERLIST),
-                ElementsAre(EndsWith("Mold.FMEM_1300.SFM > SWR001D001:FMEM1300.SF2"),
-                            EndsWith("Mlogo.FMEM_001.SFM > SWR001D001:FMEM_001.SF2"),
-                            EndsWith("Mball.FMEX_007.SFA > SWR001D001:FMEX_007.SF4")));
+                ElementsAre(EndsWith("Mold.FMEM_1300.SFM > SWR001D001:Mold.FMEM1300.SF2"),
+                            EndsWith("Mlogo.FMEM_001.SFM > SWR001D001:Mlogo.FMEM_001.SF2"),
+                            EndsWith("Mball.FMEX_007.SFA > SWR001D001:Mball.FMEX_007.SF4")));
     EXPECT_THAT(sent, Contains("put Frame Mem@File@Delete Thumbnail@Single#Mold"));
     EXPECT_THAT(sent, Contains("put Frame Mem@Folder@Rename#1,Sport"));
     EXPECT_THAT(sent, Not(Contains(HasSubstr("Single#Mlogo"))));
