@@ -261,13 +261,19 @@ static int errors_of(const DiagUnit& unit)
                              [](const SELFDIAG& it) { return it.status >= SELFDIAG_ERROR; }));
 }
 
-void check_errorexist()
+static int count_errors()
 {
-    GL_ErrorExist = 0;
+    int errors = 0;
     DiagUnit unit;
     for (int c = 0; c < DIAG_CLASSES; c++)
         for (int n = 0; SelfDiag_Unit(DIAG_CLASS(c), n, &unit); n++)
-            GL_ErrorExist += errors_of(unit);
+            errors += errors_of(unit);
+    return errors;
+}
+
+void check_errorexist()
+{
+    GL_ErrorExist = count_errors();
     const bool is_shown = GL_NowPage == PAGE_STATUS || GL_NowPage == PAGE_HISTORY;
     if (GL_ErrorExist && GL_ErrorPopup && !is_shown && !GL_ErrorPopup_On) {
         GL_ErrorPopup_On = 1;
@@ -405,6 +411,8 @@ void SelfDiag_I2C_Update(int passed_ms)
     count_hours(passed_ms);
     if (board.is_measured) // a sensor that has never answered has nothing to report
         take_temperature();
+    if (count_errors() != GL_ErrorExist)
+        check_errorexist(); // a unit has left this panel, or has not answered when asked anew
 }
 
 // --- Hooks of the maintenance pages ---

@@ -147,11 +147,8 @@ static_assert(FirstItem(dme_kind, RUNS) == dme_kind.items);
 static_assert(switcher_kind.count[RUN_BOARD] == DIAG_BOARDS &&
               switcher_kind.count[RUN_FAN] == DIAG_FANS &&
               switcher_kind.count[RUN_PSU_EXIST] == DIAG_PSUS);
-} // namespace
 
-// A unit of a class, and where it stands among all.
-namespace
-{
+// The unit that a report is from.
 struct Reporter {
     const UnitKind* kind = nullptr;
     DiagUnit unit;

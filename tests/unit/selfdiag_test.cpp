@@ -369,6 +369,16 @@ TEST_F(MenuBoard, AMemoryThatComesBackCountsOn)
     EXPECT_EQ(Hours(29), 1001) << "counted from what is there";
 }
 
+TEST_F(MenuBoard, AUnitThatLeavesTakesItsErrorsAlong)
+{
+    Report(std::string(SWR) + "Fan Speed", "SWR1,NG,NG");
+    EXPECT_EQ(GL_ErrorExist, 2);
+    SYS_PnlAssign[1][0] = 0;
+    DeviceStructure();
+    SelfDiag_I2C_Update(5000);
+    EXPECT_EQ(GL_ErrorExist, 0);
+}
+
 TEST_F(MenuBoard, AWrongCrcIsMended)
 {
     Byte(83, 188, Byte(83, 188) ^ 1);
