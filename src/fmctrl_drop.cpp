@@ -1,5 +1,6 @@
 #include "device.h"
 #include "file.h"
+#include "file_name.h"
 #include "fmctrl_private.h"
 #include "log.h"
 #include "memory.h"
@@ -27,6 +28,7 @@ constexpr int QUIET_MS = 2000;
 constexpr int IMAGE_NAME = 8; // characters
 constexpr int SFM_NAME = 9;   // with the prefix
 constexpr const char* GRAPHICS = "Graphics";
+constexpr int GRP_FRAMEMEM = 23;
 
 enum : int {
     DROP_IDLE = 0,
@@ -194,7 +196,9 @@ static int reserve_register()
 {
     if (drop.empty_at < 0)
         return -1;
-    const int index = FMCtrl2_EmptyRegNo(drop.empty_at);
+    int index = FMCtrl2_EmptyRegNo(drop.empty_at);
+    if (!SYS_FmemV6 && index >= RegisterNum[GRP_FRAMEMEM])
+        index = -1; // the older frame memory works in what lies behind
     drop.empty_at = index < 0 ? -1 : index + 1;
     return index;
 }

@@ -254,6 +254,22 @@ TEST_F(DropFolders, ThreeHundredImagesTakeTheEmptyRegistersAndNoneMore)
     EXPECT_TRUE(Exists("/mnt/sys/FMLoad/FM8/i000.png")) << "found when the store was full";
 }
 
+TEST_F(DropFolders, TheWorkAreaOfTheOlderFrameMemoryIsLeftAlone)
+{
+    SYS_FmemV6 = 0;
+    Max(256);
+    for (int n = 1; n <= 222; n++)
+        (void)Sense(n, "81", "Mused" + std::to_string(n));
+    Pass(2000);
+    for (const char* name : {"FM8/a.png", "FM8/b.png"})
+        std::ofstream(std::string("/mnt/sys/FMLoad/") + name) << "image";
+    usleep(30000);
+    (void)Found(Look(), {"FM8/a.png", "FM8/b.png"});
+    Pass(500);
+    EXPECT_THAT(Others(Finish(TakeQueuedCommands())), SizeIs(2)) << "a picture of two is shown";
+    EXPECT_TRUE(Exists("/mnt/sys/FMLoad/FM8/b.png"));
+}
+
 TEST_F(DropFolders, NothingIsTakenBeforeTheRegistersAreKnown)
 {
     Max(5662);
