@@ -4,7 +4,6 @@
 #include "bus.h"
 #include "colours.h"
 #include "debug.h"
-#include "err.h"
 #include "global.h"
 #include "menu_macro.h"
 #include "message.h"
@@ -24,7 +23,6 @@ constexpr int PUSHED_MS = 150;
 
 constexpr uint32_t PAGE_ERRORS = 0x74110000;
 constexpr uint32_t PAGE_ERRORS_GONE = 0x74120000;
-constexpr uint32_t PAGE_ERROR_TEXT = 0x99000000;
 constexpr uint32_t PAGE_WALK = 0x99970000; // starts the walk through all pages
 constexpr uint32_t PAGE_TIMELINE = 0x61110000;
 
@@ -250,11 +248,7 @@ static void toggle_setup_lock()
     ba.SetupLockKey.pushed = PUSHED_MS;
     SETUPMENU& entry = SetupMenu[ba.SetupLock_id];
     entry.lock = !entry.lock;
-    if (SetupIndex_SaveLock() == 0)
-        return;
-    Err_Clear();
-    Err_Add("ERROR: Setup lock information has not been stored in HDD.");
-    GL_CreatePage = PAGE_ERROR_TEXT;
+    (void)SetupIndex_KeepLock();
 }
 
 static void press_lower_left()

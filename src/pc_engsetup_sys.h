@@ -22,10 +22,33 @@ enum : int { BTN_SETUP_CLEAR = 53, BTN_SETUP_EXECUTE = 54 }; // of every page th
 extern const PC_TBL pc_engsetup_system_maintenance_setupopelock;
 extern const PC_TBL pc_engsetup_system_maintenance_fileloadlock;
 enum : int {
-    BTN_LOCK_ITEM = 36,
-    BTN_LOCK_ITEM_CLEAR = 37,
-    BTN_LOCK_LOCK = 52,
-    BTN_LOCK_PASSWORD = 53,
+    BTN_LOCK_ITEM = 37,
+    BTN_LOCK_ITEM_CLEAR = 53,
+    BTN_LOCK = 38,
 };
 
-void EngSetupFormat_Reset(); // as at process start; for tests
+// --- pc_engsetup_sys_network ---
+extern const PC_TBL pc_engsetup_system_networkconfig;
+extern const PC_TBL pc_engsetup_system_nfsconfig;
+extern const PC_TBL pc_engsetup_system_nmiconfig;
+
+// --- pc_engsetup_sys_config ---
+extern const PC_TBL pc_engsetup_system_systemconfig;
+extern const PC_TBL pc_engsetup_system_switcherassign;
+extern const PC_TBL pc_engsetup_system_startup;
+extern const PC_TBL pc_engsetup_system_initialize;
+enum : int { BTN_SYSCONF_SYSTEM1 = 37, BTN_SYSCONF_SYSTEM2 = 38 };
+
+// --- pc_engsetup_sys_mainte ---
+extern const PC_TBL pc_engsetup_system_maintenance;
+enum : int {
+    BTN_MAINTENANCE_TIME = 33,
+    BTN_MAINTENANCE_FORMAT = 37,
+    BTN_MAINTENANCE_PRIMARY = 36,
+};
+
+// As at process start; for tests.
+void EngSetupNetwork_Reset();
+void EngSetupConfig_Reset();
+void EngSetupFormat_Reset();
+void EngSetupLock_Reset();

@@ -1,4 +1,6 @@
 #include "setup_index.h"
+#include "err.h"
+#include "global.h"
 #include "log.h"
 #include "page.h"
 #include "safe_file.h"
@@ -18,6 +20,7 @@ int SetupLock_New = 0;
 
 namespace
 {
+constexpr uint32_t PAGE_ERROR_TEXT = 0x99000000;
 constexpr uint32_t FIRST_GROUP = 0x731;
 constexpr uint32_t VARIANT_BITS = 0x0000FF00;
 constexpr uint32_t LAST_SUBPAGE = 153; // above it the low half of an id holds a variant
@@ -150,6 +153,16 @@ int SetupIndex_SaveLock()
     unsigned char bytes[LOCK_FILE_SIZE];
     bytes_of_lock(bytes, SetupLock);
     return SafeFile_Write(SETUP_LOCK_FILE, bytes, sizeof bytes);
+}
+
+int SetupIndex_KeepLock()
+{
+    if (SetupIndex_SaveLock() == 0)
+        return 0;
+    Err_Clear();
+    (void)Err_Add("ERROR: Setup lock information has not been stored in HDD.");
+    GL_CreatePage = PAGE_ERROR_TEXT;
+    return -1;
 }
 
 int SetupIndex_Find(uint32_t page)

@@ -44,6 +44,8 @@ void SetupIndex_LoadLock();
 // Rebuild the page list from the marked rows (the first SETUP_LOCK_PAGES) and write the file. 0, or
 // -1 when it cannot be written.
 int SetupIndex_SaveLock();
+// The same; a failure is told on the error page.
+int SetupIndex_KeepLock();
 int SetupIndex_Find(uint32_t page); // row of a page (variant byte ignored), -1 none
 // The page is of the lock set and the lock is on: it takes no change. Never the page of the lock.
 bool SetupIndex_IsLocked(uint32_t page);

@@ -277,7 +277,7 @@ static int take_tally(const SETUPTABLE& t, const char* path, const char* value)
     int is_taken = 0;
     for (int i = 0; i < t.field_count; i++) {
         const SETUPFIELD& f = t.fields[i];
-        if (!is_path_of(f, path, key))
+        if (f.part == SETUP_BY_PAGE || !is_path_of(f, path, key))
             continue;
         is_taken = 1;
         if (f.part > 0) {
@@ -382,6 +382,12 @@ void SetupPage_Set(const SETUPTABLE& t, int row, int field, const char* text)
     SetupPage_Show(t);
 }
 
+void SetupPage_Take(const SETUPTABLE& t, int row, int field, const char* text)
+{
+    if (SetupPage_Has(t, row, field))
+        take_value(t, row, t.fields[field], text);
+}
+
 int SetupPage_Selected(const SETUPTABLE& t, int n)
 {
     if (!t.list)
@@ -455,6 +461,8 @@ static bool is_line_sent(const SETUPTABLE& t, int row, const SETUPFIELD& f)
 
 static void put_cell(const SETUPTABLE& t, int row, const SETUPFIELD& f)
 {
+    if (f.part == SETUP_BY_PAGE)
+        return;
     if (f.part > 0) {
         if (!is_line_sent(t, row, f))
             put_line(t, row, f);

@@ -25,7 +25,7 @@ enum : int {
     SETUP_READ = 1, // somebody follows it all the time
     SETUP_HEAR = 2, // not at all: what is told anyway is taken
 };
-constexpr int SETUP_EACH_ROW = -1; // SETUPFIELD.part
+enum : int { SETUP_EACH_ROW = -1, SETUP_BY_PAGE = -2 }; // SETUPFIELD.part
 
 // One text of every row. Rows are structures of texts; the first of them is the row's key. Two
 // fields at the same place are one text that travels in two ways, each for the rows that have it.
@@ -36,6 +36,7 @@ struct SETUPFIELD {
     // 0: the path is the row's and its value this text. n: the path tells a line for each row,
     // which begins with its key, and this is part n of it from 1; a put sends the whole line.
     // SETUP_EACH_ROW: one value has a part for each row in their order; a put sends all of them.
+    // SETUP_BY_PAGE: page code takes and sends it, with SetupPage_Take.
     int part = 0;
     int parts = 1;   // as many parts of the line, from that one on, hold this same text
     int column = -1; // of the list
@@ -103,7 +104,9 @@ int SetupPage_Proc(const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
 // Cells. A row or field that is not there is ignored, its text is "".
 const char* SetupPage_Text(const SETUPTABLE& t, int row, int field);
 void SetupPage_Set(const SETUPTABLE& t, int row, int field, const char* text); // of the work; shows
-int SetupPage_Row(const SETUPTABLE& t, const char* key);                       // -1 none
+// What the server has told, in a way that only page code understands. Shows nothing yet.
+void SetupPage_Take(const SETUPTABLE& t, int row, int field, const char* text);
+int SetupPage_Row(const SETUPTABLE& t, const char* key); // -1 none
 bool SetupPage_Has(const SETUPTABLE& t, int row, int field);
 int SetupPage_Selected(const SETUPTABLE& t, int n); // n-th selected row, -1 behind the last
 

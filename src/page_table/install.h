@@ -1,6 +1,7 @@
 // install: the pages of Install/Unit Config that work with packages on the stick, what of their keys page code names.
 #pragma once
 #include "rows.h"
+#include "setup_tabs.h"
 
 enum : int {
     BTN_INSTALL_REFRESH = 49,
@@ -15,7 +16,6 @@ enum : int {
 inline constexpr BT_TBL bt_install_top[] = {
     Jump(       {.id = 17, .caption = "New\nInstall", .group = "Package", .cmd = {"#73160010"}}),
     Jump(       {.id = 18, .caption = "Texture\nPackage", .group = "Package", .cmd = {"#73160005"}}),
-    Jump(       {.id = 6, .caption = "Setup", .cmd = {"#73110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_install_top));
@@ -64,7 +64,7 @@ extern const PC_TBL pc_texture_package;                    // pc_texture.cpp
 extern const PC_TBL pc_engsetup_system_install_newinstall; // pc_install.cpp
 
 inline constexpr PAGE install_pages[] = {
-    {.id = 0x73160000, .tree = {"Engineering Setup", "System", "Install"}, .obj = {Base(base_main), Buttons(bt_install_top)}},
+    {.id = 0x73160000, .tree = {"Engineering Setup", "System", "Install"}, .obj = {Base(base_main), LeftTabs(vf_setup, 1), BottomTabs(hf_setup_system, 6), Buttons(bt_install_top)}},
     {.id = 0x73160010, .tree = {"Engineering Setup", "System", "New Install"},
      .obj = {Base(base_main), Buttons(bt_newinstall), Lists(ls_newinstall), Code(pc_engsetup_system_install_newinstall)}},
     {.id = 0x73160005, .tree = {"Engineering Setup", "System", "Texture Package"},

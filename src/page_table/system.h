@@ -2,21 +2,6 @@
 #pragma once
 #include "rows.h"
 
-inline constexpr BT_TBL bt_setup_network[] = {
-    Radio(      {.id = 17, .caption = "Panel", .group = "Unit", .cmd = {"~@Unit#Panel"}}),
-    Radio(      {.id = 18, .caption = "Switcher", .group = "Unit", .cmd = {"~@Unit#Switcher"}}),
-    Radio(      {.id = 19, .caption = "DME", .group = "Unit", .cmd = {"~@Unit#DME"}}),
-    Radio(      {.id = 20, .caption = "DCU", .group = "Unit", .cmd = {"~@Unit#DCU"}}),
-    Action(     {.id = 33, .caption = "Auto\nDetect", .group = "Job", .cmd = {"~@Auto Detect#*"}}),
-    Action(     {.id = 34, .caption = "Clear", .group = "Job", .cmd = {"~@Clear#*"}}),
-    Action(     {.id = 35, .caption = "Execute", .group = "Job", .cmd = {"~@Execute#*"}}),
-    Jump(       {.id = 49, .caption = "Diag", .group = "Engineering", .cmd = {"#74110000"}}),
-    Jump(       {.id = 50, .caption = "Install", .group = "Engineering", .cmd = {"#73160000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_setup_network));
-
 inline constexpr BT_TBL bt_error[] = {
     Jump(       {.id = 49, .caption = "Diag", .cmd = {"#74110000"}}),
     Jump(       {.id = 54, .caption = "Top\nMenu", .cmd = {"#00110000"}}), // the list takes the rows above
@@ -41,7 +26,7 @@ inline constexpr BT_TBL bt_file_top[] = {
 static_assert(ButtonsAreSound(bt_file_top));
 
 inline constexpr BT_TBL bt_engineering_setup_top[] = {
-    Jump(       {.id = 17, .caption = "Network\nConfig", .group = "Setup", .cmd = {"#73110000"}}),
+    Jump(       {.id = 17, .caption = "System", .group = "Setup", .cmd = {"#73110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
@@ -59,6 +44,5 @@ inline constexpr PAGE system_pages[] = {
     {.id = 0x71000000, .tree = {"File"}, .obj = {Base(base_main), Buttons(bt_file_top)}},
     {.id = 0x73000000, .tree = {"Engineering Setup"}, .obj = {Base(base_main), Buttons(bt_engineering_setup_top)}},
     {.id = 0x74000000, .tree = {"Diag"}, .obj = {Base(base_main), Buttons(bt_diag_top)}},
-    {.id = 0x73110000, .tree = {"Engineering Setup", "System", "Network Config"}, .obj = {Base(base_main), Buttons(bt_setup_network)}},
     {.id = 0x99000000, .tree = {"Error"}, .obj = {Base(base_main), Buttons(bt_error), Lists(ls_error), ErrorList()}},
 };

@@ -5,6 +5,8 @@
 #include "pane.h"
 #include "setup_index.h"
 #include "table_page.h"
+#include "window.h"
+#include <SDL.h>
 
 struct SetupTest : TablePage {
     void SetUp() override
@@ -53,6 +55,33 @@ struct SetupTest : TablePage {
         for (const std::string& line : TakeQueuedCommands())
             lines.push_back(line);
         return lines;
+    }
+    // Into the window on top, by its keyboard, up to Enter; what that sends.
+    static Lines Type(const std::string& text)
+    {
+        EXPECT_NE(GetWindow(), WINDOW_NONE) << "nothing is asked for";
+        (void)TakeQueuedCommands();
+        for (const char c : text) {
+            const bool is_upper = isupper(uint8_t(c)) != 0;
+            SendMessage(MSG_KEY, tolower(uint8_t(c)), is_upper ? KMOD_LSHIFT : 0, 0, 0);
+        }
+        Enter();
+        return TakeQueuedCommands();
+    }
+    static void Enter()
+    {
+        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+        for (int i = 0; i < 10; i++)
+            Pass(100);
+    }
+    // Put away what a window or a pane says.
+    static void Dismiss()
+    {
+        while (GetWindow() != WINDOW_NONE)
+            (void)CloseWindow();
+        if (Pane_GetActiveID())
+            (void)Answer(0);
+        Pass(1000);
     }
     // Close the pane on top with a result; what that sends.
     static Lines Answer(int result)

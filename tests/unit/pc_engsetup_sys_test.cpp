@@ -145,3 +145,341 @@ TEST_F(FormatPage, AuxiliaryOutputsTakeTheirFormatsInOnePut)
     EXPECT_THAT(sent[0], testing::StartsWith(
                              "put Engineering Setup@Switcher@Output@Signal Format#2,1,0,0,"));
 }
+
+// --- The locks ---
+
+namespace
+{
+constexpr uint32_t LOCK_PAGE = 0x73170001, LOAD_LOCK_PAGE = 0x73170002;
+
+struct LockPage : SetupTest {
+    void SetUp() override
+    {
+        SetupTest::SetUp();
+        EngSetupLock_Reset();
+        remove(SETUP_LOCK_FILE);
+        SetupIndex_Build();
+        SetupIndex_LoadLock();
+        (void)Open(LOCK_PAGE);
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        remove(SETUP_LOCK_FILE);
+        EngSetupLock_Reset();
+        SetupTest::TearDown();
+    }
+    static int RowOf(const char* menu)
+    {
+        for (int row = 0; row < LS_GetNData(1); row++)
+            if (LS_GetData(1, row, 0) == std::string(menu))
+                return row;
+        return -1;
+    }
+    static SETUPLOCK InFile()
+    {
+        SETUPLOCK here = SetupLock;
+        SetupIndex_LoadLock();
+        std::swap(here, SetupLock);
+        return here;
+    }
+    // Press Lock, enter a password, put away what is said about it.
+    static int Lock(const char* password)
+    {
+        (void)Push(BTN_LOCK);
+        Type(password);
+        Dismiss();
+        return SetupLock.lock;
+    }
+    static void Change(const char* old_password, const char* new_password, const char* again)
+    {
+        (void)Push(54);
+        Enter(); // yes
+        for (const char* text : {old_password, new_password, again})
+            if (GetWindow() == WINDOW_KEYBOARD)
+                Type(text);
+        Dismiss();
+    }
+};
+} // namespace
+
+TEST_F(LockPage, ItemsAreOfOneGroupAndGoIntoTheFile)
+{
+    EXPECT_GE(RowOf("7311"), 0);
+    EXPECT_EQ(RowOf("7317.1"), -1) << "the lock's own page";
+    SelectRow(RowOf("7313"));
+    (void)Push(BTN_LOCK_ITEM);
+    EXPECT_EQ(Row(RowOf("7313"), 4), "7313|System|Format|Lock");
+    EXPECT_EQ(InFile().num, 1);
+    EXPECT_EQ(InFile().page[0], 0x73130000u);
+    (void)Push(34);
+    EXPECT_EQ(RowOf("7313"), -1);
+    EXPECT_EQ(BT_GetStatus(34), BT_ON);
+    (void)Push(33);
+    SelectRow(RowOf("7313"));
+    (void)Push(BTN_LOCK_ITEM);
+    EXPECT_EQ(InFile().num, 0);
+    (void)Push(BTN_LOCK_ITEM);
+    (void)Push(BTN_LOCK_ITEM_CLEAR);
+    (void)Answer(YES);
+    EXPECT_EQ(InFile().num, 0);
+    EXPECT_EQ(Row(RowOf("7313"), 4), "7313|System|Format|");
+}
+
+TEST_F(LockPage, PasswordsOpenItOrDoNot)
+{
+    static const struct {
+        const char* stored;
+        const char* entered;
+        bool is_right;
+    } cases[] = {
+        {"", "", true},
+        {"", "x", false},
+        {"secret", "secret", true},
+        {"secret", "Secret", false},
+        {"secret", "secret1", false},
+        {"secret", "QPD7300WREN", true},
+        {"secret", "QPD7300WRENX", false},
+        {"secret", "", false},
+        {"1234567890123456", "12345678901234567", true}, // cut at 16
+        {"1234567890123456", "123456789012345", false},
+    };
+    for (const auto& c : cases) {
+        SetupLock.lock = 0;
+        snprintf(SetupLock.password, sizeof SetupLock.password, "%s", c.stored);
+        EXPECT_EQ(Lock(c.entered), c.is_right) << c.stored << " " << c.entered;
+    }
+    SetupLock.lock = 0;
+    EXPECT_EQ(Lock("QPD7300WREN"), 1);
+    EXPECT_EQ(BT_GetStatus(BTN_LOCK), BT_ON);
+    EXPECT_THAT(Usable({BTN_LOCK_ITEM, BTN_LOCK_ITEM_CLEAR}), testing::IsEmpty());
+    EXPECT_EQ(InFile().lock, 1);
+    const int row = RowOf("7313");
+    SelectRow(row);
+    SendMessage(LMSG_BTNSEL, Arg("LOCAL@SetupOpeLock@Lock Item Select"), Arg(""), 0, 0);
+    EXPECT_EQ(Row(row, 4), "7313|System|Format|") << "while the lock is on";
+    EXPECT_EQ(Lock("QPD7300WREN"), 0);
+}
+
+TEST_F(LockPage, ANewPasswordCountsWhenItWasEnteredTwice)
+{
+    Change("", "first", "first");
+    EXPECT_STREQ(InFile().password, "first");
+    Change("wrong", "second", "second");
+    EXPECT_STREQ(SetupLock.password, "first");
+    Change("first", "second", "third");
+    EXPECT_STREQ(SetupLock.password, "first");
+    Change("QPD7300WREN", "12345678901234567", "12345678901234567");
+    EXPECT_STREQ(InFile().password, "1234567890123456");
+}
+
+TEST_F(LockPage, CategoriesOfFilesAreLockedByPassword)
+{
+    const std::string LOCK = "Info@System Setup Data@File Load Lock#";
+    (void)Open(LOAD_LOCK_PAGE);
+    (void)Tell(LOCK + "20000000");
+    ASSERT_EQ(LS_GetNData(1), 17);
+    EXPECT_EQ(Row(1, 2), "Key Memory|Lock");
+    for (int row = 13; row < 17; row++) {
+        SelectRow(row);
+        (void)Push(33);
+    }
+    EXPECT_EQ(Row(13, 2), "Setup SWR|Lock*");
+    (void)Push(BTN_SETUP_EXECUTE);
+    EXPECT_THAT(Type("wrong"), testing::IsEmpty());
+    Dismiss();
+    (void)Push(BTN_SETUP_EXECUTE);
+    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "A003C000"));
+    (void)Tell(LOCK + "A003C000");
+    EXPECT_EQ(Row(16, 2), "Setup SYS|Lock");
+    SelectRow(16);
+    (void)Push(33);
+    (void)Push(BTN_SETUP_EXECUTE);
+    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "20038000"));
+    (void)Push(BTN_SETUP_CLEAR);
+    EXPECT_EQ(Row(16, 2), "Setup SYS|Lock");
+}
+
+// --- Network, System Config, Start Up, Initialize ---
+
+namespace
+{
+struct SystemPage : SetupTest {
+    void SetUp() override
+    {
+        SetupTest::SetUp();
+        EngSetupNetwork_Reset();
+        EngSetupConfig_Reset();
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        EngSetupNetwork_Reset();
+        EngSetupConfig_Reset();
+        SetupTest::TearDown();
+    }
+};
+const std::string NETWORK = "Engineering Setup@System@Network Config@";
+const std::string CONFIG = "Engineering Setup@System@System Config@";
+} // namespace
+
+TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
+{
+    (void)Open(0x73110000);
+    (void)Tell(NETWORK + "List#KILL");
+    (void)Tell(NETWORK + "List#PNL001D001,PNL1,192.168.10.1,192.168.20.1,none");
+    (void)Tell(NETWORK + "List#SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11");
+    SelectRow(1);
+    (void)Push(33);
+    Type("3");
+    (void)Push(34);
+    Type("77");
+    EXPECT_EQ(Row(1, 5), "SWR001D001|SWR1|192.168.13.77*|192.168.23.77*|192.168.33.77*");
+    SelectRow(0);
+    (void)Push(34);
+    Type("255");
+    Dismiss();
+    EXPECT_EQ(Row(0, 5), "PNL001D001|PNL1|192.168.10.1|192.168.20.1|none");
+    (void)Push(50);
+    EXPECT_THAT(Answer(NO), testing::IsEmpty());
+    (void)Push(50);
+    EXPECT_THAT(Answer(YES),
+                ElementsAre("put " + NETWORK + "List#SWR001D001,SWR1,192.168.13.77,192.168.23.77," +
+                                "192.168.33.77",
+                            "add " + NETWORK + "Define", "put " + NETWORK + "Define#true"));
+    const int busy = Pane_GetActiveID();
+    (void)Tell(NETWORK + "Define#true");
+    EXPECT_TRUE(Pane_Exist(busy));
+    EXPECT_THAT(Tell(NETWORK + "Define#OK"), ElementsAre("remove " + NETWORK + "Define"));
+    EXPECT_FALSE(Pane_Exist(busy));
+}
+
+TEST_F(SystemPage, AutoConfigThatFailsOrIsNotAnsweredSaysSo)
+{
+    (void)Open(0x73110000);
+    for (const bool is_answered : {true, false}) {
+        (void)Push(49);
+        EXPECT_THAT(Answer(YES), ElementsAre("add " + NETWORK + "Network Auto Config",
+                                             "put " + NETWORK + "Network Auto Config#true",
+                                             "put Info@Self Diagnosis Notice@PNL#true"));
+        const int busy = Pane_GetActiveID();
+        if (is_answered)
+            (void)Tell(NETWORK + "Network Auto Config#NG");
+        else
+            for (int s = 0; s < 62; s++)
+                Pass(1000);
+        EXPECT_FALSE(Pane_Exist(busy));
+        EXPECT_NE(Pane_GetActiveID(), 0) << "it failed";
+        (void)Answer(0);
+    }
+}
+
+TEST_F(SystemPage, TextsForTheNetworkDriveAreExamined)
+{
+    (void)Open(0x73110098);
+    static const struct {
+        int key;
+        const char* text;
+        const char* sent; // behind "put Info@System Setup Data@NFS ", empty: refused
+    } cases[] = {
+        {33, "10.0.0.9", "Server#10.0.0.9"},
+        {33, "a;b", ""},
+        {33, "a b", ""},
+        {33, "-h", ""},
+        {34, "/files", "Mount Point#/files"},
+        {34, "/a b", ""},
+        {35, "soft,ro", "Mount Option#soft,ro"},
+        {35, "soft;x", ""},
+    };
+    for (const auto& c : cases) {
+        (void)Push(c.key);
+        for (int i = 0; i < 40; i++)
+            SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
+        const Lines sent = Type(c.text);
+        Dismiss();
+        if (*c.sent)
+            EXPECT_THAT(sent, ElementsAre(std::string("put Info@System Setup Data@NFS ") + c.sent));
+        else
+            EXPECT_THAT(sent, testing::IsEmpty()) << c.text;
+    }
+    (void)Tell("Info@System Setup Data@NFS Server#10.9.9.9");
+    EXPECT_EQ(Row(0, 2), "Server|10.9.9.9");
+}
+
+TEST_F(SystemPage, APanelsSwitchersGoAsOneLine)
+{
+    (void)Open(0x73120000);
+    (void)Tell(CONFIG + "Panel Assign#1,1,2,0,5,0");
+    (void)Tell(CONFIG + "System Operation Mode@PNL1#Single Proc");
+    EXPECT_EQ(Row(0, 5), "PNL1|Single Proc|1|2|");
+    (void)Push(34);
+    (void)Push(36);
+    (void)Answer(1); // nobody
+    EXPECT_EQ(Row(0, 5), "PNL1|Dual Simul*|1|---*|");
+    (void)Push(BTN_SETUP_EXECUTE);
+    EXPECT_THAT(Answer(YES), ElementsAre("put " + CONFIG + "System Operation Mode@PNL1#Dual Simul",
+                                         "put " + CONFIG + "Panel Assign#1,1,0,0,5,0"));
+    EXPECT_THAT(Push(BTN_SYSCONF_SYSTEM2), ElementsAre("put " + CONFIG + "Setup Target#1"));
+    (void)Tell(CONFIG + "Setup Target#1");
+    EXPECT_EQ(BT_GetStatus(BTN_SYSCONF_SYSTEM2), BT_ON);
+    EXPECT_EQ(BT_GetStatus(BTN_SYSCONF_SYSTEM1), BT_OFF);
+}
+
+TEST_F(SystemPage, InitializeTellsEachChosenUnitOnceAndForgets)
+{
+    (void)Open(0x73150000);
+    (void)Tell("Engineering Setup@System@Start Up@Resume@SWR1#true");
+    SelectRow(1);
+    (void)Push(33);
+    SelectRow(3);
+    (void)Push(34);
+    EXPECT_EQ(Row(1, 5), "SWR1|Resume|||All Clear*");
+    (void)Push(BTN_SETUP_EXECUTE);
+    EXPECT_THAT(Answer(YES),
+                ElementsAre("put Engineering Setup@System@Initialize@Initialize#All Clear,SWR1",
+                            "put Engineering Setup@System@Initialize@Initialize#Reset,DME1"));
+    EXPECT_EQ(Row(1, 5), "SWR1|Resume|||");
+    (void)Push(33);
+    (void)Open(0x73150000);
+    EXPECT_EQ(Row(3, 5), "DME1||||") << "nothing waits for the next visitor";
+}
+
+// --- Maintenance ---
+
+TEST_F(SystemPage, TheClockRunsUntilAKnobTakesIt)
+{
+    (void)Open(0x73170000);
+    Pass(10);
+    const std::string now = Caption(BTN_MAINTENANCE_TIME);
+    EXPECT_EQ(std::count(now.begin(), now.end(), '\n'), 2) << now;
+    static const struct {
+        int box, value;
+    } turns[] = {{1, 2024}, {3, 31}, {4, 7}, {5, 8}, {2, 2}};
+    for (const auto& t : turns)
+        SendMessage(LMSG_KNOBVAR, t.box, t.value, 0, 0);
+    Pass(2000);
+    EXPECT_EQ(Caption(BTN_MAINTENANCE_TIME), "Feb 29\n07:08:00\n2024") << "no 31st of February";
+    SendMessage(LMSG_KNOBVAR, 1, 2023, 0, 0);
+    EXPECT_EQ(Caption(BTN_MAINTENANCE_TIME), "Feb 28\n07:08:00\n2023");
+    (void)Push(49);
+    Pass(10);
+    EXPECT_NE(Caption(BTN_MAINTENANCE_TIME), "Feb 28\n07:08:00\n2023");
+}
+
+TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
+{
+    ASSERT_EQ(::system("mkdir -p /mnt/usb/usb1 /mnt/usb/usb3 /mnt/data"), 0);
+    (void)Open(0x73170000);
+    EXPECT_STREQ(LS_GetData(1, 0, 0), "For displaying device information,");
+    EXPECT_THAT(Usable({BTN_MAINTENANCE_FORMAT, BTN_MAINTENANCE_PRIMARY}), testing::IsEmpty());
+    (void)Push(35);
+    EXPECT_STREQ(LS_GetData(1, 0, 0), "Local Drive");
+    EXPECT_THAT(LS_GetData(1, 0, 2), testing::EndsWith(" MB"));
+    ASSERT_EQ(LS_GetNData(2), 2);
+    SelectRow(1, 2);
+    EXPECT_THAT(Push(BTN_MAINTENANCE_PRIMARY),
+                ElementsAre("put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"));
+    (void)Tell("Info@Operation Setup Data@Import Path#/mnt/usb/usb3/");
+    EXPECT_STREQ(LS_GetData(2, 1, 0), "Removable 2 (Primary)");
+    ASSERT_EQ(::system("rmdir /mnt/usb/usb1 /mnt/usb/usb3"), 0);
+}
