@@ -5,6 +5,7 @@
 #include "file_job.h"
 #include "frame_memory.h"
 #include "hub.h"
+#include "package.h"
 #include "text.h"
 #include "unit_file.h"
 
@@ -60,6 +61,21 @@ static bool con_results(Runner&, const std::string& rest)
             return true;
         }
     return false;
+}
+
+static bool con_packages(Runner&, const std::string&)
+{
+    return Package_Put();
+}
+
+static bool con_script(Runner&, const std::string& rest)
+{
+    const auto word = Text_Split(rest, ' ');
+    long status = 0, calls = 1;
+    return (word.size() == 2 || word.size() == 3) && word[0].find('/') == std::string::npos &&
+           Console_Number(word[1], 0, 255, &status) &&
+           (word.size() == 2 || Console_Number(word[2], 0, 1000, &calls)) &&
+           Package_Fail(word[0], int(status), int(calls));
 }
 
 static bool con_autoload(Runner&, const std::string&)
@@ -118,6 +134,10 @@ static constexpr Command commands[] = {
     {"unit", "SWR1|CS1|PNL1 on|off", "a unit comes to the hub or leaves it", con_unit},
     {"results", "right|crlf|nocomma|long|lower|trailing|ng|missing", "form of the result lists",
      con_results},
+    {"packages", "", "put packages to install, and bitmaps for textures, on the stick",
+     con_packages},
+    {"script", "scs_exec|scs_transfer|ui_install|fpga_updater|... STATUS [N]",
+     "the next N calls of a device's script end with that status", con_script},
     {"autoload", "", "ask the panels to load what is there for power-on", con_autoload},
     {"jobs", "", "print the file work under way, and who holds what", con_jobs},
     {"frames", "max N [extended]|fill N [extended]|store N NAME|delete N",

@@ -302,6 +302,7 @@ static void newinstall_execute()
     Err_Clear();
     for (InstallUnit& unit : units)
         unit.result[0] = '\0';
+    show_units();
     SendDummyTally(LOCAL_INSTALL "Install#true");
     SendMessage(MSG_REDRAW, 0, 0, 0, 0); // for a long time the last
     const bool is_good = install_and_read_again();
