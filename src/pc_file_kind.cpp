@@ -11,17 +11,6 @@
 
 // --- Registers ---
 
-// The macros: they have file pages alone. All commands bear the one bit of the panel, which is not
-// that of their effects.
-static constexpr SSREGION macro_region[] = {{0x0000100000000000, 1024, "", "PNL"}, {}};
-static constexpr RegisterCommands macro_commands = {.remove = "Macro@Register@Delete@Delete",
-                                                    .rename = "Macro@Register@Rename@Rename"};
-static constexpr RegisterKind macros = {.mirror = REGISTER_MACRO,
-                                        .registers = REGISTERS_MACRO,
-                                        .regions = macro_region,
-                                        .mask = REGMASK_WIDE,
-                                        .commands = &macro_commands};
-
 // A menu macro is kept as a file of this unit.
 static int exist_menu_macro(int no)
 {
@@ -91,7 +80,7 @@ constexpr FileKind file_kinds[FILEPAGES] = {
      .id = 0x71410000,
      .grp = 20,
      .stored = &register_kinds[REGKIND_SHOTBOX]},
-    {.page = FILEPAGE_MACRO, .id = 0x71420000, .grp = 21, .stored = &macros},
+    {.page = FILEPAGE_MACRO, .id = 0x71420000, .grp = 21, .stored = &register_kinds[REGKIND_MACRO]},
     {.page = FILEPAGE_MACROATC, .id = 0x71430000, .grp = 22},
     {.page = FILEPAGE_MENU_MACRO,
      .id = 0x71440000,
@@ -172,8 +161,10 @@ bool FileKind_HasCommands(const FileKind& kind)
 uint64_t FileKind_Mask(const FileKind& kind, int region_id)
 {
     constexpr uint64_t ANY = 1; // the commands have none
-    if (!kind.stored || !kind.stored->regions)
+    if (!kind.stored)
         return ANY;
+    if (!kind.stored->regions)
+        return kind.stored->fixed_mask != 0 ? kind.stored->fixed_mask : ANY;
     const int region = Region_RowOfId(kind.stored->regions, region_id);
     return region < 0 ? 0 : kind.stored->regions[region].bitmap;
 }

@@ -7,6 +7,7 @@
 #include "netio.h"
 #include "pane.h"
 #include "pc_effect.h"
+#include "pc_macro.h"
 #include "pc_register_list.h"
 #include "pc_shotbox.h"
 #include "tally_value.h"
@@ -39,8 +40,8 @@ static struct {
 } rp;                                           // valid from create(1) to create(0)
 
 static constexpr const RegisterExtra* extras[] = {
-    &snapshot_extra,   &keyss_extra,      &effect_extras[0], &effect_extras[1],
-    &effect_extras[2], &effect_extras[3], &effect_extras[4], &shotbox_extra};
+    &snapshot_extra,   &keyss_extra,      &effect_extras[0], &effect_extras[1], &effect_extras[2],
+    &effect_extras[3], &effect_extras[4], &shotbox_extra,    &macro_extra};
 
 static RegisterMemory& memory()
 {
@@ -303,9 +304,10 @@ static bool may_go(int no, int by)
     return !is_locked(1, to) && (is_source_kept || is_free(no));
 }
 
-static int runs_sel()
+static int runs_sel_core(int by)
 {
-    const int by = shift();
+    if (!rp.kind)
+        return 0;
     each_run([by](int no) { return may_go(no, by); },
              [by](int from, int to) {
                  RegisterCmd_Runs(*rp.kind, runs_of_shape(),
@@ -313,6 +315,28 @@ static int runs_sel()
                                   number_of(from + by), memory().wo_name);
              });
     return 0;
+}
+
+static bool is_any_overwritten(int by)
+{
+    for (int i = 0, no; (no = LS_GetSelected(LIST_1, i)) >= 0; i++)
+        if (may_go(no, by) && RegisterKind_Exist(*rp.kind, target_region(), no + by))
+            return true;
+    return false;
+}
+
+static int runs_sel()
+{
+    const int by = shift();
+    const char* const title = rp.shape == REGSHAPE_COPY ? rp.kind->copy_title : nullptr;
+    if (!title || !is_any_overwritten(by))
+        return runs_sel_core(by);
+    return CreateWindow(WINDOW_MESSAGE, title,
+                        {.message = "This operation will cause the data to be\noverwritten in the "
+                                    "register.\n\nContinue?",
+                         .is_yes_no = true,
+                         .ok = runs_sel_core,
+                         .ok_var = by});
 }
 
 static int merge_sel()
@@ -453,7 +477,7 @@ static int register_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
 static const RegisterExtra* extra_of(REGKIND kind, REGSHAPE shape)
 {
     for (const RegisterExtra* extra : extras)
-        if (shape == REGSHAPE_ATTRIBUTE && extra->kind == kind)
+        if (extra->kind == kind && (extra->is_everywhere || shape == REGSHAPE_ATTRIBUTE))
             return extra;
     return nullptr;
 }
@@ -540,6 +564,11 @@ const RegisterLine& RegisterPage_Line()
 int RegisterPage_Region()
 {
     return memory().region1;
+}
+
+int RegisterPage_Number()
+{
+    return number_of(cursor());
 }
 
 void RegisterPage_PutAttribute(const char* path, const char* value)

@@ -39,7 +39,7 @@ enum : int {
     BTN_REGISTER_EDIT_SNAPSHOT = 50, // of a shotbox
 };
 
-// --- What a kind can do on its first page beyond the family ---
+// --- What a kind can do beyond the family, on its first page alone or on all ---
 
 struct RegisterTouch {
     const char* tail; // of the button's command, behind "LOCAL@" and the menu's word
@@ -47,13 +47,14 @@ struct RegisterTouch {
 };
 struct RegisterExtra {
     REGKIND kind = REGKINDS;
+    bool is_everywhere = false;             // not on the first page alone
     const RegisterTouch* touches = nullptr; // ended by a null tail
     void (*open)(int on) = nullptr;         // the page is opened (1) or left (0)
     void (*shown)() = nullptr; // the register or the region at the cursor has changed, or its line
     void (*tally)(const char* path, const char* value) = nullptr;
     void (*knob)(int id, int value) = nullptr; // LMSG_KNOBVAR
 };
-// The kinds that have one; ended by REGKINDS. A further one is added in pc_register.cpp.
+// Some that have one; a further one is added in pc_register.cpp.
 extern const RegisterExtra snapshot_extra;
 extern const RegisterExtra keyss_extra;
 
@@ -61,6 +62,7 @@ extern const RegisterExtra keyss_extra;
 const RegisterKind* RegisterPage_Kind(); // null: no page of ours is open
 const RegisterLine& RegisterPage_Line(); // of the register at the cursor
 int RegisterPage_Region();               // that the list shows: row of the kind's regions
+int RegisterPage_Number();               // of the register at the cursor, as the operator counts
 // An attribute of each run of selected registers of the list, in all selected regions; nothing for
 // a locked register at the cursor.
 void RegisterPage_PutAttribute(const char* path, const char* value);

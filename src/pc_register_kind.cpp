@@ -69,6 +69,7 @@ static int group_effect_ex()
 #define MASTER_TL_HEAD "Effect@Master Timeline@"
 #define EFFECT_HEAD "Effect@Effect@"
 #define SHOTBOX_HEAD "Shotbox@Register@"
+#define MACRO_HEAD "Macro@Register@"
 
 static constexpr RegisterCommands snapshot_commands = {
     .recall = SS_HEAD "Recall",
@@ -145,6 +146,11 @@ static constexpr RegisterCommands shotbox_commands = {
     .edit_recall = SHOTBOX_HEAD "Store/Recall@Edit@Recall",
     .edit_store = SHOTBOX_HEAD "Store/Recall@Edit@Store",
     .current = SHOTBOX_HEAD "Store/Recall@Current Register"};
+static constexpr RegisterCommands macro_commands = {.lock = MACRO_HEAD "Lock@Lock",
+                                                    .remove = MACRO_HEAD "Delete@Delete",
+                                                    .rename = MACRO_HEAD "Rename@Rename",
+                                                    .copy = RUNS(MACRO_HEAD "Copy@Copy", nullptr),
+                                                    .list = MACRO_HEAD "List"};
 #undef RUNS
 #undef SNAPSHOT_COMMANDS
 
@@ -304,6 +310,19 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .columns = shotbox_columns,
      .dual_columns = name_dual_columns,
      .delete_title = "Shotbox Delete"},
+    {.kind = REGKIND_MACRO,
+     .word = "Register",
+     .page = 0x54100000,
+     .mirror = REGISTER_MACRO,
+     .registers = REGISTERS_MACRO,
+     .fixed_mask = 0x0000100000000000, // the panel's bit, not that of the effects of macros
+     .mask = REGMASK_WIDE,
+     .commands = &macro_commands,
+     .setdata = macro_setdata,
+     .columns = keyss_columns,
+     .dual_columns = name_dual_columns,
+     .delete_title = "Macro Delete",
+     .copy_title = "Macro Copy"},
 };
 
 static constexpr int WidthOf(const RegisterColumn* columns)
@@ -319,7 +338,7 @@ static constexpr bool KindsAreSound()
     for (int i = 0; i < REGKINDS; i++) {
         const RegisterKind& k = register_kinds[i];
         if (k.kind != i || k.registers > register_mirrors[k.mirror].registers ||
-            (k.regions != nullptr) != (k.mask != REGMASK_NONE) ||
+            (k.regions != nullptr || k.fixed_mask != 0) != (k.mask != REGMASK_NONE) ||
             (k.regions != nullptr) != (k.group != nullptr))
             return false;
         if (WidthOf(k.columns) > SINGLE_PX || WidthOf(k.dual_columns) != DUAL_PX)
@@ -395,7 +414,7 @@ int RegisterKind_SelectorRow(const RegisterKind& kind, int region)
 
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind)
 {
-    uint64_t mask = 0;
+    uint64_t mask = kind.fixed_mask;
     for (int i = 0; kind.regions && kind.regions[i].id != 0; i++)
         if (PaneRegion_IsSelected(kind.group(), kind.regions[i].id))
             mask |= kind.regions[i].bitmap;

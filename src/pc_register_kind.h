@@ -25,11 +25,12 @@ enum REGKIND : int { // rows of register_kinds; in the argument of the page code
     REGKIND_EFF300,
     REGKIND_EFFECT_EX,
     REGKIND_SHOTBOX,
+    REGKIND_MACRO,
     REGKINDS,
 };
 
 enum REGMASKFORM : int {
-    REGMASK_NONE,   // the kind has no regions: a command begins with the number
+    REGMASK_NONE,   // a command begins with the number
     REGMASK_NARROW, // "%X"; "%x" in a recall
     REGMASK_WIDE,   // "%08X%08X", the high word first
 };
@@ -69,6 +70,7 @@ struct RegisterKind {
     int registers = REGISTERS;         // that the operator sees; at most those of the mirror
     int first_number = 1;              // of register 0
     const SSREGION* regions = nullptr; // null: none
+    uint64_t fixed_mask = 0;           // of a kind without regions whose commands bear a mask
     int (*group)() = nullptr;          // selector of the regions, by what this system has
     bool has_dme_groups = false;       // the rows of the mirror are groups of channels
     REGMASKFORM mask = REGMASK_NONE;
@@ -81,6 +83,7 @@ struct RegisterKind {
     const RegisterColumn* columns = nullptr;      // of a list over the whole width
     const RegisterColumn* dual_columns = nullptr; // of one of two
     const char* delete_title = "";
+    const char* copy_title = nullptr; // null: a copy over data asks nothing
 };
 extern const RegisterKind register_kinds[REGKINDS];
 
@@ -101,7 +104,8 @@ void RegisterKind_Path(const RegisterKind& kind, const char* pattern, int region
                        int size);
 // The region that stands for this one in the selector: a group of channels has its first one there.
 int RegisterKind_SelectorRow(const RegisterKind& kind, int region);
-// The bits of all regions that are selected in the kind's selector; 0 for none.
+// The bits of all regions that are selected in the kind's selector; 0 for none. The fixed mask of a
+// kind without regions.
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind);
 // Place of the reference in the region table. Without a reference: of the first selected region,
 // else 0.
@@ -112,7 +116,7 @@ int RegisterKind_RegionExist(const RegisterKind& kind, int id, int no);
 bool RegisterKind_HasSubSides(); // some bank runs two programs
 bool RegisterKind_IsInUse(const RegisterKind& kind, int region);
 
-// --- Commands. mask is ignored by a kind without regions, as is a command that it does not have.
+// --- Commands. mask is ignored by a kind without masks, as is a command that it does not have.
 // Numbers count from 1 as the operator sees them. A mask of 0 is sent: the server ignores it. ---
 void RegisterCmd_Recall(const RegisterKind& kind, uint64_t mask, int number);
 void RegisterCmd_Store(const RegisterKind& kind, uint64_t mask, int number);

@@ -269,3 +269,14 @@ int shotbox_setdata(const RegisterKind& kind, const char* text, RegisterLine* li
         CopyText(line->attri, "On");
     return index;
 }
+
+// Number, status, name, lock, and two more that no column shows.
+int macro_setdata(const RegisterKind& kind, const char* text, RegisterLine* line)
+{
+    constexpr int FIELDS = 4;
+    Fields f;
+    const int index = split(f, text, FIELDS) ? begin_line(kind, f.v[0], f.v[2], line) : -1;
+    if (index >= 0)
+        set_status(line, *f.v[1] == 'E' || *f.v[1] == 'e', *f.v[3] == 'L');
+    return index;
+}

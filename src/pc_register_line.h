@@ -47,6 +47,7 @@ int wipess_setdata(const RegisterKind& kind, const char* text, RegisterLine* lin
 int effect_setdata(const RegisterKind& kind, const char* text, RegisterLine* line); // all effects
 int master_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
 int shotbox_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
+int macro_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
 // What the mirror adds to a line.
 void snapshot_complete(int row, int no, RegisterLine* line); // hold, flags and clip of the region
 void effect_complete(int row, int no, RegisterLine* line);

@@ -1,4 +1,4 @@
-// machines: the first pages of router, external devices and macros.
+// machines: the first pages of router and external devices.
 #pragma once
 #include "rows.h"
 
@@ -52,23 +52,6 @@ inline constexpr BT_TBL bt_device_vtr[] = {
 };
 static_assert(ButtonsAreSound(bt_device_vtr));
 
-inline constexpr BT_TBL bt_macro[] = {
-    Action(     {.id = 17, .caption = "Recall", .group = "Register", .cmd = {"~@Recall#*"}}),
-    Action(     {.id = 18, .caption = "Store", .group = "Register", .cmd = {"~@Store#*"}}),
-    Action(     {.id = 19, .caption = "Undo", .group = "Register", .cmd = {"~@Undo#*"}}),
-    Toggle(     {.id = 20, .caption = "Pre\nMacro", .group = "Attachment", .cmd = {"~@Pre Macro#*"}}),
-    Toggle(     {.id = 21, .caption = "Post\nMacro", .group = "Attachment", .cmd = {"~@Post Macro#*"}}),
-    Toggle(     {.id = 33, .caption = "Take", .group = "Execute", .cmd = {"~@Take#*"}}),
-    Toggle(     {.id = 34, .caption = "Auto", .group = "Execute", .cmd = {"~@Auto#*"}}),
-    Toggle(     {.id = 35, .caption = "Step", .group = "Execute", .cmd = {"~@Step#*"}}),
-    Action(     {.id = 49, .caption = "Insert", .group = "Edit", .cmd = {"~@Insert#*"}}),
-    Action(     {.id = 50, .caption = "Modify", .group = "Edit", .cmd = {"~@Modify#*"}}),
-    Action(     {.id = 51, .caption = "Delete", .group = "Edit", .cmd = {"~@Delete#*"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_macro));
-
 inline constexpr BT_TBL bt_router_top[] = {
     Jump(       {.id = 17, .caption = "Control", .group = "Router", .cmd = {"#51110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
@@ -105,5 +88,4 @@ inline constexpr PAGE machines_pages[] = {
     {.id = 0x51110000, .tree = {"Router", "Control"}, .obj = {Base(base_main), Buttons(bt_router)}},
     {.id = 0x52100000, .tree = {"SP"}, .obj = {Base(base_main), Buttons(bt_sp)}},
     {.id = 0x53210000, .tree = {"Device", "VTR", "Control"}, .obj = {Base(base_main), Buttons(bt_device_vtr)}},
-    {.id = 0x54100000, .tree = {"Macro"}, .obj = {Base(base_main), Buttons(bt_macro)}},
 };

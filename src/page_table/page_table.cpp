@@ -16,6 +16,7 @@
 #include "keyframe.h"
 #include "keyframe_path.h"
 #include "machines.h"
+#include "macro_pages.h"
 #include "me_dmewipe.h"
 #include "me_key_dmewipe.h"
 #include "me_key_edge.h"
@@ -77,6 +78,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 effect_sub_pages,
                 shotbox_register_pages,
                 shotbox_sub_pages,
+                macro_register_pages,
                 system_pages,
                 diag_pages,
                 install_pages,

@@ -157,6 +157,14 @@ template <size_t N> constexpr auto RegisterRows(const RegisterGroup (&groups)[N]
     return rows;
 }
 
+// A group of which only some shapes have a page.
+template <size_t N> constexpr auto RegisterRows(const RegisterGroup& group, const REGSHAPE (&shapes)[N])
+{
+    std::array<PAGE, N> rows{};
+    for (size_t i = 0; i < N; i++) rows[i] = RegisterPage(group, shapes[i]);
+    return rows;
+}
+
 // --- The overview of a menu ---
 #define REG_STATUS_KEYS(menu) {                                                                                         \
     Action({.id = 49, .caption = "Recall", .cmd = {menu "Recall@Recall"}}),                                             \
