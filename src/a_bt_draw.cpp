@@ -315,11 +315,11 @@ static bool is_empty_pull_down(const BT_MEM* b)
 static void draw_empty_pull_down(const BT_MEM* b, SDL_Surface* shape)
 {
     constexpr unsigned char OUTLINE = 126; // of 255: 0x34393C on black
-    constexpr unsigned PLATE = 0x1A1D1F;
+    constexpr unsigned DEAD_PLATE = 0x1A1D1F;
     TDL_FillRectS(b->x1, b->y1, b->x2, b->y2, BLACK);
     TDL_PutAS(b->x1, b->y1, shape, OUTLINE);
     for (int in = 2; in <= 4; in++) // its corners are round
-        TDL_FillRectS(b->x1 + in, b->y1 + 6 - in, b->x2 - in, b->y2 - 6 + in, PLATE);
+        TDL_FillRectS(b->x1 + in, b->y1 + 6 - in, b->x2 - in, b->y2 - 6 + in, DEAD_PLATE);
 }
 
 static void draw_face(const BT_MEM* b, const Chosen& c)

@@ -166,7 +166,7 @@ class MixEffect(DeskCase):
         for button in lost:
             self.assertFalse(any(b"".join(self.desk.part(*face(button)))), button)
         self.touch(19)
-        self.assertEqual([line for line in self.desk.wire() if line.startswith("put")], [])
+        self.assertEqual([line for line in self.desk.wire() if line.startswith("put M/E")], [])
         self.touch(18, "put M/E-1@Key3@Type@Key Type#Linear")
 
 
