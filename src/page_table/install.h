@@ -66,7 +66,7 @@ extern const PC_TBL pc_engsetup_system_install_newinstall; // pc_install.cpp
 inline constexpr PAGE install_pages[] = {
     {.id = 0x73160000, .tree = {"Engineering Setup", "System", "Install"}, .obj = {Base(base_main), LeftTabs(vf_setup, 1), BottomTabs(hf_setup_system, 6), Buttons(bt_install_top)}},
     {.id = 0x73160010, .tree = {"Engineering Setup", "System", "New Install"},
-     .obj = {Base(base_main), Buttons(bt_newinstall), Lists(ls_newinstall), Code(pc_engsetup_system_install_newinstall)}},
+     .obj = {Base(base_main), LeftTabs(vf_setup, 1), BottomTabs(hf_setup_system, 6), Buttons(bt_newinstall), Lists(ls_newinstall), Code(pc_engsetup_system_install_newinstall)}},
     {.id = 0x73160005, .tree = {"Engineering Setup", "System", "Texture Package"},
-     .obj = {Base(base_main), Buttons(bt_texture_package), Lists(ls_texture_package), Code(pc_texture_package)}},
+     .obj = {Base(base_main), LeftTabs(vf_setup, 1), BottomTabs(hf_setup_system, 6), Buttons(bt_texture_package), Lists(ls_texture_package), Code(pc_texture_package)}},
 };
