@@ -180,6 +180,7 @@ struct QUEUE {
     int checking = 0;                     // status 131
     int in_flight = 0;                    // REQ or EXEC
     uint32_t flight[FILE_IN_FLIGHT] = {}; // labels of staged items under way, 0 free
+    const char* title = nullptr;          // of its pane, null: it opens none
     int sync_pid = 0;                     // all done, this child writes the drives; 0 none
     struct FILECOUNT* scp = nullptr;      // remote copies: the same by target and category
 };

@@ -101,9 +101,8 @@ void file_pane_tick()
     const QUEUE* job = bkgd_job();
     if (!job || !BkgdFileTransfer_Check(GL_NowPage))
         return;
-    const char* title = file_work(job->worktype)->pane;
     constexpr int cancel = 1;
-    const int pane = PaneProgress_RestoreCreate(title ? title : "Transfer", "", cancel);
+    const int pane = PaneProgress_RestoreCreate(job->title ? job->title : "Transfer", "", cancel);
     if (pane != 0)
         BkgdFileTransfer_ReplacePaneID(pane);
 }
@@ -159,6 +158,7 @@ void file_pane_open(QUEUE* job, const char* title, bool has_cancel)
 {
     if (!title || job->paneid != 0)
         return;
+    job->title = title;
     job->paneid = PaneProgress_Create(title, "", has_cancel);
     if (!has_copy())
         return;

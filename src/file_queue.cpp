@@ -255,6 +255,7 @@ void file_finish(QUEUE* job)
 {
     const uint32_t label = job->label;
     const FILEWORKTYPE type = job->worktype;
+    const char* title = job->title ? job->title : "Transfer";
     FILEXFERLIST** list = job->xferlist;
     int pane = job->paneid;
     char failures[FAILURES_SIZE];
@@ -272,9 +273,8 @@ void file_finish(QUEUE* job)
         (void)Pane_Quit(pane); // gone when the operator cancelled
     queue_remove(label);
     file_wake_thumbnails(type);
-    const char* title = file_work(type)->pane;
     if (has_failed && !is_told)
-        (void)PaneMessage_Create(title ? title : "Transfer", PANE_ALERT, failures);
+        (void)PaneMessage_Create(title, PANE_ALERT, failures);
 }
 
 // --- Commands ---

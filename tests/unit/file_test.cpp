@@ -1,6 +1,7 @@
 #include "access.h"
 #include "file_page.h"
 #include "page.h"
+#include "pane_private.h"
 #include <chrono>
 
 constexpr char ROW_DATE[] = "Wed Nov 25 09:20:08 2026";
@@ -451,7 +452,7 @@ TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
     Fill(4);
     GL_NowPage = 0x71210000;
     BkgdFileTransfer_Set(0x71210000, 1);
-    File_ExecCopyList(&list, List, 0);
+    MM_File_ExecCopyList(&list, List, 0, 1); // with a title of its own
     const int first = QueueRoot->paneid;
     BkgdFileTransfer_PaneQuit();
     EXPECT_FALSE(Pane_Exist(first));
@@ -465,7 +466,8 @@ TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
     EXPECT_EQ(Pane_GetActiveID(), 0) << "the page is not painted yet";
     SendMessage(MSG_REDRAW, 10, 0, 0, 0);
     const int second = QueueRoot->paneid;
-    EXPECT_TRUE(Pane_Exist(second));
+    ASSERT_TRUE(Pane_Exist(second));
+    EXPECT_STREQ(pane_find(second)->caption, "Transfer");
     EXPECT_EQ(BkgdFileTransfer_PaneRestore(), second);
     SendMessage(LMSG_PANEQUIT, second, 1, 0, 0);
     EXPECT_EQ(told.size(), 1u) << "cancelled from the pane that came back";
