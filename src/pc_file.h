@@ -28,6 +28,7 @@ struct FILECELL {
     int disable = 0;          // its region is not selected
     int lock = 0;             // the register is locked
     int hidden = 0;           // its unit is not there
+    int odd = 0;              // its file is called as the side remembers it, 0: as info2name says
     FILECELL* next = nullptr; // of the row, by main and sub
 };
 

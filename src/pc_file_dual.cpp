@@ -314,7 +314,8 @@ static int add_cell(int from, int to, const FILECELL& cell, int target_no)
     char dst_path[FILE_PATH_SIZE];
     char target[32];
     FILEINFO info = FileSide_Info(from, cell, -1);
-    if (path_of(from, info, src_path) != 0)
+    if ((src.device == FILE_REGISTER ? path_of(from, info, src_path)
+                                     : FileSide_Path(from, cell, src_path, sizeof src_path)) != 0)
         return -1;
     info.no = target_no;
     CopyText(info.folder, FileSide_Info(to, cell, -1).folder);
@@ -349,8 +350,10 @@ static int next_empty(FrameTargets& t, const FILECELL& cell)
 static void add_frame_load(int from, int to, const FILECELL& cell, int no, FrameTargets& t,
                            Skipped& skipped)
 {
-    const int had = FMCtrl2_GetRegIndex(cell.name);
-    if ((had >= 0 && (fd.kind->has_folders || had != no)) || !t.names.insert(cell.name).second) {
+    char name[FMEM_NAME_SIZE]; // that it will have
+    fname2dispname(cell.name, name, sizeof name);
+    const int had = FMCtrl2_GetRegIndex(name);
+    if ((had >= 0 && (fd.kind->has_folders || had != no)) || !t.names.insert(name).second) {
         skipped.is_duplicate = true;
         return;
     }
@@ -541,7 +544,7 @@ static void gather_files(const char* new_name)
             char new_path[FILE_PATH_SIZE] = "";
             FILEINFO info = FileSide_Info(SIDE_C, *cell, -1);
             if (!FileSide_InView(*cell) ||
-                info2name(info, old_path, where.device, where.dir, sizeof old_path) != 0)
+                FileSide_Path(SIDE_C, *cell, old_path, sizeof old_path) != 0)
                 continue;
             if (new_name) {
                 if (!name_for(*cell, new_name, info.name) ||

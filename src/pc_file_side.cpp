@@ -18,6 +18,7 @@ constexpr int CELLS_MAX = 2 * 5662;
 constexpr int FOLDER_ROWS = 44;
 constexpr int ROWS_MAX = FOLDER_ROWS + CELLS_MAX;
 static_assert(ROWS_MAX <= LS_ROWS);
+constexpr int ODD_MAX = 200; // files that are called a little otherwise than the panel calls them
 constexpr int NOT_SEARCHING = 0;
 constexpr char BEHIND_MARK[] = "       "; // where the list has the mark of a folder
 
@@ -41,6 +42,8 @@ struct Side {
     FILECELL cell[CELLS_MAX]; // of row r and place p at r * places + p; without an id it is free
     bool used[CELLS_MAX];
     char no_text[ROWS_MAX][8];
+    char odd[ODD_MAX][PATH_SIZE]; // with the host
+    int odds = 0;
 
     // Of a kind with folders. Its cells stand one after the other, in the order of their rows.
     bool has_folder_rows = false;
@@ -181,6 +184,13 @@ static bool has_folders(const Side& s)
 static bool is_drive(const Side& s)
 {
     return s.memory->side.device != FILE_REGISTER;
+}
+
+// In which folder of a directory the side's files are; "" for a kind without folders.
+static const char* folder_of(const Side& s)
+{
+    const char* const folder = s.memory->folder;
+    return !has_folders(s) ? "" : *folder ? folder : FRAME_FOLDER_DEFAULT;
 }
 
 static int first_frame_row(const Side& s)
@@ -367,7 +377,30 @@ static void found_folder(uint32_t label, int tag, const char* path, const char* 
 
 // --- A drive ---
 
-static void found_frame(Side& s, const FILEINFO& info, const char* time)
+// Of a file from elsewhere a name may be too long for a register, or have a character that is
+// replaced. What a list shows must be found again: its path is kept. -1: there is no room, or it
+// does not lie where the files of the side are.
+static int odd_path(Side& s, const FILEINFO& info, const char* path)
+{
+    static constexpr char host[] = "MYHOST:";
+    char rebuilt[FILE_PATH_SIZE];
+    char root[PATH_SIZE];
+    const FILESIDE& where = s.memory->side;
+    const char* const local = BeginsWith(path, host) ? path + sizeof host - 1 : path;
+    if (info2name(info, rebuilt, where.device, where.dir, sizeof rebuilt) != 0)
+        return -1;
+    if (strcmp(BeginsWith(rebuilt, host) ? rebuilt + sizeof host - 1 : rebuilt, local) == 0)
+        return 0;
+    const bool is_root = File_DirPath(root, sizeof root, where.device, where.dir);
+    if (!is_root || !BeginsWith(root, host) || !BeginsWith(local, root + sizeof host - 1))
+        return 0; // told in a way of the server's own
+    if (strstr(local, "/../") || strchr(local, ',') || s.odds == ODD_MAX ||
+        PrintText(s.odd[s.odds], "%s%s", host, local) >= PATH_SIZE)
+        return -1;
+    return ++s.odds;
+}
+
+static void found_frame(Side& s, const FILEINFO& info, const char* time, int odd)
 {
     constexpr size_t DAY = 11; // "Nov.25.2026": the column has no room for more
     FILECELL cell = {.main = info.main,
@@ -375,18 +408,19 @@ static void found_frame(Side& s, const FILEINFO& info, const char* time)
                      .no = info.no,
                      .device = info.device,
                      .board = info.device >= FILE_WHOLE_ID,
-                     .is_ancillary = info.is_ancillary};
+                     .is_ancillary = info.is_ancillary,
+                     .odd = odd};
     CopyText(cell.name, info.name);
     strncpy_secu(cell.time, time, sizeof cell.time, DAY);
     add_frame(s, cell);
 }
 
-static void found_register(Side& s, const FILEINFO& info, const char* time)
+static void found_register(Side& s, const FILEINFO& info, const char* time, int odd)
 {
     const int p = place_of(s, info.main, info.sub);
     if (p < 0 || info.no >= s.rows)
         return;
-    FILECELL cell = {.device = info.device, .board = info.device >= FILE_WHOLE_ID};
+    FILECELL cell = {.device = info.device, .board = info.device >= FILE_WHOLE_ID, .odd = odd};
     CopyText(cell.name, info.name);
     CopyText(cell.time, time);
     cell_add(s, info.no, p, cell);
@@ -406,8 +440,13 @@ static void find_tly(uint32_t label, int tag, const char* path, const char* cons
         return;
     }
     FILEINFO info = {.grp = s.grp};
-    if (name2info(path, &info) == 0)
-        (has_folders(s) ? found_frame : found_register)(s, info, pair && pair[1] ? pair[1] : "");
+    if (name2info(path, &info) != 0)
+        return;
+    CopyText(info.folder, folder_of(s));
+    const int odd = odd_path(s, info, path);
+    if (odd >= 0)
+        (has_folders(s) ? found_frame : found_register)(s, info, pair && pair[1] ? pair[1] : "",
+                                                        odd);
 }
 
 // Nobody waits for its rows any more, and a server that never answers keeps no job alive.
@@ -426,6 +465,7 @@ static void forget_search(Side& s)
 
 static void search(Side& s, const char* path)
 {
+    s.odds = 0;
     const int label = File_ExecFind(path, "*.*.*", find_tly, int(&s - sides));
     if (label > 0)
         s.search = uint32_t(label);
@@ -652,9 +692,18 @@ FILEINFO FileSide_Info(int n, const FILECELL& cell, int no)
     info.no = no >= 0 ? no : cell.no;
     info.is_ancillary = cell.is_ancillary;
     CopyText(info.name, cell.name);
-    if (has_folders(s))
-        CopyText(info.folder, *s.memory->folder ? s.memory->folder : FRAME_FOLDER_DEFAULT);
+    CopyText(info.folder, folder_of(s));
     return info;
+}
+
+int FileSide_Path(int n, const FILECELL& cell, char* path, int size)
+{
+    const Side& s = sides[n];
+    const FILESIDE& where = s.memory->side;
+    if (cell.odd == 0)
+        return info2name(FileSide_Info(n, cell, -1), path, where.device, where.dir, size);
+    ktr_strncpy(path, s.odd[cell.odd - 1], size_t(size));
+    return 0;
 }
 
 int FileSide_FolderId(int n)

@@ -90,6 +90,30 @@ TEST_F(FramePage, LoadTakesEmptyRegistersAndPutsThemIntoTheFolder)
     EXPECT_THAT(sent, Contains("put 16@Frame Mem@Folder@Move Still#0,Mnew,3"));
 }
 
+// A computer has named these: the file is what was found, the register gets what it can have.
+TEST_F(FramePage, PicturesFromElsewhereAreFoundAgain)
+{
+    Store({"Mold_name"});
+    const Lines files = {OnDrive("FMEMFOL/DEFAULT/SWR000D001/My background.FMEM_7.SFM"),
+                         OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mold name.FMEM_008.SFM")};
+    Answer(Open(NEW), "Access@Find", files);
+    EXPECT_THAT(Rows(2), ElementsAre("7 My background", "8 Mold name"));
+    Select(2, {1, 2});
+    const Lines sent = Run(Press(BTN_FILE_R_TO_L));
+    EXPECT_THAT(sent, Contains(HasSubstr("Compress#")).Times(1));
+    EXPECT_THAT(sent, Contains(HasSubstr("," + files[0] + ",")));
+    EXPECT_THAT(sent, Contains(HasSubstr(",SWR001D001:My_backgr.FMEM_002.SF2")));
+    EXPECT_EQ(Message(), DUPLICATE);
+    Quit(1);
+    Press(BTN_FILE_DETAIL_B);
+    EXPECT_EQ(CreatePage(NEW + 1), 0);
+    Answer(TakeQueuedCommands(), "Access@Find", files);
+    Select(1, {1});
+    Pass(1000);
+    Press(BTN_FILE_DELETE);
+    EXPECT_THAT(Quit(1), Contains(testing::EndsWith("," + files[0])));
+}
+
 TEST_F(FramePage, FullStoreSaysSo)
 {
     for (int i = 0; i < 300; i++)
