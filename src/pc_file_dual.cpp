@@ -44,6 +44,7 @@ struct Skipped {
     bool is_locked = false;    // a region of the setup
     bool is_duplicate = false; // another register has the name
     bool is_full = false;      // no empty register
+    bool is_beyond = false;    // the other list ends before
 };
 
 // Frame memory: where the next load goes, and the names that loads have.
@@ -380,6 +381,14 @@ static void add_row(int from, int to, const FILELIST& row, int no, FrameTargets&
     }
 }
 
+static const FILECELL* first_in_view(const FILELIST& row)
+{
+    const FILECELL* cell = row.cell;
+    while (cell && !FileSide_InView(*cell))
+        cell = cell->next;
+    return cell;
+}
+
 // The selected rows of one side go to the other from its first selected row on, with the gaps that
 // they have. Where rows are no numbers, all that is selected goes.
 static Skipped gather(int from, int to)
@@ -389,8 +398,12 @@ static Skipped gather(int from, int to)
     FrameTargets targets;
     for (int i = 0, no; (no = LS_GetSelected(list_of(from), i)) >= 0; i++) {
         const FILELIST* const row = FileSide_Row(from, no);
-        if (row && (fd.kind->has_folders || FileSide_Row(to, no + shift)))
+        if (!row || !first_in_view(*row))
+            continue;
+        if (fd.kind->has_folders || FileSide_Row(to, no + shift))
             add_row(from, to, *row, no + shift, targets, skipped);
+        else
+            skipped.is_beyond = true;
     }
     return skipped;
 }
@@ -409,6 +422,9 @@ static int move_selected(int from, int to)
 
 static void tell_skipped(const Skipped& skipped)
 {
+    if (skipped.is_beyond)
+        PaneMessage_Create("File", PANE_ALERT,
+                           "Some requests are skipped. \nThe target list ends before them.");
     if (skipped.is_full)
         PaneMessage_Create(FRAME_TITLE, PANE_ALERT,
                            "Some requests are skipped. \nThere is no empty register left.");
@@ -575,14 +591,6 @@ static int single_rename_exec(const char* text)
         return -1;
     gather_files(name);
     return File_ExecMoveList(&visit().list, single_result, fd.kind->page) < 0 ? -1 : 0;
-}
-
-static const FILECELL* first_in_view(const FILELIST& row)
-{
-    const FILECELL* cell = row.cell;
-    while (cell && !FileSide_InView(*cell))
-        cell = cell->next;
-    return cell;
 }
 
 static int single_rename_sel()

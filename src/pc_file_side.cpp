@@ -392,6 +392,7 @@ static int odd_path(Side& s, const FILEINFO& info, const char* path)
     if (strcmp(BeginsWith(rebuilt, host) ? rebuilt + sizeof host - 1 : rebuilt, local) == 0)
         return 0;
     const bool is_root = File_DirPath(root, sizeof root, where.device, where.dir);
+    AppendText(root, "/");
     if (!is_root || !BeginsWith(root, host) || !BeginsWith(local, root + sizeof host - 1))
         return 0; // told in a way of the server's own
     if (strstr(local, "/../") || strchr(local, ',') || s.odds == ODD_MAX ||

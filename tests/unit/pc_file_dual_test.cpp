@@ -3,6 +3,7 @@
 #include "err.h"
 #include "file_scp.h"
 #include "pane.h"
+#include "pane_private.h"
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
 #include "register.h"
@@ -117,6 +118,28 @@ TEST_F(FileDualPage, SaveGoesFromTheFirstSelectedRowOfTheTarget)
     EXPECT_EQ(item->next->dst, Drive("SNAPSHOT/SWR000D001/ME1/CLOSE.ME1_011.SSS"));
     EXPECT_FALSE(item->next->next);
     EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 1);
+}
+
+TEST_F(FileDualPage, WhatHasNoRowAtTheOtherSideIsSaid)
+{
+    Open(SNAPSHOT_PAGE);
+    LS_SetMS(1, 1);
+    LS_SetSelected(1, 0, 0, 0);
+    for (const int no : {2, 3, 50}) // 50 is empty
+        LS_SetSelected(1, no, 0, 1);
+    LS_SetNowLine(2, 98);
+    Press(BTN_FILE_L_TO_R);
+    Pane_Quit(Pane_GetActiveID()); // the progress of row 3
+    ASSERT_NE(pane_top(), nullptr);
+    EXPECT_THAT(pane_text_in_view(pane_top()), HasSubstr("target list ends"));
+    while (Pane_GetActiveID())
+        Pane_Quit(Pane_GetActiveID());
+    FileDual_Reset();
+    Open(SNAPSHOT_PAGE);
+    LS_SetNowLine(1, 2);
+    Press(BTN_FILE_L_TO_R);
+    Pane_Quit(Pane_GetActiveID());
+    EXPECT_EQ(pane_top(), nullptr);
 }
 
 // The page is left in the middle and comes back to the pane; at the end all is read anew.
