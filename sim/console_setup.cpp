@@ -27,9 +27,18 @@ static bool con_4k(Runner&, const std::string& rest)
     return true;
 }
 
+static bool con_config(Runner&, const std::string& rest)
+{
+    if (rest != "ng")
+        return false;
+    Setup_NextNg();
+    return true;
+}
+
 static constexpr Command commands[] = {
     {"keys", "M/E-1 4|8", "how many keys the bank has", con_keys},
     {"multi", "BANK|all on|off", "a bank runs two programs: main and sub side", con_multi},
     {"4k", "on|off", "the picture format", con_4k},
+    {"config", "ng", "the next Define or Auto Config of the network fails", con_config},
 };
 constinit const std::span<const Command> console_setup_commands = commands;

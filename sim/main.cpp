@@ -10,6 +10,7 @@
 #include "lay.h"
 #include "link.h"
 #include "log.h"
+#include "setup.h"
 #include "system.h"
 #include "text.h"
 #include "timeline.h"
@@ -109,7 +110,7 @@ static void main_turn(int64_t* next)
     *next = Console_Tick(then);
     *next = std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
                       Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then),
-                      FileJob_Tick(then), Hub_Tick(then), Autoload_Tick(then)});
+                      FileJob_Tick(then), Hub_Tick(then), Autoload_Tick(then), Setup_Tick(then)});
 }
 
 int main(int argc, char** argv)

@@ -9,6 +9,7 @@
 #include "log.h"
 #include "region.h"
 #include "rules.h"
+#include "setup.h"
 #include "store.h"
 #include "stream.h"
 #include "text.h"
@@ -272,6 +273,7 @@ void System_Install()
     Dissolve_Install();
     Dme_Install();
     Rules_Install();
+    Setup_Install();
     Diag_Install();
 }
 

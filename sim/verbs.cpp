@@ -7,6 +7,7 @@
 #include "link.h"
 #include "log.h"
 #include "rules.h"
+#include "setup.h"
 #include "store.h"
 #include "system.h"
 #include "text.h"
@@ -88,6 +89,7 @@ static constexpr Owner owners[] = {
     {"Macro@", Store_Put},
     {"Register@All Delete@", Store_Put},
     {"MPE@Fx@Channel@Reference", System_PutMpe},
+    {"Engineering Setup@System@", Setup_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };

@@ -146,11 +146,20 @@ static void add_item(const SETUPMENU& menu)
                    OPE_LOCK_ROWS, menu.page);
         return;
     }
-    const int row = sl.rows++;
-    SetupOpeLock[row] = {menu.lock, menu.page};
-    (void)LS_SetData(LIST, row, COL_MENU, menu.menu);
-    (void)LS_SetData(LIST, row, COL_GROUP, group_names[VFGroupSel]);
-    (void)LS_SetData(LIST, row, COL_NAME, menu.name);
+    SetupOpeLock[sl.rows++] = {menu.lock, menu.page};
+}
+
+// By their numbers, as an operator looks for them.
+static void show_items()
+{
+    std::sort(SetupOpeLock, SetupOpeLock + sl.rows,
+              [](const SETUPLOCKITEM& a, const SETUPLOCKITEM& b) { return a.page < b.page; });
+    for (int row = 0; row < sl.rows; row++) {
+        const SETUPMENU* menu = menu_of(row);
+        (void)LS_SetData(LIST, row, COL_MENU, menu ? menu->menu : nullptr);
+        (void)LS_SetData(LIST, row, COL_GROUP, group_names[VFGroupSel]);
+        (void)LS_SetData(LIST, row, COL_NAME, menu ? menu->name : nullptr);
+    }
 }
 
 static void show_locks()
@@ -176,6 +185,7 @@ static void build_list()
     for (int i = first; i < last; i++)
         if (SetupMenu[i].active && SetupMenu[i].page != PAGE_SETUP_LOCK)
             add_item(SetupMenu[i]);
+    show_items();
     mirror("VF Group", NumStr(VFGroupSel));
     show_locks();
 }

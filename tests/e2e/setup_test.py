@@ -1,0 +1,155 @@
+"""Engineering setup at the desk: a new format up to the restart, another panel's change, locks and their password.
+
+usage: setup_test.py BUILD_DIR [TEST...]
+"""
+import os
+import time
+import unittest
+
+from desk import INITIAL_READ_END, grid
+from deskcase import DeskCase
+
+FORMAT = "Engineering Setup@System@Format@"
+YES, OK = (200 + 97 + 20, 140 + 247 + 15), (200 + 153 + 20, 140 + 247 + 15)
+CHANGED = b"\xff\xff\x00"
+CHANGED_SELECTED = b"\xa0\xe6\x32"
+LETTERS = {c: (row, first + i) for row, (first, keys) in
+           enumerate([(0, "`1234567890-="), (0, "qwertyuiop[]\\"), (0, "asdfghjkl;'"), (2, "zxcvbnm,./")])
+           for i, c in enumerate(keys)}
+
+
+class Setup(DeskCase):
+    def open(self, number):
+        self.desk.console(f"page {number}")
+        time.sleep(0.5)
+        self.desk.wire()
+
+    def push(self, key):
+        self.desk.touch(*grid(key))
+
+    def row(self, n):
+        self.desk.touch(150, 76 + 22 * (n + 1) + 10)
+
+    def popup(self, place, columns, rows):
+        width, height = 78 * columns + 26, 43 * rows + 76
+        self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
+                        300 - height // 2 + 50 + 43 * (place // columns))
+
+    def changes(self):
+        """Cells of the list that differ from what the server has."""
+        pixels = b"".join(self.desk.part(100, 98, 649, 339))
+        triples = {pixels[i:i + 3] for i in range(0, len(pixels), 3)}
+        return CHANGED in triples or CHANGED_SELECTED in triples
+
+    def type(self, text):
+        def key(row, column):
+            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, 0.06)
+        for c in text:
+            if c.isupper():
+                self.desk.touch(100, 391, settle=0.06)  # shift, for one letter
+            key(*LETTERS[c.lower()])
+        key(2, 11.5)
+        time.sleep(0.5)
+
+    def lock_file(self):
+        with open(os.path.join(self.desk.root, "mnt/data/.setuplock"), "rb") as file:
+            data = file.read()
+        self.assertEqual(len(data), 796)
+        return data[:20].split(b"\0")[0].decode(), data[23], data[27]
+
+    def test_1_a_format_is_cleared_then_executed_and_the_units_come_back(self):
+        self.open("7313")
+        self.assertFalse(self.changes())
+        for last in (False, True):
+            self.row(1)
+            self.push(33)
+            self.popup(15, 3, 6)  # 1080P/59.94
+            self.assertTrue(self.changes())
+            self.assertEqual([line for line in self.desk.wire() if line.startswith("put Eng")], [])
+            self.push(54 if last else 53)
+        self.desk.touch(*YES)
+        lines = self.desk.wait_wire(f"put {FORMAT}Video Format@PNL1#29.97/59.94,1080p")
+        self.assertIn(f"put {FORMAT}Video Format2@SWR1#3,6,2", lines)
+        self.assertEqual(self.desk.value("Info@Processor Status@2"), "NG")
+        time.sleep(3.5)
+        self.assertEqual(self.desk.value("Info@Processor Status@2"), "OK")
+        self.assertEqual(self.desk.value(f"{FORMAT}Video Format@DME1"), "29.97/59.94,1080p")
+        self.assertFalse(self.changes())
+        # The pages that this format brings: for two processors, or for one with 3G.
+        self.open("3121")
+        self.assertIsNone(self.desk.app_status())
+
+    def test_2_another_panels_change_leaves_what_is_in_hand(self):
+        self.open("7313")
+        self.row(1)
+        self.push(37)  # 4:3
+        self.assertTrue(self.changes())
+        before = self.desk.part(100, 98, 649, 339)
+        self.desk.console(f"put {FORMAT}Reference@DME1#Tri Sync")
+        time.sleep(0.4)
+        self.assertNotEqual(before, self.desk.part(100, 98, 649, 339), "the other cell follows")
+        self.assertTrue(self.changes())
+        self.open("7314")
+        self.open("7313")
+        self.assertTrue(self.changes(), "the edit outlives the page")
+        self.push(50)
+        self.desk.touch(*YES)
+        self.desk.wait_wire(f"put {FORMAT}Switcher Aspect#SWR1" + ",4:3" * 7)
+        time.sleep(0.3)
+        self.assertFalse(self.changes())
+
+    def test_3_a_locked_page_refuses_also_after_a_restart(self):
+        desk = self.desk
+        self.open("7317.1")
+        desk.touch(150, 76 + 22 * 6 + 10)  # 7313
+        self.push(37)
+        password, lock, count = self.lock_file()
+        self.assertEqual((password, lock, count), ("", 0, 1))
+        self.push(38)
+        self.type("x")
+        desk.touch(*OK)
+        self.assertEqual(self.lock_file()[1], 0)
+        self.push(54)  # a password of 17 characters
+        desk.touch(*YES)
+        self.type("")
+        self.type("abcdefgh123456789")
+        self.type("abcdefgh123456789")
+        desk.touch(*OK)
+        self.assertEqual(self.lock_file()[0], "abcdefgh12345678")
+        self.push(38)
+        self.type("abcdefgh12345678")
+        self.assertEqual(self.lock_file()[1], 1)
+        desk._box("stop", "app")
+        desk.start_app()
+        desk.wait_wire(INITIAL_READ_END, 20)
+        desk.touch(400, 407)
+        self.open("7313")
+        self.row(1)
+        self.push(34)
+        self.assertFalse(self.changes())
+        self.open("7317.1")
+        self.push(38)
+        self.type("QPD7300WREN")
+        self.assertEqual(self.lock_file()[1], 0)
+        self.open("7313")
+        self.row(1)
+        self.push(34)
+        self.assertTrue(self.changes())
+        self.push(53)
+
+    def test_4_define_and_its_failure(self):
+        self.open("7311")
+        for outcome in ("OK", "NG"):
+            if outcome == "NG":
+                self.desk.console("config ng")
+            self.push(50)
+            self.desk.touch(*YES)
+            self.desk.wait_wire("put Engineering Setup@System@Network Config@Define#true")
+            time.sleep(2.2)
+            self.assertEqual(self.desk.value("Engineering Setup@System@Network Config@Define"), outcome)
+        self.desk.touch(*OK)
+        self.assertIsNone(self.desk.app_status())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)
