@@ -121,12 +121,10 @@ static void remove_temporary(const FILEXFERLIST* item)
 
 void file_drop_staged(const FILEXFERLIST* item)
 {
-    const Step* s = find_step(item->usb);
-    if (!s)
-        return;
-    if (s->compose == file_import_step)
+    // Also in the last step: it is the removal itself that is given up.
+    if (strchr(item->tmp, ','))
         file_import_drop_temporaries(item);
-    else
+    else if (item->tmp[0])
         remove_temporary(item);
 }
 

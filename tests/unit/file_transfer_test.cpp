@@ -158,13 +158,14 @@ TEST_F(FileSteps, ACancelLeavesNothingOnTheStagingPaths)
     Ack(1, 21);
     Answer(2, "OK"); // to be copied to the stick
     Answer(3, "OK");
-    Answer(3, "OK"); // it is there: its own command removes what was staged
+    Answer(3, "OK"); // it is there, and what was staged is being removed
     Answer(4, "NG(x)");
     (void)Sent();
     SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
     EXPECT_THAT(Sent(), ElementsAre("put File@Transfer@Cancel#Lx,21",
                                     "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/w.SSS",
-                                    "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/x.SSS"));
+                                    "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/x.SSS",
+                                    "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/y.SSS"));
     EXPECT_EQ(list, nullptr);
 }
 
