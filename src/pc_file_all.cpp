@@ -159,18 +159,17 @@ static void close_preparing()
 }
 
 // What could not be searched is not in the transfer.
-static void tell_unread(const char* title, const bool (&unread)[ALL_ROWS])
+static void tell_unread(const char* title, const bool (&unread)[ALL_ROWS],
+                        const bool (&chosen)[ALL_ROWS])
 {
     char text[CMD_SIZE] = "Following categories could not be read.";
-    bool is_any = false;
     for (int row = 0; row < ALL_ROWS; row++) {
-        if (!unread[row])
-            continue;
-        AppendText(text, "\n  - ");
-        AppendText(text, AllTbl[row].name);
-        is_any = true;
+        AppendText(text, unread[row] ? "\n  - " : "");
+        AppendText(text, unread[row] ? AllTbl[row].name : "");
     }
-    if (is_any)
+    if (std::equal(unread, unread + ALL_ROWS, chosen))
+        CopyText(text, "The directory could not be read.");
+    if (std::count(unread, unread + ALL_ROWS, true) > 0)
         (void)PaneMessage_Create(title, PANE_ALERT, text);
 }
 
@@ -180,7 +179,7 @@ static void end_transfer()
     const auto ended = run;
     run = {};
     if (!ended.is_ftp) {
-        tell_unread(ways[ended.way].title, ended.unread);
+        tell_unread(ways[ended.way].title, ended.unread, ended.chosen);
         return;
     }
     (void)BkgdFileTransfer_Set(0, 0);

@@ -228,7 +228,15 @@ TEST_F(FileAllPage, ACategoryThatCannotBeReadIsSaid)
     ASSERT_TRUE(pane);
     EXPECT_STREQ(pane_text_in_view(pane), "Following categories could not be read.\n"
                                           "  - Wipe Snapshot\n  - Frame Memory");
+    // The stick has been pulled.
+    Answer(1);
     ASSERT_EQ(::system("rm -rf /mnt/data/user/root/SYSTEM"), 0);
+    Select({"WSNAP", "KSNAP"});
+    Pass(1000);
+    (void)Press(BTN_ALL_R_TO_L);
+    (void)Run();
+    ASSERT_TRUE(pane_top());
+    EXPECT_STREQ(pane_text_in_view(pane_top()), "The directory could not be read.");
 }
 
 TEST_F(FileAllPage, AllFourRegionsLockTheSetup)
