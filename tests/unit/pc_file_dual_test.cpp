@@ -39,12 +39,14 @@ struct FileDualPage : TablePage {
         return lines.empty() ? 0 : atoi(lines[0].c_str() + lines[0].find("#L") + 2);
     }
     // The rows of a search, and its end.
-    static void Found(int label, const Lines& paths)
+    static void Found(int label, const Lines& paths,
+                      const std::string& time_of_the_last = "Wed Nov 25 10:30:00 2026")
     {
         const std::string ack = std::to_string(500 + label);
         Tell("File@Access@Find#L" + std::to_string(label) + "," + ack);
         for (const std::string& path : paths)
-            Tell("File@Access@Find@Status#" + ack + "," + path + ",Wed Nov 25 10:30:00 2026");
+            Tell("File@Access@Find@Status#" + ack + "," + path + "," +
+                 (&path == &paths.back() ? time_of_the_last : "Wed Nov 25 10:30:00 2026"));
         Tell("File@Access@Find@Status#" + ack + ",OK");
     }
     static std::string Row(int list, int no)
@@ -82,8 +84,13 @@ TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
           }()),
           {Drive("SNAPSHOT/SWR000D001/ME1/NEWS.ME1_007.SSS"),
            Drive("SNAPSHOT/SWR000D001/ME1/rubbish.txt"),
-           Drive("SNAPSHOT/SWR000D001/ME2/OTHER.ME2_008.SSS")});
+           Drive("SNAPSHOT/SWR000D001/ME2/OTHER.ME2_008.SSS"),
+           Drive("SNAPSHOT/SWR000D001/ME1/NEW.ME1_010.SSS"),
+           Drive("SNAPSHOT/SWR000D001/ME1/OLD.ME1_010.SSS")},
+          "Tue Feb  3 23:59:00 2026");
     EXPECT_EQ(Row(2, 6), "NEWS|Nov.25.2026 10:30");
+    // The register was saved before under another name.
+    EXPECT_EQ(Row(2, 9), "NEW|Nov.25.2026 10:30");
     EXPECT_EQ(Row(2, 7), "|") << "its region is not selected";
     EXPECT_STREQ(LS_GetData(2, 98, COL_NO), "99");
     // A register that comes while the page stands, and one that goes.
