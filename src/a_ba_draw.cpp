@@ -1,7 +1,9 @@
 #include "a_ba_draw.h"
+#include "a_kf.h"
 #include "colours.h"
 #include "global.h"
 #include "graphics.h"
+#include "menu_macro.h"
 #include "page.h"
 #include "pane.h"
 #include "setup_index.h"
@@ -276,10 +278,34 @@ Rect ba_drw_prev()
 
 // --- Top right ---
 
+// Beside the key: what is recorded, or what runs.
+static void draw_menu_macro_state()
+{
+    constexpr int X = 578, FONT = 3, LINE_PX = 19, LETTERS = 30;
+    const MenuMacroDisplay s = mm_display();
+    char text[64];
+    PrintText(text, "Menu Macro#:%d ( %s )", s.reg, s.name);
+    TDL_SymbolS(X, 7, text, FONT, WHITE);
+    PrintText(text, "Evt: %3d/%3d", s.event, s.events);
+    TDL_SymbolS(X, 7 + LINE_PX, text, FONT, WHITE);
+    TDL_SymbolS(X + 125, 7 + LINE_PX, s.is_run ? "Run" : "Edit", FONT, ORANGE);
+    if (s.is_run)
+        PrintText(text, "Remain: %4.2f%%  %.1f Sec", s.remain, s.wait_ms / 1000.0);
+    else
+        PrintText(text, "%.*s", LETTERS, s.command);
+    TDL_SymbolS(X, 7 + 2 * LINE_PX, text, FONT, TEAL);
+}
+
 Rect ba_drw_menu_macro()
 {
+    const bool has_state = !KF_HasTopArea(); // otherwise the strip of the timeline is there
+    const Rect& all = ZONE_TOP_RIGHT;
+    if (has_state)
+        TDL_FillRectS(all.x1, all.y1, all.x2, all.y2, FRAME_GROUND);
     TDL_PutS(513, 6, ba.MM.pushed > 0 ? G_KF_mm_on : G_KF_mm_off);
-    return ZONE_MENU_MACRO;
+    if (has_state)
+        draw_menu_macro_state();
+    return has_state ? all : ZONE_MENU_MACRO;
 }
 
 // How much of a region group is selected, as a colour.

@@ -73,6 +73,7 @@ void KF_InitCommand_MP2();
 // its pushed look; KF_DRAW_ANEW paints it whatever it shows.
 void KF_DrawTopArea(int pushed);
 constexpr int KF_DRAW_ANEW = 777;
+bool KF_HasTopArea(); // false where the page has something else there
 
 // --- The regions, by index; out of bounds gives what the comment says ---
 int KF_IsRegionSelected(int region);             // 0

@@ -38,7 +38,7 @@ static struct {
 
 // While a menu macro is recorded its keys are there, but on the pages where there is none to
 // record.
-static bool has_strip()
+bool KF_HasTopArea()
 {
     if (GL_AllPageDisplayMode)
         return false;
@@ -113,7 +113,7 @@ static void draw_strip(const KF_REGION& r)
 
 void KF_DrawTopArea(int pushed)
 {
-    if (!has_strip())
+    if (!KF_HasTopArea())
         return;
     const bool is_anew = pushed == KF_DRAW_ANEW;
     const bool is_pushed = !is_anew && pushed > 0;

@@ -1,30 +1,13 @@
 #include "pc_file_kind.h"
 #include "fmctrl.h"
-#include "menu_macro.h"
 #include "netio.h"
 #include "pane.h"
 #include "text.h"
 #include <cstring>
-#include <unistd.h>
 
 #include "safeguards.h"
 
 // --- Registers ---
-
-// A menu macro is kept as a file of this unit.
-static int exist_menu_macro(int no)
-{
-    char path[PATH_SIZE];
-    PrintText(path, "/mnt/data/Menu_Macro_tmp/mm_reg%02d.tmp", no + 1);
-    return no >= 0 && no < MENU_MACRO_REGISTERS && access(path, R_OK) == 0;
-}
-static char menu_macro_name[16];
-static const char* name_menu_macro(int no)
-{
-    PrintText(menu_macro_name, "MMCR%d", no + 1);
-    return menu_macro_name;
-}
-static constexpr FileRegisters menu_macros = {exist_menu_macro, name_menu_macro, 0};
 
 static char frame_name[FILE_NAME_SIZE];
 static const char* name_frame(int no)
@@ -85,7 +68,7 @@ constexpr FileKind file_kinds[FILEPAGES] = {
     {.page = FILEPAGE_MENU_MACRO,
      .id = 0x71440000,
      .grp = 33,
-     .registers = &menu_macros,
+     .stored = &register_kinds[REGKIND_MENU_MACRO],
      .way = FILEWAY_MACRO},
     {.page = FILEPAGE_FNAMEDATA, .id = 0x71530000, .grp = 40, .way = FILEWAY_PLAIN},
     {.page = FILEPAGE_XPTSRCNAME, .id = 0x71740000, .grp = 42, .way = FILEWAY_PLAIN},

@@ -8,6 +8,7 @@
 #include "pane.h"
 #include "pc_effect.h"
 #include "pc_macro.h"
+#include "pc_menu_macro.h"
 #include "pc_register_list.h"
 #include "pc_shotbox.h"
 #include "tally_value.h"
@@ -41,7 +42,7 @@ static struct {
 
 static constexpr const RegisterExtra* extras[] = {
     &snapshot_extra,   &keyss_extra,      &effect_extras[0], &effect_extras[1], &effect_extras[2],
-    &effect_extras[3], &effect_extras[4], &shotbox_extra,    &macro_extra};
+    &effect_extras[3], &effect_extras[4], &shotbox_extra,    &macro_extra,      &menu_macro_extra};
 
 static RegisterMemory& memory()
 {
@@ -205,6 +206,24 @@ template <typename Accept, typename Act> static void each_run(Accept accept, Act
         act(from, to);
 }
 
+// Whether a register that act would change is locked, and the operator has been told so. Where
+// nothing is said the keys leave locked registers as they are.
+template <typename Target> static bool is_refused(Target target)
+{
+    if (!rp.kind->local)
+        return false;
+    for (int i = 0, no; (no = LS_GetSelected(LIST_1, i)) >= 0; i++)
+        if (is_locked(is_dual(), target(no))) {
+            (void)CreateWindow(WINDOW_MESSAGE, "Lock", {.message = rp.kind->local->locked});
+            return true;
+        }
+    return false;
+}
+static int itself(int no)
+{
+    return no;
+}
+
 static bool is_any(int)
 {
     return true;
@@ -254,6 +273,8 @@ static int delete_sel_core(int)
 
 static int delete_sel()
 {
+    if (is_refused(itself))
+        return 0;
     return CreateWindow(
         WINDOW_MESSAGE, rp.kind->delete_title,
         {.message = "This operation will cause the data to be\ndeleted.\n\nContinue?",
@@ -272,7 +293,7 @@ static int rename_sel_core(const char* text)
 
 static int rename_sel()
 {
-    if (is_locked(0, cursor()))
+    if (is_refused(itself) || is_locked(0, cursor()))
         return 0;
     return CreateWindow(WINDOW_KEYBOARD, "Name",
                         {.value = RegisterList_Line(0, cursor()).name,
@@ -328,6 +349,8 @@ static bool is_any_overwritten(int by)
 static int runs_sel()
 {
     const int by = shift();
+    if (is_refused([by](int no) { return no + by; }))
+        return 0;
     const char* const title = rp.shape == REGSHAPE_COPY ? rp.kind->copy_title : nullptr;
     if (!title || !is_any_overwritten(by))
         return runs_sel_core(by);
@@ -426,6 +449,8 @@ static int page_redraw()
             rp.extra->shown();
     }
     RegisterDetail_Redraw();
+    if (rp.extra && rp.extra->redraw)
+        rp.extra->redraw();
     return 0;
 }
 

@@ -50,6 +50,7 @@ struct RegisterExtra {
     bool is_everywhere = false;             // not on the first page alone
     const RegisterTouch* touches = nullptr; // ended by a null tail
     void (*open)(int on) = nullptr;         // the page is opened (1) or left (0)
+    void (*redraw)() = nullptr;             // once a pass
     void (*shown)() = nullptr; // the register or the region at the cursor has changed, or its line
     void (*tally)(const char* path, const char* value) = nullptr;
     void (*knob)(int id, int value) = nullptr; // LMSG_KNOBVAR

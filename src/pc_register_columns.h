@@ -51,6 +51,9 @@ inline constexpr RegisterColumn effect_dual_columns[] = {{"No", 35, TEXT_OF(no)}
                                                          {"L/E", 40, TEXT_OF(le)},
                                                          {"Eff Diss", 60, TEXT_OF(effdiss)},
                                                          {}};
+inline constexpr RegisterColumn menu_macro_columns[] = {
+    {"No", 35, TEXT_OF(no)},         {"Name", 160, TEXT_OF(name)},         {"L/E", 57, TEXT_OF(le)},
+    {"Event", 100, TEXT_OF(events)}, {"Interval", 200, TEXT_OF(interval)}, {}};
 #define BANK_LINKS(width)                                                                          \
     {"ME1", width, TEXT_OF(link[0])}, {"ME2", width, TEXT_OF(link[1])},                            \
         {"ME3", width, TEXT_OF(link[2])}, {"ME4", width, TEXT_OF(link[3])},                        \

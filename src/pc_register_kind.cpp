@@ -3,6 +3,7 @@
 #include "device.h"
 #include "global.h"
 #include "me_bank.h"
+#include "menu_macro.h"
 #include "netio.h"
 #include "pane.h"
 #include "pc_register_columns.h"
@@ -151,6 +152,12 @@ static constexpr RegisterCommands macro_commands = {.lock = MACRO_HEAD "Lock@Loc
                                                     .rename = MACRO_HEAD "Rename@Rename",
                                                     .copy = RUNS(MACRO_HEAD "Copy@Copy", nullptr),
                                                     .list = MACRO_HEAD "List"};
+static constexpr RegisterCommands no_commands = {};
+static constexpr RegisterLocal menu_macro_local = {.lock = mm_lock_exec,
+                                                   .remove = mm_delete_delete_exec,
+                                                   .rename = mm_rename_exec,
+                                                   .copy = mm_copy_exec,
+                                                   .locked = "Menu macro register is locked."};
 #undef RUNS
 #undef SNAPSHOT_COMMANDS
 
@@ -323,6 +330,17 @@ constexpr RegisterKind register_kinds[REGKINDS] = {
      .dual_columns = name_dual_columns,
      .delete_title = "Macro Delete",
      .copy_title = "Macro Copy"},
+    {.kind = REGKIND_MENU_MACRO,
+     .word = "Menu Macro Register",
+     .page = 0x54300000,
+     .mirror = REGISTER_MENU_MACRO,
+     .commands = &no_commands,
+     .local = &menu_macro_local,
+     .setdata = menu_macro_setdata,
+     .columns = menu_macro_columns,
+     .dual_columns = name_dual_columns,
+     .delete_title = "Menu Macro Delete",
+     .copy_title = "Menu Macro Copy"},
 };
 
 static constexpr int WidthOf(const RegisterColumn* columns)
@@ -489,6 +507,10 @@ void RegisterCmd_Lock(const RegisterKind& kind, uint64_t mask, int from, int to,
 {
     const RegisterCommands& c = *kind.commands;
     char rest[32];
+    if (kind.local) {
+        kind.local->lock(from, to, on);
+        return;
+    }
     if (c.unlock)
         PrintText(rest, "%d,%d", from, to);
     else
@@ -499,6 +521,10 @@ void RegisterCmd_Lock(const RegisterKind& kind, uint64_t mask, int from, int to,
 void RegisterCmd_Delete(const RegisterKind& kind, uint64_t mask, int from, int to)
 {
     char rest[24];
+    if (kind.local) {
+        kind.local->remove(from, to);
+        return;
+    }
     PrintText(rest, "%d,%d", from, to);
     send(kind, kind.commands->remove, mask, rest);
 }
@@ -506,6 +532,10 @@ void RegisterCmd_Delete(const RegisterKind& kind, uint64_t mask, int from, int t
 void RegisterCmd_Rename(const RegisterKind& kind, uint64_t mask, int number, const char* name)
 {
     char rest[64];
+    if (kind.local) {
+        kind.local->rename(number, name);
+        return;
+    }
     PrintText(rest, "%d,%s", number, name);
     send(kind, kind.commands->rename, mask, rest);
 }
@@ -522,6 +552,10 @@ void RegisterCmd_Runs(const RegisterKind& kind, const RegisterRuns& runs, const 
 {
     char rest[80];
     char text[20];
+    if (kind.local) { // of the runs it has the copy
+        kind.local->copy(span.from, span.to, target, wo_name);
+        return;
+    }
     PrintText(rest, "%d,%d,%s%d,%s", span.from, span.to, mask_before(kind, to_mask, text), target,
               Bool(wo_name));
     send(kind, runs.path, span.mask, rest);

@@ -26,6 +26,7 @@ enum REGKIND : int { // rows of register_kinds; in the argument of the page code
     REGKIND_EFFECT_EX,
     REGKIND_SHOTBOX,
     REGKIND_MACRO,
+    REGKIND_MENU_MACRO,
     REGKINDS,
 };
 
@@ -61,6 +62,15 @@ struct RegisterCommands {
     const char* current = nullptr;     // subscribed while the page of a master is open
 };
 
+// What the commands do to a kind that is this unit's own. Numbers are the operator's.
+struct RegisterLocal {
+    void (*lock)(int from, int to, bool on);
+    void (*remove)(int from, int to);
+    void (*rename)(int number, const char* name);
+    void (*copy)(int from, int to, int target, bool wo_name);
+    const char* locked; // what the operator is told when a locked register is in the way
+};
+
 struct RegisterKind {
     REGKIND kind = REGKINDS;
     const char* word = "";             // of the path of the pages
@@ -75,6 +85,7 @@ struct RegisterKind {
     bool has_dme_groups = false;       // the rows of the mirror are groups of channels
     REGMASKFORM mask = REGMASK_NONE;
     const RegisterCommands* commands = nullptr;
+    const RegisterLocal* local = nullptr; // in place of commands, which are all null then
     // Digest a raw text into a line. Returns the index of its register, or -1 for a number that is
     // not this kind's and a text with too few fields: the line is as it was.
     int (*setdata)(const RegisterKind& kind, const char* text, RegisterLine* line) = nullptr;

@@ -1,4 +1,5 @@
 #include "pc_register_line.h"
+#include "menu_macro.h"
 #include "pc_register_kind.h"
 #include "pc_snapshot_hold.h"
 #include "tally_value.h"
@@ -279,4 +280,22 @@ int macro_setdata(const RegisterKind& kind, const char* text, RegisterLine* line
     if (index >= 0)
         set_status(line, *f.v[1] == 'E' || *f.v[1] == 'e', *f.v[3] == 'L');
     return index;
+}
+
+// The text is the number: all else is in this unit.
+int menu_macro_setdata(const RegisterKind& kind, const char* text, RegisterLine* line)
+{
+    const int no = int(NumberIn(text, 0, kind.registers)) - 1;
+    if (no < 0)
+        return -1;
+    const MMACRO_REGISTER_TBL reg = mm_register_table(no);
+    *line = {};
+    CopyText(line->no, NumStr(no + 1));
+    CopyText(line->name, reg.name);
+    set_status(line, reg.empty, reg.lock);
+    if (reg.empty)
+        return no;
+    CopyText(line->events, NumStr(reg.protcol_event_max));
+    PrintText(line->interval, "%.1f", mm_register_interval(no) / 1000.0);
+    return no;
 }

@@ -28,6 +28,9 @@ struct RegisterLine {
     // Masters and shotboxes: the register of each region; 0 none, below 0 a snapshot's
     int data[REGISTER_LINKS] = {};
     char link[REGISTER_LINK_COLUMNS][5] = {}; // as texts: the banks, then a text a group
+    // Menu macros
+    char events[5] = "";
+    char interval[8] = ""; // seconds
     // Wipe and DME wipe snapshots
     char pattern[6] = "";
 };
@@ -48,6 +51,7 @@ int effect_setdata(const RegisterKind& kind, const char* text, RegisterLine* lin
 int master_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
 int shotbox_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
 int macro_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
+int menu_macro_setdata(const RegisterKind& kind, const char* text, RegisterLine* line);
 // What the mirror adds to a line.
 void snapshot_complete(int row, int no, RegisterLine* line); // hold, flags and clip of the region
 void effect_complete(int row, int no, RegisterLine* line);

@@ -36,6 +36,7 @@ enum : int {
     REGISTER_SHOTBOX,
     REGISTER_MACRO,
     REGISTER_CLIP_EVENT,
+    REGISTER_MENU_MACRO, // of this unit, not mirrored: see menu_macro
 };
 
 constexpr int REGISTERS = 99; // of a row, where nothing else is said

@@ -1,6 +1,7 @@
 // register_mirror: the accessors of register by kind, for code that serves several kinds.
 #pragma once
 #include "indexed.h"
+#include "menu_macro.h"
 #include "register.h"
 
 struct RegisterMirror {
@@ -25,6 +26,8 @@ inline constexpr RegisterMirror register_mirrors[] = {
     {REGISTER_KEYSS, REGISTERS_KEYSS, MIRROR_OF(KeySS)},
     {REGISTER_SHOTBOX, REGISTERS, MIRROR_OF(Shotbox)},
     {REGISTER_MACRO, REGISTERS_MACRO, MIRROR_OF(Macro)},
+    {REGISTER_CLIP_EVENT}, // has accessors of its own
+    {REGISTER_MENU_MACRO, MENU_MACRO_REGISTERS, MIRROR_OF(MenuMacro)},
 };
 #undef MIRROR_OF
-static_assert(IndexedBy(register_mirrors, &RegisterMirror::kind, REGISTER_MACRO + 1));
+static_assert(IndexedBy(register_mirrors, &RegisterMirror::kind, REGISTER_MENU_MACRO + 1));

@@ -75,6 +75,8 @@ static_assert(ButtonsAreSound(bt_device_top));
 
 inline constexpr BT_TBL bt_macro_top[] = {
     Jump(       {.id = 17, .caption = "Macro", .group = "Macro", .cmd = {"#54100000"}}),
+    Jump(       {.id = 18, .caption = "Menu\nMacro", .group = "Macro", .cmd = {"#54310000"}}),
+    Action(     {.id = 19, .caption = "Menu Mcr\nStop", .group = "Macro", .cmd = {"LOCAL@MenuMacro@Stop"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

@@ -5,6 +5,7 @@
 
 inline constexpr VF_TBL vf_macro[] = {
     {.id = 1, .caption = "Register", .page = 0x54120000},
+    {.id = 3, .caption = "Menu\nMacro\nRegister", .page = 0x54310000},
     VF_END,
 };
 

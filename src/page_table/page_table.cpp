@@ -34,6 +34,7 @@
 #include "nb_key.h"
 #include "nb_nonlinear.h"
 #include "nb_wipe.h"
+#include "menu_macro_pages.h"
 #include "operation.h"
 #include "saver.h"
 #include "setup_system.h"
@@ -70,6 +71,8 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 operation_pages,
                 dme_pages,
                 machines_pages,
+                menu_macro_pages,
+                menu_macro_sub_pages,
                 keyframe_pages,
                 keyframe_path_rows,
                 snapshot_register_pages,

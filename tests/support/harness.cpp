@@ -24,6 +24,7 @@
 #include "log.h"
 #include "loop.h"
 #include "me_config.h"
+#include "menu_macro.h"
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
@@ -212,6 +213,7 @@ void Harness_Reset()
     FileAll_Reset();
     Register_Free();
     RegisterPages_Reset();
+    mm_registers_free();
     reset_regions();
     File_DirReset();
     File_ReplaceSync([] { return 0; }); // a job of a test does not wait for the host's drives

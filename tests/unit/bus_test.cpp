@@ -43,7 +43,7 @@ TEST_F(Bus, ANestedMessageIsDeliveredBeforeTheOuterOneGoesOn)
     probe::page.obj[1] = probe::page.obj[0];
     probe::answer = [](const probe::Seen& s) {
         if (s.msg == MSG_PRESS && probe::Count(MSG_PRESS) == 1)
-            SendMessage(LMSG_BTNSEL, 7, 0, 0, 0);
+            SendMessage(LMSG_BTNSEL, 0, 0, 0, 0);
         return 0;
     };
     SendMessage(MSG_PRESS, 1, 2, 1, 0);

@@ -1,0 +1,428 @@
+// The recorder of menu macros: what a touch leaves behind, what a file holds, what a run sends.
+#include "a_ls.h"
+#include "menu_macro.h"
+#include "menu_macro_private.h"
+#include "netio.h"
+#include "page.h"
+#include "pane.h"
+#include "pc_menu_macro_edit.h"
+#include "pc_register.h"
+#include "table_page.h"
+#include "text.h"
+#include "window.h"
+#include <filesystem>
+#include <fstream>
+
+namespace
+{
+constexpr char BACKUP[] = "/mnt/data/Menu_Macro_tmp/";
+constexpr char TRANSFER[] = "/var/tmp/MenuMacro/";
+constexpr uint32_t EXEC = 0x54310000, COPY = 0x54330000, DELETE = 0x54360000, EDIT = 0x71440102;
+
+struct MenuMacro : TablePage {
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        for (const char* dir : {BACKUP, TRANSFER})
+            std::filesystem::remove_all(dir);
+    }
+    // What one touch sends.
+    static void Sends(const Lines& commands)
+    {
+        MenuMacro_TouchCount++;
+        for (const std::string& command : commands)
+            Net_SendCommand(command.c_str());
+        (void)TakeQueuedCommands();
+    }
+    static void Record(bool auto_insert = true)
+    {
+        mm_edit_open(1);
+        GL_MenuMacro_AT_Store = auto_insert;
+    }
+    static Lines Events(const CURRENT_REGISTER_DATA* node)
+    {
+        Lines events;
+        for (; node; node = node->next) {
+            std::string event;
+            for (int n = 0; n < node->event_data.protcol_cnt; n++)
+                event += mm_event_command(node->event_data, n);
+            events.push_back(event);
+        }
+        return events;
+    }
+    static Lines Recorded() { return Events(mm_edit.list); }
+    static std::string File(int number)
+    {
+        char path[64];
+        PrintText(path, "%smm_reg%02d.tmp", BACKUP, number);
+        return FileText(path);
+    }
+    static void Write(const char* dir, int number, const std::string& text)
+    {
+        std::filesystem::create_directories(dir);
+        char path[64];
+        PrintText(path, "%smm_reg%02d.tmp", dir, number);
+        std::ofstream(path) << text;
+    }
+    static void Load(int number, const std::string& events)
+    {
+        Write(BACKUP, number, events);
+        ASSERT_EQ(mm_macro_file_load(number - 1), 0);
+    }
+    // Groups of commands with the ms before each, "500:a b"; at most ms of passes.
+    static Lines Run(int ms)
+    {
+        Lines groups;
+        for (int t = 0, since = 0; t < ms; t += 10, since += 10) {
+            Pass(10);
+            std::string group;
+            for (const std::string& line : TakeQueuedCommands())
+                group += (group.empty() ? "" : " ") + line;
+            if (group.empty())
+                continue;
+            groups.push_back(std::to_string(since) + ":" + group);
+            since = 0;
+        }
+        return groups;
+    }
+};
+} // namespace
+
+TEST_F(MenuMacro, TheTapTellsTheOperatorsCommandsFromTheProgramsOwn)
+{
+    static const struct {
+        const char* line;
+        int result;
+        int unrestricted;
+        uint32_t page = PAGE_TOP;
+    } cases[] = {
+        {"put M/E-1@Key1@Type@Key Type#Chroma", 0, 0},
+        {"default M/E-1@Key1@Edge@Width", 0, 0},
+        {"Event@Pause Set#1.5", 1, 1},
+        {"read M/E-1@Key1@Type@Key Type", -1, -1},
+        {"add M/E-1@Key1@Type@Key Type", -1, -1},
+        {"remove M/E-1@Key1@Type@Key Type", -1, -1},
+        {"put Engineering Setup@System@Format#1", -1, 0},
+        {"put Frame Mem@Clip@Delete@All#1", -1, 0},
+        {"put Frame Mem@File@Delete Thumbnail@Single#X", -1, 0},
+        {"put Frame Mem@File@Delete Thumbnail@Single#X", 0, 0, 0x25120000},
+        {"put TopMenu@SubMenuSite#1", -1, -1},
+        {"putM/E-1#1", -1, -1},
+        {"", -1, -1},
+    };
+    for (const auto& c : cases) {
+        GL_NowPage = c.page;
+        GL_MenuMacroUnrestrict = 0;
+        EXPECT_EQ(mm_protcol_invalid_check(c.line), c.result) << c.line;
+        GL_MenuMacroUnrestrict = 1;
+        EXPECT_EQ(mm_protcol_invalid_check(c.line), c.unrestricted) << c.line;
+    }
+    GL_MenuMacroUnrestrict = 0;
+}
+
+TEST_F(MenuMacro, ATouchIsAnEventAndNothingIsRecordedUnasked)
+{
+    Sends({"put A#1"});
+    Record();
+    EXPECT_THAT(Recorded(), IsEmpty());
+    Sends({"put A#1", "read A", "put B#2"});
+    Sends({"put C#3"});
+    GL_MM_Knob_Protcol = 1;
+    Sends({"put D#4"}); // the page is told of a turn
+    GL_MM_Knob_Protcol = 0;
+    GL_MenuMacro_Run = 1;
+    Sends({"put E#5"});
+    SL_Reg_Recycle = 1;
+    Sends({"put F#6"});
+    GL_MenuMacro_Run = 0;
+    EXPECT_THAT(Recorded(), ElementsAre("put A#1\nput B#2\n", "put C#3\n", "put F#6\n"));
+    mm_edit_close();
+    Sends({"put G#7"});
+    EXPECT_THAT(Recorded(), IsEmpty());
+}
+
+TEST_F(MenuMacro, ALongTouchGoesOnInANewEvent)
+{
+    Record();
+    Sends(Lines(256, "put A#1"));
+    ASSERT_EQ(Recorded().size(), 2u);
+    EXPECT_EQ(mm_edit.list->event_data.protcol_cnt, 255);
+    EXPECT_EQ(Recorded()[1], "put A#1\n");
+    Sends(Lines(100, "put " + std::string(1000, 'x'))); // more bytes than an event has
+    EXPECT_EQ(Recorded().size(), 4u);
+}
+
+TEST_F(MenuMacro, AFullListSaysSoOnce)
+{
+    Record();
+    for (int i = 0; i < MENU_MACRO_EVENTS + 3; i++)
+        Sends({"put A#1"});
+    EXPECT_EQ(int(Recorded().size()), MENU_MACRO_EVENTS);
+    Pass(10);
+    EXPECT_NE(Pane_GetActiveID(), 0);
+    Pane_Quit(Pane_GetActiveID());
+    Pass(10);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+}
+
+TEST_F(MenuMacro, WithoutAutoInsertTheKeyOfTheBaseAreaTakesTheLastTouch)
+{
+    Record(false);
+    Sends({"put A#1"});
+    Sends({"put B#2", "put C#3"});
+    EXPECT_THAT(Recorded(), IsEmpty());
+    mm_event_insert();
+    EXPECT_THAT(Recorded(), ElementsAre("put B#2\nput C#3\n"));
+}
+
+TEST_F(MenuMacro, MeasuredPausesGoBetweenTouches)
+{
+    Load(1, "Event:put A#1\n");
+    Record();
+    GL_MM_Pause_AT_Insert = 1;
+    Pass(700);
+    Sends({"put B#2"});
+    Pass(1500);
+    Sends({"put C#3"});
+    Sends({"put D#4"});
+    EXPECT_THAT(Recorded(), ElementsAre("put A#1\n", "Event@Pause Set#0.5\n", "put B#2\n",
+                                        "Event@Pause Set#1.5\n", "put C#3\n", "put D#4\n"));
+}
+
+TEST_F(MenuMacro, AFileIsWrittenAsItIsRead)
+{
+    const std::string file = "#FName: mm_reg07.tmp.##################\n"
+                             "Header:OPENING,1,4\n"
+                             "Interval:250\n"
+                             "DME CH:00000011,0000000F\n"
+                             "Event:put A@B#true\n"
+                             "Contnue:default C\n"
+                             "DME CH:00000000,00000000\n"
+                             "Pause:1.5\n"
+                             "DME CH:00000000,00000000\n"
+                             "Local:LOCAL@X@Y\n";
+    Load(7, file);
+    EXPECT_EQ(mm_register_table(6).protcol_event_max, 3);
+    EXPECT_STREQ(mm_register_table(6).name, "OPENING");
+    EXPECT_EQ(reg_data[6].register_data->event_data.RefCH, 0x11u);
+    ASSERT_EQ(mm_macro_file_save(6), 0);
+    EXPECT_EQ(File(7), file);
+    EXPECT_EQ(mm_macro_tmpfile_save("MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"), 0);
+    EXPECT_EQ(FileText(std::string(TRANSFER) + "mm_reg07.tmp"), file);
+}
+
+TEST_F(MenuMacro, AStrangeFileHarmsNothing)
+{
+    static const struct {
+        const char* text;
+        const char* name;
+        int events, commands;
+    } cases[] = {
+        {"", "MMCR3", 0, 0},
+        {"#Event:put A#1\n", "MMCR3", 0, 0},
+        {"Header:,0,9\nEvent:put A#1", "MMCR3", 1, 1},
+        {"Header:A,B,1,9\nEvent:put A#1\r\nContnue:put B#2\r\n", "A_B", 1, 2},
+        {"Header:NAME THAT IS LONG,0,1\nEvent:put A#1\n", "NAME_THA", 1, 1},
+        {"Event:TM3WAIT#99999\nEvent:read A\nContnue:remove A\n", "MMCR3", 0, 0},
+        {"Contnue:put A#1\nPause:1\nContnue:put B#2\n", "MMCR3", 3, 3},
+        {"Wait Time:700\nPause:-3\nPause:nan\nPause:\n", "MMCR3", 3, 3},
+    };
+    for (const auto& c : cases) {
+        Load(3, c.text);
+        EXPECT_EQ(mm_register_table(2).protcol_event_max, c.events) << c.text;
+        EXPECT_EQ(reg_data[2].register_protcol_max, c.commands) << c.text;
+        EXPECT_STREQ(mm_register_table(2).name, c.name) << c.text;
+    }
+    EXPECT_EQ(mm_register_interval(2), 700);
+    std::string many;
+    for (int i = 0; i < 2000; i++)
+        many += "Contnue:put A#1\n";
+    Load(3, many + "Event:put " + std::string(3000, 'x') + "\n");
+    EXPECT_EQ(reg_data[2].register_protcol_max, MENU_MACRO_LINES);
+    EXPECT_EQ(mm_macro_file_load(98), -1);
+    EXPECT_EQ(mm_macro_file_load(99), -1);
+}
+
+TEST_F(MenuMacro, ATransferCopyBecomesTheRegisterUnderItsNameOnTheDrive)
+{
+    const char* const tmp = "MYHOST:/var/tmp/MenuMacro/mm_reg05.tmp";
+    const char* const src = "MYHOST:/mnt/data/root/SYSTEM/MENUMACRO/CTRLCPU/SHOW.GUI_0004.MMR";
+    Write(TRANSFER, 5, "Header:OLD,0,1\nEvent:put A#1\n");
+    ASSERT_EQ(mm_macro_tmpfile_load(src, tmp), 0);
+    EXPECT_STREQ(mm_register_table(4).name, "SHOW");
+    EXPECT_THAT(File(5), HasSubstr("Header:SHOW,0,1\n")) << "it is there after a restart";
+    mm_lock_exec(5, 5, true);
+    EXPECT_EQ(mm_macro_tmpfile_load(src, tmp), -1) << "locked";
+    mm_lock_exec(5, 5, false);
+    Write(TRANSFER, 5, "rubbish\n");
+    EXPECT_EQ(mm_macro_tmpfile_load(src, tmp), -1);
+    EXPECT_THAT(Events(reg_data[4].register_data), ElementsAre("put A#1\n"));
+    for (const char* path :
+         {"", "mm_reg", "mm_reg0", "mm_reg00.tmp", "mm_regxx.tmp", "mm_reg06.tmp"})
+        EXPECT_EQ(mm_macro_tmpfile_save(path), -1) << path;
+}
+
+// --- Run ---
+
+TEST_F(MenuMacro, ARunSendsTheGroupsWithTheirWaits)
+{
+    Load(2, "Interval:300\nEvent:put A#1\nContnue:put B#2\nEvent:put C#3\nPause:1.0\n"
+            "DME CH:00000001,00000003\nEvent:put D#4\n");
+    SYS_DMEReference = 2;
+    SYS_DMEChannel = 3;
+    mm_macro_run(2);
+    EXPECT_THAT(Run(3000), ElementsAre("0:put A#1 put B#2", "300:put C#3",
+                                       "1000:put Info@DME@RefCH#1 put D#4"));
+    EXPECT_EQ(GL_MenuMacro_Run, 0);
+    mm_macro_run(9); // empty
+    EXPECT_EQ(GL_MenuMacro_Run, 0);
+    SYS_DMEReference = SYS_DMEChannel = 0;
+}
+
+TEST_F(MenuMacro, ARunStopsInAPauseAndGoesOnThere)
+{
+    Load(2, "Event:put A#1\nPause:2.0\nEvent:put B#2\n");
+    (void)Tell("Info@Menu Macro@Run#2");
+    EXPECT_THAT(Run(1000), ElementsAre("0:put A#1"));
+    SendMessage(LMSG_BTNSEL, Arg("LOCAL@MenuMacro@Stop"), Arg(""), 0, 0);
+    EXPECT_THAT(Run(5000), IsEmpty());
+    mm_delete_delete_exec(2, 2); // the run has a list of its own
+    mm_current_macro_run();
+    EXPECT_THAT(Run(5000), ElementsAre(HasSubstr(":put B#2")));
+    EXPECT_EQ(mm_current_macro_status().event, 0) << "rewound";
+}
+
+TEST_F(MenuMacro, WhileTheLinkIsDownARunHolds)
+{
+    Load(2, "Interval:100\nEvent:put A#1\nEvent:put B#2\nEvent:put C#3\n");
+    mm_macro_run(2);
+    for (int i = 0; i < 100; i++)
+        Pass(100); // nobody takes what is queued
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put A#1"));
+    EXPECT_THAT(Run(1000), ElementsAre("90:put B#2", "100:put C#3")) << "no burst";
+    mm_macro_run(2);
+    Pass(10);
+    MM_macro_ext_stop();
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put A#1"));
+    EXPECT_THAT(Run(1000), IsEmpty());
+}
+
+TEST_F(MenuMacro, ARunThatIsRecycledIsRecordedAsItRan)
+{
+    Load(2, "Interval:100\nDME CH:00000001,00000000\nEvent:put A#1\nContnue:put B#2\n"
+            "Event:put C#3\nPause:0.4\nEvent:put D#4\n");
+    Record();
+    SL_Reg_Recycle = 1;
+    mm_macro_run(2);
+    (void)Run(2000);
+    EXPECT_EQ(Recorded(), Events(reg_data[1].register_data)) << "without the channels' commands";
+}
+
+// --- Pages ---
+
+TEST_F(MenuMacro, TheEditorEditsAndStores)
+{
+    enum { PAUSE_SET = 21, BEFORE = 33, AFTER, MODIFY, DELETE_KEY, STORE = 20, EXIT = 54 };
+    Load(1, "Event:put A#1\nContnue:put B#2\nEvent:put C#3\n");
+    mm_lock_exec(2, 2, true);
+    (void)Open(EDIT);
+    EXPECT_EQ(GL_NowPage, 0x71440002u);
+    EXPECT_STREQ(LS_GetData(1, 1, 2), "Continue");
+    EXPECT_STREQ(LS_GetData(1, 2, 3), "C#3");
+    (void)Press(BTN_MENU_MACRO_EVENT); // single commands
+    LS_SetNowLine(1, 0);
+    Pass(200);
+    (void)Press(DELETE_KEY);
+    EXPECT_THAT(Recorded(), ElementsAre("put B#2\n", "put C#3\n"));
+    Pass(200);
+    (void)Press(BTN_MENU_MACRO_EVENT);
+    (void)Press(PAUSE_SET);
+    EXPECT_THAT(Recorded(), ElementsAre("put B#2\n", "Event@Pause Set#0.5\n", "put C#3\n"));
+    Sends({"put X#9"});
+    Pass(200);
+    LS_SetNowLine(1, 2);
+    Pass(10);
+    (void)Press(MODIFY);
+    EXPECT_THAT(Recorded(), ElementsAre("put B#2\n", "Event@Pause Set#0.5\n", "put X#9\n"));
+    (void)Press(BEFORE);
+    LS_SetNowLine(1, 0);
+    Pass(200);
+    (void)Press(BEFORE);
+    EXPECT_EQ(Recorded().front(), "put X#9\n");
+    EXPECT_EQ(File(1).find("put X"), std::string::npos);
+    (void)Press(STORE);
+    EXPECT_EQ(Events(reg_data[0].register_data), Recorded());
+    EXPECT_THAT(File(1), HasSubstr("Event:put X#9\n"));
+    (void)Tell("Panel@Common@Knob0#1"); // register 2
+    Pass(200);
+    (void)Press(STORE);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "locked";
+    CloseWindow();
+    Pass(200);
+    (void)Press(BTN_MENU_MACRO_ALL);
+    Pass(200);
+    (void)Press(DELETE_KEY);
+    EXPECT_THAT(Recorded(), IsEmpty());
+    Pass(200);
+    (void)Press(EXIT);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "not stored";
+    EXPECT_EQ(GL_MenuMacro_Edit, 1);
+    Window_ReserveQuit(0);
+    Pass(10);
+    EXPECT_EQ(GL_MenuMacro_Edit, 0);
+    EXPECT_EQ(GL_CreatePage, 0x54310000u);
+}
+
+TEST_F(MenuMacro, TheRegisterPagesWorkOnListAndFile)
+{
+    Load(1, "Header:ONE,0,1\nEvent:put A#1\n");
+    Load(2, "Header:TWO,0,1\nEvent:put B#2\n");
+    (void)Open(COPY);
+    LS_SetNowLine(1, 0);
+    LS_SetNowLine(2, 4);
+    (void)Press(49);
+    EXPECT_STREQ(mm_register_table(4).name, "ONE");
+    EXPECT_STREQ(LS_GetData(2, 4, 1), "ONE");
+    EXPECT_THAT(File(5), HasSubstr("Event:put A#1\n"));
+    mm_lock_exec(2, 2, true);
+    LS_SetNowLine(2, 1);
+    Pass(200);
+    (void)Press(49);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "locked";
+    EXPECT_STREQ(mm_register_table(1).name, "TWO");
+    CloseWindow();
+    (void)Open(DELETE);
+    LS_SetNowLine(1, 0);
+    (void)Press(49);
+    Window_ReserveQuit(0);
+    Pass(10);
+    EXPECT_EQ(mm_register_table(0).empty, 1);
+    EXPECT_STREQ(mm_register_table(0).name, "MMCR1");
+    EXPECT_EQ(File(1), "") << "it would be back after a restart";
+    mm_copy_exec(4, 5, 5, false); // the runs overlap
+    EXPECT_STREQ(mm_register_table(5).name, "ONE");
+    MM_Register_Data_All_Delete();
+    EXPECT_EQ(mm_register_table(1).empty, 1) << "locked or not";
+    EXPECT_EQ(mm_macro_file_load(1), -1);
+}
+
+TEST_F(MenuMacro, TheFirstPageRecallsRunsAndStops)
+{
+    enum { REWIND = 49, RUN, STOP, RECALL, RECALL_RUN };
+    Load(1, "Interval:1000\nEvent:put A#1\nEvent:put B#2\n");
+    (void)Open(EXEC);
+    EXPECT_STREQ(LS_GetData(1, 0, 3), "2");
+    EXPECT_THAT(Press(RECALL), IsEmpty());
+    EXPECT_EQ(GL_MenuMacro_Run, 0);
+    (void)Press(RUN);
+    EXPECT_THAT(Run(500), ElementsAre(HasSubstr("put A#1")));
+    (void)Press(STOP);
+    Pass(200);
+    (void)Press(REWIND);
+    (void)Press(RUN);
+    EXPECT_THAT(Run(500), ElementsAre(HasSubstr("put A#1")));
+    (void)Press(RECALL_RUN);
+    const int pane = PaneMessage_Create("x", PANE_INFO, "x"); // a pane does not hold it up
+    EXPECT_EQ(Run(1500).size(), 2u);
+    (void)Pane_Quit(pane);
+}
