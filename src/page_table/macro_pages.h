@@ -1,6 +1,7 @@
 // macro_pages: the pages of the Macro menu.
 #pragma once
 #include "pc_macro.h"
+#include "pc_macro_offline.h"
 #include "register_pages.h"
 
 inline constexpr VF_TBL vf_macro[] = {
@@ -41,3 +42,50 @@ inline constexpr RegisterGroup macro_group_of_pages = {
 };
 inline constexpr REGSHAPE macro_shapes[] = {REGSHAPE_LOCK, REGSHAPE_COPY, REGSHAPE_DELETE, REGSHAPE_RENAME};
 inline constexpr auto macro_register_pages = RegisterRows(macro_group_of_pages, macro_shapes);
+
+// --- The offline editor ---
+
+// Below the register and its name the events; below them the values at the left, at the right the keys that choose
+// what is set, as many as the event has.
+inline constexpr LS_TBL ls_macro_offline[] = {
+    {.id = LIST_MACRO_EVENTS, .hn = MACRO_COL_SLOT + MACRO_SHOWN_SLOTS, .vn = 6, .x = 100, .y = 98,
+     .head = {"Contents", "Event", "", "", "", ""}, .width = {76, 152, 81, 81, 81, 81}, .group = {1, 1, 4}, .split = 1,
+     .sb_top = 98, .sb_bottom = 252, .block = 1},
+    {.id = LIST_MACRO_VALUES, .hn = 1, .vn = 6, .x = 100, .y = 266, .head = {""}, .width = {148}, .group = {1}, .view = 1,
+     .sb_top = 266, .sb_bottom = 420}, // its arrows choose nothing
+    LS_END,
+};
+static_assert(ListsAreSound(ls_macro_offline));
+
+#define OFFLINE "LOCAL@Macro@Reg@Off Line Edit@"
+constexpr BT_TBL MacroGroup(int id, const char* cmd)
+{
+    return Toggle({.id = id, .caption = "", .cmd = {cmd}}); // the code lights the one in focus
+}
+inline constexpr BT_TBL bt_macro_offline[] = {
+    MacroGroup(BTN_MACRO_GROUP_3,     OFFLINE "Group#3"), MacroGroup(BTN_MACRO_GROUP_3 + 1, OFFLINE "Group#4"),
+    MacroGroup(BTN_MACRO_GROUP_3 + 2, OFFLINE "Group#5"), MacroGroup(BTN_MACRO_GROUP_3 + 3, OFFLINE "Group#6"),
+    MacroGroup(BTN_MACRO_GROUP_7,     OFFLINE "Group#7"), MacroGroup(BTN_MACRO_GROUP_7 + 1, OFFLINE "Group#8"),
+    MacroGroup(BTN_MACRO_GROUP_7 + 2, OFFLINE "Group#9"), MacroGroup(BTN_MACRO_GROUP_7 + 3, OFFLINE "Group#10"),
+    MacroGroup(BTN_MACRO_GROUP_1,     OFFLINE "Group#1"), MacroGroup(BTN_MACRO_GROUP_2,     OFFLINE "Group#2"),
+    Action({.id = BTN_MACRO_INSERT_BEFORE, .caption = "Insert\nBefore", .cmd = {OFFLINE "Before"}}),
+    Action({.id = BTN_MACRO_INSERT_AFTER,  .caption = "Insert\nAfter",  .cmd = {OFFLINE "After"}}),
+    Action({.id = BTN_MACRO_DELETE,        .caption = "Delete",         .cmd = {OFFLINE "Delete"}}),
+    Action({.id = BTN_MACRO_STORE,         .caption = "Store",          .cmd = {OFFLINE "Store"}}),
+    BT_END,
+};
+#undef OFFLINE
+static_assert(ButtonsAreSound(bt_macro_offline));
+
+inline constexpr NB_TBL nb_macro_offline[] = {
+    {.id = NB_MACRO_REGISTER, .caption = "Register", .type = NB_INT, .min = 1, .max = REGISTERS_MACRO,
+     .cmd = "Panel@Common@Knob0", .scale = 1},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_macro_offline));
+
+inline constexpr PAGE macro_sub_pages[] = {
+    {.id = PAGE_MACRO_OFFLINE, .tree = {"Macro", "Register", "Offline Edit"},
+     .obj = {Base(base_sub, PAGE_MACRO_REGISTERS), Buttons(bt_macro_offline), Lists(ls_macro_offline),
+             Boxes(nb_macro_offline), Code(pc_macro_offline)}},
+};

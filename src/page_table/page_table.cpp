@@ -82,6 +82,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 shotbox_register_pages,
                 shotbox_sub_pages,
                 macro_register_pages,
+                macro_sub_pages,
                 system_pages,
                 diag_pages,
                 install_pages,

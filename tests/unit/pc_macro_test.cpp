@@ -1,18 +1,25 @@
 // The pages of the macro registers and the offline editor: what goes over the wire, what the lists
 // show, what stands in the file.
 #include "a_ls.h"
+#include "command.h"
+#include "file.h"
+#include "file_scp.h"
+#include "pane.h"
 #include "pc_macro.h"
-#include "register.h"
-#include "table_page.h"
+#include "pc_macro_offline.h"
+#include "process.h"
+#include "setup_desk.h"
+#include "text.h"
 #include "window.h"
+#include <fstream>
 #include <unistd.h>
 
 namespace
 {
-struct MacroPages : TablePage {
+struct MacroPages : SetupTest {
     void TearDown() override
     {
-        TablePage::TearDown();
+        SetupTest::TearDown();
         unlink(MACRO_EDIT_FILE);
     }
     static Lines Puts(int id) { return TablePage::Puts(Press(id)); }
@@ -92,4 +99,272 @@ TEST_F(MacroPages, AListShowsWhatTheServerTold)
         (void)Tell(std::string("Macro@Register@List#") + line);
     EXPECT_EQ(Cell(1, 6, 1), "TWELVE_CHAR");
     EXPECT_EQ(LS_GetNData(1), 250);
+}
+
+namespace
+{
+constexpr char HEAD[] = "PNL 0001PNL_0003.PMROPENING\n";
+
+struct MacroOfflinePage : MacroPages {
+    void SetUp() override
+    {
+        MacroPages::SetUp();
+        DeviceStructure();
+        CopyText(SYS_SHP_MyUserID, "MENU1");
+        GL_MacroEditNo = 3;
+        GL_Macro_Offline_RegStore = 0;
+        CopyText(GL_Macro_Offline_OriginalName, "OPENING");
+        CopyText(GL_MacroEditNoName, "3  Name: OPENING");
+    }
+    void TearDown() override
+    {
+        MacroOffline_Reset();
+        MacroPages::TearDown();
+    }
+    static void OpenWith(const std::string& events)
+    {
+        (void)MakeDir(MACRO_EDIT_DIR);
+        GL_Macro_Offline_Store = 0; // what another case has changed
+        Filescp_trnasferlist_init("PNL1");
+        Hub("Ready");
+        EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+        std::ofstream(MACRO_EDIT_FILE, std::ios::binary) << HEAD << events;
+        Open(PAGE_MACRO_OFFLINE);
+        Pass(10);
+        EXPECT_EQ(GL_NowPage, PAGE_MACRO_OFFLINE);
+    }
+    static void Hub(const char* verb)
+    {
+        SendMessage(MSG_SHPTALLY, Arg(verb), Arg("PNL1.File"), Hash(verb), 0);
+    }
+    static Lines Key(int id)
+    {
+        Pass(200); // the key is up again
+        const Lines lines = Press(id);
+        Pass(10);
+        return lines;
+    }
+    // The word in list 2, as by a touch.
+    static void Choose(const std::string& word)
+    {
+        for (int row = 0; row < LS_GetNData(LIST_MACRO_VALUES); row++)
+            if (Cell(LIST_MACRO_VALUES, row, 0) == word) {
+                SendMessage(LMSG_LISTSEL, LIST_MACRO_VALUES, row, 0, 0);
+                Pass(10);
+                return;
+            }
+        ADD_FAILURE() << word << " cannot be chosen";
+    }
+    static void At(int row, int column)
+    {
+        SendMessage(LMSG_LISTSEL, LIST_MACRO_EVENTS, row, column, 0);
+        Pass(10);
+    }
+    static void Turn(int value) { SendMessage(LMSG_KNOBVAR, NB_MACRO_VALUE, value, 1, 0); }
+    // Row by row, columns with a blank between.
+    static std::string Events()
+    {
+        std::string all;
+        for (int row = 0; row < LS_GetNData(LIST_MACRO_EVENTS); row++) {
+            all += row ? "|" : "";
+            for (int col = 0; col < MACRO_COL_SLOT + MACRO_SHOWN_SLOTS; col++)
+                if (!Cell(LIST_MACRO_EVENTS, row, col).empty())
+                    all += (col ? " " : "") + Cell(LIST_MACRO_EVENTS, row, col);
+        }
+        return all;
+    }
+    static std::string Stored()
+    {
+        (void)Key(BTN_MACRO_STORE);
+        return FileText(MACRO_EDIT_FILE);
+    }
+};
+} // namespace
+
+TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
+{
+    OpenWith("");
+    EXPECT_EQ(Events(), "Event 1");
+    At(0, MACRO_COL_SYMBOL);
+    Choose("KeyAutoTransition"); // from here on each choice goes on to the next column
+    Choose("P/P");
+    Choose("Key2");
+    EXPECT_EQ(Events(), "Event 1 KeyAutoTransition P/P Key2 - -");
+    Turn(30);
+    Choose("Reverse");
+    (void)Key(BTN_MACRO_INSERT_AFTER);
+    Choose("Cue");
+    Choose("Dev2");
+    Turn(0);
+    Turn(5);
+    (void)Key(BTN_MACRO_INSERT_AFTER);
+    At(2, MACRO_COL_CONTENTS);
+    Choose("#");
+    (void)Key(BTN_MACRO_GROUP_3);
+    ASSERT_EQ(GetWindow(), WINDOW_KEYBOARD);
+    CloseWindow();
+    EXPECT_EQ(Events(), "Event 1 KeyAutoTransition P/P Key2 30 Reverse|Event 2 Cue Dev2 "
+                        "00:00:00:00 5|# -");
+    (void)Key(BTN_MACRO_DELETE);
+    EXPECT_EQ(Stored(),
+              std::string(HEAD) +
+                  "Event?,KeyAutoTransition,ME?,P/P,Key?,Key2,Time?,30,Direction?,Reverse\n"
+                  "Event?,Cue,Device?,Dev2,Timecode?,00:00:00:00,Preroll?,5\n");
+}
+
+TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollow)
+{
+    const std::string play = "Event?,Stop,Device?,Dev1\n", cut = "Event?,MECut,ME?,P/P\n";
+    static const struct {
+        std::string events;
+        int row;
+        bool may;
+    } cases[] = {
+        {play + play, 1, true}, {play + "#?,x\n" + play, 2, true}, {play + play, 0, false},
+        {cut + play, 1, false}, {"#?,x\n" + play, 1, false},
+    };
+    for (const auto& c : cases) {
+        OpenWith(c.events);
+        At(c.row, MACRO_COL_CONTENTS);
+        EXPECT_EQ(LS_GetStatus(LIST_MACRO_VALUES, 1, 0) == 0, c.may) << c.events;
+        Choose("Continue");
+        EXPECT_EQ(Cell(LIST_MACRO_EVENTS, c.row, 0) == "Continue", c.may) << c.events;
+    }
+    // A symbol that may not follow is not kept, and not offered.
+    OpenWith(play + cut);
+    At(1, MACRO_COL_CONTENTS);
+    Choose("Continue");
+    EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue");
+    EXPECT_EQ(LS_GetNData(LIST_MACRO_VALUES), CONTINUE_ROWS - 1);
+}
+
+TEST_F(MacroOfflinePage, WhatFollowsALineThatGoesBecomesAnEvent)
+{
+    const std::string next = "Continue?,Stop,Device?,Dev2\n";
+    OpenWith("Event?,Stop,Device?,Dev1\n" + next);
+    (void)Key(BTN_MACRO_DELETE);
+    EXPECT_EQ(Events(), "Event 1 Stop Dev2");
+    (void)Key(BTN_MACRO_DELETE);
+    EXPECT_EQ(Events(), "Event 1") << "a blank line stays";
+
+    OpenWith("Event?,Stop,Device?,Dev1\n" + next + next);
+    At(1, 0);
+    (void)Key(BTN_MACRO_DELETE);
+    EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue Stop Dev2");
+
+    // What was read may stand behind what it may not follow, and stays.
+    OpenWith("Event?,MECut,ME?,P/P\nContinue?,AuxXpt,AuxBus?,Aux1,Xpt?,2,VideoKey?,Video\n");
+    EXPECT_EQ(Stored(), std::string(HEAD) +
+                            "Event?,MECut,ME?,P/P\n"
+                            "Continue?,AuxXpt,AuxBus?,Aux1,Xpt?,2,VideoKey?,Video\n");
+}
+
+TEST_F(MacroOfflinePage, ALineThatIsNotCompleteIsNotStored)
+{
+    static const struct {
+        std::string events;
+        int row, column;
+    } cases[] = {
+        {"Event?,MECut,ME?,P/P\nEvent?,NextTransition,ME?,P/P\n", 1, MACRO_COL_SLOT + 1},
+        {"Event?,MECut,ME?,P/P\n#?\nEvent?,MECut,ME?,P/P\n", 1, MACRO_COL_SLOT},
+    };
+    for (const auto& c : cases) {
+        OpenWith(c.events);
+        EXPECT_EQ(Stored(), HEAD + c.events);
+        EXPECT_EQ(LS_GetNowLine(LIST_MACRO_EVENTS), c.row);
+        EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), c.column);
+    }
+    // Blank lines are left out.
+    OpenWith("Event?,MECut,ME?,P/P\n");
+    (void)Key(BTN_MACRO_INSERT_BEFORE);
+    EXPECT_EQ(Stored(), std::string(HEAD) + "Event?,MECut,ME?,P/P\n");
+}
+
+TEST_F(MacroOfflinePage, TheParametersMoveBelowTheFocus)
+{
+    OpenWith("Event?,NextTransition,ME?,P/P,All?,On,Key1?,On,Key2?,Off,Key8?,On\n");
+    EXPECT_EQ(Events(), "Event 1 NextTransition P/P On - -");
+    (void)Key(BTN_MACRO_GROUP_7); // "Key 1/2"
+    EXPECT_EQ(Events(), "Event 1 NextTransition On Off - -");
+    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT);
+    (void)Key(BTN_MACRO_GROUP_7); // the second of the two
+    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT + 1);
+    Choose("On");
+    EXPECT_EQ(BT_GetStatus(BTN_MACRO_GROUP_7 + 1), BT_ON) << "on to key 3, which has no value";
+    (void)Key(BTN_MACRO_GROUP_7 + 3);
+    (void)Key(BTN_MACRO_GROUP_7 + 3);
+    EXPECT_EQ(Events(), "Event 1 NextTransition - - - On");
+    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT + 3);
+}
+
+TEST_F(MacroOfflinePage, AStoreGoesToItsRegister)
+{
+    const std::string event = "Event?,MECut,ME?,P/P\n";
+    (void)Tell("Macro@Register@List#5,S,NEWS,U,0,0");
+    (void)Tell("Macro@Register@List#6,S,NEWS,L,0,0");
+    static const struct {
+        int target;
+        bool asks;
+        const char* head;
+    } cases[] = {
+        {3, false, HEAD},
+        {4, false, "PNL 0001PNL_0004.PMRMCRO4\n"},
+        {5, true, "PNL 0001PNL_0005.PMRMCRO5\n"},
+        {6, false, HEAD}, // locked
+    };
+    for (const auto& c : cases) {
+        OpenWith(event);
+        SendMessage(LMSG_KNOBVAR, NB_MACRO_REGISTER, c.target, 1, 0);
+        (void)Key(BTN_MACRO_STORE);
+        EXPECT_EQ(GetWindow() == WINDOW_MESSAGE, c.asks) << c.target;
+        if (c.asks)
+            (void)Answer();
+        EXPECT_EQ(FileText(MACRO_EDIT_FILE), c.head + event) << c.target;
+        EXPECT_EQ(MacroOffLine_StoreModel == STOREMODEL_LOCKED, c.target == 6);
+        EXPECT_EQ(Pane_GetActiveID() != 0, c.target != 6) << "a job is under way";
+        (void)Pane_Quit(Pane_GetActiveID()); // that of the job, if there is one
+        MacroOffline_Reset();
+        File_Reset();
+    }
+}
+
+TEST_F(MacroOfflinePage, AChangeIsNotLostByLeaving)
+{
+    OpenWith("Event?,MECut,ME?,P/P\n");
+    EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+    EXPECT_EQ(GL_NowPage, PAGE_TOP) << "nothing has changed";
+    EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
+
+    OpenWith("Event?,MECut,ME?,P/P\n");
+    At(0, MACRO_COL_SLOT);
+    Choose("M/E-1");
+    EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+    EXPECT_EQ(GL_NowPage, PAGE_MACRO_OFFLINE);
+    const int pane = Pane_GetActiveID();
+    ASSERT_GT(pane, 0);
+    EXPECT_EQ(CreatePage(PAGE_MACRO_REGISTERS), 0) << "asked once, the last page counts";
+    EXPECT_EQ(Pane_GetActiveID(), pane);
+    (void)Pane_Quit(pane);
+    SendMessage(LMSG_PANEQUIT, pane, 0, 0, 0); // cancel
+    EXPECT_EQ(GL_CreatePage, 0u);
+    EXPECT_EQ(CreatePage(PAGE_MACRO_REGISTERS), 0);
+    const int again = Pane_GetActiveID();
+    (void)Pane_Quit(again);
+    SendMessage(LMSG_PANEQUIT, again, 2, 0, 0); // discard
+    EXPECT_EQ(GL_CreatePage, PAGE_MACRO_REGISTERS);
+}
+
+TEST_F(MacroOfflinePage, AFailedStoreKeepsTheListAndSaysSo)
+{
+    OpenWith("Event?,MECut,ME?,P/P\n");
+    At(0, MACRO_COL_SLOT);
+    Choose("M/E-1");
+    (void)Key(BTN_MACRO_STORE);
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
+    Hub("Disconnect");
+    Pass(10);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    EXPECT_EQ(Events(), "Event 1 MECut M/E-1");
+    EXPECT_EQ(GL_Macro_Offline_Store, 1);
+    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0);
 }

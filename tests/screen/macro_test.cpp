@@ -1,0 +1,48 @@
+// The editors of macros with something in hand.
+#include "macro_file.h"
+#include "pc_macro.h"
+#include "pc_macro_offline.h"
+#include "process.h"
+#include "table_page.h"
+#include "text.h"
+#include <fstream>
+#include <unistd.h>
+
+namespace
+{
+struct MacroPictures : TablePage {
+    void TearDown() override
+    {
+        GL_Macro_Offline_Store = 0;
+        TablePage::TearDown();
+        unlink(MACRO_EDIT_FILE);
+    }
+    static void Paint()
+    {
+        for (int i = 0; i < 4; i++)
+            Pass(1000);
+    }
+};
+} // namespace
+
+TEST_F(MacroPictures, OfflineInTheMiddleOfAnEvent)
+{
+    (void)MakeDir(MACRO_EDIT_DIR);
+    std::ofstream(MACRO_EDIT_FILE)
+        << "PNL 0001PNL_0012.PMROPENING\n#?,To the studio\n"
+           "Event?,AuxXpt,AuxBus?,Aux3,Xpt?,12,VideoKey?,Video\n"
+           "Event?,KeyAutoTransition,ME?,P/P,Key?,Key2,Time?,30,Direction?,Normal\n"
+           "Continue?,TimelineRun,Region?,DME1\nEvent?,Pause,Time?,45\n"
+           "Event?,NextTransition,ME?,M/E-1,All?,Off,KeyPriority?,On,BKGD?,On,Key1?,On\n"
+           "Event?,MECut,ME?,M/E-1\n";
+    GL_MacroEditNo = 12;
+    CopyText(GL_MacroEditNoName, "12  Name: OPENING");
+    Open(PAGE_MACRO_OFFLINE);
+    SendMessage(LMSG_LISTSEL, LIST_MACRO_EVENTS, 2, MACRO_COL_SLOT + 1, 0);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("macro_offline"));
+    SendMessage(LMSG_LISTSEL, LIST_MACRO_EVENTS, 5, MACRO_COL_CONTENTS, 0);
+    (void)Press(BTN_MACRO_GROUP_7);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("macro_offline_next"));
+}
