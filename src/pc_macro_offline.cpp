@@ -684,6 +684,8 @@ static int leave_asked(uint32_t page)
     oe.leave_to = page;
     if (push.list || (oe.leave_pane && Pane_Exist(oe.leave_pane)))
         return 0; // what goes on will lead there
+    tell("Changes are not stored");
+    RegNo_FileName_RemainEventNum_draw(); // before the pane lies over the page
     oe.leave_pane = PaneSelect_Create(int(std::size(leave_choices)), 1, leave_choices);
     return 0;
 }

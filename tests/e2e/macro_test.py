@@ -10,17 +10,25 @@ from desk import grid
 from deskcase import DeskCase
 
 EDIT = "tmp/MacroEdit/MacroEdit.PMR"
-FIRST_ROW = (200, 131)  # of the list of events, and of the registers
-VALUE = (150, 299)  # first row of the values, pitch 22
+REGISTERS, VALUES = (300, 111), (150, 299)  # the first rows of the lists, pitch 22
+DOWN = (273, 400)  # of the values: one further
 OFFLINE = grid(51)
 GROUPS = [grid(n) for n in (49, 50, 19, 20, 21, 22, 35, 36, 37, 38)]
 BEFORE, AFTER, DELETE, STORE = (grid(n) for n in (51, 52, 53, 54))
+DISCARD = (432, 275)
 
 
 class Macros(DeskCase):
-    def content(self, path):
+    """The tests build on one another, in the order of their names."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        time.sleep(1)  # the last of the start's progress has gone
+
+    def content(self):
         try:
-            with open(os.path.join(self.desk.root, path), "rb") as file:
+            with open(os.path.join(self.desk.root, EDIT), "rb") as file:
                 return file.read()
         except FileNotFoundError:
             return None
@@ -31,48 +39,56 @@ class Macros(DeskCase):
             self.assertLess(time.monotonic(), end)
             time.sleep(0.05)
 
-    def value(self, row):
-        self.desk.touch(VALUE[0], VALUE[1] + 22 * row)
-        time.sleep(0.2)
+    def touch(self, *places):
+        for place in places:
+            self.desk.touch(*place, settle=0.25)
+
+    def value(self, *rows):
+        self.touch(*[(VALUES[0], VALUES[1] + 22 * row) for row in rows])
+
+    def page(self, number):
+        self.open_page(number, "put TopMenu@SubMenuSite#false")
 
     def open_editor(self, register):
-        """From the register's row, by the arrow below the list."""
-        desk = self.desk
-        desk.console("page 5412")
-        time.sleep(0.5)
-        desk.touch(300, FIRST_ROW[1] - 22 + 22 * (register - 1))
+        self.page(5412)
+        self.touch((REGISTERS[0], REGISTERS[1] + 22 * (register - 1)))
+        self.desk.wire()
+        self.desk.touch(*OFFLINE)
+        self.desk.wait_wire("put TopMenu@SubMenuSite#false", 15)
         time.sleep(0.3)
-        desk.touch(*OFFLINE)
-        self.wait(lambda: self.content(EDIT) is not None)
-        time.sleep(1.0)
 
     def test_1_a_macro_made_offline_is_in_its_register(self):
+        made = b"PNL 0001PNL_0009.PMRMCRO9\nEvent?,MECut,ME?,M/E-2\nEvent?,Stop,Device?,Dev1\nContinue?,Stop,Device?,Dev2\n"
         desk = self.desk
+        self.open_editor(9)
+        self.assertEqual(self.content(), b"PNL 0001PNL_0009.PMRM9\n")
+        self.touch(GROUPS[1])
+        self.value(3, 1)  # MECut, M/E-2
+        for value in (0, 1):
+            self.touch(AFTER, DOWN, DOWN, DOWN)
+            self.value(5, value)  # Stop, Dev1 or Dev2
+        self.touch(GROUPS[0])
+        self.value(1)  # Continue
         desk.wire()
-        self.open_editor(9)
-        self.assertEqual(self.content(EDIT), b"PNL 0001PNL_0009.PMRM9\n")
-        desk.touch(*GROUPS[1])
-        time.sleep(0.3)
-        self.value(3)  # MECut
-        self.value(1)  # M/E-2
-        desk.touch(*STORE)
+        self.touch(STORE)
         self.wait(lambda: any("SCP Dir Put" in line for line in desk.wire()))
-        self.wait(lambda: self.content(EDIT) == b"PNL 0001PNL_0009.PMRMCRO9\nEvent?,MECut,ME?,M/E-2\n")
+        self.assertEqual(self.content(), made)
         time.sleep(2.0)
-        desk.console("page 5412")
-        self.wait(lambda: self.content(EDIT) is None)
-        time.sleep(1.0)
+        self.page(5412)  # nothing is asked: it is stored
+        self.assertIsNone(self.content())
         self.open_editor(9)
-        self.assertEqual(self.content(EDIT), b"PNL 0001PNL_0009.PMRMCRO9\nEvent?,MECut,ME?,M/E-2\n")
+        self.assertEqual(self.content(), made)
 
-    def test_2_leaving_with_a_change_asks(self):
-        desk = self.desk
-        desk.touch(*AFTER)
-        time.sleep(0.3)
-        desk.console("page 1111")
-        time.sleep(0.5)
-        self.assertIsNotNone(self.content(EDIT))
+    def test_2_a_change_is_not_lost_by_leaving(self):
+        self.touch(DELETE)
+        self.desk.console("page 1111")
+        time.sleep(1.0)
+        self.assertIsNotNone(self.content())
+        self.desk.wire()
+        self.touch(DISCARD)
+        self.desk.wait_wire("put TopMenu@SubMenuSite#false", 5)
+        self.assertIsNone(self.content())
 
 
 if __name__ == "__main__":
-    Macros.main()
+    unittest.main(verbosity=1)
