@@ -105,6 +105,14 @@ static void show_boxes()
         (void)NB_SetVar(int(i) + 1, values[i]);
 }
 
+// The caption of their button is the time itself: no title for a column of boxes.
+static void show_knobs()
+{
+    if (BT_GetKnobAssign() == BTN_MAINTENANCE_TIME)
+        (void)NB_SetTitle("Time/Date");
+    show_boxes();
+}
+
 static void read_clock()
 {
     const time_t now = time(nullptr);
@@ -378,6 +386,7 @@ struct Command {
     void (*run)();
 };
 constexpr Command commands[] = {
+    {LOCAL_MAINTENANCE "Time", show_knobs},
     {LOCAL_MAINTENANCE "Set Time/Date", sysmainte_settimedate},
     {LOCAL_MAINTENANCE "Clear Time/Date", forget_time},
     {LOCAL_MAINTENANCE "Refresh", refresh},
@@ -455,6 +464,7 @@ static int pc_engsetup_system_maintenance_create(int on, uint32_t)
         return 1;
     show_drives();
     read_clock();
+    show_knobs();
     return 0;
 }
 

@@ -306,7 +306,7 @@ inline constexpr PAGE setup_system_pages[] = {
     {.id = 0x73130099, .tree = TREE("Format", "Level A/B"), .obj = {TABS(3), Buttons(bt_engsetup_system_format_level), Lists(ls_engsetup_system_format_level), Code(pc_engsetup_system_format_level)}},
     {.id = 0x73140000, .tree = TREE("Start Up"), .obj = {TABS(4), Buttons(bt_engsetup_system_startup), Lists(ls_engsetup_system_startup), Code(pc_engsetup_system_startup)}},
     {.id = 0x73150000, .tree = TREE("Initialize"), .obj = {TABS(5), Buttons(bt_engsetup_system_initialize), Lists(ls_engsetup_system_initialize), Code(pc_engsetup_system_initialize)}},
-    {.id = 0x73170000, .tree = TREE("Maintenance"), .obj = {TABS(7), Buttons(bt_engsetup_system_maintenance), Lists(ls_engsetup_system_maintenance), Code(pc_engsetup_system_maintenance)}},
+    {.id = 0x73170000, .tree = TREE("Maintenance"), .obj = {TABS(7), Buttons(bt_engsetup_system_maintenance), Boxes(NB_Non), Lists(ls_engsetup_system_maintenance), Code(pc_engsetup_system_maintenance)}},
     {.id = 0x73170001, .tree = TREE("Maintenance", "Setup Lock"), .obj = {TABS(7), Buttons(bt_engsetup_system_maintenance_setupopelock), Lists(ls_engsetup_system_maintenance_setupopelock), Code(pc_engsetup_system_maintenance_setupopelock)}},
     {.id = 0x73170002, .tree = TREE("Maintenance", "File Load Lock"), .obj = {TABS(7), Buttons(bt_engsetup_system_maintenance_fileloadlock), Lists(ls_engsetup_system_maintenance_fileloadlock), Code(pc_engsetup_system_maintenance_fileloadlock)}},
 };

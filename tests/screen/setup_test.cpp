@@ -1,0 +1,82 @@
+// The pages of engineering setup, told by a server and with edits in hand.
+#include "pc_engsetup_sys.h"
+#include "setup_desk.h"
+
+namespace
+{
+struct SetupPictures : SetupTest {
+    void SetUp() override
+    {
+        SetupTest::SetUp();
+        EngSetupFormat_Reset();
+        EngSetupNetwork_Reset();
+        EngSetupLock_Reset();
+        SetupIndex_Build();
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        EngSetupFormat_Reset();
+        EngSetupNetwork_Reset();
+        EngSetupLock_Reset();
+        SetupTest::TearDown();
+    }
+    static void Paint()
+    {
+        for (int i = 0; i < 4; i++)
+            Pass(1000);
+    }
+};
+} // namespace
+
+TEST_F(SetupPictures, FormatWithDifferences)
+{
+    const std::string format = "Engineering Setup@System@Format@";
+    (void)Open(0x73130000);
+    TellAll(format,
+            {"Video Format@PNL1#29.97/59.94,1080i", "Video Format2@SWR1#3,6,0",
+             "Video Format2@SWR2#3,6,0", "Video Format@DME1#29.97/59.94,1080i", "Reference@PNL1#BB",
+             "Reference@SWR1#BB", "Reference@SWR2#BB", "Reference@DME1#BB",
+             "Reference@DME2#Tri Sync", "Switcher Aspect#SWR1,16:9,16:9,16:9,16:9,16:9,16:9,16:9",
+             "DME Aspect#DME1,16:9,16:9,16:9,16:9"});
+    SelectRow(1);
+    (void)Push(BTN_FORMAT_SIGNAL);
+    (void)Answer(7);
+    (void)Push(BTN_FORMAT_NARROW);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("setup_format"));
+}
+
+TEST_F(SetupPictures, NetworkConfig)
+{
+    const std::string list = "Engineering Setup@System@Network Config@List#";
+    (void)Open(0x73110000);
+    TellAll(list, {"PNL001D001,PNL1,192.168.10.1,192.168.20.1,192.168.30.1",
+                   "SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11",
+                   "DME001D001,DME1,192.168.10.21,192.168.20.21,192.168.30.21"});
+    SelectRow(1);
+    (void)Push(34);
+    (void)Type("12");
+    Paint();
+    EXPECT_TRUE(MatchesGolden("setup_network"));
+}
+
+TEST_F(SetupPictures, LockList)
+{
+    SetupMenu[SetupIndex_Find(0x73130000)].lock = 1;
+    (void)Open(0x73170001);
+    SelectRow(2);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("setup_lock"));
+}
+
+// The knobs have stopped the clock.
+TEST_F(SetupPictures, Maintenance)
+{
+    (void)Open(0x73170000);
+    for (const auto& [box, value] : {std::pair{1, 2026}, {2, 11}, {3, 25}, {4, 10}, {5, 30}})
+        SendMessage(LMSG_KNOBVAR, box, value, 0, 0);
+    (void)Push(33);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("setup_maintenance"));
+}
