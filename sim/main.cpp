@@ -122,8 +122,14 @@ int main(int argc, char** argv)
     }
     Log_SetEcho(!options.is_quiet);
     Fault_Seed(unsigned(options.seed));
-    if (!main_open(options.log, Log_Open) || !main_open(options.values, Values_Load) ||
-        !main_open(options.script, Console_OpenScript))
+    if (!main_open(options.log, Log_Open))
+        return 1;
+    // Before all that takes time: who connects meanwhile waits, and need not try again.
+    if (!Link_Start(options.listen)) {
+        fprintf(stderr, "scs_sim: cannot listen on %s, see the log\n", options.listen);
+        return 1;
+    }
+    if (!main_open(options.values, Values_Load) || !main_open(options.script, Console_OpenScript))
         return 1;
     Drive_SetRoot(options.root);
     if (options.has_files)
@@ -132,10 +138,6 @@ int main(int argc, char** argv)
     signal(SIGPIPE, SIG_IGN);
     signal(SIGINT, main_catch);
     signal(SIGTERM, main_catch);
-    if (!Link_Start(options.listen)) {
-        fprintf(stderr, "scs_sim: cannot listen on %s, see the log\n", options.listen);
-        return 1;
-    }
     int status = 0;
     int64_t next = 0;
     while (!Console_HasQuit(&status) && !main_signal)
