@@ -284,8 +284,8 @@ class Faults(SimTest):
         self.assertTrue(any(len(line) > 1024 for line in got))
         self.assertTrue(any("%n" in line for line in got))
         self.assertTrue(frames._fill(1) and hub._fill(1))
-        self.do(*["garbage 1", "wait 15", "send Clean"] * 40)
-        for _ in range(40):
+        self.do(*["garbage 1", "wait 60", "send Clean"] * 25)
+        for _ in range(25):
             panel.until("Clean")
 
 
