@@ -1,12 +1,17 @@
 // macro_pages: the pages of the Macro menu.
 #pragma once
+#include "macro_attach.h"
 #include "pc_macro.h"
+#include "pc_macro_attach.h"
 #include "pc_macro_offline.h"
+#include "pc_macro_timeline.h"
 #include "register_pages.h"
 
 inline constexpr VF_TBL vf_macro[] = {
     {.id = 1, .caption = "Register", .page = 0x54120000},
+    {.id = 2, .caption = "Attach-\nment", .page = 0x54210000},
     {.id = 3, .caption = "Menu\nMacro\nRegister", .page = 0x54310000},
+    {.id = 4, .caption = "Timeline", .page = 0x54410000},
     VF_END,
 };
 
@@ -84,7 +89,61 @@ inline constexpr NB_TBL nb_macro_offline[] = {
 };
 static_assert(BoxesAreSound(nb_macro_offline));
 
+// --- Attachment ---
+
+inline constexpr LS_TBL ls_macro_attach[] = {
+    {.id = LIST_MACRO_ATTACH, .hn = 5, .vn = 8, .x = 100, .y = 78, .head = {"Block", "Button", "Mode", "No", "Macro"},
+     .width = {130, 216, 52, 36, 118}, .group = {1, 1, 1, 2}, .sb_top = 78, .sb_bottom = 276},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_macro_attach));
+
+#define ATTACH "LOCAL@Macro@Attach@Attach@"
+constexpr BT_TBL AttachBlock(int id, int group, const char* cmd)
+{
+    return Action({.id = id, .caption = BlockSelect[group], .group = group < ATTACHGROUP_AUX ? "Go to Block" : nullptr, .cmd = {cmd}});
+}
+inline constexpr BT_TBL bt_macro_attach[] = {
+    AttachBlock(BTN_ATTACH_BLOCK,     ATTACHGROUP_PP,  ATTACH "Block#1"), AttachBlock(BTN_ATTACH_BLOCK + 1, ATTACHGROUP_ME1, ATTACH "Block#2"),
+    AttachBlock(BTN_ATTACH_BLOCK + 2, ATTACHGROUP_ME2, ATTACH "Block#3"), AttachBlock(BTN_ATTACH_BLOCK + 3, ATTACHGROUP_ME3, ATTACH "Block#4"),
+    AttachBlock(BTN_ATTACH_BLOCK + 4, ATTACHGROUP_ME4, ATTACH "Block#5"), AttachBlock(BTN_ATTACH_BLOCK + 5, ATTACHGROUP_ME5, ATTACH "Block#6"),
+    AttachBlock(BTN_ATTACH_BLOCK_7,     ATTACHGROUP_AUX,    ATTACH "Block#7"),
+    AttachBlock(BTN_ATTACH_BLOCK_7 + 1, ATTACHGROUP_OTHERS, ATTACH "Block#8"),
+    Radio( {.id = BTN_ATTACH_BUTTON_MODE, .caption = "Button\nMode", .group = "Xpt", .cmd = {ATTACH "Mode#Button Mode"}}),
+    Radio( {.id = BTN_ATTACH_PAIR_MODE,   .caption = "Pair\nMode",   .group = "Xpt", .cmd = {ATTACH "Mode#Pair Mode"}}),
+    Action({.id = BTN_ATTACH_DELETE,      .caption = "Delete",        .cmd = {ATTACH "Delete"}}),
+    Action({.id = BTN_ATTACH_ALL_CLEAR,   .caption = "All\nClear",    .cmd = {ATTACH "All Clear"}}),
+    BT_END,
+};
+#undef ATTACH
+static_assert(ButtonsAreSound(bt_macro_attach));
+
+// --- Timeline ---
+
+#define TIMELINE "LOCAL@Macro@Timeline@"
+#define TIMELINE_KEYS                                                                                                   \
+    Action({.id = 49, .caption = "Set", .group = "Action", .cmd = {TIMELINE "Set"}}),                                   \
+    Action({.id = 50, .caption = "Clear", .group = "Action", .cmd = {TIMELINE "Clear"}})
+inline constexpr BT_TBL bt_macro_timeline[] = {
+    TIMELINE_KEYS, Jump({.id = 52, .caption = "Rewind\nAction", .cmd = {"#54410001"}}), BT_END,
+};
+inline constexpr BT_TBL bt_macro_tl_rewind_action[] = {TIMELINE_KEYS, BT_END};
+static_assert(ButtonsAreSound(bt_macro_timeline) && ButtonsAreSound(bt_macro_tl_rewind_action));
+#undef TIMELINE_KEYS
+#undef TIMELINE
+// One macro at a time.
+inline constexpr LS_TBL ls_macro_timeline[] = {RegisterList(1, 100, 78, 12, keyss_columns, 0, 1), LS_END};
+static_assert(ListsAreSound(ls_macro_timeline));
+
 inline constexpr PAGE macro_sub_pages[] = {
+    {.id = 0x54410000, .tree = {"Macro", "Timeline"},
+     .obj = {Base(base_main), LeftTabs(vf_macro, 4), Buttons(bt_macro_timeline), Lists(ls_macro_timeline),
+             Code(pc_macro_timeline, MACROACTION_KEYFRAME)}},
+    {.id = 0x54410001, .tree = {"Macro", "Timeline", "Rewind Action"},
+     .obj = {Base(base_sub, 0x54410000), LeftTabs(vf_macro, 4), Buttons(bt_macro_tl_rewind_action), Lists(ls_macro_timeline),
+             Code(pc_macro_timeline, MACROACTION_REWIND)}},
+    {.id = 0x54210000, .tree = {"Macro", "Attachment"},
+     .obj = {Base(base_main), LeftTabs(vf_macro, 2), Buttons(bt_macro_attach), Lists(ls_macro_attach), Code(pc_macro_attach)}},
     {.id = PAGE_MACRO_OFFLINE, .tree = {"Macro", "Register", "Offline Edit"},
      .obj = {Base(base_sub, PAGE_MACRO_REGISTERS), Buttons(bt_macro_offline), Lists(ls_macro_offline),
              Boxes(nb_macro_offline), Code(pc_macro_offline)}},

@@ -46,3 +46,18 @@ TEST_F(MacroPictures, OfflineInTheMiddleOfAnEvent)
     Paint();
     EXPECT_TRUE(MatchesGolden("macro_offline_next"));
 }
+
+TEST_F(MacroPictures, Attachment)
+{
+    Open(0x54210000);
+    TellAll("Macro@Register@List#", {"3,S,OPENING,U,0,0", "12,S,NEWS,U,0,0", "40,S,CLOSE,L,0,0"});
+    TellAll("Macro@Attachment@List#",
+            {"1,5,3,0,3,0,0,0,0,0,0,0,0", "1,12,1,1,12,2,1,0,0,0,0,0,0",
+             "2,4,1,2,12,0,0,0,0,0,0,0,0", "8,262,0,0,40,0,0,0,0,0,0,0,0",
+             "11,30,1,0,40,0,0,0,0,0,0,0,0", "43,12,3,0,3,0,0,0,0,0,0,0,0"});
+    Tell("Macro@Attachment@Xpt Attachment Mode#Pair Mode");
+    Pass(10);
+    Touch(200, 133); // the second row
+    Paint();
+    EXPECT_TRUE(MatchesGolden("macro_attach"));
+}

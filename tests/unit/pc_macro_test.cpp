@@ -6,6 +6,7 @@
 #include "file_scp.h"
 #include "pane.h"
 #include "pc_macro.h"
+#include "pc_macro_attach.h"
 #include "pc_macro_offline.h"
 #include "process.h"
 #include "setup_desk.h"
@@ -367,4 +368,120 @@ TEST_F(MacroOfflinePage, AFailedStoreKeepsTheListAndSaysSo)
     EXPECT_EQ(Events(), "Event 1 MECut M/E-1");
     EXPECT_EQ(GL_Macro_Offline_Store, 1);
     EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0);
+}
+
+namespace
+{
+const std::string ATTACHMENT = "Macro@Attachment@List#";
+const std::string PLACE = ",1,2,3,4,5,6"; // where on the panel
+
+struct MacroAttachPage : MacroPages {
+    static void OpenWith(const Lines& lines)
+    {
+        Open(0x54210000);
+        (void)Tell("Macro@Register@List#12,S,OPENING,U,0,0");
+        for (const std::string& line : lines)
+            (void)Tell(ATTACHMENT + line + PLACE);
+        Pass(200);
+    }
+    static std::string Row(int row) { return SetupTest::Row(row, 5, 1); }
+};
+} // namespace
+
+TEST_F(MacroAttachPage, AnEntryIsShownInWords)
+{
+    static const struct {
+        const char* fields; // block, buttons, mode, register, pair
+        const char* row;
+    } cases[] = {
+        {"1,5,3,0,12,0,0", "P/P XPT|KEY 1 XPT 5|Only|12|OPENING"},
+        {"1,5,3,0,12,2,1", "P/P XPT|KEY 1 XPT 5 Pair 2|Only|12|OPENING"},
+        {"1,262,0,1,250,0,0", "P/P XPT|RTR Dest 6 |Pre|250|"},
+        {"1,328,0,1,12,0,0", "P/P XPT|Bank 1-8|Pre|12|OPENING"},
+        {"1,338,0,1,12,0,0", "P/P XPT|Bank 2-9|Pre|12|OPENING"},
+        {"9,1,1,2,12,0,0", "M/E-1 Trans|BKGD CUT|Post|12|OPENING"},
+        {"2,4,0,2,12,0,0", "P/P Trans|(TAKE)|Post|12|OPENING"},
+        {"3,10,0,0,12,0,0", "P/P Key Trans|KEY 2 AUTO|Only|12|OPENING"},
+        {"4,1,1,0,12,0,0", "P/P FlexiPad|RCL BANK 0|Only|12|OPENING"},
+        {"43,133,24,0,12,0,0", "Aux XPT 1|AUX 24 MCRO|Only|12|OPENING"},
+        {"66,160,0,0,12,0,0", "Multi XPT 4|XPT 160|Only|12|OPENING"},
+        {"66,999,0,0,12,0,0", "Multi XPT 4||Only|12|OPENING"}, // a button that nobody knows
+    };
+    for (const auto& c : cases) {
+        OpenWith({c.fields});
+        EXPECT_EQ(Row(0), c.row) << c.fields;
+    }
+    for (const char* fields :
+         {"0,1,1,0,12,0,0", "67,1,1,0,12,0,0", "1,1,1,3,12,0,0", "1,1,1,0,0,0,0", "1,1,1,0,251,0,0",
+          "1,1,-1,0,12,0,0", "1,1,65536,0,12,0,0", "1,1,,0,12,0,0", "1,1,1,0,12", "", "x"}) {
+        OpenWith({fields});
+        EXPECT_EQ(LS_GetNData(1), 0) << fields;
+    }
+}
+
+TEST_F(MacroAttachPage, TheListIsInTheOrderOfThePanels)
+{
+    OpenWith({"66,1,0,0,12,0,0", "8,9,2,0,12,0,0", "1,7,2,0,12,0,0", "8,9,1,0,12,0,0",
+              "1,7,1,0,12,0,0", "8,2,9,0,12,0,0"});
+    EXPECT_EQ(Row(0) + Row(1), "P/P XPT|BKGD A XPT 7|Only|12|OPENING"
+                               "P/P XPT|BKGD B XPT 7|Only|12|OPENING");
+    EXPECT_EQ(Row(2), "M/E-1 XPT|KEY 7 XPT 2|Only|12|OPENING");
+    EXPECT_EQ(LS_GetNData(1), 6);
+    (void)Tell(ATTACHMENT + "1,7,1,2,13,0,0" + PLACE); // the button has another macro
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 6);
+    EXPECT_EQ(Row(0), "P/P XPT|BKGD A XPT 7|Post|13|");
+    (void)Press(BTN_ATTACH_BLOCK + 1);
+    EXPECT_EQ(LS_GetNowLine(1), 2);
+    (void)Press(BTN_ATTACH_BLOCK_7 + 1);
+    EXPECT_EQ(LS_GetNowLine(1), 5);
+    EXPECT_EQ(BT_GetVisible(BTN_ATTACH_BLOCK + 2), BT_DISABLED) << "M/E-2 has none";
+    (void)Tell(ATTACHMENT + "KILL");
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 0);
+    EXPECT_EQ(BT_GetVisible(BTN_ATTACH_BLOCK), BT_DISABLED);
+}
+
+TEST_F(MacroAttachPage, WhatClearsDataAsksFirst)
+{
+    OpenWith({"1,7,2,0,12,0,0", "8,9,1,0,12,3,4"});
+    (void)Tell("Macro@Attachment@Xpt Attachment Mode#Button Mode");
+    EXPECT_EQ(BT_GetStatus(BTN_ATTACH_BUTTON_MODE), BT_ON);
+    static const struct {
+        int key;
+        const char* command; // null: nothing is asked
+    } cases[] = {
+        {BTN_ATTACH_DELETE, "put Macro@Attachment@Delete#8,9,1,0,12,3,4,1,2,3,4,5,6"},
+        {BTN_ATTACH_ALL_CLEAR, "put Macro@Attachment@All Clear#true"},
+        {BTN_ATTACH_PAIR_MODE, "put Macro@Attachment@Xpt Attachment Mode#Pair Mode"},
+        {BTN_ATTACH_BUTTON_MODE, nullptr},
+    };
+    for (const auto& c : cases) {
+        Cursor(1, 1);
+        EXPECT_THAT(Puts(c.key), IsEmpty());
+        EXPECT_EQ(GetWindow() != WINDOW_NONE, c.command != nullptr) << c.key;
+        if (c.command) {
+            EXPECT_THAT(Answer(), ElementsAre(c.command));
+        }
+    }
+    EXPECT_EQ(BT_GetStatus(BTN_ATTACH_BUTTON_MODE), BT_ON) << "until the server says otherwise";
+}
+
+TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
+{
+    const std::string head = "Device@MACRO Timeline@";
+    static const struct {
+        uint32_t page;
+        const char* path;
+    } cases[] = {{0x54410000, "Action Assign"}, {0x54410001, "Rewind Action"}};
+    for (const auto& c : cases) {
+        const Lines opened = Open(c.page);
+        EXPECT_THAT(opened, testing::IsSupersetOf(
+                                {"add " + head + c.path, "put " + head + "Tally Back#true"}));
+        Cursor(1, 11);
+        EXPECT_THAT(Puts(49), ElementsAre("put " + head + c.path + "#12"));
+        EXPECT_THAT(Puts(50), ElementsAre("put " + head + c.path + "#0"));
+        EXPECT_THAT(Leave(), testing::IsSupersetOf(
+                                 {"put " + head + "Tally Back#false", "remove " + head + c.path}));
+    }
 }
