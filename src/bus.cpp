@@ -287,6 +287,8 @@ void ReceiveCommand_Management()
     }
     bus_drain_frames();
     bus_drain_shp();
-    if (Net_TakeHubLoss())
+    if (Net_TakeHubLoss()) {
         File_HubLost();
+        FMCtrl3_HubLost();
+    }
 }

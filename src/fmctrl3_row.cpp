@@ -1,5 +1,5 @@
 // What the hub says of an element, in one row.
-#include "fmctrl3.h"
+#include "fmctrl3_private.h"
 #include "tally_value.h"
 #include "text.h"
 #include <cctype>
@@ -76,6 +76,18 @@ static bool join_path(ELEMENT* e)
     return PrintText(e->full_name, "%s/%s", e->full_path, e->name) < int(sizeof e->full_name);
 }
 
+bool clip_read_path(const char* row_path, ELEMENT* element)
+{
+    char path[CMD_SIZE];
+    FMCtrl3_CopyPath(path, row_path, sizeof path);
+    return read_path(path, element) && join_path(element);
+}
+
+int clip_frames(const char* text)
+{
+    return int(NumberIn(text, 0, ELEMENT_FRAMES_MAX));
+}
+
 static bool read_values(const char* values, ELEMENT* e)
 {
     Parts p;
@@ -85,7 +97,7 @@ static bool read_values(const char* values, ELEMENT* e)
     }
     if (SplitValue(p, values, VALUE_PARTS) != FILE_VALUES)
         return false;
-    e->duration = Decimal(p.v[AT_FRAMES]);
+    e->duration = clip_frames(p.v[AT_FRAMES]);
     e->is_pair = Decimal(p.v[AT_PAIR]);
     e->format4k = Decimal(p.v[AT_FORMAT4K]);
     e->format = Decimal(p.v[AT_FORMAT]);
@@ -98,7 +110,6 @@ static bool read_values(const char* values, ELEMENT* e)
 int FMCtrl3_ReadRow(const char* row, int type, ELEMENT* element)
 {
     char text[CMD_SIZE];
-    char path[CMD_SIZE];
     if (strlen(row) >= sizeof text)
         return -1;
     CopyText(text, row);
@@ -106,9 +117,8 @@ int FMCtrl3_ReadRow(const char* row, int type, ELEMENT* element)
     if (values == text || values[-1] != ':')
         return -1;
     values[-1] = '\0';
-    FMCtrl3_CopyPath(path, text, sizeof path);
     ELEMENT e = {.type = type};
-    if (!read_path(path, &e) || !join_path(&e) || !read_values(values, &e))
+    if (!clip_read_path(text, &e) || !read_values(values, &e))
         return -1;
     *element = e;
     return 0;

@@ -1,4 +1,5 @@
-// fmctrl_private: what the files of the frame-memory catalogue share. Nobody else includes it.
+// fmctrl_private: what the files of the frame-memory catalogue share. Besides them only
+// fmctrl3_thumb.cpp includes it, for bitmap files that are checked before they are shown.
 // fmctrl.cpp takes the tallies apart, fmctrl_register.cpp has the registers and their names,
 // fmctrl_list.cpp stills and clips, fmctrl_folder.cpp the folders, fmctrl_thumb.cpp the thumbnails,
 // fmctrl_sft.cpp their files, fmctrl_drop.cpp and fmctrl_ftp.cpp the two file interfaces.

@@ -164,6 +164,9 @@ extern int SYS_3DPair;
 extern int SYS_AutoStore;
 extern int SYS_StoreFree;
 extern int SYS_StoreFree2;
+extern int SYS_StoreTotal; // of the clip store, as SYS_StoreFree; the hub tells these
+extern int SYS_MemoryTotal;
+extern int SYS_MemoryFree;
 extern int SYS_DWSubEnable;
 extern int SYS_MP2ReEntry;
 extern int SYS_CCRReEntry;

@@ -58,7 +58,7 @@ static void quit()
     Global_FreeBusNames();
     Register_Free();
     FMCtrl_Quit();
-    FMCtrl3_Quit();
+    FMCtrl3_Finalize();
     FreeGraphics();
 }
 

@@ -17,6 +17,7 @@
 #include "device.h"
 #include "file.h"
 #include "file_dir.h"
+#include "fmctrl3.h"
 #include "global.h"
 #include "graphics.h"
 #include "held.h"
@@ -211,6 +212,7 @@ void Harness_Reset()
     File_Reset();
     FileDual_Reset();
     FileAll_Reset();
+    FMCtrl3_Init();
     Register_Free();
     RegisterPages_Reset();
     mm_registers_free();

@@ -1,0 +1,55 @@
+// fmctrl3_private: what the files of the clip-store catalogue share. Nobody else includes it.
+// fmctrl3.cpp takes the hub's lines, fmctrl3_row.cpp reads rows, fmctrl3_tree.cpp keeps the
+// elements, fmctrl3_thumb.cpp their thumbnails.
+#pragma once
+#include "fmctrl3.h"
+
+constexpr int MOD_CLIP = 22; // area of the log
+
+constexpr int NODE_LEVELS = 8; // each skips four times as many elements as the one below
+
+// An element in the list, in the hash of paths, and in the queues of thumbnails.
+struct CLIP_NODE {
+    ELEMENT_LIST list; // first: an ELEMENT_LIST of the tree is a node
+    CLIP_NODE* same_hash = nullptr;
+    int levels = 0;
+    CLIP_NODE* ahead[NODE_LEVELS] = {}; // the next one that has this level
+    CLIP_NODE* next_wanted[2] = {};     // in the queues of fmctrl3_thumb.cpp
+    CLIP_NODE* prev_wanted[2] = {};
+    bool is_wanted[2] = {};
+    int next_frame = 0; // to be looked at by the second queue
+};
+
+inline CLIP_NODE* clip_node(ELEMENT_LIST* list)
+{
+    return reinterpret_cast<CLIP_NODE*>(list);
+}
+
+// --- fmctrl3_tree.cpp ---
+void clip_tree_init(); // the root, and nothing else
+void clip_tree_free();
+// Take a copy at its place in the order. Null when memory is out; its path and type are not there
+// yet.
+CLIP_NODE* clip_tree_insert(const ELEMENT& e);
+void clip_tree_unlink(CLIP_NODE* node); // out of the list and the hash; the caller frees it
+void clip_node_free(CLIP_NODE* node);
+void clip_tree_clear(int type);
+// Of a whole path, "/root/NEWS/OPENING"; null: none.
+CLIP_NODE* clip_tree_find(const char* full_name, int type);
+
+// --- fmctrl3_row.cpp ---
+// "root/NEWS/OPENING.SFH" into the names of an element; false when it is no path of the tree.
+bool clip_read_path(const char* row_path, ELEMENT* element);
+int clip_frames(const char* text); // a number of frames, within its limits
+
+// --- fmctrl3_thumb.cpp ---
+// What is not on the drive is fetched: its middle first.
+void clip_thumbnails_want(CLIP_NODE* node);
+void clip_thumbnails_forget(CLIP_NODE* node); // nothing more is fetched of it
+void clip_thumbnails_forget_all();
+void clip_thumbnails_remove(const ELEMENT& e); // the files
+// Frames first to last are what is left of a clip, and its first is now 0. False when its first
+// picture is missing: then none is left.
+bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last);
+void clip_thumbnails_pass(int elapsed_ms);
+void clip_thumbnails_inserted(); // the tree is being told

@@ -1,0 +1,445 @@
+#include "bus_probe.h"
+#include "fmctrl3.h"
+#include "netio.h"
+#include "tdl.h"
+#include "text.h"
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <utility>
+
+namespace
+{
+namespace fs = std::filesystem;
+constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
+
+struct ClipStore : BusTest {
+    DEVICE* first_switcher = nullptr;
+    int switchers = 0;
+
+    void SetUp() override
+    {
+        BusTest::SetUp();
+        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
+        switchers = std::exchange(SYS_MySwrMax, 1);
+        CopyText(DEV_Swr[0].id, "SWR000D001");
+        GL_NowPage = 0x21110000;
+        fs::remove_all(FM_FOLDER);
+        FMCtrl3_Init();
+        (void)TakeQueuedCommands();
+    }
+    void TearDown() override
+    {
+        FMCtrl3_Finalize();
+        GL_NowPage = 0;
+        DEV_MySwr[0] = first_switcher;
+        SYS_MySwrMax = switchers;
+        fs::remove_all(FM_FOLDER);
+        BusTest::TearDown();
+    }
+
+    static void Hub(const std::string& verb, const std::string& table, const std::string& row)
+    {
+        std::string v = verb, t = "CS1." + table, r = row;
+        SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), Hash(v.c_str()),
+                    row.empty() ? 0 : Arg(r.c_str()));
+    }
+    static void Folder(const std::string& path)
+    {
+        Hub("Insert", "ClipStoreFolder", "root/" + path + ":1");
+    }
+    static void File(const std::string& path, int frames = 1, int thumbnail = 0)
+    {
+        Hub("Insert", "ClipStoreFile",
+            "root/" + path + ".SFH:" + std::to_string(frames) +
+                ", 0, 0, 3, 2026-01-31 23:59:00, 1, " + std::to_string(thumbnail));
+    }
+    static Strings Tree()
+    {
+        Strings names;
+        for (const ELEMENT_LIST* e = ElementListTop.next; e; e = e->next)
+            names.push_back(e->element.full_name + 5);
+        return names;
+    }
+    // "kind name column frame" of each change that was told since the last call.
+    static Strings Changes()
+    {
+        Strings changes;
+        for (const auto& s : std::exchange(probe::seen, {})) {
+            if (s.msg != LMSG_FMCTRL3CHANGE)
+                continue;
+            const auto* e = reinterpret_cast<const ELEMENT*>(s.bx);
+            changes.push_back(std::to_string(s.ax) + " " + (s.ax == 3 || !e ? "-" : e->name) + " " +
+                              std::to_string(s.cx) + " " + std::to_string(s.dx));
+        }
+        return changes;
+    }
+    static const ELEMENT& At(const char* path)
+    {
+        static const ELEMENT none;
+        const ELEMENT_LIST* e = FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_ALL, path);
+        EXPECT_TRUE(e) << path;
+        return e ? e->element : none;
+    }
+
+    struct Get {
+        std::string label, remote, local;
+    };
+    static std::vector<Get> Gets()
+    {
+        std::vector<Get> gets;
+        const std::string command = "put File@Remote Access@SCP Dir Get#";
+        for (const std::string& line : TakeQueuedCommands()) {
+            if (!line.starts_with(command))
+                continue;
+            const size_t a = line.find(','), b = line.find(',', a + 1), c = line.find(',', b + 1);
+            gets.push_back({line.substr(command.size(), a - command.size()),
+                            line.substr(a + 1, b - a - 1), line.substr(b + 1, c - b - 1)});
+        }
+        return gets;
+    }
+    static Strings Remotes(const std::vector<Get>& gets)
+    {
+        Strings names;
+        for (const Get& get : gets)
+            names.push_back(get.remote.substr(get.remote.find("FM/1/") + 5));
+        return names;
+    }
+    static void Put(const std::string& name, size_t bytes)
+    {
+        fs::create_directories(FM_FOLDER);
+        std::ofstream(FM_FOLDER + name, std::ios::binary) << std::string(bytes, 't');
+    }
+    // The server carries a fetch out.
+    static void Answer(const Get& get, const std::string& reply)
+    {
+        static int work = 500;
+        if (reply == "OK")
+            Put(get.local.substr(get.local.rfind('/') + 1), 6966);
+        const std::string ack = std::to_string(++work);
+        Deliver("File@Remote Access@SCP Dir Get", get.label + "," + ack);
+        Deliver("File@Remote Access@SCP Dir Get@Status", ack + "," + reply);
+    }
+    static Strings Files()
+    {
+        Strings names;
+        std::error_code none;
+        for (const auto& entry : fs::directory_iterator(FM_FOLDER, none))
+            names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    static void Passes(int ms)
+    {
+        for (; ms > 0; ms -= 500)
+            SendMessage(MSG_REDRAW, 500, 0, 0, 0);
+    }
+};
+} // namespace
+
+TEST_F(ClipStore, ElementsStandInTheOrderOfTheTree)
+{
+    for (const char* path : {"B/two", "zoo", "B/A/deep", "A/x", "B/one", "alpha", "A.B/y"})
+        File(path);
+    for (const char* path : {"B", "B/A", "A", "A.B", "C", "alpha"})
+        Folder(path);
+    EXPECT_THAT(Tree(), ElementsAre("/", "/A", "/A/x", "/A.B", "/A.B/y", "/B", "/B/A", "/B/A/deep",
+                                    "/B/one", "/B/two", "/C", "/alpha", "/alpha", "/zoo"));
+    Strings back;
+    for (const ELEMENT_LIST* e = ElementListBottom; e != &ElementListTop; e = e->prev)
+        back.insert(back.begin(), e->element.full_name + 5);
+    EXPECT_EQ(back, Tree());
+    const auto children = [](const char* path) {
+        Strings names;
+        const ELEMENT_LIST* folder = FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FOLDER, path);
+        for (const ELEMENT_LIST* e = nullptr; (e = FMCtrl3_GetChild(folder, e));)
+            names.push_back(e->element.name);
+        return names;
+    };
+    EXPECT_THAT(children("/"), ElementsAre("A", "A.B", "B", "C", "alpha", "alpha", "zoo"));
+    EXPECT_THAT(children("/B"), ElementsAre("A", "one", "two"));
+    EXPECT_THAT(children("/C"), IsEmpty());
+    Hub("Delete", "ClipStoreFolder", "root/B"); // what is in it waits for its own row
+    EXPECT_THAT(children("/"), ElementsAre("A", "A.B", "C", "alpha", "alpha", "zoo"));
+    FMCtrl3_Clear(ELEMENT_TYPE_FOLDER);
+    EXPECT_THAT(children("/"), ElementsAre("alpha", "zoo"));
+    FMCtrl3_Clear(0);
+    EXPECT_THAT(Tree(), ElementsAre("/"));
+}
+
+TEST_F(ClipStore, RowsThatAreNotWholeChangeNothing)
+{
+    const std::string n32(32, 'n'), values = ":1,0,0,3,,1,0";
+    Folder("A");
+    File("A/x", 7);
+    (void)Changes();
+    static const struct {
+        const char *verb, *table;
+        std::string row;
+    } rows[] = {
+        {"Insert", "ClipStoreFile", "root/y:1,0,0,3,,1"},
+        {"Insert", "ClipStoreFile", "root/1/2/3/4/5/y" + values},
+        {"Insert", "ClipStoreFile", "root/" + n32 + "n" + values},
+        {"Insert", "ClipStoreFile", "root/" + n32 + "nn" + values},
+        {"Insert", "ClipStoreFolder", "root/B:,"},
+        {"Insert", "ClipStoreFolder", "root:1"},
+        {"Insert", "ClipStoreInfo", "root/B:1"},
+        {"Delete", "ClipStoreFolder", "root"},
+        {"Delete", "ClipStoreFolder", "root/"},
+        {"Delete", "ClipStoreFolder", ""},
+        {"Delete", "ClipStoreFile", "root/A"},
+        {"Notify", "ClipStoreFile", "root/A/x.SFH:frames:9"},
+        {"Notify", "ClipStoreFile", "root/A/x.SFH:status"},
+        {"Notify", "ClipStoreFolder", "root/A/x.SFH:status:3"},
+        {"Result", "ClipStoreFile", "Trim root/A/x.SFH 0 2 3:80"},
+        {"Result", "ClipStoreFile", "Trim root/A/x.SFH 0 2 3:7E"},
+        {"Result", "ClipStoreFile", "Trim root/A/x.SFH 2 3:7F"},
+        {"Result", "ClipStoreFile", "Copy root/A/x.SFH 0 2 3:7F"},
+        {"Result", "ClipStoreFile", "Trim:7F"},
+    };
+    for (const auto& r : rows) {
+        Hub(r.verb, r.table, r.row);
+        EXPECT_THAT(Changes(), IsEmpty()) << r.verb << " " << r.row;
+    }
+    EXPECT_THAT(Tree(), ElementsAre("/", "/A", "/A/x"));
+    EXPECT_EQ(At("/A/x").duration, 7);
+    File(n32);
+    EXPECT_EQ(At(("/" + n32).c_str()).name, n32);
+}
+
+TEST_F(ClipStore, ChangesAreToldToFrameMemoryPagesAlone)
+{
+    Folder("A");
+    File("A/x", 3);
+    EXPECT_THAT(Changes(), ElementsAre("1 A 0 0", "1 x 0 0"));
+    for (const auto& [word, column] : {std::pair{"pairfile:1", 2},
+                                       {"format4k:1", 3},
+                                       {"format:5", 4},
+                                       {"timestamp:2027-02-01 10:11:12", 5},
+                                       {"status:3", 6}}) {
+        Hub("Notify", "ClipStoreFile", std::string("root/A/x.SFH:") + word);
+        EXPECT_THAT(Changes(), ElementsAre("2 x " + std::to_string(column) + " 0")) << word;
+    }
+    const ELEMENT& x = At("/A/x");
+    EXPECT_TRUE(x.is_pair == 1 && x.format4k == 1 && x.format == 5 && x.exist == 3);
+    EXPECT_STREQ(x.create_time, "2027 Feb.01 10:11");
+    File("A/x", 4);
+    EXPECT_THAT(Changes(), ElementsAre("2 x 0 0")) << "told anew";
+    GL_NowPage = 0x11110000;
+    Hub("Delete", "ClipStoreFile", "root/A/x.SFH");
+    EXPECT_THAT(Changes(), IsEmpty());
+    GL_NowPage = 0x71620000;
+    Hub("Deleted", "ClipStoreFolder", "root/A");
+    EXPECT_THAT(Changes(), ElementsAre("3 - 0 0"));
+    FMCtrl3_HubLost();
+    EXPECT_THAT(Changes(), ElementsAre("6 - 0 0"));
+}
+
+TEST_F(ClipStore, AViewMovesThroughTheTree)
+{
+    for (const char* path : {"A", "A/B", "A/B/C", "A/B/C/D", "root"})
+        Folder(path);
+    File("A/x");
+    CURRENT_INFO info;
+    FMCtrl3_InitCurrentInfo(&info);
+    static const struct {
+        const char* directory;
+        int result;
+        const char* path;
+    } steps[] = {
+        {"..", -1, "/root/"},       {"A", 0, "/root/A"},
+        {"x", -1, "/root/A"},       {"../..", -1, "/root/A"},
+        {"B", 0, "/root/A/B"},      {"/A/B/C/D", 0, "/root/A/B/C/D"},
+        {"../../..", 0, "/root/A"}, {"/root/A/B/C", 0, "/root/A/B/C"},
+        {"../..", 0, "/root/A"},    {"B/C", -1, "/root/A"},
+        {"/A/x", -1, "/root/A"},    {"12345678901234567", -1, "/root/A"},
+        {"..", 0, "/root/"},        {"root", 0, "/root/root"},
+        {"..", 0, "/root/"},        {"/root", 0, "/root/"},
+        {"/", 0, "/root/"},         {"", -1, "/root/"},
+    };
+    for (const auto& s : steps) {
+        EXPECT_EQ(FMCtrl3_ChangeDirectory(&info, s.directory), s.result) << s.directory;
+        EXPECT_STREQ(info.path, s.path) << s.directory;
+    }
+    (void)FMCtrl3_ChangeDirectory(&info, "/A/B");
+    Hub("Delete", "ClipStoreFolder", "root/A/B");
+    EXPECT_EQ(FMCtrl3_GetCurrent(&info), nullptr);
+    EXPECT_EQ(FMCtrl3_ChangeDirectory(&info, ".."), 0) << "a folder that has gone can be left";
+    EXPECT_STREQ(info.path, "/root/A");
+}
+
+TEST_F(ClipStore, ASearchGoesRoundBothWays)
+{
+    Folder("Goals");
+    File("Goals/goal1");
+    File("Goals/save");
+    File("goal2");
+    File("Lost/goal3"); // its folder is not known
+    Hub("Notify", "ClipStoreFile", "root/goal2.SFH:pairfile:1");
+    SEARCH_CONFIG config;
+    CopyText(config.text, "GOAL");
+    const auto walk = [&](SEARCH_DIR dir) {
+        Strings names;
+        config.start = nullptr;
+        for (int i = 0; i < 4; i++) {
+            config.start = FMCtrl3_FindName(dir, &config);
+            names.push_back(config.start ? config.start->element.name : "-");
+        }
+        return names;
+    };
+    EXPECT_THAT(walk(SEARCH_DIR_NEXT), ElementsAre("Goals", "goal1", "goal2", "Goals"));
+    EXPECT_THAT(walk(SEARCH_DIR_PREV), ElementsAre("goal2", "goal1", "Goals", "goal2"));
+    config.type = ELEMENT_TYPE_FILE;
+    config.is_pair = true;
+    EXPECT_THAT(walk(SEARCH_DIR_NEXT), ElementsAre("goal2", "goal2", "goal2", "goal2"));
+    config.place = 2;
+    EXPECT_THAT(walk(SEARCH_DIR_NEXT), ElementsAre("-", "-", "-", "-"));
+}
+
+TEST_F(ClipStore, MiddlesOfClipsAreFetchedFirstThirtyAtOnce)
+{
+    Folder("A");
+    File("still", 1, 1);
+    auto gets = Gets();
+    ASSERT_THAT(Remotes(gets), ElementsAre("still.SFH.THM"));
+    File("A/clip", 40, 1);
+    File("last", 5, 1);
+    EXPECT_THAT(Gets(), IsEmpty()) << "one is in flight";
+    (void)Changes();
+    Answer(gets[0], "OK");
+    EXPECT_THAT(Changes(), ElementsAre("4 still 0 0"));
+    gets = Gets();
+    ASSERT_EQ(gets.size(), 30u);
+    EXPECT_EQ(gets[0].remote, "SWR000D001:/vorn/FM/1/A/clip.SFH#000019.THM");
+    EXPECT_EQ(gets[0].local, "MYHOST:/mnt/sys/FM/1/A.clip.SFH#000019.THM");
+    EXPECT_EQ(Remotes(gets)[1], "last.SFH#000001.THM");
+    EXPECT_EQ(Remotes(gets)[2], "A/clip.SFH#000000.THM");
+    for (const Get& get : gets)
+        Answer(get, "OK");
+    gets = Gets();
+    EXPECT_EQ(gets.size(), 15u);
+    EXPECT_EQ(Remotes(gets).back(), "last.SFH#000004.THM");
+    for (const Get& get : gets)
+        Answer(get, "OK");
+    Passes(1000);
+    EXPECT_THAT(Gets(), IsEmpty());
+    EXPECT_EQ(Files().size(), 46u);
+}
+
+TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgain)
+{
+    Put("c.SFH#000000.THM", 6966);
+    Put("c.SFH#000001.THM", 6965);
+    Put("c.SFH#000002.THM", 21222);
+    Put("c.SFH#000003.THM", 6967);
+    File("c", 4, 1);
+    Strings asked;
+    for (int i = 0; i < 4; i++) {
+        Passes(500);
+        for (const Get& get : Gets()) {
+            asked.push_back(Remotes({get})[0]);
+            Answer(get, "OK");
+        }
+    }
+    EXPECT_THAT(asked, ElementsAre("c.SFH#000001.THM", "c.SFH#000003.THM"));
+}
+
+TEST_F(ClipStore, AFetchIsRetriedFiveTimes)
+{
+    File("a", 1, 1);
+    int fetches = 0;
+    for (auto gets = Gets(); !gets.empty() && fetches < 20; gets = Gets(), fetches++)
+        Answer(gets[0], "NG(no)");
+    EXPECT_EQ(fetches, 6);
+    Hub("Notify", "ClipStoreFile", "root/a.SFH:thumbnail:1");
+    auto gets = Gets();
+    ASSERT_EQ(gets.size(), 1u) << "a change tries again";
+    Hub("Delete", "ClipStoreFile", "root/a.SFH");
+    (void)Changes();
+    Answer(gets[0], "OK");
+    EXPECT_THAT(Files(), IsEmpty()) << "it came for nobody";
+    EXPECT_THAT(Changes(), IsEmpty());
+}
+
+TEST_F(ClipStore, ATrimRenumbersThumbnails)
+{
+    const auto clip = [](const char* name) {
+        for (int i = 0; i < 6; i++)
+            Put(name + (".SFH#00000" + std::to_string(i)) + ".THM", i % 2 ? 6966 : 21222);
+        File(name, 6, 1);
+    };
+    clip("a b");
+    Passes(1000);
+    Hub("Result", "ClipStoreFile", "Trim root/a b.SFH 3 5 3:7F");
+    EXPECT_EQ(At("/a b").duration, 3);
+    EXPECT_THAT(Files(),
+                ElementsAre("a b.SFH#000000.THM", "a b.SFH#000001.THM", "a b.SFH#000002.THM"));
+    EXPECT_EQ(fs::file_size(FM_FOLDER + std::string("a b.SFH#000001.THM")), 21222u);
+    EXPECT_EQ(Changes().back(), "2 a b 1 0");
+    Hub("Result", "ClipStoreFile", "Trim root/a b.SFH 1 1 1:7F");
+    EXPECT_THAT(Files(), ElementsAre("a b.SFH.THM"));
+    EXPECT_THAT(Gets(), IsEmpty());
+
+    Hub("Delete", "ClipStoreFile", "root/a b.SFH");
+    clip("c");
+    Passes(1000);
+    fs::remove(FM_FOLDER + std::string("c.SFH#000002.THM"));
+    Hub("Result", "ClipStoreFile", "Trim root/c.SFH 2 4 3:7F");
+    EXPECT_THAT(Files(), IsEmpty()) << "without its first, none is kept";
+    EXPECT_THAT(Remotes(Gets()), ElementsAre("c.SFH#000000.THM"));
+}
+
+TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
+{
+    Folder("A");
+    File("A/b", 3);
+    File("A.b", 1);
+    for (const char* name : {"A.b.SFH#000002.THM", "A.b.SFH.THM"})
+        Put(name, 6966);
+    for (const char* name : {"A.b.SFH#000003.THM", "A.b.SFH#00002.THM", "b.SFH#000000.THM",
+                             "A.b.SFH#000001.BMP", "A.b.THM"})
+        Put(name, 6966);
+    Put("A.b.SFH#000000.THM", 6965);
+    Passes(4000);
+    EXPECT_EQ(Files().size(), 8u) << "the tree may not be whole yet";
+    Passes(3000);
+    EXPECT_THAT(Files(), ElementsAre("A.b.SFH#000002.THM", "A.b.SFH.THM"));
+}
+
+TEST_F(ClipStore, TablesComeAndGo)
+{
+    (void)TakeQueuedHubLines();
+    Hub("Ready", "ClipStoreInfo", "");
+    Hub("Ready", "ClipStoreFolder", "");
+    Hub("Ready", "ClipStoreFile", "");
+    EXPECT_THAT(TakeQueuedHubLines(),
+                ElementsAre("Read#CS1.ClipStoreInfo:CAPACITY:", "InitRead#CS1.ClipStoreFolder",
+                            "InitRead#CS1.ClipStoreFile"));
+    Folder("A");
+    File("A/x");
+    Hub("Notify", "ClipStoreInfo", "CAPACITY::900,800,70,60,7f");
+    EXPECT_EQ(std::make_pair(SYS_StoreTotal, SYS_StoreFree), std::make_pair(900, 800));
+    EXPECT_EQ(std::make_pair(SYS_MemoryTotal, SYS_MemoryFree), std::make_pair(70, 60));
+    for (const char* row : {"CAPACITY::1,1,1,1,7e", "CAPACITY::1,1,1,1,80", "CAPACITY::1,1,1,1",
+                            "CAPACITY:1,1,1,1,7f", "TIME::1,1,1,1,7f"}) {
+        Hub("Notify", "ClipStoreInfo", row);
+        EXPECT_EQ(SYS_StoreTotal, 900) << row;
+    }
+    Hub("Disconnect", "ClipStoreFile", "");
+    EXPECT_THAT(Tree(), ElementsAre("/", "/A"));
+    Hub("Disconnect", "ClipStoreInfo", "");
+    EXPECT_EQ(SYS_StoreTotal + SYS_StoreFree + SYS_MemoryTotal + SYS_MemoryFree, 0);
+}
+
+TEST_F(ClipStore, ABurstOfElementsIsTakenWhole)
+{
+    for (int i = 0; i < 10000; i++)
+        File("F" + std::to_string(i * 7919 % 97) + "/c" + std::to_string(i), 1 + i % 3, 1);
+    EXPECT_EQ(Tree().size(), 10001u);
+    EXPECT_LE(Gets().size(), 1u);
+    for (int i = 0; i < 10000; i += 2)
+        Hub("Delete", "ClipStoreFile",
+            "root/F" + std::to_string(i * 7919 % 97) + "/c" + std::to_string(i) + ".SFH");
+    EXPECT_EQ(Tree().size(), 5001u);
+    EXPECT_TRUE(FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FILE, "/F62/c1"));
+}
