@@ -19,6 +19,8 @@
 #include "verbs.h"
 #include <algorithm>
 #include <climits>
+#include <cstdio>
+#include <cstdlib>
 #include <vector>
 
 namespace
@@ -282,6 +284,17 @@ bool System_PutMpe(const std::string& path, const std::string& digits)
     const bool is_mask = digits.size() == 8 && digits.find_first_not_of("01") == std::string::npos;
     if (is_mask)
         Tree_Show(path, digits);
+    return true; // anything else is answered with the old one
+}
+
+// Put as a decimal number, told in hexadecimal.
+bool System_PutDmeChannels(const std::string& path, const std::string& number)
+{
+    const long mask = strtol(number.c_str(), nullptr, 10);
+    char text[16];
+    snprintf(text, sizeof text, "%lX", mask);
+    if (mask > 0 && mask <= 0xFF)
+        Tree_Show(path, text);
     return true; // anything else is answered with the old one
 }
 

@@ -15,6 +15,7 @@ void System_Lost(int client);
 void System_Restart(); // the tree at its defaults, subscriptions forgotten, all clients told
 // A panel names the reference channel in eight binary digits and reads it as a hexadecimal mask.
 bool System_PutMpe(const std::string& path, const std::string& digits);
+bool System_PutDmeChannels(const std::string& path, const std::string& number);
 void System_SetDme(int unit, bool is_up); // 1 to 4
 int64_t System_Tick(int64_t now);         // returns the time of the next line of an announcement
 int System_FrameRate();                   // whole frames a second of the first switcher

@@ -89,6 +89,8 @@ static constexpr Owner owners[] = {
     {"Macro@", Store_Put},
     {"Register@All Delete@", Store_Put},
     {"MPE@Fx@Channel@Reference", System_PutMpe},
+    {"Info@DME@RefCH", System_PutDmeChannels},
+    {"Info@DME@SelCH", System_PutDmeChannels},
     {"Engineering Setup@System@", Setup_Put},
     {"", Dme_Put},
     {"", Transition_Put},

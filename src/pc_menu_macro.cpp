@@ -19,7 +19,7 @@
 
 void MenuMacroFields_Draw(const Rect& place, const MenuMacroField* fields, int n)
 {
-    constexpr int LINE_PX = 18, VALUE_X = 220, FONT = 3;
+    constexpr int LINE_PX = 18, VALUE_X = 190, FONT = 3;
     RegisterStrip_DrawGround(place);
     for (int i = 0; i < n; i++) {
         const int y = place.y1 + 5 + i * LINE_PX;

@@ -265,16 +265,16 @@ static void draw_strip()
         {"Current Menu Macro Register"}, {"Current Event"}, {"Current Interval Time"}};
     MenuMacro_RegisterText(mm_edit.reg, fields[0].value, sizeof fields[0].value);
     char text[96];
-    PrintText(text, "     Evt: %3d/%3d%s", mm_edit_now_event(), mm_edit.register_event_max,
-              mm_edit.is_edited ? "     not stored" : "");
+    PrintText(text, "   Evt: %3d/%3d", mm_edit_now_event(), mm_edit.register_event_max);
     AppendText(fields[0].value, text);
-    constexpr int FITS = 44; // characters
+    constexpr int FITS = 36; // characters
     if (mm_event_get(1, 0, mm_last_event(), fields[1].value, 0, FITS) == 0 &&
         mm_last_event().protcol_cnt > 1) {
         PrintText(text, "  +%d", mm_last_event().protcol_cnt - 1);
         AppendText(fields[1].value, text);
     }
-    PrintText(fields[2].value, "%.1f Sec", mm_register_interval(mm_edit.reg - 1) / 1000.0);
+    PrintText(fields[2].value, "%.1f Sec%s", mm_register_interval(mm_edit.reg - 1) / 1000.0,
+              mm_edit.is_edited ? "     not stored" : "");
     MenuMacroFields_Draw(STRIP, fields, FIELDS);
 }
 
