@@ -1,4 +1,5 @@
 // The commands for the stored registers. A region's name may hold blanks.
+#include "attach.h"
 #include "console_command.h"
 #include "store.h"
 #include "text.h"
@@ -123,6 +124,11 @@ static bool con_clip(Runner&, const std::string& rest)
     return true;
 }
 
+static bool con_attach(Runner&, const std::string& rest)
+{
+    return Attach_Add(rest);
+}
+
 static constexpr Command commands[] = {
     {"effect", "REGION N", "recall an effect", con_effect},
     {"store", "KIND [REGION] N [NAME]", "store what is there now into a register", con_store},
@@ -130,6 +136,8 @@ static constexpr Command commands[] = {
     {"list", "KIND [REGION]", "print the registers that hold data", con_list},
     {"panel", "VERB KIND N[-M] [REGION] [NAME | N [REGION] [noname]]",
      "another panel does it: store recall rename lock unlock delete copy move swap", con_panel},
+    {"attach", "BLOCK,BUTTON1,BUTTON2,MODE,N,PAIR,PAIR,...", "a macro to a button: 13 numbers",
+     con_attach},
     {"clip", "USER FM N on|off", "another panel sets the auto play of a clip event", con_clip},
 };
 constinit const std::span<const Command> console_register_commands = commands;

@@ -1,4 +1,5 @@
 #include "system.h"
+#include "attach.h"
 #include "diag.h"
 #include "dissolve.h"
 #include "dme_channels.h"
@@ -270,6 +271,7 @@ void System_Install()
     sys_tenkeys();
     Timeline_Install();
     Store_Install();
+    Attach_Install();
     FrameMemory_Install();
     Transition_Install();
     Dissolve_Install();

@@ -1,4 +1,5 @@
 #include "verbs.h"
+#include "attach.h"
 #include "autoload.h"
 #include "diag.h"
 #include "dme_channels.h"
@@ -86,6 +87,7 @@ static constexpr Owner owners[] = {
     {"Snapshot@", Store_Put},
     {"Master@Effect@", Store_Put},
     {"Shotbox@", Store_Put},
+    {"Macro@Attachment@", Attach_Put},
     {"Macro@", Store_Put},
     {"Register@All Delete@", Store_Put},
     {"MPE@Fx@Channel@Reference", System_PutMpe},
