@@ -4,6 +4,7 @@
 #include "file.h"
 #include "global.h"
 #include "page.h"
+#include "pc_macro_offline.h"
 #include "process.h"
 #include "register.h"
 #include "text.h"
@@ -84,7 +85,7 @@ static int macro_offline_edit_sel()
 {
     char shown[12], name[12];
     const int number = RegisterPage_Number();
-    if (fetched)
+    if (fetched || MacroOffline_IsStoring())
         return 0;                  // one at a time
     (void)unlink(MACRO_EDIT_FILE); // of an editor that was never closed
     (void)MakeDir(MACRO_EDIT_DIR); // told when the file cannot be made

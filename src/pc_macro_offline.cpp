@@ -49,12 +49,13 @@ constexpr NB_TBL nb_time_code = {.id = NB_MACRO_VALUE,
 } // namespace
 
 static struct {
-    MacroEventList list;                  // the cursor is that of list 1
-    int focus = MACRO_COL_CONTENTS;       // contents, symbol, or MACRO_COL_SLOT + slot
-    int first_slot = 0;                   // that the list shows
-    const ParamValueTBL* words = nullptr; // that list 2 shows; null: none
-    int target = 1;                       // register that a store goes to
-    const char* note = "";                // beside the register's name, until the next touch
+    MacroEventList list;                     // the cursor is that of list 1
+    int focus = MACRO_COL_CONTENTS;          // contents, symbol, or MACRO_COL_SLOT + slot
+    int first_slot = 0;                      // that the list shows
+    const ParamValueTBL* words = nullptr;    // that list 2 shows; null: none
+    int target = 1;                          // register that a store goes to
+    const char* note = "";                   // beside the register's name, until the next touch
+    char own_header[MACRO_HEADER_SIZE] = ""; // of the register that is edited, "" none
     bool is_head_dirty = false;
     bool is_open = false;
     uint32_t leave_to = 0; // page that waits for a store or an answer; 0 none
@@ -64,7 +65,6 @@ static struct {
 // A store that is under way outlives the page.
 static struct {
     FILEXFERLIST* list = nullptr; // the job's; null while none runs
-    int number = 0;               // register it goes to
 } push;
 
 // --- The line at the cursor ---
@@ -545,10 +545,12 @@ static void set_header(int number)
     char name[12];
     PrintText(name, "MCRO%d", number);
     const bool is_same = number == GL_MacroEditNo && !GL_Macro_Offline_RegStore;
-    if (is_same && !*oe.list.MacroFileName)
-        MacroFile_Header(number, GL_Macro_Offline_OriginalName, oe.list.MacroFileName);
-    else if (!is_same)
+    if (!is_same)
         MacroFile_Header(number, name, oe.list.MacroFileName);
+    else if (*oe.own_header)
+        CopyText(oe.list.MacroFileName, oe.own_header);
+    else
+        MacroFile_Header(number, GL_Macro_Offline_OriginalName, oe.list.MacroFileName);
 }
 
 // The first line that is not complete gets the cursor. False when there is one.
@@ -595,6 +597,7 @@ static void stored(int number)
     GL_Macro_Offline_RegStore = 0;
     PrintText(GL_MacroEditNoName, "%d  Name: %s", number, GL_Macro_Offline_OriginalName);
     GL_Macro_Offline_Store = 0;
+    CopyText(oe.own_header, oe.list.MacroFileName);
     tell("Stored");
     if (oe.leave_to != 0)
         GL_CreatePage = oe.leave_to;
@@ -621,7 +624,6 @@ static int send_file(int number)
 {
     char src[FILE_PATH_SIZE], dst[FILE_PATH_SIZE], target[32];
     PrintText(src, "MYHOST:%s", MACRO_EDIT_FILE);
-    push.number = number;
     if (Macro_PanelFile(number, dst, sizeof dst, target, sizeof target) == 0 &&
         File_XferList_SCPAdd(&push.list, src, dst, "MACRO", target) == 0 &&
         File_TransSCPdirPutList(&push.list, macro_offline_store_result, number) >= 0)
@@ -813,6 +815,7 @@ static int pc_macro_offline_edit_create(int on, uint32_t)
     else
         Log_Output(LOG_ALWAYS, MOD_PAGE, "File:%s--Func:%s--Line:%d--Open macro file failure!\n",
                    __FILE__, __func__, __LINE__);
+    CopyText(oe.own_header, oe.list.MacroFileName);
     (void)NB_SetVar(NB_MACRO_REGISTER, oe.target);
     show_events();
     set_cursor(oe.list.pHead, MACRO_COL_CONTENTS);
@@ -820,6 +823,11 @@ static int pc_macro_offline_edit_create(int on, uint32_t)
 }
 
 const PC_TBL pc_macro_offline = {pc_macro_offline_edit_proc, pc_macro_offline_edit_create};
+
+bool MacroOffline_IsStoring()
+{
+    return push.list != nullptr;
+}
 
 void MacroOffline_Reset()
 {

@@ -40,4 +40,6 @@ extern STOREMODEL MacroOffLine_StoreModel;
 // may follow.
 bool is_continue_valid(const MacroEvent& event);
 
+// The file in hand is on its way to the panel; it outlives the page.
+bool MacroOffline_IsStoring();
 void MacroOffline_Reset(); // as at process start, also a store that is under way; for tests

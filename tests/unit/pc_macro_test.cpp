@@ -367,6 +367,18 @@ TEST_F(MacroOfflinePage, AFailedStoreKeepsTheListAndSaysSo)
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
     EXPECT_EQ(Events(), "Event 1 MECut M/E-1");
     EXPECT_EQ(GL_Macro_Offline_Store, 1);
+    // A header that failed for another register does not stay.
+    for (const int target : {4, 3}) {
+        CloseWindow();
+        (void)Pane_Quit(Pane_GetActiveID());
+        Hub("Ready");
+        SendMessage(LMSG_KNOBVAR, NB_MACRO_REGISTER, target, 1, 0);
+        (void)Key(BTN_MACRO_STORE);
+        EXPECT_EQ(FileText(MACRO_EDIT_FILE).substr(0, 16),
+                  "PNL 0001PNL_000" + std::to_string(target));
+        Hub("Disconnect");
+        Pass(10);
+    }
     EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0);
 }
 
@@ -484,4 +496,18 @@ TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
         EXPECT_THAT(Leave(), testing::IsSupersetOf(
                                  {"put " + head + "Tally Back#false", "remove " + head + c.path}));
     }
+}
+
+TEST_F(MacroOfflinePage, AStoreGoesOnWhenThePageIsLeft)
+{
+    OpenWith("Event?,MECut,ME?,P/P\n");
+    (void)Key(BTN_MACRO_STORE);
+    EXPECT_EQ(CreatePage(PAGE_MACRO_REGISTERS), 0);
+    EXPECT_EQ(GL_NowPage, PAGE_MACRO_REGISTERS);
+    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "the job still reads it";
+    (void)Pane_Quit(Pane_GetActiveID());
+    (void)Key(BTN_MACRO_OFFLINE);
+    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "nothing else is begun meanwhile";
+    Hub("Disconnect");
+    EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
 }
