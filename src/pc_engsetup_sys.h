@@ -37,6 +37,8 @@ extern const PC_TBL pc_engsetup_system_systemconfig;
 extern const PC_TBL pc_engsetup_system_switcherassign;
 extern const PC_TBL pc_engsetup_system_startup;
 extern const PC_TBL pc_engsetup_system_initialize;
+#define SYSCONF_OPEMODE_SINGLE "Single Proc"
+#define SYSCONF_OPEMODE_DUALSIMUL "Dual Simul"
 enum : int { BTN_SYSCONF_SYSTEM1 = 37, BTN_SYSCONF_SYSTEM2 = 38 };
 
 // --- pc_engsetup_sys_mainte ---

@@ -20,8 +20,6 @@
 
 #define CONFIG "Engineering Setup@System@System Config@"
 #define LOCAL_CONFIG "LOCAL@" CONFIG
-#define SYSCONF_OPEMODE_SINGLE "Single Proc"
-#define SYSCONF_OPEMODE_DUALSIMUL "Dual Simul"
 
 static constexpr int DEVICE_ROWS = 16;
 static constexpr SETUPWORD words_none[] = {{"0", "---"}, {}};

@@ -398,8 +398,10 @@ static void aux_changed()
 {
     for (int row = 0; row < AuxSignalMax; row++) {
         auxsignal& a = AuxSignal[row];
-        const bool is_normal = !a.signal[0] || Same(a.signal, aux_words[0].text);
-        PrintText(a.caption, is_normal ? "%-2d" : "%-2d (%s)", row + 1, a.signal);
+        if (!a.signal[0] || Same(a.signal, aux_words[0].text))
+            PrintText(a.caption, "%-2d", row + 1);
+        else
+            PrintText(a.caption, "%-2d (%s)", row + 1, a.signal);
     }
 }
 

@@ -174,7 +174,7 @@ static const char* current_address()
 // The group is the last digit of an address' third number, the unit is its fourth.
 static void set_ids(int group, int unit)
 {
-    int number[4];
+    int number[4] = {};
     char text[sizeof netconf::ctrllan];
     for (const int field : LAN_FIELDS) {
         if (!split_address(SetupPage_Text(network_page, network_state.cursor, field), number))

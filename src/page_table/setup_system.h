@@ -79,8 +79,8 @@ static_assert(ListsAreSound(ls_engsetup_system_nmiconfig));
 
 #define CONFIG(word) {"LOCAL@Engineering Setup@System@System Config@" word}
 inline constexpr BT_TBL bt_engsetup_system_systemconfig[] = {
-    Radio(    {.id = 33, .caption = "Single\nProc", .group = "Operation Mode", .cmd = CONFIG("System Operation Mode#Single Proc")}),
-    Radio(    {.id = 34, .caption = "Dual\nSimul", .group = "Operation Mode", .cmd = CONFIG("System Operation Mode#Dual Simul")}),
+    Radio(    {.id = 33, .caption = "Single\nProc", .group = "Operation Mode", .cmd = CONFIG("System Operation Mode#" SYSCONF_OPEMODE_SINGLE)}),
+    Radio(    {.id = 34, .caption = "Dual\nSimul", .group = "Operation Mode", .cmd = CONFIG("System Operation Mode#" SYSCONF_OPEMODE_DUALSIMUL)}),
     JumpPopUp({.id = 35, .caption = "1st\nSwitcher", .group = "Panel Assign", .cmd = CONFIG("Panel Assign@SWR1")}),
     JumpPopUp({.id = 36, .caption = "2nd\nSwitcher", .group = "Panel Assign", .cmd = CONFIG("Panel Assign@SWR2")}),
     Action(   {.id = BTN_SYSCONF_SYSTEM1, .caption = "System1", .group = "Setup Target", .cmd = CONFIG("Setup Target@System1")}),

@@ -21,8 +21,7 @@ LETTERS = {c: (row, first + i) for row, (first, keys) in
 
 class Setup(DeskCase):
     def open(self, number):
-        self.desk.console(f"page {number}")
-        time.sleep(0.5)
+        self.open_page(number, "put TopMenu@SubMenuSite#false")
         self.desk.wire()
 
     def push(self, key):
@@ -64,6 +63,9 @@ class Setup(DeskCase):
         return data[:20].split(b"\0")[0].decode(), data[23], data[27]
 
     def test_1_a_format_is_cleared_then_executed_and_the_units_come_back(self):
+        self.desk.console("set Engineering Setup@DME@Model@DME1#4")  # it defocuses keys, but not in every format
+        self.open("4121")
+        interlaced = self.desk.part(97, 73, 702, 526)
         self.open("7313")
         self.assertFalse(self.changes())
         for last in (False, True):
@@ -81,8 +83,8 @@ class Setup(DeskCase):
         self.assertEqual(self.desk.value("Info@Processor Status@2"), "OK")
         self.assertEqual(self.desk.value(f"{FORMAT}Video Format@DME1"), "29.97/59.94,1080p")
         self.assertFalse(self.changes())
-        # The pages that this format brings: for two processors, or for one with 3G.
-        self.open("3121")
+        self.open("4121")
+        self.assertNotEqual(self.desk.part(97, 73, 702, 526), interlaced, "the pages are those of the new format")
         self.assertIsNone(self.desk.app_status())
 
     def test_2_another_panels_change_leaves_what_is_in_hand(self):
@@ -155,6 +157,32 @@ class Setup(DeskCase):
             self.assertEqual(self.desk.value("Engineering Setup@System@Network Config@Define"), outcome)
         self.desk.touch(*OK)
         self.assertIsNone(self.desk.app_status())
+
+    def test_5_a_stick_is_formatted_and_becomes_primary(self):
+        desk = self.desk
+        desk.console("stick in")
+        self.open("7317")
+        self.push(35)
+        desk.touch(150, 172 + 22 + 10)
+        self.push(36)
+        desk.wait_wire("put Info@Operation Setup Data@Import Path#/mnt/usb/usb1/")
+        desk.console("script usb_format 256 1")
+        log = os.path.join(desk.root, "var/tmp/device.log")
+        for times in (1, 2):
+            self.push(37)
+            desk.touch(*YES)
+            time.sleep(1)
+            with open(log, encoding="ascii") as file:
+                self.assertEqual(len([line for line in file if "usb_format" in line and "/dev/sda" in line]), times)
+            desk.touch(*OK)
+        self.assertIn("Returned Value: [0]", desk.log())
+        self.assertIn("Execute Command: [./script/usb_format.sh /dev/sda]", desk.log())
+        # The clock: the desk may not set it, and says so.
+        self.push(34)
+        time.sleep(0.5)
+        self.assertIn("Execute: /bin/date -u -s", desk.log())
+        desk.touch(*OK)
+        self.assertIsNone(desk.app_status())
 
 
 if __name__ == "__main__":

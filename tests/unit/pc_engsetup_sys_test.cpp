@@ -118,8 +118,16 @@ TEST_F(FormatPage, ALockedPageRefusesAllButTheWayOut)
     SetupIndex_Build();
     SetupMenu[SetupIndex_Find(FORMAT_PAGE)].lock = 1;
     SetupLock.lock = 1;
+    (void)Open(FORMAT_PAGE);
     SelectRow(1);
-    EXPECT_THAT(Push(BTN_FORMAT_TRI), testing::IsEmpty());
+    Pass(10);
+    const uint32_t calm = PixelAt(20, 590);
+    EXPECT_THAT(Press(BTN_FORMAT_TRI), testing::IsEmpty());
+    Pass(10);
+    EXPECT_NE(PixelAt(20, 590), calm) << "the lock says why";
+    Pass(200);
+    Pass(10);
+    EXPECT_EQ(PixelAt(20, 590), calm);
     (void)Push(BTN_FORMAT_SIGNAL);
     EXPECT_EQ(Pane_GetActiveID(), 0);
     EXPECT_EQ(Row(1, 4), "SWR1|1080i/59.94|16:9|BB");
