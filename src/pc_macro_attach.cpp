@@ -11,6 +11,7 @@
 #include "text.h"
 #include "window.h"
 #include <algorithm>
+#include <iterator>
 #include "safeguards.h"
 
 namespace

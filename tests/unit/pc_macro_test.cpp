@@ -511,3 +511,44 @@ TEST_F(MacroOfflinePage, AStoreGoesOnWhenThePageIsLeft)
     Hub("Disconnect");
     EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
 }
+
+// Through the page: every event, the first word, lowest number or a text for each parameter.
+TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
+{
+    OpenWith("");
+    const auto enter = [](const MACROPARAM& p) {
+        switch (p.entry) {
+        case MACROENTRY_LIST: Choose(p.paramvaluetbl[0].paramvalue); break;
+        case MACROENTRY_NUMBER: Turn(p.min); break;
+        case MACROENTRY_TIMECODE: Turn(1); break;
+        case MACROENTRY_TEXT: break; // typed, below
+        }
+    };
+    for (int i = 1; i <= MACRO_SYMBOLS; i++) {
+        const char* const symbol = EVNT[i].paramvalue;
+        if (i > 1)
+            (void)Key(BTN_MACRO_INSERT_AFTER);
+        At(i - 1, MACRO_COL_SYMBOL);
+        Choose(symbol);
+        const MACROPARAM* const slots = MacroSymbol_Find(symbol);
+        for (int slot = 0; slot < get_param_count(symbol); slot++) {
+            if (slots[slot].entry == MACROENTRY_TEXT) {
+                (void)Key(slot < 4 ? BTN_MACRO_GROUP_3 + slot : BTN_MACRO_GROUP_7 + slot - 4);
+                ASSERT_EQ(GetWindow(), WINDOW_KEYBOARD) << symbol;
+                (void)Type("a,b");
+            }
+            enter(slots[slot]);
+        }
+    }
+    const std::string stored = Stored();
+    EXPECT_THAT(stored, testing::HasSubstr("Event?,DiskFileLoad,Device?,Dev1,FileName?,a_b,"
+                                           "Timecode?,00:00:00:01\n"));
+    MacroEventList list;
+    ASSERT_EQ(MacroFile_Read(MACRO_EDIT_FILE, list), 0);
+    EXPECT_EQ(list.count, MACRO_SYMBOLS);
+    for (const MacroEvent* e = list.pHead; e; e = e->pNext)
+        for (int slot = 0; slot < get_param_count(e->Symbol); slot++)
+            EXPECT_TRUE(MacroValue_IsLegal(MacroSymbol_Find(e->Symbol)[slot], e->Data[slot]))
+                << e->Symbol << " " << slot << " " << e->Data[slot];
+    MacroList_Clear(list);
+}
