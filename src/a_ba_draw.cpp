@@ -281,7 +281,7 @@ Rect ba_drw_prev()
 // Beside the key: what is recorded, or what runs.
 static void draw_menu_macro_state()
 {
-    constexpr int X = 578, FONT = 3, LINE_PX = 19, LETTERS = 30;
+    constexpr int X = 578, FONT = 3, LINE_PX = 19, LETTERS = 28;
     const MenuMacroDisplay s = mm_display();
     char text[64];
     PrintText(text, "Menu Macro#:%d ( %s )", s.reg, s.name);
