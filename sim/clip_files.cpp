@@ -1,4 +1,5 @@
 #include "clip_files.h"
+#include "clip_store.h"
 #include "drive.h"
 #include "frame_file.h"
 #include "log.h"
@@ -74,7 +75,11 @@ static std::string take(int unit, const std::string& path, const std::string& fi
             return "NG(File Type Error)";
         bytes = FrameFile_Write(frame);
     }
-    return Drive_Write(local(unit, store_path(unit)) + path.substr(0, dot) + ".SFH", bytes);
+    const std::string error =
+        Drive_Write(local(unit, store_path(unit)) + path.substr(0, dot) + ".SFH", bytes);
+    if (error.empty())
+        ClipStore_Taken(unit, path.substr(0, dot));
+    return error;
 }
 
 void ClipFiles_TakePut(int unit)

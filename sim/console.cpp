@@ -373,13 +373,20 @@ static bool con_help(Runner&, const std::string&)
     return true;
 }
 
-static const Command* con_command(const std::string& word)
+// A word may have several forms, each a command of its own: the first that takes the arguments.
+// What they take is left in *usage; it stays empty when there is no such word.
+static bool con_call(Runner& runner, const std::string& word, const std::string& rest,
+                     std::string* usage)
 {
     for (const auto& set : command_sets)
-        for (const Command& command : set)
-            if (word == command.word)
-                return &command;
-    return nullptr;
+        for (const Command& command : set) {
+            if (word != command.word)
+                continue;
+            if (command.func(runner, rest))
+                return true;
+            *usage += (usage->empty() ? "usage: " : "; or: ") + word + " " + command.arguments;
+        }
+    return false;
 }
 
 // A mistake: a message for a person, the end for a script.
@@ -404,11 +411,9 @@ static void con_run(Runner& runner, const ConsoleLine& line)
     const size_t blank = text.find(' ');
     const std::string word = text.substr(0, blank);
     const std::string rest = blank == std::string::npos ? "" : Text_Trim(text.substr(blank));
-    const Command* const command = con_command(word);
-    if (!command)
-        con_fail(runner, "no such command: " + word + " (try help)");
-    else if (!command->func(runner, rest))
-        con_fail(runner, std::string("usage: ") + command->word + " " + command->arguments);
+    std::string usage;
+    if (!con_call(runner, word, rest, &usage))
+        con_fail(runner, usage.empty() ? "no such command: " + word + " (try help)" : usage);
 }
 
 // True when the runner may go on to its next line.

@@ -1,10 +1,12 @@
 // The commands about files, the hub and the frame memory.
 #include "autoload.h"
+#include "clip_store.h"
 #include "console_command.h"
 #include "drive.h"
 #include "file_job.h"
 #include "frame_memory.h"
 #include "hub.h"
+#include "link.h"
 #include "package.h"
 #include "text.h"
 #include "unit_file.h"
@@ -126,7 +128,66 @@ static bool con_frames(Runner&, const std::string& rest)
     return word[0] == "store" && word.size() == 3 && FrameMemory_Draw(int(number), word[2]);
 }
 
+// --- The hub and the clip stores ---
+
+static bool con_hub_fail(const std::string& arguments, int result)
+{
+    long count = 1;
+    if (!arguments.empty() && !Console_Number(arguments, 0, 1000, &count))
+        return false;
+    ClipStore_FailNext(int(count), result);
+    return true;
+}
+
+static bool con_hub(Runner&, const std::string& rest)
+{
+    const size_t blank = rest.find(' ');
+    const std::string word = rest.substr(0, blank);
+    const std::string arguments = blank == rest.npos ? "" : rest.substr(blank + 1);
+    long ms = 0;
+    double factor = 0;
+    bool on = false;
+    if (word == "refuse")
+        return con_hub_fail(arguments, CLIP_REFUSED);
+    if (word == "lost")
+        return con_hub_fail(arguments, 0);
+    if (word == "drop" && (arguments.empty() || Console_Number(arguments, 0, 600000, &ms)))
+        Link_Drop(LINK_HUB, int(ms));
+    else if (word == "slow" && Text_ToNumber(arguments, &factor) && factor >= 0 && factor <= 1000)
+        ClipStore_SetSlow(factor);
+    else if (word == "ready" && Console_OnOff(arguments, &on))
+        ClipStore_SetReady(on);
+    else
+        return false;
+    return true;
+}
+
+// A name with a folder, without blanks; of the second store with "CS2:" before it.
+static bool con_clip(Runner&, const std::string& rest)
+{
+    constexpr int FRAMES = 3000, MANY = 12000;
+    const auto word = Text_Split(rest, ' ');
+    long count = 0;
+    if (word[0] == "full" && word.size() == 1)
+        ClipStore_SetMemory(0);
+    else if (word[0] == "room" && word.size() == 1)
+        ClipStore_SetMemory(FRAMES);
+    else if (word[0] == "fill" && word.size() == 2 && Console_Number(word[1], 1, MANY, &count))
+        for (long i = 0; i < count; ++i)
+            (void)ClipStore_Make(1, Text_Format("FILL%02ld/still%05ld", i / 250, i), 1);
+    else if (word[0] == "make" && word.size() == 3 && Console_Number(word[2], 1, MANY, &count))
+        return Text_Begins(word[1], "CS2:") ? ClipStore_Make(2, word[1].substr(4), int(count))
+                                            : ClipStore_Make(1, word[1], int(count));
+    else
+        return false;
+    return true;
+}
+
 static constexpr Command commands[] = {
+    {"hub", "drop [MS]|refuse [N]|lost [N]|slow N|ready on|off",
+     "the hub's link, and what becomes of requests to the clip stores", con_hub},
+    {"clip", "make NAME FRAMES|fill N|full|room", "clips of a store; whether its memory is full",
+     con_clip},
     {"stick", "in|out", "plug the memory stick in, or pull it", con_stick},
     {"slow", "N", "file work takes N times as long; 0: no time", con_slow},
     {"full", "MB|off", "so much room is left on the drives", con_full},

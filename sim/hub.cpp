@@ -1,5 +1,6 @@
 #include "hub.h"
 #include "clip_files.h"
+#include "clip_store.h"
 #include "file_job.h"
 #include "link.h"
 #include "log.h"
@@ -155,7 +156,7 @@ static void finish(Target& target, const std::string& category, Category& c)
 
 int64_t Hub_Tick(int64_t now)
 {
-    int64_t next = INT64_MAX;
+    int64_t next = ClipStore_Tick(now);
     for (Target& target : hb.targets)
         for (auto& [word, category] : target.categories) {
             if (category.wanted.empty())
@@ -232,8 +233,13 @@ void Hub_Line(int client, const std::string& line)
         dot == std::string::npos
             ? ""
             : rest.substr(dot + 1, colon == rest.npos ? colon : colon - dot - 1);
-    if (!target || table != "File")
-        return; // the clip store's tables have no rows yet
+    if (!target)
+        return;
+    if (target->is_clip_store && ClipStore_Line(client, target->unit, verb, table,
+                                                colon == rest.npos ? "" : rest.substr(colon + 1)))
+        return;
+    if (table != "File")
+        return;
     if (verb == "Listen")
         hub_listen(client, *target);
     else if (verb == "Unlisten")
@@ -248,6 +254,7 @@ void Hub_Line(int client, const std::string& line)
 
 void Hub_ForgetClient(int client)
 {
+    ClipStore_ForgetClient(client);
     for (Target& target : hb.targets) {
         target.listeners.erase(client);
         for (auto& [word, category] : target.categories)

@@ -1,4 +1,5 @@
 #include "lay.h"
+#include "clip_store.h"
 #include "drive.h"
 #include "log.h"
 #include "picture.h"
@@ -59,4 +60,5 @@ void Lay_Desk()
     }
     if (Drive_PutStick(true))
         lay_pictures();
+    ClipStore_Lay();
 }

@@ -246,7 +246,9 @@ void Verb_Line(int client, const std::string& line)
         if (!is_formed || path_end <= blank + 1 || path_end - blank > TALLY_BYTES)
             break;
         const std::string path = line.substr(blank + 1, path_end - blank - 1);
-        return verb.func(client, path, has_value ? line.substr(hash + 1) : "");
+        const size_t begin = path.find_first_not_of(' '); // some commands have two blanks
+        return verb.func(client, begin == path.npos ? path : path.substr(begin),
+                         has_value ? line.substr(hash + 1) : "");
     }
     Log_Note("client %d: not a command: %s", client, Text_Escape(line, 100).c_str());
 }
