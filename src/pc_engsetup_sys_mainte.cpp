@@ -224,9 +224,9 @@ static void ask_sizes(Drive& d, const char* cmd)
         ktr_pclose(fp) == 0 && sscanf(line, "%*s %ld %ld %ld", &total, &used, &free_mb) == 3;
     if (!is_read)
         return;
-    PrintText(d.total, "%ld MB", total);
-    PrintText(d.used, "%ld MB", used);
-    PrintText(d.free, "%ld MB", free_mb);
+    PrintText(d.total, "%ld", total);
+    PrintText(d.used, "%ld", used);
+    PrintText(d.free, "%ld", free_mb);
 }
 
 static void refresh_sticks()
@@ -246,9 +246,9 @@ static void refresh_sticks()
             AppendText(d.device, " (Primary)");
         if (GetUSBStorageInfo(n, &total_kb, &free_kb) != 0)
             continue;
-        PrintText(d.total, "%d MB", total_kb / 1024);
-        PrintText(d.used, "%d MB", (total_kb - free_kb) / 1024);
-        PrintText(d.free, "%d MB", free_kb / 1024);
+        PrintText(d.total, "%d", total_kb / 1024);
+        PrintText(d.used, "%d", (total_kb - free_kb) / 1024);
+        PrintText(d.free, "%d", free_kb / 1024);
     }
 }
 

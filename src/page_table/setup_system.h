@@ -191,9 +191,9 @@ static_assert(ButtonsAreSound(bt_engsetup_system_maintenance));
 #undef MAINTENANCE
 
 inline constexpr LS_TBL ls_engsetup_system_maintenance[] = {
-    {.id = 1, .hn = 5, .vn = 3, .x = 100, .y = 76, .head = {"Drive", "Path", "Total", "Used", "Free"}, .width = {236, 112, 68, 67, 67},
+    {.id = 1, .hn = 5, .vn = 3, .x = 100, .y = 76, .head = {"Drive", "Path", "Total MB", "Used MB", "Free MB"}, .width = {236, 112, 68, 67, 67},
      .group = {2, 999}, .view = 1, .sb_top = 76, .sb_bottom = 164, .block = 1},
-    {.id = 2, .hn = 5, .vn = 6, .x = 100, .y = 172, .head = {"Removable Drive", "Path", "Total", "Used", "Free"}, .width = {236, 112, 68, 67, 67},
+    {.id = 2, .hn = 5, .vn = 6, .x = 100, .y = 172, .head = {"Removable Drive", "Path", "Total MB", "Used MB", "Free MB"}, .width = {236, 112, 68, 67, 67},
      .group = {2, 999}, .sb_top = 172, .sb_bottom = 326, .block = 1},
     LS_END,
 };

@@ -482,7 +482,7 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     EXPECT_THAT(Usable({BTN_MAINTENANCE_FORMAT, BTN_MAINTENANCE_PRIMARY}), testing::IsEmpty());
     (void)Push(35);
     EXPECT_STREQ(LS_GetData(1, 0, 0), "Local Drive");
-    EXPECT_THAT(LS_GetData(1, 0, 2), testing::EndsWith(" MB"));
+    EXPECT_GT(atoi(LS_GetData(1, 0, 2)), 0);
     ASSERT_EQ(LS_GetNData(2), 2);
     SelectRow(1, 2);
     EXPECT_THAT(Push(BTN_MAINTENANCE_PRIMARY),
