@@ -10,10 +10,12 @@
 #include "page.h"
 #include "pane.h"
 #include "pc_file_side.h"
+#include "pc_macro.h"
 #include "register.h"
 #include "tally_value.h"
 #include "text.h"
 #include "window.h"
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <unordered_set>
@@ -130,6 +132,7 @@ static void rename_delete_btn_grayout()
         c.device == FILE_REGISTER ? !FileKind_HasCommands(*fd.kind) : is_protected(c);
     BT_SetDisable(BTN_FILE_RENAME, is_fixed);
     BT_SetDisable(BTN_FILE_DELETE, is_fixed);
+    BT_SetDisable(BTN_FILE_OFFLINE_EDIT, c.device != FILE_REGISTER);
 }
 
 static void show_side(int side)
@@ -631,6 +634,15 @@ static int delete_answer(int result)
     return 0;
 }
 
+// A row of the registers is a register, empty or not.
+static int offline_edit_sel()
+{
+    const bool is_macro = fd.kind->page == FILEPAGE_MACRO && fd.is_detail;
+    if (!is_macro || FileSide_Where(SIDE_C).device != FILE_REGISTER)
+        return -1;
+    return Macro_OfflineEdit(std::max(first_row(SIDE_C), 0) + 1);
+}
+
 // --- Messages ---
 
 static constexpr Touch dual_touches[] = {
@@ -647,6 +659,7 @@ static constexpr Touch dual_touches[] = {
     {SINGLE "Dir C", dir_c_sel},
     {SINGLE "Rename", single_rename_sel},
     {SINGLE "Delete", single_delete_sel},
+    {SINGLE "OfflineEdit", offline_edit_sel},
 };
 
 static int button_pressed(const char* command)

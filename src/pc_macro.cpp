@@ -17,7 +17,8 @@ char GL_MacroEditNoName[32] = "";
 char GL_Macro_Offline_OriginalName[12] = "";
 int GL_Macro_Offline_RegStore = 0;
 
-static FILEXFERLIST* fetched; // the job's; null while none runs
+static FILEXFERLIST* fetched;  // the job's; null while none runs
+static uint32_t fetching_page; // that began it
 
 int Macro_PanelFile(int number, char* path, int path_size, char* target, int target_size)
 {
@@ -42,17 +43,11 @@ static void note_register(int number, const char* shown, const char* name)
     CopyText(GL_Macro_Offline_OriginalName, name);
 }
 
-static bool is_our_page()
-{
-    const RegisterKind* const kind = RegisterPage_Kind();
-    return kind && kind->kind == REGKIND_MACRO;
-}
-
 // What went wrong stands in the job's own pane.
 static void macro_offline_edit_sel_result(uint32_t, int number)
 {
     const bool is_there = fetched && fetched->status == FILESTATUS_OK;
-    if (is_there && is_our_page() && number == GL_MacroEditNo)
+    if (is_there && GL_NowPage == fetching_page && number == GL_MacroEditNo)
         GL_CreatePage = PAGE_MACRO_OFFLINE;
 }
 
@@ -81,23 +76,29 @@ static int make_new(int number)
     return 0;
 }
 
-static int macro_offline_edit_sel()
+int Macro_OfflineEdit(int number)
 {
     char shown[12], name[12];
-    const int number = RegisterPage_Number();
     if (fetched || MacroOffline_IsStoring())
         return 0;                  // one at a time
     (void)unlink(MACRO_EDIT_FILE); // of an editor that was never closed
     (void)MakeDir(MACRO_EDIT_DIR); // told when the file cannot be made
     GL_Macro_Offline_RegStore = !Register_Exist_Macro(0, number - 1);
     if (!GL_Macro_Offline_RegStore) {
-        note_register(number, RegisterPage_Line().name, RegisterPage_Line().name);
+        CopyText(name, Register_Name_Macro(0, number - 1));
+        note_register(number, name, name);
+        fetching_page = GL_NowPage;
         return fetch(number);
     }
     PrintText(shown, "MCRO%d", number);
     PrintText(name, "M%d", number);
     note_register(number, shown, name);
     return make_new(number);
+}
+
+static int macro_offline_edit_sel()
+{
+    return Macro_OfflineEdit(RegisterPage_Number());
 }
 
 static int macro_online_edit_sel()

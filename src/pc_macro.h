@@ -1,4 +1,4 @@
-// pc_macro: the two ways from the pages of the macro registers into the editors. The offline editor
+// pc_macro: the ways from the pages of the macro registers into the editors. The offline editor
 // works on a copy of the register's file, which is fetched here; the online editor on the register
 // itself.
 #pragma once
@@ -23,6 +23,9 @@ extern int GL_Macro_Offline_RegStore;          // 1: the register was empty
 // Where the panel keeps the file of a register (from 1): "HOST:/.../PNL_0012.PMR", and the word by
 // which file jobs know the panel. 0, or -1 without a panel.
 int Macro_PanelFile(int number, char* path, int path_size, char* target, int target_size);
+// Fetch the file of a register (from 1), or make a new one where it is empty, and open the offline
+// editor. 0, or -1 with a window that says that there is none; nothing while another is under way.
+int Macro_OfflineEdit(int number);
 void Macro_ShowFileError(); // a window: there is no file
 
 extern const RegisterExtra macro_extra;

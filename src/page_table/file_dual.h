@@ -59,15 +59,22 @@ inline constexpr BT_TBL bt_file_frame[] = {
 };
 static_assert(ButtonsAreSound(bt_file_frame));
 
-inline constexpr BT_TBL bt_file_detail[] = {
-    FileChoice(100, {.id = BTN_FILE_DEVICE_C, .caption = "", .cmd = FILE_SINGLE("Device C")}),
-    FileChoice(204, {.id = BTN_FILE_DIR_C, .caption = "", .cmd = FILE_SINGLE("Dir C")}),
-    Action({.id = BTN_FILE_RENAME, .caption = "Rename", .group = "File", .cmd = FILE_SINGLE("Rename")}),
-    Action({.id = BTN_FILE_DELETE, .caption = "Delete", .group = "File", .cmd = FILE_SINGLE("Delete")}),
+#define FILE_DETAIL_BUTTONS                                                                                             \
+    FileChoice(100, {.id = BTN_FILE_DEVICE_C, .caption = "", .cmd = FILE_SINGLE("Device C")}),                           \
+    FileChoice(204, {.id = BTN_FILE_DIR_C, .caption = "", .cmd = FILE_SINGLE("Dir C")}),                                 \
+    Action({.id = BTN_FILE_RENAME, .caption = "Rename", .group = "File", .cmd = FILE_SINGLE("Rename")}),                 \
+    Action({.id = BTN_FILE_DELETE, .caption = "Delete", .group = "File", .cmd = FILE_SINGLE("Delete")})
+inline constexpr BT_TBL bt_file_detail[] = {FILE_DETAIL_BUTTONS, BT_END};
+// The macros: into the editor of a register's file.
+inline constexpr BT_TBL bt_file_macro_detail[] = {
+    FILE_DETAIL_BUTTONS,
+    Action({.id = BTN_FILE_OFFLINE_EDIT, .caption = "Offline\nEdit", .cmd = FILE_SINGLE("OfflineEdit")}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_file_detail));
+static_assert(ButtonsAreSound(bt_file_macro_detail));
 #undef FILE_DUAL_BUTTONS
+#undef FILE_DETAIL_BUTTONS
 #undef FILE_SINGLE
 
 inline constexpr LS_TBL ls_file_dual[] = {
@@ -155,6 +162,7 @@ struct FileDual {
     const BT_TBL* buttons = bt_file_dual;
     const LS_TBL* lists = ls_file_dual;
     const LS_TBL* detail_lists = ls_file_detail;
+    const BT_TBL* detail_buttons = bt_file_detail;
 };
 inline constexpr FileDual file_dual_list[] = {
     {0x71120000, FILEPAGE_SETUP, "Setup", &file_group_setup, 2},
@@ -172,7 +180,7 @@ inline constexpr FileDual file_dual_list[] = {
     {0x71330000, FILEPAGE_DMESS, "DME Wipe Snapshot", &file_group_snapshot, 3},
     {0x71340000, FILEPAGE_KEYSS, "Key Snapshot", &file_group_snapshot, 4},
     {0x71410000, FILEPAGE_SHOTBOX, "Shotbox", &file_group_macro, 1},
-    {0x71420000, FILEPAGE_MACRO, "Macro", &file_group_macro, 2},
+    {0x71420000, FILEPAGE_MACRO, "Macro", &file_group_macro, 2, bt_file_dual, ls_file_dual, ls_file_detail, bt_file_macro_detail},
     {0x71430000, FILEPAGE_MACROATC, "Macro Attachment", &file_group_macro, 3},
     {0x71440000, FILEPAGE_MENU_MACRO, "Menu Macro", &file_group_macro, 4},
     {0x71530000, FILEPAGE_FNAMEDATA, "Frame Memory Data", &file_group_frame, 3},
@@ -194,7 +202,7 @@ constexpr PAGE FileDetailPage(const FileDual& f)
 {
     return {.id = f.id + 1, .tree = {"File", f.word, "Detail"},
             .obj = {Base(base_file_sub, f.id), LeftTabs(vf_file, f.group->left), BottomTabs(f.group->bottom, f.tab),
-                    Buttons(bt_file_detail), Lists(f.detail_lists), Code(pc_file_detail, f.page)}};
+                    Buttons(f.detail_buttons), Lists(f.detail_lists), Code(pc_file_detail, f.page)}};
 }
 
 constexpr auto FileDualRows()

@@ -5,6 +5,7 @@
 #include "file.h"
 #include "file_scp.h"
 #include "pane.h"
+#include "pc_file_dual.h"
 #include "pc_macro.h"
 #include "pc_macro_attach.h"
 #include "pc_macro_offline.h"
@@ -551,4 +552,16 @@ TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
             EXPECT_TRUE(MacroValue_IsLegal(MacroSymbol_Find(e->Symbol)[slot], e->Data[slot]))
                 << e->Symbol << " " << slot << " " << e->Data[slot];
     MacroList_Clear(list);
+}
+
+// From the list of the registers in the File menu, too.
+TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
+{
+    Open(0x71420001);
+    SendMessage(LMSG_LISTSEL, 1, 6, 0, 0);
+    LS_SetNowLine(1, 6);
+    LS_SetSelected(1, 6, 0, 1);
+    (void)Key(BTN_FILE_OFFLINE_EDIT);
+    EXPECT_EQ(GL_CreatePage, PAGE_MACRO_OFFLINE);
+    EXPECT_EQ(FileText(MACRO_EDIT_FILE), "PNL 0001PNL_0007.PMRM7\n");
 }
