@@ -66,6 +66,18 @@ bool Attach_Add(const std::string& entry)
     return true;
 }
 
+int Attach_Macro(int block, int button1, int button2)
+{
+    const Node* const node = Tree_Find(LIST);
+    for (const std::string& row : node ? node->rows : std::vector<std::string>()) {
+        const auto fields = fields_of(row);
+        if (fields[FIELD_BLOCK] == block && fields[FIELD_BUTTON_1] == button1 &&
+            fields[FIELD_BUTTON_2] == button2)
+            return int(fields[FIELD_REGISTER]);
+    }
+    return 0;
+}
+
 // Crosspoint rows: those of the banks, seven blocks a bank, and of the aux buses.
 static bool is_crosspoint(const std::string& row)
 {

@@ -8,3 +8,4 @@ bool Attach_Put(const std::string& path, const std::string& value); // true: tak
 // Thirteen numbers, commas between: block, button 1 and 2, mode, register, pairs, six of the place.
 // An entry of the same button goes. False: they are no entry.
 bool Attach_Add(const std::string& entry);
+int Attach_Macro(int block, int button1, int button2); // the register on a button; 0: none

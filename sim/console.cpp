@@ -361,6 +361,7 @@ static constexpr Command commands[] = {
 static const std::span<const Command> command_sets[] = {commands,
                                                         console_effect_commands,
                                                         console_register_commands,
+                                                        console_macro_commands,
                                                         console_file_commands,
                                                         console_setup_commands,
                                                         console_diag_commands};

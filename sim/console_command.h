@@ -36,5 +36,6 @@ bool Console_Number(const std::string& text, long from, long to, long* number);
 extern const std::span<const Command> console_effect_commands;   // regions and effects
 extern const std::span<const Command> console_register_commands; // stored registers
 extern const std::span<const Command> console_file_commands;     // files, hub, frame memory
+extern const std::span<const Command> console_macro_commands;    // macros at work
 extern const std::span<const Command> console_setup_commands;    // what the installation is made of
 extern const std::span<const Command> console_diag_commands;     // the health of the units

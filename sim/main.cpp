@@ -10,6 +10,7 @@
 #include "lay.h"
 #include "link.h"
 #include "log.h"
+#include "macro.h"
 #include "setup.h"
 #include "system.h"
 #include "text.h"
@@ -108,9 +109,10 @@ static void main_turn(int64_t* next)
     const int64_t then = Now_Ms();
     // The console first: what it starts is due at once.
     *next = Console_Tick(then);
-    *next = std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
-                      Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then),
-                      FileJob_Tick(then), Hub_Tick(then), Autoload_Tick(then), Setup_Tick(then)});
+    *next =
+        std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
+                  Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then), FileJob_Tick(then),
+                  Hub_Tick(then), Autoload_Tick(then), Setup_Tick(then), Macro_Tick(then)});
 }
 
 int main(int argc, char** argv)

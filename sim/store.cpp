@@ -1,4 +1,5 @@
 #include "store.h"
+#include "macro.h"
 #include "region.h"
 #include "store_private.h"
 #include "text.h"
@@ -199,6 +200,8 @@ void Store_Show(const Kind& kind, int row, int number)
     const int home = Store_HomeRow(kind, row, number);
     const Register& r = Store_Register(kind, row, number);
     Tree_ShowRow(Store_ListPath(kind, home), store_line(kind, number, r));
+    if (kind.kind == STORE_MACRO)
+        Macro_RegisterChanged(number);
     if (kind.kind == STORE_EFFECT && r.exists)
         for (int region = 0; region < REGION_COUNT; ++region) {
             const Timeline& line = Timeline_Of(region);

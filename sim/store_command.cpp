@@ -2,6 +2,7 @@
 // the kind has one; the name of one row does as well) and numbers: "put
 // Effect@Effect@Lock@Lock#MASK,1,5,true".
 #include "log.h"
+#include "macro.h"
 #include "region.h"
 #include "store.h"
 #include "store_private.h"
@@ -114,8 +115,10 @@ static void verb_recall(const Request& request)
             continue;
         if (request.is_edit)
             Store_SetCurrent(*request.kind, row, number);
-        else
+        else {
+            Macro_WatchRecall(*request.kind, row, number);
             Store_Recall(*request.kind, row, number);
+        }
     }
 }
 

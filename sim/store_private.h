@@ -27,9 +27,10 @@ struct Register {
     // What it brings back: value by path behind the region's own words, so that a copy is at home
     // in another region. Of an effect how its first keyframe looks.
     std::map<std::string, std::string> values;
-    int pattern = 0;  // of a wipe or DME wipe
-    std::string hold; // buses that a snapshot leaves alone
-    int duration = 0; // frames, of dissolve and automatic transition
+    int pattern = 0;   // of a wipe or DME wipe
+    std::string macro; // the text of its file behind the first line
+    std::string hold;  // buses that a snapshot leaves alone
+    int duration = 0;  // frames, of dissolve and automatic transition
     bool has_dissolve = false;
     bool has_auto_transition = false;
     bool has_gpi = false;

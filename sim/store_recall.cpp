@@ -2,6 +2,7 @@
 #include "dissolve.h"
 #include "dme_channels.h"
 #include "log.h"
+#include "macro.h"
 #include "region.h"
 #include "store_private.h"
 #include "text.h"
@@ -156,6 +157,7 @@ void Store_Recall(const Kind& kind, int row, int number)
     case STORE_MASTER_EFFECT: recall_master(r, STORE_EFFECT); break;
     case STORE_MASTER_SNAPSHOT: recall_master(r, STORE_SNAPSHOT); break;
     case STORE_SHOTBOX: recall_shotbox(r); break;
+    case STORE_MACRO: Macro_Run(number); break;
     default: bring_values_back(kind, row, r, 0);
     }
     Store_SetCurrent(kind, row, number);

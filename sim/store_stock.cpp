@@ -70,6 +70,7 @@ static const Stock stock[] = {
     {STORE_SHOTBOX, "", 2, "BREAK", true},
     {STORE_MACRO, "", 1, "MIC CHECK", false},
     {STORE_MACRO, "", 2, "GO LIVE", true},
+    {STORE_MACRO, "", 3, "OPENING", false},
     {STORE_MACRO, "", 250, "PARK", false},
 };
 
@@ -107,6 +108,30 @@ static const struct {
     {STORE_DME, "M/E-1", 1, 1011, "@Edge/Direction@Border", "true"},
     {STORE_DME, "M/E-1", 2, 2021, "@Edge/Direction@Soft", "true"},
     {STORE_DME, "P/P", 1, 1301, "@Edge/Direction@Border", "true"},
+};
+
+// What the macros do.
+static const struct {
+    int number;
+    const char* body;
+} stock_macros[] = {
+    {1, "\n#?,Host alone\n"
+        "Event?,Snapshot,Region?,M/E-1,Register?,1\n"
+        "Event?,KeyCut,ME?,M/E-1,Key?,Key1,Status?,ToOn\n"
+        "Event?,Pause,Time?,30\n"
+        "Event?,MECut,ME?,M/E-1\n"},
+    {2, "\nEvent?,MEXpt,ME?,P/P,MEBus?,BkgdB,Xpt?,5,VideoKey?,Video,Attribute?,Normal\n"
+        "Event?,MEAutoTransition,ME?,P/P,Time?,30,Direction?,Normal\n"},
+    {3, "\nEvent?,TimelineRecall,Region?,M/E-1,Register?,1\n"
+        "Continue?,TimelineRecall,Region?,DME1,Register?,1\n"
+        "Event?,TimelineRun,Region?,M/E-1\n"
+        "Continue?,TimelineRun,Region?,DME1\n"
+        "Event?,Play,Device?,Dev1,Mode?,Play,Speed?,100\n"
+        "Event?,Pause,Time?,60\n"
+        "Event?,NextTransition,ME?,M/E-1,All?,Off,BKGD?,On,Key1?,On\n"
+        "Event?,MEAutoTransition,ME?,M/E-1,Time?,15,Direction?,Normal\n"
+        "Event?,AuxXpt,AuxBus?,Aux1,Xpt?,3,VideoKey?,Video\n"},
+    {250, "\nEvent?,ShotBox,Register?,1\nEvent?,FadeToBlack,Time?,30\n"},
 };
 
 // The others have three keyframes, a second apart.
@@ -181,5 +206,7 @@ void Store_Stock()
     weather.hold = "AB12U1";
     weather.duration = 30;
     weather.has_dissolve = true;
+    for (const auto& s : stock_macros)
+        Store_Register(Store_Kind(STORE_MACRO), 0, s.number).macro = s.body;
     stock_links();
 }

@@ -8,6 +8,7 @@
 #include "hub.h"
 #include "link.h"
 #include "log.h"
+#include "macro.h"
 #include "region.h"
 #include "rules.h"
 #include "setup.h"
@@ -272,6 +273,7 @@ void System_Install()
     Timeline_Install();
     Store_Install();
     Attach_Install();
+    Macro_Install();
     FrameMemory_Install();
     Transition_Install();
     Dissolve_Install();

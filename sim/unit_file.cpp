@@ -359,20 +359,11 @@ static bool read_register(const Kind& kind, const std::string& bytes, Register* 
     return true;
 }
 
-// A macro's body is a list of events, which the panels edit; the simulator keeps it as it came.
-static std::string new_macro(int number, const std::string& name)
+// A macro's body is a list of events; it is kept as it came.
+static std::string write_macro(const UnitFile& file, const Register& r)
 {
-    return Text_Format("PNL 0001PNL_%04d.PMR%s\nComment?,EMPTY\n", number, name.c_str());
-}
-
-static std::string write_macro(int unit, const UnitFile& file, const Register& r)
-{
-    std::string bytes;
-    if (!Drive_Read(kept_file(HOST_PNL, unit, file), &bytes))
-        return new_macro(file.number, r.name);
-    const size_t end = bytes.find_first_of("\r\n");
     return Text_Format("PNL 0001PNL_%04d.PMR%s", file.number, r.name.c_str()) +
-           (end == std::string::npos ? "\n" : bytes.substr(end));
+           (r.macro.empty() ? "\n" : r.macro);
 }
 
 static bool read_macro(const std::string& bytes, Register* r)
@@ -380,7 +371,9 @@ static bool read_macro(const std::string& bytes, Register* r)
     constexpr size_t HEAD = 20;
     if (!Text_Begins(bytes, "PNL") || bytes.size() < HEAD || bytes.substr(16, 4) != ".PMR")
         return false;
-    r->name = bytes.substr(HEAD, bytes.find_first_of("\r\n") - HEAD).substr(0, NAME_BYTES);
+    const size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
+    r->name = bytes.substr(HEAD, end > HEAD ? end - HEAD : 0).substr(0, NAME_BYTES);
+    r->macro = bytes.substr(end);
     return true;
 }
 
@@ -420,8 +413,7 @@ bool UnitFile_Make(HostKind host, int unit, const UnitFile& file, std::string* b
             return false;
         const Register& r = Store_Register(kind, row, file.number);
         if (r.exists)
-            *bytes =
-                kind.kind == STORE_MACRO ? write_macro(unit, file, r) : write_register(kind, r);
+            *bytes = kind.kind == STORE_MACRO ? write_macro(file, r) : write_register(kind, r);
         return r.exists;
     }
     const ValueSet* const values = value_set(file);
@@ -437,7 +429,7 @@ bool UnitFile_Make(HostKind host, int unit, const UnitFile& file, std::string* b
     return Drive_Read(kept_file(host, unit, file), bytes);
 }
 
-static std::string load_register(const RegisterSet& set, int row, int unit, const UnitFile& file,
+static std::string load_register(const RegisterSet& set, int row, const UnitFile& file,
                                  const std::string& bytes)
 {
     const Kind& kind = Store_Kind(set.kind);
@@ -451,10 +443,6 @@ static std::string load_register(const RegisterSet& set, int row, int unit, cons
         kind.kind == STORE_MACRO ? read_macro(bytes, &loaded) : read_register(kind, bytes, &loaded);
     if (!is_sound)
         return "NG(File Type Error)";
-    if (kind.kind == STORE_MACRO)
-        if (const std::string error = Drive_Write(kept_file(HOST_PNL, unit, file), bytes);
-            !error.empty())
-            return error;
     // A file that was renamed renames the register; its safe spelling alone does not.
     if (!file.name.empty() && file.name != safe_name(loaded.name))
         loaded.name = file.name.substr(0, NAME_BYTES);
@@ -471,7 +459,7 @@ std::string UnitFile_Load(HostKind host, int unit, const UnitFile& file, const s
     const RegisterSet* const set = register_set(file.ext);
     const int row = set ? row_of(*set, host, unit, file.region) : -1;
     if (row >= 0)
-        return load_register(*set, row, unit, file, bytes);
+        return load_register(*set, row, file, bytes);
     if (const ValueSet* const values = value_set(file)) {
         const std::string head = "values " + file.ext + "\n";
         if (!Text_Begins(bytes, head))

@@ -7,6 +7,7 @@
 #include "frame_memory.h"
 #include "link.h"
 #include "log.h"
+#include "macro.h"
 #include "rules.h"
 #include "setup.h"
 #include "store.h"
@@ -88,6 +89,7 @@ static constexpr Owner owners[] = {
     {"Master@Effect@", Store_Put},
     {"Shotbox@", Store_Put},
     {"Macro@Attachment@", Attach_Put},
+    {"Macro@", Macro_Put},
     {"Macro@", Store_Put},
     {"Register@All Delete@", Store_Put},
     {"MPE@Fx@Channel@Reference", System_PutMpe},
@@ -140,6 +142,8 @@ static void verb_put(int client, const std::string& path, const std::string& val
         return System_Announce(client, value == "true");
     if (!vb.is_ng && verb_put_is_request(client, path, value))
         return;
+    if (!vb.is_ng)
+        Macro_WatchPut(path, value);
     Node* node = Tree_Get(path);
     if (!node)
         return Link_SendLine(client, path + "#");
@@ -158,6 +162,21 @@ static void verb_put(int client, const std::string& path, const std::string& val
     case PUT_CHANGED: break;
     }
     Tree_Tell(*node, tally, client);
+    Rules_Follow(path, tally);
+}
+
+void Verb_Do(const std::string& path, const std::string& value)
+{
+    Node* node = Tree_Get(path);
+    if (!node || verb_owner_takes(path, value))
+        return;
+    std::string tally = node->value;
+    const PutResult result = Tree_Put(*node, value, &tally);
+    if (result == PUT_PULSE)
+        vb.pulses.push_back({path, 0, Now_Ms() + PULSE_MS});
+    if (result != PUT_PULSE && result != PUT_CHANGED)
+        return;
+    Tree_Tell(*node, tally, 0);
     Rules_Follow(path, tally);
 }
 

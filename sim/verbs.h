@@ -5,6 +5,8 @@
 #include <string>
 
 void Verb_Line(int client, const std::string& line);
+// What the switcher does by itself as if a panel had put it; nobody is answered.
+void Verb_Do(const std::string& path, const std::string& value);
 // Knob 0..4 of every panel by so many detents. A path that two panels have on the knob is turned
 // once.
 void Verb_Knob(int knob, int detents);
