@@ -1,6 +1,7 @@
 // scs_sim: stands in for the control server, the status hub and the units behind them, on a desk
 // without hardware.
 #include "autoload.h"
+#include "clip_output.h"
 #include "console.h"
 #include "dissolve.h"
 #include "drive.h"
@@ -109,10 +110,10 @@ static void main_turn(int64_t* next)
     const int64_t then = Now_Ms();
     // The console first: what it starts is due at once.
     *next = Console_Tick(then);
-    *next =
-        std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
-                  Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then), FileJob_Tick(then),
-                  Hub_Tick(then), Autoload_Tick(then), Setup_Tick(then), Macro_Tick(then)});
+    *next = std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
+                      Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then),
+                      FileJob_Tick(then), Hub_Tick(then), ClipOutput_Tick(then),
+                      Autoload_Tick(then), Setup_Tick(then), Macro_Tick(then)});
 }
 
 int main(int argc, char** argv)

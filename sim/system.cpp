@@ -1,5 +1,6 @@
 #include "system.h"
 #include "attach.h"
+#include "clip_output.h"
 #include "diag.h"
 #include "dissolve.h"
 #include "dme_channels.h"
@@ -274,6 +275,7 @@ void System_Install()
     Store_Install();
     Attach_Install();
     Macro_Install();
+    ClipOutput_Install();
     FrameMemory_Install();
     Transition_Install();
     Dissolve_Install();

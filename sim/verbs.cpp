@@ -1,6 +1,7 @@
 #include "verbs.h"
 #include "attach.h"
 #include "autoload.h"
+#include "clip_output.h"
 #include "diag.h"
 #include "dme_channels.h"
 #include "file_job.h"
@@ -131,7 +132,8 @@ static bool verb_put_to_owner(int client, const std::string& path, const std::st
 static bool verb_put_is_request(int client, const std::string& path, const std::string& value)
 {
     return FileJob_Put(client, path, value) || FrameMemory_Put(client, path, value) ||
-           Autoload_Put(path, value) || Diag_Put(client, path, value);
+           ClipOutput_Put(path, value) || Autoload_Put(path, value) ||
+           Diag_Put(client, path, value);
 }
 
 // The sender hears the outcome even when nothing changed: its page shows the server's word, not its

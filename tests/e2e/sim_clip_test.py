@@ -132,5 +132,56 @@ class Requests(ClipTest):
 
 
 
+class Outputs(ClipTest):
+    HEAD = "Frame Mem 2@Clip/Still@"
+
+    def put(self, line):
+        self.panel.send("put " + self.HEAD + line)
+
+    def frames(self, output, count):
+        """State and frame of the next tallies of an output."""
+        head, got = f"{self.HEAD}Play@{output}#", []
+        while len(got) < count:
+            line = self.panel.line(5)
+            self.assertIsNotNone(line, got)
+            if line.startswith(head):
+                got.append(tuple(int(x) for x in line[len(head):].split(",")[:2]))
+        return got
+
+    def test_a_clip_plays_in_every_mode(self):
+        self.panel.send(f"add {self.HEAD}Output Status@FM3", f"add {self.HEAD}Play@FM3", f"add {self.HEAD}Output Status@FM4")
+        self.put("Recall@FM3#1,0,1,0,/NEWS/OPENING.SFH")
+        for output in ("FM3", "FM4"):
+            self.panel.until(f"{self.HEAD}Output Status@{output}#2,/NEWS/OPENING.SFH")
+        self.panel.send(f"put  {self.HEAD}Play@Stop TC@FM3#0,4,3", f"put  {self.HEAD}Play@Start TC@FM3#0,4,1")
+        self.put("Play@Jump Frame@FM3#0,0")
+        self.panel.until(f"{self.HEAD}Play@FM3#0,1,1,3")
+        self.put("Play@FM3#0,0,0,0")
+        self.assertEqual(self.frames("FM3", 4), [(1, 1), (1, 2), (1, 3), (0, 3)])
+        for mode, wanted in ((1, [1, 2, 3, 1, 2, 3]), (2, [1, 2, 3, 2, 1, 2])):
+            self.put("Play@Jump Frame@FM3#0,0")
+            self.put(f"Play@Play Mode@FM3#0,{mode}")
+            self.put("Play@FM3#0,0,0,0")
+            frames = [frame for state, frame in self.frames("FM3", 9) if state == 1]
+            self.assertIn(",".join(map(str, wanted)), ",".join(map(str, frames)))
+            self.put("Play@FM3#0,1,0,0")
+            while self.frames("FM3", 1)[0][0]:
+                pass
+        self.put("Recall@FM3#0,0,0,0,NONE.SFH")
+        self.put("Record@Through@FM3#0,1")
+        self.panel.until(f"{self.HEAD}Output Status@FM3#1,")
+
+    def test_a_recording_becomes_a_clip(self):
+        self.panel.send(f"add {self.HEAD}Record@PROC1", f"add {self.HEAD}Output Status@FM2")
+        self.put("Record@Freeze/Rec Name@FM2#0,LOGOS/take1.SFH")
+        self.panel.send(f"put  {self.HEAD}Record@FM2#1,0,5,1")
+        self.panel.until(f"{self.HEAD}Record@PROC1#1,0,5")
+        self.panel.until(f"{self.HEAD}Output Status@FM2#2,/LOGOS/take1.SFH")
+        self.assertEqual(self.rows(FILES)["LOGOS/take1.SFH"].split(",")[0], "5")
+        self.put("Record@FM99#1,0,5,1")
+        self.put("Recall@FM2#x")
+        self.panel.sync()
+
+
 if __name__ == "__main__":
     sim_test.main(__file__)
