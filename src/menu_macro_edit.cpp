@@ -16,6 +16,7 @@ MenuMacroEdit mm_edit;
 static struct {
     bool has_recorded = false; // an event has gone in since the list was opened
     int recorded_ms = 0;       // when the touch of the last one was
+    const CURRENT_REGISTER_DATA* recorded = nullptr; // that one, while it is in the list
 } session;
 
 // --- Opening and closing ---
@@ -111,10 +112,11 @@ int mm_event_set_after(const CURRENT_EVENT_DATA& event)
     const bool is_recorded = &event == &mm_last_event() && mm_event_pause(event) < 0;
     if (is_recorded && GL_MM_Pause_AT_Insert)
         insert_measured_pause();
+    session.recorded = nullptr; // without room what follows of the touch is left out, too
     if (insert_behind(mm_edit.now, event) != 0)
         return -1;
     if (is_recorded)
-        session = {true, mm_last_event_ms()};
+        session = {true, mm_last_event_ms(), mm_edit.now};
     return 0;
 }
 
@@ -125,7 +127,8 @@ int mm_event_set_befor(const CURRENT_EVENT_DATA& event)
 
 void mm_event_set_contnue(const char* line)
 {
-    if (!mm_edit.now || !has_room(0, 1))
+    const bool is_open = mm_edit.now && mm_edit.now == session.recorded;
+    if (!is_open || !has_room(0, 1))
         return;
     (void)mm_event_append(mm_edit.now->event_data, line); // the tap has looked for room
     edited();
@@ -154,6 +157,7 @@ static void remove_event(CURRENT_REGISTER_DATA* node)
 {
     if (mm_edit.now == node)
         mm_edit.now = node->befor ? node->befor : node->next;
+    session.recorded = nullptr;
     mm_list_remove(mm_edit.list, node);
 }
 

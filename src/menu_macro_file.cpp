@@ -148,8 +148,9 @@ static void read_command(MacroReader& r, const char* text, bool is_first)
         return;
     }
     PrintText(line, "%.*s\n", int(sizeof line - 2), text);
-    const bool may_join = !is_first && r.last && mm_event_pause(r.last->event_data) < 0 &&
-                          r.reg.register_protcol_max < MENU_MACRO_LINES;
+    const bool is_command = r.last && mm_event_pause(r.last->event_data) < 0 &&
+                            !BeginsWith(r.last->event_data.event_data, MM_LOCAL);
+    const bool may_join = !is_first && is_command && r.reg.register_protcol_max < MENU_MACRO_LINES;
     if (may_join && mm_event_append(r.last->event_data, line) == 0)
         r.reg.register_protcol_max++;
     else

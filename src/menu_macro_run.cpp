@@ -54,15 +54,16 @@ static void restore_channels(const char* path, unsigned recorded, int now)
         Net_SendCommandFormat("put %s#%d", path, int(recorded));
 }
 
+// As its button would. What the page does may end this run, so it stands in an event of its own.
+static void act_locally(const char* action)
+{
+    char text[CMD_SIZE];
+    PrintText(text, "%.*s", int(strcspn(action, "\r\n")), action);
+    SendMessage(LMSG_BTNSEL, Arg(text), Arg(""), 0, 0);
+}
+
 static void send_line(const char* line)
 {
-    if (BeginsWith(line, MM_LOCAL)) {
-        char text[CMD_SIZE];
-        PrintText(text, "%.*s", int(strcspn(line + strlen(MM_LOCAL), "\r\n")),
-                  line + strlen(MM_LOCAL));
-        SendMessage(LMSG_BTNSEL, Arg(text), Arg(""), 0, 0);
-        return;
-    }
     char command[CMD_SIZE];
     PrintText(command, "%.*s", int(strcspn(line, "\r\n")), line);
     Net_SendCommand(command);
@@ -76,6 +77,10 @@ void mm_run_event_one_exec(const CURRENT_EVENT_DATA& event)
         return;
     }
     mm_tap_hold(true); // the event has its channels beside its commands
+    if (BeginsWith(event.event_data, MM_LOCAL)) {
+        act_locally(event.event_data + strlen(MM_LOCAL));
+        return;
+    }
     restore_channels("Info@DME@RefCH", event.RefCH, SYS_DMEReference);
     restore_channels("Info@DME@SelCH", event.SelCH, SYS_DMEChannel);
     mm_tap_hold(false);

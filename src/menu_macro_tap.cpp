@@ -89,9 +89,10 @@ int mm_protcol_invalid_check(const char* line)
 {
     if (BeginsWith(line, "Event@Pause Set"))
         return 1;
-    if (BeginsWith(line, "default ") || is_thumbnail_of_page(line))
+    if (BeginsWith(line, "default "))
         return 0;
-    return BeginsWith(line, "put ") && !is_refused_put(line) ? 0 : -1;
+    const bool is_taken = is_thumbnail_of_page(line) || !is_refused_put(line);
+    return BeginsWith(line, "put ") && is_taken ? 0 : -1;
 }
 
 static void show_or_insert()

@@ -5,6 +5,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "pc_file_kind.h"
 #include "pc_menu_macro_edit.h"
 #include "pc_register.h"
 #include "table_page.h"
@@ -100,6 +101,7 @@ TEST_F(MenuMacro, TheTapTellsTheOperatorsCommandsFromTheProgramsOwn)
         {"default M/E-1@Key1@Edge@Width", 0, 0},
         {"Event@Pause Set#1.5", 1, 1},
         {"read M/E-1@Key1@Type@Key Type", -1, -1},
+        {"read Frame Mem@File@Delete Thumbnail@Single", -1, -1, 0x25120000},
         {"add M/E-1@Key1@Type@Key Type", -1, -1},
         {"remove M/E-1@Key1@Type@Key Type", -1, -1},
         {"put Engineering Setup@System@Format#1", -1, 0},
@@ -157,7 +159,9 @@ TEST_F(MenuMacro, AFullListSaysSoOnce)
     Record();
     for (int i = 0; i < MENU_MACRO_EVENTS + 3; i++)
         Sends({"put A#1"});
+    Sends({"put A#1", "put B#2"});
     EXPECT_EQ(int(Recorded().size()), MENU_MACRO_EVENTS);
+    EXPECT_EQ(Recorded().back(), "put A#1\n") << "no part of a touch";
     Pass(10);
     EXPECT_NE(Pane_GetActiveID(), 0);
     Pane_Quit(Pane_GetActiveID());
@@ -292,6 +296,21 @@ TEST_F(MenuMacro, ARunStopsInAPauseAndGoesOnThere)
     EXPECT_EQ(mm_current_macro_status().event, 0) << "rewound";
 }
 
+TEST_F(MenuMacro, ARunGoesOnUnderPagesWindowsAndTheSaver)
+{
+    Load(2, "Interval:100\nEvent:put A#1\nEvent:put B#2\nEvent:put C#3\nEvent:put D#4\n");
+    mm_macro_run(2);
+    EXPECT_EQ(Run(50).size(), 1u);
+    (void)Open(0x11110000);
+    EXPECT_EQ(Run(100), Lines{"50:put B#2"});
+    CreateWindow(WINDOW_MESSAGE, "x", {.message = "x"});
+    EXPECT_EQ(Run(100), Lines{"50:put C#3"});
+    CloseWindow();
+    GL_ScreenSaver_Now = 1;
+    EXPECT_EQ(Run(100), Lines{"50:put D#4"});
+    GL_ScreenSaver_Now = 0;
+}
+
 TEST_F(MenuMacro, WhileTheLinkIsDownARunHolds)
 {
     Load(2, "Interval:100\nEvent:put A#1\nEvent:put B#2\nEvent:put C#3\n");
@@ -305,6 +324,19 @@ TEST_F(MenuMacro, WhileTheLinkIsDownARunHolds)
     MM_macro_ext_stop();
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put A#1"));
     EXPECT_THAT(Run(1000), IsEmpty());
+}
+
+// It stands where the page may end the run that sends it.
+TEST_F(MenuMacro, ALocalActionMayBeginAnotherRun)
+{
+    Load(3, "Event:put C#3\n");
+    Load(2, "Interval:100\nEvent:put A#1\nLocal:LOCAL@Menu Macro@Register@Exec@Recall_Run\n"
+            "Contnue:put B#2\n");
+    (void)Open(EXEC);
+    LS_SetNowLine(1, 2);
+    LS_SetSelected(1, 2, 0, 1);
+    mm_macro_run(2);
+    EXPECT_THAT(Run(1000), ElementsAre("0:put A#1", HasSubstr(":put C#3")));
 }
 
 TEST_F(MenuMacro, ARunThatIsRecycledIsRecordedAsItRan)
@@ -399,6 +431,10 @@ TEST_F(MenuMacro, TheRegisterPagesWorkOnListAndFile)
     EXPECT_EQ(mm_register_table(0).empty, 1);
     EXPECT_STREQ(mm_register_table(0).name, "MMCR1");
     EXPECT_EQ(File(1), "") << "it would be back after a restart";
+    const FileKind& kind = file_kinds[FILEPAGE_MENU_MACRO]; // the file pages do it, too
+    FileKind_Rename(kind, FileKind_Mask(kind, 0), 4, "NEW");
+    EXPECT_THAT(File(5), HasSubstr("Header:NEW,"));
+    mm_rename_exec(5, "ONE");
     mm_copy_exec(4, 5, 5, false); // the runs overlap
     EXPECT_STREQ(mm_register_table(5).name, "ONE");
     MM_Register_Data_All_Delete();
