@@ -224,8 +224,10 @@ static void take_value(const SETUPTABLE& t, int row, const SETUPFIELD& f, const 
     ktr_strncpy(tally, text, f.size);
 }
 
-static int row_of_line(const SETUPTABLE& t, const char* key)
+static int row_of_line(const SETUPTABLE& t, const char* told)
 {
+    char key[SETUP_TEXT]; // as it will be stored, so that a long one finds its row again
+    ktr_strncpy(key, told, std::min(sizeof key, key_size(t)));
     const int row = SetupPage_Row(t, key);
     if (row >= 0 || t.keys || !*key)
         return row;
@@ -329,7 +331,6 @@ void SetupPage_Show(const SETUPTABLE& t)
 {
     if (!t.state->is_open)
         return;
-    t.state->cursor = std::clamp(t.state->cursor, 0, std::max(0, *t.rows - 1));
     if (t.list)
         show_list(t);
     const int is_same = !SetupPage_Differs(t);
@@ -350,6 +351,7 @@ void SetupPage_Open(const SETUPTABLE& t)
     t.state->question = 0;
     if (t.keys)
         make_rows(t);
+    t.state->cursor = std::clamp(t.state->cursor, 0, std::max(0, *t.rows - 1));
     for_each_field(t, ask_field);
     SetupPage_Show(t);
     if (t.list)

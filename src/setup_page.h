@@ -61,7 +61,7 @@ struct SETUPCHOICE {
 };
 
 struct SETUPSTATE {
-    int cursor = 0; // current row; outlives the page
+    int cursor = 0; // current row; outlives the page, and the rows while they are told anew
     int is_open = 0;
     int question = 0; // pane of the Execute question, 0 none
 };

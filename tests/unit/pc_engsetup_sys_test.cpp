@@ -341,6 +341,12 @@ TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
     (void)Push(33);
     Type("3");
     (void)Push(34);
+    Type("76");
+    EXPECT_EQ(Row(1, 5), "SWR001D001|SWR1|192.168.13.76*|192.168.23.76*|192.168.33.76*");
+    for (const char* line : {"KILL", "PNL001D001,PNL1,192.168.10.1,192.168.20.1,none",
+                             "SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11"})
+        (void)Tell(NETWORK + "List#" + line);
+    (void)Push(34); // still of the second row
     Type("77");
     EXPECT_EQ(Row(1, 5), "SWR001D001|SWR1|192.168.13.77*|192.168.23.77*|192.168.33.77*");
     SelectRow(0);
