@@ -1,0 +1,118 @@
+"""A person records twenty touches with a pause, edits and stores them; after a restart the run sends the same."""
+import datetime
+import re
+import time
+import unittest
+
+from desk import INITIAL_READ_END, grid
+from deskcase import DeskCase
+
+KEY_TYPE = "put M/E-1@Key1@Type@Key Type#"
+LUMINANCE, LINEAR = 17, 18
+EDITOR_KEYS = {"Auto Insert": (154, 402), "Pause Auto Insert": (252, 402), "Store": (448, 402),
+               "Delete": (448, 478), "Exit": (644, 560)}
+RECALL_RUN = 53
+PAUSE = 2.0
+REGISTERS_READ = 90  # seconds after which the program has read its registers, also on a busy machine
+
+
+class MenuMacro(DeskCase):
+    """The tests build on one another, in the order of their names."""
+
+    touches = []
+
+    def key_types(self, since=0):
+        """(seconds, line) of each key type that was sent; lines from the log, whoever has read the wire."""
+        with open(self.desk.sim_log, encoding="latin-1") as log:
+            lines = re.findall(rf"^(\S+) .*?< ({re.escape(KEY_TYPE)}.*)$", log.read(), re.M)
+        return [(self.seconds(stamp), line) for stamp, line in lines][since:]
+
+    @staticmethod
+    def seconds(stamp):
+        clock = datetime.datetime.strptime(stamp.strip("[]"), "%H:%M:%S.%f")
+        return clock.hour * 3600 + clock.minute * 60 + clock.second + clock.microsecond / 1e6
+
+    def page(self, number):
+        self.desk.console(f"page {number}")
+        time.sleep(0.5)
+
+    def first_run(self):
+        """What a run sends, once the registers have been read; until then it is one of nothing."""
+        before, end = len(self.key_types()), time.monotonic() + REGISTERS_READ
+        while len(self.key_types()) == before and time.monotonic() < end:
+            self.desk.console("send Info@Menu Macro@Run#1")
+            time.sleep(1)
+        time.sleep(8)
+        return self.key_types(before)
+
+    def test_01_record_and_store(self):
+        time.sleep(3)  # the initial read ends with a pause in which nothing is touched
+        self.page("5431")
+        self.desk.touch(*grid(54))
+        for key in ("Auto Insert", "Pause Auto Insert"):
+            self.desk.touch(*EDITOR_KEYS[key])
+        self.page("1111")
+        for n in range(20):
+            if n == 10:
+                time.sleep(PAUSE)
+            self.desk.touch(*grid((LINEAR, LUMINANCE)[n % 2]), settle=0.15)
+        type(self).touches = self.key_types()
+        self.assertEqual(len(self.touches), 20)
+        self.page("7144.102")
+        self.desk.touch(*EDITOR_KEYS["Delete"])  # the cursor stands at the last event
+        self.desk.touch(*EDITOR_KEYS["Store"])
+        self.desk.touch(*EDITOR_KEYS["Exit"])
+        with open(f"{self.desk.root}/mnt/data/Menu_Macro_tmp/mm_reg01.tmp", encoding="ascii") as file:
+            text = file.read()
+        self.assertEqual(text.count("\nEvent:put "), 19)
+        self.assertEqual(text.count("\nPause:"), 19)
+
+    def test_02_the_run_after_a_restart_is_the_same(self):
+        self.desk._box("stop", "app")
+        self.desk.start_app()
+        self.desk.wait_wire(INITIAL_READ_END, 20)
+        ran = self.first_run()
+        recorded = self.touches[:-1]
+        self.assertEqual([line for _, line in ran], [line for _, line in recorded])
+        for n in range(1, len(ran)):
+            wait, was = (t[n][0] - t[n - 1][0] for t in (ran, recorded))
+            self.assertAlmostEqual(wait, was, delta=0.15, msg=f"event {n}")
+
+    def test_03_another_page_and_a_pane_do_not_hold_it_up(self):
+        before = len(self.key_types())
+        self.page("5431")
+        self.desk.touch(*grid(RECALL_RUN))
+        self.page("6411")
+        self.desk.touch(45, 35)  # the page window
+        time.sleep(8)
+        self.assertEqual(len(self.key_types(before)), 19)
+
+    def test_04_stop_in_the_pause(self):
+        before = len(self.key_types())
+        self.desk.console("send Info@Menu Macro@Run#1")
+        end = time.monotonic() + 10
+        while len(self.key_types(before)) < 10 and time.monotonic() < end:
+            time.sleep(0.05)
+        time.sleep(0.7)
+        self.desk.console("send Info@Menu Macro@Run#0")
+        time.sleep(4)
+        self.assertEqual(len(self.key_types(before)), 10)
+
+    def test_05_a_link_that_falls_gives_no_burst(self):
+        before, end = len(self.key_types()), time.monotonic() + 60
+        self.desk.console("send Info@Menu Macro@Run#1")
+        while len(self.key_types(before)) < 4:
+            time.sleep(0.05)
+            self.assertLess(time.monotonic(), end)
+        self.desk.console("drop text 2000")
+        while len(self.key_types(before)) < 18:  # what was under way when it fell may be lost
+            time.sleep(0.2)
+            self.assertLess(time.monotonic(), end, "the run goes on")
+        ran = self.key_types(before)
+        waits = [ran[n][0] - ran[n - 1][0] for n in range(1, len(ran))]
+        self.assertGreater(min(waits), 0.1)
+        self.assertGreater(max(waits), 2)
+
+
+if __name__ == "__main__":
+    unittest.main()
