@@ -209,9 +209,24 @@ int mm_list_commands(const CURRENT_REGISTER_DATA* first)
 
 // --- Registers ---
 
+static bool is_read[MENU_MACRO_REGISTERS]; // its file has been looked for
+
+bool mm_register_begins_read(int no)
+{
+    const bool is_one = no >= 0 && no < MENU_MACRO_REGISTERS;
+    if (is_one)
+        is_read[no] = true;
+    return is_one;
+}
+
+// The start reads all registers late. Who comes earlier must not take one for empty that is not.
 MACRO_REGISTER_DATA* mm_register(int no)
 {
-    return no >= 0 && no < MENU_MACRO_REGISTERS ? &reg_data[no] : nullptr;
+    if (no < 0 || no >= MENU_MACRO_REGISTERS)
+        return nullptr;
+    if (!is_read[no])
+        (void)mm_macro_file_load(no); // most registers have none
+    return &reg_data[no];
 }
 
 void mm_default_name(int no, char (&name)[MENU_MACRO_NAME])
@@ -311,7 +326,8 @@ int mm_register_store(int no, const CURRENT_REGISTER_DATA* list)
 template <typename Act> static void each_number(int from, int to, Act act)
 {
     for (int number = std::max(from, 1); number <= std::min(to, MENU_MACRO_REGISTERS); number++)
-        act(number - 1);
+        if (mm_register(number - 1))
+            act(number - 1);
 }
 
 void mm_lock_exec(int from, int to, bool on)
@@ -385,6 +401,7 @@ void mm_registers_free()
         mm_current_register_all_dele(reg.register_data);
         reg = {};
     }
+    std::fill(std::begin(is_read), std::end(is_read), false);
     std::fill(std::begin(RegDataWaitList), std::end(RegDataWaitList), MACRO_WAITTIME_DATA{});
     mm_run_reset();
     mm_edit_close();

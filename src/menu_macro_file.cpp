@@ -275,7 +275,7 @@ int mm_macro_file_load(int n)
 {
     Path path;
     MacroReader reader;
-    if (!mm_register(n))
+    if (!mm_register_begins_read(n))
         return -1;
     backup_path(n, path);
     if (read_file(path, reader) != 0)

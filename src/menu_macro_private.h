@@ -33,7 +33,8 @@ CURRENT_REGISTER_DATA* mm_list_copy(const CURRENT_REGISTER_DATA* first);
 int mm_list_events(const CURRENT_REGISTER_DATA* first);
 int mm_list_commands(const CURRENT_REGISTER_DATA* first);
 
-MACRO_REGISTER_DATA* mm_register(int no); // null out of range
+MACRO_REGISTER_DATA* mm_register(int no); // null out of range; its file has been read
+bool mm_register_begins_read(int no);     // false out of range
 void mm_default_name(int no, char (&name)[MENU_MACRO_NAME]);
 // The list becomes that of register no, which is written to its file. 0; -1: it is locked, or its
 // file could not be written.

@@ -24,6 +24,15 @@ struct MenuMacro : TablePage {
     void SetUp() override
     {
         TablePage::SetUp();
+        RemoveFiles();
+    }
+    void TearDown() override
+    {
+        RemoveFiles();
+        TablePage::TearDown();
+    }
+    static void RemoveFiles()
+    {
         for (const char* dir : {BACKUP, TRANSFER})
             std::filesystem::remove_all(dir);
     }
@@ -213,6 +222,19 @@ TEST_F(MenuMacro, AFileIsWrittenAsItIsRead)
     EXPECT_EQ(File(7), file);
     EXPECT_EQ(mm_macro_tmpfile_save("MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"), 0);
     EXPECT_EQ(FileText(std::string(TRANSFER) + "mm_reg07.tmp"), file);
+}
+
+TEST_F(MenuMacro, ARegisterIsNotTakenForEmptyBeforeTheStartHasReadIt)
+{
+    const std::string file = "Header:OPENING,1,1\nEvent:put A#1\n";
+    Write(BACKUP, 8, file);
+    EXPECT_STREQ(mm_register_table(7).name, "OPENING");
+    Write(BACKUP, 9, file);
+    mm_edit_open(9);
+    EXPECT_EQ(mm_current_register_store(9), -1) << "locked";
+    Write(BACKUP, 10, file);
+    mm_lock_exec(10, 10, false);
+    EXPECT_THAT(File(10), HasSubstr("Header:OPENING,0,1\n"));
 }
 
 TEST_F(MenuMacro, AStrangeFileHarmsNothing)
