@@ -1,8 +1,60 @@
-// a_ff: the file folder.
+// a_ff: the file folder, the browser of the clip store.
+// A page has one area or two. Each shows the folder of the store where it stands, as a grid of
+// thumbnails that follows the catalogue, folders first: the way back above it, a scroll bar beside
+// it, the keys "Find", "Select" and "ALL" where the page wants them. A touch selects; a second one
+// on a selected folder opens it. While "Select" is on a touch checks instead. What is done with the
+// selected or checked elements is the page code's.
 #pragma once
+#include "fmctrl3.h"
 #include "types.h"
 
-struct FF_TBL;
+enum : int { // PARTS_FILE_AREA::exist_place, which clips an area has: bits of ELEMENT.exist
+    ELEMENT_PLACE_NONE = 0, // all
+    ELEMENT_PLACE_STORAGE = 1,
+    ELEMENT_PLACE_MEMORY = 2,
+};
+enum : int { SELECT_MODE_OFF = 0, SELECT_MODE_SELECT = 1, SELECT_MODE_ALL = 2 };
+constexpr int FF_AREAS = 2;
+
+struct POSITION {
+    int x = 0;
+    int y = 0;
+};
+struct FF_NAME_STATUS { // the whole name of what is selected, in one line
+    int enable = 0;
+    int type = 0; // 1: also frames and time
+    POSITION pos;
+};
+struct FF_FIND_BUTTON {
+    int enable = 0;
+    POSITION pos;
+};
+struct FF_SELECT_BUTTON {
+    int enable = 0;
+    POSITION pos_select;
+    POSITION pos_all;
+};
+struct PARTS_FILE_AREA {
+    int enable = 0;
+    int exist_place = ELEMENT_PLACE_NONE;
+    int pair_mode = 0;     // 1: pairs only
+    int loaded_mark = 0;   // 1: what is in memory is marked
+    int selected_mark = 0; // 1: what is selected has a frame
+    int h_num = 0;         // columns of FF_CELL_W
+    int v_num = 0;         // rows of FF_CELL_H
+    POSITION pos;          // of the grid; the way back is FF_PATH_H above it
+    FF_NAME_STATUS name_status;
+    FF_FIND_BUTTON find_button;
+    FF_SELECT_BUTTON select_button;
+};
+struct FF_TBL {
+    PARTS_FILE_AREA area[FF_AREAS];
+};
+constexpr int FF_CELL_W = 132;
+constexpr int FF_CELL_H = 104;
+constexpr int FF_PATH_H = 36;
+constexpr int FF_KEY_W = 84;
+constexpr int FF_KEY_H = 46;
 
 // What the pages of the clip store are told of a folder or clip.
 enum : int { OBJECT_TYPE_FOLDER = 0, OBJECT_TYPE_FILE = 1, OBJECT_TYPE_ALL = 2 };
@@ -25,6 +77,41 @@ struct FF_OBJECT {
     char name[33] = "";
 };
 
-// A null table empties the object and returns 1.
+// --- Opening and closing a page ---
+
+// Area n has the scroll bar n. Each stands where this page was left; what was selected is selected
+// again when it is still there. A null table empties the object and returns 1.
 int FF_Create(const FF_TBL* table, uint32_t var);
 int FF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+// As KP_ConvPosForWheel.
+int FF_ConvPosForWheel(int* x, int* y, int button);
+
+// --- For page code: index is the number of an area, from 0 ---
+// What changes is told with that number: LMSG_FFCRNTCHANGE another folder, LMSG_FFSELCHANGE another
+// selection, LMSG_FFCHKCHNAGE a check, LMSG_FFLISTCHANGE (and the count) an element came or went.
+
+const char* FF_GetCurrentPath(int index); // "/root/NEWS"; "" for an area that the page has not
+int FF_GetNBMax(int index);               // rows that the grid can be moved by, for a knob
+int FF_GetNBVar(int index);               // the first row shown
+int FF_SetScrollBarPosition(int index, int row); // cut to the range. -1 unknown area
+int FF_MoveFileArea(int index, int x, int y);    // the grid with its way back. -1 unknown area
+// "/", an absolute path, "..", "../..", "../../.." or the name of a folder that is shown. 0 or -1.
+int FF_ChangeDirectory(int index, const char* directory);
+
+// How many elements a folder has of an OBJECT_TYPE_, only those in an ELEMENT_PLACE_ (NONE: all)
+// and pairs when pair is 1; recursive: with all folders below. -1 when there is no such folder.
+int FF_GetChildObjectNum(const char* path, int type, int place, int pair, bool recursive);
+// The same into list, at most max; returns how many were written.
+int FF_GetChildObjectList(const char* path, int type, int place, int pair, bool recursive,
+                          FF_OBJECT* list, int max);
+int FF_GetCheckedObjectNum(int index);
+int FF_GetCheckedObjectList(int index, FF_OBJECT* list, int max); // returns how many were written
+int FF_GetSelectedObject(int index, FF_OBJECT* object);           // 0; -1 for none
+// The element of that path ("NAME" in the area's folder, or "/root/NEWS/NAME"). 0; -1 for none.
+int FF_GetFoundObject(int index, const char* path, int type, FF_OBJECT* object);
+void FF_ClearCheckedObjectList(int index);
+int FF_SetSelectMode(int index, int mode); // SELECT_MODE_; off takes all checks back. -1 unknown
+
+// Search the whole store for a text in the names, from behind the last one found, round its ends.
+// Shows the folder of what is found and selects it there. 0; -1 for none or an empty text.
+int FF_Find(int index, const char* text, SEARCH_DIR dir);

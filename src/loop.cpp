@@ -1,5 +1,6 @@
 #include "loop.h"
 #include "a_dw.h"
+#include "a_ff.h"
 #include "a_kf.h"
 #include "a_kp.h"
 #include "a_ls.h"
@@ -183,7 +184,8 @@ static bool loop_wheel_to_press(int* x, int* y, int button)
         return false;
     return (IsObjetype(OBJ_LS) && LS_ConvPosForWheel(x, y, button)) ||
            (IsObjetype(OBJ_DW) && DW_ConvPosForWheel(x, y, button)) ||
-           (IsObjetype(OBJ_KP) && KP_ConvPosForWheel(x, y, button));
+           (IsObjetype(OBJ_KP) && KP_ConvPosForWheel(x, y, button)) ||
+           (IsObjetype(OBJ_FF) && FF_ConvPosForWheel(x, y, button));
 }
 
 static void loop_wheel(int x, int y, int button)
