@@ -91,6 +91,10 @@ bool is_not_fmem_v6()
 {
     return !is_fmem_v6();
 }
+bool is_without_clip_store()
+{
+    return GL_ClipStoreSupportMode == 0;
+}
 
 bool is_dme_with_own_frame()
 {
@@ -321,6 +325,7 @@ bool is_board_split_in_four()
 constexpr uint32_t TAB_MASK = 0xFFFF0000;
 constexpr Hidden hidden[] = {
     NotThere(0x71520000, is_not_fmem_v6),
+    NotThere(0x21410000, is_without_clip_store),
     NotThere(0x73310015, has_no_zrd52),
     NotThere(0x73220010, has_old_target),
     NotThere(0x73310007, has_old_target),

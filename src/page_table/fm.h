@@ -18,14 +18,19 @@ inline constexpr BT_TBL bt_fm_still[] = {
 };
 static_assert(ButtonsAreSound(bt_fm_still));
 
+enum : int { BTN_FM_TOP_LOAD = 18 }; // of the clip store
+
 inline constexpr BT_TBL bt_frame_memory_top[] = {
     Jump(       {.id = 17, .caption = "Still", .group = "Memory", .cmd = {"#21110000"}}),
+    Jump(       {.id = BTN_FM_TOP_LOAD, .caption = "Load", .group = "Memory", .cmd = {"#21410000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_frame_memory_top));
 
+extern const PC_TBL pc_fmem_top; // pc_fmem_load.cpp
+
 inline constexpr PAGE fm_pages[] = {
-    {.id = 0x21000000, .tree = {"Frame Memory"}, .obj = {Base(base_main), Buttons(bt_frame_memory_top)}},
+    {.id = 0x21000000, .tree = {"Frame Memory"}, .obj = {Base(base_main), Buttons(bt_frame_memory_top), Code(pc_fmem_top)}},
     {.id = 0x21110000, .tree = {"Frame Memory", "Still"}, .obj = {Base(base_main), Buttons(bt_fm_still)}},
 };

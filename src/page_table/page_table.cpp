@@ -11,6 +11,7 @@
 #include "file_tops.h"
 #include "file_xport.h"
 #include "fm.h"
+#include "fmem_clip.h"
 #include "gallery.h"
 #include "install.h"
 #include "keyframe.h"
@@ -67,6 +68,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 file_dual_pages,
                 file_top_pages,
                 fm_pages,
+                fmem_clip_pages,
                 sources_pages,
                 operation_pages,
                 dme_pages,

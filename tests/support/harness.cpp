@@ -163,6 +163,7 @@ static int full_houses; // alive
 
 static void fill_house()
 {
+    GL_ClipStoreSupportMode = 1;
     std::fill_n(multiprogram2_me, ME_COUNT, 1);
     std::fill_n(GL_KeyMax, ME_COUNT, 8);
     SYS_RefSwrType = DEVTYPE_KTR40GSF;
@@ -224,7 +225,8 @@ void Harness_Reset()
     TDL_FillRectS(0, 0, SCREEN_W - 1, SCREEN_H - 1, 0);
 }
 
-FullHouse::FullHouse() : switcher(SYS_RefSwrType), frame_memory(SYS_FmemV6)
+FullHouse::FullHouse()
+    : switcher(SYS_RefSwrType), frame_memory(SYS_FmemV6), clip_store(GL_ClipStoreSupportMode)
 {
     static_assert(sizeof multi == sizeof multiprogram2_me && sizeof keys == sizeof GL_KeyMax);
     std::copy_n(multiprogram2_me, ME_COUNT, multi);
@@ -240,6 +242,7 @@ FullHouse::~FullHouse()
     std::copy_n(keys, ME_COUNT, GL_KeyMax);
     SYS_RefSwrType = switcher;
     SYS_FmemV6 = frame_memory;
+    GL_ClipStoreSupportMode = clip_store;
     SYS_DWSubEnable = 0;
 }
 

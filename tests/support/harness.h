@@ -26,9 +26,10 @@ void Harness_Video();
 void Harness_Reset();
 
 // While it lives, also across a reset, the installation has everything that a page may ask for:
-// both sides of every bank with all wipes, eight keys, the large switcher, the newest frame memory.
+// both sides of every bank with all wipes, eight keys, the large switcher, the newest frame memory,
+// a clip store.
 struct FullHouse {
-    int multi[6], keys[6], switcher, frame_memory;
+    int multi[6], keys[6], switcher, frame_memory, clip_store;
     FullHouse();
     ~FullHouse();
     FullHouse(const FullHouse&) = delete;

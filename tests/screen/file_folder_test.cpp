@@ -1,0 +1,93 @@
+// The browser of the clip store on the Load page, with thumbnails, marks, checks and a found clip.
+#include "a_ff_private.h"
+#include "fmctrl3.h"
+#include "table_page.h"
+#include "text.h"
+#include <filesystem>
+#include <utility>
+
+namespace
+{
+namespace fs = std::filesystem;
+constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
+
+struct FolderPictures : TablePage {
+    DEVICE* first_switcher = nullptr;
+    int switchers = 0;
+
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
+        switchers = std::exchange(SYS_MySwrMax, 1);
+        CopyText(DEV_Swr[0].id, "SWR000D001");
+        fs::create_directories(FM_FOLDER);
+        FMCtrl3_Init();
+    }
+    void TearDown() override
+    {
+        FMCtrl3_Finalize();
+        fs::remove_all(FM_FOLDER);
+        DEV_MySwr[0] = first_switcher;
+        SYS_MySwrMax = switchers;
+        TablePage::TearDown();
+    }
+    static void Hub(const std::string& table, const std::string& row)
+    {
+        std::string v = "Insert", t = "CS1." + table, r = row;
+        SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), 0, Arg(r.c_str()));
+    }
+    // A sky that grows lighter towards a ground, in colours of the clip's own: 112 x 63, 24 bit.
+    static void Thumbnail(const std::string& file, unsigned seed)
+    {
+        SDL_Surface* const s =
+            SDL_CreateRGBSurface(SDL_SWSURFACE, 112, 63, 24, 0xFF0000, 0xFF00, 0xFF, 0);
+        for (int y = 0; y < s->h; y++) {
+            SDL_Rect line = {0, Sint16(y), Uint16(s->w), 1};
+            const auto shade = Uint8(60 + 2 * y);
+            const bool is_ground = y > 40;
+            SDL_FillRect(s, &line,
+                         SDL_MapRGB(s->format, Uint8(seed * 37), is_ground ? 90 : shade,
+                                    is_ground ? 40 : Uint8(255 - seed * 29)));
+        }
+        SDL_SaveBMP(s, (FM_FOLDER + file).c_str());
+        SDL_FreeSurface(s);
+    }
+    static void Clip(const std::string& name, int frames, int exist, int pair = 0)
+    {
+        static unsigned seed = 0;
+        Thumbnail("NEWS." + name + ".SFH" + (frames > 1 ? "#000000" : "") + ".THM", seed++ % 8);
+        Hub("ClipStoreFile", "root/NEWS/" + name + ".SFH:" + std::to_string(frames) + ", " +
+                                 std::to_string(pair) + ", 0, 3, 2026-11-25 09:20:00, " +
+                                 std::to_string(exist) + ", 1");
+    }
+};
+} // namespace
+
+TEST_F(FolderPictures, Browser)
+{
+    Hub("ClipStoreFolder", "root/NEWS:1");
+    Hub("ClipStoreFolder", "root/NEWS/ARCHIVE:1");
+    Hub("ClipStoreFolder", "root/NEWS/WEATHER:1");
+    const struct {
+        const char* name;
+        int frames, exist, pair;
+    } clips[] = {{"HEADLINE", 2, 3, 0}, {"LOGO KEY", 1, 3, 1},
+                 {"OPENING", 3, 1, 0},  {"OTS LEFT", 1, 1, 1},
+                 {"SKYLINE", 1, 2, 0},  {"SPORT BUMPER", 3, 3, 0},
+                 {"STING", 2, 1, 1},    {"STUDIO WIDE NIGHT", 1, 1, 0},
+                 {"TRAFFIC", 2, 3, 0},  {"WEATHER LOOP", 3, 1, 0},
+                 {"WIPE", 2, 1, 1},     {"ZOOM IN", 1, 1, 0}};
+    for (const auto& c : clips)
+        Clip(c.name, c.frames, c.exist, c.pair);
+    (void)Open(0x21410000);
+    (void)FF_ChangeDirectory(0, "/NEWS");
+    EXPECT_EQ(FF_Find(0, "openi", SEARCH_DIR_NEXT), 0);
+    (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
+    const Rect g = ff_grid(ff.area[0].parts);
+    for (int n : {2, 7})
+        (void)Touch(g.x1 + n % 4 * FF_CELL_W + 50, g.y1 + n / 4 * FF_CELL_H + 40);
+    for (int i = 0; i < 4; i++)
+        Pass(1000);
+    EXPECT_TRUE(MatchesGolden("file_folder"));
+}
