@@ -98,12 +98,18 @@ static void clipstill_register(int command)
 
 // --- Results ---
 
+static void stop()
+{
+    if (progress.pane_id)
+        (void)Pane_Quit(progress.pane_id);
+    progress = {};
+}
+
 static void finish()
 {
     char message[160];
     const int full = progress.error_cnt_frame_memory_full;
-    (void)Pane_Quit(progress.pane_id);
-    progress = {};
+    stop();
     FF_ClearCheckedObjectList(0);
     if (full == 0)
         return;
@@ -180,6 +186,10 @@ static int proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
         if (progress.pane_id && int(ax) == progress.pane_id)
             progress = {};
         return 0;
+    case LMSG_FMCTRL3CHANGE: // the hub has gone, and the results with it
+        if (ax == FMCTRL_MSG_TALBE_CLEAR)
+            stop();
+        return 0;
     case MSG_SHPTALLY:
         if (ax && bx && dx)
             progress_display(Text(ax), Text(bx), Text(dx));
@@ -190,9 +200,7 @@ static int proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
 
 static int open_or_leave(int on, uint32_t)
 {
-    if (progress.pane_id)
-        (void)Pane_Quit(progress.pane_id);
-    progress = {};
+    stop();
     if (on)
         enable_keys();
     return 0;

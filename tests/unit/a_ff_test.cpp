@@ -195,6 +195,16 @@ TEST_F(FileFolder, ForgetsARequestThatWasCancelled)
     EXPECT_EQ(TakeQueuedHubLines().size(), 2u);
 }
 
+TEST_F(FileFolder, WaitsForNothingWhenTheHubHasGone)
+{
+    Key(FF_KEY_ALL);
+    (void)Press(BTN_FMEM_LOAD);
+    const int pane = Pane_GetActiveID();
+    EXPECT_NE(pane, 0);
+    FMCtrl3_HubLost();
+    EXPECT_FALSE(Pane_Exist(pane));
+}
+
 TEST_F(FileFolder, HoldsPicturesOfWhatIsInViewOnly)
 {
     for (int i = 0; i < 400; i++)
