@@ -1,6 +1,7 @@
 """A person records twenty touches with a pause, edits and stores them; after a restart the run sends the same."""
 import datetime
 import re
+import statistics
 import time
 import unittest
 
@@ -13,7 +14,6 @@ EDITOR_KEYS = {"Auto Insert": (154, 402), "Pause Auto Insert": (252, 402), "Stor
                "Delete": (448, 478), "Exit": (644, 560)}
 RECALL_RUN = 53
 PAUSE = 2.0
-REGISTERS_READ = 90  # seconds after which the program has read its registers, also on a busy machine
 
 
 class MenuMacro(DeskCase):
@@ -36,13 +36,11 @@ class MenuMacro(DeskCase):
         self.desk.console(f"page {number}")
         time.sleep(0.5)
 
-    def first_run(self):
-        """What a run sends, once the registers have been read; until then it is one of nothing."""
-        before, end = len(self.key_types()), time.monotonic() + REGISTERS_READ
-        while len(self.key_types()) == before and time.monotonic() < end:
-            self.desk.console("send Info@Menu Macro@Run#1")
-            time.sleep(1)
-        time.sleep(8)
+    def run_once(self):
+        """What a run sends."""
+        before = len(self.key_types())
+        self.desk.console("send Info@Menu Macro@Run#1")
+        time.sleep(9)
         return self.key_types(before)
 
     def test_01_record_and_store(self):
@@ -71,12 +69,15 @@ class MenuMacro(DeskCase):
         self.desk._box("stop", "app")
         self.desk.start_app()
         self.desk.wait_wire(INITIAL_READ_END, 20)
-        ran = self.first_run()
+        self.desk.touch(400, 407)  # Cancel
+        time.sleep(3)
+        ran = self.run_once()
         recorded = self.touches[:-1]
         self.assertEqual([line for _, line in ran], [line for _, line in recorded])
-        for n in range(1, len(ran)):
-            wait, was = (t[n][0] - t[n - 1][0] for t in (ran, recorded))
-            self.assertAlmostEqual(wait, was, delta=0.15, msg=f"event {n}")
+        waits, were = ([t[n][0] - t[n - 1][0] for n in range(1, len(t))] for t in (ran, recorded))
+        # A busy machine delays single lines on their way to the log.
+        self.assertLess(statistics.median(abs(a - b) for a, b in zip(waits, were)), 0.1)
+        self.assertEqual(waits.index(max(waits)), were.index(max(were)), "the pause is where it was")
 
     def test_03_another_page_and_a_pane_do_not_hold_it_up(self):
         before = len(self.key_types())
