@@ -15,6 +15,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 #include "safeguards.h"
 
@@ -34,7 +35,8 @@ namespace
 constexpr int COMMAND_SIZE = 4096;
 constexpr int POLL_MS = 1000;
 constexpr int STEP_OK = 0;
-constexpr int STEP_TOLD = -1;     // failed, and window and error list say so already
+constexpr int STEP_TOLD = -2;     // failed, and window and error list say so already
+constexpr int STEP_NO_OK = -1;    // the server's result does not say that it is good
 constexpr int STEP_REFUSED = 126; // not run: as the shell has it for what it can't run
 constexpr int MINUTES_MAX = 100;  // of an estimate
 
@@ -50,7 +52,7 @@ struct Job {
 // A keyword of install.cfg, by what its step does.
 struct Keyword {
     const char* word;
-    int (*run)(Job& job, char* value) = nullptr; // STEP_OK, STEP_TOLD or an exit status
+    int (*run)(Job& job, char* value) = nullptr; // STEP_ or an exit status
     bool needs_file = false;                     // the first word of its value
 };
 } // namespace
@@ -415,26 +417,21 @@ static void show_processing(const Job& job, const char* value, int percent)
 
 // The server's command leaves a file when it ends. It is waited for without a limit: it alone knows
 // how far it is, and switching it off half way is worse than waiting.
-static int await_result(Job& job, const char* value)
+static int await_result(const Job& job, const char* value, uint32_t estimate_ms)
 {
     const uint32_t begin = SDL_GetTicks();
     FILE* fp = nullptr;
     while (!fp) {
         SDL_Delay(POLL_MS);
         const uint64_t used = SDL_GetTicks() - begin;
-        if (job.estimate_ms > 0)
-            show_processing(job, value, int(std::min<uint64_t>(used * 100 / job.estimate_ms, 100)));
+        if (estimate_ms > 0)
+            show_processing(job, value, int(std::min<uint64_t>(used * 100 / estimate_ms, 100)));
         fetch_results();
         fp = fopen(RESULT, "re");
     }
-    job.estimate_ms = 0;
     const bool is_good = tell_results(fp, "OK");
     fclose(fp);
-    if (is_good)
-        return STEP_OK;
-    failed_code = -1;
-    show_failure(job, value);
-    return STEP_TOLD;
+    return is_good ? STEP_OK : STEP_NO_OK;
 }
 
 static int await_status(Job& job, const char* value)
@@ -453,13 +450,15 @@ static int await_status(Job& job, const char* value)
 
 static int run_execs_background(Job& job, char* value)
 {
+    const uint32_t estimate_ms = std::exchange(job.estimate_ms, 0);
     put_uid(job, value);
     remove_results();
     Log_Output(LOG_ALWAYS, MOD_INSTALL, "install_scs:: EXECS_BG %s", value);
     const int status = run_on_server(SCS_EXEC "\"%s\" &", value);
     if (status != 0)
         return server_failed(job, value, status);
-    return strstr(value, WORD_POLLED) ? await_status(job, value) : await_result(job, value);
+    return strstr(value, WORD_POLLED) ? await_status(job, value)
+                                      : await_result(job, value, estimate_ms);
 }
 
 // --- The install of one unit ---

@@ -132,6 +132,9 @@ TEST_F(Install, ACommandInTheBackgroundIsWaitedForWhateverWasEstimated)
 
 TEST_F(Install, AStepInTheBackgroundEndsAsItsResultSays)
 {
+    static const std::string failed = "[Error] Install failure : code = [-1]";
+    static const std::string advice =
+        "    Please check the file on your memory card, and try again.";
     static const struct {
         const char* result;
         int expected;
@@ -139,8 +142,8 @@ TEST_F(Install, AStepInTheBackgroundEndsAsItsResultSays)
     } cases[] = {
         {"OK\n", 0, {}},
         {"note\nOKAY\nnever read\n", 0, {"note"}},
-        {"bad block\nno OK", -1, {"bad block", "no OK"}},
-        {"", -1, {}},
+        {"bad block\nno OK", -1, {"bad block", "no OK", failed, "copy", advice}},
+        {"", -1, {failed, "copy", advice}},
     };
     for (const auto& c : cases) {
         InstallStick::Put("result", c.result);
