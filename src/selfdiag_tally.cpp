@@ -386,26 +386,36 @@ int SelfDiag_SWR_Tally(const char* cmd, const char* varptr)
     return report(switcher_kind, cmd, varptr);
 }
 
-int SelfDiag_DME_Tally(const char* cmd, const char* varptr)
-{
-    return report(dme_kind, cmd, varptr);
-}
-
 int SelfDiag_PNL_Tally(const char* cmd, const char* varptr)
 {
     return report(BeginsWith(varptr, "DCU") ? dcu_kind : panel_kind, cmd, varptr);
 }
 
 // A new board in a slot is called by its id from its next report on.
-void circuitboardid_tly(const char* value)
+static int take_board_ids(const UnitKind& kind, const char* value)
 {
     Fields f;
     split(f, value);
     Reporter r;
-    if (f.n < 2 || !find_unit(switcher_kind, f.v[0], &r) || r.word_row < 0)
-        return;
+    if (f.n < 2)
+        return -1;
+    if (!find_unit(kind, f.v[0], &r) || r.word_row < 0)
+        return -2;
     for (int i = 0; i < DIAG_BOARDS; i++)
         CopyText(GL_CircuitBoard[r.word_row][i], i + 1 < f.n && *f.v[i + 1] ? f.v[i + 1] : "NG");
+    return 0;
+}
+
+void circuitboardid_tly(const char* value)
+{
+    (void)take_board_ids(switcher_kind, value); // others' boards are not ours
+}
+
+// The switchers' ids come by circuitboardid_tly.
+int SelfDiag_DME_Tally(const char* cmd, const char* varptr)
+{
+    return Same(cmd, "Circuit Board ID") ? take_board_ids(dme_kind, varptr)
+                                         : report(dme_kind, cmd, varptr);
 }
 
 // --- The reference of the multi-picture units ---

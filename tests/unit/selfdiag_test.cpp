@@ -204,6 +204,8 @@ TEST_F(SelfDiag, ABoardIsCalledByItsId)
     Report(std::string(SWR) + "Circuit Board ID", "SWR1,CPU-31,,XPT-44");
     EXPECT_STREQ(GL_CircuitBoard[0][0], "CPU-31");
     EXPECT_STREQ(GL_CircuitBoard[0][1], "NG");
+    Report(std::string(DME) + "Circuit Board ID", "DME1,FXC-12");
+    EXPECT_STREQ(GL_CircuitBoard[4][0], "FXC-12");
     Report(std::string(SWR) + "Board Temperature", "SWR1,OK,NG,NG");
     EXPECT_EQ(Entry(0), "SWR1 XPT-44 Temperature Error");
     EXPECT_EQ(Entry(1), "SWR1 Slot 2 Temperature Error");
