@@ -83,7 +83,8 @@ static struct {
     bool is_strip_dirty = false;
     int rows = 0;
     int lit = -1; // bits of the tabs that are lit, by class; -1 not told yet
-} ds;             // valid from create(1) to create(0)
+    const SELFDIAG* units[DIAG_CLASSES][DEVICE_MAX] = {}; // of the list, by their items
+} ds;                                                     // valid from create(1) to create(0)
 static Row status_row[ROWS];
 
 static bool is_error(const SELFDIAG& it)
@@ -174,6 +175,22 @@ static void keep_current(const Row& current, bool has_current)
         LS_SetNowLine(LIST, std::clamp(LS_GetNowLine(LIST), 0, ds.rows - 1));
 }
 
+static const SELFDIAG* items_of(int unit_class, int n)
+{
+    DiagUnit unit;
+    return SelfDiag_Unit(DIAG_CLASS(unit_class), n, &unit) ? unit.item : nullptr;
+}
+
+// Whether others are in the system than when the list was filled: nobody reports that.
+static bool have_units_changed()
+{
+    for (int c = 0; c < DIAG_CLASSES; c++)
+        for (int n = 0; n < DEVICE_MAX; n++)
+            if (items_of(c, n) != ds.units[c][n])
+                return true;
+    return false;
+}
+
 static void fill_status()
 {
     const int now = LS_GetNowLine(LIST);
@@ -184,6 +201,9 @@ static void fill_status()
     GL_RedrawMenu9991 = 0;
     int lit = 0;
     DiagUnit unit;
+    for (int c = 0; c < DIAG_CLASSES; c++)
+        for (int n = 0; n < DEVICE_MAX; n++)
+            ds.units[c][n] = items_of(c, n);
     for (int c = 0; c < DIAG_CLASSES; c++)
         for (int n = 0; SelfDiag_Unit(DIAG_CLASS(c), n, &unit); n++) {
             lit |= int(has_error(unit)) << c;
@@ -241,7 +261,7 @@ static int status_button(const char* path)
 static int status_redraw(int elapsed_ms)
 {
     ds.wait_ms = std::max(ds.wait_ms - elapsed_ms, 0);
-    if (ds.wait_ms == 0 && (ds.is_stale || GL_RedrawMenu9991))
+    if (ds.wait_ms == 0 && (ds.is_stale || GL_RedrawMenu9991 || have_units_changed()))
         fill_status();
     if (ds.is_strip_dirty)
         draw_status_strip();

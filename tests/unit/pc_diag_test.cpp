@@ -5,6 +5,7 @@
 #include "selfdiag.h"
 #include "table_page.h"
 #include "text.h"
+#include <utility>
 
 namespace
 {
@@ -82,6 +83,12 @@ TEST_F(DiagPage, AClassShowsWhatItsUnitsHaveReported)
     EXPECT_EQ(Rows()[0], "PNL1|OK|FAN-1 Speed OK|8760 h") << "a value alone";
     Open(DiagClassPage(DIAG_DCU));
     EXPECT_THAT(Rows(), ElementsAre("DCU1|--|No report|", "DCU2|--|No report|"));
+    Open(DiagClassPage(DIAG_SWITCHER));
+    ASSERT_THAT(Rows(), ElementsAre("SWR1|--|No report|"));
+    DEVICE* const switcher = std::exchange(DEV_MySwr[0], nullptr);
+    EXPECT_THAT(Rows(), IsEmpty()) << "it has left while the page is open";
+    DEV_MySwr[0] = switcher;
+    EXPECT_EQ(Rows().size(), 1u);
 }
 
 // While the units answer the list stands still: it must not blink.
