@@ -555,7 +555,11 @@ static void split_paths(Request* r, bool has_two)
 static void take_request(int client, int unit, Table table, const std::string& rest)
 {
     const size_t blank = rest.find(' ');
-    Request r = {client, unit, table, rest.substr(0, blank)};
+    Request r = {};
+    r.client = client;
+    r.unit = unit;
+    r.table = table;
+    r.verb = rest.substr(0, blank);
     const Verb* const verb = verb_of(r.verb, table);
     if (!verb || blank == rest.npos)
         return Log_Note("clip store: not a request: %s", Text_Escape(rest, 100).c_str());
