@@ -86,8 +86,8 @@ static void show_head(const std::vector<MacroLine>& all)
     Tree_Show(path_of("Remain Macro Event Cell"), std::to_string(MACRO_CELLS - int(all.size())));
     if (r)
         Tree_Show(path_of("Current Macro Register Info"),
-                  Text_Format("%d,%s,%s,%d", mo.number, r->name.c_str(), r->is_locked ? "L" : "U",
-                              events));
+                  Text_Format("%d,%s,%s,%d,%d", mo.number, r->name.c_str(),
+                              r->is_locked ? "L" : "U", events, mo.cursor));
     Tree_Show(path_of("Macro Event Edit Range"),
               Text_Format("%d,%d", mo.first, std::min(mo.first + WINDOW - 1, events)));
     Tree_Show(path_of("Current Work Register Modify Flag"), flags);
@@ -238,6 +238,8 @@ static void put_cursor(const Fields& fields)
     mo.cursor = std::clamp(mo.cursor, 1, std::max(Macro_EventCount(lines()), 1));
     if (mo.cursor < first || mo.cursor >= first + WINDOW)
         show_all();
+    else
+        show_head(lines());
 }
 
 static void put_insert(const Fields& fields)

@@ -4,6 +4,7 @@
 #include "pc_macro.h"
 #include "pc_macro_attach.h"
 #include "pc_macro_offline.h"
+#include "pc_macro_online_edit.h"
 #include "pc_macro_timeline.h"
 #include "register_pages.h"
 
@@ -89,6 +90,31 @@ inline constexpr NB_TBL nb_macro_offline[] = {
 };
 static_assert(BoxesAreSound(nb_macro_offline));
 
+// --- The online editor ---
+
+inline constexpr LS_TBL ls_macro_online[] = {
+    {.id = LIST_MACRO_ONLINE, .hn = ONLINE_COLUMNS, .vn = 13, .x = 100, .y = 98, .head = {"Contents", "Event", "Data", ""},
+     .width = {82, 152, 268, 20}, .group = {1, 1, 1, 1}, .sb_top = 98, .sb_bottom = 406},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_macro_online));
+
+#define ONLINE "Macro@Reg@On Line Edit@"
+inline constexpr BT_TBL bt_macro_online[] = {
+    Radio( {.id = BTN_ONLINE_AUTO_INSERT, .caption = "Auto\nInsert", .group = "Insert", .cmd = {ONLINE "Macro Insert Mode#Auto Insert"}}),
+    Radio( {.id = BTN_ONLINE_EDIT_INSERT, .caption = "Edit\nInsert", .group = "Insert", .cmd = {ONLINE "Macro Insert Mode#Edit Insert"}}),
+    Action({.id = BTN_ONLINE_PREVIOUS, .caption = "Previous",       .cmd = {"LOCAL@" ONLINE "Previous"}}),
+    Action({.id = BTN_ONLINE_NEXT,     .caption = "Next",           .cmd = {"LOCAL@" ONLINE "Next"}}),
+    Action({.id = BTN_ONLINE_BEFORE,   .caption = "Insert\nBefore", .cmd = {"LOCAL@" ONLINE "Before"}}),
+    Action({.id = BTN_ONLINE_AFTER,    .caption = "Insert\nAfter",  .cmd = {"LOCAL@" ONLINE "After"}}),
+    Action({.id = BTN_ONLINE_MODIFY,   .caption = "Modify",         .cmd = {"LOCAL@" ONLINE "Modify"}}),
+    Action({.id = BTN_ONLINE_DELETE,   .caption = "Delete",         .cmd = {"LOCAL@" ONLINE "Delete"}}),
+    Toggle({.id = BTN_ONLINE_RUN,      .caption = "Run",            .cmd = {ONLINE "Run#*"}}),
+    BT_END,
+};
+#undef ONLINE
+static_assert(ButtonsAreSound(bt_macro_online));
+
 // --- Attachment ---
 
 inline constexpr LS_TBL ls_macro_attach[] = {
@@ -144,6 +170,8 @@ inline constexpr PAGE macro_sub_pages[] = {
              Code(pc_macro_timeline, MACROACTION_REWIND)}},
     {.id = 0x54210000, .tree = {"Macro", "Attachment"},
      .obj = {Base(base_main), LeftTabs(vf_macro, 2), Buttons(bt_macro_attach), Lists(ls_macro_attach), Code(pc_macro_attach)}},
+    {.id = PAGE_MACRO_ONLINE, .tree = {"Macro", "Register", "Online Edit"},
+     .obj = {Base(base_sub, PAGE_MACRO_REGISTERS), Buttons(bt_macro_online), Lists(ls_macro_online), Code(pc_macro_online_edit)}},
     {.id = PAGE_MACRO_OFFLINE, .tree = {"Macro", "Register", "Offline Edit"},
      .obj = {Base(base_sub, PAGE_MACRO_REGISTERS), Buttons(bt_macro_offline), Lists(ls_macro_offline),
              Boxes(nb_macro_offline), Code(pc_macro_offline)}},

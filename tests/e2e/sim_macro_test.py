@@ -96,7 +96,7 @@ class OnlineEdit(MacroTest):
         self.assertEqual(heads[:4], ["1,0,Event,TimelineRecall", "1,1,Continue,TimelineRecall",
                                      "2,0,Event,TimelineRun", "2,1,Continue,TimelineRun"])
         self.assertEqual((self.value("Remain Macro Event Cell"), self.value("Macro Event Edit Range")), ("1014", "1,7"))
-        self.assertEqual(self.value("Current Macro Register Info"), "3,OPENING,U,7")
+        self.assertEqual(self.value("Current Macro Register Info"), "3,OPENING,U,7,1")
         self.assertEqual(self.records(6)[0].split(",")[0], "6")
 
     def test_insert_modify_and_delete_change_the_register(self):

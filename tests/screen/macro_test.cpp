@@ -2,6 +2,7 @@
 #include "macro_file.h"
 #include "pc_macro.h"
 #include "pc_macro_offline.h"
+#include "pc_macro_online_edit.h"
 #include "process.h"
 #include "table_page.h"
 #include "text.h"
@@ -45,6 +46,26 @@ TEST_F(MacroPictures, OfflineInTheMiddleOfAnEvent)
     (void)Press(BTN_MACRO_GROUP_7);
     Paint();
     EXPECT_TRUE(MatchesGolden("macro_offline_next"));
+}
+
+TEST_F(MacroPictures, OnlineWithAnEventToInsert)
+{
+    const std::string head = "Macro@Reg@On Line Edit@";
+    GL_Macro_Online_TrueOrFalse = 1;
+    GL_MacroEditNo = 12;
+    Open(PAGE_MACRO_ONLINE);
+    TellAll(head + "Current Work Register Event Data#",
+            {"KILL", "1,0,#,To the studio", "2,0,Event,AuxXpt,AuxBus,Aux3,Xpt,12,VideoKey,Video",
+             "3,0,Event,TimelineRun,Region,M/E-1", "3,1,Continue,TimelineRun,Region,DME1",
+             "4,0,Event,NextTransition,ME,M/E-1,All,Off,KeyPriority,On,BKGD,On,Key1,On,Key2,Off,"
+             "Key3,Off,Key4,Off,Key5,Off,Key6,Off,Key7,Off,Key8,Off",
+             "5,0,Event,PatternLimit,ME,P/P,Status,On,Limit,40"});
+    TellAll(head, {"Macro Edit Mode#true", "Remain Macro Event Cell#1017",
+                   "Current Macro Register Info#12,OPENING,U,5,4", "Macro Event Edit Range#1,5",
+                   "Macro Insert Mode#Edit Insert", "Insert Enable Flag#true",
+                   "Current Work Register Modify Flag#0100"});
+    Paint();
+    EXPECT_TRUE(MatchesGolden("macro_online"));
 }
 
 TEST_F(MacroPictures, Attachment)
