@@ -16,7 +16,7 @@
 namespace
 {
 constexpr Rect HEAD = {100, 75, 700, 95};
-constexpr Rect DETAIL = {100, 410, 690, 430};
+constexpr Rect DETAIL = {100, 302, 540, 322};
 constexpr int FONT_HEAD = 2;
 constexpr int MODIFY_FLAGS = 104; // a byte an event of the window
 

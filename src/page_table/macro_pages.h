@@ -93,8 +93,8 @@ static_assert(BoxesAreSound(nb_macro_offline));
 // --- The online editor ---
 
 inline constexpr LS_TBL ls_macro_online[] = {
-    {.id = LIST_MACRO_ONLINE, .hn = ONLINE_COLUMNS, .vn = 13, .x = 100, .y = 98, .head = {"Contents", "Event", "Data", ""},
-     .width = {82, 152, 268, 20}, .group = {1, 1, 1, 1}, .sb_top = 98, .sb_bottom = 406},
+    {.id = LIST_MACRO_ONLINE, .hn = ONLINE_COLUMNS, .vn = 8, .x = 100, .y = 98, .head = {"Contents", "Event", "Data", ""},
+     .width = {82, 152, 268, 20}, .group = {1, 1, 1, 1}, .sb_top = 98, .sb_bottom = 296},
     LS_END,
 };
 static_assert(ListsAreSound(ls_macro_online));

@@ -12,7 +12,7 @@ from deskcase import DeskCase
 EDIT = "tmp/MacroEdit/MacroEdit.PMR"
 REGISTERS, VALUES = (300, 111), (150, 299)  # the first rows of the lists, pitch 22
 DOWN = (273, 400)  # of the values: one further
-OFFLINE = grid(51)
+OFFLINE, ONLINE = grid(51), grid(52)
 GROUPS = [grid(n) for n in (49, 50, 19, 20, 21, 22, 35, 36, 37, 38)]
 BEFORE, AFTER, DELETE, STORE = (grid(n) for n in (51, 52, 53, 54))
 DISCARD = (432, 275)
@@ -110,6 +110,21 @@ class Macros(DeskCase):
         desk.wait_wire("put Macro@Attachment@All Clear#true")
         time.sleep(0.5)
         self.assertEqual(len(set(desk.part(110, 125, 120, 138))), 1)  # nothing in the first row
+
+    def test_4_a_register_is_edited_in_place(self):
+        desk, edit = self.desk, "put Macro@Reg@On Line Edit@"
+        self.page(5412)
+        self.touch(REGISTERS)  # register 1
+        desk.wire()
+        desk.touch(*ONLINE)
+        desk.wait_wire(edit + "Current Work Register Event Data#1", 5)
+        desk.console("macro operate Stop,Device,Dev1")
+        time.sleep(0.4)
+        for key, command in ((AFTER, "Insert#1,1"), (DELETE, "Delete#2,2")):
+            desk.wire()
+            desk.touch(*key)
+            desk.wait_wire(edit + command, 5)
+            time.sleep(0.5)
 
 
 if __name__ == "__main__":
