@@ -118,11 +118,13 @@ class Macros(DeskCase):
         desk.wire()
         desk.touch(*ONLINE)
         desk.wait_wire(edit + "Current Work Register Event Data#1", 5)
-        desk.console("macro operate Stop,Device,Dev1")
-        time.sleep(0.4)
-        for key, command in ((AFTER, "Insert#1,1"), (DELETE, "Delete#2,2")):
+        for event, key, command in (("Stop,Device,Dev1", 52, "Insert#1,1"), ("MECut,ME,M/E-2", 53, "Modify#2,2"),
+                                    ("", 54, "Delete#2,2")):
+            if event:
+                desk.console("macro operate " + event)
+                time.sleep(0.4)
             desk.wire()
-            desk.touch(*key)
+            desk.touch(*grid(key))
             desk.wait_wire(edit + command, 5)
             time.sleep(0.5)
 
