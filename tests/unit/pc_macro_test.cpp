@@ -9,6 +9,7 @@
 #include "pc_macro.h"
 #include "pc_macro_attach.h"
 #include "pc_macro_offline.h"
+#include "pc_macro_online_edit.h"
 #include "process.h"
 #include "setup_desk.h"
 #include "text.h"
@@ -564,4 +565,62 @@ TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
     (void)Key(BTN_FILE_OFFLINE_EDIT);
     EXPECT_EQ(GL_CreatePage, PAGE_MACRO_OFFLINE);
     EXPECT_EQ(FileText(MACRO_EDIT_FILE), "PNL 0001PNL_0007.PMRM7\n");
+}
+
+// --- The online editor ---
+
+namespace
+{
+const std::string ONLINE = "Macro@Reg@On Line Edit@";
+
+struct MacroOnlinePage : MacroPages {
+    void SetUp() override
+    {
+        MacroPages::SetUp();
+        GL_MacroEditNo = 3;
+        GL_Macro_Online_TrueOrFalse = 1;
+        Open(PAGE_MACRO_ONLINE);
+        TellAll(ONLINE, {"Macro Edit Mode#true", "Remain Macro Event Cell#1000",
+                         "Current Macro Register Info#3,OPENING,U,4,1",
+                         "Macro Event Edit Range#1,4", "Insert Enable Flag#true"});
+    }
+    static void Records(const Lines& lines)
+    {
+        TellAll(ONLINE + "Current Work Register Event Data#", lines);
+        Pass(10);
+    }
+};
+} // namespace
+
+TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
+{
+    Records({"KILL", "1,0,Event,PatternLimit,ME,P/P,Status,Off", "1,1,Continue,Stop,Device,Dev1",
+             "2,0,#,A comment", "", "x", "2", "3,0,Event", "3,0,Perhaps,MECut", "-1,0,Event,MECut",
+             "9999,0,Event,MECut", "3,0,Event,MECut,ME",
+             "3,0,Event,Stop,Device," + std::string(600, 'x')});
+    ASSERT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 4);
+    EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 0, ONLINE_COL_CONTENTS), "Event 1");
+    EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 0, ONLINE_COL_DATA), "P/P ToOn ");
+    EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 1, ONLINE_COL_CONTENTS), "Continue");
+    EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 2, ONLINE_COL_SYMBOL), "A comment");
+    Records({"KILL"});
+    EXPECT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 0);
+}
+
+TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
+{
+    Records({"KILL", "1,0,Event,MECut,ME,P/P", "1,1,Continue,Stop,Device,Dev1",
+             "2,0,Event,MECut,ME,P/P", "3,0,Event,MECut,ME,P/P", "4,0,Event,MECut,ME,P/P"});
+    EXPECT_THAT(Puts(BTN_ONLINE_AFTER), ElementsAre("put " + ONLINE + "Insert#1,1"));
+    Pass(200);
+    EXPECT_THAT(Puts(BTN_ONLINE_NEXT), ElementsAre("put " + ONLINE + "Macro Event Edit Range#2,0"));
+    (void)LS_SetMS(LIST_MACRO_ONLINE, 1);
+    for (int row : {0, 2, 4})
+        (void)LS_SetSelected(LIST_MACRO_ONLINE, row, 0, 1);
+    Pass(200);
+    EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
+                ElementsAre("put " + ONLINE + "Delete#4,4", "put " + ONLINE + "Delete#1,2"));
+    (void)Tell(ONLINE + "Current Macro Register Info#3,OPENING,L,4,1");
+    Pass(200);
+    EXPECT_THAT(Puts(BTN_ONLINE_DELETE), IsEmpty());
 }
