@@ -216,6 +216,13 @@ static bool names_root(const char* path)
     return strcmp(path, "/") == 0 || strcmp(path, "/root") == 0 || strcmp(path, "/root/") == 0;
 }
 
+// A folder by its full name alone: FMCtrl3_FindPath takes "/root/x" for a path from the root, too,
+// where there is no such folder.
+static ELEMENT_LIST* find_folder(const char* full_name)
+{
+    return names_root(full_name) ? &tr.root.list : find_full(full_name, ELEMENT_TYPE_FOLDER);
+}
+
 ELEMENT_LIST* FMCtrl3_FindPath(const CURRENT_INFO* current, int type, const char* path)
 {
     if (!path || !*path || !ElementListBottom)
@@ -241,7 +248,7 @@ ELEMENT_LIST* FMCtrl3_GetParent(const ELEMENT_LIST* element)
 {
     if (!element || is_root(element))
         return nullptr;
-    return FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FOLDER, element->element.full_path);
+    return find_folder(element->element.full_path);
 }
 
 static ELEMENT_LIST* first_beyond(const ELEMENT_LIST* folder)
@@ -303,7 +310,7 @@ void FMCtrl3_InitCurrentInfo(CURRENT_INFO* info)
 
 ELEMENT_LIST* FMCtrl3_GetCurrent(const CURRENT_INFO* info)
 {
-    return FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FOLDER, *info->path ? info->path : "/");
+    return ElementListBottom ? find_folder(*info->path ? info->path : "/") : nullptr;
 }
 
 // "..", "../.." and so on; 0 for another text.
@@ -330,7 +337,7 @@ static ELEMENT_LIST* folder_above(const CURRENT_INFO* info, int steps)
             return nullptr;
         *slash = '\0';
     }
-    return FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FOLDER, path);
+    return find_folder(path);
 }
 
 int FMCtrl3_ChangeDirectory(CURRENT_INFO* info, const char* directory)
