@@ -9,15 +9,14 @@
 #include "device.h"
 #include "file.h"
 #include "file_dir.h"
+#include "fuzz_page.h"
 #include "global.h"
 #include "message.h"
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
-#include "tdl.h"
 #include "text.h"
 #include "window.h"
-#include <SDL.h>
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
@@ -27,23 +26,9 @@
 static std::string last; // path of the command whose reply is told next, "" none
 static int last_label = 0;
 
-static void Check(bool ok, const std::string& what)
-{
-    if (ok)
-        return;
-    fprintf(stderr, "%s\n", what.c_str());
-    abort();
-}
-
 static void Begin()
 {
-    setenv("SDL_VIDEODRIVER", "dummy", 1);
-    SDL_Surface* surface =
-        SDL_Init(SDL_INIT_VIDEO) == 0 ? SDL_SetVideoMode(SCREEN_W, SCREEN_H, 32, 0) : nullptr;
-    Check(surface, "no screen");
-    (void)TDL_Init(surface); // there are no fonts here, and nothing is drawn
-    Device_Init();
-    DeviceStructure();
+    BeginPages();
     File_ReplaceSync([] { return 0; });
 }
 
@@ -89,25 +74,6 @@ static void Touch(int n)
         b++;
     if (b->id >= 1 && b->visible == BT_ENABLED && IsLocal(b->cmd[0]))
         SendMessage(LMSG_BTNSEL, Arg(b->cmd[0]), Arg(b->cmd_var[0]), 0, 0);
-}
-
-// "X,Y", a finger on the screen, through the pass in which a pane acts.
-static void Press(const char* text)
-{
-    const int x = atoi(text);
-    const int y = strchr(text, ',') ? atoi(strchr(text, ',') + 1) : 0;
-    SendMessage(MSG_PRESS, x, y, 0, 0);
-    SendMessage(MSG_RELEASE, x, y, 0, 0);
-    SendMessage(MSG_REDRAW, 200, 0, 0, 0);
-}
-
-static void Answer(int result)
-{
-    const int pane = Pane_GetActiveID();
-    if (pane == 0)
-        return;
-    (void)Pane_Quit(pane);
-    SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
 }
 
 static void Step(const std::string& line)

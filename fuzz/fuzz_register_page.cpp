@@ -6,6 +6,7 @@
 #include "bus.h"
 #include "command.h"
 #include "device.h"
+#include "fuzz_page.h"
 #include "global.h"
 #include "message.h"
 #include "netio.h"
@@ -13,10 +14,8 @@
 #include "pane.h"
 #include "pc_register.h"
 #include "register.h"
-#include "tdl.h"
 #include "text.h"
 #include "window.h"
-#include <SDL.h>
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
@@ -24,23 +23,9 @@
 #include <cstring>
 #include <string>
 
-static void Check(bool ok, const std::string& what)
-{
-    if (ok)
-        return;
-    fprintf(stderr, "%s\n", what.c_str());
-    abort();
-}
-
 static void Begin()
 {
-    setenv("SDL_VIDEODRIVER", "dummy", 1);
-    SDL_Surface* surface =
-        SDL_Init(SDL_INIT_VIDEO) == 0 ? SDL_SetVideoMode(SCREEN_W, SCREEN_H, 32, 0) : nullptr;
-    Check(surface, "no screen");
-    (void)TDL_Init(surface); // there are no fonts here, and nothing is drawn
-    Device_Init();
-    DeviceStructure();
+    BeginPages();
     std::fill_n(multiprogram2_me, ME_COUNT, 1);
 }
 
@@ -82,25 +67,6 @@ static void Touch(int n)
     if (b->id >= 1 && b->visible == BT_ENABLED && IsLocal(b->cmd[0]))
         SendMessage(LMSG_BTNSEL, Arg(b->cmd[0]), Arg(b->cmd_var[0]), 0, 0);
     Window_ReserveQuit(0); // what it has opened is answered
-}
-
-// "X,Y", a finger on the screen, through the pass in which a pane acts.
-static void Press(const char* text)
-{
-    const int x = atoi(text);
-    const int y = strchr(text, ',') ? atoi(strchr(text, ',') + 1) : 0;
-    SendMessage(MSG_PRESS, x, y, 0, 0);
-    SendMessage(MSG_RELEASE, x, y, 0, 0);
-    SendMessage(MSG_REDRAW, 200, 0, 0, 0);
-}
-
-static void Answer(int result)
-{
-    const int pane = Pane_GetActiveID();
-    if (pane == 0)
-        return;
-    (void)Pane_Quit(pane);
-    SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
 }
 
 static void Open(const char* number)
