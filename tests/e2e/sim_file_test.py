@@ -123,8 +123,8 @@ class Drives(FileTest):
         outside = os.path.join(self.folder.name, "outside")
         with open(outside, "w", encoding="ascii") as out:
             out.write("secret")
-        os.symlink(self.folder.name, self.path(LOCAL + "SYSTEM/link"))
         self.lay(LOCAL + "SYSTEM/x")
+        os.symlink(self.folder.name, self.path(LOCAL + "SYSTEM/link"))
         good = f"MYHOST:{LOCAL}SYSTEM/x"
         for bad in (f"MYHOST:{LOCAL}../../../../outside", "MYHOST:/etc/passwd", "MYHOST:mnt/data/x", "MYHOST:", "x",
                     "SWR001D009:/x", f"MYHOST:{LOCAL}SYSTEM/link/outside", f"MYHOST:{LOCAL}SYSTEM/" + "p" * 300,
