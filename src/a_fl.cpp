@@ -27,16 +27,55 @@ static void tell_list(int id, int count, int what)
     SendMessage(LMSG_FLLISTCHANGE, id, count, what, 0);
 }
 
-// The catalogue of the store has no tree to take its elements from: they come as it tells them.
-static void read_store(int id)
+// Of one of the store's elements. False when there is no room for it.
+static bool take_element(int id, const ELEMENT& e)
+{
+    FL_FILE file;
+    file.element = e;
+    file.file_type = e.type == ELEMENT_TYPE_FOLDER ? OBJECT_TYPE_FOLDER : OBJECT_TYPE_FILE;
+    file.root_flag = e.layer == 0;
+    file.dev = FL_DIRDATA_STORAGE_ROOT;
+    return fl_list_insert(id, file) != nullptr;
+}
+
+// The folder, or the nearest one above it that is still there. The catalogue's "/root/NEWS" is
+// "/NEWS" here.
+static const ELEMENT_LIST* enter_store(int id)
 {
     FL_CURRENT_INFO& side = fl.side[id];
+    CURRENT_INFO& reg = side.current_info_reg;
+    constexpr size_t ROOT_LENGTH = sizeof ELEMENT_ROOT; // with the "/" before it
+    if (reg.path[0] == '\0')
+        FMCtrl3_InitCurrentInfo(&reg);
+    while (!FMCtrl3_GetCurrent(&reg)) {
+        char* const slash = strlen(reg.path) > ROOT_LENGTH ? strrchr(reg.path, '/') : nullptr;
+        if (!slash || slash < reg.path + ROOT_LENGTH + 1) {
+            FMCtrl3_InitCurrentInfo(&reg);
+            break;
+        }
+        *slash = '\0';
+    }
+    const ELEMENT_LIST* const folder = FMCtrl3_GetCurrent(&reg);
+    set_current_path(id, reg.path + ROOT_LENGTH);
+    side.current_layer =
+        !folder || strcmp(side.current_path, "/") == 0 ? 0 : folder->element.layer + 1;
+    return folder;
+}
+
+static void read_store(int id)
+{
+    auto& now = fl.now[id];
     fl_list_free(id);
-    side.current_layer = 0;
-    set_current_path(id, "/");
-    PrintText(side.current_info_reg.path, "/%s", ELEMENT_ROOT);
-    fl.now[id].is_dirty = true;
+    const ELEMENT_LIST* const folder = enter_store(id); // null: no catalogue has begun
+    for (const ELEMENT_LIST* e = FMCtrl3_GetChild(folder, nullptr); e;
+         e = FMCtrl3_GetChild(folder, e))
+        if (!take_element(id, e->element))
+            break;
+    now.is_gone = false;
+    now.is_dirty = true;
     SendMessage(LMSG_FLCURDIRCHANGE, id, 0, 0, 0);
+    tell_list(id, now.folders, 1);
+    tell_list(id, now.files, 2);
 }
 
 static void read_side(int id)
@@ -124,27 +163,29 @@ int FL_Create(const FL_TBL* table, uint32_t)
 
 static bool is_current_child(int id, const ELEMENT& e)
 {
-    return fl.side[id].device == FL_DIRDATA_STORAGE_ROOT &&
-           strcmp(e.full_path, fl.side[id].current_info_reg.path) == 0;
+    const size_t n = strlen(e.full_path);
+    const char* const path = fl.side[id].current_info_reg.path;
+    return strncmp(e.full_path, path, n) == 0 &&
+           (path[n] == '\0' || strcmp(path + n, "/") == 0); // the root has a "/" behind it
 }
 
 static void flctrl_change_insert(int id, const ELEMENT& e)
 {
-    if (!is_current_child(id, e) || fl_list_of_name(id, e.full_name, e.type))
+    if (!is_current_child(id, e))
         return;
-    FL_FILE file;
-    file.element = e;
-    file.file_type = e.type == ELEMENT_TYPE_FOLDER ? OBJECT_TYPE_FOLDER : OBJECT_TYPE_FILE;
-    file.root_flag = e.layer == 0;
-    file.dev = FL_DIRDATA_STORAGE_ROOT;
-    if (fl_list_insert(id, file))
+    if (FL_LIST* const node = fl_list_equal(id, e))
+        fl_list_change(id, node, e);
+    else if (take_element(id, e))
         tell_list(id, fl.list[id].count, 3);
 }
 
 static void flctrl_change_delete(int id, const ELEMENT& e)
 {
-    FL_LIST* const node =
-        is_current_child(id, e) ? fl_list_of_name(id, e.full_name, e.type) : nullptr;
+    if (e.type == ELEMENT_TYPE_FOLDER && !FMCtrl3_GetCurrent(&fl.side[id].current_info_reg)) {
+        read_store(id); // what it showed has gone
+        return;
+    }
+    FL_LIST* const node = is_current_child(id, e) ? fl_list_equal(id, e) : nullptr;
     if (!node)
         return;
     fl_list_remove(id, node);
@@ -158,15 +199,10 @@ static void fmctrl_change(int kind, const ELEMENT* e)
             continue;
         switch (kind) {
         case FMCTRL_MSG_TALBE_CLEAR:
-            read_store(id);
             tell_list(id, 0, 4);
+            read_store(id);
             break;
         case FMCTRL_MSG_ELEMENT_NOTIFY:
-            if (e) {
-                flctrl_change_delete(id, *e);
-                flctrl_change_insert(id, *e);
-            }
-            break;
         case FMCTRL_MSG_ELEMENT_INSERT:
             if (e)
                 flctrl_change_insert(id, *e);
@@ -223,9 +259,23 @@ static int go_down(int id, const char* name)
     return putCurrentDirectory(id, full_name + 1 + strlen(ELEMENT_ROOT));
 }
 
+static int change_in_store(int id, const char* directory)
+{
+    if (FMCtrl3_ChangeDirectory(&fl.side[id].current_info_reg, directory) != 0)
+        return -1;
+    read_store(id);
+    fl.now[id].selected[0] = '\0';
+    fl.now[id].is_entered = true;
+    return 0;
+}
+
 int FL_ChangeDirectory(int id, const char* directory)
 {
-    if (!fl_is_side(id) || !directory || !fl_is_drive(fl.side[id].device))
+    if (!fl_is_side(id) || !directory || !*directory)
+        return -1;
+    if (fl.side[id].device == FL_DIRDATA_STORAGE_ROOT)
+        return change_in_store(id, directory);
+    if (!fl_is_drive(fl.side[id].device))
         return -1;
     if (strcmp(directory, "..") == 0)
         return go_up(id);

@@ -1,6 +1,7 @@
 // The elements of the file list in their order, and what the page's lists show of them.
 #include "a_fl_private.h"
 #include "a_ls.h"
+#include "global.h"
 #include "memory.h"
 #include "text.h"
 #include <cstring>
@@ -19,12 +20,29 @@ static int page_list(int id)
     return id + 1;
 }
 
-// By its name: the rows may stand elsewhere afterwards.
+// By name, and with "Plural" each element: the rows may stand elsewhere afterwards.
 static void remember_selected(int id)
 {
-    const int row = LS_GetSelected(page_list(id), 0);
-    const char* const name = row >= 0 ? LS_GetData(page_list(id), row, COLUMN_NAME) : nullptr;
+    const int list = page_list(id);
+    int selected = LS_GetSelected(list, 0);
+    const char* const name = selected >= 0 ? LS_GetData(list, selected, COLUMN_NAME) : nullptr;
     CopyText(fl.now[id].selected, name ? name : "");
+    int n = 0;
+    int row = 0;
+    for (FL_LIST* node = fl.list[id].head; node; node = node->next) {
+        node->is_selected = row++ == selected;
+        if (node->is_selected)
+            selected = LS_GetSelected(list, ++n);
+    }
+}
+
+// Before the first change since the rows were shown: they are still those of the elements.
+void fl_mark_dirty(int id)
+{
+    if (!fl.is_open || !fl_is_side(id) || fl.now[id].is_dirty)
+        return;
+    remember_selected(id);
+    fl.now[id].is_dirty = true;
 }
 
 // Before an element goes: the page's list holds pointers to its texts.
@@ -32,15 +50,9 @@ static void hide_rows(int id)
 {
     if (!fl.is_open || !fl_is_side(id) || fl.now[id].is_hidden)
         return;
-    remember_selected(id);
+    fl_mark_dirty(id);
     (void)LS_SetNData(page_list(id), 0); // a page need not have the list
-    fl.now[id].is_hidden = fl.now[id].is_dirty = true;
-}
-
-static void mark_dirty(int id)
-{
-    if (fl_is_side(id))
-        fl.now[id].is_dirty = true;
+    fl.now[id].is_hidden = true;
 }
 
 // --- Order ---
@@ -86,19 +98,26 @@ FL_LIST* fl_list_insert(int id, const FL_FILE& file)
     if (!room)
         return nullptr;
     auto* const node = new (room) FL_LIST;
+    fl_mark_dirty(id);
     node->file = file;
     link_behind(list, fl_list_find_joint_point(list, file.element), node);
     count_element(id, node, 1);
     PrintText(node->frames, "%d", file.element.duration);
-    mark_dirty(id);
     return node;
+}
+
+void fl_list_change(int id, FL_LIST* node, const ELEMENT& e)
+{
+    fl_mark_dirty(id);
+    node->file.element = e;
+    PrintText(node->frames, "%d", e.duration);
 }
 
 void fl_frame_added(int id, FL_LIST* clip)
 {
+    fl_mark_dirty(id);
     clip->file.element.duration++;
     PrintText(clip->frames, "%d", clip->file.element.duration);
-    mark_dirty(id);
 }
 
 // --- Lookup ---
@@ -169,7 +188,7 @@ static const char* notice(int id)
     const auto& now = fl.now[id];
     switch (fl.side[id].device) {
     case FL_DIRDATA_DEV_NON: return "";
-    case FL_DIRDATA_STORAGE_ROOT: return "No clip store";
+    case FL_DIRDATA_STORAGE_ROOT: return GL_ClipStoreSupportMode ? "No clips" : "No clip store";
     default: break;
     }
     if (now.is_gone)
@@ -214,7 +233,15 @@ static void select_again(int id)
 {
     const int list = page_list(id);
     const char* const name = fl.now[id].selected;
-    const int row = LS_GetSelected(list, 0);
+    int row = 0;
+    if (LS_GetMS(list) == 1) {
+        const int top = LS_GetTopLine(list);
+        for (const FL_LIST* node = fl.list[id].head; node; node = node->next)
+            (void)LS_SetSelected(list, row++, 0, node->is_selected); // 1: it is so already
+        (void)LS_SetTopLine(list, top);
+        return;
+    }
+    row = LS_GetSelected(list, 0);
     if (name[0] == '\0' || (row >= 0 && strcmp(LS_GetData(list, row, COLUMN_NAME), name) == 0))
         return;
     (void)LS_ChangeSelByStr(list, COLUMN_NAME, name); // it may be gone
@@ -224,16 +251,18 @@ static void show(int id)
 {
     auto& now = fl.now[id];
     const int list = page_list(id);
-    now.is_dirty = false;
-    if (LS_SetHeadStr(list, COLUMN_NAME, head_of(id)) != 0)
-        return; // the page has no such list
-    if (!now.is_hidden)
-        remember_selected(id);
-    now.is_hidden = false;
+    now.is_dirty = now.is_hidden = false;
+    if (fl.side[id].device == FL_DIRDATA_DEV_NON || // the page has something else there
+        LS_SetHeadStr(list, COLUMN_NAME, head_of(id)) != 0)
+        return; // ... or no such list
+    if (now.is_entered)
+        (void)LS_ClearData(list); // no row is selected: a touch of any tells the page
     if (fl.list[id].count == 0) {
         show_notice(list, notice(id));
+        now.is_entered = true; // its row may be selected, those that come are not
         return;
     }
+    now.is_entered = false;
     int row = 0;
     for (const FL_LIST* node = fl.list[id].head; node; node = node->next)
         show_row(list, row++, node);

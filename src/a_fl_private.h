@@ -22,7 +22,8 @@ struct FL_LIST {
     FL_FILE file;
     FL_LIST* next = nullptr;
     FL_LIST* prev = nullptr;
-    char frames[12] = ""; // as the page's list shows them
+    char frames[12] = "";     // as the page's list shows them
+    bool is_selected = false; // in the page's list, when its rows were shown last
 };
 
 struct CURRENT_INFO_DRV {
@@ -51,7 +52,8 @@ struct FL_STATE {
     struct {
         uint32_t dir_label = 0; // of the searches under way, 0 none
         uint32_t file_label = 0;
-        bool is_gone = false; // the folder is not on its drive
+        bool is_gone = false;    // the folder is not on its drive
+        bool is_entered = false; // another folder: its list begins at the top
         bool is_dirty = false;
         bool is_hidden = false; // its rows are not those of the page's list
         char head[FL_PATH_SIZE + 16] = "";
@@ -82,9 +84,11 @@ FL_LIST* fl_list_equal(int id, const ELEMENT& e); // of that name and type; null
 FL_LIST* fl_list_of_name(int id, const char* full_name, int type); // null: none
 FL_LIST* fl_list_at(int id, int index);
 int fl_list_place(int id, const FL_LIST* node);
+void fl_list_change(int id, FL_LIST* node, const ELEMENT& e); // of the same name and type
 void fl_list_remove(int id, FL_LIST* node);
 void fl_list_free(int id);
 void fl_frame_added(int id, FL_LIST* clip);
+void fl_mark_dirty(int id); // before what the side shows changes
 void fl_redraw();
 void fl_show_selected(int id, int row);
 

@@ -1,6 +1,7 @@
 #include "pc_file_xport.h"
 #include "a_ba.h"
 #include "a_bt.h"
+#include "a_fl.h"
 #include "a_ls.h"
 #include "device.h"
 #include "file_xport.h"
@@ -25,8 +26,10 @@ namespace
 {
 enum : int { SIDE_A = 0 };
 enum : int { LIST_A = 1, LIST_B = 2 };
+enum : int { COL_CLIP_ICON, COL_CLIP_NAME }; // of the list at the left, which a_fl fills
 enum : int { COL_B_NAME, COL_B_TIME };
 constexpr int FILES_MAX = 4000;
+constexpr int EXPORT_MAX = 12000; // frames of one job: each takes some memory until it has ended
 constexpr int CAPTION_SIZE = 40;
 
 // What a page has at the left, and where a job of it goes.
@@ -82,9 +85,10 @@ static struct {
     int rows = 0;
     int type_pane = 0;
     int folder_pane = 0;
-    char folder_name[FOLDER_MAX]
-                    [FRAME_FOLDER_SIZE]{}; // the pane and the button show them from here
-    char folder_caption[FRAME_FOLDER_SIZE]{};
+    // The pane and the button show them from here.
+    char folder_name[FOLDER_MAX][ELEMENT_FOLDER_SIZE]{};
+    int folder_names = 0; // of a clip store
+    char folder_caption[ELEMENT_FOLDER_SIZE]{};
     char device_caption[CAPTION_SIZE]{};
     char dir_caption[CAPTION_SIZE]{};
 } xp; // valid from create(1) to create(0)
@@ -230,6 +234,20 @@ static bool may_import()
     return device == FILE_REMOVABLE || device == FILE_NETWORK;
 }
 
+// The root of the clip store and the folders down to the one that is shown.
+static int note_clip_folders()
+{
+    int n = 0;
+    CopyText(xp.folder_name[n++], "Root");
+    for (const char* part = FL_GetCurrentPath(FL_L_LIST); *part == '/' && n <= ELEMENT_DEPTH;) {
+        const size_t length = strcspn(++part, "/");
+        if (length > 0)
+            strncpy_secu(xp.folder_name[n++], part, sizeof xp.folder_name[0], length);
+        part += length;
+    }
+    return n;
+}
+
 static void show_buttons()
 {
     const Visit& v = visit();
@@ -244,8 +262,13 @@ static void show_buttons()
         CopyText(xp.folder_caption, folder && *folder->name ? folder->name : "Default.");
         (void)BT_SetCaption(BTN_XPORT_FOLDER_A, xp.folder_caption);
     }
+    if (is_clip_store() && xp.folder_pane == 0) { // the pane shows the names that it began with
+        xp.folder_names = note_clip_folders();
+        CopyText(xp.folder_caption, xp.folder_name[xp.folder_names - 1]);
+        (void)BT_SetCaption(BTN_XPORT_FOLDER_A, xp.folder_caption);
+    }
     BT_SetDisable(BTN_XPORT_IMPORT, !may_import());
-    BT_SetDisable(BTN_XPORT_EXPORT, is_clip_store() || File_DirIsProtected(v.b.device, v.b.dir));
+    BT_SetDisable(BTN_XPORT_EXPORT, File_DirIsProtected(v.b.device, v.b.dir));
 }
 
 // --- Device, directory, type, folder ---
@@ -287,18 +310,35 @@ static void type_chosen(int id)
 static void folder_a_sel()
 {
     BTNSEL cells[FOLDER_MAX];
-    const int rows = FMCtrl_GetFolderNum();
-    const int open = FMCtrl_GetIsFolderIdx(FileSide_FolderId(SIDE_A));
+    const int rows = is_clip_store() ? xp.folder_names : FMCtrl_GetFolderNum();
+    const int open = is_clip_store() ? rows - 1 : FMCtrl_GetIsFolderIdx(FileSide_FolderId(SIDE_A));
     for (int row = 0; row < rows; row++) {
-        CopyText(xp.folder_name[row], FMCtrl_GetFolder(row)->name);
+        if (!is_clip_store())
+            CopyText(xp.folder_name[row], FMCtrl_GetFolder(row)->name);
         cells[row] = {row + 1, xp.folder_name[row], row == open};
     }
     if (rows > 0)
         xp.folder_pane = PaneDirectory_Create_FolderPopup(rows, cells);
 }
 
+static void clip_folder_chosen(int id)
+{
+    char path[FL_PATH_SIZE] = "";
+    for (int row = 1; row < id && row < xp.folder_names; row++) {
+        AppendText(path, "/");
+        AppendText(path, xp.folder_name[row]);
+    }
+    if (id >= 1)
+        (void)FL_ChangeDirectory(FL_L_LIST, *path ? path : "/"); // -1: it has gone meanwhile
+    show_buttons();
+}
+
 static void folder_chosen(int id)
 {
+    if (is_clip_store()) {
+        clip_folder_chosen(id);
+        return;
+    }
     if (id < 1 || id > FOLDER_MAX)
         return; // "Cancel"
     CopyText(visit().a.folder, id == 1 ? "" : xp.folder_name[id - 1]);
@@ -311,7 +351,10 @@ static void folder_chosen(int id)
 static void tell_skipped(const Skipped& skipped, bool is_all)
 {
     char text[CMD_SIZE] = "";
-    if (skipped.is_full)
+    if (is_clip_store() && skipped.is_full)
+        (void)PaneMessage_Create("Export", PANE_ALERT,
+                                 "Some requests are skipped. \nThere are too many frames.");
+    else if (skipped.is_full)
         (void)PaneMessage_Create("Import", PANE_ALERT,
                                  "Some requests are skipped. \nThere is no empty register left.");
     if (!skipped.is_work_area && !skipped.is_duplicate)
@@ -468,7 +511,23 @@ static Skipped gather_import()
     return skipped;
 }
 
-// --- Import into the clip store ---
+// --- Import into the clip store, and export ---
+
+// Where the store has what is called so in the folder that is shown; false when it does not fit.
+static bool clip_place(char (&path)[PATH_SIZE], const char* name)
+{
+    const char* const folder = FL_GetCurrentPath(FL_L_LIST);
+    return PrintText(path, "/vorn/tmp/file/FRAMEMEM/CS%d%s/%s", Device_UnitNumber(*DEV_MySwr[0]),
+                     strcmp(folder, "/") == 0 ? "" : folder, name) < int(sizeof path);
+}
+
+// "/NEWS/OPENING" of a name in the folder that is shown.
+static bool clip_full_name(char (&path)[FL_PATH_SIZE], const char* name)
+{
+    const char* const folder = FL_GetCurrentPath(FL_L_LIST);
+    return PrintText(path, "%s/%s", strcmp(folder, "/") == 0 ? "" : folder, name) <
+           int(sizeof path);
+}
 
 // Companions travel with their main sides.
 static std::unordered_set<std::string> companions; // valid while clips are gathered
@@ -502,8 +561,16 @@ static void add_clip_item(const XPORTFILE& file, const char* path, int frame, in
 
 static const XPORTFILE* clip_frame[FILES_MAX]; // of the clip that is being gathered
 
+// What a file or clip is called in the store.
+static void clip_name(char (&name)[sizeof XPORTFILE::name], const XPORTFILE& file)
+{
+    CopyText(name, *file.clip ? file.clip : file.name);
+    if (!*file.clip)
+        name[strcspn(name, ".")] = '\0';
+}
+
 // The frames of a clip in their order, numbered anew from 0; a still is one.
-static void add_clip(const XPORTFILE& first)
+static void add_clip(const XPORTFILE& first, const char* path)
 {
     int frames = 0;
     for (const XPORTFILE* file = xp.found; file; file = file->next)
@@ -512,26 +579,94 @@ static void add_clip(const XPORTFILE& first)
     std::sort(clip_frame, clip_frame + frames, [](const XPORTFILE* a, const XPORTFILE* b) {
         return Xport_Frame(a->name) < Xport_Frame(b->name);
     });
-    char name[sizeof first.name];
-    char path[PATH_SIZE];
-    CopyText(name, *first.clip ? first.clip : first.name);
-    if (!*first.clip)
-        name[strcspn(name, ".")] = '\0';
-    PrintText(path, "/vorn/tmp/file/FRAMEMEM/CS%d/%s", Device_UnitNumber(*DEV_MySwr[0]), name);
     if (!*first.clip)
         add_clip_item(first, path, 0, 1);
     for (int i = 0; i < frames; i++)
         add_clip_item(*clip_frame[i], path, i, frames);
 }
 
+// What is there stays, and of two of a name the first is taken.
 static Skipped gather_clips()
 {
+    Skipped skipped;
+    std::unordered_set<std::string> names;
     note_companions();
-    for (int i = 0, row; (row = LS_GetSelected(LIST_B, i)) >= 0 && row < xp.rows; i++)
-        if (!Xport_IsSub(xp.row[row]->path))
-            add_clip(*xp.row[row]);
+    for (int i = 0, row; (row = LS_GetSelected(LIST_B, i)) >= 0 && row < xp.rows; i++) {
+        const XPORTFILE& file = *xp.row[row];
+        char name[sizeof file.name];
+        char full_name[FL_PATH_SIZE];
+        char path[PATH_SIZE];
+        if (Xport_IsSub(file.path))
+            continue;
+        clip_name(name, file);
+        if (!clip_full_name(full_name, name) || !clip_place(path, name))
+            continue; // no name that the store has
+        if (FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FILE, full_name) || !names.insert(name).second)
+            skipped.is_duplicate = true;
+        else
+            add_clip(file, path);
+    }
     companions.clear();
-    return {};
+    return skipped;
+}
+
+// A clip goes frame by frame, as the store turns it into pictures.
+static void add_clip_export(const char* name, int frames, const char* folder)
+{
+    const Visit& v = visit();
+    const int unit = Device_UnitNumber(*DEV_MySwr[0]);
+    const bool is_clip = frames > 1;
+    char path[PATH_SIZE];
+    char target[32];
+    char file[FILE_NAME_SIZE];
+    CopyText(file, name);
+    if (v.b.device == FILE_REMOVABLE)
+        (void)StrFatFileName(file); // an empty one is refused below
+    PrintText(target, "CS%d", unit);
+    if (!clip_place(path, name) || !*file)
+        return;
+    for (int frame = 0; frame < frames; frame++) {
+        char src[FILE_PATH_SIZE];
+        char dst[FILE_PATH_SIZE];
+        if (Xport_ClipPath(src, sizeof src, unit, path, is_clip ? name : nullptr, frame) &&
+            Xport_DrivePath(dst, sizeof dst, folder, file, v.type, is_clip ? frame : -1, false))
+            (void)File_XferList_SCPAdd_FM(&visit().list, src, dst, "FRAMEMEM", target, v.type + 1,
+                                          is_clip ? name : "", frame, frames);
+    }
+}
+
+// By their names: rows and elements may be a pass apart.
+static Skipped gather_clip_export(const char* folder)
+{
+    Skipped skipped;
+    int frames = 0;
+    for (int i = 0, row; (row = LS_GetSelected(LIST_A, i)) >= 0; i++) {
+        const char* const name = LS_GetData(LIST_A, row, COL_CLIP_NAME);
+        char full_name[FL_PATH_SIZE];
+        FF_OBJECT clip;
+        if (!name || !clip_full_name(full_name, name) ||
+            FL_GetFoundObject(FL_L_LIST, full_name, OBJECT_TYPE_FILE, &clip) != 0)
+            continue; // a folder, or no clip
+        const int more = std::max(1, clip.frame);
+        if (frames + more > EXPORT_MAX) {
+            skipped.is_full = true;
+            continue;
+        }
+        frames += more;
+        add_clip_export(clip.name, more, folder);
+    }
+    return skipped;
+}
+
+// Give the gathered list to the engine.
+static void start(int (*run)(FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int tag))
+{
+    Visit& v = visit();
+    (void)BkgdFileTransfer_Set(xp.kind->id, 1); // -1: the page has no transfer in the background
+    if (v.list && run(&v.list, xport_result, xp.kind->page) >= 0)
+        return;
+    (void)BkgdFileTransfer_Set(xp.kind->id, 0);
+    File_XferList_RemoveAll(&v.list);
 }
 
 static void import_sel()
@@ -541,14 +676,8 @@ static void import_sel()
         return; // the job of the page is still there, or nothing to import into
     const Skipped skipped = is_clip_store() ? gather_clips() : gather_import();
     tell_skipped(skipped, !v.list);
-    if (!v.list)
-        return;
     v.folder_id = FileSide_FolderId(SIDE_A);
-    (void)BkgdFileTransfer_Set(xp.kind->id, 1); // -1: the page has no transfer in the background
-    if (xp.kind->import_list(&v.list, xport_result, xp.kind->page) >= 0)
-        return;
-    (void)BkgdFileTransfer_Set(xp.kind->id, 0);
-    File_XferList_RemoveAll(&v.list);
+    start(xp.kind->import_list);
 }
 
 // --- Export ---
@@ -569,20 +698,27 @@ static void add_export(const FILECELL& cell, const char* folder)
         (void)File_XferList_Add(&visit().list, src, dst);
 }
 
-static void export_sel()
+static void gather_export(const char* folder)
 {
-    Visit& v = visit();
-    char folder[PATH_SIZE];
-    if (v.list || is_clip_store() || File_DirIsProtected(v.b.device, v.b.dir) ||
-        !drive_folder(folder))
-        return;
     for (int i = 0, no; (no = LS_GetSelected(LIST_A, i)) >= 0; i++) {
         const FILELIST* const row = FileSide_Row(SIDE_A, no);
         if (row && row->cell && FileSide_InView(*row->cell))
             add_export(*row->cell, folder);
     }
-    if (File_ExecFmExportList(&v.list, xport_result, xp.kind->page) < 0)
-        File_XferList_RemoveAll(&v.list);
+}
+
+static void export_sel()
+{
+    const Visit& v = visit();
+    char folder[PATH_SIZE];
+    if (v.list || !DEV_MySwr[0] || File_DirIsProtected(v.b.device, v.b.dir) ||
+        !drive_folder(folder))
+        return;
+    if (is_clip_store())
+        tell_skipped(gather_clip_export(folder), false);
+    else
+        gather_export(folder);
+    start(is_clip_store() ? File_ExecFmExportList2 : File_ExecFmExportList);
 }
 
 // --- Messages ---
@@ -617,7 +753,26 @@ static int pane_closed(int pane, int result)
     return 0;
 }
 
-static int list_touched(int list)
+// A folder opens by a touch, as those of the frame memory do.
+static void clip_touched(int row)
+{
+    const char* const icon = LS_GetData(LIST_A, row, COL_CLIP_ICON);
+    char name[ELEMENT_NAME_SIZE];
+    CopyText(name, icon && *icon ? LS_GetData(LIST_A, row, COL_CLIP_NAME) : "");
+    if (*name)
+        (void)FL_ChangeDirectory(FL_L_LIST, name); // -1: it has gone meanwhile
+}
+
+static int list_touched(int list, int row)
+{
+    if (list == LIST_A && is_clip_store())
+        clip_touched(row);
+    else if (list == LIST_A)
+        FileSide_Selected(SIDE_A);
+    return 0;
+}
+
+static int list_flashed(int list)
 {
     if (list == LIST_A && !is_clip_store())
         FileSide_Selected(SIDE_A);
@@ -647,8 +802,9 @@ static int xport_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
     case LMSG_BTNSEL: return button_pressed(Text(ax));
     case LMSG_PANEQUIT: return pane_closed(int(ax), int(bx));
     case LMSG_PANEREGION: FileSide_SetRegions(SIDE_A); return 0;
-    case LMSG_LISTSEL:
-    case LMSG_LISTFLASH: return list_touched(int(ax));
+    case LMSG_LISTSEL: return list_touched(int(ax), int(bx));
+    case LMSG_LISTFLASH: return list_flashed(int(ax));
+    case LMSG_FLCURDIRCHANGE: show_buttons(); return 0;
     case LMSG_FMCTRLCHANGE: return frames_changed(int(bx));
     case LMSG_FOLDERNAMESENSE: return folders_changed();
     case MSG_REDRAW: FileSide_Pass(int(ax)); return 0;
@@ -670,24 +826,13 @@ static int leave()
     return 0;
 }
 
-// The clip store has not told any clip: none can be chosen.
-static void show_clips()
-{
-    enum : int { CLASS_GREY = 1 };
-    (void)LS_SetData(LIST_A, 0, 1, "No clip has been told.");
-    (void)LS_SetHStatus(LIST_A, 0, CLASS_GREY);
-    (void)LS_SetNData(LIST_A, 1);
-}
-
 static int open(uint32_t page)
 {
     if (page >= XPORTPAGES)
         return -1;
     xp = {};
     xp.kind = &kinds[page];
-    if (is_clip_store()) {
-        show_clips();
-    } else {
+    if (!is_clip_store()) {
         const FileKind& frames = file_kinds[xp.kind->frames];
         BA_SetRegionGrp(FileKind_Group(frames));
         FileSide_Open(SIDE_A, frames, &visit().a, false, false);

@@ -1,6 +1,6 @@
 // pc_file_xport: the Import/Export pages: pictures on a drive at the right, the frame memory or the
-// clip store at the left. The row of a page names which of them as the argument of the page code:
-// one body serves all.
+// clip store at the left, whose list is a_fl's. The row of a page names which of them as the
+// argument of the page code: one body serves all.
 #pragma once
 #include "a_pc.h"
 

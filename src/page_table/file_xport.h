@@ -1,5 +1,6 @@
 // file_xport: the Import/Export pages of the frame memory and the clip store.
 #pragma once
+#include "a_fl.h"
 #include "file_dual.h"
 #include "file_tabs.h"
 #include "pc_file_xport.h"
@@ -37,11 +38,22 @@ inline constexpr LS_TBL ls_file_xport[] = {
 };
 static_assert(ListsAreSound(ls_file_xport));
 
+// The clips, as a_fl fills them.
+inline constexpr LS_TBL ls_file2_xport[] = {
+    {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 124, .head = {"", "Name", "Frames", "Pair"}, .width = {24, 136, 52, 36},
+     .group = {2, 999}, .sb_top = 124, .sb_bottom = 388},
+    {.id = 2, .hn = 2, .vn = 11, .x = 405, .y = 124, .head = {"Name", "Date"}, .width = {126, 122},
+     .group = {1, 999}, .sb_top = 124, .sb_bottom = 388},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_file2_xport));
+inline constexpr FL_TBL fl_file2_xport = {{{.device = FL_DIRDATA_STORAGE_ROOT}, {}}};
+
 inline constexpr PAGE file_xport_pages[] = {
     {.id = 0x71610000, .tree = {"File", "Import/Export"},
      .obj = {Base(base_file_main), LeftTabs(vf_file, 6), BottomTabs(hf_file_xport, 1), Buttons(bt_file2_xport), Lists(ls_file_xport), Code(pc_file_xport, XPORTPAGE_FMEM_V6)}},
     {.id = 0x71610100, .tree = {"File", "Import/Export"},
      .obj = {Base(base_file_main), LeftTabs(vf_file, 6), BottomTabs(hf_file_xport, 1), Buttons(bt_file_xport), Lists(ls_file_xport), Code(pc_file_xport, XPORTPAGE_FMEM)}},
     {.id = 0x71620000, .tree = {"File", "Import/Export", "Clip Store"},
-     .obj = {Base(base_main), LeftTabs(vf_file, 6), BottomTabs(hf_file_xport, 2), Buttons(bt_file_xport), Lists(ls_file_xport), Code(pc_file_xport, XPORTPAGE_CLIP)}},
+     .obj = {Base(base_main), LeftTabs(vf_file, 6), BottomTabs(hf_file_xport, 2), Buttons(bt_file2_xport), Lists(ls_file2_xport), Files(fl_file2_xport), Code(pc_file_xport, XPORTPAGE_CLIP)}},
 };

@@ -233,31 +233,6 @@ TEST_F(FileList, ASearchWrapsOnceAndTheSelectionFollowsItsName)
     EXPECT_EQ(LS_GetSelected(1, 0), 2);
 }
 
-TEST_F(FileList, TheStoreSideTakesWhatItIsTold)
-{
-    EXPECT_THAT(Shown(2), ElementsAre("|No clip store|||"));
-    ELEMENT clip, below;
-    ASSERT_EQ(FMCtrl3_ReadRow("root/goal.SFH:25, 1, 0, 3, 2026-01-31 23:59:00, 1, 1",
-                              ELEMENT_TYPE_FILE, &clip),
-              0);
-    ASSERT_EQ(FMCtrl3_ReadRow("root/A/x:1,0,0,3,,1,1", ELEMENT_TYPE_FILE, &below), 0);
-    const auto tell = [](int kind, const ELEMENT* e) {
-        FL_Proc(LMSG_FMCTRL3CHANGE, kind, Arg(e), 0, 0);
-    };
-    tell(FMCTRL_MSG_ELEMENT_INSERT, &clip);
-    tell(FMCTRL_MSG_ELEMENT_INSERT, &clip);
-    tell(FMCTRL_MSG_ELEMENT_INSERT, &below);
-    EXPECT_THAT(Shown(2), ElementsAre("|goal|25|P|2026 Jan.31 23:59"));
-    clip.duration = 30;
-    tell(FMCTRL_MSG_ELEMENT_NOTIFY, &clip);
-    EXPECT_THAT(Shown(2), ElementsAre("|goal|30|P|2026 Jan.31 23:59"));
-    tell(FMCTRL_MSG_ELEMENT_DELETE, &clip);
-    EXPECT_EQ(fl.list[1].count, 0);
-    tell(FMCTRL_MSG_ELEMENT_INSERT, &clip);
-    tell(FMCTRL_MSG_TALBE_CLEAR, nullptr);
-    EXPECT_THAT(Shown(2), ElementsAre("|No clip store|||"));
-}
-
 TEST(ElementRow, OnlyWholeRowsAreTaken)
 {
     static const struct {

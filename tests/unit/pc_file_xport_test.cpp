@@ -1,6 +1,8 @@
 // The Import/Export pages: which files are shown, what becomes of them, and what is refused.
+#include "a_fl.h"
 #include "file_scp.h"
 #include "file_xport.h"
+#include "fmctrl3.h"
 #include "frame_page.h"
 #include "pc_file_xport.h"
 
@@ -57,6 +59,38 @@ struct XportPage : FramePage {
         for (int no = 0; no < LS_GetNData(2); no++)
             rows.push_back(LS_GetData(2, no, 0));
         return rows;
+    }
+    // A row of the hub's, of a clip or a folder.
+    static void Hub(const char* verb, const std::string& path, const std::string& values = "")
+    {
+        const bool is_clip = path.ends_with(".SFH");
+        const std::string row = "root/" + path + (values.empty() ? "" : ":" + values);
+        SendMessage(MSG_SHPTALLY, Arg(verb),
+                    Arg(is_clip ? "CS1.ClipStoreFile" : "CS1.ClipStoreFolder"), 0,
+                    Arg(row.c_str()));
+    }
+    static void Clip(const std::string& path, int frames)
+    {
+        Hub("Insert", path + ".SFH", std::to_string(frames) + ",0,0,3,2026-01-31 23:59:00,1,0");
+    }
+    // The list of clips, a line a row; what is selected has a mark.
+    static Lines ShownClips()
+    {
+        Pass(10);
+        Lines rows;
+        for (int row = 0; row < LS_GetNData(1); row++)
+            rows.push_back((LS_IsSelected(1, row, 1) == 1 ? "*" : "") +
+                           std::string(LS_GetData(1, row, 0)) + LS_GetData(1, row, 1) + " " +
+                           LS_GetData(1, row, 2));
+        return rows;
+    }
+    static void TouchClip(int row) { (void)Touch(170, 124 + 22 * (row + 1) + 10); }
+    static FILEXFERLIST* Items(FILEWORKTYPE work)
+    {
+        for (const QUEUE* job = QueueRoot; job; job = job->next)
+            if (job->worktype == work)
+                return *job->xferlist;
+        return nullptr;
     }
     // The converter has left these sides of a picture.
     static void Converted(const Lines& files)
@@ -224,15 +258,11 @@ TEST_F(XportPage, ClipStoreTakesClipsFrameByFrame)
              {"intro#000009.TIF", "intro#000010.TIF", "intro#000009.TIF.SUB", "still.TIF",
               "still.TIF.SUB", "one#000004.TIF", "old/intro#000003.TIF", "intro#000010.TIF"});
     EXPECT_THAT(Files(), ElementsAre("intro", "intro", "one", "still.TIF", "still.TIF.SUB"));
-    EXPECT_EQ(Usable({BTN_XPORT_EXPORT, BTN_XPORT_IMPORT}), std::vector<int>{BTN_XPORT_IMPORT});
     Filescp_trnasferlist_init("CS1");
     SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
     Select(2, {0, 2, 3, 4});
     Press(BTN_XPORT_IMPORT);
-    const FILEXFERLIST* item = nullptr;
-    for (const QUEUE* job = QueueRoot; job; job = job->next)
-        if (job->worktype == FILEWORK_RMTACCESS_SCPIMPORTLIST)
-            item = *job->xferlist;
+    const FILEXFERLIST* item = Items(FILEWORK_RMTACCESS_SCPIMPORTLIST);
     static const struct {
         const char* src;
         const char* dst;
@@ -254,6 +284,113 @@ TEST_F(XportPage, ClipStoreTakesClipsFrameByFrame)
         item = item->next;
     }
     EXPECT_FALSE(item);
+}
+
+struct ClipXportPage : XportPage {
+    void SetUp() override
+    {
+        XportPage::SetUp();
+        FL_Init_File();
+        FMCtrl3_Init();
+        GL_ClipStoreSupportMode = 1;
+        CopyText(DEV_Swr[0].id, "SWR000D001");
+        Filescp_trnasferlist_init("CS1");
+        SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+        OpenWith(CLIPS, {"still.TIF", "intro#000000.TIF", "intro#000001.TIF"});
+        for (const char* folder : {"NEWS", "NEWS/A", "SPORT"})
+            Hub("Insert", folder, "1");
+        Clip("goal", 25);
+        Clip("NEWS/still", 1);
+        Clip("NEWS/A/deep", 2);
+    }
+    void TearDown() override
+    {
+        FMCtrl3_Finalize();
+        FL_Init_File();
+        XportPage::TearDown();
+    }
+};
+
+TEST_F(ClipXportPage, TheStoreSideFollowsTheCatalogue)
+{
+    EXPECT_THAT(ShownClips(), ElementsAre("_FolderNEWS ", "_FolderSPORT ", "goal 25"));
+    Select(1, {2});
+    // What is selected stays so, wherever it then stands.
+    Clip("a", 1);
+    Hub("Insert", "EARLY", "1");
+    Hub("Notify", "goal.SFH", "pairfile:1");
+    EXPECT_THAT(ShownClips(),
+                ElementsAre("_FolderEARLY ", "_FolderNEWS ", "_FolderSPORT ", "a 1", "*goal 25"));
+    EXPECT_STREQ(LS_GetData(1, 4, 3), "P");
+    LS_SetMS(1, 0);
+    TouchClip(1);
+    EXPECT_THAT(ShownClips(), ElementsAre("_FolderA ", "still 1"));
+    TouchClip(0);
+    EXPECT_THAT(ShownClips(), ElementsAre("deep 2"));
+    EXPECT_EQ(Caption(BTN_XPORT_FOLDER_A), "A");
+    Clip("NEWS/A/B/other", 1); // of a folder that has not been told
+    Clip("NEWS/A/more", 3);
+    EXPECT_THAT(ShownClips(), ElementsAre("deep 2", "more 3"));
+    Press(BTN_XPORT_FOLDER_A);
+    Quit(2);
+    EXPECT_THAT(ShownClips(), ElementsAre("_FolderA ", "still 1"));
+    EXPECT_EQ(FL_ChangeDirectory(FL_L_LIST, "no such"), -1);
+    EXPECT_EQ(FL_ChangeDirectory(FL_L_LIST, "/NEWS/A"), 0);
+    // The folder goes: what is left above it is shown. The hub goes: nothing is.
+    for (const char* path : {"NEWS/A/deep.SFH", "NEWS/A/more.SFH", "NEWS/A"})
+        Hub("Delete", path);
+    EXPECT_STREQ(FL_GetCurrentPath(FL_L_LIST), "/NEWS");
+    EXPECT_THAT(ShownClips(), ElementsAre("still 1"));
+    FMCtrl3_Clear(ELEMENT_TYPE_ALL);
+    EXPECT_THAT(ShownClips(), ElementsAre("No clips "));
+    EXPECT_EQ(Caption(BTN_XPORT_FOLDER_A), "Root");
+    Hub("Insert", "NEWS", "1");
+    EXPECT_THAT(ShownClips(), ElementsAre("_FolderNEWS "));
+}
+
+TEST_F(ClipXportPage, ExportTakesEachFrameOfTheSelectedClips)
+{
+    Hub("Insert", "NEWS/A/B", "1");
+    Clip("NEWS/A/one", 1);
+    (void)FL_ChangeDirectory(FL_L_LIST, "/NEWS/A");
+    (void)ShownClips();
+    Select(1, {0, 1, 2});
+    Press(BTN_XPORT_TYPE);
+    Quit(XPORT_PNG + 1);
+    Pass(1000);
+    Press(BTN_XPORT_EXPORT);
+    const FILEXFERLIST* item = Items(FILEWORK_RMTACCESS_SCPEXPORTLIST);
+    static const struct {
+        const char* src;
+        const char* dst;
+    } cases[] = {
+        {"deep.SFH/deep#000000.SFH", "deep#000000.PNG"},
+        {"deep.SFH/deep#000001.SFH", "deep#000001.PNG"},
+        {"one.SFH", "one.PNG"},
+    };
+    for (const auto& c : cases) {
+        ASSERT_TRUE(item) << c.src;
+        EXPECT_EQ(item->src, std::string("SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/NEWS/A/") + c.src);
+        EXPECT_EQ(item->dst, std::string(STICK) + c.dst);
+        item = item->next;
+    }
+    EXPECT_FALSE(item);
+}
+
+TEST_F(ClipXportPage, AnImportGoesIntoTheShownFolderAndReplacesNothing)
+{
+    TouchClip(0); // the notice of an empty list
+    (void)ShownClips();
+    TouchClip(0);
+    Select(2, {0, 1});
+    Pass(1000);
+    Press(BTN_XPORT_IMPORT);
+    const FILEXFERLIST* item = Items(FILEWORK_RMTACCESS_SCPIMPORTLIST);
+    ASSERT_TRUE(item && item->next && !item->next->next); // still is there already
+    EXPECT_STREQ(item->dst, "SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/NEWS/intro.SFH/"
+                            "intro#000000.SFH");
+    Pane_Quit(Pane_GetActiveID());
+    EXPECT_EQ(Message(), std::string("Some requests are skipped. \n") + NOT_PERMITTED);
 }
 
 TEST(XportNames, RowsOfASearch)
