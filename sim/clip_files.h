@@ -4,6 +4,8 @@
 #include <string>
 
 void ClipFiles_ClearWork(int unit);
-// Get one picture ready: its path without an extension, and the kind: SFH, TIF, BMP, TGA or PNG.
+// Get one picture ready: its path without an extension ("/NEWS/OPENING.SFH/OPENING#000003" of a
+// frame), and the kind: SFH, TIF, BMP, TGA or PNG.
 void ClipFiles_PrepareGet(int unit, const std::string& path, const std::string& kind);
-void ClipFiles_TakePut(int unit); // all that is in the work folder
+// All that is in the work folder: frames is how many the clip of it will have.
+void ClipFiles_TakePut(int unit, int frames);

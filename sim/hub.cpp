@@ -141,12 +141,15 @@ static void finish(Target& target, const std::string& category, Category& c)
     const auto part = Text_Split(c.wanted, ',');
     c.wanted.clear();
     const bool is_get = part[0] == "Get";
+    long frames = 1; // of the clip that is put
+    if (part.size() > 3 && !Text_ToInt(part[3], &frames))
+        Log_Note("hub: no number of frames: %s", Text_Escape(part[3], 40).c_str());
     c.status = part[0] + (part.size() > 1 ? "," + part[1] : "");
     if (target.is_clip_store && is_get)
         ClipFiles_PrepareGet(target.unit, part.size() > 1 ? part[1] : "",
                              part.size() > 2 ? part[2] : "SFH");
     else if (target.is_clip_store)
-        ClipFiles_TakePut(target.unit);
+        ClipFiles_TakePut(target.unit, int(frames));
     else if (is_get)
         UnitFile_PrepareGet(category, target.host, target.unit);
     else
