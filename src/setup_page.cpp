@@ -1,6 +1,7 @@
 #include "setup_page.h"
 #include "a_bt.h"
 #include "a_ls.h"
+#include "a_nb.h"
 #include "bus.h"
 #include "command.h"
 #include "log.h"
@@ -250,14 +251,22 @@ static void take_line(const SETUPTABLE& t, const SETUPFIELD& first, const char* 
     char text[CMD_SIZE];
     char* v[PARTS_MAX];
     CopyText(text, value);
-    const int n = SplitVars(text, v, PARTS_MAX);
-    const int row = n > 1 ? row_of_line(t, v[0]) : -1;
+    const int n = SplitVars(text, v, PARTS_MAX) - (t.key_parts - 1);
+    if (n <= 1)
+        return;
+    char key[CMD_SIZE];
+    CopyText(key, v[0]);
+    for (int i = 1; i < t.key_parts; i++) {
+        AppendText(key, ",");
+        AppendText(key, v[i]);
+    }
+    const int row = row_of_line(t, key);
     if (row < 0)
         return;
     for (int i = 0; i < t.field_count; i++) {
         const SETUPFIELD& f = t.fields[i];
         if (f.path && strcmp(f.path, first.path) == 0 && f.part > 0 && f.part < n && has(t, row, f))
-            take_value(t, row, f, v[f.part]);
+            take_value(t, row, f, v[f.part + t.key_parts - 1]);
     }
 }
 
@@ -317,12 +326,22 @@ static void show_list(const SETUPTABLE& t)
     (void)LS_RedrawData(t.list);
 }
 
+static bool is_lit(const SETUPCHOICE& c, const char* text)
+{
+    return *text && strcmp(text, c.off) != 0;
+}
+
 static void show_choices(const SETUPTABLE& t)
 {
     char line[CMD_SIZE];
     for (int i = 0; i < t.choice_count; i++) {
         const SETUPCHOICE& c = t.choices[i];
-        PrintText(line, "%s#%s", c.cmd, SetupPage_Text(t, t.state->cursor, c.field));
+        const char* const text = SetupPage_Text(t, t.state->cursor, c.field);
+        if (c.box)
+            (void)(*text ? NB_SetVar(c.box, Decimal(text)) : NB_InvalidVar(c.box));
+        if (!c.cmd)
+            continue;
+        PrintText(line, "%s#%s", c.cmd, c.off ? Bool(is_lit(c, text)) : text);
         (void)SendDummyTally(line);
     }
 }
@@ -348,7 +367,7 @@ void SetupPage_Show(const SETUPTABLE& t)
 void SetupPage_Open(const SETUPTABLE& t)
 {
     t.state->is_open = 1;
-    t.state->question = 0;
+    t.state->question = t.state->popup = 0;
     if (t.keys)
         make_rows(t);
     t.state->cursor = std::clamp(t.state->cursor, 0, std::max(0, *t.rows - 1));
@@ -502,19 +521,74 @@ void SetupPage_Forget(const SETUPTABLE& t)
 
 // --- Messages ---
 
+static void set_selected(const SETUPTABLE& t, const SETUPCHOICE& c, const char* value)
+{
+    if (!SetupPage_Has(t, t.state->cursor, c.field) && c.is_swapped)
+        return;
+    const SETUPFIELD& f = t.fields[c.field];
+    if (c.is_swapped) {
+        char* const mine = work_text(t, t.state->cursor, f);
+        for (int row = 0; row < *t.rows; row++)
+            if (strcmp(work_text(t, row, f), value) == 0)
+                memcpy(work_text(t, row, f), mine, f.size);
+        ktr_strncpy(mine, value, f.size);
+    }
+    for (int n = 0, row; !c.is_swapped && (row = SetupPage_Selected(t, n)) >= 0; n++)
+        if (SetupPage_Has(t, row, c.field))
+            ktr_strncpy(work_text(t, row, f), value, f.size);
+    SetupPage_Show(t);
+}
+
+static void open_popup(const SETUPTABLE& t, const SETUPCHOICE& c)
+{
+    const char* texts[SETUP_OFFER];
+    BTNSEL cells[SETUP_OFFER] = {}; // a last row that is not full ends in empty ones
+    const int n = std::min(c.offer(texts, SETUP_OFFER), SETUP_OFFER);
+    const int columns = n <= 12 ? 3 : n <= 24 ? 4 : 8;
+    const char* const now = SetupPage_Text(t, t.state->cursor, c.field);
+    for (int i = 0; i < n; i++)
+        cells[i] = {i + 1, texts[i], strcmp(texts[i], now) == 0};
+    t.state->asked = int(&c - t.choices);
+    t.state->popup = PanePopup_Create((n + columns - 1) / columns, columns, cells);
+}
+
 static int choose(const SETUPTABLE& t, const SETUPCHOICE& c, const char* value)
 {
-    for (int n = 0, row; (row = SetupPage_Selected(t, n)) >= 0; n++)
-        if (SetupPage_Has(t, row, c.field))
-            ktr_strncpy(work_text(t, row, t.fields[c.field]), value, t.fields[c.field].size);
-    SetupPage_Show(t);
+    if (c.offer)
+        open_popup(t, c);
+    else if (c.off && strcmp(SetupPage_Text(t, t.state->cursor, c.field), value) == 0)
+        set_selected(t, c, c.off);
+    else
+        set_selected(t, c, value);
     return 1;
+}
+
+static void popup_closed(const SETUPTABLE& t, int result)
+{
+    const SETUPCHOICE& c = t.choices[t.state->asked];
+    const char* texts[SETUP_OFFER];
+    t.state->popup = 0;
+    const int n = std::min(c.offer(texts, SETUP_OFFER), SETUP_OFFER);
+    if (result > 0 && result <= n)
+        set_selected(t, c, texts[result - 1]);
+}
+
+static int knob_turned(const SETUPTABLE& t, int box, int value)
+{
+    char text[16];
+    PrintText(text, "%d", value);
+    for (int i = 0; i < t.choice_count; i++)
+        if (t.choices[i].box == box) {
+            set_selected(t, t.choices[i], text);
+            return 1;
+        }
+    return 0;
 }
 
 static int button_pressed(const SETUPTABLE& t, const char* cmd, const char* value)
 {
     for (int i = 0; i < t.choice_count; i++)
-        if (strcmp(cmd, t.choices[i].cmd) == 0)
+        if (t.choices[i].cmd && strcmp(cmd, t.choices[i].cmd) == 0)
             return choose(t, t.choices[i], value);
     if (strcmp(cmd, t.clear) == 0) {
         SetupPage_Clear(t);
@@ -522,6 +596,8 @@ static int button_pressed(const SETUPTABLE& t, const char* cmd, const char* valu
     }
     if (strcmp(cmd, t.execute) != 0)
         return 0;
+    if (t.is_sound && !t.is_sound())
+        return 1;
     if (t.question)
         t.state->question = PaneYesNo_Create(t.title, PANE_ALERT, t.question);
     else
@@ -532,6 +608,10 @@ static int button_pressed(const SETUPTABLE& t, const char* cmd, const char* valu
 static int pane_closed(const SETUPTABLE& t, int pane, int result)
 {
     constexpr int yes = 1;
+    if (pane != 0 && pane == t.state->popup) {
+        popup_closed(t, result);
+        return 1;
+    }
     if (pane == 0 || pane != t.state->question)
         return 0;
     t.state->question = 0;
@@ -558,6 +638,7 @@ int SetupPage_Proc(const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx)
     case LMSG_BTNSEL: return button_pressed(t, Text(ax), Text(bx));
     case LMSG_PANEQUIT: return pane_closed(t, int(ax), int(bx));
     case LMSG_LISTSEL: return row_selected(t, int(ax));
+    case LMSG_KNOBVAR: return knob_turned(t, int(ax), int(bx));
     default: return 0;
     }
 }

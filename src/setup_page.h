@@ -56,14 +56,24 @@ struct SETUPFIELD {
 // A button whose value goes into a field of the selected rows: "LOCAL@...@Resume#On". It lights
 // when the current row has its value.
 struct SETUPCHOICE {
-    const char* cmd = nullptr; // path without the value
+    const char* cmd = nullptr; // path without the value; null: a number box alone
     int field = 0;             // index in fields
+    // A toggle: the text that a second press brings. It lights while the current row has another.
+    const char* off = nullptr;
+    // The button opens a popup of these texts, at most SETUP_OFFER. Returns how many.
+    int (*offer)(const char** texts, int max) = nullptr;
+    int box = 0; // id of a number box whose whole number is the text, 0 none
+    // No two rows have the same text: the row that had it gets the one of the current row.
+    int is_swapped = 0;
 };
+constexpr int SETUP_OFFER = 72; // cells of the largest popup
 
 struct SETUPSTATE {
     int cursor = 0; // current row; outlives the page, and the rows while they are told anew
     int is_open = 0;
     int question = 0; // pane of the Execute question, 0 none
+    int popup = 0;    // pane of a choice, 0 none
+    int asked = 0;    // which choice that is
 };
 
 struct SETUPTABLE {
@@ -77,6 +87,7 @@ struct SETUPTABLE {
     int field_count = 0;
     // The keys of the rows, asked for when the page opens; returns how many. Null: lines make rows.
     int (*keys)(const char** keys, int max) = nullptr;
+    int key_parts = 1; // of a line; a key of two is "M/E-1,2"
     int list = 0;      // LS number, 0 none
     int btn_clear = 0; // buttons that are enabled by a difference, 0 none
     int btn_execute = 0;
@@ -86,6 +97,8 @@ struct SETUPTABLE {
     const char* question = nullptr; // null: it asks nothing
     const SETUPCHOICE* choices = nullptr;
     int choice_count = 0;
+    // Asked before Execute: false keeps everything as it is; page code has said why.
+    bool (*is_sound)() = nullptr;
     void (*changed)() = nullptr; // the cells or the current row may be others now
 };
 
@@ -97,8 +110,8 @@ constexpr uint32_t SETUP_ALL_FIELDS = 0xFFFFFFFF;
 // Make the rows, ask the server for every path once, show what is there.
 void SetupPage_Open(const SETUPTABLE& t);
 void SetupPage_Close(const SETUPTABLE& t);
-// Tallies, Clear, Execute with its question, choices, the list's cursor. Non-zero when the message
-// was one of its own.
+// Tallies, Clear, Execute with its question, choices, knobs, the list's cursor. Non-zero when the
+// message was one of its own.
 int SetupPage_Proc(const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
 
 // Cells. A row or field that is not there is ignored, its text is "".

@@ -38,6 +38,7 @@
 #include "menu_macro_pages.h"
 #include "operation.h"
 #include "saver.h"
+#include "setup_switcher.h"
 #include "setup_system.h"
 #include "shotbox_pages.h"
 #include "snapshot_pages.h"
@@ -89,6 +90,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 diag_pages,
                 install_pages,
                 setup_system_pages,
+                setup_switcher_pages,
                 file_directory_pages,
                 file_folder_pages,
                 file_idcopy_pages,

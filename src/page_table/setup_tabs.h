@@ -5,6 +5,7 @@
 
 inline constexpr VF_TBL vf_setup[] = {
     {.id = 1, .caption = "System", .page = 0x73110000},
+    {.id = 3, .caption = "Switcher", .page = 0x73310000},
     VF_END,
 };
 inline constexpr HF_TBL hf_setup_system[] = {
@@ -15,5 +16,9 @@ inline constexpr HF_TBL hf_setup_system[] = {
     {.id = 5, .caption = "Initialize", .page = 0x73150000},
     {.id = 6, .caption = "Install/\nUnit\nConfig", .page = 0x73160000},
     {.id = 7, .caption = "Mainte-\nnance", .page = 0x73170000},
+    HF_END,
+};
+inline constexpr HF_TBL hf_setup_switcher[] = {
+    {.id = 1, .caption = "Config", .page = 0x73310000},
     HF_END,
 };

@@ -1,0 +1,123 @@
+// pc_engsetup_swr: the pages of the Switcher group of engineering setup that are no more than a
+// table: banks, keys or numbers down, their settings across. A page is its fields and choices; the
+// rows of all of them have one shape, so that a setting more is a line.
+#pragma once
+#include "a_pc.h"
+#include "setup_page.h"
+#include <iterator>
+
+#define SWR "Engineering Setup@Switcher@"
+#define LOCAL_SWR "LOCAL@" SWR
+
+// --- pc_engsetup_swr_config ---
+extern const PC_TBL pc_engsetup_switcher_config;
+extern const PC_TBL pc_engsetup_switcher_config_user;
+extern const PC_TBL pc_engsetup_switcher_config_pgm;
+extern const PC_TBL pc_engsetup_switcher_config_logicalme;
+extern const PC_TBL pc_engsetup_switcher_config_sideflags;
+extern const PC_TBL pc_engsetup_switcher_config_keyconfig;
+extern const PC_TBL pc_engsetup_switcher_config_keyconfig_subkeymode;
+extern const PC_TBL pc_engsetup_switcher_config_dmeconfig;
+extern const PC_TBL pc_engsetup_switcher_config_cgborder;
+extern const PC_TBL pc_engsetup_switcher_config_kpvw;
+extern const PC_TBL pc_engsetup_switcher_config_out;
+extern const PC_TBL pc_engsetup_switcher_config_out6; // of a switcher with six outputs a bank
+extern const PC_TBL pc_engsetup_switcher_config_swrtiming;
+extern const PC_TBL pc_engsetup_switcher_config_3D;
+extern const PC_TBL pc_engsetup_switcher_config_3dconfig_inputlink;
+extern const PC_TBL pc_engsetup_switcher_config_3dconfig_fmoutputlink;
+enum : int { BTN_SWR_DMECONFIG = 51 }; // leads to a page that not every installation has
+
+// As at process start; for tests.
+void EngSetupSwitcher_Reset();
+
+// --- What the tables of the group are made of ---
+
+constexpr int SWR_CELLS = 10;
+struct swr_row {
+    char key[24];
+    char cell[SWR_CELLS][24];
+};
+template <int max> struct SwrRows {
+    swr_row work[max] = {};
+    swr_row tally[max] = {};
+    int rows = 0;
+    SETUPSTATE state;
+};
+
+// A setting of every row, in the column right of the key. More holds what is particular to it.
+constexpr SETUPFIELD SwrField(int cell, const char* path, SETUPFIELD more = {})
+{
+    more.offset = offsetof(swr_row, cell) + size_t(cell) * sizeof(swr_row::cell[0]);
+    more.size = sizeof(swr_row::cell[0]);
+    more.path = path;
+    more.column = more.column < 0 ? cell + 1 : more.column;
+    return more;
+}
+constexpr SETUPFIELD SWR_KEY = {SETUP_CELL(swr_row, key), .column = 0};
+
+// Choices that are more than a value of their button.
+constexpr SETUPCHOICE SwrToggle(const char* cmd, int field, const char* off)
+{
+    return {.cmd = cmd, .field = field, .off = off};
+}
+constexpr SETUPCHOICE SwrPopup(const char* cmd, int field, int (*offer)(const char**, int))
+{
+    return {.cmd = cmd, .field = field, .offer = offer};
+}
+constexpr SETUPCHOICE SwrSwap(const char* cmd, int field, int (*offer)(const char**, int))
+{
+    return {.cmd = cmd, .field = field, .offer = offer, .is_swapped = 1};
+}
+constexpr SETUPCHOICE SwrKnob(int field, int box)
+{
+    return {.field = field, .box = box};
+}
+
+// The keys of a page's rows, and the texts of a popup: a list of words, or the numbers from 1.
+template <const auto& words> int SwrWords(const char** texts, int max)
+{
+    int n = 0;
+    for (const char* word : words)
+        if (n < max)
+            texts[n++] = word;
+    return n;
+}
+const char* SwrNumber(int n); // "1" to "64"
+template <int last> int SwrNumbers(const char** texts, int max)
+{
+    int n = 0;
+    for (; n < last && n < max; n++)
+        texts[n] = SwrNumber(n + 1);
+    return n;
+}
+inline constexpr const char* swr_banks[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P"};
+constexpr auto SwrBanks = SwrWords<swr_banks>;
+
+template <int max, size_t fields, size_t choices>
+constexpr SETUPTABLE SwrTable(SwrRows<max>& rows, int (*keys)(const char**, int),
+                              const SETUPFIELD (&field)[fields],
+                              const SETUPCHOICE (&choice)[choices], SETUPTABLE more = {})
+{
+    static_assert(fields <= 32, "a mask has a bit for each");
+    more.work = rows.work;
+    more.tally = rows.tally;
+    more.rows = &rows.rows;
+    more.state = &rows.state;
+    more.row_size = sizeof(swr_row);
+    more.max = max;
+    more.fields = field;
+    more.field_count = int(fields);
+    more.keys = keys;
+    more.list = 1;
+    more.btn_clear = 53;
+    more.btn_execute = 54;
+    more.clear = LOCAL_SWR "Clear";
+    more.execute = LOCAL_SWR "Execute";
+    more.choices = choice;
+    more.choice_count = int(choices);
+    return more;
+}
+// Of settings that change what is on the outputs.
+inline constexpr char swr_on_air_question[] =
+    "This operation may change the pictures\non the outputs.\n\nContinue?";
