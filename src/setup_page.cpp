@@ -7,6 +7,7 @@
 #include "log.h"
 #include "message.h"
 #include "netio.h"
+#include "page.h"
 #include "pane.h"
 #include "tally_value.h"
 #include "text.h"
@@ -129,23 +130,53 @@ static void make_rows(const SETUPTABLE& t)
 
 static void path_of(const SETUPTABLE& t, int row, const SETUPFIELD& f, char (&path)[CMD_SIZE])
 {
-    DecodeCommandWithVar(path, f.path, f.part ? nullptr : key_of(t, row), CMD_SIZE);
+    const bool is_below = *f.path == '~';
+    char rest[CMD_SIZE];
+    DecodeCommandWithVar(rest, f.path + is_below, strchr(f.path, '$') ? key_of(t, row) : nullptr,
+                         CMD_SIZE);
+    path[0] = '\0';
+    const char* const* const tree = t.state->tree;
+    for (int i = 0; is_below && tree && i < PAGE_DEPTH && tree[i]; i++) {
+        AppendText(path, i > 0 ? "@" : "");
+        AppendText(path, tree[i]);
+    }
+    AppendText(path, rest);
+}
+
+// What stands behind the page's place in the tree; null when the path is not below it.
+static const char* behind_tree(const char* const* tree, const char* path)
+{
+    for (int i = 0; tree && i < PAGE_DEPTH && tree[i]; i++) {
+        const size_t length = strlen(tree[i]);
+        if (i > 0 && *path++ != '@')
+            return nullptr;
+        if (strncmp(path, tree[i], length) != 0)
+            return nullptr;
+        path += length;
+    }
+    return path;
 }
 
 // Whether a path is one of the field's; key gets what stands in place of the "$".
-static bool is_path_of(const SETUPFIELD& f, const char* path, char (&key)[SETUP_TEXT])
+static bool is_path_of(const SETUPTABLE& t, const SETUPFIELD& f, const char* path,
+                       char (&key)[SETUP_TEXT])
 {
     key[0] = '\0';
-    if (!f.path)
+    const char* pattern = f.path;
+    if (pattern && *pattern == '~') {
+        pattern++;
+        path = behind_tree(t.state->tree, path);
+    }
+    if (!pattern || !path)
         return false;
-    const char* const mark = strchr(f.path, '$');
+    const char* const mark = strchr(pattern, '$');
     if (!mark)
-        return strcmp(f.path, path) == 0;
-    const size_t head = size_t(mark - f.path);
+        return strcmp(pattern, path) == 0;
+    const size_t head = size_t(mark - pattern);
     const size_t length = strlen(path);
     const size_t tail = strlen(mark + 1);
     if (length <= head + tail || length - head - tail >= sizeof key ||
-        strncmp(path, f.path, head) != 0 || strcmp(path + length - tail, mark + 1) != 0)
+        strncmp(path, pattern, head) != 0 || strcmp(path + length - tail, mark + 1) != 0)
         return false;
     strncpy_secu(key, path + head, sizeof key, length - head - tail);
     return true;
@@ -166,10 +197,12 @@ static void subscribe_field(const SETUPTABLE& t, const SETUPFIELD& f, const char
         return;
     char path[CMD_SIZE];
     const bool is_one = !strchr(f.path, '$');
-    if (is_one && !is_first_of_path(t, f))
+    if ((is_one || f.part != 0) && !is_first_of_path(t, f))
         return;
-    if (is_one)
-        return (void)Net_SendCommandFormat("%s %s", verb, f.path);
+    if (is_one) {
+        path_of(t, 0, f, path);
+        return (void)Net_SendCommandFormat("%s %s", verb, path);
+    }
     for (int row = 0; row < *t.rows; row++) {
         if (!has(t, row, f))
             continue;
@@ -270,6 +303,21 @@ static void take_line(const SETUPTABLE& t, const SETUPFIELD& first, const char* 
     }
 }
 
+// A line of a row's own path: parts without a key.
+static void take_own_line(const SETUPTABLE& t, int row, const SETUPFIELD& first, const char* value)
+{
+    char text[CMD_SIZE];
+    char* v[PARTS_MAX];
+    CopyText(text, value);
+    const int n = SplitVars(text, v, PARTS_MAX);
+    for (int i = 0; i < t.field_count; i++) {
+        const SETUPFIELD& f = t.fields[i];
+        if (f.path && strcmp(f.path, first.path) == 0 && f.part > 0 && f.part <= n &&
+            has(t, row, f))
+            take_value(t, row, f, v[f.part - 1]);
+    }
+}
+
 // A part for each row.
 static void take_parts(const SETUPTABLE& t, const SETUPFIELD& f, const char* value)
 {
@@ -288,9 +336,14 @@ static int take_tally(const SETUPTABLE& t, const char* path, const char* value)
     int is_taken = 0;
     for (int i = 0; i < t.field_count; i++) {
         const SETUPFIELD& f = t.fields[i];
-        if (f.part == SETUP_BY_PAGE || !is_path_of(f, path, key))
+        if (f.part == SETUP_BY_PAGE || !is_path_of(t, f, path, key))
             continue;
         is_taken = 1;
+        if (f.part > 0 && strchr(f.path, '$')) {
+            if (const int row = SetupPage_Row(t, key); row >= 0)
+                take_own_line(t, row, f, value);
+            break;
+        }
         if (f.part > 0) {
             take_line(t, f, value);
             break;
@@ -368,6 +421,7 @@ void SetupPage_Open(const SETUPTABLE& t)
 {
     t.state->is_open = 1;
     t.state->question = t.state->popup = 0;
+    t.state->tree = GL_NowTree;
     if (t.keys)
         make_rows(t);
     t.state->cursor = std::clamp(t.state->cursor, 0, std::max(0, *t.rows - 1));
@@ -388,6 +442,11 @@ void SetupPage_Close(const SETUPTABLE& t)
 const char* SetupPage_Text(const SETUPTABLE& t, int row, int field)
 {
     return SetupPage_Has(t, row, field) ? work_text(t, row, t.fields[field]) : "";
+}
+
+const char* SetupPage_Told(const SETUPTABLE& t, int row, int field)
+{
+    return SetupPage_Has(t, row, field) ? tally_text(t, row, t.fields[field]) : "";
 }
 
 bool SetupPage_Has(const SETUPTABLE& t, int row, int field)
@@ -438,11 +497,14 @@ void SetupPage_Clear(const SETUPTABLE& t, uint32_t fields)
     SetupPage_Show(t);
 }
 
-// The whole line of a row: its key and every part.
+// The whole line of a row: every part behind its key, which the row's own path names already.
 static void put_line(const SETUPTABLE& t, int row, const SETUPFIELD& first)
 {
     char line[CMD_SIZE];
-    PrintText(line, "put %s#%s", first.path, key_of(t, row));
+    char path[CMD_SIZE];
+    path_of(t, row, first, path);
+    const bool is_own = strchr(first.path, '$');
+    PrintText(line, "put %.900s#%s", path, is_own ? "" : key_of(t, row));
     int at = 1;
     for (int i = 0; i < t.field_count; i++) {
         const SETUPFIELD& f = t.fields[i];
@@ -451,7 +513,7 @@ static void put_line(const SETUPTABLE& t, int row, const SETUPFIELD& first)
         char value[SETUP_TEXT];
         value_of_text(f, work_text(t, row, f), value);
         for (int n = 0; n < f.parts; n++, at++) {
-            AppendText(line, ",");
+            AppendText(line, is_own && at == 1 ? "" : ",");
             AppendText(line, value);
         }
         i = -1; // the next part may stand before this one
@@ -462,7 +524,9 @@ static void put_line(const SETUPTABLE& t, int row, const SETUPFIELD& first)
 static void put_parts(const SETUPTABLE& t, const SETUPFIELD& f)
 {
     char line[CMD_SIZE];
-    PrintText(line, "put %s#", f.path);
+    char path[CMD_SIZE];
+    path_of(t, 0, f, path);
+    PrintText(line, "put %.900s#", path);
     for (int row = 0; row < *t.rows; row++) {
         char value[SETUP_TEXT];
         value_of_text(f, work_text(t, row, f), value);

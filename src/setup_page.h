@@ -31,10 +31,13 @@ enum : int { SETUP_EACH_ROW = -1, SETUP_BY_PAGE = -2 }; // SETUPFIELD.part
 // fields at the same place are one text that travels in two ways, each for the rows that have it.
 struct SETUPFIELD {
     size_t offset = 0;
-    size_t size = 0;            // at most SETUP_TEXT
-    const char* path = nullptr; // "$" is the row's key; null: the page's own, never sent
+    size_t size = 0; // at most SETUP_TEXT
+    // "$" is the row's key, a leading "~" the page's place in the tree; null: the page's own, never
+    // sent.
+    const char* path = nullptr;
     // 0: the path is the row's and its value this text. n: the path tells a line for each row,
-    // which begins with its key, and this is part n of it from 1; a put sends the whole line.
+    // which begins with its key, and this is part n of it from 1; a put sends the whole line. With
+    // a "$" the line is the row's own, and has no key.
     // SETUP_EACH_ROW: one value has a part for each row in their order; a put sends all of them.
     // SETUP_BY_PAGE: page code takes and sends it, with SetupPage_Take.
     int part = 0;
@@ -71,9 +74,10 @@ constexpr int SETUP_OFFER = 72; // cells of the largest popup
 struct SETUPSTATE {
     int cursor = 0; // current row; outlives the page, and the rows while they are told anew
     int is_open = 0;
-    int question = 0; // pane of the Execute question, 0 none
-    int popup = 0;    // pane of a choice, 0 none
-    int asked = 0;    // which choice that is
+    const char* const* tree = nullptr; // the page's place while it is open, and while it is left
+    int question = 0;                  // pane of the Execute question, 0 none
+    int popup = 0;                     // pane of a choice, 0 none
+    int asked = 0;                     // which choice that is
 };
 
 struct SETUPTABLE {
@@ -116,6 +120,7 @@ int SetupPage_Proc(const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
 
 // Cells. A row or field that is not there is ignored, its text is "".
 const char* SetupPage_Text(const SETUPTABLE& t, int row, int field);
+const char* SetupPage_Told(const SETUPTABLE& t, int row, int field); // what the server has
 void SetupPage_Set(const SETUPTABLE& t, int row, int field, const char* text); // of the work; shows
 // What the server has told, in a way that only page code understands. Shows nothing yet.
 void SetupPage_Take(const SETUPTABLE& t, int row, int field, const char* text);

@@ -39,6 +39,7 @@
 #include "operation.h"
 #include "saver.h"
 #include "setup_switcher.h"
+#include "setup_switcher_io.h"
 #include "setup_system.h"
 #include "shotbox_pages.h"
 #include "snapshot_pages.h"
@@ -91,6 +92,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 install_pages,
                 setup_system_pages,
                 setup_switcher_pages,
+                setup_switcher_io_pages,
                 file_directory_pages,
                 file_folder_pages,
                 file_idcopy_pages,

@@ -20,5 +20,6 @@ inline constexpr HF_TBL hf_setup_system[] = {
 };
 inline constexpr HF_TBL hf_setup_switcher[] = {
     {.id = 1, .caption = "Config", .page = 0x73310000},
+    {.id = 7, .caption = "Device\nInterface", .page = 0x73370004},
     HF_END,
 };

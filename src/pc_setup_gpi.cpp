@@ -1,0 +1,312 @@
+#include "pc_setup_gpi.h"
+#include "command.h"
+#include "message.h"
+#include "netio.h"
+#include "tally_value.h"
+#include "text.h"
+#include <cstring>
+#include <iterator>
+
+#include "safeguards.h"
+
+#define KEY_CONFIG "Engineering Setup@Switcher@Config@Key Config"
+
+static constexpr const char* banks[] = {"P/P", "M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5"};
+static constexpr int KEYS = 8;
+static constexpr int BUS_ROWS = 4;
+static constexpr int KEY_ROW_3 = 4; // number of the row that key 3 shares
+// Key rows of a bank, numbered from 1; what shares the third with key 3 depends on the keys.
+static constexpr const char* bus_rows[BUS_ROWS] = {"Bkgd", "Key1", "Key2", nullptr};
+
+static constexpr SETUPWORD regions[] = {{"M/E-1", "M/E-1"},
+                                        {"M/E-2", "M/E-2"},
+                                        {"M/E-3", "M/E-3"},
+                                        {"M/E-4", "M/E-4"},
+                                        {"M/E-5", "M/E-5"},
+                                        {"P/P", "P/P"},
+                                        {"User1", "User1"},
+                                        {"User2", "User2"},
+                                        {"User3", "User3"},
+                                        {"User4", "User4"},
+                                        {"User5", "User5"},
+                                        {"User6", "User6"},
+                                        {"User7", "User7"},
+                                        {"User8", "User8"},
+                                        {"DME1", "DME1"},
+                                        {"DME2", "DME2"},
+                                        {"DME3", "DME3"},
+                                        {"DME4", "DME4"},
+                                        {"DME5", "DME5"},
+                                        {"DME6", "DME6"},
+                                        {"DME7", "DME7"},
+                                        {"DME8", "DME8"},
+                                        {"P-Bus", "P-Bus"},
+                                        {"Master", "Master"},
+                                        {}};
+
+static constexpr int TARGETS = int(std::size(banks)) * KEYS;
+
+static struct {
+    const SETUPSHEET* sheet = nullptr; // while the page is open
+    const SETUPTABLE* table = nullptr;
+    bool has_preview = false; // key 3 shares its row with the key preview
+    char name[TARGETS][SHEET_TEXT] = {};
+    SETUPWORD target[TARGETS + 1] = {}; // the choices that are offered
+} gp;
+
+static int action_column()
+{
+    return gp.sheet->column_count - GPI_ACTION_COLUMNS;
+}
+
+void SetupGpi_FromHex(const char* value, const char*, char* text, size_t size)
+{
+    ktr_strncpy(text, NumStr(int(NumberIn(value, 0, 255, 0))), size);
+}
+
+void SetupGpi_ToHex(const char* text, char* value, size_t size)
+{
+    char hex[8];
+    PrintText(hex, "0x%02X", unsigned(NumberIn(text, 0, 255)));
+    ktr_strncpy(value, hex, size);
+}
+
+// --- Actions and where they are done ---
+
+static int action_of(const char* name)
+{
+    for (size_t i = 0; i < std::size(gpi_action_rows); i++)
+        if (Same(gpi_action_rows[i].word.text, name))
+            return int(i);
+    return 0;
+}
+
+static int where_of(const char* action)
+{
+    return gpi_action_rows[action_of(action)].where;
+}
+
+static const char* bus_row(int number)
+{
+    return number == KEY_ROW_3 ? gp.has_preview ? "Key3 Key PVW" : "Key3 Key4"
+                               : bus_rows[number - 1];
+}
+
+// The name of a target, as the list shows it; nothing for one that is none.
+static void name_target(int where, int bank, int number, char (&name)[SHEET_TEXT])
+{
+    name[0] = '\0';
+    if (bank < 0 || bank >= int(std::size(banks)))
+        return;
+    if (where == GPI_BANK)
+        CopyText(name, banks[bank]);
+    else if (where == GPI_BUS && number >= 1 && number <= BUS_ROWS)
+        PrintText(name, "%s %s", banks[bank], bus_row(number));
+    else if (where == GPI_KEY && number >= 1 && number <= KEYS)
+        PrintText(name, "%s Key%d", banks[bank], number);
+}
+
+static int numbers_of(int where)
+{
+    return where == GPI_BUS ? BUS_ROWS : where == GPI_KEY ? KEYS : 1;
+}
+
+// Bank and number of a target's name; the first for one that is none.
+static void find_target(int where, const char* text, int* bank, int* number)
+{
+    char name[SHEET_TEXT];
+    for (*number = 1; *number <= numbers_of(where); ++*number)
+        for (*bank = 0; *bank < int(std::size(banks)); ++*bank) {
+            name_target(where, *bank, *number, name);
+            if (Same(name, text))
+                return;
+        }
+    *bank = 0;
+    *number = 1;
+}
+
+static const SETUPWORD* targets_of(int where)
+{
+    static constexpr SETUPWORD none[] = {{}};
+    if (where == GPI_REGION)
+        return regions;
+    if (where == GPI_NOWHERE)
+        return none;
+    int n = 0;
+    for (int number = 1; number <= numbers_of(where); number++)
+        for (int bank = 0; bank < int(std::size(banks)); bank++, n++) {
+            name_target(where, bank, number, gp.name[n]);
+            gp.target[n] = {gp.name[n], gp.name[n]};
+        }
+    gp.target[n] = {};
+    return gp.target;
+}
+
+int SetupGpi_Choices(int column, const SETUPWORD** words)
+{
+    if (gp.sheet && column == action_column() + 1)
+        *words = targets_of(where_of(SetupSheet_Now(*gp.table, action_column())));
+    return 0;
+}
+
+// --- What the server tells ---
+
+// The other path, which is empty, says nothing.
+static bool is_told_elsewhere(int row, int code, bool is_region)
+{
+    const int told = action_of(SetupPage_Told(*gp.table, row, action_column()));
+    return code == 0 && told != 0 && (gpi_action_rows[told].where == GPI_REGION) != is_region;
+}
+
+static void take_action(int row, const char* value, bool is_region)
+{
+    Parts p;
+    const int n = SplitValue(p, value, 4);
+    const int code = n == 4 ? Index(p.v[0], int(std::size(gpi_action_rows))) : -1;
+    if (code < 0 || is_told_elsewhere(row, code, is_region))
+        return;
+    const auto& action = gpi_action_rows[code];
+    char target[SHEET_TEXT] = "";
+    if (action.where == GPI_REGION)
+        CopyText(target, p.v[1]);
+    else
+        name_target(action.where, Decimal(p.v[1]), Decimal(p.v[3]), target);
+    const int first = action_column();
+    SetupPage_Take(*gp.table, row, first, action.word.text);
+    SetupPage_Take(*gp.table, row, first + 1, target);
+    SetupPage_Take(*gp.table, row, first + 2, action.has_register ? NumStr(Decimal(p.v[2])) : "");
+}
+
+static void show_key_config(const char* value)
+{
+    gp.has_preview = strstr(value, "PVW");
+}
+
+static int tally(const char* path, const char* value)
+{
+    if (Same(path, KEY_CONFIG)) {
+        show_key_config(value);
+        return 1;
+    }
+    for (int row = 0; row < gp.sheet->rows; row++) {
+        char own[CMD_SIZE];
+        for (const bool is_region : {false, true}) {
+            DecodeCommandWithVar(own, is_region ? GPI_REGION_PATH : GPI_ACTION_PATH,
+                                 NumStr(row + 1), CMD_SIZE);
+            if (!Same(path, own))
+                continue;
+            take_action(row, value, is_region);
+            SetupPage_Show(*gp.table);
+            return 1;
+        }
+    }
+    return 0;
+}
+
+// --- What goes to it ---
+
+static bool is_action_changed(int row)
+{
+    for (int i = 0; i < GPI_ACTION_COLUMNS; i++)
+        if (!Same(SetupPage_Text(*gp.table, row, action_column() + i),
+                  SetupPage_Told(*gp.table, row, action_column() + i)))
+            return true;
+    return false;
+}
+
+static void put_action(int row)
+{
+    const int first = action_column();
+    const char* const name = SetupPage_Text(*gp.table, row, first);
+    const char* const target = SetupPage_Text(*gp.table, row, first + 1);
+    const int code = action_of(name);
+    const auto& action = gpi_action_rows[code];
+    const int reg = action.has_register ? Decimal(SetupPage_Text(*gp.table, row, first + 2)) : 0;
+    char path[CMD_SIZE];
+    char page[CMD_SIZE];
+    DecodeCommand(page, "~", CMD_SIZE);
+    if (action.where == GPI_REGION) {
+        PrintText(path, "%.500s@Action Type Region@%d@%d", page, row + 1, 1);
+        Net_SendCommandFormat("put %s#%d,%s,%d,%d", path, code, target, reg, 0);
+        return;
+    }
+    int bank = 0;
+    int number = 0;
+    if (action.where != GPI_NOWHERE)
+        find_target(action.where, target, &bank, &number);
+    PrintText(path, "%.500s@Action Type@%d@%d", page, row + 1, 1);
+    Net_SendCommandFormat("put %s#%d,%d,%d,%d", path, code, bank, reg, number);
+}
+
+static void put_actions()
+{
+    for (int row = 0; row < gp.sheet->rows; row++)
+        if (is_action_changed(row))
+            put_action(row);
+}
+
+static void test_fire()
+{
+    char page[CMD_SIZE];
+    DecodeCommand(page, "~", CMD_SIZE);
+    for (int n = 0, row; (row = SetupPage_Selected(*gp.table, n)) >= 0; n++)
+        Net_SendCommandFormat("put %s@Test Fire@%d#", page, row + 1);
+}
+
+// --- What a choice means to the rest of the row ---
+
+// A new kind of action has the first target of its kind and the first register.
+static void complete_row(int row)
+{
+    const int first = action_column();
+    const SETUPTABLE& t = *gp.table;
+    const auto& action = gpi_action_rows[action_of(SetupPage_Text(t, row, first))];
+    const SETUPWORD* const words = targets_of(action.where);
+    const char* const target = SetupPage_Text(t, row, first + 1);
+    bool is_one = !words->wire && !*target;
+    for (const SETUPWORD* w = words; w->wire; w++)
+        is_one |= Same(w->text, target);
+    if (!is_one)
+        SetupPage_Set(t, row, first + 1, words->wire ? words->text : "");
+    const char* const reg = SetupPage_Text(t, row, first + 2);
+    if ((action.has_register != 0) != (*reg != '\0'))
+        SetupPage_Set(t, row, first + 2, action.has_register ? "1" : "");
+}
+
+static void complete_rows()
+{
+    for (int row = 0; row < gp.sheet->rows; row++)
+        if (is_action_changed(row))
+            complete_row(row);
+}
+
+int SetupGpi_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on)
+{
+    if (on) {
+        gp.has_preview = false;
+        gp.sheet = &s;
+        gp.table = &t;
+        Net_SendCommand("add " KEY_CONFIG);
+    } else if (gp.sheet) {
+        Net_SendCommand("remove " KEY_CONFIG);
+    }
+    const int result = SetupSheet_Create(s, t, on);
+    if (!on)
+        gp.sheet = nullptr;
+    return result;
+}
+
+int SetupGpi_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx)
+{
+    if (!gp.sheet)
+        return 0;
+    if (msg == MSG_TALLY && tally(Text(ax), Text(bx)))
+        return 0;
+    if (msg == LMSG_BTNSEL && Same(Text(ax), GPI_TEST_FIRE))
+        test_fire();
+    else if (msg == LMSG_BTNSEL && Same(Text(ax), SHEET_EXECUTE))
+        put_actions();
+    if (SetupSheet_Proc(s, t, msg, ax, bx) && msg != MSG_TALLY)
+        complete_rows();
+    return 0;
+}

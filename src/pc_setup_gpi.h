@@ -1,0 +1,218 @@
+// pc_setup_gpi: the GPI ports of a unit: what a port does when its input changes, what makes its
+// output change. One body for all units: the place of the page in the tree is the place of the
+// settings, "Engineering Setup@Switcher@Device Interface@GPI Output". A unit brings a sheet of its
+// number of ports and a row of a page:
+//
+//     inline constexpr SETUPSHEET gpi_output = SetupGpi_Output(8);
+//     ... .obj = {..., SHEET_OBJECTS(gpi_output), Code(SetupGpi_Code<gpi_output>)}
+//
+// An action is done somewhere (a bank, a key, a region) or with a register; one of a region has a
+// path of its own. What the server holds stands on one of the two paths only.
+#pragma once
+#include "setup_sheet.h"
+
+// The columns, in this order; the last three are an action's and the page code's.
+void SetupGpi_FromHex(const char* value, const char* now, char* text, size_t size);
+void SetupGpi_ToHex(const char* text, char* value, size_t size);
+int SetupGpi_Choices(int column, const SETUPWORD** words);
+
+constexpr int GPI_ACTION_COLUMNS = 3;
+constexpr int GPI_REGISTERS = 99;
+
+inline constexpr SETUPWORD gpi_trigger_words[] = {{"None", "None"},
+                                                  {"Rising Edge", "Rising Edge"},
+                                                  {"Falling Edge", "Falling Edge"},
+                                                  {"Any Edge", "Any Edge"},
+                                                  {"Level", "Level"},
+                                                  {}};
+// Where an action is done.
+enum : int { GPI_NOWHERE, GPI_BANK, GPI_BUS, GPI_KEY, GPI_REGION };
+// The number of an action on the wire is its place here.
+struct GPIACTION {
+    SETUPWORD word;
+    int where = GPI_NOWHERE;
+    int has_register = 0;
+};
+inline constexpr GPIACTION gpi_action_rows[] = {
+    {{"None", "None"}, GPI_NOWHERE, 0},
+    {{"Cut", "Cut"}, GPI_BANK, 0},
+    {{"Auto Trans", "Auto Trans"}, GPI_BANK, 0},
+    {{"FTB", "FTB"}, GPI_BANK, 0},
+    {{"Xpt Hold", "Xpt Hold"}, GPI_BUS, 0},
+    {{"Key On", "Key On"}, GPI_KEY, 0},
+    {{"Key Off", "Key Off"}, GPI_KEY, 0},
+    {{"Key Auto", "Key Auto"}, GPI_KEY, 0},
+    {{"Effect Recall", "Effect Recall"}, GPI_REGION, 1},
+    {{"Effect Run", "Effect Run"}, GPI_REGION, 0},
+    {{"Effect Stop", "Effect Stop"}, GPI_REGION, 0},
+    {{"Snapshot Recall", "Snapshot Recall"}, GPI_REGION, 1},
+    {{"Shotbox Recall", "Shotbox Recall"}, GPI_NOWHERE, 1},
+    {{"Macro Run", "Macro Run"}, GPI_NOWHERE, 1},
+};
+struct GpiActionWords {
+    SETUPWORD word[sizeof gpi_action_rows / sizeof gpi_action_rows[0] + 1];
+};
+constexpr GpiActionWords MakeGpiActionWords()
+{
+    GpiActionWords words;
+    int n = 0;
+    for (const GPIACTION& row : gpi_action_rows)
+        words.word[n++] = row.word;
+    return words;
+}
+inline constexpr GpiActionWords gpi_action_words = MakeGpiActionWords();
+
+// The choices for a target are those of the action; these stand for "there are some".
+#define GPI_ACTION_PATH "~@Action Type@$@1"
+#define GPI_REGION_PATH "~@Action Type Region@$@1"
+#define GPI_ACTION(action_width, target_width)                                                     \
+    {.head = "Action",                                                                             \
+     .width = action_width,                                                                        \
+     .path = GPI_ACTION_PATH,                                                                      \
+     .part = SETUP_BY_PAGE,                                                                        \
+     .words = gpi_action_words.word,                                                               \
+     .caption = "Action\nType",                                                                    \
+     .group = "Action"},                                                                           \
+        {.head = "Target",                                                                         \
+         .width = target_width,                                                                    \
+         .path = GPI_REGION_PATH,                                                                  \
+         .part = SETUP_BY_PAGE,                                                                    \
+         .words = gpi_action_words.word,                                                           \
+         .caption = "Target",                                                                      \
+         .group = "Action"},                                                                       \
+    {                                                                                              \
+        .head = "Reg No", .width = 66, .path = GPI_ACTION_PATH, .part = SETUP_BY_PAGE, .min = 1,   \
+        .max = GPI_REGISTERS                                                                       \
+    }
+
+inline constexpr SETUPCOLUMN gpi_output_columns[] = {
+    {.head = "Trigger",
+     .width = 104,
+     .path = "~@Trigger Type@$",
+     .part = 1,
+     .words = gpi_trigger_words,
+     .caption = "Trigger\nType",
+     .group = "Trigger"},
+    {.head = "Timing",
+     .width = 62,
+     .path = "~@Trigger Type@$",
+     .part = 2,
+     .from_wire = SetupGpi_FromHex,
+     .to_wire = SetupGpi_ToHex,
+     .max = 255,
+     .caption = "Pulse\nTiming"},
+    {.head = "Width",
+     .width = 60,
+     .path = "~@Trigger Type@$",
+     .part = 3,
+     .from_wire = SetupGpi_FromHex,
+     .to_wire = SetupGpi_ToHex,
+     .max = 255,
+     .caption = "Pulse\nWidth"},
+    GPI_ACTION(120, 92),
+};
+inline constexpr SETUPCOLUMN gpi_input_columns[] = {
+    {.head = "Trigger",
+     .width = 134,
+     .path = "~@Trigger Type@$",
+     .words = gpi_trigger_words,
+     .caption = "Trigger\nType",
+     .group = "Trigger"},
+    GPI_ACTION(170, 134),
+};
+#undef GPI_ACTION
+
+#define GPI_TEST_FIRE SHEET_LOCAL "Test Fire"
+inline constexpr BT_TBL gpi_output_keys[] = {
+    Action({.id = 37, .caption = "Test\nFire", .group = "Port", .cmd = {GPI_TEST_FIRE}}),
+};
+
+constexpr SETUPSHEET SetupGpi_Output(int ports)
+{
+    return {.columns = gpi_output_columns,
+            .column_count = int(sizeof gpi_output_columns / sizeof gpi_output_columns[0]),
+            .rows = ports,
+            .key_head = "Port",
+            .key_width = 46,
+            .more = gpi_output_keys,
+            .more_count = 1,
+            .choices = SetupGpi_Choices};
+}
+// more: further keys of the page, such as that of the levels' page.
+constexpr SETUPSHEET SetupGpi_Input(int ports, const BT_TBL* more = nullptr, int more_count = 0)
+{
+    return {.columns = gpi_input_columns,
+            .column_count = int(sizeof gpi_input_columns / sizeof gpi_input_columns[0]),
+            .rows = ports,
+            .key_head = "Port",
+            .key_width = 46,
+            .more = more,
+            .more_count = more_count,
+            .choices = SetupGpi_Choices};
+}
+
+// --- Inputs whose level, high or low, chooses between two states ---
+
+inline constexpr SETUPWORD gpi_hl_functions[] = {{"None", "None"},
+                                                 {"FC Input/Output", "FC In/Out"},
+                                                 {"Aux Bus Tie", "Aux Bus Tie"},
+                                                 {"Menu Lock", "Menu Lock"},
+                                                 {}};
+inline constexpr SETUPWORD gpi_hl_states[] = {{"On", "On"}, {"Off", "Off"}, {}};
+inline constexpr SETUPCOLUMN gpi_hl_columns[] = {
+    {.head = "Function", .width = 224, .path = "~@Function@$", .words = gpi_hl_functions},
+    {.head = "High", .width = 140, .path = "~@High@$", .words = gpi_hl_states},
+    {.head = "Low", .width = 140, .path = "~@Low@$", .words = gpi_hl_states},
+};
+constexpr SETUPSHEET SetupGpi_HLSet(int ports, const BT_TBL* more = nullptr, int more_count = 0)
+{
+    return {.columns = gpi_hl_columns,
+            .column_count = 3,
+            .rows = ports,
+            .key_head = "Port",
+            .key_width = 46,
+            .more = more,
+            .more_count = more_count};
+}
+
+// A converter that works for an input or for an output, as the level says: "FC3,Input,Output".
+inline constexpr SETUPWORD gpi_fc_words[] = {
+    {"None", "None"}, {"FC1", "FC1"}, {"FC2", "FC2"}, {"FC3", "FC3"}, {"FC4", "FC4"},
+    {"FC5", "FC5"},   {"FC6", "FC6"}, {"FC7", "FC7"}, {"FC8", "FC8"}, {}};
+inline constexpr SETUPWORD gpi_fc_sides[] = {{"Input", "Input"}, {"Output", "Output"}, {}};
+inline constexpr SETUPCOLUMN gpi_fc_columns[] = {
+    {.head = "FC",
+     .width = 164,
+     .path = "~@$",
+     .part = 1,
+     .words = gpi_fc_words,
+     .caption = "Format\nConverter"},
+    {.head = "High", .width = 170, .path = "~@$", .part = 2, .words = gpi_fc_sides},
+    {.head = "Low", .width = 170, .path = "~@$", .part = 3, .words = gpi_fc_sides},
+};
+constexpr SETUPSHEET SetupGpi_HLSetFC(int ports, const BT_TBL* more = nullptr, int more_count = 0)
+{
+    return {.columns = gpi_fc_columns,
+            .column_count = 3,
+            .rows = ports,
+            .key_head = "Port",
+            .key_width = 46,
+            .more = more,
+            .more_count = more_count};
+}
+
+// --- Page code of the input and the output pages; those of levels are plain sheets ---
+int SetupGpi_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
+int SetupGpi_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
+
+template <const SETUPSHEET& s> int SetupGpi_CreateOf(int on, uint32_t)
+{
+    return SetupGpi_Create(s, SetupSheet_Table<s>, on);
+}
+template <const SETUPSHEET& s> int SetupGpi_ProcOf(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    return SetupGpi_Proc(s, SetupSheet_Table<s>, msg, ax, bx);
+}
+template <const SETUPSHEET& s>
+inline constexpr PC_TBL SetupGpi_Code = {.proc_func = SetupGpi_ProcOf<s>,
+                                         .create_func = SetupGpi_CreateOf<s>};

@@ -1,0 +1,372 @@
+// setup_sheet: setup pages that are no more than a list with choices.
+// A page says its rows and columns once, as a SETUPSHEET. From that come its list, its buttons, its
+// knobs and its table of setup_page: a column of words gets a key a word, or one key that asks; a
+// column of numbers a knob; a column of names the keyboard. What a change means to other rows stays
+// with page code, which calls SetupSheet_Proc for all the rest.
+//
+// A sheet is prepared and applied by Execute, or, where it is direct, each change goes out at once
+// and only the answer changes what is shown.
+#pragma once
+#include "a_bt.h"
+#include "a_ls.h"
+#include "a_nb.h"
+#include "a_pc.h"
+#include "page_table/rows.h"
+#include "setup_page.h"
+#include "types.h"
+
+constexpr int SHEET_TEXT = 24;   // of a cell with its terminator
+constexpr int SHEET_COLUMNS = 9; // at most, beside the column of the keys
+constexpr int SHEET_ROWS = 256;
+constexpr int SHEET_BOXES = 5;  // columns of numbers, at most
+constexpr int SHEET_RADIOS = 3; // as many words get a key each
+
+struct SETUPCOLUMN {
+    const char* head = "";      // of the list, and of the group of its keys
+    int width = 0;              // pixels; 0: not in the list
+    const char* path = nullptr; // these five as in SETUPFIELD
+    int part = 0;
+    const SETUPWORD* words = nullptr; // the choices, in order
+    void (*from_wire)(const char* value, const char* now, char* text, size_t size) = nullptr;
+    void (*to_wire)(const char* text, char* value, size_t size) = nullptr;
+    int min = 0; // min below max: a number with its limits
+    int max = 0;
+    int name = 0;                  // characters of a name that is typed, 0: none
+    int is_fixed = 0;              // only shown
+    int is_asked = 0;              // one key that asks, however few its words are
+    const char* caption = nullptr; // of its key; null: the head
+    const char* group = nullptr;   // title of one key's frame; columns side by side share it
+    int start_line = 0;            // its keys begin the second line of keys
+};
+
+struct SETUPSHEET {
+    const SETUPCOLUMN* columns = nullptr;
+    int column_count = 0;
+    int rows = 0;                       // at most SHEET_ROWS
+    const char* const* names = nullptr; // keys of the rows; null: "1" to the number of rows
+    const char* key_head = "No";
+    int key_width = 60;
+    int is_direct = 0;
+    const char* question = nullptr; // of Execute
+    const BT_TBL* more = nullptr;   // further keys, of ids that the columns leave free
+    int more_count = 0;
+    int (*choices)(int column, const SETUPWORD** words) = nullptr; // those of the moment; null: all
+    void (*changed)() = nullptr; // the cells or the current row may be others now
+};
+
+// --- What page code may ask; t is the sheet's table ---
+int SetupSheet_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
+// Open the page; the same with on 0 leaves it.
+int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
+// Give a text to a column of every selected row; a direct sheet sends it.
+void SetupSheet_Choose(const SETUPSHEET& s, const SETUPTABLE& t, int column, const char* text);
+// Knobs of the current row: values, limits as given here (box from 1) or by the columns.
+void SetupSheet_ShowBoxes(const SETUPSHEET& s, const SETUPTABLE& t);
+// The keys of numbered rows: "1", "2"... Returns how many.
+int SetupSheet_Numbers(const char** keys, int rows);
+
+// The text of a cell of the current row.
+inline const char* SetupSheet_Now(const SETUPTABLE& t, int column)
+{
+    return SetupPage_Text(t, t.state->cursor, column);
+}
+
+// --- What follows from a sheet, at compile time ---
+
+constexpr int SheetWords(const SETUPCOLUMN& c)
+{
+    int n = 0;
+    while (c.words && c.words[n].wire)
+        n++;
+    return n;
+}
+
+constexpr bool IsSheetNumber(const SETUPCOLUMN& c)
+{
+    return c.min < c.max && !c.is_fixed;
+}
+
+// How many keys a column has.
+constexpr int SheetKeys(const SETUPCOLUMN& c)
+{
+    if (c.is_fixed || (!c.words && !c.name))
+        return 0;
+    return c.words && !c.is_asked && SheetWords(c) <= SHEET_RADIOS ? SheetWords(c) : 1;
+}
+
+constexpr int SHEET_LIST_Y = 76;
+constexpr int SHEET_COMMAND = 96;
+#define SHEET_LOCAL "LOCAL@Setup@"
+#define SHEET_CLEAR SHEET_LOCAL "Clear"
+#define SHEET_EXECUTE SHEET_LOCAL "Execute"
+enum : int { BTN_SHEET_CLEAR = 53, BTN_SHEET_EXECUTE = 54 };
+
+struct SheetText {
+    char text[SHEET_COMMAND] = {};
+    constexpr void Append(const char* more)
+    {
+        int n = 0;
+        while (text[n])
+            n++;
+        for (; *more && n < SHEET_COMMAND - 1; more++)
+            text[n++] = *more;
+        text[n] = '\0';
+    }
+};
+struct SheetTexts {
+    SheetText key[BT_MAX];
+    SheetText column[SHEET_COLUMNS]; // without a value
+};
+struct SheetKeyRows {
+    BT_TBL row[BT_MAX + 1];
+};
+struct SheetBoxRows {
+    NB_TBL row[SHEET_BOXES + 1];
+};
+struct SheetListRows {
+    LS_TBL row[2];
+};
+struct SheetFields {
+    SETUPFIELD field[SHEET_COLUMNS + 1];
+    SETUPCHOICE choice[SHEET_COLUMNS];
+    int choices = 0;
+};
+
+constexpr SheetTexts MakeSheetTexts(const SETUPSHEET& s)
+{
+    SheetTexts texts;
+    int key = 0;
+    for (int i = 0; i < s.column_count; i++) {
+        const SETUPCOLUMN& c = s.columns[i];
+        texts.column[i].Append(SHEET_LOCAL);
+        texts.column[i].Append(c.head);
+        const int keys = SheetKeys(c);
+        for (int n = 0; n < keys; n++, key++) {
+            texts.key[key] = texts.column[i];
+            if (keys > 1) {
+                texts.key[key].Append("#");
+                texts.key[key].Append(c.words[n].text);
+            }
+        }
+    }
+    return texts;
+}
+
+// The next free place for so many keys side by side; -1 when the two lines are full.
+constexpr int SheetPlace(int& next, int keys, bool has_execute)
+{
+    constexpr int line1 = 33, line2 = 49, per_line = 6;
+    if (next < line2 && next + keys > line1 + per_line)
+        next = line2;
+    const int last = line2 + per_line - (has_execute ? 2 : 0);
+    if (next >= line2 && next + keys > last)
+        return -1;
+    const int place = next;
+    next += keys;
+    return place;
+}
+
+constexpr BT_TBL SheetKey(int id, int type, const char* caption, const char* group, const char* cmd)
+{
+    return Typed({.id = id, .caption = caption, .group = group, .cmd = {cmd}}, type);
+}
+
+constexpr SheetKeyRows MakeSheetKeys(const SETUPSHEET& s, const SheetTexts& texts)
+{
+    SheetKeyRows rows;
+    int key = 0;
+    int next = 33;
+    for (int i = 0; i < s.column_count; i++) {
+        const SETUPCOLUMN& c = s.columns[i];
+        const int keys = SheetKeys(c);
+        if (keys == 0)
+            continue;
+        if (c.start_line && next < 49)
+            next = 49;
+        int id = SheetPlace(next, keys, !s.is_direct);
+        for (int n = 0; n < keys; n++, key++, id++) {
+            const int type = keys > 1 ? int(BT_RADIO)
+                             : c.name ? int(BT_JUMP_KEYBOARD)
+                                      : int(BT_JUMP_POPUP);
+            const char* const caption = keys > 1 ? c.words[n].text : c.caption ? c.caption : c.head;
+            rows.row[key] =
+                SheetKey(id, type, caption, keys > 1 ? c.head : c.group, texts.key[key].text);
+        }
+    }
+    for (int i = 0; i < s.more_count; i++)
+        rows.row[key++] = s.more[i];
+    if (!s.is_direct) {
+        rows.row[key++] = SheetKey(BTN_SHEET_CLEAR, BT_ACTION, "Clear", nullptr, SHEET_CLEAR);
+        rows.row[key++] = SheetKey(BTN_SHEET_EXECUTE, BT_ACTION, "Execute", nullptr, SHEET_EXECUTE);
+    }
+    rows.row[key].id = -1;
+    return rows;
+}
+
+constexpr SheetBoxRows MakeSheetBoxes(const SETUPSHEET& s)
+{
+    constexpr const char* local[SHEET_BOXES] = {
+        "LOCAL@Panel@Common@Knob0", "LOCAL@Panel@Common@Knob1", "LOCAL@Panel@Common@Knob2",
+        "LOCAL@Panel@Common@Knob3", "LOCAL@Panel@Common@Knob4"};
+    SheetBoxRows rows;
+    int n = 0;
+    for (int i = 0; i < s.column_count; i++) {
+        const SETUPCOLUMN& c = s.columns[i];
+        if (!IsSheetNumber(c) || n == SHEET_BOXES)
+            continue;
+        rows.row[n] = {.id = n + 1,
+                       .caption = c.caption ? c.caption : c.head,
+                       .type = NB_INT,
+                       .min = double(c.min),
+                       .max = double(c.max),
+                       .cmd = local[n],
+                       .scale = 4};
+        n++;
+    }
+    rows.row[n].id = -1;
+    return rows;
+}
+
+constexpr SheetListRows MakeSheetList(const SETUPSHEET& s)
+{
+    constexpr int visible = 9;
+    SheetListRows rows;
+    LS_TBL& list = rows.row[0];
+    list.id = 1;
+    list.vn = visible;
+    list.x = 100;
+    list.y = SHEET_LIST_Y;
+    list.sb_top = SHEET_LIST_Y;
+    list.sb_bottom = SHEET_LIST_Y + LS_ROW_PX * (visible + 1);
+    list.head[0] = s.key_head;
+    list.width[0] = s.key_width;
+    list.hn = 1;
+    for (int i = 0; i < s.column_count; i++) {
+        if (s.columns[i].width == 0)
+            continue;
+        list.head[list.hn] = s.columns[i].head;
+        list.width[list.hn++] = s.columns[i].width;
+    }
+    list.group[0] = 1;
+    list.group[1] = 999;
+    rows.row[1].id = -1;
+    return rows;
+}
+
+constexpr SheetFields MakeSheetFields(const SETUPSHEET& s, const SheetTexts& texts)
+{
+    SheetFields f;
+    int column = 1;
+    for (int i = 0; i < s.column_count; i++) {
+        const SETUPCOLUMN& c = s.columns[i];
+        f.field[i] = {.offset = size_t(i + 1) * SHEET_TEXT,
+                      .size = SHEET_TEXT,
+                      .path = c.path,
+                      .part = c.part,
+                      .column = c.width ? column++ : -1,
+                      .is_put = !c.is_fixed,
+                      .words = c.words,
+                      .from_wire = c.from_wire,
+                      .to_wire = c.to_wire};
+        if (SheetKeys(c) > 1)
+            f.choice[f.choices++] = {texts.column[i].text, i};
+    }
+    f.field[s.column_count] = {.size = SHEET_TEXT, .column = 0};
+    return f;
+}
+
+// The keys lie side by side without a second one at a place; the list fills the width.
+constexpr bool SheetIsSound(const SETUPSHEET& s, const SheetKeyRows& keys)
+{
+    constexpr int list_width = 550;
+    int width = s.key_width;
+    int boxes = 0;
+    for (int i = 0; i < s.column_count; i++) {
+        width += s.columns[i].width;
+        boxes += IsSheetNumber(s.columns[i]);
+    }
+    for (int i = 0; keys.row[i].id > 0; i++)
+        for (int k = 0; k < i; k++)
+            if (keys.row[k].id == keys.row[i].id)
+                return false;
+    for (int i = 0; i < BT_MAX && keys.row[i].id != -1; i++)
+        if (keys.row[i].id < 1 || keys.row[i].y2 < 1)
+            return false; // no place was left for it
+    return width == list_width && boxes <= SHEET_BOXES && s.rows > 0 && s.rows <= SHEET_ROWS &&
+           s.column_count > 0 && s.column_count <= SHEET_COLUMNS;
+}
+
+// --- The objects of a sheet's page ---
+
+template <const SETUPSHEET& s>
+inline char sheet_work[size_t(s.rows) * size_t(s.column_count + 1) * SHEET_TEXT];
+template <const SETUPSHEET& s>
+inline char sheet_told[size_t(s.rows) * size_t(s.column_count + 1) * SHEET_TEXT];
+template <const SETUPSHEET& s> inline int sheet_rows = 0;
+template <const SETUPSHEET& s> inline SETUPSTATE sheet_state;
+template <const SETUPSHEET& s> inline constexpr SheetTexts sheet_texts = MakeSheetTexts(s);
+template <const SETUPSHEET& s>
+inline constexpr SheetKeyRows sheet_keys = MakeSheetKeys(s, sheet_texts<s>);
+template <const SETUPSHEET& s> inline constexpr SheetBoxRows sheet_boxes = MakeSheetBoxes(s);
+template <const SETUPSHEET& s> inline constexpr SheetListRows sheet_list = MakeSheetList(s);
+template <const SETUPSHEET& s>
+inline constexpr SheetFields sheet_fields = MakeSheetFields(s, sheet_texts<s>);
+
+template <const SETUPSHEET& s> int SheetRowKeys(const char** keys, int max)
+{
+    const int rows = s.rows < max ? s.rows : max;
+    if (!s.names)
+        return SetupSheet_Numbers(keys, rows);
+    for (int i = 0; i < rows; i++)
+        keys[i] = s.names[i];
+    return rows;
+}
+
+template <const SETUPSHEET& s> void SheetChanged();
+
+template <const SETUPSHEET& s>
+inline constexpr SETUPTABLE SetupSheet_Table = {
+    .work = sheet_work<s>,
+    .tally = sheet_told<s>,
+    .rows = &sheet_rows<s>,
+    .state = &sheet_state<s>,
+    .row_size = size_t(s.column_count + 1) * SHEET_TEXT,
+    .max = s.rows,
+    .fields = sheet_fields<s>.field,
+    .field_count = s.column_count + 1,
+    .keys = SheetRowKeys<s>,
+    .list = 1,
+    .btn_clear = s.is_direct ? 0 : int(BTN_SHEET_CLEAR),
+    .btn_execute = s.is_direct ? 0 : int(BTN_SHEET_EXECUTE),
+    .clear = SHEET_CLEAR,
+    .execute = SHEET_EXECUTE,
+    .question = s.question,
+    .choices = s.is_direct ? nullptr : sheet_fields<s>.choice,
+    .choice_count = s.is_direct ? 0 : sheet_fields<s>.choices,
+    .changed = SheetChanged<s>,
+};
+
+template <const SETUPSHEET& s> void SheetChanged()
+{
+    SetupSheet_ShowBoxes(s, SetupSheet_Table<s>);
+    if (s.changed)
+        s.changed();
+}
+
+template <const SETUPSHEET& s> int SetupSheet_CreateOf(int on, uint32_t)
+{
+    return SetupSheet_Create(s, SetupSheet_Table<s>, on);
+}
+template <const SETUPSHEET& s> int SetupSheet_ProcOf(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    (void)SetupSheet_Proc(s, SetupSheet_Table<s>, msg, ax, bx);
+    return 0;
+}
+// Page code for a sheet that needs none of its own.
+template <const SETUPSHEET& s>
+inline constexpr PC_TBL SetupSheet_Code = {.proc_func = SetupSheet_ProcOf<s>,
+                                           .create_func = SetupSheet_CreateOf<s>};
+
+// For the row of a page: SHEET_OBJECTS(sheet), Code(...).
+#define SHEET_OBJECTS(s)                                                                           \
+    Buttons(sheet_keys<s>.row), Boxes(sheet_boxes<s>.row), Lists(sheet_list<s>.row)
