@@ -62,6 +62,9 @@ static constexpr PathKind kinds[] = {
     {"**@Modify@Crop Mode@Crop@*", "bool"},
     // The effects units.
     {"DME@Status@3D Param@*@*@*", "num -999.99 999.99 2"},
+    {"Global Effect@*@Combine@Ch*", "bool"},
+    {"Global Effect@*@Priority@Ch*", "word 1,2,3,4"},
+    {"Global Effect@*@Trail@Ch*", "word Off,Pre,Post"},
     // Registers.
     {"**@Temporary Duration", "num 0 999 0"}, // frames
     {"**@Temporary Duration@*", "num 0 999 0"},
@@ -127,6 +130,24 @@ static constexpr PathStart starts[] = {
     {"DME@Status@3D Param@Mode Status@Reference", "1,1,0"}, // the local target of channel 1
     {"DME@Status@3D Param@*@Size@*", "100"},
     {"DME@Transform@3D Trans@Size@*", "100"},
+    {"Global Effect@*@Priority@Mode", "Auto"},
+    {"Global Effect@*@Priority@Ch1", "1"},
+    {"Global Effect@Ch1-Ch4@Priority@Ch2", "2"},
+    {"Global Effect@Ch1-Ch2@Priority@Ch2", "1"}, // of pairs the second channel speaks for both
+    {"Global Effect@Ch5-Ch6@Priority@Ch2", "1"},
+    {"Global Effect@*@Priority@Ch2", "2"},
+    {"Global Effect@*@Priority@Ch3", "3"},
+    {"Global Effect@*@Priority@Ch4", "4"},
+    {"Global Effect@*@Priority@Ch5", "1"},
+    {"Global Effect@*@Priority@Ch6", "2"},
+    {"Global Effect@*@Priority@Ch7", "3"},
+    {"Global Effect@*@Priority@Ch8", "4"},
+    {"Global Effect@*@Brick@Faces", "1"},
+    {"Global Effect@*@Trail@Ch*", "Off"},
+    {"Global Effect@*@Fill", "Matte"},
+    {"Global Effect@*@Combine@Join", "Plain"},
+    {"Global Effect@*@Light/Bkgd@Source", "Distant"},
+    {"Global Effect@*@3D Trans@Size@*", "100"},
     {"*@Misc@Transition@Flip-Flop", "true"},
     {"*@Misc@Transition@Mix", "true"},
     {"*@Misc@Transition@Next Transition@Bkgd", "true"},

@@ -231,6 +231,36 @@ static void act_show_channels(const Hit&)
     Dme_ShowStatus();
 }
 
+// --- The global effects ---
+
+// Every place in the order of a group is taken once: who is put into another's place gives it the
+// one that is free now. The channels lie beside each other, or are the second ones of two pairs.
+static void act_give_place(const Hit& hit)
+{
+    static constexpr const char* partners[][2] = {{"Ch1-Ch2", "Ch3-Ch4"},
+                                                  {"Ch3-Ch4", "Ch1-Ch2"},
+                                                  {"Ch5-Ch6", "Ch7-Ch8"},
+                                                  {"Ch7-Ch8", "Ch5-Ch6"}};
+    const std::string group = Text_Head(hit.path, 2);
+    std::vector<std::string> paths;
+    for (const auto& [pair, partner] : partners)
+        if (group == std::string("Global Effect@") + pair)
+            paths = {hit.path, std::string("Global Effect@") + partner + "@Priority@Ch2"};
+    if (paths.empty())
+        for (int i = 0, first = hit.path.find("@Ch5-") == hit.path.npos ? 1 : 5; i < 4; i++)
+            paths.push_back(group + "@Priority@Ch" + std::to_string(first + i));
+    std::string free_place;
+    for (size_t place = 1; place <= paths.size() && free_place.empty(); place++) {
+        const std::string word = std::to_string(place);
+        if (std::none_of(paths.begin(), paths.end(),
+                         [&](const std::string& path) { return Tree_Get(path)->value == word; }))
+            free_place = word;
+    }
+    for (const std::string& path : paths)
+        if (path != hit.path && Tree_Get(path)->value == hit.now && !free_place.empty())
+            Tree_Show(path, free_place);
+}
+
 // --- The rules ---
 
 static constexpr const char* PATTERN_KEYS = "Wipe Pattern,Key Wipe Pattern";
@@ -338,6 +368,14 @@ static constexpr Rule rules[] = {
     {"DME@Transform@3D Trans@Size@Size", "", act_show_transform, "Size@Y", ""},
     {"DME@Transform@3D Trans@Center", "true", act_reset_transform, "Location", ""},
     {"DME@Transform@3D Trans@Reset", "true", act_reset_transform, "", ""},
+    // The first channel of a group has none before it: it is combined when the second joins it.
+    {"Global Effect@*@Combine@Ch2", "", act_follow, "^@Ch1", ""},
+    {"Global Effect@*@Combine@Ch6", "", act_follow, "^@Ch5", ""},
+    {"Global Effect@*@Priority@Ch*", "", act_give_place, "", ""},
+    {"Global Effect@*@3D Trans@Center", "true", act_default, "^@Location", ""},
+    {"Global Effect@*@3D Trans@Reset", "true", act_default, "^@Location", ""},
+    {"Global Effect@*@3D Trans@Reset", "true", act_default, "^@Rotation", ""},
+    {"Global Effect@*@3D Trans@Reset", "true", act_default, "^@Size", ""},
 };
 
 // The sets come before the rules: a rule finds the others off.

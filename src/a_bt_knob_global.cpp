@@ -6,7 +6,7 @@
 //  120 Global Light       "@Source" (Distant, Near); aspect
 //  121 Brick              aspect
 //  122 Combine            "@Intersect" (where pictures cut each other)
-//  123 Global Trail       "@Trail@Strobe"
+//  123 Global Trail       "@Strobe"
 //  124 Combine Bkgd       "@Fill" (Matte, Video)
 //  125 Global Location    aspect
 //  126 Global Rotation    "@Spin" (turns)
@@ -26,7 +26,7 @@ constexpr KnobCase knob_cases_global[] = {
      Of(nb_dme_light_distant, nb_dme_light_distant, nb_dme_light_near)},
     {121, {SCREEN_WIDE}, Of(nb_ge_brick)},
     {122, {On("@Intersect")}, Of(nb_ge_combine_depth, nb_ge_combine_soft)},
-    {123, {On("@Trail@Strobe")}, Of(nb_ge_trail, nb_ge_trail_strobe)},
+    {123, {On("@Strobe")}, Of(nb_ge_trail, nb_ge_trail_strobe)},
     {124, {Words("@Fill", "Video")}, Of(nb_ge_bkgd, nb_ge_bkgd_video)},
     {125, {SCREEN_WIDE}, Of(nb_dme_trans_location)},
     {126, {On("@Spin")}, Of(nb_dme_trans_rotation, nb_dme_trans_spin)},

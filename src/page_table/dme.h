@@ -1,5 +1,5 @@
 // dme: the menu of an effects unit: its tabs and its pages. The pages act on the channels that the operator has as the
-// reference. The first pages of the global effects are here, too.
+// reference.
 #pragma once
 #include "dme_edge.h"
 #include "dme_light.h"
@@ -52,7 +52,9 @@ inline constexpr HF_TBL hf_dme_light[] = {
     {.id = 1, .caption = "Light",     .page = 0x41510000, .statcmd = {"DME@Light@Light@Light#true"}},
     {.id = 2, .caption = "Shadow",    .page = 0x41520000, .statcmd = {"DME@Light@Shadow@Shadow#true"}},
     {.id = 3, .caption = "Trail",     .page = 0x41530000, .statcmd = {"DME@Light@Trail@Trail#true", "DME@Light@Trail@Motion Decay#true"}},
-    {.id = 4, .caption = "Spotlight", .page = 0x41550000, .statcmd = {"DME@Light@Spotlight@Spotlight#true"}},
+    {.id = 4, .caption = "Wind",      .page = 0x41540000, .statcmd = {"DME@Light@Wind@Wind#true"}},
+    {.id = 5, .caption = "Spotlight", .page = 0x41550000, .statcmd = {"DME@Light@Spotlight@Spotlight#true"}},
+    {.id = 6, .caption = "Bkgd",      .page = 0x41560000, .statcmd = {"DME@Light@Bkgd@Bkgd#true"}},
     HF_END,
 };
 inline constexpr HF_TBL hf_dme_inout[] = {
@@ -101,21 +103,6 @@ constexpr PAGE WithoutCells(PAGE page)
 }
 inline constexpr PAGE dme_light_page = DmePage(0x41510000, "Light", "Light", hf_dme_light, bt_dme_light);
 
-inline constexpr BT_TBL bt_ge_combine[] = {
-    Toggle(     {.id = 17, .caption = "Ch1", .group = "Combine", .cmd = {"~@Ch1#*"}}),
-    Toggle(     {.id = 18, .caption = "Ch2", .group = "Combine", .cmd = {"~@Ch2#*"}}),
-    Toggle(     {.id = 19, .caption = "Ch3", .group = "Combine", .cmd = {"~@Ch3#*"}}),
-    Toggle(     {.id = 20, .caption = "Ch4", .group = "Combine", .cmd = {"~@Ch4#*"}}),
-    Toggle(     {.id = 33, .caption = "Shadow", .group = "Effect", .cmd = {"~@Shadow#*"}, .nb = SpecialKnob(119)}),
-    Toggle(     {.id = 34, .caption = "Light", .group = "Effect", .cmd = {"~@Light#*"}}),
-    Toggle(     {.id = 35, .caption = "Brick", .group = "Effect", .cmd = {"~@Brick#*"}, .nb = SpecialKnob(121)}),
-    Radio(      {.id = 49, .caption = "Auto", .group = "Priority", .cmd = {"~@Priority#Auto"}}),
-    Radio(      {.id = 50, .caption = "Manual", .group = "Priority", .cmd = {"~@Priority#Manual"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_ge_combine));
-
 inline constexpr BT_TBL bt_dme_top[] = {
     Jump(       {.id = 17, .caption = "Edge", .group = "DME", .cmd = {"#41110000"}}),
     Jump(       {.id = 18, .caption = "Video", .group = "DME", .cmd = {"#41210000"}}),
@@ -128,13 +115,6 @@ inline constexpr BT_TBL bt_dme_top[] = {
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_dme_top));
-
-inline constexpr BT_TBL bt_global_effect_top[] = {
-    Jump(       {.id = 17, .caption = "Combine", .group = "Effect", .cmd = {"#42110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_global_effect_top));
 
 inline constexpr PAGE dme_pages[] = {
     {.id = 0x41000000, .tree = {"DME"}, .obj = {Base(base_main), Buttons(bt_dme_top)}},
@@ -160,26 +140,13 @@ inline constexpr PAGE dme_pages[] = {
     DmeSubPage(0x41510003, "Light 3", dme_light_page, bt_dme_light_adjust),
     DmePage(0x41520000, "Light", "Shadow", hf_dme_light, bt_dme_shadow),
     DmePage(0x41530000, "Light", "Trail", hf_dme_light, bt_dme_trail),
+    DmePage(0x41540000, "Light", "Wind", hf_dme_light, bt_dme_wind),
     DmePage(0x41550000, "Light", "Spotlight", hf_dme_light, bt_dme_spotlight),
+    DmePage(0x41560000, "Light", "Bkgd", hf_dme_light, bt_dme_bkgd),
     DmePage(0x41610100, "Input/Output", "Input", hf_dme_inout, bt_dme_input),
     DmePage(0x41610200, "Input/Output", "Input", hf_dme_inout, bt_dme_input_own),
     DmePage(0x41640200, "Input/Output", "Output", hf_dme_inout, bt_dme_output),
     DmePage(0x41710000, "Transform", "3D Trans", hf_dme_transform, bt_dme_3dtrans),
     DmePage(0x41720000, "Transform", "Corner Pinning", hf_dme_transform, bt_dme_cornerpinning),
     DmePage(0x41730000, "Transform", "Graphic", hf_dme_transform, bt_dme_graphic),
-    {.id = 0x42000000, .tree = {"Global Effect"}, .obj = {Base(base_main), Buttons(bt_global_effect_top)}},
-    {.id = 0x42000100, .tree = {"Global Effect"}, .obj = {Base(base_main), Buttons(bt_global_effect_top)}},
-    {.id = 0x42000200, .tree = {"Global Effect"}, .obj = {Base(base_main), Buttons(bt_global_effect_top)}},
-    {.id = 0x42000400, .tree = {"Global Effect"}, .obj = {Base(base_main), Buttons(bt_global_effect_top)}},
-    {.id = 0x42000500, .tree = {"Global Effect"}, .obj = {Base(base_main), Buttons(bt_global_effect_top)}},
-    {.id = 0x42110100, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110200, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110300, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110400, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110500, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110600, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110700, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110800, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42110900, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
-    {.id = 0x42111000, .tree = {"Global Effect", "Ch1-Ch4", "Combine"}, .obj = {Base(base_main), Buttons(bt_ge_combine), Boxes(NB_Non)}},
 };

@@ -1,4 +1,5 @@
-// dme_light: light on an effects channel's picture, and what it leaves behind: shadow and trail.
+// dme_light: light on an effects channel's picture, what it leaves behind (shadow and trail), the wind that moves it, and
+// what lies behind it.
 #pragma once
 #include "nb_dme.h"
 #include "rows.h"
@@ -66,3 +67,26 @@ inline constexpr BT_TBL bt_dme_spotlight[] = {
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_dme_spotlight));
+
+// --- Wind: the picture as cloth ---
+
+inline constexpr BT_TBL bt_dme_wind[] = {
+    Toggle({.id = 17, .caption = "Wind",   .group = "Wind", .cmd = {"~@Wind#*"}, .nb = nb_dme_wind.row}),
+    Toggle({.id = 18, .caption = "Gusts",  .group = "Wind", .cmd = {"~@Gusts#*", "~@Wind#false"}, .nb = nb_dme_wind_gusts.row}),
+    Radio ({.id = 33, .caption = "Flag",   .group = "Held At", .cmd = {"~@Held At#Flag", "~@Wind#false"}}),
+    Radio ({.id = 34, .caption = "Curtain", .group = "Held At", .cmd = {"~@Held At#Curtain", "~@Wind#false"}}),
+    Radio ({.id = 35, .caption = "Corners", .group = "Held At", .cmd = {"~@Held At#Corners", "~@Wind#false"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_dme_wind));
+
+// --- Background ---
+
+inline constexpr BT_TBL bt_dme_bkgd[] = {
+    Toggle({.id = 17, .caption = "Bkgd",          .group = "Bkgd", .cmd = {"~@Bkgd#*"}}),
+    Toggle({.id = 18, .caption = "With\nShadow",  .group = "Bkgd", .cmd = {"~@Shadow#*", "~@Bkgd#false"}}),
+    Radio ({.id = 33, .caption = "Matte",         .group = "Fill", .cmd = {"~@Fill#Matte", "~@Bkgd#false"}, .nb = nb_dme_bkgd.row}),
+    Radio ({.id = 34, .caption = "Utility\nBus",  .group = "Fill", .cmd = {"~@Fill#Utility", "~@Bkgd#false"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_dme_bkgd));

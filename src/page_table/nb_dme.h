@@ -301,3 +301,15 @@ inline constexpr auto nb_dme_graphic = FamilyOf<2>([](int wide) {
     return Column(Count(1, "Columns", "~@Grid@Columns", 1, wide ? 32 : 24),
                   Count(2, "Lines",   "~@Grid@Lines", 1, 24));
 });
+
+// --- Wind and background ---
+
+inline constexpr auto nb_dme_wind = Column(
+    Percent(1, "Strength", "~@Wind@Strength"),
+    Degrees(2, "Direction\ndeg", "~@Wind@Direction"),
+    Percent(3, "Ripple", "~@Wind@Ripple"),
+    Percent(4, "Speed", "~@Wind@Speed"));
+inline constexpr auto nb_dme_wind_gusts = Column(
+    Percent(1, "Strength", "~@Gusts@Strength"),
+    Frames (2, "Interval", "~@Gusts@Interval"));
+inline constexpr auto nb_dme_bkgd = Column(NB_COLOR("~@Fill@Matte"));

@@ -5,32 +5,34 @@
 #include "nb_rows.h"
 
 inline constexpr auto nb_ge_shadow = FamilyOf<2>([](int wide) {
-    return Column(Span   (1, "H",       "~@Shadow@H", Wide(2, wide)),
-                  Span   (2, "V",       "~@Shadow@V", 2),
-                  Percent(3, "Density", "~@Shadow@Density"));
+    return Column(Span   (1, "H",       "~@H", Wide(2, wide)),
+                  Span   (2, "V",       "~@V", 2),
+                  Percent(3, "Density", "~@Density"));
 });
 // A block as wide as its front picture.
 inline constexpr auto nb_ge_brick = FamilyOf<2>([](int wide) {
-    return Column(Percent(1, "Width",  "~@Brick@Width", Wide(100, wide)),
-                  Percent(2, "Height", "~@Brick@Height"),
-                  Percent(3, "Depth",  "~@Brick@Depth", Wide(100, wide)));
+    return Column(Percent(1, "Width",  "~@Width", Wide(100, wide)),
+                  Percent(2, "Height", "~@Height"),
+                  Percent(3, "Depth",  "~@Depth", Wide(100, wide)));
 });
-inline constexpr auto nb_ge_combine_depth = Column(Span(1, "Depth", "~@Combine@Depth", 10));
+inline constexpr auto nb_ge_combine_depth = Column(Span(1, "Depth", "~@Depth", 10));
 inline constexpr auto nb_ge_combine_soft = Column(
-    Span   (1, "Depth", "~@Combine@Depth", 10),
-    Percent(2, "Soft",  "~@Combine@Intersect Soft"));
+    Span   (1, "Depth", "~@Depth", 10),
+    Percent(2, "Soft",  "~@Intersect Soft"));
 inline constexpr auto nb_ge_trail = Column(
-    Frames (1, "Duration", "~@Trail@Duration"),
-    Percent(2, "Decay",    "~@Trail@Decay"));
+    Frames (1, "Duration", "~@Duration"),
+    Percent(2, "Decay",    "~@Decay"));
 inline constexpr auto nb_ge_trail_strobe = Column(
-    Frames (1, "Duration", "~@Trail@Duration"),
-    Percent(2, "Decay",    "~@Trail@Decay"),
-    Frames (3, "Step",     "~@Trail@Step"));
+    Frames (1, "Duration", "~@Duration"),
+    Percent(2, "Decay",    "~@Decay"),
+    Frames (3, "Step",     "~@Step"));
 inline constexpr auto nb_ge_bkgd = Column(
     Percent(1, "Luminance", "~@Bkgd@Luminance"),
     Percent(2, "Saturation", "~@Bkgd@Saturation"),
     Hue    (3,              "~@Bkgd@Hue"));
 inline constexpr auto nb_ge_bkgd_video = Column(Percent(1, "Level", "~@Bkgd@Level"));
+inline constexpr auto nb_ge_shadow_matte = Column(NB_COLOR("~@Fill@Matte"));
+inline constexpr auto nb_ge_light_color = Column(NB_COLOR("~@Light@Color"));
 inline constexpr auto nb_ge_size_sep = Column(
     Percent(1, "Size X", "~@Size@X", 400),
     Percent(2, "Size Y", "~@Size@Y", 400),

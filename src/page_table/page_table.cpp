@@ -13,6 +13,7 @@
 #include "fm.h"
 #include "fmem_clip.h"
 #include "gallery.h"
+#include "global_effect.h"
 #include "install.h"
 #include "keyframe.h"
 #include "keyframe_path.h"
@@ -74,6 +75,8 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 sources_pages,
                 operation_pages,
                 dme_pages,
+                global_effect_pages,
+                global_effect_rows,
                 machines_pages,
                 menu_macro_pages,
                 menu_macro_sub_pages,

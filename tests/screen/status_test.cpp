@@ -66,9 +66,9 @@ TEST_F(StatusPicture, ChannelsAndTheirCombiners)
          {"Global Effect@Ch1-Ch4@Trail@Ch3", "Pre"},
          {"Global Effect@Ch1-Ch4@Priority@Ch3", "3"},
          {"Global Effect@Ch1-Ch4@Brick@Ch4", "true"},
-         {"Global Effect@Ch1-Ch4@Brick@Ch4@Faces", "2"},
+         {"Global Effect@Ch1-Ch4@Brick@Faces", "2"},
          {"Global Effect@Ch5-Ch8@Brick@Ch5", "true"},
-         {"Global Effect@Ch5-Ch8@Brick@Ch5@Faces", "4"}});
+         {"Global Effect@Ch5-Ch8@Brick@Faces", "4"}});
     Pass();
     EXPECT_TRUE(MatchesGolden("status_global", work_area));
 }
