@@ -486,11 +486,14 @@ static const Kind* kind_of_path(const std::string& path)
     return nullptr;
 }
 
-// "Effect@Effect@Move@MP2 Auto Correct" stands beside the command, or below it.
+// "Effect@Effect@Move@MP2 Auto Correct" stands beside the command, or below it. The snapshots' copy
+// is told the switch by another name.
 static bool is_corrected(const std::string& path)
 {
-    for (const std::string& group : {path, path.substr(0, path.rfind('@'))})
-        if (const Node* node = Tree_Find(group + "@MP2 Auto Correct"))
+    const std::string group = path.substr(0, path.rfind('@'));
+    for (const std::string& at :
+         {path + "@Direction@Reverse", path + "@MP2 Auto Correct", group + "@MP2 Auto Correct"})
+        if (const Node* node = Tree_Find(at))
             return node->value == "true";
     return false;
 }

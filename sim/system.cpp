@@ -118,6 +118,8 @@ static const Preset presets[] = {
      "12th Row,13th Row,14th Row",
      "Main"},
     {"Engineering Setup@Switcher@Config@M/E Config", BANKS, "Standard"},
+    {"Engineering Setup@Switcher@Config@User1-8 Config", "User1", "Aux1,Aux2,FM1,FM2,FM3,FM4"},
+    {"Engineering Setup@Switcher@Config@User1-8 Config", "User2", "Aux3,Aux4,FM5,FM6,FM7,FM8"},
     {"Engineering Setup@Switcher@Transition@Key Transition", BANKS, "Common"},
     {"Engineering Setup@Switcher@Key/Wipe@FM Auto Store", "", "false"},
     {"Engineering Setup@Switcher@SDI I/F", DMES, "Dedicated"},

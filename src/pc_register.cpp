@@ -371,10 +371,17 @@ static int merge_sel()
     return 0;
 }
 
+// The switch of the page that is open, wherever it is kept.
+static bool& auto_correct()
+{
+    bool* const own = runs_of_shape().own_correct;
+    return own ? *own : rp.is_auto_correct;
+}
+
 static void show_switches()
 {
     (void)BT_SetStatus(BTN_REGISTER_WO_NAME, memory().wo_name ? BT_ON : BT_OFF);
-    (void)BT_SetStatus(BTN_REGISTER_AUTO_CORRECT, rp.is_auto_correct ? BT_ON : BT_OFF);
+    (void)BT_SetStatus(BTN_REGISTER_AUTO_CORRECT, auto_correct() ? BT_ON : BT_OFF);
 }
 
 static int wo_name_sel()
@@ -386,8 +393,14 @@ static int wo_name_sel()
 
 static int auto_correct_sel()
 {
-    const char* const path = runs_of_shape().auto_correct;
-    return path ? Net_SendCommandFormat("put %s#%s", path, Bool(!rp.is_auto_correct)) : 0;
+    const RegisterRuns& runs = runs_of_shape();
+    if (!runs.auto_correct)
+        return 0;
+    const bool on = !auto_correct();
+    if (runs.own_correct)
+        *runs.own_correct = on;
+    show_switches();
+    return Net_SendCommandFormat("put %s#%s", runs.auto_correct, Bool(on));
 }
 
 // --- Messages ---
@@ -469,7 +482,7 @@ static int take_tally(const char* path, const char* value)
 {
     const char* const correct = is_dual() ? runs_of_shape().auto_correct : nullptr;
     if (correct && Same(path, correct)) {
-        rp.is_auto_correct = IsTrue(value);
+        auto_correct() = IsTrue(value) != 0;
         show_switches();
     }
     if (rp.extra && rp.extra->tally)
@@ -550,8 +563,7 @@ static int open(uint32_t var)
         return -1;
     rp = {.kind = &register_kinds[kind], .shape = REGSHAPE(shape)};
     rp.extra = extra_of(REGKIND(kind), rp.shape);
-    if (rp.kind->regions)
-        (void)PaneRegion_InitID(rp.kind->group());
+    RegisterKind_InitRegions(*rp.kind);
     memory().region1 = RegisterKind_Reference(*rp.kind);
     Region_Count = selected_regions() > 1;
     Register_StatusReport(1);
@@ -617,4 +629,5 @@ void RegisterPages_Reset()
     RegisterList_CloseAll();
     rp = {};
     Region_Count = 1;
+    SnapshotMP2AutoCorrect = false;
 }

@@ -60,24 +60,28 @@ inline constexpr RegisterColumn menu_macro_columns[] = {
         {"ME5", width, TEXT_OF(link[4])}, {"P/P", width, TEXT_OF(link[5])},                        \
         {"USR", width, TEXT_OF(link[6])},                                                          \
     {                                                                                              \
-        "DME", (width) + 1, TEXT_OF(link[7])                                                       \
+        "DME", (width) + 4, TEXT_OF(link[7])                                                       \
     }
 inline constexpr RegisterColumn master_ss_columns[] = {
-    {"No", 30, TEXT_OF(no)}, {"Name", 111, TEXT_OF(name)},  {"L/E", 32, TEXT_OF(le)},
+    {"No", 30, TEXT_OF(no)}, {"Name", 108, TEXT_OF(name)},  {"L/E", 32, TEXT_OF(le)},
     BANK_LINKS(42),          {"RTR", 42, TEXT_OF(link[8])}, {}};
-#define ALL_LINKS                                                                                  \
-    BANK_LINKS(31), {"DEV", 32, TEXT_OF(link[8])}, {"PBS", 32, TEXT_OF(link[9])},                  \
-        {"GPI", 30, TEXT_OF(link[10])},                                                            \
+#define ALL_LINKS(width)                                                                           \
+    BANK_LINKS(width), {"DEV", (width) + 1, TEXT_OF(link[8])},                                     \
+        {"PBS", (width) + 1, TEXT_OF(link[9])}, {"GPI", (width)-1, TEXT_OF(link[10])},             \
     {                                                                                              \
-        "MCR", 36, TEXT_OF(link[11])                                                               \
+        "MCR", (width) + 3, TEXT_OF(link[11])                                                      \
     }
-inline constexpr RegisterColumn master_tl_columns[] = {
-    {"No", 30, TEXT_OF(no)}, {"Name", 111, TEXT_OF(name)}, {"L/E", 32, TEXT_OF(le)}, ALL_LINKS, {}};
-inline constexpr RegisterColumn shotbox_columns[] = {{"No", 30, TEXT_OF(no)},
-                                                     {"Name", 79, TEXT_OF(name)},
-                                                     {"L/E", 28, TEXT_OF(le)},
-                                                     {"Auto", 36, TEXT_OF(attri)},
-                                                     ALL_LINKS,
+inline constexpr RegisterColumn master_tl_columns[] = {{"No", 30, TEXT_OF(no)},
+                                                       {"Name", 109, TEXT_OF(name)},
+                                                       {"L/E", 33, TEXT_OF(le)},
+                                                       ALL_LINKS(31),
+                                                       {}};
+inline constexpr RegisterColumn shotbox_columns[] = {{"No", 26, TEXT_OF(no)},
+                                                     {"Name", 78, TEXT_OF(name)},
+                                                     {"L/E", 26, TEXT_OF(le)},
+                                                     {"Auto", 34, TEXT_OF(attri)},
+                                                     ALL_LINKS(29),
+                                                     {"RTR", 32, TEXT_OF(link[12])},
                                                      {}};
 #undef ALL_LINKS
 #undef BANK_LINKS

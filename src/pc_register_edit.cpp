@@ -23,8 +23,8 @@ namespace
 constexpr int SLOTS = 8;
 constexpr int LAYERS_MAX = 6;
 constexpr int LINKED_REGIONS = REGISTER_LINKS; // of a shotbox; the others have fewer
-constexpr int SHOTBOX_RTR = EFF_REGION_MASTER; // where its links go on behind the effects
 constexpr int NONE = -1;
+constexpr int STORE_MS = 3000; // in which the server tells what it has stored
 
 constexpr int FONT_CAPTION = 3;
 constexpr int FONT_NUMBER = 7;
@@ -34,19 +34,25 @@ constexpr unsigned CELL_LINKED = 0x005A6E;
 constexpr unsigned CELL_SELECTED = 0x00C8F0;
 constexpr Rect HEAD = {100, 76, 701, 98};
 
+constexpr int LAYER_X = 102; // of the layers' captions
+
 constexpr Rect CellRect(int layer, int slot)
 {
-    const int x = 102 + 75 * slot;
+    const int x = 138 + 70 * slot;
     const int y = 102 + 55 * layer;
-    return {x, y, x + 70, y + 50};
+    return {x, y, x + 66, y + 50};
 }
 
 struct LayerSlot {
     int region = NONE; // row of the region, place in the links; none: an empty slot
     const char* caption = "";
 };
+struct Layer {
+    const char* caption = "";
+    LayerSlot slot[SLOTS];
+};
 struct Layers {
-    LayerSlot slot[LAYERS_MAX][SLOTS];
+    Layer layer[LAYERS_MAX];
 };
 } // namespace
 
@@ -59,32 +65,45 @@ static constexpr const char* channel_captions[] = {"DME1", "DME2", "DME3", "DME4
                                                    "DME5", "DME6", "DME7", "DME8"};
 static constexpr const char* device_captions[] = {"DEV1", "DEV2", "DEV3", "DEV4",
                                                   "DEV5", "DEV6", "DEV7", "DEV8"};
-static constexpr const char* further_captions[] = {"DEV9", "DEV10", "DEV11", "DEV12",
-                                                   "PBUS", "GPI",   "MCRO"};
+static constexpr const char* further_captions[] = {"DEV9", "DEV10", "DEV11", "DEV12"};
+static constexpr const char* rest_captions[] = {"PBUS", "GPI", "MCRO"};
 
+// The captions from the slot on, for the regions from first on.
 template <size_t N>
-static constexpr void SetLayer(LayerSlot (&layer)[SLOTS], int first,
-                               const char* const (&captions)[N])
+static constexpr void SetSlots(Layer& layer, int slot, int first, const char* const (&captions)[N])
 {
     for (size_t i = 0; i < N; i++)
-        layer[i] = {first + int(i), captions[i]};
+        layer.slot[size_t(slot) + i] = {first + int(i), captions[i]};
 }
 
+// Four layers of the snapshots, six of the effects, as the page shows them. The router stands in a
+// layer of its own where one is free, else beside the banks.
 static constexpr Layers MakeLayers(bool is_effect, bool has_sub, int router = NONE)
 {
+    constexpr const char* router_captions[] = {"RTR"};
     Layers all;
     int n = 0;
-    SetLayer(all.slot[n++], SS_REGION_ME1, side_captions);
-    if (router != NONE)
-        all.slot[0][std::size(side_captions)] = {router, "RTR"};
-    if (has_sub)
-        SetLayer(all.slot[n++], SS_REGION_ME1_SUB, sub_captions);
-    SetLayer(all.slot[n++], SS_REGION_USER1, user_captions);
-    SetLayer(all.slot[n++], SS_REGION_DME1, channel_captions);
-    if (is_effect) {
-        SetLayer(all.slot[n++], EFF_REGION_DEV1, device_captions);
-        SetLayer(all.slot[n++], EFF_REGION_DEV1 + SLOTS, further_captions);
+    all.layer[n].caption = "M/E";
+    SetSlots(all.layer[n++], 0, SS_REGION_ME1, side_captions);
+    if (has_sub) {
+        all.layer[n].caption = "Sub";
+        SetSlots(all.layer[n++], 0, SS_REGION_ME1_SUB, sub_captions);
     }
+    all.layer[n].caption = "USR";
+    SetSlots(all.layer[n++], 0, SS_REGION_USER1, user_captions);
+    all.layer[n].caption = "DME";
+    SetSlots(all.layer[n++], 0, SS_REGION_DME1, channel_captions);
+    if (is_effect) {
+        all.layer[n].caption = "VDCP"; // how the devices are controlled
+        SetSlots(all.layer[n++], 0, EFF_REGION_DEV1, device_captions);
+        SetSlots(all.layer[n], 0, EFF_REGION_DEV1 + SLOTS, further_captions);
+        SetSlots(all.layer[has_sub ? n : n + 1], has_sub ? int(std::size(further_captions)) : 0,
+                 EFF_REGION_PBUS, rest_captions);
+    }
+    const bool has_free_layer = !is_effect && !has_sub;
+    if (router != NONE)
+        SetSlots(all.layer[has_free_layer ? n : 0], has_free_layer ? 0 : int(SLOTS) - 2, router,
+                 router_captions);
     return all;
 }
 static constexpr Layers LayerTblOrg = MakeLayers(false, false, SS_REGION_RTR);
@@ -107,10 +126,13 @@ struct EditPage {
     int knob = 0;             // that Assign writes
     bool is_snapshot = false; // and of which sort, in a shotbox
     bool is_edited = false;   // MasterEdit is not what the register holds
+    int stored_ms = 0;        // left for the server's line of the last store; 0 none is awaited
+    int stored[LINKED_REGIONS] = {}; // what that store sent
     bool redraw = false;
 };
 } // namespace
 
+static_assert(SHOTBOX_RTR == int(EFF_REGION_MASTER));
 static EditPage me; // valid from create(1) to create(0)
 
 static bool is_shotbox()
@@ -157,16 +179,16 @@ static void take_register()
     me.redraw = true;
 }
 
-static void refuse(const char* message)
+static void say(const char* title, const char* message)
 {
-    (void)CreateWindow(WINDOW_MESSAGE, "Lock", {.message = message});
+    (void)CreateWindow(WINDOW_MESSAGE, title, {.message = message});
 }
 
 // --- Cells ---
 
 static bool is_slot(int layer, int slot)
 {
-    return me.layers.slot[layer][slot].region != NONE;
+    return me.layers.layer[layer].slot[slot].region != NONE;
 }
 
 // What the system does not have is no slot; layers that have none close up.
@@ -174,11 +196,12 @@ static void trim_layers(const Layers& all)
 {
     me.layers = Layers();
     int to = 0;
-    for (const auto& layer : all.slot) {
+    for (const Layer& layer : all.layer) {
         int n = 0;
-        for (const LayerSlot& slot : layer)
+        for (const LayerSlot& slot : layer.slot)
             if (slot.region != NONE && RegisterKind_IsInUse(linked_kind(), slot.region))
-                me.layers.slot[to][n++] = slot;
+                me.layers.layer[to].slot[n++] = slot;
+        me.layers.layer[to].caption = n > 0 ? layer.caption : "";
         to += n > 0;
     }
 }
@@ -188,11 +211,11 @@ template <typename Is> static void select_cells(Is is_one)
     bool are_all_on = true;
     for (int layer = 0; layer < LAYERS_MAX; layer++)
         for (int slot = 0; slot < SLOTS; slot++)
-            if (is_slot(layer, slot) && is_one(me.layers.slot[layer][slot].region))
+            if (is_slot(layer, slot) && is_one(me.layers.layer[layer].slot[slot].region))
                 are_all_on &= me.EditData_Select[layer][slot];
     for (int layer = 0; layer < LAYERS_MAX; layer++)
         for (int slot = 0; slot < SLOTS; slot++)
-            if (is_slot(layer, slot) && is_one(me.layers.slot[layer][slot].region))
+            if (is_slot(layer, slot) && is_one(me.layers.layer[layer].slot[slot].region))
                 me.EditData_Select[layer][slot] = !are_all_on;
     me.redraw = true;
 }
@@ -230,7 +253,7 @@ static int assign_sel()
     for (int layer = 0; layer < LAYERS_MAX; layer++)
         for (int slot = 0; slot < SLOTS; slot++)
             if (me.EditData_Select[layer][slot] && is_slot(layer, slot)) {
-                const int region = me.layers.slot[layer][slot].region;
+                const int region = me.layers.layer[layer].slot[slot].region;
                 me.MasterEdit[region] = assigned(region, me.MasterEdit[region]);
             }
     me.is_edited = me.redraw = true;
@@ -266,13 +289,37 @@ static void send_store()
     }
     Net_SendCommandFormat("put %s#%d%s", me.kind->commands->edit_store, number(), links);
     me.is_edited = false;
+    me.stored_ms = STORE_MS;
+    std::copy(std::begin(me.MasterEdit), std::end(me.MasterEdit), me.stored);
+}
+
+// The server's line of the register has come. The page shows what it says.
+static void store_answered()
+{
+    int links[LINKED_REGIONS];
+    if (me.stored_ms == 0)
+        return;
+    me.stored_ms = 0;
+    links_of_mirror(links);
+    if (!std::equal(std::begin(links), std::end(links), me.stored))
+        say("Warning", "The register holds other data than\nwhat was to be stored.\n\nPlease "
+                       "check it.");
+}
+
+static void store_waits(int elapsed_ms)
+{
+    if (me.stored_ms == 0)
+        return;
+    me.stored_ms = std::max(me.stored_ms - elapsed_ms, 0);
+    if (me.stored_ms == 0)
+        say("Error", "The register was not stored.");
 }
 
 static int store_sel()
 {
     if (is_locked()) {
-        refuse("This operation will be cancelled, because the\nregister is locked.\n\nPlease "
-               "change the register status to be\nunlocked first.");
+        say("Lock", "This operation will be cancelled, because the\nregister is locked.\n\nPlease "
+                    "change the register status to be\nunlocked first.");
         return 0;
     }
     links_of_mirror(me.MasterUndo);
@@ -283,8 +330,9 @@ static int store_sel()
 static int undo_sel()
 {
     if (is_locked()) {
-        refuse("This operation is cancelled, because the\nregister is locked.\n\nPlease change the "
-               "register status to be\nunlocked first.");
+        say("Lock",
+            "This operation is cancelled, because the\nregister is locked.\n\nPlease change the "
+            "register status to be\nunlocked first.");
         return 0;
     }
     std::copy(std::begin(me.MasterUndo), std::end(me.MasterUndo), me.MasterEdit);
@@ -309,10 +357,17 @@ static void draw_head()
     TDL_SymbolS(HEAD.x2 - 90, HEAD.y1 + 4, text, FONT_CAPTION, LABEL);
 }
 
+static void draw_caption(int layer)
+{
+    const Rect r = CellRect(layer, 0);
+    TDL_FillRectS(LAYER_X, r.y1, r.x1 - 1, r.y2, BLACK);
+    TDL_SymbolS(LAYER_X, r.y1 + 4, me.layers.layer[layer].caption, FONT_CAPTION, LABEL);
+}
+
 static void draw_slot(int layer, int slot)
 {
     const Rect r = CellRect(layer, slot);
-    const LayerSlot& s = me.layers.slot[layer][slot];
+    const LayerSlot& s = me.layers.layer[layer].slot[slot];
     if (s.region == NONE) {
         TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, BLACK);
         return;
@@ -330,15 +385,18 @@ static void draw_slot(int layer, int slot)
                 is_on ? BLACK : WHITE);
 }
 
-static int edit_redraw()
+static int edit_redraw(int elapsed_ms)
 {
+    store_waits(elapsed_ms);
     if (!me.redraw)
         return 0;
     me.redraw = false;
     draw_head();
-    for (int layer = 0; layer < LAYERS_MAX; layer++)
+    for (int layer = 0; layer < LAYERS_MAX; layer++) {
+        draw_caption(layer);
         for (int slot = 0; slot < SLOTS; slot++)
             draw_slot(layer, slot);
+    }
     TDL_UpdateRect(HEAD.x1, HEAD.y1, HEAD.x2, CellRect(LAYERS_MAX - 1, 0).y2);
     return 0;
 }
@@ -396,6 +454,7 @@ static int take_tally(const char* path, const char* value)
 static int register_changed(int kind, int row, int no)
 {
     if (kind == me.kind->mirror && row == me.kind->mirror_row && no == me.no) {
+        store_answered();
         if (!me.is_edited)
             take_register();
         me.redraw = true;
@@ -408,7 +467,7 @@ static int edit_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     if (!me.kind)
         return 0;
     switch (msg) {
-    case MSG_REDRAW: return edit_redraw();
+    case MSG_REDRAW: return edit_redraw(int(ax));
     case MSG_PRESS: return cell_pressed(int(ax), int(bx));
     case MSG_TALLY: return take_tally(Text(ax), Text(bx));
     case LMSG_BTNSEL: return button_pressed(Text(ax));

@@ -57,6 +57,8 @@ static int group_effect_ex()
 
 // --- Commands ---
 
+bool SnapshotMP2AutoCorrect;
+
 #define RUNS(path, correct)                                                                        \
     {                                                                                              \
         path, correct                                                                              \
@@ -79,7 +81,7 @@ static constexpr RegisterCommands snapshot_commands = {
     .unlock = SS_HEAD "UnLock",
     .remove = SS_HEAD "Delete",
     .rename = SS_HEAD "Rename",
-    .copy = RUNS(SS_HEAD "Copy", SS_HEAD "Copy@MP2 Auto Correct"),
+    .copy = {SS_HEAD "Copy", SS_HEAD "Copy@Direction@Reverse", &SnapshotMP2AutoCorrect},
     .move = RUNS(SS_HEAD "Move", nullptr),
     .swap = RUNS(SS_HEAD "Swap", nullptr),
     .list = SS_HEAD "Attribute@%s@List",
@@ -428,6 +430,16 @@ int RegisterKind_SelectorRow(const RegisterKind& kind, int region)
     while (kind.has_dme_groups && region > SS_REGION_DME1 && !has_cell(region))
         region--;
     return region;
+}
+
+void RegisterKind_InitRegions(const RegisterKind& kind)
+{
+    if (!kind.regions)
+        return;
+    (void)PaneRegion_InitID(kind.group());
+    const int row = Region_RowOfId(kind.regions, PaneRegion_GetRef(kind.group()));
+    if (row < SS_REGION_DME1) // none, or the switcher's; the operator's own choice stays
+        (void)PaneRegion_SetDefaultSelected(kind.group());
 }
 
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind)

@@ -40,6 +40,7 @@ enum REGMASKFORM : int {
 struct RegisterRuns {
     const char* path = nullptr;
     const char* auto_correct = nullptr; // null: no such switch
+    bool* own_correct = nullptr; // this unit keeps it and only reports it; null: the server does
 };
 
 // Paths, without the verb in front and the value behind. Values, with MASK for the regions where
@@ -70,6 +71,9 @@ struct RegisterLocal {
     void (*copy)(int from, int to, int target, bool wo_name);
     const char* locked; // what the operator is told when a locked register is in the way
 };
+
+// Of the snapshots' copy: what goes from a main side to a sub side, or back, is made to fit.
+extern bool SnapshotMP2AutoCorrect;
 
 struct RegisterKind {
     REGKIND kind = REGKINDS;
@@ -115,6 +119,9 @@ void RegisterKind_Path(const RegisterKind& kind, const char* pattern, int region
                        int size);
 // The region that stands for this one in the selector: a group of channels has its first one there.
 int RegisterKind_SelectorRow(const RegisterKind& kind, int region);
+// Bring the kind's selector in line with the units that are there; where no switcher is, a channel
+// leads.
+void RegisterKind_InitRegions(const RegisterKind& kind);
 // The bits of all regions that are selected in the kind's selector; 0 for none. The fixed mask of a
 // kind without regions.
 uint64_t RegisterKind_SelectedMask(const RegisterKind& kind);

@@ -193,14 +193,21 @@ void eff300_complete(int, int no, RegisterLine* line)
 // Regions that have a column each, and those that share one.
 static constexpr struct {
     int first, last; // rows of the regions
+    int sub = -1;    // row of the bank's other side
 } link_columns[REGISTER_LINK_COLUMNS] = {
-    {SS_REGION_ME1, SS_REGION_ME1},       {SS_REGION_ME2, SS_REGION_ME2},
-    {SS_REGION_ME3, SS_REGION_ME3},       {SS_REGION_ME4, SS_REGION_ME4},
-    {SS_REGION_ME5, SS_REGION_ME5},       {SS_REGION_PP, SS_REGION_PP},
-    {SS_REGION_USER1, SS_REGION_USER8},   {SS_REGION_DME1, SS_REGION_DME8},
+    {SS_REGION_ME1, SS_REGION_ME1, SS_REGION_ME1_SUB},
+    {SS_REGION_ME2, SS_REGION_ME2, SS_REGION_ME2_SUB},
+    {SS_REGION_ME3, SS_REGION_ME3, SS_REGION_ME3_SUB},
+    {SS_REGION_ME4, SS_REGION_ME4, SS_REGION_ME4_SUB},
+    {SS_REGION_ME5, SS_REGION_ME5, SS_REGION_ME5_SUB},
+    {SS_REGION_PP, SS_REGION_PP, SS_REGION_PP_SUB},
+    {SS_REGION_USER1, SS_REGION_USER8},
+    {SS_REGION_DME1, SS_REGION_DME8},
     {EFF_REGION_DEV1, EFF_REGION_DEV12}, // the first of them is the snapshots' router
-    {EFF_REGION_PBUS, EFF_REGION_PBUS},   {EFF_REGION_GPI, EFF_REGION_GPI},
-    {EFF_REGION_MACRO, EFF_REGION_MACRO}, {SS_REGION_ME1_SUB, SS_REGION_PP_SUB},
+    {EFF_REGION_PBUS, EFF_REGION_PBUS},
+    {EFF_REGION_GPI, EFF_REGION_GPI},
+    {EFF_REGION_MACRO, EFF_REGION_MACRO},
+    {SHOTBOX_RTR, SHOTBOX_RTR},
 };
 static_assert(int(EFF_REGION_DEV1) == int(SS_REGION_RTR));
 
@@ -221,6 +228,9 @@ static void show_links(RegisterLine* line)
             is_mixed |= shown != 0 && line->data[i] != 0 && line->data[i] != shown;
             shown = shown ? shown : line->data[i];
         }
+        // A number is the main side's: what the other side has beside it or alone is not shown.
+        const int sub = link_columns[column].sub;
+        is_mixed |= sub >= 0 && line->data[sub] != 0 && line->data[sub] != shown;
         if (is_mixed)
             CopyText(line->link[column], "...");
         else

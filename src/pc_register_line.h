@@ -3,11 +3,11 @@
 #pragma once
 #include "types.h"
 
-constexpr int REGISTER_LINKS = 44;   // of a master or a shotbox register, at most
-constexpr int REGISTER_COLUMNS = 15; // of a list, at most
-constexpr int REGISTER_GROUPS = 7;   // of regions: M/E, user, DME, device, P-Bus, GPI, macro
+constexpr int REGISTER_LINKS = 44; // of a master or a shotbox register, at most
+constexpr int REGISTER_GROUPS = 7; // of regions: M/E, user, DME, device, P-Bus, GPI, macro
 constexpr int REGISTER_LINK_COLUMNS = 13;
-constexpr int XPTHOLD_SIZE = 36;      // all marks of a bank, displayed
+constexpr int SHOTBOX_RTR = 43;  // place of a shotbox's router link, behind those of the effects
+constexpr int XPTHOLD_SIZE = 36; // all marks of a bank, displayed
 constexpr int XPTHOLD_TLY_SIZE = 260; // the router's 256 digits
 
 struct RegisterLine {
@@ -27,7 +27,7 @@ struct RegisterLine {
     int dur = 0;                          // frames
     // Masters and shotboxes: the register of each region; 0 none, below 0 a snapshot's
     int data[REGISTER_LINKS] = {};
-    char link[REGISTER_LINK_COLUMNS][5] = {}; // as texts: the banks, then a text a group
+    char link[REGISTER_LINK_COLUMNS][5] = {}; // as texts: the banks, a text a group, the router
     // Menu macros
     char events[5] = "";
     char interval[8] = ""; // seconds

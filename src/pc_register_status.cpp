@@ -176,6 +176,13 @@ static void copy_row(int from, int to, bool wo_name)
     rs.Status_Detail_Redraw = true;
 }
 
+// A sub side that this system does not run: its registers are left as they are.
+static bool status_region_sub_check(int region)
+{
+    const bool is_sub = region >= SS_REGION_ME1_SUB && region <= SS_REGION_PP_SUB;
+    return rs.kind->regions && is_sub && !RegisterKind_IsInUse(*rs.kind, region);
+}
+
 static int copy_to_sel()
 {
     const RegisterKind& kind = *rs.kind;
@@ -186,7 +193,7 @@ static int copy_to_sel()
     rs.FromBuf = 0;
     show_from();
     for (int region = 0; region < RegisterKind_Regions(kind); region++)
-        if (RegisterKind_IsInUse(kind, region) && RegisterKind_Exist(kind, region, from - FIRST))
+        if (!status_region_sub_check(region) && RegisterKind_Exist(kind, region, from - FIRST))
             RegisterCmd_CopyInRegion(kind, region, from, to, wo_name);
     copy_row(from, to, wo_name);
     return 0;
@@ -198,11 +205,10 @@ static void draw_labels()
 {
     constexpr int ROW_X = 105, ROW_Y = 171, COLUMN_X = 140, COLUMN_Y = 150;
     for (int i = 0; i < LINES; i++) {
-        TDL_SymbolS(ROW_X, ROW_Y + 26 * i - 3, NumStr(i), FONT_LABEL, LABEL);
-        TDL_SymbolS(COLUMN_X + 58 * i - (i ? 4 : 0), COLUMN_Y - 2, NumStr(LINES * i), FONT_LABEL,
-                    LABEL);
+        TDL_SymbolS(ROW_X, ROW_Y + 26 * i, NumStr(i), FONT_LABEL, LABEL);
+        TDL_SymbolS(COLUMN_X + 58 * i, COLUMN_Y, NumStr(LINES * i), FONT_LABEL, LABEL);
     }
-    TDL_UpdateRect(97, COLUMN_Y - 2, 702, 426);
+    TDL_UpdateRect(97, COLUMN_Y, 702, 426);
 }
 
 static void draw_cell(int number)
@@ -316,6 +322,7 @@ static int status_create(int on, uint32_t kind)
     rs = {};
     rs.kind = &register_kinds[kind];
     rs.Status_Grid_Redraw = true;
+    RegisterKind_InitRegions(*rs.kind);
     Register_StatusReport(1);
     for (int number = FIRST; number <= REGISTERS; number++)
         status_data_init(number);

@@ -176,10 +176,13 @@ void snapshot_xpthold_text(int region, const char* flags, char* text, size_t siz
 
 int snapshot_xpthold_keys(int bank)
 {
-    constexpr int ALL = 8, HALF = 4;
+    constexpr int HALF = 4;
     constexpr int HALF_SIZE = 4, HALF_SCAN = 4; // a format in which a bank has four keys
+    constexpr int OTHERS = HOLD_ME_MARKS - (HOLD_U1 - HOLD_KEY1);
     const bool is_ntr40 = SYS_RefSwrType == DEVTYPE_NTR40;
-    int keys = SYS_Format_Size == HALF_SIZE && SYS_Format_Scan == HALF_SCAN ? HALF : ALL;
+    const bool is_half = SYS_Format_Size == HALF_SIZE && SYS_Format_Scan == HALF_SCAN;
+    const int rows = is_half ? XptHold_Max_3G : is_ntr40 ? XptHold_Max_7K : XptHold_Max;
+    int keys = rows - OTHERS;
     if (is_ntr40 && me_split_max() > 2)
         keys = std::min(keys, GL_KeyMax[bank]);
     else if (is_ntr40 && GL_KeyMax[bank] <= HALF)

@@ -20,6 +20,11 @@ enum : int {
     HOLD_D2,
     HOLD_ME_MARKS,
 };
+// Rows that a bank has at most on the hold page, by system: with eight keys, in the format in which
+// a bank has four, and on the NTR40, which says itself how many each bank has.
+constexpr int XptHold_Max = HOLD_ME_MARKS;
+constexpr int XptHold_Max_3G = HOLD_ME_MARKS - 4;
+constexpr int XptHold_Max_7K = HOLD_ME_MARKS;
 constexpr int HOLD_USER_BUSES = 60;
 constexpr int HOLD_USER_AUX = 48; // the first of them
 constexpr int HOLD_RTR_ROWS = 128;

@@ -8,6 +8,7 @@
 #include "device.h"
 #include "global.h"
 #include "message.h"
+#include "netio.h"
 #include "pane.h"
 #include "pc_register.h"
 #include "pc_snapshot.h"
@@ -20,6 +21,8 @@
 #include <iterator>
 #include "safeguards.h"
 
+#define EIGHTH_ROW "@Main/Sub Assign@8th Row"
+#define SECOND_COLOR "@Type@Matte Adjust@Color 2"
 #define XPT_HOLD "LOCAL@Snapshot@Attribute@Xpt Hold@"
 
 namespace
@@ -46,6 +49,8 @@ static struct {
     int region = 0;
     int no = 0;
     int rows = 0;
+    bool has_utility3 = true; // until the system says that it has none
+    bool has_dme2 = true;
     int cursor = -1; // as looked at last
     bool head_redraw = false;
 } xh; // valid from create(1) to create(0)
@@ -88,8 +93,10 @@ static void name_bank(int bank, bool is_sub)
     else
         add_numbered(HOLD_U1, "Util", 1);
     add_row(HOLD_U2, "Util 2");
-    add_numbered(HOLD_U3, "Util", 3);
-    add_row(HOLD_D2, "DME 2nd Video");
+    if (xh.has_utility3 || marks[HOLD_U3]) // what is held can be released
+        add_numbered(HOLD_U3, "Util", 3);
+    if (xh.has_dme2 || marks[HOLD_D2])
+        add_row(HOLD_D2, "DME 2nd Video");
 }
 
 static void name_user()
@@ -134,6 +141,8 @@ static void xpthold_xh_set()
     (void)RegisterKind_Line(kind(), xh.region, xh.no, &line); // an empty one holds nothing
     (void)snapshot_xpthold_set(xh.region, line.xpthold_tly, marks);
     std::copy(std::begin(marks), std::end(marks), written);
+    name_rows();
+    (void)LS_SetNData(LIST, xh.rows);
     for (int row = 0; row < xh.rows; row++)
         show_row(row);
     (void)LS_RedrawData(LIST);
@@ -229,6 +238,38 @@ static int xpthold_redraw()
     return 0;
 }
 
+// --- The two buses that not every system has ---
+
+// The third utility bus has its keys in the eighth row of the panel; a second picture from the
+// effects unit needs keys with two colours.
+static void ask_for_extra_buses()
+{
+    if (xh.region > SS_REGION_PP_SUB)
+        return;
+    Net_SendCommandFormat("read Engineering Setup@Panel@Config@MP2 Main/Sub Assign" EIGHTH_ROW);
+    Net_SendCommandFormat("read %s@Key1" SECOND_COLOR, SnapshotRegion[xh.region].cmd);
+}
+
+static bool ends_with(const char* path, const char* end)
+{
+    const size_t length = strlen(path), end_length = strlen(end);
+    return length >= end_length && Same(path + length - end_length, end);
+}
+
+static int take_tally(const char* path, const char* value)
+{
+    const bool is_row = ends_with(path, EIGHTH_ROW);
+    if (xh.region > SS_REGION_PP_SUB || (!is_row && !ends_with(path, SECOND_COLOR)))
+        return 0;
+    bool& has_bus = is_row ? xh.has_utility3 : xh.has_dme2;
+    const bool is_there = !Same(value, "None") && !Same(value, "Off") && !Same(value, "false");
+    if (has_bus == is_there)
+        return 0;
+    has_bus = is_there;
+    xpthold_xh_set();
+    return 0;
+}
+
 // --- Messages ---
 
 static int register_changed(int changed, int row, int no)
@@ -244,6 +285,7 @@ static int xpthold_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
         return 0;
     switch (msg) {
     case MSG_REDRAW: return xpthold_redraw();
+    case MSG_TALLY: return take_tally(Text(ax), Text(bx));
     case LMSG_BTNSEL: return button_pressed(Text(ax), Text(bx));
     case LMSG_REGISTER: return register_changed(int(ax), int(bx), int(cx));
     case LMSG_PANEQUIT: show_levels(); return 0;
@@ -271,9 +313,8 @@ static int xpthold_create(int on, uint32_t is_router)
     if (PaneRTRLvl_Selected() == 0) // none yet: the keys act on all
         PaneRTRLvl_SetSelect(ALL_LEVELS);
     show_levels();
-    name_rows();
     xpthold_xh_set();
-    (void)LS_SetNData(LIST, xh.rows);
+    ask_for_extra_buses();
     (void)LS_SetNowLine(LIST, 0);
     return 0;
 }

@@ -72,6 +72,8 @@ constexpr auto Effects()
 {
     std::array<EFFREGION, EFF_REGION_MACRO + 2> table{};
     FillCommon(table, side_effect, 0x10, 0x101000);
+    for (size_t i = SS_REGION_USER1; i <= SS_REGION_DME8; i++)
+        table[i].caption = table[i].cmd;
     for (size_t i = 0; i < region_devices.size(); i++)
         table[EFF_REGION_DEV1 + i] = {uint64_t(0x10000000) << i, int(304 + i), region_devices[i],
                                       region_devices[i]};

@@ -152,7 +152,7 @@ class Registers(DeskCase):
         self.press(49, MASTER + "Store/Recall@Recall#4")
         self.assertEqual(self.values(), ["Linear"] * 3)
         self.press(51)  # to the edit page
-        self.desk.touch(110, 112)  # M/E-1
+        self.desk.touch(148, 112)  # M/E-1
         self.desk.console("knob 0 +9")
         time.sleep(0.2)
         self.press(51)
@@ -190,7 +190,7 @@ class Registers(DeskCase):
         self.row(3)
         self.press(50, SHOTBOX + "Store/Recall@Store#3")
         self.press(51)  # to the edit page
-        self.desk.touch(110 + 75, 112)  # M/E-2
+        self.desk.touch(148 + 70, 112)  # M/E-2
         self.press(50)  # a snapshot
         self.press(51)
         self.assertEqual(self.links(53, SHOTBOX + "Store/Recall@Edit@Store#3")[1], "S1")

@@ -75,8 +75,8 @@ TEST_F(SnapshotPictures, TwoLists)
 TEST_F(SnapshotPictures, MasterEdit)
 {
     Open(0x63110001);
-    Touch(102 + 2 * 75 + 10, 112);
-    Touch(102 + 3 * 75 + 10, 112);
+    Touch(138 + 2 * 70 + 10, 112);
+    Touch(138 + 3 * 70 + 10, 112);
     Paint();
     EXPECT_TRUE(MatchesGolden("snapshot_master_edit"));
 }

@@ -5,6 +5,7 @@
 #include "pc_effect.h"
 #include "pc_shotbox.h"
 #include "table_page.h"
+#include "window.h"
 #include <map>
 
 namespace
@@ -147,13 +148,16 @@ TEST_F(EffectPages, AShotboxShowsWhatItLinks)
     link[SS_REGION_USER1] = link[SS_REGION_USER2] = "5";
     link[SS_REGION_DME1] = "2";
     link[SS_REGION_DME2] = "3";
+    link[SS_REGION_ME3_SUB] = "4"; // not what the main side recalls
+    link[SS_REGION_ME1_SUB] = "1";
+    link[SHOTBOX_RTR] = "S8";
     std::string line = "3,INTRO,L,A";
     for (const std::string& one : link)
         line += "," + one;
     Deliver(SHOTS, line);
     Open(0x64110000);
-    const std::vector<std::string> cells = {"INTRO", "L", "On", "1", "S12", "",
-                                            "",      "",  "",   "5", "..."};
+    const std::vector<std::string> cells = {"INTRO", "L", "On",  "1", "S12", "...", "", "",
+                                            "",      "5", "...", "",  "",    "",    "", "S8"};
     for (size_t i = 0; i < cells.size(); i++)
         EXPECT_EQ(Cell(1, 2, int(i) + 1), cells[i]) << i;
     LS_SetNowLine(1, 2);
@@ -164,18 +168,18 @@ TEST_F(EffectPages, AShotboxShowsWhatItLinks)
     EXPECT_THAT(Puts(50), IsEmpty());
 }
 
-// Cells are 75 x 55 from (102, 102).
+// Cells are 70 x 55 from (138, 102).
 TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
 {
     enum : int { SNAPSHOT = 50, ASSIGN = 51, STORE = 53, UNDO = 54 };
     const auto assign = [](int knob, std::vector<std::pair<int, int>> cells) {
         for (const auto& [column, line] : cells)
-            (void)Touch(110 + 75 * column, 110 + 55 * line);
+            (void)Touch(146 + 70 * column, 110 + 55 * line);
         SendMessage(LMSG_KNOBVAR, 1, knob, 0, 0);
         (void)Press(ASSIGN);
         Pass(1000); // the key is up again
         for (const auto& [column, line] : cells)
-            (void)Touch(110 + 75 * column, 110 + 55 * line);
+            (void)Touch(146 + 70 * column, 110 + 55 * line);
     };
     const std::pair<int, int> me1 = {0, 0}, me2 = {1, 0}, rtr = {6, 0}, dev1 = {0, 4};
     const auto links = [](std::map<int, std::string> some, int n) {
@@ -198,9 +202,11 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
     EXPECT_THAT(Puts(UNDO), IsEmpty()); // no line of the server has come: it holds what it held
     Pass(1000);
     Deliver(SHOTS, "1,SHOT1,U,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
+    EXPECT_EQ(CloseWindow(), 0); // it says that this is not what was stored
     EXPECT_THAT(Puts(UNDO), ElementsAre(edit + links({}, REGISTER_LINKS)));
     Pass(1000);
     Deliver(SHOTS, "1,SHOT1,L,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
+    (void)CloseWindow();
     EXPECT_THAT(Puts(STORE), IsEmpty()); // it is locked
     Open(0x62110001);
     assign(3, {me1});
@@ -212,10 +218,14 @@ TEST_F(EffectPages, TheOverviewCopiesEachRegionThatHoldsTheRegister)
 {
     Deliver(EFFECTS + "M/E-1", "7,S,A,U,N,0");
     Deliver(EFFECTS + "GPI", "7,S,B,U,N,0");
+    Deliver(EFFECTS + "DME5", "7,S,B,U,N,0");      // whether a unit for it is there or not
+    Deliver(EFFECTS + "M/E-1 Sub", "7,S,B,U,N,0"); // a side that is not run
+    multiprogram2_me[1] = 0;
     Open(0x62000000);
     SendMessage(LMSG_KNOBVAR, 1, 7, 0, 0);
     EXPECT_THAT(Puts(52), IsEmpty());
     SendMessage(LMSG_KNOBVAR, 1, 9, 0, 0);
     EXPECT_THAT(Puts(53), ElementsAre("put Effect@Effect@Copy/Merge@Copy#M/E-1,7,7,M/E-1,9,false",
+                                      "put Effect@Effect@Copy/Merge@Copy#DME5,7,7,DME5,9,false",
                                       "put Effect@Effect@Copy/Merge@Copy#GPI,7,7,GPI,9,false"));
 }

@@ -293,6 +293,17 @@ TEST_F(RegisterPages, OperationsGoToAllSelectedRegionsInRuns)
     EXPECT_THAT(Answer(), ElementsAre("put Snapshot@Snapshot@Rename#400006,4,FREE"));
 }
 
+TEST_F(RegisterPages, WithoutASwitcherAChannelLeads)
+{
+    SYS_MySwrMax = 0;
+    for (const auto& [chosen, mask] : {std::pair{257, "4000"}, {289, "8000"}}) {
+        Choose(REGKIND_SNAPSHOT, {chosen});
+        Open(0x63220000);
+        EXPECT_THAT(Puts(51),
+                    ElementsAre(std::string("put Snapshot@Snapshot@Lock#") + mask + ",1,1"));
+    }
+}
+
 TEST_F(RegisterPages, RunsKeepTheirGapsAndStayInTheList)
 {
     Choose(REGKIND_SNAPSHOT, {257});
@@ -310,9 +321,11 @@ TEST_F(RegisterPages, RunsKeepTheirGapsAndStayInTheList)
     Cursor(2, 0); // onto itself
     EXPECT_THAT(Puts(49), IsEmpty());
     EXPECT_THAT(Puts(BTN_REGISTER_WO_NAME), IsEmpty());
-    EXPECT_THAT(Tell("Snapshot@Snapshot@Copy@MP2 Auto Correct#true"), IsEmpty());
-    EXPECT_THAT(Puts(BTN_REGISTER_AUTO_CORRECT),
-                ElementsAre("put Snapshot@Snapshot@Copy@MP2 Auto Correct#false"));
+    EXPECT_THAT(Tell("Snapshot@Snapshot@Copy@Direction@Reverse#true"), IsEmpty());
+    for (const char* const on : {"false", "true"}) // kept here: no answer is needed
+        EXPECT_THAT(Puts(BTN_REGISTER_AUTO_CORRECT),
+                    ElementsAre(std::string("put Snapshot@Snapshot@Copy@Direction@Reverse#") + on));
+    EXPECT_EQ(BT_GetStatus(BTN_REGISTER_AUTO_CORRECT), BT_ON);
 }
 
 TEST_F(RegisterPages, OneRegionMayGoToAnotherOfItsSort)
@@ -380,6 +393,30 @@ TEST_F(RegisterPages, TheHoldPageWritesWhatItsRowsSay)
     }
 }
 
+TEST_F(RegisterPages, AnExtraBusIsListedWhereItExistsOrIsHeld)
+{
+    const std::string row = "Engineering Setup@Panel@Config@MP2 Main/Sub Assign@Main/Sub Assign@"
+                            "8th Row#";
+    const std::string color = "M/E-1@Key1@Type@Matte Adjust@Color 2#";
+    Store("M/E-1", 1, "A,S,,n,n,n");
+    EXPECT_THAT(Open(PAGE_SNAPSHOT_XPTHOLD), Contains("read " + color.substr(0, color.size() - 1)));
+    const auto last_rows = [] { return Cell(1, 12, 0) + "," + Cell(1, 13, 0); };
+    EXPECT_EQ(LS_GetNData(1), HOLD_ME_MARKS);
+    EXPECT_EQ(last_rows(), "Util 3,DME 2nd Video");
+    (void)Tell(row + "None");
+    EXPECT_EQ(LS_GetNData(1), HOLD_ME_MARKS - 1);
+    EXPECT_EQ(Cell(1, 12, 0), "DME 2nd Video");
+    Cursor(1, 12);
+    EXPECT_THAT(Puts(49), ElementsAre("put " + LIST + "Xpt Hold#2,1,1,D2"));
+    Store("M/E-1", 1, "A,S,D2,n,n,n");
+    (void)Tell(color + "None");
+    EXPECT_EQ(LS_GetNData(1), HOLD_ME_MARKS - 1) << "what is held can be released";
+    Store("M/E-1", 1, "A,S,,n,n,n");
+    EXPECT_EQ(LS_GetNData(1), HOLD_ME_MARKS - 2);
+    (void)Tell(row + "Main");
+    EXPECT_EQ(Cell(1, 12, 0), "Util 3");
+}
+
 // The second touch comes before the server's line of the first.
 TEST_F(RegisterPages, QuickTouchesDoNotTakeEachOtherBack)
 {
@@ -409,11 +446,28 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     Cursor(1, 2);
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY),
                 ElementsAre("put Snapshot@Snapshot@Clip Event@User2@FM3@AutoPlay#9,OFF"));
-    (void)Tell("Frame Mem 2@Clip/Still@Output Status@FM3#5");
-    EXPECT_EQ(Cell(1, 2, 6), "Play");
-    (void)Tell("Frame Mem 2@Clip/Still@Output Status@FM3#x");
-    (void)Tell("Frame Mem 2@Clip/Still@Output Status@FM99#5");
-    EXPECT_EQ(Cell(1, 2, 6), "");
+    static const struct {
+        const char *told, *shown;
+    } outputs[] = {
+        {"FM3#2,/NEWS/OPENING.SFH", "OPENING"},
+        {"FM3#x", "OPENING"},
+        {"FM3#9,/A.SFH", "OPENING"},
+        {"FM99#0,", "OPENING"},
+        {"FM3#1,", "Through"},
+        {"FM3#0,", "Black"},
+        {"FM3#2,", ""},
+    };
+    for (const auto& o : outputs) {
+        (void)Tell(std::string("Frame Mem 2@Clip/Still@Output Status@") + o.told);
+        EXPECT_EQ(Cell(1, 2, 6), o.shown) << o.told;
+    }
+    const std::string config = "Engineering Setup@Switcher@Config@User1-8 Config@User";
+    (void)Tell(config + "2#Aux1,FM30,FM4"); // the third output is another user's
+    (void)Tell(config + "1#FM3");
+    EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), IsEmpty());
+    EXPECT_EQ(LS_GetStatus(1, 2, 0), 1);
+    (void)Tell(config + "2#FM3");
+    EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), testing::SizeIs(1));
     Cursor(1, 3); // no clip there
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), IsEmpty());
 }
@@ -469,12 +523,22 @@ TEST_F(RegisterPages, AMasterIsEditedStoredAndUndone)
     };
     (void)Tell(master + "U,7,8" + none);
     Open(0x63110001);
-    Touch(102 + 75 + 10, 102 + 10); // M/E-2
+    Touch(138 + 70 + 10, 102 + 10); // M/E-2
     SendMessage(LMSG_KNOBVAR, 1, 42, 0, 0);
     EXPECT_THAT(Puts(51), IsEmpty());
     EXPECT_THAT(Puts(53), ElementsAre(store + ",7,42" + zeros(27)));
     (void)Tell(master + "U,7,42" + none);
     EXPECT_THAT(Puts(54), ElementsAre(store + ",7,8" + zeros(27)));
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
+    (void)Tell(master + "U,7,42" + none); // the server has kept something else
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    (void)CloseWindow();
+    (void)Puts(54);
+    Pass(2900);
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
+    Pass(200); // nothing has come of it
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    (void)CloseWindow();
     EXPECT_THAT(Puts(52), ElementsAre("put Snapshot@Master Snapshot@Store/Recall@Edit@Recall#1"));
     (void)Tell(master + "L,7,8" + none);
     EXPECT_THAT(Puts(53), IsEmpty());
