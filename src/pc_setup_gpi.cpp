@@ -18,40 +18,19 @@ static constexpr int KEY_ROW_3 = 4; // number of the row that key 3 shares
 // Key rows of a bank, numbered from 1; what shares the third with key 3 depends on the keys.
 static constexpr const char* bus_rows[BUS_ROWS] = {"Bkgd", "Key1", "Key2", nullptr};
 
-static constexpr SETUPWORD regions[] = {{"M/E-1", "M/E-1"},
-                                        {"M/E-2", "M/E-2"},
-                                        {"M/E-3", "M/E-3"},
-                                        {"M/E-4", "M/E-4"},
-                                        {"M/E-5", "M/E-5"},
-                                        {"P/P", "P/P"},
-                                        {"User1", "User1"},
-                                        {"User2", "User2"},
-                                        {"User3", "User3"},
-                                        {"User4", "User4"},
-                                        {"User5", "User5"},
-                                        {"User6", "User6"},
-                                        {"User7", "User7"},
-                                        {"User8", "User8"},
-                                        {"DME1", "DME1"},
-                                        {"DME2", "DME2"},
-                                        {"DME3", "DME3"},
-                                        {"DME4", "DME4"},
-                                        {"DME5", "DME5"},
-                                        {"DME6", "DME6"},
-                                        {"DME7", "DME7"},
-                                        {"DME8", "DME8"},
-                                        {"P-Bus", "P-Bus"},
-                                        {"Master", "Master"},
-                                        {}};
+static constexpr const char* regions[] = {
+    "M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P",   "User1", "User2",
+    "User3", "User4", "User5", "User6", "User7", "User8", "DME1",  "DME2",
+    "DME3",  "DME4",  "DME5",  "DME6",  "DME7",  "DME8",  "P-Bus", "Master",
+};
 
 static constexpr int TARGETS = int(std::size(banks)) * KEYS;
 
 static struct {
     const SETUPSHEET* sheet = nullptr; // while the page is open
     const SETUPTABLE* table = nullptr;
-    bool has_preview = false; // key 3 shares its row with the key preview
-    char name[TARGETS][SHEET_TEXT] = {};
-    SETUPWORD target[TARGETS + 1] = {}; // the choices that are offered
+    bool has_preview = false;            // key 3 shares its row with the key preview
+    char name[TARGETS][SHEET_TEXT] = {}; // the targets that are offered
 } gp;
 
 static int action_column()
@@ -125,28 +104,27 @@ static void find_target(int where, const char* text, int* bank, int* number)
     *number = 1;
 }
 
-static const SETUPWORD* targets_of(int where)
+static int targets_of(int where, const char** texts, int max)
 {
-    static constexpr SETUPWORD none[] = {{}};
-    if (where == GPI_REGION)
-        return regions;
-    if (where == GPI_NOWHERE)
-        return none;
     int n = 0;
-    for (int number = 1; number <= numbers_of(where); number++)
-        for (int bank = 0; bank < int(std::size(banks)); bank++, n++) {
-            name_target(where, bank, number, gp.name[n]);
-            gp.target[n] = {gp.name[n], gp.name[n]};
-        }
-    gp.target[n] = {};
-    return gp.target;
+    if (where == GPI_REGION)
+        for (const char* region : regions)
+            if (n < max)
+                texts[n++] = region;
+    if (where == GPI_BANK || where == GPI_BUS || where == GPI_KEY)
+        for (int bank = 0; bank < int(std::size(banks)); bank++)
+            for (int number = 1; number <= numbers_of(where) && n < max; number++, n++) {
+                name_target(where, bank, number, gp.name[n]);
+                texts[n] = gp.name[n];
+            }
+    return n;
 }
 
-int SetupGpi_Choices(int column, const SETUPWORD** words)
+int SetupGpi_Offer(int column, const char** texts, int max)
 {
-    if (gp.sheet && column == action_column() + 1)
-        *words = targets_of(where_of(SetupSheet_Now(*gp.table, action_column())));
-    return 0;
+    if (!gp.sheet || column != action_column() + 1)
+        return -1;
+    return targets_of(where_of(SetupSheet_Now(*gp.table, action_column())), texts, max);
 }
 
 // --- What the server tells ---
@@ -261,13 +239,14 @@ static void complete_row(int row)
     const int first = action_column();
     const SETUPTABLE& t = *gp.table;
     const auto& action = gpi_action_rows[action_of(SetupPage_Text(t, row, first))];
-    const SETUPWORD* const words = targets_of(action.where);
+    const char* targets[SETUP_OFFER];
+    const int n = targets_of(action.where, targets, SETUP_OFFER);
     const char* const target = SetupPage_Text(t, row, first + 1);
-    bool is_one = !words->wire && !*target;
-    for (const SETUPWORD* w = words; w->wire; w++)
-        is_one |= Same(w->text, target);
+    bool is_one = n == 0 && !*target;
+    for (int i = 0; i < n; i++)
+        is_one |= Same(targets[i], target);
     if (!is_one)
-        SetupPage_Set(t, row, first + 1, words->wire ? words->text : "");
+        SetupPage_Set(t, row, first + 1, n > 0 ? targets[0] : "");
     const char* const reg = SetupPage_Text(t, row, first + 2);
     if ((action.has_register != 0) != (*reg != '\0'))
         SetupPage_Set(t, row, first + 2, action.has_register ? "1" : "");

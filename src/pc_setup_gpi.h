@@ -14,7 +14,7 @@
 // The columns, in this order; the last three are an action's and the page code's.
 void SetupGpi_FromHex(const char* value, const char* now, char* text, size_t size);
 void SetupGpi_ToHex(const char* text, char* value, size_t size);
-int SetupGpi_Choices(int column, const SETUPWORD** words);
+int SetupGpi_Offer(int column, const char** texts, int max);
 
 constexpr int GPI_ACTION_COLUMNS = 3;
 constexpr int GPI_REGISTERS = 99;
@@ -136,7 +136,7 @@ constexpr SETUPSHEET SetupGpi_Output(int ports)
             .key_width = 46,
             .more = gpi_output_keys,
             .more_count = 1,
-            .choices = SetupGpi_Choices};
+            .offer = SetupGpi_Offer};
 }
 // more: further keys of the page, such as that of the levels' page.
 constexpr SETUPSHEET SetupGpi_Input(int ports, const BT_TBL* more = nullptr, int more_count = 0)
@@ -148,7 +148,7 @@ constexpr SETUPSHEET SetupGpi_Input(int ports, const BT_TBL* more = nullptr, int
             .key_width = 46,
             .more = more,
             .more_count = more_count,
-            .choices = SetupGpi_Choices};
+            .offer = SetupGpi_Offer};
 }
 
 // --- Inputs whose level, high or low, chooses between two states ---

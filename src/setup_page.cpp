@@ -603,15 +603,31 @@ static void set_selected(const SETUPTABLE& t, const SETUPCHOICE& c, const char* 
     SetupPage_Show(t);
 }
 
+// A text of a cell of the popup: what is too long for a line breaks at a blank.
+static const char* cell_caption(const char* text, char (&caption)[SETUP_TEXT])
+{
+    constexpr int line = 9; // letters
+    CopyText(caption, text);
+    for (int i = line; strlen(caption) > size_t(line) && i > 0; i--)
+        if (caption[i] == ' ') {
+            caption[i] = '\n';
+            break;
+        }
+    return caption;
+}
+
 static void open_popup(const SETUPTABLE& t, const SETUPCHOICE& c)
 {
+    static char captions[SETUP_OFFER][SETUP_TEXT]; // live as long as the popup
     const char* texts[SETUP_OFFER];
     BTNSEL cells[SETUP_OFFER] = {}; // a last row that is not full ends in empty ones
     const int n = std::min(c.offer(texts, SETUP_OFFER), SETUP_OFFER);
     const int columns = n <= 12 ? 3 : n <= 24 ? 4 : 8;
     const char* const now = SetupPage_Text(t, t.state->cursor, c.field);
+    if (n == 0)
+        return;
     for (int i = 0; i < n; i++)
-        cells[i] = {i + 1, texts[i], strcmp(texts[i], now) == 0};
+        cells[i] = {i + 1, cell_caption(texts[i], captions[i]), strcmp(texts[i], now) == 0};
     t.state->asked = int(&c - t.choices);
     t.state->popup = PanePopup_Create((n + columns - 1) / columns, columns, cells);
 }

@@ -14,6 +14,7 @@
 #include "page_table/rows.h"
 #include "setup_page.h"
 #include "types.h"
+#include <utility>
 
 constexpr int SHEET_TEXT = 24;   // of a cell with its terminator
 constexpr int SHEET_COLUMNS = 9; // at most, beside the column of the keys
@@ -50,7 +51,8 @@ struct SETUPSHEET {
     const char* question = nullptr; // of Execute
     const BT_TBL* more = nullptr;   // further keys, of ids that the columns leave free
     int more_count = 0;
-    int (*choices)(int column, const SETUPWORD** words) = nullptr; // those of the moment; null: all
+    // The choices of a column at the moment, at most max: how many; -1: its words.
+    int (*offer)(int column, const char** texts, int max) = nullptr;
     void (*changed)() = nullptr; // the cells or the current row may be others now
 };
 
@@ -58,12 +60,12 @@ struct SETUPSHEET {
 int SetupSheet_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
 // Open the page; the same with on 0 leaves it.
 int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
-// Give a text to a column of every selected row; a direct sheet sends it.
-void SetupSheet_Choose(const SETUPSHEET& s, const SETUPTABLE& t, int column, const char* text);
-// Knobs of the current row: values, limits as given here (box from 1) or by the columns.
-void SetupSheet_ShowBoxes(const SETUPSHEET& s, const SETUPTABLE& t);
 // The keys of numbered rows: "1", "2"... Returns how many.
 int SetupSheet_Numbers(const char** keys, int rows);
+// The choices of a column at the moment. Returns how many.
+int SetupSheet_Offer(const SETUPSHEET& s, int column, const char** texts, int max);
+// The cells or the current row may be others now: a direct sheet sends what is in hand.
+void SetupSheet_Changed(const SETUPSHEET& s, const SETUPTABLE& t);
 
 // The text of a cell of the current row.
 inline const char* SetupSheet_Now(const SETUPTABLE& t, int column)
@@ -129,7 +131,7 @@ struct SheetListRows {
 struct SheetFields {
     SETUPFIELD field[SHEET_COLUMNS + 1];
     SETUPCHOICE choice[SHEET_COLUMNS];
-    int choices = 0;
+    int choices = 0; // in use
 };
 
 constexpr SheetTexts MakeSheetTexts(const SETUPSHEET& s)
@@ -253,10 +255,23 @@ constexpr SheetListRows MakeSheetList(const SETUPSHEET& s)
     return rows;
 }
 
-constexpr SheetFields MakeSheetFields(const SETUPSHEET& s, const SheetTexts& texts)
+template <const SETUPSHEET& s, int column> int SheetOffer(const char** texts, int max)
+{
+    return SetupSheet_Offer(s, column, texts, max);
+}
+using SheetOfferFunc = int (*)(const char** texts, int max);
+template <const SETUPSHEET& s, int... column>
+constexpr SheetOfferFunc SheetOfferOf(int wanted, std::integer_sequence<int, column...>)
+{
+    constexpr SheetOfferFunc offers[] = {SheetOffer<s, column>...};
+    return offers[wanted];
+}
+
+template <const SETUPSHEET& s> constexpr SheetFields MakeSheetFields(const SheetTexts& texts)
 {
     SheetFields f;
     int column = 1;
+    int box = 1;
     for (int i = 0; i < s.column_count; i++) {
         const SETUPCOLUMN& c = s.columns[i];
         f.field[i] = {.offset = size_t(i + 1) * SHEET_TEXT,
@@ -268,8 +283,16 @@ constexpr SheetFields MakeSheetFields(const SETUPSHEET& s, const SheetTexts& tex
                       .words = c.words,
                       .from_wire = c.from_wire,
                       .to_wire = c.to_wire};
-        if (SheetKeys(c) > 1)
-            f.choice[f.choices++] = {texts.column[i].text, i};
+        const bool is_asked = SheetKeys(c) == 1 && !c.name;
+        if (IsSheetNumber(c))
+            f.choice[f.choices++] = {.field = i, .box = box++};
+        else if (SheetKeys(c) > 1)
+            f.choice[f.choices++] = {.cmd = texts.column[i].text, .field = i};
+        else if (is_asked)
+            f.choice[f.choices++] = {
+                .cmd = texts.column[i].text,
+                .field = i,
+                .offer = SheetOfferOf<s>(i, std::make_integer_sequence<int, SHEET_COLUMNS>())};
     }
     f.field[s.column_count] = {.size = SHEET_TEXT, .column = 0};
     return f;
@@ -310,7 +333,7 @@ inline constexpr SheetKeyRows sheet_keys = MakeSheetKeys(s, sheet_texts<s>);
 template <const SETUPSHEET& s> inline constexpr SheetBoxRows sheet_boxes = MakeSheetBoxes(s);
 template <const SETUPSHEET& s> inline constexpr SheetListRows sheet_list = MakeSheetList(s);
 template <const SETUPSHEET& s>
-inline constexpr SheetFields sheet_fields = MakeSheetFields(s, sheet_texts<s>);
+inline constexpr SheetFields sheet_fields = MakeSheetFields<s>(sheet_texts<s>);
 
 template <const SETUPSHEET& s> int SheetRowKeys(const char** keys, int max)
 {
@@ -341,16 +364,14 @@ inline constexpr SETUPTABLE SetupSheet_Table = {
     .clear = SHEET_CLEAR,
     .execute = SHEET_EXECUTE,
     .question = s.question,
-    .choices = s.is_direct ? nullptr : sheet_fields<s>.choice,
-    .choice_count = s.is_direct ? 0 : sheet_fields<s>.choices,
+    .choices = sheet_fields<s>.choice,
+    .choice_count = sheet_fields<s>.choices,
     .changed = SheetChanged<s>,
 };
 
 template <const SETUPSHEET& s> void SheetChanged()
 {
-    SetupSheet_ShowBoxes(s, SetupSheet_Table<s>);
-    if (s.changed)
-        s.changed();
+    SetupSheet_Changed(s, SetupSheet_Table<s>);
 }
 
 template <const SETUPSHEET& s> int SetupSheet_CreateOf(int on, uint32_t)

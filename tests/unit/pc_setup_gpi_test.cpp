@@ -62,14 +62,14 @@ TEST_F(Gpi, ExecuteSendsWhatHasChangedInTheFormOfItsAction)
     OpenOutput();
     SelectRow(0);
     Choose(KEY_TRIGGER, 4);
-    SendMessage(LMSG_KNOBVAR, 2, 300, 0, 0);
+    SendMessage(LMSG_KNOBVAR, 2, 255, 0, 0);
     Choose(KEY_ACTION, 12); // a snapshot takes a region and a register
     EXPECT_EQ(Row(0, 7), "1|Any Edge*|2|255*|Snapshot Recall*|M/E-1*|1*");
     SendMessage(LMSG_KNOBVAR, 3, 7, 0, 0);
     Choose(KEY_TARGET, 7);
     SelectRow(1);
     Choose(KEY_ACTION, 6); // key on: its first key, no register
-    Choose(KEY_TARGET, 6 * 7 + 2);
+    Choose(KEY_TARGET, 8 * 1 + 8);
     SelectRow(2);
     Choose(KEY_ACTION, 14);
     EXPECT_THAT(Push(BTN_SHEET_EXECUTE),
