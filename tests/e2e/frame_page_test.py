@@ -145,6 +145,38 @@ class FramePages(DeskCase):
         self.yes()
         self.wait_line("put Frame Mem@Folder@Delete#3")
 
+    def wait_hub(self, text, timeout=20.0):
+        """A line of the hub's link: it goes at its own pace."""
+        end = time.monotonic() + timeout
+        while time.monotonic() < end:
+            with open(self.desk.sim_log, errors="replace", encoding="utf-8") as log:
+                if text in log.read():
+                    return
+            time.sleep(0.1)
+        self.fail(f"the hub did not say {text!r}")
+
+    def test_6_a_clip_goes_out_and_comes_back_into_another_folder(self):
+        self.wait_hub("InitRead#CS1.ClipStoreFile")
+        self.desk.console("clip make NEWS/SHOW 3")
+        self.show(7162)
+        self.touch(540, 478)
+        self.popup(3, 4)  # PNG
+        self.wait_line("put File@Access@Find#")
+        for _ in ("NEWS", "SHOW"):
+            self.touch(170, 124 + ROW + 10)
+            time.sleep(0.3)
+        self.touch(290, 478)
+        self.settle("put File@Access@Find#", 15)  # the job has ended
+        for frame in range(3):
+            with open(self.path(f"mnt/usb/usb1/SYSTEM/SHOW#{frame:06d}.PNG"), "rb") as file:
+                self.assertEqual(file.read(8), b"\x89PNG\r\n\x1a\n")
+        self.touch(150, 98)
+        self.touch(180, 150)  # Root
+        time.sleep(0.3)
+        self.touch(470, 124 + ROW + 10)
+        self.touch(400, 478)
+        self.wait_hub("Insert#CS1.ClipStoreFile:root/SHOW.SFH:3,")
+
 
 if __name__ == "__main__":
     unittest.main()
