@@ -28,8 +28,18 @@ extern const PC_TBL pc_engsetup_switcher_config_3dconfig_inputlink;
 extern const PC_TBL pc_engsetup_switcher_config_3dconfig_fmoutputlink;
 enum : int { BTN_SWR_DMECONFIG = 51 }; // leads to a page that not every installation has
 
+// --- pc_engsetup_swr_trans ---
+extern const PC_TBL pc_engsetup_switcher_transition;
+extern const PC_TBL pc_engsetup_switcher_transition_presetcolormix;
+extern const PC_TBL pc_engsetup_switcher_transition_transitioncurve;
+extern const PC_TBL pc_engsetup_switcher_keywipe;
+extern const PC_TBL pc_engsetup_switcher_keywipe_ccrvproc;
+extern const PC_TBL pc_engsetup_switcher_keywipefm_dskautodrop;
+extern const PC_TBL pc_engsetup_switcher_keywipefm_showkey;
+
 // As at process start; for tests.
 void EngSetupSwitcher_Reset();
+void EngSetupSwitcherTrans_Reset();
 
 // --- What the tables of the group are made of ---
 

@@ -3,6 +3,7 @@
 #include "a_ls.h"
 #include "bus.h"
 #include "device.h"
+#include "global.h"
 #include "message.h"
 #include "page.h"
 #include "pc_engsetup_swr.h"

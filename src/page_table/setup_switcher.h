@@ -1,6 +1,7 @@
-// setup_switcher: the Switcher group of engineering setup: Config.
+// setup_switcher: the Switcher group of engineering setup: Config, Transition, Key/Wipe/FM/CCR and Link.
 #pragma once
 #include "pc_engsetup_swr.h"
+#include "pc_setup_curve.h"
 #include "rows.h"
 #include "setup_system.h"
 #include "setup_tabs.h"
@@ -283,6 +284,191 @@ static_assert(ListsAreSound(ls_engsetup_switcher_config_3dconfig_fmoutputlink));
 #undef CONFIG
 #undef TO_CONFIG
 
+// --- Transition ---
+
+#define TRANSITION(word) SWR_LOCAL("Transition@" word)
+#define TO_TRANSITION Jump({.id = 49, .caption = "Transition", .cmd = {"#73340000"}})
+
+inline constexpr NB_TBL nb_engsetup_switcher_transition[] = {
+    {.id = 1, .caption = "Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_engsetup_switcher_transition));
+
+inline constexpr BT_TBL bt_engsetup_switcher_transition[] = {
+    Radio( {.id = 33, .caption = "Common", .group = "Key Transition", .cmd = TRANSITION("Key Transition#Common")}),
+    Radio( {.id = 34, .caption = "Indepen-\ndent", .group = "Key Transition", .cmd = TRANSITION("Key Transition#Independent")}),
+    Toggle({.id = 35, .caption = "Bus\nToggle", .cmd = TRANSITION("Bus Toggle#On")}),
+    Toggle({.id = 36, .caption = "Split\nFader", .cmd = TRANSITION("Split Fader#On")}),
+    Knobs( {.id = 37, .caption = "Default\nRate", .cmd = TRANSITION("Default Rate"), .nb = nb_engsetup_switcher_transition}),
+    Jump(  {.id = 49, .caption = "Preset\nColor Mix", .cmd = {"#73340001"}}),
+    Jump(  {.id = 50, .caption = "Transition\nCurve", .cmd = {"#73340002"}}),
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_transition));
+
+inline constexpr LS_TBL ls_engsetup_switcher_transition[] = {
+    SwrList({.hn = 5, .head = {"M/E", "Key Transition", "Bus Toggle", "Split Fader", "Default Rate"}, .width = {90, 130, 110, 110, 110}, .group = {1, 1, 2, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_transition));
+
+inline constexpr BT_TBL bt_engsetup_switcher_transition_presetcolormix[] = {
+    Radio(    {.id = 33, .caption = "1 Stroke", .group = "Stroke", .cmd = TRANSITION("Preset Color Mix@Stroke#1 Stroke")}),
+    Radio(    {.id = 34, .caption = "2 Strokes", .group = "Stroke", .cmd = TRANSITION("Preset Color Mix@Stroke#2 Strokes")}),
+    Radio(    {.id = 35, .caption = "Mix", .group = "Pattern", .cmd = TRANSITION("Preset Color Mix@Pattern#Mix")}),
+    Radio(    {.id = 36, .caption = "Wipe", .group = "Pattern", .cmd = TRANSITION("Preset Color Mix@Pattern#Wipe")}),
+    JumpPopUp({.id = 37, .caption = "Fill", .cmd = TRANSITION("Preset Color Mix@Fill")}),
+    TO_TRANSITION,
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_transition_presetcolormix));
+
+inline constexpr LS_TBL ls_engsetup_switcher_transition_presetcolormix[] = {
+    SwrList({.hn = 4, .head = {"M/E", "Stroke", "Pattern", "Fill"}, .width = {100, 150, 150, 150}, .group = {1, 2, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_transition_presetcolormix));
+
+inline constexpr BT_TBL bt_engsetup_switcher_transition_transitioncurve[] = {
+    JumpPopUp({.id = 33, .caption = "Mix", .group = "Curve", .cmd = TRANSITION("Transition Curve@Mix")}),
+    JumpPopUp({.id = 34, .caption = "Wipe", .group = "Curve", .cmd = TRANSITION("Transition Curve@Wipe")}),
+    JumpPopUp({.id = 35, .caption = "DME Wipe", .group = "Curve", .cmd = TRANSITION("Transition Curve@DME Wipe")}),
+    TO_TRANSITION,
+    Jump(     {.id = 50, .caption = "Fader\nCurve", .cmd = {"#73340003"}}),
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_transition_transitioncurve));
+
+inline constexpr LS_TBL ls_engsetup_switcher_transition_transitioncurve[] = {
+    SwrList({.hn = 4, .head = {"M/E", "Mix", "Wipe", "DME Wipe"}, .width = {100, 150, 150, 150}, .group = {1, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_transition_transitioncurve));
+
+// What the transition shows at a place of the fader, both in per cent.
+#define CURVE_POINT(n, at, knob) {.id = n, .caption = at, .type = NB_INT, .min = 0, .max = 100, .cmd = "LOCAL@Panel@Common@Knob" knob, .scale = 4}
+inline constexpr NB_TBL nb_engsetup_switcher_fadercurve[] = {
+    CURVE_POINT(1, "At 10%", "0"), CURVE_POINT(2, "At 25%", "1"), CURVE_POINT(3, "At 50%", "2"), CURVE_POINT(4, "At 75%", "3"), CURVE_POINT(5, "At 90%", "4"),
+    NB_END,
+};
+#undef CURVE_POINT
+static_assert(BoxesAreSound(nb_engsetup_switcher_fadercurve));
+
+inline constexpr BT_TBL bt_engsetup_switcher_transition_transitioncurve_fadercurve[] = {
+    Knobs( {.id = BTN_CURVE_POINTS, .caption = "Points", .cmd = TRANSITION("Transition Curve@Fader Curve@Points"), .nb = nb_engsetup_switcher_fadercurve}),
+    Action({.id = 34, .caption = "Linear", .group = "Preset", .cmd = TRANSITION("Transition Curve@Fader Curve@Preset#Linear")}),
+    Action({.id = 35, .caption = "S Curve", .group = "Preset", .cmd = TRANSITION("Transition Curve@Fader Curve@Preset#S Curve")}),
+    Action({.id = 36, .caption = "Slow\nStart", .group = "Preset", .cmd = TRANSITION("Transition Curve@Fader Curve@Preset#Slow Start")}),
+    Action({.id = 37, .caption = "Slow\nEnd", .group = "Preset", .cmd = TRANSITION("Transition Curve@Fader Curve@Preset#Slow End")}),
+    Jump(  {.id = 49, .caption = "Transition\nCurve", .cmd = {"#73340002"}}),
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_transition_transitioncurve_fadercurve));
+
+// The plot stands at its right.
+inline constexpr LS_TBL ls_engsetup_switcher_transition_transitioncurve_fadercurve[] = {
+    SwrList({.hn = 6, .vn = 8, .head = {"Curve", "10%", "25%", "50%", "75%", "90%"}, .width = {70, 42, 42, 42, 42, 42}, .group = {1, 999}, .block = 1}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_transition_transitioncurve_fadercurve));
+#undef TRANSITION
+#undef TO_TRANSITION
+
+// --- Key/Wipe/FM/CCR ---
+
+#define KEY(word) SWR_LOCAL("Key/Wipe/FM/CCR@" word)
+#define TO_KEY Jump({.id = 49, .caption = "Key/Wipe\nFM/CCR", .cmd = {"#73350000"}})
+
+inline constexpr NB_TBL nb_engsetup_switcher_keywipe[] = {
+    {.id = 1, .caption = "Delay", .type = NB_INT, .min = -8, .max = 8, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_engsetup_switcher_keywipe));
+
+inline constexpr BT_TBL bt_engsetup_switcher_keywipe[] = {
+    Radio( {.id = 33, .caption = "16:9", .group = "Wipe Aspect", .cmd = KEY("Wipe Aspect#16:9")}),
+    Radio( {.id = 34, .caption = "4:3", .group = "Wipe Aspect", .cmd = KEY("Wipe Aspect#4:3")}),
+    Knobs( {.id = 35, .caption = "Key\nDelay", .cmd = KEY("Key Delay"), .nb = nb_engsetup_switcher_keywipe}),
+    // Followed all the time: the page must not end that.
+    Toggle({.id = 37, .caption = "FM Auto\nStore", .cmd = {SWR "Key/Wipe@FM Auto Store#*"}, .no_add = 1}),
+    Toggle({.id = 38, .caption = "CCR\nInternal\nSignal", .cmd = {SWR "Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl#*"}, .no_add = 1}),
+    Jump(  {.id = 49, .caption = "CCR\nV Proc", .cmd = {"#73350001"}}),
+    Jump(  {.id = 50, .caption = "DSK\nAuto Drop", .cmd = {"#73350002"}}),
+    Jump(  {.id = 51, .caption = "Show Key", .cmd = {"#73350003"}}),
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipe));
+
+inline constexpr LS_TBL ls_engsetup_switcher_keywipe[] = {
+    SwrList({.hn = 3, .head = {"M/E", "Wipe Aspect", "Key Delay"}, .width = {110, 220, 220}, .group = {1, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_keywipe));
+
+inline constexpr NB_TBL nb_engsetup_switcher_keywipe_ccrvproc[] = {
+    {.id = 1, .caption = "Luminance", .type = NB_INT, .min = 0, .max = 200, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
+    {.id = 2, .caption = "Chroma",    .type = NB_INT, .min = 0, .max = 200, .cmd = "LOCAL@Panel@Common@Knob1", .scale = 4},
+    {.id = 3, .caption = "Hue",       .type = NB_INT, .min = -180, .max = 180, .cmd = "LOCAL@Panel@Common@Knob2", .scale = 4},
+    {.id = 4, .caption = "Black",     .type = NB_INT, .min = -50, .max = 50, .cmd = "LOCAL@Panel@Common@Knob3", .scale = 4},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_engsetup_switcher_keywipe_ccrvproc));
+
+inline constexpr BT_TBL bt_engsetup_switcher_keywipe_ccrvproc[] = {
+    Knobs( {.id = 33, .caption = "Adjust", .cmd = KEY("CCR V Proc@Adjust"), .nb = nb_engsetup_switcher_keywipe_ccrvproc}),
+    Toggle({.id = 34, .caption = "V Proc", .cmd = KEY("CCR V Proc@V Proc#On")}),
+    TO_KEY,
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipe_ccrvproc));
+
+inline constexpr LS_TBL ls_engsetup_switcher_keywipe_ccrvproc[] = {
+    SwrList({.hn = 6, .head = {"CCR", "V Proc", "Luminance", "Chroma", "Hue", "Black"}, .width = {75, 95, 95, 95, 95, 95}, .group = {1, 1, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_keywipe_ccrvproc));
+
+inline constexpr BT_TBL bt_engsetup_switcher_keywipefm_dskautodrop[] = {
+    Toggle({.id = 33, .caption = "Auto Drop", .cmd = KEY("DSK Auto Drop@Auto Drop#On")}),
+    Radio( {.id = 34, .caption = "Cut", .group = "Mode", .cmd = KEY("DSK Auto Drop@Mode#Cut")}),
+    Radio( {.id = 35, .caption = "Auto\nTrans", .group = "Mode", .cmd = KEY("DSK Auto Drop@Mode#Auto Trans")}),
+    TO_KEY,
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipefm_dskautodrop));
+
+inline constexpr LS_TBL ls_engsetup_switcher_keywipefm_dskautodrop[] = {
+    SwrList({.hn = 3, .head = {"DSK", "Auto Drop", "Mode"}, .width = {110, 220, 220}, .group = {1, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_keywipefm_dskautodrop));
+
+inline constexpr BT_TBL bt_engsetup_switcher_keywipefm_showkey[] = {
+    JumpPopUp({.id = 33, .caption = "Output", .cmd = KEY("Show Key@Output")}),
+    Radio(    {.id = 34, .caption = "Hold", .group = "Mode", .cmd = KEY("Show Key@Mode#Hold")}),
+    Radio(    {.id = 35, .caption = "Latch", .group = "Mode", .cmd = KEY("Show Key@Mode#Latch")}),
+    TO_KEY,
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipefm_showkey));
+
+inline constexpr LS_TBL ls_engsetup_switcher_keywipefm_showkey[] = {
+    SwrList({.hn = 3, .head = {"M/E", "Output", "Mode"}, .width = {110, 220, 220}, .group = {1, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_keywipefm_showkey));
+#undef KEY
+#undef TO_KEY
+
 #define TABS(n) Base(base_main), LeftTabs(vf_setup, 3), BottomTabs(hf_setup_switcher, n)
 #define TREE(...) {"Engineering Setup", "Switcher", __VA_ARGS__}
 // What makes a page: keys, list and code by one name.
@@ -306,6 +492,14 @@ inline constexpr PAGE setup_switcher_pages[] = {
     {.id = 0x73310012, .tree = TREE("Config", "3D Config", "Input Link"), .obj = OBJECTS(1, config_3dconfig_inputlink)},
     {.id = 0x73310013, .tree = TREE("Config", "3D Config", "FM Output Link"), .obj = OBJECTS(1, config_3dconfig_fmoutputlink)},
     {.id = 0x73310015, .tree = TREE("Config", "DME Config"), .obj = OBJECTS(1, config_dmeconfig)},
+    {.id = 0x73340000, .tree = TREE("Transition"), .obj = OBJECTS_KNOBS(4, transition), .knobassign = 37},
+    {.id = 0x73340001, .tree = TREE("Transition", "Preset Color Mix"), .obj = OBJECTS(4, transition_presetcolormix)},
+    {.id = 0x73340002, .tree = TREE("Transition", "Transition Curve"), .obj = OBJECTS(4, transition_transitioncurve)},
+    {.id = 0x73340003, .tree = TREE("Transition", "Transition Curve", "Fader Curve"), .obj = OBJECTS_KNOBS(4, transition_transitioncurve_fadercurve), .knobassign = BTN_CURVE_POINTS},
+    {.id = 0x73350000, .tree = TREE("Key/Wipe/FM/CCR"), .obj = OBJECTS_KNOBS(5, keywipe), .knobassign = 35},
+    {.id = 0x73350001, .tree = TREE("Key/Wipe/FM/CCR", "CCR V Proc"), .obj = OBJECTS_KNOBS(5, keywipe_ccrvproc), .knobassign = 33},
+    {.id = 0x73350002, .tree = TREE("Key/Wipe/FM/CCR", "DSK Auto Drop"), .obj = OBJECTS(5, keywipefm_dskautodrop)},
+    {.id = 0x73350003, .tree = TREE("Key/Wipe/FM/CCR", "Show Key"), .obj = OBJECTS(5, keywipefm_showkey)},
 };
 #undef TABS
 #undef TREE
