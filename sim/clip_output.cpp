@@ -272,6 +272,21 @@ bool ClipOutput_Put(const std::string& full_path, const std::string& value)
     return path == "Record@Freeze@PROC1";
 }
 
+void ClipOutput_Start(int n, const std::string& path, int start, int stop, bool is_loop)
+{
+    if (n < 0 || n >= OUTPUTS || ClipStore_Frames(1, path) == 0)
+        return;
+    recall(n, path);
+    Output& o = co.output[n];
+    const int last = std::max(o.frames - 1, 0);
+    o.start = std::clamp(start, 0, last);
+    o.stop = std::clamp(stop, o.start, last);
+    o.frame = o.start;
+    o.mode = is_loop ? 1 : 0;
+    o.is_playing = o.frames > 1;
+    show_play(n);
+}
+
 // --- Time ---
 
 static void advance(int n)

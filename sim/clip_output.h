@@ -12,4 +12,7 @@
 void ClipOutput_Install(); // all black
 // A panel's put below "Frame Mem 2@" that is a command. False: a value like others.
 bool ClipOutput_Put(const std::string& path, const std::string& value);
+// The switcher itself plays a clip on output n, from 0; nothing when the store has none of that
+// path.
+void ClipOutput_Start(int n, const std::string& path, int start, int stop, bool is_loop);
 int64_t ClipOutput_Tick(int64_t now); // returns the time of the next frame

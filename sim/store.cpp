@@ -1,4 +1,5 @@
 #include "store.h"
+#include "clip_output.h"
 #include "macro.h"
 #include "region.h"
 #include "store_private.h"
@@ -252,6 +253,13 @@ static void store_make_lists()
     }
 }
 
+void Store_PlayClips(int user, int number)
+{
+    for (const auto& [key, clip] : sr.clips[user])
+        if (key.second == number && clip.is_event && clip.is_auto_play)
+            ClipOutput_Start(key.first, clip.name, clip.start, clip.stop, clip.is_loop);
+}
+
 void Store_SetAutoPlay(int user, int sub_region, int number, bool on)
 {
     const bool is_one = user >= 0 && user < USERS && sub_region >= 0 && sub_region < CLIP_REGIONS &&
@@ -300,8 +308,8 @@ void Store_Install()
         sr.current[kind.kind].assign(size_t(kind.rows), 0);
     }
     Store_Stock();
-    sr.clips[0][{0, 1}] = {true, true, false, "OPENER", 0, 300};
-    sr.clips[0][{1, 1}] = {true, false, true, "BACKDROP", 30, 900};
+    sr.clips[0][{0, 1}] = {true, true, false, "BREAK", 0, 74};
+    sr.clips[0][{1, 1}] = {true, false, true, "NEWS/OPENING", 30, 99};
     store_make_lists();
     const Kind& effects = kinds[STORE_EFFECT];
     for (const char* name : {"M/E-1", "P/P"}) {

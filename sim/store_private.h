@@ -72,6 +72,7 @@ void Store_Show(const Kind& kind, int row, int number);       // tell that it ha
 void Store_ShowRow(const Kind& kind, int row);                // tell all of it
 void Store_SetCurrent(const Kind& kind, int row, int number); // the last recalled or stored
 int Store_Current(const Kind& kind, int row);                 // 0: none
+void Store_PlayClips(int user, int number); // what a recall of the snapshot starts; user from 0
 void Store_SetAutoPlay(int user, int sub_region, int number, bool on); // of a clip event; from 0
 
 int Store_SnapshotRow(int region);                      // -1: it has no snapshots

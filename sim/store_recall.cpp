@@ -112,12 +112,15 @@ static void recall_effect(const Kind& kind, int row, int number, const Register&
         bring_values_back(kind, row, r, r.has_dissolve ? frames_of(kind, row, r) : 0);
 }
 
-static void recall_snapshot(const Kind& kind, int row, const Register& r)
+static void recall_snapshot(const Kind& kind, int row, int number, const Register& r)
 {
     const int frames = frames_of(kind, row, r);
     bring_values_back(kind, row, r, r.has_dissolve ? frames : 0);
     if (r.has_auto_transition && row < REGION_USER1)
         Transition_Start(Regions()[size_t(row)].tree, frames);
+    const int user = Region_OfSnapshotRow(row) - REGION_USER1;
+    if (user >= 0 && user < REGION_DME1 - REGION_USER1)
+        Store_PlayClips(user, number);
 }
 
 static void recall_master(const Register& r, StoreKind of)
@@ -153,7 +156,7 @@ void Store_Recall(const Kind& kind, int row, int number)
         return;
     switch (kind.kind) {
     case STORE_EFFECT: recall_effect(kind, row, number, r); break;
-    case STORE_SNAPSHOT: recall_snapshot(kind, row, r); break;
+    case STORE_SNAPSHOT: recall_snapshot(kind, row, number, r); break;
     case STORE_MASTER_EFFECT: recall_master(r, STORE_EFFECT); break;
     case STORE_MASTER_SNAPSHOT: recall_master(r, STORE_SNAPSHOT); break;
     case STORE_SHOTBOX: recall_shotbox(r); break;

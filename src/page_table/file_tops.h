@@ -12,7 +12,7 @@ struct EmptyTops {
     uint32_t first;
     uint32_t last;
     const char* word;
-    uint32_t page;
+    uint32_t page; // that they make way for; 0: the first one of each tab
 };
 inline constexpr EmptyTops empty_tops[] = {
     {0x211, 0x216, "Frame Memory", 0x21110000},
@@ -22,9 +22,9 @@ inline constexpr EmptyTops empty_tops[] = {
     {0x542, 0x542, "Macro", 0x54210000},
     {0x543, 0x543, "Macro", 0x54310000},
     {0x544, 0x544, "Macro", 0x54410000},
-    {0x621, 0x626, "Effect", 0x62110000},
-    {0x631, 0x635, "Snapshot", 0x63110000},
-    {0x641, 0x641, "Shotbox", 0x64110000},
+    {0x621, 0x626, "Effect", 0},
+    {0x631, 0x635, "Snapshot", 0},
+    {0x641, 0x641, "Shotbox", 0},
     {0x731, 0x731, "Engineering Setup", 0x73110000},
     {0x741, 0x743, "Diag", 0x74110000},
 };

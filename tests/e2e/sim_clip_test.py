@@ -171,6 +171,18 @@ class Outputs(ClipTest):
         self.put("Record@Through@FM3#0,1")
         self.panel.until(f"{self.HEAD}Output Status@FM3#1,")
 
+    def test_a_snapshot_of_a_user_plays_its_clips(self):
+        event, recall = "put Snapshot@Snapshot@Clip Event@User1@FM1@AutoPlay#1,", "put Snapshot@Snapshot@Recall#40, 1"
+        self.panel.send(f"add {self.HEAD}Output Status@FM1", f"add {self.HEAD}Output Status@FM2", f"add {self.HEAD}Play@FM1")
+        self.panel.sync()
+        self.panel.send(event + "OFF", recall)
+        self.assertEqual([line for line in self.panel.sync() if "@FM" in line and self.HEAD in line], [])
+        self.panel.send(event + "ON", recall)
+        heard = [line for line in self.panel.sync() if self.HEAD in line]
+        self.assertEqual(heard[0], f"{self.HEAD}Output Status@FM1#2,/BREAK.SFH")  # the second has no auto play
+        self.assertEqual(heard[-1], f"{self.HEAD}Play@FM1#1,0,0,74")
+        self.assertEqual(self.frames("FM1", 2), [(1, 1), (1, 2)])
+
     def test_a_recording_becomes_a_clip(self):
         self.panel.send(f"add {self.HEAD}Record@PROC1", f"add {self.HEAD}Output Status@FM2")
         self.put("Record@Freeze/Rec Name@FM2#0,LOGOS/take1.SFH")
