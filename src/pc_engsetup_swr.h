@@ -1,6 +1,6 @@
-// pc_engsetup_swr: the pages of the Switcher group of engineering setup that are no more than a
-// table: banks, keys or numbers down, their settings across. A page is its fields and choices; the
-// rows of all of them have one shape, so that a setting more is a line.
+// pc_engsetup_swr: the pages of the Switcher group of engineering setup that are more than a sheet:
+// those whose keys mean several rows, whose list is a matrix, or which draw. Their rows have one
+// shape.
 #pragma once
 #include "a_pc.h"
 #include "setup_page.h"
@@ -11,35 +11,12 @@
 
 // --- pc_engsetup_swr_config ---
 extern const PC_TBL pc_engsetup_switcher_config;
-extern const PC_TBL pc_engsetup_switcher_config_user;
 extern const PC_TBL pc_engsetup_switcher_config_pgm;
-extern const PC_TBL pc_engsetup_switcher_config_logicalme;
-extern const PC_TBL pc_engsetup_switcher_config_sideflags;
-extern const PC_TBL pc_engsetup_switcher_config_keyconfig;
-extern const PC_TBL pc_engsetup_switcher_config_keyconfig_subkeymode;
-extern const PC_TBL pc_engsetup_switcher_config_dmeconfig;
-extern const PC_TBL pc_engsetup_switcher_config_cgborder;
-extern const PC_TBL pc_engsetup_switcher_config_kpvw;
-extern const PC_TBL pc_engsetup_switcher_config_out;
-extern const PC_TBL pc_engsetup_switcher_config_out6; // of a switcher with six outputs a bank
-extern const PC_TBL pc_engsetup_switcher_config_swrtiming;
-extern const PC_TBL pc_engsetup_switcher_config_3D;
-extern const PC_TBL pc_engsetup_switcher_config_3dconfig_inputlink;
-extern const PC_TBL pc_engsetup_switcher_config_3dconfig_fmoutputlink;
 enum : int { BTN_SWR_DMECONFIG = 51 }; // leads to a page that not every installation has
 
-// --- pc_engsetup_swr_trans ---
-extern const PC_TBL pc_engsetup_switcher_transition;
-extern const PC_TBL pc_engsetup_switcher_transition_presetcolormix;
-extern const PC_TBL pc_engsetup_switcher_transition_transitioncurve;
-extern const PC_TBL pc_engsetup_switcher_keywipe;
-extern const PC_TBL pc_engsetup_switcher_keywipe_ccrvproc;
-extern const PC_TBL pc_engsetup_switcher_keywipefm_dskautodrop;
-extern const PC_TBL pc_engsetup_switcher_keywipefm_showkey;
+void EngSetupSwitcher_Reset(); // as at process start; for tests
 
-// As at process start; for tests.
-void EngSetupSwitcher_Reset();
-void EngSetupSwitcherTrans_Reset();
+inline constexpr const char* swr_banks[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P"};
 
 // --- What the tables of the group are made of ---
 
@@ -66,25 +43,12 @@ constexpr SETUPFIELD SwrField(int cell, const char* path, SETUPFIELD more = {})
 }
 constexpr SETUPFIELD SWR_KEY = {SETUP_CELL(swr_row, key), .column = 0};
 
-// Choices that are more than a value of their button.
-constexpr SETUPCHOICE SwrToggle(const char* cmd, int field, const char* off)
-{
-    return {.cmd = cmd, .field = field, .off = off};
-}
-constexpr SETUPCHOICE SwrPopup(const char* cmd, int field, int (*offer)(const char**, int))
-{
-    return {.cmd = cmd, .field = field, .offer = offer};
-}
-constexpr SETUPCHOICE SwrSwap(const char* cmd, int field, int (*offer)(const char**, int))
-{
-    return {.cmd = cmd, .field = field, .offer = offer, .is_swapped = 1};
-}
 constexpr SETUPCHOICE SwrKnob(int field, int box)
 {
     return {.field = field, .box = box};
 }
 
-// The keys of a page's rows, and the texts of a popup: a list of words, or the numbers from 1.
+// The keys of a page's rows from a list of words.
 template <const auto& words> int SwrWords(const char** texts, int max)
 {
     int n = 0;
@@ -93,16 +57,6 @@ template <const auto& words> int SwrWords(const char** texts, int max)
             texts[n++] = word;
     return n;
 }
-const char* SwrNumber(int n); // "1" to "64"
-template <int last> int SwrNumbers(const char** texts, int max)
-{
-    int n = 0;
-    for (; n < last && n < max; n++)
-        texts[n] = SwrNumber(n + 1);
-    return n;
-}
-inline constexpr const char* swr_banks[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P"};
-constexpr auto SwrBanks = SwrWords<swr_banks>;
 
 template <int max, size_t fields, size_t choices>
 constexpr SETUPTABLE SwrTable(SwrRows<max>& rows, int (*keys)(const char**, int),

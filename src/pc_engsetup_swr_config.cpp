@@ -1,4 +1,4 @@
-// The Config pages: what a bank of the switcher is, what belongs to it, and where it goes.
+// The Config pages that are more than a sheet: what the banks are, and the keys in their outputs.
 #include "a_bt.h"
 #include "a_ls.h"
 #include "bus.h"
@@ -15,21 +15,6 @@
 #define CONFIG SWR "Config@"
 #define LOCAL_CONFIG LOCAL_SWR "Config@"
 
-const char* SwrNumber(int n)
-{
-    constexpr int last = 64;
-    static char texts[last + 1][4];
-    const int i = n >= 1 && n <= last ? n : 0;
-    PrintText(texts[i], "%d", i);
-    return texts[i];
-}
-
-// --- What more than one page shows ---
-
-static constexpr SETUPWORD words_enable[] = {{"true", "Enable"}, {"false", "Disable"}, {}};
-static constexpr SETUPWORD words_on[] = {{"true", "On"}, {"false", "Off"}, {}};
-static constexpr char NONE[] = "None";
-
 // --- The banks ---
 
 static SwrRows<ME_COUNT> me_rows;
@@ -40,8 +25,8 @@ static constexpr SETUPFIELD me_fields[] = {
     SWR_KEY,
 };
 static constexpr SETUPCHOICE me_choices[] = {{LOCAL_CONFIG "M/E Config", 0}};
-static constexpr SETUPTABLE me_page =
-    SwrTable(me_rows, SwrBanks, me_fields, me_choices, {.question = swr_on_air_question});
+static constexpr SETUPTABLE me_page = SwrTable(me_rows, SwrWords<swr_banks>, me_fields, me_choices,
+                                               {.question = swr_on_air_question});
 
 static int pc_engsetup_switcher_config_create(int on, uint32_t)
 {
@@ -53,27 +38,6 @@ static int pc_engsetup_switcher_config_create(int on, uint32_t)
 }
 const PC_TBL pc_engsetup_switcher_config = {.proc_func = SetupPage_ProcOf<me_page>,
                                             .create_func = pc_engsetup_switcher_config_create};
-
-// --- What the user regions hold ---
-
-static constexpr const char* user_items[] = {
-    "FM1",    "FM2",   "FM3",   "FM4",   "FM5",   "FM6",   "FM7",          "FM8",          "FM9",
-    "FM10",   "FM11",  "FM12",  "FM13",  "FM14",  "FM15",  "FM16",         "FM17",         "FM18",
-    "FM19",   "FM20",  "CCR1",  "CCR2",  "CCR3",  "CCR4",  "Color Bkgd 1", "Color Bkgd 2", "Util 1",
-    "Util 2", "Aux 1", "Aux 2", "Aux 3", "Aux 4", "Aux 5", "Aux 6",        "Aux 7",        "Aux 8",
-};
-static constexpr const char* user_regions[] = {NONE,    "User1", "User2", "User3", "User4",
-                                               "User5", "User6", "User7", "User8"};
-static SwrRows<std::size(user_items)> user_rows;
-static constexpr SETUPFIELD user_fields[] = {
-    SwrField(0, CONFIG "User1-8 Config@User", {.part = 1}),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE user_choices[] = {
-    SwrPopup(LOCAL_CONFIG "User1-8 Config@User", 0, SwrWords<user_regions>)};
-static constexpr SETUPTABLE user_page =
-    SwrTable(user_rows, SwrWords<user_items>, user_fields, user_choices);
-const PC_TBL pc_engsetup_switcher_config_user = SetupPage_Code<user_page>;
 
 // --- The outputs of a bank that runs two programs: their side, and the keys in them ---
 
@@ -149,217 +113,8 @@ static int pc_engsetup_switcher_config_pgm_proc(int msg, MsgArg ax, MsgArg bx, M
 const PC_TBL pc_engsetup_switcher_config_pgm = {.proc_func = pc_engsetup_switcher_config_pgm_proc,
                                                 .create_func = SetupPage_CreateOf<pgm_page>};
 
-// --- Under which name a bank is worked ---
-
-static SwrRows<ME_COUNT> logical_rows;
-static constexpr SETUPFIELD logical_fields[] = {
-    SwrField(0, CONFIG "Logical M/E", {.part = SETUP_EACH_ROW}),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE logical_choices[] = {SwrSwap(LOCAL_CONFIG "Logical M/E", 0, SwrBanks)};
-static constexpr SETUPTABLE logical_page = SwrTable(
-    logical_rows, SwrBanks, logical_fields, logical_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_logicalme = SetupPage_Code<logical_page>;
-
-// --- Side flags: what stands beside a 4:3 picture ---
-
-static constexpr const char* flag_fills[] = {"Black", "Color Bkgd 1", "Color Bkgd 2", "FM1",
-                                             "FM2",   "FM3",          "FM4"};
-static SwrRows<ME_COUNT> flag_rows;
-static constexpr SETUPFIELD flag_fields[] = {
-    SwrField(0, CONFIG "Side Flags@Side Flags@$", {.words = words_enable}),
-    SwrField(1, CONFIG "Side Flags@Mode@$"),
-    SwrField(2, CONFIG "Side Flags@Fill@$"),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE flag_choices[] = {
-    SwrToggle(LOCAL_CONFIG "Side Flags@Side Flags", 0, "Disable"),
-    {LOCAL_CONFIG "Side Flags@Mode", 1},
-    SwrPopup(LOCAL_CONFIG "Side Flags@Fill", 2, SwrWords<flag_fills>),
-};
-static constexpr SETUPTABLE flag_page =
-    SwrTable(flag_rows, SwrBanks, flag_fields, flag_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_sideflags = SetupPage_Code<flag_page>;
-
-// --- The keys of a bank ---
-
-static SwrRows<ME_COUNT> key_rows;
-static constexpr SETUPFIELD key_fields[] = {
-    SwrField(0, CONFIG "Key Config", {.part = 1}),
-    SwrField(1, CONFIG "Key Config@Sub Key Mode@$", {.is_put = 0}),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE key_choices[] = {{LOCAL_CONFIG "Key Config", 0}};
-static constexpr SETUPTABLE key_page =
-    SwrTable(key_rows, SwrBanks, key_fields, key_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_keyconfig = SetupPage_Code<key_page>;
-
-static SwrRows<ME_COUNT> subkey_rows;
-static constexpr SETUPFIELD subkey_fields[] = {
-    SwrField(0, CONFIG "Key Config@Sub Key Mode@$"),
-    SwrField(1, CONFIG "M/E Config@$", {.is_put = 0, .ask = SETUP_READ}),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE subkey_choices[] = {{LOCAL_CONFIG "Key Config@Sub Key Mode", 0}};
-static constexpr SETUPTABLE subkey_page = SwrTable(
-    subkey_rows, SwrBanks, subkey_fields, subkey_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_keyconfig_subkeymode = SetupPage_Code<subkey_page>;
-
-// --- The effects board of the switcher ---
-
-static constexpr const char* dme_channels[] = {"Ch1", "Ch2", "Ch3", "Ch4",
-                                               "Ch5", "Ch6", "Ch7", "Ch8"};
-static constexpr const char* dme_users[] = {"Common", "M/E-1", "M/E-2", "M/E-3",
-                                            "M/E-4",  "M/E-5", "P/P"};
-static SwrRows<std::size(dme_channels)> dme_rows;
-static constexpr SETUPFIELD dme_fields[] = {
-    SwrField(0, CONFIG "DME Config@Use@$", {.words = words_enable}),
-    SwrField(1, CONFIG "DME Config@Assign@$"),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE dme_choices[] = {
-    SwrToggle(LOCAL_CONFIG "DME Config@Use", 0, "Disable"),
-    SwrPopup(LOCAL_CONFIG "DME Config@Assign", 1, SwrWords<dme_users>),
-};
-static constexpr SETUPTABLE dme_page = SwrTable(dme_rows, SwrWords<dme_channels>, dme_fields,
-                                                dme_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_dmeconfig = SetupPage_Code<dme_page>;
-
-// --- Borders of titles ---
-
-static SwrRows<ME_COUNT> border_rows;
-static constexpr SETUPFIELD border_fields[] = {
-    SwrField(0, CONFIG "CG Border@CG Border@$", {.words = words_enable}),
-    SwrField(1, CONFIG "CG Border@Quality@$"),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE border_choices[] = {
-    SwrToggle(LOCAL_CONFIG "CG Border@CG Border", 0, "Disable"),
-    {LOCAL_CONFIG "CG Border@Quality", 1},
-};
-static constexpr SETUPTABLE border_page = SwrTable(
-    border_rows, SwrBanks, border_fields, border_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_cgborder = SetupPage_Code<border_page>;
-
-// --- The preview of keys ---
-
-static SwrRows<ME_COUNT> kpvw_rows;
-static constexpr SETUPFIELD kpvw_fields[] = {
-    SwrField(0, CONFIG "Key Config", {.part = 1, .is_put = 0}),
-    SwrField(1, CONFIG "Key PVW@Mode@$"),
-    SwrField(2, CONFIG "Key PVW@Bkgd@$"),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE kpvw_choices[] = {
-    {LOCAL_CONFIG "Key PVW@Mode", 1},
-    {LOCAL_CONFIG "Key PVW@Bkgd", 2},
-};
-static constexpr SETUPTABLE kpvw_page = SwrTable(kpvw_rows, SwrBanks, kpvw_fields, kpvw_choices);
-const PC_TBL pc_engsetup_switcher_config_kpvw = SetupPage_Code<kpvw_page>;
-
-// --- What the outputs of the banks carry ---
-
-static constexpr const char* out_signals[] = {"PGM",     "PVW",     "Clean",   "Key PVW",
-                                              "Sub PGM", "Sub PVW", "Sub Cln", NONE};
-#define OUTS4(bank) bank " Out1", bank " Out2", bank " Out3", bank " Out4"
-#define OUTS6(bank) OUTS4(bank), bank " Out5", bank " Out6"
-static constexpr const char* outs4[] = {OUTS4("M/E-1"), OUTS4("M/E-2"), OUTS4("M/E-3"),
-                                        OUTS4("M/E-4"), OUTS4("M/E-5"), OUTS4("P/P")};
-static constexpr const char* outs6[] = {OUTS6("M/E-1"), OUTS6("M/E-2"), OUTS6("M/E-3"),
-                                        OUTS6("M/E-4"), OUTS6("M/E-5"), OUTS6("P/P")};
-static SwrRows<std::size(outs4)> out4_rows;
-static SwrRows<std::size(outs6)> out6_rows;
-static constexpr SETUPFIELD out_fields[] = {
-    SwrField(0, CONFIG "Out Config@$"),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE out_choices[] = {
-    SwrPopup(LOCAL_CONFIG "Out Config", 0, SwrWords<out_signals>)};
-static constexpr SETUPTABLE out4_page = SwrTable(out4_rows, SwrWords<outs4>, out_fields,
-                                                 out_choices, {.question = swr_on_air_question});
-static constexpr SETUPTABLE out6_page = SwrTable(out6_rows, SwrWords<outs6>, out_fields,
-                                                 out_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_out = SetupPage_Code<out4_page>;
-const PC_TBL pc_engsetup_switcher_config_out6 = SetupPage_Code<out6_page>;
-
-// --- The timing of the switchers against their reference ---
-
-static constexpr const char* timing_units[] = {"SWR1", "SWR2", "SWR3", "SWR4"};
-static SwrRows<std::size(timing_units)> timing_rows;
-static constexpr SETUPFIELD timing_fields[] = {
-    SwrField(0, CONFIG "Switcher Timing@H Phase@$"),
-    SwrField(1, CONFIG "Switcher Timing@V Phase@$"),
-    SwrField(2, CONFIG "Switcher Timing@Auto Timing@$", {.words = words_on}),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE timing_choices[] = {
-    SwrKnob(0, 1),
-    SwrKnob(1, 2),
-    SwrToggle(LOCAL_CONFIG "Switcher Timing@Auto Timing", 2, "Off"),
-};
-static int own_switchers(const char** keys, int max)
-{
-    int n = 0;
-    for (DEVICE* const* swr = DEV_MySwr; *swr && n < max; swr++)
-        keys[n++] = (*swr)->name;
-    return n;
-}
-static constexpr SETUPTABLE timing_page = SwrTable(
-    timing_rows, own_switchers, timing_fields, timing_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_swrtiming = SetupPage_Code<timing_page>;
-
-// --- 3D: the second eye ---
-
-static SwrRows<ME_COUNT> stereo_rows;
-static constexpr SETUPFIELD stereo_fields[] = {
-    SwrField(0, CONFIG "3D Config@Mode@$"),
-    SwrField(1, CONFIG "3D Config@Output@$"),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE stereo_choices[] = {
-    {LOCAL_CONFIG "3D Config@Mode", 0},
-    {LOCAL_CONFIG "3D Config@Output", 1},
-};
-static constexpr SETUPTABLE stereo_page = SwrTable(
-    stereo_rows, SwrBanks, stereo_fields, stereo_choices, {.question = swr_on_air_question});
-const PC_TBL pc_engsetup_switcher_config_3D = SetupPage_Code<stereo_page>;
-
-static constexpr int INPUTS = 64;
-static SwrRows<INPUTS> input_rows;
-static constexpr SETUPFIELD input_fields[] = {
-    SwrField(0, CONFIG "3D Config@Input Link", {.part = 1}),
-    SwrField(1, CONFIG "3D Config@Input Link", {.part = 2, .words = words_on}),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE input_choices[] = {
-    SwrPopup(LOCAL_CONFIG "3D Config@Input Link@R Input", 0, SwrNumbers<INPUTS>),
-    SwrToggle(LOCAL_CONFIG "3D Config@Input Link@Link", 1, "Off"),
-};
-static constexpr SETUPTABLE input_page =
-    SwrTable(input_rows, SwrNumbers<INPUTS>, input_fields, input_choices);
-const PC_TBL pc_engsetup_switcher_config_3dconfig_inputlink = SetupPage_Code<input_page>;
-
-static constexpr const char* fm_outputs[] = {"FM1", "FM2", "FM3", "FM4",
-                                             "FM5", "FM6", "FM7", "FM8"};
-static SwrRows<std::size(fm_outputs)> fm_rows;
-static constexpr SETUPFIELD fm_fields[] = {
-    SwrField(0, CONFIG "3D Config@FM Output Link", {.part = 1}),
-    SwrField(1, CONFIG "3D Config@FM Output Link", {.part = 2, .words = words_on}),
-    SWR_KEY,
-};
-static constexpr SETUPCHOICE fm_choices[] = {
-    SwrPopup(LOCAL_CONFIG "3D Config@FM Output Link@R Output", 0, SwrWords<fm_outputs>),
-    SwrToggle(LOCAL_CONFIG "3D Config@FM Output Link@Link", 1, "Off"),
-};
-static constexpr SETUPTABLE fm_page =
-    SwrTable(fm_rows, SwrWords<fm_outputs>, fm_fields, fm_choices);
-const PC_TBL pc_engsetup_switcher_config_3dconfig_fmoutputlink = SetupPage_Code<fm_page>;
-
 void EngSetupSwitcher_Reset()
 {
-    for (const SETUPTABLE* t :
-         {&me_page, &user_page, &pgm_page, &logical_page, &flag_page, &key_page, &subkey_page,
-          &dme_page, &border_page, &kpvw_page, &out4_page, &out6_page, &timing_page, &stereo_page,
-          &input_page, &fm_page})
-        SetupPage_Forget(*t);
+    SetupPage_Forget(me_page);
+    SetupPage_Forget(pgm_page);
 }

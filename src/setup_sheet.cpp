@@ -25,6 +25,15 @@ int SetupSheet_Numbers(const char** keys, int rows)
     return rows;
 }
 
+int SetupSheet_Keys(const SETUPSHEET& s, const char** keys, int max)
+{
+    const int rows = std::min(s.rows, max);
+    if (!s.names)
+        return SetupSheet_Numbers(keys, rows);
+    std::copy_n(s.names, rows, keys);
+    return rows;
+}
+
 int SetupSheet_Offer(const SETUPSHEET& s, int column, const char** texts, int max)
 {
     const int own = s.offer ? s.offer(column, texts, max) : -1;
@@ -84,6 +93,8 @@ int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on)
     sh.sheet = on ? &s : nullptr;
     sh.table = on ? &t : nullptr;
     on ? SetupPage_Open(t) : SetupPage_Close(t);
+    if (on && s.title)
+        (void)NB_SetTitle(s.title);
     return !on;
 }
 

@@ -34,6 +34,8 @@ struct SETUPCOLUMN {
     int max = 0;
     int name = 0;                  // characters of a name that is typed, 0: none
     int is_fixed = 0;              // only shown
+    int ask = SETUP_ADD;           // as in SETUPFIELD
+    int is_swapped = 0;            // as in SETUPCHOICE, of a key that asks
     int is_asked = 0;              // one key that asks, however few its words are
     const char* caption = nullptr; // of its key; null: the head
     const char* group = nullptr;   // title of one key's frame; columns side by side share it
@@ -49,6 +51,7 @@ struct SETUPSHEET {
     int key_width = 60;
     int is_direct = 0;
     const char* question = nullptr; // of Execute
+    const char* title = nullptr;    // over the knobs; null: the page's own
     const BT_TBL* more = nullptr;   // further keys, of ids that the columns leave free
     int more_count = 0;
     // The choices of a column at the moment, at most max: how many; -1: its words.
@@ -62,6 +65,8 @@ int SetupSheet_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax
 int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
 // The keys of numbered rows: "1", "2"... Returns how many.
 int SetupSheet_Numbers(const char** keys, int rows);
+// The keys of all rows, at most max: its names or numbers. Returns how many.
+int SetupSheet_Keys(const SETUPSHEET& s, const char** keys, int max);
 // The choices of a column at the moment. Returns how many.
 int SetupSheet_Offer(const SETUPSHEET& s, int column, const char** texts, int max);
 // The cells or the current row may be others now: a direct sheet sends what is in hand.
@@ -280,6 +285,7 @@ template <const SETUPSHEET& s> constexpr SheetFields MakeSheetFields(const Sheet
                       .part = c.part,
                       .column = c.width ? column++ : -1,
                       .is_put = !c.is_fixed,
+                      .ask = c.ask,
                       .words = c.words,
                       .from_wire = c.from_wire,
                       .to_wire = c.to_wire};
@@ -292,7 +298,8 @@ template <const SETUPSHEET& s> constexpr SheetFields MakeSheetFields(const Sheet
             f.choice[f.choices++] = {
                 .cmd = texts.column[i].text,
                 .field = i,
-                .offer = SheetOfferOf<s>(i, std::make_integer_sequence<int, SHEET_COLUMNS>())};
+                .offer = SheetOfferOf<s>(i, std::make_integer_sequence<int, SHEET_COLUMNS>()),
+                .is_swapped = c.is_swapped};
     }
     f.field[s.column_count] = {.size = SHEET_TEXT, .column = 0};
     return f;
@@ -337,12 +344,7 @@ inline constexpr SheetFields sheet_fields = MakeSheetFields<s>(sheet_texts<s>);
 
 template <const SETUPSHEET& s> int SheetRowKeys(const char** keys, int max)
 {
-    const int rows = s.rows < max ? s.rows : max;
-    if (!s.names)
-        return SetupSheet_Numbers(keys, rows);
-    for (int i = 0; i < rows; i++)
-        keys[i] = s.names[i];
-    return rows;
+    return SetupSheet_Keys(s, keys, max);
 }
 
 template <const SETUPSHEET& s> void SheetChanged();

@@ -3,6 +3,7 @@
 #include "pc_engsetup_swr.h"
 #include "pc_setup_curve.h"
 #include "rows.h"
+#include "setup_sheet.h"
 #include "setup_system.h"
 #include "setup_tabs.h"
 
@@ -15,6 +16,20 @@ constexpr LS_TBL SwrList(LS_TBL row)
     row.sb_bottom = row.sb_top + LS_ROW_PX * (row.vn + 1);
     return row;
 }
+
+// --- What the sheets of the group share ---
+
+inline constexpr SETUPWORD words_enable[] = {{"true", "Enable"}, {"false", "Disable"}, {}};
+inline constexpr SETUPWORD words_on[] = {{"true", "On"}, {"false", "Off"}, {}};
+#define WORD(text) {text, text}
+
+// A sheet of the banks; another number of rows, with their names or without, for the rest.
+#define SHEET_OF(name, rows_, names_, key, width, col, ...) \
+    inline constexpr SETUPSHEET engsetup_switcher_##name = {.columns = col, .column_count = int(std::size(col)), .rows = int(rows_), .names = names_, \
+                                                            .key_head = key, .key_width = width, __VA_ARGS__}
+#define BANK_SHEET(name, width, col, ...) SHEET_OF(name, std::size(swr_banks), swr_banks, "M/E", width, col, __VA_ARGS__)
+#define ON_AIR .question = swr_on_air_question
+#define MORE(keys) .more = keys, .more_count = int(std::size(keys))
 #define SWR_LOCAL(word) {LOCAL_SWR word}
 #define SWR_CLEAR_EXECUTE SetupClear(LOCAL_SWR "Clear"), SetupExecute(LOCAL_SWR "Execute")
 
@@ -22,6 +37,7 @@ constexpr LS_TBL SwrList(LS_TBL row)
 
 #define CONFIG(word) SWR_LOCAL("Config@" word)
 #define TO_CONFIG Jump({.id = 49, .caption = "M/E\nConfig", .cmd = {"#73310000"}})
+inline constexpr BT_TBL to_config[] = {TO_CONFIG};
 
 inline constexpr BT_TBL bt_engsetup_switcher_config[] = {
     Radio({.id = 17, .caption = "Standard", .group = "M/E Config", .cmd = CONFIG("M/E Config#Standard")}),
@@ -50,20 +66,6 @@ inline constexpr LS_TBL ls_engsetup_switcher_config[] = {
 };
 static_assert(ListsAreSound(ls_engsetup_switcher_config));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_user[] = {
-    JumpPopUp({.id = 33, .caption = "User", .cmd = CONFIG("User1-8 Config@User")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_user));
-
-inline constexpr LS_TBL ls_engsetup_switcher_config_user[] = {
-    SwrList({.hn = 2, .head = {"Function", "User Region"}, .width = {275, 275}, .group = {1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_config_user));
-
 #define PGM_KEY(n) Toggle({.id = 16 + (n), .caption = "Key" #n, .group = "Keys on Output", .cmd = CONFIG("PGM Config@Key" #n "#true")})
 #define PGM_KEY2(n, place) Toggle({.id = place, .caption = "Key" #n, .group = "@Keys on Output", .cmd = CONFIG("PGM Config@Key" #n "#true")})
 inline constexpr BT_TBL bt_engsetup_switcher_config_pgm[] = {
@@ -90,264 +92,149 @@ inline constexpr LS_TBL ls_engsetup_switcher_config_pgm[] = {
 };
 static_assert(ListsAreSound(ls_engsetup_switcher_config_pgm));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_logicalme[] = {
-    JumpPopUp({.id = 33, .caption = "Logical\nM/E", .cmd = CONFIG("Logical M/E")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+// What belongs to the user regions.
+inline constexpr const char* user_items[] = {
+    "FM1",  "FM2",  "FM3",  "FM4",  "FM5",  "FM6",  "FM7",  "FM8",  "FM9",          "FM10",         "FM11",   "FM12",   "FM13",  "FM14",  "FM15",  "FM16",  "FM17",  "FM18",
+    "FM19", "FM20", "CCR1", "CCR2", "CCR3", "CCR4", "Color Bkgd 1", "Color Bkgd 2", "Util 1", "Util 2", "Aux 1", "Aux 2", "Aux 3", "Aux 4", "Aux 5", "Aux 6", "Aux 7", "Aux 8",
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_logicalme));
+inline constexpr SETUPWORD user_words[] = {WORD("None"), WORD("User1"), WORD("User2"), WORD("User3"), WORD("User4"), WORD("User5"), WORD("User6"), WORD("User7"), WORD("User8"), {}};
+inline constexpr SETUPCOLUMN user_columns[] = {{.head = "User Region", .width = 275, .path = SWR "Config@User1-8 Config@User", .part = 1, .words = user_words, .caption = "User\nRegion"}};
+SHEET_OF(config_user, std::size(user_items), user_items, "Function", 275, user_columns, MORE(to_config));
 
-inline constexpr LS_TBL ls_engsetup_switcher_config_logicalme[] = {
-    SwrList({.hn = 2, .head = {"Physical M/E", "Logical M/E"}, .width = {275, 275}, .group = {1, 999}, .block = 1}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_config_logicalme));
+inline constexpr SETUPWORD bank_words[] = {WORD("M/E-1"), WORD("M/E-2"), WORD("M/E-3"), WORD("M/E-4"), WORD("M/E-5"), WORD("P/P"), {}};
+inline constexpr SETUPCOLUMN logicalme_columns[] = {{.head = "Logical M/E", .width = 275, .path = SWR "Config@Logical M/E", .part = SETUP_EACH_ROW, .words = bank_words, .is_swapped = 1, .caption = "Logical\nM/E"}};
+SHEET_OF(config_logicalme, std::size(swr_banks), swr_banks, "Physical M/E", 275, logicalme_columns, ON_AIR, MORE(to_config));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_sideflags[] = {
-    Toggle(   {.id = 33, .caption = "Side\nFlags", .cmd = CONFIG("Side Flags@Side Flags#Enable")}),
-    Radio(    {.id = 34, .caption = "Auto", .group = "Mode", .cmd = CONFIG("Side Flags@Mode#Auto")}),
-    Radio(    {.id = 35, .caption = "Manual", .group = "Mode", .cmd = CONFIG("Side Flags@Mode#Manual")}),
-    JumpPopUp({.id = 36, .caption = "Fill", .cmd = CONFIG("Side Flags@Fill")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+// What stands beside a 4:3 picture.
+inline constexpr SETUPWORD flags_modes[] = {WORD("Auto"), WORD("Manual"), {}};
+inline constexpr SETUPWORD flags_fills[] = {WORD("Black"), WORD("Color Bkgd 1"), WORD("Color Bkgd 2"), WORD("FM1"), WORD("FM2"), WORD("FM3"), WORD("FM4"), {}};
+inline constexpr SETUPCOLUMN sideflags_columns[] = {
+    {.head = "Side Flags", .width = 150, .path = SWR "Config@Side Flags@Side Flags@$", .words = words_enable},
+    {.head = "Mode", .width = 150, .path = SWR "Config@Side Flags@Mode@$", .words = flags_modes},
+    {.head = "Fill", .width = 150, .path = SWR "Config@Side Flags@Fill@$", .words = flags_fills},
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_sideflags));
+BANK_SHEET(config_sideflags, 100, sideflags_columns, ON_AIR, MORE(to_config));
 
-inline constexpr LS_TBL ls_engsetup_switcher_config_sideflags[] = {
-    SwrList({.hn = 4, .head = {"M/E", "Side Flags", "Mode", "Fill"}, .width = {100, 150, 150, 150}, .group = {1, 2, 999}}),
-    LS_END,
+inline constexpr SETUPWORD keyconfig_words[] = {WORD("Key3 Key4"), WORD("Key3 Key PVW"), {}};
+inline constexpr SETUPWORD subkey_words[] = {WORD("Main Link"), {"Independent", "Indep."}, {}};
+inline constexpr SETUPCOLUMN keyconfig_columns[] = {
+    {.head = "Key Config", .width = 220, .path = SWR "Config@Key Config", .part = 1, .words = keyconfig_words, .is_asked = 1, .caption = "Key\nConfig"},
+    {.head = "Sub Key Mode", .width = 220, .path = SWR "Config@Key Config@Sub Key Mode@$", .words = subkey_words, .is_fixed = 1},
 };
-static_assert(ListsAreSound(ls_engsetup_switcher_config_sideflags));
+inline constexpr BT_TBL keyconfig_more[] = {TO_CONFIG, Jump({.id = 50, .caption = "Sub Key\nMode", .cmd = {"#73310011"}})};
+BANK_SHEET(config_keyconfig, 110, keyconfig_columns, ON_AIR, MORE(keyconfig_more));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_keyconfig[] = {
-    Radio({.id = 33, .caption = "Key3\nKey4", .group = "Key Config", .cmd = CONFIG("Key Config#Key3 Key4")}),
-    Radio({.id = 34, .caption = "Key3\nKey PVW", .group = "Key Config", .cmd = CONFIG("Key Config#Key3 Key PVW")}),
-    TO_CONFIG,
-    Jump( {.id = 50, .caption = "Sub Key\nMode", .cmd = {"#73310011"}}),
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+inline constexpr SETUPCOLUMN subkey_columns[] = {
+    {.head = "Sub Key Mode", .width = 220, .path = SWR "Config@Key Config@Sub Key Mode@$", .words = subkey_words},
+    {.head = "M/E Config", .width = 220, .path = SWR "Config@M/E Config@$", .is_fixed = 1, .ask = SETUP_READ},
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_keyconfig));
+inline constexpr BT_TBL subkey_more[] = {Jump({.id = 49, .caption = "Key\nConfig", .cmd = {"#73310005"}})};
+BANK_SHEET(config_keyconfig_subkeymode, 110, subkey_columns, ON_AIR, MORE(subkey_more));
 
-inline constexpr LS_TBL ls_engsetup_switcher_config_keyconfig[] = {
-    SwrList({.hn = 3, .head = {"M/E", "Key Config", "Sub Key Mode"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
+// The effects board of the switcher.
+inline constexpr const char* board_channels[] = {"Ch1", "Ch2", "Ch3", "Ch4", "Ch5", "Ch6", "Ch7", "Ch8"};
+inline constexpr SETUPWORD board_users[] = {WORD("Common"), WORD("M/E-1"), WORD("M/E-2"), WORD("M/E-3"), WORD("M/E-4"), WORD("M/E-5"), WORD("P/P"), {}};
+inline constexpr SETUPCOLUMN dmeconfig_columns[] = {
+    {.head = "Use", .width = 220, .path = SWR "Config@DME Config@Use@$", .words = words_enable},
+    {.head = "Assign", .width = 220, .path = SWR "Config@DME Config@Assign@$", .words = board_users},
 };
-static_assert(ListsAreSound(ls_engsetup_switcher_config_keyconfig));
+SHEET_OF(config_dmeconfig, std::size(board_channels), board_channels, "Channel", 110, dmeconfig_columns, ON_AIR, MORE(to_config));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_keyconfig_subkeymode[] = {
-    Radio({.id = 33, .caption = "Main\nLink", .group = "Sub Key Mode", .cmd = CONFIG("Key Config@Sub Key Mode#Main Link")}),
-    Radio({.id = 34, .caption = "Indepen-\ndent", .group = "Sub Key Mode", .cmd = CONFIG("Key Config@Sub Key Mode#Independent")}),
-    Jump( {.id = 49, .caption = "Key\nConfig", .cmd = {"#73310005"}}),
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+inline constexpr SETUPWORD border_qualities[] = {WORD("Normal"), WORD("Fine"), {}};
+inline constexpr SETUPCOLUMN cgborder_columns[] = {
+    {.head = "CG Border", .width = 220, .path = SWR "Config@CG Border@CG Border@$", .words = words_enable},
+    {.head = "Quality", .width = 220, .path = SWR "Config@CG Border@Quality@$", .words = border_qualities},
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_keyconfig_subkeymode));
+BANK_SHEET(config_cgborder, 110, cgborder_columns, ON_AIR, MORE(to_config));
 
-inline constexpr LS_TBL ls_engsetup_switcher_config_keyconfig_subkeymode[] = {
-    SwrList({.hn = 3, .head = {"M/E", "Sub Key Mode", "M/E Config"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
+inline constexpr SETUPWORD kpvw_modes[] = {WORD("Key"), WORD("Key Fill"), WORD("Keyed"), {}};
+inline constexpr SETUPWORD kpvw_grounds[] = {WORD("Bkgd A"), WORD("Bkgd B"), WORD("Black"), {}};
+inline constexpr SETUPCOLUMN kpvw_columns[] = {
+    {.head = "Key Config", .width = 150, .path = SWR "Config@Key Config", .part = 1, .is_fixed = 1},
+    {.head = "Mode", .width = 150, .path = SWR "Config@Key PVW@Mode@$", .words = kpvw_modes},
+    {.head = "Background", .width = 150, .path = SWR "Config@Key PVW@Bkgd@$", .words = kpvw_grounds},
 };
-static_assert(ListsAreSound(ls_engsetup_switcher_config_keyconfig_subkeymode));
+BANK_SHEET(config_kpvw, 100, kpvw_columns, MORE(to_config));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_dmeconfig[] = {
-    Toggle(   {.id = 33, .caption = "Use", .cmd = CONFIG("DME Config@Use#Enable")}),
-    JumpPopUp({.id = 34, .caption = "Assign", .cmd = CONFIG("DME Config@Assign")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_dmeconfig));
+// What the outputs of the banks carry; some switchers have six of each bank.
+#define OUTS4(bank) bank " Out1", bank " Out2", bank " Out3", bank " Out4"
+#define OUTS6(bank) OUTS4(bank), bank " Out5", bank " Out6"
+inline constexpr const char* bank_outs4[] = {OUTS4("M/E-1"), OUTS4("M/E-2"), OUTS4("M/E-3"), OUTS4("M/E-4"), OUTS4("M/E-5"), OUTS4("P/P")};
+inline constexpr const char* bank_outs6[] = {OUTS6("M/E-1"), OUTS6("M/E-2"), OUTS6("M/E-3"), OUTS6("M/E-4"), OUTS6("M/E-5"), OUTS6("P/P")};
+inline constexpr SETUPWORD out_words[] = {WORD("PGM"), WORD("PVW"), WORD("Clean"), WORD("Key PVW"), WORD("Sub PGM"), WORD("Sub PVW"), WORD("Sub Clean"), WORD("None"), {}};
+inline constexpr SETUPCOLUMN out_columns[] = {{.head = "Signal", .width = 275, .path = SWR "Config@Out Config@$", .words = out_words}};
+SHEET_OF(config_out, std::size(bank_outs4), bank_outs4, "Output", 275, out_columns, ON_AIR, MORE(to_config));
+SHEET_OF(config_out6, std::size(bank_outs6), bank_outs6, "Output", 275, out_columns, ON_AIR, MORE(to_config));
+#undef OUTS4
+#undef OUTS6
 
-inline constexpr LS_TBL ls_engsetup_switcher_config_dmeconfig[] = {
-    SwrList({.hn = 3, .head = {"Channel", "Use", "Assign"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
+inline constexpr const char* swr_units[] = {"SWR1", "SWR2"};
+inline constexpr SETUPCOLUMN swrtiming_columns[] = {
+    {.head = "H Phase", .width = 150, .path = SWR "Config@Switcher Timing@H Phase@$", .min = -1100, .max = 1100},
+    {.head = "V Phase", .width = 150, .path = SWR "Config@Switcher Timing@V Phase@$", .min = -512, .max = 512},
+    {.head = "Auto Timing", .width = 150, .path = SWR "Config@Switcher Timing@Auto Timing@$", .words = words_on},
 };
-static_assert(ListsAreSound(ls_engsetup_switcher_config_dmeconfig));
+SHEET_OF(config_swrtiming, std::size(swr_units), swr_units, "Switcher", 100, swrtiming_columns, ON_AIR, MORE(to_config));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_cgborder[] = {
-    Toggle({.id = 33, .caption = "CG\nBorder", .cmd = CONFIG("CG Border@CG Border#Enable")}),
-    Radio( {.id = 34, .caption = "Normal", .group = "Quality", .cmd = CONFIG("CG Border@Quality#Normal")}),
-    Radio( {.id = 35, .caption = "Fine", .group = "Quality", .cmd = CONFIG("CG Border@Quality#Fine")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+// The second eye.
+inline constexpr SETUPWORD eyes_modes[] = {WORD("2D"), WORD("3D"), {}};
+inline constexpr SETUPWORD eyes_outputs[] = {WORD("L"), WORD("R"), WORD("L/R"), {}};
+inline constexpr SETUPCOLUMN eyes_columns[] = {
+    {.head = "Mode", .width = 220, .path = SWR "Config@3D Config@Mode@$", .words = eyes_modes},
+    {.head = "Output", .width = 220, .path = SWR "Config@3D Config@Output@$", .words = eyes_outputs},
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_cgborder));
+inline constexpr BT_TBL eyes_more[] = {TO_CONFIG, Jump({.id = 50, .caption = "Input\nLink", .cmd = {"#73310012"}}), Jump({.id = 51, .caption = "FM Output\nLink", .cmd = {"#73310013"}})};
+BANK_SHEET(config_3D, 110, eyes_columns, ON_AIR, MORE(eyes_more));
 
-inline constexpr LS_TBL ls_engsetup_switcher_config_cgborder[] = {
-    SwrList({.hn = 3, .head = {"M/E", "CG Border", "Quality"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
+inline constexpr BT_TBL to_eyes[] = {Jump({.id = 49, .caption = "3D\nConfig", .cmd = {"#73310010"}})};
+inline constexpr SETUPCOLUMN inputlink_columns[] = {
+    {.head = "R Input", .width = 220, .path = SWR "Config@3D Config@Input Link", .part = 1, .min = 1, .max = 64},
+    {.head = "L/R Link", .width = 220, .path = SWR "Config@3D Config@Input Link", .part = 2, .words = words_on},
 };
-static_assert(ListsAreSound(ls_engsetup_switcher_config_cgborder));
+SHEET_OF(config_3dconfig_inputlink, 64, nullptr, "L Input", 110, inputlink_columns, MORE(to_eyes));
 
-inline constexpr BT_TBL bt_engsetup_switcher_config_kpvw[] = {
-    Radio({.id = 33, .caption = "Key", .group = "Mode", .cmd = CONFIG("Key PVW@Mode#Key")}),
-    Radio({.id = 34, .caption = "Key Fill", .group = "Mode", .cmd = CONFIG("Key PVW@Mode#Key Fill")}),
-    Radio({.id = 35, .caption = "Keyed\nPicture", .group = "Mode", .cmd = CONFIG("Key PVW@Mode#Keyed Picture")}),
-    Radio({.id = 36, .caption = "Bkgd A", .group = "Background", .cmd = CONFIG("Key PVW@Bkgd#Bkgd A")}),
-    Radio({.id = 37, .caption = "Bkgd B", .group = "Background", .cmd = CONFIG("Key PVW@Bkgd#Bkgd B")}),
-    Radio({.id = 38, .caption = "Black", .group = "Background", .cmd = CONFIG("Key PVW@Bkgd#Black")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+inline constexpr const char* fm_outputs[] = {"FM1", "FM2", "FM3", "FM4", "FM5", "FM6", "FM7", "FM8"};
+inline constexpr SETUPWORD fm_words[] = {WORD("FM1"), WORD("FM2"), WORD("FM3"), WORD("FM4"), WORD("FM5"), WORD("FM6"), WORD("FM7"), WORD("FM8"), {}};
+inline constexpr SETUPCOLUMN fmoutputlink_columns[] = {
+    {.head = "R Output", .width = 220, .path = SWR "Config@3D Config@FM Output Link", .part = 1, .words = fm_words},
+    {.head = "L/R Link", .width = 220, .path = SWR "Config@3D Config@FM Output Link", .part = 2, .words = words_on},
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_kpvw));
-
-inline constexpr LS_TBL ls_engsetup_switcher_config_kpvw[] = {
-    SwrList({.hn = 4, .head = {"M/E", "Key Config", "Mode", "Background"}, .width = {100, 150, 150, 150}, .group = {1, 1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_config_kpvw));
-
-inline constexpr BT_TBL bt_engsetup_switcher_config_out[] = {
-    JumpPopUp({.id = 33, .caption = "Output\nSignal", .cmd = CONFIG("Out Config")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_out));
-
-inline constexpr LS_TBL ls_engsetup_switcher_config_out[] = {
-    SwrList({.hn = 2, .head = {"Output", "Signal"}, .width = {275, 275}, .group = {1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_config_out));
-
-inline constexpr NB_TBL nb_engsetup_switcher_config_swrtiming[] = {
-    {.id = 1, .caption = "H Phase", .type = NB_INT, .min = -1100, .max = 1100, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
-    {.id = 2, .caption = "V Phase", .type = NB_INT, .min = -512,  .max = 512,  .cmd = "LOCAL@Panel@Common@Knob1", .scale = 4},
-    NB_END,
-};
-static_assert(BoxesAreSound(nb_engsetup_switcher_config_swrtiming));
-
-inline constexpr BT_TBL bt_engsetup_switcher_config_swrtiming[] = {
-    Knobs( {.id = 33, .caption = "Phase", .cmd = CONFIG("Switcher Timing@Phase"), .nb = nb_engsetup_switcher_config_swrtiming}),
-    Toggle({.id = 34, .caption = "Auto\nTiming", .cmd = CONFIG("Switcher Timing@Auto Timing#On")}),
-    TO_CONFIG,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_swrtiming));
-
-inline constexpr LS_TBL ls_engsetup_switcher_config_swrtiming[] = {
-    SwrList({.hn = 4, .head = {"Switcher", "H Phase", "V Phase", "Auto Timing"}, .width = {100, 150, 150, 150}, .group = {1, 2, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_config_swrtiming));
-
-inline constexpr BT_TBL bt_engsetup_switcher_config_3D[] = {
-    Radio({.id = 33, .caption = "2D", .group = "Mode", .cmd = CONFIG("3D Config@Mode#2D")}),
-    Radio({.id = 34, .caption = "3D", .group = "Mode", .cmd = CONFIG("3D Config@Mode#3D")}),
-    Radio({.id = 35, .caption = "L", .group = "Output", .cmd = CONFIG("3D Config@Output#L")}),
-    Radio({.id = 36, .caption = "R", .group = "Output", .cmd = CONFIG("3D Config@Output#R")}),
-    Radio({.id = 37, .caption = "L/R", .group = "Output", .cmd = CONFIG("3D Config@Output#L/R")}),
-    TO_CONFIG,
-    Jump( {.id = 50, .caption = "Input\nLink", .cmd = {"#73310012"}}),
-    Jump( {.id = 51, .caption = "FM Output\nLink", .cmd = {"#73310013"}}),
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_3D));
-
-inline constexpr LS_TBL ls_engsetup_switcher_config_3D[] = {
-    SwrList({.hn = 3, .head = {"M/E", "Mode", "Output"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_config_3D));
-
-// Which input or output carries the right eye of each. Word is that of the path.
-#define EYES(side, word) \
-    JumpPopUp({.id = 33, .caption = "R " side, .cmd = CONFIG("3D Config@" word "@R " side)}), \
-    Toggle(   {.id = 34, .caption = "L/R\nLink", .cmd = CONFIG("3D Config@" word "@Link#On")}), \
-    Jump(     {.id = 49, .caption = "3D\nConfig", .cmd = {"#73310010"}}), \
-    SWR_CLEAR_EXECUTE, \
-    BT_END
-inline constexpr BT_TBL bt_engsetup_switcher_config_3dconfig_inputlink[] = {EYES("Input", "Input Link")};
-inline constexpr BT_TBL bt_engsetup_switcher_config_3dconfig_fmoutputlink[] = {EYES("Output", "FM Output Link")};
-#undef EYES
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_3dconfig_inputlink));
-static_assert(ButtonsAreSound(bt_engsetup_switcher_config_3dconfig_fmoutputlink));
-
-inline constexpr LS_TBL ls_engsetup_switcher_config_3dconfig_inputlink[] = {
-    SwrList({.hn = 3, .head = {"L Input", "R Input", "L/R Link"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
-};
-inline constexpr LS_TBL ls_engsetup_switcher_config_3dconfig_fmoutputlink[] = {
-    SwrList({.hn = 3, .head = {"L Output", "R Output", "L/R Link"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_config_3dconfig_inputlink));
-static_assert(ListsAreSound(ls_engsetup_switcher_config_3dconfig_fmoutputlink));
+SHEET_OF(config_3dconfig_fmoutputlink, std::size(fm_outputs), fm_outputs, "L Output", 110, fmoutputlink_columns, MORE(to_eyes));
 #undef CONFIG
 #undef TO_CONFIG
 
 // --- Transition ---
 
 #define TRANSITION(word) SWR_LOCAL("Transition@" word)
-#define TO_TRANSITION Jump({.id = 49, .caption = "Transition", .cmd = {"#73340000"}})
-
-inline constexpr NB_TBL nb_engsetup_switcher_transition[] = {
-    {.id = 1, .caption = "Rate", .type = NB_INT, .min = 0, .max = 999, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
-    NB_END,
+inline constexpr BT_TBL to_transition[] = {Jump({.id = 49, .caption = "Transition", .cmd = {"#73340000"}})};
+inline constexpr SETUPWORD keytrans_words[] = {WORD("Common"), {"Independent", "Indep."}, {}};
+inline constexpr SETUPCOLUMN transition_columns[] = {
+    {.head = "Key Transition", .width = 130, .path = SWR "Transition@Key Transition@$", .words = keytrans_words, .ask = SETUP_READ},
+    {.head = "Bus Toggle", .width = 110, .path = SWR "Transition@Bus Toggle@$", .words = words_on},
+    {.head = "Split Fader", .width = 110, .path = SWR "Transition@Split Fader@$", .words = words_on},
+    {.head = "Default Rate", .width = 110, .path = SWR "Transition@Default Rate@$", .min = 0, .max = 999, .caption = "Rate"},
 };
-static_assert(BoxesAreSound(nb_engsetup_switcher_transition));
+inline constexpr BT_TBL transition_more[] = {Jump({.id = 49, .caption = "Preset\nColor Mix", .cmd = {"#73340001"}}), Jump({.id = 50, .caption = "Transition\nCurve", .cmd = {"#73340002"}})};
+BANK_SHEET(transition, 90, transition_columns, ON_AIR, MORE(transition_more));
 
-inline constexpr BT_TBL bt_engsetup_switcher_transition[] = {
-    Radio( {.id = 33, .caption = "Common", .group = "Key Transition", .cmd = TRANSITION("Key Transition#Common")}),
-    Radio( {.id = 34, .caption = "Indepen-\ndent", .group = "Key Transition", .cmd = TRANSITION("Key Transition#Independent")}),
-    Toggle({.id = 35, .caption = "Bus\nToggle", .cmd = TRANSITION("Bus Toggle#On")}),
-    Toggle({.id = 36, .caption = "Split\nFader", .cmd = TRANSITION("Split Fader#On")}),
-    Knobs( {.id = 37, .caption = "Default\nRate", .cmd = TRANSITION("Default Rate"), .nb = nb_engsetup_switcher_transition}),
-    Jump(  {.id = 49, .caption = "Preset\nColor Mix", .cmd = {"#73340001"}}),
-    Jump(  {.id = 50, .caption = "Transition\nCurve", .cmd = {"#73340002"}}),
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+inline constexpr SETUPWORD preset_strokes[] = {WORD("1 Stroke"), WORD("2 Strokes"), {}};
+inline constexpr SETUPWORD preset_patterns[] = {WORD("Mix"), WORD("Wipe"), {}};
+inline constexpr SETUPWORD preset_fills[] = {WORD("Matte"), WORD("Color Bkgd 1"), WORD("Color Bkgd 2"), WORD("FM1"), WORD("FM2"), WORD("Black"), {}};
+inline constexpr SETUPCOLUMN presetcolormix_columns[] = {
+    {.head = "Stroke", .width = 150, .path = SWR "Transition@Preset Color Mix@Stroke@$", .words = preset_strokes},
+    {.head = "Pattern", .width = 150, .path = SWR "Transition@Preset Color Mix@Pattern@$", .words = preset_patterns},
+    {.head = "Fill", .width = 150, .path = SWR "Transition@Preset Color Mix@Fill@$", .words = preset_fills},
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_transition));
+BANK_SHEET(transition_presetcolormix, 100, presetcolormix_columns, MORE(to_transition));
 
-inline constexpr LS_TBL ls_engsetup_switcher_transition[] = {
-    SwrList({.hn = 5, .head = {"M/E", "Key Transition", "Bus Toggle", "Split Fader", "Default Rate"}, .width = {90, 130, 110, 110, 110}, .group = {1, 1, 2, 999}}),
-    LS_END,
+inline constexpr SETUPWORD curve_words[] = {WORD("Linear"), WORD("S Curve"), WORD("Curve1"), WORD("Curve2"), WORD("Curve3"), WORD("Curve4"), {}};
+inline constexpr SETUPCOLUMN transitioncurve_columns[] = {
+    {.head = "Mix", .width = 150, .path = SWR "Transition@Transition Curve@Mix@$", .words = curve_words, .group = "Curve"},
+    {.head = "Wipe", .width = 150, .path = SWR "Transition@Transition Curve@Wipe@$", .words = curve_words, .group = "Curve"},
+    {.head = "DME Wipe", .width = 150, .path = SWR "Transition@Transition Curve@DME Wipe@$", .words = curve_words, .group = "Curve"},
 };
-static_assert(ListsAreSound(ls_engsetup_switcher_transition));
-
-inline constexpr BT_TBL bt_engsetup_switcher_transition_presetcolormix[] = {
-    Radio(    {.id = 33, .caption = "1 Stroke", .group = "Stroke", .cmd = TRANSITION("Preset Color Mix@Stroke#1 Stroke")}),
-    Radio(    {.id = 34, .caption = "2 Strokes", .group = "Stroke", .cmd = TRANSITION("Preset Color Mix@Stroke#2 Strokes")}),
-    Radio(    {.id = 35, .caption = "Mix", .group = "Pattern", .cmd = TRANSITION("Preset Color Mix@Pattern#Mix")}),
-    Radio(    {.id = 36, .caption = "Wipe", .group = "Pattern", .cmd = TRANSITION("Preset Color Mix@Pattern#Wipe")}),
-    JumpPopUp({.id = 37, .caption = "Fill", .cmd = TRANSITION("Preset Color Mix@Fill")}),
-    TO_TRANSITION,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_transition_presetcolormix));
-
-inline constexpr LS_TBL ls_engsetup_switcher_transition_presetcolormix[] = {
-    SwrList({.hn = 4, .head = {"M/E", "Stroke", "Pattern", "Fill"}, .width = {100, 150, 150, 150}, .group = {1, 2, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_transition_presetcolormix));
-
-inline constexpr BT_TBL bt_engsetup_switcher_transition_transitioncurve[] = {
-    JumpPopUp({.id = 33, .caption = "Mix", .group = "Curve", .cmd = TRANSITION("Transition Curve@Mix")}),
-    JumpPopUp({.id = 34, .caption = "Wipe", .group = "Curve", .cmd = TRANSITION("Transition Curve@Wipe")}),
-    JumpPopUp({.id = 35, .caption = "DME Wipe", .group = "Curve", .cmd = TRANSITION("Transition Curve@DME Wipe")}),
-    TO_TRANSITION,
-    Jump(     {.id = 50, .caption = "Fader\nCurve", .cmd = {"#73340003"}}),
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_transition_transitioncurve));
-
-inline constexpr LS_TBL ls_engsetup_switcher_transition_transitioncurve[] = {
-    SwrList({.hn = 4, .head = {"M/E", "Mix", "Wipe", "DME Wipe"}, .width = {100, 150, 150, 150}, .group = {1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_transition_transitioncurve));
+inline constexpr BT_TBL transitioncurve_more[] = {to_transition[0], Jump({.id = 50, .caption = "Fader\nCurve", .cmd = {"#73340003"}})};
+BANK_SHEET(transition_transitioncurve, 100, transitioncurve_columns, MORE(transitioncurve_more));
 
 // What the transition shows at a place of the fader, both in per cent.
 #define CURVE_POINT(n, at, knob) {.id = n, .caption = at, .type = NB_INT, .min = 0, .max = 100, .cmd = "LOCAL@Panel@Common@Knob" knob, .scale = 4}
@@ -377,131 +264,84 @@ inline constexpr LS_TBL ls_engsetup_switcher_transition_transitioncurve_fadercur
 };
 static_assert(ListsAreSound(ls_engsetup_switcher_transition_transitioncurve_fadercurve));
 #undef TRANSITION
-#undef TO_TRANSITION
 
 // --- Key/Wipe/FM/CCR ---
 
-#define KEY(word) SWR_LOCAL("Key/Wipe/FM/CCR@" word)
-#define TO_KEY Jump({.id = 49, .caption = "Key/Wipe\nFM/CCR", .cmd = {"#73350000"}})
-
-inline constexpr NB_TBL nb_engsetup_switcher_keywipe[] = {
-    {.id = 1, .caption = "Delay", .type = NB_INT, .min = -8, .max = 8, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
-    NB_END,
+inline constexpr SETUPWORD aspect_words[] = {WORD("16:9"), WORD("4:3"), {}};
+inline constexpr SETUPCOLUMN keywipe_columns[] = {
+    {.head = "Wipe Aspect", .width = 220, .path = SWR "Key/Wipe/FM/CCR@Wipe Aspect@$", .words = aspect_words},
+    {.head = "Key Delay", .width = 220, .path = SWR "Key/Wipe/FM/CCR@Key Delay@$", .min = -8, .max = 8},
 };
-static_assert(BoxesAreSound(nb_engsetup_switcher_keywipe));
-
-inline constexpr BT_TBL bt_engsetup_switcher_keywipe[] = {
-    Radio( {.id = 33, .caption = "16:9", .group = "Wipe Aspect", .cmd = KEY("Wipe Aspect#16:9")}),
-    Radio( {.id = 34, .caption = "4:3", .group = "Wipe Aspect", .cmd = KEY("Wipe Aspect#4:3")}),
-    Knobs( {.id = 35, .caption = "Key\nDelay", .cmd = KEY("Key Delay"), .nb = nb_engsetup_switcher_keywipe}),
+inline constexpr BT_TBL keywipe_more[] = {
     // Followed all the time: the page must not end that.
     Toggle({.id = 37, .caption = "FM Auto\nStore", .cmd = {SWR "Key/Wipe@FM Auto Store#*"}, .no_add = 1}),
     Toggle({.id = 38, .caption = "CCR\nInternal\nSignal", .cmd = {SWR "Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl#*"}, .no_add = 1}),
     Jump(  {.id = 49, .caption = "CCR\nV Proc", .cmd = {"#73350001"}}),
     Jump(  {.id = 50, .caption = "DSK\nAuto Drop", .cmd = {"#73350002"}}),
     Jump(  {.id = 51, .caption = "Show Key", .cmd = {"#73350003"}}),
-    SWR_CLEAR_EXECUTE,
-    BT_END,
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipe));
+BANK_SHEET(keywipe, 110, keywipe_columns, ON_AIR, .title = "Key Delay", MORE(keywipe_more));
 
-inline constexpr LS_TBL ls_engsetup_switcher_keywipe[] = {
-    SwrList({.hn = 3, .head = {"M/E", "Wipe Aspect", "Key Delay"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
+inline constexpr BT_TBL to_key[] = {Jump({.id = 49, .caption = "Key/Wipe\nFM/CCR", .cmd = {"#73350000"}})};
+inline constexpr const char* correctors[] = {"CCR1", "CCR2", "CCR3", "CCR4"};
+inline constexpr SETUPCOLUMN ccrvproc_columns[] = {
+    {.head = "V Proc", .width = 95, .path = SWR "Key/Wipe/FM/CCR@CCR V Proc@V Proc@$", .words = words_on},
+    {.head = "Luminance", .width = 95, .path = SWR "Key/Wipe/FM/CCR@CCR V Proc@Luminance@$", .min = 0, .max = 200},
+    {.head = "Chroma", .width = 95, .path = SWR "Key/Wipe/FM/CCR@CCR V Proc@Chroma@$", .min = 0, .max = 200},
+    {.head = "Hue", .width = 95, .path = SWR "Key/Wipe/FM/CCR@CCR V Proc@Hue@$", .min = -180, .max = 180},
+    {.head = "Black", .width = 95, .path = SWR "Key/Wipe/FM/CCR@CCR V Proc@Black@$", .min = -50, .max = 50},
 };
-static_assert(ListsAreSound(ls_engsetup_switcher_keywipe));
+SHEET_OF(keywipe_ccrvproc, std::size(correctors), correctors, "CCR", 75, ccrvproc_columns, ON_AIR, MORE(to_key));
 
-inline constexpr NB_TBL nb_engsetup_switcher_keywipe_ccrvproc[] = {
-    {.id = 1, .caption = "Luminance", .type = NB_INT, .min = 0, .max = 200, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
-    {.id = 2, .caption = "Chroma",    .type = NB_INT, .min = 0, .max = 200, .cmd = "LOCAL@Panel@Common@Knob1", .scale = 4},
-    {.id = 3, .caption = "Hue",       .type = NB_INT, .min = -180, .max = 180, .cmd = "LOCAL@Panel@Common@Knob2", .scale = 4},
-    {.id = 4, .caption = "Black",     .type = NB_INT, .min = -50, .max = 50, .cmd = "LOCAL@Panel@Common@Knob3", .scale = 4},
-    NB_END,
+inline constexpr const char* downstream_keys[] = {"DSK1", "DSK2", "DSK3", "DSK4", "DSK5", "DSK6", "DSK7", "DSK8"};
+inline constexpr SETUPWORD drop_modes[] = {WORD("Cut"), WORD("Auto Trans"), {}};
+inline constexpr SETUPCOLUMN dskautodrop_columns[] = {
+    {.head = "Auto Drop", .width = 220, .path = SWR "Key/Wipe/FM/CCR@DSK Auto Drop@Auto Drop@$", .words = words_on},
+    {.head = "Mode", .width = 220, .path = SWR "Key/Wipe/FM/CCR@DSK Auto Drop@Mode@$", .words = drop_modes},
 };
-static_assert(BoxesAreSound(nb_engsetup_switcher_keywipe_ccrvproc));
+SHEET_OF(keywipefm_dskautodrop, std::size(downstream_keys), downstream_keys, "DSK", 110, dskautodrop_columns, MORE(to_key));
 
-inline constexpr BT_TBL bt_engsetup_switcher_keywipe_ccrvproc[] = {
-    Knobs( {.id = 33, .caption = "Adjust", .cmd = KEY("CCR V Proc@Adjust"), .nb = nb_engsetup_switcher_keywipe_ccrvproc}),
-    Toggle({.id = 34, .caption = "V Proc", .cmd = KEY("CCR V Proc@V Proc#On")}),
-    TO_KEY,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
+inline constexpr SETUPWORD show_outputs[] = {WORD("PVW"), WORD("Key PVW"), WORD("Aux 1"), WORD("Aux 2"), WORD("Aux 3"), WORD("Aux 4"), WORD("Mon 1"), WORD("Mon 2"), {}};
+inline constexpr SETUPWORD show_modes[] = {WORD("Hold"), WORD("Latch"), {}};
+inline constexpr SETUPCOLUMN showkey_columns[] = {
+    {.head = "Output", .width = 220, .path = SWR "Key/Wipe/FM/CCR@Show Key@Output@$", .words = show_outputs},
+    {.head = "Mode", .width = 220, .path = SWR "Key/Wipe/FM/CCR@Show Key@Mode@$", .words = show_modes},
 };
-static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipe_ccrvproc));
-
-inline constexpr LS_TBL ls_engsetup_switcher_keywipe_ccrvproc[] = {
-    SwrList({.hn = 6, .head = {"CCR", "V Proc", "Luminance", "Chroma", "Hue", "Black"}, .width = {75, 95, 95, 95, 95, 95}, .group = {1, 1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_keywipe_ccrvproc));
-
-inline constexpr BT_TBL bt_engsetup_switcher_keywipefm_dskautodrop[] = {
-    Toggle({.id = 33, .caption = "Auto Drop", .cmd = KEY("DSK Auto Drop@Auto Drop#On")}),
-    Radio( {.id = 34, .caption = "Cut", .group = "Mode", .cmd = KEY("DSK Auto Drop@Mode#Cut")}),
-    Radio( {.id = 35, .caption = "Auto\nTrans", .group = "Mode", .cmd = KEY("DSK Auto Drop@Mode#Auto Trans")}),
-    TO_KEY,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipefm_dskautodrop));
-
-inline constexpr LS_TBL ls_engsetup_switcher_keywipefm_dskautodrop[] = {
-    SwrList({.hn = 3, .head = {"DSK", "Auto Drop", "Mode"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_keywipefm_dskautodrop));
-
-inline constexpr BT_TBL bt_engsetup_switcher_keywipefm_showkey[] = {
-    JumpPopUp({.id = 33, .caption = "Output", .cmd = KEY("Show Key@Output")}),
-    Radio(    {.id = 34, .caption = "Hold", .group = "Mode", .cmd = KEY("Show Key@Mode#Hold")}),
-    Radio(    {.id = 35, .caption = "Latch", .group = "Mode", .cmd = KEY("Show Key@Mode#Latch")}),
-    TO_KEY,
-    SWR_CLEAR_EXECUTE,
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engsetup_switcher_keywipefm_showkey));
-
-inline constexpr LS_TBL ls_engsetup_switcher_keywipefm_showkey[] = {
-    SwrList({.hn = 3, .head = {"M/E", "Output", "Mode"}, .width = {110, 220, 220}, .group = {1, 999}}),
-    LS_END,
-};
-static_assert(ListsAreSound(ls_engsetup_switcher_keywipefm_showkey));
-#undef KEY
-#undef TO_KEY
+BANK_SHEET(keywipefm_showkey, 110, showkey_columns, MORE(to_key));
 
 #define TABS(n) Base(base_main), LeftTabs(vf_setup, 3), BottomTabs(hf_setup_switcher, n)
 #define TREE(...) {"Engineering Setup", "Switcher", __VA_ARGS__}
-// What makes a page: keys, list and code by one name.
 #define OBJECTS(n, name) {TABS(n), Buttons(bt_engsetup_switcher_##name), Lists(ls_engsetup_switcher_##name), Code(pc_engsetup_switcher_##name)}
 #define OBJECTS_KNOBS(n, name) {TABS(n), Buttons(bt_engsetup_switcher_##name), Boxes(NB_Non), Lists(ls_engsetup_switcher_##name), Code(pc_engsetup_switcher_##name)}
+#define SHEET(n, name) {TABS(n), SHEET_OBJECTS(engsetup_switcher_##name), Code(SetupSheet_Code<engsetup_switcher_##name>)}
 inline constexpr PAGE setup_switcher_pages[] = {
     {.id = 0x73310000, .tree = TREE("Config"), .obj = OBJECTS(1, config)},
-    {.id = 0x73310001, .tree = TREE("Config", "User1-8 Config"), .obj = OBJECTS(1, config_user)},
+    {.id = 0x73310001, .tree = TREE("Config", "User1-8 Config"), .obj = SHEET(1, config_user)},
     {.id = 0x73310102, .tree = TREE("Config", "PGM Config"), .obj = OBJECTS(1, config_pgm)},
-    {.id = 0x73310003, .tree = TREE("Config", "Logical M/E"), .obj = OBJECTS(1, config_logicalme)},
-    {.id = 0x73310004, .tree = TREE("Config", "Side Flags"), .obj = OBJECTS(1, config_sideflags)},
-    {.id = 0x73310005, .tree = TREE("Config", "Key Config"), .obj = OBJECTS(1, config_keyconfig)},
-    {.id = 0x73310006, .tree = TREE("Config", "Out Config"), .obj = OBJECTS(1, config_out)},
-    {.id = 0x73310106, .tree = TREE("Config", "Out Config"),
-     .obj = {TABS(1), Buttons(bt_engsetup_switcher_config_out), Lists(ls_engsetup_switcher_config_out), Code(pc_engsetup_switcher_config_out6)}},
-    {.id = 0x73310007, .tree = TREE("Config", "Switcher Timing"), .obj = OBJECTS_KNOBS(1, config_swrtiming), .knobassign = 33},
-    {.id = 0x73310008, .tree = TREE("Config", "CG Border"), .obj = OBJECTS(1, config_cgborder)},
-    {.id = 0x73310009, .tree = TREE("Config", "Key PVW"), .obj = OBJECTS(1, config_kpvw)},
-    {.id = 0x73310010, .tree = TREE("Config", "3D Config"), .obj = OBJECTS(1, config_3D)},
-    {.id = 0x73310011, .tree = TREE("Config", "Key Config", "Sub Key Mode"), .obj = OBJECTS(1, config_keyconfig_subkeymode)},
-    {.id = 0x73310012, .tree = TREE("Config", "3D Config", "Input Link"), .obj = OBJECTS(1, config_3dconfig_inputlink)},
-    {.id = 0x73310013, .tree = TREE("Config", "3D Config", "FM Output Link"), .obj = OBJECTS(1, config_3dconfig_fmoutputlink)},
-    {.id = 0x73310015, .tree = TREE("Config", "DME Config"), .obj = OBJECTS(1, config_dmeconfig)},
-    {.id = 0x73340000, .tree = TREE("Transition"), .obj = OBJECTS_KNOBS(4, transition), .knobassign = 37},
-    {.id = 0x73340001, .tree = TREE("Transition", "Preset Color Mix"), .obj = OBJECTS(4, transition_presetcolormix)},
-    {.id = 0x73340002, .tree = TREE("Transition", "Transition Curve"), .obj = OBJECTS(4, transition_transitioncurve)},
+    {.id = 0x73310003, .tree = TREE("Config", "Logical M/E"), .obj = SHEET(1, config_logicalme)},
+    {.id = 0x73310004, .tree = TREE("Config", "Side Flags"), .obj = SHEET(1, config_sideflags)},
+    {.id = 0x73310005, .tree = TREE("Config", "Key Config"), .obj = SHEET(1, config_keyconfig)},
+    {.id = 0x73310006, .tree = TREE("Config", "Out Config"), .obj = SHEET(1, config_out)},
+    {.id = 0x73310106, .tree = TREE("Config", "Out Config"), .obj = SHEET(1, config_out6)},
+    {.id = 0x73310007, .tree = TREE("Config", "Switcher Timing"), .obj = SHEET(1, config_swrtiming)},
+    {.id = 0x73310008, .tree = TREE("Config", "CG Border"), .obj = SHEET(1, config_cgborder)},
+    {.id = 0x73310009, .tree = TREE("Config", "Key PVW"), .obj = SHEET(1, config_kpvw)},
+    {.id = 0x73310010, .tree = TREE("Config", "3D Config"), .obj = SHEET(1, config_3D)},
+    {.id = 0x73310011, .tree = TREE("Config", "Key Config", "Sub Key Mode"), .obj = SHEET(1, config_keyconfig_subkeymode)},
+    {.id = 0x73310012, .tree = TREE("Config", "3D Config", "Input Link"), .obj = SHEET(1, config_3dconfig_inputlink)},
+    {.id = 0x73310013, .tree = TREE("Config", "3D Config", "FM Output Link"), .obj = SHEET(1, config_3dconfig_fmoutputlink)},
+    {.id = 0x73310015, .tree = TREE("Config", "DME Config"), .obj = SHEET(1, config_dmeconfig)},
+    {.id = 0x73340000, .tree = TREE("Transition"), .obj = SHEET(4, transition)},
+    {.id = 0x73340001, .tree = TREE("Transition", "Preset Color Mix"), .obj = SHEET(4, transition_presetcolormix)},
+    {.id = 0x73340002, .tree = TREE("Transition", "Transition Curve"), .obj = SHEET(4, transition_transitioncurve)},
     {.id = 0x73340003, .tree = TREE("Transition", "Transition Curve", "Fader Curve"), .obj = OBJECTS_KNOBS(4, transition_transitioncurve_fadercurve), .knobassign = BTN_CURVE_POINTS},
-    {.id = 0x73350000, .tree = TREE("Key/Wipe/FM/CCR"), .obj = OBJECTS_KNOBS(5, keywipe), .knobassign = 35},
-    {.id = 0x73350001, .tree = TREE("Key/Wipe/FM/CCR", "CCR V Proc"), .obj = OBJECTS_KNOBS(5, keywipe_ccrvproc), .knobassign = 33},
-    {.id = 0x73350002, .tree = TREE("Key/Wipe/FM/CCR", "DSK Auto Drop"), .obj = OBJECTS(5, keywipefm_dskautodrop)},
-    {.id = 0x73350003, .tree = TREE("Key/Wipe/FM/CCR", "Show Key"), .obj = OBJECTS(5, keywipefm_showkey)},
+    {.id = 0x73350000, .tree = TREE("Key/Wipe/FM/CCR"), .obj = SHEET(5, keywipe)},
+    {.id = 0x73350001, .tree = TREE("Key/Wipe/FM/CCR", "CCR V Proc"), .obj = SHEET(5, keywipe_ccrvproc)},
+    {.id = 0x73350002, .tree = TREE("Key/Wipe/FM/CCR", "DSK Auto Drop"), .obj = SHEET(5, keywipefm_dskautodrop)},
+    {.id = 0x73350003, .tree = TREE("Key/Wipe/FM/CCR", "Show Key"), .obj = SHEET(5, keywipefm_showkey)},
 };
 #undef TABS
 #undef TREE
 #undef OBJECTS
 #undef OBJECTS_KNOBS
+#undef SHEET
