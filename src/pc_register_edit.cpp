@@ -34,7 +34,7 @@ constexpr unsigned CELL_LINKED = 0x005A6E;
 constexpr unsigned CELL_SELECTED = 0x00C8F0;
 constexpr Rect HEAD = {100, 76, 701, 98};
 
-constexpr int LAYER_X = 102; // of the layers' captions
+constexpr int LAYER_X = 100; // of the layers' captions
 
 constexpr Rect CellRect(int layer, int slot)
 {

@@ -30,7 +30,7 @@ constexpr int LIST = 1;
 constexpr int FONT_HEAD = 3;
 constexpr int FONT_DETAIL = 2;
 constexpr Rect HEAD = {100, 368, 560, 386};
-constexpr Rect DETAIL = {100, 388, 652, 432};
+constexpr Rect DETAIL = {100, 387, 566, 428};
 constexpr unsigned DETAIL_LABEL = 0x9FD8DC;
 constexpr int HOURS = 4; // down to frames
 constexpr int SUB_REGIONS = int(ClipEventSubREG.size());
@@ -216,7 +216,7 @@ static CE_FMCLIP_INFO clips_at(int sub)
 
 static void draw_clip(const char* label, const CE_FMCLIP& clip, int y)
 {
-    constexpr int NAME_X = 60, DUR_X = 200, PAIR_X = 290, LOOP_X = 330, FILE_X = 376;
+    constexpr int NAME_X = 48, DUR_X = 170, PAIR_X = 244, LOOP_X = 276, FILE_X = 312;
     const int x = DETAIL.x1 + 8;
     TDL_SymbolS(x, y, label, FONT_DETAIL, DETAIL_LABEL);
     TDL_SymbolWS(x + NAME_X, y, DUR_X - NAME_X - 8, *clip.name ? clip.name : "--", FONT_DETAIL,
@@ -232,8 +232,8 @@ static void draw_detail()
 {
     const CE_FMCLIP_INFO info = clips_at(std::max(cp.cursor, 0));
     RegisterStrip_DrawGround(DETAIL);
-    draw_clip("Event", info.clip[0], DETAIL.y1 + 6);
-    draw_clip("Output", info.clip[1], DETAIL.y1 + 24);
+    draw_clip("Event", info.clip[0], DETAIL.y1 + 5);
+    draw_clip("Output", info.clip[1], DETAIL.y1 + 22);
     TDL_UpdateRect(DETAIL.x1, DETAIL.y1, DETAIL.x2, DETAIL.y2);
 }
 
