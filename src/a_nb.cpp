@@ -1,7 +1,10 @@
 #include "a_nb.h"
+#include "a_ba.h"
 #include "a_nb_private.h"
 #include "command.h"
 #include "message.h"
+#include "page.h"
+#include "setup_index.h"
 #include "text.h"
 #include "timecode.h"
 #include <climits>
@@ -59,6 +62,14 @@ void nb_mark(int id)
 {
     if (NB_MEM* b = nb_find(id))
         b->redraw = 1;
+}
+
+bool nb_refuses()
+{
+    if (!SetupIndex_IsLocked(GL_NowPage))
+        return false;
+    BA_FlashSetupLock();
+    return true;
 }
 
 int nb_round(double v)

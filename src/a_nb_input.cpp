@@ -232,14 +232,18 @@ int nb_press(int x, int y, int button)
 {
     if (!nb.is_open || !Inside(NB_COLUMN, x, y))
         return 0;
-    if (button == BUTTON_DEFAULT) {
-        if (const NB_MEM* b = nb_box_in(slot_at(y)))
-            recall_default(*b);
-    } else if (button != BUTTON_SLIDER && Inside(TITLE_KEY, x, y)) {
+    const bool is_left = button != BUTTON_DEFAULT && button != BUTTON_SLIDER;
+    if (is_left && Inside(TITLE_KEY, x, y)) {
         nb_next_layer();
-    } else {
-        nb_select(x, y, button);
+        return 0;
     }
+    const NB_MEM* const b = nb_box_in(slot_at(y));
+    if (!b || nb_refuses())
+        return 0;
+    if (button == BUTTON_DEFAULT)
+        recall_default(*b);
+    else
+        nb_select(x, y, button);
     return 0;
 }
 
@@ -337,7 +341,7 @@ static double wheel_step(const NB_MEM& b, uint32_t elapsed_ms)
 static int turn_wheel(int x, int y, int sense, uint32_t& last_ms)
 {
     NB_MEM* b = nb.is_open && Inside(NB_COLUMN, x, y) ? nb_box_in(slot_at(y)) : nullptr;
-    if (!b)
+    if (!b || nb_refuses())
         return 0;
     const double step = wheel_step(*b, step_time(last_ms));
     if (b->var_valid)

@@ -89,6 +89,7 @@ NB_MEM* nb_find(int id);
 NB_MEM* nb_box_in(int slot); // of the shown layer
 void nb_mark(int id);        // the box, if there is one, is to be repainted
 int nb_round(double v);      // half away from zero, held to the range of an int
+bool nb_refuses();           // a locked setup page takes no change; its lock says so
 double nb_value_of_text(const NB_MEM& b, const char* text); // of a text that NB_Text has made
 
 // --- Tables (a_nb_table.cpp) ---

@@ -9,6 +9,8 @@
 #include "log.h"
 #include "message.h"
 #include "netio.h"
+#include "page.h"
+#include "setup_index.h"
 #include "text.h"
 #include "window.h"
 #include <cstring>
@@ -146,10 +148,11 @@ static void unsubscribe_alone(NB_MEM& b)
     unsubscribe(b);
 }
 
+// The server would apply the turns that a locked page refuses.
 static void assign_knob(const NB_MEM& b)
 {
     const char* path = nb_wire_path(b);
-    if (path && nb_is_shown(b))
+    if (path && nb_is_shown(b) && !SetupIndex_IsLocked(GL_NowPage))
         Net_SendCommandFormat("assign Knob%X#%s", unsigned(nb_slot(b) - 1), path);
 }
 

@@ -35,7 +35,7 @@ static void take_parameter(NB_MEM& b, double v)
 
 static void tell_difference(const NB_MEM& b, double counts)
 {
-    if (!nb_is_shown(b))
+    if (!nb_is_shown(b) || nb_refuses())
         return;
     const double difference = counts * b.scale;
     SendMessage(LMSG_KNOBDIFF, b.id, Arg(&difference), 0, 0);
@@ -73,7 +73,7 @@ static void tell_turn(int id, int before, const Hit& hit)
 
 static void turn(NB_MEM& b, double counts)
 {
-    if (!nb_is_shown(b) || GetWindow() || Pane_GetActiveID())
+    if (!nb_is_shown(b) || GetWindow() || Pane_GetActiveID() || nb_refuses())
         return;
     if (b.scale == 0) {
         Log_Output(LOG_LINK, MOD_PAGE, "NB Object without scale: id=%d", b.id);

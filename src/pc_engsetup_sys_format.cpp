@@ -164,7 +164,7 @@ static constexpr SETUPFIELD format_fields[] = {
      .to_wire = oldcommand_of_format},
     {SETUP_CELL(format, format), .path = FORMAT "Video Format@$", .column = COL_FORMAT,
      .is_put = 0, // an effects unit follows its switcher
-     .ask = SETUP_HEAR, .has = is_effects, .from_wire = format_of_oldcommand},
+     .ask = SETUP_READ, .has = is_effects, .from_wire = format_of_oldcommand},
     {SETUP_CELL(format, device), .column = COL_DEVICE},
 };
 
@@ -353,6 +353,7 @@ const PC_TBL pc_engsetup_system_format = {.proc_func = pc_engsetup_system_format
 
 #define OUTPUT "Engineering Setup@Switcher@Output@"
 #define LOCAL_AUX LOCAL_FORMAT "AUX Signal Forma@" // the system's own word
+#define AUX_NORMAL "Normal"
 
 namespace
 {
@@ -372,8 +373,9 @@ static auxsignal AuxSignalTly[OUTPUTS];
 static int AuxSignalMax = 0;
 static SETUPSTATE aux_state;
 
+// What has not been told goes out as a normal one: a put has all outputs.
 static constexpr SETUPWORD aux_words[] = {
-    {"0", "Normal"}, {"1", "1080i"}, {"2", "59.94Hz(2x)"}, {}};
+    {"0", ""}, {"0", AUX_NORMAL}, {"1", "1080i"}, {"2", "59.94Hz(2x)"}, {}};
 static constexpr SETUPFIELD aux_fields[] = {
     {SETUP_CELL(auxsignal, signal), .path = OUTPUT "Signal Format", .part = SETUP_EACH_ROW,
      .column = 3, .words = aux_words},
@@ -398,7 +400,7 @@ static void aux_changed()
 {
     for (int row = 0; row < AuxSignalMax; row++) {
         auxsignal& a = AuxSignal[row];
-        if (!a.signal[0] || Same(a.signal, aux_words[0].text))
+        if (!a.signal[0] || Same(a.signal, AUX_NORMAL))
             PrintText(a.caption, "%-2d", row + 1);
         else
             PrintText(a.caption, "%-2d (%s)", row + 1, a.signal);

@@ -139,14 +139,15 @@ static SETUPMENU* menu_of(int row)
     return i >= 0 ? &SetupMenu[i] : nullptr;
 }
 
-static void add_item(const SETUPMENU& menu)
+static bool add_item(const SETUPMENU& menu)
 {
     if (sl.rows >= OPE_LOCK_ROWS) {
         Log_Output(LOG_ALWAYS, MOD_GLOBAL, "Can't set SetupOpeLock table  Max(%d)  Menu : %08x",
                    OPE_LOCK_ROWS, menu.page);
-        return;
+        return false;
     }
     SetupOpeLock[sl.rows++] = {menu.lock, menu.page};
+    return true;
 }
 
 // By their numbers, as an operator looks for them.
@@ -179,12 +180,12 @@ static void show_lock_keys()
 
 static void build_list()
 {
-    const int first = SetupMenuTbl[VFGroupSel].off;
-    const int last = first + SetupMenuTbl[VFGroupSel].num; // behind the group
+    const int VFGroup_Start = SetupMenuTbl[VFGroupSel].off;
+    const int VFGroup_End = VFGroup_Start + SetupMenuTbl[VFGroupSel].num; // behind the group
     sl.rows = 0;
-    for (int i = first; i < last; i++)
-        if (SetupMenu[i].active && SetupMenu[i].page != PAGE_SETUP_LOCK)
-            add_item(SetupMenu[i]);
+    for (int i = VFGroup_Start; i < VFGroup_End; i++)
+        if (SetupMenu[i].active && SetupMenu[i].page != PAGE_SETUP_LOCK && !add_item(SetupMenu[i]))
+            break;
     show_items();
     mirror("VF Group", NumStr(VFGroupSel));
     show_locks();

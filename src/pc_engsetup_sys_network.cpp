@@ -64,14 +64,15 @@ static void end_job()
     job = {};
 }
 
+// The outcome is followed from the put on: before it the path still has that of the time before.
 static void start_job(const char* path, const char* caption, const char* message,
                       void (*ended)(bool is_ok))
 {
     end_job();
     constexpr int no_cancel = 0;
     job = {path, PaneProgress_Create(caption, message, no_cancel), ANSWER_MS, ended};
-    Net_SendCommandFormat("add %s", path); // its answer is of the time before
     Net_SendCommandFormat("put %s#true", path);
+    Net_SendCommandFormat("add %s", path);
 }
 
 static void finish_job(bool is_ok)

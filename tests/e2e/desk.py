@@ -17,6 +17,7 @@ import time
 HERE = os.path.dirname(os.path.abspath(__file__))
 SOURCE = os.path.dirname(os.path.dirname(HERE))
 SANDBOX = os.path.join(SOURCE, "tools", "sandbox")
+IMAGE = os.path.join(SOURCE, "sim", "image")  # stand-ins for programs of the device
 
 EV_SYN, EV_KEY, EV_ABS, BTN_TOUCH = 0, 1, 3, 330
 SERVER_WAIT = 5.0  # seconds that the application gives the server at start-up
@@ -85,7 +86,7 @@ class Desk:
         # The X library keeps a few bytes to the end; the unit tests look for leaks.
         env.setdefault("ASAN_OPTIONS", "detect_leaks=0")
         self.box = subprocess.Popen(
-            [SANDBOX, "--root", self.root, "--", "/usr/bin/python3", os.path.join(HERE, "box.py"), self.work],
+            [SANDBOX, "--root", self.root, "--device", IMAGE, "--", "/usr/bin/python3", os.path.join(HERE, "box.py"), self.work],
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=env, text=True, bufsize=1)
         assert self.box.stdout.readline().strip() == "ready"
 

@@ -1,6 +1,7 @@
 #include "a_nb_column.h"
 #include "global.h"
 #include "pane.h"
+#include "setup_index.h"
 #include <array>
 
 using Lines = std::vector<std::string>;
@@ -48,6 +49,41 @@ TEST_F(KnobColumn, ATableTakesTheKnobsAndTheNextOneGivesThemBackFirst)
     (void)TakeQueuedCommands();
     EXPECT_EQ(NB_Create(nullptr, ""), 1);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("assign Knob0#null", "remove M/E-1@Key1@Gain"));
+}
+
+TEST_F(KnobColumn, ALockedSetupPageRefusesEveryWayToMoveAValue)
+{
+    const uint32_t before = GL_NowPage;
+    GL_NowPage = 0x73170000;
+    SetupIndex_Build();
+    SetupMenu[SetupIndex_Find(GL_NowPage)].lock = 1;
+    for (const bool is_locked : {true, false}) {
+        SetupLock.lock = is_locked;
+        NB_Create(table, "Chroma");
+        const Lines sent = TakeQueuedCommands();
+        EXPECT_EQ(std::count(sent.begin(), sent.end(), std::string("assign Knob0#") + CLIP),
+                  !is_locked);
+        Tally(CLIP, "50");
+        Forget();
+        PressSlot(1, 2); // Default
+        Wheel(MSG_WHEELDOWN, 1);
+        PressSlot(2, 3); // the bar
+        Drag(790, false, true);
+        SendMessage(MSG_RELEASE, 790, 300, 3, 0);
+        Tally("Panel@Common@Knob1", "7");
+        Tally("Panel@Common@Knob2", "7");
+        EXPECT_EQ(TakeQueuedCommands().empty(), is_locked);
+        EXPECT_EQ(Told().empty(), is_locked);
+        PressSlot(1);
+        EXPECT_EQ(GetWindow() == WINDOW_NONE, is_locked);
+        PressTitle();
+        EXPECT_EQ(NB_GetLayer(), 1) << "looking is free";
+        PressTitle();
+    }
+    (void)CloseWindow();
+    SetupLock.lock = 0;
+    SetupMenu[SetupIndex_Find(GL_NowPage)].lock = 0;
+    GL_NowPage = before;
 }
 
 TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)

@@ -150,8 +150,10 @@ TEST_F(FormatPage, AuxiliaryOutputsTakeTheirFormatsInOnePut)
     (void)Push(BTN_SETUP_EXECUTE);
     const Lines sent = Answer(YES);
     ASSERT_EQ(sent.size(), 1u);
-    EXPECT_THAT(sent[0], testing::StartsWith(
-                             "put Engineering Setup@Switcher@Output@Signal Format#2,1,0,0,"));
+    std::string formats = "2,1,0,0,";
+    for (int n = 5; n <= 48; n++)
+        formats += "0,"; // those that were not told, too
+    EXPECT_EQ(sent[0], "put Engineering Setup@Switcher@Output@Signal Format#" + formats);
 }
 
 // --- The locks ---
@@ -360,7 +362,8 @@ TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
     EXPECT_THAT(Answer(YES),
                 ElementsAre("put " + NETWORK + "List#SWR001D001,SWR1,192.168.13.77,192.168.23.77," +
                                 "192.168.33.77",
-                            "add " + NETWORK + "Define", "put " + NETWORK + "Define#true"));
+                            "put " + NETWORK + "Define#true", "add " + NETWORK + "Define"))
+        << "what it followed earlier would be the outcome of the time before";
     const int busy = Pane_GetActiveID();
     (void)Tell(NETWORK + "Define#true");
     EXPECT_TRUE(Pane_Exist(busy));
@@ -373,8 +376,8 @@ TEST_F(SystemPage, AutoConfigThatFailsOrIsNotAnsweredSaysSo)
     (void)Open(0x73110000);
     for (const bool is_answered : {true, false}) {
         (void)Push(49);
-        EXPECT_THAT(Answer(YES), ElementsAre("add " + NETWORK + "Network Auto Config",
-                                             "put " + NETWORK + "Network Auto Config#true",
+        EXPECT_THAT(Answer(YES), ElementsAre("put " + NETWORK + "Network Auto Config#true",
+                                             "add " + NETWORK + "Network Auto Config",
                                              "put Info@Self Diagnosis Notice@PNL#true"));
         const int busy = Pane_GetActiveID();
         if (is_answered)

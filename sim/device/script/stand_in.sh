@@ -1,5 +1,6 @@
-# What the stand-ins of the device's scripts do alike; read by each of them. A call is noted in /var/tmp/device.log. A
-# status that waits in /var/tmp/device/NAME, one a line, ends the call with it.
+#!/bin/sh
+# What the stand-ins of the device's scripts do alike: read by each of them, and for some it is all. A call is noted in
+# /var/tmp/device.log. A status that waits in /var/tmp/device/NAME, one a line, ends the call with it.
 name=$(basename "$0" .sh)
 line=$name
 for word in "$@"; do line="$line [$word]"; done

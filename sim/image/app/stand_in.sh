@@ -1,0 +1,1 @@
+../../device/script/stand_in.sh
