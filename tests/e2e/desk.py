@@ -86,7 +86,8 @@ class Desk:
         # The X library keeps a few bytes to the end; the unit tests look for leaks.
         env.setdefault("ASAN_OPTIONS", "detect_leaks=0")
         self.box = subprocess.Popen(
-            [SANDBOX, "--root", self.root, "--device", IMAGE, "--", "/usr/bin/python3", os.path.join(HERE, "box.py"), self.work],
+            [SANDBOX, "--root", self.root, "--device", IMAGE, "--", "/usr/bin/python3", os.path.join(HERE, "box.py"),
+             self.work],
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, env=env, text=True, bufsize=1)
         assert self.box.stdout.readline().strip() == "ready"
 
@@ -229,12 +230,12 @@ class Desk:
         new, self.seen = lines[self.seen:], len(lines)
         return [m[1] for m in (re.match(r".*?< (?!hub )(.*)", line) for line in new) if m]
 
-    def wait_wire(self, text, timeout=3.0):
-        """All lines up to now, once one of them is text; fails the assertion when it does not come."""
+    def wait_wire(self, text, timeout=3.0, starts=False):
+        """All lines up to now, once one of them is text, or starts with it; fails the assertion when none comes."""
         lines, end = [], time.monotonic() + timeout
         while time.monotonic() < end:
             lines += self.wire()
-            if text in lines:
+            if text in lines or starts and any(line.startswith(text) for line in lines):
                 return lines
             time.sleep(0.05)
         raise AssertionError(f"{text!r} did not come; the wire said {lines[-12:]}")

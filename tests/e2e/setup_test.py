@@ -12,6 +12,8 @@ from deskcase import DeskCase
 FORMAT = "Engineering Setup@System@Format@"
 YES, OK = (200 + 97 + 20, 140 + 247 + 15), (200 + 153 + 20, 140 + 247 + 15)
 ENTRY = (52, 160, 748, 196)  # of the keyboard
+PANE, ALERT = (215, 300), (232, 162)  # its ground, the middle of its icon
+GROUND, AMBER, TABLE = b"\xe6\xe6\xe6", b"\xe4\x8b\x1b", b"\x00\x5a\x6e"
 CHANGED = b"\xff\xff\x00"
 CHANGED_SELECTED = b"\xa0\xe6\x32"
 LETTERS = {c: (row, first + i) for row, (first, keys) in
@@ -55,6 +57,31 @@ class Setup(DeskCase):
                     break
         key(2, 11.5)
         time.sleep(0.5)
+
+    def pixel(self, x, y):
+        return self.desk.part(x, y, x, y)[0]
+
+    def until(self, is_so, timeout=5.0):
+        end = time.monotonic() + timeout
+        while not is_so():
+            self.assertLess(time.monotonic(), end)
+            time.sleep(0.05)
+
+    def calls(self):
+        """What programs of the device were called with since the last time."""
+        path = os.path.join(self.desk.root, "var/tmp/device.log")
+        try:
+            with open(path, encoding="latin-1") as file:
+                lines = file.read().splitlines()
+            os.remove(path)
+        except FileNotFoundError:
+            return []
+        return lines
+
+    def wait_calls(self, *calls):
+        seen = []
+        self.until(lambda: seen.extend(self.calls()) or len(seen) >= len(calls))
+        self.assertEqual(seen, list(calls))
 
     def lock_file(self):
         with open(os.path.join(self.desk.root, "mnt/data/.setuplock"), "rb") as file:
@@ -117,15 +144,15 @@ class Setup(DeskCase):
         self.type("x")
         desk.touch(*OK)
         self.assertEqual(self.lock_file()[1], 0)
-        self.push(54)  # a password of 17 characters
+        self.push(54)
         desk.touch(*YES)
         self.type("")
         for _ in ("new", "again"):
-            self.type("abcdefgh123456789")
+            self.type("a1b")
         desk.touch(*OK)
-        self.assertEqual(self.lock_file()[0], "abcdefgh12345678")
+        self.assertEqual(self.lock_file()[0], "a1b")
         self.push(38)
-        self.type("abcdefgh12345678")
+        self.type("a1b")
         self.assertEqual(self.lock_file()[1], 1)
         desk._box("stop", "app")
         desk.start_app()
@@ -145,17 +172,25 @@ class Setup(DeskCase):
         self.assertTrue(self.changes())
         self.push(53)
 
-    def test_4_define_and_its_failure(self):
+    def test_4_define_and_auto_config_wait_for_their_own_outcome(self):
+        network = "Engineering Setup@System@Network Config@"
         self.open("7311")
-        for outcome in ("OK", "NG"):
-            if outcome == "NG":
-                self.desk.console("config ng")
-            self.push(50)
-            self.desk.touch(*YES)
-            self.desk.wait_wire("put Engineering Setup@System@Network Config@Define#true")
-            time.sleep(2.2)
-            self.assertEqual(self.desk.value("Engineering Setup@System@Network Config@Define"), outcome)
-        self.desk.touch(*OK)
+        self.calls()
+        for key, path, restart in ((50, "Define", ()), (49, "Network Auto Config", ("shutdown [-r] [now]",))):
+            for outcome in ("OK", "NG"):
+                if outcome == "NG":
+                    self.desk.console("config ng")
+                self.push(key)
+                self.desk.touch(*YES)
+                self.desk.wait_wire(f"put {network}{path}#true")
+                time.sleep(0.3)
+                self.assertEqual((self.calls(), self.pixel(*PANE)), ([], GROUND), "not that of the time before")
+                self.until(lambda: self.pixel(*PANE) == (GROUND if outcome == "NG" else TABLE) and
+                           self.desk.value(network + path) == outcome)
+                self.wait_calls(*restart if outcome == "OK" else ())
+                self.assertEqual(self.pixel(*ALERT) == AMBER, outcome == "NG", "the failure is told")
+                time.sleep(0.3)  # until the key looks released
+            self.desk.touch(*OK)
         self.assertIsNone(self.desk.app_status())
 
     def test_5_a_stick_is_formatted_and_becomes_primary(self):
@@ -177,12 +212,59 @@ class Setup(DeskCase):
             desk.touch(*OK)
         self.assertIn("Returned Value: [0]", desk.log())
         self.assertIn("Execute Command: [./script/usb_format.sh /dev/sda]", desk.log())
-        # The clock: the desk may not set it, and says so.
+
+    def test_6_the_clock_is_set(self):
+        desk = self.desk
+        self.open("7317")
+        self.calls()
         self.push(34)
-        time.sleep(0.5)
-        self.assertIn("Execute: /bin/date -u -s", desk.log())
+        date, clock = self.calls()
+        self.assertRegex(date, r"^date \[-u\] \[-s\] \[\w{3} \w{3} [ \d]\d \d\d:\d\d:\d\d \d{4} UTC\]$")
+        self.assertEqual(clock, "hwclock [--systohc]")
+        told = [line for line in desk.wire() if "Maintenance@DateTime#" in line]
+        self.assertLess(abs(int(told[0].split("#")[1], 16) - time.time()), 5)
+        desk.console("script date 1")
+        self.push(34)
+        self.assertEqual(len(self.calls()), 1)
+        self.assertEqual(self.pixel(*ALERT), AMBER)
+        self.assertNotIn("DateTime", str(desk.wire()))
         desk.touch(*OK)
-        self.assertIsNone(desk.app_status())
+
+    def test_7_the_local_drive_is_formatted_and_the_system_restarted(self):
+        self.open("7317")
+        self.calls()
+        self.desk.console("script ssd_format 3")
+        for calls in (("ssd_format",), ("ssd_format", "shutdown [-r] [now]")):
+            self.push(51)
+            self.desk.touch(*YES)
+            self.wait_calls(*calls)
+            self.until(lambda: self.pixel(*PANE) == GROUND)
+            self.assertEqual(self.pixel(*ALERT) == AMBER, len(calls) == 1)
+            self.desk.touch(*OK)
+        self.push(38)
+        lines = self.desk.wait_wire("put File@Access@USB Storage Refresh#", starts=True)
+        self.assertIn("put File@Access@USB Storage Reload#", " ".join(lines))
+
+    def test_8_the_network_drive_is_mounted(self):
+        way = ["umount [/var/nfs]", "ping [-c] [1] [192.168.10.100]", "rpcinfo2 [-p] [192.168.10.100]",
+               "mount [-t] [nfs] [192.168.10.100:/ktrfiles] [/var/nfs] [-o] [retrans=5,soft,nolock]"]
+        status = 300, 98 + 22 * 3, 649, 98 + 22 * 4
+        self.open("7311.98")
+        self.calls()
+        before = self.desk.part(*status)
+        self.desk.console("script mount 32")
+        for is_mounted in (False, True):
+            self.push(37)
+            self.wait_calls(*way)
+            time.sleep(0.3)
+            self.assertEqual(self.pixel(*ALERT) == AMBER, not is_mounted)
+            if not is_mounted:
+                self.desk.touch(*OK)
+            self.assertEqual(self.desk.part(*status) != before, is_mounted)
+        self.push(37)
+        self.wait_calls("umount [/var/nfs]")
+        self.until(lambda: self.desk.part(*status) == before)
+        self.assertIsNone(self.desk.app_status())
 
 
 if __name__ == "__main__":
