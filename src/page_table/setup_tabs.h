@@ -22,6 +22,7 @@ inline constexpr HF_TBL hf_setup_switcher[] = {
     {.id = 1, .caption = "Config", .page = 0x73310000},
     {.id = 4, .caption = "Transition", .page = 0x73340000},
     {.id = 5, .caption = "Key/Wipe\nFM/CCR", .page = 0x73350000},
+    {.id = 6, .caption = "Link", .page = 0x73360000},
     {.id = 7, .caption = "Device\nInterface", .page = 0x73370004},
     HF_END,
 };
