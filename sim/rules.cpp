@@ -51,7 +51,8 @@ static void act_set(const Hit& hit)
 static void act_default(const Hit& hit)
 {
     for (Node* node : Tree_Under(hit.target))
-        Tree_Show(node->path, node->initial);
+        if (node->path != hit.path) // falls back by itself
+            Tree_Show(node->path, node->initial);
 }
 
 // The same number, or its mirror image.
