@@ -13,6 +13,7 @@
 #include "region.h"
 #include "rules.h"
 #include "setup.h"
+#include "setup_switcher_io.h"
 #include "store.h"
 #include "stream.h"
 #include "text.h"
@@ -284,6 +285,7 @@ void System_Install()
     Dme_Install();
     Rules_Install();
     Setup_Install();
+    SetupSwitcherIo_Install();
     Diag_Install();
 }
 

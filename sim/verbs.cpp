@@ -11,6 +11,7 @@
 #include "macro.h"
 #include "rules.h"
 #include "setup.h"
+#include "setup_switcher_io.h"
 #include "store.h"
 #include "system.h"
 #include "text.h"
@@ -97,6 +98,7 @@ static constexpr Owner owners[] = {
     {"Info@DME@RefCH", System_PutDmeChannels},
     {"Info@DME@SelCH", System_PutDmeChannels},
     {"Engineering Setup@System@", Setup_Put},
+    {"Engineering Setup@Switcher@", SetupSwitcherIo_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };

@@ -3,7 +3,8 @@
 // settings, "Engineering Setup@Switcher@Device Interface@GPI Output". A unit brings a sheet of its
 // number of ports and a row of a page:
 //
-//     inline constexpr SETUPSHEET gpi_output = SetupGpi_Output(8);
+//     inline constexpr BT_TBL gpi_output_more[] = {gpi_test_fire};
+//     inline constexpr SETUPSHEET gpi_output = SheetMore(SetupGpi_Output(8), gpi_output_more);
 //     ... .obj = {..., SHEET_OBJECTS(gpi_output), Code(SetupGpi_Code<gpi_output>)}
 //
 // An action is done somewhere (a bank, a key, a region) or with a register; one of a region has a
@@ -123,9 +124,8 @@ inline constexpr SETUPCOLUMN gpi_input_columns[] = {
 #undef GPI_ACTION
 
 #define GPI_TEST_FIRE SHEET_LOCAL "Test Fire"
-inline constexpr BT_TBL gpi_output_keys[] = {
-    Action({.id = 37, .caption = "Test\nFire", .group = "Port", .cmd = {GPI_TEST_FIRE}}),
-};
+inline constexpr BT_TBL gpi_test_fire =
+    Action({.id = 37, .caption = "Test\nFire", .group = "Port", .cmd = {GPI_TEST_FIRE}});
 
 constexpr SETUPSHEET SetupGpi_Output(int ports)
 {
@@ -134,20 +134,15 @@ constexpr SETUPSHEET SetupGpi_Output(int ports)
             .rows = ports,
             .key_head = "Port",
             .key_width = 46,
-            .more = gpi_output_keys,
-            .more_count = 1,
             .offer = SetupGpi_Offer};
 }
-// more: further keys of the page, such as that of the levels' page.
-constexpr SETUPSHEET SetupGpi_Input(int ports, const BT_TBL* more = nullptr, int more_count = 0)
+constexpr SETUPSHEET SetupGpi_Input(int ports)
 {
     return {.columns = gpi_input_columns,
             .column_count = int(sizeof gpi_input_columns / sizeof gpi_input_columns[0]),
             .rows = ports,
             .key_head = "Port",
             .key_width = 46,
-            .more = more,
-            .more_count = more_count,
             .offer = SetupGpi_Offer};
 }
 
@@ -164,15 +159,13 @@ inline constexpr SETUPCOLUMN gpi_hl_columns[] = {
     {.head = "High", .width = 140, .path = "~@High@$", .words = gpi_hl_states},
     {.head = "Low", .width = 140, .path = "~@Low@$", .words = gpi_hl_states},
 };
-constexpr SETUPSHEET SetupGpi_HLSet(int ports, const BT_TBL* more = nullptr, int more_count = 0)
+constexpr SETUPSHEET SetupGpi_HLSet(int ports)
 {
     return {.columns = gpi_hl_columns,
             .column_count = 3,
             .rows = ports,
             .key_head = "Port",
-            .key_width = 46,
-            .more = more,
-            .more_count = more_count};
+            .key_width = 46};
 }
 
 // A converter that works for an input or for an output, as the level says: "FC3,Input,Output".
@@ -190,15 +183,13 @@ inline constexpr SETUPCOLUMN gpi_fc_columns[] = {
     {.head = "High", .width = 170, .path = "~@$", .part = 2, .words = gpi_fc_sides},
     {.head = "Low", .width = 170, .path = "~@$", .part = 3, .words = gpi_fc_sides},
 };
-constexpr SETUPSHEET SetupGpi_HLSetFC(int ports, const BT_TBL* more = nullptr, int more_count = 0)
+constexpr SETUPSHEET SetupGpi_HLSetFC(int ports)
 {
     return {.columns = gpi_fc_columns,
             .column_count = 3,
             .rows = ports,
             .key_head = "Port",
-            .key_width = 46,
-            .more = more,
-            .more_count = more_count};
+            .key_width = 46};
 }
 
 // --- Page code of the input and the output pages; those of levels are plain sheets ---

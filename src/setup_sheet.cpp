@@ -1,5 +1,6 @@
 #include "setup_sheet.h"
 #include "message.h"
+#include "page.h"
 #include "tally_value.h"
 #include "text.h"
 #include "window.h"
@@ -14,23 +15,14 @@ static struct {
     int column = 0; // that the keyboard is for
 } sh;
 
-int SetupSheet_Numbers(const char** keys, int rows)
-{
-    static char numbers[SHEET_ROWS][4];
-    rows = std::min(rows, SHEET_ROWS);
-    for (int i = 0; i < rows; i++) {
-        PrintText(numbers[i], "%d", i + 1);
-        keys[i] = numbers[i];
-    }
-    return rows;
-}
-
 int SetupSheet_Keys(const SETUPSHEET& s, const char** keys, int max)
 {
-    const int rows = std::min(s.rows, max);
-    if (!s.names)
-        return SetupSheet_Numbers(keys, rows);
-    std::copy_n(s.names, rows, keys);
+    static char numbers[SHEET_ROWS][4];
+    const int rows = std::min({s.rows, max, SHEET_ROWS});
+    for (int i = 0; i < rows; i++) {
+        PrintText(numbers[i], "%d", i + 1);
+        keys[i] = s.names ? s.names[i] : numbers[i];
+    }
     return rows;
 }
 
@@ -88,6 +80,16 @@ static int button_pressed(const SETUPSHEET& s, const SETUPTABLE& t, const char* 
     return 0;
 }
 
+// A way to a page that this installation does not have is none.
+static void show_ways(const SETUPSHEET& s)
+{
+    for (int i = 0; i < s.more_count; i++) {
+        const BT_TBL& key = s.more[i];
+        if (key.type == BT_JUMP && key.cmd[0] && key.cmd[0][0] == '#')
+            (void)BT_SetCutoff(key.id, SearchPageTable(Hex(key.cmd[0] + 1)) == nullptr);
+    }
+}
+
 int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on)
 {
     sh.sheet = on ? &s : nullptr;
@@ -95,6 +97,8 @@ int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on)
     on ? SetupPage_Open(t) : SetupPage_Close(t);
     if (on && s.title)
         (void)NB_SetTitle(s.title);
+    if (on)
+        show_ways(s);
     return !on;
 }
 

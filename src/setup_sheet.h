@@ -56,16 +56,13 @@ struct SETUPSHEET {
     int more_count = 0;
     // The choices of a column at the moment, at most max: how many; -1: its words.
     int (*offer)(int column, const char** texts, int max) = nullptr;
-    bool (*is_sound)() = nullptr; // as in SETUPTABLE
-    void (*changed)() = nullptr;  // the cells or the current row may be others now
+    void (*changed)() = nullptr; // the cells or the current row may be others now
 };
 
 // --- What page code may ask; t is the sheet's table ---
 int SetupSheet_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
 // Open the page; the same with on 0 leaves it.
 int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
-// The keys of numbered rows: "1", "2"... Returns how many.
-int SetupSheet_Numbers(const char** keys, int rows);
 // The keys of all rows, at most max: its names or numbers. Returns how many.
 int SetupSheet_Keys(const SETUPSHEET& s, const char** keys, int max);
 // The choices of a column at the moment. Returns how many.
@@ -77,6 +74,59 @@ void SetupSheet_Changed(const SETUPSHEET& s, const SETUPTABLE& t);
 inline const char* SetupSheet_Now(const SETUPTABLE& t, int column)
 {
     return SetupPage_Text(t, t.state->cursor, column);
+}
+
+// --- Columns, as a page's table says them ---
+
+constexpr SETUPCOLUMN SheetWord(const char* head, int width, const char* path,
+                                const SETUPWORD* words)
+{
+    return {.head = head, .width = width, .path = path, .words = words};
+}
+// The same behind one key, whose caption and frame may be others than the head.
+constexpr SETUPCOLUMN SheetAsked(const char* head, int width, const char* path,
+                                 const SETUPWORD* words, const char* caption = nullptr,
+                                 const char* group = nullptr)
+{
+    return {.head = head,
+            .width = width,
+            .path = path,
+            .words = words,
+            .is_asked = 1,
+            .caption = caption,
+            .group = group};
+}
+constexpr SETUPCOLUMN SheetNumber(const char* head, int width, const char* path, int min, int max)
+{
+    return {.head = head, .width = width, .path = path, .min = min, .max = max};
+}
+constexpr SETUPCOLUMN SheetName(const char* head, int width, const char* path, int letters,
+                                const char* caption = nullptr)
+{
+    return {.head = head, .width = width, .path = path, .name = letters, .caption = caption};
+}
+constexpr SETUPCOLUMN SheetShown(const char* head, int width, const char* path)
+{
+    return {.head = head, .width = width, .path = path, .is_fixed = 1};
+}
+constexpr SETUPCOLUMN SheetPart(SETUPCOLUMN column, int part)
+{
+    column.part = part;
+    return column;
+}
+template <size_t N>
+constexpr SETUPSHEET SheetOf(const SETUPCOLUMN (&columns)[N], int rows, SETUPSHEET rest)
+{
+    rest.columns = columns;
+    rest.column_count = int(N);
+    rest.rows = rows;
+    return rest;
+}
+template <size_t M> constexpr SETUPSHEET SheetMore(SETUPSHEET sheet, const BT_TBL (&more)[M])
+{
+    sheet.more = more;
+    sheet.more_count = int(M);
+    return sheet;
 }
 
 // --- What follows from a sheet, at compile time ---
@@ -369,12 +419,12 @@ inline constexpr SETUPTABLE SetupSheet_Table = {
     .question = s.question,
     .choices = sheet_fields<s>.choice,
     .choice_count = sheet_fields<s>.choices,
-    .is_sound = s.is_sound,
     .changed = SheetChanged<s>,
 };
 
 template <const SETUPSHEET& s> void SheetChanged()
 {
+    static_assert(SheetIsSound(s, sheet_keys<s>));
     SetupSheet_Changed(s, SetupSheet_Table<s>);
 }
 

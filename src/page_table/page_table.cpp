@@ -1,6 +1,4 @@
 // PageTable, joined at compile time from the rows of the menu groups.
-#include "ccr.h"
-#include "color_bkgd.h"
 #include "diag.h"
 #include "dme.h"
 #include "effect_pages.h"
@@ -75,9 +73,6 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 fm_pages,
                 fmem_clip_pages,
                 sources_pages,
-                color_bkgd_pages,
-                ccr_top_pages,
-                ccr_pages,
                 operation_pages,
                 dme_pages,
                 global_effect_pages,

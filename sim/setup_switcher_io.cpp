@@ -1,0 +1,323 @@
+#include "setup_switcher_io.h"
+#include "log.h"
+#include "text.h"
+#include "tree.h"
+#include "values.h"
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+// A value of each row of a page. "$" of the path is the row; a value of several parts has a type a
+// part, separated by ";".
+struct Kind {
+    const char* path = "";
+    const char* each = ""; // "1..48", or words
+    const char* type = ""; // as in the value file, with blanks
+    const char* start = "";
+};
+} // namespace
+
+static const std::string SWITCHER = "Engineering Setup@Switcher@";
+static const std::string OUTPUT = SWITCHER + "Output@";
+static const std::string SOURCES = "Engineering Setup@Panel@Xpt Assign@Source@List";
+static const std::string GPI_OUTPUT = SWITCHER + "Device Interface@GPI Output@";
+static constexpr int OUTPUTS = 48;
+static constexpr const char* SOURCES_MAX = "num 1 136 0";
+
+static constexpr const char* ON_OFF = "word On,Off";
+static constexpr const char* CONVERT = "word Through,Up,Down,Cross";
+static constexpr const char* FC_FORMAT = "word 480i,576i,720p,1080i,1080PsF,1080p,2160p";
+static constexpr const char* OUTPUT_OR_NONE = "num 0 48 0";
+static constexpr const char* SIDE = "word Input,Output";
+static constexpr const char* SIZE_4K = "word 3840x2160,4096x2160";
+static constexpr const char* TRIGGER = "word None,Rising Edge,Falling Edge,Any Edge,Level";
+static constexpr const char* BOARDS = "FC1,FC2,FC3,FC4";
+static constexpr const char* PORTS = "Remote1,Remote2,Remote3,Remote4";
+static constexpr const char* UNITS = "DME1,DME2,DME3,DME4";
+static constexpr const char* QUADS = "1-4,5-8,9-12,13-16,17-20,21-24,25-28,29-32,33-36,37-40,41-44,"
+                                     "45-48";
+static constexpr const char* PAIRS = "1/2,3/4,5/6,7/8,9/10,11/12,13/14,15/16,17/18,19/20,21/22,"
+                                     "23/24";
+static constexpr const char* ACTION = "num 0 13 0;num 0 5 0;num 0 99 0;num 0 8 0";
+static constexpr const char* REGION_ACTION = "num 0 13 0;any;num 0 99 0;num 0 8 0";
+static constexpr const char* NO_ACTION = "0,0,0,0";
+static constexpr const char* NO_REGION_ACTION = "0,,0,0";
+
+static constexpr Kind kinds[] = {
+    {"Input@Auto Timing@$", "1..136", ON_OFF, "On"},
+    {"Input@H Phase@$", "1..136", "num -200 200 0", "0"},
+    {"Input@FC Input Select@$", BOARDS, "word 1-4,5-8,9-12,13-16,17-20,21-24,25-28,29-32", "1-4"},
+    {"Input@Internal FC@Convert Mode@$", "1..8", CONVERT, "Through"},
+    {"Input@Internal FC@Format@$", "1..8", FC_FORMAT, "1080i"},
+    {"Input@4K Active Size@$", QUADS, SIZE_4K, "3840x2160"},
+    {"Input@Video Process@Video Process@$", "1..136", ON_OFF, "Off"},
+    {"Input@Video Process@Video Gain@$", "1..136", "num 0 200 0", "100"},
+    {"Input@Video Process@Y Gain@$", "1..136", "num 0 200 0", "100"},
+    {"Input@Video Process@C Gain@$", "1..136", "num 0 200 0", "100"},
+    {"Input@Video Process@Hue Delay@$", "1..136", "num -180 180 0", "0"},
+    {"Input@Video Process@Black Level@$", "1..136", "num -10 110 0", "0"},
+    {"Input@CCR@CCR@$", "CCR1,CCR2,CCR3,CCR4", ON_OFF, "Off"},
+    {"Input@CCR@Input@$", "CCR1,CCR2,CCR3,CCR4", SOURCES_MAX, "1"},
+
+    {"Output@Crop@Crop@$", "1..48", ON_OFF, "Off"},
+    {"Output@Crop@Left@$", "1..48", "num 0 50 0", "0"},
+    {"Output@Crop@Right@$", "1..48", "num 0 50 0", "0"},
+    {"Output@Crop@Top@$", "1..48", "num 0 50 0", "0"},
+    {"Output@Crop@Bottom@$", "1..48", "num 0 50 0", "0"},
+    {"Output@V Blank@V Blank@$", "1..48", "word Through,Blank", "Through"},
+    {"Output@V Blank@Last Line@$", "1..48", "num 10 22 0", "20"},
+    {"Output@Video Clip@Clip@$", "1..48", ON_OFF, "Off"},
+    {"Output@Video Clip@White@$", "1..48", "num 90 109 0", "109"},
+    {"Output@Video Clip@Dark@$", "1..48", "num -7 10 0", "-7"},
+    {"Output@Video Clip@Chroma@$", "1..48", "num 90 112 0", "112"},
+    {"Output@Safe Title@Safe Title@$", "1..48", ON_OFF, "Off"},
+    {"Output@Safe Title@Area@$", "1..48", "word 16:9,14:9,4:3", "16:9"},
+    {"Output@Safe Title@Title@$", "1..48", "num 50 100 0", "80"},
+    {"Output@Safe Title@Action@$", "1..48", "num 50 100 0", "90"},
+    {"Output@4K Active Size@$", QUADS, SIZE_4K, "3840x2160"},
+    {"Output@FC Output Assign@$", "1..8", OUTPUT_OR_NONE, "0"},
+    {"Output@FC Output Select@$", BOARDS, SIDE, "Input"},
+    {"Output@Internal FC@Output@$", "1..8", OUTPUT_OR_NONE, "0"},
+    {"Output@Internal FC@FC Config@Convert Mode@$", "1..8", CONVERT, "Through"},
+    {"Output@Internal FC@FC Config@Side@$", "1..8", SIDE, "Output"},
+    {"Output@Internal FC@FC Format@$", "1..8", FC_FORMAT, "1080i"},
+    {"Output@Multi Viewer@Layout@$", "MV1,MV2", "word 4,9,10,13,16", "4"},
+    {"Output@Multi Viewer@Label@$", "MV1,MV2", ON_OFF, "On"},
+    {"Output@Multi Viewer@Tally@$", "MV1,MV2", ON_OFF, "On"},
+    {"Output@Multi Viewer@Output@$", "MV1,MV2", OUTPUT_OR_NONE, "0"},
+
+    {"Device Interface@Protocol@$", PORTS, "word None,Editor,AUX,Peripheral,Tally", "None"},
+    {"Device Interface@Baud Rate@$", PORTS, "word 9600,19200,38400,76800,115200", "38400"},
+    {"Device Interface@Parity@$", PORTS, "word None,Even,Odd", "Odd"},
+    {"Device Interface@Remote Assign@$", PORTS, "word None,M/E-1,M/E-2,M/E-3,M/E-4,M/E-5,P/P,AUX",
+     "None"},
+    {"Device Interface@AUX Control@Control@$", "1..48", "word Panel,AUX Panel,Both", "Both"},
+    {"Device Interface@AUX Control@AUX Panel@$", "1..48", "num 0 16 0", "0"},
+    {"Device Interface@DME Type@$", UNITS, "word None,Single,Dual,Quad", "Quad"},
+    {"SDI I/F@$", UNITS, "word Dedicated,SDI", "Dedicated"},
+    {"Device Interface@PC Editor I/F@Interface@$", "Editor1,Editor2", "word None,LAN,Serial",
+     "None"},
+    {"Device Interface@PC Editor I/F@M/E@$", "Editor1,Editor2", "num 0 5 0", "0"},
+    {"Device Interface@AUX Mix@Mix@$", PAIRS, ON_OFF, "Off"},
+    {"Device Interface@AUX Mix@Rate@$", PAIRS, "num 0 999 0", "30"},
+
+    {"Device Interface@GPI Input@Trigger Type@$", "1..8", TRIGGER, "None"},
+    {"Device Interface@GPI Input@Action Type@$@1", "1..8", ACTION, NO_ACTION},
+    {"Device Interface@GPI Input@Action Type Region@$@1", "1..8", REGION_ACTION, NO_REGION_ACTION},
+    {"Device Interface@GPI Input@H/L Set@Function@$", "1..8",
+     "word None,FC Input/Output,Aux Bus Tie,Menu Lock", "None"},
+    {"Device Interface@GPI Input@H/L Set@High@$", "1..8", ON_OFF, "On"},
+    {"Device Interface@GPI Input@H/L Set@Low@$", "1..8", ON_OFF, "Off"},
+    {"Device Interface@GPI Input@H/L Set@FC Input/Output@$", "1..8",
+     "word None,FC1,FC2,FC3,FC4,FC5,FC6,FC7,FC8;word Input,Output;word Input,Output",
+     "None,Input,Output"},
+    {"Device Interface@GPI Output@Trigger Type@$", "1..8",
+     "word None,Rising Edge,Falling Edge,Any Edge,Level;byte;byte", "None,0x00,0x01"},
+    {"Device Interface@GPI Output@Action Type@$@1", "1..8", ACTION, NO_ACTION},
+    {"Device Interface@GPI Output@Action Type Region@$@1", "1..8", REGION_ACTION, NO_REGION_ACTION},
+};
+
+// --- What each row begins with ---
+
+static std::vector<std::string> rows_of(const std::string& each)
+{
+    const size_t dots = each.find("..");
+    if (dots == std::string::npos)
+        return Text_Split(each, ',');
+    std::vector<std::string> rows;
+    long first = 0, last = 0;
+    if (Text_ToInt(each.substr(0, dots), &first) && Text_ToInt(each.substr(dots + 2), &last))
+        for (; first <= last; ++first)
+            rows.push_back(std::to_string(first));
+    return rows;
+}
+
+static std::string path_of(const Kind& kind, const std::string& row)
+{
+    std::string path = SWITCHER + kind.path;
+    return path.replace(path.find('$'), 1, row);
+}
+
+// "num 0 5 0" or "word A B,C": a word may have blanks.
+static ValueType type_of(const std::string& text)
+{
+    const size_t blank = text.find(' ');
+    std::vector<std::string> fields = {text.substr(0, blank)};
+    if (fields[0] == "word")
+        fields.push_back(text.substr(blank + 1));
+    else if (blank != std::string::npos)
+        for (const std::string& field : Text_Split(text.substr(blank + 1), ' '))
+            fields.push_back(field);
+    ValueType type;
+    (void)Values_ParseType(fields, &type); // "byte" and "any" take every text here
+    return type;
+}
+
+static bool is_of_parts(const Kind& kind)
+{
+    return std::string(kind.type).find(';') != std::string::npos;
+}
+
+void SetupSwitcherIo_Install()
+{
+    for (const Kind& kind : kinds)
+        for (const std::string& row : rows_of(kind.each)) {
+            const std::string path = path_of(kind, row);
+            Node* const node = Tree_Get(path);
+            if (node && !is_of_parts(kind))
+                node->type = type_of(kind.type);
+            Tree_Preset(path, kind.start);
+        }
+    for (int n = 1; n <= 136; ++n)
+        Tree_Preset(SWITCHER + Text_Format("Input@Source Name@%d", n),
+                    n <= 40 ? Text_Format("CAM%d", n) : "");
+    int number = 100;
+    for (const char* bank : {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P"})
+        for (int out = 1; out <= 6; ++out, ++number)
+            Tree_Preset(OUTPUT + Text_Format("Re-Entry Assign@%s Out%d", bank, out),
+                        Text_Format("%d,%s-%d", number, bank, out));
+    for (int n = 1; n <= 32; ++n)
+        Tree_Preset(OUTPUT + Text_Format("Multi Viewer@Output Assign@MV%d-%d", (n - 1) / 16 + 1,
+                                         (n - 1) % 16 + 1),
+                    Text_Format("%d,OUT%d", n, n));
+    std::vector<std::string> inhibits;
+    for (int n = 1; n <= OUTPUTS; ++n)
+        inhibits.push_back(Text_Format("%d,false", n));
+    Tree_SetList(OUTPUT + "Inhibit", inhibits, 1);
+}
+
+// --- Changes ---
+
+static bool refuse(const std::string& path, const std::string& value)
+{
+    Log_Note("setup refused: %s#%s", path.c_str(), value.c_str());
+    return true;
+}
+
+// The parts as they are kept; false when one of them is none of its type.
+static bool accepts_parts(const Kind& kind, const std::string& value, std::string* kept)
+{
+    const auto types = Text_Split(kind.type, ';');
+    const auto parts = Text_Split(value, ',');
+    if (types.size() != parts.size())
+        return false;
+    for (size_t i = 0; i < parts.size(); ++i) {
+        std::string part;
+        if (types[i] == "byte") {
+            if (parts[i].size() != 4 || !Text_Matches(parts[i], "0x??") ||
+                parts[i].find_first_not_of("0123456789ABCDEF", 2) != std::string::npos)
+                return false;
+            part = parts[i];
+        } else if (!Tree_Accepts(type_of(types[i]), parts[i], &part)) {
+            return false;
+        }
+        *kept += (i ? "," : "") + part;
+    }
+    return true;
+}
+
+// An action stands on one of its two paths.
+static void clear_other_action(const std::string& path)
+{
+    const std::string plain = "@Action Type@", region = "@Action Type Region@";
+    if (const size_t at = path.find(plain); at != std::string::npos)
+        Tree_Show(std::string(path).replace(at, plain.size(), region), NO_REGION_ACTION);
+    else if (const size_t of = path.find(region); of != std::string::npos)
+        Tree_Show(std::string(path).replace(of, region.size(), plain), NO_ACTION);
+}
+
+static bool put_parts(const Kind& kind, const std::string& path, const std::string& value)
+{
+    std::string kept;
+    if (!accepts_parts(kind, value, &kept))
+        return refuse(path, value);
+    Tree_Show(path, kept);
+    clear_other_action(path);
+    return true;
+}
+
+// A row "number,name" of a source: all panels show the name from now on.
+static bool put_source(const std::string& path, const std::string& value, const std::string& number,
+                       const std::string& name)
+{
+    long n = 0;
+    if (!Text_ToInt(number, &n) || n < 1 || n > 136 || name.size() > 16)
+        return refuse(path, value);
+    Tree_Show(path, value);
+    Tree_ShowRow(SOURCES, number + "," + name);
+    return true;
+}
+
+static std::string row_of(const std::string& list, const std::string& key)
+{
+    if (const Node* const node = Tree_Find(list))
+        for (const std::string& row : node->rows)
+            if (Text_Begins(row, key + ","))
+                return row.substr(key.size() + 1);
+    return "";
+}
+
+// An output that is inhibited keeps its bus. The signal follows the bus.
+static bool put_assign(const std::string& path, const std::string& value)
+{
+    const auto part = Text_Split(value, ',');
+    long output = 0, flag = 0;
+    if (part.size() != 3 || !Text_ToInt(part[0], &output) || output < 1 || output > OUTPUTS ||
+        part[1].empty() || !Text_ToInt(part[2], &flag) || flag < 0 || flag > 8)
+        return refuse(path, value);
+    if (row_of(OUTPUT + "Inhibit", part[0]) == "true")
+        return refuse(path, value + " (inhibited)");
+    long aux = 0;
+    const bool is_aux =
+        Text_Begins(part[1], "AUX") && Text_ToInt(part[1].substr(3), &aux) && aux >= 1;
+    Tree_ShowRow(path, value);
+    Tree_ShowRow(OUTPUT + "Source",
+                 part[0] + "," + (is_aux ? Text_Format("CAM%d", int(aux - 1) % 40 + 1) : part[1]));
+    return true;
+}
+
+static bool put_inhibit(const std::string& path, const std::string& value)
+{
+    const auto part = Text_Split(value, ',');
+    long output = 0;
+    if (part.size() != 2 || !Text_ToInt(part[0], &output) || output < 1 || output > OUTPUTS ||
+        (part[1] != "true" && part[1] != "false"))
+        return refuse(path, value);
+    Tree_ShowRow(path, value);
+    return true;
+}
+
+// A pulse on the port, as the action would make it.
+static bool fire(const std::string& path)
+{
+    const std::string port = path.substr(path.rfind('@') + 1);
+    const Node* const trigger = Tree_Find(GPI_OUTPUT + "Trigger Type@" + port);
+    if (!trigger)
+        return refuse(path, "");
+    Log_Note("GPI output %s: test fire, %s", port.c_str(), trigger->value.c_str());
+    return true;
+}
+
+bool SetupSwitcherIo_Put(const std::string& path, const std::string& value)
+{
+    const std::string tail = path.substr(path.rfind('@') + 1);
+    if (Text_MatchesPath(path, GPI_OUTPUT + "Test Fire@*"))
+        return fire(path);
+    if (path == OUTPUT + "Assign")
+        return put_assign(path, value);
+    if (path == OUTPUT + "Inhibit")
+        return put_inhibit(path, value);
+    if (Text_MatchesPath(path, SWITCHER + "Input@Source Name@*"))
+        return put_source(path, value, tail, value);
+    if (Text_MatchesPath(path, OUTPUT + "Re-Entry Assign@*")) {
+        const auto part = Text_Split(value, ',');
+        return part.size() == 2 ? put_source(path, value, part[0], part[1]) : refuse(path, value);
+    }
+    for (const Kind& kind : kinds)
+        if (is_of_parts(kind))
+            for (const std::string& row : rows_of(kind.each))
+                if (path == path_of(kind, row))
+                    return put_parts(kind, path, value);
+    return false;
+}
