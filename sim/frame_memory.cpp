@@ -26,6 +26,7 @@ static constexpr int FOLDERS = 12; // the first is the system's
 static constexpr size_t NAME_BYTES = 9;
 static constexpr size_t FOLDER_BYTES = 8;
 static constexpr int CAPACITY = 1000;
+static constexpr int OUTPUTS = 8;
 static const std::string STATUS = "16@Frame Mem@Status@";
 static const std::string MOVE_STILL = "Frame Mem@Folder@Move Still";
 static const std::string ANCILLARY = "Frame Mem@Clip@Ancillary Playback Enable";
@@ -384,6 +385,15 @@ static void put_rename(const std::string& value)
         }
 }
 
+// "NUMBER,NAME": what a processor has frozen.
+static void put_store(const std::string& value)
+{
+    const size_t comma = value.find(',');
+    long number = 0;
+    if (comma != std::string::npos && Text_ToInt(value.substr(0, comma), &number))
+        (void)FrameMemory_Draw(int(number), value.substr(comma + 1)); // false: no such register
+}
+
 bool FrameMemory_Put(int client, const std::string& path, const std::string& value)
 {
     const bool has_unit = Text_Begins(path, "16@") || Text_Begins(path, "32@");
@@ -408,6 +418,8 @@ bool FrameMemory_Put(int client, const std::string& path, const std::string& val
         put_rename(value);
     else if (command == ANCILLARY)
         put_ancillary(client, value);
+    else if (Text_Begins(command, "Frame Mem@Edit@Store@PROC"))
+        put_store(value);
     else
         return false;
     return true;
@@ -512,5 +524,9 @@ void FrameMemory_Install()
     Tree_Preset(STATUS + "Max Register", std::to_string(CAPACITY));
     Tree_Preset(STATUS + "Folder Name Sense", folder_names());
     Tree_Preset("Frame Mem@Status@Extended Capacity", "0");
+    const std::string recall = "Frame Mem@Recall@Recall Thumbnail@";
+    Tree_Preset(recall + "Select", "FM1&2");
+    for (int output = 1; output <= OUTPUTS; ++output)
+        Tree_Preset(recall + "FM" + std::to_string(output), "");
     show_room();
 }

@@ -166,6 +166,8 @@ constexpr uint32_t NO_VARIANT_NIBBLE = 0xFFFF0FFF;
 // In this order: where a request has several rows the first that holds decides, and a rewritten id
 // may meet a later row in its turn.
 constexpr Variant variants[] = {
+    One(0x21000000, 0x04110000, is_without_clip_store), // its pages have a bank of their own
+    One(0x21110000, 0x04000000, is_without_clip_store),
     One(0x24170000, 0x0100, is_x_switcher),
     One(0x24270000, 0x0100, is_x_switcher),
     One(0x42000000, 0x0400, is_3d),
@@ -326,6 +328,7 @@ constexpr uint32_t TAB_MASK = 0xFFFF0000;
 constexpr Hidden hidden[] = {
     NotThere(0x71520000, is_not_fmem_v6),
     NotThere(0x21410000, is_without_clip_store),
+    NotThere(0x25130000, is_not_fmem_v6),
     NotThere(0x73310015, has_no_zrd52),
     NotThere(0x73220010, has_old_target),
     NotThere(0x73310007, has_old_target),

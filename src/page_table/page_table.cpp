@@ -12,6 +12,7 @@
 #include "file_xport.h"
 #include "fm.h"
 #include "fmem_clip.h"
+#include "fmem_store.h"
 #include "gallery.h"
 #include "global_effect.h"
 #include "install.h"
@@ -72,6 +73,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 file_top_pages,
                 fm_pages,
                 fmem_clip_pages,
+                fmem_store_pages,
                 sources_pages,
                 operation_pages,
                 dme_pages,

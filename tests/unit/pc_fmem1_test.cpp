@@ -1,0 +1,200 @@
+// The frame-memory pages of a system without a clip store: what the list shows, what goes out.
+#include "frame_page.h"
+#include "page_table/fmem_store.h"
+
+namespace
+{
+constexpr uint32_t STILLS = 0x25110000, STILL_FILES = 0x25120000, CLIPS = 0x25210000,
+                   CLIP_FILES = 0x25220000, FREEZE_PAGE = 0x25310000;
+const std::string RECALL = "put Frame Mem@Recall@Recall Thumbnail@";
+const std::string RENAME = "put Frame Mem@File@Rename#";
+const std::string DELETE = "put Frame Mem@File@Delete Thumbnail@Single#";
+const std::string MOVE = "put 16@Frame Mem@Folder@Move Still#0,";
+
+struct FrameMemoryPage : FramePage {
+    void SetUp() override
+    {
+        FramePage::SetUp();
+        GL_FreezeStore = GL_FreezeStore_Exec = 0;
+        Fmem1_Reset();
+        Folders("0,Default.,2,News");
+        Store({"Mlogo", "Slogo", "Mpic", "Stitle", "Mrun0001", "Mrun0002", "Mrun0003", "Srun0002",
+               "Srun0003"});
+        Pass(10); // stills and clips are made of them
+    }
+    void TearDown() override
+    {
+        GL_FreezeStore = GL_FreezeStore_Exec = 0;
+        FramePage::TearDown();
+    }
+    static Lines List()
+    {
+        Pass(200);
+        Lines rows;
+        for (int row = 0; row < LS_GetNData(1); row++) {
+            std::string text = LS_IsSelected(1, row, 0) == 1 ? "*" : "";
+            for (int col = 0; col < 4; col++)
+                text += (col ? "|" : "") + std::string(LS_GetData(1, row, col));
+            rows.push_back(text);
+        }
+        return rows;
+    }
+    static Lines PressLater(int id) // a second touch would be the first one's tremble
+    {
+        Pass(1000);
+        return Puts(Press(id));
+    }
+};
+} // namespace
+
+TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
+{
+    Open(STILLS);
+    EXPECT_THAT(List(), ElementsAre("*1|logo|M|S", "3|pic|M|", "4|title||S"));
+    Select(1, {1, 2});
+    Store({"Mbeach"}, 20);
+    Tell("16@Frame Mem@Status@File Name Sense#3,81,Mzebra"); // another name, the same picture
+    EXPECT_THAT(List(), ElementsAre("20|beach|M|", "1|logo|M|S", "*4|title||S", "*3|zebra|M|"));
+    Tell("Frame Mem@Folder@Move Still#0,Stitle,2");
+    EXPECT_THAT(List(), ElementsAre("20|beach|M|", "1|logo|M|S", "*3|zebra|M|"));
+    PressLater(BTN_FMEM1_FOLDER);
+    Quit(2);
+    EXPECT_EQ(Caption(BTN_FMEM1_FOLDER), "News");
+    EXPECT_THAT(List(), ElementsAre(HasSubstr("4|title||S")));
+    Folders("0,Default.,2,"); // it goes, and what was in it
+    EXPECT_EQ(Caption(BTN_FMEM1_FOLDER), "Default.");
+    Open(CLIPS);
+    EXPECT_THAT(List(), ElementsAre("*6|run|3|2"));
+}
+
+TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
+{
+    static const struct {
+        int row;
+        bool is_pair;
+        int key;
+        Lines lines;
+    } cases[] = {
+        {0, false, BTN_FMEM1_RECALL_A, {"FM3#Mlogo"}},
+        {0, false, BTN_FMEM1_RECALL_B, {"FM4#Slogo"}},
+        {1, false, BTN_FMEM1_RECALL_B, {"FM4#Mpic"}},
+        {2, false, BTN_FMEM1_RECALL_A, {"FM3#Stitle"}},
+        {0, true, BTN_FMEM1_RECALL_A, {"FM3#Mlogo", "FM4#Slogo"}},
+        {1, true, BTN_FMEM1_RECALL_A, {"FM3#Mpic"}},
+    };
+    bool is_pair_on = false;
+    for (const auto& c : cases) {
+        Open(STILLS);
+        Tell(RECALL.substr(4) + "Select#FM3&4");
+        EXPECT_EQ(Caption(BTN_FMEM1_RECALL_B), "Recall\nFM4");
+        LS_SetNowLine(1, c.row);
+        if (c.is_pair != is_pair_on)
+            PressLater(BTN_FMEM1_PAIR);
+        is_pair_on = c.is_pair;
+        Lines wanted;
+        for (const std::string& line : c.lines)
+            wanted.push_back(RECALL + line);
+        EXPECT_EQ(PressLater(c.key), wanted) << c.row << c.is_pair;
+    }
+    EXPECT_EQ(Usable({BTN_FMEM1_RECALL_B}), std::vector<int>{}); // the pair takes both outputs
+    PressLater(BTN_FMEM1_PAIR);
+    PressLater(BTN_FMEM1_OUT);
+    EXPECT_THAT(Quit(4), ElementsAre(RECALL + "Select#FM7&8"));
+    // Of a clip the frame that is shown.
+    Open(CLIPS);
+    PressLater(BTN_FMEM1_FORWARD);
+    PressLater(BTN_FMEM1_FORWARD); // the last one already
+    EXPECT_THAT(PressLater(BTN_FMEM1_RECALL_A), ElementsAre(RECALL + "FM3#Mrun0003"));
+}
+
+TEST_F(FrameMemoryPage, DeletionAsksAndTakesAllFramesThatAreStillThere)
+{
+    Open(STILL_FILES);
+    Tell(RECALL.substr(4) + "FM5#Slogo");
+    Select(1, {0, 1});
+    PressLater(BTN_FMEM1_DELETE);
+    EXPECT_THAT(Message(), HasSubstr("which is being used"));
+    EXPECT_THAT(Quit(2), Not(Contains(HasSubstr("Delete"))));
+    PressLater(BTN_FMEM1_DELETE);
+    Tell("16@Frame Mem@Status@File Name Sense#3,0,"); // gone while the operator thinks
+    EXPECT_THAT(Quit(1), ElementsAre(DELETE + "Mlogo", DELETE + "Slogo"));
+    Open(CLIP_FILES);
+    PressLater(BTN_FMEM1_DELETE);
+    EXPECT_THAT(Message(), HasSubstr("cause the data to be"));
+    EXPECT_THAT(Quit(1), ElementsAre(DELETE + "Mrun0001", DELETE + "Mrun0002", DELETE + "Mrun0003",
+                                     DELETE + "Srun0002", DELETE + "Srun0003"));
+}
+
+TEST_F(FrameMemoryPage, NamesKeepTheirSideAndFrame)
+{
+    static const struct {
+        uint32_t page;
+        int row;
+        int key;
+        const char* text;
+        Lines lines;
+        const char* says;
+    } cases[] = {
+        {STILL_FILES, 0, BTN_FMEM1_RENAME, "sky", {"Mlogo,Msky", "Slogo,Ssky"}, "no pane"},
+        {STILL_FILES, 2, BTN_FMEM1_RENAME, "sky", {"Stitle,Ssky"}, "no pane"},
+        {STILL_FILES, 0, BTN_FMEM1_RENAME, "logo", {}, "no pane"},
+        {STILL_FILES, 1, BTN_FMEM1_RENAME, "logo", {}, "already existing"},
+        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "key", {"Slogo,Skey"}, "no pane"},
+        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "pic", {}, "already existing"},
+        {CLIP_FILES,
+         0,
+         BTN_FMEM1_RENAME,
+         "jump",
+         {"Mrun0001,Mjump0001", "Mrun0002,Mjump0002", "Mrun0003,Mjump0003", "Srun0002,Sjump0002",
+          "Srun0003,Sjump0003"},
+         "no pane"},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        LS_SetNowLine(1, c.row);
+        SendMessage(LMSG_LISTSEL, 1, c.row, 0, 0);
+        PressLater(c.key);
+        Lines wanted;
+        for (const std::string& line : c.lines)
+            wanted.push_back(RENAME + line);
+        EXPECT_EQ(Puts(Enter(c.text)), wanted) << c.text;
+        EXPECT_THAT(Message(), HasSubstr(c.says)) << c.text;
+        while (Pane_GetActiveID())
+            Pane_Quit(Pane_GetActiveID());
+    }
+}
+
+TEST_F(FrameMemoryPage, TwoSidesBecomeAPairAndFoldersTakeEveryFrame)
+{
+    Open(STILL_FILES);
+    EXPECT_EQ(Usable({BTN_FMEM1_COUPLE, BTN_FMEM1_SEPARATE}), std::vector<int>{BTN_FMEM1_SEPARATE});
+    Select(1, {1, 2});
+    SendMessage(LMSG_LISTSEL, 1, 2, 0, 0);
+    EXPECT_THAT(PressLater(BTN_FMEM1_COUPLE), ElementsAre(RENAME + "Stitle,Spic"));
+    Open(CLIP_FILES);
+    PressLater(BTN_FMEM1_MOVE);
+    EXPECT_THAT(Quit(2), ElementsAre(MOVE + "Mrun0001,2", MOVE + "Mrun0002,2", MOVE + "Mrun0003,2",
+                                     MOVE + "Srun0002,2", MOVE + "Srun0003,2"));
+    EXPECT_THAT(PressLater(BTN_FMEM1_ANCILLARY),
+                ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,1"));
+    Tell("Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,1");
+    (void)List();
+    EXPECT_THAT(PressLater(BTN_FMEM1_ANCILLARY),
+                ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,0"));
+}
+
+TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
+{
+    const std::string freeze = "Frame Mem@Edit@Freeze@Freeze@Field@PROC2#";
+    Open(FREEZE_PAGE);
+    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1),
+                ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC1#10,Mimage")));
+    EXPECT_THAT(Tell(freeze + "true"), IsEmpty()); // somebody else's, and not asked for
+    Tell(freeze + "false");
+    PressLater(BTN_FMEM1_AUTO_STORE);
+    EXPECT_THAT(PressLater(20), ElementsAre("put " + freeze + "true"));
+    EXPECT_THAT(Tell(freeze + "true"), ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC2#")));
+    PressLater(20);
+    EXPECT_THAT(Tell(freeze + "false"), IsEmpty());
+    EXPECT_THAT(Tell(freeze + "true"), IsEmpty());
+}
