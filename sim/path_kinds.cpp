@@ -130,6 +130,9 @@ static constexpr PathStart starts[] = {
     {"DME@Status@3D Param@Mode Status@Reference", "1,1,0"}, // the local target of channel 1
     {"DME@Status@3D Param@*@Size@*", "100"},
     {"DME@Transform@3D Trans@Size@*", "100"},
+    {"Color Bkgd@*@Mode", "Flat"},
+    {"CCR@*@Insert@Insert", "Input"},
+    {"CCR@*@RGB Clip@Color Space", "YUV"},
     {"Global Effect@*@Priority@Mode", "Auto"},
     {"Global Effect@*@Priority@Ch1", "1"},
     {"Global Effect@Ch1-Ch4@Priority@Ch2", "2"},

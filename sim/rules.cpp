@@ -51,7 +51,8 @@ static void act_set(const Hit& hit)
 static void act_default(const Hit& hit)
 {
     for (Node* node : Tree_Under(hit.target))
-        Tree_Show(node->path, node->initial);
+        if (node->path != hit.path) // falls back by itself
+            Tree_Show(node->path, node->initial);
 }
 
 // The same number, or its mirror image.
@@ -368,6 +369,16 @@ static constexpr Rule rules[] = {
     {"DME@Transform@3D Trans@Size@Size", "", act_show_transform, "Size@Y", ""},
     {"DME@Transform@3D Trans@Center", "true", act_reset_transform, "Location", ""},
     {"DME@Transform@3D Trans@Reset", "true", act_reset_transform, "", ""},
+    // Colour: an action on a page resets what the page sets; a corrector or a background is copied
+    // whole.
+    {"CCR@*@Insert@Unity All", "true", act_default, "~2", ""},
+    {"CCR@*@*@Unity", "true", act_default, "~3", ""},
+    {"CCR@CCR1@Insert@Copy", "true", act_copy, "CCR@CCR2", "CCR@CCR1"},
+    {"CCR@CCR2@Insert@Copy", "true", act_copy, "CCR@CCR1", "CCR@CCR2"},
+    {"CCR@*@Insert@Swap", "true", act_swap, "CCR@CCR1", "CCR@CCR2"},
+    {"Color Bkgd@Copy 1 to 2", "true", act_copy, "Color Bkgd@Bkgd 2", "Color Bkgd@Bkgd 1"},
+    {"Color Bkgd@Copy 2 to 1", "true", act_copy, "Color Bkgd@Bkgd 1", "Color Bkgd@Bkgd 2"},
+    {"Color Bkgd@Swap", "true", act_swap, "Color Bkgd@Bkgd 1", "Color Bkgd@Bkgd 2"},
     // The first channel of a group has none before it: it is combined when the second joins it.
     {"Global Effect@*@Combine@Ch2", "", act_follow, "^@Ch1", ""},
     {"Global Effect@*@Combine@Ch6", "", act_follow, "^@Ch5", ""},

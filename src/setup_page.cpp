@@ -376,6 +376,9 @@ static void show_list(const SETUPTABLE& t)
         }
     }
     (void)LS_SetNData(t.list, *t.rows);
+    // Rows that are told only now: one of them is current.
+    if (*t.rows > 0 && !LS_GetMS(t.list) && LS_GetSelected(t.list, 0) < 0)
+        (void)LS_SetNowLine(t.list, std::min(t.state->cursor, *t.rows - 1));
     (void)LS_RedrawData(t.list);
 }
 

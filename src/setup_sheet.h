@@ -56,7 +56,8 @@ struct SETUPSHEET {
     int more_count = 0;
     // The choices of a column at the moment, at most max: how many; -1: its words.
     int (*offer)(int column, const char** texts, int max) = nullptr;
-    void (*changed)() = nullptr; // the cells or the current row may be others now
+    bool (*is_sound)() = nullptr; // as in SETUPTABLE
+    void (*changed)() = nullptr;  // the cells or the current row may be others now
 };
 
 // --- What page code may ask; t is the sheet's table ---
@@ -419,6 +420,7 @@ inline constexpr SETUPTABLE SetupSheet_Table = {
     .question = s.question,
     .choices = sheet_fields<s>.choice,
     .choice_count = sheet_fields<s>.choices,
+    .is_sound = s.is_sound,
     .changed = SheetChanged<s>,
 };
 

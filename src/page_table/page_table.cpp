@@ -1,4 +1,6 @@
 // PageTable, joined at compile time from the rows of the menu groups.
+#include "ccr.h"
+#include "color_bkgd.h"
 #include "diag.h"
 #include "dme.h"
 #include "effect_pages.h"
@@ -75,6 +77,9 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 fmem_clip_pages,
                 fmem_store_pages,
                 sources_pages,
+                color_bkgd_pages,
+                ccr_top_pages,
+                ccr_pages,
                 operation_pages,
                 dme_pages,
                 global_effect_pages,

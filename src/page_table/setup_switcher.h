@@ -2,6 +2,7 @@
 #pragma once
 #include "pc_engsetup_swr.h"
 #include "pc_setup_curve.h"
+#include "pc_setup_link.h"
 #include "rows.h"
 #include "setup_sheet.h"
 #include "setup_system.h"
@@ -309,11 +310,121 @@ inline constexpr SETUPCOLUMN showkey_columns[] = {
 };
 BANK_SHEET(keywipefm_showkey, 110, showkey_columns, MORE(to_key));
 
+// --- Link ---
+
+#define LINK(word) {SETUP_LINK_LOCAL word}
+inline constexpr const char* link_kinds[] = {"Key Link", "M/E Link", "Internal Bus Link", "GPI Link"};
+inline constexpr SETUPCOLUMN link_columns[] = {{.head = "Links", .width = 275, .path = SETUP_LINK_PATH "Enable@$", .words = words_enable}};
+inline constexpr BT_TBL link_more[] = {
+    Jump({.id = 49, .caption = "Key Link", .cmd = {"#73360001"}}),
+    Jump({.id = 50, .caption = "M/E Link", .cmd = {"#73360002"}}),
+    Jump({.id = 51, .caption = "Internal\nBus Link", .cmd = {"#73360003"}}),
+    Jump({.id = 52, .caption = "GPI Link", .cmd = {"#73360006"}}),
+};
+SHEET_OF(link, std::size(link_kinds), link_kinds, "Kind", 275, link_columns, ON_AIR, MORE(link_more));
+
+#define TO_LINK Jump({.id = 49, .caption = "Link", .cmd = {"#73360000"}})
+#define DELETE_LINK Action({.id = 38, .caption = "Delete", .cmd = LINK("Delete")})
+inline constexpr BT_TBL plain_link_more[] = {DELETE_LINK, TO_LINK};
+#define LINKS(offer_) .offer = offer_, .is_sound = SetupLink_IsSound
+
+inline constexpr SETUPCOLUMN keylink_columns[] = {
+    {.head = "Master", .width = 150, .path = SETUP_LINK_PATH "Key Link", .part = 1, .words = link_none, .is_asked = 1},
+    {.head = "Linked", .width = 150, .path = SETUP_LINK_PATH "Key Link", .part = 2, .words = link_none, .is_asked = 1},
+    {.head = "Link", .width = 150, .path = SETUP_LINK_PATH "Key Link", .part = 3, .words = words_on},
+};
+SHEET_OF(link_keylink, 24, nullptr, "Link No", 100, keylink_columns, ON_AIR, MORE(plain_link_more), LINKS(SetupLink_Keys));
+
+inline constexpr SETUPWORD melink_modes[] = {WORD("Off"), WORD("Transition"), WORD("Xpt"), WORD("All"), {}};
+inline constexpr SETUPCOLUMN melink_columns[] = {
+    {.head = "Master", .width = 150, .path = SETUP_LINK_PATH "M/E Link", .part = 1, .words = link_none, .is_asked = 1},
+    {.head = "Linked", .width = 150, .path = SETUP_LINK_PATH "M/E Link", .part = 2, .words = link_none, .is_asked = 1},
+    {.head = "Mode", .width = 150, .path = SETUP_LINK_PATH "M/E Link", .part = 3, .words = melink_modes},
+};
+SHEET_OF(link_melink, 8, nullptr, "Link No", 100, melink_columns, ON_AIR, MORE(plain_link_more), LINKS(SetupLink_Banks));
+
+// Buses are chosen on a page of their own.
+#define CHOOSE_BUS(place, caption_) Jump({.id = place, .caption = caption_, .cmd = LINK(caption_)})
+inline constexpr SETUPCOLUMN ibuslink_columns[] = {
+    {.head = "Master", .width = 150, .path = SETUP_LINK_PATH "Internal Bus Link@Link", .part = 1},
+    {.head = "Linked", .width = 150, .path = SETUP_LINK_PATH "Internal Bus Link@Link", .part = 2},
+    {.head = "Table", .width = 75, .path = SETUP_LINK_PATH "Internal Bus Link@Link", .part = 3, .min = 1, .max = LINK_TABLES},
+    {.head = "Link", .width = 75, .path = SETUP_LINK_PATH "Internal Bus Link@Link", .part = 4, .words = words_on},
+};
+inline constexpr BT_TBL ibuslink_more[] = {CHOOSE_BUS(35, "Master"), CHOOSE_BUS(36, "Linked"), CHOOSE_BUS(37, "Table"), DELETE_LINK, TO_LINK};
+SHEET_OF(link_ibuslink, 32, nullptr, "Link No", 100, ibuslink_columns, ON_AIR, MORE(ibuslink_more), LINKS(nullptr));
+
+inline constexpr BT_TBL bt_engsetup_switcher_link_ibuslink_bussel[] = {
+    Action({.id = 33, .caption = "Set\nMaster", .cmd = LINK("Internal Bus Link@Bus Sel@Set")}),
+    Action({.id = 34, .caption = "Set\nNone", .cmd = LINK("Internal Bus Link@Bus Sel@None")}),
+    Jump(  {.id = 49, .caption = "Internal\nBus Link", .cmd = {"#73360003"}}),
+    Jump(  {.id = 50, .caption = "GPI Link", .cmd = {"#73360006"}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_link_ibuslink_bussel));
+inline constexpr LS_TBL ls_engsetup_switcher_link_ibuslink_bussel[] = {
+    SwrList({.hn = 2, .vn = 11, .head = {"No", "Bus"}, .width = {110, 440}, .group = {1, 999}, .block = 1}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_link_ibuslink_bussel));
+
+inline constexpr NB_TBL nb_engsetup_switcher_tablesel[] = {
+    {.id = 1, .caption = "Source", .type = NB_INT, .min = 1, .max = LINK_SOURCES, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
+    NB_END,
+};
+static_assert(BoxesAreSound(nb_engsetup_switcher_tablesel));
+inline constexpr BT_TBL bt_engsetup_switcher_link_ibuslink_tablesel[] = {
+    Knobs( {.id = 33, .caption = "Linked\nSource", .cmd = LINK("Internal Bus Link@Table Sel@Source"), .nb = nb_engsetup_switcher_tablesel}),
+    Action({.id = 34, .caption = "Straight", .cmd = LINK("Internal Bus Link@Table Sel@Straight")}),
+    Action({.id = 35, .caption = "Set to\nLink", .cmd = LINK("Internal Bus Link@Table Sel@Set")}),
+    Jump(  {.id = 49, .caption = "Internal\nBus Link", .cmd = {"#73360003"}}),
+    SWR_CLEAR_EXECUTE,
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_link_ibuslink_tablesel));
+inline constexpr LS_TBL ls_engsetup_switcher_link_ibuslink_tablesel[] = {
+    SwrList({.hn = 9, .vn = 11, .head = {"Source", "Table1", "Table2", "Table3", "Table4", "Table5", "Table6", "Table7", "Table8"},
+             .width = {78, 59, 59, 59, 59, 59, 59, 59, 59}, .group = {1, 1, 1, 1, 1, 1, 1, 1, 1, 999}, .split = 1, .block = 1}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_link_ibuslink_tablesel));
+
+// A source on a bus fires a contact, when it has been there for the delay.
+#define GPI_LINK(part_) .path = SETUP_LINK_PATH "GPI Link", .part = part_
+inline constexpr SETUPCOLUMN gpilink_columns[] = {
+    {.head = "Bus", .width = 130, GPI_LINK(1)},
+    {.head = "Source", .width = 80, GPI_LINK(2), .min = 1, .max = LINK_SOURCES},
+    {.head = "GPI Out", .width = 70, GPI_LINK(3), .min = 1, .max = 8},
+    {.head = "Link", .width = 60, GPI_LINK(4), .words = words_on},
+    {.head = "Delay", .width = 75, GPI_LINK(5), .is_fixed = 1},
+    {.head = "Width", .width = 75, GPI_LINK(6), .is_fixed = 1},
+};
+inline constexpr BT_TBL gpilink_more[] = {Jump({.id = 35, .caption = "Bus", .cmd = LINK("Master")}), TO_LINK, Jump({.id = 50, .caption = "Adjust", .cmd = {"#73360007"}})};
+SHEET_OF(link_gpilink, 16, nullptr, "No", 60, gpilink_columns, MORE(gpilink_more));
+
+inline constexpr SETUPCOLUMN gpilink_adjust_columns[] = {
+    {.head = "Bus", .width = 130, GPI_LINK(1), .is_fixed = 1},
+    {.head = "Source", .width = 80, GPI_LINK(2), .is_fixed = 1},
+    {.head = "GPI Out", .width = 70, GPI_LINK(3), .is_fixed = 1},
+    {.head = "Link", .width = 60, GPI_LINK(4), .words = words_on, .is_fixed = 1},
+    {.head = "Delay", .width = 75, GPI_LINK(5), .min = 0, .max = 255},
+    {.head = "Width", .width = 75, GPI_LINK(6), .min = 1, .max = 255},
+};
+#undef GPI_LINK
+inline constexpr BT_TBL gpilink_adjust_more[] = {Jump({.id = 49, .caption = "GPI Link", .cmd = {"#73360006"}})};
+SHEET_OF(link_gpilink_adjust, 16, nullptr, "No", 60, gpilink_adjust_columns, MORE(gpilink_adjust_more));
+#undef LINK
+#undef LINKS
+#undef TO_LINK
+#undef DELETE_LINK
+#undef CHOOSE_BUS
+
 #define TABS(n) Base(base_main), LeftTabs(vf_setup, 3), BottomTabs(hf_setup_switcher, n)
 #define TREE(...) {"Engineering Setup", "Switcher", __VA_ARGS__}
 #define OBJECTS(n, name) {TABS(n), Buttons(bt_engsetup_switcher_##name), Lists(ls_engsetup_switcher_##name), Code(pc_engsetup_switcher_##name)}
 #define OBJECTS_KNOBS(n, name) {TABS(n), Buttons(bt_engsetup_switcher_##name), Boxes(NB_Non), Lists(ls_engsetup_switcher_##name), Code(pc_engsetup_switcher_##name)}
 #define SHEET(n, name) {TABS(n), SHEET_OBJECTS(engsetup_switcher_##name), Code(SetupSheet_Code<engsetup_switcher_##name>)}
+#define LINK_SHEET(name) {TABS(6), SHEET_OBJECTS(engsetup_switcher_##name), Code(SetupLink_Code<engsetup_switcher_##name>)}
 inline constexpr PAGE setup_switcher_pages[] = {
     {.id = 0x73310000, .tree = TREE("Config"), .obj = OBJECTS(1, config)},
     {.id = 0x73310001, .tree = TREE("Config", "User1-8 Config"), .obj = SHEET(1, config_user)},
@@ -339,9 +450,18 @@ inline constexpr PAGE setup_switcher_pages[] = {
     {.id = 0x73350001, .tree = TREE("Key/Wipe/FM/CCR", "CCR V Proc"), .obj = SHEET(5, keywipe_ccrvproc)},
     {.id = 0x73350002, .tree = TREE("Key/Wipe/FM/CCR", "DSK Auto Drop"), .obj = SHEET(5, keywipefm_dskautodrop)},
     {.id = 0x73350003, .tree = TREE("Key/Wipe/FM/CCR", "Show Key"), .obj = SHEET(5, keywipefm_showkey)},
+    {.id = 0x73360000, .tree = TREE("Link"), .obj = SHEET(6, link)},
+    {.id = 0x73360001, .tree = TREE("Link", "Key Link"), .obj = LINK_SHEET(link_keylink)},
+    {.id = 0x73360002, .tree = TREE("Link", "M/E Link"), .obj = LINK_SHEET(link_melink)},
+    {.id = 0x73360003, .tree = TREE("Link", "Internal Bus Link"), .obj = LINK_SHEET(link_ibuslink)},
+    {.id = 0x73360004, .tree = TREE("Link", "Internal Bus Link", "Table Select"), .obj = OBJECTS_KNOBS(6, link_ibuslink_tablesel), .knobassign = 33},
+    {.id = 0x73360005, .tree = TREE("Link", "Internal Bus Link", "Bus Select"), .obj = OBJECTS(6, link_ibuslink_bussel)},
+    {.id = 0x73360006, .tree = TREE("Link", "GPI Link"), .obj = LINK_SHEET(link_gpilink)},
+    {.id = 0x73360007, .tree = TREE("Link", "GPI Link", "Adjust"), .obj = SHEET(6, link_gpilink_adjust)},
 };
 #undef TABS
 #undef TREE
 #undef OBJECTS
 #undef OBJECTS_KNOBS
 #undef SHEET
+#undef LINK_SHEET

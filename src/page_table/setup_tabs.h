@@ -24,6 +24,7 @@ inline constexpr HF_TBL hf_setup_switcher[] = {
     {.id = 3, .caption = "Output", .page = 0x73330000},
     {.id = 4, .caption = "Transition", .page = 0x73340000},
     {.id = 5, .caption = "Key/Wipe\nFM/CCR", .page = 0x73350000},
+    {.id = 6, .caption = "Link", .page = 0x73360000},
     {.id = 7, .caption = "Device\nInterface", .page = 0x73370000},
     HF_END,
 };

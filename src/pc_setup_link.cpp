@@ -1,0 +1,307 @@
+#include "pc_setup_link.h"
+#include "global.h"
+#include "message.h"
+#include "page.h"
+#include "pane.h"
+#include "pc_engsetup_swr.h"
+#include "tally_value.h"
+#include "text.h"
+#include <algorithm>
+
+#include "safeguards.h"
+
+#define IBUS SETUP_LINK_PATH "Internal Bus Link@"
+#define LOCAL_IBUS SETUP_LINK_LOCAL "Internal Bus Link@"
+
+namespace
+{
+constexpr int KEYS = 8;
+constexpr int BANKS = int(std::size(swr_banks));
+constexpr char NONE[] = "None";
+
+// A key that leads to the page on which its column is chosen.
+struct Chooser {
+    const char* cmd;
+    int column;
+    uint32_t page;
+};
+} // namespace
+
+static struct {
+    const SETUPTABLE* open = nullptr;   // of the page of links in view
+    const SETUPTABLE* target = nullptr; // whose link in hand gets what a page beside it sets
+    uint32_t back = 0;                  // the page of target
+    int column = 0;                     // that is asked for
+    char key[BANKS * KEYS][16] = {};    // names of the keys
+} lk;
+
+// --- What may be linked ---
+
+static int add_none(const char** texts, int n, int max)
+{
+    if (n < max)
+        texts[n++] = NONE;
+    return n;
+}
+
+int SetupLink_Keys(int column, const char** texts, int max)
+{
+    if (column > LINK_LINKED)
+        return -1;
+    int n = 0;
+    for (; n < BANKS * KEYS && n < max; n++) {
+        PrintText(lk.key[n], "%s Key%d", swr_banks[n / KEYS], n % KEYS + 1);
+        texts[n] = lk.key[n];
+    }
+    return add_none(texts, n, max);
+}
+
+int SetupLink_Banks(int column, const char** texts, int max)
+{
+    if (column > LINK_LINKED)
+        return -1;
+    const int n = std::min(BANKS, max);
+    std::copy_n(swr_banks, n, texts);
+    return add_none(texts, n, max);
+}
+
+// --- A page of links ---
+
+static const char* cell(const SETUPTABLE& t, int row, int column)
+{
+    const char* const text = SetupPage_Text(t, row, column);
+    return *text ? text : NONE;
+}
+
+static bool is_none(const char* text)
+{
+    return Same(text, NONE);
+}
+
+// Why a row makes no sense, null when it does.
+static const char* fault_of(const SETUPTABLE& t, int row)
+{
+    const char* const master = cell(t, row, LINK_MASTER);
+    const char* const linked = cell(t, row, LINK_LINKED);
+    if (is_none(master) && is_none(linked))
+        return nullptr;
+    if (is_none(master) || is_none(linked))
+        return "Link %d has no master or\nnothing that is linked.";
+    if (Same(master, linked))
+        return "Link %d leads to itself.";
+    for (int other = 0; other < row; other++)
+        if (Same(cell(t, other, LINK_LINKED), linked))
+            return "What link %d links has another\nmaster already.";
+    return nullptr;
+}
+
+bool SetupLink_IsSound()
+{
+    for (int row = 0; lk.open && row < *lk.open->rows; row++) {
+        const char* const fault = fault_of(*lk.open, row);
+        if (!fault)
+            continue;
+        char text[CMD_SIZE];
+        PrintText(text, fault, row + 1);
+        (void)PaneMessage_Create("Execute", PANE_ALERT, text);
+        return false;
+    }
+    return true;
+}
+
+static void delete_links(const SETUPTABLE& t)
+{
+    for (int n = 0, row; (row = SetupPage_Selected(t, n)) >= 0; n++)
+        for (int column : {LINK_MASTER, LINK_LINKED})
+            if (!is_none(cell(t, row, column)))
+                SetupPage_Set(t, row, column, NONE);
+}
+
+static constexpr Chooser choosers[] = {
+    {SETUP_LINK_LOCAL "Master", LINK_MASTER, 0x73360005},
+    {SETUP_LINK_LOCAL "Linked", LINK_LINKED, 0x73360005},
+    {SETUP_LINK_LOCAL "Table", LINK_TABLE, 0x73360004},
+};
+
+static int link_button(const SETUPTABLE& t, const char* cmd)
+{
+    if (Same(cmd, SETUP_LINK_LOCAL "Delete")) {
+        delete_links(t);
+        return 1;
+    }
+    for (const Chooser& c : choosers)
+        if (Same(c.cmd, cmd)) {
+            lk.target = &t;
+            lk.back = GL_NowPage;
+            lk.column = c.column;
+            GL_CreatePage = c.page;
+            return 1;
+        }
+    return 0;
+}
+
+int SetupLink_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx)
+{
+    if (msg != LMSG_BTNSEL || !link_button(t, Text(ax)))
+        (void)SetupSheet_Proc(s, t, msg, ax, bx);
+    return 0;
+}
+
+int SetupLink_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on)
+{
+    lk.open = on ? &t : nullptr;
+    return SetupSheet_Create(s, t, on);
+}
+
+// The link in hand gets a text in a column, and its page is shown again.
+static void set_and_return(int column, const char* text)
+{
+    if (!lk.target)
+        return;
+    SetupPage_Set(*lk.target, lk.target->state->cursor, column, text);
+    GL_CreatePage = lk.back;
+}
+
+// --- The buses by their names ---
+
+static SwrRows<BUS_INT_MASTER> bus_rows;
+static constexpr SETUPFIELD bus_fields[] = {
+    SwrField(0, IBUS "Master Bus List", {.part = 1, .is_put = 0, .ask = SETUP_READ}),
+    SWR_KEY,
+};
+static constexpr SETUPTABLE bus_page = {.work = bus_rows.work,
+                                        .tally = bus_rows.tally,
+                                        .rows = &bus_rows.rows,
+                                        .state = &bus_rows.state,
+                                        .row_size = sizeof(swr_row),
+                                        .max = BUS_INT_MASTER,
+                                        .fields = bus_fields,
+                                        .field_count = std::size(bus_fields),
+                                        .list = 1};
+
+static int pc_engsetup_switcher_bussel_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    if (msg == LMSG_BTNSEL && Same(Text(ax), LOCAL_IBUS "Bus Sel@Set"))
+        set_and_return(lk.column, SetupPage_Text(bus_page, bus_rows.state.cursor, 0));
+    else if (msg == LMSG_BTNSEL && Same(Text(ax), LOCAL_IBUS "Bus Sel@None"))
+        set_and_return(lk.column, NONE);
+    else
+        (void)SetupPage_Proc(bus_page, msg, ax, bx);
+    return 0;
+}
+
+// Without a link in hand there is nothing to set.
+static void enable_set(int first, int last)
+{
+    for (int id = first; id <= last; id++)
+        (void)BT_SetDisable(id, !lk.target);
+}
+
+static int pc_engsetup_switcher_bussel_create(int on, uint32_t)
+{
+    (void)SetupPage_CreateOf<bus_page>(on, 0);
+    if (on) {
+        enable_set(33, 34);
+        (void)BT_SetCaption(33, lk.column == LINK_LINKED ? "Set\nLinked" : "Set\nMaster");
+    }
+    return !on;
+}
+const PC_TBL pc_engsetup_switcher_link_ibuslink_bussel = {
+    .proc_func = pc_engsetup_switcher_bussel_proc,
+    .create_func = pc_engsetup_switcher_bussel_create};
+
+// --- The tables: a source of the master, down, and what the linked bus takes by each table ---
+
+static SwrRows<LINK_SOURCES> table_rows;
+#define TABLE(n) SwrField((n)-1, IBUS "Table", {.part = (n)})
+static constexpr SETUPFIELD table_fields[] = {TABLE(1), TABLE(2), TABLE(3), TABLE(4), TABLE(5),
+                                              TABLE(6), TABLE(7), TABLE(8), SWR_KEY};
+static_assert(std::size(table_fields) == LINK_TABLES + 1 && LINK_TABLES <= SWR_CELLS);
+
+static int table_sources(const char** keys, int max)
+{
+    static char numbers[LINK_SOURCES][4];
+    const int n = std::min(LINK_SOURCES, max);
+    for (int i = 0; i < n; i++) {
+        PrintText(numbers[i], "%d", i + 1);
+        keys[i] = numbers[i];
+    }
+    return n;
+}
+
+// The table whose column is selected, from 0.
+static int current_table()
+{
+    return std::clamp(LS_GetSplitSel(1) - 1, 0, LINK_TABLES - 1);
+}
+
+static void table_changed()
+{
+    const int row = table_rows.state.cursor;
+    if (row < table_rows.rows)
+        (void)NB_SetVar(1, Decimal(table_rows.work[row].cell[current_table()]));
+}
+
+static constexpr SETUPTABLE table_page = {.work = table_rows.work,
+                                          .tally = table_rows.tally,
+                                          .rows = &table_rows.rows,
+                                          .state = &table_rows.state,
+                                          .row_size = sizeof(swr_row),
+                                          .max = LINK_SOURCES,
+                                          .fields = table_fields,
+                                          .field_count = std::size(table_fields),
+                                          .keys = table_sources,
+                                          .list = 1,
+                                          .btn_clear = BTN_SHEET_CLEAR,
+                                          .btn_execute = BTN_SHEET_EXECUTE,
+                                          .clear = LOCAL_SWR "Clear",
+                                          .execute = LOCAL_SWR "Execute",
+                                          .changed = table_changed};
+
+static void straighten_table()
+{
+    for (int row = 0; row < table_rows.rows; row++)
+        SetupPage_Set(table_page, row, current_table(), table_rows.work[row].key);
+}
+
+static int table_button(const char* cmd)
+{
+    if (Same(cmd, LOCAL_IBUS "Table Sel@Straight"))
+        straighten_table();
+    else if (Same(cmd, LOCAL_IBUS "Table Sel@Set"))
+        set_and_return(LINK_TABLE, NumStr(current_table() + 1));
+    else
+        return 0;
+    return 1;
+}
+
+static int pc_engsetup_switcher_tablesel_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    if (msg == LMSG_BTNSEL && table_button(Text(ax)))
+        return 0;
+    if (msg == LMSG_KNOBVAR)
+        SetupPage_Set(table_page, table_rows.state.cursor, current_table(), NumStr(int(bx)));
+    else
+        (void)SetupPage_Proc(table_page, msg, ax, bx);
+    return 0;
+}
+
+static int pc_engsetup_switcher_tablesel_create(int on, uint32_t)
+{
+    (void)SetupPage_CreateOf<table_page>(on, 0);
+    if (on) {
+        (void)LS_SetSplitSel(1, 1);
+        enable_set(35, 35);
+    }
+    return !on;
+}
+const PC_TBL pc_engsetup_switcher_link_ibuslink_tablesel = {
+    .proc_func = pc_engsetup_switcher_tablesel_proc,
+    .create_func = pc_engsetup_switcher_tablesel_create};
+
+void SetupLink_Reset()
+{
+    SetupPage_Forget(bus_page);
+    SetupPage_Forget(table_page);
+    lk = {};
+}
