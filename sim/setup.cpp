@@ -1,6 +1,7 @@
 #include "setup.h"
 #include "link.h"
 #include "log.h"
+#include "setup_switcher.h"
 #include "text.h"
 #include "tree.h"
 #include <algorithm>
@@ -244,6 +245,7 @@ int64_t Setup_Tick(int64_t now)
 void Setup_Install()
 {
     st = {};
+    SetupSwitcher_Install();
     std::vector<std::string> assigns, sources;
     std::string formats;
     for (int n = 1; n <= OUTPUTS; ++n) {

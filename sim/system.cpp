@@ -121,7 +121,6 @@ static const Preset presets[] = {
     {"Engineering Setup@Switcher@Config@M/E Config", BANKS, "Standard"},
     {"Engineering Setup@Switcher@Config@User1-8 Config", "User1", "Aux1,Aux2,FM1,FM2,FM3,FM4"},
     {"Engineering Setup@Switcher@Config@User1-8 Config", "User2", "Aux3,Aux4,FM5,FM6,FM7,FM8"},
-    {"Engineering Setup@Switcher@Transition@Key Transition", BANKS, "Common"},
     {"Engineering Setup@Switcher@Key/Wipe@FM Auto Store", "", "false"},
     {"Engineering Setup@Switcher@SDI I/F", DMES, "Dedicated"},
     {"Engineering Setup@Switcher@Config@DME Wipe Sub Enable", "", "false"},
@@ -251,8 +250,6 @@ static void sys_crosspoints()
     sys_list(ext + "Master Bus List", sys_numbered("BUS", 1, 16), false);
     sys_list(ext + "S-BUS Src Name List", sys_numbered("SRC", 1, 64), false);
     sys_list(ext + "S-BUS Dst Name List", sys_numbered("DST", 1, 64), false);
-    sys_list("Engineering Setup@Switcher@Link@Internal Bus Link@Master Bus List",
-             sys_numbered("BUS", 1, 16), false);
 }
 
 static void sys_tenkeys()

@@ -1,4 +1,5 @@
 #include "transition.h"
+#include "setup_switcher.h"
 #include "system.h"
 #include "text.h"
 #include "tree.h"
@@ -78,8 +79,10 @@ static void show_cut(Run& run)
 static void land(Run run)
 {
     show_cut(run); // beyond the end of the clip
-    for (const Change& change : run.landing)
+    for (const Change& change : run.landing) {
         Tree_Show(change.path, change.value);
+        SetupSwitcher_Follow(change.path);
+    }
     show_clip(run, run.frames, "Stop");
     Tree_Show(run.position, "0.00");
     Tree_Show(run.trigger, "false");
@@ -300,7 +303,9 @@ int64_t Transition_Tick(int64_t now)
         if (frame >= run.frames) {
             landed.push_back(run);
         } else {
-            Tree_Show(run.position, Text_Format("%.2f", 100.0 * double(frame) / run.frames));
+            Tree_Show(run.position,
+                      Text_Format("%.2f", SetupSwitcher_Curve(Text_Head(run.position, 1),
+                                                              100.0 * double(frame) / run.frames)));
             show_clip(run, int(frame), "Play");
             if (frame >= run.cut_frame)
                 show_cut(run);

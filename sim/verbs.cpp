@@ -11,6 +11,7 @@
 #include "macro.h"
 #include "rules.h"
 #include "setup.h"
+#include "setup_switcher.h"
 #include "setup_switcher_io.h"
 #include "store.h"
 #include "system.h"
@@ -99,6 +100,7 @@ static constexpr Owner owners[] = {
     {"Info@DME@SelCH", System_PutDmeChannels},
     {"Engineering Setup@System@", Setup_Put},
     {"Engineering Setup@Switcher@", SetupSwitcherIo_Put},
+    {"Engineering Setup@Switcher@", SetupSwitcher_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };
@@ -140,7 +142,7 @@ static bool verb_put_is_request(int client, const std::string& path, const std::
 
 // The sender hears the outcome even when nothing changed: its page shows the server's word, not its
 // own wish.
-static void verb_put(int client, const std::string& path, const std::string& value)
+static void verb_put_alone(int client, const std::string& path, const std::string& value)
 {
     if (path == INITIAL_READ)
         return System_Announce(client, value == "true");
@@ -167,6 +169,13 @@ static void verb_put(int client, const std::string& path, const std::string& val
     }
     Tree_Tell(*node, tally, client);
     Rules_Follow(path, tally);
+}
+
+static void verb_put(int client, const std::string& path, const std::string& value)
+{
+    verb_put_alone(client, path, value);
+    if (!vb.is_ng)
+        SetupSwitcher_Follow(path);
 }
 
 void Verb_Do(const std::string& path, const std::string& value)
