@@ -203,9 +203,10 @@ template <void (*act)(const std::vector<int>&)> static void timeline(const Macro
     if (const int region = Region_ByName(value_of(line, "Region")); region >= 0)
         act({region});
 }
-static void forward(const std::vector<int>& regions)
+template <void (*set)(const std::vector<int>&, bool), bool on>
+static void turn(const std::vector<int>& regions)
 {
-    Timeline_Run(regions, 1);
+    set(regions, on);
 }
 
 // --- The machines and keys that the simulator has no more of than what they were told last ---
@@ -230,6 +231,32 @@ static void aux_mix(const MacroLine& line)
     put("Aux@", value_of(line, "AuxMixBus") + "@Mix", truth(value_of(line, "AuxMixStatus")));
 }
 
+static void utility_button(const MacroLine& line)
+{
+    const int button = MacroEvent_Number(line, "Button", 1, 96, 0);
+    if (button > 0)
+        put("Panel@Utility Module@", value_of(line, "UtilityModule") + "@Pressed",
+            std::to_string(button));
+}
+
+// A toggle goes by what was told last.
+static void key_bus_utility_button(const MacroLine& line)
+{
+    const int button = MacroEvent_Number(line, "Button", 1, 32, 0);
+    const std::string status = value_of(line, "UtilityStatus"), bank = tree_of(line, "ME");
+    const std::string path = Text_Format("%s@Key Bus Utility@%s@%d", bank.c_str(),
+                                         value_of(line, "Bank").c_str(), button);
+    if (bank.empty() || button == 0)
+        return;
+    const Node* const is_on = status == "Toggle" ? Tree_Get(path) : nullptr;
+    put(path, "", is_on ? (is_on->value == "true" ? "false" : "true") : truth(status));
+}
+
+static void pad_page(const MacroLine& line)
+{
+    put("Panel@Xpt Pad@", value_of(line, "MEAuxBank") + "@Page", value_of(line, "Page"));
+}
+
 // --- The table ---
 
 static constexpr struct {
@@ -247,9 +274,13 @@ static constexpr struct {
     {"WipeSnapshot", recall_of<STORE_WIPE, BANK>},
     {"DMEWipeSnapshot", recall_of<STORE_DME, BANK>},
     {"TimelineRecall", recall_of<STORE_EFFECT, REGION>},
-    {"TimelineRun", timeline<forward>},
+    {"TimelineRun", timeline<Timeline_RunAsSet>},
     {"TimelineRewind", timeline<Timeline_Rewind>},
     {"TimelineFF", timeline<Timeline_FastForward>},
+    {"TimelineDirectionNormal", timeline<turn<Timeline_SetReversed, false>>},
+    {"TimelineDirectionReverse", timeline<turn<Timeline_SetReversed, true>>},
+    {"TimelineNormalReverseOn", timeline<turn<Timeline_SetNormalReverse, true>>},
+    {"TimelineNormalReverseOff", timeline<turn<Timeline_SetNormalReverse, false>>},
     {"ShotBox", recall_of<STORE_SHOTBOX, NOWHERE>},
     {"MasterSnapshot", recall_of<STORE_MASTER_SNAPSHOT, NOWHERE>},
     {"MasterTimelineRecall", recall_of<STORE_MASTER_EFFECT, NOWHERE>},
@@ -261,6 +292,9 @@ static constexpr struct {
     {"FadeToBlack", fade_to_black},
     {"MenuMacroRun", menu_macro},
     {"AuxMix", aux_mix},
+    {"UtilityButton", utility_button},
+    {"KeyBusUtilityButton", key_bus_utility_button},
+    {"XptPadPage", pad_page},
     {"Play", tell_device},
     {"Cue", tell_device},
     {"Stop", tell_device},

@@ -218,6 +218,12 @@ static void line_run(Timeline& line, int direction)
     line.run = direction;
 }
 
+static void line_run_as_set(Timeline& line, int)
+{
+    line_run(line, line.is_reversed ? -1 : 1);
+    line.is_reversed ^= line.is_normal_reverse;
+}
+
 static void line_stop(Timeline& line, int)
 {
     line.run = 0;
@@ -247,6 +253,23 @@ static void for_lines(const std::vector<int>& regions, void (*func)(Timeline&, i
 void Timeline_Run(const std::vector<int>& regions, int direction)
 {
     for_lines(regions, line_run, direction);
+}
+
+void Timeline_RunAsSet(const std::vector<int>& regions)
+{
+    for_lines(regions, line_run_as_set, 0);
+}
+
+void Timeline_SetReversed(const std::vector<int>& regions, bool on)
+{
+    for (const int region : regions)
+        tl.lines[region].is_reversed = on;
+}
+
+void Timeline_SetNormalReverse(const std::vector<int>& regions, bool on)
+{
+    for (const int region : regions)
+        tl.lines[region].is_normal_reverse = on;
 }
 
 void Timeline_Stop(const std::vector<int>& regions)

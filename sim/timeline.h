@@ -36,8 +36,10 @@ struct Timeline {
     int time = 0; // from the start of the delay on
     int run = 0;  // 1 forward, -1 in reverse
     bool is_loop_on = false;
-    int loops_left = 0;        // passes, the one under way included
-    bool is_ping_pong = false; // the ends turn it round
+    int loops_left = 0;             // passes, the one under way included
+    bool is_ping_pong = false;      // the ends turn it round
+    bool is_reversed = false;       // a macro runs it from the end
+    bool is_normal_reverse = false; // and each run of a macro's turns that round
     bool is_delay_on = false;
     bool is_selected = false;
     int delay() const; // the one in force
@@ -61,6 +63,9 @@ void Timeline_SetHead(int region, int number, const std::string& name, bool is_l
 
 // --- Run control; regions without a keyframe don't move ---
 void Timeline_Run(const std::vector<int>& regions, int direction); // from the end it starts over
+void Timeline_RunAsSet(const std::vector<int>& regions);           // in the direction that was set
+void Timeline_SetReversed(const std::vector<int>& regions, bool on);
+void Timeline_SetNormalReverse(const std::vector<int>& regions, bool on);
 void Timeline_Stop(const std::vector<int>& regions);
 void Timeline_Rewind(const std::vector<int>& regions);
 void Timeline_FastForward(const std::vector<int>& regions);

@@ -54,6 +54,26 @@ class Runs(MacroTest):
         self.assertEqual(lines, [key + "#true", bus + "#CAM7", aux + "#CAM4"])
         self.assertGreater(time.monotonic() - begin, 0.4)
 
+    def test_timelines_run_in_the_direction_that_was_set_and_keys_are_told(self):
+        run, reverse = "Key Frame@Timeline@Run", "Key Frame@Timeline@Reverse"
+        utility, key, pad = "Panel@Utility Module@Module2@Pressed", "M/E-2@Key Bus Utility@Bank1@7", "Panel@Xpt Pad@Aux@Page"
+        line = "macro operate Timeline%s,Region,M/E-1"
+        self.follow(run, reverse, utility, key, pad)
+        self.console(line.replace("%s", "Recall") + ",Register,1", line % "DirectionReverse", line % "Run")
+        self.other.until(reverse + "#true")
+        self.console(line % "NormalReverseOn", line % "Run", line % "Run")  # the first turns it round
+        self.other.until(run + "#true")
+        self.console(line % "NormalReverseOff", line % "DirectionReverse", line % "DirectionNormal", line % "Rewind")
+        self.other.until(run + "#false")
+        self.console(line % "Run")
+        self.assertNotIn(reverse + "#true", self.other.until(run + "#true"))
+        for event in ("UtilityButton,UtilityModule,Module2,Button,5", "XptPadPage,MEAuxBank,Aux,Page,Page3",
+                      *2 * ("KeyBusUtilityButton,ME,M/E-2,Bank,Bank1,Button,7,UtilityStatus,Toggle",)):
+            self.console("macro operate " + event)
+        lines = self.other.until(key + "#false")
+        for line in (utility + "#5", pad + "#Page3", key + "#true"):
+            self.assertIn(line, lines)
+
     def test_a_run_that_is_stopped_does_no_more(self):
         mix = "M/E-1@Key1@Status@Key ON"
         self.follow(mix, EDIT + "Run")
