@@ -26,7 +26,14 @@ static std::vector<long> fields_of(const std::string& entry)
             return {};
         fields.push_back(n);
     }
-    return fields.size() == FIELDS ? fields : std::vector<long>{};
+    const bool is_entry =
+        fields.size() == FIELDS && fields[FIELD_BLOCK] >= 1 && fields[FIELD_REGISTER] >= 1;
+    return is_entry ? fields : std::vector<long>{};
+}
+
+static bool is_mode(const std::string& word)
+{
+    return word == "Button Mode" || word == "Pair Mode";
 }
 
 static bool is_same_button(std::vector<long> a, std::vector<long> b)
@@ -54,9 +61,7 @@ bool Attach_Add(const std::string& entry)
 {
     Node* const node = Tree_Get(LIST);
     const auto fields = fields_of(entry);
-    const bool is_entry =
-        !fields.empty() && fields[FIELD_BLOCK] >= 1 && fields[FIELD_REGISTER] >= 1;
-    if (!node || !is_entry)
+    if (!node || fields.empty())
         return false;
     std::erase_if(node->rows, [&fields](const std::string& row) {
         return is_same_button(fields_of(row), fields);
@@ -78,6 +83,28 @@ int Attach_Macro(int block, int button1, int button2)
     return 0;
 }
 
+std::string Attach_Write()
+{
+    std::string text = "mode " + Tree_Get(MODE)->value + "\n";
+    for (const std::string& row : Tree_Get(LIST)->rows)
+        text += "entry " + row + "\n";
+    return text;
+}
+
+void Attach_Load(const std::string& text)
+{
+    Node* const node = Tree_Get(LIST);
+    node->rows.clear();
+    for (const std::string& line : Text_Split(text, '\n')) {
+        const std::string rest = line.substr(std::min(line.find(' '), line.size() - 1) + 1);
+        if (Text_Begins(line, "mode ") && is_mode(rest))
+            Tree_Show(MODE, rest);
+        else if (Text_Begins(line, "entry ") && !fields_of(rest).empty())
+            node->rows.push_back(rest);
+    }
+    show(*node);
+}
+
 // Crosspoint rows: those of the banks, seven blocks a bank, and of the aux buses.
 static bool is_crosspoint(const std::string& row)
 {
@@ -87,7 +114,7 @@ static bool is_crosspoint(const std::string& row)
 
 static void set_mode(const std::string& mode)
 {
-    if ((mode != "Button Mode" && mode != "Pair Mode") || mode == Tree_Get(MODE)->value)
+    if (!is_mode(mode) || mode == Tree_Get(MODE)->value)
         return;
     Tree_Show(MODE, mode);
     remove_rows(is_crosspoint);

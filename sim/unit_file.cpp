@@ -1,4 +1,5 @@
 #include "unit_file.h"
+#include "attach.h"
 #include "frame_memory.h"
 #include "log.h"
 #include "region.h"
@@ -8,6 +9,7 @@
 #include "value_text.h"
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <map>
 #include <set>
 
@@ -400,6 +402,21 @@ static std::string value_word(const ValueSet& set, HostKind host, int unit)
     return Text_Format("%s%s%d", is_other ? "!" : "", kind, is_other ? 2 : unit);
 }
 
+constexpr char ATTACHMENTS_HEAD[] = "attachments PMA\n"; // of the panel that macros hang on
+
+static bool is_attachments(HostKind host, int unit, const UnitFile& file)
+{
+    return file.ext == "PMA" && host == HOST_PNL && unit == 1 && file.number == 0;
+}
+
+static std::string load_attachments(const std::string& bytes)
+{
+    if (!Text_Begins(bytes, ATTACHMENTS_HEAD))
+        return "NG(File Type Error)";
+    Attach_Load(bytes.substr(strlen(ATTACHMENTS_HEAD)));
+    return "";
+}
+
 static std::string frame_names();
 static std::string load_frame_names(const std::string& bytes);
 
@@ -415,6 +432,10 @@ bool UnitFile_Make(HostKind host, int unit, const UnitFile& file, std::string* b
         if (r.exists)
             *bytes = kind.kind == STORE_MACRO ? write_macro(file, r) : write_register(kind, r);
         return r.exists;
+    }
+    if (is_attachments(host, unit, file)) {
+        *bytes = ATTACHMENTS_HEAD + Attach_Write();
+        return true;
     }
     const ValueSet* const values = value_set(file);
     if (values && file.number == 0) {
@@ -460,6 +481,8 @@ std::string UnitFile_Load(HostKind host, int unit, const UnitFile& file, const s
     const int row = set ? row_of(*set, host, unit, file.region) : -1;
     if (row >= 0)
         return load_register(*set, row, file, bytes);
+    if (is_attachments(host, unit, file))
+        return load_attachments(bytes);
     if (const ValueSet* const values = value_set(file)) {
         const std::string head = "values " + file.ext + "\n";
         if (!Text_Begins(bytes, head))

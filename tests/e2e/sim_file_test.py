@@ -425,6 +425,21 @@ class Registers(HubTest):
         self.save("PNL001D001:", "PNL1", "MACRO", "PNL_0007.PMR", LOCAL + "m2.PMR")
         self.assertEqual(self.content(LOCAL + "m2.PMR"), body)
 
+    def test_attachments_come_back_with_their_mode(self):
+        head, file, panel = "Macro@Attachment@", "PNL_0000.PMA", "PNL001D001:"
+        read = lambda: (self.panel.send(f"read {head}List", f"read {head}Xpt Attachment Mode"),
+                        self.panel.until(f"{head}Xpt Attachment Mode#Button Mode"))[1]
+        before = read()
+        self.assertGreater(len(before), 5)  # several of a block
+        self.save(panel, "PNL1", "MACROATC", file, LOCAL + "a.PMA")
+        self.panel.send(f"put {head}Xpt Attachment Mode#Pair Mode", f"put {head}All Clear#true")
+        self.panel.until(f"{head}Xpt Attachment Mode#Pair Mode")
+        self.assertEqual(self.load(panel, "PNL1", "MACROATC", LOCAL + "a.PMA", file), "OK")
+        self.assertEqual(read(), before)
+        self.lay(LOCAL + "a.PMA", b"values PMA\n")
+        self.assertRegex(self.load(panel, "PNL1", "MACROATC", LOCAL + "a.PMA", file), "^NG")
+        self.assertEqual(read(), before)
+
     def test_without_the_hub_a_register_loads_at_once(self):
         """As power-on loading does."""
         self.panel.send("add Snapshot@Snapshot@Attribute@M/E-1@List")
