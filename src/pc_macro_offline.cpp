@@ -107,7 +107,8 @@ static const MACROPARAM* focus_parameter()
     return &parameter(*event, focus_slot());
 }
 
-bool is_continue_valid(const MacroEvent& event)
+// Whether the event before it, comments aside, may be followed.
+static bool may_follow(const MacroEvent& event)
 {
     const MacroEvent* before = event.pPrev;
     while (before && MacroEvent_IsComment(*before))
@@ -116,12 +117,17 @@ bool is_continue_valid(const MacroEvent& event)
            !MacroSymbol_IsContinueGray(before->Symbol);
 }
 
+bool is_continue_valid(const MacroEvent& event)
+{
+    return may_follow(event) && !MacroSymbol_IsContinueGray(event.Symbol);
+}
+
 // What comes behind a line that has changed or gone may have lost the event that it went on from.
 static void mend_continue(MacroEvent* event)
 {
     while (event && MacroEvent_IsComment(*event))
         event = event->pNext;
-    if (event && Same(event->Contents, "Continue") && !is_continue_valid(*event))
+    if (event && Same(event->Contents, "Continue") && !may_follow(*event))
         CopyText(event->Contents, "Event");
 }
 
@@ -386,8 +392,7 @@ static void set_contents(MacroEvent& event, const char* contents)
 {
     const bool was_comment = MacroEvent_IsComment(event);
     CopyText(event.Contents, contents);
-    const bool is_wrong = Same(contents, "Continue") && MacroSymbol_IsContinueGray(event.Symbol);
-    if (was_comment != MacroEvent_IsComment(event) || is_wrong) {
+    if (was_comment != MacroEvent_IsComment(event)) {
         *event.Symbol = '\0';
         MacroEvent_ClearData(event);
     }
@@ -410,15 +415,16 @@ static void event_set_listA_process(const char* value)
         return;
     if (oe.focus == MACRO_COL_CONTENTS) {
         set_contents(*event, value);
+        mend_continue(event->pNext);
     } else if (oe.focus == MACRO_COL_SYMBOL) {
         CopyText(event->Symbol, value);
         MacroEvent_ClearData(*event);
+        mend_continue(event->pNext);
     } else if (focus_parameter()) {
         CopyText(event->Data[focus_slot()], value);
     } else {
         return;
     }
-    mend_continue(event->pNext);
     changed();
     show_events();
     set_focus(next_focus(*event));
@@ -683,6 +689,8 @@ static int store_sel()
 
 static int leave_asked(uint32_t page)
 {
+    if (page == PAGE_MACRO_OFFLINE)
+        return 0; // it would be built anew: nobody leaves
     oe.leave_to = page;
     if (push.list || (oe.leave_pane && Pane_Exist(oe.leave_pane)))
         return 0; // what goes on will lead there
@@ -793,8 +801,8 @@ static int leave()
     MacroList_Clear(oe.list);
     oe = {};
     GL_Macro_Offline_Store = 0;
-    const bool IsStored = push.list; // on its way: the job still reads the file
-    if (!IsStored)
+    const bool IsStored = push.list;                   // on its way: the job still reads the file
+    if (!IsStored && GL_NowPage != PAGE_MACRO_OFFLINE) // else it is only built anew
         (void)unlink(MACRO_EDIT_FILE);
     return 0;
 }

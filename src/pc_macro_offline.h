@@ -36,8 +36,8 @@ enum STOREMODEL : int {
 };
 extern STOREMODEL MacroOffLine_StoreModel;
 
-// Whether this line may be a "Continue": an event stands before it, comments aside, that another
-// may follow.
+// Whether this line may become a "Continue": an event stands before it, comments aside, that
+// another may follow, and what it is itself may follow another; a line that is none yet may.
 bool is_continue_valid(const MacroEvent& event);
 
 // The file in hand is on its way to the panel; it outlives the page.
