@@ -6,7 +6,7 @@
 //   Current Work Register Event Data#N    the records from event N on
 //   Macro Event Edit Range#N,M     the cursor stands on line M of event N
 //   Insert#N,0|1                   before or behind event N
-//   Modify#N,M  Delete#N,M         the events from N to M
+//   Modify#N,M,K  Delete#N,M,K     K lines from line M of event N on
 //   Run#true|false                 from the cursor on
 // A record is "N,INNER,CONTENTS,SYMBOL,NAME,VALUE,...", INNER 0 for the event itself.
 #include "log.h"
@@ -28,7 +28,7 @@ static struct {
     int cursor = 1; // event
     bool has_done = false;
     MacroLine done;
-    std::vector<char> flags; // of each event: "1" when it is not as it was
+    std::vector<char> flags; // of each line: "1" when it is not as it was
 } mo;
 
 static std::string path_of(const char* tail)
@@ -48,17 +48,21 @@ bool MacroOnline_IsOpen()
 
 // --- What the editor is told ---
 
+static bool is_first(const std::vector<MacroLine>& all, size_t i)
+{
+    return all[i].contents != MacroLine::CONTINUE || i == 0;
+}
+
 static std::vector<std::string> records(const std::vector<MacroLine>& all)
 {
     std::vector<std::string> rows;
     int event = 0, inner = 0;
-    for (const MacroLine& line : all) {
-        const bool is_first = line.contents != MacroLine::CONTINUE || event == 0;
-        event += is_first;
-        inner = is_first ? 0 : inner + 1;
+    for (size_t i = 0; i < all.size(); ++i) {
+        event += is_first(all, i);
+        inner = is_first(all, i) ? 0 : inner + 1;
         if (event >= mo.first && event < mo.first + WINDOW)
-            rows.push_back(Text_Format("%d,%d,%s,%s", event, inner, MacroEvent_Word(line),
-                                       MacroEvent_Text(line).c_str()));
+            rows.push_back(Text_Format("%d,%d,%s,%s", event, inner, MacroEvent_Word(all[i]),
+                                       MacroEvent_Text(all[i]).c_str()));
     }
     return rows;
 }
@@ -79,10 +83,14 @@ static void show_head(const std::vector<MacroLine>& all)
     const int events = Macro_EventCount(all);
     const Register* const r =
         mo.number > 0 ? &Store_Register(Store_Kind(STORE_MACRO), 0, mo.number) : nullptr;
-    mo.flags.resize(size_t(events), '0');
+    mo.flags.resize(all.size(), '0');
     std::string flags(WINDOW, '0');
-    for (int i = 0; i < WINDOW && mo.first - 1 + i < events; ++i)
-        flags[size_t(i)] = mo.flags[size_t(mo.first - 1 + i)];
+    int event = 0;
+    for (size_t i = 0; i < all.size(); ++i) {
+        event += is_first(all, i);
+        if (event >= mo.first && event < mo.first + WINDOW && mo.flags[i] == '1')
+            flags[size_t(event - mo.first)] = '1';
+    }
     Tree_Show(path_of("Remain Macro Event Cell"), std::to_string(MACRO_CELLS - int(all.size())));
     if (r)
         Tree_Show(path_of("Current Macro Register Info"),
@@ -129,50 +137,68 @@ static void insert(int event, bool is_behind)
     if (!mo.has_done || !may_change() || all.size() >= MACRO_CELLS)
         return;
     const int place = events == 0 ? 1 : std::clamp(event, 1, events) + is_behind; // its number
-    all.insert(all.begin() + long(Macro_LineOfEvent(all, place)), mo.done);
-    mo.flags.resize(size_t(events), '0');
-    mo.flags.insert(mo.flags.begin() + (place - 1), '1');
+    const long at = long(Macro_LineOfEvent(all, place));
+    mo.flags.resize(all.size(), '0');
+    mo.flags.insert(mo.flags.begin() + at, '1');
+    all.insert(all.begin() + at, mo.done);
     mo.cursor = place;
     mo.has_done = false;
     Macro_SetLines(mo.number, all);
 }
 
-// Lines of the events from first to last; false when there is none.
-static bool lines_of(const std::vector<MacroLine>& all, int first, int last, size_t* from,
-                     size_t* to)
+namespace
 {
-    *from = Macro_LineOfEvent(all, first);
-    *to = Macro_LineOfEvent(all, last + 1);
-    return may_change() && first >= 1 && first <= last && *from < all.size();
+struct Run {
+    size_t from = 0, to = 0; // lines; none when they are the same
+};
+} // namespace
+
+// So many lines from line inner of an event on.
+static Run run_of(const std::vector<MacroLine>& all, int event, int inner, int count)
+{
+    const size_t head = Macro_LineOfEvent(all, event);
+    const bool is_one = may_change() && inner >= 0 && count >= 1 && head < all.size() &&
+                        size_t(inner) < Macro_LineOfEvent(all, event + 1) - head;
+    if (!is_one)
+        return {};
+    const size_t from = head + size_t(inner);
+    return {from, std::min(from + size_t(count), all.size())};
 }
 
-static void modify(int first, int last)
+static void modify(int event, int inner, int count)
 {
     auto all = lines();
-    size_t from = 0, to = 0;
-    if (!mo.has_done || !lines_of(all, first, last, &from, &to))
+    const Run run = run_of(all, event, inner, count);
+    if (!mo.has_done || run.from == run.to)
         return;
-    for (size_t i = from; i < to; ++i)
-        if (all[i].contents == MacroLine::EVENT)
-            all[i] = mo.done; // what continues it goes on from the new one
-    mo.flags.resize(size_t(Macro_EventCount(all)), '0');
-    for (int event = first; event <= last && size_t(event) <= mo.flags.size(); ++event)
-        mo.flags[size_t(event - 1)] = '1';
+    mo.flags.resize(all.size(), '0');
+    for (size_t i = run.from; i < run.to; ++i) {
+        const bool continues = all[i].contents == MacroLine::CONTINUE;
+        all[i] = mo.done;
+        all[i].contents = continues ? MacroLine::CONTINUE : MacroLine::EVENT;
+        mo.flags[i] = '1';
+    }
     mo.has_done = false;
     Macro_SetLines(mo.number, all);
 }
 
-static void take_out(int first, int last)
+static void take_out(int event, int inner, int count)
 {
     auto all = lines();
-    size_t from = 0, to = 0;
-    if (!lines_of(all, first, last, &from, &to))
+    const Run run = run_of(all, event, inner, count);
+    if (run.from == run.to)
         return;
-    mo.flags.resize(size_t(Macro_EventCount(all)), '0');
-    last = std::min(last, int(mo.flags.size()));
-    mo.flags.erase(mo.flags.begin() + (first - 1), mo.flags.begin() + last);
-    all.erase(all.begin() + long(from), all.begin() + long(to));
-    mo.cursor = first;
+    bool has_head = false;
+    for (size_t i = run.from; i < run.to; ++i)
+        has_head |= is_first(all, i);
+    mo.flags.resize(all.size(), '0');
+    mo.flags.erase(mo.flags.begin() + long(run.from), mo.flags.begin() + long(run.to));
+    all.erase(all.begin() + long(run.from), all.begin() + long(run.to));
+    if (has_head && run.from < all.size() && all[run.from].contents == MacroLine::CONTINUE) {
+        all[run.from].contents = MacroLine::EVENT; // what it went on from is gone
+        mo.flags[run.from] = '1';
+    }
+    mo.cursor = event;
     Macro_SetLines(mo.number, all);
 }
 
@@ -249,12 +275,12 @@ static void put_insert(const Fields& fields)
 
 static void put_modify(const Fields& fields)
 {
-    modify(at(fields, 0), at(fields, 1));
+    modify(at(fields, 0), at(fields, 1), at(fields, 2));
 }
 
 static void put_delete(const Fields& fields)
 {
-    take_out(at(fields, 0), at(fields, 1));
+    take_out(at(fields, 0), at(fields, 1), at(fields, 2));
 }
 
 static void put_run(const Fields& fields)

@@ -113,14 +113,24 @@ static const char* next_field(const char** rest, char* field, size_t size)
     return field;
 }
 
+// The parameter of that name; -1: the symbol has none, or is unknown here.
+static int slot_of(const char* symbol, const char* name)
+{
+    const MACROPARAM* const slots = MacroSymbol_Find(symbol);
+    for (int i = 0; i < get_param_count(symbol); i++)
+        if (Same(slots[i].parametername, name))
+            return i;
+    return -1;
+}
+
 static bool read_values(const char* rest, OnlineEvent& event)
 {
     char name[MACRO_VALUE_SIZE], value[MACRO_VALUE_SIZE];
-    for (int slot = 0; rest; slot++) {
+    while (rest) {
         (void)next_field(&rest, name, sizeof name); // there is a rest
         if (!next_field(&rest, value, sizeof value))
             return false;
-        AppendText(event.Data, MacroValue_Shown(event.Symbol, slot, value));
+        AppendText(event.Data, MacroValue_Shown(event.Symbol, slot_of(event.Symbol, name), value));
         AppendText(event.Data, " ");
     }
     return true;
@@ -363,23 +373,22 @@ static int step(int event)
     return 0;
 }
 
-// The runs of events that are selected, the last first: what stands before it keeps its numbers.
+// The runs of lines that are selected, the last first: what stands before it keeps its numbers.
 static int send_selected(ONLINECMD cmd)
 {
-    bool is_selected[MACRO_LINES] = {};
-    int f_selline_count = 0;
-    for (int row; (row = LS_GetSelected(LIST_MACRO_ONLINE, f_selline_count)) >= 0;
-         f_selline_count++)
+    bool is_selected[MACRO_EVENTS + 1] = {}; // the last one never is
+    for (int i = 0, row; (row = LS_GetSelected(LIST_MACRO_ONLINE, i)) >= 0; i++)
         if (row < on.lines)
-            is_selected[events[row].EventNo] = true;
-    for (int last = MACRO_LINES - 1; last > 0; last--) {
-        int first = last;
-        while (first > 0 && is_selected[first])
-            first--;
-        if (first == last)
+            is_selected[row] = true;
+    for (int row = on.lines - 1; row >= 0; row--) {
+        int f_selline_count = 0;
+        while (row - f_selline_count >= 0 && is_selected[row - f_selline_count])
+            f_selline_count++;
+        if (f_selline_count == 0)
             continue;
-        Net_SendCommandFormat("put %s#%d,%d", OnlineEditCmd[cmd], first + 1, last);
-        last = first;
+        row -= f_selline_count - 1;
+        Net_SendCommandFormat("put %s#%d,%d,%d", OnlineEditCmd[cmd], events[row].EventNo,
+                              events[row].InnerNo, f_selline_count);
         if (cmd == Modify)
             break; // there is one event to put there
     }

@@ -94,7 +94,7 @@ static_assert(BoxesAreSound(nb_macro_offline));
 
 inline constexpr LS_TBL ls_macro_online[] = {
     {.id = LIST_MACRO_ONLINE, .hn = ONLINE_COLUMNS, .vn = 8, .x = 100, .y = 98, .head = {"Contents", "Event", "Data", ""},
-     .width = {82, 152, 268, 20}, .group = {1, 1, 1, 1}, .sb_top = 98, .sb_bottom = 296},
+     .width = {82, 152, 298, 20}, .group = {1, 1, 1, 1}, .sb_top = 98, .sb_bottom = 296},
     LS_END,
 };
 static_assert(ListsAreSound(ls_macro_online));

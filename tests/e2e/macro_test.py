@@ -118,8 +118,8 @@ class Macros(DeskCase):
         desk.wire()
         desk.touch(*ONLINE)
         desk.wait_wire(edit + "Current Work Register Event Data#1", 5)
-        for event, key, command in (("Stop,Device,Dev1", 52, "Insert#1,1"), ("MECut,ME,M/E-2", 53, "Modify#2,2"),
-                                    ("", 54, "Delete#2,2")):
+        for event, key, command in (("Stop,Device,Dev1", 52, "Insert#1,1"), ("MECut,ME,M/E-2", 53, "Modify#2,0,1"),
+                                    ("", 54, "Delete#2,0,1")):
             if event:
                 desk.console("macro operate " + event)
                 time.sleep(0.4)

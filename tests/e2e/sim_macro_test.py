@@ -129,9 +129,9 @@ class OnlineEdit(MacroTest):
         self.assertEqual(self.symbols(), ["Host alone", "Stop", "Snapshot", "KeyCut", "Pause", "MECut"])
         self.assertEqual(self.value("Insert Enable Flag"), "false")
         self.assertEqual(self.value("Current Work Register Modify Flag")[:3], "010")
-        self.ask(EDIT + "Delete", "3,5")
+        self.ask(EDIT + "Delete", "3,0,3")
         self.console("macro operate " + self.STOP)
-        self.ask(EDIT + "Modify", "3,3")
+        self.ask(EDIT + "Modify", "3,0,1")
         self.ask(EDIT + "Macro Insert Mode", "Auto Insert")
         self.console("macro operate MECut,ME,M/E-1")
         self.assertEqual(self.symbols(), ["Host alone", "Stop", "Stop", "MECut"])
@@ -139,11 +139,23 @@ class OnlineEdit(MacroTest):
         self.ask(EDIT + "Recall", 1)
         self.assertEqual(self.symbols(), ["Host alone", "Stop", "Stop", "MECut"])
 
+    def test_a_line_goes_without_those_that_go_on_from_it(self):
+        heads = lambda: [",".join(record.split(",")[:3]) for record in self.records()][:4]
+        self.open(3)
+        self.assertEqual(heads(), ["1,0,Event", "1,1,Continue", "2,0,Event", "2,1,Continue"])
+        self.console("macro operate " + self.STOP)
+        self.ask(EDIT + "Modify", "2,1,1")
+        self.assertEqual(self.records()[3], "2,1,Continue," + self.STOP)
+        self.ask(EDIT + "Delete", "1,1,2")  # to the event whose last line is left
+        self.assertEqual(heads()[:3], ["1,0,Event", "2,0,Event", "3,0,Event"])
+        self.assertEqual(self.records()[1], "2,0,Event," + self.STOP)
+        self.assertEqual(self.value("Current Work Register Modify Flag")[:3], "010")
+
     def test_a_locked_register_is_shown_and_not_changed(self):
         self.assertIn(EDIT + "Macro Edit Mode#false", self.open(2))
         before = self.records()
         self.console("macro operate " + self.STOP)
-        for order in (("Insert", "1,1"), ("Modify", "1,1"), ("Delete", "1,2")):
+        for order in (("Insert", "1,1"), ("Modify", "1,0,1"), ("Delete", "1,0,2")):
             self.ask(EDIT + order[0], order[1])
         self.assertEqual(self.records(), before)
 
@@ -151,10 +163,10 @@ class OnlineEdit(MacroTest):
         self.open(1)
         before = self.records()
         for order in ("Delete", "Modify"):
-            for what in ("0,1", "6,7", "3,2", "-1,9", "x", ""):
+            for what in ("0,0,1", "6,0,1", "3,0,0", "-1,0,9", "2,1,1", "2,-1,1", "1,0", "x", ""):
                 self.ask(EDIT + order, what)
         self.assertEqual(self.records(), before)
-        self.ask(EDIT + "Delete", "1,999")
+        self.ask(EDIT + "Delete", "1,0,999")
         self.assertEqual(self.records(), [])
         self.console("macro operate " + self.STOP)
         self.ask(EDIT + "Insert", "0,0")
