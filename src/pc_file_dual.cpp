@@ -11,6 +11,7 @@
 #include "pane.h"
 #include "pc_file_side.h"
 #include "pc_macro.h"
+#include "pc_menu_macro.h"
 #include "register.h"
 #include "tally_value.h"
 #include "text.h"
@@ -132,7 +133,7 @@ static void rename_delete_btn_grayout()
         c.device == FILE_REGISTER ? !FileKind_HasCommands(*fd.kind) : is_protected(c);
     BT_SetDisable(BTN_FILE_RENAME, is_fixed);
     BT_SetDisable(BTN_FILE_DELETE, is_fixed);
-    BT_SetDisable(BTN_FILE_OFFLINE_EDIT, c.device != FILE_REGISTER);
+    BT_SetDisable(BTN_FILE_EDIT, c.device != FILE_REGISTER);
 }
 
 static void show_side(int side)
@@ -635,12 +636,20 @@ static int delete_answer(int result)
 }
 
 // A row of the registers is a register, empty or not.
-static int offline_edit_sel()
+static int edit_sel(FILEPAGE page, int (*edit)(int number))
 {
-    const bool is_macro = fd.kind->page == FILEPAGE_MACRO && fd.is_detail;
+    const bool is_macro = fd.kind->page == page && fd.is_detail;
     if (!is_macro || FileSide_Where(SIDE_C).device != FILE_REGISTER)
         return -1;
-    return Macro_OfflineEdit(std::max(first_row(SIDE_C), 0) + 1);
+    return edit(std::max(first_row(SIDE_C), 0) + 1);
+}
+static int offline_edit_sel()
+{
+    return edit_sel(FILEPAGE_MACRO, Macro_OfflineEdit);
+}
+static int menu_macro_edit_sel()
+{
+    return edit_sel(FILEPAGE_MENU_MACRO, MenuMacro_Edit);
 }
 
 // --- Messages ---
@@ -660,6 +669,7 @@ static constexpr Touch dual_touches[] = {
     {SINGLE "Rename", single_rename_sel},
     {SINGLE "Delete", single_delete_sel},
     {SINGLE "OfflineEdit", offline_edit_sel},
+    {SINGLE "MenuMacroEdit", menu_macro_edit_sel},
 };
 
 static int button_pressed(const char* command)

@@ -22,7 +22,7 @@ enum : int {
     BTN_FILE_DIR_C = 2,
     BTN_FILE_RENAME = 49,
     BTN_FILE_DELETE = 50,
-    BTN_FILE_OFFLINE_EDIT = 54, // of the macros alone
+    BTN_FILE_EDIT = 54, // of the macros and menu macros
 };
 
 void FileDual_Reset(); // as at process start; for tests

@@ -639,8 +639,10 @@ void FileSide_Open(int n, const FileKind& kind, FileMemory* memory, bool has_reg
     s.rows = s.grp < FILE_GROUPS && !has_folders(s) ? std::min(RegisterNum[s.grp], FILE_ROWS) : 0;
     gather_places(s);
     const int id = list_id(s);
+    // Files of menu macros count from 0; the operator knows the registers from 1.
+    const int first = kind.way == FILEWAY_MACRO ? 1 : File_FirstNumber(s.grp);
     for (int no = 0; no < s.rows; no++) {
-        PrintText(s.no_text[no], "%d", no + File_FirstNumber(s.grp));
+        PrintText(s.no_text[no], "%d", no + first);
         (void)LS_SetData(id, no, COL_NO, s.no_text[no]);
         (void)LS_SetData(id, no, COL_NAME, s.row[no].name);
         (void)LS_SetData(id, no, COL_TIME, s.row[no].time);

@@ -15,6 +15,8 @@
 
 #include "safeguards.h"
 
+constexpr uint32_t PAGE_EDIT = 0x71440102;
+
 // --- The strip ---
 
 void MenuMacroFields_Draw(const Rect& place, const MenuMacroField* fields, int n)
@@ -36,6 +38,14 @@ void MenuMacro_RegisterText(int number, char* text, int size)
         ktr_strncpy(text, "--", size_t(size));
     else
         snprintf(text, size_t(size), "Menu Macro#:%d ( %s )", number, reg.name);
+}
+
+int MenuMacro_Edit(int number)
+{
+    RegisterPage_Memory(REGKIND_MENU_MACRO).sel1 =
+        std::clamp(number, 1, MENU_MACRO_REGISTERS) - 1; // the editor begins with that
+    GL_CreatePage = PAGE_EDIT;
+    return 0;
 }
 
 // --- The first page: running ---

@@ -9,6 +9,9 @@
 extern const RegisterExtra menu_macro_extra;      // page 0x54310000
 extern const PC_TBL pc_menu_macro_register_setup; // the interval of the register at its cursor
 
+// Open the editor with register number (from 1); while one is being edited, with that one. 0.
+int MenuMacro_Edit(int number);
+
 // --- For the editor's page, too ---
 struct MenuMacroField {
     const char* label = "";

@@ -65,14 +65,20 @@ static_assert(ButtonsAreSound(bt_file_frame));
     Action({.id = BTN_FILE_RENAME, .caption = "Rename", .group = "File", .cmd = FILE_SINGLE("Rename")}),                 \
     Action({.id = BTN_FILE_DELETE, .caption = "Delete", .group = "File", .cmd = FILE_SINGLE("Delete")})
 inline constexpr BT_TBL bt_file_detail[] = {FILE_DETAIL_BUTTONS, BT_END};
-// The macros: into the editor of a register's file.
+// The macros: into the editor of a register.
 inline constexpr BT_TBL bt_file_macro_detail[] = {
     FILE_DETAIL_BUTTONS,
-    Action({.id = BTN_FILE_OFFLINE_EDIT, .caption = "Offline\nEdit", .cmd = FILE_SINGLE("OfflineEdit")}),
+    Action({.id = BTN_FILE_EDIT, .caption = "Offline\nEdit", .cmd = FILE_SINGLE("OfflineEdit")}),
+    BT_END,
+};
+inline constexpr BT_TBL bt_file_menu_macro_detail[] = {
+    FILE_DETAIL_BUTTONS,
+    Action({.id = BTN_FILE_EDIT, .caption = "Menu\nMacro\nEdit", .cmd = FILE_SINGLE("MenuMacroEdit")}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_file_detail));
 static_assert(ButtonsAreSound(bt_file_macro_detail));
+static_assert(ButtonsAreSound(bt_file_menu_macro_detail));
 #undef FILE_DUAL_BUTTONS
 #undef FILE_DETAIL_BUTTONS
 #undef FILE_SINGLE
@@ -182,7 +188,7 @@ inline constexpr FileDual file_dual_list[] = {
     {0x71410000, FILEPAGE_SHOTBOX, "Shotbox", &file_group_macro, 1},
     {0x71420000, FILEPAGE_MACRO, "Macro", &file_group_macro, 2, bt_file_dual, ls_file_dual, ls_file_detail, bt_file_macro_detail},
     {0x71430000, FILEPAGE_MACROATC, "Macro Attachment", &file_group_macro, 3},
-    {0x71440000, FILEPAGE_MENU_MACRO, "Menu Macro", &file_group_macro, 4},
+    {0x71440000, FILEPAGE_MENU_MACRO, "Menu Macro", &file_group_macro, 4, bt_file_dual, ls_file_dual, ls_file_detail, bt_file_menu_macro_detail},
     {0x71530000, FILEPAGE_FNAMEDATA, "Frame Memory Data", &file_group_frame, 3},
     {0x71740000, FILEPAGE_XPTSRCNAME, "Xpt Source Name", &file_group_names, 4},
     {0x71750000, FILEPAGE_IMPORTSRCNAME, "Import Source Name", &file_group_names, 5},

@@ -5,6 +5,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "pc_file_dual.h"
 #include "pc_file_kind.h"
 #include "pc_menu_macro_edit.h"
 #include "pc_register.h"
@@ -425,6 +426,20 @@ TEST_F(MenuMacro, TheEditorEditsAndStores)
     Pass(10);
     EXPECT_EQ(GL_MenuMacro_Edit, 0);
     EXPECT_EQ(GL_CreatePage, 0x54310000u);
+}
+
+TEST_F(MenuMacro, TheFileMenuLeadsToTheEditorOfItsRow)
+{
+    Load(7, "Event:put A#1\n");
+    (void)Open(0x71440001);
+    EXPECT_STREQ(LS_GetData(1, 6, 0), "7"); // files count from 0, the operator does not
+    LS_SetNowLine(1, 6);
+    LS_SetSelected(1, 6, 0, 1);
+    (void)Press(BTN_FILE_EDIT);
+    ASSERT_EQ(GL_CreatePage, EDIT);
+    (void)Open(GL_CreatePage);
+    EXPECT_EQ(mm_edit.reg, 7);
+    EXPECT_THAT(Recorded(), ElementsAre("put A#1\n"));
 }
 
 TEST_F(MenuMacro, TheRegisterPagesWorkOnListAndFile)

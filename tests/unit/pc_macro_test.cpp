@@ -233,11 +233,17 @@ TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollow)
         Choose("Continue");
         EXPECT_EQ(Cell(LIST_MACRO_EVENTS, c.row, 0) == "Continue", c.may) << c.events;
     }
-    // A symbol that may not follow is not kept, and not offered.
+    // A symbol that may not follow stays as it is. A line that has none yet is offered those that
+    // may.
     OpenWith(play + cut);
     At(1, MACRO_COL_CONTENTS);
     Choose("Continue");
-    EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue");
+    EXPECT_EQ(Events(), "Event 1 Stop Dev1|Event 2 MECut P/P");
+    At(0, 0);
+    (void)Key(BTN_MACRO_INSERT_AFTER);
+    At(1, MACRO_COL_CONTENTS);
+    Choose("Continue");
+    EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue|Event 2 MECut P/P");
     EXPECT_EQ(LS_GetNData(LIST_MACRO_VALUES), CONTINUE_ROWS - 1);
 }
 
@@ -255,11 +261,27 @@ TEST_F(MacroOfflinePage, WhatFollowsALineThatGoesBecomesAnEvent)
     (void)Key(BTN_MACRO_DELETE);
     EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue Stop Dev2");
 
-    // What was read may stand behind what it may not follow, and stays.
+    // What was read may stand behind what it may not follow, and stays, also when a value changes.
     OpenWith("Event?,MECut,ME?,P/P\nContinue?,AuxXpt,AuxBus?,Aux1,Xpt?,2,VideoKey?,Video\n");
+    At(0, MACRO_COL_SLOT);
+    Choose("M/E-1");
     EXPECT_EQ(Stored(), std::string(HEAD) +
-                            "Event?,MECut,ME?,P/P\n"
+                            "Event?,MECut,ME?,M/E-1\n"
                             "Continue?,AuxXpt,AuxBus?,Aux1,Xpt?,2,VideoKey?,Video\n");
+}
+
+TEST_F(MacroOfflinePage, ThePageThatIsBuiltAnewKeepsWhatIsInHand)
+{
+    OpenWith("Event?,MECut,ME?,P/P\n");
+    for (const char* value : {"P/P", "M/E-1"}) { // unchanged, then changed
+        At(0, MACRO_COL_SLOT);
+        Choose(value);
+        EXPECT_EQ(CreatePage(PAGE_MACRO_OFFLINE), 0);
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID(), 0) << "nobody leaves";
+        EXPECT_EQ(Events(), std::string("Event 1 MECut ") + value);
+    }
+    EXPECT_EQ(Stored(), std::string(HEAD) + "Event?,MECut,ME?,M/E-1\n");
 }
 
 TEST_F(MacroOfflinePage, ALineThatIsNotCompleteIsNotStored)
@@ -562,7 +584,7 @@ TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
     SendMessage(LMSG_LISTSEL, 1, 6, 0, 0);
     LS_SetNowLine(1, 6);
     LS_SetSelected(1, 6, 0, 1);
-    (void)Key(BTN_FILE_OFFLINE_EDIT);
+    (void)Key(BTN_FILE_EDIT);
     EXPECT_EQ(GL_CreatePage, PAGE_MACRO_OFFLINE);
     EXPECT_EQ(FileText(MACRO_EDIT_FILE), "PNL 0001PNL_0007.PMRM7\n");
 }
@@ -597,8 +619,9 @@ TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
     Records({"KILL", "1,0,Event,PatternLimit,ME,P/P,Status,Off", "1,1,Continue,Stop,Device,Dev1",
              "2,0,#,A comment", "", "x", "2", "3,0,Event", "3,0,Perhaps,MECut", "-1,0,Event,MECut",
              "9999,0,Event,MECut", "3,0,Event,MECut,ME",
-             "3,0,Event,Stop,Device," + std::string(600, 'x')});
-    ASSERT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 4);
+             "3,0,Event,Stop,Device," + std::string(600, 'x'), "4,0,Event,PatternLimit,Status,On"});
+    ASSERT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 5);
+    EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 4, ONLINE_COL_DATA), "ToOff ") << "its bank has no value";
     EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 0, ONLINE_COL_CONTENTS), "Event 1");
     EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 0, ONLINE_COL_DATA), "P/P ToOn ");
     EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 1, ONLINE_COL_CONTENTS), "Continue");
@@ -619,7 +642,12 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
         (void)LS_SetSelected(LIST_MACRO_ONLINE, row, 0, 1);
     Pass(200);
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
-                ElementsAre("put " + ONLINE + "Delete#4,4", "put " + ONLINE + "Delete#1,2"));
+                ElementsAre("put " + ONLINE + "Delete#4,0,1", "put " + ONLINE + "Delete#2,0,1",
+                            "put " + ONLINE + "Delete#1,0,1"));
+    (void)LS_SetSelected(LIST_MACRO_ONLINE, 1, 0, 1);
+    Pass(200);
+    EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
+                ElementsAre("put " + ONLINE + "Delete#4,0,1", "put " + ONLINE + "Delete#1,0,3"));
     (void)Tell(ONLINE + "Current Macro Register Info#3,OPENING,L,4,1");
     Pass(200);
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE), IsEmpty());
