@@ -21,6 +21,7 @@ struct MacroEvent {
     // is none.
     char Data[MACRO_SLOTS][MACRO_VALUE_SIZE] = {};
     char ContentsWithNo[16] = ""; // "Event 12"; the others bare
+    bool is_made = false;         // by the operator, or changed, since the file was read
     MacroEvent* pPrev = nullptr;
     MacroEvent* pNext = nullptr;
 };

@@ -413,6 +413,7 @@ static void event_set_listA_process(const char* value)
     MacroEvent* const event = cursor();
     if (!event || Same(value, value_of_focus(*event)))
         return;
+    event->is_made = true; // or nothing is done
     if (oe.focus == MACRO_COL_CONTENTS) {
         set_contents(*event, value);
         mend_continue(event->pNext);
@@ -501,6 +502,7 @@ static int insert(MacroEvent* after)
         return 0;
     }
     CopyText(event->Contents, "Event");
+    event->is_made = true;
     changed();
     show_events();
     set_cursor(event, MACRO_COL_SYMBOL);
@@ -559,11 +561,14 @@ static void set_header(int number)
         MacroFile_Header(number, GL_Macro_Offline_OriginalName, oe.list.MacroFileName);
 }
 
-// The first line that is not complete gets the cursor. False when there is one.
+// The first line that is not complete gets the cursor. False when there is one. Panels record
+// events without the values that they leave alone, so the Store key passes over lines that nobody
+// has touched here.
 static bool is_complete()
 {
     for (MacroEvent* event = oe.list.pHead; event; event = event->pNext) {
-        const int slot = MacroEvent_Missing(*event);
+        const bool is_asked = event->is_made || oe.leave_to != 0;
+        const int slot = is_asked ? MacroEvent_Missing(*event) : -1;
         if (slot < 0)
             continue;
         set_cursor(event, MACRO_COL_SLOT + slot);

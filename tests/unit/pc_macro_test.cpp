@@ -286,18 +286,43 @@ TEST_F(MacroOfflinePage, ThePageThatIsBuiltAnewKeepsWhatIsInHand)
 
 TEST_F(MacroOfflinePage, ALineThatIsNotCompleteIsNotStored)
 {
+    const std::string cut = "Event?,MECut,ME?,P/P\n", next = "Event?,NextTransition,ME?,";
     static const struct {
-        std::string events;
-        int row, column;
+        std::string line;
+        const char* choice; // made of the second line's first value; null: nothing
+        bool is_leaving;
+        int column; // that gets the cursor; 0: it is stored
     } cases[] = {
-        {"Event?,MECut,ME?,P/P\nEvent?,NextTransition,ME?,P/P\n", 1, MACRO_COL_SLOT + 1},
-        {"Event?,MECut,ME?,P/P\n#?\nEvent?,MECut,ME?,P/P\n", 1, MACRO_COL_SLOT},
+        {next + "M/E-1,BKGD?,On\n", nullptr, false, 0}, // as a panel has recorded it
+        {next + "M/E-1,BKGD?,On\n", nullptr, true, MACRO_COL_SLOT + 1},
+        {next + "M/E-1,BKGD?,On\n", "P/P", false, MACRO_COL_SLOT + 1},
+        {"#?\n", nullptr, true, MACRO_COL_SLOT},
     };
     for (const auto& c : cases) {
-        OpenWith(c.events);
-        EXPECT_EQ(Stored(), HEAD + c.events);
-        EXPECT_EQ(LS_GetNowLine(LIST_MACRO_EVENTS), c.row);
-        EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), c.column);
+        MacroOffline_Reset(); // the job of the case before, and its pane
+        (void)Pane_Quit(Pane_GetActiveID());
+        OpenWith(cut + c.line);
+        At(1, MACRO_COL_SLOT);
+        if (c.choice)
+            Choose(c.choice);
+        At(0, MACRO_COL_SLOT);
+        Choose("M/E-1");
+        const std::string before = FileText(MACRO_EDIT_FILE);
+        if (c.is_leaving) {
+            (void)CreatePage(PAGE_TOP);
+            const int pane = Pane_GetActiveID();
+            (void)Pane_Quit(pane);
+            SendMessage(LMSG_PANEQUIT, pane, 1, 0, 0); // store
+        } else {
+            (void)Key(BTN_MACRO_STORE);
+        }
+        const std::string stored = HEAD + std::string("Event?,MECut,ME?,M/E-1\n") + c.line;
+        EXPECT_EQ(FileText(MACRO_EDIT_FILE), c.column ? before : stored) << c.line;
+        EXPECT_EQ(GL_NowPage, PAGE_MACRO_OFFLINE);
+        if (c.column == 0)
+            continue;
+        EXPECT_EQ(LS_GetNowLine(LIST_MACRO_EVENTS), 1) << c.line;
+        EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), c.column) << c.line;
     }
     // Blank lines are left out.
     OpenWith("Event?,MECut,ME?,P/P\n");
@@ -634,6 +659,7 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
 {
     Records({"KILL", "1,0,Event,MECut,ME,P/P", "1,1,Continue,Stop,Device,Dev1",
              "2,0,Event,MECut,ME,P/P", "3,0,Event,MECut,ME,P/P", "4,0,Event,MECut,ME,P/P"});
+    EXPECT_EQ(LS_GetSelected(LIST_MACRO_ONLINE, 0), 0) << "what Delete takes can be seen";
     EXPECT_THAT(Puts(BTN_ONLINE_AFTER), ElementsAre("put " + ONLINE + "Insert#1,1"));
     Pass(200);
     EXPECT_THAT(Puts(BTN_ONLINE_NEXT), ElementsAre("put " + ONLINE + "Macro Event Edit Range#2,0"));
