@@ -19,6 +19,7 @@
 #include "safeguards.h"
 
 constexpr uint32_t PAGE_MAINTENANCE = 0x99990000; // runs beside an initial read
+constexpr uint32_t PAGE_MACRO_ONLINE = 0x71420002;
 
 static int InitRead_PaneID;            // "Initial Read", 0 while none
 static uint32_t progress_page_changes; // Page_Changes when the timed progress began
@@ -206,7 +207,8 @@ void InitialCommand1()
     send_key_rotations("add");
     SYS_ConfigChange = 0;
     Device_ForgetMultiProgram();
-    if (IsUserPages(GL_NowPage)) // others are in the middle of something
+    // The others are in the middle of something; the online editor's is at the server.
+    if (IsUserPages(GL_NowPage) || GL_NowPage == PAGE_MACRO_ONLINE)
         tally_reload_page();
 }
 

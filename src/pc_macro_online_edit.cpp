@@ -280,8 +280,9 @@ static void show_cursor()
 {
     const int row = row_of_cursor();
     const int now = LS_GetNowLine(LIST_MACRO_ONLINE);
-    const bool is_there =
-        now >= 0 && now < on.lines && events[now].EventNo == on.f_event_no; // on another line
+    const bool is_chosen = LS_GetMS(LIST_MACRO_ONLINE) || LS_GetSelected(LIST_MACRO_ONLINE, 0) >= 0;
+    const bool is_there = is_chosen && now >= 0 && now < on.lines &&
+                          events[now].EventNo == on.f_event_no; // maybe on another line of it
     if (row < 0 || is_there)
         return;
     (void)LS_SetNowLine(LIST_MACRO_ONLINE, row);
