@@ -24,6 +24,7 @@ constexpr int SLOTS = 8;
 constexpr int LAYERS_MAX = 6;
 constexpr int LINKED_REGIONS = REGISTER_LINKS; // of a shotbox; the others have fewer
 constexpr int NONE = -1;
+constexpr int PUSHED_MS = 150;
 constexpr int STORE_MS = 3000; // in which the server tells what it has stored
 
 constexpr int FONT_CAPTION = 3;
@@ -122,11 +123,12 @@ struct EditPage {
     int MasterEdit[LINKED_REGIONS] = {};
     int MasterUndo[LINKED_REGIONS] = {}; // what the last store has replaced
     bool EditData_Select[LAYERS_MAX][SLOTS] = {};
-    int current = 0;          // the master that was recalled last, 0 none
-    int knob = 0;             // that Assign writes
-    bool is_snapshot = false; // and of which sort, in a shotbox
-    bool is_edited = false;   // MasterEdit is not what the register holds
-    int stored_ms = 0;        // left for the server's line of the last store; 0 none is awaited
+    int EditData_Pushed[LAYERS_MAX][SLOTS] = {}; // ms left of the pushed look
+    int current = 0;                             // the master that was recalled last, 0 none
+    int knob = 0;                                // that Assign writes
+    bool is_snapshot = false;                    // and of which sort, in a shotbox
+    bool is_edited = false;                      // MasterEdit is not what the register holds
+    int stored_ms = 0; // left for the server's line of the last store; 0 none is awaited
     int stored[LINKED_REGIONS] = {}; // what that store sent
     bool redraw = false;
 };
@@ -255,8 +257,8 @@ static int assign_sel()
             if (me.EditData_Select[layer][slot] && is_slot(layer, slot)) {
                 const int region = me.layers.layer[layer].slot[slot].region;
                 me.MasterEdit[region] = assigned(region, me.MasterEdit[region]);
+                me.is_edited = me.redraw = true;
             }
-    me.is_edited = me.redraw = true;
     return 0;
 }
 
@@ -374,20 +376,32 @@ static void draw_slot(int layer, int slot)
     }
     const int link = me.MasterEdit[s.region];
     const bool is_on = me.EditData_Select[layer][slot];
+    const bool is_pushed = me.EditData_Pushed[layer][slot] > 0;
+    const int shift = is_pushed;
     TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, is_on ? CELL_SELECTED : link ? CELL_LINKED : CELL_GROUND);
-    TDL_RectS(r.x1, r.y1, r.x2, r.y2, CELL_FRAME);
-    TDL_SymbolS(r.x1 + 5, r.y1 + 4, s.caption, FONT_CAPTION, is_on ? BLACK : LABEL);
+    TDL_RectS(r.x1, r.y1, r.x2, r.y2, is_pushed ? WHITE : CELL_FRAME);
+    TDL_SymbolS(r.x1 + 5 + shift, r.y1 + 4 + shift, s.caption, FONT_CAPTION, is_on ? BLACK : LABEL);
     if (!link)
         return;
     char text[8];
     PrintText(text, "%s%d", link < 0 ? "S" : "", std::abs(link));
-    TDL_SymbolS(r.x2 - 5 - int(TDL_GetSymbolWidth(text, FONT_NUMBER)), r.y1 + 27, text, FONT_NUMBER,
-                is_on ? BLACK : WHITE);
+    TDL_SymbolS(r.x2 - 5 + shift - int(TDL_GetSymbolWidth(text, FONT_NUMBER)), r.y1 + 27 + shift,
+                text, FONT_NUMBER, is_on ? BLACK : WHITE);
+}
+
+static void pushed_cells_wait(int elapsed_ms)
+{
+    for (auto& layer : me.EditData_Pushed)
+        for (int& pushed : layer) {
+            me.redraw |= pushed > 0 && pushed <= elapsed_ms;
+            pushed = std::max(pushed - elapsed_ms, 0);
+        }
 }
 
 static int edit_redraw(int elapsed_ms)
 {
     store_waits(elapsed_ms);
+    pushed_cells_wait(elapsed_ms);
     if (!me.redraw)
         return 0;
     me.redraw = false;
@@ -411,6 +425,7 @@ static int cell_pressed(int x, int y)
             if (!is_slot(layer, slot) || x < r.x1 || x > r.x2 || y < r.y1 || y > r.y2)
                 continue;
             me.EditData_Select[layer][slot] = !me.EditData_Select[layer][slot];
+            me.EditData_Pushed[layer][slot] = PUSHED_MS;
             me.redraw = true;
             return 1;
         }

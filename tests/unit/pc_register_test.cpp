@@ -521,8 +521,11 @@ TEST_F(RegisterPages, AMasterIsEditedStoredAndUndone)
             text += ",0";
         return text;
     };
-    (void)Tell(master + "U,7,8" + none);
+    (void)Tell(master + "U,1,8" + none);
     Open(0x63110001);
+    (void)Puts(51); // no cell is chosen: nothing is edited
+    (void)Tell(master + "U,7,8" + none);
+    Pass(200);
     Touch(138 + 70 + 10, 102 + 10); // M/E-2
     SendMessage(LMSG_KNOBVAR, 1, 42, 0, 0);
     EXPECT_THAT(Puts(51), IsEmpty());
