@@ -7,7 +7,8 @@ import struct
 import time
 import unittest
 
-from deskcase import DeskCase
+from desk import Desk
+from deskcase import BUILD, DeskCase
 
 STORE = "put File@Frame Memory@PutV3#"
 DELETE, RENAME = "put Frame Mem@File@Delete Thumbnail@Single#", "put Frame Mem@File@Rename#"
@@ -23,7 +24,7 @@ def bmp(width, height):
                                0, 0, 0, 0) + body
 
 
-class FramePages(DeskCase):
+class FrameCase(DeskCase):
     def path(self, path):
         return os.path.join(self.desk.root, path)
 
@@ -66,6 +67,8 @@ class FramePages(DeskCase):
         time.sleep(0.4)  # the pane closes, the lists are read anew
         return lines + self.desk.wire()
 
+
+class FramePages(FrameCase):
     def test_1_a_picture_on_the_stick_becomes_a_register(self):
         os.makedirs(self.path("mnt/usb/usb1/SYSTEM"), exist_ok=True)
         with open(self.path("mnt/usb/usb1/SYSTEM/beach.BMP"), "wb") as out:
@@ -176,6 +179,77 @@ class FramePages(DeskCase):
         self.touch(470, 124 + ROW + 10)
         self.touch(400, 478)
         self.wait_hub("Insert#CS1.ClipStoreFile:root/SHOW.SFH:3,")
+
+
+class RegisterPages(FrameCase):
+    """Where there is no clip store: the registers by the menu's own pages."""
+    STORE = "16@Frame Mem@Status@"
+
+    @classmethod
+    def make_desk(cls):
+        return Desk(BUILD, ini="ClipStoreSupportMode=0\n")
+
+    def row(self, n):
+        self.touch(170, 124 + ROW * (n + 1) + 10)
+
+    def key(self, column):
+        self.touch(112 + 98 * column + 40, 485)
+
+    def recalled(self, output):
+        return self.desk.value(f"Frame Mem@Recall@Recall Thumbnail@FM{output}")
+
+    def test_1_stills_go_to_the_outputs(self):
+        time.sleep(1.0)  # the catalogue comes
+        self.show("2111")  # the menu's key leads to them
+        self.row(2)  # logo
+        self.key(1)
+        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@FM2#Slogo")
+        self.key(2)  # Pair
+        self.touch(450, 98)
+        self.popup(1, 4)  # FM3-FM4
+        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@Select#FM3&4")
+        time.sleep(0.3)
+        self.key(0)
+        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@FM4#Slogo")
+        self.assertEqual([self.recalled(n) for n in (2, 3, 4)], ["Slogo", "Mlogo", "Slogo"])
+
+    def test_2_a_recalled_still_is_renamed_and_deleted(self):
+        self.show("2512")
+        self.row(2)
+        self.key(0)
+        self.type("sky", erase=5)
+        self.wait_line(RENAME + "Slogo,Ssky")
+        time.sleep(0.4)
+        self.row(2)
+        self.key(1)
+        self.yes()
+        lines = self.wait_line(DELETE + "Ssky")
+        self.assertIn(DELETE + "Msky", lines)
+
+    def test_3_a_clip_goes_to_another_folder_and_shows_its_frames(self):
+        self.show("2521")
+        self.touch(150, 98)
+        self.touch(385, 150)  # News
+        time.sleep(0.3)
+        self.row(0)
+        self.key(4)
+        self.key(0)
+        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@FM3#Mnews0004")
+        self.show("2522")
+        self.row(0)
+        self.key(2)
+        self.touch(180, 150)  # the first folder
+        lines = self.wait_line("put 16@Frame Mem@Folder@Move Still#0,Snews0002,0")
+        self.assertEqual(sum("Move Still#0," in line for line in lines), 6)
+
+    def test_4_a_freeze_is_stored(self):
+        self.show("2531")
+        self.touch(640, 395)  # Auto Store
+        self.key(0)
+        lines = self.settle("put Frame Mem@Edit@Store@PROC1#")
+        stored = next(line for line in lines if "Edit@Store" in line)
+        self.assertRegex(stored, r"PROC1#1,Mimage\d{3}$")  # logo's register is empty
+        self.assertTrue(any("FMEM_001.SFT" in line for line in lines), lines)  # its picture
 
 
 if __name__ == "__main__":
