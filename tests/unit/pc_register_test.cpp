@@ -304,6 +304,15 @@ TEST_F(RegisterPages, WithoutASwitcherAChannelLeads)
     }
 }
 
+TEST_F(RegisterPages, TheTopOfATabOpensItsFirstPage)
+{
+    for (const uint32_t top : {0x62100000u, 0x62600000u, 0x63300000u, 0x64100000u}) {
+        EXPECT_EQ(CreatePage(top), 0);
+        EXPECT_EQ(GL_CreatePage, top + 0x10000) << std::hex << top;
+        GL_CreatePage = 0;
+    }
+}
+
 TEST_F(RegisterPages, RunsKeepTheirGapsAndStayInTheList)
 {
     Choose(REGKIND_SNAPSHOT, {257});
