@@ -54,7 +54,7 @@ static void show_record(int n)
 {
     const Processor& p = co.processor[n];
     Tree_Show(HEAD + Text_Format("Record@PROC%d", n + 1),
-              Text_Format("%d,%d,%d", int(p.output >= 0), p.frame, p.length));
+              Text_Format("%d,%d,%d,%d", int(p.output >= 0), p.frame, p.length, p.output + 1));
 }
 
 // --- What a panel asks for ---
@@ -72,9 +72,11 @@ static void recall(int n, const std::string& path)
     const int frames = ClipStore_Frames(1, path);
     if (!path.empty() && frames == 0)
         return; // there is none: what is shown stays
-    const std::string name = o.record_name;
+    const Output before = o;
     o = {};
-    o.record_name = name;
+    o.record_name = before.record_name;
+    o.mode = before.mode;
+    o.speed = before.speed;
     o.path = path;
     o.frames = frames;
     o.stop = std::max(frames - 1, 0);
@@ -82,10 +84,14 @@ static void recall(int n, const std::string& path)
     show_play(n);
 }
 
-static void through(int n, const Numbers&)
+// 1 the input, 0 black.
+static void through(int n, const Numbers& v)
 {
+    const std::string name = co.output[n].record_name;
     co.output[n] = {};
-    show_status(n, "1,");
+    co.output[n].record_name = name;
+    show_status(n, number(v, 1) ? "1," : "0,");
+    show_play(n);
 }
 
 static void play(int n, const Numbers& v)
@@ -98,15 +104,22 @@ static void play(int n, const Numbers& v)
     show_play(n);
 }
 
+static void show_setting(int n, const char* what, long value)
+{
+    Tree_Show(HEAD + Text_Format("Play@%s@FM%d", what, n + 1), Text_Format("%ld", value));
+}
+
 static void set_mode(int n, const Numbers& v)
 {
     co.output[n].mode = int(number(v, 1));
+    show_setting(n, "Play Mode", co.output[n].mode);
 }
 
 static void set_speed(int n, const Numbers& v)
 {
     const long percent = std::clamp(number(v, 1), -1000L, 1000L);
     co.output[n].speed = percent == 0 ? 1 : double(percent) / 100;
+    show_setting(n, "Variable Speed", percent);
 }
 
 static void jump(int n, const Numbers& v)
@@ -132,6 +145,7 @@ static void set_start(int n, const Numbers& v)
 {
     Output& o = co.output[n];
     o.start = point(o, v, 0);
+    show_setting(n, "Start TC", o.start);
     show_play(n);
 }
 
@@ -139,6 +153,7 @@ static void set_stop(int n, const Numbers& v)
 {
     Output& o = co.output[n];
     o.stop = point(o, v, o.frames - 1);
+    show_setting(n, "Stop TC", o.stop);
     show_play(n);
 }
 
@@ -188,21 +203,32 @@ namespace
 {
 struct OutputCommand {
     const char* head = "";
-    bool is_value = false; // that others hear as it was put
     void (*run)(int n, const Numbers& v) = nullptr;
 };
 } // namespace
 
+// Each half of the outputs has a processor; panels ask by output and hear it by processor.
+static std::string of_processor(const std::string& what, int output)
+{
+    return HEAD + what + Text_Format("PROC%d", output * PROCESSORS / OUTPUTS + 1);
+}
+
+static void set_record_length(int n, const Numbers& v)
+{
+    Tree_Show(of_processor("Record@Rec Len@", n), Text_Format("%ld", number(v, 1)));
+}
+
 static constexpr OutputCommand commands[] = {
-    {"Play@FM", false, play},
-    {"Play@Play Mode@FM", true, set_mode},
-    {"Play@Variable Speed@FM", true, set_speed},
-    {"Play@Jump Frame@FM", true, jump},
-    {"Play@Start TC@FM", true, set_start},
-    {"Play@Stop TC@FM", true, set_stop},
-    {"Record@FM", false, record},
-    {"Record@Through@FM", false, through},
-    {"Record@Freeze@FM", false, freeze},
+    {"Play@FM", play},
+    {"Play@Play Mode@FM", set_mode},
+    {"Play@Variable Speed@FM", set_speed},
+    {"Play@Jump Frame@FM", jump},
+    {"Play@Start TC@FM", set_start},
+    {"Play@Stop TC@FM", set_stop},
+    {"Record@FM", record},
+    {"Record@Rec Len@FM", set_record_length},
+    {"Record@Through@FM", through},
+    {"Record@Freeze@FM", freeze},
 };
 
 // The output behind the head; -1: another path.
@@ -229,6 +255,7 @@ static bool put_name(const std::string& path, const std::string& value)
     if (n < 0 || comma == value.npos)
         return false;
     co.output[n].record_name = ClipStore_Path(value.substr(comma + 1));
+    Tree_Show(of_processor("Record@Freeze/Rec Name@", n), value.substr(comma + 1));
     return true;
 }
 
@@ -249,10 +276,8 @@ bool ClipOutput_Put(const std::string& full_path, const std::string& value)
     if (!Text_Begins(full_path, HEAD))
         return false;
     const std::string path = full_path.substr(HEAD.size());
-    if (put_recall(path, value))
+    if (put_recall(path, value) || put_name(path, value))
         return true;
-    if (put_name(path, value))
-        return false; // it is told as well
     Numbers numbers;
     for (const std::string& part : Text_Split(value, ',')) {
         long n = 0;
@@ -265,7 +290,7 @@ bool ClipOutput_Put(const std::string& full_path, const std::string& value)
             continue;
         const bool is_pair = command.run != record && number(numbers, 0) == 1;
         for_output_or_pair(n, is_pair, [&](int i) { command.run(i, numbers); });
-        return !command.is_value;
+        return true;
     }
     if (path == "Record@Freeze@PROC1")
         freeze(0, numbers);
@@ -342,7 +367,13 @@ void ClipOutput_Install()
     for (int n = 0; n < OUTPUTS; ++n) {
         show_status(n, "0,");
         show_play(n);
+        show_setting(n, "Play Mode", 0);
+        show_setting(n, "Variable Speed", 0);
+        Tree_Show(HEAD + Text_Format("Ancillary Enable@FM%d", n + 1), "0,0");
+        if (n % 2 == 0)
+            Tree_Show(HEAD + Text_Format("Pair@FM%d&%d", n + 1, n + 2), "false");
     }
+    Tree_Show(HEAD + "Out Pair Select", "FM1&2");
     for (int n = 0; n < PROCESSORS; ++n)
         show_record(n);
 }

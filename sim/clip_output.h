@@ -3,8 +3,9 @@
 // record. What panels hear of it, below "Frame Mem 2@Clip/Still@":
 //   Output Status@FM1   "0," black, "1," through, "2,/NEWS/OPENING.SFH"
 //   Play@FM1            "STATE,FRAME,START,STOP": state 1 runs; frames from 0
-//   Record@PROC1        "STATE,FRAME,LENGTH": state 1 records
-// Play Mode, Variable Speed, Start TC, Stop TC and names are values that are told as they were put.
+//   Record@PROC1        "STATE,FRAME,LENGTH,OUTPUT": state 1 records; output from 1
+// Play Mode, Variable Speed, Start TC and Stop TC are told as one number, the length and name of a
+// recording by the output's processor.
 #pragma once
 #include <cstdint>
 #include <string>

@@ -235,7 +235,7 @@ static void free_areas()
 
 static void create_area(const PARTS_FILE_AREA& parts, int index)
 {
-    if (!parts.enable || parts.h_num < 1 || parts.v_num < 1)
+    if (!parts.enable || parts.h_num < 1 || parts.v_num < 1 || parts.h_gap < FF_CELL_MIN)
         return;
     ff.area[index].parts = parts;
     FMCtrl3_InitCurrentInfo(&ff.area[index].current);
@@ -502,7 +502,7 @@ static bool press_area(int index, int x, int y)
     const FM2_FILE_AREA& a = ff.area[index];
     const Rect g = ff_grid(a.parts);
     if (Inside(g, x, y)) {
-        const int n = (a.top + (y - g.y1) / FF_CELL_H) * a.parts.h_num + (x - g.x1) / FF_CELL_W;
+        const int n = (a.top + (y - g.y1) / FF_CELL_H) * a.parts.h_num + (x - g.x1) / a.parts.h_gap;
         if (n < a.file_list.rec_num)
             press_cell(index, n);
         return true;

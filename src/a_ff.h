@@ -40,9 +40,10 @@ struct PARTS_FILE_AREA {
     int pair_mode = 0;     // 1: pairs only
     int loaded_mark = 0;   // 1: what is in memory is marked
     int selected_mark = 0; // 1: what is selected has a frame
-    int h_num = 0;         // columns of FF_CELL_W
+    int h_num = 0;         // columns
     int v_num = 0;         // rows of FF_CELL_H
     POSITION pos;          // of the grid; the way back is FF_PATH_H above it
+    int h_gap = 132;       // from column to column, at least FF_CELL_MIN
     FF_NAME_STATUS name_status;
     FF_FIND_BUTTON find_button;
     FF_SELECT_BUTTON select_button;
@@ -50,11 +51,14 @@ struct PARTS_FILE_AREA {
 struct FF_TBL {
     PARTS_FILE_AREA area[FF_AREAS];
 };
-constexpr int FF_CELL_W = 132;
+constexpr int FF_CELL_MIN = 120; // a thumbnail with its frame
 constexpr int FF_CELL_H = 104;
 constexpr int FF_PATH_H = 36;
-constexpr int FF_KEY_W = 84;
-constexpr int FF_KEY_H = 46;
+// "Find" is a key of the usual size, "Select" and "ALL" are small ones.
+constexpr int FF_FIND_W = 85;
+constexpr int FF_FIND_H = 66;
+constexpr int FF_KEY_W = 62;
+constexpr int FF_KEY_H = 40;
 
 // What the pages of the clip store are told of a folder or clip.
 enum : int { OBJECT_TYPE_FOLDER = 0, OBJECT_TYPE_FILE = 1, OBJECT_TYPE_ALL = 2 };

@@ -3,6 +3,7 @@
 #include "box.h"
 #include "colours.h"
 #include "graphics.h"
+#include "scrollbar.h"
 #include "tdl.h"
 #include "text.h"
 #include <algorithm>
@@ -15,11 +16,10 @@ namespace
 constexpr int FONT = 3;
 constexpr int THUMB_W = 112;
 constexpr int THUMB_H = 63;
-constexpr int THUMB_X = (FF_CELL_W - THUMB_W) / 2;
 constexpr int THUMB_Y = 5;
 constexpr int NAME_Y = THUMB_Y + THUMB_H + 4;
 constexpr int DETAIL_Y = NAME_Y + 15;
-constexpr int FOLDER_BUTTON_W = 104;
+constexpr int FOLDER_BUTTON_W = 104; // where there is room for one of each depth
 constexpr int FOLDER_BUTTON_H = 30;
 constexpr int MARK_W = 16;
 constexpr int MARK_H = 14;
@@ -32,7 +32,7 @@ constexpr unsigned THUMB_GROUND = 0x101010;
 
 Rect ff_grid(const PARTS_FILE_AREA& p)
 {
-    return {p.pos.x, p.pos.y, p.pos.x + p.h_num * FF_CELL_W - 1, p.pos.y + p.v_num * FF_CELL_H - 1};
+    return {p.pos.x, p.pos.y, p.pos.x + p.h_num * p.h_gap - 1, p.pos.y + p.v_num * FF_CELL_H - 1};
 }
 
 int ff_rows(const FM2_FILE_AREA& a)
@@ -51,9 +51,12 @@ int ff_depth(const FM2_FILE_AREA& a)
 
 Rect ff_folder_button(const PARTS_FILE_AREA& parts, int depth)
 {
-    const int x = parts.pos.x + depth * (FOLDER_BUTTON_W + 4);
+    constexpr int GAP = 4;
+    const int room = (parts.h_num * parts.h_gap + GAP + SB_W + GAP) / (ELEMENT_DEPTH + 1) - GAP;
+    const int width = std::min(FOLDER_BUTTON_W, room);
+    const int x = parts.pos.x + depth * (width + GAP);
     const int y = parts.pos.y - FF_PATH_H;
-    return {x, y, x + FOLDER_BUTTON_W - 1, y + FOLDER_BUTTON_H - 1};
+    return {x, y, x + width - 1, y + FOLDER_BUTTON_H - 1};
 }
 
 bool ff_key_rect(const PARTS_FILE_AREA& parts, int key, Rect* r)
@@ -64,7 +67,8 @@ bool ff_key_rect(const PARTS_FILE_AREA& parts, int key, Rect* r)
     const POSITION pos = is_find                ? parts.find_button.pos
                          : key == FF_KEY_SELECT ? parts.select_button.pos_select
                                                 : parts.select_button.pos_all;
-    *r = {pos.x, pos.y, pos.x + FF_KEY_W - 1, pos.y + FF_KEY_H - 1};
+    *r = {pos.x, pos.y, pos.x + (is_find ? FF_FIND_W : FF_KEY_W) - 1,
+          pos.y + (is_find ? FF_FIND_H : FF_KEY_H) - 1};
     return true;
 }
 
@@ -79,7 +83,7 @@ static void draw_text(int x, int y, int width, const char* text, unsigned colour
     TDL_SymbolS(x, y, cut, FONT, colour);
 }
 
-static void draw_key(const Rect& r, const char* caption, bool is_on)
+static void draw_path_key(const Rect& r, const char* caption, bool is_on)
 {
     TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, is_on ? ORANGE : KEY_FACE);
     Box_Edge(r, RAISED_LIGHT, RAISED_DARK);
@@ -108,7 +112,7 @@ static void draw_path(const FM2_FILE_AREA& a)
         char name[ELEMENT_NAME_SIZE];
         const size_t n = strcspn(p, "/");
         strncpy_secu(name, p, sizeof name, n);
-        draw_key(ff_folder_button(a.parts, i), name, i == depth);
+        draw_path_key(ff_folder_button(a.parts, i), name, i == depth);
         p += n + (p[n] == '/');
     }
     flush(line);
@@ -116,13 +120,24 @@ static void draw_path(const FM2_FILE_AREA& a)
 
 static void draw_keys(const FM2_FILE_AREA& a)
 {
-    static constexpr const char* captions[FF_KEYS] = {"Find", "Select", "ALL"};
-    const bool on[FF_KEYS] = {false, a.select_mode != SELECT_MODE_OFF,
-                              a.select_mode == SELECT_MODE_ALL};
+    const struct {
+        const char* caption;
+        SDL_Surface* face;
+        bool is_on;
+        int y; // of the caption
+    } keys[FF_KEYS] = {
+        {"Find", G_JMP_Find_p0, false, 14},
+        {"Select", a.select_mode != SELECT_MODE_OFF ? G_SEL_on : G_SEL_off,
+         a.select_mode != SELECT_MODE_OFF, 14},
+        {"ALL", a.select_mode == SELECT_MODE_ALL ? G_SEL_all_on : G_SEL_all_off,
+         a.select_mode == SELECT_MODE_ALL, 14},
+    };
     Rect r;
     for (int key = 0; key < FF_KEYS; key++)
         if (ff_key_rect(a.parts, key, &r)) {
-            draw_key(r, captions[key], on[key]);
+            TDL_PutS(r.x1, r.y1, keys[key].face);
+            TDL_SymbolS(r.x1 + 8, r.y1 + keys[key].y, keys[key].caption, FONT,
+                        keys[key].is_on ? BLACK : WHITE);
             flush(r);
         }
 }
@@ -180,23 +195,24 @@ static void draw_marks(const FM2_FILE_AREA& a, const FM2_FILE& cell, int x, int 
         draw_check(x + THUMB_W - BOX - 2, y + 2, cell.select);
 }
 
+// From the left edge of the thumbnail and the top of the cell.
 static void draw_texts(const FM2_FILE& cell, int x, int y, bool is_found)
 {
-    draw_text(x + THUMB_X, y + NAME_Y, THUMB_W, cell.element.name, is_found ? ORANGE : WHITE);
+    draw_text(x, y + NAME_Y, THUMB_W, cell.element.name, is_found ? ORANGE : WHITE);
     if (cell.file_type != OBJECT_TYPE_FILE)
         return;
     char detail[48];
     PrintText(detail, "%d %s%s", cell.element.duration,
               cell.element.duration == 1 ? "frame" : "frames",
               cell.element.is_pair ? "  Pair" : "");
-    draw_text(x + THUMB_X, y + DETAIL_Y, THUMB_W, detail, LABEL);
+    draw_text(x, y + DETAIL_Y, THUMB_W, detail, LABEL);
 }
 
 static Rect cell_rect(const FM2_FILE_AREA& a, int n)
 {
-    const int x = a.parts.pos.x + n % a.parts.h_num * FF_CELL_W;
+    const int x = a.parts.pos.x + n % a.parts.h_num * a.parts.h_gap;
     const int y = a.parts.pos.y + (n / a.parts.h_num - a.top) * FF_CELL_H;
-    return {x, y, x + FF_CELL_W - 1, y + FF_CELL_H - 1};
+    return {x, y, x + a.parts.h_gap - 1, y + FF_CELL_H - 1};
 }
 
 static void draw_cell(const FM2_FILE_AREA& a, int n)
@@ -205,16 +221,17 @@ static void draw_cell(const FM2_FILE_AREA& a, int n)
     FM2_FILE& cell = *a.file_list.cell[n];
     const bool is_selected = n == a.file_list.selected_idx && a.parts.selected_mark;
     cell.redraw = false;
+    const int x = r.x1 + (a.parts.h_gap - THUMB_W) / 2;
     TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, BLACK);
     if (cell.file_type == OBJECT_TYPE_FILE)
-        TDL_FillRectS(r.x1 + THUMB_X, r.y1 + THUMB_Y, r.x1 + THUMB_X + THUMB_W - 1,
-                      r.y1 + THUMB_Y + THUMB_H - 1, THUMB_GROUND);
+        TDL_FillRectS(x, r.y1 + THUMB_Y, x + THUMB_W - 1, r.y1 + THUMB_Y + THUMB_H - 1,
+                      THUMB_GROUND);
     look_for_thumbnail(cell);
-    put_centred(r.x1 + THUMB_X, r.y1 + THUMB_Y, cell.surface ? cell.surface : stand_in(cell));
-    draw_marks(a, cell, r.x1 + THUMB_X, r.y1 + THUMB_Y);
-    draw_texts(cell, r.x1, r.y1, n == a.file_list.found_idx);
+    put_centred(x, r.y1 + THUMB_Y, cell.surface ? cell.surface : stand_in(cell));
+    draw_marks(a, cell, x, r.y1 + THUMB_Y);
+    draw_texts(cell, x, r.y1, n == a.file_list.found_idx);
     for (int i = 0; is_selected && i < 2; i++)
-        TDL_RectS(r.x1 + 3 + i, r.y1 + 1 + i, r.x2 - 3 - i, r.y2 - 1 - i, CYAN);
+        TDL_RectS(r.x1 + 1 + i, r.y1 + 1 + i, r.x2 - 1 - i, r.y2 - 1 - i, CYAN);
 }
 
 // --- An area ---
@@ -247,12 +264,14 @@ static void draw_name_status(const FM2_FILE_AREA& a)
     TDL_FillRectS(line.x1, line.y1, line.x2, line.y2, HEADER_GROUND);
     if (a.file_list.selected_idx >= 0) {
         const ELEMENT& e = a.file_list.cell[a.file_list.selected_idx]->element;
-        draw_text(line.x1 + 6, line.y1 + 4, 260, e.name, WHITE);
+        const int detail_x = std::max(line.x1 + 150, line.x2 - 200);
+        draw_text(line.x1 + 6, line.y1 + 4, (s.type ? detail_x : line.x2) - line.x1 - 14, e.name,
+                  WHITE);
         if (s.type && e.type == ELEMENT_TYPE_FILE) {
             char detail[64];
             PrintText(detail, "%d %s   %s", e.duration, e.duration == 1 ? "frame" : "frames",
                       e.create_time);
-            draw_text(line.x1 + 280, line.y1 + 4, line.x2 - line.x1 - 284, detail, LABEL);
+            draw_text(detail_x, line.y1 + 4, line.x2 - detail_x - 4, detail, LABEL);
         }
     }
     flush(line);

@@ -18,11 +18,12 @@ inline constexpr BT_TBL bt_fm_still[] = {
 };
 static_assert(ButtonsAreSound(bt_fm_still));
 
-enum : int { BTN_FM_TOP_LOAD = 18 }; // of the clip store
+enum : int { BTN_FM_TOP_CLIP = 18, BTN_FM_TOP_FILE = 19 }; // of the clip store
 
 inline constexpr BT_TBL bt_frame_memory_top[] = {
     Jump(       {.id = 17, .caption = "Still", .group = "Memory", .cmd = {"#21110000"}}),
-    Jump(       {.id = BTN_FM_TOP_LOAD, .caption = "Load", .group = "Memory", .cmd = {"#21410000"}}),
+    Jump(       {.id = BTN_FM_TOP_CLIP, .caption = "Clip/Still", .group = "Memory", .cmd = {"#21420000"}}),
+    Jump(       {.id = BTN_FM_TOP_FILE, .caption = "File", .group = "Memory", .cmd = {"#21610000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

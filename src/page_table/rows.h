@@ -6,6 +6,7 @@
 #include "a_dw.h"
 #include "a_ff.h"
 #include "a_fl.h"
+#include "a_fm.h"
 #include "a_hf.h"
 #include "a_kp.h"
 #include "a_ls.h"
@@ -166,6 +167,7 @@ constexpr _pageobject Lists(const LS_TBL* table) { return {OBJ_LS, table, 0}; }
 constexpr _pageobject Cells(const ST_TBL* table) { return {OBJ_ST, table, 0}; }
 constexpr _pageobject Code(const PC_TBL& table, uint32_t var = 0) { return {OBJ_PC, &table, var}; }
 constexpr _pageobject Folder(const FF_TBL& table) { return {OBJ_FF, &table, 0}; }
+constexpr _pageobject Outputs(const FM_TBL& table) { return {OBJ_FM, &table, 0}; }
 constexpr _pageobject Files(const FL_TBL& table) { return {OBJ_FL, &table, 0}; }
 constexpr _pageobject ErrorList() { return {OBJ_ERR, nullptr, 0}; }
 constexpr _pageobject DebugMenu() { return {OBJ_DEBUG, nullptr, 0}; }

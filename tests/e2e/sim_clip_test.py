@@ -187,7 +187,7 @@ class Outputs(ClipTest):
         self.panel.send(f"add {self.HEAD}Record@PROC1", f"add {self.HEAD}Output Status@FM2")
         self.put("Record@Freeze/Rec Name@FM2#0,LOGOS/take1.SFH")
         self.panel.send(f"put  {self.HEAD}Record@FM2#1,0,5,1")
-        self.panel.until(f"{self.HEAD}Record@PROC1#1,0,5")
+        self.panel.until(f"{self.HEAD}Record@PROC1#1,0,5,2")
         self.panel.until(f"{self.HEAD}Output Status@FM2#2,/LOGOS/take1.SFH")
         self.assertEqual(self.rows(FILES)["LOGOS/take1.SFH"].split(",")[0], "5")
         self.put("Record@FM99#1,0,5,1")

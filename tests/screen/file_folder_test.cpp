@@ -86,7 +86,7 @@ TEST_F(FolderPictures, Browser)
     (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
     const Rect g = ff_grid(ff.area[0].parts);
     for (int n : {2, 7})
-        (void)Touch(g.x1 + n % 4 * FF_CELL_W + 50, g.y1 + n / 4 * FF_CELL_H + 40);
+        (void)Touch(g.x1 + n % 4 * ff.area[0].parts.h_gap + 50, g.y1 + n / 4 * FF_CELL_H + 40);
     for (int i = 0; i < 4; i++)
         Pass(1000);
     EXPECT_TRUE(MatchesGolden("file_folder"));

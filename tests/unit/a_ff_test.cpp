@@ -57,7 +57,7 @@ struct FileFolder : TablePage {
     static void Cell(int n)
     {
         const Rect g = ff_grid(ff.area[0].parts);
-        (void)Touch(g.x1 + n % 4 * FF_CELL_W + 60, g.y1 + n / 4 * FF_CELL_H + 40);
+        (void)Touch(g.x1 + n % 4 * ff.area[0].parts.h_gap + 60, g.y1 + n / 4 * FF_CELL_H + 40);
     }
     static void Key(int key)
     {

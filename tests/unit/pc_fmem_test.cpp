@@ -1,0 +1,326 @@
+// The outputs of the frame memory and the clip store's pages: what touches ask of the server and of
+// the hub, what is refused, and what a queue of file operations does one after another.
+#include "a_ff_private.h"
+#include "a_fm.h"
+#include "fmctrl3.h"
+#include "netio.h"
+#include "page_table/fmem_clip.h"
+#include "pane.h"
+#include "pc_fmem.h"
+#include "table_page.h"
+#include "text.h"
+#include "window.h"
+#include <utility>
+
+namespace
+{
+const std::string TREE = FM_TREE;
+
+struct ClipPages : TablePage {
+    DEVICE* first_switcher = nullptr;
+    int switchers = 0;
+
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
+        switchers = std::exchange(SYS_MySwrMax, 1);
+        CopyText(DEV_Swr[0].id, "SWR000D001");
+        FMCtrl3_Init();
+        for (const char* folder :
+             {"NEWS", "NEWS/A", "NEWS/A/B", "NEWS/A/B/C", "SPORT", "TALL", "TALL/ER"})
+            Folder(folder);
+        Clip("OPENING", 100);
+        Clip("STILL", 1);
+        Clip("NEWS/A/ONE", 10);
+        Clip("NEWS/A/B/TWO", 1);
+        (void)Open(0x21420000);
+        for (int n = 0; n < FM_OUTPUTS; n++) { // as after a start
+            Show(n, "0,");
+            (void)Tell(TREE + "Play@FM" + std::to_string(n + 1) + "#0,0,0,0");
+        }
+    }
+    void TearDown() override
+    {
+        FMCtrl3_Finalize();
+        DEV_MySwr[0] = first_switcher;
+        SYS_MySwrMax = switchers;
+        TablePage::TearDown();
+    }
+    static void Hub(const std::string& verb, const std::string& table, const std::string& row)
+    {
+        std::string v = verb, t = "CS1." + table, r = row;
+        SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), 0, Arg(r.c_str()));
+    }
+    static void Folder(const std::string& path)
+    {
+        Hub("Insert", "ClipStoreFolder", "root/" + path + ":1");
+    }
+    static void Clip(const std::string& path, int frames, int pair = 0)
+    {
+        Hub("Insert", "ClipStoreFile",
+            "root/" + path + ".SFH:" + std::to_string(frames) + ", " + std::to_string(pair) +
+                ", 0, 3, 2026-01-31 23:59:00, 1, 0");
+    }
+    static void Show(int output, const std::string& status)
+    {
+        (void)Tell(TREE + "Output Status@FM" + std::to_string(output + 1) + "#" + status);
+    }
+    // What the hub is asked for, without the head of the line.
+    static Strings Asked()
+    {
+        Strings asked;
+        for (const std::string& line : TakeQueuedHubLines())
+            asked.push_back(line.substr(line.find('.') + 1));
+        return asked;
+    }
+    // Every request is granted until there is none any more; all of them.
+    static Strings Grant(const char* status = "7F")
+    {
+        Strings all;
+        for (Strings some = Asked(); !some.empty(); some = Asked())
+            for (const std::string& line : some) {
+                all.push_back(line);
+                const size_t colon = line.find(':');
+                Hub("Result", line.substr(0, colon), line.substr(colon + 1) + ":" + status);
+            }
+        return all;
+    }
+    static void Answer(int result)
+    {
+        const int pane = Pane_GetActiveID();
+        ASSERT_NE(pane, 0);
+        (void)Pane_Quit(pane);
+        Pass(200); // the key that led to it may be pressed again
+        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
+    }
+    static void OpenPage(uint32_t id)
+    {
+        (void)Open(id);
+        for (int i = 0; i < FF_AREAS; i++)
+            (void)FF_ChangeDirectory(i, "/");
+        FF_ClearCheckedObjectList(0);
+        (void)Asked();
+    }
+    // The cell of a name becomes the selection, or is checked while that is on.
+    static void Cell(int area, const char* name)
+    {
+        const FM2_FILE_AREA& a = ff.area[area];
+        const Rect g = ff_grid(a.parts);
+        for (int n = 0; n < a.file_list.rec_num; n++)
+            if (strcmp(a.file_list.cell[n]->element.name, name) == 0)
+                (void)Touch(g.x1 + n % a.parts.h_num * a.parts.h_gap + 60,
+                            g.y1 + n / a.parts.h_num * FF_CELL_H + 40);
+    }
+};
+constexpr int YES = 1, NO = 2;
+constexpr uint32_t RECALL = 0x21420000, PLAY = 0x21430000, RECORD = 0x21440000, FREEZE = 0x21450000,
+                   COPY_MOVE = 0x21610000, DELETE_RENAME = 0x21620000, PAIR = 0x21630000;
+} // namespace
+
+TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
+{
+    (void)Open(RECALL);
+    FM_OBJECT o;
+    static const struct {
+        const char* value;
+        int status;
+        const char* name;
+    } steps[] = {
+        {"2,/OPENING.SFH", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
+        {"3,/STILL.SFH", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
+        {"2,", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
+        {"1,x,y", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
+        {"1", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
+        {"1,", FMOUT_STATUS_THROUGH, ""},
+        {"2,/NEWS/GONE.SFH", FMOUT_STATUS_FREEZE_RECALL, "/root/NEWS/GONE"},
+        {"0,", FMOUT_STATUS_BLACK, ""},
+    };
+    for (const auto& s : steps) {
+        Show(19, s.value);
+        EXPECT_EQ(FM_GetRecalledObject(19, &o), 0);
+        EXPECT_EQ(o.fmout_status, s.status) << s.value;
+        EXPECT_STREQ(o.name, s.name) << s.value;
+    }
+    Show(20, "1,");
+    EXPECT_EQ(FM_GetRecalledObject(20, &o), -1);
+    Show(2, "2,/NEWS/A/ONE.SFH");
+    (void)Tell(TREE + "Play@FM3#1,5,0,9");
+    FM_GetRecalledObject(2, &o);
+    EXPECT_EQ(o.frame, 10);
+    EXPECT_EQ(o.fmout_status, FMOUT_STATUS_PLAY);
+    EXPECT_EQ(FM_FindUser("/root/NEWS", true), 2);
+    EXPECT_EQ(FM_FindUser("/root/NEWS/A/ON", false), -1);
+    Hub("Delete", "ClipStoreFile", "root/NEWS/A/ONE.SFH");
+    FM_GetRecalledObject(2, &o);
+    EXPECT_EQ(o.frame, 0);
+}
+
+TEST_F(ClipPages, APairWorksOnItsEvenOutput)
+{
+    OpenPage(RECALL);
+    const Rect second = {115, 226, 215, 271};
+    (void)Touch(second.x1 + 10, second.y1 + 10);
+    EXPECT_EQ(FM_GetSelect(), 1);
+    EXPECT_THAT(Touch(160, 446), ElementsAre("put " + TREE + "Pair@FM1&2#true"));
+    EXPECT_EQ(FM_GetSelect(), 1); // by the tally, not by the press
+    (void)Tell(TREE + "Pair@FM1&2#true");
+    EXPECT_EQ(FM_GetSelect(), 0);
+    Cell(0, "OPENING");
+    EXPECT_THAT(Press(BTN_FMEM_RECALL),
+                ElementsAre("put " + TREE + "Recall@FM1#1,0,1,0,/OPENING.SFH",
+                            "put Macro@Clip Recall@FM1#1,/OPENING.SFH"));
+    EXPECT_THAT(Press(BTN_FMEM_BLACK), ElementsAre("put " + TREE + "Record@Through@FM1#1,0"));
+    (void)Tell(TREE + "Pair@FM1&2#false");
+    (void)Tell(TREE + "Out Pair Select#FM5&6");
+    EXPECT_EQ(FM_GetSelect(), 4);
+    (void)Tell(TREE + "Out Pair Select#FM1&2");
+}
+
+TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
+{
+    (void)Open(PLAY);
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_PLAY), BT_DISABLED);
+    Show(0, "2,/OPENING.SFH");
+    (void)Tell(TREE + "Play@FM1#0,7,20,80");
+    EXPECT_THAT(Press(BTN_FMEM_PLAY), ElementsAre("put " + TREE + "Play@FM1#0,0,20,80"));
+    EXPECT_THAT(Press(BTN_FMEM_STOP), ElementsAre("put " + TREE + "Play@FM1#0,1,20,80"));
+    EXPECT_THAT(Press(BTN_FMEM_START_SET), ElementsAre("put " + TREE + "Play@Start TC@FM1#0,0"));
+    EXPECT_THAT(Press(BTN_FMEM_STOP_RESET), ElementsAre("put " + TREE + "Play@Stop TC@FM1#0,6"));
+    EXPECT_THAT(Press(BTN_FMEM_LOOP), ElementsAre("put " + TREE + "Play@Play Mode@FM1#0,1"));
+    (void)Tell(TREE + "Play@Play Mode@FM1#1");
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_LOOP), BT_ON);
+    EXPECT_THAT(Press(BTN_FMEM_LOOP), ElementsAre("put " + TREE + "Play@Play Mode@FM1#0,0"));
+    EXPECT_THAT(Touch(690, 130), ElementsAre("put " + TREE + "Play@Jump Frame@FM1#0,4,99"));
+    (void)Tell(TREE + "Play@FM1#0,7,80,20");
+    EXPECT_THAT(Press(BTN_FMEM_PLAY), IsEmpty());
+    EXPECT_NE(Pane_GetActiveID(), 0);
+}
+
+TEST_F(ClipPages, RecordsUnderAFreeName)
+{
+    OpenPage(RECORD);
+    Clip("img0000", 5);
+    EXPECT_THAT(Press(BTN_FMEM_REC),
+                ElementsAre("put " + TREE + "Record@Freeze/Rec Name@FM1#0,/img0001.SFH",
+                            "put  " + TREE + "Record@FM1#1,0,300,1"));
+    (void)Tell(TREE + "Record@PROC1#1,10,300,1");
+    EXPECT_THAT(Press(BTN_FMEM_REC), IsEmpty());
+    EXPECT_THAT(Press(BTN_FMEM_REC_STOP), ElementsAre("put  " + TREE + "Record@FM1#1,0,300,0"));
+    Clip("img0001", 10);
+    (void)Tell(TREE + "Record@PROC1#0,10,300,0");
+    (void)Open(FREEZE);
+    (void)Press(BTN_FMEM_FIELD);
+    EXPECT_THAT(Press(BTN_FMEM_FREEZE),
+                ElementsAre("put " + TREE + "Record@Freeze/Rec Name@FM1#0,/img0002.SFH",
+                            "put " + TREE + "Record@Freeze@FM1#0,1"));
+}
+
+TEST_F(ClipPages, CopiesATreeAndMovesOneWithItsFolders)
+{
+    OpenPage(COPY_MOVE);
+    (void)FF_ChangeDirectory(1, "/SPORT");
+    Cell(0, "NEWS");
+    (void)Press(BTN_FMEM_COPY); // NEWS/A/B/C is as deep as can be
+    EXPECT_THAT(Asked(), IsEmpty());
+    Answer(0);
+    (void)FF_ChangeDirectory(0, "/NEWS");
+    Cell(0, "A");
+    (void)Press(BTN_FMEM_COPY);
+    EXPECT_THAT(Grant(),
+                ElementsAre("ClipStoreFolder:MakeFolder root/SPORT/A",
+                            "ClipStoreFolder:MakeFolder root/SPORT/A/B",
+                            "ClipStoreFolder:MakeFolder root/SPORT/A/B/C",
+                            "ClipStoreFile:Copy root/NEWS/A/B/TWO.SFH root/SPORT/A/B/TWO.SFH",
+                            "ClipStoreFile:Copy root/NEWS/A/ONE.SFH root/SPORT/A/ONE.SFH"));
+    Pass(10);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    Folder("SPORT/A"); // and now it is there
+    Cell(0, "A");
+    Cell(0, "A");
+    (void)FF_ChangeDirectory(0, "/NEWS/A");
+    (void)FF_ChangeDirectory(1, "/");
+    Folder("B");
+    Cell(0, "B");
+    (void)Press(BTN_FMEM_MOVE);
+    EXPECT_THAT(Asked(), IsEmpty());
+    Answer(YES); // over the one that is there; a refusal does not stop the rest
+    EXPECT_THAT(Grant("80"), ElementsAre("ClipStoreFolder:MakeFolder root/B/C",
+                                         "ClipStoreFile:Move root/NEWS/A/B/TWO.SFH root/B/TWO.SFH",
+                                         "ClipStoreFolder:DeleteFolder root/NEWS/A/B/C",
+                                         "ClipStoreFolder:DeleteFolder root/NEWS/A/B"));
+    EXPECT_FALSE(fmfileope_is_busy());
+}
+
+TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
+{
+    OpenPage(DELETE_RENAME);
+    Show(5, "2,/NEWS/A/ONE.SFH");
+    (void)Tell(TREE + "Play@FM6#1,0,0,9");
+    Cell(0, "NEWS");
+    (void)Press(BTN_FMEM_DELETE);
+    Answer(NO);
+    EXPECT_FALSE(fmfileope_is_busy());
+    (void)Press(BTN_FMEM_DELETE);
+    Answer(YES);
+    Answer(0); // it plays
+    EXPECT_FALSE(fmfileope_is_busy());
+    (void)Tell(TREE + "Play@FM6#0,0,0,9");
+    (void)Press(BTN_FMEM_DELETE);
+    Answer(YES);
+    (void)TakeQueuedCommands();
+    Answer(YES); // all the same
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + TREE + "Record@Through@FM6#0,0"));
+    EXPECT_THAT(Asked(), IsEmpty()); // not before it is black
+    Show(5, "0,");
+    const Strings asked = Grant();
+    ASSERT_EQ(asked.size(), 6u); // two clips, four folders
+    EXPECT_EQ(asked.back(), "ClipStoreFolder:DeleteFolder root/NEWS");
+}
+
+TEST_F(ClipPages, NamesAreCheckedAndCancelForgets)
+{
+    OpenPage(DELETE_RENAME);
+    Cell(0, "STILL");
+    const auto rename = [](const char* text) {
+        (void)Press(BTN_FMEM_RENAME);
+        (void)CloseWindow();
+        EXPECT_EQ(fmfileope_start(FMFILEOPE_RENAME, OBJECT_TYPE_FILE, "/root/STILL", text), 0);
+        fmfileope_do(nullptr);
+    };
+    rename("/root/STILL");
+    EXPECT_THAT(Asked(), IsEmpty());
+    rename("/root/NEW");
+    EXPECT_THAT(Asked(), ElementsAre("ClipStoreFile:Move root/STILL.SFH root/NEW.SFH"));
+    Hub("Result", "ClipStoreFile", "Move root/OTHER.SFH root/NEW.SFH:7F");
+    Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:40");
+    EXPECT_TRUE(fmfileope_is_busy());
+    Answer(1); // "Cancel"
+    EXPECT_FALSE(fmfileope_is_busy());
+    Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:7F");
+    rename("/root/NEW");
+    FMCtrl3_HubLost();
+    EXPECT_FALSE(fmfileope_is_busy());
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+}
+
+TEST_F(ClipPages, CouplesWhatFits)
+{
+    Clip("KEY", 100);
+    Clip("BOTH", 100, 1);
+    OpenPage(PAIR);
+    Cell(0, "OPENING");
+    static const struct {
+        const char* key;
+        bool can;
+    } cases[] = {{"STILL", false}, {"OPENING", false}, {"BOTH", false}, {"KEY", true}};
+    for (const auto& c : cases) {
+        Cell(1, c.key);
+        EXPECT_EQ(BT_GetVisible(BTN_FMEM_COUPLE) == BT_ENABLED, c.can) << c.key;
+    }
+    (void)Press(BTN_FMEM_COUPLE);
+    EXPECT_THAT(Grant(), ElementsAre("ClipStoreFile:Couple root/OPENING.SFH root/KEY.SFH"));
+    Cell(0, "BOTH");
+    (void)Press(BTN_FMEM_SEPARATE);
+    EXPECT_THAT(Grant(), ElementsAre("ClipStoreFile:Separate root/BOTH.SFH"));
+}
