@@ -16,31 +16,23 @@
 #include "setup_index.h"
 #include "tally_value.h"
 #include "tdl.h"
+#include "tenkey.h"
 #include "text.h"
 #include <algorithm>
 #include <initializer_list>
 #include <iterator>
 #include "safeguards.h"
 
-#define TEN_KEY_ASSIGN "Engineering Setup@Panel@Config@10 Key Region Assign@"
-#define TEN_KEY_REGIONS TEN_KEY_ASSIGN "Common@Region@Common@"
 #define LOCAL_PAD "LOCAL@Key Frame@Region Select@FlexiPadSel"
 #define REGION_SELECT "Key Frame@Region Select@"
 
 namespace
 {
-constexpr int TEN_KEYS = 23;
-constexpr int SLOTS = 4; // regions on one key
-constexpr int TALLY_FIELDS = 6;
-constexpr int TALLY_FIRST_NAME = 2;
+constexpr int SLOTS = TEN_KEY_SLOTS;
 constexpr int PAD_MAX = 7; // region keys of the first pad
 constexpr int FLEXI_PAD_MAX = 15;
 constexpr int BTN_PAD = 53;
 constexpr int BTN_FLEXI_PAD = 54;
-
-constexpr int ID_MAX = 108;
-constexpr int ID_MAX_TWO_PADS = 128;
-constexpr int ID_NO_ASSIGN = 255;
 
 constexpr unsigned UNAVAILABLE = 0x787878;
 constexpr int FONT_NUMBER = 2;
@@ -65,80 +57,17 @@ constexpr Change id_change_tbl[] = {
 };
 static_assert(std::size(id_change_tbl) == 53);
 
-struct regnametbl {
-    const char* region;  // in one line
-    const char* tally;   // on the wire
-    const char* caption; // on a key
-    int id;
-};
-constexpr regnametbl SL_RegNameTbl[] = {
-    {"P/P", "P/P", "P/P", 0},
-    {"M/E1", "M/E-1", "M/E\n  1", 1},
-    {"M/E2", "M/E-2", "M/E\n  2", 2},
-    {"M/E3", "M/E-3", "M/E\n  3", 3},
-    {"M/E4", "M/E-4", "M/E\n  4", 16},
-    {"M/E5", "M/E-5", "M/E\n  5", 18},
-    {"P/P Sub", "P/P Sub", "P/P\n Sub", 12},
-    {"M/E1 Sub", "M/E-1 Sub", "M/E1\n Sub", 13},
-    {"M/E2 Sub", "M/E-2 Sub", "M/E2\n Sub", 14},
-    {"M/E3 Sub", "M/E-3 Sub", "M/E3\n Sub", 15},
-    {"M/E4 Sub", "M/E-4 Sub", "M/E4\n Sub", 17},
-    {"M/E5 Sub", "M/E-5 Sub", "M/E5\n Sub", 19},
-    {"USER1", "User1", "USER\n   1", 4},
-    {"USER2", "User2", "USER\n   2", 5},
-    {"USER3", "User3", "USER\n   3", 6},
-    {"USER4", "User4", "USER\n   4", 7},
-    {"USER5", "User5", "USER\n   5", 8},
-    {"USER6", "User6", "USER\n   6", 9},
-    {"USER7", "User7", "USER\n   7", 10},
-    {"USER8", "User8", "USER\n   8", 11},
-    {"DME1", "DME1", "DME\n   1", 32},
-    {"DME2", "DME2", "DME\n   2", 33},
-    {"DME3", "DME3", "DME\n   3", 34},
-    {"DME4", "DME4", "DME\n   4", 35},
-    {"DME5", "DME5", "DME\n   5", 36},
-    {"DME6", "DME6", "DME\n   6", 37},
-    {"DME7", "DME7", "DME\n   7", 38},
-    {"DME8", "DME8", "DME\n   8", 39},
-    {"DEV1", "Dev1", "DEV\n   1", 96},
-    {"DEV2", "Dev2", "DEV\n   2", 97},
-    {"DEV3", "Dev3", "DEV\n   3", 98},
-    {"DEV4", "Dev4", "DEV\n   4", 99},
-    {"DEV5", "Dev5", "DEV\n   5", 100},
-    {"DEV6", "Dev6", "DEV\n   6", 101},
-    {"DEV7", "Dev7", "DEV\n   7", 102},
-    {"DEV8", "Dev8", "DEV\n   8", 103},
-    {"DEV9", "Dev9", "DEV\n   9", 104},
-    {"DEV10", "Dev10", "DEV\n  10", 105},
-    {"DEV11", "Dev11", "DEV\n  11", 106},
-    {"DEV12", "Dev12", "DEV\n  12", 107},
-    {"P-BUS", "P-Bus", "P-BUS", 64},
-    {"GPI", "GPI", "GPI", 65},
-    {"RTR", "RTR", "RTR", 67},
-    {"MACRO", "MACRO", "MACRO", 69},
-};
-constexpr regnametbl no_assign = {"No Assign", "", "No\nAssign", ID_NO_ASSIGN};
-
 struct RegionKey {
-    const regnametbl* slot[SLOTS] = {&no_assign, &no_assign, &no_assign, &no_assign};
+    const regnametbl* slot[SLOTS] = {&TenKey_NoAssign, &TenKey_NoAssign, &TenKey_NoAssign,
+                                     &TenKey_NoAssign};
 };
 
-// The keys are 60 x 40 under a line with number and count, pitch 68 x 70; five in a row.
-constexpr int NUMBER_PX = 16;
-constexpr int KEY_W = 60;
-constexpr int KEY_H = 40;
-constexpr Rect RegBtnRect(int button) // from 0
-{
-    const int x = 104 + 68 * (button % 5);
-    const int y = 84 + 70 * (button / 5);
-    return {x, y, x + KEY_W - 1, y + NUMBER_PX + KEY_H - 1};
-}
 constexpr int REG_BUTTONS = 2 * SLOTS;
 constexpr Rect KF_RegBtnRect(int button) // from 0: four of the reference, four of the selection
 {
     const int x = 456 + 61 * (button % SLOTS);
     const int y = 120 + 90 * (button / SLOTS);
-    return {x, y, x + KEY_W - 1, y + KEY_H - 1};
+    return {x, y, x + TEN_KEY_W - 1, y + TEN_KEY_H - 1};
 }
 constexpr Rect RIGHT_PART = {450, 84, 701, 260};
 } // namespace
@@ -161,22 +90,13 @@ static struct {
 
 static const regnametbl* find_name(const char* tally)
 {
-    const int id_max = GL_PCX_Mode == PCX_TWO_PADS ? ID_MAX_TWO_PADS : ID_MAX;
-    for (const regnametbl& row : SL_RegNameTbl)
-        if (StrICmp(row.tally, tally) == 0)
-            return row.id >= 0 && row.id <= id_max ? &row : &no_assign;
-    return &no_assign;
-}
-
-static bool is_assigned(const regnametbl* r)
-{
-    return r->id != ID_NO_ASSIGN;
+    return TenKey_Find(tally, TenKey_IdMax(GL_PCX_Mode == PCX_TWO_PADS));
 }
 
 static int region_of(const regnametbl* r)
 {
     for (const Change& change : id_change_tbl)
-        if (change.tenkey_id == r->id && is_assigned(r))
+        if (change.tenkey_id == r->id && TenKey_IsAssigned(r))
             return KF_RegionOfCode(change.kf_code);
     return -1;
 }
@@ -190,13 +110,13 @@ static bool is_reference(const regnametbl* r)
 {
     for (const Change& change : id_change_tbl)
         if (change.kf_code == KF_RefRegionCode())
-            return is_assigned(r) && change.tenkey_id == r->id;
+            return TenKey_IsAssigned(r) && change.tenkey_id == r->id;
     return false;
 }
 
 static int count_assigned(const RegionKey& key)
 {
-    return int(std::count_if(std::begin(key.slot), std::end(key.slot), is_assigned));
+    return int(std::count_if(std::begin(key.slot), std::end(key.slot), TenKey_IsAssigned));
 }
 
 static int count_selected(const RegionKey& key)
@@ -206,8 +126,8 @@ static int count_selected(const RegionKey& key)
 
 static const regnametbl* first_assigned(const RegionKey& key)
 {
-    const auto at = std::find_if(std::begin(key.slot), std::end(key.slot), is_assigned);
-    return at == std::end(key.slot) ? &no_assign : *at;
+    const auto at = std::find_if(std::begin(key.slot), std::end(key.slot), TenKey_IsAssigned);
+    return at == std::end(key.slot) ? &TenKey_NoAssign : *at;
 }
 
 // Some of its regions are selected, some not.
@@ -215,37 +135,6 @@ static bool Button_Discord_check(const RegionKey& key)
 {
     const int selected = count_selected(key);
     return selected > 0 && selected != count_assigned(key);
-}
-
-// --- What this system cannot use ---
-
-static bool is_3d()
-{
-    return SYS_3DMode == 1;
-}
-
-static bool is_one_of(const char* text, std::initializer_list<const char*> texts)
-{
-    return std::any_of(texts.begin(), texts.end(), [&](const char* t) { return Same(t, text); });
-}
-
-static bool is_grayout_bank(const char* text)
-{
-    if (SYS_RefPnlType == DEVTYPE_QRD11B)
-        return is_one_of(text, {"M/E\n  2", "M/E\n  3", "M/E2", "M/E3"});
-    return is_one_of(text, {"M/E\n  3", "M/E\n  4", "M/E3", "M/E4"});
-}
-
-static bool is_grayout_channel(const char* text)
-{
-    return is_one_of(
-        text, {"DME\n   3", "DME\n   4", "DME3", "DME4", "DME\n   7", "DME\n   8", "DME7", "DME8"});
-}
-
-static bool is_grayout_region(const char* text)
-{
-    return ((isSingleProc_DualLink() || is_3d()) && is_grayout_bank(text)) ||
-           ((isSingleProc_DualLink_DME() || is_3d()) && is_grayout_channel(text));
 }
 
 // --- The keys at the left ---
@@ -262,7 +151,7 @@ static const RegionKey& key_of_button(int button)
 
 static unsigned key_colour(const RegionKey& key, const regnametbl* shown)
 {
-    if (is_grayout_region(shown->caption))
+    if (TenKey_IsGrayout(shown))
         return UNAVAILABLE;
     if (is_reference(shown))
         return GREEN;
@@ -282,7 +171,7 @@ static void draw_face(const RegionKey& key, int x, int y)
     const regnametbl* const shown = first_assigned(key);
     const unsigned colour = key_colour(key, shown);
     TDL_PutS(x, y, G_PSELm_off);
-    if (is_assigned(shown))
+    if (TenKey_IsAssigned(shown))
         TDL_SymbolS(x + CAPTION_X, y + CAPTION_Y, shown->caption, FONT_KEY, colour);
     if (!Button_Discord_check(key))
         return;
@@ -294,7 +183,7 @@ static void draw_key(int button)
 {
     constexpr int RIM = 2; // of the frame that marks the current key
     const Rect r = RegBtnRect(button);
-    const Rect cap = {r.x1, r.y1 + NUMBER_PX, r.x2, r.y2};
+    const Rect cap = {r.x1, r.y1 + TEN_KEY_NUMBER_PX, r.x2, r.y2};
     TDL_FillRectS(r.x1 - RIM, r.y1, r.x2 + RIM, r.y2 + RIM, BLACK);
     if (button < rs.RegBtnMax) {
         const RegionKey& key = key_of_button(button);
@@ -310,7 +199,7 @@ static void draw_key(int button)
 
 static bool can_use(const regnametbl* r)
 {
-    return is_assigned(r) && !is_grayout_region(r->caption);
+    return TenKey_IsAssigned(r) && !TenKey_IsGrayout(r);
 }
 
 static void draw_region(int button)
@@ -426,11 +315,11 @@ static int region_tally(const char* path, const char* value)
         return 0;
     const int number = Index(path + sizeof TEN_KEY_REGIONS - 1, TEN_KEYS + 1) - 1;
     Parts p;
-    if (number < 0 || SplitValue(p, value, TALLY_FIELDS) <= TALLY_FIRST_NAME)
+    if (number < 0 || SplitValue(p, value, TEN_KEY_FIELDS) <= TEN_KEY_FIRST_NAME)
         return 0;
     for (int slot = 0; slot < SLOTS; slot++) {
-        const char* const name = p.v[TALLY_FIRST_NAME + slot];
-        rs.key[number].slot[slot] = name ? find_name(name) : &no_assign;
+        const char* const name = p.v[TEN_KEY_FIRST_NAME + slot];
+        rs.key[number].slot[slot] = name ? find_name(name) : &TenKey_NoAssign;
     }
     rs.redraw_all = true;
     return 0;
@@ -438,7 +327,7 @@ static int region_tally(const char* path, const char* value)
 
 static void tell_panel()
 {
-    Net_SendCommand("put " TEN_KEY_ASSIGN "Pcx#40");
+    Net_SendCommand("put " TEN_KEY_ASSIGN "@Pcx#40");
 }
 
 static int region_create(int on, uint32_t)
