@@ -2,6 +2,7 @@
 #include "attach.h"
 #include "console_command.h"
 #include "macro.h"
+#include "setup_panel.h"
 #include "text.h"
 
 using Words = std::vector<std::string>;
@@ -47,6 +48,15 @@ static bool do_press(const Words& word)
     return number > 0;
 }
 
+static bool do_key2(const Words& word)
+{
+    int n[2] = {};
+    for (size_t i = 0; i < 2; ++i)
+        if (!number_at(word, i + 1, 99, &n[i]))
+            return false;
+    return SetupPanel_PressKey2(n[0], n[1]);
+}
+
 static bool do_operate(const Words& word)
 {
     std::string event;
@@ -71,9 +81,9 @@ static bool con_macro(Runner&, const std::string& rest)
     static constexpr struct {
         const char* verb;
         bool (*func)(const Words& word);
-    } verbs[] = {{"run", do_run},    {"stop", do_stop},   {"record", do_record},
-                 {"end", do_end},    {"print", do_print}, {"operate", do_operate},
-                 {"press", do_press}};
+    } verbs[] = {{"run", do_run},     {"stop", do_stop},   {"record", do_record},
+                 {"end", do_end},     {"print", do_print}, {"operate", do_operate},
+                 {"press", do_press}, {"key2", do_key2}};
     const auto word = Text_Split(rest, ' ');
     for (const auto& v : verbs)
         if (word[0] == v.verb)
@@ -87,5 +97,6 @@ static constexpr Command commands[] = {
     {"macro", "operate SYMBOL,NAME,VALUE,...", "a panel does what the event says", con_macro},
     {"macro", "print N", "print the events of a macro", con_macro},
     {"macro", "press BLOCK BUTTON BUTTON2", "press a button that a macro hangs on", con_macro},
+    {"macro", "key2 PLACE BUTTON", "press a key 2 bus button that runs a register", con_macro},
 };
 constinit const std::span<const Command> console_macro_commands = commands;

@@ -13,6 +13,7 @@
 #include "region.h"
 #include "rules.h"
 #include "setup.h"
+#include "setup_panel.h"
 #include "setup_switcher_io.h"
 #include "store.h"
 #include "stream.h"
@@ -245,6 +246,8 @@ static void sys_crosspoints()
     std::vector<std::string> buttons;
     for (int n = 1; n <= 32; ++n)
         buttons.push_back(Text_Format("%d,%d,%d", n, n, n));
+    for (int n = 1; n <= 32; ++n) // of the sub side, counted on
+        buttons.push_back(Text_Format("%d,%d,%d", 128 + n, n, n));
     sys_list("Engineering Setup@Panel@Xpt Assign@Assign", buttons, false);
     const std::string ext = "Engineering Setup@Panel@Config@External Bus Link@";
     sys_list(ext + "Master Bus List", sys_numbered("BUS", 1, 16), false);
@@ -282,6 +285,7 @@ void System_Install()
     Dme_Install();
     Rules_Install();
     Setup_Install();
+    SetupPanel_Install();
     SetupSwitcherIo_Install();
     Diag_Install();
 }

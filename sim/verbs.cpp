@@ -12,6 +12,7 @@
 #include "rules.h"
 #include "setup.h"
 #include "setup_switcher.h"
+#include "setup_panel.h"
 #include "setup_switcher_io.h"
 #include "store.h"
 #include "system.h"
@@ -99,6 +100,7 @@ static constexpr Owner owners[] = {
     {"Info@DME@RefCH", System_PutDmeChannels},
     {"Info@DME@SelCH", System_PutDmeChannels},
     {"Engineering Setup@System@", Setup_Put},
+    {"Engineering Setup@Panel@", SetupPanel_Put},
     {"Engineering Setup@Switcher@", SetupSwitcherIo_Put},
     {"Engineering Setup@Switcher@", SetupSwitcher_Put},
     {"", Dme_Put},

@@ -131,6 +131,7 @@ int GL_MEAssign[PANEL_ROWS] = {-1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -1, -
 int GL_MainSubAssign[PANEL_ROWS] = {};
 int GL_KeyTransKeyUnitConfig[PANEL_ROWS] = {};
 int GL_TransKeyUnitConfig[PANEL_ROWS] = {};
+int FlexiPadKeyUnitConfig[PANEL_ROWS] = {};
 int SYS_PnlMFFP = 0;
 
 // --- Effects units ---

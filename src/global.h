@@ -140,6 +140,7 @@ extern int GL_MEAssign[PANEL_ROWS];      // 0 P/P, 1..5 M/E, 6 and 7 the aux bus
 extern int GL_MainSubAssign[PANEL_ROWS]; // 0 main, 1 sub, 2 both
 extern int GL_KeyTransKeyUnitConfig[PANEL_ROWS];
 extern int GL_TransKeyUnitConfig[PANEL_ROWS];
+extern int FlexiPadKeyUnitConfig[PANEL_ROWS];
 extern int SYS_PnlMFFP;
 
 // --- Effects units ---

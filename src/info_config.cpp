@@ -145,8 +145,6 @@ static const char MODULE_FLEXI_PAD[] = "FP";
 static const char MODULE_KEY_TRANSITION[] = "KT";
 static const char MODULE_TRANSITION[] = "TR";
 
-static unsigned flexi_pad_rows; // bit n: row n holds a flexi pad
-
 // Bit i: slot i holds the module.
 static int slots_with(char* const* parts, const char* module)
 {
@@ -167,9 +165,7 @@ void info_key_unit(const char* row_text, const char* value)
     GL_TransKeyUnitConfig[row] = slots_with(p.v, MODULE_TRANSITION);
     if (row >= FLEXI_PAD_ROWS)
         return;
-    const unsigned bit = 1u << row;
-    flexi_pad_rows &= ~bit;
-    if (slots_with(p.v, MODULE_FLEXI_PAD) != 0)
-        flexi_pad_rows |= bit;
-    SYS_PnlMFFP = flexi_pad_rows != 0;
+    FlexiPadKeyUnitConfig[row] = slots_with(p.v, MODULE_FLEXI_PAD);
+    SYS_PnlMFFP = std::any_of(std::begin(FlexiPadKeyUnitConfig), std::end(FlexiPadKeyUnitConfig),
+                              [](int slots) { return slots != 0; });
 }

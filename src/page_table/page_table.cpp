@@ -42,6 +42,7 @@
 #include "menu_macro_pages.h"
 #include "operation.h"
 #include "saver.h"
+#include "setup_panel.h"
 #include "setup_switcher.h"
 #include "setup_switcher_io.h"
 #include "setup_system.h"
@@ -101,6 +102,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 diag_pages,
                 install_pages,
                 setup_system_pages,
+                setup_panel_pages,
                 setup_switcher_pages,
                 setup_switcher_io_pages,
                 file_directory_pages,

@@ -5,6 +5,7 @@
 
 inline constexpr VF_TBL vf_setup[] = {
     {.id = 1, .caption = "System", .page = 0x73110000},
+    {.id = 2, .caption = "Panel", .page = 0x73210000},
     {.id = 3, .caption = "Switcher", .page = 0x73310000},
     VF_END,
 };
@@ -26,5 +27,12 @@ inline constexpr HF_TBL hf_setup_switcher[] = {
     {.id = 5, .caption = "Key/Wipe\nFM/CCR", .page = 0x73350000},
     {.id = 6, .caption = "Link", .page = 0x73360000},
     {.id = 7, .caption = "Device\nInterface", .page = 0x73370000},
+    HF_END,
+};
+inline constexpr HF_TBL hf_setup_panel[] = {
+    {.id = 1, .caption = "Config", .page = 0x73210000},
+    {.id = 2, .caption = "Xpt\nAssign", .page = 0x73220000},
+    {.id = 3, .caption = "Aux\nAssign", .page = 0x73230000},
+    {.id = 4, .caption = "Prefs/\nUtility", .page = 0x73240000},
     HF_END,
 };
