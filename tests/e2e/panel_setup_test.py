@@ -1,0 +1,129 @@
+"""The panel's setup at the desk: what buttons do, regions on the ten keys, a crosspoint table, a key 2 bus that runs a
+macro, names that reach the keys of a bank.
+
+usage: panel_setup_test.py BUILD_DIR [TEST...]
+"""
+import os
+import time
+import unittest
+
+from desk import grid
+from deskcase import DeskCase
+
+PANEL = "Engineering Setup@Panel@"
+PAD = f"{PANEL}Config@Program Button@Flexi Pad Module@Button Assign@"
+TENKEY = f"{PANEL}Config@10 Key Region Assign@"
+XPT = f"{PANEL}Xpt Assign@"
+SET, CLEAR, DEFAULT = 52, 53, 54
+YES = (200 + 97 + 20, 140 + 247 + 15)
+
+
+class PanelSetup(DeskCase):
+    def open(self, number):
+        self.open_page(number, "put TopMenu@SubMenuSite#false")
+        self.desk.wire()
+
+    def push(self, key):
+        self.desk.touch(*grid(key), settle=0.2)
+
+    def row(self, n, x=480, y=76):
+        self.desk.touch(x, y + 22 * (n + 1) + 10, settle=0.15)
+
+    def pad(self, button):
+        self.desk.touch(112 + 70 * ((button - 1) % 4) + 20, 212 + 46 * ((button - 1) // 4) + 20, settle=0.15)
+
+    def puts(self):
+        time.sleep(0.2)
+        return [line for line in self.desk.wire() if line.startswith("put Eng")]
+
+    def test_1_buttons_are_set_cleared_and_put_back(self):
+        self.open("7321.34")
+        for button, path in ((9, "09"), (10, "10")):
+            self.pad(button)
+            self.row(6)  # Shotbox
+            self.push(SET)
+            self.assertEqual(self.puts(), [f"put {PAD}{path}@Operation@Common@1#6,1,Shotbox"])
+            self.assertEqual(self.desk.value(f"{PAD}{path}@Operation@Common@1"), "6,1,Shotbox")
+        self.pad(1)
+        self.push(CLEAR)
+        self.assertEqual(self.desk.value(f"{PAD}01@Operation@Common@1"), "0,1,NO ASSIGN")
+        self.push(DEFAULT)
+        self.assertEqual(self.desk.value(f"{PAD}01@Operation@Common@1"), "1,1,Key")
+        before = self.desk.part(104, 200, 392, 396)
+        self.desk.console(f"put {PAD}03@Operation@Common@1#9,1,Undo")
+        time.sleep(0.3)
+        self.assertNotEqual(self.desk.part(104, 200, 392, 396), before, "another panel's change shows at once")
+
+    def test_2_regions_of_two_keys_at_once(self):
+        self.open("7321.1")
+        for number in (1, 2):
+            self.desk.touch(104 + 68 * (number - 1) + 20, 84 + 36)
+        self.desk.touch(456 + 61 + 20, 120)  # the second slot
+        self.row(2, y=154)  # M/E1
+        self.push(SET)
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@1"), "1,0,,M/E-1,,")
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@2"), "2,0,M/E-2,M/E-1,,")
+        self.push(DEFAULT)
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@1"), "1,0,M/E-1,,,")
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@2"), "2,0,M/E-2,,,")
+
+    def rows(self, path):
+        """All rows of a list that the server holds."""
+        out = os.path.join(self.desk.work, "sim.out")
+        seen = os.path.getsize(out)
+        self.desk.console(f"get {path}")
+        time.sleep(0.3)
+        with open(out, encoding="latin-1") as file:
+            file.seek(seen)
+            return [line[len(path) + 1:] for line in file.read().split("\n") if line.startswith(path + "#")]
+
+    def buttons(self, *numbers):
+        """What lies on crosspoint buttons: video, key."""
+        rows = dict(row.split(",", 1) for row in self.rows(f"{XPT}Assign"))
+        return [rows[str(n)] for n in numbers]
+
+    def test_3_a_crosspoint_table_by_insert_and_delete_and_back(self):
+        self.open("7322.1")
+        self.row(1, x=150)
+        self.row(4)  # CAM5
+        self.push(36)
+        self.assertEqual(self.puts(), [f"put {XPT}Insert VK#2,5,0"])
+        self.assertEqual(self.buttons(1, 2, 3, 32, 129), ["1,1", "5,5", "2,2", "31,31", "1,1"])
+        self.push(34)  # video alone
+        self.push(38)  # of the next button
+        self.assertEqual(self.puts(), [f"put {XPT}Delete V#3"])
+        self.assertEqual(self.buttons(2, 3, 4, 32), ["5,5", "3,2", "4,3", "0,31"])
+        self.push(54)
+        self.desk.touch(*YES)
+        self.assertEqual(self.buttons(2, 3, 32), ["2,2", "3,3", "32,32"])
+
+    def test_4_a_key_2_bus_button_runs_a_macro(self):
+        self.open("7324.2")
+        self.push(37)
+        self.row(1)
+        self.push(SET)
+        self.desk.wait_wire(f"put {PANEL}Prefs/Utility@Xpt Module Assign@Action Set@1@1#2,2")
+        self.desk.console("macro key2 1 1")
+        with open(os.path.join(self.desk.work, "sim.out"), encoding="latin-1") as file:
+            self.assertIn("macro 2 runs", file.read())
+        self.push(CLEAR)
+        self.assertEqual(self.desk.value(f"{PANEL}Prefs/Utility@Xpt Module Assign@Action Set@1@1"), "0,0")
+
+    def test_5_a_name_reaches_the_keys_of_a_bank(self):
+        self.open_page("1110", "add M/E-1@Key1@Type@Signal Select@Fill")
+        before = self.desk.part(97, 73, 702, 526)
+        self.open("7322.4")
+        self.row(0, x=150)
+        self.push(33)
+        self.desk.touch(39 + 12 + 54 + 25, 115 + 91 + 54 + 25)  # a letter more
+        self.desk.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25)  # Enter
+        self.push(54)
+        self.assertEqual(len(self.puts()), 1)
+        self.assertNotIn("1,CAM1", self.rows(f"{XPT}Source@List"))
+        self.open_page("1110", "add M/E-1@Key1@Type@Signal Select@Fill")
+        self.assertNotEqual(self.desk.part(97, 73, 702, 526), before)
+        self.assertIsNone(self.desk.app_status())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=1)
