@@ -112,10 +112,48 @@ static constexpr Kind kinds[] = {
     {"Device Interface@GPI Input@H/L Set@FC Input/Output@$", "1..8",
      "word None,FC1,FC2,FC3,FC4,FC5,FC6,FC7,FC8;word Input,Output;word Input,Output",
      "None,Input,Output"},
+    {"Input@FC Adjust@FC Signal $", "Format", "num 0 4 0;num 0 5 0;num 0 4 0", "3,2,0"},
+    {"Input@FC Adjust 3G@FC Signal $", "Format", "num 0 4 0;num 0 5 0;num 0 4 0", "3,2,0"},
+    {"Input@4K Adjust@FC Signal $", "Format", "num 0 4 0;num 0 5 0;num 0 4 0", "4,1,0"},
+    {"Output@FC Adjust@FC Signal $", "Format", "num 0 4 0;num 0 5 0;num 0 4 0", "3,2,0"},
     {"Device Interface@GPI Output@Trigger Type@$", "1..8",
      "word None,Rising Edge,Falling Edge,Any Edge,Level;byte;byte", "None,0x00,0x01"},
     {"Device Interface@GPI Output@Action Type@$@1", "1..8", ACTION, NO_ACTION},
     {"Device Interface@GPI Output@Action Type Region@$@1", "1..8", REGION_ACTION, NO_REGION_ACTION},
+};
+
+// Converters: inputs from 0, each with these words.
+static constexpr struct {
+    const char* page;
+    int inputs;
+} converters[] = {
+    {"Input@FC Adjust@", 16},
+    {"Input@FC Adjust 3G@", 8},
+    {"Input@4K Adjust@", 8},
+    {"Output@FC Adjust@", 16},
+};
+static constexpr struct {
+    const char* word;
+    const char* type;
+    const char* start;
+} converter_words[] = {
+    {"Convert Mode", "num 0 3 0", "0"},
+    {"Motion Sel", "num 1 5 0", "3"},
+    {"Aspect", "num 0 1 0", "0"},
+    {"Aspect Type", "word Edge Crop,Letter Box,Squeeze", "Edge Crop"},
+    {"EC Pos", "num -100 100 0", "0"},
+    {"EC Pos Mode", "num 0 1 0", "0"},
+    {"LB Pos", "num -100 100 0", "0"},
+    {"LB Pos Mode", "num 0 1 0", "0"},
+    {"Enhancer Mode", "num 0 1 0", "0"},
+    {"Detail Gain", "num 0 100 0", "50"},
+    {"Crisp", "num 0 100 0", "0"},
+    {"Level", "num 0 100 0", "0"},
+    {"Limiter", "num 0 100 0", "100"},
+    {"Freq", "num 0 100 0", "50"},
+    {"H/V", "num 0 100 0", "50"},
+    {"Division", "num 0 1 0", "0"},
+    {"IP", "num 0 1 0", "0"},
 };
 
 // --- What each row begins with ---
@@ -159,8 +197,22 @@ static bool is_of_parts(const Kind& kind)
     return std::string(kind.type).find(';') != std::string::npos;
 }
 
+static void install_converters()
+{
+    for (const auto& converter : converters)
+        for (const auto& word : converter_words)
+            for (int n = 0; n < converter.inputs; ++n) {
+                const std::string path =
+                    SWITCHER + converter.page + word.word + "@" + std::to_string(n);
+                if (Node* const node = Tree_Get(path))
+                    node->type = type_of(word.type);
+                Tree_Preset(path, word.start);
+            }
+}
+
 void SetupSwitcherIo_Install()
 {
+    install_converters();
     for (const Kind& kind : kinds)
         for (const std::string& row : rows_of(kind.each)) {
             const std::string path = path_of(kind, row);
@@ -299,11 +351,29 @@ static bool fire(const std::string& path)
     return true;
 }
 
+// An input of a converter as it came; false when it is none.
+static bool reset_input(const std::string& path, const std::string& input)
+{
+    for (const auto& converter : converters) {
+        if (path != SWITCHER + converter.page + "Default")
+            continue;
+        for (const auto& word : converter_words) {
+            const std::string of = SWITCHER + converter.page + word.word + "@" + input;
+            if (Tree_Find(of))
+                Tree_Show(of, word.start);
+        }
+        return true;
+    }
+    return false;
+}
+
 bool SetupSwitcherIo_Put(const std::string& path, const std::string& value)
 {
     const std::string tail = path.substr(path.rfind('@') + 1);
     if (Text_MatchesPath(path, GPI_OUTPUT + "Test Fire@*"))
         return fire(path);
+    if (reset_input(path, value))
+        return true;
     if (path == OUTPUT + "Assign")
         return put_assign(path, value);
     if (path == OUTPUT + "Inhibit")

@@ -1,6 +1,7 @@
 // setup_switcher_io: the Switcher group of engineering setup: Input, Output, Device Interface. Most pages are sheets: a list
 // of what there is, and for each column its choices.
 #pragma once
+#include "pc_setup_fcadjust.h"
 #include "pc_setup_gpi.h"
 #include "rows.h"
 #include "setup_tabs.h"
@@ -28,7 +29,7 @@ inline constexpr SETUPCOLUMN input_columns[] = {
     SheetNumber("H Phase", 140, "~@H Phase@$", -200, 200),
 };
 inline constexpr BT_TBL input_more[] = {
-    SheetJump(36, "FC Input\nSelect", "#73320001"), SheetJump(38, "Internal\nFC", "#73320003"),
+    SheetJump(36, "FC Input\nSelect", "#73320001"), SheetJump(37, "FC\nAdjust", "#73320002"), SheetJump(38, "Internal\nFC", "#73320003"),
     SheetJump(49, "4K Active\nSize", "#73320004"), SheetJump(50, "Video\nProcess", "#73320005"), SheetJump(51, "CCR", "#73320006"),
 };
 inline constexpr SETUPSHEET engsetup_switcher_input = SheetMore(SheetOf(input_columns, SWITCHER_INPUTS, {.key_head = "Input"}), input_more);
@@ -38,7 +39,7 @@ inline constexpr SETUPWORD words_fc_inputs[] = {{"1-4", "1-4"}, {"5-8", "5-8"}, 
 inline constexpr const char* fc_boards[] = {"FC1", "FC2", "FC3", "FC4"};
 inline constexpr SETUPCOLUMN input_fcinputselect_columns[] = {SheetAsked("Inputs", 490, "~@$", words_fc_inputs)};
 inline constexpr BT_TBL to_input[] = {SheetJump(52, "Input", "#73320000")};
-inline constexpr BT_TBL fc_input_more[] = {SheetJump(52, "Input", "#73320000")};
+inline constexpr BT_TBL fc_input_more[] = {SheetJump(51, "FC\nAdjust", "#73320002"), SheetJump(52, "Input", "#73320000")};
 inline constexpr SETUPSHEET engsetup_switcher_input_fcinputselect =
     SheetMore(SheetOf(input_fcinputselect_columns, 4, {.names = fc_boards, .key_head = "FC"}), fc_input_more);
 
@@ -71,6 +72,62 @@ inline constexpr SETUPCOLUMN input_ccr_columns[] = {
 };
 inline constexpr SETUPSHEET engsetup_switcher_input_ccr = SheetMore(SheetOf(input_ccr_columns, 4, {.names = ccr_units, .key_head = "Unit"}), to_input);
 
+// The converters: a short list above three rows of keys.
+constexpr LS_TBL FcList(int inputs)
+{
+    LS_TBL list = {.id = 1, .hn = 7, .vn = inputs, .x = 100, .y = 76,
+                   .head = {"Src No", "Source Name", "Conversion", "Motion Sel", "Aspect", "EC Pos", "LB Pos"}, .width = {60, 98, 86, 76, 90, 70, 70},
+                   .group = {2, 999}, .sb_top = 76, .block = 1};
+    list.sb_bottom = list.y + LS_ROW_PX * (inputs + 1);
+    return list;
+}
+inline constexpr LS_TBL ls_engsetup_switcher_input_fcadjust[] = {FcList(4), LS_END};
+inline constexpr LS_TBL ls_engsetup_switcher_input_fcadjust6[] = {FcList(6), LS_END};
+static_assert(ListsAreSound(ls_engsetup_switcher_input_fcadjust));
+static_assert(ListsAreSound(ls_engsetup_switcher_input_fcadjust6));
+
+#define FC_HEAD \
+    JumpPopUp({.id = BTN_FCADJUST_GROUP, .caption = "FC\nInput", .group = "Converter", .cmd = {FCADJUST("FC Input")}}), \
+    JumpPopUp({.id = BTN_FCADJUST_FORMAT, .caption = "Signal\nFormat", .group = "Converter", .cmd = {FCADJUST("Signal Format")}}), \
+    Toggle({.id = BTN_FCADJUST_ASPECT, .caption = "4:3", .group = "Aspect", .cmd = {FCADJUST("Aspect#4:3")}}), \
+    Action({.id = 22, .caption = "Default", .cmd = {FCADJUST("Default")}}), \
+    Radio({.id = 33, .caption = "Through", .group = "Conversion", .cmd = {FCADJUST("Convert Mode#Through")}}), \
+    Radio({.id = 34, .caption = "Up", .group = "Conversion", .cmd = {FCADJUST("Convert Mode#Up")}}), \
+    Radio({.id = 35, .caption = "Down", .group = "Conversion", .cmd = {FCADJUST("Convert Mode#Down")}}), \
+    Radio({.id = 36, .caption = "Cross", .group = "Conversion", .cmd = {FCADJUST("Convert Mode#Cross")}}), \
+    Radio({.id = BTN_FCADJUST_TYPE, .caption = "Edge\nCrop", .group = "Aspect Type", .cmd = {FCADJUST("Aspect Type#Edge Crop")}}), \
+    Radio({.id = BTN_FCADJUST_TYPE + 1, .caption = "Letter\nBox", .group = "Aspect Type", .cmd = {FCADJUST("Aspect Type#Letter Box")}}), \
+    Radio({.id = BTN_FCADJUST_TYPE + 2, .caption = "Squeeze", .group = "Aspect Type", .cmd = {FCADJUST("Aspect Type#Squeeze")}})
+#define FC_ENHANCER \
+    Toggle({.id = BTN_FCADJUST_ENHANCER, .caption = "Enhancer", .group = "Enhancer", .cmd = {FCADJUST("Enhancer Mode#true")}}), \
+    ActionState({.id = BTN_FCADJUST_ENHANCER_ADJUST, .caption = "Adjust", .group = "Enhancer", .cmd = {FCADJUST("Enhancer Adjust")}})
+#define FC_POSITIONS \
+    Toggle({.id = BTN_FCADJUST_EC_MODE, .caption = "Variable", .group = "EC Pos", .cmd = {FCADJUST("EC Pos Mode#true")}}), \
+    Action({.id = BTN_FCADJUST_EC_CENTER, .caption = "Center", .group = "EC Pos", .cmd = {FCADJUST("EC Pos Center")}}), \
+    Toggle({.id = BTN_FCADJUST_LB_MODE, .caption = "Variable", .group = "LB Pos", .cmd = {FCADJUST("LB Pos Mode#true")}}), \
+    Action({.id = BTN_FCADJUST_LB_CENTER, .caption = "Center", .group = "LB Pos", .cmd = {FCADJUST("LB Pos Center")}})
+inline constexpr BT_TBL bt_engsetup_switcher_input_fcadjust[] = {FC_HEAD, FC_ENHANCER, FC_POSITIONS, SheetJump(52, "3G", "#73320008"), BT_END};
+inline constexpr BT_TBL bt_engsetup_switcher_input_fcadjust6[] = {FC_HEAD, FC_ENHANCER, FC_POSITIONS, SheetJump(52, "Four\nInputs", "#73320007"), BT_END};
+inline constexpr BT_TBL bt_engsetup_switcher_input_fcadjust3g[] = {FC_HEAD, FC_POSITIONS, SheetJump(52, "4K", "#73320009"), BT_END};
+inline constexpr BT_TBL bt_engsetup_switcher_input_f4kadjust[] = {
+    FC_HEAD, FC_ENHANCER,
+    Radio({.id = 37, .caption = "Square", .group = "Division", .cmd = {FCADJUST_4K("Division#Square")}}),
+    Radio({.id = 38, .caption = "2SI", .group = "Division", .cmd = {FCADJUST_4K("Division#2SI")}}),
+    Radio({.id = 53, .caption = "On", .group = "I/P", .cmd = {FCADJUST_4K("IP#On")}}),
+    Radio({.id = 54, .caption = "Off", .group = "I/P", .cmd = {FCADJUST_4K("IP#Off")}}),
+    SheetJump(52, "Six\nInputs", "#73320002"),
+    BT_END,
+};
+inline constexpr BT_TBL bt_engsetup_switcher_output_fcadjust[] = {FC_HEAD, FC_ENHANCER, FC_POSITIONS, SheetJump(52, "Output", "#73330000"), BT_END};
+#undef FC_HEAD
+#undef FC_ENHANCER
+#undef FC_POSITIONS
+static_assert(ButtonsAreSound(bt_engsetup_switcher_input_fcadjust));
+static_assert(ButtonsAreSound(bt_engsetup_switcher_input_fcadjust6));
+static_assert(ButtonsAreSound(bt_engsetup_switcher_input_fcadjust3g));
+static_assert(ButtonsAreSound(bt_engsetup_switcher_input_f4kadjust));
+static_assert(ButtonsAreSound(bt_engsetup_switcher_output_fcadjust));
+
 // --- Output ---
 
 #define OUTPUT "Engineering Setup@Switcher@Output@"
@@ -86,7 +143,7 @@ inline constexpr SETUPCOLUMN output_columns[] = {
 inline constexpr BT_TBL output_more[] = {
     SheetJump(34, "Crop", "#73330002"), SheetJump(35, "V Blank", "#73330003"),
     SheetJump(36, "Video\nClip", "#73330004"), SheetJump(37, "Safe\nTitle", "#73330005"), SheetJump(38, "Re-Entry\nAssign", "#73330006"),
-    SheetJump(50, "4K Active\nSize", "#73330008"), SheetJump(51, "FC Output\nAssign", "#73330009"),
+    SheetJump(49, "FC\nAdjust", "#73330007"), SheetJump(50, "4K Active\nSize", "#73330008"), SheetJump(51, "FC Output\nAssign", "#73330009"),
     SheetJump(52, "Internal\nFC", "#73330011"), SheetJump(53, "Multi\nViewer", "#73330014"),
 };
 inline constexpr SETUPSHEET engsetup_switcher_output = SheetMore(SheetOf(output_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1}), output_more);
@@ -269,10 +326,15 @@ inline constexpr SETUPSHEET engsetup_switcher_deviceinterface_gpioutput = SheetM
 #define TABS(n) Base(base_main), LeftTabs(vf_setup, 3), BottomTabs(hf_setup_switcher, n)
 #define TREE(...) {"Engineering Setup", "Switcher", __VA_ARGS__}
 #define SHEET(n, name) {TABS(n), SHEET_OBJECTS(engsetup_switcher_##name), Code(SetupSheet_Code<engsetup_switcher_##name>)}
+#define FC(n, name, list) {TABS(n), Buttons(bt_engsetup_switcher_##name), Boxes(NB_Non), Lists(ls_engsetup_switcher_##list), Code(pc_engsetup_switcher_##name)}
 #define GPI(name) {TABS(7), SHEET_OBJECTS(engsetup_switcher_##name), Code(SetupGpi_Code<engsetup_switcher_##name>)}
 inline constexpr PAGE setup_switcher_io_pages[] = {
     {.id = 0x73320000, .tree = TREE("Input"), .obj = SHEET(2, input)},
     {.id = 0x73320001, .tree = TREE("Input", "FC Input Select"), .obj = SHEET(2, input_fcinputselect)},
+    {.id = 0x73320602, .tree = TREE("Input", "FC Adjust"), .obj = FC(2, input_fcadjust6, input_fcadjust6)},
+    {.id = 0x73320007, .tree = TREE("Input", "FC Adjust"), .obj = FC(2, input_fcadjust, input_fcadjust)},
+    {.id = 0x73320008, .tree = TREE("Input", "FC Adjust 3G"), .obj = FC(2, input_fcadjust3g, input_fcadjust)},
+    {.id = 0x73320009, .tree = TREE("Input", "4K Adjust"), .obj = FC(2, input_f4kadjust, input_fcadjust)},
     {.id = 0x73320003, .tree = TREE("Input", "Internal FC"), .obj = SHEET(2, input_internal_fc)},
     {.id = 0x73320004, .tree = TREE("Input", "4K Active Size"), .obj = SHEET(2, input_4kactivesize)},
     {.id = 0x73320005, .tree = TREE("Input", "Video Process"), .obj = SHEET(2, input_videoprocess)},
@@ -284,6 +346,7 @@ inline constexpr PAGE setup_switcher_io_pages[] = {
     {.id = 0x73330004, .tree = TREE("Output", "Video Clip"), .obj = SHEET(3, output_videoclip)},
     {.id = 0x73330005, .tree = TREE("Output", "Safe Title"), .obj = SHEET(3, output_safetitle)},
     {.id = 0x73330006, .tree = TREE("Output", "Re-Entry Assign"), .obj = SHEET(3, output_reentryassign)},
+    {.id = 0x73330007, .tree = TREE("Output", "FC Adjust"), .obj = FC(3, output_fcadjust, input_fcadjust)},
     {.id = 0x73330008, .tree = TREE("Output", "4K Active Size"), .obj = SHEET(3, output_4kactivesize)},
     {.id = 0x73330009, .tree = TREE("Output", "FC Output Assign"), .obj = SHEET(3, output_fcoutputassign)},
     {.id = 0x73330010, .tree = TREE("Output", "FC Output Select"), .obj = SHEET(3, output_fcoutput_fcoutputselect)},
@@ -308,4 +371,5 @@ inline constexpr PAGE setup_switcher_io_pages[] = {
 #undef TABS
 #undef TREE
 #undef SHEET
+#undef FC
 #undef GPI

@@ -1,0 +1,160 @@
+// Format converters: which inputs are on the page, which knobs a mode has, what goes out.
+#include "a_nb.h"
+#include "pc_setup_fcadjust.h"
+#include "setup_desk.h"
+
+namespace
+{
+const std::string ADJUST = "Engineering Setup@Switcher@Input@FC Adjust@";
+constexpr uint32_t FC_PAGE = 0x73320007, FC6_PAGE = 0x73320002, FC3G_PAGE = 0x73320008;
+
+struct FcAdjust : SetupTest {
+    void SetUp() override
+    {
+        SetupTest::SetUp();
+        SetupFcAdjust_Reset();
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        SetupFcAdjust_Reset();
+        SetupTest::TearDown();
+    }
+    // The boxes that there are, in their order, each with what it turns.
+    static std::string Knobs()
+    {
+        std::string text;
+        for (const char* caption : {"Motion Sel", "EC Pos", "LB Pos", "Detail\nGain", "H/V"}) {
+            char cmd[CMD_SIZE];
+            double var = 0;
+            if (NB_GetKnob_info(caption, cmd, &var, sizeof cmd) >= 0)
+                text += (text.empty() ? "" : " ") + std::string(cmd).substr(ADJUST.size());
+        }
+        return text;
+    }
+    static double MaxOf(int box)
+    {
+        (void)NB_SetSelect(box);
+        (void)NB_SendTrimValue(1000);
+        const Lines lines = TakeQueuedCommands();
+        return lines.empty() ? -1 : atof(lines.back().substr(lines.back().find('#') + 1).c_str());
+    }
+};
+} // namespace
+
+TEST_F(FcAdjust, AnInputOfAnotherConverterHasNoPlace)
+{
+    FCInput = 1;
+    static const struct {
+        int n, id;
+    } cases[] = {{4, 0}, {7, 3}, {3, -1}, {8, -1}, {-1, -1}};
+    for (const auto& c : cases)
+        EXPECT_EQ(fcadjust_n_to_id(c.n), c.id) << c.n;
+}
+
+TEST(FcFormatCheck, AChangeOfFormatNeedsItsKindOfConversion)
+{
+    static const struct {
+        int a, b, c, d, e, f, pass;
+    } cases[] = {
+        {2, 1, 1, 4, 1, 0, 1}, {0, 1, 0, 2, 1, 1, 1}, {0, 1, 0, 4, 2, 0, 0}, {0, 1, 0, 3, 1, 0, 0},
+        {2, 2, 1, 3, 2, 0, 1}, {0, 2, 0, 0, 2, 0, 1}, {0, 2, 0, 4, 2, 0, 0}, {4, 1, 0, 0, 1, 0, 1},
+        {4, 1, 4, 0, 1, 0, 0}, {0, 5, 2, 3, 2, 0, 1}, {0, 5, 2, 4, 1, 0, 0}, {0, 4, 2, 4, 1, 0, 1},
+        {3, 2, 0, 2, 2, 1, 1}, {3, 2, 0, 4, 2, 0, 0}, {3, 3, 2, 3, 2, 2, 1}, {3, 1, 2, 3, 2, 2, 0},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(fcadjust_format_check(c.a, c.b, c.c, c.d, c.e, c.f), c.pass)
+            << c.a << c.b << c.c << " to " << c.d << c.e << c.f;
+}
+
+TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
+{
+    using testing::Contains;
+    using testing::Not;
+    const Lines opened = Open(FC_PAGE);
+    EXPECT_THAT(opened, Contains("add " + ADJUST + "Convert Mode@3"));
+    EXPECT_THAT(opened, Not(Contains("add " + ADJUST + "Convert Mode@4")));
+    (void)Push(BTN_FCADJUST_GROUP);
+    const Lines changed = Answer(2);
+    EXPECT_THAT(changed, Contains("remove " + ADJUST + "H/V@0"));
+    EXPECT_THAT(changed, Contains("add " + ADJUST + "H/V@7"));
+    TellAll(ADJUST, {"Convert Mode@4#1", "Convert Mode@0#2", "Aspect Type@7#Squeeze",
+                     "Convert Mode@99#1", "Convert Mode@#1"});
+    EXPECT_EQ(Row(0, 4), "5||Up|");
+    EXPECT_EQ(Row(3, 5), "8||||Squeeze");
+    const Lines left = Leave();
+    EXPECT_THAT(left, Contains("remove " + ADJUST + "Convert Mode@4"));
+    EXPECT_THAT(left, Contains("remove " + ADJUST + "FC Signal Format"));
+}
+
+TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
+{
+    static const struct {
+        uint32_t page;
+        std::vector<const char*> lines;
+        const char* knobs;
+    } cases[] = {
+        {FC_PAGE, {"Convert Mode@0#0"}, ""},
+        {FC_PAGE, {"Convert Mode@0#3"}, "Motion Sel@0"},
+        {FC_PAGE,
+         {"Convert Mode@0#1", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#0"},
+         "Motion Sel@0"},
+        {FC_PAGE,
+         {"Convert Mode@0#2", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#1"},
+         "Motion Sel@0 EC Pos@0"},
+        {FC6_PAGE,
+         {"Convert Mode@0#2", "Aspect Type@0#Letter Box", "LB Pos Mode@0#1"},
+         "Motion Sel@0 LB Pos@0"},
+    };
+    for (const auto& c : cases) {
+        SetupFcAdjust_Reset();
+        (void)Open(c.page);
+        for (const char* line : c.lines)
+            (void)Tell(ADJUST + line);
+        EXPECT_EQ(Knobs(), c.knobs) << c.lines[0];
+        (void)Leave();
+    }
+    (void)Open(FC_PAGE);
+    TellAll(ADJUST, {"Convert Mode@1#1", "Enhancer Mode@1#1"});
+    SelectRow(1);
+    (void)Push(BTN_FCADJUST_ENHANCER_ADJUST);
+    EXPECT_EQ(Knobs(), "Detail Gain@1 H/V@1");
+}
+
+TEST_F(FcAdjust, TheAspectLimitsThePositions)
+{
+    (void)Open(FC_PAGE);
+    TellAll(ADJUST, {"Convert Mode@0#2", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#1", "Aspect@0#0",
+                     "EC Pos@0#3"});
+    EXPECT_EQ(MaxOf(2), 100);
+    (void)Tell(ADJUST + "Aspect@0#1");
+    EXPECT_EQ(MaxOf(2), 40);
+}
+
+TEST_F(FcAdjust, APressGoesOutAtOnceAndOnlyTheAnswerShowsIt)
+{
+    using testing::ElementsAre;
+    (void)Open(FC_PAGE);
+    TellAll(ADJUST, {"Convert Mode@2#2", "Aspect Type@2#Edge Crop", "EC Pos Mode@2#1",
+                     "FC Signal Format#0,1,0"});
+    SelectRow(2);
+    static const struct {
+        int key;
+        const char* line;
+    } cases[] = {
+        {34, "Convert Mode@2#1"},
+        {BTN_FCADJUST_TYPE + 1, "Aspect Type@2#Letter Box"},
+        {BTN_FCADJUST_EC_MODE, "EC Pos Mode@2#0"},
+        {BTN_FCADJUST_EC_CENTER, "EC Pos@2#0"},
+    };
+    for (const auto& c : cases)
+        EXPECT_THAT(Push(c.key), ElementsAre("put " + ADJUST + c.line));
+    EXPECT_EQ(Row(2, 5), "3||Down||Edge Crop");
+    EXPECT_THAT(Push(22), testing::AllOf(testing::Contains("put " + ADJUST + "Default#2"),
+                                         testing::Contains("read " + ADJUST + "LB Pos@2")));
+    (void)Push(BTN_FCADJUST_FORMAT);
+    EXPECT_THAT(Answer(5), ElementsAre("put " + ADJUST + "FC Signal Format#4,1,0"));
+    (void)Push(BTN_FCADJUST_FORMAT);
+    EXPECT_THAT(Answer(4), testing::IsEmpty()) << "1080i is not for this kind";
+    Dismiss();
+}
