@@ -414,3 +414,10 @@ int FL_GutClipFrameCount(int activeStorage, int device, const char* path)
     const FL_LIST* const node = node_of_path(activeStorage, path, OBJECT_TYPE_FILE);
     return node ? node->file.element.duration : -1;
 }
+
+int FL_IsClipFolder(int id, const char* path)
+{
+    const FL_LIST* const node =
+        fl_is_side(id) && path ? node_of_path(id, path, OBJECT_TYPE_FILE) : nullptr;
+    return node && node->file.clip_stil;
+}

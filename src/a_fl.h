@@ -85,3 +85,5 @@ int FL_GetDirectoryName(const FM_FILEPATH* where, int index, FL_DIRFILE_NAMES* n
 int FL_GetDirectoryAndFileCount(const FM_FILEPATH* where, int* folders, int* files);
 // Frames of the clip with this full path on a side that shows the device; -1 for none.
 int FL_GutClipFrameCount(int activeStorage, int device, const char* path);
+// 1 when the clip with this full path is a folder of frames on the side's drive, not one file.
+int FL_IsClipFolder(int id, const char* path);

@@ -4,6 +4,7 @@
 #include "a_fl.h"
 #include "a_ls.h"
 #include "device.h"
+#include "file_scp.h"
 #include "file_xport.h"
 #include "global.h"
 #include "memory.h"
@@ -14,6 +15,7 @@
 #include "text.h"
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <new>
 #include <string>
 #include <unordered_set>
@@ -22,12 +24,14 @@
 
 #define XPORT "LOCAL@File@XPort@"
 
+static constexpr const char* SFH_CAPTION = "FrameMem\n(.SFH)";
+
 namespace
 {
 enum : int { SIDE_A = 0 };
 enum : int { LIST_A = 1, LIST_B = 2 };
-enum : int { COL_CLIP_ICON, COL_CLIP_NAME }; // of the list at the left, which a_fl fills
-enum : int { COL_B_NAME, COL_B_TIME };
+enum : int { COL_CLIP_ICON, COL_CLIP_NAME, COL_CLIP_FRAMES }; // of a list that a_fl can fill
+enum : int { COL_B_NAME, COL_B_TIME };                        // of pictures for the frame memory
 constexpr int FILES_MAX = 4000;
 constexpr int EXPORT_MAX = 12000; // frames of one job: each takes some memory until it has ended
 constexpr int CAPTION_SIZE = 40;
@@ -40,11 +44,20 @@ struct XportKind {
     int (*import_list)(FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int tag);
 };
 
+// The folders that a side can go to; the pane and the button show them from here.
+struct FolderMenu {
+    char name[FOLDER_MAX][ELEMENT_FOLDER_SIZE] = {};
+    int names = 0;
+    int pane = 0;
+};
+
 // Of a page: outlives it.
 struct Visit {
     FileMemory a = {};
     FILESIDE b = {.device = FILE_REMOVABLE};
     XPORTTYPE type = XPORT_TIF;
+    bool is_sfh = false; // clips in the store's own form stand there, not pictures
+    int sfh_device = FL_DIRDATA_REMOVABLE_DRIVE;
     FILEXFERLIST* list = nullptr; // being put together, or of the job that runs
     int folder_id = 0;            // of the newer frame memory: where its images go
 };
@@ -82,12 +95,11 @@ static struct {
     XPORTFILE* found = nullptr;        // chain of what they have told
     int founds = 0;
     XPORTFILE* row[FILES_MAX]{}; // of the list, by name
+    char frames[FILES_MAX][8]{}; // of the rows' clips
     int rows = 0;
     int type_pane = 0;
-    int folder_pane = 0;
-    // The pane and the button show them from here.
-    char folder_name[FOLDER_MAX][ELEMENT_FOLDER_SIZE]{};
-    int folder_names = 0; // of a clip store
+    int sfh_device_pane = 0;
+    FolderMenu menu[FL_SIDES];
     char folder_caption[ELEMENT_FOLDER_SIZE]{};
     char device_caption[CAPTION_SIZE]{};
     char dir_caption[CAPTION_SIZE]{};
@@ -101,6 +113,12 @@ static Visit& visit()
 static bool is_clip_store()
 {
     return xp.kind->frames == FILEPAGES;
+}
+
+// The right side shows clips of the store's own form: a_fl fills it.
+static bool is_sfh()
+{
+    return is_clip_store() && visit().is_sfh;
 }
 
 static bool has_folders()
@@ -168,17 +186,42 @@ static bool stands_before(const XPORTFILE* a, const XPORTFILE* b)
     return order != 0 ? order < 0 : strcmp(a->path, b->path) < 0;
 }
 
+// Files of one clip become one row.
+static void gather_rows(int files)
+{
+    int frames = 0;
+    xp.rows = 0;
+    for (int i = 0; i < files; i++) {
+        if (xp.rows == 0 || !is_same_row(xp.row[xp.rows - 1], xp.row[i])) {
+            xp.row[xp.rows++] = xp.row[i];
+            frames = 0;
+        }
+        frames += !Xport_IsSub(xp.row[i]->name);
+        PrintText(xp.frames[xp.rows - 1], "%d", frames);
+    }
+}
+
+static void show_file(int row)
+{
+    if (!is_clip_store()) {
+        (void)LS_SetData(LIST_B, row, COL_B_NAME, row_text(*xp.row[row]));
+        (void)LS_SetData(LIST_B, row, COL_B_TIME, xp.row[row]->time);
+        return;
+    }
+    (void)LS_SetData(LIST_B, row, COL_CLIP_ICON, "");
+    (void)LS_SetData(LIST_B, row, COL_CLIP_NAME, row_text(*xp.row[row]));
+    (void)LS_SetData(LIST_B, row, COL_CLIP_FRAMES, xp.frames[row]);
+}
+
 static void show_files()
 {
     int n = 0;
     for (XPORTFILE* file = xp.found; file; file = file->next)
         xp.row[n++] = file;
     std::sort(xp.row, xp.row + n, stands_before);
-    xp.rows = int(std::unique(xp.row, xp.row + n, is_same_row) - xp.row);
-    for (int i = 0; i < xp.rows; i++) {
-        (void)LS_SetData(LIST_B, i, COL_B_NAME, row_text(*xp.row[i]));
-        (void)LS_SetData(LIST_B, i, COL_B_TIME, xp.row[i]->time);
-    }
+    gather_rows(n);
+    for (int i = 0; i < xp.rows; i++)
+        show_file(i);
     (void)LS_SetNData(LIST_B, xp.rows);
     (void)LS_SetNowLine(LIST_B, std::min(LS_GetNowLine(LIST_B), std::max(0, xp.rows - 1)));
     (void)LS_RedrawData(LIST_B);
@@ -217,7 +260,7 @@ static void search_files()
     char path[PATH_SIZE];
     forget_searches();
     drop_files();
-    if (!drive_folder(path))
+    if (is_sfh() || !drive_folder(path))
         return;
     for (int i = 0; i < XPORT_PATTERNS; i++) {
         const int label = File_ExecFind(path, xport_types[visit().type].patterns[i], find_tly, i);
@@ -230,48 +273,71 @@ static void search_files()
 // Images come from the stick and the network alone.
 static bool may_import()
 {
+    if (is_sfh())
+        return true; // as they were saved
     const int device = visit().b.device;
     return device == FILE_REMOVABLE || device == FILE_NETWORK;
 }
 
-// The root of the clip store and the folders down to the one that is shown.
-static int note_clip_folders()
+// The root of a side and the folders down to the one that is shown.
+static void note_folders(int id)
 {
-    int n = 0;
-    CopyText(xp.folder_name[n++], "Root");
-    for (const char* part = FL_GetCurrentPath(FL_L_LIST); *part == '/' && n <= ELEMENT_DEPTH;) {
+    FolderMenu& menu = xp.menu[id];
+    if (menu.pane != 0)
+        return; // it shows the names that it began with
+    menu.names = 0;
+    CopyText(menu.name[menu.names++], "Root");
+    for (const char* part = FL_GetCurrentPath(id); *part == '/' && menu.names <= ELEMENT_DEPTH;) {
         const size_t length = strcspn(++part, "/");
         if (length > 0)
-            strncpy_secu(xp.folder_name[n++], part, sizeof xp.folder_name[0], length);
+            strncpy_secu(menu.name[menu.names++], part, sizeof menu.name[0], length);
         part += length;
     }
-    return n;
+}
+
+static const char* open_folder(int id)
+{
+    note_folders(id);
+    return xp.menu[id].name[xp.menu[id].names - 1];
+}
+
+static int sfh_drive()
+{
+    return FL_GetDevice(FL_R_LIST) == FL_DIRDATA_LOCAL_DRIVE ? FILE_LOCAL : FILE_REMOVABLE;
+}
+
+// The directory that the right side stands in; at the top none is protected.
+static bool is_protected()
+{
+    const Visit& v = visit();
+    if (!is_sfh())
+        return File_DirIsProtected(v.b.device, v.b.dir);
+    note_folders(FL_R_LIST);
+    return xp.menu[FL_R_LIST].names > 1 &&
+           File_DirIsProtected(sfh_drive(), xp.menu[FL_R_LIST].name[1]);
 }
 
 static void show_buttons()
 {
     const Visit& v = visit();
-    CopyText(xp.device_caption, File_DriveCaption(v.b.device));
-    CopyText(xp.dir_caption, v.b.dir);
+    CopyText(xp.device_caption, File_DriveCaption(is_sfh() ? sfh_drive() : v.b.device));
+    CopyText(xp.dir_caption, is_sfh() ? open_folder(FL_R_LIST) : v.b.dir);
     (void)BT_SetCaption(BTN_XPORT_DEVICE_B, xp.device_caption);
     (void)BT_SetCaption(BTN_XPORT_DIR_B, xp.dir_caption);
-    (void)BT_SetCaption(BTN_XPORT_TYPE, xport_types[v.type].caption);
+    (void)BT_SetCaption(BTN_XPORT_TYPE, is_sfh() ? SFH_CAPTION : xport_types[v.type].caption);
     if (has_folders()) {
         const int row = FMCtrl_GetIsFolderIdx(FileSide_FolderId(SIDE_A));
         const FOLDER* const folder = FMCtrl_GetFolder(row);
         CopyText(xp.folder_caption, folder && *folder->name ? folder->name : "Default.");
         (void)BT_SetCaption(BTN_XPORT_FOLDER_A, xp.folder_caption);
     }
-    if (is_clip_store() && xp.folder_pane == 0) { // the pane shows the names that it began with
-        xp.folder_names = note_clip_folders();
-        CopyText(xp.folder_caption, xp.folder_name[xp.folder_names - 1]);
+    if (is_clip_store()) {
+        CopyText(xp.folder_caption, open_folder(FL_L_LIST));
         (void)BT_SetCaption(BTN_XPORT_FOLDER_A, xp.folder_caption);
     }
     BT_SetDisable(BTN_XPORT_IMPORT, !may_import());
-    BT_SetDisable(BTN_XPORT_EXPORT, File_DirIsProtected(v.b.device, v.b.dir));
+    BT_SetDisable(BTN_XPORT_EXPORT, is_protected());
 }
-
-// --- Device, directory, type, folder ---
 
 static void side_chosen(int)
 {
@@ -281,67 +347,136 @@ static void side_chosen(int)
     search_files();
 }
 
-static void device_b_sel()
+// --- Folders of clips ---
+
+static void folders_sel(int id)
 {
-    (void)FileSelect_Device(&visit().b, FILE_DRIVES_DISK, side_chosen, 0);
-}
-static void dir_b_sel()
-{
-    (void)FileSelect_Dir(&visit().b, side_chosen, 0);
+    FolderMenu& menu = xp.menu[id];
+    BTNSEL cells[FOLDER_MAX];
+    note_folders(id);
+    for (int row = 0; row < menu.names; row++)
+        cells[row] = {row + 1, menu.name[row], row == menu.names - 1};
+    menu.pane = PaneDirectory_Create_FolderPopup(menu.names, cells);
 }
 
-static void type_sel()
+static void folders_chosen(int id, int choice)
 {
-    BTNSEL cells[XPORT_TYPES];
-    for (int i = 0; i < XPORT_TYPES; i++)
-        cells[i] = {i + 1, xport_types[i].caption, i == visit().type};
-    xp.type_pane = PanePopup_Create(1, XPORT_TYPES, cells);
+    const FolderMenu& menu = xp.menu[id];
+    char path[FL_PATH_SIZE] = "";
+    for (int row = 1; row < choice && row < menu.names; row++) {
+        AppendText(path, "/");
+        AppendText(path, menu.name[row]);
+    }
+    if (choice >= 1)
+        (void)FL_ChangeDirectory(id, *path ? path : "/"); // -1: it has gone meanwhile
+    show_buttons();
 }
 
-static void type_chosen(int id)
+// A folder opens by a touch, as those of the frame memory do.
+static void clip_touched(int id, int row)
 {
-    if (id < 1 || id > XPORT_TYPES)
+    const char* const icon = LS_GetData(id + 1, row, COL_CLIP_ICON);
+    char name[ELEMENT_NAME_SIZE];
+    CopyText(name, icon && *icon ? LS_GetData(id + 1, row, COL_CLIP_NAME) : "");
+    if (*name)
+        (void)FL_ChangeDirectory(id, name); // -1: it has gone meanwhile
+}
+
+static void sfh_device_sel()
+{
+    const BTNSEL cells[] = {
+        {FL_DIRDATA_LOCAL_DRIVE, File_DriveCaption(FILE_LOCAL), sfh_drive() == FILE_LOCAL},
+        {FL_DIRDATA_REMOVABLE_DRIVE, File_DriveCaption(FILE_REMOVABLE),
+         sfh_drive() == FILE_REMOVABLE}};
+    xp.sfh_device_pane = PanePopup_Create(1, int(std::size(cells)), cells);
+}
+
+static void sfh_device_chosen(int device)
+{
+    if (device != FL_DIRDATA_LOCAL_DRIVE && device != FL_DIRDATA_REMOVABLE_DRIVE)
         return; // "Cancel"
-    visit().type = XPORTTYPE(id - 1);
+    visit().sfh_device = device;
+    (void)FL_list_init(FL_R_LIST, device);
+    show_buttons();
+}
+
+// The right list is ours or a_fl's.
+static void show_right()
+{
+    forget_searches();
+    drop_files();
+    if (is_clip_store())
+        (void)FL_list_init(FL_R_LIST, is_sfh() ? visit().sfh_device : FL_DIRDATA_DEV_NON);
+    if (!is_sfh() && is_clip_store())
+        (void)LS_SetHeadStr(LIST_B, COL_CLIP_NAME, "Name");
     show_buttons();
     search_files();
 }
 
-static void folder_a_sel()
+// --- Device, directory, type ---
+
+static void device_b_sel()
 {
-    BTNSEL cells[FOLDER_MAX];
-    const int rows = is_clip_store() ? xp.folder_names : FMCtrl_GetFolderNum();
-    const int open = is_clip_store() ? rows - 1 : FMCtrl_GetIsFolderIdx(FileSide_FolderId(SIDE_A));
-    for (int row = 0; row < rows; row++) {
-        if (!is_clip_store())
-            CopyText(xp.folder_name[row], FMCtrl_GetFolder(row)->name);
-        cells[row] = {row + 1, xp.folder_name[row], row == open};
-    }
-    if (rows > 0)
-        xp.folder_pane = PaneDirectory_Create_FolderPopup(rows, cells);
+    if (is_sfh())
+        sfh_device_sel();
+    else
+        (void)FileSelect_Device(&visit().b, FILE_DRIVES_DISK, side_chosen, 0);
+}
+static void dir_b_sel()
+{
+    if (is_sfh())
+        folders_sel(FL_R_LIST);
+    else
+        (void)FileSelect_Dir(&visit().b, side_chosen, 0);
 }
 
-static void clip_folder_chosen(int id)
+static void type_sel()
 {
-    char path[FL_PATH_SIZE] = "";
-    for (int row = 1; row < id && row < xp.folder_names; row++) {
-        AppendText(path, "/");
-        AppendText(path, xp.folder_name[row]);
+    constexpr int TYPES = XPORT_TYPES + 1;
+    BTNSEL cells[TYPES];
+    for (int i = 0; i < XPORT_TYPES; i++)
+        cells[i] = {i + 1, xport_types[i].caption, !is_sfh() && i == visit().type};
+    cells[XPORT_TYPES] = {TYPES, SFH_CAPTION, is_sfh()};
+    xp.type_pane = PanePopup_Create(1, is_clip_store() ? TYPES : XPORT_TYPES, cells);
+}
+
+static void type_chosen(int id)
+{
+    if (id < 1 || id > XPORT_TYPES + is_clip_store())
+        return; // "Cancel"
+    visit().is_sfh = id > XPORT_TYPES;
+    if (!visit().is_sfh)
+        visit().type = XPORTTYPE(id - 1);
+    show_right();
+}
+
+static void folder_a_sel()
+{
+    if (is_clip_store()) {
+        folders_sel(FL_L_LIST);
+        return;
     }
-    if (id >= 1)
-        (void)FL_ChangeDirectory(FL_L_LIST, *path ? path : "/"); // -1: it has gone meanwhile
-    show_buttons();
+    FolderMenu& menu = xp.menu[FL_L_LIST];
+    BTNSEL cells[FOLDER_MAX];
+    const int rows = FMCtrl_GetFolderNum();
+    const int open = FMCtrl_GetIsFolderIdx(FileSide_FolderId(SIDE_A));
+    for (int row = 0; row < rows; row++) {
+        CopyText(menu.name[row], FMCtrl_GetFolder(row)->name);
+        cells[row] = {row + 1, menu.name[row], row == open};
+    }
+    if (rows > 0)
+        menu.pane = PaneDirectory_Create_FolderPopup(rows, cells);
 }
 
 static void folder_chosen(int id)
 {
     if (is_clip_store()) {
-        clip_folder_chosen(id);
+        folders_chosen(FL_L_LIST, id);
         return;
     }
     if (id < 1 || id > FOLDER_MAX)
         return; // "Cancel"
-    CopyText(visit().a.folder, id == 1 ? "" : xp.folder_name[id - 1]);
+    CopyText(visit().a.folder, id == 1 ? "" : xp.menu[FL_L_LIST].name[id - 1]);
     FileSide_Refresh(SIDE_A);
     show_buttons();
 }
@@ -394,8 +529,11 @@ static void xport_result(uint32_t, int page)
             move_to_folder(item, v.folder_id);
     (void)BkgdFileTransfer_Set(kinds[page].id, 0);
     (void)PaneProgress_RestoreQuit();
-    if (xp.kind == &kinds[page])
-        search_files(); // the registers come by themselves
+    if (xp.kind != &kinds[page])
+        return;
+    search_files(); // the registers come by themselves
+    if (is_sfh())
+        FL_list_all_init();
 }
 
 // The next register that holds nothing and is an operator's; -1 when there is none.
@@ -521,10 +659,10 @@ static bool clip_place(char (&path)[PATH_SIZE], const char* name)
                      strcmp(folder, "/") == 0 ? "" : folder, name) < int(sizeof path);
 }
 
-// "/NEWS/OPENING" of a name in the folder that is shown.
-static bool clip_full_name(char (&path)[FL_PATH_SIZE], const char* name)
+// "/NEWS/OPENING" of a name in the folder that a side shows.
+static bool clip_full_name(char (&path)[FL_PATH_SIZE], int id, const char* name)
 {
-    const char* const folder = FL_GetCurrentPath(FL_L_LIST);
+    const char* const folder = FL_GetCurrentPath(id);
     return PrintText(path, "%s/%s", strcmp(folder, "/") == 0 ? "" : folder, name) <
            int(sizeof path);
 }
@@ -599,7 +737,7 @@ static Skipped gather_clips()
         if (Xport_IsSub(file.path))
             continue;
         clip_name(name, file);
-        if (!clip_full_name(full_name, name) || !clip_place(path, name))
+        if (!clip_full_name(full_name, FL_L_LIST, name) || !clip_place(path, name))
             continue; // no name that the store has
         if (FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FILE, full_name) || !names.insert(name).second)
             skipped.is_duplicate = true;
@@ -610,50 +748,141 @@ static Skipped gather_clips()
     return skipped;
 }
 
-// A clip goes frame by frame, as the store turns it into pictures.
+// Where the right side's drive has a clip of the store's own form, or one of its frames.
+static bool sfh_place(char (&path)[FILE_PATH_SIZE], const char* name, bool is_folder, int frame)
+{
+    char root[PATH_SIZE];
+    char full_name[FL_PATH_SIZE];
+    if (!File_Root(root, sizeof root, sfh_drive()) || !clip_full_name(full_name, FL_R_LIST, name))
+        return false;
+    return (is_folder ? PrintText(path, "%s%s.SFH/%s#%06d.SFH", root, full_name + 1, name, frame)
+                      : PrintText(path, "%s%s.SFH", root, full_name + 1)) < int(sizeof path);
+}
+
+// The n-th selected row of a side that a_fl shows, by its name: rows and elements may be a pass
+// apart. 0; 1: a folder, or no clip; -1: no more.
+static int selected_clip(int id, int n, FF_OBJECT* clip)
+{
+    const int row = LS_GetSelected(id + 1, n);
+    const char* const name = row >= 0 ? LS_GetData(id + 1, row, COL_CLIP_NAME) : nullptr;
+    char full_name[FL_PATH_SIZE];
+    if (row < 0)
+        return -1;
+    return !name || !clip_full_name(full_name, id, name) ||
+           FL_GetFoundObject(id, full_name, OBJECT_TYPE_FILE, clip) != 0;
+}
+
+static bool is_on_side(int id, const char* name)
+{
+    char full_name[FL_PATH_SIZE];
+    FF_OBJECT object;
+    return clip_full_name(full_name, id, name) &&
+           FL_GetFoundObject(id, full_name, OBJECT_TYPE_FILE, &object) == 0;
+}
+
+static void add_item(const char* store, const char* drive, const char* clip, int frame, int frames,
+                     bool is_export)
+{
+    char target[32];
+    PrintText(target, "CS%d", Device_UnitNumber(*DEV_MySwr[0]));
+    (void)File_XferList_SCPAdd_FM(
+        &visit().list, is_export ? store : drive, is_export ? drive : store, "FRAMEMEM", target,
+        is_sfh() ? TRANS_FILETYPE_SFH : visit().type + 1, clip, frame, frames);
+}
+
+// A clip goes frame by frame: the store turns them into pictures one at a time.
 static void add_clip_export(const char* name, int frames, const char* folder)
 {
     const Visit& v = visit();
-    const int unit = Device_UnitNumber(*DEV_MySwr[0]);
     const bool is_clip = frames > 1;
     char path[PATH_SIZE];
-    char target[32];
     char file[FILE_NAME_SIZE];
     CopyText(file, name);
-    if (v.b.device == FILE_REMOVABLE)
+    const bool is_fat = is_sfh() ? sfh_drive() == FILE_REMOVABLE : v.b.device == FILE_REMOVABLE;
+    if (is_fat)
         (void)StrFatFileName(file); // an empty one is refused below
-    PrintText(target, "CS%d", unit);
     if (!clip_place(path, name) || !*file)
         return;
     for (int frame = 0; frame < frames; frame++) {
         char src[FILE_PATH_SIZE];
         char dst[FILE_PATH_SIZE];
-        if (Xport_ClipPath(src, sizeof src, unit, path, is_clip ? name : nullptr, frame) &&
-            Xport_DrivePath(dst, sizeof dst, folder, file, v.type, is_clip ? frame : -1, false))
-            (void)File_XferList_SCPAdd_FM(&visit().list, src, dst, "FRAMEMEM", target, v.type + 1,
-                                          is_clip ? name : "", frame, frames);
+        if (!Xport_ClipPath(src, sizeof src, Device_UnitNumber(*DEV_MySwr[0]), path,
+                            is_clip ? name : nullptr, frame))
+            continue;
+        if (is_sfh() ? sfh_place(dst, file, is_clip, frame)
+                     : Xport_DrivePath(dst, sizeof dst, folder, file, v.type, is_clip ? frame : -1,
+                                       false))
+            add_item(src, dst, is_clip ? name : "", frame, frames, true);
     }
 }
 
-// By their names: rows and elements may be a pass apart.
+// A drive's clip is a folder, which is there before its first frame comes.
+static void make_clip_folder(const char* name, int frames)
+{
+    char path[FILE_PATH_SIZE];
+    if (frames <= 1 || !sfh_place(path, name, true, 0))
+        return;
+    *strrchr(path, '/') = '\0';
+    (void)File_ExecMkdir(path, nullptr, 0); // the frames tell when it was none
+}
+
 static Skipped gather_clip_export(const char* folder)
 {
     Skipped skipped;
+    FF_OBJECT clip;
     int frames = 0;
-    for (int i = 0, row; (row = LS_GetSelected(LIST_A, i)) >= 0; i++) {
-        const char* const name = LS_GetData(LIST_A, row, COL_CLIP_NAME);
-        char full_name[FL_PATH_SIZE];
-        FF_OBJECT clip;
-        if (!name || !clip_full_name(full_name, name) ||
-            FL_GetFoundObject(FL_L_LIST, full_name, OBJECT_TYPE_FILE, &clip) != 0)
-            continue; // a folder, or no clip
+    for (int i = 0, result; (result = selected_clip(FL_L_LIST, i, &clip)) >= 0; i++) {
         const int more = std::max(1, clip.frame);
-        if (frames + more > EXPORT_MAX) {
-            skipped.is_full = true;
+        if (result != 0)
             continue;
+        if (is_sfh() && is_on_side(FL_R_LIST, clip.name)) {
+            skipped.is_duplicate = true; // frames of both would be one clip
+        } else if (frames + more > EXPORT_MAX) {
+            skipped.is_full = true;
+        } else {
+            frames += more;
+            if (is_sfh())
+                make_clip_folder(clip.name, more);
+            add_clip_export(clip.name, more, folder);
         }
-        frames += more;
-        add_clip_export(clip.name, more, folder);
+    }
+    return skipped;
+}
+
+static void add_sfh_import(const FF_OBJECT& clip, const char* path)
+{
+    char full_name[FL_PATH_SIZE];
+    const bool is_folder =
+        clip_full_name(full_name, FL_R_LIST, clip.name) && FL_IsClipFolder(FL_R_LIST, full_name);
+    const int frames = std::max(1, clip.frame);
+    for (int frame = 0; frame < frames; frame++) {
+        char src[FILE_PATH_SIZE];
+        char dst[FILE_PATH_SIZE];
+        if (sfh_place(src, clip.name, is_folder, frame) &&
+            Xport_ClipPath(dst, sizeof dst, Device_UnitNumber(*DEV_MySwr[0]), path,
+                           frames > 1 ? clip.name : nullptr, frame))
+            add_item(dst, src, frames > 1 ? clip.name : "", frame, frames, false);
+    }
+}
+
+static Skipped gather_sfh_import()
+{
+    Skipped skipped;
+    FF_OBJECT clip;
+    int frames = 0;
+    for (int i = 0, result; (result = selected_clip(FL_R_LIST, i, &clip)) >= 0; i++) {
+        char path[PATH_SIZE];
+        if (result != 0 || !clip_place(path, clip.name))
+            continue;
+        const int more = std::max(1, clip.frame);
+        if (is_on_side(FL_L_LIST, clip.name)) {
+            skipped.is_duplicate = true;
+        } else if (frames + more > EXPORT_MAX) {
+            skipped.is_full = true;
+        } else {
+            frames += more;
+            add_sfh_import(clip, path);
+        }
     }
     return skipped;
 }
@@ -674,10 +903,12 @@ static void import_sel()
     Visit& v = visit();
     if (v.list || !may_import() || !DEV_MySwr[0])
         return; // the job of the page is still there, or nothing to import into
-    const Skipped skipped = is_clip_store() ? gather_clips() : gather_import();
+    const Skipped skipped = is_sfh()          ? gather_sfh_import()
+                            : is_clip_store() ? gather_clips()
+                                              : gather_import();
     tell_skipped(skipped, !v.list);
     v.folder_id = FileSide_FolderId(SIDE_A);
-    start(xp.kind->import_list);
+    start(is_sfh() ? File_TransSCPdirPutList_FM : xp.kind->import_list);
 }
 
 // --- Export ---
@@ -711,14 +942,15 @@ static void export_sel()
 {
     const Visit& v = visit();
     char folder[PATH_SIZE];
-    if (v.list || !DEV_MySwr[0] || File_DirIsProtected(v.b.device, v.b.dir) ||
-        !drive_folder(folder))
+    if (v.list || !DEV_MySwr[0] || is_protected() || (!is_sfh() && !drive_folder(folder)))
         return;
     if (is_clip_store())
         tell_skipped(gather_clip_export(folder), false);
     else
         gather_export(folder);
-    start(is_clip_store() ? File_ExecFmExportList2 : File_ExecFmExportList);
+    start(is_sfh()          ? File_TransSCPdirGetList_FM
+          : is_clip_store() ? File_ExecFmExportList2
+                            : File_ExecFmExportList);
 }
 
 // --- Messages ---
@@ -743,30 +975,30 @@ static int pane_closed(int pane, int result)
 {
     if (pane == 0)
         return 0;
-    if (pane == xp.type_pane) {
-        xp.type_pane = 0;
-        type_chosen(result);
-    } else if (pane == xp.folder_pane) {
-        xp.folder_pane = 0;
-        folder_chosen(result);
-    }
+    const struct {
+        int* pane;
+        void (*take)(int result);
+    } panes[] = {
+        {&xp.type_pane, type_chosen},
+        {&xp.sfh_device_pane, sfh_device_chosen},
+        {&xp.menu[FL_L_LIST].pane, folder_chosen},
+        {&xp.menu[FL_R_LIST].pane, [](int choice) { folders_chosen(FL_R_LIST, choice); }},
+    };
+    for (const auto& p : panes)
+        if (pane == *p.pane) {
+            *p.pane = 0;
+            p.take(result);
+            return 0;
+        }
     return 0;
-}
-
-// A folder opens by a touch, as those of the frame memory do.
-static void clip_touched(int row)
-{
-    const char* const icon = LS_GetData(LIST_A, row, COL_CLIP_ICON);
-    char name[ELEMENT_NAME_SIZE];
-    CopyText(name, icon && *icon ? LS_GetData(LIST_A, row, COL_CLIP_NAME) : "");
-    if (*name)
-        (void)FL_ChangeDirectory(FL_L_LIST, name); // -1: it has gone meanwhile
 }
 
 static int list_touched(int list, int row)
 {
-    if (list == LIST_A && is_clip_store())
-        clip_touched(row);
+    if (list == LIST_B && is_sfh())
+        clip_touched(FL_R_LIST, row);
+    else if (list == LIST_A && is_clip_store())
+        clip_touched(FL_L_LIST, row);
     else if (list == LIST_A)
         FileSide_Selected(SIDE_A);
     return 0;
@@ -837,8 +1069,7 @@ static int open(uint32_t page)
         BA_SetRegionGrp(FileKind_Group(frames));
         FileSide_Open(SIDE_A, frames, &visit().a, false, false);
     }
-    show_buttons();
-    search_files();
+    show_right();
     if (BkgdFileTransfer_Check(xp.kind->id))
         (void)BkgdFileTransfer_PaneRestore();
     return 0;

@@ -38,12 +38,12 @@ inline constexpr LS_TBL ls_file_xport[] = {
 };
 static_assert(ListsAreSound(ls_file_xport));
 
-// The clips, as a_fl fills them.
+// Clips, as a_fl fills them; at the right also pictures.
 inline constexpr LS_TBL ls_file2_xport[] = {
     {.id = 1, .hn = 4, .vn = 11, .x = 100, .y = 124, .head = {"", "Name", "Frames", "Pair"}, .width = {24, 136, 52, 36},
      .group = {2, 999}, .sb_top = 124, .sb_bottom = 388},
-    {.id = 2, .hn = 2, .vn = 11, .x = 405, .y = 124, .head = {"Name", "Date"}, .width = {126, 122},
-     .group = {1, 999}, .sb_top = 124, .sb_bottom = 388},
+    {.id = 2, .hn = 4, .vn = 11, .x = 405, .y = 124, .head = {"", "Name", "Frames", "Pair"}, .width = {24, 136, 52, 36},
+     .group = {2, 999}, .sb_top = 124, .sb_bottom = 388},
     LS_END,
 };
 static_assert(ListsAreSound(ls_file2_xport));

@@ -163,7 +163,7 @@ class FramePages(FrameCase):
         self.desk.console("clip make NEWS/SHOW 3")
         self.show(7162)
         self.touch(540, 478)
-        self.popup(3, 4)  # PNG
+        self.popup(3, 5)  # PNG
         self.wait_line("put File@Access@Find#")
         for _ in ("NEWS", "SHOW"):
             self.touch(170, 124 + ROW + 10)
@@ -179,6 +179,27 @@ class FramePages(FrameCase):
         self.touch(470, 124 + ROW + 10)
         self.touch(400, 478)
         self.wait_hub("Insert#CS1.ClipStoreFile:root/SHOW.SFH:3,")
+
+    def test_7_a_clip_is_saved_in_its_own_form_and_loaded_again(self):
+        local = self.path("mnt/data/user/root")
+        self.desk.console("clip make OTHER/STILL 1")
+        self.show(7162)
+        self.touch(540, 478)
+        self.popup(4, 5)  # SFH
+        time.sleep(0.3)
+        self.touch(450, 98)
+        self.popup(0, 2)  # Local Drive
+        self.settle("put File@Access@Find2#")
+        self.touch(170, 124 + ROW * 3 + 10)  # behind NEWS and OTHER: SHOW
+        self.touch(290, 478)
+        self.settle("put File@Access@Find2#", 15)
+        self.assertEqual(sorted(os.listdir(f"{local}/SHOW.SFH")), [f"SHOW#{n:06d}.SFH" for n in range(3)])
+        folders = sum(os.path.isdir(f"{local}/{name}") and not name.endswith(".SFH") for name in os.listdir(local))
+        self.touch(170, 124 + ROW * 2 + 10)
+        time.sleep(0.3)
+        self.touch(470, 124 + ROW * (folders + 1) + 10)
+        self.touch(400, 478)
+        self.wait_hub("Insert#CS1.ClipStoreFile:root/OTHER/SHOW.SFH:3,")
 
 
 class RegisterPages(FrameCase):

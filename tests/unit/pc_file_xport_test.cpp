@@ -57,7 +57,7 @@ struct XportPage : FramePage {
     {
         Lines rows;
         for (int no = 0; no < LS_GetNData(2); no++)
-            rows.push_back(LS_GetData(2, no, 0));
+            rows.push_back(LS_GetData(2, no, GL_NowPage == CLIPS));
         return rows;
     }
     // A row of the hub's, of a clip or a folder.
@@ -391,6 +391,47 @@ TEST_F(ClipXportPage, AnImportGoesIntoTheShownFolderAndReplacesNothing)
                             "intro#000000.SFH");
     Pane_Quit(Pane_GetActiveID());
     EXPECT_EQ(Message(), std::string("Some requests are skipped. \n") + NOT_PERMITTED);
+}
+
+// In its own form a clip is a folder of frames on the drive, a still one file.
+TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
+{
+    const std::string root = "MYHOST:/mnt/usb/usb1/";
+    const std::string store = "SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/NEWS/";
+    (void)ShownClips();
+    (void)FL_ChangeDirectory(FL_L_LIST, "/NEWS");
+    Clip("NEWS/intro", 2);
+    Clip("NEWS/old", 2);
+    (void)ShownClips();
+    Press(BTN_XPORT_TYPE);
+    const Lines sent = Quit(XPORT_TYPES + 1);
+    EXPECT_EQ(Caption(BTN_XPORT_TYPE), "FrameMem\n(.SFH)");
+    Answer(sent, "Access@ListDir", {});
+    Answer(sent, "Access@Find2",
+           {"/mnt/usb/usb1/old.SFH/old#000000.SFH", "/mnt/usb/usb1/new.SFH/new#000000.SFH",
+            "/mnt/usb/usb1/new.SFH/new#000001.SFH", "/mnt/usb/usb1/one.SFH"});
+    (void)ShownClips();
+    EXPECT_THAT(Files(), ElementsAre("new", "old", "one"));
+    const auto items = [](FILEWORKTYPE work) {
+        Lines lines;
+        for (const FILEXFERLIST* item = Items(work); item; item = item->next)
+            lines.push_back(item->src + std::string(" ") + item->dst + " " +
+                            std::to_string(item->import_no[1]));
+        return lines;
+    };
+    Select(1, {1, 2, 3}); // intro, old, still
+    Pass(1000);
+    EXPECT_THAT(
+        Press(BTN_XPORT_EXPORT),
+        Contains(AllOf(HasSubstr("Access@Mkdir#"), HasSubstr(root + "intro.SFH"))).Times(1));
+    EXPECT_THAT(
+        items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
+        ElementsAre(store + "intro.SFH/intro#000000.SFH " + root + "intro.SFH/intro#000000.SFH 2",
+                    store + "intro.SFH/intro#000001.SFH " + root + "intro.SFH/intro#000001.SFH 2",
+                    store + "still.SFH " + root + "still.SFH 1"));
+    Quit(0);                                        // of the progress
+    EXPECT_THAT(Message(), HasSubstr("duplicate")); // old: frames of both would be one clip
+    FileXport_Reset();
 }
 
 TEST(XportNames, RowsOfASearch)
