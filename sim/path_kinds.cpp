@@ -62,6 +62,9 @@ static constexpr PathKind kinds[] = {
     {"**@Modify@Crop Mode@Crop@*", "bool"},
     // The effects units.
     {"DME@Status@3D Param@*@*@*", "num -999.99 999.99 2"},
+    {"Aux/Mon@*@*@Auto Trans", "action"},
+    {"Aux/Mon@*@*@Rate", "num 0 999 0"},
+    {"Aux/Mon@*@*@Safe Area@*", PERCENT},
     {"Global Effect@*@Combine@Ch*", "bool"},
     {"Global Effect@*@Priority@Ch*", "word 1,2,3,4"},
     {"Global Effect@*@Trail@Ch*", "word Off,Pre,Post"},
@@ -130,6 +133,9 @@ static constexpr PathStart starts[] = {
     {"DME@Status@3D Param@Mode Status@Reference", "1,1,0"}, // the local target of channel 1
     {"DME@Status@3D Param@*@Size@*", "100"},
     {"DME@Transform@3D Trans@Size@*", "100"},
+    {"Aux/Mon@*@*@Source", "CAM1"},
+    {"Aux/Mon@*@*@Side Flags", "Off"},
+    {"Aux/Mon@*@*@Aspect", "16:9"},
     {"Color Bkgd@*@Mode", "Flat"},
     {"CCR@*@Insert@Insert", "Input"},
     {"CCR@*@RGB Clip@Color Space", "YUV"},

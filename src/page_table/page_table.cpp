@@ -1,4 +1,5 @@
 // PageTable, joined at compile time from the rows of the menu groups.
+#include "aux_mon.h"
 #include "ccr.h"
 #include "color_bkgd.h"
 #include "diag.h"
@@ -48,7 +49,6 @@
 #include "setup_system.h"
 #include "shotbox_pages.h"
 #include "snapshot_pages.h"
-#include "sources.h"
 #include "system.h"
 #include "top.h"
 
@@ -77,7 +77,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 fm_pages,
                 fmem_clip_pages,
                 fmem_store_pages,
-                sources_pages,
+                aux_mon_pages,
                 color_bkgd_pages,
                 ccr_top_pages,
                 ccr_pages,

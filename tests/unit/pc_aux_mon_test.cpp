@@ -1,0 +1,83 @@
+// The pages of one of many, on the aux buses: which one the keys are about, and what the list keeps
+// showing of the others.
+#include "a_ls.h"
+#include "table_page.h"
+#include <set>
+
+namespace
+{
+constexpr uint32_t AUX = 0x23110000, MON = 0x23210000;
+constexpr int KEY_MIX = 33, KEY_LINK = 36;
+const std::string BUS = "Aux/Mon@Aux Bus@";
+
+struct AuxPage : TablePage {
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,CAM 3", "7,CG 1"});
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,", "7,"});
+        TablePage::TearDown();
+    }
+    static Lines Choose(int row, int list = 1)
+    {
+        (void)TakeQueuedCommands();
+        SendMessage(LMSG_LISTSEL, list, row, 0, 0);
+        return TakeQueuedCommands();
+    }
+};
+
+// What is subscribed after these lines, when it was before.
+std::set<std::string> After(std::set<std::string> held, const std::vector<std::string>& lines)
+{
+    for (const std::string& line : lines)
+        if (line.starts_with("add "))
+            held.insert(line.substr(4));
+        else if (line.starts_with("remove "))
+            held.erase(line.substr(7));
+    return held;
+}
+} // namespace
+
+TEST_F(AuxPage, TheKeysAreAboutTheChosenBusAndTheListGoesOnShowingTheOthers)
+{
+    std::set<std::string> held = After({}, Open(AUX));
+    EXPECT_THAT(Press(KEY_LINK), testing::Contains("put " + BUS + "Aux 1@Key Link#true"));
+    held = After(held, Choose(2));
+    Pass(1000);
+    EXPECT_THAT(Press(KEY_LINK), testing::Contains("put " + BUS + "Aux 3@Key Link#true"));
+    EXPECT_STREQ(GL_NowTree[2], "Aux 3");
+    for (const char* bus : {"Aux 1", "Aux 3", "Aux 48"})
+        for (const char* what : {"@Source", "@Mix", "@Key Link"})
+            EXPECT_TRUE(held.contains(BUS + bus + what)) << bus << what;
+    EXPECT_FALSE(held.contains(BUS + "Aux 1@Aspect")) << "only the keys show it";
+    EXPECT_TRUE(held.contains(BUS + "Aux 3@Aspect"));
+
+    TellAll(BUS, {"Aux 1@Source#CG 1", "Aux 3@Mix#true", "Aux 48@Key Link#true", "Aux 49@Mix#true",
+                  "Aux 4x@Mix#true", "@Mix#true"});
+    EXPECT_STREQ(LS_GetData(1, 0, 1), "CG 1");
+    EXPECT_STREQ(LS_GetData(1, 2, 2), "O");
+    EXPECT_STREQ(LS_GetData(1, 47, 3), "O");
+    EXPECT_STREQ(LS_GetData(1, 3, 2), "");
+    EXPECT_EQ(BT_GetStatus(KEY_MIX), BT_ON);
+
+    EXPECT_EQ(After(held, Leave()), std::set<std::string>{"TopMenu"});
+    EXPECT_THAT(Open(AUX), testing::Contains("add " + BUS + "Aux 3@Aspect")) << "where it was left";
+    EXPECT_EQ(Choose(2).size() + Choose(48).size() + Choose(-1).size(), 0u);
+}
+
+TEST_F(AuxPage, ATouchPutsASignalOnTheChosenBus)
+{
+    (void)Open(MON);
+    (void)Choose(7);
+    EXPECT_THAT(Choose(1, 2), testing::ElementsAre("put Aux/Mon@Monitor@Mon 8@Source#CG 1"));
+    EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "only the answer changes what is shown";
+    (void)Tell("Aux/Mon@Monitor@Mon 8@Source#CG 1");
+    EXPECT_STREQ(LS_GetData(2, 1, 2), "O");
+    (void)Choose(0);
+    EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "nothing is known of the first one's";
+    EXPECT_EQ(Choose(9, 2).size(), 0u) << "no such signal";
+}
