@@ -11,9 +11,6 @@
 #include "setup_page.h"
 #include "tally_value.h"
 #include "text.h"
-#include "window.h"
-#include <algorithm>
-#include <cstring>
 #include <iterator>
 
 #include "safeguards.h"
@@ -22,7 +19,20 @@
 #define LOCAL_CONFIG "LOCAL@" CONFIG
 
 static constexpr int DEVICE_ROWS = 16;
-static constexpr SETUPWORD words_none[] = {{"0", "---"}, {}};
+static constexpr SETUPWORD words_swr[] = {{"0", "---"},  {"1", "SWR1"}, {"2", "SWR2"},
+                                          {"3", "SWR3"}, {"4", "SWR4"}, {}};
+static constexpr SETUPWORD words_dme[] = {
+    {"0", "---"},  {"1", "DME1"}, {"2", "DME2"}, {"3", "DME3"}, {"4", "DME4"},
+    {"5", "DME5"}, {"6", "DME6"}, {"7", "DME7"}, {"8", "DME8"}, {}};
+
+// What can be assigned, as texts.
+template <const SETUPWORD* words> static int offer_units(const char** texts, int max)
+{
+    int n = 0;
+    for (; n < max && words[n].wire; n++)
+        texts[n] = words[n].text;
+    return n;
+}
 
 // The numbers of the units of a class, as texts.
 static int unit_numbers(const char** keys, int max, const DEVICE* units, int count,
@@ -61,7 +71,7 @@ static SETUPSTATE sysconf_state;
 #define PANEL_SWITCHER(i, col)                                                                     \
     {                                                                                              \
         PLACE(sysconf, swr, i), .path = CONFIG "Panel Assign", .part = (i) + 1, .column = col,     \
-                                .ask = SETUP_READ, .words = words_none                             \
+                                .ask = SETUP_READ, .words = words_swr                              \
     }
 static constexpr SETUPWORD words_master[] = {{"true", "Master"}, {"false", ""}, {}};
 static constexpr SETUPFIELD sysconf_fields[] = {
@@ -77,7 +87,9 @@ static constexpr SETUPFIELD sysconf_fields[] = {
     {SETUP_CELL(sysconf, name), .column = 0},
 };
 static constexpr SETUPCHOICE sysconf_choices[] = {
-    {LOCAL_CONFIG "System Operation Mode", FLD_MODE},
+    {.cmd = LOCAL_CONFIG "System Operation Mode", .field = FLD_MODE},
+    {.cmd = LOCAL_CONFIG "Panel Assign@SWR1", .field = FLD_SWR1, .offer = offer_units<words_swr>},
+    {.cmd = LOCAL_CONFIG "Panel Assign@SWR2", .field = FLD_SWR2, .offer = offer_units<words_swr>},
 };
 
 static int sysconf_panels(const char** keys, int max)
@@ -113,70 +125,6 @@ static constexpr SETUPTABLE sysconf_page = {
     .changed = sysconf_changed,
 };
 
-// --- What is assigned: a choice of numbers for one place of the current row ---
-
-namespace
-{
-// Captions of the choice: nobody, then the units by their number.
-struct Assign {
-    const char* cmd = nullptr;
-    const SETUPTABLE* table = nullptr;
-    int field = 0;
-    const char* unit = ""; // class
-    int units = 0;
-};
-} // namespace
-
-static constexpr int ASSIGN_COLUMNS = 3;
-static_assert((DEVICE_MAX + 1) % ASSIGN_COLUMNS ==
-              0);                     // a last row that is not full has empty cells
-static const Assign* asked = nullptr; // whose choice is open
-static int assign_pane = 0;
-
-static void ask_assign(const Assign& a)
-{
-    static char captions[DEVICE_MAX + 1][8];
-    BTNSEL keys[DEVICE_MAX + 1];
-    for (int n = 0; n <= a.units; n++) {
-        if (n == 0)
-            CopyText(captions[n], words_none[0].text);
-        else
-            PrintText(captions[n], "%s%d", a.unit, n);
-        const char* now = SetupPage_Text(*a.table, a.table->state->cursor, a.field);
-        const char* text = n == 0 ? words_none[0].text : NumStr(n);
-        keys[n] = {n + 1, captions[n], Same(now, text)};
-    }
-    asked = &a;
-    assign_pane =
-        PanePopup_Create((a.units + ASSIGN_COLUMNS) / ASSIGN_COLUMNS, ASSIGN_COLUMNS, keys);
-}
-
-static int assign_closed(int pane, int result)
-{
-    if (pane == 0 || pane != assign_pane || !asked)
-        return 0;
-    assign_pane = 0;
-    if (result > 0)
-        SetupPage_Set(*asked->table, asked->table->state->cursor, asked->field,
-                      result == 1 ? words_none[0].text : NumStr(result - 1));
-    return 1;
-}
-
-template <size_t N> static int assign_pressed(const Assign (&assigns)[N], const char* cmd)
-{
-    for (const Assign& a : assigns)
-        if (Same(a.cmd, cmd)) {
-            ask_assign(a);
-            return 1;
-        }
-    return 0;
-}
-
-static constexpr Assign sysconf_assigns[] = {
-    {LOCAL_CONFIG "Panel Assign@SWR1", &sysconf_page, FLD_SWR1, "SWR", 4},
-    {LOCAL_CONFIG "Panel Assign@SWR2", &sysconf_page, FLD_SWR2, "SWR", 4},
-};
-
 // --- Which system the setup pages work on, and who has the tally ---
 
 static void show_setup_target()
@@ -207,15 +155,13 @@ static int sysconf_button(const char* cmd)
     else if (Same(cmd, LOCAL_CONFIG "Tally Master"))
         set_tally_master();
     else
-        return assign_pressed(sysconf_assigns, cmd);
+        return 0;
     return 1;
 }
 
 static int pc_engsetup_system_systemconfig_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg == LMSG_BTNSEL && sysconf_button(Text(ax)))
-        return 0;
-    if (msg == LMSG_PANEQUIT && assign_closed(int(ax), int(bx)))
         return 0;
     if (msg == MSG_TALLY && Same(Text(ax), CONFIG "Setup Target"))
         show_setup_target(); // the number has been taken before
@@ -225,7 +171,6 @@ static int pc_engsetup_system_systemconfig_proc(int msg, MsgArg ax, MsgArg bx, M
 
 static int pc_engsetup_system_systemconfig_create(int on, uint32_t)
 {
-    assign_pane = 0;
     (void)SetupPage_CreateOf<sysconf_page>(on, 0);
     if (on)
         show_setup_target();
@@ -255,7 +200,7 @@ static SETUPSTATE dme_state;
 #define SWITCHER_DME(i)                                                                            \
     {                                                                                              \
         PLACE(dmeassign, dme, i), .path = CONFIG "Switcher Assign", .part = (i) + 1,               \
-                                  .column = (i) + 1, .ask = SETUP_READ, .words = words_none        \
+                                  .column = (i) + 1, .ask = SETUP_READ, .words = words_dme         \
     }
 static constexpr SETUPFIELD dme_fields[] = {
     SWITCHER_DME(0),
@@ -263,6 +208,13 @@ static constexpr SETUPFIELD dme_fields[] = {
     SWITCHER_DME(2),
     SWITCHER_DME(3),
     {SETUP_CELL(dmeassign, name), .column = 0},
+};
+
+static constexpr SETUPCHOICE dme_choices[] = {
+    {.cmd = LOCAL_CONFIG "Switcher Assign@DME1", .field = 0, .offer = offer_units<words_dme>},
+    {.cmd = LOCAL_CONFIG "Switcher Assign@DME2", .field = 1, .offer = offer_units<words_dme>},
+    {.cmd = LOCAL_CONFIG "Switcher Assign@DME3", .field = 2, .offer = offer_units<words_dme>},
+    {.cmd = LOCAL_CONFIG "Switcher Assign@DME4", .field = 3, .offer = offer_units<words_dme>},
 };
 
 static int dme_switchers(const char** keys, int max)
@@ -293,35 +245,12 @@ static constexpr SETUPTABLE dme_page = {
     .clear = LOCAL_CONFIG "Switcher Assign@Clear",
     .execute = LOCAL_CONFIG "Switcher Assign@Execute",
     .question = setup_reboot_question,
+    .choices = dme_choices,
+    .choice_count = std::size(dme_choices),
     .changed = dme_changed,
 };
 
-static constexpr Assign dme_assigns[] = {
-    {LOCAL_CONFIG "Switcher Assign@DME1", &dme_page, 0, "DME", 8},
-    {LOCAL_CONFIG "Switcher Assign@DME2", &dme_page, 1, "DME", 8},
-    {LOCAL_CONFIG "Switcher Assign@DME3", &dme_page, 2, "DME", 8},
-    {LOCAL_CONFIG "Switcher Assign@DME4", &dme_page, 3, "DME", 8},
-};
-
-static int pc_engsetup_system_switcherassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
-{
-    if (msg == LMSG_BTNSEL && assign_pressed(dme_assigns, Text(ax)))
-        return 0;
-    if (msg == LMSG_PANEQUIT && assign_closed(int(ax), int(bx)))
-        return 0;
-    (void)SetupPage_Proc(dme_page, msg, ax, bx);
-    return 0;
-}
-
-static int pc_engsetup_system_switcherassign_create(int on, uint32_t)
-{
-    assign_pane = 0;
-    return SetupPage_CreateOf<dme_page>(on, 0);
-}
-
-const PC_TBL pc_engsetup_system_switcherassign = {
-    .proc_func = pc_engsetup_system_switcherassign_proc,
-    .create_func = pc_engsetup_system_switcherassign_create};
+const PC_TBL pc_engsetup_system_switcherassign = SetupPage_Code<dme_page>;
 
 // --- Start Up ---
 
@@ -484,6 +413,5 @@ void EngSetupConfig_Reset()
 {
     for (const SETUPTABLE* t : {&sysconf_page, &dme_page, &startup_page, &initialize_page})
         SetupPage_Forget(*t);
-    assign_pane = initialize_pane = 0;
-    asked = nullptr;
+    initialize_pane = 0;
 }

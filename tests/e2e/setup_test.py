@@ -11,9 +11,10 @@ from deskcase import DeskCase
 
 FORMAT = "Engineering Setup@System@Format@"
 YES, OK = (200 + 97 + 20, 140 + 247 + 15), (200 + 153 + 20, 140 + 247 + 15)
-ENTRY = (52, 160, 748, 196)  # of the keyboard
+ENTRY, WELL = (52, 160, 744, 196), b"\x00\x32\x41"  # of the keyboard, and its ground
 PANE, ALERT = (215, 300), (232, 162)  # its ground, the middle of its icon
 GROUND, AMBER, TABLE = b"\xe6\xe6\xe6", b"\xe4\x8b\x1b", b"\x00\x5a\x6e"
+LOAD, EFFECT = (405, 475), (510, 210, 560, 240)  # of the page of all categories
 CHANGED = b"\xff\xff\x00"
 CHANGED_SELECTED = b"\xa0\xe6\x32"
 LETTERS = {c: (row, first + i) for row, (first, keys) in
@@ -45,18 +46,18 @@ class Setup(DeskCase):
 
     def type(self, text):
         """Letters, then Enter. A machine under load may lose a touch: each letter is seen before the next."""
-        def key(row, column):
-            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, 0.15)
+        def key(row, column, settle=0.15):
+            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, settle)
+        self.until(lambda: self.desk.part(*ENTRY)[18][-3:] == WELL)
         for c in text:
             before = self.desk.part(*ENTRY)
             if c.isupper():
                 self.desk.touch(100, 391, settle=0.15)  # shift, for one letter
-            for _ in range(2):
+            for _ in range(3):
                 key(*LETTERS[c.lower()])
                 if self.desk.part(*ENTRY) != before:
                     break
-        key(2, 11.5)
-        time.sleep(0.5)
+        key(2, 11.5, settle=0.6)
 
     def pixel(self, x, y):
         return self.desk.part(x, y, x, y)[0]
@@ -185,10 +186,10 @@ class Setup(DeskCase):
                 self.desk.wait_wire(f"put {network}{path}#true")
                 time.sleep(0.3)
                 self.assertEqual((self.calls(), self.pixel(*PANE)), ([], GROUND), "not that of the time before")
-                self.until(lambda: self.pixel(*PANE) == (GROUND if outcome == "NG" else TABLE) and
-                           self.desk.value(network + path) == outcome)
+                # The failure is told.
+                self.until(lambda: self.pixel(*PANE) == TABLE if outcome == "OK" else self.pixel(*ALERT) == AMBER)
+                self.assertEqual(self.desk.value(network + path), outcome)
                 self.wait_calls(*restart if outcome == "OK" else ())
-                self.assertEqual(self.pixel(*ALERT) == AMBER, outcome == "NG", "the failure is told")
                 time.sleep(0.3)  # until the key looks released
             self.desk.touch(*OK)
         self.assertIsNone(self.desk.app_status())
@@ -265,6 +266,24 @@ class Setup(DeskCase):
         self.wait_calls("umount [/var/nfs]")
         self.until(lambda: self.desk.part(*status) == before)
         self.assertIsNone(self.desk.app_status())
+
+    def test_9_a_locked_category_is_not_loaded(self):
+        self.open("7317.2")
+        self.row(3)  # Effect
+        self.push(33)
+        self.push(54)
+        try:
+            self.type(self.lock_file()[0])
+        except FileNotFoundError:
+            self.type("")
+        self.desk.wait_wire("put Info@System Setup Data@File Load Lock#08000000")
+        self.open_page("7111", "add Info@Operation Setup Data@Clear Before Load")
+        effect = self.desk.part(*EFFECT)
+        self.desk.touch(*LOAD)
+        self.assertFalse([line for line in self.desk.wire() if "File@Access@Find" in line])
+        self.desk.touch(*OK)
+        self.assertNotEqual(self.desk.part(*EFFECT), effect, "it is no longer selected")
+        self.desk.console("put Info@System Setup Data@File Load Lock#00000000")
 
 
 if __name__ == "__main__":

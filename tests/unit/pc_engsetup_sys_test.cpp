@@ -428,11 +428,11 @@ TEST_F(SystemPage, APanelsSwitchersGoAsOneLine)
     (void)Open(0x73120000);
     (void)Tell(CONFIG + "Panel Assign#1,1,2,0,5,0");
     (void)Tell(CONFIG + "System Operation Mode@PNL1#Single Proc");
-    EXPECT_EQ(Row(0, 5), "PNL1|Single Proc|1|2|");
+    EXPECT_EQ(Row(0, 5), "PNL1|Single Proc|SWR1|SWR2|");
     (void)Push(34);
     (void)Push(36);
     (void)Answer(1); // nobody
-    EXPECT_EQ(Row(0, 5), "PNL1|Dual Simul*|1|---*|");
+    EXPECT_EQ(Row(0, 5), "PNL1|Dual Simul*|SWR1|---*|");
     (void)Push(BTN_SETUP_EXECUTE);
     EXPECT_THAT(Answer(YES), ElementsAre("put " + CONFIG + "System Operation Mode@PNL1#Dual Simul",
                                          "put " + CONFIG + "Panel Assign#1,1,0,0,5,0"));
