@@ -142,7 +142,8 @@ static int pc_engsetup_switcher_fadercurve_proc(int msg, MsgArg ax, MsgArg bx, M
         return preset_pressed(Text(bx));
     if (msg == LMSG_KNOBVAR && ax >= 1 && ax <= POINTS)
         bx = between_neighbours(int(ax) - 1, int(bx));
-    (void)SetupPage_Proc(curve_page, msg, ax, bx);
+    if (!SetupPage_Proc(curve_page, msg, ax, bx) && msg == LMSG_BTNSEL)
+        SetupPage_Show(curve_page); // the key that brings the boxes
     return 0;
 }
 

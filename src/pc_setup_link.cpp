@@ -281,8 +281,8 @@ static int pc_engsetup_switcher_tablesel_proc(int msg, MsgArg ax, MsgArg bx, Msg
         return 0;
     if (msg == LMSG_KNOBVAR)
         SetupPage_Set(table_page, table_rows.state.cursor, current_table(), NumStr(int(bx)));
-    else
-        (void)SetupPage_Proc(table_page, msg, ax, bx);
+    else if (!SetupPage_Proc(table_page, msg, ax, bx) && msg == LMSG_BTNSEL)
+        table_changed(); // the key that brings the box
     return 0;
 }
 

@@ -264,9 +264,9 @@ constexpr SheetKeyRows MakeSheetKeys(const SETUPSHEET& s, const SheetTexts& text
 
 constexpr SheetBoxRows MakeSheetBoxes(const SETUPSHEET& s)
 {
-    constexpr const char* local[SHEET_BOXES] = {
-        "LOCAL@Panel@Common@Knob0", "LOCAL@Panel@Common@Knob1", "LOCAL@Panel@Common@Knob2",
-        "LOCAL@Panel@Common@Knob3", "LOCAL@Panel@Common@Knob4"};
+    constexpr const char* local[SHEET_BOXES] = {"Panel@Common@Knob0", "Panel@Common@Knob1",
+                                                "Panel@Common@Knob2", "Panel@Common@Knob3",
+                                                "Panel@Common@Knob4"};
     SheetBoxRows rows;
     int n = 0;
     for (int i = 0; i < s.column_count; i++) {

@@ -238,7 +238,7 @@ inline constexpr BT_TBL transitioncurve_more[] = {to_transition[0], Jump({.id = 
 BANK_SHEET(transition_transitioncurve, 100, transitioncurve_columns, MORE(transitioncurve_more));
 
 // What the transition shows at a place of the fader, both in per cent.
-#define CURVE_POINT(n, at, knob) {.id = n, .caption = at, .type = NB_INT, .min = 0, .max = 100, .cmd = "LOCAL@Panel@Common@Knob" knob, .scale = 4}
+#define CURVE_POINT(n, at, knob) {.id = n, .caption = at, .type = NB_INT, .min = 0, .max = 100, .cmd = "Panel@Common@Knob" knob, .scale = 4}
 inline constexpr NB_TBL nb_engsetup_switcher_fadercurve[] = {
     CURVE_POINT(1, "At 10%", "0"), CURVE_POINT(2, "At 25%", "1"), CURVE_POINT(3, "At 50%", "2"), CURVE_POINT(4, "At 75%", "3"), CURVE_POINT(5, "At 90%", "4"),
     NB_END,
@@ -369,7 +369,7 @@ inline constexpr LS_TBL ls_engsetup_switcher_link_ibuslink_bussel[] = {
 static_assert(ListsAreSound(ls_engsetup_switcher_link_ibuslink_bussel));
 
 inline constexpr NB_TBL nb_engsetup_switcher_tablesel[] = {
-    {.id = 1, .caption = "Source", .type = NB_INT, .min = 1, .max = LINK_SOURCES, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
+    {.id = 1, .caption = "Source", .type = NB_INT, .min = 1, .max = LINK_SOURCES, .cmd = "Panel@Common@Knob0", .scale = 4},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_engsetup_switcher_tablesel));

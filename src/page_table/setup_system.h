@@ -164,11 +164,11 @@ static_assert(ListsAreSound(ls_engsetup_system_initialize));
 // --- Maintenance ---
 
 inline constexpr NB_TBL nb_engsetup_system_maintenance[] = {
-    {.id = 1, .caption = "Year",   .type = NB_INT, .min = 2000, .max = 2037, .cmd = "LOCAL@Panel@Common@Knob0", .scale = 4},
-    {.id = 2, .caption = "Month",  .type = NB_INT, .min = 1,    .max = 12,   .cmd = "LOCAL@Panel@Common@Knob1", .scale = 4},
-    {.id = 3, .caption = "Day",    .type = NB_INT, .min = 1,    .max = 31,   .cmd = "LOCAL@Panel@Common@Knob2", .scale = 4},
-    {.id = 4, .caption = "Hour",   .type = NB_INT, .min = 0,    .max = 23,   .cmd = "LOCAL@Panel@Common@Knob3", .scale = 4},
-    {.id = 5, .caption = "Minute", .type = NB_INT, .min = 0,    .max = 59,   .cmd = "LOCAL@Panel@Common@Knob4", .scale = 4},
+    {.id = 1, .caption = "Year",   .type = NB_INT, .min = 2000, .max = 2037, .cmd = "Panel@Common@Knob0", .scale = 4},
+    {.id = 2, .caption = "Month",  .type = NB_INT, .min = 1,    .max = 12,   .cmd = "Panel@Common@Knob1", .scale = 4},
+    {.id = 3, .caption = "Day",    .type = NB_INT, .min = 1,    .max = 31,   .cmd = "Panel@Common@Knob2", .scale = 4},
+    {.id = 4, .caption = "Hour",   .type = NB_INT, .min = 0,    .max = 23,   .cmd = "Panel@Common@Knob3", .scale = 4},
+    {.id = 5, .caption = "Minute", .type = NB_INT, .min = 0,    .max = 59,   .cmd = "Panel@Common@Knob4", .scale = 4},
     NB_END,
 };
 static_assert(BoxesAreSound(nb_engsetup_system_maintenance));

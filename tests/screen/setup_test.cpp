@@ -1,5 +1,7 @@
 // The pages of engineering setup, told by a server and with edits in hand.
+#include "pc_engsetup_swr.h"
 #include "pc_engsetup_sys.h"
+#include "pc_setup_curve.h"
 #include "setup_desk.h"
 
 namespace
@@ -11,6 +13,8 @@ struct SetupPictures : SetupTest {
         EngSetupFormat_Reset();
         EngSetupNetwork_Reset();
         EngSetupLock_Reset();
+        EngSetupSwitcher_Reset();
+        SetupCurve_Reset();
         SetupIndex_Build();
     }
     void TearDown() override
@@ -79,4 +83,42 @@ TEST_F(SetupPictures, Maintenance)
     (void)Push(33);
     Paint();
     EXPECT_TRUE(MatchesGolden("setup_maintenance"));
+}
+
+TEST_F(SetupPictures, SwitcherBanksAndTheKeysInTheirOutputs)
+{
+    const std::string config = "Engineering Setup@Switcher@Config@";
+    (void)Open(0x73310002);
+    TellAll(config, {"M/E Output Assign@List#KILL", "M/E Output Assign@List#M/E-1,1,Main",
+                     "M/E Output Assign@List#M/E-1,2,Sub", "PGM Config@List#M/E-1,1,0F",
+                     "PGM Config@List#M/E-1,2,F0", "MP2 Re-Entry#true"});
+    SelectRow(1);
+    (void)Push(17);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("setup_switcher_pgm"));
+}
+
+TEST_F(SetupPictures, SwitcherCurve)
+{
+    const std::string curve = "Engineering Setup@Switcher@Transition@Transition Curve@Fader Curve#";
+    (void)Open(0x73340003);
+    TellAll(curve, {"Curve1,10,25,50,75,90", "Curve2,3,16,50,84,97", "Curve3,1,6,25,56,81",
+                    "Curve4,19,44,75,94,99"});
+    SelectRow(0);
+    (void)Push(33);
+    (void)Push(36); // Slow Start
+    Paint();
+    EXPECT_TRUE(MatchesGolden("setup_switcher_curve"));
+}
+
+TEST_F(SetupPictures, SwitcherLinksWithTheChoiceOfAKey)
+{
+    (void)Open(0x73360001);
+    TellAll("Engineering Setup@Switcher@Link@Key Link#",
+            {"1,M/E-1 Key1,M/E-2 Key3,true", "2,P/P Key8,M/E-1 Key8,false", "3,None,None,false"});
+    SelectRow(0);
+    (void)Push(34);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("setup_switcher_link"));
+    (void)Answer(3);
 }

@@ -1,0 +1,216 @@
+// The Switcher pages of engineering setup: what they ask for, how rows depend on one another, what
+// Execute sends.
+#include "page_table/setup_switcher.h"
+#include "pc_engsetup_swr.h"
+#include "pc_setup_curve.h"
+#include "pc_setup_link.h"
+#include "setup_desk.h"
+
+namespace
+{
+constexpr int YES = 1, CLEAR = 53, EXECUTE = 54;
+const std::string SWITCHER = "Engineering Setup@Switcher@";
+
+struct SwitcherSetup : SetupTest {
+    void SetUp() override
+    {
+        SetupTest::SetUp();
+        Forget();
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        Forget();
+        SetupTest::TearDown();
+    }
+    static void Forget()
+    {
+        EngSetupSwitcher_Reset();
+        SetupCurve_Reset();
+        SetupLink_Reset();
+    }
+    // Open a page and tell it lines below one path.
+    static void Start(uint32_t page, const std::string& path, const Lines& lines)
+    {
+        (void)Open(page);
+        TellAll(SWITCHER + path, lines);
+        SelectRow(0);
+    }
+    static Lines Execute()
+    {
+        Lines sent = Push(EXECUTE);
+        return Pane_GetActiveID() ? Puts(Answer(YES)) : Puts(sent);
+    }
+    static void Turn(int knob, int counts)
+    {
+        (void)Tell("Panel@Common@Knob" + std::to_string(knob) + "#" + std::to_string(counts));
+    }
+};
+} // namespace
+
+TEST_F(SwitcherSetup, EachPageAsksForWhatItSets)
+{
+    struct {
+        uint32_t page;
+        const char* path; // behind "Engineering Setup@Switcher@"
+    } const pages[] = {
+        {0x73310000, "Config@M/E Config@P/P"},
+        {0x73310001, "Config@User1-8 Config@User"},
+        {0x73310002, "Config@PGM Config@List"},
+        {0x73310002, "Config@M/E Output Assign@List"},
+        {0x73310003, "Config@Logical M/E"},
+        {0x73310004, "Config@Side Flags@Side Flags@M/E-5"},
+        {0x73310005, "Config@Key Config"},
+        {0x73310006, "Config@Out Config@P/P Out4"},
+        {0x73310007, "Config@Switcher Timing@H Phase@SWR1"},
+        {0x73310008, "Config@CG Border@CG Border@M/E-1"},
+        {0x73310009, "Config@Key PVW@Mode@M/E-1"},
+        {0x73310010, "Config@3D Config@Mode@M/E-1"},
+        {0x73310011, "Config@Key Config@Sub Key Mode@M/E-1"},
+        {0x73310012, "Config@3D Config@Input Link"},
+        {0x73310013, "Config@3D Config@FM Output Link"},
+        {0x73340000, "Transition@Key Transition@P/P"},
+        {0x73340001, "Transition@Preset Color Mix@Stroke@M/E-1"},
+        {0x73340002, "Transition@Transition Curve@Mix@M/E-1"},
+        {0x73340003, "Transition@Transition Curve@Fader Curve"},
+        {0x73350000, "Key/Wipe@FM Auto Store"},
+        {0x73350000, "Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl"},
+        {0x73350001, "Key/Wipe/FM/CCR@CCR V Proc@Hue@CCR4"},
+        {0x73350002, "Key/Wipe/FM/CCR@DSK Auto Drop@Mode@DSK8"},
+        {0x73350003, "Key/Wipe/FM/CCR@Show Key@Output@M/E-1"},
+        {0x73360000, "Link@Enable@GPI Link"},
+        {0x73360001, "Link@Key Link"},
+        {0x73360002, "Link@M/E Link"},
+        {0x73360003, "Link@Internal Bus Link@Link"},
+        {0x73360004, "Link@Internal Bus Link@Table"},
+        {0x73360005, "Link@Internal Bus Link@Master Bus List"},
+        {0x73360006, "Link@GPI Link"},
+        {0x73360007, "Link@GPI Link"},
+    };
+    for (const auto& [page, path] : pages) {
+        const Lines sent = Open(page);
+        const auto asks = [&](const char* verb) {
+            return std::ranges::count(sent, verb + SWITCHER + path);
+        };
+        EXPECT_EQ(asks("add ") + asks("read "), 1) << std::hex << page << " " << path;
+        // What the whole application follows must outlive the page.
+        for (const std::string& line : Leave()) {
+            EXPECT_FALSE(asks("read ") && line == "remove " + SWITCHER + path) << line;
+        }
+    }
+}
+
+TEST_F(SwitcherSetup, TheKeysOfAnOutputGoAsAMaskBesideItsSide)
+{
+    Start(0x73310002, "Config@M/E Output Assign@List#", {"KILL", "M/E-1,1,Main", "M/E-1,2,None"});
+    TellAll(SWITCHER + "Config@PGM Config@List#", {"KILL", "M/E-1,1,0F", "M/E-1,2,00"});
+    EXPECT_EQ(Row(0, 10), "M/E-1,1|Main|ON|ON|ON|ON||||");
+    SelectRow(1);
+    EXPECT_EQ(BT_GetStatus(17), BT_OFF);
+    (void)Push(17); // Key1
+    (void)Push(34); // Key8
+    (void)Push(37); // Sub
+    EXPECT_EQ(Row(1, 10), "M/E-1,2|Sub*|ON*|||||||ON*");
+    EXPECT_EQ(BT_GetStatus(34), BT_ON);
+    EXPECT_THAT(Execute(),
+                ElementsAre("put " + SWITCHER + "Config@M/E Output Assign@List#M/E-1,2,Sub",
+                            "put " + SWITCHER + "Config@PGM Config@List#M/E-1,2,81"));
+    (void)Push(CLEAR);
+    EXPECT_EQ(Row(1, 10), "M/E-1,2|None||||||||");
+}
+
+TEST_F(SwitcherSetup, ALogicalBankIsSwappedWithTheOneThatHadIt)
+{
+    Start(0x73310003, "Config@Logical M/E#", {"M/E-1,M/E-2,M/E-3,M/E-4,M/E-5,P/P,"});
+    SelectRow(1);
+    (void)Push(33);
+    (void)Answer(6); // P/P
+    EXPECT_EQ(Row(1, 2), "M/E-2|P/P*");
+    EXPECT_EQ(Row(5, 2), "P/P|M/E-2*");
+    EXPECT_THAT(Execute(), ElementsAre("put " + SWITCHER +
+                                       "Config@Logical M/E#M/E-1,P/P,M/E-3,M/E-4,M/E-5,M/E-2,"));
+}
+
+TEST_F(SwitcherSetup, APointOfACurveStaysBetweenItsNeighbours)
+{
+    Start(0x73340003, "Transition@Transition Curve@Fader Curve#", {"Curve1,10,25,50,75,90"});
+    Pass(10);
+    const auto straight = PixelsIn({440, 84, 690, 334});
+    (void)Push(BTN_CURVE_POINTS);
+    Turn(2, 400); // far beyond the next
+    EXPECT_EQ(Row(0, 6), "Curve1|10|25|75*|75|90");
+    EXPECT_EQ(Shown("At 50%"), "75");
+    Turn(0, -400);
+    Pass(10);
+    EXPECT_NE(PixelsIn({440, 84, 690, 334}), straight) << "the plot follows";
+    EXPECT_THAT(Execute(),
+                ElementsAre("put " + SWITCHER +
+                            "Transition@Transition Curve@Fader Curve#Curve1,0,25,75,75,90"));
+    (void)Push(35); // S Curve
+    EXPECT_EQ(Row(0, 6), "Curve1|3*|16*|50|84*|97*");
+    (void)Push(CLEAR);
+    Pass(10);
+    EXPECT_EQ(PixelsIn({440, 84, 690, 334}), straight);
+}
+
+TEST_F(SwitcherSetup, OnlyLinksThatMakeSenseAreApplied)
+{
+    struct {
+        const char* links[2]; // what is told
+        int master, linked;   // of the popup of the banks, for row 2; 0 leaves it
+        bool is_sent;
+    } const cases[] = {
+        {{"1,None,None,Off", "2,None,None,Off"}, 1, 0, false},    // half
+        {{"1,None,None,Off", "2,None,None,Off"}, 3, 3, false},    // itself
+        {{"1,M/E-1,M/E-2,All", "2,None,None,Off"}, 3, 2, false},  // two masters
+        {{"1,M/E-1,M/E-2,All", "2,None,None,Off"}, 1, 3, true},   // one master of two
+        {{"1,M/E-1,M/E-2,All", "2,M/E-3,M/E-4,Off"}, 7, 7, true}, // deleted
+    };
+    for (const auto& c : cases) {
+        SetupPage_Forget(SetupSheet_Table<engsetup_switcher_link_melink>);
+        Start(0x73360002, "Link@M/E Link#", {c.links[0], c.links[1]});
+        SelectRow(1);
+        for (const auto& [key, choice] : {std::pair{33, c.master}, std::pair{34, c.linked}})
+            if (choice) {
+                (void)Push(key);
+                (void)Answer(choice);
+            }
+        (void)Push(EXECUTE);
+        const Lines sent = Puts(Answer(YES)); // or the message that says why not
+        EXPECT_EQ(sent.size(), c.is_sent ? 1u : 0u) << c.links[0] << " " << c.master << c.linked;
+        if (!c.is_sent) {
+            EXPECT_NE(BT_GetVisible(EXECUTE), BT_DISABLED) << "it is still in hand";
+        }
+    }
+}
+
+TEST_F(SwitcherSetup, ABusAndATableAreChosenOnTheirPagesForTheLinkInHand)
+{
+    SetupPage_Forget(SetupSheet_Table<engsetup_switcher_link_ibuslink>);
+    Start(0x73360003, "Link@Internal Bus Link@Link#",
+          {"1,None,None,1,false", "2,None,None,1,false"});
+    SelectRow(1);
+    (void)Push(36); // Linked
+    EXPECT_EQ(GL_CreatePage, 0x73360005u);
+    Start(GL_CreatePage, "Link@Internal Bus Link@Master Bus List#", {"1,M/E-1 A", "2,M/E-1 B"});
+    SelectRow(1);
+    (void)Push(33);
+    EXPECT_EQ(GL_CreatePage, 0x73360003u);
+    (void)Open(GL_CreatePage);
+    EXPECT_EQ(Row(1, 5), "2|None|M/E-1 B*|1|Off");
+    (void)Push(37); // Table
+    Start(GL_CreatePage, "Link@Internal Bus Link@Table#",
+          {"1,1,1,1,1,1,1,1,1", "2,2,2,2,2,2,2,2,2"});
+    (void)LS_SetSplitSel(1, 3);
+    SelectRow(1);
+    (void)Push(33);
+    Turn(0, 4 * 9);
+    EXPECT_EQ(Row(1, 9), "2|2|2|11*|2|2|2|2|2");
+    EXPECT_THAT(Execute(),
+                ElementsAre("put " + SWITCHER + "Link@Internal Bus Link@Table#2,2,2,11,2,2,2,2,2"));
+    (void)Push(34); // Straight
+    EXPECT_EQ(Row(1, 9), "2|2|2|2|2|2|2|2|2");
+    (void)Push(35);
+    (void)Open(GL_CreatePage);
+    EXPECT_EQ(Row(1, 5), "2|None|M/E-1 B*|3*|Off");
+}
