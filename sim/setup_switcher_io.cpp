@@ -340,6 +340,22 @@ static bool put_inhibit(const std::string& path, const std::string& value)
     return true;
 }
 
+// A converter feeds one output at most, and the assignment says so.
+static void show_converter(const std::string& path, const std::string& value)
+{
+    const std::string fc = path.substr(path.rfind('@') + 1);
+    const std::string list = OUTPUT + "Assign";
+    for (const std::string& before : std::vector<std::string>(Tree_Get(list)->rows)) {
+        const auto part = Text_Split(before, ',');
+        if (part.size() != 3)
+            continue;
+        if (part[0] == value)
+            Tree_ShowRow(list, part[0] + "," + part[1] + "," + fc);
+        else if (part[2] == fc)
+            Tree_ShowRow(list, part[0] + "," + part[1] + ",0");
+    }
+}
+
 // A pulse on the port, as the action would make it.
 static bool fire(const std::string& path)
 {
@@ -374,6 +390,8 @@ bool SetupSwitcherIo_Put(const std::string& path, const std::string& value)
         return fire(path);
     if (reset_input(path, value))
         return true;
+    if (Text_MatchesPath(path, OUTPUT + "FC Output Assign@?"))
+        show_converter(path, value);
     if (path == OUTPUT + "Assign")
         return put_assign(path, value);
     if (path == OUTPUT + "Inhibit")

@@ -3,6 +3,7 @@
 #pragma once
 #include "pc_setup_fcadjust.h"
 #include "pc_setup_gpi.h"
+#include "pc_setup_output.h"
 #include "rows.h"
 #include "setup_tabs.h"
 
@@ -141,12 +142,30 @@ inline constexpr SETUPCOLUMN output_columns[] = {
     {.head = "Inhibit", .width = 160, .path = OUTPUT "Inhibit", .part = 1, .words = words_inhibit, .is_fixed = 1},
 };
 inline constexpr BT_TBL output_more[] = {
+    SheetJump(33, "Output\nAssign", "#73330001"),
     SheetJump(34, "Crop", "#73330002"), SheetJump(35, "V Blank", "#73330003"),
     SheetJump(36, "Video\nClip", "#73330004"), SheetJump(37, "Safe\nTitle", "#73330005"), SheetJump(38, "Re-Entry\nAssign", "#73330006"),
     SheetJump(49, "FC\nAdjust", "#73330007"), SheetJump(50, "4K Active\nSize", "#73330008"), SheetJump(51, "FC Output\nAssign", "#73330009"),
     SheetJump(52, "Internal\nFC", "#73330011"), SheetJump(53, "Multi\nViewer", "#73330014"),
 };
 inline constexpr SETUPSHEET engsetup_switcher_output = SheetMore(SheetOf(output_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1}), output_more);
+
+inline constexpr BT_TBL bt_engsetup_switcher_output_assign[] = {
+    JumpPopUp({.id = BTN_OUTPUT_BUS, .caption = "Output\nAssign", .group = "Output Assign", .cmd = {OUTPUT_LOCAL("Output Assign")}}),
+    Action({.id = BTN_OUTPUT_SET, .caption = "Set", .group = "Output Assign", .cmd = {OUTPUT_LOCAL("Set")}}),
+    Toggle({.id = BTN_OUTPUT_INHIBIT, .caption = "Inhibit", .group = "Output", .cmd = {OUTPUT_LOCAL("Inhibit#true")}}),
+    SheetJump(52, "Output", "#73330000"),
+    Action({.id = BTN_SHEET_CLEAR, .caption = "Clear", .cmd = {OUTPUT_LOCAL("Clear")}}),
+    Action({.id = BTN_SHEET_EXECUTE, .caption = "Execute", .cmd = {OUTPUT_LOCAL("Execute")}}),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_switcher_output_assign));
+inline constexpr LS_TBL ls_engsetup_switcher_output_assign[] = {
+    {.id = 1, .hn = 5, .vn = 9, .x = 100, .y = SHEET_LIST_Y, .head = {"Output", "Assign", "Source", "Inhibit", "GPI In"}, .width = {70, 150, 150, 100, 80},
+     .group = {1, 999}, .sb_top = SHEET_LIST_Y, .sb_bottom = SHEET_LIST_Y + 10 * LS_ROW_PX},
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_output_assign));
 
 inline constexpr SETUPCOLUMN output_crop_columns[] = {
     SheetWord("Crop", 90, "~@Crop@$", words_on_off),
@@ -341,6 +360,8 @@ inline constexpr PAGE setup_switcher_io_pages[] = {
     {.id = 0x73320006, .tree = TREE("Input", "CCR"), .obj = SHEET(2, input_ccr)},
 
     {.id = 0x73330200, .tree = TREE("Output"), .obj = SHEET(3, output)},
+    {.id = 0x73330201, .tree = TREE("Output", "Output Assign"),
+     .obj = {TABS(3), Buttons(bt_engsetup_switcher_output_assign), Lists(ls_engsetup_switcher_output_assign), Code(pc_engsetup_switcher_output_assign)}},
     {.id = 0x73330002, .tree = TREE("Output", "Crop"), .obj = SHEET(3, output_crop)},
     {.id = 0x73330003, .tree = TREE("Output", "V Blank"), .obj = SHEET(3, output_vblank)},
     {.id = 0x73330004, .tree = TREE("Output", "Video Clip"), .obj = SHEET(3, output_videoclip)},

@@ -1,0 +1,68 @@
+// The buses of the outputs: set, executed, refused while inhibited.
+#include "pc_engsetup_sys.h"
+#include "pc_setup_output.h"
+#include "setup_desk.h"
+
+namespace
+{
+using testing::ElementsAre;
+const std::string OUTPUT = "Engineering Setup@Switcher@Output@";
+
+struct OutputAssign : SetupTest {
+    void SetUp() override
+    {
+        SetupTest::SetUp();
+        SetupOutput_Reset();
+        (void)Open(0x73330001);
+        TellAll(OUTPUT, {"Assign#1,AUX1,0", "Assign#2,AUX2,3", "Assign#3,AUX3,0", "Source#2,CAM7",
+                         "Inhibit#1,false", "Inhibit#2,false", "Inhibit#3,true"});
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        SetupOutput_Reset();
+        SetupTest::TearDown();
+    }
+    static void Set(int row, int bus)
+    {
+        SelectRow(row);
+        (void)Push(BTN_OUTPUT_BUS);
+        (void)Answer(bus);
+        (void)Push(BTN_OUTPUT_SET);
+    }
+};
+} // namespace
+
+TEST_F(OutputAssign, ABusIsSetThenExecutedWithTheConverterItHas)
+{
+    EXPECT_EQ(Usable({BTN_OUTPUT_SET}), std::vector<int>{}) << "no bus in hand";
+    Set(1, 49 + 5);
+    EXPECT_EQ(Row(1, 4), "2|M/E-2 PVW*|CAM7|---");
+    EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + OUTPUT + "Assign#2,M/E-2 PVW,3"));
+}
+
+TEST_F(OutputAssign, AnInhibitedOutputRefusesUntilItIsFreed)
+{
+    Set(2, 9);
+    EXPECT_EQ(Row(2, 4), "3|AUX3||Inhibit");
+    Dismiss();
+    (void)Push(BTN_OUTPUT_INHIBIT);
+    Set(2, 9);
+    SelectRow(0);
+    (void)Push(BTN_OUTPUT_SET);
+    (void)Push(BTN_OUTPUT_INHIBIT);
+    EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + OUTPUT + "Inhibit#3,false",
+                                                     "put " + OUTPUT + "Assign#1,AUX9,0",
+                                                     "put " + OUTPUT + "Assign#3,AUX9,0",
+                                                     "put " + OUTPUT + "Inhibit#1,true"));
+}
+
+TEST_F(OutputAssign, AConverterThatAGpiInputWorksIsSeen)
+{
+    const std::string level =
+        "Engineering Setup@Switcher@Device Interface@GPI Input@H/L Set@FC Input/Output@";
+    (void)Tell(level + "6#FC3,Input,Output");
+    EXPECT_EQ(Row(1, 5), "2|AUX2|CAM7|---|6");
+    TellAll(level, {"9#FC3,Input,Output", "6#None,Input,Output"});
+    EXPECT_EQ(Row(1, 5), "2|AUX2|CAM7|---|");
+}
