@@ -17,6 +17,24 @@ GROUPS = [grid(n) for n in (49, 50, 19, 20, 21, 22, 35, 36, 37, 38)]
 BEFORE, AFTER, DELETE, STORE = (grid(n) for n in (51, 52, 53, 54))
 DISCARD = (432, 275)
 YES = (341, 414)
+DEVICE, REGION, TAPE = "Device,Dev1", "Region,M/E-1", "Device,Dev2"
+EVERY_EVENT = (  # in the order in which the editor offers them
+    "MEXpt,ME,M/E-1,MEBus,BkgdA,Xpt,5,VideoKey,Video,Attribute,Normal", "AuxXpt,AuxBus,Aux3,Xpt,7,VideoKey,Key",
+    "MEAutoTransition,ME,P/P,Time,1,Direction,Normal", "MECut,ME,M/E-2",
+    "KeyAutoTransition,ME,M/E-1,Key,Key2,Time,1,Direction,Reverse", "KeyCut,ME,M/E-1,Key,Key1,Status,ToOn",
+    "Play,Device,Dev1,Mode,Variable,Speed,-50", "Cue,Device,Dev1,Timecode,01:00:00:00,Preroll,25", "Stop," + TAPE,
+    "DiskFileLoad,Device,Dev1,FileName,NEWS,Timecode,00:00:10:00", "Snapshot," + REGION + ",Register,1",
+    "KeySnapshot,ME,M/E-1,Key,Key1,Register,1", "WipeSnapshot,ME,M/E-1,Register,1", "DMEWipeSnapshot,ME,M/E-1,Register,1",
+    "TimelineRecall," + REGION + ",Register,1", "TimelineRun," + REGION, "TimelineRewind," + REGION, "TimelineFF," + REGION,
+    "ShotBox,Register,1", "Pause,Time,2", "StartTc," + DEVICE, "MasterSnapshot,Register,1", "MasterTimelineRecall,Register,1",
+    "RouterXpt,DestinationButton,3,Source,9,Level,All", "PatternLimit,ME,M/E-1,Status,On,Limit,40",
+    "TransitionType,ME,M/E-1,TransitionType,Wipe,Time,20",
+    "KeyTransitionType,ME,M/E-1,Key,Key1,KeyTransitionType,Wipe", "NextTransition,ME,M/E-1,BKGD,On,Key8,Off", "FadeToBlack,Time,1",
+    "TimelineDirectionNormal," + REGION, "TimelineDirectionReverse," + REGION, "TimelineNormalReverseOn," + REGION,
+    "TimelineNormalReverseOff," + REGION, "UtilityButton,UtilityModule,Module1,Button,4", "Rewind," + DEVICE, "FF," + DEVICE,
+    "FMLoop,Device,FM1,FMLoopMode,On", "MenuMacroRun,Register,98",
+    "KeyBusUtilityButton,ME,M/E-1,Bank,Bank2,Button,6,UtilityStatus,On", "ClipRecall,Device,FM1,ClipType,Still,FileName,LOGO",
+    "DeviceRecord," + DEVICE, "AuxMix,AuxMixBus,AuxMix1,AuxMixStatus,On", "XptPadPage,MEAuxBank,Aux,Page,Page2")
 
 
 class Macros(DeskCase):
@@ -33,6 +51,10 @@ class Macros(DeskCase):
                 return file.read()
         except FileNotFoundError:
             return None
+
+    def sim_log(self):
+        with open(self.desk.sim_log, encoding="latin-1") as log:
+            return log.read()
 
     def wait(self, is_so, timeout=15.0):
         end = time.monotonic() + timeout
@@ -127,6 +149,50 @@ class Macros(DeskCase):
             desk.touch(*grid(key))
             desk.wait_wire(edit + command, 5)
             time.sleep(0.5)
+
+    def test_5_the_online_editor_goes_on_when_the_server_is_back(self):
+        desk, edit = self.desk, "put Macro@Reg@On Line Edit@"
+        desk.console("restart")
+        desk.wait_wire(edit + "Current Work Register Event Data#1", 25)
+        time.sleep(2)
+        desk.console("macro operate Stop,Device,Dev1")
+        time.sleep(0.4)
+        desk.touch(*grid(52))
+        desk.wait_wire(edit + "Insert#1,1", 5)
+
+    def test_6_every_kind_of_event_goes_through_the_offline_editor_and_runs(self):
+        desk = self.desk
+        desk.console("macro record 8 ALL")
+        for event in EVERY_EVENT:
+            desk.console("macro operate " + event)
+        desk.console("macro end")
+        self.open_editor(8)
+        before = [line for line in self.content().decode().splitlines() if not line.startswith("Event?,Pause")]
+        self.assertEqual([line.replace("?", "") for line in before[1:]], ["Event," + e for e in EVERY_EVENT if "Pause" not in e])
+        self.touch(DELETE, BEFORE)  # the first one; it comes again with another source
+        self.value(0)
+        for row in (0, 0):  # M/E-1, BkgdA
+            self.value(row)
+        self.touch(DELETE)
+        desk.console("ng next 1 Disk")
+        self.touch(STORE)
+        self.wait(lambda: "NG(Disk)" in self.sim_log())
+        time.sleep(1)
+        self.assertIn(b"PMRALL", self.content())  # nothing is lost
+        self.touch((400, 413), (600, 450))  # its window
+        desk.wire()
+        self.touch(STORE)
+        self.wait(lambda: any("SCP Dir Put" in line for line in desk.wire()))
+        self.wait(lambda: "STATUS:Standby" in self.sim_log()[-2000:])
+        stored = [line for line in self.content().decode().splitlines() if not line.startswith("Event?,Pause")]
+        self.assertEqual(stored, [before[0]] + before[2:])
+        desk.console("attach 8,6,1,0,8,0,0,0,0,0,0,0,0")
+        desk.console("macro press 8 6 1")
+        self.wait(lambda: "macro 8 has ended" in self.sim_log(), 30)
+        ran = [line.split("macro 8: ")[1] for line in self.sim_log().splitlines() if "macro 8: " in line]
+        self.assertEqual([e for e in ran if not e.startswith("Pause")], [e for e in EVERY_EVENT[1:] if "Pause" not in e])
+        self.assertEqual(desk.value("Device@Dev1@Command"), "DeviceRecord")
+        self.assertEqual(desk.value("Panel@Xpt Pad@Aux@Page"), "Page2")
 
 
 if __name__ == "__main__":
