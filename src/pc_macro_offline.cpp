@@ -408,7 +408,8 @@ static int next_focus(const MacroEvent& event)
     return is_missing ? MACRO_COL_SLOT + slot : oe.focus;
 }
 
-static void event_set_listA_process(const char* value)
+// The focus goes on, unless a knob is being turned: the rest of the turn is for this value, too.
+static void event_set_listA_process(const char* value, bool goes_on = true)
 {
     MacroEvent* const event = cursor();
     if (!event || Same(value, value_of_focus(*event)))
@@ -428,7 +429,8 @@ static void event_set_listA_process(const char* value)
     }
     changed();
     show_events();
-    set_focus(next_focus(*event));
+    if (goes_on)
+        set_focus(next_focus(*event));
 }
 
 static int value_touched(int row)
@@ -471,18 +473,18 @@ static int display_keyboard()
 }
 
 // A time code as the file has it, from frames.
-static void process_timecode(int frames)
+static void process_timecode(int frames, bool goes_on)
 {
-    event_set_listA_process(Frame2TC(frames, 4));
+    event_set_listA_process(Frame2TC(frames, 4), goes_on);
 }
 
-static void value_turned(int value)
+static void value_turned(int value, bool is_entered)
 {
     const MACROPARAM* const p = focus_parameter();
     if (p && p->entry == MACROENTRY_TIMECODE)
-        process_timecode(value);
+        process_timecode(value, is_entered);
     else if (p && p->entry == MACROENTRY_NUMBER)
-        event_set_listA_process(NumStr(std::clamp(value, p->min, p->max)));
+        event_set_listA_process(NumStr(std::clamp(value, p->min, p->max)), is_entered);
 }
 
 // --- Lines come and go ---
@@ -775,12 +777,12 @@ static int page_redraw()
     return 0;
 }
 
-static int knob_turned(int id, int value)
+static int knob_turned(int id, int value, bool is_entered)
 {
     if (id == NB_MACRO_REGISTER)
         oe.target = std::clamp(value, 1, REGISTERS_MACRO);
     else if (id == NB_MACRO_VALUE)
-        value_turned(value);
+        value_turned(value, is_entered);
     return 0;
 }
 
@@ -794,7 +796,7 @@ static int pc_macro_offline_edit_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, 
     case LMSG_LISTSEL:
         return int(ax) == LIST_MACRO_EVENTS ? event_touched(int(bx), int(cx))
                                             : value_touched(int(bx));
-    case LMSG_KNOBVAR: return knob_turned(int(ax), int(bx));
+    case LMSG_KNOBVAR: return knob_turned(int(ax), int(bx), cx != 0);
     case LMSG_PAGEREQUEST: return leave_asked(uint32_t(ax));
     case LMSG_PANEQUIT: return leave_answered(int(ax), int(bx));
     default: return 0;

@@ -163,7 +163,8 @@ struct MacroOfflinePage : MacroPages {
         SendMessage(LMSG_LISTSEL, LIST_MACRO_EVENTS, row, column, 0);
         Pass(10);
     }
-    static void Turn(int value) { SendMessage(LMSG_KNOBVAR, NB_MACRO_VALUE, value, 1, 0); }
+    static void Enter(int value) { SendMessage(LMSG_KNOBVAR, NB_MACRO_VALUE, value, 1, 0); }
+    static void Turn(int value) { SendMessage(LMSG_KNOBVAR, NB_MACRO_VALUE, value, 0, 0); }
     // Row by row, columns with a blank between.
     static std::string Events()
     {
@@ -193,13 +194,15 @@ TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
     Choose("P/P");
     Choose("Key2");
     EXPECT_EQ(Events(), "Event 1 KeyAutoTransition P/P Key2 - -");
-    Turn(30);
+    Enter(30);
     Choose("Reverse");
     (void)Key(BTN_MACRO_INSERT_AFTER);
     Choose("Cue");
     Choose("Dev2");
+    Turn(1); // a knob stays with its value
     Turn(0);
-    Turn(5);
+    (void)Key(BTN_MACRO_GROUP_3 + 2);
+    Enter(5);
     (void)Key(BTN_MACRO_INSERT_AFTER);
     At(2, MACRO_COL_CONTENTS);
     Choose("#");
@@ -568,8 +571,8 @@ TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
     const auto enter = [](const MACROPARAM& p) {
         switch (p.entry) {
         case MACROENTRY_LIST: Choose(p.paramvaluetbl[0].paramvalue); break;
-        case MACROENTRY_NUMBER: Turn(p.min); break;
-        case MACROENTRY_TIMECODE: Turn(1); break;
+        case MACROENTRY_NUMBER: Enter(p.min); break;
+        case MACROENTRY_TIMECODE: Enter(1); break;
         case MACROENTRY_TEXT: break; // typed, below
         }
     };
