@@ -519,9 +519,26 @@ static bool has_key_left_out(const FILEXFERLIST* list)
     return list != nullptr;
 }
 
+// What was given up half way must not be taken for the clip: a drive knows no more of it than its
+// frames.
+static void remove_incomplete(const FILEXFERLIST* list)
+{
+    char last[FILE_PATH_SIZE] = "";
+    for (const FILEXFERLIST* item = list; item; item = item->next) {
+        const char* const folder = strstr(item->dst, ".SFH/");
+        if (!folder || !BeginsWith(item->dst, "MYHOST:") || item->status == FILESTATUS_OK ||
+            strncmp(last, item->dst, size_t(folder - item->dst) + 4) == 0)
+            continue;
+        strncpy_secu(last, item->dst, sizeof last, size_t(folder - item->dst) + 4);
+        (void)File_ExecRmdir(last, nullptr, 0); // a drive that has gone has no clip
+    }
+}
+
 static void xport_result(uint32_t, int page)
 {
     const Visit& v = visits[page];
+    if (page == XPORTPAGE_CLIP)
+        remove_incomplete(v.list);
     if (has_key_left_out(v.list))
         tell_skipped({.is_duplicate = true}, false);
     for (const FILEXFERLIST* item = v.list; page == XPORTPAGE_FMEM_V6 && item; item = item->next)
