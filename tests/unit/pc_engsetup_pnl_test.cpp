@@ -1,0 +1,298 @@
+// The panel's setup pages, by shape: what goes over the wire, what the lists and pictures show.
+#include "panel_desk.h"
+#include "pc_engsetup_sys.h"
+#include "tdl.h"
+
+namespace
+{
+struct PanelSetup : PanelTest {
+    static void TouchPad(int button)
+    {
+        (void)Touch(112 + 70 * ((button - 1) % 4) + 20, 212 + 46 * ((button - 1) / 4) + 20);
+    }
+    static std::string Cell(int row, int col, int list = 1)
+    {
+        const char* const text = LS_GetData(list, row, col);
+        return text ? text : "";
+    }
+};
+} // namespace
+
+TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
+{
+    const std::string program = PANEL "Config@Program Button@";
+    const std::string utility = PANEL "Prefs/Utility";
+    const struct {
+        uint32_t page;
+        std::string path;
+        int buttons;
+        int rows;
+    } modules[] = {
+        {0x73210031, program + "Transition Module", 20, 42},
+        {0x73210032, program + "Simple Transition Module", 12, 22},
+        {0x73210033, program + "Key Transition Module", 16, 29},
+        {0x73210034, program + "Flexi Pad Module", 16, 39},
+        {0x73210035, program + "Key Control Module", 8, 16},
+        {0x73210036, program + "Key Control Module@Key Control Button Assign", 20, 24},
+        {0x73210037, program + "Xpt Module", 8, 15},
+        {0x73210038, program + "Menu Panel", 24, 30},
+        {0x73210039, program + "Device Control Module", 28, 125},
+        {0x73210040, program + "Joystick/Trackball", 12, 24},
+        {0x73210041, program + "Shotbox Module", 24, 45},
+        {0x73210042, program + "DSK/FTB Module", 16, 50},
+        {0x73210043, program + "FTB Module", 4, 8},
+        {0x73210044, program + "Compact Key Trans Module", 8, 29},
+        {0x73210045, program + "Key Delegation Module", 16, 16},
+        {0x73210012, program + "Extension Panel", 28, 43},
+        {0x73210046, program + "Multi Module@Macro Edit Assign", 16, 19},
+        {0x73210047, program + "Multi Module@Effect Edit Assign", 16, 25},
+        {0x73210048, program + "Multi Module@Mode Select Assign", 8, 17},
+        {0x73240000, utility, 16, 28},
+        {0x73240001, utility + "@Utility Module Assign", 16, 24},
+        {0x73240002, utility + "@Xpt Module Assign", 16, 24},
+        {0x73240003, utility + "@Trans Rate Mode Assign", 8, 17},
+    };
+    for (const auto& m : modules) {
+        const Lines lines = Open(m.page);
+        const bool is_action = m.page >= 0x73240000;
+        const std::string place = m.page == 0x73210044 ? "2" : "1"; // of the first bank with one
+        const std::string last = std::to_string(m.buttons);
+        const std::string path = is_action
+                                     ? m.path + "@Action Set@1@"
+                                     : m.path + "@Button Assign@" + (m.buttons < 10 ? "0" : "");
+        const std::string tail = is_action ? "" : "@Operation@Common@" + place;
+        EXPECT_EQ(Held(lines, path + last + tail), 1) << path << last << tail;
+        EXPECT_EQ(LS_GetNData(1), m.rows) << m.path;
+        for (int row = 0; row < LS_GetNData(1); row++)
+            EXPECT_LE(TDL_GetSymbolWidth(LS_GetData(1, row, 0), 3), 128u) << LS_GetData(1, row, 0);
+        EXPECT_EQ(Held(Leave(), path + last + tail), -1) << m.path;
+    }
+}
+
+TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
+{
+    (void)Open(0x73210034);
+    TouchPad(9);
+    SelectRow(4);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+                ElementsAre("put " PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot"));
+    TouchPad(10);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+                ElementsAre("put " PAD "@Button Assign@10@Operation@Common@1#4,1,Snapshot"));
+    EXPECT_EQ(Cell(4, 1), "") << "what is pressed is not what is";
+    (void)Tell(PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot");
+    (void)Tell(PAD "@Button Assign@10@Operation@Common@1#4,1,Snapshot");
+    EXPECT_EQ(Cell(4, 1), "9,10");
+    EXPECT_THAT(Push(BTN_ASSIGN_CLEAR),
+                ElementsAre("put " PAD "@Button Assign@10@Operation@Common@1#0,1,NO ASSIGN"));
+    EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT),
+                ElementsAre("put " PAD "@Button Assign@10@Operation@Common@Default#4,1,Snapshot"));
+    for (const char* rubbish : {"4,1,No Such Thing", "4,1", "", ",,", "4"}) {
+        (void)Tell(PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot");
+        (void)Tell(std::string(PAD "@Button Assign@09@Operation@Common@1#") + rubbish);
+        EXPECT_EQ(Cell(4, 1), "10") << rubbish;
+    }
+}
+
+TEST_F(PanelSetup, ABankWithoutTheModuleTakesNothingAndOneInTwoProgramsHasTwoSides)
+{
+    (void)Open(0x73210034);
+    EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SUB), BT_DISABLED) << "P/P runs one program";
+    Lines lines = Touch(112 + 70 + 20, 98 + 20); // M/E-1
+    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@1"), -1);
+    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@2"), 1);
+    (void)Push(BTN_ASSIGN_SUB);
+    SelectRow(1);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+                ElementsAre("put " PAD "@Button Assign@01@Operation@Common@10#1,10,Key"));
+    (void)Touch(112 + 140 + 20, 98 + 20); // M/E-2
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), testing::IsEmpty());
+    EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SET), BT_DISABLED);
+    (void)Tell(PANEL "Config@Compact Key Module Assign@KY Unit Config@1#FP,--,--,--,--,--,--,--");
+    EXPECT_EQ(Push(BTN_ASSIGN_SET).size(), 1u) << "it has been fitted";
+}
+
+TEST_F(PanelSetup, ALockedPageTakesNoTouchOfItsPicture)
+{
+    (void)Open(0x73210034);
+    SelectRow(1);
+    SetupMenu[SetupIndex_Find(0x73210034)].lock = 1;
+    SetupLock.lock = 1;
+    TouchPad(5);
+    SetupLock.lock = 0;
+    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+                ElementsAre("put " PAD "@Button Assign@01@Operation@Common@1#1,1,Key"));
+}
+
+TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
+{
+    (void)Open(0x73240002);
+    const std::string first = "put " KEY2 "Action Set@1@1#";
+    SelectRow(3);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre(first + "1,3"));
+    (void)Push(BTN_ACTION_MACRO);
+    SelectRow(249);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre(first + "2,250"));
+    (void)Push(BTN_ACTION_SHOTBOX);
+    SelectRow(1);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre(first + "2,1002"));
+    EXPECT_THAT(Push(BTN_ASSIGN_CLEAR), ElementsAre(first + "0,0"));
+    EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT), ElementsAre("put " KEY2 "Action Set@1@Default#1"));
+    (void)Push(BTN_ACTION_NAME);
+    EXPECT_THAT(Type("intro"),
+                ElementsAre("put " PANEL "Prefs/Utility@Key2 Bus Button Assign@Name@1@1#intro"));
+    for (const auto& [value, mark] : {std::pair{"2,1002", "1"},
+                                      {"2,251", ""},
+                                      {"2,1002", "1"},
+                                      {"2,1100", ""},
+                                      {"2", ""},
+                                      {"2,1002", "1"},
+                                      {"", ""}}) {
+        (void)Tell(std::string(KEY2 "Action Set@1@1#") + value);
+        EXPECT_EQ(Cell(1, 1), mark) << value;
+    }
+}
+
+TEST_F(PanelSetup, ThePanelAsksForAButton)
+{
+    (void)Tell(PANEL "Prefs/Utility@Panel Select#7,1");
+    (void)Open(0x73240001);
+    SelectRow(2);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+                ElementsAre("put " PANEL "Prefs/Utility@Utility Module Assign@Action Set@1@7#1,2"));
+    GL_UtlAsgnSelectButtonID = 0;
+}
+
+// --- Ten keys ---
+
+TEST_F(PanelSetup, ChosenKeysTakeARegionTogetherAndEachOnce)
+{
+    const Lines opened = Open(0x73210001);
+    EXPECT_EQ(std::ranges::count(opened, "put " TENKEY "@Pcx#40"), 1);
+    EXPECT_EQ(std::ranges::count(opened, "read " TENKEY "@Common@Region@Common@23"), 1);
+    EXPECT_EQ(Held(opened, TENKEY "@Select@23"), 1);
+    EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SET), BT_DISABLED) << "no key is chosen";
+    EXPECT_THAT(Touch(104 + 20, 84 + 36), ElementsAre("put " TENKEY "@Select@1#true"));
+    TellAll(TENKEY "@", {"Select@1#true", "Select@9#true", "Common@Region@Common@1#1,0,M/E-1,,,",
+                         "Common@Region@Common@9#9,5,User1,no region,P/P,DME1"});
+    SelectRow(1); // P/P
+    (void)Touch(456 + 61 + 20, 120);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+                ElementsAre("put " TENKEY "@Common@Region@Common@1#1,0,M/E-1,P/P,,",
+                            "put " TENKEY "@Common@Region@Common@9#9,5,User1,P/P,,DME1"));
+    EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT),
+                ElementsAre("put " TENKEY "@Common@Region@Common@Default#1,0,M/E-1,,,",
+                            "put " TENKEY "@Common@Region@Common@Default#9,5,User1,,P/P,DME1"));
+    EXPECT_EQ(Push(BTN_TENKEY_ALL).size(), 21u) << "those that are not chosen yet";
+    (void)Push(BTN_TENKEY_RECALL);
+    EXPECT_THAT(Answer(1), ElementsAre("put " TENKEY "@Default Recall#true"));
+}
+
+// --- Tables ---
+
+TEST_F(PanelSetup, ACrosspointIsEditedByHalvesOrAsAPair)
+{
+    TellSources();
+    (void)Open(0x73220001);
+    SelectRow(1, 2);
+    EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " XPT "Insert VK#1,2,0"));
+    EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " XPT "Insert VK#2,2,1"));
+    (void)Push(BTN_XPT_KEY);
+    EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " XPT "Insert V#3,2,0"));
+    (void)Push(BTN_XPT_VIDEO); // the other takes over
+    EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " XPT "Delete K#4"));
+    (void)Tell(XPT "Inhibit#4,true");
+    EXPECT_THAT(Push(BTN_XPT_INHIBIT), ElementsAre("put " XPT "Inhibit#4,false"));
+    (void)Tell("Info@Operation Setup Data@V/K Pair Assign#true");
+    EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " XPT "Insert@Main@Assign#4,2"));
+    EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " XPT "Delete@Main@Assign#5,1"));
+    (void)Tell(XPT "Button No#1");
+    EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " XPT "Delete@Main@Assign#1,1"));
+    (void)Push(BTN_XPT_DEFAULT);
+    EXPECT_THAT(Answer(1), ElementsAre("put " XPT "Default@Main@Assign#true"));
+    (void)Tell("Info@Operation Setup Data@V/K Pair Assign#false");
+}
+
+TEST_F(PanelSetup, ATableShowsWhatIsToldOfItsSide)
+{
+    TellSources();
+    (void)Open(0x73220002);
+    TellAll(XPT "Assign#", {"1,3,3", "129,1,2", "130,99,-1", "256,1,1", "x,1,1", "131", ""});
+    EXPECT_EQ(Row(0, 5), "1|CAM1|CAM2||");
+    EXPECT_EQ(Row(1, 5), "2||||") << "no such sources";
+    (void)Tell(XPT "Source@List#1,GUEST");
+    EXPECT_EQ(Row(0, 5), "1|GUEST|CAM2||");
+    EXPECT_EQ(Cell(0, 1, 2), "GUEST");
+    SelectRow(0, 2);
+    EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " XPT "Insert VK#129,1,1"));
+}
+
+TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
+{
+    const std::string aux = PANEL "Aux Assign@";
+    (void)Tell(PANEL "Config@External Bus Link@S-BUS Src Name List#1,VTR1");
+    const struct {
+        uint32_t page;
+        std::string path;
+    } tables[] = {{0x73220010, XPT "Mixer Xpt Assign"},
+                  {0x73230000, aux + "Aux Button"},
+                  {0x73230003, aux + "RTR Mode Set@Source Table@1"},
+                  {0x73230004, aux + "RTR Mode Set@Lvl Btn"}};
+    for (const auto& t : tables) {
+        EXPECT_EQ(Held(Open(t.page), t.path), 1) << t.path;
+        (void)Tell(t.path + "#2,1");
+        EXPECT_EQ(Cell(1, 1), Cell(0, 1, 2)) << t.path;
+        EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " + t.path + "@Insert#1,1"));
+        EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " + t.path + "@Overwrite#2,1"));
+        EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " + t.path + "@Delete#3"));
+        (void)Push(BTN_XPT_DEFAULT);
+        EXPECT_THAT(Answer(1), ElementsAre("put " + t.path + "@Default#true"));
+    }
+    (void)Open(0x73230003);
+    EXPECT_THAT(Push(50), ElementsAre("remove " + aux + "RTR Mode Set@Source Table@1",
+                                      "add " + aux + "RTR Mode Set@Source Table@4"));
+    EXPECT_EQ(Held(Leave(), aux + "RTR Mode Set@Source Table@4"), -1);
+}
+
+TEST_F(PanelSetup, WhatIsPreparedGoesWithExecute)
+{
+    TellSources();
+    const struct {
+        uint32_t page;
+        std::string told;
+        int key;
+        std::string put;
+    } pages[] = {
+        {0x73220004, XPT "Source@Color#1,4", 35, XPT "Source@Color#1,0"},
+        {0x73220005, XPT "User Color@User 1@Brightness#Low", 35,
+         XPT "User Color@User 1@Brightness#High"},
+        {0x73220006, XPT "Name Export@Router#false", 33, XPT "Name Export@Router#true"},
+        {0x73220007, XPT "Side Flags Button Assign#1,false", 33,
+         XPT "Side Flags Button Assign#1,true"},
+        {0x73220008, XPT "Shift Mode@M/E-1#Hold", 34, XPT "Shift Mode@M/E-1#Lock"},
+        {0x73230001, PANEL "Aux Assign@RTR Mode Set@Mode@1st AUX#Aux", 34,
+         PANEL "Aux Assign@RTR Mode Set@Mode@1st AUX#Router"},
+        {0x73230002, PANEL "Aux Assign@RTR Mode Set@Source Table Assign@RTR Dest 1#Table 1", 36,
+         PANEL "Aux Assign@RTR Mode Set@Source Table Assign@RTR Dest 1#Table 4"},
+    };
+    for (const auto& p : pages) {
+        (void)Open(p.page);
+        if (p.page == 0x73220004)
+            TellAll(XPT, {"Source@List#1,CAM1", "Source@List#2,CAM2"});
+        (void)Tell(p.told);
+        SelectRow(0);
+        EXPECT_THAT(Push(p.key), testing::IsEmpty()) << p.put;
+        EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + p.put));
+    }
+}
+
+TEST_F(PanelSetup, ANameIsMadeFitAndExecuted)
+{
+    (void)Open(0x73220004);
+    TellAll(XPT, {"Source@List#1,CAM1", "Source@List#2,CAM2"});
+    SelectRow(1);
+    (void)Push(33);
+    EXPECT_THAT(Type("b"), testing::IsEmpty());
+    EXPECT_EQ(Row(1, 2), "2|CAM2b*");
+    EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " XPT "Source@List#2,CAM2b"));
+}
