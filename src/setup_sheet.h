@@ -308,6 +308,10 @@ constexpr SheetListRows MakeSheetList(const SETUPSHEET& s)
     }
     list.group[0] = 1;
     list.group[1] = 999;
+    list.view = 1; // where nothing can be changed
+    for (int i = 0; i < s.column_count; i++)
+        if (SheetKeys(s.columns[i]) > 0 || IsSheetNumber(s.columns[i]))
+            list.view = 0;
     rows.row[1].id = -1;
     return rows;
 }

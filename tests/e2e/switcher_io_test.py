@@ -1,0 +1,130 @@
+"""The switcher's inputs, outputs and ports at the desk: what an installer sets is held, refused or seen elsewhere.
+
+usage: switcher_io_test.py BUILD_DIR [TEST...]
+"""
+import os
+import re
+import time
+import unittest
+
+from desk import grid
+from deskcase import DeskCase
+
+SWITCHER = "Engineering Setup@Switcher@"
+GPI = SWITCHER + "Device Interface@GPI Output@"
+FC = SWITCHER + "Input@FC Adjust@"
+OUTPUT = SWITCHER + "Output@"
+LETTERS = {c: (row, first + i) for row, (first, keys) in
+           enumerate([(0, "`1234567890-="), (0, "qwertyuiop[]\\"), (0, "asdfghjkl;'"), (2, "zxcvbnm,./")])
+           for i, c in enumerate(keys)}
+
+
+class SwitcherIo(DeskCase):
+    def open(self, number):
+        self.open_page(number, "put TopMenu@SubMenuSite#false")
+        self.desk.wire()
+
+    def push(self, key):
+        self.desk.touch(*grid(key), settle=0.25)
+
+    def row(self, n):
+        self.desk.touch(150, 76 + 22 * (n + 1) + 10, settle=0.2)
+
+    def popup(self, place, columns, rows):
+        width, height = 78 * columns + 26, 43 * rows + 76
+        self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
+                        300 - height // 2 + 50 + 43 * (place // columns), settle=0.25)
+
+    def type(self, text):
+        for c in text:
+            row, column = LETTERS[c]
+            self.desk.touch(39 + 12 + 54 * column + 25, 115 + 91 + 54 * row + 25, 0.2)
+        self.desk.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25)
+
+    def listed(self, path, row):
+        """A row of a list that the server holds, without its number."""
+        out = os.path.join(self.desk.work, "sim.out")
+        seen = os.path.getsize(out)
+        self.desk.console(f"get {path}")
+        time.sleep(0.2)
+        with open(out, encoding="latin-1") as f:
+            f.seek(seen)
+            return re.search(rf"^{re.escape(path)}#{row},(.*)$", f.read(), re.M).group(1)
+
+    def test_1_the_values_of_a_gpi_port_and_its_test_fire(self):
+        desk = self.desk
+        self.open("7337.7")
+        self.row(1)
+        self.push(33)
+        self.popup(1, 3, 2)  # Rising Edge
+        desk.console("knob 1 +4")
+        self.push(34)
+        self.popup(11, 4, 4)  # Snapshot Recall
+        time.sleep(0.2)
+        self.push(35)
+        self.popup(6, 4, 6)  # User1
+        self.push(54)
+        desk.wait_wire(f"put {GPI}Action Type Region@2@1#11,User1,1,0")
+        line = self.desk.value(f"{GPI}Trigger Type@2")
+        self.assertRegex(line, r"^Rising Edge,0x00,0x0[1-9]$")
+        self.assertEqual(desk.value(f"{GPI}Action Type@2@1"), "0,0,0,0")
+        self.push(37)
+        desk.wait_wire(f"put {GPI}Test Fire@2#")
+        with open(desk.sim_log, encoding="latin-1") as f:
+            self.assertIn(f"GPI output 2: test fire, {line}", f.read())
+
+    def test_2_a_converter_has_modes_with_their_knobs_and_limits(self):
+        desk = self.desk
+        self.open("7332.7")
+        self.push(34)  # Up
+        self.assertEqual(desk.value(f"{FC}Convert Mode@0"), "1")
+        self.push(37)  # a crop that can be moved
+        desk.wait_wire(f"assign Knob1#{FC}EC Pos@0")
+        desk.console("knob 1 +7")
+        time.sleep(0.25)
+        turned = float(desk.value(f"{FC}EC Pos@0"))
+        self.assertGreater(turned, 0)
+        desk.console("knob 1 +9999")
+        time.sleep(0.25)
+        self.assertEqual(float(desk.value(f"{FC}EC Pos@0")), 100)
+        self.push(38)  # Center
+        time.sleep(0.2)
+        self.assertEqual(float(desk.value(f"{FC}EC Pos@0")), 0)
+        self.push(22)  # Default
+        time.sleep(0.2)
+        self.assertEqual(desk.value(f"{FC}Convert Mode@0"), "0")
+
+    def test_3_an_inhibited_output_keeps_its_bus(self):
+        desk = self.desk
+        self.open("7333.1")
+        self.row(2)
+        self.push(33)
+        self.popup(48, 8, 9)  # M/E-1 PGM
+        self.push(34)
+        desk.console(f"put {OUTPUT}Inhibit#3,true")  # another panel is faster
+        time.sleep(0.2)
+        self.push(54)
+        desk.wait_wire(f"put {OUTPUT}Assign#3,M/E-1 PGM,0")
+        self.assertEqual(self.listed(f"{OUTPUT}Assign", 3), "AUX3,0")
+        desk.console(f"put {OUTPUT}Inhibit#3,false")
+        time.sleep(0.2)
+        self.push(54)
+        time.sleep(0.2)
+        self.assertEqual(self.listed(f"{OUTPUT}Assign", 3), "M/E-1 PGM,0")
+
+    def test_4_the_name_of_an_input_is_the_sources_name(self):
+        desk = self.desk
+        self.open("7332")
+        self.row(0)
+        self.push(33)
+        self.type("x")
+        self.push(54)
+        time.sleep(0.2)
+        name = desk.value(f"{SWITCHER}Input@Source Name@1")
+        self.assertTrue(name.lower().endswith("x"), name)
+        self.assertEqual(self.listed("Engineering Setup@Panel@Xpt Assign@Source@List", 1), name)
+        self.assertIsNone(desk.app_status())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
