@@ -98,15 +98,15 @@ static void status_text(int n, int status, char (&text)[32], unsigned* colour)
     text[0] = '\0';
     *colour = LABEL;
     if (status == FMOUT_STATUS_PLAY) {
-        PrintText(text, "Play  %s", Frame2TC(fm.play[n].frame, 3));
+        PrintText(text, "Play  %s", Frame2TC_SWR(fm.play[n].frame, 3, 0));
         *colour = GREEN;
     } else if (status == FMOUT_STATUS_REC) {
         for (const FM_RECORD& r : fm.record)
             if (r.is_running && r.output == n)
-                PrintText(text, "Record  %s", Frame2TC(r.frame, 3));
+                PrintText(text, "Record  %s", Frame2TC_SWR(r.frame, 3, 0));
         *colour = RED;
     } else if (status == FMOUT_STATUS_FREEZE_RECALL && fm.output[n].duration > 1) {
-        PrintText(text, "%s", Frame2TC(fm.play[n].frame, 3));
+        PrintText(text, "%s", Frame2TC_SWR(fm.play[n].frame, 3, 0));
     }
 }
 

@@ -327,8 +327,7 @@ bool is_board_split_in_four()
 constexpr uint32_t TAB_MASK = 0xFFFF0000;
 constexpr Hidden hidden[] = {
     NotThere(0x71520000, is_not_fmem_v6),
-    {0x21400000, 0x21400000, is_without_clip_store, 0xFFF00000},
-    {0x21600000, 0x21600000, is_without_clip_store, 0xFFF00000},
+    {0x21000000, 0x21000000, is_without_clip_store, 0xFF000000},
     NotThere(0x25130000, is_not_fmem_v6),
     NotThere(0x73310015, has_no_zrd52),
     NotThere(0x73220010, has_old_target),

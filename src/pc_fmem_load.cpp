@@ -3,10 +3,8 @@
 #include "a_bt.h"
 #include "a_ff.h"
 #include "a_pc.h"
-#include "global.h"
 #include "memory.h"
 #include "message.h"
-#include "page_table/fm.h"
 #include "page_table/fmem_clip.h"
 #include "pc_fmem.h"
 #include <cstring>
@@ -79,20 +77,3 @@ static int open_or_leave(int on, uint32_t)
 }
 
 const PC_TBL pc_fmem_clipstill_load = {.proc_func = proc, .create_func = open_or_leave};
-
-// --- The menu of the frame memory ---
-
-static int open_top(int on, uint32_t)
-{
-    for (const int id : {BTN_FM_TOP_CLIP, BTN_FM_TOP_FILE})
-        if (on)
-            BT_SetCutoffEx(id, GL_ClipStoreSupportMode == 0);
-    return 0;
-}
-
-static int pass(int, MsgArg, MsgArg, MsgArg, MsgArg)
-{
-    return 0;
-}
-
-const PC_TBL pc_fmem_top = {.proc_func = pass, .create_func = open_top};

@@ -414,7 +414,7 @@ static void draw_well(int x, const char* caption, int frame, bool is_on)
     TDL_PutS(x, WELL_Y, is_on ? G_FMTC_on : G_FMTC_off);
     TDL_SymbolS(x + 8, WELL_Y + 4, caption, 1, LABEL);
     if (has_clip())
-        TDL_SymbolS(x + 30, WELL_Y + 16, Frame2TC(frame, 4), 8, WHITE);
+        TDL_SymbolS(x + 30, WELL_Y + 16, Frame2TC_SWR(frame, 4, 0), 8, WHITE);
     TDL_UpdateRect(x, WELL_Y, x + WELL_W - 1, WELL_Y + WELL_H - 1);
 }
 

@@ -138,12 +138,13 @@ static void enable_keys()
 static void draw_line()
 {
     char text[128], length[16];
-    CopyText(length, Frame2TC(rec.length, 3));
+    CopyText(length, Frame2TC_SWR(rec.length, 3, 0));
     if (!rec.redraw)
         return;
     rec.redraw = false;
     if (is_recorded())
-        PrintText(text, "%s    recorded %s", rec.name, Frame2TC(record_of_selected().frame, 3));
+        PrintText(text, "%s    recorded %s", rec.name,
+                  Frame2TC_SWR(record_of_selected().frame, 3, 0));
     else if (rec.is_freeze)
         PrintText(text, "%s", rec.name);
     else

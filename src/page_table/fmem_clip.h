@@ -62,22 +62,22 @@ constexpr BT_TBL FmemTransport(int x, int y, BT_TBL row, int (*draw)(BT_MEM*))
 // --- The menu's pages of the clip store ---
 
 inline constexpr VF_TBL vf_fmem[] = {
-    {.id = 1, .caption = "Clip/Still", .page = 0x21420000},
-    {.id = 2, .caption = "File",       .page = 0x21610000},
+    {.id = 1, .caption = "Clip/Still", .page = 0x21110000},
+    {.id = 2, .caption = "File",       .page = 0x21210000},
     VF_END,
 };
 inline constexpr HF_TBL hf_fmem_clip[] = {
-    {.id = 1, .caption = "Recall", .page = 0x21420000},
-    {.id = 2, .caption = "Load",   .page = 0x21410000},
-    {.id = 3, .caption = "Play",   .page = 0x21430000},
-    {.id = 4, .caption = "Record", .page = 0x21440000},
-    {.id = 5, .caption = "Freeze", .page = 0x21450000},
+    {.id = 1, .caption = "Recall", .page = 0x21110000},
+    {.id = 2, .caption = "Load",   .page = 0x21120000},
+    {.id = 3, .caption = "Play",   .page = 0x21130000},
+    {.id = 4, .caption = "Record", .page = 0x21140000},
+    {.id = 5, .caption = "Freeze", .page = 0x21150000},
     HF_END,
 };
 inline constexpr HF_TBL hf_fmem_file[] = {
-    {.id = 1, .caption = "Copy/\nMove",          .page = 0x21610000},
-    {.id = 2, .caption = "Delete/\nRename",      .page = 0x21620000},
-    {.id = 3, .caption = "Pair\nRecombi-\nnation", .page = 0x21630000},
+    {.id = 1, .caption = "Copy/\nMove",          .page = 0x21210000},
+    {.id = 2, .caption = "Delete/\nRename",      .page = 0x21220000},
+    {.id = 3, .caption = "Pair\nRecombi-\nnation", .page = 0x21230000},
     HF_END,
 };
 
@@ -220,28 +220,28 @@ extern const PC_TBL pc_fmem_file_deleterename;       // pc_fmem_file.cpp
 extern const PC_TBL pc_fmem_file_pairreecombination; // pc_fmem_file.cpp
 
 inline constexpr PAGE fmem_clip_pages[] = {
-    {.id = 0x21410000, .tree = {"Frame Memory", "Clip/Still", "Load"},
+    {.id = 0x21120000, .tree = {"Frame Memory", "Clip/Still", "Load"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 1), BottomTabs(hf_fmem_clip, 2), Buttons(bt_fmem_load), Folder(ff_fmem_wide),
              Code(pc_fmem_clipstill_load)}},
-    {.id = 0x21420000, .tree = {"Frame Memory", "Clip/Still", "Recall"},
+    {.id = 0x21110000, .tree = {"Frame Memory", "Clip/Still", "Recall"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 1), BottomTabs(hf_fmem_clip, 1), Buttons(bt_fmem_recall), Outputs(fm_fmem),
              Folder(ff_fmem_beside), Code(pc_fmem_clipstill_recall)}},
-    {.id = 0x21430000, .tree = {"Frame Memory", "Clip/Still", "Play"},
+    {.id = 0x21130000, .tree = {"Frame Memory", "Clip/Still", "Play"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 1), BottomTabs(hf_fmem_clip, 3), Buttons(bt_fmem_play), Boxes(nb_fmem_play),
              Outputs(fm_fmem), Code(pc_fmem_clipstill_play)}},
-    {.id = 0x21440000, .tree = {"Frame Memory", "Clip/Still", "Record"},
+    {.id = 0x21140000, .tree = {"Frame Memory", "Clip/Still", "Record"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 1), BottomTabs(hf_fmem_clip, 4), Buttons(bt_fmem_record), Boxes(nb_fmem_record),
              Outputs(fm_fmem), Folder(ff_fmem_record), Code(pc_fmem_clipstill_record)}},
-    {.id = 0x21450000, .tree = {"Frame Memory", "Clip/Still", "Freeze"},
+    {.id = 0x21150000, .tree = {"Frame Memory", "Clip/Still", "Freeze"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 1), BottomTabs(hf_fmem_clip, 5), Buttons(bt_fmem_freeze), Outputs(fm_fmem),
              Folder(ff_fmem_short), Code(pc_fmem_clipstill_record_freeze)}},
-    {.id = 0x21610000, .tree = {"Frame Memory", "File", "Copy/Move"},
+    {.id = 0x21210000, .tree = {"Frame Memory", "File", "Copy/Move"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 2), BottomTabs(hf_fmem_file, 1), Buttons(bt_fmem_copymove), Outputs(fm_fmem_watch),
              Folder(ff_fmem_two), Code(pc_fmem_file_copymove)}},
-    {.id = 0x21620000, .tree = {"Frame Memory", "File", "Delete/Rename"},
+    {.id = 0x21220000, .tree = {"Frame Memory", "File", "Delete/Rename"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 2), BottomTabs(hf_fmem_file, 2), Buttons(bt_fmem_deleterename),
              Outputs(fm_fmem_watch), Folder(ff_fmem_wide), Code(pc_fmem_file_deleterename)}},
-    {.id = 0x21630000, .tree = {"Frame Memory", "File", "Pair Recombination"},
+    {.id = 0x21230000, .tree = {"Frame Memory", "File", "Pair Recombination"},
      .obj = {Base(base_main), LeftTabs(vf_fmem, 2), BottomTabs(hf_fmem_file, 3), Buttons(bt_fmem_pair), Folder(ff_fmem_two),
              Code(pc_fmem_file_pairreecombination)}},
 };

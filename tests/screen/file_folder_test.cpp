@@ -1,5 +1,7 @@
-// The browser of the clip store on the Load page, with thumbnails, marks, checks and a found clip.
+// The pages of the clip store: its browser with thumbnails, marks, checks and a found clip; the
+// outputs; a playback; two folders side by side.
 #include "a_ff_private.h"
+#include "a_fm.h"
 #include "fmctrl3.h"
 #include "table_page.h"
 #include "text.h"
@@ -14,6 +16,7 @@ constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
 struct FolderPictures : TablePage {
     DEVICE* first_switcher = nullptr;
     int switchers = 0;
+    unsigned seed = 0; // of the next picture
 
     void SetUp() override
     {
@@ -53,9 +56,8 @@ struct FolderPictures : TablePage {
         SDL_SaveBMP(s, (FM_FOLDER + file).c_str());
         SDL_FreeSurface(s);
     }
-    static void Clip(const std::string& name, int frames, int exist, int pair = 0)
+    void Clip(const std::string& name, int frames, int exist, int pair = 0)
     {
-        static unsigned seed = 0;
         Thumbnail("NEWS." + name + ".SFH" + (frames > 1 ? "#000000" : "") + ".THM", seed++ % 8);
         Hub("ClipStoreFile", "root/NEWS/" + name + ".SFH:" + std::to_string(frames) + ", " +
                                  std::to_string(pair) + ", 0, 3, 2026-11-25 09:20:00, " +
@@ -80,7 +82,7 @@ TEST_F(FolderPictures, Browser)
                  {"WIPE", 2, 1, 1},     {"ZOOM IN", 1, 1, 0}};
     for (const auto& c : clips)
         Clip(c.name, c.frames, c.exist, c.pair);
-    (void)Open(0x21410000);
+    (void)Open(0x21120000);
     (void)FF_ChangeDirectory(0, "/NEWS");
     EXPECT_EQ(FF_Find(0, "openi", SEARCH_DIR_NEXT), 0);
     (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
@@ -90,4 +92,36 @@ TEST_F(FolderPictures, Browser)
     for (int i = 0; i < 4; i++)
         Pass(1000);
     EXPECT_TRUE(MatchesGolden("file_folder"));
+}
+
+TEST_F(FolderPictures, OutputsPlaybackAndTwoFolders)
+{
+    Hub("ClipStoreFolder", "root/NEWS:1");
+    Hub("ClipStoreFolder", "root/SPORT:1");
+    Clip("LOGO KEY", 1, 3, 1);
+    Clip("OPENING", 100, 1);
+    Clip("OTS LEFT", 1, 1);
+    (void)Open(0x21110000);
+    TellAll(FM_TREE, {"Output Status@FM1#2,/NEWS/OPENING.SFH", "Play@FM1#1,0,0,99",
+                      "Output Status@FM2#2,/NEWS/LOGO KEY.SFH", "Play@FM2#0,0,0,0",
+                      "Ancillary Enable@FM1#1,1", "Out Pair Select#FM1&2", "Pair@FM1&2#false"});
+    (void)FF_ChangeDirectory(0, "/NEWS");
+    for (int i = 0; i < 4; i++)
+        Pass(1000);
+    EXPECT_TRUE(MatchesGolden("fmem_recall"));
+
+    (void)Open(0x21130000);
+    TellAll(FM_TREE, {"Play@FM1#1,0,10,80", "Play@FM1#1,42,10,80", "Play@Play Mode@FM1#2",
+                      "Play@Variable Speed@FM1#-75"});
+    Pass(1000);
+    EXPECT_TRUE(MatchesGolden("fmem_play"));
+
+    (void)Open(0x21210000);
+    (void)FF_ChangeDirectory(0, "/NEWS");
+    const Rect g = ff_grid(ff.area[0].parts);
+    (void)Touch(g.x1 + ff.area[0].parts.h_gap + 50, g.y1 + 40);
+    Pass(1000);
+    EXPECT_TRUE(MatchesGolden("fmem_copymove"));
+    TellAll(FM_TREE, {"Output Status@FM1#0,", "Output Status@FM2#0,", "Play@FM1#0,0,0,0",
+                      "Ancillary Enable@FM1#0,0", "Play@Play Mode@FM1#0"});
 }

@@ -13,7 +13,7 @@
 namespace
 {
 struct FileFolder : TablePage {
-    static constexpr uint32_t PAGE_LOAD = 0x21410000;
+    static constexpr uint32_t PAGE_LOAD = 0x21120000;
     DEVICE* first_switcher = nullptr;
     int switchers = 0;
 

@@ -34,7 +34,7 @@ struct ClipPages : TablePage {
         Clip("STILL", 1);
         Clip("NEWS/A/ONE", 10);
         Clip("NEWS/A/B/TWO", 1);
-        (void)Open(0x21420000);
+        (void)Open(0x21110000);
         for (int n = 0; n < FM_OUTPUTS; n++) { // as after a start
             Show(n, "0,");
             (void)Tell(TREE + "Play@FM" + std::to_string(n + 1) + "#0,0,0,0");
@@ -114,8 +114,8 @@ struct ClipPages : TablePage {
     }
 };
 constexpr int YES = 1, NO = 2;
-constexpr uint32_t RECALL = 0x21420000, PLAY = 0x21430000, RECORD = 0x21440000, FREEZE = 0x21450000,
-                   COPY_MOVE = 0x21610000, DELETE_RENAME = 0x21620000, PAIR = 0x21630000;
+constexpr uint32_t RECALL = 0x21110000, PLAY = 0x21130000, RECORD = 0x21140000, FREEZE = 0x21150000,
+                   COPY_MOVE = 0x21210000, DELETE_RENAME = 0x21220000, PAIR = 0x21230000;
 } // namespace
 
 TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
