@@ -57,7 +57,16 @@ struct sysconf {
     char swr[5][8];   // SysConf_SWRAssign: the first two are offered
     char master[8];   // SysConf_TallyMaster
 };
-enum : int { FLD_MODE, FLD_SWR1, FLD_SWR2, FLD_SWR3, FLD_SWR4, FLD_SWR5, FLD_MASTER };
+enum : int {
+    FLD_MODE,
+    FLD_OTHER_MODE,
+    FLD_SWR1,
+    FLD_SWR2,
+    FLD_SWR3,
+    FLD_SWR4,
+    FLD_SWR5,
+    FLD_MASTER,
+};
 } // namespace
 
 static sysconf SysConf[DEVICE_MAX];
@@ -73,10 +82,21 @@ static SETUPSTATE sysconf_state;
         PLACE(sysconf, swr, i), .path = CONFIG "Panel Assign", .part = (i) + 1, .column = col,     \
                                 .ask = SETUP_READ, .words = words_swr                              \
     }
+static bool is_own_panel(const char* number)
+{
+    return Same(number, NumStr(SYS_MyPnl));
+}
+static bool is_other_panel(const char* number)
+{
+    return !is_own_panel(number);
+}
+
 static constexpr SETUPWORD words_master[] = {{"true", "Master"}, {"false", ""}, {}};
 static constexpr SETUPFIELD sysconf_fields[] = {
     {SETUP_CELL(sysconf, opemode), .path = CONFIG "System Operation Mode@PNL$", .column = 1,
-     .ask = SETUP_READ}, // that of the own panel is followed all the time
+     .ask = SETUP_READ, .has = is_own_panel}, // followed all the time
+    {SETUP_CELL(sysconf, opemode), .path = CONFIG "System Operation Mode@PNL$", .column = 1,
+     .has = is_other_panel},
     PANEL_SWITCHER(0, 2),
     PANEL_SWITCHER(1, 3),
     PANEL_SWITCHER(2, -1),

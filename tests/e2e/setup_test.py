@@ -222,6 +222,10 @@ class Setup(DeskCase):
         date, clock = self.calls()
         self.assertRegex(date, r"^date \[-u\] \[-s\] \[\w{3} \w{3} [ \d]\d \d\d:\d\d:\d\d \d{4} UTC\]$")
         self.assertEqual(clock, "hwclock [--systohc]")
+        self.push(33)
+        desk.console("knob 0 -4")  # a year back
+        self.push(34)
+        self.assertIn(f" {int(date[-9:-5]) - 1} UTC]", self.calls()[0])
         told = [line for line in desk.wire() if "Maintenance@DateTime#" in line]
         self.assertLess(abs(int(told[0].split("#")[1], 16) - time.time()), 5)
         desk.console("script date 1")

@@ -425,7 +425,11 @@ TEST_F(SystemPage, TextsForTheNetworkDriveAreExamined)
 
 TEST_F(SystemPage, APanelsSwitchersGoAsOneLine)
 {
-    (void)Open(0x73120000);
+    (void)Tell("Engineering Setup@System@Network Config@List#PNL002D002,PNL2,10.0.0.9,,");
+    EXPECT_THAT(Open(0x73120000),
+                testing::IsSupersetOf({"read " + CONFIG + "System Operation Mode@PNL1",
+                                       "add " + CONFIG + "System Operation Mode@PNL2"}))
+        << "the own one is followed anyway";
     (void)Tell(CONFIG + "Panel Assign#1,1,2,0,5,0");
     (void)Tell(CONFIG + "System Operation Mode@PNL1#Single Proc");
     EXPECT_EQ(Row(0, 5), "PNL1|Single Proc|SWR1|SWR2|");
