@@ -1,9 +1,9 @@
 // texture_package: the user patterns of an effects unit's texture memory, composed on this machine:
 // bitmaps of the stick, each with its place, and the package in which they go to the unit and come
 // back to be changed. One package is in hand at a time; it lives as long as the process. The places
-// are texture_layout's; lists and keys are the page's (pc_texture).
+// are those of layout; lists and keys are the page's (pc_texture).
 #pragma once
-#include "texture_layout.h"
+#include "layout.h"
 #include "types.h"
 #include <cstddef>
 #include <cstdint>

@@ -1,4 +1,4 @@
-// texture_layout: where the patterns of a package lie in an effects unit's texture memory, a square
+// layout: where the patterns of a package lie in an effects unit's texture memory, a square
 // of units. Every pattern is 1, 2, 4 or 8 units wide and high. The same package always yields the
 // same places; what a package holds, and what is done about one that is too large, is its page's.
 #pragma once

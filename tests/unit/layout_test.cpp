@@ -1,7 +1,7 @@
 // The packer of the texture memory: places that were worked out by hand, and what must hold for any
 // package.
 #include "harness.h"
-#include "texture_layout.h"
+#include "layout.h"
 #include <algorithm>
 #include <map>
 #include <numeric>

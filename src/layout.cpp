@@ -1,4 +1,4 @@
-#include "texture_layout.h"
+#include "layout.h"
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
