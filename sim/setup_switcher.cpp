@@ -41,15 +41,9 @@ struct Link {
 
 #define BANKS "M/E-1,M/E-2,M/E-3,M/E-4,M/E-5,P/P"
 #define FMS "FM1,FM2,FM3,FM4,FM5,FM6,FM7,FM8"
-#define USERS "User1,User2,User3,User4,User5,User6,User7,User8"
 #define PERCENT "num 0 100 0"
 #define OUTPUT "word PGM,PVW,Clean,Key PVW,Sub PGM,Sub PVW,Sub Clean,None"
 #define SOURCE "num 1 64 0"
-#define FUNCTIONS                                                                                  \
-    "FM1,FM2,FM3,FM4,FM5,FM6,FM7,FM8,FM9,FM10,FM11,FM12,FM13,FM14,FM15,FM16,FM17,FM18,FM19,FM20,"  \
-    "CCR1,CCR2,CCR3,CCR4,Color Bkgd 1,Color Bkgd 2,Util 1,Util 2,Aux 1,Aux 2,Aux 3,Aux 4,Aux 5,"   \
-    "Aux 6,Aux 7,Aux 8"
-
 static const std::string SWITCHER = "Engineering Setup@Switcher@";
 static constexpr int KEYS = 8;
 static constexpr int BUSES = 2; // of a bank that can be linked: A and B
@@ -113,7 +107,6 @@ static constexpr Setting settings[] = {
 
 static constexpr Table tables[] = {
     {"Config@Key Config", BANKS, "word Key3 Key4,Key3 Key PVW", "Key3 Key4"},
-    {"Config@User1-8 Config@User", FUNCTIONS, "word None," USERS, "None"},
     {"Config@3D Config@Input Link", "1..64", SOURCE "|bool", "$,false"},
     {"Config@3D Config@FM Output Link", FMS, "word " FMS "|bool", "$,false"},
     {"Transition@Transition Curve@Fader Curve", "Curve1,Curve2,Curve3,Curve4",
@@ -267,10 +260,34 @@ static bool put_me_config(const std::string& path, const std::string& value)
     return true;
 }
 
+// A function belongs to one region: the others lose it.
+static bool put_user(const std::string& path, const std::string& value)
+{
+    const Words wanted = Text_Split(value, ',');
+    static constexpr const char* known[] = {"FM?",  "FM1?",  "FM20",        "CCR?",
+                                            "Aux?", "Aux1?", "Color Bkgd?", "Util?"};
+    for (const std::string& word : wanted)
+        if (!value.empty() && std::none_of(std::begin(known), std::end(known),
+                                           [&](const char* k) { return Text_Matches(word, k); }))
+            return true;
+    const std::string users = path.substr(0, path.size() - 1);
+    for (int n = 1; n <= 8; ++n) {
+        const std::string other = users + std::to_string(n);
+        std::string left;
+        for (const std::string& word : Text_Split(value_of(other), ','))
+            if (std::find(wanted.begin(), wanted.end(), word) == wanted.end())
+                left += (left.empty() ? "" : ",") + word;
+        Tree_Show(other, other == path ? value : left);
+    }
+    return true;
+}
+
 bool SetupSwitcher_Put(const std::string& path, const std::string& value)
 {
     if (path == SWITCHER + "Config@Logical M/E")
         return put_logical(path, value);
+    if (Text_MatchesPath(path, SWITCHER + "Config@User1-8 Config@User?"))
+        return put_user(path, value);
     if (Text_MatchesPath(path, SWITCHER + "Config@M/E Config@*"))
         return put_me_config(path, value);
     for (const Table& t : tables) {

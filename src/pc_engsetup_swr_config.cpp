@@ -2,9 +2,11 @@
 #include "a_bt.h"
 #include "a_ls.h"
 #include "bus.h"
+#include "command.h"
 #include "device.h"
 #include "global.h"
 #include "message.h"
+#include "netio.h"
 #include "page.h"
 #include "pc_engsetup_swr.h"
 #include "tally_value.h"
@@ -113,8 +115,114 @@ static int pc_engsetup_switcher_config_pgm_proc(int msg, MsgArg ax, MsgArg bx, M
 const PC_TBL pc_engsetup_switcher_config_pgm = {.proc_func = pc_engsetup_switcher_config_pgm_proc,
                                                 .create_func = SetupPage_CreateOf<pgm_page>};
 
+// --- What belongs to the user regions: each region tells its functions, a function has one ---
+
+#define USER CONFIG "User1-8 Config@User"
+#define LOCAL_USER LOCAL_CONFIG "User1-8 Config@User"
+
+static constexpr const char* functions[] = {
+    "FM1",   "FM2",   "FM3",   "FM4",   "FM5",   "FM6",   "FM7",         "FM8",         "FM9",
+    "FM10",  "FM11",  "FM12",  "FM13",  "FM14",  "FM15",  "FM16",        "FM17",        "FM18",
+    "FM19",  "FM20",  "CCR1",  "CCR2",  "CCR3",  "CCR4",  "Color Bkgd1", "Color Bkgd2", "Util1",
+    "Util2", "Aux1",  "Aux2",  "Aux3",  "Aux4",  "Aux5",  "Aux6",        "Aux7",        "Aux8",
+    "Aux9",  "Aux10", "Aux11", "Aux12", "Aux13", "Aux14", "Aux15",       "Aux16",
+};
+static constexpr int REGIONS = 8;
+static constexpr const char* regions[] = {"User1", "User2", "User3", "User4", "User5",
+                                          "User6", "User7", "User8", "None"};
+static constexpr const char* NONE = regions[REGIONS];
+
+static SwrRows<std::size(functions)> user_rows;
+static constexpr SETUPFIELD user_fields[] = {
+    SwrField(0, USER, {.part = SETUP_BY_PAGE, .ask = SETUP_HEAR}),
+    SWR_KEY,
+};
+static constexpr SETUPCHOICE user_choices[] = {
+    {.cmd = LOCAL_USER, .field = 0, .offer = SwrWords<regions>}};
+static constexpr SETUPTABLE user_page =
+    SwrTable(user_rows, SwrWords<functions>, user_fields, user_choices);
+
+static void follow_regions(const char* verb)
+{
+    for (int n = 1; n <= REGIONS; n++)
+        Net_SendCommandFormat("%s " USER "%d", verb, n);
+}
+
+// "Aux1,FM3" of a region: those functions are its own, what else was its own is nobody's.
+static void region_told(const char* region, const char* value)
+{
+    char text[CMD_SIZE];
+    char* part[std::size(functions)];
+    CopyText(text, value);
+    const int n = SplitVars(text, part, int(std::size(functions)));
+    for (int row = 0; row < user_rows.rows; row++) {
+        bool is_its = false;
+        for (int i = 0; i < n; i++)
+            is_its = is_its || Same(part[i], user_rows.work[row].key);
+        const char* const told = user_rows.tally[row].cell[0];
+        if (is_its)
+            SetupPage_Take(user_page, row, 0, region);
+        else if (!told[0] || Same(told, region))
+            SetupPage_Take(user_page, row, 0, NONE);
+    }
+    SetupPage_Show(user_page);
+}
+
+static bool region_differs(const char* region)
+{
+    for (int row = 0; row < user_rows.rows; row++)
+        if (Same(user_rows.work[row].cell[0], region) != Same(user_rows.tally[row].cell[0], region))
+            return true;
+    return false;
+}
+
+// All functions of each region that has changed.
+static void put_regions()
+{
+    for (int n = 0; n < REGIONS; n++) {
+        if (!region_differs(regions[n]))
+            continue;
+        char line[CMD_SIZE];
+        PrintText(line, "put " USER "%d#", n + 1);
+        const char* comma = "";
+        for (int row = 0; row < user_rows.rows; row++)
+            if (Same(user_rows.work[row].cell[0], regions[n])) {
+                AppendText(line, comma);
+                AppendText(line, user_rows.work[row].key);
+                comma = ",";
+            }
+        Net_SendCommand(line);
+    }
+}
+
+static int pc_engsetup_switcher_config_user_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    static constexpr char path[] = USER;
+    if (msg == MSG_TALLY && BeginsWith(Text(ax), path)) {
+        const int n = Decimal(Text(ax) + sizeof path - 1);
+        if (n >= 1 && n <= REGIONS)
+            region_told(regions[n - 1], Text(bx));
+    } else if (msg == LMSG_BTNSEL && Same(Text(ax), user_page.execute)) {
+        put_regions();
+    } else {
+        (void)SetupPage_Proc(user_page, msg, ax, bx);
+    }
+    return 0;
+}
+
+static int pc_engsetup_switcher_config_user_create(int on, uint32_t)
+{
+    (void)SetupPage_CreateOf<user_page>(on, 0);
+    follow_regions(on ? "add" : "remove");
+    return !on;
+}
+const PC_TBL pc_engsetup_switcher_config_user = {.proc_func = pc_engsetup_switcher_config_user_proc,
+                                                 .create_func =
+                                                     pc_engsetup_switcher_config_user_create};
+
 void EngSetupSwitcher_Reset()
 {
+    SetupPage_Forget(user_page);
     SetupPage_Forget(me_page);
     SetupPage_Forget(pgm_page);
 }

@@ -662,6 +662,9 @@ static int knob_turned(const SETUPTABLE& t, int box, int value)
     PrintText(text, "%d", value);
     for (int i = 0; i < t.choice_count; i++)
         if (t.choices[i].box == box) {
+            // Until it is told, the box stands at nothing: its knob's first report is no turn.
+            if (!*SetupPage_Text(t, t.state->cursor, t.choices[i].field))
+                return 1;
             set_selected(t, t.choices[i], text);
             return 1;
         }

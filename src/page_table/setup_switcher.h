@@ -94,13 +94,18 @@ inline constexpr LS_TBL ls_engsetup_switcher_config_pgm[] = {
 static_assert(ListsAreSound(ls_engsetup_switcher_config_pgm));
 
 // What belongs to the user regions.
-inline constexpr const char* user_items[] = {
-    "FM1",  "FM2",  "FM3",  "FM4",  "FM5",  "FM6",  "FM7",  "FM8",  "FM9",          "FM10",         "FM11",   "FM12",   "FM13",  "FM14",  "FM15",  "FM16",  "FM17",  "FM18",
-    "FM19", "FM20", "CCR1", "CCR2", "CCR3", "CCR4", "Color Bkgd 1", "Color Bkgd 2", "Util 1", "Util 2", "Aux 1", "Aux 2", "Aux 3", "Aux 4", "Aux 5", "Aux 6", "Aux 7", "Aux 8",
+inline constexpr BT_TBL bt_engsetup_switcher_config_user[] = {
+    JumpPopUp({.id = 33, .caption = "User\nRegion", .cmd = CONFIG("User1-8 Config@User")}),
+    TO_CONFIG,
+    SWR_CLEAR_EXECUTE,
+    BT_END,
 };
-inline constexpr SETUPWORD user_words[] = {WORD("None"), WORD("User1"), WORD("User2"), WORD("User3"), WORD("User4"), WORD("User5"), WORD("User6"), WORD("User7"), WORD("User8"), {}};
-inline constexpr SETUPCOLUMN user_columns[] = {{.head = "User Region", .width = 275, .path = SWR "Config@User1-8 Config@User", .part = 1, .words = user_words, .caption = "User\nRegion"}};
-SHEET_OF(config_user, std::size(user_items), user_items, "Function", 275, user_columns, MORE(to_config));
+static_assert(ButtonsAreSound(bt_engsetup_switcher_config_user));
+inline constexpr LS_TBL ls_engsetup_switcher_config_user[] = {
+    SwrList({.hn = 2, .head = {"Function", "User Region"}, .width = {275, 275}, .group = {1, 999}}),
+    LS_END,
+};
+static_assert(ListsAreSound(ls_engsetup_switcher_config_user));
 
 inline constexpr SETUPWORD bank_words[] = {WORD("M/E-1"), WORD("M/E-2"), WORD("M/E-3"), WORD("M/E-4"), WORD("M/E-5"), WORD("P/P"), {}};
 inline constexpr SETUPCOLUMN logicalme_columns[] = {{.head = "Logical M/E", .width = 275, .path = SWR "Config@Logical M/E", .part = SETUP_EACH_ROW, .words = bank_words, .is_swapped = 1, .caption = "Logical\nM/E"}};
@@ -427,7 +432,7 @@ SHEET_OF(link_gpilink_adjust, 16, nullptr, "No", 60, gpilink_adjust_columns, MOR
 #define LINK_SHEET(name) {TABS(6), SHEET_OBJECTS(engsetup_switcher_##name), Code(SetupLink_Code<engsetup_switcher_##name>)}
 inline constexpr PAGE setup_switcher_pages[] = {
     {.id = 0x73310000, .tree = TREE("Config"), .obj = OBJECTS(1, config)},
-    {.id = 0x73310001, .tree = TREE("Config", "User1-8 Config"), .obj = SHEET(1, config_user)},
+    {.id = 0x73310001, .tree = TREE("Config", "User1-8 Config"), .obj = OBJECTS(1, config_user)},
     {.id = 0x73310102, .tree = TREE("Config", "PGM Config"), .obj = OBJECTS(1, config_pgm)},
     {.id = 0x73310003, .tree = TREE("Config", "Logical M/E"), .obj = SHEET(1, config_logicalme)},
     {.id = 0x73310004, .tree = TREE("Config", "Side Flags"), .obj = SHEET(1, config_sideflags)},

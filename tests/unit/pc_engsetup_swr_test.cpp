@@ -55,7 +55,7 @@ TEST_F(SwitcherSetup, EachPageAsksForWhatItSets)
         const char* path; // behind "Engineering Setup@Switcher@"
     } const pages[] = {
         {0x73310000, "Config@M/E Config@P/P"},
-        {0x73310001, "Config@User1-8 Config@User"},
+        {0x73310001, "Config@User1-8 Config@User8"},
         {0x73310002, "Config@PGM Config@List"},
         {0x73310002, "Config@M/E Output Assign@List"},
         {0x73310003, "Config@Logical M/E"},
@@ -117,6 +117,26 @@ TEST_F(SwitcherSetup, TheKeysOfAnOutputGoAsAMaskBesideItsSide)
                             "put " + SWITCHER + "Config@PGM Config@List#M/E-1,2,81"));
     (void)Push(CLEAR);
     EXPECT_EQ(Row(1, 10), "M/E-1,2|None||||||||");
+}
+
+TEST_F(SwitcherSetup, AFunctionMovesFromOneUserRegionToAnother)
+{
+    Start(0x73310001, "Config@User1-8 Config@User",
+          {"1#FM2,Aux1", "2#FM3", "3#FM6,FM7,FM8,FM9,FM10,FM11,FM12,FM13,FM14,FM15", "9#FM5", "x"});
+    EXPECT_EQ(Row(0, 2), "FM1|None");
+    EXPECT_EQ(Row(1, 2), "FM2|User1");
+    EXPECT_EQ(Row(2, 2), "FM3|User2");
+    EXPECT_EQ(Row(14, 2), "FM15|User3");
+    SelectRow(1);
+    (void)Push(33);
+    (void)Answer(2); // User2
+    EXPECT_EQ(Row(1, 2), "FM2|User2*");
+    const std::string user = SWITCHER + "Config@User1-8 Config@User";
+    EXPECT_THAT(Execute(), ElementsAre("put " + user + "1#Aux1", "put " + user + "2#FM2,FM3"));
+    TellAll(user, {"1#Aux1", "2#FM2,FM3"});
+    EXPECT_EQ(Row(1, 2), "FM2|User2");
+    TellAll(user, {"2#FM3"}); // another panel frees it
+    EXPECT_EQ(Row(1, 2), "FM2|None");
 }
 
 TEST_F(SwitcherSetup, ALogicalBankIsSwappedWithTheOneThatHadIt)
