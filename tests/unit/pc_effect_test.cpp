@@ -214,6 +214,36 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
                                          links({{SS_REGION_ME1, "3"}}, EFF_REGION_MASTER)));
 }
 
+TEST_F(EffectPages, AllCellsOrTheSwitchersAreChosenTogether)
+{
+    enum : int { ALL = 49, SWR_ALL = 50, ASSIGN = 51, STORE = 53 };
+    const auto stored = [](int switchers, int others) {
+        std::string text = "put Effect@Master Timeline@Store/Recall@Edit@Store#1";
+        for (int region = 0; region < EFF_REGION_MASTER; region++) {
+            const bool is_sub = region >= SS_REGION_ME1_SUB && region <= SS_REGION_PP_SUB;
+            const int link = is_sub ? 0 : region <= SS_REGION_USER8 ? switchers : others;
+            text += "," + std::to_string(link);
+        }
+        return text;
+    };
+    const auto assign = [](std::initializer_list<int> keys, int knob) {
+        for (const int key : keys) {
+            (void)Press(key);
+            Pass(200);
+        }
+        SendMessage(LMSG_KNOBVAR, 1, knob, 0, 0);
+        (void)Press(ASSIGN);
+        Pass(200);
+    };
+    std::fill(std::begin(multiprogram2_me), std::end(multiprogram2_me), 0);
+    Open(0x62110001);
+    assign({ALL}, 5);
+    EXPECT_THAT(Puts(STORE), ElementsAre(stored(5, 5)));
+    Pass(200);
+    assign({ALL, SWR_ALL}, 7); // all were on: off, then the switcher's
+    EXPECT_THAT(Puts(STORE), ElementsAre(stored(7, 5)));
+}
+
 TEST_F(EffectPages, TheOverviewCopiesEachRegionThatHoldsTheRegister)
 {
     Deliver(EFFECTS + "M/E-1", "7,S,A,U,N,0");
