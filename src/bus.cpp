@@ -16,6 +16,7 @@
 #include "page_family.h"
 #include "pane.h"
 #include "pc_file_all.h"
+#include "pc_macro_online_edit.h"
 #include "register.h"
 #include "scrollbar.h"
 #include "text.h"
@@ -284,6 +285,7 @@ void ReceiveCommand_Management()
         AutoLoad_LinkLost();
         FileAll_LinkLost();
         File_LinkLost();
+        MacroOnline_LinkLost();
     }
     bus_drain_frames();
     bus_drain_shp();

@@ -2,10 +2,12 @@
 #include "a_bt.h"
 #include "a_ls.h"
 #include "colours.h"
+#include "global.h"
 #include "log.h"
 #include "macro_symbol.h"
 #include "message.h"
 #include "netio.h"
+#include "page.h"
 #include "pc_macro.h"
 #include "tally_value.h"
 #include "tdl.h"
@@ -98,6 +100,7 @@ static struct {
 } on;                                 // valid from create(1) to create(0)
 
 static OnlineEvent events[MACRO_EVENTS]; // the list shows them from here
+static bool is_server_silent;            // it was asked or told something; until it says a word
 
 // --- What the server tells ---
 
@@ -307,7 +310,9 @@ static void show_events()
 static void draw_head()
 {
     char text[32];
-    const char* const note = on.is_locked ? "The register is locked" : "";
+    const char* const note = is_server_silent ? "The server does not answer"
+                             : on.is_locked   ? "The register is locked"
+                                              : "";
     TDL_FillRectS(HEAD.x1, HEAD.y1, HEAD.x2, HEAD.y2, BLACK);
     TDL_SymbolWS(HEAD.x1 + 4, HEAD.y1 + 4, 200, on.name, FONT_HEAD, TEAL);
     TDL_SymbolWS(HEAD.x1 + 210, HEAD.y1 + 4, 250, note, FONT_HEAD, ORANGE);
@@ -346,6 +351,7 @@ static int take_tally(const char* path, const char* value)
     for (const auto& t : tallies)
         if (Same(path, OnlineEditCmd[t.cmd])) {
             t.take(value);
+            is_server_silent = false;
             on.is_head_dirty = true;
         }
     return 0;
@@ -403,8 +409,24 @@ static int insert_sel(int is_behind)
     return 0;
 }
 
+// While the link is down a touch waits to be sent. A second one must not: the list does not show
+// what the first will have done to it.
+static bool refuse_behind_another()
+{
+    const bool is_waiting = Net_QueueLength() > 0;
+    is_server_silent |= is_waiting;
+    on.is_head_dirty |= is_waiting;
+    return is_waiting;
+}
+
 static int edit_btn_sel(const char* command)
 {
+    if (Same(command, OnlineEditCmd[LocalPrevious]))
+        return step(on.f_event_no - 1);
+    if (Same(command, OnlineEditCmd[LocalNext]))
+        return step(on.f_event_no + 1);
+    if (refuse_behind_another())
+        return 0;
     if (Same(command, OnlineEditCmd[LocalBefore]))
         return insert_sel(0);
     if (Same(command, OnlineEditCmd[LocalAfter]))
@@ -413,10 +435,6 @@ static int edit_btn_sel(const char* command)
         return send_selected(Modify);
     if (Same(command, OnlineEditCmd[LocalDelete]))
         return send_selected(Delete);
-    if (Same(command, OnlineEditCmd[LocalPrevious]))
-        return step(on.f_event_no - 1);
-    if (Same(command, OnlineEditCmd[LocalNext]))
-        return step(on.f_event_no + 1);
     return 0;
 }
 
@@ -466,6 +484,17 @@ static int pc_macro_online_edit_create(int is_on, uint32_t)
     Net_SendCommandFormat("read %s", OnlineEditCmd[MacroEditMode]);
     read_eventdata_cmd(1);
     return 0;
+}
+
+// The page is built anew at once: it is empty until the link is back and its questions are
+// answered.
+void MacroOnline_LinkLost()
+{
+    if (!on.is_open)
+        return;
+    is_server_silent = true;
+    if (GL_CreatePage == 0)
+        GL_CreatePage = GL_NowPage;
 }
 
 const PC_TBL pc_macro_online_edit = {pc_macro_online_edit_proc, pc_macro_online_edit_create};

@@ -7,6 +7,9 @@
 
 extern const PC_TBL pc_macro_online_edit;
 
+// The text link has fallen: what the page shows may have changed when it is back.
+void MacroOnline_LinkLost();
+
 constexpr int LIST_MACRO_ONLINE = 1;
 enum : int { // its columns
     ONLINE_COL_CONTENTS,

@@ -152,6 +152,12 @@ class Macros(DeskCase):
 
     def test_5_the_online_editor_goes_on_when_the_server_is_back(self):
         desk, edit = self.desk, "put Macro@Reg@On Line Edit@"
+        desk.wire()
+        desk.console("drop text 1500")
+        time.sleep(0.5)
+        desk.touch(*grid(54))  # the list is empty: nothing is deleted unseen
+        lines = desk.wait_wire(edit + "Current Work Register Event Data#1", 10)
+        self.assertFalse([line for line in lines if line.startswith(edit + "Delete")])
         desk.console("restart")
         desk.wait_wire(edit + "Current Work Register Event Data#1", 25)
         time.sleep(2)

@@ -4,6 +4,7 @@
 #include "command.h"
 #include "file.h"
 #include "file_scp.h"
+#include "netio.h"
 #include "pane.h"
 #include "pc_file_dual.h"
 #include "pc_macro.h"
@@ -677,6 +678,12 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
     Pass(200);
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
                 ElementsAre("put " + ONLINE + "Delete#4,0,1", "put " + ONLINE + "Delete#1,0,3"));
+    // Nothing is taken twice while the link is down.
+    Pass(200);
+    Net_SendCommand("put X#1");
+    const std::string key = "LOCAL@" + ONLINE + "Delete";
+    SendMessage(LMSG_BTNSEL, Arg(key.c_str()), Arg(""), 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put X#1"));
     (void)Tell(ONLINE + "Current Macro Register Info#3,OPENING,L,4,1");
     Pass(200);
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE), IsEmpty());
