@@ -229,7 +229,7 @@ static void fl_tally(const char* path, const char* value)
 int FL_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: fl_redraw(); return 0;
+    case MSG_REDRAW: fl_redraw(int(ax)); return 0;
     case MSG_TALLY: fl_tally(Text(ax), Text(bx)); return 0;
     case LMSG_FMCTRL3CHANGE: fmctrl_change(int(ax), reinterpret_cast<const ELEMENT*>(bx)); return 0;
     default: return 0;

@@ -288,8 +288,8 @@ static void get_dirlist_result(uint32_t label, int id, const char* path, const c
         dirGet_tly(path, pair[1], id);
         return;
     }
-    fl_mark_dirty(id);
     fl.now[id].dir_label = 0;
+    fl.now[id].is_dirty = true;
     SendMessage(LMSG_FLLISTCHANGE, id, fl.now[id].folders, 1, 0);
     check_empty(id);
 }
@@ -302,8 +302,8 @@ static void get_filelist_result(uint32_t label, int id, const char* path, const 
         file_find_tly(path, pair[1], id);
         return;
     }
-    fl_mark_dirty(id);
     fl.now[id].file_label = 0;
+    fl.now[id].is_dirty = true;
     SendMessage(LMSG_FLLISTCHANGE, id, fl.now[id].files, 2, 0);
     check_empty(id);
 }

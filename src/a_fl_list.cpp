@@ -4,6 +4,7 @@
 #include "global.h"
 #include "memory.h"
 #include "text.h"
+#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -24,25 +25,17 @@ static int page_list(int id)
 static void remember_selected(int id)
 {
     const int list = page_list(id);
-    int selected = LS_GetSelected(list, 0);
+    const int selected = LS_GetSelected(list, 0);
     const char* const name = selected >= 0 ? LS_GetData(list, selected, COLUMN_NAME) : nullptr;
     CopyText(fl.now[id].selected, name ? name : "");
-    int n = 0;
-    int row = 0;
-    for (FL_LIST* node = fl.list[id].head; node; node = node->next) {
-        node->is_selected = row++ == selected;
-        if (node->is_selected)
-            selected = LS_GetSelected(list, ++n);
-    }
+    for (FL_LIST* node = fl.list[id].head; node; node = node->next)
+        node->is_selected = node->row >= 0 && LS_IsSelected(list, node->row, 0) == 1;
 }
 
-// Before the first change since the rows were shown: they are still those of the elements.
-void fl_mark_dirty(int id)
+static void mark_dirty(int id)
 {
-    if (!fl.is_open || !fl_is_side(id) || fl.now[id].is_dirty)
-        return;
-    remember_selected(id);
-    fl.now[id].is_dirty = true;
+    if (fl_is_side(id))
+        fl.now[id].is_dirty = true;
 }
 
 // Before an element goes: the page's list holds pointers to its texts.
@@ -50,9 +43,11 @@ static void hide_rows(int id)
 {
     if (!fl.is_open || !fl_is_side(id) || fl.now[id].is_hidden)
         return;
-    fl_mark_dirty(id);
+    remember_selected(id);
     (void)LS_SetNData(page_list(id), 0); // a page need not have the list
-    fl.now[id].is_hidden = true;
+    for (FL_LIST* node = fl.list[id].head; node; node = node->next)
+        node->row = -1;
+    fl.now[id].is_hidden = fl.now[id].is_dirty = true;
 }
 
 // --- Order ---
@@ -65,17 +60,46 @@ static int compare(const ELEMENT& a, const ELEMENT& b)
     return strcmp(a.full_name, b.full_name);
 }
 
-// From the end: a drive tells its files in about this order.
-FL_LIST* fl_list_find_joint_point(const FL_CHAIN& list, const ELEMENT& e)
+// How many stand at or before the place of e.
+static int elements_up_to(const FL_CHAIN& list, const ELEMENT& e)
 {
-    FL_LIST* node = list.tail;
-    while (node && compare(node->file.element, e) > 0)
-        node = node->prev;
-    return node;
+    int from = 0;
+    int to = list.count;
+    while (from < to) {
+        const int mid = from + (to - from) / 2;
+        if (compare(list.at[mid]->file.element, e) <= 0)
+            from = mid + 1;
+        else
+            to = mid;
+    }
+    return from;
 }
 
-static void link_behind(FL_CHAIN& list, FL_LIST* before, FL_LIST* node)
+FL_LIST* fl_list_find_joint_point(const FL_CHAIN& list, const ELEMENT& e)
 {
+    const int n = elements_up_to(list, e);
+    return n > 0 ? list.at[n - 1] : nullptr;
+}
+
+static bool make_room(FL_CHAIN& list)
+{
+    if (list.count < list.room)
+        return true;
+    const int room = list.room ? list.room * 2 : 64;
+    void* const at = GDL_Realloc(list.at, sizeof(FL_LIST*) * size_t(room));
+    if (!at)
+        return false;
+    list.at = static_cast<FL_LIST**>(at);
+    list.room = room;
+    return true;
+}
+
+static void link_in(FL_CHAIN& list, FL_LIST* node)
+{
+    const int n = elements_up_to(list, node->file.element);
+    FL_LIST* const before = n > 0 ? list.at[n - 1] : nullptr;
+    memmove(list.at + n + 1, list.at + n, sizeof(FL_LIST*) * size_t(list.count - n));
+    list.at[n] = node;
     node->prev = before;
     node->next = before ? before->next : list.head;
     (node->next ? node->next->prev : list.tail) = node;
@@ -92,15 +116,15 @@ static void count_element(int id, const FL_LIST* node, int n)
 FL_LIST* fl_list_insert(int id, const FL_FILE& file)
 {
     FL_CHAIN& list = fl.list[id];
-    if (list.count >= FL_ROWS)
+    if (list.count >= FL_ROWS || !make_room(list))
         return nullptr;
     void* const room = GDL_Malloc(sizeof(FL_LIST));
     if (!room)
         return nullptr;
     auto* const node = new (room) FL_LIST;
-    fl_mark_dirty(id);
+    mark_dirty(id);
     node->file = file;
-    link_behind(list, fl_list_find_joint_point(list, file.element), node);
+    link_in(list, node);
     count_element(id, node, 1);
     PrintText(node->frames, "%d", file.element.duration);
     return node;
@@ -108,14 +132,14 @@ FL_LIST* fl_list_insert(int id, const FL_FILE& file)
 
 void fl_list_change(int id, FL_LIST* node, const ELEMENT& e)
 {
-    fl_mark_dirty(id);
+    mark_dirty(id);
     node->file.element = e;
     PrintText(node->frames, "%d", e.duration);
 }
 
 void fl_frame_added(int id, FL_LIST* clip)
 {
-    fl_mark_dirty(id);
+    mark_dirty(id);
     clip->file.element.duration++;
     PrintText(clip->frames, "%d", clip->file.element.duration);
 }
@@ -138,19 +162,16 @@ FL_LIST* fl_list_of_name(int id, const char* full_name, int type)
 
 FL_LIST* fl_list_at(int id, int index)
 {
-    FL_LIST* node = index >= 0 ? fl.list[id].head : nullptr;
-    while (node && index-- > 0)
-        node = node->next;
-    return node;
+    return index >= 0 && index < fl.list[id].count ? fl.list[id].at[index] : nullptr;
 }
 
 int fl_list_place(int id, const FL_LIST* node)
 {
-    int place = 0;
-    for (const FL_LIST* other = fl.list[id].head; other; other = other->next, place++)
-        if (other == node)
-            return place;
-    return -1;
+    const FL_CHAIN& list = fl.list[id];
+    int n = elements_up_to(list, node->file.element) - 1;
+    while (n >= 0 && list.at[n] != node)
+        n--; // another one with that name
+    return n;
 }
 
 // --- Removal ---
@@ -158,7 +179,9 @@ int fl_list_place(int id, const FL_LIST* node)
 void fl_list_remove(int id, FL_LIST* node)
 {
     FL_CHAIN& list = fl.list[id];
+    const int n = fl_list_place(id, node);
     hide_rows(id);
+    memmove(list.at + n, list.at + n + 1, sizeof(FL_LIST*) * size_t(list.count - n - 1));
     if (fl_is_side(id)) {
         auto& now = fl.now[id];
         if (now.clip == node)
@@ -175,9 +198,20 @@ void fl_list_remove(int id, FL_LIST* node)
 
 void fl_list_free(int id)
 {
+    FL_CHAIN& list = fl.list[id];
     hide_rows(id);
-    while (FL_LIST* node = fl.list[id].head)
-        fl_list_remove(id, node);
+    for (FL_LIST* node = list.head; node;) {
+        FL_LIST* const next = node->next;
+        GDL_Free(node);
+        node = next;
+    }
+    GDL_Free(list.at);
+    list = {};
+    if (!fl_is_side(id))
+        return;
+    auto& now = fl.now[id];
+    now.clip = now.found = nullptr;
+    now.folders = now.files = 0;
 }
 
 // --- Show ---
@@ -251,6 +285,8 @@ static void show(int id)
 {
     auto& now = fl.now[id];
     const int list = page_list(id);
+    if (!now.is_hidden)
+        remember_selected(id);
     now.is_dirty = now.is_hidden = false;
     if (fl.side[id].device == FL_DIRDATA_DEV_NON || // the page has something else there
         LS_SetHeadStr(list, COLUMN_NAME, head_of(id)) != 0)
@@ -264,18 +300,29 @@ static void show(int id)
     }
     now.is_entered = false;
     int row = 0;
-    for (const FL_LIST* node = fl.list[id].head; node; node = node->next)
-        show_row(list, row++, node);
+    for (FL_LIST* node = fl.list[id].head; node; node = node->next) {
+        node->row = row++;
+        show_row(list, node->row, node);
+    }
     (void)LS_SetNData(list, row);
     (void)LS_RedrawData(list);
     select_again(id);
 }
 
-void fl_redraw()
+// A long list takes some milliseconds, and the hub tells a hundred elements a pass: it is not shown
+// in every one, unless its rows are hidden.
+void fl_redraw(int elapsed_ms)
 {
-    for (int id = 0; id < FL_SIDES; id++)
-        if (fl.is_open && fl.now[id].is_dirty)
-            show(id);
+    constexpr int LONG = 500;
+    constexpr int PAUSE_MS = 100;
+    for (int id = 0; id < FL_SIDES; id++) {
+        auto& now = fl.now[id];
+        now.pause_ms = std::max(0, now.pause_ms - elapsed_ms);
+        if (!fl.is_open || !now.is_dirty || (now.pause_ms > 0 && !now.is_hidden))
+            continue;
+        show(id);
+        now.pause_ms = fl.list[id].count > LONG ? PAUSE_MS : 0;
+    }
 }
 
 void fl_show_selected(int id, int row)

@@ -23,7 +23,8 @@ struct FL_LIST {
     FL_LIST* next = nullptr;
     FL_LIST* prev = nullptr;
     char frames[12] = "";     // as the page's list shows them
-    bool is_selected = false; // in the page's list, when its rows were shown last
+    int row = -1;             // of the page's list; -1: not shown yet
+    bool is_selected = false; // there, when it was last looked
 };
 
 struct CURRENT_INFO_DRV {
@@ -42,6 +43,8 @@ struct FL_CURRENT_INFO {
 struct FL_CHAIN {
     FL_LIST* head = nullptr;
     FL_LIST* tail = nullptr;
+    FL_LIST** at = nullptr; // all of them in their order: a store may have thousands
+    int room = 0;
     int count = 0;
 };
 
@@ -55,6 +58,7 @@ struct FL_STATE {
         bool is_gone = false;    // the folder is not on its drive
         bool is_entered = false; // another folder: its list begins at the top
         bool is_dirty = false;
+        int pause_ms = 0;       // until a long list is shown anew
         bool is_hidden = false; // its rows are not those of the page's list
         char head[FL_PATH_SIZE + 16] = "";
         char selected[ELEMENT_NAME_SIZE] = ""; // to be selected again
@@ -88,8 +92,7 @@ void fl_list_change(int id, FL_LIST* node, const ELEMENT& e); // of the same nam
 void fl_list_remove(int id, FL_LIST* node);
 void fl_list_free(int id);
 void fl_frame_added(int id, FL_LIST* clip);
-void fl_mark_dirty(int id); // before what the side shows changes
-void fl_redraw();
+void fl_redraw(int elapsed_ms);
 void fl_show_selected(int id, int row);
 
 // --- a_fl_drive.cpp ---
