@@ -221,6 +221,9 @@ void SetupSwitcherIo_Install()
                 node->type = type_of(kind.type);
             Tree_Preset(path, kind.start);
         }
+    for (int n = 1; n <= 4; ++n)
+        Tree_Preset(SWITCHER + Text_Format("Input@FC Input Select@FC%d", n),
+                    Text_Format("%d-%d", 4 * n - 3, 4 * n));
     for (int n = 1; n <= 136; ++n)
         Tree_Preset(SWITCHER + Text_Format("Input@Source Name@%d", n),
                     n <= 40 ? Text_Format("CAM%d", n) : "");
