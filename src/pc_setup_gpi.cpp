@@ -127,6 +127,15 @@ int SetupGpi_Offer(int column, const char** texts, int max)
     return targets_of(where_of(SetupSheet_Now(*gp.table, action_column())), texts, max);
 }
 
+// An action that is done nowhere has no target to choose.
+void SetupGpi_Changed()
+{
+    if (!gp.sheet)
+        return;
+    const int where = where_of(SetupSheet_Now(*gp.table, action_column()));
+    (void)BT_SetDisable(BTN_GPI_TARGET, where == GPI_NOWHERE);
+}
+
 // --- What the server tells ---
 
 // The other path, which is empty, says nothing.

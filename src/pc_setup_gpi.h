@@ -16,9 +16,11 @@
 void SetupGpi_FromHex(const char* value, const char* now, char* text, size_t size);
 void SetupGpi_ToHex(const char* text, char* value, size_t size);
 int SetupGpi_Offer(int column, const char** texts, int max);
+void SetupGpi_Changed();
 
 constexpr int GPI_ACTION_COLUMNS = 3;
 constexpr int GPI_REGISTERS = 99;
+constexpr int BTN_GPI_TARGET = 35; // the third key of either page
 
 inline constexpr SETUPWORD gpi_trigger_words[] = {{"None", "None"},
                                                   {"Rising Edge", "Rising Edge"},
@@ -134,7 +136,8 @@ constexpr SETUPSHEET SetupGpi_Output(int ports)
             .rows = ports,
             .key_head = "Port",
             .key_width = 46,
-            .offer = SetupGpi_Offer};
+            .offer = SetupGpi_Offer,
+            .changed = SetupGpi_Changed};
 }
 constexpr SETUPSHEET SetupGpi_Input(int ports)
 {
@@ -143,7 +146,8 @@ constexpr SETUPSHEET SetupGpi_Input(int ports)
             .rows = ports,
             .key_head = "Port",
             .key_width = 46,
-            .offer = SetupGpi_Offer};
+            .offer = SetupGpi_Offer,
+            .changed = SetupGpi_Changed};
 }
 
 // --- Inputs whose level, high or low, chooses between two states ---

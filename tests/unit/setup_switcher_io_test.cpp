@@ -1,0 +1,115 @@
+// The pages of the switcher's inputs, outputs and device interfaces: what each asks for, and that
+// every key does something.
+#include "a_bt.h"
+#include "pc_setup_fcadjust.h"
+#include "pc_setup_output.h"
+#include "setup_desk.h"
+
+namespace
+{
+const std::string SWITCHER = "Engineering Setup@Switcher@";
+
+struct SwitcherIo : SetupTest {
+    void TearDown() override
+    {
+        GL_CreatePage = 0;
+        (void)Leave();
+        SetupFcAdjust_Reset();
+        SetupOutput_Reset();
+        SetupTest::TearDown();
+    }
+    // All that a press may change without a line, a pane or another page.
+    static std::string Seen()
+    {
+        std::string seen;
+        for (int row = 0; row < LS_GetNData(1); row++)
+            seen += Row(row, 9);
+        for (const BT_MEM* b = bt_first(); b->id > 0; b++)
+            seen += std::to_string(b->status);
+        return seen;
+    }
+    static bool HasEffect(int id)
+    {
+        const std::string before = Seen();
+        const Lines lines = Push(id);
+        const bool has = !lines.empty() || Pane_GetActiveID() || GetWindow() != WINDOW_NONE ||
+                         GL_CreatePage != 0 || Seen() != before;
+        GL_CreatePage = 0;
+        Dismiss();
+        return has;
+    }
+};
+} // namespace
+
+TEST_F(SwitcherIo, EachPageAsksForItsSettings)
+{
+    static const struct {
+        uint32_t page;
+        std::vector<const char*> paths;
+    } cases[] = {
+        {0x73320000, {"Input@Source Name@136", "Input@H Phase@1"}},
+        {0x73320001, {"Input@FC Input Select@FC4"}},
+        {0x73320003, {"Input@Internal FC@Convert Mode@8", "Input@Internal FC@Format@1"}},
+        {0x73320004, {"Input@4K Active Size@45-48"}},
+        {0x73320005, {"Input@Video Process@Y Gain@1", "Input@Video Process@Black Level@136"}},
+        {0x73320006, {"Input@CCR@Input@CCR1"}},
+        {0x73320002, {"Input@FC Adjust@Enhancer Mode@5", "Input@FC Adjust@FC Signal Format"}},
+        {0x73320007, {"Input@FC Adjust@Motion Sel@3"}},
+        {0x73320008, {"Input@FC Adjust 3G@Motion Sel@3"}},
+        {0x73320009, {"Input@4K Adjust@Division@3", "Input@4K Adjust@IP@0"}},
+        {0x73330000, {"Output@Assign", "Output@Source", "Output@Inhibit"}},
+        {0x73330001,
+         {"Output@Assign", "Output@Source", "Output@Inhibit",
+          "Device Interface@GPI Input@H/L Set@FC Input/Output@8"}},
+        {0x73330002, {"Output@Crop@Bottom@48"}},
+        {0x73330003, {"Output@V Blank@Last Line@48"}},
+        {0x73330004, {"Output@Video Clip@Chroma@1"}},
+        {0x73330005, {"Output@Safe Title@Area@1"}},
+        {0x73330006, {"Output@Re-Entry Assign@P/P Out6"}},
+        {0x73330009, {"Output@FC Output Assign@8"}},
+        {0x73330010, {"Output@FC Output Select@FC1"}},
+        {0x73330011, {"Output@Internal FC@Output@8"}},
+        {0x73330012, {"Output@Internal FC@FC Config@Side@1"}},
+        {0x73330013, {"Output@Internal FC@FC Format@1"}},
+        {0x73330014, {"Output@Multi Viewer@Layout@MV2"}},
+        {0x73330015, {"Output@Multi Viewer@Output Assign@MV2-16"}},
+        {0x73370000, {"Device Interface@Protocol@Remote4"}},
+        {0x73370001, {"Device Interface@Remote Assign@Remote1"}},
+        {0x73370002, {"Device Interface@AUX Control@Control@48"}},
+        {0x73370003, {"Device Interface@DME Type@DME4"}},
+        {0x73370013, {"SDI I/F@DME1", "SDI I/F@DME4"}},
+        {0x73370004, {"Device Interface@GPI Input@Action Type Region@8@1", "Config@Key Config"}},
+        {0x73370005, {"Device Interface@GPI Input@H/L Set@Function@8"}},
+        {0x73370009, {"Device Interface@AUX Mix@Mix@1/2"}},
+    };
+    for (const auto& c : cases) {
+        const Lines lines = Open(c.page);
+        for (const char* path : c.paths)
+            EXPECT_THAT(lines, testing::Contains("add " + SWITCHER + path)) << std::hex << c.page;
+        (void)Leave();
+    }
+}
+
+TEST_F(SwitcherIo, EveryKeyDoesSomething)
+{
+    int keys = 0;
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        const uint32_t tab = page->id >> 16;
+        const uint32_t id = page->id & 0xFFFF00FF;
+        if ((tab != 0x7332 && tab != 0x7333 && tab != 0x7337) || SearchPageTable(id) != page)
+            continue;
+        (void)Open(id);
+        SelectRow(LS_GetNData(1) - 1); // has nothing in hand
+        std::vector<int> ids;
+        for (const BT_MEM* b = bt_first(); b->id > 0; b++)
+            ids.push_back(b->id);
+        for (const int key : ids) {
+            if (Usable({key}).empty() || BT_GetVisible(key) != BT_ENABLED)
+                continue;
+            EXPECT_TRUE(HasEffect(key)) << std::hex << id << " key " << std::dec << key;
+            keys++;
+        }
+        (void)Leave();
+    }
+    EXPECT_GT(keys, 150);
+}
