@@ -37,6 +37,7 @@ constexpr int FONT = 3;
 constexpr Rect PICTURES = {405, 124, 702, 343};
 constexpr Rect OUTPUT_AREA = {405, 351, 702, 434};
 constexpr int LINE_PX = 21;
+constexpr int ROOM_PX = 150; // beside a key
 constexpr int NAME_CHARACTERS = 8;
 constexpr int CLIP_CHARACTERS = 4; // the frame takes the others
 constexpr const char* EXISTS = "This name is already existing.\nPlease enter other name.";
@@ -56,7 +57,7 @@ static bool is_pair_on = false; // what a recall takes: a choice of this panel's
 static struct {
     bool is_open = false;
     FMEM1KIND kind = FMEM1_STILL;
-    bool has_outputs = false; // shows them
+    bool has_outputs = false; // shows them, or else how many registers are empty
     bool is_dirty = false;
     int folder_pane = 0;
     int move_pane = 0;
@@ -557,6 +558,7 @@ static int tally(const char* path, const char* value)
         output_tally(path + sizeof RECALL - 1, value);
     else
         frozen(path, value);
+    fm1.is_dirty |= BeginsWith(path, "Frame Mem@Status@Store Number");
     return 0;
 }
 
@@ -577,6 +579,16 @@ static void draw_outputs()
     }
 }
 
+static void draw_room()
+{
+    char text[32];
+    const Rect& a = OUTPUT_AREA;
+    PrintText(text, "%d", SYS_StoreFree);
+    (void)TDL_FillRectS(a.x1, a.y1, a.x1 + ROOM_PX, a.y2, BLACK);
+    (void)TDL_SymbolS(a.x1, a.y1, "Empty Registers", FONT, LABEL);
+    (void)TDL_SymbolS(a.x1, a.y1 + LINE_PX, text, FONT, WHITE);
+}
+
 static int redraw(int elapsed_ms)
 {
     if (Fmem1_Pass(elapsed_ms))
@@ -585,10 +597,8 @@ static int redraw(int elapsed_ms)
         return 0;
     fm1.is_dirty = false;
     Fmem1_DrawPictures(PICTURES);
-    if (fm1.has_outputs)
-        draw_outputs();
-    TDL_UpdateRect(PICTURES.x1, PICTURES.y1, PICTURES.x2,
-                   fm1.has_outputs ? OUTPUT_AREA.y2 : PICTURES.y2);
+    (fm1.has_outputs ? draw_outputs : draw_room)();
+    TDL_UpdateRect(PICTURES.x1, PICTURES.y1, PICTURES.x2, OUTPUT_AREA.y2);
     return 0;
 }
 
@@ -696,7 +706,7 @@ static int fmem1_create(int on, uint32_t kind)
         return 1;
     fm1.is_open = true;
     fm1.kind = kind < FMEM1_KINDS ? FMEM1KIND(kind) : FMEM1_STILL;
-    fm1.has_outputs = BT_GetVisible(BTN_FMEM1_OUT) >= 0;
+    fm1.has_outputs = BT_GetVisible(BTN_FMEM1_AUTO_STORE) < 0;
     GL_FreezeStore_Exec = 0; // of a freeze that was left long ago
     Fmem1_Open(fm1.kind);
     follow_outputs("add");

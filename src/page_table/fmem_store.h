@@ -35,10 +35,9 @@ constexpr BT_TBL Fmem1Key(int type, int column, BT_TBL row)
 }
 
 #define FMEM1(word) {"LOCAL@Frame Mem@" word}
-#define FMEM1_CHOICES                                                                                                  \
-    FileChoice(100, {.id = BTN_FMEM1_FOLDER, .caption = "", .cmd = FMEM1("Folder")}),                                   \
-    FileChoice(405, {.id = BTN_FMEM1_OUT, .caption = "", .cmd = FMEM1("Output")})
+#define FMEM1_FOLDER FileChoice(100, {.id = BTN_FMEM1_FOLDER, .caption = "", .cmd = FMEM1("Folder")})
 #define FMEM1_RECALL                                                                                                   \
+    FileChoice(405, {.id = BTN_FMEM1_OUT, .caption = "", .cmd = FMEM1("Output")}),                                      \
     Fmem1Key(BT_ACTION, 0, {.id = BTN_FMEM1_RECALL_A, .caption = "", .group = "Recall", .cmd = FMEM1("Recall A")}),      \
     Fmem1Key(BT_ACTION, 1, {.id = BTN_FMEM1_RECALL_B, .caption = "", .group = "Recall", .cmd = FMEM1("Recall B")}),      \
     Fmem1Key(BT_TOGGLE, 2, {.id = BTN_FMEM1_PAIR, .caption = "Pair", .group = "Recall", .cmd = FMEM1("Pair#*")})
@@ -48,33 +47,33 @@ constexpr BT_TBL Fmem1Key(int type, int column, BT_TBL row)
     Fmem1Key(BT_JUMP_POPUP, 2, {.id = BTN_FMEM1_MOVE, .caption = "Move", .group = "File", .cmd = FMEM1("Move")})
 
 inline constexpr BT_TBL bt_fmem1_still[] = {
-    FMEM1_CHOICES,
+    FMEM1_FOLDER,
     FMEM1_RECALL,
     BT_END,
 };
 inline constexpr BT_TBL bt_fmem1_clip[] = {
-    FMEM1_CHOICES,
+    FMEM1_FOLDER,
     FMEM1_RECALL,
     Fmem1Key(BT_ACTION, 3, {.id = BTN_FMEM1_BACK,    .caption = "<", .group = "Frame", .cmd = FMEM1("Frame Back")}),
     Fmem1Key(BT_ACTION, 4, {.id = BTN_FMEM1_FORWARD, .caption = ">", .group = "Frame", .cmd = FMEM1("Frame Forward")}),
     BT_END,
 };
 inline constexpr BT_TBL bt_fmem1_still_file[] = {
-    FMEM1_CHOICES,
+    FMEM1_FOLDER,
     FMEM1_FILE,
     Fmem1Key(BT_ACTION, 3, {.id = BTN_FMEM1_COUPLE,   .caption = "Couple", .group = "Pair", .cmd = FMEM1("Couple")}),
     Fmem1Key(BT_ACTION, 4, {.id = BTN_FMEM1_SEPARATE, .caption = "Separate", .group = "Pair", .cmd = FMEM1("Separate")}),
     BT_END,
 };
 inline constexpr BT_TBL bt_fmem1_clip_file[] = {
-    FMEM1_CHOICES,
+    FMEM1_FOLDER,
     FMEM1_FILE,
     Fmem1Key(BT_TOGGLE, 3, {.id = BTN_FMEM1_ANCILLARY, .caption = "Ancillary", .group = "Clip", .cmd = FMEM1("Ancillary#*")}),
     BT_END,
 };
 #define FMEM1_FREEZE(unit) "Frame Mem@Edit@Freeze@Freeze@" unit "#*"
 inline constexpr BT_TBL bt_fmem1_freeze[] = {
-    FileChoice(100, {.id = BTN_FMEM1_FOLDER, .caption = "", .cmd = FMEM1("Folder")}),
+    FMEM1_FOLDER,
     Fmem1Key(BT_TOGGLE, 0, {.id = 17, .caption = "Frame", .group = "Freeze 1", .cmd = {FMEM1_FREEZE("Frame@PROC1")}}),
     Fmem1Key(BT_TOGGLE, 1, {.id = 18, .caption = "Field", .group = "Freeze 1", .cmd = {FMEM1_FREEZE("Field@PROC1")}}),
     Fmem1Key(BT_TOGGLE, 2, {.id = 19, .caption = "Frame", .group = "Freeze 2", .cmd = {FMEM1_FREEZE("Frame@PROC2")}}),
@@ -87,7 +86,7 @@ inline constexpr BT_TBL bt_fmem1_freeze[] = {
 #undef FMEM1_FREEZE
 #undef FMEM1_FILE
 #undef FMEM1_RECALL
-#undef FMEM1_CHOICES
+#undef FMEM1_FOLDER
 #undef FMEM1
 static_assert(ButtonsAreSound(bt_fmem1_still));
 static_assert(ButtonsAreSound(bt_fmem1_clip));
