@@ -414,16 +414,38 @@ static void drop_keys()
     }
 }
 
+// A bank whose fourth key's place is the preview's has no such key.
+static bool has_key4(int bank)
+{
+    const Node* const node = Tree_Get(SWITCHER + "Config@Key Config");
+    const std::string wanted = std::string(banks[bank].word) + ",Key3 Key PVW";
+    return std::find(node->rows.begin(), node->rows.end(), wanted) == node->rows.end();
+}
+
+static void drop_key4(int bank)
+{
+    if (!has_key4(bank))
+        Verb_Do(key_path(key_word(bank, 4)) + "@Status@Key ON", "false");
+}
+
+// What a bank starts with, and how its buses change.
+static void follow_setup(const std::string& setting, const std::string& value)
+{
+    for (int bank = 0; bank < int(std::size(banks)); ++bank) {
+        const std::string trans = std::string(banks[bank].menu) + "@Misc@Transition@";
+        if (setting == std::string("Transition@Default Rate@") + banks[bank].word)
+            Tree_Get(trans + "Transition Rate")->initial = value;
+        if (setting == std::string("Transition@Bus Toggle@") + banks[bank].word)
+            Tree_Show(trans + "Flip-Flop", value);
+        if (setting == "Config@Key Config")
+            drop_key4(bank);
+    }
+}
+
 void SetupSwitcher_Follow(const std::string& path)
 {
-    if (const std::string rate = SWITCHER + "Transition@Default Rate@"; Text_Begins(path, rate)) {
-        const int of = bank_of_word(path.substr(rate.size()));
-        if (Node* const node =
-                of < 0 ? nullptr
-                       : Tree_Get(std::string(banks[of].menu) + "@Misc@Transition@Transition Rate"))
-            node->initial = value_of(path);
-        return;
-    }
+    if (Text_Begins(path, SWITCHER))
+        return follow_setup(path.substr(SWITCHER.size()), value_of(path));
     const int bank = bank_of_menu(Text_Head(path, 1));
     if (bank < 0)
         return;
@@ -432,6 +454,7 @@ void SetupSwitcher_Follow(const std::string& path)
     if (Text_MatchesPath(path, "*@*@Status@Key ON")) {
         const Words w = Text_Split(path, '@');
         follow_key(bank, w[1], "@Status@Key ON");
+        drop_key4(bank);
     } else if (is_take) {
         if (std::string(banks[bank].menu) == "PGM/PST")
             drop_keys();

@@ -202,7 +202,10 @@ static int pc_engsetup_switcher_bussel_create(int on, uint32_t)
     (void)SetupPage_CreateOf<bus_page>(on, 0);
     if (on) {
         enable_set(33, 34);
-        (void)BT_SetCaption(33, lk.column == LINK_LINKED ? "Set\nLinked" : "Set\nMaster");
+        constexpr uint32_t gpi_link = 0x73360006; // has one bus
+        (void)BT_SetCaption(33, lk.back == gpi_link        ? "Set\nBus"
+                                : lk.column == LINK_LINKED ? "Set\nLinked"
+                                                           : "Set\nMaster");
     }
     return !on;
 }

@@ -382,11 +382,6 @@ static void show_list(const SETUPTABLE& t)
     (void)LS_RedrawData(t.list);
 }
 
-static bool is_lit(const SETUPCHOICE& c, const char* text)
-{
-    return *text && strcmp(text, c.off) != 0;
-}
-
 static void show_choices(const SETUPTABLE& t)
 {
     char line[CMD_SIZE];
@@ -397,7 +392,7 @@ static void show_choices(const SETUPTABLE& t)
             (void)(*text ? NB_SetVar(c.box, Decimal(text)) : NB_InvalidVar(c.box));
         if (!c.cmd)
             continue;
-        PrintText(line, "%s#%s", c.cmd, c.off ? Bool(is_lit(c, text)) : text);
+        PrintText(line, "%s#%s", c.cmd, text);
         (void)SendDummyTally(line);
     }
 }
@@ -639,8 +634,6 @@ static int choose(const SETUPTABLE& t, const SETUPCHOICE& c, const char* value)
 {
     if (c.offer)
         open_popup(t, c);
-    else if (c.off && strcmp(SetupPage_Text(t, t.state->cursor, c.field), value) == 0)
-        set_selected(t, c, c.off);
     else
         set_selected(t, c, value);
     return 1;

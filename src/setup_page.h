@@ -61,8 +61,6 @@ struct SETUPFIELD {
 struct SETUPCHOICE {
     const char* cmd = nullptr; // path without the value; null: a number box alone
     int field = 0;             // index in fields
-    // A toggle: the text that a second press brings. It lights while the current row has another.
-    const char* off = nullptr;
     // The button opens a popup of these texts, at most SETUP_OFFER. Returns how many.
     int (*offer)(const char** texts, int max) = nullptr;
     int box = 0; // id of a number box whose whole number is the text, 0 none

@@ -16,7 +16,10 @@ CHANGED = (b"\xff\xff\x00", b"\xa0\xe6\x32")  # a cell that differs, and the sam
 
 class SwitcherSetup(DeskCase):
     def open(self, number):
-        self.open_page(number, "put TopMenu@SubMenuSite#false")
+        self.desk.wire()
+        self.desk.console(f"page {number}")
+        self.desk.wait_wire("put TopMenu@SubMenuSite#false")
+        time.sleep(0.15)
         self.desk.wire()
 
     def push(self, key):
@@ -85,7 +88,9 @@ class SwitcherSetup(DeskCase):
         self.assertNotEqual(self.desk.part(100, 98, 649, 339), before)
         self.assertFalse(self.changes())
         self.desk.console("knob 0 +4")
+        self.push(36)  # Bus Toggle off
         self.execute("Transition@Default Rate@M/E-1#31")
+        self.becomes("M/E-1@Misc@Transition@Flip-Flop", "false")
         self.assertIsNone(self.desk.app_status())
 
     def test_4_a_curve_is_drawn_and_runs_the_transition(self):
@@ -125,7 +130,17 @@ class SwitcherSetup(DeskCase):
         self.push(38)
         self.assertFalse(self.changes(), "deleted: as it was")
 
-    def test_6_a_bus_follows_by_a_table(self):
+    def test_6_a_bank_with_a_key_preview_has_no_fourth_key(self):
+        self.put("M/E-3@Key4@Status@Key ON", "true")
+        self.open("7331.5")
+        self.row(2)
+        self.choose(33, 1, 3, 2)
+        self.execute("Config@Key Config#M/E-3,Key3 Key PVW")
+        self.becomes("M/E-3@Key4@Status@Key ON", "false")
+        self.put("M/E-3@Key4@Status@Key ON", "true")
+        self.becomes("M/E-3@Key4@Status@Key ON", "false")
+
+    def test_7_a_bus_follows_by_a_table(self):
         self.open("7336.3")
         self.push(35)
         self.desk.touch(150, 76 + 22 + 10)  # the first bus: M/E-1 A
