@@ -29,8 +29,8 @@ static constexpr int TARGETS = int(std::size(banks)) * KEYS;
 static struct {
     const SETUPSHEET* sheet = nullptr; // while the page is open
     const SETUPTABLE* table = nullptr;
-    bool has_preview = false;            // key 3 shares its row with the key preview
-    char name[TARGETS][SHEET_TEXT] = {}; // the targets that are offered
+    bool has_preview[std::size(banks)] = {}; // key 3 shares its row with the key preview
+    char name[TARGETS][SHEET_TEXT] = {};     // the targets that are offered
 } gp;
 
 static int action_column()
@@ -65,10 +65,9 @@ static int where_of(const char* action)
     return gpi_action_rows[action_of(action)].where;
 }
 
-static const char* bus_row(int number)
+static const char* bus_row(int number, bool has_preview)
 {
-    return number == KEY_ROW_3 ? gp.has_preview ? "Key3 Key PVW" : "Key3 Key4"
-                               : bus_rows[number - 1];
+    return number == KEY_ROW_3 ? has_preview ? "Key3 Key PVW" : "Key3 Key4" : bus_rows[number - 1];
 }
 
 // The name of a target, as the list shows it; nothing for one that is none.
@@ -80,7 +79,7 @@ static void name_target(int where, int bank, int number, char (&name)[SHEET_TEXT
     if (where == GPI_BANK)
         CopyText(name, banks[bank]);
     else if (where == GPI_BUS && number >= 1 && number <= BUS_ROWS)
-        PrintText(name, "%s %s", banks[bank], bus_row(number));
+        PrintText(name, "%s %s", banks[bank], bus_row(number, gp.has_preview[bank]));
     else if (where == GPI_KEY && number >= 1 && number <= KEYS)
         PrintText(name, "%s Key%d", banks[bank], number);
 }
@@ -90,6 +89,16 @@ static int numbers_of(int where)
     return where == GPI_BUS ? BUS_ROWS : where == GPI_KEY ? KEYS : 1;
 }
 
+// The name of a row that is shared, while it was shared with the other.
+static bool is_former_name(int where, int bank, int number, const char* text)
+{
+    char name[SHEET_TEXT];
+    if (where != GPI_BUS)
+        return false;
+    PrintText(name, "%s %s", banks[bank], bus_row(number, !gp.has_preview[bank]));
+    return Same(name, text);
+}
+
 // Bank and number of a target's name; the first for one that is none.
 static void find_target(int where, const char* text, int* bank, int* number)
 {
@@ -97,7 +106,7 @@ static void find_target(int where, const char* text, int* bank, int* number)
     for (*number = 1; *number <= numbers_of(where); ++*number)
         for (*bank = 0; *bank < int(std::size(banks)); ++*bank) {
             name_target(where, *bank, *number, name);
-            if (Same(name, text))
+            if (Same(name, text) || is_former_name(where, *bank, *number, text))
                 return;
         }
     *bank = 0;
@@ -164,9 +173,42 @@ static void take_action(int row, const char* value, bool is_region)
     SetupPage_Take(*gp.table, row, first + 2, action.has_register ? NumStr(Decimal(p.v[2])) : "");
 }
 
+// What a text of a row's target is called now.
+static void rename_target(const char* action, const char* text, char (&name)[SHEET_TEXT])
+{
+    const int where = where_of(action);
+    CopyText(name, text);
+    if (where != GPI_BUS || !*text)
+        return;
+    int bank = 0;
+    int number = 0;
+    find_target(where, text, &bank, &number);
+    name_target(where, bank, number, name);
+}
+
+static void rename_targets()
+{
+    char name[SHEET_TEXT];
+    const SETUPTABLE& t = *gp.table;
+    const int action = action_column(), target = action + 1;
+    for (int row = 0; row < gp.sheet->rows; row++) {
+        rename_target(SetupPage_Told(t, row, action), SetupPage_Told(t, row, target), name);
+        SetupPage_Take(t, row, target, name);
+        rename_target(SetupPage_Text(t, row, action), SetupPage_Text(t, row, target), name);
+        SetupPage_Set(t, row, target, name);
+    }
+}
+
+// A line a bank: "M/E-1,Key3 Key PVW".
 static void show_key_config(const char* value)
 {
-    gp.has_preview = strstr(value, "PVW");
+    Parts p;
+    if (SplitValue(p, value, 2) < 2)
+        return;
+    for (size_t i = 0; i < std::size(banks); i++)
+        if (Same(p.v[0], banks[i]))
+            gp.has_preview[i] = BeginsWith(p.v[1], "Key3 Key PVW");
+    rename_targets();
 }
 
 static int tally(const char* path, const char* value)
@@ -271,7 +313,8 @@ static void complete_rows()
 int SetupGpi_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on)
 {
     if (on) {
-        gp.has_preview = false;
+        for (bool& has : gp.has_preview)
+            has = false;
         gp.sheet = &s;
         gp.table = &t;
         Net_SendCommand("add " KEY_CONFIG);

@@ -52,8 +52,9 @@ TEST_F(Gpi, APortHasEightValuesOfWhichTheEmptyPathSaysNothing)
     EXPECT_EQ(Row(1, 6), "2|Level|0|255|Key On|") << "a bank that is none";
     (void)Tell(PORTS + "Action Type@2@1#4,2,0,4");
     EXPECT_EQ(Row(1, 6), "2|Level|0|255|Xpt Hold|M/E-2 Key3 Key4");
-    (void)Tell("Engineering Setup@Switcher@Config@Key Config#Key3 Key PVW");
-    (void)Tell(PORTS + "Action Type@2@1#4,2,0,4");
+    (void)Tell("Engineering Setup@Switcher@Config@Key Config#M/E-1,Key3 Key PVW");
+    EXPECT_EQ(Row(1, 6), "2|Level|0|255|Xpt Hold|M/E-2 Key3 Key4") << "another bank";
+    (void)Tell("Engineering Setup@Switcher@Config@Key Config#M/E-2,Key3 Key PVW");
     EXPECT_EQ(Row(1, 6), "2|Level|0|255|Xpt Hold|M/E-2 Key3 Key PVW");
 }
 
