@@ -83,12 +83,16 @@ TEST_F(EffectPages, AnEffectShowsItsStateAndWhichRegionsHoldIt)
     Deliver(EFFECTS + "M/E-1", "3,S,OPENING,L,D,45");
     Deliver(EFFECTS + "DME2", "3,S,SPIN,U,N,0");
     Deliver(EFFECTS + "Dev1", "3,S,ROLL,U,N,0");
+    Deliver(EFFECTS + "DME1", "203,S,PAGE,U,D,7");
+    Deliver(EFFECTS + "DME5", "303,S,CUBE,L,N,0"); // of the other group than the list's
     static const struct {
         uint32_t page;
         std::vector<std::string> cells; // from the name on
     } cases[] = {
         {0x62210000, {"OPENING", "L", "45", "*", "", "*", "*", "", "", ""}},
         {0x62310000, {"", "", "", ""}},
+        {0x62410000, {"PAGE", "", "7", "*"}},
+        {0x62510000, {"", "", "", "*"}},
         {0x62610000, {"", "", "", "*", ""}},
     };
     for (const auto& c : cases) {
