@@ -18,6 +18,8 @@
 
 // --- Settings and their words ---
 
+#define FC_SELECT "Engineering Setup@Switcher@Input@FC Input Select@FC"
+
 namespace
 {
 enum : int {
@@ -191,6 +193,7 @@ struct FcKind {
     const KnobTable* by_type[std::size(types)] = {};
     const KnobTable* cross = nullptr;
     int is_4k = 0;
+    int is_selected = 0; // which sources it converts is chosen on a page of its own
 };
 } // namespace
 
@@ -202,7 +205,8 @@ static constexpr FcKind kinds[FC_KINDS] = {
      &knobs_none,
      {&knobs_motion_ec, &knobs_motion_lb, &knobs_motion},
      &knobs_conv,
-     0},
+     0,
+     1},
     {status_6,
      told_6,
      FC6_ROWS,
@@ -249,6 +253,7 @@ static struct {
     int size = -1, scan = -1; // of the signal, as told
     int convert = 0;          // conversion that goes with it
     char caption[16] = "";    // of the converter's key
+    int first_source = 1;     // of the converter's inputs
 } fc;
 
 static const FcKind& kind_now()
@@ -424,9 +429,9 @@ static void fcadjust_status_listdisp()
 {
     for (int row = 0; row < kind_now().inputs; row++) {
         _fcadjuststatus& s = kind_now().work[row];
-        const int number = Decimal(s.key);
-        PrintText(s.no, "%d", number + 1);
-        const char* const name = number + 1 < BUS_XPT_SRC ? BUS_XptSrc[number + 1] : nullptr;
+        const int source = fc.first_source + row;
+        PrintText(s.no, "%d", source);
+        const char* const name = source < BUS_XPT_SRC ? BUS_XptSrc[source] : nullptr;
         CopyText(s.name, name ? name : "");
     }
 }
@@ -475,8 +480,32 @@ static constexpr const SETUPTABLE* tables[FC_KINDS] = {&fc_table<FC_FOUR>, &fc_t
                                                        &fc_table<FC_3G>, &fc_table<FC_4K>,
                                                        &fc_table<FC_OUTPUT>};
 
+// Which sources the converter has is chosen elsewhere, for the kind that can.
+static void follow_select(const char* verb)
+{
+    if (kind_now().is_selected)
+        Net_SendCommandFormat("%s " FC_SELECT "%d", verb, FCInput + 1);
+}
+
+// "5-8"
+static int take_select(const char* path, const char* value)
+{
+    if (!kind_now().is_selected || !BeginsWith(path, FC_SELECT) ||
+        Decimal(path + strlen(FC_SELECT)) != FCInput + 1)
+        return 0;
+    const int first = Decimal(value);
+    if (first >= 1 && first < BUS_XPT_SRC) {
+        fc.first_source = first;
+        fcadjust_status_listdisp();
+        SetupPage_Show(*fc.table);
+    }
+    return 1;
+}
+
 static void open_group()
 {
+    fc.first_source = FCInput * kind_now().inputs + 1;
+    follow_select("add");
     shown = {};
     SetupPage_Open(*fc.table);
     fcadjust_status_listdisp();
@@ -495,6 +524,7 @@ static void choose_group(int group)
     if (group < 0 || group >= groups() || group == FCInput)
         return;
     SetupPage_Close(*fc.table);
+    follow_select("remove");
     FCInput = group;
     open_group();
 }
@@ -648,7 +678,7 @@ static int proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
         return 0;
     if ((msg == LMSG_BTNSEL && button(Text(ax))) ||
         (msg == LMSG_PANEQUIT && pane_closed(int(ax), int(bx))) ||
-        (msg == MSG_TALLY && take_format(Text(ax), Text(bx))))
+        (msg == MSG_TALLY && (take_format(Text(ax), Text(bx)) || take_select(Text(ax), Text(bx)))))
         return 0;
     if (msg == LMSG_XPTSRCCHANGE)
         fcadjust_status_listdisp();
@@ -672,6 +702,7 @@ template <int kind> static int create(int on, uint32_t)
         if (fc.kind < 0)
             return 1;
         SetupPage_Close(*fc.table);
+        follow_select("remove");
         follow_format("remove", *fc.table);
         fc.kind = -1;
         return 1;

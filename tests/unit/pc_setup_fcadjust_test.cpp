@@ -82,6 +82,9 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
                      "Convert Mode@99#1", "Convert Mode@#1"});
     EXPECT_EQ(Row(0, 4), "5||Up|");
     EXPECT_EQ(Row(3, 5), "8||||Squeeze");
+    TellAll("Engineering Setup@Switcher@Input@FC Input Select@",
+            {"FC1#1-4", "FC2#9-12", "FC2#none", "FC22#1-4"});
+    EXPECT_EQ(Row(0, 4), "9||Up|") << "the sources that were chosen for it";
     const Lines left = Leave();
     EXPECT_THAT(left, Contains("remove " + ADJUST + "Convert Mode@4"));
     EXPECT_THAT(left, Contains("remove " + ADJUST + "FC Signal Format"));
