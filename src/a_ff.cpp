@@ -210,12 +210,13 @@ static void Load_FF_LastInfo(int index)
 {
     const FF_LastInfo& last = last_info_of(PageOpen)[index];
     FM2_FILE_AREA& a = ff.area[index];
+    const bool is_known = last.page == PageOpen;
     FMCtrl3_InitCurrentInfo(&a.current);
-    if (last.page != PageOpen)
-        return;
-    if (last.path[0])
+    if (is_known && last.path[0])
         (void)FMCtrl3_ChangeDirectory(&a.current, last.path);
     ff_list_update(index);
+    if (!is_known)
+        return;
     ELEMENT e = {.type = last.selected_type};
     CopyText(e.name, last.selected_name);
     if (strcmp(last.path, a.current.path) == 0)
@@ -238,8 +239,6 @@ static void create_area(const PARTS_FILE_AREA& parts, int index)
     if (!parts.enable || parts.h_num < 1 || parts.v_num < 1 || parts.h_gap < FF_CELL_MIN)
         return;
     ff.area[index].parts = parts;
-    FMCtrl3_InitCurrentInfo(&ff.area[index].current);
-    ff_list_update(index);
     Load_FF_LastInfo(index);
     create_bar(index);
     adjust_file_area_top_line(index);
