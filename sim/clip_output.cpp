@@ -57,6 +57,17 @@ static void show_record(int n)
               Text_Format("%d,%d,%d,%d", int(p.output >= 0), p.frame, p.length, p.output + 1));
 }
 
+static void show_setting(int n, const char* what, long value)
+{
+    Tree_Show(HEAD + Text_Format("Play@%s@FM%d", what, n + 1), Text_Format("%ld", value));
+}
+
+static void show_points(int n)
+{
+    show_setting(n, "Start TC", co.output[n].start);
+    show_setting(n, "Stop TC", co.output[n].stop);
+}
+
 // --- What a panel asks for ---
 
 using Numbers = std::vector<long>;
@@ -81,6 +92,7 @@ static void recall(int n, const std::string& path)
     o.frames = frames;
     o.stop = std::max(frames - 1, 0);
     show_status(n, path.empty() ? "0," : "2,/" + path + ".SFH");
+    show_points(n);
     show_play(n);
 }
 
@@ -102,11 +114,6 @@ static void play(int n, const Numbers& v)
     if (o.is_playing && is_at_end && o.speed > 0)
         o.frame = o.start;
     show_play(n);
-}
-
-static void show_setting(int n, const char* what, long value)
-{
-    Tree_Show(HEAD + Text_Format("Play@%s@FM%d", what, n + 1), Text_Format("%ld", value));
 }
 
 static void set_mode(int n, const Numbers& v)
@@ -145,7 +152,7 @@ static void set_start(int n, const Numbers& v)
 {
     Output& o = co.output[n];
     o.start = point(o, v, 0);
-    show_setting(n, "Start TC", o.start);
+    show_points(n);
     show_play(n);
 }
 
@@ -153,7 +160,7 @@ static void set_stop(int n, const Numbers& v)
 {
     Output& o = co.output[n];
     o.stop = point(o, v, o.frames - 1);
-    show_setting(n, "Stop TC", o.stop);
+    show_points(n);
     show_play(n);
 }
 
@@ -369,6 +376,7 @@ void ClipOutput_Install()
         show_play(n);
         show_setting(n, "Play Mode", 0);
         show_setting(n, "Variable Speed", 0);
+        show_points(n);
         Tree_Show(HEAD + Text_Format("Ancillary Enable@FM%d", n + 1), "0,0");
         if (n % 2 == 0)
             Tree_Show(HEAD + Text_Format("Pair@FM%d&%d", n + 1, n + 2), "false");
