@@ -89,10 +89,20 @@ static int loop_pace(uint32_t now, uint32_t before)
     return delta > ELAPSED_MAX_MS ? ELAPSED_MAX_MS : int(delta);
 }
 
+// What a pass erases and paints reaches the display as one picture.
+static void loop_redraw(int elapsed_ms)
+{
+    TDL_Hold();
+    SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
+    TDL_Release();
+}
+
 void RefreshScreen()
 {
+    TDL_Hold();
     SendMessage(MSG_REDRAW, 0, 0, 0, 0);
     TDL_UpdateScreen();
+    TDL_Release();
 }
 
 // --- Events ---
@@ -334,7 +344,7 @@ int MainPass()
     Touch_Poll(elapsed_ms);
     const bool is_last = loop_one_event();
     loop_page_change();
-    SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
+    loop_redraw(elapsed_ms);
     if (GL_ErrorPopup_On)
         EndScreenSaver();
     else
@@ -382,5 +392,5 @@ void MainEventCheck()
         default: break;
         }
     }
-    SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
+    loop_redraw(elapsed_ms);
 }

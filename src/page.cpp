@@ -10,6 +10,7 @@
 #include "page_family.h"
 #include "page_private.h"
 #include "scrollbar.h"
+#include "tdl.h"
 #include "text.h"
 #include "window.h"
 #include <algorithm>
@@ -178,6 +179,23 @@ static void take_menu(const PAGE& row, uint32_t id)
 
 // The state of navigation is complete before the first object is touched: page code asks for it
 // while it is created, and what it sends reaches the objects that are there so far.
+// The objects of a row in the place of those that are there, and their picture.
+static void build(const PAGE& row)
+{
+    PageFamily_EmptyAll();
+    CloseWindow();
+    CloseScrollBarAll();
+    for (const _pageobject& obj : row.obj) {
+        if (obj.type <= OBJ_END)
+            break;
+        if (const PageFamily* family = PageFamily_Of(obj.type))
+            family->create(obj.addr, obj.var, row);
+        if (Page != &row)
+            return; // what was created has opened another page, which is complete by now
+    }
+    RefreshScreen();
+}
+
 int CreatePage(uint32_t id)
 {
     Log_Output(LOG_LIFE, MOD_PAGE, "***** CreatePage(%Xh) Called *****", id);
@@ -201,18 +219,9 @@ int CreatePage(uint32_t id)
     if (IsUserPages(id))
         page_history_add(page_side(OmoteFlag), id);
     take_menu(*row, id);
-    PageFamily_EmptyAll();
-    CloseWindow();
-    CloseScrollBarAll();
-    for (const _pageobject& obj : row->obj) {
-        if (obj.type <= OBJ_END)
-            break;
-        if (const PageFamily* family = PageFamily_Of(obj.type))
-            family->create(obj.addr, obj.var, *row);
-        if (Page != row)
-            return 0; // what was created has opened another page, which is complete by now
-    }
-    RefreshScreen();
+    TDL_Hold(); // the display goes from one page to the other in a step
+    build(*row);
+    TDL_Release();
     return 0;
 }
 

@@ -155,6 +155,7 @@ int TDL_Init(SDL_Surface* scrn)
     ScreenBuf = create_screen_surface();
     AlphaBuf = create_screen_surface();
     PushedScreenXY = {0, 0, 0, 0};
+    tdl_flush_init();
     if (!ScreenBuf || !AlphaBuf)
         return -1;
     return tdl_text_init();
@@ -163,6 +164,7 @@ int TDL_Init(SDL_Surface* scrn)
 void TDL_Quit()
 {
     tdl_text_quit();
+    tdl_flush_quit();
     SDL_FreeSurface(AlphaBuf);
     SDL_FreeSurface(ScreenBuf);
     AlphaBuf = nullptr;
@@ -170,28 +172,6 @@ void TDL_Quit()
 }
 
 // --- Flushing ---
-
-// SDL takes a width of 0 for the whole screen, so an empty rectangle must not get there.
-void tdl_flush(const Rect& r)
-{
-    const Rect part = clip_to_screen(r);
-    if (tdl_is_empty(part))
-        return;
-    SDL_UpdateRect(Screen, part.x1, part.y1, uint32_t(part.x2 - part.x1 + 1),
-                   uint32_t(part.y2 - part.y1 + 1));
-}
-
-int TDL_UpdateRect(int x1, int y1, int x2, int y2)
-{
-    tdl_flush({x1, y1, x2, y2});
-    return 0;
-}
-
-int TDL_UpdateScreen()
-{
-    tdl_flush({0, 0, ScreenX - 1, ScreenY - 1});
-    return 0;
-}
 
 // The end of every verb that flushes: nothing is flushed when nothing was drawn. Hands the result
 // through.

@@ -17,6 +17,12 @@ void TDL_Quit();
 // --- Flushing ---
 int TDL_UpdateRect(int x1, int y1, int x2, int y2); // cut at the screen edge
 int TDL_UpdateScreen();
+// Between these nothing reaches the display; at the release of the last hold what has been flushed
+// meanwhile does, once. Holds nest; a release without a hold does nothing.
+void TDL_Hold();
+void TDL_Release();
+// Told of every rectangle that is handed to the display; null: nobody.
+void TDL_WatchFlush(void (*watch)(int x, int y, int w, int h));
 
 // --- Lines. 0; 1 when a point that must be on the screen is not: then nothing is drawn ---
 // For a straight line that is its start, and it is cut at the screen edge; for a slanted one both

@@ -1,5 +1,5 @@
-// tdl_private: what the two halves of the drawing layer share: tdl.cpp has surfaces and shapes,
-// tdl_text.cpp the text. Nobody else includes it.
+// tdl_private: what the parts of the drawing layer share: tdl.cpp has surfaces and shapes,
+// tdl_text.cpp the text, tdl_flush.cpp what reaches the display. Nobody else includes it.
 #pragma once
 #include "types.h"
 #include <SDL.h>
@@ -16,6 +16,8 @@ inline bool tdl_is_empty(const Rect& r)
 }
 
 void tdl_flush(const Rect& r); // clipped to the screen; an empty rectangle is no flush
+void tdl_flush_init();
+void tdl_flush_quit();
 
 uint8_t* tdl_pixel_at(SDL_Surface* s, int x, int y);
 uint32_t tdl_map_colour(unsigned col); // 0x00RRGGBB as a pixel of the screen

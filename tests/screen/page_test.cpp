@@ -5,10 +5,15 @@
 #include "device.h"
 #include "global.h"
 #include "harness.h"
+#include "loop.h"
 #include "message.h"
 #include "page.h"
+#include "tdl.h"
 #include "test_dirs.h"
 #include "text.h"
+#include "types.h"
+#include <algorithm>
+#include <iterator>
 #include <sstream>
 
 namespace
@@ -68,4 +73,70 @@ TEST(PagePicture, EachLooksAsItWasJudged)
         EXPECT_TRUE(MatchesGolden("page_" + shot.name));
     }
     Harness_Reset();
+}
+
+// --- From one page to another ---
+
+namespace
+{
+std::vector<uint8_t> flushes; // of each pixel
+size_t flushed_pixels = 0;
+
+void Count(int x, int y, int w, int h)
+{
+    for (int row = y; row < y + h; row++)
+        for (int column = x; column < x + w; column++)
+            flushes[size_t(row) * SCREEN_W + size_t(column)]++;
+    flushed_pixels += size_t(w) * size_t(h);
+}
+
+std::vector<uint32_t> PixelsNow()
+{
+    std::vector<uint32_t> pixels;
+    for (int y = 0; y < SCREEN_H; y++) {
+        const auto* row = reinterpret_cast<const uint32_t*>(static_cast<uint8_t*>(Screen->pixels) +
+                                                            y * Screen->pitch);
+        pixels.insert(pixels.end(), row, row + SCREEN_W);
+    }
+    return pixels;
+}
+} // namespace
+
+// The display is written while the operator looks at it: what belongs to neither of two pages must
+// not be seen between them.
+TEST(PageChange, HandsOverNoPixelTwiceAndHardlyOneThatStaysAsItWas)
+{
+    const FullHouse all;
+    constexpr uint32_t pages[] = {
+        0x00110000, 0x11110000, 0x11120000, 0x11210000, 0x11510000, 0x11610000, 0x11710000,
+        0x11730000, 0x11000000, 0x12110000, 0x14110000, 0x15510000, 0x22100000, 0x23110000,
+        0x24110000, 0x24140000, 0x41110000, 0x41710000, 0x42110000, 0x42160000, 0x54120000,
+        0x61110000, 0x61131000, 0x62110000, 0x63210000, 0x64110000, 0x71210000, 0x71710000,
+        0x73110000, 0x73130000, 0x74110000, 0x99910000};
+    ASSERT_EQ(CreatePage(pages[std::size(pages) - 1]), 0);
+    RefreshScreen();
+    flushes.assign(size_t(SCREEN_W) * SCREEN_H, 0);
+    TDL_WatchFlush(Count);
+    for (const uint32_t id : pages) {
+        const auto before = PixelsNow();
+        std::fill(flushes.begin(), flushes.end(), 0);
+        flushed_pixels = 0;
+        ASSERT_EQ(CreatePage(id), 0) << std::hex << id;
+        TDL_Hold(); // the pass that follows
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        TDL_Release();
+        const auto now = PixelsNow();
+        size_t differ = 0;
+        for (size_t i = 0; i < now.size(); i++)
+            differ += now[i] != before[i];
+        EXPECT_LE(*std::max_element(flushes.begin(), flushes.end()), 1) << std::hex << id;
+        EXPECT_LE(double(flushed_pixels), 1.3 * double(differ)) << std::hex << id;
+        EXPECT_GT(flushed_pixels, 0u);
+        for (size_t i = 0; i < now.size(); i++)
+            if (now[i] != before[i] && !flushes[i]) {
+                ADD_FAILURE() << std::hex << id << ": a pixel is not shown";
+                break;
+            }
+    }
+    TDL_WatchFlush(nullptr);
 }
