@@ -499,6 +499,9 @@ int File_ExecCopyList(FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int tag)
 
 int MM_File_ExecCopyList(FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int tag, int mode)
 {
+    for (const FILEXFERLIST* item = *list; item; item = item->next)
+        if (file_is_macro_pair(item))
+            mm_macro_tmpfile_prepare(item->src, item->dst);
     return file_run(FILEWORK_ACCESS_COPYLIST, list, retfunc, tag, mode ? "Transfer" : nullptr);
 }
 

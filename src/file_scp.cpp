@@ -524,8 +524,7 @@ static bool compose_remote(QUEUE* job, FILEXFERLIST* item)
 static void launch_item(QUEUE* job, FILEXFERLIST* item)
 {
     if (file_is_macro_pair(item)) {
-        if (strstr(item->src, ".tmp"))
-            (void)mm_macro_tmpfile_save(item->src); // without a file the copy itself will fail
+        mm_macro_tmpfile_prepare(item->src, item->dst);
         if (file_compose_item(item, "put File@Access@Copy#L%d,%s,%s", int(item->label), item->src,
                               item->dst))
             file_send_item(item);

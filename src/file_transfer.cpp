@@ -241,8 +241,7 @@ static bool compose_picture(FILEXFERLIST* item)
 
 static bool compose_macro(FILEXFERLIST* item)
 {
-    if (strstr(item->src, ".tmp"))
-        (void)mm_macro_tmpfile_save(item->src); // without a file the copy itself will fail
+    mm_macro_tmpfile_prepare(item->src, item->dst);
     return compose(item, "Access@Copy", item->src, item->dst);
 }
 

@@ -90,6 +90,9 @@ int mm_macro_file_save(int n);
 // is locked.
 int mm_macro_tmpfile_save(const char* tmp);
 int mm_macro_tmpfile_load(const char* src, const char* tmp);
+// A copy from src to dst is about to begin, one of them such a temporary: it is written, or its
+// folder made. Where that fails the copy fails, which is told.
+void mm_macro_tmpfile_prepare(const char* src, const char* dst);
 void mm_macro_tmpfile_del(int n); // the temporary of register n (0..98)
 
 // --- Run ---

@@ -309,6 +309,14 @@ int mm_macro_tmpfile_save(const char* tmp)
     return mm_register2hdd_bk_file(no, path);
 }
 
+void mm_macro_tmpfile_prepare(const char* src, const char* dst)
+{
+    if (strstr(src, ".tmp"))
+        (void)mm_macro_tmpfile_save(src);
+    else if (strstr(dst, ".tmp") && !FileExist(TRANSFER_DIR))
+        make_directory(TRANSFER_DIR);
+}
+
 // A file on a drive is called as the operator has called it there.
 static void name_of_drive(const char* src, char (&name)[MENU_MACRO_NAME])
 {

@@ -1,5 +1,6 @@
 """A person records twenty touches with a pause, edits and stores them; after a restart the run sends the same."""
 import datetime
+import os
 import re
 import statistics
 import time
@@ -113,6 +114,37 @@ class MenuMacro(DeskCase):
         waits = [ran[n][0] - ran[n - 1][0] for n in range(1, len(ran))]
         self.assertGreater(min(waits), 0.1)
         self.assertGreater(max(waits), 2)
+
+    def test_06_a_register_goes_to_a_drive_and_comes_back(self):
+        register = f"{self.desk.root}/mnt/data/Menu_Macro_tmp/mm_reg01.tmp"
+        drive = f"{self.desk.root}/mnt/data/user/root/SYSTEM/MENUMACRO/CTRLCPU/MMCR1.GUI_0000.MMR"
+        left, right, to_right, to_left = (150, 157), (450, 157), (290, 478), (405, 478)
+        with open(register, encoding="ascii") as file:
+            text = file.read()
+        self.page("7144")
+        time.sleep(0.5)
+        for place in (left, to_right):
+            self.desk.touch(*place)
+        self.assertEqual(self.text_of(drive), text)
+        time.sleep(1)
+        self.page("5436")
+        self.desk.touch(300, 111)
+        self.desk.touch(*grid(49))
+        self.desk.touch(341, 414)  # Yes
+        self.assertFalse(os.path.exists(register))
+        os.rmdir(f"{self.desk.root}/var/tmp/MenuMacro")  # empty, and gone as after a start
+        self.page("7144")
+        time.sleep(0.5)
+        for place in (right, left, to_left):
+            self.desk.touch(*place)
+        self.assertEqual(self.text_of(register), text)
+
+    def text_of(self, path):
+        end = time.monotonic() + 8
+        while not os.path.exists(path) and time.monotonic() < end:
+            time.sleep(0.1)
+        with open(path, encoding="ascii") as file:
+            return file.read()
 
 
 if __name__ == "__main__":
