@@ -211,25 +211,34 @@ static void show_key_config(const char* value)
     rename_targets();
 }
 
+// The port of "PAGE@Action Type@3@1" or "PAGE@Action Type Region@3@1", from 0; -1 for other paths.
+static int port_of_path(const char* path, bool* is_region)
+{
+    char head[CMD_SIZE];
+    DecodeCommand(head, "~@Action Type", CMD_SIZE);
+    if (!BeginsWith(path, head))
+        return -1;
+    path += strlen(head);
+    *is_region = BeginsWith(path, " Region@");
+    if (*is_region)
+        path += strlen(" Region");
+    const char* const second = *path == '@' ? strchr(path + 1, '@') : nullptr;
+    return second && Same(second, "@1") ? IndexFrom1(path + 1, gp.sheet->rows) : -1;
+}
+
 static int tally(const char* path, const char* value)
 {
+    bool is_region = false;
     if (Same(path, KEY_CONFIG)) {
         show_key_config(value);
         return 1;
     }
-    for (int row = 0; row < gp.sheet->rows; row++) {
-        char own[CMD_SIZE];
-        for (const bool is_region : {false, true}) {
-            DecodeCommandWithVar(own, is_region ? GPI_REGION_PATH : GPI_ACTION_PATH,
-                                 NumStr(row + 1), CMD_SIZE);
-            if (!Same(path, own))
-                continue;
-            take_action(row, value, is_region);
-            SetupPage_Show(*gp.table);
-            return 1;
-        }
-    }
-    return 0;
+    const int port = port_of_path(path, &is_region);
+    if (port < 0)
+        return 0;
+    take_action(port, value, is_region);
+    SetupPage_Show(*gp.table);
+    return 1;
 }
 
 // --- What goes to it ---

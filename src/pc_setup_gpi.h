@@ -12,11 +12,14 @@
 #pragma once
 #include "setup_sheet.h"
 
-// The columns, in this order; the last three are an action's and the page code's.
+// --- What the columns name; see SETUPCOLUMN and SETUPSHEET ---
+// A byte: "0x0A" on the wire, "10" on the screen; what is none becomes 0, what is more 255.
 void SetupGpi_FromHex(const char* value, const char* now, char* text, size_t size);
 void SetupGpi_ToHex(const char* text, char* value, size_t size);
+// The targets of the current row's action, at most max texts, for the column of targets; -1 for
+// another column.
 int SetupGpi_Offer(int column, const char** texts, int max);
-void SetupGpi_Changed();
+void SetupGpi_Changed(); // an action without targets has no key for them
 
 constexpr int GPI_ACTION_COLUMNS = 3;
 constexpr int GPI_REGISTERS = 99;
@@ -65,7 +68,8 @@ constexpr GpiActionWords MakeGpiActionWords()
 }
 inline constexpr GpiActionWords gpi_action_words = MakeGpiActionWords();
 
-// The choices for a target are those of the action; these stand for "there are some".
+// The last three columns of a page are an action's. The words of the target only say that it has a
+// key which asks: what it offers follows from the action.
 #define GPI_ACTION_PATH "~@Action Type@$@1"
 #define GPI_REGION_PATH "~@Action Type Region@$@1"
 #define GPI_ACTION(action_width, target_width)                                                     \
@@ -129,6 +133,7 @@ inline constexpr SETUPCOLUMN gpi_input_columns[] = {
 inline constexpr BT_TBL gpi_test_fire =
     Action({.id = 37, .caption = "Test\nFire", .group = "Port", .cmd = {GPI_TEST_FIRE}});
 
+// The sheets of a unit with so many ports, at most SHEET_ROWS.
 constexpr SETUPSHEET SetupGpi_Output(int ports)
 {
     return {.columns = gpi_output_columns,
@@ -197,6 +202,7 @@ constexpr SETUPSHEET SetupGpi_HLSetFC(int ports)
 }
 
 // --- Page code of the input and the output pages; those of levels are plain sheets ---
+// Open the page of a sheet and follow the key config, or leave both. 0; 1 when it was left.
 int SetupGpi_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
 int SetupGpi_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
 

@@ -47,7 +47,8 @@ TEST_F(Gpi, APortHasEightValuesOfWhichTheEmptyPathSaysNothing)
     EXPECT_EQ(Row(0, 7), "1|Rising Edge|2|10|Key On|M/E-1 Key3|");
     EXPECT_EQ(Row(1, 7), "2|Level|0|255|Effect Recall|User1|12");
     TellAll(PORTS, {"Action Type@2@1#99,0,0,0", "Action Type@2@1#5,9,0,1", "Action Type@1@1#4",
-                    "Action Type@9@1#5,1,0,1", "Trigger Type@0#Level,1,1"});
+                    "Action Type@9@1#5,1,0,1", "Action Type@2@2#5,1,0,1", "Action Type@2#5,1,0,1",
+                    "Trigger Type@0#Level,1,1"});
     EXPECT_EQ(Row(0, 7), "1|Rising Edge|2|10|Key On|M/E-1 Key3|") << "a line that is cut short";
     EXPECT_EQ(Row(1, 6), "2|Level|0|255|Key On|") << "a bank that is none";
     (void)Tell(PORTS + "Action Type@2@1#4,2,0,4");
