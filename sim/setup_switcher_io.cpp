@@ -292,6 +292,31 @@ static bool put_parts(const Kind& kind, const std::string& path, const std::stri
     return true;
 }
 
+static std::string row_of(const std::string& list, const std::string& key)
+{
+    if (const Node* const node = Tree_Find(list))
+        for (const std::string& row : node->rows)
+            if (Text_Begins(row, key + ","))
+                return row.substr(key.size() + 1);
+    return "";
+}
+
+// What carries a signal goes by its name: the buses of the keys, the outputs.
+static void rename_signal(const std::string& from, const std::string& to)
+{
+    static constexpr const char* named[] = {"**@Signal Select@*", "**@Status@Source Name"};
+    std::vector<std::string> paths;
+    for (const auto& [path, node] : Tree_All())
+        for (const char* pattern : named)
+            if (node.value == from && Text_MatchesPath(path, pattern))
+                paths.push_back(path);
+    for (const std::string& path : paths)
+        Tree_Show(path, to);
+    for (int n = 1; n <= OUTPUTS; ++n)
+        if (row_of(OUTPUT + "Source", std::to_string(n)) == from)
+            Tree_ShowRow(OUTPUT + "Source", Text_Format("%d,%s", n, to.c_str()));
+}
+
 // A row "number,name" of a source: all panels show the name from now on.
 static bool put_source(const std::string& path, const std::string& value, const std::string& number,
                        const std::string& name)
@@ -300,17 +325,11 @@ static bool put_source(const std::string& path, const std::string& value, const 
     if (!Text_ToInt(number, &n) || n < 1 || n > 136 || name.size() > 16)
         return refuse(path, value);
     Tree_Show(path, value);
+    const std::string before = row_of(SOURCES, number);
     Tree_ShowRow(SOURCES, number + "," + name);
+    if (!before.empty() && before != name)
+        rename_signal(before, name);
     return true;
-}
-
-static std::string row_of(const std::string& list, const std::string& key)
-{
-    if (const Node* const node = Tree_Find(list))
-        for (const std::string& row : node->rows)
-            if (Text_Begins(row, key + ","))
-                return row.substr(key.size() + 1);
-    return "";
 }
 
 // An output that is inhibited keeps its bus. The signal follows the bus.

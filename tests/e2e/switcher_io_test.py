@@ -114,6 +114,9 @@ class SwitcherIo(DeskCase):
 
     def test_4_the_name_of_an_input_is_the_sources_name(self):
         desk = self.desk
+        self.open("1111")
+        fill = desk.value("M/E-1@Key1@Status@Source Name")
+        self.assertEqual(fill, "CAM1")
         self.open("7332")
         self.row(0)
         self.push(33)
@@ -123,6 +126,7 @@ class SwitcherIo(DeskCase):
         name = desk.value(f"{SWITCHER}Input@Source Name@1")
         self.assertTrue(name.lower().endswith("x"), name)
         self.assertEqual(self.listed("Engineering Setup@Panel@Xpt Assign@Source@List", 1), name)
+        self.assertEqual(desk.value("M/E-1@Key1@Status@Source Name"), name, "a key that it cuts says so")
         self.assertIsNone(desk.app_status())
 
 
