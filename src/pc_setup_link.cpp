@@ -109,6 +109,17 @@ bool SetupLink_IsSound()
     return true;
 }
 
+// There is something to delete.
+void SetupLink_Changed()
+{
+    if (!lk.open)
+        return;
+    const int row = lk.open->state->cursor;
+    const bool is_empty =
+        is_none(cell(*lk.open, row, LINK_MASTER)) && is_none(cell(*lk.open, row, LINK_LINKED));
+    (void)BT_SetDisable(BTN_LINK_DELETE, is_empty);
+}
+
 static void delete_links(const SETUPTABLE& t)
 {
     for (int n = 0, row; (row = SetupPage_Selected(t, n)) >= 0; n++)

@@ -21,6 +21,8 @@ int SetupLink_Banks(int column, const char** texts, int max); // "M/E-1" to "P/P
 // SETUPSHEET.is_sound: no link is half, none leads to itself, and nothing has two masters. Says why
 // not.
 bool SetupLink_IsSound();
+void SetupLink_Changed(); // SETUPSHEET.changed
+enum : int { BTN_LINK_DELETE = 38 };
 
 int SetupLink_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
 int SetupLink_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);

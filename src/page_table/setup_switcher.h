@@ -329,9 +329,9 @@ inline constexpr BT_TBL link_more[] = {
 SHEET_OF(link, std::size(link_kinds), link_kinds, "Kind", 275, link_columns, ON_AIR, MORE(link_more));
 
 #define TO_LINK Jump({.id = 49, .caption = "Link", .cmd = {"#73360000"}})
-#define DELETE_LINK Action({.id = 38, .caption = "Delete", .cmd = LINK("Delete")})
+#define DELETE_LINK Action({.id = BTN_LINK_DELETE, .caption = "Delete", .cmd = LINK("Delete")})
 inline constexpr BT_TBL plain_link_more[] = {DELETE_LINK, TO_LINK};
-#define LINKS(offer_) .offer = offer_, .is_sound = SetupLink_IsSound
+#define LINKS(offer_) .offer = offer_, .is_sound = SetupLink_IsSound, .changed = SetupLink_Changed
 
 inline constexpr SETUPCOLUMN keylink_columns[] = {
     {.head = "Master", .width = 150, .path = SETUP_LINK_PATH "Key Link", .part = 1, .words = link_none, .is_asked = 1},
