@@ -385,3 +385,10 @@ void ClipOutput_Install()
     for (int n = 0; n < PROCESSORS; ++n)
         show_record(n);
 }
+
+void ClipOutput_Renewed(const std::string& path)
+{
+    for (int n = 0; n < OUTPUTS; ++n)
+        if (co.output[n].path == path)
+            recall(n, path);
+}

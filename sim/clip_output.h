@@ -17,3 +17,5 @@ bool ClipOutput_Put(const std::string& path, const std::string& value);
 // path.
 void ClipOutput_Start(int n, const std::string& path, int start, int stop, bool is_loop);
 int64_t ClipOutput_Tick(int64_t now); // returns the time of the next frame
+// The clip has other frames now: outputs that show it begin it anew.
+void ClipOutput_Renewed(const std::string& path);

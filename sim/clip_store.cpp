@@ -1,4 +1,5 @@
 #include "clip_store.h"
+#include "clip_output.h"
 #include "drive.h"
 #include "frame_file.h"
 #include "link.h"
@@ -494,6 +495,7 @@ static int do_trim(const Request& r)
         note(Drive_Move(to + "~", to));
     }
     clip.frames = total;
+    ClipOutput_Renewed(r.path);
     return CLIP_DONE;
 }
 

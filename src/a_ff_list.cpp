@@ -3,6 +3,7 @@
 #include "memory.h"
 #include "text.h"
 #include <cstring>
+#include <initializer_list>
 #include <new>
 
 #include "safeguards.h"

@@ -249,12 +249,42 @@ static void rec_len_tly(const char* value)
     (void)NB_SetVar(NB_FMEM_LENGTH, rec.length);
 }
 
+// What freeze_time_name makes: nothing that one would count on from.
+static bool is_time_name(const char* name)
+{
+    constexpr size_t TIME_DIGITS = 14;
+    return strspn(name, "0123456789") == TIME_DIGITS && name[TIME_DIGITS] == '_';
+}
+
+// The name that was used last, on whatever panel: "0,/NEWS/img0003.SFH", or without the flag.
+static void rec_name_tly(const char* value)
+{
+    char path[ELEMENT_PATH_SIZE];
+    const char* const comma = strrchr(value, ',');
+    FMCtrl3_CopyPath(path, comma ? comma + 1 : value, int(sizeof path));
+    const char* const slash = strrchr(path, '/');
+    const char* const name = slash ? slash + 1 : path;
+    if (!name[0] || strlen(name) >= ELEMENT_NAME_SIZE || is_time_name(name))
+        return;
+    CopyText(ClipStillRec_DefaultFname, name);
+    if (!is_recorded())
+        next_name();
+}
+
 static void tally(const char* path, const char* value)
 {
-    char own[64];
-    PrintText(own, "%sRecord@Rec Len@%s", FM_TREE, FM_GetFMProcStr(proc_of(FM_GetSelect())));
-    if (path && value && strcmp(path, own) == 0)
-        rec_len_tly(value);
+    static constexpr struct {
+        const char* path; // below FM_TREE, of the processor of the selected output
+        void (*take)(const char* value);
+    } tallies[] = {{"Rec Len", rec_len_tly}, {"Freeze/Rec Name", rec_name_tly}};
+    if (!path || !value || !BeginsWith(path, FM_TREE))
+        return;
+    for (const auto& t : tallies) {
+        char own[64];
+        PrintText(own, "%sRecord@%s@%s", FM_TREE, t.path, FM_GetFMProcStr(proc_of(FM_GetSelect())));
+        if (strcmp(path, own) == 0)
+            t.take(value);
+    }
 }
 
 static void output_changed()

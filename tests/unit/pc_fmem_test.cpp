@@ -209,11 +209,27 @@ TEST_F(ClipPages, RecordsUnderAFreeName)
     EXPECT_THAT(Press(BTN_FMEM_REC_STOP), ElementsAre("put  " + TREE + "Record@FM1#1,0,300,0"));
     Clip("img0001", 10);
     (void)Tell(TREE + "Record@PROC1#0,10,300,0");
+    (void)Tell(TREE + "Record@Freeze/Rec Name@PROC2#/OTHER7.SFH"); // of other outputs
     (void)Open(FREEZE);
     (void)Press(BTN_FMEM_FIELD);
     EXPECT_THAT(Press(BTN_FMEM_FREEZE),
                 ElementsAre("put " + TREE + "Record@Freeze/Rec Name@FM1#0,/img0002.SFH",
                             "put " + TREE + "Record@Freeze@FM1#0,1"));
+    static const struct {
+        const char* told; // by another panel
+        const char* next;
+    } names[] = {{"/NEWS/take09.SFH", "take09"},
+                 {"1,/OPENING.SFH", "OPENING0000"},
+                 {"/img0001.SFH", "img0002"},
+                 {",", "img0002"},
+                 {"0,20261125183322_1", "img0002"},
+                 {"/a012345678901234567890123456789.SFH", "a012345678901234567890123456789"}};
+    for (const auto& n : names) {
+        (void)Tell(TREE + "Record@Freeze/Rec Name@PROC1#" + n.told);
+        Pass(200);
+        EXPECT_THAT(Press(BTN_FMEM_FREEZE).front(),
+                    HasSubstr("#0,/" + std::string(n.next) + ".SFH"));
+    }
 }
 
 TEST_F(ClipPages, CopiesATreeAndMovesOneWithItsFolders)
