@@ -305,6 +305,12 @@ static std::string row_of(const std::string& list, const std::string& key)
 static void rename_signal(const std::string& from, const std::string& to)
 {
     static constexpr const char* named[] = {"**@Signal Select@*", "**@Status@Source Name"};
+    // Also those that nobody has asked for yet: they have the signal that they begin with.
+    for (const char* bank : {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P"})
+        for (int key = 1; key <= 8; ++key)
+            for (const char* tail :
+                 {"Type@Signal Select@Fill", "Type@Signal Select@Source", "Status@Source Name"})
+                (void)Tree_Get(Text_Format("%s@Key%d@%s", bank, key, tail));
     std::vector<std::string> paths;
     for (const auto& [path, node] : Tree_All())
         for (const char* pattern : named)
