@@ -72,6 +72,17 @@ static constexpr PathKind kinds[] = {
     {"**@Temporary Duration", "num 0 999 0"}, // frames
     {"**@Temporary Duration@*", "num 0 999 0"},
     {"**@MP2 Auto Correct", "bool"},
+    // The panel's setup.
+    {"Engineering Setup@Panel@Config@10 Key Region Assign@Select@*", "bool"},
+    {"Engineering Setup@Panel@Xpt Assign@Name Export@*", "bool"},
+    {"Engineering Setup@Panel@Xpt Assign@Shift Mode@*", "word Hold,Lock,All Rows,Off"},
+    {"Engineering Setup@Panel@Xpt Assign@User Color@*@Color", "num 0 9 0"},
+    {"Engineering Setup@Panel@Xpt Assign@User Color@*@Brightness", "word High,Middle,Low"},
+    {"Engineering Setup@Panel@Aux Assign@RTR Mode Set@Mode@*", "word Aux,Router,Aux/Router"},
+    {"Engineering Setup@Panel@Aux Assign@RTR Mode Set@Level@*", "word All,Each"},
+    {"Engineering Setup@Panel@Aux Assign@RTR Mode Set@Source Table Assign@*",
+     "word Table 1,Table 2,Table 3,Table 4"},
+    {"Info@Operation Setup Data@V/K Pair Assign", "bool"},
     // What the keys of a bank share.
     {"*@Misc@Transition@Transition Mode", "word Full,Limit"},
     {"*@Misc@Transition@*", "bool"},

@@ -20,8 +20,6 @@ static constexpr int TEN_KEYS = 23;
 static constexpr int TEN_KEY_FIELDS = 6;
 static constexpr int SUB_FIRST = 128; // buttons of the sub side are counted on
 static constexpr int XPT_BUTTONS = 32;
-static constexpr int XPT_FIELDS = 3;
-static constexpr int TABLE_FIELDS = 2;
 static constexpr int SHOTBOX_FIRST = 1001;
 
 static std::string without_last(const std::string& path, int words)
@@ -232,6 +230,22 @@ static bool put_flag(const std::string& path, const std::string& value)
     return true;
 }
 
+// A source's name or colour.
+static bool put_source(const std::string& path, const std::string& value)
+{
+    constexpr size_t name_max = 16;
+    constexpr long colour_max = 9;
+    const Fields field = Text_Split(value, ',');
+    long index = 0, colour = 0;
+    const bool is_name = last_word(path) == "List";
+    if (field.size() != 2 || !Text_ToInt(field[0], &index) || index < 1 || field[1].empty())
+        return true;
+    if (is_name ? field[1].size() <= name_max
+                : Text_ToInt(field[1], &colour) && colour >= 0 && colour <= colour_max)
+        tell_row(path, value);
+    return true;
+}
+
 // Tables of one thing on a button; the list is the word before the last.
 static bool put_table(const std::string& path, const std::string& value)
 {
@@ -336,6 +350,7 @@ bool SetupPanel_Put(const std::string& path, const std::string& value)
         {"Xpt Assign@Copy", put_copy},
         {"Xpt Assign@Inhibit", put_flag},
         {"Xpt Assign@Side Flags Button Assign", put_flag},
+        {"Xpt Assign@Source@*", put_source},
         {"Xpt Assign@Name Export@Execute", put_export},
         {"Xpt Assign@Mixer Xpt Assign@*", put_table},
         {"Aux Assign@Aux Button@*", put_table},

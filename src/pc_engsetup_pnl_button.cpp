@@ -275,14 +275,17 @@ static void name_path(int button, char (&path)[CMD_SIZE])
     PrintText(path, "%s@Name@%d@%d", pb.page_path, place(), button);
 }
 
-static void subscribe(const char* verb)
+static void subscribe(int on)
 {
+    const char* const verb = on ? "add" : "remove";
     char path[CMD_SIZE];
     for (int button = 1; button <= pb.module->buttons; button++) {
         button_path(button, path);
         Net_SendCommandFormat("%s %s", verb, path);
         if (!pb.module->is_action)
             continue;
+        if (on)
+            Net_SendCommandFormat("read %s", path);
         name_path(button, path);
         Net_SendCommandFormat("%s %s", verb, path);
     }
@@ -384,11 +387,12 @@ static void show_keys()
         mirror("Kind", list_words[pb.list]);
         return;
     }
-    const bool has_both = pb.module->has_banks && RegionMainSubAssign(pb.bank) == SIDE_BOTH;
+    if (!pb.module->has_banks)
+        return;
+    const bool has_both = RegionMainSubAssign(pb.bank) == SIDE_BOTH;
     (void)BT_SetDisable(BTN_ASSIGN_MAIN, !has_both);
     (void)BT_SetDisable(BTN_ASSIGN_SUB, !has_both);
-    if (pb.module->has_banks)
-        mirror("Main/Sub", side_captions[pb.side]);
+    mirror("Main/Sub", side_captions[pb.side]);
 }
 
 // --- The picture ---
@@ -439,9 +443,8 @@ static void draw_bank(int bank)
     const int sides = RegionMainSubAssign(bank);
     const int side = sides == SIDE_BOTH ? (is_on ? pb.side : SIDE_MAIN) : sides;
     CopyText(caption, bank_captions[bank]);
-    if (is_multi_program(bank)) {
+    if (is_multi_program(bank))
         AppendText(caption, side == SIDE_SUB ? "\n Sub" : "\nMain");
-    }
     if (!can_choose_bank(bank))
         draw_key(bank_rect(bank), G_PSELm_dis, caption, GREY);
     else
@@ -572,7 +575,7 @@ static void press_default(const char*)
 
 static void move_to(int bank, int side)
 {
-    subscribe("remove");
+    subscribe(0);
     pb.side = side;
     choose_bank(bank);
     forget_held();
@@ -580,7 +583,7 @@ static void move_to(int bank, int side)
     show_keys();
     mark_list();
     pb.FlexiPad_BtnRedraw = true;
-    subscribe("add");
+    subscribe(1);
 }
 
 static void press_side(const char* value)
@@ -781,7 +784,7 @@ static void open_module(const SetupModule& module)
 static int pc_engsetup_panel_button_create(int on, uint32_t var)
 {
     if (!on && pb.module) {
-        subscribe("remove");
+        subscribe(0);
         if (pb.module->is_action)
             Register_StatusReport(0);
     }
@@ -795,7 +798,7 @@ static int pc_engsetup_panel_button_create(int on, uint32_t var)
     (void)LS_SetNowLine(LIST, 0);
     show_keys();
     pb.FlexiPad_NormRedraw = true;
-    subscribe("add");
+    subscribe(1);
     return 0;
 }
 

@@ -139,37 +139,37 @@ inline constexpr LS_TBL ls_engsetup_panel_xptassign_copy[] = {
 static_assert(ListsAreSound(ls_engsetup_panel_xpt) && ListsAreSound(ls_engsetup_panel_table));
 static_assert(ListsAreSound(ls_engsetup_panel_xptassign_copy));
 
-#define EDITING(word) \
-    Action({.id = BTN_XPT_INSERT,    .caption = "Insert", .group = "Editing Xpt Assign", .cmd = {"LOCAL@" word "@Editing Xpt Assign@Insert"}}), \
-    Action({.id = BTN_XPT_OVERWRITE, .caption = "Over-\nwrite", .group = "Editing Xpt Assign", .cmd = {"LOCAL@" word "@Editing Xpt Assign@Overwrite"}}), \
-    Action({.id = BTN_XPT_DELETE,    .caption = "Delete", .group = "Editing Xpt Assign", .cmd = {"LOCAL@" word "@Editing Xpt Assign@Delete"}}), \
-    Action({.id = BTN_XPT_DEFAULT,   .caption = "Default", .group = "Editing Xpt Assign", .cmd = {"LOCAL@" word "@Editing Xpt Assign@Default"}})
+#define EDITING(word, title) \
+    Action({.id = BTN_XPT_INSERT,    .caption = "Insert", .group = title, .cmd = {"LOCAL@" word "@Editing Xpt Assign@Insert"}}), \
+    Action({.id = BTN_XPT_OVERWRITE, .caption = "Over-\nwrite", .group = title, .cmd = {"LOCAL@" word "@Editing Xpt Assign@Overwrite"}}), \
+    Action({.id = BTN_XPT_DELETE,    .caption = "Delete", .group = title, .cmd = {"LOCAL@" word "@Editing Xpt Assign@Delete"}}), \
+    Action({.id = BTN_XPT_DEFAULT,   .caption = "Default", .group = title, .cmd = {"LOCAL@" word "@Editing Xpt Assign@Default"}})
 #define SIDE_KEYS(name, word) inline constexpr BT_TBL bt_engsetup_panel_xptassign_##name[] = { \
         Toggle({.id = BTN_XPT_VIDEO,   .caption = "Video", .group = "Assign", .cmd = {"LOCAL@" word "@Assign@Video"}}), \
         Toggle({.id = BTN_XPT_KEY,     .caption = "Key", .group = "Assign", .cmd = {"LOCAL@" word "@Assign@Key"}}), \
         Action({.id = BTN_XPT_INHIBIT, .caption = "Inhibit", .group = "Button", .cmd = {"LOCAL@" word "@Inhibit"}}), \
         Toggle({.id = BTN_XPT_PAIR,    .caption = "V/K Pair\nAssign", .group = "Assign", .cmd = {"LOCAL@" word "@V/K Pair Assign"}}), \
         Jump(  {.id = BTN_XPT_SHIFT,   .caption = "Shift\nMode\nSetting", .group = "Button", .cmd = {"LOCAL@" word "@Shift Mode Setting"}}), \
-        EDITING(word), BT_END}; \
+        EDITING(word, "Editing Xpt Assign"), BT_END}; \
     static_assert(ButtonsAreSound(bt_engsetup_panel_xptassign_##name))
 SIDE_KEYS(main, "Main");
 SIDE_KEYS(sub, "Sub");
 #undef SIDE_KEYS
 
-inline constexpr BT_TBL bt_engsetup_panel_xptassign_mixerxptassign[] = {EDITING("Mixer"), BT_END};
+inline constexpr BT_TBL bt_engsetup_panel_xptassign_mixerxptassign[] = {EDITING("Mixer", "Editing Xpt Assign"), BT_END};
 inline constexpr BT_TBL bt_engsetup_panel_auxassign[] = {
     Jump({.id = 33, .caption = "RTR Mode\nSet", .group = "Router", .cmd = {"#73230001"}}),
-    EDITING("Aux"),
+    EDITING("Aux", "Editing Table"),
     BT_END,
 };
-inline constexpr BT_TBL bt_engsetup_panel_auxassign_lvlbtnassign[] = {EDITING("Level"), BT_END};
+inline constexpr BT_TBL bt_engsetup_panel_auxassign_lvlbtnassign[] = {EDITING("Level", "Editing Table"), BT_END};
 #define TABLE(n) {"LOCAL@Router@Table#" n}
 inline constexpr BT_TBL bt_engsetup_panel_auxassign_tableassign[] = {
     Radio({.id = 33, .caption = "Table 1", .group = "Source Table", .cmd = TABLE("1")}),
     Radio({.id = 34, .caption = "Table 2", .group = "Source Table", .cmd = TABLE("2")}),
     Radio({.id = 49, .caption = "Table 3", .group = "Source Table", .cmd = TABLE("3")}),
     Radio({.id = 50, .caption = "Table 4", .group = "Source Table", .cmd = TABLE("4")}),
-    EDITING("Router"),
+    EDITING("Router", "Editing Table"),
     BT_END,
 };
 #undef TABLE

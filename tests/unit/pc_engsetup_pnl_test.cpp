@@ -63,10 +63,17 @@ TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
         const std::string tail = is_action ? "" : "@Operation@Common@" + place;
         EXPECT_EQ(Held(lines, path + last + tail), 1) << path << last << tail;
         EXPECT_EQ(LS_GetNData(1), m.rows) << m.path;
+        EXPECT_FALSE(Disabled().contains(BTN_ASSIGN_SET)) << m.path;
         for (int row = 0; row < LS_GetNData(1); row++)
             EXPECT_LE(TDL_GetSymbolWidth(LS_GetData(1, row, 0), 3), 128u) << LS_GetData(1, row, 0);
         EXPECT_EQ(Held(Leave(), path + last + tail), -1) << m.path;
     }
+}
+
+TEST_F(PanelSetup, TheKeyToTheKeyControlButtonsStaysUsable)
+{
+    (void)Open(0x73210035);
+    EXPECT_THAT(Disabled(), testing::IsEmpty());
 }
 
 TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
