@@ -80,7 +80,18 @@ class SwitcherSetup(DeskCase):
         self.put(f"{SWITCHER}Config@Logical M/E", "M/E-1,M/E-1,M/E-3,M/E-4,M/E-5,P/P,")
         self.assertTrue(self.desk.value(f"{SWITCHER}Config@Logical M/E").startswith("M/E-2,M/E-1"))
 
-    def test_3_another_panel_changes_what_is_not_in_hand(self):
+    def test_3_a_function_moves_to_another_user_region(self):
+        user = f"{SWITCHER}Config@User1-8 Config@User"
+        self.open("7331.1")
+        self.choose(33, 1, 3, 9)  # FM1 to User2
+        self.push(EXECUTE)
+        self.desk.wait_wire(f"put {user}2#FM1,FM5,FM6,FM7,FM8,Aux3,Aux4")
+        self.becomes(user + "1", "FM2,FM3,FM4,Aux1,Aux2")
+        self.put(user + "3", "FM1,Nothing")
+        self.becomes(user + "3", "")
+        self.assertFalse(self.changes())
+
+    def test_4_another_panel_changes_what_is_not_in_hand(self):
         self.open("7334")
         before = self.desk.part(100, 98, 649, 339)
         self.put(f"{SWITCHER}Transition@Key Transition@M/E-2", "Independent")
@@ -93,7 +104,7 @@ class SwitcherSetup(DeskCase):
         self.becomes("M/E-1@Misc@Transition@Flip-Flop", "false")
         self.assertIsNone(self.desk.app_status())
 
-    def test_4_a_curve_is_drawn_and_runs_the_transition(self):
+    def test_5_a_curve_is_drawn_and_runs_the_transition(self):
         self.open("7334.3")
         plot = self.desk.part(440, 84, 690, 334)
         self.push(36)  # Slow Start
@@ -112,7 +123,7 @@ class SwitcherSetup(DeskCase):
         now = float(self.desk.value("M/E-1@Status@Transition Position"))
         self.assertTrue(0 < now < 25, f"{now} at a third of the way")
 
-    def test_5_a_key_goes_along_with_its_master(self):
+    def test_6_a_key_goes_along_with_its_master(self):
         self.open("7336.1")
         self.choose(33, 0, 8, 49)       # M/E-1 Key1
         self.choose(34, 8 + 2, 8, 49)   # M/E-2 Key3
@@ -130,7 +141,7 @@ class SwitcherSetup(DeskCase):
         self.push(38)
         self.assertFalse(self.changes(), "deleted: as it was")
 
-    def test_6_a_bank_with_a_key_preview_has_no_fourth_key(self):
+    def test_7_a_bank_with_a_key_preview_has_no_fourth_key(self):
         self.put("M/E-3@Key4@Status@Key ON", "true")
         self.open("7331.5")
         self.row(2)
@@ -140,7 +151,7 @@ class SwitcherSetup(DeskCase):
         self.put("M/E-3@Key4@Status@Key ON", "true")
         self.becomes("M/E-3@Key4@Status@Key ON", "false")
 
-    def test_7_a_bus_follows_by_a_table(self):
+    def test_8_a_bus_follows_by_a_table(self):
         self.open("7336.3")
         self.push(35)
         self.desk.touch(150, 76 + 22 + 10)  # the first bus: M/E-1 A
