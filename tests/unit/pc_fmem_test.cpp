@@ -102,6 +102,11 @@ struct ClipPages : TablePage {
         FF_ClearCheckedObjectList(0);
         (void)Asked();
     }
+    static const char* SelectedName()
+    {
+        static FF_OBJECT object;
+        return FF_GetSelectedObject(0, &object) == 0 ? object.name : "";
+    }
     // The cell of a name becomes the selection, or is checked while that is on.
     static void Cell(int area, const char* name)
     {
@@ -294,27 +299,72 @@ TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
     EXPECT_EQ(asked.back(), "ClipStoreFolder:DeleteFolder root/NEWS");
 }
 
-TEST_F(ClipPages, NamesAreCheckedAndCancelForgets)
+TEST_F(ClipPages, NamesAreCheckedBeforeAnythingIsAsked)
 {
-    OpenPage(DELETE_RENAME);
-    Cell(0, "STILL");
-    const auto rename = [](const char* text) {
-        (void)Press(BTN_FMEM_RENAME);
-        (void)CloseWindow();
-        EXPECT_EQ(fmfileope_start(FMFILEOPE_RENAME, OBJECT_TYPE_FILE, "/root/STILL", text), 0);
+    static const struct {
+        uint32_t page;
+        const char* cell; // null: none
+        int key;
+        const char* typed; // behind what stands there
+        bool is_refused;
+        const char* asked; // null: nothing
+    } cases[] = {
+        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "", false, nullptr}, // the same name
+        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "2", false,
+         "ClipStoreFile:Move root/STILL.SFH root/STILL2.SFH"},
+        {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, "2", false,
+         "ClipStoreFile:Move root/SPORT root/SPORT2"},
+        {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, " 2", false,
+         "ClipStoreFile:Move root/SPORT root/SPORT_2"},
+        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "ED", true, nullptr}, // it is there
+        {COPY_MOVE, "STILL", BTN_FMEM_DUPLICATE, "", true, nullptr},
+        {COPY_MOVE, "STILL", BTN_FMEM_DUPLICATE, "_b", false,
+         "ClipStoreFile:Copy root/STILL.SFH root/STILL_b.SFH"},
+        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "", true, nullptr},
+        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "TALL", true, nullptr},
+        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "DAY", false,
+         "ClipStoreFolder:MakeFolder root/DAY"},
+    };
+    Clip("STILLED", 1);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        OpenPage(c.page);
+        if (c.cell && strcmp(SelectedName(), c.cell) != 0)
+            Cell(0, c.cell);
+        (void)Press(c.key);
+        for (const char* p = c.typed; *p; p++)
+            SendMessage(MSG_KEY, tolower(*p), isupper(*p) ? KMOD_LSHIFT : 0, 0, 0);
+        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+        for (int i = 0; i < 4; i++)
+            Pass(100);
+        const Strings asked = Asked();
+        EXPECT_EQ(asked.empty() ? "" : asked.front(), c.asked ? c.asked : "");
+        EXPECT_EQ(Pane_GetActiveID() != 0, c.is_refused || fmfileope_is_busy());
+        if (c.is_refused) {
+            Answer(0); // and the name is asked for again
+            EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
+            (void)CloseWindow();
+        }
+        fmem_drop();
+    }
+}
+
+TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
+{
+    const auto rename = [] {
+        EXPECT_EQ(fmfileope_start(FMFILEOPE_RENAME, OBJECT_TYPE_FILE, "/root/STILL", "/root/NEW"),
+                  0);
         fmfileope_do(nullptr);
     };
-    rename("/root/STILL");
-    EXPECT_THAT(Asked(), IsEmpty());
-    rename("/root/NEW");
-    EXPECT_THAT(Asked(), ElementsAre("ClipStoreFile:Move root/STILL.SFH root/NEW.SFH"));
+    OpenPage(DELETE_RENAME);
+    rename();
     Hub("Result", "ClipStoreFile", "Move root/OTHER.SFH root/NEW.SFH:7F");
     Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:40");
     EXPECT_TRUE(fmfileope_is_busy());
     Answer(1); // "Cancel"
     EXPECT_FALSE(fmfileope_is_busy());
     Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:7F");
-    rename("/root/NEW");
+    rename();
     FMCtrl3_HubLost();
     EXPECT_FALSE(fmfileope_is_busy());
     EXPECT_EQ(Pane_GetActiveID(), 0);
