@@ -122,6 +122,15 @@ TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
     SelectRow(1);
     (void)Push(BTN_FCADJUST_ENHANCER_ADJUST);
     EXPECT_EQ(Knobs(), "Detail Gain@1 H/V@1");
+    (void)Leave();
+    (void)Open(FC3G_PAGE);
+    const std::string adjust = ADJUST.substr(0, ADJUST.size() - 1) + " 3G@";
+    TellAll(adjust, {"Convert Mode@0#2", "Aspect Type@0#Letter Box", "LB Pos Mode@0#1"});
+    char cmd[CMD_SIZE];
+    double var = 0;
+    EXPECT_GE(NB_GetKnob_info("LB Pos", cmd, &var, sizeof cmd), 0);
+    EXPECT_EQ(cmd, adjust + "LB Pos@0");
+    EXPECT_EQ(NB_GetKnob_info("Motion Sel", cmd, &var, sizeof cmd), -1);
 }
 
 TEST_F(FcAdjust, TheAspectLimitsThePositions)
