@@ -268,12 +268,13 @@ static void full_name_of(char (&name)[ELEMENT_PATH_SIZE], const char* path)
     PrintText(name, "/%s/%s", ELEMENT_ROOT, p);
 }
 
+// Frames and small numbers; what is beyond them is cut.
 static int split_numbers(const char* value, int* number, int most)
 {
     int count = 0;
     for (const char* p = value; p && count < most; p = strchr(p, ',')) {
         p += *p == ',';
-        number[count++] = int(strtol(p, nullptr, 10));
+        number[count++] = int(std::clamp(strtol(p, nullptr, 10), 0L, long(ELEMENT_FRAMES_MAX)));
     }
     return count;
 }

@@ -80,17 +80,18 @@ static bool has_clip()
 static int last_number(const char* value)
 {
     const char* const comma = strrchr(value, ',');
-    return int(strtol(comma ? comma + 1 : value, nullptr, 10));
+    const long number = strtol(comma ? comma + 1 : value, nullptr, 10);
+    return int(std::clamp(number, -long(ELEMENT_FRAMES_MAX), long(ELEMENT_FRAMES_MAX)));
 }
 
 static void clipplay_start_tc_tly(CLIPPLAY& c, const char* value)
 {
-    c.start_tc = last_number(value);
+    c.start_tc = std::max(last_number(value), 0);
 }
 
 static void clipplay_stop_tc_tly(CLIPPLAY& c, const char* value)
 {
-    c.stop_tc = last_number(value);
+    c.stop_tc = std::max(last_number(value), 0);
 }
 
 static void clipplay_playmode_tly(CLIPPLAY& c, const char* value)
