@@ -127,7 +127,7 @@ static constexpr BenchCase cases[] = {
      .limit_copies = 14.0},
     {.name = "page change, to a neighbour in its tabs",
      .once = ToTheNeighbourAndBack,
-     .limit_copies = 8.0,
+     .limit_copies = 12.0,
      .per = 2.0},
     // The inversion of a key stands in both cells of its type.
     {.name = "one button and its two cells repainted", .once = RepaintButton, .limit_copies = 0.5},
