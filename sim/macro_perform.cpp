@@ -51,29 +51,45 @@ static const char* truth(const std::string& word)
 
 // --- Crosspoints ---
 
-// The source on a crosspoint button.
-static std::string source_on(int button)
+static const std::string XPT = "Engineering Setup@Panel@Xpt Assign@";
+
+// The fields behind the index in a row of a list; empty when there is none.
+static std::vector<std::string> row_of(const std::string& list, int index)
 {
-    const Node* const sources = Tree_Find("Engineering Setup@Panel@Xpt Assign@Source@List");
-    const std::string head = std::to_string(button) + ",";
-    for (const std::string& row : sources ? sources->rows : std::vector<std::string>())
+    const Node* const node = Tree_Find(list);
+    const std::string head = std::to_string(index) + ",";
+    for (const std::string& row : node ? node->rows : std::vector<std::string>())
         if (Text_Begins(row, head))
-            return Text_Split(row, ',')[1];
-    return "CAM" + std::to_string(button);
+            return Text_Split(row.substr(head.size()), ',');
+    return {};
+}
+
+// The source on a crosspoint button, by the panel's table; empty when the button is inhibited.
+static std::string source_on(int button, bool is_key = false)
+{
+    const auto assign = row_of(XPT + "Assign", button), inhibit = row_of(XPT + "Inhibit", button);
+    if (!inhibit.empty() && inhibit[0] == "true")
+        return "";
+    long source = button;
+    if (assign.size() == 2)
+        (void)Text_ToInt(assign[is_key], &source); // otherwise as it is numbered
+    const auto name = row_of(XPT + "Source@List", int(source));
+    return name.empty() ? "CAM" + std::to_string(source) : name[0];
 }
 
 static void me_xpt(const MacroLine& line)
 {
     const std::string bus = value_of(line, "MEBus");
     const int button = MacroEvent_Number(line, "Xpt", 1, 128, 0);
-    const std::string source = source_on(button);
-    if (button == 0)
+    const bool is_key = value_of(line, "VideoKey") == "Key";
+    const std::string source = source_on(button, is_key);
+    if (button == 0 || source.empty())
         return;
     if (Text_Begins(bus, "Bkgd"))
         put(tree_of(line, "ME"), "@Status@Xpt Assign@" + bus.substr(4), source);
     else if (Text_Begins(bus, "Utility"))
         put(tree_of(line, "ME"), "@Status@Xpt Assign@UTIL" + bus.substr(7), source);
-    else if (value_of(line, "VideoKey") == "Key")
+    else if (is_key)
         put(key_of(line, bus), "@Type@Signal Select@Source", source);
     else
         put(key_of(line, bus), "@Type@Signal Select@Fill", source);
@@ -83,8 +99,9 @@ static void aux_xpt(const MacroLine& line)
 {
     const std::string bus = value_of(line, "AuxBus");
     const int button = MacroEvent_Number(line, "Xpt", 1, 128, 0);
-    if (!bus.empty() && button > 0)
-        put("Aux@", bus + "@Status@Xpt Assign", source_on(button));
+    const std::string source = source_on(button);
+    if (!bus.empty() && button > 0 && !source.empty())
+        put("Aux@", bus + "@Status@Xpt Assign", source);
 }
 
 static void router_xpt(const MacroLine& line)

@@ -6,6 +6,19 @@
 #include "a_pc.h"
 #include "types.h"
 
+// Regions of a panel, as the server counts banks.
+enum REGION_BASEPP : int {
+    REGION_ME_BASEPP_PP,
+    REGION_ME_BASEPP_ME1,
+    REGION_ME_BASEPP_ME2,
+    REGION_ME_BASEPP_ME3,
+    REGION_ME_BASEPP_ME4,
+    REGION_ME_BASEPP_ME5,
+    REGION_BASEPP_1ST_AUX,
+    REGION_BASEPP_2ND_AUX,
+    REGION_BASEPP_AUX_MAX,
+};
+
 // --- What a button can be given ---
 
 // What a row of a table needs in this installation.

@@ -137,19 +137,20 @@ constexpr int ARROW_X = 400;
 constexpr int ARROW_Y = 310;
 constexpr int FONT_KEY = 1;
 constexpr int FONT_TITLE = 3;
-constexpr const char* bank_captions[ME_COUNT] = {"P/P", "M/E1", "M/E2", "M/E3", "M/E4", "M/E5"};
+constexpr const char* bank_captions[REGION_BASEPP_1ST_AUX] = {"P/P",  "M/E1", "M/E2",
+                                                              "M/E3", "M/E4", "M/E5"};
 constexpr const char* side_captions[] = {"Main", "Sub"};
 enum : int { SIDE_MAIN, SIDE_SUB, SIDE_BOTH };
 } // namespace
 
 static struct {
     const SetupModule* module = nullptr;
-    char FlexiPadmodPath[CMD_SIZE] = "";             // of the assignments
-    char page_path[CMD_SIZE] = "";                   // of names
-    const assign_regnametbl* Real[ASSIGN_ROWS] = {}; // the rows of the list
+    char FlexiPadmodPath[CMD_SIZE] = "";                                   // of the assignments
+    char page_path[CMD_SIZE] = "";                                         // of names
+    const assign_regnametbl* FlexiPadmod_RealRegNameTbl[ASSIGN_ROWS] = {}; // the rows of the list
     int rows = 0;
-    int button = 1; // selected
-    int bank = 0;   // as the server counts, P/P first
+    int button = 1;                 // selected
+    int bank = REGION_ME_BASEPP_PP; // as the server counts
     int side = SIDE_MAIN;
     ListKind list = LIST_FUNCTIONS;
     Held held[BUTTONS + 1] = {}; // by button, from 1
@@ -168,7 +169,7 @@ static int panel_row(int bank)
     return at == GL_MEAssign + PANEL_ROWS ? -1 : int(at - GL_MEAssign);
 }
 
-static bool is_multi_program(int bank)
+static bool flexipad_main_sub_mode(int bank)
 {
     return multiprogram2_me[bank] != 0;
 }
@@ -177,7 +178,7 @@ static bool is_multi_program(int bank)
 static int RegionMainSubAssign(int bank)
 {
     const int row = panel_row(bank);
-    return is_multi_program(bank) && row >= 0 ? GL_MainSubAssign[row] : SIDE_MAIN;
+    return flexipad_main_sub_mode(bank) && row >= 0 ? GL_MainSubAssign[row] : SIDE_MAIN;
 }
 
 static bool has_module(int bank)
@@ -234,28 +235,28 @@ static void FlexiPadmod_list_init()
     for (assign_regnametbl& row : table_of(*pb.module)) {
         row.active = is_active(row);
         if (row.active)
-            pb.Real[pb.rows++] = &row;
+            pb.FlexiPadmod_RealRegNameTbl[pb.rows++] = &row;
     }
 }
 
 static const assign_regnametbl* no_assign()
 {
-    return pb.Real[0];
+    return pb.FlexiPadmod_RealRegNameTbl[0];
 }
 
 static const assign_regnametbl* find_row(const char* name)
 {
     for (int i = 0; i < pb.rows; i++)
-        if (Same(pb.Real[i]->tally_name, name))
-            return pb.Real[i];
+        if (Same(pb.FlexiPadmod_RealRegNameTbl[i]->tally_name, name))
+            return pb.FlexiPadmod_RealRegNameTbl[i];
     return no_assign();
 }
 
 static const assign_regnametbl* find_id(int id)
 {
     for (int i = 0; i < pb.rows; i++)
-        if (pb.Real[i]->id == id)
-            return pb.Real[i];
+        if (pb.FlexiPadmod_RealRegNameTbl[i]->id == id)
+            return pb.FlexiPadmod_RealRegNameTbl[i];
     return no_assign();
 }
 
@@ -325,8 +326,9 @@ static const char* register_name(int reg)
 
 static bool is_in_row(const Held& held, int row)
 {
-    return pb.list == LIST_FUNCTIONS ? held.reg == 0 && held.row == pb.Real[row]
-                                     : held.reg == register_of_row(row);
+    return pb.list == LIST_FUNCTIONS
+               ? held.reg == 0 && held.row == pb.FlexiPadmod_RealRegNameTbl[row]
+               : held.reg == register_of_row(row);
 }
 
 // The buttons that a row is assigned to.
@@ -347,7 +349,7 @@ static void mark_row(int row)
 static const char* row_text(int row)
 {
     if (pb.list == LIST_FUNCTIONS)
-        return pb.Real[row]->list_assign;
+        return pb.FlexiPadmod_RealRegNameTbl[row]->list_assign;
     char(&text)[32] = pb.registers[row];
     PrintText(text, pb.list == LIST_MACROS ? "%3d %s" : "%3d %s ST", row + 1,
               register_name(register_of_row(row)));
@@ -443,7 +445,7 @@ static void draw_bank(int bank)
     const int sides = RegionMainSubAssign(bank);
     const int side = sides == SIDE_BOTH ? (is_on ? pb.side : SIDE_MAIN) : sides;
     CopyText(caption, bank_captions[bank]);
-    if (is_multi_program(bank))
+    if (flexipad_main_sub_mode(bank))
         AppendText(caption, side == SIDE_SUB ? "\n Sub" : "\nMain");
     if (!can_choose_bank(bank))
         draw_key(bank_rect(bank), G_PSELm_dis, caption, GREY);
@@ -498,7 +500,7 @@ static void draw_field_frame()
 static void draw_frames()
 {
     if (pb.module->has_banks)
-        draw_frame(bank_rect(0).y1 - 13, bank_rect(ME_COUNT - 1).y2 + 6, GROUP_FRAME,
+        draw_frame(bank_rect(0).y1 - 13, bank_rect(REGION_ME_BASEPP_ME5).y2 + 6, GROUP_FRAME,
                    "Bank Select");
     TDL_PutS(ARROW_X, ARROW_Y, G_hidariya);
 }
@@ -508,7 +510,7 @@ static int assign_redraw()
     if (pb.FlexiPad_NormRedraw)
         draw_frames();
     if (pb.FlexiPad_NormRedraw || pb.FlexiPad_BtnRedraw) {
-        for (int bank = 0; bank < ME_COUNT && pb.module->has_banks; bank++)
+        for (int bank = 0; bank < REGION_BASEPP_1ST_AUX && pb.module->has_banks; bank++)
             draw_bank(bank);
         draw_field_frame();
         for (int button = 1; button <= pb.module->buttons; button++)
@@ -541,11 +543,11 @@ static void assign_row(int row)
     if (pb.list != LIST_FUNCTIONS)
         put_action(ACTION_REGISTER, register_of_row(row));
     else if (!pb.module->is_action)
-        put_assign(NumStr(place()), pb.Real[row]);
+        put_assign(NumStr(place()), pb.FlexiPadmod_RealRegNameTbl[row]);
     else if (row == 0)
         put_action(ACTION_NONE, 0);
     else
-        put_action(ACTION_FUNCTION, pb.Real[row]->id);
+        put_action(ACTION_FUNCTION, pb.FlexiPadmod_RealRegNameTbl[row]->id);
 }
 
 static void press_set(const char*)
@@ -649,7 +651,7 @@ static int assign_press(int x, int y)
 {
     if (SetupIndex_IsLocked(GL_NowPage))
         return 0;
-    for (int bank = 0; bank < ME_COUNT && pb.module->has_banks; bank++)
+    for (int bank = 0; bank < REGION_BASEPP_1ST_AUX && pb.module->has_banks; bank++)
         if (Inside(bank_rect(bank), x, y) && can_choose_bank(bank) && bank != pb.bank)
             move_to(bank, SIDE_MAIN);
     for (int button = 1; button <= pb.module->buttons; button++) {
@@ -765,7 +767,7 @@ static int asked_button()
 static void choose_first_bank()
 {
     for (const bool needs_module : {false, true})
-        for (int bank = ME_COUNT - 1; bank >= 0; bank--)
+        for (int bank = REGION_ME_BASEPP_ME5; bank >= REGION_ME_BASEPP_PP; bank--)
             if (can_choose_bank(bank) && (!needs_module || has_module(bank)))
                 choose_bank(bank);
 }

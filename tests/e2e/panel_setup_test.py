@@ -89,6 +89,8 @@ class PanelSetup(DeskCase):
         self.push(36)
         self.assertEqual(self.puts(), [f"put {XPT}Insert VK#2,5,0"])
         self.assertEqual(self.buttons(1, 2, 3, 32, 129), ["1,1", "5,5", "2,2", "31,31", "1,1"])
+        self.desk.console("macro operate AuxXpt,AuxBus,Aux2,Xpt,2")
+        self.assertEqual(self.desk.value("Aux@Aux2@Status@Xpt Assign"), "CAM5", "the button carries it")
         self.push(34)  # video alone
         self.push(38)  # of the next button
         self.assertEqual(self.puts(), [f"put {XPT}Delete V#3"])
