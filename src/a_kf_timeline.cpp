@@ -99,6 +99,8 @@ static int kf_tl_create(int on, uint32_t)
     unpainted_ms = 0;
     TDL_FillRectS(STRIP.x1, STRIP.y1, STRIP.x2, STRIP.y2, FRAME_GROUND);
     order_rows();
+    renew_axis(); // of the rows that are there now
+    tlSETime_redraw = 0;
     paint_rows();
     draw_label(START_LABEL, tlSTime);
     draw_label(END_LABEL, tlETime);

@@ -194,6 +194,8 @@ static void build(const PAGE& row)
             return; // what was created has opened another page, which is complete by now
     }
     RefreshScreen();
+    // What an object moved while it painted, as a list its bar, is right in the same step.
+    SendMessage(MSG_REDRAW, 0, 0, 0, 0);
 }
 
 int CreatePage(uint32_t id)
