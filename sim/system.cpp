@@ -1,6 +1,7 @@
 #include "system.h"
 #include "attach.h"
 #include "clip_output.h"
+#include "copy_swap.h"
 #include "diag.h"
 #include "dissolve.h"
 #include "dme_channels.h"
@@ -281,6 +282,7 @@ void System_Install()
     ClipOutput_Install();
     FrameMemory_Install();
     Transition_Install();
+    CopySwap_Install();
     Dissolve_Install();
     Dme_Install();
     Rules_Install();

@@ -2,6 +2,7 @@
 #include "attach.h"
 #include "autoload.h"
 #include "clip_output.h"
+#include "copy_swap.h"
 #include "diag.h"
 #include "dme_channels.h"
 #include "file_job.h"
@@ -103,6 +104,7 @@ static constexpr Owner owners[] = {
     {"Engineering Setup@Panel@", SetupPanel_Put},
     {"Engineering Setup@Switcher@", SetupSwitcherIo_Put},
     {"Engineering Setup@Switcher@", SetupSwitcher_Put},
+    {"Copy/Swap@", CopySwap_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };

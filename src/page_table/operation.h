@@ -1,28 +1,7 @@
-// operation: the first pages of copy and swap, miscellaneous, status.
+// operation: the first pages of miscellaneous and status.
 #pragma once
 #include "pulldowns.h"
 #include "rows.h"
-
-inline constexpr BT_TBL bt_copyswap_me[] = {
-    Radio(      {.id = 17, .caption = "M/E-1", .group = "From", .cmd = {"~@From#M/E-1"}}),
-    Radio(      {.id = 18, .caption = "M/E-2", .group = "From", .cmd = {"~@From#M/E-2"}}),
-    Radio(      {.id = 19, .caption = "M/E-3", .group = "From", .cmd = {"~@From#M/E-3"}}),
-    Radio(      {.id = 20, .caption = "M/E-4", .group = "From", .cmd = {"~@From#M/E-4"}}),
-    Radio(      {.id = 21, .caption = "M/E-5", .group = "From", .cmd = {"~@From#M/E-5"}}),
-    Radio(      {.id = 22, .caption = "P/P", .group = "From", .cmd = {"~@From#P/P"}}),
-    Radio(      {.id = 33, .caption = "M/E-1", .group = "To", .cmd = {"~@To#M/E-1"}}),
-    Radio(      {.id = 34, .caption = "M/E-2", .group = "To", .cmd = {"~@To#M/E-2"}}),
-    Radio(      {.id = 35, .caption = "M/E-3", .group = "To", .cmd = {"~@To#M/E-3"}}),
-    Radio(      {.id = 36, .caption = "M/E-4", .group = "To", .cmd = {"~@To#M/E-4"}}),
-    Radio(      {.id = 37, .caption = "M/E-5", .group = "To", .cmd = {"~@To#M/E-5"}}),
-    Radio(      {.id = 38, .caption = "P/P", .group = "To", .cmd = {"~@To#P/P"}}),
-    Action(     {.id = 49, .caption = "Copy", .group = "Execute", .cmd = {"~@Copy#*"}}),
-    Action(     {.id = 50, .caption = "Swap", .group = "Execute", .cmd = {"~@Swap#*"}}),
-    Action(     {.id = 51, .caption = "Undo", .group = "Undo", .cmd = {"~@Undo#*"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_copyswap_me));
 
 inline constexpr BT_TBL bt_misc_port[] = {
     Toggle(     {.id = 17, .caption = "K-PVW\nConfig", .group = "Preview", .cmd = {"~@K-PVW Config#*"}}),
@@ -54,13 +33,6 @@ inline constexpr BT_TBL bt_status_me[] = {
 };
 static_assert(ButtonsAreSound(bt_status_me));
 
-inline constexpr BT_TBL bt_copyswap_top[] = {
-    Jump(       {.id = 17, .caption = "M/E", .group = "Copy/Swap", .cmd = {"#31110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_copyswap_top));
-
 inline constexpr BT_TBL bt_misc_top[] = {
     Jump(       {.id = 17, .caption = "Port", .group = "Misc", .cmd = {"#32110000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
@@ -76,10 +48,8 @@ inline constexpr BT_TBL bt_status_top[] = {
 static_assert(ButtonsAreSound(bt_status_top));
 
 inline constexpr PAGE operation_pages[] = {
-    {.id = 0x31000000, .tree = {"Copy/Swap"}, .obj = {Base(base_main), Buttons(bt_copyswap_top)}},
     {.id = 0x32000000, .tree = {"Misc"}, .obj = {Base(base_main), Buttons(bt_misc_top)}},
     {.id = 0x33000000, .tree = {"Status"}, .obj = {Base(base_main), Buttons(bt_status_top)}},
-    {.id = 0x31110000, .tree = {"Copy/Swap", "M/E"}, .obj = {Base(base_main), Buttons(bt_copyswap_me)}},
     {.id = 0x32110000, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port), Code(pc_pulldown)}},
     {.id = 0x32110100, .tree = {"Misc", "Port"}, .obj = {Base(base_main), Buttons(bt_misc_port), Code(pc_pulldown)}},
     {.id = 0x33110100, .tree = {"Status", "M/E"}, .obj = {Base(base_main), Buttons(bt_status_me)}},

@@ -2,6 +2,7 @@
 #include "aux_mon.h"
 #include "ccr.h"
 #include "color_bkgd.h"
+#include "copyswap.h"
 #include "diag.h"
 #include "dme.h"
 #include "effect_pages.h"
@@ -81,6 +82,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 color_bkgd_pages,
                 ccr_top_pages,
                 ccr_pages,
+                copyswap_pages,
                 operation_pages,
                 dme_pages,
                 global_effect_pages,

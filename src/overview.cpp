@@ -1,0 +1,136 @@
+#include "overview.h"
+#include "a_ls.h"
+#include "command.h"
+#include "netio.h"
+#include "tally_value.h"
+#include "text.h"
+#include <algorithm>
+#include <cstring>
+#include "safeguards.h"
+
+namespace
+{
+struct Cell {
+    uint32_t hash = 0; // of the path
+    char text[OVERVIEW_TEXT] = "";
+};
+} // namespace
+
+static struct {
+    int count = 0;
+    OVERVIEWITEM item[OVERVIEW_ROWS]; // the lists keep pointers to the texts
+    Cell cell[OVERVIEW_ROWS][OVERVIEW_COLUMNS];
+} ov; // of the page that stands
+
+static void path_of(char (&path)[CMD_SIZE], const char* pattern, const OVERVIEWITEM& item)
+{
+    const char* const at = strchr(pattern, '$');
+    if (at)
+        PrintText(path, "%.*s%s%s", int(at - pattern), pattern, item.path, at + 1);
+    else
+        CopyText(path, pattern);
+}
+
+static int columns_of(const OVERVIEW& t)
+{
+    return std::min(t.column_count, OVERVIEW_COLUMNS);
+}
+
+static void open_row(const OVERVIEW& t, int row)
+{
+    for (int list = 1; list <= t.lists; list++)
+        LS_SetData(list, row, 0, ov.item[row].name);
+    for (int n = 0; n < columns_of(t); n++) {
+        Cell& cell = ov.cell[row][n];
+        char path[CMD_SIZE];
+        path_of(path, t.columns[n].path, ov.item[row]);
+        cell = {.hash = Hash(path)};
+        for (int list = 1; list <= t.lists; list++)
+            LS_SetData(list, row, n + 1, cell.text);
+        Net_SendCommandFormat("add %s", path);
+    }
+}
+
+void Overview_Open(const OVERVIEW& t)
+{
+    std::fill(std::begin(ov.item), std::end(ov.item), OVERVIEWITEM{});
+    ov.count = t.items(ov.item, OVERVIEW_ROWS);
+    for (int row = 0; row < ov.count; row++)
+        open_row(t, row);
+    for (int list = 1; list <= t.lists; list++) {
+        LS_SetNData(list, ov.count);
+        LS_SetNowLine(list, 0);
+    }
+}
+
+void Overview_Close(const OVERVIEW& t)
+{
+    for (int row = 0; row < ov.count; row++)
+        for (int n = 0; n < columns_of(t); n++) {
+            char path[CMD_SIZE];
+            path_of(path, t.columns[n].path, ov.item[row]);
+            Net_SendCommandFormat("remove %s", path);
+        }
+    ov.count = 0;
+}
+
+static const char* shown_as(const ONEOFWORD* words, const char* value)
+{
+    for (; words && words->wire; words++)
+        if (Same(words->wire, value))
+            return words->text;
+    return value;
+}
+
+int Overview_Tally(const OVERVIEW& t, const char* path, const char* value, uint32_t hash)
+{
+    for (int row = 0; row < ov.count; row++)
+        for (int n = 0; n < columns_of(t); n++) {
+            Cell& cell = ov.cell[row][n];
+            if (cell.hash != hash)
+                continue;
+            char own[CMD_SIZE];
+            path_of(own, t.columns[n].path, ov.item[row]);
+            if (!Same(own, path))
+                continue;
+            CopyText(cell.text, shown_as(t.columns[n].words, value));
+            for (int list = 1; list <= t.lists; list++)
+                LS_RedrawData(list);
+            return 1;
+        }
+    return 0;
+}
+
+int Overview_Count()
+{
+    return ov.count;
+}
+
+const OVERVIEWITEM* Overview_Item(int row)
+{
+    return row >= 0 && row < ov.count ? &ov.item[row] : nullptr;
+}
+
+// --- Keys ---
+
+static constexpr int SIDE_KEYS = 4; // keys 5 to 8 live on the sub side
+
+int Overview_Keys(const MeBank& bank)
+{
+    return GL_KeyMax[bank.place] > SIDE_KEYS ? 2 * SIDE_KEYS : SIDE_KEYS;
+}
+
+const char* Overview_KeyWord(const MeBank& bank, int key)
+{
+    static constexpr const char* words[2][2 * SIDE_KEYS] = {
+        {"Key1", "Key2", "Key3", "Key4", "Key5", "Key6", "Key7", "Key8"},
+        {"DSK1", "DSK2", "DSK3", "DSK4", "DSK5", "DSK6", "DSK7", "DSK8"}};
+    return words[bank.me == 0][key];
+}
+
+uint32_t Overview_KeyPage(const MeBank& bank, int key, uint32_t page)
+{
+    constexpr uint32_t TO_NEXT_KEY = 0x00100000;
+    return page + MeBank_Offset(bank) + (key >= SIDE_KEYS ? TO_SUB_BANK : 0) +
+           uint32_t(key % SIDE_KEYS) * TO_NEXT_KEY;
+}
