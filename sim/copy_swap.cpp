@@ -204,8 +204,11 @@ static int reference_channel()
 
 static PathValues values_of_channel(const Order& order, int channel)
 {
-    return channel == reference_channel() ? values_of(order, "DME")
-                                          : cw.channels[size_t(channel - 1)];
+    if (channel == reference_channel())
+        return values_of(order, "DME");
+    PathValues values = cw.channels[size_t(channel - 1)];
+    std::erase_if(values, [&](const auto& pair) { return !is_meant(order, pair.first); });
+    return values;
 }
 
 static void give_channel(const Order& order, const PathValues& values, int channel)
@@ -214,9 +217,7 @@ static void give_channel(const Order& order, const PathValues& values, int chann
         return give(order, values, "DME");
     PathValues& kept = cw.channels[size_t(channel - 1)];
     std::erase_if(kept, [&](const auto& pair) { return is_meant(order, pair.first); });
-    for (const auto& pair : values)
-        if (is_meant(order, pair.first))
-            kept.push_back(pair);
+    kept.insert(kept.end(), values.begin(), values.end());
 }
 
 static bool run_on_channels(const Order& order, bool is_swap)
@@ -250,7 +251,23 @@ static bool run(const Order& order, bool is_swap)
     return true;
 }
 
-static void undo(const std::string& kind)
+bool CopySwap_Put(const std::string& path, const std::string& value)
+{
+    const size_t at = path.rfind('@');
+    const std::string verb = path.substr(at + 1);
+    if (verb != "Copy" && verb != "Swap")
+        return false;
+    const std::string kind = at > ROOT.size() ? path.substr(ROOT.size(), at - ROOT.size()) : "";
+    Order order;
+    if (!read_order(kind, value, &order) || !run(order, verb == "Swap"))
+        Log_Note("copy/swap refused: %.200s#%.200s", path.c_str(), value.c_str());
+    else
+        Tree_Show(ROOT + kind + "@Undo Enable", "true");
+    Tree_Show(path, value);
+    return true;
+}
+
+void CopySwap_Undo(const std::string& kind)
 {
     const auto channels = cw.channels_before.find(kind);
     if (channels != cw.channels_before.end())
@@ -261,26 +278,5 @@ static void undo(const std::string& kind)
     for (const auto& [path, value] : before)
         Tree_Show(path, value);
     Dme_ShowStatus();
-}
-
-bool CopySwap_Put(const std::string& path, const std::string& value)
-{
-    const size_t at = path.rfind('@');
-    const std::string kind = at > ROOT.size() ? path.substr(ROOT.size(), at - ROOT.size()) : "";
-    const std::string verb = path.substr(at + 1);
-    const std::string enable = ROOT + kind + "@Undo Enable";
-    if (verb == "Undo") {
-        if (value == "true")
-            undo(kind);
-        Tree_Show(enable, "false");
-        return true;
-    }
-    if (verb != "Copy" && verb != "Swap")
-        return false;
-    Order order;
-    if (!read_order(kind, value, &order) || !run(order, verb == "Swap"))
-        Log_Note("copy/swap refused: %.200s#%.200s", path.c_str(), value.c_str());
-    else
-        Tree_Show(enable, "true");
-    return true;
+    Tree_Show(ROOT + kind + "@Undo Enable", "false");
 }

@@ -5,5 +5,7 @@
 #include <string>
 
 void CopySwap_Install(); // nothing can be undone
-// A panel's put to a copy, a swap or an undo. True: the values are shown.
+// A panel's put to a copy or a swap: "FROM,TO,All", or parts in the place of "All". True: the
+// values are shown; an order that makes no sense changes nothing.
 bool CopySwap_Put(const std::string& path, const std::string& value);
+void CopySwap_Undo(const std::string& kind); // "Key"; without one to undo, nothing

@@ -1,4 +1,5 @@
 #include "rules.h"
+#include "copy_swap.h"
 #include "dme_channels.h"
 #include "text.h"
 #include "tree.h"
@@ -106,6 +107,12 @@ static void act_swap(const Hit& hit)
         Tree_Show(hit.value + tail, value);
     for (const auto& [tail, value] : other)
         Tree_Show(hit.target + tail, value);
+}
+
+static void act_undo_copy(const Hit& hit)
+{
+    const size_t kind = sizeof "Copy/Swap@" - 1;
+    CopySwap_Undo(hit.path.substr(kind, hit.path.rfind('@') - kind)); // behind the menu's name
 }
 
 // The name of the signal that cuts the key: a self key is cut by its fill.
@@ -379,6 +386,7 @@ static constexpr Rule rules[] = {
     {"Color Bkgd@Copy 1 to 2", "true", act_copy, "Color Bkgd@Bkgd 2", "Color Bkgd@Bkgd 1"},
     {"Color Bkgd@Copy 2 to 1", "true", act_copy, "Color Bkgd@Bkgd 1", "Color Bkgd@Bkgd 2"},
     {"Color Bkgd@Swap", "true", act_swap, "Color Bkgd@Bkgd 1", "Color Bkgd@Bkgd 2"},
+    {"Copy/Swap@*@Undo", "true", act_undo_copy, "", ""},
     // The first channel of a group has none before it: it is combined when the second joins it.
     {"Global Effect@*@Combine@Ch2", "", act_follow, "^@Ch1", ""},
     {"Global Effect@*@Combine@Ch6", "", act_follow, "^@Ch5", ""},

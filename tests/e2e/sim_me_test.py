@@ -109,6 +109,46 @@ class Rules(MeTest):
         self.assertNotIn(clip + "#33.00", self.put(fill, "CAM7"))
 
 
+class Copies(MeTest):
+    def test_a_copy_takes_the_parts_and_undo_brings_back_what_was_there(self):
+        one, other = "M/E-1@Key1@", "PGM/PST@DSK2@"
+        kind, edge, late, on = "Type@Key Type", "Edge@Edge", "Edge@Key Drop", "Status@Key ON"
+        undo = "Copy/Swap@Key@Undo Enable"
+        self.do(f"set {one}{kind}#Linear", f"set {one}{edge}#Border", f"set {one}{on}#true", f"set {other}{kind}#Chroma",
+                f"set {other}{edge}#Shadow", f"set {other}{on}#false")
+        self.follow(*(key + tail for key in (one, other) for tail in (kind, edge, late, on)), undo)
+        copy = "Copy/Swap@Key@Copy"
+        self.assertEqual(self.put(copy, f"{one[:-1]},{other[:-1]},Edge"), [f"{other}{edge}#Border", f"{undo}#true"])
+        self.assertEqual(self.put(copy, f"{one[:-1]},{other[:-1]},All"), [f"{other}{kind}#Linear"])
+        self.assertEqual(self.put("Copy/Swap@Key@Undo", "true"), [f"{other}{kind}#Chroma", f"{undo}#false"])
+        self.assertEqual(self.put("Copy/Swap@Key@Undo", "true"), [], "there is nothing left")
+        self.assertEqual(sorted(self.put("Copy/Swap@Key@Swap", f"{one[:-1]},{other[:-1]},Type")),
+                         sorted([f"{one}{kind}#Chroma", f"{other}{kind}#Linear", f"{undo}#true"]))
+        for wrong in ("", "M/E-1@Key1", "M/E-1@Key1,M/E-1@Key1,All", "M/E-1@Key1,M/E-2@Key1,Nothing",
+                      "M/E-1@Key1,M/E-2@Key1"):
+            self.assertEqual(self.put(copy, wrong), [], wrong)
+
+    def test_a_bank_is_copied_with_its_keys_under_the_names_that_they_have_there(self):
+        kind, wipe, bus = "Key3@Type@Key Type", "Wipe@Main Pattern@Pattern", "Status@Xpt Assign@A"
+        self.do(f"set M/E-2@{kind}#Color Vector", f"set M/E-2@{wipe}#99", f"set M/E-2@{bus}#CAM7")
+        there = ["PGM/PST@DSK3@Type@Key Type", f"PGM/PST@{wipe}", f"PGM/PST@{bus}"]
+        self.follow(*there)
+        self.assertEqual(self.put("Copy/Swap@M/E@Copy", "M/E-2,PGM/PST,Keys,Xpt"),
+                         [f"{there[0]}#Color Vector", f"{there[2]}#CAM7"])
+        self.assertEqual(self.put("Copy/Swap@M/E@Copy", "M/E-2,PGM/PST,All"), [f"{there[1]}#99"])
+
+    def test_another_channel_takes_what_the_panels_see_of_theirs_and_gives_it_back(self):
+        turn = "DME@Transform@3D Trans@Rotation@X"
+        self.do(f"set {turn}#45.00")
+        self.follow(turn)
+        self.assertEqual(self.put("Copy/Swap@DME Channel@Copy", "1,3,All"), [])
+        self.do(f"set {turn}#10.00")
+        self.other.until(f"{turn}#10.00")
+        self.assertEqual(self.put("Copy/Swap@DME Effect@Copy", "3,1,Edge"), [])
+        self.assertEqual(self.put("Copy/Swap@DME Effect@Swap", "3,1,Transform"), [f"{turn}#45.00"])
+        self.assertEqual(self.put("Copy/Swap@DME Channel@Copy", "3,1,All"), [f"{turn}#10.00"])
+
+
 class Transitions(MeTest):
     def heard(self, last, *paths):
         """What the other panel hears up to that line, of these paths."""
