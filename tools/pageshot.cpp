@@ -1,45 +1,32 @@
-// pageshot: one page as a PNG, without a server: every path of the page gets the default that the
-// simulator would answer, then the tallies of the command line.
+// pageshot: pages as PNG files.
 //
 // usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]... [--before PATH#VALUE]...
-//        in the working directory build/run. PAGE as the operator writes it: 1111, 1111.2; a
-//        tally that decides whether the page exists is played before it opens
+//          One page without a server: every path of the page gets the default that the simulator
+//          would answer, then the tallies of the command line. PAGE as the operator writes it:
+//          1111, 1111.2; a tally that decides whether the page exists is played before it opens
+//        pageshot --all DIR [BANK]...
+//          Every page, as the simulator at the links fills it, and sheets of each bank of pages
+//          (the first two digits, or as many as are given) with many of them side by side
+// Both in the working directory build/run.
 #include "a_kf.h"
 #include "bus.h"
 #include "device.h"
 #include "global.h"
 #include "graphics.h"
+#include "guest.h"
 #include "log.h"
 #include "message.h"
 #include "page.h"
+#include "picture.h"
 #include "tdl.h"
 #include "text.h"
 #include <SDL.h>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <png.h>
+#include <string>
 #include <vector>
-
-static bool WritePng(const char* path)
-{
-    std::vector<uint8_t> rgb;
-    for (int y = 0; y < Screen->h; y++) {
-        for (int x = 0; x < Screen->w; x++) {
-            uint32_t pixel;
-            memcpy(&pixel, static_cast<uint8_t*>(Screen->pixels) + y * Screen->pitch + x * 4, 4);
-            uint8_t c[3];
-            SDL_GetRGB(pixel, Screen->format, &c[0], &c[1], &c[2]);
-            rgb.insert(rgb.end(), c, c + 3);
-        }
-    }
-    png_image image{};
-    image.version = PNG_IMAGE_VERSION;
-    image.width = png_uint_32(Screen->w);
-    image.height = png_uint_32(Screen->h);
-    image.format = PNG_FORMAT_RGB;
-    return png_image_write_to_file(&image, path, 0, rgb.data(), 0, nullptr) != 0;
-}
 
 static bool OpenScreen()
 {
@@ -115,13 +102,8 @@ static void SendDefaults()
     fclose(fp);
 }
 
-int main(int argc, char** argv)
+static int OnePage(int argc, char** argv)
 {
-    if (argc < 3) {
-        fprintf(stderr, "usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]... "
-                        "[--before PATH#VALUE]...\n");
-        return 2;
-    }
     Log_SetLevel(LOG_FORCED);
     if (!OpenScreen()) {
         fprintf(stderr, "pageshot: %s; is the working directory build/run?\n", SDL_GetError());
@@ -139,9 +121,108 @@ int main(int argc, char** argv)
     SendDefaults();
     Play(argc, argv);
     SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-    if (!WritePng(argv[2])) {
+    if (!Picture_Write(Picture_OfScreen(), argv[2])) {
         fprintf(stderr, "pageshot: cannot write %s\n", argv[2]);
         return 1;
     }
     return 0;
+}
+
+// --- All pages ---
+
+namespace
+{
+constexpr int ANSWER_PASSES = 16; // until the lists that one answer leads to have come, too
+constexpr size_t SHEET = 20;      // pictures on one sheet
+constexpr int SHEET_COLUMNS = 4;
+constexpr int SHEET_SCALE = 2; // the part of a page's size
+} // namespace
+
+// The rows of the banks, of all banks without any, by id.
+static std::vector<const PAGE*> Wanted(char** banks, int count)
+{
+    std::vector<const PAGE*> rows;
+    for (const PAGE* row = PageTable; row->id != PAGE_END; row++) {
+        char id[16];
+        PrintText(id, "%08X", unsigned(row->id));
+        if (count == 0 || std::any_of(banks, banks + count,
+                                      [&](const char* bank) { return BeginsWith(id, bank); }))
+            rows.push_back(row);
+    }
+    std::ranges::sort(rows, {}, &PAGE::id);
+    return rows;
+}
+
+static bool WriteSheet(const std::string& dir, unsigned bank, int number,
+                       std::vector<NamedPicture>* pictures)
+{
+    if (pictures->empty())
+        return true;
+    char name[32];
+    PrintText(name, "/sheet_%02X_%02d.png", bank, number);
+    const bool is_written =
+        Picture_Write(Picture_Sheet(*pictures, SHEET_COLUMNS), (dir + name).c_str());
+    pictures->clear();
+    return is_written;
+}
+
+static std::string Caption(const PAGE& row)
+{
+    char number[16];
+    Page_Number(number, sizeof number, row.id);
+    std::string caption = number;
+    for (const char* word : row.tree)
+        if (word)
+            caption += std::string(" ") + word;
+    return caption;
+}
+
+static int AllPages(const std::string& dir, char** banks, int count)
+{
+    std::vector<NamedPicture> sheet;
+    unsigned bank = 0;
+    int number = 0, written = 0, missing = 0;
+    bool is_good = true;
+    const auto end_sheet = [&] { is_good = is_good && WriteSheet(dir, bank, ++number, &sheet); };
+    for (const PAGE* row : Wanted(banks, count)) {
+        if (!is_good)
+            break;
+        if (sheet.size() == SHEET || (!sheet.empty() && bank != row->id >> 24))
+            end_sheet();
+        if (bank != row->id >> 24) {
+            bank = row->id >> 24;
+            number = 0;
+        }
+        if (!Guest_Open(*row)) {
+            fprintf(stderr, "pageshot: %08X cannot be opened\n", unsigned(row->id));
+            missing++;
+            continue;
+        }
+        Guest_Settle(ANSWER_PASSES);
+        const Picture picture = Picture_OfScreen();
+        char id[16];
+        PrintText(id, "/%08X.png", unsigned(row->id));
+        is_good = Picture_Write(picture, (dir + id).c_str());
+        sheet.push_back({Caption(*row), Picture_Smaller(picture, SHEET_SCALE)});
+        written++;
+        Guest_CloseAll();
+    }
+    end_sheet();
+    if (!is_good)
+        fprintf(stderr, "pageshot: cannot write to %s\n", dir.c_str());
+    printf("%d pages\n", written);
+    return is_good && missing == 0 ? 0 : 1;
+}
+
+int main(int argc, char** argv)
+{
+    if (argc < 3) {
+        fprintf(stderr, "usage: pageshot PAGE FILE.png [PATH#VALUE]... [--press X,Y]... "
+                        "[--before PATH#VALUE]...\n"
+                        "       pageshot --all DIR [BANK]...\n");
+        return 2;
+    }
+    if (strcmp(argv[1], "--all") != 0)
+        return OnePage(argc, argv);
+    return Guest_Start() ? AllPages(argv[2], argv + 3, argc - 3) : 1;
 }
