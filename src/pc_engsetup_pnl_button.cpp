@@ -711,12 +711,20 @@ static bool is_panel_config(const char* path)
            BeginsWith(path, "Engineering Setup@Switcher@Config@M/E Config@");
 }
 
+static int follow_config()
+{
+    const int sides = RegionMainSubAssign(pb.bank);
+    if (sides != SIDE_BOTH && sides != pb.side)
+        move_to(pb.bank, pb.side);
+    show_keys();
+    pb.FlexiPad_BtnRedraw = true;
+    return 0;
+}
+
 static int assign_tally(const char* path, const char* value)
 {
-    if (pb.module->has_banks && is_panel_config(path)) {
-        move_to(pb.bank, pb.side);
-        return 0;
-    }
+    if (pb.module->has_banks && is_panel_config(path))
+        return follow_config();
     if (BeginsWith(path, PANEL "Prefs/Utility@") && strstr(path, "@Reg Name Display"))
         pb.is_name_shown = IsTrue(value) != 0;
     else if (!BeginsWith(path, pb.FlexiPadmodPath) && !BeginsWith(path, pb.page_path))

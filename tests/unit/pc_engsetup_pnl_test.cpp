@@ -112,6 +112,9 @@ TEST_F(PanelSetup, ABankWithoutTheModuleTakesNothingAndOneInTwoProgramsHasTwoSid
     SelectRow(1);
     EXPECT_THAT(Push(BTN_ASSIGN_SET),
                 ElementsAre("put " PAD "@Button Assign@01@Operation@Common@10#1,10,Key"));
+    lines = Tell(PANEL "Config@MP2 Main/Sub Assign@Main/Sub Assign@1st Row#Main");
+    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@10"), -1);
+    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@2"), 1) << "no sub side now";
     (void)Touch(112 + 140 + 20, 98 + 20); // M/E-2
     EXPECT_THAT(Push(BTN_ASSIGN_SET), testing::IsEmpty());
     EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SET), BT_DISABLED);
