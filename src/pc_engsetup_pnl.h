@@ -68,6 +68,8 @@ enum SETUPMODULE_ID : uint32_t {
     SETUP_MODULES,
 };
 extern const PC_TBL pc_engsetup_panel_button;
+// Keys to other pages: those that this installation does not have are disabled.
+extern const PC_TBL pc_engsetup_panel_jumps;
 extern const PC_TBL pc_engsetup_panel_config_programbutton; // the keys that lead to the modules
 enum : int {
     BTN_ASSIGN_MAIN = 49,

@@ -791,6 +791,22 @@ static void open_module(const SetupModule& module)
         choose_first_bank();
 }
 
+// A key whose page this installation does not have.
+static void disable_missing_pages()
+{
+    for (const BT_MEM* b = bt_first(); b->id >= 1; b++)
+        if (b->type == BT_JUMP && b->cmd_var[0][0] && !b->cmd[0][0] &&
+            !Page_Exists(Hex(b->cmd_var[0])))
+            (void)BT_SetDisable(b->id, 1);
+}
+
+static int jumps_create(int on, uint32_t)
+{
+    if (on)
+        disable_missing_pages();
+    return !on;
+}
+
 static int pc_engsetup_panel_button_create(int on, uint32_t var)
 {
     if (!on && pb.module) {
@@ -807,6 +823,7 @@ static int pc_engsetup_panel_button_create(int on, uint32_t var)
     show_list();
     (void)LS_SetNowLine(LIST, 0);
     show_keys();
+    (void)jumps_create(1, 0);
     pb.FlexiPad_NormRedraw = true;
     subscribe(1);
     return 0;
@@ -816,6 +833,8 @@ const PC_TBL pc_engsetup_panel_button = {.proc_func = pc_engsetup_panel_button_p
                                          .create_func = pc_engsetup_panel_button_create};
 
 // --- The keys to the modules ---
+
+const PC_TBL pc_engsetup_panel_jumps = {.create_func = jumps_create};
 
 static int programbutton_create(int on, uint32_t)
 {

@@ -340,7 +340,7 @@ inline constexpr PAGE setup_panel_pages[] = {
     MODULE(0x73210046, MODULE_MACRO_EDIT,         multimodule_macroeditassign, "Multi Module", "Macro Edit Assign"),
     MODULE(0x73210047, MODULE_EFFECT_EDIT,        multimodule_effeditassign, "Multi Module", "Effect Edit Assign"),
     MODULE(0x73210048, MODULE_MODE_SELECT,        multimodule_modeselassign, "Multi Module", "Mode Select Assign"),
-    {.id = 0x73220000, .tree = TREE("Xpt Assign"), .obj = {TABS(2), Buttons(bt_engsetup_panel_xptassign)}},
+    {.id = 0x73220000, .tree = TREE("Xpt Assign"), .obj = {TABS(2), Buttons(bt_engsetup_panel_xptassign), Code(pc_engsetup_panel_jumps)}},
     ON_BUTTONS(0x73220001, 2, XPTTABLE_MAIN, xpt, xptassign_main, "Xpt Assign", "Main"),
     ON_BUTTONS(0x73220002, 2, XPTTABLE_SUB, xpt, xptassign_sub, "Xpt Assign", "Sub"),
     PREPARED(0x73220003, 2, xptassign_copy, xptassign_copy, "Xpt Assign", "Copy"),

@@ -76,6 +76,21 @@ TEST_F(PanelSetup, TheKeyToTheKeyControlButtonsStaysUsable)
     EXPECT_THAT(Disabled(), testing::IsEmpty());
 }
 
+TEST_F(PanelSetup, AKeyToAPageThatIsNotThereIsDisabled)
+{
+    (void)Open(0x73220000);
+    EXPECT_THAT(Disabled(), testing::IsEmpty());
+    const DEVTYPE panel = SYS_RefPnlType, target = SYS_TargetSwrType;
+    SYS_TargetSwrType = DEVTYPE_LTR50;
+    (void)Open(0x73220000);
+    EXPECT_THAT(Disabled(), ElementsAre(21)) << "the audio mixer's";
+    SYS_RefPnlType = DEVTYPE_QRD21;
+    (void)Open(0x73240000);
+    EXPECT_THAT(Disabled(), ElementsAre(34)) << "the key 2 bus's";
+    SYS_RefPnlType = panel;
+    SYS_TargetSwrType = target;
+}
+
 TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
 {
     (void)Open(0x73210034);
