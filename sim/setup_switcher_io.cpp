@@ -1,27 +1,14 @@
 #include "setup_switcher_io.h"
-#include "log.h"
+#include "setup_kind.h"
 #include "text.h"
 #include "tree.h"
-#include "values.h"
-#include <algorithm>
+#include <iterator>
 #include <vector>
-
-namespace
-{
-// A value of each row of a page. "$" of the path is the row; a value of several parts has a type a
-// part, separated by ";".
-struct Kind {
-    const char* path = "";
-    const char* each = ""; // "1..48", or words
-    const char* type = ""; // as in the value file, with blanks
-    const char* start = "";
-};
-} // namespace
 
 static const std::string SWITCHER = "Engineering Setup@Switcher@";
 static const std::string OUTPUT = SWITCHER + "Output@";
 static const std::string SOURCES = "Engineering Setup@Panel@Xpt Assign@Source@List";
-static const std::string GPI_OUTPUT = SWITCHER + "Device Interface@GPI Output@";
+static const std::string GPI_OUTPUT = SWITCHER + "Device Interface@GPI Output";
 static constexpr int OUTPUTS = 48;
 static constexpr const char* SOURCES_MAX = "num 1 136 0";
 
@@ -31,7 +18,6 @@ static constexpr const char* FC_FORMAT = "word 480i,576i,720p,1080i,1080PsF,1080
 static constexpr const char* OUTPUT_OR_NONE = "num 0 48 0";
 static constexpr const char* SIDE = "word Input,Output";
 static constexpr const char* SIZE_4K = "word 3840x2160,4096x2160";
-static constexpr const char* TRIGGER = "word None,Rising Edge,Falling Edge,Any Edge,Level";
 static constexpr const char* BOARDS = "FC1,FC2,FC3,FC4";
 static constexpr const char* PORTS = "Remote1,Remote2,Remote3,Remote4";
 static constexpr const char* UNITS = "DME1,DME2,DME3,DME4";
@@ -39,12 +25,8 @@ static constexpr const char* QUADS = "1-4,5-8,9-12,13-16,17-20,21-24,25-28,29-32
                                      "45-48";
 static constexpr const char* PAIRS = "1/2,3/4,5/6,7/8,9/10,11/12,13/14,15/16,17/18,19/20,21/22,"
                                      "23/24";
-static constexpr const char* ACTION = "num 0 13 0;num 0 5 0;num 0 99 0;num 0 8 0";
-static constexpr const char* REGION_ACTION = "num 0 13 0;any;num 0 99 0;num 0 8 0";
-static constexpr const char* NO_ACTION = "0,0,0,0";
-static constexpr const char* NO_REGION_ACTION = "0,,0,0";
 
-static constexpr Kind kinds[] = {
+static constexpr SetupKind kinds[] = {
     {"Input@Auto Timing@$", "1..136", ON_OFF, "On"},
     {"Input@H Phase@$", "1..136", "num -200 200 0", "0"},
     {"Input@FC Input Select@$", BOARDS, "word 1-4,5-8,9-12,13-16,17-20,21-24,25-28,29-32", "1-4"},
@@ -102,9 +84,7 @@ static constexpr Kind kinds[] = {
     {"Device Interface@AUX Mix@Mix@$", PAIRS, ON_OFF, "Off"},
     {"Device Interface@AUX Mix@Rate@$", PAIRS, "num 0 999 0", "30"},
 
-    {"Device Interface@GPI Input@Trigger Type@$", "1..8", TRIGGER, "None"},
-    {"Device Interface@GPI Input@Action Type@$@1", "1..8", ACTION, NO_ACTION},
-    {"Device Interface@GPI Input@Action Type Region@$@1", "1..8", REGION_ACTION, NO_REGION_ACTION},
+    GPI_INPUT_KINDS("Device Interface@GPI Input", "1..8"),
     {"Device Interface@GPI Input@H/L Set@Function@$", "1..8",
      "word None,FC Input/Output,Aux Bus Tie,Menu Lock", "None"},
     {"Device Interface@GPI Input@H/L Set@High@$", "1..8", ON_OFF, "On"},
@@ -116,11 +96,9 @@ static constexpr Kind kinds[] = {
     {"Input@FC Adjust 3G@FC Signal $", "Format", "num 0 4 0;num 0 5 0;num 0 4 0", "3,2,0"},
     {"Input@4K Adjust@FC Signal $", "Format", "num 0 4 0;num 0 5 0;num 0 4 0", "4,1,0"},
     {"Output@FC Adjust@FC Signal $", "Format", "num 0 4 0;num 0 5 0;num 0 4 0", "3,2,0"},
-    {"Device Interface@GPI Output@Trigger Type@$", "1..8",
-     "word None,Rising Edge,Falling Edge,Any Edge,Level;byte;byte", "None,0x00,0x01"},
-    {"Device Interface@GPI Output@Action Type@$@1", "1..8", ACTION, NO_ACTION},
-    {"Device Interface@GPI Output@Action Type Region@$@1", "1..8", REGION_ACTION, NO_REGION_ACTION},
+    GPI_OUTPUT_KINDS("Device Interface@GPI Output", "1..8"),
 };
+static const SetupKinds all_kinds = {SWITCHER, kinds, std::size(kinds)};
 
 // Converters: inputs from 0, each with these words.
 static constexpr struct {
@@ -156,47 +134,6 @@ static constexpr struct {
     {"IP", "num 0 1 0", "0"},
 };
 
-// --- What each row begins with ---
-
-static std::vector<std::string> rows_of(const std::string& each)
-{
-    const size_t dots = each.find("..");
-    if (dots == std::string::npos)
-        return Text_Split(each, ',');
-    std::vector<std::string> rows;
-    long first = 0, last = 0;
-    if (Text_ToInt(each.substr(0, dots), &first) && Text_ToInt(each.substr(dots + 2), &last))
-        for (; first <= last; ++first)
-            rows.push_back(std::to_string(first));
-    return rows;
-}
-
-static std::string path_of(const Kind& kind, const std::string& row)
-{
-    std::string path = SWITCHER + kind.path;
-    return path.replace(path.find('$'), 1, row);
-}
-
-// "num 0 5 0" or "word A B,C": a word may have blanks.
-static ValueType type_of(const std::string& text)
-{
-    const size_t blank = text.find(' ');
-    std::vector<std::string> fields = {text.substr(0, blank)};
-    if (fields[0] == "word")
-        fields.push_back(text.substr(blank + 1));
-    else if (blank != std::string::npos)
-        for (const std::string& field : Text_Split(text.substr(blank + 1), ' '))
-            fields.push_back(field);
-    ValueType type;
-    (void)Values_ParseType(fields, &type); // "byte" and "any" take every text here
-    return type;
-}
-
-static bool is_of_parts(const Kind& kind)
-{
-    return std::string(kind.type).find(';') != std::string::npos;
-}
-
 static void install_converters()
 {
     for (const auto& converter : converters)
@@ -205,7 +142,7 @@ static void install_converters()
                 const std::string path =
                     SWITCHER + converter.page + word.word + "@" + std::to_string(n);
                 if (Node* const node = Tree_Get(path))
-                    node->type = type_of(word.type);
+                    node->type = SetupKind_Type(word.type);
                 Tree_Preset(path, word.start);
             }
 }
@@ -213,14 +150,7 @@ static void install_converters()
 void SetupSwitcherIo_Install()
 {
     install_converters();
-    for (const Kind& kind : kinds)
-        for (const std::string& row : rows_of(kind.each)) {
-            const std::string path = path_of(kind, row);
-            Node* const node = Tree_Get(path);
-            if (node && !is_of_parts(kind))
-                node->type = type_of(kind.type);
-            Tree_Preset(path, kind.start);
-        }
+    SetupKind_Install(all_kinds);
     for (int n = 1; n <= 4; ++n)
         Tree_Preset(SWITCHER + Text_Format("Input@FC Input Select@FC%d", n),
                     Text_Format("%d-%d", 4 * n - 3, 4 * n));
@@ -243,54 +173,6 @@ void SetupSwitcherIo_Install()
 }
 
 // --- Changes ---
-
-static bool refuse(const std::string& path, const std::string& value)
-{
-    Log_Note("setup refused: %s#%s", path.c_str(), value.c_str());
-    return true;
-}
-
-// The parts as they are kept; false when one of them is none of its type.
-static bool accepts_parts(const Kind& kind, const std::string& value, std::string* kept)
-{
-    const auto types = Text_Split(kind.type, ';');
-    const auto parts = Text_Split(value, ',');
-    if (types.size() != parts.size())
-        return false;
-    for (size_t i = 0; i < parts.size(); ++i) {
-        std::string part;
-        if (types[i] == "byte") {
-            if (parts[i].size() != 4 || !Text_Matches(parts[i], "0x??") ||
-                parts[i].find_first_not_of("0123456789ABCDEF", 2) != std::string::npos)
-                return false;
-            part = parts[i];
-        } else if (!Tree_Accepts(type_of(types[i]), parts[i], &part)) {
-            return false;
-        }
-        *kept += (i ? "," : "") + part;
-    }
-    return true;
-}
-
-// An action stands on one of its two paths.
-static void clear_other_action(const std::string& path)
-{
-    const std::string plain = "@Action Type@", region = "@Action Type Region@";
-    if (const size_t at = path.find(plain); at != std::string::npos)
-        Tree_Show(std::string(path).replace(at, plain.size(), region), NO_REGION_ACTION);
-    else if (const size_t of = path.find(region); of != std::string::npos)
-        Tree_Show(std::string(path).replace(of, region.size(), plain), NO_ACTION);
-}
-
-static bool put_parts(const Kind& kind, const std::string& path, const std::string& value)
-{
-    std::string kept;
-    if (!accepts_parts(kind, value, &kept))
-        return refuse(path, value);
-    Tree_Show(path, kept);
-    clear_other_action(path);
-    return true;
-}
 
 static std::string row_of(const std::string& list, const std::string& key)
 {
@@ -329,7 +211,7 @@ static bool put_source(const std::string& path, const std::string& value, const 
 {
     long n = 0;
     if (!Text_ToInt(number, &n) || n < 1 || n > 136 || name.size() > 16)
-        return refuse(path, value);
+        return SetupKind_Refuse(path, value);
     Tree_Show(path, value);
     const std::string before = row_of(SOURCES, number);
     Tree_ShowRow(SOURCES, number + "," + name);
@@ -345,9 +227,9 @@ static bool put_assign(const std::string& path, const std::string& value)
     long output = 0, flag = 0;
     if (part.size() != 3 || !Text_ToInt(part[0], &output) || output < 1 || output > OUTPUTS ||
         part[1].empty() || !Text_ToInt(part[2], &flag) || flag < 0 || flag > 8)
-        return refuse(path, value);
+        return SetupKind_Refuse(path, value);
     if (row_of(OUTPUT + "Inhibit", part[0]) == "true")
-        return refuse(path, value + " (inhibited)");
+        return SetupKind_Refuse(path, value + " (inhibited)");
     long aux = 0;
     const bool is_aux =
         Text_Begins(part[1], "AUX") && Text_ToInt(part[1].substr(3), &aux) && aux >= 1;
@@ -363,7 +245,7 @@ static bool put_inhibit(const std::string& path, const std::string& value)
     long output = 0;
     if (part.size() != 2 || !Text_ToInt(part[0], &output) || output < 1 || output > OUTPUTS ||
         (part[1] != "true" && part[1] != "false"))
-        return refuse(path, value);
+        return SetupKind_Refuse(path, value);
     Tree_ShowRow(path, value);
     return true;
 }
@@ -382,17 +264,6 @@ static void show_converter(const std::string& path, const std::string& value)
         else if (part[2] == fc)
             Tree_ShowRow(list, part[0] + "," + part[1] + ",0");
     }
-}
-
-// A pulse on the port, as the action would make it.
-static bool fire(const std::string& path)
-{
-    const std::string port = path.substr(path.rfind('@') + 1);
-    const Node* const trigger = Tree_Find(GPI_OUTPUT + "Trigger Type@" + port);
-    if (!trigger)
-        return refuse(path, "");
-    Log_Note("GPI output %s: test fire, %s", port.c_str(), trigger->value.c_str());
-    return true;
 }
 
 // An input of a converter as it came; false when it is none.
@@ -414,8 +285,8 @@ static bool reset_input(const std::string& path, const std::string& input)
 bool SetupSwitcherIo_Put(const std::string& path, const std::string& value)
 {
     const std::string tail = path.substr(path.rfind('@') + 1);
-    if (Text_MatchesPath(path, GPI_OUTPUT + "Test Fire@*"))
-        return fire(path);
+    if (SetupKind_Fire("", GPI_OUTPUT, path))
+        return true;
     if (reset_input(path, value))
         return true;
     if (Text_MatchesPath(path, OUTPUT + "FC Output Assign@?"))
@@ -428,12 +299,8 @@ bool SetupSwitcherIo_Put(const std::string& path, const std::string& value)
         return put_source(path, value, tail, value);
     if (Text_MatchesPath(path, OUTPUT + "Re-Entry Assign@*")) {
         const auto part = Text_Split(value, ',');
-        return part.size() == 2 ? put_source(path, value, part[0], part[1]) : refuse(path, value);
+        return part.size() == 2 ? put_source(path, value, part[0], part[1])
+                                : SetupKind_Refuse(path, value);
     }
-    for (const Kind& kind : kinds)
-        if (is_of_parts(kind))
-            for (const std::string& row : rows_of(kind.each))
-                if (path == path_of(kind, row))
-                    return put_parts(kind, path, value);
-    return false;
+    return SetupKind_Put(all_kinds, path, value);
 }
