@@ -16,6 +16,7 @@
 #include "setup.h"
 #include "setup_panel.h"
 #include "setup_switcher_io.h"
+#include "setup_units.h"
 #include "store.h"
 #include "stream.h"
 #include "text.h"
@@ -94,13 +95,10 @@ static const Preset presets[] = {
      "SWR1@EEPROM,SWR1@Auto Scan,SWR2@EEPROM,SWR2@Auto Scan,DME1,DME2,DME3,DME4",
      "1,1,1,1,1,1,1,1"},
     {"Info@Board Config@Board Exist Set", PNLS, "1"}, // the option word: fitted with the option
-    {"Engineering Setup@DME@Model", DMES, "3"},       // with all pages of the effects menu
     {"Engineering Setup@MPE@Model", "MPE1", "1"},
     {"Info@Self Diagnosis Notice@MPE Status", "MPE1", "0,0"}, // the state of its two references
     {"MPE@Fx@Channel@Selected", "", "F"},                     // masks of channels, hexadecimal
     {"MPE@Fx@Channel@Reference", "", "00000001"},             // binary, channel 1 last
-    {"Engineering Setup@MPE@Config@SCU Select", "MPE1", "1"},
-    {"Engineering Setup@MPE@Config@SWR Select", "MPE1", "1"},
     {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "", "4"},
     {"32@Engineering Setup@System@Install@Unit Config@CCR Config", "", "4"},
     {"Engineering Setup@System@Install@Unit Config@M/E Split", "", "1,1,1,1,1"}, // a number a board
@@ -289,6 +287,7 @@ void System_Install()
     Setup_Install();
     SetupPanel_Install();
     SetupSwitcherIo_Install();
+    SetupUnits_Install();
     Diag_Install();
 }
 

@@ -15,6 +15,7 @@
 #include "setup_panel.h"
 #include "setup_switcher.h"
 #include "setup_switcher_io.h"
+#include "setup_units.h"
 #include "store.h"
 #include "system.h"
 #include "text.h"
@@ -105,6 +106,10 @@ static constexpr Owner owners[] = {
     {"Engineering Setup@Switcher@", SetupSwitcherIo_Put},
     {"Engineering Setup@Switcher@", SetupSwitcher_Put},
     {"Copy/Swap@", CopySwap_Put},
+    {"Engineering Setup@DME@", SetupUnits_Put},
+    {"Engineering Setup@DCU@", SetupUnits_Put},
+    {"Engineering Setup@Router@", SetupUnits_Put},
+    {"Engineering Setup@Tally@", SetupUnits_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };
