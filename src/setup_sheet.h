@@ -40,6 +40,7 @@ struct SETUPCOLUMN {
     const char* caption = nullptr; // of its key; null: the head
     const char* group = nullptr;   // title of one key's frame; columns side by side share it
     int start_line = 0;            // its keys begin the second line of keys
+    int is_reread = 0;             // as in SETUPFIELD
 };
 
 struct SETUPSHEET {
@@ -342,6 +343,7 @@ template <const SETUPSHEET& s> constexpr SheetFields MakeSheetFields(const Sheet
                       .column = c.width ? column++ : -1,
                       .is_put = !c.is_fixed,
                       .ask = c.ask,
+                      .is_reread = c.is_reread,
                       .words = c.words,
                       .from_wire = c.from_wire,
                       .to_wire = c.to_wire};

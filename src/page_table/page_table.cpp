@@ -45,6 +45,7 @@
 #include "operation.h"
 #include "saver.h"
 #include "setup_panel.h"
+#include "setup_router.h"
 #include "setup_switcher.h"
 #include "setup_switcher_io.h"
 #include "setup_system.h"
@@ -107,6 +108,10 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 setup_panel_pages,
                 setup_switcher_pages,
                 setup_switcher_io_pages,
+                setup_dme_pages,
+                setup_dcu_pages,
+                setup_router_pages,
+                setup_mpe_pages,
                 file_directory_pages,
                 file_folder_pages,
                 file_idcopy_pages,

@@ -7,6 +7,10 @@ inline constexpr VF_TBL vf_setup[] = {
     {.id = 1, .caption = "System", .page = 0x73110000},
     {.id = 2, .caption = "Panel", .page = 0x73210000},
     {.id = 3, .caption = "Switcher", .page = 0x73310000},
+    {.id = 4, .caption = "DME", .page = 0x73410000},
+    {.id = 5, .caption = "DCU", .page = 0x73510000},
+    {.id = 6, .caption = "Router/\nTally", .page = 0x73610000},
+    {.id = 7, .caption = "MPE", .page = 0x73710000},
     VF_END,
 };
 inline constexpr HF_TBL hf_setup_system[] = {
@@ -34,5 +38,34 @@ inline constexpr HF_TBL hf_setup_panel[] = {
     {.id = 2, .caption = "Xpt\nAssign", .page = 0x73220000},
     {.id = 3, .caption = "Aux\nAssign", .page = 0x73230000},
     {.id = 4, .caption = "Prefs/\nUtility", .page = 0x73240000},
+    HF_END,
+};
+inline constexpr HF_TBL hf_setup_dme[] = {
+    {.id = 1, .caption = "Config", .page = 0x73410000},
+    {.id = 2, .caption = "Input/\nOutput", .page = 0x73420000},
+    {.id = 3, .caption = "Video\nInterface", .page = 0x73430000},
+    {.id = 4, .caption = "Device\nInterface", .page = 0x73440000},
+    HF_END,
+};
+inline constexpr HF_TBL hf_setup_dcu[] = {
+    {.id = 1, .caption = "GPI\nInput", .page = 0x73510000},
+    {.id = 2, .caption = "GPI\nOutput", .page = 0x73520000},
+    {.id = 3, .caption = "Serial\nPort", .page = 0x73530000},
+    {.id = 4, .caption = "Parallel\nPort", .page = 0x73540000},
+    HF_END,
+};
+inline constexpr HF_TBL hf_setup_router[] = {
+    {.id = 1, .caption = "Router", .page = 0x73610000},
+    {.id = 2, .caption = "Tally\nGroup", .page = 0x73620000},
+    {.id = 3, .caption = "Wiring", .page = 0x73630000},
+    {.id = 4, .caption = "Serial\nTally", .page = 0x73640000},
+    {.id = 5, .caption = "Parallel\nTally", .page = 0x73650000},
+    HF_END,
+};
+inline constexpr HF_TBL hf_setup_mpe[] = {
+    {.id = 1, .caption = "Config", .page = 0x73710000},
+    {.id = 2, .caption = "Input", .page = 0x73720000},
+    {.id = 3, .caption = "Output", .page = 0x73730000},
+    {.id = 4, .caption = "Boards", .page = 0x73740000},
     HF_END,
 };

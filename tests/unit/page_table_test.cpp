@@ -134,8 +134,9 @@ TEST(PageTable, EveryJumpLeadsToAPage)
         jumps++;
         constexpr uint32_t EDITOR_ENTRY = 0x71440102; // asked for, it becomes the page
         const uint32_t to = TargetOf(page, b), id = to == EDITOR_ENTRY ? to - 0x100 : to;
-        // Their buttons are out without the board, and in another type of switcher.
-        static const std::set<uint32_t> of_some = {0x73310015, 0x73330007, 0x73330008};
+        // Their buttons are out without the board or unit, and in another type of switcher.
+        static const std::set<uint32_t> of_some = {0x73310015, 0x73330007, 0x73330008, 0x73440007,
+                                                   0x73440008, 0x73440009, 0x73440010};
         const PAGE* target =
             of_some.contains(id) ? SearchPageTable_Free_ALL(PageTable, id) : SearchPageTable(id);
         EXPECT_TRUE(target) << std::hex << page.id << " button " << b.id << " to " << id;

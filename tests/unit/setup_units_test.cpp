@@ -1,0 +1,181 @@
+// The pages of effects units, device controllers, router, tallies and multi-program engines: what
+// each asks for, what goes out, and which units an installation has.
+#include "pc_setup_gpi.h"
+#include "setup_desk.h"
+
+namespace
+{
+const std::string SETUP = "Engineering Setup@";
+const std::string DEVICES = SETUP + "DME@Device Interface@";
+enum : int { KEY_GPI_ENABLE = 36, KEY_TEST = 37 };
+
+struct SetupUnits : SetupTest {
+    void TearDown() override
+    {
+        (void)Leave();
+        SYS_DualProc = 0;
+        SetupTest::TearDown();
+    }
+    // Two processors as one: four effects units.
+    static void BecomeDual()
+    {
+        SYS_DualProc = 1;
+        DEV_Swr[0].activeline = DEV_Dme[0].activeline = 6;
+        DeviceStructure();
+    }
+    static std::string Keys()
+    {
+        std::string keys;
+        for (int row = 0; row < LS_GetNData(1); row++)
+            keys += (row ? "," : "") + std::string(LS_GetData(1, row, 0));
+        return keys;
+    }
+};
+} // namespace
+
+TEST_F(SetupUnits, EachPageAsksForItsSettingsAndLeavesThem)
+{
+    static const struct {
+        uint32_t page;
+        std::vector<const char*> paths;
+    } cases[] = {
+        {0x73410000, {"DME@Config@Processing@DME4"}},
+        {0x73410001, {"DME@Config@Channel Config@Assign@DME2 Ch4"}},
+        {0x73410002, {"DME@Config@Freeze@Signal Loss@Ch8"}},
+        {0x73420000, {"DME@Input@Key H Pos@Ch1"}},
+        {0x73420001, {"DME@Output@Signal@Out8"}},
+        {0x73420002, {"DME@Input@Key Level@Key Gain@Ch8"}},
+        {0x73430000, {"DME@Video Interface@H Phase@DME2"}},
+        {0x73430001, {"DME@Video Interface@TBC@Window@DME1"}},
+        {0x73440000, {"DME@Device Interface@DME2 GPI Input@GPI Enable"}},
+        {0x73440001, {"DME@Device Interface@SDI I/F@Output@DME2 Ch4"}},
+        {0x73440004,
+         {"DME@Device Interface@DME2 GPI Input@GPI Enable",
+          "DME@Device Interface@DME2 GPI Input@Action Type@8@1"}},
+        {0x73440006, {"DME@Device Interface@DME2 GPI Output@Trigger Type@1"}},
+        {0x73510000, {"DCU@GPI Input@DCU1@Trigger Type@32"}},
+        {0x73520001, {"DCU@GPI Output@DCU2@Action Type Region@32@1"}},
+        {0x73530000, {"DCU@Serial Port@DCU1@Protocol@8"}},
+        {0x73530001, {"DCU@Serial Port@DCU2@Device@1"}},
+        {0x73530002, {"DCU@Serial Port@VTR@Preroll@Dev12"}},
+        {0x73530003, {"DCU@Serial Port@Extended VTR@Cue Up@Dev1"}},
+        {0x73530004, {"DCU@Serial Port@Disk Recorder@File List@Dev1"}},
+        {0x73530005, {"DCU@Serial Port@P-Bus@Store Recall@24"}},
+        {0x73530006, {"DCU@Serial Port@DDR@Channel@Dev1"}},
+        {0x73540001, {"DCU@Parallel Port@DCU2@Function@32"}},
+        {0x73610000, {"Router@Config@Level Name@Level 8", "Router@Config@Destinations@Level 1"}},
+        {0x73610001, {"Router@Area@Last Destination@8"}},
+        {0x73610002, {"Router@Source Table@Name@128"}},
+        {0x73610003, {"Router@Destination Table@Output@128"}},
+        {0x73610004, {"Router@Inhibit@128", "Router@Destination Table@Name@1"}},
+        {0x73610005, {"Router@External Box Assign@Address@16"}},
+        {0x73620000, {"Tally@Tally Group@Color@Group 8"}},
+        {0x73620001, {"Tally@Tally Enable@P/P", "Tally@Tally Enable@Aux48"}},
+        {0x73620002, {"Tally@Tally Copy@Group 8"}},
+        {0x73630000, {"Tally@Wiring@Destination@136", "Switcher@Input@Source Name@136"}},
+        {0x73640000, {"Tally@Serial Tally@Unit@Port4"}},
+        {0x73640001, {"Tally@Serial Tally@Source Assign@Source@128"}},
+        {0x73650000, {"Tally@Parallel Tally@Contact@64"}},
+        {0x73710000, {"MPE@Model@MPE4"}},
+        {0x73720000, {"MPE@Input@Name@MPE4 In4"}},
+        {0x73730000, {"MPE@Output@H Phase@MPE1 Out1"}},
+        {0x73740000, {"MPE@Boards@Board@MPE4 Slot4"}},
+    };
+    for (const auto& c : cases) {
+        const Lines opened = Open(c.page);
+        const Lines left = Leave();
+        for (const char* path : c.paths) {
+            EXPECT_THAT(opened, testing::Contains("add " + SETUP + path)) << std::hex << c.page;
+            EXPECT_THAT(left, testing::Contains("remove " + SETUP + path)) << std::hex << c.page;
+        }
+    }
+}
+
+TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
+{
+    const std::string pair = "DME1 Ch1,DME1 Ch2,DME1 Ch3,DME1 Ch4,DME2 Ch1,DME2 Ch2,DME2 Ch3,"
+                             "DME2 Ch4";
+    const std::string dual = "DME1 Ch1,DME1 Ch2,DME2 Ch1,DME2 Ch2,DME3 Ch1,DME3 Ch2,DME4 Ch1,"
+                             "DME4 Ch2";
+    const struct {
+        uint32_t page;
+        std::string single;
+        std::string dual;
+    } cases[] = {
+        {0x73410001, pair, dual},
+        {0x73440001, pair, dual},
+        {0x73430000, "DME1,DME2", "DME1,DME2,DME3,DME4"},
+        {0x73430001, "DME1,DME2", "DME1,DME2,DME3,DME4"},
+        {0x73440000, "DME1,DME2", "DME1,DME2,DME3,DME4"},
+        {0x73440003, "1,2,3,4,5,6,7,8", "1,2,3,4,5,6,7,8"},
+        {0x73440007, "", "1,2,3,4,5,6,7,8"},
+        {0x73440010, "", "1,2,3,4,5,6,7,8"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(SearchPageTable(c.page) != nullptr, !c.single.empty()) << std::hex << c.page;
+        if (c.single.empty())
+            continue;
+        (void)Open(c.page);
+        EXPECT_EQ(Keys(), c.single) << std::hex << c.page;
+        (void)Leave();
+    }
+    BecomeDual();
+    for (const auto& c : cases) {
+        ASSERT_NE(SearchPageTable(c.page), nullptr) << std::hex << c.page;
+        (void)Open(c.page);
+        EXPECT_EQ(Keys(), c.dual) << std::hex << c.page;
+        (void)Leave();
+    }
+}
+
+TEST_F(SetupUnits, WhatIsFollowedAllTheTimeIsOnlyRead)
+{
+    const std::string model = SETUP + "DME@Model@DME", select = SETUP + "MPE@Config@SWR Select@MPE";
+    const Lines opened = Open(0x73410000);
+    EXPECT_THAT(opened, testing::Contains("read " + model + "1"));
+    EXPECT_THAT(opened, testing::Not(testing::Contains("add " + model + "1")));
+    TellAll(model, {"1#3", "4#8"});
+    EXPECT_EQ(Row(0, 2), "DME1|FXU50");
+    EXPECT_EQ(Row(3, 2), "DME4|ZRD52");
+    SelectRow(0);
+    (void)Push(33);
+    (void)Answer(8);
+    (void)Push(BTN_SHEET_EXECUTE);
+    EXPECT_THAT(Answer(1), testing::ElementsAre("put " + model + "1#8", "read " + model + "1"));
+    EXPECT_THAT(Leave(), testing::Not(testing::Contains("remove " + model + "1")));
+    (void)Open(0x73710000);
+    EXPECT_THAT(Leave(), testing::Not(testing::Contains("remove " + select + "1")));
+}
+
+TEST_F(SetupUnits, EachUnitHasPortsOfItsOwn)
+{
+    (void)Open(0x73440006);
+    (void)Tell(DEVICES + "DME2 GPI Output@Trigger Type@3#None,0x00,0x01");
+    SelectRow(2);
+    EXPECT_THAT(Push(KEY_TEST),
+                testing::ElementsAre("put " + DEVICES + "DME2 GPI Output@Test Fire@3#"));
+    (void)Tell(DEVICES + "DME2 GPI Output@GPI Enable#false");
+    EXPECT_THAT(Push(KEY_GPI_ENABLE),
+                testing::ElementsAre("put " + DEVICES + "DME2 GPI Output@GPI Enable#true"));
+    (void)Push(33);
+    (void)Answer(5); // Level
+    EXPECT_EQ(Row(2, 2), "3|Level*");
+    (void)Open(0x73440005);
+    EXPECT_EQ(Row(2, 2), "3|") << "an edit of another unit";
+    (void)Open(0x73440006);
+    EXPECT_EQ(Row(2, 2), "3|Level*");
+}
+
+TEST_F(SetupUnits, ABusTellsItsGroupsInOneLineAndGetsThemInOne)
+{
+    const std::string bus = SETUP + "Tally@Tally Enable@Aux1";
+    (void)Open(0x73620001);
+    (void)Tell(bus + "#true,false,false,true,false,false,false,false");
+    EXPECT_EQ(Row(6, 9), "Aux1|On|---|---|On|---|---|---|---");
+    SelectRow(6);
+    (void)Push(34);
+    (void)Answer(1);
+    EXPECT_THAT(
+        Push(BTN_SHEET_EXECUTE),
+        testing::ElementsAre("put " + bus + "#true,true,false,true,false,false,false,false"));
+}
