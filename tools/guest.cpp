@@ -10,6 +10,7 @@
 #include "pane.h"
 #include "saver.h"
 #include "start.h"
+#include "text.h"
 #include "window.h"
 #include <SDL.h>
 #include <csignal>
@@ -18,11 +19,26 @@
 
 static constexpr int ANSWER_MS = 1;           // the server is on the same machine
 static constexpr int ANNOUNCED_PASSES = 5000; // of a millisecond: it lets a starting panel wait
-static constexpr int STAGE_PASSES = 400;
+static constexpr int STAGE_ROUNDS = 20;
+static constexpr int SETTLE_PASSES =
+    3000; // a link that has fallen does not hold the tool up for ever
+
+static struct {
+    int asked = 0;    // the last question that the server was sent
+    int answered = 0; // and that it has answered: in the order in which they were asked
+} guest;
+
+static constexpr char QUESTION[] = "Guest@Question";
 
 void Guest_Pass(int elapsed_ms)
 {
-    ReceiveCommand_Management();
+    while (char* line = Net_ReceiveCommand()) {
+        if (BeginsWith(line, QUESTION))
+            guest.answered = atoi(line + sizeof QUESTION);
+        else
+            SendDummyTally(line);
+    }
+    ReceiveCommand_Management(); // the other links
     (void)Net_SendCommandQueue();
     (void)Net_SendBinCommandQueue();
     (void)Net_SendSHPCommandQueue(elapsed_ms);
@@ -37,12 +53,16 @@ void Guest_Pass(int elapsed_ms)
         (void)EndScreenSaver();
 }
 
-void Guest_Settle(int passes)
+void Guest_Settle(int rounds)
 {
-    for (int i = 0; i < passes || (Net_QueueLength() > 0 && i < 100 * passes); i++) {
-        Guest_Pass();
-        SDL_Delay(ANSWER_MS);
+    for (int round = 0; round < rounds; round++) {
+        Net_SendCommandFormat("put %s#%d", QUESTION, ++guest.asked);
+        for (int i = 0; i < SETTLE_PASSES && guest.answered != guest.asked; i++) {
+            Guest_Pass();
+            SDL_Delay(ANSWER_MS);
+        }
     }
+    Guest_Pass();
 }
 
 bool Guest_Start()
@@ -63,7 +83,7 @@ bool Guest_Start()
     }
     for (void (*stage)() : {InitialCommand0, InitialCommand1, InitialCommand2}) {
         stage();
-        Guest_Settle(STAGE_PASSES);
+        Guest_Settle(STAGE_ROUNDS);
     }
     GL_InitRead = 0;
     Guest_CloseAll();

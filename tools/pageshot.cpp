@@ -132,8 +132,8 @@ static int OnePage(int argc, char** argv)
 
 namespace
 {
-constexpr int ANSWER_PASSES = 16; // until the lists that one answer leads to have come, too
-constexpr size_t SHEET = 20;      // pictures on one sheet
+constexpr int ROUNDS = 3;    // of answers, and answers to what they led to
+constexpr size_t SHEET = 20; // pictures on one sheet
 constexpr int SHEET_COLUMNS = 4;
 constexpr int SHEET_SCALE = 2; // the part of a page's size
 } // namespace
@@ -198,7 +198,7 @@ static int AllPages(const std::string& dir, char** banks, int count)
             missing++;
             continue;
         }
-        Guest_Settle(ANSWER_PASSES);
+        Guest_Settle(ROUNDS);
         const Picture picture = Picture_OfScreen();
         char id[16];
         PrintText(id, "/%08X.png", unsigned(row->id));
