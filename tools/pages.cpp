@@ -1,7 +1,7 @@
 // pages: prints the page table for a person to review, or exports for the simulator which values
 // the paths of all pages may take.
 //
-// usage: pages            one line a page: id, tree, objects
+// usage: pages            one line a page: id, tree, objects; then the count by banks, and of all
 //        pages --buttons  the same with the buttons and number boxes of each page
 //        pages --values   path, kind and limits, tab-separated, one line a path
 #include "a_bt.h"
@@ -311,6 +311,33 @@ static void PrintButtons(const PAGE& page)
     }
 }
 
+// How many rows each bank of ids has, and what stands on them.
+static void PrintGroups()
+{
+    struct Group {
+        const char* name = "";
+        int rows = 0;
+        int keys = 0;
+        std::map<uint32_t, int> tabs; // by the first-level tab
+    };
+    std::map<uint32_t, Group> groups;
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        Group& g = groups[page->id >> 24];
+        if (!g.rows++)
+            g.name = page->tree[0];
+        g.tabs[page->id >> 20 & 0xF]++;
+        for (const BT_TBL* b = ButtonsOf(*page); b && b->id >= 1; b++)
+            g.keys++;
+    }
+    printf("\nBank  Rows   Keys  Rows of its tabs\n");
+    for (const auto& [bank, g] : groups) {
+        printf("  %02X  %4d  %5d  %-18s", unsigned(bank), g.rows, g.keys, g.name);
+        for (const auto& [tab, rows] : g.tabs)
+            printf(" %X:%d", unsigned(tab), rows);
+        printf("\n");
+    }
+}
+
 static void PrintPages(bool with_buttons)
 {
     for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
@@ -322,6 +349,7 @@ static void PrintPages(bool with_buttons)
         if (with_buttons)
             PrintButtons(*page);
     }
+    PrintGroups();
     printf("%d rows\n", PageTable_Rows);
 }
 

@@ -11,6 +11,7 @@
 #include "message.h"
 #include "page.h"
 #include "page_table/me_tabs.h"
+#include "page_walk.h"
 #include "pane.h"
 #include "tdl.h"
 #include <algorithm>
@@ -18,85 +19,7 @@
 #include <cstring>
 #include <set>
 
-namespace
-{
-const BT_TBL* ButtonsOf(const PAGE& page)
-{
-    for (const auto& object : page.obj)
-        if (object.type == OBJ_BT)
-            return static_cast<const BT_TBL*>(object.addr);
-    return nullptr;
-}
-
-template <typename Visit> void ForEachPage(Visit visit)
-{
-    for (PAGE* page = PageTable; page->id != PAGE_END; page++)
-        visit(*page);
-}
-
-template <typename Visit> void ForEachButton(Visit visit)
-{
-    ForEachPage([&](PAGE& page) {
-        for (const BT_TBL* b = ButtonsOf(page); b && b->id >= 1; b++)
-            visit(page, *b);
-    });
-}
-
-bool IsJump(const BT_TBL& b)
-{
-    return b.cmd[0] && (b.cmd[0][0] == '#') &&
-           (b.type == BT_JUMP || b.type == BT_JUMP_10KEY || b.type == BT_JUMP_KEYBOARD ||
-            b.type == BT_JUMP_POPUP);
-}
-
-// The page that a jump of this page requests, as the button works it out.
-uint32_t TargetOf(PAGE& page, const BT_TBL& b)
-{
-    Page = &page;
-    GL_NowTree = page.tree;
-    GL_NowPage = page.id;
-    const char* number = b.cmd[0] + 1;
-    uint32_t id = uint32_t(strtoul(*number == '+' ? number + 1 : number, nullptr, 16));
-    if (*number == '+')
-        AddPageOffset(&id);
-    return id;
-}
-
-const void* TableOf(const PAGE& page, int type, uint32_t* selected)
-{
-    for (const auto& object : page.obj)
-        if (object.type == type) {
-            *selected = object.var;
-            return object.addr;
-        }
-    return nullptr;
-}
-
-// Both kinds of tabs of a page, as (id, caption, page, is chosen).
-template <typename Visit> void ForEachTab(PAGE& page, Visit visit)
-{
-    uint32_t selected = 0;
-    if (const auto* t = static_cast<const VF_TBL*>(TableOf(page, OBJ_VF, &selected)))
-        for (; t->id >= 1; t++)
-            visit(OBJ_VF, t->id, t->caption, t->page, uint32_t(t->id) == selected);
-    if (const auto* t = static_cast<const HF_TBL*>(TableOf(page, OBJ_HF, &selected)))
-        for (; t->id >= 1; t++)
-            visit(OBJ_HF, t->id, t->caption, t->page, uint32_t(t->id) == (selected & ~HF_LOW));
-}
-
-// Every number box that a button of the page may show.
-template <typename Visit> void ForEachBox(Visit visit)
-{
-    ForEachButton([&](PAGE& page, const BT_TBL& b) {
-        const NB_TBL* tables[16] = {b.nb};
-        const int number = SpecialKnobNumber(b.nb);
-        const int n = number ? special_knob_tables(number, tables, 16) : b.nb != NoKnobs();
-        for (int i = 0; i < n; i++)
-            for (const NB_TBL* nb = tables[i]; nb && nb->id >= 1; nb++)
-                visit(page, b, *nb);
-    });
-}
-} // namespace
+using namespace page_walk;
 
 TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
 {
@@ -308,39 +231,4 @@ TEST(PageTable, WhileATransferRunsEveryPageLeadsToOneThatSaysSo)
     CreatePage(0x12700000);
     EXPECT_EQ(GL_CreatePage, 0x12710000u) << "in its own bank";
     GL_CreatePage = 0;
-}
-
-// A page that nothing on the screen leads to is a page that no operator finds.
-TEST(PageTable, EveryPageOfABankIsLedTo)
-{
-    // By page code, as for M/E-1 and Key1.
-    static const std::set<uint32_t> by_code = {0x11510000, 0x11170002, 0x11110002, 0x11110003,
-                                               0x11170004, 0x11170005, 0x11170006, 0x11700000};
-    // The tab opens one of two forms, by how the installation is set up.
-    static const std::set<uint32_t> by_form = {0x11170100, 0x11170200};
-    Harness_Reset();
-    const FullHouse all;
-    std::set<uint32_t> led_to;
-    ForEachButton([&](PAGE& page, const BT_TBL& b) {
-        if (IsJump(b))
-            led_to.insert(TargetOf(page, b));
-    });
-    ForEachPage([&](PAGE& page) {
-        ForEachTab(page, [&](int, int, const char*, uint32_t target, bool) {
-            const PAGE* opened = SearchPageTable(target);
-            led_to.insert(opened ? opened->id : target);
-            led_to.insert(target);
-        });
-    });
-    ForEachPage([&](PAGE& page) {
-        if (!isNowPageMeKey(page.id) && !isNowPageME(page.id))
-            return;
-        if (!(page.id & 0x00FFFFFF))
-            return; // the title of every page leads to the first one of its bank
-        const uint32_t first = (page.id & 0x00F00000) < 0x00500000 ? 0x000FFFFF : 0x00FFFFFF;
-        const uint32_t as_first =
-            (page.id & first) | 0x11000000 | (first == 0x000FFFFF ? 0x100000 : 0);
-        EXPECT_TRUE(led_to.count(page.id) || by_code.count(as_first) || by_form.count(as_first))
-            << std::hex << page.id;
-    });
 }
