@@ -11,7 +11,8 @@ bool Guest_Start();
 // Links, a page change that is asked for and may take place, repaint. elapsed_ms: how much time the
 // objects take it for.
 void Guest_Pass(int elapsed_ms = 10);
-// Passes until the server has answered all that has been sent, and so many times again what its answers led to.
+// Passes until the server has answered all that has been sent, and so many times again what its
+// answers led to.
 void Guest_Settle(int rounds);
 // Open a row of the table: as the installation has it where it exists, else by its id alone. False
 // when it cannot be.
