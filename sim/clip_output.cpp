@@ -132,7 +132,8 @@ static void set_speed(int n, const Numbers& v)
 static void jump(int n, const Numbers& v)
 {
     Output& o = co.output[n];
-    const long to[] = {o.start, o.stop, long(o.frame), long(o.frame), number(v, 2)};
+    const long middle = (long(o.start) + long(o.stop)) / 2;
+    const long to[] = {o.start, o.stop, middle, long(o.frame), number(v, 2)};
     const long kind = number(v, 1);
     if (kind < 0 || kind > 4)
         return;

@@ -26,6 +26,7 @@ struct FF_LastInfo {
     int selected_type = ELEMENT_TYPE_NONE;
 };
 constexpr int PAGES = 16; // that have a file folder
+constexpr int PUSHED_MS = 150;
 constexpr int FIND_X = 300;
 constexpr int FIND_Y = 200;
 } // namespace
@@ -471,7 +472,10 @@ static void press_key(int index, int key)
 {
     const int mode = ff.area[index].select_mode;
     switch (key) {
-    case FF_KEY_FIND: open_find(index); return;
+    case FF_KEY_FIND:
+        ff.area[index].find_pushed = PUSHED_MS;
+        open_find(index);
+        return;
     case FF_KEY_SELECT:
         (void)FF_SetSelectMode(index,
                                mode == SELECT_MODE_OFF ? SELECT_MODE_SELECT : SELECT_MODE_OFF);
@@ -549,7 +553,7 @@ int FF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
     case MSG_REDRAW:
         for (int i = 0; i < FF_AREAS; i++)
             if (area_of(i))
-                ff_redraw(i);
+                ff_redraw(i, int(ax));
         return 0;
     case MSG_PRESS: press(int(ax), int(bx)); return 0;
     case LMSG_SBSEL: scroll(int(ax), int(bx), int(cx)); return 0;
@@ -667,6 +671,16 @@ int FF_GetCheckedObjectNum(int index)
     int count = 0;
     for (int n = 0; a && n < a->file_list.rec_num; n++)
         count += a->file_list.cell[n]->select;
+    return count;
+}
+
+int FF_GetCheckedClipNum(int index)
+{
+    const FM2_FILE_AREA* const a = area_of(index);
+    int count = 0;
+    for (int n = 0; a && n < a->file_list.rec_num; n++)
+        count +=
+            a->file_list.cell[n]->select && a->file_list.cell[n]->file_type == OBJECT_TYPE_FILE;
     return count;
 }
 

@@ -109,6 +109,7 @@ int FF_GetChildObjectNum(const char* path, int type, int place, int pair, bool r
 int FF_GetChildObjectList(const char* path, int type, int place, int pair, bool recursive,
                           FF_OBJECT* list, int max);
 int FF_GetCheckedObjectNum(int index);
+int FF_GetCheckedClipNum(int index);                              // without the folders
 int FF_GetCheckedObjectList(int index, FF_OBJECT* list, int max); // returns how many were written
 int FF_GetSelectedObject(int index, FF_OBJECT* object);           // 0; -1 for none
 // The element of that path ("NAME" in the area's folder, or "/root/NEWS/NAME"). 0; -1 for none.

@@ -120,23 +120,25 @@ static void draw_path(const FM2_FILE_AREA& a)
 
 static void draw_keys(const FM2_FILE_AREA& a)
 {
+    const bool is_pushed = a.find_pushed > 0;
     const struct {
         const char* caption;
         SDL_Surface* face;
         bool is_on;
-        int y; // of the caption
+        int shift; // of the caption
     } keys[FF_KEYS] = {
-        {"Find", G_JMP_Find_p0, false, 14},
+        {"Find", is_pushed ? G_JMP_Find_p1 : G_JMP_Find_p0, false, is_pushed},
         {"Select", a.select_mode != SELECT_MODE_OFF ? G_SEL_on : G_SEL_off,
-         a.select_mode != SELECT_MODE_OFF, 14},
+         a.select_mode != SELECT_MODE_OFF, 0},
         {"ALL", a.select_mode == SELECT_MODE_ALL ? G_SEL_all_on : G_SEL_all_off,
-         a.select_mode == SELECT_MODE_ALL, 14},
+         a.select_mode == SELECT_MODE_ALL, 0},
     };
     Rect r;
     for (int key = 0; key < FF_KEYS; key++)
         if (ff_key_rect(a.parts, key, &r)) {
             TDL_PutS(r.x1, r.y1, keys[key].face);
-            TDL_SymbolS(r.x1 + 8, r.y1 + keys[key].y, keys[key].caption, FONT,
+            const int shift = keys[key].shift;
+            TDL_SymbolS(r.x1 + 8 + shift, r.y1 + 14 + shift, keys[key].caption, FONT,
                         keys[key].is_on ? BLACK : WHITE);
             flush(r);
         }
@@ -292,9 +294,13 @@ static void draw_all(int index)
     draw_name_status(a);
 }
 
-void ff_redraw(int index)
+void ff_redraw(int index, int elapsed_ms)
 {
     FM2_FILE_AREA& a = ff.area[index];
+    if (a.find_pushed > 0) {
+        a.find_pushed = std::max(0, a.find_pushed - elapsed_ms);
+        draw_keys(a);
+    }
     if (a.file_list.redrawall) {
         draw_all(index);
         return;

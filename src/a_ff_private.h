@@ -27,6 +27,7 @@ struct FM2_FILE_AREA {
     CURRENT_INFO current;
     int top = 0; // first row of the grid that is shown
     int select_mode = SELECT_MODE_OFF;
+    int find_pushed = 0; // ms for which "Find" still looks pushed
     char find_text[ELEMENT_NAME_SIZE] = "";
     char found[ELEMENT_PATH_SIZE] = ""; // full_name of the last one found
     int found_type = ELEMENT_TYPE_NONE;
@@ -57,4 +58,4 @@ int ff_rows(const FM2_FILE_AREA& a);                              // of the whol
 Rect ff_grid(const PARTS_FILE_AREA& parts);
 Rect ff_folder_button(const PARTS_FILE_AREA& parts, int depth); // depth 0 the root
 int ff_depth(const FM2_FILE_AREA& a);                           // folders above what is shown
-void ff_redraw(int index);
+void ff_redraw(int index, int elapsed_ms);

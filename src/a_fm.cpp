@@ -17,6 +17,7 @@
 FM_MEM fm;
 
 static constexpr int STATUS_VALUES = 2; // of a tally: the state and a path
+static constexpr int PUSHED_MS = 150;
 
 // --- Names ---
 
@@ -441,6 +442,7 @@ int FM_Create(const FM_TBL* table, uint32_t)
     fm.popup = 0;
     fm.tbl = table ? *table : FM_TBL{};
     fm.redraw_all = fm.tbl.enable;
+    std::fill_n(fm.pushed, FM_KEYS, 0);
     if (!fm.tbl.enable)
         return 1;
     // The catalogue may have changed while no page looked.
@@ -504,6 +506,8 @@ static int press(int x, int y)
     Rect r;
     for (int key = 0; key < FM_KEYS; key++)
         if (fm_key_rect(key, &r) && Inside(r, x, y)) {
+            fm.pushed[key] = PUSHED_MS;
+            fm.redraw_keys = true;
             press_key[key]();
             return 1;
         }
@@ -517,7 +521,7 @@ int FM_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
     switch (msg) {
     case MSG_TALLY: tally(Text(ax), Text(bx)); return 0;
     case MSG_PRESS: return press(int(ax), int(bx));
-    case MSG_REDRAW: fm_redraw(); return 0;
+    case MSG_REDRAW: fm_redraw(int(ax)); return 0;
     case LMSG_FMCTRL3CHANGE:
         element_changed(int(ax), reinterpret_cast<const ELEMENT*>(bx), int(dx));
         return 0;

@@ -6,6 +6,7 @@
 #include "tdl.h"
 #include "text.h"
 #include "timecode.h"
+#include <algorithm>
 #include <cstring>
 
 #include "safeguards.h"
@@ -46,10 +47,14 @@ bool fm_key_rect(int key, Rect* r)
 
 // --- Parts ---
 
-static void draw_key(const Rect& r, const char* caption, bool is_on, unsigned ink)
+static void draw_key(const Rect& r, const char* caption, bool is_on, bool is_pushed, unsigned ink)
 {
+    const int p = is_pushed;
     TDL_PutS(r.x1, r.y1, is_on ? G_FMOUT_on : G_FMOUT_off);
-    TDL_SymbolCS(r.x1, r.y1 + 4, r.x2, r.y2 - 2, caption, FONT, is_on ? BLACK : ink);
+    if (is_pushed)
+        Box_Edge(r, RAISED_DARK, RAISED_LIGHT);
+    TDL_SymbolCS(r.x1 + p, r.y1 + 4 + p, r.x2 + p, r.y2 - 2 + p, caption, FONT,
+                 is_on ? BLACK : ink);
 }
 
 static void draw_text(int x, int y, int width, const char* text, unsigned colour)
@@ -129,7 +134,8 @@ static void draw_output(int second)
     const bool is_selected = n == FM_GetSelect() || FM_IsPair();
     TDL_FillRectS(box.x1, box.y1, box.x2, box.y2, BLACK);
     const int x = box.x1 + (FM_BOX_W - KEY_W) / 2;
-    draw_key({x, box.y1, x + KEY_W - 1, box.y1 + KEY_H - 1}, FM_GetFMOutStr(n), is_selected, WHITE);
+    draw_key({x, box.y1, x + KEY_W - 1, box.y1 + KEY_H - 1}, FM_GetFMOutStr(n), is_selected, false,
+             WHITE);
     const Rect thumb = {box.x1 + THUMB_X, box.y1 + THUMB_Y, box.x1 + THUMB_X + THUMB_W - 1,
                         box.y1 + THUMB_Y + THUMB_H - 1};
     draw_thumbnail(n, status, thumb);
@@ -149,13 +155,22 @@ static void draw_keys()
     for (int key = 0; key < FM_KEYS; key++)
         if (fm_key_rect(key, &r)) {
             const bool is_dead = key == FM_KEY_PAIR && fm.tbl.pair_button.disable;
-            draw_key(r, captions[key], on[key], is_dead ? GREY : WHITE);
+            draw_key(r, captions[key], on[key], fm.pushed[key] > 0, is_dead ? GREY : WHITE);
             TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);
         }
 }
 
-void fm_redraw()
+static void release_keys(int elapsed_ms)
 {
+    for (int& pushed : fm.pushed) {
+        fm.redraw_keys |= pushed > 0 && pushed <= elapsed_ms;
+        pushed = std::max(0, pushed - elapsed_ms);
+    }
+}
+
+void fm_redraw(int elapsed_ms)
+{
+    release_keys(elapsed_ms);
     if (fm.redraw_all)
         fm.redraw[0] = fm.redraw[1] = fm.redraw_keys = true;
     fm.redraw_all = false;

@@ -32,6 +32,7 @@ struct FM_MEM {
     bool redraw_all = false;
     bool redraw[2] = {}; // a box
     bool redraw_keys = false;
+    int pushed[FM_KEYS] = {}; // ms for which a key still looks pushed
 };
 extern FM_MEM fm;
 
@@ -42,4 +43,4 @@ SDL_Surface* fm_surface(int n); // of the frame that is shown; null: none on the
 
 Rect fm_box(int second); // of an output of the pair
 bool fm_key_rect(int key, Rect* r);
-void fm_redraw();
+void fm_redraw(int elapsed_ms);

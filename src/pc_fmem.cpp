@@ -227,6 +227,12 @@ void fmem_put_number(const char* path, int number)
     fmem_put(path, text);
 }
 
+void fmem_read_outputs(const char* path)
+{
+    for (int n = 0; n < FM_OUTPUTS; n++)
+        (void)Net_SendCommandFormat("read  %s%s@FM%d#", FM_TREE, path, n + 1);
+}
+
 void fmem_through()
 {
     fmem_put_number("Record@Through", 1);

@@ -103,6 +103,7 @@ template <size_t N> void fmem_button(const FMEM_KEY (&keys)[N], const char* path
 // The selected output, or both of a pair: a value whose first number says so.
 void fmem_put(const char* path, const char* rest);
 void fmem_put_number(const char* path, int number);
+void fmem_read_outputs(const char* path); // ask for the value of every output
 void fmem_through(); // what two pages have: the selected output shows its input, or black
 void fmem_black();
 void fmem_line(const char* text); // one line below the folder beside the outputs, at once

@@ -15,7 +15,7 @@
 
 static void enable_keys()
 {
-    const bool nothing = FF_GetCheckedObjectNum(0) == 0;
+    const bool nothing = FF_GetCheckedClipNum(0) == 0; // a folder cannot be loaded
     BT_SetDisable(BTN_FMEM_LOAD, nothing);
     BT_SetDisable(BTN_FMEM_UNLOAD, nothing);
 }

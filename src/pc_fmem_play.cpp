@@ -29,11 +29,16 @@ namespace
 {
 constexpr int FM_PLAY_MODE_LOOP = 1;
 constexpr int FM_PLAY_MODE_PINGPONG = 2;
-enum : int { POINT_NOW = 0, POINT_NUMBER = 4, POINT_RESET = 6 };          // of Start and Stop TC
-enum : int { JUMP_START = 0, JUMP_STOP = 1, JUMP_NUMBER = POINT_NUMBER }; // of Jump Frame
-enum : int { PLAY = 0, STOP = 1 };                                        // of Play
-constexpr int SPEED_DEFAULT = 50;                                         // percent
-constexpr int SPEED_NORMAL = 0;                                           // not variable
+enum : int { POINT_NOW = 0, POINT_NUMBER = 4, POINT_RESET = 6 }; // of Start and Stop TC
+enum : int {
+    JUMP_START = 0,
+    JUMP_STOP = 1,
+    JUMP_MIDDLE = 2,
+    JUMP_NUMBER = POINT_NUMBER
+};                                 // of Jump Frame
+enum : int { PLAY = 0, STOP = 1 }; // of Play
+constexpr int SPEED_DEFAULT = 50;  // percent
+constexpr int SPEED_NORMAL = 0;    // not variable
 
 struct CLIPPLAY {
     int outstatus = FMOUT_STATUS_NONE;
@@ -141,7 +146,7 @@ static void tell_lamp(const char* name, bool is_on)
 static void show_keys()
 {
     const CLIPPLAY& c = selected();
-    for (const int id : {BTN_FMEM_REW, BTN_FMEM_PLAY, BTN_FMEM_STOP, BTN_FMEM_FF,
+    for (const int id : {BTN_FMEM_REW, BTN_FMEM_PLAY, BTN_FMEM_STOP, BTN_FMEM_FF, BTN_FMEM_MIDDLE,
                          BTN_FMEM_START_SET, BTN_FMEM_START_RESET, BTN_FMEM_STOP_SET,
                          BTN_FMEM_STOP_RESET, BTN_FMEM_LOOP, BTN_FMEM_PINGPONG, BTN_FMEM_SPEED})
         BT_SetDisable(id, !has_clip());
@@ -272,6 +277,11 @@ static void forward_clip()
     put_point("Play@Jump Frame", JUMP_STOP);
 }
 
+static void to_middle()
+{
+    put_point("Play@Jump Frame", JUMP_MIDDLE);
+}
+
 static void set_start()
 {
     put_point("Play@Start TC", POINT_NOW);
@@ -334,6 +344,7 @@ static constexpr FMEM_KEY keys[] = {
     {"LOCAL@Clip/Still@Stop", stop},
     {"LOCAL@Clip/Still@Rewind", rewind_clip},
     {"LOCAL@Clip/Still@Forward", forward_clip},
+    {"LOCAL@Clip/Still@Middle", to_middle},
     {"LOCAL@Clip/Still@Start TC Set", set_start},
     {"LOCAL@Clip/Still@Start TC Reset", reset_start},
     {"LOCAL@Clip/Still@Stop TC Set", set_stop},
@@ -480,8 +491,8 @@ static int open_or_leave(int on, uint32_t)
         return 0;
     }
     subscribe("add");
-    for (int n = 0; n < FM_OUTPUTS; n++)
-        (void)Net_SendCommandFormat("read  %sPlay@FM%d#", FM_TREE, n + 1);
+    fmem_read_outputs("Output Status");
+    fmem_read_outputs("Play");
     show_all();
     return 0;
 }

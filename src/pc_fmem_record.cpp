@@ -332,6 +332,7 @@ static int create(int on, bool is_freeze)
         const int length = rec.length;
         rec = {.is_freeze = is_freeze, .length = length};
         subscribe("add");
+        fmem_read_outputs("Output Status");
         for (int n = 0; n < FM_PROCESSORS; n++)
             (void)Net_SendCommandFormat("read %sRecord@%s", FM_TREE, FM_GetFMProcStr(n));
         next_name();

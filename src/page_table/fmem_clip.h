@@ -37,6 +37,7 @@ enum : int {
     BTN_FMEM_STORE = 88,
     BTN_FMEM_COUPLE = 89,
     BTN_FMEM_SEPARATE = 90,
+    BTN_FMEM_MIDDLE = 91,
 };
 enum : int { NB_FMEM_START = 1, NB_FMEM_STOP = 2, NB_FMEM_FRAME = 3, NB_FMEM_SPEED = 4 };
 enum : int { NB_FMEM_LENGTH = 1 };
@@ -104,12 +105,12 @@ constexpr PARTS_FILE_AREA FmemBeside(int rows, bool has_name)
             .find_button = {.enable = 1, .pos = {244, FMEM_KEYS_Y}}};
 }
 // The left or the right one of two.
-constexpr PARTS_FILE_AREA FmemHalf(int x, bool has_keys)
+constexpr PARTS_FILE_AREA FmemHalf(int x, bool has_find, bool has_select)
 {
     return {.enable = 1, .loaded_mark = 1, .selected_mark = 1, .h_num = 2, .v_num = 3, .pos = {x, 112}, .h_gap = 120,
             .name_status = {.enable = 1, .pos = {x, 430}},
-            .find_button = {.enable = has_keys, .pos = {x, FMEM_KEYS_Y}},
-            .select_button = {.enable = has_keys, .pos_select = {x + 90, FMEM_KEYS_Y + 13}, .pos_all = {x + 156, FMEM_KEYS_Y + 13}}};
+            .find_button = {.enable = has_find, .pos = {x, FMEM_KEYS_Y}},
+            .select_button = {.enable = has_select, .pos_select = {x + 90, FMEM_KEYS_Y + 13}, .pos_all = {x + 156, FMEM_KEYS_Y + 13}}};
 }
 // All of the page.
 constexpr PARTS_FILE_AREA FmemWide()
@@ -123,7 +124,8 @@ inline constexpr FF_TBL ff_fmem_beside = {{FmemBeside(3, true), {}}};
 inline constexpr FF_TBL ff_fmem_record = {{FmemBeside(3, false), {}}};
 inline constexpr FF_TBL ff_fmem_short = {{FmemBeside(2, false), {}}};
 inline constexpr FF_TBL ff_fmem_wide = {{FmemWide(), {}}};
-inline constexpr FF_TBL ff_fmem_two = {{FmemHalf(100, true), FmemHalf(402, false)}};
+inline constexpr FF_TBL ff_fmem_two = {{FmemHalf(100, true, true), FmemHalf(402, false, false)}};
+inline constexpr FF_TBL ff_fmem_pair = {{FmemHalf(100, true, false), FmemHalf(402, true, false)}};
 
 // --- Keys ---
 
@@ -163,9 +165,10 @@ inline constexpr BT_TBL bt_fmem_play[] = {
     FmemAction(516, 232, {.id = BTN_FMEM_STOP_SET,    .caption = "Set",   .group = "Stop TC",  .cmd = {CS "Stop TC Set"}}),
     FmemAction(608, 232, {.id = BTN_FMEM_STOP_RESET,  .caption = "Reset", .group = "Stop TC",  .cmd = {CS "Stop TC Reset"}}),
     FmemTransport(250, 336, {.id = BTN_FMEM_REW,  .caption = "Start", .group = "Playback", .cmd = {CS "Rewind"}}, bt_drw_clip_playrec),
-    FmemTransport(342, 336, {.id = BTN_FMEM_PLAY, .caption = "Play",  .group = "Playback", .cmd = {CS "Play"}}, bt_drw_clip_playrec),
-    FmemTransport(434, 336, {.id = BTN_FMEM_STOP, .caption = "Stop",  .group = "Playback", .cmd = {CS "Stop"}}, bt_drw_clip_playrec),
-    FmemTransport(526, 336, {.id = BTN_FMEM_FF,   .caption = "End",   .group = "Playback", .cmd = {CS "Forward"}}, bt_drw_clip_playrec),
+    FmemTransport(340, 336, {.id = BTN_FMEM_PLAY, .caption = "Play",  .group = "Playback", .cmd = {CS "Play"}}, bt_drw_clip_playrec),
+    FmemTransport(430, 336, {.id = BTN_FMEM_STOP, .caption = "Stop",  .group = "Playback", .cmd = {CS "Stop"}}, bt_drw_clip_playrec),
+    FmemAction(519, 336, {.id = BTN_FMEM_MIDDLE, .caption = "Middle", .group = "Playback", .cmd = {CS "Middle"}}),
+    FmemTransport(608, 336, {.id = BTN_FMEM_FF,   .caption = "End",   .group = "Playback", .cmd = {CS "Forward"}}, bt_drw_clip_playrec),
     Toggle(FmemAt(250, 440, {.id = BTN_FMEM_LOOP,     .caption = "Loop",            .group = "Play Mode", .cmd = {CS "Loop#*"}})),
     Toggle(FmemAt(342, 440, {.id = BTN_FMEM_PINGPONG, .caption = "Ping-\nPong",     .group = "Play Mode", .cmd = {CS "Ping-Pong#*"}})),
     Toggle(FmemAt(434, 440, {.id = BTN_FMEM_SPEED,    .caption = "Variable\nSpeed", .group = "Play Mode", .cmd = {CS "Variable Speed#*"}})),
@@ -186,8 +189,8 @@ inline constexpr BT_TBL bt_fmem_deleterename[] = {
     BT_END,
 };
 inline constexpr BT_TBL bt_fmem_pair[] = {
-    FmemKey(420, {.id = BTN_FMEM_COUPLE,   .caption = "Couple",   .cmd = {CS "Couple"}}),
-    FmemKey(510, {.id = BTN_FMEM_SEPARATE, .caption = "Separate", .cmd = {CS "Separate"}}),
+    FmemKey(520, {.id = BTN_FMEM_COUPLE,   .caption = "Couple",   .cmd = {CS "Couple"}}),
+    FmemKey(610, {.id = BTN_FMEM_SEPARATE, .caption = "Separate", .cmd = {CS "Separate"}}),
     BT_END,
 };
 #undef CS
@@ -242,6 +245,6 @@ inline constexpr PAGE fmem_clip_pages[] = {
      .obj = {Base(base_main), LeftTabs(vf_fmem, 2), BottomTabs(hf_fmem_file, 2), Buttons(bt_fmem_deleterename),
              Outputs(fm_fmem_watch), Folder(ff_fmem_wide), Code(pc_fmem_file_deleterename)}},
     {.id = 0x21230000, .tree = {"Frame Memory", "File", "Pair Recombination"},
-     .obj = {Base(base_main), LeftTabs(vf_fmem, 2), BottomTabs(hf_fmem_file, 3), Buttons(bt_fmem_pair), Folder(ff_fmem_two),
+     .obj = {Base(base_main), LeftTabs(vf_fmem, 2), BottomTabs(hf_fmem_file, 3), Buttons(bt_fmem_pair), Folder(ff_fmem_pair),
              Code(pc_fmem_file_pairreecombination)}},
 };

@@ -113,9 +113,13 @@ struct ClipPages : TablePage {
         const FM2_FILE_AREA& a = ff.area[area];
         const Rect g = ff_grid(a.parts);
         for (int n = 0; n < a.file_list.rec_num; n++)
-            if (strcmp(a.file_list.cell[n]->element.name, name) == 0)
+            if (strcmp(a.file_list.cell[n]->element.name, name) == 0) {
+                const int row = n / a.parts.h_num;
+                (void)FF_SetScrollBarPosition(area, row);
                 (void)Touch(g.x1 + n % a.parts.h_num * a.parts.h_gap + 60,
-                            g.y1 + n / a.parts.h_num * FF_CELL_H + 40);
+                            g.y1 + (row - a.top) * FF_CELL_H + 40);
+                return;
+            }
     }
 };
 constexpr int YES = 1, NO = 2;
@@ -184,7 +188,8 @@ TEST_F(ClipPages, APairWorksOnItsEvenOutput)
 
 TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
 {
-    (void)Open(PLAY);
+    EXPECT_THAT(Open(PLAY), testing::IsSupersetOf({"read  " + TREE + "Output Status@FM1#",
+                                                   "read  " + TREE + "Play@FM20#"}));
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_PLAY), BT_DISABLED);
     Show(0, "2,/OPENING.SFH");
     (void)Tell(TREE + "Play@FM1#0,7,20,80");
@@ -197,6 +202,10 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_LOOP), BT_ON);
     EXPECT_THAT(Press(BTN_FMEM_LOOP), ElementsAre("put " + TREE + "Play@Play Mode@FM1#0,0"));
     EXPECT_THAT(Touch(690, 130), ElementsAre("put " + TREE + "Play@Jump Frame@FM1#0,4,99"));
+    static const std::pair<int, const char*> jumps[] = {
+        {BTN_FMEM_REW, "0,0"}, {BTN_FMEM_FF, "0,1"}, {BTN_FMEM_MIDDLE, "0,2"}};
+    for (const auto& [key, value] : jumps)
+        EXPECT_THAT(Press(key), ElementsAre("put " + TREE + "Play@Jump Frame@FM1#" + value));
     (void)Tell(TREE + "Play@FM1#0,7,80,20");
     EXPECT_THAT(Press(BTN_FMEM_PLAY), IsEmpty());
     EXPECT_NE(Pane_GetActiveID(), 0);
@@ -368,6 +377,22 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
     FMCtrl3_HubLost();
     EXPECT_FALSE(fmfileope_is_busy());
     EXPECT_EQ(Pane_GetActiveID(), 0);
+}
+
+TEST_F(ClipPages, LoadsTheClipsAmongWhatIsChecked)
+{
+    OpenPage(0x21120000);
+    (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
+    Cell(0, "NEWS"); // a folder
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_LOAD), BT_DISABLED);
+    Cell(0, "OPENING");
+    Cell(0, "STILL");
+    (void)Press(BTN_FMEM_LOAD);
+    EXPECT_THAT(Grant("85"), ElementsAre("ClipStoreFile:Register root/OPENING.SFH",
+                                         "ClipStoreFile:Register root/STILL.SFH"));
+    EXPECT_NE(Pane_GetActiveID(), 0); // says that memory is full
+    Answer(0);
+    EXPECT_EQ(FF_GetCheckedObjectNum(0), 0);
 }
 
 TEST_F(ClipPages, CouplesWhatFits)
