@@ -51,6 +51,8 @@ inline constexpr BT_TBL bt_key_frame_top[] = {
     Jump(  {.id = 19, .caption = "DME User\nPGM",    .group = "Key Frame", .cmd = {"#61140000"}}),
     Jump(  {.id = 20, .caption = "Timeline\nAssign", .group = "Key Frame", .cmd = {"#61150000"}}),
     Jump(  {.id = 21, .caption = "Region\nSelect",   .group = "Key Frame", .cmd = {"#61170000"}}),
+    Jump(  {.id = 33, .caption = "Edit",             .group = "Timeline",  .cmd = {"#61120000"}}),
+    Jump(  {.id = 34, .caption = "Run Mode",         .group = "Timeline",  .cmd = {"#61160000"}}),
     Jump(  {.id = 6,  .caption = "Top\nMenu",        .cmd = {"#00110000"}}),
     BT_END,
 };

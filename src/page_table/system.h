@@ -18,15 +18,26 @@ inline constexpr LS_TBL ls_error[] = {
 static_assert(ListsAreSound(ls_error));
 
 inline constexpr BT_TBL bt_file_top[] = {
-    Jump(       {.id = 17, .caption = "All", .group = "File", .cmd = {"#71110000"}}),
-    Jump(       {.id = 18, .caption = "Directory", .group = "File", .cmd = {"#71710000"}}),
+    Jump(       {.id = 17, .caption = "All", .group = "Show", .cmd = {"#71110000"}}),
+    Jump(       {.id = 18, .caption = "Effect", .group = "Show", .cmd = {"#71210000"}}),
+    Jump(       {.id = 19, .caption = "Snapshot", .group = "Show", .cmd = {"#71310000"}}),
+    Jump(       {.id = 20, .caption = "Shotbox\nMacro", .group = "Show", .cmd = {"#71410000"}}),
+    Jump(       {.id = 21, .caption = "Frame\nMemory", .group = "Show", .cmd = {"#71510000"}}),
+    Jump(       {.id = 33, .caption = "Import\nExport", .group = "Drive", .cmd = {"#71610000"}}),
+    Jump(       {.id = 34, .caption = "Directory\nNames", .group = "Drive", .cmd = {"#71710000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_file_top));
 
 inline constexpr BT_TBL bt_engineering_setup_top[] = {
-    Jump(       {.id = 17, .caption = "System", .group = "Setup", .cmd = {"#73110000"}}),
+    Jump(       {.id = 17, .caption = "System", .group = "Installation", .cmd = {"#73110000"}}),
+    Jump(       {.id = 33, .caption = "Panel", .group = "Unit", .cmd = {"#73210000"}}),
+    Jump(       {.id = 34, .caption = "Switcher", .group = "Unit", .cmd = {"#73310000"}}),
+    Jump(       {.id = 35, .caption = "DME", .group = "Unit", .cmd = {"#73410000"}}),
+    Jump(       {.id = 36, .caption = "DCU", .group = "Unit", .cmd = {"#73510000"}}),
+    Jump(       {.id = 37, .caption = "Router/\nTally", .group = "Unit", .cmd = {"#73610000"}}),
+    Jump(       {.id = 38, .caption = "MPE", .group = "Unit", .cmd = {"#73710000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
