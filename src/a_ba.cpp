@@ -23,7 +23,6 @@ constexpr int PUSHED_MS = 150;
 
 constexpr uint32_t PAGE_ERRORS = 0x74110000;
 constexpr uint32_t PAGE_ERRORS_GONE = 0x74120000;
-constexpr uint32_t PAGE_WALK = 0x99970000; // starts the walk through all pages
 constexpr uint32_t PAGE_TIMELINE = 0x61110000;
 
 } // namespace
@@ -163,6 +162,20 @@ static void create_menu_macro()
         ba_drw_menu_macro_default();
 }
 
+// The keys of the walk stand where the strip and the regions are otherwise.
+static bool ba_has_walk()
+{
+    return GL_AllPageDisplayMode || GL_NowPage == PAGE_WALK;
+}
+
+static void create_strip()
+{
+    if (ba_has_walk())
+        allpagedisp_draw();
+    else
+        KF_DrawTopArea(KF_DRAW_ANEW);
+}
+
 static int ba_create_normal(uint32_t parent)
 {
     create_frame(parent);
@@ -172,7 +185,7 @@ static int ba_create_normal(uint32_t parent)
     if (ba.SetupLock_enable)
         ba_drw_setuplock();
     ba_drw_prev();
-    KF_DrawTopArea(KF_DRAW_ANEW);
+    create_strip();
     create_menu_macro();
     return 0;
 }
@@ -181,7 +194,7 @@ static int ba_create_kf_tl(uint32_t parent)
 {
     create_frame(parent);
     ba_drw_prev();
-    KF_DrawTopArea(KF_DRAW_ANEW);
+    create_strip();
     if (ba_records_menu_macro())
         ba_drw_menu_macro();
     return 0;
@@ -192,7 +205,10 @@ static int ba_create_file(uint32_t parent)
     create_frame(parent);
     ba_drw_prev();
     PaneRegion_InitID(ba.RegionGrp);
-    ba_drw_region();
+    if (ba_has_walk())
+        allpagedisp_draw();
+    else
+        ba_drw_region();
     return 0;
 }
 
@@ -322,8 +338,12 @@ static int press_file(int x, int y)
         press_page();
     else if (ba.Default && is_step)
         return 0;
-    else if (!press_frame(x, y) && Inside(ZONE_TOP_RIGHT, x, y))
-        push(ba.Region);
+    else if (!press_frame(x, y) && Inside(ZONE_TOP_RIGHT, x, y)) {
+        if (ba_has_walk())
+            allpagedisp_select(x, y);
+        else
+            push(ba.Region);
+    }
     return 0;
 }
 
@@ -437,9 +457,21 @@ static int redraw_widgets(int elapsed_ms)
 static int redraw_with_strip(int elapsed_ms, void (*strip_action)())
 {
     redraw_widgets(elapsed_ms);
+    if (ba_has_walk()) {
+        allpagedisp_redraw(elapsed_ms);
+        return 0;
+    }
     if (run_down(ba.KF, elapsed_ms) && strip_action)
         strip_action();
     KF_DrawTopArea(ba.KF.pushed);
+    return 0;
+}
+
+static int redraw_with_regions(int elapsed_ms)
+{
+    redraw_widgets(elapsed_ms);
+    if (ba_has_walk())
+        allpagedisp_redraw(elapsed_ms);
     return 0;
 }
 
@@ -478,7 +510,7 @@ static int ba_proc_kf_tl(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 static int ba_proc_file(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: return redraw_widgets(int(ax));
+    case MSG_REDRAW: return redraw_with_regions(int(ax));
     case MSG_PRESS: return press_file(int(ax), int(bx));
     case LMSG_PANEQUIT: return region_pane_quit(int(ax));
     case LMSG_FMCLIPCHANGE:
@@ -565,5 +597,5 @@ void BA_SetRegionGrp(int grp)
 {
     ba.RegionGrp = grp;
     PaneRegion_InitID(grp);
-    ba.Region.redraw = has_regions();
+    ba.Region.redraw = has_regions() && !ba_has_walk();
 }

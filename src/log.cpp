@@ -104,6 +104,11 @@ void Log_SetLevel(int level)
     Level = level;
 }
 
+int Log_GetLevel()
+{
+    return Level;
+}
+
 int Log_SetModule(int module, int v)
 {
     if (module < 0 || unsigned(module) > LAST_MODULE)
@@ -114,6 +119,13 @@ int Log_SetModule(int module, int v)
     else
         ModuleSw[module / 8] &= uint8_t(~bit);
     return 0;
+}
+
+int Log_GetModule(int module)
+{
+    if (module < 0 || unsigned(module) > LAST_MODULE)
+        return -1;
+    return log_module_is_on(unsigned(module)) ? 1 : 0;
 }
 
 void Log_SetAllModule(int v)

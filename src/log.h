@@ -24,8 +24,10 @@ constexpr int LOG_FILE_SIZE = 1000000; // bytes at which a log is rotated
 // Store the file name (null: none) and the rotation limit, enable all modules, write the start
 // lines.
 void Log_Init(const char* fname, int fsize);
-void Log_SetLevel(int level);         // messages below it are dropped
+void Log_SetLevel(int level); // messages below it are dropped
+int Log_GetLevel();
 int Log_SetModule(int module, int v); // -1 for a module below 0 or above 1024
+int Log_GetModule(int module);        // 1 on, 0 off, -1 as above
 void Log_SetAllModule(int v);
 // Returns 0 on a write, 1 when dropped by level or for want of a file, 2 when dropped by module, -1
 // when the file cannot be opened. A format of 4032 characters or more is replaced by a marker.

@@ -60,8 +60,7 @@ constexpr Stage stages[] = {
 static struct {
     int selfdiag_ms = 0;             // gathered since the last poll
     uint32_t event_check_before = 0; // TickBefore of MainEventCheck
-    int walk_passes = 0;             // of the walk through all pages
-    int walk_row = 0;
+    LoopFigures figures;
     bool armed[sizeof stages / sizeof *stages] = {}; // by stage
 } loop;
 
@@ -263,14 +262,49 @@ static void loop_selfdiag(int elapsed_ms)
     loop.selfdiag_ms = 0;
 }
 
+static void loop_figure_pass(int busy_ms)
+{
+    LoopFigures& f = loop.figures;
+    f.passes++;
+    f.busy_ms += uint32_t(busy_ms);
+    if (busy_ms <= f.longest_ms)
+        return;
+    f.longest_ms = busy_ms;
+    f.longest_page = GL_NowPage;
+}
+
+static void loop_figure_page(uint32_t id, int ms)
+{
+    LoopFigures& f = loop.figures;
+    f.changes++;
+    f.page = id;
+    f.page_ms = ms;
+    if (ms <= f.page_longest_ms)
+        return;
+    f.page_longest_ms = ms;
+    f.page_longest = id;
+}
+
+const LoopFigures& Loop_Figures()
+{
+    return loop.figures;
+}
+
+void Loop_ResetFigures()
+{
+    loop.figures = {.since = TickNow};
+}
+
 // The page change waits while something stands over the page.
 static void loop_page_change()
 {
     if (!GL_CreatePage || GL_ScreenSaver_Now || GetWindow() || Pane_GetActiveID())
         return;
     const uint32_t id = GL_CreatePage;
+    const uint32_t begun = SDL_GetTicks();
     // A page that cannot be resolved leaves the old one: the request is over all the same.
-    (void)CreatePage(id);
+    if (CreatePage(id) == 0)
+        loop_figure_page(id, int(SDL_GetTicks() - begun));
     // What opening the page requested in its turn stands for the next pass.
     if (GL_CreatePage == id)
         GL_CreatePage = 0;
@@ -356,20 +390,8 @@ int MainPass()
     loop_hub_reconnect();
     if (GL_AllPageDisplayMode)
         GL_AllPageSet();
+    loop_figure_pass(int(SDL_GetTicks() - TickBefore));
     return is_last;
-}
-
-// One page every GL_AllPageDisplayMsec passes, in the order of the table, for ever.
-void GL_AllPageSet()
-{
-    if (GL_ScreenSaver_Now || GetWindow() || Pane_GetActiveID())
-        return;
-    if (++loop.walk_passes < GL_AllPageDisplayMsec)
-        return;
-    loop.walk_passes = 0;
-    if (PageTable[loop.walk_row].id == PAGE_END)
-        loop.walk_row = 0;
-    GL_CreatePage = PageTable[loop.walk_row++].id;
 }
 
 void MainEventCheck()

@@ -17,8 +17,22 @@ int MainPass();
 void MainEventCheck();
 // Repaint everything that is dirty and flush the screen.
 void RefreshScreen();
-// The engineering menu's walk through all pages; called once a pass in that mode.
-void GL_AllPageSet();
+
+// --- For the engineering pages: how long passes and page changes take ---
+struct LoopFigures {
+    uint32_t since = 0;  // TickNow at the last reset
+    uint32_t passes = 0; // since then, as all that follows
+    uint32_t busy_ms = 0;
+    int longest_ms = 0;        // of the passes, without the wait for the next one
+    uint32_t longest_page = 0; // that was shown at the end of it
+    uint32_t changes = 0;      // page changes that the loop has made
+    int page_ms = 0;           // of the last of them
+    uint32_t page = 0;         // the page that it was asked for
+    int page_longest_ms = 0;
+    uint32_t page_longest = 0;
+};
+const LoopFigures& Loop_Figures();
+void Loop_ResetFigures();
 
 // --- For tests ---
 void Loop_Reset();                 // as at process start

@@ -28,6 +28,7 @@ static bool is_lost = false;       // fallen, and nobody has asked yet
 static uint32_t RBufFullSince = 0; // clock at which it had filled up, 0 while it has room
 static constexpr uint32_t FULL_BUFFER_MS = 10000;
 static char RCmd[NET_LINE_MAX];
+static uint32_t received_lines = 0;
 static char SCmd[CMD_SIZE];
 static char FCmd[CMD_SIZE];
 
@@ -225,7 +226,18 @@ char* Net_ReceiveCommand()
         return nullptr;
     }
     text_log_received();
+    received_lines++;
     return RCmd;
+}
+
+NetState Net_State(NetLink link)
+{
+    switch (link) {
+    case NET_LINK_TEXT: return net_state_of(SockFD1, SendCommandQueue, received_lines);
+    case NET_LINK_BIN: return net_bin_state();
+    case NET_LINK_HUB: return net_hub_state();
+    default: return {};
+    }
 }
 
 // --- For tests and the benchmark ---

@@ -37,6 +37,18 @@ int Net_SendCommandQueue(); // at most 33 items. Returns 0, or -1 on a send fail
 int Net_SendBinCommandQueue();
 int Net_SendSHPCommandQueue(int elapsed_ms);
 
+// --- For the engineering pages ---
+enum NetLink : int { NET_LINK_TEXT, NET_LINK_BIN, NET_LINK_HUB, NET_LINKS };
+// A link at this moment, and what went over it since the start of the process.
+struct NetState {
+    bool is_up = false;
+    int waiting = 0;       // items not yet sent
+    uint32_t connects = 0; // times that it came up
+    uint32_t sent = 0;     // whole items
+    uint32_t received = 0; // whole lines or frames
+};
+NetState Net_State(NetLink link);
+
 // --- For ReceiveCommand_Management ---
 // The next complete line without its end, or null. It has at least one character, lives until the
 // next call and may be changed.

@@ -16,6 +16,7 @@ static NetQueue BinSendCommandQueue;
 static unsigned char BBuf[8192];
 static int BBufPos = 0; // bytes in BBuf
 static unsigned char RBCmd[NET_FRAME_MAX];
+static uint32_t received_frames = 0;
 static unsigned char SBCmd[1040];
 
 static_assert(NET_FRAME_MAX == BIN_IN_LENGTH_MAX + FRAME_TRAILER);
@@ -150,7 +151,13 @@ const unsigned char* Net_ReceiveBinCommand(int* length)
     bin_hex(hex, sizeof hex, RBCmd, size, false);
     Log_Output(LOG_TRACE, MOD_LINK, "<--(%s)", hex);
     *length = size;
+    received_frames++;
     return RBCmd;
+}
+
+NetState net_bin_state()
+{
+    return net_state_of(SockFD2, BinSendCommandQueue, received_frames);
 }
 
 void Net_DropBinQueue()

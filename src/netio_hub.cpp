@@ -24,6 +24,7 @@ static NetDial hub_dial;
 static NetQueue SHPSendCommandQueue;
 static char RBuf_SHP[1024]; // always terminated
 static char RCmd_SHP[4096];
+static uint32_t received_rows = 0;
 static char SCmd_SHP[CMD_SIZE];
 static char FCmd2[CMD_SIZE];
 static int hub_back_off = 0;
@@ -204,7 +205,13 @@ char* Net_ReceiveSHPCommand()
         return nullptr;
     if (GL_ClipStoreDebugMode)
         Log_Output(LOG_TRACE, MOD_LINK, "<<==[%s]", RCmd_SHP);
+    received_rows++;
     return RCmd_SHP;
+}
+
+NetState net_hub_state()
+{
+    return net_state_of(SockFD_SHP, SHPSendCommandQueue, received_rows);
 }
 
 int Net_TakeQueuedSHP(char* text, int size)

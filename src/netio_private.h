@@ -44,6 +44,8 @@ struct NetQueue {
     ClientSendQueue_t* first = nullptr;
     ClientSendQueue_t* last = nullptr;
     int count = 0;
+    uint32_t connects = 0; // since the start of the process, as sent
+    uint32_t sent = 0;
     // What this connection has taken of a first item that did not go in one write. When the link
     // comes back the peer has no use for the second half alone, so the item is made whole again.
     int taken_length = 0;
@@ -72,6 +74,9 @@ void net_drop_open_line(char* buf, NetLineEnd is_end); // what follows the last 
 // --- The other two links ---
 void net_bin_init();
 void net_hub_init();
+NetState net_bin_state();
+NetState net_hub_state();
+NetState net_state_of(int fd, const NetQueue& queue, uint32_t received);
 bool net_is_hub_end(unsigned char c);
 constexpr int NET_FRAME_MAX = 1039 + 2; // bytes of a received frame with its trailer
 // Move the first frame of buf, which holds *fill bytes, to frame (NET_FRAME_MAX bytes). Returns its

@@ -91,6 +91,7 @@ void net_queue_remove(NetQueue* queue)
 
 void net_queue_restart(NetQueue* queue)
 {
+    queue->connects++;
     if (queue->taken_length == 0)
         return;
     // The allocation still has the whole item's size.
@@ -106,6 +107,7 @@ int net_queue_sent(NetQueue* queue, int sent, const char* who)
     ClientSendQueue_t* item = queue->first;
     if (sent >= item->length) {
         net_queue_remove(queue);
+        queue->sent++;
         return 1;
     }
     Log_Output(LOG_LINK, MOD_LINK, "%s: nsend [%d] != length [%d] on send().", who, sent,
@@ -116,6 +118,15 @@ int net_queue_sent(NetQueue* queue, int sent, const char* who)
     memmove(item->data_array, item->data_array + sent, size_t(item->length));
     item->data_array[item->length] = '\0';
     return 0;
+}
+
+NetState net_state_of(int fd, const NetQueue& queue, uint32_t received)
+{
+    return {.is_up = fd > 0,
+            .waiting = queue.count,
+            .connects = queue.connects,
+            .sent = queue.sent,
+            .received = received};
 }
 
 void net_end_line(char* line)

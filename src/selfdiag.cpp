@@ -419,11 +419,6 @@ void SelfDiag_I2C_Update(int passed_ms)
 
 void Diag_FocusTM3() {}
 
-int maintenance_info_proc(int, MsgArg, MsgArg, MsgArg, MsgArg)
-{
-    return 0;
-}
-
 void ifd_memcnt_info(const char* value)
 {
     Log_Output(LOG_LINK, MOD_GLOBAL, "Memory count: %s", value);

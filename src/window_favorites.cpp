@@ -1,6 +1,7 @@
 // The operator's own keys beside the page jump: five sets of 29, each in a file of its own.
 #include "colours.h"
 #include "global.h"
+#include "hsl.h"
 #include "log.h"
 #include "page.h"
 #include "safe_file.h"
@@ -121,22 +122,9 @@ static int write_set(int set)
 
 // --- Drawing ---
 
-static unsigned channel(double v)
-{
-    return unsigned(std::lround(255 * v));
-}
-
 static unsigned rgb(const _color_data& c)
 {
-    const double light = c.set_lum / 100;
-    const double chroma = (1 - std::fabs(2 * light - 1)) * c.set_sat / 100;
-    const double sector = c.set_hue / 60;
-    const double second = chroma * (1 - std::fabs(std::fmod(sector, 2) - 1));
-    const double dark = light - chroma / 2;
-    const double table[][3] = {{chroma, second, 0}, {second, chroma, 0}, {0, chroma, second},
-                               {0, second, chroma}, {second, 0, chroma}, {chroma, 0, second}};
-    const double* part = table[int(sector) % 6];
-    return channel(part[0] + dark) << 16 | channel(part[1] + dark) << 8 | channel(part[2] + dark);
+    return RgbOfHsl(c.set_hue, c.set_sat, c.set_lum);
 }
 
 void pagejump_draw_user_key(const WINOBJ& key)

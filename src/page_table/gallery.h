@@ -1,4 +1,4 @@
-// gallery: the engineering menu, and the pages that show each object of the application in each of its states, without
+// gallery: the pages that show each object of the application in each of its states, without
 // a server. Commands are local; page code (pc_gallery) brings the states about.
 #pragma once
 #include "a_st_draw.h"
@@ -7,22 +7,6 @@
 #include "pulldowns.h"
 #include "rows.h"
 #include "top.h"
-
-inline constexpr BT_TBL bt_engineering_menu[] = {
-    Jump(       {.id = 17, .caption = "Buttons", .group = "Object Gallery", .cmd = {"#99920000"}}),
-    Jump(       {.id = 18, .caption = "Boxes", .group = "Object Gallery", .cmd = {"#99920001"}}),
-    Jump(       {.id = 19, .caption = "Lists", .group = "Object Gallery", .cmd = {"#99920002"}}),
-    Jump(       {.id = 20, .caption = "Status\nCells", .group = "Object Gallery", .cmd = {"#99920003"}}),
-    Jump(       {.id = 21, .caption = "Tabs", .group = "Object Gallery", .cmd = {"#99920004"}}),
-    Jump(       {.id = 22, .caption = "Patterns", .group = "Object Gallery", .cmd = {"#99920005"}}),
-    Jump(       {.id = 33, .caption = "Panes", .group = "Above a Page", .cmd = {"#99920006"}}),
-    Jump(       {.id = 34, .caption = "Windows", .group = "Above a Page", .cmd = {"#99920007"}}),
-    Jump(       {.id = 36, .caption = "Screen\nSaver", .group = "Maintenance", .cmd = {"#99930000"}}),
-    Jump(       {.id = 37, .caption = "Diag", .group = "Maintenance", .cmd = {"#74110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_engineering_menu));
 
 constexpr BT_TBL ToEngineeringMenu()
 {
@@ -283,9 +267,6 @@ inline constexpr KP_TBL kp_gallery[] = {
 };
 
 inline constexpr PAGE gallery_pages[] = {
-    {.id = 0x99910000, .tree = {"Maintenance", "Engineering"}, .obj = {Base(base_main), Buttons(bt_engineering_menu)}},
-    // The same for installations of the first generation, whose requests lead here.
-    {.id = 0x99911000, .tree = {"Maintenance", "Engineering"}, .obj = {Base(base_main), Buttons(bt_engineering_menu)}},
     {.id = 0x99920000, .tree = {"Maintenance", "Gallery", "Buttons"},
      .obj = {Base(base_main), BottomTabs(hf_gallery, 1), Buttons(bt_gallery_buttons), Boxes(NB_Non), Code(pc_gallery_buttons)}},
     {.id = 0x99920001, .tree = {"Maintenance", "Gallery", "Boxes"},

@@ -14,6 +14,7 @@
 #include "file_idcopy.h"
 #include "file_tops.h"
 #include "file_xport.h"
+#include "engineering.h"
 #include "fm.h"
 #include "fmem_clip.h"
 #include "fmem_store.h"
@@ -118,7 +119,8 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 file_fieldinvert_pages,
                 file_xport_pages,
                 saver_pages,
-                gallery_pages);
+                gallery_pages,
+                engineering_pages);
 }
 
 static constexpr size_t page_rows = WithGroups([](const auto&... rows) { return (std::size(rows) + ...); }) + 1; // the end

@@ -1,0 +1,266 @@
+// The engineering pages: what their switches change, and what they show of the state.
+#include "a_bt.h"
+#include "a_ls.h"
+#include "a_nb.h"
+#include "a_st_draw.h"
+#include "debug.h"
+#include "device.h"
+#include "hsl.h"
+#include "log.h"
+#include "loop.h"
+#include "netio.h"
+#include "pane.h"
+#include "pc_eng.h"
+#include "selfdiag.h"
+#include "table_page.h"
+#include "text.h"
+#include <set>
+
+namespace
+{
+struct Engineering : TablePage {
+    static constexpr const char* LOG = "/var/log2/eng_test.log";
+
+    void TearDown() override
+    {
+        GL_AllPageDisplayMode = 0;
+        GL_LogFileName[0] = '\0';
+        Log_Init(nullptr, LOG_FILE_SIZE);
+        Log_SetLevel(0);
+        TablePage::TearDown();
+    }
+    static void Press(int id)
+    {
+        const BT_MEM* b = bt_find(id);
+        ASSERT_NE(b, nullptr) << id;
+        (void)Touch(b->x1 + 5, b->y1 + 5);
+        Pass(200);
+        Pass(10);
+    }
+    static Strings Column(int list, int column)
+    {
+        Strings cells;
+        for (int row = 0; row < LS_GetNData(list); row++)
+            cells.push_back(LS_GetData(list, row, column));
+        return cells;
+    }
+};
+} // namespace
+
+TEST_F(Engineering, TheSwitchesDecideWhatIsLogged)
+{
+    remove(LOG);
+    Log_Init(LOG, LOG_FILE_SIZE);
+    Log_SetLevel(0);
+    Open(0x99995555);
+    EXPECT_EQ(BT_GetOnOff(1), 1) << "level 0 is lit";
+    EXPECT_EQ(BT_GetOnOff(20), 1) << "and every module";
+    Press(5); // level 5
+    EXPECT_EQ(Log_Output(LOG_LINK, MOD_LINK, "quiet"), 1);
+    EXPECT_EQ(Log_Output(LOG_LIFE, MOD_LINK, "loud"), 0);
+    EXPECT_EQ(BT_GetOnOff(1), 0);
+    EXPECT_EQ(BT_GetOnOff(5), 1);
+    Press(20); // links
+    EXPECT_EQ(Log_Output(LOG_LIFE, MOD_LINK, "of the links"), 2);
+    EXPECT_EQ(Log_Output(LOG_LIFE, MOD_PAGE, "of the pages"), 0);
+    Press(22); // all modules
+    EXPECT_EQ(Log_Output(LOG_LIFE, MOD_LINK, "again"), 0);
+    Press(34);
+    EXPECT_EQ(GL_LoopCounter, 1);
+    Press(34);
+    EXPECT_EQ(GL_LoopCounter, 0);
+    const std::string log = FileText(LOG);
+    EXPECT_EQ(log.find("quiet"), std::string::npos);
+    EXPECT_EQ(log.find("of the links"), std::string::npos);
+    EXPECT_NE(log.find("again"), std::string::npos);
+}
+
+TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
+{
+    // What a page of these asks for becomes another one as long as nothing is being edited.
+    const std::set<uint32_t> guarded = {0x71420002, 0x71420003, 0x71440002};
+    std::set<uint32_t> left, seen;
+    for (const PAGE* row = PageTable; row->id != PAGE_END; row++)
+        if (SearchPageTable_Free_ALL(PageTable, row->id) && !guarded.contains(row->id))
+            left.insert(row->id);
+    const size_t rows = left.size();
+    Open(PAGE_WALK);
+    Press(17); // 10 passes a page
+    EXPECT_EQ(GL_AllPageDisplayMsec, 10);
+    GL_AllPageDisplayMsec = 1;
+    Press(33); // once
+    Press(49); // start
+    EXPECT_EQ(GL_AllPageDisplayMode, 1);
+    for (int pass = 0; GL_AllPageDisplayMode && pass < 4 * PageTable_Rows; pass++) {
+        MainPass();
+        seen.insert(GL_NowPage);
+        left.erase(GL_NowPage);
+        while (const int pane = Pane_GetActiveID()) // a page's own question
+            Pane_Quit(pane);
+        (void)TakeQueuedCommands();
+    }
+    EXPECT_EQ(GL_AllPageDisplayMode, 0) << "it has not ended";
+    EXPECT_TRUE(left.empty()) << std::hex << *left.begin() << " and " << left.size() << " rows";
+    EXPECT_GE(seen.size(), rows);
+    MainPass();
+    EXPECT_EQ(GL_NowPage, PAGE_WALK);
+    Open(0x99970001);
+    EXPECT_GE(LS_GetNData(ENG_LIST), int(rows)) << "each has its figures";
+}
+
+TEST_F(Engineering, TheKeysOfTheWalkHoldItAndStepBothWays)
+{
+    const auto press_strip = [](int key) {
+        (void)Touch(508 + 6 + 64 * key + 20, 20);
+        for (int pass = 0; pass < 20; pass++)
+            MainPass();
+    };
+    enum { STOP, PREV, RUN, NEXT };
+    Open(PAGE_WALK);
+    GL_AllPageDisplayMsec = 1000;
+    press_strip(RUN);
+    EXPECT_EQ(GL_NowPage, PageTable[0].id);
+    press_strip(NEXT);
+    press_strip(NEXT);
+    EXPECT_EQ(GL_NowPage, PageTable[2].id);
+    press_strip(PREV);
+    EXPECT_EQ(GL_NowPage, PageTable[1].id);
+    GL_AllPageDisplayMsec = 1;
+    for (int pass = 0; pass < 50; pass++)
+        MainPass();
+    EXPECT_EQ(GL_NowPage, PageTable[1].id) << "a step by hand holds it";
+    press_strip(RUN);
+    EXPECT_NE(GL_NowPage, PageTable[1].id);
+    press_strip(STOP);
+    EXPECT_EQ(GL_AllPageDisplayMode, 0);
+    EXPECT_EQ(GL_NowPage, PAGE_WALK);
+}
+
+TEST(Hsl, BecomesRedGreenAndBlue)
+{
+    static const struct {
+        double hue, saturation, luminance;
+        unsigned rgb;
+    } cases[] = {
+        {0, 100, 50, 0xFF0000},         {60, 100, 50, 0xFFFF00},   {120, 100, 50, 0x00FF00},
+        {240, 100, 50, 0x0000FF},       {300, 100, 25, 0x800080},  {0, 0, 50, 0x808080},
+        {210, 50, 40, 0x336699},        {0, 100, 100, 0xFFFFFF},   {200, 100, 0, 0x000000},
+        {360, 100, 50, 0xFF0000},       {-120, 100, 50, 0x0000FF}, {0, 900, 50, 0xFF0000},
+        {double(NAN), 0, 50, 0x808080}, {1e300, 0, 200, 0xFFFFFF},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(RgbOfHsl(c.hue, c.saturation, c.luminance), c.rgb)
+            << c.hue << " " << c.saturation << " " << c.luminance;
+}
+
+TEST_F(Engineering, TheCheckerSetsTheGroundOfTheCellsAndBringsItBack)
+{
+    const unsigned usual = st_ground(1);
+    Open(0x77770000);
+    Press(35); // red
+    EXPECT_EQ(st_ground(1), 0x800000u);
+    EXPECT_EQ(NB_SendValue2(2, 300), 0); // green, beyond its end
+    EXPECT_EQ(st_ground(1), 0x80FF00u);
+    Pass(10);
+    EXPECT_EQ(PixelAt(150, 158), 0x80FF00u) << "in a cell";
+    Press(38); // default
+    EXPECT_EQ(st_ground(1), usual);
+    Open(PAGE_TOP);
+    EXPECT_EQ(bgcen, 0) << "only the page itself lights cells";
+}
+
+TEST_F(Engineering, ReportsAreKeptWhateverPageIsShown)
+{
+    Open(PAGE_TOP);
+    (void)Tell("Info@Status Report#true");
+    (void)Tell("Info@Status Report@SWR1#NG Fan 2");
+    (void)Tell("Info@Status Report#Server restarted");
+    (void)Tell("Info@Status Reports@SWR9#none of them");
+    Open(0x99980000);
+    EXPECT_THAT(Column(1, 1), ElementsAre("Server", "SWR1"));
+    EXPECT_THAT(Column(1, 2), ElementsAre("Server restarted", "NG Fan 2"));
+    EXPECT_EQ(LS_GetStatus(1, 1, 2), 2) << "an error is red";
+    for (int n = 0; n < 205; n++)
+        (void)Tell("Info@Status Report@DME1#" + std::to_string(n));
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 200);
+    EXPECT_STREQ(LS_GetData(1, 0, 2), "204");
+    EXPECT_STREQ(LS_GetData(1, 199, 2), "5");
+    Press(49); // clear
+    EXPECT_EQ(LS_GetNData(1), 0);
+}
+
+TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
+{
+    CopyText(GL_LogFileName, LOG);
+    FILE* fp = fopen(LOG, "w");
+    ASSERT_NE(fp, nullptr);
+    for (int n = 0; n < 5000; n++)
+        fprintf(fp, "[Mar 05 07:08:09][ 16] line %d of the pages, to fill the file\n", n);
+    fputs("M/E-1@Key1@Type#Luminance\n[Mar 05 07:08:10][ 15] the link [text]\n[cut", fp);
+    fclose(fp);
+    Open(0x99930003);
+    EXPECT_EQ(LS_GetNData(1), 1000) << "no more than the list takes";
+    EXPECT_STREQ(LS_GetData(1, 0, 2), "[cut");
+    EXPECT_STREQ(LS_GetData(1, 1, 0), "Mar 05 07:08:10");
+    EXPECT_STREQ(LS_GetData(1, 1, 1), "15");
+    EXPECT_STREQ(LS_GetData(1, 1, 2), "the link [text]");
+    EXPECT_STREQ(LS_GetData(1, 2, 2), "M/E-1@Key1@Type#Luminance");
+    EXPECT_STREQ(LS_GetData(1, 3, 2), "line 4999 of the pages, to fill the file");
+    Press(37); // links
+    EXPECT_THAT(Column(1, 2), ElementsAre("the link [text]"));
+    fp = fopen(LOG, "a");
+    ASSERT_NE(fp, nullptr);
+    fputs("\n[Mar 05 07:08:11][ 15] one more\n", fp);
+    fclose(fp);
+    Pass(600);
+    EXPECT_THAT(Column(1, 2), ElementsAre("one more", "the link [text]")) << "it follows";
+    Press(36); // all
+    remove(LOG);
+    Pass(600);
+    EXPECT_EQ(LS_GetNData(1), 0);
+}
+
+TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
+{
+    GL_ClipStoreSupportMode = 0;
+    CopyText(GL_ServerAddress, "127.0.0.1");
+    Peer server(NET_TEXT_PORT);
+    Net_Init();
+    ASSERT_TRUE(server.Accept());
+    MainPass();
+    Open(0x99990000);
+    EXPECT_STREQ(LS_GetData(1, 0, 2), "Up");
+    EXPECT_STREQ(LS_GetData(1, 1, 2), "Down");
+    EXPECT_STREQ(LS_GetData(1, 2, 2), "Not used");
+    EXPECT_STREQ(LS_GetData(1, 0, 7), "waiting");
+    Press(50); // repeat
+    for (int pass = 0; pass < 4; pass++)
+        MainPass();
+    EXPECT_THAT(server.Lines(), Contains("read Engineering Setup@System@Format@4K Mode"));
+    (void)Tell("Engineering Setup@System@Format@4K Mode#Off");
+    MainPass();
+    EXPECT_THAT(LS_GetData(1, 0, 7), testing::EndsWith(" ms"));
+    Press(50);
+    Press(49); // ping; nobody answers
+    for (int pass = 0; pass < 400; pass++)
+        MainPass();
+    EXPECT_STREQ(LS_GetData(1, 0, 7), "none");
+    server.Drop();
+    server.StopListening();
+    Net_Init();
+}
+
+TEST_F(Engineering, BoardsOfUnitsThatAreThereAreListed)
+{
+    Open(0x99910001);
+    EXPECT_STREQ(LS_GetData(1, 0, 1), "--");
+    CopyText(DEV_Swr[0].name, "SWR1");
+    SYS_SwrMax = 1;
+    CopyText(GL_CircuitBoard[0][0], "MIX-12");
+    CopyText(GL_CircuitBoard[1][0], "MIX-13"); // of a unit that has gone
+    Pass(600);
+    EXPECT_STREQ(LS_GetData(1, 0, 1), "MIX-12");
+    EXPECT_STREQ(LS_GetData(1, 0, 2), "--");
+    EXPECT_STREQ(LS_GetData(1, 1, 1), "--") << "nothing told";
+}
