@@ -61,7 +61,7 @@ static void take_switch(bool is_on)
 
 int maintenance_info_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
-    if (msg != MSG_TALLY || !BeginsWith(Text(ax), PATH))
+    if (msg != MSG_TALLY || !ax || !bx || !BeginsWith(Text(ax), PATH))
         return 0;
     const char* const unit = Text(ax) + sizeof PATH - 1;
     const char* const value = Text(bx);

@@ -1,0 +1,27 @@
+// The engineering pages that are judged by eye.
+#include "device.h"
+#include "harness.h"
+#include "page.h"
+
+namespace
+{
+struct EngineeringPicture : testing::Test {
+    void SetUp() override { Harness_Reset(); }
+    void TearDown() override { Harness_Reset(); }
+};
+} // namespace
+
+TEST_F(EngineeringPicture, TheMenuLeadsToAllThatThereIs)
+{
+    DEV_Swr[0].type = DEVTYPE_KTR40GSF; // the first generation has a smaller one
+    DEV_MySwr[0] = &DEV_Swr[0];
+    SYS_MySwrMax = 1;
+    ASSERT_EQ(CreatePage(0x99910000), 0);
+    EXPECT_TRUE(MatchesGolden("engineering_menu"));
+}
+
+TEST_F(EngineeringPicture, AFontChartHasEveryGlyphWithItsCode)
+{
+    ASSERT_EQ(CreatePage(0x99960005), 0);
+    EXPECT_TRUE(MatchesGolden("engineering_fonts"));
+}
