@@ -49,6 +49,12 @@ static void act_set(const Hit& hit)
     Tree_Show(hit.target, hit.value);
 }
 
+static void act_set_all(const Hit& hit)
+{
+    for (const Node* node : Tree_Under(hit.target))
+        Tree_Show(node->path, hit.value);
+}
+
 static void act_default(const Hit& hit)
 {
     for (Node* node : Tree_Under(hit.target))
@@ -107,6 +113,29 @@ static void act_swap(const Hit& hit)
         Tree_Show(hit.value + tail, value);
     for (const auto& [tail, value] : other)
         Tree_Show(hit.target + tail, value);
+}
+
+// What each user likes is what the panel and the menu are set to.
+static std::string user_setting()
+{
+    const Node* const user = Tree_Get("Misc@User@User");
+    return "User " + (user ? user->value : "");
+}
+
+static void act_store_user(const Hit&)
+{
+    PathValues& setting = rl.kept[user_setting()];
+    setting.clear();
+    for (const Node* node : Tree_Under("Misc"))
+        if (node->type.kind != KIND_ACTION && node->path != "Misc@User@User" &&
+            (Text_Begins(node->path, "Misc@Panel@") || Text_Begins(node->path, "Misc@User@")))
+            setting.emplace_back(node->path, node->value);
+}
+
+static void act_recall_user(const Hit&)
+{
+    for (const auto& [path, value] : rl.kept[user_setting()])
+        Tree_Show(path, value);
 }
 
 static void act_undo_copy(const Hit& hit)
@@ -386,6 +415,12 @@ static constexpr Rule rules[] = {
     {"Color Bkgd@Copy 1 to 2", "true", act_copy, "Color Bkgd@Bkgd 2", "Color Bkgd@Bkgd 1"},
     {"Color Bkgd@Copy 2 to 1", "true", act_copy, "Color Bkgd@Bkgd 1", "Color Bkgd@Bkgd 2"},
     {"Color Bkgd@Swap", "true", act_swap, "Color Bkgd@Bkgd 1", "Color Bkgd@Bkgd 2"},
+    {"Misc@Port@Enable All", "true", act_set_all, "Misc@Port@Enable Port", "true"},
+    {"Misc@Port@Enable All", "true", act_set_all, "Misc@Port@Enable GPI", "true"},
+    {"Misc@Port@Disable All", "true", act_set_all, "Misc@Port@Enable Port", "false"},
+    {"Misc@Port@Disable All", "true", act_set_all, "Misc@Port@Enable GPI", "false"},
+    {"Misc@User@Store", "true", act_store_user, "", ""},
+    {"Misc@User@Recall", "true", act_recall_user, "", ""},
     {"Copy/Swap@*@Undo", "true", act_undo_copy, "", ""},
     // The first channel of a group has none before it: it is combined when the second joins it.
     {"Global Effect@*@Combine@Ch2", "", act_follow, "^@Ch1", ""},

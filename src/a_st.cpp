@@ -248,7 +248,7 @@ static void fill_cell(ST_MEM& c, const ST_TBL& row)
         c.cmd_hash[i] = c.cmd[i][0] ? Hash(c.cmd[i]) : NO_HASH;
         c.tally[i][0] = '\0';
     }
-    c.jamp_id = target_of(row.jamp_id_base);
+    c.jamp_id = row.page ? row.page : target_of(row.jamp_id_base);
     // With the switcher up the borders stand at once; otherwise the first tally brings them.
     c.redraw = GL_ProcStatus[1] != 0;
 }

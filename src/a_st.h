@@ -24,6 +24,7 @@ struct ST_TBL {
     int (*draw_func)(ST_MEM*) = nullptr;
     const char* cmd[ST_COMMANDS] = {}; // path templates; a painter knows its tallies by their index
     uint32_t jamp_id_base = 0;         // the page for M/E-1, Key1; 0 none
+    uint32_t page = 0;                 // a page as it stands, in the place of that one
 };
 constexpr ST_TBL ST_END = {.id = -1};
 

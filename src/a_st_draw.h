@@ -183,6 +183,10 @@ int st_drw_status_dme_status_list(ST_MEM*);
 int st_drw_dmestatus_rect(int x1, int y1, int x2, int y2, const char* title);
 int st_drw_dmestatus_value(int x, int y, int width, const char* label, const char* value);
 
+// --- The overviews of the banks: a_st_status ---
+int st_drw_status_bank(ST_MEM*);
+int st_drw_status_rates(ST_MEM*);
+
 // --- The developer's page: a_st_test ---
 int st_drw_status_dummy(ST_MEM*); // paints nothing
 int st_drw_status_string_type(ST_MEM*);

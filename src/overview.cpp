@@ -24,11 +24,11 @@ static struct {
 
 static void path_of(char (&path)[CMD_SIZE], const char* pattern, const OVERVIEWITEM& item)
 {
-    const char* const at = strchr(pattern, '$');
-    if (at)
-        PrintText(path, "%.*s%s%s", int(at - pattern), pattern, item.path, at + 1);
-    else
-        CopyText(path, pattern);
+    path[0] = '\0';
+    for (; *pattern; pattern++) {
+        const char letter[] = {*pattern, '\0'};
+        AppendText(path, *pattern == '$' ? item.path : *pattern == '%' ? item.group : letter);
+    }
 }
 
 static int columns_of(const OVERVIEW& t)
@@ -94,6 +94,7 @@ int Overview_Tally(const OVERVIEW& t, const char* path, const char* value, uint3
             if (!Same(own, path))
                 continue;
             CopyText(cell.text, shown_as(t.columns[n].words, value));
+            std::replace(std::begin(cell.text), std::end(cell.text), '@', ' '); // of a path
             for (int list = 1; list <= t.lists; list++)
                 LS_RedrawData(list);
             return 1;
@@ -111,7 +112,19 @@ const OVERVIEWITEM* Overview_Item(int row)
     return row >= 0 && row < ov.count ? &ov.item[row] : nullptr;
 }
 
-// --- Keys ---
+// --- Items ---
+
+OVERVIEWITEM* Overview_Add(OVERVIEWITEMS& items, const char* name, const char* format, ...)
+{
+    static OVERVIEWITEM nowhere;
+    OVERVIEWITEM& item = items.count < items.max ? items.item[items.count++] : nowhere;
+    CopyText(item.name, name);
+    va_list args;
+    va_start(args, format);
+    (void)vsnprintf(item.path, sizeof item.path, format, args);
+    va_end(args);
+    return &item;
+}
 
 static constexpr int SIDE_KEYS = 4; // keys 5 to 8 live on the sub side
 

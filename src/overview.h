@@ -16,12 +16,13 @@ constexpr int OVERVIEW_TEXT = 24;   // of a cell with its terminator
 
 struct OVERVIEWITEM {
     char name[OVERVIEW_TEXT] = "";
-    char path[48] = ""; // "M/E-1@Key1": what stands for "$"
-    uint32_t page = 0;  // where it is adjusted, 0 nowhere
+    char path[48] = "";  // "M/E-1@Key1": what stands for "$"
+    char group[16] = ""; // and for "%"
+    uint32_t page = 0;   // where it is adjusted, 0 nowhere
 };
 
 struct OVERVIEWCOLUMN {
-    const char* path = nullptr;       // "$" is the item's
+    const char* path = nullptr;       // "$" and "%" are the item's
     const ONEOFWORD* words = nullptr; // as of one_of
 };
 
@@ -41,6 +42,14 @@ int Overview_Count();
 const OVERVIEWITEM* Overview_Item(int row); // null for what is not there
 
 // --- For the items of a page ---
+struct OVERVIEWITEMS {
+    OVERVIEWITEM* item;
+    int max;
+    int count = 0;
+};
+// One more; never null, but what exceeds the room is in vain.
+__attribute__((format(printf, 3, 4))) OVERVIEWITEM*
+Overview_Add(OVERVIEWITEMS& items, const char* name, const char* format, ...);
 int Overview_Keys(const MeBank& bank);                                 // 4 or 8
 const char* Overview_KeyWord(const MeBank& bank, int key);             // "Key1", "DSK1"; key from 0
 uint32_t Overview_KeyPage(const MeBank& bank, int key, uint32_t page); // page: of M/E-1, Key1

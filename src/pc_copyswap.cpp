@@ -158,43 +158,22 @@ static constexpr PC_TBL code_of = {.proc_func = proc_of<page>, .create_func = cr
 
 // --- The things of each page ---
 
-namespace
-{
-struct Items {
-    OVERVIEWITEM* item;
-    int max;
-    int count = 0;
-};
-} // namespace
-
-__attribute__((format(printf, 3, 4))) static void add(Items& items, const char* name,
-                                                      const char* format, ...)
-{
-    if (items.count >= items.max)
-        return;
-    OVERVIEWITEM& item = items.item[items.count++];
-    CopyText(item.name, name);
-    va_list args;
-    va_start(args, format);
-    (void)vsnprintf(item.path, sizeof item.path, format, args);
-    va_end(args);
-}
-
 static int me_items(OVERVIEWITEM* item, int max)
 {
-    Items items{item, max};
-    Overview_ForEachBank([&](const MeBank& bank) { add(items, bank.word, "%s", bank.caption); });
+    OVERVIEWITEMS items{item, max};
+    Overview_ForEachBank(
+        [&](const MeBank& bank) { (void)Overview_Add(items, bank.word, "%s", bank.caption); });
     return items.count;
 }
 
 static int key_items(OVERVIEWITEM* item, int max)
 {
-    Items items{item, max};
+    OVERVIEWITEMS items{item, max};
     Overview_ForEachBank([&](const MeBank& bank) {
         for (int key = 0; key < Overview_Keys(bank); key++) {
             char name[OVERVIEW_TEXT];
             PrintText(name, "%s %s", bank.word, Overview_KeyWord(bank, key));
-            add(items, name, "%s@%s", bank.caption, Overview_KeyWord(bank, key));
+            (void)Overview_Add(items, name, "%s@%s", bank.caption, Overview_KeyWord(bank, key));
         }
     });
     return items.count;
@@ -203,14 +182,14 @@ static int key_items(OVERVIEWITEM* item, int max)
 // A sub side has a wipe of its own.
 static int wipes(OVERVIEWITEM* item, int max, const char* group)
 {
-    Items items{item, max};
+    OVERVIEWITEMS items{item, max};
     Overview_ForEachBank([&](const MeBank& bank) {
-        add(items, bank.word, "%s@%s", bank.caption, group);
+        (void)Overview_Add(items, bank.word, "%s@%s", bank.caption, group);
         if (!isMP2SettingME(bank.main << 24))
             return;
         char name[OVERVIEW_TEXT];
         PrintText(name, "%s Sub", bank.word);
-        add(items, name, "%s SUB@%s", bank.caption, group);
+        (void)Overview_Add(items, name, "%s SUB@%s", bank.caption, group);
     });
     return items.count;
 }
@@ -225,34 +204,34 @@ static int dmewipe_items(OVERVIEWITEM* item, int max)
     return wipes(item, max, "DME Wipe");
 }
 
-static void add_backgrounds(Items& items)
+static void add_backgrounds(OVERVIEWITEMS& items)
 {
-    add(items, "Bkgd 1", "Color Bkgd@Bkgd 1");
-    add(items, "Bkgd 2", "Color Bkgd@Bkgd 2");
+    (void)Overview_Add(items, "Bkgd 1", "Color Bkgd@Bkgd 1");
+    (void)Overview_Add(items, "Bkgd 2", "Color Bkgd@Bkgd 2");
 }
 
-static void add_mattes_of_keys(Items& items, const MeBank& bank)
+static void add_mattes_of_keys(OVERVIEWITEMS& items, const MeBank& bank)
 {
     for (int key = 0; key < Overview_Keys(bank); key++) {
         const char* const word = Overview_KeyWord(bank, key);
         char name[OVERVIEW_TEXT];
         PrintText(name, "%s %s Fill", bank.word, word);
-        add(items, name, "%s@%s@Type@Matte Adjust", bank.caption, word);
+        (void)Overview_Add(items, name, "%s@%s@Type@Matte Adjust", bank.caption, word);
         PrintText(name, "%s %s Edge", bank.word, word);
-        add(items, name, "%s@%s@Edge@Matte Adjust", bank.caption, word);
+        (void)Overview_Add(items, name, "%s@%s@Edge@Matte Adjust", bank.caption, word);
     }
 }
 
 static int matte_items(OVERVIEWITEM* item, int max)
 {
-    Items items{item, max};
+    OVERVIEWITEMS items{item, max};
     add_backgrounds(items);
     Overview_ForEachBank([&](const MeBank& bank) {
         char name[OVERVIEW_TEXT];
         PrintText(name, "%s Wipe Edge", bank.word);
-        add(items, name, "%s@Wipe@Edge/Direction@Matte Adjust", bank.caption);
+        (void)Overview_Add(items, name, "%s@Wipe@Edge/Direction@Matte Adjust", bank.caption);
         PrintText(name, "%s Color Mix", bank.word);
-        add(items, name, "%s@Misc@Transition@Color Matte", bank.caption);
+        (void)Overview_Add(items, name, "%s@Misc@Transition@Color Matte", bank.caption);
         add_mattes_of_keys(items, bank);
     });
     return items.count;
@@ -260,7 +239,7 @@ static int matte_items(OVERVIEWITEM* item, int max)
 
 static int bkgd_items(OVERVIEWITEM* item, int max)
 {
-    Items items{item, max};
+    OVERVIEWITEMS items{item, max};
     add_backgrounds(items);
     return items.count;
 }
@@ -268,12 +247,12 @@ static int bkgd_items(OVERVIEWITEM* item, int max)
 static int channel_items(OVERVIEWITEM* item, int max)
 {
     constexpr int CHANNELS_OF_UNIT = 4;
-    Items items{item, max};
+    OVERVIEWITEMS items{item, max};
     const int units = SYS_MyDme2 >= 0 ? 2 : 1;
     for (int n = 1; n <= units * CHANNELS_OF_UNIT; n++) {
         char name[OVERVIEW_TEXT];
         PrintText(name, "DME%d", n);
-        add(items, name, "%d", n);
+        (void)Overview_Add(items, name, "%d", n);
     }
     return items.count;
 }

@@ -36,6 +36,7 @@
 #include "me_misc.h"
 #include "me_top.h"
 #include "me_wipe.h"
+#include "misc.h"
 #include "nb_dme.h" // like the next five: of the numbered knob links; a name used twice ends the build here
 #include "nb_edge.h"
 #include "nb_global.h"
@@ -43,7 +44,6 @@
 #include "nb_nonlinear.h"
 #include "nb_wipe.h"
 #include "menu_macro_pages.h"
-#include "operation.h"
 #include "saver.h"
 #include "setup_panel.h"
 #include "setup_router.h"
@@ -52,6 +52,7 @@
 #include "setup_system.h"
 #include "shotbox_pages.h"
 #include "snapshot_pages.h"
+#include "status.h"
 #include "system.h"
 #include "top.h"
 
@@ -85,7 +86,8 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 ccr_top_pages,
                 ccr_pages,
                 copyswap_pages,
-                operation_pages,
+                misc_pages,
+                status_pages,
                 dme_pages,
                 global_effect_pages,
                 global_effect_rows,

@@ -18,6 +18,9 @@ class MeTest(StoreTest):
     values = """\
 M/E-1@Wipe@Main Pattern@Pattern\tnum\t1\t304\t0
 M/E-1@Wipe@Edge@Soft@Soft\tnum\t0\t100\t2
+Misc@User@Store\taction
+Misc@User@Recall\taction
+Copy/Swap@Key@Undo\taction
 """
 
 
@@ -107,6 +110,21 @@ class Rules(MeTest):
                          sorted([kind + "#Linear", clip + "#33.00", late + "#"]))
         self.put(clip, "50.00")
         self.assertNotIn(clip + "#33.00", self.put(fill, "CAM7"))
+
+
+class Misc(MeTest):
+    def test_a_user_gets_back_what_he_has_stored(self):
+        click, user = "Misc@Panel@Key Click", "Misc@User@User"
+        gpi = "Misc@Port@Enable GPI@DCU"
+        self.follow(click, gpi)
+        self.put(click, "true")
+        self.put("Misc@User@Store", "true")
+        self.assertEqual(self.put(click, "false"), [f"{click}#false"])
+        self.put(user, "2")
+        self.assertEqual(self.put("Misc@User@Recall", "true"), [], "nothing is stored for this one")
+        self.put(user, "1")
+        self.assertEqual(self.put("Misc@User@Recall", "true"), [f"{click}#true"])
+        self.assertEqual(self.put("Misc@Port@Disable All", "true"), [f"{gpi}#false"])
 
 
 class Copies(MeTest):

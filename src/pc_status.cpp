@@ -1,0 +1,201 @@
+#include "pc_status.h"
+#include "a_ls.h"
+#include "device.h"
+#include "message.h"
+#include "overview.h"
+#include "page.h"
+#include "pc_aux_mon.h"
+#include "tally_value.h"
+#include "text.h"
+#include <algorithm>
+#include <iterator>
+#include "safeguards.h"
+
+static constexpr int LIST = 1;
+
+static void open_page_of_row(const char* offset)
+{
+    const OVERVIEWITEM* const item = Overview_Item(LS_GetNowLine(LIST));
+    if (item && item->page)
+        GL_CreatePage = item->page + Hex(offset);
+}
+
+static int create(const OVERVIEW& t, int on)
+{
+    on ? Overview_Open(t) : Overview_Close(t);
+    return !on;
+}
+
+static int proc(const OVERVIEW& t, int msg, MsgArg ax, MsgArg bx, MsgArg cx)
+{
+    if (msg == MSG_TALLY)
+        (void)Overview_Tally(t, Text(ax), Text(bx), uint32_t(cx));
+    else if (msg == LMSG_BTNSEL && Same(Text(ax), "LOCAL@Status@Open"))
+        open_page_of_row(Text(bx));
+    return 0;
+}
+
+template <const OVERVIEW& table> static int create_of(int on, uint32_t)
+{
+    return create(table, on);
+}
+template <const OVERVIEW& table>
+static int proc_of(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+{
+    return proc(table, msg, ax, bx, cx);
+}
+template <const OVERVIEW& table>
+static constexpr PC_TBL code_of = {.proc_func = proc_of<table>, .create_func = create_of<table>};
+
+// --- Rows ---
+
+static int key_items(OVERVIEWITEM* item, int max)
+{
+    constexpr uint32_t PAGE_KEY = 0x11100000;
+    OVERVIEWITEMS items{item, max};
+    Overview_ForEachBank([&](const MeBank& bank) {
+        for (int key = 0; key < Overview_Keys(bank); key++) {
+            const char* const word = Overview_KeyWord(bank, key);
+            char name[OVERVIEW_TEXT];
+            PrintText(name, "%s %s", bank.word, word);
+            Overview_Add(items, name, "%s@%s", bank.caption, word)->page =
+                Overview_KeyPage(bank, key, PAGE_KEY);
+        }
+    });
+    return items.count;
+}
+
+static int bank_items(OVERVIEWITEM* item, int max)
+{
+    OVERVIEWITEMS items{item, max};
+    Overview_ForEachBank([&](const MeBank& bank) {
+        Overview_Add(items, bank.word, "%s", bank.caption)->page = bank.main << 24;
+        if (!isMP2SettingME(bank.main << 24))
+            return;
+        char name[OVERVIEW_TEXT];
+        PrintText(name, "%s Sub", bank.word);
+        Overview_Add(items, name, "%s SUB", bank.caption)->page = (bank.main << 24) + TO_SUB_BANK;
+    });
+    return items.count;
+}
+
+static int numbered(OVERVIEWITEM* item, int max, const char* word, int count, uint32_t page)
+{
+    OVERVIEWITEMS items{item, max};
+    for (int n = 1; n <= count; n++) {
+        char name[OVERVIEW_TEXT];
+        PrintText(name, "%s %d", word, n);
+        Overview_Add(items, name, "%s", name)->page = page;
+    }
+    return items.count;
+}
+
+static int aux_items(OVERVIEWITEM* item, int max)
+{
+    return numbered(item, max, "Aux", AUX_BUSES, 0x23110000);
+}
+
+static int monitor_items(OVERVIEWITEM* item, int max)
+{
+    return numbered(item, max, "Mon", MONITORS, 0x23210000);
+}
+
+// Each unit has four channels, which are combined among themselves.
+static int effect_items(OVERVIEWITEM* item, int max)
+{
+    constexpr int OF_UNIT = 4;
+    OVERVIEWITEMS items{item, max};
+    for (int n = 1; n <= (SYS_MyDme2 >= 0 ? 2 : 1) * OF_UNIT; n++) {
+        char name[OVERVIEW_TEXT];
+        PrintText(name, "DME%d", n);
+        OVERVIEWITEM* const row = Overview_Add(items, name, "%d", n);
+        CopyText(row->group, n <= OF_UNIT ? "Ch1-Ch4" : "Ch5-Ch8");
+        row->page = n <= OF_UNIT ? 0x42110000 : 0x42210000;
+    }
+    return items.count;
+}
+
+static int device_items(OVERVIEWITEM* item, int max)
+{
+    OVERVIEWITEMS items{item, max};
+    const struct {
+        const DEVICE* unit;
+        int count;
+    } classes[] = {{DEV_Pnl, std::min(SYS_PnlMax, 4)},
+                   {DEV_Swr, std::min(SYS_SwrMax, 2)},
+                   {DEV_Dme, std::min(SYS_DmeMax, 4)},
+                   {DEV_Mpe, std::min(SYS_MpeMax, 4)}}; // as many as have a format of their own
+    for (const auto& c : classes)
+        for (int n = 0; n < c.count; n++)
+            Overview_Add(items, c.unit[n].name, "%s", c.unit[n].name)->page = 0x74110000;
+    return items.count;
+}
+
+// --- Columns ---
+
+static constexpr ONEOFWORD key_types[] = {{"Wipe Pattern", "Wipe Ptn"},
+                                          {"Key Wipe Pattern", "Key Wipe"},
+                                          {"Color Vector", "Color Vct"},
+                                          {}};
+static constexpr ONEOFWORD words_none[] = {{"null", ""}, {}};
+static constexpr OVERVIEWCOLUMN key_columns[] = {
+    {"$@Status@Key ON", one_of_switch},
+    {"$@Type@Key Type", key_types},
+    {"$@Status@Source Name"},
+    {"$@Type@Key Fill"},
+    {"$@Edge@Edge"},
+    {"$@Processed Key@Processed Key", one_of_switch},
+};
+static constexpr OVERVIEWCOLUMN wipe_columns[] = {
+    {"$@Misc@Transition@Transition Mode", words_none},
+    {"$@Misc@Transition@Transition Rate"},
+    {"$@Wipe@Main Pattern@Pattern"},
+    {"$@Wipe@Sub Pattern@Pattern"},
+    {"$@Wipe@Pattern Mix@Pattern Mix"},
+    {"$@DME Wipe@Pattern Select@Pattern"},
+};
+static constexpr OVERVIEWCOLUMN aux_columns[] = {
+    {"Aux/Mon@Aux Bus@$@Source"},
+    {"Aux/Mon@Aux Bus@$@Mix", one_of_switch},
+    {"Aux/Mon@Aux Bus@$@Key Link", one_of_switch},
+    {"Aux/Mon@Aux Bus@$@Inhibit", one_of_switch},
+    {"Aux/Mon@Aux Bus@$@Side Flags"},
+    {"Aux/Mon@Aux Bus@$@Aspect"},
+};
+static constexpr OVERVIEWCOLUMN monitor_columns[] = {
+    {"Aux/Mon@Monitor@$@Source"},
+    {"Aux/Mon@Monitor@$@Safe Area", one_of_switch},
+    {"Aux/Mon@Monitor@$@Center Cross", one_of_switch},
+    {"Aux/Mon@Monitor@$@4:3 Marker", one_of_switch},
+    {"Aux/Mon@Monitor@$@Show Key", one_of_switch},
+    {"Aux/Mon@Monitor@$@Mono", one_of_switch},
+};
+static constexpr OVERVIEWCOLUMN effect_columns[] = {
+    {"DME@Status@Channel@$"},
+    {"Global Effect@%@Combine@Ch$", one_of_switch},
+    {"Global Effect@%@Priority@Ch$"},
+    {"Global Effect@%@Trail@Ch$"},
+};
+static constexpr OVERVIEWCOLUMN device_columns[] = {
+    {"Engineering Setup@System@Format@Video Format@$"},
+    {"Engineering Setup@System@Format@Reference@$"},
+};
+
+#define STATUS_TABLE(of_items, of_columns)                                                         \
+    {                                                                                              \
+        .items = of_items, .columns = of_columns, .column_count = std::size(of_columns)            \
+    }
+static constexpr OVERVIEW key_table = STATUS_TABLE(key_items, key_columns);
+static constexpr OVERVIEW wipe_table = STATUS_TABLE(bank_items, wipe_columns);
+static constexpr OVERVIEW aux_table = STATUS_TABLE(aux_items, aux_columns);
+static constexpr OVERVIEW effect_table = STATUS_TABLE(effect_items, effect_columns);
+static constexpr OVERVIEW monitor_table = STATUS_TABLE(monitor_items, monitor_columns);
+static constexpr OVERVIEW device_table = STATUS_TABLE(device_items, device_columns);
+#undef STATUS_TABLE
+
+const PC_TBL pc_status_key = code_of<key_table>;
+const PC_TBL pc_status_wipe = code_of<wipe_table>;
+const PC_TBL pc_status_aux = code_of<aux_table>;
+const PC_TBL pc_status_effect = code_of<effect_table>;
+const PC_TBL pc_status_monitor = code_of<monitor_table>;
+const PC_TBL pc_status_device = code_of<device_table>;

@@ -1,0 +1,110 @@
+// The overviews and the pages that only some installations have: what is shown, where it leads.
+#include "a_hf.h"
+#include "a_ls.h"
+#include "table_page.h"
+
+namespace
+{
+constexpr uint32_t ME = 0x33110000, KEY = 0x33120000, WIPE = 0x33130000, EFFECTS = 0x33160000;
+constexpr uint32_t MISC = 0x32110000, RATE = 0x32160000;
+constexpr int CELL_X = 250, CELL_Y = 120; // in the first one
+
+struct StatusPage : TablePage {
+    void TearDown() override
+    {
+        (void)Leave();
+        SYS_MEOperation[0] = 0;
+        TablePage::TearDown();
+    }
+    static uint32_t PageBy(int key)
+    {
+        GL_CreatePage = 0;
+        (void)Press(key);
+        const uint32_t page = GL_CreatePage;
+        GL_CreatePage = 0;
+        return page;
+    }
+};
+} // namespace
+
+TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpens)
+{
+    static const struct {
+        uint32_t page;
+        int row, key;
+        uint32_t opened;
+    } cases[] = {
+        {KEY, 0, 49, 0x11110000},         {KEY, 5, 50, 0x15220000},
+        {KEY, 8 * 3 + 6, 54, 0x85370000}, {KEY, 8 * 5 + 3, 53, 0x14460000},
+        {WIPE, 0, 49, 0x11710000},        {WIPE, 1, 50, 0x15510000},
+        {WIPE, 10, 52, 0x14610000},       {EFFECTS, 0, 49, 0x42110000},
+    };
+    for (const auto& c : cases) {
+        (void)Open(c.page);
+        LS_SetNowLine(1, c.row);
+        EXPECT_EQ(PageBy(c.key), c.opened) << std::hex << c.page << " " << c.row;
+        EXPECT_NE(SearchPageTable(c.opened), nullptr) << std::hex << c.opened;
+    }
+}
+
+TEST_F(StatusPage, ALineShowsWhatTheServerSaysOfItsThing)
+{
+    (void)Open(KEY);
+    TellAll("PGM/PST@DSK8@",
+            {"Status@Key ON#true", "Type@Key Type#Color Vector", "Edge@Edge#Shadow"});
+    (void)Tell("PGM/PST@DSK8@Edge@Edge@Width#5");
+    EXPECT_STREQ(LS_GetData(1, 47, 0), "P/P DSK8");
+    EXPECT_STREQ(LS_GetData(1, 47, 1), "O");
+    EXPECT_STREQ(LS_GetData(1, 47, 2), "Color Vct");
+    EXPECT_STREQ(LS_GetData(1, 47, 5), "Shadow");
+    EXPECT_STREQ(LS_GetData(1, 46, 5), "");
+    (void)Open(EFFECTS);
+    (void)Tell("DME@Status@Channel@2#M/E-1@Key3");
+    EXPECT_STREQ(LS_GetData(1, 1, 1), "M/E-1 Key3");
+}
+
+TEST_F(StatusPage, ACellLeadsToItsBankWhateverPageItStandsOn)
+{
+    (void)Open(ME);
+    (void)Touch(CELL_X, CELL_Y);
+    EXPECT_EQ(GL_CreatePage, 0x11000000u);
+    GL_CreatePage = 0;
+    (void)Touch(CELL_X + 400, CELL_Y + 176);
+    EXPECT_EQ(GL_CreatePage, 0x14000000u);
+    GL_CreatePage = 0;
+}
+
+TEST_F(StatusPage, TheRatesOfABankCountTheKeysThatItHas)
+{
+    constexpr int BANK = 17, KEYS = 33;
+    GL_KeyMax[1] = 4;
+    SYS_MEOperation[0] = 1;
+    (void)Open(RATE);
+    EXPECT_EQ(Usable({BANK, KEYS, BANK + 1, KEYS + 1}), (std::vector<int>{BANK + 1, KEYS + 1}));
+    (void)Press(KEYS + 5);
+    (void)Tell("PGM/PST@DSK8@Transition@ON Transition Rate#12");
+    EXPECT_EQ(Shown("DSK8 ON\nframes"), "12");
+    (void)Press(KEYS + 1);
+    (void)Tell("M/E-2@Key4@Transition@ON Transition Rate#7");
+    EXPECT_EQ(Shown("Key4 ON\nframes"), "7");
+    EXPECT_EQ(Shown("Key5 ON\nframes"), "no box");
+}
+
+TEST_F(StatusPage, APageThatTheInstallationLacksHasNoTab)
+{
+    constexpr int TAB_X = 225, TAB_Y = 560;
+    (void)Open(MISC);
+    (void)Touch(TAB_X, TAB_Y);
+    const bool has_option = hasPanelOption();
+    EXPECT_EQ(GL_CreatePage, has_option ? 0x32120000u : 0u);
+    DEV_MyPnl[0] = &DEV_Pnl[0];
+    SYS_MyPnlMax = 1;
+    DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = 2;
+    (void)Open(MISC);
+    (void)Touch(TAB_X, TAB_Y);
+    EXPECT_EQ(GL_CreatePage, 0x32120000u);
+    GL_CreatePage = 0;
+    DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = 0;
+    DEV_MyPnl[0] = nullptr;
+    SYS_MyPnlMax = 0;
+}
