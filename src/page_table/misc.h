@@ -148,7 +148,7 @@ inline constexpr auto nb_misc_ftb_rate = Column(
 inline constexpr BT_TBL bt_misc_rate[] = {
     BANK_RATE_KEYS(0, "M/E-1", me1), BANK_RATE_KEYS(1, "M/E-2", me2), BANK_RATE_KEYS(2, "M/E-3", me3),
     BANK_RATE_KEYS(3, "M/E-4", me4), BANK_RATE_KEYS(4, "M/E-5", me5), BANK_RATE_KEYS(5, "PGM/PST", pp),
-    Knobs({.id = 49, .caption = "FTB",          .group = "Fade to Black", .nb = nb_misc_ftb_rate.row}),
+    Knobs({.id = 49, .caption = "Rate",         .group = "FTB", .nb = nb_misc_ftb_rate.row}),
     Jump ({.id = 51, .caption = "Transition",   .group = "PGM/PST", .cmd = {"#14710000"}}),
     Jump ({.id = 52, .caption = "FTB",          .group = "PGM/PST", .cmd = {"#14710002"}}),
     BT_END,
