@@ -474,6 +474,7 @@ static void press_key(int index, int key)
     switch (key) {
     case FF_KEY_FIND:
         ff.area[index].find_pushed = PUSHED_MS;
+        ff_redraw(index, 0); // now: the pane keeps repaints from the page
         open_find(index);
         return;
     case FF_KEY_SELECT:

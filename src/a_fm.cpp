@@ -508,6 +508,7 @@ static int press(int x, int y)
         if (fm_key_rect(key, &r) && Inside(r, x, y)) {
             fm.pushed[key] = PUSHED_MS;
             fm.redraw_keys = true;
+            fm_redraw(0); // now: what it opens would keep repaints from the page
             press_key[key]();
             return 1;
         }
