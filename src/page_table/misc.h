@@ -32,8 +32,8 @@ inline constexpr HF_TBL hf_misc[] = {
     Action({.id = 49, .caption = "Enable\nAll",  .group = "Ports", .cmd = {"~@Enable All#*"}}), \
     Action({.id = 50, .caption = "Disable\nAll", .group = "Ports", .cmd = {"~@Disable All#*"}})
 inline constexpr BT_TBL bt_misc_port[] = {BT_MISC_PORTS, GPI(37, "DME1\nGPI", "DME1"), GPI(38, "DME2\nGPI", "DME2"), BT_END};
-// The two units carry one picture and act as one.
-inline constexpr BT_TBL bt_misc_port_dual[] = {BT_MISC_PORTS, GPI(37, "DME\nGPI", "DME1"), BT_END};
+// The two units carry one picture: the second acts with the first.
+inline constexpr BT_TBL bt_misc_port_dual[] = {BT_MISC_PORTS, GPI(37, "DME1\nGPI", "DME1"), BT_END};
 static_assert(ButtonsAreSound(bt_misc_port) && ButtonsAreSound(bt_misc_port_dual));
 #undef BT_MISC_PORTS
 #undef GPI
