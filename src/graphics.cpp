@@ -6,6 +6,7 @@
 #include "types.h"
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <unistd.h>
 
 #include "safeguards.h"
@@ -29,11 +30,50 @@ static_assert(sizeof DmeWipePtn_KTR20 / sizeof DmeWipePtn_KTR20[0] == 29);
 
 // --- Loading ---
 
-static SDL_Surface* load_gfile(const char* name)
+// What a bitmap is known by until its pixels are read: its place in the list, or its number and
+// which of the two pictures of it.
+enum : uint32_t {
+    KEY_LISTED = 1,
+    KEY_PATTERN = 0x10000,
+    KEY_SMALL_MODEL = 0x20000,
+    KEY_NUMBER = 0xFFFF
+};
+static constexpr const char* listed_files[] = {
+#define BITMAP(name, file) file,
+#include "graphics_list.h"
+#undef BITMAP
+};
+
+static void graphics_path(char* path, size_t size, const char* name)
+{
+    snprintf(path, size, "graphics/%s.bmp", name);
+}
+
+static void pattern_name(char (&name)[16], uint32_t key)
+{
+    PrintText(name, "ptn/%u%s", unsigned(key & KEY_NUMBER), key & KEY_SMALL_MODEL ? "e" : "");
+}
+
+static bool path_of_key(uint32_t key, char* path, size_t size)
+{
+    char pattern[16];
+    if (key & (KEY_PATTERN | KEY_SMALL_MODEL)) {
+        pattern_name(pattern, key);
+        graphics_path(path, size, pattern);
+        return true;
+    }
+    if (key < KEY_LISTED || key > sizeof listed_files / sizeof *listed_files)
+        return false;
+    graphics_path(path, size, listed_files[key - KEY_LISTED]);
+    return true;
+}
+
+// A key of 0: the pixels are read at once.
+static SDL_Surface* load_gfile(const char* name, uint32_t key = 0)
 {
     char path[PATH_SIZE];
-    PrintText(path, "graphics/%s.bmp", name);
-    SDL_Surface* loaded = TDL_LoadBmp(path);
+    graphics_path(path, sizeof path, name);
+    SDL_Surface* loaded = key ? TDL_OpenBmp(path, key) : TDL_LoadBmp(path);
     if (!loaded)
         Log_Output(LOG_TRACE, MOD_START, "Can't load graphics file: [%s]", path);
     return loaded;
@@ -41,10 +81,14 @@ static SDL_Surface* load_gfile(const char* name)
 
 static void load_wipe_ptn(int n, const char* name)
 {
-    char file[PATH_SIZE];
+    char file[PATH_SIZE], usual[16];
     PrintText(file, "ptn/%s", name);
+    uint32_t key = uint32_t(n) | (strchr(name, 'e') ? KEY_SMALL_MODEL : KEY_PATTERN);
+    pattern_name(usual, key);
+    if (strcmp(file, usual) != 0)
+        key = 0; // leading noughts
     SDL_FreeSurface(G_WipePtn[n]);
-    G_WipePtn[n] = load_gfile(file);
+    G_WipePtn[n] = load_gfile(file, key);
 }
 
 // --- The list of wipe patterns ---
@@ -128,7 +172,9 @@ static void load_all_ptns()
 
 void LoadGraphics()
 {
-#define BITMAP(name, file) G_##name = load_gfile(file);
+    TDL_SetBmpPaths(path_of_key);
+    uint32_t key = KEY_LISTED;
+#define BITMAP(name, file) G_##name = load_gfile(file, key++);
 #include "graphics_list.h"
 #undef BITMAP
     if (!list_and_load_ptns())

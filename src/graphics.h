@@ -1,6 +1,6 @@
-// graphics: the bitmaps of the user interface, loaded once at start-up into one global each: G_ and
+// graphics: the bitmaps of the user interface, opened once at start-up into one global each: G_ and
 // the stem. A file that is missing leaves a null global and a log line; the drawing verbs take a
-// null surface.
+// null surface. The pixels of a bitmap are read when it is first drawn.
 #pragma once
 #include <SDL.h>
 

@@ -468,7 +468,7 @@ static bool is_plain_copy(const SDL_Surface* s)
 
 int TDL_PutS(int x, int y, SDL_Surface* sfc)
 {
-    if (!sfc)
+    if (!sfc || !tdl_has_pixels(sfc))
         return 1;
     SDL_Rect src, dst;
     if (!clip_block(x, y, sfc->w, sfc->h, &src, &dst))
@@ -489,7 +489,7 @@ int TDL_Put(int x, int y, SDL_Surface* sfc)
 
 int TDL_PutAS(int x, int y, SDL_Surface* sfc, unsigned char alpha)
 {
-    if (!sfc)
+    if (!sfc || !tdl_has_pixels(sfc))
         return 1;
     SDL_Rect src, dst;
     if (!clip_block(x, y, sfc->w, sfc->h, &src, &dst))
@@ -545,7 +545,7 @@ static bool can_halve(const SDL_Surface* s)
 
 int TDL_PutSmallS(int x, int y, SDL_Surface* sfc)
 {
-    if (!sfc)
+    if (!sfc || !tdl_has_pixels(sfc))
         return 1;
     if (!can_halve(sfc))
         return -1;
@@ -564,7 +564,7 @@ int TDL_PutSmall(int x, int y, SDL_Surface* sfc)
 
 SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc)
 {
-    if (!sfc || !can_halve(sfc))
+    if (!sfc || !can_halve(sfc) || !tdl_has_pixels(sfc))
         return nullptr;
     const SDL_PixelFormat& f = *Screen->format;
     SDL_Surface* small = SDL_CreateRGBSurface(SDL_SWSURFACE, sfc->w / 2, sfc->h / 2, f.BitsPerPixel,

@@ -67,6 +67,10 @@ int TDL_PutSmallS(int x, int y, SDL_Surface* sfc);
 SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc); // the caller frees it
 // In display format, for the caller to free; null when the file cannot be read.
 SDL_Surface* TDL_LoadBmp(const char* fname);
+// The same but for its pixels, which are read when the bitmap is first drawn, from the path that
+// stands for the key then; key is not 0. Until then only its size may be looked at.
+SDL_Surface* TDL_OpenBmp(const char* fname, uint32_t key);
+void TDL_SetBmpPaths(bool (*paths)(uint32_t key, char* path, size_t size));
 SDL_Surface* TDL_ScreenSaverBMP(const char* fname);
 
 // --- Screen save: one slot ---

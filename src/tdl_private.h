@@ -1,5 +1,6 @@
 // tdl_private: what the parts of the drawing layer share: tdl.cpp has surfaces and shapes,
-// tdl_text.cpp the text, tdl_flush.cpp what reaches the display. Nobody else includes it.
+// tdl_text.cpp the text, tdl_flush.cpp what reaches the display, tdl_bitmap.cpp bitmaps that are
+// read late. Nobody else includes it.
 #pragma once
 #include "types.h"
 #include <SDL.h>
@@ -18,6 +19,15 @@ inline bool tdl_is_empty(const Rect& r)
 void tdl_flush(const Rect& r); // clipped to the screen; an empty rectangle is no flush
 void tdl_flush_init();
 void tdl_flush_quit();
+
+// A bitmap that has not been shown yet gets its pixels; false when there is no memory for them.
+void tdl_fetch_pixels(SDL_Surface* s);
+inline bool tdl_has_pixels(SDL_Surface* s)
+{
+    if (!s->pixels && s->unused1)
+        tdl_fetch_pixels(s);
+    return s->pixels != nullptr;
+}
 
 uint8_t* tdl_pixel_at(SDL_Surface* s, int x, int y);
 uint32_t tdl_map_colour(unsigned col); // 0x00RRGGBB as a pixel of the screen

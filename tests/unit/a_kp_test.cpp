@@ -47,6 +47,8 @@ struct PathLists : TabPage {
     }
     static bool Looks(const SDL_Surface* s, int x, int y)
     {
+        if (!s->pixels) // never drawn
+            return false;
         for (int dy = 0; dy < s->h; dy++)
             for (int dx = 0; dx < s->w; dx++) {
                 uint32_t pixel;

@@ -1,6 +1,7 @@
 #include "graphics.h"
 #include "harness.h"
 #include "log.h"
+#include "tdl.h"
 #include "tdl_fixture.h"
 #include "test_dirs.h"
 #include <filesystem>
@@ -117,4 +118,32 @@ TEST(Graphics, TheSmallerModelReplacesItsOwnPictures)
     LoadDmeWipePtn_Standard();
     EXPECT_EQ(WidthOf(G_WipePtn[2001]), 21);
     EXPECT_EQ(WidthOf(G_WipePtn[2002]), 23);
+}
+
+TEST(Graphics, PixelsComeWithTheFirstUseAndAChangedFileIsBlack)
+{
+    const TestDisplay display;
+    const GraphicsFolder folder;
+    for (const char* name : {"EXE_p0o0", "EXE_p0o1"}) {
+        SDL_Surface* s = SDL_CreateRGBSurface(SDL_SWSURFACE, 3, 2, 24, 0xFF0000, 0xFF00, 0xFF, 0);
+        SDL_FillRect(s, nullptr, 0x102030);
+        SDL_Rect corner = {2, 0, 1, 1}; // the first row is the last of the file
+        SDL_FillRect(s, &corner, 0xC0FFEE);
+        ASSERT_EQ(SDL_SaveBMP(s, ("graphics/" + std::string(name) + ".bmp").c_str()), 0);
+        SDL_FreeSurface(s);
+    }
+    LoadGraphics();
+    ASSERT_TRUE(G_EXE_p0o0 && G_EXE_p0o1);
+    EXPECT_EQ(G_EXE_p0o0->pixels, nullptr);
+    ClearScreen();
+    EXPECT_EQ(TDL_PutS(10, 20, G_EXE_p0o0), 0);
+    EXPECT_EQ(PixelsOf(Screen)[20 * 800 + 12], PixelOf(0xC0FFEE));
+    EXPECT_EQ(PixelsOf(Screen)[21 * 800 + 10], PixelOf(0x102030));
+    EXPECT_EQ(Painted(), 6);
+
+    SaveBitmap("EXE_p0o1", 50); // another size than at the start
+    ClearScreen();
+    EXPECT_EQ(TDL_PutS(10, 20, G_EXE_p0o1), 0);
+    EXPECT_EQ(Painted(), 0);
+    EXPECT_EQ(LogLinesWith("Can't load graphics file"), 1 + LogLinesWith("graphics/"));
 }

@@ -1,0 +1,116 @@
+// Bitmaps whose pixels are read when they are first shown. Of some three thousand a page shows a
+// few dozen: to decode them all at start costs time before the first page and memory for good. The
+// size is known from the start, and a file that is missing is missed then.
+#include "log.h"
+#include "tdl.h"
+#include "tdl_private.h"
+#include "text.h"
+#include <cstdio>
+#include <cstring>
+#include "safeguards.h"
+
+namespace
+{
+constexpr size_t HEADER = 54;
+constexpr int SIDE_MAX = 4096;
+constexpr uint16_t PLAIN_BITS = 24;
+struct Head {
+    long pixels_at = 0;
+    int w = 0;
+    int h = 0;
+    size_t stride() const { return (size_t(w) * 3 + 3) & ~size_t(3); } // of a row in the file
+};
+} // namespace
+
+static bool (*path_of)(uint32_t key, char* path, size_t size) = nullptr;
+
+void TDL_SetBmpPaths(bool (*paths)(uint32_t key, char* path, size_t size))
+{
+    path_of = paths;
+}
+
+static uint32_t get32(const uint8_t* b)
+{
+    return uint32_t(b[0]) | uint32_t(b[1]) << 8 | uint32_t(b[2]) << 16 | uint32_t(b[3]) << 24;
+}
+
+// True for the plain kind that all bitmaps of the user interface are: 24 bits, not compressed, the
+// last row first.
+static bool read_head(FILE* fp, Head* head)
+{
+    uint8_t b[HEADER];
+    if (fread(b, 1, sizeof b, fp) != sizeof b || b[0] != 'B' || b[1] != 'M')
+        return false;
+    const uint32_t bits = get32(b + 28) & 0xFFFF;
+    head->pixels_at = long(get32(b + 10));
+    head->w = int(get32(b + 18));
+    head->h = int(get32(b + 22));
+    return bits == PLAIN_BITS && get32(b + 30) == 0 && head->pixels_at >= long(HEADER) &&
+           head->pixels_at < SIDE_MAX && head->w > 0 && head->w <= SIDE_MAX && head->h > 0 &&
+           head->h <= SIDE_MAX;
+}
+
+SDL_Surface* TDL_OpenBmp(const char* fname, uint32_t key)
+{
+    Head head;
+    FILE* fp = fopen(fname, "rb");
+    if (!fp)
+        return nullptr;
+    const bool is_plain = read_head(fp, &head);
+    (void)fclose(fp);
+    if (!is_plain || key == 0 || !tdl_blends_bytes())
+        return TDL_LoadBmp(fname);
+    const SDL_PixelFormat& f = *Screen->format;
+    SDL_Surface* made = SDL_CreateRGBSurfaceFrom(nullptr, head.w, head.h, 32, head.w * 4, f.Rmask,
+                                                 f.Gmask, f.Bmask, 0);
+    if (made)
+        made->unused1 = key;
+    return made;
+}
+
+// --- The first use ---
+
+static void decode_row(uint8_t* to, const uint8_t* from, int w, const SDL_PixelFormat& f)
+{
+    auto* pixel = reinterpret_cast<uint32_t*>(to);
+    for (int x = 0; x < w; x++, from += 3)
+        pixel[x] = uint32_t(from[2]) << f.Rshift | uint32_t(from[1]) << f.Gshift |
+                   uint32_t(from[0]) << f.Bshift;
+}
+
+static bool read_pixels(SDL_Surface* s, const char* fname)
+{
+    FILE* fp = fopen(fname, "rb");
+    if (!fp)
+        return false;
+    Head head;
+    bool is_read = read_head(fp, &head) && head.w == s->w && head.h == s->h &&
+                   fseek(fp, head.pixels_at, SEEK_SET) == 0;
+    static uint8_t row[SIDE_MAX * 3 + 3];
+    for (int y = s->h - 1; y >= 0 && is_read; y--) {
+        is_read = fread(row, 1, head.stride(), fp) == head.stride();
+        if (is_read)
+            decode_row(tdl_pixel_at(s, 0, y), row, s->w, *s->format);
+    }
+    (void)fclose(fp);
+    return is_read;
+}
+
+// A file that has gone or changed since the start leaves a black bitmap of the size that was there.
+void tdl_fetch_pixels(SDL_Surface* s)
+{
+    const SDL_PixelFormat& f = *s->format;
+    SDL_Surface* made =
+        SDL_CreateRGBSurface(SDL_SWSURFACE, s->w, s->h, 32, f.Rmask, f.Gmask, f.Bmask, 0);
+    if (!made)
+        return; // tried again at the next use
+    SDL_FillRect(made, nullptr, 0);
+    s->pixels = made->pixels;
+    s->pitch = made->pitch;
+    s->flags &= ~uint32_t(SDL_PREALLOC); // freed with the surface
+    made->pixels = nullptr;
+    SDL_FreeSurface(made);
+    char path[PATH_SIZE];
+    if (!path_of || !path_of(s->unused1, path, sizeof path) || !read_pixels(s, path))
+        Log_Output(LOG_TRACE, MOD_START, "Can't load graphics file: [%u]", unsigned(s->unused1));
+}
