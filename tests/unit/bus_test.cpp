@@ -13,6 +13,7 @@ TEST_F(Bus, TheRowIsWalkedToItsFirstEmptyPlace)
         {{}, 0},
         {std::vector<int>(8, OBJ_PC), 8},
         {{OBJ_PC, -1, OBJ_PC}, 1},
+        {{OBJ_PC, OBJ_END, OBJ_PC}, 1},
         {{16, OBJ_PC, 19, 1000, OBJ_PC}, 2}, // types that there are not
     };
     for (const auto& c : cases) {
@@ -21,7 +22,11 @@ TEST_F(Bus, TheRowIsWalkedToItsFirstEmptyPlace)
             probe::page.obj[i].type = c.types[i];
         probe::seen.clear();
         EXPECT_EQ(SendMessage(MSG_KEY, 0, 0, 0, 0), 0);
-        EXPECT_EQ(probe::Count(MSG_KEY), c.deliveries) << testing::PrintToString(c.types);
+        SendMessage(MSG_PRESS, 5, 5, 1, 0);
+        SendMessage(MSG_PRESS, 5, 5, 1, 0); // the first one's release is owed
+        for (int msg : {MSG_KEY, MSG_RELEASE})
+            EXPECT_EQ(probe::Count(msg), c.deliveries) << testing::PrintToString(c.types);
+        SendMessage(MSG_RELEASE, 5, 5, 0, 0);
     }
     Page = nullptr; // before the first page
     EXPECT_EQ(SendMessage(MSG_KEY, 0, 0, 0, 0), 0);
@@ -214,6 +219,19 @@ TEST_F(BusHub, OnlyFileTablesAndTheOwnClipStorePass)
                       "Notify#CS:1\n"
                       "Notify#DME1.File:1\nNotify#\n#\n#:\nx\n"),
                 IsEmpty());
+}
+
+TEST_F(BusHub, APassTakesAtMost129Rows)
+{
+    std::string rows;
+    for (int i = 0; i < 131; i++)
+        rows += "Notify#SWR1.File:3\n";
+    hub.Send(rows);
+    usleep(20000);
+    ReceiveCommand_Management();
+    EXPECT_EQ(probe::Count(MSG_SHPTALLY), 129);
+    ReceiveCommand_Management();
+    EXPECT_EQ(probe::Count(MSG_SHPTALLY), 131);
 }
 
 // --- Page code ---
