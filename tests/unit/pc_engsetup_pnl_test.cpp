@@ -29,27 +29,15 @@ TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
         int rows;
     } modules[] = {
         {0x73210031, program + "Transition Module", 20, 42},
-        {0x73210032, program + "Simple Transition Module", 12, 22},
-        {0x73210033, program + "Key Transition Module", 16, 29},
-        {0x73210034, program + "Flexi Pad Module", 16, 39},
         {0x73210035, program + "Key Control Module", 8, 16},
         {0x73210036, program + "Key Control Module@Key Control Button Assign", 20, 24},
-        {0x73210037, program + "Xpt Module", 8, 15},
         {0x73210038, program + "Menu Panel", 24, 30},
-        {0x73210039, program + "Device Control Module", 28, 125},
         {0x73210040, program + "Joystick/Trackball", 12, 24},
-        {0x73210041, program + "Shotbox Module", 24, 45},
-        {0x73210042, program + "DSK/FTB Module", 16, 50},
-        {0x73210043, program + "FTB Module", 4, 8},
         {0x73210044, program + "Compact Key Trans Module", 8, 29},
-        {0x73210045, program + "Key Delegation Module", 16, 16},
         {0x73210012, program + "Extension Panel", 28, 43},
-        {0x73210046, program + "Multi Module@Macro Edit Assign", 16, 19},
-        {0x73210047, program + "Multi Module@Effect Edit Assign", 16, 25},
         {0x73210048, program + "Multi Module@Mode Select Assign", 8, 17},
         {0x73240000, utility, 16, 28},
         {0x73240001, utility + "@Utility Module Assign", 16, 24},
-        {0x73240002, utility + "@Xpt Module Assign", 16, 24},
         {0x73240003, utility + "@Trans Rate Mode Assign", 8, 17},
     };
     for (const auto& m : modules) {
