@@ -8,6 +8,7 @@
 #include "initread.h"
 #include "log.h"
 #include "netio.h"
+#include "page.h"
 #include <algorithm>
 #include <cstring>
 #include <ctime>
@@ -350,10 +351,17 @@ TEST_F(Link, TheLogTellsWhatTheTextLinkDid)
     (void)Net_SendCommandQueue();
     for (const int is_debug : {0, 1}) {
         GL_DebugMode = is_debug;
-        peer->Send("B#2\n");
-        EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("B#2"));
+        const std::string line = "B#" + std::to_string(is_debug);
+        peer->Send(line + "\n");
+        EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre(line));
     }
     GL_DebugMode = 0;
+    GL_NowPage = 0x52110000; // whose traffic would swamp the log
+    Log_SetLevel(LOG_TRACE);
+    peer->Send("C#3\n");
+    EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("C#3"));
+    GL_NowPage = 0;
+    Log_SetLevel(0);
     peer->Send(std::string(405, 'x'));
     (void)ReceiveAll(Net_ReceiveCommand, 1);
     Connect(*peer);
@@ -366,9 +374,9 @@ TEST_F(Link, TheLogTellsWhatTheTextLinkDid)
     Log_Init("", 0);
 
     const std::string log = FileText(file);
-    for (const char* once : {"put A#1\n", "<--[B#2]", "ERROR: net_read() -> 0"})
+    for (const char* once : {"put A#1\n", "B#0", "<--[B#1]", "ERROR: net_read() -> 0"})
         EXPECT_EQ(Count(log, once), 1) << once << "\n" << log;
-    EXPECT_EQ(Count(log, "B#2"), 2) << "the other one raw";
+    EXPECT_EQ(Count(log, "[B#0]") + Count(log, "C#3"), 0) << "raw, and not at all";
     for (const char* again : {"create_inet_connection(127.0.0.1:10001)",
                               "Net_ReceiveCommand() Buffer Full!!", // on every call
                               "ERROR: Failed to connect server"})
@@ -439,10 +447,35 @@ TEST_F(Link, AFrameGoesOutLowByteFirstAndComesInHighByteFirst)
     EXPECT_EQ(ReceiveFrame(), frame);
 }
 
+TEST_F(Link, FramesWaitForAServerThatIsBehindWithItsReading)
+{
+    constexpr int FRAMES = 6000; // more than the kernel holds
+    Peer peer(NET_BIN_PORT);
+    Connect(peer);
+    const unsigned char data[1024] = {};
+    for (uint32_t i = 0; i < FRAMES; i++)
+        EXPECT_EQ(Net_SendBinCommand(5, i, data, sizeof data), 0);
+    for (uint32_t i = 0; i < FRAMES; i++) {
+        EXPECT_EQ(Net_SendBinCommandQueue(), 0);
+        const std::string frame = Bytes(peer, 1033);
+        ASSERT_EQ(uint8_t(frame.at(3)) | uint8_t(frame.at(4)) << 8, int(i));
+        ASSERT_EQ(frame.substr(1031), "\xFF\xFF");
+    }
+}
+
 TEST_F(Link, FramesAreInStepAgainAfterALoss)
 {
     Peer peer(NET_BIN_PORT);
     Connect(peer);
+    Log_Init("/tmp/bin_link.log", 1000000);
+    (void)Net_SendBinCommand(4, 0x12345678, reinterpret_cast<const unsigned char*>("A"), 1);
+    EXPECT_EQ(Net_SendBinCommandQueue(), 0);
+    peer.Send("\xFF\xFFrubbish"); // no length: what has come is dropped
+    EXPECT_EQ(ReceiveFrame(), "");
+    Log_Init("", 0);
+    const std::string log = FileText("/tmp/bin_link.log");
+    EXPECT_THAT(log, testing::HasSubstr("> 08 00 04 / 78 56 34 12 / 41 FF FF"));
+    EXPECT_EQ(Count(log, "ERROR: Wrong BC"), 1);
     const std::string frame("\0\7\x84\xAA\0\2\0\xFF\xFF", 9);
     peer.Send(frame + frame.substr(0, 4));
     EXPECT_EQ(ReceiveFrame(), frame);
@@ -537,9 +570,13 @@ TEST_F(Link, TheHubGetsOneLineEach100ms)
     Peer peer(HUB_PORT);
     Connect(peer);
     EXPECT_EQ(Net_SendSHPCommandQueue(10), 0);
+    Log_Init("/tmp/hub_link.log", 1000000);
     Net_SendSHPCommand("Listen#CS1.File");
     Net_SendSHPCommandFormat("Listen#PNL%d.File", 1);
     EXPECT_EQ(Net_SendSHPCommandQueue(10), 0); // the first at once
+    Log_Init("", 0);
+    EXPECT_EQ(Count(FileText("/tmp/hub_link.log"), "Listen#"), 1);
+    EXPECT_EQ(Count(FileText("/tmp/hub_link.log"), "alloc error"), 0);
     EXPECT_THAT(peer.Lines(), ElementsAre("Listen#CS1.File"));
     for (int ms = 10; ms < 100; ms += 10)
         EXPECT_EQ(Net_SendSHPCommandQueue(10), 0);
@@ -613,16 +650,18 @@ TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)
         DEV_MySwr[i] = &swr[size_t(i)];
     Net_SendSHPCommand("Read#CS*.File:a");
     SYS_DualSimul = 1;
-    for (const char* cmd : {"Read#CS*.File:b", "Read#CS2.File:c", "Listen#CS*.File"})
+    for (const char* cmd : {"Read#CS*.File:b", "Read#CS2.File:c", "InitRead#CS*.File"})
         Net_SendSHPCommand(cmd);
     SYS_MySwrMax = 0;
     DEV_MySwr[0] = DEV_MySwr[1] = nullptr;
-    Net_SendSHPCommand("Read#CS*.File:d"); // no switcher, no request
-    SYS_DualSimul = 0;
+    for (const int dual : {1, 0}) {
+        SYS_DualSimul = dual;
+        Net_SendSHPCommand("Read#CS*.File:d"); // no switcher, no request
+    }
     for (int i = 0; i < 6; i++)
         Net_SendSHPCommandQueue(100);
     EXPECT_THAT(peer.Lines(), ElementsAre("Read#CS1.File:a", "Read#CS1.File:b", "Read#CS3.File:b",
-                                          "Read#CS2.File:c", "Listen#CS*.File"));
+                                          "Read#CS2.File:c", "InitRead#CS*.File"));
 }
 
 TEST_F(Link, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)

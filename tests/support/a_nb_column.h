@@ -27,21 +27,21 @@ struct KnobColumn : HandPage {
     }
     static std::string Pointed(MsgArg a) { return Number(*reinterpret_cast<const double*>(a)); }
 
-    static int WriteDown(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+    static int WriteDown(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
     {
         const std::string id = std::to_string(ax), whole = std::to_string(bx);
-        const std::string screen = cx == 1 ? " screen" : "";
+        const std::string screen = dx ? " strange" : cx == 1 ? " screen" : "";
         switch (msg) {
         case LMSG_KNOBCREATE: told.push_back("create " + std::string(Text(bx))); break;
         case LMSG_KNOBVAR:
             told.push_back("var " + id + " " + (exact_var ? Pointed(bx) : whole) + screen);
             break;
         case LMSG_KNOBFVAR: told.push_back("fvar " + id + " " + Pointed(bx) + screen); break;
-        case LMSG_KNOBDIFF: told.push_back("diff " + id + " " + Pointed(bx)); break;
-        case LMSG_KNOBUPPER: told.push_back("upper " + id + " " + whole); break;
-        case LMSG_KNOBLOWER: told.push_back("lower " + id + " " + whole); break;
-        case LMSG_KNOBDEFAULT: told.push_back("default " + id); break;
-        case LMSG_KNOBRELEASE: told.push_back("layer " + id); break;
+        case LMSG_KNOBDIFF: told.push_back("diff " + id + " " + Pointed(bx) + screen); break;
+        case LMSG_KNOBUPPER: told.push_back("upper " + id + " " + whole + screen); break;
+        case LMSG_KNOBLOWER: told.push_back("lower " + id + " " + whole + screen); break;
+        case LMSG_KNOBDEFAULT: told.push_back("default " + id + screen); break;
+        case LMSG_KNOBRELEASE: told.push_back("layer " + id + screen); break;
         default: return 0;
         }
         if (answer)

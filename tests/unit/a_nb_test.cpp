@@ -354,6 +354,7 @@ TEST_F(KnobColumn, TheWheelStepsByItsSpeedAndByOnesWhereOnesCount)
         {NB_2, 0, 200, 0, MSG_WHEELDOWN, "put V#70.00"}, // a step in the same ms: 1 ms
         {NB_2, 200, 0, 10, MSG_WHEELDOWN, "put V#48.00"},
         {NB_INT, 0, 200, 1, MSG_WHEELDOWN, "put V#51"},
+        {NB_INT, 200, 0, 1, MSG_WHEELDOWN, "put V#49"},
         {NB_TC, 0, 200, 1, MSG_WHEELUP, "put V#00:01:19"},
         {NB_1, 60, 49.8, 1, MSG_WHEELDOWN, "put V#49.8"},
     };
@@ -370,7 +371,10 @@ TEST_F(KnobColumn, TheWheelStepsByItsSpeedAndByOnesWhereOnesCount)
         Clock_ms += uint32_t(c.pause_ms);
         Wheel(c.msg, 1);
         EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.sent, "read V")) << c.min << " " << c.max;
+        EXPECT_THAT(Told(), IsEmpty()) << "it is the server's";
     }
+    for (int msg : {MSG_WHEELUP, MSG_WHEELDOWN, MSG_PRESS, MSG_DRAG, MSG_RELEASE})
+        EXPECT_EQ(NB_Proc(msg, 300, 300, 0, 0), 0) << "others may have a part in it";
 }
 
 TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
@@ -478,6 +482,32 @@ TEST_F(KnobColumn, SomePagesBendADraggedValue)
         Drag(c.x, false, true);
         EXPECT_THAT(TakeQueuedCommands(),
                     Contains("put " + std::string(c.cmd) + "#" + std::string(c.sent)));
+    }
+}
+
+// Its page code takes the value whole or not at all.
+TEST_F(KnobColumn, TheRotationOfAWipeIsToldExactlyAndOnce)
+{
+    static const struct {
+        uint32_t page;
+        const char* caption;
+        double min;
+        bool exact;
+    } cases[] = {
+        {0x12260003, "H", -100, true},   {0x13650000, "V", 100, true},
+        {0x13650000, "All", -100, true}, {0x13650000, "V", -100, false},
+        {0x13650000, "H", 100, false},   {0x13650000, "D", -100, false},
+        {0x12260002, "H", -100, false},
+    };
+    for (const auto& c : cases) {
+        const NB_TBL rows[] = {Box(1, c.caption, NB_2, c.min, -c.min, "LOCAL"), NB_END};
+        GL_NowPage = c.page;
+        Open(rows);
+        exact_var = c.exact;
+        EXPECT_EQ(NB_SendValue2(1, 12.75), 0);
+        EXPECT_EQ(Told(), c.exact ? Lines({"var 1 12.75"})
+                                  : Lines({"var 1 13 screen", "fvar 1 12.75 screen"}))
+            << std::hex << c.page << " " << c.caption;
     }
 }
 

@@ -219,6 +219,8 @@ TEST_F(BusHub, OnlyFileTablesAndTheOwnClipStorePass)
                       "Notify#CS:1\n"
                       "Notify#DME1.File:1\nNotify#\n#\n#:\nx\n"),
                 IsEmpty());
+    EXPECT_EQ(Get_SHPTargetId("Ready#PNL12.File"), 12);
+    EXPECT_EQ(Get_SHPTargetId("DME1.File"), -1);
 }
 
 TEST_F(BusHub, APassTakesAtMost129Rows)

@@ -83,6 +83,7 @@ TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
         {0x21110000, gap, "~2@X", "", "M/E-1@X"}, // depth counts the empty segment
         {0x21110000, nullptr, "~X", "", "X"},     // before the first page
         {0x21110000, deep, "~", "", "1@2@3@4@5@6@7@8"},
+        {0x21110000, deep, "~6@X", "", "1@2@3@4@5@6@X"},
         {main_key, key, "~1@$@X#$", "5", "M/E-1@5@X#"}, // used up by the first
         {main_key, key, "A#$$B", nullptr, "A#B"},
     };
@@ -112,4 +113,14 @@ TEST(Command, AConditionDisablesAtItsValues)
     for (const auto& c : cases)
         EXPECT_EQ(IsDisableCondition(c.cond, c.var), c.disabled)
             << (c.cond ? c.cond : "null") << " at " << (c.var ? c.var : "null");
+}
+
+TEST(Command, SumsSwitchesAndOwnPaths)
+{
+    EXPECT_EQ(Hash("a\xFF"), 97u + 255);
+    EXPECT_STREQ(Bool(7), "true");
+    EXPECT_STREQ(ToggleBool(7), "false");
+    EXPECT_TRUE(IsLocal("LOCAL@A"));
+    EXPECT_FALSE(IsLocal("M/E-1@LOCAL"));
+    EXPECT_FALSE(IsLocal(nullptr));
 }

@@ -76,7 +76,9 @@ TEST(NetioFrame, AnImpossibleLengthIsSeenInItsTwoBytes)
 {
     unsigned char buf[8192] = {1040 >> 8, 1040 & 0xFF};
     unsigned char frame[NET_FRAME_MAX];
-    int fill = 2;
+    int fill = 1;
+    EXPECT_EQ(net_take_frame(buf, &fill, frame), 0);
+    fill++;
     EXPECT_LT(net_take_frame(buf, &fill, frame), 0);
     buf[1]--;
     fill = 2 + 1039 - 1;

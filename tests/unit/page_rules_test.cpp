@@ -13,7 +13,8 @@ void Switcher(DEVTYPE type)
 
 void Dme(int model)
 {
-    std::fill_n(GL_DmeModel, 4, model);
+    std::fill_n(GL_DmeModel, 4, 3);
+    GL_DmeModel[0] = model; // the first one's is asked for
     DeviceStructure();
 }
 
@@ -85,6 +86,8 @@ TEST_F(PageRules, GlobalEffectFollowsProcessorsAndModels)
         {0x42120000, 0x42120400, In3D},
         {0x42120000, 0x42120200, [] { Dual(), Dme(8); }},
         {0x42120000, 0x42120100, [] { SYS_CombineCh[1] = SYS_CombineCh[2] = 1; }},
+        {0x42120000, 0x42120100, [] { SYS_CombineCh[2] = SYS_CombineCh[3] = 1; }},
+        {0x42120000, 0x42120200, [] { SYS_CombineCh[1] = SYS_CombineCh[3] = 1; }},
         {0x42220000, 0x42220100, [] { SYS_CombineCh[5] = SYS_CombineCh[6] = 1; }},
         {0x42130000, 0x42130000, [] { Dual(), Dme(8); }},
         {0x42270000, 0x42270100, [] { Run1080p(), Dme(8); }},

@@ -301,4 +301,9 @@ TEST_F(Registers, RegionsWithARegisterHaveTheirBitInTheMap)
     EXPECT_THAT(map, ElementsAre(0, 0, 0, 0, 0, 8, 0, 0, 1)) << "the last byte is not its own";
     EXPECT_EQ(Register_Exist_Effect_AllRegion(5, map), 0);
     EXPECT_THAT(map, Each(0));
+    Deliver(EFFECT + "DME5", "107,D,x,U,N,0"); // of the second group of channels
+    EXPECT_EQ(Register_Exist_Eff100_AllRegion(6, map), 2);
+    EXPECT_EQ(map[0], 2);
+    EXPECT_EQ(Register_Exist_Eff200_AllRegion(6, map) + Register_Exist_Eff300_AllRegion(6, map), 0);
+    EXPECT_THAT(map, Each(0));
 }
