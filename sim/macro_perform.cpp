@@ -1,6 +1,7 @@
 // What the events of a macro do to the desk, by the roads that panels take.
 #include "macro_private.h"
 #include "region.h"
+#include "router.h"
 #include "text.h"
 #include "timeline.h"
 #include "transition.h"
@@ -106,8 +107,12 @@ static void aux_xpt(const MacroLine& line)
 
 static void router_xpt(const MacroLine& line)
 {
-    put("Router@Destination@", value_of(line, "DestinationButton") + "@Source",
-        value_of(line, "Source"));
+    long level = 0; // "All", or "Level3"
+    const std::string word = value_of(line, "Level");
+    if (Text_Begins(word, "Level"))
+        (void)Text_ToInt(word.substr(5), &level);
+    Router_Route(MacroEvent_Number(line, "DestinationButton", 1, 128, 0),
+                 MacroEvent_Number(line, "Source", 1, 999, 0), int(level));
 }
 
 // --- Transitions ---

@@ -69,6 +69,12 @@ static constexpr PathKind kinds[] = {
     {"Misc@Output@Output Phase@*", "num -1100 1100 0"},
     {"Misc@Output@Frame Delay@*", "num 0 1125 0"},
     {"Global Effect@*@Combine@Ch*", "bool"},
+    {"Router@Destination@*@Take", "action"},
+    {"Router@Destination@*@Undo", "action"},
+    {"Router@Salvo@*@Store", "action"},
+    {"Router@Salvo@*@Preset", "action"},
+    {"Router@Salvo@*@Take", "action"},
+    {"Router@Salvo@*@Clear", "action"},
     {"Global Effect@*@Priority@Ch*", "word 1,2,3,4"},
     {"Global Effect@*@Trail@Ch*", "word Off,Pre,Post"},
     // Registers.

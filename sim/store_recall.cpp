@@ -4,6 +4,7 @@
 #include "log.h"
 #include "macro.h"
 #include "region.h"
+#include "router.h"
 #include "store_private.h"
 #include "text.h"
 #include "transition.h"
@@ -51,7 +52,8 @@ static void keep_pattern(const Kind& kind, int row, Register& r)
 static bool is_kept(const Node& node)
 {
     return node.type.kind != KIND_ACTION && node.type.kind != KIND_LIST &&
-           !Dme_IsSelection(node.path) && !Text_MatchesPath(node.path, "**@Transition Position");
+           !Dme_IsSelection(node.path) && !Router_IsState(node.path) &&
+           !Text_MatchesPath(node.path, "**@Transition Position");
 }
 
 static void keep_values(Register& r, const std::string& path)
@@ -76,7 +78,7 @@ static void bring_values_back(const Kind& kind, int row, const Register& r, int 
             values.try_emplace(node->path.substr(path.size()), node->initial);
     const Left left = Store_LeftAlone(kind, row, r);
     for (const auto& [tail, value] : values) {
-        if (Store_IsLeftAlone(left, tail))
+        if (Store_IsLeftAlone(left, tail) || Router_IsLocked(path + tail))
             continue;
         Transition_Drop(path + tail);
         Dissolve_To(path + tail, value, frames);

@@ -12,6 +12,7 @@
 #include "log.h"
 #include "macro.h"
 #include "region.h"
+#include "router.h"
 #include "rules.h"
 #include "setup.h"
 #include "setup_panel.h"
@@ -284,6 +285,7 @@ void System_Install()
     Dissolve_Install();
     Dme_Install();
     Rules_Install();
+    Router_Install();
     Setup_Install();
     SetupPanel_Install();
     SetupSwitcherIo_Install();

@@ -10,6 +10,7 @@
 #include "link.h"
 #include "log.h"
 #include "macro.h"
+#include "router.h"
 #include "rules.h"
 #include "setup.h"
 #include "setup_panel.h"
@@ -110,6 +111,7 @@ static constexpr Owner owners[] = {
     {"Engineering Setup@DCU@", SetupUnits_Put},
     {"Engineering Setup@Router@", SetupUnits_Put},
     {"Engineering Setup@Tally@", SetupUnits_Put},
+    {"Router@", Router_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };

@@ -2,6 +2,7 @@
 #include "a_ba.h"
 #include "a_bt.h"
 #include "a_ls.h"
+#include "a_nb.h"
 #include "global.h"
 #include "message.h"
 #include "netio.h"
@@ -44,7 +45,7 @@ static void path_of(char (&path)[CMD_SIZE], const char* pattern, const char* nam
 // The row whose name stands in the place of "$"; -1 none.
 static int row_of(const ONEOF& t, const char* pattern, const char* path)
 {
-    const char* const at = strchr(pattern, '$');
+    const char* const at = pattern ? strchr(pattern, '$') : nullptr;
     if (!at)
         return -1;
     const size_t head = size_t(at - pattern), tail = strlen(at + 1), length = strlen(path);
@@ -62,6 +63,8 @@ static void follow_row(const ONEOF& t, const char* verb, int row)
 {
     for (int n = 0; n < t.column_count; n++) {
         char path[CMD_SIZE];
+        if (!t.columns[n].path)
+            continue;
         path_of(path, t.columns[n].path, t.state->name[row]);
         Net_SendCommandFormat("%s %s", verb, path);
     }
@@ -72,7 +75,7 @@ static void follow_row(const ONEOF& t, const char* verb, int row)
 static int signal_column(const ONEOF& t)
 {
     for (int n = 0; n < t.column_count; n++)
-        if (t.signal && Same(t.columns[n].path, t.signal))
+        if (t.signal && t.columns[n].path && Same(t.columns[n].path, t.signal))
             return n;
     return -1;
 }
@@ -100,11 +103,12 @@ static void fill_signals(const ONEOF& t)
         return;
     signals.count = 0;
     for (int i = 0; i < BUS_XPT_SRC; i++) {
-        if (!BUS_XptSrc[i] || !BUS_XptSrc[i][0])
+        const char* const name = t.signal_name ? t.signal_name(i) : BUS_XptSrc[i];
+        if (!name || !name[0])
             continue;
         Signal& s = signals.row[signals.count];
         PrintText(s.number, "%d", i);
-        CopyText(s.name, BUS_XptSrc[i]);
+        CopyText(s.name, name);
         LS_SetData(t.signal_list, signals.count, COL_NUMBER, s.number);
         LS_SetData(t.signal_list, signals.count, COL_SIGNAL, s.name);
         signals.count++;
@@ -135,6 +139,17 @@ static const _pageobject* object_of_page(int type)
     return nullptr;
 }
 
+// Above the page, and above its boxes where no key owns them.
+static void show_title()
+{
+    const char* last = "";
+    for (const char* word : Page->tree)
+        last = word ? word : last;
+    if (BT_GetKnobAssign() <= 0)
+        (void)NB_SetTitle(last);
+    BA_RedrawTitle();
+}
+
 void OneOf_Choose(const ONEOF& t, int row)
 {
     const int before = t.state->cursor;
@@ -148,7 +163,7 @@ void OneOf_Choose(const ONEOF& t, int row)
     follow_row(t, "add", before);
     LS_SetNowLine(t.list, row);
     show_signal(t);
-    BA_RedrawTitle();
+    show_title();
 }
 
 void OneOf_Open(const ONEOF& t)
@@ -163,18 +178,25 @@ void OneOf_Open(const ONEOF& t)
     for (int row = 0; row < s.count; row++) {
         LS_SetData(t.list, row, 0, s.name[row]);
         for (int n = 0; n < t.column_count; n++)
-            LS_SetData(t.list, row, n + 1, s.cell[row][n]);
+            if (t.columns[n].path)
+                LS_SetData(t.list, row, n + 1, s.cell[row][n]);
         follow_row(t, "add", row);
     }
     LS_SetNData(t.list, s.count);
     LS_SetNowLine(t.list, s.cursor);
     fill_signals(t);
+    BA_RedrawTitle(); // it was drawn with the word that stood there before
 }
 
 void OneOf_Close(const ONEOF& t)
 {
     for (int row = 0; row < t.state->count; row++)
         follow_row(t, "remove", row);
+}
+
+const char* OneOf_Signal(int row)
+{
+    return row >= 0 && row < signals.count ? signals.row[row].name : "";
 }
 
 // --- Messages ---
@@ -193,7 +215,11 @@ static int tally(const ONEOF& t, const char* path, const char* value)
         const int row = row_of(t, t.columns[n].path, path);
         if (row < 0)
             continue;
-        CopyText(t.state->cell[row][n], shown_as(t.columns[n].words, value));
+        char text[ONEOF_TEXT];
+        CopyText(text, shown_as(t.columns[n].words, value));
+        if (Same(text, t.state->cell[row][n]))
+            return 1;
+        CopyText(t.state->cell[row][n], text);
         LS_RedrawData(t.list);
         if (row == t.state->cursor && n == signal_column(t))
             show_signal(t);

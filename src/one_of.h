@@ -9,8 +9,8 @@
 #include "a_pc.h"
 #include "types.h"
 
-constexpr int ONEOF_ROWS = 64;
-constexpr int ONEOF_COLUMNS = 5;
+constexpr int ONEOF_ROWS = 128;
+constexpr int ONEOF_COLUMNS = 8;
 constexpr int ONEOF_TEXT = 24; // of a cell with its terminator
 
 // What a word of the server's looks like in a cell.
@@ -21,7 +21,7 @@ struct ONEOFWORD {
 extern const ONEOFWORD one_of_switch[]; // a dot while it is on
 
 struct ONEOFCOLUMN {
-    const char* path = nullptr; // "$" is the row's name
+    const char* path = nullptr; // "$" is the row's name; null: page code fills the cells
     const ONEOFWORD* words = nullptr;
 };
 
@@ -42,6 +42,7 @@ struct ONEOF {
     int column_count = 0;
     int signal_list = 0;          // LS number, 0 none: number, name, mark
     const char* signal = nullptr; // where a signal goes, "$" as above; one of the columns' paths
+    const char* (*signal_name)(int number) = nullptr; // null: the switcher's sources; see below
 };
 
 // --- For page code; the object stands in the row behind the lists and before the keys ---
@@ -53,6 +54,9 @@ int OneOf_Proc(const ONEOF& t, int msg, MsgArg ax, MsgArg bx);
 const char* OneOf_Name(const ONEOF& t);
 const char* OneOf_Cell(const ONEOF& t, int row, int column); // "" for what is not there
 void OneOf_Choose(const ONEOF& t, int row);                  // out of range: nothing
+// What a touch on that row of the list of signals sends; "" where it has none. Number 0 to
+// BUS_XPT_SRC - 1; signal_name answers null or "" for one that is not there.
+const char* OneOf_Signal(int row);
 
 // Page code for a page that is no more than that.
 template <const ONEOF& table> int OneOf_CreateOf(int on, uint32_t)

@@ -2,22 +2,6 @@
 #pragma once
 #include "rows.h"
 
-inline constexpr BT_TBL bt_router[] = {
-    Radio(      {.id = 17, .caption = "Level 1", .group = "Level", .cmd = {"~@Level#Level 1"}}),
-    Radio(      {.id = 18, .caption = "Level 2", .group = "Level", .cmd = {"~@Level#Level 2"}}),
-    Radio(      {.id = 19, .caption = "Level 3", .group = "Level", .cmd = {"~@Level#Level 3"}}),
-    Radio(      {.id = 20, .caption = "Level 4", .group = "Level", .cmd = {"~@Level#Level 4"}}),
-    Radio(      {.id = 21, .caption = "Level 5", .group = "Level", .cmd = {"~@Level#Level 5"}}),
-    Radio(      {.id = 22, .caption = "Level 6", .group = "Level", .cmd = {"~@Level#Level 6"}}),
-    Toggle(     {.id = 33, .caption = "Protect", .group = "Protect", .cmd = {"~@Protect#*"}}),
-    Toggle(     {.id = 34, .caption = "Lock", .group = "Protect", .cmd = {"~@Lock#*"}}),
-    Action(     {.id = 49, .caption = "Take", .group = "Take", .cmd = {"~@Take#*"}}),
-    Action(     {.id = 50, .caption = "Clear", .group = "Take", .cmd = {"~@Clear#*"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_router));
-
 inline constexpr BT_TBL bt_sp[] = {
     Toggle(     {.id = 17, .caption = "Func 1", .group = "Function", .cmd = {"~@Func 1#*"}}),
     Toggle(     {.id = 18, .caption = "Func 2", .group = "Function", .cmd = {"~@Func 2#*"}}),
@@ -52,13 +36,6 @@ inline constexpr BT_TBL bt_device_vtr[] = {
 };
 static_assert(ButtonsAreSound(bt_device_vtr));
 
-inline constexpr BT_TBL bt_router_top[] = {
-    Jump(       {.id = 17, .caption = "Control", .group = "Router", .cmd = {"#51110000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_router_top));
-
 inline constexpr BT_TBL bt_sp_top[] = {
     Jump(       {.id = 17, .caption = "SP", .group = "SP", .cmd = {"#52100000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
@@ -85,11 +62,9 @@ inline constexpr BT_TBL bt_macro_top[] = {
 static_assert(ButtonsAreSound(bt_macro_top));
 
 inline constexpr PAGE machines_pages[] = {
-    {.id = 0x51000000, .tree = {"Router"}, .obj = {Base(base_main), Buttons(bt_router_top)}},
     {.id = 0x52000000, .tree = {"SP"}, .obj = {Base(base_main), Buttons(bt_sp_top)}},
     {.id = 0x53000000, .tree = {"Device"}, .obj = {Base(base_main), Buttons(bt_device_top)}},
     {.id = 0x54000000, .tree = {"Macro"}, .obj = {Base(base_main), Buttons(bt_macro_top)}},
-    {.id = 0x51110000, .tree = {"Router", "Control"}, .obj = {Base(base_main), Buttons(bt_router)}},
     {.id = 0x52100000, .tree = {"SP"}, .obj = {Base(base_main), Buttons(bt_sp)}},
     {.id = 0x53210000, .tree = {"Device", "VTR", "Control"}, .obj = {Base(base_main), Buttons(bt_device_vtr)}},
 };

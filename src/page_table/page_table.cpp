@@ -44,6 +44,8 @@
 #include "nb_nonlinear.h"
 #include "nb_wipe.h"
 #include "menu_macro_pages.h"
+#include "operation.h"
+#include "router.h"
 #include "saver.h"
 #include "setup_panel.h"
 #include "setup_router.h"
@@ -91,6 +93,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 dme_pages,
                 global_effect_pages,
                 global_effect_rows,
+                router_pages,
                 machines_pages,
                 menu_macro_pages,
                 menu_macro_sub_pages,
