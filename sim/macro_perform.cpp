@@ -1,4 +1,5 @@
 // What the events of a macro do to the desk, by the roads that panels take.
+#include "device_vtr.h"
 #include "macro_private.h"
 #include "region.h"
 #include "router.h"
@@ -238,6 +239,32 @@ static void tell_device(const MacroLine& line)
     put("Device@", value_of(line, "Device") + "@Command", line.symbol);
 }
 
+// A recorder or player moves, too; the frame memory's outputs bear the symbol alone.
+template <const char* const& word> static void move_device(const MacroLine& line)
+{
+    const std::string mode = value_of(line, "Mode");
+    tell_device(line);
+    (void)DeviceVtr_Do(value_of(line, "Device"), mode.empty() ? word : mode);
+}
+
+static void cue_device(const MacroLine& line)
+{
+    tell_device(line);
+    DeviceVtr_CueTo(value_of(line, "Device"), value_of(line, "Timecode"));
+}
+
+static void load_device(const MacroLine& line)
+{
+    tell_device(line);
+    DeviceVtr_Load(value_of(line, "Device"), value_of(line, "FileName"));
+}
+
+static constexpr const char* MOVE_PLAY = "Play";
+static constexpr const char* MOVE_STOP = "Stop";
+static constexpr const char* MOVE_REWIND = "Rewind";
+static constexpr const char* MOVE_FORWARD = "F Fwd";
+static constexpr const char* MOVE_RECORD = "Record";
+
 // The menu of each panel runs it; the same again is told, too.
 static void menu_macro(const MacroLine& line)
 {
@@ -317,16 +344,16 @@ static constexpr struct {
     {"UtilityButton", utility_button},
     {"KeyBusUtilityButton", key_bus_utility_button},
     {"XptPadPage", pad_page},
-    {"Play", tell_device},
-    {"Cue", tell_device},
-    {"Stop", tell_device},
+    {"Play", move_device<MOVE_PLAY>},
+    {"Cue", cue_device},
+    {"Stop", move_device<MOVE_STOP>},
     {"StartTc", tell_device},
-    {"Rewind", tell_device},
-    {"FF", tell_device},
+    {"Rewind", move_device<MOVE_REWIND>},
+    {"FF", move_device<MOVE_FORWARD>},
     {"FMLoop", tell_device},
-    {"DiskFileLoad", tell_device},
+    {"DiskFileLoad", load_device},
     {"ClipRecall", tell_device},
-    {"DeviceRecord", tell_device},
+    {"DeviceRecord", move_device<MOVE_RECORD>},
 };
 
 void Macro_Perform(const MacroLine& line)

@@ -2,6 +2,8 @@
 #include "attach.h"
 #include "clip_output.h"
 #include "copy_swap.h"
+#include "device_bus.h"
+#include "device_vtr.h"
 #include "diag.h"
 #include "dissolve.h"
 #include "dme_channels.h"
@@ -286,6 +288,8 @@ void System_Install()
     Dme_Install();
     Rules_Install();
     Router_Install();
+    DeviceVtr_Install();
+    DeviceBus_Install();
     Setup_Install();
     SetupPanel_Install();
     SetupSwitcherIo_Install();

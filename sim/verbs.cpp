@@ -3,6 +3,8 @@
 #include "autoload.h"
 #include "clip_output.h"
 #include "copy_swap.h"
+#include "device_bus.h"
+#include "device_vtr.h"
 #include "diag.h"
 #include "dme_channels.h"
 #include "file_job.h"
@@ -112,6 +114,9 @@ static constexpr Owner owners[] = {
     {"Engineering Setup@Router@", SetupUnits_Put},
     {"Engineering Setup@Tally@", SetupUnits_Put},
     {"Router@", Router_Put},
+    {"Device@", DeviceVtr_Put},
+    {"Device@", DeviceBus_Put},
+    {"Auto Execute Menu@", DeviceBus_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };
@@ -304,6 +309,8 @@ static void verb_turn(Node& node, int detents)
     double number = 0;
     (void)Text_ToNumber(node.value, &number); // no number yet: from 0
     std::string value;
+    if (DeviceVtr_Turn(node.path, detents))
+        return;
     if (node.type.kind == KIND_NUM)
         value = Tree_NumberText(node.type, number + detents * std::pow(10, -node.type.decimals));
     else if (node.type.kind == KIND_ANY)

@@ -16,39 +16,12 @@ inline constexpr BT_TBL bt_sp[] = {
 };
 static_assert(ButtonsAreSound(bt_sp));
 
-inline constexpr BT_TBL bt_device_vtr[] = {
-    Radio(      {.id = 17, .caption = "Dev 1", .group = "Device", .cmd = {"~@Device#Dev 1"}}),
-    Radio(      {.id = 18, .caption = "Dev 2", .group = "Device", .cmd = {"~@Device#Dev 2"}}),
-    Radio(      {.id = 19, .caption = "Dev 3", .group = "Device", .cmd = {"~@Device#Dev 3"}}),
-    Radio(      {.id = 20, .caption = "Dev 4", .group = "Device", .cmd = {"~@Device#Dev 4"}}),
-    Radio(      {.id = 21, .caption = "Dev 5", .group = "Device", .cmd = {"~@Device#Dev 5"}}),
-    Radio(      {.id = 22, .caption = "Dev 6", .group = "Device", .cmd = {"~@Device#Dev 6"}}),
-    Action(     {.id = 33, .caption = "Rewind", .group = "Transport", .cmd = {"~@Rewind#*"}}),
-    Action(     {.id = 34, .caption = "Play", .group = "Transport", .cmd = {"~@Play#*"}}),
-    Action(     {.id = 35, .caption = "F Fwd", .group = "Transport", .cmd = {"~@F Fwd#*"}}),
-    Action(     {.id = 36, .caption = "Stop", .group = "Transport", .cmd = {"~@Stop#*"}}),
-    Action(     {.id = 37, .caption = "Record", .group = "Transport", .cmd = {"~@Record#*"}}),
-    Action(     {.id = 38, .caption = "Cue", .group = "Transport", .cmd = {"~@Cue#*"}}),
-    Toggle(     {.id = 49, .caption = "Loop", .group = "Mode", .cmd = {"~@Loop#*"}}),
-    Toggle(     {.id = 50, .caption = "Variable", .group = "Mode", .cmd = {"~@Variable#*"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_device_vtr));
-
 inline constexpr BT_TBL bt_sp_top[] = {
     Jump(       {.id = 17, .caption = "SP", .group = "SP", .cmd = {"#52100000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_sp_top));
-
-inline constexpr BT_TBL bt_device_top[] = {
-    Jump(       {.id = 17, .caption = "VTR", .group = "Device", .cmd = {"#53210000"}}),
-    Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_device_top));
 
 inline constexpr BT_TBL bt_macro_top[] = {
     Jump(       {.id = 17, .caption = "Macro", .group = "Macro", .cmd = {"#54100000"}}),
@@ -63,8 +36,6 @@ static_assert(ButtonsAreSound(bt_macro_top));
 
 inline constexpr PAGE machines_pages[] = {
     {.id = 0x52000000, .tree = {"SP"}, .obj = {Base(base_main), Buttons(bt_sp_top)}},
-    {.id = 0x53000000, .tree = {"Device"}, .obj = {Base(base_main), Buttons(bt_device_top)}},
     {.id = 0x54000000, .tree = {"Macro"}, .obj = {Base(base_main), Buttons(bt_macro_top)}},
     {.id = 0x52100000, .tree = {"SP"}, .obj = {Base(base_main), Buttons(bt_sp)}},
-    {.id = 0x53210000, .tree = {"Device", "VTR", "Control"}, .obj = {Base(base_main), Buttons(bt_device_vtr)}},
 };

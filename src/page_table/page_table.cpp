@@ -3,6 +3,7 @@
 #include "ccr.h"
 #include "color_bkgd.h"
 #include "copyswap.h"
+#include "device.h"
 #include "diag.h"
 #include "dme.h"
 #include "effect_pages.h"
@@ -94,6 +95,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 global_effect_pages,
                 global_effect_rows,
                 router_pages,
+                device_pages,
                 machines_pages,
                 menu_macro_pages,
                 menu_macro_sub_pages,

@@ -1,0 +1,26 @@
+// pc_device: page code of the device pages: recorders and players, the files of a disk recorder,
+// P-Bus devices, GPI outputs, what each does on its timeline, the steps of the auto execute menu.
+// All are pages about one of many (one_of); what is chosen stays from one page to the next.
+#pragma once
+#include "a_pc.h"
+
+constexpr int DEVICES = 12;
+constexpr int PBUS_DEVICES = 24;
+constexpr int PBUS_REGISTERS = 99;
+constexpr int GPI_OUTPUTS = 8;
+constexpr int AUTO_STEPS = 10;
+
+#define DEVICE_FILE_LOAD "LOCAL@Device@File@Load"
+#define DEVICE_FILE_CUE "LOCAL@Device@File@Load and Cue"
+#define DEVICE_FILE_READ "LOCAL@Device@File@Read"
+#define DEVICE_GPI_FIRE "LOCAL@Device@GPI@Test Fire"
+
+extern const PC_TBL pc_device_control; // shows the chosen device large above its keys
+extern const PC_TBL pc_device_timeline;
+extern const PC_TBL pc_device_files;
+extern const PC_TBL pc_device_setting;
+extern const PC_TBL pc_device_pbus;
+extern const PC_TBL pc_device_pbus_timeline;
+extern const PC_TBL pc_device_gpi;
+extern const PC_TBL pc_device_gpi_timeline;
+extern const PC_TBL pc_auto_execute;

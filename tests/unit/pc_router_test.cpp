@@ -1,0 +1,108 @@
+// The router's pages: what a touch on a source or a destination sends, and when it sends nothing.
+#include "a_ls.h"
+#include "device.h"
+#include "pane.h"
+#include "table_page.h"
+
+namespace
+{
+constexpr uint32_t DESTINATION = 0x51110000, SOURCE = 0x51210000, LEVEL = 0x51310000;
+constexpr int KEY_TAKE = 33, KEY_LEVELS = 49;
+const std::string DEST = "Router@Destination@";
+
+struct RouterPage : TablePage {
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        Names("SRC ", "DST ");
+        SYS_MyPnl = 1;
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        Names("", "");
+        TablePage::TearDown();
+    }
+    static void Names(const std::string& source, const std::string& destination)
+    {
+        const std::string list = "Engineering Setup@Panel@Config@External Bus Link@S-BUS ";
+        for (int n = 1; n <= 4; n++) {
+            const std::string number = std::to_string(n);
+            (void)Tell(list + "Src Name List#" + number + "," + source + number);
+            (void)Tell(list + "Dst Name List#" + number + "," + destination + number);
+        }
+    }
+    static Lines Choose(int list, int row)
+    {
+        (void)TakeQueuedCommands();
+        SendMessage(LMSG_LISTSEL, list, row, 0, 0);
+        return Puts(TakeQueuedCommands());
+    }
+};
+} // namespace
+
+TEST_F(RouterPage, ASourceIsThePresetOfTheChosenDestinationUnlessItIsNotOursToChange)
+{
+    (void)Open(DESTINATION);
+    EXPECT_STREQ(LS_GetData(1, 2, 1), "DST 3");
+    (void)Choose(1, 2);
+    EXPECT_THAT(Choose(2, 1), testing::ElementsAre("put " + DEST + "Dest3@Preset#SRC 2"));
+    static const struct {
+        const char* lock;
+        const char* owner;
+        bool is_sent;
+    } cases[] = {{"Protect", "PNL2", false},
+                 {"Protect", "PNL1", true},
+                 {"Lock", "PNL1", false},
+                 {"Lock", "", false},
+                 {"Free", "", true}};
+    for (const auto& c : cases) {
+        TellAll(DEST, {std::string("Dest3@Lock#") + c.lock, std::string("Dest3@Owner#") + c.owner});
+        EXPECT_EQ(Choose(2, 0).size(), c.is_sent ? 1u : 0u) << c.lock << c.owner;
+        EXPECT_EQ(Pane_GetActiveID() != 0, !c.is_sent) << c.lock << c.owner;
+        if (Pane_GetActiveID())
+            Pane_Quit(Pane_GetActiveID());
+        EXPECT_EQ(BT_GetVisible(KEY_TAKE),
+                  std::string(c.lock) == "Lock" ? BT_DISABLED : BT_ENABLED);
+    }
+    EXPECT_THAT(Press(KEY_TAKE), testing::Contains("put " + DEST + "Dest3@Take#true"));
+}
+
+TEST_F(RouterPage, OneSourceGoesToEachDestinationThatIsTouchedAndItsPlacesAreMarked)
+{
+    (void)Open(SOURCE);
+    (void)Choose(2, 3);
+    EXPECT_THAT(Choose(1, 0), testing::ElementsAre("put " + DEST + "Dest1@Preset#SRC 4"));
+    EXPECT_THAT(Choose(1, 127), testing::ElementsAre("put " + DEST + "Dest128@Preset#SRC 4"));
+    (void)Tell(DEST + "Dest128@Preset#SRC 4");
+    (void)Tell("Router@Status@Xpt Assign@Dest7@Level1#SRC 4");
+    Pass(10);
+    for (int row : {0, 6, 127})
+        EXPECT_EQ(LS_GetData(1, row, 5) != nullptr, row != 0) << row;
+    (void)Choose(2, 0);
+    Pass(10);
+    EXPECT_EQ(LS_GetData(1, 6, 5), nullptr) << "another source";
+    EXPECT_EQ(Choose(2, 4).size() + Choose(1, 128).size() + Choose(1, -1).size(), 0u);
+    const Lines opened = Open(DESTINATION);
+    EXPECT_STREQ(GL_NowTree[2], "Dest128") << "it stays from page to page";
+    EXPECT_EQ(Held(opened, DEST + "Dest128@Owner"), 1);
+    EXPECT_EQ(Held(Leave(), DEST + "Dest128@Owner"), -1);
+}
+
+TEST_F(RouterPage, OnlyTheLevelsThatWereChangedAreSent)
+{
+    (void)Open(LEVEL);
+    TellAll("Router@Level@Level", {"1#true", "2#false", "8#true", "9#true"});
+    EXPECT_EQ(Caption(KEY_LEVELS), "Levels\n18");
+    PaneRTRLvl_SetSelect(0x40); // the snapshots' choice
+    (void)Press(KEY_LEVELS);
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x81);
+    PaneRTRLvl_SetSelect(0x83);
+    (void)TakeQueuedCommands();
+    const int pane = Pane_GetActiveID();
+    Pane_Quit(pane);
+    SendMessage(LMSG_PANEQUIT, pane, 1, 0, 0);
+    EXPECT_THAT(Puts(TakeQueuedCommands()), testing::ElementsAre("put Router@Level@Level2#true"));
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x40) << "is not touched";
+    PaneRTRLvl_SetSelect(0);
+}
