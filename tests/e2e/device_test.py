@@ -35,7 +35,7 @@ class Machines(DeskCase):
 
     def test_1_a_source_is_routed(self):
         self.open_page("5111.0000", f"add {DESTINATION}Dest128@Owner")
-        time.sleep(0.4)
+        time.sleep(0.3)
         self.desk.touch(200, row(3))
         self.desk.touch(540, row(5))
         self.wait_value(DESTINATION + "Dest3@Preset", "SRC5")
@@ -79,7 +79,7 @@ class Machines(DeskCase):
         self.touch(BTN_PLAY)
         self.wait_value(DEVICE + "Transport", "Play")
         first = self.seconds()
-        time.sleep(1.0)
+        time.sleep(0.8)
         self.assertGreater(self.seconds(), first + 0.5)
         self.assertNotEqual(self.desk.part(364, 78, 697, 158), picture, "the time code counts")
         self.wait_value(DEVICE + "Transport", "Stop", 9)
