@@ -45,7 +45,6 @@
 #include "nb_nonlinear.h"
 #include "nb_wipe.h"
 #include "menu_macro_pages.h"
-#include "operation.h"
 #include "router.h"
 #include "saver.h"
 #include "setup_panel.h"
