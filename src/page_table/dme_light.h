@@ -87,6 +87,8 @@ inline constexpr BT_TBL bt_dme_bkgd[] = {
     Toggle({.id = 18, .caption = "With\nShadow",  .group = "Bkgd", .cmd = {"~@Shadow#*", "~@Bkgd#false"}}),
     Radio ({.id = 33, .caption = "Matte",         .group = "Fill", .cmd = {"~@Fill#Matte", "~@Bkgd#false"}, .nb = nb_dme_bkgd.row}),
     Radio ({.id = 34, .caption = "Utility\nBus",  .group = "Fill", .cmd = {"~@Fill#Utility", "~@Bkgd#false"}}),
+    Radio ({.id = 35, .caption = "Texture",       .group = "Fill", .cmd = {"~@Fill#Texture", "~@Bkgd#false"}}),
+    Jump  ({.id = 37, .caption = "Texture\nSelect", .group = "Adjust", .cmd = {"#41560001", "~@Fill#!Texture", "~@Bkgd#false"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_dme_bkgd));

@@ -56,6 +56,7 @@
 #include "snapshot_pages.h"
 #include "status.h"
 #include "system.h"
+#include "texture.h"
 #include "top.h"
 
 // The rows that a template of pages makes for all banks, or for the keys of all banks.
@@ -91,6 +92,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 misc_pages,
                 status_pages,
                 dme_pages,
+                texture_pages,
                 global_effect_pages,
                 global_effect_rows,
                 router_pages,

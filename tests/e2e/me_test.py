@@ -155,6 +155,19 @@ class MixEffect(DeskCase):
         self.assertEqual(self.desk.value("M/E-1@Key1@Status@Key ON"), "true")
         self.assertEqual(self.desk.value("M/E-4@Key6@Edge@Edge"), "Border")
 
+    def test_041_a_key_is_copied_to_another_and_brought_back(self):
+        kind, clip = "M/E-1@Key2@Type@Key Type", "M/E-1@Key1@Type@Key Type@Linear@Clip"
+        self.desk.console("set M/E-1@Key1@Type@Key Type#Linear")
+        self.desk.console(f"set {kind}#Luminance")
+        self.desk.console(f"set {clip}#33.00")
+        self.open_page("3112", "add M/E-1@Key1@Type@Key Type")
+        self.desk.touch(520, 76 + 22 + 22 + 11)  # the second line on the right
+        self.touch(49, "put Copy/Swap@Key@Copy#M/E-1@Key1,M/E-1@Key2,All")
+        self.wait_value(kind, "Linear")
+        self.wait_value(clip.replace("Key1", "Key2"), "33.00")
+        self.touch(51, "put Copy/Swap@Key@Undo#true")
+        self.wait_value(kind, "Luminance")
+
     def test_05_a_4k_format_takes_eight_buttons_from_key3(self):
         lost = (19, 20, 21, 22, 35, 36, 37, 38)
         self.open_page("1131", "add M/E-1@Key3@Type@Key Type")
