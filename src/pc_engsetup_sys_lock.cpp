@@ -113,9 +113,8 @@ struct SETUPLOCKITEM {
 };
 enum : int { COL_MENU, COL_GROUP, COL_NAME, COL_LOCK };
 constexpr int LIST = 1;
-constexpr int GROUPS = 6;
-constexpr const char* group_names[GROUPS] = {"System", "Panel", "Switcher",
-                                             "DME",    "DCU",   "Router/Tally"};
+constexpr const char* group_names[SETUP_GROUPS] = {"System", "Panel",        "Switcher", "DME",
+                                                   "DCU",    "Router/Tally", "MPE"};
 constexpr const char* LOCAL_LOCK = "LOCAL@SetupOpeLock@";
 } // namespace
 
@@ -202,7 +201,7 @@ static void setupopelock_save()
 
 static void select_group(const char* value)
 {
-    const int group = Index(value, GROUPS);
+    const int group = Index(value, SETUP_GROUPS);
     if (group < 0)
         return;
     VFGroupSel = group;

@@ -264,6 +264,7 @@ inline constexpr BT_TBL bt_engsetup_system_maintenance_setupopelock[] = {
     Radio( {.id = 49, .caption = "DME", .group = "Group", .cmd = {"LOCAL@SetupOpeLock@VF Group#3"}}),
     Radio( {.id = 50, .caption = "DCU", .group = "Group", .cmd = {"LOCAL@SetupOpeLock@VF Group#4"}}),
     Radio( {.id = 51, .caption = "Router\nTally", .group = "Group", .cmd = {"LOCAL@SetupOpeLock@VF Group#5"}}),
+    Radio( {.id = 52, .caption = "MPE", .group = "Group", .cmd = {"LOCAL@SetupOpeLock@VF Group#6"}}),
     Action({.id = BTN_LOCK_ITEM,       .caption = "Lock Item\nSelect", .group = "Lock Item", .cmd = {"LOCAL@SetupOpeLock@Lock Item Select"}}),
     Action({.id = BTN_LOCK_ITEM_CLEAR, .caption = "Lock Item\nAll Clear", .group = "Lock Item", .cmd = {"LOCAL@SetupOpeLock@Lock Item All Clear"}}),
     Toggle({.id = BTN_LOCK,            .caption = "Lock", .group = "Password", .cmd = {"LOCAL@SetupOpeLock@Lock#true"}}),
