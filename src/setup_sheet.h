@@ -111,6 +111,13 @@ constexpr SETUPCOLUMN SheetShown(const char* head, int width, const char* path)
 {
     return {.head = head, .width = width, .path = path, .is_fixed = 1};
 }
+// Of a path that the application follows all the time: leaving the page must not end that.
+constexpr SETUPCOLUMN SheetFollowed(SETUPCOLUMN column)
+{
+    column.ask = SETUP_READ;
+    column.is_reread = 1;
+    return column;
+}
 constexpr SETUPCOLUMN SheetPart(SETUPCOLUMN column, int part)
 {
     column.part = part;

@@ -74,10 +74,11 @@ inline constexpr BT_TBL bt_fmem1_clip_file[] = {
 #define FMEM1_FREEZE(unit) "Frame Mem@Edit@Freeze@Freeze@" unit "#*"
 inline constexpr BT_TBL bt_fmem1_freeze[] = {
     FMEM1_FOLDER,
-    Fmem1Key(BT_TOGGLE, 0, {.id = 17, .caption = "Frame", .group = "Freeze 1", .cmd = {FMEM1_FREEZE("Frame@PROC1")}}),
-    Fmem1Key(BT_TOGGLE, 1, {.id = 18, .caption = "Field", .group = "Freeze 1", .cmd = {FMEM1_FREEZE("Field@PROC1")}}),
-    Fmem1Key(BT_TOGGLE, 2, {.id = 19, .caption = "Frame", .group = "Freeze 2", .cmd = {FMEM1_FREEZE("Frame@PROC2")}}),
-    Fmem1Key(BT_TOGGLE, 3, {.id = 20, .caption = "Field", .group = "Freeze 2", .cmd = {FMEM1_FREEZE("Field@PROC2")}}),
+    // Followed all the time: the page must not end that.
+    Fmem1Key(BT_TOGGLE, 0, {.id = 17, .caption = "Frame", .group = "Freeze 1", .cmd = {FMEM1_FREEZE("Frame@PROC1")}, .no_add = 1}),
+    Fmem1Key(BT_TOGGLE, 1, {.id = 18, .caption = "Field", .group = "Freeze 1", .cmd = {FMEM1_FREEZE("Field@PROC1")}, .no_add = 1}),
+    Fmem1Key(BT_TOGGLE, 2, {.id = 19, .caption = "Frame", .group = "Freeze 2", .cmd = {FMEM1_FREEZE("Frame@PROC2")}, .no_add = 1}),
+    Fmem1Key(BT_TOGGLE, 3, {.id = 20, .caption = "Field", .group = "Freeze 2", .cmd = {FMEM1_FREEZE("Field@PROC2")}, .no_add = 1}),
     Fmem1Key(BT_ACTION, 4, {.id = BTN_FMEM1_STORE1, .caption = "Store\nFreeze 1", .group = "Store", .cmd = FMEM1("Store 1")}),
     Fmem1Key(BT_ACTION, 5, {.id = BTN_FMEM1_STORE2, .caption = "Store\nFreeze 2", .group = "Store", .cmd = FMEM1("Store 2")}),
     Toggle({.id = BTN_FMEM1_AUTO_STORE, .caption = "Auto\nStore", .x1 = 602, .y1 = 362, .x2 = 686, .y2 = 427, .cmd = FMEM1("Auto Store#*")}),

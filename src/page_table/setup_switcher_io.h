@@ -309,7 +309,7 @@ inline constexpr BT_TBL dme_type_more[] = {SheetJump(36, "SDI I/F", "#73370013")
 inline constexpr SETUPSHEET engsetup_switcher_devinf_dmetypesetting =
     SheetMore(SheetOf(devinf_dmetypesetting_columns, 4, {.names = effects_units, .key_head = "DME"}), dme_type_more);
 inline constexpr SETUPWORD words_sdi[] = {{"Dedicated", "Dedicated"}, {"SDI", "SDI"}, {}};
-inline constexpr SETUPCOLUMN dme_sdi_columns[] = {SheetWord("Interface", 490, "Engineering Setup@Switcher@SDI I/F@$", words_sdi)};
+inline constexpr SETUPCOLUMN dme_sdi_columns[] = {SheetFollowed(SheetWord("Interface", 490, "Engineering Setup@Switcher@SDI I/F@$", words_sdi))};
 inline constexpr BT_TBL to_dme_type[] = {SheetJump(52, "DME Type\nSetting", "#73370003")};
 inline constexpr SETUPSHEET engsetup_switcher_devinf_dmetypesetting_dmesdiinf =
     SheetMore(SheetOf(dme_sdi_columns, 4, {.names = effects_units, .key_head = "DME", .question = setup_reboot_question}), to_dme_type);

@@ -15,12 +15,6 @@ constexpr SETUPSHEET SheetOfNames(const SETUPCOLUMN (&columns)[N], const char* c
     rest.names = names;
     return SheetOf(columns, int(K), rest);
 }
-constexpr SETUPCOLUMN SheetFollowed(SETUPCOLUMN column) // somebody follows it all the time, or nobody
-{
-    column.ask = SETUP_READ;
-    column.is_reread = 1;
-    return column;
-}
 
 // --- DME: what the units are ---
 

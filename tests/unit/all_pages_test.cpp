@@ -4,6 +4,7 @@
 #include "command.h"
 #include "global.h"
 #include "harness.h"
+#include "initread.h"
 #include "log.h"
 #include "memory.h"
 #include "message.h"
@@ -27,6 +28,7 @@ struct Books {
     std::map<std::string, int> open; // how often more it was added than removed
     std::set<std::string> held;      // the paths that are subscribed now
     std::set<std::string> stray;     // removed, but not added before
+    std::set<std::string> removed;   // at any time
 
     void Take()
     {
@@ -40,6 +42,7 @@ struct Books {
                 held.insert(path);
             } else if (verb == "remove") {
                 held.erase(path);
+                removed.insert(path);
                 if (--open[path] < 0) {
                     open[path] = 0;
                     stray.insert(path);
@@ -121,7 +124,9 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
     std::set<std::string> before;
     int faults = 0;
     std::set<uint32_t> shown;
+    std::set<std::string> removed;
     const int opened = Walk([&](const PAGE& row, Books& books) {
+        removed = books.removed;
         shown.insert(row.id);
         for (const std::string& path : books.held)
             if (path != "TopMenu" && !before.contains(path) && faults++ < 40)
@@ -132,6 +137,13 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
         before = books.held;
     });
     EXPECT_EQ(faults, 0);
+    InitialCommand0();
+    InitialCommand1();
+    InitialCommand2();
+    removed.erase("Frame Mem 2@Clip/Still@Out Pair Select"); // nobody but its own object hears it
+    for (const std::string& line : TakeQueuedCommands())
+        EXPECT_FALSE(BeginsWith(line.c_str(), "add ") && removed.contains(line.substr(4)))
+            << line << ": a page ends what is followed all the time";
     for (const std::string& title : titles)
         if (title.find('\n') == std::string::npos) {
             EXPECT_LE(TDL_GetSymbolWidth(title.c_str(), 1), 84u) << title << " is cut";

@@ -77,7 +77,6 @@ TEST_F(SwitcherIo, EachPageAsksForItsSettings)
         {0x73370001, {"Device Interface@Remote Assign@Remote1"}},
         {0x73370002, {"Device Interface@AUX Control@Control@48"}},
         {0x73370003, {"Device Interface@DME Type@DME4"}},
-        {0x73370013, {"SDI I/F@DME1", "SDI I/F@DME4"}},
         {0x73370004, {"Device Interface@GPI Input@Action Type Region@8@1", "Config@Key Config"}},
         {0x73370005, {"Device Interface@GPI Input@H/L Set@Function@8"}},
         {0x73370009, {"Device Interface@AUX Mix@Mix@1/2"}},
