@@ -2,55 +2,18 @@
 
 usage: switcher_io_test.py BUILD_DIR [TEST...]
 """
-import os
-import re
 import time
 import unittest
 
-from desk import grid
-from deskcase import DeskCase
+from deskcase import SetupCase
 
 SWITCHER = "Engineering Setup@Switcher@"
 GPI = SWITCHER + "Device Interface@GPI Output@"
 FC = SWITCHER + "Input@FC Adjust@"
 OUTPUT = SWITCHER + "Output@"
-LETTERS = {c: (row, first + i) for row, (first, keys) in
-           enumerate([(0, "`1234567890-="), (0, "qwertyuiop[]\\"), (0, "asdfghjkl;'"), (2, "zxcvbnm,./")])
-           for i, c in enumerate(keys)}
 
 
-class SwitcherIo(DeskCase):
-    def open(self, number):
-        self.open_page(number, "put TopMenu@SubMenuSite#false")
-        self.desk.wire()
-
-    def push(self, key):
-        self.desk.touch(*grid(key), settle=0.25)
-
-    def row(self, n):
-        self.desk.touch(150, 76 + 22 * (n + 1) + 10, settle=0.2)
-
-    def popup(self, place, columns, rows):
-        width, height = 78 * columns + 26, 43 * rows + 76
-        self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
-                        300 - height // 2 + 50 + 43 * (place // columns), settle=0.25)
-
-    def type(self, text):
-        for c in text:
-            row, column = LETTERS[c]
-            self.desk.touch(39 + 12 + 54 * column + 25, 115 + 91 + 54 * row + 25, 0.2)
-        self.desk.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25)
-
-    def listed(self, path, row):
-        """A row of a list that the server holds, without its number."""
-        out = os.path.join(self.desk.work, "sim.out")
-        seen = os.path.getsize(out)
-        self.desk.console(f"get {path}")
-        time.sleep(0.2)
-        with open(out, encoding="latin-1") as f:
-            f.seek(seen)
-            return re.search(rf"^{re.escape(path)}#{row},(.*)$", f.read(), re.M).group(1)
-
+class SwitcherIo(SetupCase):
     def test_1_the_values_of_a_gpi_port_and_its_test_fire(self):
         desk = self.desk
         self.open("7337.7")
