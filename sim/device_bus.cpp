@@ -1,19 +1,10 @@
 #include "device_bus.h"
-#include "macro.h"
-#include "system.h"
 #include "text.h"
 #include "tree.h"
-#include <climits>
 
-static constexpr int PBUS_DEVICES = 24, GPI_OUTPUTS = 8, STEPS = 10;
+static constexpr int PBUS_DEVICES = 24, GPI_OUTPUTS = 8;
 static const std::string PBUS = "Device@P-BUS@", PBUS_TIMELINE = "Device@P-BUS Timeline@";
 static const std::string GPI = "Device@GPI@", GPI_TIMELINE = "Device@GPI Timeline@";
-static const std::string AUTO = "Auto Execute Menu@";
-
-static struct {
-    int step = -1;      // that waits or was executed last; -1 none
-    int64_t due_ms = 0; // 0: nothing runs
-} ae;
 
 static std::string value_of(const std::string& path)
 {
@@ -47,73 +38,6 @@ static void tell_enabled(const std::string& what)
             Tree_Show(pbus_path(PBUS, n, "Last"), what);
 }
 
-// --- Auto execute ---
-
-static void execute(int n)
-{
-    const std::string action = value_of(numbered_path(AUTO, n, "Action"));
-    const std::string reg = value_of(numbered_path(AUTO, n, "Register"));
-    long number = 0;
-    (void)Text_ToInt(reg, &number);
-    if (action == "Macro")
-        Macro_Run(int(number));
-    else if (action == "Master Snapshot")
-        (void)Macro_Operate("MasterSnapshot,Register," + reg);
-    else if (action == "Shotbox")
-        (void)Macro_Operate("ShotBox,Register," + reg);
-    else
-        (void)Macro_Operate("MenuMacroRun,Register," + reg);
-    Tree_Show(numbered_path(AUTO, n, "State"), "Done");
-}
-
-// The next step that does something begins to wait. False: there is none.
-static bool wait_for_next(int64_t now)
-{
-    for (int n = ae.step + 1; n < STEPS; ++n) {
-        const std::string action = value_of(numbered_path(AUTO, n, "Action"));
-        if (action.empty() || action == "None")
-            continue;
-        double frames = 0;
-        (void)Text_ToNumber(value_of(numbered_path(AUTO, n, "Wait")), &frames);
-        ae.step = n;
-        ae.due_ms = now + int64_t(frames * 1000 / System_FrameRate()) + 1;
-        Tree_Show(numbered_path(AUTO, n, "State"), "Wait");
-        return true;
-    }
-    return false;
-}
-
-static void begin(int64_t now)
-{
-    ae = {};
-    show_all(AUTO, STEPS, false, "State", "");
-    if (!wait_for_next(now))
-        Tree_Show(AUTO + "Run", "false");
-}
-
-int64_t DeviceBus_Tick(int64_t now)
-{
-    const bool runs = value_of(AUTO + "Run") == "true";
-    if (runs && ae.due_ms == 0)
-        begin(now);
-    if (!runs && ae.due_ms != 0)
-        ae = {};
-    if (ae.due_ms == 0)
-        return INT64_MAX;
-    if (now < ae.due_ms)
-        return ae.due_ms;
-    execute(ae.step);
-    if (wait_for_next(now))
-        return ae.due_ms;
-    if (value_of(AUTO + "Loop") == "true") {
-        begin(now);
-        return ae.due_ms ? ae.due_ms : INT64_MAX;
-    }
-    ae = {};
-    Tree_Show(AUTO + "Run", "false");
-    return INT64_MAX;
-}
-
 // --- Puts ---
 
 bool DeviceBus_Put(const std::string& path, const std::string& value)
@@ -133,10 +57,6 @@ bool DeviceBus_Put(const std::string& path, const std::string& value)
         show_all(GPI, GPI_OUTPUTS, false, "Enable", path == GPI + "All Enable" ? "true" : "false");
     else if (path == GPI_TIMELINE + "All Off")
         show_all(GPI_TIMELINE, GPI_OUTPUTS, false, "Fire", "false");
-    else if (path == AUTO + "All None")
-        show_all(AUTO, STEPS, false, "Action", "None");
-    else if (path == AUTO + "Next" && ae.due_ms != 0)
-        ae.due_ms = 1; // its wait is over
     return false;
 }
 
@@ -144,7 +64,6 @@ void DeviceBus_Install()
 {
     static const char* const names[PBUS_DEVICES] = {"DVE 1", "DVE 2", "AUDIO MIXER", "STILL STORE",
                                                     "CG 1",  "CG 2",  "LIGHTS"};
-    ae = {};
     for (int n = 0; n < PBUS_DEVICES; ++n) {
         Tree_Preset(pbus_path(PBUS, n, "Name"), names[n] ? names[n] : "");
         Tree_Preset(pbus_path(PBUS, n, "Enable"), names[n] ? "true" : "false");
@@ -157,11 +76,5 @@ void DeviceBus_Install()
         Tree_Preset(numbered_path(GPI, n, "Enable"), "true");
         Tree_Preset(numbered_path(GPI_TIMELINE, n, "Fire"), "false");
         Tree_Preset(numbered_path(GPI_TIMELINE, n, "Delay"), "0");
-    }
-    for (int n = 0; n < STEPS; ++n) {
-        Tree_Preset(numbered_path(AUTO, n, "Action"), "None");
-        Tree_Preset(numbered_path(AUTO, n, "Register"), "1");
-        Tree_Preset(numbered_path(AUTO, n, "Wait"), "0");
-        Tree_Preset(numbered_path(AUTO, n, "State"), "");
     }
 }

@@ -3,7 +3,6 @@
 #include "autoload.h"
 #include "clip_output.h"
 #include "console.h"
-#include "device_bus.h"
 #include "device_vtr.h"
 #include "dissolve.h"
 #include "drive.h"
@@ -116,7 +115,7 @@ static void main_turn(int64_t* next)
         std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
                   Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then), FileJob_Tick(then),
                   Hub_Tick(then), ClipOutput_Tick(then), Autoload_Tick(then), Setup_Tick(then),
-                  Macro_Tick(then), DeviceVtr_Tick(then), DeviceBus_Tick(then)});
+                  Macro_Tick(then), DeviceVtr_Tick(then)});
 }
 
 int main(int argc, char** argv)

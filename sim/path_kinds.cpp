@@ -80,8 +80,6 @@ static constexpr PathKind kinds[] = {
     {"Device@P-BUS Timeline@*@Register", "num 0 99 0"},
     {"Device@P-BUS Timeline@*@Trigger", "num 1 8 0"},
     {"Device@GPI Timeline@*@Delay", "num 0 999 0"},
-    {"Auto Execute Menu@*@Register", "num 1 250 0"},
-    {"Auto Execute Menu@*@Wait", "num 0 999 0"},
     {"Router@Destination@*@Take", "action"},
     {"Router@Destination@*@Undo", "action"},
     {"Router@Salvo@*@Store", "action"},

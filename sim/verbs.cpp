@@ -116,7 +116,6 @@ static constexpr Owner owners[] = {
     {"Router@", Router_Put},
     {"Device@", DeviceVtr_Put},
     {"Device@", DeviceBus_Put},
-    {"Auto Execute Menu@", DeviceBus_Put},
     {"", Dme_Put},
     {"", Transition_Put},
 };

@@ -64,11 +64,6 @@ static int gpi_names(const char** names, int max)
 {
     return numbered<GPI_OUTPUTS>("", names, max);
 }
-static int step_names(const char** names, int max)
-{
-    return numbered<AUTO_STEPS>("", names, max);
-}
-
 // --- Pages that are no more than one of many with a switch ---
 
 static int view_create(const View& v, int on)
@@ -92,18 +87,12 @@ template <const View& view> static int proc_of(int msg, MsgArg ax, MsgArg bx, Ms
 static ONEOFSTATE devices;
 static ONEOFSTATE pbus;
 static ONEOFSTATE gpi;
-static ONEOFSTATE steps;
 
 template <size_t N>
 static constexpr ONEOF table_of(ONEOFSTATE* state, int (*names)(const char**, int),
-                                const ONEOFCOLUMN (&columns)[N], int word = 2)
+                                const ONEOFCOLUMN (&columns)[N])
 {
-    return {.word = word,
-            .list = LIST,
-            .state = state,
-            .names = names,
-            .columns = columns,
-            .column_count = N};
+    return {.list = LIST, .state = state, .names = names, .columns = columns, .column_count = N};
 }
 
 #define DEVICE_PATH "Device@DDR/VTR@$@"
@@ -144,14 +133,6 @@ static constexpr ONEOFCOLUMN gpi_timeline_columns[] = {
 static constexpr ONEOF gpi_timeline = table_of(&gpi, gpi_names, gpi_timeline_columns);
 static constexpr View gpi_timeline_view = {&gpi_timeline, "Device@GPI Timeline@Tally Back"};
 const PC_TBL pc_device_gpi_timeline = {proc_of<gpi_timeline_view>, create_of<gpi_timeline_view>};
-
-static constexpr ONEOFCOLUMN step_columns[] = {{"Auto Execute Menu@$@Action"},
-                                               {"Auto Execute Menu@$@Register"},
-                                               {"Auto Execute Menu@$@Wait"},
-                                               {"Auto Execute Menu@$@State"}};
-static constexpr ONEOF step = table_of(&steps, step_names, step_columns, 1);
-static constexpr View step_view = {.table = &step};
-const PC_TBL pc_auto_execute = {proc_of<step_view>, create_of<step_view>};
 
 // --- GPI: the test is the setup's ---
 

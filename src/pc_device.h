@@ -1,5 +1,5 @@
 // pc_device: page code of the device pages: recorders and players, the files of a disk recorder,
-// P-Bus devices, GPI outputs, what each does on its timeline, the steps of the auto execute menu.
+// P-Bus devices, GPI outputs, what each does on its timeline.
 // All are pages about one of many (one_of); what is chosen stays from one page to the next.
 #pragma once
 #include "a_pc.h"
@@ -8,7 +8,6 @@ constexpr int DEVICES = 12;
 constexpr int PBUS_DEVICES = 24;
 constexpr int PBUS_REGISTERS = 99;
 constexpr int GPI_OUTPUTS = 8;
-constexpr int AUTO_STEPS = 10;
 
 #define DEVICE_FILE_LOAD "LOCAL@Device@File@Load"
 #define DEVICE_FILE_CUE "LOCAL@Device@File@Load and Cue"
@@ -23,4 +22,3 @@ extern const PC_TBL pc_device_pbus;
 extern const PC_TBL pc_device_pbus_timeline;
 extern const PC_TBL pc_device_gpi;
 extern const PC_TBL pc_device_gpi_timeline;
-extern const PC_TBL pc_auto_execute;

@@ -1,5 +1,5 @@
 // device: the menu of the machines that the switcher controls: recorders and players, P-Bus devices, GPI outputs, and what
-// each of them does on its timeline; the steps of the auto execute menu.
+// each of them does on its timeline.
 #pragma once
 #include "nb_rows.h"
 #include "pc_device.h"
@@ -204,33 +204,10 @@ inline constexpr BT_TBL bt_device_top[] = {
     Jump({.id = 34, .caption = "DDR/VTR",   .group = "Timeline", .cmd = {"#53220000"}}),
     Jump({.id = 35, .caption = "GPI",       .group = "Timeline", .cmd = {"#53320000"}}),
     Jump({.id = 36, .caption = "Macro",     .group = "Timeline", .cmd = {"#54410000"}}),
-    Jump({.id = 49, .caption = "Auto\nExecute", .group = "Automation", .cmd = {"#55550000"}}),
     Jump({.id = 6,  .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_device_top));
-
-// --- Auto execute: registers that are recalled one after the other, each after its wait ---
-
-inline constexpr LS_TBL ls_auto_execute[] = {
-    DeviceList({.id = 1, .hn = 5, .vn = 10, .x = 100, .head = {"Step", "Action", "Register", "Wait", "State"}, .width = {70, 160, 100, 100, 114}}),
-    LS_END,
-};
-#define AUTO_PATH(rest) "Auto Execute Menu@" rest
-#define AUTO_ACTION(n, words, word) Radio({.id = (n), .caption = words, .group = "Action", .cmd = {"~@Action#" word}, .nb = nb_auto_step.row})
-inline constexpr auto nb_auto_step = Column(Count(1, "Register", "~@Register", 1, 250), Frames(2, "Wait\nframes", "~@Wait"));
-inline constexpr BT_TBL bt_auto_execute[] = {
-    AUTO_ACTION(33, "None", "None"), AUTO_ACTION(34, "Master\nSnapshot", "Master Snapshot"), AUTO_ACTION(35, "Shotbox", "Shotbox"),
-    AUTO_ACTION(36, "Macro", "Macro"), AUTO_ACTION(37, "Menu\nMacro", "Menu Macro"),
-    Toggle({.id = 49, .caption = "Run",       .group = "Auto Execute", .cmd = {AUTO_PATH("Run#*")}}),
-    Action({.id = 50, .caption = "Next",      .group = "Auto Execute", .cmd = {AUTO_PATH("Next#*")}}),
-    Toggle({.id = 51, .caption = "Loop",      .group = "Auto Execute", .cmd = {AUTO_PATH("Loop#*")}}),
-    Action({.id = 53, .caption = "All\nNone", .group = "All", .cmd = {AUTO_PATH("All None#*")}}),
-    BT_END,
-};
-static_assert(ButtonsAreSound(bt_auto_execute) && ListsAreSound(ls_auto_execute));
-#undef AUTO_ACTION
-#undef AUTO_PATH
 
 // --- Pages: the chosen one stands in the tree, so that the code comes before the keys that name it ---
 
@@ -250,6 +227,4 @@ inline constexpr PAGE device_pages[] = {
     DevicePage(0x53240000, 2, hf_device_vtr, "DDR/VTR", "Dev1", "Setting", ls_device_setting, pc_device_setting, bt_device_setting),
     DevicePage(0x53310000, 3, hf_device_gpi, "GPI", "1", nullptr, ls_device_gpi, pc_device_gpi, bt_device_gpi),
     DevicePage(0x53320000, 3, hf_device_gpi, "GPI Timeline", "1", nullptr, ls_device_gpi_timeline, pc_device_gpi_timeline, bt_device_gpi_timeline),
-    {.id = 0x55550000, .tree = {"Auto Execute Menu", "1"},
-     .obj = {Base(base_main), Lists(ls_auto_execute), Code(pc_auto_execute), Buttons(bt_auto_execute), Boxes(NB_Non)}},
 };

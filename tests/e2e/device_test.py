@@ -85,17 +85,6 @@ class Machines(DeskCase):
         self.wait_value(DEVICE + "Transport", "Stop", 9)
         self.assertEqual(self.desk.value(DEVICE + "Position"), "00:00:03:29")
 
-    def test_4_the_auto_execute_menu_works_through_its_steps(self):
-        self.desk.console("put Auto Execute Menu@2@Action#Master Snapshot")
-        self.desk.console("put Auto Execute Menu@4@Action#Menu Macro")
-        self.desk.console("put Auto Execute Menu@4@Register#7")
-        self.desk.console("put Auto Execute Menu@4@Wait#10")
-        self.open_page("5555.0000", "add Auto Execute Menu@10@State")
-        self.touch(49)
-        self.wait_value("Auto Execute Menu@4@State", "Done")
-        self.assertEqual(self.desk.value("Info@Menu Macro@Run"), "7")
-        self.wait_value("Auto Execute Menu@Run", "false")
-
 
 if __name__ == "__main__":
     unittest.main()
