@@ -5,10 +5,9 @@
 #include "global.h"
 #include "message.h"
 #include "page.h"
-#include "pane.h"
+#include "pane_search.h"
 #include "scrollbar.h"
 #include "text.h"
-#include "window.h"
 #include <algorithm>
 #include <cstring>
 
@@ -27,8 +26,6 @@ struct FF_LastInfo {
 };
 constexpr int PAGES = 16; // that have a file folder
 constexpr int PUSHED_MS = 150;
-constexpr int FIND_X = 300;
-constexpr int FIND_Y = 200;
 } // namespace
 
 static FF_LastInfo last_info[PAGES][FF_AREAS];
@@ -251,7 +248,7 @@ int FF_Create(const FF_TBL* table, uint32_t)
     if (PageOpen)
         Save_FF_LastInfo();
     if (ff.finding >= 0)
-        (void)Pane_Quit(GL_FM_Find_PaneID);
+        PaneSearch_Close();
     for (int i = 0; i < FF_AREAS; i++)
         if (ff.area[i].parts.enable)
             (void)CloseScrollBar(i);
@@ -409,49 +406,21 @@ int FF_Find(int index, const char* text, SEARCH_DIR dir)
 static void find_exec(SEARCH_DIR dir)
 {
     const FM2_FILE_AREA* const a = area_of(ff.finding);
-    if (!a)
-        return;
-    (void)PaneFind_Indicator(1);
-    (void)FF_Find(ff.finding, a->find_text, dir);
-    (void)PaneFind_Indicator(0);
+    if (a)
+        (void)FF_Find(ff.finding, a->find_text, dir);
 }
 
-static int find_set(const char* text)
+static void find_set()
 {
-    FM2_FILE_AREA* const a = area_of(ff.finding);
-    if (!a)
-        return 0;
-    CopyText(a->find_text, text);
-    a->found[0] = '\0';
-    find_exec(SEARCH_DIR_NEXT);
-    return 0;
-}
-
-static void ask_text(const FM2_FILE_AREA& a)
-{
-    (void)CreateWindow(
-        WINDOW_KEYBOARD, "Find",
-        {.value = a.find_text, .input_max = ELEMENT_NAME_SIZE - 1, .ok_text = find_set});
-}
-
-static void find_button(int button)
-{
-    const FM2_FILE_AREA* const a = area_of(ff.finding);
-    if (!a)
-        return;
-    switch (button) {
-    case PANEFIND_TEXT: ask_text(*a); return;
-    case PANEFIND_PREV: find_exec(SEARCH_DIR_PREV); return;
-    case PANEFIND_NEXT: find_exec(SEARCH_DIR_NEXT); return;
-    case PANEFIND_CLOSE: (void)Pane_SetQuitFlag(GL_FM_Find_PaneID); return;
-    default: return;
-    }
+    if (FM2_FILE_AREA* const a = area_of(ff.finding))
+        a->found[0] = '\0';
 }
 
 static void open_find(int index)
 {
-    GL_FM_Find_PaneID = PaneFind_Create(FIND_X, FIND_Y, 0);
-    ff.finding = GL_FM_Find_PaneID ? index : -1;
+    ff.finding = index;
+    (void)PaneSearch_Open(
+        {.text = &ff.area[index].find_text, .begin = find_set, .step = find_exec});
 }
 
 // --- Touch ---
@@ -558,12 +527,10 @@ int FF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
         return 0;
     case MSG_PRESS: press(int(ax), int(bx)); return 0;
     case LMSG_SBSEL: scroll(int(ax), int(bx), int(cx)); return 0;
-    case LMSG_PANEBTNSEL: find_button(int(ax)); return 0;
+    case LMSG_PANEBTNSEL:
     case LMSG_PANEQUIT:
-        if (ff.finding >= 0 && int(ax) == GL_FM_Find_PaneID) {
-            ff.finding = -1;
-            GL_FM_Find_PaneID = 0;
-        }
+        if (ff.finding >= 0)
+            PaneSearch_Proc(msg, ax);
         return 0;
     case LMSG_FMCTRL3CHANGE:
         fmctrl_change(int(ax), reinterpret_cast<const ELEMENT*>(bx), int(dx));

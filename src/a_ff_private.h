@@ -34,7 +34,7 @@ struct FM2_FILE_AREA {
 };
 struct FF_STATE {
     FM2_FILE_AREA area[FF_AREAS];
-    int finding = -1; // the area whose find pane is open
+    int finding = -1; // the area that was searched last, -1 none on this page
 };
 extern FF_STATE ff; // what the page that is shown has
 

@@ -10,6 +10,7 @@
 #include "memory.h"
 #include "message.h"
 #include "pane.h"
+#include "pane_search.h"
 #include "pc_file_side.h"
 #include "tally_value.h"
 #include "text.h"
@@ -100,6 +101,8 @@ static struct {
     int type_pane = 0;
     int sfh_device_pane = 0;
     FolderMenu menu[FL_SIDES];
+    char find_text[ELEMENT_NAME_SIZE]{};
+    int touched = FL_L_LIST; // side that is searched: where a clip was touched last
     char folder_caption[ELEMENT_FOLDER_SIZE]{};
     char device_caption[CAPTION_SIZE]{};
     char dir_caption[CAPTION_SIZE]{};
@@ -376,10 +379,24 @@ static void folders_chosen(int id, int choice)
 static void clip_touched(int id, int row)
 {
     const char* const icon = LS_GetData(id + 1, row, COL_CLIP_ICON);
+    xp.touched = id;
     char name[ELEMENT_NAME_SIZE];
     CopyText(name, icon && *icon ? LS_GetData(id + 1, row, COL_CLIP_NAME) : "");
     if (*name)
         (void)FL_ChangeDirectory(id, name); // -1: it has gone meanwhile
+}
+
+// In the folder that is shown. A search goes on from behind the last hit; begin has nothing to take
+// back: a text that is not there leaves the selection.
+static void find_step(SEARCH_DIR dir)
+{
+    const int side = is_sfh() ? xp.touched : FL_L_LIST;
+    (void)FL_Find(side, xp.find_text, dir == SEARCH_DIR_NEXT ? 1 : -1);
+}
+
+static void find_sel()
+{
+    (void)PaneSearch_Open({.text = &xp.find_text, .begin = [] {}, .step = find_step});
 }
 
 static void sfh_device_sel()
@@ -981,6 +998,7 @@ static int button_pressed(const char* command)
         {XPORT "Import", import_sel},     {XPORT "Export", export_sel},
         {XPORT "File Type", type_sel},    {XPORT "Dir B", dir_b_sel},
         {XPORT "Device B", device_b_sel}, {XPORT "Fol A", folder_a_sel},
+        {XPORT "Find", find_sel},
     };
     for (const auto& touch : touches)
         if (Same(touch.command, command))
@@ -1049,7 +1067,8 @@ static int xport_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
         return 0;
     switch (msg) {
     case LMSG_BTNSEL: return button_pressed(Text(ax));
-    case LMSG_PANEQUIT: return pane_closed(int(ax), int(bx));
+    case LMSG_PANEBTNSEL: PaneSearch_Proc(msg, ax); return 0;
+    case LMSG_PANEQUIT: PaneSearch_Proc(msg, ax); return pane_closed(int(ax), int(bx));
     case LMSG_PANEREGION: FileSide_SetRegions(SIDE_A); return 0;
     case LMSG_LISTSEL: return list_touched(int(ax), int(bx));
     case LMSG_LISTFLASH: return list_flashed(int(ax));
@@ -1067,6 +1086,7 @@ static int leave()
 {
     if (!xp.kind)
         return 0;
+    PaneSearch_Close();
     FileSelect_Close();
     FileSide_CloseAll();
     forget_searches();

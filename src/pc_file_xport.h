@@ -19,6 +19,7 @@ enum : int {
     BTN_XPORT_DEVICE_B = 2,
     BTN_XPORT_DIR_B = 3,
     BTN_XPORT_TYPE = 4,
+    BTN_XPORT_FIND = 5,
     BTN_XPORT_EXPORT = 51,
     BTN_XPORT_IMPORT = 52,
 };

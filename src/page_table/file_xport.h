@@ -26,6 +26,14 @@ inline constexpr BT_TBL bt_file2_xport[] = {
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_file2_xport));
+
+inline constexpr BT_TBL bt_file2_xport_clip[] = {
+    FileChoice(100, {.id = BTN_XPORT_FOLDER_A, .caption = "", .cmd = FILE_XPORT("Fol A")}),
+    FILE_XPORT_BUTTONS,
+    Typed({.id = BTN_XPORT_FIND, .caption = "Find", .x1 = 112, .y1 = 453, .x2 = 196, .y2 = 518, .cmd = FILE_XPORT("Find")}, BT_FIND),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_file2_xport_clip));
 #undef FILE_XPORT_BUTTONS
 #undef FILE_XPORT
 
@@ -55,5 +63,5 @@ inline constexpr PAGE file_xport_pages[] = {
     {.id = 0x71610100, .tree = {"File", "Import/Export"},
      .obj = {Base(base_file_main), LeftTabs(vf_file, 6), BottomTabs(hf_file_xport, 1), Buttons(bt_file_xport), Lists(ls_file_xport), Code(pc_file_xport, XPORTPAGE_FMEM)}},
     {.id = 0x71620000, .tree = {"File", "Import/Export", "Clip Store"},
-     .obj = {Base(base_main), LeftTabs(vf_file, 6), BottomTabs(hf_file_xport, 2), Buttons(bt_file2_xport), Lists(ls_file2_xport), Files(fl_file2_xport), Code(pc_file_xport, XPORTPAGE_CLIP)}},
+     .obj = {Base(base_main), LeftTabs(vf_file, 6), BottomTabs(hf_file_xport, 2), Buttons(bt_file2_xport_clip), Lists(ls_file2_xport), Files(fl_file2_xport), Code(pc_file_xport, XPORTPAGE_CLIP)}},
 };

@@ -348,6 +348,38 @@ TEST_F(ClipXportPage, TheStoreSideFollowsTheCatalogue)
     EXPECT_THAT(ShownClips(), ElementsAre("_FolderNEWS "));
 }
 
+TEST_F(ClipXportPage, FindSelectsAClipOfTheShownFolderAndGoesRound)
+{
+    Clip("goal 2", 1);
+    Clip("own goal", 1);
+    Pass(10);
+    Press(BTN_XPORT_FIND);
+    ASSERT_TRUE(Pane_Exist(GL_FM_Find_PaneID));
+    SendMessage(LMSG_PANEBTNSEL, PANEFIND_TEXT, 0, 0, 0);
+    for (const char c : {'g', 'o', 'a', 'l'})
+        SendMessage(MSG_KEY, c, 0, 0, 0);
+    SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+    for (int i = 0; i < 3; i++)
+        Pass(100);
+    static const struct {
+        int button;
+        const char* selected;
+    } steps[] = {{0, "*goal 25"},
+                 {PANEFIND_NEXT, "*goal 2 1"},
+                 {PANEFIND_NEXT, "*own goal 1"},
+                 {PANEFIND_NEXT, "*goal 25"},
+                 {PANEFIND_PREV, "*own goal 1"}};
+    for (const auto& step : steps) {
+        if (step.button)
+            SendMessage(LMSG_PANEBTNSEL, step.button, 0, 0, 0);
+        EXPECT_THAT(ShownClips(), Contains(step.selected));
+    }
+    SendMessage(LMSG_PANEBTNSEL, PANEFIND_CLOSE, 0, 0, 0);
+    for (int i = 0; i < 3; i++)
+        Pass(100);
+    EXPECT_FALSE(Pane_Exist(GL_FM_Find_PaneID));
+}
+
 TEST_F(ClipXportPage, ExportTakesEachFrameOfTheSelectedClips)
 {
     Hub("Insert", "NEWS/A/B", "1");
