@@ -1,12 +1,15 @@
-// bench_fmem: the browser of the clip store over a folder of 12,000 clips, and what the tallies of
+// bench_fmem: the browsers of the clip store over a folder of 12,000 clips, and what the tallies of
 // an output cost while it plays.
 #include "a_ff.h"
+#include "a_fl.h"
 #include "a_fm.h"
+#include "a_ls.h"
 #include "bench_support.h"
 #include "fmctrl3.h"
 #include "global.h"
 #include "message.h"
 #include "page.h"
+#include "page_table/file_xport.h"
 #include "scrollbar.h"
 #include "text.h"
 
@@ -64,6 +67,27 @@ void come_and_go()
     row("Delete", "root/clip06000a.SFH");
 }
 
+// The slowest pass of the import page, whose lists stand beside the browser here: one clip has gone
+// and come back, and all rows are shown anew.
+void list_pass()
+{
+    static constexpr FL_TBL sides = {{{.device = FL_DIRDATA_STORAGE_ROOT}, {}}};
+    static int n = 0;
+    if (LS_GetNData(1) < ELEMENTS) { // a page has been opened since
+        (void)LS_Create(ls_file2_xport, 0);
+        (void)FL_Create(&sides, 0);
+        FL_Proc(MSG_REDRAW, 1000, 0, 0, 0);
+    }
+    char path[32];
+    n = (n + 7919) % ELEMENTS;
+    PrintText(path, "/clip%05d", n);
+    const ELEMENT& e = FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FILE, path)->element;
+    for (const int kind : {FMCTRL_MSG_ELEMENT_DELETE, FMCTRL_MSG_ELEMENT_INSERT})
+        FL_Proc(LMSG_FMCTRL3CHANGE, kind, Arg(&e), 0, 0);
+    FL_Proc(MSG_REDRAW, 1000, 0, 0, 0);
+    LS_Proc(MSG_REDRAW, 10, 0, 0, 0);
+}
+
 void tell(const char* path, const char* value)
 {
     FM_Proc(MSG_TALLY, Arg(path), Arg(value), 0, 0);
@@ -102,6 +126,7 @@ int main(int argc, char** argv)
         {.name = "12,000 clips: open the folder", .once = open_folder, .limit_copies = 80},
         {.name = "12,000 clips: select one", .once = select_clip, .limit_copies = 2},
         {.name = "12,000 clips: one comes and goes", .once = come_and_go, .limit_copies = 1},
+        {.name = "12,000 clips: pass of the import page", .once = list_pass, .limit_copies = 40},
         {.name = "output: a status", .once = output_status, .limit_copies = 0.1, .per = 2},
         {.name = "outputs: a frame of twenty", .once = play_frame, .limit_copies = 1},
     };
