@@ -8,6 +8,7 @@ constexpr uint32_t PAGE_ENGINEERING = 0x99910000;
 
 // --- Local commands, with what stands behind them in the tables ---
 #define ENG_DEBUG "LOCAL@Engineering@Debug@"
+#define ENG_UNITS "LOCAL@Engineering@Units@"
 #define ENG_WALK "LOCAL@Engineering@Walk@"
 #define ENG_COLOR "LOCAL@Engineering@Color@"
 #define ENG_INPUT "LOCAL@Engineering@Input@"

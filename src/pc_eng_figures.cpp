@@ -1,7 +1,6 @@
 // The versions of all software, and what the process needs: the time of its passes and page
 // changes, memory, descriptors.
 #include "a_ls.h"
-#include "device.h"
 #include "global.h"
 #include "loop.h"
 #include "memory.h"
@@ -9,6 +8,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pc_eng.h"
+#include "pc_install.h"
 #include "storage.h"
 #include "tally_value.h"
 #include "text.h"
@@ -24,14 +24,10 @@
 
 // --- Versions ---
 
-static int add_units(int row, const DEVICE* unit, int count)
-{
-    for (int i = 0; i < count && i < DEVICE_MAX; i++, row++) {
-        LS_SetData(ENG_LIST, row, 0, unit[i].name);
-        LS_SetData(ENG_LIST, row, 1, unit[i].version[0] ? unit[i].version : "not reported");
-    }
-    return row;
-}
+static struct {
+    InstallUnit unit[INSTALL_UNITS];
+    char text[INSTALL_UNITS][ENG_CELL];
+} ev; // valid from create(1) to create(0)
 
 static int versions_create(int on, uint32_t)
 {
@@ -42,10 +38,12 @@ static int versions_create(int on, uint32_t)
         LS_SetData(ENG_LIST, row, 0, GL_MenuDetailInfoTitle[row]);
         LS_SetData(ENG_LIST, row, 1, GL_MenuDetailInfoFull[row]);
     }
-    row = add_units(row, DEV_Pnl, SYS_PnlMax);
-    row = add_units(row, DEV_Swr, SYS_SwrMax);
-    row = add_units(row, DEV_Dme, SYS_DmeMax);
-    row = add_units(row, DEV_Mpe, SYS_MpeMax);
+    const int units = Install_Units(ev.unit);
+    for (int i = 0; i < units; i++, row++) {
+        PrintText(ev.text[i], "%s   %.64s", ev.unit[i].model, ev.unit[i].version);
+        LS_SetData(ENG_LIST, row, 0, ev.unit[i].name);
+        LS_SetData(ENG_LIST, row, 1, ev.text[i]);
+    }
     LS_SetNData(ENG_LIST, row);
     LS_SetNowLine(ENG_LIST, 0);
     return 0;

@@ -4,6 +4,7 @@
 #include "device.h"
 #include "message.h"
 #include "pc_eng.h"
+#include "pc_install.h"
 #include "selfdiag.h"
 #include "text.h"
 #include <cstring>
@@ -64,13 +65,23 @@ static bool has_unit(int unit)
     return false;
 }
 
-// A unit that is not there has reported nothing, and neither has one whose words are as at the
-// start.
+// Whether the unit has told the word: its last report named it. An empty slot has no board.
+static bool is_told_word(const View& v, int unit, int row, const char* word)
+{
+    if (!has_unit(unit))
+        return false;
+    switch (v.key) {
+    case ENG_FANS: return row < GL_FanTold[unit];
+    case ENG_POWER: return row < GL_PSUTold[unit];
+    default: return strcmp(word, "NG") != 0;
+    }
+}
+
 static bool show_word(const View& v, int row, int column)
 {
     const int unit = v.first_unit + column;
     const char* const word = word_of(v, unit, row);
-    const bool is_told = has_unit(unit) && strcmp(word, "NG") != 0 && *word;
+    const bool is_told = is_told_word(v, unit, row, word);
     const char* const shown = is_told ? word : "--";
     char(&cell)[16] = eu.word[row][column];
     if (strcmp(cell, shown) == 0)
@@ -108,7 +119,11 @@ static int redraw(int elapsed_ms)
 
 static int units_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
 {
-    return msg == MSG_REDRAW && eu.view < int(std::size(views)) ? redraw(int(ax)) : 0;
+    if (eu.view >= int(std::size(views)))
+        return 0;
+    if (msg == LMSG_BTNSEL && strcmp(Text(ax), ENG_UNITS "Refresh") == 0)
+        SelfDiag_Refresh_All();
+    return msg == MSG_REDRAW ? redraw(int(ax)) : 0;
 }
 
 static void open_words()
@@ -126,14 +141,6 @@ static void open_words()
 
 // --- The table of the units ---
 
-namespace
-{
-struct Class {
-    const DEVICE* unit;
-    const int* count;
-};
-} // namespace
-
 static char type_text[UNITS_MAX][8];
 
 // Rows of a class of units behind the n that are shown; returns how many there are then.
@@ -141,8 +148,9 @@ static int add_units(int n, const DEVICE* unit, int count)
 {
     for (int i = 0; i < count && i < DEVICE_MAX && n < UNITS_MAX; i++, n++) {
         PrintText(type_text[n], "%d", unit[i].type);
-        const char* const cells[] = {unit[i].name,    unit[i].id,     type_text[n],
-                                     unit[i].version, unit[i].dataip, unit[i].ctrlip};
+        const char* const model = newinstall_modelinfo(unit[i].name, unit[i].type);
+        const char* const cells[] = {unit[i].name, unit[i].id,     model,
+                                     type_text[n], unit[i].dataip, unit[i].ctrlip};
         for (int column = 0; column < int(std::size(cells)); column++)
             LS_SetData(ENG_LIST, n, column, cells[column]);
     }

@@ -29,6 +29,7 @@ namespace
 {
 constexpr int ROWS_MAX = 4096; // of the table; a row behind them is walked but not noted
 constexpr int NO_ROW = -1;
+constexpr int TOP_MENUS = 32; // rows of TopMenu, at least
 constexpr int PUSHED_MS = 150;
 constexpr int PASSES_USUAL = 100;
 
@@ -41,16 +42,83 @@ enum WalkKey { KEY_STOP, KEY_PREV, KEY_RUN, KEY_NEXT, WALK_KEYS, KEY_NONE = -1 }
 } // namespace
 
 static struct {
-    bool runs = false;    // otherwise it stands where it is
-    bool is_once = false; // it ends behind the last row
-    int row = NO_ROW;     // of the table, that is shown
-    int passes = 0;       // for which it has been
-    int rounds = 0;       // that are done
+    bool is_on = false;       // from the first step to Stop
+    bool owes_places = false; // the operator's own are to come back
+    bool runs = false;        // otherwise it stands where it is
+    bool is_once = false;     // it ends behind the last row
+    int row = NO_ROW;         // of the table, that is shown
+    int passes = 0;           // for which it has been
+    int rounds = 0;           // that are done
     WalkKey pushed = KEY_NONE;
     int pushed_ms = 0;
     bool is_dirty = false;
 } walk; // for the life of the process: the pages come and go meanwhile
 static Result results[ROWS_MAX];
+
+// --- Where the operator has been: the walk leaves no traces there ---
+
+namespace
+{
+struct Side {
+    uint32_t history[HISTORY_DEPTH];
+    int now, max;
+    uint32_t page, previous;
+};
+} // namespace
+
+static struct {
+    Side omote, ura;
+    uint32_t previous;
+    uint32_t top[TOP_MENUS];
+    uint32_t changes; // Page_Changes when the walk ended
+} been;               // when the walk began
+
+static Side side_of(const uint32_t (&history)[HISTORY_DEPTH], int now, int max, uint32_t page,
+                    uint32_t previous)
+{
+    Side side = {{}, now, max, page, previous};
+    std::copy(std::begin(history), std::end(history), side.history);
+    return side;
+}
+
+static void keep_places()
+{
+    been.omote = side_of(Omote_History, Omote_History_NowPtr, Omote_History_MaxPtr, GL_OmoteNowPage,
+                         GL_OmotePrevPage);
+    been.ura =
+        side_of(Ura_History, Ura_History_NowPtr, Ura_History_MaxPtr, GL_UraNowPage, GL_UraPrevPage);
+    been.previous = GL_PrevPage;
+    for (int i = 0; i < TOP_MENUS && TopMenu[i].caption; i++)
+        been.top[i] = TopMenu[i].page;
+}
+
+static void restore_side(const Side& side, uint32_t (&history)[HISTORY_DEPTH], int* now, int* max,
+                         uint32_t* page, uint32_t* previous)
+{
+    std::copy(std::begin(side.history), std::end(side.history), history);
+    *now = side.now;
+    *max = side.max;
+    *page = side.page;
+    *previous = side.previous;
+}
+
+// By the page on which the walk ends; an operator who has gone elsewhere keeps what he has seen
+// since.
+static void restore_places()
+{
+    if (!walk.owes_places)
+        return;
+    walk.owes_places = false;
+    if (Page_Changes - been.changes > 1)
+        return;
+    restore_side(been.omote, Omote_History, &Omote_History_NowPtr, &Omote_History_MaxPtr,
+                 &GL_OmoteNowPage, &GL_OmotePrevPage);
+    restore_side(been.ura, Ura_History, &Ura_History_NowPtr, &Ura_History_MaxPtr, &GL_UraNowPage,
+                 &GL_UraPrevPage);
+    GL_PrevPage = been.previous;
+    for (int i = 0; i < TOP_MENUS && TopMenu[i].caption; i++)
+        TopMenu[i].page = been.top[i];
+}
 
 // --- The rows ---
 
@@ -69,9 +137,19 @@ static void note_result()
         results[walk.row] = {f.page_ms, UsedMemPtr};
 }
 
+static void enter_walk()
+{
+    if (!walk.is_on)
+        keep_places();
+    walk.is_on = true;
+    GL_AllPageDisplayMode = 1;
+}
+
 static void end_walk()
 {
-    walk.runs = false;
+    walk.owes_places = walk.is_on;
+    been.changes = Page_Changes;
+    walk.is_on = walk.runs = false;
     walk.is_dirty = true;
     GL_AllPageDisplayMode = 0;
     GL_CreatePage = PAGE_WALK;
@@ -120,7 +198,7 @@ static void begin_walk()
     walk.passes = GL_AllPageDisplayMsec; // the first page comes at once
     walk.is_dirty = true;
     std::fill(std::begin(results), std::end(results), Result{});
-    GL_AllPageDisplayMode = 1;
+    enter_walk();
 }
 
 // --- The keys at top right ---
@@ -164,6 +242,7 @@ static void act(WalkKey key)
     case KEY_STOP: end_walk(); break;
     case KEY_PREV:
     case KEY_NEXT:
+        enter_walk();
         walk.runs = false;
         (void)step(key == KEY_NEXT ? 1 : -1); // once round: the mode says that it has ended
         break;
@@ -253,6 +332,7 @@ static int walk_create(int on, uint32_t)
         return 1;
     if (GL_AllPageDisplayMsec < 1)
         GL_AllPageDisplayMsec = PASSES_USUAL;
+    restore_places();
     show_settings();
     draw_summary();
     return 0;

@@ -20,6 +20,8 @@
 char GL_CircuitBoard[DIAG_UNITS][DIAG_BOARDS][16];
 char GL_Fan[DIAG_UNITS][DIAG_FANS][16];
 char GL_PSU[DIAG_UNITS][DIAG_PSUS][16];
+int GL_FanTold[DIAG_UNITS];
+int GL_PSUTold[DIAG_UNITS];
 
 namespace
 {
@@ -87,6 +89,8 @@ void SelfDiag_Init()
     fill_ng(GL_CircuitBoard);
     fill_ng(GL_Fan);
     fill_ng(GL_PSU);
+    std::fill_n(GL_FanTold, DIAG_UNITS, 0);
+    std::fill_n(GL_PSUTold, DIAG_UNITS, 0);
     std::fill_n(sd.UI, DIAG_MENU_ITEMS, SELFDIAG{});
     sd.LogMax = 0;
     sd.added = 0;

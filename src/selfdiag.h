@@ -49,6 +49,8 @@ constexpr int DIAG_PSUS = 4;
 extern char GL_CircuitBoard[DIAG_UNITS][DIAG_BOARDS][16];
 extern char GL_Fan[DIAG_UNITS][DIAG_FANS][16];
 extern char GL_PSU[DIAG_UNITS][DIAG_PSUS][16];
+extern int GL_FanTold[DIAG_UNITS]; // how many of them the unit's last report named
+extern int GL_PSUTold[DIAG_UNITS];
 
 // --- Life ---
 void SelfDiag_Init(); // every entry "NG", nothing reported, the log empty

@@ -302,6 +302,7 @@ static void keep_fan_words(const Reporter& r, char* const* field, int fields)
     const int count = std::min(fields, r.kind->count[RUN_FAN]);
     for (int i = 0; i < count; i++)
         CopyText(GL_Fan[r.word_row][i], field[i]);
+    GL_FanTold[r.word_row] = count;
 }
 
 static void keep_psu_words(const Reporter& r, char* const* field, int fields)
@@ -312,6 +313,7 @@ static void keep_psu_words(const Reporter& r, char* const* field, int fields)
             is_ok = Same(field[f], "OK") || Same(field[f], "Exist");
         CopyText(GL_PSU[r.word_row][i], is_ok ? "OK" : "NG");
     }
+    GL_PSUTold[r.word_row] = std::min(fields / PSU_FIELDS, r.kind->count[RUN_PSU_EXIST]);
 }
 
 static void keep_words(const Reporter& r, const char* group, char* const* field, int fields)
@@ -329,6 +331,7 @@ static void forget_words(const UnitKind& kind)
     if (kind.first_word < 0)
         return;
     for (int u = kind.first_word; u < kind.first_word + DIAG_UNITS / 2; u++) {
+        GL_FanTold[u] = GL_PSUTold[u] = 0;
         for (auto& word : GL_Fan[u])
             CopyText(word, "NG");
         for (auto& word : GL_PSU[u])

@@ -119,6 +119,13 @@ inline constexpr HF_TBL hf_eng_units[] = {
     {.id = 5, .caption = "Units",            .page = 0x99910009},
     HF_END,
 };
+inline constexpr BT_TBL bt_eng_units[] = {
+    Action(     {.id = 49, .caption = "Refresh", .group = "Reports", .cmd = {ENG_UNITS "Refresh"}}),
+    Jump(       {.id = 51, .caption = "Diag", .cmd = {"#74110000"}}),
+    ToEngineeringMenu(),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_eng_units));
 inline constexpr LS_TBL ls_eng_boards_switcher[] = {
     {.id = 1, .hn = 5, .vn = 15, .x = 100, .y = 78, .head = {"Slot", "SWR1", "SWR2", "SWR3", "SWR4"},
      .width = {70, 120, 120, 120, 120}, .group = {1, 1, 1, 1, 999}, .mono = 1, .sb_top = 78, .sb_bottom = 430, .block = 1},
@@ -137,8 +144,8 @@ inline constexpr LS_TBL ls_eng_fans[] = {
     LS_END,
 };
 inline constexpr LS_TBL ls_eng_unit_table[] = {
-    {.id = 1, .hn = 6, .vn = 15, .x = 100, .y = 78, .head = {"Unit", "Id", "Type", "Version", "Data LAN", "Control LAN"},
-     .width = {60, 104, 50, 84, 126, 126}, .group = {1, 1, 1, 1, 999}, .mono = 1, .sb_top = 78, .sb_bottom = 430, .block = 1},
+    {.id = 1, .hn = 6, .vn = 15, .x = 100, .y = 78, .head = {"Unit", "Id", "Model", "Type", "Data LAN", "Control LAN"},
+     .width = {60, 104, 90, 50, 123, 123}, .group = {1, 1, 1, 1, 999}, .mono = 1, .sb_top = 78, .sb_bottom = 430, .block = 1},
     LS_END,
 };
 static_assert(ListsAreSound(ls_eng_boards_switcher) && ListsAreSound(ls_eng_boards_dme) && ListsAreSound(ls_eng_fans) &&
@@ -147,8 +154,8 @@ static_assert(ListsAreSound(ls_eng_boards_switcher) && ListsAreSound(ls_eng_boar
 constexpr PAGE EngUnitPage(uint32_t sub, const char* name, const LS_TBL* list, uint32_t view, uint32_t tab)
 {
     return {.id = PAGE_ENGINEERING + sub, .tree = {"Maintenance", "Units", name},
-            .obj = {Base(base_main), BottomTabs(hf_eng_units, tab), Buttons(bt_eng_only_back), Lists(list),
-                    Code(pc_eng_units, view)}};
+            .obj = {Base(base_main), BottomTabs(hf_eng_units, tab),
+                    Buttons(view == ENG_UNIT_TABLE ? bt_eng_only_back : bt_eng_units), Lists(list), Code(pc_eng_units, view)}};
 }
 
 // --- Colours and fonts ---

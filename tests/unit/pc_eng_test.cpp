@@ -84,7 +84,17 @@ TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
         if (SearchPageTable_Free_ALL(PageTable, row->id) && !guarded.contains(row->id))
             left.insert(row->id);
     const size_t rows = left.size();
+    Open(0x12110000);
     Open(PAGE_WALK);
+    const auto places = [] {
+        std::vector<uint32_t> all_places(Omote_History, Omote_History + HISTORY_DEPTH);
+        for (const TOPMENU* top = TopMenu; top->caption; top++)
+            all_places.push_back(top->page);
+        all_places.insert(all_places.end(), {uint32_t(Omote_History_NowPtr), GL_OmoteNowPage,
+                                             GL_UraNowPage, GL_PrevPage});
+        return all_places;
+    };
+    const auto before = places();
     Press(17); // 10 passes a page
     EXPECT_EQ(GL_AllPageDisplayMsec, 10);
     GL_AllPageDisplayMsec = 1;
@@ -104,6 +114,7 @@ TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
     EXPECT_GE(seen.size(), rows);
     MainPass();
     EXPECT_EQ(GL_NowPage, PAGE_WALK);
+    EXPECT_EQ(places(), before) << "the operator's own way is as it was";
     Open(0x99970001);
     EXPECT_GE(LS_GetNData(ENG_LIST), int(rows)) << "each has its figures";
 }
@@ -263,4 +274,14 @@ TEST_F(Engineering, BoardsOfUnitsThatAreThereAreListed)
     EXPECT_STREQ(LS_GetData(1, 0, 1), "MIX-12");
     EXPECT_STREQ(LS_GetData(1, 0, 2), "--");
     EXPECT_STREQ(LS_GetData(1, 1, 1), "--") << "nothing told";
+    CopyText(DEV_Swr[0].id, "SWR001D001");
+    DEV_MySwr[0] = &DEV_Swr[0];
+    SYS_MySwrMax = 1;
+    Open(0x99910003);
+    (void)Tell("INFORMATION@SWR Self Diagnosis Notice@Fan Speed#SWR1,OK,NG");
+    Pass(600);
+    EXPECT_STREQ(LS_GetData(1, 0, 1), "OK");
+    EXPECT_STREQ(LS_GetData(1, 1, 1), "NG");
+    EXPECT_EQ(LS_GetStatus(1, 1, 1), 2) << "red";
+    EXPECT_STREQ(LS_GetData(1, 2, 1), "--") << "the report named two";
 }
