@@ -16,7 +16,7 @@ constexpr uint32_t PAGE_ENGINEERING = 0x99910000;
 #define ENG_FIGURES "LOCAL@Engineering@Figures@"
 #define ENG_LOG "LOCAL@Engineering@Log@"
 #define ENG_REPORT "LOCAL@Engineering@Report@"
-#define ENG_AUTO "LOCAL@Engineering@Auto@"
+#define ENG_TESTS "LOCAL@Engineering@Tests@"
 
 // --- Lists that are filled anew again and again ---
 constexpr int ENG_LIST = 1;      // the list of an engineering page
@@ -59,4 +59,4 @@ extern const PC_TBL pc_eng_versions; // pc_eng_figures.cpp
 extern const PC_TBL pc_eng_figures;
 extern const PC_TBL pc_eng_log;     // pc_eng_log.cpp
 extern const PC_TBL pc_eng_reports; // pc_eng_report.cpp
-extern const PC_TBL pc_eng_auto;    // pc_eng_auto.cpp
+extern const PC_TBL pc_eng_tests;   // pc_eng_tests.cpp

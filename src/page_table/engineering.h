@@ -16,7 +16,7 @@
     Jump({.id = 4, .caption = "Status\nReports", .group = "Log", .cmd = {"#99980000"}}), \
     Jump({.id = 5, .caption = "Diag", .group = "Log", .cmd = {"#74110000"}}), \
     Jump({.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}), \
-    Jump({.id = 17, .caption = "Auto\nExecute", .group = "Tests", .cmd = {"#55550000"}}), \
+    Jump({.id = 17, .caption = "Self\nTests", .group = "Tests", .cmd = {"#99930004"}}), \
     Jump({.id = 18, .caption = "Links", .group = "Tests", .cmd = {"#99990000"}}), \
     Jump({.id = 19, .caption = "All Pages", .group = "Tests", .cmd = {"#99970000"}}), \
     Jump({.id = 20, .caption = "Touch\nTest", .group = "Tests", .cmd = {"#99950000"}}), \
@@ -337,21 +337,21 @@ inline constexpr LS_TBL ls_eng_reports[] = {
 };
 static_assert(ButtonsAreSound(bt_eng_reports) && ListsAreSound(ls_eng_reports));
 
-// --- Auto Execute ---
+// --- Self tests ---
 
-inline constexpr BT_TBL bt_eng_auto[] = {
-    Action(     {.id = 49, .caption = "Start", .group = "Execute", .cmd = {ENG_AUTO "Start"}}),
-    Action(     {.id = 50, .caption = "Stop", .group = "Execute", .cmd = {ENG_AUTO "Stop"}}),
-    Toggle(     {.id = 51, .caption = "Repeat", .group = "Execute", .cmd = {ENG_AUTO "Repeat#*"}}),
+inline constexpr BT_TBL bt_eng_tests[] = {
+    Action(     {.id = 49, .caption = "Start", .group = "Self Tests", .cmd = {ENG_TESTS "Start"}}),
+    Action(     {.id = 50, .caption = "Stop", .group = "Self Tests", .cmd = {ENG_TESTS "Stop"}}),
+    Toggle(     {.id = 51, .caption = "Repeat", .group = "Self Tests", .cmd = {ENG_TESTS "Repeat#*"}}),
     ToEngineeringMenu(),
     BT_END,
 };
-inline constexpr LS_TBL ls_eng_auto[] = {
+inline constexpr LS_TBL ls_eng_tests[] = {
     {.id = 1, .hn = 4, .vn = 12, .x = 100, .y = 78, .head = {"Test", "Result", "ms", "Found"}, .width = {140, 76, 44, 290},
      .group = {1, 1, 1, 999}, .mono = 1, .sb_top = 78, .sb_bottom = 364, .block = 1},
     LS_END,
 };
-static_assert(ButtonsAreSound(bt_eng_auto) && ListsAreSound(ls_eng_auto));
+static_assert(ButtonsAreSound(bt_eng_tests) && ListsAreSound(ls_eng_tests));
 
 inline constexpr PAGE engineering_pages[] = {
     {.id = PAGE_ENGINEERING, .tree = {"Maintenance", "Engineering"}, .obj = {Base(base_main), Buttons(bt_engineering_menu)}},
@@ -368,6 +368,8 @@ inline constexpr PAGE engineering_pages[] = {
      .obj = {Base(base_main), Buttons(bt_eng_figures), Lists(ls_eng_pairs), Code(pc_eng_figures)}},
     {.id = 0x99930003, .tree = {"Maintenance", "Log"},
      .obj = {Base(base_main), Buttons(bt_eng_log), Lists(ls_eng_log), Code(pc_eng_log)}},
+    {.id = 0x99930004, .tree = {"Maintenance", "Self Tests"},
+     .obj = {Base(base_main), Buttons(bt_eng_tests), Lists(ls_eng_tests), Code(pc_eng_tests)}},
     // Here the code comes first: it sees what the objects would take.
     {.id = 0x99940000, .tree = {"Maintenance", "Key Codes"},
      .obj = {Base(base_main), Code(pc_eng_keys), Buttons(bt_eng_keys), Lists(ls_eng_keys)}},
@@ -390,8 +392,6 @@ inline constexpr PAGE engineering_pages[] = {
      .obj = {Base(base_main), Buttons(bt_eng_links), Lists(ls_eng_links), Code(pc_eng_links)}},
     {.id = 0x99995555, .tree = {"Maintenance", "Debug Switches"},
      .obj = {Base(base_main), Buttons(bt_eng_debug), DebugMenu()}},
-    {.id = 0x55550000, .tree = {"Auto Execute Menu"},
-     .obj = {Base(base_main), Buttons(bt_eng_auto), Lists(ls_eng_auto), Code(pc_eng_auto)}},
     {.id = 0x77770000, .tree = {"Background Color Checker", "Ground"},
      .obj = {Base(base_main), Cells(st_eng_checker), Buttons(bt_eng_checker), Boxes(nb_eng_checker), Code(pc_eng_checker)}},
     {.id = 0x88880000, .tree = {"HSL to RGB"},

@@ -1,6 +1,6 @@
-// Auto Execute: the tests that the menu computer can make of itself without touching what is on
-// air, one after the other, once or again and again. A test says what it has found; one whose
-// subject this installation does not have is left out.
+// The self tests: what the menu computer can test of itself without touching what is on air, one
+// after the other, once or again and again. A test says what it has found; one whose subject this
+// installation does not have is left out.
 #include "a_ls.h"
 #include "colours.h"
 #include "command.h"
@@ -196,20 +196,20 @@ static struct {
     int rounds = 0;
     int errors = 0; // of all rounds
     Result result[TESTS];
-} ea; // valid from create(1) to create(0)
+} es; // valid from create(1) to create(0)
 
 static void draw_summary()
 {
     char text[ENG_CELL];
-    PrintText(text, "%s     Rounds: %d     Errors: %d", ea.runs ? "Running" : "Stopped", ea.rounds,
-              ea.errors);
-    Eng_Text(104, 372, 697, text, 3, ea.errors ? RED : WHITE);
+    PrintText(text, "%s     Rounds: %d     Errors: %d", es.runs ? "Running" : "Stopped", es.rounds,
+              es.errors);
+    Eng_Text(104, 372, 697, text, 3, es.errors ? RED : WHITE);
     TDL_UpdateRect(104, 372, 697, 388);
 }
 
 static void show(int n)
 {
-    const Result& r = ea.result[n];
+    const Result& r = es.result[n];
     LS_SetData(ENG_LIST, n, COLUMN_TEST, tests[n].name);
     LS_SetData(ENG_LIST, n, COLUMN_RESULT, outcome_words[r.outcome]);
     LS_SetData(ENG_LIST, n, COLUMN_MS, r.ms);
@@ -231,24 +231,24 @@ static void show_all()
 
 static void begin()
 {
-    for (Result& r : ea.result)
+    for (Result& r : es.result)
         r = {};
-    ea.runs = true;
-    ea.next = ea.rounds = ea.errors = ea.pause_ms = 0;
+    es.runs = true;
+    es.next = es.rounds = es.errors = es.pause_ms = 0;
     base.allocations = UsedMemPtr;
     show_all();
 }
 
 static void run_test(int n)
 {
-    Result& r = ea.result[n];
+    Result& r = es.result[n];
     const uint32_t begun = SDL_GetTicks();
     r.detail[0] = '\0';
     r.outcome = tests[n].run(r.detail);
     PrintText(r.ms, "%d", int(SDL_GetTicks() - begun));
     if (r.outcome == FAILED) {
-        ea.errors++;
-        Log_Output(LOG_ALWAYS, MOD_GLOBAL, "Auto execute: %s: %s", tests[n].name, r.detail);
+        es.errors++;
+        Log_Output(LOG_ALWAYS, MOD_GLOBAL, "Self test: %s: %s", tests[n].name, r.detail);
     }
     show(n);
     LS_SetNowLine(ENG_LIST, n);
@@ -257,56 +257,56 @@ static void run_test(int n)
 
 static void end_round()
 {
-    ea.rounds++;
-    ea.next = 0;
-    ea.runs = ea.repeats;
-    ea.pause_ms = PAUSE_MS;
+    es.rounds++;
+    es.next = 0;
+    es.runs = es.repeats;
+    es.pause_ms = PAUSE_MS;
     draw_summary();
 }
 
 // One test a pass: the screen stays alive.
-static int auto_redraw(int elapsed_ms)
+static int tests_redraw(int elapsed_ms)
 {
-    if (!ea.runs || (ea.pause_ms -= elapsed_ms) > 0)
+    if (!es.runs || (es.pause_ms -= elapsed_ms) > 0)
         return 0;
-    ea.pause_ms = 0;
-    run_test(ea.next);
-    if (++ea.next == TESTS)
+    es.pause_ms = 0;
+    run_test(es.next);
+    if (++es.next == TESTS)
         end_round();
     return 0;
 }
 
-static int auto_button(const char* path)
+static int tests_button(const char* path)
 {
-    if (Same(path, ENG_AUTO "Start")) {
+    if (Same(path, ENG_TESTS "Start")) {
         begin();
-    } else if (Same(path, ENG_AUTO "Stop")) {
-        ea.runs = false;
+    } else if (Same(path, ENG_TESTS "Stop")) {
+        es.runs = false;
         draw_summary();
-    } else if (Same(path, ENG_AUTO "Repeat")) {
-        ea.repeats = !ea.repeats;
-        Eng_Mirror(ENG_AUTO "Repeat", Bool(ea.repeats));
+    } else if (Same(path, ENG_TESTS "Repeat")) {
+        es.repeats = !es.repeats;
+        Eng_Mirror(ENG_TESTS "Repeat", Bool(es.repeats));
     }
     return 0;
 }
 
-static int auto_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
+static int tests_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
 {
     switch (msg) {
-    case LMSG_BTNSEL: return auto_button(Text(ax));
-    case MSG_REDRAW: return auto_redraw(int(ax));
+    case LMSG_BTNSEL: return tests_button(Text(ax));
+    case MSG_REDRAW: return tests_redraw(int(ax));
     default: return 0;
     }
 }
 
-static int auto_create(int on, uint32_t)
+static int tests_create(int on, uint32_t)
 {
-    ea = {};
+    es = {};
     if (!on)
         return 1;
-    Eng_Mirror(ENG_AUTO "Repeat", "false");
+    Eng_Mirror(ENG_TESTS "Repeat", "false");
     show_all();
     return 0;
 }
 
-const PC_TBL pc_eng_auto = {auto_proc, auto_create};
+const PC_TBL pc_eng_tests = {tests_proc, tests_create};
