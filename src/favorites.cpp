@@ -28,11 +28,20 @@ struct Favorite {
     uint32_t page = 0; // 0: the key is free
     int color = COLORS;
 };
+
+// What a touch on one of the keys does; the word is the key's below them.
+enum FavoriteMode : int { FAV_OPEN, FAV_STORE, FAV_COLOR, FAV_CLEAR };
+constexpr struct {
+    FavoriteMode mode;
+    const char* path;
+} modes[] = {{FAV_STORE, "LOCAL@Favorites@Store"},
+             {FAV_COLOR, "LOCAL@Favorites@Color"},
+             {FAV_CLEAR, "LOCAL@Favorites@Clear"}};
 } // namespace
 
 static struct {
     Favorite item[FAVORITES];
-    bool storing = false; // the next key pressed takes the previous page
+    FavoriteMode mode = FAV_OPEN; // of the next touch
 } fav;
 
 // The keys stand in two rows of five: ids 1 to 5 and 33 to 37.
@@ -56,7 +65,7 @@ static void fav_show(int n)
         return;
     BT_SetCaption(fav_button(n), f.page ? f.caption : "");
     BT_SetGroup(fav_button(n), f.group);
-    BT_SetDisable(fav_button(n), !f.page && !fav.storing);
+    BT_SetDisable(fav_button(n), !f.page && fav.mode != FAV_STORE);
 }
 
 void shortcut_menu_group_name_tally(int group, const char* value)
@@ -98,10 +107,14 @@ static void fav_color_tally(int n, const char* value)
         BT_SetStatus(fav_button(n), BT_OFF); // a repaint takes the new colour
 }
 
-static void fav_set_storing(bool on)
+static void fav_set_mode(FavoriteMode mode)
 {
-    fav.storing = on;
-    SendDummyTally(on ? "LOCAL@Favorites@Store#true" : "LOCAL@Favorites@Store#false");
+    fav.mode = mode;
+    for (const auto& m : modes) {
+        char line[CMD_SIZE];
+        PrintText(line, "%s#%s", m.path, m.mode == mode ? "true" : "false");
+        SendDummyTally(line);
+    }
     for (int n = 0; n < FAVORITES; n++)
         fav_show(n);
 }
@@ -121,34 +134,52 @@ static void fav_store(int n)
                           unsigned(GL_PrevPage), page->tree[0], word);
 }
 
+// The colours in turn; behind the last none.
+static void fav_next_color(int n)
+{
+    const int color = (fav.item[n].color + 1) % (COLORS + 1);
+    Net_SendCommandFormat("put Info@Operation Setup Data@Color Select@%d#%d", n + 1, color + 1);
+}
+
+static void fav_clear(int n)
+{
+    Net_SendCommandFormat("put Info@Operation Setup Data@Shortcut Name@%d#0,", n + 1);
+}
+
+// Colours are tried one after the other: that mode stays until its key is pressed again.
 static void fav_press(int n)
 {
-    if (fav.storing) {
-        fav_store(n);
-        fav_set_storing(false);
-    } else if (fav.item[n].page) {
-        GL_CreatePage = fav.item[n].page;
+    switch (fav.mode) {
+    case FAV_STORE: fav_store(n); break;
+    case FAV_COLOR: return fav_next_color(n);
+    case FAV_CLEAR: fav_clear(n); break;
+    case FAV_OPEN:
+        if (fav.item[n].page)
+            GL_CreatePage = fav.item[n].page;
+        return;
     }
+    fav_set_mode(FAV_OPEN);
 }
 
 static int pc_favorites_create(int on, uint32_t)
 {
-    fav.storing = false;
+    fav.mode = FAV_OPEN;
     if (!on)
         return 1;
     // They are followed for the life of the process: a removal would end that.
     for (int n = 1; n <= FAVORITES; n++)
         for (const char* word : {"Group Name", "Shortcut Name", "Color Select"})
             Net_SendCommandFormat("read Info@Operation Setup Data@%s@%d", word, n);
-    fav_set_storing(false);
+    fav_set_mode(FAV_OPEN);
     return 0;
 }
 
 static int fav_button_pressed(const char* path, const char* value)
 {
-    if (strcmp(path, "LOCAL@Favorites@Store") == 0) {
-        fav_set_storing(!fav.storing);
-    } else if (strcmp(path, "LOCAL@Favorites@Open") == 0) {
+    for (const auto& m : modes)
+        if (Same(path, m.path))
+            fav_set_mode(fav.mode == m.mode ? FAV_OPEN : m.mode);
+    if (Same(path, "LOCAL@Favorites@Open")) {
         const int n = IndexFrom1(value, FAVORITES);
         if (n >= 0)
             fav_press(n);

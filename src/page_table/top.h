@@ -65,7 +65,9 @@ inline constexpr BT_TBL bt_top_favorites[] = {
     FavoriteKey(35, "LOCAL@Favorites@Open#8"),
     FavoriteKey(36, "LOCAL@Favorites@Open#9"),
     FavoriteKey(37, "LOCAL@Favorites@Open#10"),
-    Toggle({.id = 54, .caption = "Store\nPage", .cmd = {"LOCAL@Favorites@Store#*"}}),
+    Toggle({.id = 52, .caption = "Next\nColor", .group = "Edit", .cmd = {"LOCAL@Favorites@Color#*"}}),
+    Toggle({.id = 53, .caption = "Clear",       .group = "Edit", .cmd = {"LOCAL@Favorites@Clear#*"}}),
+    Toggle({.id = 54, .caption = "Store\nPage", .group = "Edit", .cmd = {"LOCAL@Favorites@Store#*"}}),
     Jump  ({.id = 6,  .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

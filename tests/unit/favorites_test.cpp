@@ -1,0 +1,64 @@
+// The operator's own pages: opening, storing, colouring, clearing.
+#include "table_page.h"
+
+namespace
+{
+constexpr uint32_t FAVORITES = 0x00220000;
+constexpr int FIRST = 1, LAST = 37, BTN_COLOR = 52, BTN_CLEAR = 53, BTN_STORE = 54;
+const std::string DATA = "Info@Operation Setup Data@";
+
+struct Favorites : TablePage {
+    void SetUp() override
+    {
+        TablePage::SetUp();
+        (void)Open(0x11120000);
+        EXPECT_EQ(CreatePage(FAVORITES), 0);
+        TellAll(DATA, {"Shortcut Name@1#13110000,M/E-3|Type", "Color Select@1#8"});
+    }
+    void TearDown() override
+    {
+        TellAll(DATA, {"Shortcut Name@1#0,", "Color Select@1#9"});
+        TablePage::TearDown();
+    }
+    // The next touch counts only when the key has come back up.
+    static Lines Again(int key)
+    {
+        Pass(2000);
+        return Puts(Press(key));
+    }
+    static Lines Work(int mode, int key)
+    {
+        (void)Again(mode);
+        return Again(key);
+    }
+};
+} // namespace
+
+TEST_F(Favorites, AKeyOpensItsPageUnlessSomethingElseIsMeant)
+{
+    EXPECT_EQ(Usable({FIRST, LAST}), std::vector<int>{FIRST}) << "a free key opens nothing";
+    EXPECT_THAT(Work(BTN_STORE, LAST),
+                testing::ElementsAre("put " + DATA + "Shortcut Name@10#11120000,M/E-1|Edge"));
+    EXPECT_EQ(Work(BTN_COLOR, FIRST), Lines{"put " + DATA + "Color Select@1#9"});
+    (void)Tell(DATA + "Color Select@1#9");
+    EXPECT_EQ(Again(FIRST), Lines{"put " + DATA + "Color Select@1#1"}) << "still colouring";
+    EXPECT_EQ(Work(BTN_CLEAR, FIRST), Lines{"put " + DATA + "Shortcut Name@1#0,"});
+    EXPECT_EQ(GL_CreatePage, 0u);
+    EXPECT_EQ(Again(FIRST), Lines{}) << "one is cleared at a time";
+    EXPECT_EQ(GL_CreatePage, 0x13110000u) << "the server still has it";
+    GL_CreatePage = 0;
+    (void)Tell(DATA + "Shortcut Name@1#0,");
+    EXPECT_EQ(Usable({FIRST}), std::vector<int>{});
+}
+
+TEST_F(Favorites, OnlyOneThingIsMeantAtATime)
+{
+    (void)Press(BTN_STORE);
+    (void)Press(BTN_CLEAR);
+    EXPECT_EQ(BT_GetStatus(BTN_CLEAR), BT_ON);
+    EXPECT_EQ(BT_GetStatus(BTN_STORE), BT_OFF);
+    (void)Press(BTN_CLEAR);
+    (void)Press(FIRST);
+    EXPECT_EQ(GL_CreatePage, 0x13110000u);
+    GL_CreatePage = 0;
+}
