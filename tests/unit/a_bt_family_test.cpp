@@ -47,6 +47,7 @@ TEST_F(ButtonFamily, VisibilityFollowsTheRuleOfTheFamily)
         {"edgeadj, no second", bt_tly_edgeadj, "x--xx", "xx-x-"},
         {"edgeadj, no third", bt_tly_edgeadj, "xxx--", "x-x-x"},
         {"keydrop, pair", bt_tly_keydrop, "--x-", "-xx-"},
+        {"keydrop, the other half", bt_tly_keydrop, "-x--", "-xx-"},
         {"keydrop, fourth", bt_tly_keydrop, "----", "---x"},
     };
     for (const auto& c : cases) {
@@ -86,21 +87,24 @@ TEST_F(ButtonFamily, AWipeHasSizeAndTransparencyByItsNumber)
     }
 }
 
-TEST_F(ButtonFamily, ABarIsForALightThatIsOnWithoutAPattern)
+TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
 {
     static const struct {
-        const char* light;
-        const char* pattern;
+        int (*tally)(BT_MEM*, int, const char*, const char*);
+        const char *first, *second;
         int visible;
-    } cases[] = {{"true", "null", BT_ENABLED},
-                 {"false", "null", BT_DISABLED},
-                 {"true", "3", BT_DISABLED},
-                 {"true", "", BT_DISABLED}};
+    } cases[] = {{bt_tly_lightptnbar, "true", "null", BT_ENABLED},
+                 {bt_tly_lightptnbar, "false", "null", BT_DISABLED},
+                 {bt_tly_lightptnbar, "true", "3", BT_DISABLED},
+                 {bt_tly_lightptnbar, "true", "", BT_DISABLED},
+                 {bt_tly_edge, "true", "Chroma", BT_DISABLED},
+                 {bt_tly_edge, "true", "Linear", BT_ENABLED},
+                 {bt_tly_edge, "false", "Chroma", BT_ENABLED}};
     for (const auto& c : cases) {
-        OpenTally(bt_tly_lightptnbar, {"", ""});
-        Dependency(1, c.light);
-        Dependency(2, c.pattern);
-        EXPECT_EQ(BT_GetVisible(17), c.visible) << c.light << " " << c.pattern;
+        OpenTally(c.tally, {"", ""});
+        Dependency(1, c.first);
+        Dependency(2, c.second);
+        EXPECT_EQ(BT_GetVisible(17), c.visible) << c.first << " " << c.second;
     }
 }
 
@@ -156,6 +160,20 @@ TEST_F(ButtonFamily, WhatPageCodePutsOutStaysOut)
 }
 
 // --- Select ---
+
+TEST_F(ButtonFamily, AButtonOfTheNextVersionActsFromThatVersionOn)
+{
+    rows[0] = Button(17, BT_ACTION, {"~@A#*"});
+    rows[0].select_func = bt_sel_normal_nextver;
+    rows[1] = {.id = -1};
+    for (const int version : {1, 2}) {
+        GL_NextVersion = version;
+        Open(rows);
+        (void)TakeQueuedCommands();
+        Press(17);
+        EXPECT_EQ(TakeQueuedCommands().size(), version == 2);
+    }
+}
 
 TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBank)
 {

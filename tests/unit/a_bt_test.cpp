@@ -16,6 +16,9 @@ static const BT_TBL table[] = {
     Button(36, BT_ACTION, {"LOCAL@Test@Go#2"}),
     Button(37, BT_KNOB_ONLY, {""}, boxes),
     Button(38, BT_PULLDOWN, {"~@List#*"}),
+    Button(50, BT_PULLDOWN_LONG, {"~@Long#*"}),
+    Button(51, BT_TRANSFER_LEFT, {"~@Left#*"}),
+    Button(52, BT_TRANSFER_RIGHT, {"~@Right#*"}),
     Button(49, BT_TAB, {"~@Tab#*"}),
     {.id = -1},
 };
@@ -86,6 +89,16 @@ TEST_F(Buttons, APressSendsWhatItsTypeSays)
     for (int id : {33, 35, 37, 38, 49}) {
         Press(id);
         EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << id;
+    }
+}
+
+// What follows such a press takes its time.
+TEST_F(Buttons, APressThatLeadsToMoreIsPaintedAtOnce)
+{
+    Pass(10);
+    for (int id : {20, 33, 18, 21, 38, 49, 50, 51, 52}) {
+        Press(id);
+        EXPECT_EQ(bt_find(id)->redraw, id == 20 || id == 33 || id == 18) << id;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "a_kf.h"
 #include "a_kf_frames.h"
+#include "a_kf_private.h"
 #include "hand_page.h"
 #include "netio.h"
 #include "tdl.h"
@@ -91,7 +92,9 @@ TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
     EXPECT_EQ(r.kf[3].duration, 30);
     EXPECT_EQ(r.kf[3].pause, 1);
     EXPECT_THAT(told, ElementsAre("STATUS 0"));
+    tlSETime_redraw = 0;
     kf::Send(kf::DATA, kf::DataFrame(opening));
+    EXPECT_EQ(tlSETime_redraw, 1) << "the axis may be another";
     EXPECT_THAT(told, ElementsAre("STATUS 0")) << "neither register nor count has changed";
     kf::Data strange = opening;
     strange.regname = "A\nB\x80\x7F\x1B C";
@@ -195,7 +198,9 @@ TEST_F(Keyframes, EachSelectionBitMeansItsRegions)
 
 TEST_F(Keyframes, ASelectionIsToldOncePerChange)
 {
+    Region[ME2].redraw = 0;
     kf::Select({1, 0xFF, 0xFF, 0xFF, 0, 0, 0, 0});
+    EXPECT_EQ(R(ME2).redraw, 1);
     EXPECT_THAT(told, ElementsAre("SELECTION"));
     kf::Select({0, 0xFF, 0xFF, 0xFF, 0xAA, 0, 0, 0});
     EXPECT_THAT(told, ElementsAre("SELECTION")) << "only the reference is another";

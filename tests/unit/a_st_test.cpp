@@ -47,6 +47,11 @@ TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceAndUpdatesBoth)
     Tally("M/E-1@Key1@A", "x");
     Pass();
     EXPECT_EQ(painted, 2);
+    Pass();
+    EXPECT_EQ(painted, 2) << "nothing new";
+    GL_ST_area_update_draw();
+    Pass();
+    EXPECT_EQ(painted, 4);
 }
 
 TEST_F(StatusCells, AFullCellKeepsEachOfItsPathsAndItsTextsInBounds)
@@ -137,6 +142,11 @@ TEST_F(StatusCells, ATransitionOrClipCellLeadsWhereItsTallySays)
     EXPECT_EQ(PageOfCell(transition), 0x14610000u);
     Tally("PGM/PST@Misc@Transition@Wipe", "true");
     EXPECT_EQ(PageOfCell(transition), 0x14510000u);
+    const ST_TBL& clip = *std::ranges::find(st_me_misc, 9, &ST_TBL::id);
+    for (const auto& [output, target] : {std::pair{"DDR1", 0u}, {"FM1", 0x21110000u}}) {
+        Tally("PGM/PST@Misc@Clip Transition@Output", output);
+        EXPECT_EQ(PageOfCell(clip), target);
+    }
 }
 
 // --- The reference of the effects units ---
@@ -215,25 +225,32 @@ TEST_F(StatusCells, ARebuiltCellShowsNothingOfTheCellThatStoodInItsPlace)
     static std::string second;
     const auto note = [](ST_MEM* cell) {
         const ST_MEM* shown = st_shown(cell);
-        second = shown ? shown->tally[1] : "no picture";
+        second += shown ? shown->tally[1] : "no picture";
         return 0;
     };
+    const auto seen = [] { return std::exchange(second, ""); };
     ST_TBL two = Cell(1, {"~2@A", "~2@B"});
     ST_TBL one = Cell(1, {"~2@C"});
-    two.draw_func = one.draw_func = note;
-    const ST_TBL first[] = {two, ST_END};
+    ST_TBL other = Cell(2, {"~2@D", "~2@E"});
+    two.draw_func = one.draw_func = other.draw_func = note;
+    const ST_TBL first[] = {two, other, ST_END};
     const ST_TBL next[] = {one, ST_END};
     GL_ProcStatus[1] = 1;
     Open(first);
     Tally("M/E-1@Key1@B", "false");
+    Tally("M/E-1@Key1@E", "+");
     Pass();
-    EXPECT_EQ(second, "false");
+    EXPECT_EQ(seen(), "false+");
+    Open(first);
+    Pass();
+    EXPECT_EQ(seen(), "false+") << "each its own";
     Open(next);
     Tally("M/E-1@Key1@C", "5");
     Pass();
+    (void)seen();
     Open(next); // before the server has answered
     Pass();
-    EXPECT_EQ(second, "");
+    EXPECT_EQ(seen(), "");
 }
 
 TEST_F(StatusCells, AnUnknownWordOrPatternLeavesTheFrameEmpty)

@@ -1,5 +1,6 @@
 // The walk over all pages: every row is opened, drawn and left again, in the order of the table.
 #include "a_nb.h"
+#include "a_pc.h"
 #include "bus.h"
 #include "command.h"
 #include "global.h"
@@ -57,6 +58,15 @@ void Pass(int elapsed_ms)
     SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
 }
 
+// What is meant for somebody else goes on to him.
+void OthersAreLeftTheirs(uint32_t page)
+{
+    constexpr char PATH[] = "Nobody@Has@This";
+    for (const int msg : {int(MSG_TALLY), int(LMSG_BTNSEL)})
+        EXPECT_EQ(PC_Proc(msg, Arg(PATH), Arg(""), Hash(PATH), 0), 0) << std::hex << page;
+    EXPECT_EQ(PC_Proc(LMSG_KNOBCREATE, 999, Arg(""), 0, 0), 0) << std::hex << page;
+}
+
 // Windows and panes that a page opens by itself would stand over the next one.
 void CloseAll()
 {
@@ -106,6 +116,7 @@ struct AllPages : testing::Test {
                 titles.insert(NB_GetTitle());
             Pass(10);
             Pass(10);
+            OthersAreLeftTheirs(row->id);
             CloseAll();
             (void)CreatePage(PAGE_TOP); // it was there before
             Pass(10);

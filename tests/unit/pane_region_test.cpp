@@ -270,6 +270,12 @@ TEST_F(Regions, ASingleSelectorAnswersWithTheRegion)
     id = PaneRegion_Create(4, 1);
     Touch(5, 5);
     EXPECT_EQ(Last(), Quit(id, 0));
+    Units(1, 0);
+    PaneRegion_InitID(23);
+    Units(2, 0); // the second one has come meanwhile
+    id = PaneRegion_Create(23, 1);
+    TouchCell(23, 1, 1);
+    EXPECT_EQ(Last(), Quit(id, 897));
     EXPECT_EQ(Selected(4), "0*");
 }
 

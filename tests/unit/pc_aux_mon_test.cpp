@@ -14,12 +14,12 @@ struct AuxPage : TablePage {
     void SetUp() override
     {
         TablePage::SetUp();
-        TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,CAM 3", "7,CG 1"});
+        TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,CAM 3", "7,CG 1", "9,X"});
     }
     void TearDown() override
     {
         (void)Leave();
-        TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,", "7,"});
+        TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,", "7,", "9,"});
         TablePage::TearDown();
     }
     static Lines Choose(int row, int list = 1)
@@ -77,6 +77,9 @@ TEST_F(AuxPage, ATouchPutsASignalOnTheChosenBus)
     EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "only the answer changes what is shown";
     (void)Tell("Aux/Mon@Monitor@Mon 8@Source#CG 1");
     EXPECT_STREQ(LS_GetData(2, 1, 2), "O");
+    EXPECT_EQ(LS_IsSelected(2, 1, 0), 1) << "and in view";
+    EXPECT_EQ(LS_IsSelected(2, 0, 0) + LS_IsSelected(2, 2, 0), 0);
+    EXPECT_STREQ(LS_GetData(2, 2, 1), "X");
     (void)Choose(0);
     EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "nothing is known of the first one's";
     EXPECT_EQ(Choose(9, 2).size(), 0u) << "no such signal";

@@ -57,7 +57,8 @@ TEST_F(KeyResizerPages, WithoutTheLargeFrameMemoryThereIsNone)
 
 TEST_F(KeyResizerPages, ASubPageFollowsWhatNoneOfItsButtonsHas)
 {
-    EXPECT_EQ(Held(Open(0x85250003), "M/E-4@Key6@Resizer@Combine"), 1);
+    for (const uint32_t page : {0x85250000u, 0x85250003u})
+        EXPECT_EQ(Held(Open(page), "M/E-4@Key6@Resizer@Combine"), 1) << std::hex << page;
 }
 
 TEST_F(KeyResizerPages, TheBorderOfAGeneratorIsAskedForAfterwards)
