@@ -1,6 +1,7 @@
 #include "router.h"
 #include "text.h"
 #include "tree.h"
+#include <algorithm>
 #include <array>
 #include <map>
 
@@ -51,9 +52,19 @@ static std::string salvo_path(int n, const char* what)
     return ROUTER + Text_Format("Salvo@%d@%s", n + 1, what);
 }
 
+// As the panels' list of names has it; one without a name has its number.
 static std::string source_name(int number)
 {
-    return number >= 1 && number <= SOURCES ? Text_Format("SRC%d", number) : "";
+    const Node* const names =
+        Tree_Find("Engineering Setup@Panel@Config@External Bus Link@S-BUS Src Name List");
+    if (number < 1 || number > SOURCES)
+        return "";
+    const std::string head = std::to_string(number) + ",";
+    if (names)
+        for (const std::string& row : names->rows)
+            if (Text_Begins(row, head) && row.size() > head.size())
+                return row.substr(head.size());
+    return Text_Format("SRC%d", number);
 }
 
 static int source_number(const std::string& name)
@@ -78,6 +89,7 @@ static bool is_locked(int d)
 {
     const std::string lock = value_of(destination_path(d, "Lock"));
     return lock == "Lock" ||
+           value_of("Engineering Setup@Router@Inhibit@" + std::to_string(d + 1)) == "true" ||
            (lock == "Protect" && value_of(destination_path(d, "Owner")) != OWN_PANEL);
 }
 
@@ -259,6 +271,22 @@ bool Router_IsLocked(const std::string& path)
                       ? index_of(words[3], "Dest", DESTINATIONS)
                       : -1;
     return d >= 0 && is_locked(d);
+}
+
+void Router_Rename(const std::string& from, const std::string& to)
+{
+    for (int d = 0; d < DESTINATIONS; ++d) {
+        for (int level = 0; level < LEVELS; ++level)
+            if (value_of(crosspoint(d, level)) == from)
+                Tree_Show(crosspoint(d, level), to);
+        if (value_of(destination_path(d, "Preset")) == from)
+            Tree_Show(destination_path(d, "Preset"), to);
+        std::replace(rt.before[d].begin(), rt.before[d].end(), from, to);
+    }
+    for (Salvo& salvo : rt.salvo)
+        for (auto& [d, source] : salvo.presets)
+            if (source == from)
+                source = to;
 }
 
 void Router_Install()

@@ -4,7 +4,7 @@
 //   Destination@Dest3@Preset         what a take brings; Lock "Free", "Protect", "Lock"; Owner
 //   Salvo@1@Name, Dests, Levels      how much is stored
 // A destination that is locked changes for nobody, one that is protected only for its owner's
-// panel. All panels here count as the first one.
+// panel. All panels here count as the first one. One that the setup inhibits is locked, too.
 #pragma once
 #include <string>
 
@@ -13,6 +13,8 @@ void Router_Install(); // every destination shows a source; nothing is preset, l
 bool Router_Put(const std::string& path, const std::string& value);
 // A macro's: destination and source from 1; level from 1, 0 all. Nothing where it may not.
 void Router_Route(int destination, int source, int level);
+// A source has another name: what shows it follows.
+void Router_Rename(const std::string& from, const std::string& to);
 bool Router_IsState(const std::string& path); // no part of a snapshot
 // A crosspoint of a destination that is locked: a recall leaves it alone.
 bool Router_IsLocked(const std::string& path);

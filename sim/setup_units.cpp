@@ -1,4 +1,5 @@
 #include "setup_units.h"
+#include "router.h"
 #include "setup_kind.h"
 #include "text.h"
 #include "tree.h"
@@ -169,9 +170,10 @@ struct Names {
     const char* word; // a name before it is given one
     int count;
     size_t letters;
+    bool is_source = false; // of the router
 };
 static constexpr Names names[] = {
-    {"Router@Source Table@Name@", "S-BUS Src Name List", "SRC", ROUTER_NAMES, 16},
+    {"Router@Source Table@Name@", "S-BUS Src Name List", "SRC", ROUTER_NAMES, 16, true},
     {"Router@Destination Table@Name@", "S-BUS Dst Name List", "DST", ROUTER_NAMES, 16},
     {"Router@Config@Level Name@Level ", "", "LEVEL", 8, 8},
     {"Tally@Tally Group@Name@Group ", "", "TALLY", TALLY_GROUPS, 8},
@@ -212,9 +214,12 @@ static bool put_name(const Names& of, const std::string& path, const std::string
     if (!Text_ToInt(path.substr(SETUP.size() + std::string(of.path).size()), &n) || n < 1 ||
         n > of.count || value.size() > of.letters)
         return SetupKind_Refuse(path, value);
+    const std::string before = Tree_Get(path)->value;
     Tree_Show(path, value);
     if (*of.list)
         Tree_ShowRow(BUS_NAMES + of.list, std::to_string(n) + "," + value);
+    if (of.is_source && !before.empty() && !value.empty())
+        Router_Rename(before, value);
     return true;
 }
 

@@ -56,8 +56,20 @@ class SetupUnits(SetupCase):
         name = self.desk.value(f"{SETUP}Router@Source Table@Name@2")
         self.assertTrue(name.lower().endswith("x"), name)
         self.assertEqual(self.listed(f"{SETUP}Panel@Config@External Bus Link@S-BUS Src Name List", 2), name)
+        self.assertEqual(self.desk.value("Router@Status@Xpt Assign@Dest2@Level1"), name)
 
-    def test_4_the_buses_of_a_tally_group_are_copied_to_another(self):
+    def test_4_an_inhibited_destination_takes_no_source(self):
+        desk = self.desk
+        self.open("7361.4")
+        self.row(2)
+        self.push(33)
+        self.push(EXECUTE)
+        desk.wait_wire(f"put {SETUP}Router@Inhibit@3#true")
+        for destination, preset in (("Dest3", ""), ("Dest4", "SRC9")):
+            desk.console(f"put Router@Destination@{destination}@Preset#SRC9")
+            self.assertEqual(desk.value(f"Router@Destination@{destination}@Preset"), preset)
+
+    def test_5_the_buses_of_a_tally_group_are_copied_to_another(self):
         desk = self.desk
         self.open("7362.2")
         self.row(1)
@@ -69,7 +81,7 @@ class SetupUnits(SetupCase):
         self.assertEqual(desk.value(f"{ENABLE}P/P"), "true,true,false,false,false,false,false,false")
         self.assertEqual(desk.value(f"{SETUP}Tally@Tally Copy@Group 2"), "None")
 
-    def test_5_another_model_of_a_unit_counts_at_once_and_is_still_heard_of_later(self):
+    def test_6_another_model_of_a_unit_counts_at_once_and_is_still_heard_of_later(self):
         desk = self.desk
         self.open("7341")
         self.row(0)
