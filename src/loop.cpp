@@ -304,7 +304,7 @@ static void loop_page_change()
     const uint32_t begun = SDL_GetTicks();
     // A page that cannot be resolved leaves the old one: the request is over all the same.
     if (CreatePage(id) == 0)
-        loop_figure_page(id, int(SDL_GetTicks() - begun));
+        loop_figure_page(GL_NowPage, int(SDL_GetTicks() - begun));
     // What opening the page requested in its turn stands for the next pass.
     if (GL_CreatePage == id)
         GL_CreatePage = 0;

@@ -27,7 +27,7 @@ struct LoopFigures {
     uint32_t longest_page = 0; // that was shown at the end of it
     uint32_t changes = 0;      // page changes that the loop has made
     int page_ms = 0;           // of the last of them
-    uint32_t page = 0;         // the page that it was asked for
+    uint32_t page = 0;         // the page that it opened
     int page_longest_ms = 0;
     uint32_t page_longest = 0;
 };

@@ -117,6 +117,29 @@ class Diagnosis(DeskCase):
         desk.touch(*YES, settle=0.8)
         self.assertTrue(self.is_empty(100))
 
+    def test_5_the_engineering_menu_is_reached_from_here(self):
+        desk = self.desk
+        desk.console("page 7411")
+        time.sleep(0.8)
+        desk.touch(*grid(52), settle=0.8)
+        desk.wire()
+        desk.touch(*grid(18))  # Links
+        desk.wait_wire("read Engineering Setup@System@Format@4K Mode")
+        desk.console("send Info@Status Report@SWR1#NG Fan 3")
+        self.wait(lambda: "Status report of SWR1: NG Fan 3" in desk.log())
+        desk.touch(*grid(54), settle=0.8)
+        desk.touch(*grid(1), settle=0.8)  # Debug Switches
+        desk.touch(*grid(6), settle=0.8)  # level 9
+        self.assertIn("Log level: 9", desk.log())
+        before = desk.log()
+        desk.touch(*grid(54), settle=0.8)
+        self.assertEqual(desk.log(), before)  # a page change is no longer worth a line
+        desk.touch(*grid(1), settle=0.8)
+        desk.touch(*grid(1), settle=0.8)  # level 0
+        before = desk.log().count("CreatePage(99910000h)")
+        desk.touch(*grid(54), settle=0.8)
+        self.assertEqual(desk.log().count("CreatePage(99910000h)"), before + 1)
+
 
 if __name__ == "__main__":
     unittest.main()
