@@ -47,7 +47,7 @@ static void open_row(const OVERVIEW& t, int row)
         cell = {.hash = Hash(path)};
         for (int list = 1; list <= t.lists; list++)
             LS_SetData(list, row, n + 1, cell.text);
-        Net_SendCommandFormat("add %s", path);
+        Net_SendCommandFormat("%s %s", t.columns[n].is_for_life ? "read" : "add", path);
     }
 }
 
@@ -67,6 +67,8 @@ void Overview_Close(const OVERVIEW& t)
 {
     for (int row = 0; row < ov.count; row++)
         for (int n = 0; n < columns_of(t); n++) {
+            if (t.columns[n].is_for_life)
+                continue;
             char path[CMD_SIZE];
             path_of(path, t.columns[n].path, ov.item[row]);
             Net_SendCommandFormat("remove %s", path);

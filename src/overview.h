@@ -22,8 +22,9 @@ struct OVERVIEWITEM {
 };
 
 struct OVERVIEWCOLUMN {
-    const char* path = nullptr;       // "$" and "%" are the item's
+    const char* path = nullptr;       // with "$" and "%" of the item
     const ONEOFWORD* words = nullptr; // as of one_of
+    bool is_for_life = false; // followed as long as the process lives: a removal would end that
 };
 
 struct OVERVIEW {

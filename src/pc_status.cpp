@@ -177,8 +177,8 @@ static constexpr OVERVIEWCOLUMN effect_columns[] = {
     {"Global Effect@%@Trail@Ch$"},
 };
 static constexpr OVERVIEWCOLUMN device_columns[] = {
-    {"Engineering Setup@System@Format@Video Format@$"},
-    {"Engineering Setup@System@Format@Reference@$"},
+    {.path = "Engineering Setup@System@Format@Video Format@$", .is_for_life = true},
+    {.path = "Engineering Setup@System@Format@Reference@$", .is_for_life = true},
 };
 
 #define STATUS_TABLE(of_items, of_columns)                                                         \
