@@ -22,6 +22,18 @@ template <int N> static int numbered(const char* word, const char** names, int m
 static ONEOFSTATE aux_state;
 static ONEOFSTATE monitor_state;
 
+void AuxBus_OpenNext(int bus)
+{
+    if (bus >= 0 && bus < AUX_BUSES)
+        aux_state.cursor = bus;
+}
+
+void Monitor_OpenNext(int monitor)
+{
+    if (monitor >= 0 && monitor < MONITORS)
+        monitor_state.cursor = monitor;
+}
+
 static constexpr ONEOFCOLUMN aux_columns[] = {
     {"Aux/Mon@Aux Bus@$@Source"},
     {"Aux/Mon@Aux Bus@$@Mix", one_of_switch},

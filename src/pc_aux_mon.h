@@ -6,5 +6,10 @@
 constexpr int AUX_BUSES = 48;
 constexpr int MONITORS = 8;
 
+// Which bus, which monitor the page is about when it opens next, from 0; one that is not there is
+// ignored.
+void AuxBus_OpenNext(int bus);
+void Monitor_OpenNext(int monitor);
+
 extern const PC_TBL pc_aux_bus;
 extern const PC_TBL pc_monitor;

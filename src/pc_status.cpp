@@ -13,39 +13,51 @@
 
 static constexpr int LIST = 1;
 
-static void open_page_of_row(const char* offset)
+namespace
 {
-    const OVERVIEWITEM* const item = Overview_Item(LS_GetNowLine(LIST));
-    if (item && item->page)
-        GL_CreatePage = item->page + Hex(offset);
+struct StatusPage {
+    OVERVIEW rows;
+    void (*choose)(int row) = nullptr; // on the page that opens, where it is about one of many
+};
+} // namespace
+
+static void open_page_of_row(const StatusPage& p, const char* offset)
+{
+    const int row = LS_GetNowLine(LIST);
+    const OVERVIEWITEM* const item = Overview_Item(row);
+    if (!item || !item->page)
+        return;
+    if (p.choose)
+        p.choose(row);
+    GL_CreatePage = item->page + Hex(offset);
 }
 
-static int create(const OVERVIEW& t, int on)
+static int create(const StatusPage& p, int on)
 {
-    on ? Overview_Open(t) : Overview_Close(t);
+    on ? Overview_Open(p.rows) : Overview_Close(p.rows);
     return !on;
 }
 
-static int proc(const OVERVIEW& t, int msg, MsgArg ax, MsgArg bx, MsgArg cx)
+static int proc(const StatusPage& p, int msg, MsgArg ax, MsgArg bx, MsgArg cx)
 {
     if (msg == MSG_TALLY)
-        (void)Overview_Tally(t, Text(ax), Text(bx), uint32_t(cx));
+        (void)Overview_Tally(p.rows, Text(ax), Text(bx), uint32_t(cx));
     else if (msg == LMSG_BTNSEL && Same(Text(ax), "LOCAL@Status@Open"))
-        open_page_of_row(Text(bx));
+        open_page_of_row(p, Text(bx));
     return 0;
 }
 
-template <const OVERVIEW& table> static int create_of(int on, uint32_t)
+template <const StatusPage& page> static int create_of(int on, uint32_t)
 {
-    return create(table, on);
+    return create(page, on);
 }
-template <const OVERVIEW& table>
+template <const StatusPage& page>
 static int proc_of(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
-    return proc(table, msg, ax, bx, cx);
+    return proc(page, msg, ax, bx, cx);
 }
-template <const OVERVIEW& table>
-static constexpr PC_TBL code_of = {.proc_func = proc_of<table>, .create_func = create_of<table>};
+template <const StatusPage& page>
+static constexpr PC_TBL code_of = {.proc_func = proc_of<page>, .create_func = create_of<page>};
 
 // --- Rows ---
 
@@ -181,21 +193,23 @@ static constexpr OVERVIEWCOLUMN device_columns[] = {
     {.path = "Engineering Setup@System@Format@Reference@$", .is_for_life = true},
 };
 
-#define STATUS_TABLE(of_items, of_columns)                                                         \
+#define STATUS_PAGE(of_items, of_columns, of_choose)                                               \
     {                                                                                              \
-        .items = of_items, .columns = of_columns, .column_count = std::size(of_columns)            \
+        .rows = {.items = of_items, .columns = of_columns, .column_count = std::size(of_columns)}, \
+        .choose = of_choose                                                                        \
     }
-static constexpr OVERVIEW key_table = STATUS_TABLE(key_items, key_columns);
-static constexpr OVERVIEW wipe_table = STATUS_TABLE(bank_items, wipe_columns);
-static constexpr OVERVIEW aux_table = STATUS_TABLE(aux_items, aux_columns);
-static constexpr OVERVIEW effect_table = STATUS_TABLE(effect_items, effect_columns);
-static constexpr OVERVIEW monitor_table = STATUS_TABLE(monitor_items, monitor_columns);
-static constexpr OVERVIEW device_table = STATUS_TABLE(device_items, device_columns);
-#undef STATUS_TABLE
+static constexpr StatusPage key_page = STATUS_PAGE(key_items, key_columns, nullptr);
+static constexpr StatusPage wipe_page = STATUS_PAGE(bank_items, wipe_columns, nullptr);
+static constexpr StatusPage aux_page = STATUS_PAGE(aux_items, aux_columns, AuxBus_OpenNext);
+static constexpr StatusPage effect_page = STATUS_PAGE(effect_items, effect_columns, nullptr);
+static constexpr StatusPage monitor_page =
+    STATUS_PAGE(monitor_items, monitor_columns, Monitor_OpenNext);
+static constexpr StatusPage device_page = STATUS_PAGE(device_items, device_columns, nullptr);
+#undef STATUS_PAGE
 
-const PC_TBL pc_status_key = code_of<key_table>;
-const PC_TBL pc_status_wipe = code_of<wipe_table>;
-const PC_TBL pc_status_aux = code_of<aux_table>;
-const PC_TBL pc_status_effect = code_of<effect_table>;
-const PC_TBL pc_status_monitor = code_of<monitor_table>;
-const PC_TBL pc_status_device = code_of<device_table>;
+const PC_TBL pc_status_key = code_of<key_page>;
+const PC_TBL pc_status_wipe = code_of<wipe_page>;
+const PC_TBL pc_status_aux = code_of<aux_page>;
+const PC_TBL pc_status_effect = code_of<effect_page>;
+const PC_TBL pc_status_monitor = code_of<monitor_page>;
+const PC_TBL pc_status_device = code_of<device_page>;

@@ -47,6 +47,19 @@ TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpens)
     }
 }
 
+TEST_F(StatusPage, APageAboutOneOfManyOpensAboutTheChosenOne)
+{
+    for (const uint32_t list : {0x33140000u, 0x33150000u}) {
+        (void)Open(list);
+        LS_SetNowLine(1, 5);
+        const uint32_t page = PageBy(49);
+        (void)Open(page);
+        EXPECT_STREQ(GL_NowTree[2], page == 0x23110000 ? "Aux 6" : "Mon 6") << std::hex << page;
+        LS_SetNowLine(1, 0);
+        SendMessage(LMSG_LISTSEL, 1, 0, 0, 0); // as it was
+    }
+}
+
 TEST_F(StatusPage, ALineShowsWhatTheServerSaysOfItsThing)
 {
     (void)Open(KEY);
