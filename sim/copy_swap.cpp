@@ -105,11 +105,19 @@ static bool is_effect(const std::string& kind)
     return kind == CHANNEL || kind == EFFECT;
 }
 
+// Of a bank, or a background; a channel is a number.
+static bool is_thing(const std::string& kind, const std::string& path)
+{
+    return is_effect(kind) || Text_Begins(path, "M/E-") || Text_Begins(path, "PGM/PST") ||
+           Text_Begins(path, "Color Bkgd@");
+}
+
 // "FROM,TO,All" or "FROM,TO,PART,PART..."
 static bool read_order(const std::string& kind, const std::string& value, Order* order)
 {
     const std::vector<std::string> fields = Text_Split(value, ',');
-    if (fields.size() < 3 || fields[0].empty() || fields[1].empty() || fields[0] == fields[1])
+    if (fields.size() < 3 || fields[0] == fields[1] || !is_thing(kind, fields[0]) ||
+        !is_thing(kind, fields[1]))
         return false;
     *order = {kind, fields[0], fields[1], {}};
     for (size_t i = 2; i < fields.size(); i++) {

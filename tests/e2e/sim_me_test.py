@@ -143,7 +143,7 @@ class Copies(MeTest):
         self.assertEqual(sorted(self.put("Copy/Swap@Key@Swap", f"{one[:-1]},{other[:-1]},Type")),
                          sorted([f"{one}{kind}#Chroma", f"{other}{kind}#Linear", f"{undo}#true"]))
         for wrong in ("", "M/E-1@Key1", "M/E-1@Key1,M/E-1@Key1,All", "M/E-1@Key1,M/E-2@Key1,Nothing",
-                      "M/E-1@Key1,M/E-2@Key1"):
+                      "M/E-1@Key1,M/E-2@Key1", "M/E-1@Key1,Info@Key1,All", ",M/E-1@Key1,All"):
             self.assertEqual(self.put(copy, wrong), [], wrong)
 
     def test_a_bank_is_copied_with_its_keys_under_the_names_that_they_have_there(self):
