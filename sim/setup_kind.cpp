@@ -4,7 +4,7 @@
 #include "values.h"
 #include <vector>
 
-static std::vector<std::string> rows_of(const std::string& each)
+std::vector<std::string> SetupKind_Rows(const std::string& each)
 {
     const size_t dots = each.find("..");
     if (dots == std::string::npos)
@@ -17,10 +17,15 @@ static std::vector<std::string> rows_of(const std::string& each)
     return rows;
 }
 
+std::string SetupKind_With(std::string text, const std::string& row)
+{
+    const size_t at = text.find('$');
+    return at == text.npos ? text : text.replace(at, 1, row);
+}
+
 static std::string path_of(const SetupKinds& kinds, const SetupKind& kind, const std::string& row)
 {
-    std::string path = kinds.tree + kind.path;
-    return path.replace(path.find('$'), 1, row);
+    return SetupKind_With(kinds.tree + kind.path, row);
 }
 
 ValueType SetupKind_Type(const std::string& text)
@@ -94,12 +99,12 @@ void SetupKind_Install(const SetupKinds& kinds)
 {
     for (size_t i = 0; i < kinds.count; ++i) {
         const SetupKind& kind = kinds.kind[i];
-        for (const std::string& row : rows_of(kind.each)) {
+        for (const std::string& row : SetupKind_Rows(kind.each)) {
             const std::string path = path_of(kinds, kind, row);
             Node* const node = Tree_Get(path);
             if (node && !is_of_parts(kind))
                 node->type = SetupKind_Type(kind.type);
-            Tree_Preset(path, kind.start);
+            Tree_Preset(path, SetupKind_With(kind.start, row));
         }
     }
 }
@@ -108,7 +113,7 @@ bool SetupKind_Put(const SetupKinds& kinds, const std::string& path, const std::
 {
     for (size_t i = 0; i < kinds.count; ++i)
         if (is_of_parts(kinds.kind[i]))
-            for (const std::string& row : rows_of(kinds.kind[i].each))
+            for (const std::string& row : SetupKind_Rows(kinds.kind[i].each))
                 if (path == path_of(kinds, kinds.kind[i], row))
                     return put_parts(kinds.kind[i], path, value);
     return false;

@@ -3,9 +3,10 @@
 #pragma once
 #include "tree.h"
 #include <string>
+#include <vector>
 
-// A value of each row of a page. "$" of the path is the row; a value of several parts has a type a
-// part, separated by ";".
+// A value of each row of a page. "$" of the path is the row, also in what it starts with; a value
+// of several parts has a type a part, separated by ";".
 struct SetupKind {
     const char* path = "";
     const char* each = ""; // "1..48", or words
@@ -39,6 +40,8 @@ constexpr const char* GPI_NO_REGION_ACTION = "0,,0,0";
         page "@Action Type Region@$@1", ports, GPI_REGION_ACTION, GPI_NO_REGION_ACTION             \
     }
 
+std::vector<std::string> SetupKind_Rows(const std::string& each);
+std::string SetupKind_With(std::string text, const std::string& row); // its first "$" is the row
 ValueType SetupKind_Type(const std::string& text); // of a kind's type without parts
 void SetupKind_Install(const SetupKinds& kinds);
 // A put to a value of several parts: taken or refused, and then true.

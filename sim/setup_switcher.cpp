@@ -1,9 +1,10 @@
 #include "setup_switcher.h"
 #include "log.h"
 #include "setup.h"
+#include "setup_kind.h"
+#include "setup_list.h"
 #include "text.h"
 #include "tree.h"
-#include "values.h"
 #include "verbs.h"
 #include <algorithm>
 #include <iterator>
@@ -13,20 +14,6 @@ namespace
 {
 using Words = std::vector<std::string>;
 
-// The same setting of several: "$" of the path is each word. The start may hold it, too.
-struct Setting {
-    const char* path = "";
-    const char* each = ""; // "A,B" or "1..24"; "" the path alone
-    const char* type = ""; // "bool", "word A,B", "num 0 8 0"
-    const char* start = "";
-};
-// A list of one row for each: the types of the fields behind the key, separated by "|".
-struct Table {
-    const char* path = "";
-    const char* each = "";
-    const char* types = "";
-    const char* start = "";
-};
 struct Bank {
     const char* word = "";
     const char* menu = ""; // first word of the operation pages' paths
@@ -50,7 +37,7 @@ static constexpr int BUSES = 2; // of a bank that can be linked: A and B
 static constexpr Bank banks[] = {{"M/E-1", "M/E-1"}, {"M/E-2", "M/E-2"}, {"M/E-3", "M/E-3"},
                                  {"M/E-4", "M/E-4"}, {"M/E-5", "M/E-5"}, {"P/P", "PGM/PST"}};
 
-static constexpr Setting settings[] = {
+static constexpr SetupKind settings[] = {
     {"Config@Side Flags@Side Flags@$", BANKS, "bool", "false"},
     {"Config@Side Flags@Mode@$", BANKS, "word Auto,Manual", "Auto"},
     {"Config@Side Flags@Fill@$", BANKS, "word Black,Color Bkgd 1,Color Bkgd 2,FM1,FM2,FM3,FM4",
@@ -105,7 +92,7 @@ static constexpr Setting settings[] = {
     {"Link@Enable@$", "Key Link,M/E Link,Internal Bus Link,GPI Link", "bool", "true"},
 };
 
-static constexpr Table tables[] = {
+static constexpr SetupList tables[] = {
     {"Config@Key Config", BANKS, "word Key3 Key4,Key3 Key PVW", "Key3 Key4"},
     {"Config@3D Config@Input Link", "1..64", SOURCE "|bool", "$,false"},
     {"Config@3D Config@FM Output Link", FMS, "word " FMS "|bool", "$,false"},
@@ -124,24 +111,6 @@ static constexpr Table tables[] = {
 
 // --- Words ---
 
-static Words words_of(const std::string& each)
-{
-    const size_t dots = each.find("..");
-    if (dots == std::string::npos)
-        return Text_Split(each, ',');
-    Words numbers;
-    for (int n = atoi(each.c_str()); n <= atoi(each.c_str() + dots + 2); ++n)
-        numbers.push_back(std::to_string(n));
-    return numbers;
-}
-
-static std::string with(std::string text, const std::string& word)
-{
-    for (size_t at; (at = text.find('$')) != std::string::npos;)
-        text.replace(at, 1, word);
-    return text;
-}
-
 static std::string key_word(int bank, int key)
 {
     return std::string(banks[bank].word) + " Key" + std::to_string(key);
@@ -150,29 +119,6 @@ static std::string key_word(int bank, int key)
 static std::string bus_word(int bank, int bus)
 {
     return std::string(banks[bank].word) + (bus == 0 ? " A" : " B");
-}
-
-// "key" and "bus" are words that are made up here.
-static ValueType type_of(const std::string& text)
-{
-    ValueType type;
-    if (text == "key" || text == "bus") {
-        type.kind = KIND_WORD;
-        type.words = {"None"};
-        for (int bank = 0; bank < int(std::size(banks)); ++bank)
-            for (int n = 1; n <= (text == "key" ? KEYS : BUSES); ++n)
-                type.words.push_back(text == "key" ? key_word(bank, n) : bus_word(bank, n - 1));
-        return type;
-    }
-    const size_t blank = text.find(' ');
-    Words fields = {text.substr(0, blank)};
-    if (blank != std::string::npos) {
-        const bool is_number = fields[0] == "num"; // words may hold blanks
-        for (const std::string& field : Text_Split(text.substr(blank + 1), is_number ? ' ' : '\n'))
-            fields.push_back(field);
-    }
-    (void)Values_ParseType(fields, &type);
-    return type;
 }
 
 static std::string value_of(const std::string& path)
@@ -185,19 +131,8 @@ static std::string value_of(const std::string& path)
 
 void SetupSwitcher_Install()
 {
-    for (const Setting& s : settings)
-        for (const std::string& word : words_of(s.each)) {
-            const std::string path = SWITCHER + with(s.path, word);
-            if (Node* const node = Tree_Get(path))
-                node->type = type_of(s.type);
-            Tree_Preset(path, with(s.start, word));
-        }
-    for (const Table& t : tables) {
-        Words rows;
-        for (const std::string& word : words_of(t.each))
-            rows.push_back(word + "," + with(t.start, word));
-        Tree_SetList(SWITCHER + t.path, rows, 1);
-    }
+    SetupKind_Install({SWITCHER, settings, std::size(settings)});
+    SetupList_Install(SWITCHER, tables);
     const std::string logical = SWITCHER + "Config@Logical M/E";
     Tree_Preset(logical, BANKS ",");
     Words names;
@@ -208,20 +143,6 @@ void SetupSwitcher_Install()
 }
 
 // --- What a panel asks for ---
-
-static bool fits(const Table& t, const Words& row)
-{
-    const Words types = Text_Split(t.types, '|');
-    if (row.size() != types.size() + 1)
-        return false;
-    for (size_t i = 0; i < types.size(); ++i) {
-        std::string value;
-        if (!Tree_Accepts(type_of(types[i]), row[i + 1], &value) || value != row[i + 1])
-            return false;
-    }
-    const Words keys = words_of(t.each);
-    return std::find(keys.begin(), keys.end(), row[0]) != keys.end();
-}
 
 static bool falls(const Words& curve)
 {
@@ -290,16 +211,10 @@ bool SetupSwitcher_Put(const std::string& path, const std::string& value)
         return put_user(path, value);
     if (Text_MatchesPath(path, SWITCHER + "Config@M/E Config@*"))
         return put_me_config(path, value);
-    for (const Table& t : tables) {
-        if (path != SWITCHER + t.path)
-            continue;
-        const Words row = Text_Split(value, ',');
-        const bool is_curve = path.ends_with("Fader Curve");
-        if (fits(t, row) && !(is_curve && falls(row)))
-            return false;
-        Log_Note("put refused: %.200s#%.100s", path.c_str(), value.c_str());
+    if (SetupList_Refuse(SWITCHER, tables, path, value))
         return true;
-    }
+    if (path.ends_with("Fader Curve") && falls(Text_Split(value, ',')))
+        return SetupKind_Refuse(path, value);
     return false;
 }
 

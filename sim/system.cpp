@@ -18,6 +18,7 @@
 #include "rules.h"
 #include "setup.h"
 #include "setup_panel.h"
+#include "setup_panel_config.h"
 #include "setup_switcher_io.h"
 #include "setup_units.h"
 #include "store.h"
@@ -292,6 +293,7 @@ void System_Install()
     DeviceBus_Install();
     Setup_Install();
     SetupPanel_Install();
+    SetupPanelConfig_Install();
     SetupSwitcherIo_Install();
     SetupUnits_Install();
     Diag_Install();

@@ -16,6 +16,7 @@
 #include "rules.h"
 #include "setup.h"
 #include "setup_panel.h"
+#include "setup_panel_config.h"
 #include "setup_switcher.h"
 #include "setup_switcher_io.h"
 #include "setup_units.h"
@@ -106,6 +107,7 @@ static constexpr Owner owners[] = {
     {"Info@DME@SelCH", System_PutDmeChannels},
     {"Engineering Setup@System@", Setup_Put},
     {"Engineering Setup@Panel@", SetupPanel_Put},
+    {"Engineering Setup@Panel@", SetupPanelConfig_Put},
     {"Engineering Setup@Switcher@", SetupSwitcherIo_Put},
     {"Engineering Setup@Switcher@", SetupSwitcher_Put},
     {"Copy/Swap@", CopySwap_Put},

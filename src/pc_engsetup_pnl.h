@@ -1,9 +1,11 @@
 // pc_engsetup_pnl: the pages of the Panel group of engineering setup: a few shapes, each with one
 // body that its tables drive. _button: what the buttons of a module do. _tenkey: the regions on the
 // ten keys. _xpt: tables of what lies on which crosspoint or aux button. _table: configurations
-// that are prepared and executed, on setup_page.
+// that are prepared and executed, on setup_page. _sheet: what sheets of the group need beside their
+// columns.
 #pragma once
 #include "a_pc.h"
+#include "setup_sheet.h"
 #include "types.h"
 
 // Regions of a panel, as the server counts banks.
@@ -121,6 +123,35 @@ extern const PC_TBL pc_engsetup_panel_xptassign_sideflagsassign;
 extern const PC_TBL pc_engsetup_panel_xptassign_shiftmode;
 extern const PC_TBL pc_engsetup_panel_auxassign_rtrmodeset;
 extern const PC_TBL pc_engsetup_panel_auxassign_sourcetableassign;
+
+// --- pc_engsetup_pnl_sheet ---
+// A sheet whose rows are the panel's, known to the server by number from 0: its first column, which
+// has no path, names them. 0; 1 when the page was left.
+int SetupPanelRows_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
+template <const SETUPSHEET& s> int SetupPanelRows_CreateOf(int on, uint32_t)
+{
+    return SetupPanelRows_Create(s, SetupSheet_Table<s>, on);
+}
+template <const SETUPSHEET& s>
+inline constexpr PC_TBL SetupPanelRows_Code = {.proc_func = SetupSheet_ProcOf<s>,
+                                               .create_func = SetupPanelRows_CreateOf<s>};
+
+// The flexi pads beside the crosspoint buttons: a row is a page of a bus, "M/E-1@2". Default is of
+// all pages of the current row's bus, and is asked about.
+#define PAD_DEFAULT SHEET_LOCAL "Pad Default"
+int SetupPanelPad_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
+template <const SETUPSHEET& s>
+int SetupPanelPad_ProcOf(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+{
+    return SetupPanelPad_Proc(s, SetupSheet_Table<s>, msg, ax, bx);
+}
+template <const SETUPSHEET& s>
+inline constexpr PC_TBL SetupPanelPad_Code = {.proc_func = SetupPanelPad_ProcOf<s>,
+                                              .create_func = SetupSheet_CreateOf<s>};
+
+// --- pc_calibration: the touch panel, cross by cross ---
+extern const PC_TBL pc_engsetup_panel_maintenance_calibration;
+enum : int { BTN_CALIBRATION_OK = 53, BTN_CALIBRATION_CANCEL = 54 };
 
 // As at process start; for tests.
 void EngSetupPanelTable_Reset();

@@ -12,6 +12,7 @@
 
 #define IBUS SETUP_LINK_PATH "Internal Bus Link@"
 #define LOCAL_IBUS SETUP_LINK_LOCAL "Internal Bus Link@"
+#define EXT_LINK "Engineering Setup@Panel@Config@External Bus Link@"
 
 namespace
 {
@@ -132,6 +133,8 @@ static constexpr Chooser choosers[] = {
     {SETUP_LINK_LOCAL "Master", LINK_MASTER, 0x73360005},
     {SETUP_LINK_LOCAL "Linked", LINK_LINKED, 0x73360005},
     {SETUP_LINK_LOCAL "Table", LINK_TABLE, 0x73360004},
+    {SETUP_LINK_LOCAL "External Master", LINK_MASTER, 0x73210005},
+    {SETUP_LINK_LOCAL "External Linked", LINK_LINKED, 0x73210005},
 };
 
 static int link_button(const SETUPTABLE& t, const char* cmd)
@@ -173,31 +176,64 @@ static void set_and_return(int column, const char* text)
     GL_CreatePage = lk.back;
 }
 
-// --- The buses by their names ---
+// --- The buses by their names: those of the switcher, and the destinations of the router ---
 
-static SwrRows<BUS_INT_MASTER> bus_rows;
-static constexpr SETUPFIELD bus_fields[] = {
-    SwrField(0, IBUS "Master Bus List", {.part = 1, .is_put = 0, .ask = SETUP_READ}),
-    SWR_KEY,
+namespace
+{
+struct namerow {
+    char key[8];
+    char name[24];
 };
-static constexpr SETUPTABLE bus_page = {.work = bus_rows.work,
-                                        .tally = bus_rows.tally,
-                                        .rows = &bus_rows.rows,
-                                        .state = &bus_rows.state,
-                                        .row_size = sizeof(swr_row),
-                                        .max = BUS_INT_MASTER,
-                                        .fields = bus_fields,
-                                        .field_count = std::size(bus_fields),
-                                        .list = 1};
+template <int max> struct NameRows {
+    namerow work[max] = {};
+    namerow tally[max] = {};
+    int rows = 0;
+    SETUPSTATE state;
+};
+// They are followed all the time.
+struct NameFields {
+    SETUPFIELD field[2];
+};
+constexpr NameFields FieldsOf(const char* path)
+{
+    return {{{SETUP_CELL(namerow, name), .path = path, .part = 1, .column = 1, .is_put = 0,
+              .ask = SETUP_READ},
+             {SETUP_CELL(namerow, key), .column = 0}}};
+}
+template <int max> constexpr SETUPTABLE TableOf(NameRows<max>& names, const NameFields& fields)
+{
+    return {.work = names.work,
+            .tally = names.tally,
+            .rows = &names.rows,
+            .state = &names.state,
+            .row_size = sizeof(namerow),
+            .max = max,
+            .fields = fields.field,
+            .field_count = int(std::size(fields.field)),
+            .list = 1};
+}
+} // namespace
 
-static int pc_engsetup_switcher_bussel_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+static NameRows<BUS_INT_MASTER> internal_names;
+static NameRows<BUS_EXT_MASTER> external_names;
+static NameRows<BUS_SBUS> destination_names;
+static constexpr NameFields internal_fields = FieldsOf(IBUS "Master Bus List");
+static constexpr NameFields external_fields = FieldsOf(EXT_LINK "Master Bus List");
+static constexpr NameFields destination_fields = FieldsOf(EXT_LINK "S-BUS Dst Name List");
+static constexpr SETUPTABLE internal_page = TableOf(internal_names, internal_fields);
+static constexpr SETUPTABLE external_page = TableOf(external_names, external_fields);
+static constexpr SETUPTABLE destination_page = TableOf(destination_names, destination_fields);
+
+static const SETUPTABLE* name_page = &internal_page; // the one in view
+
+static int bussel_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg == LMSG_BTNSEL && Same(Text(ax), LOCAL_IBUS "Bus Sel@Set"))
-        set_and_return(lk.column, SetupPage_Text(bus_page, bus_rows.state.cursor, 0));
+        set_and_return(lk.column, SetupPage_Text(*name_page, name_page->state->cursor, 0));
     else if (msg == LMSG_BTNSEL && Same(Text(ax), LOCAL_IBUS "Bus Sel@None"))
         set_and_return(lk.column, NONE);
     else
-        (void)SetupPage_Proc(bus_page, msg, ax, bx);
+        (void)SetupPage_Proc(*name_page, msg, ax, bx);
     return 0;
 }
 
@@ -208,29 +244,58 @@ static void enable_set(int first, int last)
         (void)BT_SetDisable(id, !lk.target);
 }
 
+static void open_names(const SETUPTABLE& page)
+{
+    name_page = &page;
+    SetupPage_Open(page);
+    enable_set(33, 34);
+    constexpr uint32_t gpi_link = 0x73360006; // has one bus
+    (void)BT_SetCaption(33, lk.back == gpi_link        ? "Set\nBus"
+                            : lk.column == LINK_LINKED ? "Set\nLinked"
+                                                       : "Set\nMaster");
+}
+
 static int pc_engsetup_switcher_bussel_create(int on, uint32_t)
 {
-    (void)SetupPage_CreateOf<bus_page>(on, 0);
-    if (on) {
-        enable_set(33, 34);
-        constexpr uint32_t gpi_link = 0x73360006; // has one bus
-        (void)BT_SetCaption(33, lk.back == gpi_link        ? "Set\nBus"
-                                : lk.column == LINK_LINKED ? "Set\nLinked"
-                                                           : "Set\nMaster");
-    }
+    on ? open_names(internal_page) : SetupPage_Close(*name_page);
     return !on;
 }
 const PC_TBL pc_engsetup_switcher_link_ibuslink_bussel = {
-    .proc_func = pc_engsetup_switcher_bussel_proc,
-    .create_func = pc_engsetup_switcher_bussel_create};
+    .proc_func = bussel_proc, .create_func = pc_engsetup_switcher_bussel_create};
+
+static int pc_engsetup_panel_linkbusadj_create(int on, uint32_t)
+{
+    if (on)
+        open_names(lk.column == LINK_LINKED ? destination_page : external_page);
+    else
+        SetupPage_Close(*name_page);
+    return !on;
+}
+const PC_TBL pc_engsetup_panel_linkbusadj = {.proc_func = bussel_proc,
+                                             .create_func = pc_engsetup_panel_linkbusadj_create};
 
 // --- The tables: a source of the master, down, and what the linked bus takes by each table ---
 
-static SwrRows<LINK_SOURCES> table_rows;
-#define TABLE(n) SwrField((n)-1, IBUS "Table", {.part = (n)})
-static constexpr SETUPFIELD table_fields[] = {TABLE(1), TABLE(2), TABLE(3), TABLE(4), TABLE(5),
-                                              TABLE(6), TABLE(7), TABLE(8), SWR_KEY};
-static_assert(std::size(table_fields) == LINK_TABLES + 1 && LINK_TABLES <= SWR_CELLS);
+namespace
+{
+using TableRows = SwrRows<LINK_SOURCES>;
+struct TableFields {
+    SETUPFIELD field[LINK_TABLES + 1];
+};
+static_assert(LINK_TABLES <= SWR_CELLS);
+constexpr TableFields TablesOf(const char* path)
+{
+    TableFields fields;
+    for (int i = 0; i < LINK_TABLES; i++)
+        fields.field[i] = SwrField(i, path, {.part = i + 1});
+    fields.field[LINK_TABLES] = SWR_KEY;
+    return fields;
+}
+} // namespace
+
+static TableRows internal_tables;
+static TableRows external_tables;
+static TableRows* tables = &internal_tables; // those in view
 
 static int table_sources(const char** keys, int max)
 {
@@ -251,31 +316,43 @@ static int current_table()
 
 static void table_changed()
 {
-    const int row = table_rows.state.cursor;
-    if (row < table_rows.rows)
-        (void)NB_SetVar(1, Decimal(table_rows.work[row].cell[current_table()]));
+    const int row = tables->state.cursor;
+    if (row < tables->rows)
+        (void)NB_SetVar(1, Decimal(tables->work[row].cell[current_table()]));
 }
 
-static constexpr SETUPTABLE table_page = {.work = table_rows.work,
-                                          .tally = table_rows.tally,
-                                          .rows = &table_rows.rows,
-                                          .state = &table_rows.state,
-                                          .row_size = sizeof(swr_row),
-                                          .max = LINK_SOURCES,
-                                          .fields = table_fields,
-                                          .field_count = std::size(table_fields),
-                                          .keys = table_sources,
-                                          .list = 1,
-                                          .btn_clear = BTN_SHEET_CLEAR,
-                                          .btn_execute = BTN_SHEET_EXECUTE,
-                                          .clear = LOCAL_SWR "Clear",
-                                          .execute = LOCAL_SWR "Execute",
-                                          .changed = table_changed};
+static constexpr SETUPTABLE TablePage(TableRows& rows, const TableFields& fields)
+{
+    return {.work = rows.work,
+            .tally = rows.tally,
+            .rows = &rows.rows,
+            .state = &rows.state,
+            .row_size = sizeof(swr_row),
+            .max = LINK_SOURCES,
+            .fields = fields.field,
+            .field_count = int(std::size(fields.field)),
+            .keys = table_sources,
+            .list = 1,
+            .btn_clear = BTN_SHEET_CLEAR,
+            .btn_execute = BTN_SHEET_EXECUTE,
+            .clear = LOCAL_SWR "Clear",
+            .execute = LOCAL_SWR "Execute",
+            .changed = table_changed};
+}
+static constexpr TableFields internal_table_fields = TablesOf(IBUS "Table");
+static constexpr TableFields external_table_fields = TablesOf(EXT_LINK "Table");
+static constexpr SETUPTABLE internal_table_page = TablePage(internal_tables, internal_table_fields);
+static constexpr SETUPTABLE external_table_page = TablePage(external_tables, external_table_fields);
+
+static const SETUPTABLE& table_page()
+{
+    return tables == &internal_tables ? internal_table_page : external_table_page;
+}
 
 static void straighten_table()
 {
-    for (int row = 0; row < table_rows.rows; row++)
-        SetupPage_Set(table_page, row, current_table(), table_rows.work[row].key);
+    for (int row = 0; row < tables->rows; row++)
+        SetupPage_Set(table_page(), row, current_table(), tables->work[row].key);
 }
 
 static int table_button(const char* cmd)
@@ -289,33 +366,48 @@ static int table_button(const char* cmd)
     return 1;
 }
 
-static int pc_engsetup_switcher_tablesel_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+static int tablesel_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg == LMSG_BTNSEL && table_button(Text(ax)))
         return 0;
     if (msg == LMSG_KNOBVAR)
-        SetupPage_Set(table_page, table_rows.state.cursor, current_table(), NumStr(int(bx)));
-    else if (!SetupPage_Proc(table_page, msg, ax, bx) && msg == LMSG_BTNSEL)
+        SetupPage_Set(table_page(), tables->state.cursor, current_table(), NumStr(int(bx)));
+    else if (!SetupPage_Proc(table_page(), msg, ax, bx) && msg == LMSG_BTNSEL)
         table_changed(); // the key that brings the box
     return 0;
 }
 
-static int pc_engsetup_switcher_tablesel_create(int on, uint32_t)
+static int create_tables(int on, TableRows& rows)
 {
-    (void)SetupPage_CreateOf<table_page>(on, 0);
-    if (on) {
+    if (on)
+        tables = &rows;
+    on ? SetupPage_Open(table_page()) : SetupPage_Close(table_page());
+    if (on)
         (void)LS_SetSplitSel(1, 1);
-        enable_set(35, 35);
-    }
     return !on;
 }
+
+static int pc_engsetup_switcher_tablesel_create(int on, uint32_t)
+{
+    const int result = create_tables(on, internal_tables);
+    if (on)
+        enable_set(35, 35);
+    return result;
+}
 const PC_TBL pc_engsetup_switcher_link_ibuslink_tablesel = {
-    .proc_func = pc_engsetup_switcher_tablesel_proc,
-    .create_func = pc_engsetup_switcher_tablesel_create};
+    .proc_func = tablesel_proc, .create_func = pc_engsetup_switcher_tablesel_create};
+
+static int pc_engsetup_panel_linktableadj_create(int on, uint32_t)
+{
+    return create_tables(on, external_tables);
+}
+const PC_TBL pc_engsetup_panel_linktableadj = {
+    .proc_func = tablesel_proc, .create_func = pc_engsetup_panel_linktableadj_create};
 
 void SetupLink_Reset()
 {
-    SetupPage_Forget(bus_page);
-    SetupPage_Forget(table_page);
+    for (const SETUPTABLE* page : {&internal_page, &external_page, &destination_page,
+                                   &internal_table_page, &external_table_page})
+        SetupPage_Forget(*page);
     lk = {};
 }

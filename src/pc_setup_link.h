@@ -38,8 +38,10 @@ template <const SETUPSHEET& s>
 inline constexpr PC_TBL SetupLink_Code = {.proc_func = SetupLink_ProcOf<s>,
                                           .create_func = SetupLink_CreateOf<s>};
 
-// --- The pages beside the internal bus link ---
+// --- The pages beside the internal bus link, and beside the panel's external one ---
 extern const PC_TBL pc_engsetup_switcher_link_ibuslink_tablesel;
 extern const PC_TBL pc_engsetup_switcher_link_ibuslink_bussel;
+extern const PC_TBL pc_engsetup_panel_linkbusadj;
+extern const PC_TBL pc_engsetup_panel_linktableadj;
 
 void SetupLink_Reset(); // as at process start; for tests

@@ -35,12 +35,20 @@ constexpr Panel panels[] = {
     {"find /dev/input/ -name \"usb-TSC-30_DMC*\" | grep event > /var/tmp/tslist", 1023},
     {"find /dev/input/ -name \"usb-Elo_TouchSystems*event*\" | grep event > /var/tmp/tslist", 4095},
 };
+// What the EEPROM may hold.
+constexpr int FIRST_MAX = 150;
+constexpr int SECOND_MIN_X = 650;
+constexpr int SECOND_MIN_Y = 450;
+constexpr int SYS_REGION = 2; // of its check sums
+
 constexpr char list_file[] = "/var/tmp/tslist";
 } // namespace
 
 static struct {
     int tx = 0; // last converted position, on the screen
     int ty = 0;
+    int raw_x = 0; // the same before the calibration, on 800 x 600
+    int raw_y = 0;
     int tp = 0;        // last contact: value of the key event
     int up_p = 0;      // contact changed since the last synchronisation
     int up_xy = 0;     // position changed
@@ -181,9 +189,11 @@ void Touch_Record(int type, int code, int value)
         touch.up_p = 1;
         touch.tp = value;
     } else if (type == EV_ABS && code == ABS_X) {
+        touch.raw_x = raw * SCREEN_W / Touch_Resolution;
         touch.tx = touch_screen_x(raw);
         touch.up_xy = 1;
     } else if (type == EV_ABS && code == ABS_Y) {
+        touch.raw_y = raw * SCREEN_H / Touch_Resolution;
         touch.ty = touch_screen_y(raw);
         touch.up_xy = 1;
     } else if (type == EV_SYN) {
@@ -242,6 +252,22 @@ void Touch_Poll(int elapsed_ms)
     touch.retry_ms = 0;
 }
 
+bool Touch_IsFirstPoint(int ax, int ay)
+{
+    return ax >= 0 && ax <= FIRST_MAX && ay >= 0 && ay <= FIRST_MAX;
+}
+
+bool Touch_IsSecondPoint(int bx, int by)
+{
+    return bx >= SECOND_MIN_X && bx < SCREEN_W && by >= SECOND_MIN_Y && by < SCREEN_H;
+}
+
+static void log_calibration()
+{
+    Log_Output(LOG_LIFE, MOD_CALIBRATION, "Touch Panel Calibration: AX=%d AY=%d BX=%d BY=%d",
+               SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX, SYS_TouchScreen_BY);
+}
+
 void Touch_LoadCalibration()
 {
     SYS_TouchScreen_AX = SYS_TouchScreen_AY = 50;
@@ -251,17 +277,59 @@ void Touch_LoadCalibration()
     if (I2cEepromService_ReadElem(EEPROM_TOUCH_CALIBRATION, sizeof e, e) == sizeof e) {
         const int ax = e[0] << 8 | e[1], ay = e[2] << 8 | e[3];
         const int bx = e[4] << 8 | e[5], by = e[6] << 8 | e[7];
-        if (ax <= 150)
+        if (Touch_IsFirstPoint(ax, 0))
             SYS_TouchScreen_AX = ax;
-        if (ay <= 150)
+        if (Touch_IsFirstPoint(0, ay))
             SYS_TouchScreen_AY = ay;
-        if (bx >= 650 && bx <= 799)
+        if (Touch_IsSecondPoint(bx, SCREEN_H - 1))
             SYS_TouchScreen_BX = bx;
-        if (by >= 450 && by <= 599)
+        if (Touch_IsSecondPoint(SCREEN_W - 1, by))
             SYS_TouchScreen_BY = by;
     }
-    Log_Output(LOG_LIFE, MOD_CALIBRATION, "Touch Panel Calibration: AX=%d AY=%d BX=%d BY=%d",
-               SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX, SYS_TouchScreen_BY);
+    log_calibration();
+}
+
+TouchPoints Touch_GetCalibration()
+{
+    return {SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX, SYS_TouchScreen_BY};
+}
+
+void Touch_SetCalibration(const TouchPoints& points)
+{
+    SYS_TouchScreen_AX = points.ax;
+    SYS_TouchScreen_AY = points.ay;
+    SYS_TouchScreen_BX = points.bx;
+    SYS_TouchScreen_BY = points.by;
+}
+
+int Touch_StoreCalibration()
+{
+    uint8_t e[8];
+    int n = 0;
+    for (const int value :
+         {SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX, SYS_TouchScreen_BY}) {
+        e[n++] = uint8_t(value >> 8);
+        e[n++] = uint8_t(value);
+    }
+    log_calibration();
+    if (I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, sizeof e, e) != sizeof e ||
+        I2cEepromService_UpdateCrc32(SYS_REGION) != 0) {
+        Log_Output(LOG_LIFE, MOD_CALIBRATION, "Touch Panel Calibration: not stored");
+        return -1;
+    }
+    return 0;
+}
+
+void Touch_RawPoint(int x, int y, int* raw_x, int* raw_y)
+{
+    if (Touch_FD >= 0 && x == touch.tx && y == touch.ty) {
+        *raw_x = touch.raw_x;
+        *raw_y = touch.raw_y;
+        return;
+    }
+    const TouchPoints p = Touch_GetCalibration();
+    *raw_x = (x - 50) * (p.bx - p.ax) / 700 + p.ax;
+    *raw_y = (y - 50) * (p.by - p.ay) / 500 + p.ay;
 }
 
 void SetTouchBeep()

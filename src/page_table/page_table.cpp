@@ -48,6 +48,8 @@
 #include "router.h"
 #include "saver.h"
 #include "setup_panel.h"
+#include "setup_panel_config.h"
+#include "setup_panel_operation.h"
 #include "setup_router.h"
 #include "setup_switcher.h"
 #include "setup_switcher_io.h"
@@ -115,6 +117,8 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 install_pages,
                 setup_system_pages,
                 setup_panel_pages,
+                setup_panel_config_pages,
+                setup_panel_operation_pages,
                 setup_switcher_pages,
                 setup_switcher_io_pages,
                 setup_dme_pages,

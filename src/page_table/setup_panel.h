@@ -91,6 +91,16 @@ static_assert(ButtonsAreSound(bt_engsetup_panel_config_programbutton));
 inline constexpr BT_TBL bt_engsetup_panel_config[] = {
     Jump({.id = 1, .caption = "Program\nButton", .group = "Button", .cmd = {"#73210002"}}),
     Jump({.id = 2, .caption = "10 Key\nRegion\nAssign", .group = "Button", .cmd = {"#73210001"}}),
+    Jump({.id = 3, .caption = "Compact\nKey\nModule", .group = "Module", .cmd = {"#73210011"}}),
+    Jump({.id = 4, .caption = "Extension\nPort", .group = "Module", .cmd = {"#73210013"}}),
+    Jump({.id = 5, .caption = "Reference\nModule", .group = "Module", .cmd = {"#73210014"}}),
+    Jump({.id = 17, .caption = "Main/Sub\nAssign", .group = "Row/Fader", .cmd = {"#73210008"}}),
+    Jump({.id = 18, .caption = "DSK Fader\nAssign", .group = "Row/Fader", .cmd = {"#73210009"}}),
+    Jump({.id = 19, .caption = "Fader\nAssign", .group = "Row/Fader", .cmd = {"#73210010"}}),
+    Jump({.id = 21, .caption = "Key Trans\nLink", .group = "Link", .cmd = {"#73210003"}}),
+    Jump({.id = 22, .caption = "External\nBus Link", .group = "Link", .cmd = {"#73210004"}}),
+    Jump({.id = 33, .caption = "M/E\nOperation", .group = "Operation Inhibit", .cmd = {"#73210015"}}),
+    Jump({.id = 34, .caption = "Joystick/\nTrackball", .group = "Operation Inhibit", .cmd = {"#73210016"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_engsetup_panel_config));
@@ -318,7 +328,7 @@ static_assert(ButtonsAreSound(bt_engsetup_panel_key2busbuttonassign) && ButtonsA
 #define PREPARED(page, tab, list, name, ...) {.id = page, .tree = TREE(__VA_ARGS__), \
     .obj = {TABS(tab), Buttons(bt_engsetup_panel_##name), Lists(ls_engsetup_panel_##list), Code(pc_engsetup_panel_##name)}}
 inline constexpr PAGE setup_panel_pages[] = {
-    {.id = 0x73210000, .tree = TREE("Config"), .obj = {TABS(1), Buttons(bt_engsetup_panel_config)}},
+    {.id = 0x73210000, .tree = TREE("Config"), .obj = {TABS(1), Buttons(bt_engsetup_panel_config), Code(pc_engsetup_panel_jumps)}},
     PREPARED(0x73210001, 1, config_10keybutton, config_10keybutton, "Config", "10 Key Region Assign"),
     {.id = 0x73210002, .tree = TREE("Config", "Program Button"), .obj = {TABS(1), Buttons(bt_engsetup_panel_config_programbutton), Code(pc_engsetup_panel_config_programbutton)}},
     MODULE(0x73210012, MODULE_EXTENSION,          extensionpanel, "Extension Panel"),

@@ -38,6 +38,9 @@ inline constexpr HF_TBL hf_setup_panel[] = {
     {.id = 2, .caption = "Xpt\nAssign", .page = 0x73220000},
     {.id = 3, .caption = "Aux\nAssign", .page = 0x73230000},
     {.id = 4, .caption = "Prefs/\nUtility", .page = 0x73240000},
+    {.id = 5, .caption = "Device\nInterface", .page = 0x73250000},
+    {.id = 6, .caption = "Operation", .page = 0x73260000},
+    {.id = 7, .caption = "Mainte-\nnance", .page = 0x73270000},
     HF_END,
 };
 inline constexpr HF_TBL hf_setup_dme[] = {
