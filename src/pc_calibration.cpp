@@ -191,7 +191,7 @@ static int calibration_create(int on, uint32_t)
     }
     cal = {};
     cal.before = cal.points = Touch_GetCalibration();
-    cal.must_paint = true;
+    go_to(STEP_FIRST, "");
     return 0;
 }
 

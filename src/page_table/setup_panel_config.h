@@ -56,7 +56,7 @@ inline constexpr BT_TBL pnl_extbuslink_more[] = {
 };
 #undef PNL_DELETE_LINK
 inline constexpr SETUPSHEET pnl_extbuslink =
-    SheetOf(pnl_extbuslink_columns, 32, {.key_head = "Link No", .key_width = 100, PNL_KEYS(pnl_extbuslink_more), .is_sound = SetupLink_IsSound, .changed = SetupLink_Changed});
+    SheetOf(pnl_extbuslink_columns, 32, {.key_head = "Link No", .key_width = 100, .title = "Ext Bus Link", PNL_KEYS(pnl_extbuslink_more), .is_sound = SetupLink_IsSound, .changed = SetupLink_Changed});
 
 inline constexpr BT_TBL bt_engsetup_panel_linkbusadj[] = {
     Action({.id = 33, .caption = "Set\nMaster", .cmd = {SETUP_LINK_LOCAL "Internal Bus Link@Bus Sel@Set"}}),
@@ -77,7 +77,7 @@ inline constexpr BT_TBL pnl_linkmatrixadj_more[] = {
     Jump({.id = 52, .caption = "External\nBus Link", .cmd = {"#73210004"}}),
 };
 inline constexpr SETUPSHEET pnl_linkmatrixadj =
-    SheetOf(pnl_linkmatrixadj_columns, LINK_TABLES, {.key_head = "Matrix", .key_width = 100, PNL_KEYS(pnl_linkmatrixadj_more)});
+    SheetOf(pnl_linkmatrixadj_columns, LINK_TABLES, {.key_head = "Matrix", .key_width = 100, .title = "Link Matrix", PNL_KEYS(pnl_linkmatrixadj_more)});
 
 inline constexpr BT_TBL bt_engsetup_panel_linktableadj[] = {
     Knobs( {.id = 33, .caption = "Router\nSource", .cmd = {SETUP_LINK_LOCAL "Internal Bus Link@Table Sel@Source"}, .nb = nb_engsetup_switcher_tablesel}),
@@ -104,7 +104,7 @@ inline constexpr SETUPCOLUMN pnl_mainsubassign_columns[] = {
     {.head = "Main/Sub Assign", .width = 220, .path = PNL "Config@MP2 Main/Sub Assign@Main/Sub Assign@$", .words = pnl_sides, .ask = SETUP_READ},
 };
 inline constexpr SETUPSHEET pnl_mainsubassign =
-    SheetOf(pnl_mainsubassign_columns, int(std::size(pnl_rows)), {.names = pnl_rows, .key_head = "Row", .key_width = 110, PNL_KEYS(to_pnl_config)});
+    SheetOf(pnl_mainsubassign_columns, int(std::size(pnl_rows)), {.names = pnl_rows, .key_head = "Row", .key_width = 110, .title = "Main/Sub", PNL_KEYS(to_pnl_config)});
 
 inline constexpr SETUPWORD pnl_keys[] = {SAME("Key1"), SAME("Key2"), SAME("Key3"), SAME("Key4"), SAME("Key5"), SAME("Key6"), SAME("Key7"), SAME("Key8"), {}};
 inline constexpr SETUPWORD pnl_dsk_modes[] = {SAME("Key"), SAME("Key Pri"), SAME("FTB"), {}};
@@ -115,7 +115,7 @@ inline constexpr BT_TBL pnl_dskfaderassign_more[] = {
     Jump({.id = 51, .caption = "Fader\nAssign", .cmd = {"#73210010"}}),
     Jump({.id = 52, .caption = "Config", .cmd = {"#73210000"}}),
 };
-inline constexpr SETUPSHEET pnl_dskfaderassign = SheetOf(pnl_dskfaderassign_columns, 4, {.key_head = "DSK Fader", .key_width = 100, PNL_KEYS(pnl_dskfaderassign_more)});
+inline constexpr SETUPSHEET pnl_dskfaderassign = SheetOf(pnl_dskfaderassign_columns, 4, {.key_head = "DSK Fader", .key_width = 100, .title = "DSK Fader", PNL_KEYS(pnl_dskfaderassign_more)});
 inline constexpr SETUPWORD pnl_faders[] = {SAME("Transition"), SAME("Key Trans"), SAME("Effect"), SAME("None"), {}};
 inline constexpr SETUPCOLUMN pnl_faderassign_columns[] = {SheetWord("Fader", 220, "~@Fader@$", pnl_faders), SheetWord("Side", 220, "~@Side@$", pnl_sides)};
 inline constexpr BT_TBL to_pnl_dskfader[] = {Jump({.id = 52, .caption = "DSK Fader\nAssign", .cmd = {"#73210009"}})};
@@ -126,7 +126,7 @@ inline constexpr SETUPSHEET pnl_faderassign =
 inline constexpr const char* pnl_unit_numbers[] = {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13"};
 inline constexpr SETUPWORD pnl_modules[] = {SAME("FP"), SAME("KT"), SAME("TR"), SAME("--"), {}};
 #define SLOT(n) {.head = "Slot" #n, .width = 55, .path = PNL "Config@Compact Key Module Assign@KY Unit Config@$", .part = n, .words = pnl_modules, .ask = SETUP_READ, \
-                 .is_asked = 1, .group = "Module"}
+                 .is_asked = 1}
 inline constexpr SETUPCOLUMN pnl_compactkey_columns[] = {
     {.head = "Row", .width = 76, .is_fixed = 1}, SLOT(1), SLOT(2), SLOT(3), SLOT(4), SLOT(5), SLOT(6), SLOT(7), SLOT(8),
 };
@@ -136,7 +136,7 @@ inline constexpr BT_TBL pnl_compactkey_more[] = {
     Jump({.id = 52, .caption = "Config", .cmd = {"#73210000"}}),
 };
 inline constexpr SETUPSHEET pnl_compactkey = SheetOf(
-    pnl_compactkey_columns, int(std::size(pnl_unit_numbers)), {.names = pnl_unit_numbers, .key_width = 34, .question = setup_reboot_question, PNL_KEYS(pnl_compactkey_more)});
+    pnl_compactkey_columns, int(std::size(pnl_unit_numbers)), {.names = pnl_unit_numbers, .key_width = 34, .question = setup_reboot_question, .title = "Compact Key", PNL_KEYS(pnl_compactkey_more)});
 
 inline constexpr SETUPWORD pnl_port_modules[] = {SAME("None"), SAME("Flexi Pad"), SAME("Key Trans"), SAME("Transition"), SAME("Xpt"), SAME("Joystick"), SAME("Device Ctrl"), {}};
 inline constexpr SETUPCOLUMN pnl_extensionport_columns[] = {
@@ -153,7 +153,7 @@ inline constexpr SETUPCOLUMN pnl_referencemodule_columns[] = {
     SheetWord("Reference", 210, "~@Reference@$", pnl_row_words), SheetWord("Follow", 210, "~@Follow@$", pnl_on_off),
 };
 inline constexpr SETUPSHEET pnl_referencemodule = SheetOf(pnl_referencemodule_columns, int(std::size(pnl_module_kinds)),
-                                                          {.names = pnl_module_kinds, .key_head = "Module", .key_width = 130, PNL_KEYS(to_pnl_config)});
+                                                          {.names = pnl_module_kinds, .key_head = "Module", .key_width = 130, .title = "Reference", PNL_KEYS(to_pnl_config)});
 
 // --- What may not be operated ---
 
@@ -166,7 +166,7 @@ inline constexpr SETUPSHEET pnl_meoperation =
             .question = "A bank that is disabled or inhibited can no\nlonger be operated from this panel.\n\nContinue?", PNL_KEYS(to_pnl_config)});
 inline constexpr const char* pnl_controls[] = {"Joystick X", "Joystick Y", "Joystick Z", "Trackball X", "Trackball Y", "Z Ring"};
 inline constexpr SETUPCOLUMN pnl_joystick_columns[] = {SheetWord("Operation", 420, "~@$", pnl_enable)};
-inline constexpr SETUPSHEET pnl_joystickinhibit = SheetOf(pnl_joystick_columns, 6, {.names = pnl_controls, .key_head = "Control", .key_width = 130, PNL_KEYS(to_pnl_config)});
+inline constexpr SETUPSHEET pnl_joystickinhibit = SheetOf(pnl_joystick_columns, 6, {.names = pnl_controls, .key_head = "Control", .key_width = 130, .title = "Controls", PNL_KEYS(to_pnl_config)});
 
 // --- Device interface ---
 
@@ -203,7 +203,7 @@ inline constexpr BT_TBL to_pnl_devinterface[] = {TO_PANEL_DEVICE};
 #undef TO_PANEL_DEVICE
 inline constexpr const char* pnl_machines[] = {"Dev1", "Dev2", "Dev3", "Dev4", "Dev5", "Dev6", "Dev7", "Dev8", "Dev9", "Dev10", "Dev11", "Dev12"};
 inline constexpr SETUPSHEET pnl_dcuserial =
-    SheetOf(pnl_dcuserial_columns, 12, {.names = pnl_machines, .key_head = "Machine", .key_width = 120, PNL_KEYS(to_pnl_devinterface)});
+    SheetOf(pnl_dcuserial_columns, 12, {.names = pnl_machines, .key_head = "Machine", .key_width = 120, .title = "DCU Serial", PNL_KEYS(to_pnl_devinterface)});
 
 // --- The pages ---
 
@@ -218,7 +218,7 @@ inline constexpr PAGE setup_panel_config_pages[] = {
     {.id = 0x73210005, .tree = TREE("Config", "External Bus Link", "Link Bus Adjust"),
      .obj = {TABS(1), Buttons(bt_engsetup_panel_linkbusadj), Lists(ls_engsetup_switcher_link_ibuslink_bussel), Code(pc_engsetup_panel_linkbusadj)}},
     {.id = 0x73210006, .tree = TREE("Config", "External Bus Link", "Link Matrix Adjust"), .obj = SHEET(1, linkmatrixadj)},
-    {.id = 0x73210007, .tree = TREE("Config", "External Bus Link", "Link Matrix Adjust", "Link Table Adjust"),
+    {.id = 0x73210007, .tree = TREE("Config", "External Bus Link", "Link Matrix Adjust", "Link Table"),
      .obj = {TABS(1), Buttons(bt_engsetup_panel_linktableadj), Boxes(NB_Non), Lists(ls_engsetup_panel_linktableadj), Code(pc_engsetup_panel_linktableadj)}, .knobassign = 33},
     {.id = 0x73210008, .tree = TREE("Config", "Main/Sub Assign"), .obj = SHEET(1, mainsubassign)},
     {.id = 0x73210009, .tree = TREE("Config", "DSK Fader Assign"), .obj = SHEET(1, dskfaderassign)},

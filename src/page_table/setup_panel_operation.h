@@ -20,7 +20,7 @@ inline constexpr BT_TBL bt_engsetup_panel_operation[] = {
     Jump({.id = 19, .caption = "Region\nPriority", .group = "Button", .cmd = {"#73260011"}}),
     Jump({.id = 20, .caption = "Key Row\nOperation", .group = "Button", .cmd = {"#73260012"}}),
     Jump({.id = 33, .caption = "Flexi Pad\nButton\nAssign", .group = "Xpt Module", .cmd = {"#73260014"}}),
-    Jump({.id = 34, .caption = "Util\nButton\nBus Assign", .group = "Xpt Module", .cmd = {"#73260015"}}),
+    Jump({.id = 34, .caption = "Util Bus\nAssign", .group = "Xpt Module", .cmd = {"#73260015"}}),
     Jump({.id = 35, .caption = "Display\nMode", .group = "Xpt Module", .cmd = {"#73260016"}}),
     Toggle({.id = 49, .caption = "Menu\nFollow", .group = "Panel", .cmd = SETTING("Menu Follow")}),
     Toggle({.id = 50, .caption = "Xpt Hold\nFollow", .group = "Panel", .cmd = SETTING("Xpt Hold Follow")}),
@@ -87,8 +87,8 @@ inline constexpr SETUPCOLUMN pnl_custom_columns[] = {
     SheetAsked("Function", 250, OPERATION "Custom Button@Function@$", pnl_custom_words), SheetWord("Mode", 200, OPERATION "Custom Button@Mode@$", pnl_button_modes),
 };
 inline constexpr BT_TBL to_pnl_custom[] = {Jump({.id = 52, .caption = "Custom\nButton", .cmd = {"#73260003"}})};
-inline constexpr SETUPSHEET pnl_custom_pcx40 = SheetOf(pnl_custom_columns, 8, {.key_head = "Button", .key_width = 100, PNL_KEYS(to_pnl_custom)});
-inline constexpr SETUPSHEET pnl_custom_pcx50 = SheetOf(pnl_custom_columns, 16, {.key_head = "Button", .key_width = 100, PNL_KEYS(to_pnl_custom)});
+inline constexpr SETUPSHEET pnl_custom_pcx40 = SheetOf(pnl_custom_columns, 8, {.key_head = "Button", .key_width = 100, .title = "Custom", PNL_KEYS(to_pnl_custom)});
+inline constexpr SETUPSHEET pnl_custom_pcx50 = SheetOf(pnl_custom_columns, 16, {.key_head = "Button", .key_width = 100, .title = "Custom", PNL_KEYS(to_pnl_custom)});
 inline constexpr BT_TBL bt_engsetup_panel_custombutton[] = {
     Jump({.id = 1, .caption = "8\nButtons", .group = "Custom Button", .cmd = {"#73260007"}}),
     Jump({.id = 2, .caption = "16\nButtons", .group = "Custom Button", .cmd = {"#73260008"}}),
@@ -99,7 +99,7 @@ inline constexpr BT_TBL bt_engsetup_panel_custombutton[] = {
 static_assert(ButtonsAreSound(bt_engsetup_panel_custombutton));
 
 // What the key for all next transitions takes along.
-#define NEXT(word) {.head = word, .width = 48, .path = "~@" word "@$", .words = pnl_on_off, .is_asked = 1, .group = "With All"}
+#define NEXT(word) {.head = word, .width = 48, .path = "~@" word "@$", .words = pnl_on_off, .is_asked = 1}
 inline constexpr SETUPCOLUMN pnl_nexttransall_columns[] = {NEXT("Bkgd"), NEXT("Key1"), NEXT("Key2"), NEXT("Key3"), NEXT("Key4"), NEXT("Key5"), NEXT("Key6"), NEXT("Key7"), NEXT("Key8")};
 #undef NEXT
 inline constexpr SETUPSHEET pnl_nexttransall = SheetOf(pnl_nexttransall_columns, 6, {.names = swr_banks, .key_head = "M/E", .key_width = 118, PNL_KEYS(to_pnl_custom)});
@@ -126,13 +126,13 @@ inline constexpr SETUPCOLUMN pnl_keyrow_columns[] = {
 inline constexpr BT_TBL pnl_keyrow_more[] = {
     Jump({.id = 51, .caption = "Key Deleg\nAux\nAssign", .cmd = {"#73260013"}}), Jump({.id = 52, .caption = "Operation", .cmd = {"#73260000"}}),
 };
-inline constexpr SETUPSHEET pnl_keyrow = SheetOf(pnl_keyrow_columns, 8, {.names = pnl_rows, .key_head = "Row", .key_width = 110, PNL_KEYS(pnl_keyrow_more)});
+inline constexpr SETUPSHEET pnl_keyrow = SheetOf(pnl_keyrow_columns, 8, {.names = pnl_rows, .key_head = "Row", .key_width = 110, .title = "Key Row", PNL_KEYS(pnl_keyrow_more)});
 inline constexpr const char* pnl_deleg_keys[] = {"Key1", "Key2", "Key3", "Key4", "Key5", "Key6", "Key7", "Key8"};
 inline constexpr SETUPCOLUMN pnl_keydeleg_columns[] = {
     SheetWord("Aux Assign", 220, "~@Aux Assign@$", pnl_on_off), SheetNumber("Aux Bus", 220, "~@Aux Bus@$", 1, SWITCHER_OUTPUTS),
 };
 inline constexpr BT_TBL to_pnl_keyrow[] = {Jump({.id = 52, .caption = "Key Row\nOperation", .cmd = {"#73260012"}})};
-inline constexpr SETUPSHEET pnl_keydeleg = SheetOf(pnl_keydeleg_columns, 8, {.names = pnl_deleg_keys, .key_head = "Button", .key_width = 110, PNL_KEYS(to_pnl_keyrow)});
+inline constexpr SETUPSHEET pnl_keydeleg = SheetOf(pnl_keydeleg_columns, 8, {.names = pnl_deleg_keys, .key_head = "Button", .key_width = 110, .title = "Key Deleg", PNL_KEYS(to_pnl_keyrow)});
 
 // --- The crosspoint modules ---
 
@@ -154,25 +154,26 @@ inline constexpr const char* pnl_pad_pages[] = {
     "1st AUX@1", "1st AUX@2", "1st AUX@3", "1st AUX@4",
     "2nd AUX@1", "2nd AUX@2", "2nd AUX@3", "2nd AUX@4",
 };
-struct PadWords {
-    SETUPWORD word[std::size(words_FlexiPadmod) + 1];
+// As on the pads; what is longer than a button is shortened.
+inline constexpr SETUPWORD pnl_pad_words[] = {
+    {"NO ASSIGN", "---"}, {"Key", "Key"}, {"Wipe", "Wipe"}, {"DME Wipe", "DME Wp"}, {"Snapshot", "Snap"}, {"Master Effect", "M Effect"},
+    {"Shotbox", "Shotbox"}, {"Macro", "Macro"}, {"Transition Rate", "T Rate"}, {"Undo", "Undo"}, {"Delete", "Delete"}, {"Bank0", "Bank0"},
+    {"Bank1", "Bank1"}, {"Bank2", "Bank2"}, {"Bank3", "Bank3"}, {"Bank4", "Bank4"}, {"Bank5", "Bank5"}, {"Bank6", "Bank6"},
+    {"Bank7", "Bank7"}, {"Bank8", "Bank8"}, {"Bank9", "Bank9"}, {"Bank10", "Bank10"}, {"Bank11", "Bank11"}, {"Bank12", "Bank12"},
+    {"Bank13", "Bank13"}, {"Bank14", "Bank14"}, {"Recall", "Recall"}, {"Store", "Store"}, {"Edit", "Edit"}, {"Copy", "Copy"},
+    {"Swap", "Swap"}, {"Lock", "Lock"}, {"Name", "Name"}, {"All Regions", "All Rgn"}, {"Recall Hold", "R Hold"}, {"Auto Store", "A Store"},
+    {"Home", "Home"}, {"Menu", "Menu"}, {"Enter", "Enter"},
+    {},
 };
-constexpr PadWords MakePadWords()
-{
-    PadWords words;
-    int n = 0;
-    for (const AssignWord& row : words_FlexiPadmod) words.word[n++] = {row.text, row.text};
-    return words;
-}
-inline constexpr PadWords pnl_pad_words = MakePadWords();
-#define PAD_BUTTON(n) {.head = "Btn" #n, .width = 55, .path = PAD_PATH "Assign@$@" #n, .words = pnl_pad_words.word, .group = "Button"}
+static_assert(std::size(pnl_pad_words) == std::size(words_FlexiPadmod) + 1);
+#define PAD_BUTTON(n) {.head = "Btn" #n, .width = 55, .path = PAD_PATH "Assign@$@" #n, .words = pnl_pad_words}
 inline constexpr SETUPCOLUMN pnl_padassign_columns[] = {PAD_BUTTON(1), PAD_BUTTON(2), PAD_BUTTON(3), PAD_BUTTON(4), PAD_BUTTON(5), PAD_BUTTON(6), PAD_BUTTON(7), PAD_BUTTON(8)};
 #undef PAD_BUTTON
 inline constexpr BT_TBL pnl_padassign_more[] = {
     Action({.id = 51, .caption = "Default\nAll Pages", .cmd = {PAD_DEFAULT}}), Jump({.id = 52, .caption = "Page Name/\nJump", .cmd = {"#73260017"}}),
 };
 inline constexpr SETUPSHEET pnl_padassign = SheetOf(
-    pnl_padassign_columns, int(std::size(pnl_pad_pages)), {.names = pnl_pad_pages, .key_head = "Bus@Page", .key_width = 110, PNL_KEYS(pnl_padassign_more)});
+    pnl_padassign_columns, int(std::size(pnl_pad_pages)), {.names = pnl_pad_pages, .key_head = "Bus@Page", .key_width = 110, .title = "Flexi Pad", PNL_KEYS(pnl_padassign_more)});
 inline constexpr SETUPWORD pnl_page_jumps[] = {SAME("None"), SAME("Page 1"), SAME("Page 2"), SAME("Page 3"), SAME("Page 4"), {}};
 inline constexpr SETUPCOLUMN pnl_padpage_columns[] = {
     SheetName("Page Name", 220, PAD_PATH "Page Name@$", 8, "Page\nName"), SheetAsked("Page Jump", 220, PAD_PATH "Page Jump@$", pnl_page_jumps, "Page\nJump"),
@@ -186,7 +187,7 @@ inline constexpr SETUPWORD pnl_util_buses[] = {SAME("None"), SAME("Key1"), SAME(
 inline constexpr SETUPCOLUMN pnl_utilbus_columns[] = {
     SheetWord("Util 1", 220, "~@Util 1@$", pnl_util_buses), SheetWord("Util 2", 220, "~@Util 2@$", pnl_util_buses),
 };
-inline constexpr SETUPSHEET pnl_utilbus = SheetOf(pnl_utilbus_columns, 8, {.names = pnl_bus_rows, .key_head = "Row", .key_width = 110, PNL_KEYS(to_pnl_operation)});
+inline constexpr SETUPSHEET pnl_utilbus = SheetOf(pnl_utilbus_columns, 8, {.names = pnl_bus_rows, .key_head = "Row", .key_width = 110, .title = "Util Bus", PNL_KEYS(to_pnl_operation)});
 inline constexpr SETUPWORD pnl_display_modes[] = {SAME("Source Name"), SAME("Button No"), SAME("Name/No"), SAME("Off"), {}};
 inline constexpr SETUPCOLUMN pnl_display_columns[] = {
     SheetWord("Display", 170, "~@Display@$", pnl_display_modes), SheetWord("Color", 130, "~@Color@$", pnl_on_off), SheetNumber("Bright", 140, "~@Bright@$", 0, 100),
@@ -199,7 +200,7 @@ inline constexpr const char* pnl_lights[] = {"Xpt Buttons", "Other Buttons", "So
 inline constexpr SETUPCOLUMN pnl_maintenance_columns[] = {SheetNumber("Brightness", 370, "~@Brightness@$", 0, 100)};
 inline constexpr BT_TBL pnl_maintenance_more[] = {
     Toggle({.id = 33, .caption = "Lamp\nTest", .group = "Panel", .cmd = {PNL "Maintenance@Lamp Test#*"}}),
-    Jump({.id = 54, .caption = "Touch\nPanel\nCalibration", .cmd = {"#73270001"}}),
+    Jump({.id = 54, .caption = "Calibrate\nTouch\nPanel", .cmd = {"#73270001"}}),
 };
 inline constexpr SETUPSHEET pnl_maintenance = SheetOf(
     pnl_maintenance_columns, int(std::size(pnl_lights)), {.names = pnl_lights, .key_head = "Light", .key_width = 180, .is_direct = 1, PNL_KEYS(pnl_maintenance_more)});

@@ -32,6 +32,11 @@ class PanelSetup(DeskCase):
     def pad(self, button):
         self.desk.touch(112 + 70 * ((button - 1) % 4) + 20, 212 + 46 * ((button - 1) // 4) + 20, settle=0.15)
 
+    def popup(self, place, columns, rows):
+        width, height = 78 * columns + 26, 43 * rows + 76
+        self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
+                        300 - height // 2 + 50 + 43 * (place // columns))
+
     def puts(self):
         time.sleep(0.2)
         return [line for line in self.desk.wire() if line.startswith("put Eng")]
@@ -125,6 +130,32 @@ class PanelSetup(DeskCase):
         self.open_page("1110", "add M/E-1@Key1@Type@Signal Select@Fill")
         self.assertNotEqual(self.desk.part(97, 73, 702, 526), before)
         self.assertIsNone(self.desk.app_status())
+
+    def test_6_a_contact_is_set_and_fired(self):
+        gpi = f"{PANEL}Device Interface@GPI Output@"
+        self.open("7325.4")
+        self.row(2, x=150)
+        self.push(34)
+        self.popup(1, 4, 4)  # Cut
+        self.push(54)
+        self.assertEqual(self.puts(), [f"put {gpi}Action Type@3@1#1,0,0,1"])
+        self.assertEqual(self.desk.value(f"{gpi}Action Type@3@1"), "1,0,0,1")
+        self.push(37)
+        with open(os.path.join(self.desk.work, "sim.out"), encoding="latin-1") as file:
+            self.assertIn("GPI output 3: test fire", file.read())
+
+    def test_7_the_touch_panel_is_calibrated(self):
+        self.open("7327.1")
+        self.desk.touch(70, 60)
+        self.desk.touch(730, 540)
+        self.desk.touch(400, 300)
+        ok_x, ok_y = grid(53)
+        self.desk.touch(round((ok_x + 24) * 660 / 700), round((ok_y + 12) * 480 / 500))
+        time.sleep(0.5)
+        self.assertIn("Touch Panel Calibration: AX=70 AY=60 BX=730 BY=540", self.desk.log())
+        with open(os.path.join(self.desk.root, "i2c-0"), "rb") as file:
+            file.seek(0x53 * 256 + 8)
+            self.assertEqual(file.read(8), bytes([0, 70, 0, 60, 2, 0xDA, 2, 0x1C]))
 
 
 if __name__ == "__main__":

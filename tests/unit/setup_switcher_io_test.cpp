@@ -18,26 +18,6 @@ struct SwitcherIo : SetupTest {
         SetupOutput_Reset();
         SetupTest::TearDown();
     }
-    // All that a press may change without a line, a pane or another page.
-    static std::string Seen()
-    {
-        std::string seen;
-        for (int row = 0; row < LS_GetNData(1); row++)
-            seen += Row(row, 9);
-        for (const BT_MEM* b = bt_first(); b->id > 0; b++)
-            seen += std::to_string(b->status);
-        return seen;
-    }
-    static bool HasEffect(int id)
-    {
-        const std::string before = Seen();
-        const Lines lines = Push(id);
-        const bool has = !lines.empty() || Pane_GetActiveID() || GetWindow() != WINDOW_NONE ||
-                         GL_CreatePage != 0 || Seen() != before;
-        GL_CreatePage = 0;
-        Dismiss();
-        return has;
-    }
 };
 } // namespace
 

@@ -1,0 +1,297 @@
+// The panel's links, modules, device interfaces, operation and maintenance: what each page asks
+// for, that every key does something, what goes on the wire; the calibration of the touch panel.
+#include "i2c.h"
+#include "panel_desk.h"
+#include "pc_setup_link.h"
+#include "touch.h"
+#include <linux/input.h>
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace
+{
+constexpr int YES = 1, NO = 2, EXECUTE = 54;
+
+struct PanelConfig : PanelTest {
+    void TearDown() override
+    {
+        GL_CreatePage = 0;
+        SetupLink_Reset();
+        PanelTest::TearDown();
+    }
+};
+} // namespace
+
+TEST_F(PanelConfig, EachPageAsksForItsSettings)
+{
+    static const struct {
+        uint32_t page;
+        const char* verb;
+        const char* path;
+    } cases[] = {
+        {0x73210003, "add", "Config@Key Trans Link"},
+        {0x73210004, "add", "Config@External Bus Link@Link"},
+        {0x73210005, "read", "Config@External Bus Link@Master Bus List"},
+        {0x73210006, "add", "Config@External Bus Link@Link Matrix Adjust@Level@8"},
+        {0x73210007, "add", "Config@External Bus Link@Table"},
+        {0x73210008, "read", "Config@MP2 Main/Sub Assign@Main/Sub Assign@14th Row"},
+        {0x73210009, "add", "Config@DSK Fader Assign@Mode@4"},
+        {0x73210010, "add", "Config@DSK Fader Assign@Fader Assign@Fader@1st Row"},
+        {0x73210011, "read", "Config@Compact Key Module Assign@KY Unit Config@13"},
+        {0x73210013, "add", "Config@Compact Key Module Assign@Extension Port@Panel Row@8"},
+        {0x73210014, "add", "Config@Reference Module@Reference@Shotbox"},
+        {0x73210015, "read", "Config@M/E Operation@P/P"},
+        {0x73210016, "add", "Config@Operation Inhibit@Joystick/Trackball@Z Ring"},
+        {0x73250000, "add", "Device Interface@Baud Rate@Remote4"},
+        {0x73250001, "add", "Device Interface@GPI Input@Action Type Region@8@1"},
+        {0x73250002, "add", "Device Interface@GPI Input@H/L Set@Function@8"},
+        {0x73250003, "add", "Device Interface@GPI Input@H/L Set@FC Input/Output@1"},
+        {0x73250004, "add", "Device Interface@GPI Output@Trigger Type@8"},
+        {0x73250005, "add", "Device Interface@DCU Serial Port Assign@Port@Dev12"},
+        {0x73260000, "add", "Operation@Next Trans Reset"},
+        {0x73260001, "add", "Operation@Effect Mode@Recall@DME8"},
+        {0x73260002, "add", "Operation@Flexi Pad Mode@Bank@8th Row"},
+        {0x73260004, "add", "Operation@Sensitivity@Sensitivity@Search Dial"},
+        {0x73260005, "add", "Operation@Sensitivity@Search Dial@Max Speed@Jog"},
+        {0x73260006, "add", "Operation@Macro@Event Merge"},
+        {0x73260007, "add", "Operation@Custom Button@Function@8"},
+        {0x73260009, "add", "Operation@Custom Button@Next Trans All@Key8@P/P"},
+        {0x73260010, "add", "Operation@Button Tally@Dim@Aux"},
+        {0x73260011, "add", "Operation@Region Priority@22"},
+        {0x73260012, "add", "Operation@Key Row Operation@Key Row@8th Row"},
+        {0x73260013, "add", "Operation@Key Row Operation@Key Deleg Aux Assign@Aux Bus@Key8"},
+        {0x73260014, "add", "Operation@Xpt Module Operation@Flexi Pad Button@Assign@M/E-5 SUB@4@8"},
+        {0x73260015, "add", "Operation@Xpt Module Operation@Util Button Bus Assign@Util 2@P/P"},
+        {0x73260016, "add", "Operation@Display Mode@Display@2nd AUX"},
+        {0x73260017, "add", "Operation@Xpt Module Operation@Flexi Pad Button@Page Jump@1st AUX@1"},
+        {0x73270000, "add", "Maintenance@Brightness@Goose Light"},
+    };
+    for (const auto& c : cases) {
+        const Lines lines = Open(c.page);
+        EXPECT_THAT(lines, Contains(c.verb + std::string(" " PANEL) + c.path))
+            << std::hex << c.page;
+        for (const std::string& line : Leave())
+            if (line.starts_with("remove ") && line.find("M/E Operation@") != line.npos)
+                ADD_FAILURE() << "what is followed all the time must stay: " << line;
+    }
+}
+
+TEST_F(PanelConfig, EveryKeyDoesSomething)
+{
+    int keys = 0;
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        const bool is_ours = (page->id >> 16 >= 0x7325 && page->id >> 16 <= 0x7327) ||
+                             (page->id >= 0x73210003 && page->id < 0x73210030);
+        if (!is_ours || page->id == 0x73210012 || SearchPageTable(page->id) != page)
+            continue;
+        (void)Open(page->id);
+        (void)Tell(PANEL "Config@External Bus Link@Master Bus List#1,BUS1");
+        SelectRow(LS_GetNData(1) - 1); // has nothing in hand
+        std::vector<int> ids;
+        for (const BT_MEM* b = bt_first(); b->id > 0; b++)
+            ids.push_back(b->id);
+        for (const int key : ids) {
+            if (Usable({key}).empty() || BT_GetVisible(key) != BT_ENABLED)
+                continue;
+            EXPECT_TRUE(HasEffect(key)) << std::hex << page->id << " key " << std::dec << key;
+            keys++;
+        }
+        (void)Leave();
+    }
+    EXPECT_GT(keys, 120);
+}
+
+TEST_F(PanelConfig, AnExternalLinkTakesItsBusesFromTheirLists)
+{
+    (void)Open(0x73210004);
+    TellAll(PANEL "Config@External Bus Link@Link#", {"1,None,None,1,false", "2,None,None,3,false"});
+    SelectRow(1);
+    for (const auto& [key, list] :
+         {std::pair{35, "Master Bus List"}, {36, "S-BUS Dst Name List"}}) {
+        (void)Push(key);
+        EXPECT_EQ(GL_CreatePage, 0x73210005u);
+        (void)CreatePage(GL_CreatePage);
+        TellAll(std::string(PANEL "Config@External Bus Link@") + list + "#", {"1,ONE", "2,TWO"});
+        SelectRow(key - 35);
+        (void)Push(33);
+        EXPECT_EQ(GL_CreatePage, 0x73210004u);
+        (void)CreatePage(GL_CreatePage);
+    }
+    EXPECT_EQ(Row(1, 5), "2|ONE*|TWO*|3|Off");
+    EXPECT_THAT(Push(EXECUTE),
+                Contains("put " PANEL "Config@External Bus Link@Link#2,ONE,TWO,3,false"));
+
+    (void)Open(0x73210007);
+    TellAll(PANEL "Config@External Bus Link@Table#", {"1,1,1,1,1,1,1,1,1", "2,9,2,2,2,2,2,2,2"});
+    (void)Push(34); // straight
+    EXPECT_THAT(Push(EXECUTE),
+                Contains("put " PANEL "Config@External Bus Link@Table#2,2,2,2,2,2,2,2,2"));
+}
+
+TEST_F(PanelConfig, RowsOfModulesAreNamedAndGoOutWhole)
+{
+    (void)Open(0x73210011);
+    TellAll(PANEL "Config@Compact Key Module Assign@KY Unit Config@",
+            {"0#FP,KT,TR,--,--,--,--,--", "3#FP,--,--,--,--,--,--,--"});
+    EXPECT_EQ(Row(3, 4), "3|4th Row|FP|--");
+    SelectRow(3);
+    (void)Push(34); // the second slot
+    (void)Answer(2);
+    EXPECT_EQ(Row(3, 4), "3|4th Row|FP|KT*");
+    (void)Push(EXECUTE);
+    EXPECT_THAT(Answer(YES), Contains("put " PANEL "Config@Compact Key Module Assign@KY Unit "
+                                      "Config@3#FP,KT,--,--,--,--,--,--"));
+}
+
+TEST_F(PanelConfig, ARegionHasOnePlaceInThePriority)
+{
+    (void)Open(0x73260011);
+    TellAll(PANEL "Operation@Region Priority@", {"1#M/E-1", "2#M/E-2", "3#M/E-3"});
+    SelectRow(2);
+    (void)Push(33);
+    (void)Answer(1); // M/E-1, which is the first
+    EXPECT_THAT(Push(EXECUTE),
+                testing::UnorderedElementsAre("put " PANEL "Operation@Region Priority@1#M/E-3",
+                                              "put " PANEL "Operation@Region Priority@3#M/E-1"));
+}
+
+TEST_F(PanelConfig, APadOfABusIsSetAndAllItsPagesAreDefaultedWhenThatIsMeant)
+{
+    const std::string pad = PANEL "Operation@Xpt Module Operation@Flexi Pad Button@Assign@";
+    (void)Open(0x73260014);
+    TellAll(pad, {"M/E-1@2@1#Key", "M/E-1@2@3#Master Effect"});
+    EXPECT_EQ(Row(5, 4), "M/E-1@2|Key||M Effect");
+    SelectRow(5);
+    (void)Push(35);
+    (void)Answer(1);
+    EXPECT_THAT(Push(EXECUTE), ElementsAre("put " + pad + "M/E-1@2@3#NO ASSIGN"));
+    (void)Push(51);
+    EXPECT_THAT(Answer(NO), IsEmpty());
+    (void)Push(51);
+    EXPECT_THAT(Answer(YES), ElementsAre("put " + pad + "M/E-1@Default@1#true"));
+}
+
+TEST_F(PanelConfig, TheValuesOfAGpiPort)
+{
+    const std::string gpi = PANEL "Device Interface@GPI Output@";
+    (void)Open(0x73250004);
+    TellAll(gpi, {"Trigger Type@3#None,0x00,0x01", "Action Type@3@1#0,0,0,0"});
+    SelectRow(2);
+    (void)Push(34);
+    (void)Answer(2); // Cut
+    EXPECT_THAT(Push(EXECUTE), ElementsAre("put " + gpi + "Action Type@3@1#1,0,0,1"));
+    EXPECT_THAT(Push(37), ElementsAre("put " + gpi + "Test Fire@3#"));
+}
+
+// --- The touch panel ---
+
+namespace
+{
+constexpr uint32_t CALIBRATION = 0x73270001, MAINTENANCE = 0x73270000;
+
+struct Calibration : PanelTest {
+    TouchPoints before;
+    void SetUp() override
+    {
+        PanelTest::SetUp();
+        Touch_Reset();
+        Touch_Resolution = 1023;
+        Touch_SetCalibration({50, 50, 750, 550});
+        before = Touch_GetCalibration();
+        Touch_FD = 0; // a panel is there
+        const uint8_t none[8] = {};
+        (void)I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, sizeof none, none);
+        (void)Open(CALIBRATION);
+    }
+    void TearDown() override
+    {
+        GL_CreatePage = 0;
+        Touch_FD = -1;
+        PanelTest::TearDown();
+        Touch_SetCalibration({50, 50, 750, 550});
+    }
+    // A finger at a point of the panel itself, on 800 x 600, and what the loop makes of it.
+    static void Finger(int x, int y)
+    {
+        SDL_Event e;
+        while (SDL_PeepEvents(&e, 1, SDL_GETEVENT, SDL_ALLEVENTS) == 1) {
+        }
+        Touch_Record(EV_ABS, ABS_X, (x * 1023 + 799) / 800);
+        Touch_Record(EV_ABS, ABS_Y, (y * 1023 + 599) / 600);
+        Touch_Record(EV_KEY, BTN_TOUCH, 1);
+        Touch_Record(EV_SYN, 0, 0);
+        Touch_Record(EV_KEY, BTN_TOUCH, 0);
+        Touch_Record(EV_SYN, 0, 0);
+        while (SDL_PeepEvents(&e, 1, SDL_GETEVENT, SDL_ALLEVENTS) == 1)
+            if (e.type == SDL_MOUSEBUTTONDOWN)
+                SendMessage(MSG_PRESS, e.button.x, e.button.y, 1, 0);
+        Pass(300);
+    }
+    static std::vector<int> Stored()
+    {
+        uint8_t e[8] = {};
+        EXPECT_EQ(I2cEepromService_ReadElem(EEPROM_TOUCH_CALIBRATION, sizeof e, e), 8);
+        return {e[0] << 8 | e[1], e[2] << 8 | e[3], e[4] << 8 | e[5], e[6] << 8 | e[7]};
+    }
+    static std::vector<int> Counting()
+    {
+        const TouchPoints p = Touch_GetCalibration();
+        return {p.ax, p.ay, p.bx, p.by};
+    }
+};
+} // namespace
+
+TEST_F(Calibration, TwoCrossesAndACheckAreStored)
+{
+    EXPECT_THAT(Usable({BTN_CALIBRATION_OK, BTN_CALIBRATION_CANCEL}),
+                ElementsAre(BTN_CALIBRATION_CANCEL));
+    Finger(70, 60);
+    Finger(730, 540);
+    EXPECT_THAT(Counting(), ElementsAre(70, 60, 730, 540));
+    Finger(400, 300);
+    (void)Push(BTN_CALIBRATION_OK);
+    EXPECT_EQ(GL_CreatePage, MAINTENANCE);
+    EXPECT_THAT(Stored(), ElementsAre(70, 60, 730, 540));
+    EXPECT_EQ(I2cEepromService_IsCrc32Valid(2), 1);
+    (void)Leave();
+    EXPECT_THAT(Counting(), ElementsAre(70, 60, 730, 540));
+    Touch_LoadCalibration(); // the next start
+    EXPECT_THAT(Counting(), ElementsAre(70, 60, 730, 540));
+}
+
+TEST_F(Calibration, ATouchBesideACrossIsNotTaken)
+{
+    Finger(300, 300);
+    EXPECT_THAT(Counting(), ElementsAre(50, 50, 750, 550));
+    Finger(70, 60);
+    Finger(70, 60); // still the first one
+    Finger(730, 540);
+    EXPECT_THAT(Counting(), ElementsAre(70, 60, 730, 540));
+    Finger(200, 300); // the check fails: everything as before, from the first cross on
+    EXPECT_THAT(Counting(), ElementsAre(50, 50, 750, 550));
+    EXPECT_THAT(Usable({BTN_CALIBRATION_OK}), IsEmpty());
+    Finger(60, 55);
+    Finger(745, 545);
+    EXPECT_THAT(Counting(), ElementsAre(60, 55, 745, 545));
+}
+
+TEST_F(Calibration, WhatIsNotKeptIsTakenBack)
+{
+    for (const bool by_time : {false, true}) {
+        GL_CreatePage = 0;
+        Finger(70, 60);
+        Finger(730, 540);
+        Finger(400, 300);
+        if (by_time)
+            for (int i = 0; i < 61; i++)
+                Pass(1000);
+        else
+            (void)Push(BTN_CALIBRATION_CANCEL);
+        EXPECT_EQ(GL_CreatePage, MAINTENANCE) << by_time;
+        (void)Open(CALIBRATION);
+        EXPECT_THAT(Counting(), ElementsAre(50, 50, 750, 550)) << by_time;
+        EXPECT_THAT(Stored(), ElementsAre(0, 0, 0, 0)) << by_time;
+    }
+}
