@@ -10,6 +10,7 @@
 #include "page_table/rows.h"
 #include "pane.h"
 #include "pc_engsetup_pnl.h"
+#include "setup_index.h"
 #include "tally_value.h"
 #include "tdl.h"
 #include "text.h"
@@ -144,7 +145,7 @@ static bool is_on_keys(int x, int y)
 static int press(int x, int y)
 {
     cal.idle_ms = 0;
-    if (is_on_keys(x, y))
+    if (is_on_keys(x, y) || SetupIndex_IsLocked(GL_NowPage))
         return 0;
     if (cal.step == STEP_FIRST || cal.step == STEP_SECOND)
         measure(x, y);
@@ -167,8 +168,6 @@ static int button(const char* cmd)
 {
     if (Same(cmd, "LOCAL@Calibration@OK") && cal.step == STEP_DONE)
         keep();
-    else if (Same(cmd, "LOCAL@Calibration@Cancel"))
-        GL_CreatePage = MAINTENANCE;
     return 0;
 }
 
@@ -191,7 +190,7 @@ static int calibration_create(int on, uint32_t)
     }
     cal = {};
     cal.before = cal.points = Touch_GetCalibration();
-    go_to(STEP_FIRST, "");
+    go_to(STEP_FIRST, SetupIndex_IsLocked(GL_NowPage) ? "This page is locked." : "");
     return 0;
 }
 

@@ -207,7 +207,7 @@ inline constexpr SETUPSHEET pnl_maintenance = SheetOf(
 
 inline constexpr BT_TBL bt_engsetup_panel_maintenance_calibration[] = {
     Action({.id = BTN_CALIBRATION_OK, .caption = "OK", .cmd = {"LOCAL@Calibration@OK"}}),
-    Action({.id = BTN_CALIBRATION_CANCEL, .caption = "Cancel", .cmd = {"LOCAL@Calibration@Cancel"}}),
+    Jump({.id = BTN_CALIBRATION_CANCEL, .caption = "Cancel", .cmd = {"#73270000"}}), // also where the page is locked
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_engsetup_panel_maintenance_calibration));

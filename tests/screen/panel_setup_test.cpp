@@ -74,3 +74,15 @@ TEST_F(PanelPictures, NamesAndColoursInHand)
     Paint();
     EXPECT_TRUE(MatchesGolden("panel_namecolor", WITHOUT_LEFT_TABS));
 }
+
+TEST_F(PanelPictures, TheTouchPanelBetweenItsCrosses)
+{
+    (void)Open(0x73270001);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("panel_calibration"));
+    (void)Touch(60, 45);
+    (void)Touch(745, 555);
+    (void)Touch(404, 297);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("panel_calibration_done"));
+}
