@@ -1,6 +1,7 @@
 #include "setup_sheet.h"
 #include "message.h"
 #include "page.h"
+#include "pane.h"
 #include "tally_value.h"
 #include "text.h"
 #include "window.h"
@@ -45,6 +46,26 @@ void SetupSheet_Changed(const SETUPSHEET& s, const SETUPTABLE& t)
     }
     if (s.changed)
         s.changed();
+}
+
+static bool is_range(const SETUPTABLE& t, int row, int last)
+{
+    return Decimal(SetupPage_Text(t, row, last)) >= Decimal(SetupPage_Text(t, row, last - 1));
+}
+
+bool SetupSheet_RangesAreSound()
+{
+    for (int row = 0; sh.sheet && row < *sh.table->rows; row++)
+        for (int i = 1; i < sh.sheet->column_count; i++) {
+            if (!sh.sheet->columns[i].is_last || is_range(*sh.table, row, i))
+                continue;
+            char text[CMD_SIZE];
+            PrintText(text, "%s of %s %s\nis below the first.", sh.sheet->columns[i].head,
+                      sh.sheet->key_head, SetupPage_Text(*sh.table, row, sh.sheet->column_count));
+            (void)PaneMessage_Create("Execute", PANE_ALERT, text);
+            return false;
+        }
+    return true;
 }
 
 // --- Names ---

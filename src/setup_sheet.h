@@ -41,6 +41,7 @@ struct SETUPCOLUMN {
     const char* group = nullptr;   // title of one key's frame; columns side by side share it
     int start_line = 0;            // its keys begin the second line of keys
     int is_reread = 0;             // as in SETUPFIELD
+    int is_last = 0;               // of a range that begins in the column before
 };
 
 struct SETUPSHEET {
@@ -72,6 +73,9 @@ int SetupSheet_Offer(const SETUPSHEET& s, int column, const char** texts, int ma
 // The cells or the current row may be others now: a direct sheet sends what is in hand.
 void SetupSheet_Changed(const SETUPSHEET& s, const SETUPTABLE& t);
 
+// SETUPSHEET.is_sound of a sheet with ranges: none ends before it begins. Says which does.
+bool SetupSheet_RangesAreSound();
+
 // The text of a cell of the current row.
 inline const char* SetupSheet_Now(const SETUPTABLE& t, int column)
 {
@@ -101,6 +105,11 @@ constexpr SETUPCOLUMN SheetAsked(const char* head, int width, const char* path,
 constexpr SETUPCOLUMN SheetNumber(const char* head, int width, const char* path, int min, int max)
 {
     return {.head = head, .width = width, .path = path, .min = min, .max = max};
+}
+// The last of a range; its first is the number of the column before.
+constexpr SETUPCOLUMN SheetLast(const char* head, int width, const char* path, int min, int max)
+{
+    return {.head = head, .width = width, .path = path, .min = min, .max = max, .is_last = 1};
 }
 constexpr SETUPCOLUMN SheetName(const char* head, int width, const char* path, int letters,
                                 const char* caption = nullptr)

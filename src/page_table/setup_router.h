@@ -31,10 +31,10 @@ inline constexpr SETUPSHEET engsetup_router_config =
 inline constexpr BT_TBL to_router[] = {SheetJump(49, "Router", "#73610000")};
 inline constexpr SETUPCOLUMN router_area_columns[] = {
     SheetWord("Use", 90, "~@Use@$", words_enable),
-    SheetNumber("First Src", 98, "~@First Source@$", 1, ROUTER_NAMES), SheetNumber("Last Src", 98, "~@Last Source@$", 1, ROUTER_NAMES),
-    SheetNumber("First Dest", 98, "~@First Destination@$", 1, ROUTER_NAMES), SheetNumber("Last Dest", 98, "~@Last Destination@$", 1, ROUTER_NAMES),
+    SheetNumber("First Src", 98, "~@First Source@$", 1, ROUTER_NAMES), SheetLast("Last Src", 98, "~@Last Source@$", 1, ROUTER_NAMES),
+    SheetNumber("First Dest", 98, "~@First Destination@$", 1, ROUTER_NAMES), SheetLast("Last Dest", 98, "~@Last Destination@$", 1, ROUTER_NAMES),
 };
-inline constexpr SETUPSHEET engsetup_router_area = SheetMore(SheetOf(router_area_columns, 8, {.key_head = "Area", .key_width = 68}), to_router);
+inline constexpr SETUPSHEET engsetup_router_area = SheetMore(SheetOf(router_area_columns, 8, {.key_head = "Area", .key_width = 68, .is_sound = SetupSheet_RangesAreSound}), to_router);
 
 inline constexpr SETUPCOLUMN router_source_columns[] = {
     SheetName("Name", 190, "~@Name@$", 16, "Source\nName"),

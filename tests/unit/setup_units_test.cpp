@@ -174,3 +174,19 @@ TEST_F(SetupUnits, ABusTellsItsGroupsInOneLineAndGetsThemInOne)
         Push(BTN_SHEET_EXECUTE),
         testing::ElementsAre("put " + bus + "#true,true,false,true,false,false,false,false"));
 }
+
+TEST_F(SetupUnits, AnAreaEndsBehindItsBegin)
+{
+    const std::string area = SETUP + "Router@Area@";
+    (void)Open(0x73610001);
+    TellAll(area, {"First Source@2#9", "Last Source@2#16", "First Destination@2#1",
+                   "Last Destination@2#8"});
+    SelectRow(1);
+    SendMessage(LMSG_KNOBVAR, 2, 8, 0, 0);
+    EXPECT_EQ(Row(1, 6), "2||9|8*|1|8");
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::IsEmpty());
+    EXPECT_NE(Pane_GetActiveID(), 0) << "it says why";
+    Dismiss();
+    SendMessage(LMSG_KNOBVAR, 2, 9, 0, 0);
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::ElementsAre("put " + area + "Last Source@2#9"));
+}
