@@ -31,6 +31,7 @@ enum EngUnitView : uint32_t {
     ENG_POWER,
     ENG_UNIT_TABLE
 };
+constexpr int ENG_PICTURE_SHIFT = 16; // px that a cell's picture may be moved for a try
 enum : int {
     BTN_LOG_MODULE_ALL = 36,
     BTN_LOG_MODULE_LINKS = 37,

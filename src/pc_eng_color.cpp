@@ -29,30 +29,42 @@ static void draw_value(int x, int y, unsigned rgb)
 namespace
 {
 struct Knob {
+    int box;
     int* value;
+    int min;
+    int max;
     int usual; // what the process starts with
 };
-const Knob knobs[] = {{&bgc_red, bgc_red},
-                      {&bgc_green, bgc_green},
-                      {&bgc_blue, bgc_blue},
-                      {&gry_rat, gry_rat}}; // boxes 1 to 4
+const Knob knobs[] = {
+    {1, &bgc_red, 0, 255, bgc_red},
+    {2, &bgc_green, 0, 255, bgc_green},
+    {3, &bgc_blue, 0, 255, bgc_blue},
+    {4, &gry_rat, 0, 255, gry_rat},
+    {17, &dbpost_x, -ENG_PICTURE_SHIFT, ENG_PICTURE_SHIFT, dbpost_x},
+    {18, &dbpost_y, -ENG_PICTURE_SHIFT, ENG_PICTURE_SHIFT, dbpost_y},
+};
 
 struct Switch {
     const char* path;
     int* value;
 };
 constexpr Switch switches[] = {
-    {ENG_COLOR "Lit", &bgcen}, {ENG_COLOR "Inverted", &inven}, {ENG_COLOR "Veiled", &gryen}};
+    {ENG_COLOR "Lit", &bgcen},
+    {ENG_COLOR "Inverted", &inven},
+    {ENG_COLOR "Veiled", &gryen},
+    {ENG_COLOR "Small Font", &s_font},
+};
 } // namespace
 
 static void checker_show()
 {
     for (const Switch& s : switches)
         Eng_Mirror(s.path, Bool(*s.value));
-    for (int i = 0; i < int(std::size(knobs)); i++)
-        NB_SetVar(i + 1, *knobs[i].value);
+    for (const Knob& k : knobs)
+        NB_SetVar(k.box, *k.value);
     draw_value(112, 288, st_ground(1));
-    Eng_Text(112, 316, 697, "The ground of a lit cell. It holds on all pages until the end.", 2,
+    Eng_Text(112, 316, 697,
+             "The ground of a lit cell. What is turned holds on all pages until the end.", 2,
              LABEL);
     TDL_UpdateRect(112, 288, 697, 340);
     GL_ST_area_update_draw();
@@ -82,10 +94,11 @@ static int checker_button(const char* path, const char* value)
 
 static int checker_knob(int box, int value)
 {
-    if (box < 1 || box > int(std::size(knobs)))
-        return 0;
-    *knobs[box - 1].value = std::clamp(value, 0, 255);
-    checker_show();
+    for (const Knob& k : knobs)
+        if (k.box == box) {
+            *k.value = std::clamp(value, k.min, k.max);
+            checker_show();
+        }
     return 0;
 }
 
@@ -100,8 +113,9 @@ static int checker_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 
 static int checker_create(int on, uint32_t)
 {
+    for (const Switch& s : switches) // also when it is left: they are of this page only
+        *s.value = 0;
     bgcen = on; // the colour is what the page is for
-    inven = gryen = 0;
     if (!on)
         return 1;
     checker_show();

@@ -208,6 +208,7 @@ inline constexpr BT_TBL bt_eng_checker[] = {
     Toggle(     {.id = 49, .caption = "Lit", .group = "All cells", .cmd = {ENG_COLOR "Lit#*"}}),
     Toggle(     {.id = 50, .caption = "Inverted", .group = "All cells", .cmd = {ENG_COLOR "Inverted#*"}}),
     Toggle(     {.id = 51, .caption = "Veiled", .group = "All cells", .cmd = {ENG_COLOR "Veiled#*"}}),
+    Toggle(     {.id = 52, .caption = "Small\nFont", .group = "All cells", .cmd = {ENG_COLOR "Small Font#*"}}),
     ToEngineeringMenu(),
     BT_END,
 };
@@ -216,6 +217,8 @@ inline constexpr NB_TBL nb_eng_checker[] = {
     {.id = 2, .caption = "Green", .type = NB_INT, .min = 0, .max = 255, .cmd = "Panel@Common@Knob1", .scale = 1},
     {.id = 3, .caption = "Blue",  .type = NB_INT, .min = 0, .max = 255, .cmd = "Panel@Common@Knob2", .scale = 1},
     {.id = 4, .caption = "Veil",  .type = NB_INT, .min = 0, .max = 255, .cmd = "Panel@Common@Knob3", .scale = 1},
+    {.id = 17, .caption = "Picture H", .type = NB_INT, .min = -ENG_PICTURE_SHIFT, .max = ENG_PICTURE_SHIFT, .cmd = "Panel@Common@Knob0", .scale = 1},
+    {.id = 18, .caption = "Picture V", .type = NB_INT, .min = -ENG_PICTURE_SHIFT, .max = ENG_PICTURE_SHIFT, .cmd = "Panel@Common@Knob1", .scale = 1},
     NB_END,
 };
 static_assert(ButtonsAreSound(bt_eng_checker) && BoxesAreSound(nb_eng_checker));
