@@ -262,6 +262,7 @@ inline constexpr LS_TBL ls_eng_keys[] = {
 };
 inline constexpr BT_TBL bt_eng_touch[] = {
     Action(     {.id = 49, .caption = "Clear", .cmd = {ENG_INPUT "Clear"}}),
+    Jump(       {.id = 51, .caption = "Calibrate\nTouch\nPanel", .cmd = {"#73270001"}}),
     Jump(       {.id = 52, .caption = "Key\nCodes", .cmd = {"#99940000"}}),
     ToEngineeringMenu(),
     BT_END,
