@@ -1,12 +1,15 @@
-// The wipe and DME wipe snapshots of a bank. What a key shows comes from the mirror of the
-// registers; a press sends a command and its result comes back as a line of the register.
+// The wipe and DME wipe snapshots of a bank and those of a key. What a key shows comes from the
+// mirror of the registers; a press sends a command and its result comes back as a line of the
+// register.
 #include "pc_me_snapshot.h"
 #include "a_bt.h"
 #include "a_nb.h"
 #include "message.h"
 #include "netio.h"
+#include "page.h"
 #include "pc_me.h"
 #include "pc_me_dmewipe.h"
+#include "pc_register_kind.h"
 #include "register.h"
 #include "tally_value.h"
 #include "tdl.h"
@@ -18,7 +21,7 @@ namespace
 {
 constexpr int KEYS = 10;
 constexpr int WIPEDME_BTN_TO_REG[KEYS] = {7, 8, 9, 4, 5, 6, 1, 2, 3, 10}; // by the place of the key
-constexpr int button_of_place[KEYS] = {17, 18, 19, 33, 34, 35, 49, 50, 51, 52};
+constexpr int keypad_buttons[KEYS] = {17, 18, 19, 33, 34, 35, 49, 50, 51, 52};
 static_assert(KEYS == REGISTERS_WIPESS);
 
 constexpr int BTN_STORE = 22;
@@ -28,19 +31,24 @@ constexpr int NO_PATTERN = 0;
 constexpr int CAPTION_PX = 74; // of a line on a standard key: eleven letters of the usual width
 constexpr int CAPTION_SIZE = 48;
 
-// What the two pages differ in.
+// What the pages differ in.
 struct Kind {
-    int registers; // REGISTER_WIPESS or REGISTER_DMESS
-    const char* commands;
-    const char* pattern_tail; // behind the bank
-    int first_pattern, last_pattern;
-    int digits;
+    int registers;   // REGISTER_WIPESS, REGISTER_DMESS or REGISTER_KEYSS
+    int keys = KEYS; // places in use
+    const int* number_of_place = WIPEDME_BTN_TO_REG;
+    const int* button_of_place = keypad_buttons;
+    const char* list;                   // of a region
+    const char* commands = "";          // of a bank's snapshots
+    const char* pattern_tail = nullptr; // behind the bank; null: a register has no pattern
+    int first_pattern = 0, last_pattern = 0;
+    int digits = 0;
     int (*exist)(int region, int no);
     int (*lock)(int region, int no);
     const char* (*name)(int region, int no);
     const char* (*tally)(int region, int no);
 };
 constexpr Kind wipe_kind = {.registers = REGISTER_WIPESS,
+                            .list = "Snapshot@Wipe Snapshot@%s@List",
                             .commands = "Snapshot@Wipe Snapshot@",
                             .pattern_tail = "Wipe@Main Pattern@Pattern",
                             .first_pattern = 1,
@@ -51,6 +59,7 @@ constexpr Kind wipe_kind = {.registers = REGISTER_WIPESS,
                             .name = Register_Name_WipeSS,
                             .tally = Register_Tally_WipeSS};
 constexpr Kind dme_kind = {.registers = REGISTER_DMESS,
+                           .list = "Snapshot@DME Snapshot@%s@List",
                            .commands = "Snapshot@DME Snapshot@",
                            .pattern_tail = "DME Wipe@Pattern Select@Pattern",
                            .first_pattern = 1001,
@@ -60,6 +69,17 @@ constexpr Kind dme_kind = {.registers = REGISTER_DMESS,
                            .lock = Register_Lock_DMESS,
                            .name = Register_Name_DMESS,
                            .tally = Register_Tally_DMESS};
+constexpr int numbers_of_key[REGISTERS_KEYSS] = {1, 2, 3, 4};
+constexpr int buttons_of_key[REGISTERS_KEYSS] = {17, 18, 19, 20};
+constexpr Kind key_kind = {.registers = REGISTER_KEYSS,
+                           .keys = REGISTERS_KEYSS,
+                           .number_of_place = numbers_of_key,
+                           .button_of_place = buttons_of_key,
+                           .list = "Snapshot@Key Snapshot@Attribute@%s@List",
+                           .exist = Register_Exist_KeySS,
+                           .lock = Register_Lock_KeySS,
+                           .name = Register_Name_KeySS,
+                           .tally = Register_Tally_KeySS};
 
 struct Key {
     char caption[CAPTION_SIZE] = ""; // the button shows it from here
@@ -80,7 +100,7 @@ static struct {
 
 static int index_of_place(int place)
 {
-    return WIPEDME_BTN_TO_REG[place] - 1;
+    return Snapshot.kind->number_of_place[place] - 1;
 }
 
 static bool is_empty(int place)
@@ -109,7 +129,7 @@ static int pattern_in(const char* text)
 static int pattern_of(int index)
 {
     const char* line = Snapshot.kind->tally(Snapshot.region, index);
-    if (!line)
+    if (!line || !Snapshot.kind->pattern_tail)
         return NO_PATTERN;
     Parts parts;
     if (SplitValue(parts, line, 5) >= 4)
@@ -144,13 +164,14 @@ static void show_key(int place)
 {
     Snapshot.key[place].pattern = is_empty(place) ? NO_PATTERN : pattern_of(index_of_place(place));
     print_caption(place);
-    BT_SetCaption(button_of_place[place], Snapshot.key[place].caption);
-    BT_SetDisable(button_of_place[place], is_empty(place) && !Snapshot.WipeStore_OnOff);
+    BT_SetCaption(Snapshot.kind->button_of_place[place], Snapshot.key[place].caption);
+    BT_SetDisable(Snapshot.kind->button_of_place[place],
+                  is_empty(place) && !Snapshot.WipeStore_OnOff);
 }
 
 static void show_keys()
 {
-    for (int place = 0; place < KEYS; place++)
+    for (int place = 0; place < Snapshot.kind->keys; place++)
         show_key(place);
 }
 
@@ -171,7 +192,7 @@ static void set_modes(int store, int del)
 static void end_highlight()
 {
     if (Snapshot.pressed >= 0)
-        BT_SetStatus(button_of_place[Snapshot.pressed], BT_OFF);
+        BT_SetStatus(Snapshot.kind->button_of_place[Snapshot.pressed], BT_OFF);
     Snapshot.pressed = -1;
 }
 
@@ -180,7 +201,7 @@ static void highlight(int place)
     end_highlight();
     Snapshot.pressed = place;
     Snapshot.pressed_ms = HIGHLIGHT_MS;
-    BT_SetStatus(button_of_place[place], BT_ON);
+    BT_SetStatus(Snapshot.kind->button_of_place[place], BT_ON);
 }
 
 static int snapshot_redraw(int elapsed_ms)
@@ -195,9 +216,22 @@ static int snapshot_redraw(int elapsed_ms)
 
 // --- Keys ---
 
-static unsigned region_bits()
+static bool is_of_key()
 {
-    return unsigned(DMEWipeSSRegion[size_t(Snapshot.region)].bitmap);
+    return Snapshot.kind == &key_kind;
+}
+
+static uint64_t region_bits()
+{
+    return is_of_key() ? KeySSRegion[size_t(Snapshot.region)].bitmap
+                       : DMEWipeSSRegion[size_t(Snapshot.region)].bitmap;
+}
+
+// A command of a bank's snapshots; those of keys go the way of the Snapshot menu.
+static void send(const char* verb, const char* rest)
+{
+    Net_SendCommandFormat("put %s%s#%x,%s", Snapshot.kind->commands, verb, unsigned(region_bits()),
+                          rest);
 }
 
 static void recall(int place)
@@ -205,8 +239,11 @@ static void recall(int place)
     if (is_empty(place))
         return;
     const int pattern = Snapshot.key[place].pattern;
-    Net_SendCommandFormat("put %sRecall#%x,%d", Snapshot.kind->commands, region_bits(),
-                          WIPEDME_BTN_TO_REG[place]);
+    const int number = index_of_place(place) + 1;
+    if (is_of_key())
+        RegisterCmd_Recall(register_kinds[REGKIND_KEYSS], region_bits(), number);
+    else
+        send("Recall", NumStr(number));
     if (pattern != NO_PATTERN)
         Net_SendCommandFormat("put %s#%d", Snapshot.PatternCmd, pattern);
     highlight(place);
@@ -215,8 +252,11 @@ static void recall(int place)
 static void store(int place)
 {
     if (!is_locked(place)) {
-        Net_SendCommandFormat("put %sStore#%x,%d", Snapshot.kind->commands, region_bits(),
-                              WIPEDME_BTN_TO_REG[place]);
+        const int number = index_of_place(place) + 1;
+        if (is_of_key())
+            RegisterCmd_Store(register_kinds[REGKIND_KEYSS], region_bits(), number);
+        else
+            send("Store", NumStr(number));
         highlight(place);
     }
     set_modes(0, 0);
@@ -226,16 +266,21 @@ static void delete_register(int place)
 {
     if (is_empty(place))
         return;
-    const int number = WIPEDME_BTN_TO_REG[place];
-    if (!is_locked(place))
-        Net_SendCommandFormat("put %sDelete#%x,%d,%d", Snapshot.kind->commands, region_bits(),
-                              number, number);
+    const int number = index_of_place(place) + 1;
+    char from_to[16];
+    PrintText(from_to, "%d,%d", number, number);
+    if (!is_locked(place)) {
+        if (is_of_key())
+            RegisterCmd_Delete(register_kinds[REGKIND_KEYSS], region_bits(), number, number);
+        else
+            send("Delete", from_to);
+    }
     set_modes(0, 0);
 }
 
 static void press_register(const char* value)
 {
-    const int place = Index(value, KEYS);
+    const int place = Index(value, Snapshot.kind->keys);
     // A mode ends with its command: a touch that chatters must not recall what it has stored.
     if (place < 0 || place == Snapshot.pressed)
         return;
@@ -279,7 +324,7 @@ static int snapshot_register(int kind, int region, int index)
 {
     if (kind != Snapshot.kind->registers || region != Snapshot.region)
         return 0;
-    for (int place = 0; place < KEYS; place++)
+    for (int place = 0; place < Snapshot.kind->keys; place++)
         if (index_of_place(place) == index)
             show_key(place);
     return 0;
@@ -288,15 +333,27 @@ static int snapshot_register(int kind, int region, int index)
 // The mirror is filled at the start; what it has not been told yet is asked for.
 static void ask_for_missing_lines()
 {
-    for (int index = 0; index < KEYS; index++)
+    const SSREGION& region = is_of_key() ? KeySSRegion[size_t(Snapshot.region)]
+                                         : DMEWipeSSRegion[size_t(Snapshot.region)];
+    char list[CMD_SIZE];
+    PrintText(list, Snapshot.kind->list, region.cmd);
+    for (int index = 0; index < Snapshot.kind->keys; index++)
         if (!Snapshot.kind->tally(Snapshot.region, index)) {
-            Net_SendCommandFormat("read %s%s@List", Snapshot.kind->commands,
-                                  DMEWipeSSRegion[size_t(Snapshot.region)].cmd);
+            Net_SendCommandFormat("read %s", list);
             return;
         }
 }
 
 // --- The pages ---
+
+// The key of the page in the order of the banks' regions.
+static int region_of_key()
+{
+    const MeBank* bank = Page_Bank();
+    const int key = int(GL_NowPage >> 20 & 0xF) - 1;
+    const int side = bank && MeBank_IsSub(*bank, GL_NowPage) ? REGION_KEYS / 2 : 0;
+    return bank ? bank->place * REGION_KEYS + side + key : 0;
+}
 
 static int snapshot_create(int on, const Kind* kind)
 {
@@ -305,12 +362,13 @@ static int snapshot_create(int on, const Kind* kind)
         return 1;
     Snapshot = {};
     Snapshot.kind = kind;
-    Snapshot.region = ME_SnapshotRegion();
+    Snapshot.region = is_of_key() ? region_of_key() : ME_SnapshotRegion();
     char bank[16];
     ME_BankWord(bank);
-    PrintText(Snapshot.PatternCmd, "%s@%s", bank, kind->pattern_tail);
-    for (const int id : button_of_place)
-        BT_SetStatus(id, BT_OFF);
+    if (kind->pattern_tail)
+        PrintText(Snapshot.PatternCmd, "%s@%s", bank, kind->pattern_tail);
+    for (int place = 0; place < kind->keys; place++)
+        BT_SetStatus(Snapshot.kind->button_of_place[place], BT_OFF);
     set_modes(0, 0);
     NB_SetTitle("Snapshot"); // no knobs; the page's own name is longer than the title
     ask_for_missing_lines();
@@ -330,6 +388,11 @@ static int pc_me_dmewipe_dmewipesnapshot_create(int on, uint32_t)
     return gone;
 }
 
+static int pc_me_key_snapshot_create(int on, uint32_t)
+{
+    return snapshot_create(on, &key_kind);
+}
+
 static int snapshot_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
     switch (msg) {
@@ -342,3 +405,4 @@ static int snapshot_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 
 const PC_TBL pc_me_wipe_wipess = {snapshot_proc, pc_me_wipe_wipess_create};
 const PC_TBL pc_me_dmewipe_dmewipesnapshot = {snapshot_proc, pc_me_dmewipe_dmewipesnapshot_create};
+const PC_TBL pc_me_key_snapshot = {snapshot_proc, pc_me_key_snapshot_create};

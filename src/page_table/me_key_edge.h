@@ -73,6 +73,7 @@ inline constexpr BT_TBL bt_me_key_edge[] = {
     Radio ({.id = 51, .caption = "Matte",        .group = "Edge Fill", .tally_func = bt_tly_edgeadj,
             .cmd = {"~@Edge Fill#Matte", NO_FILL("Normal,Outline")}, .nb = nb_me_key_edge_matte}),
     Jump  ({.id = 52, .caption = "Matte\nAdjust", .group = "Edge Fill", .cmd = {"#+11120001", "LOCAL@M/E@Key@Edge@Matte#false"}}),
+    Jump  ({.id = 54, .caption = "Key\nSnapshot", .group = "Register", .cmd = {"#+11110005"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_edge));

@@ -2,6 +2,7 @@
 #pragma once
 #include "me_banks.h"
 #include "me_key_matte.h"
+#include "me_snapshot.h"
 #include "pc_me.h"
 #include "pc_me_key.h"
 #include "st_me_key.h"
@@ -137,6 +138,7 @@ static_assert(ButtonsAreSound(bt_me_key_matte_adjust.row));
 inline constexpr BT_TBL bt_me_key_signal_select[] = {
     Radio({.id = 22, .caption = "Key\nFill",   .group = "Assign", .cmd = {"LOCAL@M/E@Key@Signal@Assign#Fill"}}),
     Radio({.id = 38, .caption = "Key\nSource", .group = "Assign", .cmd = {"LOCAL@M/E@Key@Signal@Assign#Source"}}),
+    Jump ({.id = 54, .caption = "Key\nSnapshot", .group = "Register", .cmd = {"#+11110005"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_me_key_signal_select));
@@ -163,6 +165,8 @@ inline constexpr MePage me_key_type_pages[] = {
               .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_signal_select), Lists(ls_me_key_signal_select), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_fillsource_new)}}},
     {.page = {.id = 0x11110004, .tree = {"M/E-1", "Key1", "Type", "Matte Adjust", "Mix Pattern"},
               .obj = {Base(base_sub, 0x11110002), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Boxes(NB_Non), Patterns(ps_me_key_matte_mixptn)}}},
+    {.page = {.id = 0x11110005, .tree = {"M/E-1", "Key1", "Type", "Key Snapshot"},
+              .obj = {Base(base_sub, 0x11110000), LeftTabs(vf_me1, 1), BottomTabs(hf_me_key, 1), Buttons(bt_me_key_snapshot), Boxes(NB_Non), Cells(st_me_key), Code(pc_me_key_snapshot)}}},
 };
 
 static_assert(ForBankAndKey(me_key_type_pages[1].page, me_banks[1], me_keys[1]).id == 0x12210000);

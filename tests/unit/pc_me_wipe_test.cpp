@@ -190,7 +190,9 @@ struct MeWipeSnapshot : MeWipe {
 
 TEST_F(MeWipeSnapshot, EachKeyRecallsItsRegisterAndPattern)
 {
-    const std::string wipe = "Snapshot@Wipe Snapshot@", dme = "Snapshot@DME Snapshot@";
+    const std::string wipe = "Snapshot@Wipe Snapshot@", dme = "Snapshot@DME Snapshot@",
+                      key = "Snapshot@Key Snapshot@Attribute@",
+                      recall_key = "Snapshot@Key Snapshot@Recall#";
     const struct {
         uint32_t page;
         std::string list, line;
@@ -217,6 +219,17 @@ TEST_F(MeWipeSnapshot, EachKeyRecallsItsRegisterAndPattern)
           "put PGM/PST SUB@DME Wipe@Pattern Select@Pattern#1011"}},
         {0x81670000, dme + "M/E-4@List", "1,SMALL,S,999", KEY_1, {"put " + dme + "Recall#10,1"}},
         {0x81670000, wipe + "M/E-4@List", "1,OTHER,S,67", KEY_1, {}},
+        // Those of a key stand in a row, the first where the bank's have 7.
+        {0x12410005,
+         key + "M/E-2@Key4@List",
+         "1,TITLE,S",
+         KEY_7,
+         {"put " + recall_key + "0000000000000800, 1"}},
+        {0x18110005,
+         key + "P/P@Key5@List",
+         "1,50,S",
+         KEY_7,
+         {"put " + recall_key + "0000100000000000, 1"}},
     };
     for (const auto& c : cases) {
         Register_Free();
