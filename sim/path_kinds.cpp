@@ -62,6 +62,9 @@ static constexpr PathKind kinds[] = {
     {"**@Modify@Crop Mode@Crop@*", "bool"},
     // The effects units.
     {"DME@Status@3D Param@*@*@*", "num -999.99 999.99 2"},
+    {"Engineering Setup@System@Install@Unit Config@Power@*", "word Single,Redundant"},
+    {"Engineering Setup@System@Install@Unit Config@Option@*", "bool"},
+    {"Engineering Setup@System@Install@Unit Config@Menu@*", "bool"},
     {"Aux/Mon@*@*@Auto Trans", "action"},
     {"Aux/Mon@*@*@Rate", "num 0 999 0"},
     {"Aux/Mon@*@*@Safe Area@*", PERCENT},
@@ -183,6 +186,8 @@ static constexpr PathStart starts[] = {
     {"Misc@Side Flags@Fill", "Black"},
     {"Misc@User@User", "1"},
     {"Misc@User@Knob Speed", "100"},
+    {"Engineering Setup@System@Install@Unit Config@Power@*", "Single"},
+    {"Engineering Setup@System@Install@Unit Config@Menu@*", "true"},
     {"Color Bkgd@*@Mode", "Flat"},
     {"CCR@*@Insert@Insert", "Input"},
     {"CCR@*@RGB Clip@Color Space", "YUV"},

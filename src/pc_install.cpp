@@ -352,6 +352,8 @@ static int install_list_touched(int list, int row)
     if (list == LIST_PACKAGES) {
         package_chosen(row);
     } else if (list == LIST_UNITS) {
+        if (row >= 0 && row < NewInstallMax)
+            CopyText(Page_InstallUnit, units[row].name); // whose Unit Config opens
         newinstall_refresh_list2();
         newinstall_execute_grayout();
     }

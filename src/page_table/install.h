@@ -16,6 +16,7 @@ enum : int {
 inline constexpr BT_TBL bt_install_top[] = {
     Jump(       {.id = 17, .caption = "New\nInstall", .group = "Package", .cmd = {"#73160010"}}),
     Jump(       {.id = 18, .caption = "Texture\nPackage", .group = "Package", .cmd = {"#73160005"}}),
+    Jump(       {.id = 20, .caption = "Unit\nConfig", .group = "Unit", .cmd = {"#73160008"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_install_top));
@@ -24,7 +25,7 @@ inline constexpr BT_TBL bt_newinstall[] = {
     Action(     {.id = BTN_INSTALL_REFRESH, .caption = "Refresh", .group = "Package", .cmd = {"LOCAL@New Install@Refresh"}}),
     ActionState({.id = BTN_INSTALL,         .caption = "Install", .group = "Package", .cmd = {"LOCAL@New Install@Install"}}),
     Jump(       {.id = 52, .caption = "Error\nList", .cmd = {"#99000000"}}),
-    Jump(       {.id = 54, .caption = "Unit\nConfig", .cmd = {"#73160000"}}),
+    Jump(       {.id = 54, .caption = "Unit\nConfig", .cmd = {"#73160008"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_newinstall));

@@ -51,9 +51,9 @@ TEST(PageTable, EveryPageHasItsBaseFirstAndASectionToGoBackTo)
 // in another type of switcher.
 static const PAGE* RowOfSome(uint32_t id)
 {
-    static const std::set<uint32_t> of_some = {0x32120000, 0x73260008, 0x73310015,
-                                               0x73330007, 0x73330008, 0x73440007,
-                                               0x73440008, 0x73440009, 0x73440010};
+    static const std::set<uint32_t> of_some = {0x32120000, 0x73160011, 0x73260008, 0x73310015,
+                                               0x73330007, 0x73330008, 0x73440007, 0x73440008,
+                                               0x73440009, 0x73440010};
     return of_some.contains(id) ? SearchPageTable_Free_ALL(PageTable, id) : SearchPageTable(id);
 }
 
