@@ -273,6 +273,24 @@ static void follow_key(int bank, const std::string& key, const std::string& tail
             Verb_Do(linked + tail, value);
 }
 
+// The transitions of keys that a panel has linked.
+static void follow_key_transition(int bank, const std::string& key)
+{
+    static bool is_following = false; // two keys may be linked to each other
+    if (is_following)
+        return;
+    is_following = true;
+    const Node* const links = Tree_Find("Engineering Setup@Panel@Config@Key Trans Link");
+    const std::string master = key_word(bank, key.back() - '0');
+    for (const std::string& row : links ? links->rows : Words()) {
+        const Words f = Text_Split(row, ',');
+        const std::string linked = f.size() > 3 && f[1] == master ? key_path(f[2]) : "";
+        if (!linked.empty() && f[3] == "true")
+            Verb_Do(linked + "@Transition@Auto Trans", "true");
+    }
+    is_following = false;
+}
+
 static void follow_bank(int bank, const std::string& tail, const char* mode,
                         const std::string& value)
 {
@@ -370,6 +388,9 @@ void SetupSwitcher_Follow(const std::string& path)
         const Words w = Text_Split(path, '@');
         follow_key(bank, w[1], "@Status@Key ON");
         drop_key4(bank);
+    } else if (Text_MatchesPath(path, "*@Key?@Transition@Auto Trans") ||
+               Text_MatchesPath(path, "*@DSK?@Transition@Auto Trans")) {
+        follow_key_transition(bank, Text_Split(path, '@')[1]);
     } else if (is_take) {
         if (std::string(banks[bank].menu) == "PGM/PST")
             drop_keys();

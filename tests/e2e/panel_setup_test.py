@@ -144,7 +144,16 @@ class PanelSetup(DeskCase):
         with open(os.path.join(self.desk.work, "sim.out"), encoding="latin-1") as file:
             self.assertIn("GPI output 3: test fire", file.read())
 
-    def test_7_the_touch_panel_is_calibrated(self):
+    def test_7_the_transition_of_a_key_takes_another_along(self):
+        self.desk.console(f"put {PANEL}Config@Key Trans Link#1,M/E-1 Key1,M/E-1 Key2,true")
+        self.desk.console(f"put {PANEL}Config@Key Trans Link#2,M/E-1 Key2,M/E-1 Key1,true")
+        before = [self.desk.value(f"M/E-1@Key{key}@Status@Key ON") for key in (1, 2, 3)]
+        self.desk.console("put M/E-1@Key1@Transition@Auto Trans#true")
+        time.sleep(3)
+        after = [self.desk.value(f"M/E-1@Key{key}@Status@Key ON") for key in (1, 2, 3)]
+        self.assertEqual([a != b for a, b in zip(after, before)], [True, True, False])
+
+    def test_8_the_touch_panel_is_calibrated(self):
         self.open("7327.1")
         self.desk.touch(70, 60)
         self.desk.touch(730, 540)
