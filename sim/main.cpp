@@ -14,6 +14,7 @@
 #include "log.h"
 #include "macro.h"
 #include "setup.h"
+#include "sp.h"
 #include "system.h"
 #include "text.h"
 #include "timeline.h"
@@ -115,7 +116,7 @@ static void main_turn(int64_t* next)
         std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
                   Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then), FileJob_Tick(then),
                   Hub_Tick(then), ClipOutput_Tick(then), Autoload_Tick(then), Setup_Tick(then),
-                  Macro_Tick(then), DeviceVtr_Tick(then)});
+                  Macro_Tick(then), DeviceVtr_Tick(then), Sp_Tick(then)});
 }
 
 int main(int argc, char** argv)

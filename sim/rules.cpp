@@ -410,6 +410,10 @@ static constexpr Rule rules[] = {
     // whole.
     {"CCR@*@Insert@Unity All", "true", act_default, "~2", ""},
     {"CCR@*@*@Unity", "true", act_default, "~3", ""},
+    {"SP@*@Unity All", "true", act_default, "~2@Video Process", ""},
+    {"SP@*@Unity All", "true", act_default, "~2@Color Correct", ""},
+    {"SP@*@Video Process@Unity", "true", act_default, "~3", ""},
+    {"SP@*@Color Correct@Unity", "true", act_default, "~3", ""},
     {"CCR@CCR1@Insert@Copy", "true", act_copy, "CCR@CCR2", "CCR@CCR1"},
     {"CCR@CCR2@Insert@Copy", "true", act_copy, "CCR@CCR1", "CCR@CCR2"},
     {"CCR@*@Insert@Swap", "true", act_swap, "CCR@CCR1", "CCR@CCR2"},

@@ -21,6 +21,7 @@
 #include "setup_panel_config.h"
 #include "setup_switcher_io.h"
 #include "setup_units.h"
+#include "sp.h"
 #include "store.h"
 #include "stream.h"
 #include "text.h"
@@ -291,6 +292,7 @@ void System_Install()
     Router_Install();
     DeviceVtr_Install();
     DeviceBus_Install();
+    Sp_Install();
     Setup_Install();
     SetupPanel_Install();
     SetupPanelConfig_Install();

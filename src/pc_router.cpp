@@ -120,7 +120,9 @@ static int level_tally(const char* path, const char* value)
 {
     constexpr char HEAD[] = "Router@Level@Level";
     const int n = BeginsWith(path, HEAD) ? IndexFrom1(path + strlen(HEAD), ROUTER_LEVELS_MAX) : -1;
-    if (n < 0)
+    char own[32]; // the path of that number has nothing else in it
+    PrintText(own, "%s%d", HEAD, n + 1);
+    if (n < 0 || !Same(own, path))
         return 0;
     lv.bits = (lv.bits & ~(1 << n)) | IsTrue(value) << n;
     show_levels();

@@ -57,6 +57,7 @@
 #include "setup_unit.h"
 #include "shotbox_pages.h"
 #include "snapshot_pages.h"
+#include "sp.h"
 #include "status.h"
 #include "system.h"
 #include "texture.h"
@@ -100,6 +101,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 global_effect_rows,
                 router_pages,
                 device_pages,
+                sp_pages,
                 machines_pages,
                 menu_macro_pages,
                 menu_macro_sub_pages,

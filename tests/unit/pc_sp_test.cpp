@@ -1,0 +1,73 @@
+// The levels of the signal processors: what a line of the server draws, and how long a peak stays.
+#include "table_page.h"
+#include "tdl.h"
+#include "tdl_fixture.h"
+
+namespace
+{
+constexpr uint32_t SOURCE = 0x52100000, METER = 0x52150000;
+constexpr int KEY_HOLD = 52, KEY_RESET = 53;
+constexpr int X1 = 220, X2 = 689, Y = 82; // the first bar of the first channel
+constexpr uint32_t LIT = 0x00DDD4, PEAK = 0xFFFFFF, OVER = 0xE48B1B;
+bool IsLit(int x, unsigned colour)
+{
+    return PixelsOf(Screen)[size_t(Y) * 800 + size_t(x)] == PixelOf(colour);
+}
+int At(int percent)
+{
+    return X1 + (X2 - X1) * percent / 109;
+}
+
+struct SpPage : TablePage {
+    void TearDown() override
+    {
+        (void)Leave();
+        TablePage::TearDown();
+    }
+};
+} // namespace
+
+TEST_F(SpPage, ALineDrawsItsBarsWithinTheScaleAndNothingElseDoes)
+{
+    const Lines opened = Open(METER);
+    EXPECT_EQ(Held(opened, "SP@SP8@Meter"), 1);
+    static const struct {
+        const char* line;
+        int lit; // percent
+        bool is_over;
+    } cases[] = {{"SP@SP1@Meter#50,0,0,0", 50, false}, {"SP@SP1@Meter#104,1,1,1", 100, true},
+                 {"SP@SP1@Meter#999", 100, true},      {"SP@SP1@Meter#-7,x", 0, false},
+                 {"SP@SP1@Meter#80", 80, false},       {"SP@SP9@Meter#10", 80, false},
+                 {"SP@SP1x@Meter#10", 80, false},      {"SP@SP0@Meter#10", 80, false},
+                 {"SP@SP1@Meters#10", 80, false}};
+    for (const auto& c : cases) {
+        (void)Tell(c.line);
+        Pass(1500);
+        EXPECT_EQ(IsLit(At(c.lit) - 2, LIT), c.lit > 0) << c.line;
+        EXPECT_EQ(IsLit(At(103), OVER), c.is_over) << c.line;
+        EXPECT_EQ(IsLit(At(c.lit) + 3, LIT), false) << c.line;
+    }
+    EXPECT_EQ(Held(Leave(), "SP@SP8@Meter"), -1);
+}
+
+TEST_F(SpPage, APeakFallsAfterAWhileUnlessItIsHeld)
+{
+    (void)Open(METER);
+    for (const bool is_held : {true, false}) {
+        (void)Press(KEY_HOLD);
+        if (!is_held)
+            (void)Press(KEY_HOLD); // off again
+        Pass(200);
+        EXPECT_EQ(BT_GetStatus(KEY_HOLD) == BT_ON, is_held);
+        TellAll("SP@SP1@Meter#", {"90", "20"});
+        Pass(1400);
+        EXPECT_TRUE(IsLit(At(90), PEAK));
+        Pass(200);
+        EXPECT_EQ(IsLit(At(90), PEAK), is_held);
+        (void)Press(KEY_RESET);
+        Pass(200);
+        EXPECT_FALSE(IsLit(At(90), PEAK));
+        if (is_held)
+            (void)Press(KEY_HOLD);
+    }
+}
