@@ -199,6 +199,11 @@ const char* OneOf_Signal(int row)
     return row >= 0 && row < signals.count ? signals.row[row].name : "";
 }
 
+void OneOf_SignalsChanged(const ONEOF& t)
+{
+    fill_signals(t);
+}
+
 // --- Messages ---
 
 static const char* shown_as(const ONEOFWORD* words, const char* value)

@@ -57,6 +57,7 @@ void OneOf_Choose(const ONEOF& t, int row);                  // out of range: no
 // What a touch on that row of the list of signals sends; "" where it has none. Number 0 to
 // BUS_XPT_SRC - 1; signal_name answers null or "" for one that is not there.
 const char* OneOf_Signal(int row);
+void OneOf_SignalsChanged(const ONEOF& t); // signal_name answers otherwise now
 
 // Page code for a page that is no more than that.
 template <const ONEOF& table> int OneOf_CreateOf(int on, uint32_t)

@@ -38,6 +38,7 @@ static ONEOFSTATE salvos;
 
 static struct {
     char name[ROUTER_DESTINATIONS][NAME_SIZE]; // copies: the setup may replace its own
+    bool is_named = true;                      // what the lists show is what the setup says
     bool is_marked = true;                     // what the list marks is up to date
 } rt;                                          // while a page of destinations stands
 
@@ -75,6 +76,26 @@ static void show_names()
         CopyText(rt.name[row], name ? name : "");
         LS_SetData(LIST, row, COL_NAME + 1, rt.name[row]);
     }
+}
+
+// Names come one by one: the lists wait for the pass.
+static int name_tally(const char* path)
+{
+    if (!BeginsWith(path, "Engineering Setup@Panel@Config@External Bus Link@S-BUS "))
+        return 0;
+    rt.is_named = false;
+    return 1;
+}
+
+static void show_new_names(const ONEOF& t)
+{
+    if (rt.is_named)
+        return;
+    rt.is_named = true;
+    rt.is_marked = false;
+    OneOf_SignalsChanged(t);
+    show_names();
+    LS_RedrawData(LIST);
 }
 
 // --- Which destinations may be changed ---
@@ -223,6 +244,10 @@ static int destination_create(int on, uint32_t)
 static int destination_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     const bool is_source = msg == LMSG_LISTSEL && int(ax) == SOURCES;
+    if (msg == MSG_TALLY && name_tally(Text(ax)))
+        return 0;
+    if (msg == MSG_REDRAW)
+        show_new_names(by_destination);
     if (is_source && is_refused(by_destination, destinations.cursor))
         return 0;
     if (!take_proc(by_destination, msg, ax, bx))
@@ -290,7 +315,11 @@ static int source_list_touched(int list, int row)
 static int source_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: return mark_destinations();
+    case MSG_REDRAW: show_new_names(by_source); return mark_destinations();
+    case MSG_TALLY:
+        if (name_tally(Text(ax)))
+            return 0;
+        break;
     case LMSG_LISTSEL: return source_list_touched(int(ax), int(bx));
     default: break;
     }

@@ -53,13 +53,13 @@ constexpr LS_TBL RouterList(LS_TBL row, int lines = 11)
     return row;
 }
 inline constexpr LS_TBL ls_router_destination[] = {
-    RouterList({.id = 1, .hn = 5, .x = 100, .head = {"Dest", "Name", "Level 1", "Preset", "Lock"}, .width = {64, 72, 72, 72, 38}}),
-    RouterList({.id = 2, .hn = 3, .x = 478, .head = {"No", "Source", ""}, .width = {36, 104, 28}}),
+    RouterList({.id = 1, .hn = 5, .x = 100, .head = {"Dest", "Name", "Level 1", "Preset", "Lock"}, .width = {58, 88, 74, 74, 38}}),
+    RouterList({.id = 2, .hn = 3, .x = 492, .head = {"No", "Source", ""}, .width = {34, 96, 24}}),
     LS_END,
 };
 inline constexpr LS_TBL ls_router_source[] = {
-    RouterList({.id = 2, .hn = 3, .x = 100, .head = {"No", "Source", ""}, .width = {36, 104, 28}}),
-    RouterList({.id = 1, .hn = 6, .x = 322, .head = {"Dest", "Name", "Level 1", "Preset", "Lock", ""}, .width = {62, 66, 66, 66, 36, 24}}),
+    RouterList({.id = 2, .hn = 3, .x = 100, .head = {"No", "Source", ""}, .width = {32, 88, 22}}),
+    RouterList({.id = 1, .hn = 6, .x = 296, .head = {"Dest", "Name", "Level 1", "Preset", "Lock", ""}, .width = {58, 84, 72, 72, 38, 22}}),
     LS_END,
 };
 inline constexpr LS_TBL ls_router_level[] = {

@@ -45,6 +45,12 @@ TEST_F(RouterPage, ASourceIsThePresetOfTheChosenDestinationUnlessItIsNotOursToCh
 {
     (void)Open(DESTINATION);
     EXPECT_STREQ(LS_GetData(1, 2, 1), "DST 3");
+    Names("NEW ", "OLD ");
+    Pass(10);
+    EXPECT_STREQ(LS_GetData(1, 2, 1), "OLD 3");
+    EXPECT_STREQ(LS_GetData(2, 3, 1), "NEW 4");
+    Names("SRC ", "DST ");
+    Pass(10);
     (void)Choose(1, 2);
     EXPECT_THAT(Choose(2, 1), testing::ElementsAre("put " + DEST + "Dest3@Preset#SRC 2"));
     static const struct {
