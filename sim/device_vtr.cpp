@@ -40,7 +40,7 @@ static constexpr Transport transports[] = {
     {"Stop", 0},     {"Play", 1},    {"Record", 1}, {"Rewind", -20}, {"F Fwd", 20},
     {"Variable", 0}, {"Shuttle", 0}, {"Jog", 0},    {"Cue Up", 0},   {"Recue", 0},
 };
-// Values that are time code texts.
+// Values that are put as time code texts and told as frames.
 static constexpr const char* points[] = {"Start TC", "Stop TC",           "Recue TC",
                                          "Position", "Timeline@Start TC", "Timeline@Stop TC"};
 
@@ -122,7 +122,7 @@ static void show_place(int n)
         Tree_Show(path_of(n, "Time Code"), text);
     else if (Node* node = Tree_Get(path_of(n, "Time Code")))
         node->value = text;
-    Tree_Show(path_of(n, "Position"), text);
+    Tree_Show(path_of(n, "Position"), std::to_string(int(dv.machine[n].frame)));
 }
 
 static void show_state(int n, const std::string& word)
@@ -158,7 +158,7 @@ static void move(int n, const std::string& word)
         if (word == "Cue Up" || word == "Recue")
             return cue(n, point_of(n, word == "Recue" ? "Recue TC" : "Start TC"));
         if (word == "Play")
-            Tree_Show(path_of(n, "Recue TC"), timecode(int(dv.machine[n].frame)));
+            Tree_Show(path_of(n, "Recue TC"), std::to_string(int(dv.machine[n].frame)));
         dv.machine[n].cued_ms = -1;
         dv.machine[n].speed = speed_of(n, t);
         return show_state(n, word);
@@ -243,8 +243,8 @@ static void load(int n, const std::string& file)
     if (value_of(path_of(n, "Type")) != "DDR" || (!file.empty() && !is_there))
         return;
     Tree_Show(path_of(n, "File"), file);
-    Tree_Show(path_of(n, "Start TC"), timecode(0));
-    Tree_Show(path_of(n, "Stop TC"), timecode(file.empty() ? 0 : length_of(n) - 1));
+    Tree_Show(path_of(n, "Start TC"), "0");
+    Tree_Show(path_of(n, "Stop TC"), std::to_string(file.empty() ? 0 : length_of(n) - 1));
     stop(n, 0);
 }
 
@@ -266,9 +266,9 @@ static bool put_machine(int n, const std::string& what, const std::string& value
     else if (what == "Recue" && is_ours)
         move(n, what);
     else if (Text_Matches(what, "*Set ?*") && !point.empty())
-        Tree_Show(path_of(n, point), timecode(int(dv.machine[n].frame)));
+        Tree_Show(path_of(n, point), std::to_string(int(dv.machine[n].frame)));
     else if (Text_Begins(what, "Set "))
-        Tree_Show(path_of(n, what.substr(4) + " TC"), timecode(int(dv.machine[n].frame)));
+        Tree_Show(path_of(n, what.substr(4) + " TC"), std::to_string(int(dv.machine[n].frame)));
     else
         return what == "Time Code";
     return what == "Transport" || what == "File";
@@ -283,7 +283,7 @@ static bool put_point(int n, const std::string& what, const std::string& value)
         m.frame = std::clamp(frames, 0, length_of(n) - 1);
         show_place(n);
     } else if (what != "Position" && frames >= 0) {
-        Tree_Show(path_of(n, what), timecode(frames));
+        Tree_Show(path_of(n, what), std::to_string(frames));
     }
     return true;
 }
@@ -318,7 +318,7 @@ bool DeviceVtr_Turn(const std::string& path, int detents)
     const std::string what = path.substr(path_of(n, "").size());
     for (const char* p : points)
         if (what == p)
-            return put_point(n, what, timecode(std::max(point_of(n, p) + detents, 0)));
+            return put_point(n, what, std::to_string(std::max(point_of(n, p) + detents, 0)));
     return false;
 }
 
@@ -373,7 +373,7 @@ void DeviceVtr_Install()
         Tree_Preset(path_of(n, "Time Code"), timecode(0));
         for (const char* p : points) {
             Tree_SetKind(path_of(n, p), KIND_ANY);
-            Tree_Preset(path_of(n, p), timecode(0));
+            Tree_Preset(path_of(n, p), "0");
         }
     }
 }

@@ -9,6 +9,7 @@
 #include "page.h"
 #include "tally_value.h"
 #include "text.h"
+#include "timecode.h"
 #include <cstring>
 #include "safeguards.h"
 
@@ -221,7 +222,8 @@ static int tally(const ONEOF& t, const char* path, const char* value)
         if (row < 0)
             continue;
         char text[ONEOF_TEXT];
-        CopyText(text, shown_as(t.columns[n].words, value));
+        CopyText(text, t.columns[n].is_timecode ? Frame2TC_SWR(Decimal(value), 4, 0)
+                                                : shown_as(t.columns[n].words, value));
         if (Same(text, t.state->cell[row][n]))
             return 1;
         CopyText(t.state->cell[row][n], text);

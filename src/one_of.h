@@ -23,6 +23,7 @@ extern const ONEOFWORD one_of_switch[]; // a dot while it is on
 struct ONEOFCOLUMN {
     const char* path = nullptr; // "$" is the row's name; null: page code fills the cells
     const ONEOFWORD* words = nullptr;
+    int is_timecode = 0; // a count of frames, shown at the switcher's rate
 };
 
 // Outlives the page: the operator comes back to the row that he left.

@@ -100,8 +100,8 @@ static constexpr ONEOF table_of(ONEOFSTATE* state, int (*names)(const char**, in
 static constexpr ONEOFWORD type_words[] = {{"Extended VTR", "Ext VTR"}, {}};
 
 static constexpr ONEOFCOLUMN timeline_columns[] = {{DEVICE_PATH "Timeline@Action"},
-                                                   {DEVICE_PATH "Timeline@Start TC"},
-                                                   {DEVICE_PATH "Timeline@Stop TC"},
+                                                   {DEVICE_PATH "Timeline@Start TC", nullptr, 1},
+                                                   {DEVICE_PATH "Timeline@Stop TC", nullptr, 1},
                                                    {DEVICE_PATH "Timeline@Rewind Action"}};
 static constexpr ONEOF timeline = table_of(&devices, device_names, timeline_columns);
 static constexpr View timeline_view = {&timeline, "Device@DDR/VTR@Timeline@Tally Back"};

@@ -73,7 +73,7 @@ class Machines(DeskCase):
         self.touch(BTN_LOAD_CUE)
         self.wait_value(DEVICE + "File", "BREAK BUMPER")
         self.wait_value(DEVICE + "Transport", "Cue Up")
-        self.assertEqual(self.desk.value(DEVICE + "Stop TC"), "00:00:03:29")
+        self.assertEqual(self.desk.value(DEVICE + "Stop TC"), "119")
         self.open_page("5321.0000", "put Device@DDR/VTR@Cueup&Play@Tally Back#true")
         picture = self.desk.part(364, 78, 697, 158)
         self.touch(BTN_PLAY)
@@ -83,7 +83,7 @@ class Machines(DeskCase):
         self.assertGreater(self.seconds(), first + 0.5)
         self.assertNotEqual(self.desk.part(364, 78, 697, 158), picture, "the time code counts")
         self.wait_value(DEVICE + "Transport", "Stop", 9)
-        self.assertEqual(self.desk.value(DEVICE + "Position"), "00:00:03:29")
+        self.assertEqual(self.desk.value(DEVICE + "Position"), "119")
 
 
 if __name__ == "__main__":
