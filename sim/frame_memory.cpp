@@ -41,6 +41,18 @@ static struct {
     std::map<std::pair<int, int>, unsigned> told;
 } fm;
 
+// The external drive: what it holds, and the work under way, in steps.
+static struct {
+    std::vector<Frame> frames[FRAME_STORES];
+    std::string folders[FOLDERS];
+    bool is_load = false;
+    int step = 0;
+    int64_t next_ms = INT64_MAX; // of its next step: none
+} hdd;
+static const std::string HDD = "16@Frame Mem@External HDD@";
+static constexpr int HDD_STEPS = 20;
+static constexpr int HDD_STEP_MS = 200;
+
 // --- Names ---
 
 bool FrameMemory_Parse(const std::string& file_name, FrameRef* ref)
@@ -394,6 +406,54 @@ static void put_store(const std::string& value)
         (void)FrameMemory_Draw(int(number), value.substr(comma + 1)); // false: no such register
 }
 
+static void show_all();
+
+// --- The external drive ---
+
+static void hdd_copy()
+{
+    for (int i = 0; i < FRAME_STORES; ++i)
+        (hdd.is_load ? fm.frames[i] : hdd.frames[i]) = hdd.is_load ? hdd.frames[i] : fm.frames[i];
+    for (int i = 0; i < FOLDERS; ++i)
+        (hdd.is_load ? fm.folders[i] : hdd.folders[i]) =
+            hdd.is_load ? hdd.folders[i] : fm.folders[i];
+    if (hdd.is_load)
+        show_all();
+}
+
+static void hdd_end()
+{
+    hdd.next_ms = INT64_MAX;
+    Tree_Show(HDD + "Busy", "false");
+}
+
+static bool put_hdd(const std::string& word)
+{
+    const bool is_running = hdd.next_ms != INT64_MAX;
+    if (word == "Cancel" && is_running)
+        hdd_end();
+    if (is_running || (word != "Save" && word != "Load"))
+        return word == "Save" || word == "Load" || word == "Cancel";
+    hdd.is_load = word == "Load";
+    hdd.step = 0;
+    hdd.next_ms = 0;
+    Tree_Show(HDD + "Busy", "true");
+    return true;
+}
+
+int64_t FrameMemory_Tick(int64_t now)
+{
+    if (hdd.next_ms > now)
+        return hdd.next_ms;
+    hdd.next_ms = now + HDD_STEP_MS;
+    Tree_Show(HDD + "Progress", std::to_string(++hdd.step * 100 / HDD_STEPS));
+    if (hdd.step == HDD_STEPS) {
+        hdd_copy();
+        hdd_end();
+    }
+    return hdd.next_ms;
+}
+
 bool FrameMemory_Put(int client, const std::string& path, const std::string& value)
 {
     const bool has_unit = Text_Begins(path, "16@") || Text_Begins(path, "32@");
@@ -402,6 +462,8 @@ bool FrameMemory_Put(int client, const std::string& path, const std::string& val
         return false;
     if (Text_Begins(path, "32@"))
         return false; // the second switcher has no frame memory
+    if (Text_Begins(path, HDD))
+        return put_hdd(path.substr(HDD.size()));
     if (command == "Frame Mem@Status@File Name Sense")
         put_name_sense(client, value);
     else if (command == MOVE_STILL)
@@ -505,6 +567,7 @@ static const struct {
 void FrameMemory_Install()
 {
     fm = {};
+    hdd = {};
     fm.frames[FRAME_MAIN].resize(CAPACITY);
     fm.folders[0] = "Default";
     fm.folders[1] = "Graphics";
@@ -521,6 +584,7 @@ void FrameMemory_Install()
             Tree_Preset(STATUS + "Register Status@" + number, bank_status(FrameStore(store), bank));
             Tree_Preset(STATUS + "Folder Status@" + number, bank_folders(FrameStore(store), bank));
         }
+    Tree_Preset(HDD + "Progress", "0");
     Tree_Preset(STATUS + "Max Register", std::to_string(CAPACITY));
     Tree_Preset(STATUS + "Folder Name Sense", folder_names());
     Tree_Preset("Frame Mem@Status@Extended Capacity", "0");

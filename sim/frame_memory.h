@@ -2,6 +2,7 @@
 // what panels hear of them. A picture is drawn when somebody fetches it, unless one was stored.
 // Transfers belong to frame_command.
 #pragma once
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,7 @@ constexpr int FRAME_REGISTERS = 5662; // in a store, at most
 void FrameMemory_Install();
 // A panel's put below "Frame Mem@" that is a command. False: a value like others.
 bool FrameMemory_Put(int client, const std::string& path, const std::string& value);
+int64_t FrameMemory_Tick(int64_t now); // returns the time of the next step of the external drive
 
 bool FrameMemory_Parse(const std::string& file_name, FrameRef* ref);
 // The file of a register as it was stored or drawn now; false: the register is empty.

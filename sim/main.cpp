@@ -8,6 +8,7 @@
 #include "drive.h"
 #include "fault.h"
 #include "file_job.h"
+#include "frame_memory.h"
 #include "hub.h"
 #include "lay.h"
 #include "link.h"
@@ -116,7 +117,7 @@ static void main_turn(int64_t* next)
         std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
                   Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then), FileJob_Tick(then),
                   Hub_Tick(then), ClipOutput_Tick(then), Autoload_Tick(then), Setup_Tick(then),
-                  Macro_Tick(then), DeviceVtr_Tick(then), Sp_Tick(then)});
+                  FrameMemory_Tick(then), Macro_Tick(then), DeviceVtr_Tick(then), Sp_Tick(then)});
 }
 
 int main(int argc, char** argv)

@@ -365,13 +365,13 @@ TallyRoute tally_dme_model(const Tally& t)
 
 constexpr int FRAMEMEM_REGIONS =
     23; // the region group whose reference the frame memory pages work on
-constexpr int REGION_ID_SWITCHER = 896; // of this panel's first switcher, the next ones follow
 
 // arg: the switcher of this panel, from 0.
 TallyRoute tally_hdd_busy(const Tally& t)
 {
     if (PaneRegion_GetRef(FRAMEMEM_REGIONS) == REGION_ID_SWITCHER + t.arg)
         BA_SetHDDAccess(IsTrue(t.value));
+    BkgdHDDTransfer_Busy(t.arg, IsTrue(t.value));
     return TallyRoute::Pass;
 }
 

@@ -317,6 +317,13 @@ int BkgdHDDTransfer_Check(uint32_t page);
 int BkgdHDDTransfer_Set(uint32_t page, int v);
 void BkgdHDDTransfer_SetPaneID(int pane);
 void BkgdHDDTransfer_PaneQuit();
+// It begins on a switcher of this panel, from 0, and ends when the drive of that one, which has
+// been busy, is so no more: its pane then closes.
+void BkgdHDDTransfer_Begin(int switcher);
+int BkgdHDDTransfer_Switcher();
+void BkgdHDDTransfer_Busy(int switcher, bool is_busy); // for the bus
+// The drive is still not busy some seconds after it began; for the page, each pass.
+bool BkgdHDDTransfer_IsUnanswered(int elapsed_ms);
 
 // --- For the bus ---
 int FileProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx); // returns 0

@@ -23,6 +23,7 @@ static constexpr uint32_t bkgd_pages[] = {
 static constexpr uint32_t SUB_PAGE = 0x0000FF00; // of no importance here
 static constexpr uint32_t BKGD_ALL = 4095; // without the last, which has a transfer of its own
 static constexpr uint32_t HDD_PAGE = 0x25620000;
+static constexpr int HDD_ANSWER_MS = 5000;
 static_assert(std::size(bkgd_pages) == 13);
 
 static struct {
@@ -30,6 +31,9 @@ static struct {
     int pane = 0;       // closed or open; the jobs that hold it are known by it
     int restore_in = 0; // redraws until it comes back, 0: it doesn't
     bool is_hdd = false;
+    bool is_hdd_busy = false; // the drive has begun
+    int hdd_switcher = 0;
+    int hdd_wait_ms = 0; // left for it to begin
     int hdd_pane = 0;
 } bkgd;
 
@@ -122,6 +126,7 @@ int BkgdHDDTransfer_Set(uint32_t page, int v)
     if (v < 0 || v > 1 || (page != 0 && page != HDD_PAGE))
         return -1;
     bkgd.is_hdd = v != 0;
+    bkgd.is_hdd_busy = false;
     return 0;
 }
 
@@ -134,6 +139,39 @@ void BkgdHDDTransfer_PaneQuit()
 {
     if (bkgd.hdd_pane != 0)
         (void)Pane_Quit(bkgd.hdd_pane);
+}
+
+void BkgdHDDTransfer_Begin(int switcher)
+{
+    (void)BkgdHDDTransfer_Set(HDD_PAGE, 1);
+    bkgd.hdd_switcher = switcher;
+    bkgd.hdd_wait_ms = HDD_ANSWER_MS;
+}
+
+int BkgdHDDTransfer_Switcher()
+{
+    return bkgd.hdd_switcher;
+}
+
+void BkgdHDDTransfer_Busy(int switcher, bool is_busy)
+{
+    if (!bkgd.is_hdd || switcher != bkgd.hdd_switcher)
+        return;
+    const bool has_ended = bkgd.is_hdd_busy && !is_busy;
+    bkgd.is_hdd_busy = is_busy;
+    if (!has_ended)
+        return;
+    (void)BkgdHDDTransfer_Set(HDD_PAGE, 0);
+    bkgd.hdd_pane = 0;
+    (void)PaneProgress_HDD_RestoreQuit(); // -1: the operator is elsewhere
+}
+
+bool BkgdHDDTransfer_IsUnanswered(int elapsed_ms)
+{
+    if (!bkgd.is_hdd || bkgd.is_hdd_busy)
+        return false;
+    bkgd.hdd_wait_ms -= elapsed_ms;
+    return bkgd.hdd_wait_ms <= 0;
 }
 
 void file_pane_reset()

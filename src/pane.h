@@ -98,7 +98,8 @@ int PaneProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 // --- Regions: grp is a group number 0..46, main a row of its region area, sub one of the row's
 // regions --- Everything answers for an unknown group or place, too: 0, -1 where said, or "".
 constexpr int REGION_GROUPS = 47;
-int PaneRegion_InitID(int grp); // the cells of the units that exist; -1 unknown group
+constexpr int REGION_ID_SWITCHER = 896; // of this panel's first switcher, the next ones follow
+int PaneRegion_InitID(int grp);         // the cells of the units that exist; -1 unknown group
 int PaneRegion_Create(
     int grp,
     int single); // result: single: the region's id; otherwise 1 for "Enter". 0: left

@@ -300,9 +300,9 @@ struct REGIONBTN {
 extern const REGIONBTN RegionBtn[REGION_GROUPS];
 
 enum : int {
-    REGION_ID_SWR = 896,            // three ids a switcher in the setup groups, one elsewhere
-    REGION_ID_DME = 1152,           // one a unit
-    REGION_ID_LAST_SWR_UNIT = 1295, // of the copy groups; DMEs are above
+    REGION_ID_SWR = REGION_ID_SWITCHER, // three ids a switcher in the setup groups, one elsewhere
+    REGION_ID_DME = 1152,               // one a unit
+    REGION_ID_LAST_SWR_UNIT = 1295,     // of the copy groups; DMEs are above
     REGION_SWR_MAX = 2,
     REGION_DME_MAX = 8,
 };

@@ -43,7 +43,7 @@ static int bkgd_redraw()
 {
     if (bk.tell_in > 0 && --bk.tell_in == 0 && is_transfer())
         (void)PaneMessage_Create("File", PANE_ALERT, FILE_INHIBITED);
-    return 0;
+    return bkgd_make_way(); // nobody tells when the external drive has ended
 }
 
 static int pc_file_bkgdfiletransfer_proc(int msg, MsgArg, MsgArg, MsgArg, MsgArg)

@@ -22,6 +22,8 @@ enum : int { // buttons that page code names
     BTN_FMEM1_STORE1 = 14,
     BTN_FMEM1_STORE2 = 15,
     BTN_FMEM1_AUTO_STORE = 16,
+    BTN_FMEM1_HDD_SAVE = 21, // 17 to 20 are the freezes
+    BTN_FMEM1_HDD_LOAD = 22,
 };
 
 // Below the lists, column from 0.
@@ -85,6 +87,11 @@ inline constexpr BT_TBL bt_fmem1_freeze[] = {
     BT_END,
 };
 #undef FMEM1_FREEZE
+inline constexpr BT_TBL bt_fmem1_hdd[] = {
+    Fmem1Key(BT_ACTION, 0, {.id = BTN_FMEM1_HDD_SAVE, .caption = "Save", .group = "External HDD", .cmd = FMEM1("External HDD@Save")}),
+    Fmem1Key(BT_ACTION, 1, {.id = BTN_FMEM1_HDD_LOAD, .caption = "Load", .group = "External HDD", .cmd = FMEM1("External HDD@Load")}),
+    BT_END,
+};
 #undef FMEM1_FILE
 #undef FMEM1_RECALL
 #undef FMEM1_FOLDER
@@ -94,6 +101,7 @@ static_assert(ButtonsAreSound(bt_fmem1_clip));
 static_assert(ButtonsAreSound(bt_fmem1_still_file));
 static_assert(ButtonsAreSound(bt_fmem1_clip_file));
 static_assert(ButtonsAreSound(bt_fmem1_freeze));
+static_assert(ButtonsAreSound(bt_fmem1_hdd));
 
 inline constexpr LS_TBL ls_fmem1[] = {
     {.id = FMEM1_LIST, .hn = 5, .vn = 11, .x = 100, .y = 124, .head = {"No", "Name", "Main", "Sub", "Anc"},
@@ -106,6 +114,7 @@ inline constexpr VF_TBL vf_fmem1[] = {
     {.id = 1, .caption = "Still", .page = 0x25110000},
     {.id = 2, .caption = "Clip", .page = 0x25210000},
     {.id = 3, .caption = "Freeze\nStore", .page = 0x25310000},
+    {.id = 4, .caption = "External\nHDD", .page = 0x25620000},
     VF_END,
 };
 inline constexpr HF_TBL hf_fmem1_still[] = {
@@ -124,7 +133,13 @@ inline constexpr HF_TBL hf_fmem1_freeze[] = {
     HF_END,
 };
 
+inline constexpr HF_TBL hf_fmem1_hdd[] = {
+    {.id = 1, .caption = "Save/\nLoad", .page = 0x25620000},
+    HF_END,
+};
+
 extern const PC_TBL pc_fmem1; // pc_fmem1_page.cpp; its argument is a FMEM1KIND
+extern const PC_TBL pc_fmem1_hdd; // pc_fmem1_hdd.cpp
 
 constexpr PAGE Fmem1Page(uint32_t id, const char* group, const char* word, uint32_t left, const HF_TBL* bottom, uint32_t tab,
                          const BT_TBL* buttons, FMEM1KIND kind)
@@ -142,4 +157,6 @@ inline constexpr PAGE fmem_store_pages[] = {
     Fmem1Page(0x25210000, "Clip", "Recall", 2, hf_fmem1_clip, 1, bt_fmem1_clip, FMEM1_CLIP),
     Fmem1Page(0x25220000, "Clip", "File", 2, hf_fmem1_clip, 2, bt_fmem1_clip_file, FMEM1_CLIP),
     Fmem1Page(0x25310000, "Freeze/Store", nullptr, 3, hf_fmem1_freeze, 1, bt_fmem1_freeze, FMEM1_STILL),
+    {.id = 0x25620000, .tree = {"Frame Memory", "External HDD"},
+     .obj = {Base(base_file_main), LeftTabs(vf_fmem1, 4), BottomTabs(hf_fmem1_hdd, 1), Buttons(bt_fmem1_hdd), Code(pc_fmem1_hdd)}},
 };

@@ -198,3 +198,51 @@ TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
     EXPECT_THAT(Tell(freeze + "false"), IsEmpty());
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty());
 }
+
+TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
+{
+    constexpr uint32_t HDD = 0x25620000;
+    const std::string PATH = "16@Frame Mem@External HDD@";
+    const auto answer = [](int result) {
+        const int pane = Pane_GetActiveID();
+        ASSERT_NE(pane, 0);
+        (void)Pane_Quit(pane);
+        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
+    };
+    Open(HDD);
+    EXPECT_THAT(PressLater(BTN_FMEM1_HDD_LOAD), IsEmpty());
+    answer(2); // "No"
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
+    (void)PressLater(BTN_FMEM1_HDD_SAVE);
+    (void)TakeQueuedCommands();
+    answer(1);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + PATH + "Save#true"));
+    Tell(PATH + "Busy#true");
+    Tell("32@Frame Mem@External HDD@Busy#false"); // another one's
+    BkgdHDDTransfer_PaneQuit();
+    Open(STILLS); // the top of its tab, which says why
+    EXPECT_TRUE(Page && Page->id == 0x25100000);
+    answer(0);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    Open(HDD); // the pane is back
+    EXPECT_NE(Pane_GetActiveID(), 0);
+    Tell(PATH + "Busy#false");
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
+
+    (void)PressLater(BTN_FMEM1_HDD_LOAD);
+    answer(1);
+    Pass(4000);
+    (void)TakeQueuedCommands();
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
+    Pass(2000); // nobody has begun
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
+    EXPECT_NE(Pane_GetActiveID(), 0); // says so
+    answer(0);
+    (void)PressLater(BTN_FMEM1_HDD_LOAD);
+    answer(1);
+    (void)TakeQueuedCommands();
+    answer(1); // "Cancel"
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + PATH + "Cancel#true"));
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
+}
