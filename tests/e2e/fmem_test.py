@@ -142,6 +142,63 @@ class ClipStore(DeskCase):
         moved = [line for line in self.hub() if "Move root/img0000.SFH" in line]
         self.assertTrue(self.has(moved[-1].split("root/")[-1][:-4]), moved)
 
+    def test_6_a_video_and_a_key_become_a_pair_and_two_clips_again(self):
+        self.desk.console("clip make A 10")
+        self.desk.console("clip make B 10")
+        self.show("2123")
+        self.cell(SOURCE, 2)
+        self.cell(TARGET, 3)
+        self.touch(562)
+        self.wait_hub("Execute#CS1.ClipStoreFile:Couple root/A.SFH root/B.SFH")
+        self.wait_for(lambda: not self.has("B"))
+        time.sleep(1.0)  # its progress has gone
+        self.touch(652)
+        self.wait_hub("Execute#CS1.ClipStoreFile:Separate root/A.SFH")
+        self.wait_for(lambda: self.has("A_K"))
+        time.sleep(0.6)
+
+    def test_7_a_tree_with_a_playing_clip_is_deleted_when_it_has_stopped(self):
+        self.show("2111")
+        self.cell(BESIDE, 1)
+        self.cell(BESIDE, 1)  # NEWS
+        self.cell(BESIDE, 2)
+        self.touch(466)
+        self.wait_for(lambda: self.status() == "2,/NEWS/OPENING.SFH")
+        self.show("2113")
+        self.touch(384, 370)
+        self.wait_for(lambda: self.play()[0] == 1)
+        self.show("2122")
+        self.cell(WIDE, 1)
+        self.touch(612)
+        self.touch(*YES)
+        self.touch(400, 402)  # it plays
+        self.assertTrue(self.has("NEWS/OPENING"))
+        self.show("2113")
+        self.touch(476, 370)
+        self.show("2122")
+        self.touch(612)
+        self.touch(*YES)
+        self.touch(*YES)  # it is in use
+        self.wait_hub("Execute#CS1.ClipStoreFolder:DeleteFolder root/NEWS", 10)
+        self.wait_for(lambda: not os.path.exists(os.path.join(self.desk.root, STORE + "NEWS")))
+        self.assertEqual(self.status(), "0,")
+        time.sleep(0.6)
+
+    def test_8_the_hub_goes_while_clips_are_loaded(self):
+        self.show("2112")
+        self.touch(292)
+        self.desk.console("hub slow 100")
+        self.touch(482)
+        count = len(self.hub())
+        self.desk.console("hub drop")
+        self.wait_for(lambda: "InitRead#CS1.ClipStoreFile" in self.hub()[count:], 15)
+        self.desk.console("hub slow 1")
+        time.sleep(0.6)
+        count = len(self.hub())
+        self.touch(292)
+        self.touch(482)  # nothing stands over the page, and the tree is there
+        self.wait_for(lambda: any("Register root/STATION.SFH" in line for line in self.hub()[count:]))
+
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)
