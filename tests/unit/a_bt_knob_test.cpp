@@ -317,21 +317,6 @@ TEST_F(DmePages, ACornerGoesAsFarAsModeFormatAndAspectLetIt)
     }
 }
 
-// Limits are moved in place, so the boxes of a corner must be the same in all modes.
-TEST_F(DmePages, TheTablesOfACornerDifferInLimitsOnly)
-{
-    for (int number = 80; number <= 85; number++) {
-        const auto tables = KnobLinks::TablesOf(number);
-        EXPECT_EQ(tables.size(), 8u);
-        for (const NB_TBL* table : tables)
-            for (int i = 0; table[i].id >= 1 || tables[0][i].id >= 1; i++) {
-                ASSERT_EQ(table[i].id, tables[0][i].id) << number;
-                EXPECT_STREQ(table[i].caption, tables[0][i].caption) << number;
-                EXPECT_STREQ(table[i].cmd, tables[0][i].cmd) << number;
-            }
-    }
-}
-
 TEST_F(DmePages, TheCropHasOneSenseOnItsPage)
 {
     const std::string path = "DME@Edge@Border/Crop@Crop";

@@ -82,7 +82,9 @@ TEST_F(Buttons, APressSendsWhatItsTypeSays)
     };
     for (const auto& c : cases) {
         BT_SetStatus(c.id, c.status);
+        GL_CreatePage = 7;
         Press(c.id);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), 7u) << c.id << " leads nowhere";
         EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.sent)) << c.id;
         EXPECT_EQ(BT_GetStatus(c.id), c.status) << "a press changes no state";
     }

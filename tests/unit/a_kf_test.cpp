@@ -84,6 +84,8 @@ TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
     EXPECT_EQ(r.dtime, 15);
     EXPECT_EQ(r.stime, HOUR) << "the delay comes before the first keyframe";
     EXPECT_EQ(r.etime, HOUR + 10 * RATE);
+    EXPECT_EQ(r.duration, 9 * RATE + 15);
+    EXPECT_EQ(r.loopstart, 2);
     EXPECT_EQ(r.loopend, 3);
     EXPECT_EQ(r.loopnum, 7);
     EXPECT_EQ(r.kf[1].duration, 45);

@@ -163,6 +163,26 @@ TEST_F(KnobColumn, APathDecidesWhatATallyDoes)
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
 }
 
+TEST_F(KnobColumn, WhatWasToldOrTurnedIsAValueAndIsPainted)
+{
+    static const struct {
+        const char *path, *value;
+        int slot;
+    } cases[] = {{CLIP, "37.5", 1}, {CLIP, "38.5", 1}, {"Panel@Common@Knob1", "14", 2}};
+    Open(table);
+    Pass();
+    for (const auto& c : cases) {
+        const Rect slot = {706, Middle(c.slot) - 30, 799, Middle(c.slot) + 30};
+        const auto before = PixelsIn(slot);
+        Tally(c.path, c.value);
+        Pass();
+        EXPECT_NE(PixelsIn(slot), before) << c.path << " " << c.value;
+        NB_SetSelect(c.slot);
+        EXPECT_EQ(NB_SendTrimValue(0), 0);
+        NB_SetSelect(0);
+    }
+}
+
 TEST_F(KnobColumn, ATurnStopsAtTheLimitsAndSaysWhich)
 {
     static const struct {

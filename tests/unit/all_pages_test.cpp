@@ -65,6 +65,7 @@ void OthersAreLeftTheirs(uint32_t page)
     for (const int msg : {int(MSG_TALLY), int(LMSG_BTNSEL)})
         EXPECT_EQ(PC_Proc(msg, Arg(PATH), Arg(""), Hash(PATH), 0), 0) << std::hex << page;
     EXPECT_EQ(PC_Proc(LMSG_KNOBCREATE, 999, Arg(""), 0, 0), 0) << std::hex << page;
+    EXPECT_EQ(PC_Proc(MSG_KEY, 0, 0, 0, 0), 0) << std::hex << page;
 }
 
 // Windows and panes that a page opens by itself would stand over the next one.

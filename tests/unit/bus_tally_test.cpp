@@ -35,11 +35,8 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[2], 1},      // no part, no change
         {FORMAT "Switcher Aspect", "DME1,16:9,4:3", &DEV_Dme[0].aspect[1], 1}, // not a switcher
         {FORMAT "Video Format2@SWR1", "3,6,2", &SYS_Format_Size, 3},
-        {FORMAT "Video Format2@SWR1", "3,6", &SYS_Format_Scan, 2},
         {FORMAT "3D Mode@SWR1", "On", &SYS_3DMode, 1},
         {FORMAT "3D Mode@SWR2", "Off", &SYS_3DMode, 1}, // not this panel's switcher
-        {"Frame Mem@Status@Store Number2 Sense", "99999999999", &SYS_StoreFree2, INT_MAX},
-        {SWITCHER "SDI I/F@DME2", "Dedicated", &GL_DmeSdiIF[1], 1},
         {"Engineering Setup@DME@Model@DME1", "2", &DEV_Dme[0].type, DEVTYPE_HLDB7},
         {"Engineering Setup@DME@Model@DME1", "9", &GL_DmeModel[0], 9}, // none of today's
         {"Engineering Setup@DME@Model@DME1", "17", &GL_DmeModel[0], 9},
@@ -47,9 +44,7 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"Info@System Setup Data@FM Data Port Disable@SWR2", "129,3", &GL_FMDataPortDisable[1],
          1 | 3 << 7},
         {"Info@System Setup Data@FM Data Port Disable@SWR2", "0,-1", &GL_FMDataPortDisable[1], 0},
-        {"Engineering Setup@System@Install@Unit Config@M/E Split", "1,2,4", &GL_BoardMESplit[2], 4},
         {PANEL "Config@M/E Operation@P/P", "Disable", &SYS_MEOperation[5], 1},
-        {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignV[253], 7},
         {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignK[253], -1},
     };
     for (const auto& c : cases) {

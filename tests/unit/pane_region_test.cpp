@@ -185,9 +185,14 @@ TEST_F(Regions, UnknownPlacesAnswerNothing)
         EXPECT_EQ(PaneRegion_GetGrpMainSub(grp, 257, &main, &sub), -1);
     }
     EXPECT_EQ(PaneRegion_GetGrpID(4, 8, 0), 0);
-    EXPECT_STREQ(PaneRegion_GetGrpFIRegion(4, 0, 12), "");
+    for (const auto& [row, entry] : {std::pair{0, 12}, {0, -1}, {8, 0}}) {
+        EXPECT_STREQ(PaneRegion_GetGrpFIRegion(4, row, entry), "");
+        EXPECT_STREQ(PaneRegion_GetGrpFIExt(4, row, entry), "");
+    }
     EXPECT_EQ(PaneRegion_GetGrpMainSub(4, 0, &main, &sub), -1) << "an empty cell is no region";
+    Select(4, {{6, 1}}); // an empty one
     EXPECT_EQ(PaneRegion_IsSelected(4, 0), 0);
+    EXPECT_STREQ(PaneRegion_GetCaption(4, 0), "");
     EXPECT_EQ(main, 7);
 }
 
@@ -243,7 +248,13 @@ TEST_F(Regions, OnlyEnterChangesTheSelection)
     Units(2, 2);
     Select(4, {{0, 2}});
     const int id = PaneRegion_Create(4, 0);
+    Pass();
+    const Rect cell = {Left(4) + 15 + 3 * 64, Top(4, 0) + 15, Left(4) + 15 + 4 * 64,
+                       Top(4, 0) + 50};
+    const auto off = PixelsIn(cell);
     TouchCell(4, 3);
+    Pass();
+    EXPECT_NE(PixelsIn(cell), off);
     Touch(Left(4) + 15 + 62, Top(4, 0) + 30); // between two cells
     EXPECT_EQ(Pane_Exist(id), 1) << "a touch that missed loses nothing";
     Touch(5, 5);

@@ -59,11 +59,8 @@ TEST_F(MacroPages, EveryKeySendsItsCommand)
         const char* command;
     } cases[] = {
         {0x54120000, 3, nullptr, "put Macro@Register@Lock@Lock#0000100000000000,3,3,true"},
-        {0x54130000, 3, nullptr,
-         "put Macro@Register@Copy@Copy#0000100000000000,3,3,0000100000000000,4,false"},
         {0x54130000, 4, "Macro Copy",
          "put Macro@Register@Copy@Copy#0000100000000000,3,3,0000100000000000,5,false"},
-        {0x54160000, 3, "Macro Delete", "put Macro@Register@Delete@Delete#0000100000000000,3,3"},
         {0x54170000, 3, "Name", "put Macro@Register@Rename@Rename#0000100000000000,3,OPENING"},
     };
     for (const auto& c : cases) {

@@ -143,7 +143,8 @@ TEST_F(SetupPage, RowsThatLinesMakeComeBackAfterKillWithTheirEdits)
     EXPECT_STREQ(Told[0].low, "3");
     EXPECT_STREQ(Work[2].low, "11");
     EXPECT_STREQ(Work[3].key, "E");
-    for (const char* line : {"KILL", "a key that is cut,1", "a key that is cut,2"})
+    for (const char* line :
+         {"KILL", "a key that is cut as too long,1", "a key that is cut as too long,2"})
         Hear("Setup@Limits", line);
     EXPECT_EQ(Units, 1);
     EXPECT_STREQ(Work[0].low, "2");
