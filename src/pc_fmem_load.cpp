@@ -3,13 +3,19 @@
 #include "a_bt.h"
 #include "a_ff.h"
 #include "a_pc.h"
+#include "colours.h"
+#include "global.h"
 #include "memory.h"
 #include "message.h"
 #include "page_table/fmem_clip.h"
 #include "pc_fmem.h"
+#include "tdl.h"
+#include "text.h"
 #include <cstring>
 
 #include "safeguards.h"
+
+static bool is_room_dirty = false; // what the hub tells of the memory's room is not shown yet
 
 // --- Keys ---
 
@@ -46,6 +52,22 @@ static void clipstill_register(int command)
     fmem_progress_show();
 }
 
+// --- The room in memory ---
+
+static void draw_room()
+{
+    constexpr int FONT = 3;
+    constexpr Rect ROOM = {332, FMEM_KEYS_Y + 14, 434, FMEM_KEYS_Y + 52};
+    constexpr int LINE_PX = 19;
+    char text[32] = "";
+    if (SYS_MemoryTotal > 0)
+        PrintText(text, "%d / %d", SYS_MemoryFree, SYS_MemoryTotal);
+    TDL_FillRectS(ROOM.x1, ROOM.y1, ROOM.x2, ROOM.y2, BLACK);
+    TDL_SymbolWS(ROOM.x1, ROOM.y1, ROOM.x2 - ROOM.x1, "Free Memory", FONT, LABEL);
+    TDL_SymbolWS(ROOM.x1, ROOM.y1 + LINE_PX, ROOM.x2 - ROOM.x1, text, FONT, WHITE);
+    TDL_UpdateRect(ROOM.x1, ROOM.y1, ROOM.x2, ROOM.y2);
+}
+
 // --- The page ---
 
 static void button(const char* path)
@@ -60,6 +82,12 @@ static int proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
 {
     fmem_proc(msg, ax, bx, dx);
     switch (msg) {
+    case MSG_REDRAW:
+        if (is_room_dirty)
+            draw_room();
+        is_room_dirty = false;
+        return 0;
+    case LMSG_FMLOAD: is_room_dirty = true; return 0;
     case LMSG_BTNSEL: button(Text(ax)); return 0;
     case LMSG_FFCRNTCHANGE:
     case LMSG_FFLISTCHANGE:
@@ -71,6 +99,7 @@ static int proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
 static int open_or_leave(int on, uint32_t)
 {
     fmem_drop();
+    is_room_dirty = on != 0;
     if (on)
         enable_keys();
     return 0;

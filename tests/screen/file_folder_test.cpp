@@ -3,6 +3,7 @@
 #include "a_ff_private.h"
 #include "a_fm.h"
 #include "fmctrl3.h"
+#include "global.h"
 #include "table_page.h"
 #include "text.h"
 #include <filesystem>
@@ -82,6 +83,8 @@ TEST_F(FolderPictures, Browser)
                  {"WIPE", 2, 1, 1},     {"ZOOM IN", 1, 1, 0}};
     for (const auto& c : clips)
         Clip(c.name, c.frames, c.exist, c.pair);
+    SYS_MemoryFree = 2640;
+    SYS_MemoryTotal = 3000;
     (void)Open(0x21120000);
     (void)FF_ChangeDirectory(0, "/NEWS");
     EXPECT_EQ(FF_Find(0, "openi", SEARCH_DIR_NEXT), 0);
@@ -92,6 +95,7 @@ TEST_F(FolderPictures, Browser)
     for (int i = 0; i < 4; i++)
         Pass(1000);
     EXPECT_TRUE(MatchesGolden("file_folder"));
+    SYS_MemoryFree = SYS_MemoryTotal = 0;
 }
 
 TEST_F(FolderPictures, OutputsPlaybackAndTwoFolders)
