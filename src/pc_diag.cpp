@@ -78,6 +78,7 @@ static void answer_popup()
 
 static struct {
     int shown = DIAG_CLASSES; // the class, DIAG_CLASSES the errors of all
+    int kind = DIAG_KINDS;    // of the page of a kind
     bool is_stale = false;    // something has changed since the list was filled
     int wait_ms = 0;          // until it may be filled
     bool is_strip_dirty = false;
@@ -134,9 +135,28 @@ static void add_row(DIAG_CLASS unit_class, int n, int item, const DiagUnit& unit
     show_row(ds.rows++, unit);
 }
 
+// By the words of its report: "CPU Board Temperature OK", "FAN-1 Speed OK", "PowerA AC OK".
+static DIAG_KIND kind_of(const SELFDIAG& it)
+{
+    static constexpr struct {
+        const char* word;
+        DIAG_KIND kind;
+    } words[] = {{"Temperature", DIAG_TEMPERATURE}, {"FAN", DIAG_FAN}, {"Power", DIAG_POWER}};
+    for (const auto& w : words)
+        if (strstr(it.message, w.word))
+            return w.kind;
+    return DIAG_OTHER;
+}
+
 // Items that nobody has reported are not fitted.
 static void add_unit(DIAG_CLASS unit_class, int n, const DiagUnit& unit)
 {
+    if (ds.kind != DIAG_KINDS) {
+        for (int i = 0; i < unit.items; i++)
+            if (unit.item[i].status != SELFDIAG_UNKNOWN && kind_of(unit.item[i]) == ds.kind)
+                add_row(unit_class, n, i, unit);
+        return;
+    }
     const bool is_all = ds.shown == DIAG_CLASSES;
     const int before = ds.rows;
     for (int i = 0; i < unit.items; i++)
@@ -241,8 +261,10 @@ static void draw_status_strip()
     const int now = LS_GetNowLine(LIST);
     DiagUnit unit;
     if (ds.rows == 0 && ds.shown == DIAG_CLASSES)
-        TDL_SymbolS(STATUS_STRIP.x1 + 9, STATUS_STRIP.y1 + 14, "No unit reports an error.", FONT,
-                    WHITE);
+        TDL_SymbolS(STATUS_STRIP.x1 + 9, STATUS_STRIP.y1 + 14,
+                    ds.kind == DIAG_KINDS ? "No unit reports an error."
+                                          : "No unit has reported any.",
+                    FONT, WHITE);
     else if (now >= 0 && now < ds.rows && status_row[now].item != NO_ITEM &&
              SelfDiag_Unit(status_row[now].unit_class, status_row[now].unit, &unit))
         draw_item(status_row[now], unit);
@@ -292,6 +314,17 @@ static int first_error_row()
     return 0;
 }
 
+static int kind_create(int on, uint32_t kind)
+{
+    ds = {};
+    if (!on)
+        return 1;
+    ds.kind = int(kind);
+    fill_status();
+    LS_SetNowLine(LIST, first_error_row());
+    return 0;
+}
+
 static int status_create(int on, uint32_t unit_class)
 {
     ds = {};
@@ -306,6 +339,7 @@ static int status_create(int on, uint32_t unit_class)
 }
 
 const PC_TBL pc_diag_status = {.proc_func = status_proc, .create_func = status_create};
+const PC_TBL pc_diag_kind = {.proc_func = status_proc, .create_func = kind_create};
 
 // --- History ---
 

@@ -11,9 +11,14 @@ inline constexpr uint32_t PAGE_DIAG_STATUS = 0x74110000;
 inline constexpr uint32_t PAGE_DIAG_HISTORY = 0x74120000;
 constexpr uint32_t DiagClassPage(DIAG_CLASS unit_class) { return PAGE_DIAG_STATUS + 1 + uint32_t(unit_class); }
 
+// What the items of all units are about.
+enum DIAG_KIND : int { DIAG_TEMPERATURE, DIAG_FAN, DIAG_POWER, DIAG_OTHER, DIAG_KINDS };
+constexpr uint32_t DiagKindPage(DIAG_KIND kind) { return 0x74210000 + (uint32_t(kind) << 16); }
+
 inline constexpr VF_TBL vf_diag[] = {
     {.id = 1, .caption = "Status", .page = PAGE_DIAG_STATUS},
     {.id = 2, .caption = "History", .page = PAGE_DIAG_HISTORY},
+    {.id = 3, .caption = "By Kind", .page = DiagKindPage(DIAG_TEMPERATURE)},
     VF_END,
 };
 
@@ -29,6 +34,15 @@ inline constexpr HF_TBL hf_diag[] = {
     {.id = 7, .caption = "MPE",         .page = DiagClassPage(DIAG_MPE),      .statcmd = {DIAG_LAMP "MPE#Error"}},
     HF_END,
 };
+
+inline constexpr HF_TBL hf_diag_kind[] = {
+    {.id = 1, .caption = "Temper-\nature",  .page = DiagKindPage(DIAG_TEMPERATURE)},
+    {.id = 2, .caption = "Fans",            .page = DiagKindPage(DIAG_FAN)},
+    {.id = 3, .caption = "Power\nSupplies", .page = DiagKindPage(DIAG_POWER)},
+    {.id = 4, .caption = "Boards,\nOthers", .page = DiagKindPage(DIAG_OTHER)},
+    HF_END,
+};
+inline constexpr const char* diag_kind_words[DIAG_KINDS] = {"Temperature", "Fans", "Power Supplies", "Boards, Others"};
 
 // In the order of DIAG_CLASS.
 inline constexpr const char* diag_class_words[DIAG_CLASSES] = {"Menu", "Panel", "DCU", "Switcher", "DME", "MPE"};
@@ -62,6 +76,7 @@ inline constexpr LS_TBL ls_diag_history[] = {
 static_assert(ListsAreSound(ls_diag) && ListsAreSound(ls_diag_history));
 
 extern const PC_TBL pc_diag_status; // pc_diag.cpp; its var is a class, DIAG_CLASSES for the errors of all
+extern const PC_TBL pc_diag_kind;   // its var is a DIAG_KIND
 extern const PC_TBL pc_diag_history;
 
 constexpr PAGE DiagStatusPage(int unit_class)
@@ -72,11 +87,18 @@ constexpr PAGE DiagStatusPage(int unit_class)
             .obj = {Base(base_main), LeftTabs(vf_diag, 1), BottomTabs(hf_diag, is_all ? 1 : uint32_t(unit_class) + 2),
                     Buttons(bt_diag), Lists(ls_diag), Code(pc_diag_status, uint32_t(unit_class))}};
 }
+constexpr PAGE DiagKindRow(int kind)
+{
+    return {.id = DiagKindPage(DIAG_KIND(kind)), .tree = {"Diag", "By Kind", diag_kind_words[kind]},
+            .obj = {Base(base_main), LeftTabs(vf_diag, 3), BottomTabs(hf_diag_kind, uint32_t(kind) + 1),
+                    Buttons(bt_diag), Lists(ls_diag), Code(pc_diag_kind, uint32_t(kind))}};
+}
 constexpr auto DiagRows()
 {
-    std::array<PAGE, DIAG_CLASSES + 2> rows{};
+    std::array<PAGE, DIAG_CLASSES + 2 + DIAG_KINDS> rows{};
     size_t n = 0;
     for (int c = 0; c <= DIAG_CLASSES; c++) rows[n++] = DiagStatusPage(c);
+    for (int k = 0; k < DIAG_KINDS; k++) rows[n++] = DiagKindRow(k);
     rows[n] = {.id = PAGE_DIAG_HISTORY, .tree = {"Diag", "History"},
                .obj = {Base(base_main), LeftTabs(vf_diag, 2), Buttons(bt_diag_history), Lists(ls_diag_history), Code(pc_diag_history)}};
     return rows;

@@ -39,6 +39,13 @@ inline constexpr MeTab<HF_TBL> me_key_tabs[] = {
     {{.id = 7, .caption = "Transition/\nVideo\nProcess", .page = 0x11170000, .statcmd = {"~2@Video Process@Video Process#true"}}},
 };
 
+// The pages over all keys of a bank.
+inline constexpr MeTab<HF_TBL> me_top_tabs[] = {
+    {{.id = 1, .caption = "Keys",    .page = 0x11000000}},
+    {{.id = 2, .caption = "Signals", .page = 0x11000001}},
+    {{.id = 3, .caption = "Process", .page = 0x11000002}},
+};
+
 // The sub side has a wipe of one pattern, and none of what the keys of a bank share.
 #define ST_MODIFIED(modify) {modify "@Modulation#H", modify "@Modulation#V", modify "@Modulation#H&V", modify "@Speed#true", \
                              modify "@Pairing#true", modify "@Split#true"}
@@ -119,6 +126,7 @@ struct MeTabTables {
     VfTable vf[ME_BANKS];
     HfTable hf_key[ME_BANKS][ME_SIDE_KEYS];
     HfTable hf_group[ME_BANKS][std::size(me_groups)];
+    HfTable hf_top[ME_BANKS];
 };
 constexpr MeTabTables MakeMeTabs()
 {
@@ -129,6 +137,7 @@ constexpr MeTabTables MakeMeTabs()
         all.hf_group[b][0] = HfOf(me_wipe_tabs, me_banks[b]);
         all.hf_group[b][1] = HfOf(me_dmewipe_tabs, me_banks[b]);
         all.hf_group[b][2] = HfOf(me_misc_tabs, me_banks[b]);
+        all.hf_top[b] = HfOf(me_top_tabs, me_banks[b]);
     }
     return all;
 }
@@ -148,6 +157,7 @@ inline constexpr const HF_TBL* hf_me_key = me_tabs.hf_key[0][0].row;
 inline constexpr const HF_TBL* hf_me_wipe = me_tabs.hf_group[0][0].row;
 inline constexpr const HF_TBL* hf_me_dmewipe = me_tabs.hf_group[0][1].row;
 inline constexpr const HF_TBL* hf_me_misc = me_tabs.hf_group[0][2].row;
+inline constexpr const HF_TBL* hf_me_top = me_tabs.hf_top[0].row;
 
 // The tabs of the template become those of the page's own bank,
 constexpr PAGE WithBankTabs(PAGE page, const Bank& bank)
@@ -157,6 +167,7 @@ constexpr PAGE WithBankTabs(PAGE page, const Bank& bank)
         if (object.type == OBJ_VF) object.addr = me_tabs.vf[BankIndex(bank)].row;
         if (object.type == OBJ_HF && group >= FIRST_GROUP)
             object.addr = me_tabs.hf_group[BankIndex(bank)][group - FIRST_GROUP].row;
+        if (object.type == OBJ_HF && group == 0) object.addr = me_tabs.hf_top[BankIndex(bank)].row;
     }
     return page;
 }

@@ -28,13 +28,18 @@ inline constexpr BT_TBL bt_me_top_sub[] = {
 };
 static_assert(ButtonsAreSound(bt_me_top) && ButtonsAreSound(bt_me_top_sub));
 
+// Of a side of a bank: its keys, what comes in and goes out of them, and what is done to it.
+#define TOP_PAGES(buttons, cells, side, bank) \
+    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, \
+              .obj = {Base(base_main), BottomTabs(hf_me_top, 1), Buttons(buttons), Cells(cells)}}, .where = side, .kind = bank}, \
+    {.page = {.id = 0x11000001, .tree = {"M/E-1", "Signals"}, \
+              .obj = {Base(base_main), BottomTabs(hf_me_top, 2), Buttons(buttons), Cells(cells##_signals)}}, .where = side, .kind = bank}, \
+    {.page = {.id = 0x11000002, .tree = {"M/E-1", "Process"}, \
+              .obj = {Base(base_main), BottomTabs(hf_me_top, 3), Buttons(buttons), Cells(cells##_process)}}, .where = side, .kind = bank}
 inline constexpr MePage me_top_pages[] = {
-    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top), Cells(st_me_top)}},
-     .where = MAIN, .kind = ONLY_ME},
-    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top_sub), Cells(st_me_top_sub)}},
-     .where = SUB, .kind = ONLY_ME},
-    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top), Cells(st_pgm_top)}},
-     .where = MAIN, .kind = ONLY_PGM},
-    {.page = {.id = 0x11000000, .tree = {"M/E-1"}, .obj = {Base(base_main), Buttons(bt_me_top_sub), Cells(st_pgm_top_sub)}},
-     .where = SUB, .kind = ONLY_PGM},
+    TOP_PAGES(bt_me_top,     st_me_top,      MAIN, ONLY_ME),
+    TOP_PAGES(bt_me_top_sub, st_me_top_sub,  SUB,  ONLY_ME),
+    TOP_PAGES(bt_me_top,     st_pgm_top,     MAIN, ONLY_PGM),
+    TOP_PAGES(bt_me_top_sub, st_pgm_top_sub, SUB,  ONLY_PGM),
 };
+#undef TOP_PAGES

@@ -54,6 +54,7 @@
 #include "setup_switcher.h"
 #include "setup_switcher_io.h"
 #include "setup_system.h"
+#include "setup_tops.h"
 #include "setup_unit.h"
 #include "shotbox_pages.h"
 #include "snapshot_pages.h"
@@ -119,6 +120,7 @@ template <typename Work> constexpr auto WithGroups(Work work)
                 diag_pages,
                 install_pages,
                 setup_system_pages,
+                setup_top_pages,
                 setup_unit_pages,
                 setup_panel_pages,
                 setup_panel_config_pages,

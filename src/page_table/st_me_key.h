@@ -76,6 +76,53 @@ static_assert(CellsAreSound(st_pgm_top) && CellsAreSound(st_pgm_top_sub));
 #undef ST_TOP
 #undef ST_KEY_LINES
 #undef ST_KEY_LINE
+
+// The second and third page of a bank, in the same lines: what comes in and goes out, and what is done to it.
+#define ST_SIGNAL_LINE(line, key, page) \
+    CellAt(0, line, {.id = 11 + 10 * (line), .draw_func = st_drw_me_key_type_source, \
+                     .cmd = {"~1@" key "@Type@Key Source", "~1@" key "@Type@Signal Select@Source", "~1@" key "@Status@Source Name"}, \
+                     .jamp_id_base = (page) + 0x10003}), \
+    CellAt(1, line, {.id = 12 + 10 * (line), .draw_func = st_drw_me_key_type_keyfill, \
+                     .cmd = {"~1@" key "@Type@Key Fill", "~1@" key "@Type@Matte Adjust@Mode", "~1@" key "@Type@Signal Select@Fill"}, \
+                     .jamp_id_base = (page) + 0x10003}), \
+    CellAt(2, line, {.id = 13 + 10 * (line), .draw_func = st_drw_me_key_ontrans, \
+                     .cmd = {ST_LINE_WIPE(key), ST_LINE_TRANS(key, "ON")}, .jamp_id_base = (page) + 0x70000}), \
+    CellAt(3, line, {.id = 14 + 10 * (line), .draw_func = st_drw_me_key_offtrans, \
+                     .cmd = {ST_LINE_WIPE(key), ST_LINE_TRANS(key, "OFF"), ST_LINE_TRANS(key, "ON")}, .jamp_id_base = (page) + 0x70000})
+#define ST_LINE_WIPE(key) "~1@" key "@Transition@DME Wipe@Pattern Select@Pattern"
+#define ST_LINE_TRANS(key, way) "~1@" key "@Transition@" way " Transition Type", "~1@" key "@Transition@" way " Wipe Pattern"
+#define ST_PROCESS_LINE(line, key, page) \
+    CellAt(0, line, {.id = 11 + 10 * (line), .draw_func = st_drw_me_key_type2, \
+                     .cmd = {"~1@" key "@Type@Key Invert", "~1@" key "@Type@Key Type", "~1@" key "@Type@Key Position@Luminance", \
+                             "~1@" key "@Type@Key Position@Linear", "~1@" key "@Type@Key Position@Chroma", \
+                             "~1@" key "@Type@Key Position@Color Vector"}, .jamp_id_base = (page) + 0x10000}), \
+    CellAt(1, line, {.id = 12 + 10 * (line), .draw_func = st_drw_me_key_videoproc, \
+                     .cmd = {"~1@" key "@Video Process@Video Process", "~1@" key "@Video Process@Luminance", \
+                             "~1@" key "@Video Process@Chroma", "~1@" key "@Video Process@Hue"}, .jamp_id_base = (page) + 0x70000}), \
+    CellAt(2, line, {.id = 13 + 10 * (line), .draw_func = st_drw_me_key_prockey, \
+                     .cmd = {"~1@" key "@Processed Key@Processed Key", \
+                             "~1@" key "@Processed Key@DME Select@DME1", "~1@" key "@Processed Key@DME Select@DME2", \
+                             "~1@" key "@Processed Key@DME Select@DME3", "~1@" key "@Processed Key@DME Select@DME4", \
+                             "~1@" key "@Processed Key@DME Select@DME5", "~1@" key "@Processed Key@DME Select@DME6", \
+                             "~1@" key "@Processed Key@DME Select@DME7", "~1@" key "@Processed Key@DME Select@DME8", \
+                             "M/E-1@Key1@Processed Key@Monitor"}, .jamp_id_base = (page) + 0x60000})
+#define ST_LINES(ST_LINE, cells, key1, key2, key3, key4) \
+    {ST_LINE(0, key1, 0x11100000), ST_LINE(1, key2, 0x11200000), ST_LINE(2, key3, 0x11300000), ST_LINE(3, key4, 0x11400000), \
+     cells[0], cells[1], ST_END}
+#define ST_OVERVIEWS(name, cells, ...) \
+    inline constexpr ST_TBL name##_signals[] = ST_LINES(ST_SIGNAL_LINE, cells, __VA_ARGS__); \
+    inline constexpr ST_TBL name##_process[] = ST_LINES(ST_PROCESS_LINE, cells, __VA_ARGS__); \
+    static_assert(CellsAreSound(name##_signals) && CellsAreSound(name##_process))
+ST_OVERVIEWS(st_me_top,      st_bank_top,     "Key1", "Key2", "Key3", "Key4");
+ST_OVERVIEWS(st_me_top_sub,  st_bank_top_sub, "Key5", "Key6", "Key7", "Key8");
+ST_OVERVIEWS(st_pgm_top,     st_bank_top,     "DSK1", "DSK2", "DSK3", "DSK4");
+ST_OVERVIEWS(st_pgm_top_sub, st_bank_top_sub, "DSK5", "DSK6", "DSK7", "DSK8");
+#undef ST_OVERVIEWS
+#undef ST_LINES
+#undef ST_PROCESS_LINE
+#undef ST_LINE_TRANS
+#undef ST_LINE_WIPE
+#undef ST_SIGNAL_LINE
 #undef ST_KEY_PROCKEY
 #undef ST_PRIORITY
 #undef ST_KEY_TRANS

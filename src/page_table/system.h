@@ -32,12 +32,12 @@ static_assert(ButtonsAreSound(bt_file_top));
 
 inline constexpr BT_TBL bt_engineering_setup_top[] = {
     Jump(       {.id = 17, .caption = "System", .group = "Installation", .cmd = {"#73110000"}}),
-    Jump(       {.id = 33, .caption = "Panel", .group = "Unit", .cmd = {"#73210000"}}),
-    Jump(       {.id = 34, .caption = "Switcher", .group = "Unit", .cmd = {"#73310000"}}),
-    Jump(       {.id = 35, .caption = "DME", .group = "Unit", .cmd = {"#73410000"}}),
-    Jump(       {.id = 36, .caption = "DCU", .group = "Unit", .cmd = {"#73510000"}}),
-    Jump(       {.id = 37, .caption = "Router/\nTally", .group = "Unit", .cmd = {"#73610000"}}),
-    Jump(       {.id = 38, .caption = "MPE", .group = "Unit", .cmd = {"#73710000"}}),
+    Jump(       {.id = 33, .caption = "Panel", .group = "Unit", .cmd = {"#73200000"}}),
+    Jump(       {.id = 34, .caption = "Switcher", .group = "Unit", .cmd = {"#73300000"}}),
+    Jump(       {.id = 35, .caption = "DME", .group = "Unit", .cmd = {"#73400000"}}),
+    Jump(       {.id = 36, .caption = "DCU", .group = "Unit", .cmd = {"#73500000"}}),
+    Jump(       {.id = 37, .caption = "Router/\nTally", .group = "Unit", .cmd = {"#73600000"}}),
+    Jump(       {.id = 38, .caption = "MPE", .group = "Unit", .cmd = {"#73700000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

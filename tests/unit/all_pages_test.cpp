@@ -166,7 +166,7 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
         return (byte >= 0x11 && byte <= 0x18) || byte == 0x81 || byte == 0x82 || byte == 0x85 ||
                byte == 0x86;
     };
-    EXPECT_EQ(std::count_if(shown.begin(), shown.end(), is_bank), 1765);
+    EXPECT_EQ(std::count_if(shown.begin(), shown.end(), is_bank), 1789);
 }
 
 TEST_F(AllPages, NoneKeepsMemoryOrLacksABitmap)

@@ -41,6 +41,7 @@ constexpr ByCode by_code[] = {
     {0x63210002, "the same of its clips"},
     {0x71420002, "Edit on the pages of macros, when the server lets the register be edited"},
     {0x71420003, "Edit on the pages of macros, with a macro's file at hand"},
+    {0x73210005, "a link's buses on the panel: what is to be chosen is a press on its list"},
     {0x73360004,
      "a link's table, and the buses of a link: what is to be chosen is a press on its list"},
     {0x73360005, "the same"},

@@ -74,7 +74,8 @@ TEST(PageTable, EveryJumpLeadsToAPage)
         if (target && b.cmd[0][1] == '+') {
             EXPECT_EQ(target->id & 0xFF000000, page.id & 0xFF000000)
                 << std::hex << page.id << " to " << id;
-            if (page.tree[1]) {
+            const bool is_over_all = (page.id & 0x00F00000) == 0; // of the keys of a bank
+            if (page.tree[1] && !is_over_all) {
                 EXPECT_STREQ(target->tree[1], page.tree[1]);
             }
         }
