@@ -1,5 +1,5 @@
-// setup_tops: the first page of each unit's setup, on which the way to its pages is one touch: its tabs, and below them
-// what is looked for most and stands behind them.
+// setup_tops: the first page of a unit's setup, on which the way to its pages is one touch: its tabs, and below them
+// what is looked for most and stands behind them. The MPE's four pages are its tabs.
 #pragma once
 #include "rows.h"
 #include "setup_tabs.h"
@@ -86,16 +86,9 @@ inline constexpr BT_TBL bt_setup_router_top[] = {
     Jump({.id = 36, .caption = "Parallel\nTally",    .group = "Tally", .cmd = {"#73650000"}}),
     SETUP_TOP_MENU,
 };
-inline constexpr BT_TBL bt_setup_mpe_top[] = {
-    Jump({.id = 17, .caption = "Config",             .group = "MPE", .cmd = {"#73710000"}}),
-    Jump({.id = 18, .caption = "Input",              .group = "MPE", .cmd = {"#73720000"}}),
-    Jump({.id = 19, .caption = "Output",             .group = "MPE", .cmd = {"#73730000"}}),
-    Jump({.id = 20, .caption = "Boards",             .group = "MPE", .cmd = {"#73740000"}}),
-    SETUP_TOP_MENU,
-};
 #undef SETUP_TOP_MENU
 static_assert(ButtonsAreSound(bt_setup_panel_top) && ButtonsAreSound(bt_setup_switcher_top) && ButtonsAreSound(bt_setup_dme_top));
-static_assert(ButtonsAreSound(bt_setup_dcu_top) && ButtonsAreSound(bt_setup_router_top) && ButtonsAreSound(bt_setup_mpe_top));
+static_assert(ButtonsAreSound(bt_setup_dcu_top) && ButtonsAreSound(bt_setup_router_top));
 
 constexpr PAGE SetupTop(uint32_t left, const char* word, const BT_TBL* buttons)
 {
@@ -105,5 +98,5 @@ constexpr PAGE SetupTop(uint32_t left, const char* word, const BT_TBL* buttons)
 inline constexpr PAGE setup_top_pages[] = {
     SetupTop(2, "Panel", bt_setup_panel_top), SetupTop(3, "Switcher", bt_setup_switcher_top),
     SetupTop(4, "DME", bt_setup_dme_top),     SetupTop(5, "DCU", bt_setup_dcu_top),
-    SetupTop(6, "Router", bt_setup_router_top), SetupTop(7, "MPE", bt_setup_mpe_top),
+    SetupTop(6, "Router", bt_setup_router_top),
 };

@@ -37,7 +37,7 @@ inline constexpr BT_TBL bt_engineering_setup_top[] = {
     Jump(       {.id = 35, .caption = "DME", .group = "Unit", .cmd = {"#73400000"}}),
     Jump(       {.id = 36, .caption = "DCU", .group = "Unit", .cmd = {"#73500000"}}),
     Jump(       {.id = 37, .caption = "Router/\nTally", .group = "Unit", .cmd = {"#73600000"}}),
-    Jump(       {.id = 38, .caption = "MPE", .group = "Unit", .cmd = {"#73700000"}}),
+    Jump(       {.id = 38, .caption = "MPE", .group = "Unit", .cmd = {"#73710000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };

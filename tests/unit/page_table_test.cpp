@@ -27,6 +27,7 @@ TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
     ForEachPage(
         [&](PAGE& page) { EXPECT_TRUE(ids.insert(page.id).second) << std::hex << page.id; });
     EXPECT_EQ(int(ids.size()) + 1, PageTable_Rows);
+    EXPECT_EQ(PageTable_Rows, 2528) << "a page came or went: which one, and who leads to it?";
     EXPECT_EQ(PageTable[PageTable_Rows - 1].id, PAGE_END);
 }
 
