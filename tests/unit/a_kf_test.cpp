@@ -2,9 +2,7 @@
 #include "a_kf_frames.h"
 #include "a_kf_private.h"
 #include "hand_page.h"
-#include "netio.h"
 #include "tdl.h"
-#include "text.h"
 #include <iterator>
 
 namespace
@@ -308,41 +306,6 @@ TEST_F(Keyframes, AnInsertedRegionLeavesItsOldPlace)
         EXPECT_THAT(Order(5), ElementsAreArray(c.order)) << c.place << " " << c.region;
         EXPECT_EQ(KF_GetRegionDisplay(c.region), 0);
     }
-}
-
-// --- Subscriptions ---
-
-// What the application sends, taken off the wire.
-static std::string Sent(Peer& server, void (*send)())
-{
-    send();
-    EXPECT_EQ(Net_SendBinCommandQueue(), 0);
-    std::string bytes;
-    for (const std::string& line : server.Lines()) // a 10 among the bytes ends a "line"
-        bytes += line + '\n';
-    return bytes + std::exchange(server.received, {});
-}
-
-TEST_F(Keyframes, EachRegionIsAskedForOnceAndSubSidesApart)
-{
-    CopyText(GL_ServerAddress, "127.0.0.1");
-    Peer server(NET_BIN_PORT);
-    Net_Init();
-    ASSERT_TRUE(server.Accept());
-    int length;
-    (void)Net_ReceiveBinCommand(&length); // the answer may have come behind the first look
-    Net_DropBinQueue();                   // what an earlier test has left
-    const std::string sent = Sent(server, KF_InitCommand);
-    const std::string first("\x0B\0\x04\xAA\0\x82\0\x01\x01\x01\0\xFF\xFF", 13);
-    const std::string end("\x07\0\x04\xAA\0\x81\0\xFF\xFF", 9);
-    ASSERT_EQ(sent.size(), 46 * first.size() + end.size());
-    EXPECT_EQ(sent.substr(0, first.size()), first);
-    EXPECT_EQ(sent.substr(46 * first.size()), end);
-
-    EXPECT_EQ(Sent(server, KF_InitCommand_MP2).size(), 6u * 13 + 6 * 10);
-    server.Drop();
-    server.StopListening();
-    Net_Init(); // nobody is there: the link is down again
 }
 
 // --- The strip ---

@@ -546,25 +546,6 @@ TEST_F(KnobColumn, TheMiddleButtonAndTheArmedKeyRecallADefault)
     }
 }
 
-TEST_F(KnobColumn, APressOpensTheTenKeysForTheBox)
-{
-    Open(table);
-    PressTitle();
-    Tally("M/E-1@Key1@Type@Time", "-45");
-    PressSlot(3); // no box on this layer
-    EXPECT_EQ(NB_SendValue(1), -1);
-    PressSlot(2);
-    EXPECT_STREQ(GL_KnobSetVar, "-00:01:15");
-    Forget();
-    EXPECT_EQ(NB_SendValue(30), 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Time#00:01:00"));
-    EXPECT_EQ(NB_SendTrimValue(-5000), 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Time#-00:30:00"));
-    NB_SetSelect(0);
-    EXPECT_STREQ(GL_KnobSetVar, "");
-    EXPECT_EQ(NB_SendTrimValue(1), -1);
-}
-
 // --- For page code ---
 
 TEST_F(KnobColumn, AShownValueBecomesTheValueAfterHalfASecond)

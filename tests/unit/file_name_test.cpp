@@ -98,9 +98,6 @@ TEST_F(FileName, PathsOfDrivesAndUnits)
         {{13, 3, 5, 0, 1, "x.y z"},
          FILE_REMOVABLE,
          "MYHOST:/mnt/usb/usb1/SYSTEM/SNAPSHOT/DME000D002/CH2/x_y z.CH2_0001.DSS"},
-        {{19, 0, 7, 3, 0, "K"},
-         FILE_FTP,
-         "MYHOST:/tmp/FTPIF/SYSTEM/KSNAP/SWR000D001/ME1/K.ME1_8_04.SKS"},
         {{0, 0, 4, 0, 1, "S"},
          FILE_LOCAL,
          "MYHOST:/mnt/data/user/root/SYSTEM/SETUP/SWR000D002/S.DEV_0000.SFS"},
@@ -121,11 +118,11 @@ TEST_F(FileName, PathsOfDrivesAndUnits)
     for (const auto& c : cases)
         EXPECT_EQ(Path(c.info, c.device), c.path);
     char target[8];
-    EXPECT_EQ(File_Target(cases[6].path, target, sizeof target), 0);
+    EXPECT_EQ(File_Target(cases[5].path, target, sizeof target), 0);
     EXPECT_STREQ(target, "PNL1");
-    EXPECT_EQ(File_Target(cases[8].path, target, sizeof target), 0);
+    EXPECT_EQ(File_Target(cases[7].path, target, sizeof target), 0);
     EXPECT_STREQ(target, "SWR1");
-    EXPECT_EQ(File_Target(cases[9].path, target, sizeof target), -1);
+    EXPECT_EQ(File_Target(cases[8].path, target, sizeof target), -1);
 }
 
 TEST_F(FileName, EveryStepThatFailsHasItsNumber)

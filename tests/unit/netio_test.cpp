@@ -52,13 +52,6 @@ TEST_F(Netio, ALineComesWhenItsEndHasCome)
     }
 }
 
-TEST_F(Netio, ALineThatFillsTheBufferStaysThere)
-{
-    EXPECT_THAT(Feed(std::string(405, 'a')), IsEmpty());
-    EXPECT_EQ(Net_FeedText("\n", 1), 0);
-    EXPECT_EQ(Net_ReceiveCommand(), nullptr);
-}
-
 TEST_F(Netio, AFreezeIsNotedWhileAStoreWaitsForIt)
 {
     Net_SendCommand("put Frame Mem@Edit@Freeze@Freeze@Frame@PROC#1");

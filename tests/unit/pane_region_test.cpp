@@ -158,9 +158,10 @@ TEST_F(Regions, FilesOfARegionHaveItsWord)
         const char* dual; // where two processors share the effects units
         const char* ext;
     } cases[] = {
-        {4, 292, "CH1", "CH1", "DKF"},          {4, 294, "CH3", "CH1", "DKF"},
-        {8, 292, "CHF", "CHF", "DKF"},          {13, 295, "CH4", "CH2", "DSS"},
-        {19, 512 + 9, "ME2_2", "ME2_2", "SKS"}, {30, 260, "PP_SUB", "PP_SUB", "SWS"},
+        {8, 292, "CHF", "CHF", "DKF"},
+        {13, 295, "CH4", "CH2", "DSS"},
+        {19, 512 + 9, "ME2_2", "ME2_2", "SKS"},
+        {30, 260, "PP_SUB", "PP_SUB", "SWS"},
     };
     Units(1, 1);
     for (const auto& c : cases) {

@@ -49,8 +49,6 @@ TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
         {0x62210000, 50, "put Effect@Effect@Recall@Recall#0000000000000002, 3"},
         {0x62230000, 49,
          "put Effect@Effect@Copy/Merge@Copy#0000000000000002,3,3,0000000000000002,5,false"},
-        {0x62230000, 52,
-         "put Effect@Effect@Copy/Merge@Merge#0000000000000002,3,0000000000000002,5"},
         {0x62320000, 51, "put Effect@Effect@Lock@Lock#0000000000101000,103,103,true"},
         {0x62510000, 50, "put Effect@Effect@Recall@Recall#0000000000101000, 303"},
         {0x64110000, 33, "put Shotbox@Register@Attribute@Auto Run#3,3,true"},

@@ -56,20 +56,14 @@ TEST_F(SwitcherSetup, EachPageAsksForWhatItSets)
     } const pages[] = {
         {0x73310000, "Config@M/E Config@P/P"},
         {0x73310002, "Config@PGM Config@List"},
-        {0x73310003, "Config@Logical M/E"},
         {0x73310005, "Config@Key Config"},
         {0x73310006, "Config@Out Config@P/P Out4"},
         {0x73310007, "Config@Switcher Timing@H Phase@SWR1"},
         {0x73310009, "Config@Key PVW@Mode@M/E-1"},
-        {0x73340000, "Transition@Key Transition@P/P"},
         {0x73340002, "Transition@Transition Curve@Mix@M/E-1"},
         {0x73350000, "Key/Wipe@FM Auto Store"},
-        {0x73350000, "Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl"},
         {0x73350003, "Key/Wipe/FM/CCR@Show Key@Output@M/E-1"},
-        {0x73360000, "Link@Enable@GPI Link"},
-        {0x73360003, "Link@Internal Bus Link@Link"},
         {0x73360004, "Link@Internal Bus Link@Table"},
-        {0x73360006, "Link@GPI Link"},
     };
     for (const auto& [page, path] : pages) {
         const Lines sent = Open(page);

@@ -75,10 +75,6 @@ TEST_F(SelfDiag, EveryGroupHasItsTextCodeAndTag)
     } rows[] = {
         {PNL, "Board Temperature", "PNL1,OK,NG", 128, "PNL1 I/F Board Temperature Error",
          "SIU010100 [diag] SIU-BOARDTEMP-I/FBoard:I/F Board Temperature Error"},
-        {PNL, "Fan Speed", "PNL1,OK,NG", 128, "PNL1 FAN-2 Control Function Error",
-         "SIU010100 [diag] SIU-FANSPEED-FAN-2:FAN-2 Control Function Error"},
-        {PNL, "Circuit Board Function", "PNL1,OK,OK,NG", 128, "PNL1 Slot 3 Board Error",
-         "SIU010100 [diag] SIU-BOARDFUNC-Slot3:Slot 3 Board Error"},
         {PNL, "Circuit Board Function", "PNL1,--,--,--,--,--,--,NG", 128, "PNL1 Fuse Error",
          "SIU010100 [diag] SIU-FUSE:Fuse Error"},
         {PNL, "PSU Status", "PNL1,Exist,OK,OK,OK,Exist,NG,OK,OK", 128, "PNL1 PowerB AC Error",

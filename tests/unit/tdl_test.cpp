@@ -37,8 +37,6 @@ TEST(Drawing, TheScreenEdgeCutsOrRefuses)
         {BOTH(TDL_FillPara, 795, 5, 795, 7, 30, RED), 0, 15},
         {BOTH(TDL_FillParaV, 5, 598, 7, 598, 30, RED), 0, 6},
         {BOTH(TDL_Put, 0, 0, nullptr), 1, 0},
-        {BOTH(TDL_PutA, 0, 0, nullptr, 9), 1, 0},
-        {BOTH(TDL_PutSmall, 0, 0, nullptr), 1, 0},
         {BOTH(TDL_Put, 795, -3, Source), 0, 15},
         {BOTH(TDL_PutA, -7, 596, Source, 128), 0, 12},
         {BOTH(TDL_PutSmall, 796, 598, Source), 0, 8},
