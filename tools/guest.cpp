@@ -1,5 +1,6 @@
 // guest: see guest.h.
 #include "guest.h"
+#include "a_kf.h"
 #include "bus.h"
 #include "global.h"
 #include "graphics.h"
@@ -101,6 +102,7 @@ bool Guest_Open(const PAGE& row)
     GL_AllPageDisplayMode = !is_here && SearchPageTable_Free_ALL(PageTable, row.id) != nullptr;
     const int result = CreatePage(row.id);
     GL_AllPageDisplayMode = 0;
+    KF_DrawTopArea(777); // without the keys of the walk
     return result == 0;
 }
 

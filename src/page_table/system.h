@@ -46,6 +46,7 @@ static_assert(ButtonsAreSound(bt_engineering_setup_top));
 inline constexpr BT_TBL bt_diag_top[] = {
     Jump(       {.id = 17, .caption = "Status", .group = "Diag", .cmd = {"#74110000"}}),
     Jump(       {.id = 18, .caption = "History", .group = "Diag", .cmd = {"#74120000"}}),
+    Jump(       {.id = 19, .caption = "By Kind", .group = "Diag", .cmd = {"#74210000"}}),
     Jump(       {.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
