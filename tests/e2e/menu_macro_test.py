@@ -14,6 +14,7 @@ LUMINANCE, LINEAR = 17, 18
 EDITOR_KEYS = {"Auto Insert": (154, 402), "Pause Auto Insert": (252, 402), "Store": (448, 402),
                "Delete": (448, 478), "Exit": (644, 560)}
 RECALL_RUN = 53
+PAGE_CANCEL = (659, 414)
 PAUSE = 2.0
 
 
@@ -87,6 +88,7 @@ class MenuMacro(DeskCase):
         self.page("6411")
         self.desk.touch(45, 35)  # the page window
         time.sleep(8)
+        self.desk.touch(*PAGE_CANCEL)  # no page comes up beneath the window
         self.assertEqual(len(self.key_types(before)), 19)
 
     def test_04_stop_in_the_pause(self):
