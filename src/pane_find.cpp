@@ -1,5 +1,6 @@
 // The find pane: a text, steps to the hits, and a lamp while it searches.
 #include "pane_private.h"
+#include "tdl.h"
 #include "window.h"
 
 #include "safeguards.h"
@@ -29,10 +30,12 @@ int PaneFind_Indicator(int on)
     if (!pane)
         return -1;
     pane->each.find.indicator = on != 0;
-    if (pane->redraw == 0 && pane == pane_top() && GetWindow() == WINDOW_NONE)
+    if (pane->redraw == 0 && pane == pane_top() && GetWindow() == WINDOW_NONE) {
         pane_draw_indicator(pane); // a search holds the loop up: it must be seen now
-    else
+        TDL_Show();
+    } else {
         pane->redraw = 1;
+    }
     return 0;
 }
 

@@ -21,6 +21,9 @@ int TDL_UpdateScreen();
 // meanwhile does, once. Holds nest; a release without a hold does nothing.
 void TDL_Hold();
 void TDL_Release();
+// What has been flushed since the hold reaches the display now, and the hold goes on: for what
+// blocks within a pass and has told so. Without a hold nothing waits, and it does nothing.
+void TDL_Show();
 // Told of every rectangle that is handed to the display; null: nobody.
 void TDL_WatchFlush(void (*watch)(int x, int y, int w, int h));
 

@@ -209,8 +209,12 @@ void TDL_Hold()
 
 void TDL_Release()
 {
-    if (flush.depth == 0 || --flush.depth > 0)
-        return;
+    if (flush.depth > 0 && --flush.depth == 0)
+        TDL_Show();
+}
+
+void TDL_Show()
+{
     for (int i = 0; i < flush.count; i++)
         show(flush.gathered[i]);
     flush.count = 0;

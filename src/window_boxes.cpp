@@ -120,16 +120,20 @@ void MBox_RedrawMessage(const char* message)
     CopyText(win.message, message ? message : "");
     draw_message_s();
     window_flush(message_well());
+    TDL_Show(); // whoever tells how far he is comes back to the loop late
 }
 
 void ProgBox_RedrawProgress(int percent)
 {
     percent = std::clamp(percent, 0, 100);
-    if (win.Window != WINDOW_PROGRESS || percent == win.percent)
+    if (win.Window != WINDOW_PROGRESS)
         return;
-    win.percent = percent;
-    draw_progress_s();
-    window_flush(BAR);
+    if (percent != win.percent) {
+        win.percent = percent;
+        draw_progress_s();
+        window_flush(BAR);
+    }
+    TDL_Show();
 }
 
 // --- Pull-down and select ---

@@ -1,6 +1,7 @@
 // The windows as they look, over a page of keys.
 #include "a_bt_page.h"
 #include "bus.h"
+#include "tdl.h"
 #include "window.h"
 #include <filesystem>
 #include <fstream>
@@ -95,4 +96,25 @@ TEST_F(WindowPictures, Boxes)
     ProgBox_RedrawProgress(42);
     MBox_RedrawMessage("Configuring now...");
     EXPECT_TRUE(MatchesGolden("window_progress", {190, 140, 620, 470}));
+}
+
+// A job that holds the loop up within a pass: the question before it has gone from the display, and
+// each step is seen when it begins.
+TEST_F(WindowPictures, ProgressIsShownWithinAPass)
+{
+    static int shown;
+    TDL_Hold();
+    CreateWindow(WINDOW_PROGRESS, "Install", {.message = "Target: SWR1"});
+    TDL_WatchFlush([](int, int, int, int) { shown++; });
+    const auto shows = [](auto&& step) {
+        shown = 0;
+        step();
+        return shown > 0;
+    };
+    EXPECT_TRUE(shows([] { ProgBox_RedrawProgress(0); })); // the window itself
+    EXPECT_TRUE(shows([] { MBox_RedrawMessage("Program file:"); }));
+    EXPECT_TRUE(shows([] { ProgBox_RedrawProgress(60); }));
+    EXPECT_FALSE(shows([] { TDL_UpdateScreen(); })); // what does not block waits for the end
+    TDL_WatchFlush(nullptr);
+    TDL_Release();
 }
