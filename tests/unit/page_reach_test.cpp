@@ -45,6 +45,7 @@ constexpr ByCode by_code[] = {
     {0x73360004,
      "a link's table, and the buses of a link: what is to be chosen is a press on its list"},
     {0x73360005, "the same"},
+    {0x73210005, "the same of a link from the panel to the router"},
     // While a transfer runs in the background these stand in for the page of their tab that is
     // asked for by its number.
     {0x21300000, "frame memory"},
