@@ -106,6 +106,7 @@ std::vector<uint32_t> PixelsNow()
 // not be seen between them.
 TEST(PageChange, HandsOverNoPixelTwiceAndHardlyOneThatStaysAsItWas)
 {
+    Harness_Reset();
     const FullHouse all;
     constexpr uint32_t pages[] = {
         0x00110000, 0x11110000, 0x11120000, 0x11210000, 0x11510000, 0x11610000, 0x11710000,
