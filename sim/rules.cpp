@@ -2,6 +2,7 @@
 #include "copy_swap.h"
 #include "device_vtr.h"
 #include "dme_channels.h"
+#include "setup_switcher_io.h"
 #include "text.h"
 #include "tree.h"
 #include <algorithm>
@@ -502,6 +503,7 @@ void Rules_Follow(const std::string& path, const std::string& value)
     for (const OneOf& set : one_ofs)
         follow_one_of(set, path, value);
     DeviceVtr_Follow(path);
+    SetupSwitcherIo_Follow(path, value);
     for (const Rule& rule : rules)
         if (Text_MatchesPath(path, rule.path) && is_started_by(rule.values, value))
             rule.act({path, value, rule_path(path, rule.target), rule_path(path, rule.value)});

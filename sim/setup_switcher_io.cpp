@@ -130,6 +130,8 @@ static constexpr struct {
     {"Limiter", "num 0 100 0", "100"},
     {"Freq", "num 0 100 0", "50"},
     {"H/V", "num 0 100 0", "50"},
+    {"EC Pos Center", "bool", "true"},
+    {"LB Pos Center", "bool", "true"},
     {"Division", "num 0 1 0", "0"},
     {"IP", "num 0 1 0", "0"},
 };
@@ -280,6 +282,21 @@ static bool reset_input(const std::string& path, const std::string& input)
         return true;
     }
     return false;
+}
+
+// A position that is turned says whether it is the middle.
+void SetupSwitcherIo_Follow(const std::string& path, const std::string& value)
+{
+    for (const char* word : {"EC Pos@", "LB Pos@"}) {
+        const size_t at = path.find(word);
+        double position = 0;
+        if (at == std::string::npos || !Text_ToNumber(value, &position))
+            continue;
+        const std::string middle =
+            path.substr(0, at + 6) + " Center" + path.substr(at + 6); // behind "EC Pos"
+        if (Tree_Find(middle))
+            Tree_Show(middle, position == 0 ? "true" : "false");
+    }
 }
 
 bool SetupSwitcherIo_Put(const std::string& path, const std::string& value)

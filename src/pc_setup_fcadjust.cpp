@@ -38,6 +38,8 @@ enum : int {
     FLD_LIMITER,
     FLD_FREQ,
     FLD_HV,
+    FLD_EC_CENTER,
+    FLD_LB_CENTER,
     FLD_NAME,
     FLD_NO,
     FLD_COUNT,
@@ -79,6 +81,8 @@ static constexpr SETUPFIELD fields[] = {
     ENHANCER(3, "Limiter"),
     ENHANCER(4, "Freq"),
     ENHANCER(5, "H/V"),
+    {SETUP_CELL(ROW, ec_pos_center), .path = "~@EC Pos Center@$", .is_put = 0},
+    {SETUP_CELL(ROW, lb_pos_center), .path = "~@LB Pos Center@$", .is_put = 0},
     {SETUP_CELL(ROW, name), .column = 1},
     {SETUP_CELL(ROW, no), .column = 0},
     {SETUP_CELL(ROW, division), .path = "~@Division@$", .words = words_division},
@@ -374,6 +378,8 @@ static void fcadjust_change_knobassign(const KnobTable& table)
     for (const Knob* k = table.knob; k < std::end(table.knob) && k->box; k++) {
         page_path(path, word_of(k->field, word));
         (void)NB_SetCommand_NoAdd(k->box, path);
+        if (k->field == FLD_MOTION)
+            Net_SendCommandFormat("read %s", path);
         if (k->field == FLD_EC_POS)
             fcadjust_fcec_range_set(k->box);
         if (k->field == FLD_LB_POS)
@@ -423,6 +429,10 @@ static void fcadjust_status_buttondisp()
         (void)BT_SetDisable(BTN_FCADJUST_LB_CENTER, no_lb || is_fixed(TYPE_LETTER_BOX));
     }
     (void)BT_SetStatus(BTN_FCADJUST_ENHANCER_ADJUST, fc.is_enhancer ? BT_ON : BT_OFF);
+    if (kind_now().is_4k)
+        return;
+    (void)BT_SetStatus(BTN_FCADJUST_EC_CENTER, IsTrue(now(FLD_EC_CENTER)) ? BT_ON : BT_OFF);
+    (void)BT_SetStatus(BTN_FCADJUST_LB_CENTER, IsTrue(now(FLD_LB_CENTER)) ? BT_ON : BT_OFF);
 }
 
 static void fcadjust_status_listdisp()

@@ -27,8 +27,10 @@ struct _fcadjuststatus {
     char lb_pos[8];
     char lb_pos_mode[8];
     char enhancer_mode[8];
-    char enhancer[6][8]; // gain, crispening, level, limiter, frequency, H/V
-    char division[8];    // of the 4K kind only
+    char enhancer[6][8];   // gain, crispening, level, limiter, frequency, H/V
+    char ec_pos_center[8]; // "true" where the position is the middle
+    char lb_pos_center[8];
+    char division[8]; // of the 4K kind only
     char ip[8];
 };
 using _fcadjust3g = _fcadjuststatus;

@@ -79,14 +79,14 @@ inline constexpr GpiActionWords gpi_action_words = MakeGpiActionWords();
      .part = SETUP_BY_PAGE,                                                                        \
      .words = gpi_action_words.word,                                                               \
      .caption = "Action\nType",                                                                    \
-     .group = "Action"},                                                                           \
+     .group = "Action Set"},                                                                       \
         {.head = "Target",                                                                         \
          .width = target_width,                                                                    \
          .path = GPI_REGION_PATH,                                                                  \
          .part = SETUP_BY_PAGE,                                                                    \
          .words = gpi_action_words.word,                                                           \
          .caption = "Target",                                                                      \
-         .group = "Action"},                                                                       \
+         .group = "Action Set"},                                                                   \
     {                                                                                              \
         .head = "Reg No", .width = 66, .path = GPI_ACTION_PATH, .part = SETUP_BY_PAGE, .min = 1,   \
         .max = GPI_REGISTERS                                                                       \

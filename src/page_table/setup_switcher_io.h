@@ -104,9 +104,9 @@ static_assert(ListsAreSound(ls_engsetup_switcher_input_fcadjust6));
     ActionState({.id = BTN_FCADJUST_ENHANCER_ADJUST, .caption = "Adjust", .group = "Enhancer", .cmd = {FCADJUST("Enhancer Adjust")}})
 #define FC_POSITIONS \
     Toggle({.id = BTN_FCADJUST_EC_MODE, .caption = "Variable", .group = "EC Pos", .cmd = {FCADJUST("EC Pos Mode#true")}}), \
-    Action({.id = BTN_FCADJUST_EC_CENTER, .caption = "Center", .group = "EC Pos", .cmd = {FCADJUST("EC Pos Center")}}), \
+    ActionState({.id = BTN_FCADJUST_EC_CENTER, .caption = "Center", .group = "EC Pos", .cmd = {FCADJUST("EC Pos Center")}}), \
     Toggle({.id = BTN_FCADJUST_LB_MODE, .caption = "Variable", .group = "LB Pos", .cmd = {FCADJUST("LB Pos Mode#true")}}), \
-    Action({.id = BTN_FCADJUST_LB_CENTER, .caption = "Center", .group = "LB Pos", .cmd = {FCADJUST("LB Pos Center")}})
+    ActionState({.id = BTN_FCADJUST_LB_CENTER, .caption = "Center", .group = "LB Pos", .cmd = {FCADJUST("LB Pos Center")}})
 inline constexpr BT_TBL bt_engsetup_switcher_input_fcadjust[] = {FC_HEAD, FC_ENHANCER, FC_POSITIONS, SheetJump(52, "3G", "#73320008"), BT_END};
 inline constexpr BT_TBL bt_engsetup_switcher_input_fcadjust6[] = {FC_HEAD, FC_ENHANCER, FC_POSITIONS, SheetJump(52, "Four\nInputs", "#73320007"), BT_END};
 inline constexpr BT_TBL bt_engsetup_switcher_input_fcadjust3g[] = {FC_HEAD, FC_POSITIONS, SheetJump(52, "4K", "#73320009"), BT_END};

@@ -50,9 +50,11 @@ class SwitcherIo(SetupCase):
         desk.console("knob 1 +9999")
         time.sleep(0.25)
         self.assertEqual(float(desk.value(f"{FC}EC Pos@0")), 100)
+        self.assertEqual(desk.value(f"{FC}EC Pos Center@0"), "false")
         self.push(38)  # Center
         time.sleep(0.2)
         self.assertEqual(float(desk.value(f"{FC}EC Pos@0")), 0)
+        self.assertEqual(desk.value(f"{FC}EC Pos Center@0"), "true")
         self.push(22)  # Default
         time.sleep(0.2)
         self.assertEqual(desk.value(f"{FC}Convert Mode@0"), "0")

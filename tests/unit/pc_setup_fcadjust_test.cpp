@@ -74,6 +74,8 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
     const Lines opened = Open(FC_PAGE);
     EXPECT_THAT(opened, Contains("add " + ADJUST + "Convert Mode@3"));
     EXPECT_THAT(opened, Not(Contains("add " + ADJUST + "Convert Mode@4")));
+    EXPECT_THAT(opened, Contains("add " + ADJUST + "EC Pos Center@3"));
+    EXPECT_THAT(opened, Contains("add " + ADJUST + "LB Pos Center@0"));
     (void)Push(BTN_FCADJUST_GROUP);
     const Lines changed = Answer(2);
     EXPECT_THAT(changed, Contains("remove " + ADJUST + "H/V@0"));
@@ -139,6 +141,10 @@ TEST_F(FcAdjust, TheAspectLimitsThePositions)
     TellAll(ADJUST, {"Convert Mode@0#2", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#1", "Aspect@0#0",
                      "EC Pos@0#3"});
     EXPECT_EQ(MaxOf(2), 100);
+    (void)Tell(ADJUST + "EC Pos Center@0#false");
+    EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_EC_CENTER), BT_OFF);
+    (void)Tell(ADJUST + "EC Pos Center@0#true");
+    EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_EC_CENTER), BT_ON);
     (void)Tell(ADJUST + "Aspect@0#1");
     EXPECT_EQ(MaxOf(2), 40);
 }
