@@ -386,6 +386,7 @@ static void show_keys()
     for (const int key : {BTN_ASSIGN_SET, BTN_ASSIGN_CLEAR, BTN_ASSIGN_DEFAULT})
         (void)BT_SetDisable(key, !is_fitted);
     if (pb.module->is_action) {
+        (void)BT_SetDisable(BTN_ACTION_NAME, !is_fitted);
         mirror("Kind", list_words[pb.list]);
         return;
     }
