@@ -187,9 +187,10 @@ class Macros(DeskCase):
         self.assertIn(b"PMRALL", self.content())  # nothing is lost
         self.touch((400, 413), (600, 450))  # its window
         desk.wire()
+        before_store = len(self.sim_log())
         self.touch(STORE)
         self.wait(lambda: any("SCP Dir Put" in line for line in desk.wire()))
-        self.wait(lambda: "STATUS:Standby" in self.sim_log()[-2000:])
+        self.wait(lambda: "STATUS:Standby" in self.sim_log()[before_store:])  # not that of the store that failed
         stored = [line for line in self.content().decode().splitlines() if not line.startswith("Event?,Pause")]
         self.assertEqual(stored, [before[0]] + before[2:])
         desk.console("attach 8,6,1,0,8,0,0,0,0,0,0,0,0")
