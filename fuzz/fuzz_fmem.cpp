@@ -55,16 +55,6 @@ static void TakeCommands()
         CheckRequest(text);
 }
 
-static void Touch(int n)
-{
-    BT_MEM* b = bt_first();
-    for (int i = 1; i < n && b->id >= 1; i++)
-        b++;
-    if (b->id >= 1 && b->visible == BT_ENABLED && IsLocal(b->cmd[0]))
-        SendMessage(LMSG_BTNSEL, Arg(b->cmd[0]), Arg(b->cmd_var[0]), 0, 0);
-    Window_ReserveQuit(0); // what it has opened is answered
-}
-
 static void Hub(const std::string& line)
 {
     const size_t blank = line.find(' '), row_at = line.find(' ', blank + 1);

@@ -1,10 +1,13 @@
 // fuzz_page: what targets share that open pages and touch them.
 #pragma once
+#include "a_bt.h"
 #include "bus.h"
+#include "command.h"
 #include "device.h"
 #include "message.h"
 #include "pane.h"
 #include "tdl.h"
+#include "window.h"
 #include <SDL.h>
 #include <cstdio>
 #include <cstdlib>
@@ -49,4 +52,15 @@ inline void Answer(int result)
         return;
     (void)Pane_Quit(pane);
     SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
+}
+
+// The n-th button from 1, or the last: what page code hears of a touch on it.
+inline void Touch(int n)
+{
+    BT_MEM* b = bt_first();
+    for (int i = 1; i < n && b->id >= 1; i++)
+        b++;
+    if (b->id >= 1 && b->visible == BT_ENABLED && IsLocal(b->cmd[0]))
+        SendMessage(LMSG_BTNSEL, Arg(b->cmd[0]), Arg(b->cmd_var[0]), 0, 0);
+    Window_ReserveQuit(0); // what it has opened is answered
 }

@@ -90,7 +90,6 @@ static_assert(ButtonsAreSound(bt_ge_combine_eyes_1) && ButtonsAreSound(bt_ge_com
     GE_PLACE(2, column, "2", back, c1, p1, join), GE_PLACE(2, (column) + 1, "2", back, c2, p2, join)
 #define GE_THREE(row, place, frame, c1, p1, c2, p2, c3, p3, join) \
     GE_PLACE(row, 1, place, frame, c1, p1, join), GE_PLACE(row, 2, place, frame, c2, p2, join), GE_PLACE(row, 3, place, frame, c3, p3, join)
-#define GE_CH(n) "Ch" n, GE_SINGLE("Priority", n)
 #define GE_JOINED(g, n) "Global Effect@" g "@Combine@Ch" n
 
 #define GE_ORDER_TWO(a, b, g) {GE_TWO(1, "Ch" a, GE_SINGLE("Priority", a), "Ch" b, GE_SINGLE("Priority", b), GE_JOINED(g, b), "Front", "Back"), GE_MODE(1), BT_END}
@@ -131,7 +130,6 @@ static_assert(ButtonsAreSound(bt_ge_order_1234[1]) && ButtonsAreSound(bt_ge_orde
 #undef GE_ORDER_THREE
 #undef GE_ORDER_TWO
 #undef GE_JOINED
-#undef GE_CH
 #undef GE_THREE
 #undef GE_TWO
 #undef GE_MODE
