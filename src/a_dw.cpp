@@ -236,8 +236,8 @@ static void draw_cell(int x, int y, int base)
     char text[16];
     PrintText(text, "%d", number);
     TDL_FillRectS(x, y, right, bottom, BLACK);
-    if (base > 0 && base < WIPE_PTN_MAX)
-        TDL_PutS(x + 4, y + 2, G_WipePtn[base]);
+    if (base > 0)
+        TDL_PutS(x + 4, y + 2, WipePtn(base));
     if (number != dw.number) {
         TDL_SymbolS(x + 4, y + 53, text, 1, WHITE);
         return;

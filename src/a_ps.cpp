@@ -80,13 +80,13 @@ static void free_pictures()
 // again. It is looked up when it is drawn, since it may be replaced.
 static SDL_Surface* picture_of(const Cell& c, int number)
 {
-    return c.picture ? c.picture : G_WipePtn[number];
+    return c.picture ? c.picture : WipePtn(number);
 }
 
 static void load_picture(Cell& c, int number)
 {
     c.picture = nullptr;
-    if (G_WipePtn[number])
+    if (WipePtn(number))
         return;
     char path[PATH_SIZE];
     PrintText(path, "graphics/ptn/%d.bmp", number);

@@ -133,13 +133,13 @@ int st_drw_bmpimage_strings(const ST_MEM* cell, SDL_Surface* bitmap, const char*
 SDL_Surface* st_pattern(const char* number)
 {
     const long n = strtol(number, nullptr, 10);
-    return n >= 1 && n < WIPE_PTN_MAX ? G_WipePtn[n] : nullptr;
+    return n >= 1 && n < WIPE_PTN_MAX ? WipePtn(int(n)) : nullptr;
 }
 
 SDL_Surface* st_dme_pattern(const char* number)
 {
     const int base = DW_BaseNumber(Decimal(number));
-    return base >= 1 && base < WIPE_PTN_MAX ? G_WipePtn[base] : nullptr;
+    return base >= 1 ? WipePtn(base) : nullptr;
 }
 
 // Truncated towards zero. A value out of range runs outside the frame, which is how it shows.

@@ -2,6 +2,7 @@
 #include "bus.h"
 #include "file.h"
 #include "netio.h"
+#include "ready.h"
 #include "text.h"
 #include <SDL.h>
 
@@ -34,6 +35,7 @@ int File_InstallPut(const char* src, const char* dst, const char* addr)
         return -1;
     install_put = {.label = uint32_t(label), .result = -1};
     while (install_put.label != 0) {
+        Ready_Ask();
         ReceiveCommand_Management();
         (void)Net_SendCommandQueue(); // a link that is down comes back
         (void)Net_SendBinCommandQueue();

@@ -4,9 +4,11 @@
 #include "tdl.h"
 #include "text.h"
 #include "types.h"
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <unistd.h>
 
 #include "safeguards.h"
@@ -16,6 +18,7 @@
 #undef BITMAP
 
 SDL_Surface* G_WipePtn[WIPE_PTN_MAX];
+static bool is_listed[WIPE_PTN_MAX]; // has a file, which nobody has asked for yet
 
 // Patterns that the smaller model shows by other pictures, named with an "e" behind the number: the
 // flat moves over two channels, which it makes with one.
@@ -79,16 +82,36 @@ static SDL_Surface* load_gfile(const char* name, uint32_t key = 0)
     return loaded;
 }
 
-static void load_wipe_ptn(int n, const char* name)
+static void free_surface(SDL_Surface** surface)
 {
-    char file[PATH_SIZE], usual[16];
+    SDL_FreeSurface(*surface);
+    *surface = nullptr;
+}
+
+// From its own file, or that of the smaller model, at once.
+static void load_wipe_ptn(uint32_t key)
+{
+    char name[16];
+    const uint32_t n = key & KEY_NUMBER;
+    pattern_name(name, key);
+    free_surface(&G_WipePtn[n]);
+    G_WipePtn[n] = load_gfile(name, key);
+    is_listed[n] = false;
+}
+
+// A name of the list: what it stands for is opened when it is asked for. One with leading noughts
+// would not be found again by its number.
+static void list_wipe_ptn(int n, const char* name)
+{
+    char usual[16];
+    PrintText(usual, "%d", n);
+    free_surface(&G_WipePtn[n]);
+    is_listed[n] = strcmp(name, usual) == 0;
+    if (is_listed[n])
+        return;
+    char file[80];
     PrintText(file, "ptn/%s", name);
-    uint32_t key = uint32_t(n) | (strchr(name, 'e') ? KEY_SMALL_MODEL : KEY_PATTERN);
-    pattern_name(usual, key);
-    if (strcmp(file, usual) != 0)
-        key = 0; // leading noughts
-    SDL_FreeSurface(G_WipePtn[n]);
-    G_WipePtn[n] = load_gfile(file, key);
+    G_WipePtn[n] = load_gfile(file);
 }
 
 // --- The list of wipe patterns ---
@@ -138,7 +161,7 @@ static bool load_listed_ptns(const char* list)
     while (read_name(fp, name, sizeof name)) {
         const int n = ptn_number(name);
         if (n >= 0)
-            load_wipe_ptn(n, name);
+            list_wipe_ptn(n, name);
     }
     fclose(fp);
     return true;
@@ -161,11 +184,8 @@ static bool list_and_load_ptns()
 
 static void load_all_ptns()
 {
-    char name[16];
-    for (int n = 0; n < WIPE_PTN_MAX; n++) {
-        PrintText(name, "%d", n);
-        load_wipe_ptn(n, name);
-    }
+    for (uint32_t n = 0; n < WIPE_PTN_MAX; n++)
+        load_wipe_ptn(n | KEY_PATTERN);
 }
 
 // --- Public ---
@@ -181,10 +201,18 @@ void LoadGraphics()
         load_all_ptns();
 }
 
-static void free_surface(SDL_Surface** surface)
+SDL_Surface* WipePtn(int number)
 {
-    SDL_FreeSurface(*surface);
-    *surface = nullptr;
+    if (number < 0 || number >= WIPE_PTN_MAX)
+        return nullptr;
+    if (is_listed[number])
+        load_wipe_ptn(uint32_t(number) | KEY_PATTERN);
+    return G_WipePtn[number];
+}
+
+bool WipePtn_IsListed(int number)
+{
+    return is_listed[number] || G_WipePtn[number];
 }
 
 void FreeGraphics()
@@ -194,25 +222,23 @@ void FreeGraphics()
 #undef BITMAP
     for (SDL_Surface*& picture : G_WipePtn)
         free_surface(&picture);
+    std::fill(std::begin(is_listed), std::end(is_listed), false);
 }
 
-static void load_dme_wipe_ptns(const char* suffix)
+static void load_dme_wipe_ptns(uint32_t model)
 {
-    char name[16];
-    for (const int n : DmeWipePtn_KTR20) {
-        PrintText(name, "%d%s", n, suffix);
-        load_wipe_ptn(n, name);
-    }
+    for (const int n : DmeWipePtn_KTR20)
+        load_wipe_ptn(uint32_t(n) | model);
 }
 
 void LoadDmeWipePtn_KTR20()
 {
-    load_dme_wipe_ptns("e");
+    load_dme_wipe_ptns(KEY_SMALL_MODEL);
 }
 
 void LoadDmeWipePtn_Standard()
 {
-    load_dme_wipe_ptns("");
+    load_dme_wipe_ptns(KEY_PATTERN);
 }
 
 SDL_Surface* LoadGFile(const char* name)

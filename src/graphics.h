@@ -1,6 +1,8 @@
 // graphics: the bitmaps of the user interface, opened once at start-up into one global each: G_ and
 // the stem. A file that is missing leaves a null global and a log line; the drawing verbs take a
-// null surface. The pixels of a bitmap are read when it is first drawn.
+// null surface. The pixels of a bitmap are read when it is first drawn. The pictures of the wipe
+// patterns, some two thousand, are listed at start-up and opened one by one when they are asked
+// for.
 #pragma once
 #include <SDL.h>
 
@@ -9,8 +11,12 @@
 #undef BITMAP
 
 constexpr int WIPE_PTN_MAX = 4000;
-// The picture of a wipe pattern by its number; null where there is none.
+// Those pictures of wipe patterns that have been asked for, by number; null where there is none.
 extern SDL_Surface* G_WipePtn[WIPE_PTN_MAX];
+// The picture of a pattern, null and at its first use a log line when its file is no picture. Any
+// number; one that has no file has no picture either.
+SDL_Surface* WipePtn(int number);
+bool WipePtn_IsListed(int number); // without opening it
 
 void LoadGraphics(); // at start-up, before the first page
 void FreeGraphics();

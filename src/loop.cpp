@@ -16,6 +16,7 @@
 #include "netio.h"
 #include "page.h"
 #include "pane.h"
+#include "ready.h"
 #include "saver.h"
 #include "screen_capture.h"
 #include "scrollbar.h"
@@ -371,6 +372,7 @@ int MainPass()
     TickBefore = SDL_GetTicks();
     loop_selfdiag(elapsed_ms);
 
+    Ready_Ask();
     ReceiveCommand_Management();
     (void)Net_SendCommandQueue(); // a failed send keeps its item: the next pass tries again
     (void)Net_SendBinCommandQueue();

@@ -21,7 +21,7 @@
 static constexpr int TEXT_ITEMS_A_PASS = 33;
 
 static int SockFD1 = 0;
-static NetDial text_dial;
+static NetDial text_dial = {.owner = READY_TEXT};
 static NetQueue SendCommandQueue;
 static char RBuf[406];             // always terminated; a line must end within it
 static bool is_lost = false;       // fallen, and nobody has asked yet
@@ -168,6 +168,7 @@ static void text_hold_full()
     Log_Output(LOG_LINK, MOD_LINK, "ERROR: no line end for %u ms, connection given up",
                unsigned(FULL_BUFFER_MS));
     net_close(&SockFD1);
+    Ready_Watch(READY_TEXT, 0);
     is_lost = true;
     RBuf[0] = '\0';
     RBufFullSince = 0;
@@ -183,7 +184,7 @@ static void text_fill()
     if (SockFD1 == 0 && !text_connect())
         return;
     const size_t used = strlen(RBuf);
-    const int n = net_read(&SockFD1, RBuf + used, int(sizeof RBuf - 1 - used));
+    const int n = net_read(READY_TEXT, &SockFD1, RBuf + used, int(sizeof RBuf - 1 - used));
     RBuf[used + size_t(n)] = '\0';
     is_lost |= SockFD1 == 0;
 }
@@ -213,10 +214,15 @@ static void text_log_received()
         Log_Output2(is_quiet_page ? 0 : LOG_TRACE, RCmd);
 }
 
+// What has come whole is given out before more is read: a burst costs a read a buffer and not a
+// line.
 char* Net_ReceiveCommand()
 {
-    text_fill();
     text_skip_ends();
+    if (!net_has_line(RBuf, text_is_end)) {
+        text_fill();
+        text_skip_ends();
+    }
     const int length = net_take_line(RBuf, RCmd, text_is_end);
     if (length == NET_LINE_OPEN)
         return nullptr;

@@ -11,7 +11,7 @@
 static constexpr int BIN_IN_LENGTH_MAX = 1039;
 
 static int SockFD2 = 0;
-static NetDial bin_dial;
+static NetDial bin_dial = {.owner = READY_BIN};
 static NetQueue BinSendCommandQueue;
 static unsigned char BBuf[8192];
 static int BBufPos = 0; // bytes in BBuf
@@ -116,7 +116,7 @@ static void bin_fill()
     }
     if (SockFD2 == 0 && !bin_connect())
         return;
-    BBufPos += net_read(&SockFD2, BBuf + BBufPos, int(sizeof BBuf) - BBufPos);
+    BBufPos += net_read(READY_BIN, &SockFD2, BBuf + BBufPos, int(sizeof BBuf) - BBufPos);
 }
 
 int net_take_frame(unsigned char* buf, int* fill, unsigned char* frame)
@@ -140,8 +140,11 @@ int net_take_frame(unsigned char* buf, int* fill, unsigned char* frame)
 const unsigned char* Net_ReceiveBinCommand(int* length)
 {
     *length = 0;
-    bin_fill();
-    const int size = net_take_frame(BBuf, &BBufPos, RBCmd);
+    int size = net_take_frame(BBuf, &BBufPos, RBCmd);
+    if (size == 0) {
+        bin_fill();
+        size = net_take_frame(BBuf, &BBufPos, RBCmd);
+    }
     if (size < 0)
         Log_Output(LOG_ALWAYS, MOD_LINK, "ERROR: Wrong BC");
     if (size < 1)

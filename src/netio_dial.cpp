@@ -66,6 +66,7 @@ static bool lookup_begin(NetDial* dial)
     }
     dial->lookup_pid = pid;
     dial->lookup_fd = pipe_fd[0];
+    Ready_Watch(dial->owner, pipe_fd[0]);
     return true;
 }
 
@@ -74,6 +75,7 @@ static void lookup_end(NetDial* dial)
     if (dial->lookup_pid == 0)
         return;
     close(dial->lookup_fd);
+    Ready_Watch(dial->owner, 0);
     kill(dial->lookup_pid, SIGKILL); // it is through, or nobody waits for it any more
     while (waitpid(dial->lookup_pid, nullptr, 0) < 0 && errno == EINTR)
         ;
@@ -84,6 +86,8 @@ static void lookup_end(NetDial* dial)
 // NET_PENDING until the child has written, then 1, or NET_FAILED when the name has no address.
 static int lookup_look(NetDial* dial)
 {
+    if (Ready_IsQuiet(dial->owner))
+        return NET_PENDING;
     in_addr_t address = 0;
     const ssize_t n = read(dial->lookup_fd, &address, sizeof address);
     if (n < 0 && (errno == EAGAIN || errno == EINTR))
@@ -119,11 +123,13 @@ static bool dial_open(NetDial* dial)
     const int fd = socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     const int on = 1;
     (void)setsockopt(fd, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on); // connects without it as well
-    if (fd > 0)
-        dial->fd = fd;
-    else if (fd == 0)
+    if (fd == 0)
         close(fd);
-    return fd > 0;
+    if (fd <= 0)
+        return false;
+    dial->fd = fd;
+    Ready_Watch(dial->owner, fd, POLLOUT);
+    return true;
 }
 
 // 1 when the connection stands.
@@ -140,10 +146,15 @@ static int dial_connect(NetDial* dial, int port)
     return errno == EINPROGRESS ? NET_PENDING : NET_FAILED;
 }
 
-static int dial_look(const NetDial& dial)
+static bool dial_has_answer(const NetDial& dial)
 {
     pollfd p = {.fd = dial.fd, .events = POLLOUT, .revents = 0};
-    if (poll(&p, 1, 0) < 1)
+    return !Ready_IsQuiet(dial.owner) && poll(&p, 1, 0) > 0;
+}
+
+static int dial_look(const NetDial& dial)
+{
+    if (!dial_has_answer(dial))
         return dial_age(dial) > ANSWER_MS ? NET_FAILED : NET_PENDING;
     int error = 0;
     socklen_t size = sizeof error;
@@ -155,6 +166,7 @@ static void dial_failed(NetDial* dial)
 {
     Log_Output(LOG_LINK, MOD_LINK, "ERROR: Failed to connect server");
     net_close(&dial->fd);
+    Ready_Watch(dial->owner, 0);
     if (SDL_GetTicks() - dial->found > ADDRESS_MS)
         dial->address = INADDR_NONE;
 }
@@ -190,6 +202,7 @@ int net_dial(NetDial* dial, const char* host, int port, int* fd)
         return state;
     *fd = dial->fd;
     dial->fd = 0;
+    Ready_Watch(dial->owner, *fd);
     return 1;
 }
 
@@ -197,7 +210,8 @@ void net_hang_up(NetDial* dial)
 {
     lookup_end(dial);
     net_close(&dial->fd);
-    *dial = {};
+    Ready_Watch(dial->owner, 0);
+    *dial = {.owner = dial->owner};
 }
 
 int net_connect_inet(NetDial* dial, int port, int* fd)

@@ -20,7 +20,7 @@ static constexpr int HUB_PACE_MS = 100;
 static constexpr int HUB_BACK_OFF = 6000;
 
 static int SockFD_SHP = 0;
-static NetDial hub_dial;
+static NetDial hub_dial = {.owner = READY_HUB};
 static NetQueue SHPSendCommandQueue;
 static char RBuf_SHP[1024]; // always terminated
 static char RCmd_SHP[4096];
@@ -177,7 +177,8 @@ static void hub_fill()
     if (SockFD_SHP == 0 && !hub_connect())
         return;
     const size_t used = strlen(RBuf_SHP);
-    const int n = net_read(&SockFD_SHP, RBuf_SHP + used, int(sizeof RBuf_SHP - 1 - used));
+    const int n =
+        net_read(READY_HUB, &SockFD_SHP, RBuf_SHP + used, int(sizeof RBuf_SHP - 1 - used));
     RBuf_SHP[used + size_t(n)] = '\0';
     is_hub_lost |= SockFD_SHP == 0;
 }
@@ -192,7 +193,8 @@ int Net_TakeHubLoss()
 // An empty line (an end at the front of the buffer) is dropped and ends this pass's reading.
 char* Net_ReceiveSHPCommand()
 {
-    hub_fill();
+    if (!net_has_line(RBuf_SHP, net_is_hub_end))
+        hub_fill();
     const int length = net_take_line(RBuf_SHP, RCmd_SHP, net_is_hub_end);
     const bool is_full = strlen(RBuf_SHP) == sizeof RBuf_SHP - 1;
     // A full buffer without an end would never be read again.

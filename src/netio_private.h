@@ -2,6 +2,7 @@
 // cutting lines. Nobody else includes it but tests and fuzz targets of those parts.
 #pragma once
 #include "netio.h"
+#include "ready.h"
 
 constexpr int NET_ITEM_MAX = 1040; // bytes of the largest item of any link
 constexpr int NET_LINE_MAX = 1024; // characters of a received line with its terminator
@@ -11,6 +12,7 @@ constexpr int NET_FD_MAX = 1024; // no descriptor of this process is above
 // --- Connecting: begun without waiting, then looked at once a call ---
 // One connection in the making, and what is known of its host.
 struct NetDial {
+    Ready owner = READY_TEXT;      // of the link
     int fd = 0;                    // the socket that connects, 0 while none does
     uint32_t begun = 0;            // SDL_GetTicks of the attempt, or of the last one
     bool is_paused = false;        // its name did not resolve; the next attempt waits
@@ -31,9 +33,10 @@ int net_connect_inet(NetDial* dial, int port, int* fd);
 
 // --- Sockets: a descriptor of 0 is a link that is down ---
 void net_close(int* fd);
-// Read what has arrived, without waiting. Returns the bytes read. 0 when there is nothing, or when
-// the link was lost: then the socket is closed and *fd 0.
-int net_read(int* fd, void* buf, int room);
+// Read what has arrived for the owner's socket, without waiting; one that the pass has found quiet
+// is not asked. room is at least 1. Returns the bytes read. 0 when there is nothing, or when the
+// link was lost: then the socket is closed and *fd 0.
+int net_read(Ready owner, int* fd, void* buf, int room);
 // Write as much of an item as the kernel takes at once. Returns the bytes taken, NET_NO_ROOM when
 // the peer is behind with its reading, below that on failure.
 int net_send(int fd, const ClientSendQueue_t& item);
@@ -69,6 +72,7 @@ enum : int { NET_LINE_OPEN = -1, NET_LINE_TOO_LONG = -2 };
 // Move the first line of buf to line (NET_LINE_MAX bytes) and drop it with all ends that follow.
 // Returns its length; in the two other cases buf stays as it is.
 int net_take_line(char* buf, char* line, NetLineEnd is_end);
+bool net_has_line(const char* buf, NetLineEnd is_end); // an end has come
 void net_drop_open_line(char* buf, NetLineEnd is_end); // what follows the last line end
 
 // --- The other two links ---

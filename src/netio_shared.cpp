@@ -1,4 +1,4 @@
-// What the three links share: polling, the send queue, cutting lines.
+// What the three links share: reading, the send queue, cutting lines.
 #include "command.h"
 #include "log.h"
 #include "memory.h"
@@ -7,7 +7,6 @@
 #include <cassert>
 #include <cerrno>
 #include <cstring>
-#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -22,22 +21,15 @@ void net_close(int* fd)
     *fd = 0;
 }
 
-static bool net_is_readable(int fd)
-{
-    if (fd <= 0)
-        return false;
-    pollfd p = {.fd = fd, .events = POLLIN, .revents = 0};
-    return poll(&p, 1, 0) > 0;
-}
-
 static bool net_would_wait(int error)
 {
     return error == EAGAIN || error == EWOULDBLOCK || error == EINTR;
 }
 
-int net_read(int* fd, void* buf, int room)
+int net_read(Ready owner, int* fd, void* buf, int room)
 {
-    if (!net_is_readable(*fd))
+    assert(room > 0);
+    if (*fd <= 0 || Ready_IsQuiet(owner))
         return 0;
     const int n = int(read(*fd, buf, size_t(room)));
     if (n > 0)
@@ -46,6 +38,7 @@ int net_read(int* fd, void* buf, int room)
         return 0;
     Log_Output(LOG_LINK, MOD_LINK, "ERROR: net_read() -> %d", n);
     net_close(fd);
+    Ready_Watch(owner, 0);
     return 0;
 }
 
@@ -159,6 +152,13 @@ int net_take_line(char* buf, char* line, NetLineEnd is_end)
         rest++;
     memmove(buf, rest, strlen(rest) + 1);
     return length;
+}
+
+bool net_has_line(const char* buf, NetLineEnd is_end)
+{
+    while (*buf && !is_end(static_cast<unsigned char>(*buf)))
+        buf++;
+    return *buf != '\0';
 }
 
 void net_drop_open_line(char* buf, NetLineEnd is_end)

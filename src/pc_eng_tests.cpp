@@ -74,8 +74,8 @@ static Outcome test_bitmaps(Detail& detail)
 static Outcome test_wipe_pictures(Detail& detail)
 {
     int n = 0;
-    for (SDL_Surface* picture : G_WipePtn)
-        n += picture != nullptr;
+    for (int number = 0; number < WIPE_PTN_MAX; number++)
+        n += WipePtn_IsListed(number);
     PrintText(detail, "%d pictures", n);
     return n ? PASSED : FAILED;
 }

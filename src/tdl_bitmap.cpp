@@ -5,8 +5,10 @@
 #include "tdl.h"
 #include "tdl_private.h"
 #include "text.h"
-#include <cstdio>
+#include <algorithm>
 #include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 #include "safeguards.h"
 
 namespace
@@ -14,13 +16,16 @@ namespace
 constexpr size_t HEADER = 54;
 constexpr int SIDE_MAX = 4096;
 constexpr uint16_t PLAIN_BITS = 24;
+constexpr size_t BLOCK = 65536; // of a file, read at once
 struct Head {
-    long pixels_at = 0;
+    size_t pixels_at = 0;
     int w = 0;
     int h = 0;
     size_t stride() const { return (size_t(w) * 3 + 3) & ~size_t(3); } // of a row in the file
 };
 } // namespace
+
+static_assert(BLOCK >= size_t(SIDE_MAX) * 3 + 3, "one row at least");
 
 static bool (*path_of)(uint32_t key, char* path, size_t size) = nullptr;
 
@@ -36,28 +41,28 @@ static uint32_t get32(const uint8_t* b)
 
 // True for the plain kind that all bitmaps of the user interface are: 24 bits, not compressed, the
 // last row first.
-static bool read_head(FILE* fp, Head* head)
+static bool read_head(int fd, Head* head)
 {
     uint8_t b[HEADER];
-    if (fread(b, 1, sizeof b, fp) != sizeof b || b[0] != 'B' || b[1] != 'M')
+    if (pread(fd, b, sizeof b, 0) != ssize_t(sizeof b) || b[0] != 'B' || b[1] != 'M')
         return false;
     const uint32_t bits = get32(b + 28) & 0xFFFF;
-    head->pixels_at = long(get32(b + 10));
+    head->pixels_at = get32(b + 10);
     head->w = int(get32(b + 18));
     head->h = int(get32(b + 22));
-    return bits == PLAIN_BITS && get32(b + 30) == 0 && head->pixels_at >= long(HEADER) &&
+    return bits == PLAIN_BITS && get32(b + 30) == 0 && head->pixels_at >= HEADER &&
            head->pixels_at < SIDE_MAX && head->w > 0 && head->w <= SIDE_MAX && head->h > 0 &&
            head->h <= SIDE_MAX;
 }
 
 SDL_Surface* TDL_OpenBmp(const char* fname, uint32_t key)
 {
-    Head head;
-    FILE* fp = fopen(fname, "rb");
-    if (!fp)
+    const int fd = open(fname, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
         return nullptr;
-    const bool is_plain = read_head(fp, &head);
-    (void)fclose(fp);
+    Head head;
+    const bool is_plain = read_head(fd, &head);
+    (void)close(fd);
     if (!is_plain || key == 0 || !tdl_blends_bytes())
         return TDL_LoadBmp(fname);
     const SDL_PixelFormat& f = *Screen->format;
@@ -78,21 +83,35 @@ static void decode_row(uint8_t* to, const uint8_t* from, int w, const SDL_PixelF
                    uint32_t(from[0]) << f.Bshift;
 }
 
+// Some rows at a time: a call a row costs more than the row. Not mapped: a drive that fails in the
+// middle would end the process.
+static bool read_rows(SDL_Surface* s, int fd, const Head& head)
+{
+    static uint8_t block[BLOCK];
+    const int rows_a_block = int(BLOCK / head.stride());
+    off_t at = off_t(head.pixels_at);
+    for (int left = s->h; left > 0;) {
+        const int rows = std::min(left, rows_a_block);
+        const size_t size = size_t(rows) * head.stride();
+        if (pread(fd, block, size, at) != ssize_t(size))
+            return false;
+        for (int i = 0; i < rows; i++) // the last row is the first of the file
+            decode_row(tdl_pixel_at(s, 0, --left), block + size_t(i) * head.stride(), s->w,
+                       *s->format);
+        at += off_t(size);
+    }
+    return true;
+}
+
 static bool read_pixels(SDL_Surface* s, const char* fname)
 {
-    FILE* fp = fopen(fname, "rb");
-    if (!fp)
-        return false;
     Head head;
-    bool is_read = read_head(fp, &head) && head.w == s->w && head.h == s->h &&
-                   fseek(fp, head.pixels_at, SEEK_SET) == 0;
-    static uint8_t row[SIDE_MAX * 3 + 3];
-    for (int y = s->h - 1; y >= 0 && is_read; y--) {
-        is_read = fread(row, 1, head.stride(), fp) == head.stride();
-        if (is_read)
-            decode_row(tdl_pixel_at(s, 0, y), row, s->w, *s->format);
-    }
-    (void)fclose(fp);
+    const int fd = open(fname, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool is_read =
+        read_head(fd, &head) && head.w == s->w && head.h == s->h && read_rows(s, fd, head);
+    (void)close(fd);
     return is_read;
 }
 

@@ -3,6 +3,7 @@
 #include "i2c.h"
 #include "log.h"
 #include "process.h"
+#include "ready.h"
 #include "text.h"
 #include "types.h"
 #include <SDL.h>
@@ -110,6 +111,7 @@ int touch_open()
         Touch_FD = -1;
         return 0;
     }
+    Ready_Watch(READY_TOUCH, Touch_FD);
     ioctl(Touch_FD, EVIOCGRAB, 1); // a pipe cannot be grabbed and need not be
     touch.record_size = touch_record_size(Touch_FD);
     Log_Output(LOG_LINK, MOD_START, "Touch Panel: dev=%s, fd=%d", name, Touch_FD);
@@ -175,6 +177,7 @@ static void touch_lost()
 {
     close(Touch_FD);
     Touch_FD = -1;
+    Ready_Watch(READY_TOUCH, 0);
     Log_Output(LOG_LINK, MOD_START, "Touch Panel Closed.");
     touch.up_p = touch.tp;
     touch.tp = touch.up_xy = 0;
@@ -242,7 +245,8 @@ void Touch_Poll(int elapsed_ms)
     if (touch.owes)
         touch_sync();
     if (Touch_FD >= 0) {
-        touch_read_all();
+        if (!Ready_IsQuiet(READY_TOUCH))
+            touch_read_all();
         return;
     }
     touch.retry_ms += elapsed_ms;

@@ -9,6 +9,7 @@
 #include "log.h"
 #include "netio.h"
 #include "page.h"
+#include "ready.h"
 #include <algorithm>
 #include <cstring>
 #include <ctime>
@@ -75,6 +76,37 @@ static void ComeBack(Peer& peer, int* keep = nullptr)
     ASSERT_TRUE(peer.Accept());
     (void)Net_ReceiveCommand();
     EXPECT_EQ(GL_NetReConnect, 1);
+}
+
+TEST_F(Link, APassReadsWhatHadComeWhenItAsked)
+{
+    Peer peer(NET_TEXT_PORT);
+    Connect(peer);
+    Ready_Ask();
+    peer.Send("A#1\nB#2\n");
+    usleep(20000);
+    EXPECT_FALSE(Net_ReceiveCommand());
+    Ready_Ask();
+    EXPECT_STREQ(Net_ReceiveCommand(), "A#1");
+    EXPECT_STREQ(Net_ReceiveCommand(), "B#2");
+    EXPECT_FALSE(Net_ReceiveCommand());
+    peer.Drop();
+    usleep(20000);
+    Ready_Ask();
+    (void)Net_ReceiveCommand();
+    EXPECT_EQ(Net_TakeTextLoss(), 1) << "an end is something to read, too";
+    GL_NetReConnect = 0;
+    for (int i = 0; i < 100 && !GL_NetReConnect; i++, usleep(1000)) {
+        Ready_Ask();
+        (void)Net_ReceiveCommand();
+    }
+    ASSERT_TRUE(peer.Accept());
+    Ready_Ask();
+    peer.Send("C#3\n");
+    usleep(20000);
+    EXPECT_FALSE(Net_ReceiveCommand()) << "the new socket is asked for as well";
+    Ready_Ask();
+    EXPECT_STREQ(Net_ReceiveCommand(), "C#3");
 }
 
 static std::string Numbered(int i)
@@ -278,6 +310,7 @@ static double Now_ms()
 // What a pass does with the links.
 static void LinkPass()
 {
+    Ready_Ask();
     ReceiveCommand_Management();
     (void)Net_SendCommandQueue();
     (void)Net_SendBinCommandQueue();

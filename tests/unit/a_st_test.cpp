@@ -265,7 +265,7 @@ TEST_F(StatusCells, AnUnknownWordOrPatternLeavesTheFrameEmpty)
     EXPECT_EQ(Count(picture, LIT), 94 * 45);
     for (const char* number : {"0", "-1", "4000", "99999999999999999999", "x", ""})
         EXPECT_EQ(st_pattern(number), nullptr) << number;
-    EXPECT_EQ(st_pattern("3999"), G_WipePtn[3999]);
+    EXPECT_EQ(st_pattern("3999"), WipePtn(3999));
     EXPECT_TRUE(st_pattern("1"));
 }
 

@@ -92,10 +92,10 @@ TEST(Graphics, OnlyNumbersInRangeBecomePatterns)
     SaveBitmap("ptn/9", 99); // what the cut name 9.old leads to
     LoadGraphics();
     int loaded = 0;
-    for (const SDL_Surface* s : G_WipePtn)
-        loaded += s != nullptr;
+    for (int n = -1; n <= WIPE_PTN_MAX; n++)
+        loaded += WipePtn(n) != nullptr;
     EXPECT_EQ(loaded, 3);
-    EXPECT_EQ(WidthOf(G_WipePtn[9]), 99);
+    EXPECT_EQ(WidthOf(WipePtn(9)), 99);
     EXPECT_EQ(LogLinesWith("graphics/ptn/"), 0);
 }
 
@@ -110,14 +110,14 @@ TEST(Graphics, TheSmallerModelReplacesItsOwnPictures)
     SaveBitmap("ptn/2001e", 22);
     SaveBitmap("ptn/2002", 23);
     LoadGraphics();
-    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 21);
+    EXPECT_EQ(WidthOf(WipePtn(2001)), 21);
     LoadDmeWipePtn_KTR20();
-    EXPECT_EQ(WidthOf(G_WipePtn[1001]), 20) << "not one of them";
-    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 22);
-    EXPECT_EQ(G_WipePtn[2002], nullptr);
+    EXPECT_EQ(WidthOf(WipePtn(1001)), 20) << "not one of them";
+    EXPECT_EQ(WidthOf(WipePtn(2001)), 22);
+    EXPECT_EQ(WipePtn(2002), nullptr);
     LoadDmeWipePtn_Standard();
-    EXPECT_EQ(WidthOf(G_WipePtn[2001]), 21);
-    EXPECT_EQ(WidthOf(G_WipePtn[2002]), 23);
+    EXPECT_EQ(WidthOf(WipePtn(2001)), 21);
+    EXPECT_EQ(WidthOf(WipePtn(2002)), 23);
 }
 
 TEST(Graphics, PixelsComeWithTheFirstUseAndAChangedFileIsBlack)

@@ -80,3 +80,29 @@ TEST(NetioFrame, AnImpossibleLengthIsSeenInItsTwoBytes)
     EXPECT_EQ(net_take_frame(buf, &fill, frame), 2 + 1039);
     EXPECT_EQ(fill, 0);
 }
+
+// The bytes of a stream come in two pieces, cut at every place.
+TEST(NetioFrame, FramesComeWholeAndInOrderWhereverTheyWereCut)
+{
+    const Strings frames = {std::string("\0\11\x84\xAA\0\2\0\1\2\xFF\xFF", 11),
+                            std::string("\0\7\x84\xAA\0\x10\0\xFF\xFF", 9),
+                            std::string("\1\7\x84", 3) + std::string(262, 'd'),
+                            std::string(2, '\0')};
+    std::string stream;
+    for (const auto& frame : frames)
+        stream += frame;
+    for (size_t cut = 0; cut <= stream.size(); cut++) {
+        unsigned char buf[8192];
+        unsigned char frame[NET_FRAME_MAX];
+        int fill = 0;
+        Strings taken;
+        for (const auto& piece : {stream.substr(0, cut), stream.substr(cut)}) {
+            memcpy(buf + fill, piece.data(), piece.size());
+            fill += int(piece.size());
+            while (const int size = net_take_frame(buf, &fill, frame))
+                taken.emplace_back(reinterpret_cast<char*>(frame), size_t(size));
+        }
+        ASSERT_EQ(taken, frames) << cut;
+        ASSERT_EQ(fill, 0);
+    }
+}

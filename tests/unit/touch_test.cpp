@@ -2,6 +2,7 @@
 #include "harness.h"
 #include "i2c.h"
 #include "log.h"
+#include "ready.h"
 #include "touch.h"
 #include <fcntl.h>
 #include <linux/input.h>
@@ -125,7 +126,11 @@ TEST_F(Touch, PanelIsFoundGrabbedAndLostAndFoundAgain)
         int32_t value;
     } records[] = {{0, 0, EV_ABS, ABS_X, 512}, {0, 0, EV_KEY, BTN_TOUCH, 1}, {0, 0, EV_SYN, 0, 0}};
     static_assert(sizeof records == 48);
+    Ready_Ask();
     ASSERT_EQ(write(writer, records, sizeof records), ssize_t(sizeof records));
+    Touch_Poll(10);
+    EXPECT_TRUE(Events().empty()) << "nothing had come when the pass asked";
+    Ready_Ask();
     Touch_Poll(10);
     auto events = Events();
     ASSERT_FALSE(events.empty());
