@@ -503,7 +503,8 @@ static void wait_pass(int elapsed_ms)
 void fm_drop_pass(int elapsed_ms)
 {
     if (!fm_drop_is_set_up()) {
-        setup_pass();
+        if (elapsed_ms > 0) // a mere repaint does not wait for a command
+            setup_pass();
         return;
     }
     if (drop.state == DROP_WAIT)

@@ -60,7 +60,8 @@ int main(int argc, char** argv)
     LoadGraphics();
     Net_SendCommand("put Info@Initial Read Status#true");
     GL_NetReConnect = 0;
-    (void)CreatePage(PAGE_TOP); // the one page change outside the loop
+    (void)CreatePage(PAGE_TOP);   // the one page change outside the loop
+    (void)Net_SendCommandQueue(); // the server answers while the drives are looked at
     DriveCheck();
     InitialProgress(1);
     Touch_LoadCalibration();
