@@ -577,16 +577,6 @@ SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc)
     return small;
 }
 
-SDL_Surface* TDL_LoadBmp(const char* fname)
-{
-    SDL_Surface* loaded = SDL_LoadBMP(fname);
-    if (!loaded)
-        return nullptr;
-    SDL_Surface* converted = SDL_DisplayFormat(loaded);
-    SDL_FreeSurface(loaded);
-    return converted;
-}
-
 SDL_Surface* TDL_ScreenSaverBMP(const char* fname)
 {
     return TDL_LoadBmp(fname);

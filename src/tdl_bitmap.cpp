@@ -55,25 +55,7 @@ static bool read_head(int fd, Head* head)
            head->h <= SIDE_MAX;
 }
 
-SDL_Surface* TDL_OpenBmp(const char* fname, uint32_t key)
-{
-    const int fd = open(fname, O_RDONLY | O_CLOEXEC);
-    if (fd < 0)
-        return nullptr;
-    Head head;
-    const bool is_plain = read_head(fd, &head);
-    (void)close(fd);
-    if (!is_plain || key == 0 || !tdl_blends_bytes())
-        return TDL_LoadBmp(fname);
-    const SDL_PixelFormat& f = *Screen->format;
-    SDL_Surface* made = SDL_CreateRGBSurfaceFrom(nullptr, head.w, head.h, 32, head.w * 4, f.Rmask,
-                                                 f.Gmask, f.Bmask, 0);
-    if (made)
-        made->unused1 = key;
-    return made;
-}
-
-// --- The first use ---
+// --- Pixels ---
 
 static void decode_row(uint8_t* to, const uint8_t* from, int w, const SDL_PixelFormat& f)
 {
@@ -103,6 +85,12 @@ static bool read_rows(SDL_Surface* s, int fd, const Head& head)
     return true;
 }
 
+static SDL_Surface* new_bitmap(int w, int h)
+{
+    const SDL_PixelFormat& f = *Screen->format;
+    return SDL_CreateRGBSurface(SDL_SWSURFACE, w, h, 32, f.Rmask, f.Gmask, f.Bmask, 0);
+}
+
 static bool read_pixels(SDL_Surface* s, const char* fname)
 {
     Head head;
@@ -115,12 +103,59 @@ static bool read_pixels(SDL_Surface* s, const char* fname)
     return is_read;
 }
 
+static SDL_Surface* load_plain(int fd)
+{
+    Head head;
+    if (!read_head(fd, &head))
+        return nullptr;
+    SDL_Surface* made = new_bitmap(head.w, head.h);
+    if (made && read_rows(made, fd, head))
+        return made;
+    SDL_FreeSurface(made);
+    return nullptr;
+}
+
+// The usual kind on the usual screen is read as it stands; the library, which takes four times as
+// long, has all others.
+SDL_Surface* TDL_LoadBmp(const char* fname)
+{
+    const int fd = open(fname, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return nullptr;
+    SDL_Surface* made = tdl_blends_bytes() ? load_plain(fd) : nullptr;
+    (void)close(fd);
+    SDL_Surface* loaded = made ? nullptr : SDL_LoadBMP(fname);
+    if (!loaded)
+        return made;
+    made = SDL_DisplayFormat(loaded);
+    SDL_FreeSurface(loaded);
+    return made;
+}
+
+// --- The first use ---
+
+SDL_Surface* TDL_OpenBmp(const char* fname, uint32_t key)
+{
+    const int fd = open(fname, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return nullptr;
+    Head head;
+    const bool is_plain = read_head(fd, &head);
+    (void)close(fd);
+    if (!is_plain || key == 0 || !tdl_blends_bytes())
+        return TDL_LoadBmp(fname);
+    const SDL_PixelFormat& f = *Screen->format;
+    SDL_Surface* made = SDL_CreateRGBSurfaceFrom(nullptr, head.w, head.h, 32, head.w * 4, f.Rmask,
+                                                 f.Gmask, f.Bmask, 0);
+    if (made)
+        made->unused1 = key;
+    return made;
+}
+
 // A file that has gone or changed since the start leaves a black bitmap of the size that was there.
 void tdl_fetch_pixels(SDL_Surface* s)
 {
-    const SDL_PixelFormat& f = *s->format;
-    SDL_Surface* made =
-        SDL_CreateRGBSurface(SDL_SWSURFACE, s->w, s->h, 32, f.Rmask, f.Gmask, f.Bmask, 0);
+    SDL_Surface* made = new_bitmap(s->w, s->h);
     if (!made)
         return; // tried again at the next use
     SDL_FillRect(made, nullptr, 0);
