@@ -3,6 +3,7 @@
 #pragma once
 #include "nb_rows.h"
 #include "rows.h"
+#include "st_ccr.h"
 #include <array>
 
 // --- Tabs ---
@@ -70,6 +71,9 @@ inline constexpr auto nb_ccr_video = Column(
 
 // --- Buttons ---
 
+// On each page of a corrector: what is set there shows only while it corrects.
+#define CCR_ON Toggle({.id = 38, .caption = "Correction", .group = "CCR", .cmd = {"~2@Insert@Correction#*"}})
+
 inline constexpr BT_TBL bt_ccr_white[] = {
     Toggle({.id = 17, .caption = "White",  .group = "Level", .cmd = {"~@White#*"}, .nb = nb_ccr_white.row}),
     Toggle({.id = 18, .caption = "Black",  .group = "Level", .cmd = {"~@Black#*"}, .nb = nb_ccr_black.row}),
@@ -77,6 +81,7 @@ inline constexpr BT_TBL bt_ccr_white[] = {
     Action({.id = 33, .caption = "Auto\nWhite", .group = "Balance", .cmd = {"~@Auto White#*", "~@White#false"}}),
     Action({.id = 34, .caption = "Auto\nBlack", .group = "Balance", .cmd = {"~@Auto Black#*", "~@Black#false"}}),
     Action({.id = 22, .caption = "Unity",  .group = "Reset", .cmd = {"~@Unity#*"}}),
+    CCR_ON,
     BT_END,
 };
 inline constexpr BT_TBL bt_ccr_gamma[] = {
@@ -85,6 +90,7 @@ inline constexpr BT_TBL bt_ccr_gamma[] = {
     Toggle({.id = 33, .caption = "Knee",   .group = "Knee", .cmd = {"~@Knee#*"}, .nb = nb_ccr_knee.row}),
     Toggle({.id = 34, .caption = "Auto\nKnee", .group = "Knee", .cmd = {"~@Auto Knee#*", "~@Knee#false"}}),
     Action({.id = 22, .caption = "Unity",  .group = "Reset", .cmd = {"~@Unity#*"}}),
+    CCR_ON,
     BT_END,
 };
 inline constexpr BT_TBL bt_ccr_clip[] = {
@@ -93,6 +99,7 @@ inline constexpr BT_TBL bt_ccr_clip[] = {
     Radio ({.id = 33, .caption = "RGB", .group = "Color Space", .cmd = {"~@Color Space#RGB"}}),
     Radio ({.id = 34, .caption = "YUV", .group = "Color Space", .cmd = {"~@Color Space#YUV"}}),
     Action({.id = 22, .caption = "Unity", .group = "Reset", .cmd = {"~@Unity#*"}}),
+    CCR_ON,
     BT_END,
 };
 // A colour is picked out of the picture, and turned into another.
@@ -104,6 +111,7 @@ inline constexpr BT_TBL bt_ccr_clip[] = {
 inline constexpr BT_TBL bt_ccr_spot[] = {
     CCR_SPOT_KEYS(1, "1"), CCR_SPOT_KEYS(2, "2"), CCR_SPOT_KEYS(3, "3"),
     Action({.id = 22, .caption = "Unity", .group = "Reset", .cmd = {"~@Unity#*"}}),
+    CCR_ON,
     BT_END,
 };
 #undef CCR_SPOT_KEYS
@@ -111,6 +119,7 @@ inline constexpr BT_TBL bt_ccr_luminance[] = {
     Toggle({.id = 17, .caption = "Lum\nProcess", .group = "Lum Process", .cmd = {"~@Lum Process#*"}, .nb = nb_ccr_luminance.row}),
     Knobs ({.id = 18, .caption = "Range", .group = "Lum Process", .cmd = {"", "~@Lum Process#false"}, .nb = nb_ccr_ranges.row}),
     Action({.id = 22, .caption = "Unity", .group = "Reset", .cmd = {"~@Unity#*"}}),
+    CCR_ON,
     BT_END,
 };
 inline constexpr BT_TBL bt_ccr_video[] = {
@@ -119,10 +128,13 @@ inline constexpr BT_TBL bt_ccr_video[] = {
     Toggle({.id = 33, .caption = "Lum\nInvert", .group = "Invert", .cmd = {"~@Lum Invert#*", "~@Video Process#false"}}),
     Toggle({.id = 34, .caption = "Chroma\nInvert", .group = "Invert", .cmd = {"~@Chroma Invert#*", "~@Video Process#false", "~@Mono#true"}}),
     Action({.id = 22, .caption = "Unity", .group = "Reset", .cmd = {"~@Unity#*"}}),
+    CCR_ON,
     BT_END,
 };
+#undef CCR_ON
 // Where the corrector sits. A small switcher has it at an input, a larger one also behind its buses.
 #define CCR_INSERT(other) \
+    Jump  ({.id = 49, .caption = "Input\nSetup", .group = "Setup", .cmd = {"#73320006", "~@Insert#!Input"}}), \
     Toggle({.id = 17, .caption = "Correction", .group = "Correction", .cmd = {"~@Correction#*"}}), \
     Toggle({.id = 18, .caption = "Split\nScreen", .group = "Correction", .cmd = {"~@Split Screen#*", "~@Correction#false"}}), \
     Action({.id = 20, .caption = "Copy\nto CCR" other, .group = "Memory", .cmd = {"~@Copy#*"}}), \
@@ -135,8 +147,8 @@ inline constexpr BT_TBL bt_ccr_video[] = {
     Radio ({.id = 36, .caption = "Aux 1",      .group = "Insert", .cmd = {"~@Insert#Aux 1"}}), \
     Radio ({.id = 37, .caption = "Aux 2",      .group = "Insert", .cmd = {"~@Insert#Aux 2"}}), \
     Radio ({.id = 38, .caption = "Program",    .group = "Insert", .cmd = {"~@Insert#Program"}})
-inline constexpr BT_TBL bt_ccr_insert[][9] = {{CCR_INSERT("2"), BT_END}, {CCR_INSERT("1"), BT_END}};
-inline constexpr BT_TBL bt_ccr_insert_large[][12] = {{CCR_INSERT("2"), CCR_FURTHER, BT_END}, {CCR_INSERT("1"), CCR_FURTHER, BT_END}};
+inline constexpr BT_TBL bt_ccr_insert[][10] = {{CCR_INSERT("2"), BT_END}, {CCR_INSERT("1"), BT_END}};
+inline constexpr BT_TBL bt_ccr_insert_large[][13] = {{CCR_INSERT("2"), CCR_FURTHER, BT_END}, {CCR_INSERT("1"), CCR_FURTHER, BT_END}};
 #undef CCR_FURTHER
 #undef CCR_INSERT
 static_assert(ButtonsAreSound(bt_ccr_white) && ButtonsAreSound(bt_ccr_gamma) && ButtonsAreSound(bt_ccr_clip));
@@ -167,7 +179,7 @@ constexpr auto CcrRows()
     for (uint32_t ccr = 0; ccr < 2; ccr++)
         for (const CcrPage& p : ccr_templates)
             rows[n++] = {.id = p.id + 0x100000 * ccr, .tree = {"CCR", ccr ? "CCR2" : "CCR1", p.name},
-                         .obj = {Base(base_main), LeftTabs(vf_ccr, ccr + 2), BottomTabs(hf_ccr[ccr], p.id >> 16 & 0x0F), Buttons(p.buttons[ccr]), Boxes(NB_Non)}};
+                         .obj = {Base(base_main), LeftTabs(vf_ccr, ccr + 2), BottomTabs(hf_ccr[ccr], p.id >> 16 & 0x0F), Buttons(p.buttons[ccr]), Boxes(NB_Non), Cells(st_ccr[ccr])}};
     return rows;
 }
 inline constexpr auto ccr_pages = CcrRows();
@@ -180,6 +192,7 @@ inline constexpr auto ccr_pages = CcrRows();
     Jump  ({.id = 16 * (line) + 4, .caption = "Insert", .group = "CCR" n, .cmd = {"#24" n "70000"}})
 inline constexpr BT_TBL bt_ccr_top[] = {
     CCR_STATE(1, "1"), CCR_STATE(2, "2"),
+    Jump({.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_ccr_top));

@@ -29,6 +29,7 @@ inline constexpr BT_TBL bt_color_bkgd[] = {
     Action({.id = 49, .caption = "Copy\n1 to 2", .group = "Bkgd", .cmd = {"~@Copy 1 to 2#*"}}),
     Action({.id = 50, .caption = "Copy\n2 to 1", .group = "Bkgd", .cmd = {"~@Copy 2 to 1#*"}}),
     Action({.id = 51, .caption = "Swap",         .group = "Bkgd", .cmd = {"~@Swap#*"}}),
+    Jump  ({.id = 6,  .caption = "Top\nMenu",    .cmd = {"#00110000"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_color_bkgd));
