@@ -201,8 +201,8 @@ const PC_TBL pc_device_control = {control_proc, control_create};
 
 // --- Files: the server lists those of one device when it is asked for them ---
 
-static constexpr ONEOFCOLUMN file_columns[] = {{DEVICE_PATH "Type", type_words},
-                                               {DEVICE_PATH "File"}};
+static constexpr ONEOFCOLUMN file_columns[] = {
+    {DEVICE_PATH "Type", type_words}, {DEVICE_PATH "Transport"}, {DEVICE_PATH "File"}};
 static constexpr ONEOF file_devices = table_of(&devices, device_names, file_columns);
 
 static struct {

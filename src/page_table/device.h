@@ -92,8 +92,8 @@ static_assert(ButtonsAreSound(bt_device_timeline) && ListsAreSound(ls_device_tim
 #undef KEYFRAME_ACTION
 
 inline constexpr LS_TBL ls_device_files[] = {
-    DeviceList({.id = 1, .hn = 3, .vn = 15, .x = 100, .head = {"Dev", "Type", "File"}, .width = {52, 60, 92}}),
-    DeviceList({.id = 2, .hn = 3, .vn = 15, .x = 358, .head = {"No", "Name", "Length"}, .width = {44, 154, 90}}),
+    DeviceList({.id = 1, .hn = 4, .vn = 15, .x = 100, .head = {"Dev", "Type", "State", "File"}, .width = {46, 54, 62, 104}}),
+    DeviceList({.id = 2, .hn = 3, .vn = 15, .x = 420, .head = {"No", "Name", "Length"}, .width = {30, 122, 76}}),
     LS_END,
 };
 #define DISK "~3@Type#!DDR"
