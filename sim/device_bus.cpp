@@ -1,10 +1,16 @@
 #include "device_bus.h"
+#include "log.h"
+#include "system.h"
 #include "text.h"
 #include "tree.h"
+#include <algorithm>
+#include <climits>
 
 static constexpr int PBUS_DEVICES = 24, GPI_OUTPUTS = 8;
 static const std::string PBUS = "Device@P-BUS@", PBUS_TIMELINE = "Device@P-BUS Timeline@";
 static const std::string GPI = "Device@GPI@", GPI_TIMELINE = "Device@GPI Timeline@";
+
+static int64_t pulse_ms[GPI_OUTPUTS]; // when each output gives its pulse; 0: none is due
 
 static std::string value_of(const std::string& path)
 {
@@ -60,8 +66,47 @@ bool DeviceBus_Put(const std::string& path, const std::string& value)
     return false;
 }
 
+// --- Timelines ---
+
+void DeviceBus_RunPbus()
+{
+    for (int n = 0; n < PBUS_DEVICES; ++n) {
+        const std::string action = value_of(pbus_path(PBUS_TIMELINE, n, "Action"));
+        const char* const number = action == "Recall" ? "Register" : "Trigger";
+        if (action != "None" && value_of(pbus_path(PBUS, n, "Enable")) == "true")
+            Tree_Show(pbus_path(PBUS, n, "Last"),
+                      action + " " + value_of(pbus_path(PBUS_TIMELINE, n, number)));
+    }
+}
+
+void DeviceBus_RunGpi()
+{
+    for (int n = 0; n < GPI_OUTPUTS; ++n) {
+        long frames = 0;
+        (void)Text_ToInt(value_of(numbered_path(GPI_TIMELINE, n, "Delay")), &frames);
+        if (value_of(numbered_path(GPI, n, "Enable")) == "true" &&
+            value_of(numbered_path(GPI_TIMELINE, n, "Fire")) == "true")
+            pulse_ms[n] = Now_Ms() + frames * 1000 / System_FrameRate();
+    }
+}
+
+int64_t DeviceBus_Tick(int64_t now)
+{
+    int64_t next = INT64_MAX;
+    for (int n = 0; n < GPI_OUTPUTS; ++n) {
+        if (pulse_ms[n] && pulse_ms[n] <= now) {
+            pulse_ms[n] = 0;
+            Log_Note("GPI output %d: fired by its timeline", n + 1);
+        }
+        if (pulse_ms[n])
+            next = std::min(next, pulse_ms[n]);
+    }
+    return next;
+}
+
 void DeviceBus_Install()
 {
+    std::fill(pulse_ms, pulse_ms + GPI_OUTPUTS, 0);
     static const char* const names[PBUS_DEVICES] = {"DVE 1", "DVE 2", "AUDIO MIXER", "STILL STORE",
                                                     "CG 1",  "CG 2",  "LIGHTS"};
     for (int n = 0; n < PBUS_DEVICES; ++n) {

@@ -132,6 +132,11 @@ static void show_state(int n, const std::string& word)
 
 // --- Transport ---
 
+static bool is_ours(int n)
+{
+    return value_of(path_of(n, "Control")) == "Remote";
+}
+
 static void cue(int n, int frame)
 {
     Machine& m = dv.machine[n];
@@ -253,17 +258,16 @@ static void load(int n, const std::string& file)
 // True when the put is done with; an action goes on to fall back by itself.
 static bool put_machine(int n, const std::string& what, const std::string& value)
 {
-    const bool is_ours = value_of(path_of(n, "Control")) == "Remote";
     const bool may_record = value_of(path_of(n, "Rec Enable")) == "true";
     const std::string point = Text_Begins(what, "Timeline@") ? "Timeline@Start TC" : "";
     if (what == "Transport") {
-        if (is_ours && (value != "Record" || may_record))
+        if (is_ours(n) && (value != "Record" || may_record))
             move(n, value);
     } else if (what == "File")
         load(n, value);
     else if (what == "Eject")
         load(n, "");
-    else if (what == "Recue" && is_ours)
+    else if (what == "Recue" && is_ours(n))
         move(n, what);
     else if (Text_Matches(what, "*Set ?*") && !point.empty())
         Tree_Show(path_of(n, point), std::to_string(int(dv.machine[n].frame)));
@@ -350,6 +354,34 @@ void DeviceVtr_CueTo(const std::string& device, const std::string& text)
     const int n = machine_of(device), frame = frames_of(text);
     if (n >= 0)
         cue(n, !text.empty() && frame >= 0 ? frame : point_of(n, "Start TC"));
+}
+
+// --- Timelines ---
+
+// The points of the timeline become those of the device.
+void DeviceVtr_RunTimeline(int n)
+{
+    const std::string action = value_of(path_of(n, "Timeline@Action"));
+    if (!is_ours(n) || action == "None")
+        return;
+    for (const char* point : {"Start TC", "Stop TC"})
+        Tree_Show(path_of(n, point), value_of(path_of(n, std::string("Timeline@") + point)));
+    if (action == "Play" || action == "Variable") {
+        dv.machine[n].frame = std::clamp(point_of(n, "Start TC"), 0, length_of(n) - 1);
+        show_place(n);
+    }
+    if (action == "Variable")
+        Tree_Show(path_of(n, "Speed"), value_of(path_of(n, "Timeline@Speed")));
+    (void)put_machine(n, "Transport", action);
+}
+
+void DeviceVtr_RewindTimeline(int n)
+{
+    const std::string action = value_of(path_of(n, "Timeline@Rewind Action"));
+    if (is_ours(n) && action == "Cue Up")
+        cue(n, point_of(n, "Timeline@Start TC"));
+    else if (action == "Stop")
+        (void)put_machine(n, "Transport", action);
 }
 
 void DeviceVtr_Install()

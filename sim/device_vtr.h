@@ -16,6 +16,10 @@ bool DeviceVtr_Put(const std::string& path, const std::string& value);
 bool DeviceVtr_Do(const std::string& device, const std::string& transport);
 void DeviceVtr_Load(const std::string& device, const std::string& file);
 void DeviceVtr_CueTo(const std::string& device, const std::string& timecode); // "" its start
+// The effect of the device's region passes its first keyframe, or is rewound: the device does what
+// its timeline says. n counts from 0.
+void DeviceVtr_RunTimeline(int n);
+void DeviceVtr_RewindTimeline(int n);
 // A knob on a time code. False: a value like others, which the knob moves by itself.
 bool DeviceVtr_Turn(const std::string& path, int detents);
 // The shuttle or the variable speed is another one now.

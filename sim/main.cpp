@@ -3,6 +3,7 @@
 #include "autoload.h"
 #include "clip_output.h"
 #include "console.h"
+#include "device_bus.h"
 #include "device_vtr.h"
 #include "dissolve.h"
 #include "drive.h"
@@ -113,11 +114,11 @@ static void main_turn(int64_t* next)
     const int64_t then = Now_Ms();
     // The console first: what it starts is due at once.
     *next = Console_Tick(then);
-    *next =
-        std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
-                  Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then), FileJob_Tick(then),
-                  Hub_Tick(then), ClipOutput_Tick(then), Autoload_Tick(then), Setup_Tick(then),
-                  FrameMemory_Tick(then), Macro_Tick(then), DeviceVtr_Tick(then), Sp_Tick(then)});
+    *next = std::min({*next, Verb_Tick(then), System_Tick(then), Timeline_Tick(then),
+                      Transition_Tick(then), Dissolve_Tick(then), Fault_Tick(then),
+                      FileJob_Tick(then), Hub_Tick(then), ClipOutput_Tick(then),
+                      Autoload_Tick(then), Setup_Tick(then), FrameMemory_Tick(then),
+                      Macro_Tick(then), DeviceVtr_Tick(then), DeviceBus_Tick(then), Sp_Tick(then)});
 }
 
 int main(int argc, char** argv)

@@ -26,6 +26,7 @@ enum RegionIndex {
     REGION_DME1 = 20,
     REGION_DEV1 = 28,
     REGION_PBUS = 40,
+    REGION_GPI = 41,
     REGION_MACRO = 42,
     REGION_RTR = 43,
     REGION_GLOBAL1 = 44, // the common part of a DME channel: selected together with it

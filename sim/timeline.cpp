@@ -1,4 +1,6 @@
 #include "timeline.h"
+#include "device_bus.h"
+#include "device_vtr.h"
 #include "region.h"
 #include "stream.h"
 #include "system.h"
@@ -205,6 +207,26 @@ void Timeline_SetHead(int region, int number, const std::string& name, bool is_l
     Stream_Effect(region);
 }
 
+// --- Devices follow the effects of their regions ---
+
+static int device_of(const Timeline& line)
+{
+    const int n = int(&line - tl.lines) - REGION_DEV1;
+    return n >= 0 && n < REGION_PBUS - REGION_DEV1 ? n : -1;
+}
+
+static void line_starts_devices(const Timeline& line)
+{
+    if (line.run <= 0 || line.time != line.delay())
+        return;
+    if (const int n = device_of(line); n >= 0)
+        DeviceVtr_RunTimeline(n);
+    else if (&line == &tl.lines[REGION_PBUS])
+        DeviceBus_RunPbus();
+    else if (&line == &tl.lines[REGION_GPI])
+        DeviceBus_RunGpi();
+}
+
 // --- Run control ---
 
 static void line_run(Timeline& line, int direction)
@@ -216,6 +238,7 @@ static void line_run(Timeline& line, int direction)
     else if (direction < 0 && line.time <= 0)
         line_go_to(line, line.end());
     line.run = direction;
+    line_starts_devices(line);
 }
 
 static void line_run_as_set(Timeline& line, int)
@@ -233,6 +256,8 @@ static void line_rewind(Timeline& line, int)
 {
     line.run = 0;
     line_go_to(line, 0);
+    if (const int n = device_of(line); n >= 0)
+        DeviceVtr_RewindTimeline(n);
 }
 
 static void line_fast_forward(Timeline& line, int)
@@ -422,16 +447,21 @@ static bool line_loops_back(Timeline& line)
     return true;
 }
 
-static void line_step(Timeline& line)
+static void line_turn_or_stop(Timeline& line)
 {
-    line.time += line.run;
-    if (line.run > 0 && line_loops_back(line))
-        return;
     const bool is_at_end = line.run > 0 ? line.time >= line.end() : line.time <= 0;
     if (has_pause_at(line, line.time) || (is_at_end && !line.is_ping_pong))
         line.run = 0;
     else if (is_at_end)
         line.run = -line.run;
+}
+
+static void line_step(Timeline& line)
+{
+    line.time += line.run;
+    if (line.run < 0 || !line_loops_back(line))
+        line_turn_or_stop(line);
+    line_starts_devices(line);
 }
 
 static bool step_all()
