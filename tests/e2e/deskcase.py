@@ -14,6 +14,30 @@ LETTERS = {c: (row, first + i) for row, (first, keys) in
            for i, c in enumerate(keys)}
 
 
+def face(button_id):
+    """A standard button without its rim."""
+    x, y = grid(button_id)
+    return x - 36, y - 24, x + 36, y + 28
+
+
+def cell(column, line):
+    """A status cell."""
+    return 100 + 100 * column, 75 + 90 * line, 199 + 100 * column, 164 + 90 * line
+
+
+def bottom_tab(number):
+    return 97 + 86 * (number - 1) + 43, 564
+
+
+def left_tab(number):
+    return 48, 73 + 65 * (number - 1) + 30
+
+
+def list_row(number, top=76):
+    """The height of a row of a list, from 1."""
+    return top + 22 * number + 11
+
+
 class DeskCase(unittest.TestCase):
     """One start-up serves all tests."""
 
@@ -34,6 +58,30 @@ class DeskCase(unittest.TestCase):
         self.desk.console(f"page {number}")
         self.desk.wait_wire(sign)
         time.sleep(0.3)
+
+    def asked(self, line):
+        """What the simulator prints for a command of its console."""
+        out = os.path.join(self.desk.work, "sim.out")
+        seen = os.path.getsize(out)
+        self.desk.console(line)
+        time.sleep(0.2)
+        with open(out, encoding="latin-1") as f:
+            f.seek(seen)
+            return f.read()
+
+    def wait_value(self, path, expected, timeout=3.0):
+        end = time.monotonic() + timeout
+        while self.desk.value(path) != expected:
+            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {expected}")
+            time.sleep(0.05)
+
+    def wait_part(self, rect, before, timeout=2.0):
+        """The picture there, once it differs from before."""
+        end = time.monotonic() + timeout
+        while self.desk.part(*rect) == before:
+            self.assertLess(time.monotonic(), end, f"nothing changes in {rect}")
+            time.sleep(0.05)
+        return self.desk.part(*rect)
 
 
 class SetupCase(DeskCase):
@@ -62,10 +110,4 @@ class SetupCase(DeskCase):
 
     def listed(self, path, row):
         """A row of a list that the server holds, without its number."""
-        out = os.path.join(self.desk.work, "sim.out")
-        seen = os.path.getsize(out)
-        self.desk.console(f"get {path}")
-        time.sleep(0.2)
-        with open(out, encoding="latin-1") as f:
-            f.seek(seen)
-            return re.search(rf"^{re.escape(path)}#{row},(.*)$", f.read(), re.M).group(1)
+        return re.search(rf"^{re.escape(path)}#{row},(.*)$", self.asked(f"get {path}"), re.M).group(1)

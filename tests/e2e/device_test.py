@@ -4,7 +4,7 @@ import time
 import unittest
 
 from desk import grid
-from deskcase import DeskCase
+from deskcase import DeskCase, left_tab, list_row
 
 DESTINATION = "Router@Destination@"
 XPT = "Router@Status@Xpt Assign@"
@@ -13,21 +13,11 @@ BTN_TAKE, BTN_UNDO, BTN_LOCK = 33, 35, 54
 BTN_LOAD_CUE, BTN_PLAY = 51, 21
 
 
-def row(number):
-    return 76 + 22 * number + 11
-
-
 class Machines(DeskCase):
     """The tests build on one another, in the order of their names: one start-up serves all."""
 
     def touch(self, button_id):
         self.desk.touch(*grid(button_id), settle=0.2)
-
-    def wait_value(self, path, expected, timeout=3.0):
-        end = time.monotonic() + timeout
-        while (value := self.desk.value(path)) != expected:
-            self.assertLess(time.monotonic(), end, f"{path} is {value}, not {expected}")
-            time.sleep(0.05)
 
     def seconds(self):
         h, m, s, f = (int(part) for part in self.desk.value(DEVICE + "Time Code").split(":"))
@@ -36,8 +26,8 @@ class Machines(DeskCase):
     def test_1_a_source_is_routed(self):
         self.open_page("5111.0000", f"add {DESTINATION}Dest128@Owner")
         time.sleep(0.3)
-        self.desk.touch(200, row(3))
-        self.desk.touch(540, row(5))
+        self.desk.touch(200, list_row(3))
+        self.desk.touch(540, list_row(5))
         self.wait_value(DESTINATION + "Dest3@Preset", "SRC5")
         self.assertEqual(self.desk.value(XPT + "Dest3@Level1"), "SRC3", "not taken yet")
         self.desk.console("put Router@Level@Level8#false")
@@ -53,7 +43,7 @@ class Machines(DeskCase):
         time.sleep(0.2)
         before = self.desk.part(150, 100, 650, 500)
         self.desk.wire()
-        self.desk.touch(540, row(7))
+        self.desk.touch(540, list_row(7))
         self.assertNotEqual(self.desk.part(150, 100, 650, 500), before, "it says so")
         self.assertFalse([line for line in self.desk.wire() if "Preset" in line])
         self.desk.touch(400, 405)  # OK
@@ -66,10 +56,10 @@ class Machines(DeskCase):
 
     def test_3_a_file_is_cued_and_played_to_its_end(self):
         self.open_page("5323.0000", "put Device@DDR/VTR@File List#Dev1")
-        self.desk.touch(150, row(2))
+        self.desk.touch(150, list_row(2))
         self.desk.wait_wire("put Device@DDR/VTR@File List#Dev2")
         time.sleep(0.3)
-        self.desk.touch(500, row(2))
+        self.desk.touch(500, list_row(2))
         self.touch(BTN_LOAD_CUE)
         self.wait_value(DEVICE + "File", "BREAK BUMPER")
         self.wait_value(DEVICE + "Transport", "Cue Up")
@@ -84,6 +74,45 @@ class Machines(DeskCase):
         self.assertNotEqual(self.desk.part(364, 78, 697, 158), picture, "the time code counts")
         self.wait_value(DEVICE + "Transport", "Stop", 9)
         self.assertEqual(self.desk.value(DEVICE + "Position"), "119")
+
+    def test_4_devices_follow_the_effects_of_their_regions(self):
+        self.open_page("5322.0000", "put Device@DDR/VTR@Timeline@Tally Back#true")
+        self.touch(35)  # Play
+        self.touch(50)  # on rewind Cue Up
+        self.wait_value(DEVICE + "Timeline@Rewind Action", "Cue Up")
+        for line in (f"{DEVICE}Timeline@Start TC#1:00", "Device@P-BUS Timeline@P-Bus1@Action#Recall",
+                     "Device@P-BUS Timeline@P-Bus1@Register#7", "Device@GPI Timeline@3@Fire#true"):
+            self.desk.console("put " + line)
+        for region in ("Dev2", "P-Bus", "GPI"):
+            self.desk.console(f"kf {region} 2 300")
+            self.desk.console(f"run {region}")
+        self.wait_value(DEVICE + "Transport", "Play")
+        self.wait_value("Device@P-BUS@P-Bus1@Last", "Recall 7")
+        with open(self.desk.sim_log, encoding="latin-1") as log:
+            self.assertIn("GPI output 3: fired by its timeline", log.read())
+        self.desk.console("rewind Dev2")
+        self.wait_value(DEVICE + "Transport", "Cue Up")
+        self.assertEqual(self.desk.value(DEVICE + "Position"), "30")
+
+    def test_5_a_salvo_takes_several_destinations_at_once(self):
+        self.open_page("5111.0000", f"add {DESTINATION}Dest128@Owner")
+        for destination, source in ((5, 1), (6, 2)):
+            self.desk.touch(200, list_row(destination))
+            self.desk.touch(540, list_row(source))
+        self.desk.touch(*left_tab(4))
+        self.desk.touch(200, list_row(2))
+        self.touch(49)  # Store
+        self.wait_value("Router@Salvo@2@Dests", "2")
+        self.desk.console("put Router@Clear#true")
+        self.touch(51)  # Take
+        self.wait_value(XPT + "Dest6@Level1", "SRC2")
+        self.assertEqual(self.desk.value(XPT + "Dest5@Level1"), "SRC1")
+        self.assertEqual(self.desk.value(XPT + "Dest6@Level8"), "SRC6", "its level is off")
+        self.touch(53)  # Clear
+        self.wait_value("Router@Salvo@2@Dests", "0")
+        self.desk.wire()
+        self.touch(51)
+        self.assertFalse([line for line in self.desk.wire() if "Salvo" in line], "an empty one is not taken")
 
 
 if __name__ == "__main__":

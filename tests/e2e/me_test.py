@@ -5,32 +5,13 @@ import time
 import unittest
 
 from desk import grid
-from deskcase import DeskCase
+from deskcase import DeskCase, bottom_tab, cell, face, left_tab
 
 DEFAULT_KEY = (45, 563)
 WIPE = "M/E-1@Wipe@Main Pattern@Pattern"
 REGISTERS = "Snapshot@Wipe Snapshot@"
 BTN_STORE = 22
 BTN_OF_REGISTER = {1: 49, 4: 33, 5: 34}  # as on a keypad
-
-
-def face(button_id):
-    """A standard button without its rim."""
-    x, y = grid(button_id)
-    return x - 36, y - 24, x + 36, y + 28
-
-
-def cell(column, line):
-    """A status cell."""
-    return 100 + 100 * column, 75 + 90 * line, 199 + 100 * column, 164 + 90 * line
-
-
-def bottom_tab(number):
-    return 97 + 86 * (number - 1) + 43, 564
-
-
-def left_tab(number):
-    return 48, 73 + 65 * (number - 1) + 30
 
 
 class MixEffect(DeskCase):
@@ -60,20 +41,6 @@ class MixEffect(DeskCase):
         end = time.monotonic() + 2
         while abs(float(self.desk.value(path)) - wanted) > step / 2:
             self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {wanted}")
-
-    def wait_value(self, path, expected, timeout=2.0):
-        end = time.monotonic() + timeout
-        while self.desk.value(path) != expected:
-            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {expected}")
-            time.sleep(0.05)
-
-    def wait_part(self, rect, before, timeout=2.0):
-        """The picture there, once it differs from before."""
-        end = time.monotonic() + timeout
-        while self.desk.part(*rect) == before:
-            self.assertLess(time.monotonic(), end, f"nothing changes in {rect}")
-            time.sleep(0.05)
-        return self.desk.part(*rect)
 
     def work_through(self, pages, key):
         """All tabs of a keyer; pages is what its page numbers begin with, key its path."""
