@@ -195,6 +195,13 @@ int st_drw_dmestatus_value(int x, int y, int width, const char* label, const cha
 int st_drw_status_bank(ST_MEM*);
 int st_drw_status_rates(ST_MEM*);
 
+// --- Colour correctors and colour backgrounds: a_st_source ---
+int st_drw_source_levels(ST_MEM*);
+int st_drw_source_matte(ST_MEM*);
+int st_drw_source_mode(ST_MEM*);
+int st_drw_source_spots(ST_MEM*);
+int st_drw_source_insert(ST_MEM*);
+
 // --- The developer's page: a_st_test ---
 int st_drw_status_dummy(ST_MEM*); // paints nothing
 int st_drw_status_string_type(ST_MEM*);

@@ -213,6 +213,8 @@ static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form)
     const ST_MEM* c = st_begin(cell, st_in_view(cell), name);
     if (!c)
         return -1;
+    // The bitmaps are opaque on black: below its name a lit cell is black, too.
+    TDL_FillRectS(c->x1 + 3, c->y1 + DIAGRAM_Y - 5, c->x2 - 3, c->y2 - 3, BLACK);
     TDL_PutS(c->x1 + DIAGRAM_X, c->y1 + DIAGRAM_Y, G_Combiner_Base);
     put_tile(c, OUT_X, OUT_Y, G_Combiner_Out);
     for (int i = 0; i < form.channels; i++)

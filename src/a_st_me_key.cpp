@@ -351,12 +351,12 @@ static bool has_own_off()
 
 int st_drw_me_key_ontrans(ST_MEM* cell)
 {
-    return draw_transition(cell, name_of(cell, "On Trans", "On Trans"), KEYTRANS_OWN);
+    return draw_transition(cell, name_of(cell, "On Trans", "On Tr."), KEYTRANS_OWN);
 }
 
 int st_drw_me_key_offtrans(ST_MEM* cell)
 {
-    return draw_transition(cell, name_of(cell, "Off Trans", "Off Trans"),
+    return draw_transition(cell, name_of(cell, "Off Trans", "Off Tr."),
                            has_own_off() ? KEYTRANS_OWN : KEYTRANS_ON);
 }
 

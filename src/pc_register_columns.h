@@ -33,7 +33,7 @@ inline constexpr RegisterColumn effect_columns[] = {
     {"L/E", 40, TEXT_OF(le)},         {"Eff Diss", 60, TEXT_OF(effdiss)},
     {"M/E", 40, TEXT_OF(region[0])},  {"USR", 40, TEXT_OF(region[1])},
     {"DME", 40, TEXT_OF(region[2])},  {"DEV", 40, TEXT_OF(region[3])},
-    {"PBUS", 45, TEXT_OF(region[4])}, {"GPI", 50, TEXT_OF(region[5])},
+    {"PBus", 45, TEXT_OF(region[4])}, {"GPI", 50, TEXT_OF(region[5])},
     {"MCRO", 50, TEXT_OF(region[6])}, {}};
 inline constexpr RegisterColumn effect_dme_columns[] = {
     {"No", 40, TEXT_OF(no)},          {"Name", 160, TEXT_OF(name)},
@@ -44,7 +44,7 @@ inline constexpr RegisterColumn effect_ex_columns[] = {{"No", 40, TEXT_OF(no)},
                                                        {"L/E", 57, TEXT_OF(le)},
                                                        {"Eff Diss", 80, TEXT_OF(effdiss)},
                                                        {"DEV", 107, TEXT_OF(region[3])},
-                                                       {"PBUS", 108, TEXT_OF(region[4])},
+                                                       {"PBus", 108, TEXT_OF(region[4])},
                                                        {}};
 inline constexpr RegisterColumn effect_dual_columns[] = {{"No", 35, TEXT_OF(no)},
                                                          {"Name", 113, TEXT_OF(name)},

@@ -144,7 +144,7 @@ static void effect_map(const unsigned char* map, int is_held, RegisterLine* line
         bool is_in_group = false;
         for (int i = groups[g].first; i <= groups[g].last; i++)
             is_in_group |= map[i] != 0;
-        CopyText(line->region[g], is_in_group ? "*" : "");
+        CopyText(line->region[g], is_in_group ? "O" : "");
     }
     if (*line->le == 'E' && Region_Count && is_held)
         PrintText(line->le, "E%d", bits_in(map));

@@ -74,12 +74,29 @@ constexpr std::array<BT_TBL, 13> BkgdKeys(const char* pattern_page)
 inline constexpr std::array<BT_TBL, 13> bt_color_bkgd_of[] = {BkgdKeys("#22110001"), BkgdKeys("#22120001")};
 inline constexpr PS_TBL ps_color_bkgd = {.cmd = "~@Pattern", .init_nb = nb_color_bkgd_mix.row, .init_nb_caption = "Mix Pattern"};
 
+// --- Cells: a line a background ---
+
+#define BKGD_CELL(column, line, painter, path, ...) \
+    CellAt(column, line, {.id = 1 + (column) + 6 * (line), .draw_func = painter, .cmd = {path "@Mode", __VA_ARGS__}, .page = 0x22110000 + 0x10000 * (line)})
+#define BKGD_COLOR(column, line, path, color) \
+    BKGD_CELL(column, line, st_drw_source_matte, path, path "@" color "@Luminance", path "@" color "@Saturation", path "@" color "@Hue")
+#define BKGD_LINE(line, path) \
+    BKGD_CELL(0, line, st_drw_source_mode, path, path "@Mix Pattern@Pattern"), \
+    BKGD_COLOR(1, line, path, "Color 1"), \
+    BKGD_COLOR(2, line, path, "Color 2"), \
+    BKGD_CELL(3, line, st_drw_source_matte, path, path "@Mix Pattern@Size", path "@Mix Pattern@Soft")
+inline constexpr ST_TBL st_color_bkgd[] = {BKGD_LINE(0, "Color Bkgd@Bkgd 1"), BKGD_LINE(1, "Color Bkgd@Bkgd 2"), ST_END};
+static_assert(CellsAreSound(st_color_bkgd));
+#undef BKGD_LINE
+#undef BKGD_COLOR
+#undef BKGD_CELL
+
 // --- Pages ---
 
 constexpr PAGE BkgdPage(int n)
 {
     return {.id = uint32_t(0x22110000 + 0x10000 * n), .tree = {"Color Bkgd", n ? "Bkgd 2" : "Bkgd 1"},
-            .obj = {Base(base_main), LeftTabs(vf_color_bkgd, uint32_t(n + 2)), Buttons(bt_color_bkgd_of[n].data()), Boxes(NB_Non)}};
+            .obj = {Base(base_main), LeftTabs(vf_color_bkgd, uint32_t(n + 2)), Buttons(bt_color_bkgd_of[n].data()), Boxes(NB_Non), Cells(st_color_bkgd)}};
 }
 constexpr PAGE BkgdPattern(int n)
 {
@@ -87,8 +104,8 @@ constexpr PAGE BkgdPattern(int n)
             .obj = {Base(base_sub, uint32_t(0x22110000 + 0x10000 * n)), LeftTabs(vf_color_bkgd, uint32_t(n + 2)), Patterns(ps_color_bkgd), Boxes(NB_Non)}};
 }
 inline constexpr PAGE color_bkgd_pages[] = {
-    {.id = 0x22000000, .tree = {"Color Bkgd"}, .obj = {Base(base_main), Buttons(bt_color_bkgd), Boxes(NB_Non)}},
-    {.id = 0x22100000, .tree = {"Color Bkgd"}, .obj = {Base(base_main), LeftTabs(vf_color_bkgd, 1), Buttons(bt_color_bkgd), Boxes(NB_Non)}},
+    {.id = 0x22000000, .tree = {"Color Bkgd"}, .obj = {Base(base_main), Buttons(bt_color_bkgd), Boxes(NB_Non), Cells(st_color_bkgd)}},
+    {.id = 0x22100000, .tree = {"Color Bkgd"}, .obj = {Base(base_main), LeftTabs(vf_color_bkgd, 1), Buttons(bt_color_bkgd), Boxes(NB_Non), Cells(st_color_bkgd)}},
     BkgdPage(0), BkgdPattern(0),
     BkgdPage(1), BkgdPattern(1),
 };

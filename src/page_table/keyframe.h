@@ -20,12 +20,12 @@ inline constexpr HF_TBL hf_kf[] = {
 // --- Edit and Run Mode: the values of the timeline, acting on the selected regions ---
 
 inline constexpr BT_TBL bt_keyframe_edit[] = {
-    Action({.id = 17, .caption = "Insert", .group = "Keyframe",  .cmd = {"Key Frame@Timeline@Insert#*"}}),
-    Action({.id = 18, .caption = "Modify", .group = "Keyframe",  .cmd = {"Key Frame@Timeline@Modify#*"}}),
-    Action({.id = 19, .caption = "Delete", .group = "Keyframe",  .cmd = {"Key Frame@Timeline@Delete#*"}}),
+    Action({.id = 17, .caption = "Insert", .group = "Key Frame", .cmd = {"Key Frame@Timeline@Insert#*"}}),
+    Action({.id = 18, .caption = "Modify", .group = "Key Frame", .cmd = {"Key Frame@Timeline@Modify#*"}}),
+    Action({.id = 19, .caption = "Delete", .group = "Key Frame", .cmd = {"Key Frame@Timeline@Delete#*"}}),
     Action({.id = 21, .caption = "Copy",   .group = "Clipboard", .cmd = {"Key Frame@Timeline@Copy#*"}}),
     Action({.id = 22, .caption = "Paste",  .group = "Clipboard", .cmd = {"Key Frame@Timeline@Paste#*"}}),
-    Action({.id = 33, .caption = "Undo",   .cmd = {"Key Frame@Timeline@Undo#*"}}),
+    Action({.id = 33, .caption = "Undo",   .group = "Undo",      .cmd = {"Key Frame@Timeline@Undo#*"}}),
     BT_END,
 };
 inline constexpr BT_TBL bt_keyframe_runmode[] = {

@@ -74,11 +74,11 @@ TEST_F(EffectPages, AnEffectShowsItsStateAndWhichRegionsHoldIt)
         uint32_t page;
         std::vector<std::string> cells; // from the name on
     } cases[] = {
-        {0x62210000, {"OPENING", "L", "45", "*", "", "*", "*", "", "", ""}},
+        {0x62210000, {"OPENING", "L", "45", "O", "", "O", "O", "", "", ""}},
         {0x62310000, {"", "", "", ""}},
-        {0x62410000, {"PAGE", "", "7", "*"}},
-        {0x62510000, {"", "", "", "*"}},
-        {0x62610000, {"", "", "", "*", ""}},
+        {0x62410000, {"PAGE", "", "7", "O"}},
+        {0x62510000, {"", "", "", "O"}},
+        {0x62610000, {"", "", "", "O", ""}},
     };
     for (const auto& c : cases) {
         Open(c.page);
