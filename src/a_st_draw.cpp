@@ -184,7 +184,7 @@ static void put_bar(const ST_MEM* cell, int line)
 
 static void veil_line(const ST_MEM* cell, int line, int lit)
 {
-    const int y = line_y(cell, line) - 2;
+    const int y = line_y(cell, line) - 1; // the letters, with what hangs below the last line
     TDL_FillRectAS(cell->x1 + 7, y, cell->x2 - 7, y + LINE_PITCH - 1, st_ground(lit),
                    veil_opacity());
 }
