@@ -109,14 +109,6 @@ int st_drw_me_dmewipe_modifier(ST_MEM*);
 int st_drw_me_dmewipe_edge(ST_MEM*);
 int st_drw_me_dmewipe_direction(ST_MEM*);
 
-// --- A colour corrector: a_st_ccr ---
-int st_drw_ccr_insert(ST_MEM*);
-int st_drw_ccr_white(ST_MEM*);
-int st_drw_ccr_black(ST_MEM*);
-int st_drw_ccr_gamma(ST_MEM*);
-int st_drw_ccr_luminance(ST_MEM*);
-int st_drw_ccr_video(ST_MEM*);
-
 // --- The bank: a_st_misc ---
 enum TransitionTally : int { // of the transition cell
     TRN_MIX = 0,

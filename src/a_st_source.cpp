@@ -21,8 +21,8 @@ static Name word_from_end(const char* path, int before)
         const char* word;
         const char* shorter;
     } long_words[] = {{"Luminance", "Lum"},   {"Saturation", "Sat"}, {"Middle", "Mid"},
-                      {"Mix Pattern", "Mix"}, {"Red", "R"},          {"Green", "G"},
-                      {"Blue", "B"}};
+                      {"Mix Pattern", "Mix"}, {"Chroma", "Chr"},     {"Black Level", "Blk"},
+                      {"Red", "R"},           {"Green", "G"},        {"Blue", "B"}};
     const char* end = path + strlen(path);
     const char* begin = end;
     for (;;) {
@@ -128,13 +128,17 @@ int st_drw_source_spots(ST_MEM* cell)
     return st_drw_status_strings(c, &val);
 }
 
-// 0 the correction, 1 where it sits.
+// 0 whether it corrects, 1 where it sits, 2 the input that it has there.
 int st_drw_source_insert(ST_MEM* cell)
 {
     const int lit = st_in_view(cell);
-    const ST_MEM* c = st_begin(cell, lit, name_of(cell, "Insert").text);
+    const ST_MEM* c = st_begin(cell, lit, name_of(cell, "Correct").text);
     if (!c)
         return -1;
+    char input[24] = "";
+    if (Same(c->tally[1], "Input") && c->tally[2][0])
+        PrintText(input, "No %s", c->tally[2]);
     st_drw_center_image_square(c, c->tally[1], 0);
+    st_drw_under_strings(c, input, 0);
     return st_is_off(c, 0) ? st_drw_recoats_grayout(c, lit) : 0;
 }

@@ -155,44 +155,6 @@ static_assert(ButtonsAreSound(bt_ccr_white) && ButtonsAreSound(bt_ccr_gamma) && 
 static_assert(ButtonsAreSound(bt_ccr_spot) && ButtonsAreSound(bt_ccr_luminance) && ButtonsAreSound(bt_ccr_video));
 static_assert(ButtonsAreSound(bt_ccr_insert[0]) && ButtonsAreSound(bt_ccr_insert_large[0]));
 
-// --- Cells: the chain from its first link to its last ---
-
-#define CCR_CELL(column, line, painter, target, ...) \
-    CellAt(column, line, {.id = 1 + (column) + 6 * (line), .draw_func = painter, .cmd = __VA_ARGS__, .page = (target)})
-#define CCR_RGB(path) {path, path "@All", path "@Red", path "@Green", path "@Blue"}
-#define CCR_CLIP(path) {path, path "@Red", path "@Green", path "@Blue"}
-// What the page of both has room for.
-#define CCR_LINE(line, ccr, base) \
-    CCR_CELL(0, line, st_drw_source_levels, (base) + 0x10000, CCR_RGB(ccr "@White/Black@White")), \
-    CCR_CELL(1, line, st_drw_source_levels, (base) + 0x10000, CCR_RGB(ccr "@White/Black@Black")), \
-    CCR_CELL(2, line, st_drw_source_levels, (base) + 0x10000, CCR_RGB(ccr "@White/Black@Flare")), \
-    CCR_CELL(3, line, st_drw_source_levels, (base) + 0x20000, CCR_RGB(ccr "@Gamma/Knee@Gamma")), \
-    CCR_CELL(4, line, st_drw_source_levels, (base) + 0x20000, {ccr "@Gamma/Knee@Knee", ccr "@Gamma/Knee@Knee@Point", ccr "@Gamma/Knee@Knee@Slope"})
-#define CCR_INSERTED(column, line, ccr, base) \
-    CCR_CELL(column, line, st_drw_source_insert, (base) + 0x70000, {ccr "@Insert@Correction", ccr "@Insert@Insert"})
-#define CCR_CHAIN(ccr, base) \
-    CCR_LINE(0, ccr, base), \
-    CCR_CELL(5, 0, st_drw_source_levels, (base) + 0x20000, {ccr "@Gamma/Knee@Black Stretch", ccr "@Gamma/Knee@Black Stretch@Point", ccr "@Gamma/Knee@Black Stretch@Gain"}), \
-    CCR_CELL(0, 1, st_drw_source_levels, (base) + 0x30000, CCR_CLIP(ccr "@RGB Clip@White Clip")), \
-    CCR_CELL(1, 1, st_drw_source_levels, (base) + 0x30000, CCR_CLIP(ccr "@RGB Clip@Dark Clip")), \
-    CCR_CELL(2, 1, st_drw_source_spots,  (base) + 0x40000, {ccr "@Spot Color@Spot 1", ccr "@Spot Color@Spot 2", ccr "@Spot Color@Spot 3"}), \
-    CCR_CELL(3, 1, st_drw_source_levels, (base) + 0x50000, {ccr "@Lum Process@Lum Process", ccr "@Lum Process@Gain@Low", ccr "@Lum Process@Gain@Middle", ccr "@Lum Process@Gain@High"}), \
-    CCR_CELL(4, 1, st_drw_me_misc_video_proc, (base) + 0x60000, {ccr "@Video Process@Video Process", ccr "@Video Process@Luminance", ccr "@Video Process@Chroma", ccr "@Video Process@Hue"}), \
-    CCR_INSERTED(5, 1, ccr, base)
-inline constexpr ST_TBL st_ccr[][13] = {{CCR_CHAIN("CCR@CCR1", 0x24100000), ST_END}, {CCR_CHAIN("CCR@CCR2", 0x24200000), ST_END}};
-inline constexpr ST_TBL st_ccr_top[] = {
-    CCR_LINE(0, "CCR@CCR1", 0x24100000), CCR_INSERTED(5, 0, "CCR@CCR1", 0x24100000),
-    CCR_LINE(1, "CCR@CCR2", 0x24200000), CCR_INSERTED(5, 1, "CCR@CCR2", 0x24200000),
-    ST_END,
-};
-static_assert(CellsAreSound(st_ccr[0]) && CellsAreSound(st_ccr_top));
-#undef CCR_CHAIN
-#undef CCR_INSERTED
-#undef CCR_LINE
-#undef CCR_CLIP
-#undef CCR_RGB
-#undef CCR_CELL
-
 // --- Pages ---
 
 struct CcrPage {
