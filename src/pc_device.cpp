@@ -88,6 +88,12 @@ static ONEOFSTATE devices;
 static ONEOFSTATE pbus;
 static ONEOFSTATE gpi;
 
+void Device_OpenNext(int device)
+{
+    if (device >= 0 && device < DEVICES)
+        devices.cursor = device;
+}
+
 template <size_t N>
 static constexpr ONEOF table_of(ONEOFSTATE* state, int (*names)(const char**, int),
                                 const ONEOFCOLUMN (&columns)[N])
@@ -97,7 +103,7 @@ static constexpr ONEOF table_of(ONEOFSTATE* state, int (*names)(const char**, in
 
 #define DEVICE_PATH "Device@DDR/VTR@$@"
 
-static constexpr ONEOFWORD type_words[] = {{"Extended VTR", "Ext VTR"}, {}};
+const ONEOFWORD device_type_words[] = {{"Extended VTR", "Ext VTR"}, {}};
 
 static constexpr ONEOFCOLUMN timeline_columns[] = {{DEVICE_PATH "Timeline@Action"},
                                                    {DEVICE_PATH "Timeline@Start TC", nullptr, 1},
@@ -107,7 +113,7 @@ static constexpr ONEOF timeline = table_of(&devices, device_names, timeline_colu
 static constexpr View timeline_view = {&timeline, "Device@DDR/VTR@Timeline@Tally Back"};
 const PC_TBL pc_device_timeline = {proc_of<timeline_view>, create_of<timeline_view>};
 
-static constexpr ONEOFCOLUMN setting_columns[] = {{DEVICE_PATH "Type", type_words},
+static constexpr ONEOFCOLUMN setting_columns[] = {{DEVICE_PATH "Type", device_type_words},
                                                   {DEVICE_PATH "Control"},
                                                   {DEVICE_PATH "Preroll"},
                                                   {DEVICE_PATH "Edit@Mode"}};
@@ -156,7 +162,7 @@ const PC_TBL pc_device_gpi = {gpi_proc, create_of<gpi_view>};
 
 static constexpr ONEOFCOLUMN control_columns[] = {{DEVICE_PATH "Transport"},
                                                   {DEVICE_PATH "Time Code"},
-                                                  {DEVICE_PATH "Type", type_words},
+                                                  {DEVICE_PATH "Type", device_type_words},
                                                   {DEVICE_PATH "File"}};
 static constexpr ONEOF control = table_of(&devices, device_names, control_columns);
 static constexpr View control_view = {&control, "Device@DDR/VTR@Cueup&Play@Tally Back"};
@@ -202,7 +208,7 @@ const PC_TBL pc_device_control = {control_proc, control_create};
 // --- Files: the server lists those of one device when it is asked for them ---
 
 static constexpr ONEOFCOLUMN file_columns[] = {
-    {DEVICE_PATH "Type", type_words}, {DEVICE_PATH "Transport"}, {DEVICE_PATH "File"}};
+    {DEVICE_PATH "Type", device_type_words}, {DEVICE_PATH "Transport"}, {DEVICE_PATH "File"}};
 static constexpr ONEOF file_devices = table_of(&devices, device_names, file_columns);
 
 static struct {

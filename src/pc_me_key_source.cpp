@@ -34,6 +34,7 @@ struct Signal {
 
 static struct {
     char SignalCmd[BUSES][CMD_SIZE] = {}; // "M/E-1@Key1@Type@Signal Select@Fill"
+    char KeySourceCmd[CMD_SIZE] = "";     // told to the cells of the page
     char Assigned[BUSES][NAME_SIZE] = {}; // names; "" until the tally
     Signal signal[BUS_XPT_SRC] = {};      // the texts of the rows: the list keeps pointers
     int count = 0;
@@ -104,6 +105,8 @@ static int fillsource_press(const char* path, const char* value)
 
 static int fillsource_tally(const char* path, const char* value)
 {
+    if (Same(path, FillSource.KeySourceCmd)) // a self key has no use for its source bus
+        LS_HeaderDisable(LIST, COL_SOURCE, Same(value, "Self"));
     for (int bus = 0; bus < BUSES; bus++)
         if (Same(path, FillSource.SignalCmd[bus])) {
             CopyText(FillSource.Assigned[bus], value);
@@ -154,6 +157,7 @@ static int pc_me_key_fillsource_create(int on, uint32_t)
     for (int bus = 0; bus < BUSES; bus++)
         PrintText(FillSource.SignalCmd[bus], "%s@%s@Type@Signal Select@%s", GL_NowTree[0],
                   GL_NowTree[1], bus_words[bus]);
+    PrintText(FillSource.KeySourceCmd, "%s@%s@Type@Key Source", GL_NowTree[0], GL_NowTree[1]);
     subscribe("add");
     fill_list();
     assign_to(bus_to_assign());

@@ -1,10 +1,13 @@
 #include "pc_status.h"
 #include "a_ls.h"
+#include "command.h"
 #include "device.h"
 #include "message.h"
+#include "netio.h"
 #include "overview.h"
 #include "page.h"
 #include "pc_aux_mon.h"
+#include "pc_device.h"
 #include "tally_value.h"
 #include "text.h"
 #include <algorithm>
@@ -127,6 +130,17 @@ static int effect_items(OVERVIEWITEM* item, int max)
     return items.count;
 }
 
+static int recorder_items(OVERVIEWITEM* item, int max)
+{
+    OVERVIEWITEMS items{item, max};
+    for (int n = 1; n <= DEVICES; n++) {
+        char name[OVERVIEW_TEXT];
+        PrintText(name, "Dev%d", n);
+        Overview_Add(items, name, "%s", name)->page = 0x53210000;
+    }
+    return items.count;
+}
+
 static int device_items(OVERVIEWITEM* item, int max)
 {
     OVERVIEWITEMS items{item, max};
@@ -193,6 +207,17 @@ static constexpr OVERVIEWCOLUMN device_columns[] = {
     {.path = "Engineering Setup@System@Format@Reference@$", .is_for_life = true},
 };
 
+#define RECORDER "Device@DDR/VTR@$@"
+static constexpr OVERVIEWCOLUMN recorder_columns[] = {
+    {RECORDER "Type", device_type_words},
+    {RECORDER "Transport"},
+    {RECORDER "Time Code"},
+    {RECORDER "File"},
+    {RECORDER "Control"},
+    {RECORDER "Rec Enable", one_of_switch},
+};
+#undef RECORDER
+
 #define STATUS_PAGE(of_items, of_columns, of_choose)                                               \
     {                                                                                              \
         .rows = {.items = of_items, .columns = of_columns, .column_count = std::size(of_columns)}, \
@@ -205,6 +230,8 @@ static constexpr StatusPage effect_page = STATUS_PAGE(effect_items, effect_colum
 static constexpr StatusPage monitor_page =
     STATUS_PAGE(monitor_items, monitor_columns, Monitor_OpenNext);
 static constexpr StatusPage device_page = STATUS_PAGE(device_items, device_columns, nullptr);
+static constexpr StatusPage recorder_page =
+    STATUS_PAGE(recorder_items, recorder_columns, Device_OpenNext);
 #undef STATUS_PAGE
 
 const PC_TBL pc_status_key = code_of<key_page>;
@@ -213,3 +240,11 @@ const PC_TBL pc_status_aux = code_of<aux_page>;
 const PC_TBL pc_status_effect = code_of<effect_page>;
 const PC_TBL pc_status_monitor = code_of<monitor_page>;
 const PC_TBL pc_status_device = code_of<device_page>;
+
+// The time codes are told while a page asks for them.
+static int recorder_create(int on, uint32_t)
+{
+    Net_SendCommandFormat("put Device@DDR/VTR@Cueup&Play@Tally Back#%s", Bool(on));
+    return create(recorder_page, on);
+}
+const PC_TBL pc_status_recorder = {proc_of<recorder_page>, recorder_create};

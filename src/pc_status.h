@@ -1,5 +1,6 @@
 // pc_status: page code of the overviews: what the keys, wipes, aux buses, effects channels,
-// monitors and units are set to, a line each, with the way to the page that adjusts the chosen one.
+// monitors, units and recorders are set to, a line each, with the way to the page that adjusts the
+// chosen one.
 #pragma once
 #include "a_pc.h"
 
@@ -12,3 +13,4 @@ extern const PC_TBL pc_status_aux;
 extern const PC_TBL pc_status_effect;
 extern const PC_TBL pc_status_monitor;
 extern const PC_TBL pc_status_device;
+extern const PC_TBL pc_status_recorder;

@@ -238,9 +238,8 @@ inline constexpr VF_TBL vf_gallery[] = {
     {.id = 2, .caption = "Low Tabs",    .page = 0x99920008},
     {.id = 3, .caption = "Patterns",    .page = 0x99920005},
     {.id = 4, .caption = "Wipe List",   .page = 0x99920009},
-    {.id = 5, .caption = "Path List",   .page = 0x9992000A},
-    {.id = 6, .caption = "File\nList",   .page = 0x9992000B},
-    {.id = 7, .caption = "Last",        .page = 0x99920004},
+    {.id = 5, .caption = "File\nList",   .page = 0x9992000B},
+    {.id = 6, .caption = "Last",        .page = 0x99920004},
     VF_END,
 };
 
@@ -252,19 +251,10 @@ inline constexpr BT_TBL bt_gallery_tabs[] = {
 };
 static_assert(ButtonsAreSound(bt_gallery_tabs));
 
-// --- Patterns, wipes, paths: these have no local form, so they want a server, under the page's own path ---
+// --- Patterns, wipes: these have no local form, so they want a server, under the page's own path ---
 
 inline constexpr PS_TBL ps_gallery = {.cmd = "~@Pattern", .init_nb = nb_gallery_one, .init_nb_caption = "Pattern"};
 inline constexpr DW_TBL dw_gallery = {.cmd = "~@Pattern", .grpid = {17, 18, 19, 20, 21, 22, 33, 34, 35, 36}};
-inline constexpr KP_TBL kp_gallery[] = {
-    {.caption = "Crosspoint",  .isxpt = 1,                .cmd = "~@Row 1@"},
-    {.caption = "Hue",         .ishue = 1,                .cmd = "~@Row 2@"},
-    {.caption = "Curve, all",  .iscurve = 1,              .cmd = "~@Row 3@"},
-    {.caption = "Curve, few",  .iscurve = 1, .curvetype = 3, .cmd = "~@Row 4@"},
-    {.caption = "All three",   .isxpt = 1, .ishue = 1, .iscurve = 1, .cmd = "~@Row 5@"},
-    {.caption = "A way out",   .iscurve = 1,              .cmd = "~@Row 6@", .jump = 0x99910000},
-    KP_END,
-};
 
 inline constexpr PAGE gallery_pages[] = {
     {.id = 0x99920000, .tree = {"Maintenance", "Gallery", "Buttons"},
@@ -289,9 +279,7 @@ inline constexpr PAGE gallery_pages[] = {
              Code(pc_gallery_tabs)}},
     {.id = 0x99920009, .tree = {"Maintenance", "Gallery", "Wipe List"},
      .obj = {Base(base_main), LeftTabs(vf_gallery, 4), WipeList(dw_gallery), Boxes(NB_Non)}},
-    {.id = 0x9992000A, .tree = {"Maintenance", "Gallery", "Path List"},
-     .obj = {Base(base_main), LeftTabs(vf_gallery, 5), PathList(kp_gallery)}},
     {.id = 0x9992000B, .tree = {"Maintenance", "Gallery", "File List"},
-     .obj = {Base(base_main), LeftTabs(vf_gallery, 6), Buttons(bt_gallery_files), Lists(ls_gallery_files), Files(fl_gallery),
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 5), Buttons(bt_gallery_files), Lists(ls_gallery_files), Files(fl_gallery),
              Code(pc_gallery_files)}},
 };

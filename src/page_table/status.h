@@ -41,8 +41,10 @@ inline constexpr LS_TBL ls_status_effect[] = {
     StatusList({.hn = 5, .head = {"Channel", "Used By", "Combine", "Priority", "Trail"}, .width = {90, 200, 86, 86, 88}}), LS_END};
 inline constexpr LS_TBL ls_status_device[] = {
     StatusList({.hn = 3, .head = {"Unit", "Format", "Reference"}, .width = {110, 240, 200}}), LS_END};
+inline constexpr LS_TBL ls_status_recorder[] = {
+    StatusList({.hn = 7, .head = {"Device", "Type", "State", "Time Code", "File", "Control", "Rec"}, .width = {60, 64, 76, 92, 134, 74, 50}}), LS_END};
 static_assert(ListsAreSound(ls_status_key) && ListsAreSound(ls_status_wipe) && ListsAreSound(ls_status_aux));
-static_assert(ListsAreSound(ls_status_monitor) && ListsAreSound(ls_status_effect) && ListsAreSound(ls_status_device));
+static_assert(ListsAreSound(ls_status_monitor) && ListsAreSound(ls_status_effect) && ListsAreSound(ls_status_device) && ListsAreSound(ls_status_recorder));
 
 // --- Keys ---
 
@@ -88,11 +90,19 @@ inline constexpr BT_TBL bt_status_device[] = {
     Jump({.id = 50, .caption = "Error\nList", .group = "System", .cmd = {"#99000000"}}),
     Jump({.id = 52, .caption = "Device\nControl", .group = "Devices", .cmd = {"#53210000"}}),
     Jump({.id = 53, .caption = "Router",      .group = "Devices", .cmd = {"#51110000"}}),
+    Jump({.id = 54, .caption = "Recorders",   .group = "Devices", .cmd = {"#33170001"}}),
+    BT_END,
+};
+inline constexpr BT_TBL bt_status_recorder[] = {
+    StatusOpen(49, "Cueup&\nPlay", "Open Device", STATUS_OPEN "0"),
+    StatusOpen(50, "Timeline",     "Open Device", STATUS_OPEN "10000"),
+    StatusOpen(51, "File List",    "Open Device", STATUS_OPEN "20000"),
+    StatusOpen(52, "Setting",      "Open Device", STATUS_OPEN "30000"),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_status_me) && ButtonsAreSound(bt_status_key) && ButtonsAreSound(bt_status_wipe));
 static_assert(ButtonsAreSound(bt_status_aux) && ButtonsAreSound(bt_status_monitor) && ButtonsAreSound(bt_status_effect));
-static_assert(ButtonsAreSound(bt_status_device));
+static_assert(ButtonsAreSound(bt_status_device) && ButtonsAreSound(bt_status_recorder));
 
 inline constexpr BT_TBL bt_status_top[] = {
     Jump({.id = 17, .caption = "M/E",               .group = "Switcher", .cmd = {"#33110000"}}),
@@ -102,6 +112,7 @@ inline constexpr BT_TBL bt_status_top[] = {
     Jump({.id = 21, .caption = "Monitor",           .group = "Outputs", .cmd = {"#33150000"}}),
     Jump({.id = 33, .caption = "Effects",           .group = "Units", .cmd = {"#33160000"}}),
     Jump({.id = 34, .caption = "Device",            .group = "Units", .cmd = {"#33170000"}}),
+    Jump({.id = 35, .caption = "Recorders",         .group = "Units", .cmd = {"#33170001"}}),
     Jump({.id = 6,  .caption = "Top\nMenu",         .cmd = {"#00110000"}}),
     BT_END,
 };
@@ -127,4 +138,6 @@ inline constexpr PAGE status_pages[] = {
     StatusTab(5, "Monitor", ls_status_monitor, bt_status_monitor, pc_status_monitor),
     StatusTab(6, "Effects", ls_status_effect, bt_status_effect, pc_status_effect),
     StatusTab(7, "Device", ls_status_device, bt_status_device, pc_status_device),
+    {.id = 0x33170001, .tree = {"Status", "Device", "Recorders"},
+     .obj = {Base(base_sub, 0x33170000), BottomTabs(hf_status, 7), Lists(ls_status_recorder), Buttons(bt_status_recorder), Code(pc_status_recorder)}},
 };

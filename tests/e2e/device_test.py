@@ -114,6 +114,12 @@ class Machines(DeskCase):
         self.touch(51)
         self.assertFalse([line for line in self.desk.wire() if "Salvo" in line], "an empty one is not taken")
 
+    def test_6_the_recorders_at_a_glance_lead_to_the_pages_of_one(self):
+        self.open_page("3317.0001", "add Device@DDR/VTR@Dev12@Rec Enable")
+        self.desk.touch(200, list_row(2))
+        self.touch(51)
+        self.desk.wait_wire("put Device@DDR/VTR@File List#Dev2")
+
 
 if __name__ == "__main__":
     unittest.main()
