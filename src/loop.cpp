@@ -7,6 +7,7 @@
 #include "bus.h"
 #include "colours.h"
 #include "debug.h"
+#include "display.h"
 #include "fmctrl3.h"
 #include "global.h"
 #include "initread.h"
@@ -41,6 +42,7 @@ constexpr int PASS_MS = 10;
 constexpr int ELAPSED_MAX_MS = 5000; // no timer ever sees a larger step
 constexpr int SELFDIAG_MS = 5000;
 constexpr int MOTIONS_A_PASS = 9;
+constexpr int DISPLAY_PASSES = 3; // the period of a key that repeats
 constexpr uint32_t STAGE0_PASSES = 100;
 constexpr uint32_t STAGE1_PASSES = 300;
 constexpr uint32_t STAGE2_PASSES = 2000;
@@ -60,6 +62,7 @@ constexpr Stage stages[] = {
 
 static struct {
     int selfdiag_ms = 0;             // gathered since the last poll
+    int display_passes = 0;          // since the display was asked
     uint32_t event_check_before = 0; // TickBefore of MainEventCheck
     LoopFigures figures;
     bool armed[sizeof stages / sizeof *stages] = {}; // by stage
@@ -238,11 +241,24 @@ void Loop_Event(SDL_Event* event)
     }
 }
 
+// To ask the display for events takes the library four calls of the kernel, each pass. One that has
+// told of none is asked now and then only: the library's own clock repeats a key that is held.
+// Where the driver does not say how it tells, it is always asked.
+static bool loop_take_event(SDL_Event* event)
+{
+    if (!Ready_IsQuiet(READY_DISPLAY) || Display_HasEvents() ||
+        ++loop.display_passes >= DISPLAY_PASSES) {
+        loop.display_passes = 0;
+        return SDL_PollEvent(event) == 1;
+    }
+    return SDL_PeepEvents(event, 1, SDL_GETEVENT, SDL_ALLEVENTS) == 1;
+}
+
 // One event a pass. Returns true when the window was closed.
 static bool loop_one_event()
 {
     SDL_Event event;
-    if (!SDL_PollEvent(&event)) {
+    if (!loop_take_event(&event)) {
         MBDown = 0;
         return false;
     }

@@ -3,7 +3,7 @@
 #include "safeguards.h"
 
 static struct {
-    pollfd watched[READY_OWNERS] = {{.fd = -1}, {.fd = -1}, {.fd = -1}, {.fd = -1}};
+    pollfd watched[READY_OWNERS] = {{.fd = -1}, {.fd = -1}, {.fd = -1}, {.fd = -1}, {.fd = -1}};
     bool is_quiet[READY_OWNERS] = {}; // by owner, like the other
 } ready;
 

@@ -3,7 +3,7 @@
 #pragma once
 #include <poll.h>
 
-enum Ready : int { READY_TEXT, READY_BIN, READY_HUB, READY_TOUCH, READY_OWNERS };
+enum Ready : int { READY_TEXT, READY_BIN, READY_HUB, READY_TOUCH, READY_DISPLAY, READY_OWNERS };
 
 // The owner's descriptor from now on, and what it waits for: POLLIN, POLLOUT for a connection that
 // is being made. 0 or less: it has none. Until the next question it counts as one that has not been

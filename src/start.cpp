@@ -5,6 +5,7 @@
 #include "bus.h"
 #include "config.h"
 #include "device.h"
+#include "display.h"
 #include "fmctrl.h"
 #include "fmctrl3.h"
 #include "global.h"
@@ -12,6 +13,7 @@
 #include "i2c.h"
 #include "log.h"
 #include "process.h"
+#include "ready.h"
 #include "register.h"
 #include "saver.h"
 #include "selfdiag.h"
@@ -58,6 +60,7 @@ static void start_video(int depth)
         printf("Couldn't set video mode: %s\n", SDL_GetError());
         exit(1);
     }
+    Ready_Watch(READY_DISPLAY, Display_Descriptor());
     SDL_WM_SetCaption("Vorn KTR-40 GUI", "GUI");
     SDL_EnableKeyRepeat(500, 30);
     if (TDL_Init(surface) != 0) {

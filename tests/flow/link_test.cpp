@@ -496,6 +496,28 @@ TEST_F(Link, FramesWaitForAServerThatIsBehindWithItsReading)
     }
 }
 
+TEST_F(Link, AFrameThatWasCutByALossIsSentWholeAgain)
+{
+    Peer peer(NET_BIN_PORT);
+    Connect(peer);
+    const unsigned char data[1024] = {};
+    for (uint32_t i = 0; i < 6000; i++)
+        EXPECT_EQ(Net_SendBinCommand(5, i, data, sizeof data), 0);
+    EXPECT_EQ(Net_SendBinCommandQueue(), 0);
+    peer.Drop();
+    usleep(20000);
+    for (int i = 0; i < 2; i++) { // the loss, the new connection
+        int length = 1;
+        EXPECT_EQ(Net_ReceiveBinCommand(&length), nullptr);
+        EXPECT_EQ(length, 0);
+    }
+    ASSERT_TRUE(peer.Accept());
+    (void)Net_SendBinCommandQueue(); // connects at the latest now
+    EXPECT_EQ(Net_SendBinCommandQueue(), 0);
+    EXPECT_EQ(Bytes(peer, 1033).substr(0, 3), "\7\4\5");
+    Net_DropBinQueue();
+}
+
 TEST_F(Link, FramesAreInStepAgainAfterALoss)
 {
     Peer peer(NET_BIN_PORT);

@@ -2,7 +2,9 @@
 #include "initread.h"
 #include "loop.h"
 #include "netio.h"
+#include "ready.h"
 #include "saver.h"
+#include <unistd.h>
 
 namespace
 {
@@ -118,6 +120,19 @@ TEST_F(Loop, ASecondPressCountsOnlyOnceTheQueueHasRunEmpty)
     Clock_ms += 500;
     Pass(Button(SDL_MOUSEBUTTONDOWN, 12, 22));
     EXPECT_EQ(Count(MSG_PRESS), 2u);
+}
+
+TEST_F(Loop, AQuietDisplayHoldsBackNoTouch)
+{
+    int display[2];
+    ASSERT_EQ(pipe(display), 0);
+    Ready_Watch(READY_DISPLAY, display[0]);
+    for (int i = 0; i < 5; i++)
+        Pass(Button(SDL_MOUSEBUTTONUP, 400, 300));
+    EXPECT_EQ(Count(MSG_RELEASE), 5u);
+    Ready_Watch(READY_DISPLAY, 0);
+    close(display[0]);
+    close(display[1]);
 }
 
 TEST_F(Loop, ADragIsDeliveredNineStepsAPass)
