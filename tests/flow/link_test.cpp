@@ -457,10 +457,21 @@ static std::string ReceiveFrame()
     return "";
 }
 
+// What has gone over a link since then.
+static void ExpectTraffic(NetLink link, const NetState& since, uint32_t sent, uint32_t received)
+{
+    const NetState now = Net_State(link);
+    EXPECT_TRUE(now.is_up);
+    EXPECT_EQ(now.waiting, 0);
+    EXPECT_EQ(now.sent - since.sent, sent);
+    EXPECT_EQ(now.received - since.received, received);
+}
+
 TEST_F(Link, AFrameGoesOutLowByteFirstAndComesInHighByteFirst)
 {
     Peer peer(NET_BIN_PORT);
     Connect(peer);
+    const NetState before = Net_State(NET_LINK_BIN);
     unsigned char data[1025] = {1, 'D', 1, 0};
     EXPECT_EQ(Net_SendBinCommand(1, 0x000200AA, nullptr, 0), 0);
     EXPECT_EQ(Net_SendBinCommand(4, 0x12345678, data, 4), 0);
@@ -478,6 +489,7 @@ TEST_F(Link, AFrameGoesOutLowByteFirstAndComesInHighByteFirst)
     EXPECT_EQ(ReceiveFrame(), frame);
     peer.Send(frame.substr(5));
     EXPECT_EQ(ReceiveFrame(), frame);
+    ExpectTraffic(NET_LINK_BIN, before, 302, 2);
 }
 
 TEST_F(Link, FramesWaitForAServerThatIsBehindWithItsReading)
@@ -625,6 +637,7 @@ TEST_F(Link, TheHubGetsOneLineEach100ms)
     Peer peer(HUB_PORT);
     Connect(peer);
     EXPECT_EQ(Net_SendSHPCommandQueue(10), 0);
+    const NetState before = Net_State(NET_LINK_HUB);
     Log_Init("/tmp/hub_link.log", 1000000);
     Net_SendSHPCommand("Listen#CS1.File");
     Net_SendSHPCommandFormat("Listen#PNL%d.File", 1);
@@ -638,6 +651,12 @@ TEST_F(Link, TheHubGetsOneLineEach100ms)
     EXPECT_THAT(peer.Lines(), IsEmpty());
     EXPECT_EQ(Net_SendSHPCommandQueue(10), 0);
     EXPECT_THAT(peer.Lines(), ElementsAre("Listen#PNL1.File"));
+    Net_SendSHPCommand("Listen#CS2.File");
+    EXPECT_EQ(Net_State(NET_LINK_HUB).waiting, 1);
+    EXPECT_EQ(Net_SendSHPCommandQueue(100), 0);
+    peer.Send("Ready#CS1.File\n");
+    EXPECT_THAT(ReceiveAll(Net_ReceiveSHPCommand, 1), ElementsAre("Ready#CS1.File"));
+    ExpectTraffic(NET_LINK_HUB, before, 3, 1);
 }
 
 TEST_F(Link, AHubThatIsNotThereIsLeftAloneFor6000Calls)
