@@ -17,6 +17,7 @@
 static constexpr int EXPECT_MS = 5000;
 static constexpr int MS_MAX = 24 * 3600 * 1000;
 static constexpr int SPLIT_GAP_MS = 2;
+static constexpr const char* link_names[LINK_KINDS] = {"text", "bin", "hub"};
 
 static struct {
     Runner input{.name = "console"};
@@ -206,11 +207,10 @@ static bool con_log(Runner&, const std::string& rest)
 
 static bool con_clients(Runner&, const std::string&)
 {
-    static const char* const names[] = {"text", "bin", "hub"};
     for (int kind = 0; kind < LINK_KINDS; ++kind) {
         for (const int number : Link_Clients(LinkKind(kind))) {
             const Client* client = Link_Find(number);
-            printf("#%d %s menu=%s", number, names[kind], client->menu.c_str());
+            printf("#%d %s menu=%s", number, link_names[kind], client->menu.c_str());
             for (int k = 0; k < KNOBS; ++k)
                 if (!client->knob[k].empty())
                     printf(" Knob%d=%s", k, client->knob[k].c_str());
@@ -234,20 +234,34 @@ static bool con_quit(Runner&, const std::string&)
 
 // --- Faults ---
 
+// "NAME" or "NAME NUMBER"; without the number it stays as it is.
+static bool con_link_number(const std::string& rest, long max, LinkKind* kind, long* number)
+{
+    const auto part = Text_Split(rest, ' ');
+    const auto* const name = std::find(std::begin(link_names), std::end(link_names), part[0]);
+    *kind = LinkKind(name - link_names);
+    return name != std::end(link_names) &&
+           (part.size() == 1 || (part.size() == 2 && Console_Number(part[1], 0, max, number)));
+}
+
 static bool con_drop(Runner&, const std::string& rest)
 {
-    static const char* const names[] = {"text", "bin", "hub"};
-    const auto part = Text_Split(rest, ' ');
+    LinkKind kind = LINK_TEXT;
     long ms = 0;
-    if (part.size() > 2 || (part.size() == 2 && !Console_Number(part[1], 0, MS_MAX, &ms)))
+    if (!con_link_number(rest, MS_MAX, &kind, &ms))
         return false;
-    for (int kind = 0; kind < LINK_KINDS; ++kind) {
-        if (part[0] != names[kind])
-            continue;
-        Link_Drop(LinkKind(kind), int(ms));
-        return true;
-    }
-    return false;
+    Link_Drop(kind, int(ms));
+    return true;
+}
+
+static bool con_cut(Runner&, const std::string& rest)
+{
+    LinkKind kind = LINK_TEXT;
+    long bytes = -1;
+    if (!con_link_number(rest, 1 << 30, &kind, &bytes))
+        return false;
+    Link_Cut(kind, bytes);
+    return true;
 }
 
 static bool con_stall(Runner&, const std::string& rest)
@@ -347,6 +361,7 @@ static constexpr Command commands[] = {
     {"expect", "PATTERN [MS]", "wait for a client's line, * and ? as usual", con_expect},
     {"log", "on|off", "show the traffic", con_log},
     {"drop", "text|bin|hub [MS]", "close the clients; listen again after MS", con_drop},
+    {"cut", "text|bin|hub [N]", "close a client when N bytes more have gone; none", con_cut},
     {"stall", "MS", "neither read nor write", con_stall},
     {"dribble", "on|off", "one byte a write", con_dribble},
     {"split", "N", "at most N bytes a write, 2 ms apart; 0: off", con_split},

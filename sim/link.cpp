@@ -25,6 +25,7 @@ struct Listener {
     uint16_t port = 0;
     int fd = -1;            // -1: closed
     int64_t open_at_ms = 0; // while closed by a drop
+    long cut_bytes = -1;    // still to go until a client is cut off; below 0: none is to be
 };
 } // namespace
 
@@ -168,18 +169,40 @@ std::vector<int> Link_Clients(LinkKind kind)
 
 // --- Sending ---
 
+// So many of the bytes may go now, all at once.
+static size_t link_portion(const Client& client)
+{
+    const long cut = lk.listener[client.kind].cut_bytes;
+    size_t count = client.out.size() - client.out_at;
+    if (lk.piece_bytes)
+        count = std::min(count, lk.piece_bytes);
+    return cut < 0 ? count : std::min(count, size_t(cut));
+}
+
+// Whether the client ends here, with the rest of its line or frame unsent.
+static bool link_is_cut(LinkKind kind, size_t sent)
+{
+    long& cut = lk.listener[kind].cut_bytes;
+    if (cut < 0)
+        return false;
+    cut -= long(sent);
+    if (cut > 0)
+        return false;
+    cut = -1;
+    return true;
+}
+
 static void link_flush(Client& client, int64_t now)
 {
     while (client.fd >= 0 && client.out_at < client.out.size() && now >= client.next_write_ms) {
-        size_t count = client.out.size() - client.out_at;
-        if (lk.piece_bytes)
-            count = std::min(count, lk.piece_bytes);
-        const ssize_t sent =
-            send(client.fd, client.out.data() + client.out_at, count, MSG_DONTWAIT | MSG_NOSIGNAL);
+        const ssize_t sent = send(client.fd, client.out.data() + client.out_at,
+                                  link_portion(client), MSG_DONTWAIT | MSG_NOSIGNAL);
         if (sent < 0 && (errno == EAGAIN || errno == EINTR))
             break;
         if (sent < 0)
             return link_lose(client, "takes no more");
+        if (link_is_cut(client.kind, size_t(sent)))
+            return link_lose(client, "cut off");
         client.out_at += size_t(sent);
         if (!lk.piece_bytes)
             continue;
@@ -389,6 +412,11 @@ void Link_Drop(LinkKind kind, int down_ms)
         return;
     link_close_listener(listener);
     listener.open_at_ms = Now_Ms() + down_ms;
+}
+
+void Link_Cut(LinkKind kind, long bytes)
+{
+    lk.listener[kind].cut_bytes = bytes;
 }
 
 void Link_Refuse(bool on)

@@ -45,8 +45,11 @@ std::vector<int> Link_Clients(LinkKind kind);
 
 // --- Faults ---
 void Link_Drop(LinkKind kind, int down_ms); // close all clients; the port stays closed for down_ms
-void Link_Refuse(bool on);                  // stop listening on all ports; who is connected stays
-void Link_Stall(int ms);                    // neither read nor write nor accept
+// Close the next client of this kind in the middle of what is sent to it, when so many bytes more
+// have gone; with 0 before the next one goes.
+void Link_Cut(LinkKind kind, long bytes);
+void Link_Refuse(bool on); // stop listening on all ports; who is connected stays
+void Link_Stall(int ms);   // neither read nor write nor accept
 // Write at most so many bytes at once, then leave the client alone for gap_ms; 0 bytes: as usual.
 void Link_Pieces(size_t bytes, int gap_ms);
 

@@ -41,28 +41,26 @@ struct Options {
     bool has_files = false;
     bool is_quiet = false;
     long seed = 1;
+    long speed = 1;
 };
 } // namespace
 
+static constexpr long SPEED_MAX = 100;
 static volatile sig_atomic_t main_signal = 0;
 
 static const char* const usage =
     "usage: scs_sim [--values FILE] [--script FILE] [--log FILE] [--quiet] [--seed N]\n"
-    "               [--listen ADDRESS] [--root DIR] [--lay]\n"
+    "               [--listen ADDRESS] [--root DIR] [--lay] [--speed N]\n"
     "Commands come from standard input; \"help\" lists them.\n";
 
 static bool main_options(int argc, char** argv, Options* options)
 {
     static const option names[] = {
-        {"values", required_argument, nullptr, 'v'},
-        {"script", required_argument, nullptr, 's'},
-        {"log", required_argument, nullptr, 'l'},
-        {"listen", required_argument, nullptr, 'a'},
-        {"quiet", no_argument, nullptr, 'q'},
-        {"root", required_argument, nullptr, 'f'},
-        {"lay", no_argument, nullptr, 'd'},
-        {"seed", required_argument, nullptr, 'r'},
-        {nullptr, 0, nullptr, 0},
+        {"values", required_argument, nullptr, 'v'}, {"script", required_argument, nullptr, 's'},
+        {"log", required_argument, nullptr, 'l'},    {"listen", required_argument, nullptr, 'a'},
+        {"quiet", no_argument, nullptr, 'q'},        {"root", required_argument, nullptr, 'f'},
+        {"lay", no_argument, nullptr, 'd'},          {"seed", required_argument, nullptr, 'r'},
+        {"speed", required_argument, nullptr, 't'},  {nullptr, 0, nullptr, 0},
     };
     for (int key; (key = getopt_long(argc, argv, "", names, nullptr)) != -1;) {
         switch (key) {
@@ -75,6 +73,11 @@ static bool main_options(int argc, char** argv, Options* options)
         case 'q': options->is_quiet = true; break;
         case 'r':
             if (!Text_ToInt(optarg, &options->seed))
+                return false;
+            break;
+        case 't':
+            if (!Text_ToInt(optarg, &options->speed) || options->speed < 1 ||
+                options->speed > SPEED_MAX)
                 return false;
             break;
         default: return false;
@@ -105,7 +108,7 @@ static void main_turn(int64_t* next)
     *next = std::min(*next, Link_Wait(&set, now));
     if (Console_IsReading())
         set.insert(set.begin(), {STDIN_FILENO, POLLIN, 0});
-    const int timeout_ms = int(std::clamp<int64_t>(*next - now, 0, 1000));
+    const int timeout_ms = int(std::clamp<int64_t>(Clock_RealMs(*next - now), 0, 1000));
     if (poll(set.data(), set.size(), timeout_ms) < 0)
         return; // a signal
     if (Console_IsReading() && set.front().revents)
@@ -129,6 +132,7 @@ int main(int argc, char** argv)
         return 2;
     }
     Log_SetEcho(!options.is_quiet);
+    Clock_SetSpeed(int(options.speed));
     Fault_Seed(unsigned(options.seed));
     if (!main_open(options.log, Log_Open))
         return 1;

@@ -7,10 +7,23 @@
 #include <cstdio>
 #include <cstdlib>
 
+static int clock_speed = 1; // from Clock_SetSpeed to the end
+
+void Clock_SetSpeed(int n)
+{
+    clock_speed = n;
+}
+
 int64_t Now_Ms()
 {
     using namespace std::chrono;
-    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch() * clock_speed)
+        .count();
+}
+
+int64_t Clock_RealMs(int64_t ms)
+{
+    return (ms + clock_speed - 1) / clock_speed;
 }
 
 std::string Text_Format(const char* format, ...)

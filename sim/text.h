@@ -5,7 +5,10 @@
 #include <string_view>
 #include <vector>
 
-int64_t Now_Ms(); // a clock that only goes forward
+int64_t Now_Ms();           // a clock that only goes forward
+void Clock_SetSpeed(int n); // it runs n times as fast as the real one; once, before it is read
+// How long of the real clock so much of this one takes, rounded up.
+int64_t Clock_RealMs(int64_t ms);
 
 std::string Text_Format(const char* format, ...) __attribute__((format(printf, 1, 2)));
 // The parts between the marks; an empty text is one empty part.

@@ -275,6 +275,15 @@ class Faults(SimTest):
         time.sleep(1.2)
         self.assertEqual(self.client().sync(), [])
 
+    def test_a_line_is_cut_where_it_was_asked_and_the_next_one_is_whole(self):
+        panel = self.client()
+        self.do("cut text 3", "send ABCDEF")
+        self.assertIsNone(panel.line())
+        self.assertEqual(panel.bytes, b"ABC")
+        panel = self.client()
+        self.do("send ABCDEF")
+        self.assertEqual(panel.line(), "ABCDEF")
+
     def test_garbage_hits_all_links_and_the_next_line_is_clean(self):
         panel, frames, hub = self.client(), self.client(BIN), self.client(HUB)
         self.do("garbage 400")
