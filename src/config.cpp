@@ -1,6 +1,7 @@
 #include "config.h"
 #include "global.h"
 #include "log.h"
+#include "loop.h"
 #include "text.h"
 #include <climits>
 #include <cstdio>
@@ -53,6 +54,7 @@ static constexpr IniKey ini_keys[] = {
     IntKey("DebugMode", GL_DebugMode, ECHO_INT("GL_DebugMode")),
     TextKey("LogFileName", GL_LogFileName, ECHO_TEXT("GL_LogFileName")),
     IntKey("LoopCounter", GL_LoopCounter, ECHO_INT("GL_LoopCounter")),
+    IntKey("LoopLog", GL_LoopLog, ECHO_INT("GL_LoopLog")),
     IntKey("NextVersion", GL_NextVersion, ECHO_INT("GL_NextVersion")),
     {.key = "LogLevel", .kind = LEVEL, .echo = ECHO_INT("LogLevel")},
     IntKey("DMEDebugMode", dme_debug_mode, ECHO_INT("DMEDebugMode"), DEBUG),
