@@ -42,7 +42,7 @@ class Desk:
         self.sim_log = os.path.join(self.work, "sim.log")
         self.out = os.path.join(self.work, "tm3.out")
         self.box = self.xvfb = None
-        self.seen = 0  # lines of the simulator's log already taken
+        self.seen = 0  # bytes of the simulator's log already taken
         self.closed = False
         atexit.register(self.close)
         signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # a run that is ended takes its desk along
@@ -220,15 +220,21 @@ class Desk:
         with open(self.out, encoding="latin-1") as f:
             return f.read()
 
-    def wire(self):
-        """The lines that the application has sent to the server since the last call; not those to the hub."""
+    def lines(self):
+        """The lines of the simulator's log since the last call."""
         try:
-            with open(self.sim_log, encoding="latin-1") as f:
-                lines = f.read().split("\n")[:-1]
+            with open(self.sim_log, "rb") as f:
+                f.seek(self.seen)
+                text = f.read()
         except FileNotFoundError:
             return []
-        new, self.seen = lines[self.seen:], len(lines)
-        return [m[1] for m in (re.match(r".*?< (?!hub )(.*)", line) for line in new) if m]
+        text = text[:text.rfind(b"\n") + 1]  # the last one may still grow
+        self.seen += len(text)
+        return text.decode("latin-1").split("\n")[:-1]
+
+    def wire(self):
+        """The lines that the application has sent to the server since the last call; not those to the hub."""
+        return [m[1] for m in (re.match(r".*?< (?!hub )(.*)", line) for line in self.lines()) if m]
 
     def wait_wire(self, text, timeout=3.0, starts=False):
         """All lines up to now, once one of them is text, or starts with it; fails the assertion when none comes."""
