@@ -1,3 +1,4 @@
+#include "bmp_check.h"
 #include "fmctrl_private.h"
 #include "tdl.h"
 #include "text.h"
@@ -41,86 +42,7 @@ int fm_sft_to_bmp(const char* sft, const char* bmp)
     return -1;
 }
 
-// --- Reading a bitmap that came from outside ---
-
-namespace
-{
-// What of the two headers says how far the file must reach. Little-endian, as all of the format.
-struct BmpHead {
-    uint32_t pixels_at = 0;
-    uint32_t info_size = 0;
-    uint32_t width = 0;
-    uint32_t height = 0;
-    uint32_t planes = 0;
-    uint32_t bits = 0;
-    uint32_t compression = 0;
-    uint32_t colours = 0;
-};
-constexpr size_t FILE_HEAD = 14;
-constexpr size_t INFO_HEAD = 40;
-constexpr size_t MASKS = 12; // of BITFIELDS, behind the head
-constexpr uint32_t BITFIELDS = 3;
-} // namespace
-
-static uint32_t get16(const uint8_t* p)
-{
-    return uint32_t(p[0]) | uint32_t(p[1]) << 8;
-}
-
-static uint32_t get32(const uint8_t* p)
-{
-    return get16(p) | get16(p + 2) << 16;
-}
-
-static bool bmp_read_head(FILE* fp, BmpHead* head)
-{
-    uint8_t b[FILE_HEAD + INFO_HEAD];
-    if (fread(b, sizeof b, 1, fp) != 1 || b[0] != 'B' || b[1] != 'M')
-        return false;
-    const uint8_t* info = b + FILE_HEAD;
-    head->pixels_at = get32(b + 10);
-    head->info_size = get32(info);
-    head->width = get32(info + 4);
-    head->height = get32(info + 8);
-    head->planes = get16(info + 12);
-    head->bits = get16(info + 14);
-    head->compression = get32(info + 16);
-    head->colours = get32(info + 32);
-    return true;
-}
-
-// The library believes a header: sizes and palette are looked at before it sees them.
-static bool bmp_is_sound(const BmpHead& h, long file_size)
-{
-    if (h.info_size != INFO_HEAD || h.planes != 1)
-        return false;
-    if (h.width < 1 || h.width > uint32_t(SCREEN_W) || h.height < 1 ||
-        h.height > uint32_t(SCREEN_H))
-        return false;
-    const bool has_palette = h.bits == 8;
-    if (!has_palette && h.bits != 24 && h.bits != 16 && h.bits != 32)
-        return false;
-    const bool has_masks = h.compression == BITFIELDS && (h.bits == 16 || h.bits == 32);
-    if (h.compression != 0 && !has_masks)
-        return false;
-    if (h.colours > (has_palette ? 256u : 0u))
-        return false;
-    size_t head = FILE_HEAD + INFO_HEAD + (has_masks ? MASKS : 0);
-    if (has_palette)
-        head += 4 * (h.colours ? h.colours : 256);
-    const size_t row = (size_t(h.width) * h.bits / 8 + 3) & ~size_t(3);
-    return h.pixels_at >= head && h.pixels_at <= uint32_t(file_size) &&
-           size_t(file_size) - h.pixels_at >= row * h.height;
-}
-
 SDL_Surface* fm_load_bmp(const char* path)
 {
-    FILE* fp = fopen(path, "re");
-    if (!fp)
-        return nullptr;
-    BmpHead head;
-    const bool is_sound =
-        bmp_read_head(fp, &head) && fseek(fp, 0, SEEK_END) == 0 && bmp_is_sound(head, ftell(fp));
-    fclose(fp);
-    return is_sound ? TDL_LoadBmp(path) : nullptr;
+    return Bmp_IsSound(path, SCREEN_W, SCREEN_H) ? TDL_LoadBmp(path) : nullptr;
 }

@@ -105,7 +105,7 @@ static SDL_Surface* load_kept(const char* path, NoPicture& no)
         std::rotate(kept, kept + i, kept + i + 1);
         return kept[0].picture;
     }
-    SDL_Surface* picture = TDL_LoadBmp(path);
+    SDL_Surface* picture = TDL_ScreenSaverBMP(path);
     no = {!picture, st.st_size, st.st_mtim};
     if (!picture)
         return nullptr;

@@ -1,4 +1,5 @@
 #include "tdl.h"
+#include "bmp_check.h"
 #include "tdl_private.h"
 #include <algorithm>
 #include <cstdio>
@@ -577,9 +578,11 @@ SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc)
     return small;
 }
 
+// Anybody may have laid it onto the drive.
 SDL_Surface* TDL_ScreenSaverBMP(const char* fname)
 {
-    return TDL_LoadBmp(fname);
+    constexpr int SIDE_MAX = 2048;
+    return Bmp_IsSound(fname, SIDE_MAX, SIDE_MAX) ? TDL_LoadBmp(fname) : nullptr;
 }
 
 // --- Screen save ---
