@@ -2,6 +2,7 @@
 #include "global.h"
 #include "page.h"
 #include "process.h"
+#include "safe_file.h"
 #include "storage.h"
 #include "tdl.h"
 #include "text.h"
@@ -12,6 +13,19 @@
 #include "safeguards.h"
 
 constexpr int CAPTURE_NAMES = 9;
+
+// A picture that is there is a whole one: the stick may be pulled at any time.
+static void save_screen(const char* name)
+{
+    SafeFile file;
+    if (SafeFile_Open(file, name) != 0)
+        return;
+    SDL_RWops* const to = SDL_RWFromFP(file.fp, 0);
+    if (to && SDL_SaveBMP_RW(Screen, to, 1) == 0)
+        (void)SafeFile_Commit(file); // logs a failure
+    else
+        SafeFile_Abandon(file);
+}
 
 void Screen_Capture()
 {
@@ -25,7 +39,7 @@ void Screen_Capture()
                   unsigned(GL_NowPage & 0xFF), n);
         if (FileExist(name))
             continue;
-        SDL_SaveBMP_RW(Screen, SDL_RWFromFile(name, "wb"), 1);
+        save_screen(name);
         sync();
         sync();
         return;
