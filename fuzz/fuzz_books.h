@@ -65,10 +65,9 @@ inline void CloseAll()
         Pane_Quit(id);
 }
 
-// Open the page, take steps until the input ends, and leave: whatever came, nothing is left
-// subscribed. A step is a byte for what is to be done, one for the length of the value, and the
-// value.
-template <typename Step> void VisitPage(uint32_t id, const uint8_t* data, size_t size, Step step)
+// Open the page, take steps until the input ends, and leave. A step is a byte for what is to be
+// done, one for the length of the value, and the value. False when something is left subscribed.
+template <typename Step> bool VisitPage(uint32_t id, const uint8_t* data, size_t size, Step step)
 {
     CreatePage(PAGE_TOP);
     Books ignored, books;
@@ -85,8 +84,8 @@ template <typename Step> void VisitPage(uint32_t id, const uint8_t* data, size_t
     }
     CreatePage(PAGE_TOP);
     TakeCommands(books);
-    for (const std::string& path : books)
-        if (path != "TopMenu" && !ignored.contains(path))
-            abort();
     GL_CreatePage = 0;
+    return std::all_of(books.begin(), books.end(), [&](const std::string& path) {
+        return path == "TopMenu" || ignored.contains(path);
+    });
 }

@@ -39,7 +39,7 @@ static void step(unsigned what, const std::string& value, const Books& books)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     static const std::vector<uint32_t> pages = (OpenScreen(), pages_of_a_bank());
-    if (size >= 1)
-        VisitPage(pages[data[0] % pages.size()], data + 1, size - 1, step);
+    if (size >= 1 && !VisitPage(pages[data[0] % pages.size()], data + 1, size - 1, step))
+        abort();
     return 0;
 }
