@@ -14,6 +14,7 @@ SAVE, LOAD, YES, OK = (290, 475), (405, 475), (344, 407), (400, 407)
 SHOW = "/mnt/data/user/root/SYSTEM/"
 DSK, WIPE, CCR, DEVICE = "PGM/PST@DSK1@", "M/E-1@Wipe@", "CCR@CCR1@", "Device@DDR/VTR@Dev2@"
 ROUTED = "Router@Status@Xpt Assign@Dest3@Level1"
+SOURCE_COLUMN = 470, 268, 536, 286  # the title
 TITLE_LAMP = 352, 13, 362, 23
 DIAG_ITEM = 102, 376, 690, 408  # the chosen line in full
 
@@ -61,9 +62,13 @@ class Shift(DeskCase):
     def test_01_a_title_is_keyed_on_air(self):
         self.from_home(1, 6, f"add {DSK}Type@Key Type", TOP_MENU_OF_BANK)
         self.touch(18, f"put {DSK}Type@Key Type#Linear")
-        self.touch(53, f"put {DSK}Type@Key Source#Split")
         self.touch(51, f"add {DSK}Type@Signal Select@Fill")
         self.touch((300, list_row(4, 266)), f"put {DSK}Type@Signal Select@Fill#CAM4")
+        unused = self.desk.part(*SOURCE_COLUMN)  # grey: a self key has no use for it
+        self.touch(bottom_tab(1), f"add {DSK}Type@Key Type")
+        self.touch(53, f"put {DSK}Type@Key Source#Split")
+        self.touch(51, f"add {DSK}Type@Signal Select@Fill")
+        self.assertNotEqual(self.desk.part(*SOURCE_COLUMN), unused)
         self.touch(38)
         self.touch((300, list_row(5, 266)), f"put {DSK}Type@Signal Select@Source#CAM5")
         self.wait_value(DSK + "Status@Source Name", "CAM5")
@@ -169,7 +174,7 @@ class Shift(DeskCase):
         self.from_home(3, 6, "add Info@Operation Setup Data@Clear Before Load")
         page = self.desk.part(100, 130, 600, 175)
         self.touch(LOAD)
-        self.desk.wait_wire("put 16@Frame Mem@Folder@Move Still#0,Mbackdrop,1", 10)  # among the last
+        self.desk.wait_wire("put 16@Frame Mem@Folder@Move Still#0,Mbackdrop,1", 20)  # among the last
         self.assertIn("SLIDE IN", self.asked("list effect M/E-1"))
         self.touch(OK)  # the locked registers, which stay as they are
         self.wait(lambda: self.desk.part(100, 130, 600, 175) == page, "the pane does not close")
