@@ -41,6 +41,8 @@ TallyRoute tally_fm_data_port_status(const Tally& t);
 
 // --- bus_tally_mode: operation modes and what pages exist in them ---
 TallyRoute tally_operation_mode(const Tally& t);
+// Follow which channels are combined; what is followed already stays so.
+void Tally_FollowCombine();
 TallyRoute tally_combine(const Tally& t);
 TallyRoute tally_combine_pair(const Tally& t);
 TallyRoute tally_me_operation(const Tally& t);

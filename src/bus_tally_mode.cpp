@@ -31,6 +31,12 @@ static bool contains(const char* text, const char* part)
     return strstr(text, part) != nullptr;
 }
 
+void Tally_FollowCombine()
+{
+    for (const char* path : combine_paths)
+        Net_SendCommandFormat("add %s", path);
+}
+
 TallyRoute tally_operation_mode(const Tally& t)
 {
     if (SYS_MyPnl < 0 || SYS_MyPnl >= UNIT_MAX || !Same(t.rest, SYS_PnlName[SYS_MyPnl]))
@@ -47,8 +53,7 @@ TallyRoute tally_operation_mode(const Tally& t)
             Net_SendCommandFormat("add %s", path);
     // Every time, not on a change only: after a restart of the server the mode is the same and its
     // subscriptions are gone. A second "add" does no harm.
-    for (const char* path : combine_paths)
-        Net_SendCommandFormat("add %s", path);
+    Tally_FollowCombine();
     DeviceStructure();
     if (memcmp(before, after, sizeof before) != 0 && Page && GL_CreatePage == 0)
         GL_CreatePage = Page_Nearest(GL_NowPage);

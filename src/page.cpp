@@ -1,7 +1,7 @@
 // The opening of a page: the state of navigation, the menu keys, the objects. What an id means is
 // told by page_class, page_request and page_rules; the histories are in page_history.
 #include "page.h"
-#include "bus.h"
+#include "bus_tally.h"
 #include "global.h"
 #include "log.h"
 #include "loop.h"
@@ -198,6 +198,16 @@ static void build(const PAGE& row)
     SendMessage(MSG_REDRAW, 0, 0, 0, 0);
 }
 
+// Pages of the global effect and its status show which channels are combined, and with the page
+// goes their subscription: the server has one a path. What pages there are depends on it, so it is
+// followed all the time.
+static void follow_what_it_ended(uint32_t left)
+{
+    const uint32_t bank = left >> 24;
+    if (bank == 0x33 || bank == 0x42)
+        Tally_FollowCombine();
+}
+
 int CreatePage(uint32_t id)
 {
     Log_Output(LOG_LIFE, MOD_PAGE, "***** CreatePage(%Xh) Called *****", id);
@@ -212,6 +222,7 @@ int CreatePage(uint32_t id)
         take_back_turn();
         return -1;
     }
+    const uint32_t left = GL_NowPage;
     take_page(row, id);
     take_side(id);
     Net_SendCommandFormat("put TopMenu@SubMenuSite#%s", OmoteFlag ? "false" : "true");
@@ -224,6 +235,7 @@ int CreatePage(uint32_t id)
     TDL_Hold(); // the display goes from one page to the other in a step
     build(*row);
     TDL_Release();
+    follow_what_it_ended(left);
     return 0;
 }
 

@@ -1,7 +1,7 @@
 // The walk over all pages: every row is opened, drawn and left again, in the order of the table.
 #include "a_nb.h"
 #include "a_pc.h"
-#include "bus.h"
+#include "bus_tally.h"
 #include "command.h"
 #include "global.h"
 #include "harness.h"
@@ -137,6 +137,10 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
     int faults = 0;
     std::set<uint32_t> shown;
     std::set<std::string> removed;
+    Tally_FollowCombine(); // as the mode of the panel does
+    for (const std::string& line : TakeQueuedCommands())
+        before.insert(line.substr(strlen("add ")));
+    Tally_FollowCombine();
     const int opened = Walk([&](const PAGE& row, Books& books) {
         removed = books.removed;
         shown.insert(row.id);
@@ -149,6 +153,13 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
         before = books.held;
     });
     EXPECT_EQ(faults, 0);
+    EXPECT_EQ(std::ranges::count_if(before,
+                                    [](const std::string& path) {
+                                        return path.starts_with("Global Effect@Ch") &&
+                                               path.find("@Combine@Ch") != path.npos;
+                                    }),
+              12)
+        << "a page has ended what is followed all the time";
     InitialCommand0();
     InitialCommand1();
     InitialCommand2();
