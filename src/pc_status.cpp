@@ -163,7 +163,7 @@ static constexpr ONEOFWORD key_types[] = {{"Wipe Pattern", "Wipe Ptn"},
                                           {"Key Wipe Pattern", "Key Wipe"},
                                           {"Color Vector", "Color Vct"},
                                           {}};
-static constexpr ONEOFWORD words_none[] = {{"null", ""}, {}};
+static constexpr ONEOFWORD transition_modes[] = {{"null", "Full"}, {}};
 static constexpr OVERVIEWCOLUMN key_columns[] = {
     {"$@Status@Key ON", one_of_switch},
     {"$@Type@Key Type", key_types},
@@ -173,7 +173,7 @@ static constexpr OVERVIEWCOLUMN key_columns[] = {
     {"$@Processed Key@Processed Key", one_of_switch},
 };
 static constexpr OVERVIEWCOLUMN wipe_columns[] = {
-    {"$@Misc@Transition@Transition Mode", words_none},
+    {"$@Misc@Transition@Transition Mode", transition_modes},
     {"$@Misc@Transition@Transition Rate"},
     {"$@Wipe@Main Pattern@Pattern"},
     {"$@Wipe@Sub Pattern@Pattern"},
