@@ -14,6 +14,7 @@ struct NB_TBL {
     // A server path; "Panel@Common@Knob0".."4"; the same behind "LOCAL@"; "LOCAL"; "".
     const char* cmd = nullptr;
     double scale = 0; // knob counts for one unit of value; 0 where the server does the knob work
+    const char* zero = nullptr; // of a whole number: what the box shows for 0, a "None"
 };
 enum : int { NB_1 = 1, NB_2 = 2, NB_4 = 4, NB_INT = 16, NB_TC = 32 };
 constexpr NB_TBL NB_END = {.id = -1};
@@ -36,7 +37,8 @@ struct NB_MEM {
     int var_valid = 0;  // a value has arrived
     double dispvar = 0; // shown instead of var while the operator's change is fresh
     int dispvar_enable = 0;
-    int dispvar_time = 0;          // ms left of that
+    int dispvar_time = 0; // ms left of that
+    const char* zero = nullptr;
     const char* str_val = nullptr; // text of a time code whose min is negative
     int added = 0;                 // subscribed from here, so it is removed from here
 };

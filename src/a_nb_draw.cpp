@@ -82,6 +82,8 @@ static void draw_value(const NB_MEM& b, int y)
     const char* text = number;
     if (b.type == NB_TC && b.min < 0 && b.str_val)
         text = b.str_val;
+    else if (b.type == NB_INT && b.zero && nb_round(nb_shown_var(b)) == 0)
+        text = b.zero;
     else
         NB_Text(b, nb_shown_var(b), number, sizeof number);
     // A value far out of range is cut at its end: it must not run into the work area.

@@ -205,6 +205,7 @@ static void fill_box(NB_MEM& b, const NB_TBL& row)
     b.min = row.min;
     b.max = row.max;
     b.scale = row.scale;
+    b.zero = row.zero;
     b.visible = 0;
     b.str_val = nullptr;
     b.added = 0;

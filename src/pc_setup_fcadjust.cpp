@@ -93,10 +93,14 @@ static constexpr SETUPFIELD fields[] = {
 static_assert(std::size(fields) == FLD_COUNT_4K);
 
 static constexpr SETUPCHOICE choices[] = {
-    {FCADJUST("Convert Mode"), FLD_CONVERT}, {FCADJUST("Aspect"), FLD_ASPECT},
-    {FCADJUST("Aspect Type"), FLD_TYPE},     {FCADJUST("EC Pos Mode"), FLD_EC_MODE},
-    {FCADJUST("LB Pos Mode"), FLD_LB_MODE},  {FCADJUST("Enhancer Mode"), FLD_ENHANCER},
-    {FCADJUST_4K("Division"), FLD_DIVISION}, {FCADJUST_4K("IP"), FLD_IP},
+    {.cmd = FCADJUST("Convert Mode"), .field = FLD_CONVERT},
+    {.cmd = FCADJUST("Aspect"), .field = FLD_ASPECT, .on = "4:3", .off = "16:9"},
+    {.cmd = FCADJUST("Aspect Type"), .field = FLD_TYPE},
+    {.cmd = FCADJUST("EC Pos Mode"), .field = FLD_EC_MODE, .on = "true", .off = "false"},
+    {.cmd = FCADJUST("LB Pos Mode"), .field = FLD_LB_MODE, .on = "true", .off = "false"},
+    {.cmd = FCADJUST("Enhancer Mode"), .field = FLD_ENHANCER, .on = "true", .off = "false"},
+    {.cmd = FCADJUST_4K("Division"), .field = FLD_DIVISION},
+    {.cmd = FCADJUST_4K("IP"), .field = FLD_IP},
 };
 static constexpr int CHOICES = std::size(choices) - 2;
 static constexpr int CHOICES_4K = std::size(choices);
@@ -631,11 +635,6 @@ static void put_default()
     fcadjust_read();
 }
 
-static void toggle(int field, const char* on, const char* off)
-{
-    SetupPage_Set(*fc.table, cursor(), field, Same(now(field), on) ? off : on);
-}
-
 static int button(const char* cmd)
 {
     static constexpr struct {
@@ -647,10 +646,6 @@ static int button(const char* cmd)
         {FCADJUST("Default"), put_default},
         {FCADJUST("EC Pos Center"), [] { put("EC Pos", "0"); }},
         {FCADJUST("LB Pos Center"), [] { put("LB Pos", "0"); }},
-        {FCADJUST("Aspect"), [] { toggle(FLD_ASPECT, "4:3", "16:9"); }},
-        {FCADJUST("EC Pos Mode"), [] { toggle(FLD_EC_MODE, "true", "false"); }},
-        {FCADJUST("LB Pos Mode"), [] { toggle(FLD_LB_MODE, "true", "false"); }},
-        {FCADJUST("Enhancer Mode"), [] { toggle(FLD_ENHANCER, "true", "false"); }},
         {FCADJUST("Enhancer Adjust"),
          [] {
              fc.is_enhancer = !fc.is_enhancer;

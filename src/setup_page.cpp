@@ -225,25 +225,35 @@ static void leave_field(const SETUPTABLE& t, const SETUPFIELD& f)
 
 // --- What the server tells ---
 
-static void text_of_value(const SETUPFIELD& f, const char* value, const char* now,
-                          char (&text)[SETUP_TEXT])
+static void text_of_word(const SETUPFIELD& f, const char* value, char (&text)[SETUP_TEXT])
 {
-    if (f.from_wire)
-        return f.from_wire(value, now, text, sizeof text);
     CopyText(text, value);
     for (const SETUPWORD* w = f.words; w && w->wire; w++)
         if (strcmp(w->wire, value) == 0)
             CopyText(text, w->text);
 }
 
-static void value_of_text(const SETUPFIELD& f, const char* text, char (&value)[SETUP_TEXT])
+static void word_of_text(const SETUPFIELD& f, const char* text, char (&value)[SETUP_TEXT])
 {
-    if (f.to_wire)
-        return f.to_wire(text, value, sizeof value);
     CopyText(value, text);
     for (const SETUPWORD* w = f.words; w && w->wire; w++)
         if (strcmp(w->text, text) == 0)
             CopyText(value, w->wire);
+}
+
+static void text_of_value(const SETUPFIELD& f, const char* value, const char* now,
+                          char (&text)[SETUP_TEXT])
+{
+    if (f.from_wire)
+        return f.from_wire(value, now, text, sizeof text);
+    text_of_word(f, value, text);
+}
+
+static void value_of_text(const SETUPFIELD& f, const char* text, char (&value)[SETUP_TEXT])
+{
+    if (f.to_wire)
+        return f.to_wire(text, value, sizeof value);
+    word_of_text(f, text, value);
 }
 
 // What is in hand stays; a cell that was as the server had it follows.
@@ -382,6 +392,14 @@ static void show_list(const SETUPTABLE& t)
     (void)LS_RedrawData(t.list);
 }
 
+// The text is a number, or the word in the place of one.
+static void show_box(const SETUPTABLE& t, const SETUPCHOICE& c, const char* text)
+{
+    char number[SETUP_TEXT];
+    word_of_text(t.fields[c.field], text, number);
+    (void)(*text ? NB_SetVar(c.box, Decimal(number)) : NB_InvalidVar(c.box));
+}
+
 static void show_choices(const SETUPTABLE& t)
 {
     char line[CMD_SIZE];
@@ -389,10 +407,11 @@ static void show_choices(const SETUPTABLE& t)
         const SETUPCHOICE& c = t.choices[i];
         const char* const text = SetupPage_Text(t, t.state->cursor, c.field);
         if (c.box)
-            (void)(*text ? NB_SetVar(c.box, Decimal(text)) : NB_InvalidVar(c.box));
+            show_box(t, c, text);
         if (!c.cmd)
             continue;
-        PrintText(line, "%s#%s", c.cmd, text);
+        const char* const state = strcmp(text, c.on ? c.on : "") == 0 ? "true" : "false";
+        PrintText(line, "%s#%s", c.cmd, c.on ? state : text);
         (void)SendDummyTally(line);
     }
 }
@@ -634,6 +653,9 @@ static int choose(const SETUPTABLE& t, const SETUPCHOICE& c, const char* value)
 {
     if (c.offer)
         open_popup(t, c);
+    else if (c.on)
+        set_selected(t, c,
+                     strcmp(SetupPage_Text(t, t.state->cursor, c.field), c.on) ? c.on : c.off);
     else
         set_selected(t, c, value);
     return 1;
@@ -651,13 +673,15 @@ static void popup_closed(const SETUPTABLE& t, int result)
 
 static int knob_turned(const SETUPTABLE& t, int box, int value)
 {
-    char text[16];
-    PrintText(text, "%d", value);
+    char number[16];
+    char text[SETUP_TEXT];
+    PrintText(number, "%d", value);
     for (int i = 0; i < t.choice_count; i++)
         if (t.choices[i].box == box) {
             // Until it is told, the box stands at nothing: its knob's first report is no turn.
             if (!*SetupPage_Text(t, t.state->cursor, t.choices[i].field))
                 return 1;
+            text_of_word(t.fields[t.choices[i].field], number, text);
             set_selected(t, t.choices[i], text);
             return 1;
         }

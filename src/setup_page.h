@@ -63,7 +63,9 @@ struct SETUPCHOICE {
     int field = 0;             // index in fields
     // The button opens a popup of these texts, at most SETUP_OFFER. Returns how many.
     int (*offer)(const char** texts, int max) = nullptr;
-    int box = 0; // id of a number box whose whole number is the text, 0 none
+    int box = 0;              // id of a number box whose whole number is the text, 0 none
+    const char* on = nullptr; // a toggle that turns these two over
+    const char* off = "";
     // No two rows have the same text: the row that had it gets the one of the current row.
     int is_swapped = 0;
 };
@@ -71,6 +73,7 @@ constexpr int SETUP_OFFER = 72; // cells of the largest popup
 
 struct SETUPSTATE {
     int cursor = 0; // current row; outlives the page, and the rows while they are told anew
+    int group = 0;  // of a sheet's rows that is shown; outlives the page
     int is_open = 0;
     const char* const* tree = nullptr; // the page's place while it is open, and while it is left
     int question = 0;                  // pane of the Execute question, 0 none

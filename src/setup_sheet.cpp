@@ -13,18 +13,33 @@
 static struct {
     const SETUPSHEET* sheet = nullptr; // while the page is open
     const SETUPTABLE* table = nullptr;
-    int column = 0; // that the keyboard is for
+    int column = 0;        // that the keyboard is for
+    int group_pane = 0;    // choice of the rows that are shown, 0 none
+    char caption[32] = ""; // of its key
 } sh;
 
-int SetupSheet_Keys(const SETUPSHEET& s, const char** keys, int max)
+// The rows of a group, counted from 0.
+struct RowRange {
+    int first = 0;
+    int count = 0;
+};
+static RowRange rows_of_group(const SETUPSHEET& s, int group)
+{
+    const int size = s.group ? s.group : s.rows;
+    return {group * size, std::min(size, s.rows - group * size)};
+}
+
+int SetupSheet_Keys(const SETUPSHEET& s, const SETUPSTATE& state, const char** keys, int max)
 {
     static char numbers[SHEET_ROWS][4];
-    const int rows = std::min({s.rows, max, SHEET_ROWS});
-    for (int i = 0; i < rows; i++) {
-        PrintText(numbers[i], "%d", i + 1);
-        keys[i] = s.names ? s.names[i] : numbers[i];
+    const RowRange rows = rows_of_group(s, state.group);
+    const int count = std::min({rows.count, max, SHEET_ROWS - rows.first});
+    for (int i = 0; i < count; i++) {
+        const int row = rows.first + i;
+        PrintText(numbers[row], "%d", row + 1);
+        keys[i] = s.names ? s.names[row] : numbers[row];
     }
-    return rows;
+    return count;
 }
 
 int SetupSheet_Offer(const SETUPSHEET& s, int column, const char** texts, int max)
@@ -89,10 +104,62 @@ static void ask_name(const SETUPSHEET& s, const SETUPTABLE& t, int column)
     CreateWindow(WINDOW_KEYBOARD, s.columns[column].head, args);
 }
 
+// --- A group of the rows ---
+
+constexpr int GROUPS = 12; // cells of the pane, at most
+
+static void show_group(const SETUPSHEET& s, const SETUPTABLE& t)
+{
+    if (s.group == 0)
+        return;
+    const RowRange rows = rows_of_group(s, t.state->group);
+    PrintText(sh.caption, "%s\n%d-%d", s.key_head, rows.first + 1, rows.first + rows.count);
+    (void)BT_SetCaption(BTN_SHEET_GROUP, sh.caption);
+}
+
+static void ask_group(const SETUPSHEET& s, const SETUPTABLE& t)
+{
+    static char captions[GROUPS][16]; // live as long as the pane
+    constexpr int columns = 3;
+    BTNSEL cells[GROUPS] = {}; // a last row that is not full ends in empty ones
+    int n = 0;
+    for (; n < GROUPS && n * s.group < s.rows; n++) {
+        const RowRange rows = rows_of_group(s, n);
+        PrintText(captions[n], "%d-%d", rows.first + 1, rows.first + rows.count);
+        cells[n] = {n + 1, captions[n], n == t.state->group};
+    }
+    sh.group_pane = PanePopup_Create((n + columns - 1) / columns, columns, cells);
+}
+
+// Only the rows that are shown are followed.
+static void choose_group(const SETUPSHEET& s, const SETUPTABLE& t, int group)
+{
+    if (group < 0 || group * s.group >= s.rows || group == t.state->group)
+        return;
+    SetupPage_Close(t);
+    t.state->group = group;
+    t.state->cursor = 0;
+    SetupPage_Open(t);
+    show_group(s, t);
+}
+
+static int pane_closed(const SETUPSHEET& s, const SETUPTABLE& t, int pane, int result)
+{
+    if (pane == 0 || pane != sh.group_pane)
+        return 0;
+    sh.group_pane = 0;
+    choose_group(s, t, result - 1);
+    return 1;
+}
+
 static int button_pressed(const SETUPSHEET& s, const SETUPTABLE& t, const char* cmd)
 {
     if (!BeginsWith(cmd, SHEET_LOCAL))
         return 0;
+    if (s.group && Same(cmd, SHEET_GROUP)) {
+        ask_group(s, t);
+        return 1;
+    }
     for (int i = 0; i < s.column_count; i++)
         if (s.columns[i].name && Same(cmd + strlen(SHEET_LOCAL), s.columns[i].head)) {
             ask_name(s, t, i);
@@ -113,19 +180,25 @@ static void show_ways(const SETUPSHEET& s)
 
 int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on)
 {
-    sh.sheet = on ? &s : nullptr;
-    sh.table = on ? &t : nullptr;
+    sh = {};
+    if (on) {
+        sh.sheet = &s;
+        sh.table = &t;
+    }
     on ? SetupPage_Open(t) : SetupPage_Close(t);
     if (on && s.title)
         (void)NB_SetTitle(s.title);
-    if (on)
+    if (on) {
         show_ways(s);
+        show_group(s, t);
+    }
     return !on;
 }
 
 int SetupSheet_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx)
 {
-    if (msg == LMSG_BTNSEL && button_pressed(s, t, Text(ax)))
+    if ((msg == LMSG_BTNSEL && button_pressed(s, t, Text(ax))) ||
+        (msg == LMSG_PANEQUIT && pane_closed(s, t, int(ax), int(bx))))
         return 1;
     return SetupPage_Proc(t, msg, ax, bx);
 }

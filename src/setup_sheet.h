@@ -5,7 +5,8 @@
 // with page code, which calls SetupSheet_Proc for all the rest.
 //
 // A sheet is prepared and applied by Execute, or, where it is direct, each change goes out at once
-// and only the answer changes what is shown.
+// and only the answer changes what is shown. A long direct sheet shows and follows a group of rows,
+// and a key chooses which.
 #pragma once
 #include "a_bt.h"
 #include "a_ls.h"
@@ -37,6 +38,7 @@ struct SETUPCOLUMN {
     int ask = SETUP_ADD;           // as in SETUPFIELD
     int is_swapped = 0;            // as in SETUPCHOICE, of a key that asks
     int is_asked = 0;              // one key that asks, however few its words are
+    int is_toggle = 0;             // one key that turns over two words, lit by the first
     const char* caption = nullptr; // of its key; null: the head
     const char* group = nullptr;   // title of one key's frame; columns side by side share it
     int start_line = 0;            // its keys begin the second line of keys
@@ -52,6 +54,7 @@ struct SETUPSHEET {
     const char* key_head = "No";
     int key_width = 60;
     int is_direct = 0;
+    int group = 0;                  // rows that are shown at a time; 0: all. Direct, without names
     const char* question = nullptr; // of Execute
     const char* title = nullptr;    // over the knobs; null: the page's own
     const BT_TBL* more = nullptr;   // further keys, of ids that the columns leave free
@@ -66,8 +69,8 @@ struct SETUPSHEET {
 int SetupSheet_Proc(const SETUPSHEET& s, const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx);
 // Open the page; the same with on 0 leaves it.
 int SetupSheet_Create(const SETUPSHEET& s, const SETUPTABLE& t, int on);
-// The keys of all rows, at most max: its names or numbers. Returns how many.
-int SetupSheet_Keys(const SETUPSHEET& s, const char** keys, int max);
+// The keys of the rows that are shown, at most max: names or numbers. Returns how many.
+int SetupSheet_Keys(const SETUPSHEET& s, const SETUPSTATE& state, const char** keys, int max);
 // The choices of a column at the moment. Returns how many.
 int SetupSheet_Offer(const SETUPSHEET& s, int column, const char** texts, int max);
 // The cells or the current row may be others now: a direct sheet sends what is in hand.
@@ -102,9 +105,25 @@ constexpr SETUPCOLUMN SheetAsked(const char* head, int width, const char* path,
             .caption = caption,
             .group = group};
 }
+// Two words behind one key that turns them over: one touch for all selected rows.
+constexpr SETUPCOLUMN SheetToggle(const char* head, int width, const char* path,
+                                  const SETUPWORD* words, const char* caption = nullptr,
+                                  const char* group = nullptr)
+{
+    SETUPCOLUMN column = SheetAsked(head, width, path, words, caption, group);
+    column.is_asked = 0;
+    column.is_toggle = 1;
+    return column;
+}
 constexpr SETUPCOLUMN SheetNumber(const char* head, int width, const char* path, int min, int max)
 {
     return {.head = head, .width = width, .path = path, .min = min, .max = max};
+}
+// A number that begins with a word in the place of 0: {{"0", "None"}, {}}.
+constexpr SETUPCOLUMN SheetNumberOr(const char* head, int width, const char* path,
+                                    const SETUPWORD* zero, int max)
+{
+    return {.head = head, .width = width, .path = path, .words = zero, .min = 0, .max = max};
 }
 // The last of a range; its first is the number of the column before.
 constexpr SETUPCOLUMN SheetLast(const char* head, int width, const char* path, int min, int max)
@@ -165,9 +184,10 @@ constexpr bool IsSheetNumber(const SETUPCOLUMN& c)
 // How many keys a column has.
 constexpr int SheetKeys(const SETUPCOLUMN& c)
 {
-    if (c.is_fixed || (!c.words && !c.name))
+    if (c.is_fixed || IsSheetNumber(c) || (!c.words && !c.name))
         return 0;
-    return c.words && !c.is_asked && SheetWords(c) <= SHEET_RADIOS ? SheetWords(c) : 1;
+    return c.words && !c.is_asked && !c.is_toggle && SheetWords(c) <= SHEET_RADIOS ? SheetWords(c)
+                                                                                   : 1;
 }
 
 constexpr int SHEET_LIST_Y = 76;
@@ -175,7 +195,8 @@ constexpr int SHEET_COMMAND = 96;
 #define SHEET_LOCAL "LOCAL@Setup@"
 #define SHEET_CLEAR SHEET_LOCAL "Clear"
 #define SHEET_EXECUTE SHEET_LOCAL "Execute"
-enum : int { BTN_SHEET_CLEAR = 53, BTN_SHEET_EXECUTE = 54 };
+#define SHEET_GROUP SHEET_LOCAL "Group"
+enum : int { BTN_SHEET_GROUP = 38, BTN_SHEET_CLEAR = 53, BTN_SHEET_EXECUTE = 54 };
 
 struct SheetText {
     char text[SHEET_COMMAND] = {};
@@ -219,9 +240,9 @@ constexpr SheetTexts MakeSheetTexts(const SETUPSHEET& s)
         const int keys = SheetKeys(c);
         for (int n = 0; n < keys; n++, key++) {
             texts.key[key] = texts.column[i];
-            if (keys > 1) {
+            if (keys > 1 || c.is_toggle) {
                 texts.key[key].Append("#");
-                texts.key[key].Append(c.words[n].text);
+                texts.key[key].Append(c.is_toggle ? "true" : c.words[n].text);
             }
         }
     }
@@ -261,14 +282,18 @@ constexpr SheetKeyRows MakeSheetKeys(const SETUPSHEET& s, const SheetTexts& text
             next = 49;
         int id = SheetPlace(next, keys, !s.is_direct);
         for (int n = 0; n < keys; n++, key++, id++) {
-            const int type = keys > 1 ? int(BT_RADIO)
-                             : c.name ? int(BT_JUMP_KEYBOARD)
-                                      : int(BT_JUMP_POPUP);
+            const int type = keys > 1      ? int(BT_RADIO)
+                             : c.is_toggle ? int(BT_TOGGLE)
+                             : c.name      ? int(BT_JUMP_KEYBOARD)
+                                           : int(BT_JUMP_POPUP);
             const char* const caption = keys > 1 ? c.words[n].text : c.caption ? c.caption : c.head;
             rows.row[key] =
                 SheetKey(id, type, caption, keys > 1 ? c.head : c.group, texts.key[key].text);
         }
     }
+    if (s.group)
+        rows.row[key++] =
+            SheetKey(BTN_SHEET_GROUP, BT_JUMP_POPUP, s.key_head, nullptr, SHEET_GROUP);
     for (int i = 0; i < s.more_count; i++)
         rows.row[key++] = s.more[i];
     if (!s.is_direct) {
@@ -296,7 +321,8 @@ constexpr SheetBoxRows MakeSheetBoxes(const SETUPSHEET& s)
                        .min = double(c.min),
                        .max = double(c.max),
                        .cmd = local[n],
-                       .scale = 4};
+                       .scale = 4,
+                       .zero = c.words ? c.words[0].text : nullptr};
         n++;
     }
     rows.row[n].id = -1;
@@ -363,9 +389,14 @@ template <const SETUPSHEET& s> constexpr SheetFields MakeSheetFields(const Sheet
                       .words = c.words,
                       .from_wire = c.from_wire,
                       .to_wire = c.to_wire};
-        const bool is_asked = SheetKeys(c) == 1 && !c.name;
+        const bool is_asked = SheetKeys(c) == 1 && !c.name && !c.is_toggle;
         if (IsSheetNumber(c))
             f.choice[f.choices++] = {.field = i, .box = box++};
+        else if (c.is_toggle)
+            f.choice[f.choices++] = {.cmd = texts.column[i].text,
+                                     .field = i,
+                                     .on = c.words[0].text,
+                                     .off = c.words[1].text};
         else if (SheetKeys(c) > 1)
             f.choice[f.choices++] = {.cmd = texts.column[i].text, .field = i};
         else if (is_asked)
@@ -396,16 +427,19 @@ constexpr bool SheetIsSound(const SETUPSHEET& s, const SheetKeyRows& keys)
     for (int i = 0; i < BT_MAX && keys.row[i].id != -1; i++)
         if (keys.row[i].id < 1 || keys.row[i].y2 < 1)
             return false; // no place was left for it
+    if (s.group && (!s.is_direct || s.names))
+        return false;
     return width == list_width && boxes <= SHEET_BOXES && s.rows > 0 && s.rows <= SHEET_ROWS &&
            s.column_count > 0 && s.column_count <= SHEET_COLUMNS;
 }
 
 // --- The objects of a sheet's page ---
 
+template <const SETUPSHEET& s> inline constexpr int sheet_shown = s.group ? s.group : s.rows;
 template <const SETUPSHEET& s>
-inline char sheet_work[size_t(s.rows) * size_t(s.column_count + 1) * SHEET_TEXT];
+inline char sheet_work[size_t(sheet_shown<s>) * size_t(s.column_count + 1) * SHEET_TEXT];
 template <const SETUPSHEET& s>
-inline char sheet_told[size_t(s.rows) * size_t(s.column_count + 1) * SHEET_TEXT];
+inline char sheet_told[size_t(sheet_shown<s>) * size_t(s.column_count + 1) * SHEET_TEXT];
 template <const SETUPSHEET& s> inline int sheet_rows = 0;
 template <const SETUPSHEET& s> inline SETUPSTATE sheet_state;
 template <const SETUPSHEET& s> inline constexpr SheetTexts sheet_texts = MakeSheetTexts(s);
@@ -418,7 +452,7 @@ inline constexpr SheetFields sheet_fields = MakeSheetFields<s>(sheet_texts<s>);
 
 template <const SETUPSHEET& s> int SheetRowKeys(const char** keys, int max)
 {
-    return SetupSheet_Keys(s, keys, max);
+    return SetupSheet_Keys(s, sheet_state<s>, keys, max);
 }
 
 template <const SETUPSHEET& s> void SheetChanged();
@@ -430,7 +464,7 @@ inline constexpr SETUPTABLE SetupSheet_Table = {
     .rows = &sheet_rows<s>,
     .state = &sheet_state<s>,
     .row_size = size_t(s.column_count + 1) * SHEET_TEXT,
-    .max = s.rows,
+    .max = sheet_shown<s>,
     .fields = sheet_fields<s>.field,
     .field_count = s.column_count + 1,
     .keys = SheetRowKeys<s>,

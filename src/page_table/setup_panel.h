@@ -83,7 +83,7 @@ inline constexpr BT_TBL bt_engsetup_panel_config_programbutton[] = {
     Jump({.id = 49, .caption = "Macro\nEdit", .group = "Multi Module", .cmd = {"#73210046"}}),
     Jump({.id = 50, .caption = "Effect\nEdit", .group = "Multi Module", .cmd = {"#73210047"}}),
     Jump({.id = 51, .caption = "Mode\nSelect", .group = "Multi Module", .cmd = {"#73210048"}}),
-    Jump({.id = 54, .caption = "Config", .cmd = {"#73210000"}}),
+    SetupBack("Config", "#73210000"),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_engsetup_panel_config_programbutton));

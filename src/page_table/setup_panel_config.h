@@ -24,7 +24,7 @@ inline constexpr const char* pnl_rows[] = {"1st Row", "2nd Row", "3rd Row", "4th
 static_assert(std::size(pnl_rows) == PANEL_ROWS);
 inline constexpr const char* pnl_bus_rows[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "P/P", "1st AUX", "2nd AUX"};
 
-inline constexpr BT_TBL to_pnl_config[] = {Jump({.id = 52, .caption = "Config", .cmd = {"#73210000"}})};
+inline constexpr BT_TBL to_pnl_config[] = {SetupBack("Config", "#73210000")};
 
 // --- Links ---
 
@@ -34,7 +34,7 @@ inline constexpr SETUPCOLUMN pnl_keytranslink_columns[] = {
     {.head = "Link", .width = 150, .path = "~", .part = 3, .words = pnl_on_off},
 };
 #define PNL_DELETE_LINK Action({.id = BTN_LINK_DELETE, .caption = "Delete", .cmd = {SETUP_LINK_LOCAL "Delete"}})
-inline constexpr BT_TBL pnl_keytranslink_more[] = {PNL_DELETE_LINK, Jump({.id = 52, .caption = "Config", .cmd = {"#73210000"}})};
+inline constexpr BT_TBL pnl_keytranslink_more[] = {PNL_DELETE_LINK, SetupBack("Config", "#73210000")};
 inline constexpr SETUPSHEET pnl_keytranslink =
     SheetOf(pnl_keytranslink_columns, 24, {.key_head = "Link No", .key_width = 100, PNL_KEYS(pnl_keytranslink_more),
                                            .offer = SetupLink_Keys, .is_sound = SetupLink_IsSound, .changed = SetupLink_Changed});
@@ -52,7 +52,7 @@ inline constexpr BT_TBL pnl_extbuslink_more[] = {
     Jump({.id = 36, .caption = "Linked", .group = "Link Bus Adjust", .cmd = {SETUP_LINK_LOCAL "External Linked"}}),
     PNL_DELETE_LINK,
     Jump({.id = 49, .caption = "Link\nMatrix\nAdjust", .cmd = {"#73210006"}}),
-    Jump({.id = 52, .caption = "Config", .cmd = {"#73210000"}}),
+    SetupBack("Config", "#73210000"),
 };
 #undef PNL_DELETE_LINK
 inline constexpr SETUPSHEET pnl_extbuslink =
@@ -61,7 +61,7 @@ inline constexpr SETUPSHEET pnl_extbuslink =
 inline constexpr BT_TBL bt_engsetup_panel_linkbusadj[] = {
     Action({.id = 33, .caption = "Set\nMaster", .cmd = {SETUP_LINK_LOCAL "Internal Bus Link@Bus Sel@Set"}}),
     Action({.id = 34, .caption = "Set\nNone", .cmd = {SETUP_LINK_LOCAL "Internal Bus Link@Bus Sel@None"}}),
-    Jump(  {.id = 52, .caption = "External\nBus Link", .cmd = {"#73210004"}}),
+    SetupBack("External\nBus Link", "#73210004"),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_engsetup_panel_linkbusadj));
@@ -74,7 +74,7 @@ inline constexpr SETUPCOLUMN pnl_linkmatrixadj_columns[] = {
 };
 inline constexpr BT_TBL pnl_linkmatrixadj_more[] = {
     Jump({.id = 49, .caption = "Link\nTable\nAdjust", .cmd = {"#73210007"}}),
-    Jump({.id = 52, .caption = "External\nBus Link", .cmd = {"#73210004"}}),
+    SetupBack("External\nBus Link", "#73210004"),
 };
 inline constexpr SETUPSHEET pnl_linkmatrixadj =
     SheetOf(pnl_linkmatrixadj_columns, LINK_TABLES, {.key_head = "Matrix", .key_width = 100, .title = "Link Matrix", PNL_KEYS(pnl_linkmatrixadj_more)});
@@ -82,7 +82,7 @@ inline constexpr SETUPSHEET pnl_linkmatrixadj =
 inline constexpr BT_TBL bt_engsetup_panel_linktableadj[] = {
     Knobs( {.id = 33, .caption = "Router\nSource", .cmd = {SETUP_LINK_LOCAL "Internal Bus Link@Table Sel@Source"}, .nb = nb_engsetup_switcher_tablesel}),
     Action({.id = 34, .caption = "Straight", .cmd = {SETUP_LINK_LOCAL "Internal Bus Link@Table Sel@Straight"}}),
-    Jump(  {.id = 52, .caption = "Link\nMatrix\nAdjust", .cmd = {"#73210006"}}),
+    SetupBack("Link\nMatrix\nAdjust", "#73210006"),
     SetupClear(LOCAL_SWR "Clear"), SetupExecute(LOCAL_SWR "Execute"),
     BT_END,
 };
@@ -113,12 +113,12 @@ inline constexpr SETUPCOLUMN pnl_dskfaderassign_columns[] = {
 };
 inline constexpr BT_TBL pnl_dskfaderassign_more[] = {
     Jump({.id = 51, .caption = "Fader\nAssign", .cmd = {"#73210010"}}),
-    Jump({.id = 52, .caption = "Config", .cmd = {"#73210000"}}),
+    SetupBack("Config", "#73210000"),
 };
 inline constexpr SETUPSHEET pnl_dskfaderassign = SheetOf(pnl_dskfaderassign_columns, 4, {.key_head = "DSK Fader", .key_width = 100, .title = "DSK Fader", PNL_KEYS(pnl_dskfaderassign_more)});
 inline constexpr SETUPWORD pnl_faders[] = {SAME("Transition"), SAME("Key Trans"), SAME("Effect"), SAME("None"), {}};
 inline constexpr SETUPCOLUMN pnl_faderassign_columns[] = {SheetWord("Fader", 220, "~@Fader@$", pnl_faders), SheetWord("Side", 220, "~@Side@$", pnl_sides)};
-inline constexpr BT_TBL to_pnl_dskfader[] = {Jump({.id = 52, .caption = "DSK Fader\nAssign", .cmd = {"#73210009"}})};
+inline constexpr BT_TBL to_pnl_dskfader[] = {SetupBack("DSK Fader\nAssign", "#73210009")};
 inline constexpr SETUPSHEET pnl_faderassign =
     SheetOf(pnl_faderassign_columns, int(std::size(pnl_rows)), {.names = pnl_rows, .key_head = "Row", .key_width = 110, PNL_KEYS(to_pnl_dskfader)});
 
@@ -133,7 +133,7 @@ inline constexpr SETUPCOLUMN pnl_compactkey_columns[] = {
 #undef SLOT
 inline constexpr BT_TBL pnl_compactkey_more[] = {
     Jump({.id = 51, .caption = "Extension\nPort", .cmd = {"#73210013"}}),
-    Jump({.id = 52, .caption = "Config", .cmd = {"#73210000"}}),
+    SetupBack("Config", "#73210000"),
 };
 inline constexpr SETUPSHEET pnl_compactkey = SheetOf(
     pnl_compactkey_columns, int(std::size(pnl_unit_numbers)), {.names = pnl_unit_numbers, .key_width = 34, .question = setup_reboot_question, .title = "Compact Key", PNL_KEYS(pnl_compactkey_more)});
@@ -142,7 +142,7 @@ inline constexpr SETUPWORD pnl_port_modules[] = {SAME("None"), SAME("Flexi Pad")
 inline constexpr SETUPCOLUMN pnl_extensionport_columns[] = {
     SheetWord("Module", 220, "~@Module@$", pnl_port_modules), SheetNumber("Panel Row", 220, "~@Panel Row@$", 1, PANEL_ROWS),
 };
-inline constexpr BT_TBL to_pnl_compactkey[] = {Jump({.id = 52, .caption = "Compact\nKey\nModule", .cmd = {"#73210011"}})};
+inline constexpr BT_TBL to_pnl_compactkey[] = {SetupBack("Compact\nKey\nModule", "#73210011")};
 inline constexpr SETUPSHEET pnl_extensionport =
     SheetOf(pnl_extensionport_columns, 8, {.key_head = "Port", .key_width = 110, .question = setup_reboot_question, PNL_KEYS(to_pnl_compactkey)});
 
@@ -185,10 +185,10 @@ inline constexpr SETUPSHEET pnl_devinterface =
     SheetOf(pnl_devinterface_columns, 4, {.names = pnl_remotes, .key_head = "Port", .key_width = 100, PNL_KEYS(pnl_devinterface_more)});
 
 constexpr int PANEL_GPI_PORTS = 8;
-#define TO_PANEL_DEVICE Jump({.id = 52, .caption = "Device\nInterface", .cmd = {"#73250000"}})
+#define TO_PANEL_DEVICE SetupBack("Device\nInterface", "#73250000")
 inline constexpr BT_TBL pnl_gpiinput_more[] = {Jump({.id = 36, .caption = "H/L Set", .group = "Level", .cmd = {"#73250002"}}), TO_PANEL_DEVICE};
-inline constexpr BT_TBL pnl_hlset_more[] = {Jump({.id = 50, .caption = "FC\nInput/\nOutput", .cmd = {"#73250003"}}), Jump({.id = 52, .caption = "GPI\nInput", .cmd = {"#73250001"}})};
-inline constexpr BT_TBL pnl_hlset_fc_more[] = {Jump({.id = 52, .caption = "H/L Set", .cmd = {"#73250002"}})};
+inline constexpr BT_TBL pnl_hlset_more[] = {Jump({.id = 50, .caption = "FC\nInput/\nOutput", .cmd = {"#73250003"}}), SetupBack("GPI\nInput", "#73250001")};
+inline constexpr BT_TBL pnl_hlset_fc_more[] = {SetupBack("H/L Set", "#73250002")};
 inline constexpr BT_TBL pnl_gpioutput_more[] = {gpi_test_fire, TO_PANEL_DEVICE};
 inline constexpr SETUPSHEET pnl_gpiinput = SheetMore(SetupGpi_Input(PANEL_GPI_PORTS), pnl_gpiinput_more);
 inline constexpr SETUPSHEET pnl_hlset = SheetMore(SetupGpi_HLSet(PANEL_GPI_PORTS), pnl_hlset_more);

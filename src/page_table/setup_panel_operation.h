@@ -5,8 +5,7 @@
 #include "setup_panel_config.h"
 
 #define OPERATION PNL "Operation@"
-inline constexpr BT_TBL to_pnl_operation[] = {Jump({.id = 52, .caption = "Operation", .cmd = {"#73260000"}})};
-inline constexpr BT_TBL to_pnl_operation_direct[] = {Jump({.id = 54, .caption = "Operation", .cmd = {"#73260000"}})};
+inline constexpr BT_TBL to_pnl_operation[] = {SetupBack("Operation", "#73260000")};
 
 #define SETTING(word) {OPERATION word "#*"}
 inline constexpr BT_TBL bt_engsetup_panel_operation[] = {
@@ -39,7 +38,7 @@ inline constexpr SETUPWORD pnl_recall_modes[] = {SAME("Stop"), SAME("Auto Run"),
 inline constexpr SETUPWORD pnl_end_modes[] = {SAME("Stay"), SAME("Rewind"), {}};
 inline constexpr SETUPCOLUMN pnl_effectmode_columns[] = {
     SheetWord("Recall", 150, "~@Recall@$", pnl_recall_modes), SheetWord("At End", 150, "~@At End@$", pnl_end_modes),
-    SheetAsked("Loop", 140, "~@Loop@$", pnl_on_off),
+    SheetToggle("Loop", 140, "~@Loop@$", pnl_on_off),
 };
 inline constexpr SETUPSHEET pnl_effectmode =
     SheetOf(pnl_effectmode_columns, int(std::size(pnl_regions)), {.names = pnl_regions, .key_head = "Region", .key_width = 110, PNL_KEYS(to_pnl_operation)});
@@ -55,7 +54,7 @@ inline constexpr SETUPSHEET pnl_flexipadmode = SheetOf(pnl_flexipadmode_columns,
 inline constexpr const char* pnl_macro_settings[] = {"Auto Insert", "Event Merge", "Attach Enable", "Take by Pause", "Recall Confirm", "Menu Macro Link"};
 inline constexpr SETUPCOLUMN pnl_macro_columns[] = {SheetWord("State", 370, "~@$", pnl_on_off)};
 inline constexpr SETUPSHEET pnl_macro =
-    SheetOf(pnl_macro_columns, 6, {.names = pnl_macro_settings, .key_head = "Setting", .key_width = 180, .is_direct = 1, PNL_KEYS(to_pnl_operation_direct)});
+    SheetOf(pnl_macro_columns, 6, {.names = pnl_macro_settings, .key_head = "Setting", .key_width = 180, .is_direct = 1, PNL_KEYS(to_pnl_operation)});
 
 // --- Dials: felt as they are turned, nothing waits for Execute ---
 
@@ -65,7 +64,7 @@ inline constexpr SETUPCOLUMN pnl_sensitivity_columns[] = {
     SheetNumber("Sensitivity", 190, "~@Sensitivity@$", 1, 100), SheetWord("Direction", 190, "~@Direction@$", pnl_directions),
 };
 inline constexpr BT_TBL pnl_sensitivity_more[] = {
-    Jump({.id = 53, .caption = "Search\nDial", .cmd = {"#73260005"}}), Jump({.id = 54, .caption = "Operation", .cmd = {"#73260000"}}),
+    Jump({.id = 49, .caption = "Search\nDial", .cmd = {"#73260005"}}), SetupBack("Operation", "#73260000"),
 };
 inline constexpr SETUPSHEET pnl_sensitivity = SheetOf(
     pnl_sensitivity_columns, int(std::size(pnl_dials)), {.names = pnl_dials, .key_head = "Control", .key_width = 170, .is_direct = 1, PNL_KEYS(pnl_sensitivity_more)});
@@ -73,7 +72,7 @@ inline constexpr const char* pnl_search_modes[] = {"Jog", "Shuttle", "Variable"}
 inline constexpr SETUPCOLUMN pnl_search_columns[] = {
     SheetNumber("Sensitivity", 190, "~@Sensitivity@$", 1, 100), SheetNumber("Max Speed", 190, "~@Max Speed@$", 1, 60),
 };
-inline constexpr BT_TBL pnl_search_more[] = {Jump({.id = 54, .caption = "Sensitivity", .cmd = {"#73260004"}})};
+inline constexpr BT_TBL pnl_search_more[] = {SetupBack("Sensitivity", "#73260004")};
 inline constexpr SETUPSHEET pnl_search =
     SheetOf(pnl_search_columns, 3, {.names = pnl_search_modes, .key_head = "Mode", .key_width = 170, .is_direct = 1, .title = "Search Dial", PNL_KEYS(pnl_search_more)});
 
@@ -86,14 +85,14 @@ inline constexpr SETUPWORD pnl_button_modes[] = {SAME("Hold"), SAME("Latch"), {}
 inline constexpr SETUPCOLUMN pnl_custom_columns[] = {
     SheetAsked("Function", 250, OPERATION "Custom Button@Function@$", pnl_custom_words), SheetWord("Mode", 200, OPERATION "Custom Button@Mode@$", pnl_button_modes),
 };
-inline constexpr BT_TBL to_pnl_custom[] = {Jump({.id = 52, .caption = "Custom\nButton", .cmd = {"#73260003"}})};
+inline constexpr BT_TBL to_pnl_custom[] = {SetupBack("Custom\nButton", "#73260003")};
 inline constexpr SETUPSHEET pnl_custom_pcx40 = SheetOf(pnl_custom_columns, 8, {.key_head = "Button", .key_width = 100, .title = "Custom", PNL_KEYS(to_pnl_custom)});
 inline constexpr SETUPSHEET pnl_custom_pcx50 = SheetOf(pnl_custom_columns, 16, {.key_head = "Button", .key_width = 100, .title = "Custom", PNL_KEYS(to_pnl_custom)});
 inline constexpr BT_TBL bt_engsetup_panel_custombutton[] = {
     Jump({.id = 1, .caption = "8\nButtons", .group = "Custom Button", .cmd = {"#73260007"}}),
     Jump({.id = 2, .caption = "16\nButtons", .group = "Custom Button", .cmd = {"#73260008"}}),
     Jump({.id = 3, .caption = "Next\nTrans All", .group = "Custom Button", .cmd = {"#73260009"}}),
-    Jump({.id = 54, .caption = "Operation", .cmd = {"#73260000"}}),
+    SetupBack("Operation", "#73260000"),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_engsetup_panel_custombutton));
@@ -124,14 +123,14 @@ inline constexpr SETUPCOLUMN pnl_keyrow_columns[] = {
     SheetWord("Key Row", 220, "~@Key Row@$", pnl_key_row_words), SheetWord("Follow", 220, "~@Follow@$", pnl_on_off),
 };
 inline constexpr BT_TBL pnl_keyrow_more[] = {
-    Jump({.id = 51, .caption = "Key Deleg\nAux\nAssign", .cmd = {"#73260013"}}), Jump({.id = 52, .caption = "Operation", .cmd = {"#73260000"}}),
+    Jump({.id = 51, .caption = "Key Deleg\nAux\nAssign", .cmd = {"#73260013"}}), SetupBack("Operation", "#73260000"),
 };
 inline constexpr SETUPSHEET pnl_keyrow = SheetOf(pnl_keyrow_columns, 8, {.names = pnl_rows, .key_head = "Row", .key_width = 110, .title = "Key Row", PNL_KEYS(pnl_keyrow_more)});
 inline constexpr const char* pnl_deleg_keys[] = {"Key1", "Key2", "Key3", "Key4", "Key5", "Key6", "Key7", "Key8"};
 inline constexpr SETUPCOLUMN pnl_keydeleg_columns[] = {
     SheetWord("Aux Assign", 220, "~@Aux Assign@$", pnl_on_off), SheetNumber("Aux Bus", 220, "~@Aux Bus@$", 1, SWITCHER_OUTPUTS),
 };
-inline constexpr BT_TBL to_pnl_keyrow[] = {Jump({.id = 52, .caption = "Key Row\nOperation", .cmd = {"#73260012"}})};
+inline constexpr BT_TBL to_pnl_keyrow[] = {SetupBack("Key Row\nOperation", "#73260012")};
 inline constexpr SETUPSHEET pnl_keydeleg = SheetOf(pnl_keydeleg_columns, 8, {.names = pnl_deleg_keys, .key_head = "Button", .key_width = 110, .title = "Key Deleg", PNL_KEYS(to_pnl_keyrow)});
 
 // --- The crosspoint modules ---
@@ -178,7 +177,7 @@ inline constexpr SETUPWORD pnl_page_jumps[] = {SAME("None"), SAME("Page 1"), SAM
 inline constexpr SETUPCOLUMN pnl_padpage_columns[] = {
     SheetName("Page Name", 220, PAD_PATH "Page Name@$", 8, "Page\nName"), SheetAsked("Page Jump", 220, PAD_PATH "Page Jump@$", pnl_page_jumps, "Page\nJump"),
 };
-inline constexpr BT_TBL to_pnl_padassign[] = {Jump({.id = 52, .caption = "Flexi Pad\nButton\nAssign", .cmd = {"#73260014"}})};
+inline constexpr BT_TBL to_pnl_padassign[] = {SetupBack("Flexi Pad\nButton\nAssign", "#73260014")};
 inline constexpr SETUPSHEET pnl_padpage =
     SheetOf(pnl_padpage_columns, int(std::size(pnl_pad_pages)), {.names = pnl_pad_pages, .key_head = "Bus@Page", .key_width = 110, PNL_KEYS(to_pnl_padassign)});
 #undef PAD_PATH

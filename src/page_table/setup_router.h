@@ -28,7 +28,7 @@ inline constexpr SETUPSHEET engsetup_router_config =
     SheetMore(SheetOfNames(router_config_columns, router_levels, {.key_head = "Level", .key_width = 90, .title = "Matrix Size"}), router_config_more);
 
 // The part of the matrix that a control panel of an area reaches.
-inline constexpr BT_TBL to_router[] = {SheetJump(49, "Router", "#73610000")};
+inline constexpr BT_TBL to_router[] = {SetupBack("Router", "#73610000")};
 inline constexpr SETUPCOLUMN router_area_columns[] = {
     SheetWord("Use", 90, "~@Use@$", words_enable),
     SheetNumber("First Src", 98, "~@First Source@$", 1, ROUTER_NAMES), SheetLast("Last Src", 98, "~@Last Source@$", 1, ROUTER_NAMES),
@@ -41,7 +41,7 @@ inline constexpr SETUPCOLUMN router_source_columns[] = {
     SheetAsked("Level", 140, "~@Level@$", words_level_or_all),
     SheetNumber("Input", 160, "~@Input@$", 1, ROUTER_NAMES),
 };
-inline constexpr BT_TBL router_source_more[] = {to_router[0], SheetJump(50, "Dest\nTable", "#73610003")};
+inline constexpr BT_TBL router_source_more[] = {to_router[0], SheetJump(49, "Dest\nTable", "#73610003")};
 inline constexpr SETUPSHEET engsetup_router_source = SheetMore(SheetOf(router_source_columns, ROUTER_NAMES, {.key_head = "Source"}), router_source_more);
 
 inline constexpr SETUPCOLUMN router_dest_columns[] = {
@@ -49,7 +49,7 @@ inline constexpr SETUPCOLUMN router_dest_columns[] = {
     SheetAsked("Level", 140, "~@Level@$", words_level_or_all),
     SheetNumber("Output", 160, "~@Output@$", 1, ROUTER_NAMES),
 };
-inline constexpr BT_TBL router_dest_more[] = {to_router[0], SheetJump(50, "Source\nTable", "#73610002"), SheetJump(51, "Inhibit", "#73610004")};
+inline constexpr BT_TBL router_dest_more[] = {to_router[0], SheetJump(49, "Source\nTable", "#73610002"), SheetJump(50, "Inhibit", "#73610004")};
 inline constexpr SETUPSHEET engsetup_router_dest = SheetMore(SheetOf(router_dest_columns, ROUTER_NAMES, {.key_head = "Dest", .title = "Dest Table"}), router_dest_more);
 
 inline constexpr SETUPWORD words_router_inhibit[] = {{"true", "Inhibit"}, {"false", "Allow"}, {}};
@@ -91,13 +91,13 @@ inline constexpr const char* tally_buses[] = {
 };
 #undef AUX8
 inline constexpr SETUPWORD words_tally_enable[] = {{"true", "On"}, {"false", "---"}, {}};
-#define ENABLED(n, frame) SheetPart(SheetAsked("G" #n, 58, "~@$", words_tally_enable, "Group " #n, frame), n)
+#define ENABLED(n, frame) SheetPart(SheetToggle("G" #n, 58, "~@$", words_tally_enable, "Group " #n, frame), n)
 inline constexpr SETUPCOLUMN tally_enable_columns[] = {
     ENABLED(1, "Groups"), ENABLED(2, "Groups"), ENABLED(3, "Groups"), ENABLED(4, "Groups"), ENABLED(5, "Groups"), ENABLED(6, "Groups"),
     ENABLED(7, "@Groups"), ENABLED(8, "@Groups"),
 };
 #undef ENABLED
-inline constexpr BT_TBL to_tally_group[] = {SheetJump(52, "Tally\nGroup", "#73620000")};
+inline constexpr BT_TBL to_tally_group[] = {SetupBack("Tally\nGroup", "#73620000")};
 inline constexpr SETUPSHEET engsetup_tally_enable = SheetMore(SheetOfNames(tally_enable_columns, tally_buses, {.key_head = "Bus", .key_width = 86}), to_tally_group);
 
 // A copy is done once: the server tells None again.
@@ -115,7 +115,7 @@ inline constexpr SETUPSHEET engsetup_tally_copy =
 inline constexpr SETUPCOLUMN tally_wiring_columns[] = {
     SheetShown("Source Name", 170, "Engineering Setup@Switcher@Input@Source Name@$"),
     SheetAsked("Level", 150, "~@Level@$", words_level),
-    SheetNumber("Dest", 160, "~@Destination@$", 0, ROUTER_NAMES),
+    SheetNumberOr("Dest", 160, "~@Destination@$", words_none_number, ROUTER_NAMES),
 };
 inline constexpr SETUPSHEET engsetup_tally_wiring =
     SheetOf(tally_wiring_columns, SWITCHER_INPUTS, {.key_head = "Input", .key_width = 70, .title = "Router Dest"});
@@ -136,16 +136,16 @@ inline constexpr SETUPSHEET engsetup_tally_serial = SheetMore(SheetOfNames(tally
 
 inline constexpr SETUPCOLUMN tally_address_columns[] = {
     SheetAsked("Group", 140, "~@Group@$", words_group, "Tally\nGroup"),
-    SheetNumber("Source", 160, "~@Source@$", 0, SWITCHER_INPUTS), SheetNumber("Port", 160, "~@Port@$", 1, 4),
+    SheetNumberOr("Source", 160, "~@Source@$", words_none_number, SWITCHER_INPUTS), SheetNumber("Port", 160, "~@Port@$", 1, 4),
 };
-inline constexpr BT_TBL to_tally_serial[] = {SheetJump(49, "Serial\nTally", "#73640000")};
+inline constexpr BT_TBL to_tally_serial[] = {SetupBack("Serial\nTally", "#73640000")};
 inline constexpr SETUPSHEET engsetup_tally_address = SheetMore(SheetOf(tally_address_columns, TALLY_ADDRESSES, {.key_head = "Address", .key_width = 90}), to_tally_serial);
 
 inline constexpr SETUPWORD words_contact[] = {{"Make", "Make"}, {"Break", "Break"}, {}};
 inline constexpr SETUPCOLUMN tally_parallel_columns[] = {
     SheetAsked("Group", 140, "~@Group@$", words_group, "Tally\nGroup"),
     SheetWord("Contact", 160, "~@Contact@$", words_contact),
-    SheetNumber("Source", 160, "~@Source@$", 0, SWITCHER_INPUTS),
+    SheetNumberOr("Source", 160, "~@Source@$", words_none_number, SWITCHER_INPUTS),
 };
 inline constexpr SETUPSHEET engsetup_tally_parallel = SheetOf(tally_parallel_columns, TALLY_LAMPS, {.key_head = "Output", .key_width = 90});
 

@@ -37,7 +37,7 @@ inline constexpr SETUPWORD words_on[] = {{"true", "On"}, {"false", "Off"}, {}};
 // --- Config ---
 
 #define CONFIG(word) SWR_LOCAL("Config@" word)
-#define TO_CONFIG Jump({.id = 49, .caption = "M/E\nConfig", .cmd = {"#73310000"}})
+#define TO_CONFIG SetupBack("M/E\nConfig", "#73310000")
 inline constexpr BT_TBL to_config[] = {TO_CONFIG};
 
 inline constexpr BT_TBL bt_engsetup_switcher_config[] = {
@@ -77,8 +77,8 @@ inline constexpr BT_TBL bt_engsetup_switcher_config_pgm[] = {
     Radio( {.id = 38, .caption = "None", .group = "Output", .cmd = CONFIG("M/E Output Assign#None")}),
     TO_CONFIG,
     // Followed all the time: the page must not end that.
-    Toggle({.id = 50, .caption = "MP2\nRe-Entry", .cmd = {SWR "Config@MP2 Re-Entry#*"}, .no_add = 1}),
-    Toggle({.id = 51, .caption = "DME Wipe\nSub\nEnable", .cmd = {SWR "Config@DME Wipe Sub Enable#*"}, .no_add = 1}),
+    Toggle({.id = 49, .caption = "MP2\nRe-Entry", .cmd = {SWR "Config@MP2 Re-Entry#*"}, .no_add = 1}),
+    Toggle({.id = 50, .caption = "DME Wipe\nSub\nEnable", .cmd = {SWR "Config@DME Wipe Sub Enable#*"}, .no_add = 1}),
     SWR_CLEAR_EXECUTE,
     BT_END,
 };
@@ -127,14 +127,14 @@ inline constexpr SETUPCOLUMN keyconfig_columns[] = {
     {.head = "Key Config", .width = 220, .path = SWR "Config@Key Config", .part = 1, .words = keyconfig_words, .is_asked = 1, .caption = "Key\nConfig"},
     {.head = "Sub Key Mode", .width = 220, .path = SWR "Config@Key Config@Sub Key Mode@$", .words = subkey_words, .is_fixed = 1},
 };
-inline constexpr BT_TBL keyconfig_more[] = {TO_CONFIG, Jump({.id = 50, .caption = "Sub Key\nMode", .cmd = {"#73310011"}})};
+inline constexpr BT_TBL keyconfig_more[] = {TO_CONFIG, Jump({.id = 49, .caption = "Sub Key\nMode", .cmd = {"#73310011"}})};
 BANK_SHEET(config_keyconfig, 110, keyconfig_columns, ON_AIR, MORE(keyconfig_more));
 
 inline constexpr SETUPCOLUMN subkey_columns[] = {
     {.head = "Sub Key Mode", .width = 220, .path = SWR "Config@Key Config@Sub Key Mode@$", .words = subkey_words},
     {.head = "M/E Config", .width = 220, .path = SWR "Config@M/E Config@$", .is_fixed = 1, .ask = SETUP_READ},
 };
-inline constexpr BT_TBL subkey_more[] = {Jump({.id = 49, .caption = "Key\nConfig", .cmd = {"#73310005"}})};
+inline constexpr BT_TBL subkey_more[] = {SetupBack("Key\nConfig", "#73310005")};
 BANK_SHEET(config_keyconfig_subkeymode, 110, subkey_columns, ON_AIR, MORE(subkey_more));
 
 // The effects board of the switcher.
@@ -189,10 +189,10 @@ inline constexpr SETUPCOLUMN eyes_columns[] = {
     {.head = "Mode", .width = 220, .path = SWR "Config@3D Config@Mode@$", .words = eyes_modes},
     {.head = "Output", .width = 220, .path = SWR "Config@3D Config@Output@$", .words = eyes_outputs},
 };
-inline constexpr BT_TBL eyes_more[] = {TO_CONFIG, Jump({.id = 50, .caption = "Input\nLink", .cmd = {"#73310012"}}), Jump({.id = 51, .caption = "FM Output\nLink", .cmd = {"#73310013"}})};
+inline constexpr BT_TBL eyes_more[] = {TO_CONFIG, Jump({.id = 49, .caption = "Input\nLink", .cmd = {"#73310012"}}), Jump({.id = 50, .caption = "FM Output\nLink", .cmd = {"#73310013"}})};
 BANK_SHEET(config_3D, 110, eyes_columns, ON_AIR, MORE(eyes_more));
 
-inline constexpr BT_TBL to_eyes[] = {Jump({.id = 49, .caption = "3D\nConfig", .cmd = {"#73310010"}})};
+inline constexpr BT_TBL to_eyes[] = {SetupBack("3D\nConfig", "#73310010")};
 inline constexpr SETUPCOLUMN inputlink_columns[] = {
     {.head = "R Input", .width = 220, .path = SWR "Config@3D Config@Input Link", .part = 1, .min = 1, .max = 64},
     {.head = "L/R Link", .width = 220, .path = SWR "Config@3D Config@Input Link", .part = 2, .words = words_on},
@@ -212,7 +212,7 @@ SHEET_OF(config_3dconfig_fmoutputlink, std::size(fm_outputs), fm_outputs, "L Out
 // --- Transition ---
 
 #define TRANSITION(word) SWR_LOCAL("Transition@" word)
-inline constexpr BT_TBL to_transition[] = {Jump({.id = 49, .caption = "Transition", .cmd = {"#73340000"}})};
+inline constexpr BT_TBL to_transition[] = {SetupBack("Transition", "#73340000")};
 inline constexpr SETUPWORD keytrans_words[] = {WORD("Common"), {"Independent", "Indep."}, {}};
 inline constexpr SETUPCOLUMN transition_columns[] = {
     {.head = "Key Transition", .width = 130, .path = SWR "Transition@Key Transition@$", .words = keytrans_words, .ask = SETUP_READ},
@@ -239,7 +239,7 @@ inline constexpr SETUPCOLUMN transitioncurve_columns[] = {
     {.head = "Wipe", .width = 150, .path = SWR "Transition@Transition Curve@Wipe@$", .words = curve_words, .group = "Curve"},
     {.head = "DME Wipe", .width = 150, .path = SWR "Transition@Transition Curve@DME Wipe@$", .words = curve_words, .group = "Curve"},
 };
-inline constexpr BT_TBL transitioncurve_more[] = {to_transition[0], Jump({.id = 50, .caption = "Fader\nCurve", .cmd = {"#73340003"}})};
+inline constexpr BT_TBL transitioncurve_more[] = {to_transition[0], Jump({.id = 49, .caption = "Fader\nCurve", .cmd = {"#73340003"}})};
 BANK_SHEET(transition_transitioncurve, 100, transitioncurve_columns, MORE(transitioncurve_more));
 
 // What the transition shows at a place of the fader, both in per cent.
@@ -257,7 +257,7 @@ inline constexpr BT_TBL bt_engsetup_switcher_transition_transitioncurve_fadercur
     Action({.id = 35, .caption = "S Curve", .group = "Preset", .cmd = TRANSITION("Transition Curve@Fader Curve@Preset#S Curve")}),
     Action({.id = 36, .caption = "Slow\nStart", .group = "Preset", .cmd = TRANSITION("Transition Curve@Fader Curve@Preset#Slow Start")}),
     Action({.id = 37, .caption = "Slow\nEnd", .group = "Preset", .cmd = TRANSITION("Transition Curve@Fader Curve@Preset#Slow End")}),
-    Jump(  {.id = 49, .caption = "Transition\nCurve", .cmd = {"#73340002"}}),
+    SetupBack("Transition\nCurve", "#73340002"),
     SWR_CLEAR_EXECUTE,
     BT_END,
 };
@@ -288,7 +288,7 @@ inline constexpr BT_TBL keywipe_more[] = {
 };
 BANK_SHEET(keywipe, 110, keywipe_columns, ON_AIR, .title = "Key Delay", MORE(keywipe_more));
 
-inline constexpr BT_TBL to_key[] = {Jump({.id = 49, .caption = "Key/Wipe\nFM/CCR", .cmd = {"#73350000"}})};
+inline constexpr BT_TBL to_key[] = {SetupBack("Key/Wipe\nFM/CCR", "#73350000")};
 inline constexpr const char* correctors[] = {"CCR1", "CCR2", "CCR3", "CCR4"};
 inline constexpr SETUPCOLUMN ccrvproc_columns[] = {
     {.head = "V Proc", .width = 95, .path = SWR "Key/Wipe/FM/CCR@CCR V Proc@V Proc@$", .words = words_on},
@@ -328,7 +328,7 @@ inline constexpr BT_TBL link_more[] = {
 };
 SHEET_OF(link, std::size(link_kinds), link_kinds, "Kind", 275, link_columns, ON_AIR, MORE(link_more));
 
-#define TO_LINK Jump({.id = 49, .caption = "Link", .cmd = {"#73360000"}})
+#define TO_LINK SetupBack("Link", "#73360000")
 #define DELETE_LINK Action({.id = BTN_LINK_DELETE, .caption = "Delete", .cmd = LINK("Delete")})
 inline constexpr BT_TBL plain_link_more[] = {DELETE_LINK, TO_LINK};
 #define LINKS(offer_) .offer = offer_, .is_sound = SetupLink_IsSound, .changed = SetupLink_Changed
@@ -362,8 +362,8 @@ SHEET_OF(link_ibuslink, 32, nullptr, "Link No", 100, ibuslink_columns, ON_AIR, M
 inline constexpr BT_TBL bt_engsetup_switcher_link_ibuslink_bussel[] = {
     Action({.id = 33, .caption = "Set\nMaster", .cmd = LINK("Internal Bus Link@Bus Sel@Set")}),
     Action({.id = 34, .caption = "Set\nNone", .cmd = LINK("Internal Bus Link@Bus Sel@None")}),
-    Jump(  {.id = 49, .caption = "Internal\nBus Link", .cmd = {"#73360003"}}),
-    Jump(  {.id = 50, .caption = "GPI Link", .cmd = {"#73360006"}}),
+    SetupBack("Internal\nBus Link", "#73360003"),
+    Jump(  {.id = 49, .caption = "GPI Link", .cmd = {"#73360006"}}),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_engsetup_switcher_link_ibuslink_bussel));
@@ -382,7 +382,7 @@ inline constexpr BT_TBL bt_engsetup_switcher_link_ibuslink_tablesel[] = {
     Knobs( {.id = 33, .caption = "Linked\nSource", .cmd = LINK("Internal Bus Link@Table Sel@Source"), .nb = nb_engsetup_switcher_tablesel}),
     Action({.id = 34, .caption = "Straight", .cmd = LINK("Internal Bus Link@Table Sel@Straight")}),
     Action({.id = 35, .caption = "Set to\nLink", .cmd = LINK("Internal Bus Link@Table Sel@Set")}),
-    Jump(  {.id = 49, .caption = "Internal\nBus Link", .cmd = {"#73360003"}}),
+    SetupBack("Internal\nBus Link", "#73360003"),
     SWR_CLEAR_EXECUTE,
     BT_END,
 };
@@ -404,7 +404,7 @@ inline constexpr SETUPCOLUMN gpilink_columns[] = {
     {.head = "Delay", .width = 75, GPI_LINK(5), .is_fixed = 1},
     {.head = "Width", .width = 75, GPI_LINK(6), .is_fixed = 1},
 };
-inline constexpr BT_TBL gpilink_more[] = {Jump({.id = 35, .caption = "Bus", .cmd = LINK("Master")}), TO_LINK, Jump({.id = 50, .caption = "Adjust", .cmd = {"#73360007"}})};
+inline constexpr BT_TBL gpilink_more[] = {Jump({.id = 35, .caption = "Bus", .cmd = LINK("Master")}), TO_LINK, Jump({.id = 49, .caption = "Adjust", .cmd = {"#73360007"}})};
 SHEET_OF(link_gpilink, 16, nullptr, "No", 60, gpilink_columns, MORE(gpilink_more));
 
 inline constexpr SETUPCOLUMN gpilink_adjust_columns[] = {
@@ -416,7 +416,7 @@ inline constexpr SETUPCOLUMN gpilink_adjust_columns[] = {
     {.head = "Width", .width = 75, GPI_LINK(6), .min = 1, .max = 255},
 };
 #undef GPI_LINK
-inline constexpr BT_TBL gpilink_adjust_more[] = {Jump({.id = 49, .caption = "GPI Link", .cmd = {"#73360006"}})};
+inline constexpr BT_TBL gpilink_adjust_more[] = {SetupBack("GPI Link", "#73360006")};
 SHEET_OF(link_gpilink_adjust, 16, nullptr, "No", 60, gpilink_adjust_columns, MORE(gpilink_adjust_more));
 #undef LINK
 #undef LINKS

@@ -14,6 +14,7 @@ inline constexpr SETUPWORD words_fc_convert[] = {{"Through", "Through"}, {"Up", 
 inline constexpr SETUPWORD words_fc_format[] = {{"480i", "480i"}, {"576i", "576i"}, {"720p", "720p"}, {"1080i", "1080i"}, {"1080PsF", "1080PsF"}, {"1080p", "1080p"},
                                                 {"2160p", "2160p"}, {}};
 inline constexpr SETUPWORD words_4k_size[] = {{"3840x2160", "3840x2160"}, {"4096x2160", "4096x2160"}, {}};
+inline constexpr SETUPWORD words_none_number[] = {{"0", "None"}, {}};
 inline constexpr SETUPWORD words_group[] = {{"1", "1"}, {"2", "2"}, {"3", "3"}, {"4", "4"}, {"5", "5"}, {"6", "6"}, {"7", "7"}, {"8", "8"}, {}};
 
 constexpr BT_TBL SheetJump(int id, const char* caption, const char* cmd, const char* group = nullptr) { return Jump({.id = id, .caption = caption, .group = group, .cmd = {cmd}}); }
@@ -21,6 +22,7 @@ constexpr BT_TBL SheetJump(int id, const char* caption, const char* cmd, const c
 constexpr int SWITCHER_INPUTS = 136;
 constexpr int SWITCHER_OUTPUTS = 48;
 constexpr int SWITCHER_FC = 8; // converters of the internal kind
+constexpr int SHOWN_AT_ONCE = 16; // inputs or outputs of a page on which nothing waits for Execute
 
 // --- Input ---
 
@@ -39,8 +41,8 @@ inline constexpr SETUPWORD words_fc_inputs[] = {{"1-4", "1-4"}, {"5-8", "5-8"}, 
                                                 {"25-28", "25-28"}, {"29-32", "29-32"}, {}};
 inline constexpr const char* fc_boards[] = {"FC1", "FC2", "FC3", "FC4"};
 inline constexpr SETUPCOLUMN input_fcinputselect_columns[] = {SheetAsked("Inputs", 490, "~@$", words_fc_inputs)};
-inline constexpr BT_TBL to_input[] = {SheetJump(52, "Input", "#73320000")};
-inline constexpr BT_TBL fc_input_more[] = {SheetJump(51, "FC\nAdjust", "#73320002"), SheetJump(52, "Input", "#73320000")};
+inline constexpr BT_TBL to_input[] = {SetupBack("Input", "#73320000")};
+inline constexpr BT_TBL fc_input_more[] = {SheetJump(51, "FC\nAdjust", "#73320002"), SetupBack("Input", "#73320000")};
 inline constexpr SETUPSHEET engsetup_switcher_input_fcinputselect =
     SheetMore(SheetOf(input_fcinputselect_columns, 4, {.names = fc_boards, .key_head = "FC"}), fc_input_more);
 
@@ -64,7 +66,7 @@ inline constexpr SETUPCOLUMN input_videoprocess_columns[] = {
     SheetNumber("Black Level", 75, "~@Black Level@$", -10, 110),
 };
 inline constexpr SETUPSHEET engsetup_switcher_input_videoprocess =
-    SheetMore(SheetOf(input_videoprocess_columns, SWITCHER_INPUTS, {.key_head = "Input", .is_direct = 1}), to_input);
+    SheetMore(SheetOf(input_videoprocess_columns, SWITCHER_INPUTS, {.key_head = "Input", .is_direct = 1, .group = SHOWN_AT_ONCE}), to_input);
 
 inline constexpr const char* ccr_units[] = {"CCR1", "CCR2", "CCR3", "CCR4"};
 inline constexpr SETUPCOLUMN input_ccr_columns[] = {
@@ -90,7 +92,7 @@ static_assert(ListsAreSound(ls_engsetup_switcher_input_fcadjust6));
 #define FC_HEAD \
     JumpPopUp({.id = BTN_FCADJUST_GROUP, .caption = "FC\nInput", .group = "Converter", .cmd = {FCADJUST("FC Input")}}), \
     JumpPopUp({.id = BTN_FCADJUST_FORMAT, .caption = "Signal\nFormat", .group = "Converter", .cmd = {FCADJUST("Signal Format")}}), \
-    Toggle({.id = BTN_FCADJUST_ASPECT, .caption = "4:3", .group = "Aspect", .cmd = {FCADJUST("Aspect#4:3")}}), \
+    Toggle({.id = BTN_FCADJUST_ASPECT, .caption = "4:3", .group = "Aspect", .cmd = {FCADJUST("Aspect#true")}}), \
     Action({.id = 22, .caption = "Default", .cmd = {FCADJUST("Default")}}), \
     Radio({.id = 33, .caption = "Through", .group = "Conversion", .cmd = {FCADJUST("Convert Mode#Through")}}), \
     Radio({.id = 34, .caption = "Up", .group = "Conversion", .cmd = {FCADJUST("Convert Mode#Up")}}), \
@@ -119,7 +121,7 @@ inline constexpr BT_TBL bt_engsetup_switcher_input_f4kadjust[] = {
     SheetJump(52, "Six\nInputs", "#73320002"),
     BT_END,
 };
-inline constexpr BT_TBL bt_engsetup_switcher_output_fcadjust[] = {FC_HEAD, FC_ENHANCER, FC_POSITIONS, SheetJump(52, "Output", "#73330000"), BT_END};
+inline constexpr BT_TBL bt_engsetup_switcher_output_fcadjust[] = {FC_HEAD, FC_ENHANCER, FC_POSITIONS, SetupBack("Output", "#73330000"), BT_END};
 #undef FC_HEAD
 #undef FC_ENHANCER
 #undef FC_POSITIONS
@@ -132,8 +134,7 @@ static_assert(ButtonsAreSound(bt_engsetup_switcher_output_fcadjust));
 // --- Output ---
 
 #define OUTPUT "Engineering Setup@Switcher@Output@"
-inline constexpr BT_TBL to_output[] = {SheetJump(52, "Output", "#73330000")};
-inline constexpr BT_TBL to_output_direct[] = {SheetJump(54, "Output", "#73330000")};
+inline constexpr BT_TBL to_output[] = {SetupBack("Output", "#73330000")};
 
 inline constexpr SETUPWORD words_inhibit[] = {{"true", "Inhibit"}, {"false", "---"}, {}};
 inline constexpr SETUPCOLUMN output_columns[] = {
@@ -154,7 +155,7 @@ inline constexpr BT_TBL bt_engsetup_switcher_output_assign[] = {
     JumpPopUp({.id = BTN_OUTPUT_BUS, .caption = "Output\nAssign", .group = "Output Assign", .cmd = {OUTPUT_LOCAL("Output Assign")}}),
     Action({.id = BTN_OUTPUT_SET, .caption = "Set", .group = "Output Assign", .cmd = {OUTPUT_LOCAL("Set")}}),
     Toggle({.id = BTN_OUTPUT_INHIBIT, .caption = "Inhibit", .group = "Output", .cmd = {OUTPUT_LOCAL("Inhibit#true")}}),
-    SheetJump(52, "Output", "#73330000"),
+    SetupBack("Output", "#73330000"),
     Action({.id = BTN_SHEET_CLEAR, .caption = "Clear", .cmd = {OUTPUT_LOCAL("Clear")}}),
     Action({.id = BTN_SHEET_EXECUTE, .caption = "Execute", .cmd = {OUTPUT_LOCAL("Execute")}}),
     BT_END,
@@ -173,7 +174,7 @@ inline constexpr SETUPCOLUMN output_crop_columns[] = {
     SheetNumber("Top", 100, "~@Top@$", 0, 50), SheetNumber("Bottom", 100, "~@Bottom@$", 0, 50),
 };
 inline constexpr SETUPSHEET engsetup_switcher_output_crop =
-    SheetMore(SheetOf(output_crop_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1}), to_output_direct);
+    SheetMore(SheetOf(output_crop_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1, .group = SHOWN_AT_ONCE}), to_output);
 
 inline constexpr SETUPWORD words_vblank[] = {{"Through", "Through"}, {"Blank", "Blank"}, {}};
 inline constexpr SETUPCOLUMN output_vblank_columns[] = {
@@ -188,7 +189,7 @@ inline constexpr SETUPCOLUMN output_videoclip_columns[] = {
     SheetNumber("Chroma", 130, "~@Chroma@$", 90, 112),
 };
 inline constexpr SETUPSHEET engsetup_switcher_output_videoclip =
-    SheetMore(SheetOf(output_videoclip_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1}), to_output_direct);
+    SheetMore(SheetOf(output_videoclip_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1, .group = SHOWN_AT_ONCE}), to_output);
 
 inline constexpr SETUPWORD words_safe_area[] = {{"16:9", "16:9"}, {"14:9", "14:9"}, {"4:3", "4:3"}, {}};
 inline constexpr SETUPCOLUMN output_safetitle_columns[] = {
@@ -197,7 +198,7 @@ inline constexpr SETUPCOLUMN output_safetitle_columns[] = {
     SheetNumber("Title %", 125, "~@Title@$", 50, 100), SheetNumber("Action %", 125, "~@Action@$", 50, 100),
 };
 inline constexpr SETUPSHEET engsetup_switcher_output_safetitle =
-    SheetMore(SheetOf(output_safetitle_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1}), to_output_direct);
+    SheetMore(SheetOf(output_safetitle_columns, SWITCHER_OUTPUTS, {.key_head = "Output", .is_direct = 1, .group = SHOWN_AT_ONCE}), to_output);
 
 // What a bank puts out comes in again as a source with a number and a name.
 inline constexpr const char* reentries[] = {
@@ -215,25 +216,25 @@ inline constexpr SETUPSHEET engsetup_switcher_output_reentryassign =
 inline constexpr SETUPSHEET engsetup_switcher_output_4kactivesize =
     SheetMore(SheetOf(active_size_columns, 12, {.names = quads, .key_head = "Outputs", .key_width = 80}), to_output);
 
-inline constexpr SETUPCOLUMN output_fcoutputassign_columns[] = {SheetNumber("Output", 490, "~@$", 0, SWITCHER_OUTPUTS)};
-inline constexpr BT_TBL fc_output_more[] = {SheetJump(33, "FC Output\nSelect", "#73330010"), SheetJump(52, "Output", "#73330000")};
+inline constexpr SETUPCOLUMN output_fcoutputassign_columns[] = {SheetNumberOr("Output", 490, "~@$", words_none_number, SWITCHER_OUTPUTS)};
+inline constexpr BT_TBL fc_output_more[] = {SheetJump(33, "FC Output\nSelect", "#73330010"), SetupBack("Output", "#73330000")};
 inline constexpr SETUPSHEET engsetup_switcher_output_fcoutputassign =
     SheetMore(SheetOf(output_fcoutputassign_columns, SWITCHER_FC, {.key_head = "FC"}), fc_output_more);
 
 inline constexpr SETUPWORD words_fc_side[] = {{"Input", "Input"}, {"Output", "Output"}, {}};
 inline constexpr SETUPCOLUMN output_fcoutputselect_columns[] = {SheetWord("Used For", 490, "~@$", words_fc_side)};
-inline constexpr BT_TBL to_fc_output[] = {SheetJump(52, "FC Output\nAssign", "#73330009")};
+inline constexpr BT_TBL to_fc_output[] = {SetupBack("FC Output\nAssign", "#73330009")};
 inline constexpr SETUPSHEET engsetup_switcher_output_fcoutput_fcoutputselect =
     SheetMore(SheetOf(output_fcoutputselect_columns, 4, {.names = fc_boards, .key_head = "FC"}), to_fc_output);
 
-inline constexpr SETUPCOLUMN output_internal_fc_columns[] = {SheetNumber("Output", 490, "~@Output@$", 0, SWITCHER_OUTPUTS)};
+inline constexpr SETUPCOLUMN output_internal_fc_columns[] = {SheetNumberOr("Output", 490, "~@Output@$", words_none_number, SWITCHER_OUTPUTS)};
 inline constexpr BT_TBL internal_fc_more[] = {
-    SheetJump(33, "FC\nConfig", "#73330012"), SheetJump(34, "FC\nFormat", "#73330013"), SheetJump(52, "Output", "#73330000"),
+    SheetJump(33, "FC\nConfig", "#73330012"), SheetJump(34, "FC\nFormat", "#73330013"), SetupBack("Output", "#73330000"),
 };
 inline constexpr SETUPSHEET engsetup_switcher_output_internal_fc =
     SheetMore(SheetOf(output_internal_fc_columns, SWITCHER_FC, {.key_head = "FC"}), internal_fc_more);
 
-inline constexpr BT_TBL to_internal_fc[] = {SheetJump(52, "Internal\nFC", "#73330011")};
+inline constexpr BT_TBL to_internal_fc[] = {SetupBack("Internal\nFC", "#73330011")};
 inline constexpr SETUPCOLUMN output_fc_config_columns[] = {
     SheetAsked("Conversion", 240, "~@Convert Mode@$", words_fc_convert),
     SheetWord("Side", 250, "~@Side@$", words_fc_side),
@@ -250,9 +251,9 @@ inline constexpr SETUPCOLUMN output_multiviewer_columns[] = {
     SheetAsked("Layout", 120, "~@Layout@$", words_split),
     SheetWord("Label", 120, "~@Label@$", words_on_off),
     SheetWord("Tally", 120, "~@Tally@$", words_on_off),
-    SheetNumber("Output", 130, "~@Output@$", 0, SWITCHER_OUTPUTS),
+    SheetNumberOr("Output", 130, "~@Output@$", words_none_number, SWITCHER_OUTPUTS),
 };
-inline constexpr BT_TBL multiviewer_more[] = {SheetJump(38, "Output\nAssign", "#73330015"), SheetJump(52, "Output", "#73330000")};
+inline constexpr BT_TBL multiviewer_more[] = {SheetJump(38, "Output\nAssign", "#73330015"), SetupBack("Output", "#73330000")};
 inline constexpr SETUPSHEET engsetup_switcher_output_multiviewer =
     SheetMore(SheetOf(output_multiviewer_columns, 2, {.names = viewers, .key_head = "Viewer"}), multiviewer_more);
 
@@ -261,10 +262,10 @@ inline constexpr const char* windows[] = {
     "MV2-1", "MV2-2", "MV2-3", "MV2-4", "MV2-5", "MV2-6", "MV2-7", "MV2-8", "MV2-9", "MV2-10", "MV2-11", "MV2-12", "MV2-13", "MV2-14", "MV2-15", "MV2-16",
 };
 inline constexpr SETUPCOLUMN multiviewer_outputassign_columns[] = {
-    SheetPart(SheetNumber("Output", 200, "~@$", 0, SWITCHER_OUTPUTS), 1),
+    SheetPart(SheetNumberOr("Output", 200, "~@$", words_none_number, SWITCHER_OUTPUTS), 1),
     SheetPart(SheetName("Label", 250, "~@$", 16), 2),
 };
-inline constexpr BT_TBL to_multiviewer[] = {SheetJump(52, "Multi\nViewer", "#73330014")};
+inline constexpr BT_TBL to_multiviewer[] = {SetupBack("Multi\nViewer", "#73330014")};
 inline constexpr SETUPSHEET engsetup_switcher_multiviewer_outputassign =
     SheetMore(SheetOf(multiviewer_outputassign_columns, 32, {.names = windows, .key_head = "Window", .key_width = 100}), to_multiviewer);
 
@@ -287,7 +288,7 @@ inline constexpr BT_TBL devinterface_more[] = {
 inline constexpr SETUPSHEET engsetup_switcher_devinterface =
     SheetMore(SheetOf(devinterface_columns, 4, {.names = remote_ports, .key_head = "Port", .key_width = 100}), devinterface_more);
 
-inline constexpr BT_TBL to_devinterface[] = {SheetJump(52, "Device\nInterface", "#73370000")};
+inline constexpr BT_TBL to_devinterface[] = {SetupBack("Device\nInterface", "#73370000")};
 inline constexpr SETUPWORD words_remote[] = {{"None", "None"}, {"M/E-1", "M/E-1"}, {"M/E-2", "M/E-2"}, {"M/E-3", "M/E-3"}, {"M/E-4", "M/E-4"}, {"M/E-5", "M/E-5"}, {"P/P", "P/P"},
                                              {"AUX", "AUX"}, {}};
 inline constexpr SETUPCOLUMN devinterface_remoteassign_columns[] = {SheetAsked("Works", 450, "~@$", words_remote)};
@@ -297,7 +298,7 @@ inline constexpr SETUPSHEET engsetup_switcher_devinterface_remoteassign =
 inline constexpr SETUPWORD words_aux_control[] = {{"Panel", "Panel"}, {"AUX Panel", "AUX Panel"}, {"Both", "Both"}, {}};
 inline constexpr SETUPCOLUMN devinterface_auxcontrol_columns[] = {
     SheetWord("Control", 240, "~@Control@$", words_aux_control),
-    SheetNumber("AUX Panel", 250, "~@AUX Panel@$", 0, 16),
+    SheetNumberOr("AUX Panel", 250, "~@AUX Panel@$", words_none_number, 16),
 };
 inline constexpr SETUPSHEET engsetup_switcher_devinterface_auxcontrol =
     SheetMore(SheetOf(devinterface_auxcontrol_columns, SWITCHER_OUTPUTS, {.key_head = "Aux"}), to_devinterface);
@@ -305,12 +306,12 @@ inline constexpr SETUPSHEET engsetup_switcher_devinterface_auxcontrol =
 inline constexpr const char* effects_units[] = {"DME1", "DME2", "DME3", "DME4"};
 inline constexpr SETUPWORD words_dme_type[] = {{"None", "None"}, {"Single", "Single"}, {"Dual", "Dual"}, {"Quad", "Quad"}, {}};
 inline constexpr SETUPCOLUMN devinf_dmetypesetting_columns[] = {SheetAsked("DME Type", 490, "~@$", words_dme_type)};
-inline constexpr BT_TBL dme_type_more[] = {SheetJump(36, "SDI I/F", "#73370013"), SheetJump(52, "Device\nInterface", "#73370000")};
+inline constexpr BT_TBL dme_type_more[] = {SheetJump(36, "SDI I/F", "#73370013"), SetupBack("Device\nInterface", "#73370000")};
 inline constexpr SETUPSHEET engsetup_switcher_devinf_dmetypesetting =
     SheetMore(SheetOf(devinf_dmetypesetting_columns, 4, {.names = effects_units, .key_head = "DME"}), dme_type_more);
 inline constexpr SETUPWORD words_sdi[] = {{"Dedicated", "Dedicated"}, {"SDI", "SDI"}, {}};
 inline constexpr SETUPCOLUMN dme_sdi_columns[] = {SheetFollowed(SheetWord("Interface", 490, "Engineering Setup@Switcher@SDI I/F@$", words_sdi))};
-inline constexpr BT_TBL to_dme_type[] = {SheetJump(52, "DME Type\nSetting", "#73370003")};
+inline constexpr BT_TBL to_dme_type[] = {SetupBack("DME Type\nSetting", "#73370003")};
 inline constexpr SETUPSHEET engsetup_switcher_devinf_dmetypesetting_dmesdiinf =
     SheetMore(SheetOf(dme_sdi_columns, 4, {.names = effects_units, .key_head = "DME", .question = setup_reboot_question}), to_dme_type);
 
@@ -318,7 +319,7 @@ inline constexpr SETUPWORD words_editor[] = {{"None", "None"}, {"LAN", "LAN"}, {
 inline constexpr const char* editors[] = {"Editor1", "Editor2"};
 inline constexpr SETUPCOLUMN pc_editor_columns[] = {
     SheetWord("Interface", 220, "~@Interface@$", words_editor),
-    SheetNumber("M/E", 230, "~@M/E@$", 0, 5),
+    SheetNumberOr("M/E", 230, "~@M/E@$", words_none_number, 5),
 };
 inline constexpr SETUPSHEET engsetup_switcher_pc_editor_if_menu =
     SheetMore(SheetOf(pc_editor_columns, 2, {.names = editors, .key_head = "Editor", .key_width = 100}), to_devinterface);
@@ -332,13 +333,13 @@ inline constexpr SETUPSHEET engsetup_switcher_auxmix =
     SheetMore(SheetOf(auxmix_columns, 12, {.names = aux_pairs, .key_head = "Aux", .key_width = 80}), to_devinterface);
 
 constexpr int SWITCHER_GPI_PORTS = 8;
-inline constexpr BT_TBL gpi_input_more[] = {SheetJump(36, "H/L Set", "#73370005", "Level"), SheetJump(52, "Device\nInterface", "#73370000")};
-inline constexpr BT_TBL gpi_hlset_more[] = {SheetJump(50, "FC\nInput/\nOutput", "#73370006"), SheetJump(52, "GPI\nInput", "#73370004")};
-inline constexpr BT_TBL gpi_hlset_fc_more[] = {SheetJump(52, "H/L Set", "#73370005")};
+inline constexpr BT_TBL gpi_input_more[] = {SheetJump(36, "H/L Set", "#73370005", "Level"), SetupBack("Device\nInterface", "#73370000")};
+inline constexpr BT_TBL gpi_hlset_more[] = {SheetJump(50, "FC\nInput/\nOutput", "#73370006"), SetupBack("GPI\nInput", "#73370004")};
+inline constexpr BT_TBL gpi_hlset_fc_more[] = {SetupBack("H/L Set", "#73370005")};
 inline constexpr SETUPSHEET engsetup_switcher_deviceinterface_gpiinput = SheetMore(SetupGpi_Input(SWITCHER_GPI_PORTS), gpi_input_more);
 inline constexpr SETUPSHEET engsetup_switcher_deviceinterface_gpiinput_hlset = SheetMore(SetupGpi_HLSet(SWITCHER_GPI_PORTS), gpi_hlset_more);
 inline constexpr SETUPSHEET engsetup_switcher_deviceinterface_gpiinput_hlset_fc = SheetMore(SetupGpi_HLSetFC(SWITCHER_GPI_PORTS), gpi_hlset_fc_more);
-inline constexpr BT_TBL gpi_output_more[] = {gpi_test_fire, SheetJump(52, "Device\nInterface", "#73370000")};
+inline constexpr BT_TBL gpi_output_more[] = {gpi_test_fire, SetupBack("Device\nInterface", "#73370000")};
 inline constexpr SETUPSHEET engsetup_switcher_deviceinterface_gpioutput = SheetMore(SetupGpi_Output(SWITCHER_GPI_PORTS), gpi_output_more);
 #undef OUTPUT
 

@@ -47,7 +47,7 @@ inline constexpr BT_TBL bt_engsetup_system_nfsconfig[] = {
     Typed( {.id = 34, .caption = "Mount\nPoint", .group = "Network Drive", .cmd = NETWORK("NFS Config@Mount Point")}, BT_JUMP_KEYBOARD),
     Typed( {.id = 35, .caption = "Mount\nOption", .group = "Network Drive", .cmd = NETWORK("NFS Config@Mount Option")}, BT_JUMP_KEYBOARD),
     Toggle({.id = 37, .caption = "Mount", .cmd = NETWORK("NFS Mount#true")}),
-    Jump(  {.id = 54, .caption = "Network\nConfig", .cmd = {"#73110000"}}),
+    SetupBack("Network\nConfig", "#73110000"),
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_engsetup_system_nfsconfig));
@@ -61,7 +61,7 @@ static_assert(ListsAreSound(ls_engsetup_system_nfsconfig));
 inline constexpr BT_TBL bt_engsetup_system_nmiconfig[] = {
     Radio({.id = 33, .caption = "Enable", .group = "Reset", .cmd = NETWORK("NMI Config@Reset#Enable")}),
     Radio({.id = 34, .caption = "Disable", .group = "Reset", .cmd = NETWORK("NMI Config@Reset#Disable")}),
-    Jump( {.id = 49, .caption = "Network\nConfig", .cmd = {"#73110000"}}),
+    SetupBack("Network\nConfig", "#73110000"),
     SetupClear("LOCAL@Engineering Setup@System@Network Config@NMI Config@Clear"),
     SetupExecute("LOCAL@Engineering Setup@System@Network Config@NMI Config@Execute"),
     BT_END,
@@ -105,7 +105,7 @@ inline constexpr BT_TBL bt_engsetup_system_switcherassign[] = {
     JumpPopUp({.id = 34, .caption = "2nd DME", .group = "Switcher Assign", .cmd = CONFIG("Switcher Assign@DME2")}),
     JumpPopUp({.id = 35, .caption = "3rd DME", .group = "Switcher Assign", .cmd = CONFIG("Switcher Assign@DME3")}),
     JumpPopUp({.id = 36, .caption = "4th DME", .group = "Switcher Assign", .cmd = CONFIG("Switcher Assign@DME4")}),
-    Jump(     {.id = 49, .caption = "System\nConfig", .cmd = {"#73120000"}}),
+    SetupBack("System\nConfig", "#73120000"),
     SetupClear("LOCAL@Engineering Setup@System@System Config@Switcher Assign@Clear"),
     SetupExecute("LOCAL@Engineering Setup@System@System Config@Switcher Assign@Execute"),
     BT_END,

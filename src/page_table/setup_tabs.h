@@ -3,6 +3,10 @@
 #pragma once
 #include "rows.h"
 
+// The way back to the page that leads here has one place on all pages of engineering setup: before Clear and Execute.
+constexpr int BTN_SETUP_BACK = 52;
+constexpr BT_TBL SetupBack(const char* caption, const char* cmd) { return Jump({.id = BTN_SETUP_BACK, .caption = caption, .cmd = {cmd}}); }
+
 inline constexpr VF_TBL vf_setup[] = {
     {.id = 1, .caption = "System", .page = 0x73110000},
     {.id = 2, .caption = "Panel", .page = 0x73210000},

@@ -8,9 +8,9 @@
 
 #define UNIT_CONFIG "Engineering Setup@System@Install@Unit Config@"
 inline constexpr SETUPWORD words_fitted[] = {{"true", "Fitted"}, {"false", "None"}, {}};
-#define TO_INSTALL Jump({.id = 49, .caption = "Install", .cmd = {"#73160000"}})
+#define TO_INSTALL SetupBack("Install", "#73160000")
 inline constexpr BT_TBL to_install[] = {TO_INSTALL};
-inline constexpr BT_TBL to_install_and_split[] = {TO_INSTALL, Jump({.id = 50, .caption = "M/E Split", .cmd = {"#73160011"}})};
+inline constexpr BT_TBL to_install_and_split[] = {TO_INSTALL, Jump({.id = 49, .caption = "M/E Split", .cmd = {"#73160011"}})};
 #undef TO_INSTALL
 #define UNIT_QUESTION .question = setup_reboot_question
 
@@ -31,7 +31,7 @@ inline constexpr SETUPSHEET unitconfig_switcher = SheetMore(
 inline int unitconfig_switcher_create(int on, uint32_t var)
 {
     const int result = SetupSheet_CreateOf<unitconfig_switcher>(on, var);
-    if (on) BT_SetDisable(50, !Page_Exists(0x73160011));
+    if (on) BT_SetDisable(49, !Page_Exists(0x73160011));
     return result;
 }
 inline constexpr PC_TBL pc_unitconfig_switcher = {.proc_func = SetupSheet_ProcOf<unitconfig_switcher>, .create_func = unitconfig_switcher_create};

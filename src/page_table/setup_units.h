@@ -45,7 +45,7 @@ inline constexpr SETUPCOLUMN dme_channel_columns[] = {
     SheetAsked("Assign", 150, "~@Assign@$", board_users),
     SheetWord("Memory", 170, "~@Memory@$", words_dme_memory),
 };
-inline constexpr BT_TBL to_dme_config[] = {SheetJump(49, "DME\nConfig", "#73410000")};
+inline constexpr BT_TBL to_dme_config[] = {SetupBack("DME\nConfig", "#73410000")};
 template <const auto& names>
 inline constexpr SETUPSHEET engsetup_dme_channel = SheetMore(SheetOfNames(dme_channel_columns, names, {.key_head = "Channel", .key_width = 110}), to_dme_config);
 
@@ -77,7 +77,7 @@ inline constexpr SETUPCOLUMN dme_output_columns[] = {
     SheetWord("Content", 140, "~@Content@$", words_content),
     SheetWord("Clip", 140, "~@Clip@$", words_on),
 };
-inline constexpr BT_TBL to_dme_input[] = {SheetJump(49, "Input/\nOutput", "#73420000")};
+inline constexpr BT_TBL to_dme_input[] = {SetupBack("Input/\nOutput", "#73420000")};
 inline constexpr SETUPSHEET engsetup_dme_output = SheetMore(SheetOfNames(dme_output_columns, dme_outputs, {.key_head = "Output", .key_width = 80}), to_dme_input);
 
 // Seen on the air as it is turned: nothing waits for Execute.
@@ -107,7 +107,7 @@ inline constexpr SETUPCOLUMN dme_tbc_columns[] = {
     SheetAsked("Window", 140, "~@Window@$", words_tbc_window),
     SheetNumber("Center", 120, "~@Center@$", -100, 100), SheetNumber("Fine", 120, "~@Fine@$", -32, 31),
 };
-inline constexpr BT_TBL to_dme_video[] = {SheetJump(49, "Video\nInterface", "#73430000")};
+inline constexpr BT_TBL to_dme_video[] = {SetupBack("Video\nInterface", "#73430000")};
 template <const auto& units>
 inline constexpr SETUPSHEET engsetup_dme_tbc = SheetMore(SheetOfNames(dme_tbc_columns, units, {.key_head = "DME", .title = "Phase"}), to_dme_video);
 
@@ -131,7 +131,7 @@ inline constexpr SETUPCOLUMN dme_sdiif_columns[] = {
     SheetWord("Input", 220, "~@Input@$", words_sdi),
     SheetWord("Output", 220, "~@Output@$", words_sdi),
 };
-inline constexpr BT_TBL to_dme_devinterface[] = {SheetJump(49, "Device\nInterface", "#73440000")};
+inline constexpr BT_TBL to_dme_devinterface[] = {SetupBack("Device\nInterface", "#73440000")};
 template <const auto& names>
 inline constexpr SETUPSHEET engsetup_dme_sdiif =
     SheetMore(SheetOfNames(dme_sdiif_columns, names, {.key_head = "Channel", .key_width = 110, .question = setup_reboot_question}), to_dme_devinterface);
@@ -144,9 +144,9 @@ struct DMEGPI {
 };
 inline constexpr DMEGPI dme_gpi_ways[] = {{"#73440003", "#73440005"}, {"#73440004", "#73440006"}, {"#73440007", "#73440009"}, {"#73440008", "#73440010"}};
 inline constexpr BT_TBL gpi_enable = Toggle({.id = 36, .caption = "GPI\nEnable", .group = "Port", .cmd = {"~@GPI Enable#*"}});
-template <int unit> inline constexpr BT_TBL dme_gpiinput_more[] = {gpi_enable, SheetJump(49, "GPI\nOutput", dme_gpi_ways[unit].output), SheetJump(50, "Device\nInterface", "#73440000")};
+template <int unit> inline constexpr BT_TBL dme_gpiinput_more[] = {gpi_enable, SheetJump(49, "GPI\nOutput", dme_gpi_ways[unit].output), SetupBack("Device\nInterface", "#73440000")};
 template <int unit>
-inline constexpr BT_TBL dme_gpioutput_more[] = {gpi_enable, gpi_test_fire, SheetJump(49, "GPI\nInput", dme_gpi_ways[unit].input), SheetJump(50, "Device\nInterface", "#73440000")};
+inline constexpr BT_TBL dme_gpioutput_more[] = {gpi_enable, gpi_test_fire, SheetJump(49, "GPI\nInput", dme_gpi_ways[unit].input), SetupBack("Device\nInterface", "#73440000")};
 template <int unit> inline constexpr SETUPSHEET engsetup_dme_gpiinput = SheetMore(SetupGpi_Input(DME_GPI_PORTS), dme_gpiinput_more<unit>);
 template <int unit> inline constexpr SETUPSHEET engsetup_dme_gpioutput = SheetMore(SetupGpi_Output(DME_GPI_PORTS), dme_gpioutput_more<unit>);
 #undef DME
@@ -207,7 +207,7 @@ template <int unit> inline constexpr SETUPSHEET engsetup_dcu_gpioutput = SheetMo
 inline constexpr SETUPWORD words_parallel[] = {{"None", "None"}, {"Tally", "Tally"}, {"Xpt", "Xpt"}, {}};
 inline constexpr SETUPCOLUMN dcu_parallel_columns[] = {
     SheetWord("Function", 170, "~@Function@$", words_parallel),
-    SheetNumber("Source", 160, "~@Source@$", 0, SWITCHER_INPUTS),
+    SheetNumberOr("Source", 160, "~@Source@$", words_none_number, SWITCHER_INPUTS),
     SheetAsked("Group", 150, "~@Group@$", words_group, "Tally\nGroup"),
 };
 template <int unit>
@@ -237,7 +237,7 @@ template <int unit>
 inline constexpr SETUPSHEET engsetup_dcu_serial = SheetMore(SheetOf(dcu_serial_columns, 8, {.key_head = "Port", .key_width = 70}), dcu_serial_more<unit>);
 
 inline constexpr const char* dcu_devices[] = {"Dev1", "Dev2", "Dev3", "Dev4", "Dev5", "Dev6", "Dev7", "Dev8", "Dev9", "Dev10", "Dev11", "Dev12"};
-inline constexpr BT_TBL to_serial[] = {SheetJump(49, "Serial\nPort", "#73530000")};
+inline constexpr BT_TBL to_serial[] = {SetupBack("Serial\nPort", "#73530000")};
 #define DEVICE_SHEET(name) inline constexpr SETUPSHEET engsetup_dcu_##name = \
     SheetMore(SheetOfNames(name##_columns, dcu_devices, {.key_head = "Device", .key_width = 80}), to_serial)
 
@@ -325,7 +325,7 @@ inline constexpr SETUPSHEET engsetup_mpe_config =
 inline constexpr SETUPCOLUMN mpe_input_columns[] = {
     SheetName("Name", 170, "~@Name@$", 16),
     SheetWord("Auto Timing", 130, "~@Auto Timing@$", words_on),
-    SheetNumber("Source", 140, "~@Source@$", 0, SWITCHER_INPUTS),
+    SheetNumberOr("Source", 140, "~@Source@$", words_none_number, SWITCHER_INPUTS),
 };
 inline constexpr SETUPSHEET engsetup_mpe_input = SheetOfNames(mpe_input_columns, mpe_inputs, {.key_head = "Input", .key_width = 110});
 inline constexpr SETUPWORD words_mpe_signal[] = {{"Video", "Video"}, {"Key", "Key"}, {"Monitor", "Monitor"}, {}};

@@ -97,7 +97,7 @@ TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
     static const struct {
         uint32_t page;
         std::vector<const char*> lines;
-        const char* knobs;
+        const char* knobs; // a motion is read as soon as it has one
     } cases[] = {
         {FC_PAGE, {"Convert Mode@0#0"}, ""},
         {FC_PAGE, {"Convert Mode@0#3"}, "Motion Sel@0"},
@@ -114,9 +114,14 @@ TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
     for (const auto& c : cases) {
         SetupFcAdjust_Reset();
         (void)Open(c.page);
+        Lines sent;
         for (const char* line : c.lines)
-            (void)Tell(ADJUST + line);
+            for (const std::string& command : Tell(ADJUST + line))
+                sent.push_back(command);
         EXPECT_EQ(Knobs(), c.knobs) << c.lines[0];
+        EXPECT_EQ(testing::Value(sent, testing::Contains("read " + ADJUST + "Motion Sel@0")),
+                  *c.knobs != 0)
+            << c.lines[0];
         (void)Leave();
     }
     (void)Open(FC_PAGE);
@@ -147,6 +152,7 @@ TEST_F(FcAdjust, TheAspectLimitsThePositions)
     EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_EC_CENTER), BT_ON);
     (void)Tell(ADJUST + "Aspect@0#1");
     EXPECT_EQ(MaxOf(2), 40);
+    EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_ASPECT), BT_ON);
 }
 
 TEST_F(FcAdjust, APressGoesOutAtOnceAndOnlyTheAnswerShowsIt)

@@ -1,9 +1,13 @@
 // The pages of the switcher's inputs, outputs and device interfaces: what each asks for; of all
 // pages of units, the panel's too, that every key does something.
 #include "a_bt.h"
+#include "page_table/setup_tabs.h"
 #include "pc_setup_fcadjust.h"
 #include "pc_setup_output.h"
 #include "setup_desk.h"
+#include "setup_sheet.h"
+#include "tally_value.h"
+#include "text.h"
 
 namespace
 {
@@ -29,13 +33,13 @@ TEST_F(SwitcherIo, EachPageAsksForItsSettings)
     } cases[] = {
         {0x73320000, {"Input@Source Name@136", "Input@H Phase@1"}},
         {0x73320003, {"Input@Internal FC@Convert Mode@8", "Input@Internal FC@Format@1"}},
-        {0x73320005, {"Input@Video Process@Y Gain@1", "Input@Video Process@Black Level@136"}},
+        {0x73320005, {"Input@Video Process@Y Gain@1", "Input@Video Process@Black Level@16"}},
         {0x73320002, {"Input@FC Adjust@Enhancer Mode@5", "Input@FC Adjust@FC Signal Format"}},
         {0x73320009, {"Input@4K Adjust@Division@3", "Input@4K Adjust@IP@0"}},
         {0x73330001,
          {"Output@Assign", "Output@Source", "Output@Inhibit",
           "Device Interface@GPI Input@H/L Set@FC Input/Output@8"}},
-        {0x73330002, {"Output@Crop@Bottom@48"}},
+        {0x73330002, {"Output@Crop@Bottom@16"}},
         {0x73330006, {"Output@Re-Entry Assign@P/P Out6"}},
         {0x73330009, {"Output@FC Output Assign@8"}},
         {0x73330015, {"Output@Multi Viewer@Output Assign@MV2-16"}},
@@ -48,6 +52,69 @@ TEST_F(SwitcherIo, EachPageAsksForItsSettings)
             EXPECT_THAT(lines, testing::Contains("add " + SWITCHER + path)) << std::hex << c.page;
         (void)Leave();
     }
+}
+
+TEST_F(SwitcherIo, OnlyTheGroupOfInputsThatIsChosenIsShownAndFollowed)
+{
+    using testing::Contains;
+    const std::string gain = SWITCHER + "Input@Video Process@Y Gain@";
+    const Lines opened = Open(0x73320005);
+    EXPECT_THAT(opened, Contains("add " + gain + "16"));
+    EXPECT_THAT(opened, testing::Not(Contains("add " + gain + "17")));
+    TellAll(gain, {"1#90", "129#80"});
+    (void)Push(BTN_SHEET_GROUP);
+    const Lines lines = Answer(9);
+    EXPECT_THAT(lines, Contains("remove " + gain + "16"));
+    EXPECT_THAT(lines, Contains("add " + gain + "136"));
+    EXPECT_EQ(LS_GetNData(1), 8);
+    EXPECT_EQ(Row(0, 4), "129|||") << "nothing of input 1 is left";
+    (void)Tell(gain + "129#70");
+    EXPECT_THAT(Tell(SWITCHER + "Input@Video Process@Y Gain@130#60"), testing::IsEmpty());
+    EXPECT_EQ(Row(1, 4), "130|||60");
+    SendMessage(LMSG_KNOBVAR, 2, 71, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), testing::ElementsAre("put " + gain + "129#71"));
+    EXPECT_THAT(Leave(), Contains("remove " + gain + "129"));
+    EXPECT_THAT(Open(0x73320005), Contains("add " + gain + "129"))
+        << "the choice outlives the page";
+    (void)Push(BTN_SHEET_GROUP);
+    (void)Answer(1);
+}
+
+TEST_F(SwitcherIo, ANumberThatMayBeNoneSaysSo)
+{
+    const std::string output = SWITCHER + "Output@FC Output Assign@1";
+    (void)Open(0x73330009);
+    (void)Tell(output + "#0");
+    EXPECT_EQ(Row(0, 2), "1|None");
+    SendMessage(LMSG_KNOBVAR, 1, 7, 0, 0);
+    EXPECT_EQ(Row(0, 2), "1|7*");
+    SendMessage(LMSG_KNOBVAR, 1, 0, 0, 0);
+    EXPECT_EQ(Row(0, 2), "1|None");
+    (void)Tell(output + "#7");
+    SendMessage(LMSG_KNOBVAR, 1, 0, 0, 0);
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::ElementsAre("put " + output + "#0"));
+}
+
+TEST_F(SwitcherIo, TheWayBackHasOnePlaceOnAllPages)
+{
+    constexpr uint32_t calibration = 0x73270001; // is left by Cancel
+    int ways = 0;
+    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
+        const uint32_t id = page->id & 0xFFFF00FF;
+        const PAGE* const top = SearchPageTable(page->id & 0xFFFF0000);
+        const bool is_below = top && top != page && page->tree[2] && page->tree[3] &&
+                              top->tree[2] && !top->tree[3] && Same(page->tree[2], top->tree[2]);
+        if (id >> 24 != 0x73 || SearchPageTable(id) != page || !is_below || id == calibration)
+            continue;
+        (void)Open(id);
+        for (const BT_MEM* b = bt_first(); b->id > 0; b++)
+            if (b->type == BT_JUMP && !b->cmd[0][0] && Hex(b->cmd_var[0]) == (id & 0xFFFF0000)) {
+                EXPECT_EQ(b->id, BTN_SETUP_BACK) << std::hex << id;
+                ways++;
+            }
+        (void)Leave();
+    }
+    EXPECT_GT(ways, 60);
 }
 
 TEST_F(SwitcherIo, EveryKeyDoesSomething)

@@ -168,11 +168,13 @@ TEST_F(SetupUnits, ABusTellsItsGroupsInOneLineAndGetsThemInOne)
     (void)Tell(bus + "#true,false,false,true,false,false,false,false");
     EXPECT_EQ(Row(6, 9), "Aux1|On|---|---|On|---|---|---|---");
     SelectRow(6);
-    (void)Push(34);
-    (void)Answer(1);
+    (void)Push(34); // one touch turns it over
+    (void)Push(36);
+    EXPECT_EQ(Row(6, 5), "Aux1|On|On*|---|---*");
+    EXPECT_EQ(BT_GetStatus(34), BT_ON);
     EXPECT_THAT(
         Push(BTN_SHEET_EXECUTE),
-        testing::ElementsAre("put " + bus + "#true,true,false,true,false,false,false,false"));
+        testing::ElementsAre("put " + bus + "#true,true,false,false,false,false,false,false"));
 }
 
 TEST_F(SetupUnits, AnAreaEndsBehindItsBegin)
