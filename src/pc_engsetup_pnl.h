@@ -83,6 +83,7 @@ enum : int {
     BTN_ACTION_MACRO = 37,
     BTN_ACTION_SHOTBOX = 38,
     BTN_ACTION_NAME = 50,
+    BTN_ACTION_RANGE = 51,
     BTN_MODULE_EXTENSION = 35, // of the keys to the modules
     BTN_MODULE_PCX50 = 36,
 };

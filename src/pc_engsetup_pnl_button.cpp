@@ -36,8 +36,9 @@ namespace
 {
 constexpr int LIST = 1;
 enum : int { COL_NAME, COL_BUTTONS };
-constexpr int BUTTONS = 32;    // of a module, at most
-constexpr int BANK_PLACES = 8; // places of a bank's side
+constexpr int BUTTONS = 32;      // of a module, at most
+constexpr int ROW_BUTTONS = 128; // of a crosspoint row, at most
+constexpr int BANK_PLACES = 8;   // places of a bank's side
 
 struct SetupModule {
     SETUPMODULE_ID id = SETUP_MODULES;
@@ -48,6 +49,7 @@ struct SetupModule {
     bool has_banks = false;                    // each bank's row has one, for each of its sides
     const int* units = nullptr;                // by panel row: 0 where the module is not fitted
     bool is_action = false;
+    bool is_row = false; // as many buttons as a crosspoint row has, so many of them at a time
     const char* path = nullptr; // of the assignments; null: of the page
 };
 constexpr SetupModule modules[] = {
@@ -100,6 +102,7 @@ constexpr SetupModule modules[] = {
      .buttons = 16,
      .has_banks = true,
      .is_action = true,
+     .is_row = true,
      .path = PANEL "Prefs/Utility@Xpt Module Assign"},
     {.id = MODULE_TRANS_RATE,
      .name = "Trans Rate",
@@ -149,12 +152,15 @@ static struct {
     char page_path[CMD_SIZE] = "";                                         // of names
     const assign_regnametbl* FlexiPadmod_RealRegNameTbl[ASSIGN_ROWS] = {}; // the rows of the list
     int rows = 0;
-    int button = 1;                 // selected
+    int total = 0;                  // buttons of the module
+    int first = 0;                  // of them stand before those that are shown
+    int button = 1;                 // selected, of those that are shown
     int bank = REGION_ME_BASEPP_PP; // as the server counts
     int side = SIDE_MAIN;
     ListKind list = LIST_FUNCTIONS;
-    Held held[BUTTONS + 1] = {}; // by button, from 1
+    Held held[BUTTONS + 1] = {}; // by button that is shown, from 1
     char marks[REGISTERS_MACRO][28] = {};
+    char range[24] = ""; // caption of the key that goes on to further buttons
     char registers[REGISTERS_MACRO][32] = {};
     bool is_name_shown = false;
     bool FlexiPad_NormRedraw = false; // frames, then all of the rest
@@ -262,25 +268,36 @@ static const assign_regnametbl* find_id(int id)
 
 // --- Subscriptions ---
 
+static int shown_buttons()
+{
+    return std::min(pb.module->buttons, pb.total - pb.first);
+}
+
+// On the wire.
+static int number_of(int button)
+{
+    return pb.first + button;
+}
+
 static void button_path(int button, char (&path)[CMD_SIZE])
 {
     if (pb.module->is_action)
-        PrintText(path, "%s@Action Set@%d@%d", pb.FlexiPadmodPath, place(), button);
+        PrintText(path, "%s@Action Set@%d@%d", pb.FlexiPadmodPath, place(), number_of(button));
     else
-        PrintText(path, "%s@Button Assign@%02d@Operation@Common@%d", pb.FlexiPadmodPath, button,
-                  place());
+        PrintText(path, "%s@Button Assign@%02d@Operation@Common@%d", pb.FlexiPadmodPath,
+                  number_of(button), place());
 }
 
 static void name_path(int button, char (&path)[CMD_SIZE])
 {
-    PrintText(path, "%s@Name@%d@%d", pb.page_path, place(), button);
+    PrintText(path, "%s@Name@%d@%d", pb.page_path, place(), number_of(button));
 }
 
 static void subscribe(int on)
 {
     const char* const verb = on ? "add" : "remove";
     char path[CMD_SIZE];
-    for (int button = 1; button <= pb.module->buttons; button++) {
+    for (int button = 1; button <= shown_buttons(); button++) {
         button_path(button, path);
         Net_SendCommandFormat("%s %s", verb, path);
         if (!pb.module->is_action)
@@ -337,11 +354,11 @@ static void mark_row(int row)
     char(&mark)[28] = pb.marks[row];
     mark[0] = '\0';
     const bool is_nothing = pb.list == LIST_FUNCTIONS && row == 0;
-    for (int button = 1; button <= pb.module->buttons && !is_nothing; button++) {
+    for (int button = 1; button <= shown_buttons() && !is_nothing; button++) {
         if (!is_in_row(pb.held[button], row))
             continue;
         AppendText(mark, *mark ? "," : "");
-        AppendText(mark, NumStr(button));
+        AppendText(mark, NumStr(number_of(button)));
     }
     (void)LS_SetData(LIST, row, COL_BUTTONS, mark);
 }
@@ -380,6 +397,15 @@ static void mirror(const char* word, const char* value)
     (void)SendDummyTally(line);
 }
 
+static void show_range()
+{
+    if (!pb.module->is_row)
+        return;
+    PrintText(pb.range, "Button\n%d-%d", number_of(1), number_of(shown_buttons()));
+    (void)BT_SetCaption(BTN_ACTION_RANGE, pb.range);
+    (void)BT_SetDisable(BTN_ACTION_RANGE, pb.total <= pb.module->buttons);
+}
+
 static void show_keys()
 {
     const bool is_fitted = pnl_selected_bank_me_kyunit_assign_check();
@@ -387,6 +413,7 @@ static void show_keys()
         (void)BT_SetDisable(key, !is_fitted);
     if (pb.module->is_action) {
         (void)BT_SetDisable(BTN_ACTION_NAME, !is_fitted);
+        show_range();
         mirror("Kind", list_words[pb.list]);
         return;
     }
@@ -466,6 +493,11 @@ static void register_caption(const Held& held, char (&caption)[32])
 
 static void draw_button(int button)
 {
+    if (button > shown_buttons()) {
+        const Rect r = button_rect(button);
+        TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, BLACK);
+        return;
+    }
     const Held& held = pb.held[button];
     const bool is_on = button == pb.button;
     char caption[32] = "";
@@ -491,7 +523,7 @@ static void draw_field_frame()
     const Rect last = button_rect(pb.module->buttons);
     const bool is_fitted = pnl_selected_bank_me_kyunit_assign_check();
     if (is_fitted)
-        PrintText(title, "%s  Button %d", pb.module->name, pb.button);
+        PrintText(title, "%s  Button %d", pb.module->name, number_of(pb.button));
     else
         PrintText(title, "%s  No Module", pb.module->name);
     draw_frame(first.y1 - 13, last.y2 + 6, pb.module->has_banks && is_fitted ? WHITE : GROUP_FRAME,
@@ -529,7 +561,8 @@ static int assign_redraw()
 static void put_assign(const char* what, const assign_regnametbl* row)
 {
     Net_SendCommandFormat("put %s@Button Assign@%02d@Operation@Common@%s#%d,%d,%s",
-                          pb.FlexiPadmodPath, pb.button, what, row->id, place(), row->tally_name);
+                          pb.FlexiPadmodPath, number_of(pb.button), what, row->id, place(),
+                          row->tally_name);
 }
 
 static void put_action(int kind, int number)
@@ -571,18 +604,19 @@ static void press_default(const char*)
     const assign_regnametbl* const row = pb.held[pb.button].row;
     if (pb.module->is_action)
         Net_SendCommandFormat("put %s@Action Set@%d@Default#%d", pb.FlexiPadmodPath, place(),
-                              pb.button);
+                              number_of(pb.button));
     else
         put_assign("Default", row ? row : no_assign());
 }
 
-static void move_to(int bank, int side)
+static void move_to(int bank, int side, int first)
 {
     subscribe(0);
     pb.side = side;
     choose_bank(bank);
+    pb.first = first;
     forget_held();
-    pb.button = std::min(pb.button, pb.module->buttons);
+    pb.button = std::min(pb.button, shown_buttons());
     show_keys();
     mark_list();
     pb.FlexiPad_BtnRedraw = true;
@@ -591,7 +625,14 @@ static void move_to(int bank, int side)
 
 static void press_side(const char* value)
 {
-    move_to(pb.bank, Same(value, side_captions[SIDE_SUB]) ? SIDE_SUB : SIDE_MAIN);
+    move_to(pb.bank, Same(value, side_captions[SIDE_SUB]) ? SIDE_SUB : SIDE_MAIN, pb.first);
+}
+
+// The next buttons of the row; behind its end the first ones.
+static void press_range(const char*)
+{
+    const int next = pb.first + pb.module->buttons;
+    move_to(pb.bank, pb.side, next < pb.total ? next : 0);
 }
 
 static void press_kind(const char* value)
@@ -637,6 +678,7 @@ static int assign_button(const char* cmd, const char* value)
         {"Set", press_set, true},         {"Clear", press_clear, true},
         {"Default", press_default, true}, {"Main/Sub", press_side, false},
         {"Kind", press_kind, false},      {"Name", press_name, true},
+        {"Range", press_range, false},
     };
     const char* const word = strrchr(cmd, '@');
     if (!IsLocal(cmd) || !word)
@@ -648,14 +690,23 @@ static int assign_button(const char* cmd, const char* value)
     return 0;
 }
 
+// Once more on the same bank: its other side, where the row works on both.
+static void press_bank(int bank)
+{
+    if (bank != pb.bank)
+        move_to(bank, SIDE_MAIN, pb.first);
+    else if (RegionMainSubAssign(bank) == SIDE_BOTH)
+        move_to(bank, pb.side == SIDE_SUB ? SIDE_MAIN : SIDE_SUB, pb.first);
+}
+
 static int assign_press(int x, int y)
 {
     if (SetupIndex_IsLocked(GL_NowPage))
         return 0;
     for (int bank = 0; bank < REGION_BASEPP_1ST_AUX && pb.module->has_banks; bank++)
-        if (Inside(bank_rect(bank), x, y) && can_choose_bank(bank) && bank != pb.bank)
-            move_to(bank, SIDE_MAIN);
-    for (int button = 1; button <= pb.module->buttons; button++) {
+        if (Inside(bank_rect(bank), x, y) && can_choose_bank(bank))
+            press_bank(bank);
+    for (int button = 1; button <= shown_buttons(); button++) {
         if (!Inside(button_rect(button), x, y))
             continue;
         pb.button = button;
@@ -716,7 +767,7 @@ static int follow_config()
 {
     const int sides = RegionMainSubAssign(pb.bank);
     if (sides != SIDE_BOTH && sides != pb.side)
-        move_to(pb.bank, pb.side);
+        move_to(pb.bank, pb.side, pb.first);
     show_keys();
     pb.FlexiPad_BtnRedraw = true;
     return 0;
@@ -730,7 +781,7 @@ static int assign_tally(const char* path, const char* value)
         pb.is_name_shown = IsTrue(value) != 0;
     else if (!BeginsWith(path, pb.FlexiPadmodPath) && !BeginsWith(path, pb.page_path))
         return 0;
-    for (int button = 1; button <= pb.module->buttons; button++)
+    for (int button = 1; button <= shown_buttons(); button++)
         if (take_button(button, path, value)) {
             mark_list();
             break;
@@ -769,7 +820,7 @@ static int asked_button()
                       : pb.module->id == MODULE_UTILITY  ? GL_UtlAsgnSelectButtonID
                       : pb.module->id == MODULE_KEY2_BUS ? GL_XptAsgnSelectButtonID
                                                          : 0;
-    return asked >= 1 && asked <= pb.module->buttons ? asked : 1;
+    return asked >= 1 && asked <= pb.total ? asked : 1;
 }
 
 // One that has the module, if there is any.
@@ -787,7 +838,11 @@ static void open_module(const SetupModule& module)
     DecodeCommand(pb.page_path, "~", sizeof pb.page_path);
     CopyText(pb.FlexiPadmodPath, module.path ? module.path : pb.page_path);
     FlexiPadmod_list_init();
-    pb.button = asked_button();
+    pb.total =
+        module.is_row ? std::clamp(GL_XptButtonCount, module.buttons, ROW_BUTTONS) : module.buttons;
+    const int asked = asked_button() - 1;
+    pb.first = asked / module.buttons * module.buttons;
+    pb.button = asked - pb.first + 1;
     if (module.has_banks)
         choose_first_bank();
 }

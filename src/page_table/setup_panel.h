@@ -306,7 +306,11 @@ inline constexpr BT_TBL bt_engsetup_panel_prefsutility[] = {
     BT_END,
 };
 inline constexpr BT_TBL bt_engsetup_panel_utilitymoduleassign[] = {ACTIONS("Prefs/Utility@Utility Module Assign"), BT_END};
-inline constexpr BT_TBL bt_engsetup_panel_key2busbuttonassign[] = {ACTIONS("Prefs/Utility@Key2 Bus Button Assign"), BT_END};
+inline constexpr BT_TBL bt_engsetup_panel_key2busbuttonassign[] = {
+    ACTIONS("Prefs/Utility@Key2 Bus Button Assign"),
+    Action({.id = BTN_ACTION_RANGE, .caption = "Button", .cmd = PANEL("Prefs/Utility@Key2 Bus Button Assign@Range")}),
+    BT_END,
+};
 inline constexpr BT_TBL bt_engsetup_panel_transratemodeassign[] = {ACTIONS("Prefs/Utility@Trans Rate Mode Assign"), BT_END};
 static_assert(ButtonsAreSound(bt_engsetup_panel_prefsutility) && ButtonsAreSound(bt_engsetup_panel_utilitymoduleassign));
 static_assert(ButtonsAreSound(bt_engsetup_panel_key2busbuttonassign) && ButtonsAreSound(bt_engsetup_panel_transratemodeassign));

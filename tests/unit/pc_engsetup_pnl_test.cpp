@@ -166,6 +166,25 @@ TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
     }
 }
 
+TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReached)
+{
+    GL_XptButtonCount = 40;
+    (void)Tell(PANEL "Prefs/Utility@Panel Select#35,2");
+    (void)Open(0x73240002);
+    SelectRow(3);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre("put " KEY2 "Action Set@1@35#1,3"));
+    (void)Tell(KEY2 "Action Set@1@40#1,3");
+    EXPECT_EQ(Cell(3, 1), "40");
+    Lines lines = Push(BTN_ACTION_RANGE);
+    EXPECT_EQ(Held(lines, KEY2 "Action Set@1@40"), -1);
+    EXPECT_EQ(Held(lines, KEY2 "Action Set@1@1"), 1) << "after the last the first";
+    (void)Touch(112 + 70 + 20, 98 + 20); // M/E-1
+    lines = Touch(112 + 70 + 20, 98 + 20);
+    EXPECT_EQ(Held(lines, KEY2 "Action Set@2@16"), -1);
+    EXPECT_EQ(Held(lines, KEY2 "Action Set@10@16"), 1) << "its sub side";
+    GL_XptButtonCount = GL_XptAsgnSelectButtonID = 0;
+}
+
 TEST_F(PanelSetup, ThePanelAsksForAButton)
 {
     (void)Tell(PANEL "Prefs/Utility@Panel Select#7,1");
