@@ -276,7 +276,7 @@ inline constexpr auto nb_dme_multi_move = FamilyOf<2>([](int wide) {
 inline constexpr auto nb_dme_multi_move_shift = FamilyOf<2>([](int wide) {
     return Column(Count(1, "H",     "~@Multi Move@H", 1, wide ? 16 : 12),
                   Count(2, "V",     "~@Multi Move@V", 1, 12),
-                  Span (3, "Shift", "~@Multi Move@Shift", 100));
+                  Span (3, "Shift", "~@Multi Move@Shift@Shift", 100));
 });
 inline constexpr auto nb_dme_mask = FamilyOf<2>([](int wide) {
     return Column(Span   (1, "Left",   "~@Mask@Left",   Wide(1, wide)),
