@@ -1,5 +1,6 @@
 // The commands that change the installation.
 #include "console_command.h"
+#include "gpi.h"
 #include "setup.h"
 #include "text.h"
 
@@ -35,10 +36,19 @@ static bool con_config(Runner&, const std::string& rest)
     return true;
 }
 
+static bool con_gpi(Runner&, const std::string& rest)
+{
+    const auto word = Text_Split(rest, ' ');
+    long port = 0;
+    return word.size() == 2 && Console_Number(word[1], 1, 99, &port) &&
+           Gpi_Close(word[0], int(port));
+}
+
 static constexpr Command commands[] = {
     {"keys", "M/E-1 4|8", "how many keys the bank has", con_keys},
     {"multi", "BANK|all on|off", "a bank runs two programs: main and sub side", con_multi},
     {"4k", "on|off", "the picture format", con_4k},
+    {"gpi", "UNIT PORT", "a contact closes: SWR, PNL, DME1 to 4, DCU1, DCU2", con_gpi},
     {"config", "ng", "the next Define or Auto Config of the network fails", con_config},
 };
 constinit const std::span<const Command> console_setup_commands = commands;

@@ -1,6 +1,7 @@
 #include "setup.h"
 #include "link.h"
 #include "log.h"
+#include "setup_kind.h"
 #include "setup_switcher.h"
 #include "text.h"
 #include "tree.h"
@@ -159,7 +160,7 @@ static bool put_switcher_format(const std::string& path, const std::string& numb
 {
     const std::string word = format_word(numbers);
     if (word.empty())
-        return true; // the old one is the answer
+        return SetupKind_Refuse(path, numbers);
     const Node* const node = Tree_Get(path);
     if (node && node->value == numbers)
         return true;
@@ -246,6 +247,8 @@ void Setup_Install()
 {
     st = {};
     SetupSwitcher_Install();
+    for (const Bank& bank : banks)
+        show_outputs(bank.word, false);
     std::vector<std::string> assigns, sources;
     std::string formats;
     for (int n = 1; n <= OUTPUTS; ++n) {

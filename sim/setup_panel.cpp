@@ -1,6 +1,7 @@
 #include "setup_panel.h"
 #include "log.h"
 #include "macro.h"
+#include "setup_kind.h"
 #include "store.h"
 #include "text.h"
 #include "tree.h"
@@ -18,8 +19,8 @@ using Fields = std::vector<std::string>;
 
 static constexpr int TEN_KEYS = 23;
 static constexpr int TEN_KEY_FIELDS = 6;
-static constexpr int SUB_FIRST = 128; // buttons of the sub side are counted on
-static constexpr int XPT_BUTTONS = 32;
+static constexpr int SUB_FIRST = 128;  // buttons of a side; those of the sub side are counted on
+static constexpr int XPT_BUTTONS = 32; // at the start
 static constexpr int SHOTBOX_FIRST = 1001;
 
 static std::string without_last(const std::string& path, int words)
@@ -102,8 +103,10 @@ static bool moves(const std::string& part, size_t field)
 static bool insert_at(Table& table, size_t at, const std::string& thing, const std::string& part,
                       bool is_overwrite)
 {
-    if (at >= table.row.size())
+    if (at >= size_t(SUB_FIRST) || table.row.empty())
         return false;
+    if (at >= table.row.size()) // a button that has had nothing yet
+        table.row.resize(at + 1, Fields(table.row[0].size(), "0"));
     for (size_t f = 0; f < table.row[at].size(); ++f) {
         if (!moves(part, f))
             continue;
@@ -117,7 +120,7 @@ static bool insert_at(Table& table, size_t at, const std::string& thing, const s
 static bool delete_at(Table& table, size_t at, const std::string& part)
 {
     if (at >= table.row.size())
-        return false;
+        return at < size_t(SUB_FIRST); // there is nothing
     for (size_t f = 0; f < table.row[at].size(); ++f) {
         if (!moves(part, f))
             continue;
@@ -138,7 +141,7 @@ static void restore(const std::string& list, int first)
     }
 }
 
-// --- What panels put. A value of the wrong form changes nothing ---
+// --- What panels put; false: a value of the wrong form, which changes nothing ---
 
 static bool numbers_of(const std::string& value, size_t count, std::vector<long>& number)
 {
@@ -165,11 +168,12 @@ static bool put_xpt_insert(const std::string& path, const std::string& value)
 {
     std::vector<long> n;
     if (!numbers_of(value, 3, n))
-        return true;
+        return false;
     Table table = table_of(XPT + "Assign", side_of_index(n[0]));
-    if (insert_at(table, size_t(n[0] - table.first), std::to_string(n[1]),
-                  path.substr(path.rfind(' ') + 1), n[2] == 1))
-        tell_table(table);
+    if (!insert_at(table, size_t(n[0] - table.first), std::to_string(n[1]),
+                   path.substr(path.rfind(' ') + 1), n[2] == 1))
+        return false;
+    tell_table(table);
     return true;
 }
 
@@ -177,10 +181,11 @@ static bool put_xpt_delete(const std::string& path, const std::string& value)
 {
     std::vector<long> n;
     if (!numbers_of(value, 1, n))
-        return true;
+        return false;
     Table table = table_of(XPT + "Assign", side_of_index(n[0]));
-    if (delete_at(table, size_t(n[0] - table.first), path.substr(path.rfind(' ') + 1)))
-        tell_table(table);
+    if (!delete_at(table, size_t(n[0] - table.first), path.substr(path.rfind(' ') + 1)))
+        return false;
+    tell_table(table);
     return true;
 }
 
@@ -189,7 +194,7 @@ static bool put_pair(const std::string& path, const std::string& value)
 {
     std::vector<long> n;
     if (!numbers_of(value, 2, n))
-        return true;
+        return false;
     Table table = table_of(XPT + "Assign", side_first(last_word(without_last(path, 1))));
     const bool is_insert = Text_Begins(path, XPT + "Insert");
     bool is_done = false;
@@ -198,7 +203,7 @@ static bool put_pair(const std::string& path, const std::string& value)
                             : delete_at(table, size_t(n[0] - 1), "");
     if (is_done)
         tell_table(table);
-    return true;
+    return is_done;
 }
 
 static bool put_xpt_default(const std::string& path, const std::string& value)
@@ -213,7 +218,7 @@ static bool put_copy(const std::string&, const std::string& value)
 {
     const Fields order = Text_Split(value, ',');
     if (order.size() != 2 || order[0] == order[1])
-        return true;
+        return false;
     Table table = table_of(XPT + "Assign", side_first(order[0]));
     table.first = side_first(order[1]);
     tell_table(table);
@@ -224,9 +229,10 @@ static bool put_flag(const std::string& path, const std::string& value)
 {
     const Fields field = Text_Split(value, ',');
     long index = 0;
-    if (field.size() == 2 && Text_ToInt(field[0], &index) && index > 0 &&
-        (field[1] == "true" || field[1] == "false"))
-        tell_row(path, value);
+    if (field.size() != 2 || !Text_ToInt(field[0], &index) || index < 1 ||
+        (field[1] != "true" && field[1] != "false"))
+        return false;
+    tell_row(path, value);
     return true;
 }
 
@@ -239,10 +245,11 @@ static bool put_source(const std::string& path, const std::string& value)
     long index = 0, colour = 0;
     const bool is_name = last_word(path) == "List";
     if (field.size() != 2 || !Text_ToInt(field[0], &index) || index < 1 || field[1].empty())
-        return true;
-    if (is_name ? field[1].size() <= name_max
-                : Text_ToInt(field[1], &colour) && colour >= 0 && colour <= colour_max)
-        tell_row(path, value);
+        return false;
+    if (is_name ? field[1].size() > name_max
+                : !Text_ToInt(field[1], &colour) || colour < 0 || colour > colour_max)
+        return false;
+    tell_row(path, value);
     return true;
 }
 
@@ -256,12 +263,13 @@ static bool put_table(const std::string& path, const std::string& value)
         return true;
     }
     if (!numbers_of(value, what == "Delete" ? 1 : 2, n))
-        return true;
+        return false;
     Table table = table_of(list, 1);
     const size_t at = size_t(n[0] - 1);
-    if (what == "Delete" ? delete_at(table, at, "")
-                         : insert_at(table, at, std::to_string(n[1]), "", what == "Overwrite"))
-        tell_table(table);
+    if (!(what == "Delete" ? delete_at(table, at, "")
+                           : insert_at(table, at, std::to_string(n[1]), "", what == "Overwrite")))
+        return false;
+    tell_table(table);
     return true;
 }
 
@@ -270,7 +278,7 @@ static bool put_export(const std::string&, const std::string& value)
     const Node* const names = Tree_Get(XPT + "Source@List");
     const Node* const router = Tree_Get(XPT + "Name Export@Router");
     if (value != "true" || !names || !router || router->value != "true")
-        return true;
+        return true; // it goes nowhere
     for (const std::string& row : Fields(names->rows))
         tell_row(PANEL + "Config@External Bus Link@S-BUS Src Name List", row);
     return true;
@@ -283,13 +291,15 @@ static bool put_button(const std::string& path, const std::string& value)
     long id = 0, place = 0;
     if (field.size() != 3 || !Text_ToInt(field[0], &id) || !Text_ToInt(field[1], &place) ||
         field[2].empty() || place < 1)
-        return true;
+        return false;
     const std::string button = without_last(path, 1) + "@" + std::to_string(place);
     const Node* const node = Tree_Get(button);
     if (last_word(path) == "Default" && node)
         Tree_Show(button, node->initial);
     else if (last_word(path) == field[1])
         Tree_Show(path, value);
+    else
+        return false;
     return true;
 }
 
@@ -298,13 +308,15 @@ static bool put_action(const std::string& path, const std::string& value)
     std::vector<long> n;
     if (last_word(path) == "Default") {
         const std::string button = without_last(path, 1) + "@" + value;
-        if (const Node* node = numbers_of(value, 1, n) ? Tree_Get(button) : nullptr)
+        const Node* const node = numbers_of(value, 1, n) ? Tree_Get(button) : nullptr;
+        if (node)
             Tree_Show(button, node->initial);
-        return true;
+        return node != nullptr;
     }
     constexpr long kinds = 3;
-    if (numbers_of(value, 2, n) && n[0] < kinds)
-        Tree_Show(path, value);
+    if (!numbers_of(value, 2, n) || n[0] >= kinds)
+        return false;
+    Tree_Show(path, value);
     return true;
 }
 
@@ -314,13 +326,15 @@ static bool put_regions(const std::string& path, const std::string& value)
     long number = 0;
     if (field.size() != TEN_KEY_FIELDS || !Text_ToInt(field[0], &number) || number < 1 ||
         number > TEN_KEYS)
-        return true;
+        return false;
     const std::string key = without_last(path, 1) + "@" + field[0];
     const Node* const node = Tree_Get(key);
     if (last_word(path) == "Default" && node)
         Tree_Show(key, node->initial);
     else if (last_word(path) == field[0])
         Tree_Show(path, value);
+    else
+        return false;
     return true;
 }
 
@@ -359,7 +373,7 @@ bool SetupPanel_Put(const std::string& path, const std::string& value)
     };
     for (const auto& row : rows)
         if (Text_MatchesPath(path.substr(PANEL.size()), row.path))
-            return row.put(path, value);
+            return row.put(path, value) || SetupKind_Refuse(path, value);
     return false;
 }
 

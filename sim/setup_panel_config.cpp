@@ -209,8 +209,9 @@ static bool put_pad_default(const std::string& path, const std::string& value)
 static bool put_pad(const std::string& path, const std::string& value)
 {
     constexpr size_t name_max = 16;
-    if (Tree_Find(path) && !value.empty() && value.size() <= name_max)
-        Tree_Show(path, value);
+    if (!Tree_Find(path) || value.empty() || value.size() > name_max)
+        return SetupKind_Refuse(path, value);
+    Tree_Show(path, value);
     return true;
 }
 

@@ -161,7 +161,7 @@ static bool put_logical(const std::string& path, const std::string& value)
     std::sort(wanted.begin(), wanted.end());
     std::sort(all.begin(), all.end());
     if (wanted != all)
-        return true;
+        return SetupKind_Refuse(path, value);
     Tree_Show(path, value);
     // The row that works a bank is known by the bank's logical name.
     constexpr const char* rows[] = {"1st Row", "2nd Row", "3rd Row",
@@ -174,7 +174,9 @@ static bool put_logical(const std::string& path, const std::string& value)
 static bool put_me_config(const std::string& path, const std::string& value)
 {
     const Words known = {"Standard", "Multi Program", "Multi Program 2", "DSK"};
-    if (std::find(known.begin(), known.end(), value) == known.end() || value == value_of(path))
+    if (std::find(known.begin(), known.end(), value) == known.end())
+        return SetupKind_Refuse(path, value);
+    if (value == value_of(path))
         return true;
     (void)Setup_Multi(path.substr(path.rfind('@') + 1), value == "Multi Program 2");
     Tree_Show(path, value);
@@ -190,7 +192,7 @@ static bool put_user(const std::string& path, const std::string& value)
     for (const std::string& word : wanted)
         if (!value.empty() && std::none_of(std::begin(known), std::end(known),
                                            [&](const char* k) { return Text_Matches(word, k); }))
-            return true;
+            return SetupKind_Refuse(path, value);
     const std::string users = path.substr(0, path.size() - 1);
     for (int n = 1; n <= 8; ++n) {
         const std::string other = users + std::to_string(n);

@@ -78,6 +78,7 @@ static void verb_add(int client, const std::string& path, const std::string& key
             Link_SendLine(client, path + "#" + row);
 }
 
+// A "#" behind the path is allowed.
 static void verb_read(int client, const std::string& path, const std::string&)
 {
     const Node* node = Tree_Get(path);
@@ -270,7 +271,7 @@ static void verb_assign(int client, const std::string& knob, const std::string& 
 }
 
 static constexpr Verb verbs[] = {
-    {"add", false, true, verb_add},       {"read", false, false, verb_read},
+    {"add", false, true, verb_add},       {"read", false, true, verb_read},
     {"put", true, false, verb_put},       {"set", true, false, verb_set},
     {"remove", false, true, verb_remove}, {"default", false, false, verb_default},
     {"assign", true, false, verb_assign},

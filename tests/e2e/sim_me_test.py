@@ -291,6 +291,21 @@ class Installation(MeTest):
                                              f"{config}#Multi Program 2"])
         self.assertEqual(self.output().count("usage:"), 2)
 
+    def test_a_contact_does_what_its_input_page_says(self):
+        page, dme = "Engineering Setup@Switcher@Device Interface@GPI Input@", "Engineering Setup@DME@Device Interface@"
+        key, hold = "PGM/PST@DSK3@Status@Key ON", "M/E-2@Misc@Snapshot@Xpt Hold@Bkgd B"
+        self.follow(key, hold)
+        for port, plain, region in ((1, "5,0,0,3", ""), (2, "4,2,0,1", ""), (3, "", "8,M/E-1,2,0")):
+            self.do(f"put {page}Trigger Type@{port}#Rising Edge", f"put {page}Action Type@{port}@1#{plain}" if plain else
+                    f"put {page}Action Type Region@{port}@1#{region}")
+        self.do("gpi SWR 1", "gpi SWR 2", "gpi SWR 3", "gpi SWR 4", "gpi SWR 9",
+                f"put {dme}DME1 GPI Input@GPI Enable#false", "gpi DME1 1", "get Done")
+        self.wait_for_log("console: get Done")
+        self.assertEqual(self.other.sync(), [f"{key}#true", f"{hold}#true"])
+        self.wait_for_log("SWR GPI input 3: Effect Recall")
+        self.wait_for_log("DME1 GPI input 1: not used")
+        self.assertEqual(self.output().count("usage:"), 1)
+
 
 if __name__ == "__main__":
     sim_test.main(__file__)
