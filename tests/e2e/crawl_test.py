@@ -14,7 +14,7 @@ class Crawl(unittest.TestCase):
         run = subprocess.run([os.path.join(SOURCE, "tools", "crawl"), BUILD, "53", "2"], stdout=subprocess.PIPE,
                              stderr=subprocess.STDOUT, text=True, timeout=300)
         self.assertEqual(run.returncode, 0, run.stdout)
-        self.assertIn(" 0 subscriptions left behind", run.stdout)
+        self.assertIn(" 0 subscriptions left behind, 0 commands unanswered, 0 refused", run.stdout)
 
 
 if __name__ == "__main__":
