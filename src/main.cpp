@@ -59,6 +59,7 @@ int main(int argc, char** argv)
     SDL_Delay(SERVER_WAIT_MS);
     LoadGraphics();
     Net_SendCommand("put Info@Initial Read Status#true");
+    (void)Net_SendCommandQueue(); // takes up the connection that was made meanwhile
     GL_NetReConnect = 0;
     (void)CreatePage(PAGE_TOP);   // the one page change outside the loop
     (void)Net_SendCommandQueue(); // the server answers while the drives are looked at
