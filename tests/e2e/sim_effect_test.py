@@ -107,7 +107,8 @@ class Panel:
         return self.frame(seconds) is None
 
     def drain(self):
-        while self.frame(0.15):
+        """Until nothing comes, for long enough on a machine that is busy with other things."""
+        while self.frame(0.5):
             pass
 
 
