@@ -205,12 +205,8 @@ SDL_Surface* WipePtn(int number)
 {
     if (number < 0 || number >= WIPE_PTN_MAX)
         return nullptr;
-    if (is_listed[number]) { // it is about to be shown: with its pixels
-        char name[16];
-        pattern_name(name, uint32_t(number) | KEY_PATTERN);
-        G_WipePtn[number] = load_gfile(name);
-        is_listed[number] = false;
-    }
+    if (is_listed[number])
+        load_wipe_ptn(uint32_t(number) | KEY_PATTERN);
     return G_WipePtn[number];
 }
 

@@ -137,8 +137,8 @@ static void loop_set_video(uint32_t flags)
         changed = SDL_SetVideoMode(SCREEN_W, SCREEN_H, 0, old_flags);
     if (changed)
         Screen = changed;
-    if (picture)
-        TDL_Put(0, 0, picture);
+    if (!picture || TDL_Put(0, 0, picture) != 0)
+        TDL_FillRect(0, 0, SCREEN_W - 1, SCREEN_H - 1, BLACK);
     SDL_FreeSurface(picture);
 }
 

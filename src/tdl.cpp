@@ -47,6 +47,16 @@ static Rect clip_to_screen(const Rect& r)
             std::min(r.y2, ScreenY - 1)};
 }
 
+static Rect box_at(int x, int y, int w, int h)
+{
+    return {x, y, x + w - 1, y + h - 1};
+}
+
+static Rect rect_of(const SDL_Rect& r)
+{
+    return box_at(r.x, r.y, r.w, r.h);
+}
+
 static void fill_row(uint8_t* row, int count, int bytes_per_pixel, uint32_t pixel)
 {
     switch (bytes_per_pixel) {
@@ -72,6 +82,7 @@ static void fill(SDL_Surface* s, const Rect& r, uint32_t pixel)
 {
     if (tdl_is_empty(r))
         return;
+    constexpr int NARROW = 8; // px: not worth a copy
     const int bytes = s->format->BytesPerPixel;
     const int width = r.x2 - r.x1 + 1;
     uint8_t* first = tdl_pixel_at(s, r.x1, r.y1);
@@ -79,7 +90,10 @@ static void fill(SDL_Surface* s, const Rect& r, uint32_t pixel)
     uint8_t* row = first;
     for (int y = r.y1 + 1; y <= r.y2; y++) {
         row += s->pitch;
-        memcpy(row, first, size_t(width * bytes));
+        if (width < NARROW)
+            fill_row(row, width, bytes, pixel);
+        else
+            memcpy(row, first, size_t(width * bytes));
     }
 }
 
@@ -133,6 +147,41 @@ static void mix_rows(const SDL_Rect& dst, const uint8_t* src, int src_pitch, uin
     }
 }
 
+static void paint_fill(const Stroke& s, const Rect& part)
+{
+    if (s.alpha == SDL_ALPHA_OPAQUE) {
+        fill(Screen, part, s.pixel);
+        return;
+    }
+    const int width = part.x2 - part.x1 + 1;
+    fill(AlphaBuf, {0, 0, width - 1, 0}, s.pixel); // one row of the colour does for all
+    mix_rows({Sint16(part.x1), Sint16(part.y1), Uint16(width), Uint16(part.y2 - part.y1 + 1)},
+             tdl_pixel_at(AlphaBuf, 0, 0), 0, s.alpha);
+}
+
+static void paint_bitmap(const Stroke& s, const Rect& part)
+{
+    if (!tdl_has_pixels(s.bitmap))
+        return;
+    const SDL_Rect dst = {Sint16(part.x1), Sint16(part.y1), Uint16(part.x2 - part.x1 + 1),
+                          Uint16(part.y2 - part.y1 + 1)};
+    mix_rows(dst, tdl_pixel_at(s.bitmap, part.x1 - s.x, part.y1 - s.y), s.bitmap->pitch, s.alpha);
+}
+
+void tdl_paint(const Stroke& s, const Rect& part)
+{
+    switch (s.kind) {
+    case STROKE_FILL: paint_fill(s, part); break;
+    case STROKE_BITMAP: paint_bitmap(s, part); break;
+    case STROKE_GLYPH: tdl_paint_glyph(s, part); break;
+    }
+}
+
+static void draw_fill(const Rect& r, uint32_t pixel)
+{
+    tdl_draw({.box = r, .pixel = pixel});
+}
+
 // --- Life ---
 
 // An empty full-screen surface in display format; null when memory is out.
@@ -157,6 +206,7 @@ int TDL_Init(SDL_Surface* scrn)
     AlphaBuf = create_screen_surface();
     PushedScreenXY = {0, 0, 0, 0};
     tdl_flush_init();
+    tdl_list_init();
     if (!ScreenBuf || !AlphaBuf)
         return -1;
     return tdl_text_init();
@@ -164,6 +214,7 @@ int TDL_Init(SDL_Surface* scrn)
 
 void TDL_Quit()
 {
+    tdl_list_quit();
     tdl_text_quit();
     tdl_flush_quit();
     SDL_FreeSurface(AlphaBuf);
@@ -199,7 +250,7 @@ int TDL_LineHS(int x, int y, int z, unsigned col)
 {
     if (!is_on_screen(x, y))
         return 1;
-    fill(Screen, run_right(x, y, z), tdl_map_colour(col));
+    draw_fill(run_right(x, y, z), tdl_map_colour(col));
     return 0;
 }
 
@@ -212,7 +263,7 @@ int TDL_LineVS(int x, int y, int z, unsigned col)
 {
     if (!is_on_screen(x, y))
         return 1;
-    fill(Screen, run_down(x, y, z), tdl_map_colour(col));
+    draw_fill(run_down(x, y, z), tdl_map_colour(col));
     return 0;
 }
 
@@ -275,8 +326,8 @@ static int draw_slant(int x1, int y1, int x2, int y2, int w, int h, unsigned col
             moved = std::max(moved + 1, std::min(c, dx));
             last = x1 + (moved - 1) * step;
         }
-        fill(Screen, clip_to_screen({std::min(x, last), y, std::max(x, last) + w - 1, y + h - 1}),
-             pixel);
+        draw_fill(clip_to_screen({std::min(x, last), y, std::max(x, last) + w - 1, y + h - 1}),
+                  pixel);
     }
     *touched = clip_to_screen({std::min(x1, last), y1, std::max(x1, last) + w - 1, y2 + h - 1});
     return 0;
@@ -382,7 +433,7 @@ int TDL_FillRectS(int x1, int y1, int x2, int y2, unsigned col)
 {
     if (const int bad = check_rect(x1, y1, x2, y2))
         return bad;
-    fill(Screen, clip_to_screen({x1, y1, x2, y2}), tdl_map_colour(col));
+    draw_fill(clip_to_screen({x1, y1, x2, y2}), tdl_map_colour(col));
     return 0;
 }
 
@@ -394,6 +445,7 @@ int TDL_FillRect(int x1, int y1, int x2, int y2, unsigned col)
 // Lay the top left of AlphaBuf on the screen; dst lies on the screen.
 static void lay_alpha_buf(SDL_Rect dst, uint8_t alpha)
 {
+    tdl_draw_directly(rect_of(dst));
     if (tdl_blends_bytes()) {
         mix_rows(dst, tdl_pixel_at(AlphaBuf, 0, 0), AlphaBuf->pitch, alpha);
         return;
@@ -410,17 +462,15 @@ int TDL_FillRectAS(int x1, int y1, int x2, int y2, unsigned col, unsigned char a
     const Rect part = clip_to_screen({x1, y1, x2, y2});
     if (tdl_is_empty(part))
         return 0;
+    const uint32_t pixel = tdl_map_colour(col);
+    if (tdl_blends_bytes()) {
+        tdl_draw({.alpha = alpha, .box = part, .pixel = pixel});
+        return 0;
+    }
     const int width = part.x2 - part.x1 + 1;
     const int height = part.y2 - part.y1 + 1;
-    const SDL_Rect dst = {Sint16(part.x1), Sint16(part.y1), Uint16(width), Uint16(height)};
-    const uint32_t pixel = tdl_map_colour(col);
-    if (tdl_blends_bytes()) { // one row of the colour does for all
-        fill(AlphaBuf, {0, 0, width - 1, 0}, pixel);
-        mix_rows(dst, tdl_pixel_at(AlphaBuf, 0, 0), 0, alpha);
-    } else {
-        fill(AlphaBuf, {0, 0, width - 1, height - 1}, pixel);
-        lay_alpha_buf(dst, alpha);
-    }
+    fill(AlphaBuf, {0, 0, width - 1, height - 1}, pixel);
+    lay_alpha_buf({Sint16(part.x1), Sint16(part.y1), Uint16(width), Uint16(height)}, alpha);
     return 0;
 }
 
@@ -430,11 +480,6 @@ int TDL_FillRectA(int x1, int y1, int x2, int y2, unsigned col, unsigned char al
 }
 
 // --- Bitmaps ---
-
-static Rect box_at(int x, int y, int w, int h)
-{
-    return {x, y, x + w - 1, y + h - 1};
-}
 
 // The part of a block of w x h pixels at (x, y) that the screen's clip rectangle lets through.
 // False when none.
@@ -467,13 +512,26 @@ static bool is_plain_copy(const SDL_Surface* s)
     return same_format && !translucent && !special && s != Screen;
 }
 
+// True for a bitmap of the user interface: what it shows never changes, so it can be drawn later.
+static bool is_constant(const SDL_Surface* s)
+{
+    return s->unused1 != 0 && tdl_blends_bytes() && is_plain_copy(s);
+}
+
 int TDL_PutS(int x, int y, SDL_Surface* sfc)
 {
-    if (!sfc || !tdl_has_pixels(sfc))
+    if (!sfc)
         return 1;
     SDL_Rect src, dst;
     if (!clip_block(x, y, sfc->w, sfc->h, &src, &dst))
         return 0;
+    if (is_constant(sfc)) {
+        tdl_draw({.kind = STROKE_BITMAP, .box = rect_of(dst), .x = x, .y = y, .bitmap = sfc});
+        return 0;
+    }
+    if (!tdl_has_pixels(sfc))
+        return 1;
+    tdl_draw_directly(rect_of(dst));
     if (is_plain_copy(sfc))
         copy_rows(Screen, dst.x, dst.y, sfc, src);
     else
@@ -490,12 +548,24 @@ int TDL_Put(int x, int y, SDL_Surface* sfc)
 
 int TDL_PutAS(int x, int y, SDL_Surface* sfc, unsigned char alpha)
 {
-    if (!sfc || !tdl_has_pixels(sfc))
+    if (!sfc)
         return 1;
     SDL_Rect src, dst;
     if (!clip_block(x, y, sfc->w, sfc->h, &src, &dst))
         return 0;
+    if (is_constant(sfc)) {
+        tdl_draw({.kind = STROKE_BITMAP,
+                  .alpha = alpha,
+                  .box = rect_of(dst),
+                  .x = x,
+                  .y = y,
+                  .bitmap = sfc});
+        return 0;
+    }
+    if (!tdl_has_pixels(sfc))
+        return 1;
     if (tdl_blends_bytes() && is_plain_copy(sfc)) {
+        tdl_draw_directly(rect_of(dst));
         mix_rows(dst, tdl_pixel_at(sfc, src.x, src.y), sfc->pitch, alpha);
         return 0;
     }
@@ -551,8 +621,10 @@ int TDL_PutSmallS(int x, int y, SDL_Surface* sfc)
     if (!can_halve(sfc))
         return -1;
     SDL_Rect src, dst;
-    if (clip_block(x, y, sfc->w / 2, sfc->h / 2, &src, &dst))
-        put_half(sfc, src, Screen, dst.x, dst.y);
+    if (!clip_block(x, y, sfc->w / 2, sfc->h / 2, &src, &dst))
+        return 0;
+    tdl_draw_directly(rect_of(dst));
+    put_half(sfc, src, Screen, dst.x, dst.y);
     return 0;
 }
 
@@ -596,6 +668,7 @@ int TDL_PushScreen(int x, int y, int w, int h)
     }
     PushedScreenXY = {Sint16(part.x1), Sint16(part.y1), Uint16(part.x2 - part.x1 + 1),
                       Uint16(part.y2 - part.y1 + 1)};
+    tdl_paint_listed();
     copy_rows(ScreenBuf, 0, 0, Screen, PushedScreenXY);
     return 0;
 }
@@ -606,8 +679,9 @@ int TDL_PopScreen()
     SDL_Rect src, dst;
     if (!clip_block(at.x, at.y, at.w, at.h, &src, &dst))
         return 0;
+    tdl_draw_directly(rect_of(dst));
     copy_rows(Screen, dst.x, dst.y, ScreenBuf, src);
-    tdl_flush(box_at(dst.x, dst.y, dst.w, dst.h));
+    tdl_flush(rect_of(dst));
     return 0;
 }
 

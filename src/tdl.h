@@ -19,11 +19,15 @@ int TDL_UpdateRect(int x1, int y1, int x2, int y2); // cut at the screen edge
 int TDL_UpdateScreen();
 // Between these nothing reaches the display; at the release of the last hold what has been flushed
 // meanwhile does, once. Holds nest; a release without a hold does nothing.
+// Drawing waits as well, and is left out where it changes nothing; whoever looks at the pixels of
+// Screen does so without a hold.
 void TDL_Hold();
 void TDL_Release();
 // What has been flushed since the hold reaches the display now, and the hold goes on: for what
 // blocks within a pass and has told so. Without a hold nothing waits, and it does nothing.
 void TDL_Show();
+// Every verb paints at once, also within a hold: slower, and the same pixels at each release.
+void TDL_PaintAtOnce(bool on);
 // Told of every rectangle that is handed to the display; null: nobody.
 void TDL_WatchFlush(void (*watch)(int x, int y, int w, int h));
 

@@ -27,6 +27,7 @@ struct Head {
 
 static_assert(BLOCK >= size_t(SIDE_MAX) * 3 + 3, "one row at least");
 
+uint32_t tdl_opened_bitmaps = 0;
 static bool (*path_of)(uint32_t key, char* path, size_t size) = nullptr;
 
 void TDL_SetBmpPaths(bool (*paths)(uint32_t key, char* path, size_t size))
@@ -149,6 +150,7 @@ SDL_Surface* TDL_OpenBmp(const char* fname, uint32_t key)
                                                  f.Gmask, f.Bmask, 0);
     if (made)
         made->unused1 = key;
+    tdl_opened_bitmaps++;
     return made;
 }
 

@@ -12,7 +12,7 @@ namespace
 {
 constexpr int GATHERED = 64; // rectangles; more become their common frame
 constexpr int RUNS = 256;    // handed over at once
-constexpr int JOIN = 8;      // pixels that are the same between two runs of a row: one run
+constexpr int BLOCK = 4;     // pixels of a row that are compared in one go
 } // namespace
 
 static struct {
@@ -95,50 +95,48 @@ static void remember(const Rect& r)
         memcpy(tdl_pixel_at(flush.shown, r.x1, y), tdl_pixel_at(Screen, r.x1, y), bytes);
 }
 
-// How many of the next pixels are the same in both rows; blocks of 32 bytes first, for most are.
-template <typename PIXEL> static int same_ahead(const PIXEL* a, const PIXEL* b, int most)
+template <typename PIXEL> static bool same_block(const PIXEL* a, const PIXEL* b)
 {
-    constexpr int BLOCK = 32 / int(sizeof(PIXEL));
-    int n = 0;
-    while (n + BLOCK <= most) {
-        uint64_t x[4], y[4];
-        memcpy(x, a + n, sizeof x);
-        memcpy(y, b + n, sizeof y);
-        if ((x[0] ^ y[0]) | (x[1] ^ y[1]) | (x[2] ^ y[2]) | (x[3] ^ y[3]))
-            break;
-        n += BLOCK;
-    }
-    while (n < most && a[n] == b[n])
-        n++;
-    return n;
+    return memcmp(a, b, BLOCK * sizeof(PIXEL)) == 0; // the compiler makes words of it
 }
 
-// The runs of a row that differ, from x1 to x2 inclusive, in a format of whole pixels.
+template <typename PIXEL>
+static void take_run(const PIXEL* now, PIXEL* shown, int y, int begin, int end)
+{
+    add_run(begin, y, end - begin);
+    memcpy(shown + begin, now + begin, size_t(end - begin) * sizeof(PIXEL));
+}
+
+// The runs of a row that differ, from x1 to x2 inclusive, in a format of whole pixels. A run ends
+// at a block that is the same; it begins and ends with a pixel that differs.
 template <typename PIXEL> static void show_row(int y, int x1, int x2)
 {
     const auto* now = reinterpret_cast<const PIXEL*>(tdl_pixel_at(Screen, 0, y));
     auto* shown = reinterpret_cast<PIXEL*>(tdl_pixel_at(flush.shown, 0, y));
     if (memcmp(now + x1, shown + x1, size_t(x2 + 1 - x1) * sizeof(PIXEL)) == 0)
         return; // most rows
-    int x = x1 + same_ahead(now + x1, shown + x1, x2 + 1 - x1);
-    while (x <= x2) {
-        const int begin = x;
-        int end = x; // the last pixel that differs
-        while (x <= x2 && x - end <= JOIN) {
-            if (now[x] != shown[x])
-                end = x;
-            x++;
-        }
-        add_run(begin, y, end + 1 - begin);
-        memcpy(shown + begin, now + begin, size_t(end + 1 - begin) * sizeof(PIXEL));
-        x += same_ahead(now + x, shown + x, x2 + 1 - x);
+    const int blocks_end = x2 + 1 - (x2 + 1 - x1) % BLOCK;
+    for (int x = x1; x < blocks_end; x += BLOCK) {
+        if (same_block(now + x, shown + x))
+            continue;
+        int begin = x;
+        while (now[begin] == shown[begin])
+            begin++;
+        do
+            x += BLOCK;
+        while (x < blocks_end && !same_block(now + x, shown + x));
+        int end = x;
+        while (now[end - 1] == shown[end - 1])
+            end--;
+        take_run(now, shown, y, begin, end);
     }
+    for (int x = blocks_end; x <= x2; x++)
+        if (now[x] != shown[x])
+            take_run(now, shown, y, x, x + 1);
 }
 
-static void show(const Rect& r)
+static void show_part(const Rect& r)
 {
-    if (begin_display())
-        return;
     for (int y = r.y1; y <= r.y2; y++) {
         switch (Screen->format->BytesPerPixel) {
         case 4: show_row<uint32_t>(y, r.x1, r.x2); break;
@@ -146,6 +144,12 @@ static void show(const Rect& r)
         default: add_run(r.x1, y, r.x2 - r.x1 + 1);
         }
     }
+}
+
+static void show(const Rect& r)
+{
+    if (!begin_display())
+        tdl_each_unshown(r, show_part);
 }
 
 // --- Gathering ---
@@ -213,8 +217,14 @@ void TDL_Release()
         TDL_Show();
 }
 
+bool tdl_is_held()
+{
+    return flush.depth > 0;
+}
+
 void TDL_Show()
 {
+    tdl_paint_listed();
     for (int i = 0; i < flush.count; i++)
         show(flush.gathered[i]);
     flush.count = 0;

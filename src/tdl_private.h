@@ -1,6 +1,6 @@
 // tdl_private: what the parts of the drawing layer share: tdl.cpp has surfaces and shapes,
-// tdl_text.cpp the text, tdl_flush.cpp what reaches the display, tdl_bitmap.cpp bitmaps that are
-// read late. Nobody else includes it.
+// tdl_text.cpp the text, tdl_list.cpp what is drawn while the flushes are held, tdl_flush.cpp what
+// reaches the display, tdl_bitmap.cpp bitmaps that are read late. Nobody else includes it.
 #pragma once
 #include "types.h"
 #include <SDL.h>
@@ -19,6 +19,36 @@ inline bool tdl_is_empty(const Rect& r)
 void tdl_flush(const Rect& r); // clipped to the screen; an empty rectangle is no flush
 void tdl_flush_init();
 void tdl_flush_quit();
+bool tdl_is_held();
+
+// --- Strokes: what a verb puts on the screen ---
+enum StrokeKind : uint8_t { STROKE_FILL, STROKE_BITMAP, STROKE_GLYPH };
+struct Stroke {
+    StrokeKind kind = STROKE_FILL;
+    uint8_t alpha = 255;    // below that only where blending is our own
+    Rect box = TDL_NOTHING; // on the screen, or empty
+    uint32_t pixel = 0;     // fill, glyph
+    int x = 0;              // bitmap: where its first pixel lies, which may be off the screen
+    int y = 0;
+    SDL_Surface* bitmap = nullptr;     // one that TDL_OpenBmp made: its key tells what it shows
+    const uint8_t* coverage = nullptr; // glyph: a byte for each pixel of the box
+};
+// Paint it, or list it while the flushes are held.
+void tdl_draw(const Stroke& s);
+// Before anything else writes to the screen: what is listed is painted, and what the rectangle
+// shows is no longer known.
+void tdl_draw_directly(const Rect& r);
+void tdl_paint_listed();
+// The part of a stroke that lies in a rectangle inside its box.
+void tdl_paint(const Stroke& s, const Rect& part);
+void tdl_paint_glyph(const Stroke& s, const Rect& part);
+// Hand over those parts of a rectangle on the screen that have been drawn on since they were last
+// handed over.
+void tdl_each_unshown(const Rect& r, void (*show)(const Rect& part));
+void tdl_list_init();
+void tdl_list_quit();
+
+extern uint32_t tdl_opened_bitmaps; // so far; a key may stand for another picture from then on
 
 // A bitmap that has not been shown yet gets its pixels; false when there is no memory for them.
 void tdl_fetch_pixels(SDL_Surface* s);

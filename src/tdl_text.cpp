@@ -17,10 +17,17 @@ constexpr int GLYPH_MAX = 64;  // rows and columns at most
 
 namespace
 {
+// The rows of a glyph that have ink, the end not included.
+struct InkRows {
+    uint8_t begin = 0;
+    uint8_t end = 0;
+};
+
 struct Glyph {
     int w = 0; // 0 for a code that the font does not have
     int h = 0;
     const uint8_t* coverage = nullptr; // h rows of w bytes
+    InkRows ink;
 };
 
 // A text on its way to the screen.
@@ -43,7 +50,8 @@ struct Walked {
 
 static uint8_t FontImg[120000];
 static uint32_t FontOfs[FONT_MAX][FONT_CODES]; // as in the file: little-endian
-static SDL_Surface* FontDrwBuf = nullptr;      // one glyph in colour, where SDL does the blending
+static InkRows GlyphInk[FONT_MAX][FONT_CODES];
+static SDL_Surface* FontDrwBuf = nullptr; // one glyph in colour, where SDL does the blending
 
 static_assert(sizeof FontOfs == 5120);
 
@@ -58,23 +66,6 @@ static int read_file(const char* name, void* to, size_t size)
     (void)fread(to, 1, size, fp); // short is allowed
     fclose(fp);
     return 0;
-}
-
-int tdl_text_init()
-{
-    FontDrwBuf = SDL_CreateRGBSurface(SDL_SRCALPHA, GLYPH_MAX, GLYPH_MAX, 32, 0xFF0000, 0x00FF00,
-                                      0x0000FF, 0xFF000000);
-    memset(FontImg, 0, sizeof FontImg);
-    memset(FontOfs, 0, sizeof FontOfs);
-    const int no_img = read_file("font.dat", FontImg, sizeof FontImg);
-    const int no_ofs = read_file("font_ofs.dat", FontOfs, sizeof FontOfs);
-    return !FontDrwBuf || no_img || no_ofs ? -1 : 0;
-}
-
-void tdl_text_quit()
-{
-    SDL_FreeSurface(FontDrwBuf);
-    FontDrwBuf = nullptr;
 }
 
 static uint32_t font_entry(int font, int code)
@@ -106,7 +97,47 @@ static Glyph glyph_of(int font, char c)
         return g;
     g.w = int(w);
     g.coverage = FontImg + begin;
+    g.ink = GlyphInk[font][code];
     return g;
+}
+
+static bool has_ink(const Glyph& g, int row)
+{
+    const uint8_t* begin = g.coverage + row * g.w;
+    return std::any_of(begin, begin + g.w, [](uint8_t coverage) { return coverage != 0; });
+}
+
+// Nearly half the rows of a font are above or below its letters: they are not drawn.
+static void find_ink()
+{
+    for (int font = 0; font < FONT_MAX; font++)
+        for (int code = 0; code <= LAST_CODE; code++) {
+            const Glyph g = glyph_of(font, char(code));
+            int begin = 0, end = g.h;
+            while (begin < end && !has_ink(g, begin))
+                begin++;
+            while (begin < end && !has_ink(g, end - 1))
+                end--;
+            GlyphInk[font][code] = {uint8_t(begin), uint8_t(end)};
+        }
+}
+
+int tdl_text_init()
+{
+    FontDrwBuf = SDL_CreateRGBSurface(SDL_SRCALPHA, GLYPH_MAX, GLYPH_MAX, 32, 0xFF0000, 0x00FF00,
+                                      0x0000FF, 0xFF000000);
+    memset(FontImg, 0, sizeof FontImg);
+    memset(FontOfs, 0, sizeof FontOfs);
+    const int no_img = read_file("font.dat", FontImg, sizeof FontImg);
+    const int no_ofs = read_file("font_ofs.dat", FontOfs, sizeof FontOfs);
+    find_ink();
+    return !FontDrwBuf || no_img || no_ofs ? -1 : 0;
+}
+
+void tdl_text_quit()
+{
+    SDL_FreeSurface(FontDrwBuf);
+    FontDrwBuf = nullptr;
 }
 
 // --- One glyph ---
@@ -116,16 +147,17 @@ static Pen pen_at(int x, int y, int font, unsigned col)
     return {.x = x, .y = y, .font = font, .col = col & 0xFFFFFF, .pixel = tdl_map_colour(col)};
 }
 
-static void blend_glyph(int x, int y, const Glyph& g, uint32_t pixel)
+void tdl_paint_glyph(const Stroke& s, const Rect& part)
 {
-    const uint8_t* coverage = g.coverage;
-    for (int row = 0; row < g.h; row++) {
-        auto* to = reinterpret_cast<uint32_t*>(tdl_pixel_at(Screen, x, y + row));
-        for (int i = 0; i < g.w; i++, to++) {
-            const uint32_t alpha = *coverage++;
-            if (alpha == 0)
-                continue;
-            *to = alpha == 255 ? pixel : tdl_mix(pixel, *to, alpha);
+    const int pitch = s.box.x2 - s.box.x1 + 1;
+    const int width = part.x2 - part.x1 + 1;
+    const uint8_t* row = s.coverage + (part.y1 - s.box.y1) * pitch + part.x1 - s.box.x1;
+    for (int y = part.y1; y <= part.y2; y++, row += pitch) {
+        auto* to = reinterpret_cast<uint32_t*>(tdl_pixel_at(Screen, part.x1, y));
+        for (int i = 0; i < width; i++) {
+            const uint32_t alpha = row[i];
+            if (alpha != 0)
+                to[i] = alpha == 255 ? s.pixel : tdl_mix(s.pixel, to[i], alpha);
         }
     }
 }
@@ -140,6 +172,7 @@ static void blit_glyph(int x, int y, const Glyph& g, unsigned col)
     }
     SDL_Rect src = {0, 0, Uint16(g.w), Uint16(g.h)};
     SDL_Rect dst = {Sint16(x), Sint16(y), 0, 0};
+    tdl_draw_directly({x, y, x + g.w - 1, y + g.h - 1});
     (void)SDL_UpperBlit(FontDrwBuf, &src, Screen, &dst); // fails only for a lost video surface
 }
 
@@ -163,11 +196,15 @@ static bool draw_glyph(Pen* pen, int x, const Glyph& g)
         return false;
     if (g.w == 0)
         return true;
+    const Rect box = {x, y, x + g.w - 1, y + g.h - 1};
     if (tdl_blends_bytes())
-        blend_glyph(x, y, g, pen->pixel);
+        tdl_draw({.kind = STROKE_GLYPH,
+                  .box = {box.x1, y + g.ink.begin, box.x2, y + g.ink.end - 1},
+                  .pixel = pen->pixel,
+                  .coverage = g.coverage + g.ink.begin * g.w});
     else
         blit_glyph(x, y, g, pen->col);
-    add_ink(&pen->ink, {x, y, x + g.w - 1, y + g.h - 1});
+    add_ink(&pen->ink, box);
     return true;
 }
 

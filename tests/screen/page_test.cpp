@@ -13,8 +13,11 @@
 #include "text.h"
 #include "types.h"
 #include <algorithm>
+#include <functional>
 #include <iterator>
+#include <random>
 #include <sstream>
+#include <string_view>
 
 namespace
 {
@@ -140,4 +143,41 @@ TEST(PageChange, HandsOverNoPixelTwiceAndHardlyOneThatStaysAsItWas)
             }
     }
     TDL_WatchFlush(nullptr);
+}
+
+// What is left out since it would change nothing must have changed nothing, whatever page was there
+// before, told or not.
+TEST(PageChange, LeavesOutNothingThatWouldBeSeen)
+{
+    const FullHouse all;
+    const auto told = ReadShots()[0].steps; // what is common to all
+    const auto walk = [&](bool at_once) {
+        std::vector<std::pair<uint32_t, size_t>> seen; // page, sum of its pixels
+        std::mt19937 random;
+        Harness_Reset();
+        TDL_PaintAtOnce(at_once);
+        for (int n = 0; n < 150; n++) {
+            const uint32_t id = PageTable[random() % unsigned(PageTable_Rows - 1)].id;
+            TDL_Hold();
+            (void)CreatePage(id);
+            TDL_Show();
+            if (n % 2)
+                for (const std::string& tally : told)
+                    SendDummyTally(tally.c_str());
+            SendMessage(MSG_REDRAW, 200, 0, 0, 0);
+            TDL_Release();
+            const auto pixels = PixelsNow();
+            seen.emplace_back(
+                id, std::hash<std::string_view>{}({reinterpret_cast<const char*>(pixels.data()),
+                                                   pixels.size() * sizeof pixels[0]}));
+        }
+        TDL_PaintAtOnce(false);
+        return seen;
+    };
+    (void)walk(true); // some pages show what was done before
+    const auto listed = walk(false), painted = walk(true);
+    constexpr uint32_t PAGE_LINKS = 0x99990000; // counts what has been sent so far
+    for (size_t n = 0; n < listed.size(); n++)
+        EXPECT_TRUE(listed[n] == painted[n] || listed[n].first == PAGE_LINKS)
+            << n << " " << std::hex << listed[n].first;
 }
