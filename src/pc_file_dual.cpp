@@ -709,9 +709,10 @@ static int regions_changed()
 
 static int list_touched(int list, int row)
 {
-    FileSide_Touched(list - 1, row);
-    if (fd.kind->has_folders && list - 1 < sides_shown())
-        show_side(list - 1); // another folder, other ways
+    const int side = list - 1;
+    FileSide_Touched(side, row);
+    if (fd.kind->has_folders && side >= 0 && side < sides_shown())
+        show_side(side); // another folder, other ways
     return 0;
 }
 

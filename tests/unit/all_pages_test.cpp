@@ -68,6 +68,26 @@ void OthersAreLeftTheirs(uint32_t page)
     EXPECT_EQ(PC_Proc(MSG_KEY, 0, 0, 0, 0), 0) << std::hex << page;
 }
 
+// Messages that bring numbers, from objects that are empty or have more rows than a page thinks. A
+// title is not a number, and rows and boxes may be asked for that nobody has.
+void OddNumbersDoNoHarm(uint32_t page)
+{
+    constexpr int numbers[] = {
+        MSG_REDRAW,         MSG_KEY,           LMSG_LISTSEL,     LMSG_SBSEL,
+        LMSG_LISTAREASEL,   LMSG_REGSELCHANGE, LMSG_PATHSELSEL,  LMSG_LISTFLASH,
+        LMSG_KNOBUPPER,     LMSG_KNOBLOWER,    LMSG_KNOBCREATE,  LMSG_KNOBDEFAULT,
+        LMSG_FMPAIRCHANGE,  LMSG_FMSELCHANGE,  LMSG_FMOUTCHANGE, LMSG_FMREGSEL,
+        LMSG_FMCTRLCHANGE,  LMSG_PANEQUIT,     LMSG_PANEREGION,  LMSG_REGISTER,
+        LMSG_DMEREFCHANGE,  LMSG_KNOBRELEASE,  LMSG_FFSELCHANGE, LMSG_FLCURDIRCHANGE,
+        LMSG_FMFRAMECHANGE, LMSG_FFCRNTCHANGE, LMSG_FFLISTCHANGE};
+    for (const int msg : numbers)
+        for (const int number : {0, -1, 5000}) {
+            const bool is_titled = msg == LMSG_KNOBCREATE;
+            SendMessage(msg, number, is_titled ? Arg("") : number, number, 0);
+        }
+    EXPECT_EQ(GL_NowPage, page);
+}
+
 // Windows and panes that a page opens by itself would stand over the next one.
 void CloseAll()
 {
@@ -118,6 +138,7 @@ struct AllPages : testing::Test {
             Pass(10);
             Pass(10);
             OthersAreLeftTheirs(row->id);
+            OddNumbersDoNoHarm(GL_NowPage);
             CloseAll();
             (void)CreatePage(PAGE_TOP); // it was there before
             Pass(10);
