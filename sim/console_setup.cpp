@@ -44,11 +44,17 @@ static bool con_gpi(Runner&, const std::string& rest)
            Gpi_Close(word[0], int(port));
 }
 
+static bool con_units(Runner&, const std::string& rest)
+{
+    return Setup_Units(Text_Split(rest, ' '));
+}
+
 static constexpr Command commands[] = {
     {"keys", "M/E-1 4|8", "how many keys the bank has", con_keys},
     {"multi", "BANK|all on|off", "a bank runs two programs: main and sub side", con_multi},
     {"4k", "on|off", "the picture format", con_4k},
     {"gpi", "UNIT PORT", "a contact closes: SWR, PNL, DME1 to 4, DCU1, DCU2", con_gpi},
+    {"units", "UNIT...", "which units there are", con_units},
     {"config", "ng", "the next Define or Auto Config of the network fails", con_config},
 };
 constinit const std::span<const Command> console_setup_commands = commands;

@@ -213,6 +213,24 @@ bool Setup_Put(const std::string& path, const std::string& value)
     return false;
 }
 
+bool Setup_Units(const std::vector<std::string>& names)
+{
+    Node* const list = Tree_Get(SYSTEM + "Network Config@List");
+    if (!list)
+        return false;
+    std::vector<std::string> rows = list->initial_rows;
+    std::erase_if(rows, [&](const std::string& row) {
+        const auto field = Text_Split(row, ',');
+        return field.size() < 2 || std::find(names.begin(), names.end(), field[1]) == names.end();
+    });
+    if (rows.size() != names.size())
+        return false;
+    list->rows = rows;
+    for (const int client : list->followers)
+        Tree_Answer(*list, client);
+    return true;
+}
+
 void Setup_NextNg()
 {
     st.is_next_ng = true;

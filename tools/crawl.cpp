@@ -1,8 +1,8 @@
 // crawl: a guest that touches everything. It opens pages one after the other, presses, drags and
 // turns whatever is there, also in what comes up over a page, lets go, and looks whether the page
 // gave back what it had taken: memory and descriptors. What it subscribed stands on the wire; each
-// visit ends there with "put Crawl@Left#ID", so that the books can be made up from the server's
-// log.
+// visit ends there with "put Crawl@Left#ID", and each round begins with "#Round", so that the books
+// can be made up from the server's log.
 //
 // usage: crawl [EVERY [ROUNDS [BANK]...]]   in the working directory build/run
 //        every EVERYth page (1) of the banks (all), ROUNDS times (2); the first round counts for
@@ -23,7 +23,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <dirent.h>
 #include <vector>
 
 namespace
@@ -38,7 +37,11 @@ constexpr int BOX_Y[] = {150, 235, 315, 395, 480};
 constexpr Point OVER_STEP = {67, 53}; // of the touches where a pane or a window may stand
 constexpr Point AREA_STEP = {97, 61}; // and of those on the whole screen
 constexpr int OVER_PRESSES = 12;      // in one pane or window
+#ifdef __SANITIZE_ADDRESS__
+constexpr long RESIDENT_MORE_KB = 1 << 20; // what has been freed is kept to be watched
+#else
 constexpr long RESIDENT_MORE_KB = 4096;
+#endif
 } // namespace
 
 static struct {
@@ -123,28 +126,6 @@ static void TouchAll()
     Guest_Settle(1);
 }
 
-static int Descriptors()
-{
-    int count = 0;
-    DIR* dir = opendir("/proc/self/fd");
-    while (dir && readdir(dir))
-        count++;
-    if (dir)
-        closedir(dir);
-    return count;
-}
-
-static long ResidentKb()
-{
-    long pages = 0;
-    FILE* fp = fopen("/proc/self/statm", "r");
-    if (fp && fscanf(fp, "%*d %ld", &pages) != 1)
-        pages = 0;
-    if (fp)
-        fclose(fp);
-    return pages * 4;
-}
-
 // Back at the top menu, where nothing of the page is left.
 static void Leave(uint32_t id)
 {
@@ -158,19 +139,11 @@ static void Leave(uint32_t id)
         Net_SendCommandFormat("put Crawl@Left#%08X", unsigned(id));
 }
 
-static bool IsWanted(uint32_t id, char** banks, int count)
-{
-    char text[16];
-    PrintText(text, "%08X", unsigned(id));
-    return count == 0 ||
-           std::any_of(banks, banks + count, [&](const char* b) { return BeginsWith(text, b); });
-}
-
 static int Round(int every, char** banks, int count)
 {
     int visited = 0, n = 0;
     for (const PAGE* row = PageTable; row->id != PAGE_END; row++) {
-        if (!IsWanted(row->id, banks, count) || n++ % every != 0)
+        if (!Guest_IsWanted(row->id, banks, count) || n++ % every != 0)
             continue;
         if (!Guest_Open(*row)) {
             fprintf(stderr, "crawl: %08X cannot be opened\n", unsigned(row->id));
@@ -194,22 +167,25 @@ int main(int argc, char** argv)
     int memory = 0, descriptors = 0, faults = 0;
     long resident_kb = 0;
     for (int round = 0; round < rounds; round++) {
+        Guest_BeginRound(round + 1);
+        Net_SendCommand("put Crawl@Left#Round");
         const Uint32 start = SDL_GetTicks();
         const int visited = Round(every, argv + std::min(argc, 3), std::max(0, argc - 3));
         printf("round %d: %d pages, %ld touches, %ld turns, %d in panes, %d in windows, %.1f s; %d "
                "blocks, %d descriptors, %ld KB\n",
                round + 1, visited, crawl.presses, crawl.turns, crawl.panes, crawl.windows,
-               (SDL_GetTicks() - start) / 1000.0, UsedMemPtr, Descriptors(), ResidentKb());
+               (SDL_GetTicks() - start) / 1000.0, UsedMemPtr, Guest_Descriptors(),
+               Guest_ResidentKb());
         fflush(stdout);
         // Registers and files that the touches have made are held, too, but not one a page.
-        if (round > 0 && (UsedMemPtr > memory + visited / 2 || Descriptors() > descriptors ||
-                          ResidentKb() > resident_kb + RESIDENT_MORE_KB)) {
+        if (round > 0 && (UsedMemPtr > memory + visited / 2 || Guest_Descriptors() > descriptors ||
+                          Guest_ResidentKb() > resident_kb + RESIDENT_MORE_KB)) {
             fprintf(stderr, "crawl: it holds more than after the round before\n");
             faults++;
         }
         memory = UsedMemPtr;
-        descriptors = Descriptors();
-        resident_kb = ResidentKb();
+        descriptors = Guest_Descriptors();
+        resident_kb = Guest_ResidentKb();
     }
     return faults != 0;
 }

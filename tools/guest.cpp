@@ -14,9 +14,12 @@
 #include "text.h"
 #include "window.h"
 #include <SDL.h>
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
+#include <dirent.h>
 
 static constexpr int ANSWER_MS = 1;           // the server is on the same machine
 static constexpr int ANNOUNCED_PASSES = 5000; // of a millisecond: it lets a starting panel wait
@@ -54,16 +57,34 @@ void Guest_Pass(int elapsed_ms)
         (void)EndScreenSaver();
 }
 
-void Guest_Settle(int rounds)
+static double timed_pass()
 {
+    const double start = Guest_ProcessorMs();
+    Guest_Pass();
+    return Guest_ProcessorMs() - start;
+}
+
+double Guest_Settle(int rounds)
+{
+    double longest = 0;
     for (int round = 0; round < rounds; round++) {
         Net_SendCommandFormat("put %s#%d", QUESTION, ++guest.asked);
         for (int i = 0; i < SETTLE_PASSES && guest.answered != guest.asked; i++) {
-            Guest_Pass();
+            longest = std::max(longest, timed_pass());
             SDL_Delay(ANSWER_MS);
         }
     }
-    Guest_Pass();
+    return std::max(longest, timed_pass());
+}
+
+void Guest_BeginRound(int round)
+{
+    Net_SendCommandFormat("put Guest@Round#%d", round);
+    Guest_Settle(STAGE_ROUNDS);
+    Guest_CloseAll();
+    GL_CreatePage = 0;
+    (void)CreatePage(PAGE_TOP); // it was there before
+    Guest_Settle(1);
 }
 
 bool Guest_Start()
@@ -91,13 +112,22 @@ bool Guest_Start()
     return true;
 }
 
+// As an operator asks for it.
+static uint32_t number_of(const PAGE& row)
+{
+    return row.id & ~0xFF00u;
+}
+
+bool Guest_IsHere(const PAGE& row)
+{
+    return SearchPageTable(number_of(row)) == &row;
+}
+
 bool Guest_Open(const PAGE& row)
 {
     GL_CreatePage = 0;
-    // By its number, as an operator asks for it.
-    const uint32_t number = row.id & ~0xFF00u;
-    if (SearchPageTable(number) == &row)
-        return CreatePage(number) == 0;
+    if (Guest_IsHere(row))
+        return CreatePage(number_of(row)) == 0;
     const bool is_here = SearchPageTable(row.id) == &row;
     GL_AllPageDisplayMode = !is_here && SearchPageTable_Free_ALL(PageTable, row.id) != nullptr;
     const int result = CreatePage(row.id);
@@ -106,9 +136,46 @@ bool Guest_Open(const PAGE& row)
     return result == 0;
 }
 
+bool Guest_IsWanted(uint32_t id, char** banks, int count)
+{
+    char text[16];
+    PrintText(text, "%08X", unsigned(id));
+    return count == 0 ||
+           std::any_of(banks, banks + count, [&](const char* b) { return BeginsWith(text, b); });
+}
+
 void Guest_CloseAll()
 {
     (void)CloseWindow(); // none may be open
     while (const int id = Pane_GetActiveID())
         (void)Pane_Quit(id);
+}
+
+int Guest_Descriptors()
+{
+    int count = 0;
+    DIR* dir = opendir("/proc/self/fd");
+    while (dir && readdir(dir))
+        count++;
+    if (dir)
+        closedir(dir);
+    return count;
+}
+
+long Guest_ResidentKb()
+{
+    long pages = 0;
+    FILE* fp = fopen("/proc/self/statm", "r");
+    if (fp && fscanf(fp, "%*d %ld", &pages) != 1)
+        pages = 0;
+    if (fp)
+        fclose(fp);
+    return pages * 4;
+}
+
+double Guest_ProcessorMs()
+{
+    timespec t = {};
+    (void)clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t); // a clock that every Linux has
+    return double(t.tv_sec) * 1e3 + double(t.tv_nsec) / 1e6;
 }

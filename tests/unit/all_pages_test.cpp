@@ -81,10 +81,11 @@ void OddNumbersDoNoHarm(uint32_t page)
         LMSG_DMEREFCHANGE,  LMSG_KNOBRELEASE,  LMSG_FFSELCHANGE, LMSG_FLCURDIRCHANGE,
         LMSG_FMFRAMECHANGE, LMSG_FFCRNTCHANGE, LMSG_FFLISTCHANGE};
     for (const int msg : numbers)
-        for (const int number : {0, -1, 5000}) {
-            const bool is_titled = msg == LMSG_KNOBCREATE;
-            SendMessage(msg, number, is_titled ? Arg("") : number, number, 0);
-        }
+        for (const int id : {0, -1, 1, 2, 5000}) // two lists are the most that a page has
+            for (const int number : {0, -1, 5000}) {
+                const bool is_titled = msg == LMSG_KNOBCREATE;
+                SendMessage(msg, id, is_titled ? Arg("") : number, number, 0);
+            }
     EXPECT_EQ(GL_NowPage, page);
 }
 
