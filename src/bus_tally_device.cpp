@@ -274,16 +274,11 @@ TallyRoute tally_menu_cpu(const Tally& t)
     return TallyRoute::Pass;
 }
 
-// Copy count numbers, cut to 8 bits, into a row. Returns whether one was another than before.
-static bool assign_row(int* row, char* const* parts, int count)
+// Copy count numbers, cut to 8 bits, into a row.
+static void assign_row(int* row, char* const* parts, int count)
 {
-    bool changed = false;
-    for (int i = 0; i < count; i++) {
-        const int unit = Decimal(parts[i]) & 0xFF;
-        changed = changed || row[i] != unit;
-        row[i] = unit;
-    }
-    return changed;
+    for (int i = 0; i < count; i++)
+        row[i] = Decimal(parts[i]) & 0xFF;
 }
 
 // The clip store belongs to the first switcher: with another one the whole catalogue is another.
@@ -299,13 +294,39 @@ static void change_own_switchers()
     GL_InitReadSHP = 1;
 }
 
+// A list that is told anew, as each page that reads it has it, begins with "KILL": what counts as a
+// change is what differs from the list before.
+static struct {
+    int panel = -1;  // whose row was cleared; -1 none
+    int own[2] = {}; // that row
+} killed;
+
+// What a row was before it was told anew. Before the hub has been asked for the first time, nothing
+// is as it was.
+static const int* assignment_before(int panel)
+{
+    const int* row = SYS_PnlAssign[panel];
+    const bool is_cleared = row[0] == 0 && row[1] == 0;
+    return is_cleared && panel == killed.panel && GL_InitReadSHP ? killed.own : row;
+}
+
+static void kill_panel_assign()
+{
+    if (SYS_MyPnl >= 0 && SYS_MyPnl < UNIT_MAX) {
+        memcpy(killed.own, assignment_before(SYS_MyPnl),
+               sizeof killed.own); // cleared twice is once
+        killed.panel = SYS_MyPnl;
+    }
+    // Derived only from the rows that follow: until then the old switchers stay, to be
+    // unsubscribed.
+    for (auto& row : SYS_PnlAssign)
+        row[0] = row[1] = 0;
+}
+
 TallyRoute tally_panel_assign(const Tally& t)
 {
     if (IsKill(t.value)) {
-        // Derived only from the rows that follow: until then the old switchers stay, to be
-        // unsubscribed.
-        for (auto& row : SYS_PnlAssign)
-            row[0] = row[1] = 0;
+        kill_panel_assign();
         return TallyRoute::Pass;
     }
     Parts p;
@@ -314,8 +335,10 @@ TallyRoute tally_panel_assign(const Tally& t)
     const int panel = Index(p.v[0], UNIT_MAX);
     if (panel < 0)
         return TallyRoute::Pass;
-    const bool changed = assign_row(SYS_PnlAssign[panel], p.v + 1, 2);
-    if (changed && panel == SYS_MyPnl)
+    int before[2];
+    memcpy(before, assignment_before(panel), sizeof before);
+    assign_row(SYS_PnlAssign[panel], p.v + 1, 2);
+    if (panel == SYS_MyPnl && memcmp(before, SYS_PnlAssign[panel], sizeof before) != 0)
         change_own_switchers();
     else
         DeviceStructure();

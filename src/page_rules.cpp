@@ -168,6 +168,7 @@ constexpr uint32_t NO_VARIANT_NIBBLE = 0xFFFF0FFF;
 constexpr Variant variants[] = {
     One(0x21000000, 0x04110000, is_without_clip_store), // its pages have a bank of their own
     One(0x21110000, 0x04000000, is_without_clip_store),
+    One(0x25000000, 0x00110000), // what the title of that bank asks for; it has no top page
     One(0x24170000, 0x0100, is_x_switcher),
     One(0x24270000, 0x0100, is_x_switcher),
     One(0x42000000, 0x0400, is_3d),

@@ -23,6 +23,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <set>
+#include <utility>
 #include <vector>
 
 namespace
@@ -50,6 +52,7 @@ static struct {
     long turns = 0;
     int panes = 0;
     int windows = 0;
+    std::set<std::pair<uint32_t, uint32_t>> dead_ends; // of a page that is here, to one that is not
 } crawl;
 
 static int Random(int below)
@@ -95,6 +98,8 @@ static void TouchPage(int x, int y)
     Touch(x, y);
     if (GetWindow() || Pane_GetActiveID())
         PlayOver();
+    if (GL_CreatePage && Guest_IsHere(*Page) && !Page_Exists(GL_CreatePage))
+        crawl.dead_ends.insert({GL_NowPage, GL_CreatePage});
     GL_CreatePage = 0;
     GL_AllPageDisplayMode = 0;
 }
@@ -135,6 +140,13 @@ static void Leave(uint32_t id)
     (void)CreatePage(PAGE_TOP);
     Guest_Settle(2);
     Guest_CloseAll();
+    // Nobody goes back to a page that this installation does not have.
+    for (int* place :
+         {&Omote_History_NowPtr, &Omote_History_MaxPtr, &Ura_History_NowPtr, &Ura_History_MaxPtr})
+        *place = -1;
+    for (uint32_t* page :
+         {&GL_PrevPage, &GL_OmoteNowPage, &GL_UraNowPage, &GL_OmotePrevPage, &GL_UraPrevPage})
+        *page = PAGE_TOP;
     if (id)
         Net_SendCommandFormat("put Crawl@Left#%08X", unsigned(id));
 }
@@ -187,5 +199,8 @@ int main(int argc, char** argv)
         descriptors = Guest_Descriptors();
         resident_kb = Guest_ResidentKb();
     }
+    for (const auto& [page, target] : crawl.dead_ends)
+        fprintf(stderr, "crawl: a touch on %08X asks for %08X, which is not there\n",
+                unsigned(page), unsigned(target));
     return faults != 0;
 }

@@ -1,4 +1,5 @@
 #include "bus_probe.h"
+#include "memory.h"
 #include "window.h"
 #include <algorithm>
 #include <cstring>
@@ -140,7 +141,8 @@ TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)
         {"2,7,8,0,0,0", 1, 0, 0},     // another panel
         {"1,3,4,0,0", 1, 0, 0},       // a part is missing
         {"1,258,513,0,0,0", 2, 1, 1}, // 8 bits each
-        {"256,9,9,9,9,9", 2, 1, 0},
+        {"256,9,9,9,9,9", 2, 1, 0},   {"KILL", 0, 0, 0},
+        {"1,2,1,0,0,0", 2, 1, 1}, // the hub has not been asked before
     };
     for (const auto& c : cases) {
         GL_InitReadSHP = 0;
@@ -149,9 +151,11 @@ TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)
         EXPECT_EQ(SYS_PnlAssign[1][1], c.second) << c.value;
         EXPECT_EQ(GL_InitReadSHP, c.renewed) << c.value;
     }
-    EXPECT_EQ(SYS_PnlAssign[2][1], 8);
-    Deliver(SYSTEM_CONFIG "Panel Assign", "KILL");
-    EXPECT_EQ(SYS_PnlAssign[2][0] + SYS_PnlAssign[1][0] + SYS_PnlAssign[255][0], 0);
+    EXPECT_EQ(SYS_PnlAssign[2][0] + SYS_PnlAssign[255][0], 0); // the list has been told anew
+    const int blocks = UsedMemPtr;                             // what is queued for the hub counts
+    for (const char* value : {"KILL", "1,2,1,0,0,0"})          // and once more, as a page reads it
+        Deliver(SYSTEM_CONFIG "Panel Assign", value);
+    EXPECT_EQ(UsedMemPtr, blocks);
 }
 
 // --- Modes ---
