@@ -52,14 +52,21 @@ static bool axis_is_empty()
     return tlETime <= tlSTime;
 }
 
+// A float and no more: some processors keep more bits of a value until it is stored.
+static float rounded(float value)
+{
+    const volatile float stored = value;
+    return stored;
+}
+
 // The column of a time, from AXIS_X. The quotient and the product are rounded to a float each: one
 // picture on all machines.
 static int axis_column(int time)
 {
     if (axis_is_empty())
         return 0;
-    const float part = float(time - tlSTime) / float(tlETime - tlSTime);
-    const float column = part * float(AXIS_PX);
+    const float part = rounded(float(time - tlSTime) / float(tlETime - tlSTime));
+    const float column = rounded(part * float(AXIS_PX));
     return int(std::clamp(column, float(-FAR_PX), float(FAR_PX)));
 }
 

@@ -217,7 +217,7 @@ static void info_tally(const char* path, const char* value)
 
 static void info_auto_load_find(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
 {
-    if (ax != FIND_WORK_TYPE || AutoLoadFindID == 0 || bx != AutoLoadFindID)
+    if (ax != FIND_WORK_TYPE || AutoLoadFindID == 0 || uint32_t(bx) != AutoLoadFindID)
         return;
     if (msg == LMSG_FILESTATUS)
         AutoLoadFind_Tally(Text(cx), Text(dx));

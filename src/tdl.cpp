@@ -106,6 +106,20 @@ static void copy_rows(SDL_Surface* to, int to_x, int to_y, SDL_Surface* from, co
         memcpy(dst, src, size_t(part.w * to->format->BytesPerPixel));
 }
 
+static void mix_plain_row(uint8_t* dst, const uint8_t* src, int count, uint8_t alpha)
+{
+    for (; count > 0; count--, dst += 4, src += 4) {
+        uint32_t s, d;
+        memcpy(&s, src, sizeof s);
+        memcpy(&d, dst, sizeof d);
+        d = tdl_mix(s, d, alpha);
+        memcpy(dst, &d, sizeof d);
+    }
+}
+
+// A processor without a vector unit would take lanes one by one, at a sixth of the plain speed.
+#if defined __SSE2__ || defined __ARM_NEON || defined __ALTIVEC__ || defined __VX__
+
 // Eight bytes in the lower halves of 16-bit lanes. The compiler makes of it whatever the processor
 // has.
 using Lanes = uint16_t __attribute__((vector_size(16)));
@@ -125,14 +139,17 @@ static void mix_row(uint8_t* dst, const uint8_t* src, int count, uint8_t alpha)
         d = mix_lanes(s & 0xFF, d & 0xFF, alpha) | (mix_lanes(s >> 8, d >> 8, alpha) << 8);
         memcpy(dst, &d, sizeof d);
     }
-    for (; count > 0; count--, dst += 4, src += 4) {
-        uint32_t s, d;
-        memcpy(&s, src, sizeof s);
-        memcpy(&d, dst, sizeof d);
-        d = tdl_mix(s, d, alpha);
-        memcpy(dst, &d, sizeof d);
-    }
+    mix_plain_row(dst, src, count, alpha);
 }
+
+#else
+
+static void mix_row(uint8_t* dst, const uint8_t* src, int count, uint8_t alpha)
+{
+    mix_plain_row(dst, src, count, alpha);
+}
+
+#endif
 
 // Lay rows of screen pixels on the screen at a constant opacity. A pitch of 0 lays the same row
 // again and again.
