@@ -114,11 +114,12 @@ std::vector<uint32_t> PixelsOf(SDL_Surface* s)
     std::vector<uint32_t> pixels;
     pixels.reserve(size_t(s->w * s->h));
     const int bytes = s->format->BytesPerPixel;
+    const int unused = SDL_BYTEORDER == SDL_BIG_ENDIAN ? 4 - bytes : 0; // before them, in a word
     for (int y = 0; y < s->h; y++) {
         const auto* at = static_cast<const uint8_t*>(s->pixels) + y * s->pitch;
         for (int x = 0; x < s->w; x++, at += bytes) {
             uint32_t pixel = 0;
-            memcpy(&pixel, at, size_t(bytes));
+            memcpy(reinterpret_cast<uint8_t*>(&pixel) + unused, at, size_t(bytes));
             uint8_t r, g, b;
             SDL_GetRGB(pixel, s->format, &r, &g, &b);
             pixels.push_back(uint32_t(r << 16 | g << 8 | b));
