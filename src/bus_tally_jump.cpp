@@ -41,7 +41,7 @@ static constexpr const char* menus_not_in_hdd_transfer[] = {"SP", "User setup", 
 // to be answered.
 static bool menu_passes_panes(const char* menu)
 {
-    if (BkgdFileTransfer_Check(GL_NowPage)) {
+    if (BkgdFileTransfer_IsHome(GL_NowPage)) {
         if (is_one_of(menu, menus_not_in_file_transfer))
             return false;
         BkgdFileTransfer_PaneQuit();
@@ -146,7 +146,7 @@ TallyRoute tally_page(const Tally& t)
         take_device(p.v[1]);
     if (GetWindow() != 0)
         return TallyRoute::Refused;
-    if (BkgdFileTransfer_Check(GL_NowPage))
+    if (BkgdFileTransfer_IsHome(GL_NowPage))
         BkgdFileTransfer_PaneQuit();
     else if (BkgdHDDTransfer_Check(GL_NowPage))
         BkgdHDDTransfer_PaneQuit();

@@ -289,6 +289,8 @@ void File_LinkLost();
 void File_HubLost();
 // The hub's transfer table of a target ("PNL1", "CS2", "SWR1") begins anew; others are ignored.
 void Filescp_trnasferlist_init(const char* target);
+// How a file operation ends whose server has left the hub.
+const char* File_ServerNotReady();
 // A file "MYHOST:<src>" to "<addr>:<dst>". Blocks, with a pump of the links of its own, until the
 // reply: 0 for "OK", else -1. For the install alone.
 int File_InstallPut(const char* src, const char* dst, const char* addr);
@@ -302,6 +304,11 @@ void File_SetDefaultRouteLamp(const char* path, int pane);
 int BkgdFileTransfer_Check(uint32_t page);
 // v 1 sets, 0 clears. Page 0 sets all but that of 0x71620000. -1 for another v or an unknown page.
 int BkgdFileTransfer_Set(uint32_t page, int v);
+// Sets all bits as page 0 does, for a transfer that was begun on a page without one: home shows it,
+// too, until the bits are cleared.
+void BkgdFileTransfer_SetAll(uint32_t home);
+// The page shows the transfer: it has a bit that is set, or is the home of one of everything.
+bool BkgdFileTransfer_IsHome(uint32_t page);
 void BkgdFileTransfer_SetPaneID(int pane); // the entries do this for the pane that they open
 // Jobs that hold the background pane take the new one: after PaneProgress_RestoreCreate.
 void BkgdFileTransfer_ReplacePaneID(int pane);

@@ -28,6 +28,7 @@ static_assert(std::size(bkgd_pages) == 13);
 
 static struct {
     uint32_t mask = 0;
+    uint32_t home = 0;  // of a transfer of everything, 0: it was begun on no page
     int pane = 0;       // closed or open; the jobs that hold it are known by it
     int restore_in = 0; // redraws until it comes back, 0: it doesn't
     bool is_hdd = false;
@@ -55,11 +56,23 @@ int BkgdFileTransfer_Set(uint32_t page, int v)
     const uint32_t bit = bkgd_bit(page);
     if (v < 0 || v > 1 || (page != 0 && bit == 0))
         return -1;
-    if (page == 0)
+    if (page == 0) {
         bkgd.mask = v ? BKGD_ALL : 0;
-    else
+        bkgd.home = 0;
+    } else
         bkgd.mask = v ? bkgd.mask | bit : bkgd.mask & ~bit;
     return 0;
+}
+
+void BkgdFileTransfer_SetAll(uint32_t home)
+{
+    (void)BkgdFileTransfer_Set(0, 1);
+    bkgd.home = home;
+}
+
+bool BkgdFileTransfer_IsHome(uint32_t page)
+{
+    return BkgdFileTransfer_Check(page) || (bkgd.home != 0 && bkgd.home == (page & ~SUB_PAGE));
 }
 
 void BkgdFileTransfer_SetPaneID(int pane)
@@ -103,7 +116,7 @@ void file_pane_tick()
     if (bkgd.restore_in == 0 || --bkgd.restore_in > 0)
         return;
     const QUEUE* job = bkgd_job();
-    if (!job || !BkgdFileTransfer_Check(GL_NowPage))
+    if (!job || !BkgdFileTransfer_IsHome(GL_NowPage))
         return;
     constexpr int cancel = 1;
     const int pane = PaneProgress_RestoreCreate(job->title ? job->title : "Transfer", "", cancel);
@@ -113,7 +126,7 @@ void file_pane_tick()
 
 int BkgdFileTransfer_PagePermitted(uint32_t page)
 {
-    return BkgdFileTransfer_Check(page);
+    return BkgdFileTransfer_IsHome(page);
 }
 
 int BkgdHDDTransfer_Check(uint32_t page)
@@ -189,7 +202,7 @@ static bool has_copy()
 // The page now shown is the transfer's own, or nothing runs in the background.
 bool file_pane_is_in_view(const QUEUE* job)
 {
-    return job->paneid != 0 && (!has_copy() || BkgdFileTransfer_Check(GL_NowPage));
+    return job->paneid != 0 && (!has_copy() || BkgdFileTransfer_IsHome(GL_NowPage));
 }
 
 void file_pane_open(QUEUE* job, const char* title, bool has_cancel)

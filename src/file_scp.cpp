@@ -63,6 +63,11 @@ static constexpr const char* File_Scp_MsgTbl[] = {
 };
 static_assert(std::size(File_Scp_MsgTbl) == FILE_SCP_MSG_MAKE_FOLDER_FAILED + 1);
 
+const char* File_ServerNotReady()
+{
+    return File_Scp_MsgTbl[FILE_SCP_MSG_SERVER_NOT_READY];
+}
+
 void file_set_msg(FILEXFERLIST* item, FILE_SCP_MSG id)
 {
     file_set_text(item, File_Scp_MsgTbl[id]);

@@ -5,6 +5,7 @@
 #include "log.h"
 #include "message.h"
 #include "netio.h"
+#include "page.h"
 #include "pane.h"
 #include "pc_file.h"
 #include "pc_file_all_frames.h"
@@ -95,6 +96,8 @@ static constexpr Way ways[] = {
 
 int AllLoadCount = 0;
 
+static constexpr uint32_t ALL_PAGE = 0x71110000;
+
 // The sides of the page; they outlive it.
 static FILESIDE AllDir[SIDES] = {{}, {.device = FILE_LOCAL}};
 
@@ -178,13 +181,14 @@ static void end_transfer()
     close_preparing();
     const auto ended = run;
     run = {};
-    if (!ended.is_ftp) {
-        tell_unread(ways[ended.way].title, ended.unread, ended.chosen);
-        return;
+    if (ended.is_ftp || ended.stage == ALL_JOBS) {
+        (void)BkgdFileTransfer_Set(0, 0);
+        (void)PaneProgress_RestoreQuit();
     }
-    (void)BkgdFileTransfer_Set(0, 0);
-    (void)PaneProgress_RestoreQuit();
-    FMCtrl_FtpAnswer(ways[ended.way].answer, ended.is_good);
+    if (ended.is_ftp)
+        FMCtrl_FtpAnswer(ways[ended.way].answer, ended.is_good);
+    else
+        tell_unread(ways[ended.way].title, ended.unread, ended.chosen);
 }
 
 // Nothing has been given to a job yet.
@@ -200,8 +204,15 @@ static void give_up()
 
 // --- The jobs ---
 
+static bool is_in_view()
+{
+    return !run.is_ftp && BkgdFileTransfer_IsHome(GL_NowPage);
+}
+
 static void note_results(const FILEXFERLIST* list, bool* is_cancelled)
 {
+    if (!run.is_ftp && !is_in_view())
+        xferlist_errors_add(list); // the operator has left: no pane tells of them
     for (const FILEXFERLIST* item = list; item; item = item->next) {
         run.is_good &= item->status == FILESTATUS_OK;
         *is_cancelled |= item->status == FILESTATUS_CANCEL;
@@ -230,9 +241,10 @@ static void frames_result(uint32_t, int)
     end_transfer();
 }
 
+// The pane that a job has opened, where nobody asked for it or the operator has left.
 static void show_in_background()
 {
-    if (run.is_ftp)
+    if (!is_in_view())
         BkgdFileTransfer_PaneQuit();
 }
 
@@ -277,6 +289,8 @@ static void exec_jobs()
 {
     close_preparing();
     run.stage = ALL_JOBS;
+    if (!run.is_ftp)
+        BkgdFileTransfer_SetAll(ALL_PAGE); // it takes minutes: the operator may leave meanwhile
     if (all_list && ways[run.way].registers(&all_list, registers_result, 0) >= 0) {
         show_in_background();
         return;

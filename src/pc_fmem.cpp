@@ -1,6 +1,7 @@
 // Requests to the status hub, and one progress for many of a kind.
 #include "pc_fmem.h"
 #include "colours.h"
+#include "file.h"
 #include "fmctrl3.h"
 #include "indexed.h"
 #include "log.h"
@@ -172,6 +173,24 @@ static void stop()
     progress = {};
 }
 
+void fmem_tell_cut_off(const char* title, const char* name)
+{
+    char message[ELEMENT_PATH_SIZE + 64];
+    const char* const slash = strrchr(name, '/');
+    PrintText(message, "%s%s%s", slash ? slash + 1 : name, *name ? ": " : "",
+              File_ServerNotReady());
+    (void)PaneMessage_Create(title, PANE_ALERT, message);
+}
+
+static void cut_off()
+{
+    if (!fmem_progress_is_busy())
+        return;
+    const char* const title = protocol_list[progress.command].message;
+    stop();
+    fmem_tell_cut_off(title, "");
+}
+
 static void finish()
 {
     char message[160];
@@ -260,7 +279,7 @@ void fmem_proc(int msg, MsgArg ax, MsgArg bx, MsgArg dx)
         break;
     case LMSG_FMCTRL3CHANGE: // the hub has gone, and the results with it
         if (ax == FMCTRL_MSG_TALBE_CLEAR)
-            stop();
+            cut_off();
         break;
     case MSG_SHPTALLY:
         if (ax && bx && dx)

@@ -109,5 +109,8 @@ void fmem_black();
 void fmem_line(const char* text); // one line below the folder beside the outputs, at once
 
 // --- Between the files of pc_fmem ---
+// The hub's end has cut off what a pane with this title was about. name: of the element, "" for
+// several; only what is behind its last "/" is shown.
+void fmem_tell_cut_off(const char* title, const char* name);
 void fmfileope_proc(int msg, MsgArg ax, MsgArg bx, MsgArg dx);
 void fmfileope_drop();

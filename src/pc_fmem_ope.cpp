@@ -620,6 +620,16 @@ static void wait_for_black(int elapsed_ms)
         next_step();
 }
 
+static void cut_off()
+{
+    if (!fmfileope_is_busy())
+        return;
+    const FMFILEOPE none = {.cmd = FMFILEOPE_DELETE}; // only folders are left
+    const FMFILEOPE o = fo.first ? fo.first->ope : none;
+    fmfileope_drop();
+    fmem_tell_cut_off(kinds[o.cmd].title, o.path1);
+}
+
 void fmfileope_proc(int msg, MsgArg ax, MsgArg bx, MsgArg dx)
 {
     switch (msg) {
@@ -633,7 +643,7 @@ void fmfileope_proc(int msg, MsgArg ax, MsgArg bx, MsgArg dx)
     case MSG_PANETICK: wait_for_black(int(ax)); return;
     case LMSG_FMCTRL3CHANGE: // the hub has gone, and the results with it
         if (ax == FMCTRL_MSG_TALBE_CLEAR)
-            fmfileope_drop();
+            cut_off();
         return;
     default: return;
     }

@@ -160,8 +160,23 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
                                 "EFFECT/SWR000D001/DEV1/CUE.DEV1_250.SKF",
                             work + "SNAPSHOT/SWR1/OPENING.ME1_003.SSS > " + ROOT +
                                 "SNAPSHOT/SWR000D001/ME1/OPENING.ME1_003.SSS"));
-    // While it runs nothing else begins, for automation neither.
+    // While it runs nothing else begins, for automation neither; the operator may leave and come
+    // back.
     EXPECT_EQ(AllSave(), -1);
+    const int pane = Pane_GetActiveID();
+    Tell("TopMenu#Effect");
+    EXPECT_FALSE(Pane_Exist(pane));
+    EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+    Pass(10);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    (void)Open(ALL_PAGE);
+    Pass(10);
+    Pass(10);
+    EXPECT_NE(Pane_GetActiveID(), 0);
+    SendMessage(LMSG_PANEQUIT, Pane_GetActiveID(), 1, 0, 0); // cancelled before its turn came
+    File_SHP_All_Clear();
+    Pass(10);
+    EXPECT_FALSE(BkgdFileTransfer_Check(0));
 }
 
 // Nothing is cleared for nothing.

@@ -6,6 +6,7 @@
 #include "netio.h"
 #include "page_table/fmem_clip.h"
 #include "pane.h"
+#include "pane_private.h"
 #include "pc_fmem.h"
 #include "table_page.h"
 #include "text.h"
@@ -376,6 +377,9 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
     rename();
     FMCtrl3_HubLost();
     EXPECT_FALSE(fmfileope_is_busy());
+    ASSERT_NE(pane_top(), nullptr);
+    EXPECT_THAT(pane_text_in_view(pane_top()), HasSubstr("STILL: NG([ERROR] Server Not Ready.)"));
+    Answer(0);
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
