@@ -278,6 +278,8 @@ static bool draw_edge_picture(const BT_MEM* b, unsigned col)
     return false;
 }
 
+constexpr int PULLDOWN_GROOVE = 78; // left of the arrow
+
 void bt_caption(const BT_MEM* b, const SDL_Surface* face, int top, int font, unsigned col)
 {
     if (!b->caption || draw_edge_picture(b, col))
@@ -294,6 +296,11 @@ void bt_caption(const BT_MEM* b, const SDL_Surface* face, int top, int font, uns
     case BT_NEW:
         put_icon(b, 8, 10, G_icon_folder);
         TDL_SymbolS(b->x1 + 30, b->y1 + 10, b->caption, font, col);
+        break;
+    case BT_PULLDOWN:
+    case BT_PULLDOWN_LONG: // a name from outside takes a second line before it reaches the arrow
+        TDL_SymbolBS(b->x1 + 10 + p, b->y1 + top + p, PULLDOWN_GROOVE - 10, h - top - p, b->caption,
+                     font, col, 0);
         break;
     default:
         TDL_SymbolBS(b->x1 + 10 + p, b->y1 + top + p, w - 10 - p, h - top - p, b->caption, font,
