@@ -1,6 +1,6 @@
 #include "a_nb_column.h"
 
-// A box a state. The second layer leaves slots 4 and 5 empty.
+// A box a state. The second layer leaves slot 5 empty.
 static const NB_TBL table[] = {
     Box(1, "Clip", NB_2, 0, 100, "Clip"),
     Box(2, "Gain", NB_2, -100, 100, "Gain"),
@@ -10,6 +10,7 @@ static const NB_TBL table[] = {
     Box(17, "Clip\nLevel", NB_1, 109.5, -7.5, "Back"),
     Box(18, "Duration", NB_TC, 0, 1800, "Time"),
     Box(19, "Delay", NB_TC, -1, 1800, "Delay"),
+    {.id = 20, .caption = "Limit", .type = NB_INT, .max = 9, .cmd = "Limit", .zero = "None"},
     NB_END,
 };
 
@@ -45,11 +46,13 @@ TEST_F(KnobSheet, EachStateLooksItsOwn)
 // The key of the title held down; a bar that runs backwards, a time code, a text in place of one.
 TEST_F(KnobSheet, TheOtherLayerAndWhatIsNotANumber)
 {
+    Open(table, "Border/\nCrop"); // one word
     Pass(0);
     PressTitle();
     Tally("Back", "90");
     Tally("Time", "1290");
     Tally("Delay", "-1");
+    Tally("Limit", "0.4");
     NB_SetStrVar(19, "Auto");
     EXPECT_TRUE(Matches("knob_layer"));
 }

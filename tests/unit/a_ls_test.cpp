@@ -300,9 +300,11 @@ TEST_F(Lists, FewerRowsTakeSelectionAndWindowAlong)
     EXPECT_EQ(SelectedRows(), std::vector<int>{2});
     EXPECT_EQ(LS_GetTopLine(1), 45);
     EXPECT_EQ(LS_GetNowLine(1), 49);
+    LS_SetSelected(1, 30, 0, 1);
+    EXPECT_EQ(LS_GetTopLine(1), 30) << "a row that is chosen is in view";
     LS_SetNData(1, 0);
     EXPECT_EQ(SelectedRows(), std::vector<int>{});
-    EXPECT_EQ(LS_GetTopLine(1), 45) << "a list that is filled anew stays where it was";
+    EXPECT_EQ(LS_GetTopLine(1), 30) << "a list that is filled anew stays where it was";
 }
 
 TEST_F(Lists, AnIndexThatNoListHasIsRefused)

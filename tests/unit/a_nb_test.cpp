@@ -96,6 +96,14 @@ TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
                             "assign Knob0#M/E-1@Key1@Type@Level",
                             "assign Knob1#M/E-1@Key1@Type@Time"));
     EXPECT_THAT(Told(), ElementsAre("layer 1"));
+    const Rect title = {706, 73, 799, 124};
+    Pass(149);
+    const auto pushed = PixelsIn(title);
+    Pass(0);
+    EXPECT_EQ(PixelsIn(title), pushed) << "for 150 ms";
+    Pass(1);
+    Pass(0);
+    EXPECT_NE(PixelsIn(title), pushed);
     PressTitle();
     EXPECT_EQ(NB_GetLayer(), 0);
     Open(one);
@@ -180,6 +188,15 @@ TEST_F(KnobColumn, WhatWasToldOrTurnedIsAValueAndIsPainted)
         NB_SetSelect(c.slot);
         EXPECT_EQ(NB_SendTrimValue(0), 0);
         NB_SetSelect(0);
+    }
+    for (void (*const change)() :
+         {+[] { NB_AddMinMax(1, 0, 40); }, +[] { NB_SetSelect(1); }, +[] { NB_SetSelect(0); },
+          +[] { NB_SetCaption(1, "Other"); }, +[] { NB_InvalidVar(1); }}) {
+        Pass();
+        const auto before = PixelsIn({706, Middle(1) - 30, 799, Middle(1) + 30});
+        change();
+        Pass();
+        EXPECT_NE(PixelsIn({706, Middle(1) - 30, 799, Middle(1) + 30}), before);
     }
 }
 

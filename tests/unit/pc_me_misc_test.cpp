@@ -125,7 +125,9 @@ TEST_F(MeMisc, TheMatrixSetsTheListThatIsChosen)
     const std::string current = "M/E-3@Misc@Key Priority@Key Priority";
     const std::string next = "M/E-3@Misc@Key Priority@Next Key Priority";
     Open(0x13730000);
+    Pass(0);
     Tell(current + "#1,2,3,4,4,3,2,1");
+    EXPECT_EQ(bt_find(17)->redraw, 1);
     Tell(next + "#2,1,3,4,1,2,3,4");
     EXPECT_EQ(BT_GetStatus(5), BT_ON);
     EXPECT_EQ(BT_GetStatus(17), BT_ON) << "key 1 on top";
