@@ -328,8 +328,9 @@ TEST_F(MeMisc, FillAndSourceOpenTheirAssignmentAlsoWhereACellIsMissing)
 {
     for (const int is_4k : {0, 1}) {
         SYS_4KMode = is_4k;
-        for (const uint32_t page : {0x11110000u, 0x11310000u}) {
+        for (const uint32_t page : {0x11110000u, 0x11310000u, 0x81110000u}) {
             Open(page);
+            GL_FillSourceAssignMode = 7;
             (void)Touch(250, 200);
             EXPECT_EQ(GL_FillSourceAssignMode, 0) << std::hex << page;
             Open(page);
