@@ -57,8 +57,11 @@ TEST_F(KeyResizerPages, WithoutTheLargeFrameMemoryThereIsNone)
 
 TEST_F(KeyResizerPages, ASubPageFollowsWhatNoneOfItsButtonsHas)
 {
-    for (const uint32_t page : {0x85250000u, 0x85250003u})
-        EXPECT_EQ(Held(Open(page), "M/E-4@Key6@Resizer@Combine"), 1) << std::hex << page;
+    const std::string combine = "M/E-4@Key6@Resizer@Combine";
+    for (const uint32_t page : {0x85250000u, 0x85250003u}) {
+        EXPECT_EQ(Held(Open(page), combine), 1) << std::hex << page;
+        EXPECT_EQ(Held(Leave(), combine), -1) << std::hex << page;
+    }
 }
 
 TEST_F(KeyResizerPages, TheBorderOfAGeneratorIsAskedForAfterwards)
