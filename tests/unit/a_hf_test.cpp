@@ -57,6 +57,9 @@ TEST_F(BottomTabs, APressAsksForThePageOfItsCell)
     EXPECT_EQ(HF_SetDisplay(2, 0), 0);
     EXPECT_EQ(Asked(Cell(2), Y), 0u);
     EXPECT_EQ(HF_SetDisplay(3, 1), -1);
+    HF_Create(tabs, 1 | HF_LOW);
+    EXPECT_EQ(Asked(Cell(2), 555), 0u);
+    EXPECT_EQ(Asked(Cell(2), 556), 0x11120000u);
 }
 
 TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)

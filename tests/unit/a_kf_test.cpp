@@ -266,7 +266,10 @@ TEST_F(Keyframes, AnOrderThatComesBeforeTheAssignmentsIsKept)
     KF_RegionAssignTally(1, "M/E-1,M/E-2,DME1");
     KF_InitPriority(); // a page may be up
     KF_RegionAssignTally(2, "User1,Dev1");
+    EXPECT_TRUE(KF_IsOrderStale());
     KF_InitPriority();
+    KF_SetRegionAssigned(1, 1);
+    EXPECT_FALSE(KF_IsOrderStale()) << "as before";
     EXPECT_THAT(Order(7), ElementsAre(DME1_GLB, 1, 14, 0, 6, 30, 255)) << "its twin is new";
 
     KF_RegionAssignTally(1, ""); // a server that restarts

@@ -1,3 +1,4 @@
+#include "a_hf.h"
 #include "a_vf.h"
 #include "tab_page.h"
 
@@ -45,9 +46,34 @@ TEST_F(LeftTabs, APressAsksForThePageOfItsSlot)
     };
     for (const auto& c : cases)
         EXPECT_EQ(Asked(c.x, c.y), c.page) << c.x << "," << c.y;
+    SYS_RefSwrType = 256; // keys 3 and 4 have no edge
+    EXPECT_EQ(Asked(X, Slot(3)), 0x11310000u);
+    SYS_RefSwrType = 0;
     EXPECT_EQ(VF_SetDisplay(2, 0), 0);
     EXPECT_EQ(Asked(X, Slot(2)), 0u);
     EXPECT_EQ(VF_SetDisplay(6, 1), -1);
+}
+
+TEST_F(LeftTabs, ABoxThatGoesLeavesTheTabsTheirPaths)
+{
+    static const HF_TBL bottom[] = {
+        {.id = 1, .caption = "Edge", .page = 0x11120000, .statcmd = {"~2@Soft#true"}}, HF_END};
+    static const NB_TBL boxes[] = {{.id = 1, .caption = "", .cmd = "~2@Enable"},
+                                   {.id = 2, .caption = "", .cmd = "~2@Soft"},
+                                   {.id = 3, .caption = "", .cmd = "~2@Own"},
+                                   NB_END};
+    HF_Create(bottom, 1);
+    NB_Create(boxes, "");
+    (void)TakeQueuedCommands();
+    NB_Create(nullptr, "");
+    auto sent = TakeQueuedCommands();
+    std::erase_if(sent, [](const std::string& line) { return !line.starts_with("remove"); });
+    EXPECT_THAT(sent, ElementsAre("remove M/E-1@Key1@Own"));
+    HF_Create(nullptr, 0);
+    Tally("M/E-1@Key1@Enable", "true");
+    EXPECT_EQ(VF_GetStatus(1), 1);
+    EXPECT_EQ(VF_GetStatus(2), 0);
+    EXPECT_EQ(VF_GetStatus(6), -1);
 }
 
 TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
