@@ -1,4 +1,5 @@
 #include "bus_probe.h"
+#include "file.h"
 #include "memory.h"
 #include "window.h"
 #include <algorithm>
@@ -46,7 +47,39 @@ TEST_F(BusTally, AValueLandsInItsPlace)
          1 | 3 << 7},
         {"Info@System Setup Data@FM Data Port Disable@SWR2", "0,-1", &GL_FMDataPortDisable[1], 0},
         {PANEL "Config@M/E Operation@P/P", "Disable", &SYS_MEOperation[5], 1},
+        {PANEL "Config@M/E Operation@P/P", "Inhibit", &SYS_MEOperation[5], 2},
         {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignK[253], -1},
+        {PANEL "Xpt Assign@Assign", "252,7,-1", &SYS_XptAssignV[252], 7},
+        {"Info@DME@RefCH", "1F", &SYS_DMEReference, 0x1F},
+        {"MPE@Fx@Channel@Reference", "11", &SYS_MPEReference, 3}, // binary digits
+        {"MPE@Fx@Channel@Selected", "1a", &SYS_MPEChannel, 0x1A},
+        {FORMAT "Video Format2@SWR1", "3,6,2", &DEV_Swr[0].format_freq, 6},
+        {FORMAT "Video Format2@SWR1", "3,15,2", &DEV_Swr[0].format_freq, 15},
+        {FORMAT "Video Format2@SWR1", "3,16,2", &DEV_Swr[0].format_freq, 15},
+        {FORMAT "DME Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[1], 1},
+        {FORMAT "DME Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[0], 0},
+        {FORMAT "Reference@SWR1", "Tri", &DEV_Swr[0].refinputformat, 0},
+        {FORMAT "4K Mode", "On", &SYS_4KMode, 1},
+        {SYSTEM_CONFIG "Switcher Assign", "2,3,4,5,262", &SYS_SwrAssign[2][3], 6},
+        {SYSTEM_CONFIG "Switcher Assign", "2,9,9,9", &SYS_SwrAssign[2][0], 3}, // a part is missing
+        {SYSTEM_CONFIG "Switcher Assign", "KILL", &SYS_SwrAssign[2][3], 0},
+        {SWITCHER "SDI I/F@DME4", "Dedicated", &GL_DmeSdiIF[3], 1},
+        {SWITCHER "Key/Wipe@FM Auto Store", "true", &SYS_AutoStore, 1},
+        {"Frame Mem@Status@Store Number Sense", "12", &SYS_StoreFree, 12},
+        {"Frame Mem@Status@Store Number2 Sense", "13", &SYS_StoreFree2, 13},
+        {SWITCHER "Config@DME Wipe Sub Enable", "true", &SYS_DWSubEnable, 1},
+        {SWITCHER "Config@MP2 Re-Entry", "true", &SYS_MP2ReEntry, 1},
+        {SWITCHER "Key/Wipe/FM/CCR@CCR Intrnl Signl Enbl", "true", &SYS_CCRReEntry, 1},
+        {"Info@System Setup Data@File Auto Convert", "true", &GL_DataGokan, 1},
+        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &GL_DmeIFType, 1},
+        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &SYS_3DPair, 2},
+        {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "4", &SYS_3DPair, 21},
+        {"File@Status@FM Data Port Status@SWR2", "L7,5", &GL_FMDataPortStatus[1], 5},
+        {"Info@Board Config@Unit Model@SWR1", "12", &DEV_Swr[0].type, DEVTYPE_NTR40},
+        {"Engineering Setup@System@Install@Unit Config@M/E Split", "1,3", &GL_BoardMESplit[1], 3},
+        {"Engineering Setup@System@Install@Unit Config@M/E Split", "1,3", &GL_KeyMax[1], 4},
+        {"Engineering Setup@System@Install@Unit Config@M/E Split", "2", &GL_KeyMax[1], 8},
+        {SWITCHER "Transition@Key Transition@P/P", "Independent", &SYS_KeyTransitionPP, 1},
     };
     for (const auto& c : cases) {
         Deliver(c.path, c.value);
@@ -242,13 +275,15 @@ TEST_F(BusTally, APageIsReloadedByTheSettingsItShows)
     } cases[] = {
         {"Global Effect@Ch1-Ch4@Combine@Ch2", "true", 0x42170000, 0x42170000},
         {"Global Effect@Ch3-Ch4@Combine@Ch2", "true", 0x42170000, 0x42170000},
+        {"Global Effect@Ch5-Ch6@Combine@Ch2", "true", 0x42260000, 0},
+        {"Global Effect@Ch7-Ch8@Combine@Ch2", "true", 0x42270000, 0x42270000},
         {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000, 0x11170000},
         {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000, 0},
         {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000, 0x73130000},
         {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000, 0},
         {FORMAT "FC Format", "3,6,9,9,9", 0x73130000, 0},
     };
-    SYS_CombineDP[1] = 0;
+    std::fill(std::begin(SYS_CombineDP), std::end(SYS_CombineDP), 0);
     SYS_KeyTransitionME1 = 0;
     for (const auto& c : cases) {
         GL_NowPage = c.page;
@@ -305,15 +340,27 @@ TEST_F(BusTally, ADisabledBankIsNotReachedAgain)
 
 TEST_F(BusTally, ANameReplacesTheEntryOfItsBus)
 {
-    constexpr char path[] = PANEL "Xpt Assign@Source@List";
-    const std::string last = std::to_string(BUS_XPT_SRC - 1), behind = std::to_string(BUS_XPT_SRC);
-    Deliver(path, "0,Cam 1");
-    for (const std::string& value :
-         {last + ",a,b", behind + ",x", std::string("-1,x"), std::string("x,y"), std::string("0")})
-        Deliver(path, value);
-    EXPECT_STREQ(BUS_XptSrc[0], "Cam 1");
-    EXPECT_STREQ(BUS_XptSrc[BUS_XPT_SRC - 1], "a,b");
-    EXPECT_STREQ(BUS_XptSrc[1], "");
+    static const struct {
+        const char* path;
+        char** names;
+        int count;
+    } buses[] = {
+        {PANEL "Xpt Assign@Source@List", BUS_XptSrc, BUS_XPT_SRC},
+        {PANEL "Config@External Bus Link@Master Bus List", BUS_ExtMaster, BUS_EXT_MASTER},
+        {SWITCHER "Link@Internal Bus Link@Master Bus List", BUS_IntMaster, BUS_INT_MASTER},
+        {PANEL "Config@External Bus Link@S-BUS Src Name List", BUS_SBusSrc, BUS_SBUS},
+        {PANEL "Config@External Bus Link@S-BUS Dst Name List", BUS_SBusDst, BUS_SBUS},
+    };
+    for (const auto& bus : buses) {
+        Deliver(bus.path, "0,Cam 1");
+        for (const std::string& value :
+             {std::to_string(bus.count - 1) + ",a,b", std::to_string(bus.count) + ",x",
+              std::string("-1,x"), std::string("x,y"), std::string("0")})
+            Deliver(bus.path, value);
+        EXPECT_STREQ(bus.names[0], "Cam 1") << bus.path;
+        EXPECT_STREQ(bus.names[bus.count - 1], "a,b") << bus.path;
+        EXPECT_STREQ(bus.names[1], "") << bus.path;
+    }
 }
 
 TEST_F(BusTally, ACrosspointTellsThePageWhenItChanges)
@@ -380,6 +427,29 @@ TEST_F(BusTally, AMenuKeyIsRefusedWhileSomethingIsToBeAnswered)
     EXPECT_EQ(probe::Count(MSG_TALLY), 0);
 }
 
+// A transfer's own pane makes way, but not for what would disturb it.
+TEST_F(BusTally, AMenuKeyLeavesATransferBehind)
+{
+    const int pane = PaneMessage_Create("Title", 2, "text");
+    (void)BkgdFileTransfer_Set(0x71220000, 1);
+    GL_NowPage = 0x71220000;
+    EXPECT_EQ(Deliver("TopMenu", "File"), -1);
+    EXPECT_EQ(Deliver("TopMenu", "M/E-2"), 1);
+    EXPECT_EQ(GL_CreatePage, 0x12110000u);
+    EXPECT_EQ(Deliver("Page", "1311"), 1);
+    EXPECT_EQ(GL_CreatePage, 0x13110000u);
+    (void)BkgdFileTransfer_Set(0, 0);
+    EXPECT_EQ(Deliver("Page", "1411"), -1) << "a pane is to be answered";
+    (void)BkgdHDDTransfer_Set(0x25620000, 1);
+    GL_NowPage = 0x25620000;
+    EXPECT_EQ(Deliver("TopMenu", "User setup"), -1);
+    EXPECT_EQ(Deliver("TopMenu", "File"), 1);
+    EXPECT_EQ(Deliver("Page", "1411"), 1);
+    EXPECT_EQ(GL_CreatePage, 0x14110000u);
+    (void)BkgdHDDTransfer_Set(0, 0);
+    Pane_Quit(pane);
+}
+
 TEST_F(BusTally, TheMenuTurnsOverToAPageThatExists)
 {
     ASSERT_EQ(CreatePage(0x12110000), 0);
@@ -412,6 +482,9 @@ TEST_F(BusTally, ThePanelsAssignButtonsOpenTheirPage)
     EXPECT_EQ(GL_UtlAsgnShortCutMenu, 0x12110000u);
     EXPECT_EQ(GL_UtlAsgnSelectButtonID, 7);
     EXPECT_EQ(GL_CreatePage, 0x73240001u);
+    Deliver("Engineering Setup@Panel@Prefs/Utility@Panel Select", "9,0");
+    EXPECT_EQ(GL_SelectButtonID, 9);
+    EXPECT_EQ(GL_CreatePage, 0x73240000u);
 }
 
 TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)

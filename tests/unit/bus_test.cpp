@@ -72,6 +72,10 @@ TEST_F(Bus, AMaskWithholdsEventsFromItsTypeOnly)
     SendMessage(MSG_PRESS, 0, 0, 0, 0);
     EXPECT_EQ(probe::Count(MSG_PRESS), 0);
     UnHackMessage(OBJ_PC);
+    HackMessage(0, MSG_PRESS); // of all types
+    SendMessage(MSG_PRESS, 0, 0, 0, 0);
+    EXPECT_EQ(probe::Count(MSG_PRESS), 0);
+    UnHackMessage(OBJ_PC);
     HackMessage(OBJ_BT, MSG_PRESS);
     SendMessage(MSG_PRESS, 0, 0, 0, 0);
     EXPECT_EQ(probe::Count(MSG_PRESS), 1);

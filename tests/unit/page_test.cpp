@@ -1,3 +1,4 @@
+#include "device.h"
 #include "global.h"
 #include "harness.h"
 #include "log.h"
@@ -68,16 +69,26 @@ struct FakePage {
 TEST_F(PageTest, OpeningAPageTakesItsRow)
 {
     ASSERT_EQ(CreatePage(0x12210000), 0);
+    const Strings sent = TakeQueuedCommands();
+    for (const char* command :
+         {"set TopMenu#M/E-2", "add TopMenu", "read Engineering Setup@System@Format@4K Mode",
+          "read Engineering Setup@System@Format@Video Format@MPE4",
+          "read Engineering Setup@System@Format@Reference@PNL4", "add M/E-2@Key2@Type@Key Type"})
+        EXPECT_THAT(sent, Contains(command));
+    EXPECT_TRUE(IsObjetype(OBJ_BT));
+    EXPECT_FALSE(IsObjetype(OBJ_KP));
     EXPECT_EQ(Page->id, 0x12210000u);
     EXPECT_EQ(GL_NowTree, Page->tree);
     EXPECT_STREQ(GL_NowTree[1], "Key2");
     EXPECT_EQ(MeKeyTpye, 1);
     EXPECT_EQ(GL_OmoteNowPage, 0x12210000u);
     EXPECT_EQ(GL_OmotePrevPage, PAGE_TOP);
+    ASSERT_EQ(CreatePage(0x12310000), 0);
+    EXPECT_THAT(TakeQueuedCommands(), Not(Contains("set TopMenu#M/E-2"))) << "the same menu";
     ASSERT_EQ(CreatePage(0x33110000), 0);
     EXPECT_EQ(GL_NowPage, 0x33110000u); // as asked for ...
     EXPECT_EQ(Page->id, 0x33110100u);   // ... the row is the variant
-    EXPECT_EQ(GL_PrevPage, 0x12210000u);
+    EXPECT_EQ(GL_PrevPage, 0x12310000u);
 }
 
 TEST_F(PageTest, ARequestWithoutAPageLeavesAllAsItWas)
@@ -193,6 +204,7 @@ TEST_F(PageTest, EachSideKeepsItsOwnPages)
     OmoteFlag = OmoteChange = 1;
     CreatePage(GL_OmoteNowPage);
     EXPECT_EQ(Omote_History_NowPtr, 1);
+    EXPECT_EQ(GL_PrevPage, KeyPage(0)) << "what this side showed before";
 }
 
 TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
@@ -220,6 +232,11 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
         {0x12110000, 0x12110000, [] { me2_on(1); }}, // a key page
         {0x111F0000, 0x11110000},                    // the tab of a key is its own
         {0x311F0000, 0x311F0000}, // without left tabs in the row a wildcard stays
+        {0x42260000, 0x42110000, [] { GL_DmeModel[0] = 5, SYS_MyDmeMax = 1; }},
+        {0x42260000, 0x42260000, [] { GL_DmeModel[0] = 5, SYS_MyDmeMax = 2; }},
+        {0x71420002, 0x71420001},
+        {0x71440002, 0x71440001},
+        {0x71440102, 0x71440002, [] { GL_MenuMacro_Edit = 1; }},
     };
     for (const auto& c : cases) {
         SetUp();
@@ -227,6 +244,42 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
             c.when();
         EXPECT_EQ(ComesTo(c.request), c.opens) << std::hex << c.request << " expected " << c.opens;
     }
+}
+
+TEST_F(PageTest, ThePanelRowsSayWhichSidesOfABankThereAre)
+{
+    static const struct {
+        int multi, first, second; // the sides of two panel rows of M/E-2, -1 another bank's
+        int sides;
+    } cases[] = {
+        {1, -1, -1, -1}, {1, 0, -1, 0},  {1, -1, 1, 1}, {1, 2, -1, 2},
+        {1, 0, 1, 2},    {1, 3, -1, -1}, {0, 0, 1, -1}, {1, 1, 1, 1},
+    };
+    for (const auto& c : cases) {
+        SetUp();
+        std::fill_n(GL_MEAssign, PANEL_ROWS, 1);
+        multiprogram2_me[2] = c.multi;
+        const int sides[] = {c.first, c.second};
+        for (int i : {0, 1}) {
+            GL_MEAssign[12 + i] = sides[i] < 0 ? 1 : 2;
+            GL_MainSubAssign[12 + i] = sides[i];
+        }
+        const FakePage page(0x12510000, "M/E-2", "Misc");
+        EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0), c.sides) << c.first << c.second;
+        EXPECT_EQ(MainSubAssign_StatusCheck(), c.sides) << c.first << c.second;
+        EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x33110000), -1);
+    }
+    FakePage page(0x32110000, "1st AUX", nullptr);
+    Page_SetKnobAssign(4);
+    GL_NowPage = 0x73350001; // opens as its row says
+    Page_SetKnobAssign(5);
+    EXPECT_EQ(Page_GetKnobAssign(), 4);
+    EXPECT_EQ(MainSubAssign_StatusCheck(), -1);
+    GL_MEAssign[13] = ASSIGN_1ST_AUX;
+    EXPECT_EQ(MainSubAssign_StatusCheck(), 0);
+    Page_Reset();
+    EXPECT_EQ(MainSubAssign_StatusCheck(), -1) << "no page";
+    EXPECT_EQ(Page_GetKnobAssign(), -1);
 }
 
 TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
@@ -239,6 +292,10 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
     } cases[] = {
         {0x12310000, {"M/E-2", "Key3"}, 0x11170002, 0x12370002},
         {0x81210000, {"M/E-4", "Key2"}, 0x11110000, 0x81210000},
+        {0x81110000, {"M/E-4", "Key8"}, 0x11110000, 0x85410000},
+        {0x14110000, {"PGM/PST", "DSK6"}, 0x11110000, 0x18210000},
+        {0x11610000, {"M/E-1", "DME Wipe"}, 0x11610000, 0x11610000},
+        {0x16610000, {"M/E-2", "DME Wipe"}, 0x11610000, 0x16610000},
         {0x85710000, {"M/E-4", "Misc"}, 0x11730000, 0x85730000},
         {0x15710000, {"M/E-1", "Misc"}, 0x15730000, 0x15730000}, // already there
         {0x12000000, {"M/E-2", nullptr}, 0x11110000, 0x12110000},
