@@ -1,7 +1,9 @@
 #include "bmp_check.h"
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 
 #include "safeguards.h"
 
@@ -12,15 +14,16 @@ struct BmpHead {
     uint32_t pixels_at = 0;
     uint32_t info_size = 0;
     uint32_t width = 0;
-    uint32_t height = 0;
+    uint32_t height = 0; // of either sign: negative when the top row comes first
     uint32_t planes = 0;
     uint32_t bits = 0;
     uint32_t compression = 0;
     uint32_t colours = 0;
 };
 constexpr size_t FILE_HEAD = 14;
-constexpr size_t INFO_HEAD = 40;
-constexpr size_t MASKS = 12; // of BITFIELDS, behind the head
+constexpr size_t INFO_HEAD = 40;        // what of it the library looks at
+constexpr uint32_t INFO_HEAD_MAX = 124; // later kinds of the format only add to its end
+constexpr size_t MASKS = 12;            // of BITFIELDS: behind those 40, be that in the head or not
 constexpr uint32_t BITFIELDS = 3;
 } // namespace
 
@@ -51,27 +54,38 @@ static bool bmp_read_head(FILE* fp, BmpHead* head)
     return true;
 }
 
+// Bytes before the first pixel may begin; 0 for a kind that the library does not read. It looks for
+// a palette where the short head ends. Without one the number of colours is a hint that it ignores.
+static size_t bmp_head_size(const BmpHead& h)
+{
+    const bool has_palette = h.bits == 1 || h.bits == 4 || h.bits == 8;
+    const bool has_words = h.bits == 16 || h.bits == 32;
+    if (h.info_size < INFO_HEAD || h.info_size > INFO_HEAD_MAX || h.planes != 1)
+        return 0;
+    if (h.compression != 0 && !(h.compression == BITFIELDS && has_words))
+        return 0;
+    if (has_palette) {
+        const uint32_t colours_max = 1u << h.bits;
+        const bool is_known = h.info_size == INFO_HEAD && h.colours <= colours_max;
+        return is_known ? FILE_HEAD + INFO_HEAD + 4 * (h.colours ? h.colours : colours_max) : 0;
+    }
+    if (!has_words && h.bits != 24)
+        return 0;
+    const size_t masks_end = FILE_HEAD + INFO_HEAD + MASKS;
+    const size_t head = FILE_HEAD + h.info_size;
+    return h.compression == BITFIELDS ? std::max(head, masks_end) : head;
+}
+
 // The library believes a header: sizes and palette are looked at before it sees them.
 static bool bmp_is_sound(const BmpHead& h, long file_size, int max_w, int max_h)
 {
-    if (h.info_size != INFO_HEAD || h.planes != 1)
+    const size_t head = bmp_head_size(h);
+    const long long rows = llabs((long long)int32_t(h.height));
+    if (head == 0 || h.width < 1 || h.width > uint32_t(max_w) || rows < 1 || rows > max_h)
         return false;
-    if (h.width < 1 || h.width > uint32_t(max_w) || h.height < 1 || h.height > uint32_t(max_h))
-        return false;
-    const bool has_palette = h.bits == 8;
-    if (!has_palette && h.bits != 24 && h.bits != 16 && h.bits != 32)
-        return false;
-    const bool has_masks = h.compression == BITFIELDS && (h.bits == 16 || h.bits == 32);
-    if (h.compression != 0 && !has_masks)
-        return false;
-    if (h.colours > (has_palette ? 256u : 0u))
-        return false;
-    size_t head = FILE_HEAD + INFO_HEAD + (has_masks ? MASKS : 0);
-    if (has_palette)
-        head += 4 * (h.colours ? h.colours : 256);
-    const size_t row = (size_t(h.width) * h.bits / 8 + 3) & ~size_t(3);
+    const size_t row = ((size_t(h.width) * h.bits + 7) / 8 + 3) & ~size_t(3);
     return h.pixels_at >= head && h.pixels_at <= uint32_t(file_size) &&
-           size_t(file_size) - h.pixels_at >= row * h.height;
+           size_t(file_size) - h.pixels_at >= row * size_t(rows);
 }
 
 bool Bmp_IsSound(const char* path, int max_w, int max_h)

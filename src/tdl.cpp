@@ -667,11 +667,23 @@ SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc)
     return small;
 }
 
-// Anybody may have laid it onto the drive.
+// Anybody may have laid it onto the drive. Of a photograph only what the screen shows is kept.
 SDL_Surface* TDL_ScreenSaverBMP(const char* fname)
 {
-    constexpr int SIDE_MAX = 2048;
-    return Bmp_IsSound(fname, SIDE_MAX, SIDE_MAX) ? TDL_LoadBmp(fname) : nullptr;
+    constexpr int SIDE_MAX = 4096;
+    SDL_Surface* whole = Bmp_IsSound(fname, SIDE_MAX, SIDE_MAX) ? TDL_LoadBmp(fname) : nullptr;
+    if (!whole || (whole->w <= SCREEN_W && whole->h <= SCREEN_H))
+        return whole;
+    const SDL_PixelFormat& f = *whole->format;
+    SDL_Surface* part = SDL_CreateRGBSurface(SDL_SWSURFACE, std::min(whole->w, SCREEN_W),
+                                             std::min(whole->h, SCREEN_H), f.BitsPerPixel, f.Rmask,
+                                             f.Gmask, f.Bmask, 0);
+    if (part && f.palette)
+        SDL_SetColors(part, f.palette->colors, 0, f.palette->ncolors);
+    if (part)
+        SDL_BlitSurface(whole, nullptr, part, nullptr);
+    SDL_FreeSurface(whole);
+    return part;
 }
 
 // --- Screen save ---

@@ -275,12 +275,13 @@ TEST_F(FrameMemoryThumbnails, APictureThatIsNotWhatItSaysIsRefused)
     const Bmp rubbish[] = {
         {.width = 0},         {.width = -16},
         {.width = 801},       {.height = 601},
-        {.height = -8},       {.height = INT_MAX},
+        {.height = INT_MIN},  {.height = INT_MAX},
         {.bits = 4},          {.bits = 64},
-        {.colours = 1},       {.bits = 8, .colours = 257},
+        {.height = -601},     {.bits = 8, .colours = 257},
         {.bits = 8},          {.compression = 1},
         {.pixels_at = 40},    {.pixels_at = 1000},
         {.pixels_at = -1},    {.info = 12},
+        {.info = 41},         {.pixels_at = 300, .info = 128},
         {.bytes_missing = 1}, {.bytes_missing = 384 + 1},
         {.bits = 32},
     };

@@ -324,6 +324,48 @@ TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
     }
 }
 
+// The kinds that paint programs write, with a dark row above a light one.
+TEST_F(SaverPictures, EveryKindOfBitmapIsShown)
+{
+    constexpr uint32_t DARK = 0x102030, LIGHT = 0x405060;
+    static const struct {
+        int info, bits, colours, rows, compression = 0;
+    } cases[] = {
+        {40, 1, 0, 2},   {40, 1, 2, -2},   {40, 4, 0, 2},  {40, 8, 2, 2},   {40, 8, 0, -2},
+        {108, 24, 0, 2}, {124, 24, 0, -2}, {40, 24, 7, 2}, {124, 32, 0, 2}, {124, 32, 0, 2, 3},
+    };
+    for (const auto& c : cases) {
+        const auto le = [](uint32_t v) {
+            return std::string{char(v), char(v >> 8), char(v >> 16), char(v >> 24)};
+        };
+        const int colours = c.bits > 8 ? 0 : c.colours ? c.colours : 1 << c.bits;
+        std::string file = "BM" + le(0) + le(0) + le(uint32_t(14 + c.info + 4 * colours)) +
+                           le(uint32_t(c.info)) + le(1) + le(uint32_t(c.rows)) +
+                           le(uint32_t(1 | c.bits << 16)) + le(uint32_t(c.compression)) +
+                           std::string(12, '\0') + le(uint32_t(c.colours)) + le(0) + le(0xFF0000) +
+                           le(0xFF00) + le(0xFF);
+        file.resize(size_t(14 + c.info));
+        file += colours ? le(DARK) + le(LIGHT) : "";
+        file.resize(size_t(14 + c.info + 4 * colours));
+        const std::string dark = colours ? le(0) : le(DARK);
+        const std::string light = !colours ? le(LIGHT) : le(1u << (8 - c.bits));
+        file += c.rows < 0 ? dark + light : light + dark;
+        std::ofstream(Path("SSrc_1.bmp"), std::ios::binary) << file;
+        SDL_Surface* picture = TDL_ScreenSaverBMP(Path("SSrc_1.bmp").c_str());
+        ASSERT_TRUE(picture) << c.info << " " << c.bits << " " << c.colours;
+        TDL_Put(0, 0, picture);
+        SDL_FreeSurface(picture);
+        EXPECT_EQ(PixelAt(0, 0), DARK) << c.info << " " << c.bits << " " << c.rows;
+        EXPECT_EQ(PixelAt(0, 1), LIGHT) << c.info << " " << c.bits << " " << c.rows;
+    }
+    Put("SSrc_1.bmp", LIGHT, SCREEN_W + 1, SCREEN_H - 1); // more than there is room for
+    SDL_Surface* part = TDL_ScreenSaverBMP(Path("SSrc_1.bmp").c_str());
+    ASSERT_TRUE(part);
+    EXPECT_EQ(part->w, SCREEN_W);
+    EXPECT_EQ(part->h, SCREEN_H - 1);
+    SDL_FreeSurface(part);
+}
+
 // A folder of a hundred of them would be read in every pass.
 TEST_F(SaverPictures, AFileThatIsNoPictureIsReadAgainOnlyWhenItChanges)
 {
