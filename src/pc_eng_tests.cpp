@@ -1,4 +1,4 @@
-// The self tests: what the menu computer can test of itself without touching what is on air, one
+// Auto Execute: what the menu computer can test of itself without touching what is on air, one
 // after the other, once or again and again. A test says what it has found; one whose subject this
 // installation does not have is left out.
 #include "a_ls.h"

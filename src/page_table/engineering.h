@@ -16,7 +16,7 @@
     Jump({.id = 4, .caption = "Status\nReports", .group = "Log", .cmd = {"#99980000"}}), \
     Jump({.id = 5, .caption = "Diag", .group = "Log", .cmd = {"#74110000"}}), \
     Jump({.id = 6, .caption = "Top\nMenu", .cmd = {"#00110000"}}), \
-    Jump({.id = 17, .caption = "Self\nTests", .group = "Tests", .cmd = {"#99930004"}}), \
+    Jump({.id = 17, .caption = "Self\nTests", .group = "Tests", .cmd = {"#55550000"}}), \
     Jump({.id = 18, .caption = "Links", .group = "Tests", .cmd = {"#99990000"}}), \
     Jump({.id = 19, .caption = "All Pages", .group = "Tests", .cmd = {"#99970000"}}), \
     Jump({.id = 20, .caption = "Touch\nTest", .group = "Tests", .cmd = {"#99950000"}}), \
@@ -341,7 +341,7 @@ inline constexpr LS_TBL ls_eng_reports[] = {
 };
 static_assert(ButtonsAreSound(bt_eng_reports) && ListsAreSound(ls_eng_reports));
 
-// --- Self tests ---
+// --- Auto Execute ---
 
 inline constexpr BT_TBL bt_eng_tests[] = {
     Action(     {.id = 49, .caption = "Start", .group = "Self Tests", .cmd = {ENG_TESTS "Start"}}),
@@ -372,7 +372,7 @@ inline constexpr PAGE engineering_pages[] = {
      .obj = {Base(base_main), Buttons(bt_eng_figures), Lists(ls_eng_pairs), Code(pc_eng_figures)}},
     {.id = 0x99930003, .tree = {"Maintenance", "Log"},
      .obj = {Base(base_main), Buttons(bt_eng_log), Lists(ls_eng_log), Code(pc_eng_log)}},
-    {.id = 0x99930004, .tree = {"Maintenance", "Self Tests"},
+    {.id = 0x55550000, .tree = {"Auto Execute Menu"},
      .obj = {Base(base_main), Buttons(bt_eng_tests), Lists(ls_eng_tests), Code(pc_eng_tests)}},
     // Here the code comes first: it sees what the objects would take.
     {.id = 0x99940000, .tree = {"Maintenance", "Key Codes"},

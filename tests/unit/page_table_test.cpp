@@ -29,6 +29,8 @@ TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
     EXPECT_EQ(int(ids.size()) + 1, PageTable_Rows);
     EXPECT_EQ(PageTable_Rows, 2528) << "a page came or went: which one, and who leads to it?";
     EXPECT_EQ(PageTable[PageTable_Rows - 1].id, PAGE_END);
+    for (const uint32_t id : {0x55550000u, 0x77770000u, 0x88880000u, 0x99995555u})
+        EXPECT_TRUE(ids.count(id)) << std::hex << id << ", which has a bank or number of its own";
 }
 
 TEST(PageTable, EveryMenuKeyOpensAPage)
