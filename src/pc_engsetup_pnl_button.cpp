@@ -39,6 +39,7 @@ enum : int { COL_NAME, COL_BUTTONS };
 constexpr int BUTTONS = 32;      // of a module, at most
 constexpr int ROW_BUTTONS = 128; // of a crosspoint row, at most
 constexpr int BANK_PLACES = 8;   // places of a bank's side
+constexpr int MARK = 96;         // text of the numbers of all buttons that are shown
 
 struct SetupModule {
     SETUPMODULE_ID id = SETUP_MODULES;
@@ -159,7 +160,7 @@ static struct {
     int side = SIDE_MAIN;
     ListKind list = LIST_FUNCTIONS;
     Held held[BUTTONS + 1] = {}; // by button that is shown, from 1
-    char marks[REGISTERS_MACRO][28] = {};
+    char marks[REGISTERS_MACRO][MARK] = {};
     char range[24] = ""; // caption of the key that goes on to further buttons
     char registers[REGISTERS_MACRO][32] = {};
     bool is_name_shown = false;
@@ -351,7 +352,7 @@ static bool is_in_row(const Held& held, int row)
 // The buttons that a row is assigned to.
 static void mark_row(int row)
 {
-    char(&mark)[28] = pb.marks[row];
+    char(&mark)[MARK] = pb.marks[row];
     mark[0] = '\0';
     const bool is_nothing = pb.list == LIST_FUNCTIONS && row == 0;
     for (int button = 1; button <= shown_buttons() && !is_nothing; button++) {
