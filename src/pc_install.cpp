@@ -11,6 +11,7 @@
 #include "page_table/install.h"
 #include "pane.h"
 #include "process.h"
+#include "ready.h"
 #include "tally_value.h"
 #include "text.h"
 #include "touch.h"
@@ -275,6 +276,7 @@ static bool newinstall_execute_core()
 static void drop_touches()
 {
     SDL_Event event;
+    Ready_Ask(); // the last question was before them
     Touch_Poll(0);
     SDL_PumpEvents();
     while (SDL_PeepEvents(&event, 1, SDL_GETEVENT,
