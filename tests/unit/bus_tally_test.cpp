@@ -548,8 +548,7 @@ TEST_F(BusTally, NoValueOnAnyPathDoesHarm)
         FORMAT "FC Format",
         PANEL "Config@10 Key Region Assign@Common@Region@Common@",
         "16@Engineering Setup@System@Install@Unit Config@CCR Config",
-        "Info@System Setup Data@FM Data Port Disable@SWR1",
-    };
+        "Info@System Setup Data@FM Data Port Disable@SWR1"};
     const std::string values[] = {
         "",
         ",",
@@ -559,8 +558,7 @@ TEST_F(BusTally, NoValueOnAnyPathDoesHarm)
         "99999999999999999999,99999999999999999999,99999999999999999999,9,9,9,9,9,9",
         "-99999999999999999999,-99999999999999999999,0,0,0,0",
         std::string(1023, ','),
-        std::string(3000, '9'),
-    };
+        std::string(3000, '9')};
     for (const char* path : paths) {
         for (const std::string& value : values)
             Deliver(path, value);

@@ -27,6 +27,10 @@ TEST_F(Bus, TheRowIsWalkedToItsFirstEmptyPlace)
         for (int msg : {MSG_KEY, MSG_RELEASE})
             EXPECT_EQ(probe::Count(msg), c.deliveries) << testing::PrintToString(c.types);
         SendMessage(MSG_RELEASE, 5, 5, 0, 0);
+        probe::seen.clear();
+        SendMessage(MSG_PRESS, 5, 5, 1, 0);
+        EXPECT_EQ(probe::Count(MSG_RELEASE), 0) << "it was told that of the press before";
+        SendMessage(MSG_RELEASE, 5, 5, 0, 0);
     }
     Page = nullptr; // before the first page
     EXPECT_EQ(SendMessage(MSG_KEY, 0, 0, 0, 0), 0);

@@ -34,6 +34,7 @@ constexpr Thief thieves[] = {
     {"pane", [] { pane = PaneMessage_Create("Pane", PANE_INFO, "Text"); }, [] { Pane_Quit(pane); }},
     {"window", [] { (void)CreateWindow(WINDOW_KEYBOARD, "Name"); }, [] { (void)CloseWindow(); }},
     {"ten keys", [] { (void)CreateWindow(WINDOW_KNOB, "Box"); }, [] { (void)CloseWindow(); }},
+    {"find dialog", [] { GL_FM_Find_Window = 1; }, [] { GL_FM_Find_Window = 0; }},
     {"page", [] { Page = &other_page; }, [] {}},
     {"nobody: the next press comes without one", [] {},
      [] { SendMessage(MSG_PRESS, 400, 560, 1, 0); }},
@@ -100,7 +101,7 @@ TEST_F(Held, WhateverTakesTheReleaseEndsTheHold)
             t.comes();
             Pass();
             Release(); // goes to what has come, if anything
-            if (t.goes == thieves[4].goes)
+            if (t.goes == thieves[5].goes)
                 Press(h.x, h.y); // and once more, with nothing between
             t.goes();
             Pass(1000);

@@ -59,6 +59,7 @@ TEST_F(Touch, RawPointsBecomeScreenPointsInTruncatedSteps)
     } cases[] = {
         {.resolution = 1023, .ax = 50, .bx = 750, .raw = 1023, .x = 799}, // 800 is clamped
         {.resolution = 4095, .ax = 50, .bx = 750, .raw = 2048, .x = 400},
+        {.resolution = 4095, .ax = 50, .bx = 750, .raw = 4000, .x = 781},
         // 60 * 700 / -680 = -61, 50, 234 * 700 / 680 = 240
         {.resolution = 1023, .ax = 60, .bx = 740, .raw = 300, .x = 229},
         {.resolution = 1023, .ax = 50, .bx = 750, .raw = 2147483647, .x = 799},
