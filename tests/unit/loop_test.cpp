@@ -144,6 +144,7 @@ TEST_F(Loop, ADragIsDeliveredNineStepsAPass)
     MainPass();
     ASSERT_EQ(Count(MSG_DRAG), 9u);
     EXPECT_EQ(probe::seen[8].ax, 108);
+    EXPECT_EQ(probe::seen[8].cx, 1);
     EXPECT_EQ(probe::seen[8].dx, 4);
     MainPass();
     EXPECT_EQ(Count(MSG_DRAG), 12u);

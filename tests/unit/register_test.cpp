@@ -99,6 +99,7 @@ TEST_F(Registers, ALineLandsInItsPlace)
         {"Snapshot@Wipe Snapshot@P/P Sub@List", "10,Wipe,L", {5, 11, 9}, 1, 1, "Wipe"},
         {"Snapshot@Key Snapshot@Attribute@P/P@Key8@List", "1,Key,L", {7, 47, 0}, 1, 1, "Key"},
         {SHOTBOX, "99,Shot,U,,1" + Commas(43), {8, 0, 98}, 1, 0, "Shot"},
+        {SHOTBOX, "98,Shot,U,," + Commas(43), {8, 0, 97}, 0, 0, "Shot"}, // nothing in it
         {MACRO, "250,D,Run,L", {9, 0, 249}, 1, 1, "Run"},
     };
     for (const auto& c : cases) {
@@ -211,6 +212,18 @@ TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
     EXPECT_EQ(ClipEvent_Tally_Stop_TC(7, 19, 98), INT_MAX);
     Deliver(CLIP + "User1@List", "FM21,1,on,ON,,b,0,1");
     EXPECT_THAT(Told(), ElementsAre(Place{10})) << "the stranger is the first";
+    static const struct {
+        int size, scan, freq;
+        int start; // of 7 frames
+    } formats[] = {{2, 2, 5, 3}, {3, 2, 6, 3}, {3, 1, 5, 7}, {3, 2, 4, 7}, {1, 2, 5, 7}};
+    Deliver(CLIP + "User2@List", "FM1,1,ON,ON,ON,b,7,9");
+    for (const auto& f : formats) {
+        SYS_Format_Size = f.size, SYS_Format_Scan = f.scan, SYS_Format_Freq = f.freq;
+        EXPECT_EQ(ClipEvent_Tally_Start_TC(1, 0, 0), f.start) << f.size << f.scan << f.freq;
+        EXPECT_EQ(ClipEvent_Tally_Stop_TC(1, 0, 0), f.start + (f.start == 3 ? 1 : 2));
+    }
+    Register_Free();
+    EXPECT_STREQ(ClipEvent_Tally_Name(1, 0, 0), "");
 }
 
 // --- Subscriptions ---
