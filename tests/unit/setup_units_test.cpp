@@ -177,6 +177,21 @@ TEST_F(SetupUnits, ABusTellsItsGroupsInOneLineAndGetsThemInOne)
         testing::ElementsAre("put " + bus + "#true,true,false,false,false,false,false,false"));
 }
 
+TEST_F(SetupUnits, ANameGoesToAllRowsThatAreSelected)
+{
+    (void)Open(0x73610002);
+    (void)LS_SetMS(1, 1);
+    (void)LS_SetSelected(1, 0, 1, 1);
+    (void)LS_SetSelected(1, 1, 1, 1);
+    SendMessage(LMSG_BTNSEL, Arg(SHEET_LOCAL "Name"), 0, 0, 0);
+    (void)Type("a#b");
+    EXPECT_EQ(Row(0, 2), "1|") << "the server would cut it";
+    Dismiss();
+    SendMessage(LMSG_BTNSEL, Arg(SHEET_LOCAL "Name"), 0, 0, 0);
+    (void)Type("cam");
+    EXPECT_EQ(Row(0, 2) + Row(1, 2) + Row(2, 2), "1|cam*2|cam*3|");
+}
+
 TEST_F(SetupUnits, AnAreaEndsBehindItsBegin)
 {
     const std::string area = SETUP + "Router@Area@";
