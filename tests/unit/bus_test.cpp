@@ -1,4 +1,5 @@
 #include "bus_probe.h"
+#include "loop.h"
 #include "netio.h"
 #include <cstring>
 
@@ -242,6 +243,13 @@ TEST_F(BusHub, APassTakesAtMost129Rows)
     EXPECT_EQ(probe::Count(MSG_SHPTALLY), 129);
     ReceiveCommand_Management();
     EXPECT_EQ(probe::Count(MSG_SHPTALLY), 131);
+}
+
+TEST_F(BusHub, APassSendsWhatIsForTheHub)
+{
+    Net_SendSHPCommand("Notify#PNL1.File");
+    MainPass();
+    EXPECT_THAT(hub.Lines(), Contains("Notify#PNL1.File"));
 }
 
 // --- Page code ---

@@ -165,6 +165,7 @@ TEST_F(Loop, APageRequestIsServedOnceAndForgottenWhenItFails)
     GL_CreatePage = 0x00110000;
     MainPass();
     EXPECT_EQ(GL_NowPage, 0x00110000u);
+    EXPECT_EQ(Loop_Figures().page, 0x00110000u);
     EXPECT_EQ(GL_CreatePage, 0u);
     GL_CreatePage = 0x12345678;
     MainPass();
