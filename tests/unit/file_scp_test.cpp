@@ -583,6 +583,9 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L1,"));
     Answer(1, "OK");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Put,/A/x,4,1"));
+    Hub("Ready", "CS1.File"); // it has been away
+    Store("USER_ID::MENU1");
+    EXPECT_THAT(HubSent(), Contains("Request#CS1.File:FRAMEMEM.STATUS::Put,/A/x,4,1"));
     Store("STATUS::Put,/A/x.SFH");
     Listed("A/x", "Put");
     EXPECT_EQ(list->status, FILESTATUS_OK);
