@@ -249,6 +249,7 @@ class Setup(DeskCase):
         self.push(38)
         lines = self.desk.wait_wire("put File@Access@USB Storage Refresh#", starts=True)
         self.assertIn("put File@Access@USB Storage Reload#", " ".join(lines))
+        self.until(lambda: self.pixel(*PANE) != GROUND)
 
     def test_8_the_network_drive_is_mounted(self):
         way = ["umount [/var/nfs]", "ping [-c] [1] [192.168.10.100]", "rpcinfo2 [-p] [192.168.10.100]",
