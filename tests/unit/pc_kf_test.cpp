@@ -4,6 +4,7 @@
 #include "pc_kf_page.h"
 #include "setup_index.h"
 #include "tdl.h"
+#include <array>
 
 // --- Time Line ---
 
@@ -321,6 +322,22 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
     Key(22);
     Selection(0);
     EXPECT_THAT(Sent(), IsEmpty());
+}
+
+TEST_F(RegionPage, TheLampsFollowTheSelection)
+{
+    const auto lamps = [](int slot) {
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        const int x = 456 + 61 * slot;
+        return std::array{PixelsIn({x, 120, x + 50, 170}), PixelsIn({x, 210, x + 50, 260})};
+    };
+    TenKey(1, "M/E-1,DME1,,");
+    const auto first = lamps(0), second = lamps(1);
+    kf::Select({16, 0x02, 0, 0x01, 0, 0, 0, 0}); // DME1, the reference, comes to M/E-1
+    EXPECT_NE(lamps(0)[0], first[0]);
+    EXPECT_EQ(lamps(0)[1], first[1]);
+    EXPECT_NE(lamps(1)[0], second[0]);
+    EXPECT_NE(lamps(1)[1], second[1]);
 }
 
 TEST_F(RegionPage, RegionsThatTheModeTakesAwayTakeNoPress)

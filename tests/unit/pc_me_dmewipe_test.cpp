@@ -529,6 +529,8 @@ TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
         {0x13630000, "M/E-3", "7391", {18, 20, 22, 54}, {17, 21, 49}},
         {0x13630000, "M/E-3", "2001", {49, 50, 51}, {17, 20, 52}},
         {0x13630000, "M/E-3", "3401", {20, 22, 49, 52}, {21}},
+        {0x13630000, "M/E-3", "1336", {21, 22}, {20, 54}}, // the last of its kind
+        {0x13630000, "M/E-3", "1418", {20, 22, 54}, {21}},
         {0x13640000, "M/E-3", "1310", {17, 37, 38}, {49, 50}},
         {0x13640000, "M/E-3", "1905", {17, 18}, {37, 38, 49}},
         {0x13640000, "M/E-3", "1001", {17, 37, 49}, {}},
@@ -598,6 +600,7 @@ TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
                  {0x12170007, "M/E-2@Key1@Transition@DME Wipe", "1003", 17, "1"}};
     for (const auto& c : cases) {
         OpenWith(c.page, c.root, c.pattern);
+        EXPECT_STREQ(NB_GetTitle(), "Remove");
         EXPECT_FALSE(Enabled(19));
         const std::string remove = root + "@Modify@Remove From Begin@", ch = c.channel;
         Tell(remove + ch + "#true");

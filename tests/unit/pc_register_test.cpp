@@ -10,6 +10,7 @@
 #include "register_region.h"
 #include "table_page.h"
 #include "window.h"
+#include <array>
 #include <cstring>
 
 namespace
@@ -346,6 +347,12 @@ TEST_F(RegisterPages, OneRegionMayGoToAnotherOfItsSort)
     Cursor(2, 5);
     EXPECT_EQ(BT_GetVisible(BTN_REGISTER_REGION_2), BT_DISABLED);
     EXPECT_THAT(Puts(49), ElementsAre("put Snapshot@Snapshot@Copy#6,1,1,6,6,false"));
+    for (const uint32_t page : {0x63230000u, 0x63240000u, 0x63250000u}) {
+        Open(page);
+        Cursor(2, 40 + int(page >> 16 & 15));
+        Open(page);
+        EXPECT_EQ(LS_GetNowLine(2), 40 + int(page >> 16 & 15)) << "kept for all of them";
+    }
 }
 
 TEST_F(RegisterPages, TheHoldPageWritesWhatItsRowsSay)
@@ -387,6 +394,15 @@ TEST_F(RegisterPages, TheHoldPageWritesWhatItsRowsSay)
         EXPECT_EQ(sent[0].substr(0, head.size()), head);
         EXPECT_EQ(sent[0].find_first_not_of('0', head.size()),
                   c.levels ? std::string::npos : sent[0].npos);
+    }
+}
+
+TEST_F(RegisterPages, AFormatOfHalfTheKeysHoldsFour)
+{
+    for (const auto& [size, scan, keys] : {std::array{4, 4, 4}, {4, 3, 8}, {3, 4, 8}}) {
+        SYS_Format_Size = size;
+        SYS_Format_Scan = scan;
+        EXPECT_EQ(snapshot_xpthold_keys(0), keys) << size << scan;
     }
 }
 
