@@ -338,3 +338,26 @@ TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNews)
     EXPECT_EQ(R(ME1).redraw_tl, 1) << "the rows of the timeline need it";
     EXPECT_FALSE(StripPaints(0)) << "they have not been painted yet, the strip has";
 }
+
+// The router has no timeline to show, and a menu macro that is recorded has keys in this place.
+TEST_F(Keyframes, TheStripKnowsWhatHasNoPlaceInIt)
+{
+    const auto of_reference = [](unsigned char code) {
+        kf::Select({code, 0x02, 0, 0, 0, 0, 0, 0});
+        KF_DrawTopArea(KF_DRAW_ANEW);
+        return PixelsIn({508, 6, 797, 65});
+    };
+    EXPECT_EQ(of_reference(66), of_reference(1));
+    EXPECT_NE(of_reference(66), of_reference(2));
+    for (const auto& [id, has_strip] : {std::pair{0x61110000u, true},
+                                        {0x61130000u, false},
+                                        {0x71110000u, true},
+                                        {0x71440002u, false},
+                                        {0x11110000u, false}}) {
+        GL_NowPage = id;
+        GL_MenuMacro_Edit = 1;
+        EXPECT_EQ(KF_HasTopArea(), has_strip) << std::hex << id;
+        GL_MenuMacro_Edit = 0;
+        EXPECT_TRUE(KF_HasTopArea());
+    }
+}
