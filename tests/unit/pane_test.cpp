@@ -475,6 +475,7 @@ TEST_F(Panes, AProgressComesBackWithWhatWasNoted)
         const int id = c.create("Load", "", 1);
         Pass();
         EXPECT_EQ(PixelAt(567, 215), 0x00DDD4U) << "full";
+        EXPECT_EQ(pane_top()->each.progress.lamp, ROUTE_LAMP_CONTROL);
         EXPECT_EQ(c.quit(), 0);
         EXPECT_EQ(Pane_Exist(id), 0);
         EXPECT_EQ(c.quit(), -1);
