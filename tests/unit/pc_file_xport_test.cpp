@@ -4,6 +4,7 @@
 #include "file_xport.h"
 #include "fmctrl3.h"
 #include "frame_page.h"
+#include "pane_private.h"
 #include "pc_file_xport.h"
 
 namespace
@@ -373,11 +374,17 @@ TEST_F(ClipXportPage, FindSelectsAClipOfTheShownFolderAndGoesRound)
         if (step.button)
             SendMessage(LMSG_PANEBTNSEL, step.button, 0, 0, 0);
         EXPECT_THAT(ShownClips(), Contains(step.selected));
+        EXPECT_EQ(pane_top()->each.find.indicator, 0) << "the search is over";
     }
     SendMessage(LMSG_PANEBTNSEL, PANEFIND_CLOSE, 0, 0, 0);
     for (int i = 0; i < 3; i++)
         Pass(100);
     EXPECT_FALSE(Pane_Exist(GL_FM_Find_PaneID));
+    Press(BTN_XPORT_FIND);
+    const int pane = GL_FM_Find_PaneID;
+    EXPECT_TRUE(Pane_Exist(pane));
+    CreatePage(PAGE_TOP);
+    EXPECT_FALSE(Pane_Exist(pane)) << "it goes with its page";
 }
 
 TEST_F(ClipXportPage, ExportTakesEachFrameOfTheSelectedClips)

@@ -241,6 +241,8 @@ TEST_F(KeyChromaPage, TheBackingIsChosenFromItsPullDown)
     EXPECT_THAT(touch_pane(630, 442), ElementsAre("put " + backing + "#Blue"));
     EXPECT_EQ(Caption(54), "Green") << "only the tally changes it";
     Press(54);
+    EXPECT_THAT(touch_pane(630, 478), ElementsAre("put " + backing + "#Red"));
+    Press(54);
     EXPECT_THAT(touch_pane(200, 200), IsEmpty()) << "beside it: no choice";
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
