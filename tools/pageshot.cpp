@@ -11,12 +11,14 @@
 #include "a_kf.h"
 #include "bus.h"
 #include "device.h"
+#include "file.h"
 #include "global.h"
 #include "graphics.h"
 #include "guest.h"
 #include "log.h"
 #include "message.h"
 #include "page.h"
+#include "pane.h"
 #include "picture.h"
 #include "tdl.h"
 #include "text.h"
@@ -136,6 +138,7 @@ constexpr int ROUNDS = 3;    // of answers, and answers to what they led to
 constexpr size_t SHEET = 20; // pictures on one sheet
 constexpr int SHEET_COLUMNS = 4;
 constexpr int SHEET_SCALE = 2; // the part of a page's size
+constexpr int FILES_MS = 2000;
 } // namespace
 
 // The rows of the banks, of all banks without any, by id.
@@ -177,6 +180,36 @@ static std::string Caption(const PAGE& row)
     return caption;
 }
 
+// Drives answer in their own time, and the end of one job begins another.
+static void WaitForFiles(int limit_ms)
+{
+    constexpr int PASS_MS = 10;
+    constexpr int QUIET_MS = 50;
+    for (int ms = 0, quiet_ms = 0; ms < limit_ms && quiet_ms < QUIET_MS; ms += PASS_MS) {
+        Guest_Pass(PASS_MS);
+        SDL_Delay(PASS_MS);
+        quiet_ms = QueueRoot ? 0 : quiet_ms + PASS_MS;
+    }
+}
+
+// The pages of files show a show that has been saved.
+static void SaveShow()
+{
+    constexpr uint32_t ALL_PAGE = 0x71110000;
+    constexpr int SAVED_MS = 60000;
+    constexpr int yes = 1;
+    if (CreatePage(ALL_PAGE) != 0)
+        return;
+    Guest_Settle(ROUNDS);
+    SendMessage(LMSG_BTNSEL, MsgArg("LOCAL@File@All@L to R"), 0, 0, 0);
+    const int question = Pane_GetActiveID();
+    (void)Pane_Quit(question);
+    SendMessage(LMSG_PANEQUIT, question, yes, 0, 0);
+    for (int i = 0; i < ROUNDS; i++)
+        WaitForFiles(SAVED_MS); // the registers, then the pictures
+    Guest_CloseAll();
+}
+
 static int AllPages(const std::string& dir, char** banks, int count)
 {
     std::vector<NamedPicture> sheet;
@@ -184,6 +217,7 @@ static int AllPages(const std::string& dir, char** banks, int count)
     int number = 0, written = 0, missing = 0;
     bool is_good = true;
     const auto end_sheet = [&] { is_good = is_good && WriteSheet(dir, bank, ++number, &sheet); };
+    SaveShow();
     for (const PAGE* row : Wanted(banks, count)) {
         if (!is_good)
             break;
@@ -199,6 +233,7 @@ static int AllPages(const std::string& dir, char** banks, int count)
             continue;
         }
         Guest_Settle(ROUNDS);
+        WaitForFiles(FILES_MS);
         const Picture picture = Picture_OfScreen();
         char id[16];
         PrintText(id, "/%08X.png", unsigned(row->id));
