@@ -177,8 +177,6 @@ static void take_menu(const PAGE& row, uint32_t id)
         menu->page = remembered;
 }
 
-// The state of navigation is complete before the first object is touched: page code asks for it
-// while it is created, and what it sends reaches the objects that are there so far.
 // The objects of a row in the place of those that are there, and their picture.
 static void build(const PAGE& row)
 {
@@ -208,6 +206,8 @@ static void follow_what_it_ended(uint32_t left)
         Tally_FollowCombine();
 }
 
+// The state of navigation is complete before the first object is touched: page code asks for it
+// while it is created, and what it sends reaches the objects that are there so far.
 int CreatePage(uint32_t id)
 {
     Log_Output(LOG_LIFE, MOD_PAGE, "***** CreatePage(%Xh) Called *****", id);
