@@ -19,6 +19,9 @@ static constexpr const char* PERCENT = "num 0 100 2";
 static constexpr const char* TWICE = "num -200 200 2";
 static constexpr const char* PATTERN = "num 1 304 0";
 static constexpr const char* DME_PATTERN = "num 1001 9999 0";
+static constexpr const char* CROSSPOINT_PATH = "word Hold,Change";
+static constexpr const char* HUE_PATH = "word Short,Long,CW,CCW";
+static constexpr const char* CURVE_PATH = "word Linear,S-Curve,Spline,Off,Step";
 
 static constexpr PathKind kinds[] = {
     // What is on the air.
@@ -97,6 +100,14 @@ static constexpr PathKind kinds[] = {
     {"Router@Salvo@*@Clear", "action"},
     {"Global Effect@*@Priority@Ch*", "word 1,2,3,4"},
     {"Global Effect@*@Trail@Ch*", "word Off,Pre,Post"},
+    // Keyframe paths: of a region, of a part of it.
+    {"Key Frame@Path@*@*@Xpt", CROSSPOINT_PATH},
+    {"Key Frame@Path@*@*@*@Xpt", CROSSPOINT_PATH},
+    {"Key Frame@Path@*@*@Hue", HUE_PATH},
+    {"Key Frame@Path@*@*@*@Hue", HUE_PATH},
+    {"Key Frame@Path@*@*@Curve", CURVE_PATH},
+    {"Key Frame@Path@*@*@*@Curve", CURVE_PATH},
+    {"**@Curve@Spline@*", "num -1 1 2"},
     // Registers.
     {"**@Temporary Duration", "num 0 999 0"}, // frames
     {"**@Temporary Duration@*", "num 0 999 0"},
