@@ -103,14 +103,6 @@ class Panel:
             positions.append(self.position())
         return positions
 
-    def quiet(self, seconds=0.3):
-        return self.frame(seconds) is None
-
-    def drain(self):
-        """Until nothing comes, for long enough on a machine that is busy with other things."""
-        while self.frame(0.5):
-            pass
-
 
 class StreamTest(SimTest):
     def panel(self, *codes, streams=(SELECTION, POSITION, EFFECT)):
@@ -119,8 +111,16 @@ class StreamTest(SimTest):
             panel.send(1, stream)
         if codes:
             panel.join(*codes)
-        panel.drain()
+        self.settle(panel)
         return panel
+
+    def settle(self, panel):
+        """What came of all that the simulator was told so far. It has read in one turn and written by the next."""
+        for _ in range(2):
+            self.do("get Settled")
+            while (line := self.sim.stdout.readline()) != "Settled#\n":
+                self.assertTrue(line, "the simulator has ended")
+        return list(iter(lambda: panel.frame(0), None))
 
     def told(self, client, *lines):
         """The client hears these lines next, in any order."""
@@ -132,7 +132,7 @@ class Streams(StreamTest):
         panel = Panel(self.client(BIN))
         panel.join(ME1)
         self.do("kf M/E-1 2 10", "select M/E-2 on")
-        self.assertTrue(panel.quiet())
+        self.assertEqual(self.settle(panel), [])
         panel.send(1, SELECTION)
         self.assertEqual(panel.frame()[0], SELECTION)  # the state as it is now
         panel.send(5, SELECTION)
@@ -145,9 +145,9 @@ class Streams(StreamTest):
         self.assertEqual((panel.effect().code, panel.position().code), (ME1, ME1))
         panel.send(2, EFFECT)
         panel.send(2, SELECTION)
-        self.do("wait 100", "kf M/E-1 3 10", "select M/E-2 off", "kf M/E-2 3 10")
-        self.assertEqual(panel.frame()[0], POSITION)
-        self.assertTrue(panel.quiet())
+        self.settle(panel)
+        self.do("kf M/E-1 3 10", "select M/E-2 off", "kf M/E-2 3 10")
+        self.assertEqual([number for number, _ in self.settle(panel)], [POSITION])
 
     def test_the_effect_frame_carries_every_field(self):
         panel = self.panel(ME4)
@@ -170,7 +170,7 @@ class Running(StreamTest):
 
     def load(self, *commands):
         self.do(*commands)
-        self.panel1.drain()
+        self.settle(self.panel1)
 
     def test_a_run_moves_the_cursor_by_one_frame_at_the_rate_of_the_format(self):
         self.load("kf M/E-1 3 20")
@@ -182,7 +182,7 @@ class Running(StreamTest):
         self.assertEqual([run[at].key for at in (0, 19, 20, 39, 40)], [1, 1, 2, 2, 3])
         self.assertEqual({p.run for p in run[:-1]}, {1})
         self.assertGreater(took, 40 / 30 - 0.05)
-        self.assertLess(took, 40 / 30 + 0.7)
+        self.assertLess(took, 2 * 40 / 30)
 
     def test_reverse_and_the_jumps_to_both_ends(self):
         self.load("kf M/E-1 3 5")
@@ -217,7 +217,7 @@ class Keys(StreamTest):
     def test_the_run_keys_act_on_the_selected_regions_and_show_what_runs(self):
         panel = self.panel(ME1, ME2, PP)
         self.do("kf M/E-1 2 12", "kf M/E-2 2 12", "kf P/P 2 300")
-        panel.drain()
+        self.settle(panel)
         self.other.send(f"add {RUN}Run", f"add {RUN}Reverse", f"add {RUN}Stop")
         self.assertEqual(self.other.sync(), [f"{RUN}{key}#false" for key in ("Run", "Reverse", "Stop")])
         self.text.send(f"put {RUN}Run#true")
@@ -254,12 +254,12 @@ class Keys(StreamTest):
         self.text.send(f"put {SELECT}Ref Region Set#Nowhere", f"put {SELECT}Region Enable@M/E-1#maybe")
         self.text.line()
         self.assertEqual(self.text.lines(2), [f"{SELECT}Ref Region Set#M/E-1", f"{SELECT}Region Enable@M/E-1#true"])
-        self.assertTrue(panel.quiet())
+        self.assertEqual(self.settle(panel), [])
 
     def test_edits_change_the_keyframe_at_the_cursor_and_can_be_undone(self):
         panel = self.panel(ME1)
         self.do("select P/P off", "kf M/E-1 3 40")
-        panel.drain()
+        self.settle(panel)
 
         def keys(command):
             self.text.send(f"put {RUN}{command}#true")

@@ -40,6 +40,7 @@ class Client:
 
     def __init__(self, port=TEXT):
         self.socket = socket.create_connection(("127.0.0.1", port), 5)
+        self.socket.setsockopt(socket.IPPROTO_TCP, socket.TCP_NODELAY, 1)  # what is sent is there before the next
         self.bytes = b""
 
     def close(self):
