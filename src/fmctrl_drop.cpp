@@ -56,7 +56,6 @@ static FILEXFERLIST* FMAuto_ImageList = nullptr; // of the two jobs
 static FILEXFERLIST* FMAuto_SfmList = nullptr;
 
 static struct {
-    int setup_step = 0; // commands done; the folders are there when all are
     int poll_ms = 0;
     int quiet_ms = 0;
     bool knows_registers = false; // the store's size has been told
@@ -75,7 +74,7 @@ static struct {
     uint32_t job_label[2] = {}; // of them; 0 none
 } drop;
 
-// --- Making the folders anew at start-up: a command a pass ---
+// --- Making the folders anew at start-up: one command after the other, beside the passes ---
 
 namespace
 {
@@ -99,6 +98,12 @@ static constexpr SetupStep setup_steps[] = {
 };
 constexpr int SETUP_STEPS = int(std::size(setup_steps));
 
+static struct {
+    int steps = 0; // begun
+    int child = 0; // of the last of them, while it runs
+    bool is_done = false;
+} setup; // once for the life of the process
+
 static void make_folders()
 {
     for (int k = 0; k < FOLDERS; k++) {
@@ -116,24 +121,54 @@ static struct timespec folder_time(int k)
     return stat(FMAuto[k].path, &st) == 0 ? st.st_mtim : timespec{};
 }
 
+static void setup_failed(const SetupStep& step)
+{
+    Log_Output(LOG_LIFE, MOD_FM, "FM Auto Load: failed: %s", step.command);
+}
+
+// False while the command before is at work.
+static bool setup_is_free()
+{
+    int status = 0;
+    if (setup.child == 0)
+        return true;
+    if (!ktr_has_ended(setup.child, &status))
+        return false;
+    setup.child = 0;
+    if (status != 0)
+        setup_failed(setup_steps[setup.steps - 1]);
+    return true;
+}
+
+static void setup_begin(const SetupStep& step)
+{
+    struct stat st;
+    if (!step.command)
+        return make_folders();
+    // A second link would be made inside the folder that the first one leads to.
+    if (step.link && lstat(step.link, &st) == 0)
+        return;
+    const int child = ktr_start(step.command);
+    if (child > 0)
+        setup.child = child;
+    else
+        setup_failed(step);
+}
+
 static void setup_pass()
 {
-    const SetupStep& step = setup_steps[drop.setup_step++];
-    struct stat st;
-    // A second link would be made inside the folder that the first one leads to.
-    const bool is_there = step.link && lstat(step.link, &st) == 0;
-    if (!step.command)
-        make_folders();
-    else if (!is_there && ktr_system(step.command) != 0)
-        Log_Output(LOG_LIFE, MOD_FM, "FM Auto Load: failed: %s", step.command);
-    if (drop.setup_step == SETUP_STEPS)
-        for (int k = 0; k < FOLDERS; k++)
-            FMAuto[k].before_tm = folder_time(k);
+    if (!setup_is_free())
+        return;
+    if (setup.steps < SETUP_STEPS)
+        return setup_begin(setup_steps[setup.steps++]);
+    for (int k = 0; k < FOLDERS; k++)
+        FMAuto[k].before_tm = folder_time(k);
+    setup.is_done = true;
 }
 
 bool fm_drop_is_set_up()
 {
-    return drop.setup_step == SETUP_STEPS;
+    return setup.is_done;
 }
 
 void fm_drop_registers_told()
@@ -503,7 +538,7 @@ static void wait_pass(int elapsed_ms)
 void fm_drop_pass(int elapsed_ms)
 {
     if (!fm_drop_is_set_up()) {
-        if (elapsed_ms > 0) // a mere repaint does not wait for a command
+        if (elapsed_ms > 0) // a mere repaint begins no command
             setup_pass();
         return;
     }
@@ -522,7 +557,5 @@ void fm_drop_quit()
 {
     fm_drop_link_lost();
     found_forget();
-    const int setup_step = drop.setup_step;
     drop = {};
-    drop.setup_step = setup_step;
 }

@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -31,6 +32,10 @@ struct Signals {
     struct sigaction interrupt;
     struct sigaction quit;
     sigset_t mask;
+};
+struct Words {
+    char text[COMMAND_MAX];
+    char* word[WORDS_MAX + 1];
 };
 } // namespace
 
@@ -126,17 +131,41 @@ static int process_split(char* text, char* (&words)[WORDS_MAX + 1])
     return n;
 }
 
+static bool process_words(Words& w, const char* cmd)
+{
+    if (!cmd || strlen(cmd) >= sizeof w.text)
+        return false;
+    CopyText(w.text, cmd);
+    return process_split(w.text, w.word) > 0;
+}
+
 int ktr_exec(const char* cmd)
 {
-    char text[COMMAND_MAX];
-    if (!cmd || strlen(cmd) >= sizeof text)
-        return -1;
-    CopyText(text, cmd);
-    char* words[WORDS_MAX + 1];
-    if (process_split(text, words) < 1)
-        return -1;
-    execv(words[0], words);
+    Words w;
+    if (process_words(w, cmd))
+        execv(w.word[0], w.word);
     return -1;
+}
+
+// Spawned and not forked: nothing of this process is copied for a program that replaces it at once.
+int ktr_start(const char* cmd)
+{
+    Words w;
+    pid_t pid = -1;
+    if (!process_words(w, cmd) ||
+        posix_spawn(&pid, w.word[0], nullptr, nullptr, w.word, environ) != 0)
+        return -1;
+    return pid;
+}
+
+int ktr_has_ended(int child, int* status)
+{
+    const pid_t pid = waitpid(child, status, WNOHANG);
+    if (pid < 0 && errno != EINTR) {
+        *status = -1;
+        return 1;
+    }
+    return pid > 0;
 }
 
 static long open_max()

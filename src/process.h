@@ -13,6 +13,12 @@ int ktr_system(const char* cmd);
 // path). Returns only on failure, with -1; a command with too many words or characters is refused,
 // never cut.
 int ktr_exec(const char* cmd);
+// As ktr_system, without waiting: the child works beside the pass. Returns its id, -1 when it can't
+// be run. The caller asks ktr_has_ended until it has, and no longer.
+int ktr_start(const char* cmd);
+// 1, with the wait status, when a child of ktr_start has ended (-1: somebody else has taken the
+// status); 0 while it runs.
+int ktr_has_ended(int child, int* status);
 // A pipe to or from a child run by the shell; type "r" or "w". Null on failure. The table of
 // streams is made at the first call and lives as long as the process: one live allocation.
 FILE* ktr_popen(const char* cmd, const char* type);

@@ -1,5 +1,6 @@
 #include "file.h"
 #include "fmctrl_page.h"
+#include "fmctrl_private.h"
 #include <algorithm>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,8 +17,10 @@ struct DropFolders : FrameMemory {
     {
         FrameMemory::SetUp();
         File_ReplaceSync([] { return 0; });
-        for (int i = 0; i < 12; i++)
-            Pass(0); // the folders are made, at the first test of the process
+        for (int i = 0; i < 5000 && !fm_drop_is_set_up(); i++) {
+            Pass(1); // the folders are made, at the first test of the process, beside the passes
+            usleep(1000);
+        }
         for (const char* folder : {"/mnt/sys/FMLoad", "/mnt/sys/FTPIF/Command"})
             for (const auto& entry : fs::recursive_directory_iterator(folder))
                 if (!entry.is_directory())

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <sys/time.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace
 {
@@ -42,6 +43,13 @@ TEST(Process, WordsRunWithoutAShell)
         EXPECT_TRUE(WIFEXITED(status)) << c.cmd;
         EXPECT_EQ(WEXITSTATUS(status), c.exit_status) << c.cmd;
     }
+    const int child = ktr_start("/bin/sh -c \"sleep 0.1; exit 3\"");
+    int status = 0;
+    EXPECT_FALSE(ktr_has_ended(child, &status)) << "nobody waits for it";
+    while (!ktr_has_ended(child, &status))
+        usleep(1000);
+    EXPECT_EQ(WEXITSTATUS(status), 3);
+    EXPECT_EQ(ktr_start("/nowhere/program"), -1);
     EXPECT_EQ(ktr_system(nullptr), -1);
     EXPECT_EQ(WEXITSTATUS(ktr_system(("/bin/true " + std::string(5000, 'x')).c_str())), 255);
 }
