@@ -340,51 +340,64 @@ static void take_parts(const SETUPTABLE& t, const SETUPFIELD& f, const char* val
             take_value(t, row, f, v[row]);
 }
 
-static int take_tally(const SETUPTABLE& t, const char* path, const char* value)
+// What a tally says anew: a row, all of them, or nothing that a row has.
+enum : int { TOLD_NONE = -1, TOLD_ALL = -2 };
+
+// False when the path is none of the table's.
+static bool take_tally(const SETUPTABLE& t, const char* path, const char* value, int* told)
 {
     char key[SETUP_TEXT];
-    int is_taken = 0;
+    bool is_taken = false;
+    *told = TOLD_NONE;
     for (int i = 0; i < t.field_count; i++) {
         const SETUPFIELD& f = t.fields[i];
         if (f.part == SETUP_BY_PAGE || !is_path_of(t, f, path, key))
             continue;
-        is_taken = 1;
-        if (f.part > 0 && strchr(f.path, '$')) {
-            if (const int row = SetupPage_Row(t, key); row >= 0)
+        is_taken = true;
+        const bool is_own = strchr(f.path, '$');
+        const int row = is_own ? SetupPage_Row(t, key) : *t.rows > 0 ? 0 : -1;
+        if (f.part > 0 && is_own) {
+            if (row >= 0)
                 take_own_line(t, row, f, value);
+            *told = row;
             break;
         }
         if (f.part > 0) {
             take_line(t, f, value);
+            *told = TOLD_ALL;
             break;
         }
         if (f.part == SETUP_EACH_ROW) {
             take_parts(t, f, value);
+            *told = TOLD_ALL;
             continue;
         }
-        const int row = strchr(f.path, '$') ? SetupPage_Row(t, key) : *t.rows > 0 ? 0 : -1;
         if (row >= 0 && has(t, row, f))
             take_value(t, row, f, value);
+        if (*told != TOLD_ALL)
+            *told = row;
     }
-    if (is_taken)
-        SetupPage_Show(t);
     return is_taken;
 }
 
 // --- What the page shows ---
 
+// A column that two fields share shows the one that the row has.
+static void show_row(const SETUPTABLE& t, int row)
+{
+    for (int i = 0; i < t.field_count; i++) {
+        const SETUPFIELD& f = t.fields[i];
+        if (f.column < 0 || !has(t, row, f))
+            continue;
+        (void)LS_SetData(t.list, row, f.column, work_text(t, row, f));
+        (void)LS_SetStatus(t.list, row, f.column, differs(t, row, f) ? SETUP_CELL_CHANGED : 0);
+    }
+}
+
 static void show_list(const SETUPTABLE& t)
 {
-    for (int row = 0; row < *t.rows; row++) {
-        // A column that two fields share shows the one that the row has.
-        for (int i = 0; i < t.field_count; i++) {
-            const SETUPFIELD& f = t.fields[i];
-            if (f.column < 0 || !has(t, row, f))
-                continue;
-            (void)LS_SetData(t.list, row, f.column, work_text(t, row, f));
-            (void)LS_SetStatus(t.list, row, f.column, differs(t, row, f) ? SETUP_CELL_CHANGED : 0);
-        }
-    }
+    for (int row = 0; row < *t.rows; row++)
+        show_row(t, row);
     (void)LS_SetNData(t.list, *t.rows);
     // Rows that are told only now: one of them is current.
     if (*t.rows > 0 && !LS_GetMS(t.list) && LS_GetSelected(t.list, 0) < 0)
@@ -416,18 +429,40 @@ static void show_choices(const SETUPTABLE& t)
     }
 }
 
+static void show_keys(const SETUPTABLE& t)
+{
+    const int is_same = !SetupPage_Differs(t);
+    if (t.btn_clear)
+        (void)BT_SetDisable(t.btn_clear, is_same);
+    if (t.btn_execute)
+        (void)BT_SetDisable(t.btn_execute, is_same);
+}
+
 void SetupPage_Show(const SETUPTABLE& t)
 {
     if (!t.state->is_open)
         return;
     if (t.list)
         show_list(t);
-    const int is_same = !SetupPage_Differs(t);
-    if (t.btn_clear)
-        (void)BT_SetDisable(t.btn_clear, is_same);
-    if (t.btn_execute)
-        (void)BT_SetDisable(t.btn_execute, is_same);
+    show_keys(t);
     show_choices(t);
+    if (t.changed)
+        t.changed();
+}
+
+// A page that opens is told its rows one by one, hundreds in a pass: each costs what its own row
+// costs.
+static void show_told(const SETUPTABLE& t, int told)
+{
+    if (told == TOLD_ALL || !t.list)
+        return SetupPage_Show(t);
+    if (told == TOLD_NONE)
+        return;
+    show_row(t, told);
+    (void)LS_RedrawData(t.list);
+    show_keys(t);
+    if (told == t.state->cursor)
+        show_choices(t);
     if (t.changed)
         t.changed();
 }
@@ -723,6 +758,15 @@ static int pane_closed(const SETUPTABLE& t, int pane, int result)
     return 1;
 }
 
+static int tally(const SETUPTABLE& t, const char* path, const char* value)
+{
+    int told;
+    if (!take_tally(t, path, value, &told))
+        return 0;
+    show_told(t, told);
+    return 1;
+}
+
 static int row_selected(const SETUPTABLE& t, int list)
 {
     if (list != t.list || list == 0)
@@ -737,7 +781,7 @@ int SetupPage_Proc(const SETUPTABLE& t, int msg, MsgArg ax, MsgArg bx)
     if (!t.state->is_open)
         return 0;
     switch (msg) {
-    case MSG_TALLY: return take_tally(t, Text(ax), Text(bx));
+    case MSG_TALLY: return tally(t, Text(ax), Text(bx));
     case LMSG_BTNSEL: return button_pressed(t, Text(ax), Text(bx));
     case LMSG_PANEQUIT: return pane_closed(t, int(ax), int(bx));
     case LMSG_LISTSEL: return row_selected(t, int(ax));
