@@ -58,26 +58,9 @@ void draw_combiner_trail(const Canvas& cv, const State&, int kind)
     }
 }
 
-void digit(const Canvas& cv, double x, double y, int number)
+void draw_combiner_channel(const Canvas& cv, const State&, int)
 {
-    switch (number) {
-    case 1: CV_Lines(cv, {{x + 1, y + 3}, {x + 4, y}, {x + 4, y + 12}}); break;
-    case 2:
-        CV_Lines(cv, {{x, y + 1}, {x + 5, y}, {x + 7, y + 3}, {x, y + 12}, {x + 7, y + 12}});
-        break;
-    case 3:
-        CV_Lines(
-            cv, {{x, y}, {x + 7, y}, {x + 3, y + 5}, {x + 7, y + 8}, {x + 5, y + 12}, {x, y + 12}});
-        break;
-    default: CV_Lines(cv, {{x + 5, y + 12}, {x + 5, y}, {x, y + 8}, {x + 8, y + 8}});
-    }
-    CV_Stroke(cv, 2, 0xFFFFFF);
-}
-
-void draw_combiner_channel(const Canvas& cv, const State&, int number)
-{
-    box(cv, 0, 0, TILE_W, TILE_H);
-    digit(cv, 16, 6, number);
+    box(cv, 0, 0, TILE_W, TILE_H); // the program writes the channel's number on it
 }
 
 void draw_combiner_out(const Canvas& cv, const State&, int)
@@ -172,10 +155,10 @@ constexpr Family FAMILIES[] = {
     {"Combiner_Trail_Off",  40,  24, ON_BLACK, draw_combiner_trail, STATE_SINGLE, TRAIL_NONE},
     {"Combiner_Trail_Post", 40,  24, ON_BLACK, draw_combiner_trail, STATE_SINGLE, TRAIL_POST},
     {"Combiner_Trail_Pre",  40,  24, ON_BLACK, draw_combiner_trail, STATE_SINGLE, TRAIL_PRE},
-    {"Combiner_Chx1",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE, 1},
-    {"Combiner_Chx2",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE, 2},
-    {"Combiner_Chx3",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE, 3},
-    {"Combiner_Chx4",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE, 4},
+    {"Combiner_Chx1",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE},
+    {"Combiner_Chx2",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE},
+    {"Combiner_Chx3",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE},
+    {"Combiner_Chx4",       40,  24, ON_BLACK, draw_combiner_channel, STATE_SINGLE},
     {"Combiner_Out",        40,  24, ON_BLACK, draw_combiner_out, STATE_SINGLE},
     {"menu",               160,  80, ON_BLACK, draw_unit, STATE_SINGLE, UNIT_MENU},
     {"swr",                160,  80, ON_BLACK, draw_unit, STATE_SINGLE, UNIT_SWITCHER},

@@ -159,7 +159,7 @@ int st_drw_globaleffect_combiner2(ST_MEM*);
 int st_drw_globaleffect_combiner2_3D(ST_MEM*);
 int st_drw_globaleffect_combiner2_dp(ST_MEM*);
 int st_drw_globaleffect_combiner2_e(ST_MEM*);
-// Their pictures. Channels count from 0 in their group of four.
+// Their pictures. A channel of a combination is 1 to 8, of a trail the row of its group, from 0.
 int st_drw_center_image_ch_out_priority(const ST_MEM* cell, const char* priority);
 int st_drw_center_image_ch_out_brick(const ST_MEM* cell, int faces);
 int st_drw_center_image_ch_out_brick_4ch(const ST_MEM* cell);

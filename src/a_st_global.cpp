@@ -69,12 +69,20 @@ int st_drw_center_image_ch_out_brick_4ch(const ST_MEM* cell)
     return TDL_RectS(cell->x1 + 26, cell->y1 + 22, cell->x1 + 73, cell->y1 + 61, WHITE);
 }
 
-int st_drw_center_image_ch_combine(const ST_MEM* cell, int channel)
+// The same tiles stand for both groups of a switcher: the number is that of the channel.
+static int put_channel_tile(int x, int y, int channel)
 {
     SDL_Surface* const tiles[CHANNELS] = {G_Combiner_Chx1, G_Combiner_Chx2, G_Combiner_Chx3,
                                           G_Combiner_Chx4};
-    return channel >= 0 && channel < CHANNELS
-               ? TDL_PutS(cell->x1 + 30, cell->y1 + 33, tiles[channel])
+    constexpr int WIDTH = 40, HEIGHT = 24, FONT_NUMBER = 5;
+    TDL_PutS(x, y, tiles[(channel - 1) % CHANNELS]);
+    return TDL_SymbolCS(x, y, x + WIDTH - 1, y + HEIGHT - 1, NumStr(channel), FONT_NUMBER, WHITE);
+}
+
+int st_drw_center_image_ch_combine(const ST_MEM* cell, int channel)
+{
+    return channel >= 1 && channel <= 2 * CHANNELS
+               ? put_channel_tile(cell->x1 + 30, cell->y1 + 33, channel)
                : -1;
 }
 
@@ -137,7 +145,7 @@ static int draw_out(ST_MEM* cell, int channel, ChannelForm form)
         return st_drw_under_strings(c, "Brick", 0);
     }
     if (st_is_on(c, OUT_COMBINE)) {
-        st_drw_center_image_ch_combine(c, (channel - 1) % CHANNELS);
+        st_drw_center_image_ch_combine(c, form == PAIR ? 2 * channel - 1 : channel);
         return st_drw_under_strings(c, "Combine", 0);
     }
     if (c->tally[OUT_PRIORITY][0]) {
@@ -194,21 +202,19 @@ static void veil_row(const ST_MEM* c, int row)
     TDL_FillRectAS(x, y, x + 39, y + 23, 0, static_cast<unsigned char>(gry_rat));
 }
 
-static void put_channel(const ST_MEM* c, const Combiner& form, int channel)
+static void put_channel(const ST_MEM* c, const Combiner& form, int first, int channel)
 {
-    SDL_Surface* const tiles[CHANNELS] = {G_Combiner_Chx1, G_Combiner_Chx2, G_Combiner_Chx3,
-                                          G_Combiner_Chx4};
     const bool is_combined = st_is_on(c, COMBINE + channel);
     for (int i = 0; i < form.rows_a_channel; i++) {
         const int row = channel * form.rows_a_channel + i;
-        put_tile(c, 0, row * ROW_PITCH, tiles[row]);
+        put_channel_tile(c->x1 + DIAGRAM_X, c->y1 + DIAGRAM_Y + row * ROW_PITCH, first + row);
         if (!is_combined)
             veil_row(c, row);
     }
     form.put_trail(c, channel, is_combined ? c->tally[TRAIL + channel] : "Off");
 }
 
-static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form)
+static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form, int first)
 {
     const ST_MEM* c = st_begin(cell, st_in_view(cell), name);
     if (!c)
@@ -218,7 +224,7 @@ static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form)
     TDL_PutS(c->x1 + DIAGRAM_X, c->y1 + DIAGRAM_Y, G_Combiner_Base);
     put_tile(c, OUT_X, OUT_Y, G_Combiner_Out);
     for (int i = 0; i < form.channels; i++)
-        put_channel(c, form, i);
+        put_channel(c, form, first, i);
     for (int row = form.channels * form.rows_a_channel; row < CHANNELS; row++) {
         st_drw_center_image_globaleffect_combiner_trail(c, row, "Off");
         veil_row(c, row); // the unit has no such channel
@@ -228,33 +234,33 @@ static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form)
 
 int st_drw_globaleffect_combiner1(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch1-Ch4 Combiner", single);
+    return draw_combiner(cell, "Ch1-Ch4 Combiner", single, 1);
 }
 int st_drw_globaleffect_combiner1_3D(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch1-Ch4 Combiner 3D", stereo);
+    return draw_combiner(cell, "Ch1-Ch4 Combiner 3D", stereo, 1);
 }
 int st_drw_globaleffect_combiner1_dp(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch1-Ch4 Combiner", pairs);
+    return draw_combiner(cell, "Ch1-Ch4 Combiner", pairs, 1);
 }
 int st_drw_globaleffect_combiner1_e(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch1-Ch2 Combiner", small_unit);
+    return draw_combiner(cell, "Ch1-Ch2 Combiner", small_unit, 1);
 }
 int st_drw_globaleffect_combiner2(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch5-Ch8 Combiner", single);
+    return draw_combiner(cell, "Ch5-Ch8 Combiner", single, 5);
 }
 int st_drw_globaleffect_combiner2_3D(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch5-Ch8 Combiner 3D", stereo);
+    return draw_combiner(cell, "Ch5-Ch8 Combiner 3D", stereo, 5);
 }
 int st_drw_globaleffect_combiner2_dp(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch5-Ch8 Combiner", pairs);
+    return draw_combiner(cell, "Ch5-Ch8 Combiner", pairs, 5);
 }
 int st_drw_globaleffect_combiner2_e(ST_MEM* cell)
 {
-    return draw_combiner(cell, "Ch3-Ch4 Combiner", small_unit);
+    return draw_combiner(cell, "Ch3-Ch4 Combiner", small_unit, 3);
 }

@@ -68,7 +68,8 @@ TEST_F(StatusPicture, ChannelsAndTheirCombiners)
          {"Global Effect@Ch1-Ch4@Brick@Ch4", "true"},
          {"Global Effect@Ch1-Ch4@Brick@Faces", "2"},
          {"Global Effect@Ch5-Ch8@Brick@Ch5", "true"},
-         {"Global Effect@Ch5-Ch8@Brick@Faces", "4"}});
+         {"Global Effect@Ch5-Ch8@Brick@Faces", "4"},
+         {"Global Effect@Ch5-Ch8@Combine@Ch6", "true"}});
     Pass();
     EXPECT_TRUE(MatchesGolden("status_global", work_area));
 }
