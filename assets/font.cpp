@@ -34,7 +34,7 @@ constexpr SlotFace SLOT_FACES[SLOTS] = {
     {"Regular", 11, 12, 9},        {"Medium", 12, 13, 10},
     {"Regular", 14, 15, 12},       {"Medium", 15, 14, 11, true, 7},
     {"Medium", 14, 14, 11, false}, {"Bold", 14, 15, 12},
-    {"Bold", 12, 13, 10},          {"Medium", 20, 21, 16},
+    {"Regular", 9, 10, 8},         {"Medium", 20, 21, 16},
     {"Bold", 20, 21, 16},          {"Bold", 22, 25, 19},
 };
 

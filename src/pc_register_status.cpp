@@ -19,7 +19,8 @@ namespace
 constexpr int LINES = 10;
 constexpr int FIRST = 1; // register 0 has no cell
 constexpr int NAME_CHARS = 8;
-constexpr int FONT_CELL = 0; // eight letters in a cell
+constexpr int FONT_CELL = 0;  // eight letters in a cell
+constexpr int FONT_TIGHT = 6; // eight wide ones
 constexpr int FONT_LABEL = 2;
 constexpr int FONT_NAME = 8;
 constexpr Rect DETAIL = {100, 76, 701, 141};
@@ -220,7 +221,9 @@ static void draw_cell(int number)
     const unsigned ink = is_on ? BLACK : s.isempty ? EMPTY_INK : WHITE;
     TDL_FillRectS(r.x1, r.y1, r.x2, r.y2, ground);
     const char* const text = *s.name ? s.name : s.isempty ? "" : NumStr(number);
-    TDL_SymbolWS(r.x1 + 2, r.y1 + 5, s.islock ? 41 : 49, text, FONT_CELL, ink);
+    const int width = s.islock ? 41 : 49;
+    const bool fits = int(TDL_GetSymbolWidth(text, FONT_CELL)) < width;
+    TDL_SymbolWS(r.x1 + 2, r.y1 + (fits ? 5 : 6), width, text, fits ? FONT_CELL : FONT_TIGHT, ink);
     if (s.islock)
         TDL_SymbolS(r.x2 - 7, r.y1 + 4, "L", FONT_CELL, is_on ? BLACK : YELLOW);
     TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2);
