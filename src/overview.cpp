@@ -36,6 +36,11 @@ static int columns_of(const OVERVIEW& t)
     return std::min(t.column_count, OVERVIEW_COLUMNS);
 }
 
+static bool is_path_of_column_before(const OVERVIEW& t, int n)
+{
+    return n > 0 && Same(t.columns[n].path, t.columns[n - 1].path);
+}
+
 static void open_row(const OVERVIEW& t, int row)
 {
     for (int list = 1; list <= t.lists; list++)
@@ -47,7 +52,8 @@ static void open_row(const OVERVIEW& t, int row)
         cell = {.hash = Hash(path)};
         for (int list = 1; list <= t.lists; list++)
             LS_SetData(list, row, n + 1, cell.text);
-        Net_SendCommandFormat("%s %s", t.columns[n].is_for_life ? "read" : "add", path);
+        if (!is_path_of_column_before(t, n))
+            Net_SendCommandFormat("%s %s", t.columns[n].is_for_life ? "read" : "add", path);
     }
 }
 
@@ -67,7 +73,7 @@ void Overview_Close(const OVERVIEW& t)
 {
     for (int row = 0; row < ov.count; row++)
         for (int n = 0; n < columns_of(t); n++) {
-            if (t.columns[n].is_for_life)
+            if (t.columns[n].is_for_life || is_path_of_column_before(t, n))
                 continue;
             char path[CMD_SIZE];
             path_of(path, t.columns[n].path, ov.item[row]);
@@ -84,23 +90,42 @@ static const char* shown_as(const ONEOFWORD* words, const char* value)
     return value;
 }
 
+static void take(const OVERVIEWCOLUMN& column, const char* value, Cell& cell)
+{
+    if (column.from_wire)
+        column.from_wire(value, cell.text, sizeof cell.text);
+    else
+        CopyText(cell.text, shown_as(column.words, value));
+    std::replace(std::begin(cell.text), std::end(cell.text), '@', ' '); // of a path
+}
+
+// Whether the path is one of the row's; then its cells have the value.
+static bool take_in_row(const OVERVIEW& t, int row, const char* path, const char* value,
+                        uint32_t hash)
+{
+    bool is_taken = false;
+    for (int n = 0; n < columns_of(t); n++) {
+        char own[CMD_SIZE];
+        if (ov.cell[row][n].hash != hash)
+            continue;
+        path_of(own, t.columns[n].path, ov.item[row]);
+        if (!Same(own, path))
+            continue;
+        take(t.columns[n], value, ov.cell[row][n]);
+        is_taken = true;
+    }
+    return is_taken;
+}
+
 int Overview_Tally(const OVERVIEW& t, const char* path, const char* value, uint32_t hash)
 {
-    for (int row = 0; row < ov.count; row++)
-        for (int n = 0; n < columns_of(t); n++) {
-            Cell& cell = ov.cell[row][n];
-            if (cell.hash != hash)
-                continue;
-            char own[CMD_SIZE];
-            path_of(own, t.columns[n].path, ov.item[row]);
-            if (!Same(own, path))
-                continue;
-            CopyText(cell.text, shown_as(t.columns[n].words, value));
-            std::replace(std::begin(cell.text), std::end(cell.text), '@', ' '); // of a path
-            for (int list = 1; list <= t.lists; list++)
-                LS_RedrawData(list);
-            return 1;
-        }
+    for (int row = 0; row < ov.count; row++) {
+        if (!take_in_row(t, row, path, value, hash))
+            continue;
+        for (int list = 1; list <= t.lists; list++)
+            LS_RedrawData(list);
+        return 1;
+    }
     return 0;
 }
 

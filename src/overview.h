@@ -22,9 +22,11 @@ struct OVERVIEWITEM {
 };
 
 struct OVERVIEWCOLUMN {
-    const char* path = nullptr;       // with "$" and "%" of the item
+    const char* path = nullptr; // with "$" and "%" of the item; that of the column before: once
     const ONEOFWORD* words = nullptr; // as of one_of
     bool is_for_life = false; // followed as long as the process lives: a removal would end that
+    // What the cell says of a value that is more than a word; null: the value.
+    void (*from_wire)(const char* value, char* text, size_t size) = nullptr;
 };
 
 struct OVERVIEW {

@@ -1,4 +1,5 @@
 #include "pc_status.h"
+#include "a_fm.h"
 #include "a_ls.h"
 #include "command.h"
 #include "device.h"
@@ -11,6 +12,7 @@
 #include "tally_value.h"
 #include "text.h"
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 #include "safeguards.h"
 
@@ -99,7 +101,7 @@ static int numbered(OVERVIEWITEM* item, int max, const char* word, int count, ui
     OVERVIEWITEMS items{item, max};
     for (int n = 1; n <= count; n++) {
         char name[OVERVIEW_TEXT];
-        PrintText(name, "%s %d", word, n);
+        PrintText(name, "%s%d", word, n);
         Overview_Add(items, name, "%s", name)->page = page;
     }
     return items.count;
@@ -107,12 +109,12 @@ static int numbered(OVERVIEWITEM* item, int max, const char* word, int count, ui
 
 static int aux_items(OVERVIEWITEM* item, int max)
 {
-    return numbered(item, max, "Aux", AUX_BUSES, 0x23110000);
+    return numbered(item, max, "Aux ", AUX_BUSES, 0x23110000);
 }
 
 static int monitor_items(OVERVIEWITEM* item, int max)
 {
-    return numbered(item, max, "Mon", MONITORS, 0x23210000);
+    return numbered(item, max, "Mon ", MONITORS, 0x23210000);
 }
 
 // Each unit has four channels, which are combined among themselves.
@@ -132,13 +134,18 @@ static int effect_items(OVERVIEWITEM* item, int max)
 
 static int recorder_items(OVERVIEWITEM* item, int max)
 {
-    OVERVIEWITEMS items{item, max};
-    for (int n = 1; n <= DEVICES; n++) {
-        char name[OVERVIEW_TEXT];
-        PrintText(name, "Dev%d", n);
-        Overview_Add(items, name, "%s", name)->page = 0x53210000;
-    }
-    return items.count;
+    return numbered(item, max, "Dev", DEVICES, 0x53210000);
+}
+
+static int clip_output_items(OVERVIEWITEM* item, int max)
+{
+    return numbered(item, max, "FM", FM_OUTPUTS, 0x21110000);
+}
+
+static int register_output_items(OVERVIEWITEM* item, int max)
+{
+    constexpr int OUTPUTS = 8; // of a frame memory without clips
+    return numbered(item, max, "FM", OUTPUTS, 0x25110000);
 }
 
 static int device_items(OVERVIEWITEM* item, int max)
@@ -218,6 +225,58 @@ static constexpr OVERVIEWCOLUMN recorder_columns[] = {
 };
 #undef RECORDER
 
+// "2,/NEWS/OPENING": what an output does, and what it has got.
+static void state_of_output(const char* value, char* text, size_t size)
+{
+    static constexpr const char* states[] = {"Black", "Through", "Recall"};
+    const unsigned state = unsigned(*value - '0');
+    ktr_strncpy(text, state < std::size(states) ? states[state] : "", size);
+}
+static void name_of_element(const char* value, char* text, size_t size)
+{
+    const char* const slash = strrchr(value, '/');
+    ktr_strncpy(text, slash ? slash + 1 : "", size);
+}
+static void folder_of_element(const char* value, char* text, size_t size)
+{
+    const char* const first = strchr(value, '/');
+    const char* const last = strrchr(value, '/');
+    text[0] = '\0';
+    if (first != last)
+        strncpy_secu(text, first + 1, size, size_t(last - first - 1));
+}
+static void dot_of_play(const char* value, char* text, size_t size)
+{
+    ktr_strncpy(text, *value == '1' ? "O" : "", size); // the rest counts frames
+}
+static void state_of_register(const char* value, char* text, size_t size)
+{
+    ktr_strncpy(text, *value ? "Recall" : "", size);
+}
+
+#define CLIP_OUTPUT "Frame Mem 2@Clip/Still@"
+#define REGISTER_OUTPUT "Frame Mem@Recall@Recall Thumbnail@"
+static constexpr OVERVIEWCOLUMN clip_output_columns[] = {
+    {.path = CLIP_OUTPUT "Output Status@$", .from_wire = state_of_output},
+    {.path = CLIP_OUTPUT "Output Status@$", .from_wire = name_of_element},
+    {.path = CLIP_OUTPUT "Output Status@$", .from_wire = folder_of_element},
+    {.path = CLIP_OUTPUT "Play@$", .from_wire = dot_of_play},
+};
+static constexpr OVERVIEWCOLUMN register_output_columns[] = {
+    {.path = REGISTER_OUTPUT "$", .from_wire = state_of_register},
+    {.path = REGISTER_OUTPUT "$"},
+};
+static void select_clip_output(int output)
+{
+    Net_SendCommandFormat("put " CLIP_OUTPUT "Out Pair Select#%s", FM_GetFMOutPairStr(output / 2));
+}
+static void select_register_output(int output)
+{
+    Net_SendCommandFormat("put " REGISTER_OUTPUT "Select#%s", FM_GetFMOutPairStr(output / 2));
+}
+#undef CLIP_OUTPUT
+#undef REGISTER_OUTPUT
+
 #define STATUS_PAGE(of_items, of_columns, of_choose)                                               \
     {                                                                                              \
         .rows = {.items = of_items, .columns = of_columns, .column_count = std::size(of_columns)}, \
@@ -232,6 +291,10 @@ static constexpr StatusPage monitor_page =
 static constexpr StatusPage device_page = STATUS_PAGE(device_items, device_columns, nullptr);
 static constexpr StatusPage recorder_page =
     STATUS_PAGE(recorder_items, recorder_columns, Device_OpenNext);
+static constexpr StatusPage clip_output_page =
+    STATUS_PAGE(clip_output_items, clip_output_columns, select_clip_output);
+static constexpr StatusPage register_output_page =
+    STATUS_PAGE(register_output_items, register_output_columns, select_register_output);
 #undef STATUS_PAGE
 
 const PC_TBL pc_status_key = code_of<key_page>;
@@ -248,3 +311,18 @@ static int recorder_create(int on, uint32_t)
     return create(recorder_page, on);
 }
 const PC_TBL pc_status_recorder = {proc_of<recorder_page>, recorder_create};
+
+// The two kinds of frame memory say in different words what their outputs have.
+static const StatusPage* output_page = &clip_output_page; // since the page was opened
+
+static int output_create(int on, uint32_t)
+{
+    if (on)
+        output_page = GL_ClipStoreSupportMode ? &clip_output_page : &register_output_page;
+    return create(*output_page, on);
+}
+static int output_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
+{
+    return proc(*output_page, msg, ax, bx, cx);
+}
+const PC_TBL pc_status_output = {output_proc, output_create};

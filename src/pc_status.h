@@ -1,6 +1,6 @@
 // pc_status: page code of the overviews: what the keys, wipes, aux buses, effects channels,
-// monitors, units and recorders are set to, a line each, with the way to the page that adjusts the
-// chosen one.
+// monitors, outputs of the frame memory, units and recorders are set to, a line each, with the way
+// to the page that adjusts the chosen one.
 #pragma once
 #include "a_pc.h"
 
@@ -12,5 +12,6 @@ extern const PC_TBL pc_status_wipe;
 extern const PC_TBL pc_status_aux;
 extern const PC_TBL pc_status_effect;
 extern const PC_TBL pc_status_monitor;
+extern const PC_TBL pc_status_output;
 extern const PC_TBL pc_status_device;
 extern const PC_TBL pc_status_recorder;

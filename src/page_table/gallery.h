@@ -236,10 +236,9 @@ inline constexpr HF_TBL hf_gallery[] = {
 inline constexpr VF_TBL vf_gallery[] = {
     {.id = 1, .caption = "Tabs",        .page = 0x99920004},
     {.id = 2, .caption = "Low Tabs",    .page = 0x99920008},
-    {.id = 3, .caption = "Patterns",    .page = 0x99920005},
-    {.id = 4, .caption = "Wipe List",   .page = 0x99920009},
-    {.id = 5, .caption = "File\nList",   .page = 0x9992000B},
-    {.id = 6, .caption = "Last",        .page = 0x99920004},
+    {.id = 3, .caption = "Wipe List",   .page = 0x99920009},
+    {.id = 4, .caption = "File\nList",   .page = 0x9992000B},
+    {.id = 5, .caption = "Last",        .page = 0x99920004},
     VF_END,
 };
 
@@ -251,9 +250,8 @@ inline constexpr BT_TBL bt_gallery_tabs[] = {
 };
 static_assert(ButtonsAreSound(bt_gallery_tabs));
 
-// --- Patterns, wipes: these have no local form, so they want a server, under the page's own path ---
+// --- Wipes: they have no local form, so they want a server, under the page's own path ---
 
-inline constexpr PS_TBL ps_gallery = {.cmd = "~@Pattern", .init_nb = nb_gallery_one, .init_nb_caption = "Pattern"};
 inline constexpr DW_TBL dw_gallery = {.cmd = "~@Pattern", .grpid = {17, 18, 19, 20, 21, 22, 33, 34, 35, 36}};
 
 inline constexpr PAGE gallery_pages[] = {
@@ -268,8 +266,6 @@ inline constexpr PAGE gallery_pages[] = {
     {.id = 0x99920004, .tree = {"Maintenance", "Gallery", "Tabs"},
      .obj = {Base(base_main), LeftTabs(vf_gallery, 1), BottomTabs(hf_gallery, 5), Buttons(bt_gallery_tabs),
              Code(pc_gallery_tabs)}},
-    {.id = 0x99920005, .tree = {"Maintenance", "Gallery", "Patterns"},
-     .obj = {Base(base_main), LeftTabs(vf_gallery, 3), Patterns(ps_gallery), Boxes(NB_Non)}},
     {.id = 0x99920006, .tree = {"Maintenance", "Gallery", "Panes"},
      .obj = {Base(base_main), BottomTabs(hf_gallery, 6), Buttons(bt_gallery_panes), Code(pc_gallery_panes)}},
     {.id = 0x99920007, .tree = {"Maintenance", "Gallery", "Windows"},
@@ -278,8 +274,8 @@ inline constexpr PAGE gallery_pages[] = {
      .obj = {Base(base_main), LeftTabs(vf_gallery, 2), LowBottomTabs(hf_gallery, 5), Buttons(bt_gallery_tabs),
              Code(pc_gallery_tabs)}},
     {.id = 0x99920009, .tree = {"Maintenance", "Gallery", "Wipe List"},
-     .obj = {Base(base_main), LeftTabs(vf_gallery, 4), WipeList(dw_gallery), Boxes(NB_Non)}},
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 3), WipeList(dw_gallery), Boxes(NB_Non)}},
     {.id = 0x9992000B, .tree = {"Maintenance", "Gallery", "File List"},
-     .obj = {Base(base_main), LeftTabs(vf_gallery, 5), Buttons(bt_gallery_files), Lists(ls_gallery_files), Files(fl_gallery),
+     .obj = {Base(base_main), LeftTabs(vf_gallery, 4), Buttons(bt_gallery_files), Lists(ls_gallery_files), Files(fl_gallery),
              Code(pc_gallery_files)}},
 };

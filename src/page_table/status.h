@@ -37,6 +37,8 @@ inline constexpr LS_TBL ls_status_aux[] = {
     StatusList({.hn = 7, .head = {"Bus", "Source", "Mix", "Link", "Inhibit", "Side Flags", "Aspect"}, .width = {76, 160, 50, 50, 62, 82, 70}}), LS_END};
 inline constexpr LS_TBL ls_status_monitor[] = {
     StatusList({.hn = 7, .head = {"Monitor", "Source", "Area", "Cross", "4:3", "Key", "Mono"}, .width = {80, 200, 54, 54, 54, 54, 54}}), LS_END};
+inline constexpr LS_TBL ls_status_output[] = {
+    StatusList({.hn = 5, .head = {"Output", "State", "Name", "Folder", "Play"}, .width = {80, 90, 180, 150, 50}}), LS_END};
 inline constexpr LS_TBL ls_status_effect[] = {
     StatusList({.hn = 5, .head = {"Channel", "Used By", "Combine", "Priority", "Trail"}, .width = {90, 200, 86, 86, 88}}), LS_END};
 inline constexpr LS_TBL ls_status_device[] = {
@@ -44,7 +46,7 @@ inline constexpr LS_TBL ls_status_device[] = {
 inline constexpr LS_TBL ls_status_recorder[] = {
     StatusList({.hn = 7, .head = {"Device", "Type", "State", "Time Code", "File", "Control", "Rec"}, .width = {60, 64, 76, 92, 134, 74, 50}}), LS_END};
 static_assert(ListsAreSound(ls_status_key) && ListsAreSound(ls_status_wipe) && ListsAreSound(ls_status_aux));
-static_assert(ListsAreSound(ls_status_monitor) && ListsAreSound(ls_status_effect) && ListsAreSound(ls_status_device) && ListsAreSound(ls_status_recorder));
+static_assert(ListsAreSound(ls_status_monitor) && ListsAreSound(ls_status_output) && ListsAreSound(ls_status_effect) && ListsAreSound(ls_status_device) && ListsAreSound(ls_status_recorder));
 
 // --- Keys ---
 
@@ -77,7 +79,12 @@ inline constexpr BT_TBL bt_status_wipe[] = {
     StatusOpen(53, "Video\nProcess",  "Open Bank", STATUS_OPEN "720000"),
     BT_END,
 };
-inline constexpr BT_TBL bt_status_aux[] = {StatusOpen(49, "Aux Bus", "Open", STATUS_OPEN "0"), BT_END};
+inline constexpr BT_TBL bt_status_aux[] = {
+    StatusOpen(49, "Aux Bus", "Open", STATUS_OPEN "0"),
+    Jump({.id = 54, .caption = "FM\nOutputs", .group = "Outputs", .cmd = {"#33140001"}}),
+    BT_END,
+};
+inline constexpr BT_TBL bt_status_output[] = {StatusOpen(49, "Recall", "Open Output", STATUS_OPEN "0"), BT_END};
 inline constexpr BT_TBL bt_status_monitor[] = {StatusOpen(49, "Monitor", "Open", STATUS_OPEN "0"), BT_END};
 inline constexpr BT_TBL bt_status_effect[] = {
     StatusOpen(49, "Combine",    "Open Group", STATUS_OPEN "0"),
@@ -101,7 +108,7 @@ inline constexpr BT_TBL bt_status_recorder[] = {
     BT_END,
 };
 static_assert(ButtonsAreSound(bt_status_me) && ButtonsAreSound(bt_status_key) && ButtonsAreSound(bt_status_wipe));
-static_assert(ButtonsAreSound(bt_status_aux) && ButtonsAreSound(bt_status_monitor) && ButtonsAreSound(bt_status_effect));
+static_assert(ButtonsAreSound(bt_status_aux) && ButtonsAreSound(bt_status_output) && ButtonsAreSound(bt_status_monitor) && ButtonsAreSound(bt_status_effect));
 static_assert(ButtonsAreSound(bt_status_device) && ButtonsAreSound(bt_status_recorder));
 
 inline constexpr BT_TBL bt_status_top[] = {
@@ -110,6 +117,7 @@ inline constexpr BT_TBL bt_status_top[] = {
     Jump({.id = 19, .caption = "Transition/\nWipe", .group = "Switcher", .cmd = {"#33130000"}}),
     Jump({.id = 20, .caption = "Aux Bus",           .group = "Outputs", .cmd = {"#33140000"}}),
     Jump({.id = 21, .caption = "Monitor",           .group = "Outputs", .cmd = {"#33150000"}}),
+    Jump({.id = 22, .caption = "FM\nOutputs",       .group = "Outputs", .cmd = {"#33140001"}}),
     Jump({.id = 33, .caption = "Effects",           .group = "Units", .cmd = {"#33160000"}}),
     Jump({.id = 34, .caption = "Device",            .group = "Units", .cmd = {"#33170000"}}),
     Jump({.id = 35, .caption = "Recorders",         .group = "Units", .cmd = {"#33170001"}}),
@@ -135,6 +143,8 @@ inline constexpr PAGE status_pages[] = {
     StatusTab(2, "Key", ls_status_key, bt_status_key, pc_status_key),
     StatusTab(3, "Transition/Wipe", ls_status_wipe, bt_status_wipe, pc_status_wipe),
     StatusTab(4, "Aux Bus", ls_status_aux, bt_status_aux, pc_status_aux),
+    {.id = 0x33140001, .tree = {"Status", "Aux Bus", "FM Outputs"},
+     .obj = {Base(base_sub, 0x33140000), BottomTabs(hf_status, 4), Lists(ls_status_output), Buttons(bt_status_output), Code(pc_status_output)}},
     StatusTab(5, "Monitor", ls_status_monitor, bt_status_monitor, pc_status_monitor),
     StatusTab(6, "Effects", ls_status_effect, bt_status_effect, pc_status_effect),
     StatusTab(7, "Device", ls_status_device, bt_status_device, pc_status_device),

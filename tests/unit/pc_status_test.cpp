@@ -5,7 +5,8 @@
 
 namespace
 {
-constexpr uint32_t ME = 0x33110000, KEY = 0x33120000, WIPE = 0x33130000, EFFECTS = 0x33160000;
+constexpr uint32_t ME = 0x33110000, KEY = 0x33120000, WIPE = 0x33130000, OUTPUTS = 0x33140001,
+                   EFFECTS = 0x33160000;
 constexpr uint32_t MISC = 0x32110000, RATE = 0x32160000;
 constexpr int CELL_X = 250, CELL_Y = 120; // in the first one
 
@@ -74,6 +75,34 @@ TEST_F(StatusPage, ALineShowsWhatTheServerSaysOfItsThing)
     (void)Open(EFFECTS);
     (void)Tell("DME@Status@Channel@2#M/E-1@Key3");
     EXPECT_STREQ(LS_GetData(1, 1, 1), "M/E-1 Key3");
+}
+
+TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
+{
+    const std::string status = "Frame Mem 2@Clip/Still@Output Status@FM12";
+    GL_ClipStoreSupportMode = 1;
+    const Lines opened = Open(OUTPUTS);
+    EXPECT_EQ(std::count(opened.begin(), opened.end(), "add " + status), 1) << "of three columns";
+    static const struct {
+        const char *value, *state, *name, *folder;
+    } cases[] = {{"2,/NEWS/OPENING", "Recall", "OPENING", "NEWS"},
+                 {"2,/OPENING", "Recall", "OPENING", ""},
+                 {"1,", "Through", "", ""},
+                 {"0,", "Black", "", ""},
+                 {"", "", "", ""}};
+    for (const auto& c : cases) {
+        (void)Tell(status + "#" + c.value);
+        EXPECT_STREQ(LS_GetData(1, 11, 1), c.state) << c.value;
+        EXPECT_STREQ(LS_GetData(1, 11, 2), c.name) << c.value;
+        EXPECT_STREQ(LS_GetData(1, 11, 3), c.folder) << c.value;
+    }
+    LS_SetNowLine(1, 11);
+    EXPECT_THAT(Press(49), testing::Contains("put Frame Mem 2@Clip/Still@Out Pair Select#FM11&12"));
+    EXPECT_EQ(GL_CreatePage, 0x21110000u);
+    GL_ClipStoreSupportMode = 0;
+    (void)Open(OUTPUTS); // what was followed is left, whatever has become of the memory
+    (void)Tell("Frame Mem@Recall@Recall Thumbnail@FM8#MOPENING");
+    EXPECT_STREQ(LS_GetData(1, 7, 2), "MOPENING");
 }
 
 TEST_F(StatusPage, ACellLeadsToItsBankWhateverPageItStandsOn)
