@@ -1,5 +1,6 @@
-// The cells of sources: what colour correctors and colour backgrounds are set to. Their names come
-// from the paths, so that one painter serves each level of each of them.
+// The cells of sources: what colour correctors and colour backgrounds are set to, and the settings
+// of the system. Their names come from the paths, so that one painter serves each level of each of
+// them.
 #include "a_st_draw.h"
 #include "page.h"
 #include "tally_value.h"
@@ -22,7 +23,8 @@ static Name word_from_end(const char* path, int before)
         const char* shorter;
     } long_words[] = {{"Luminance", "Lum"},   {"Saturation", "Sat"}, {"Middle", "Mid"},
                       {"Mix Pattern", "Mix"}, {"Chroma", "Chr"},     {"Black Level", "Blk"},
-                      {"Red", "R"},           {"Green", "G"},        {"Blue", "B"}};
+                      {"Red", "R"},           {"Green", "G"},        {"Blue", "B"},
+                      {"Frames", "Frm"},      {"Minutes", "Min"},    {"Display", "Disp"}};
     const char* end = path + strlen(path);
     const char* begin = end;
     for (;;) {

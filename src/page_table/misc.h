@@ -180,6 +180,38 @@ inline constexpr BT_TBL bt_misc_user[] = {
 static_assert(ButtonsAreSound(bt_misc_user));
 #undef USER
 
+// --- What the knobs have set, over the keys. A cell without a switch of its own is named after its levels ---
+
+#define MISC_PANEL "Misc@Panel@"
+#define MISC_OUTPUT "Misc@Output@"
+inline constexpr ST_TBL st_misc_panel[] = {
+    CellAt(0, 0, {.id = 1, .draw_func = st_drw_source_matte,
+                  .cmd = {MISC_PANEL "Night Mode", MISC_PANEL "Brightness@Keys", MISC_PANEL "Brightness@Names", MISC_PANEL "Brightness@Display"}}),
+    CellAt(1, 0, {.id = 2, .draw_func = st_drw_source_levels,
+                  .cmd = {MISC_PANEL "Auto Dim", MISC_PANEL "Auto Dim@Minutes", MISC_PANEL "Auto Dim@Level"}}),
+    ST_END,
+};
+inline constexpr ST_TBL st_misc_output[] = {
+    CellAt(0, 0, {.id = 1, .draw_func = st_drw_source_matte,
+                  .cmd = {MISC_OUTPUT "Ancillary", MISC_OUTPUT "Output Phase@H", MISC_OUTPUT "Output Phase@V"}}),
+    CellAt(1, 0, {.id = 2, .draw_func = st_drw_source_levels,
+                  .cmd = {MISC_OUTPUT "Frame Delay", MISC_OUTPUT "Frame Delay@Frames", MISC_OUTPUT "Frame Delay@Lines"}}),
+    ST_END,
+};
+inline constexpr ST_TBL st_misc_preview[] = {
+    CellAt(0, 0, {.id = 1, .draw_func = st_drw_source_levels,
+                  .cmd = {"Misc@Preview@Safe Area", "Misc@Preview@Safe Area@H", "Misc@Preview@Safe Area@V"}}),
+    ST_END,
+};
+inline constexpr ST_TBL st_misc_side_flags[] = {
+    CellAt(0, 0, {.id = 1, .draw_func = st_drw_source_matte,
+                  .cmd = {"Misc@Side Flags@Fill", "Misc@Side Flags@Color@Luminance", "Misc@Side Flags@Color@Saturation", "Misc@Side Flags@Color@Hue"}}),
+    ST_END,
+};
+static_assert(CellsAreSound(st_misc_panel) && CellsAreSound(st_misc_output) && CellsAreSound(st_misc_preview) && CellsAreSound(st_misc_side_flags));
+#undef MISC_OUTPUT
+#undef MISC_PANEL
+
 // --- Pages ---
 
 inline constexpr BT_TBL bt_misc_top[] = {
@@ -195,19 +227,22 @@ inline constexpr BT_TBL bt_misc_top[] = {
 };
 static_assert(ButtonsAreSound(bt_misc_top));
 
-constexpr PAGE MiscTab(uint32_t id, const char* word, const BT_TBL* keys, const PC_TBL& code)
+constexpr PAGE MiscTab(uint32_t id, const char* word, const BT_TBL* keys, const PC_TBL& code, const ST_TBL* cells = nullptr)
 {
-    return {.id = id, .tree = {"Misc", word},
-            .obj = {Base(base_main), BottomTabs(hf_misc, id >> 16 & 0xF), Buttons(keys), Boxes(NB_Non), Code(code)}};
+    PAGE page = {.id = id, .tree = {"Misc", word},
+                 .obj = {Base(base_main), BottomTabs(hf_misc, id >> 16 & 0xF), Buttons(keys), Boxes(NB_Non), Code(code)}};
+    if (cells)
+        page.obj[5] = Cells(cells);
+    return page;
 }
 inline constexpr PAGE misc_pages[] = {
     {.id = 0x32000000, .tree = {"Misc"}, .obj = {Base(base_main), Buttons(bt_misc_top), Code(pc_misc_top)}},
     MiscTab(0x32110000, "Port", bt_misc_port, pc_misc),
     MiscTab(0x32110100, "Port", bt_misc_port_dual, pc_misc),
-    MiscTab(0x32120000, "Panel", bt_misc_panel, pc_misc),
-    MiscTab(0x32130000, "Output", bt_misc_output, pc_misc),
-    MiscTab(0x32140000, "Preview", bt_misc_preview, pc_misc),
-    MiscTab(0x32150000, "Side Flags", bt_misc_side_flags, pc_misc_side_flags),
+    MiscTab(0x32120000, "Panel", bt_misc_panel, pc_misc, st_misc_panel),
+    MiscTab(0x32130000, "Output", bt_misc_output, pc_misc, st_misc_output),
+    MiscTab(0x32140000, "Preview", bt_misc_preview, pc_misc, st_misc_preview),
+    MiscTab(0x32150000, "Side Flags", bt_misc_side_flags, pc_misc_side_flags, st_misc_side_flags),
     {.id = 0x32160000, .tree = {"Misc", "Rate"},
      .obj = {Base(base_main), BottomTabs(hf_misc, 6), Buttons(bt_misc_rate), Boxes(NB_Non), Cells(st_misc_rates), Code(pc_misc_rate)}},
     MiscTab(0x32170000, "User", bt_misc_user, pc_misc),
