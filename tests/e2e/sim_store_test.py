@@ -169,9 +169,9 @@ class Recall(StoreTest, StreamTest):
     def test_an_effect_comes_back_with_all_that_it_had(self):
         frames = self.panel(ME1)
         self.do("kf M/E-1 4 25", "pause M/E-1 2", "loop M/E-1 1 3 2", "delay M/E-1 10")
-        frames.drain()
+        self.settle(frames)
         self.do("store effect M/E-1 50 MY SHOW", "effect M/E-1 2", "run M/E-1")
-        frames.drain()
+        self.settle(frames)
         self.follow(EFFECTS + "M/E-1")
         self.text.send("put Effect@Effect@Recall@Recall#" + MASK["both"] + ", 50")
         effect = frames.effect()
@@ -181,9 +181,9 @@ class Recall(StoreTest, StreamTest):
         self.assertEqual((at.time, at.run, at.loops_left), (0, 0, 2))
         self.put("Effect@Effect@Lock@Lock", MASK["M/E-1"] + ",50,50,true")  # the frame follows its register
         self.assertTrue(frames.effect().locked)
-        frames.drain()
+        self.settle(frames)
         self.put("Effect@Effect@Recall@Recall", MASK["M/E-1"] + ", 60")  # empty
-        self.assertTrue(frames.quiet())
+        self.assertEqual(self.settle(frames), [])
 
     def test_a_snapshot_brings_every_value_of_its_bank_back_and_no_other(self):
         other = "M/E-1 SUB@Key1@Type@Key Type"
