@@ -2,6 +2,7 @@
 // all that it has subscribed.
 #pragma once
 #include "bus.h"
+#include "bus_tally.h"
 #include "command.h"
 #include "global.h"
 #include "netio.h"
@@ -70,6 +71,7 @@ inline void CloseAll()
 template <typename Step> bool VisitPage(uint32_t id, const uint8_t* data, size_t size, Step step)
 {
     CreatePage(PAGE_TOP);
+    Tally_FollowCombine(); // a page that lets go of these has them followed again
     Books ignored, books;
     TakeCommands(ignored);
     CreatePage(id);
