@@ -251,4 +251,7 @@ TEST_F(FramePage, FoldersAreMadeNamedAndDeleted)
     Pass(1000);
     Press(51);
     EXPECT_THAT(Quit(1), ElementsAre("put Frame Mem@Folder@Delete#1"));
+    Folders("0,Default.,1,Arts,2,News");
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 3);
 }

@@ -207,6 +207,13 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
         {BTN_FMEM_REW, "0,0"}, {BTN_FMEM_FF, "0,1"}, {BTN_FMEM_MIDDLE, "0,2"}};
     for (const auto& [key, value] : jumps)
         EXPECT_THAT(Press(key), ElementsAre("put " + TREE + "Play@Jump Frame@FM1#" + value));
+    for (const int answer : {NO, YES}) {
+        (void)Press(BTN_FMEM_TRIM);
+        Answer(answer);
+        EXPECT_EQ(Asked(),
+                  answer == NO ? Strings{} : Strings{"ClipStoreFile:Trim root/OPENING.SFH 20 80"});
+    }
+    fmem_drop();
     (void)Tell(TREE + "Play@FM1#0,7,80,20");
     EXPECT_THAT(Press(BTN_FMEM_PLAY), IsEmpty());
     EXPECT_NE(Pane_GetActiveID(), 0);
@@ -297,16 +304,26 @@ TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
     Answer(0); // it plays
     EXPECT_FALSE(fmfileope_is_busy());
     (void)Tell(TREE + "Play@FM6#0,0,0,9");
-    (void)Press(BTN_FMEM_DELETE);
-    Answer(YES);
-    (void)TakeQueuedCommands();
-    Answer(YES); // all the same
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + TREE + "Record@Through@FM6#0,0"));
-    EXPECT_THAT(Asked(), IsEmpty()); // not before it is black
-    Show(5, "0,");
-    const Strings asked = Grant();
-    ASSERT_EQ(asked.size(), 6u); // two clips, four folders
-    EXPECT_EQ(asked.back(), "ClipStoreFolder:DeleteFolder root/NEWS");
+    for (const bool goes_black : {true, false}) {
+        OpenPage(DELETE_RENAME);
+        if (strcmp(SelectedName(), "NEWS") != 0)
+            Cell(0, "NEWS");
+        Show(5, "2,/NEWS/A/ONE.SFH");
+        (void)Press(BTN_FMEM_DELETE);
+        Answer(YES);
+        (void)TakeQueuedCommands();
+        Answer(YES); // all the same
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + TREE + "Record@Through@FM6#0,0"));
+        Pass(goes_black ? 10 : 1790);    // 200 of the answer came before
+        EXPECT_THAT(Asked(), IsEmpty()); // not before it is black
+        if (goes_black)
+            Show(5, "0,");
+        else
+            Pass(2000);
+        const Strings asked = Grant();
+        ASSERT_EQ(asked.size(), 6u); // two clips, four folders
+        EXPECT_EQ(asked.back(), "ClipStoreFolder:DeleteFolder root/NEWS");
+    }
 }
 
 TEST_F(ClipPages, NamesAreCheckedBeforeAnythingIsAsked)
@@ -367,6 +384,9 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
         fmfileope_do(nullptr);
     };
     OpenPage(DELETE_RENAME);
+    const std::string too_long(ELEMENT_PATH_SIZE, 'x');
+    EXPECT_EQ(fmfileope_start(FMFILEOPE_RENAME, OBJECT_TYPE_FILE, "/root/STILL", too_long.c_str()),
+              -1);
     rename();
     Hub("Result", "ClipStoreFile", "Move root/OTHER.SFH root/NEW.SFH:7F");
     Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:40");
