@@ -652,6 +652,13 @@ TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
     EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 0, ONLINE_COL_DATA), "P/P ToOn ");
     EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 1, ONLINE_COL_CONTENTS), "Continue");
     EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 2, ONLINE_COL_SYMBOL), "A comment");
+    Records({"2,0,#,Another"});
+    EXPECT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 5) << "a line that comes again";
+    EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 2, ONLINE_COL_SYMBOL), "Another");
+    (void)TakeQueuedCommands();
+    SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 2, 0, 0);
+    SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 5, 0, 0); // there is none
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + ONLINE + "Macro Event Edit Range#2,0"));
     Records({"KILL"});
     EXPECT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 0);
 }
