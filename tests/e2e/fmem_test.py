@@ -15,6 +15,7 @@ KEYS = 490  # the row of keys
 SOURCE, TARGET = (100, 120, 2), (402, 120, 2)  # the folders of the copy page: left edge, pitch, columns
 BESIDE, WIDE = (244, 132, 3), (104, 132, 4)
 YES = (200 + 97 + 30, 140 + 247 + 15)
+OK = (400, 407)  # of a message
 
 
 class ClipStore(DeskCase):
@@ -195,8 +196,11 @@ class ClipStore(DeskCase):
         self.desk.console("hub slow 1")
         time.sleep(0.6)
         count = len(self.hub())
+        self.touch(482)  # a message that the load has ended stands over the page
+        self.assertEqual(len(self.hub()), count)
+        self.touch(*OK)
         self.touch(292)
-        self.touch(482)  # nothing stands over the page, and the tree is there
+        self.touch(482)  # nothing does any more, and the tree is there
         self.wait_for(lambda: any("Register root/STATION.SFH" in line for line in self.hub()[count:]))
 
 
