@@ -7,6 +7,7 @@
 #include "snapshot_region.h"
 #include "tally_value.h"
 #include <cstring>
+#include <span>
 
 #include "safeguards.h"
 
@@ -24,6 +25,10 @@ static REGISTER RegShotbox[1][REGISTERS];
 static REGISTER RegMacro[1][REGISTERS_MACRO];
 
 static int StatusReport; // somebody shows registers
+
+// The line of every register that was forgotten, in common: thousands are, in one pass, and a block
+// for each would make it a long one.
+static char no_line[] = "";
 
 static REGISTER* register_at(const RegisterPlace& p)
 {
@@ -48,12 +53,18 @@ void register_tell(int kind, int row, int index, int extra)
         SendMessage(LMSG_REGISTER, kind, row, index, extra);
 }
 
+static void free_line(const REGISTER& r)
+{
+    if (r.tally != no_line)
+        GDL_Free(r.tally);
+}
+
 static void register_set(REGISTER& r, const RegisterHeadline& headline, const char* line)
 {
     r.exist = headline.exist;
     r.lock = headline.lock;
     CopyText(r.name, headline.name);
-    GDL_Free(r.tally);
+    free_line(r);
     r.tally = GDL_StrDup(line);
 }
 
@@ -85,8 +96,12 @@ void Register_StatusReport(int x)
 
 static void forget(REGISTER* registers, int count)
 {
-    for (int i = 0; i < count; i++)
-        register_set(registers[i], {}, "");
+    for (REGISTER& r : std::span(registers, size_t(count))) {
+        if (r.tally == no_line)
+            continue; // nothing has been told since
+        free_line(r);
+        r = {.tally = no_line};
+    }
 }
 
 template <size_t ROWS, size_t N> static void forget_all(REGISTER (&table)[ROWS][N])
@@ -116,7 +131,7 @@ template <size_t ROWS, size_t N> static void free_all(REGISTER (&table)[ROWS][N]
 {
     for (auto& row : table) {
         for (REGISTER& r : row) {
-            GDL_Free(r.tally);
+            free_line(r);
             r = {};
         }
     }
