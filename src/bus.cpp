@@ -26,8 +26,7 @@
 
 #include "safeguards.h"
 
-// What one pass takes off the links, so that a burst of tallies cannot stall the screen.
-constexpr int TEXT_LINES_A_PASS = 129;
+// As BUS_TEXT_LINES_A_PASS, of the other links.
 constexpr int BIN_FRAMES_A_PASS = 257;
 constexpr int SHP_LINES_A_PASS = 129;
 
@@ -218,7 +217,7 @@ void UnHackMessage(int type)
 
 static void bus_drain_text()
 {
-    for (int i = 0; i < TEXT_LINES_A_PASS; i++) {
+    for (int i = 0; i < BUS_TEXT_LINES_A_PASS; i++) {
         char* path = Net_ReceiveCommand();
         if (!path)
             return;

@@ -7,6 +7,8 @@
 #include "types.h"
 
 constexpr int BUS_OBJECT_TYPES = 19; // object types 0..18, as many masks
+// What one pass takes off the text link, so that a burst of tallies cannot stall the screen.
+constexpr int BUS_TEXT_LINES_A_PASS = 129;
 
 // --- For everybody ---
 
@@ -27,7 +29,8 @@ void UnHackMessage(int type);
 
 // --- For the main loop, once a pass ---
 
-// Take at most 129 text lines, 257 binary frames and 129 hub lines off the links and deliver them.
+// Take at most BUS_TEXT_LINES_A_PASS text lines, 257 binary frames and 129 hub lines off the links
+// and deliver them.
 void ReceiveCommand_Management();
 
 // --- Between bus and bus_tally ---

@@ -36,7 +36,10 @@ static constexpr char QUESTION[] = "Guest@Question";
 
 void Guest_Pass(int elapsed_ms)
 {
-    while (char* line = Net_ReceiveCommand()) {
+    for (int i = 0; i < BUS_TEXT_LINES_A_PASS; i++) {
+        char* line = Net_ReceiveCommand();
+        if (!line)
+            break;
         if (BeginsWith(line, QUESTION))
             guest.answered = atoi(line + sizeof QUESTION);
         else
