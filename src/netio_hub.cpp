@@ -153,6 +153,9 @@ static int hub_send_first()
 
 int Net_SendSHPCommandQueue(int elapsed_ms)
 {
+    // In an installation without a clip store there will never be a hub that takes them.
+    while (!GL_ClipStoreSupportMode && SHPSendCommandQueue.first)
+        net_queue_remove(&SHPSendCommandQueue);
     if (!SHPSendCommandQueue.first) {
         hub_pace_ms = 0; // the next line goes at once
         return 0;

@@ -667,7 +667,12 @@ TEST_F(Link, AHubThatIsNotThereIsLeftAloneFor6000Calls)
     (void)Net_ReceiveSHPCommand(); // at the latest now the refusal is seen
     Peer peer(HUB_PORT);
     GL_NetReConnect_SHP = 0;
+    Net_SendSHPCommand("Listen#CS1.File");
+    (void)Net_SendSHPCommandQueue(0);
+    EXPECT_EQ(Net_State(NET_LINK_HUB).waiting, 1);
     GL_ClipStoreSupportMode = 0; // without clip stores there is no hub, and calls do not count
+    (void)Net_SendSHPCommandQueue(0);
+    EXPECT_EQ(Net_State(NET_LINK_HUB).waiting, 0); // nobody will ever take it
     (void)Net_ReceiveSHPCommand();
     GL_ClipStoreSupportMode = 1;
     for (int i = 0; i < 5999; i++)
