@@ -8,6 +8,7 @@
 #define PROGRESS " File Process Progress"
 #define KEY_UNIT "Engineering Setup@Panel@Config@Compact Key Module Assign@KY Unit Config@"
 #define ME_CONFIG "Engineering Setup@Switcher@Config@M/E Config@"
+#define ME_ASSIGN "Engineering Setup@Panel@Config@M/E Assign@"
 #define MAIN_SUB "Engineering Setup@Panel@Config@MP2 Main/Sub Assign@Main/Sub Assign@"
 
 struct Info : BusTest {
@@ -41,11 +42,32 @@ TEST_F(Info, AValueLandsInItsPlace)
         {KEY_UNIT "0", "--,--,--,--,--,--,--,--", &SYS_PnlMFFP, 1}, // row 7 still has it
         {KEY_UNIT "7", "--,--,--,--,--,--,--,--", &SYS_PnlMFFP, 0},
         {OPERATION "Screen Saver", "20000", &GL_ScreenSaverInterval, 18000},
+        {ME_CONFIG "M/E-5", "Standard", &me_config_type[5], 1},
+        {MAIN_SUB "1st Row", "Sub", &GL_MainSubAssign[0], 1},
+        {ME_ASSIGN "1st Row", "M/E-2", &GL_MEAssign[0], 2},
+        {ME_ASSIGN "14th Row", "2nd AUX", &GL_MEAssign[13], ASSIGN_2ND_AUX},
+        {ME_ASSIGN "14th Row", "what", &GL_MEAssign[13], -1},
+        {OPERATION "Timeline Display Priority", "true", &GL_TimelineDisplayPriority, 1},
+        {OPERATION "Error Status", "true", &GL_ErrorPopup, 1},
+        {OPERATION "SRAM Map KeyCode", "true", &GL_SRAM_12K_Extension, 1},
+        {OPERATION "Usb Auto Scan", "true", &GL_USB_AutoScan, 1},
+        {OPERATION "Unnecessary Thumbnail", "true", &GL_UnnecessaryThumb, 1},
+        {OPERATION "Mouse Wheel Direction", "Scrl Up Clockwise", &GL_MouseWheelDirection, 1},
+        {OPERATION "Mouse Slider Control", "Left Button", &GL_MouseSliderControl, 1},
+        {OPERATION "Reg Name Display", "true", &GL_RegNameDisplay, 1},
+        {"16@Info@Xpt Button Count", "34", &GL_XptButtonCount, 34},
     };
     for (const auto& c : cases) {
         Deliver(c.path, c.value);
         EXPECT_EQ(*c.state, c.expected) << c.path << "#" << c.value;
     }
+    for (const char* page : {"12110000", "0"}) // the second is none
+        Deliver(OPERATION "Initial Menu Set", page);
+    EXPECT_EQ(GL_InitialPage, 0x12110000u);
+    Deliver(SYSTEM "NFS Server", "10.0.0.9");
+    Deliver(SYSTEM "NFS Mount Point", "/show");
+    EXPECT_STREQ(GL_NFS_Server, "10.0.0.9");
+    EXPECT_STREQ(GL_NFS_MountPoint, "/show");
 }
 
 TEST_F(Info, ALostServerTakesAllProcessorsWithIt)
