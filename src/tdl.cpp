@@ -670,8 +670,7 @@ SDL_Surface* TDL_CreateSmallSurface(SDL_Surface* sfc)
 // Anybody may have laid it onto the drive. Of a photograph only what the screen shows is kept.
 SDL_Surface* TDL_ScreenSaverBMP(const char* fname)
 {
-    constexpr int SIDE_MAX = 4096;
-    SDL_Surface* whole = Bmp_IsSound(fname, SIDE_MAX, SIDE_MAX) ? TDL_LoadBmp(fname) : nullptr;
+    SDL_Surface* whole = TDL_LoadBmp(fname);
     if (!whole || (whole->w <= SCREEN_W && whole->h <= SCREEN_H))
         return whole;
     const SDL_PixelFormat& f = *whole->format;

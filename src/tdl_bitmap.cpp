@@ -1,6 +1,7 @@
 // Bitmaps whose pixels are read when they are first shown. Of some three thousand a page shows a
 // few dozen: to decode them all at start costs time before the first page and memory for good. The
 // size is known from the start, and a file that is missing is missed then.
+#include "bmp_check.h"
 #include "log.h"
 #include "tdl.h"
 #include "tdl_private.h"
@@ -117,7 +118,7 @@ static SDL_Surface* load_plain(int fd)
 }
 
 // The usual kind on the usual screen is read as it stands; the library, which takes four times as
-// long, has all others.
+// long and believes any header, has all others that are sound.
 SDL_Surface* TDL_LoadBmp(const char* fname)
 {
     const int fd = open(fname, O_RDONLY | O_CLOEXEC);
@@ -125,9 +126,11 @@ SDL_Surface* TDL_LoadBmp(const char* fname)
         return nullptr;
     SDL_Surface* made = tdl_blends_bytes() ? load_plain(fd) : nullptr;
     (void)close(fd);
-    SDL_Surface* loaded = made ? nullptr : SDL_LoadBMP(fname);
-    if (!loaded)
+    if (made || !Bmp_IsSound(fname, SIDE_MAX, SIDE_MAX))
         return made;
+    SDL_Surface* loaded = SDL_LoadBMP(fname);
+    if (!loaded)
+        return nullptr;
     made = SDL_DisplayFormat(loaded);
     SDL_FreeSurface(loaded);
     return made;

@@ -16,6 +16,7 @@
 #include "window.h"
 #include <algorithm>
 #include <chrono>
+#include <climits>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -324,6 +325,23 @@ TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
     }
 }
 
+static std::string le(uint32_t v)
+{
+    return {char(v), char(v >> 8), char(v >> 16), char(v >> 24)};
+}
+
+// Both headers of a bitmap of one pixel a row, up to the palette.
+static std::string BmpHeads(int info, int bits, int colours, int rows, int compression)
+{
+    std::string file = "BM" + le(0) + le(0) + le(uint32_t(14 + info + 4 * colours)) +
+                       le(uint32_t(info)) + le(1) + le(uint32_t(rows)) +
+                       le(uint32_t(1 | bits << 16)) + le(uint32_t(compression)) +
+                       std::string(12, '\0') + le(uint32_t(colours)) + le(0) + le(0xFF0000) +
+                       le(0xFF00) + le(0xFF);
+    file.resize(size_t(14 + info));
+    return file;
+}
+
 // The kinds that paint programs write, with a dark row above a light one.
 TEST_F(SaverPictures, EveryKindOfBitmapIsShown)
 {
@@ -335,16 +353,9 @@ TEST_F(SaverPictures, EveryKindOfBitmapIsShown)
         {108, 24, 0, 2}, {124, 24, 0, -2}, {40, 24, 7, 2}, {124, 32, 0, 2}, {124, 32, 0, 2, 3},
     };
     for (const auto& c : cases) {
-        const auto le = [](uint32_t v) {
-            return std::string{char(v), char(v >> 8), char(v >> 16), char(v >> 24)};
-        };
         const int colours = c.bits > 8 ? 0 : c.colours ? c.colours : 1 << c.bits;
-        std::string file = "BM" + le(0) + le(0) + le(uint32_t(14 + c.info + 4 * colours)) +
-                           le(uint32_t(c.info)) + le(1) + le(uint32_t(c.rows)) +
-                           le(uint32_t(1 | c.bits << 16)) + le(uint32_t(c.compression)) +
-                           std::string(12, '\0') + le(uint32_t(c.colours)) + le(0) + le(0xFF0000) +
-                           le(0xFF00) + le(0xFF);
-        file.resize(size_t(14 + c.info));
+        std::string file = BmpHeads(c.info, c.bits, c.colours, c.rows, c.compression);
+        file.replace(10, 4, le(uint32_t(14 + c.info + 4 * colours)));
         file += colours ? le(DARK) + le(LIGHT) : "";
         file.resize(size_t(14 + c.info + 4 * colours));
         const std::string dark = colours ? le(0) : le(DARK);
@@ -364,6 +375,16 @@ TEST_F(SaverPictures, EveryKindOfBitmapIsShown)
     EXPECT_EQ(part->w, SCREEN_W);
     EXPECT_EQ(part->h, SCREEN_H - 1);
     SDL_FreeSurface(part);
+}
+
+// Be it a bitmap of the user interface, or one that it reads at its first use.
+TEST_F(SaverPictures, ABitmapIsNotReadThatSaysMoreThanItHolds)
+{
+    for (const int rows : {INT_MIN, -5000, 0, 3, INT_MAX}) {
+        const std::string file = BmpHeads(40, 24, 0, rows, 0) + le(0) + le(0);
+        std::ofstream(Path("SSrc_1.bmp"), std::ios::binary) << file;
+        EXPECT_FALSE(TDL_LoadBmp(Path("SSrc_1.bmp").c_str())) << rows;
+    }
 }
 
 // A folder of a hundred of them would be read in every pass.
