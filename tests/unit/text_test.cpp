@@ -3,48 +3,66 @@
 #include <cstring>
 #include <gtest/gtest.h>
 
-TEST(Text, CopyKeepsItsLimitAndAlwaysTerminates)
+namespace
+{
+char buffer[10]; // each case finds it as "xxxxxxxxx", and what is behind the end stays so
+}
+
+TEST(Text, WhatIsCopiedEndsWithinItsLimitAndTouchesNothingBehind)
 {
     static const struct {
-        const char* src;
-        size_t len;
+        void (*copy)();
         const char* result;
+        size_t touched; // at most
     } cases[] = {
-        {.src = "abcd", .len = 4, .result = "abc"}, // exactly len characters
-        {.src = "abc", .len = 1, .result = ""},
-        {.src = nullptr, .len = 4, .result = ""},
+        {[] { ktr_strncpy(buffer, "abcd", 4); }, "abc", 4}, // exactly as many characters
+        {[] { ktr_strncpy(buffer, "abc", 4); }, "abc", 4},
+        {[] { ktr_strncpy(buffer, "abc", 1); }, "", 1},
+        {[] { ktr_strncpy(buffer, nullptr, 4); }, "", 4},
+        {[] { ktr_strncpy(buffer, "abc", 0); }, "xxxxxxxxx", 0},
+        {[] { ktr_strncpy(buffer, "ab", 3), ktr_strncat(buffer, "cdefgh", 6); }, "abcde", 6},
+        {[] { ktr_strncpy(buffer, "abcd", 5), ktr_strncat(buffer, "e", 5); }, "abcd", 5}, // full
+        {[] { ktr_strncat(buffer, "e", 4); }, "xxx", 4}, // had no end
+        {[] { ktr_strncat(buffer, "abc", 0); }, "xxxxxxxxx", 0},
+        {[] { strncpy_secu(buffer, "abcd", 4, 2); }, "ab", 3},
+        {[] { strncpy_secu(buffer, "abcd", 4, 3); }, "abc", 4},
+        {[] { strncpy_secu(buffer, "abcd", 4, 4); }, "abc", 4},
+        {[] { strncpy_close(buffer, "abcd", 3); }, "abc", 4},
     };
     for (const auto& c : cases) {
-        char dst[10];
-        memset(dst, 'x', sizeof dst);
-        EXPECT_EQ(ktr_strncpy(dst, c.src, c.len), dst);
-        EXPECT_STREQ(dst, c.result);
-        EXPECT_EQ(dst[c.len - 1], '\0');
-        EXPECT_EQ(dst[c.len], 'x') << "wrote behind the end";
+        memset(buffer, 'x', sizeof buffer - 1);
+        c.copy();
+        EXPECT_STREQ(buffer, c.result) << &c - cases;
+        EXPECT_EQ(strspn(buffer + c.touched, "x"), 9 - c.touched) << &c - cases;
     }
     char shifted[] = "-00:01:00";
     CopyText(shifted, shifted + 1);
     EXPECT_STREQ(shifted, "00:01:00");
+    EXPECT_EQ(ktr_strncpy(buffer, "a", 0), buffer);
 }
 
-TEST(Text, AppendKeepsTheSizeOfTheWhole)
+TEST(Text, ComparesWithoutCaseAndTakesNothingForEmpty)
 {
-    static const struct {
-        const char* before;
-        const char* more;
-        const char* result;
-    } cases[] = {
-        {.before = "ab", .more = "cdefghij", .result = "abcdefg"},
-        {.before = "abcdefg", .more = "h", .result = "abcdefg"}, // full
-    };
-    for (const auto& c : cases) {
-        char dst[9] = {};
-        dst[8] = 'x';
-        ktr_strncpy(dst, c.before, 8);
-        ktr_strncat(dst, c.more, 8);
-        EXPECT_STREQ(dst, c.result);
-        EXPECT_EQ(dst[8], 'x');
-    }
+    EXPECT_TRUE(BeginsWith("put A#1", "put "));
+    EXPECT_FALSE(BeginsWith("pu", "put "));
+    EXPECT_STREQ(StrIStr("a Show.TGA", ".tga"), ".TGA");
+    EXPECT_EQ(StrIStr(nullptr, "a"), nullptr);
+    EXPECT_STREQ(StrIStr("a", nullptr), "a");
+    EXPECT_EQ(StrICmp("User1", "USER1"), 0);
+    EXPECT_LT(StrICmp(nullptr, "a"), 0);
+    EXPECT_GT(StrICmp("b", nullptr), 0);
+    EXPECT_EQ(StrNICmp("SWRx", "swry", 3), 0);
+    EXPECT_LT(StrNICmp("SWRx", "swry", 4), 0);
+    EXPECT_LT(StrNICmp(nullptr, "a", 1), 0);
+    EXPECT_GT(StrNICmp("a", nullptr, 1), 0);
+    char text[] = "aZ9\xE9";
+    StrUpr(text);
+    EXPECT_STREQ(text, "AZ9\xE9");
+    StrLwr(text);
+    EXPECT_STREQ(text, "az9\xE9");
+    StrUpr(nullptr);
+    StrLwr(nullptr);
+    EXPECT_STREQ(NumStr(-2147483647 - 1), "-2147483648");
 }
 
 TEST(Text, NamesLoseWhatTheirKindMayNotHold)
@@ -59,7 +77,8 @@ TEST(Text, NamesLoseWhatTheirKindMayNotHold)
         {.make = StrFileName, .text = "ab\ncd", .result = "ab"},
         {.make = StrFileName, .text = "\tab", .result = ""},
         {.make = StrFileName, .text = "caf\xE9", .result = "caf_"},
-        {.make = StrFatFileName, .text = "My Show:1", .result = "My Show_1"},
+        {.make = StrFatFileName, .text = "My~Show:1", .result = "My~Show_1"},
+        {.make = StrRegName, .text = "My/Show (1)", .result = "My_Show_(1)"},
         {.make = StrSourceName, .text = "CAM 1/A,B", .result = "CAM 1/A_B"},
     };
     for (const auto& c : cases) {
