@@ -2,8 +2,10 @@
 // elsewhere.
 #include "a_ls_page.h"
 #include "a_nb.h"
+#include "held.h"
 #include "pane.h"
 #include "window.h"
+#include <map>
 
 namespace
 {
@@ -113,24 +115,27 @@ TEST_F(Held, WhateverTakesTheReleaseEndsTheHold)
     }
 }
 
-// The panel is gone while a pane is up: no release at all, and the drag is that of the next finger.
-TEST_F(Held, AHoldEndsAsSoonAsSomethingComesOverThePage)
+// Each message of a sequence, and those at which the page is told to let go. x: a pane comes.
+TEST_F(Held, ALossIsToldOnceAndToNobodyWhoHoldsNothing)
 {
-    Press(220, 225);
-    Rest();
-    pane = PaneMessage_Create("Pane", PANE_INFO, "Text");
-    Pass(1000);
-    Pass(1000);
-    EXPECT_EQ(Effects(), 0u);
-    Pane_Quit(pane);
-    Pass(1000);
-    EXPECT_EQ(Effects(), 0u);
-}
-
-// A press that got no release is no bounce of the next one.
-TEST_F(Held, ATouchAfterALostReleaseIsAWholeTouch)
-{
-    Press(150, 133);
-    Press(150, 133);
-    EXPECT_EQ(LS_IsSelected(1, 0, 0), 0) << "on and off again";
+    static const std::map<char, int> messages = {
+        {'p', MSG_PRESS}, {'r', MSG_RELEASE}, {'d', MSG_DRAG}, {'w', MSG_REDRAW}, {'k', MSG_KEY}};
+    static const struct {
+        const char* sequence;
+        const char* lost;
+    } cases[] = {
+        {"p", ""},     {"xdwr", ""},  {"pdwr", ""}, {"prxd", ""},   {"pxwd", "w"}, {"pxdd", "d"},
+        {"pxrd", "r"}, {"pxkd", "d"}, {"ppd", "p"}, {"pprpd", "p"}, {"xpdr", ""},  {"pxpw", "p"},
+    };
+    for (const auto& c : cases) {
+        Held_Reset();
+        std::string lost;
+        for (const char* step = c.sequence; *step; step++)
+            if (*step == 'x')
+                pane = PaneMessage_Create("Pane", PANE_INFO, "Text");
+            else if (Held_IsLost(messages.at(*step)))
+                lost += *step;
+        Pane_Quit(pane);
+        EXPECT_EQ(lost, c.lost) << c.sequence;
+    }
 }
