@@ -1,9 +1,15 @@
+#include "a_kf.h"
 #include "bus_probe.h"
 #include "initread.h"
+#include "log.h"
 #include "loop.h"
 #include "netio.h"
 #include "ready.h"
 #include "saver.h"
+#include "selfdiag.h"
+#include "tdl.h"
+#include "text.h"
+#include <filesystem>
 #include <unistd.h>
 
 namespace
@@ -25,6 +31,14 @@ SDL_Event Motion(int x, int y, int state)
     e.motion.x = uint16_t(x);
     e.motion.y = uint16_t(y);
     e.motion.state = uint8_t(state);
+    return e;
+}
+
+SDL_Event Key(SDLKey key)
+{
+    SDL_Event e{};
+    e.type = SDL_KEYDOWN;
+    e.key.keysym.sym = key;
     return e;
 }
 
@@ -55,6 +69,129 @@ struct Loop : BusTest {
     }
 };
 } // namespace
+
+TEST_F(Loop, APassServesEveryLinkAndTheBoardEachFiveSeconds)
+{
+    Peer text(NET_TEXT_PORT);
+    Peer frames(NET_BIN_PORT);
+    Net_Init();
+    ASSERT_TRUE(text.Accept() && frames.Accept());
+    Net_SendSHPCommand("Listen#CS1.File"); // without a clip store nobody takes it
+    MainPass();
+    (void)TakeQueuedCommands();
+    Net_DropBinQueue();
+    Net_SendCommand("put A#1");
+    EXPECT_EQ(Net_SendBinCommand(1, 0x10AA, nullptr, 0), 0);
+    text.Send("B#2\n");
+    usleep(20000);
+    GL_ErrorExist = 7; // what the board does not say
+    Clock_ms = TickBefore + 4990 - 10;
+    MainPass();
+    EXPECT_THAT(text.Lines(), Contains("put A#1"));
+    for (const auto link : {NET_LINK_TEXT, NET_LINK_BIN, NET_LINK_HUB})
+        EXPECT_EQ(Net_State(link).waiting, 0) << link;
+    EXPECT_EQ(Count(MSG_TALLY), 1u);
+    EXPECT_EQ(GL_ErrorExist, 7);
+    MainPass();
+    EXPECT_EQ(GL_ErrorExist, 0);
+}
+
+TEST_F(Loop, AHubThatIsBackLosesTheOldSubscriptionsFirst)
+{
+    GL_NetReConnect_SHP = 1;
+    MainPass();
+    const Strings lines = TakeQueuedHubLines();
+    ASSERT_GT(lines.size(), 2u);
+    for (size_t i = 0; i < lines.size(); i++)
+        EXPECT_EQ(BeginsWith(lines[i].c_str(), "Unlisten#"), i < lines.size() / 2) << lines[i];
+    MainPass();
+    EXPECT_THAT(TakeQueuedHubLines(), IsEmpty());
+}
+
+TEST_F(Loop, WhatAPassTookIsKeptForTheFiguresAndTheLog)
+{
+    static int busy_ms;
+    std::filesystem::remove("/tmp/passes.log");
+    Log_Init("/tmp/passes.log", 1000000);
+    GL_LoopLog = 1;
+    Loop_ResetFigures();
+    probe::answer = [](const probe::Seen& s) {
+        Clock_ms += s.msg == MSG_REDRAW ? uint32_t(busy_ms) : 0;
+        return 0;
+    };
+    static const struct {
+        int ms;
+        uint32_t page;
+    } passes[] = {{4, 1}, {30, 2}, {30, 3}, {10, 4}, {990, 5}, {11, 6}};
+    for (const auto& pass : passes) {
+        busy_ms = pass.ms;
+        GL_NowPage = pass.page;
+        EXPECT_EQ(Count(MSG_REDRAW), size_t(&pass - passes));
+        MainPass();
+    }
+    GL_LoopLog = 0;
+    Log_Init("", 0);
+    EXPECT_THAT(FileText("/tmp/passes.log"),
+                HasSubstr("PASSES: 6, longest 990 ms at 00000005 and "));
+    EXPECT_THAT(FileText("/tmp/passes.log"), HasSubstr(", over 10 ms 4 and "));
+    const LoopFigures& f = Loop_Figures();
+    EXPECT_EQ(f.passes, 6u);
+    EXPECT_EQ(f.busy_ms, 1075u);
+    EXPECT_EQ(f.longest_ms, 990);
+    EXPECT_EQ(f.longest_page, 5u);
+}
+
+TEST_F(Loop, KeysOfTheDeveloperWorkInDebugModeOnly)
+{
+    const std::string captures = "/tmp/captures";
+    std::filesystem::create_directory(captures);
+    CopyText(GL_ImportDataPath, captures.c_str());
+    static const struct {
+        SDL_Event event;
+        int mode;
+        int display; // of a region that was hidden
+        int captures;
+    } cases[] = {
+        {Key(SDLK_F5), 0, KF_REMOVED, 0},
+        {Key(SDLK_F1), 0, KF_REMOVED, 0},
+        {Button(SDL_MOUSEBUTTONDOWN, 5, 5, SDL_BUTTON_RIGHT), 0, KF_REMOVED, 0},
+        {Button(SDL_MOUSEBUTTONDOWN, 5, 5, SDL_BUTTON_LEFT), 1, KF_REMOVED, 0},
+        {Button(SDL_MOUSEBUTTONDOWN, 5, 5, SDL_BUTTON_RIGHT), 1, KF_REMOVED, 1},
+        {Key(SDLK_F10), 0, KF_REMOVED, 2}, // everybody's
+        {Key(SDLK_F4), 1, KF_REMOVED, 2},
+        {Key(SDLK_F5), 1, KF_SHOWN, 2},
+    };
+    KF_SetRegionDisplay(0, KF_REMOVED);
+    for (const auto& c : cases) {
+        GL_DebugMode = GL_ScreenCapture = c.mode;
+        MainPass();
+        Clock_ms += 1000;
+        Pass(c.event);
+        EXPECT_EQ(KF_GetRegionDisplay(0), c.display) << &c - cases;
+        const std::filesystem::directory_iterator files(captures);
+        EXPECT_EQ(std::distance(begin(files), end(files)), c.captures) << &c - cases;
+    }
+    EXPECT_EQ(Count(MSG_KEY), 5u);
+    EXPECT_EXIT(Pass(Key(SDLK_F1)), testing::ExitedWithCode(0), "");
+    GL_DebugMode = GL_ScreenCapture = 0;
+    GL_ImportDataPath[0] = '\0';
+}
+
+TEST_F(Loop, ARefreshShowsWhatHadBeenPaintedInSilence)
+{
+    static Strings shown;
+    RefreshScreen();
+    shown.clear();
+    probe::seen.clear();
+    TDL_FillRectS(10, 20, 39, 49, 0xFF0000);
+    TDL_WatchFlush([](int x, int y, int w, int h) {
+        shown.push_back(testing::PrintToString(std::vector{x, y, w, h}));
+    });
+    RefreshScreen();
+    TDL_WatchFlush(nullptr);
+    EXPECT_THAT(shown, ElementsAre("{ 10, 20, 30, 30 }"));
+    EXPECT_EQ(Elapsed_ms(), 0);
+}
 
 // Nobody sees what it would turn.
 TEST_F(Loop, AWheelStepUnderTheSaverWakesTheScreenAndReachesNobody)
@@ -180,20 +317,6 @@ TEST_F(Loop, APageRequestIsServedOnceAndForgottenWhenItFails)
     EXPECT_EQ(GL_NowPage, 0x12110000u);
 }
 
-TEST_F(Loop, TheTimedProgressEndsOnTheInitialPage)
-{
-    GL_InitialPage = 0x12110000;
-    InitialProgress(1);
-    EXPECT_EQ(GL_MainCounter, 0u);
-    for (int pass = 0; pass < 3000; pass++)
-        MainPass();
-    EXPECT_EQ(GL_InitProgress, 1);
-    MainPass();
-    EXPECT_EQ(GL_InitProgress, 0);
-    MainPass();
-    EXPECT_EQ(GL_NowPage, 0x12110000u);
-}
-
 TEST_F(Loop, TheInitialPageYieldsToAPageThatTheOperatorOpened)
 {
     static const struct {
@@ -201,6 +324,7 @@ TEST_F(Loop, TheInitialPageYieldsToAPageThatTheOperatorOpened)
         bool pane_is_closed;
         uint32_t ends_on;
     } cases[] = {
+        {0, false, 0x12110000},
         {0x33110100, true, 0x12110000},  // the page that is shown is built anew
         {0x13110000, true, 0x13110000},  // opened meanwhile
         {0x13110000, false, 0x13110000}, // waits under the pane
@@ -212,8 +336,11 @@ TEST_F(Loop, TheInitialPageYieldsToAPageThatTheOperatorOpened)
         if (c.pane_is_closed)
             Pane_Quit(GL_InitProgress_PaneID);
         GL_CreatePage = c.asked_for;
-        for (int pass = 0; pass < 3002; pass++)
+        EXPECT_EQ(GL_MainCounter, 0u);
+        for (int pass = 0; pass < 3002; pass++) {
+            EXPECT_EQ(GL_InitProgress, pass <= 3000);
             MainPass();
+        }
         EXPECT_EQ(GL_NowPage, c.ends_on) << std::hex << c.asked_for;
     }
 }
