@@ -52,7 +52,6 @@ TEST(Drawing, TheScreenEdgeCutsOrRefuses)
     }
     SDL_FreeSurface(Source);
 }
-// clang-format on
 
 TEST(Drawing, AFlushIsCutAtTheScreenAndNeverEmpty)
 {
@@ -70,6 +69,71 @@ TEST(Drawing, AFlushIsCutAtTheScreenAndNeverEmpty)
         Flushed.clear();
         EXPECT_EQ(TDL_UpdateRect(c.r.x1, c.r.y1, c.r.x2, c.r.y2), 0);
         EXPECT_EQ(Flushed.empty() ? "" : RectText(Flushed[0]), c.flushed);
+    }
+}
+
+namespace
+{
+SDL_Surface* Shown; // what has been handed over to the display
+int Handed;         // pixels
+
+void HandOver(int x, int y, int w, int h)
+{
+    SDL_Rect from = {Sint16(x), Sint16(y), Uint16(w), Uint16(h)};
+    SDL_Rect to = from;
+    SDL_BlitSurface(Screen, &from, Shown, &to);
+    Handed += w * h;
+}
+
+template <int COUNT> void Dots()
+{
+    for (int i = 0; i < COUNT; i++)
+        TDL_FillRect(8 * (i % 90), 8 * (i / 90), 8 * (i % 90), 8 * (i / 90), RED);
+}
+} // namespace
+
+TEST(Drawing, TheDisplayGetsWhatDiffersFromItAndNothingTwice)
+{
+    static const struct {
+        const char* name;
+        void (*draw)();
+        int handed;
+        unsigned before = 0; // colour of the corner, which has gone out at once
+    } cases[] = {
+        {"two places", [] { TDL_FillRect(0, 0, 9, 9, RED), TDL_FillRect(100, 100, 109, 119, RED); },
+         300},
+        {"erased again", [] { TDL_FillRect(0, 0, 9, 9, RED), TDL_FillRect(0, 0, 9, 9, 0); }, 0},
+        {"one in the other",
+         [] { TDL_FillRect(0, 0, 29, 29, RED), TDL_FillRect(10, 10, 19, 19, 0); }, 800},
+        {"one over the other",
+         [] { TDL_FillRect(10, 10, 19, 19, RED), TDL_FillRect(0, 0, 29, 29, RED); }, 900},
+        {"a hold in a hold", [] { TDL_Hold(), TDL_FillRect(3, 5, 16, 5, RED), TDL_Release(); }, 14},
+        {"the last columns", [] { TDL_FillRect(797, 598, 799, 599, RED); }, 6},
+        {"more than is gathered", Dots<80>, 80},
+        {"more than goes at once", Dots<700>, 700},
+        {"the corner stays", [] { TDL_FillRect(0, 0, 12, 9, RED); }, 0, RED},
+        {"the corner goes", [] { TDL_FillRect(0, 0, 12, 9, 0); }, 130, RED},
+    };
+    for (const int depth : {16, 32}) {
+        const TestDisplay display(depth);
+        Shown = SDL_ConvertSurface(Screen, Screen->format, SDL_SWSURFACE);
+        TDL_WatchFlush(HandOver);
+        TDL_Hold();
+        TDL_UpdateScreen();
+        TDL_Release();
+        for (const auto& c : cases) {
+            TDL_FillRect(0, 0, 799, 599, 0);
+            TDL_FillRect(0, 0, 12, 9, c.before);
+            Handed = 0;
+            TDL_Hold();
+            c.draw();
+            EXPECT_EQ(Handed, 0) << c.name;
+            TDL_Release();
+            EXPECT_EQ(Handed, c.handed) << c.name << " at " << depth;
+            EXPECT_EQ(Difference(PixelsOf(Screen), PixelsOf(Shown)), "nothing") << c.name;
+        }
+        TDL_WatchFlush(nullptr);
+        SDL_FreeSurface(Shown);
     }
 }
 
