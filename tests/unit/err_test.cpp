@@ -2,6 +2,7 @@
 #include "err.h"
 #include "harness.h"
 #include "memory.h"
+#include "message.h"
 #include "page.h"
 
 TEST(ErrorList, FillsUpTo12000AndFreesAll)
@@ -33,6 +34,10 @@ TEST(ErrorList, PageWritesTheFileNewestLast)
     CreatePage(0x99000000);
     EXPECT_EQ(LS_GetNData(1), 2);
     EXPECT_STREQ(LS_GetData(1, 0, 1), "first %s");
+    int h = 0, m = 0, s = 0;
+    ASSERT_EQ(sscanf(LS_GetData(1, 0, 0), "%2d:%2d:%2d", &h, &m, &s), 3);
+    EXPECT_LT((time(nullptr) - (3600 * h + 60 * m + s)) % 86400, 300) << "not long ago, in UTC";
+    EXPECT_EQ(Err_Proc(MSG_PRESS, 0, 0, 0, 0), 0) << "the page has other objects";
 
     Err_Clear();
     EXPECT_EQ(LS_GetNData(1), 0) << "the page must not show texts that are gone";

@@ -14,6 +14,15 @@ using testing::MatchesRegex;
 constexpr char LOG[] = "/var/log2/unit.log";
 constexpr char MAINTENANCE[] = "/mnt/sys/log/maintenance.log";
 
+// The minute in UTC, as a line begins with it.
+std::string Minute()
+{
+    const time_t now = time(nullptr);
+    char text[32];
+    strftime(text, sizeof text, "[%b %d %H:%M", gmtime(&now));
+    return text;
+}
+
 void Fill(const std::string& path, const std::string& text)
 {
     std::ofstream(path) << text;
@@ -45,9 +54,12 @@ TEST_F(Log, AFullFileRotatesBeforeTheNextLine)
     Log_Output(1, 1, "same file");
     EXPECT_FALSE(std::filesystem::exists(LOG + std::string(".0")));
     Fill(LOG, std::string(100, 'b'));
-    Log_Output(1, 1, "new file");
+    const std::string before = Minute();
+    Log_Output(1, 7, "new file");
     EXPECT_EQ(FileText(LOG + std::string(".0")), std::string(100, 'b'));
-    EXPECT_THAT(FileText(LOG), MatchesRegex("\\[.*\\] new file\n"));
+    EXPECT_THAT(FileText(LOG), MatchesRegex("\\[[^]]*:[0-9][0-9]\\]\\[  7\\] new file\n"));
+    EXPECT_THAT(FileText(LOG),
+                testing::AnyOf(testing::StartsWith(before), testing::StartsWith(Minute())));
 }
 
 TEST_F(Log, TenOldFilesRemainAndTheOldestGoes)
@@ -68,11 +80,21 @@ TEST_F(Log, ADroppedLineTouchesNoFile)
 {
     Fill(LOG, std::string(200, 'd')); // would rotate
     Log_SetLevel(3);
+    EXPECT_EQ(Log_GetLevel(), 3);
     EXPECT_EQ(Log_Output(2, 1, "x"), 1);
-    Log_SetModule(1, 0);
-    EXPECT_EQ(Log_Output(3, 1, "x"), 2);
+    EXPECT_EQ(Log_Output2(2, "x"), 1);
+    for (const int module : {0, 9, 1024}) {
+        EXPECT_EQ(Log_SetModule(module, 0), 0);
+        EXPECT_EQ(Log_GetModule(module), 0);
+        EXPECT_EQ(Log_Output(3, module, "x"), 2);
+    }
+    for (const int none : {-1, 1025})
+        EXPECT_EQ(Log_SetModule(none, 0) + Log_GetModule(none), -2);
     EXPECT_EQ(FileText(LOG), std::string(200, 'd'));
     EXPECT_EQ(Log_Output(3, 2, "x"), 0) << "the switch is the module's own";
+    EXPECT_EQ(Log_Output(3, 1025, "x"), 0) << "and these have none";
+    EXPECT_EQ(Log_SetModule(9, 1), 0);
+    EXPECT_EQ(Log_Output(3, 9, "x"), 0);
     EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 0);
 }
 
