@@ -172,12 +172,16 @@ TEST_F(FileSteps, ACancelLeavesNothingOnTheStagingPaths)
 TEST_F(FileSteps, EightPicturesAreUnderWayAndOneOnARamDisk)
 {
     SYS_FmemV6 = 1;
-    for (int i = 1; i <= 10; i++)
-        File_XferList_Add(&list, ("MYHOST:/a/M" + std::to_string(i) + ".SFM").c_str(),
-                          ("SWR000D001:FMEM_" + std::to_string(100 + i) + ".SFM").c_str());
-    File_ExecTransferList(&list, List, 0);
-    EXPECT_EQ(Sent().size(), 8u);
-    for (uint32_t l = 1; l <= 8; l++)
+    for (const Entry entry : {File_ExecTransferList_AutoLoad, File_ExecTransferList}) {
+        File_XferList_RemoveAll(&list);
+        for (int i = 1; i <= 10; i++)
+            File_XferList_Add(&list, ("MYHOST:/a/M" + std::to_string(i) + ".SFM").c_str(),
+                              ("SWR000D001:FMEM_" + std::to_string(100 + i) + ".SFM").c_str());
+        entry(&list, List, 0);
+        EXPECT_EQ(Sent().size(), 8u);
+    }
+    const uint32_t first = list->label;
+    for (uint32_t l = first; l < first + 8; l++)
         for (int step = 0; step < 3; step++) {
             EXPECT_EQ(At(8)->status, FILESTATUS_NON);
             Answer(l, "OK");
@@ -208,6 +212,12 @@ TEST_F(FileSteps, TwoFilesNeverShareAStagingPath)
     File_ExecFmExportList(&list, List, 0);
     EXPECT_EQ(Sent().size(), 1u);
     Answer(1, "NG(x)");
+    EXPECT_EQ(Sent().size(), 1u);
+    File_XferList_RemoveAll(&list);
+    SYS_FmemV6 = 0;
+    for (const char* dst : {"SWR000D001:FMEM_001.SFM", "SWR000D001:FMEM_002.SFM"})
+        File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/M.SFM", dst);
+    File_ExecTransferList(&list, List, 0);
     EXPECT_EQ(Sent().size(), 1u);
 }
 

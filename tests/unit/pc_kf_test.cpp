@@ -55,6 +55,7 @@ TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
                                       .keyframes = {30}})); // MACRO: place 51
     const char* knob = "Region\nScroll";
     EXPECT_EQ(Shown(knob), "0");
+    EXPECT_EQ(KF_Proc(MSG_WHEELUP, 0, 0, 0, 0), 0) << "the other objects are asked as well";
     turn(42);
     Redraw(1000);
     Redraw(1000);
