@@ -373,49 +373,6 @@ TEST_F(Link, HostsThatAreSwitchedOffCostNoPassItsTime)
     Net_DropBinQueue();
 }
 
-TEST_F(Link, TheLogTellsWhatTheTextLinkDid)
-{
-    const std::string file = "/tmp/text_link.log";
-    auto peer = std::make_unique<Peer>(NET_TEXT_PORT);
-    std::filesystem::remove(file);
-    Log_Init(file.c_str(), 1000000);
-    Connect(*peer);
-    Net_SendCommand("put A#1");
-    (void)Net_SendCommandQueue();
-    for (const int is_debug : {0, 1}) {
-        GL_DebugMode = is_debug;
-        const std::string line = "B#" + std::to_string(is_debug);
-        peer->Send(line + "\n");
-        EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre(line));
-    }
-    GL_DebugMode = 0;
-    GL_NowPage = 0x52110000; // whose traffic would swamp the log
-    Log_SetLevel(LOG_TRACE);
-    peer->Send("C#3\n");
-    EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("C#3"));
-    GL_NowPage = 0;
-    Log_SetLevel(0);
-    peer->Send(std::string(405, 'x'));
-    (void)ReceiveAll(Net_ReceiveCommand, 1);
-    Connect(*peer);
-    peer->Drop();
-    usleep(20000);
-    (void)Net_ReceiveCommand();
-    peer.reset(); // nobody listens any more
-    for (int i = 0; i < 3; i++, usleep(5000))
-        (void)Net_ReceiveCommand();
-    Log_Init("", 0);
-
-    const std::string log = FileText(file);
-    for (const char* once : {"put A#1\n", "B#0", "<--[B#1]", "ERROR: net_read() -> 0"})
-        EXPECT_EQ(Count(log, once), 1) << once << "\n" << log;
-    EXPECT_EQ(Count(log, "[B#0]") + Count(log, "C#3"), 0) << "raw, and not at all";
-    for (const char* again : {"create_inet_connection(127.0.0.1:10001)",
-                              "Net_ReceiveCommand() Buffer Full!!", // on every call
-                              "ERROR: Failed to connect server"})
-        EXPECT_GE(Count(log, again), 2) << again;
-}
-
 TEST_F(Link, AServerMayBeGivenByName)
 {
     strcpy(GL_ServerAddress, "localhost");
