@@ -387,7 +387,12 @@ TEST_F(ClipStore, ATrimRenumbersThumbnails)
     fs::remove(FM_FOLDER + std::string("c.SFH#000002.THM"));
     Hub("Result", "ClipStoreFile", "Trim root/c.SFH 2 4 3:7F");
     EXPECT_THAT(Files(), IsEmpty()) << "without its first, none is kept";
-    EXPECT_THAT(Remotes(Gets()), ElementsAre("c.SFH#000000.THM"));
+    const auto gets = Gets();
+    ASSERT_THAT(Remotes(gets), ElementsAre("c.SFH#000000.THM"));
+    Hub("Result", "ClipStoreFile", "Trim root/c.SFH 1 2 2:7F");
+    (void)Changes();
+    Answer(gets[0], "OK");
+    EXPECT_THAT(Changes(), IsEmpty()) << "it is the first of what was";
 }
 
 TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
@@ -428,8 +433,11 @@ TEST_F(ClipStore, TablesComeAndGo)
     }
     Hub("Disconnect", "ClipStoreFile", "");
     EXPECT_THAT(Tree(), ElementsAre("/", "/A"));
-    Hub("Disconnect", "ClipStoreInfo", "");
-    EXPECT_EQ(SYS_StoreTotal + SYS_StoreFree + SYS_MemoryTotal + SYS_MemoryFree, 0);
+    for (void (*lose)() : {+[] { Hub("Disconnect", "ClipStoreInfo", ""); }, FMCtrl3_HubLost}) {
+        lose();
+        EXPECT_EQ(SYS_StoreTotal + SYS_StoreFree + SYS_MemoryTotal + SYS_MemoryFree, 0);
+        Hub("Notify", "ClipStoreInfo", "CAPACITY::9,8,7,6,7f");
+    }
 }
 
 TEST_F(ClipStore, ABurstOfElementsIsTakenWhole)

@@ -437,10 +437,10 @@ TEST_F(Saver, SettingsComeBackAndRubbishChangesNothing)
         Saver_LoadSettings();
         EXPECT_TRUE(as_saved()) << text;
     }
-    std::ofstream(SETTINGS) << "Name9=" << std::string(500, 'n') << "\nPattern=3";
+    std::ofstream(SETTINGS) << "Name9=" << std::string(500, 'n') << "\nPattern=0";
     Saver_LoadSettings();
     EXPECT_EQ(strlen(GL_Scr_disp_name[9]), size_t(SAVER_TEXT - 1));
-    EXPECT_EQ(GL_ScreenSaverPTN_Mode, 3);
+    EXPECT_EQ(GL_ScreenSaverPTN_Mode, 0);
 }
 
 // --- The setup page ---
