@@ -179,6 +179,18 @@ TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBank)
     }
 }
 
+// The server tells of it only when it is asked.
+TEST_F(ButtonFamily, TheBorderIsReadBackBehindItsPress)
+{
+    rows[0] = Button(17, BT_TOGGLE, {"~@Border#*"});
+    rows[0].select_func = bt_sel_cgborder;
+    rows[1] = {.id = -1};
+    OpenTree({"M/E-1", "X"}, 0x11110000, rows);
+    Press(17);
+    EXPECT_THAT(TakeQueuedCommands(),
+                ElementsAre("put M/E-1@X@Border#true", "read M/E-1@X@Border"));
+}
+
 // --- Draw ---
 
 TEST_F(ButtonFamily, ALightThatIsActiveHasABar)

@@ -115,7 +115,8 @@ TEST_F(Held, WhateverTakesTheReleaseEndsTheHold)
     }
 }
 
-// Each message of a sequence, and those at which the page is told to let go. x: a pane comes.
+// Each message of a sequence, and those at which the page is told to let go. x: a pane comes, n:
+// the ten keys, beside which the page is alive, t: a keyboard.
 TEST_F(Held, ALossIsToldOnceAndToNobodyWhoHoldsNothing)
 {
     static const std::map<char, int> messages = {
@@ -124,8 +125,9 @@ TEST_F(Held, ALossIsToldOnceAndToNobodyWhoHoldsNothing)
         const char* sequence;
         const char* lost;
     } cases[] = {
-        {"p", ""},     {"xdwr", ""},  {"pdwr", ""}, {"prxd", ""},   {"pxwd", "w"}, {"pxdd", "d"},
-        {"pxrd", "r"}, {"pxkd", "d"}, {"ppd", "p"}, {"pprpd", "p"}, {"xpdr", ""},  {"pxpw", "p"},
+        {"p", ""},     {"xdwr", ""},  {"pdwr", ""},  {"prxd", ""}, {"pxwd", "w"},
+        {"pxdd", "d"}, {"pxrd", "r"}, {"pxkd", "d"}, {"ppd", "p"}, {"pprpd", "p"},
+        {"xpdr", ""},  {"pxpw", "p"}, {"npxd", "d"}, {"tpxd", ""},
     };
     for (const auto& c : cases) {
         Held_Reset();
@@ -133,6 +135,8 @@ TEST_F(Held, ALossIsToldOnceAndToNobodyWhoHoldsNothing)
         for (const char* step = c.sequence; *step; step++)
             if (*step == 'x')
                 pane = PaneMessage_Create("Pane", PANE_INFO, "Text");
+            else if (*step == 'n' || *step == 't')
+                (void)CreateWindow(*step == 'n' ? WINDOW_KNOB : WINDOW_KEYBOARD, "Window");
             else if (Held_IsLost(messages.at(*step)))
                 lost += *step;
         Pane_Quit(pane);

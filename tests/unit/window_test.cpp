@@ -808,6 +808,6 @@ TEST_F(WindowPullDown, ATabOfTheMaskPagePutsTheChoice)
     Tell("M/E-1@Key1@Main Mask@Main Mask#true");
     Touch(602 + 40, 360 + 30);
     ASSERT_EQ(GetWindow(), WINDOW_PULLDOWN);
-    EXPECT_THAT(Touch(602 + 40, 413 + 6 + 32 + 16), // the second of four, below it
+    EXPECT_THAT(Touch(602 + 40, 413 + 6 + 32 + 31), // the lower edge of the second of four
                 ElementsAre("put M/E-1@Key1@Main Mask@Mask Source#Pattern"));
 }
