@@ -2,6 +2,7 @@
 // pages of units, the panel's too, that every key does something.
 #include "a_bt.h"
 #include "page_table/setup_tabs.h"
+#include "pane_private.h"
 #include "pc_setup_fcadjust.h"
 #include "pc_setup_output.h"
 #include "setup_desk.h"
@@ -78,6 +79,21 @@ TEST_F(SwitcherIo, OnlyTheGroupOfInputsThatIsChosenIsShownAndFollowed)
         << "the choice outlives the page";
     (void)Push(BTN_SHEET_GROUP);
     (void)Answer(1);
+}
+
+TEST_F(SwitcherIo, ARangeThatEndsBeforeItBeginsIsNamedAndNotSent)
+{
+    const std::string area = "Engineering Setup@Router@Area@";
+    (void)Open(0x73610001);
+    for (const char* end : {"First Source", "Last Source", "First Destination", "Last Destination"})
+        (void)Tell(area + end + "@1#8");
+    SendMessage(LMSG_KNOBVAR, 2, 9, 0, 0);
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::ElementsAre("put " + area + "Last Source@1#9"));
+    SendMessage(LMSG_KNOBVAR, 2, 7, 0, 0);
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::IsEmpty());
+    PANE* const pane = pane_find(Pane_GetActiveID());
+    ASSERT_TRUE(pane);
+    EXPECT_STREQ(pane_text_in_view(pane), "Last Src of Area 1\nis below the first.");
 }
 
 TEST_F(SwitcherIo, ANumberThatMayBeNoneSaysSo)
