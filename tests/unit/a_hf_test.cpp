@@ -62,6 +62,14 @@ TEST_F(BottomTabs, APressAsksForThePageOfItsCell)
     EXPECT_EQ(Asked(Cell(2), 556), 0x11120000u);
 }
 
+TEST_F(BottomTabs, EachPathIsFollowedOnceWhileTheTabsStand)
+{
+    const std::string edge = "M/E-1@Key1@Edge@Edge Type", soft = "M/E-1@Key1@Edge@Soft Edge";
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add " + edge, "add " + soft));
+    HF_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove " + edge, "remove " + soft));
+}
+
 TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)
 {
     static const struct {

@@ -74,6 +74,9 @@ TEST_F(LeftTabs, ABoxThatGoesLeavesTheTabsTheirPaths)
     EXPECT_EQ(VF_GetStatus(1), 1);
     EXPECT_EQ(VF_GetStatus(2), 0);
     EXPECT_EQ(VF_GetStatus(6), -1);
+    (void)TakeQueuedCommands();
+    VF_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Enable"));
 }
 
 TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
@@ -96,6 +99,33 @@ TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
     EXPECT_THAT(Sent(X, Slot(2)), IsEmpty());
 }
 
+// The knobs of a pattern go back with it. A bank without a sub side has one wipe.
+TEST_F(LeftTabs, ARecallOfAWipeTakesItsKnobsAway)
+{
+    static const VF_TBL wipe[] = {{.id = 1, .caption = "Wipe", .page = 0x15510000}, VF_END};
+    static const struct {
+        uint32_t page;
+        int has_sub, owner;
+        const char* sent;
+        int owner_then;
+    } cases[] = {
+        {0x11510000, 0, 33, "default M/E-1@Wipe", -1},
+        {0x15510000, 1, 34, "default M/E-1 SUB@Wipe", -1},
+        {0x15510000, 1, 35, "default M/E-1 SUB@Wipe", 35},
+        {0x15710000, 1, 33, "default M/E-1 SUB@Wipe", 33}, // no page of a wipe
+    };
+    for (const auto& c : cases) {
+        multiprogram2_me[1] = c.has_sub;
+        SetTree({"M/E-1", "Wipe"}, c.page);
+        VF_Create(wipe, 1);
+        BT_SetKnobAssign(c.owner);
+        BA_SetDefaultButton(1);
+        EXPECT_THAT(Sent(X, Slot(1)), Contains(c.sent)) << std::hex << c.page;
+        EXPECT_EQ(BT_GetKnobAssign(), c.owner_then) << std::hex << c.page;
+    }
+    BT_SetKnobAssign(-1);
+}
+
 TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
 {
     static const struct {
@@ -110,10 +140,15 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
         {0x11510000, "", ""},        // no key page
     };
     multiprogram2_me[0] = multiprogram2_me[1] = multiprogram2_me[4] = 1;
+    constexpr Rect second = {0, Slot(2), 93, Slot(3) - 1};
+    Pass();
+    const auto bare = PixelsIn(second);
     for (const char* row : {"M/E-1,1,Main", "M/E-1,2,Sub", "P/P,8,Sub", "M/E-2,1,Sub"})
         Tally(OUTPUT_LIST, row);
     for (const char* row : {"M/E-1,1,03", "M/E-1,2,16", "P/P,8,FF", "M/E-2,1,FF"})
         Tally(PGM_LIST, row);
+    Pass();
+    EXPECT_NE(PixelsIn(second), bare);
     // What names nothing changes nothing.
     for (const char* row : {"", "M/E-1", "M/E-1,1", "M/E-9,1,Sub", "M/E-1,0,Sub", "M/E-1,9,Sub",
                             "M/E-1,-1,Sub", "M/E-1,x,Sub", ",,"}) {

@@ -1,6 +1,7 @@
 #include "bus_probe.h"
 #include "initread.h"
 #include "loop.h"
+#include "text.h"
 #include <algorithm>
 #include <set>
 
@@ -92,6 +93,10 @@ TEST_F(InitialReadTest, APaneStandsWhileSomeUnitReads)
 TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
 {
     SYS_ConfigChange = 1;
+    SYS_FmemV6 = 0;
+    InitialCommand0();
+    EXPECT_EQ(SYS_FmemV6, 1) << "the newest, until the server tells of another";
+    (void)TakeQueuedCommands();
     InitialCommand1();
     EXPECT_EQ(SYS_ConfigChange, 0);
     const Strings sent = TakeQueuedCommands();
@@ -99,7 +104,8 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
          {"add Info@Processor Status@6", "add Info@Operation Setup Data@Color Select@12",
           "add Engineering Setup@System@Format@Reference@PNL4",
           "add Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@23",
-          "add PGM/PST@DSK1@Processed Key@Rotation", "add Info@Board Config@Board Exist Set@PNL1"})
+          "add PGM/PST@DSK1@Processed Key@Rotation", "add Info@Board Config@Board Exist Set@PNL1",
+          "read Engineering Setup@DME@Model@DME2"})
         EXPECT_THAT(sent, Contains(line));
     EXPECT_THAT(sent, Not(Contains("add 16@Frame Mem@Status@Register Status@45")));
     // A shortcut stands right behind its group.
@@ -108,20 +114,6 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
     ASSERT_NE(group, sent.end());
     EXPECT_EQ(*(group + 1), "add Info@Operation Setup Data@Shortcut Name@10");
     EXPECT_EQ(std::set<std::string>(sent.begin(), sent.end()).size(), sent.size()) << "sent twice";
-}
-
-TEST_F(InitialReadTest, TheLinesOfAFlexiPadBusStandTogether)
-{
-    InitialCommand1();
-    const Strings sent = TakeQueuedCommands();
-    const std::string path = "Engineering Setup@Panel@Operation@Xpt Module Operation@"
-                             "Flexi Pad Button@";
-    const auto at = std::find(sent.begin(), sent.end(), "add " + path + "Assign@P/P");
-    ASSERT_NE(at, sent.end());
-    EXPECT_EQ(Strings(at, at + 4),
-              Strings({"add " + path + "Assign@P/P", "add " + path + "Page Name@P/P",
-                       "add " + path + "Page Jump@P/P", "add " + path + "Assign@M/E-1"}));
-    EXPECT_THAT(sent, Contains("add " + path + "Page Jump@2nd AUX"));
 }
 
 // The server has forgotten what the page follows.
@@ -167,6 +159,31 @@ TEST_F(InitialReadTest, SubSidesAreSubscribedOnceAndAgainBehindTheSecondStage)
     EXPECT_EQ(subs(), 1);
     Deliver(config, "Standard");
     EXPECT_EQ(subs(), 0);
+}
+
+// Of the units that are this panel's own; all of it is given back.
+TEST_F(InitialReadTest, TheHubIsAskedForTheTablesOfTheOwnUnits)
+{
+    DEVICE switcher, panel;
+    CopyText(switcher.id, "SWR000D002");
+    CopyText(panel.id, "PNL000D003");
+    DEV_MySwr[0] = &switcher;
+    DEV_MyPnl[0] = &panel;
+    SYS_MySwrMax = SYS_MyPnlMax = 1;
+    Strings tables = {"CS2.ClipStoreInfo", "CS2.ClipStoreFolder", "CS2.ClipStoreFile", "PNL3.File",
+                      "CS1.File",          "SWR1.File",           "CS2.File",          "SWR2.File"};
+    (void)TakeQueuedHubLines();
+    InitialCommandSHP();
+    const Strings asked = TakeQueuedHubLines();
+    DeathCommandSHP();
+    const Strings ended = TakeQueuedHubLines();
+    for (const auto& [verb, lines] : {std::pair{"Listen#", asked}, {"Unlisten#", ended}}) {
+        Strings expected = tables;
+        for (std::string& line : expected)
+            line.insert(0, verb);
+        EXPECT_THAT(lines, testing::UnorderedElementsAreArray(expected));
+    }
+    DeviceStructure();
 }
 
 // What a stage adds, its opposite removes; what it only asked once or set leaves nothing behind.

@@ -256,11 +256,17 @@ TEST_F(FileAllPage, ACategoryThatCannotBeReadIsSaid)
 
 TEST_F(FileAllPage, AllFourRegionsLockTheSetup)
 {
-    std::fill_n(&GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP], SETUP_REGIONS, 1);
-    Select({"SETUP", "MACRO"});
-    (void)Press(BTN_ALL_R_TO_L);
-    EXPECT_THAT(Selected(), ElementsAre("MACRO"));
-    (void)CloseWindow();
+    for (const int open : {0, SETUP_REGIONS - 1, SETUP_REGIONS}) { // the last: none is
+        std::fill_n(&GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP], SETUP_REGIONS, 1);
+        if (open < SETUP_REGIONS)
+            GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP + open] = 0;
+        GL_FileLock[FILELOCK_CATEGORY_KEY_MEMORY] = 1;
+        Select({"SETUP", "MACRO", "KEYMEM"});
+        (void)Press(BTN_ALL_R_TO_L);
+        EXPECT_EQ(Selected(), open < SETUP_REGIONS ? Lines({"SETUP", "MACRO"}) : Lines({"MACRO"}));
+        (void)CloseWindow();
+        Pass(1000);
+    }
     (void)Press(BTN_ALL_SELECT);
     EXPECT_EQ(Selected().size(), size_t(ALL_ROWS));
 }

@@ -66,6 +66,15 @@ struct FileDualPage : TablePage {
     {
         return std::string("MYHOST:/mnt/data/user/root/SYSTEM/") + rest;
     }
+    // The list of errors, as its page has it.
+    static Strings ErrorsShown()
+    {
+        Strings texts;
+        EXPECT_EQ(CreatePage(0x99000000), 0);
+        for (int row = 0; row < LS_GetNData(1); row++)
+            texts.push_back(LS_GetData(1, row, 1));
+        return texts;
+    }
 };
 } // namespace
 
@@ -189,7 +198,7 @@ TEST_F(FileDualPage, WhatFailsWithoutItsPageIsInTheListOfErrors)
     SendMessage(MSG_SHPTALLY, Arg("Disconnect"), Arg("SWR1.File"), 0, 0);
     EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 0);
     EXPECT_EQ(Pane_GetActiveID(), 0) << "over other work nothing opens";
-    EXPECT_EQ(Err_GetMax(), 1);
+    EXPECT_THAT(ErrorsShown(), ElementsAre(HasSubstr("OPENING.ME1_003.SSS")));
     Err_Clear();
 }
 
@@ -332,19 +341,74 @@ TEST_F(FileDualPage, RenameOfFilesSkipsWhatKeepsItsName)
                                   HasSubstr("NEWS.ME1_001.SSS"), HasSubstr("tom_b.ME1_001.SSS"))));
 }
 
-// Each page opens, is filled and closes; none leaves a subscription behind.
-TEST_F(FileDualPage, EveryPageOpensWithItsGroup)
+TEST_F(FileDualPage, TheRegionsFollowTheInstallation)
 {
-    for (const FileKind& kind : file_kinds) {
-        for (const uint32_t id : {kind.id, kind.id + 1}) {
-            const Lines opened = Open(id);
-            EXPECT_EQ(GL_NowPage, id);
-            const int rows = std::min(RegisterNum[FileKind_Group(kind)], FILE_ROWS);
-            EXPECT_EQ(LS_GetNData(1), kind.has_folders ? 1 : rows) << std::hex << id;
-            Lines sent = opened;
-            const Lines left = Leave();
-            sent.insert(sent.end(), left.begin(), left.end());
-            EXPECT_EQ(Held(sent, "File@Src Patch Link"), 0) << std::hex << id;
-        }
+    static const struct {
+        int subs, model, dual, second_dme;
+        std::array<int, 8> groups;
+    } cases[] = {
+        {0, 0, 0, -1, {4, 35, 8, 10, 12, 13, 17, 18}},
+        {1, 0, 0, 0, {28, 35, 43, 44, 45, 29, 30, 31}},
+        {0, 5, 1, 0, {7, 35, 9, 11, 12, 16, 17, 18}},
+        {0, 0, 1, -1, {4, 35, 36, 37, 38, 13, 17, 18}},
+        {0, 0, 0, 0, {4, 35, 43, 44, 45, 13, 17, 18}},
+    };
+    DEVICE unit;
+    unit.activeline = ACTIVELINE_1080P;
+    unit.framerate = 29.97;
+    DEV_MySwr[0] = DEV_MyDme[0] = &unit;
+    SYS_RefSwrType = DEVTYPE_KTR40X;
+    for (const auto& c : cases) {
+        std::fill_n(multiprogram2_me, ME_COUNT, 0);
+        multiprogram2_me[ME_COUNT - 1] = c.subs;
+        GL_DmeModel[0] = c.model;
+        SYS_DualProc = c.dual;
+        SYS_MyDme2S = c.second_dme;
+        for (int kind = 0; kind < int(c.groups.size()); kind++)
+            EXPECT_EQ(File_GroupOf(FILEKIND(kind)), c.groups[size_t(kind)]) << kind;
     }
+}
+
+TEST_F(FileDualPage, WhatALoadHasChangedIsReadOnceAndFailuresAreCounted)
+{
+    static const struct {
+        const char *dst, *category, *reads; // the line, but for a snapshot's lists
+    } cases[] = {
+        {"SWR1:/x/SNAPSHOT/SWR1/A.ME1_001.SSS", "", "Snapshot@Snapshot@Register Status#1F803FFF"},
+        {"SWR1:/x/A", "WSNAP", "Snapshot@Wipe Snapshot@Register Status#1F80003F"},
+        {"SWR1:/x/A", "DSNAP", "Snapshot@DME Snapshot@Register Status#1F80003F"},
+        {"SWR1:/x/A", "KSNAP", "Snapshot@Key Snapshot@Register Status#0000FFFFFFFFFFFF"},
+        {"PNL1:/x/.GUI_0.PST", "SETUP", "Info@Operation Setup Data@SRAM Map KeyCode#true"},
+        {"PNL1:/x/PNL.GUI_0.SST", "SETUP", ""},
+        {"PNL1:/x/PNL_0.PST", "SETUP", ""},
+        {"SWR1:/x/A", "KEYMEM", ""},
+    };
+    for (const auto& c : cases)
+        for (const int status : {FILESTATUS_OK, FILESTATUS_NG, FILESTATUS_CANCEL}) {
+            FILEXFERLIST items[3];
+            items[0].next = &items[1];
+            items[1].next = &items[2];
+            for (FILEXFERLIST& item : items)
+                item.status = FILESTATUS_NON;
+            for (FILEXFERLIST* item : {&items[1], &items[2]}) {
+                CopyText(item->dst, c.dst);
+                CopyText(item->category, c.category);
+                CopyText(item->mesg, item == &items[1] ? "A: no" : "B: no");
+                item->status = status;
+            }
+            (void)TakeQueuedCommands();
+            xferlist_result_display(items);
+            const bool reads = *c.reads && status == FILESTATUS_OK;
+            EXPECT_EQ(Puts(TakeQueuedCommands()),
+                      reads ? Lines{"put " + std::string(c.reads)} : Lines{})
+                << c.dst;
+            for (const int good : {2, 1}) { // the last one that failed is alone
+                Err_Clear();
+                xferlist_errors_add(items);
+                const char* const more = good == 2 ? "A: no (and 1 more)" : "A: no";
+                EXPECT_EQ(ErrorsShown(), status == FILESTATUS_OK ? Strings{} : Strings{more});
+                items[2].status = FILESTATUS_OK;
+            }
+        }
+    Err_Clear();
 }

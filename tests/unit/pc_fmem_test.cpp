@@ -403,20 +403,45 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
-TEST_F(ClipPages, LoadsTheClipsAmongWhatIsChecked)
+TEST_F(ClipPages, LoadsOrUnloadsTheClipsAmongWhatIsChecked)
+{
+    for (const auto& [key, verb] :
+         {std::pair{BTN_FMEM_LOAD, "Register"}, {BTN_FMEM_UNLOAD, "UnRegister"}}) {
+        const std::string asked = std::string("ClipStoreFile:") + verb;
+        OpenPage(0x21120000);
+        (void)Open(0x21120000);
+        EXPECT_EQ(BT_GetVisible(key), BT_DISABLED);
+        (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
+        Cell(0, "NEWS"); // a folder
+        EXPECT_EQ(BT_GetVisible(key), BT_DISABLED);
+        Cell(0, "OPENING");
+        Cell(0, "STILL");
+        (void)Press(key);
+        EXPECT_THAT(Grant("85"),
+                    ElementsAre(asked + " root/OPENING.SFH", asked + " root/STILL.SFH"));
+        if (key == BTN_FMEM_LOAD)
+            Answer(0); // to the pane that says that memory is full
+        EXPECT_EQ(FF_GetCheckedObjectNum(0), 0);
+        Cell(0, "STILL");
+        (void)Press(key);
+        (void)Leave();
+        EXPECT_FALSE(fmem_progress_is_busy()) << "it ends with its page";
+    }
+}
+
+TEST_F(ClipPages, TheRoomInMemoryIsShownOnceTheHubHasToldIt)
 {
     OpenPage(0x21120000);
-    (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
-    Cell(0, "NEWS"); // a folder
-    EXPECT_EQ(BT_GetVisible(BTN_FMEM_LOAD), BT_DISABLED);
-    Cell(0, "OPENING");
-    Cell(0, "STILL");
-    (void)Press(BTN_FMEM_LOAD);
-    EXPECT_THAT(Grant("85"), ElementsAre("ClipStoreFile:Register root/OPENING.SFH",
-                                         "ClipStoreFile:Register root/STILL.SFH"));
-    EXPECT_NE(Pane_GetActiveID(), 0); // says that memory is full
-    Answer(0);
-    EXPECT_EQ(FF_GetCheckedObjectNum(0), 0);
+    const auto room = [](int total) {
+        SYS_MemoryFree = SYS_MemoryTotal = total;
+        SendMessage(LMSG_FMLOAD, 0, 0, 0, 0);
+        Pass(10);
+        return PixelsIn({332, FMEM_KEYS_Y + 33, 434, FMEM_KEYS_Y + 52});
+    };
+    const auto none = room(0);
+    EXPECT_THAT(none, Each(none[0]));
+    EXPECT_NE(room(3000), none);
+    EXPECT_EQ(room(0), none);
 }
 
 TEST_F(ClipPages, CouplesWhatFits)

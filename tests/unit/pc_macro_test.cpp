@@ -603,6 +603,51 @@ TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
     MacroList_Clear(list);
 }
 
+TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
+{
+    (void)Tell("Macro@Register@List#7,S,OPENING,U,0,0");
+    static const struct {
+        int status, number;
+        uint32_t page, opens;
+    } cases[] = {
+        {FILESTATUS_OK, 7, PAGE_MACRO_REGISTERS, PAGE_MACRO_OFFLINE},
+        {FILESTATUS_NG, 7, PAGE_MACRO_REGISTERS, 0},
+        {FILESTATUS_OK, 7, PAGE_TOP, 0},             // the operator has left
+        {FILESTATUS_OK, 8, PAGE_MACRO_REGISTERS, 0}, // and begun another
+    };
+    const auto begin = [](int key) {
+        Open(PAGE_MACRO_REGISTERS);
+        Cursor(1, 6);
+        EXPECT_EQ(BT_GetVisible(key), BT_ENABLED);
+        (void)Key(key);
+        EXPECT_EQ(GL_MacroEditNo, 7);
+        EXPECT_STREQ(GL_MacroEditNoName, "7  Name: OPENING");
+    };
+    for (const auto& c : cases) {
+        Filescp_trnasferlist_init("PNL1");
+        Hub("Ready");
+        begin(BTN_MACRO_OFFLINE);
+        EXPECT_EQ(GL_Macro_Offline_RegStore, 0);
+        ASSERT_TRUE(QueueRoot);
+        FILEXFERLIST* const item = *QueueRoot->xferlist;
+        EXPECT_THAT(item->src, HasSubstr(":/vorn/tmp/file/MACRO/PNL1/PNL_0007.PMR"));
+        const int status = std::exchange(item->status, c.status);
+        GL_NowPage = c.page;
+        GL_MacroEditNo = c.number;
+        QueueRoot->retfunc.list(QueueRoot->label, QueueRoot->tag);
+        EXPECT_EQ(GL_CreatePage, c.opens);
+        item->status = status;
+        Hub("Disconnect"); // the job ends
+        (void)Pane_Quit(Pane_GetActiveID());
+    }
+    begin(BTN_MACRO_ONLINE);
+    EXPECT_EQ(GL_CreatePage, PAGE_MACRO_ONLINE);
+    DEV_MyPnl[0] = nullptr;
+    begin(BTN_MACRO_OFFLINE);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    EXPECT_EQ(QueueRoot, nullptr);
+}
+
 // From the list of the registers in the File menu, too.
 TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
 {

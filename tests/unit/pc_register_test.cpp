@@ -240,10 +240,10 @@ TEST_F(RegisterPages, HoldGoesToMarksAndBack)
 TEST_F(RegisterPages, ALineShowsItsAttributesInItsRegionOnly)
 {
     Open(0x63210000);
-    Store("M/E-1", 3, "OPENING LONG,L,AB,30,n,1");
+    Store("M/E-1", 3, "OPENING LONG,L,AB,1234,n,1");
     Store("M/E-2", 4, "ELSEWHERE,S,,n,n,n");
     Store("M/E-1", 100, "TOO FAR,S,,n,n,n");
-    const Lines row = {"3", "OPENING LON", "L", " A B", "30", "", ""};
+    const Lines row = {"3", "OPENING LON", "L", " A B", "123", "", ""};
     for (int col = 0; col < int(row.size()); col++)
         EXPECT_EQ(Cell(1, 2, col), row[size_t(col)]) << col;
     EXPECT_EQ(Cell(1, 3, 1), "");
@@ -290,15 +290,6 @@ TEST_F(RegisterPages, WithoutASwitcherAChannelLeads)
         Open(0x63220000);
         EXPECT_THAT(Puts(51),
                     ElementsAre(std::string("put Snapshot@Snapshot@Lock#") + mask + ",1,1"));
-    }
-}
-
-TEST_F(RegisterPages, TheTopOfATabOpensItsFirstPage)
-{
-    for (const uint32_t top : {0x62100000u, 0x62600000u, 0x63300000u, 0x64100000u}) {
-        EXPECT_EQ(CreatePage(top), 0);
-        EXPECT_EQ(GL_CreatePage, top + 0x10000) << std::hex << top;
-        GL_CreatePage = 0;
     }
 }
 
