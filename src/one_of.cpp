@@ -143,11 +143,10 @@ static const _pageobject* object_of_page(int type)
 // Above the page, and above its boxes where no key owns them.
 static void show_title()
 {
-    const char* last = "";
-    for (const char* word : Page->tree)
-        last = word ? word : last;
+    char title[64];
+    Page_ColumnTitle(title, *Page);
     if (BT_GetKnobAssign() <= 0)
-        (void)NB_SetTitle(last);
+        (void)NB_SetTitle(title);
     BA_RedrawTitle();
 }
 

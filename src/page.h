@@ -138,6 +138,8 @@ int MainSubAssign_StatusCheck();
 const MeBank* Page_Bank(); // the bank of the current page, by the first word of its path; or null
 
 const char* Page_LastWord(const PAGE& page); // of its path; "" without one
+// The same for what stands above the boxes: a bare number goes with the word before it, "Salvo 3".
+void Page_ColumnTitle(char (&dst)[64], const PAGE& page);
 // "%04X" or "%04X.%X" of a page id into text (at least 16 characters).
 void Page_Number(char* text, int size, uint32_t id);
 

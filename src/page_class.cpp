@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include "safeguards.h"
 
@@ -175,4 +176,20 @@ const char* Page_LastWord(const PAGE& page)
         last = word;
     }
     return last;
+}
+
+void Page_ColumnTitle(char (&dst)[64], const PAGE& page)
+{
+    const char* before = "";
+    const char* last = "";
+    for (const char* word : page.tree) {
+        if (!word)
+            break;
+        before = std::exchange(last, word);
+    }
+    const bool is_number = *last && strspn(last, "0123456789") == strlen(last);
+    if (is_number && *before)
+        PrintText(dst, "%s %s", before, last);
+    else
+        CopyText(dst, last);
 }

@@ -38,8 +38,11 @@ void create_boxes(const void* table, uint32_t, const PAGE& row)
         NB_Create(nullptr, nullptr);
         return;
     }
-    if (BT_GetKnobAssign() <= 0)
-        NB_Create(static_cast<const NB_TBL*>(table), Page_LastWord(row));
+    if (BT_GetKnobAssign() > 0)
+        return;
+    char title[64];
+    Page_ColumnTitle(title, row);
+    NB_Create(static_cast<const NB_TBL*>(table), title);
 }
 
 void create_debug(const void*, uint32_t, const PAGE&)

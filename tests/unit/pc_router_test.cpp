@@ -1,5 +1,6 @@
 // The router's pages: what a touch on a source or a destination sends, and when it sends nothing.
 #include "a_ls.h"
+#include "a_nb.h"
 #include "device.h"
 #include "pane.h"
 #include "table_page.h"
@@ -72,6 +73,14 @@ TEST_F(RouterPage, ASourceIsThePresetOfTheChosenDestinationUnlessItIsNotOursToCh
                   std::string(c.lock) == "Lock" ? BT_DISABLED : BT_ENABLED);
     }
     EXPECT_THAT(Press(KEY_TAKE), testing::Contains("put " + DEST + "Dest3@Take#true"));
+}
+
+TEST_F(RouterPage, TheColumnIsHeadedByWhatTheNumberIsOf)
+{
+    (void)Open(0x51410000);
+    EXPECT_STREQ(NB_GetTitle(), "Salvo 1");
+    (void)Choose(1, 2);
+    EXPECT_STREQ(NB_GetTitle(), "Salvo 3");
 }
 
 TEST_F(RouterPage, OneSourceGoesToEachDestinationThatIsTouchedAndItsPlacesAreMarked)
