@@ -10,6 +10,7 @@
 #include "pc_file.h"
 #include "tally_value.h"
 #include "text.h"
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <cstring>
@@ -119,6 +120,12 @@ static const char* format_caption(const char* format)
     return format[0] && !format[1] && n >= 1 && n <= long(std::size(names)) ? names[n - 1] : format;
 }
 
+// Nothing for a picture like most; another number is shown as it is.
+static const char* mode_caption(const char* mode)
+{
+    return Same(mode, "1") ? "4K" : Same(mode, "0") ? "" : mode;
+}
+
 static const char* mark(const char* flag)
 {
     return Same(flag, "1") ? "O" : Same(flag, "0") ? "" : flag;
@@ -130,7 +137,7 @@ static void enable_key()
                                        File_DirIsProtected(DevInvert.device, DevInvert.dir));
 }
 
-static void show_row(int n)
+static void fill_row(int n)
 {
     const FILECELL_FI& cell = frames[n].cell;
     (void)LS_SetData(LIST, n, COL_NO, frames[n].number);
@@ -138,10 +145,31 @@ static void show_row(int n)
     (void)LS_SetData(LIST, n, COL_TIME, cell.time);
     (void)LS_SetData(LIST, n, COL_VERSION, cell.version);
     (void)LS_SetData(LIST, n, COL_FORMAT, format_caption(cell.format));
-    (void)LS_SetData(LIST, n, COL_MODE, cell.mode);
+    (void)LS_SetData(LIST, n, COL_MODE, mode_caption(cell.mode));
     (void)LS_SetData(LIST, n, COL_MODIFIED, mark(cell.modified));
     (void)LS_SetData(LIST, n, COL_INVERT, mark(cell.invert));
+}
+
+static void show_row(int n)
+{
+    fill_row(n);
     (void)LS_SetNData(LIST, n + 1);
+    (void)LS_RedrawData(LIST);
+}
+
+// Files come by their names; who looks for a frame knows its number.
+static void sort_rows()
+{
+    const auto is_before = [](const FILELIST_FI& a, const FILELIST_FI& b) {
+        const int order = Decimal(a.number) - Decimal(b.number);
+        return order ? order < 0 : strcmp(a.cell.path, b.cell.path) < 0;
+    };
+    if (std::is_sorted(frames, frames + fi.rows, is_before))
+        return;
+    std::sort(frames, frames + fi.rows, is_before);
+    LS_SetALL(LIST, 0); // the rows that were chosen meanwhile are others now
+    for (int n = 0; n < fi.rows; n++)
+        fill_row(n);
     (void)LS_RedrawData(LIST);
 }
 
@@ -160,6 +188,7 @@ static void fieldinvert_tly(uint32_t label, int, const char* text)
         return; // the page has gone on
     if (!text) {
         fi.search = 0;
+        sort_rows();
         enable_key();
     } else if (fi.rows < ROWS && frames_dir(dir) &&
                File_ReadFrameRow(text, dir, &frames[fi.rows]) == 0) {

@@ -61,11 +61,11 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
     const std::string logo = std::string(DIR) + "SWR000D001/MLOGO.FMEM_007.SFM";
     const std::string tail = ",Wed Nov 25 10:30:00 2026,1,3,0,";
     List(Open(0x71540000),
-         {logo + tail + "0,0", std::string(DIR) + "SWR000D001/MBACK.FMEM_012.SFA" + tail + "1,1",
+         {std::string(DIR) + "SWR000D001/MBACK.FMEM_012.SFA" + tail + "1,1", logo + tail + "0,0",
           std::string("/etc/SWR000D001/MBACK.FMEM_013.SFM") + tail + "0,0"});
     ASSERT_EQ(LS_GetNData(1), 2);
-    EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i|0||");
-    EXPECT_EQ(Row(1), "012|MBACK|Nov.25.2026 10:30|1|1080i|0|O|O");
+    EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i|||") << "by number";
+    EXPECT_EQ(Row(1), "012|MBACK|Nov.25.2026 10:30|1|1080i||O|O");
     (void)Touch(200, 124 + 22 + 5);
     (void)Press(BTN_INVERT_EXEC);
     const int question = Pane_GetActiveID();
@@ -84,7 +84,7 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
     Tell(path + label + ",77");
     Lines again = Tell(path + "@Status#77,OK");
     List(again, {logo + tail + "1,1"});
-    EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i|0|O|O");
+    EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i||O|O");
 }
 
 TEST_F(FieldInvertPage, RowsThatAreNone)
