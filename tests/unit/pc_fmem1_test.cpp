@@ -67,6 +67,18 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
     EXPECT_THAT(List(), ElementsAre("*6|run|3|2"));
 }
 
+TEST_F(FrameMemoryPage, AnOldFrameMemoryHasNoTabOfFolders)
+{
+    for (const int v6 : {0, 1}) {
+        SYS_FmemV6 = v6;
+        Open(STILL_FILES);
+        GL_CreatePage = 0;
+        Touch(97 + 2 * 86 + 40, 560);
+        EXPECT_EQ(GL_CreatePage, v6 ? 0x25130000u : 0u);
+    }
+    GL_CreatePage = 0;
+}
+
 TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
 {
     static const struct {
