@@ -157,8 +157,8 @@ static int setup_no()
 static void draw_setup()
 {
     const MMACRO_REGISTER_TBL reg = mm_register_table(su.shown_no);
-    MenuMacroField fields[FIELDS] = {
-        {"Current Menu Macro Register"}, {"Current Event"}, {"Current Interval Time"}};
+    // Of the register at the cursor; "current" is the one that has been recalled.
+    MenuMacroField fields[FIELDS] = {{"Menu Macro Register"}, {"Event"}, {"Interval Time"}};
     MenuMacro_RegisterText(su.shown_no + 1, fields[0].value, sizeof fields[0].value);
     AppendText(fields[0].value, reg.lock ? "   Lock" : "");
     PrintText(fields[1].value, "Evt: %3d/%3d", 0, reg.protcol_event_max);

@@ -45,7 +45,7 @@ inline constexpr auto menu_macro_pages = RegisterRows(menu_macro_group, menu_mac
 
 // --- The interval ---
 inline constexpr NB_TBL nb_menu_macro_setup[] = {
-    {.id = 1, .caption = "Interval", .type = NB_1, .min = 0, .max = MENU_MACRO_INTERVAL_MAX / 1000.0, .cmd = "Panel@Common@Knob0",
+    {.id = 1, .caption = "Interval\nseconds", .type = NB_1, .min = 0, .max = MENU_MACRO_INTERVAL_MAX / 1000.0, .cmd = "Panel@Common@Knob0",
      .scale = 10},
     NB_END,
 };
