@@ -76,6 +76,7 @@ extern const PC_TBL pc_engsetup_panel_config_programbutton; // the keys that lea
 enum : int {
     BTN_ASSIGN_MAIN = 49,
     BTN_ASSIGN_SUB = 50,
+    BTN_ASSIGN_BACK = 51, // where other setup pages have it, Set stands
     BTN_ASSIGN_SET = 52,
     BTN_ASSIGN_CLEAR = 53,
     BTN_ASSIGN_DEFAULT = 54,

@@ -28,19 +28,19 @@ constexpr BT_TBL AssignDefault(const char* cmd) { return Action({.id = BTN_ASSIG
 
 #define LOCAL_PANEL(word) "LOCAL@Engineering Setup@Panel@" word
 #define SET_CLEAR_DEFAULT(words) AssignSet(LOCAL_PANEL(words "@Set")), AssignClear(LOCAL_PANEL(words "@Clear")), AssignDefault(LOCAL_PANEL(words "@Default"))
-#define MODULE_KEYS(name, words) inline constexpr BT_TBL bt_engsetup_panel_##name[] = {SET_CLEAR_DEFAULT(words), BT_END}; \
+#define TO_PROGRAM_BUTTON Jump({.id = BTN_ASSIGN_BACK, .caption = "Program\nButton", .cmd = {"#73210002"}})
+#define MODULE_KEYS(name, words) inline constexpr BT_TBL bt_engsetup_panel_##name[] = {TO_PROGRAM_BUTTON, SET_CLEAR_DEFAULT(words), BT_END}; \
     static_assert(ButtonsAreSound(bt_engsetup_panel_##name))
 #define BANK_MODULE_KEYS(name, words) inline constexpr BT_TBL bt_engsetup_panel_##name[] = { \
         Radio({.id = BTN_ASSIGN_MAIN, .caption = "Main", .group = "Side", .cmd = PANEL(words "@Main/Sub#Main")}), \
         Radio({.id = BTN_ASSIGN_SUB,  .caption = "Sub",  .group = "Side", .cmd = PANEL(words "@Main/Sub#Sub")}), \
-        SET_CLEAR_DEFAULT(words), BT_END}; \
+        TO_PROGRAM_BUTTON, SET_CLEAR_DEFAULT(words), BT_END}; \
     static_assert(ButtonsAreSound(bt_engsetup_panel_##name))
 #define PROGRAM_BUTTON "Config@Program Button@"
 MODULE_KEYS(transitionmodule,  PROGRAM_BUTTON "Transition Module");
 MODULE_KEYS(transitionmodule2, PROGRAM_BUTTON "Simple Transition Module");
 MODULE_KEYS(keytransmodule,    PROGRAM_BUTTON "Key Transition Module");
 BANK_MODULE_KEYS(flexipadmodule, PROGRAM_BUTTON "Flexi Pad Module");
-MODULE_KEYS(keycontrolmodule_buttonassign, PROGRAM_BUTTON "Key Control Module@Key Control Button Assign");
 MODULE_KEYS(xptmodule,         PROGRAM_BUTTON "Xpt Module");
 MODULE_KEYS(menupanel,         PROGRAM_BUTTON "Menu Panel");
 MODULE_KEYS(devicecontrol,     PROGRAM_BUTTON "Device Control Module");
@@ -59,10 +59,16 @@ MODULE_KEYS(multimodule_modeselassign,   PROGRAM_BUTTON "Multi Module@Mode Selec
 
 inline constexpr BT_TBL bt_engsetup_panel_keycontrolmodule[] = {
     Jump({.id = 49, .caption = "Key\nControl\nButton", .cmd = {"#73210036"}}),
-    SET_CLEAR_DEFAULT(PROGRAM_BUTTON "Key Control Module"),
+    TO_PROGRAM_BUTTON, SET_CLEAR_DEFAULT(PROGRAM_BUTTON "Key Control Module"),
     BT_END,
 };
-static_assert(ButtonsAreSound(bt_engsetup_panel_keycontrolmodule));
+inline constexpr BT_TBL bt_engsetup_panel_keycontrolmodule_buttonassign[] = {
+    Jump({.id = BTN_ASSIGN_BACK, .caption = "Key\nControl", .cmd = {"#73210035"}}),
+    SET_CLEAR_DEFAULT(PROGRAM_BUTTON "Key Control Module@Key Control Button Assign"),
+    BT_END,
+};
+static_assert(ButtonsAreSound(bt_engsetup_panel_keycontrolmodule) && ButtonsAreSound(bt_engsetup_panel_keycontrolmodule_buttonassign));
+#undef TO_PROGRAM_BUTTON
 
 inline constexpr BT_TBL bt_engsetup_panel_config_programbutton[] = {
     Jump({.id = 1,  .caption = "Transition", .group = "Transition", .cmd = {"#73210031"}}),

@@ -165,14 +165,14 @@ inline constexpr SETUPWORD pnl_pad_words[] = {
     {},
 };
 static_assert(std::size(pnl_pad_words) == std::size(words_FlexiPadmod) + 1);
-#define PAD_BUTTON(n) {.head = "Btn" #n, .width = 55, .path = PAD_PATH "Assign@$@" #n, .words = pnl_pad_words}
+#define PAD_BUTTON(n) {.head = "Btn" #n, .width = 57, .path = PAD_PATH "Assign@$@" #n, .words = pnl_pad_words}
 inline constexpr SETUPCOLUMN pnl_padassign_columns[] = {PAD_BUTTON(1), PAD_BUTTON(2), PAD_BUTTON(3), PAD_BUTTON(4), PAD_BUTTON(5), PAD_BUTTON(6), PAD_BUTTON(7), PAD_BUTTON(8)};
 #undef PAD_BUTTON
 inline constexpr BT_TBL pnl_padassign_more[] = {
     Action({.id = 51, .caption = "Default\nAll Pages", .cmd = {PAD_DEFAULT}}), Jump({.id = 52, .caption = "Page Name/\nJump", .cmd = {"#73260017"}}),
 };
 inline constexpr SETUPSHEET pnl_padassign = SheetOf(
-    pnl_padassign_columns, int(std::size(pnl_pad_pages)), {.names = pnl_pad_pages, .key_head = "Bus@Page", .key_width = 110, .title = "Flexi Pad", PNL_KEYS(pnl_padassign_more)});
+    pnl_padassign_columns, int(std::size(pnl_pad_pages)), {.names = pnl_pad_pages, .key_head = "Bus@Page", .key_width = 94, .title = "Flexi Pad", PNL_KEYS(pnl_padassign_more)});
 inline constexpr SETUPWORD pnl_page_jumps[] = {SAME("None"), SAME("Page 1"), SAME("Page 2"), SAME("Page 3"), SAME("Page 4"), {}};
 inline constexpr SETUPCOLUMN pnl_padpage_columns[] = {
     SheetName("Page Name", 220, PAD_PATH "Page Name@$", 8, "Page\nName"), SheetAsked("Page Jump", 220, PAD_PATH "Page Jump@$", pnl_page_jumps, "Page\nJump"),
