@@ -225,10 +225,11 @@ static int draw_combiner(ST_MEM* cell, const char* name, const Combiner& form, i
     put_tile(c, OUT_X, OUT_Y, G_Combiner_Out);
     for (int i = 0; i < form.channels; i++)
         put_channel(c, form, first, i);
-    for (int row = form.channels * form.rows_a_channel; row < CHANNELS; row++) {
-        st_drw_center_image_globaleffect_combiner_trail(c, row, "Off");
-        veil_row(c, row); // the unit has no such channel
-    }
+    // The unit has no further channels; the line to the output leaves above their rows.
+    const int rows = form.channels * form.rows_a_channel;
+    const int y = c->y1 + DIAGRAM_Y + rows * ROW_PITCH - 4;
+    if (rows < CHANNELS)
+        TDL_FillRectS(c->x1 + DIAGRAM_X, y, c->x1 + OUT_X - 8, c->y2 - 3, BLACK);
     return 0;
 }
 
