@@ -32,6 +32,7 @@ struct Unit {
 
 static constexpr const char* FAN_SPEED = "Fan Speed";
 static constexpr const char* BOARD_FUNCTION = "Circuit Board Function";
+static constexpr const char* BOARD_ID = "Circuit Board ID";
 static constexpr const char* PSU_STATUS = "PSU Status";
 static constexpr const char* REFERENCE = "Reference Status";
 static constexpr size_t PSU_FIELDS = 4; // exists, AC, DC, fan
@@ -53,6 +54,9 @@ static constexpr Model models[] = {
 static const char* const board_ids[] = {"CPU-31", "SYS-12", "XPT-44", "XPT-44", "MIX-70", "MIX-70",
                                         "MIX-70", "MIX-70", "KPC-19", "KPC-19", "FM-25",  "FM-25",
                                         "DIF-88", "DIF-88", "DOF-90", "DOF-90"};
+// Of an effects unit.
+static const char* const dme_board_ids[] = {"CPU-31", "GEO-52", "GEO-52",
+                                            "MEM-40", "DIF-88", "DOF-90"};
 
 static struct {
     std::vector<Unit> units;
@@ -90,7 +94,9 @@ static Unit healthy(const Model& m)
     unit.group[REFERENCE] = {"OK", "Exist"};
     unit.group["Board Status"] = words_of(m.boards, "OK");
     if (std::string(m.from) == "SWR")
-        unit.group["Circuit Board ID"] = Words(std::begin(board_ids), std::end(board_ids));
+        unit.group[BOARD_ID] = Words(std::begin(board_ids), std::end(board_ids));
+    if (std::string(m.from) == "DME")
+        unit.group[BOARD_ID] = Words(std::begin(dme_board_ids), std::end(dme_board_ids));
     return unit;
 }
 

@@ -590,7 +590,8 @@ void FrameMemory_Install()
     Tree_Preset("Frame Mem@Status@Extended Capacity", "0");
     const std::string recall = "Frame Mem@Recall@Recall Thumbnail@";
     Tree_Preset(recall + "Select", "FM1&2");
-    for (int output = 1; output <= OUTPUTS; ++output)
-        Tree_Preset(recall + "FM" + std::to_string(output), "");
+    for (int output = 1; output <= OUTPUTS; ++output) // the first two show registers 3 and 4
+        Tree_Preset(recall + "FM" + std::to_string(output),
+                    output <= 2 ? stock[output + 1].name : "");
     show_room();
 }

@@ -2,6 +2,7 @@
 #include "clip_store.h"
 #include "drive.h"
 #include "log.h"
+#include "package.h"
 #include "picture.h"
 
 static constexpr const char* folders[] = {
@@ -50,6 +51,36 @@ static void lay_pictures()
     }
 }
 
+// Menu macros of the panel itself, as it keeps them: a show opens and closes.
+static constexpr const char* MENU_MACROS = "MYHOST:/mnt/data/Menu_Macro_tmp";
+static constexpr struct {
+    const char* file;
+    const char* text;
+} menu_macros[] = {
+    {"mm_reg01.tmp", "Header:OPENING,0,4\nInterval:500\n"
+                     "DME CH:00000000,00000000\nEvent:put M/E-1@Key1@Type@Key Type#Luminance\n"
+                     "DME CH:00000000,00000000\nEvent:put M/E-1@Key1@Edge@Edge#Border\n"
+                     "DME CH:00000000,00000000\nPause:2.0\n"
+                     "DME CH:00000000,00000000\nEvent:put M/E-1@Misc@Transition@Transition "
+                     "Rate#50\n"},
+    {"mm_reg02.tmp", "Header:CLOSING,1,2\nInterval:200\n"
+                     "DME CH:00000000,00000000\nEvent:put M/E-1@Key1@Edge@Edge#Normal\n"
+                     "DME CH:00000000,00000000\nEvent:put M/E-1@Misc@Transition@Transition "
+                     "Rate#30\n"},
+};
+
+// An operator's own, and that he has none, stay.
+static void lay_menu_macros()
+{
+    Place folder;
+    if (!Drive_Place(MENU_MACROS, &folder) || Drive_IsFolder(folder.local))
+        return;
+    (void)Drive_MakeFolder(folder.local); // the writing tells
+    for (const auto& macro : menu_macros)
+        if (!Drive_Write(folder.local + "/" + macro.file, macro.text).empty())
+            Log_Note("no menu macro %s", macro.file);
+}
+
 void Lay_Desk()
 {
     for (const char* folder : folders) {
@@ -60,5 +91,7 @@ void Lay_Desk()
     }
     if (Drive_PutStick(true))
         lay_pictures();
+    lay_menu_macros();
+    (void)Package_PutVersions(); // the log tells
     ClipStore_Lay();
 }

@@ -103,6 +103,12 @@ bool Package_Put()
         is_good = is_good && put(STICK + file.path, file.text);
     for (const Bitmap& b : bitmaps)
         is_good = is_good && put(STICK + b.path, bitmap_bytes(b));
+    return Package_PutVersions() && is_good;
+}
+
+bool Package_PutVersions()
+{
+    bool is_good = true;
     for (const File& file : versions)
         is_good = is_good && put(std::string("/var/tmp/version1/") + file.path, file.text);
     return is_good;

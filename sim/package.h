@@ -6,5 +6,7 @@
 
 // Put the packages, the bitmaps and the version files there. False when no stick is in.
 bool Package_Put();
+// The version files alone, as the units report their software.
+bool Package_PutVersions();
 // The next calls of a script, by its name without the ending, end with this status.
 bool Package_Fail(const std::string& script, int status, int calls);
