@@ -671,6 +671,13 @@ TEST_F(Link, AHubThatHasFallenIsToldOnce)
         (void)Net_ReceiveSHPCommand();
         EXPECT_EQ(Net_TakeHubLoss(), i == 0) << "and not for a try that fails";
     }
+    peer = std::make_unique<Peer>(HUB_PORT);
+    Connect(*peer);
+    peer.reset();
+    usleep(20000);
+    (void)Net_ReceiveSHPCommand();
+    Net_Init();
+    EXPECT_EQ(Net_TakeHubLoss(), 0) << "all begins anew";
 }
 
 TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)

@@ -230,6 +230,10 @@ TEST_F(BusHub, OnlyFileTablesAndTheOwnClipStorePass)
                 IsEmpty());
     EXPECT_EQ(Get_SHPTargetId("Ready#PNL12.File"), 12);
     EXPECT_EQ(Get_SHPTargetId("DME1.File"), -1);
+    EXPECT_EQ(Get_SHPTargetId(nullptr), -1);
+    for (const char* table : {static_cast<const char*>(nullptr), "", "CS", "SWR1.File"})
+        EXPECT_EQ(is_refCS_command(table), 0);
+    EXPECT_EQ(is_refCS_command("CS1"), 1);
 }
 
 TEST_F(BusHub, APassTakesAtMost129Rows)

@@ -1,8 +1,10 @@
 #include "i2c.h"
 #include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace
 {
@@ -54,6 +56,22 @@ TEST_F(I2c, AFailedReadLeavesTheBytes)
         EXPECT_EQ(byte, 9);
 }
 
+TEST_F(I2c, EachOpenIsClosed)
+{
+    const int free_fd = open("/dev/null", O_RDONLY);
+    close(free_fd);
+    i2c_address_set(128);
+    EXPECT_EQ(i2c_open(), -1) << "the bus has 128 devices";
+    i2c_address_set(127);
+    for (int i = 0; i < 2; i++)
+        EXPECT_EQ(i2c_open(), 0);
+    i2c_close();
+    i2c_close();
+    const int fd = open("/dev/null", O_RDONLY);
+    EXPECT_EQ(fd, free_fd);
+    close(fd);
+}
+
 TEST_F(I2c, ElementsAreReadAndWrittenWhole)
 {
     FillDevice(0x53, 0);
@@ -68,8 +86,15 @@ TEST_F(I2c, ElementsAreReadAndWrittenWhole)
     EXPECT_EQ(I2cEepromService_ReadElem(EEPROM_SHP_PORT, 4, in), 2);
     EXPECT_EQ(in[1], 0x1C);
     EXPECT_EQ(in[2], 9);
-    EXPECT_EQ(I2cEepromService_ReadElem(35, 200, in), -1);
-    EXPECT_EQ(I2cEepromService_WriteElem(-1, 200, in), -1);
+    int size = 0;
+    EXPECT_EQ(I2cEepromService_GetElemSize(EEPROM_SHP_PORT, &size), 0);
+    EXPECT_EQ(size, 2);
+    EXPECT_EQ(I2cEepromService_GetElemSize(EEPROM_SHP_PORT, nullptr), -1);
+    for (const int none : {-1, 35}) {
+        EXPECT_EQ(I2cEepromService_ReadElem(none, 200, in), -1);
+        EXPECT_EQ(I2cEepromService_WriteElem(none, 200, in), -1);
+        EXPECT_EQ(I2cEepromService_GetElemSize(none, &size), -1);
+    }
 }
 
 TEST_F(I2c, TheOtherProgramsElementStaysUntouched)
