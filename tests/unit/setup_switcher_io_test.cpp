@@ -1,8 +1,7 @@
-// The pages of the switcher's inputs, outputs and device interfaces: what each asks for; of all
-// pages of units, the panel's too, that every key does something.
+// The pages of the switcher's inputs, outputs and device interfaces; of all pages of units, the
+// panel's too, that every key does something.
 #include "a_bt.h"
 #include "page_table/setup_tabs.h"
-#include "pane_private.h"
 #include "pc_setup_fcadjust.h"
 #include "pc_setup_output.h"
 #include "setup_desk.h"
@@ -25,35 +24,6 @@ struct SwitcherIo : SetupTest {
     }
 };
 } // namespace
-
-TEST_F(SwitcherIo, EachPageAsksForItsSettings)
-{
-    static const struct {
-        uint32_t page;
-        std::vector<const char*> paths;
-    } cases[] = {
-        {0x73320000, {"Input@Source Name@136", "Input@H Phase@1"}},
-        {0x73320003, {"Input@Internal FC@Convert Mode@8", "Input@Internal FC@Format@1"}},
-        {0x73320005, {"Input@Video Process@Y Gain@1", "Input@Video Process@Black Level@16"}},
-        {0x73320002, {"Input@FC Adjust@Enhancer Mode@5", "Input@FC Adjust@FC Signal Format"}},
-        {0x73320009, {"Input@4K Adjust@Division@3", "Input@4K Adjust@IP@0"}},
-        {0x73330001,
-         {"Output@Assign", "Output@Source", "Output@Inhibit",
-          "Device Interface@GPI Input@H/L Set@FC Input/Output@8"}},
-        {0x73330002, {"Output@Crop@Bottom@16"}},
-        {0x73330006, {"Output@Re-Entry Assign@P/P Out6"}},
-        {0x73330009, {"Output@FC Output Assign@8"}},
-        {0x73330015, {"Output@Multi Viewer@Output Assign@MV2-16"}},
-        {0x73370002, {"Device Interface@AUX Control@Control@48"}},
-        {0x73370004, {"Device Interface@GPI Input@Action Type Region@8@1", "Config@Key Config"}},
-    };
-    for (const auto& c : cases) {
-        const Lines lines = Open(c.page);
-        for (const char* path : c.paths)
-            EXPECT_THAT(lines, testing::Contains("add " + SWITCHER + path)) << std::hex << c.page;
-        (void)Leave();
-    }
-}
 
 TEST_F(SwitcherIo, OnlyTheGroupOfInputsThatIsChosenIsShownAndFollowed)
 {
@@ -79,21 +49,6 @@ TEST_F(SwitcherIo, OnlyTheGroupOfInputsThatIsChosenIsShownAndFollowed)
         << "the choice outlives the page";
     (void)Push(BTN_SHEET_GROUP);
     (void)Answer(1);
-}
-
-TEST_F(SwitcherIo, ARangeThatEndsBeforeItBeginsIsNamedAndNotSent)
-{
-    const std::string area = "Engineering Setup@Router@Area@";
-    (void)Open(0x73610001);
-    for (const char* end : {"First Source", "Last Source", "First Destination", "Last Destination"})
-        (void)Tell(area + end + "@1#8");
-    SendMessage(LMSG_KNOBVAR, 2, 9, 0, 0);
-    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::ElementsAre("put " + area + "Last Source@1#9"));
-    SendMessage(LMSG_KNOBVAR, 2, 7, 0, 0);
-    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::IsEmpty());
-    PANE* const pane = pane_find(Pane_GetActiveID());
-    ASSERT_TRUE(pane);
-    EXPECT_STREQ(pane_text_in_view(pane), "Last Src of Area 1\nis below the first.");
 }
 
 TEST_F(SwitcherIo, ANumberThatMayBeNoneSaysSo)
