@@ -48,33 +48,13 @@ struct SwitcherSetup : SetupTest {
 };
 } // namespace
 
-TEST_F(SwitcherSetup, EachPageAsksForWhatItSets)
+TEST_F(SwitcherSetup, WhatIsFollowedAllTheTimeOutlivesThePage)
 {
-    struct {
-        uint32_t page;
-        const char* path; // behind "Engineering Setup@Switcher@"
-    } const pages[] = {
-        {0x73310000, "Config@M/E Config@P/P"},
-        {0x73310002, "Config@PGM Config@List"},
-        {0x73310005, "Config@Key Config"},
-        {0x73310006, "Config@Out Config@P/P Out4"},
-        {0x73310007, "Config@Switcher Timing@H Phase@SWR1"},
-        {0x73310009, "Config@Key PVW@Mode@M/E-1"},
-        {0x73340002, "Transition@Transition Curve@Mix@M/E-1"},
-        {0x73350000, "Key/Wipe@FM Auto Store"},
-        {0x73350003, "Key/Wipe/FM/CCR@Show Key@Output@M/E-1"},
-        {0x73360004, "Link@Internal Bus Link@Table"},
-    };
-    for (const auto& [page, path] : pages) {
-        const Lines sent = Open(page);
-        const auto asks = [&](const char* verb) {
-            return std::ranges::count(sent, verb + SWITCHER + path);
-        };
-        EXPECT_EQ(asks("add ") + asks("read "), 1) << std::hex << page << " " << path;
-        // What the whole application follows must outlive the page.
-        for (const std::string& line : Leave()) {
-            EXPECT_FALSE(asks("read ") && line == "remove " + SWITCHER + path) << line;
-        }
+    for (const auto& [page, path] : {std::pair{0x73310000u, "Config@M/E Config@P/P"},
+                                     {0x73310002u, "Config@PGM Config@List"},
+                                     {0x73350000u, "Key/Wipe@FM Auto Store"}}) {
+        EXPECT_THAT(Open(page), testing::Contains("read " + SWITCHER + path));
+        EXPECT_THAT(Leave(), testing::Not(testing::Contains("remove " + SWITCHER + path)));
     }
 }
 
