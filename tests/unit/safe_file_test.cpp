@@ -39,6 +39,7 @@ TEST_F(SafeFiles, TheOldFileStandsUntilTheNewOneIsWhole)
     ASSERT_EQ(SafeFile_Open(file, FILE_NAME), 0);
     fprintf(file.fp, "thought better of it");
     SafeFile_Abandon(file);
+    EXPECT_EQ(SafeFile_Commit(file), -1) << "it is given up";
     EXPECT_EQ(FileText(FILE_NAME), "half and half");
     EXPECT_NE(access(BESIDE, F_OK), 0);
 }

@@ -178,8 +178,9 @@ TEST_F(SelfDiag, ARefreshAsksTheUnitsOfThisPanel)
     SYS_SwrMax = 2; // of another panel
     DeviceStructure();
     (void)TakeQueuedCommands();
-    Report(std::string(SWR) + "Fan Speed", "SWR1,NG");
-    EXPECT_STREQ(GL_Fan[0][0], "NG");
+    CopyText(GL_Fan[0][0], "OK");
+    SelfDiag_Init();
+    EXPECT_STREQ(GL_Fan[0][0], "NG") << "what has not reported yet";
     Report(std::string(SWR) + "Fan Speed", "SWR1,OK");
     Report(std::string(DME) + "Fan Speed", "DME1,OK");
     for (const int unit : {0, 4})
@@ -187,6 +188,7 @@ TEST_F(SelfDiag, ARefreshAsksTheUnitsOfThisPanel)
     SelfDiag_Refresh_All();
     for (const int unit : {0, 4})
         EXPECT_STREQ(GL_Fan[unit][0], "NG");
+    EXPECT_EQ(Item("FAN-1 Speed OK"), nullptr) << "of neither of them";
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("put Info@Self Diagnosis Notice@SWR1#true",
                             "put Info@Self Diagnosis Notice@DME1#true",
