@@ -1,5 +1,7 @@
 #include "file_page.h"
+#include "process.h"
 #include <cstdlib>
+#include <filesystem>
 
 // What an item sends from its start to its end when every command ends well, without "put File@".
 struct FileSteps : FileListTest {
@@ -59,6 +61,10 @@ TEST_F(FileSteps, AFileTakesTheWayOfItsEnds)
         ElementsAre("Access@Copy#,MYHOST:/mnt/usb/usb1/M.SFM,MYHOST:/var/tmp/usb1/M.SFM",
                     "Frame Memory@PutV3#,MYHOST:/var/tmp/usb1/M.SFM,SWR000D001:FMEM_001.SFM",
                     "Access@Remove#,MYHOST:/var/tmp/usb1/M.SFM"));
+    std::filesystem::remove_all("/var/tmp/MenuMacro");
+    EXPECT_THAT(Run(transfer, "MYHOST:/a/x.MMR", "MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"),
+                ElementsAre("Access@Copy#,MYHOST:/a/x.MMR,MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"));
+    EXPECT_TRUE(FileExist("/var/tmp/MenuMacro")) << "the copy has a place to go to";
 }
 
 TEST_F(FileSteps, ThePicturesOfTheNewFrameMemoryArePacked)
@@ -393,6 +399,7 @@ TEST_F(FileImport, ThumbnailsWaitForWhatGoesOverTheDataPort)
         {File_ExecTransferList, "MYHOST:/a/x.SSS", "SWR000D001:/b/x.SSS", false},
         {File_ExecTransferList, "MYHOST:/a/x.SFM", "SWR1:FMEM_001.SFM", false}, // no device's id
         {File_ExecTransferList, "MYHOST:/a/x.SFM", PLACE},
+        {File_ExecTransferList, PLACE, "MYHOST:/a/x.SFM"},
         {File_ExecTransferList_AutoLoad, "MYHOST:/mnt/sys/FMLoad/FM1/x.SFM", PLACE},
         {File_ExecFmGetList, PLACE, "MYHOST:/a/x.SFM"},
         {File_ExecFmPutList, "MYHOST:/a/x.SFM", PLACE},
