@@ -342,11 +342,15 @@ TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgain)
         }
     }
     EXPECT_THAT(asked, ElementsAre("c.SFH#000001.THM", "c.SFH#000003.THM"));
+    Hub("Notify", "ClipStoreFile", "root/c.SFH:thumbnail:0");
+    EXPECT_THAT(Files(), IsEmpty()) << "it has none any more";
 }
 
 TEST_F(ClipStore, AFetchIsRetriedFiveTimes)
 {
-    File("a", 1, 1);
+    File("a", 1, 0);
+    EXPECT_THAT(Gets(), IsEmpty());
+    Hub("Notify", "ClipStoreFile", "root/a.SFH:thumbnail:1");
     int fetches = 0;
     for (auto gets = Gets(); !gets.empty() && fetches < 20; gets = Gets(), fetches++)
         Answer(gets[0], "NG(no)");
@@ -434,7 +438,9 @@ TEST_F(ClipStore, TablesComeAndGo)
     Hub("Disconnect", "ClipStoreFile", "");
     EXPECT_THAT(Tree(), ElementsAre("/", "/A"));
     for (void (*lose)() : {+[] { Hub("Disconnect", "ClipStoreInfo", ""); }, FMCtrl3_HubLost}) {
+        probe::seen.clear();
         lose();
+        EXPECT_EQ(probe::Count(LMSG_FMLOAD), 1);
         EXPECT_EQ(SYS_StoreTotal + SYS_StoreFree + SYS_MemoryTotal + SYS_MemoryFree, 0);
         Hub("Notify", "ClipStoreInfo", "CAPACITY::9,8,7,6,7f");
     }

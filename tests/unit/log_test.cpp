@@ -96,6 +96,9 @@ TEST_F(Log, ADroppedLineTouchesNoFile)
     EXPECT_EQ(Log_SetModule(9, 1), 0);
     EXPECT_EQ(Log_Output(3, 9, "x"), 0);
     EXPECT_EQ(Log_Output(LOG_FORCED, 2, "x"), 0);
+    Log_SetAllModule(0);
+    for (const int module : {0, 8, 9, 1024})
+        EXPECT_EQ(Log_GetModule(module), 0) << module;
 }
 
 TEST_F(Log, LongTextsAreReplacedByFormatAndCutByArgument)
