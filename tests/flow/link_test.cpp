@@ -517,7 +517,7 @@ TEST_F(Link, FramesAreInStepAgainAfterALoss)
     EXPECT_EQ(ReceiveFrame(), frame);
 }
 
-// "command/id/data bytes" of what has been sent.
+// "command/id/data" of what has been sent.
 static Strings SentFrames(Peer& peer)
 {
     EXPECT_EQ(Net_SendBinCommandQueue(), 0);
@@ -528,9 +528,11 @@ static Strings SentFrames(Peer& peer)
     Strings frames;
     for (size_t at = 0; at + 9 <= bytes.size(); at += uint8_t(bytes[at]) + 2u) {
         char text[32];
-        snprintf(text, sizeof text, "%d/%02X%02X%02X/%d", bytes[at + 2], uint8_t(bytes[at + 5]),
-                 uint8_t(bytes[at + 4]), uint8_t(bytes[at + 3]), bytes[at] - 7);
+        snprintf(text, sizeof text, "%d/%02X%02X%02X/", bytes[at + 2], uint8_t(bytes[at + 5]),
+                 uint8_t(bytes[at + 4]), uint8_t(bytes[at + 3]));
         frames.push_back(text);
+        for (size_t i = at + 7; i < at + uint8_t(bytes[at]); i++)
+            frames.back() += std::to_string(uint8_t(bytes[i])) + " ";
     }
     return frames;
 }
@@ -544,11 +546,12 @@ TEST_F(Link, TheStreamsAreSubscribedBeforeTheirRegionsJoin)
     const Strings frames = SentFrames(peer);
     ASSERT_EQ(frames.size(), 3u + 47 + 4);
     EXPECT_EQ(Strings(frames.begin(), frames.begin() + 4),
-              Strings({"1/0200AA/0", "1/1000AA/0", "1/1100AA/0", "4/8200AA/4"}));
+              Strings({"1/0200AA/", "1/1000AA/", "1/1100AA/", "4/8200AA/1 1 1 0 "}));
     EXPECT_EQ(Strings(frames.end() - 5, frames.end()),
-              Strings({"4/8100AA/0", "4/8200AA/4", "4/8100AA/1", "4/8200AA/4", "4/8100AA/1"}));
+              Strings({"4/8100AA/", "4/8200AA/1 68 1 0 ", "4/8100AA/68 ", "4/8200AA/1 69 1 0 ",
+                       "4/8100AA/69 "}));
     DeathCommand1();
-    EXPECT_THAT(SentFrames(peer), ElementsAre("2/0200AA/0", "2/1000AA/0", "2/1100AA/0"));
+    EXPECT_THAT(SentFrames(peer), ElementsAre("2/0200AA/", "2/1000AA/", "2/1100AA/"));
     GL_CreatePage = 0;
 }
 

@@ -172,5 +172,7 @@ TEST_F(Touch, CalibrationOutOfRangeFallsBackValueByValue)
         EXPECT_EQ(SYS_TouchScreen_AY, c.ay);
         EXPECT_EQ(SYS_TouchScreen_BX, c.bx);
         EXPECT_EQ(SYS_TouchScreen_BY, c.by);
+        EXPECT_EQ(Touch_StoreCalibration(), 0);
+        EXPECT_EQ(I2cEepromService_IsCrc32Valid(2), 1);
     }
 }
