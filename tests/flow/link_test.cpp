@@ -348,10 +348,16 @@ TEST_F(Link, HostsThatAreSwitchedOffCostNoPassItsTime)
     std::filesystem::remove("/tmp/dead.log");
     Log_Init("/tmp/dead.log", 1000000);
     const double start = Now_ms();
+    const NetLink links[] = {NET_LINK_TEXT, NET_LINK_BIN, NET_LINK_HUB};
+    std::vector<uint32_t> connects;
+    for (const NetLink link : links)
+        connects.push_back(Net_State(link).connects);
     Net_Init();
     Net_SendCommand("put A#1");
     (void)Net_SendBinCommand(1, 0, nullptr, 0);
     EXPECT_LT(SlowPass_ms(1200), 10.0);
+    for (const NetLink link : links)
+        EXPECT_EQ(Net_State(link).connects, connects[size_t(link)]) << "none has come about";
     EXPECT_LT(Now_ms() - start, 6000.0) << "something waited";
 
     const std::string log = FileText("/tmp/dead.log");

@@ -171,8 +171,10 @@ TEST_F(Saver, HidesThePageAndGivesItBackWhole)
     CreatePage(KEY_PAGE);
     SendMessage(MSG_REDRAW, 0, 0, 0, 0);
     const auto before = PixelsIn(SCREEN);
+    const long page_light = Light();
     for (int mode = 0; mode <= SAVER_PATTERNS; mode++) {
         Start(mode);
+        EXPECT_LT(Light(), page_light / 8) << "mode " << mode;
         Passes(100);
         SendDummyTally("M/E-1@Key1@Type@Key Type#Luminance");
         const auto pattern = PixelsIn(SCREEN);
