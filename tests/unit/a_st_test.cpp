@@ -69,6 +69,24 @@ TEST_F(StatusCells, AFullCellKeepsEachOfItsPathsAndItsTextsInBounds)
     EXPECT_EQ(painted, 1);
 }
 
+TEST_F(StatusCells, CellsOfEffectsUnitsArePaintedAnewWhenAPairIsCombined)
+{
+    const ST_TBL rows[] = {Cell(1, {"~2@A"}), ST_END};
+    const char* value = "true";
+    for (const auto& [id, paints] :
+         {std::pair{0x41110000u, 1}, {0x42110000u, 1}, {0x33110000u, 0}}) {
+        SetTree({"M/E-1", "Key1"}, id);
+        Open(rows);
+        Pass();
+        painted = 0;
+        Tally("Global Effect@Ch1-Ch2@Combine@Ch2", value);
+        Pass();
+        EXPECT_EQ(painted, paints) << std::hex << id;
+        value = *value == 't' ? "false" : "true";
+    }
+    Tally("Global Effect@Ch1-Ch2@Combine@Ch2", "false");
+}
+
 // --- Which rows stand ---
 
 TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)

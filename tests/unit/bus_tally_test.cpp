@@ -58,6 +58,7 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {FORMAT "Video Format2@SWR1", "3,16,2", &DEV_Swr[0].format_freq, 15},
         {FORMAT "DME Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[1], 1},
         {FORMAT "DME Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[0], 0},
+        {FORMAT "DME Aspect", "DME1,4:9,16:9", &DEV_Dme[0].aspect[0], 1},
         {FORMAT "Reference@SWR1", "Tri", &DEV_Swr[0].refinputformat, 0},
         {FORMAT "4K Mode", "On", &SYS_4KMode, 1},
         {SYSTEM_CONFIG "Switcher Assign", "2,3,4,5,262", &SYS_SwrAssign[2][3], 6},
@@ -352,6 +353,7 @@ TEST_F(BusTally, ANameReplacesTheEntryOfItsBus)
         {PANEL "Config@External Bus Link@S-BUS Dst Name List", BUS_SBusDst, BUS_SBUS},
     };
     for (const auto& bus : buses) {
+        const int blocks = UsedMemPtr;
         Deliver(bus.path, "0,Cam 1");
         for (const std::string& value :
              {std::to_string(bus.count - 1) + ",a,b", std::to_string(bus.count) + ",x",
@@ -360,6 +362,7 @@ TEST_F(BusTally, ANameReplacesTheEntryOfItsBus)
         EXPECT_STREQ(bus.names[0], "Cam 1") << bus.path;
         EXPECT_STREQ(bus.names[bus.count - 1], "a,b") << bus.path;
         EXPECT_STREQ(bus.names[1], "") << bus.path;
+        EXPECT_EQ(UsedMemPtr, blocks) << "the old name is freed";
     }
 }
 
@@ -373,7 +376,7 @@ TEST_F(BusTally, ACrosspointTellsThePageWhenItChanges)
         return 0;
     };
     for (int i = 0; i < 2; i++) {
-        Deliver(PANEL "Xpt Assign@Source@List", "3,VTR");
+        Deliver(PANEL "Xpt Assign@Source@List", "0,VTR");
         Deliver(PANEL "Xpt Assign@Assign", "4,5,6");
         Deliver(PANEL "Xpt Assign@Assign", "254,5,6");
         Deliver(PANEL "Xpt Assign@Assign", "4,5");

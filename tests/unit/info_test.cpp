@@ -1,3 +1,4 @@
+#include "a_kf.h"
 #include "bus_probe.h"
 #include "info.h"
 #include <algorithm>
@@ -43,8 +44,11 @@ TEST_F(Info, AValueLandsInItsPlace)
         {KEY_UNIT "7", "--,--,--,--,--,--,--,--", &SYS_PnlMFFP, 0},
         {OPERATION "Screen Saver", "20000", &GL_ScreenSaverInterval, 18000},
         {ME_CONFIG "M/E-5", "Standard", &me_config_type[5], 1},
+        {OPERATION "Screen Saver", "0", &GL_ScreenSaverInterval, 0},
         {MAIN_SUB "1st Row", "Sub", &GL_MainSubAssign[0], 1},
+        {MAIN_SUB "15th Row", "Main", &GL_MainSubAssign[0], 1}, // there are 14
         {ME_ASSIGN "1st Row", "M/E-2", &GL_MEAssign[0], 2},
+        {ME_ASSIGN "1st Ro", "M/E-3", &GL_MEAssign[0], 2},
         {ME_ASSIGN "14th Row", "2nd AUX", &GL_MEAssign[13], ASSIGN_2ND_AUX},
         {ME_ASSIGN "14th Row", "what", &GL_MEAssign[13], -1},
         {OPERATION "Timeline Display Priority", "true", &GL_TimelineDisplayPriority, 1},
@@ -68,6 +72,20 @@ TEST_F(Info, AValueLandsInItsPlace)
     Deliver(SYSTEM "NFS Mount Point", "/show");
     EXPECT_STREQ(GL_NFS_Server, "10.0.0.9");
     EXPECT_STREQ(GL_NFS_MountPoint, "/show");
+    Deliver(SYSTEM "NFS Mount Option", "ro");
+    Deliver(OPERATION "Import Path", "/mnt/usb/usb2/");
+    EXPECT_STREQ(GL_NFS_MountOption, "ro");
+    EXPECT_STREQ(GL_ImportDataPath, "/mnt/usb/usb2/");
+    GL_ImportDataPath[0] = '\0';
+    Deliver(OPERATION "Timeline Region Display", "2,1");
+    EXPECT_EQ(KF_GetRegionDisplay(1), 1);
+    for (const char* place : {"1,3", "2,0"})
+        Deliver(OPERATION "Timeline Region Priority", place);
+    KF_RegionAssignTally(1, "M/E-1,M/E-4");
+    KF_InitPriority();
+    EXPECT_EQ(KF_GetRegionPriority(0), 3);
+    EXPECT_EQ(KF_GetRegionPriority(1), 0);
+    KF_RegionAssignTally(1, "");
 }
 
 TEST_F(Info, ALostServerTakesAllProcessorsWithIt)
@@ -139,6 +157,10 @@ TEST_F(Info, ANewBankSettingReloadsThePageButForFour)
         {0x11110000, "Multi Program 2", 0x11110000},
         {0x11110000, "Multi Program 2", 0},
         {0x73310000, "Standard", 0},
+        {0x71610000, "Multi Program 2", 0},
+        {0x73160010, "Standard", 0},
+        {0x55550000, "Multi Program 2", 0},
+        {0x11110001, "Standard", 0x11110001},
         {0x11110000, "DSK", 0}, // the same pages as before
     };
     for (const auto& c : cases) {

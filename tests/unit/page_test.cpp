@@ -130,8 +130,10 @@ TEST_F(PageTest, MenuKeysReopenTheirLastPage)
         EXPECT_EQ(TopMenu[s.row].page, s.reopens) << std::hex << s.visit;
     }
 
-    for (int i = 0; TopMenu[i].caption; i++)
+    for (int i = 0; TopMenu[i].caption; i++) {
         EXPECT_EQ(CreatePage(TopMenu[i].page), 0) << TopMenu[i].caption;
+        EXPECT_STREQ(NowTopMenu, Page->tree[0]);
+    }
 }
 
 TEST_F(PageTest, HistoryGoesBackAndForward)
