@@ -272,6 +272,10 @@ TEST_F(PageTest, ThePanelRowsSayWhichSidesOfABankThereAre)
         EXPECT_EQ(MainSubAssign_StatusCheck_for_id(0x33110000), -1);
     }
     FakePage page(0x32110000, "1st AUX", nullptr);
+    EXPECT_FALSE(isNowPageFM(0));
+    EXPECT_TRUE(isNowPageFM(0x21110000));
+    GL_NowPage = 0x71620000; // a file page that shows the frame memory
+    EXPECT_TRUE(isNowPageFM(0x11110000));
     Page_SetKnobAssign(4);
     GL_NowPage = 0x73350001; // opens as its row says
     Page_SetKnobAssign(5);

@@ -222,6 +222,16 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
         SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
     };
     Open(HDD);
+    const auto seen = [](const Rect& part) {
+        Pass(10);
+        return PixelsIn(part);
+    };
+    constexpr Rect state = {112, 124, 480, 186}, pane = {200, 140, 599, 459};
+    const auto ready = seen(state);
+    Tell(PATH + "Busy#true");
+    EXPECT_NE(seen(state), ready);
+    Tell(PATH + "Busy#false");
+    EXPECT_EQ(seen(state), ready);
     EXPECT_THAT(PressLater(BTN_FMEM1_HDD_LOAD), IsEmpty());
     answer(2); // "No"
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
@@ -230,6 +240,11 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     answer(1);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + PATH + "Save#true"));
     Tell(PATH + "Busy#true");
+    const auto begun = seen(pane);
+    Tell("32@Frame Mem@External HDD@Progress#60");
+    EXPECT_EQ(seen(pane), begun) << "another one's";
+    Tell(PATH + "Progress#60");
+    EXPECT_NE(seen(pane), begun);
     Tell("32@Frame Mem@External HDD@Busy#false"); // another one's
     BkgdHDDTransfer_PaneQuit();
     Open(STILLS); // the top of its tab, which says why
