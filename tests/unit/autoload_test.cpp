@@ -191,10 +191,12 @@ TEST_F(AutoLoad, FilesGoToTheirPlacesAndTheServerHearsOfBothEnds)
         Answer(label, "OK");
     EXPECT_EQ(Err_GetMax(), 1);
     EXPECT_EQ(GL_CreatePage, GL_NowPage);
+    Pane_Quit(notice);
     (void)Ask("PNL", {{"SHOTBOX/CTRLCPU/", {shot}}});
     for (const auto& [line, label] : Start("PNL", &all))
         Answer(label, "OK");
     EXPECT_EQ(Err_GetMax(), 0);
+    EXPECT_NE(Pane_GetActiveID(), 0) << "a notice that was read is put up again";
 }
 
 TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
@@ -261,6 +263,10 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
     Rows(searches.at("FMEMFOL/"), {}, "NG(Directory Not Exist)");
     EXPECT_THAT(Sent(), ElementsAre(EXIST + "SWR1#false"));
 
+    AutoLoad_DataExist("SWR1");
+    AutoLoad_LinkLost();
+    EXPECT_EQ(QueueRoot, nullptr) << "nor is the list of folders waited for";
+    (void)Sent();
     SYS_FmemV6 = 0;
     AutoLoad_DataExist("SWR1");
     const uint32_t old = Searches().begin()->second;

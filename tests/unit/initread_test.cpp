@@ -114,6 +114,9 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
     ASSERT_NE(group, sent.end());
     EXPECT_EQ(*(group + 1), "add Info@Operation Setup Data@Shortcut Name@10");
     EXPECT_EQ(std::set<std::string>(sent.begin(), sent.end()).size(), sent.size()) << "sent twice";
+    InitialCommand2();
+    EXPECT_THAT(TakeQueuedCommands(), Contains("read Engineering Setup@DME@Model@DME2"));
+    EXPECT_EQ(probe::Count(LMSG_SELFDIAGCHANGE), 1);
 }
 
 // The server has forgotten what the page follows.
