@@ -6,6 +6,7 @@
 #include "pane_private.h"
 #include "pc_file.h"
 #include "pc_file_all.h"
+#include "pc_file_all_frames.h"
 #include "register.h"
 #include "table_page.h"
 #include "text.h"
@@ -374,7 +375,7 @@ TEST_F(FileAllPage, PicturesAreSavedByFolderAndStore)
 
 TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
 {
-    Frames({{1, "Mlogo"}, {2, "Mold"}});
+    Frames({{1, "Mold"}, {2, "Mlogo"}});
     const std::string folder = ROOT + "FMEMFOL/";
     files[folder] = {"News", "Sport", "a#b", "DEFAULT"};
     files[folder + "DEFAULT/"] = {
@@ -382,7 +383,7 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
         "SWR000D001/Mx#1.FMEM_004.SFM",        "SWR000D001/Mx.FMEM_1501.SFM",
         "SWR000D001/Mx.FMEM_000.SFM",          "SWR000D001/Mx.FMEM_005.TIF",
         "SWR000D001/Mnametoolong.FMEM_006.SFM"};
-    files[folder + "News/"] = {"SWR000D001/Mlogo.FMEM_001.SFM"};
+    files[folder + "News/"] = {"SWR000D001/Mlogo.FMEM_002.SFM"};
     files[folder + "Sport/"] = {"SWR000D001/Mball.FMEX_007.SFA"};
     Select({"FRAMEMEM"});
     (void)Press(BTN_ALL_R_TO_L);
@@ -391,11 +392,20 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
                             "Find " + folder + "News/,*.*.*", "Find " + folder + "Sport/,*.*.*"));
     EXPECT_THAT(Items(FILEWORK_TRANSFERLIST),
                 ElementsAre(EndsWith("Mold.FMEM_1300.SFM > SWR001D001:Mold.FMEM1300.SF2"),
-                            EndsWith("Mlogo.FMEM_001.SFM > SWR001D001:Mlogo.FMEM_001.SF2"),
+                            EndsWith("Mlogo.FMEM_002.SFM > SWR001D001:Mlogo.FMEM_002.SF2"),
                             EndsWith("Mball.FMEX_007.SFA > SWR001D001:Mball.FMEX_007.SF4")));
     EXPECT_THAT(sent, Contains("put Frame Mem@File@Delete Thumbnail@Single#Mold"));
     EXPECT_THAT(sent, Contains("put Frame Mem@Folder@Rename#1,Sport"));
     EXPECT_THAT(sent, Not(Contains(HasSubstr("Single#Mlogo"))));
+    // What has arrived goes into its folder.
+    FILEXFERLIST arrived, failed;
+    CopyText(arrived.src, (folder + "Sport/SWR000D001/Mball.FMEX_007.SFA").c_str());
+    CopyText(failed.src, (folder + "News/SWR000D001/Mlogo.FMEM_002.SFM").c_str());
+    arrived.status = FILESTATUS_OK;
+    failed.status = FILESTATUS_NG;
+    failed.next = &arrived;
+    AllFrames_Place(&failed);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put 16@Frame Mem@Folder@Move Still#0,Mball,1"));
 }
 
 TEST_F(FileAllPage, AutomationGetsItsAnswer)

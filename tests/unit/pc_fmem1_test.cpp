@@ -123,7 +123,11 @@ TEST_F(FrameMemoryPage, DeletionAsksAndTakesAllFramesThatAreStillThere)
 {
     Open(STILL_FILES);
     Tell(RECALL.substr(4) + "FM5#Slogo");
+    Select(1, {});
+    SendMessage(LMSG_LISTSEL, 1, 0, 0, 0);
+    EXPECT_EQ(Usable({BTN_FMEM1_DELETE, BTN_FMEM1_MOVE, BTN_FMEM1_RENAME}), std::vector<int>{});
     Select(1, {0, 1});
+    SendMessage(LMSG_LISTSEL, 1, 0, 0, 0);
     PressLater(BTN_FMEM1_DELETE);
     EXPECT_THAT(Message(), HasSubstr("which is being used"));
     EXPECT_THAT(Quit(2), Not(Contains(HasSubstr("Delete"))));
