@@ -4,6 +4,7 @@
 #include "file.h"
 #include "file_dir.h"
 #include "file_name.h"
+#include "file_newest.h"
 #include "fmctrl.h"
 #include "global.h"
 #include "log.h"
@@ -104,6 +105,7 @@ static struct {
     int room = 0;
     unsigned stored = 0; // units whose pictures were found since the store was cleared, a bit each
     int device = 0;      // the unit that is searched
+    FILENEWEST newest;   // of the items that wait
     unsigned listed = 0; // units whose load has ended since the error list was emptied, a bit each
 } al;
 
@@ -159,14 +161,17 @@ static void add_xfer(const char* path, const char* target, int dev)
         al.FileXferExist[dev] = true;
 }
 
-static void find_addxfer(const FILEINFO& info, const char* path, int dev)
+static void find_addxfer(const FILEINFO& info, const char* path, const char* date, int dev)
 {
+    char src[FILE_PATH_SIZE];
     char target[FILE_PATH_SIZE];
-    if (target_of(info, target, sizeof target))
-        add_xfer(path, target, dev);
+    PrintText(src, "MYHOST:%s", path);
+    if (target_of(info, target, sizeof target) &&
+        FileNewest_Add(al.newest, &al.FileXferList_Exist, src, target, date) == 0)
+        al.FileXferExist[dev] = true;
 }
 
-static void find_tly(uint32_t label, int dev, const char* path, const char* const*)
+static void find_tly(uint32_t label, int dev, const char* path, const char* const* pair)
 {
     int i = 0;
     while (i < al.searches && al.search[i].label != label)
@@ -180,7 +185,7 @@ static void find_tly(uint32_t label, int dev, const char* path, const char* cons
     }
     FILEINFO info = {.grp = group_of(categories[al.search[i].category])};
     if (name2info(path, &info) == 0)
-        find_addxfer(info, path, dev);
+        find_addxfer(info, path, pair[1], dev);
 }
 
 static void find_category(int row, int dev)
@@ -461,6 +466,7 @@ static bool is_of_unit(const FILEXFERLIST* item, int dev)
 static void take_items(int dev)
 {
     FILEXFERLIST* next = nullptr;
+    al.newest = {};
     for (FILEXFERLIST* item = al.FileXferList_Exist; item; item = next) {
         next = item->next;
         if (is_of_unit(item, dev))
@@ -575,6 +581,7 @@ void AutoLoad_LinkLost()
     al.stored = 0;
     forget_pictures();
     File_XferList_RemoveAll(&al.FileXferList_Exist);
+    al.newest = {};
     for (bool& exist : al.FileXferExist)
         exist = false;
 }

@@ -53,6 +53,10 @@ struct FILEXFERLIST {
     char target[32] = "";
     FILEXFERLIST* next = nullptr;
 
+    // Those of file_newest, until the job begins.
+    uint32_t minute = 0; // when the file was saved
+    FILEXFERLIST* newest_next = nullptr;
+
     // The engine's own.
     QUEUE* job = nullptr;
     FILEXFERLIST* label_next = nullptr; // chains of the two indexes

@@ -38,6 +38,7 @@ const FileWork* file_work(FILEWORKTYPE type); // null for an unknown one
 
 // --- file_xferlist ---
 void file_free_items(FILEXFERLIST** list); // of a job that has been unlinked
+FILEXFERLIST* file_list_tail(FILEXFERLIST** list);
 
 // --- file_queue ---
 

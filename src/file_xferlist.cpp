@@ -15,7 +15,7 @@ static struct {
     FILEXFERLIST* tail = nullptr; // the last item of *list, while list is not null
 } appended;
 
-static FILEXFERLIST* list_tail(FILEXFERLIST** list)
+FILEXFERLIST* file_list_tail(FILEXFERLIST** list)
 {
     FILEXFERLIST* tail = appended.list == list && *list ? appended.tail : *list;
     while (tail && tail->next)
@@ -25,7 +25,7 @@ static FILEXFERLIST* list_tail(FILEXFERLIST** list)
 
 static void list_append(FILEXFERLIST** list, FILEXFERLIST* item)
 {
-    FILEXFERLIST* tail = list_tail(list);
+    FILEXFERLIST* tail = file_list_tail(list);
     (tail ? tail->next : *list) = item;
     appended = {list, item};
 }

@@ -1,6 +1,7 @@
 #include "pc_file_all.h"
 #include "a_bt.h"
 #include "file.h"
+#include "file_newest.h"
 #include "fmctrl.h"
 #include "log.h"
 #include "message.h"
@@ -135,6 +136,7 @@ static struct {
 // Of the registers, and of the pictures: heads that the jobs hold.
 static FILEXFERLIST* all_list = nullptr;
 static FILEXFERLIST* all_frames = nullptr;
+static FILENEWEST all_newest; // of all_list, while it is gathered
 
 static bool is_load()
 {
@@ -384,13 +386,14 @@ static const FileKind* read_file(const ALLTBL& row, const char* path, FILEINFO* 
     return nullptr;
 }
 
-static void add_item(const char* src, const char* dst, const char* remote, const char* category)
+// Of a register's files on a drive the newest; remote is the end on another unit, if one can be.
+static void add_item(const char* src, const char* dst, const char* date, const char* remote,
+                     const char* category)
 {
     char target[32];
-    if (!remote || File_Target(remote, target, sizeof target) != 0)
-        (void)File_XferList_Add(&all_list, src, dst); // of this unit or its drives
-    else
-        (void)File_XferList_SCPAdd(&all_list, src, dst, category, target);
+    const bool is_remote = remote && File_Target(remote, target, sizeof target) == 0;
+    (void)FileNewest_Add(all_newest, &all_list, src, dst, date, is_remote ? category : "",
+                         is_remote ? target : "");
     run.files++;
 }
 
@@ -406,7 +409,7 @@ static void save_file(const ALLTBL& row, int n, const FILEINFO& info)
         return;
     // The effects of the devices are in two groups.
     if (read_file(row, dst, &read) == &kind_of(row, n))
-        add_item(src, dst, src, row.cmd);
+        add_item(src, dst, "", src, row.cmd);
 }
 
 // A step is a region of a kind.
@@ -448,21 +451,21 @@ static bool is_locked(const ALLTBL& row, const FILEINFO& info)
     return lock >= 0 && GL_FileLock[lock] != 0;
 }
 
-static void all_load_addxfer(int row_no, const char* src, const FILEINFO& info)
+static void all_load_addxfer(int row_no, const char* src, const FILEINFO& info, const char* date)
 {
     const ALLTBL& row = AllTbl[row_no];
     char dst[FILE_PATH_SIZE];
     if (is_locked(row, info) || info2name(info, dst, FILE_REGISTER, "", sizeof dst) != 0)
         return;
-    add_item(src, dst, dst, row.cmd);
+    add_item(src, dst, date, dst, row.cmd);
     run.read[row_no] = true;
 }
 
-static void all_copy_addxfer(const char* src, const FILEINFO& info)
+static void all_copy_addxfer(const char* src, const FILEINFO& info, const char* date)
 {
     char dst[FILE_PATH_SIZE];
     if (info2name(info, dst, run.to.device, run.to.dir, sizeof dst) == 0)
-        add_item(src, dst, nullptr, "");
+        add_item(src, dst, date, nullptr, "");
 }
 
 static void count_up()
@@ -493,7 +496,7 @@ static void note_end(int row_no)
         note_unread(row_no);
 }
 
-static void find_tly(uint32_t label, int row_no, const char* path, const char* const*)
+static void find_tly(uint32_t label, int row_no, const char* path, const char* const* pair)
 {
     if (run.search[row_no] != label || run.stage != ALL_GATHER)
         return; // one that was given up
@@ -509,9 +512,9 @@ static void find_tly(uint32_t label, int row_no, const char* path, const char* c
     if (n >= int(sizeof src) || !read_file(AllTbl[row_no], path, &info))
         return;
     if (is_load())
-        all_load_addxfer(row_no, src, info);
+        all_load_addxfer(row_no, src, info, pair[1]);
     else
-        all_copy_addxfer(src, info);
+        all_copy_addxfer(src, info, pair[1]);
 }
 
 static int all_search(int row_no)
@@ -623,6 +626,7 @@ static bool is_busy()
 static void begin(WAY way, const FILESIDE& from, const FILESIDE& to)
 {
     constexpr int cancel = 1;
+    all_newest = {};
     run = {.stage = ALL_GATHER, .way = way, .from = from, .to = to};
     AllLoadCount = 0;
     for (int row = 0; row < ALL_ROWS; row++)
@@ -634,6 +638,7 @@ static int begin_ftp(WAY way, const FILESIDE& from, const FILESIDE& to)
 {
     if (is_busy())
         return -1;
+    all_newest = {};
     run = {.stage = ALL_GATHER, .way = way, .is_ftp = true, .from = from, .to = to};
     AllLoadCount = 0;
     for (int row = 0; row < ALL_CATEGORIES; row++)

@@ -1,5 +1,6 @@
 #include "pc_file_all_frames.h"
 #include "device.h"
+#include "file_newest.h"
 #include "fmctrl.h"
 #include "global.h"
 #include "netio.h"
@@ -40,6 +41,7 @@ static struct {
     int folders = 0;
     int now = 0; // the folder that is searched
 } search;
+static FILENEWEST found; // of the list that is searched for
 
 static struct {
     char name[FOLDER_MAX][FOLDER_NAME] = {}; // by id: the store's folders with those being made
@@ -73,13 +75,11 @@ static FILEINFO info_of(const Frame& f)
 }
 
 // A picture is loaded under the name of its file.
-static void add(FILEXFERLIST** list, const char* src, const FILESIDE& to, const Frame& f)
+static bool target_of(const FILESIDE& to, const Frame& f, char (&dst)[FILE_PATH_SIZE])
 {
-    char dst[FILE_PATH_SIZE];
     const FILEINFO info = info_of(f);
-    if ((to.device == FILE_REGISTER ? File_FrameName(info, dst, sizeof dst)
-                                    : info2name(info, dst, to.device, to.dir, sizeof dst)) == 0)
-        (void)File_XferList_Add(list, src, dst);
+    return (to.device == FILE_REGISTER ? File_FrameName(info, dst, sizeof dst)
+                                       : info2name(info, dst, to.device, to.dir, sizeof dst)) == 0;
 }
 
 // The last piece of a path that ends at *end, behind a c; *end moves before that c.
@@ -156,8 +156,9 @@ static void add_register(const FILESIDE& to, int index, FILEXFERLIST** list)
     f.is_ancillary = FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx(f.name)) == 1;
     FILEINFO from = info_of(f);
     from.name[0] = '\0'; // its number says all
-    if (File_FrameName(from, src, sizeof src) == 0)
-        add(list, src, to, f);
+    char dst[FILE_PATH_SIZE];
+    if (File_FrameName(from, src, sizeof src) == 0 && target_of(to, f, dst))
+        (void)File_XferList_Add(list, src, dst);
 }
 
 int AllFrames_Save(const FILESIDE& to, int step, FILEXFERLIST** list)
@@ -179,14 +180,19 @@ int AllFrames_Save(const FILESIDE& to, int step, FILEXFERLIST** list)
 
 // --- Searching ---
 
-static void add_file(const char* path)
+// Of the newer frame memory each name is a picture of its own, whatever its number.
+static void add_file(const char* path, const char* date)
 {
     char src[FILE_PATH_SIZE];
+    char dst[FILE_PATH_SIZE];
     Frame f;
-    if (!read_path(path, &f))
+    if (!read_path(path, &f) || !target_of(search.to, f, dst))
         return;
     PrintText(src, "%s%s", BeginsWith(path, "MYHOST:") ? "" : "MYHOST:", path);
-    add(search.list, src, search.to, f);
+    if (SYS_FmemV6)
+        (void)File_XferList_Add(search.list, src, dst);
+    else
+        (void)FileNewest_Add(found, search.list, src, dst, date);
 }
 
 static void end_search()
@@ -209,12 +215,12 @@ static void note_end(const char* folder)
     search.is_whole &= File_FindIsWhole(search.from.device, search.from.dir, path) != 0;
 }
 
-static void frame_tly(uint32_t label, int, const char* path, const char* const*)
+static void frame_tly(uint32_t label, int, const char* path, const char* const* pair)
 {
     if (!search.list || label != search.label)
         return; // one that was given up
     if (path) {
-        add_file(path);
+        add_file(path, pair[1]);
         return;
     }
     note_end(search.now < search.folders ? search.folder[search.now] : "");
@@ -267,6 +273,7 @@ int AllFrames_Search(const FILESIDE& from, const FILESIDE& to, FILEXFERLIST** li
 {
     char path[PATH_SIZE];
     AllFrames_Forget();
+    found = {};
     if (!switcher() || !base_path(path, from))
         return -1;
     search.from = from;

@@ -1,5 +1,6 @@
 #include "pc_file_side.h"
 #include "a_ls.h"
+#include "file_newest.h"
 #include "fmctrl.h"
 #include "pane.h"
 #include "text.h"
@@ -417,18 +418,6 @@ static void found_frame(Side& s, const FILEINFO& info, const char* time, int odd
     add_frame(s, cell);
 }
 
-// "Nov.25.2026 10:30" as a number that rises, 0 for another text.
-static long long minute_of(const char* time)
-{
-    static constexpr char months[] = "JanFebMarAprMayJunJulAugSepOctNovDec";
-    char month[4] = "";
-    int day = 0, year = 0, hour = 0, minute = 0;
-    if (sscanf(time, "%3[A-Za-z].%2d.%4d %2d:%2d", month, &day, &year, &hour, &minute) < 5)
-        return 0;
-    const char* const at = strstr(months, month);
-    return (((year * 12LL + (at ? at - months : 0) / 3) * 31 + day) * 24 + hour) * 60 + minute;
-}
-
 static void found_register(Side& s, const FILEINFO& info, const char* time, int odd)
 {
     const int p = place_of(s, info.main, info.sub);
@@ -436,7 +425,7 @@ static void found_register(Side& s, const FILEINFO& info, const char* time, int 
         return;
     // A register that was saved twice, under two names: the list has what was saved last.
     const int i = info.no * s.places + p;
-    if (s.used[i] && minute_of(time) < minute_of(s.cell[i].time))
+    if (s.used[i] && FileNewest_Minute(time) < FileNewest_Minute(s.cell[i].time))
         return;
     FILECELL cell = {.device = info.device, .board = info.device >= FILE_WHOLE_ID, .odd = odd};
     CopyText(cell.name, info.name);

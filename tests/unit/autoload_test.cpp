@@ -143,8 +143,9 @@ TEST_F(AutoLoad, FilesGoToTheirPlacesAndTheServerHearsOfBothEnds)
     const std::string open = "EFFECT/SWR000D001/ME1/OPEN.ME1_001.SKF";
     const std::string key = "KSNAP/SWR000D001/ME1/K.ME1_2_04.SKS";
     const std::string logo = "FRAMEMEM/SWR000D001/Mlogo.FMEM_017.SFM";
+    const std::string old_key = "KSNAP/SWR000D001/ME1/OLD.ME1_2_04.SKS"; // told first
     EXPECT_THAT(Ask("SWR1", {{"EFFECT/SWR000D001/", {open, "EFFECT/SWR000D001/ME1/x.txt"}},
-                             {"KSNAP/SWR000D001/", {key}},
+                             {"KSNAP/SWR000D001/", {old_key, key}},
                              {"FRAMEMEM/SWR000D001/", {logo}}}),
                 ElementsAre(EXIST + "SWR1#true"));
     EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_FOUND);

@@ -90,7 +90,7 @@ struct FileAllPage : TablePage {
                 (path + "#L" + line.substr(label, comma - label) + "," + number).c_str());
             for (const std::string& file : files[folder])
                 SendDummyTally((path + "@Status#" + number + "," + folder.substr(7) + file +
-                                ",Wed Nov 25 10:30:00 2026")
+                                (file.find(',') < file.size() ? "" : ",Wed Nov 25 10:30:00 2026"))
                                    .c_str());
             const std::string end = refused.contains(folder) ? refused[folder] : "OK";
             SendDummyTally((path + "@Status#" + number + "," + end).c_str());
@@ -226,6 +226,25 @@ TEST_F(FileAllPage, ALoadSearchesWhatIsSelectedAndLeavesOutWhatIsLocked)
                             Arg((std::string(row) + state).c_str()));
     (void)Run();
     EXPECT_THAT(sent, Contains("put Snapshot@Snapshot@Register Status#1F803FFF"));
+}
+
+// The old one must neither go last and win nor make a copy on which nothing tells them apart.
+TEST_F(FileAllPage, OfARegisterSavedUnderSeveralNamesTheNewestIsTaken)
+{
+    const std::string day = ",Wed Nov 25 10:30:00 2026", eve = ",Tue Dec 30 23:59:00 2025";
+    files[ROOT + "SNAPSHOT/"] = {
+        "SWR000D001/ME1/OLD.ME1_007.SSS" + eve,  "SWR001D001/ME1/NEW.ME1_007.SSS" + day,
+        "SWR000D001/ME1/NEWS.ME1_008.SSS" + day, "SWR000D001/ME1/OLDER.ME1_007.SSS" + eve,
+        "SWR000D001/ME2/OLD.ME2_007.SSS" + eve,  "SWR000D001/ME1/LAST.ME1_008.SSS" + day};
+    Select({"SNAPSHOT"});
+    (void)Press(BTN_ALL_R_TO_L);
+    (void)Run();
+    const std::string from = "SWR1 " + ROOT + "SNAPSHOT/SWR00";
+    const std::string work = " > SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/";
+    EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
+                ElementsAre(from + "1D001/ME1/NEW.ME1_007.SSS" + work + "NEW.ME1_007.SSS",
+                            from + "0D001/ME1/LAST.ME1_008.SSS" + work + "LAST.ME1_008.SSS",
+                            from + "0D001/ME2/OLD.ME2_007.SSS" + work + "OLD.ME2_007.SSS"));
 }
 
 // A category that the directory does not have is empty; one that cannot be read is said.
