@@ -16,6 +16,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -132,11 +133,41 @@ void clip_thumbnails_remove(const ELEMENT& e)
         remove_frame(e, frame);
 }
 
+// There while the clip's files are renumbered, one after the other: where the program ends before
+// that is done, some have the old numbers and nothing else would tell.
+static void path_of_mark(char (&text)[PATH_SIZE], const ELEMENT& e)
+{
+    ELEMENT still = e;
+    still.duration = 1;
+    path_of_frame(text, still, 0);
+    AppendText(text, ".part");
+}
+
+static bool make_mark(const char* path)
+{
+    const int fd = open(path, O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+    if (fd >= 0)
+        (void)close(fd); // nothing was written
+    return fd >= 0;
+}
+
+static void remove_half_renumbered(const ELEMENT& e)
+{
+    char mark[PATH_SIZE];
+    path_of_mark(mark, e);
+    if (access(mark, F_OK) != 0)
+        return;
+    clip_thumbnails_remove(e);
+    (void)unlink(mark); // at the worst they are fetched once more
+}
+
 bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
 {
+    char mark[PATH_SIZE];
     if (!e.thumbnail || !DEV_MySwr[0])
         return true;
-    if (!has_frame(e, first))
+    path_of_mark(mark, e);
+    if (!has_frame(e, first) || !make_mark(mark))
         return false;
     ELEMENT kept = e;
     kept.duration = last - first + 1;
@@ -150,6 +181,7 @@ bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
         else if (strcmp(from, to) != 0 && rename(from, to) != 0)
             (void)unlink(to); // the frame that had this number before
     }
+    (void)unlink(mark); // at the worst they are fetched once more
     return true;
 }
 
@@ -363,6 +395,7 @@ void clip_thumbnails_want(CLIP_NODE* node)
     const ELEMENT& e = node->list.element;
     if (e.type != ELEMENT_TYPE_FILE || e.thumbnail != 1 || e.duration < 1 || !DEV_MySwr[0])
         return;
+    remove_half_renumbered(e);
     node->next_frame = 0;
     queue_append(WANTED_MID, node);
     if (e.duration > 1)

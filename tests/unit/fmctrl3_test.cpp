@@ -399,6 +399,17 @@ TEST_F(ClipStore, ATrimRenumbersThumbnails)
     EXPECT_THAT(Changes(), IsEmpty()) << "it is the first of what was";
 }
 
+TEST_F(ClipStore, ThumbnailsThatWereLeftHalfRenumberedAreFetchedAnew)
+{
+    for (int i = 0; i < 3; i++)
+        Put("a.b.SFH#00000" + std::to_string(i) + ".THM", 6966);
+    Put("a.b.SFH.THM.part", 0);
+    Folder("a");
+    File("a/b", 3, 1);
+    EXPECT_THAT(Remotes(Gets()), ElementsAre("a/b.SFH#000000.THM"));
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
 TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
 {
     Folder("A");
