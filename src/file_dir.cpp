@@ -2,6 +2,7 @@
 #include "file.h"
 #include "message.h"
 #include "pane.h"
+#include "safe_file.h"
 #include "text.h"
 #include <algorithm>
 #include <cstring>
@@ -124,6 +125,24 @@ int File_DirIsProtected(int drive, const char* name)
         return 0;
     PrintText(file, "%s/.dirprotect", path);
     return is_there(file);
+}
+
+bool File_DirMarker(char (&path)[PATH_SIZE], int drive, const char* name)
+{
+    constexpr char host[] = "MYHOST:";
+    char folder[PATH_SIZE];
+    return File_DirPath(folder, sizeof folder, drive, name) && BeginsWith(folder, host) &&
+           PrintText(path, "%s/.dirprotect", folder + sizeof host - 1) < PATH_SIZE;
+}
+
+// As name, time and protect, big-endian.
+int File_DirWriteMarker(const char* path, const DIRINFO& d)
+{
+    uint8_t raw[sizeof(DIRINFO)] = {};
+    memcpy(raw, d.name, sizeof d.name);
+    memcpy(raw + sizeof d.name, d.time, sizeof d.time);
+    raw[sizeof raw - 1] = uint8_t(d.protect);
+    return SafeFile_Write(path, raw, sizeof raw);
 }
 
 // What a row of the server's names right below the root of the drive that was asked about: it comes

@@ -33,6 +33,9 @@ constexpr char FILE_DIR_AUTOLOAD[] = "PWON_LD";
 int File_DirIsAutoload(int drive, const char* name);
 // "<directory>/.dirprotect" is there. Asks the file system at once.
 int File_DirIsProtected(int drive, const char* name);
+// The path of that file on this machine; false for a directory that is not on it.
+bool File_DirMarker(char (&path)[PATH_SIZE], int drive, const char* name);
+int File_DirWriteMarker(const char* path, const DIRINFO& d); // as SafeFile_Write
 // For the end of a search of a folder that lies in a directory: 0 when it failed, so that there may
 // be more than came. A search of a folder that is not there fails, too; a directory need not have
 // all.

@@ -12,7 +12,6 @@
 #include "page_table/file_directory.h"
 #include "pane.h"
 #include "process.h"
-#include "safe_file.h"
 #include "tally_value.h"
 #include "window.h"
 #include <algorithm>
@@ -225,26 +224,6 @@ static void delete_chosen()
 
 // --- Protect ---
 
-// As name, time and protect, big-endian.
-static int write_marker(const char* path, const DIRINFO& d)
-{
-    uint8_t raw[sizeof(DIRINFO)] = {};
-    memcpy(raw, d.name, sizeof d.name);
-    memcpy(raw + sizeof d.name, d.time, sizeof d.time);
-    raw[sizeof raw - 1] = uint8_t(d.protect);
-    return SafeFile_Write(path, raw, sizeof raw);
-}
-
-// The marker's path on this machine; false for a directory that is not on it.
-static bool marker_of(char (&path)[PATH_SIZE], const char* directory)
-{
-    constexpr char host[] = "MYHOST:";
-    char folder[PATH_SIZE];
-    return File_DirPath(folder, sizeof folder, DevDirectory, directory) &&
-           BeginsWith(folder, host) &&
-           PrintText(path, "%s/.dirprotect", folder + sizeof host - 1) < PATH_SIZE;
-}
-
 static void protect_failed(const char* path)
 {
     Log_Output(LOG_ALWAYS, MOD_FILE_PAGE, "protect filename open error : errno=) [%s] %d", path,
@@ -256,11 +235,12 @@ static void dir_protect_sel()
 {
     DIRINFO* const d = chosen_row();
     char path[PATH_SIZE];
-    if (!d || !marker_of(path, d->name))
+    if (!d || !File_DirMarker(path, DevDirectory, d->name))
         return;
     DIRINFO changed = *d;
     changed.protect = !changed.protect;
-    if (changed.protect ? write_marker(path, changed) != 0 : unlink(path) != 0 && errno != ENOENT) {
+    if (changed.protect ? File_DirWriteMarker(path, changed) != 0
+                        : unlink(path) != 0 && errno != ENOENT) {
         protect_failed(path);
         refuse("The protection could not be changed.");
         return;

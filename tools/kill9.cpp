@@ -1,10 +1,16 @@
 // kill9: kills the program while it writes its files, and looks what is there afterwards. A child
 // stores, renames and installs as fast as it can, is killed after a time at chance, and then every
 // file must be what one of its writes made: the old one or the new one, whole. Each is read by the
-// program's own reader, and each says in several places which write it came from.
+// program's own reader, and each says in several places which write it came from. Of the files that
+// a server writes the child is the simulator.
 //
-// usage: kill9 N [SEED]   N kills; in the working directory build/run, in a device root of its own
+// usage: kill9 N [SEED [KIND]]   N kills, all of one kind if it is named; in the working directory
+//                                build/run, in a device root of its own, with the simulator's path
+//                                in TM3_SIMULATOR
+#include "device.h"
 #include "err.h"
+#include "file_dir.h"
+#include "fmctrl3_private.h"
 #include "fmctrl_private.h"
 #include "global.h"
 #include "install.h"
@@ -20,8 +26,10 @@
 #include "text.h"
 #include "texture_package.h"
 #include "version.h"
+#include "window_private.h"
 #include <SDL.h>
 #include <algorithm>
+#include <arpa/inet.h>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -31,6 +39,8 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <sys/prctl.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -44,10 +54,13 @@ constexpr char INSTALLED[] = "/var/tmp/installed_version";
 
 struct Work {
     const char* name;
-    void (*write)(int n);  // as the n-th write makes it
-    std::string (*look)(); // what is wrong with what is there; empty: nothing
+    void (*write)(int n);   // as the n-th write makes it
+    std::string (*look)();  // what is wrong with what is there; empty: nothing
+    bool is_server = false; // it never returns, and says itself when it has begun
 };
 } // namespace
+
+static int ready_fd = -1; // of the child: a byte when it has begun to write
 
 static std::string Text(const std::string& path)
 {
@@ -247,6 +260,186 @@ static std::string LookAnswer()
     return text == "OK\n" || text == "Error\n" ? "" : "neither well nor wrong: " + text;
 }
 
+// --- The protection of a directory, which comes and goes ---
+
+static constexpr char MARKER[] = "/mnt/data/user/root/SYSTEM/.dirprotect";
+
+static void WriteProtection(int n)
+{
+    DIRINFO d = {.protect = 1};
+    CopyText(d.name, Number(n).c_str());
+    CopyText(d.time, Number(n).c_str());
+    if (n % 3 == 0)
+        (void)unlink(MARKER);
+    else
+        (void)File_DirWriteMarker(MARKER, d);
+}
+
+static std::string LookProtection()
+{
+    const std::string text = Text(MARKER);
+    if (!fs::exists(MARKER))
+        return File_DirIsProtected(FILE_LOCAL, "SYSTEM") ? "a protection without a file" : "";
+    const size_t time_at = sizeof(DIRINFO::name);
+    const bool is_whole = text.size() == sizeof(DIRINFO) && text.back() == 1 && text[0] != '\0' &&
+                          strcmp(text.c_str(), text.c_str() + time_at) == 0;
+    return is_whole ? "" : "the marker is of no directory";
+}
+
+// --- The operator's own keys ---
+
+constexpr int FAVORITES = 29; // of a set
+
+// The page that is open goes onto a key; its number stands in the record and in the caption.
+static void WriteFavorites(int n)
+{
+    GL_NowPage = uint32_t(n + 1) << 16;
+    (void)favorites_select(KEY_STORE);
+    (void)favorites_select(KEY_FAVORITE + n % FAVORITES);
+}
+
+static std::string LookFavorites()
+{
+    constexpr size_t RECORD = 24;
+    constexpr size_t CAPTION_AT = 6;
+    const std::string text = Text("/mnt/data/TopMenu/user_date1.usr");
+    if (text.size() != FAVORITES * RECORD)
+        return "keys are missing";
+    favorites_open(); // from here on the child has what the file says
+    for (int i = 0; i < FAVORITES; i++) {
+        const uint32_t page = favorites_select(KEY_FAVORITE + i);
+        const char* const caption = text.c_str() + size_t(i) * RECORD + CAPTION_AT;
+        if (page >> 16 != strtoul(caption, nullptr, 16))
+            return "a key of two writes";
+    }
+    return "";
+}
+
+// --- The thumbnails of a clip, renumbered by a trim ---
+
+constexpr int CLIP_FRAMES = 40;
+constexpr int CLIP_FIRST = 5; // what the trim leaves
+constexpr int CLIP_LAST = 34;
+static const std::string CLIP_FILES = "/mnt/sys/FM/1/OPENING.SFH";
+
+static ELEMENT Clip(int frames)
+{
+    ELEMENT e = {};
+    CopyText(e.full_name, "/root/OPENING");
+    e.type = ELEMENT_TYPE_FILE;
+    e.thumbnail = 1;
+    e.duration = frames;
+    return e;
+}
+
+static std::string Thumbnail(int frame)
+{
+    char number[16];
+    PrintText(number, "#%06d.THM", frame);
+    return CLIP_FILES + number;
+}
+
+static void WriteClip(int)
+{
+    constexpr int BYTES = 6966;
+    fs::remove(CLIP_FILES + ".THM.part"); // as a start would do it
+    for (int i = 0; i < CLIP_FRAMES; i++)
+        fs::remove(Thumbnail(i));
+    for (int i = 0; i < CLIP_FRAMES; i++) {
+        std::ofstream(CLIP_FILES, std::ios::binary) << std::string(BYTES, char(i));
+        fs::rename(CLIP_FILES, Thumbnail(i));
+    }
+    (void)clip_thumbnails_renumber(Clip(CLIP_FRAMES), CLIP_FIRST, CLIP_LAST);
+}
+
+// As the program starts: those of one numbering, or none.
+static std::string LookClip()
+{
+    CLIP_NODE node = {};
+    node.list.element = Clip(CLIP_LAST - CLIP_FIRST + 1);
+    clip_thumbnails_want(&node);
+    clip_thumbnails_forget(&node);
+    clip_thumbnails_forget_all();
+    int moved = -1;
+    for (int i = 0; i < node.list.element.duration; i++) {
+        const std::string text = Text(Thumbnail(i));
+        if (text.empty())
+            continue;
+        if (moved >= 0 && text[0] - i != moved)
+            return "frames of two numberings";
+        moved = text[0] - i;
+    }
+    return "";
+}
+
+// --- Files that a server writes for the program, of more than one piece ---
+
+static constexpr char COPY[] = "/mnt/data/user/root/SYSTEM/COPY.BIN";
+constexpr size_t COPY_BYTES = 300000;
+constexpr int SIM_SPEED = 50; // its clock: a copy takes 20 ms of it
+
+// Back when the simulator has told what came of it; the process ends when it is gone.
+static void SendCopy(int fd, const std::string& line)
+{
+    char bytes[4096];
+    std::string replies;
+    bool is_there = send(fd, line.data(), line.size(), MSG_NOSIGNAL) == ssize_t(line.size());
+    while (is_there && replies.find("Copy@Status#") == std::string::npos) {
+        const ssize_t size = recv(fd, bytes, sizeof bytes, 0);
+        is_there = size > 0;
+        replies.append(bytes, size_t(std::max<ssize_t>(size, 0)));
+    }
+    if (!is_there)
+        _exit(0);
+}
+
+// Asks the simulator for one copy after the other.
+[[noreturn]] static void AskForCopies(int n)
+{
+    sockaddr_in name = {};
+    name.sin_family = AF_INET;
+    name.sin_port = htons(10001);
+    name.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    const int fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    while (connect(fd, reinterpret_cast<const sockaddr*>(&name), sizeof name) != 0)
+        usleep(1000);
+    const char* sources[] = {"odd.bin", "even.bin"};
+    for (bool is_first = true;; is_first = false) {
+        const std::string line = "put File@Access@Copy#L" + Number(++n) + ",MYHOST:/mnt/data/user/";
+        SendCopy(fd, line + sources[0] + ",MYHOST:" + COPY + "\n");
+        if (is_first)
+            (void)!write(ready_fd, "", 1); // there is one
+        std::swap(sources[0], sources[1]);
+    }
+}
+
+// The simulator takes the place of the child.
+static void WriteCopies(int n)
+{
+    const pid_t parent = getpid();
+    if (fork() == 0) {
+        (void)prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (getppid() == parent)
+            AskForCopies(n);
+        _exit(0);
+    }
+    const char* const program = getenv("TM3_SIMULATOR");
+    (void)!freopen("/dev/null", "r", stdin);
+    execl(program, program, "--quiet", "--speed", Number(SIM_SPEED).c_str(), nullptr);
+    _exit(1);
+}
+
+static std::string LookCopies()
+{
+    const std::string text = Text(COPY);
+    for (const auto& entry : fs::directory_iterator(fs::path(COPY).parent_path()))
+        if (entry.path().extension() == ".part")
+            fs::remove(entry.path()); // what it was at
+    return text == std::string(COPY_BYTES, 'e') || text == std::string(COPY_BYTES, 'o')
+               ? ""
+               : "of neither source: " + Number(int(text.size()));
+}
+
 // --- The log, which is written on and rotated ---
 
 static void WriteLog(int n)
@@ -319,6 +512,10 @@ static constexpr Work works[] = {
     {"log", WriteLog, LookLog},
     {"screen capture", WriteCapture, LookCapture},
     {"install", WriteInstall, LookInstall},
+    {"protection", WriteProtection, LookProtection},
+    {"favourites", WriteFavorites, LookFavorites},
+    {"clip", WriteClip, LookClip},
+    {"copies", WriteCopies, LookCopies, true},
 };
 
 // --- The whole ---
@@ -352,15 +549,24 @@ static void LayAll()
             std::string(INSTALLED) + "\n");
     Lay(std::string(DRIVE) + "INSTALL/menu.bin", std::string(100000, 'm'));
     LayBitmap(std::string(DRIVE) + "texture.bmp");
-    for (const char* folder : {"/mnt/sys/FrameMemory", "/tmp/FTPIF/Command", MACRO_EDIT_DIR})
+    Lay("/mnt/data/user/odd.bin", std::string(COPY_BYTES, 'o'));
+    Lay("/mnt/data/user/even.bin", std::string(COPY_BYTES, 'e'));
+    fs::create_directories(fs::path(COPY).parent_path());
+    for (const char* folder :
+         {"/mnt/sys/FrameMemory", "/tmp/FTPIF/Command", MACRO_EDIT_DIR, "/mnt/sys/FM/1"})
         fs::create_directories(folder);
+    static DEVICE switcher; // whose clip store it is
+    CopyText(switcher.id, "SWR001D001");
+    DEV_MySwr[0] = &switcher;
+    favorites_open(); // of which there are none yet
     CopyText(GL_ImportDataPath, DRIVE);
     Log_Init("/var/log2/tm3.log", 20000); // rotated often
 }
 
-[[noreturn]] static void WriteForEver(const Work& work, int n, int ready)
+[[noreturn]] static void WriteForEver(const Work& work, int n)
 {
-    (void)!write(ready, "", 1);
+    if (!work.is_server)
+        (void)!write(ready_fd, "", 1);
     for (;;)
         work.write(n++);
 }
@@ -372,8 +578,10 @@ static int Kill(const Work& work, int n, int us)
     if (pipe(pipe_fd) != 0)
         exit(2);
     const pid_t child = fork();
-    if (child == 0)
-        WriteForEver(work, n, pipe_fd[1]);
+    if (child == 0) {
+        ready_fd = pipe_fd[1];
+        WriteForEver(work, n);
+    }
     close(pipe_fd[1]);
     char byte = 0;
     (void)!read(pipe_fd[0], &byte, 1);
@@ -389,7 +597,7 @@ int main(int argc, char** argv)
 {
     const int kills = argc > 1 ? atoi(argv[1]) : 0;
     if (kills < 1) {
-        fprintf(stderr, "usage: kill9 N [SEED]\n");
+        fprintf(stderr, "usage: kill9 N [SEED [KIND]]\n");
         return 2;
     }
     std::mt19937 random(argc > 2 ? unsigned(atoi(argv[2])) : 1);
@@ -397,10 +605,14 @@ int main(int argc, char** argv)
     Start_Init(32);
     LayAll();
     for (const Work& work : works)
-        work.write(1); // from here on there is one
+        if (!work.is_server)
+            work.write(1); // from here on there is one
+    const Work* const only = std::find_if(std::begin(works), std::end(works), [&](const Work& w) {
+        return argc > 3 && strcmp(w.name, argv[3]) == 0;
+    });
     int faults = 0;
     for (int i = 0; i < kills; i++) {
-        const Work& work = works[size_t(i) % std::size(works)];
+        const Work& work = only != std::end(works) ? *only : works[size_t(i) % std::size(works)];
         const int us = int(random() % LIFE_US);
         const int status = Kill(work, i + 2, us);
         const std::string wrong = !WIFSIGNALED(status) || WTERMSIG(status) != SIGKILL
