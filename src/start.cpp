@@ -70,7 +70,7 @@ static void start_video(int depth)
     atexit(TDL_Quit);
 }
 
-static void start_identity()
+void Start_Identity()
 {
     unsigned char e[4];
     if (I2cEepromService_ReadElem(EEPROM_IP_ADDR_ETH0, 4, e) == 4) {
@@ -99,7 +99,7 @@ void Start_Init(int depth)
     xsys_openlog("menu", 1, 8);
     GL_IsRamDisk = start_has_data_disk() ? 0 : 1;
     start_video(depth);
-    start_identity();
+    Start_Identity();
     Device_Init();
     Global_InitBusNames();
     SetupIndex_Build();

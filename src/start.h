@@ -6,3 +6,6 @@
 // is fatal: it prints a line and ends the process with status 1, since the log and the screen may
 // not be up. What is made ready is undone when the process ends.
 void Start_Init(int depth);
+
+// Who this unit is and where its status hub: from the EEPROM. A part of Start_Init, for tests.
+void Start_Identity();

@@ -75,7 +75,7 @@ static size_t touch_record_size(int fd)
     return RECORD_SIZE;
 }
 
-static bool touch_device_name(char* name, int size)
+bool Touch_DeviceName(char* name, int size)
 {
     FILE* fp = fopen(list_file, "r");
     if (!fp)
@@ -103,7 +103,7 @@ int touch_open()
         }
     }
     char name[PATH_SIZE];
-    if (!panel || !touch_device_name(name, sizeof name))
+    if (!panel || !Touch_DeviceName(name, sizeof name))
         return 0;
     Touch_Resolution = panel->resolution;
     Touch_FD = open(name, O_RDONLY | O_NONBLOCK | O_CLOEXEC);

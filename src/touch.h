@@ -36,4 +36,7 @@ bool Touch_IsDown(); // a finger is on the panel
 
 // One record of the panel as the conversion takes it; for Touch_Poll and tests.
 void Touch_Record(int type, int code, int value);
+// The device in the list that a search left, which goes; false when it names none. For touch_open
+// and tests.
+bool Touch_DeviceName(char* name, int size);
 void Touch_Reset(); // as at process start; a device that is open stays open

@@ -150,7 +150,7 @@ static void version_publish()
     (void)SafeFile_Commit(file); // the others miss a version, which the log tells
 }
 
-void GetMenuDetailInfo()
+void Version_Read()
 {
     for (int row = 0; row < DETAIL_INFO_ROWS; row++) {
         CopyText(GL_MenuDetailInfoTitle[row], "--");
@@ -162,6 +162,11 @@ void GetMenuDetailInfo()
     GL_DetailInfoMax = ROW_FPGA;
     version_read_files();
     version_read_fpga();
+}
+
+void GetMenuDetailInfo()
+{
+    Version_Read();
     version_publish();
     ktr_system("/bin/mkdir -p /var/run/XPP");
     ktr_system("/bin/touch /var/run/XPP/version_updated");

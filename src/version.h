@@ -14,6 +14,7 @@ extern int GL_DetailInfoFull; // versions are shown with their build numbers
 
 // Read the version files and the FPGA registers and publish them under /var/tmp/version2.
 void GetMenuDetailInfo();
+void Version_Read(); // without publishing
 // The short form of a version line: what stands before a "#" or the comment in brackets is kept
 // with the brackets, the build number is dropped. dst gets at most size - 1 characters.
 void Strip_VersionStr(char* dst, const char* src, int size);
