@@ -106,6 +106,7 @@ static constexpr struct {
 static void Begin()
 {
     std::filesystem::create_directories("/tmp/FTPIF/Command");
+    CopyText(GL_NFS_Server, ""); // nobody is asked
     while (!fm_drop_is_set_up()) {
         fm_drop_pass(10);
         usleep(1000);
