@@ -10,6 +10,7 @@
 #define KEY_UNIT "Engineering Setup@Panel@Config@Compact Key Module Assign@KY Unit Config@"
 #define ME_CONFIG "Engineering Setup@Switcher@Config@M/E Config@"
 #define ME_ASSIGN "Engineering Setup@Panel@Config@M/E Assign@"
+#define TEN_KEY "Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@"
 #define MAIN_SUB "Engineering Setup@Panel@Config@MP2 Main/Sub Assign@Main/Sub Assign@"
 
 struct Info : BusTest {
@@ -53,6 +54,8 @@ TEST_F(Info, AValueLandsInItsPlace)
         {ME_ASSIGN "14th Row", "what", &GL_MEAssign[13], -1},
         {OPERATION "Timeline Display Priority", "true", &GL_TimelineDisplayPriority, 1},
         {OPERATION "Error Status", "true", &GL_ErrorPopup, 1},
+        {OPERATION "Touch Buzz", "true", &GL_TouchBuzz, 1},
+        {OPERATION "Touch Buzz", "false", &GL_TouchBuzz, 0},
         {OPERATION "SRAM Map KeyCode", "true", &GL_SRAM_12K_Extension, 1},
         {OPERATION "Usb Auto Scan", "true", &GL_USB_AutoScan, 1},
         {OPERATION "Unnecessary Thumbnail", "true", &GL_UnnecessaryThumb, 1},
@@ -81,11 +84,11 @@ TEST_F(Info, AValueLandsInItsPlace)
     EXPECT_EQ(KF_GetRegionDisplay(1), 1);
     for (const char* place : {"1,3", "2,0"})
         Deliver(OPERATION "Timeline Region Priority", place);
-    KF_RegionAssignTally(1, "M/E-1,M/E-4");
+    Deliver(TEN_KEY "1", "1,0,M/E-1,M/E-4");
     KF_InitPriority();
     EXPECT_EQ(KF_GetRegionPriority(0), 3);
     EXPECT_EQ(KF_GetRegionPriority(1), 0);
-    KF_RegionAssignTally(1, "");
+    Deliver(TEN_KEY "1", "1,0,");
 }
 
 TEST_F(Info, ALostServerTakesAllProcessorsWithIt)

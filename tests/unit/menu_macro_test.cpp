@@ -293,27 +293,32 @@ TEST_F(MenuMacro, ATransferCopyBecomesTheRegisterUnderItsNameOnTheDrive)
 
 TEST_F(MenuMacro, ARunSendsTheGroupsWithTheirWaits)
 {
-    Load(2, "Interval:300\nEvent:put A#1\nContnue:put B#2\nEvent:put C#3\nPause:1.0\n"
-            "DME CH:00000001,00000003\nEvent:put D#4\n");
+    Load(2, "Interval:300\nEvent:put Z#0\nPause:0\nEvent:put A#1\nContnue:put B#2\n"
+            "Event:put C#3\nPause:1.0\nDME CH:00000001,00000003\nEvent:put D#4\n");
     SYS_DMEReference = 2;
     SYS_DMEChannel = 3;
     mm_macro_run(2);
-    EXPECT_THAT(Run(3000), ElementsAre("0:put A#1 put B#2", "300:put C#3",
+    EXPECT_THAT(Run(3000), ElementsAre("0:put Z#0", "10:put A#1 put B#2", "300:put C#3",
                                        "1000:put Info@DME@RefCH#1 put D#4"));
     EXPECT_EQ(GL_MenuMacro_Run, 0);
     mm_macro_run(9); // empty
     EXPECT_EQ(GL_MenuMacro_Run, 0);
+    Load(3, "Event:put A#1\n");
+    mm_macro_run(3);
+    EXPECT_EQ(mm_current_macro_status().remain, 100) << "by events where nothing is waited for";
+    (void)Run(100);
     SYS_DMEReference = SYS_DMEChannel = 0;
 }
 
 TEST_F(MenuMacro, ARunStopsInAPauseAndGoesOnThere)
 {
-    Load(2, "Event:put A#1\nPause:2.0\nEvent:put B#2\n");
-    (void)Tell("Info@Menu Macro@Run#2");
+    constexpr int LAST = MENU_MACRO_REGISTERS;
+    Load(LAST, "Event:put A#1\nPause:2.0\nEvent:put B#2\n");
+    (void)Tell("Info@Menu Macro@Run#" + std::to_string(LAST));
     EXPECT_THAT(Run(1000), ElementsAre("0:put A#1"));
     SendMessage(LMSG_BTNSEL, Arg("LOCAL@MenuMacro@Stop"), Arg(""), 0, 0);
     EXPECT_THAT(Run(5000), IsEmpty());
-    mm_delete_delete_exec(2, 2); // the run has a list of its own
+    mm_delete_delete_exec(LAST, LAST); // the run has a list of its own
     mm_current_macro_run();
     EXPECT_THAT(Run(5000), ElementsAre(HasSubstr(":put B#2")));
     EXPECT_EQ(mm_current_macro_status().event, 0) << "rewound";

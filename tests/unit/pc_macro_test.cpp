@@ -658,6 +658,14 @@ TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
     (void)Key(BTN_FILE_EDIT);
     EXPECT_EQ(GL_CreatePage, PAGE_MACRO_OFFLINE);
     EXPECT_EQ(FileText(MACRO_EDIT_FILE), "PNL 0001PNL_0007.PMRM7\n");
+    // Where no file can be made it is said.
+    ASSERT_EQ(unlink(MACRO_EDIT_FILE) + rmdir(MACRO_EDIT_DIR), 0);
+    std::ofstream(MACRO_EDIT_DIR) << "in the way";
+    GL_CreatePage = 0;
+    (void)Key(BTN_FILE_EDIT);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    EXPECT_EQ(GL_CreatePage, 0u);
+    unlink(MACRO_EDIT_DIR);
 }
 
 // --- The online editor ---
