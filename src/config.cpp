@@ -1,7 +1,7 @@
 #include "config.h"
 #include "global.h"
 #include "log.h"
-#include "loop.h"
+#include "loop_log.h"
 #include "text.h"
 #include <climits>
 #include <cstdio>

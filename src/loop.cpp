@@ -11,8 +11,7 @@
 #include "fmctrl3.h"
 #include "global.h"
 #include "initread.h"
-#include "log.h"
-#include "memory.h"
+#include "loop_log.h"
 #include "menu_macro.h"
 #include "message.h"
 #include "netio.h"
@@ -29,7 +28,6 @@
 #include "types.h"
 #include "window.h"
 #include <cstdlib>
-#include <ctime>
 #include "safeguards.h"
 
 uint32_t TickNow = 0;
@@ -37,7 +35,6 @@ uint32_t TickBefore = 0;
 uint32_t MBDownNow = 0;
 uint32_t MBDownBefore = 0;
 int MBDown = 0;
-int GL_LoopLog = 0;
 
 namespace
 {
@@ -50,18 +47,6 @@ constexpr uint32_t STAGE0_PASSES = 100;
 constexpr uint32_t STAGE1_PASSES = 300;
 constexpr uint32_t STAGE2_PASSES = 2000;
 constexpr uint32_t PROGRESS_PASSES = 3000;
-
-// The passes since the last line of the log about them.
-struct PassRecord {
-    int since_ms = 0;
-    uint32_t passes = 0;
-    uint32_t over_ms = 0; // so many took longer than a pass is to take, by the clock
-    uint32_t over_us = 0; // and by the processor
-    int longest_ms = 0;
-    uint32_t longest_ms_page = 0; // that was shown at the end of it
-    long longest_us = 0;
-    uint32_t longest_us_page = 0;
-};
 
 // One step of the initial read: armed while the pass counter has not gone by, run once when it has.
 struct Stage {
@@ -80,13 +65,13 @@ static struct {
     int display_passes = 0;          // since the display was asked
     uint32_t event_check_before = 0; // TickBefore of MainEventCheck
     LoopFigures figures;
-    PassRecord record;                               // while GL_LoopLog is set
     bool armed[sizeof stages / sizeof *stages] = {}; // by stage
 } loop;
 
 void Loop_Reset()
 {
     loop = {};
+    LoopLog_Reset();
     TickNow = TickBefore = MBDownNow = MBDownBefore = 0;
     MBDown = 0;
     Touch_Reset();
@@ -328,44 +313,6 @@ void Loop_ResetFigures()
     loop.figures = {.since = TickNow};
 }
 
-// Processor time of this process in us, without that of its children; on a machine that does other
-// things besides, the clock tells little of what a pass costs.
-static long loop_processor_us()
-{
-    timespec t = {};
-    if (GL_LoopLog)
-        clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
-    return long(t.tv_sec % 1000) * 1000000 + t.tv_nsec / 1000;
-}
-
-static void loop_record_pass(int elapsed_ms, int busy_ms, long busy_us)
-{
-    if (!GL_LoopLog)
-        return;
-    PassRecord& r = loop.record;
-    r.passes++;
-    r.over_ms += busy_ms > PASS_MS;
-    r.over_us += busy_us > PASS_MS * 1000;
-    if (busy_ms > r.longest_ms) {
-        r.longest_ms = busy_ms;
-        r.longest_ms_page = GL_NowPage;
-    }
-    if (busy_us > r.longest_us) {
-        r.longest_us = busy_us;
-        r.longest_us_page = GL_NowPage;
-    }
-    r.since_ms += elapsed_ms;
-    if (r.since_ms / 1000 < GL_LoopLog)
-        return;
-    Log_Output(LOG_ALWAYS, MOD_START,
-               "PASSES: %u, longest %d ms at %08X and %ld us of processor at %08X, over %d ms %u "
-               "and %u, %d blocks\n",
-               unsigned(r.passes), r.longest_ms, unsigned(r.longest_ms_page), r.longest_us,
-               unsigned(r.longest_us_page), PASS_MS, unsigned(r.over_ms), unsigned(r.over_us),
-               UsedMemPtr);
-    r = {};
-}
-
 // The page change waits while something stands over the page.
 static void loop_page_change()
 {
@@ -435,27 +382,45 @@ static void loop_hub_reconnect()
     GL_NetReConnect_SHP = 0;
 }
 
+// Everything that comes in and goes out. Returns whether the window was closed.
+static bool loop_links_and_events(int elapsed_ms)
+{
+    Ready_Ask();
+    ReceiveCommand_Management();
+    LoopLog_Step(STEP_RECEIVE);
+    (void)Net_SendCommandQueue(); // a failed send keeps its item: the next pass tries again
+    (void)Net_SendBinCommandQueue();
+    (void)Net_SendSHPCommandQueue(elapsed_ms);
+    LoopLog_Step(STEP_SEND);
+    Touch_Poll(elapsed_ms);
+    const bool is_last = loop_one_event();
+    LoopLog_Step(STEP_EVENT);
+    return is_last;
+}
+
+static void loop_screen(int elapsed_ms)
+{
+    loop_page_change();
+    LoopLog_Step(STEP_PAGE);
+    loop_redraw(elapsed_ms);
+    LoopLog_Step(STEP_REDRAW);
+    if (GL_ErrorPopup_On)
+        EndScreenSaver();
+    else
+        ScreenSaver(elapsed_ms);
+    LoopLog_Step(STEP_SAVER);
+}
+
 int MainPass()
 {
     TickNow = SDL_GetTicks();
     const int elapsed_ms = loop_pace(TickNow, TickBefore);
     TickBefore = SDL_GetTicks();
-    const long processor_before_us = loop_processor_us();
+    LoopLog_Begin();
     loop_selfdiag(elapsed_ms);
-
-    Ready_Ask();
-    ReceiveCommand_Management();
-    (void)Net_SendCommandQueue(); // a failed send keeps its item: the next pass tries again
-    (void)Net_SendBinCommandQueue();
-    (void)Net_SendSHPCommandQueue(elapsed_ms);
-    Touch_Poll(elapsed_ms);
-    const bool is_last = loop_one_event();
-    loop_page_change();
-    loop_redraw(elapsed_ms);
-    if (GL_ErrorPopup_On)
-        EndScreenSaver();
-    else
-        ScreenSaver(elapsed_ms);
+    LoopLog_Step(STEP_SELFDIAG);
+    const bool is_last = loop_links_and_events(elapsed_ms);
+    loop_screen(elapsed_ms);
     GL_NetReConnect = 0; // the server announces itself by tally: nothing to do here
     loop_counter();
     loop_initial_read();
@@ -463,9 +428,10 @@ int MainPass()
     loop_hub_reconnect();
     if (GL_AllPageDisplayMode)
         GL_AllPageSet();
+    LoopLog_Step(STEP_READ);
     const int busy_ms = int(SDL_GetTicks() - TickBefore);
     loop_figure_pass(busy_ms);
-    loop_record_pass(elapsed_ms, busy_ms, loop_processor_us() - processor_before_us);
+    LoopLog_End(elapsed_ms, busy_ms);
     return is_last;
 }
 

@@ -34,9 +34,6 @@ struct LoopFigures {
 const LoopFigures& Loop_Figures();
 void Loop_ResetFigures();
 
-// Seconds between two lines of the log about the passes, from the ini file; 0: none.
-extern int GL_LoopLog;
-
 // --- For tests ---
 void Loop_Reset();                 // as at process start
 void Loop_Event(SDL_Event* event); // handle one event as the pass does
