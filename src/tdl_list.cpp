@@ -19,8 +19,13 @@ constexpr int STROKES = 4096; // more are painted in several goes
 
 using Look = uint64_t;
 
+// Of pixels of which nothing is known. One serves for all: a square's look is only ever compared
+// with what strokes have made of it, which is another.
+constexpr Look UNKNOWN = 0xABADCAFE;
+constexpr Rect NOWHERE = {1, 1, 0, 0};
+
 struct Square {
-    Look painted = 0;       // of the pixels that are there
+    Look painted = UNKNOWN; // of the pixels that are there
     Look listed = 0;        // of those that will be there when the list is painted
     int first = 0;          // in the list: what is before it is covered or shown already
     bool is_listed = false; // strokes of the list lie on it: listed and first are valid
@@ -34,8 +39,8 @@ static struct {
     int strokes = 0;
     Square* touched[ROWS * COLUMNS]; // those that are listed
     int touches = 0;
-    Look unknown = 0;    // the last look that stood for pixels of which nothing is known
-    bool is_off = false; // a verb paints at once, within a hold too
+    Rect direct = NOWHERE; // squares that are marked as drawn on directly, and nothing since
+    bool is_off = false;   // a verb paints at once, within a hold too
 } list;
 
 // --- Looks ---
@@ -72,12 +77,6 @@ static Look look_of(const Stroke& s)
 static Look covered_look(const Stroke& s, int left, int top)
 {
     return s.bitmap ? add(bitmap_look(s), pair(left - s.x, top - s.y)) : add(kind_look(s), s.pixel);
-}
-
-// A look that nothing else has: even where looks are sums, this one is none.
-static Look unknown_look()
-{
-    return add(++list.unknown, 0xABADCAFE);
 }
 
 // --- Squares ---
@@ -173,6 +172,9 @@ static void paint_where_needed(int n)
 
 void tdl_paint_listed()
 {
+    if (list.strokes == 0)
+        return;
+    list.direct = NOWHERE;
     for (int n = 0; n < list.strokes; n++) {
         paint_where_needed(n);
         SDL_FreeSurface(list.stroke[n].bitmap);
@@ -186,15 +188,24 @@ void tdl_paint_listed()
     list.strokes = list.touches = 0;
 }
 
+static bool lies_in(const Rect& r, const Rect& in)
+{
+    return r.x1 >= in.x1 && r.y1 >= in.y1 && r.x2 <= in.x2 && r.y2 <= in.y2;
+}
+
+// Outside a hold every verb comes here, mostly with its neighbours: what is marked is left alone.
 void tdl_draw_directly(const Rect& r)
 {
     if (tdl_is_empty(r))
         return;
     tdl_paint_listed();
     const Rect in = squares_of(r);
+    if (lies_in(in, list.direct))
+        return;
+    list.direct = in;
     for (int y = in.y1; y <= in.y2; y++)
         for (int x = in.x1; x <= in.x2; x++) {
-            list.square[y][x].painted = unknown_look();
+            list.square[y][x].painted = UNKNOWN;
             list.square[y][x].is_unshown = true;
         }
 }
@@ -202,6 +213,7 @@ void tdl_draw_directly(const Rect& r)
 void tdl_each_unshown(const Rect& r, void (*show)(const Rect& part))
 {
     const Rect in = squares_of(r);
+    list.direct = NOWHERE;
     for (int y = in.y1; y <= in.y2; y++) {
         Square* row = list.square[y];
         for (int x = in.x1; x <= in.x2; x++) {
@@ -229,7 +241,7 @@ void tdl_list_init()
     tdl_list_quit();
     for (auto& row : list.square)
         for (Square& q : row)
-            q = {.painted = unknown_look()};
+            q = {};
     list.is_off = false;
 }
 
@@ -238,4 +250,5 @@ void tdl_list_quit()
     for (int n = 0; n < list.strokes; n++)
         SDL_FreeSurface(list.stroke[n].bitmap);
     list.strokes = list.touches = 0;
+    list.direct = NOWHERE;
 }

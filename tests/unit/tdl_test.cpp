@@ -7,6 +7,7 @@ namespace
 {
 constexpr int DEPTHS[] = {8, 16, 24, 32};
 constexpr unsigned RED = 0xFF0000; // exact at every depth
+constexpr unsigned WHITE = 0xFFFFFF;
 
 SDL_Surface* Source; // of the bitmap verbs
 } // namespace
@@ -266,4 +267,36 @@ TEST(Drawing, AMovedPopKeepsItsNewPlaceAndTheScreenEdgeCuts)
     TDL_PopScreen();
     EXPECT_EQ(RectText(Flushed.back()), "300,5-319,14");
     EXPECT_EQ(Painted(), 200);
+}
+
+// A square that is marked as drawn on directly is marked again once it has been shown or painted.
+TEST(Drawing, WhatIsDrawnOutsideAHoldIsShownByTheNextAndPaintedOver)
+{
+    const TestDisplay display;
+    static int flushed = 0;
+    TDL_WatchFlush([](int, int, int w, int h) { flushed += w * h; });
+    const auto hold = [](unsigned colour) {
+        TDL_Hold();
+        if (colour)
+            TDL_FillRectS(0, 0, 31, 31, colour);
+        TDL_UpdateRect(0, 0, 31, 31);
+        flushed = 0;
+        TDL_Release();
+        return flushed;
+    };
+    EXPECT_EQ(hold(0), SCREEN_W * SCREEN_H); // the first one
+    for (const unsigned colour : {RED, WHITE, RED}) {
+        TDL_FillRectS(0, 0, 31, 31, colour);
+        EXPECT_EQ(hold(0), 32 * 32);
+        EXPECT_EQ(hold(0), 0);
+    }
+    for (const int side : {4, 6, 4}) {
+        EXPECT_GT(hold(WHITE), 0);
+        TDL_FillRectS(0, 0, side - 1, side - 1, RED);
+        EXPECT_EQ(hold(WHITE), 0) << "it was red unseen";
+        EXPECT_EQ(PixelsOf(Screen)[0], WHITE);
+        TDL_FillRectS(0, 0, side - 1, side - 1, RED);
+        EXPECT_EQ(hold(0), side * side);
+    }
+    TDL_WatchFlush(nullptr);
 }
