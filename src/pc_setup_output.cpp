@@ -92,15 +92,22 @@ static bool is_inhibited(int row)
     return Same(SetupPage_Text(page, row, FLD_INHIBIT), words_inhibit[0].text);
 }
 
+// Which GPI input works the converter of each row. The table is laid out anew where that is another
+// one than before: of the hundreds of tallies that open the page few change any.
 static void show_links()
 {
+    bool is_other = false;
     for (int row = 0; row < rows_used; row++) {
         const int fc = Decimal(SetupPage_Text(page, row, FLD_FC));
-        CopyText(OutAssign[row].link, "");
+        char link[sizeof OutAssign[row].link] = "";
         for (int port = 0; port < PORTS; port++)
             if (fc > 0 && oa.fc_of_port[port] == fc)
-                PrintText(OutAssign[row].link, "%d", port + 1);
+                PrintText(link, "%d", port + 1);
+        is_other = is_other || !Same(link, OutAssign[row].link);
+        CopyText(OutAssign[row].link, link);
     }
+    if (is_other)
+        SetupPage_Show(page);
 }
 
 static void changed()
@@ -227,7 +234,6 @@ static int take_level(const char* path, const char* value)
         return 0;
     oa.fc_of_port[port] = BeginsWith(value, "FC") ? Decimal(value + strlen("FC")) : 0;
     show_links();
-    SetupPage_Show(page);
     return 1;
 }
 
@@ -239,10 +245,8 @@ static int pc_engsetup_switcher_output_assign_proc(int msg, MsgArg ax, MsgArg bx
         (msg == LMSG_PANEQUIT && pane_closed(int(ax), int(bx))) ||
         (msg == MSG_TALLY && take_level(Text(ax), Text(bx))))
         return 0;
-    if (SetupPage_Proc(page, msg, ax, bx) && msg == MSG_TALLY) {
+    if (SetupPage_Proc(page, msg, ax, bx) && msg == MSG_TALLY)
         show_links();
-        SetupPage_Show(page);
-    }
     return 0;
 }
 
