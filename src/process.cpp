@@ -75,32 +75,6 @@ static int process_wait(pid_t pid)
     return status;
 }
 
-// SIGCHLD stays blocked until the child is reaped here, and cpid is clear by then: the handler must
-// not take the status away.
-int ktr_system(const char* cmd)
-{
-    if (!cmd)
-        return -1;
-    Signals saved;
-    process_hold_signals(saved);
-    const pid_t pid = fork();
-    if (pid == 0) {
-        process_restore_signals(saved);
-        const int result = ktr_exec(cmd);
-        sync();
-        _exit(result);
-    }
-    int status = -1;
-    if (pid > 0) {
-        cpid = pid;
-        status = process_wait(pid);
-        cpid = 0;
-    }
-    fflush(nullptr);
-    process_restore_signals(saved);
-    return status;
-}
-
 // Cut a command into words, in place. The number of words, -1 for too many or an open quotation.
 static int process_split(char* text, char* (&words)[WORDS_MAX + 1])
 {
@@ -139,6 +113,58 @@ static bool process_words(Words& w, const char* cmd)
     return process_split(w.text, w.word) > 0;
 }
 
+// A program, started with the signals as they were before they were held. Spawned and not forked,
+// as all here: nothing of this process is copied for one that replaces it at once. 0 or an error.
+static int process_spawn(pid_t* pid, Words& w, const Signals& saved)
+{
+    sigset_t back;
+    sigemptyset(&back);
+    if (saved.interrupt.sa_handler != SIG_IGN)
+        sigaddset(&back, SIGINT);
+    if (saved.quit.sa_handler != SIG_IGN)
+        sigaddset(&back, SIGQUIT);
+    posix_spawnattr_t attr;
+    posix_spawnattr_init(&attr);
+    posix_spawnattr_setsigdefault(&attr, &back);
+    posix_spawnattr_setsigmask(&attr, &saved.mask);
+    posix_spawnattr_setflags(&attr, POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK);
+    const int error = posix_spawn(pid, w.word[0], nullptr, &attr, w.word, environ);
+    posix_spawnattr_destroy(&attr);
+    return error;
+}
+
+// There is no such program: the drives are written all the same. The wait status of a failure.
+static int process_no_program()
+{
+    constexpr int EXIT_STATUS = 0xFF;
+    sync();
+    return EXIT_STATUS << 8;
+}
+
+// SIGCHLD stays blocked until the child is reaped here, and cpid is clear by then: the handler must
+// not take the status away.
+int ktr_system(const char* cmd)
+{
+    if (!cmd)
+        return -1;
+    Words w;
+    Signals saved;
+    process_hold_signals(saved);
+    pid_t pid = -1;
+    const int error = process_words(w, cmd) ? process_spawn(&pid, w, saved) : ENOENT;
+    int status = -1;
+    if (error == 0) {
+        cpid = pid;
+        status = process_wait(pid);
+        cpid = 0;
+    } else if (error != EAGAIN && error != ENOMEM) {
+        status = process_no_program();
+    }
+    fflush(nullptr);
+    process_restore_signals(saved);
+    return status;
+}
+
 int ktr_exec(const char* cmd)
 {
     Words w;
@@ -147,7 +173,6 @@ int ktr_exec(const char* cmd)
     return -1;
 }
 
-// Spawned and not forked: nothing of this process is copied for a program that replaces it at once.
 int ktr_start(const char* cmd)
 {
     Words w;
@@ -184,15 +209,18 @@ static bool popen_table()
 }
 
 // The child's end of the pipe becomes its standard input or output. Other streams close by
-// themselves: pipes, sockets and the panel are close-on-exec.
-[[noreturn]] static void popen_run(const char* cmd, int end, int standard)
+// themselves: pipes, sockets and the panel are close-on-exec. The child, -1 when there is none.
+static pid_t popen_run(const char* cmd, int end, int standard)
 {
-    if (end == standard)
-        fcntl(end, F_SETFD, 0);
-    else
-        dup2(end, standard);
-    execl("/bin/sh", "sh", "-c", cmd, static_cast<char*>(nullptr));
-    _exit(127);
+    char shell[] = "sh", option[] = "-c";
+    char* const words[] = {shell, option, const_cast<char*>(cmd), nullptr};
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, end, standard);
+    pid_t pid = -1;
+    const int error = posix_spawn(&pid, "/bin/sh", &actions, nullptr, words, environ);
+    posix_spawn_file_actions_destroy(&actions);
+    return error == 0 ? pid : -1;
 }
 
 FILE* ktr_popen(const char* cmd, const char* type)
@@ -207,9 +235,7 @@ FILE* ktr_popen(const char* cmd, const char* type)
     const int theirs = pipe_fd[is_read ? 1 : 0];
 
     FILE* fp = mine < popen_size ? fdopen(mine, type) : nullptr;
-    const pid_t pid = fp ? fork() : -1;
-    if (pid == 0)
-        popen_run(cmd, theirs, is_read ? STDOUT_FILENO : STDIN_FILENO);
+    const pid_t pid = fp ? popen_run(cmd, theirs, is_read ? STDOUT_FILENO : STDIN_FILENO) : -1;
     close(theirs);
     if (pid < 0) {
         if (fp)
