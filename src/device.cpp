@@ -9,6 +9,7 @@
 #include "setup_index.h"
 #include "text.h"
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
@@ -317,8 +318,11 @@ static void seed(DEVICE& dev, const char* name, const char* id, const char* data
 static void seed_names(char (*names)[16], const char* prefix)
 {
     CopyText(names[0], "--");
-    for (int i = 1; i < UNIT_MAX; i++)
-        PrintText(names[i], "%s%d", prefix, i);
+    for (int i = 1; i < UNIT_MAX; i++) {
+        CopyText(names[i], prefix);
+        char* const number = names[i] + strlen(prefix);
+        *std::to_chars(number, names[i] + sizeof names[i] - 1, i).ptr = '\0';
+    }
 }
 
 void Device_Init()

@@ -1,6 +1,7 @@
 #include "display.h"
 #include <SDL.h>
 #include <SDL_syswm.h>
+#include <cstdlib>
 
 #include "safeguards.h"
 
@@ -13,15 +14,16 @@ static Display* window_system()
                                                                         : nullptr;
 }
 
+static Display* display = nullptr; // the library keeps it from its start to its end
+
 int Display_Descriptor()
 {
-    Display* display = window_system();
+    display = window_system();
     return display ? ConnectionNumber(display) : 0;
 }
 
 bool Display_HasEvents()
 {
-    Display* display = window_system();
     return display && QLength(display) > 0;
 }
 #else
@@ -35,3 +37,8 @@ bool Display_HasEvents()
     return false;
 }
 #endif
+
+void Display_Prepare()
+{
+    setenv("XCOMPOSEFILE", "/dev/null", 0);
+}

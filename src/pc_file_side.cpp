@@ -38,31 +38,33 @@ struct Side {
     bool has_regions = false;
     int rows = 0;
     int places = 0;
-    Place place[FILE_PLACES];
+    Place place[FILE_PLACES] = {};
     uint32_t search = NOT_SEARCHING; // label of the find whose rows belong here
-    FILELIST row[ROWS_MAX];
-    FILECELL cell[CELLS_MAX]; // of row r and place p at r * places + p; without an id it is free
-    bool used[CELLS_MAX];
-    char no_text[ROWS_MAX][8];
-    char odd[ODD_MAX][PATH_SIZE]; // with the host
+    FILELIST row[ROWS_MAX] = {};
+    FILECELL cell[CELLS_MAX] =
+        {}; // of row r and place p at r * places + p; without an id it is free
+    bool used[CELLS_MAX] = {};
+    char no_text[ROWS_MAX][8] = {};
+    char odd[ODD_MAX][PATH_SIZE] = {}; // with the host
     int odds = 0;
 
     // Of a kind with folders. Its cells stand one after the other, in the order of their rows.
     bool has_folder_rows = false;
-    int pause_ms = 0;                       // until the list follows the catalogue again
-    bool is_stale = false;                  // the catalogue has changed
-    uint32_t folder_search = NOT_SEARCHING; // label of the list of folders
-    int folders = 0;                        // with the default one, which is the first
-    char shown[64];                         // whose rows these are
-    bool was_selected[2 * FMEM_EXTENDED];   // registers, while their rows are made anew
-    int was_now = 0;                        // the first of them, -1 none
-    int frames = 0;                         // cells in use
-    char folder[FOLDER_ROWS][FRAME_FOLDER_SIZE];
-    char folder_text[FOLDER_ROWS][sizeof BEHIND_MARK + FRAME_FOLDER_SIZE];
+    int pause_ms = 0;                          // until the list follows the catalogue again
+    bool is_stale = false;                     // the catalogue has changed
+    uint32_t folder_search = NOT_SEARCHING;    // label of the list of folders
+    int folders = 0;                           // with the default one, which is the first
+    char shown[64] = "";                       // whose rows these are
+    bool was_selected[2 * FMEM_EXTENDED] = {}; // registers, while their rows are made anew
+    int was_now = 0;                           // the first of them, -1 none
+    int frames = 0;                            // cells in use
+    char folder[FOLDER_ROWS][FRAME_FOLDER_SIZE] = {};
+    char folder_text[FOLDER_ROWS][sizeof BEHIND_MARK + FRAME_FOLDER_SIZE] = {};
 };
 } // namespace
 
-static Side sides[FILE_SIDES];
+// All zeros, known to the compiler: else the start would fill four megabytes with them.
+constinit static Side sides[FILE_SIDES] = {};
 
 static int list_id(const Side& s)
 {

@@ -47,6 +47,7 @@ static bool start_has_data_disk()
 
 static void start_video(int depth)
 {
+    Display_Prepare();
     if (SDL_Init(SDL_INIT_TIMER | SDL_INIT_VIDEO) < 0) {
         printf("Couldn't initialize SDL: %s\n", SDL_GetError());
         exit(1);

@@ -204,13 +204,15 @@ static void draw_fill(const Rect& r, uint32_t pixel)
 // An empty full-screen surface in display format; null when memory is out.
 static SDL_Surface* create_screen_surface()
 {
-    SDL_Surface* made = SDL_CreateRGBSurface(SDL_SRCALPHA, ScreenX, ScreenY, 32, 0xFF0000, 0x00FF00,
-                                             0x0000FF, 0xFF000000);
+    const SDL_PixelFormat& f = *Screen->format;
+    SDL_Surface* made = SDL_CreateRGBSurface(SDL_SWSURFACE, ScreenX, ScreenY, f.BitsPerPixel,
+                                             f.Rmask, f.Gmask, f.Bmask, 0);
     if (!made)
         return nullptr;
-    SDL_Surface* converted = SDL_DisplayFormat(made);
-    SDL_FreeSurface(made);
-    return converted;
+    if (f.palette)
+        SDL_SetColors(made, f.palette->colors, 0, f.palette->ncolors);
+    SDL_SetAlpha(made, SDL_SRCALPHA, SDL_ALPHA_OPAQUE);
+    return made;
 }
 
 int TDL_Init(SDL_Surface* scrn)
