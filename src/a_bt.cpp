@@ -25,9 +25,16 @@ constexpr int PUSHED_MS = 150;           // long enough to be seen, over before 
 constexpr int PUSHED_LONG_MS = 1000;     // the copies of this page run that long
 constexpr uint32_t SETUP_BANK = 0x73;
 constexpr uint32_t PAGE_LONG_ACTIONS = 0x31160000;
+
+struct Texts {
+    char cmd[BT_COMMANDS][CMD_SIZE];
+    char cmd_var[BT_COMMANDS][CMD_SIZE];
+    char tally[BT_COMMANDS][CMD_SIZE];
+};
 } // namespace
 
 static BT_MEM Button[BT_MAX + 1]; // the last one in use has an id of -1
+static Texts texts[BT_MAX];       // of the button in the same place
 static int ButtonMax = 0;
 static int NBAssign = -1;     // the button that owns the knobs
 static int PushedButton = -1; // the last one pressed
@@ -226,8 +233,11 @@ static void decode_command(BT_MEM& b, int n, const char* command)
 }
 
 // The buffers are 24 KB a button: each is emptied by its first byte.
-static void fill_button(BT_MEM& b, const BT_TBL& row)
+static void fill_button(BT_MEM& b, Texts& text, const BT_TBL& row)
 {
+    b.cmd = text.cmd;
+    b.cmd_var = text.cmd_var;
+    b.tally = text.tally;
     b.id = row.id;
     b.caption = row.caption;
     b.group = row.group;
@@ -276,7 +286,7 @@ int BT_Create(const BT_TBL* table, int)
             Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for BT Objects!!\n");
             break;
         }
-        fill_button(Button[ButtonMax], *row);
+        fill_button(Button[ButtonMax], texts[ButtonMax], *row);
         widen_area(Button[ButtonMax]);
         ButtonMax++;
     }

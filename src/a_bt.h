@@ -72,10 +72,11 @@ struct BT_MEM {
     int (*select_func)(BT_MEM*) = nullptr;
     int (*draw_func)(BT_MEM*) = nullptr;
     int (*tally_func)(BT_MEM*, int, const char*, const char*) = nullptr;
-    char cmd[BT_COMMANDS][CMD_SIZE] = {}; // expanded path, without "#value"
-    char cmd_var[BT_COMMANDS][CMD_SIZE] = {};
+    // The texts, BT_COMMANDS of each, lie apart: every pass looks at all buttons and at no text.
+    char (*cmd)[CMD_SIZE] = nullptr; // expanded path, without "#value"
+    char (*cmd_var)[CMD_SIZE] = nullptr;
+    char (*tally)[CMD_SIZE] = nullptr;
     uint32_t cmd_hash[BT_COMMANDS] = {}; // all bits set for an empty slot
-    char tally[BT_COMMANDS][CMD_SIZE] = {};
     const NB_TBL* nb = nullptr;
     int disable[BT_COMMANDS] = {}; // verdicts of the conditions; [7] is also page code's own
     int undecided = 0;

@@ -232,7 +232,10 @@ int InfoProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
         if (ax && bx)
             info_tally(Text(ax), Text(bx));
         break;
-    case MSG_REDRAW: info_decay(int(ax)); break;
+    case MSG_REDRAW: // of those below one only has a clock
+        info_decay(int(ax));
+        menu_macro_run_proc(msg, ax, bx, cx, dx);
+        return 0;
     case LMSG_FILESTATUS:
     case LMSG_FINDSTATUS: info_auto_load_find(msg, ax, bx, cx, dx); break;
     default: break;

@@ -42,7 +42,10 @@ constexpr int PASS_MS = 10;
 constexpr int ELAPSED_MAX_MS = 5000; // no timer ever sees a larger step
 constexpr int SELFDIAG_MS = 5000;
 constexpr int MOTIONS_A_PASS = 9;
-constexpr int DISPLAY_PASSES = 3; // the period of a key that repeats
+// Between two questions of the display: while a key is held, which repeats in that time, and in any
+// case.
+constexpr int KEY_PASSES = 3;
+constexpr int DISPLAY_PASSES = 16;
 constexpr uint32_t STAGE0_PASSES = 100;
 constexpr uint32_t STAGE1_PASSES = 300;
 constexpr uint32_t STAGE2_PASSES = 2000;
@@ -63,6 +66,8 @@ constexpr Stage stages[] = {
 static struct {
     int selfdiag_ms = 0;             // gathered since the last poll
     int display_passes = 0;          // since the display was asked
+    int held_key = SDLK_UNKNOWN;     // the last one that went down
+    bool is_drained = false;         // the library's queue: nothing waits in it
     uint32_t event_check_before = 0; // TickBefore of MainEventCheck
     LoopFigures figures;
     bool armed[sizeof stages / sizeof *stages] = {}; // by stage
@@ -232,7 +237,14 @@ static void loop_button_down(const SDL_MouseButtonEvent& b)
 void Loop_Event(SDL_Event* event)
 {
     switch (event->type) {
-    case SDL_KEYDOWN: loop_key(event->key); break;
+    case SDL_KEYDOWN:
+        loop.held_key = event->key.keysym.sym;
+        loop_key(event->key);
+        break;
+    case SDL_KEYUP:
+        if (event->key.keysym.sym == loop.held_key)
+            loop.held_key = SDLK_UNKNOWN;
+        break;
     case SDL_MOUSEMOTION: loop_motion(event->motion); break;
     case SDL_MOUSEBUTTONDOWN: loop_button_down(event->button); break;
     // A release always goes out, even when its press was filtered; MBDown falls with an empty queue
@@ -243,16 +255,29 @@ void Loop_Event(SDL_Event* event)
 }
 
 // To ask the display for events takes the library four calls of the kernel, each pass. One that has
-// told of none is asked now and then only: the library's own clock repeats a key that is held.
-// Where the driver does not say how it tells, it is always asked.
+// told of none is asked now and then only: the library's own clock repeats a key that is held, and
+// what was read along with the answer to a flush is told by nothing. Where the driver does not say
+// how it tells, it is always asked.
+static bool loop_asks_display()
+{
+    const int passes = loop.held_key == SDLK_UNKNOWN ? DISPLAY_PASSES : KEY_PASSES;
+    const bool has_flushed = TDL_HasFlushed();
+    const bool is_due = ++loop.display_passes >= passes;
+    const bool is_touched = Touch_FD >= 0 && !Ready_IsQuiet(READY_TOUCH); // the pointer follows
+    return !Ready_IsQuiet(READY_DISPLAY) || Display_HasEvents() || has_flushed || is_touched ||
+           is_due;
+}
+
+// Whoever pushes an event himself is the touch panel, when it was not quiet.
 static bool loop_take_event(SDL_Event* event)
 {
-    if (!Ready_IsQuiet(READY_DISPLAY) || Display_HasEvents() ||
-        ++loop.display_passes >= DISPLAY_PASSES) {
+    if (loop_asks_display()) {
         loop.display_passes = 0;
-        return SDL_PollEvent(event) == 1;
+        loop.is_drained = SDL_PollEvent(event) != 1;
+    } else if (!loop.is_drained || !Ready_IsQuiet(READY_TOUCH)) {
+        loop.is_drained = SDL_PeepEvents(event, 1, SDL_GETEVENT, SDL_ALLEVENTS) != 1;
     }
-    return SDL_PeepEvents(event, 1, SDL_GETEVENT, SDL_ALLEVENTS) == 1;
+    return !loop.is_drained;
 }
 
 // One event a pass. Returns true when the window was closed.

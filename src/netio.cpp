@@ -218,6 +218,8 @@ static void text_log_received()
 // line.
 char* Net_ReceiveCommand()
 {
+    if (!RBuf[0] && SockFD1 > 0 && Ready_IsQuiet(READY_TEXT))
+        return nullptr; // at rest, which is most passes
     text_skip_ends();
     if (!net_has_line(RBuf, text_is_end)) {
         text_fill();

@@ -140,6 +140,8 @@ int net_take_frame(unsigned char* buf, int* fill, unsigned char* frame)
 const unsigned char* Net_ReceiveBinCommand(int* length)
 {
     *length = 0;
+    if (BBufPos == 0 && SockFD2 > 0 && Ready_IsQuiet(READY_BIN))
+        return nullptr; // at rest
     int size = net_take_frame(BBuf, &BBufPos, RBCmd);
     if (size == 0) {
         bin_fill();

@@ -196,6 +196,10 @@ int Net_TakeHubLoss()
 // An empty line (an end at the front of the buffer) is dropped and ends this pass's reading.
 char* Net_ReceiveSHPCommand()
 {
+    const bool has_none =
+        SockFD_SHP > 0 ? Ready_IsQuiet(READY_HUB) : !GL_ClipStoreSupportMode; // at rest
+    if (!RBuf_SHP[0] && has_none)
+        return nullptr;
     if (!net_has_line(RBuf_SHP, net_is_hub_end))
         hub_fill();
     const int length = net_take_line(RBuf_SHP, RCmd_SHP, net_is_hub_end);

@@ -6,8 +6,8 @@
 enum Ready : int { READY_TEXT, READY_BIN, READY_HUB, READY_TOUCH, READY_DISPLAY, READY_OWNERS };
 
 // The owner's descriptor from now on, and what it waits for: POLLIN, POLLOUT for a connection that
-// is being made. 0 or less: it has none. Until the next question it counts as one that has not been
-// asked for.
+// is being made. 0 or less: it has none, which is also to be told of one that has been closed.
+// Until the next question it counts as one that has not been asked for.
 void Ready_Watch(Ready owner, int fd, short events = POLLIN);
 // The question, without waiting: once a pass, before anything is read.
 void Ready_Ask();

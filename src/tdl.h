@@ -28,6 +28,8 @@ void TDL_Release();
 void TDL_Show();
 // Every verb paints at once, also within a hold: slower, and the same pixels at each release.
 void TDL_PaintAtOnce(bool on);
+// Whether something has been handed to the display since the last question.
+bool TDL_HasFlushed();
 // Told of every rectangle that is handed to the display; null: nobody.
 void TDL_WatchFlush(void (*watch)(int x, int y, int w, int h));
 

@@ -23,6 +23,7 @@ static struct {
     SDL_Surface* shown_of = nullptr;
     SDL_Rect run[RUNS];
     int runs = 0;
+    bool has_flushed = false; // since somebody asked
     void (*watch)(int x, int y, int w, int h) = nullptr;
 } flush;
 
@@ -44,6 +45,13 @@ void TDL_WatchFlush(void (*watch)(int x, int y, int w, int h))
     flush.watch = watch;
 }
 
+bool TDL_HasFlushed()
+{
+    const bool has_flushed = flush.has_flushed;
+    flush.has_flushed = false;
+    return has_flushed;
+}
+
 // --- Handing over ---
 
 static void hand_over()
@@ -51,8 +59,10 @@ static void hand_over()
     if (flush.watch)
         for (int i = 0; i < flush.runs; i++)
             flush.watch(flush.run[i].x, flush.run[i].y, flush.run[i].w, flush.run[i].h);
-    if (flush.runs > 0)
+    if (flush.runs > 0) {
+        flush.has_flushed = true;
         SDL_UpdateRects(Screen, flush.runs, flush.run);
+    }
     flush.runs = 0;
 }
 
@@ -81,6 +91,7 @@ static bool begin_display()
     flush.shown_of = flush.shown ? Screen : nullptr;
     if (flush.watch)
         flush.watch(0, 0, ScreenX, ScreenY);
+    flush.has_flushed = true;
     SDL_UpdateRect(Screen, 0, 0, 0, 0);
     return true;
 }
@@ -202,6 +213,7 @@ void tdl_flush(const Rect& r)
     remember(part);
     if (flush.watch)
         flush.watch(part.x1, part.y1, part.x2 - part.x1 + 1, part.y2 - part.y1 + 1);
+    flush.has_flushed = true;
     SDL_UpdateRect(Screen, part.x1, part.y1, uint32_t(part.x2 - part.x1 + 1),
                    uint32_t(part.y2 - part.y1 + 1));
 }
