@@ -206,6 +206,7 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
     const std::string root = "FMEMFOL/";
     FMCtrl_InitClipStillList();
     Deliver("16@Frame Mem@Status@Folder Name Sense", "0,Default.,1,Old,3,Gone");
+    Deliver("Frame Mem@Status@Extended Capacity", "1");
     AutoLoad_DataExist("SWR1");
     auto searches = Searches();
     const uint32_t list = searches.at(root);
@@ -237,9 +238,11 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
     Strings all;
     const auto items = Start("SWR1", &all);
     const std::string staging = "MYHOST:/var/tmp/FMXfer/" + std::string(DEV_MySwr[0]->id);
-    ASSERT_EQ(items.size(), 2u) << testing::PrintToString(all);
+    ASSERT_EQ(items.size(), 3u) << testing::PrintToString(all);
     EXPECT_EQ(items.begin()->first,
               root + "DEFAULT" + sub + "Mbars.FMEM_009.SFM," + staging + "Mbars.FMEM_001.SF2");
+    EXPECT_EQ(std::next(items.begin())->first,
+              root + "Sport" + sub + "Mextra.FMEX_001.SFM," + staging + "Mextra.FMEX_001.SF2");
     EXPECT_EQ(items.rbegin()->first,
               root + "Sport" + sub + "Mgoal.FMEM_200.SFA," + staging + "Mgoal.FMEM_002.SF4");
     for (const char* step : {"compressed", "stored", "staging removed"})

@@ -53,7 +53,6 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"Info@DME@RefCH", "1F", &SYS_DMEReference, 0x1F},
         {"MPE@Fx@Channel@Reference", "11", &SYS_MPEReference, 3}, // binary digits
         {"MPE@Fx@Channel@Selected", "1a", &SYS_MPEChannel, 0x1A},
-        {FORMAT "Video Format2@SWR1", "3,6,2", &DEV_Swr[0].format_freq, 6},
         {FORMAT "Video Format2@SWR1", "3,15,2", &DEV_Swr[0].format_freq, 15},
         {FORMAT "Video Format2@SWR1", "3,16,2", &DEV_Swr[0].format_freq, 15},
         {FORMAT "DME Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[1], 1},
@@ -61,6 +60,7 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {FORMAT "DME Aspect", "DME1,4:9,16:9", &DEV_Dme[0].aspect[0], 1},
         {FORMAT "Reference@SWR1", "Tri", &DEV_Swr[0].refinputformat, 0},
         {FORMAT "4K Mode", "On", &SYS_4KMode, 1},
+        {SYSTEM_CONFIG "Panel Assign", "0,7,8,0,0,0", &SYS_PnlAssign[0][1], 8},
         {SYSTEM_CONFIG "Switcher Assign", "2,3,4,5,262", &SYS_SwrAssign[2][3], 6},
         {SYSTEM_CONFIG "Switcher Assign", "2,9,9,9", &SYS_SwrAssign[2][0], 3}, // a part is missing
         {SYSTEM_CONFIG "Switcher Assign", "KILL", &SYS_SwrAssign[2][3], 0},
@@ -163,6 +163,8 @@ TEST_F(BusTally, TheOwnAddressEndsInThePanelNumber)
         Deliver("Info@IP Address@Menu CPU", rubbish);
     EXPECT_EQ(SYS_MyPnl, 2);
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    Deliver("Info@IP Address@Menu CPU", "10.129.1.0");
+    EXPECT_EQ(SYS_MyPnl, 0) << "of no panel";
 }
 
 TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)

@@ -77,8 +77,6 @@ TEST_F(PageTest, OpeningAPageTakesItsRow)
         EXPECT_THAT(sent, Contains(command));
     EXPECT_TRUE(IsObjetype(OBJ_BT));
     EXPECT_FALSE(IsObjetype(OBJ_KP));
-    EXPECT_EQ(Page->id, 0x12210000u);
-    EXPECT_EQ(GL_NowTree, Page->tree);
     EXPECT_STREQ(GL_NowTree[1], "Key2");
     EXPECT_EQ(MeKeyTpye, 1);
     EXPECT_EQ(GL_OmoteNowPage, 0x12210000u);
