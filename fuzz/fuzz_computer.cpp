@@ -79,8 +79,10 @@ static void Panel(const char* path)
 {
     char name[PATH_SIZE] = "";
     if (Touch_DeviceName(name, sizeof name)) {
-        CheckText(name);
-        Check(name[0] != '\0');
+        const size_t length = strnlen(name, sizeof name);
+        Check(length > 0 && length < sizeof name);
+        for (size_t i = 0; i < length; i++)
+            Check(uint8_t(name[i]) >= ' ');
     }
     Check(access(path, F_OK) != 0);
 }
