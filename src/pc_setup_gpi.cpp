@@ -191,12 +191,19 @@ static void rename_targets()
     char name[SHEET_TEXT];
     const SETUPTABLE& t = *gp.table;
     const int action = action_column(), target = action + 1;
+    bool is_other = false;
     for (int row = 0; row < gp.sheet->rows; row++) {
         rename_target(SetupPage_Told(t, row, action), SetupPage_Told(t, row, target), name);
-        SetupPage_Take(t, row, target, name);
+        if (!Same(name, SetupPage_Told(t, row, target))) {
+            SetupPage_Take(t, row, target, name);
+            is_other = true;
+        }
         rename_target(SetupPage_Text(t, row, action), SetupPage_Text(t, row, target), name);
-        SetupPage_Set(t, row, target, name);
+        if (!Same(name, SetupPage_Text(t, row, target)))
+            SetupPage_Set(t, row, target, name);
     }
+    if (is_other)
+        SetupPage_Show(t);
 }
 
 // A line a bank: "M/E-1,Key3 Key PVW".
