@@ -49,8 +49,9 @@ struct PAGE {
     int knobassign = 0;                 // button that owns the knobs; written at run time
 };
 
-extern PAGE* const PageTable;    // the rows; the last has id PAGE_END
-extern const int PageTable_Rows; // with that last row
+extern PAGE* const PageTable;      // the rows; the last has id PAGE_END
+extern const int PageTable_Rows;   // with that last row
+PAGE* PageTable_Find(uint32_t id); // the row with this id, null when there is none
 
 struct TOPMENU {
     const char* caption = nullptr;
@@ -109,6 +110,16 @@ uint32_t Page_FirstOfTab(uint32_t id);
 
 // Whether CreatePage would open a page for the request.
 bool Page_Exists(uint32_t id);
+// Whether a key or tab that asks for the page leads nowhere in this installation: it is shown as
+// one that can't be used and takes no press. 0, which asks for nothing, is not missing.
+bool Page_IsMissing(uint32_t id);
+// When an object last looked which of its keys lead nowhere. What that follows from is told by a
+// dozen modules: they are asked when a page opens and twice a second after, which is cheap.
+struct PageLook {
+    int left_ms = 0;
+};
+// True when it is time to look anew; elapsed_ms since the last call.
+bool PageLook_IsDue(PageLook& look, int elapsed_ms);
 // The page itself where it exists, else its tab, its menu, the top menu.
 uint32_t Page_Nearest(uint32_t id);
 

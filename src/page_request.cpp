@@ -110,6 +110,21 @@ bool Page_Exists(uint32_t id)
     return SearchPageTable(page_correct_request(id)) != nullptr;
 }
 
+bool Page_IsMissing(uint32_t id)
+{
+    return id != 0 && !Page_Exists(id);
+}
+
+bool PageLook_IsDue(PageLook& look, int elapsed_ms)
+{
+    constexpr int LOOK_MS = 500;
+    look.left_ms -= elapsed_ms;
+    if (look.left_ms > 0)
+        return false;
+    look.left_ms = LOOK_MS;
+    return true;
+}
+
 uint32_t Page_Nearest(uint32_t id)
 {
     const uint32_t candidates[] = {id, id & 0xFFFF0000, (id & PAGE_BANK_BITS) | 0x00110000};

@@ -495,26 +495,26 @@ uint32_t ResolvePageId(uint32_t id)
     return is_hidden(id) ? 0 : id;
 }
 
-static PAGE* find_row(PAGE* table, uint32_t id)
+static bool is_out_of_walk(uint32_t id)
 {
+    constexpr uint32_t ids[] = {0x71720000, 0x71730000, 0x73160005, 0x73160010, 0x73270001};
+    return std::find(std::begin(ids), std::end(ids), id) != std::end(ids);
+}
+
+PAGE* SearchPageTable_Free_ALL(PAGE* table, uint32_t id)
+{
+    if (is_out_of_walk(id))
+        return nullptr;
     for (PAGE* row = table; row->id != PAGE_END; row++)
         if (row->id == id)
             return row;
     return nullptr;
 }
 
-PAGE* SearchPageTable_Free_ALL(PAGE* table, uint32_t id)
-{
-    for (uint32_t none : {0x71720000u, 0x71730000u, 0x73160005u, 0x73160010u, 0x73270001u})
-        if (id == none)
-            return nullptr;
-    return find_row(table, id);
-}
-
 PAGE* SearchPageTable(uint32_t id)
 {
     if (GL_AllPageDisplayMode)
-        return SearchPageTable_Free_ALL(PageTable, id);
+        return is_out_of_walk(id) ? nullptr : PageTable_Find(id);
     id = ResolvePageId(id);
-    return id ? find_row(PageTable, id) : nullptr;
+    return id ? PageTable_Find(id) : nullptr;
 }

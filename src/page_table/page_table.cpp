@@ -63,6 +63,8 @@
 #include "system.h"
 #include "texture.h"
 #include "top.h"
+#include <algorithm>
+#include <iterator>
 
 // The rows that a template of pages makes for all banks, or for the keys of all banks.
 template <const auto& pages> constexpr auto OfBanks = BankRows<BankRowCount(pages)>(pages);
@@ -163,3 +165,18 @@ static constexpr AllRows JoinRows()
 static constinit AllRows all_rows = JoinRows();
 constinit PAGE* const PageTable = all_rows.row;
 const int PageTable_Rows = int(page_rows);
+
+// Every key and tab of a page asks whether its page exists: a walk over half a megabyte of rows for each of them would
+// take longer than the rest of the page.
+static PAGE* rows_by_id[page_rows - 1];
+
+PAGE* PageTable_Find(uint32_t id)
+{
+    constexpr auto is_before = [](const PAGE* row, uint32_t wanted) { return row->id < wanted; };
+    if (!rows_by_id[0]) {
+        for (size_t n = 0; n < std::size(rows_by_id); n++) rows_by_id[n] = &all_rows.row[n];
+        std::sort(std::begin(rows_by_id), std::end(rows_by_id), [](const PAGE* a, const PAGE* b) { return a->id < b->id; });
+    }
+    PAGE* const* const at = std::lower_bound(std::begin(rows_by_id), std::end(rows_by_id), id, is_before);
+    return at != std::end(rows_by_id) && (*at)->id == id ? *at : nullptr;
+}
