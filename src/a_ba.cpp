@@ -248,11 +248,20 @@ static void step_mpe_reference()
     Net_SendCommandFormat("put MPE@Fx@Channel@Reference#%s", digits);
 }
 
+// The section's top page; the error's text says to touch it.
+static uint32_t title_target()
+{
+    if (GL_ErrorPopup_On)
+        return GL_ErrorExist ? PAGE_ERRORS : PAGE_ERRORS_GONE;
+    return GL_NowPage & 0xFF000000;
+}
+
+// In a section without a top page the band is a title and no key.
 static void press_title()
 {
-    if (BeginsWith(section(), "MPE") && !GL_ErrorPopup_On) // the error's text says to touch it
+    if (BeginsWith(section(), "MPE") && !GL_ErrorPopup_On)
         step_mpe_reference();
-    else
+    else if (!Page_IsMissing(title_target()))
         push(ba.Title);
 }
 
@@ -351,10 +360,7 @@ static int press_file(int x, int y)
 
 static void title_action()
 {
-    if (GL_ErrorPopup_On)
-        GL_CreatePage = GL_ErrorExist ? PAGE_ERRORS : PAGE_ERRORS_GONE;
-    else
-        GL_CreatePage = GL_NowPage & 0xFF000000;
+    GL_CreatePage = title_target();
 }
 
 static void mainsub_action()
@@ -367,13 +373,19 @@ static void keychange_action()
     GL_CreatePage = isNowPageMeKey(0) == 1 ? GL_NowPage + TO_SUB_BANK : GL_NowPage - TO_SUB_BANK;
 }
 
+// It may have gone with its bank since.
+static void open_what_was_before(uint32_t page)
+{
+    GL_CreatePage = page ? Page_Nearest(page) : 0;
+}
+
 static void prev_action()
 {
     if (ba_records_menu_macro() && GL_NowPage != PAGE_MENU_MACRO) {
         if (!GL_MenuMacro_AT_Store)
             mm_event_insert();
     } else {
-        GL_CreatePage = ba.Base.info[0] == 2 ? ba.ParentPage : GL_PrevPage;
+        open_what_was_before(ba.Base.info[0] == 2 ? ba.ParentPage : GL_PrevPage);
     }
 }
 

@@ -43,6 +43,7 @@ static int MinX = 65535;      // the box round all buttons; a press outside it i
 static int MinY = 65535;
 static int MaxX = 0;
 static int MaxY = 0;
+static PageLook Look;
 
 static std::span<BT_MEM> buttons()
 {
@@ -60,6 +61,11 @@ BT_MEM* bt_find(int id)
         if (b.id == id)
             return &b;
     return nullptr;
+}
+
+bool bt_is_enabled(const BT_MEM* b)
+{
+    return b->visible == BT_ENABLED && !b->is_missing;
 }
 
 // --- Who owns the knobs ---
@@ -232,6 +238,21 @@ static void decode_command(BT_MEM& b, int n, const char* command)
     b.cmd_hash[n] = *path ? Hash(path) : NO_HASH;
 }
 
+static void look_for_page(BT_MEM& b)
+{
+    const bool is_missing = Page_IsMissing(bt_target(&b));
+    if (b.is_missing == is_missing)
+        return;
+    b.is_missing = is_missing;
+    b.redraw = 1;
+}
+
+static void look_for_pages()
+{
+    for (BT_MEM& b : buttons())
+        look_for_page(b);
+}
+
 // The buffers are 24 KB a button: each is emptied by its first byte.
 static void fill_button(BT_MEM& b, Texts& text, const BT_TBL& row)
 {
@@ -250,6 +271,7 @@ static void fill_button(BT_MEM& b, Texts& text, const BT_TBL& row)
     b.pushed = 0;
     b.status = BT_NO_TALLY;
     b.visible = BT_ENABLED;
+    b.is_missing = false;
     b.select_func = row.select_func;
     b.draw_func = row.draw_func;
     b.tally_func = row.tally_func;
@@ -261,6 +283,7 @@ static void fill_button(BT_MEM& b, Texts& text, const BT_TBL& row)
         b.disable[n] = 0;
         decode_command(b, n, row.cmd[n]);
     }
+    look_for_page(b);
 }
 
 static void forget_buttons()
@@ -338,7 +361,7 @@ static int press(int x, int y)
     if (!Inside({MinX, MinY, MaxX, MaxY}, x, y) || BA_IsDefaultButton())
         return 0;
     for (BT_MEM& b : buttons())
-        if (b.visible == BT_ENABLED && Inside({b.x1, b.y1, b.x2, b.y2}, x, y)) {
+        if (bt_is_enabled(&b) && Inside({b.x1, b.y1, b.x2, b.y2}, x, y)) {
             if (is_refused(b))
                 BA_FlashSetupLock();
             else
@@ -373,6 +396,8 @@ static int redraw(int elapsed_ms)
     if (RedrawAll)
         redraw_all(1);
     RedrawAll = 0;
+    if (PageLook_IsDue(Look, elapsed_ms))
+        look_for_pages();
     for (BT_MEM& b : buttons()) {
         if (b.redraw && b.draw_func)
             b.draw_func(&b);
@@ -562,6 +587,7 @@ static int replace_command(BT_MEM* b, int n, const char* cmd, int no_add, const 
     b->no_add = no_add;
     b->status = BT_NO_TALLY;
     b->redraw = 1;
+    look_for_page(*b);
     if (b->cmd[n][0] && !IsLocal(b->cmd[n]))
         Net_SendCommandFormat("%s %s", verb, b->cmd[n]);
     return 0;

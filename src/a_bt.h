@@ -69,6 +69,7 @@ struct BT_MEM {
     int pushed = 0; // ms for which it still looks pushed
     int status = BT_NO_TALLY;
     int visible = BT_ENABLED;
+    bool is_missing = false; // all it does is ask for a page, and this installation lacks that
     int (*select_func)(BT_MEM*) = nullptr;
     int (*draw_func)(BT_MEM*) = nullptr;
     int (*tally_func)(BT_MEM*, int, const char*, const char*) = nullptr;
@@ -112,7 +113,7 @@ int BT_SetPosition(int id, int x1, int y1, int x2, int y2);
 int BT_SetStatus(int id, int status); // -1 when unknown
 int BT_GetStatus(int id);             // -1 when unknown
 int BT_GetOnOff(int id);
-int BT_GetVisible(int id); // -1 when unknown
+int BT_GetVisible(int id); // as page code and the tallies have it; -1 when unknown
 int BT_SetKnob(int id, const NB_TBL* nb);
 int BT_GetKnobAssign(); // the button that owns the knobs, -1 none
 int BT_SetKnobAssign(int id);
@@ -165,8 +166,10 @@ int bt_tly_freeze(BT_MEM* b, int i, const char* path, const char* value);
 int bt_tly_corner_pinning(BT_MEM* b, int i, const char* path, const char* value);
 
 // --- Between a_bt and its families ---
-BT_MEM* bt_first();      // the buttons in table order, ended by an id below 1
-BT_MEM* bt_find(int id); // null when no button has it
+BT_MEM* bt_first();                  // the buttons in table order, ended by an id below 1
+BT_MEM* bt_find(int id);             // null when no button has it
+bool bt_is_enabled(const BT_MEM* b); // takes a press
+uint32_t bt_target(const BT_MEM* b); // the page that a press asks for where it does no more; else 0
 bool bt_owns_knobs(const BT_MEM* b);
 bool bt_was_pushed_last(const BT_MEM* b);
 void bt_take_knobs(BT_MEM* b); // b becomes the owner and shows its table

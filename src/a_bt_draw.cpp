@@ -180,7 +180,7 @@ static unsigned state_colour(const BT_MEM* b)
 {
     if (b->status == BT_ON || b->status == BT_THIRD)
         return BLACK;
-    return b->visible != BT_ENABLED ? GREY : WHITE;
+    return bt_is_enabled(b) ? WHITE : GREY;
 }
 
 static Chosen choose(const BT_MEM* b, const Faces& of)
@@ -188,7 +188,7 @@ static Chosen choose(const BT_MEM* b, const Faces& of)
     const Look look = look_of(b);
     Chosen c{.top = of.top, .font = of.font};
     unsigned col;
-    if (b->visible != BT_ENABLED) {
+    if (!bt_is_enabled(b)) {
         c.bitmap = *of.dis[look];
         col = of.col_dis;
     } else if (b->pushed) {
@@ -199,7 +199,7 @@ static Chosen choose(const BT_MEM* b, const Faces& of)
         col = of.col_up;
     }
     c.col = col == AS_STATE ? state_colour(b) : col;
-    if (of.type == BT_PULLDOWN && b->visible == BT_ENABLED && b->caption &&
+    if (of.type == BT_PULLDOWN && bt_is_enabled(b) && b->caption &&
         strcmp(b->caption, "Register") == 0)
         c.col = ORANGE;
     return c;
@@ -209,7 +209,7 @@ static Chosen choose(const BT_MEM* b, const Faces& of)
 static void put_icon(const BT_MEM* b, int x, int y, SDL_Surface* icon)
 {
     constexpr unsigned char DIM = 70; // of 255
-    if (b->visible == BT_ENABLED)
+    if (bt_is_enabled(b))
         TDL_PutS(b->x1 + x, b->y1 + y, icon);
     else
         TDL_PutAS(b->x1 + x, b->y1 + y, icon, DIM);
@@ -341,7 +341,7 @@ static void draw_face(const BT_MEM* b, const Chosen& c)
 
 static void draw_undecided(const BT_MEM* b)
 {
-    if (!b->undecided || b->visible != BT_ENABLED)
+    if (!b->undecided || !bt_is_enabled(b))
         return;
     const int x = b->x1 + pushed_by(b);
     const int y = b->y1 + pushed_by(b);
@@ -496,7 +496,7 @@ int bt_drw_color_select(BT_MEM* b)
     const int color = get_now_btn_color(b->id);
     const bool none = color < 0 || color >= COLOR_NONE;
     Chosen c = choose(b, faces_by_type(none ? BT_ACTION : BT_JUMP));
-    if (!none && b->visible == BT_ENABLED)
+    if (!none && bt_is_enabled(b))
         c.bitmap = *color_faces[color][pushed_by(b)];
     draw_face(b, c);
     return finish(b);
@@ -540,7 +540,7 @@ template <size_t N> static int draw_transport(BT_MEM* b, const TransportIcon (&i
     for (const TransportIcon& t : icons) {
         if (t.id != b->id)
             continue;
-        if (t.icon_dis && b->visible != BT_ENABLED)
+        if (t.icon_dis && !bt_is_enabled(b))
             TDL_PutS(b->x1 + t.x, b->y1 + t.y, *t.icon_dis);
         else
             put_icon(b, t.x + p, t.y + p, *t.icon);

@@ -47,12 +47,23 @@ static uint32_t hex_page(const char* text)
 }
 
 // "11730000" is a page as it stands, "+11110001" the same page of the bank and key that are shown.
-static void jump(const BT_MEM* b)
+static uint32_t jump_target(const BT_MEM* b)
 {
     uint32_t page = hex_page(b->cmd_var[0]);
     if (b->cmd_var[0][0] == '+')
         AddPageOffset(&page);
-    GL_CreatePage = page;
+    return page;
+}
+
+static bool is_jump(int type)
+{
+    switch (type) {
+    case BT_JUMP:
+    case BT_JUMP_10KEY:
+    case BT_JUMP_KEYBOARD:
+    case BT_JUMP_POPUP: return true;
+    default: return false;
+    }
 }
 
 int bt_sel_normal(BT_MEM* b)
@@ -67,11 +78,10 @@ int bt_sel_normal(BT_MEM* b)
     case BT_RADIO: send_value(b, b->cmd_var[0]); break;
     case BT_RADIO_RELEASE: send_value(b, b->status == BT_ON ? "null" : b->cmd_var[0]); break;
     case BT_ACTION: send_value(b, "true"); break;
-    case BT_JUMP:
-    case BT_JUMP_10KEY:
-    case BT_JUMP_KEYBOARD:
-    case BT_JUMP_POPUP: jump(b); break;
-    default: break;
+    default:
+        if (is_jump(b->type))
+            GL_CreatePage = jump_target(b);
+        break;
     }
     return 0;
 }
@@ -102,15 +112,29 @@ static uint32_t bank_offset()
     return bank ? MeBank_Offset(*bank) : 0;
 }
 
+static uint32_t bank_target(const BT_MEM* b)
+{
+    return hex_page(b->cmd_var[0]) + bank_offset();
+}
+
 int bt_sel_jmptokeypriority(BT_MEM* b)
 {
-    GL_CreatePage = hex_page(b->cmd_var[0]) + bank_offset();
+    GL_CreatePage = bank_target(b);
     return 0;
 }
 
 int bt_sel_submask_ptnsel(BT_MEM* b)
 {
     return bt_sel_jmptokeypriority(b);
+}
+
+uint32_t bt_target(const BT_MEM* b)
+{
+    if (b->nb || !b->cmd_var[0][0] || IsLocal(b->cmd[0]))
+        return 0;
+    if (b->select_func == bt_sel_jmptokeypriority || b->select_func == bt_sel_submask_ptnsel)
+        return bank_target(b);
+    return b->select_func == bt_sel_normal && is_jump(b->type) ? jump_target(b) : 0;
 }
 
 // The server changes the border together with others and reports only when asked.

@@ -35,12 +35,14 @@ struct HF_MEM {
     int stats = 0; // in use
     int redraw = 0;
     int display = 0;
+    bool is_missing = false;
 };
 } // namespace
 
 static TabList<HF_MEM, HF_MAX> Tabs;
 static int Selected = 0;
 static bool IsLow = false;
+static PageLook Look;
 
 static std::span<TabStatus> stats(HF_MEM& t)
 {
@@ -84,6 +86,11 @@ static void fill_tab(HF_MEM& t, const HF_TBL& row)
             t.stats++;
 }
 
+static void look_for_pages()
+{
+    TabList_LookForPages(Tabs, Selected, [](const HF_MEM& t) { return t.page; });
+}
+
 int HF_Create(const HF_TBL* table, uint32_t selected)
 {
     send_paths("remove");
@@ -94,6 +101,7 @@ int HF_Create(const HF_TBL* table, uint32_t selected)
     Selected = int(selected & ~HF_LOW);
     if (!TabList_Fill(Tabs, table, fill_tab))
         Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for HF Objects!!\n");
+    look_for_pages();
     send_paths("add");
     return 0;
 }
@@ -109,7 +117,7 @@ static int press(int x, int y)
     if (!Inside(area, x, y) || BA_IsDefaultButton())
         return 0;
     const HF_MEM* t = TabList_Find(Tabs, (x - MIN_X) / PITCH + 1);
-    if (t && t->display && t->page)
+    if (t && TabList_IsShown(*t) && t->page)
         GL_CreatePage = t->page;
     return 0;
 }
@@ -146,8 +154,9 @@ static void draw(HF_MEM& t)
     const Form f = form();
     const int x = MIN_X + PITCH * (t.id - 1);
     const bool is_on = t.id == Selected;
-    TDL_PutS(x + 1, f.y, !t.display ? f.blank : is_on ? f.on : f.off);
-    if (t.display) {
+    const bool is_shown = TabList_IsShown(t);
+    TDL_PutS(x + 1, f.y, !is_shown ? f.blank : is_on ? f.on : f.off);
+    if (is_shown) {
         TDL_SymbolS(x + 8, f.y + 8, t.caption, 4, is_on ? BLACK : WHITE);
         if (is_active(t))
             draw_bar(x + 8);
@@ -155,10 +164,17 @@ static void draw(HF_MEM& t)
     TDL_UpdateRect(x, f.y, x + 85, BOTTOM);
 }
 
+static int redraw(int elapsed_ms)
+{
+    if (PageLook_IsDue(Look, elapsed_ms))
+        look_for_pages();
+    return TabList_Redraw(Tabs, draw);
+}
+
 int HF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: return TabList_Redraw(Tabs, draw);
+    case MSG_REDRAW: return redraw(int(ax));
     case MSG_PRESS: return press(int(ax), int(bx));
     case MSG_TALLY: return tally(Text(ax), Text(bx), uint32_t(cx));
     default: return 0;

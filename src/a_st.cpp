@@ -46,6 +46,7 @@ static int StatusMax = 0;
 static const ST_TBL* StatusNowTbl = nullptr;
 static int StatusRefModule = -1;
 static Reference StatusRef;
+static PageLook Look;
 
 int TrnModeStatus[2][TRN_VALUES];
 int GL_FillSourceAssignMode = 0;
@@ -223,6 +224,16 @@ static void leave_sub_side(char* path)
         memmove(at, at + length - 1, strlen(at + length - 1) + 1);
 }
 
+static void look_for_pages()
+{
+    for (ST_MEM& c : cells()) {
+        if (c.is_missing == Page_IsMissing(c.jamp_id))
+            continue;
+        c.is_missing = !c.is_missing;
+        c.redraw = 1;
+    }
+}
+
 // The buffers are 256 KB a cell: only entries in use are touched.
 static void fill_cell(ST_MEM& c, const ST_TBL& row)
 {
@@ -249,6 +260,7 @@ static void fill_cell(ST_MEM& c, const ST_TBL& row)
         c.tally[i][0] = '\0';
     }
     c.jamp_id = row.page ? row.page : target_of(row.jamp_id_base);
+    c.is_missing = Page_IsMissing(c.jamp_id);
     // With the switcher up the borders stand at once; otherwise the first tally brings them.
     c.redraw = GL_ProcStatus[1] != 0;
 }
@@ -332,7 +344,8 @@ static int press(int x, int y)
     for (const ST_MEM& c : cells()) {
         // The border belongs to nobody: neighbours share none.
         if (x > c.x1 && x < c.x2 && y > c.y1 && y < c.y2) {
-            jump_from(c);
+            if (!c.is_missing)
+                jump_from(c);
             return 0;
         }
     }
@@ -410,13 +423,17 @@ static int tally(const char* path, const char* value, uint32_t hash)
     return 0;
 }
 
-static int redraw()
+static int redraw(int elapsed_ms)
 {
+    if (PageLook_IsDue(Look, elapsed_ms))
+        look_for_pages();
     for (ST_MEM& c : cells()) {
         if (!c.redraw)
             continue;
         if (c.draw_func)
             c.draw_func(&c);
+        if (c.is_missing)
+            (void)st_drw_recoats_grayout(&c, 0);
         TDL_UpdateRect(c.x1, c.y1, c.x2, c.y2);
         c.redraw = 0;
     }
@@ -428,7 +445,7 @@ int ST_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
     switch (msg) {
     case MSG_PRESS: return press(int(ax), int(bx));
     case MSG_TALLY: return tally(Text(ax), Text(bx), uint32_t(cx));
-    case MSG_REDRAW: return redraw();
+    case MSG_REDRAW: return redraw(int(ax));
     default: return 0;
     }
 }

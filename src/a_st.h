@@ -41,6 +41,7 @@ struct ST_MEM {
     int redraw = 0;
     char tally[ST_COMMANDS][CMD_SIZE] = {}; // last value, "" until it arrives
     uint32_t jamp_id = 0;                   // resolved for the bank and key of the page; 0 none
+    bool is_missing = false;                // this installation lacks that page: under the veil
     int used = 0;                           // entries from here on are unused: their texts are ""
 };
 

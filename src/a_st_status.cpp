@@ -73,13 +73,6 @@ static ST_MEM* begin(ST_MEM* cell)
     return bank ? st_begin(cell, 0, bank->caption) : nullptr;
 }
 
-// A bank that the operator may not touch stands under the veil.
-static int end(const ST_MEM* cell)
-{
-    const MeBank* const bank = bank_of(cell);
-    return bank && MeBank_IsOff(*bank) ? st_drw_recoats_grayout(cell, 0) : 0;
-}
-
 int st_drw_status_bank(ST_MEM* cell)
 {
     const ST_MEM* const c = begin(cell);
@@ -93,7 +86,7 @@ int st_drw_status_bank(ST_MEM* cell)
                .val_str = {c->tally[BANK_BUSES], c->tally[BANK_BUSES + 1], c->tally[BANK_BUSES + 2],
                            c->tally[BANK_BUSES + 3], transition, c->tally[BANK_RATE], keys}};
     st_drw_status_values(c, &val);
-    return end(c);
+    return 0;
 }
 
 // Tallies: the rate of the bank, then those of its keys.
@@ -120,5 +113,5 @@ int st_drw_status_rates(ST_MEM* cell)
         val.val_str[1 + key] = text[key];
     }
     st_drw_status_values(c, &val);
-    return end(c);
+    return 0;
 }

@@ -39,11 +39,13 @@ struct VF_MEM {
     TabStatus stat;
     int redraw = 0;
     int display = 0;
+    bool is_missing = false;
 };
 } // namespace
 
 static TabList<VF_MEM, VF_MAX> Tabs;
 static uint32_t Selected = 0;
+static PageLook Look;
 
 static void send_paths(const char* verb)
 {
@@ -69,6 +71,23 @@ static void fill_tab(VF_MEM& t, const VF_TBL& row)
     TabStatus_Set(t.stat, row.statcmd);
 }
 
+static uint32_t target_page(const VF_MEM& t)
+{
+    constexpr uint32_t BANK_AND_TAB = 0xF00F0000;
+    constexpr uint32_t BANK_EDGE = 0x10020000;
+    constexpr uint32_t TAB = 0x000F0000;
+    constexpr uint32_t TAB_TYPE = 0x00010000;
+    if (SYS_RefSwrType == SWR_WITHOUT_EDGE_3_4 && (t.id == 3 || t.id == 4) &&
+        (t.page & BANK_AND_TAB) == BANK_EDGE)
+        return (t.page & ~TAB) | TAB_TYPE;
+    return t.page;
+}
+
+static void look_for_pages()
+{
+    TabList_LookForPages(Tabs, int(Selected), target_page);
+}
+
 int VF_Create(const VF_TBL* table, uint32_t selected)
 {
     send_paths("remove");
@@ -78,6 +97,7 @@ int VF_Create(const VF_TBL* table, uint32_t selected)
     Selected = selected;
     if (!TabList_Fill(Tabs, table, fill_tab))
         Log_Output(LOG_ALWAYS, MOD_PAGE, "Buffer overflow for VF Objects!!");
+    look_for_pages();
     send_paths("add");
     return 0;
 }
@@ -136,24 +156,12 @@ static void recall_default(const VF_MEM& t)
     BA_SetDefaultButton(0);
 }
 
-static uint32_t target_page(const VF_MEM& t)
-{
-    constexpr uint32_t BANK_AND_TAB = 0xF00F0000;
-    constexpr uint32_t BANK_EDGE = 0x10020000;
-    constexpr uint32_t TAB = 0x000F0000;
-    constexpr uint32_t TAB_TYPE = 0x00010000;
-    if (SYS_RefSwrType == SWR_WITHOUT_EDGE_3_4 && (t.id == 3 || t.id == 4) &&
-        (t.page & BANK_AND_TAB) == BANK_EDGE)
-        return (t.page & ~TAB) | TAB_TYPE;
-    return t.page;
-}
-
 static int press(int x, int y)
 {
     if (!Inside(AREA, x, y))
         return 0;
     const VF_MEM* t = TabList_Find(Tabs, (y - TOP) / PITCH + 1);
-    if (!t || !t->page || !t->display)
+    if (!t || !t->page || !TabList_IsShown(*t))
         return 0;
     if (BA_IsDefaultButton())
         recall_default(*t);
@@ -194,18 +202,26 @@ static void draw(const VF_MEM& t)
         return;
     const int top = (t.id - 1) * PITCH + TOP;
     const bool is_on = uint32_t(t.id) == Selected;
-    TDL_PutS(LEFT, top, !t.display ? G_VF_blank : is_on ? G_VF_on : G_VF_off);
-    if (t.display) {
+    const bool is_shown = TabList_IsShown(t);
+    TDL_PutS(LEFT, top, !is_shown ? G_VF_blank : is_on ? G_VF_on : G_VF_off);
+    if (is_shown) {
         TDL_SymbolS(11, top + 8, t.caption, 3, is_on ? BLACK : WHITE);
         draw_assign(t, top, is_on);
     }
     TDL_UpdateRect(LEFT, top, LEFT + FACE_W - 1, top + FACE_H - 1);
 }
 
+static int redraw(int elapsed_ms)
+{
+    if (PageLook_IsDue(Look, elapsed_ms))
+        look_for_pages();
+    return TabList_Redraw(Tabs, draw);
+}
+
 int VF_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 {
     switch (msg) {
-    case MSG_REDRAW: return TabList_Redraw(Tabs, draw);
+    case MSG_REDRAW: return redraw(int(ax));
     case MSG_PRESS: return press(int(ax), int(bx));
     case MSG_TALLY: return tally(Text(ax), Text(bx), uint32_t(cx));
     default: return 0;

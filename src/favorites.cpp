@@ -58,6 +58,16 @@ static int fav_index(int button_id)
     return -1;
 }
 
+// Only a page that this installation has can be opened; any can be coloured or cleared.
+static bool fav_can_be_pressed(const Favorite& f)
+{
+    switch (fav.mode) {
+    case FAV_STORE: return true;
+    case FAV_OPEN: return f.page && Page_Exists(f.page);
+    default: return f.page != 0;
+    }
+}
+
 static void fav_show(int n)
 {
     const Favorite& f = fav.item[n];
@@ -65,7 +75,7 @@ static void fav_show(int n)
         return;
     BT_SetCaption(fav_button(n), f.page ? f.caption : "");
     BT_SetGroup(fav_button(n), f.group);
-    BT_SetDisable(fav_button(n), !f.page && fav.mode != FAV_STORE);
+    BT_SetDisable(fav_button(n), !fav_can_be_pressed(f));
 }
 
 void shortcut_menu_group_name_tally(int group, const char* value)
@@ -153,10 +163,7 @@ static void fav_press(int n)
     case FAV_STORE: fav_store(n); break;
     case FAV_COLOR: return fav_next_color(n);
     case FAV_CLEAR: fav_clear(n); break;
-    case FAV_OPEN:
-        if (fav.item[n].page)
-            GL_CreatePage = fav.item[n].page;
-        return;
+    case FAV_OPEN: GL_CreatePage = fav.item[n].page; return;
     }
     fav_set_mode(FAV_OPEN);
 }

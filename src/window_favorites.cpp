@@ -127,6 +127,11 @@ static unsigned rgb(const _color_data& c)
     return RgbOfHsl(c.set_hue, c.set_sat, c.set_lum);
 }
 
+static void draw_veil(int x, int y)
+{
+    TDL_FillRectAS(x + 1, y + 1, x + KEY_W - 2, y + KEY_H - 2, 0x1A1A1A, 160);
+}
+
 void pagejump_draw_user_key(const WINOBJ& key)
 {
     const USER_SEL_DATA& d = key_set_data[fav.set][key.id - KEY_FAVORITE];
@@ -137,11 +142,13 @@ void pagejump_draw_user_key(const WINOBJ& key)
     TDL_FillRectS(x + 1 + p, y + 1 + p, x + KEY_W - 2, y + KEY_H - 2,
                   rgb(colors[d.color_dt_boad].color));
     if (!d.page_id)
-        TDL_FillRectAS(x + 1, y + 1, x + KEY_W - 2, y + KEY_H - 2, 0x1A1A1A, 160);
+        draw_veil(x, y);
     if (!p)
         TDL_FillRectAS(x + 1, y + KEY_H - 3, x + KEY_W - 2, y + KEY_H - 2, BLACK, 110);
     TDL_SymbolBS(x + 6 + p, y + 4 + p, KEY_W - 8, KEY_H - 5, d.button_name, 4,
                  rgb(colors[d.color_dt_moji].color), 0);
+    if (Page_IsMissing(d.page_id))
+        draw_veil(x, y); // also over the name
 }
 
 void pagejump_draw_user()
@@ -243,7 +250,8 @@ uint32_t favorites_select(int id)
     } else if (fav.coloring) {
         change(n, next_color); // and again until it is the right one
     } else {
-        return key_set_data[fav.set][n].page_id;
+        const uint32_t page = key_set_data[fav.set][n].page_id;
+        return Page_IsMissing(page) ? 0 : page;
     }
     return 0;
 }

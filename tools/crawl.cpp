@@ -1,8 +1,9 @@
 // crawl: a guest that touches everything. It opens pages one after the other, presses, drags and
 // turns whatever is there, also in what comes up over a page, lets go, and looks whether the page
-// gave back what it had taken: memory and descriptors. What it subscribed stands on the wire; each
-// visit ends there with "put Crawl@Left#ID", and each round begins with "#Round", so that the books
-// can be made up from the server's log.
+// gave back what it had taken: memory and descriptors. A key that can be pressed and asks for a
+// page that the installation lacks is a fault. What it subscribed stands on the wire; each visit
+// ends there with "put Crawl@Left#ID", and each round begins with "#Round", so that the books can
+// be made up from the server's log.
 //
 // usage: crawl [EVERY [ROUNDS [BANK]...]]   in the working directory build/run
 //        every EVERYth page (1) of the banks (all), ROUNDS times (2); the first round counts for
@@ -202,5 +203,5 @@ int main(int argc, char** argv)
     for (const auto& [page, target] : crawl.dead_ends)
         fprintf(stderr, "crawl: a touch on %08X asks for %08X, which is not there\n",
                 unsigned(page), unsigned(target));
-    return faults != 0;
+    return faults != 0 || !crawl.dead_ends.empty();
 }

@@ -62,6 +62,17 @@ TEST_F(BottomTabs, APressAsksForThePageOfItsCell)
     EXPECT_EQ(Asked(Cell(2), 556), 0x11120000u);
 }
 
+TEST_F(BottomTabs, ATabWithoutAPageIsBlankButTheChosenOne)
+{
+    SYS_MEOperation[0] = 1; // M/E-1 has no pages then
+    HF_Create(tabs, 1);
+    EXPECT_EQ(Asked(Cell(2), Y), 0u);
+    EXPECT_EQ(Asked(Cell(1), Y), 0x11110000u) << "it stands for the page that is shown";
+    SYS_MEOperation[0] = 0;
+    Pass(500);
+    EXPECT_EQ(Asked(Cell(2), Y), 0x11120000u);
+}
+
 TEST_F(BottomTabs, EachPathIsFollowedOnceWhileTheTabsStand)
 {
     const std::string edge = "M/E-1@Key1@Edge@Edge Type", soft = "M/E-1@Key1@Edge@Soft Edge";

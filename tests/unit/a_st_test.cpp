@@ -123,7 +123,7 @@ TEST_F(StatusCells, ATargetTakesTheBankAndForKeyPagesTheKeyOfThePage)
         uint32_t page, base, target;
     } cases[] = {
         {0x12310000, 0x11120000, 0x12320000}, // bank 2, key 3
-        {0x15510000, 0x11650001, 0x15650001},
+        {0x15510000, 0x11650000, 0x15650000},
         {0x12000000, 0x11340000, 0x12340000}, // above the keys the cell names the key
         {0x15310000, 0x11730000, 0x11730000}, // keys 5 to 8: the one page of the bank
         {0x15710000, 0x11730000, 0x15730000}, // no key page

@@ -62,3 +62,12 @@ TEST_F(Favorites, OnlyOneThingIsMeantAtATime)
     EXPECT_EQ(GL_CreatePage, 0x13110000u);
     GL_CreatePage = 0;
 }
+
+TEST_F(Favorites, APageThatTheInstallationHasLostIsNotOpenedButCleared)
+{
+    SYS_MEOperation[2] = 1; // M/E-3
+    EXPECT_EQ(CreatePage(FAVORITES), 0);
+    EXPECT_EQ(Usable({FIRST}), std::vector<int>{});
+    EXPECT_EQ(Work(BTN_CLEAR, FIRST), Lines{"put " + DATA + "Shortcut Name@1#0,"});
+    SYS_MEOperation[2] = 0;
+}

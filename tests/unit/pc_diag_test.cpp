@@ -86,8 +86,10 @@ TEST_F(DiagPage, AClassShowsWhatItsUnitsHaveReported)
     Open(DiagClassPage(DIAG_SWITCHER));
     ASSERT_THAT(Rows(), ElementsAre("SWR1|--|No report|"));
     DEVICE* const switcher = std::exchange(DEV_MySwr[0], nullptr);
+    const int switchers = std::exchange(SYS_MySwrMax, 0);
     EXPECT_THAT(Rows(), IsEmpty()) << "it has left while the page is open";
     DEV_MySwr[0] = switcher;
+    SYS_MySwrMax = switchers;
     EXPECT_EQ(Rows().size(), 1u);
 }
 

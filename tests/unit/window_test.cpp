@@ -563,6 +563,12 @@ TEST_F(PageJump, AFavouriteOpensItsPage)
         EXPECT_EQ(GetWindow(), 0);
         EXPECT_EQ(GL_CreatePage, page);
     }
+    SYS_MEOperation[0] = 1; // M/E-1 has no pages then
+    CreateWindow(WINDOW_PAGE_JUMP, "Page");
+    PressFavorite(5);
+    EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
+    SYS_MEOperation[0] = 0;
+    (void)CloseWindow();
     WriteFile(1, file.substr(0, 28 * 24 + 23)); // cut: none of it
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
     PressFavorite(5);

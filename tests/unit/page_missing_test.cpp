@@ -1,0 +1,91 @@
+// What asks for a page that the installation lacks: it looks unusable and takes no press until the
+// page is there.
+#include "table_page.h"
+
+struct MissingPages : TablePage {
+    void TearDown() override
+    {
+        (void)Leave();
+        SYS_MEOperation[1] = GL_DmeModel[0] = GL_ErrorPopup_On = 0;
+        TablePage::TearDown();
+    }
+    static uint32_t Asked(int x, int y)
+    {
+        GL_CreatePage = 0;
+        (void)Touch(x, y);
+        return std::exchange(GL_CreatePage, 0u);
+    }
+};
+
+TEST_F(MissingPages, AKeyATabAndACellFollowWhatTheInstallationHas)
+{
+    constexpr int LOOKS_AFTER_MS = 500;
+    static const struct {
+        uint32_t page;
+        Rect place;
+        int* setting;
+        int with, without;
+        uint32_t target;
+    } cases[] = {
+        {PAGE_TOP, {210, 96, 294, 161}, &SYS_MEOperation[1], 0, 1, 0x12110000},
+        {0x62110000, {5, 335, 85, 395}, GL_DmeModel, 0, 5, 0x62510000},
+        {0x33110000, {310, 100, 480, 240}, &SYS_MEOperation[1], 0, 1, 0x12000000},
+    };
+    for (const auto& c : cases) {
+        const Rect& r = c.place;
+        const auto asked = [&] { return Asked((r.x1 + r.x2) / 2, (r.y1 + r.y2) / 2); };
+        const auto set = [&](int value) {
+            *c.setting = value;
+            Pass(LOOKS_AFTER_MS);
+            Pass(LOOKS_AFTER_MS); // a key has come up again
+        };
+        *c.setting = c.without;
+        (void)Open(c.page);
+        (void)Tell("M/E-2@Misc@Transition@Transition Rate#30"); // a cell has something to show
+        Pass(10);
+        const auto opened_without = PixelsIn(r);
+        EXPECT_EQ(asked(), 0u) << std::hex << c.page;
+        set(c.with);
+        EXPECT_NE(PixelsIn(r), opened_without) << std::hex << c.page;
+        EXPECT_EQ(asked(), c.target) << std::hex << c.page;
+        set(c.without);
+        EXPECT_EQ(PixelsIn(r), opened_without) << std::hex << c.page;
+        EXPECT_EQ(asked(), 0u) << std::hex << c.page;
+        set(c.with);
+    }
+}
+
+// Page code puts keys out for reasons of its own, and lets them go again.
+TEST_F(MissingPages, PageCodeDoesNotMakeAKeyUsableThatLeadsNowhere)
+{
+    constexpr int KEY = 2; // M/E-2
+    SYS_MEOperation[1] = 1;
+    (void)Open(PAGE_TOP);
+    for (const int on : {1, 0}) {
+        BT_SetDisable(KEY, on);
+        BT_SetAllDisable(on);
+        BT_SetCutoff(KEY, on);
+        (void)Press(KEY);
+        EXPECT_EQ(GL_CreatePage, 0u);
+    }
+    BT_SetCommand(KEY, 0, "#11110000");
+    (void)Press(KEY);
+    EXPECT_EQ(GL_CreatePage, 0x11110000u) << "it leads elsewhere now";
+}
+
+TEST_F(MissingPages, TheTitleIsAKeyWhereItsSectionHasATopPage)
+{
+    constexpr int FELT_MS = 160;
+    static const struct {
+        uint32_t page;
+        int is_error;
+        uint32_t asked;
+    } cases[] = {{0x33120000, 0, 0x33000000}, {0x77770000, 0, 0}, {0x77770000, 1, 0x74120000}};
+    for (const auto& c : cases) {
+        (void)Open(c.page);
+        GL_ErrorPopup_On = c.is_error;
+        (void)Touch(150, 30);
+        Pass(FELT_MS);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), c.asked) << std::hex << c.page;
+    }
+}
