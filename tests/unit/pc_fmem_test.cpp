@@ -314,12 +314,12 @@ TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
         (void)TakeQueuedCommands();
         Answer(YES); // all the same
         EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + TREE + "Record@Through@FM6#0,0"));
-        Pass(goes_black ? 10 : 1790);    // 200 of the answer came before
+        Pass(goes_black ? 10 : 1990);
         EXPECT_THAT(Asked(), IsEmpty()); // not before it is black
         if (goes_black)
             Show(5, "0,");
         else
-            Pass(2000);
+            Pass(10);
         const Strings asked = Grant();
         ASSERT_EQ(asked.size(), 6u); // two clips, four folders
         EXPECT_EQ(asked.back(), "ClipStoreFolder:DeleteFolder root/NEWS");
