@@ -37,6 +37,7 @@ TEST_F(Info, AValueLandsInItsPlace)
         {ME_CONFIG "P/P", "Multi Program 2", &multiprogram2_me[0], 1},
         {MAIN_SUB "3rd Row", "Main/Sub", &GL_MainSubAssign[2], 2},
         {MAIN_SUB "3rd Row", "what", &GL_MainSubAssign[2], 2},
+        {MAIN_SUB "3rd Row", "Main", &GL_MainSubAssign[2], 0},
         {KEY_UNIT "13", "KT,TR,--,KT,--,--,--,TR", &GL_KeyTransKeyUnitConfig[13], 1 | 8},
         {KEY_UNIT "13", "KT,TR,--,KT,--,--,--,TR", &GL_TransKeyUnitConfig[13], 2 | 128},
         {KEY_UNIT "13", "TR,TR,--", &GL_TransKeyUnitConfig[13], 2 | 128},

@@ -640,8 +640,10 @@ TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
         Hub("Disconnect"); // the job ends
         (void)Pane_Quit(Pane_GetActiveID());
     }
+    GL_Macro_Online_TrueOrFalse = 0;
     begin(BTN_MACRO_ONLINE);
     EXPECT_EQ(GL_CreatePage, PAGE_MACRO_ONLINE);
+    EXPECT_EQ(GL_Macro_Online_TrueOrFalse, 1);
     DEV_MyPnl[0] = nullptr;
     begin(BTN_MACRO_OFFLINE);
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
