@@ -51,6 +51,7 @@ TEST_F(Info, AValueLandsInItsPlace)
         {MAIN_SUB "15th Row", "Main", &GL_MainSubAssign[0], 1}, // there are 14
         {ME_ASSIGN "1st Row", "M/E-2", &GL_MEAssign[0], 2},
         {ME_ASSIGN "1st Ro", "M/E-3", &GL_MEAssign[0], 2},
+        {"16@Info@Xpt Button Count", "33", &GL_MEAssign[0], 2},
         {ME_ASSIGN "14th Row", "2nd AUX", &GL_MEAssign[13], ASSIGN_2ND_AUX},
         {ME_ASSIGN "14th Row", "what", &GL_MEAssign[13], -1},
         {OPERATION "Timeline Display Priority", "true", &GL_TimelineDisplayPriority, 1},
