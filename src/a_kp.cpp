@@ -7,6 +7,7 @@
 #include "log.h"
 #include "message.h"
 #include "netio.h"
+#include "page.h"
 #include "scroll_window.h"
 #include "scrollbar.h"
 #include "tally_value.h"
@@ -146,7 +147,7 @@ static void fill_row(KP_MEM& r, const KP_TBL& from)
     r.type[HUE] = PATHSEL_HUE;
     r.type[CURVE] = PATHSEL_CURVE0 + std::clamp(from.curvetype, 0, 3);
     DecodeCommand(r.cmd, from.cmd, CMD_SIZE);
-    r.jump = from.jump;
+    r.jump = Page_IsMissing(from.jump) ? 0 : from.jump; // as a row that leads nowhere
     std::fill(std::begin(r.value), std::end(r.value), int(NOT_KNOWN));
     std::fill(std::begin(r.spline), std::end(r.spline), 0.0);
     r.redraw = r.pushed = 0;
