@@ -1,4 +1,4 @@
-"""The pages of two lists at the desk: registers, drives, and what goes wrong between them.
+"""The pages of two lists and the Directory page at the desk: registers, drives, and what goes wrong between them.
 
 usage: file_dual_test.py BUILD_DIR [TEST...]
 """
@@ -16,10 +16,11 @@ L_TO_R, R_TO_L, DETAIL_A = (290, 478), (405, 478), grid(49)
 ALL_ROWS_A = (303, 417)
 DRIVES = [270, 348, 426, 504]  # keys of the drive pane: register, local drive, stick, network
 FIRST_DIRECTORY = (195, 105)
-OK = (400, 407)  # of a message
+OK = CANCEL = (400, 407)  # of a message, of a progress
 YES = (340, 407)
 HOME = "add M/E-1@Key1@Type@Key Type"
 LOCAL, STICK = "/mnt/data/user/root/SYSTEM/", "/mnt/usb/usb1/SYSTEM/"
+KEYS = (("`1234567890-=", 75, 229), ("qwertyuiop[]\\", 75, 283), ("asdfghjkl;'", 75, 337), ("zxcvbnm,./", 183, 391))
 FIND = "put File@Access@Find#"
 
 
@@ -99,6 +100,15 @@ class FilePages(DeskCase):
         self.choose(DEVICE_A, left)
         self.choose(DEVICE_B, right)
 
+    def type(self, text):
+        for c in text:
+            if c.isupper():
+                self.desk.touch(100, 391, settle=0.1)
+            for keys, x, y in KEYS:
+                if c.lower() in keys:
+                    self.desk.touch(x + 54 * keys.index(c.lower()), y, settle=0.1)
+        self.desk.touch(697, 337, settle=0.5)
+
     def has_pane(self):
         """A message or a progress stands over the page: its ground is the light one of a box."""
         pixels = self.desk.pixels()
@@ -168,6 +178,23 @@ class FilePages(DeskCase):
         self.job(L_TO_R)
         self.assertEqual(self.files(STICK), self.files(LOCAL))
 
+    def test_a_transfer_outlives_its_page_and_is_cancelled(self):
+        self.lay(LOCAL, 10)
+        self.snapshots(1, 2)
+        self.desk.touch(*ALL_ROWS_A)
+        self.desk.console("slow 400")
+        self.desk.touch(*L_TO_R)
+        self.open_page(1111, HOME)
+        self.assertFalse(self.has_pane())
+        self.desk.console("page 7131")
+        time.sleep(0.5)
+        self.assertTrue(self.has_pane())
+        since = self.log_size()
+        self.desk.touch(*CANCEL)
+        self.assertEqual(self.await_log("Copy@Status#", since).count("put File@Access@Cancel#Lx,"), 10)
+        self.assertFalse(self.has_pane())
+        self.assertEqual(self.files(STICK), [])
+
     def test_another_user_is_waited_for(self):
         self.snapshots(0, 1)
         self.desk.console("user ANNA holds SWR1 SNAPSHOT")
@@ -178,6 +205,52 @@ class FilePages(DeskCase):
         self.await_log("SNAPSHOT.STATUS:Standby", since)
         self.await_log(FIND, since)
         self.assertIn("SNAPSHOT/SWR000D001/ME1/TWO SHOT.ME1_001.SSS", self.files(LOCAL))
+
+    def test_rubbish_from_the_server_moves_nothing_else(self):
+        self.lay(LOCAL, 10)
+        self.snapshots(1, 2)
+        self.desk.touch(*ALL_ROWS_A)
+        self.desk.console("slow 40")
+        self.desk.touch(*L_TO_R)
+        bodies = ["L0,0", "L4294967295,5", "L99999999999,1", "4294967295,OK", "0,NG(x.)", "-1,OK", "L", ",", ""]
+        bodies += ["4294967295," + "," * n for n in (1, 6, 200)]
+        bodies += [f"{n},../../etc/passwd,Wed Nov 25 10:30:00 2026" for n in (0, 4294967295)] + ["0,/" + "p" * 300]
+        for path in ("Access@Copy", "Access@Find", "Transfer@Transfer", "Remote Access@SCP Dir Get"):
+            for body in bodies:
+                for status in ("", "@Status"):
+                    self.desk._box("say", "sim", f"send File@{path}{status}#{body}")
+        since = self.log_size()
+        self.desk.console("slow 1")
+        self.await_log(FIND, since)
+        time.sleep(0.3)
+        self.assertFalse(self.has_pane())
+        self.assertEqual(self.files(STICK), self.files(LOCAL))
+
+    def test_directories_and_their_names(self):
+        root = self.path("/mnt/data/user/root/")
+        self.addCleanup(shutil.rmtree, root + "News", True)
+        os.makedirs(root + "SYSTEM", exist_ok=True)
+        self.open_page(1111, HOME)
+        since = self.log_size()
+        self.desk.console("page 7171")
+        self.await_log("ListDir@Status#", since)
+        time.sleep(0.3)
+        self.desk.touch(*grid(51))
+        self.type("aux")
+        self.assertTrue(self.has_pane())
+        self.desk.touch(*OK)
+        self.desk.touch(*grid(51))
+        self.type("News")
+        self.assertFalse(self.has_pane())
+        self.assertEqual(sorted(os.listdir(root)), ["News", "SYSTEM"])
+        self.desk.touch(*grid(53))
+        self.assertEqual(os.path.getsize(root + "News/.dirprotect"), 40)
+        self.desk.touch(*grid(52))  # a protected one has no key for this
+        self.assertFalse(self.has_pane())
+        self.desk.touch(*grid(53))
+        self.desk.touch(*grid(52))
+        self.desk.touch(*YES, settle=0.6)
+        self.assertEqual(os.listdir(root), ["SYSTEM"])
 
 
 if __name__ == "__main__":

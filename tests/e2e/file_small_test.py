@@ -3,8 +3,10 @@
 usage: file_small_test.py BUILD_DIR [TEST...]
 """
 import os
+import struct
 import time
 import unittest
+import zlib
 
 from desk import grid
 from deskcase import DeskCase
@@ -14,6 +16,14 @@ STICK = "mnt/usb/usb1/SYSTEM"
 YES = (200 + 97 + 20, 140 + 247 + 15)
 OK_KEY = (200 + 153 + 20, 140 + 247 + 15)
 TEXT_WELL = (230, 205, 560, 370)  # of a pane
+
+
+def frame(name):
+    """A frame-memory file: 64 bytes of header, a BMP of 8 x 8."""
+    body = bytes(range(8 * 8 * 3))
+    bmp = b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + len(body), 0, 54, 40, 8, 8, 1, 24, 0, len(body), 0, 0, 0, 0) + body
+    head = (b"SFMD" + bytes([3, 0, 0, 0, 0]).ljust(12, b"\0") + name.encode()).ljust(60, b"\0")
+    return head + struct.pack(">I", zlib.crc32(head)) + bmp
 
 
 class SmallPages(DeskCase):
@@ -65,6 +75,19 @@ class SmallPages(DeskCase):
         time.sleep(0.5)
         self.assertIsNone(self.content(f"{STICK}/SETUP/SWR000D003/OLD.DEV_0000.SST"))
         self.assertFalse(os.path.exists(os.path.join(desk.root, STICK, "SNAPSHOT/DME000D001")))
+
+    def test_2_the_fields_of_a_frame_change_places(self):
+        path = f"{LOCAL}/FMEMFOL/DEFAULT/SWR000D001/Mbars.FMEM_200.SFM"
+        self.lay(path, frame("Mbars"))
+        self.open_file_page("7154", "put File@Access@FindSFM#")
+        before = self.desk.part(610, 146, 648, 167)
+        self.desk.touch(200, 157)
+        self.desk.touch(*grid(49))
+        self.desk.touch(*YES)
+        self.wait(lambda: self.content(path) != frame("Mbars"))
+        time.sleep(1.5)
+        self.assertEqual(self.content(path)[8], 1)  # inverted, says the header
+        self.assertNotEqual(self.desk.part(610, 146, 648, 167), before)
 
     def test_3_a_transfer_bars_the_other_pages_until_it_ends(self):
         desk = self.desk

@@ -143,6 +143,21 @@ class ClipStore(DeskCase):
         moved = [line for line in self.hub() if "Move root/img0000.SFH" in line]
         self.assertTrue(self.has(moved[-1].split("root/")[-1][:-4]), moved)
 
+    def test_6_a_video_and_a_key_become_a_pair_and_two_clips_again(self):
+        self.desk.console("clip make A 10")
+        self.desk.console("clip make B 10")
+        self.show("2123")
+        self.cell(SOURCE, 2)
+        self.cell(TARGET, 3)
+        self.touch(562)
+        self.wait_hub("Execute#CS1.ClipStoreFile:Couple root/A.SFH root/B.SFH")
+        self.wait_for(lambda: not self.has("B"))
+        time.sleep(1.0)  # its progress has gone
+        self.touch(652)
+        self.wait_hub("Execute#CS1.ClipStoreFile:Separate root/A.SFH")
+        self.wait_for(lambda: self.has("A_K"))
+        time.sleep(0.6)
+
     def test_7_a_tree_with_a_playing_clip_is_deleted_when_it_has_stopped(self):
         self.show("2111")
         self.cell(BESIDE, 1)

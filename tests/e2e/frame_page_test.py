@@ -126,6 +126,28 @@ class FramePages(FrameCase):
         self.assertFalse(any("Frame Memory" in line for line in self.desk.wire()))
         self.touch(400, 400)
 
+    def test_4_a_still_gets_another_name(self):
+        self.show(7151)
+        self.touch(170, 124 + ROW + 10)
+        self.touch(150, 480)
+        time.sleep(0.4)
+        self.touch(170, 124 + ROW * 4 + 10)
+        self.touch(150, 480)
+        self.type("sky", erase=5)
+        lines = self.wait_line(RENAME)
+        self.assertTrue(any(line.startswith(RENAME) and line.endswith("sky") for line in lines), lines)
+
+    def test_5_folders(self):
+        self.show(7152)
+        self.touch(150, 480)
+        self.type("show")
+        self.wait_line("put Frame Mem@Folder@Rename#3,show")
+        self.assertIn(",3,show,", self.desk.value("16@Frame Mem@Status@Folder Name Sense"))
+        self.touch(200, 78 + ROW * 4 + 10)
+        self.touch(350, 480)
+        self.yes()
+        self.wait_line("put Frame Mem@Folder@Delete#3")
+
     def wait_hub(self, text, timeout=20.0):
         """A line of the hub's link: it goes at its own pace."""
         end = time.monotonic() + timeout
@@ -224,6 +246,22 @@ class RegisterPages(FrameCase):
         self.yes()
         lines = self.wait_line(DELETE + "Ssky")
         self.assertIn(DELETE + "Msky", lines)
+
+    def test_3_a_clip_goes_to_another_folder_and_shows_its_frames(self):
+        self.show("2521")
+        self.touch(150, 98)
+        self.touch(385, 150)  # News
+        time.sleep(0.3)
+        self.row(0)
+        self.key(4)
+        self.key(0)
+        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@FM3#Mnews0004")
+        self.show("2522")
+        self.row(0)
+        self.key(2)
+        self.touch(180, 150)  # the first folder
+        lines = self.wait_line("put 16@Frame Mem@Folder@Move Still#0,Snews0002,0")
+        self.assertEqual(sum("Move Still#0," in line for line in lines), 6)
 
     def test_4_a_freeze_is_stored(self):
         self.show("2531")

@@ -16,6 +16,7 @@ OFFLINE, ONLINE = grid(51), grid(52)
 GROUPS = [grid(n) for n in (49, 50, 19, 20, 21, 22, 35, 36, 37, 38)]
 BEFORE, AFTER, DELETE, STORE = (grid(n) for n in (51, 52, 53, 54))
 DISCARD = (432, 275)
+YES = (341, 414)
 DEVICE, REGION, TAPE = "Device,Dev1", "Region,M/E-1", "Device,Dev2"
 EVERY_EVENT = (  # in the order in which the editor offers them
     "MEXpt,ME,M/E-1,MEBus,BkgdA,Xpt,5,VideoKey,Video,Attribute,Normal", "AuxXpt,AuxBus,Aux3,Xpt,7,VideoKey,Key",
@@ -110,6 +111,27 @@ class Macros(DeskCase):
         self.touch(DISCARD)
         self.desk.wait_wire("put TopMenu@SubMenuSite#false", 5)
         self.assertIsNone(self.content())
+
+    def test_3_attachments_go_one_by_one_and_all_at_once(self):
+        desk = self.desk
+        entry = "9,2,1,0,9,0,0,0,0,0,0,0,0"  # M/E-1 Trans
+        self.page(5421)
+        before = desk.part(100, 122, 650, 270)
+        desk.console("attach " + entry)
+        time.sleep(0.5)
+        after = desk.part(100, 122, 650, 270)
+        self.assertNotEqual(after, before)
+        desk.touch(300, 111 + 22 * 4)  # in the panels' order behind M/E-1 XPT
+        desk.wire()
+        self.touch(grid(53), YES)
+        desk.wait_wire("put Macro@Attachment@Delete#" + entry)
+        time.sleep(0.5)
+        self.touch(grid(52), YES)  # pair mode: the crosspoint buttons lose theirs
+        desk.wait_wire("put Macro@Attachment@Xpt Attachment Mode#Pair Mode")
+        self.touch(grid(54), YES)
+        desk.wait_wire("put Macro@Attachment@All Clear#true")
+        time.sleep(0.5)
+        self.assertEqual(len(set(desk.part(110, 125, 120, 138))), 1)  # nothing in the first row
 
     def test_4_a_register_is_edited_in_place(self):
         desk, edit = self.desk, "put Macro@Reg@On Line Edit@"

@@ -1,4 +1,5 @@
-"""The panel's setup at the desk: a crosspoint table, a key 2 bus that runs a macro, names that reach the keys of a bank.
+"""The panel's setup at the desk: what buttons do, regions on the ten keys, a crosspoint table, a key 2 bus that runs a
+macro, names that reach the keys of a bank.
 
 usage: panel_setup_test.py BUILD_DIR [TEST...]
 """
@@ -10,8 +11,10 @@ from desk import grid
 from deskcase import DeskCase
 
 PANEL = "Engineering Setup@Panel@"
+PAD = f"{PANEL}Config@Program Button@Flexi Pad Module@Button Assign@"
+TENKEY = f"{PANEL}Config@10 Key Region Assign@"
 XPT = f"{PANEL}Xpt Assign@"
-SET, CLEAR = 52, 53
+SET, CLEAR, DEFAULT = 52, 53, 54
 YES = (200 + 97 + 20, 140 + 247 + 15)
 
 
@@ -26,6 +29,9 @@ class PanelSetup(DeskCase):
     def row(self, n, x=480, y=76):
         self.desk.touch(x, y + 22 * (n + 1) + 10, settle=0.15)
 
+    def pad(self, button):
+        self.desk.touch(112 + 70 * ((button - 1) % 4) + 20, 212 + 46 * ((button - 1) // 4) + 20, settle=0.15)
+
     def popup(self, place, columns, rows):
         width, height = 78 * columns + 26, 43 * rows + 76
         self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
@@ -34,6 +40,37 @@ class PanelSetup(DeskCase):
     def puts(self):
         time.sleep(0.2)
         return [line for line in self.desk.wire() if line.startswith("put Eng")]
+
+    def test_1_buttons_are_set_cleared_and_put_back(self):
+        self.open("7321.34")
+        for button, path in ((9, "09"), (10, "10")):
+            self.pad(button)
+            self.row(6)  # Shotbox
+            self.push(SET)
+            self.assertEqual(self.puts(), [f"put {PAD}{path}@Operation@Common@1#6,1,Shotbox"])
+            self.assertEqual(self.desk.value(f"{PAD}{path}@Operation@Common@1"), "6,1,Shotbox")
+        self.pad(1)
+        self.push(CLEAR)
+        self.assertEqual(self.desk.value(f"{PAD}01@Operation@Common@1"), "0,1,NO ASSIGN")
+        self.push(DEFAULT)
+        self.assertEqual(self.desk.value(f"{PAD}01@Operation@Common@1"), "1,1,Key")
+        before = self.desk.part(104, 200, 392, 396)
+        self.desk.console(f"put {PAD}03@Operation@Common@1#9,1,Undo")
+        time.sleep(0.3)
+        self.assertNotEqual(self.desk.part(104, 200, 392, 396), before, "another panel's change shows at once")
+
+    def test_2_regions_of_two_keys_at_once(self):
+        self.open("7321.1")
+        for number in (1, 2):
+            self.desk.touch(104 + 68 * (number - 1) + 20, 84 + 36)
+        self.desk.touch(456 + 61 + 20, 120)  # the second slot
+        self.row(2, y=154)  # M/E1
+        self.push(SET)
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@1"), "1,0,,M/E-1,,")
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@2"), "2,0,M/E-2,M/E-1,,")
+        self.push(DEFAULT)
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@1"), "1,0,M/E-1,,,")
+        self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@2"), "2,0,M/E-2,,,")
 
     def rows(self, path):
         """All rows of a list that the server holds."""
@@ -115,6 +152,19 @@ class PanelSetup(DeskCase):
         time.sleep(3)
         after = [self.desk.value(f"M/E-1@Key{key}@Status@Key ON") for key in (1, 2, 3)]
         self.assertEqual([a != b for a, b in zip(after, before)], [True, True, False])
+
+    def test_8_the_touch_panel_is_calibrated(self):
+        self.open("7327.1")
+        self.desk.touch(70, 60)
+        self.desk.touch(730, 540)
+        self.desk.touch(400, 300)
+        ok_x, ok_y = grid(53)
+        self.desk.touch(round((ok_x + 24) * 660 / 700), round((ok_y + 12) * 480 / 500))
+        time.sleep(0.5)
+        self.assertIn("Touch Panel Calibration: AX=70 AY=60 BX=730 BY=540", self.desk.log())
+        with open(os.path.join(self.desk.root, "i2c-0"), "rb") as file:
+            file.seek(0x53 * 256 + 8)
+            self.assertEqual(file.read(8), bytes([0, 70, 0, 60, 2, 0xDA, 2, 0x1C]))
 
 
 if __name__ == "__main__":

@@ -67,8 +67,8 @@ class Registers(DeskCase):
         self.assertTrue(line.startswith(head + ","), line)
         return line[len(head) + 1:].split(",")
 
-    def delete(self, *lines):
-        self.press(51)
+    def delete(self, *lines, key=51):
+        self.press(key)
         self.desk.touch(*YES, settle=0.2)
         self.assert_puts(*lines)
 
@@ -209,6 +209,72 @@ class Registers(DeskCase):
             self.page(page)
             self.row(1)
             self.assert_changes(command, rows, [row for row in (2, 7, 8, 9) if row not in rows])
+
+    def test_8_a_new_name_of_an_effect_shows_everywhere_and_a_lock_holds_it(self):
+        self.desk.console("panel store effect 9 M/E-1 A")
+        left, right, cell = (100, 124 + 22 * 9, 348, 340), (405, 124 + 22 * 9, 650, 340), (119, 398, 169, 418)
+        places = ((6221, (100, TOP + 22 * 9, 560, TOP + 22 * 9 + 20)), (6223, left), (6223, right), (6200, cell))
+
+        def looks():
+            for page, place in places:
+                self.page(page)
+                yield self.desk.part(*place)
+
+        before = list(looks())
+        self.page(6227)
+        self.row(9)
+        self.desk.touch(*grid(51))
+        self.desk.touch(39 + 12 + int(54 * 4) + 25, 115 + 91 + 54 * 3 + 25, settle=0.2)  # a letter of the third row
+        self.desk.wire()
+        self.desk.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25, settle=0.2)  # Enter
+        self.assert_puts(EFFECTS + f"Rename@Rename#{ME1},9,Ac")
+        for page, old, new in zip(places, before, looks()):
+            self.assertNotEqual(old, new, page)
+        self.page(6222)
+        self.row(9)
+        self.press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,true")
+        self.page(6226)
+        self.row(9)
+        self.delete()
+        self.page(6225)
+        self.row(2, A, DUAL_TOP)
+        self.row(9, B, DUAL_TOP)
+        self.press(49)  # nothing goes into a locked one
+        self.page(6222)
+        self.row(9)
+        self.press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,false")
+        for page, word in ((6225, "Swap"), (6224, "Move")):
+            self.page(page)
+            self.row(2, A, DUAL_TOP)
+            self.row(9, B, DUAL_TOP)
+            self.press(49, EFFECTS + f"{word}@{word}#{ME1},2,2,{ME1},9,false")
+        self.page(6226)
+        self.row(9)
+        self.delete(EFFECTS + f"Delete@Delete#{ME1},9,9")
+
+    def test_9_a_shotbox_is_locked_copied_swapped_and_deleted(self):
+        self.desk.console("panel store shotbox 3 NOON")
+        self.page(6412)
+        self.row(3)
+        self.press(50, SHOTBOX + "Lock#3,3")
+        self.page(6416)
+        self.row(3)
+        self.delete(key=50)
+        self.page(6412)
+        self.row(3)
+        self.press(50, SHOTBOX + "UnLock#3,3")
+        for page, word in ((6413, "Copy"), (6415, "Swap")):
+            self.page(page)
+            self.row(3, A, DUAL_TOP)
+            self.row(10, B, DUAL_TOP)
+            before = self.shown(10, top=DUAL_TOP)
+            self.press(49, SHOTBOX + f"{word}#3,3,10,false")
+            self.assertEqual(self.shown(10, top=DUAL_TOP) != before, word == "Copy")  # then they are alike
+        self.page(6416)
+        self.row(10)
+        before = self.shown(10)
+        self.delete(SHOTBOX + "Delete#10,10", key=50)
+        self.assertNotEqual(self.shown(10), before)
 
     def test_a_a_snapshot_of_a_user_plays_its_clip(self):
         event, output = SNAPSHOTS + "Clip Event@User1@FM1@AutoPlay#1,", "Frame Mem 2@Clip/Still@Output Status@FM1"

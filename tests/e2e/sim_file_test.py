@@ -191,6 +191,14 @@ class Drives(FileTest):
                          "NG(No Space Left)")
         self.assertEqual(sorted(os.listdir(self.path(LOCAL))), ["SYSTEM", "a", "big"])
 
+    def test_stick_pulled_in_the_middle_of_a_copy(self):
+        self.lay(LOCAL + "big", b"x" * 60_000_000)
+        ack = self.request("Access@Copy", f"MYHOST:{LOCAL}big", f"MYHOST:{STICK}big")
+        while not any(name.endswith(".part") for name in os.listdir(self.path(STICK))):
+            pass
+        os.rename(self.path(STICK[:-1]), self.path("/mnt/usb/.out"))
+        self.assertEqual(self.statuses("Access@Copy", ack), ["NG(No Device)"])
+
     def test_failures_on_request(self):
         self.do("ng next 2 Busy.")
         self.wait_for_log("console: ng next")
@@ -265,6 +273,13 @@ class Hub(HubTest):
         other.close()  # what it held is free again
         self.hub.until("Notify#SWR1.File:EFFECT.USER_ID:Non")
 
+    def test_second_user_and_unit_on_request(self):
+        self.listen(self.hub, "PNL1.File")
+        self.do("user ANNA holds PNL1 SHOTBOX", "user ANNA leaves PNL1 SHOTBOX", "unit PNL1 off", "unit PNL1 on")
+        self.assertEqual(self.hub.lines(4), [
+            "Notify#PNL1.File:SHOTBOX.USER_ID:ANNA", "Notify#PNL1.File:SHOTBOX.USER_ID:Non", "Disconnect#PNL1.File",
+            "Ready#PNL1.File"])
+
     def test_rubbish_is_heard_and_forgotten(self):
         for line in ("Request#SWR1.File", "Request#SWR1.File:SETUP", "Request#SWR1.File:SETUP.USER_ID:",
                      "Request#SWR1.File:NONE.USER_ID:A", "Request#SWR1.File:KEYMEM.WHAT:A", "Listen#", "Listen#SWR9.File",
@@ -280,6 +295,21 @@ class Hub(HubTest):
         self.hub.until("Disconnect#SWR1.File")
         self.hub.until("Ready#SWR1.File")
         self.reserve("SWR1", "SETUP", "MENU7")
+
+    def test_wrong_result_lists_on_request(self):
+        cases = {"lower": b"PNL_0001.PSB,ok\n", "trailing": b"PNL_0001.PSB,OK \n", "crlf": b"PNL_0001.PSB,OK\r\n",
+                 "ng": b"PNL_0001.PSB,NG(Busy)\n", "nocomma": b"a line without its mark\nPNL_0001.PSB,OK\n",
+                 "long": b"xxx,y\nPNL_0001.PSB,OK\n", "missing": None}
+        for word, wanted in cases.items():
+            self.do(f"results {word}")
+            self.reserve("PNL1", "SHOTBOX")
+            self.status("PNL1", "SHOTBOX", "Get")
+            path = "/var/units/PNL1/vorn/tmp/file/SHOTBOX/PNL1/result.lst"
+            if wanted is None:
+                self.assertFalse(os.path.exists(self.path(path)))
+            else:
+                self.assertIn(wanted, self.content(path), word)
+            self.status("PNL1", "SHOTBOX", "Standby")
 
 
 class ClipStore(HubTest):
