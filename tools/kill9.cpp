@@ -17,6 +17,7 @@
 #include "log.h"
 #include "macro_file.h"
 #include "menu_macro_private.h"
+#include "page.h"
 #include "process.h"
 #include "saver.h"
 #include "screen_capture.h"
@@ -43,6 +44,7 @@
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -122,6 +124,7 @@ static void WriteMenuMacro(int n)
          {"Header:" + Number(n), "Event:put A#" + Number(n), "Contnue:put B#" + Number(n)})
         mm_read_line(reader, line.c_str());
     (void)mm_register_store(0, reader.reg.register_data);
+    mm_current_register_all_dele(reader.reg.register_data);
     mm_rename_exec(1, ("N" + Number(n)).c_str());
     mm_copy_exec(1, 1, 2 + n % 5, false);
     mm_delete_delete_exec(2 + (n + 2) % 5, 2 + (n + 2) % 5);
@@ -290,10 +293,21 @@ static std::string LookProtection()
 
 constexpr int FAVORITES = 29; // of a set
 
+// A key leads to its page only where there is one.
+static std::vector<uint32_t> PagesThere()
+{
+    std::vector<uint32_t> ids;
+    for (const PAGE* row = PageTable; row->id != PAGE_END; row++)
+        if ((row->id & 0xFFFF) == 0 && Page_Exists(row->id))
+            ids.push_back(row->id);
+    return ids;
+}
+
 // The page that is open goes onto a key; its number stands in the record and in the caption.
 static void WriteFavorites(int n)
 {
-    GL_NowPage = uint32_t(n + 1) << 16;
+    static const std::vector<uint32_t> pages = PagesThere();
+    GL_NowPage = pages[size_t(n) % pages.size()];
     (void)favorites_select(KEY_STORE);
     (void)favorites_select(KEY_FAVORITE + n % FAVORITES);
 }
