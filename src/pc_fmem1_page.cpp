@@ -3,7 +3,6 @@
 // pairs and taken apart; what is frozen is stored. One body for all: a page has the keys of its
 // table. Nothing changes here by a touch: names, folders and outputs follow their tallies.
 #include "a_bt.h"
-#include "a_hf.h"
 #include "a_ls.h"
 #include "a_pc.h"
 #include "colours.h"
@@ -711,8 +710,6 @@ static int fmem1_create(int on, uint32_t kind)
     GL_FreezeStore_Exec = 0; // of a freeze that was left long ago
     Fmem1_Open(fm1.kind);
     follow_outputs("add");
-    constexpr int TAB_FOLDER = 3;
-    (void)HF_SetDisplay(TAB_FOLDER, SYS_FmemV6); // -1: the page has no such tab
     show_keys();
     return 0;
 }
