@@ -231,6 +231,51 @@ TEST_F(FileLists, AnEmptyListIsNoJobAndASecondCallIsNoSecondOne)
     EXPECT_EQ(FileCounter, 1);
 }
 
+TEST_F(FileLists, EveryListSaysItsCommandUnderItsTitle)
+{
+    static const struct {
+        int (*entry)(FILEXFERLIST** list, FILE_LIST_FUNC retfunc, int tag);
+        const char* command;
+        const char* title; // "" without a pane
+        bool has_lamp = false;
+        bool is_of_one_path = false;
+    } cases[] = {
+        {File_ExecListDirList, "Access@ListDir", "Scanning Directory", false, true},
+        {File_ExecTransferList, "Transfer@Transfer", "Transfer", true},
+        {File_ExecTransferList_BG, "Transfer@Transfer", ""},
+        {File_ExecFmGetList, "Frame Memory@Get", "Transfer", true},
+        {File_ExecFmGetList_BG, "Frame Memory@Get", ""},
+        {File_ExecFmPutList, "Frame Memory@PutV3", "Transfer", true},
+        {File_ExecFmMkThumbList_BG, "Frame Memory@Make Thumbnail", ""},
+        {File_ExecFmSFM2TIFList, "Frame Memory@SFM2TIF", "Export"},
+        {File_ExecFmTIF2SFMList, "Frame Memory@TIF2SFM", "Import"},
+        {File_ExecFmSFM2BMPList, "Frame Memory@SFM2BMP", "Export"},
+        {File_ExecFmBMP2SFMList, "Frame Memory@BMP2SFM", "Import"},
+        {File_ExecFmSFM2TGAList, "Frame Memory@SFM2TGA", "Export"},
+        {File_ExecFmTGA2SFMList, "Frame Memory@TGA2SFM", "Import"},
+        {File_ExecFieldInvert, "Frame Memory@FieldInvert", "Field Invert", false, true},
+        {File_ExecCopyList, "Access@Copy", "Copy"},
+        {File_ExecMoveList, "Access@Move", "Rename"},
+        {File_ExecRemoveList, "Access@Remove", "Delete", false, true},
+        {File_ExecCopydirList, "Access@Copydir", "Copy"},
+        {File_ExecMakeVector, "Access@MakeVector", "Make Vector File"},
+    };
+    for (const auto& c : cases) {
+        Fill(1);
+        EXPECT_GT(c.entry(&list, List, 0), 0);
+        const std::string label = std::to_string(list->label);
+        EXPECT_THAT(Sent(), Contains("put File@" + std::string(c.command) + "#L" + label +
+                                     ",MYHOST:/s/f0" + (c.is_of_one_path ? "" : ",MYHOST:/d/f0")));
+        const PANE* const pane = pane_find(QueueRoot->paneid);
+        EXPECT_STREQ(pane ? pane->caption : "", c.title) << c.command;
+        EXPECT_EQ(pane ? pane->each.progress.lamp : ROUTE_LAMP_NONE,
+                  c.has_lamp ? ROUTE_LAMP_CONTROL : ROUTE_LAMP_NONE)
+            << c.command;
+        (void)Pane_Quit(QueueRoot->paneid);
+        File_XferList_RemoveAll(&list);
+    }
+}
+
 TEST_F(FileLists, RepliesInAnyOrderEndTheJobOnce)
 {
     Fill(3);

@@ -145,6 +145,7 @@ TEST_F(DirectoryPage, TakesNoMoreThanADriveMayHold)
     const Lines sent = Drive(1);
     ASSERT_EQ(sent.size(), 1u);
     EXPECT_TRUE(sent[0].ends_with(",MYHOST:/mnt/usb/usb1/")) << sent[0];
+    EXPECT_EQ(Caption(DEVICE), "Removable\nDrive");
     List(sent, names, "/mnt/usb/usb1/");
     EXPECT_EQ(Rows().size(), 120u);
     Take(Make("PWON_LD"), "Mkdir");

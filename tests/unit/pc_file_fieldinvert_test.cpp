@@ -85,6 +85,10 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
     Lines again = Tell(path + "@Status#77,OK");
     List(again, {logo + tail + "1,1"});
     EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i||O|O");
+    (void)Open(0x71540000);
+    EXPECT_NE(QueueRoot, nullptr);
+    (void)Leave();
+    EXPECT_EQ(QueueRoot, nullptr) << "a search that nobody waits for";
 }
 
 TEST_F(FieldInvertPage, RowsThatAreNone)

@@ -136,6 +136,10 @@ TEST_F(XportPage, ImportTakesEmptyRegistersAndMovesThemIntoTheFolder)
     Press(BTN_XPORT_FOLDER_A);
     Quit(2);
     EXPECT_EQ(Caption(BTN_XPORT_FOLDER_A), "Sport");
+    Folders("0,Default.,2,Gone");
+    EXPECT_EQ(Caption(BTN_XPORT_FOLDER_A), "Default.");
+    Folders("0,Default.,2,Sport");
+    EXPECT_EQ(Caption(BTN_XPORT_FOLDER_A), "Sport");
     Select(2, {0, 1});
     Converted({"Mbeach.FMEM_001.SF2", "Sbeach.FMEM_002.SF2", "Mwith_a_l.FMEM_001.SF2"});
     Pass(1000);
@@ -478,6 +482,19 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
         ASSERT_NE(Pane_GetActiveID(), 0);
         Pane_Quit(Pane_GetActiveID());
     }
+    // And back: old is there already.
+    while (Pane_GetActiveID())
+        Pane_Quit(Pane_GetActiveID());
+    Pass(1000);
+    SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+    Select(2, {0, 1, 2});
+    Pass(1000);
+    Press(BTN_XPORT_IMPORT);
+    EXPECT_THAT(
+        items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
+        ElementsAre(root + "new.SFH/new#000000.SFH " + store + "new.SFH/new#000000.SFH 2",
+                    root + "new.SFH/new#000001.SFH " + store + "new.SFH/new#000001.SFH 2",
+                    root + "one.SFH " + store + "one.SFH 1"));
     FileXport_Reset();
 }
 
