@@ -3,6 +3,7 @@
 #include "a_kf_frames.h"
 #include "bus.h"
 #include "device.h"
+#include "file.h"
 #include "global.h"
 #include "harness.h"
 #include "initread.h"
@@ -18,6 +19,7 @@
 #include <memory>
 #include <netinet/in.h>
 #include <sys/socket.h>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -747,4 +749,32 @@ TEST_F(Link, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)
     ASSERT_TRUE(peer.Accept());
     peer.Send("B#2\n");
     EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("B#2"));
+}
+
+// The install pumps the link itself until the server has answered.
+TEST_F(Link, AFileOfTheInstallIsWaitedFor)
+{
+    static const struct {
+        const char* reply;
+        int result;
+    } cases[] = {{"OK", 0}, {"NG(no)", -1}, {"OK", 0}};
+    Peer peer(NET_TEXT_PORT);
+    Connect(peer);
+    for (const auto& c : cases) {
+        std::string line;
+        std::thread server([&] {
+            for (int i = 0; i < 200 && line.empty(); i++)
+                for (const std::string& sent : peer.Lines(10))
+                    if (sent.starts_with("put File@"))
+                        line = sent;
+            const size_t label = line.find('#');
+            peer.Send("File@Transfer@Transfer" + line.substr(label, line.find(',') - label) +
+                      ",7\nFile@Transfer@Transfer@Status#7," + c.reply + "\n");
+        });
+        EXPECT_EQ(File_InstallPut("/a", "/b", "10.0.0.1"), c.result) << c.reply;
+        server.join();
+        EXPECT_THAT(line, testing::MatchesRegex("put File@Transfer@Transfer#L[0-9]+,MYHOST:/a,"
+                                                "10.0.0.1:/b"));
+    }
+    EXPECT_EQ(File_InstallPut("/a", nullptr, "10.0.0.1"), -1);
 }

@@ -449,11 +449,14 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
     Press(BTN_XPORT_TYPE);
     const Lines sent = Quit(XPORT_TYPES + 1);
     EXPECT_EQ(Caption(BTN_XPORT_TYPE), "FrameMem\n(.SFH)");
-    Answer(sent, "Access@ListDir", {});
-    Answer(sent, "Access@Find2",
-           {"/mnt/usb/usb1/old.SFH/old#000000.SFH", "/mnt/usb/usb1/new.SFH/new#000000.SFH",
-            "/mnt/usb/usb1/new.SFH/new#000001.SFH", "/mnt/usb/usb1/one.SFH"});
-    (void)ShownClips();
+    const auto list_drive = [](const Lines& asked) {
+        Answer(asked, "Access@ListDir", {});
+        Answer(asked, "Access@Find2",
+               {"/mnt/usb/usb1/old.SFH/old#000000.SFH", "/mnt/usb/usb1/new.SFH/new#000000.SFH",
+                "/mnt/usb/usb1/new.SFH/new#000001.SFH", "/mnt/usb/usb1/one.SFH"});
+        (void)ShownClips();
+    };
+    list_drive(sent);
     EXPECT_THAT(Files(), ElementsAre("new", "old", "one"));
     const auto items = [](FILEWORKTYPE work) {
         Lines lines;
@@ -475,7 +478,8 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
     // The hub goes half way: what looks like a clip does, too.
     (void)TakeQueuedCommands();
     SendMessage(MSG_SHPTALLY, Arg("Disconnect"), Arg("CS1.File"), 0, 0);
-    EXPECT_THAT(TakeQueuedCommands(),
+    const Lines after = TakeQueuedCommands();
+    EXPECT_THAT(after,
                 Contains(AllOf(HasSubstr("Access@Rmdir#"), testing::EndsWith(root + "intro.SFH")))
                     .Times(1));
     while (Message().find("duplicate") == std::string::npos) { // old: frames of both would be one
@@ -485,16 +489,15 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
     // And back: old is there already.
     while (Pane_GetActiveID())
         Pane_Quit(Pane_GetActiveID());
-    Pass(1000);
+    list_drive(after);
     SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
     Select(2, {0, 1, 2});
     Pass(1000);
     Press(BTN_XPORT_IMPORT);
-    EXPECT_THAT(
-        items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
-        ElementsAre(root + "new.SFH/new#000000.SFH " + store + "new.SFH/new#000000.SFH 2",
-                    root + "new.SFH/new#000001.SFH " + store + "new.SFH/new#000001.SFH 2",
-                    root + "one.SFH " + store + "one.SFH 1"));
+    EXPECT_THAT(items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
+                ElementsAre(root + "new.SFH/new#000000.SFH " + store + "new.SFH/new#000000.SFH 2",
+                            root + "new.SFH/new#000001.SFH " + store + "new.SFH/new#000001.SFH 2",
+                            root + "one.SFH " + store + "one.SFH 1"));
     FileXport_Reset();
 }
 
