@@ -619,6 +619,8 @@ TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
         Open(PAGE_MACRO_REGISTERS);
         Cursor(1, 6);
         EXPECT_EQ(BT_GetVisible(key), BT_ENABLED);
+        GL_MacroEditNo = 0;
+        GL_MacroEditNoName[0] = '\0';
         (void)Key(key);
         EXPECT_EQ(GL_MacroEditNo, 7);
         EXPECT_STREQ(GL_MacroEditNoName, "7  Name: OPENING");
@@ -660,6 +662,7 @@ TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
     (void)Key(BTN_FILE_EDIT);
     EXPECT_EQ(GL_CreatePage, PAGE_MACRO_OFFLINE);
     EXPECT_EQ(FileText(MACRO_EDIT_FILE), "PNL 0001PNL_0007.PMRM7\n");
+    EXPECT_STREQ(GL_MacroEditNoName, "7  Name: MCRO7");
     // Where no file can be made it is said.
     ASSERT_EQ(unlink(MACRO_EDIT_FILE) + rmdir(MACRO_EDIT_DIR), 0);
     std::ofstream(MACRO_EDIT_DIR) << "in the way";
