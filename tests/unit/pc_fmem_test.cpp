@@ -2,6 +2,7 @@
 // the hub, what is refused, and what a queue of file operations does one after another.
 #include "a_ff_private.h"
 #include "a_fm.h"
+#include "display.h"
 #include "fmctrl3.h"
 #include "netio.h"
 #include "page_table/fmem_clip.h"
@@ -9,6 +10,7 @@
 #include "pane_private.h"
 #include "pc_fmem.h"
 #include "table_page.h"
+#include "tdl.h"
 #include "text.h"
 #include "window.h"
 #include <utility>
@@ -422,8 +424,12 @@ TEST_F(ClipPages, LoadsOrUnloadsTheClipsAmongWhatIsChecked)
         if (key == BTN_FMEM_LOAD)
             Answer(0); // to the pane that says that memory is full
         EXPECT_EQ(FF_GetCheckedObjectNum(0), 0);
-        Cell(0, "STILL");
+        (void)FF_ChangeDirectory(0, "/NEWS/A");
+        (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
+        Pass(1000); // the keys can be pressed again
+        Cell(0, "ONE");
         (void)Press(key);
+        EXPECT_THAT(Asked(), ElementsAre(asked + " root/NEWS/A/ONE.SFH"));
         (void)Leave();
         EXPECT_FALSE(fmem_progress_is_busy()) << "it ends with its page";
     }
@@ -432,16 +438,32 @@ TEST_F(ClipPages, LoadsOrUnloadsTheClipsAmongWhatIsChecked)
 TEST_F(ClipPages, TheRoomInMemoryIsShownOnceTheHubHasToldIt)
 {
     OpenPage(0x21120000);
+    Pass(10);
+    const Display display;
     const auto room = [](int total) {
         SYS_MemoryFree = SYS_MemoryTotal = total;
         SendMessage(LMSG_FMLOAD, 0, 0, 0, 0);
         Pass(10);
+        EXPECT_EQ(Display::Lacks(), "");
         return PixelsIn({332, FMEM_KEYS_Y + 33, 434, FMEM_KEYS_Y + 52});
     };
     const auto none = room(0);
     EXPECT_THAT(none, Each(none[0]));
-    EXPECT_NE(room(3000), none);
+    const auto some = room(3000);
+    EXPECT_NE(some, none);
     EXPECT_EQ(room(0), none);
+    // A page that opens shows what was told before; nothing more is painted without news.
+    constexpr Rect WHOLE = {332, FMEM_KEYS_Y + 14, 434, FMEM_KEYS_Y + 52};
+    SYS_MemoryFree = SYS_MemoryTotal = 3000;
+    (void)Open(0x21120000);
+    Pass(10);
+    const auto label = PixelsIn({WHOLE.x1, WHOLE.y1, WHOLE.x2, WHOLE.y1 + 18});
+    EXPECT_THAT(label, Contains(Not(label[0])));
+    EXPECT_EQ(PixelsIn({WHOLE.x1, WHOLE.y1 + 19, WHOLE.x2, WHOLE.y2}), some);
+    TDL_FillRect(WHOLE.x1, WHOLE.y1, WHOLE.x2, WHOLE.y2, 0x123456);
+    Pass(10);
+    EXPECT_THAT(PixelsIn(WHOLE), Each(0x123456u));
+    SYS_MemoryFree = SYS_MemoryTotal = 0;
 }
 
 TEST_F(ClipPages, CouplesWhatFits)
