@@ -1,8 +1,11 @@
 #include "device.h"
+#include "display.h"
 #include "global.h"
 #include "harness.h"
 #include "log.h"
+#include "loop.h"
 #include "page.h"
+#include "window.h"
 #include <algorithm>
 #include <cstdio>
 #include <unistd.h>
@@ -52,6 +55,29 @@ struct PageTest : testing::Test {
     size_t log_read = 0;
 };
 
+struct Navigation {
+    uint32_t now, before, front, back, front_before, back_before;
+    int side, is_turned, me_key, front_at, front_end, back_at, back_end;
+    bool operator==(const Navigation&) const = default;
+};
+Navigation WhereWeAre()
+{
+    return {GL_NowPage,
+            GL_PrevPage,
+            GL_OmoteNowPage,
+            GL_UraNowPage,
+            GL_OmotePrevPage,
+            GL_UraPrevPage,
+            OmoteFlag,
+            OmoteChange,
+            MeKeyTpye,
+            Omote_History_NowPtr,
+            Omote_History_MaxPtr,
+            Ura_History_NowPtr,
+            Ura_History_MaxPtr};
+}
+const Navigation at_start = WhereWeAre(); // before anything has run
+
 // A page that no table brings, for the words of its path.
 struct FakePage {
     PAGE row;
@@ -89,6 +115,65 @@ TEST_F(PageTest, OpeningAPageTakesItsRow)
     EXPECT_EQ(GL_PrevPage, 0x12310000u);
 }
 
+TEST_F(PageTest, TheProcessStartsAtTheFrontOfTheTopMenu)
+{
+    EXPECT_EQ(at_start, (Navigation{0, 0, PAGE_TOP, PAGE_TOP, 0, 0, 1, 0, 0, -1, -1, -1, -1}));
+    CreatePage(KeyPage(0));
+    OmoteFlag = 0;
+    OmoteChange = 1;
+    CreatePage(KeyPage(1));
+    CreatePage(KeyPage(2));
+    Page_Reset();
+    EXPECT_EQ(WhereWeAre(), at_start);
+    OmoteFlag = 0; // a turn to a page that is not there
+    OmoteChange = 1;
+    EXPECT_EQ(CreatePage(0x11119999), -1);
+    EXPECT_EQ(OmoteFlag, 1);
+}
+
+TEST_F(PageTest, TheDisplayGoesFromPageToPageInOneStep)
+{
+    static std::vector<uint32_t> first;
+    const auto now = [] { return PixelsIn({0, 0, SCREEN_W - 1, SCREEN_H - 1}); };
+    CreatePage(KeyPage(0));
+    {
+        const Display display;
+        CreatePage(0x71210000); // a list and its scroll bar
+        EXPECT_EQ(Display::Lacks(), "");
+    }
+    first.clear();
+    TDL_WatchFlush([](int, int, int, int) {
+        if (first.empty())
+            first = PixelsIn({0, 0, SCREEN_W - 1, SCREEN_H - 1});
+    });
+    CreateWindow(WINDOW_PAGE_JUMP, "");
+    first.clear();
+    CreatePage(KeyPage(1));
+    TDL_WatchFlush(nullptr);
+    EXPECT_TRUE(first == now());
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
+    RefreshScreen();
+    EXPECT_TRUE(first == now()) << "nothing was left to be painted";
+}
+
+// With a page of the global effect goes the subscription that says which pages there are.
+TEST_F(PageTest, CombinedChannelsAreFollowedOnOtherPages)
+{
+    static const struct {
+        uint32_t page;
+        bool has_them;
+    } cases[] = {{0x42110000, true}, {0x33110000, true}, {0x41110000, false}, {0x32110000, false}};
+    for (const auto& c : cases) {
+        ASSERT_EQ(CreatePage(c.page), 0);
+        (void)TakeQueuedCommands();
+        ASSERT_EQ(CreatePage(PAGE_TOP), 0);
+        const Strings sent = TakeQueuedCommands();
+        EXPECT_EQ(std::ranges::count(sent, "add Global Effect@Ch5-Ch8@Combine@Ch8"), c.has_them)
+            << std::hex << c.page;
+        EXPECT_THAT(sent.back(), testing::StartsWith(c.has_them ? "add " : "")) << "the last word";
+    }
+}
+
 TEST_F(PageTest, ARequestWithoutAPageLeavesAllAsItWas)
 {
     CreatePage(0x11110000);
@@ -121,6 +206,8 @@ TEST_F(PageTest, MenuKeysReopenTheirLastPage)
         {0x86110000, 4, 0x86110000},
         {0x18410000, 5, 0x18410000},
         {0x21110000, 6, 0x21110000},
+        {0x25110000, 6, 0x25110000}, // of a system without clip store
+        {0x21110000, 6, 0x21110000},
         {0x99000000, 6, 0x21110000}, // covers the page, which stays remembered
     };
     for (const auto& s : steps) {
@@ -128,10 +215,20 @@ TEST_F(PageTest, MenuKeysReopenTheirLastPage)
         EXPECT_EQ(TopMenu[s.row].page, s.reopens) << std::hex << s.visit;
     }
 
+    const std::string told = "set TopMenu#";
     for (int i = 0; TopMenu[i].caption; i++) {
-        EXPECT_EQ(CreatePage(TopMenu[i].page), 0) << TopMenu[i].caption;
+        const TOPMENU menu = TopMenu[i];
+        (void)TakeQueuedCommands();
+        EXPECT_EQ(CreatePage(menu.page), 0) << menu.caption;
         EXPECT_STREQ(NowTopMenu, Page->tree[0]);
+        Strings sent = TakeQueuedCommands();
+        std::erase_if(sent, [&](const std::string& s) { return !s.starts_with(told); });
+        if (menu.caption != std::string("Setup")) { // the menu of the key before it
+            EXPECT_THAT(sent, ElementsAre(told + menu.caption));
+        }
     }
+    for (const auto& s : steps)
+        EXPECT_EQ(TopMenu[s.row].page, s.row == 6 ? 0x21110000 : s.reopens);
 }
 
 TEST_F(PageTest, HistoryGoesBackAndForward)
@@ -172,6 +269,10 @@ TEST_F(PageTest, AStepBackFromAnErrorPageReturnsToTheCoveredPage)
     ASSERT_EQ(HistoryBack(1), 0);
     EXPECT_EQ(GL_CreatePage, KeyPage(1));
     EXPECT_EQ(Omote_History_NowPtr, 1);
+    for (int n = 0; n < 2; n++) { // the second time it is built anew
+        CreatePage(KeyPage(2));
+        EXPECT_EQ(GL_PrevPage, KeyPage(1)) << "nobody goes back to an error page";
+    }
 }
 
 TEST_F(PageTest, TheFiftyFirstPageDropsTheOldest)
