@@ -34,18 +34,23 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"Info@DME@SelCH", "ffffffffffff", &SYS_DMEChannel, INT_MAX},
         {FORMAT "Reference@SWR1", "BB", &DEV_Swr[0].refinputformat, 1},
         {FORMAT "Switcher Aspect", "SWR1,16:9,4:3,16:9", &DEV_Swr[0].aspect[0], 1},
-        {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[2], 1},      // no part, no change
+        {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[2], 1}, // no part, no change
+        {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[1], 0},
         {FORMAT "Switcher Aspect", "DME1,16:9,4:3", &DEV_Dme[0].aspect[1], 1}, // not a switcher
         {FORMAT "Video Format2@SWR1", "3,6,2", &SYS_Format_Size, 3},
         {FORMAT "3D Mode@SWR1", "On", &SYS_3DMode, 1},
         {FORMAT "3D Mode@SWR2", "Off", &SYS_3DMode, 1}, // not this panel's switcher
         {"Engineering Setup@DME@Model@DME1", "2", &DEV_Dme[0].type, DEVTYPE_HLDB7},
         {"Engineering Setup@DME@Model@DME1", "9", &GL_DmeModel[0], 9}, // none of today's
-        {"Engineering Setup@DME@Model@DME1", "17", &GL_DmeModel[0], 9},
+        {"Engineering Setup@DME@Model@DME1", "16", &GL_DmeModel[0], 16},
+        {"Engineering Setup@DME@Model@DME1", "17", &GL_DmeModel[0], 16},
+        {"Engineering Setup@DME@Model@DME1", "0", &GL_DmeModel[0], 0},
         {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &SYS_FmemAncillary, 0},
         {"Info@System Setup Data@FM Data Port Disable@SWR2", "129,3", &GL_FMDataPortDisable[1],
          1 | 3 << 7},
         {"Info@System Setup Data@FM Data Port Disable@SWR2", "0,-1", &GL_FMDataPortDisable[1], 0},
+        {"Info@System Setup Data@FM Data Port Disable@SWR1", "1,2", &GL_FMDataPortDisable[0],
+         1 | 2 << 7},
         {PANEL "Config@M/E Operation@P/P", "Disable", &SYS_MEOperation[5], 1},
         {PANEL "Config@M/E Operation@P/P", "Inhibit", &SYS_MEOperation[5], 2},
         {PANEL "Xpt Assign@Assign", "253,7,-1", &SYS_XptAssignK[253], -1},
@@ -55,12 +60,17 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"MPE@Fx@Channel@Selected", "1a", &SYS_MPEChannel, 0x1A},
         {FORMAT "Video Format2@SWR1", "3,15,2", &DEV_Swr[0].format_freq, 15},
         {FORMAT "Video Format2@SWR1", "3,16,2", &DEV_Swr[0].format_freq, 15},
+        {FORMAT "Video Format2@SWR1", "3,15,2", &DEV_Swr[0].format_scan, 2},
+        {FORMAT "Video Format2@SWR1", "0,0,0", &DEV_Swr[0].format_freq, 0},
         {FORMAT "DME Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[1], 1},
         {FORMAT "DME Aspect", "DME1,4:3,16:9", &DEV_Dme[0].aspect[0], 0},
+        {FORMAT "DME Aspect", "DME1,16:9,16:9,16:9,16:9", &DEV_Dme[0].aspect[3], 1},
+        {FORMAT "DME Aspect", "DME1,16:9,16:9,16:9,4:3", &DEV_Dme[0].aspect[3], 0},
         {FORMAT "DME Aspect", "DME1,4:9,16:9", &DEV_Dme[0].aspect[0], 1},
         {FORMAT "Reference@SWR1", "Tri", &DEV_Swr[0].refinputformat, 0},
         {FORMAT "4K Mode", "On", &SYS_4KMode, 1},
-        {SYSTEM_CONFIG "Panel Assign", "0,7,8,0,0,0", &SYS_PnlAssign[0][1], 8},
+        {SYSTEM_CONFIG "Panel Assign", "0,7,8,9,9,9", &SYS_PnlAssign[0][1], 8},
+        {SYSTEM_CONFIG "Panel Assign", "0,7,8,9,9,9", &SYS_PnlAssign[1][0], 1}, // of another row
         {SYSTEM_CONFIG "Switcher Assign", "2,3,4,5,262", &SYS_SwrAssign[2][3], 6},
         {SYSTEM_CONFIG "Switcher Assign", "2,9,9,9", &SYS_SwrAssign[2][0], 3}, // a part is missing
         {SYSTEM_CONFIG "Switcher Assign", "KILL", &SYS_SwrAssign[2][3], 0},
@@ -76,6 +86,7 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "8", &SYS_3DPair, 2},
         {"16@Engineering Setup@System@Install@Unit Config@CCR Config", "4", &SYS_3DPair, 21},
         {"File@Status@FM Data Port Status@SWR2", "L7,5", &GL_FMDataPortStatus[1], 5},
+        {"File@Status@FM Data Port Status@SWR1", "1", &GL_FMDataPortStatus[0], 1},
         {"Info@Board Config@Unit Model@SWR1", "12", &DEV_Swr[0].type, DEVTYPE_NTR40},
         {"Engineering Setup@System@Install@Unit Config@M/E Split", "1,3", &GL_BoardMESplit[1], 3},
         {"Engineering Setup@System@Install@Unit Config@M/E Split", "1,3", &GL_KeyMax[1], 4},
@@ -89,6 +100,31 @@ TEST_F(BusTally, AValueLandsInItsPlace)
 }
 
 // --- Units ---
+
+// The page hears of another reference, once, and not of the tally itself.
+TEST_F(BusTally, AChangeOfTheEffectsReferenceIsTold)
+{
+    Deliver("Info@DME@RefCH", "1");
+    probe::seen.clear();
+    for (const char* value : {"3", "3", "0"}) {
+        EXPECT_EQ(Deliver("Info@DME@RefCH", value), 1);
+        EXPECT_EQ(SYS_DMEReference, value[0] - '0');
+    }
+    EXPECT_EQ(probe::Count(LMSG_DMEREFCHANGE), 2);
+    EXPECT_EQ(Deliver("Info@DME@SelCH", "1"), 1);
+    EXPECT_EQ(probe::Count(MSG_TALLY), 0);
+}
+
+// What the hub says of a data port is asked for where one is told to be out of use.
+TEST_F(BusTally, ADataPortThatIsOutOfUseIsAskedFor)
+{
+    std::fill(std::begin(GL_FMDataPortDisable), std::end(GL_FMDataPortDisable), 0);
+    (void)TakeQueuedCommands();
+    Deliver("Info@System Setup Data@FM Data Port Disable@SWR1", "1,0");
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(HasSubstr("SWR1")));
+    Deliver("Info@System Setup Data@FM Data Port Disable@SWR1", "0,0");
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+}
 
 TEST_F(BusTally, AVideoFormatSetsTheUnitsRateAndLines)
 {
@@ -106,16 +142,29 @@ TEST_F(BusTally, AVideoFormatSetsTheUnitsRateAndLines)
         {"PNL1", "25/50", 25.0, 4, 30}, // no size
         {"PNL1", "", 25.0, 4, 30},
         {"PNL1", "25/50,720p", 25.0, 3, 25},
+        {"PNL1", "29.97/59.94,480i", 29.97, 1, 30},
+        {"PNL1", "24,576i", 24.0, 2, 24},
+        {"PNL1", "24,1080PsF", 24.0, 5, 24},
+        {"PNL1", "---,720p", 30.0, 3, 60},
         {"PNL1", "25/50", 25.0, 3, 30},
+        {"SWR1", "24,480i", 24.0, 1, 30}, // only a panel sets the rate of the time codes
+        {"SWR1", "---,720p", 30.0, 3, 30},
+        {"DME1", "24,480i", 24.0, 1, 30},
+        {"DME1", "---,720p", 24.0, 3, 30}, // these keep a rate that nobody knows
+        {"MPE1", "25/50,480i", 25.0, 1, 30},
+        {"MPE1", "---,720p", 25.0, 3, 30},
     };
+    Deliver(network_list, "MPE001D001,MPE1,a,b,c");
     for (const auto& c : cases) {
+        const DEVICE* const unit = Device_ByName(c.unit);
+        ASSERT_TRUE(unit) << c.unit;
         Deliver(std::string(FORMAT "Video Format@") + c.unit, c.value);
-        EXPECT_EQ(DEV_Pnl[0].framerate, c.framerate) << c.value;
-        EXPECT_EQ(DEV_Pnl[0].activeline, c.activeline) << c.value;
+        EXPECT_EQ(unit->framerate, c.framerate) << c.value;
+        EXPECT_EQ(unit->activeline, c.activeline) << c.value;
         EXPECT_EQ(SYS_FrameRate, c.frame_rate) << c.value;
     }
     EXPECT_EQ(SYS_RefPnlActiveLine, 3);
-    // Only a panel sets the rate of the time codes, and only a unit that is there is set at all.
+    // Only a unit that is there is set at all.
     Deliver(FORMAT "Video Format@SWR1", "25/50,1080i");
     Deliver(FORMAT "Video Format@PNL4", "25/50,1080i");
     EXPECT_EQ(SYS_FrameRate, 30);
@@ -124,8 +173,19 @@ TEST_F(BusTally, AVideoFormatSetsTheUnitsRateAndLines)
 
 TEST_F(BusTally, TheListOfUnitsIsClearedFilledAndUpdated)
 {
+    Deliver(network_list, "MPE001D001,MPE1,a,b,c");
+    for (const int known : {4, 4, 0}) { // what was told of a unit is not told again
+        Deliver(network_list, "KILL");
+        EXPECT_EQ(SYS_PnlMax + SYS_SwrMax + SYS_DmeMax + SYS_MpeMax, 0);
+        Deliver(network_list, known ? "SWR001D001,SWR1,a,b,c" : "SWR009D001,SWR9,a,b,c");
+        if (known)
+            Deliver(FORMAT "Video Format@SWR1", "30/60,1080i");
+        EXPECT_EQ(DEV_Swr[0].activeline, known);
+        Deliver(network_list, "KILL");
+        Deliver(network_list, known ? "SWR001D001,SWR1,a,b,c" : "SWR009D001,SWR9,a,b,c");
+        EXPECT_EQ(DEV_Swr[0].activeline, known);
+    }
     Deliver(network_list, "KILL");
-    EXPECT_EQ(SYS_PnlMax + SYS_SwrMax + SYS_DmeMax + SYS_MpeMax, 0);
     Deliver(network_list, "SWR001D001,SWR1,10.1.2.1,10.129.2.1,10.2.2.1");
     Deliver(network_list, "SWR002D001,SWR2,10.1.2.2,10.129.2.2,10.2.2.2");
     Deliver(network_list, "SWR001D001,SWR7,1,2,3,4"); // the last part keeps its comma
@@ -174,7 +234,7 @@ TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)
         int first, second, renewed;
     } cases[] = {
         {"1,1,0,0,0,0", 1, 0, 0},     // as before
-        {"2,7,8,0,0,0", 1, 0, 0},     // another panel
+        {"2,7,8,9,9,9", 1, 0, 0},     // another panel
         {"1,3,4,0,0", 1, 0, 0},       // a part is missing
         {"1,258,513,0,0,0", 2, 1, 1}, // 8 bits each
         {"256,9,9,9,9,9", 2, 1, 0},   {"KILL", 0, 0, 0},
@@ -182,7 +242,14 @@ TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)
     };
     for (const auto& c : cases) {
         GL_InitReadSHP = 0;
+        (void)TakeQueuedHubLines();
         Deliver(SYSTEM_CONFIG "Panel Assign", c.value);
+        const Strings hub = TakeQueuedHubLines();
+        EXPECT_EQ(hub.empty(), !c.renewed) << c.value;
+        if (c.renewed) { // what the old ones had goes first
+            EXPECT_EQ(hub.front().substr(0, 9), "Unlisten#") << c.value;
+            EXPECT_EQ(hub.back().substr(0, 7), "Listen#") << c.value;
+        }
         EXPECT_EQ(SYS_PnlAssign[1][0], c.first) << c.value;
         EXPECT_EQ(SYS_PnlAssign[1][1], c.second) << c.value;
         EXPECT_EQ(GL_InitReadSHP, c.renewed) << c.value;
