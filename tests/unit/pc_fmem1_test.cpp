@@ -1,4 +1,5 @@
 // The frame-memory pages of a system without a clip store: what the list shows, what goes out.
+#include "display.h"
 #include "frame_page.h"
 #include "page_table/fmem_store.h"
 
@@ -67,6 +68,86 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
     EXPECT_THAT(List(), ElementsAre("*6|run|3|2"));
 }
 
+TEST_F(FrameMemoryPage, KeysWorkOnWhatIsSelected)
+{
+    static const struct {
+        uint32_t page;
+        std::vector<int> rows, usable;
+    } cases[] = {
+        {STILL_FILES, {}, {}},
+        {STILL_FILES,
+         {0},
+         {BTN_FMEM1_RENAME, BTN_FMEM1_DELETE, BTN_FMEM1_MOVE, BTN_FMEM1_SEPARATE}},
+        {STILL_FILES, {1}, {BTN_FMEM1_RENAME, BTN_FMEM1_DELETE, BTN_FMEM1_MOVE}},
+        {STILL_FILES, {1, 2}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE, BTN_FMEM1_COUPLE}},
+        {STILL_FILES, {0, 1}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE}},
+        {STILL_FILES, {0, 1, 2}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE}},
+        {CLIP_FILES, {}, {}},
+        {CLIP_FILES,
+         {0},
+         {BTN_FMEM1_RENAME, BTN_FMEM1_DELETE, BTN_FMEM1_MOVE, BTN_FMEM1_ANCILLARY}},
+    };
+    const std::vector<int> keys = {BTN_FMEM1_RENAME, BTN_FMEM1_DELETE,   BTN_FMEM1_MOVE,
+                                   BTN_FMEM1_COUPLE, BTN_FMEM1_SEPARATE, BTN_FMEM1_ANCILLARY};
+    for (const auto& c : cases) {
+        Open(c.page);
+        Select(1, c.rows);
+        SendMessage(LMSG_LISTSEL, 1, c.rows.empty() ? 0 : c.rows.back(), 0, 0);
+        EXPECT_EQ(Usable(keys), c.usable) << testing::PrintToString(c.rows);
+    }
+    // Without a switcher, or with one folder only, nothing can be sent anywhere.
+    const std::vector<int> places = {BTN_FMEM1_RECALL_A, BTN_FMEM1_RECALL_B, BTN_FMEM1_MOVE,
+                                     BTN_FMEM1_FOLDER};
+    DEVICE* const unit = std::exchange(DEV_MySwr[0], nullptr);
+    for (const uint32_t page : {STILLS, CLIP_FILES}) {
+        Open(page);
+        EXPECT_EQ(Usable(places), std::vector<int>{BTN_FMEM1_FOLDER});
+    }
+    DEV_MySwr[0] = unit;
+    Folders("0,Default.,2,");
+    Open(CLIP_FILES);
+    EXPECT_EQ(Usable(places), std::vector<int>{});
+    Open(STILLS);
+    EXPECT_EQ(Usable(places), std::vector<int>({BTN_FMEM1_RECALL_A, BTN_FMEM1_RECALL_B}));
+}
+
+TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
+{
+    const std::string path = "Frame Mem@Recall@Recall Thumbnail@";
+    EXPECT_THAT(Open(STILLS),
+                testing::IsSupersetOf(
+                    {"add " + path + "Select", "add " + path + "FM1", "add " + path + "FM8"}));
+    Pass(10);
+    {
+        const Display display;
+        const auto seen = [] {
+            Pass(10);
+            EXPECT_EQ(Display::Lacks(), "");
+            return PixelsIn({405, 351, 702, 434});
+        };
+        auto before = seen();
+        for (const char* line : {"FM1#Mlogo", "FM8#Slogo", "Select#FM7&8", "FM8#"}) {
+            Tell(path + line);
+            EXPECT_NE(seen(), before) << line;
+            before = seen();
+        }
+        for (const char* line : {"FM9#Mlogo", "FM0#Mlogo", "FM12#Mpic", "Select#FM9&10",
+                                 "Select#FM0&1", "Select#XY3&4", "FM1#Mlogo"}) {
+            Tell(path + line);
+            EXPECT_EQ(seen(), before) << line;
+        }
+        Open(FREEZE_PAGE); // has the number of empty registers in their place
+        before = seen();
+        Tell("Frame Mem@Status@Store Number Sense#" + std::to_string(SYS_StoreFree + 1));
+        EXPECT_NE(seen(), before);
+    }
+    Tell(path + "FM1#");
+    Tell(path + "Select#FM1&2");
+    EXPECT_THAT(Leave(),
+                testing::IsSupersetOf({"remove " + path + "Select", "remove " + path + "FM1",
+                                       "remove " + path + "FM8"}));
+}
+
 TEST_F(FrameMemoryPage, AnOldFrameMemoryHasNoTabOfFolders)
 {
     for (const int v6 : {0, 1}) {
@@ -98,7 +179,9 @@ TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
     for (const auto& c : cases) {
         Open(STILLS);
         Tell(RECALL.substr(4) + "Select#FM3&4");
-        EXPECT_EQ(Caption(BTN_FMEM1_RECALL_B), "Recall\nFM4");
+        EXPECT_EQ(Caption(BTN_FMEM1_RECALL_A) + Caption(BTN_FMEM1_RECALL_B),
+                  "Recall\nFM3Recall\nFM4");
+        EXPECT_EQ(Caption(BTN_FMEM1_OUT), "FM3-FM4");
         LS_SetNowLine(1, c.row);
         if (c.is_pair != is_pair_on)
             PressLater(BTN_FMEM1_PAIR);
@@ -109,7 +192,11 @@ TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
         EXPECT_EQ(PressLater(c.key), wanted) << c.row << c.is_pair;
     }
     EXPECT_EQ(Usable({BTN_FMEM1_RECALL_B}), std::vector<int>{}); // the pair takes both outputs
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM1_PAIR), BT_ON);
     PressLater(BTN_FMEM1_PAIR);
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM1_PAIR), BT_OFF);
+    PressLater(BTN_FMEM1_OUT);
+    EXPECT_THAT(Quit(0), IsEmpty()); // "Cancel"
     PressLater(BTN_FMEM1_OUT);
     EXPECT_THAT(Quit(4), ElementsAre(RECALL + "Select#FM7&8"));
     // Of a clip the frame that is shown.
@@ -117,6 +204,8 @@ TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
     PressLater(BTN_FMEM1_FORWARD);
     PressLater(BTN_FMEM1_FORWARD); // the last one already
     EXPECT_THAT(PressLater(BTN_FMEM1_RECALL_A), ElementsAre(RECALL + "FM3#Mrun0003"));
+    PressLater(BTN_FMEM1_BACK);
+    EXPECT_THAT(PressLater(BTN_FMEM1_RECALL_A), ElementsAre(RECALL + "FM3#Mrun0002"));
 }
 
 TEST_F(FrameMemoryPage, DeletionAsksAndTakesAllFramesThatAreStillThere)
@@ -143,6 +232,8 @@ TEST_F(FrameMemoryPage, DeletionAsksAndTakesAllFramesThatAreStillThere)
 
 TEST_F(FrameMemoryPage, NamesKeepTheirSideAndFrame)
 {
+    Store({"Mgo0001", "Mgo0002"}, 30);
+    Pass(10);
     static const struct {
         uint32_t page;
         int row;
@@ -157,10 +248,15 @@ TEST_F(FrameMemoryPage, NamesKeepTheirSideAndFrame)
         {STILL_FILES, 1, BTN_FMEM1_RENAME, "logo", {}, "already existing"},
         {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "key", {"Slogo,Skey"}, "no pane"},
         {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "pic", {}, "already existing"},
+        {STILL_FILES, 1, BTN_FMEM1_RENAME, "abcdefghi", {"Mpic,Mabcdefgh"}, "no pane"},
+        {STILL_FILES, 0, BTN_FMEM1_RENAME, "", {}, "Empty"},
+        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "", {}, "Empty"},
+        {CLIP_FILES, 1, BTN_FMEM1_RENAME, "go", {}, "already existing"},
+        {CLIP_FILES, 1, BTN_FMEM1_RENAME, "run", {}, "no pane"},
         {CLIP_FILES,
-         0,
+         1,
          BTN_FMEM1_RENAME,
-         "jump",
+         "jumped",
          {"Mrun0001,Mjump0001", "Mrun0002,Mjump0002", "Mrun0003,Mjump0003", "Srun0002,Sjump0002",
           "Srun0003,Sjump0003"},
          "no pane"},
@@ -191,10 +287,15 @@ TEST_F(FrameMemoryPage, TwoSidesBecomeAPairAndFoldersTakeEveryFrame)
     PressLater(BTN_FMEM1_MOVE);
     EXPECT_THAT(Quit(2), ElementsAre(MOVE + "Mrun0001,2", MOVE + "Mrun0002,2", MOVE + "Mrun0003,2",
                                      MOVE + "Srun0002,2", MOVE + "Srun0003,2"));
+    PressLater(BTN_FMEM1_MOVE);
+    EXPECT_THAT(Quit(0), IsEmpty()); // "Cancel"
+    PressLater(BTN_FMEM1_MOVE);
+    EXPECT_THAT(Quit(1), Contains(MOVE + "Mrun0001,0"));
     EXPECT_THAT(PressLater(BTN_FMEM1_ANCILLARY),
                 ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,1"));
     Tell("Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,1");
     (void)List();
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM1_ANCILLARY), BT_ON);
     EXPECT_THAT(PressLater(BTN_FMEM1_ANCILLARY),
                 ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,0"));
 }
@@ -205,14 +306,24 @@ TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
     Open(FREEZE_PAGE);
     EXPECT_THAT(PressLater(BTN_FMEM1_STORE1),
                 ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC1#10,Mimage")));
+    EXPECT_THAT(PressLater(BTN_FMEM1_STORE2),
+                ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC2#10,Mimage")));
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty()); // somebody else's, and not asked for
     Tell(freeze + "false");
     PressLater(BTN_FMEM1_AUTO_STORE);
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM1_AUTO_STORE), BT_ON);
     EXPECT_THAT(PressLater(20), ElementsAre("put " + freeze + "true"));
     EXPECT_THAT(Tell(freeze + "true"), ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC2#")));
     PressLater(20);
     EXPECT_THAT(Tell(freeze + "false"), IsEmpty());
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty());
+    Tell("16@Frame Mem@Status@Max Register#9"); // all of them hold something
+    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1), IsEmpty());
+    EXPECT_THAT(Message(), HasSubstr("no empty register"));
+    Pane_Quit(Pane_GetActiveID());
+    Tell("Frame Mem@Status@Extended Capacity#1");
+    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1), ElementsAre(HasSubstr("PROC1#16385,Mimage")));
+    Tell("Frame Mem@Status@Extended Capacity#0");
 }
 
 TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
