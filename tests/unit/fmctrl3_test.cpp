@@ -181,6 +181,9 @@ TEST_F(ClipStore, RowsThatAreNotWholeChangeNothing)
         {"Insert", "ClipStoreFile", "root/1/2/3/4/5/y" + values},
         {"Insert", "ClipStoreFile", "root/" + n32 + "n" + values},
         {"Insert", "ClipStoreFile", "root/" + n32 + "nn" + values},
+        {"Insert", "ClipStoreFile", "root/y.SFH"},
+        {"Insert", "ClipStoreFile", "1,0,0,3,,1,0"},
+        {"Insert", "ClipStoreFolder", "root/B"},
         {"Insert", "ClipStoreFolder", "root/B:,"},
         {"Insert", "ClipStoreFolder", "root:1"},
         {"Insert", "ClipStoreInfo", "root/B:1"},
@@ -273,9 +276,8 @@ TEST_F(ClipStore, ASearchGoesRoundBothWays)
     Folder("Goals");
     File("Goals/goal1");
     File("Goals/save");
-    File("goal2");
+    Hub("Insert", "ClipStoreFile", "root/goal2.SFH:1, 1, 0, 3, 2026-01-31 23:59:00, 1, 0");
     File("Lost/goal3"); // its folder is not known
-    Hub("Notify", "ClipStoreFile", "root/goal2.SFH:pairfile:1");
     SEARCH_CONFIG config;
     CopyText(config.text, "GOAL");
     const auto walk = [&](SEARCH_DIR dir) {

@@ -357,6 +357,31 @@ TEST_F(CommandFolder, EveryMarkerIsAnsweredOnce)
     EXPECT_FALSE(Exists("/tmp/owned"));
 }
 
+TEST_F(CommandFolder, ALoadAndASaveOfAllFollowEachOther)
+{
+    for (const char* name : {"allload.res", "allsave.res"})
+        fs::remove(folder + name);
+    Mark("allload.cmd");
+    const Strings load = Look();
+    EXPECT_FALSE(Exists(folder + "allload.cmd"));
+    Mark("allsave.cmd");
+    const Strings more = Look();
+    EXPECT_TRUE(Exists(folder + "allsave.cmd")) << "it waits for its turn";
+    Strings sent = load;
+    sent.insert(sent.end(), more.begin(), more.end());
+    EXPECT_THAT(Finish(sent), Each(HasSubstr(",MYHOST:/tmp/FTPIF/Import/")));
+    EXPECT_EQ(FileText(folder + "allload.res"), "Error\n") << "there is nothing to be loaded";
+    Strings saved = Look();
+    EXPECT_FALSE(Exists(folder + "allsave.cmd"));
+    for (int i = 0; i < 100 && !Exists(folder + "allsave.res"); i++) {
+        Pass(10);
+        for (const std::string& line : Finish(TakeQueuedCommands()))
+            saved.push_back(line);
+    }
+    EXPECT_THAT(saved, Contains(HasSubstr("MYHOST:/tmp/FTPIF/Export/")));
+    EXPECT_EQ(FileText(folder + "allsave.res"), "Error\n") << "the hub is not there";
+}
+
 TEST_F(CommandFolder, WhatIsNoPlainFileStaysAndDoesNothing)
 {
     fs::create_directory(folder + "allclear.cmd");

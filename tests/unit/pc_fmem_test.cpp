@@ -178,10 +178,21 @@ TEST_F(ClipPages, APairWorksOnItsEvenOutput)
     EXPECT_EQ(FM_GetSelect(), 1); // by the tally, not by the press
     (void)Tell(TREE + "Pair@FM1&2#true");
     EXPECT_EQ(FM_GetSelect(), 0);
+    Cell(0, "NEWS");
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_RECALL), BT_DISABLED);
     Cell(0, "OPENING");
     EXPECT_THAT(Press(BTN_FMEM_RECALL),
                 ElementsAre("put " + TREE + "Recall@FM1#1,0,1,0,/OPENING.SFH",
                             "put Macro@Clip Recall@FM1#1,/OPENING.SFH"));
+    // Once more, it stays at its frame; a still has none.
+    Show(0, "2,/OPENING.SFH");
+    (void)Tell(TREE + "Play@FM1#0,7,0,99");
+    Pass(200);
+    EXPECT_THAT(Press(BTN_FMEM_RECALL),
+                Contains("put " + TREE + "Recall@FM1#1,0,1,7,/OPENING.SFH"));
+    Cell(0, "STILL");
+    Pass(200);
+    EXPECT_THAT(Press(BTN_FMEM_RECALL), Contains("put " + TREE + "Recall@FM1#1,0,0,0,/STILL.SFH"));
     EXPECT_THAT(Press(BTN_FMEM_BLACK), ElementsAre("put " + TREE + "Record@Through@FM1#1,0"));
     (void)Tell(TREE + "Pair@FM1&2#false");
     (void)Tell(TREE + "Out Pair Select#FM5&6");
@@ -209,6 +220,35 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
         {BTN_FMEM_REW, "0,0"}, {BTN_FMEM_FF, "0,1"}, {BTN_FMEM_MIDDLE, "0,2"}};
     for (const auto& [key, value] : jumps)
         EXPECT_THAT(Press(key), ElementsAre("put " + TREE + "Play@Jump Frame@FM1#" + value));
+    const auto put = [](const std::string& rest) {
+        return ElementsAre("put " + TREE + "Play@" + rest);
+    };
+    EXPECT_THAT(Press(BTN_FMEM_PINGPONG), put("Play Mode@FM1#0,2"));
+    EXPECT_THAT(Press(BTN_FMEM_SPEED), put("Variable Speed@FM1#0,50"));
+    for (const char* other : {"FM2#-75", "FM21#-75", "FM0#-75"})
+        (void)Tell(TREE + "Play@Variable Speed@" + other);
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_OFF);
+    (void)Tell(TREE + "Play@Variable Speed@FM1#0,-75");
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_ON);
+    Pass(200);
+    EXPECT_THAT(Press(BTN_FMEM_SPEED), put("Variable Speed@FM1#0,0"));
+    static const struct {
+        int box, value;
+        const char* sent;
+    } boxes[] = {{NB_FMEM_START, 12, "Start TC@FM1#0,4,12"},
+                 {NB_FMEM_STOP, 90, "Stop TC@FM1#0,4,90"},
+                 {NB_FMEM_FRAME, 33, "Jump Frame@FM1#0,4,33"},
+                 {NB_FMEM_SPEED, 50, "Variable Speed@FM1#0,50"}};
+    for (const auto& b : boxes) {
+        SendMessage(LMSG_KNOBVAR, b.box, b.value, 0, 0);
+        EXPECT_THAT(TakeQueuedCommands(), put(b.sent));
+    }
+    (void)Tell(TREE + "Play@Variable Speed@FM1#0");
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_OFF);
+    (void)Tell(TREE + "Play@Start TC@FM1#0,30");
+    (void)Tell(TREE + "Play@Stop TC@FM1#70");
+    EXPECT_THAT(Press(BTN_FMEM_STOP), put("FM1#0,1,30,70"));
+    (void)Tell(TREE + "Play@FM1#0,8,20,80");
     for (const int answer : {NO, YES}) {
         (void)Press(BTN_FMEM_TRIM);
         Answer(answer);
@@ -254,6 +294,50 @@ TEST_F(ClipPages, RecordsUnderAFreeName)
         EXPECT_THAT(Press(BTN_FMEM_FREEZE).front(),
                     HasSubstr("#0,/" + std::string(n.next) + ".SFH"));
     }
+    EXPECT_THAT(Press(BTN_FMEM_FREEZE_TIME),
+                ElementsAre(testing::MatchesRegex("put " + TREE +
+                                                  "Record@Freeze/Rec Name@PROC1#0,20[0-9]{12}_1"),
+                            "put " + TREE + "Record@Freeze@PROC1#0,1"));
+    (void)Press(BTN_FMEM_FRAME);
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_FRAME), BT_ON);
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_FIELD), BT_OFF);
+    Pass(200);
+    EXPECT_THAT(Press(BTN_FMEM_FREEZE), Contains("put " + TREE + "Record@Freeze@FM1#0,0"));
+}
+
+TEST_F(ClipPages, TheLengthOfARecordingIsThatOfItsProcessor)
+{
+    OpenPage(RECORD);
+    const auto length = [] {
+        Pass(200);
+        const Lines sent = Press(BTN_FMEM_REC);
+        return sent.empty() ? "" : sent.back();
+    };
+    static const struct {
+        const char* told;
+        int length;
+    } cases[] = {{"PROC1#0,125", 125},
+                 {"PROC2#0,7", 125},
+                 {"PROC1#0", 125},
+                 {"PROC1#1000000", 125},
+                 {"PROC1#1", 1}};
+    for (const auto& c : cases) {
+        (void)Tell(TREE + "Record@Rec Len@" + c.told);
+        EXPECT_EQ(length(), "put  " + TREE + "Record@FM1#1,0," + std::to_string(c.length) + ",1")
+            << c.told;
+    }
+    SendMessage(LMSG_KNOBVAR, NB_FMEM_LENGTH, 300, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put  " + TREE + "Record@Rec Len@FM1#0,300"));
+    EXPECT_EQ(length(), "put  " + TREE + "Record@FM1#1,0,300,1");
+    // Another output of the same processor records: neither of them is touched here.
+    (void)Tell(TREE + "Record@PROC1#1,10,300,2");
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC), BT_DISABLED);
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC_STOP), BT_DISABLED);
+    (void)Tell(TREE + "Record@PROC1#0,10,300,0");
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC), BT_ENABLED);
+    EXPECT_THAT(Leave(),
+                testing::IsSupersetOf({"remove " + TREE + "Record@Rec Len@PROC1",
+                                       "remove " + TREE + "Record@Freeze/Rec Name@PROC2"}));
 }
 
 TEST_F(ClipPages, CopiesATreeAndMovesOneWithItsFolders)
@@ -392,6 +476,11 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
     rename();
     Hub("Result", "ClipStoreFile", "Move root/OTHER.SFH root/NEW.SFH:7F");
     Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:40");
+    for (const char* end : {"", ":", ":x"})
+        Hub("Result", "ClipStoreFile", std::string("Move root/STILL.SFH root/NEW.SFH") + end);
+    for (const char* table : {"ClipStoreFile", "CS1.ClipStoreFolder"})
+        SendMessage(MSG_SHPTALLY, Arg("Result"), Arg(table), 0,
+                    Arg("Move root/STILL.SFH root/NEW.SFH:7F"));
     EXPECT_TRUE(fmfileope_is_busy());
     Answer(1); // "Cancel"
     EXPECT_FALSE(fmfileope_is_busy());
