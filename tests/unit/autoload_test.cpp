@@ -59,6 +59,23 @@ struct AutoLoad : FileTest {
             Rows(label, files.count(folder) ? files.at(folder) : Strings{});
         return Sent();
     }
+    // The same where the newer frame memory's default folder has these pictures and no other has
+    // any.
+    static Strings AskForPictures(const char* unit, const std::string& folder, const Strings& names)
+    {
+        EXPECT_EQ(AutoLoad_DataExist(unit), AUTOLOAD_SEARCHING);
+        auto searches = Searches();
+        const uint32_t list = searches.at("FMEMFOL/");
+        searches.erase("FMEMFOL/");
+        for (const auto& [path, label] : searches)
+            Rows(label, {});
+        Rows(list, {"FMEMFOL/DEFAULT"});
+        Strings paths;
+        for (const std::string& name : names)
+            paths.push_back("FMEMFOL/DEFAULT/" + folder + "/" + name);
+        Rows(Searches().at("FMEMFOL/DEFAULT/" + folder + "/"), paths);
+        return Sent();
+    }
     // The transfers that a start sends, "<source> <target>", with their labels.
     static std::map<std::string, uint32_t> Start(const char* unit, Strings* all)
     {
@@ -256,6 +273,38 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
     EXPECT_EQ(GL_CreatePage, 0x99000000u);
 }
 
+TEST_F(AutoLoad, AFullStoreTakesNoMoreAndTheSecondUnitDoesNotEmptyIt)
+{
+    SYS_FmemV6 = 1;
+    FMCtrl_InitClipStillList();
+    Deliver("Frame Mem@Status@Extended Capacity", "0");
+    const int registers = std::exchange(SYS_FmemRegMax, 66);
+    const std::string clear = "put Frame Mem@File@Delete Thumbnail@All#true";
+    Strings names = {"Mextra.FMEX_001.SFM"}; // for a store that there is not
+    for (int i = 0; i < 70; i++)
+        names.push_back("Mp" + std::to_string(i) + ".FMEM_001.SFM");
+    EXPECT_THAT(AskForPictures("SWR1", "SWR000D001", names),
+                ElementsAre(clear, EXIST + "SWR1#true"));
+    EXPECT_THAT(AskForPictures("SWR2", "SWR000D002", {"Mother.FMEM_001.SFM"}),
+                ElementsAre(EXIST + "SWR2#false"))
+        << "it is not a switcher of this panel";
+    Strings all;
+    (void)Start("SWR1", &all);
+    ASSERT_TRUE(QueueRoot);
+    int items = 0;
+    for (const FILEXFERLIST* item = *QueueRoot->xferlist; item; item = item->next)
+        items++;
+    EXPECT_EQ(items, 66);
+    SYS_FmemRegMax = registers;
+    AutoLoad_LinkLost();
+    File_LinkLost();
+    while (int pane = Pane_GetActiveID())
+        Pane_Quit(pane);
+    (void)Sent();
+    EXPECT_THAT(AskForPictures("SWR2", "SWR000D002", {"Mother.FMEM_001.SFM"}), Contains(clear))
+        << "of what the store was given nothing is known any more";
+}
+
 TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
 {
     SYS_FmemV6 = 1;
@@ -290,4 +339,23 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
         Pane_Quit(pane);
     (void)Sent();
     EXPECT_THAT(Ask("SWR1", {}), ElementsAre(EXIST + "SWR1#false"));
+    // What waits goes with the link, and with nothing else.
+    (void)Ask("SWR1", {{"EFFECT/SWR000D001/", {open}}});
+    Deliver("CONNECT@Status", "OK");
+    Deliver("Info@Auto Load@Data Exist@SWR1", "false"); // the server has taken the answer
+    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_FOUND);
+    AutoLoad_LinkLost();
+    EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_SEARCHING);
+    AutoLoad_LinkLost();
+    // So does the search of a folder.
+    SYS_FmemV6 = 1;
+    (void)Sent();
+    AutoLoad_DataExist("SWR1");
+    for (const auto& [folder, label] : Searches())
+        Rows(label, folder == "FMEMFOL/" ? Strings{"FMEMFOL/DEFAULT"} : Strings{});
+    EXPECT_NE(AutoLoadFindID, 0u);
+    AutoLoad_LinkLost();
+    EXPECT_EQ(QueueRoot, nullptr);
+    EXPECT_EQ(AutoLoadFindID, 0u);
 }

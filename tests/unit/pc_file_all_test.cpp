@@ -1,5 +1,6 @@
 // The All page of the File menu against a server that has files: what is gathered from where, what
 // is given to which job, and what automation gets.
+#include "err.h"
 #include "file_scp.h"
 #include "fmctrl.h"
 #include "pane.h"
@@ -14,6 +15,7 @@
 #include <fstream>
 #include <map>
 #include <sstream>
+#include <unistd.h>
 
 using testing::EndsWith, testing::SizeIs, testing::UnorderedElementsAre;
 
@@ -38,11 +40,7 @@ struct FileAllPage : TablePage {
         CopyText(GL_ImportDataPath, "/mnt/usb/usb1/");
         std::fill_n(GL_FileLock, FILE_LOCKS, 0);
         SYS_FmemV6 = 1;
-        for (const char* target : {"SWR1", "PNL1"}) {
-            Filescp_trnasferlist_init(target);
-            SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg((std::string(target) + ".File").c_str()), 0,
-                        0);
-        }
+        HubIsThere();
         (void)Open(ALL_PAGE);
     }
     void TearDown() override
@@ -54,6 +52,14 @@ struct FileAllPage : TablePage {
         TablePage::TearDown();
     }
 
+    static void HubIsThere()
+    {
+        for (const char* target : {"SWR1", "PNL1"}) {
+            Filescp_trnasferlist_init(target);
+            SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg((std::string(target) + ".File").c_str()), 0,
+                        0);
+        }
+    }
     static void Select(const std::set<std::string>& categories)
     {
         for (int row = 0; row < ALL_ROWS; row++)
@@ -145,6 +151,7 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
     Tell("Snapshot@Snapshot@Attribute@M/E-1@List#3,OPENING,,,,,");
     Tell("Effect@Effect@Attribute@List@Dev1#7,S,VTR,U,0,0"); // of two groups of regions
     Tell("Effect@Effect@Attribute@List@Dev1#250,S,CUE,U,0,0");
+    Tell("Effect@Effect@Attribute@List@Dev12#1,S,LAST,U,0,0");
     Select({"SNAPSHOT", "EFFECT", "MENUMACRO"});
     EXPECT_THAT(Press(BTN_ALL_L_TO_R), IsEmpty());
     Answer(2);
@@ -157,6 +164,8 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
                 ElementsAre(work + "EFFECT/SWR1/VTR.DEV1_007.SKF > " + ROOT +
                                 "EFFECT/SWR000D001/DEV1/VTR.DEV1_007.SKF",
+                            work + "EFFECT/SWR1/LAST.DEV12_001.SKF > " + ROOT +
+                                "EFFECT/SWR000D001/DEV12/LAST.DEV12_001.SKF",
                             work + "EFFECT/SWR1/CUE.DEV1_250.SKF > " + ROOT +
                                 "EFFECT/SWR000D001/DEV1/CUE.DEV1_250.SKF",
                             work + "SNAPSHOT/SWR1/OPENING.ME1_003.SSS > " + ROOT +
@@ -178,6 +187,63 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
     File_SHP_All_Clear();
     Pass(10);
     EXPECT_FALSE(BkgdFileTransfer_Check(0));
+}
+
+TEST_F(FileAllPage, WhatFailsWhileTheOperatorIsElsewhereIsListed)
+{
+    Select({"KEYMEM"});
+    for (const bool is_away : {false, true}) {
+        HubIsThere();
+        (void)Press(BTN_ALL_L_TO_R);
+        Answer(1);
+        (void)Run();
+        Err_Clear();
+        if (is_away) {
+            Tell("TopMenu#Effect");
+            EXPECT_EQ(CreatePage(PAGE_TOP), 0);
+        }
+        File_SHP_All_Clear(); // the hub has gone
+        Pass(10);
+        EXPECT_FALSE(BkgdFileTransfer_Check(0));
+        EXPECT_EQ(Err_GetMax() > 0, is_away);
+        EXPECT_EQ(Pane_GetActiveID() != 0, !is_away) << "a pane tells of them";
+        while (Pane_GetActiveID())
+            (void)Pane_Quit(Pane_GetActiveID());
+        Pass(1000);
+    }
+    Err_Clear();
+}
+
+TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
+{
+    const std::vector<int> keys = {BTN_ALL_DIR_A, BTN_ALL_DIR_B, BTN_ALL_L_TO_R, BTN_ALL_R_TO_L};
+    const auto sides = [] {
+        return Caption(BTN_ALL_DEVICE_A) + " " + Caption(BTN_ALL_DIR_A) + "|" +
+               Caption(BTN_ALL_DEVICE_B) + " " + Caption(BTN_ALL_DIR_B);
+    };
+    const auto choose = [&](int button, int drive) {
+        (void)Press(button);
+        Answer(drive + 1);
+        (void)Run();
+        if (Pane_GetActiveID())
+            Answer(1); // SYSTEM
+        Pass(1000);
+    };
+    EXPECT_EQ(sides(), "Register |Local Drive SYSTEM");
+    EXPECT_EQ(Usable(keys), std::vector<int>({BTN_ALL_DIR_B, BTN_ALL_L_TO_R, BTN_ALL_R_TO_L}));
+    ASSERT_EQ(
+        ::system(
+            "mkdir -p /mnt/data/user/root/SYSTEM; touch /mnt/data/user/root/SYSTEM/.dirprotect"),
+        0);
+    (void)Open(ALL_PAGE);
+    EXPECT_EQ(Usable(keys), std::vector<int>({BTN_ALL_DIR_B, BTN_ALL_R_TO_L})) << "read only";
+    ASSERT_EQ(::system("rm /mnt/data/user/root/SYSTEM/.dirprotect"), 0);
+    choose(BTN_ALL_DEVICE_B, FILE_REGISTER);
+    EXPECT_EQ(sides(), "Register |Register ");
+    EXPECT_EQ(Usable(keys), std::vector<int>{}) << "from registers to registers";
+    choose(BTN_ALL_DEVICE_A, FILE_REMOVABLE);
+    EXPECT_EQ(sides(), "Removable\nDrive SYSTEM|Register ");
+    EXPECT_EQ(Usable(keys), std::vector<int>({BTN_ALL_DIR_A, BTN_ALL_L_TO_R, BTN_ALL_R_TO_L}));
 }
 
 // Nothing is cleared for nothing.
@@ -425,6 +491,14 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
     failed.next = &arrived;
     AllFrames_Place(&failed);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put 16@Frame Mem@Folder@Move Still#0,Mball,1"));
+    // What was under way does not stay where it was prepared.
+    ASSERT_EQ(::system("mkdir -p /var/tmp/FMXfer /var/tmp/XPORT; touch /var/tmp/FMXfer/left"), 0);
+    ASSERT_TRUE(QueueRoot);
+    FILEXFERLIST* const item = *QueueRoot->xferlist;
+    CopyText(item->tmp, "MYHOST:/var/tmp/FMXfer/left");
+    QueueRoot->retfunc.list(QueueRoot->label, QueueRoot->tag);
+    EXPECT_NE(access("/var/tmp/FMXfer/left", F_OK), 0);
+    EXPECT_NE(access("/var/tmp/XPORT", F_OK), 0);
 }
 
 TEST_F(FileAllPage, AutomationGetsItsAnswer)
@@ -439,7 +513,13 @@ TEST_F(FileAllPage, AutomationGetsItsAnswer)
     Select({}); // of the page: not of automation
     EXPECT_EQ(AllLoad(), 0);
     EXPECT_EQ(AllLoad(), -1) << "one at a time";
-    EXPECT_THAT(Run(), AllOf(SizeIs(ALL_CATEGORIES), Each(HasSubstr("MYHOST:/tmp/FTPIF/Import/"))));
+    Lines asked;
+    for (const std::string& line : Leave()) // a page takes nothing of automation with it
+        if (Served(line))
+            asked.push_back(line);
+    for (const std::string& line : Run())
+        asked.push_back(line);
+    EXPECT_THAT(asked, AllOf(SizeIs(ALL_CATEGORIES), Each(HasSubstr("MYHOST:/tmp/FTPIF/Import/"))));
     EXPECT_EQ(answer("allload.res"), "Error\n") << "there is nothing to be loaded";
     // A save clears its own folders and no others; it has no pane on the page that is shown.
     (void)Open(PAGE_TOP);
@@ -458,6 +538,14 @@ TEST_F(FileAllPage, AutomationGetsItsAnswer)
     }
     EXPECT_EQ(answer("allsave.res"), "Error\n");
     EXPECT_EQ(BkgdFileTransfer_Check(0), 0);
+    files["MYHOST:/tmp/FTPIF/Import/KEYMEM/"] = {"SWR000D001/KEYMEM.DEV_0000.SKM"};
+    HubIsThere();
+    EXPECT_EQ(AllLoad(), 0);
+    (void)Run();
+    ASSERT_TRUE(QueueRoot);
+    (*QueueRoot->xferlist)->status = FILESTATUS_OK;
+    QueueRoot->retfunc.list(QueueRoot->label, QueueRoot->tag);
+    EXPECT_EQ(answer("allload.res"), "OK\n");
     (void)!::system("rm -rf /tmp/FTPIF");
 }
 
