@@ -317,6 +317,9 @@ TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
     PressLater(20);
     EXPECT_THAT(Tell(freeze + "false"), IsEmpty());
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty());
+    Tell("16@Frame Mem@Status@File Name Sense#1,0,");
+    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1), ElementsAre(HasSubstr("PROC1#1,Mimage")));
+    Store({"Mlogo"});
     Tell("16@Frame Mem@Status@Max Register#9"); // all of them hold something
     EXPECT_THAT(PressLater(BTN_FMEM1_STORE1), IsEmpty());
     EXPECT_THAT(Message(), HasSubstr("no empty register"));

@@ -1,5 +1,8 @@
+#include "a_kf_private.h"
 #include "a_kp.h"
 #include "a_ls.h"
+#include "display.h"
+#include "pane.h"
 #include "pc_kf.h"
 #include "pc_kf_page.h"
 #include "setup_index.h"
@@ -10,6 +13,7 @@
 
 struct TimelinePage : KeyframePage {
     static constexpr int X = 400; // in every row's bar
+    static constexpr Rect ROWS = {97, 78, 702, 524};
     static int RowY(int row) { return row * 45 + 115; }
     static bool IsPainted(int row) { return PixelAt(X, RowY(row)) == 0; }
     static void Smear()
@@ -26,6 +30,22 @@ struct TimelinePage : KeyframePage {
         Open(0x61110000);
         Redraw(1000);
         Redraw(1000);
+    }
+    static void Region(int code, int start_s, int end_s, int cursor_s = 0)
+    {
+        const auto bcd = [](int v) { return static_cast<unsigned char>(v / 10 << 4 | v % 10); };
+        kf::Send(kf::DATA, kf::DataFrame({.code = code,
+                                          .start = {0, 0, bcd(start_s), 0},
+                                          .end = {0, 0, bcd(end_s), 0},
+                                          .duration = {0, 0, bcd(end_s - start_s), 0},
+                                          .keyframes = {30, 60}}));
+        kf::Send(kf::STATUS, kf::StatusFrame({.code = code, .time = {0, 0, bcd(cursor_s), 0}}));
+    }
+    static std::vector<uint32_t> Seen(const Rect& part, int elapsed_ms = 1000)
+    {
+        Pass(elapsed_ms);
+        EXPECT_EQ(Display::Lacks(), "");
+        return PixelsIn(part);
     }
 };
 
@@ -66,6 +86,67 @@ TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
         KF_RegionAssignTally(row, "");
     Open(0x61110000);
     EXPECT_EQ(Shown(knob), "0") << "four regions need no scrolling";
+}
+
+TEST_F(TimelinePage, TheAxisReachesFromTheFirstStartToTheLastEnd)
+{
+    constexpr Rect START = {117, 535, 187, 546}, END = {617, 535, 687, 546};
+    static const struct {
+        int code, start_s, end_s; // what is told of a region
+        int from_s, to_s;         // the axis then
+    } steps[] = {
+        {1, 20, 40, 20, 40}, {2, 10, 30, 10, 40}, {3, 15, 50, 10, 50},
+        {2, 12, 30, 12, 50}, {1, 0, 45, 12, 50}, // without a start of its own
+        {3, 0, 0, 12, 45},   {2, 0, 0, 0, 45},    {1, 0, 0, 0, 0},
+    };
+    const Display display;
+    int from_s = 0, to_s = 0;
+    auto start = Seen(START), end = Seen(END), rows = Seen(ROWS);
+    for (const auto& s : steps) {
+        Region(s.code, s.start_s, s.end_s);
+        EXPECT_EQ(Seen(START) == start, s.from_s == from_s) << s.from_s;
+        start = Seen(START);
+        EXPECT_EQ(Seen(END) == end, s.to_s == to_s) << s.to_s;
+        end = Seen(END);
+        EXPECT_NE(Seen(ROWS), rows) << s.from_s << "-" << s.to_s;
+        rows = PixelsIn(ROWS);
+        EXPECT_EQ(tlSTime, s.from_s * 30);
+        EXPECT_EQ(tlETime, s.to_s * 30);
+        from_s = s.from_s;
+        to_s = s.to_s;
+        // Painted as a page that is opened paints it.
+        (void)CreatePage(0x61110000);
+        EXPECT_EQ(Seen(ROWS), rows);
+        EXPECT_EQ(PixelsIn(START), start);
+        EXPECT_EQ(PixelsIn(END), end);
+    }
+}
+
+// The more regions are selected, the less often the rows are painted.
+TEST_F(TimelinePage, RowsArePaintedOnceTheirIntervalIsOver)
+{
+    Region(1, 20, 40, 1);
+    kf::Select({1, 0x0F, 0xFF, 0, 0, 0, 0, 0});
+    const Display display;
+    auto before = Seen(ROWS);
+    ASSERT_GT(GL_TimelineDrawInterval, 10);
+    Region(1, 20, 40, 10);
+    EXPECT_EQ(Seen(ROWS, GL_TimelineDrawInterval - 1), before);
+    EXPECT_EQ(Seen(ROWS, 1), before);
+    EXPECT_NE(Seen(ROWS, 1), before);
+    before = PixelsIn(ROWS);
+    // What was painted is not painted again.
+    TDL_FillRect(ROWS.x1, ROWS.y1, ROWS.x2, ROWS.y2, 0x123456);
+    EXPECT_THAT(Seen(ROWS), Each(0x123456u));
+}
+
+TEST_F(TimelinePage, ATouchOnTheNamesBringsTheKeysOfARun)
+{
+    for (const auto& [x, y, has_keys] :
+         {std::tuple{50, 70, false}, {150, 300, false}, {50, 300, true}}) {
+        Press(x, y);
+        EXPECT_EQ(Pane_GetActiveID() != 0, has_keys) << x << "," << y;
+    }
 }
 
 TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
