@@ -1,6 +1,7 @@
 // The pages of one of many, on the aux buses: which one the keys are about, and what the list keeps
 // showing of the others.
 #include "a_ls.h"
+#include "pc_aux_mon.h"
 #include "table_page.h"
 #include <set>
 
@@ -83,4 +84,23 @@ TEST_F(AuxPage, ATouchPutsASignalOnTheChosenBus)
     (void)Choose(0);
     EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "nothing is known of the first one's";
     EXPECT_EQ(Choose(9, 2).size(), 0u) << "no such signal";
+}
+
+TEST_F(AuxPage, WhatAnotherPageAskedForIsTheOneThatOpens)
+{
+    static const struct {
+        uint32_t page;
+        void (*ask)(int);
+        int number, beyond;
+        const char* word;
+    } cases[] = {{AUX, AuxBus_OpenNext, 4, AUX_BUSES, "Aux 5"},
+                 {AUX, AuxBus_OpenNext, 0, AUX_BUSES, "Aux 1"},
+                 {MON, Monitor_OpenNext, 7, MONITORS, "Mon 8"},
+                 {MON, Monitor_OpenNext, 0, MONITORS, "Mon 1"}};
+    for (const auto& c : cases) {
+        for (const int number : {c.number, -1, c.beyond}) // there are none such
+            c.ask(number);
+        (void)Open(c.page);
+        EXPECT_STREQ(GL_NowTree[2], c.word);
+    }
 }

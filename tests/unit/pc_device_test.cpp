@@ -60,6 +60,7 @@ TEST_F(DevicePage, TheServerTellsWhileThePageStands)
     for (const auto& c : cases) {
         const std::string put = std::string("put ") + c.path;
         EXPECT_THAT(Puts(Open(c.page)), testing::Contains(put + "#true"));
+        EXPECT_GE(LS_GetNData(1), 8) << c.path;
         EXPECT_THAT(Puts(Leave()), testing::Contains(put + "#false"));
     }
 }

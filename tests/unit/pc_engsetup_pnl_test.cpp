@@ -178,6 +178,7 @@ TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReached)
     Lines lines = Push(BTN_ACTION_RANGE);
     EXPECT_EQ(Held(lines, KEY2 "Action Set@1@40"), -1);
     EXPECT_EQ(Held(lines, KEY2 "Action Set@1@1"), 1) << "after the last the first";
+    EXPECT_EQ(Cell(3, 1), "") << "of these nothing has been told";
     (void)Touch(112 + 70 + 20, 98 + 20); // M/E-1
     lines = Touch(112 + 70 + 20, 98 + 20);
     EXPECT_EQ(Held(lines, KEY2 "Action Set@2@16"), -1);
@@ -215,7 +216,19 @@ TEST_F(PanelSetup, ChosenKeysTakeARegionTogetherAndEachOnce)
     EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT),
                 ElementsAre("put " TENKEY "@Common@Region@Common@Default#1,0,M/E-1,,,",
                             "put " TENKEY "@Common@Region@Common@Default#9,5,User1,,P/P,DME1"));
+    const std::vector<uint32_t> second_slot = PixelsIn({456, 100, 456 + 2 * 61, 140});
+    (void)Touch(456 + 2 * 61 + 20, 120);
+    Pass(10);
+    EXPECT_NE(PixelsIn({456, 100, 456 + 2 * 61, 140}), second_slot) << "no longer the lit one";
+    EXPECT_THAT(Push(BTN_ASSIGN_CLEAR),
+                ElementsAre("put " TENKEY "@Common@Region@Common@1#1,0,M/E-1,,,",
+                            "put " TENKEY "@Common@Region@Common@9#9,5,User1,,,DME1"));
     EXPECT_EQ(Push(BTN_TENKEY_ALL).size(), 21u) << "those that are not chosen yet";
+    EXPECT_EQ(BT_GetStatus(BTN_TENKEY_ALL), BT_OFF) << "the server chooses them";
+    for (int key = 1; key <= 23; key++)
+        (void)Tell(TENKEY "@Select@" + std::to_string(key) + "#true");
+    EXPECT_EQ(BT_GetStatus(BTN_TENKEY_ALL), BT_ON);
+    EXPECT_EQ(Push(BTN_TENKEY_ALL).size(), 23u) << "and none again";
     (void)Push(BTN_TENKEY_RECALL);
     EXPECT_THAT(Answer(1), ElementsAre("put " TENKEY "@Default Recall#true"));
 }

@@ -1,4 +1,5 @@
 // The System pages of engineering setup: what they ask, show and send.
+#include "file.h"
 #include "pc_engsetup_sys.h"
 #include "setup_desk.h"
 
@@ -290,7 +291,7 @@ TEST_F(LockPage, CategoriesOfFilesAreLockedByPassword)
     (void)Tell(LOCK + "20000000");
     ASSERT_EQ(LS_GetNData(1), 17);
     EXPECT_EQ(Row(1, 2), "Key Memory|Lock");
-    for (int row = 13; row < 17; row++) {
+    for (const int row : {0, 13, 14, 15, 16}) {
         SelectRow(row);
         (void)Push(33);
     }
@@ -299,13 +300,13 @@ TEST_F(LockPage, CategoriesOfFilesAreLockedByPassword)
     EXPECT_THAT(Type("wrong"), testing::IsEmpty());
     Dismiss();
     (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "A003C000"));
-    (void)Tell(LOCK + "A003C000");
+    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "E003C000"));
+    (void)Tell(LOCK + "E003C000");
     EXPECT_EQ(Row(16, 2), "Setup SYS|Lock");
     SelectRow(16);
     (void)Push(33);
     (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "20038000"));
+    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "60038000"));
     (void)Push(BTN_SETUP_CLEAR);
     EXPECT_EQ(Row(16, 2), "Setup SYS|Lock");
 }
@@ -341,6 +342,9 @@ TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
     (void)Tell(NETWORK + "List#SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11");
     SelectRow(1);
     (void)Push(33);
+    Type(""); // the one it has
+    EXPECT_EQ(Row(1, 3), "SWR001D001|SWR1|192.168.10.11");
+    (void)Push(33);
     Type("3");
     (void)Push(34);
     Type("76");
@@ -369,6 +373,13 @@ TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
     EXPECT_TRUE(Pane_Exist(busy));
     EXPECT_THAT(Tell(NETWORK + "Define#OK"), ElementsAre("remove " + NETWORK + "Define"));
     EXPECT_FALSE(Pane_Exist(busy));
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    Pass(1000);
+    (void)Push(50);
+    (void)Answer(YES);
+    (void)Tell(NETWORK + "Define#NG");
+    EXPECT_NE(Pane_GetActiveID(), 0) << "it failed";
+    (void)Answer(0);
 }
 
 TEST_F(SystemPage, AutoConfigThatFailsOrIsNotAnsweredSaysSo)
@@ -440,6 +451,11 @@ TEST_F(SystemPage, APanelsSwitchersGoAsOneLine)
     (void)Push(BTN_SETUP_EXECUTE);
     EXPECT_THAT(Answer(YES), ElementsAre("put " + CONFIG + "System Operation Mode@PNL1#Dual Simul",
                                          "put " + CONFIG + "Panel Assign#1,1,0,0,5,0"));
+    TellAll(CONFIG + "Tally Master@", {"PNL1#true", "PNL2#false"});
+    SelectRow(1);
+    (void)Push(49);
+    EXPECT_EQ(Row(0, 5), "PNL1|Dual Simul*|SWR1|---*|*") << "one panel has the tally";
+    EXPECT_EQ(Row(1, 5), "PNL2||||Master*");
     EXPECT_THAT(Push(BTN_SYSCONF_SYSTEM2), ElementsAre("put " + CONFIG + "Setup Target#1"));
     (void)Tell(CONFIG + "Setup Target#1");
     EXPECT_EQ(BT_GetStatus(BTN_SYSCONF_SYSTEM2), BT_ON);
@@ -480,6 +496,8 @@ TEST_F(SystemPage, TheClockRunsUntilAKnobTakesIt)
         SendMessage(LMSG_KNOBVAR, t.box, t.value, 0, 0);
     Pass(2000);
     EXPECT_EQ(Caption(BTN_MAINTENANCE_TIME), "Feb 29\n07:08:00\n2024") << "no 31st of February";
+    (void)Push(BTN_MAINTENANCE_TIME);
+    EXPECT_EQ(Shown("Year") + " " + Shown("Day") + " " + Shown("Hour"), "2024 29 7");
     SendMessage(LMSG_KNOBVAR, 1, 2023, 0, 0);
     EXPECT_EQ(Caption(BTN_MAINTENANCE_TIME), "Feb 28\n07:08:00\n2023");
     (void)Push(49);
@@ -503,4 +521,37 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     (void)Tell("Info@Operation Setup Data@Import Path#/mnt/usb/usb3/");
     EXPECT_STREQ(LS_GetData(2, 1, 0), "Removable 2 (Primary)");
     ASSERT_EQ(::system("rmdir /mnt/usb/usb1 /mnt/usb/usb3"), 0);
+}
+
+TEST_F(SystemPage, TheDriverOfTheSticksIsReloadedThenTheDrivesAreReadAnew)
+{
+    static uint32_t number = 2000;
+    const std::string storage = "File@Access@USB Storage ";
+    // What the server makes of the job that was just sent, to be followed by the next one.
+    const auto end = [&](const Lines& sent, const std::string& verb, const char* outcome) {
+        const std::string put = "put " + storage + verb + "#";
+        EXPECT_EQ(sent.size(), 1u);
+        EXPECT_TRUE(sent[0].starts_with(put)) << sent[0];
+        const std::string ack = std::to_string(++number);
+        (void)Tell(storage + verb + sent[0].substr(put.size() - 1) + ack);
+        return Tell(storage + verb + "@Status#" + ack + "," + outcome);
+    };
+    (void)Open(0x73170000);
+    const std::string unread = LS_GetData(1, 0, 0);
+    Lines sent = Push(38);
+    EXPECT_THAT(end(sent, "Reload", "NG"), testing::IsEmpty());
+    EXPECT_NE(Pane_GetActiveID(), 0) << "it says so";
+    Dismiss();
+    sent = end(Push(38), "Reload", "OK");
+    EXPECT_EQ(LS_GetData(1, 0, 0), unread) << "not yet";
+    (void)end(sent, "Refresh", "OK");
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_STREQ(LS_GetData(1, 0, 0), "Local Drive");
+    Pass(1000);
+    sent = Push(38);
+    (void)Answer(0); // Cancel
+    EXPECT_THAT(end(sent, "Reload", "OK"), testing::IsEmpty());
+    EXPECT_EQ(Push(38).size(), 1u) << "and can begin again";
+    (void)Leave();
+    EXPECT_EQ(QueueRoot, nullptr);
 }

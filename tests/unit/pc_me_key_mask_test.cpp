@@ -45,6 +45,21 @@ TEST_F(KeyMaskPages, ThePatternIsOpenOnlyWhileItIsTheMask)
         }
 }
 
+TEST_F(KeyMaskPages, OnAWideScreenThePatternOfTheMaskMovesFurther)
+{
+    for (const int aspect : {0, 1}) {
+        SYS_RefSwrScreenAspect[2] = aspect; // of M/E-3
+        Open(0x13430001);
+        Tell("M/E-3@Key4@Main Mask@Pattern Mask@H Position#1");
+        (void)NB_SetSelect(3);
+        (void)NB_SendTrimValue(1000);
+        EXPECT_THAT(TakeQueuedCommands(),
+                    Contains(std::string("put M/E-3@Key4@Main Mask@Pattern Mask@H Position#") +
+                             (aspect ? "133.33" : "100.00")));
+    }
+    SYS_RefSwrScreenAspect[2] = 0;
+}
+
 TEST_F(KeyMaskPages, TheListOfSourcesOpensOnlyWhileThereIsAMask)
 {
     for (const char* is_on : {"false", "true"}) {

@@ -9,16 +9,17 @@ using KeyProcessPages = TablePage;
 TEST_F(KeyProcessPages, AChannelOfAnotherKeyIsTakenOnlyByOverride)
 {
     Open(0x81360000);
-    Tell(STATUS + "M/E-4@Key3,Free,M/E-2@Key1,PGM/PST@DSK4,Free,M/E-1@DME Wipe,None,None");
-    EXPECT_EQ(Disabled(), (std::set<int>{35, 36, 50, 51, 52}));
+    Tell(STATUS + "M/E-4@Key3,Free,M/E-2@Key1,PGM/PST@DSK4,M/E-3@Key2,M/E-1@DME Wipe,None,None");
+    EXPECT_EQ(Disabled(), (std::set<int>{35, 36, 49, 50, 51, 52}));
     EXPECT_EQ(BT_GetStatus(35), BT_THIRD);
     EXPECT_EQ(Caption(36), "DME4\nPGM/PST\nDSK4");
+    EXPECT_EQ(Caption(49), "DME5\nM/E-3\nKey2");
     EXPECT_EQ(Caption(34), "DME2");
 
     EXPECT_THAT(Press(37), IsEmpty()); // Override
     EXPECT_EQ(Disabled(), (std::set<int>{51, 52}));
     EXPECT_THAT(Press(35), ElementsAre("put M/E-4@Key3@Processed Key@Override@DME3#true"));
-    EXPECT_EQ(Disabled(), (std::set<int>{35, 36, 50, 51, 52})) << "it is used up";
+    EXPECT_EQ(Disabled(), (std::set<int>{35, 36, 49, 50, 51, 52})) << "it is used up";
     EXPECT_EQ(BT_GetStatus(37), BT_OFF);
     EXPECT_THAT(Press(34), ElementsAre("put M/E-4@Key3@Processed Key@DME Select@DME2#true"));
 }

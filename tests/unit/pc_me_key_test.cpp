@@ -143,6 +143,11 @@ TEST_F(KeySignals, TheRowsFollowTalliesAndNeitherTouchesNorTheArrows)
     SendMessage(LMSG_SBSEL, 1, 0, -1, 0);
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     Tell("M/E-2@Key3@Type@Signal Select@Source#CAM 1"); // of another key
+    Pass(10);
+    const std::vector<uint32_t> titles = PixelsIn({110, 266, 500, 287});
+    Tell("M/E-2@Key2@Type@Key Source#Self");
+    Pass(10);
+    EXPECT_NE(PixelsIn({110, 266, 500, 287}), titles) << "it has no use for its source bus";
     EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
 }
 

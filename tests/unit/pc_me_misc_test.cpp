@@ -439,6 +439,7 @@ TEST_F(MeMisc, ABankOfOneSideHasNoSubToAssignTo)
     GL_KeyMax[2] = 4;
     Open(0x13740000);
     EXPECT_EQ(BT_GetVisible(33), BT_DISABLED);
+    EXPECT_EQ(BT_GetVisible(36), BT_DISABLED) << "nor for its last key";
     EXPECT_EQ(BT_GetVisible(1), BT_ENABLED);
     EXPECT_EQ(BT_GetVisible(49), BT_CUTOFF) << "the bank has no fifth key";
     EXPECT_EQ(BT_GetOnOff(4), 1);

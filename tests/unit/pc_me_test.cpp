@@ -36,6 +36,31 @@ TEST_F(BankOfPage, TheBankOfAPageHasOneWordAndOneRegion)
     EXPECT_EQ(Now_disp_draw(), 0);
 }
 
+// Beside what its buttons and boxes follow.
+TEST_F(BankOfPage, APageFollowsWhatItsCodeShowsOfItsOwnBank)
+{
+    static const struct {
+        uint32_t page;
+        Lines paths;
+    } cases[] = {
+        {0x85320001, {"M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern", "M/E-4@Key7@Edge@Edge"}},
+        {0x11310002, {"M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern"}},
+        {0x82760000,
+         {"M/E-5@Misc@Clip Transition@Clip Name", "M/E-5@Misc@Clip Transition@Clip Duration"}},
+        {0x12740000, {"M/E-2@Misc@Key Assign@Key1", "M/E-2@Misc@Key Assign@Key8"}},
+        {0x12540000, {"M/E-2@Wipe@Direction@Normal", "M/E-2@Wipe@Direction@Reverse"}},
+    };
+    for (const auto& c : cases) {
+        const Lines opened = Open(c.page);
+        ASSERT_EQ(GL_NowPage, c.page);
+        const Lines left = Leave();
+        for (const std::string& path : c.paths) {
+            EXPECT_GE(Held(opened, path), 1) << path;
+            EXPECT_EQ(Held(left, path), -Held(opened, path)) << path;
+        }
+    }
+}
+
 TEST_F(BankOfPage, ABoardInFourBanksLeavesEachWithFourKeys)
 {
     Tell("Engineering Setup@System@Install@Unit Config@M/E Split#1,4,2,1,1");

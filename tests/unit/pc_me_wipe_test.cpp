@@ -217,7 +217,7 @@ TEST_F(MeWipeSnapshot, EachKeyRecallsItsRegisterAndPattern)
          KEY_1,
          {"put " + dme + "Recall#800000,1",
           "put PGM/PST SUB@DME Wipe@Pattern Select@Pattern#1011"}},
-        {0x81670000, dme + "M/E-4@List", "1,SMALL,S,999", KEY_1, {"put " + dme + "Recall#10,1"}},
+        {0x81670000, dme + "M/E-4@List", "1,SMALL,S,1000", KEY_1, {"put " + dme + "Recall#10,1"}},
         {0x81670000, wipe + "M/E-4@List", "1,OTHER,S,67", KEY_1, {}},
         // Those of a key stand in a row, the first where the bank's have 7.
         {0x12410005,
@@ -272,9 +272,11 @@ TEST_F(MeWipeSnapshot, AModeStoresOrDeletesOnceAndThenRecallsAgain)
 
 TEST_F(MeWipeSnapshot, ATouchThatChattersDoesNotRecallWhatItStored)
 {
-    OpenWith(0x11570000, "Snapshot@Wipe Snapshot@M/E-1@List", {"7,CIRCLE,S"});
+    OpenWith(0x11570000, "Snapshot@Wipe Snapshot@M/E-1@List", {"7,CIRCLE,S", "5,BOX,S"});
+    (void)Press(KEY_5);
     (void)Press(STORE);
     EXPECT_EQ(Press(KEY_7).size(), 1u);
+    EXPECT_EQ(BT_GetStatus(KEY_5), BT_OFF) << "one at a time";
     EXPECT_EQ(BT_GetStatus(KEY_7), BT_ON);
     Pass(140);
     EXPECT_THAT(Press(KEY_7), IsEmpty());

@@ -108,7 +108,8 @@ TEST_F(RouterPage, OnlyTheLevelsThatWereChangedAreSent)
 {
     (void)Open(LEVEL);
     TellAll("Router@Level@Level", {"1#true", "2#false", "8#true", "9#true"});
-    EXPECT_EQ(Caption(KEY_LEVELS), "Levels\n18");
+    (void)Choose(1, 1);
+    EXPECT_EQ(Caption(KEY_LEVELS), "Levels\n18") << "are those of all destinations";
     PaneRTRLvl_SetSelect(0x40); // the snapshots' choice
     (void)Press(KEY_LEVELS);
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x81);

@@ -71,8 +71,10 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
 {
     using testing::Contains;
     using testing::Not;
+    (void)Tell("Engineering Setup@Panel@Xpt Assign@Source@List#9,CAM 9");
     const Lines opened = Open(FC_PAGE);
     EXPECT_THAT(opened, Contains("add " + ADJUST + "Convert Mode@3"));
+    EXPECT_THAT(opened, Contains("add Engineering Setup@Switcher@Input@FC Input Select@FC1"));
     EXPECT_THAT(opened, Not(Contains("add " + ADJUST + "Convert Mode@4")));
     EXPECT_THAT(opened, Contains("add " + ADJUST + "EC Pos Center@3"));
     EXPECT_THAT(opened, Contains("add " + ADJUST + "LB Pos Center@0"));
@@ -86,7 +88,7 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
     EXPECT_EQ(Row(3, 5), "8||||Squeeze");
     TellAll("Engineering Setup@Switcher@Input@FC Input Select@",
             {"FC1#1-4", "FC2#9-12", "FC2#none", "FC22#1-4"});
-    EXPECT_EQ(Row(0, 4), "9||Up|") << "the sources that were chosen for it";
+    EXPECT_EQ(Row(0, 4), "9|CAM 9|Up|") << "the sources that were chosen for it";
     const Lines left = Leave();
     EXPECT_THAT(left, Contains("remove " + ADJUST + "Convert Mode@4"));
     EXPECT_THAT(left, Contains("remove " + ADJUST + "FC Signal Format"));

@@ -38,6 +38,7 @@ TEST_F(OutputAssign, ABusIsSetThenExecutedWithTheConverterItHas)
     EXPECT_EQ(Usable({BTN_OUTPUT_SET}), std::vector<int>{}) << "no bus in hand";
     Set(1, 49 + 5);
     EXPECT_EQ(Row(1, 4), "2|M/E-2 PVW*|CAM7|---");
+    EXPECT_EQ(Caption(BTN_OUTPUT_BUS), "Output\nAssign\nM/E-2 PVW");
     EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + OUTPUT + "Assign#2,M/E-2 PVW,3"));
 }
 
@@ -61,6 +62,11 @@ TEST_F(OutputAssign, AConverterThatAGpiInputWorksIsSeen)
 {
     const std::string level =
         "Engineering Setup@Switcher@Device Interface@GPI Input@H/L Set@FC Input/Output@";
+    const Lines opened = Open(0x73330001);
+    EXPECT_EQ(
+        std::ranges::count_if(
+            opened, [&](const std::string& line) { return line.starts_with("add " + level); }),
+        8);
     (void)Tell(level + "6#FC3,Input,Output");
     EXPECT_EQ(Row(1, 5), "2|AUX2|CAM7|---|6");
     TellAll(level, {"9#FC3,Input,Output", "6#None,Input,Output"});
