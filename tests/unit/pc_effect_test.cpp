@@ -6,6 +6,7 @@
 #include "pc_shotbox.h"
 #include "table_page.h"
 #include "window.h"
+#include <cstring>
 #include <map>
 
 namespace
@@ -111,13 +112,14 @@ TEST_F(EffectPages, ADissolveTakesTheTimeOfTheKnobAndALockKeepsItsOwn)
     } cases[] = {
         {"3,S,A,U,N,0", 30, "true,30"},   {"3,S,A,U,D,20", 30, "true,30"},
         {"3,S,A,U,D,30", 30, "false,30"}, {"3,S,A,U,D,20", 0, "false,20"},
-        {"3,S,A,L,N,0", 30, ""},
+        {"3,S,A,U,D,20", 1, "true,1"},    {"3,S,A,L,N,0", 30, ""},
     };
     Open3To5(0x62210000);
     for (const auto& c : cases) {
         Deliver(EFFECTS + "M/E-1", c.line);
         Deliver("Effect@Effect@Attribute@Temporary Duration@M/E-1", std::to_string(c.knob));
         Pass(10);
+        EXPECT_EQ(BT_GetStatus(BTN_EFFECT_DISSOLVE) == BT_ON, strstr(c.line, ",D,") != nullptr);
         const Lines sent = Puts(BTN_EFFECT_DISSOLVE);
         if (!*c.value)
             EXPECT_THAT(sent, IsEmpty()) << c.line;

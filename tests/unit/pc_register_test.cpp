@@ -2,6 +2,7 @@
 // the lists show of the mirror.
 #include "a_bt.h"
 #include "a_ls.h"
+#include "colours.h"
 #include "pane.h"
 #include "pane_private.h"
 #include "pc_register.h"
@@ -124,27 +125,33 @@ TEST_F(RegisterPages, TheAttributesOfARegisterTurnOver)
         int key;
         const char *off, *on; // what is sent for a line without any, and with all
     } cases[] = {
-        {BTN_SNAPSHOT_EFFDISS, "Effect Dissolve#2,3,3,true", "Effect Dissolve#2,3,3,false"},
-        {BTN_SNAPSHOT_AUTOTRANS, "Auto Transition#2,3,3,true", "Auto Transition#2,3,3,false"},
-        {BTN_SNAPSHOT_GPI, "GPI#2,3,3,1", "GPI#2,3,3,null"},
-        {BTN_SNAPSHOT_DURATION, "Duration#2,3,3,45", "Duration#2,3,3,45"},
+        {BTN_SNAPSHOT_EFFDISS, "Effect Dissolve#2,1,1,true", "Effect Dissolve#2,1,1,false"},
+        {BTN_SNAPSHOT_AUTOTRANS, "Auto Transition#2,1,1,true", "Auto Transition#2,1,1,false"},
+        {BTN_SNAPSHOT_GPI, "GPI#2,1,1,1", "GPI#2,1,1,null"},
+        {BTN_SNAPSHOT_DURATION, "Duration#2,1,1,45", "Duration#2,1,1,45"},
     };
-    Open(PAGE_SNAPSHOT_ATTRIBUTE);
-    Cursor(1, 2);
-    (void)Tell(LIST + "M/E-1@Temporary Duration#45");
+    const std::string duration = LIST + "M/E-1@Temporary Duration";
+    EXPECT_THAT(Open(PAGE_SNAPSHOT_ATTRIBUTE), Contains("add " + duration));
+    Cursor(1, 0);
+    (void)Tell(duration + "#45");
     for (const auto& c : cases) {
-        Store("M/E-1", 3, "A,S,,n,n,n");
+        Store("M/E-1", 1, "A,S,,n,n,n");
         EXPECT_THAT(Puts(c.key), ElementsAre("put " + LIST + c.off));
-        Store("M/E-1", 3, "A,S,,30,30,1");
+        Store("M/E-1", 1, "A,S,,30,30,1");
         EXPECT_THAT(Puts(c.key), ElementsAre("put " + LIST + c.on));
-        Store("M/E-1", 3, "A,L,,n,n,n");
+        Store("M/E-1", 1, "A,L,,n,n,n");
         EXPECT_THAT(Puts(c.key), IsEmpty());
     }
     EXPECT_THAT(Puts(51), IsEmpty()); // store
-    Store("M/E-1", 3, "A,S,,n,n,n");
-    EXPECT_THAT(Puts(51), ElementsAre("put Snapshot@Snapshot@Store#2,3"));
+    Store("M/E-1", 1, "A,S,,n,n,n");
+    EXPECT_THAT(Puts(51), ElementsAre("put Snapshot@Snapshot@Store#2,1"));
     SendMessage(LMSG_KNOBVAR, 1, 12, 0, 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + LIST + "M/E-1@Temporary Duration#12"));
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + duration + "#12"));
+    EXPECT_THAT(Puts(BTN_SNAPSHOT_DURATION), ElementsAre("put " + LIST + "Duration#2,1,1,12"));
+    Store("M/E-1", 1, "A,S,,30,n,n");
+    EXPECT_THAT(Leave(), Contains("remove " + duration));
+    Open(PAGE_SNAPSHOT_ATTRIBUTE);
+    EXPECT_EQ(BT_GetStatus(BTN_SNAPSHOT_EFFDISS), BT_ON);
 }
 
 // Figures of the server's documents, not of our tables.
@@ -205,19 +212,23 @@ TEST_F(RegisterPages, HoldGoesToMarksAndBack)
          }},
         {0, "AB12345678U1U2U3D2", " A B 1 2 3 4 5 6 7 8 U U2 U3 D2", "AB12345678U1U2U3D2", " x",
          [] { SYS_RefPnlType = DEVTYPE_QRD33; }}, // exactly 13 there
+        {5, "AB1234U1U2U3", " A B 1 2 3 4 U1 U2 U3", "AB1234U1U2U3", " X",
+         [] { GL_KeyMax[5] = 4; }},
         {6, "AB12345678U1U2U3", " 1 2 3 4 5 6 7 8 U1 U2 U3", "12345678U1U2U3", " X"},
         {6, "AB1234U1U2U3", " 1 2 3 4 U1 U2 U3", "1234U1U2U3", " X", [] { GL_KeyMax[0] = 4; }},
         {12, "000000010000", " Aux", "0000000100000000", " x"},
         {12, "FFFFFFFF0000FFFF", " Aux", "FFFFFFFF0000FFFF", " X"},
         {12, "0000000000010000", "", "0000000000010000", " x"}, // behind the aux buses
-        {20, "FvFkBvBk", " Fv Fk Bv Bk", "FvFkBvBk", " X"},
+        {27, "FvFkBvBk", " Fv Fk Bv Bk", "FvFkBvBk", " X"},
         {20, "false", "", "false", ""},
         {28, "80", " RTR", "80" + std::string(254, '0'), " x"},
         {28, full_router, " RTR", full_router, " X"},
         {28, full_router.substr(1) + "7", " RTR", full_router.substr(1) + "7", " x"},
         {29, "A", "", "", ""},
     };
-    const int panel = SYS_RefPnlType, switcher = SYS_RefSwrType, keys = GL_KeyMax[0];
+    const int panel = SYS_RefPnlType, switcher = SYS_RefSwrType;
+    int keys[std::size(GL_KeyMax)];
+    std::copy(std::begin(GL_KeyMax), std::end(GL_KeyMax), keys);
     for (const auto& c : cases) {
         char flags[HOLD_MARKS_MAX] = {};
         char text[HOLD_TEXT_SIZE], shown[64];
@@ -230,14 +241,18 @@ TEST_F(RegisterPages, HoldGoesToMarksAndBack)
         EXPECT_EQ(snapshot_xpthold_flag(c.region, c.text.c_str()), c.flag) << c.text;
         SYS_RefPnlType = panel;
         SYS_RefSwrType = switcher;
-        GL_KeyMax[0] = keys;
+        std::copy(std::begin(keys), std::end(keys), GL_KeyMax);
     }
 }
 
 // Field by field: status, hold, dissolve, transition, GPI.
 TEST_F(RegisterPages, ALineShowsItsAttributesInItsRegionOnly)
 {
-    Open(0x63210000);
+    const std::string read = "read " + LIST + "M/E-1@List";
+    EXPECT_THAT(Open(0x63210000), Contains(read));
+    for (int no = 1; no <= 99; no++)
+        Store("M/E-1", no, ",E,,n,n,n");
+    EXPECT_THAT(Open(0x63210000), Not(Contains(read))) << "all have been told";
     Store("M/E-1", 3, "OPENING LONG,L,AB,1234,n,1");
     Store("M/E-2", 4, "ELSEWHERE,S,,n,n,n");
     Store("M/E-1", 100, "TOO FAR,S,,n,n,n");
@@ -256,6 +271,35 @@ TEST_F(RegisterPages, ALineShowsItsAttributesInItsRegionOnly)
     EXPECT_EQ(Cell(1, 6, 6), "On");
     (void)Tell("Snapshot@Snapshot@Clip Event@User1@List#FM5,7,ON,OFF,OFF,CLIP,0,10");
     EXPECT_EQ(Cell(1, 6, 6), "");
+}
+
+// Below the list: the regions in grey, but orange where they hold the register at the cursor and
+// are not chosen.
+TEST_F(RegisterPages, TheStripShowsWhichRegionsHoldTheRegister)
+{
+    static const struct {
+        uint32_t page;
+        const char* path; // of a region that is not the reference
+        const char *empty, *stored;
+    } cases[] = {
+        {0x63220000, "Snapshot@Snapshot@Attribute@P/P@List", "1,,E,,n,n,n", "1,A,S,,n,n,n"},
+        {0x63320000, "Snapshot@Wipe Snapshot@P/P@List", "1,,E", "1,A,S"},
+        {0x63520000, "Snapshot@Key Snapshot@Attribute@M/E-1@Key2@List", "1,,E", "1,A,S"},
+        {0x62220000, "Effect@Effect@Attribute@List@GPI", "1,E,,U,N,0", "1,S,A,U,N,0"},
+        {0x62320000, "Effect@Effect@Attribute@List@DME5", "101,E,,U,N,0", "101,S,A,U,N,0"},
+    };
+    for (const auto& c : cases) {
+        Open(c.page);
+        Cursor(1, 0);
+        const auto orange = [&](const char* line) {
+            (void)Tell(c.path + std::string("#") + line);
+            Pass(10);
+            return std::ranges::count(PixelsIn({102, 373, 564, 426}), ORANGE);
+        };
+        const auto before = orange(c.empty);
+        EXPECT_GT(orange(c.stored), before) << c.path;
+        EXPECT_EQ(orange(c.empty), before) << c.path;
+    }
 }
 
 TEST_F(RegisterPages, OperationsGoToAllSelectedRegionsInRuns)
@@ -444,7 +488,11 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     (void)Tell("Snapshot@Snapshot@Clip Event@User2@List#FM3,9,ON,ON,OFF,CLIP,0,10");
     (void)Press(BTN_SNAPSHOT_CLIP);
     GL_CreatePage = 0;
+    (void)TakeQueuedCommands();
     EXPECT_EQ(CreatePage(PAGE_SNAPSHOT_CLIP), 0);
+    const std::string status = "Frame Mem 2@Clip/Still@Output Status@FM";
+    EXPECT_THAT(TakeQueuedCommands(),
+                AllOf(Contains("add " + status + "1"), Not(Contains("add " + status + "0"))));
     Cursor(1, 2);
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY),
                 ElementsAre("put Snapshot@Snapshot@Clip Event@User2@FM3@AutoPlay#9,OFF"));
@@ -460,7 +508,7 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
         {"FM3#2,", ""},
     };
     for (const auto& o : outputs) {
-        (void)Tell(std::string("Frame Mem 2@Clip/Still@Output Status@") + o.told);
+        (void)Tell(status.substr(0, status.size() - 2) + o.told);
         EXPECT_EQ(Cell(1, 2, 6), o.shown) << o.told;
     }
     const std::string config = "Engineering Setup@Switcher@Config@User1-8 Config@User";
@@ -481,10 +529,12 @@ TEST_F(RegisterPages, TheRecallModesOfAKeyTurnOverOneByOne)
                 Contains("add Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2"));
     (void)Tell("Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2,true,false,true");
     (void)Tell("Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key1,false,false,false");
-    EXPECT_THAT(
-        Puts(BTN_KEYSS_MODIFIER + 1),
-        ElementsAre("put Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key1,true,true,true",
-                    "put Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2,true,true,true"));
+    const char* const turned[] = {"false,false,true", "true,true,true", "true,false,false"};
+    for (int m = 0; m < 3; m++) {
+        const std::string put = "put Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key";
+        EXPECT_THAT(Puts(BTN_KEYSS_MODIFIER + m),
+                    ElementsAre(put + "1," + turned[m], put + "2," + turned[m]));
+    }
     EXPECT_THAT(Leave(), Contains("remove Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2"));
 }
 
