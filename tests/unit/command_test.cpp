@@ -1,5 +1,6 @@
 #include "command.h"
 #include "page.h"
+#include <cstring>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -33,11 +34,17 @@ TEST(Command, ValuesAreCutAtTheirSeparator)
         {SplitVars, ",b", 1, {",b"}},
         {SplitVars, "", 4, {""}},
         {SplitVars, "a,", 4, {"a", ""}},
+        {SplitVars, "a,  b", 4, {"a", " b"}}, // one blank is the operator's, two are the value's
+        {SplitVars, "a,b", 0, {}},
         {SplitCmds, "M/E-1@Key 1@ Type", 8, {"M/E-1", "Key 1", " Type"}},
         {SplitSHPValues, "CAPACITY:: 1,2", 8, {"CAPACITY", "", "1,2"}},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Cut(c.split, c.text, c.vn), c.parts) << c.text;
+    char some[] = "x";
+    char* v[] = {some, some};
+    EXPECT_EQ(SplitVars(nullptr, v, 2), 0);
+    EXPECT_TRUE(!v[0] && !v[1]);
 }
 
 TEST(Command, TheValueBeginsBehindTheFirstMark)
@@ -84,6 +91,8 @@ TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
         {0x21110000, nullptr, "~X", "", "X"},     // before the first page
         {0x21110000, deep, "~", "", "1@2@3@4@5@6@7@8"},
         {0x21110000, deep, "~6@X", "", "1@2@3@4@5@6@X"},
+        {0x21110000, deep, "~7", "", "1@2@3@4@5@6@7@87"}, // no depth
+        {0x21110000, deep, "~0", "", "1@2@3@4@5@6@7@80"},
         {main_key, key, "~1@$@X#$", "5", "M/E-1@5@X#"}, // used up by the first
         {main_key, key, "A#$$B", nullptr, "A#B"},
     };
@@ -97,6 +106,36 @@ TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
         DecodeCommand(path, c.text, sizeof path);
         EXPECT_STREQ(path, c.path) << c.text;
     }
+}
+
+TEST(Command, ABufferThatIsShortGetsTheBeginning)
+{
+    static const char* const key[PAGE_DEPTH] = {"M/E-1", "Key1"};
+    ShowPage(0x11110000, key);
+    static const struct {
+        const char *text, *var;
+        std::string path;
+    } cases[] = {
+        {"~@Type", "", "M/E-1@Key1@Type"},
+        {"~1@$@X", "55", "M/E-1@55@X"},
+        {"A@B#c", "", "A@B#c"},
+        {nullptr, "", ""},
+    };
+    for (const auto& c : cases)
+        for (size_t size = 0; size <= c.path.size() + 2; size++)
+            for (const bool has_var : {true, false}) {
+                if (!has_var && c.text && strchr(c.text, '$'))
+                    continue;
+                std::string buffer(32, '*');
+                if (has_var)
+                    DecodeCommandWithVar(buffer.data(), c.text, c.var, int(size));
+                else
+                    DecodeCommand(buffer.data(), c.text, int(size));
+                EXPECT_EQ(buffer.substr(size), std::string(32 - size, '*')) << size;
+                if (size > 0) {
+                    EXPECT_EQ(buffer.c_str(), c.path.substr(0, size - 1)) << size;
+                }
+            }
 }
 
 TEST(Command, AConditionDisablesAtItsValues)

@@ -605,7 +605,7 @@ TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
 
 TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
 {
-    (void)Tell("Macro@Register@List#7,S,OPENING,U,0,0");
+    (void)Tell("Macro@Register@List#7,S,ELEVEN_CHRS,U,0,0");
     static const struct {
         int status, number;
         uint32_t page, opens;
@@ -623,7 +623,7 @@ TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
         GL_MacroEditNoName[0] = '\0';
         (void)Key(key);
         EXPECT_EQ(GL_MacroEditNo, 7);
-        EXPECT_STREQ(GL_MacroEditNoName, "7  Name: OPENING");
+        EXPECT_STREQ(GL_MacroEditNoName, "7  Name: ELEVEN_CHRS");
     };
     for (const auto& c : cases) {
         Filescp_trnasferlist_init("PNL1");
