@@ -556,7 +556,18 @@ TEST_F(BusTally, ThePanelsAssignButtonsOpenTheirPage)
     EXPECT_EQ(GL_CreatePage, 0x73240001u);
     Deliver("Engineering Setup@Panel@Prefs/Utility@Panel Select", "9,0");
     EXPECT_EQ(GL_SelectButtonID, 9);
+    EXPECT_EQ(GL_ShortCutMenu, 0x12110000u);
     EXPECT_EQ(GL_CreatePage, 0x73240000u);
+    Deliver("Engineering Setup@Panel@Prefs/Utility@Panel Select", "1023,2");
+    EXPECT_EQ(GL_XptAsgnSelectButtonID, 1023);
+    EXPECT_EQ(GL_CreatePage, 0x73240002u);
+    Deliver("Engineering Setup@Panel@Prefs/Utility@Panel Select", "0,1");
+    EXPECT_EQ(GL_UtlAsgnSelectButtonID, 0);
+    GL_CreatePage = 0;
+    for (const char* none : {"1024,0", "-1,0", "7,3", "7,-1", "7"}) {
+        Deliver("Engineering Setup@Panel@Prefs/Utility@Panel Select", none);
+        EXPECT_EQ(GL_CreatePage, 0u) << none;
+    }
 }
 
 TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
@@ -568,7 +579,14 @@ TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
     } cases[] = {
         {"1111", 0x11110000, 5},
         {"7316.8", 0x73160008, 5},
+        {"7316.1f,F8", 0x7316001F, 7},
+        {"7316.1f,D1", 0x7316001F, 0},
         {"7316.1f,D2", 0x7316001F, 1},
+        {"1111,D0", 0x11110000, 1},
+        {"1111,E3", 0x11110000, 1},
+        {"aBcF", 0xABCF0000, 1},
+        {"12", 0x00120000, 1},
+        {"1.2", 0x00010002, 1},
         {" 1111", 0x11110000, 1},
         {"1111.", 0x11110000, 1},
         {"11112", 0x11110000, 1}, // four digits are taken
