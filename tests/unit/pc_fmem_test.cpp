@@ -531,7 +531,7 @@ TEST_F(ClipPages, TheRoomInMemoryIsShownOnceTheHubHasToldIt)
     const Display display;
     const auto room = [](int total) {
         SYS_MemoryFree = SYS_MemoryTotal = total;
-        SendMessage(LMSG_FMLOAD, 0, 0, 0, 0);
+        EXPECT_EQ(SendMessage(LMSG_FMLOAD, 0, 0, 0, 0), 0) << "the title shows it, too";
         Pass(10);
         EXPECT_EQ(Display::Lacks(), "");
         return PixelsIn({332, FMEM_KEYS_Y + 33, 434, FMEM_KEYS_Y + 52});

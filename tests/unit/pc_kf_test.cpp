@@ -75,13 +75,23 @@ TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
                                       .keyframes = {30}})); // MACRO: place 51
     const char* knob = "Region\nScroll";
     EXPECT_EQ(Shown(knob), "0");
-    EXPECT_EQ(KF_Proc(MSG_WHEELUP, 0, 0, 0, 0), 0) << "the other objects are asked as well";
+    const struct {
+        int msg;
+        MsgArg ax, bx;
+    } passes[] = {{MSG_WHEELUP, 0, 0},  {MSG_REDRAW, 1, 0},   {MSG_REDRAW, 1000, 0},
+                  {LMSG_KNOBVAR, 1, 0}, {LMSG_KNOBVAR, 2, 0}, {MSG_PRESS, 300, 300}};
+    for (const auto& p : passes)
+        EXPECT_EQ(KF_Proc(p.msg, p.ax, p.bx, 0, 0), 0) << "the others are asked as well";
     turn(42);
     Redraw(1000);
     Redraw(1000);
     EXPECT_EQ(PixelAt(160, 9 * 45 + 91), 0x606060u) << "MACRO is the last row";
     Open(0x61110000);
     EXPECT_EQ(Shown(knob), "42") << "the page comes back where it was left";
+    for (const auto& [x, place] : {std::pair{714, 0}, {794, 42}}) {
+        (void)Drag(1, x);
+        EXPECT_EQ(RegionScroll, place);
+    }
     for (int row = 2; row <= 11; row++)
         KF_RegionAssignTally(row, "");
     Open(0x61110000);
