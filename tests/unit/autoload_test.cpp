@@ -303,6 +303,13 @@ TEST_F(AutoLoad, AFullStoreTakesNoMoreAndTheSecondUnitDoesNotEmptyIt)
     (void)Sent();
     EXPECT_THAT(AskForPictures("SWR2", "SWR000D002", {"Mother.FMEM_001.SFM"}), Contains(clear))
         << "of what the store was given nothing is known any more";
+    // A path that is cut is another file's.
+    const size_t before = (ROOT + "FMEMFOL/DEFAULT/SWR000D001/").size(), behind = 13;
+    for (const size_t length : {size_t(PATH_SIZE), size_t(PATH_SIZE - 1)}) {
+        const std::string name(length - before - behind, 'x');
+        EXPECT_EQ(AskForPictures("SWR1", "SWR000D001", {name + ".FMEM_001.SFM"}).back(),
+                  EXIST + "SWR1#" + (length < PATH_SIZE ? "true" : "false"));
+    }
 }
 
 TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
