@@ -244,6 +244,26 @@ TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
     choose(BTN_ALL_DEVICE_A, FILE_REMOVABLE);
     EXPECT_EQ(sides(), "Removable\nDrive SYSTEM|Register ");
     EXPECT_EQ(Usable(keys), std::vector<int>({BTN_ALL_DIR_A, BTN_ALL_L_TO_R, BTN_ALL_R_TO_L}));
+    // A save goes from right to left as well; a copy not into itself.
+    Select({"KEYMEM"});
+    (void)Press(BTN_ALL_R_TO_L);
+    Answer(1);
+    EXPECT_THAT(Run(), Contains("Rmdir MYHOST:/mnt/usb/usb1/SYSTEM"));
+    FileAll_LinkLost();
+    File_LinkLost();
+    File_SHP_All_Clear();
+    (void)Run();
+    FileAll_Reset();
+    while (Pane_GetActiveID())
+        (void)Pane_Quit(Pane_GetActiveID());
+    (void)BkgdFileTransfer_Set(0, 0);
+    (void)Open(ALL_PAGE);
+    Pass(1000);
+    choose(BTN_ALL_DEVICE_A, FILE_REMOVABLE);
+    choose(BTN_ALL_DEVICE_B, FILE_REMOVABLE);
+    (void)Press(BTN_ALL_R_TO_L);
+    EXPECT_THAT(Run(), IsEmpty());
+    EXPECT_NE(Pane_GetActiveID(), 0);
 }
 
 // Nothing is cleared for nothing.
@@ -496,9 +516,13 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
     ASSERT_TRUE(QueueRoot);
     FILEXFERLIST* const item = *QueueRoot->xferlist;
     CopyText(item->tmp, "MYHOST:/var/tmp/FMXfer/left");
+    ASSERT_TRUE(item->next);
+    CopyText(item->next->tmp, "MYHOST:/tmp/other"); // not ours
+    ASSERT_EQ(::system("touch /tmp/other"), 0);
     QueueRoot->retfunc.list(QueueRoot->label, QueueRoot->tag);
     EXPECT_NE(access("/var/tmp/FMXfer/left", F_OK), 0);
     EXPECT_NE(access("/var/tmp/XPORT", F_OK), 0);
+    EXPECT_EQ(unlink("/tmp/other"), 0);
 }
 
 TEST_F(FileAllPage, AutomationGetsItsAnswer)
