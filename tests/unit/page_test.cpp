@@ -1,10 +1,17 @@
+#include "a_bt.h"
+#include "a_nb.h"
+#include "bus.h"
+#include "command.h"
 #include "device.h"
 #include "display.h"
+#include "err.h"
 #include "global.h"
 #include "harness.h"
 #include "log.h"
 #include "loop.h"
+#include "message.h"
 #include "page.h"
+#include "page_family.h"
 #include "window.h"
 #include <algorithm>
 #include <cstdio>
@@ -171,6 +178,60 @@ TEST_F(PageTest, CombinedChannelsAreFollowedOnOtherPages)
         EXPECT_EQ(std::ranges::count(sent, "add Global Effect@Ch5-Ch8@Combine@Ch8"), c.has_them)
             << std::hex << c.page;
         EXPECT_THAT(sent.back(), testing::StartsWith(c.has_them ? "add " : "")) << "the last word";
+    }
+}
+
+// --- The families of objects ---
+
+TEST_F(PageTest, TheColumnIsThePagesUnlessAButtonHasTakenIt)
+{
+    static const NB_TBL table[] = {
+        {.id = 1, .caption = "Own", .type = NB_2, .min = -100, .max = 100, .cmd = "~@Own"}, NB_END};
+    const PageFamily& boxes = *PageFamily_Of(OBJ_NB);
+    const auto has_box = [] {
+        char path[CMD_SIZE];
+        double value = 0;
+        return NB_GetKnob_info("Own", path, &value, sizeof path) > 0;
+    };
+    const auto title = [&](const char* word) {
+        const PAGE page{.tree = {"M/E-1", "Key1", word}};
+        boxes.create(table, 0, page);
+        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        return PixelsIn({713, 83, 790, 98});
+    };
+    CreatePage(0x61110000);
+    const auto colour = title("Colour"), edge = title("Edge");
+    EXPECT_TRUE(has_box());
+    EXPECT_NE(colour, edge) << "its head is the last word of the path";
+    EXPECT_EQ(title("Colour"), colour);
+    CreatePage(0x71110000); // has none
+    EXPECT_FALSE(has_box());
+    CreatePage(0x11110000);
+    SendDummyTally("M/E-1@Key1@Type@Key Type#Luminance");
+    SendMessage(MSG_PRESS, 117, 277, 1, 0);
+    ASSERT_GT(BT_GetKnobAssign(), 0);
+    (void)title("Colour");
+    EXPECT_FALSE(has_box()) << "the knobs stay with the button";
+}
+
+// Two show what the program itself has, and empty nothing when their page is left.
+TEST_F(PageTest, WhatWatchesTheProgramIsFilledWhenItsPageOpens)
+{
+    constexpr char file[] = "/var/log2/tm3err.log";
+    Err_Clear();
+    (void)Err_Add("something");
+    unlink(file);
+    CreatePage(0x99000000);
+    EXPECT_THAT(FileText(file), HasSubstr("something"));
+    unlink(file);
+    CreatePage(PAGE_TOP);
+    EXPECT_EQ(FileText(file), "");
+    Err_Clear();
+    for (const int is_on : {1, 0}) {
+        GL_LoopCounter = is_on;
+        CreatePage(0x99995555);
+        EXPECT_EQ(BT_GetStatus(34), is_on ? BT_ON : BT_OFF);
+        CreatePage(PAGE_TOP);
     }
 }
 
