@@ -749,3 +749,62 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
     Pass(200);
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE), IsEmpty());
 }
+
+TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
+{
+    Records({"KILL", "1,0,Event,MECut,ME,P/P", "1,1,Continue,Stop,Device,Dev1",
+             "2,0,Event,MECut,ME,P/P", "3,0,Event,MECut,ME,P/P"});
+    static const struct {
+        const char *range, *flags, *marks; // of the four lines
+    } flags[] = {
+        {"1,4", "010", "  * "}, {"1,4", "101", "** *"}, {"2,4", "11", "  **"}, {"1,4", "", "    "}};
+    for (const auto& f : flags) {
+        (void)Tell(ONLINE + "Macro Event Edit Range#" + f.range);
+        (void)Tell(ONLINE + "Current Work Register Modify Flag#" + f.flags);
+        Pass(10);
+        std::string marks;
+        for (int row = 0; row < 4; row++)
+            marks += Cell(LIST_MACRO_ONLINE, row, ONLINE_COL_MODIFIED) == "*" ? '*' : ' ';
+        EXPECT_EQ(marks, f.marks) << f.range << " " << f.flags;
+    }
+    enum : int {
+        BEFORE = BTN_ONLINE_BEFORE,
+        AFTER = BTN_ONLINE_AFTER,
+        MODIFY = BTN_ONLINE_MODIFY,
+        DELETE = BTN_ONLINE_DELETE
+    };
+    const std::vector<int> editing = {BEFORE, AFTER, MODIFY, DELETE};
+    static const struct {
+        const char* told; // and then told to be as before
+        const char* back;
+        std::vector<int> usable;
+    } keys[] = {
+        {"Macro Insert Mode#Auto Insert", "Macro Insert Mode#Edit Insert", {DELETE}},
+        {"Insert Enable Flag#false", "Insert Enable Flag#true", {DELETE}},
+        {"Remain Macro Event Cell#0", "Remain Macro Event Cell#1", {MODIFY, DELETE}},
+        {"Macro Edit Mode#false", "Macro Edit Mode#true", {}},
+        {"Current Macro Register Info#3,OPENING,L,4,1",
+         "Current Macro Register Info#3,OPENING,U,4,1",
+         {}},
+        {"Current Macro Register Info#4,OTHER,L,0,1", "Macro Edit Mode#true", editing},
+    };
+    for (const auto& k : keys) {
+        (void)Tell(ONLINE + k.told);
+        Pass(10);
+        EXPECT_EQ(Usable(editing), k.usable) << k.told;
+        (void)Tell(ONLINE + k.back);
+        Pass(10);
+        EXPECT_EQ(Usable(editing), editing) << k.back;
+    }
+    static const struct {
+        const char* at;
+        std::vector<int> usable;
+    } places[] = {{"1", {BTN_ONLINE_NEXT}},
+                  {"2", {BTN_ONLINE_PREVIOUS, BTN_ONLINE_NEXT}},
+                  {"4", {BTN_ONLINE_PREVIOUS}}};
+    for (const auto& p : places) {
+        (void)Tell(ONLINE + std::string("Current Macro Register Info#3,OPENING,U,4,") + p.at);
+        Pass(10);
+        EXPECT_EQ(Usable({BTN_ONLINE_PREVIOUS, BTN_ONLINE_NEXT}), p.usable) << p.at;
+    }
+}
