@@ -488,6 +488,12 @@ TEST_F(MacroAttachPage, TheListIsInTheOrderOfThePanels)
     EXPECT_EQ(Row(0) + Row(1), "P/P XPT|BKGD A XPT 7|Only|12|OPENING"
                                "P/P XPT|BKGD B XPT 7|Only|12|OPENING");
     EXPECT_EQ(Row(2), "M/E-1 XPT|KEY 7 XPT 2|Only|12|OPENING");
+    const auto detail = [](int row) {
+        LS_SetNowLine(1, row);
+        Pass(10);
+        return PixelsIn({100, 284, 566, 326});
+    };
+    EXPECT_NE(detail(0), detail(2));
     EXPECT_EQ(LS_GetNData(1), 6);
     (void)Tell(ATTACHMENT + "1,7,1,2,13,0,0" + PLACE); // the button has another macro
     Pass(10);
@@ -543,6 +549,15 @@ TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
         Cursor(1, 11);
         EXPECT_THAT(Puts(49), ElementsAre("put " + head + c.path + "#12"));
         EXPECT_THAT(Puts(50), ElementsAre("put " + head + c.path + "#0"));
+        const auto strip = [&](const char* number) {
+            (void)Tell(head + c.path + "#" + number);
+            Pass(10);
+            return PixelsIn({100, 371, 566, 395});
+        };
+        const auto none = strip("0");
+        EXPECT_NE(strip("1"), none);
+        EXPECT_EQ(strip("251"), none) << "no register";
+        EXPECT_NE(strip("250"), none);
         EXPECT_THAT(Leave(), testing::IsSupersetOf(
                                  {"put " + head + "Tally Back#false", "remove " + head + c.path}));
     }
