@@ -19,7 +19,8 @@ namespace
 {
 constexpr char BACKUP[] = "/mnt/data/Menu_Macro_tmp/";
 constexpr char TRANSFER[] = "/var/tmp/MenuMacro/";
-constexpr uint32_t EXEC = 0x54310000, COPY = 0x54330000, DELETE = 0x54360000, EDIT = 0x71440102;
+constexpr uint32_t EXEC = 0x54310000, COPY = 0x54330000, DELETE = 0x54360000, EDIT = 0x71440102,
+                   SETUP = 0x54310099;
 
 struct MenuMacro : TablePage {
     void SetUp() override
@@ -503,4 +504,46 @@ TEST_F(MenuMacro, TheFirstPageRecallsRunsAndStops)
     const int pane = PaneMessage_Create("x", PANE_INFO, "x"); // a pane does not hold it up
     EXPECT_EQ(Run(1500).size(), 2u);
     (void)Pane_Quit(pane);
+}
+
+// The knob turns the interval of the register at the cursor; the file follows when the cursor or
+// the operator goes on.
+TEST_F(MenuMacro, TheIntervalPageWritesWhatWasTurnedOnce)
+{
+    Load(1, "Header:ONE,0,1\nInterval:300\nEvent:put A#1\n");
+    Load(2, "Header:TWO,0,1\nInterval:700\nEvent:put B#2\n");
+    (void)Open(SETUP);
+    const auto at = [](int row) {
+        SendMessage(LMSG_LISTSEL, 1, row, 0, 0);
+        Pass(10);
+        return Shown("Interval\nseconds");
+    };
+    const auto strip = [] {
+        Pass(10);
+        return PixelsIn({100, 352, 590, 412});
+    };
+    EXPECT_EQ(at(0), "0.3");
+    const auto one = strip();
+    EXPECT_EQ(at(1), "0.7");
+    EXPECT_NE(strip(), one);
+    EXPECT_EQ(at(0), "0.3");
+    const std::string before = File(1);
+    for (const double seconds : {0.4, 0.5})
+        SendMessage(LMSG_KNOBFVAR, 1, Arg(&seconds), 0, 0);
+    EXPECT_NE(strip(), one);
+    EXPECT_EQ(File(1), before) << "not for every step";
+    EXPECT_EQ(at(1), "0.7");
+    EXPECT_THAT(File(1), HasSubstr("Interval:500\n"));
+    std::filesystem::remove_all(BACKUP);
+    EXPECT_EQ(at(0), "0.5");
+    EXPECT_EQ(at(1), "0.7");
+    EXPECT_EQ(File(1) + File(2), "") << "nothing was turned";
+    mm_lock_exec(2, 2, true);
+    const double seconds = 0.9;
+    SendMessage(LMSG_KNOBFVAR, 1, Arg(&seconds), 0, 0);
+    EXPECT_EQ(mm_register_interval(1), 700) << "locked";
+    (void)at(0);
+    SendMessage(LMSG_KNOBFVAR, 1, Arg(&seconds), 0, 0);
+    (void)Leave();
+    EXPECT_THAT(File(1), HasSubstr("Interval:900\n"));
 }
