@@ -348,6 +348,25 @@ TEST_F(Windows, TheKeyboardWritesWhatIsTouched)
     }
 }
 
+TEST_F(Windows, ATouchedKeyLooksPushedForAMoment)
+{
+    CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "", .ok_text = HearText});
+    Pass();
+    const auto look = [] {
+        const Place key = KeyboardPlace("a");
+        const int x = KEYBOARD_WINDOW.x + key.x, y = KEYBOARD_WINDOW.y + key.y;
+        return PixelsIn({x, y, x + 49, y + 49});
+    };
+    const auto up = look();
+    TouchKeyboard({"a"});
+    EXPECT_NE(look(), up) << "at once";
+    Pass(100);
+    EXPECT_NE(look(), up);
+    Pass(100);
+    EXPECT_EQ(look(), up);
+    CloseWindow();
+}
+
 TEST_F(Windows, KeysOfAKeyboardWriteAsOnTheScreen)
 {
     CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "ab", .ok_text = HearText});
