@@ -199,6 +199,10 @@ TEST_F(Engineering, ReportsAreKeptWhateverPageIsShown)
     EXPECT_STREQ(LS_GetData(1, 199, 2), "5");
     Press(49); // clear
     EXPECT_EQ(LS_GetNData(1), 0);
+    const std::vector<uint32_t> reporting = PixelsIn({104, 392, 697, 409});
+    (void)Tell("Info@Status Report#false");
+    Pass(10);
+    EXPECT_NE(PixelsIn({104, 392, 697, 409}), reporting) << "the server no longer does";
 }
 
 TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
@@ -218,6 +222,7 @@ TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
     EXPECT_STREQ(LS_GetData(1, 1, 2), "the link [text]");
     EXPECT_STREQ(LS_GetData(1, 2, 2), "M/E-1@Key1@Type#Luminance");
     EXPECT_STREQ(LS_GetData(1, 3, 2), "line 4999 of the pages, to fill the file");
+    EXPECT_EQ(BT_GetStatus(51), BT_OFF);
     Press(37); // links
     EXPECT_THAT(Column(1, 2), ElementsAre("the link [text]"));
     fp = fopen(LOG, "a");
@@ -245,6 +250,9 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     EXPECT_STREQ(LS_GetData(1, 1, 2), "Down");
     EXPECT_STREQ(LS_GetData(1, 2, 2), "Not used");
     EXPECT_STREQ(LS_GetData(1, 0, 7), "waiting");
+    EXPECT_STREQ(LS_GetData(1, 1, 7), "--") << "it has nothing to ask";
+    EXPECT_EQ(LS_GetStatus(1, 0, 2), 0);
+    EXPECT_EQ(LS_GetStatus(1, 1, 2), 2) << "red";
     Press(50); // repeat
     for (int pass = 0; pass < 4; pass++)
         MainPass();
@@ -257,6 +265,11 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     for (int pass = 0; pass < 400; pass++)
         MainPass();
     EXPECT_STREQ(LS_GetData(1, 0, 7), "none");
+    EXPECT_STREQ(LS_GetData(2, 1, 1), "--");
+    GL_ProcStatus[1] = 1;
+    Pass(600);
+    EXPECT_STREQ(LS_GetData(2, 1, 1), "Up");
+    GL_ProcStatus[1] = 0;
     server.Drop();
     server.StopListening();
     Net_Init();
@@ -284,4 +297,46 @@ TEST_F(Engineering, BoardsOfUnitsThatAreThereAreListed)
     EXPECT_STREQ(LS_GetData(1, 1, 1), "NG");
     EXPECT_EQ(LS_GetStatus(1, 1, 1), 2) << "red";
     EXPECT_STREQ(LS_GetData(1, 2, 1), "--") << "the report named two";
+}
+
+TEST_F(Engineering, WhatArrivesIsListedTheNewestOnTop)
+{
+    Open(0x99940000);
+    SendMessage(MSG_KEY, SDLK_a, KMOD_LSHIFT, 0, 0);
+    Clock_ms += 70;
+    (void)Tell("Panel@Common@Knob3#-2");
+    (void)Tell("Panel@Common@Lamp#1");
+    Pass(10);
+    EXPECT_THAT(Column(1, 1), ElementsAre("Knob", "Key"));
+    EXPECT_THAT(Column(1, 0), ElementsAre("+70", ""));
+    EXPECT_THAT(Column(1, 2),
+                ElementsAre("Panel@Common@Knob3  counts -2", "97 (0x61)  \"a\"  mod 0x0001"));
+    for (int n = 0; n < 205; n++)
+        (void)Tell("Panel@Common@Knob1#" + std::to_string(n));
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 200);
+    EXPECT_STREQ(LS_GetData(1, 0, 2), "Panel@Common@Knob1  counts 204");
+    EXPECT_STREQ(LS_GetData(1, 199, 2), "Panel@Common@Knob1  counts 5");
+}
+
+TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)
+{
+    constexpr Rect READOUT = {104, 79, 400, 95};
+    constexpr uint32_t DOWN = 0x00FFFF, WAY = 0xFFFFFF;
+    Open(0x99950000);
+    const uint32_t ground = PixelAt(320, 220);
+    SendMessage(MSG_DRAG, 320, 220, 0, 1);
+    EXPECT_EQ(PixelAt(320, 220), ground) << "no finger is down";
+    (void)Touch(310, 210);
+    EXPECT_EQ(PixelAt(310, 210), DOWN);
+    EXPECT_EQ(PixelAt(322, 210), DOWN) << "the arm of its cross";
+    const std::vector<uint32_t> first = PixelsIn(READOUT);
+    SendMessage(MSG_DRAG, 330, 230, 1, 1);
+    EXPECT_EQ(PixelAt(320, 220), WAY);
+    SendMessage(MSG_RELEASE, 330, 230, 0, 0);
+    EXPECT_NE(PixelAt(330, 230), WAY) << "a cross of another colour";
+    SendMessage(MSG_DRAG, 340, 240, 1, 1);
+    EXPECT_EQ(PixelAt(335, 235), ground);
+    (void)Touch(310, 210);
+    EXPECT_NE(PixelsIn(READOUT), first) << "the second touch";
 }
