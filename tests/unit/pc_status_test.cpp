@@ -103,6 +103,9 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
     (void)Open(OUTPUTS); // what was followed is left, whatever has become of the memory
     (void)Tell("Frame Mem@Recall@Recall Thumbnail@FM8#MOPENING");
     EXPECT_STREQ(LS_GetData(1, 7, 2), "MOPENING");
+    LS_SetNowLine(1, 7);
+    Pass(1000);
+    EXPECT_THAT(Press(49), testing::Contains("put Frame Mem@Recall@Recall Thumbnail@Select#FM7&8"));
 }
 
 TEST_F(StatusPage, ACellLeadsToItsBankWhateverPageItStandsOn)
