@@ -200,10 +200,23 @@ TEST_F(Calibration, TwoCrossesAndACheckAreStored)
 {
     EXPECT_THAT(Usable({BTN_CALIBRATION_OK, BTN_CALIBRATION_CANCEL}),
                 ElementsAre(BTN_CALIBRATION_CANCEL));
+    // The last pixel of an arm of each cross, and the one behind it.
+    const auto arms = [] {
+        std::string lit;
+        for (const int at : {0, 1, 2})
+            for (const int reach : {20, 21})
+                lit += PixelAt(50 + 350 * at, 50 + 250 * at + reach) == 0xFFFFFF ? "+" : ".";
+        return lit;
+    };
+    Pass(10);
+    EXPECT_EQ(arms(), "+.....");
     Finger(70, 60);
+    EXPECT_EQ(arms(), "....+.");
     Finger(730, 540);
     EXPECT_THAT(Counting(), ElementsAre(70, 60, 730, 540));
+    EXPECT_EQ(arms(), "..+...");
     Finger(400, 300);
+    EXPECT_EQ(PixelAt(400, 320), 0x00FFFFu) << "where the finger was";
     (void)Push(BTN_CALIBRATION_OK);
     EXPECT_EQ(GL_CreatePage, MAINTENANCE);
     EXPECT_THAT(Stored(), ElementsAre(70, 60, 730, 540));
