@@ -1,5 +1,6 @@
 // The recorder of menu macros: what a touch leaves behind, what a file holds, what a run sends.
 #include "a_ls.h"
+#include "memory.h"
 #include "menu_macro.h"
 #include "menu_macro_private.h"
 #include "netio.h"
@@ -140,6 +141,9 @@ TEST_F(MenuMacro, ATouchIsAnEventAndNothingIsRecordedUnasked)
     EXPECT_THAT(Recorded(), IsEmpty());
     Sends({"put A#1", "read A", "put B#2"});
     Sends({"put C#3"});
+    MenuMacro_TouchCount++;
+    for (const char* line : {"put P#1", "Event@Pause Set#1.0", "put Q#2"})
+        mm_protcol_get((std::string(line) + "\n").c_str());
     GL_MM_Knob_Protcol = 1;
     Sends({"put D#4"}); // the page is told of a turn
     GL_MM_Knob_Protcol = 0;
@@ -148,7 +152,8 @@ TEST_F(MenuMacro, ATouchIsAnEventAndNothingIsRecordedUnasked)
     SL_Reg_Recycle = 1;
     Sends({"put F#6"});
     GL_MenuMacro_Run = 0;
-    EXPECT_THAT(Recorded(), ElementsAre("put A#1\nput B#2\n", "put C#3\n", "put F#6\n"));
+    EXPECT_THAT(Recorded(), ElementsAre("put A#1\nput B#2\n", "put C#3\n", "put P#1\n",
+                                        "Event@Pause Set#1.0\n", "put Q#2\n", "put F#6\n"));
     mm_edit_close();
     Sends({"put G#7"});
     EXPECT_THAT(Recorded(), IsEmpty());
@@ -178,16 +183,46 @@ TEST_F(MenuMacro, AFullListSaysSoOnce)
     Pane_Quit(Pane_GetActiveID());
     Pass(10);
     EXPECT_EQ(Pane_GetActiveID(), 0);
+    mm_event_delete(0, true);
+    Sends({"put B#2"});
+    EXPECT_EQ(int(Recorded().size()), MENU_MACRO_EVENTS);
+    Pass(10);
+    EXPECT_EQ(Pane_GetActiveID(), 0) << "there was room";
+    Sends({"put C#3"});
+    Pass(10);
+    EXPECT_NE(Pane_GetActiveID(), 0);
 }
 
 TEST_F(MenuMacro, WithoutAutoInsertTheKeyOfTheBaseAreaTakesTheLastTouch)
 {
+    Load(1, "Event:put Z#0\nEvent:put Y#0\n");
+    (void)Open(0x11110000);
+    const int blocks = UsedMemPtr;
     Record(false);
+    EXPECT_EQ(mm_display().events, 2);
+    EXPECT_EQ(mm_display().event, 2) << "what comes goes behind the last";
+    const auto strip = [] {
+        Pass(10);
+        return PixelsIn({508, 6, 797, 65});
+    };
+    const auto before = strip();
     Sends({"put A#1"});
+    EXPECT_NE(strip(), before) << "what the key would take is shown";
     Sends({"put B#2", "put C#3"});
-    EXPECT_THAT(Recorded(), IsEmpty());
+    EXPECT_STREQ(mm_display().command, "B#2");
+    EXPECT_EQ(Recorded().size(), 2u);
     mm_event_insert();
-    EXPECT_THAT(Recorded(), ElementsAre("put B#2\nput C#3\n"));
+    EXPECT_EQ(Recorded().back(), "put B#2\nput C#3\n");
+    EXPECT_EQ(mm_display().events, 3);
+    EXPECT_EQ(mm_display().event, 3);
+    mm_event_delete(2, true);
+    EXPECT_EQ(mm_display().event, 2) << "the cursor is on what is left";
+    mm_edit_close();
+    Record(false);
+    mm_event_insert();
+    EXPECT_EQ(Recorded().size(), 2u) << "a touch of another recording";
+    mm_edit_close();
+    EXPECT_EQ(UsedMemPtr, blocks);
 }
 
 TEST_F(MenuMacro, MeasuredPausesGoBetweenTouches)
@@ -279,6 +314,11 @@ TEST_F(MenuMacro, ATransferCopyBecomesTheRegisterUnderItsNameOnTheDrive)
     ASSERT_EQ(mm_macro_tmpfile_load(src, tmp), 0);
     EXPECT_STREQ(mm_register_table(4).name, "SHOW");
     EXPECT_THAT(File(5), HasSubstr("Header:SHOW,0,1\n")) << "it is there after a restart";
+    const char* const first = "MYHOST:/var/tmp/MenuMacro/mm_reg01.tmp";
+    Write(TRANSFER, 1, "Event:put A#1\n");
+    EXPECT_EQ(mm_macro_tmpfile_load(src, first), 0);
+    EXPECT_EQ(mm_macro_tmpfile_save(first), 0);
+    EXPECT_THAT(FileText(std::string(TRANSFER) + "mm_reg01.tmp"), HasSubstr("Header:SHOW,0,1\n"));
     mm_lock_exec(5, 5, true);
     EXPECT_EQ(mm_macro_tmpfile_load(src, tmp), -1) << "locked";
     mm_lock_exec(5, 5, false);
