@@ -2,6 +2,8 @@
 #include "harness.h"
 #include "page.h"
 
+static const int counted_at_start = FileCounter + XferCounter; // before anything has run
+
 // The lamp at the top tells of both.
 TEST(Access, CountersFollowOpenFilesAndNeverFallBelowZero)
 {
@@ -17,7 +19,10 @@ TEST(Access, CountersFollowOpenFilesAndNeverFallBelowZero)
     FILE* b = FileOpen("/mnt/data/a", "r");
     EXPECT_EQ(FileOpen("/mnt/data/none/a", "r"), nullptr);
     EXPECT_EQ(FileCounter, 2);
+    EXPECT_EQ(counted_at_start, 0);
+    fputs("written", a);
     FileClose(a);
+    EXPECT_EQ(FileText("/mnt/data/a"), "written");
     FileClose(nullptr);
     EXPECT_EQ(FileCounter, 1);
     EXPECT_EQ(lamp(), RED);
