@@ -145,9 +145,18 @@ TEST(Command, AConditionDisablesAtItsValues)
         const char* var;
         int disabled;
     } cases[] = {
-        {"Off, Auto", "Auto", 1}, {"Off", "Off2", 0}, {"!On", "Off", 1}, {"!On", "On", 0},
-        {"!A,!B", "A", 1},        {"!A,B", "A", 0},   {"", "", 1},       {"A,", "", 1},
-        {nullptr, "", 0},         {"", nullptr, 1},
+        {"Off, Auto", "Auto", 1},
+        {"Off", "Off2", 0},
+        {"!On", "Off", 1},
+        {"!On", "On", 0},
+        {"!A,!B", "A", 1},
+        {"!A,B", "A", 0},
+        {"", "", 1},
+        {"A,", "", 1},
+        {nullptr, "", 0},
+        {"", nullptr, 1},
+        {"Off, Auto", "uto", 0},
+        {"XOn", "On", 0},
     };
     for (const auto& c : cases)
         EXPECT_EQ(IsDisableCondition(c.cond, c.var), c.disabled)
