@@ -236,12 +236,12 @@ class Desk:
         """The lines that the application has sent to the server since the last call; not those to the hub."""
         return [m[1] for m in (re.match(r".*?< (?!hub )(.*)", line) for line in self.lines()) if m]
 
-    def wait_wire(self, text, timeout=10.0, starts=False):
+    def wait_wire(self, text, timeout=10.0, starts=False, pause=0.05):
         """All lines up to now, once one of them is text, or starts with it; fails the assertion when none comes."""
         lines, end = [], time.monotonic() + timeout
         while time.monotonic() < end:
             lines += self.wire()
             if text in lines or starts and any(line.startswith(text) for line in lines):
                 return lines
-            time.sleep(0.05)
+            time.sleep(pause)
         raise AssertionError(f"{text!r} did not come; the wire said {lines[-12:]}")
