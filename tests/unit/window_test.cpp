@@ -1,5 +1,6 @@
 #include "a_nb_column.h"
 #include "bus_probe.h"
+#include "colours.h"
 #include "table_page.h"
 #include "timecode.h"
 #include <cstdio>
@@ -338,6 +339,7 @@ TEST_F(Windows, TheKeyboardWritesWhatIsTouched)
         {"ab", {"Left", "BS", "BS", "BS"}, "b"},
         {"ab", {"Left", "Left", "Left", "Del", "x"}, "xb"},
         {"ab", {"Right", "Right", "Del", "c"}, "abc"},
+        {"", {"a", " ", "b"}, "a b"},
         {"as it was", {}, "as it was"},
     };
     for (const auto& c : cases) {
@@ -782,6 +784,7 @@ TEST_F(KnobInput, ATimeCodeThatDoesNotExistIsSentNowhere)
         Hit(keys);
         Hit({"Enter"});
         EXPECT_EQ(GetWindow(), WINDOW_KNOB) << "what was typed can be mended";
+        EXPECT_THAT(PixelsIn({446, 140, 700, 270}), Contains(RED));
         Window_ReserveQuit(2); // code has its way
         Pass(10);
         EXPECT_EQ(GetWindow(), 0);
@@ -791,6 +794,11 @@ TEST_F(KnobInput, ATimeCodeThatDoesNotExistIsSentNowhere)
     Forget();
     Hit({"4", "5", "Enter", "Clear", "1", "5", "Enter"});
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Rate#00:00:15"));
+    // A colon opens a field of two digits; the next one moves all on.
+    PressSlot(3);
+    Forget();
+    Hit({"5", ":", "1", "2", "3", "Enter"});
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Rate#00:51:23"));
 }
 
 // The page may choose the boxes anew at any tally: an entry that is under way outlives that as long
