@@ -611,8 +611,27 @@ TEST_F(PageJump, StoredKeysAndColoursAreInTheFileAtOnce)
     EXPECT_EQ(FileText(Path(1)).substr(28, 2),
               std::string("\x01\x02", 2)); // white with black letters
     TouchAt(CORNER, {17 + 86 * 3, 346});   // no longer
+    const auto look = [] {
+        Pass(200);
+        const int x = CORNER.x + 17 + 86, y = CORNER.y + 55;
+        return PixelsIn({x + 2, y + 2, x + 70, y + 30});
+    };
+    const auto white = look();
+    EXPECT_EQ(white[0], 0xFFFFFFu);
+    // Read back, a key is what it was: one more colour is all that changes in the file.
+    (void)CloseWindow();
+    CreateWindow(WINDOW_PAGE_JUMP, "Page");
+    EXPECT_EQ(look(), white);
+    std::string black = FileText(Path(1));
+    black.replace(28, 2, std::string("\x02\x01", 2));
+    TouchAt(CORNER, {17 + 86 * 3, 346});
+    PressFavorite(1);
+    EXPECT_EQ(FileText(Path(1)), black);
+    EXPECT_EQ(look()[0], 0u);
+    TouchAt(CORNER, {17 + 86 * 3, 346});
     for (int set = 1; set < 5; set++) {
         TouchAt(CORNER, {17 + 86, 346});
+        EXPECT_NE(look()[0], 0u) << "a free key";
         PressFavorite(1);
         EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP) << "set " << set + 1 << " is empty";
     }
