@@ -123,6 +123,12 @@ static void set_thumbnail(CLIP_NODE* node, int thumbnail)
     clip_thumbnails_want(node);
 }
 
+static void set_time(ELEMENT& e, const char* time)
+{
+    convert_create_time_format(time, e.create_time, sizeof e.create_time);
+    clip_thumbnails_same(e);
+}
+
 static void notify_element(int type, const char* row)
 {
     char text[CMD_SIZE];
@@ -136,7 +142,7 @@ static void notify_element(int type, const char* row)
         return;
     ELEMENT& e = node->list.element;
     if (column == FMCTRL_MSG_COLUMN_TIMESTAMP)
-        convert_create_time_format(part[2], e.create_time, sizeof e.create_time);
+        set_time(e, part[2]);
     else if (column == FMCTRL_MSG_COLUMN_THUMBNAIL)
         set_thumbnail(node, Decimal(part[2]));
     else

@@ -17,7 +17,8 @@ struct CLIP_NODE {
     CLIP_NODE* next_wanted[2] = {};     // in the queues of fmctrl3_thumb.cpp
     CLIP_NODE* prev_wanted[2] = {};
     bool is_wanted[2] = {};
-    int next_frame = 0; // to be looked at by the second queue
+    int next_frame = 0;    // to be looked at by the second queue
+    bool has_note = false; // on the drive stands of which clip its thumbnails are
 };
 
 inline CLIP_NODE* clip_node(ELEMENT_LIST* list)
@@ -43,11 +44,13 @@ bool clip_read_path(const char* row_path, ELEMENT* element);
 int clip_frames(const char* text); // a number of frames, within its limits
 
 // --- fmctrl3_thumb.cpp ---
-// What is not on the drive is fetched: its middle first.
+// What is not on the drive is fetched: its middle first. Files of a clip that was another one, by
+// its length or its time, are removed.
 void clip_thumbnails_want(CLIP_NODE* node);
 void clip_thumbnails_forget(CLIP_NODE* node); // nothing more is fetched of it
 void clip_thumbnails_forget_all();
 void clip_thumbnails_remove(const ELEMENT& e); // the files
+void clip_thumbnails_same(const ELEMENT& e);   // another time, the same pictures
 // Frames first to last are what is left of a clip, and its first is now 0. False when its first
 // picture is missing: then none is left.
 bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last);

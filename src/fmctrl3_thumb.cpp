@@ -11,6 +11,7 @@
 #include "message.h"
 #include "page.h"
 #include "process.h"
+#include "tally_value.h"
 #include "text.h"
 #include <algorithm>
 #include <cstdio>
@@ -30,6 +31,8 @@ constexpr long SMALL_BYTES = 6966;  // 64 x 36
 constexpr long LARGE_BYTES = 21222; // 112 x 63
 constexpr char FOLDER[] = "/mnt/sys/FM/";
 constexpr char LIST_FILE[] = "/var/tmp/__tm3_fmctrl_thumbnail_list__.tmp";
+constexpr char NOTE_END[] = ".of"; // "NEWS.OPENING.SFH.THM.of"
+constexpr int NOTE_SIZE = 64;
 constexpr int NAME_SIZE = ELEMENT_PATH_SIZE + 20;
 
 enum : int { // queues, by urgency
@@ -125,49 +128,107 @@ static void remove_frame(const ELEMENT& e, int frame)
     (void)unlink(path); // it may not be there
 }
 
-void clip_thumbnails_remove(const ELEMENT& e)
+static void remove_frames(const ELEMENT& e)
 {
-    if (!e.thumbnail || !DEV_MySwr[0])
-        return;
     for (int frame = 0; frame < e.duration; frame++)
         remove_frame(e, frame);
 }
 
-// There while the clip's files are renumbered, one after the other: where the program ends before
-// that is done, some have the old numbers and nothing else would tell.
-static void path_of_mark(char (&text)[PATH_SIZE], const ELEMENT& e)
+// --- What the files are of ---
+// Beside the thumbnails of a clip lies a text that says which clip they were fetched of: its length
+// and its time. A clip that was trimmed or recorded anew while nobody here took note of it (the
+// program was off, it ended before it had renumbered them, the link was down) has another one.
+
+static void path_of_note(char (&text)[PATH_SIZE], const ELEMENT& e)
 {
     ELEMENT still = e;
     still.duration = 1;
     path_of_frame(text, still, 0);
-    AppendText(text, ".part");
+    AppendText(text, NOTE_END);
 }
 
-static bool make_mark(const char* path)
+static void note_text(char (&text)[NOTE_SIZE], const ELEMENT& e)
 {
-    const int fd = open(path, O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
-    if (fd >= 0)
-        (void)close(fd); // nothing was written
-    return fd >= 0;
+    PrintText(text, "%d %s", e.duration, e.create_time);
 }
 
-static void remove_half_renumbered(const ELEMENT& e)
+// The text, empty where a write of it was broken off; false when there is none.
+static bool read_note(const ELEMENT& e, char (&text)[NOTE_SIZE])
 {
-    char mark[PATH_SIZE];
-    path_of_mark(mark, e);
-    if (access(mark, F_OK) != 0)
-        return;
-    clip_thumbnails_remove(e);
-    (void)unlink(mark); // at the worst they are fetched once more
+    char path[PATH_SIZE];
+    path_of_note(path, e);
+    const int fd = open(path, O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const ssize_t size = read(fd, text, sizeof text - 1);
+    text[std::max<ssize_t>(size, 0)] = '\0';
+    (void)close(fd); // it was only read
+    return true;
 }
 
+// Not through a file beside it, and without waiting for the disk: half a text is of no clip.
+static bool write_note(const ELEMENT& e)
+{
+    char path[PATH_SIZE];
+    char text[NOTE_SIZE];
+    path_of_note(path, e);
+    note_text(text, e);
+    const int fd = open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (fd < 0)
+        return false;
+    const bool is_written = write(fd, text, strlen(text)) == ssize_t(strlen(text));
+    return close(fd) == 0 && is_written;
+}
+
+// The note goes last: what is broken off here is found again.
+static void remove_all(const ELEMENT& e)
+{
+    char path[PATH_SIZE];
+    remove_frames(e);
+    path_of_note(path, e);
+    (void)unlink(path); // there may be none
+}
+
+// True when the files may stay and the note says so. Files without a note are left: they are from
+// before there were notes.
+static bool drop_what_is_of_another(const ELEMENT& e)
+{
+    char is[NOTE_SIZE];
+    char should_be[NOTE_SIZE];
+    if (!read_note(e, is))
+        return false;
+    note_text(should_be, e);
+    if (strcmp(is, should_be) == 0)
+        return true;
+    Log_Output(LOG_LINK, MOD_CLIP, "thumbnails of %s are of another clip: %s", e.full_name, is);
+    ELEMENT before = e;
+    before.duration = int(NumberIn(is, 0, ELEMENT_FRAMES_MAX));
+    remove_frames(before);
+    remove_all(e);
+    return false;
+}
+
+void clip_thumbnails_remove(const ELEMENT& e)
+{
+    if (e.thumbnail && DEV_MySwr[0])
+        remove_all(e);
+}
+
+void clip_thumbnails_same(const ELEMENT& e)
+{
+    char is[NOTE_SIZE];
+    if (e.type == ELEMENT_TYPE_FILE && DEV_MySwr[0] && read_note(e, is))
+        (void)write_note(e); // at the worst they are fetched once more
+}
+
+// The note says the old length until all have their new numbers: where the program ends in between,
+// they are fetched anew.
 bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
 {
-    char mark[PATH_SIZE];
     if (!e.thumbnail || !DEV_MySwr[0])
         return true;
-    path_of_mark(mark, e);
-    if (!has_frame(e, first) || !make_mark(mark))
+    char note[NOTE_SIZE];
+    if (!has_frame(e, first) || (!read_note(e, note) && !write_note(e)))
         return false;
     ELEMENT kept = e;
     kept.duration = last - first + 1;
@@ -181,7 +242,7 @@ bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
         else if (strcmp(from, to) != 0 && rename(from, to) != 0)
             (void)unlink(to); // the frame that had this number before
     }
-    (void)unlink(mark); // at the worst they are fetched once more
+    (void)write_note(kept); // at the worst they are fetched once more
     return true;
 }
 
@@ -196,6 +257,19 @@ SDL_Surface* FMCtrl3_GetThumbnail(const ELEMENT* element, int frame)
 
 // --- Files that belong to no element ---
 
+enum : int { // for the number of a frame
+    FRAME_STILL = -1,
+    FRAME_WRONG = -2,
+    FRAME_ANY = -3,
+};
+
+static bool is_frame_of(const ELEMENT& e, int frame)
+{
+    if (frame < 0)
+        return frame == FRAME_ANY || e.duration == 1;
+    return e.duration > 1 && frame < e.duration;
+}
+
 // "NEWS.OPENING" may be a clip of that name, or one in a folder; true when there is such a clip
 // with this frame.
 static bool is_known(const ELEMENT_LIST* folder, const char* name, int depth, int frame)
@@ -203,8 +277,7 @@ static bool is_known(const ELEMENT_LIST* folder, const char* name, int depth, in
     CURRENT_INFO info;
     CopyText(info.path, folder->element.full_name);
     const ELEMENT_LIST* const file = FMCtrl3_FindPath(&info, ELEMENT_TYPE_FILE, name);
-    if (file && (frame < 0 ? file->element.duration == 1
-                           : file->element.duration > 1 && frame < file->element.duration))
+    if (file && is_frame_of(file->element, frame))
         return true;
     for (const char* dot = strchr(name, '.'); dot && depth < ELEMENT_DEPTH;
          dot = strchr(dot + 1, '.')) {
@@ -230,15 +303,15 @@ static bool cut_end(char* name, const char* end)
     return true;
 }
 
-// Cut "#" and six digits off. The frame; -1 when there is no "#", -2 for another text behind it.
+// Cut "#" and six digits off. The frame, or what there is instead.
 static int cut_frame(char* name)
 {
     constexpr size_t DIGITS = 6;
     char* const mark = strrchr(name, '#');
     if (!mark || strstr(mark, ".SFH"))
-        return -1;
+        return FRAME_STILL;
     if (strlen(mark + 1) != DIGITS || strspn(mark + 1, "0123456789") != DIGITS)
-        return -2;
+        return FRAME_WRONG;
     *mark = '\0';
     return int(strtol(mark + 1, nullptr, 10));
 }
@@ -247,10 +320,21 @@ static bool is_of_an_element(const char* file_name)
 {
     char name[PATH_SIZE];
     CopyText(name, file_name);
+    const bool is_note = cut_end(name, NOTE_END);
     if (!cut_end(name, ".THM"))
         return false;
-    const int frame = cut_frame(name);
-    return frame > -2 && cut_end(name, ".SFH") && is_known(ElementListTop.next, name, 0, frame);
+    const int frame = is_note ? FRAME_ANY : cut_frame(name);
+    return frame != FRAME_WRONG && cut_end(name, ".SFH") &&
+           is_known(ElementListTop.next, name, 0, frame);
+}
+
+static bool is_of_use(const char* name)
+{
+    char path[PATH_SIZE];
+    char text[PATH_SIZE];
+    local_path(path, name);
+    CopyText(text, name);
+    return is_of_an_element(name) && (cut_end(text, NOTE_END) || is_thumbnail_file(path));
 }
 
 static void end_cleanup()
@@ -283,7 +367,7 @@ static void cleanup_some()
         name[strcspn(name, "\n")] = '\0';
         char path[PATH_SIZE];
         local_path(path, name);
-        if (!is_thumbnail_file(path) || !is_of_an_element(name))
+        if (!is_of_use(name))
             (void)unlink(path);
     }
 }
@@ -377,6 +461,15 @@ static int next_frame(int kind, CLIP_NODE* node)
     return node->next_frame++;
 }
 
+static void look_at_frame(CLIP_NODE* node, int frame)
+{
+    const ELEMENT& e = node->list.element;
+    if (!has_frame(e, frame))
+        thumbnail_start(node, frame);
+    if (!node->has_note)
+        node->has_note = write_note(e); // before anything arrives: requests go out later
+}
+
 // Look at up to this many files, fetch what is missing.
 static void start_waiting(int looks)
 {
@@ -384,8 +477,8 @@ static void start_waiting(int looks)
         for (; th.queue[kind].first && looks > 0 && ThumbGetting < FETCHES_MAX; looks--) {
             CLIP_NODE* const node = th.queue[kind].first;
             const int frame = next_frame(kind, node);
-            if (frame < node->list.element.duration && !has_frame(node->list.element, frame))
-                thumbnail_start(node, frame);
+            if (frame < node->list.element.duration)
+                look_at_frame(node, frame);
         }
     }
 }
@@ -393,9 +486,11 @@ static void start_waiting(int looks)
 void clip_thumbnails_want(CLIP_NODE* node)
 {
     const ELEMENT& e = node->list.element;
-    if (e.type != ELEMENT_TYPE_FILE || e.thumbnail != 1 || e.duration < 1 || !DEV_MySwr[0])
+    if (e.type != ELEMENT_TYPE_FILE || e.thumbnail != 1 || !DEV_MySwr[0])
         return;
-    remove_half_renumbered(e);
+    node->has_note = drop_what_is_of_another(e);
+    if (e.duration < 1)
+        return;
     node->next_frame = 0;
     queue_append(WANTED_MID, node);
     if (e.duration > 1)

@@ -17,6 +17,7 @@
 #include "log.h"
 #include "macro_file.h"
 #include "menu_macro_private.h"
+#include "message.h"
 #include "page.h"
 #include "process.h"
 #include "saver.h"
@@ -56,9 +57,9 @@ constexpr char INSTALLED[] = "/var/tmp/installed_version";
 
 struct Work {
     const char* name;
-    void (*write)(int n);   // as the n-th write makes it
-    std::string (*look)();  // what is wrong with what is there; empty: nothing
-    bool is_server = false; // it never returns, and says itself when it has begun
+    void (*write)(int n);  // as the n-th write makes it
+    std::string (*look)(); // what is wrong with what is there; empty: nothing
+    bool stays = false;    // it never returns, and says itself when it may be killed
 };
 } // namespace
 
@@ -329,60 +330,90 @@ static std::string LookFavorites()
     return "";
 }
 
-// --- The thumbnails of a clip, renumbered by a trim ---
+// --- The thumbnails of a clip, which the store trims and the program renumbers ---
 
 constexpr int CLIP_FRAMES = 40;
-constexpr int CLIP_FIRST = 5; // what the trim leaves
+constexpr int CLIP_FIRST = 5; // what a trim leaves
 constexpr int CLIP_LAST = 34;
 static const std::string CLIP_FILES = "/mnt/sys/FM/1/OPENING.SFH";
+static const std::string CLIP_STORE = "/var/tmp/store"; // how many frames the store has
 
-static ELEMENT Clip(int frames)
+static void TellOfClip(const char* verb, const std::string& row)
 {
-    ELEMENT e = {};
-    CopyText(e.full_name, "/root/OPENING");
-    e.type = ELEMENT_TYPE_FILE;
-    e.thumbnail = 1;
-    e.duration = frames;
-    return e;
+    (void)FMCtrl3_Proc(MSG_SHPTALLY, Arg(verb), Arg("CS1.ClipStoreFile"), 0, Arg(row.c_str()));
 }
 
-static std::string Thumbnail(int frame)
+static void TellClip(int frames)
 {
-    char number[16];
-    PrintText(number, "#%06d.THM", frame);
-    return CLIP_FILES + number;
+    TellOfClip("Insert", "root/OPENING.SFH:" + Number(frames) + ",0,0,0,2026-01-31 23:59:00,1,1");
+}
+
+static void StoreHas(int frames)
+{
+    std::ofstream(CLIP_STORE + ".part") << frames;
+    fs::rename(CLIP_STORE + ".part", CLIP_STORE);
+}
+
+// The frame that a picture says that it is of, before any trim; -1 when it is not there.
+static int FrameOf(int number)
+{
+    char name[16];
+    PrintText(name, "#%06d.THM", number);
+    const std::string text = Text(CLIP_FILES + name);
+    return text.empty() ? -1 : text[0];
+}
+
+// Pictures that arrive, each whole.
+static void PutFrames()
+{
+    constexpr int BYTES = 6966;
+    for (int i = 0; i < CLIP_FRAMES; i++) {
+        char name[16];
+        PrintText(name, "#%06d.THM", i);
+        std::ofstream(CLIP_FILES, std::ios::binary) << std::string(BYTES, char(i));
+        fs::rename(CLIP_FILES, CLIP_FILES + name);
+    }
+}
+
+// A new clip that the store has trimmed, and nobody has read of it.
+static void TrimAtStore()
+{
+    FMCtrl3_Init();
+    TellClip(0); // the one before
+    TellOfClip("Delete", "root/OPENING.SFH");
+    StoreHas(CLIP_FRAMES);
+    TellClip(CLIP_FRAMES);
+    PutFrames();
+    StoreHas(CLIP_LAST - CLIP_FIRST + 1);
 }
 
 static void WriteClip(int)
 {
-    constexpr int BYTES = 6966;
-    fs::remove(CLIP_FILES + ".THM.part"); // as a start would do it
-    for (int i = 0; i < CLIP_FRAMES; i++)
-        fs::remove(Thumbnail(i));
-    for (int i = 0; i < CLIP_FRAMES; i++) {
-        std::ofstream(CLIP_FILES, std::ios::binary) << std::string(BYTES, char(i));
-        fs::rename(CLIP_FILES, Thumbnail(i));
-    }
-    (void)clip_thumbnails_renumber(Clip(CLIP_FRAMES), CLIP_FIRST, CLIP_LAST);
+    TrimAtStore();
+    TellOfClip("Result", "Trim root/OPENING.SFH " + Number(CLIP_FIRST) + " " + Number(CLIP_LAST) +
+                             " " + Number(CLIP_LAST - CLIP_FIRST + 1) + ":7F");
 }
 
-// As the program starts: those of one numbering, or none.
+// Killed at this one moment.
+static void WriteTrim(int)
+{
+    TrimAtStore();
+    (void)!write(ready_fd, "", 1);
+    for (;;)
+        pause();
+}
+
+// The next start reads the store: what is there then is of the clip as it is.
 static std::string LookClip()
 {
-    CLIP_NODE node = {};
-    node.list.element = Clip(CLIP_LAST - CLIP_FIRST + 1);
-    clip_thumbnails_want(&node);
-    clip_thumbnails_forget(&node);
-    clip_thumbnails_forget_all();
-    int moved = -1;
-    for (int i = 0; i < node.list.element.duration; i++) {
-        const std::string text = Text(Thumbnail(i));
-        if (text.empty())
-            continue;
-        if (moved >= 0 && text[0] - i != moved)
-            return "frames of two numberings";
-        moved = text[0] - i;
-    }
+    const int frames = atoi(Text(CLIP_STORE).c_str());
+    const int first = frames == CLIP_FRAMES ? 0 : CLIP_FIRST;
+    FMCtrl3_Init();
+    TellClip(frames);
+    FMCtrl3_Finalize();
+    for (int i = 0; i < frames; i++)
+        if (FrameOf(i) >= 0 && FrameOf(i) != first + i)
+            return "frame " + Number(i) + " of " + Number(frames) + " is of " + Number(FrameOf(i));
     return "";
 }
 
@@ -529,6 +560,7 @@ static constexpr Work works[] = {
     {"protection", WriteProtection, LookProtection},
     {"favourites", WriteFavorites, LookFavorites},
     {"clip", WriteClip, LookClip},
+    {"trim", WriteTrim, LookClip, true},
     {"copies", WriteCopies, LookCopies, true},
 };
 
@@ -579,7 +611,7 @@ static void LayAll()
 
 [[noreturn]] static void WriteForEver(const Work& work, int n)
 {
-    if (!work.is_server)
+    if (!work.stays)
         (void)!write(ready_fd, "", 1);
     for (;;)
         work.write(n++);
@@ -619,7 +651,7 @@ int main(int argc, char** argv)
     Start_Init(32);
     LayAll();
     for (const Work& work : works)
-        if (!work.is_server)
+        if (!work.stays)
             work.write(1); // from here on there is one
     const Work* const only = std::find_if(std::begin(works), std::end(works), [&](const Work& w) {
         return argc > 3 && strcmp(w.name, argv[3]) == 0;

@@ -48,11 +48,12 @@ struct ClipStore : BusTest {
     {
         Hub("Insert", "ClipStoreFolder", "root/" + path + ":1");
     }
-    static void File(const std::string& path, int frames = 1, int thumbnail = 0)
+    static void File(const std::string& path, int frames = 1, int thumbnail = 0,
+                     const std::string& time = "2026-01-31 23:59:00")
     {
         Hub("Insert", "ClipStoreFile",
-            "root/" + path + ".SFH:" + std::to_string(frames) +
-                ", 0, 0, 3, 2026-01-31 23:59:00, 1, " + std::to_string(thumbnail));
+            "root/" + path + ".SFH:" + std::to_string(frames) + ", 0, 0, 3, " + time + ", 1, " +
+                std::to_string(thumbnail));
     }
     static Strings Tree()
     {
@@ -105,10 +106,14 @@ struct ClipStore : BusTest {
             names.push_back(get.remote.substr(get.remote.find("FM/1/") + 5));
         return names;
     }
-    static void Put(const std::string& name, size_t bytes)
+    static void PutText(const std::string& name, const std::string& text)
     {
         fs::create_directories(FM_FOLDER);
-        std::ofstream(FM_FOLDER + name, std::ios::binary) << std::string(bytes, 't');
+        std::ofstream(FM_FOLDER + name, std::ios::binary) << text;
+    }
+    static void Put(const std::string& name, size_t bytes)
+    {
+        PutText(name, std::string(bytes, 't'));
     }
     // The server carries a fetch out.
     static void Answer(const Get& get, const std::string& reply)
@@ -120,12 +125,20 @@ struct ClipStore : BusTest {
         Deliver("File@Remote Access@SCP Dir Get", get.label + "," + ack);
         Deliver("File@Remote Access@SCP Dir Get@Status", ack + "," + reply);
     }
+    static constexpr char NOTE[] = "a.b.SFH.THM.of";
+    static std::string Note()
+    {
+        std::ifstream file(std::string(FM_FOLDER) + NOTE);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    // Without the notes of which clip they are.
     static Strings Files()
     {
         Strings names;
         std::error_code none;
         for (const auto& entry : fs::directory_iterator(FM_FOLDER, none))
-            names.push_back(entry.path().filename());
+            if (entry.path().extension() != ".of")
+                names.push_back(entry.path().filename());
         std::sort(names.begin(), names.end());
         return names;
     }
@@ -402,15 +415,61 @@ TEST_F(ClipStore, ATrimRenumbersThumbnails)
     EXPECT_THAT(Changes(), IsEmpty()) << "it is the first of what was";
 }
 
-TEST_F(ClipStore, ThumbnailsThatWereLeftHalfRenumberedAreFetchedAnew)
+TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnew)
 {
-    for (int i = 0; i < 3; i++)
-        Put("a.b.SFH#00000" + std::to_string(i) + ".THM", 6966);
-    Put("a.b.SFH.THM.part", 0);
+    static const struct {
+        const char* note; // what the files are of; null: from before there were notes
+        int frames;       // of the clip that is told now
+        const char* time;
+        bool are_kept;
+    } cases[] = {
+        {"3 2026 Jan.31 23:59", 3, "2026-01-31 23:59:00", true},
+        {nullptr, 3, "2026-01-31 23:59:00", true},
+        {"6 2026 Jan.31 23:59", 3, "2026-01-31 23:59:00", false}, // trimmed meanwhile
+        {"3 2026 Jan.31 23:59", 1, "2026-01-31 23:59:00", false},
+        {"3 2026 Jan.31 23:58", 3, "2026-01-31 23:59:00", false}, // recorded meanwhile
+        {"3 2026 Jan.", 3, "2026-01-31 23:59:00", false},         // broken off
+        {"", 3, "2026-01-31 23:59:00", false},
+        {"-1", 3, "2026-01-31 23:59:00", false},
+    };
     Folder("a");
-    File("a/b", 3, 1);
-    EXPECT_THAT(Remotes(Gets()), ElementsAre("a/b.SFH#000000.THM"));
-    EXPECT_THAT(Files(), IsEmpty());
+    for (const auto& c : cases) {
+        for (int i = 0; i < 3; i++)
+            Put("a.b.SFH#00000" + std::to_string(i) + ".THM", 6966);
+        if (c.note)
+            PutText(NOTE, c.note);
+        File("a/b", c.frames, 1, c.time);
+        EXPECT_EQ(Gets().size(), c.are_kept ? 0u : 1u) << c.note;
+        EXPECT_EQ(Files().size(), c.are_kept ? 3u : 0u) << c.note;
+        const std::string of = std::to_string(c.frames) + " 2026 Jan.31 23:59";
+        EXPECT_EQ(Note(), of) << c.note;
+        FMCtrl3_Init(); // as after a start
+        (void)TakeQueuedCommands();
+        fs::remove_all(FM_FOLDER);
+        Folder("a");
+    }
+}
+
+TEST_F(ClipStore, ANoteFollowsItsClip)
+{
+    for (int i = 0; i < 6; i++)
+        Put("a.b.SFH#00000" + std::to_string(i) + ".THM", 6966);
+    Folder("a");
+    File("a/b", 6, 1);
+    EXPECT_EQ(Note(), "6 2026 Jan.31 23:59");
+    Hub("Result", "ClipStoreFile", "Trim root/a/b.SFH 1 4 4:7F");
+    EXPECT_EQ(Note(), "4 2026 Jan.31 23:59");
+    Hub("Notify", "ClipStoreFile", "root/a/b.SFH:timestamp:2026-02-01 01:02:03");
+    EXPECT_EQ(Note(), "4 2026 Feb.01 01:02");
+    FMCtrl3_HubLost();
+    Folder("a");
+    File("a/b", 4, 1, "2026-02-01 01:02:03");
+    Passes(1000);
+    EXPECT_THAT(Gets(), IsEmpty());
+    EXPECT_EQ(Note(), "4 2026 Feb.01 01:02");
+    (void)Changes(); // while its clip is there
+    Hub("Delete", "ClipStoreFile", "root/a/b.SFH");
+    EXPECT_TRUE(fs::is_empty(FM_FOLDER));
 }
 
 TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
@@ -424,10 +483,15 @@ TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
                              "A.b.SFH#000001.BMP", "A.b.THM"})
         Put(name, 6966);
     Put("A.b.SFH#000000.THM", 6965);
+    for (const char* name : {"A.b.SFH.THM.of", "A.c.SFH.THM.of", "A.b.of"})
+        PutText(name, "");
     Passes(4000);
     EXPECT_EQ(Files().size(), 8u) << "the tree may not be whole yet";
     Passes(3000);
     EXPECT_THAT(Files(), ElementsAre("A.b.SFH#000002.THM", "A.b.SFH.THM"));
+    fs::remove(FM_FOLDER + std::string("A.b.SFH.THM.of"));
+    for (const auto& entry : fs::directory_iterator(FM_FOLDER))
+        EXPECT_NE(entry.path().extension(), ".of") << entry;
 }
 
 TEST_F(ClipStore, TablesComeAndGo)
