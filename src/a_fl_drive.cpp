@@ -6,12 +6,12 @@
 #include "global.h"
 #include "log.h"
 #include "message.h"
+#include "month.h"
 #include "text.h"
 #include <cctype>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
-#include <iterator>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -127,16 +127,13 @@ static SFH_HEADER read_head(const char* path)
 // The engine's "Nov.25.2026 09:20" as the hub writes it; anything else as it is.
 static void hub_time(const char* time, char (&text)[32])
 {
-    static constexpr const char* months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                             "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     char month[4] = "", day[3] = "", year[5] = "", clock[6] = "";
     CopyText(text, time && !strchr(time, ',') ? time : "");
     if (!time || sscanf(time, "%3[A-Za-z].%2[0-9 ].%4[0-9] %5[0-9:]", month, day, year, clock) < 4)
         return;
-    for (int i = 0; i < int(std::size(months)); i++)
-        if (strcmp(month, months[i]) == 0)
-            PrintText(text, "%s-%02d-%s%s %s", year, i + 1, day[0] == ' ' ? "0" : "",
-                      day[0] == ' ' ? day + 1 : day, clock);
+    if (const int number = Month_Number(month))
+        PrintText(text, "%s-%02d-%s%s %s", year, number, day[0] == ' ' ? "0" : "",
+                  day[0] == ' ' ? day + 1 : day, clock);
 }
 
 // A row of the hub's for what lies at this place of the drive.

@@ -1,5 +1,6 @@
 #include "file_newest.h"
 #include "file_private.h"
+#include "month.h"
 #include "text.h"
 #include <cstdio>
 #include <cstring>
@@ -8,14 +9,12 @@
 
 uint32_t FileNewest_Minute(const char* date)
 {
-    static constexpr char months[] = "JanFebMarAprMayJunJulAugSepOctNovDec";
     char month[4] = "";
     unsigned day = 0, year = 0, hour = 0, minute = 0;
     if (sscanf(date, "%3[A-Za-z].%2u.%4u %2u:%2u", month, &day, &year, &hour, &minute) < 5)
         return 0;
-    const char* const at = strstr(months, month);
-    return (((year * 12 + uint32_t(at ? at - months : 0) / 3) * 31 + day) * 24 + hour) * 60 +
-           minute;
+    const auto number = uint32_t(Month_Number(month));
+    return (((year * 13 + number) * 32 + day) * 24 + hour) * 60 + minute;
 }
 
 // What follows the last folder, or the unit.

@@ -1,10 +1,10 @@
 // What the hub says of an element, in one row.
 #include "fmctrl3_private.h"
+#include "month.h"
 #include "tally_value.h"
 #include "text.h"
 #include <cctype>
 #include <cstdio>
-#include <iterator>
 
 #include "safeguards.h"
 
@@ -29,15 +29,13 @@ void FMCtrl3_CopyPath(char* s1, const char* s2, int n)
 
 void convert_create_time_format(const char* text, char* dst, size_t size)
 {
-    static constexpr const char* months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                             "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     char year[5] = "", month[3] = "", day[3] = "", time[6] = "";
     dst[0] = '\0';
     if (sscanf(text, "%4[0-9]-%2[0-9]-%2[0-9] %5[0-9:]", year, month, day, time) < 4)
         return;
     const int number = Decimal(month);
-    if (number >= 1 && number <= int(std::size(months)))
-        (void)snprintf(dst, size, "%s %s.%s %s", year, months[number - 1], day, time);
+    if (number >= 1 && number <= 12)
+        (void)snprintf(dst, size, "%s %s.%s %s", year, Month_Name(number), day, time);
 }
 
 // The path's last word is the name; false when there are too many words, or one is too long.

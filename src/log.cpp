@@ -1,5 +1,6 @@
 #include "log.h"
 #include "global.h"
+#include "month.h"
 #include "process.h"
 #include "text.h"
 #include "xsyslog.h"
@@ -21,8 +22,6 @@ constexpr int OLD_LOGS = 10;           // NAME.0, the newest, to NAME.9
 constexpr size_t FORMAT_MAX = 4032;    // a format of this length or more is not printed
 constexpr unsigned LAST_MODULE = 1024; // everything above passes the switch
 constexpr char MAINTENANCE_LOG[] = "/mnt/sys/log/maintenance.log";
-constexpr const char* months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                  "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 } // namespace
 
 static char FileName[PATH_SIZE] = "";               // empty: no file output
@@ -77,8 +76,8 @@ static void log_stamp(char (&stamp)[32])
     const time_t now = time(nullptr);
     tm t{};
     gmtime_r(&now, &t);
-    PrintText(stamp, "%3s %02d %02d:%02d:%02d", months[t.tm_mon], t.tm_mday, t.tm_hour, t.tm_min,
-              t.tm_sec);
+    PrintText(stamp, "%3s %02d %02d:%02d:%02d", Month_Name(t.tm_mon + 1), t.tm_mday, t.tm_hour,
+              t.tm_min, t.tm_sec);
 }
 
 static bool log_module_is_on(unsigned module)

@@ -5,6 +5,7 @@
 #include "i2c.h"
 #include "log.h"
 #include "message.h"
+#include "month.h"
 #include "page.h"
 #include "text.h"
 #include "xsyslog.h"
@@ -13,7 +14,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
-#include <iterator>
 
 #include "safeguards.h"
 
@@ -223,11 +223,9 @@ void SelfDiag_LogDeleteAll()
 
 static void time_text(char (&text)[24], time_t now)
 {
-    static constexpr const char* months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                             "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     tm utc{};
     gmtime_r(&now, &utc);
-    PrintText(text, "%3s.%d.%04d %02d:%02d:%02d", months[utc.tm_mon], utc.tm_mday,
+    PrintText(text, "%3s.%d.%04d %02d:%02d:%02d", Month_Name(utc.tm_mon + 1), utc.tm_mday,
               utc.tm_year + 1900, utc.tm_hour, utc.tm_min, utc.tm_sec);
 }
 

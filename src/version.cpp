@@ -1,6 +1,7 @@
 #include "version.h"
 #include "global.h"
 #include "i2c.h"
+#include "month.h"
 #include "process.h"
 #include "safe_file.h"
 #include "text.h"
@@ -39,8 +40,6 @@ static_assert(sizeof version_files / sizeof version_files[0] == ROW_FPGA);
 constexpr int FPGA_DEVICE = 82;
 constexpr int FPGA_VERSION = 20;
 constexpr int FPGA_DATE = 24;
-constexpr const char* months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul",
-                                  "Aug", "Sep", "Oct", "Nov", "Dec", "---"};
 } // namespace
 
 void Strip_VersionStr(char* dst, const char* src, int size)
@@ -112,8 +111,7 @@ static void version_read_files()
 
 static const char* version_month(unsigned char bcd)
 {
-    const int month = (bcd >> 4) * 10 + (bcd & 0x0F);
-    return months[month >= 1 && month <= 12 ? month - 1 : 12];
+    return Month_Name((bcd >> 4) * 10 + (bcd & 0x0F));
 }
 
 // Registers that cannot be read count as 0; without the bus the row stays "--".
