@@ -3,6 +3,8 @@
 #include "a_ls.h"
 #include "file.h"
 #include "file_dir.h"
+#include "file_newest.h"
+#include "global.h"
 #include "message.h"
 #include "pane.h"
 #include "tally_value.h"
@@ -56,6 +58,7 @@ struct Listing {
 } // namespace
 
 static Visit visits[std::size(kinds)];
+static FILENEWEST newest; // of the list that is being put together
 
 static struct {
     const Kind* kind = nullptr; // null: no page of ours is open
@@ -333,6 +336,7 @@ static void give_up()
     end_busy();
     forget_search(ic.gathering);
     ic.clearing = 0; // what the server still does is nobody's any more
+    newest = {};
     File_XferList_RemoveAll(&visit().list);
 }
 
@@ -351,6 +355,7 @@ static void cleared(uint32_t label, int k, const char* reply)
     if (!take_step(label, k))
         return;
     end_busy();
+    newest = {};
     if (reply[0] != 'N' && File_ExecCopyList(&visit().list, idcopy_result, k) > 0)
         return;
     give_up();
@@ -385,8 +390,28 @@ static void clear_target()
         give_up();
 }
 
+// "NAME.REGION_NUMBER.EXT". Of pictures only those of the older frame memory are known by their
+// numbers; in the newer each name is one of its own.
+static bool is_of_register(const char* below)
+{
+    if (BeginsWith(below, "FMEMFOL/") || (SYS_FmemV6 && BeginsWith(below, "FRAMEMEM/")))
+        return false;
+    const char* const ext = strrchr(below, '.');
+    const char* number = ext;
+    while (number && number > below && isdigit(uint8_t(number[-1])))
+        number--;
+    if (!number || number == ext || number == below || number[-1] != '_')
+        return false;
+    const char* const end = number - 1;
+    const char* region = end;
+    while (region > below &&
+           (isupper(uint8_t(region[-1])) || isdigit(uint8_t(region[-1])) || region[-1] == '_'))
+        region--;
+    return region < end && region > below && region[-1] == '.';
+}
+
 // One item for each target.
-static void add_file(const char* below, const char* unit)
+static void add_file(const char* below, const char* unit, const char* date)
 {
     char from[PATH_SIZE], to[PATH_SIZE], src[PATH_SIZE], dst[PATH_SIZE], digits[DIGITS + 1];
     int number[TARGETS] = {};
@@ -399,11 +424,14 @@ static void add_file(const char* below, const char* unit)
     for (int i = 0; i < n; i++) {
         PrintText(digits, "%03d", number[i] % 1000);
         memcpy(place, digits, DIGITS);
-        (void)File_XferList_Add(&visit().list, src, dst);
+        if (is_of_register(below))
+            (void)FileNewest_Add(newest, &visit().list, src, dst, date);
+        else
+            (void)File_XferList_Add(&visit().list, src, dst);
     }
 }
 
-static void gather_tly(uint32_t label, int k, const char* path, const char* const*)
+static void gather_tly(uint32_t label, int k, const char* path, const char* const* pair)
 {
     if (ic.kind != &kinds[k] || ic.gathering != label)
         return;
@@ -411,7 +439,7 @@ static void gather_tly(uint32_t label, int k, const char* path, const char* cons
         const char* const below = below_dir(SIDE_A, path);
         const char* const unit = below ? unit_folder(below) : nullptr;
         if (unit && is_of_source(unit))
-            add_file(below, unit);
+            add_file(below, unit, pair[1]);
         return;
     }
     ic.gathering = 0;

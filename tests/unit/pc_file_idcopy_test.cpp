@@ -159,6 +159,46 @@ TEST_F(FileIdCopyPage, AGroupGoesWithAllItsUnits)
                                           HasSubstr("/SYSTEM/EFFECT/DME002D002/CH1/")));
 }
 
+TEST_F(FileIdCopyPage, OfTheFilesOfARegisterTheNewestIsCopied)
+{
+    Select(24, {1, 2});
+    (void)Open(UNIT_PAGE);
+    for (int round = 0; round < 2; round++) { // nothing is left of a copy that was given up
+        (void)Press(BTN_IDCOPY_COPY);
+        Lines rows;
+        const auto file = [&](const std::string& name, int hour) {
+            rows.push_back(ROOT + name + ",Wed Nov 25 " + std::to_string(hour) + ":30:00 2026");
+        };
+        for (const char* place : {"SNAPSHOT/SWR000D001/ME1/", "SNAPSHOT/SWR001D001/ME1/"}) {
+            file(place + std::string("OLD.ME1_001.SSS"), 10);
+            file(place + std::string("NEW.ME1_001.SSS"), 12);
+            file(place + std::string("MID.ME1_001.SSS"), 11);
+            file(place + std::string("OTHER.ME1_002.SSS"), 10);
+        }
+        file("SNAPSHOT/SWR000D001/ME1/A.ME1_SUB_001.SSS", 12);
+        file("SNAPSHOT/SWR000D001/ME1/B.ME1_SUB_001.SSS", 11);
+        // What has no number, or is known by its name.
+        for (const char* name : {"a.TIF.SUB", "b.TIF.SUB", "a.x_001.TIF", "b.x_001.TIF"})
+            file(std::string("FRAMEMEM/SWR000D001/") + name, 10);
+        for (const char* name : {"Ma.FMEM_001.SFM", "Mb.FMEM_001.SFM"})
+            file(std::string("FMEMFOL/DEFAULT/SWR000D001/") + name, 10);
+        rows.push_back("OK");
+        const Lines made = Reply(Answer(1), "Find", rows);
+        if (round == 0) {
+            (void)Answer(1); // cancelled
+            continue;
+        }
+        Strings names;
+        for (const std::string& copy : Copies(Reply(Reply(made, "Mkdir", {"OK"}), "Rmdir", {"OK"})))
+            if (copy.find("D002", copy.find(',')) != std::string::npos)
+                names.push_back(copy.substr(copy.rfind('/') + 1));
+        EXPECT_THAT(names, ElementsAre("NEW.ME1_001.SSS", "OTHER.ME1_002.SSS", "NEW.ME1_001.SSS",
+                                       "OTHER.ME1_002.SSS", "A.ME1_SUB_001.SSS", "a.TIF.SUB",
+                                       "b.TIF.SUB", "a.x_001.TIF", "b.x_001.TIF", "Ma.FMEM_001.SFM",
+                                       "Mb.FMEM_001.SFM"));
+    }
+}
+
 TEST_F(FileIdCopyPage, NothingIsClearedForNothing)
 {
     Select(24, {1});
