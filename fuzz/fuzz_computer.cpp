@@ -1,13 +1,16 @@
 // What this computer says of itself, and the command of automation that has a text: version files,
-// the EEPROM, the output of df and of the search for the panel, "nfsmount.cmd". Whatever stands
-// there, what is shown is printable text that ends, a sum is right again after a write, and nothing
-// is mounted that is not one word. The first byte chooses which.
+// the EEPROM, the output of df and of the search for the panel, "nfsmount.cmd", the list of wipe
+// pictures, cpuinfo. Whatever stands there, what is shown is printable text that ends, a sum is
+// right again after a write, nothing is mounted that is not one word, and a picture is listed only
+// under a number that a line of the list is. The first byte chooses which.
 #include "drive_check.h"
 #include "fmctrl_private.h"
 #include "global.h"
+#include "graphics.h"
 #include "i2c.h"
 #include "selfdiag.h"
 #include "start.h"
+#include "storage.h"
 #include "text.h"
 #include "touch.h"
 #include "version.h"
@@ -96,6 +99,50 @@ static void NfsMount(const char* path)
     Check(std::string(std::istreambuf_iterator<char>(answer), {}) == "Error\n");
 }
 
+// The sizes of a drive, of which the last line tells.
+static void Sizes(const char* path)
+{
+    FILE* const fp = fopen(path, "re");
+    Check(fp);
+    DfSizes sizes = {.total_mb = -7, .used_mb = -7, .free_mb = -7};
+    const bool is_read = Storage_ReadDf(fp, &sizes);
+    (void)fclose(fp);
+    Check(is_read || (sizes.total_mb == -7 && sizes.used_mb == -7 && sizes.free_mb == -7));
+}
+
+static std::string TextOf(const char* path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+static void WipePictures(const char* path)
+{
+    FreeGraphics();
+    Check(WipePtn_ReadList(path));
+    const std::string text = "\n" + TextOf(path) + "\n";
+    for (int n = 0; n < WIPE_PTN_MAX; n++) {
+        if (!WipePtn_IsListed(n))
+            continue;
+        const size_t at = text.find("\n" + std::to_string(n));
+        Check(at != std::string::npos);
+    }
+}
+
+static void Cpu(const char* path)
+{
+    constexpr size_t LINE = 255;
+    const bool is_named = Storage_NamesMPU302(path) != 0;
+    std::string text = TextOf(path);
+    for (char& c : text)
+        c = char(toupper(uint8_t(c)));
+    const bool has_name =
+        text.find("MPU302") != std::string::npos || text.find("MPU-302") != std::string::npos;
+    Check(!is_named || has_name);
+    if (text.size() < LINE && text.find('\0') == std::string::npos)
+        Check(is_named == has_name);
+}
+
 static constexpr struct {
     const char* path;
     void (*read)(const char* path);
@@ -103,6 +150,8 @@ static constexpr struct {
     {"/root/version_app.dat", Versions}, {"/root/version_linux.dat", Versions},
     {"/var/tmp/eeprom", Eeprom},         {"/var/tmp/df", Df},
     {"/var/tmp/tslist", Panel},          {"/tmp/FTPIF/Command/nfsmount.cmd", NfsMount},
+    {"/var/tmp/sizes", Sizes},           {"/var/tmp/ptn_list", WipePictures},
+    {"/var/tmp/cpuinfo", Cpu},
 };
 
 static void Begin()

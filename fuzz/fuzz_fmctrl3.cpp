@@ -1,15 +1,18 @@
 // The clip store: whatever rows the hub sends, the list is in order both ways and every element is
-// found by its path, as a child of its folder or without one, and all memory comes back. The input
-// is lines of verb and table, "#" and row: "Insert CS1.ClipStoreFile#root/a.SFH:1,0,0,3,,1,1".
+// found by its path, as a child of its folder or without one, and all memory comes back; of the
+// files on the drive those of an element are known as its own, and none else is. The input is lines
+// of verb and table, "#" and row: "Insert CS1.ClipStoreFile#root/a.SFH:1,0,0,3,,1,1", and of
+// "Drive#" and the name of a file.
 #include "bus.h"
 #include "device.h"
-#include "fmctrl3.h"
+#include "fmctrl3_private.h"
 #include "fuzz_lines.h"
 #include "global.h"
 #include "memory.h"
 #include "message.h"
 #include "netio.h"
 #include "text.h"
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -21,8 +24,51 @@ static void Check(bool ok)
         abort();
 }
 
+static bool HasElement()
+{
+    for (const ELEMENT_LIST* e = ElementListTop.next; e; e = e->next)
+        if (e->element.type == ELEMENT_TYPE_FILE)
+            return true;
+    return false;
+}
+
+static void TakeFileOnDrive(const std::string& name)
+{
+    const auto ends = [&](const std::string& end) {
+        return name.size() > end.size() &&
+               name.compare(name.size() - end.size(), end.size(), end) == 0;
+    };
+    if (name.find('\0') == std::string::npos && clip_thumbnail_is_known(name.c_str()))
+        Check(HasElement() && (ends(".THM") || ends(".THM.of")) &&
+              name.find(".SFH") != std::string::npos);
+}
+
+static bool IsBelowRoot(const ELEMENT_LIST* e)
+{
+    while (e && e != ElementListTop.next)
+        e = FMCtrl3_GetParent(e);
+    return e != nullptr;
+}
+
+static void CheckFilesOf(const ELEMENT& e)
+{
+    std::string name = std::string(e.full_name).substr(strlen("/root/")) + ".SFH";
+    std::replace(name.begin(), name.end(), '/', '.');
+    if (e.duration == 1)
+        Check(clip_thumbnail_is_known((name + ".THM").c_str()));
+    for (const int frame : {0, e.duration / 2, e.duration - 1}) {
+        char number[16];
+        PrintText(number, "#%06d.THM", frame);
+        if (e.duration > 1)
+            Check(clip_thumbnail_is_known((name + number).c_str()));
+    }
+    Check(clip_thumbnail_is_known((name + ".THM.of").c_str()));
+}
+
 static void TakeLine(const std::string& head, const std::string& row)
 {
+    if (head == "Drive")
+        TakeFileOnDrive(row);
     const size_t blank = head.find(' ');
     if (blank == std::string::npos)
         return;
@@ -56,6 +102,8 @@ static void CheckTree()
         with_parent += FMCtrl3_GetParent(e) != nullptr;
         if (e->element.type == ELEMENT_TYPE_FOLDER)
             children += ChildrenOf(e);
+        else if (IsBelowRoot(e))
+            CheckFilesOf(e->element);
     }
     Check(children == with_parent);
     SEARCH_CONFIG config;

@@ -56,3 +56,5 @@ void clip_thumbnails_same(const ELEMENT& e);   // another time, the same picture
 bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last);
 void clip_thumbnails_pass(int elapsed_ms);
 void clip_thumbnails_inserted(); // the tree is being told
+// Whether a file of this name belongs to an element; any other is removed once after a start.
+bool clip_thumbnail_is_known(const char* file_name);

@@ -316,7 +316,7 @@ static int cut_frame(char* name)
     return int(strtol(mark + 1, nullptr, 10));
 }
 
-static bool is_of_an_element(const char* file_name)
+bool clip_thumbnail_is_known(const char* file_name)
 {
     char name[PATH_SIZE];
     CopyText(name, file_name);
@@ -334,7 +334,7 @@ static bool is_of_use(const char* name)
     char text[PATH_SIZE];
     local_path(path, name);
     CopyText(text, name);
-    return is_of_an_element(name) && (cut_end(text, NOTE_END) || is_thumbnail_file(path));
+    return clip_thumbnail_is_known(name) && (cut_end(text, NOTE_END) || is_thumbnail_file(path));
 }
 
 static void end_cleanup()

@@ -151,8 +151,7 @@ static bool read_name(FILE* fp, char* name, size_t size)
     return true;
 }
 
-// False when the list cannot be read.
-static bool load_listed_ptns(const char* list)
+bool WipePtn_ReadList(const char* list)
 {
     FILE* fp = fopen(list, "r");
     if (!fp)
@@ -177,7 +176,7 @@ static bool list_and_load_ptns()
     close(fd);
     char cmd[CMD_SIZE];
     PrintText(cmd, "/usr/bin/find graphics/ptn/ -fprintf %s \"%%P\\n\"", list);
-    const bool listed = ktr_system(cmd) == 0 && load_listed_ptns(list);
+    const bool listed = ktr_system(cmd) == 0 && WipePtn_ReadList(list);
     unlink(list);
     return listed;
 }

@@ -24,3 +24,7 @@ void LoadDmeWipePtn_KTR20();    // after LoadGraphics: the other pictures of the
 void LoadDmeWipePtn_Standard(); // those of all other models again
 // "graphics/NAME.bmp" in display format, for the caller to free; null and a log line on failure.
 SDL_Surface* LoadGFile(const char* name);
+
+// --- Its parts, for tests ---
+// The names of files below "ptn/", one a line, as "find" writes them. False when there is no list.
+bool WipePtn_ReadList(const char* list);

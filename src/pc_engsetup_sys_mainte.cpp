@@ -211,22 +211,16 @@ static void show_drives()
 // Sizes in MB from the last line that df prints; blank when it fails.
 static void ask_sizes(Drive& d, const char* cmd)
 {
-    char line[256] = "";
-    long total = 0;
-    long used = 0;
-    long free_mb = 0;
+    DfSizes sizes;
     FILE* fp = ktr_popen(cmd, "r");
     if (!fp)
         return;
-    while (fgets(line, sizeof line, fp)) {
-    }
-    const bool is_read =
-        ktr_pclose(fp) == 0 && sscanf(line, "%*s %ld %ld %ld", &total, &used, &free_mb) == 3;
-    if (!is_read)
+    const bool is_read = Storage_ReadDf(fp, &sizes);
+    if (ktr_pclose(fp) != 0 || !is_read)
         return;
-    PrintText(d.total, "%ld", total);
-    PrintText(d.used, "%ld", used);
-    PrintText(d.free, "%ld", free_mb);
+    PrintText(d.total, "%ld", sizes.total_mb);
+    PrintText(d.used, "%ld", sizes.used_mb);
+    PrintText(d.free, "%ld", sizes.free_mb);
 }
 
 static void refresh_sticks()

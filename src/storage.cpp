@@ -170,7 +170,12 @@ int IsMPU302()
 {
     if (const char* board = getenv("TM3BOARD"))
         return strcmp(board, "MPU302") == 0;
-    FILE* fp = fopen("/proc/cpuinfo", "r");
+    return Storage_NamesMPU302("/proc/cpuinfo");
+}
+
+int Storage_NamesMPU302(const char* cpuinfo)
+{
+    FILE* fp = fopen(cpuinfo, "re");
     if (!fp)
         return 0;
     char line[256];
@@ -179,4 +184,16 @@ int IsMPU302()
         found = StrIStr(line, "MPU302") != nullptr || StrIStr(line, "MPU-302") != nullptr;
     fclose(fp);
     return found;
+}
+
+bool Storage_ReadDf(FILE* fp, DfSizes* sizes)
+{
+    char line[256] = "";
+    DfSizes read;
+    while (fgets(line, sizeof line, fp)) {
+    }
+    if (sscanf(line, "%*s %ld %ld %ld", &read.total_mb, &read.used_mb, &read.free_mb) != 3)
+        return false;
+    *sizes = read;
+    return true;
 }

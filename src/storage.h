@@ -1,5 +1,6 @@
 // storage: free space, and the mounts of memory sticks and of the NFS share.
 #pragma once
+#include <cstdio>
 
 // Free KB of the file system that holds dir, -1 when it cannot be told.
 int GetDiskFree(const char* dir);
@@ -16,3 +17,14 @@ int GetUSBMountPointInfo(int n, char* text, int size);
 // Total and free KB of the stick with number n; 0 or -1.
 int GetUSBStorageInfo(int n, int* total_kb, int* free_kb);
 int IsMPU302(); // 1 on the newer controller board
+
+// What "df -m" printed of one file system: its last line.
+struct DfSizes {
+    long total_mb = 0;
+    long used_mb = 0;
+    long free_mb = 0;
+};
+bool Storage_ReadDf(FILE* fp, DfSizes* sizes); // false: there are no sizes, and nothing is changed
+
+// --- Its parts, for tests ---
+int Storage_NamesMPU302(const char* cpuinfo); // a file
