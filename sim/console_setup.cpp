@@ -40,8 +40,12 @@ static bool con_gpi(Runner&, const std::string& rest)
 {
     const auto word = Text_Split(rest, ' ');
     long port = 0;
-    return word.size() == 2 && Console_Number(word[1], 1, 99, &port) &&
-           Gpi_Close(word[0], int(port));
+    if (word.size() < 2 || word.size() > 3 || !Console_Number(word[1], 1, 99, &port) ||
+        (word.size() == 3 && word[2] != "high" && word[2] != "low"))
+        return false;
+    if (word.size() == 3)
+        return Gpi_Set(word[0], int(port), word[2] == "high");
+    return Gpi_Set(word[0], int(port), true) && Gpi_Set(word[0], int(port), false);
 }
 
 static bool con_units(Runner&, const std::string& rest)
@@ -53,7 +57,8 @@ static constexpr Command commands[] = {
     {"keys", "M/E-1 4|8", "how many keys the bank has", con_keys},
     {"multi", "BANK|all on|off", "a bank runs two programs: main and sub side", con_multi},
     {"4k", "on|off", "the picture format", con_4k},
-    {"gpi", "UNIT PORT", "a contact closes: SWR, PNL, DME1 to 4, DCU1, DCU2", con_gpi},
+    {"gpi", "UNIT PORT [high|low]", "a contact, shortly high: SWR, PNL, DME1 to 4, DCU1, DCU2",
+     con_gpi},
     {"units", "UNIT...", "which units there are", con_units},
     {"config", "ng", "the next Define or Auto Config of the network fails", con_config},
 };

@@ -8,6 +8,8 @@
 #include "tree.h"
 #include "verbs.h"
 #include <iterator>
+#include <set>
+#include <utility>
 #include <vector>
 
 namespace
@@ -35,6 +37,7 @@ static constexpr struct {
     {"DCU1", "DCU@GPI Input@DCU1"},
     {"DCU2", "DCU@GPI Input@DCU2"},
 };
+static std::set<std::pair<std::string, int>> high; // contacts: unit and port
 static constexpr const char* banks[] = {"PGM/PST", "M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5"};
 
 // --- Actions; false: what they are told to act on is not there ---
@@ -205,26 +208,66 @@ static int action_of(const std::string& page, int port, Input* in)
     return 0;
 }
 
-static bool is_set_to(const std::string& path, const char* value)
+static std::string value_of(const std::string& path)
 {
     const Node* const node = Tree_Find(path);
-    return node && node->value == value;
+    return node ? node->value : "";
 }
 
-bool Gpi_Close(const std::string& unit, int port)
+static bool is_triggered(const std::string& trigger, bool is_rising)
+{
+    return trigger == "Any Edge" || trigger == (is_rising ? "Rising Edge" : "Falling Edge");
+}
+
+static void act(const std::string& name, const std::string& page, int port)
+{
+    Input in;
+    const int action = action_of(page, port, &in);
+    const bool is_done = action > 0 && actions[action].act(in);
+    Log_Note("%s: %s%s", name.c_str(), action > 0 ? actions[action].word : "not used",
+             action == 0 || is_done ? "" : ", refused");
+}
+
+// The function of the port is switched on or off; that of a converter is to work for an input or an
+// output.
+static void follow_level(const std::string& name, const std::string& page, int port, bool is_high)
+{
+    const std::string at = page + "@H/L Set@", number = "@" + std::to_string(port);
+    std::string function = value_of(at + "Function" + number);
+    std::string state = value_of(at + (is_high ? "High" : "Low") + number);
+    if (function == "FC Input/Output") {
+        const auto part = Text_Split(value_of(at + function + number), ',');
+        function = part.empty() ? "" : part[0];
+        state = part.size() == 3 ? part[is_high ? 1 : 2] : "";
+    }
+    const bool is_used = !function.empty() && function != "None";
+    Log_Note("%s: %s", name.c_str(), is_used ? (function + " " + state).c_str() : "not used");
+}
+
+static void change(const char* unit, const std::string& page, int port, bool is_high)
+{
+    const std::string trigger = value_of(page + "@Trigger Type@" + std::to_string(port));
+    const std::string name =
+        Text_Format("%s GPI input %d %s", unit, port, is_high ? "high" : "low");
+    if (trigger == "None" || value_of(page + "@GPI Enable") == "false")
+        Log_Note("%s: not used", name.c_str());
+    else if (trigger == "Level")
+        follow_level(name, page, port, is_high);
+    else if (is_triggered(trigger, is_high))
+        act(name, page, port);
+}
+
+bool Gpi_Set(const std::string& unit, int port, bool is_high)
 {
     for (const auto& u : units) {
         const std::string page = std::string("Engineering Setup@") + u.page;
-        const std::string trigger = page + "@Trigger Type@" + std::to_string(port);
-        if (unit != u.unit || !Tree_Find(trigger))
+        if (unit != u.unit || !Tree_Find(page + "@Trigger Type@" + std::to_string(port)))
             continue;
-        Input in;
-        const int action = action_of(page, port, &in);
-        const bool is_off =
-            is_set_to(trigger, "None") || is_set_to(page + "@GPI Enable", "false") || action == 0;
-        const bool is_done = !is_off && actions[action].act(in);
-        Log_Note("%s GPI input %d: %s%s", u.unit, port, is_off ? "not used" : actions[action].word,
-                 is_off || is_done ? "" : ", refused");
+        const auto contact = std::make_pair(unit, port);
+        if (is_high != (high.count(contact) > 0)) {
+            is_high ? (void)high.insert(contact) : (void)high.erase(contact);
+            change(u.unit, page, port, is_high);
+        }
         return true;
     }
     return false;

@@ -302,9 +302,25 @@ class Installation(MeTest):
                 f"put {dme}DME1 GPI Input@GPI Enable#false", "gpi DME1 1", "get Done")
         self.wait_for_log("console: get Done")
         self.assertEqual(self.other.sync(), [f"{key}#true", f"{hold}#true"])
-        self.wait_for_log("SWR GPI input 3: Effect Recall")
-        self.wait_for_log("DME1 GPI input 1: not used")
+        self.wait_for_log("SWR GPI input 3 high: Effect Recall")
+        self.wait_for_log("DME1 GPI input 1 high: not used")
         self.assertEqual(self.output().count("usage:"), 1)
+
+    def test_a_contact_acts_at_the_edge_or_level_that_is_set(self):
+        page = "Engineering Setup@Switcher@Device Interface@GPI Input@"
+        key = "PGM/PST@DSK3@Status@Key ON"
+        self.follow(key)
+        self.do(f"put {page}Action Type@1@1#5,0,0,3", f"put {page}Action Type@2@1#6,0,0,3")
+        for trigger, turns in (("Falling Edge", 2), ("Any Edge", 2), ("Level", 0)):
+            self.do(f"put {page}Trigger Type@1#{trigger}", f"put {page}Trigger Type@2#{trigger}",
+                    "gpi SWR 1 high", "gpi SWR 1 high", "gpi SWR 1 low", "gpi SWR 2", f"get {trigger}")
+            self.wait_for_log(f"console: get {trigger}")
+            self.assertEqual(self.other.sync(), [f"{key}#true", f"{key}#false"][:turns], trigger)
+        self.do(f"put {page}H/L Set@Function@1#Menu Lock", f"put {page}H/L Set@Low@1#On",
+                f"put {page}H/L Set@High@1#Off", f"put {page}H/L Set@Function@2#FC Input/Output",
+                f"put {page}H/L Set@FC Input/Output@2#FC3,Output,Input", "gpi SWR 1", "gpi SWR 2 high")
+        for line in ("1 high: Menu Lock Off", "1 low: Menu Lock On", "2 high: FC3 Output"):
+            self.wait_for_log(f"SWR GPI input {line}")
 
 
 if __name__ == "__main__":
