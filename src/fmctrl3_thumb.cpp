@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,10 +26,11 @@
 
 constexpr int FETCHES_MAX = 30; // at once: the server's file link is slow
 constexpr int RETRIES = 5;
-constexpr int LOOKS_A_PASS = 128;   // files
-constexpr int QUIET_MS = 5000;      // without a new element: the tree has been told
-constexpr long SMALL_BYTES = 6966;  // 64 x 36
-constexpr long LARGE_BYTES = 21222; // 112 x 63
+constexpr int LOOKS_A_PASS = 128;    // files
+constexpr int FRAMES_BY_NAME = 4000; // more are not removed one by one: the screen would wait
+constexpr int QUIET_MS = 5000;       // without a new element: the tree has been told
+constexpr long SMALL_BYTES = 6966;   // 64 x 36
+constexpr long LARGE_BYTES = 21222;  // 112 x 63
 constexpr char FOLDER[] = "/mnt/sys/FM/";
 constexpr char LIST_FILE[] = "/var/tmp/__tm3_fmctrl_thumbnail_list__.tmp";
 constexpr char NOTE_END[] = ".of"; // "NEWS.OPENING.SFH.THM.of"
@@ -128,8 +130,29 @@ static void remove_frame(const ELEMENT& e, int frame)
     (void)unlink(path); // it may not be there
 }
 
+// Of all files those of the clip.
+static void remove_frames_there(const ELEMENT& e)
+{
+    char folder[PATH_SIZE];
+    char name[NAME_SIZE];
+    local_path(folder, "");
+    local_name(name, e, 0);
+    const size_t head = strcspn(name, "#") + strlen("#");
+    const size_t length = strlen(name);
+    DIR* const dir = opendir(folder);
+    for (const dirent* entry = nullptr; dir && (entry = readdir(dir));)
+        if (strncmp(entry->d_name, name, head) == 0 && strlen(entry->d_name) == length)
+            (void)unlinkat(dirfd(dir), entry->d_name, 0);
+    if (dir)
+        (void)closedir(dir);
+}
+
 static void remove_frames(const ELEMENT& e)
 {
+    if (e.duration > FRAMES_BY_NAME) {
+        remove_frames_there(e);
+        return;
+    }
     for (int frame = 0; frame < e.duration; frame++)
         remove_frame(e, frame);
 }

@@ -461,6 +461,7 @@ TEST_F(ClipStore, ANoteFollowsItsClip)
     EXPECT_EQ(Note(), "4 2026 Jan.31 23:59");
     Hub("Notify", "ClipStoreFile", "root/a/b.SFH:timestamp:2026-02-01 01:02:03");
     EXPECT_EQ(Note(), "4 2026 Feb.01 01:02");
+    (void)Changes(); // while its clip is there
     FMCtrl3_HubLost();
     Folder("a");
     File("a/b", 4, 1, "2026-02-01 01:02:03");
