@@ -433,7 +433,7 @@ static int redraw(int elapsed_ms)
         if (c.draw_func)
             c.draw_func(&c);
         if (c.is_missing)
-            (void)st_drw_recoats_grayout(&c, 0);
+            st_veil_all(&c);
         TDL_UpdateRect(c.x1, c.y1, c.x2, c.y2);
         c.redraw = 0;
     }

@@ -80,6 +80,12 @@ int st_drw_recoats_grayout(const ST_MEM* cell, int lit)
                           st_ground(lit), veil_opacity());
 }
 
+void st_veil_all(const ST_MEM* cell)
+{
+    (void)TDL_FillRectAS(cell->x1 + 3, cell->y1 + 3, cell->x2 - 3, cell->y2 - 3, BLACK,
+                         veil_opacity());
+}
+
 // --- Centre ---
 
 // What is too wide for its place takes the small font before it is cut.

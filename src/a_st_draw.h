@@ -44,6 +44,8 @@ int st_drw_under_strings(const ST_MEM* cell, const char* text, int invert);
 int st_drw_status_strings(const ST_MEM* cell, ST_VAL* val);
 int st_drw_status_values(const ST_MEM* cell, ST_VAL* val);
 int st_drw_recoats_grayout(const ST_MEM* cell, int lit);
+// Of a cell that leads nowhere, with its name: that of a function which is only off stays bright.
+void st_veil_all(const ST_MEM* cell);
 int st_drw_center_image_wipe_position(const ST_MEM* cell, int h, int v);
 
 // --- What painters have in common ---

@@ -55,6 +55,22 @@ TEST_F(MissingPages, AKeyATabAndACellFollowWhatTheInstallationHas)
     }
 }
 
+TEST_F(MissingPages, OfACellThatLeadsNowhereTheNameIsDimmedToo)
+{
+    const Rect name = {313, 103, 400, 118};
+    uint32_t brightest[2] = {};
+    for (const int is_missing : {0, 1}) {
+        SYS_MEOperation[1] = is_missing;
+        (void)Open(0x33110000);
+        (void)Tell("M/E-2@Misc@Transition@Transition Rate#30");
+        Pass(10);
+        for (const uint32_t pixel : PixelsIn(name))
+            brightest[is_missing] = std::max(brightest[is_missing], pixel & 0xFF);
+    }
+    EXPECT_GT(brightest[0], 200u);
+    EXPECT_LT(brightest[1], 150u);
+}
+
 // Page code puts keys out for reasons of its own, and lets them go again.
 TEST_F(MissingPages, PageCodeDoesNotMakeAKeyUsableThatLeadsNowhere)
 {
