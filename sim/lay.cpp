@@ -4,6 +4,8 @@
 #include "log.h"
 #include "package.h"
 #include "picture.h"
+#include "unit_file.h"
+#include <set>
 
 static constexpr const char* folders[] = {
     "/mnt/data/user/root/SYSTEM",
@@ -79,6 +81,43 @@ static void lay_menu_macros()
     for (const auto& macro : menu_macros)
         if (!Drive_Write(folder.local + "/" + macro.file, macro.text).empty())
             Log_Note("no menu macro %s", macro.file);
+}
+
+static constexpr const char* LOCAL_SHOW = "MYHOST:/mnt/data/user/root/SYSTEM/";
+static constexpr const char* STICK_SHOW = "MYHOST:/mnt/usb/usb1/SYSTEM/"; // from another truck
+static constexpr struct {
+    const char* show;
+    const char* category;
+    const char* file;
+} setups[] = {
+    {LOCAL_SHOW, "USRSETUP", "MATCH.DEV_0000.SUS"}, {LOCAL_SHOW, "USRSETUP", "MATCH.DEV_0000.SUN"},
+    {LOCAL_SHOW, "USRSETUP", "MATCH.DEV_0000.SUP"}, {LOCAL_SHOW, "FMNAME", "MATCH.DEV_0000.SFR"},
+    {LOCAL_SHOW, "FMNAME", "NEWS.DEV_0001.SFR"},    {STICK_SHOW, "USRSETUP", "TRUCK2.DEV_0000.SUN"},
+};
+
+static void lay_setup(const std::string& folder, const std::string& name)
+{
+    UnitFile file;
+    std::string bytes;
+    if (!UnitFile_Parse(name, &file) || !UnitFile_Make(HOST_SWR, 1, file, &bytes) ||
+        !Drive_Write(folder + "/" + name, bytes).empty())
+        Log_Note("no setup %s", name.c_str());
+}
+
+// A category that an operator has saved or cleared stays.
+void Lay_Setups()
+{
+    Place category;
+    std::set<std::string> made;
+    for (const auto& setup : setups) {
+        if (!Drive_Place(std::string(setup.show) + setup.category, &category) ||
+            (!made.count(category.local) && Drive_IsFolder(category.local)))
+            continue;
+        const std::string folder = category.local + "/SWR000D001";
+        made.insert(category.local);
+        (void)Drive_MakeFolder(folder); // the writing tells
+        lay_setup(folder, setup.file);
+    }
 }
 
 void Lay_Desk()

@@ -1,4 +1,7 @@
-// lay: what a new desk finds on its drives: the folders, and pictures of each kind to import.
+// lay: what a new desk finds on its drives: the folders, pictures of each kind to import, and what
+// no save of a whole show brings there, the setups of users and the names of sources and frames.
 #pragma once
 
-void Lay_Desk(); // what is there stays as it is
+// What is there stays as it is.
+void Lay_Desk();
+void Lay_Setups(); // of the system as it is installed

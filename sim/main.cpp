@@ -39,6 +39,7 @@ struct Options {
     const char* listen = "127.0.0.1";
     const char* root = "";
     bool has_files = false;
+    bool has_show = false;
     bool is_quiet = false;
     long seed = 1;
     long speed = 1;
@@ -50,17 +51,23 @@ static volatile sig_atomic_t main_signal = 0;
 
 static const char* const usage =
     "usage: scs_sim [--values FILE] [--script FILE] [--log FILE] [--quiet] [--seed N]\n"
-    "               [--listen ADDRESS] [--root DIR] [--lay] [--speed N]\n"
+    "               [--listen ADDRESS] [--root DIR] [--lay] [--show] [--speed N]\n"
     "Commands come from standard input; \"help\" lists them.\n";
 
 static bool main_options(int argc, char** argv, Options* options)
 {
     static const option names[] = {
-        {"values", required_argument, nullptr, 'v'}, {"script", required_argument, nullptr, 's'},
-        {"log", required_argument, nullptr, 'l'},    {"listen", required_argument, nullptr, 'a'},
-        {"quiet", no_argument, nullptr, 'q'},        {"root", required_argument, nullptr, 'f'},
-        {"lay", no_argument, nullptr, 'd'},          {"seed", required_argument, nullptr, 'r'},
-        {"speed", required_argument, nullptr, 't'},  {nullptr, 0, nullptr, 0},
+        {"values", required_argument, nullptr, 'v'},
+        {"script", required_argument, nullptr, 's'},
+        {"log", required_argument, nullptr, 'l'},
+        {"listen", required_argument, nullptr, 'a'},
+        {"quiet", no_argument, nullptr, 'q'},
+        {"root", required_argument, nullptr, 'f'},
+        {"lay", no_argument, nullptr, 'd'},
+        {"show", no_argument, nullptr, 'o'},
+        {"seed", required_argument, nullptr, 'r'},
+        {"speed", required_argument, nullptr, 't'},
+        {nullptr, 0, nullptr, 0},
     };
     for (int key; (key = getopt_long(argc, argv, "", names, nullptr)) != -1;) {
         switch (key) {
@@ -70,6 +77,7 @@ static bool main_options(int argc, char** argv, Options* options)
         case 'a': options->listen = optarg; break;
         case 'f': options->root = optarg; break;
         case 'd': options->has_files = true; break;
+        case 'o': options->has_show = true; break;
         case 'q': options->is_quiet = true; break;
         case 'r':
             if (!Text_ToInt(optarg, &options->seed))
@@ -147,6 +155,8 @@ int main(int argc, char** argv)
     if (options.has_files)
         Lay_Desk();
     System_Install();
+    if (options.has_show)
+        Lay_Setups();
     signal(SIGPIPE, SIG_IGN);
     signal(SIGINT, main_catch);
     signal(SIGTERM, main_catch);

@@ -65,7 +65,7 @@ static constexpr ValueSet value_sets[] = {
     {"SVM", "DEV", VIDEO_PROCESS_TREES},
     {"PMA", "PNL", "Macro@Attachment"},
     {"SUS", "DEV", "Engineering Setup@User"},
-    {"SUP", "DEV", "Engineering Setup@Panel@Prefs"},
+    {"SUP", "DEV", "Engineering Setup@Panel@Prefs/Utility"},
     {"SUN", "DEV", "Engineering Setup@Panel@Xpt Assign"},
 };
 

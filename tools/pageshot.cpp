@@ -181,14 +181,29 @@ static std::string Caption(const PAGE& row)
 }
 
 // Drives answer in their own time, and the end of one job begins another.
-static void WaitForFiles(int limit_ms)
+static void WaitForFiles(int limit_ms, int quiet_for_ms = 50)
 {
     constexpr int PASS_MS = 10;
-    constexpr int QUIET_MS = 50;
-    for (int ms = 0, quiet_ms = 0; ms < limit_ms && quiet_ms < QUIET_MS; ms += PASS_MS) {
+    for (int ms = 0, quiet_ms = 0; ms < limit_ms && quiet_ms < quiet_for_ms; ms += PASS_MS) {
         Guest_Pass(PASS_MS);
         SDL_Delay(PASS_MS);
         quiet_ms = QueueRoot ? 0 : quiet_ms + PASS_MS;
+    }
+}
+
+constexpr int SAVE_QUIET_MS = 500; // from one step of a save to the next, on a busy machine
+
+static void SaveWhatAllLeavesOut()
+{
+    // User setup, names of frames and of sources.
+    for (const uint32_t page : {0x71160000U, 0x71530000U, 0x71740000U}) {
+        if (CreatePage(page) != 0)
+            continue;
+        Guest_Settle(ROUNDS);
+        WaitForFiles(FILES_MS, SAVE_QUIET_MS);
+        SendMessage(LMSG_BTNSEL, MsgArg("LOCAL@File@Single@L to R"), 0, 0, 0);
+        WaitForFiles(FILES_MS, SAVE_QUIET_MS);
+        Guest_CloseAll();
     }
 }
 
@@ -206,8 +221,9 @@ static void SaveShow()
     (void)Pane_Quit(question);
     SendMessage(LMSG_PANEQUIT, question, yes, 0, 0);
     for (int i = 0; i < ROUNDS; i++)
-        WaitForFiles(SAVED_MS); // the registers, then the pictures
+        WaitForFiles(SAVED_MS, SAVE_QUIET_MS); // the registers, then the pictures
     Guest_CloseAll();
+    SaveWhatAllLeavesOut();
 }
 
 static int AllPages(const std::string& dir, char** banks, int count)
