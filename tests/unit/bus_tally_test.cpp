@@ -1,6 +1,7 @@
 #include "bus_probe.h"
 #include "file.h"
 #include "memory.h"
+#include "saver.h"
 #include "window.h"
 #include <algorithm>
 #include <cstring>
@@ -520,6 +521,40 @@ TEST_F(BusTally, AMenuKeyLeavesATransferBehind)
     EXPECT_EQ(GL_CreatePage, 0x14110000u);
     (void)BkgdHDDTransfer_Set(0, 0);
     Pane_Quit(pane);
+}
+
+TEST_F(BusTally, WhatATransferShowsMakesWayForAJump)
+{
+    static const struct {
+        const char *path, *value;
+        bool is_hdd;
+    } jumps[] = {{"TopMenu", "M/E-2", false},
+                 {"Page", "1311", false},
+                 {"TopMenu", "M/E-2", true},
+                 {"Page", "1311", true}};
+    for (const auto& j : jumps) {
+        const int pane = PaneMessage_Create("Title", 2, "text");
+        GL_NowPage = j.is_hdd ? 0x25620000 : 0x71220000;
+        if (j.is_hdd) {
+            (void)BkgdHDDTransfer_Set(GL_NowPage, 1);
+            BkgdHDDTransfer_SetPaneID(pane);
+        } else {
+            (void)BkgdFileTransfer_Set(GL_NowPage, 1);
+            BkgdFileTransfer_SetPaneID(pane);
+        }
+        EXPECT_EQ(Deliver(j.path, j.value), 1);
+        EXPECT_FALSE(Pane_Exist(pane)) << j.path << j.is_hdd;
+        (void)BkgdHDDTransfer_Set(0, 0);
+        (void)BkgdFileTransfer_Set(0, 0);
+        GL_ScreenSaverInterval = 1;
+        GL_NowPage = PAGE_TOP;
+        (void)EndScreenSaver(); // counts from here
+        for (const int ms : {10, 1001, 1001})
+            (void)ScreenSaver(ms);
+        ASSERT_EQ(IsSaver(), 1);
+        EXPECT_EQ(Deliver(j.path, j.value), 1);
+        EXPECT_EQ(IsSaver(), 0) << "nor does the saver stay over the page";
+    }
 }
 
 TEST_F(BusTally, TheMenuTurnsOverToAPageThatExists)
