@@ -36,6 +36,10 @@ TEST(MacroSymbols, EverySymbolIsAnEventAndMayFollowOrMayNot)
         may_follow += follows;
     }
     EXPECT_EQ(may_follow, CONTINUE_ROWS - 1);
+    for (int i = 0; i <= MACRO_SYMBOLS; i++)
+        EXPECT_EQ(EVNT[i].index, i);
+    for (int i = 0; i < CONTINUE_ROWS; i++)
+        EXPECT_EQ(Continue[i].index, i);
     EXPECT_EQ(EVNT[MACRO_SYMBOLS + 1].index, -1);
     EXPECT_EQ(Continue[CONTINUE_ROWS].index, -1);
     EXPECT_EQ(get_param_count("NextTransition"), MACRO_SLOTS);
@@ -71,6 +75,8 @@ TEST(MacroSymbols, ValuesAreCheckedByTheirKind)
         {"Play", "Speed", "-", false},
         {"Play", "Speed", "10x", false},
         {"Pause", "Time", "0", false},
+        {"DiskFileLoad", "FileName", "", false},
+        {"FadeToBlack", "Time", "x", false},
         {"Pause", "Time", " 5", false},
         {"Pause", "Time", "99999999999999999999", false},
         {"Cue", "Timecode", "23:59:59:29", true},
@@ -103,7 +109,8 @@ TEST(MacroSymbols, TheSystemDecidesWhichWordsThereAre)
     SYS_RefSwrType = switcher;
     multiprogram2_me[1] = 0;
     MacroSymbols_ForSystem();
-    EXPECT_TRUE(has("AuxXpt", "AuxBus", "Aux48"));
+    for (int bus = 1; bus <= 48; bus++)
+        EXPECT_TRUE(has("AuxXpt", "AuxBus", ("Aux" + std::to_string(bus)).c_str())) << bus;
     EXPECT_FALSE(has("MEXpt", "ME", "M/E-1 Sub"));
     EXPECT_FALSE(has("Snapshot", "Region", "M/E-1 Sub"));
 }
