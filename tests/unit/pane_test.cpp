@@ -372,6 +372,19 @@ TEST_F(Panes, DirectoriesTurnTheirPages)
         Touch(150, 100);
         EXPECT_EQ(Last(), Quit(id, first)) << next << " on, " << prev << " back";
     }
+    // At an end the key that leads nowhere looks so.
+    const int id = PaneDirectory_Create(81, entries.data());
+    const auto key = [](int x) {
+        SendMessage(MSG_REDRAW, 1000, 0, 0, 0);
+        return PixelsIn({x - 15, TURN_Y - 5, x + 15, TURN_Y + 20});
+    };
+    const auto no_prev = key(PREV_X), next = key(NEXT_X);
+    Touch(NEXT_X, TURN_Y);
+    EXPECT_NE(key(PREV_X), no_prev);
+    EXPECT_EQ(key(NEXT_X), next);
+    Touch(NEXT_X, TURN_Y);
+    EXPECT_NE(key(NEXT_X), next);
+    (void)Pane_Quit(id);
 }
 
 // --- Router level ---
@@ -383,6 +396,9 @@ TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
     PaneRTRLvl_LvlSetSelect(7, 1);
     PaneRTRLvl_LvlSetSelect(8, 1);
     PaneRTRLvl_LvlSetSelect(-1, 1);
+    PaneRTRLvl_LvlSetSelect(0, 0);
+    EXPECT_EQ(PaneRTRLvl_Selected(), 0x84);
+    PaneRTRLvl_LvlSetSelect(0, 1);
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x85);
 
     const int id = PaneRTRLvl_Create(0); // (131, 335)
