@@ -37,6 +37,10 @@ struct Favorites : TablePage {
 TEST_F(Favorites, AKeyOpensItsPageUnlessSomethingElseIsMeant)
 {
     EXPECT_EQ(Usable({FIRST, LAST}), std::vector<int>{FIRST}) << "a free key opens nothing";
+    EXPECT_EQ(Caption(FIRST), "M/E-3\nType");
+    EXPECT_EQ(Caption(LAST), "");
+    TellAll(DATA, {"Group Name@1#News", "Group Name@11#None"});
+    EXPECT_STREQ(bt_find(FIRST)->group, "News");
     EXPECT_THAT(Work(BTN_STORE, LAST),
                 testing::ElementsAre("put " + DATA + "Shortcut Name@10#11120000,M/E-1|Edge"));
     EXPECT_EQ(Work(BTN_COLOR, FIRST), Lines{"put " + DATA + "Color Select@1#9"});

@@ -460,6 +460,13 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
         {0x81210000, {"M/E-4", "Key2"}, 0x11110000, 0x81210000},
         {0x81110000, {"M/E-4", "Key8"}, 0x11110000, 0x85410000},
         {0x14110000, {"PGM/PST", "DSK6"}, 0x11110000, 0x18210000},
+        {0x11110000, {"M/E-1", "Key2"}, 0x11110000, 0x11210000},
+        {0x11110000, {"M/E-1", "DSK3"}, 0x11110000, 0x11310000},
+        {0x11110000, {"M/E-1", "Key4"}, 0x11110000, 0x11410000},
+        {0x11110000, {"M/E-1", "DSK5"}, 0x11110000, 0x15110000},
+        {0x11110000, {"M/E-1", "Key6"}, 0x11110000, 0x15210000},
+        {0x11110000, {"M/E-1", "Key7"}, 0x11110000, 0x15310000},
+        {0x11110000, {"M/E-1", "CCR2"}, 0x11110000, 0x11210000},
         {0x11610000, {"M/E-1", "DME Wipe"}, 0x11610000, 0x11610000},
         {0x16610000, {"M/E-2", "DME Wipe"}, 0x11610000, 0x16610000},
         {0x85710000, {"M/E-4", "Misc"}, 0x11730000, 0x85730000},
@@ -473,4 +480,14 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
         AddPageOffset(&id);
         EXPECT_EQ(id, c.moved) << std::hex << c.now << " " << c.id;
     }
+}
+
+// A page of the bank is looked for when the one that was meant is not there.
+TEST_F(PageTest, TheNearestPageIsOneThatExists)
+{
+    const FullHouse all;
+    EXPECT_EQ(Page_Nearest(0x11120000), 0x11120000u);
+    EXPECT_EQ(Page_Nearest(0x11121234), 0x11120000u);
+    EXPECT_EQ(Page_Nearest(0x11FE0000), 0x11110000u);
+    EXPECT_EQ(Page_Nearest(0xEEEE0000), uint32_t(PAGE_TOP));
 }
