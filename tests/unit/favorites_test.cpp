@@ -44,7 +44,14 @@ TEST_F(Favorites, AKeyOpensItsPageUnlessSomethingElseIsMeant)
     EXPECT_THAT(Work(BTN_STORE, LAST),
                 testing::ElementsAre("put " + DATA + "Shortcut Name@10#11120000,M/E-1|Edge"));
     EXPECT_EQ(Work(BTN_COLOR, FIRST), Lines{"put " + DATA + "Color Select@1#9"});
+    const auto look = [] {
+        Pass(2000); // the key is up again
+        const BT_MEM* const b = bt_find(FIRST);
+        return PixelsIn({b->x1, b->y1, b->x2, b->y2});
+    };
+    const auto before = look();
     (void)Tell(DATA + "Color Select@1#9");
+    EXPECT_NE(look(), before);
     EXPECT_EQ(Again(FIRST), Lines{"put " + DATA + "Color Select@1#1"}) << "still colouring";
     EXPECT_EQ(Work(BTN_CLEAR, FIRST), Lines{"put " + DATA + "Shortcut Name@1#0,"});
     EXPECT_EQ(GL_CreatePage, 0u);
