@@ -154,6 +154,11 @@ TEST_F(FileFolder, FindsFromThereRoundTheEnds)
         found.push_back(Selected());
     }
     EXPECT_THAT(found, ElementsAre("SPORT", "OPENING", "DEEP"));
+    EXPECT_EQ(FF_Find(0, "opening", SEARCH_DIR_NEXT), 0);
+    Clip("AAA", 5, 1);
+    const FM2_FILE_LIST& list = ff.area[0].file_list;
+    ASSERT_GE(list.found_idx, 0);
+    EXPECT_STREQ(list.cell[list.found_idx]->element.name, "OPENING") << "its mark goes with it";
 }
 
 TEST_F(FileFolder, ChecksAndLoadsWhatIsChecked)
