@@ -514,12 +514,30 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     (void)Push(35);
     EXPECT_STREQ(LS_GetData(1, 0, 0), "Local Drive");
     EXPECT_GT(atoi(LS_GetData(1, 0, 2)), 0);
+    EXPECT_STREQ(LS_GetData(1, 1, 2), "") << "not mounted";
+    GL_NFS_Mounted = 1;
+    ASSERT_EQ(::system("mkdir -p /var/nfs"), 0);
+    (void)Push(35);
+    EXPECT_GT(atoi(LS_GetData(1, 1, 2)), 0);
+    GL_NFS_Mounted = 0;
     ASSERT_EQ(LS_GetNData(2), 2);
     SelectRow(1, 2);
     EXPECT_THAT(Push(BTN_MAINTENANCE_PRIMARY),
                 ElementsAre("put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"));
     (void)Tell("Info@Operation Setup Data@Import Path#/mnt/usb/usb3/");
     EXPECT_STREQ(LS_GetData(2, 1, 0), "Removable 2 (Primary)");
+    (void)Push(BTN_MAINTENANCE_FORMAT);
+    EXPECT_THAT(Answer(NO), testing::IsEmpty());
+    EXPECT_EQ(Pane_GetActiveID(), 0) << "nothing was done";
+    ASSERT_EQ(::system("rm -rf /var/tmp/device*; mkdir -p /var/tmp/device"), 0);
+    ASSERT_EQ(::system("echo 1 > /var/tmp/device/usb_format"), 0) << "it will fail";
+    (void)Push(BTN_MAINTENANCE_FORMAT);
+    (void)Answer(YES);
+    EXPECT_EQ(FileText("/var/tmp/device.log"), "usb_format [/dev/sdb]\n");
+    EXPECT_NE(Pane_GetActiveID(), 0);
+    EXPECT_EQ(GetWindow(), WINDOW_NONE) << "it is no longer busy";
+    Dismiss();
+    ASSERT_EQ(::system("rm -rf /var/tmp/device*"), 0);
     ASSERT_EQ(::system("rmdir /mnt/usb/usb1 /mnt/usb/usb3"), 0);
 }
 
