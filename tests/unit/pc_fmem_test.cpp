@@ -333,8 +333,29 @@ TEST_F(ClipPages, TheLengthOfARecordingIsThatOfItsProcessor)
     (void)Tell(TREE + "Record@PROC1#1,10,300,2");
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC), BT_DISABLED);
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC_STOP), BT_DISABLED);
+    (void)Open(FREEZE);
+    EXPECT_EQ(Usable({BTN_FMEM_FREEZE, BTN_FMEM_FREEZE_TIME}), std::vector<int>{});
+    (void)Open(RECORD);
     (void)Tell(TREE + "Record@PROC1#0,10,300,0");
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC), BT_ENABLED);
+    // A name that is entered is the next one.
+    const auto named = [] {
+        Pass(200);
+        const Lines sent = Press(BTN_FMEM_REC);
+        return sent.empty() ? "" : sent.front();
+    };
+    const std::string before = named();
+    std::string longer = before;
+    longer.insert(longer.rfind('.'), "z");
+    for (const int key : {int('z'), int(SDLK_BACKSPACE)}) {
+        Pass(200);
+        (void)Press(BTN_FMEM_REC_NAME);
+        SendMessage(MSG_KEY, key, 0, 0, 0);
+        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+        for (int i = 0; i < 4; i++)
+            Pass(100);
+        EXPECT_EQ(named(), key == 'z' ? longer : before);
+    }
     EXPECT_THAT(Leave(),
                 testing::IsSupersetOf({"remove " + TREE + "Record@Rec Len@PROC1",
                                        "remove " + TREE + "Record@Freeze/Rec Name@PROC2"}));
