@@ -19,18 +19,20 @@
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <numeric>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 #include "safeguards.h"
 
 constexpr int FETCHES_MAX = 30; // at once: the server's file link is slow
 constexpr int RETRIES = 5;
-constexpr int LOOKS_A_PASS = 128;    // files
-constexpr int FRAMES_BY_NAME = 4000; // more are not removed one by one: the screen would wait
-constexpr int QUIET_MS = 5000;       // without a new element: the tree has been told
-constexpr long SMALL_BYTES = 6966;   // 64 x 36
-constexpr long LARGE_BYTES = 21222;  // 112 x 63
+constexpr int LOOKS_A_PASS = 128;   // files
+constexpr int FRAMES_BY_NAME = 128; // of a clip that has no more, each name is tried
+constexpr int QUIET_MS = 5000;      // without a new element: the tree has been told
+constexpr long SMALL_BYTES = 6966;  // 64 x 36
+constexpr long LARGE_BYTES = 21222; // 112 x 63
 constexpr char FOLDER[] = "/mnt/sys/FM/";
 constexpr char LIST_FILE[] = "/var/tmp/__tm3_fmctrl_thumbnail_list__.tmp";
 constexpr char NOTE_END[] = ".of"; // "NEWS.OPENING.SFH.THM.of"
@@ -130,9 +132,16 @@ static void remove_frame(const ELEMENT& e, int frame)
     (void)unlink(path); // it may not be there
 }
 
-// Of all files those of the clip.
-static void remove_frames_there(const ELEMENT& e)
+// The frames that may have a file, in their order. A long clip has far more names than files, and
+// to ask for each of them would hold up the screen: its files are looked for in the folder.
+static std::vector<int> frames_to_try(const ELEMENT& e)
 {
+    std::vector<int> frames;
+    if (e.duration <= FRAMES_BY_NAME) {
+        frames.resize(size_t(std::max(e.duration, 0)));
+        std::iota(frames.begin(), frames.end(), 0);
+        return frames;
+    }
     char folder[PATH_SIZE];
     char name[NAME_SIZE];
     local_path(folder, "");
@@ -140,20 +149,22 @@ static void remove_frames_there(const ELEMENT& e)
     const size_t head = strcspn(name, "#") + strlen("#");
     const size_t length = strlen(name);
     DIR* const dir = opendir(folder);
-    for (const dirent* entry = nullptr; dir && (entry = readdir(dir));)
-        if (strncmp(entry->d_name, name, head) == 0 && strlen(entry->d_name) == length)
-            (void)unlinkat(dirfd(dir), entry->d_name, 0);
+    for (const dirent* entry = nullptr; dir && (entry = readdir(dir));) {
+        if (strncmp(entry->d_name, name, head) != 0 || strlen(entry->d_name) != length)
+            continue;
+        const int frame = int(strtol(entry->d_name + head, nullptr, 10));
+        if (frame >= 0 && frame < e.duration)
+            frames.push_back(frame);
+    }
     if (dir)
         (void)closedir(dir);
+    std::sort(frames.begin(), frames.end());
+    return frames;
 }
 
 static void remove_frames(const ELEMENT& e)
 {
-    if (e.duration > FRAMES_BY_NAME) {
-        remove_frames_there(e);
-        return;
-    }
-    for (int frame = 0; frame < e.duration; frame++)
+    for (const int frame : frames_to_try(e))
         remove_frame(e, frame);
 }
 
@@ -255,7 +266,7 @@ bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
         return false;
     ELEMENT kept = e;
     kept.duration = last - first + 1;
-    for (int frame = 0; frame < e.duration; frame++) {
+    for (const int frame : frames_to_try(e)) {
         char from[PATH_SIZE];
         char to[PATH_SIZE];
         path_of_frame(from, e, frame);

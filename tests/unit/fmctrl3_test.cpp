@@ -415,6 +415,26 @@ TEST_F(ClipStore, ATrimRenumbersThumbnails)
     EXPECT_THAT(Changes(), IsEmpty()) << "it is the first of what was";
 }
 
+TEST_F(ClipStore, OfALongClipOnlyTheFilesThereAreTouched)
+{
+    constexpr int FRAMES = 90000; // half an hour
+    for (const char* name : {"a.SFH#000010.THM", "a.SFH#000300.THM", "a.SFH#089000.THM",
+                             "a.SFH#000301.THM", "a.SFH#000299.THM", "a2.SFH#000300.THM"})
+        Put(name, 6966);
+    Put("a.SFH#000302.THM", 21222);
+    File("a", FRAMES, 1);
+    File("a2", 400, 1);
+    const clock_t begun = clock();
+    Hub("Result", "ClipStoreFile", "Trim root/a.SFH 300 80299 80000:7F");
+    EXPECT_THAT(Files(), ElementsAre("a.SFH#000000.THM", "a.SFH#000001.THM", "a.SFH#000002.THM",
+                                     "a2.SFH#000300.THM"));
+    EXPECT_EQ(fs::file_size(FM_FOLDER + std::string("a.SFH#000002.THM")), 21222u);
+    (void)Changes(); // while their clip is there
+    Hub("Delete", "ClipStoreFile", "root/a.SFH");
+    EXPECT_THAT(Files(), ElementsAre("a2.SFH#000300.THM"));
+    EXPECT_LT(clock() - begun, CLOCKS_PER_SEC / 20) << "not every name there may be is tried";
+}
+
 TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnew)
 {
     static const struct {
