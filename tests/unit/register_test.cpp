@@ -97,7 +97,9 @@ TEST_F(Registers, ALineLandsInItsPlace)
         {SNAPSHOT + "RTR@List", "1,,E,,,,", {4, 28, 0}, 0, 0, ""}, // the lock goes with the data
         {MASTER_SNAPSHOT, "3,All,E,L" + Commas(30), {4, 29, 2}, 0, 1, "All"},
         {"Snapshot@Wipe Snapshot@P/P Sub@List", "10,Wipe,L", {5, 11, 9}, 1, 1, "Wipe"},
+        {"Snapshot@DME Snapshot@P/P Sub@List", "2,Fly,L", {6, 11, 1}, 1, 1, "Fly"},
         {"Snapshot@Key Snapshot@Attribute@P/P@Key8@List", "1,Key,L", {7, 47, 0}, 1, 1, "Key"},
+        {EFFECT + "DME8", "399,D,Last,U,N,0", {3, 1, 98}, 1, 0, "Last"},
         {SHOTBOX, "99,Shot,U,,1" + Commas(43), {8, 0, 98}, 1, 0, "Shot"},
         {SHOTBOX, "98,Shot,U,," + Commas(43), {8, 0, 97}, 0, 0, "Shot"}, // nothing in it
         {MACRO, "250,D,Run,L", {9, 0, 249}, 1, 1, "Run"},
@@ -319,4 +321,9 @@ TEST_F(Registers, RegionsWithARegisterHaveTheirBitInTheMap)
     EXPECT_EQ(map[0], 2);
     EXPECT_EQ(Register_Exist_Eff200_AllRegion(6, map) + Register_Exist_Eff300_AllRegion(6, map), 0);
     EXPECT_THAT(map, Each(0));
+    DualLink(true);
+    Deliver(EFFECT + "DME5", "207,D,x,U,N,0"); // of the third of four
+    EXPECT_EQ(Register_Exist_Eff200_AllRegion(6, map), 4);
+    DualLink(false); // then there are two
+    EXPECT_EQ(Register_Exist_Eff200_AllRegion(6, map), 0);
 }
