@@ -743,6 +743,7 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
     EXPECT_THAT(Puts(BTN_ONLINE_AFTER), ElementsAre("put " + ONLINE + "Insert#1,1"));
     Pass(200);
     EXPECT_THAT(Puts(BTN_ONLINE_NEXT), ElementsAre("put " + ONLINE + "Macro Event Edit Range#2,0"));
+    EXPECT_EQ(LS_GetNowLine(LIST_MACRO_ONLINE), 2) << "its line";
     (void)LS_SetMS(LIST_MACRO_ONLINE, 1);
     for (int row : {0, 2, 4})
         (void)LS_SetSelected(LIST_MACRO_ONLINE, row, 0, 1);
@@ -821,5 +822,10 @@ TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
         (void)Tell(ONLINE + std::string("Current Macro Register Info#3,OPENING,U,4,") + p.at);
         Pass(10);
         EXPECT_EQ(Usable({BTN_ONLINE_PREVIOUS, BTN_ONLINE_NEXT}), p.usable) << p.at;
+    }
+    const Lines left = Leave(), opened = Open(PAGE_MACRO_ONLINE);
+    for (const char* path : {"Macro Edit Mode", "Current Work Register Event Data"}) {
+        EXPECT_THAT(left, Contains("remove " + ONLINE + path));
+        EXPECT_THAT(opened, Contains("add " + ONLINE + path));
     }
 }
