@@ -760,6 +760,7 @@ TEST_F(Link, AFileOfTheInstallIsWaitedFor)
     } cases[] = {{"OK", 0}, {"NG(no)", -1}, {"OK", 0}};
     Peer peer(NET_TEXT_PORT);
     Connect(peer);
+    Clock_IsReal = true;
     for (const auto& c : cases) {
         std::string line;
         std::thread server([&] {
@@ -776,5 +777,6 @@ TEST_F(Link, AFileOfTheInstallIsWaitedFor)
         EXPECT_THAT(line, testing::MatchesRegex("put File@Transfer@Transfer#L[0-9]+,MYHOST:/a,"
                                                 "10.0.0.1:/b"));
     }
+    Clock_IsReal = false;
     EXPECT_EQ(File_InstallPut("/a", nullptr, "10.0.0.1"), -1);
 }

@@ -57,6 +57,7 @@
 #include <unistd.h>
 
 uint32_t Clock_ms = 1000;
+bool Clock_IsReal = false;
 
 // The test program's own clock takes the place of the library's.
 extern "C" Uint32 SDL_GetTicks()
@@ -66,6 +67,8 @@ extern "C" Uint32 SDL_GetTicks()
 extern "C" void SDL_Delay(Uint32 ms)
 {
     Clock_ms += ms;
+    if (Clock_IsReal)
+        usleep(ms * 1000);
 }
 extern "C" int epoll_wait(int list, epoll_event* events, int size, int ms)
 {

@@ -19,6 +19,7 @@ using Strings = std::vector<std::string>;
 
 // The fake clock behind SDL_GetTicks and SDL_Delay (which only advances it).
 extern uint32_t Clock_ms;
+extern bool Clock_IsReal; // SDL_Delay takes its time: somebody else is to do something meanwhile
 
 // SDL, the drawing layer and the bitmaps, once a process. The working directory is build/run.
 void Harness_Video();
