@@ -32,6 +32,7 @@ struct Link : testing::Test {
         strcpy(SYS_StatusHubAddress, "127.0.0.1");
         SYS_StatusHubPort = HUB_PORT;
         GL_ClipStoreSupportMode = 0;
+        (void)Net_TakeTextLoss(); // of the test before
     }
     void TearDown() override // no peer is left: closes the links
     {
