@@ -82,20 +82,19 @@ void Loop_Reset()
     Touch_Reset();
 }
 
-// Wait for the rest of a pass of 10 ms and ask what has come. Returns the elapsed ms, 10 to 5000; a
-// clock that was set back counts as 10.
+// Wait for the rest of a pass of 10 ms. Returns the elapsed ms, 10 to 5000; a clock that was set
+// back counts as 10.
 static int loop_pace(uint32_t now, uint32_t before)
 {
     const uint32_t delta = now - before;
     if (now < before) {
-        Ready_Rest(PASS_MS);
+        SDL_Delay(PASS_MS);
         return PASS_MS;
     }
     if (delta < PASS_MS) {
-        Ready_Rest(int(PASS_MS - delta));
+        SDL_Delay(PASS_MS - delta);
         return PASS_MS;
     }
-    Ready_Ask();
     return delta > ELAPSED_MAX_MS ? ELAPSED_MAX_MS : int(delta);
 }
 
@@ -411,6 +410,7 @@ static void loop_hub_reconnect()
 // Everything that comes in and goes out. Returns whether the window was closed.
 static bool loop_links_and_events(int elapsed_ms)
 {
+    Ready_Ask();
     ReceiveCommand_Management();
     LoopLog_Step(STEP_RECEIVE);
     (void)Net_SendCommandQueue(); // a failed send keeps its item: the next pass tries again

@@ -1,5 +1,4 @@
 #include "ready.h"
-#include <SDL.h>
 #include <algorithm>
 #include <iterator>
 #include <sys/epoll.h>
@@ -44,35 +43,15 @@ void Ready_Watch(Ready owner, int fd, short events)
 
 // An owner without a descriptor is never quiet, nor is one whose descriptor the kernel does not
 // watch, and a question that fails finds nobody quiet: a read too many costs nothing, a link that
-// is never read would be deaf. Returns what the kernel did: 0 when the time is over and nobody has
-// anything.
-static int ready_ask(int ms)
+// is never read would be deaf.
+void Ready_Ask()
 {
     epoll_event told[READY_OWNERS];
-    const int n = epoll_wait(ready.list, told, READY_OWNERS, ms);
+    const int n = epoll_wait(ready.list, told, READY_OWNERS, 0);
     for (int i = 0; i < READY_OWNERS; i++)
         ready.is_quiet[i] = n >= 0 && ready.is_watched[i];
     for (int i = 0; i < n; i++)
         ready.is_quiet[told[i].data.u32] = false;
-    return n;
-}
-
-void Ready_Ask()
-{
-    (void)ready_ask(0);
-}
-
-// A clock that was set back in the meantime makes the wait no longer.
-void Ready_Rest(int ms)
-{
-    const uint32_t begun = SDL_GetTicks();
-    if (ready_ask(ms) == 0)
-        return;
-    const int left = std::min(ms - int(SDL_GetTicks() - begun), ms);
-    if (left <= 0)
-        return;
-    SDL_Delay(uint32_t(left));
-    Ready_Ask();
 }
 
 bool Ready_IsQuiet(Ready owner)

@@ -9,11 +9,8 @@ enum Ready : int { READY_TEXT, READY_BIN, READY_HUB, READY_TOUCH, READY_DISPLAY,
 // is being made. 0 or less: it has none, which is also to be told of one that has been closed.
 // Until the next question it counts as one that has not been asked for.
 void Ready_Watch(Ready owner, int fd, short events = POLLIN);
-// The question, without waiting: before anything is read.
+// The question, without waiting: once a pass, before anything is read.
 void Ready_Ask();
-// The rest of a pass, ms long (1 or more), and the question at its end. At rest, which most passes
-// are, both are one call of the kernel. What comes in meanwhile does not make the wait shorter.
-void Ready_Rest(int ms);
 // The last question found nothing: there is no use in reading. False for what has not been asked
 // for: it is tried.
 bool Ready_IsQuiet(Ready owner);

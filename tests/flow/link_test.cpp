@@ -112,21 +112,6 @@ TEST_F(Link, APassReadsWhatHadComeWhenItAsked)
     EXPECT_STREQ(Net_ReceiveCommand(), "C#3");
 }
 
-TEST_F(Link, ARestLastsWhateverComesAndKnowsAtItsEnd)
-{
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
-    const uint32_t begun = Clock_ms;
-    Ready_Rest(7);
-    EXPECT_EQ(Clock_ms - begun, 7u);
-    EXPECT_TRUE(Ready_IsQuiet(READY_TEXT));
-    peer.Send("A#1\n");
-    usleep(20000);
-    Ready_Rest(7);
-    EXPECT_EQ(Clock_ms - begun, 14u);
-    EXPECT_STREQ(Net_ReceiveCommand(), "A#1");
-}
-
 static std::string Numbered(int i)
 {
     char text[32];

@@ -51,9 +51,7 @@
 #include <netinet/in.h>
 #include <png.h>
 #include <poll.h>
-#include <sys/epoll.h>
 #include <sys/socket.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 uint32_t Clock_ms = 1000;
@@ -69,13 +67,6 @@ extern "C" void SDL_Delay(Uint32 ms)
     Clock_ms += ms;
     if (Clock_IsReal)
         usleep(ms * 1000);
-}
-extern "C" int epoll_wait(int list, epoll_event* events, int size, int ms)
-{
-    const long n = syscall(SYS_epoll_pwait, list, events, size, 0, nullptr, size_t(0));
-    if (n == 0)
-        Clock_ms += uint32_t(ms);
-    return int(n);
 }
 
 void Harness_Video()
