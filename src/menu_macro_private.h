@@ -58,12 +58,11 @@ void mm_file_remove(int no);                              // the backup copy
 
 // --- menu_macro_tap ---
 const CURRENT_EVENT_DATA& mm_last_event(); // of the last touch
-int mm_last_event_ms();                    // when it began, on the clock of mm_clock_ms
+int mm_last_event_ms();                    // when it began, on the clock of mm_clock_pass
 void mm_tap_touch();                       // what follows is a touch of its own
 void mm_tap_hold(bool on);                 // nothing is recorded until off
 void mm_tap_reset();
-int mm_clock_ms(); // counts while the program runs
-void mm_clock_pass(int elapsed_ms);
+void mm_clock_pass(int elapsed_ms); // a clock that counts while the program runs
 
 // --- menu_macro_run ---
 void mm_run_event_one_exec(const CURRENT_EVENT_DATA& event); // send its commands

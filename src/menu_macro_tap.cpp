@@ -187,11 +187,6 @@ void mm_tap_reset()
     part_from_touch();
 }
 
-int mm_clock_ms()
-{
-    return tap.clock_ms;
-}
-
 // Differences are taken of it, so it may begin anew after its three weeks.
 void mm_clock_pass(int elapsed_ms)
 {
