@@ -2,6 +2,7 @@
 // that has everything: lines from the server, touches, what goes over the wire.
 #pragma once
 #include "a_bt.h"
+#include "a_ls.h"
 #include "a_nb.h"
 #include "bus.h"
 #include "device.h"
@@ -9,6 +10,7 @@
 #include "harness.h"
 #include "message.h"
 #include "page.h"
+#include "window.h"
 #include <algorithm>
 #include <set>
 
@@ -118,5 +120,44 @@ struct TablePage : testing::Test {
     {
         return std::ranges::count(lines, "add " + path) -
                std::ranges::count(lines, "remove " + path);
+    }
+    // What a key puts that looks released again.
+    static Lines Puts(int id)
+    {
+        Pass(200);
+        return Puts(Press(id));
+    }
+    static std::string Cell(int list, int row, int column)
+    {
+        const char* const text = LS_GetData(list, row, column);
+        return text ? text : "";
+    }
+    // Some cells of a row.
+    static std::string Cells(int list, int row, int first, int columns)
+    {
+        std::string text;
+        for (int column = first; column < first + columns; column++)
+            text += (column > first ? "|" : "") + Cell(list, row, column);
+        return text;
+    }
+    static void Cursor(int list, int row)
+    {
+        LS_SetNowLine(list, row);
+        LS_SetSelected(list, row, 0, 1);
+        Pass(10);
+    }
+    // Say yes to the window on top; what that sends.
+    static Lines Confirm()
+    {
+        (void)TakeQueuedCommands();
+        Window_ReserveQuit(0);
+        Pass(10);
+        return TakeQueuedCommands();
+    }
+    // Until also what is painted bit by bit stands.
+    static void Paint()
+    {
+        for (int i = 0; i < 4; i++)
+            Pass(1000);
     }
 };
