@@ -1,23 +1,16 @@
 // The Field Invert page, against a server that reads the headers of frames.
 #include "a_ls.h"
-#include "file.h"
-#include "global.h"
-#include "pane.h"
 #include "pc_file_fieldinvert.h"
-#include "table_page.h"
-#include "text.h"
+#include "server_page.h"
 
 namespace
 {
 constexpr const char* DIR = "/mnt/data/user/root/SYSTEM/FRAMEMEM/";
 
-struct FieldInvertPage : TablePage {
-    static inline int ack = 600;
-    const int was_v6 = SYS_FmemV6;
+struct FieldInvertPage : ServerPage {
     void SetUp() override
     {
-        TablePage::SetUp();
-        File_Reset();
+        ServerPage::SetUp();
         FileFieldInvert_Reset();
         SYS_FmemV6 = 0; // the older frame memory has its frames in one folder
     }
@@ -25,26 +18,7 @@ struct FieldInvertPage : TablePage {
     {
         (void)Leave();
         FileFieldInvert_Reset();
-        File_Reset();
-        File_ReplaceSync(nullptr);
-        SYS_FmemV6 = was_v6;
-        TablePage::TearDown();
-    }
-    // The rows that the one search among these commands brings.
-    static void List(const Lines& sent, const Lines& rows)
-    {
-        const std::string head = "put File@Access@FindSFM#L";
-        for (const std::string& line : sent) {
-            if (line.compare(0, head.size(), head) != 0)
-                continue;
-            EXPECT_THAT(line, HasSubstr(std::string(",MYHOST:") + DIR + ",*.*.*"));
-            Tell("File@Access@FindSFM#" +
-                 line.substr(head.size() - 1, line.find(',') - head.size() + 1) + "," +
-                 std::to_string(++ack));
-        }
-        for (const std::string& row : rows)
-            Tell("File@Access@FindSFM@Status#" + std::to_string(ack) + "," + row);
-        Tell("File@Access@FindSFM@Status#" + std::to_string(ack) + ",OK");
+        ServerPage::TearDown();
     }
     static std::string Row(int n)
     {
@@ -60,30 +34,21 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
 {
     const std::string logo = std::string(DIR) + "SWR000D001/MLOGO.FMEM_007.SFM";
     const std::string tail = ",Wed Nov 25 10:30:00 2026,1,3,0,";
-    List(Open(0x71540000),
-         {std::string(DIR) + "SWR000D001/MBACK.FMEM_012.SFA" + tail + "1,1", logo + tail + "0,0",
-          std::string("/etc/SWR000D001/MBACK.FMEM_013.SFM") + tail + "0,0"});
+    const Lines opened = Open(0x71540000);
+    EXPECT_THAT(opened, Contains(HasSubstr(std::string(",MYHOST:") + DIR + ",*.*.*")));
+    (void)Reply(opened, "Access@FindSFM",
+                {std::string(DIR) + "SWR000D001/MBACK.FMEM_012.SFA" + tail + "1,1",
+                 logo + tail + "0,0",
+                 std::string("/etc/SWR000D001/MBACK.FMEM_013.SFM") + tail + "0,0"});
     ASSERT_EQ(LS_GetNData(1), 2);
     EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i|||") << "by number";
     EXPECT_EQ(Row(1), "012|MBACK|Nov.25.2026 10:30|1|1080i||O|O");
     (void)Touch(200, 124 + 22 + 5);
     (void)Press(BTN_INVERT_EXEC);
-    const int question = Pane_GetActiveID();
-    EXPECT_NE(question, 0);
-    Pane_Quit(question);
-    (void)TakeQueuedCommands();
-    SendMessage(LMSG_PANEQUIT, question, 1, 0, 0);
-    const Lines sent = TakeQueuedCommands();
-    ASSERT_EQ(sent.size(), 1u);
-    EXPECT_THAT(sent[0], HasSubstr("put File@Frame Memory@FieldInvert#L"));
-    EXPECT_THAT(sent[0], testing::EndsWith(",MYHOST:" + logo));
-    File_ReplaceSync([] { return 0; });
-    const std::string path = "File@Frame Memory@FieldInvert";
-    const std::string label =
-        sent[0].substr(sent[0].find("#L"), sent[0].find(',') - sent[0].find("#L"));
-    Tell(path + label + ",77");
-    Lines again = Tell(path + "@Status#77,OK");
-    List(again, {logo + tail + "1,1"});
+    const Lines sent = Answer(1);
+    EXPECT_THAT(sent, ElementsAre(testing::EndsWith(",MYHOST:" + logo)));
+    const Lines again = Reply(sent, "Frame Memory@FieldInvert", {});
+    (void)Reply(again, "Access@FindSFM", {logo + tail + "1,1"});
     EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i||O|O");
     (void)Open(0x71540000);
     EXPECT_NE(QueueRoot, nullptr);
