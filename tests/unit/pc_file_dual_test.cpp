@@ -1,14 +1,9 @@
 // The pages of two lists in the File menu, through touches, lines and what goes over the wire.
 #include "a_ls.h"
-#include "err.h"
-#include "file_scp.h"
-#include "pane.h"
-#include "pane_private.h"
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
 #include "register.h"
-#include "table_page.h"
-#include "text.h"
+#include "server_page.h"
 #include "window.h"
 
 namespace
@@ -16,51 +11,26 @@ namespace
 constexpr uint32_t SNAPSHOT_PAGE = 0x71310000;
 constexpr uint32_t SETUP_PAGE = 0x71120000;
 
-struct FileDualPage : TablePage {
+struct FileDualPage : ServerPage {
     void SetUp() override
     {
-        TablePage::SetUp();
-        DeviceStructure();
+        ServerPage::SetUp();
         CopyText(SYS_SHP_MyUserID, "MENU1");
-        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
-        Filescp_trnasferlist_init("SWR1");
-        Filescp_trnasferlist_init("PNL1");
-        for (const char* table : {"SWR1.File", "PNL1.File"})
-            SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg(table), 0, 0);
-        (void)TakeQueuedHubLines();
-        Tell("Snapshot@Snapshot@Attribute@M/E-1@List#3,OPENING,,,,,");
-        Tell("Snapshot@Snapshot@Attribute@M/E-1@List#4,CLOSE,L,,,,");
-        Tell("Snapshot@Snapshot@Attribute@P/P@List#4,CLOSE PP,,,,,");
-    }
-    // The label of the one line that was sent.
-    static int Label(const Lines& lines)
-    {
-        EXPECT_EQ(lines.size(), 1u) << testing::PrintToString(lines);
-        return lines.empty() ? 0 : atoi(lines[0].c_str() + lines[0].find("#L") + 2);
-    }
-    // The rows of a search, and its end.
-    static void Found(int label, const Lines& paths,
-                      const std::string& time_of_the_last = "Wed Nov 25 10:30:00 2026")
-    {
-        const std::string ack = std::to_string(500 + label);
-        Tell("File@Access@Find#L" + std::to_string(label) + "," + ack);
-        for (const std::string& path : paths)
-            Tell("File@Access@Find@Status#" + ack + "," + path + "," +
-                 (&path == &paths.back() ? time_of_the_last : "Wed Nov 25 10:30:00 2026"));
-        Tell("File@Access@Find@Status#" + ack + ",OK");
+        HubIsThere();
+        TellAll(
+            "Snapshot@Snapshot@Attribute@",
+            {"M/E-1@List#3,OPENING,,,,,", "M/E-1@List#4,CLOSE,L,,,,", "P/P@List#4,CLOSE PP,,,,,"});
     }
     static std::string Row(int list, int no)
     {
         return std::string(LS_GetData(list, no, COL_NAME)) + "|" + LS_GetData(list, no, COL_TIME);
     }
-    static Lines Answer(int result)
+    static void Select(const std::vector<int>& rows) // at the left
     {
-        (void)TakeQueuedCommands();
-        const int pane = Pane_GetActiveID();
-        EXPECT_NE(pane, 0);
-        Pane_Quit(pane);
-        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
-        return TakeQueuedCommands();
+        LS_SetMS(1, 1);
+        LS_SetSelected(1, 0, 0, 0);
+        for (const int no : rows)
+            LS_SetSelected(1, no, 0, 1);
     }
     static std::string Drive(const char* rest)
     {
@@ -81,22 +51,14 @@ struct FileDualPage : TablePage {
 TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
 {
     const Lines opened = Open(SNAPSHOT_PAGE);
-    EXPECT_THAT(opened, Contains(HasSubstr("put File@Access@Find#L")));
     EXPECT_EQ(Row(1, 2), "OPENING|");
     EXPECT_EQ(Row(1, 3), "CLOSE|");
     EXPECT_EQ(Row(1, 0), "|");
     EXPECT_EQ(LS_GetStatus(1, 0, 0), 1);
-    Found(Label([&] {
-              Lines finds = opened;
-              std::erase_if(finds, [](const std::string& s) { return s.find("Find#") == s.npos; });
-              return finds;
-          }()),
-          {Drive("SNAPSHOT/SWR000D001/ME1/NEWS.ME1_007.SSS"),
-           Drive("SNAPSHOT/SWR000D001/ME1/rubbish.txt"),
-           Drive("SNAPSHOT/SWR000D001/ME2/OTHER.ME2_008.SSS"),
-           Drive("SNAPSHOT/SWR000D001/ME1/NEW.ME1_010.SSS"),
-           Drive("SNAPSHOT/SWR000D001/ME1/OLD.ME1_010.SSS")},
-          "Tue Feb  3 23:59:00 2026");
+    (void)Reply(opened, "Access@Find",
+                Below(Drive("SNAPSHOT/SWR000D001/"),
+                      {"ME1/NEWS.ME1_007.SSS", "ME1/rubbish.txt", "ME2/OTHER.ME2_008.SSS",
+                       "ME1/NEW.ME1_010.SSS", "ME1/OLD.ME1_010.SSS,Tue Feb  3 23:59:00 2026"}));
     EXPECT_EQ(Row(2, 6), "NEWS|Nov.25.2026 10:30");
     // The register was saved before under another name.
     EXPECT_EQ(Row(2, 9), "NEW|Nov.25.2026 10:30");
@@ -113,19 +75,12 @@ TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
 TEST_F(FileDualPage, SaveGoesFromTheFirstSelectedRowOfTheTarget)
 {
     Open(SNAPSHOT_PAGE);
-    LS_SetMS(1, 1);
-    LS_SetSelected(1, 0, 0, 0);
-    LS_SetSelected(1, 2, 0, 1);
-    LS_SetSelected(1, 3, 0, 1);
+    Select({2, 3});
     LS_SetNowLine(2, 9);
     (void)TakeQueuedHubLines();
     Press(BTN_FILE_L_TO_R);
     EXPECT_THAT(TakeQueuedHubLines(), ElementsAre("Request#SWR1.File:SNAPSHOT.USER_ID:MENU1"));
-    ASSERT_TRUE(QueueRoot);
-    const FILEXFERLIST* item = nullptr;
-    for (const QUEUE* job = QueueRoot; job; job = job->next)
-        if (job->worktype == FILEWORK_RMTACCESS_SCPDIRGETLIST)
-            item = *job->xferlist;
+    const FILEXFERLIST* const item = Items(FILEWORK_RMTACCESS_SCPDIRGETLIST);
     ASSERT_TRUE(item);
     EXPECT_STREQ(item->src, "SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/OPENING.ME1_003.SSS");
     EXPECT_EQ(item->dst, Drive("SNAPSHOT/SWR000D001/ME1/OPENING.ME1_010.SSS"));
@@ -139,15 +94,11 @@ TEST_F(FileDualPage, SaveGoesFromTheFirstSelectedRowOfTheTarget)
 TEST_F(FileDualPage, WhatHasNoRowAtTheOtherSideIsSaid)
 {
     Open(SNAPSHOT_PAGE);
-    LS_SetMS(1, 1);
-    LS_SetSelected(1, 0, 0, 0);
-    for (const int no : {2, 3, 50}) // 50 is empty
-        LS_SetSelected(1, no, 0, 1);
+    Select({2, 3, 50}); // 50 is empty
     LS_SetNowLine(2, 98);
     Press(BTN_FILE_L_TO_R);
     Pane_Quit(Pane_GetActiveID()); // the progress of row 3
-    ASSERT_NE(pane_top(), nullptr);
-    EXPECT_THAT(pane_text_in_view(pane_top()), HasSubstr("target list ends"));
+    EXPECT_THAT(Message(), HasSubstr("target list ends"));
     while (Pane_GetActiveID())
         Pane_Quit(Pane_GetActiveID());
     FileDual_Reset();
@@ -177,8 +128,8 @@ TEST_F(FileDualPage, TransferGoesOnWithoutItsPage)
     (void)TakeQueuedCommands();
     (void)TakeQueuedHubLines();
     SendMessage(LMSG_PANEQUIT, pane, 1, 0, 0); // cancelled while it waits for its turn
-    SendMessage(MSG_SHPTALLY, Arg("Notify"), Arg("SWR1.File"), 0, Arg("SNAPSHOT.USER_ID:MENU1"));
-    SendMessage(MSG_SHPTALLY, Arg("Notify"), Arg("SWR1.File"), 0, Arg("SNAPSHOT.STATUS:Standby"));
+    Hub("Notify", "SWR1.File", "SNAPSHOT.USER_ID:MENU1");
+    Hub("Notify", "SWR1.File", "SNAPSHOT.STATUS:Standby");
     for (int i = 0; i < 300 && BkgdFileTransfer_Check(SNAPSHOT_PAGE); i++) {
         Pass(10);
         SDL_Delay(10);
@@ -195,7 +146,7 @@ TEST_F(FileDualPage, WhatFailsWithoutItsPageIsInTheListOfErrors)
     BkgdFileTransfer_PaneQuit();
     EXPECT_EQ(CreatePage(PAGE_TOP), 0);
     Err_Clear();
-    SendMessage(MSG_SHPTALLY, Arg("Disconnect"), Arg("SWR1.File"), 0, 0);
+    Hub("Disconnect", "SWR1.File");
     EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 0);
     EXPECT_EQ(Pane_GetActiveID(), 0) << "over other work nothing opens";
     EXPECT_THAT(ErrorsShown(), ElementsAre(HasSubstr("OPENING.ME1_003.SSS")));
@@ -219,14 +170,10 @@ TEST_F(FileDualPage, DirectoryIsChosenBehindTheDevice)
 {
     Open(SNAPSHOT_PAGE);
     Press(BTN_FILE_DEVICE_B);
-    const int label = Label(Answer(FILE_NETWORK + 1));
-    const std::string ack = std::to_string(700 + label);
-    Tell("File@Access@ListDir#L" + std::to_string(label) + "," + ack);
-    for (const char* dir : {"SHOW", "MORNING", "A NAME OF SIXTEEN"})
-        Tell("File@Access@ListDir@Status#" + ack + ",MYHOST:/var/nfs/user/root/" + dir +
-             ",Wed Nov 25 10:30:00 2026");
+    const Lines asked = Answer(FILE_NETWORK + 1);
     EXPECT_EQ(Caption(BTN_FILE_DEVICE_B), "Local Drive") << "not before the choice is whole";
-    Tell("File@Access@ListDir@Status#" + ack + ",OK");
+    (void)Reply(asked, "Access@ListDir",
+                Below("MYHOST:/var/nfs/user/root/", {"SHOW", "MORNING", "A NAME OF SIXTEEN"}));
     int count = 0;
     const DIRINFO* const dirs = File_DirList(FILE_NETWORK, &count);
     ASSERT_EQ(count, 3);
@@ -244,9 +191,7 @@ TEST_F(FileDualPage, DirectoryIsChosenBehindTheDevice)
 TEST_F(FileDualPage, LockedSetupRegionsAreLeftOutAfterAQuestion)
 {
     GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP] = 1;
-    Lines opened = Open(SETUP_PAGE);
-    std::erase_if(opened, [](const std::string& s) { return s.find("Find#") == s.npos; });
-    Found(Label(opened), {Drive("SETUP/SWR000D001/S.DEV_0000.SST")});
+    (void)Reply(Open(SETUP_PAGE), "Access@Find", {Drive("SETUP/SWR000D001/S.DEV_0000.SST")});
     ASSERT_EQ(Row(2, 0), "S|Nov.25.2026 10:30");
     Press(BTN_FILE_R_TO_L);
     ASSERT_NE(Pane_GetActiveID(), 0);
@@ -269,7 +214,6 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     EXPECT_STREQ(LS_GetData(1, 3, COL_REGIONS), "O");
     Press(BTN_FILE_DELETE);
     EXPECT_THAT(Answer(2), IsEmpty());
-    Pass(1000);
     Press(BTN_FILE_DELETE);
     EXPECT_THAT(Answer(1), ElementsAre("put Snapshot@Snapshot@Delete#2,4,4"));
 }
@@ -311,13 +255,11 @@ TEST_F(FileDualPage, RenameOfFilesSkipsWhatKeepsItsName)
 {
     Open(SNAPSHOT_PAGE);
     Press(BTN_FILE_DETAIL_B);
-    Lines opened;
     (void)TakeQueuedCommands();
     EXPECT_EQ(CreatePage(SNAPSHOT_PAGE + 1), 0);
-    opened = TakeQueuedCommands();
-    std::erase_if(opened, [](const std::string& s) { return s.find("Find#") == s.npos; });
-    Found(Label(opened), {Drive("SNAPSHOT/SWR000D001/ME1/NEWS.ME1_001.SSS"),
-                          Drive("SNAPSHOT/SWR000D001/ME1/A_NAME_LONGER_THAN_ITS_ROW.ME1_002.SSS")});
+    (void)Reply(TakeQueuedCommands(), "Access@Find",
+                Below(Drive("SNAPSHOT/SWR000D001/ME1/"),
+                      {"NEWS.ME1_001.SSS", "A_NAME_LONGER_THAN_ITS_ROW.ME1_002.SSS"}));
     const auto rename = [](const char* name) {
         Press(BTN_FILE_RENAME);
         EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
