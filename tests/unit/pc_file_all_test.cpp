@@ -1,20 +1,13 @@
 // The All page of the File menu against a server that has files: what is gathered from where, what
 // is given to which job, and what automation gets.
-#include "err.h"
-#include "file_scp.h"
 #include "fmctrl.h"
-#include "pane.h"
-#include "pane_private.h"
 #include "pc_file.h"
 #include "pc_file_all.h"
 #include "pc_file_all_frames.h"
 #include "register.h"
-#include "table_page.h"
-#include "text.h"
+#include "server_page.h"
 #include "window.h"
-#include <fstream>
 #include <map>
-#include <sstream>
 #include <unistd.h>
 
 using testing::EndsWith, testing::SizeIs, testing::UnorderedElementsAre;
@@ -25,40 +18,25 @@ constexpr uint32_t ALL_PAGE = 0x71110000;
 const std::string ROOT = "MYHOST:/mnt/data/user/root/SYSTEM/";
 const std::string CLEAR = "Info@Operation Setup Data@Clear Before Load";
 
-struct FileAllPage : TablePage {
+struct FileAllPage : ServerPage {
     std::map<std::string, Lines> files;         // of a folder, as the server finds them
     std::map<std::string, std::string> refused; // folders that it cannot search
-    int ack = 500;
+    Lines sent;                                 // what was no search
 
     void SetUp() override
     {
-        TablePage::SetUp();
-        DeviceStructure();
+        ServerPage::SetUp();
         FMCtrl_Quit();
         FMCtrl_InitClipStillList();
         CopyText(SYS_SHP_MyUserID, "MENU1");
         CopyText(GL_ImportDataPath, "/mnt/usb/usb1/");
-        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
-        SYS_FmemV6 = 1;
         HubIsThere();
         (void)Open(ALL_PAGE);
     }
     void TearDown() override
     {
         FMCtrl_Quit();
-        SYS_FmemV6 = 0;
-        CopyText(GL_ImportDataPath, "");
-        std::fill_n(GL_FileLock, FILE_LOCKS, 0);
-        TablePage::TearDown();
-    }
-
-    static void HubIsThere()
-    {
-        for (const char* target : {"SWR1", "PNL1"}) {
-            Filescp_trnasferlist_init(target);
-            SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg((std::string(target) + ".File").c_str()), 0,
-                        0);
-        }
+        ServerPage::TearDown();
     }
     static void Select(const std::set<std::string>& categories)
     {
@@ -74,74 +52,67 @@ struct FileAllPage : TablePage {
                 on.push_back(AllTbl[row].cmd);
         return on;
     }
-    static void Answer(int result)
-    {
-        const int pane = Pane_GetActiveID();
-        ASSERT_NE(pane, 0);
-        Pane_Quit(pane);
-        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
-    }
     // The server answers one command when it is a search or works on a folder.
     bool Served(const std::string& line)
     {
-        for (const char* kind : {"Find", "ListDir", "Rmdir", "Mkdir"}) {
-            const std::string path = std::string("File@Access@") + kind;
-            if (!line.starts_with("put " + path + "#L"))
-                continue;
-            const size_t label = line.find("#L") + 2, comma = line.find(',');
-            const std::string number = std::to_string(++ack);
-            const std::string folder =
-                line.substr(comma + 1, line.find(',', comma + 1) - comma - 1);
-            SendDummyTally(
-                (path + "#L" + line.substr(label, comma - label) + "," + number).c_str());
-            for (const std::string& file : files[folder])
-                SendDummyTally((path + "@Status#" + number + "," + folder.substr(7) + file +
-                                (file.find(',') < file.size() ? "" : ",Wed Nov 25 10:30:00 2026"))
-                                   .c_str());
-            const std::string end = refused.contains(folder) ? refused[folder] : "OK";
-            SendDummyTally((path + "@Status#" + number + "," + end).c_str());
-            return true;
-        }
+        const size_t comma = line.find(',') + 1;
+        const std::string folder = line.substr(comma, line.find(',', comma) - comma);
+        for (const char* kind : {"Find", "ListDir", "Rmdir", "Mkdir"})
+            if (Serve(line, std::string("Access@") + kind,
+                      Below(folder.substr(std::min<size_t>(7, folder.size())), files[folder]),
+                      refused.contains(folder) ? refused[folder] : "OK"))
+                return true;
         return false;
     }
     // Passes until nothing more is asked; the words and paths of all that was.
-    Lines Run()
+    Lines Run(Lines lines = {})
     {
         Lines asked;
         for (int quiet = 0; quiet < 20; quiet++) {
-            Pass(10);
-            for (const std::string& line : TakeQueuedCommands()) {
+            for (const std::string& line : lines) {
                 quiet = 0;
-                const bool is_served = Served(line);
-                if (is_served)
+                if (Served(line))
                     asked.push_back(line.substr(16, line.find('#') - 16) + " " +
                                     line.substr(line.find(',') + 1));
                 else
                     sent.push_back(line);
             }
+            Pass(10);
+            lines = TakeQueuedCommands();
         }
         return asked;
     }
-    Lines sent; // what was no search
+    // A transfer key, and "Yes".
+    Lines Do(int key)
+    {
+        (void)Press(key);
+        return Run(Answer(1));
+    }
+    Lines Load() { return Run(Press(BTN_ALL_R_TO_L)); }
     static Lines Items(int worktype)
     {
         Lines items;
-        for (const QUEUE* job = QueueRoot; job; job = job->next)
-            for (const FILEXFERLIST* i = job->worktype == worktype ? *job->xferlist : nullptr; i;
-                 i = i->next)
-                items.push_back(std::string(i->target) + " " + i->src + " > " + i->dst);
+        for (const FILEXFERLIST* i = ServerPage::Items(worktype); i; i = i->next)
+            items.push_back(std::string(i->target) + " " + i->src + " > " + i->dst);
         return items;
+    }
+    static void HubGoes()
+    {
+        File_SHP_All_Clear();
+        Pass(10);
+    }
+    static void ClosePanes()
+    {
+        while (Pane_GetActiveID())
+            (void)Pane_Quit(Pane_GetActiveID());
     }
     static void Frames(std::initializer_list<std::pair<int, const char*>> registers)
     {
-        SendDummyTally("16@Frame Mem@Status@Max Register#1500");
-        SendDummyTally("Frame Mem@Status@Extended Capacity#1");
-        SendDummyTally("16@Frame Mem@Status@Folder Name Sense#0,Default.,4,News");
+        const std::string memory = "16@Frame Mem@Status@";
+        TellAll(memory, {"Max Register#1500", "Folder Name Sense#0,Default.,4,News"});
+        (void)Tell("Frame Mem@Status@Extended Capacity#1");
         for (const auto& [number, name] : registers)
-            SendDummyTally(
-                ("16@Frame Mem@Status@File Name Sense#" + std::to_string(number) + ",81," + name)
-                    .c_str());
-        (void)TakeQueuedCommands();
+            (void)Tell(memory + "File Name Sense#" + std::to_string(number) + ",81," + name);
     }
 };
 } // namespace
@@ -154,12 +125,9 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
     Tell("Effect@Effect@Attribute@List@Dev12#1,S,LAST,U,0,0");
     Select({"SNAPSHOT", "EFFECT", "MENUMACRO"});
     EXPECT_THAT(Press(BTN_ALL_L_TO_R), IsEmpty());
-    Answer(2);
-    EXPECT_THAT(Run(), IsEmpty()) << "not before the operator agrees";
-    (void)Press(BTN_ALL_L_TO_R);
-    Answer(1);
-    EXPECT_THAT(Run(), ElementsAre("Rmdir MYHOST:/mnt/data/user/root/SYSTEM",
-                                   "Mkdir MYHOST:/mnt/data/user/root/SYSTEM"));
+    EXPECT_THAT(Run(Answer(2)), IsEmpty()) << "not before the operator agrees";
+    EXPECT_THAT(Do(BTN_ALL_L_TO_R), ElementsAre("Rmdir MYHOST:/mnt/data/user/root/SYSTEM",
+                                                "Mkdir MYHOST:/mnt/data/user/root/SYSTEM"));
     const std::string work = "SWR1 SWR001D001:/vorn/tmp/file/";
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
                 ElementsAre(work + "EFFECT/SWR1/VTR.DEV1_007.SKF > " + ROOT +
@@ -184,8 +152,7 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
     Pass(10);
     EXPECT_NE(Pane_GetActiveID(), 0);
     SendMessage(LMSG_PANEQUIT, Pane_GetActiveID(), 1, 0, 0); // cancelled before its turn came
-    File_SHP_All_Clear();
-    Pass(10);
+    HubGoes();
     EXPECT_FALSE(BkgdFileTransfer_Check(0));
 }
 
@@ -194,24 +161,19 @@ TEST_F(FileAllPage, WhatFailsWhileTheOperatorIsElsewhereIsListed)
     Select({"KEYMEM"});
     for (const bool is_away : {false, true}) {
         HubIsThere();
-        (void)Press(BTN_ALL_L_TO_R);
-        Answer(1);
-        (void)Run();
+        (void)Do(BTN_ALL_L_TO_R);
         Err_Clear();
         if (is_away) {
             Tell("TopMenu#Effect");
             EXPECT_EQ(CreatePage(PAGE_TOP), 0);
         }
-        File_SHP_All_Clear(); // the hub has gone
-        Pass(10);
+        HubGoes();
         EXPECT_FALSE(BkgdFileTransfer_Check(0));
         EXPECT_EQ(Err_GetMax() > 0, is_away);
         EXPECT_EQ(Pane_GetActiveID() != 0, !is_away) << "a pane tells of them";
-        while (Pane_GetActiveID())
-            (void)Pane_Quit(Pane_GetActiveID());
+        ClosePanes();
         Pass(1000);
     }
-    Err_Clear();
 }
 
 TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
@@ -223,21 +185,17 @@ TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
     };
     const auto choose = [&](int button, int drive) {
         (void)Press(button);
-        Answer(drive + 1);
-        (void)Run();
+        (void)Run(Answer(drive + 1));
         if (Pane_GetActiveID())
-            Answer(1); // SYSTEM
-        Pass(1000);
+            (void)Answer(1); // SYSTEM
     };
     EXPECT_EQ(sides(), "Register |Local Drive SYSTEM");
     EXPECT_EQ(Usable(keys), std::vector<int>({BTN_ALL_DIR_B, BTN_ALL_L_TO_R, BTN_ALL_R_TO_L}));
-    ASSERT_EQ(
-        ::system(
-            "mkdir -p /mnt/data/user/root/SYSTEM; touch /mnt/data/user/root/SYSTEM/.dirprotect"),
-        0);
+    (void)!::system(
+        "mkdir -p /mnt/data/user/root/SYSTEM; touch /mnt/data/user/root/SYSTEM/.dirprotect");
     (void)Open(ALL_PAGE);
     EXPECT_EQ(Usable(keys), std::vector<int>({BTN_ALL_DIR_B, BTN_ALL_R_TO_L})) << "read only";
-    ASSERT_EQ(::system("rm /mnt/data/user/root/SYSTEM/.dirprotect"), 0);
+    (void)!::system("rm /mnt/data/user/root/SYSTEM/.dirprotect");
     choose(BTN_ALL_DEVICE_B, FILE_REGISTER);
     EXPECT_EQ(sides(), "Register |Register ");
     EXPECT_EQ(Usable(keys), std::vector<int>{}) << "from registers to registers";
@@ -246,23 +204,19 @@ TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
     EXPECT_EQ(Usable(keys), std::vector<int>({BTN_ALL_DIR_A, BTN_ALL_L_TO_R, BTN_ALL_R_TO_L}));
     // A save goes from right to left as well; a copy not into itself.
     Select({"KEYMEM"});
-    (void)Press(BTN_ALL_R_TO_L);
-    Answer(1);
-    EXPECT_THAT(Run(), Contains("Rmdir MYHOST:/mnt/usb/usb1/SYSTEM"));
+    EXPECT_THAT(Do(BTN_ALL_R_TO_L), Contains("Rmdir MYHOST:/mnt/usb/usb1/SYSTEM"));
     FileAll_LinkLost();
     File_LinkLost();
     File_SHP_All_Clear();
     (void)Run();
     FileAll_Reset();
-    while (Pane_GetActiveID())
-        (void)Pane_Quit(Pane_GetActiveID());
+    ClosePanes();
     (void)BkgdFileTransfer_Set(0, 0);
     (void)Open(ALL_PAGE);
     Pass(1000);
     choose(BTN_ALL_DEVICE_A, FILE_REMOVABLE);
     choose(BTN_ALL_DEVICE_B, FILE_REMOVABLE);
-    (void)Press(BTN_ALL_R_TO_L);
-    EXPECT_THAT(Run(), IsEmpty());
+    EXPECT_THAT(Load(), IsEmpty());
     EXPECT_NE(Pane_GetActiveID(), 0);
 }
 
@@ -270,9 +224,7 @@ TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
 TEST_F(FileAllPage, AnEmptySaveLeavesTheDirectoryAlone)
 {
     Select({"MENUMACRO"});
-    (void)Press(BTN_ALL_L_TO_R);
-    Answer(1);
-    EXPECT_THAT(Run(), IsEmpty());
+    EXPECT_THAT(Do(BTN_ALL_L_TO_R), IsEmpty());
     EXPECT_EQ(Pane_GetActiveID(), 0);
     Select({});
     EXPECT_EQ(BT_GetVisible(BTN_ALL_L_TO_R), BT_DISABLED);
@@ -291,8 +243,7 @@ TEST_F(FileAllPage, ALoadSearchesWhatIsSelectedAndLeavesOutWhatIsLocked)
         << "a part of the setup may be loaded";
     (void)CloseWindow();
     EXPECT_THAT(Run(), IsEmpty()) << "the operator confirms again";
-    (void)Press(BTN_ALL_R_TO_L);
-    EXPECT_THAT(Run(),
+    EXPECT_THAT(Load(),
                 ElementsAre("Find " + ROOT + "SETUP/,*.*.*", "Find " + ROOT + "SNAPSHOT/,*.*.*"));
     EXPECT_EQ(AllLoadCount, 0);
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
@@ -304,13 +255,12 @@ TEST_F(FileAllPage, ALoadSearchesWhatIsSelectedAndLeavesOutWhatIsLocked)
                                 "SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/NEWS.ME1_007.SSS"));
     // Cancelled, it may have arrived all the same.
     sent.clear();
-    Answer(1);
+    const Lines after = Answer(1);
     for (const char* row : {"SETUP", "SNAPSHOT"})
         for (const char* table : {"SWR1.File", "PNL1.File"})
             for (const char* state : {".USER_ID:MENU1", ".STATUS:Standby"})
-                SendMessage(MSG_SHPTALLY, Arg("Notify"), Arg(table), 0,
-                            Arg((std::string(row) + state).c_str()));
-    (void)Run();
+                Hub("Notify", table, std::string(row) + state);
+    (void)Run(after);
     EXPECT_THAT(sent, Contains("put Snapshot@Snapshot@Register Status#1F803FFF"));
 }
 
@@ -323,8 +273,7 @@ TEST_F(FileAllPage, OfARegisterSavedUnderSeveralNamesTheNewestIsTaken)
         "SWR000D001/ME1/NEWS.ME1_008.SSS" + day, "SWR000D001/ME1/OLDER.ME1_007.SSS" + eve,
         "SWR000D001/ME2/OLD.ME2_007.SSS" + eve,  "SWR000D001/ME1/LAST.ME1_008.SSS" + day};
     Select({"SNAPSHOT"});
-    (void)Press(BTN_ALL_R_TO_L);
-    (void)Run();
+    (void)Load();
     const std::string from = "SWR1 " + ROOT + "SNAPSHOT/SWR00";
     const std::string work = " > SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/";
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
@@ -336,28 +285,19 @@ TEST_F(FileAllPage, OfARegisterSavedUnderSeveralNamesTheNewestIsTaken)
 // A category that the directory does not have is empty; one that cannot be read is said.
 TEST_F(FileAllPage, ACategoryThatCannotBeReadIsSaid)
 {
-    ASSERT_EQ(
-        ::system("rm -rf /mnt/data/user/root/SYSTEM;"
-                 "mkdir -p /mnt/data/user/root/SYSTEM/WSNAP /mnt/data/user/root/SYSTEM/FMEMFOL"),
-        0);
+    (void)!::system("rm -rf /mnt/data/user/root/SYSTEM; mkdir -p /mnt/data/user/root/SYSTEM/WSNAP "
+                    "/mnt/data/user/root/SYSTEM/FMEMFOL");
     for (const char* folder : {"WSNAP/", "KSNAP/", "FMEMFOL/", "FMEMFOL/DEFAULT/"})
         refused[ROOT + folder] = "NG(Read Error)";
     Select({"WSNAP", "KSNAP", "SNAPSHOT", "FRAMEMEM"});
-    (void)Press(BTN_ALL_R_TO_L);
-    (void)Run();
-    PANE* const pane = pane_top();
-    ASSERT_TRUE(pane);
-    EXPECT_STREQ(pane_text_in_view(pane), "Following categories could not be read.\n"
-                                          "  - Wipe Snapshot\n  - Frame Memory");
-    // The stick has been pulled.
-    Answer(1);
-    ASSERT_EQ(::system("rm -rf /mnt/data/user/root/SYSTEM"), 0);
+    (void)Load();
+    EXPECT_EQ(Message(), "Following categories could not be read.\n"
+                         "  - Wipe Snapshot\n  - Frame Memory");
+    (void)Answer(1);
+    (void)!::system("rm -rf /mnt/data/user/root/SYSTEM"); // the stick has been pulled
     Select({"WSNAP", "KSNAP"});
-    Pass(1000);
-    (void)Press(BTN_ALL_R_TO_L);
-    (void)Run();
-    ASSERT_TRUE(pane_top());
-    EXPECT_STREQ(pane_text_in_view(pane_top()), "The directory could not be read.");
+    (void)Load();
+    EXPECT_EQ(Message(), "The directory could not be read.");
 }
 
 TEST_F(FileAllPage, AllFourRegionsLockTheSetup)
@@ -388,7 +328,7 @@ TEST_F(FileAllPage, PreparingCanBeCancelledAndEndsWithThePage)
         if (is_left)
             (void)Open(ALL_PAGE);
         else
-            Answer(1);
+            (void)Answer(1);
         EXPECT_EQ(AllLoadCount, 0);
         EXPECT_EQ(QueueRoot, nullptr);
         EXPECT_EQ(Pane_GetActiveID(), 0);
@@ -409,19 +349,15 @@ TEST_F(FileAllPage, AFallenLinkEndsIt)
     for (const int button : {BTN_ALL_R_TO_L, BTN_ALL_L_TO_R}) {
         (void)Press(button);
         if (button == BTN_ALL_L_TO_R)
-            Answer(1);
+            (void)Answer(1);
         for (int i = 0; i < 20; i++)
             Pass(10); // searching, or clearing
         EXPECT_NE(QueueRoot, nullptr);
         fall();
         EXPECT_EQ(QueueRoot, nullptr);
-        Answer(0); // the operator has been told
-        Pass(1000);
-        EXPECT_THAT(Run(), IsEmpty());
+        EXPECT_THAT(Run(Answer(0)), IsEmpty()) << "the operator has been told";
     }
-    (void)Press(BTN_ALL_L_TO_R);
-    Answer(1);
-    (void)Run();
+    (void)Do(BTN_ALL_L_TO_R);
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRGETLIST), SizeIs(1));
     fall();
     File_SHP_All_Clear();
@@ -433,15 +369,12 @@ TEST_F(FileAllPage, ACopyGoesToAnotherDirectoryOnly)
 {
     const auto choose = [&](int button, int drive) {
         (void)Press(button);
-        Answer(drive + 1);
-        (void)Run();
-        Answer(1); // SYSTEM
-        Pass(1000);
+        (void)Run(Answer(drive + 1));
+        (void)Answer(1); // SYSTEM
     };
     choose(BTN_ALL_DEVICE_A, FILE_LOCAL);
-    (void)Press(BTN_ALL_L_TO_R);
-    EXPECT_THAT(Run(), IsEmpty());
-    Answer(0);
+    EXPECT_THAT(Run(Press(BTN_ALL_L_TO_R)), IsEmpty());
+    (void)Answer(0);
     choose(BTN_ALL_DEVICE_B, FILE_REMOVABLE);
     files[ROOT + "MACRO/"] = {"CTRLCPU/A?B.PNL_0012.PMR", "CTRLCPU/A.PNL_0251.PMR"};
     Frames({});
@@ -449,8 +382,7 @@ TEST_F(FileAllPage, ACopyGoesToAnotherDirectoryOnly)
     files[ROOT + "FMEMFOL/News/"] = {"SWR000D001/Mlogo.FMEM_012.SFM"};
     GL_FileLock[FILELOCK_CATEGORY_MACRO] = 1; // of no meaning here
     Select({"MACRO", "FRAMEMEM"});
-    (void)Press(BTN_ALL_L_TO_R);
-    (void)Run();
+    (void)Run(Press(BTN_ALL_L_TO_R));
     const std::string stick = " > MYHOST:/mnt/usb/usb1/SYSTEM/";
     EXPECT_THAT(Items(FILEWORK_ACCESS_COPYLIST),
                 UnorderedElementsAre(" " + ROOT + "MACRO/CTRLCPU/A?B.PNL_0012.PMR" + stick +
@@ -465,9 +397,7 @@ TEST_F(FileAllPage, PicturesAreSavedByFolderAndStore)
     SendDummyTally("16@Frame Mem@Status@Folder Status@0#04");
     (void)TakeQueuedCommands();
     Select({"FRAMEMEM"});
-    (void)Press(BTN_ALL_L_TO_R);
-    Answer(1);
-    (void)Run();
+    (void)Do(BTN_ALL_L_TO_R);
     const std::string folder = ROOT + "FMEMFOL/";
     // The job has turned the first names into those of the packed kind.
     EXPECT_THAT(
@@ -491,8 +421,7 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
     files[folder + "News/"] = {"SWR000D001/Mlogo.FMEM_002.SFM"};
     files[folder + "Sport/"] = {"SWR000D001/Mball.FMEX_007.SFA"};
     Select({"FRAMEMEM"});
-    (void)Press(BTN_ALL_R_TO_L);
-    EXPECT_THAT(Run(),
+    EXPECT_THAT(Load(),
                 ElementsAre("ListDir " + folder, "Find " + folder + "DEFAULT/,*.*.*",
                             "Find " + folder + "News/,*.*.*", "Find " + folder + "Sport/,*.*.*"));
     EXPECT_THAT(Items(FILEWORK_TRANSFERLIST),
@@ -512,13 +441,12 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
     AllFrames_Place(&failed);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put 16@Frame Mem@Folder@Move Still#0,Mball,1"));
     // What was under way does not stay where it was prepared.
-    ASSERT_EQ(::system("mkdir -p /var/tmp/FMXfer /var/tmp/XPORT; touch /var/tmp/FMXfer/left"), 0);
-    ASSERT_TRUE(QueueRoot);
-    FILEXFERLIST* const item = *QueueRoot->xferlist;
+    (void)!::system(
+        "mkdir -p /var/tmp/FMXfer /var/tmp/XPORT; touch /var/tmp/FMXfer/left /tmp/other");
+    FILEXFERLIST* const item = ServerPage::Items(FILEWORK_TRANSFERLIST);
+    ASSERT_TRUE(item && item->next);
     CopyText(item->tmp, "MYHOST:/var/tmp/FMXfer/left");
-    ASSERT_TRUE(item->next);
     CopyText(item->next->tmp, "MYHOST:/tmp/other"); // not ours
-    ASSERT_EQ(::system("touch /tmp/other"), 0);
     QueueRoot->retfunc.list(QueueRoot->label, QueueRoot->tag);
     EXPECT_NE(access("/var/tmp/FMXfer/left", F_OK), 0);
     EXPECT_NE(access("/var/tmp/XPORT", F_OK), 0);
@@ -527,24 +455,14 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
 
 TEST_F(FileAllPage, AutomationGetsItsAnswer)
 {
-    const auto answer = [](const char* name) {
-        std::ifstream file(std::string("/tmp/FTPIF/Command/") + name);
-        std::stringstream text;
-        text << file.rdbuf();
-        return text.str();
-    };
-    ASSERT_EQ(::system("rm -rf /tmp/FTPIF; mkdir -p /tmp/FTPIF/Command"), 0);
+    const std::string command = "/tmp/FTPIF/Command/";
+    (void)!::system("rm -rf /tmp/FTPIF; mkdir -p /tmp/FTPIF/Command");
     Select({}); // of the page: not of automation
     EXPECT_EQ(AllLoad(), 0);
     EXPECT_EQ(AllLoad(), -1) << "one at a time";
-    Lines asked;
-    for (const std::string& line : Leave()) // a page takes nothing of automation with it
-        if (Served(line))
-            asked.push_back(line);
-    for (const std::string& line : Run())
-        asked.push_back(line);
+    const Lines asked = Run(Leave()); // a page takes nothing of automation with it
     EXPECT_THAT(asked, AllOf(SizeIs(ALL_CATEGORIES), Each(HasSubstr("MYHOST:/tmp/FTPIF/Import/"))));
-    EXPECT_EQ(answer("allload.res"), "Error\n") << "there is nothing to be loaded";
+    EXPECT_EQ(FileText(command + "allload.res"), "Error\n") << "there is nothing to be loaded";
     // A save clears its own folders and no others; it has no pane on the page that is shown.
     (void)Open(PAGE_TOP);
     EXPECT_EQ(AllSave(), 0);
@@ -556,11 +474,11 @@ TEST_F(FileAllPage, AutomationGetsItsAnswer)
     EXPECT_EQ(Pane_GetActiveID(), 0);
     EXPECT_EQ(BkgdFileTransfer_Check(0), 1);
     File_SHP_All_Clear(); // the hub has gone
-    for (int i = 0; i < 300 && answer("allsave.res").empty(); i++) {
+    for (int i = 0; i < 300 && FileText(command + "allsave.res").empty(); i++) {
         (void)Run();
         SDL_Delay(10);
     }
-    EXPECT_EQ(answer("allsave.res"), "Error\n");
+    EXPECT_EQ(FileText(command + "allsave.res"), "Error\n");
     EXPECT_EQ(BkgdFileTransfer_Check(0), 0);
     files["MYHOST:/tmp/FTPIF/Import/KEYMEM/"] = {"SWR000D001/KEYMEM.DEV_0000.SKM"};
     HubIsThere();
@@ -569,7 +487,7 @@ TEST_F(FileAllPage, AutomationGetsItsAnswer)
     ASSERT_TRUE(QueueRoot);
     (*QueueRoot->xferlist)->status = FILESTATUS_OK;
     QueueRoot->retfunc.list(QueueRoot->label, QueueRoot->tag);
-    EXPECT_EQ(answer("allload.res"), "OK\n");
+    EXPECT_EQ(FileText(command + "allload.res"), "OK\n");
     (void)!::system("rm -rf /tmp/FTPIF");
 }
 

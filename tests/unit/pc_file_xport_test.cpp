@@ -7,13 +7,16 @@
 #include "pane_private.h"
 #include "pc_file_xport.h"
 
+using testing::EndsWith;
+
 namespace
 {
 constexpr uint32_t NEW = 0x71610000, OLD = 0x71610100, CLIPS = 0x71620000;
 constexpr const char* STICK = "MYHOST:/mnt/usb/usb1/SYSTEM/";
-constexpr const char* NOT_PERMITTED =
+const std::string NOT_PERMITTED =
     "Following operation is not permitted.\n  - Loading to WORK AREA.\n"
     "  - Loading that will cause duplicate\n    register name.";
+const std::string SOME_NOT_PERMITTED = "Some requests are skipped. \n" + NOT_PERMITTED;
 
 struct XportPage : FramePage {
     void SetUp() override
@@ -86,12 +89,37 @@ struct XportPage : FramePage {
         return rows;
     }
     static void TouchClip(int row) { (void)Touch(170, 124 + 22 * (row + 1) + 10); }
-    static FILEXFERLIST* Items(FILEWORKTYPE work)
+    static void StoreIsThere()
     {
+        Filescp_trnasferlist_init("CS1");
+        SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+    }
+    // Of a job of that kind, "target source > destination frame/frames", and whether a companion
+    // travels along. "store:" and "stick:" stand for the roots.
+    static Lines Items(FILEWORKTYPE work)
+    {
+        static const std::pair<std::string, const char*> roots[] = {
+            {"SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/", "store:"},
+            {"MYHOST:/mnt/usb/usb1/", "stick:"}};
+        Lines items;
         for (const QUEUE* job = QueueRoot; job; job = job->next)
-            if (job->worktype == work)
-                return *job->xferlist;
-        return nullptr;
+            for (const FILEXFERLIST* i = job->worktype == work ? *job->xferlist : nullptr; i;
+                 i = i->next) {
+                std::string item = std::string(i->target) + " " + i->src + " > " + i->dst + " " +
+                                   std::to_string(i->import_no[0]) + "/" +
+                                   std::to_string(i->import_no[1]) + (i->info ? " sub" : "");
+                for (const auto& [root, name] : roots)
+                    for (size_t at; (at = item.find(root)) != item.npos;)
+                        item.replace(at, root.size(), name);
+                items.push_back(item);
+            }
+        return items;
+    }
+    // The lines that have this in them.
+    static Lines With(const char* part, Lines lines)
+    {
+        std::erase_if(lines, [&](const std::string& s) { return s.find(part) == s.npos; });
+        return lines;
     }
     // The converter has left these sides of a picture.
     static void Converted(const Lines& files)
@@ -148,10 +176,9 @@ TEST_F(XportPage, ImportTakesEmptyRegistersAndMovesThemIntoTheFolder)
     EXPECT_THAT(sent, Contains(HasSubstr("Mbeach.FMEM_001.SF2,SWR001D001:FMEM_002.SF2")));
     EXPECT_THAT(sent, Contains(HasSubstr("Sbeach.FMEM_002.SF2,SWR001D001:FMEM_004.SF2")));
     EXPECT_THAT(sent, Contains(HasSubstr("Mwith_a_l.FMEM_001.SF2,SWR001D001:FMEM_005.SF2")));
-    Lines moves = sent;
-    std::erase_if(moves, [](const std::string& s) { return s.find("Move Still") == s.npos; });
     const std::string move = "put 16@Frame Mem@Folder@Move Still#0,";
-    EXPECT_THAT(moves, ElementsAre(move + "Mbeach,2", move + "Sbeach,2", move + "Mwith_a_l,2"));
+    EXPECT_THAT(With("Move Still", sent),
+                ElementsAre(move + "Mbeach,2", move + "Sbeach,2", move + "Mwith_a_l,2"));
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
@@ -166,14 +193,13 @@ TEST_F(XportPage, AKeyDoesNotBecomeASecondRegisterOfItsName)
                "Mlogo.FMEM_001.SF2", "Slogo.FMEM_002.SF2", "Msea.FMEM_001.SF2",
                "Ssea.FMEM_002.SF2"});
     Pass(1000);
-    Lines sent = Run(Press(BTN_XPORT_IMPORT));
-    std::erase_if(sent, [](const std::string& s) { return s.find("PutV3") == s.npos; });
-    EXPECT_THAT(sent, UnorderedElementsAre(HasSubstr("/Mbeach.FMEM_001.SF2,SWR001D001:FMEM_002"),
-                                           HasSubstr("/Sbeach.FMEM_001.SF2,SWR001D001:FMEM_003"),
-                                           HasSubstr("/Mlogo.FMEM_001.SF2,SWR001D001:FMEM_004"),
-                                           HasSubstr("/Msea.FMEM_001.SF2,SWR001D001:FMEM_005"),
-                                           HasSubstr("/Ssea.FMEM_002.SF2,SWR001D001:FMEM_006")));
-    EXPECT_EQ(Message(), std::string("Some requests are skipped. \n") + NOT_PERMITTED);
+    EXPECT_THAT(With("PutV3", Run(Press(BTN_XPORT_IMPORT))),
+                UnorderedElementsAre(HasSubstr("/Mbeach.FMEM_001.SF2,SWR001D001:FMEM_002"),
+                                     HasSubstr("/Sbeach.FMEM_001.SF2,SWR001D001:FMEM_003"),
+                                     HasSubstr("/Mlogo.FMEM_001.SF2,SWR001D001:FMEM_004"),
+                                     HasSubstr("/Msea.FMEM_001.SF2,SWR001D001:FMEM_005"),
+                                     HasSubstr("/Ssea.FMEM_002.SF2,SWR001D001:FMEM_006")));
+    EXPECT_EQ(Message(), SOME_NOT_PERMITTED);
 }
 
 TEST_F(XportPage, ExtendedStoreTakesWhatTheMainOneCannot)
@@ -201,22 +227,10 @@ TEST_F(XportPage, WhatIsNotPermittedIsSkippedAndSaid)
     } cases[] = {
         {NEW, 0, {"logo.TIF"}, 0, NOT_PERMITTED},
         {NEW, 0, {"logo.TIF.SUB"}, 1, "no pane"}, // the side that is missing
-        {NEW,
-         0,
-         {"logo.TIF", "beach.TIF"},
-         1,
-         std::string("Some requests are skipped. \n") + NOT_PERMITTED},
-        {NEW,
-         0,
-         {"longname1.TIF", "longname2.TIF"},
-         1,
-         std::string("Some requests are skipped. \n") + NOT_PERMITTED},
+        {NEW, 0, {"logo.TIF", "beach.TIF"}, 1, SOME_NOT_PERMITTED},
+        {NEW, 0, {"longname1.TIF", "longname2.TIF"}, 1, SOME_NOT_PERMITTED},
         {OLD, 219, {"a.TIF", "b.TIF", "c.TIF"}, 3, "no pane"}, // 220 to 224: the last has no key
-        {OLD,
-         219,
-         {"a.TIF", "b.TIF", "c.TIF", "d.TIF"},
-         3,
-         std::string("Some requests are skipped. \n") + NOT_PERMITTED},
+        {OLD, 219, {"a.TIF", "b.TIF", "c.TIF", "d.TIF"}, 3, SOME_NOT_PERMITTED},
         {OLD, 223, {"a.TIF"}, 1, "no pane"},
     };
     for (const auto& c : cases) {
@@ -229,9 +243,7 @@ TEST_F(XportPage, WhatIsNotPermittedIsSkippedAndSaid)
         for (int i = 0; i < int(c.files.size()); i++)
             all_rows.push_back(i);
         Select(2, all_rows);
-        Lines sent = Press(BTN_XPORT_IMPORT);
-        std::erase_if(sent, [](const std::string& s) { return s.find("2SFM") == s.npos; });
-        EXPECT_EQ(int(sent.size()), c.items) << c.files[0];
+        EXPECT_EQ(int(With("2SFM", Press(BTN_XPORT_IMPORT)).size()), c.items) << c.files[0];
         if (c.items > 0)
             Pane_Quit(Pane_GetActiveID()); // its progress lies above
         EXPECT_EQ(Message(), c.says) << c.files[0];
@@ -263,32 +275,15 @@ TEST_F(XportPage, ClipStoreTakesClipsFrameByFrame)
              {"intro#000009.TIF", "intro#000010.TIF", "intro#000009.TIF.SUB", "still.TIF",
               "still.TIF.SUB", "one#000004.TIF", "old/intro#000003.TIF", "intro#000010.TIF"});
     EXPECT_THAT(Files(), ElementsAre("intro", "intro", "one", "still.TIF", "still.TIF.SUB"));
-    Filescp_trnasferlist_init("CS1");
-    SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+    StoreIsThere();
     Select(2, {0, 2, 3, 4});
     Press(BTN_XPORT_IMPORT);
-    const FILEXFERLIST* item = Items(FILEWORK_RMTACCESS_SCPIMPORTLIST);
-    static const struct {
-        const char* src;
-        const char* dst;
-        int frame, frames, info;
-    } cases[] = {
-        {"intro#000009.TIF", "intro.SFH/intro#000000.SFH", 0, 2, 1},
-        {"intro#000010.TIF", "intro.SFH/intro#000001.SFH", 1, 2, 0},
-        {"one#000004.TIF", "one.SFH/one.SFH", 0, 1, 0},
-        {"still.TIF", "still.SFH", 0, 1, 1},
-    };
-    for (const auto& c : cases) {
-        ASSERT_TRUE(item) << c.src;
-        EXPECT_EQ(item->src, STICK + std::string(c.src));
-        EXPECT_EQ(item->dst, std::string("SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/") + c.dst);
-        EXPECT_TRUE(item->import_no[0] == c.frame && item->import_no[1] == c.frames &&
-                    item->info == c.info)
-            << c.src;
-        EXPECT_STREQ(item->target, "CS1");
-        item = item->next;
-    }
-    EXPECT_FALSE(item);
+    EXPECT_THAT(
+        Items(FILEWORK_RMTACCESS_SCPIMPORTLIST),
+        ElementsAre("CS1 stick:SYSTEM/intro#000009.TIF > store:intro.SFH/intro#000000.SFH 0/2 sub",
+                    "CS1 stick:SYSTEM/intro#000010.TIF > store:intro.SFH/intro#000001.SFH 1/2",
+                    "CS1 stick:SYSTEM/one#000004.TIF > store:one.SFH/one.SFH 0/1",
+                    "CS1 stick:SYSTEM/still.TIF > store:still.SFH 0/1 sub"));
 }
 
 struct ClipXportPage : XportPage {
@@ -299,8 +294,7 @@ struct ClipXportPage : XportPage {
         FMCtrl3_Init();
         GL_ClipStoreSupportMode = 1;
         CopyText(DEV_Swr[0].id, "SWR000D001");
-        Filescp_trnasferlist_init("CS1");
-        SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+        StoreIsThere();
         OpenWith(CLIPS, {"still.TIF", "intro#000000.TIF", "intro#000001.TIF"});
         for (const char* folder : {"NEWS", "NEWS/A", "SPORT"})
             Hub("Insert", folder, "1");
@@ -402,22 +396,11 @@ TEST_F(ClipXportPage, ExportTakesEachFrameOfTheSelectedClips)
     Quit(XPORT_PNG + 1);
     Pass(1000);
     Press(BTN_XPORT_EXPORT);
-    const FILEXFERLIST* item = Items(FILEWORK_RMTACCESS_SCPEXPORTLIST);
-    static const struct {
-        const char* src;
-        const char* dst;
-    } cases[] = {
-        {"deep.SFH/deep#000000.SFH", "deep#000000.PNG"},
-        {"deep.SFH/deep#000001.SFH", "deep#000001.PNG"},
-        {"one.SFH", "one.PNG"},
-    };
-    for (const auto& c : cases) {
-        ASSERT_TRUE(item) << c.src;
-        EXPECT_EQ(item->src, std::string("SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/NEWS/A/") + c.src);
-        EXPECT_EQ(item->dst, std::string(STICK) + c.dst);
-        item = item->next;
-    }
-    EXPECT_FALSE(item);
+    EXPECT_THAT(
+        Items(FILEWORK_RMTACCESS_SCPEXPORTLIST),
+        ElementsAre("CS1 store:NEWS/A/deep.SFH/deep#000000.SFH > stick:SYSTEM/deep#000000.PNG 0/2",
+                    "CS1 store:NEWS/A/deep.SFH/deep#000001.SFH > stick:SYSTEM/deep#000001.PNG 1/2",
+                    "CS1 store:NEWS/A/one.SFH > stick:SYSTEM/one.PNG 0/1"));
 }
 
 TEST_F(ClipXportPage, AnImportGoesIntoTheShownFolderAndReplacesNothing)
@@ -428,19 +411,18 @@ TEST_F(ClipXportPage, AnImportGoesIntoTheShownFolderAndReplacesNothing)
     Select(2, {0, 1});
     Pass(1000);
     Press(BTN_XPORT_IMPORT);
-    const FILEXFERLIST* item = Items(FILEWORK_RMTACCESS_SCPIMPORTLIST);
-    ASSERT_TRUE(item && item->next && !item->next->next); // still is there already
-    EXPECT_STREQ(item->dst, "SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/NEWS/intro.SFH/"
-                            "intro#000000.SFH");
+    EXPECT_THAT( // still is there already
+        Items(FILEWORK_RMTACCESS_SCPIMPORTLIST),
+        ElementsAre(
+            "CS1 stick:SYSTEM/intro#000000.TIF > store:NEWS/intro.SFH/intro#000000.SFH 0/2",
+            "CS1 stick:SYSTEM/intro#000001.TIF > store:NEWS/intro.SFH/intro#000001.SFH 1/2"));
     Pane_Quit(Pane_GetActiveID());
-    EXPECT_EQ(Message(), std::string("Some requests are skipped. \n") + NOT_PERMITTED);
+    EXPECT_EQ(Message(), SOME_NOT_PERMITTED);
 }
 
 // In its own form a clip is a folder of frames on the drive, a still one file.
 TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
 {
-    const std::string root = "MYHOST:/mnt/usb/usb1/";
-    const std::string store = "SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/NEWS/";
     (void)ShownClips();
     (void)FL_ChangeDirectory(FL_L_LIST, "/NEWS");
     Clip("NEWS/intro", 2);
@@ -458,30 +440,22 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
     };
     list_drive(sent);
     EXPECT_THAT(Files(), ElementsAre("new", "old", "one"));
-    const auto items = [](FILEWORKTYPE work) {
-        Lines lines;
-        for (const FILEXFERLIST* item = Items(work); item; item = item->next)
-            lines.push_back(item->src + std::string(" ") + item->dst + " " +
-                            std::to_string(item->import_no[1]));
-        return lines;
-    };
     Select(1, {1, 2, 3}); // intro, old, still
     Pass(1000);
+    EXPECT_THAT(With("Access@Mkdir#", Press(BTN_XPORT_EXPORT)),
+                ElementsAre(EndsWith(",MYHOST:/mnt/usb/usb1/intro.SFH")));
     EXPECT_THAT(
-        Press(BTN_XPORT_EXPORT),
-        Contains(AllOf(HasSubstr("Access@Mkdir#"), HasSubstr(root + "intro.SFH"))).Times(1));
-    EXPECT_THAT(
-        items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
-        ElementsAre(store + "intro.SFH/intro#000000.SFH " + root + "intro.SFH/intro#000000.SFH 2",
-                    store + "intro.SFH/intro#000001.SFH " + root + "intro.SFH/intro#000001.SFH 2",
-                    store + "still.SFH " + root + "still.SFH 1"));
+        Items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
+        ElementsAre(
+            "CS1 store:NEWS/intro.SFH/intro#000000.SFH > stick:intro.SFH/intro#000000.SFH 0/2",
+            "CS1 store:NEWS/intro.SFH/intro#000001.SFH > stick:intro.SFH/intro#000001.SFH 1/2",
+            "CS1 store:NEWS/still.SFH > stick:still.SFH 0/1"));
     // The hub goes half way: what looks like a clip does, too.
     (void)TakeQueuedCommands();
     SendMessage(MSG_SHPTALLY, Arg("Disconnect"), Arg("CS1.File"), 0, 0);
     const Lines after = TakeQueuedCommands();
-    EXPECT_THAT(after,
-                Contains(AllOf(HasSubstr("Access@Rmdir#"), testing::EndsWith(root + "intro.SFH")))
-                    .Times(1));
+    EXPECT_THAT(With("Access@Rmdir#", after),
+                ElementsAre(EndsWith(",MYHOST:/mnt/usb/usb1/intro.SFH")));
     while (Message().find("duplicate") == std::string::npos) { // old: frames of both would be one
         ASSERT_NE(Pane_GetActiveID(), 0);
         Pane_Quit(Pane_GetActiveID());
@@ -490,14 +464,15 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
     while (Pane_GetActiveID())
         Pane_Quit(Pane_GetActiveID());
     list_drive(after);
-    SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+    StoreIsThere();
     Select(2, {0, 1, 2});
     Pass(1000);
     Press(BTN_XPORT_IMPORT);
-    EXPECT_THAT(items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
-                ElementsAre(root + "new.SFH/new#000000.SFH " + store + "new.SFH/new#000000.SFH 2",
-                            root + "new.SFH/new#000001.SFH " + store + "new.SFH/new#000001.SFH 2",
-                            root + "one.SFH " + store + "one.SFH 1"));
+    EXPECT_THAT(
+        Items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
+        ElementsAre("CS1 stick:new.SFH/new#000000.SFH > store:NEWS/new.SFH/new#000000.SFH 0/2",
+                    "CS1 stick:new.SFH/new#000001.SFH > store:NEWS/new.SFH/new#000001.SFH 1/2",
+                    "CS1 stick:one.SFH > store:NEWS/one.SFH 0/1"));
     FileXport_Reset();
 }
 
