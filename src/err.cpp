@@ -82,7 +82,7 @@ void Err_Create()
             fprintf(file.fp, "[%s] %s\n", ErrT[row], Err[row]);
     }
     (void)LS_SetNData(ERROR_LIST, ErrMax);
-    (void)SafeFile_Commit(file);
+    (void)SafeFile_CommitUnsynced(file); // a page does not wait for the disk
 }
 
 int Err_Proc(int, MsgArg, MsgArg, MsgArg, MsgArg)

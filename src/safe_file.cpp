@@ -47,13 +47,13 @@ static void sync_directory(const char* path)
     close(fd);
 }
 
-int SafeFile_Commit(SafeFile& file)
+static int commit(SafeFile& file, bool to_disk)
 {
     if (!file.fp)
         return -1; // told when it was opened
     if (fflush(file.fp) != 0 || ferror(file.fp))
         return give_up(file, "write");
-    if (fsync(fileno(file.fp)) != 0)
+    if (to_disk && fsync(fileno(file.fp)) != 0)
         return give_up(file, "sync");
     FILE* fp = file.fp;
     file.fp = nullptr;
@@ -61,8 +61,19 @@ int SafeFile_Commit(SafeFile& file)
         return give_up(file, "close");
     if (rename(file.beside, file.path) != 0)
         return give_up(file, "rename");
-    sync_directory(file.path);
+    if (to_disk)
+        sync_directory(file.path);
     return 0;
+}
+
+int SafeFile_Commit(SafeFile& file)
+{
+    return commit(file, true);
+}
+
+int SafeFile_CommitUnsynced(SafeFile& file)
+{
+    return commit(file, false);
 }
 
 void SafeFile_Abandon(SafeFile& file)

@@ -18,6 +18,9 @@ int SafeFile_Open(SafeFile& file, const char* path);
 // Give it its name. 0, or -1 when a byte of it could not be written: then the old file stays. Takes
 // a file that was not opened and returns -1. Waits for the disk.
 int SafeFile_Commit(SafeFile& file);
+// The same for a file that is of no use after the power has failed: whoever reads it finds it
+// whole, but nobody waits for the disk.
+int SafeFile_CommitUnsynced(SafeFile& file);
 // Leave the old file as it is.
 void SafeFile_Abandon(SafeFile& file);
 

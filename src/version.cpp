@@ -145,7 +145,8 @@ static void version_publish()
     fprintf(file.fp, "QRD-X62: %s\n", GL_MenuDetailInfoFull[ROW_APP]);
     for (int row = 0; row < GL_DetailInfoMax; row++)
         fprintf(file.fp, "%s: %s\n", GL_MenuDetailInfoTitle[row], GL_MenuDetailInfoFull[row]);
-    (void)SafeFile_Commit(file); // the others miss a version, which the log tells
+    // Each start makes it anew. Without it the others miss a version, which the log tells.
+    (void)SafeFile_CommitUnsynced(file);
 }
 
 void Version_Read()

@@ -1,7 +1,16 @@
 #include "harness.h"
 #include "safe_file.h"
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+static int Syncs = 0;
+
+extern "C" int fsync(int fd)
+{
+    Syncs++;
+    return int(syscall(SYS_fsync, fd));
+}
 
 namespace
 {
@@ -42,6 +51,20 @@ TEST_F(SafeFiles, TheOldFileStandsUntilTheNewOneIsWhole)
     EXPECT_EQ(SafeFile_Commit(file), -1) << "it is given up";
     EXPECT_EQ(FileText(FILE_NAME), "half and half");
     EXPECT_NE(access(BESIDE, F_OK), 0);
+}
+
+TEST_F(SafeFiles, OnlyACommitWaitsForTheDisk)
+{
+    for (const auto& [commit, syncs] :
+         {std::pair{&SafeFile_Commit, 2}, {&SafeFile_CommitUnsynced, 0}}) {
+        SafeFile file;
+        ASSERT_EQ(SafeFile_Open(file, FILE_NAME), 0);
+        fprintf(file.fp, "the new one");
+        Syncs = 0;
+        EXPECT_EQ(commit(file), 0);
+        EXPECT_EQ(Syncs, syncs) << "of the file, of its directory";
+        EXPECT_EQ(FileText(FILE_NAME), "the new one");
+    }
 }
 
 TEST_F(SafeFiles, WhatCannotBeWrittenLeavesTheOldFile)
