@@ -4,8 +4,6 @@
 #include "table_page.h"
 #include "text.h"
 
-namespace
-{
 struct DiagPictures : TablePage {
     static void Report(const std::string& unit_class, const std::string& report)
     {
@@ -33,13 +31,7 @@ struct DiagPictures : TablePage {
         Report("DME", "Circuit Board Function#DME1,OK,OK,OK,NG");
         StopTheClock();
     }
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
 };
-} // namespace
 
 TEST_F(DiagPictures, Status)
 {

@@ -1,16 +1,7 @@
 // The shapes of the panel's setup pages.
 #include "panel_desk.h"
 
-namespace
-{
-struct PanelPictures : PanelTest {
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
-};
-} // namespace
+using PanelPictures = PanelTest;
 
 TEST_F(PanelPictures, ButtonsOfAModuleInABank)
 {
@@ -44,8 +35,7 @@ TEST_F(PanelPictures, ATableOfCrosspoints)
     (void)Open(0x73220001);
     TellAll(XPT, {"Assign#1,1,2", "Assign#2,3,3", "Assign#3,0,1", "Inhibit#2,true",
                   "Side Flags Button Assign#3,true"});
-    SelectRow(1);
-    (void)Push(BTN_XPT_KEY);
+    (void)PushIn(1, BTN_XPT_KEY);
     Paint();
     EXPECT_TRUE(MatchesGolden("panel_crosspoints", WITHOUT_LEFT_TABS));
 }
@@ -69,8 +59,7 @@ TEST_F(PanelPictures, NamesAndColoursInHand)
     TellAll(XPT, {"Source@List#1,CAM1", "Source@List#2,CAM2", "Source@List#3,CG 1",
                   "Source@Color#1,0", "Source@Color#2,3", "Source@Color#3,0"});
     SelectRow(2);
-    (void)Push(34);
-    (void)Answer(6);
+    (void)Choose(34, 6);
     Paint();
     EXPECT_TRUE(MatchesGolden("panel_namecolor", WITHOUT_LEFT_TABS));
 }

@@ -1,37 +1,13 @@
 // The pages of engineering setup, told by a server and with edits in hand.
-#include "pc_engsetup_swr.h"
-#include "pc_engsetup_sys.h"
-#include "pc_setup_curve.h"
 #include "setup_desk.h"
 
-namespace
-{
 struct SetupPictures : SetupTest {
     void SetUp() override
     {
         SetupTest::SetUp();
-        EngSetupFormat_Reset();
-        EngSetupNetwork_Reset();
-        EngSetupLock_Reset();
-        EngSetupSwitcher_Reset();
-        SetupCurve_Reset();
         SetupIndex_Build();
     }
-    void TearDown() override
-    {
-        (void)Leave();
-        EngSetupFormat_Reset();
-        EngSetupNetwork_Reset();
-        EngSetupLock_Reset();
-        SetupTest::TearDown();
-    }
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
 };
-} // namespace
 
 TEST_F(SetupPictures, FormatWithDifferences)
 {
@@ -44,8 +20,7 @@ TEST_F(SetupPictures, FormatWithDifferences)
              "Reference@DME2#Tri Sync", "Switcher Aspect#SWR1,16:9,16:9,16:9,16:9,16:9,16:9,16:9",
              "DME Aspect#DME1,16:9,16:9,16:9,16:9"});
     SelectRow(1);
-    (void)Push(BTN_FORMAT_SIGNAL);
-    (void)Answer(7);
+    (void)Choose(BTN_FORMAT_SIGNAL, 7);
     (void)Push(BTN_FORMAT_NARROW);
     Paint();
     EXPECT_TRUE(MatchesGolden("setup_format"));
@@ -59,8 +34,7 @@ TEST_F(SetupPictures, NetworkConfig)
                    "SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11",
                    "DME001D001,DME1,192.168.10.21,192.168.20.21,192.168.30.21"});
     SelectRow(1);
-    (void)Push(34);
-    (void)Type("12");
+    (void)PushType(34, "12");
     Paint();
     EXPECT_TRUE(MatchesGolden("setup_network"));
 }
@@ -92,8 +66,7 @@ TEST_F(SetupPictures, SwitcherBanksAndTheKeysInTheirOutputs)
     TellAll(config, {"M/E Output Assign@List#KILL", "M/E Output Assign@List#M/E-1,1,Main",
                      "M/E Output Assign@List#M/E-1,2,Sub", "PGM Config@List#M/E-1,1,0F",
                      "PGM Config@List#M/E-1,2,F0", "MP2 Re-Entry#true"});
-    SelectRow(1);
-    (void)Push(17);
+    (void)PushIn(1, 17);
     Paint();
     EXPECT_TRUE(MatchesGolden("setup_switcher_pgm"));
 }
@@ -104,8 +77,7 @@ TEST_F(SetupPictures, SwitcherCurve)
     (void)Open(0x73340003);
     TellAll(curve, {"Curve1,10,25,50,75,90", "Curve2,3,16,50,84,97", "Curve3,1,6,25,56,81",
                     "Curve4,19,44,75,94,99"});
-    SelectRow(0);
-    (void)Push(33);
+    (void)PushIn(0, 33);
     (void)Push(36); // Slow Start
     Paint();
     EXPECT_TRUE(MatchesGolden("setup_switcher_curve"));
@@ -116,8 +88,7 @@ TEST_F(SetupPictures, SwitcherLinksWithTheChoiceOfAKey)
     (void)Open(0x73360001);
     TellAll("Engineering Setup@Switcher@Link@Key Link#",
             {"1,M/E-1 Key1,M/E-2 Key3,true", "2,P/P Key8,M/E-1 Key8,false", "3,None,None,false"});
-    SelectRow(0);
-    (void)Push(34);
+    (void)PushIn(0, 34);
     Paint();
     EXPECT_TRUE(MatchesGolden("setup_switcher_link"));
     (void)Answer(3);

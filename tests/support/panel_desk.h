@@ -1,7 +1,6 @@
 // panel_desk: the panel's setup pages on a panel of four rows; its M/E-1 runs two programs and has
 // a flexi pad, as has P/P.
 #pragma once
-#include "pc_engsetup_pnl.h"
 #include "setup_desk.h"
 
 #define PANEL "Engineering Setup@Panel@"
@@ -17,7 +16,6 @@ struct PanelTest : SetupTest {
     void SetUp() override
     {
         SetupTest::SetUp();
-        EngSetupPanelTable_Reset();
         SetupIndex_Build();
         TellAll(PANEL "Config@M/E Assign@",
                 {"1st Row#M/E-1", "2nd Row#M/E-2", "3rd Row#M/E-3", "4th Row#P/P"});
@@ -29,14 +27,12 @@ struct PanelTest : SetupTest {
     }
     void TearDown() override
     {
-        (void)Leave();
         (void)Tell("Engineering Setup@Switcher@Config@M/E Config@M/E-1#Standard");
         TellAll(PANEL "Config@M/E Assign@", {"1st Row#", "2nd Row#", "3rd Row#", "4th Row#"});
         TellAll(PANEL "Config@Compact Key Module Assign@KY Unit Config@",
                 {"0#--,--,--,--,--,--,--,--", "1#--,--,--,--,--,--,--,--",
                  "3#--,--,--,--,--,--,--,--"});
         (void)Tell(PANEL "Config@MP2 Main/Sub Assign@Main/Sub Assign@1st Row#Main");
-        EngSetupPanelTable_Reset();
         SetupTest::TearDown();
     }
     static void TellSources() { TellAll(XPT "Source@List#", {"1,CAM1", "2,CAM2", "3,CG 1"}); }

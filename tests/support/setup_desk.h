@@ -3,6 +3,13 @@
 #pragma once
 #include "a_ls.h"
 #include "pane.h"
+#include "pc_engsetup_pnl.h"
+#include "pc_engsetup_swr.h"
+#include "pc_engsetup_sys.h"
+#include "pc_setup_curve.h"
+#include "pc_setup_fcadjust.h"
+#include "pc_setup_link.h"
+#include "pc_setup_output.h"
 #include "setup_index.h"
 #include "table_page.h"
 #include "window.h"
@@ -12,6 +19,7 @@ struct SetupTest : TablePage {
     void SetUp() override
     {
         TablePage::SetUp();
+        Forget();
         Device_Init();
         const std::string list = "Engineering Setup@System@Network Config@List#";
         TellAll(list, {"KILL", "PNL001D001,PNL1,10.0.0.1,10.0.1.1,10.0.2.1",
@@ -27,9 +35,25 @@ struct SetupTest : TablePage {
     }
     void TearDown() override
     {
+        (void)Leave();
+        Forget();
         Device_Init();
         DeviceStructure();
         TablePage::TearDown();
+    }
+    // What the pages keep beyond a visit.
+    static void Forget()
+    {
+        EngSetupFormat_Reset();
+        EngSetupNetwork_Reset();
+        EngSetupConfig_Reset();
+        EngSetupLock_Reset();
+        EngSetupSwitcher_Reset();
+        EngSetupPanelTable_Reset();
+        SetupCurve_Reset();
+        SetupLink_Reset();
+        SetupFcAdjust_Reset();
+        SetupOutput_Reset();
     }
     // A row of the list: its cells, a changed one with a star.
     static std::string Row(int row, int columns, int list = 1)
@@ -73,6 +97,22 @@ struct SetupTest : TablePage {
         SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
         for (int i = 0; i < 10; i++)
             Pass(100);
+    }
+    // The same of a row that is chosen first; of a key that asks for a choice or a text.
+    static Lines PushIn(int row, int id)
+    {
+        SelectRow(row);
+        return Push(id);
+    }
+    static Lines Choose(int id, int result)
+    {
+        (void)Push(id);
+        return Answer(result);
+    }
+    static Lines PushType(int id, const std::string& text)
+    {
+        (void)Push(id);
+        return Type(text);
     }
     // Put away what a window or a pane says.
     static void Dismiss()

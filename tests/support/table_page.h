@@ -56,6 +56,12 @@ struct TablePage : testing::Test {
             (void)Tell(path + line);
     }
     static void Pass(int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    // All that is to be drawn, be it some time later.
+    static void Paint()
+    {
+        for (int i = 0; i < 4; i++)
+            Pass(1000);
+    }
     // What a touch sends.
     static Lines Touch(int x, int y, int button = 1)
     {

@@ -72,8 +72,7 @@ TEST_F(Devices, TheAssignmentRowsDecideWhatBelongsToThePanel)
 TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
 {
     static const struct {
-        int line;
-        int hd;
+        int line, hd;
     } lines[] = {{1, 0}, {2, 0}, {0, 0}, {3, 1}, {6, 1}, {0, 1}}; // 0: not told, as it was
     for (const auto& c : lines) {
         DEV_Swr[0].activeline = c.line;
@@ -82,14 +81,12 @@ TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
     }
     DEV_Swr[0].aspect[2] = DEV_Swr[1].aspect[3] = 0; // the second switcher's has no part
     DEV_Dme[0].aspect[1] = DEV_Dme[1].aspect[3] = 0; // channels 2 and 8
-    static const struct {
-        int reference;
-        int wide;
-    } channels[] = {{0, 1}, {1, 1}, {2, 0}, {0x82, 0}, {0x80, 0}, {0x90, 1}, {0x40, 1}};
-    for (const auto& c : channels) {
-        SYS_DMEReference = c.reference;
+    static const std::pair<int, int> channels[] = {{0, 1},    {1, 1},    {2, 0},   {0x82, 0},
+                                                   {0x80, 0}, {0x90, 1}, {0x40, 1}};
+    for (const auto& [reference, wide] : channels) {
+        SYS_DMEReference = reference;
         DeviceStructure();
-        EXPECT_EQ(SYS_ScreenAspect, c.wide) << std::hex << c.reference;
+        EXPECT_EQ(SYS_ScreenAspect, wide) << std::hex << reference;
     }
     EXPECT_EQ(SYS_RefSwrScreenAspect[2], 0);
     EXPECT_EQ(SYS_RefSwrScreenAspect[3], 1);
@@ -120,15 +117,13 @@ TEST_F(Devices, RubbishInTheTablesIsPassedOver)
 
 TEST_F(Devices, ReferenceChannelPicksTheUnit)
 {
-    static const struct {
-        int channels;
-        int unit;
-    } cases[] = {{0x00, 1}, {0x08, 1}, {0x80, 2}, {0x90, 2}, {0x18, 1}};
+    static const std::pair<int, int> cases[] = {
+        {0x00, 1}, {0x08, 1}, {0x80, 2}, {0x90, 2}, {0x18, 1}};
     DeviceStructure();
-    for (const auto& c : cases) {
-        SYS_DMEReference = c.channels;
-        EXPECT_EQ(getDmeReferenceUnit(), c.unit) << std::hex << c.channels;
-        EXPECT_EQ(getDmeReferenceModel(), 1 << c.unit) << std::hex << c.channels;
+    for (const auto& [channels, unit] : cases) {
+        SYS_DMEReference = channels;
+        EXPECT_EQ(getDmeReferenceUnit(), unit) << std::hex << channels;
+        EXPECT_EQ(getDmeReferenceModel(), 1 << unit) << std::hex << channels;
     }
 }
 
@@ -168,12 +163,8 @@ TEST_F(Devices, LinksOf1080p)
 
 TEST_F(Devices, AnswersOfTheServerCompleteTheTables)
 {
-    static const struct {
-        const char* path;
-        const char* value;
-        int taken;
-        DEVTYPE type; // of SWR1 afterwards
-    } cases[] = {
+    // type: of SWR1 afterwards
+    static const std::tuple<const char*, const char*, int, DEVTYPE> cases[] = {
         {"Info@Board Config@Unit Model@SWR1", "12", 1, DEVTYPE_NTR40},
         {"Info@Board Config@Unit Model@SWR1", "99999999999", 1, DEVTYPE_NTR40},
         {"Info@Board Config@Unit Model@SWR10", "1", 1, DEVTYPE_NTR40}, // no such unit
@@ -181,9 +172,9 @@ TEST_F(Devices, AnswersOfTheServerCompleteTheTables)
         {"Info@Board Config@Unit Model@SWR1", "1", 1, DEVTYPE_KTR40},
     };
     DeviceStructure();
-    for (const auto& c : cases) {
-        EXPECT_EQ(Device_Tally(c.path, c.value), c.taken) << c.path << "#" << c.value;
-        EXPECT_EQ(SYS_RefSwrType, c.type) << c.path << "#" << c.value;
+    for (const auto& [path, value, taken, type] : cases) {
+        EXPECT_EQ(Device_Tally(path, value), taken) << path << "#" << value;
+        EXPECT_EQ(SYS_RefSwrType, type) << path << "#" << value;
     }
     EXPECT_EQ(Device_Tally("Info@Board Config@Board Exist Set@SWR1@EEPROM", "4,1"), 1);
     EXPECT_TRUE(hasFrameConverter());

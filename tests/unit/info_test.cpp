@@ -24,12 +24,7 @@ struct Info : BusTest {
 
 TEST_F(Info, AValueLandsInItsPlace)
 {
-    static const struct {
-        const char* path;
-        const char* value;
-        const int* state;
-        int expected;
-    } cases[] = {
+    static const std::tuple<const char*, const char*, const int*, int> cases[] = {
         {"Info@Processor Status@2", "NG->OK", &GL_ProcStatus[2], 1},
         {"Engineering Setup@System@System Config@Setup Target", "1", &SYS_SetupTarget, 1},
         {"Engineering Setup@System@System Config@Setup Target", "x", &SYS_SetupTarget, 1},
@@ -66,9 +61,9 @@ TEST_F(Info, AValueLandsInItsPlace)
         {OPERATION "Reg Name Display", "true", &GL_RegNameDisplay, 1},
         {"16@Info@Xpt Button Count", "34", &GL_XptButtonCount, 34},
     };
-    for (const auto& c : cases) {
-        Deliver(c.path, c.value);
-        EXPECT_EQ(*c.state, c.expected) << c.path << "#" << c.value;
+    for (const auto& [path, value, state, expected] : cases) {
+        Deliver(path, value);
+        EXPECT_EQ(*state, expected) << path << "#" << value;
     }
     for (const char* page : {"12110000", "0"}) // the second is none
         Deliver(OPERATION "Initial Menu Set", page);
@@ -116,11 +111,7 @@ TEST_F(Info, ALostServerTakesAllProcessorsWithIt)
 
 TEST_F(Info, ProgressOnlyGrowsUntilItIsCleared)
 {
-    static const struct {
-        const char* path;
-        const char* value;
-        int unit, expected;
-    } cases[] = {
+    static const std::tuple<const char*, const char*, int, int> cases[] = {
         {"INFORMATION@PNL" PROGRESS, "40,100", 0, 16384},
         {"INFORMATION@PNL" PROGRESS, "20,100", 0, 16384}, // late
         {"INFORMATION@PNL" PROGRESS, "200,100", 0, 65536},
@@ -130,9 +121,9 @@ TEST_F(Info, ProgressOnlyGrowsUntilItIsCleared)
         {"INFORMATION@DME" PROGRESS, "DME4,80,100", 6, 32768},
         {"INFORMATION@DME" PROGRESS, "DME4,-1,-1", 6, 0},
     };
-    for (const auto& c : cases) {
-        Deliver(c.path, c.value);
-        EXPECT_EQ(FileProc_Prog[c.unit], c.expected) << c.path << "#" << c.value;
+    for (const auto& [path, value, unit, expected] : cases) {
+        Deliver(path, value);
+        EXPECT_EQ(FileProc_Prog[unit], expected) << path << "#" << value;
     }
 }
 
@@ -154,11 +145,7 @@ TEST_F(Info, TheBarOfASilentUnitFalls)
 
 TEST_F(Info, ANewBankSettingReloadsThePageButForFour)
 {
-    static const struct {
-        uint32_t page;
-        const char* value;
-        uint32_t request;
-    } cases[] = {
+    static const std::tuple<uint32_t, const char*, uint32_t> cases[] = {
         {0x11110000, "Multi Program 2", 0x11110000},
         {0x11110000, "Multi Program 2", 0},
         {0x73310000, "Standard", 0},
@@ -168,11 +155,11 @@ TEST_F(Info, ANewBankSettingReloadsThePageButForFour)
         {0x11110001, "Standard", 0x11110001},
         {0x11110000, "DSK", 0}, // the same pages as before
     };
-    for (const auto& c : cases) {
-        GL_NowPage = c.page;
+    for (const auto& [page, value, request] : cases) {
+        GL_NowPage = page;
         GL_CreatePage = 0;
-        Deliver(ME_CONFIG "M/E-3", c.value);
-        EXPECT_EQ(GL_CreatePage, c.request) << c.value;
+        Deliver(ME_CONFIG "M/E-3", value);
+        EXPECT_EQ(GL_CreatePage, request) << value;
     }
 }
 
@@ -192,11 +179,8 @@ TEST_F(Info, TheOperationLogFollowsThePanelsOptionUnlessTheSetupSaysSo)
 {
     static constexpr char log[] = SYSTEM "Panel Operation Log";
     static constexpr char option[] = "Info@Board Config@Board Exist Set@PNL1";
-    static const struct {
-        const char* path;
-        const char* value;
-        const char* sent; // empty: nothing
-    } steps[] = {
+    // sent: empty: nothing
+    static const std::tuple<const char*, const char*, const char*> steps[] = {
         {option, "2", ""}, // nothing has been said of the log
         {log, "1", "#true"},
         {log, "0", "#false"}, // an option is fitted
@@ -206,14 +190,10 @@ TEST_F(Info, TheOperationLogFollowsThePanelsOptionUnlessTheSetupSaysSo)
         {log, "2", "#false"},
         {option, "0", ""},
     };
-    for (const auto& s : steps) {
+    for (const auto& [path, value, sent] : steps) {
         (void)TakeQueuedCommands();
-        Deliver(s.path, s.value);
-        const Strings sent = TakeQueuedCommands();
-        if (*s.sent)
-            EXPECT_THAT(
-                sent, ElementsAre(std::string("set Option@LogFile@Panel Operation Log") + s.sent));
-        else
-            EXPECT_THAT(sent, IsEmpty()) << s.path << s.value;
+        Deliver(path, value);
+        const std::string put = std::string("set Option@LogFile@Panel Operation Log") + sent;
+        EXPECT_EQ(TakeQueuedCommands(), *sent ? Strings{put} : Strings{}) << path << value;
     }
 }

@@ -2,27 +2,11 @@
 // something, what goes on the wire; the calibration of the touch panel.
 #include "i2c.h"
 #include "panel_desk.h"
-#include "pc_setup_link.h"
 #include "touch.h"
 #include <linux/input.h>
 
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-namespace
-{
 constexpr int YES = 1, NO = 2, EXECUTE = 54;
-
-struct PanelConfig : PanelTest {
-    void TearDown() override
-    {
-        GL_CreatePage = 0;
-        SetupLink_Reset();
-        PanelTest::TearDown();
-    }
-};
-} // namespace
+using PanelConfig = PanelTest;
 
 TEST_F(PanelConfig, WhatIsFollowedAllTheTimeOutlivesThePage)
 {
@@ -67,8 +51,7 @@ TEST_F(PanelConfig, AnExternalLinkTakesItsBusesFromTheirLists)
         EXPECT_EQ(GL_CreatePage, 0x73210005u);
         (void)CreatePage(GL_CreatePage);
         TellAll(std::string(PANEL "Config@External Bus Link@") + list + "#", {"1,ONE", "2,TWO"});
-        SelectRow(key - 35);
-        (void)Push(33);
+        (void)PushIn(key - 35, 33);
         EXPECT_EQ(GL_CreatePage, 0x73210004u);
         (void)CreatePage(GL_CreatePage);
     }
@@ -89,13 +72,12 @@ TEST_F(PanelConfig, RowsOfModulesAreNamedAndGoOutWhole)
     TellAll(PANEL "Config@Compact Key Module Assign@KY Unit Config@",
             {"0#FP,KT,TR,--,--,--,--,--", "3#FP,--,--,--,--,--,--,--"});
     EXPECT_EQ(Row(3, 4), "3|4th Row|FP|--");
-    SelectRow(3);
-    (void)Push(34); // the second slot
+    (void)PushIn(3, 34); // the second slot
     (void)Answer(2);
     EXPECT_EQ(Row(3, 4), "3|4th Row|FP|KT*");
-    (void)Push(EXECUTE);
-    EXPECT_THAT(Answer(YES), Contains("put " PANEL "Config@Compact Key Module Assign@KY Unit "
-                                      "Config@3#FP,KT,--,--,--,--,--,--"));
+    EXPECT_THAT(Choose(EXECUTE, YES),
+                Contains("put " PANEL "Config@Compact Key Module Assign@KY Unit "
+                         "Config@3#FP,KT,--,--,--,--,--,--"));
 }
 
 TEST_F(PanelConfig, ARegionHasOnePlaceInThePriority)
@@ -103,8 +85,7 @@ TEST_F(PanelConfig, ARegionHasOnePlaceInThePriority)
     (void)Open(0x73260011);
     TellAll(PANEL "Operation@Region Priority@", {"1#M/E-1", "2#M/E-2", "3#M/E-3"});
     SelectRow(2);
-    (void)Push(33);
-    (void)Answer(1); // M/E-1, which is the first
+    (void)Choose(33, 1); // M/E-1, which is the first
     EXPECT_THAT(Push(EXECUTE),
                 testing::UnorderedElementsAre("put " PANEL "Operation@Region Priority@1#M/E-3",
                                               "put " PANEL "Operation@Region Priority@3#M/E-1"));
@@ -117,13 +98,10 @@ TEST_F(PanelConfig, APadOfABusIsSetAndAllItsPagesAreDefaultedWhenThatIsMeant)
     TellAll(pad, {"M/E-1@2@1#Key", "M/E-1@2@3#Master Effect"});
     EXPECT_EQ(Row(5, 4), "M/E-1@2|Key||M Effect");
     SelectRow(5);
-    (void)Push(35);
-    (void)Answer(1);
+    (void)Choose(35, 1);
     EXPECT_THAT(Push(EXECUTE), ElementsAre("put " + pad + "M/E-1@2@3#NO ASSIGN"));
-    (void)Push(51);
-    EXPECT_THAT(Answer(NO), IsEmpty());
-    (void)Push(51);
-    EXPECT_THAT(Answer(YES), ElementsAre("put " + pad + "M/E-1@Default@1#true"));
+    EXPECT_THAT(Choose(51, NO), IsEmpty());
+    EXPECT_THAT(Choose(51, YES), ElementsAre("put " + pad + "M/E-1@Default@1#true"));
 }
 
 TEST_F(PanelConfig, TheValuesOfAGpiPort)
@@ -132,16 +110,13 @@ TEST_F(PanelConfig, TheValuesOfAGpiPort)
     (void)Open(0x73250004);
     TellAll(gpi, {"Trigger Type@3#None,0x00,0x01", "Action Type@3@1#0,0,0,0"});
     SelectRow(2);
-    (void)Push(34);
-    (void)Answer(2); // Cut
+    (void)Choose(34, 2); // Cut
     EXPECT_THAT(Push(EXECUTE), ElementsAre("put " + gpi + "Action Type@3@1#1,0,0,1"));
     EXPECT_THAT(Push(37), ElementsAre("put " + gpi + "Test Fire@3#"));
 }
 
 // --- The touch panel ---
 
-namespace
-{
 constexpr uint32_t CALIBRATION = 0x73270001, MAINTENANCE = 0x73270000;
 
 struct Calibration : PanelTest {
@@ -160,7 +135,6 @@ struct Calibration : PanelTest {
     }
     void TearDown() override
     {
-        GL_CreatePage = 0;
         Touch_FD = -1;
         PanelTest::TearDown();
         Touch_SetCalibration({50, 50, 750, 550});
@@ -194,7 +168,6 @@ struct Calibration : PanelTest {
         return {p.ax, p.ay, p.bx, p.by};
     }
 };
-} // namespace
 
 TEST_F(Calibration, TwoCrossesAndACheckAreStored)
 {

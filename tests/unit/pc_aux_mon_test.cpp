@@ -19,7 +19,6 @@ struct AuxPage : TablePage {
     }
     void TearDown() override
     {
-        (void)Leave();
         TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,", "7,", "9,"});
         TablePage::TearDown();
     }
@@ -46,10 +45,10 @@ std::set<std::string> After(std::set<std::string> held, const std::vector<std::s
 TEST_F(AuxPage, TheKeysAreAboutTheChosenBusAndTheListGoesOnShowingTheOthers)
 {
     std::set<std::string> held = After({}, Open(AUX));
-    EXPECT_THAT(Press(KEY_LINK), testing::Contains("put " + BUS + "Aux 1@Key Link#true"));
+    EXPECT_THAT(Press(KEY_LINK), Contains("put " + BUS + "Aux 1@Key Link#true"));
     held = After(held, Choose(2));
     Pass(1000);
-    EXPECT_THAT(Press(KEY_LINK), testing::Contains("put " + BUS + "Aux 3@Key Link#true"));
+    EXPECT_THAT(Press(KEY_LINK), Contains("put " + BUS + "Aux 3@Key Link#true"));
     EXPECT_STREQ(GL_NowTree[2], "Aux 3");
     for (const char* bus : {"Aux 1", "Aux 3", "Aux 48"})
         for (const char* what : {"@Source", "@Mix", "@Key Link"})
@@ -66,7 +65,7 @@ TEST_F(AuxPage, TheKeysAreAboutTheChosenBusAndTheListGoesOnShowingTheOthers)
     EXPECT_EQ(BT_GetStatus(KEY_MIX), BT_ON);
 
     EXPECT_EQ(After(held, Leave()), std::set<std::string>{"TopMenu"});
-    EXPECT_THAT(Open(AUX), testing::Contains("add " + BUS + "Aux 3@Aspect")) << "where it was left";
+    EXPECT_THAT(Open(AUX), Contains("add " + BUS + "Aux 3@Aspect")) << "where it was left";
     EXPECT_EQ(Choose(2).size() + Choose(48).size() + Choose(-1).size(), 0u);
 }
 
@@ -74,7 +73,7 @@ TEST_F(AuxPage, ATouchPutsASignalOnTheChosenBus)
 {
     (void)Open(MON);
     (void)Choose(7);
-    EXPECT_THAT(Choose(1, 2), testing::ElementsAre("put Aux/Mon@Monitor@Mon 8@Source#CG 1"));
+    EXPECT_THAT(Choose(1, 2), ElementsAre("put Aux/Mon@Monitor@Mon 8@Source#CG 1"));
     EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "only the answer changes what is shown";
     (void)Tell("Aux/Mon@Monitor@Mon 8@Source#CG 1");
     EXPECT_STREQ(LS_GetData(2, 1, 2), "O");

@@ -2,15 +2,12 @@
 #include "a_ls.h"
 #include "table_page.h"
 
-namespace
-{
 constexpr uint32_t ME = 0x31110000, KEY = 0x31120000, CHANNEL = 0x31160000, EFFECT = 0x31210000;
 constexpr int ALL = 33, FIRST = 34, SECOND = 35, COPY = 49, SWAP = 50, UNDO = 51;
 
 struct CopyPage : TablePage {
     void TearDown() override
     {
-        (void)Leave();
         SYS_MEOperation[3] = SYS_MEOperation[4] = 0;
         TablePage::TearDown();
     }
@@ -22,7 +19,6 @@ struct CopyPage : TablePage {
         Pass(2000);
     }
 };
-} // namespace
 
 TEST_F(CopyPage, OneCommandCarriesTheWholeChoice)
 {
@@ -63,7 +59,7 @@ TEST_F(CopyPage, OneCommandCarriesTheWholeChoice)
             (void)Press(part);
             Pass(2000);
         }
-        EXPECT_THAT(Puts(Press(c.key)), testing::ElementsAre(path + c.sent)) << std::hex << c.page;
+        EXPECT_THAT(Puts(Press(c.key)), ElementsAre(path + c.sent)) << std::hex << c.page;
     }
 }
 
@@ -106,7 +102,7 @@ TEST_F(CopyPage, BothListsShowWhatTheThingsAreAndUndoWhatTheServerCanUndo)
     (void)Tell("Copy/Swap@Key@Undo Enable#false");
     EXPECT_EQ(Usable({UNDO}), std::vector<int>{});
     (void)Tell("Copy/Swap@Key@Undo Enable#true");
-    EXPECT_THAT(Press(UNDO), testing::ElementsAre("put Copy/Swap@Key@Undo#true"));
+    EXPECT_THAT(Press(UNDO), ElementsAre("put Copy/Swap@Key@Undo#true"));
     EXPECT_EQ(Held(opened, "M/E-5@Key8@Status@Source Name") +
                   Held(Leave(), "M/E-5@Key8@Status@Source Name"),
               0);

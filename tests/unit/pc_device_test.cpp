@@ -2,18 +2,11 @@
 #include "a_ls.h"
 #include "table_page.h"
 
-namespace
-{
 constexpr uint32_t CONTROL = 0x53210000, FILES = 0x53230000, GPI = 0x53310000;
 constexpr int LIST_FILES = 2, KEY_LOAD = 50, KEY_LOAD_CUE = 51, KEY_RECORD = 22, KEY_FIRE = 37;
 const std::string MACHINE = "Device@DDR/VTR@", LIST = "Device@DDR/VTR@File List";
 
 struct DevicePage : TablePage {
-    void TearDown() override
-    {
-        (void)Leave();
-        TablePage::TearDown();
-    }
     static Lines Choose(int list, int row)
     {
         (void)TakeQueuedCommands();
@@ -21,28 +14,26 @@ struct DevicePage : TablePage {
         return Puts(TakeQueuedCommands());
     }
 };
-} // namespace
 
 TEST_F(DevicePage, TheFilesOfTheChosenDeviceAreListedAndLoaded)
 {
     EXPECT_THAT(Open(FILES), testing::IsSupersetOf({"add " + LIST, "put " + LIST + "#Dev1"}));
     TellAll(LIST + "#", {"KILL", "Dev1,1,OPENING,00:00:20:00", "Dev1,2,CLOSER,00:00:09:00"});
-    EXPECT_THAT(Choose(1, 2), testing::ElementsAre("put " + LIST + "#Dev3"));
+    EXPECT_THAT(Choose(1, 2), ElementsAre("put " + LIST + "#Dev3"));
     EXPECT_EQ(LS_GetNData(LIST_FILES), 0) << "they are not this one's";
     (void)Tell(MACHINE + "Dev3@Type#DDR");
     TellAll(LIST + "#", {"Dev1,3,LATE,1", "KILL", "Dev3,1,A,1", "Dev3,3,GAP,1", "Dev3,2,B,1",
                          "Dev3,0,ZERO,1", "Dev3,,NONE,1", "Dev3,3", "", "Dev3,3,,1"});
     ASSERT_EQ(LS_GetNData(LIST_FILES), 2);
     EXPECT_STREQ(LS_GetData(LIST_FILES, 1, 1), "B");
-    EXPECT_THAT(Puts(Press(KEY_LOAD)), testing::IsEmpty()) << "nothing is chosen yet";
+    EXPECT_THAT(Puts(Press(KEY_LOAD)), IsEmpty()) << "nothing is chosen yet";
     Pass(1000);
     (void)Choose(LIST_FILES, 1);
-    EXPECT_THAT(Puts(Press(KEY_LOAD_CUE)),
-                testing::ElementsAre("put " + MACHINE + "Dev3@File#B",
-                                     "put " + MACHINE + "Dev3@Transport#Cue Up"));
+    EXPECT_THAT(Puts(Press(KEY_LOAD_CUE)), ElementsAre("put " + MACHINE + "Dev3@File#B",
+                                                       "put " + MACHINE + "Dev3@Transport#Cue Up"));
     (void)Tell(LIST + "#KILL");
     Pass(1000);
-    EXPECT_THAT(Puts(Press(KEY_LOAD)), testing::IsEmpty()) << "it is gone";
+    EXPECT_THAT(Puts(Press(KEY_LOAD)), IsEmpty()) << "it is gone";
     (void)Tell(MACHINE + "Dev3@Type#VTR");
     EXPECT_EQ(BT_GetVisible(KEY_LOAD), BT_DISABLED) << "a tape has no files";
     EXPECT_EQ(Held(Leave(), LIST), -1);
@@ -50,18 +41,16 @@ TEST_F(DevicePage, TheFilesOfTheChosenDeviceAreListedAndLoaded)
 
 TEST_F(DevicePage, TheServerTellsWhileThePageStands)
 {
-    static const struct {
-        uint32_t page;
-        const char* path;
-    } cases[] = {{CONTROL, "Device@DDR/VTR@Cueup&Play@Tally Back"},
-                 {0x53220000, "Device@DDR/VTR@Timeline@Tally Back"},
-                 {0x53120000, "Device@P-BUS Timeline@Tally Back"},
-                 {0x53320000, "Device@GPI Timeline@Tally Back"}};
-    for (const auto& c : cases) {
-        const std::string put = std::string("put ") + c.path;
-        EXPECT_THAT(Puts(Open(c.page)), testing::Contains(put + "#true"));
-        EXPECT_GE(LS_GetNData(1), 8) << c.path;
-        EXPECT_THAT(Puts(Leave()), testing::Contains(put + "#false"));
+    static const std::pair<uint32_t, const char*> cases[] = {
+        {CONTROL, "Device@DDR/VTR@Cueup&Play@Tally Back"},
+        {0x53220000, "Device@DDR/VTR@Timeline@Tally Back"},
+        {0x53120000, "Device@P-BUS Timeline@Tally Back"},
+        {0x53320000, "Device@GPI Timeline@Tally Back"}};
+    for (const auto& [page, path] : cases) {
+        const std::string put = std::string("put ") + path;
+        EXPECT_THAT(Puts(Open(page)), Contains(put + "#true"));
+        EXPECT_GE(LS_GetNData(1), 8) << path;
+        EXPECT_THAT(Puts(Leave()), Contains(put + "#false"));
     }
 }
 
@@ -78,6 +67,6 @@ TEST_F(DevicePage, ADeviceIsNotRecordedByAccidentAndAnOutputIsFiredByItsNumber)
     (void)Open(GPI);
     (void)Choose(1, 4);
     EXPECT_THAT(Puts(Press(KEY_FIRE)),
-                testing::ElementsAre("put Engineering Setup@Switcher@Device Interface@GPI "
-                                     "Output@Test Fire@5#"));
+                ElementsAre("put Engineering Setup@Switcher@Device Interface@GPI "
+                            "Output@Test Fire@5#"));
 }

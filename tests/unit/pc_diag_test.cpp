@@ -7,8 +7,6 @@
 #include "text.h"
 #include <utility>
 
-namespace
-{
 struct DiagPage : TablePage {
     static constexpr const char* PNL = "INFORMATION@PNL Self Diagnosis Notice@";
     static constexpr const char* SWR = "INFORMATION@SWR Self Diagnosis Notice@";
@@ -52,7 +50,6 @@ struct DiagPage : TablePage {
         ASSERT_EQ(Pane_GetActiveID(), 0);
     }
 };
-} // namespace
 
 TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAll)
 {
@@ -110,14 +107,12 @@ TEST_F(DiagPage, RefreshWaitsForTheUnits)
 
 TEST_F(DiagPage, LookingAnswersThePopup)
 {
-    static const struct {
-        uint32_t page;
-        int popup;
-    } rows[] = {{DiagClassPage(DIAG_SWITCHER), 1}, {PAGE_DIAG_STATUS, 0}, {PAGE_DIAG_HISTORY, 0}};
-    for (const auto& r : rows) {
+    static const std::pair<uint32_t, int> rows[] = {
+        {DiagClassPage(DIAG_SWITCHER), 1}, {PAGE_DIAG_STATUS, 0}, {PAGE_DIAG_HISTORY, 0}};
+    for (const auto& [page, popup] : rows) {
         GL_ErrorPopup_On = 1;
-        Open(r.page);
-        EXPECT_EQ(GL_ErrorPopup_On, r.popup) << std::hex << r.page;
+        Open(page);
+        EXPECT_EQ(GL_ErrorPopup_On, popup) << std::hex << page;
     }
 }
 

@@ -16,8 +16,6 @@
 #include "text.h"
 #include <set>
 
-namespace
-{
 struct Engineering : TablePage {
     static constexpr const char* LOG = "/var/log2/eng_test.log";
 
@@ -45,7 +43,6 @@ struct Engineering : TablePage {
         return cells;
     }
 };
-} // namespace
 
 TEST_F(Engineering, TheSwitchesDecideWhatIsLogged)
 {
@@ -149,19 +146,16 @@ TEST_F(Engineering, TheKeysOfTheWalkHoldItAndStepBothWays)
 
 TEST(Hsl, BecomesRedGreenAndBlue)
 {
-    static const struct {
-        double hue, saturation, luminance;
-        unsigned rgb;
-    } cases[] = {
+    static const std::tuple<double, double, double, unsigned> cases[] = {
         {0, 100, 50, 0xFF0000},         {60, 100, 50, 0xFFFF00},   {120, 100, 50, 0x00FF00},
         {240, 100, 50, 0x0000FF},       {300, 100, 25, 0x800080},  {0, 0, 50, 0x808080},
         {210, 50, 40, 0x336699},        {0, 100, 100, 0xFFFFFF},   {200, 100, 0, 0x000000},
         {360, 100, 50, 0xFF0000},       {-120, 100, 50, 0x0000FF}, {0, 900, 50, 0xFF0000},
         {double(NAN), 0, 50, 0x808080}, {1e300, 0, 200, 0xFFFFFF},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(RgbOfHsl(c.hue, c.saturation, c.luminance), c.rgb)
-            << c.hue << " " << c.saturation << " " << c.luminance;
+    for (const auto& [hue, saturation, luminance, rgb] : cases)
+        EXPECT_EQ(RgbOfHsl(hue, saturation, luminance), rgb)
+            << hue << " " << saturation << " " << luminance;
 }
 
 TEST_F(Engineering, TheCheckerSetsTheGroundOfTheCellsAndBringsItBack)

@@ -1,10 +1,7 @@
 // The panel's setup pages, by shape: what goes over the wire, what the lists and pictures show.
 #include "panel_desk.h"
-#include "pc_engsetup_sys.h"
 #include "tdl.h"
 
-namespace
-{
 struct PanelSetup : PanelTest {
     static void TouchPad(int button)
     {
@@ -16,18 +13,12 @@ struct PanelSetup : PanelTest {
         return text ? text : "";
     }
 };
-} // namespace
 
 TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
 {
     const std::string program = PANEL "Config@Program Button@";
     const std::string utility = PANEL "Prefs/Utility";
-    const struct {
-        uint32_t page;
-        std::string path;
-        int buttons;
-        int rows;
-    } modules[] = {
+    const std::tuple<uint32_t, std::string, int, int> modules[] = {
         {0x73210031, program + "Transition Module", 20, 42},
         {0x73210035, program + "Key Control Module", 8, 16},
         {0x73210036, program + "Key Control Module@Key Control Button Assign", 20, 24},
@@ -40,34 +31,34 @@ TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
         {0x73240001, utility + "@Utility Module Assign", 16, 24},
         {0x73240003, utility + "@Trans Rate Mode Assign", 8, 17},
     };
-    for (const auto& m : modules) {
-        const Lines lines = Open(m.page);
-        const bool is_action = m.page >= 0x73240000;
-        const std::string place = m.page == 0x73210044 ? "2" : "1"; // of the first bank with one
-        const std::string last = std::to_string(m.buttons);
-        const std::string path = is_action
-                                     ? m.path + "@Action Set@1@"
-                                     : m.path + "@Button Assign@" + (m.buttons < 10 ? "0" : "");
-        const std::string tail = is_action ? "" : "@Operation@Common@" + place;
-        EXPECT_EQ(Held(lines, path + last + tail), 1) << path << last << tail;
-        EXPECT_EQ(LS_GetNData(1), m.rows) << m.path;
-        EXPECT_FALSE(Disabled().contains(BTN_ASSIGN_SET)) << m.path;
+    for (const auto& [page, place, buttons, rows] : modules) {
+        const Lines lines = Open(page);
+        const bool is_action = page >= 0x73240000;
+        const std::string bank = page == 0x73210044 ? "2" : "1"; // the first with such a module
+        const std::string digits =
+            (buttons < 10 && !is_action ? "0" : "") + std::to_string(buttons);
+        const std::string path =
+            place + (is_action ? "@Action Set@1@" + digits
+                               : "@Button Assign@" + digits + "@Operation@Common@" + bank);
+        EXPECT_EQ(Held(lines, path), 1) << path;
+        EXPECT_EQ(LS_GetNData(1), rows) << path;
+        EXPECT_FALSE(Disabled().contains(BTN_ASSIGN_SET)) << path;
         for (int row = 0; row < LS_GetNData(1); row++)
             EXPECT_LE(TDL_GetSymbolWidth(LS_GetData(1, row, 0), 3), 128u) << LS_GetData(1, row, 0);
-        EXPECT_EQ(Held(Leave(), path + last + tail), -1) << m.path;
+        EXPECT_EQ(Held(Leave(), path), -1) << path;
     }
 }
 
 TEST_F(PanelSetup, TheKeyToTheKeyControlButtonsStaysUsable)
 {
     (void)Open(0x73210035);
-    EXPECT_THAT(Disabled(), testing::IsEmpty());
+    EXPECT_THAT(Disabled(), IsEmpty());
 }
 
 TEST_F(PanelSetup, AKeyToAPageThatIsNotThereIsDisabled)
 {
     (void)Open(0x73220000);
-    EXPECT_THAT(Disabled(), testing::IsEmpty());
+    EXPECT_THAT(Disabled(), IsEmpty());
     const DEVTYPE panel = SYS_RefPnlType, target = SYS_TargetSwrType;
     SYS_TargetSwrType = DEVTYPE_LTR50;
     (void)Open(0x73220000);
@@ -83,8 +74,7 @@ TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
 {
     (void)Open(0x73210034);
     TouchPad(9);
-    SelectRow(4);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+    EXPECT_THAT(PushIn(4, BTN_ASSIGN_SET),
                 ElementsAre("put " PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot"));
     TouchPad(10);
     EXPECT_THAT(Push(BTN_ASSIGN_SET),
@@ -112,14 +102,13 @@ TEST_F(PanelSetup, ABankWithoutTheModuleTakesNothingAndOneInTwoProgramsHasTwoSid
     EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@1"), -1);
     EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@2"), 1);
     (void)Push(BTN_ASSIGN_SUB);
-    SelectRow(1);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+    EXPECT_THAT(PushIn(1, BTN_ASSIGN_SET),
                 ElementsAre("put " PAD "@Button Assign@01@Operation@Common@10#1,10,Key"));
     lines = Tell(PANEL "Config@MP2 Main/Sub Assign@Main/Sub Assign@1st Row#Main");
     EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@10"), -1);
     EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@2"), 1) << "no sub side now";
     (void)Touch(112 + 140 + 20, 98 + 20); // M/E-2
-    EXPECT_THAT(Push(BTN_ASSIGN_SET), testing::IsEmpty());
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), IsEmpty());
     EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SET), BT_DISABLED);
     (void)Tell(PANEL "Config@Compact Key Module Assign@KY Unit Config@1#FP,--,--,--,--,--,--,--");
     EXPECT_EQ(Push(BTN_ASSIGN_SET).size(), 1u) << "it has been fitted";
@@ -141,18 +130,14 @@ TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
 {
     (void)Open(0x73240002);
     const std::string first = "put " KEY2 "Action Set@1@1#";
-    SelectRow(3);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre(first + "1,3"));
+    EXPECT_THAT(PushIn(3, BTN_ASSIGN_SET), ElementsAre(first + "1,3"));
     (void)Push(BTN_ACTION_MACRO);
-    SelectRow(249);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre(first + "2,250"));
+    EXPECT_THAT(PushIn(249, BTN_ASSIGN_SET), ElementsAre(first + "2,250"));
     (void)Push(BTN_ACTION_SHOTBOX);
-    SelectRow(1);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre(first + "2,1002"));
+    EXPECT_THAT(PushIn(1, BTN_ASSIGN_SET), ElementsAre(first + "2,1002"));
     EXPECT_THAT(Push(BTN_ASSIGN_CLEAR), ElementsAre(first + "0,0"));
     EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT), ElementsAre("put " KEY2 "Action Set@1@Default#1"));
-    (void)Push(BTN_ACTION_NAME);
-    EXPECT_THAT(Type("intro"),
+    EXPECT_THAT(PushType(BTN_ACTION_NAME, "intro"),
                 ElementsAre("put " PANEL "Prefs/Utility@Key2 Bus Button Assign@Name@1@1#intro"));
     for (const auto& [value, mark] : {std::pair{"2,1002", "1"},
                                       {"2,251", ""},
@@ -171,8 +156,7 @@ TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReached)
     GL_XptButtonCount = 40;
     (void)Tell(PANEL "Prefs/Utility@Panel Select#35,2");
     (void)Open(0x73240002);
-    SelectRow(3);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre("put " KEY2 "Action Set@1@35#1,3"));
+    EXPECT_THAT(PushIn(3, BTN_ASSIGN_SET), ElementsAre("put " KEY2 "Action Set@1@35#1,3"));
     (void)Tell(KEY2 "Action Set@1@40#1,3");
     EXPECT_EQ(Cell(3, 1), "40");
     Lines lines = Push(BTN_ACTION_RANGE);
@@ -190,8 +174,7 @@ TEST_F(PanelSetup, ThePanelAsksForAButton)
 {
     (void)Tell(PANEL "Prefs/Utility@Panel Select#7,1");
     (void)Open(0x73240001);
-    SelectRow(2);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET),
+    EXPECT_THAT(PushIn(2, BTN_ASSIGN_SET),
                 ElementsAre("put " PANEL "Prefs/Utility@Utility Module Assign@Action Set@1@7#1,2"));
     GL_UtlAsgnSelectButtonID = 0;
 }
@@ -229,8 +212,7 @@ TEST_F(PanelSetup, ChosenKeysTakeARegionTogetherAndEachOnce)
         (void)Tell(TENKEY "@Select@" + std::to_string(key) + "#true");
     EXPECT_EQ(BT_GetStatus(BTN_TENKEY_ALL), BT_ON);
     EXPECT_EQ(Push(BTN_TENKEY_ALL).size(), 23u) << "and none again";
-    (void)Push(BTN_TENKEY_RECALL);
-    EXPECT_THAT(Answer(1), ElementsAre("put " TENKEY "@Default Recall#true"));
+    EXPECT_THAT(Choose(BTN_TENKEY_RECALL, 1), ElementsAre("put " TENKEY "@Default Recall#true"));
 }
 
 // --- Tables ---
@@ -253,8 +235,7 @@ TEST_F(PanelSetup, ACrosspointIsEditedByHalvesOrAsAPair)
     EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " XPT "Delete@Main@Assign#5,1"));
     (void)Tell(XPT "Button No#1");
     EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " XPT "Delete@Main@Assign#1,1"));
-    (void)Push(BTN_XPT_DEFAULT);
-    EXPECT_THAT(Answer(1), ElementsAre("put " XPT "Default@Main@Assign#true"));
+    EXPECT_THAT(Choose(BTN_XPT_DEFAULT, 1), ElementsAre("put " XPT "Default@Main@Assign#true"));
     (void)Tell("Info@Operation Setup Data@V/K Pair Assign#false");
 }
 
@@ -276,22 +257,19 @@ TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
 {
     const std::string aux = PANEL "Aux Assign@";
     (void)Tell(PANEL "Config@External Bus Link@S-BUS Src Name List#1,VTR1");
-    const struct {
-        uint32_t page;
-        std::string path;
-    } tables[] = {{0x73220010, XPT "Mixer Xpt Assign"},
-                  {0x73230000, aux + "Aux Button"},
-                  {0x73230003, aux + "RTR Mode Set@Source Table@1"},
-                  {0x73230004, aux + "RTR Mode Set@Lvl Btn"}};
-    for (const auto& t : tables) {
-        EXPECT_EQ(Held(Open(t.page), t.path), 1) << t.path;
-        (void)Tell(t.path + "#2,1");
-        EXPECT_EQ(Cell(1, 1), Cell(0, 1, 2)) << t.path;
-        EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " + t.path + "@Insert#1,1"));
-        EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " + t.path + "@Overwrite#2,1"));
-        EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " + t.path + "@Delete#3"));
-        (void)Push(BTN_XPT_DEFAULT);
-        EXPECT_THAT(Answer(1), ElementsAre("put " + t.path + "@Default#true"));
+    const std::pair<uint32_t, std::string> tables[] = {
+        {0x73220010, XPT "Mixer Xpt Assign"},
+        {0x73230000, aux + "Aux Button"},
+        {0x73230003, aux + "RTR Mode Set@Source Table@1"},
+        {0x73230004, aux + "RTR Mode Set@Lvl Btn"}};
+    for (const auto& [page, path] : tables) {
+        EXPECT_EQ(Held(Open(page), path), 1) << path;
+        (void)Tell(path + "#2,1");
+        EXPECT_EQ(Cell(1, 1), Cell(0, 1, 2)) << path;
+        EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " + path + "@Insert#1,1"));
+        EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " + path + "@Overwrite#2,1"));
+        EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " + path + "@Delete#3"));
+        EXPECT_THAT(Choose(BTN_XPT_DEFAULT, 1), ElementsAre("put " + path + "@Default#true"));
     }
     (void)Open(0x73230003);
     EXPECT_THAT(Push(50), ElementsAre("remove " + aux + "RTR Mode Set@Source Table@1",
@@ -302,12 +280,7 @@ TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
 TEST_F(PanelSetup, WhatIsPreparedGoesWithExecute)
 {
     TellSources();
-    const struct {
-        uint32_t page;
-        std::string told;
-        int key;
-        std::string put;
-    } pages[] = {
+    const std::tuple<uint32_t, std::string, int, std::string> pages[] = {
         {0x73220004, XPT "Source@Color#1,4", 35, XPT "Source@Color#1,0"},
         {0x73220005, XPT "User Color@User 1@Brightness#Low", 35,
          XPT "User Color@User 1@Brightness#High"},
@@ -320,14 +293,13 @@ TEST_F(PanelSetup, WhatIsPreparedGoesWithExecute)
         {0x73230002, PANEL "Aux Assign@RTR Mode Set@Source Table Assign@RTR Dest 1#Table 1", 36,
          PANEL "Aux Assign@RTR Mode Set@Source Table Assign@RTR Dest 1#Table 4"},
     };
-    for (const auto& p : pages) {
-        (void)Open(p.page);
-        if (p.page == 0x73220004)
+    for (const auto& [page, told, key, put] : pages) {
+        (void)Open(page);
+        if (page == 0x73220004)
             TellAll(XPT, {"Source@List#1,CAM1", "Source@List#2,CAM2"});
-        (void)Tell(p.told);
-        SelectRow(0);
-        EXPECT_THAT(Push(p.key), testing::IsEmpty()) << p.put;
-        EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + p.put));
+        (void)Tell(told);
+        EXPECT_THAT(PushIn(0, key), IsEmpty()) << put;
+        EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + put));
     }
 }
 
@@ -336,8 +308,7 @@ TEST_F(PanelSetup, ANameIsMadeFitAndExecuted)
     (void)Open(0x73220004);
     TellAll(XPT, {"Source@List#1,CAM1", "Source@List#2,CAM2"});
     SelectRow(1);
-    (void)Push(33);
-    EXPECT_THAT(Type("b"), testing::IsEmpty());
+    EXPECT_THAT(PushType(33, "b"), IsEmpty());
     EXPECT_EQ(Row(1, 2), "2|CAM2b*");
     EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " XPT "Source@List#2,CAM2b"));
 }

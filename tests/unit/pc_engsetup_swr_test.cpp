@@ -1,34 +1,12 @@
 // The Switcher pages of engineering setup: what they ask for, how rows depend on one another, what
 // Execute sends.
 #include "page_table/setup_switcher.h"
-#include "pc_engsetup_swr.h"
-#include "pc_setup_curve.h"
-#include "pc_setup_link.h"
 #include "setup_desk.h"
 
-namespace
-{
 constexpr int YES = 1, CLEAR = 53, EXECUTE = 54;
 const std::string SWITCHER = "Engineering Setup@Switcher@";
 
 struct SwitcherSetup : SetupTest {
-    void SetUp() override
-    {
-        SetupTest::SetUp();
-        Forget();
-    }
-    void TearDown() override
-    {
-        (void)Leave();
-        Forget();
-        SetupTest::TearDown();
-    }
-    static void Forget()
-    {
-        EngSetupSwitcher_Reset();
-        SetupCurve_Reset();
-        SetupLink_Reset();
-    }
     // Open a page and tell it lines below one path.
     static void Start(uint32_t page, const std::string& path, const Lines& lines)
     {
@@ -46,15 +24,14 @@ struct SwitcherSetup : SetupTest {
         (void)Tell("Panel@Common@Knob" + std::to_string(knob) + "#" + std::to_string(counts));
     }
 };
-} // namespace
 
 TEST_F(SwitcherSetup, WhatIsFollowedAllTheTimeOutlivesThePage)
 {
     for (const auto& [page, path] : {std::pair{0x73310000u, "Config@M/E Config@P/P"},
                                      {0x73310002u, "Config@PGM Config@List"},
                                      {0x73350000u, "Key/Wipe@FM Auto Store"}}) {
-        EXPECT_THAT(Open(page), testing::Contains("read " + SWITCHER + path));
-        EXPECT_THAT(Leave(), testing::Not(testing::Contains("remove " + SWITCHER + path)));
+        EXPECT_THAT(Open(page), Contains("read " + SWITCHER + path));
+        EXPECT_THAT(Leave(), Not(Contains("remove " + SWITCHER + path)));
     }
 }
 
@@ -86,8 +63,7 @@ TEST_F(SwitcherSetup, AFunctionMovesFromOneUserRegionToAnother)
     EXPECT_EQ(Row(2, 2), "FM3|User2");
     EXPECT_EQ(Row(14, 2), "FM15|User3");
     SelectRow(1);
-    (void)Push(33);
-    (void)Answer(2); // User2
+    (void)Choose(33, 2); // User2
     EXPECT_EQ(Row(1, 2), "FM2|User2*");
     const std::string user = SWITCHER + "Config@User1-8 Config@User";
     EXPECT_THAT(Execute(), ElementsAre("put " + user + "1#Aux1", "put " + user + "2#FM2,FM3"));
@@ -101,8 +77,7 @@ TEST_F(SwitcherSetup, ALogicalBankIsSwappedWithTheOneThatHadIt)
 {
     Start(0x73310003, "Config@Logical M/E#", {"M/E-1,M/E-2,M/E-3,M/E-4,M/E-5,P/P,"});
     SelectRow(1);
-    (void)Push(33);
-    (void)Answer(6); // P/P
+    (void)Choose(33, 6); // P/P
     EXPECT_EQ(Row(1, 2), "M/E-2|P/P*");
     EXPECT_EQ(Row(5, 2), "P/P|M/E-2*");
     EXPECT_THAT(Execute(), ElementsAre("put " + SWITCHER +
@@ -150,8 +125,7 @@ TEST_F(SwitcherSetup, OnlyLinksThatMakeSenseAreApplied)
         SelectRow(1);
         for (const auto& [key, choice] : {std::pair{33, c.master}, std::pair{34, c.linked}})
             if (choice) {
-                (void)Push(key);
-                (void)Answer(choice);
+                (void)Choose(key, choice);
             }
         (void)Push(EXECUTE);
         const Lines sent = Puts(Answer(YES)); // or the message that says why not
@@ -167,12 +141,10 @@ TEST_F(SwitcherSetup, ABusAndATableAreChosenOnTheirPagesForTheLinkInHand)
     SetupPage_Forget(SetupSheet_Table<engsetup_switcher_link_ibuslink>);
     Start(0x73360003, "Link@Internal Bus Link@Link#",
           {"1,None,None,1,false", "2,None,None,1,false"});
-    SelectRow(1);
-    (void)Push(36); // Linked
+    (void)PushIn(1, 36); // Linked
     EXPECT_EQ(GL_CreatePage, 0x73360005u);
     Start(GL_CreatePage, "Link@Internal Bus Link@Master Bus List#", {"1,M/E-1 A", "2,M/E-1 B"});
-    SelectRow(1);
-    (void)Push(33);
+    (void)PushIn(1, 33);
     EXPECT_EQ(GL_CreatePage, 0x73360003u);
     (void)Open(GL_CreatePage);
     EXPECT_EQ(Row(1, 5), "2|None|M/E-1 B*|1|Off");
@@ -180,8 +152,7 @@ TEST_F(SwitcherSetup, ABusAndATableAreChosenOnTheirPagesForTheLinkInHand)
     Start(GL_CreatePage, "Link@Internal Bus Link@Table#",
           {"1,1,1,1,1,1,1,1,1", "2,2,2,2,2,2,2,2,2"});
     (void)LS_SetSplitSel(1, 3);
-    SelectRow(1);
-    (void)Push(33);
+    (void)PushIn(1, 33);
     Turn(0, 4 * 9);
     EXPECT_EQ(Row(1, 9), "2|2|2|11*|2|2|2|2|2");
     EXPECT_THAT(Execute(),

@@ -1,10 +1,7 @@
 // The System pages of engineering setup: what they ask, show and send.
 #include "file.h"
-#include "pc_engsetup_sys.h"
 #include "setup_desk.h"
 
-namespace
-{
 constexpr uint32_t FORMAT_PAGE = 0x73130000;
 constexpr int YES = 1, NO = 2;
 const std::string FORMAT = "Engineering Setup@System@Format@";
@@ -13,55 +10,32 @@ struct FormatPage : SetupTest {
     void SetUp() override
     {
         SetupTest::SetUp();
-        EngSetupFormat_Reset();
         (void)Open(FORMAT_PAGE);
-        for (const char* line :
-             {"Video Format@PNL1#29.97/59.94,1080i", "Video Format2@SWR1#3,6,0",
-              "Video Format2@SWR2#3,6,0", "Reference@PNL1#BB", "Reference@SWR1#BB",
-              "Reference@SWR2#BB", "Reference@DME1#BB", "Reference@DME2#BB", "Reference@DME3#BB",
-              "Switcher Aspect#SWR1,16:9,16:9,16:9,16:9,16:9,16:9,16:9",
-              "Switcher Aspect#SWR2,16:9,16:9,16:9,16:9,16:9,16:9,16:9",
-              "DME Aspect#DME1,16:9,16:9,16:9,16:9", "Video Format@DME1#29.97/59.94,1080i"})
-            (void)Tell(FORMAT + line);
-    }
-    void TearDown() override
-    {
-        (void)Leave();
-        EngSetupFormat_Reset();
-        SetupTest::TearDown();
-    }
-    static void ChooseSignal(int popup)
-    {
-        (void)Push(BTN_FORMAT_SIGNAL);
-        (void)Answer(popup);
+        TellAll(FORMAT,
+                {"Video Format@PNL1#29.97/59.94,1080i", "Video Format2@SWR1#3,6,0",
+                 "Video Format2@SWR2#3,6,0", "Reference@PNL1#BB", "Reference@SWR1#BB",
+                 "Reference@SWR2#BB", "Reference@DME1#BB", "Reference@DME2#BB", "Reference@DME3#BB",
+                 "Switcher Aspect#SWR1,16:9,16:9,16:9,16:9,16:9,16:9,16:9",
+                 "Switcher Aspect#SWR2,16:9,16:9,16:9,16:9,16:9,16:9,16:9",
+                 "DME Aspect#DME1,16:9,16:9,16:9,16:9", "Video Format@DME1#29.97/59.94,1080i"});
     }
 };
-} // namespace
-
-TEST_F(FormatPage, ListsPanelsSwitchersAndEffectsUnits)
-{
-    ASSERT_EQ(LS_GetNData(1), 6);
-    EXPECT_EQ(Row(0, 4), "PNL1|1080i/59.94||BB");
-    EXPECT_EQ(Row(1, 4), "SWR1|1080i/59.94|16:9|BB");
-    EXPECT_EQ(Row(3, 4), "DME1|1080i/59.94|16:9|BB");
-    EXPECT_THAT(Usable({BTN_SETUP_CLEAR, BTN_SETUP_EXECUTE, BTN_FORMAT_WIDE}), testing::IsEmpty());
-}
 
 TEST_F(FormatPage, TheSignalFormatIsOneForAllAndSetsTheReferenceItNeeds)
 {
+    ASSERT_EQ(LS_GetNData(1), 6);
+    EXPECT_THAT(Usable({BTN_SETUP_CLEAR, BTN_SETUP_EXECUTE, BTN_FORMAT_WIDE}), IsEmpty());
     SelectRow(1);
-    ChooseSignal(7); // 1080PsF/23.98, which no BB can lock
+    (void)Choose(BTN_FORMAT_SIGNAL, 7); // 1080PsF/23.98, which no BB can lock
     EXPECT_EQ(Row(0, 4), "PNL1|1080PsF/23.98*||Tri Sync*");
     EXPECT_EQ(Row(2, 4), "SWR2|1080PsF/23.98*|16:9|Tri Sync*");
     EXPECT_EQ(Row(3, 4), "DME1|1080i/59.94|16:9|Tri Sync*");
     EXPECT_EQ(Usable({BTN_FORMAT_TRI, BTN_FORMAT_BB}), std::vector<int>{BTN_FORMAT_TRI});
-    EXPECT_THAT(Push(BTN_SETUP_CLEAR), testing::IsEmpty());
+    EXPECT_THAT(Push(BTN_SETUP_CLEAR), IsEmpty());
     EXPECT_EQ(Row(2, 4), "SWR2|1080i/59.94|16:9|BB");
-    ChooseSignal(7);
-    (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Answer(NO), testing::IsEmpty());
-    (void)Push(BTN_SETUP_EXECUTE);
-    const Lines sent = Answer(YES);
+    (void)Choose(BTN_FORMAT_SIGNAL, 7);
+    EXPECT_THAT(Choose(BTN_SETUP_EXECUTE, NO), IsEmpty());
+    const Lines sent = Choose(BTN_SETUP_EXECUTE, YES);
     ASSERT_EQ(sent.size(), 15u);
     EXPECT_EQ(sent[0], "put " + FORMAT + "Reference@PNL1#Tri Sync");
     EXPECT_EQ(sent[1], "read " + FORMAT + "Reference@PNL1");
@@ -71,8 +45,7 @@ TEST_F(FormatPage, TheSignalFormatIsOneForAllAndSetsTheReferenceItNeeds)
 
 TEST_F(FormatPage, ReferencesThatShareAnInputChangeTogether)
 {
-    SelectRow(3);
-    (void)Push(BTN_FORMAT_TRI);
+    (void)PushIn(3, BTN_FORMAT_TRI);
     EXPECT_EQ(Row(0, 4), "PNL1|1080i/59.94||BB");
     EXPECT_EQ(Row(1, 4), "SWR1|1080i/59.94|16:9|Tri Sync*");
     EXPECT_EQ(Row(2, 4), "SWR2|1080i/59.94|16:9|BB");
@@ -85,29 +58,25 @@ TEST_F(FormatPage, ReferencesThatShareAnInputChangeTogether)
 
 TEST_F(FormatPage, TheAspectCanGoAlone)
 {
+    (void)PushIn(1, BTN_FORMAT_NARROW);
+    (void)PushIn(3, BTN_FORMAT_NARROW);
     SelectRow(1);
-    (void)Push(BTN_FORMAT_NARROW);
-    SelectRow(3);
-    (void)Push(BTN_FORMAT_NARROW);
-    SelectRow(1);
-    ChooseSignal(5);
+    (void)Choose(BTN_FORMAT_SIGNAL, 5);
     EXPECT_EQ(Row(1, 4), "SWR1|1080i/50*|4:3*|BB");
-    (void)Push(BTN_FORMAT_ASPECT_EXECUTE);
-    EXPECT_THAT(Answer(YES),
+    EXPECT_THAT(Choose(BTN_FORMAT_ASPECT_EXECUTE, YES),
                 ElementsAre("put " + FORMAT + "Switcher Aspect#SWR1,4:3,4:3,4:3,4:3,4:3,4:3,4:3",
                             "put " + FORMAT + "DME Aspect#DME1,4:3,4:3,4:3,4:3"));
     (void)Push(BTN_FORMAT_ASPECT_CLEAR);
     EXPECT_EQ(Row(1, 4), "SWR1|1080i/50*|16:9|BB");
-    EXPECT_THAT(Usable({BTN_FORMAT_ASPECT_CLEAR, BTN_FORMAT_ASPECT_EXECUTE}), testing::IsEmpty());
+    EXPECT_THAT(Usable({BTN_FORMAT_ASPECT_CLEAR, BTN_FORMAT_ASPECT_EXECUTE}), IsEmpty());
 }
 
 TEST_F(FormatPage, AWordThatTwoFormatsShareMeansTheOneInHandOrTheSwitchers)
 {
     SelectRow(0);
-    ChooseSignal(14); // 1080P/29.97
-    (void)Tell(FORMAT + "Video Format2@SWR1#3,3,2");
-    (void)Tell(FORMAT + "Video Format@PNL1#---,1080p");
-    (void)Tell(FORMAT + "Video Format@DME1#---,1080p");
+    (void)Choose(BTN_FORMAT_SIGNAL, 14); // 1080P/29.97
+    TellAll(FORMAT, {"Video Format2@SWR1#3,3,2", "Video Format@PNL1#---,1080p",
+                     "Video Format@DME1#---,1080p"});
     EXPECT_EQ(Row(0, 4), "PNL1|1080P/29.97||BB");
     EXPECT_EQ(Row(3, 4), "DME1|1080P/29.97|16:9|BB");
     (void)Tell(FORMAT + "Video Format2@SWR1#9,9,9");
@@ -123,7 +92,7 @@ TEST_F(FormatPage, ALockedPageRefusesAllButTheWayOut)
     SelectRow(1);
     Pass(10);
     const uint32_t calm = PixelAt(20, 590);
-    EXPECT_THAT(Press(BTN_FORMAT_TRI), testing::IsEmpty());
+    EXPECT_THAT(Press(BTN_FORMAT_TRI), IsEmpty());
     Pass(10);
     EXPECT_NE(PixelAt(20, 590), calm) << "the lock says why";
     Pass(200);
@@ -145,29 +114,23 @@ TEST_F(FormatPage, AuxiliaryOutputsTakeTheirFormatsInOnePut)
     (void)Tell("Engineering Setup@Switcher@Output@Signal Format#0,1,0,0,");
     (void)Tell("Engineering Setup@Switcher@Output@Assign#2,AUX2,0");
     EXPECT_EQ(Row(1, 4), "2  (1080i)|AUX2||1080i");
-    SelectRow(0);
-    (void)Push(35);
+    (void)PushIn(0, 35);
     EXPECT_EQ(Row(0, 4), "1  (59.94Hz(2x))|||59.94Hz(2x)*");
-    (void)Push(BTN_SETUP_EXECUTE);
-    const Lines sent = Answer(YES);
-    ASSERT_EQ(sent.size(), 1u);
     std::string formats = "2,1,0,0,";
     for (int n = 5; n <= 48; n++)
         formats += "0,"; // those that were not told, too
-    EXPECT_EQ(sent[0], "put Engineering Setup@Switcher@Output@Signal Format#" + formats);
+    EXPECT_THAT(Choose(BTN_SETUP_EXECUTE, YES),
+                ElementsAre("put Engineering Setup@Switcher@Output@Signal Format#" + formats));
 }
 
 // --- The locks ---
 
-namespace
-{
 constexpr uint32_t LOCK_PAGE = 0x73170001, LOAD_LOCK_PAGE = 0x73170002;
 
 struct LockPage : SetupTest {
     void SetUp() override
     {
         SetupTest::SetUp();
-        EngSetupLock_Reset();
         remove(SETUP_LOCK_FILE);
         SetupIndex_Build();
         SetupIndex_LoadLock();
@@ -175,9 +138,7 @@ struct LockPage : SetupTest {
     }
     void TearDown() override
     {
-        (void)Leave();
         remove(SETUP_LOCK_FILE);
-        EngSetupLock_Reset();
         SetupTest::TearDown();
     }
     static int RowOf(const char* menu)
@@ -197,8 +158,7 @@ struct LockPage : SetupTest {
     // Press Lock, enter a password, put away what is said about it.
     static int Lock(const char* password)
     {
-        (void)Push(BTN_LOCK);
-        Type(password);
+        (void)PushType(BTN_LOCK, password);
         Dismiss();
         return SetupLock.lock;
     }
@@ -212,38 +172,29 @@ struct LockPage : SetupTest {
         Dismiss();
     }
 };
-} // namespace
 
 TEST_F(LockPage, ItemsAreOfOneGroupAndGoIntoTheFile)
 {
-    EXPECT_GE(RowOf("7311"), 0);
     EXPECT_EQ(RowOf("7317.1"), -1) << "the lock's own page";
-    SelectRow(RowOf("7313"));
-    (void)Push(BTN_LOCK_ITEM);
+    (void)PushIn(RowOf("7313"), BTN_LOCK_ITEM);
     EXPECT_EQ(Row(RowOf("7313"), 4), "7313|System|Format|Lock");
     EXPECT_EQ(InFile().num, 1);
-    EXPECT_EQ(InFile().page[0], 0x73130000u);
+    EXPECT_EQ(InFile().page[0], FORMAT_PAGE);
     (void)Push(34);
     EXPECT_EQ(RowOf("7313"), -1);
     EXPECT_EQ(BT_GetStatus(34), BT_ON);
     (void)Push(33);
-    SelectRow(RowOf("7313"));
-    (void)Push(BTN_LOCK_ITEM);
+    (void)PushIn(RowOf("7313"), BTN_LOCK_ITEM);
     EXPECT_EQ(InFile().num, 0);
     (void)Push(BTN_LOCK_ITEM);
-    (void)Push(BTN_LOCK_ITEM_CLEAR);
-    (void)Answer(YES);
+    (void)Choose(BTN_LOCK_ITEM_CLEAR, YES);
     EXPECT_EQ(InFile().num, 0);
     EXPECT_EQ(Row(RowOf("7313"), 4), "7313|System|Format|");
 }
 
 TEST_F(LockPage, PasswordsOpenItOrDoNot)
 {
-    static const struct {
-        const char* stored;
-        const char* entered;
-        bool is_right;
-    } cases[] = {
+    static const std::tuple<const char*, const char*, bool> cases[] = {
         {"", "", true},
         {"", "x", false},
         {"secret", "secret", true},
@@ -255,15 +206,15 @@ TEST_F(LockPage, PasswordsOpenItOrDoNot)
         {"1234567890123456", "12345678901234567", true}, // cut at 16
         {"1234567890123456", "123456789012345", false},
     };
-    for (const auto& c : cases) {
+    for (const auto& [stored, entered, is_right] : cases) {
         SetupLock.lock = 0;
-        snprintf(SetupLock.password, sizeof SetupLock.password, "%s", c.stored);
-        EXPECT_EQ(Lock(c.entered), c.is_right) << c.stored << " " << c.entered;
+        snprintf(SetupLock.password, sizeof SetupLock.password, "%s", stored);
+        EXPECT_EQ(Lock(entered), is_right) << stored << " " << entered;
     }
     SetupLock.lock = 0;
     EXPECT_EQ(Lock("QPD7300WREN"), 1);
     EXPECT_EQ(BT_GetStatus(BTN_LOCK), BT_ON);
-    EXPECT_THAT(Usable({BTN_LOCK_ITEM, BTN_LOCK_ITEM_CLEAR}), testing::IsEmpty());
+    EXPECT_THAT(Usable({BTN_LOCK_ITEM, BTN_LOCK_ITEM_CLEAR}), IsEmpty());
     EXPECT_EQ(InFile().lock, 1);
     const int row = RowOf("7313");
     SelectRow(row);
@@ -291,79 +242,49 @@ TEST_F(LockPage, CategoriesOfFilesAreLockedByPassword)
     (void)Tell(LOCK + "20000000");
     ASSERT_EQ(LS_GetNData(1), 17);
     EXPECT_EQ(Row(1, 2), "Key Memory|Lock");
-    for (const int row : {0, 13, 14, 15, 16}) {
-        SelectRow(row);
-        (void)Push(33);
-    }
+    for (const int row : {0, 13, 14, 15, 16})
+        (void)PushIn(row, 33);
     EXPECT_EQ(Row(13, 2), "Setup SWR|Lock*");
-    (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Type("wrong"), testing::IsEmpty());
+    EXPECT_THAT(PushType(BTN_SETUP_EXECUTE, "wrong"), IsEmpty());
     Dismiss();
-    (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "E003C000"));
+    EXPECT_THAT(PushType(BTN_SETUP_EXECUTE, "QPD7300WREN"),
+                ElementsAre("put " + LOCK + "E003C000"));
     (void)Tell(LOCK + "E003C000");
     EXPECT_EQ(Row(16, 2), "Setup SYS|Lock");
-    SelectRow(16);
-    (void)Push(33);
-    (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Type("QPD7300WREN"), ElementsAre("put " + LOCK + "60038000"));
+    (void)PushIn(16, 33);
+    EXPECT_THAT(PushType(BTN_SETUP_EXECUTE, "QPD7300WREN"),
+                ElementsAre("put " + LOCK + "60038000"));
     (void)Push(BTN_SETUP_CLEAR);
     EXPECT_EQ(Row(16, 2), "Setup SYS|Lock");
 }
 
 // --- Network, System Config, Start Up, Initialize ---
 
-namespace
-{
-struct SystemPage : SetupTest {
-    void SetUp() override
-    {
-        SetupTest::SetUp();
-        EngSetupNetwork_Reset();
-        EngSetupConfig_Reset();
-    }
-    void TearDown() override
-    {
-        (void)Leave();
-        EngSetupNetwork_Reset();
-        EngSetupConfig_Reset();
-        SetupTest::TearDown();
-    }
-};
-const std::string NETWORK = "Engineering Setup@System@Network Config@";
-const std::string CONFIG = "Engineering Setup@System@System Config@";
-} // namespace
+using SystemPage = SetupTest;
+static const std::string NETWORK = "Engineering Setup@System@Network Config@";
+static const std::string CONFIG = "Engineering Setup@System@System Config@";
 
 TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
 {
     (void)Open(0x73110000);
-    (void)Tell(NETWORK + "List#KILL");
-    (void)Tell(NETWORK + "List#PNL001D001,PNL1,192.168.10.1,192.168.20.1,none");
-    (void)Tell(NETWORK + "List#SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11");
+    const Lines list = {"KILL", "PNL001D001,PNL1,192.168.10.1,192.168.20.1,none",
+                        "SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11"};
+    TellAll(NETWORK + "List#", list);
     SelectRow(1);
-    (void)Push(33);
-    Type(""); // the one it has
+    (void)PushType(33, ""); // the one it has
     EXPECT_EQ(Row(1, 3), "SWR001D001|SWR1|192.168.10.11");
-    (void)Push(33);
-    Type("3");
-    (void)Push(34);
-    Type("76");
+    (void)PushType(33, "3");
+    (void)PushType(34, "76");
     EXPECT_EQ(Row(1, 5), "SWR001D001|SWR1|192.168.13.76*|192.168.23.76*|192.168.33.76*");
-    for (const char* line : {"KILL", "PNL001D001,PNL1,192.168.10.1,192.168.20.1,none",
-                             "SWR001D001,SWR1,192.168.10.11,192.168.20.11,192.168.30.11"})
-        (void)Tell(NETWORK + "List#" + line);
-    (void)Push(34); // still of the second row
-    Type("77");
+    TellAll(NETWORK + "List#", list);
+    (void)PushType(34, "77"); // still of the second row
     EXPECT_EQ(Row(1, 5), "SWR001D001|SWR1|192.168.13.77*|192.168.23.77*|192.168.33.77*");
     SelectRow(0);
-    (void)Push(34);
-    Type("255");
+    (void)PushType(34, "255");
     Dismiss();
     EXPECT_EQ(Row(0, 5), "PNL001D001|PNL1|192.168.10.1|192.168.20.1|none");
-    (void)Push(50);
-    EXPECT_THAT(Answer(NO), testing::IsEmpty());
-    (void)Push(50);
-    EXPECT_THAT(Answer(YES),
+    EXPECT_THAT(Choose(50, NO), IsEmpty());
+    EXPECT_THAT(Choose(50, YES),
                 ElementsAre("put " + NETWORK + "List#SWR001D001,SWR1,192.168.13.77,192.168.23.77," +
                                 "192.168.33.77",
                             "put " + NETWORK + "Define#true", "add " + NETWORK + "Define"))
@@ -375,8 +296,7 @@ TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
     EXPECT_FALSE(Pane_Exist(busy));
     EXPECT_EQ(Pane_GetActiveID(), 0);
     Pass(1000);
-    (void)Push(50);
-    (void)Answer(YES);
+    (void)Choose(50, YES);
     (void)Tell(NETWORK + "Define#NG");
     EXPECT_NE(Pane_GetActiveID(), 0) << "it failed";
     (void)Answer(0);
@@ -386,10 +306,9 @@ TEST_F(SystemPage, AutoConfigThatFailsOrIsNotAnsweredSaysSo)
 {
     (void)Open(0x73110000);
     for (const bool is_answered : {true, false}) {
-        (void)Push(49);
-        EXPECT_THAT(Answer(YES), ElementsAre("put " + NETWORK + "Network Auto Config#true",
-                                             "add " + NETWORK + "Network Auto Config",
-                                             "put Info@Self Diagnosis Notice@PNL#true"));
+        EXPECT_THAT(Choose(49, YES), ElementsAre("put " + NETWORK + "Network Auto Config#true",
+                                                 "add " + NETWORK + "Network Auto Config",
+                                                 "put Info@Self Diagnosis Notice@PNL#true"));
         const int busy = Pane_GetActiveID();
         if (is_answered)
             (void)Tell(NETWORK + "Network Auto Config#NG");
@@ -405,11 +324,8 @@ TEST_F(SystemPage, AutoConfigThatFailsOrIsNotAnsweredSaysSo)
 TEST_F(SystemPage, TextsForTheNetworkDriveAreExamined)
 {
     (void)Open(0x73110098);
-    static const struct {
-        int key;
-        const char* text;
-        const char* sent; // behind "put Info@System Setup Data@NFS ", empty: refused
-    } cases[] = {
+    // Sent behind "put Info@System Setup Data@NFS "; empty: refused.
+    static const std::tuple<int, const char*, const char*> cases[] = {
         {33, "10.0.0.9", "Server#10.0.0.9"},
         {33, "a;b", ""},
         {33, "a b", ""},
@@ -419,16 +335,13 @@ TEST_F(SystemPage, TextsForTheNetworkDriveAreExamined)
         {35, "soft,ro", "Mount Option#soft,ro"},
         {35, "soft;x", ""},
     };
-    for (const auto& c : cases) {
-        (void)Push(c.key);
+    for (const auto& [key, text, sent] : cases) {
+        (void)Push(key);
         for (int i = 0; i < 40; i++)
             SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
-        const Lines sent = Type(c.text);
+        const std::string put = std::string("put Info@System Setup Data@NFS ") + sent;
+        EXPECT_EQ(Type(text), *sent ? Lines{put} : Lines{}) << text;
         Dismiss();
-        if (*c.sent)
-            EXPECT_THAT(sent, ElementsAre(std::string("put Info@System Setup Data@NFS ") + c.sent));
-        else
-            EXPECT_THAT(sent, testing::IsEmpty()) << c.text;
     }
     (void)Tell("Info@System Setup Data@NFS Server#10.9.9.9");
     EXPECT_EQ(Row(0, 2), "Server|10.9.9.9");
@@ -441,19 +354,16 @@ TEST_F(SystemPage, APanelsSwitchersGoAsOneLine)
                 testing::IsSupersetOf({"read " + CONFIG + "System Operation Mode@PNL1",
                                        "add " + CONFIG + "System Operation Mode@PNL2"}))
         << "the own one is followed anyway";
-    (void)Tell(CONFIG + "Panel Assign#1,1,2,0,5,0");
-    (void)Tell(CONFIG + "System Operation Mode@PNL1#Single Proc");
+    TellAll(CONFIG, {"Panel Assign#1,1,2,0,5,0", "System Operation Mode@PNL1#Single Proc"});
     EXPECT_EQ(Row(0, 5), "PNL1|Single Proc|SWR1|SWR2|");
     (void)Push(34);
-    (void)Push(36);
-    (void)Answer(1); // nobody
+    (void)Choose(36, 1); // nobody
     EXPECT_EQ(Row(0, 5), "PNL1|Dual Simul*|SWR1|---*|");
-    (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Answer(YES), ElementsAre("put " + CONFIG + "System Operation Mode@PNL1#Dual Simul",
-                                         "put " + CONFIG + "Panel Assign#1,1,0,0,5,0"));
+    EXPECT_THAT(Choose(BTN_SETUP_EXECUTE, YES),
+                ElementsAre("put " + CONFIG + "System Operation Mode@PNL1#Dual Simul",
+                            "put " + CONFIG + "Panel Assign#1,1,0,0,5,0"));
     TellAll(CONFIG + "Tally Master@", {"PNL1#true", "PNL2#false"});
-    SelectRow(1);
-    (void)Push(49);
+    (void)PushIn(1, 49);
     EXPECT_EQ(Row(0, 5), "PNL1|Dual Simul*|SWR1|---*|*") << "one panel has the tally";
     EXPECT_EQ(Row(1, 5), "PNL2||||Master*");
     EXPECT_THAT(Push(BTN_SYSCONF_SYSTEM2), ElementsAre("put " + CONFIG + "Setup Target#1"));
@@ -466,13 +376,10 @@ TEST_F(SystemPage, InitializeTellsEachChosenUnitOnceAndForgets)
 {
     (void)Open(0x73150000);
     (void)Tell("Engineering Setup@System@Start Up@Resume@SWR1#true");
-    SelectRow(1);
-    (void)Push(33);
-    SelectRow(3);
-    (void)Push(34);
+    (void)PushIn(1, 33);
+    (void)PushIn(3, 34);
     EXPECT_EQ(Row(1, 5), "SWR1|Resume|||All Clear*");
-    (void)Push(BTN_SETUP_EXECUTE);
-    EXPECT_THAT(Answer(YES),
+    EXPECT_THAT(Choose(BTN_SETUP_EXECUTE, YES),
                 ElementsAre("put Engineering Setup@System@Initialize@Initialize#All Clear,SWR1",
                             "put Engineering Setup@System@Initialize@Initialize#Reset,DME1"));
     EXPECT_EQ(Row(1, 5), "SWR1|Resume|||");
@@ -489,11 +396,8 @@ TEST_F(SystemPage, TheClockRunsUntilAKnobTakesIt)
     Pass(10);
     const std::string now = Caption(BTN_MAINTENANCE_TIME);
     EXPECT_EQ(std::count(now.begin(), now.end(), '\n'), 2) << now;
-    static const struct {
-        int box, value;
-    } turns[] = {{1, 2024}, {3, 31}, {4, 7}, {5, 8}, {2, 2}};
-    for (const auto& t : turns)
-        SendMessage(LMSG_KNOBVAR, t.box, t.value, 0, 0);
+    for (const auto& [box, value] : {std::pair{1, 2024}, {3, 31}, {4, 7}, {5, 8}, {2, 2}})
+        SendMessage(LMSG_KNOBVAR, box, value, 0, 0);
     Pass(2000);
     EXPECT_EQ(Caption(BTN_MAINTENANCE_TIME), "Feb 29\n07:08:00\n2024") << "no 31st of February";
     (void)Push(BTN_MAINTENANCE_TIME);
@@ -510,7 +414,7 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     ASSERT_EQ(::system("mkdir -p /mnt/usb/usb1 /mnt/usb/usb3 /mnt/data"), 0);
     (void)Open(0x73170000);
     EXPECT_STREQ(LS_GetData(1, 0, 0), "For displaying device information,");
-    EXPECT_THAT(Usable({BTN_MAINTENANCE_FORMAT, BTN_MAINTENANCE_PRIMARY}), testing::IsEmpty());
+    EXPECT_THAT(Usable({BTN_MAINTENANCE_FORMAT, BTN_MAINTENANCE_PRIMARY}), IsEmpty());
     (void)Push(35);
     EXPECT_STREQ(LS_GetData(1, 0, 0), "Local Drive");
     EXPECT_GT(atoi(LS_GetData(1, 0, 2)), 0);
@@ -526,13 +430,11 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
                 ElementsAre("put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"));
     (void)Tell("Info@Operation Setup Data@Import Path#/mnt/usb/usb3/");
     EXPECT_STREQ(LS_GetData(2, 1, 0), "Removable 2 (Primary)");
-    (void)Push(BTN_MAINTENANCE_FORMAT);
-    EXPECT_THAT(Answer(NO), testing::IsEmpty());
+    EXPECT_THAT(Choose(BTN_MAINTENANCE_FORMAT, NO), IsEmpty());
     EXPECT_EQ(Pane_GetActiveID(), 0) << "nothing was done";
     ASSERT_EQ(::system("rm -rf /var/tmp/device*; mkdir -p /var/tmp/device"), 0);
     ASSERT_EQ(::system("echo 1 > /var/tmp/device/usb_format"), 0) << "it will fail";
-    (void)Push(BTN_MAINTENANCE_FORMAT);
-    (void)Answer(YES);
+    (void)Choose(BTN_MAINTENANCE_FORMAT, YES);
     EXPECT_EQ(FileText("/var/tmp/device.log"), "usb_format [/dev/sdb]\n");
     EXPECT_NE(Pane_GetActiveID(), 0);
     EXPECT_EQ(GetWindow(), WINDOW_NONE) << "it is no longer busy";
@@ -557,7 +459,7 @@ TEST_F(SystemPage, TheDriverOfTheSticksIsReloadedThenTheDrivesAreReadAnew)
     (void)Open(0x73170000);
     const std::string unread = LS_GetData(1, 0, 0);
     Lines sent = Push(38);
-    EXPECT_THAT(end(sent, "Reload", "NG"), testing::IsEmpty());
+    EXPECT_THAT(end(sent, "Reload", "NG"), IsEmpty());
     EXPECT_NE(Pane_GetActiveID(), 0) << "it says so";
     Dismiss();
     sent = end(Push(38), "Reload", "OK");
@@ -568,7 +470,7 @@ TEST_F(SystemPage, TheDriverOfTheSticksIsReloadedThenTheDrivesAreReadAnew)
     Pass(1000);
     sent = Push(38);
     (void)Answer(0); // Cancel
-    EXPECT_THAT(end(sent, "Reload", "OK"), testing::IsEmpty());
+    EXPECT_THAT(end(sent, "Reload", "OK"), IsEmpty());
     EXPECT_EQ(Push(38).size(), 1u) << "and can begin again";
     (void)Leave();
     EXPECT_EQ(QueueRoot, nullptr);

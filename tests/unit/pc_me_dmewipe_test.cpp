@@ -2,14 +2,11 @@
 #include "a_pc.h"
 #include "table_page.h"
 
-namespace
-{
 constexpr uint32_t MODIFY_ME1 = 0x11650000;
 constexpr uint32_t MODIFY_ME4 = 0x81650000;
 constexpr int POSITION = 17, RELATIVE = 19, CROP = 20, CROP_4_3 = 21, SIZE = 22;
 constexpr int CH1 = 35, CH2 = 36, CH3 = 37;
 const std::string ASPECT = "Engineering Setup@System@Format@DME Aspect#";
-} // namespace
 
 struct MeDmeWipe : TablePage {
     std::string root; // of the paths of the page
@@ -43,12 +40,11 @@ struct MeDmeWipe : TablePage {
         return TakeQueuedCommands();
     }
     // Lines with that verb, of paths and values of the function.
-    Lines Sent(const std::string& verb, const Lines& ends) const
+    Lines Sent(const std::string& verb, Lines ends, const std::string& function = "") const
     {
-        Lines lines;
-        for (const std::string& end : ends)
-            lines.push_back(verb + " " + root + "@Modify@" + end);
-        return lines;
+        for (std::string& end : ends)
+            end.insert(0, verb + " " + root + "@Modify@" + function);
+        return ends;
     }
     static bool Enabled(int id) { return BT_GetVisible(id) == BT_ENABLED; }
     static std::string Chosen()
@@ -64,33 +60,28 @@ struct MeDmeWipe : TablePage {
 
 TEST_F(MeDmeWipe, WhatModifyAddsItRemovesInThisOrder)
 {
-    static const struct {
-        uint32_t page;
-        const char *root, *pattern;
-        int channels;
-    } cases[] = {
+    static const std::tuple<uint32_t, const char*, const char*, int> cases[] = {
         {MODIFY_ME4, "M/E-4@DME Wipe", "2003", 2},
         {0x15650000, "M/E-1 SUB@DME Wipe", "9001", 3},
         {0x14470003, "PGM/PST@DSK4@Transition@DME Wipe", "2003", 1}, // a key has one channel
     };
-    for (const auto& c : cases) {
-        const Lines opened = OpenWith(c.page, c.root, c.pattern);
-        Lines expected = {"remove " + root + "@Pattern Select@Pattern",
-                          "remove M/E-1@Key1@Processed Key@DME Status"};
+    for (const auto& [page, path, pattern, channels] : cases) {
+        const Lines opened = OpenWith(page, path, pattern);
         Lines ends;
-        for (int ch = 1; ch <= c.channels; ch++)
+        for (int ch = 1; ch <= channels; ch++)
             for (const char* what : {"Position@Position@", "Size@", "Crop Mode@Crop@"})
                 ends.push_back(what + std::to_string(ch));
         for (const char* what : {"Position@Position@H@1", "Position@Position@V@1", "Size@Size@1",
                                  "Crop Mode@Crop@Top@1", "Crop Mode@Crop@Left@1",
                                  "Crop Mode@Crop@Right@1", "Crop Mode@Crop@Bottom@1"})
             ends.push_back(what);
-        for (const std::string& line : Sent("remove", ends))
-            expected.push_back(line);
+        Lines expected = Sent("remove", ends);
+        expected.insert(expected.begin(), {"remove " + root + "@Pattern Select@Pattern",
+                                           "remove M/E-1@Key1@Processed Key@DME Status"});
         for (const std::string& line : expected)
             EXPECT_THAT(opened, Contains("add " + line.substr(strlen("remove ")))) << root;
-        EXPECT_THAT(opened, Contains(Sent(
-                                "read", {"Position@Position@V@" + std::to_string(c.channels)})[0]));
+        EXPECT_THAT(opened,
+                    Contains(Sent("read", {"Position@Position@V@" + std::to_string(channels)})[0]));
         PC_Create(nullptr, 0);
         EXPECT_EQ(TakeQueuedCommands(), expected) << root;
     }
@@ -98,20 +89,18 @@ TEST_F(MeDmeWipe, WhatModifyAddsItRemovesInThisOrder)
 
 TEST_F(MeDmeWipe, ThePatternDecidesWhichChannelsThereAre)
 {
-    static const struct {
-        const char* pattern;
-        int channels; // that can be chosen
-    } cases[] = {{"2001", 2}, {"3999", 3}, {"1003", 0}, {"8001", 2}, {"9001", 3},
-                 {"7003", 0}, {"2000", 0}, {"12", 0},   {"x", 0},    {"4001", 0}};
+    static const std::pair<const char*, int> cases[] = {
+        {"2001", 2}, {"3999", 3}, {"1003", 0}, {"8001", 2}, {"9001", 3},
+        {"7003", 0}, {"2000", 0}, {"12", 0},   {"x", 0},    {"4001", 0}};
     Open(MODIFY_ME1);
-    for (const auto& c : cases) {
-        Tell(std::string("M/E-1@DME Wipe@Pattern Select@Pattern#") + c.pattern);
-        EXPECT_EQ(Enabled(CH1) + Enabled(CH2) + Enabled(CH3), c.channels) << c.pattern;
-        EXPECT_EQ(Enabled(RELATIVE), c.channels > 0) << c.pattern;
+    for (const auto& [pattern, channels] : cases) {
+        Tell(std::string("M/E-1@DME Wipe@Pattern Select@Pattern#") + pattern);
+        EXPECT_EQ(Enabled(CH1) + Enabled(CH2) + Enabled(CH3), channels) << pattern;
+        EXPECT_EQ(Enabled(RELATIVE), channels > 0) << pattern;
     }
 }
 
-TEST_F(MeDmeWipe, AnotherPatternLeavesNothingOfTheOneBefore)
+TEST_F(MeDmeWipe, AnotherPatternLeavesNothingOfTheOneBeforeAndTheFirstTheKnobs)
 {
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "3001");
     Own("Size", SIZE);
@@ -123,10 +112,7 @@ TEST_F(MeDmeWipe, AnotherPatternLeavesNothingOfTheOneBefore)
     EXPECT_EQ(BT_GetStatus(SIZE), BT_OFF);
     EXPECT_EQ(BT_GetKnobAssign(), -1);
     EXPECT_THAT(Tell(other), IsEmpty()) << "nothing new";
-}
 
-TEST_F(MeDmeWipe, TheFirstPatternPutsAllKeysOutAndLeavesTheKnobs)
-{
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
     for (int id : {POSITION, RELATIVE, CROP, SIZE, 33, 34, 49, 50, CH2})
         EXPECT_EQ(BT_GetStatus(id), BT_OFF) << id;
@@ -139,20 +125,16 @@ TEST_F(MeDmeWipe, TheFirstPatternPutsAllKeysOutAndLeavesTheKnobs)
 
 TEST_F(MeDmeWipe, OneChannelStaysChosen)
 {
-    static const struct {
-        const char* pattern;
-        std::vector<int> presses;
-        const char* chosen;
-    } cases[] = {
+    static const std::tuple<const char*, std::vector<int>, const char*> cases[] = {
         {"2003", {CH2}, "110"},      {"2003", {CH1}, "010"},           {"2003", {CH1, CH2}, "100"},
         {"3003", {CH3, CH1}, "001"}, {"3003", {CH3, CH1, CH3}, "100"}, {"2003", {CH3}, "100"},
         {"1003", {CH2}, "100"},
     };
-    for (const auto& c : cases) {
-        OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", c.pattern);
-        for (int id : c.presses)
+    for (const auto& [pattern, presses, chosen] : cases) {
+        OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", pattern);
+        for (int id : presses)
             (void)Press(id);
-        EXPECT_EQ(Chosen(), c.chosen) << c.pattern << " " << c.presses[0];
+        EXPECT_EQ(Chosen(), chosen) << pattern << " " << presses[0];
     }
 }
 
@@ -168,7 +150,7 @@ TEST_F(MeDmeWipe, AChosenChannelIsSwitchedOnAndFollowedByTheKnobs)
     EXPECT_THAT(sent, Contains("add " + size + "Size@2"));
     EXPECT_THAT(sent, Contains("add " + size + "2")); // told anew as it is
     EXPECT_THAT(sent, Not(Contains("remove " + size + "2")));
-    EXPECT_THAT(sent, Not(Contains(testing::HasSubstr("@1#"))));
+    EXPECT_THAT(sent, Not(Contains(HasSubstr("@1#"))));
     Tell(size + "2#false"); // the server tells it as it is and then switches
     EXPECT_EQ(BT_GetKnobAssign(), -1);
     TellAll(root + "@Modify@", {"Crop Mode@Crop@2#true", "Size@1#true"}); // not the leading one
@@ -199,15 +181,14 @@ TEST_F(MeDmeWipe, LampsAndBoxesAreThoseOfTheLeadingChannel)
 
 TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsSteps)
 {
-    static const struct {
-        const char *counts, *value;
-    } cases[] = {{"1", "8.00"},      {"-2", "-32.00"},     {"18", "11536.00"},
-                 {"25", "11536.00"}, {"-25", "-11536.00"}, {"1e30", "11536.00"}};
+    static const std::pair<const char*, const char*> cases[] = {
+        {"1", "8.00"},      {"-2", "-32.00"},     {"18", "11536.00"},
+        {"25", "11536.00"}, {"-25", "-11536.00"}, {"1e30", "11536.00"}};
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
     Own("Position@Position", POSITION);
-    for (const auto& c : cases)
-        EXPECT_EQ(Tell(std::string("Panel@Common@Knob1#") + c.counts),
-                  Sent("put", {std::string("Position@Position@V@1#diff") + c.value}));
+    for (const auto& [counts, value] : cases)
+        EXPECT_EQ(Tell(std::string("Panel@Common@Knob1#") + counts),
+                  Sent("put", {std::string("Position@Position@V@1#diff") + value}));
     EXPECT_THAT(Tell("Panel@Common@Knob1#0"), IsEmpty());
 }
 
@@ -234,13 +215,11 @@ TEST_F(MeDmeWipe, RelativeChannelsMoveAgainstEachOther)
     EXPECT_THAT(Tell("Panel@Common@Knob0#1"),
                 ElementsAre("put " + pos + "H@1#diff8.00", "put " + pos + "H@2#diff-8.00",
                             "read " + pos + "H@1", "read " + pos + "H@2"));
-    static const struct {
-        double number;
-        const char *first, *second;
-    } cases[] = {{50, "25.00", "-25.00"}, {-30.5, "-15.25", "15.25"}, {0, "0.00", "0.00"}};
-    for (const auto& c : cases)
-        EXPECT_THAT(Enter(2, c.number),
-                    ElementsAre("put " + pos + "V@1#" + c.first, "put " + pos + "V@2#" + c.second,
+    static const std::tuple<double, const char*, const char*> cases[] = {
+        {50, "25.00", "-25.00"}, {-30.5, "-15.25", "15.25"}, {0, "0.00", "0.00"}};
+    for (const auto& [number, first, second] : cases)
+        EXPECT_THAT(Enter(2, number),
+                    ElementsAre("put " + pos + "V@1#" + first, "put " + pos + "V@2#" + second,
                                 "read " + pos + "V@1", "read " + pos + "V@2"));
     TellAll(pos, {"H@1#30", "H@2#-10"});
     EXPECT_EQ(Shown("H Distance"), "40");
@@ -248,11 +227,7 @@ TEST_F(MeDmeWipe, RelativeChannelsMoveAgainstEachOther)
 
 TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
 {
-    static const struct {
-        int box;
-        double value;
-        Lines edges; // in this order
-    } cases[] = {
+    static const std::tuple<int, double, Lines> cases[] = {
         {1, -40, {"Right@1#40.00", "Left@1#-40.00"}},
         {1, 5, {"Right@1#0.00", "Left@1#0.00"}},
         {2, 30, {"Bottom@1#-30.00", "Top@1#30.00"}},
@@ -261,20 +236,14 @@ TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
         {3, 7, {"Right@1#0.00", "Left@1#0.00", "Bottom@1#0.00", "Top@1#0.00"}},
     };
     // Banks differ in how a box tells its value.
-    static const std::pair<uint32_t, const char*> pages[] = {
-        {MODIFY_ME1, "M/E-1@DME Wipe"},
-        {MODIFY_ME4, "M/E-4@DME Wipe"},
-        {0x12370003, "M/E-2@Key3@Transition@DME Wipe"}};
-    for (const auto& [page, path] : pages) {
+    for (const auto& [page, path] : {std::pair{MODIFY_ME1, "M/E-1@DME Wipe"},
+                                     {MODIFY_ME4, "M/E-4@DME Wipe"},
+                                     {0x12370003, "M/E-2@Key3@Transition@DME Wipe"}}) {
         OpenWith(page, path, "1003");
         Own("Crop Mode@Crop", CROP);
-        root += "@Modify@Crop Mode@Crop";
-        for (const auto& c : cases) {
-            Lines expected;
-            for (const std::string& edge : c.edges)
-                expected.push_back("put " + root + "@" + edge);
-            EXPECT_EQ(Enter(c.box, c.value), expected) << path << " " << c.box;
-        }
+        for (const auto& [box, value, edges] : cases)
+            EXPECT_EQ(Enter(box, value), Sent("put", edges, "Crop Mode@Crop@"))
+                << path << " " << box;
     }
 }
 
@@ -292,46 +261,45 @@ TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
 {
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
     Own("Crop Mode@Crop", CROP);
-    EXPECT_THAT(Tell("Panel@Common@Knob0#3"), IsEmpty()) << "no value yet";
-    Tell(root + "@Modify@Crop Mode@Crop@Left@1#-50");
-    EXPECT_EQ(Tell("Panel@Common@Knob0#3"),
-              Sent("put", {"Crop Mode@Crop@Right@1#49.24", "Crop Mode@Crop@Left@1#-49.24"}));
-    EXPECT_EQ(Tell("Panel@Common@Knob0#3"),
-              Sent("put", {"Crop Mode@Crop@Right@1#48.48", "Crop Mode@Crop@Left@1#-48.48"}))
-        << "steps that outrun the server add up";
-    EXPECT_EQ(Tell("Panel@Common@Knob2#3")[1], Sent("put", {"Crop Mode@Crop@Left@1#-47.72"})[0])
-        << "another knob of the same edge goes on from there";
-    Tell(root + "@Modify@Crop Mode@Crop@Left@1#-60"); // late, or from elsewhere
-    Pass(499);
-    EXPECT_EQ(Tell("Panel@Common@Knob0#-3"),
-              Sent("put", {"Crop Mode@Crop@Right@1#48.48", "Crop Mode@Crop@Left@1#-48.48"}));
-    Pass(500);
-    EXPECT_EQ(Tell("Panel@Common@Knob0#3"),
-              Sent("put", {"Crop Mode@Crop@Right@1#59.24", "Crop Mode@Crop@Left@1#-59.24"}))
-        << "a hand that has rested starts from the server again";
-    EXPECT_EQ(Tell("Panel@Common@Knob0#-25"),
-              Sent("put", {"Crop Mode@Crop@Right@1#100.00", "Crop Mode@Crop@Left@1#-100.00"}));
-    Tell(root + "@Modify@Crop Mode@Crop@Top@1#50"); // the same sense crops, though this value falls
-    EXPECT_EQ(Tell("Panel@Common@Knob1#3"),
-              Sent("put", {"Crop Mode@Crop@Bottom@1#-49.24", "Crop Mode@Crop@Top@1#49.24"}));
+    const std::string crop = root + "@Modify@Crop Mode@Crop@";
+    static const struct {
+        const char* told;
+        int rest_ms;
+        const char* turn;
+        Lines edges;
+    } steps[] = {
+        {"", 0, "0#3", {}}, // no value yet
+        {"Left@1#-50", 0, "0#3", {"Right@1#49.24", "Left@1#-49.24"}},
+        {"", 0, "0#3", {"Right@1#48.48", "Left@1#-48.48"}}, // faster than the server: they add up
+        // another knob of the same edge goes on
+        {"", 0, "2#3", {"Right@1#47.72", "Left@1#-47.72", "Bottom@1#-47.72", "Top@1#47.72"}},
+        {"Left@1#-60", 499, "0#-3", {"Right@1#48.48", "Left@1#-48.48"}}, // late, or from elsewhere
+        {"", 500, "0#3", {"Right@1#59.24", "Left@1#-59.24"}}, // a rested hand starts anew
+        {"", 0, "0#-25", {"Right@1#100.00", "Left@1#-100.00"}},
+        // the same sense crops, though this value falls
+        {"Top@1#50", 0, "1#3", {"Bottom@1#-49.24", "Top@1#49.24"}},
+    };
+    for (const auto& s : steps) {
+        if (*s.told)
+            Tell(crop + s.told);
+        Pass(s.rest_ms);
+        EXPECT_EQ(Tell(std::string("Panel@Common@Knob") + s.turn),
+                  Sent("put", s.edges, "Crop Mode@Crop@"))
+            << s.turn;
+    }
 }
 
 TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
 {
-    static const struct {
-        int button;
-        const char* function;
-        int box;
-        Lines paths;
-    } cases[] = {
+    static const std::tuple<int, const char*, int, Lines> cases[] = {
         {POSITION, "Position@Position", 2, {"Position@Position@V@1"}},
         {SIZE, "Size", 1, {"Size@Size@1"}},
         {CROP, "Crop Mode@Crop", 2, {"Crop Mode@Crop@Bottom@1", "Crop Mode@Crop@Top@1"}},
     };
     OpenWith(0x14270003, "PGM/PST@DSK2@Transition@DME Wipe", "1003");
-    for (const auto& c : cases) {
-        Own(c.function, c.button);
-        EXPECT_EQ(Default(c.box), Sent("default", c.paths));
+    for (const auto& [button, function, box, paths] : cases) {
+        Own(function, button);
+        EXPECT_EQ(Default(box), Sent("default", paths));
     }
 }
 
@@ -339,10 +307,7 @@ TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
 
 TEST_F(MeDmeWipe, KeysSendForTheChosenChannels)
 {
-    static const struct {
-        int button;
-        Lines puts;
-    } cases[] = {
+    static const std::pair<int, Lines> cases[] = {
         {CROP, {"Crop Mode@Crop@1#false", "Crop Mode@Crop@2#false"}}, // it is on and has the knobs
         {POSITION, {"Position@Position@1#true", "Position@Position@2#true"}},
         {18, {"Position@Center@1#true", "Position@Center@2#true"}},
@@ -355,23 +320,21 @@ TEST_F(MeDmeWipe, KeysSendForTheChosenChannels)
     (void)Press(CH2);
     Own("Crop Mode@Crop", CROP);
     Tell(ASPECT + "1,16:9,4,8");
-    for (const auto& c : cases)
-        EXPECT_EQ(Puts(Press(c.button)), Sent("put", c.puts)) << c.button;
+    for (const auto& [button, puts] : cases)
+        EXPECT_EQ(Puts(Press(button)), Sent("put", puts)) << button;
 }
 
 TEST_F(MeDmeWipe, ACornerIsLitWhileThePictureStandsInIt)
 {
-    static const struct {
-        const char *h, *v;
-        int lit; // button, 0 none
-    } cases[] = {{"-100", "100", 33}, {"100", "100", 34},  {"-100.00", "-100.00", 49},
-                 {"100", "-100", 50}, {"100", "-99.9", 0}, {"nan", "-100", 50}};
+    static const std::tuple<const char*, const char*, int> cases[] = {
+        {"-100", "100", 33}, {"100", "100", 34},  {"-100.00", "-100.00", 49},
+        {"100", "-100", 50}, {"100", "-99.9", 0}, {"nan", "-100", 50}};
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
-    for (const auto& c : cases) {
+    for (const auto& [h, v, lit] : cases) {
         TellAll(root + "@Modify@Position@Position@",
-                {std::string("H@1#") + c.h, std::string("V@1#") + c.v});
+                {std::string("H@1#") + h, std::string("V@1#") + v});
         for (int id : {33, 34, 49, 50})
-            EXPECT_EQ(BT_GetOnOff(id), id == c.lit) << c.h << "," << c.v;
+            EXPECT_EQ(BT_GetOnOff(id), id == lit) << h << "," << v;
     }
 }
 
@@ -380,32 +343,26 @@ TEST_F(MeDmeWipe, ACornerIsLitWhileThePictureStandsInIt)
 TEST_F(MeDmeWipe, ABankWithoutItsWipeHasDeadKeys)
 {
     enum { NONE = -1, MAIN_SIDE, SUB_SIDE, BOTH_SIDES };
-    static const struct {
-        uint32_t page;
-        int side, sub_enable;
-        bool off;
-    } cases[] = {
+    static const std::tuple<uint32_t, int, int, bool> cases[] = {
         {0x12650000, NONE, 0, false},       {0x12650000, SUB_SIDE, 1, true},
         {0x12650000, BOTH_SIDES, 1, false}, {0x16650000, MAIN_SIDE, 1, true},
         {0x16650000, SUB_SIDE, 1, false},   {0x16650000, SUB_SIDE, 0, true},
         {0x16630000, SUB_SIDE, 0, true},    {0x16640000, MAIN_SIDE, 1, true},
         {0x16610000, SUB_SIDE, 0, true},    {0x16370003, SUB_SIDE, 0, false}, // of a key
     };
-    for (const auto& c : cases) {
-        const bool is_key = isNowPageMeKey(c.page) != 0;
+    for (const auto& [page, side, sub_enable, off] : cases) {
+        const bool is_key = isNowPageMeKey(page) != 0;
         GL_MEAssign[3] = -1;
-        Open(c.page);
-        GL_MEAssign[3] = c.side == NONE ? -1 : 2; // now: a request would be led to the other side
-        GL_MainSubAssign[3] = c.side;
-        SYS_DWSubEnable = c.sub_enable;
+        Open(page);
+        GL_MEAssign[3] = side == NONE ? -1 : 2; // now: a request would be led to the other side
+        GL_MainSubAssign[3] = side;
+        SYS_DWSubEnable = sub_enable;
         for (const auto& object : Page->obj)
             if (object.type == OBJ_PC)
                 PC_Create(static_cast<const PC_TBL*>(object.addr), 0);
         Tell(std::string(is_key ? "M/E-2@Key7@Transition" : "M/E-2") +
-             (c.page < 0x13000000 || is_key ? "" : " SUB") +
-             "@DME Wipe@Pattern Select@Pattern#1201");
-        EXPECT_EQ(Usable({17, 20, 22, 33, 49}).empty(), c.off)
-            << std::hex << c.page << " " << c.side;
+             (page < 0x13000000 || is_key ? "" : " SUB") + "@DME Wipe@Pattern Select@Pattern#1201");
+        EXPECT_EQ(Usable({17, 20, 22, 33, 49}).empty(), off) << std::hex << page << " " << side;
     }
 }
 
@@ -498,20 +455,18 @@ TEST_F(MeDmeWipe, AnOlderSwitcherHasNoWayToWhatItCannotRemove)
 
 TEST_F(MeDmeWipe, AKeyIsAdjustedWhileEitherOfItsTransitionsIsSuchAWipe)
 {
-    static const struct {
-        const char *on, *off;
-        size_t usable;
-    } cases[] = {{"DME Wipe", "Mix", 5},
-                 {"Wipe", "Mix", 0},
-                 {"Cut", "DME Wipe", 5},
-                 {"DME Wipe", "DME Wipe", 5}};
+    static const std::tuple<const char*, const char*, size_t> cases[] = {
+        {"DME Wipe", "Mix", 5},
+        {"DME Wipe", "Mix", 5},
+        {"Wipe", "Mix", 0},
+        {"Cut", "DME Wipe", 5},
+        {"DME Wipe", "DME Wipe", 5}};
     OpenWith(0x11170003, "M/E-1@Key1@Transition@DME Wipe", "1003");
     Tell(ASPECT + "1,16:9,1,0");
-    for (const auto& c : cases) {
-        TellAll("M/E-1@Key1@Transition@", {std::string("ON Transition Type#") + c.on,
-                                           std::string("OFF Transition Type#") + c.off});
-        EXPECT_EQ(Usable({POSITION, CROP, CROP_4_3, SIZE, 33}).size(), c.usable)
-            << c.on << "," << c.off;
+    for (const auto& [on, off, usable] : cases) {
+        TellAll("M/E-1@Key1@Transition@", {std::string("ON Transition Type#") + on,
+                                           std::string("OFF Transition Type#") + off});
+        EXPECT_EQ(Usable({POSITION, CROP, CROP_4_3, SIZE, 33}).size(), usable) << on << "," << off;
     }
 }
 
@@ -547,32 +502,24 @@ TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
 
 TEST_F(MeDmeWipe, APatternDoesNotAllowWhatTheRowForbids)
 {
-    static const struct {
-        uint32_t page;
-        const char* pattern;
-        Lines forbidding;
-        const char* allowing;
-        int button;
-    } cases[] = {
+    // The tallies that forbid; the pattern is told after them, then the last one.
+    static const std::tuple<uint32_t, const char*, Lines, int> cases[] = {
         {0x13640000,
-         "M/E-3@DME Wipe@Pattern Select@Pattern#1001",
-         {"M/E-3@DME Wipe@Edge/Direction@Shadow#false"},
-         "M/E-3@DME Wipe@Edge/Direction@Shadow#true",
+         "M/E-3@",
+         {"DME Wipe@Edge/Direction@Shadow#false", "DME Wipe@Edge/Direction@Shadow#true"},
          50},
         {0x13170007,
-         "M/E-3@Key1@Transition@DME Wipe@Pattern Select@Pattern#1001",
-         {"M/E-3@Key1@Transition@ON Transition Type#Mix",
-          "M/E-3@Key1@Transition@OFF Transition Type#Mix"},
-         "M/E-3@Key1@Transition@OFF Transition Type#DME Wipe",
+         "M/E-3@Key1@Transition@",
+         {"ON Transition Type#Mix", "OFF Transition Type#Mix", "OFF Transition Type#DME Wipe"},
          17},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        TellAll("", c.forbidding);
-        Tell(c.pattern);
-        EXPECT_TRUE(Disabled().contains(c.button)) << c.pattern;
-        Tell(c.allowing);
-        EXPECT_FALSE(Disabled().contains(c.button)) << c.pattern;
+    for (const auto& [page, path, lines, button] : cases) {
+        Open(page);
+        TellAll(path, {lines.begin(), lines.end() - 1});
+        Tell(std::string(path) + "DME Wipe@Pattern Select@Pattern#1001");
+        EXPECT_TRUE(Disabled().contains(button)) << path;
+        Tell(path + lines.back());
+        EXPECT_FALSE(Disabled().contains(button)) << path;
     }
 }
 
@@ -591,20 +538,15 @@ TEST_F(MeDmeWipe, TheCellShowsTheSamePictureForBothSetsOfChannels)
 
 TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
 {
-    static const struct {
-        uint32_t page;
-        const char *root, *pattern;
-        int button;
-        const char* channel;
-    } cases[] = {{0x12600007, "M/E-2@DME Wipe", "2003", 18, "2"},
-                 {0x12170007, "M/E-2@Key1@Transition@DME Wipe", "1003", 17, "1"}};
-    for (const auto& c : cases) {
-        OpenWith(c.page, c.root, c.pattern);
+    for (const auto& [page, path, pattern, button, ch] :
+         {std::tuple{0x12600007u, "M/E-2@DME Wipe", "2003", 18, std::string("2")},
+          {0x12170007u, "M/E-2@Key1@Transition@DME Wipe", "1003", 17, "1"}}) {
+        OpenWith(page, path, pattern);
         EXPECT_STREQ(NB_GetTitle(), "Remove");
         EXPECT_FALSE(Enabled(19));
-        const std::string remove = root + "@Modify@Remove From Begin@", ch = c.channel;
+        const std::string remove = root + "@Modify@Remove From Begin@";
         Tell(remove + ch + "#true");
-        (void)Press(c.button);
+        (void)Press(button);
         TellAll(remove, {"Start@" + ch + "#20", "Limit@" + ch + "#60", "Start@3#90"});
         for (int i = 0; i < 60; i++) // the limit stops at the start of the same channel
             SendMessage(MSG_WHEELUP, 720, 127 + 82 + 20, 0, 0);
@@ -614,19 +556,16 @@ TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
 
 TEST_F(MeDmeWipe, TheListShowsWhatIsAskedForAndStaysOnItsSetOfChannels)
 {
-    static const struct {
-        int button;
-        const char *pattern, *number;
-    } cases[] = {{33, "1003", "1001"},
-                 {34, "1003", "2001"},
-                 {35, "9001", "9001"},
-                 {34, "8251", "8001"},
-                 {33, "2003", "1001"}};
+    static const std::tuple<int, const char*, const char*> cases[] = {{33, "1003", "1001"},
+                                                                      {34, "1003", "2001"},
+                                                                      {35, "9001", "9001"},
+                                                                      {34, "8251", "8001"},
+                                                                      {33, "2003", "1001"}};
     const std::string path = "M/E-5@DME Wipe@Pattern Select@Pattern#";
     Open(0x82610000);
-    for (const auto& c : cases) {
-        Tell(path + c.pattern);
-        (void)Press(c.button);
-        EXPECT_THAT(Touch(160 + 20, 89 + 20), Contains("put " + path + c.number)); // first cell
+    for (const auto& [button, pattern, number] : cases) {
+        Tell(path + pattern);
+        (void)Press(button);
+        EXPECT_THAT(Touch(160 + 20, 89 + 20), Contains("put " + path + number)); // first cell
     }
 }

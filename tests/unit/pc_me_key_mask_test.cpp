@@ -74,19 +74,15 @@ TEST_F(KeyMaskPages, TheListOfSourcesOpensOnlyWhileThereIsAMask)
 // The pattern of a sub mask is that of the main bank's wipe, also for the keys of the sub side.
 TEST_F(KeyMaskPages, TheSubMaskShowsThePatternOfItsBank)
 {
-    static const struct {
-        uint32_t page;
-        const char* key;
-        uint32_t target;
-    } cases[] = {
+    static const std::tuple<uint32_t, const char*, uint32_t> cases[] = {
         {0x11140000, "M/E-1@Key1", 0x11520000},
         {0x81340000, "M/E-4@Key3", 0x81520000},
         {0x18140000, "PGM/PST@DSK5", 0x14520000},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        TellAll(c.key, {"@Sub Mask@Sub Mask#true", "@Sub Mask@Mask Source#Pattern"});
+    for (const auto& [page, key, target] : cases) {
+        Open(page);
+        TellAll(key, {"@Sub Mask@Sub Mask#true", "@Sub Mask@Mask Source#Pattern"});
         (void)Press(37);
-        EXPECT_EQ(GL_CreatePage, c.target) << c.key;
+        EXPECT_EQ(GL_CreatePage, target) << key;
     }
 }

@@ -80,10 +80,7 @@ struct KeyProcessCrop : TablePage {
 
 TEST_F(KeyProcessCrop, TheFillNeedsABorderAndItsSecondColorAMix)
 {
-    static const struct {
-        const char* line;
-        std::set<int> disabled;
-    } steps[] = {
+    static const std::pair<const char*, std::set<int>> steps[] = {
         {"Border#false", {20, 21, 22, 34, 36, 37, 38}},
         {"Border Fill#Mix", {20, 21, 22, 34, 36, 37, 38}},
         {"Border#true", {34}},
@@ -91,9 +88,9 @@ TEST_F(KeyProcessCrop, TheFillNeedsABorderAndItsSecondColorAMix)
         {"Crop#true", {22, 37, 38}},
     };
     Open(0x12160003);
-    for (const auto& step : steps) {
-        Tell(std::string("M/E-2@Key1@Processed Key@Border/Crop@") + step.line);
-        EXPECT_EQ(Disabled(), step.disabled) << step.line;
+    for (const auto& [line, disabled] : steps) {
+        Tell(std::string("M/E-2@Key1@Processed Key@Border/Crop@") + line);
+        EXPECT_EQ(Disabled(), disabled) << line;
     }
 }
 

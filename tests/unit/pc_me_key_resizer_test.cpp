@@ -6,11 +6,8 @@ using KeyResizerPages = TablePage;
 TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
 {
     const std::string border = "Border/Crop@", effect = "Enhanced Effect@";
-    const struct {
-        uint32_t page;
-        Lines lines; // of the key's resizer
-        std::set<int> disabled;
-    } cases[] = {
+    // lines: of the key's resizer
+    const std::tuple<uint32_t, Lines, std::set<int>> cases[] = {
         {0x12350000, {"Resizer#false"}, {18, 20, 21, 33, 34, 35, 49, 50, 51, 52, 53}},
         {0x12350000, {"Resizer#true", "Combine#true"}, {51, 53}},
         {0x12350000, {"Resizer#false", "Resizer#true", "Combine#false"}, {}},
@@ -30,13 +27,13 @@ TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
         {0x12350005, {"Resizer#true"}, {19, 20, 22}}, // the key doesn't turn
         {0x12350005, {"Combine#true"}, {17, 19, 20, 22}},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        for (const std::string& line : c.lines) {
+    for (const auto& [page, lines, disabled] : cases) {
+        Open(page);
+        for (const std::string& line : lines) {
             const bool is_switch = line.starts_with("Resizer#"); // it stands with the processed key
             Tell((is_switch ? "M/E-2@Key3@Processed Key@" : "M/E-2@Key3@Resizer@") + line);
         }
-        EXPECT_EQ(Disabled(), c.disabled) << std::hex << c.page << " " << c.lines.back();
+        EXPECT_EQ(Disabled(), disabled) << std::hex << page << " " << lines.back();
     }
 }
 
@@ -100,21 +97,17 @@ TEST_F(KeyResizerPages, TwoEdgesAtOnceKeepTheirSense)
 
 TEST_F(KeyResizerPages, TheButtonsOfTheRotationShareOneSumOfAxes)
 {
-    static const struct {
-        const char* now;
-        int button;
-        const char* put;
-    } cases[] = {
+    static const std::tuple<const char*, int, const char*> cases[] = {
         {"0", 17, "3"}, {"1", 17, "0"}, {"true", 20, "3"}, {"3", 19, "2"}, {"2", 20, "0"},
     };
     const std::string rotation = "PGM/PST@DSK2@Processed Key@Rotation#";
-    for (const auto& c : cases) {
+    for (const auto& [now, button, put] : cases) {
         Open(0x14250005);
-        TellAll("", {"PGM/PST@DSK2@Processed Key@Resizer#true", rotation + c.now});
-        if (BT_GetStatus(c.button) == BT_ON) { // the first press only takes the knobs
-            EXPECT_THAT(Puts(Press(c.button)), IsEmpty());
+        TellAll("", {"PGM/PST@DSK2@Processed Key@Resizer#true", rotation + now});
+        if (BT_GetStatus(button) == BT_ON) { // the first press only takes the knobs
+            EXPECT_THAT(Puts(Press(button)), IsEmpty());
         }
-        EXPECT_THAT(Press(c.button), Contains("put " + rotation + c.put)) << c.now;
+        EXPECT_THAT(Press(button), Contains("put " + rotation + put)) << now;
     }
 }
 
@@ -142,23 +135,20 @@ TEST_F(KeyResizerPages, TheRotationOfAKeyIsNotGivenBack)
 
 TEST_F(KeyResizerPages, AShownColumnFollowsTheRotation)
 {
-    static const struct {
-        uint32_t page;
-        int button;
-        const char* turned; // a value that there is only while the key turns
-    } cases[] = {
+    // turned: a value that there is only while the key turns
+    static const std::tuple<uint32_t, int, const char*> cases[] = {
         {0x15250000, 17, "Resizer@Depth"},
         {0x15250004, 17, "Resizer@Mask@Box@Angle"},
         {0x15260000, 18, "Processed Key@Location@Z"},
         {0x15260000, 19, "Processed Key@Rotation@X"},
     };
     const std::string key = "M/E-1@Key6@";
-    for (const auto& c : cases) {
-        const std::string add = "add " + key + c.turned;
+    for (const auto& [page, button, turned] : cases) {
+        const std::string add = "add " + key + turned;
         Tell(key + "Processed Key@Rotation#0");
-        Open(c.page);
+        Open(page);
         TellAll(key, {"Processed Key@Resizer#true", "Processed Key@Processed Key#true"});
-        EXPECT_THAT(Press(c.button), Not(Contains(add)));
+        EXPECT_THAT(Press(button), Not(Contains(add)));
         EXPECT_THAT(Tell(key + "Processed Key@Rotation#3"), Contains(add));
     }
 }
@@ -171,7 +161,7 @@ TEST_F(KeyResizerPages, AnAxisThatDoesNotTurnHasNoRange)
     const std::string path = "M/E-1@Key1@Resizer@Rotation@";
     TellAll(path, {"X#0", "Y#0"});
     EXPECT_THAT(Drag(1, 794), Contains("put " + path + "X#360.00"));
-    EXPECT_THAT(Drag(2, 794), testing::Not(Contains(testing::StartsWith("put"))));
+    EXPECT_THAT(Drag(2, 794), Not(Contains(testing::StartsWith("put"))));
     Tell("M/E-1@Key1@Processed Key@Rotation#3");
     EXPECT_THAT(Drag(2, 794), Contains("put " + path + "Y#360.00"));
 }

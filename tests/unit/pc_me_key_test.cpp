@@ -112,19 +112,17 @@ struct KeySignals : TablePage {
 
 TEST_F(KeySignals, ATouchIsPutToTheBusThatIsAssigned)
 {
-    static const struct {
-        uint32_t page;
-        const char* path;
-    } cases[] = {{0x11100000, "put M/E-1@Key1@Type@Signal Select@"},
-                 {0x85310003, "put M/E-4@Key7@Type@Signal Select@"}};
-    for (const auto& c : cases) {
+    static const std::pair<uint32_t, const char*> cases[] = {
+        {0x11100000, "put M/E-1@Key1@Type@Signal Select@"},
+        {0x85310003, "put M/E-4@Key7@Type@Signal Select@"}};
+    for (const auto& [page, path] : cases) {
         GL_FillSourceAssignMode = 1; // as the key type page or a cell leaves it
-        Open(c.page);
+        Open(page);
         EXPECT_EQ(BT_GetStatus(38), BT_ON);
-        EXPECT_THAT(TouchRow(2), ElementsAre(string(c.path) + "Source#VTR"));
+        EXPECT_THAT(TouchRow(2), ElementsAre(string(path) + "Source#VTR"));
         EXPECT_THAT(Press(22), IsEmpty());
         EXPECT_EQ(GL_FillSourceAssignMode, 0);
-        EXPECT_THAT(TouchRow(0), ElementsAre(string(c.path) + "Fill#CAM 1"));
+        EXPECT_THAT(TouchRow(0), ElementsAre(string(path) + "Fill#CAM 1"));
         EXPECT_THAT(TouchRow(3), IsEmpty()); // below the last row
         BA_SetDefaultButton(1);
         EXPECT_THAT(TouchRow(0), IsEmpty());
@@ -191,25 +189,20 @@ TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
 
 TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
 {
-    static const struct {
-        uint32_t page;
-        const char* path;
-        int button;
-        uint32_t target;
-    } cases[] = {
+    static const std::tuple<uint32_t, const char*, int, uint32_t> cases[] = {
         {0x11310002, "M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern#", 37, 0x11310004},
         {0x85320001, "M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern#", 37, 0x85320002},
         {0x14220003, "PGM/PST@DSK2@Edge@Zabton@Pattern#", 21, 0x14220004},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        Tell(string(c.path) + "67");
-        EXPECT_EQ(Caption(c.button), "Pattern\nSelect\n67");
-        Tell(string(c.path) + "none");
-        EXPECT_EQ(Caption(c.button), "Pattern\nSelect");
+    for (const auto& [page, path, button, target] : cases) {
+        Open(page);
+        Tell(string(path) + "67");
+        EXPECT_EQ(Caption(button), "Pattern\nSelect\n67");
+        Tell(string(path) + "none");
+        EXPECT_EQ(Caption(button), "Pattern\nSelect");
         TellAll("M/E-", {"4@Key7@Edge@Matte Adjust@Mode#Mix", "1@Key3@Type@Matte Adjust@Mode#Mix"});
-        Press(c.button);
-        EXPECT_EQ(GL_CreatePage, c.target);
+        Press(button);
+        EXPECT_EQ(GL_CreatePage, target);
     }
 }
 

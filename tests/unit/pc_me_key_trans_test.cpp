@@ -8,11 +8,7 @@ constexpr uint32_t SAME = 0x12370100, INDEPENDENT = 0x12370200;
 
 TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
 {
-    static const struct {
-        uint32_t page;
-        const char *on, *off;
-        std::set<int> disabled;
-    } cases[] = {
+    static const std::tuple<uint32_t, const char*, const char*, std::set<int>> cases[] = {
         {SAME, "Cut", "Wipe", {33, 34, 35, 36, 37, 51}}, // off has no say
         {SAME, "Mix", "Wipe", {33, 34, 35, 36, 37}},
         {SAME, "Wipe", "Cut", {37}},
@@ -21,34 +17,30 @@ TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
         {INDEPENDENT, "Wipe", "Cut", {38, 53}},
         {INDEPENDENT, "Stinger", "DME Wipe", {22}},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
+    for (const auto& [page, on, off, disabled] : cases) {
+        Open(page);
         TellAll("M/E-2@Key3@", {"Video Process@Video Process#true",
-                                std::string("Transition@ON Transition Type#") + c.on,
-                                std::string("Transition@OFF Transition Type#") + c.off});
-        EXPECT_EQ(Disabled(), c.disabled) << std::hex << c.page << c.on << c.off;
+                                std::string("Transition@ON Transition Type#") + on,
+                                std::string("Transition@OFF Transition Type#") + off});
+        EXPECT_EQ(Disabled(), disabled) << std::hex << page << on << off;
     }
 }
 
 TEST_F(KeyTransitionPage, PatternSelectLeadsToWhatTheTypeIsMadeOf)
 {
-    static const struct {
-        uint32_t page;
-        const char* type; // of which way, and the line that tells it
-        int button;
-        uint32_t target;
-    } cases[] = {
+    // type: of which way, and the line that tells it
+    static const std::tuple<uint32_t, const char*, int, uint32_t> cases[] = {
         {0x11170100, "M/E-1@Key1@Transition@ON Transition Type#Wipe", 36, 0x11170004},
         {0x82470100, "M/E-5@Key4@Transition@ON Transition Type#DME Wipe", 36, 0x82470006},
         {0x14270200, "PGM/PST@DSK2@Transition@ON Transition Type#Wipe", 22, 0x14270004},
         {0x14270200, "PGM/PST@DSK2@Transition@OFF Transition Type#Wipe", 38, 0x14270005},
         {0x15370200, "M/E-1@Key7@Transition@OFF Transition Type#DME Wipe", 38, 0x15370006},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        Tell(c.type);
-        (void)Press(c.button);
-        EXPECT_EQ(GL_CreatePage, c.target) << c.type;
+    for (const auto& [page, type, button, target] : cases) {
+        Open(page);
+        Tell(type);
+        (void)Press(button);
+        EXPECT_EQ(GL_CreatePage, target) << type;
     }
 }
 

@@ -3,7 +3,20 @@
 #include "a_st.h"
 #include "table_page.h"
 
-using MeMisc = TablePage;
+struct MeMisc : TablePage {
+    // The line of the priority cell that has the bar; -1 none.
+    static int MarkedLine()
+    {
+        int marked = -1;
+        Pass(10);
+        for (int line = 0; line < 4; line++)
+            if (PixelAt(608, 165 + 22 + 15 * line) == 0xFFFFFF) {
+                EXPECT_EQ(marked, -1);
+                marked = line;
+            }
+        return marked;
+    }
+};
 
 static const struct {
     uint32_t bank; // of the page's id
@@ -214,11 +227,8 @@ TEST_F(MeMisc, TheMatrixGivesBackBothListsWhicheverWasShown)
 // The bar lies on the line of the key whose page it is.
 TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
 {
-    static const struct {
-        uint32_t page;
-        const char* tally;
-        int line; // -1 none
-    } cases[] = {
+    // line: -1 none
+    static const std::tuple<uint32_t, const char*, int> cases[] = {
         {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#2,1,3,4", 1},
         {0x14410000, "PGM/PST@Misc@Key Priority@Key Priority#2,4,3,1,1,2,3,4", 0},
         {0x85310000, "M/E-4@Misc@Key Priority@Key Priority#1,2,3,4,1,2,4,3", 3},
@@ -226,13 +236,10 @@ TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
         {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#1,1,3,4", -1},
         {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#1,2,9,4", -1},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        Tell(c.tally);
-        Pass(10);
-        for (int line = 0; line < 4; line++)
-            EXPECT_EQ(PixelAt(608, 165 + 22 + 15 * line) == 0xFFFFFF, line == c.line)
-                << c.tally << " line " << line;
+    for (const auto& [page, tally, line] : cases) {
+        Open(page);
+        Tell(tally);
+        EXPECT_EQ(MarkedLine(), line) << tally;
     }
 }
 
@@ -240,30 +247,23 @@ TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
 TEST_F(MeMisc, TheOrderOfTheSubSidesKeysIsTheSameOnAllPages)
 {
     multiprogram2_me[1] = 1;
-    static const struct {
-        const char* enable;
-        int line; // of key 5
-    } cases[] = {{"true", 3}, {"false", 0}};
-    for (const auto& c : cases) {
+    for (const auto& [enable, line] : {std::pair{"true", 3}, {"false", 0}}) {
         const std::string own = "M/E-1 SUB@Misc@Key Priority@";
-        const auto tell_orders = [&] {
+        const auto tell_orders = [&](const std::string& value) {
             Tell("M/E-1@Misc@Key Priority@Key Priority#1,2,3,4,1,2,3,4");
-            TellAll(own, {"Key Priority#1,2,3,4,4,3,2,1", std::string("Enable#") + c.enable});
-            Pass(10);
+            TellAll(own, {"Key Priority#1,2,3,4,4,3,2,1", std::string("Enable#") + value});
         };
         Open(0x15110000);
-        tell_orders();
-        for (int line = 0; line < 4; line++)
-            EXPECT_EQ(PixelAt(608, 165 + 22 + 15 * line) == 0xFFFFFF, line == c.line)
-                << c.enable << " line " << line;
+        tell_orders(enable);
+        EXPECT_EQ(MarkedLine(), line) << enable << " of key 5";
 
         Open(0x11730000);
         (void)Press(53);
         EXPECT_EQ(std::exchange(GL_CreatePage, 0), 0x15730000u);
 
         const Lines opened = Open(0x11730001);
-        tell_orders();
-        EXPECT_EQ(Usable({0x11, 0x44, 5, 22}).empty(), c.line == 3) << c.enable;
+        tell_orders(enable);
+        EXPECT_EQ(Usable({0x11, 0x44, 5, 22}).empty(), line == 3) << enable;
         EXPECT_EQ(Held(opened, own + "Enable"), -Held(Leave(), own + "Enable"));
     }
 }
@@ -397,14 +397,12 @@ TEST_F(MeMisc, AKeyThatNobodyAssignedFollowsTheSetup)
             {"M/E Output Assign@List#M/E-2,1,Main", "M/E Output Assign@List#M/E-2,2,Sub",
              "PGM Config@List#M/E-2,1,03",   // keys 1 and 2
              "PGM Config@List#M/E-2,2,42"}); // keys 2 and 7
-    static const struct {
-        int main, sub; // buttons
-        bool is_main, is_sub;
-    } keys[] = {
+    // sub: buttons
+    static const std::tuple<int, int, bool, bool> keys[] = {
         {1, 33, true, false}, {2, 34, true, true}, {3, 35, false, false}, {19, 51, false, true}};
-    for (const auto& k : keys) {
-        EXPECT_EQ(BT_GetOnOff(k.main), k.is_main) << k.main;
-        EXPECT_EQ(BT_GetOnOff(k.sub), k.is_sub) << k.sub;
+    for (const auto& [main, sub, is_main, is_sub] : keys) {
+        EXPECT_EQ(BT_GetOnOff(main), is_main) << main;
+        EXPECT_EQ(BT_GetOnOff(sub), is_sub) << sub;
     }
     Tell("M/E-2@Misc@Key Assign@Key1#Off");
     EXPECT_EQ(BT_GetOnOff(1), 0);
@@ -455,21 +453,20 @@ TEST_F(MeMisc, TheTwoTimesLieInTheClipThatIsLoaded)
     EXPECT_THAT(Usable({37, 53}), IsEmpty());
     Tell(path + "Clip Name#GOAL");
     EXPECT_THAT(Usable({37, 53}), ElementsAre(37, 53));
-    static const struct {
-        const char* duration;
-        double sent; // after a value far beyond
-    } cases[] = {{"250", 249}, {"-5", 215999}, {"x", 215999}, {"1", 215999}};
-    for (const auto& c : cases) {
+    // sent: after a value far beyond
+    static const std::pair<const char*, double> cases[] = {
+        {"250", 249}, {"-5", 215999}, {"x", 215999}, {"1", 215999}};
+    for (const auto& [duration, sent] : cases) {
         Open(0x82760000);
-        Tell(path + "Clip Duration#" + c.duration);
+        Tell(path + "Clip Duration#" + duration);
         (void)Press(37);
         Tell(path + "Start TC#0");
         (void)NB_SetSelect(1);
         (void)NB_SendTrimValue(9999999);
         char expected[64];
-        NB_Text(NB_MEM{.type = NB_TC}, c.sent, expected, sizeof expected);
+        NB_Text(NB_MEM{.type = NB_TC}, sent, expected, sizeof expected);
         EXPECT_THAT(TakeQueuedCommands(), Contains("put " + path + "Start TC#" + expected))
-            << c.duration;
+            << duration;
     }
 }
 
@@ -497,11 +494,8 @@ TEST_F(MeMisc, AllHoldTellsNoneSomeAndAllAndSetsTheRest)
 
 TEST_F(MeMisc, TheOverviewLeadsToTheKeysAndPagesOfItsOwnBankAndSide)
 {
-    static const struct {
-        uint32_t page;
-        int x, y; // a cell or a button
-        uint32_t target;
-    } cases[] = {
+    // y: a cell or a button
+    static const std::tuple<uint32_t, int, int, uint32_t> cases[] = {
         {0x12000000, 150, 120, 0x12110000},                                     // key 1, type
         {0x14000000, 450, 390, 0x14440000},                                     // key 4, sub mask
         {0x18000000, 550, 120, 0x18710000}, {0x82000000, 650, 120, 0x82730000}, // priority
@@ -509,9 +503,9 @@ TEST_F(MeMisc, TheOverviewLeadsToTheKeysAndPagesOfItsOwnBankAndSide)
         {0x18000000, 550, 200, 0x18510000}, {0x82000000, 550, 380, 0x82730000},
         {0x15000000, 550, 380, 0x15730000},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        SendMessage(MSG_PRESS, c.x, c.y, 1, 0);
-        EXPECT_EQ(std::exchange(GL_CreatePage, 0), c.target) << std::hex << c.page << " " << c.x;
+    for (const auto& [page, x, y, target] : cases) {
+        Open(page);
+        SendMessage(MSG_PRESS, x, y, 1, 0);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0), target) << std::hex << page << " " << x;
     }
 }

@@ -39,10 +39,7 @@ TEST_F(BankOfPage, TheBankOfAPageHasOneWordAndOneRegion)
 // Beside what its buttons and boxes follow.
 TEST_F(BankOfPage, APageFollowsWhatItsCodeShowsOfItsOwnBank)
 {
-    static const struct {
-        uint32_t page;
-        Lines paths;
-    } cases[] = {
+    static const std::pair<uint32_t, Lines> cases[] = {
         {0x85320001, {"M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern", "M/E-4@Key7@Edge@Edge"}},
         {0x11310002, {"M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern"}},
         {0x82760000,
@@ -50,11 +47,11 @@ TEST_F(BankOfPage, APageFollowsWhatItsCodeShowsOfItsOwnBank)
         {0x12740000, {"M/E-2@Misc@Key Assign@Key1", "M/E-2@Misc@Key Assign@Key8"}},
         {0x12540000, {"M/E-2@Wipe@Direction@Normal", "M/E-2@Wipe@Direction@Reverse"}},
     };
-    for (const auto& c : cases) {
-        const Lines opened = Open(c.page);
-        ASSERT_EQ(GL_NowPage, c.page);
+    for (const auto& [page, paths] : cases) {
+        const Lines opened = Open(page);
+        ASSERT_EQ(GL_NowPage, page);
         const Lines left = Leave();
-        for (const std::string& path : c.paths) {
+        for (const std::string& path : paths) {
             EXPECT_GE(Held(opened, path), 1) << path;
             EXPECT_EQ(Held(left, path), -Held(opened, path)) << path;
         }
@@ -64,38 +61,32 @@ TEST_F(BankOfPage, APageFollowsWhatItsCodeShowsOfItsOwnBank)
 TEST_F(BankOfPage, ABoardInFourBanksLeavesEachWithFourKeys)
 {
     Tell("Engineering Setup@System@Install@Unit Config@M/E Split#1,4,2,1,1");
-    static const struct {
-        uint32_t asked, opened;
-    } cases[] = {
+    static const std::pair<uint32_t, uint32_t> cases[] = {
         {0x15130000, 0x15130000}, // M/E-1 has eight
         {0x16330000, 0x12330000}, // M/E-2: the same page of its first four
         {0x17110000, 0x17110000}, // two banks: eight each
         {0x16510000, 0x16510000}, // the limit is one of keys
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(CreatePage(c.asked), 0);
-        EXPECT_EQ(GL_NowPage, c.opened) << std::hex << c.asked;
+    for (const auto& [asked, opened] : cases) {
+        EXPECT_EQ(CreatePage(asked), 0);
+        EXPECT_EQ(GL_NowPage, opened) << std::hex << asked;
     }
 }
 
 TEST_F(BankOfPage, DefaultRecallFromATabStaysOnItsSide)
 {
-    static const struct {
-        uint32_t page;
-        int slot;
-        int multi; // the bank has a sub side
-        const char* sent;
-    } cases[] = {
+    // multi: the bank has a sub side
+    static const std::tuple<uint32_t, int, int, const char*> cases[] = {
         {0x15510000, 5, 1, "default M/E-1 SUB@Wipe"},     {0x15110000, 1, 1, "default M/E-1@Key5"},
         {0x86710000, 6, 1, "default M/E-5 SUB@DME Wipe"}, {0x15110000, 5, 0, "default M/E-1@Wipe"},
         {0x81110000, 7, 0, "default M/E-4@Misc"},
     };
-    for (const auto& c : cases) {
-        std::fill_n(multiprogram2_me, ME_COUNT, c.multi);
-        Open(c.page);
+    for (const auto& [page, slot, multi, sent] : cases) {
+        std::fill_n(multiprogram2_me, ME_COUNT, multi);
+        Open(page);
         BA_SetDefaultButton(1);
-        EXPECT_THAT(Touch(40, 73 + 65 * (c.slot - 1) + 20), Contains(c.sent));
-        EXPECT_EQ(BA_IsDefaultButton(), 0) << c.sent;
+        EXPECT_THAT(Touch(40, 73 + 65 * (slot - 1) + 20), Contains(sent));
+        EXPECT_EQ(BA_IsDefaultButton(), 0) << sent;
     }
 }
 

@@ -16,11 +16,7 @@ struct MeWipe : TablePage {
 
 TEST_F(MeWipe, APatternWithoutAMiddleHasNoPosition)
 {
-    static const struct {
-        uint32_t page;
-        const char* line;
-        bool disabled;
-    } cases[] = {
+    static const std::tuple<uint32_t, const char*, bool> cases[] = {
         {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#3", true},
         {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#33", false},
         {0x11510000, "M/E-1@Wipe@Sub Pattern@Pattern#3", false}, // of the other page
@@ -29,11 +25,11 @@ TEST_F(MeWipe, APatternWithoutAMiddleHasNoPosition)
         {0x15510000, "M/E-1@Wipe@Main Pattern@Pattern#180", false}, // of the other side
         {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#900", false}, // not in the catalogue
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        Tell(c.line);
-        EXPECT_EQ(Usable({53, 54}).size(), c.disabled ? 0u : 2u) << c.line;
-        EXPECT_STREQ(NB_GetTitle(), c.disabled ? "" : "Position") << c.line;
+    for (const auto& [page, line, disabled] : cases) {
+        Open(page);
+        Tell(line);
+        EXPECT_EQ(Usable({53, 54}).size(), disabled ? 0u : 2u) << line;
+        EXPECT_STREQ(NB_GetTitle(), disabled ? "" : "Position") << line;
     }
     TellAll("M/E-1@Wipe@Main Pattern@Pattern#", {"3", "33"});
     EXPECT_THAT(Usable({53, 54}), ElementsAre(53, 54));
@@ -90,27 +86,20 @@ TEST_F(MeWipe, TheKeysStandAgainAfterTheGridHasGoneToAnotherLayer)
 
 TEST_F(MeWipe, OnlyTwoPatternsOfOneOutlineEachCanMorph)
 {
-    static const struct {
-        const char *main, *sub;
-        bool disabled;
-    } cases[] = {{"65", "33", false}, {"1", "97", false}, {"65", "180", true}, {"113", "33", true}};
-    for (const auto& c : cases) {
+    static const std::tuple<const char*, const char*, bool> cases[] = {
+        {"65", "33", false}, {"1", "97", false}, {"65", "180", true}, {"113", "33", true}};
+    for (const auto& [main, sub, disabled] : cases) {
         EXPECT_THAT(Open(0x14530000), AllOf(Contains("add PGM/PST@Wipe@Main Pattern@Pattern"),
                                             Contains("add PGM/PST@Wipe@Sub Pattern@Pattern")));
-        TellAll("PGM/PST@Wipe@", {std::string("Main Pattern@Pattern#") + c.main,
-                                  std::string("Sub Pattern@Pattern#") + c.sub});
-        EXPECT_EQ(Disabled(), c.disabled ? std::set{21} : std::set<int>{})
-            << c.main << " and " << c.sub;
+        TellAll("PGM/PST@Wipe@", {std::string("Main Pattern@Pattern#") + main,
+                                  std::string("Sub Pattern@Pattern#") + sub});
+        EXPECT_EQ(Disabled(), disabled ? std::set{21} : std::set<int>{}) << main << " and " << sub;
     }
 }
 
 TEST_F(MeWipe, TheModifiersOfAPatternAreThoseThatItHas)
 {
-    static const struct {
-        uint32_t page;
-        const char* line;
-        std::set<int> disabled;
-    } cases[] = {
+    static const std::tuple<uint32_t, std::string, std::set<int>> cases[] = {
         {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#67", {36, 37, 54}},
         {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#1", {17, 18, 19, 20}},
         {0x13560000, "M/E-3@Wipe@Sub Pattern@Pattern#1", {17, 18, 19, 20}},
@@ -118,12 +107,11 @@ TEST_F(MeWipe, TheModifiersOfAPatternAreThoseThatItHas)
         {0x17550000, "M/E-3 SUB@Wipe@Main Pattern@Pattern#81", {36, 37, 49, 50, 51, 52, 54}},
         {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#500", {}},
     };
-    for (const auto& c : cases) {
-        const std::string line = c.line;
-        const Lines opened = Open(c.page);
+    for (const auto& [page, line, disabled] : cases) {
+        const Lines opened = Open(page);
         Tell(line);
-        EXPECT_EQ(Disabled(), c.disabled) << line;
-        if (!c.disabled.empty()) {
+        EXPECT_EQ(Disabled(), disabled) << line;
+        if (!disabled.empty()) {
             EXPECT_THAT(opened, Contains("add " + line.substr(0, line.find('#'))));
         }
     }
@@ -244,11 +232,8 @@ TEST_F(MeWipeSnapshot, AModeStoresOrDeletesOnceAndThenRecallsAgain)
     OpenWith(0x11570000, wipe + "M/E-1@List", {"7,CIRCLE,S", "5,BOX,L"});
     EXPECT_THAT(Press(KEY_1), IsEmpty()) << "empty";
 
-    const struct {
-        int mode, key;
-        Lines sent;
-        int after; // status of the mode key
-    } cases[] = {
+    // after: status of the mode key
+    const std::tuple<int, int, Lines, int> cases[] = {
         {STORE, KEY_1, {"put " + wipe + "Store#2,1"}, BT_OFF},
         {STORE, KEY_7, {"put " + wipe + "Store#2,7"}, BT_OFF},
         {STORE, KEY_5, {}, BT_OFF},
@@ -256,11 +241,11 @@ TEST_F(MeWipeSnapshot, AModeStoresOrDeletesOnceAndThenRecallsAgain)
         {DELETE, KEY_5, {}, BT_OFF},
         {DELETE, KEY_10, {}, BT_THIRD},
     };
-    for (const auto& c : cases) {
-        EXPECT_THAT(Press(c.mode), IsEmpty());
-        EXPECT_EQ(BT_GetStatus(c.mode), BT_THIRD);
-        EXPECT_EQ(Press(c.key), c.sent) << c.mode << " " << c.key;
-        EXPECT_EQ(BT_GetStatus(c.mode), c.after) << c.mode << " " << c.key;
+    for (const auto& [mode, key, sent, after] : cases) {
+        EXPECT_THAT(Press(mode), IsEmpty());
+        EXPECT_EQ(BT_GetStatus(mode), BT_THIRD);
+        EXPECT_EQ(Press(key), sent) << mode << " " << key;
+        EXPECT_EQ(BT_GetStatus(mode), after) << mode << " " << key;
         Pass(200);
     }
     (void)Press(STORE); // one mode ends the other

@@ -5,8 +5,6 @@
 #include "pane.h"
 #include "table_page.h"
 
-namespace
-{
 constexpr uint32_t DESTINATION = 0x51110000, SOURCE = 0x51210000, LEVEL = 0x51310000;
 constexpr int KEY_TAKE = 33, KEY_LEVELS = 49;
 const std::string DEST = "Router@Destination@";
@@ -20,7 +18,6 @@ struct RouterPage : TablePage {
     }
     void TearDown() override
     {
-        (void)Leave();
         Names("", "");
         TablePage::TearDown();
     }
@@ -40,7 +37,6 @@ struct RouterPage : TablePage {
         return Puts(TakeQueuedCommands());
     }
 };
-} // namespace
 
 TEST_F(RouterPage, ASourceIsThePresetOfTheChosenDestinationUnlessItIsNotOursToChange)
 {
@@ -53,26 +49,21 @@ TEST_F(RouterPage, ASourceIsThePresetOfTheChosenDestinationUnlessItIsNotOursToCh
     Names("SRC ", "DST ");
     Pass(10);
     (void)Choose(1, 2);
-    EXPECT_THAT(Choose(2, 1), testing::ElementsAre("put " + DEST + "Dest3@Preset#SRC 2"));
-    static const struct {
-        const char* lock;
-        const char* owner;
-        bool is_sent;
-    } cases[] = {{"Protect", "PNL2", false},
-                 {"Protect", "PNL1", true},
-                 {"Lock", "PNL1", false},
-                 {"Lock", "", false},
-                 {"Free", "", true}};
-    for (const auto& c : cases) {
-        TellAll(DEST, {std::string("Dest3@Lock#") + c.lock, std::string("Dest3@Owner#") + c.owner});
-        EXPECT_EQ(Choose(2, 0).size(), c.is_sent ? 1u : 0u) << c.lock << c.owner;
-        EXPECT_EQ(Pane_GetActiveID() != 0, !c.is_sent) << c.lock << c.owner;
+    EXPECT_THAT(Choose(2, 1), ElementsAre("put " + DEST + "Dest3@Preset#SRC 2"));
+    static const std::tuple<const char*, const char*, bool> cases[] = {{"Protect", "PNL2", false},
+                                                                       {"Protect", "PNL1", true},
+                                                                       {"Lock", "PNL1", false},
+                                                                       {"Lock", "", false},
+                                                                       {"Free", "", true}};
+    for (const auto& [lock, owner, is_sent] : cases) {
+        TellAll(DEST, {std::string("Dest3@Lock#") + lock, std::string("Dest3@Owner#") + owner});
+        EXPECT_EQ(Choose(2, 0).size(), is_sent ? 1u : 0u) << lock << owner;
+        EXPECT_EQ(Pane_GetActiveID() != 0, !is_sent) << lock << owner;
         if (Pane_GetActiveID())
             Pane_Quit(Pane_GetActiveID());
-        EXPECT_EQ(BT_GetVisible(KEY_TAKE),
-                  std::string(c.lock) == "Lock" ? BT_DISABLED : BT_ENABLED);
+        EXPECT_EQ(BT_GetVisible(KEY_TAKE), std::string(lock) == "Lock" ? BT_DISABLED : BT_ENABLED);
     }
-    EXPECT_THAT(Press(KEY_TAKE), testing::Contains("put " + DEST + "Dest3@Take#true"));
+    EXPECT_THAT(Press(KEY_TAKE), Contains("put " + DEST + "Dest3@Take#true"));
 }
 
 TEST_F(RouterPage, TheColumnIsHeadedByWhatTheNumberIsOf)
@@ -87,8 +78,8 @@ TEST_F(RouterPage, OneSourceGoesToEachDestinationThatIsTouchedAndItsPlacesAreMar
 {
     (void)Open(SOURCE);
     (void)Choose(2, 3);
-    EXPECT_THAT(Choose(1, 0), testing::ElementsAre("put " + DEST + "Dest1@Preset#SRC 4"));
-    EXPECT_THAT(Choose(1, 127), testing::ElementsAre("put " + DEST + "Dest128@Preset#SRC 4"));
+    EXPECT_THAT(Choose(1, 0), ElementsAre("put " + DEST + "Dest1@Preset#SRC 4"));
+    EXPECT_THAT(Choose(1, 127), ElementsAre("put " + DEST + "Dest128@Preset#SRC 4"));
     (void)Tell(DEST + "Dest128@Preset#SRC 4");
     (void)Tell("Router@Status@Xpt Assign@Dest7@Level1#SRC 4");
     Pass(10);
@@ -118,7 +109,7 @@ TEST_F(RouterPage, OnlyTheLevelsThatWereChangedAreSent)
     const int pane = Pane_GetActiveID();
     Pane_Quit(pane);
     SendMessage(LMSG_PANEQUIT, pane, 1, 0, 0);
-    EXPECT_THAT(Puts(TakeQueuedCommands()), testing::ElementsAre("put Router@Level@Level2#true"));
+    EXPECT_THAT(Puts(TakeQueuedCommands()), ElementsAre("put Router@Level@Level2#true"));
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x40) << "is not touched";
     PaneRTRLvl_SetSelect(0);
 }

@@ -1,25 +1,11 @@
 // Format converters: which inputs are on the page, which knobs a mode has, what goes out.
 #include "a_nb.h"
-#include "pc_setup_fcadjust.h"
 #include "setup_desk.h"
 
-namespace
-{
 const std::string ADJUST = "Engineering Setup@Switcher@Input@FC Adjust@";
 constexpr uint32_t FC_PAGE = 0x73320007, FC6_PAGE = 0x73320002, FC3G_PAGE = 0x73320008;
 
 struct FcAdjust : SetupTest {
-    void SetUp() override
-    {
-        SetupTest::SetUp();
-        SetupFcAdjust_Reset();
-    }
-    void TearDown() override
-    {
-        (void)Leave();
-        SetupFcAdjust_Reset();
-        SetupTest::TearDown();
-    }
     // The boxes that there are, in their order, each with what it turns.
     static std::string Knobs()
     {
@@ -40,16 +26,13 @@ struct FcAdjust : SetupTest {
         return lines.empty() ? -1 : atof(lines.back().substr(lines.back().find('#') + 1).c_str());
     }
 };
-} // namespace
 
 TEST_F(FcAdjust, AnInputOfAnotherConverterHasNoPlace)
 {
     FCInput = 1;
-    static const struct {
-        int n, id;
-    } cases[] = {{4, 0}, {7, 3}, {3, -1}, {8, -1}, {-1, -1}};
-    for (const auto& c : cases)
-        EXPECT_EQ(fcadjust_n_to_id(c.n), c.id) << c.n;
+    static const std::pair<int, int> cases[] = {{4, 0}, {7, 3}, {3, -1}, {8, -1}, {-1, -1}};
+    for (const auto& [n, id] : cases)
+        EXPECT_EQ(fcadjust_n_to_id(n), id) << n;
 }
 
 TEST(FcFormatCheck, AChangeOfFormatNeedsItsKindOfConversion)
@@ -69,8 +52,6 @@ TEST(FcFormatCheck, AChangeOfFormatNeedsItsKindOfConversion)
 
 TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
 {
-    using testing::Contains;
-    using testing::Not;
     (void)Tell("Engineering Setup@Panel@Xpt Assign@Source@List#9,CAM 9");
     const Lines opened = Open(FC_PAGE);
     EXPECT_THAT(opened, Contains("add " + ADJUST + "Convert Mode@3"));
@@ -78,8 +59,7 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
     EXPECT_THAT(opened, Not(Contains("add " + ADJUST + "Convert Mode@4")));
     EXPECT_THAT(opened, Contains("add " + ADJUST + "EC Pos Center@3"));
     EXPECT_THAT(opened, Contains("add " + ADJUST + "LB Pos Center@0"));
-    (void)Push(BTN_FCADJUST_GROUP);
-    const Lines changed = Answer(2);
+    const Lines changed = Choose(BTN_FCADJUST_GROUP, 2);
     EXPECT_THAT(changed, Contains("remove " + ADJUST + "H/V@0"));
     EXPECT_THAT(changed, Contains("add " + ADJUST + "H/V@7"));
     TellAll(ADJUST, {"Convert Mode@4#1", "Convert Mode@0#2", "Aspect Type@7#Squeeze",
@@ -96,11 +76,8 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
 
 TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
 {
-    static const struct {
-        uint32_t page;
-        std::vector<const char*> lines;
-        const char* knobs; // a motion is read as soon as it has one
-    } cases[] = {
+    // knobs: a motion is read as soon as it has one
+    static const std::tuple<uint32_t, std::vector<const char*>, const char*> cases[] = {
         {FC_PAGE, {"Convert Mode@0#0"}, ""},
         {FC_PAGE, {"Convert Mode@0#3"}, "Motion Sel@0"},
         {FC_PAGE,
@@ -113,23 +90,21 @@ TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
          {"Convert Mode@0#2", "Aspect Type@0#Letter Box", "LB Pos Mode@0#1"},
          "Motion Sel@0 LB Pos@0"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [page, lines, knobs] : cases) {
         SetupFcAdjust_Reset();
-        (void)Open(c.page);
+        (void)Open(page);
         Lines sent;
-        for (const char* line : c.lines)
+        for (const char* line : lines)
             for (const std::string& command : Tell(ADJUST + line))
                 sent.push_back(command);
-        EXPECT_EQ(Knobs(), c.knobs) << c.lines[0];
-        EXPECT_EQ(testing::Value(sent, testing::Contains("read " + ADJUST + "Motion Sel@0")),
-                  *c.knobs != 0)
-            << c.lines[0];
+        EXPECT_EQ(Knobs(), knobs) << lines[0];
+        EXPECT_EQ(testing::Value(sent, Contains("read " + ADJUST + "Motion Sel@0")), *knobs != 0)
+            << lines[0];
         (void)Leave();
     }
     (void)Open(FC_PAGE);
     TellAll(ADJUST, {"Convert Mode@1#1", "Enhancer Mode@1#1"});
-    SelectRow(1);
-    (void)Push(BTN_FCADJUST_ENHANCER_ADJUST);
+    (void)PushIn(1, BTN_FCADJUST_ENHANCER_ADJUST);
     EXPECT_EQ(Knobs(), "Detail Gain@1 H/V@1");
     (void)Leave();
     (void)Open(FC3G_PAGE);
@@ -159,28 +134,23 @@ TEST_F(FcAdjust, TheAspectLimitsThePositions)
 
 TEST_F(FcAdjust, APressGoesOutAtOnceAndOnlyTheAnswerShowsIt)
 {
-    using testing::ElementsAre;
     (void)Open(FC_PAGE);
     TellAll(ADJUST, {"Convert Mode@2#2", "Aspect Type@2#Edge Crop", "EC Pos Mode@2#1",
                      "FC Signal Format#0,1,0"});
     SelectRow(2);
-    static const struct {
-        int key;
-        const char* line;
-    } cases[] = {
+    static const std::pair<int, const char*> cases[] = {
         {34, "Convert Mode@2#1"},
         {BTN_FCADJUST_TYPE + 1, "Aspect Type@2#Letter Box"},
         {BTN_FCADJUST_EC_MODE, "EC Pos Mode@2#0"},
         {BTN_FCADJUST_EC_CENTER, "EC Pos@2#0"},
     };
-    for (const auto& c : cases)
-        EXPECT_THAT(Push(c.key), ElementsAre("put " + ADJUST + c.line));
+    for (const auto& [key, line] : cases)
+        EXPECT_THAT(Push(key), ElementsAre("put " + ADJUST + line));
     EXPECT_EQ(Row(2, 5), "3||Down||Edge Crop");
-    EXPECT_THAT(Push(22), testing::AllOf(testing::Contains("put " + ADJUST + "Default#2"),
-                                         testing::Contains("read " + ADJUST + "LB Pos@2")));
-    (void)Push(BTN_FCADJUST_FORMAT);
-    EXPECT_THAT(Answer(5), ElementsAre("put " + ADJUST + "FC Signal Format#4,1,0"));
-    (void)Push(BTN_FCADJUST_FORMAT);
-    EXPECT_THAT(Answer(4), testing::IsEmpty()) << "1080i is not for this kind";
+    EXPECT_THAT(Push(22), AllOf(Contains("put " + ADJUST + "Default#2"),
+                                Contains("read " + ADJUST + "LB Pos@2")));
+    EXPECT_THAT(Choose(BTN_FCADJUST_FORMAT, 5),
+                ElementsAre("put " + ADJUST + "FC Signal Format#4,1,0"));
+    EXPECT_THAT(Choose(BTN_FCADJUST_FORMAT, 4), IsEmpty()) << "1080i is not for this kind";
     Dismiss();
 }

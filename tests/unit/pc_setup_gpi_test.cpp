@@ -2,18 +2,11 @@
 #include "pc_setup_gpi.h"
 #include "setup_desk.h"
 
-namespace
-{
 const std::string PORTS = "Engineering Setup@Switcher@Device Interface@GPI Output@";
 constexpr uint32_t OUTPUT_PAGE = 0x73370007, INPUT_PAGE = 0x73370004, FC_PAGE = 0x73370006;
 enum : int { KEY_TRIGGER = 33, KEY_ACTION = 34, KEY_TARGET = 35, KEY_TEST = 37 };
 
 struct Gpi : SetupTest {
-    void TearDown() override
-    {
-        (void)Leave();
-        SetupTest::TearDown();
-    }
     static void OpenOutput()
     {
         (void)Open(OUTPUT_PAGE);
@@ -21,13 +14,7 @@ struct Gpi : SetupTest {
                         "Action Type Region@1@1#0,,0,0", "Trigger Type@2#Level,0x00,0xFF",
                         "Action Type@2@1#0,0,0,0", "Action Type Region@2@1#8,User1,12,0"});
     }
-    static void Choose(int key, int result)
-    {
-        (void)Push(key);
-        (void)Answer(result);
-    }
 };
-} // namespace
 
 TEST_F(Gpi, EachPortIsAskedForWithBothKindsOfActionAndLeftAgain)
 {
@@ -35,10 +22,10 @@ TEST_F(Gpi, EachPortIsAskedForWithBothKindsOfActionAndLeftAgain)
     const Lines left = Leave();
     for (const char* path : {"Trigger Type@1", "Trigger Type@8", "Action Type@1@1",
                              "Action Type@8@1", "Action Type Region@8@1"}) {
-        EXPECT_THAT(opened, testing::Contains("add " + PORTS + path));
-        EXPECT_THAT(left, testing::Contains("remove " + PORTS + path));
+        EXPECT_THAT(opened, Contains("add " + PORTS + path));
+        EXPECT_THAT(left, Contains("remove " + PORTS + path));
     }
-    EXPECT_THAT(opened, testing::Not(testing::Contains("add " + PORTS + "Trigger Type@9")));
+    EXPECT_THAT(opened, Not(Contains("add " + PORTS + "Trigger Type@9")));
 }
 
 TEST_F(Gpi, APortHasEightValuesOfWhichTheEmptyPathSaysNothing)
@@ -75,10 +62,10 @@ TEST_F(Gpi, ExecuteSendsWhatHasChangedInTheFormOfItsAction)
     SelectRow(2);
     Choose(KEY_ACTION, 14);
     EXPECT_THAT(Push(BTN_SHEET_EXECUTE),
-                testing::ElementsAre("put " + PORTS + "Action Type Region@1@1#11,User1,7,0",
-                                     "put " + PORTS + "Action Type@2@1#5,1,0,8",
-                                     "put " + PORTS + "Action Type@3@1#13,0,1,0",
-                                     "put " + PORTS + "Trigger Type@1#Any Edge,0x02,0xFF"));
+                ElementsAre("put " + PORTS + "Action Type Region@1@1#11,User1,7,0",
+                            "put " + PORTS + "Action Type@2@1#5,1,0,8",
+                            "put " + PORTS + "Action Type@3@1#13,0,1,0",
+                            "put " + PORTS + "Trigger Type@1#Any Edge,0x02,0xFF"));
     (void)Push(BTN_SHEET_CLEAR);
     EXPECT_EQ(Row(1, 7), "2|Level|0|255|Effect Recall|User1|12");
 }
@@ -86,8 +73,7 @@ TEST_F(Gpi, ExecuteSendsWhatHasChangedInTheFormOfItsAction)
 TEST_F(Gpi, TestFireGoesToTheSelectedPortWithAnEmptyValue)
 {
     OpenOutput();
-    SelectRow(4);
-    EXPECT_THAT(Push(KEY_TEST), testing::ElementsAre("put " + PORTS + "Test Fire@5#"));
+    EXPECT_THAT(PushIn(4, KEY_TEST), ElementsAre("put " + PORTS + "Test Fire@5#"));
 }
 
 TEST_F(Gpi, InputsHaveTheirOwnPlaceAndAConverterItsTwoSides)
@@ -103,5 +89,5 @@ TEST_F(Gpi, InputsHaveTheirOwnPlaceAndAConverterItsTwoSides)
     EXPECT_EQ(Row(1, 4), "2|FC3|Input|Output");
     (void)Push(36); // low: an input
     EXPECT_THAT(Push(BTN_SHEET_EXECUTE),
-                testing::ElementsAre("put " + input + "H/L Set@FC Input/Output@2#FC3,Input,Input"));
+                ElementsAre("put " + input + "H/L Set@FC Input/Output@2#FC3,Input,Input"));
 }

@@ -1,37 +1,23 @@
 // The buses of the outputs: set, executed, refused while inhibited.
-#include "pc_engsetup_sys.h"
-#include "pc_setup_output.h"
 #include "setup_desk.h"
 
-namespace
-{
-using testing::ElementsAre;
 const std::string OUTPUT = "Engineering Setup@Switcher@Output@";
 
 struct OutputAssign : SetupTest {
     void SetUp() override
     {
         SetupTest::SetUp();
-        SetupOutput_Reset();
         (void)Open(0x73330001);
         TellAll(OUTPUT, {"Assign#1,AUX1,0", "Assign#2,AUX2,3", "Assign#3,AUX3,0", "Source#2,CAM7",
                          "Inhibit#1,false", "Inhibit#2,false", "Inhibit#3,true"});
     }
-    void TearDown() override
-    {
-        (void)Leave();
-        SetupOutput_Reset();
-        SetupTest::TearDown();
-    }
     static void Set(int row, int bus)
     {
         SelectRow(row);
-        (void)Push(BTN_OUTPUT_BUS);
-        (void)Answer(bus);
+        (void)Choose(BTN_OUTPUT_BUS, bus);
         (void)Push(BTN_OUTPUT_SET);
     }
 };
-} // namespace
 
 TEST_F(OutputAssign, ABusIsSetThenExecutedWithTheConverterItHas)
 {
@@ -49,8 +35,7 @@ TEST_F(OutputAssign, AnInhibitedOutputRefusesUntilItIsFreed)
     Dismiss();
     (void)Push(BTN_OUTPUT_INHIBIT);
     Set(2, 9);
-    SelectRow(0);
-    (void)Push(BTN_OUTPUT_SET);
+    (void)PushIn(0, BTN_OUTPUT_SET);
     (void)Push(BTN_OUTPUT_INHIBIT);
     EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + OUTPUT + "Inhibit#3,false",
                                                      "put " + OUTPUT + "Assign#1,AUX9,0",

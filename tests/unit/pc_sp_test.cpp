@@ -17,35 +17,26 @@ int At(int percent)
 {
     return X1 + (X2 - X1) * percent / 109;
 }
-
-struct SpPage : TablePage {
-    void TearDown() override
-    {
-        (void)Leave();
-        TablePage::TearDown();
-    }
-};
+using SpPage = TablePage;
 } // namespace
 
 TEST_F(SpPage, ALineDrawsItsBarsWithinTheScaleAndNothingElseDoes)
 {
     const Lines opened = Open(METER);
     EXPECT_EQ(Held(opened, "SP@SP8@Meter"), 1);
-    static const struct {
-        const char* line;
-        int lit; // percent
-        bool is_over;
-    } cases[] = {{"SP@SP1@Meter#50,0,0,0", 50, false}, {"SP@SP1@Meter#104,1,1,1", 100, true},
-                 {"SP@SP1@Meter#999", 100, true},      {"SP@SP1@Meter#-7,x", 0, false},
-                 {"SP@SP1@Meter#80", 80, false},       {"SP@SP9@Meter#10", 80, false},
-                 {"SP@SP1x@Meter#10", 80, false},      {"SP@SP0@Meter#10", 80, false},
-                 {"SP@SP1@Meters#10", 80, false}};
-    for (const auto& c : cases) {
-        (void)Tell(c.line);
+    // lit: percent
+    static const std::tuple<const char*, int, bool> cases[] = {
+        {"SP@SP1@Meter#50,0,0,0", 50, false}, {"SP@SP1@Meter#104,1,1,1", 100, true},
+        {"SP@SP1@Meter#999", 100, true},      {"SP@SP1@Meter#-7,x", 0, false},
+        {"SP@SP1@Meter#80", 80, false},       {"SP@SP9@Meter#10", 80, false},
+        {"SP@SP1x@Meter#10", 80, false},      {"SP@SP0@Meter#10", 80, false},
+        {"SP@SP1@Meters#10", 80, false}};
+    for (const auto& [line, lit, is_over] : cases) {
+        (void)Tell(line);
         Pass(1500);
-        EXPECT_EQ(IsLit(At(c.lit) - 2, LIT), c.lit > 0) << c.line;
-        EXPECT_EQ(IsLit(At(103), OVER), c.is_over) << c.line;
-        EXPECT_EQ(IsLit(At(c.lit) + 3, LIT), false) << c.line;
+        EXPECT_EQ(IsLit(At(lit) - 2, LIT), lit > 0) << line;
+        EXPECT_EQ(IsLit(At(103), OVER), is_over) << line;
+        EXPECT_EQ(IsLit(At(lit) + 3, LIT), false) << line;
     }
     EXPECT_EQ(Held(Leave(), "SP@SP8@Meter"), -1);
 }

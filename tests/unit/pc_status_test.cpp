@@ -3,8 +3,6 @@
 #include "a_ls.h"
 #include "table_page.h"
 
-namespace
-{
 constexpr uint32_t ME = 0x33110000, KEY = 0x33120000, WIPE = 0x33130000, OUTPUTS = 0x33140001,
                    EFFECTS = 0x33160000;
 constexpr uint32_t MISC = 0x32110000, RATE = 0x32160000;
@@ -13,7 +11,6 @@ constexpr int CELL_X = 250, CELL_Y = 120; // in the first one
 struct StatusPage : TablePage {
     void TearDown() override
     {
-        (void)Leave();
         SYS_MEOperation[0] = 0;
         TablePage::TearDown();
     }
@@ -26,25 +23,20 @@ struct StatusPage : TablePage {
         return page;
     }
 };
-} // namespace
 
 TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpens)
 {
-    static const struct {
-        uint32_t page;
-        int row, key;
-        uint32_t opened;
-    } cases[] = {
+    static const std::tuple<uint32_t, int, int, uint32_t> cases[] = {
         {KEY, 0, 49, 0x11110000},         {KEY, 5, 50, 0x15220000},
         {KEY, 8 * 3 + 6, 54, 0x85370000}, {KEY, 8 * 5 + 3, 53, 0x14460000},
         {WIPE, 0, 49, 0x11710000},        {WIPE, 1, 50, 0x15510000},
         {WIPE, 10, 52, 0x14610000},       {EFFECTS, 0, 49, 0x42110000},
     };
-    for (const auto& c : cases) {
-        (void)Open(c.page);
-        LS_SetNowLine(1, c.row);
-        EXPECT_EQ(PageBy(c.key), c.opened) << std::hex << c.page << " " << c.row;
-        EXPECT_NE(SearchPageTable(c.opened), nullptr) << std::hex << c.opened;
+    for (const auto& [page, row, key, opened] : cases) {
+        (void)Open(page);
+        LS_SetNowLine(1, row);
+        EXPECT_EQ(PageBy(key), opened) << std::hex << page << " " << row;
+        EXPECT_NE(SearchPageTable(opened), nullptr) << std::hex << opened;
     }
 }
 
@@ -83,21 +75,20 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
     GL_ClipStoreSupportMode = 1;
     const Lines opened = Open(OUTPUTS);
     EXPECT_EQ(std::count(opened.begin(), opened.end(), "add " + status), 1) << "of three columns";
-    static const struct {
-        const char *value, *state, *name, *folder;
-    } cases[] = {{"2,/NEWS/OPENING", "Recall", "OPENING", "NEWS"},
-                 {"2,/OPENING", "Recall", "OPENING", ""},
-                 {"1,", "Through", "", ""},
-                 {"0,", "Black", "", ""},
-                 {"", "", "", ""}};
-    for (const auto& c : cases) {
-        (void)Tell(status + "#" + c.value);
-        EXPECT_STREQ(LS_GetData(1, 11, 1), c.state) << c.value;
-        EXPECT_STREQ(LS_GetData(1, 11, 2), c.name) << c.value;
-        EXPECT_STREQ(LS_GetData(1, 11, 3), c.folder) << c.value;
+    static const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
+        {"2,/NEWS/OPENING", "Recall", "OPENING", "NEWS"},
+        {"2,/OPENING", "Recall", "OPENING", ""},
+        {"1,", "Through", "", ""},
+        {"0,", "Black", "", ""},
+        {"", "", "", ""}};
+    for (const auto& [value, state, name, folder] : cases) {
+        (void)Tell(status + "#" + value);
+        EXPECT_STREQ(LS_GetData(1, 11, 1), state) << value;
+        EXPECT_STREQ(LS_GetData(1, 11, 2), name) << value;
+        EXPECT_STREQ(LS_GetData(1, 11, 3), folder) << value;
     }
     LS_SetNowLine(1, 11);
-    EXPECT_THAT(Press(49), testing::Contains("put Frame Mem 2@Clip/Still@Out Pair Select#FM11&12"));
+    EXPECT_THAT(Press(49), Contains("put Frame Mem 2@Clip/Still@Out Pair Select#FM11&12"));
     EXPECT_EQ(GL_CreatePage, 0x21110000u);
     GL_ClipStoreSupportMode = 0;
     (void)Open(OUTPUTS); // what was followed is left, whatever has become of the memory
@@ -105,7 +96,7 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
     EXPECT_STREQ(LS_GetData(1, 7, 2), "MOPENING");
     LS_SetNowLine(1, 7);
     Pass(1000);
-    EXPECT_THAT(Press(49), testing::Contains("put Frame Mem@Recall@Recall Thumbnail@Select#FM7&8"));
+    EXPECT_THAT(Press(49), Contains("put Frame Mem@Recall@Recall Thumbnail@Select#FM7&8"));
 }
 
 TEST_F(StatusPage, ACellLeadsToItsBankWhateverPageItStandsOn)

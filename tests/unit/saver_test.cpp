@@ -81,14 +81,10 @@ struct Saver : testing::Test {
     {
         SDL_Event e{};
         e.type = Uint8(type);
-        if (type == SDL_MOUSEMOTION) {
-            e.motion.x = Uint16(x);
-            e.motion.y = Uint16(y);
-        } else {
+        if (type != SDL_MOUSEMOTION)
             e.button.button = SDL_BUTTON_LEFT;
-            e.button.x = Uint16(x);
-            e.button.y = Uint16(y);
-        }
+        (type == SDL_MOUSEMOTION ? e.motion.x : e.button.x) = Uint16(x);
+        (type == SDL_MOUSEMOTION ? e.motion.y : e.button.y) = Uint16(y);
         Loop_Event(&e);
     }
 };
@@ -120,23 +116,18 @@ TEST_F(Saver, APreviewShowsThePatternsAndLeavesTheSwitcherAsItIs)
     EXPECT_TRUE(has_pattern()) << "what was previewed is what comes";
 }
 
-TEST_F(Saver, APreviewThatCannotComeIsForgotten)
-{
-    GL_ScreenSaverInterval = 0;
-    GL_SSver_PVW = 1;
-    EXPECT_EQ(ScreenSaver(10), 1);
-    GL_ScreenSaverInterval = 600;
-    Passes(3);
-    EXPECT_FALSE(IsSaver()) << "in the middle of work";
-}
-
-TEST_F(Saver, SwitchedOffWhileItIsUpItGoes)
+TEST_F(Saver, WhatIsSwitchedOffGoesAndComesNotAsAPreviewLater)
 {
     Start(17);
     GL_ScreenSaverInterval = 0;
     EXPECT_EQ(ScreenSaver(10), 1);
     EXPECT_FALSE(IsSaver()) << "a still picture is what it is to prevent";
     SDL_ShowCursor(0);
+    GL_SSver_PVW = 1;
+    EXPECT_EQ(ScreenSaver(10), 1);
+    GL_ScreenSaverInterval = 600;
+    Passes(3);
+    EXPECT_FALSE(IsSaver()) << "in the middle of work";
 }
 
 TEST_F(Saver, IsBarredWithoutLosingItsCount)
@@ -145,8 +136,7 @@ TEST_F(Saver, IsBarredWithoutLosingItsCount)
     static const struct {
         const char* what;
         int answer;
-        void (*bar)();
-        void (*lift)();
+        void (*bar)(), (*lift)();
     } cases[] = {
         {"macro editor", 1, [] { GL_NowPage = 0x71420003; }, [] { GL_NowPage = KEY_PAGE; }},
         {"pane", 2, [] { pane = PaneMessage_Create("A", PANE_INFO, "B"); },
@@ -201,7 +191,7 @@ TEST_F(Saver, SwallowsTheTouchThatWakesIt)
     Clock_ms += 1000;
     MBDown = 0;
     Event(SDL_MOUSEBUTTONDOWN, key.x1 + 5, key.y1 + 5);
-    EXPECT_THAT(TakeQueuedCommands(), testing::Contains("put M/E-1@Key1@Type@Key Type#Luminance"));
+    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Key Type#Luminance"));
     MBDown = 0;
 }
 
@@ -278,36 +268,34 @@ struct SaverPictures : Saver {
 
 TEST_F(SaverPictures, ShowsTheNumbersInTurnAndLeavesOutWhatIsNone)
 {
-    static const struct {
-        std::vector<const char*> files;
-        std::vector<int> shown; // by the number of the file in the list
-    } cases[] = {
+    // The files, and which of them are shown in turn.
+    static const std::pair<std::vector<const char*>, std::vector<int>> cases[] = {
         {{"SSrc_0.bmp", "SSrc_3.BMP", "SSrc_99.bmp"}, {0, 1, 2, 0, 1}},
         {{"SSrc_100.bmp", "SSrc_04.bmp", "SSrc_5.png", "ssrc_6.bmp", "SSrc_8.bmp"}, {4, 4}},
     };
     Start(12);
     Wake();
-    for (const auto& c : cases) {
+    for (const auto& [files, order] : cases) {
         std::filesystem::remove_all(FOLDER);
         std::filesystem::create_directory(FOLDER);
-        for (size_t i = 0; i < c.files.size(); i++)
-            Put(c.files[i], 0x100000 + uint32_t(i));
+        for (size_t i = 0; i < files.size(); i++)
+            Put(files[i], 0x100000 + uint32_t(i));
         std::ofstream(Path("SSrc_50.bmp")) << "no bitmap";
         std::ofstream(Path("SSrc_51.bmp"));
         std::filesystem::create_directory(Path("SSrc_52.bmp"));
         // Wherever the last case stopped: the first number of this one begins the count.
         Start(12);
-        for (int n = 0; n < 200 && Middle() != 0x100000u + uint32_t(c.shown[0]); n++)
+        for (int n = 0; n < 200 && Middle() != 0x100000u + uint32_t(order[0]); n++)
             ScreenSaver(1000);
         std::vector<int> shown;
-        for (size_t n = 0; n < c.shown.size(); n++) {
+        while (shown.size() < order.size()) {
             shown.push_back(int(Middle() - 0x100000));
             Passes(99);
             EXPECT_EQ(int(Middle() - 0x100000), shown.back()) << "it is held";
             EXPECT_EQ(PixelAt(60, 18), 0u) << "the lamps are over the picture";
             Passes(1);
         }
-        EXPECT_EQ(shown, c.shown) << c.files[0];
+        EXPECT_EQ(shown, order) << files[0];
         Wake();
     }
 }
@@ -462,19 +450,14 @@ struct SaverSetup : Saver {
 
 TEST_F(SaverSetup, KnobsSetThePatternAndItsTimes)
 {
-    static const struct {
-        int knob;
-        int value;
-        const int* setting;
-        int expected;
-    } cases[] = {
+    static const std::tuple<int, int, const int*, int> cases[] = {
         {1, 0, &GL_ScreenSaverPTN_Mode, 0},        {1, 99, &GL_ScreenSaverPTN_Mode, 17},
         {2, 10, &GL_ScreenSaverVariable_speed, 9}, {2, -5, &GL_ScreenSaverVariable_speed, 0},
         {3, 30, &GL_ScreenSaverPath_Time, 30},     {3, 0, &GL_ScreenSaverPath_Time, 1},
     };
-    for (const auto& c : cases) {
-        SendMessage(LMSG_KNOBVAR, c.knob, c.value, 1, 0);
-        EXPECT_EQ(*c.setting, c.expected) << c.knob << " " << c.value;
+    for (const auto& [knob, value, setting, expected] : cases) {
+        SendMessage(LMSG_KNOBVAR, knob, value, 1, 0);
+        EXPECT_EQ(*setting, expected) << knob << " " << value;
     }
 }
 

@@ -10,8 +10,6 @@
 #include <fstream>
 #include <sys/resource.h>
 
-namespace
-{
 constexpr char MAINTENANCE[] = "/mnt/sys/log/maintenance.log";
 constexpr char PNL[] = "INFORMATION@PNL Self Diagnosis Notice@";
 constexpr char SWR[] = "INFORMATION@SWR Self Diagnosis Notice@";
@@ -63,7 +61,6 @@ struct SelfDiag : BusTest {
         return text.substr(0, text.find('\n')).substr(std::min(text.size(), text.find(": ") + 2));
     }
 };
-} // namespace
 
 TEST_F(SelfDiag, EveryGroupHasItsTextCodeAndTag)
 {
@@ -104,9 +101,7 @@ TEST_F(SelfDiag, EveryGroupHasItsTextCodeAndTag)
 
 TEST_F(SelfDiag, WhatIsNoReportChangesNothing)
 {
-    static const struct {
-        const char *path, *value;
-    } rows[] = {
+    static const std::pair<const char*, const char*> rows[] = {
         {"Fan Speed", ""},
         {"Fan Speed", "PNL1"},
         {"Fan Speed", "PNL7,NG"},
@@ -119,8 +114,8 @@ TEST_F(SelfDiag, WhatIsNoReportChangesNothing)
         {"Fan Speed", "PNL1,--"},
         {"FAN Operation Hours", "PNL1,NG"},
     };
-    for (const auto& r : rows)
-        Report(std::string(PNL) + r.path, r.value);
+    for (const auto& [path, value] : rows)
+        Report(std::string(PNL) + path, value);
     EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", "1"), -1);
     EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", "1,x"), -1);
     EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", "1,-2"), -1);
@@ -237,25 +232,21 @@ TEST_F(SelfDiag, TheOldestOf1025EntriesIsDropped)
 
 TEST_F(SelfDiag, AnErrorTakesTheTitleWhereItIsNotShownAnyway)
 {
-    static const struct {
-        int wanted;
-        uint32_t page;
-        int popup;
-    } rows[] = {{0, PAGE_TOP, 0},
-                {1, 0x74110000, 0},
-                {1, 0x74120000, 0},
-                {1, 0x74110002, 1},
-                {1, PAGE_TOP, 1}};
+    static const std::tuple<int, uint32_t, int> rows[] = {{0, PAGE_TOP, 0},
+                                                          {1, 0x74110000, 0},
+                                                          {1, 0x74120000, 0},
+                                                          {1, 0x74110002, 1},
+                                                          {1, PAGE_TOP, 1}};
     const std::string path = std::string(PNL) + "Reference Status";
-    for (const auto& r : rows) {
-        GL_ErrorPopup = r.wanted;
-        GL_NowPage = r.page;
+    for (const auto& [wanted, page, popup] : rows) {
+        GL_ErrorPopup = wanted;
+        GL_NowPage = page;
         GL_ErrorPopup_On = 0;
         Report(path, "PNL1,NG");
-        EXPECT_EQ(GL_ErrorPopup_On, r.popup) << std::hex << r.page;
+        EXPECT_EQ(GL_ErrorPopup_On, popup) << std::hex << page;
         Report(path, "PNL1,OK");
         EXPECT_EQ(GL_ErrorExist, 0);
-        EXPECT_EQ(GL_ErrorPopup_On, r.popup) << "its end takes nothing back";
+        EXPECT_EQ(GL_ErrorPopup_On, popup) << "its end takes nothing back";
     }
 }
 
@@ -390,18 +381,17 @@ TEST_F(MenuBoard, AWrongCrcIsMended)
 
 TEST_F(MenuBoard, From76DegreesOnItIsTooHot)
 {
-    static const struct {
-        int raw, status, log, redraw;
-    } rows[] = {{75, 1, 1, 1},   {75, 1, 1, 0},    {74, 1, 1, 1},
-                {76, 128, 2, 1}, {200, 128, 2, 1}, {0, 1, 3, 1}};
-    for (const auto& r : rows) {
-        Byte(77, 0, r.raw);
+    static const std::tuple<int, int, int, int> rows[] = {{75, 1, 1, 1},    {75, 1, 1, 0},
+                                                          {74, 1, 1, 1},    {76, 128, 2, 1},
+                                                          {200, 128, 2, 1}, {0, 1, 3, 1}};
+    for (const auto& [raw, status, log, redraw] : rows) {
+        Byte(77, 0, raw);
         GL_RedrawMenu9991 = 0;
         SelfDiag_I2C_Update(5000);
-        EXPECT_EQ(SelfDiag_GetUI(0)->status, r.status) << r.raw;
-        EXPECT_EQ(SelfDiag_GetUI(0)->value, r.raw);
-        EXPECT_EQ(SelfDiag_GetLogMax(), r.log) << r.raw;
-        EXPECT_EQ(GL_RedrawMenu9991, r.redraw) << r.raw;
+        EXPECT_EQ(SelfDiag_GetUI(0)->status, status) << raw;
+        EXPECT_EQ(SelfDiag_GetUI(0)->value, raw);
+        EXPECT_EQ(SelfDiag_GetLogMax(), log) << raw;
+        EXPECT_EQ(GL_RedrawMenu9991, redraw) << raw;
     }
     EXPECT_EQ(Entry(1), "MENU CA-91 Board Temperature Error");
     EXPECT_THAT(FileText(MAINTENANCE), HasSubstr("GUI-BOARDTEMP:CA-91 Board Temperature OK"));

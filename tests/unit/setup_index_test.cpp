@@ -65,8 +65,7 @@ TEST_F(SetupIndex, HasOneRowForAPageInEveryVariantGroupedByTab)
 {
     static const struct {
         uint32_t page;
-        const char* menu;
-        const char* name;
+        const char *menu, *name;
     } rows[] = {
         {0x73110000, "7311", "Network Config"},
         {0x73160008, "7316.8", "Unit Config"},

@@ -111,7 +111,7 @@ TEST_F(SetupPage, AnotherPanelsChangeLeavesWhatIsInHand)
     EXPECT_THAT(Execute(), ElementsAre("put Setup@Mode@U1@Now#false"));
     Hear("Setup@Mode@U1@Now", "false"); // it has it
     EXPECT_FALSE(SetupPage_Differs(page));
-    EXPECT_THAT(Execute(), testing::IsEmpty());
+    EXPECT_THAT(Execute(), IsEmpty());
 }
 
 TEST_F(SetupPage, ALineGoesAsAWholeAndOnceForTwoChanges)

@@ -2,53 +2,35 @@
 // panel's too, that every key does something.
 #include "a_bt.h"
 #include "page_table/setup_tabs.h"
-#include "pc_setup_fcadjust.h"
-#include "pc_setup_output.h"
 #include "setup_desk.h"
 #include "setup_sheet.h"
 #include "tally_value.h"
 #include "text.h"
 
-namespace
-{
-const std::string SWITCHER = "Engineering Setup@Switcher@";
-
-struct SwitcherIo : SetupTest {
-    void TearDown() override
-    {
-        GL_CreatePage = 0;
-        (void)Leave();
-        SetupFcAdjust_Reset();
-        SetupOutput_Reset();
-        SetupTest::TearDown();
-    }
-};
-} // namespace
+static const std::string SWITCHER = "Engineering Setup@Switcher@";
+using SwitcherIo = SetupTest;
 
 TEST_F(SwitcherIo, OnlyTheGroupOfInputsThatIsChosenIsShownAndFollowed)
 {
-    using testing::Contains;
     const std::string gain = SWITCHER + "Input@Video Process@Y Gain@";
     const Lines opened = Open(0x73320005);
     EXPECT_THAT(opened, Contains("add " + gain + "16"));
-    EXPECT_THAT(opened, testing::Not(Contains("add " + gain + "17")));
+    EXPECT_THAT(opened, Not(Contains("add " + gain + "17")));
     TellAll(gain, {"1#90", "129#80"});
-    (void)Push(BTN_SHEET_GROUP);
-    const Lines lines = Answer(9);
+    const Lines lines = Choose(BTN_SHEET_GROUP, 9);
     EXPECT_THAT(lines, Contains("remove " + gain + "16"));
     EXPECT_THAT(lines, Contains("add " + gain + "136"));
     EXPECT_EQ(LS_GetNData(1), 8);
     EXPECT_EQ(Row(0, 4), "129|||") << "nothing of input 1 is left";
     (void)Tell(gain + "129#70");
-    EXPECT_THAT(Tell(SWITCHER + "Input@Video Process@Y Gain@130#60"), testing::IsEmpty());
+    EXPECT_THAT(Tell(SWITCHER + "Input@Video Process@Y Gain@130#60"), IsEmpty());
     EXPECT_EQ(Row(1, 4), "130|||60");
     SendMessage(LMSG_KNOBVAR, 2, 71, 0, 0);
-    EXPECT_THAT(TakeQueuedCommands(), testing::ElementsAre("put " + gain + "129#71"));
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + gain + "129#71"));
     EXPECT_THAT(Leave(), Contains("remove " + gain + "129"));
     EXPECT_THAT(Open(0x73320005), Contains("add " + gain + "129"))
         << "the choice outlives the page";
-    (void)Push(BTN_SHEET_GROUP);
-    (void)Answer(1);
+    (void)Choose(BTN_SHEET_GROUP, 1);
 }
 
 TEST_F(SwitcherIo, ANumberThatMayBeNoneSaysSo)
@@ -63,7 +45,7 @@ TEST_F(SwitcherIo, ANumberThatMayBeNoneSaysSo)
     EXPECT_EQ(Row(0, 2), "1|None");
     (void)Tell(output + "#7");
     SendMessage(LMSG_KNOBVAR, 1, 0, 0, 0);
-    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::ElementsAre("put " + output + "#0"));
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), ElementsAre("put " + output + "#0"));
 }
 
 TEST_F(SwitcherIo, TheWayBackHasOnePlaceOnAllPages)

@@ -4,8 +4,6 @@
 #include "pc_setup_gpi.h"
 #include "setup_desk.h"
 
-namespace
-{
 const std::string SETUP = "Engineering Setup@";
 const std::string DEVICES = SETUP + "DME@Device Interface@";
 enum : int { KEY_GPI_ENABLE = 36, KEY_TEST = 37 };
@@ -13,7 +11,6 @@ enum : int { KEY_GPI_ENABLE = 36, KEY_TEST = 37 };
 struct SetupUnits : SetupTest {
     void TearDown() override
     {
-        (void)Leave();
         SYS_DualProc = 0;
         SetupTest::TearDown();
     }
@@ -32,7 +29,6 @@ struct SetupUnits : SetupTest {
         return keys;
     }
 };
-} // namespace
 
 TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
 {
@@ -42,8 +38,7 @@ TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
                              "DME4 Ch2";
     const struct {
         uint32_t page;
-        std::string single;
-        std::string dual;
+        std::string single, dual;
     } cases[] = {
         {0x73410001, pair, dual},
         {0x73440001, pair, dual},
@@ -74,29 +69,26 @@ TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
 TEST_F(SetupUnits, TheModelOfAUnitIsFollowedAllTheTimeAndOnlyRead)
 {
     const std::string model = SETUP + "DME@Model@DME";
-    EXPECT_THAT(Open(0x73410000), testing::Contains("read " + model + "1"));
+    EXPECT_THAT(Open(0x73410000), Contains("read " + model + "1"));
     TellAll(model, {"1#3", "4#8"});
     EXPECT_EQ(Row(0, 2), "DME1|FXU50");
     EXPECT_EQ(Row(3, 2), "DME4|ZRD52");
     SelectRow(0);
-    (void)Push(33);
-    (void)Answer(8);
-    (void)Push(BTN_SHEET_EXECUTE);
-    EXPECT_THAT(Answer(1), testing::ElementsAre("put " + model + "1#8", "read " + model + "1"));
+    (void)Choose(33, 8);
+    EXPECT_THAT(Choose(BTN_SHEET_EXECUTE, 1),
+                ElementsAre("put " + model + "1#8", "read " + model + "1"));
 }
 
 TEST_F(SetupUnits, EachUnitHasPortsOfItsOwn)
 {
     (void)Open(0x73440006);
     (void)Tell(DEVICES + "DME2 GPI Output@Trigger Type@3#None,0x00,0x01");
-    SelectRow(2);
-    EXPECT_THAT(Push(KEY_TEST),
-                testing::ElementsAre("put " + DEVICES + "DME2 GPI Output@Test Fire@3#"));
+    EXPECT_THAT(PushIn(2, KEY_TEST),
+                ElementsAre("put " + DEVICES + "DME2 GPI Output@Test Fire@3#"));
     (void)Tell(DEVICES + "DME2 GPI Output@GPI Enable#false");
     EXPECT_THAT(Push(KEY_GPI_ENABLE),
-                testing::ElementsAre("put " + DEVICES + "DME2 GPI Output@GPI Enable#true"));
-    (void)Push(33);
-    (void)Answer(5); // Level
+                ElementsAre("put " + DEVICES + "DME2 GPI Output@GPI Enable#true"));
+    (void)Choose(33, 5); // Level
     EXPECT_EQ(Row(2, 2), "3|Level*");
     (void)Open(0x73440005);
     EXPECT_EQ(Row(2, 2), "3|") << "an edit of another unit";
@@ -110,14 +102,12 @@ TEST_F(SetupUnits, ABusTellsItsGroupsInOneLineAndGetsThemInOne)
     (void)Open(0x73620001);
     (void)Tell(bus + "#true,false,false,true,false,false,false,false");
     EXPECT_EQ(Row(6, 9), "Aux1|On|---|---|On|---|---|---|---");
-    SelectRow(6);
-    (void)Push(34); // one touch turns it over
+    (void)PushIn(6, 34); // one touch turns it over
     (void)Push(36);
     EXPECT_EQ(Row(6, 5), "Aux1|On|On*|---|---*");
     EXPECT_EQ(BT_GetStatus(34), BT_ON);
-    EXPECT_THAT(
-        Push(BTN_SHEET_EXECUTE),
-        testing::ElementsAre("put " + bus + "#true,true,false,false,false,false,false,false"));
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE),
+                ElementsAre("put " + bus + "#true,true,false,false,false,false,false,false"));
 }
 
 TEST_F(SetupUnits, ANameGoesToAllRowsThatAreSelected)
@@ -144,11 +134,11 @@ TEST_F(SetupUnits, AnAreaEndsBehindItsBegin)
     SelectRow(1);
     SendMessage(LMSG_KNOBVAR, 2, 8, 0, 0);
     EXPECT_EQ(Row(1, 6), "2||9|8*|1|8");
-    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::IsEmpty());
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), IsEmpty());
     PANE* const why = pane_find(Pane_GetActiveID());
     ASSERT_TRUE(why);
     EXPECT_STREQ(pane_text_in_view(why), "Last Src of Area 2\nis below the first.");
     Dismiss();
     SendMessage(LMSG_KNOBVAR, 2, 9, 0, 0);
-    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), testing::ElementsAre("put " + area + "Last Source@2#9"));
+    EXPECT_THAT(Push(BTN_SHEET_EXECUTE), ElementsAre("put " + area + "Last Source@2#9"));
 }
