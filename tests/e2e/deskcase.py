@@ -7,6 +7,7 @@ import unittest
 
 from desk import INITIAL_READ_END, Desk, grid
 
+YES, OK = (200 + 97 + 20, 140 + 247 + 15), (200 + 153 + 20, 140 + 247 + 15)  # of a question, of a message
 BUILD = sys.argv.pop(1) if len(sys.argv) > 1 else "build/dev"
 
 LETTERS = {c: (row, first + i) for row, (first, keys) in
@@ -69,23 +70,25 @@ class DeskCase(unittest.TestCase):
             f.seek(seen)
             return f.read()
 
-    def wait_value(self, path, expected, timeout=3.0):
+    def wait_until(self, is_so, what=None, timeout=12.0):
         end = time.monotonic() + timeout
-        while self.desk.value(path) != expected:
-            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {expected}")
+        while not is_so():
+            self.assertLess(time.monotonic(), end, what)
             time.sleep(0.05)
+
+    def wait_value(self, path, expected, timeout=3.0):
+        self.wait_until(lambda: self.desk.value(path) == expected, f"{path} does not become {expected}", timeout)
 
     def wait_part(self, rect, before, timeout=2.0):
         """The picture there, once it differs from before."""
-        end = time.monotonic() + timeout
-        while self.desk.part(*rect) == before:
-            self.assertLess(time.monotonic(), end, f"nothing changes in {rect}")
-            time.sleep(0.05)
+        self.wait_until(lambda: self.desk.part(*rect) != before, f"nothing changes in {rect}", timeout)
         return self.desk.part(*rect)
 
 
 class SetupCase(DeskCase):
     """Pages of engineering setup: a list above two rows of keys."""
+
+    CHANGED = (b"\xff\xff\x00", b"\xa0\xe6\x32")  # a cell that differs, and the same while it is selected
 
     def open(self, number):
         self.open_page(number, "put TopMenu@SubMenuSite#false")
@@ -94,19 +97,35 @@ class SetupCase(DeskCase):
     def push(self, key):
         self.desk.touch(*grid(key), settle=0.25)
 
-    def row(self, n):
-        self.desk.touch(150, 76 + 22 * (n + 1) + 10, settle=0.2)
+    def row(self, n, x=150, y=76):
+        self.desk.touch(x, y + 22 * (n + 1) + 10, settle=0.2)
 
     def popup(self, place, columns, rows):
         width, height = 78 * columns + 26, 43 * rows + 76
         self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
                         300 - height // 2 + 50 + 43 * (place // columns), settle=0.25)
 
+    def changes(self):
+        """Whether the list has cells that differ from what the server has."""
+        pixels = b"".join(self.desk.part(100, 98, 649, 339))
+        return any(pixels[i:i + 3] in self.CHANGED for i in range(0, len(pixels), 3))
+
     def type(self, text):
+        """Letters, then Enter. A machine under load may lose a touch: each letter is seen before the next."""
+        entry, ground = (52, 160, 744, 196), b"\x00\x32\x41"  # of the keyboard
+
+        def key(row, column, settle=0.15):
+            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, settle)
+        self.wait_until(lambda: self.desk.part(*entry)[18][-3:] == ground)
         for c in text:
-            row, column = LETTERS[c]
-            self.desk.touch(39 + 12 + 54 * column + 25, 115 + 91 + 54 * row + 25, 0.2)
-        self.desk.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25)
+            before = self.desk.part(*entry)
+            if c.isupper():
+                self.desk.touch(100, 391, settle=0.15)  # shift, for one letter
+            for _ in range(3):
+                key(*LETTERS[c.lower()])
+                if self.desk.part(*entry) != before:
+                    break
+        key(2, 11.5, settle=0.6)
 
     def listed(self, path, row):
         """A row of a list that the server holds, without its number."""

@@ -6,14 +6,13 @@ import os
 import time
 import unittest
 
-from desk import INITIAL_READ_END, Desk, grid
-from deskcase import BUILD, DeskCase
+from desk import Desk, grid
+from deskcase import BUILD, YES, DeskCase
 
 TITLE = (200, 35)
 MARK, SHORT_MARK = (352, 13, 362, 23), (277, 13, 287, 23)  # the lamp in the title
 POPUP = (95, 45, 97, 47)  # its ground
 RED, DARK_RED = b"\xff\x00\x00", b"\xb4\x00\x00"
-YES = (200 + 97 + 20, 140 + 247 + 15)
 
 
 SYSTEM_LOG = """
@@ -28,25 +27,20 @@ with open("system.log", "ab", buffering=0) as out:
 
 class Diagnosis(DeskCase):
     @classmethod
-    def setUpClass(cls):
+    def make_desk(cls):
         """With a system log, which is there before the application opens it."""
-        cls.desk = Desk(BUILD, ini="DebugMode=1\n")  # as with a data disk
-        cls.addClassCleanup(cls.desk.close)
-        script = os.path.join(cls.desk.work, "system_log.py")
+        desk = Desk(BUILD, ini="DebugMode=1\n")  # as with a data disk
+        script = os.path.join(desk.work, "system_log.py")
         with open(script, "w", encoding="ascii") as out:
             out.write(SYSTEM_LOG)
-        cls.desk._box("start", "log", cls.desk.work, "/usr/bin/python3", script)
-        cls.desk.start_app()
-        cls.desk.wait_wire(INITIAL_READ_END, 20)
-        cls.desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
+        desk._box("start", "log", desk.work, "/usr/bin/python3", script)
+        return desk
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
         cls.desk.wait_wire("put Info@Self Diagnosis Notice@PNL#true", 40)  # the last stage of the initial read
         time.sleep(1.0)
-
-    def wait(self, is_so, timeout=12.0):
-        end = time.monotonic() + timeout
-        while not is_so():
-            self.assertLess(time.monotonic(), end)
-            time.sleep(0.1)
 
     def ink(self, area):
         return self.desk.part(*area)[0][:3]
@@ -69,7 +63,7 @@ class Diagnosis(DeskCase):
         self.open_page("1111", "add M/E-1@Key1@Type@Key Type")
         self.assertNotEqual(self.ink(SHORT_MARK), RED)
         desk.console("fan PNL1 2 bad")
-        self.wait(lambda: self.ink(SHORT_MARK) == RED)
+        self.wait_until(lambda: self.ink(SHORT_MARK) == RED)
         self.assertEqual(self.ink(POPUP), DARK_RED)
         self.assertLogged("SIU010100", "SIU-FANSPEED-FAN-2:FAN-2 Control Function Error")
 
@@ -79,7 +73,7 @@ class Diagnosis(DeskCase):
         self.assertEqual(self.ink(MARK), RED)
         self.assertFalse(self.is_empty(100))
         desk.console("fan PNL1 2 ok")
-        self.wait(lambda: self.ink(MARK) != RED)
+        self.wait_until(lambda: self.ink(MARK) != RED)
         self.assertTrue(self.is_empty(100))
         self.assertLogged("SIU010100", "SIU-FANSPEED-FAN-2:FAN-2 Speed OK")
 
@@ -90,19 +84,19 @@ class Diagnosis(DeskCase):
         desk.wire()
         desk.touch(*grid(49))
         desk.wait_wire("put Info@Self Diagnosis Notice@SWR1#true")
-        self.wait(lambda: self.ink(MARK) == RED)
+        self.wait_until(lambda: self.ink(MARK) == RED)
         desk.console("ok")
-        self.wait(lambda: self.ink(MARK) != RED)
+        self.wait_until(lambda: self.ink(MARK) != RED)
 
     def test_3_the_menus_own_board(self):
         desk = self.desk
         desk.console("temp 75")
-        self.wait(lambda: "Temp=4B" in desk.log())
+        self.wait_until(lambda: "Temp=4B" in desk.log())
         self.assertNotEqual(self.ink(MARK), RED)
         desk.console("temp 76")
-        self.wait(lambda: self.ink(MARK) == RED)
+        self.wait_until(lambda: self.ink(MARK) == RED)
         desk.console("temp 40")
-        self.wait(lambda: self.ink(MARK) != RED)
+        self.wait_until(lambda: self.ink(MARK) != RED)
         self.assertLogged("SIU010100", "GUI-BOARDTEMP:CA-91 Board Temperature OK")
         with open(os.path.join(desk.root, "i2c-0"), "rb") as image:
             image.seek(83 * 256 + 128)
@@ -126,7 +120,7 @@ class Diagnosis(DeskCase):
         desk.touch(*grid(18))  # Links
         desk.wait_wire("read Engineering Setup@System@Format@4K Mode")
         desk.console("send Info@Status Report@SWR1#NG Fan 3")
-        self.wait(lambda: "Status report of SWR1: NG Fan 3" in desk.log())
+        self.wait_until(lambda: "Status report of SWR1: NG Fan 3" in desk.log())
         desk.touch(*grid(54), settle=0.8)
         desk.touch(*grid(1), settle=0.8)  # Debug Switches
         desk.touch(*grid(6), settle=0.8)  # level 9

@@ -33,14 +33,11 @@ class MixEffect(DeskCase):
 
     def turn(self, knob, detents, tail, step=0.01):
         """Turn a knob that the page has assigned to a path of that tail; each detent is a step."""
-        end = time.monotonic() + 2
-        while not (path := self.said(f"assign Knob{knob}#(.*)")[-1]).endswith(tail):
-            self.assertLess(time.monotonic(), end, f"{path} does not end with {tail}")
+        self.wait_until(lambda: self.said(f"assign Knob{knob}#(.*)")[-1].endswith(tail), f"{tail} has no knob")
+        path = self.said(f"assign Knob{knob}#(.*)")[-1]
         wanted = float(self.desk.value(path)) + detents * step
         self.desk.console(f"knob {knob} {detents:+d}")
-        end = time.monotonic() + 2
-        while abs(float(self.desk.value(path)) - wanted) > step / 2:
-            self.assertLess(time.monotonic(), end, f"{path} is {self.desk.value(path)}, not {wanted}")
+        self.wait_until(lambda: abs(float(self.desk.value(path)) - wanted) <= step / 2, f"{path} is not {wanted}")
 
     def work_through(self, pages, key):
         """All tabs of a keyer; pages is what its page numbers begin with, key its path."""

@@ -8,34 +8,18 @@ import time
 import unittest
 
 from desk import grid
-from deskcase import DeskCase
+from deskcase import YES, SetupCase
 
 PANEL = "Engineering Setup@Panel@"
 PAD = f"{PANEL}Config@Program Button@Flexi Pad Module@Button Assign@"
 TENKEY = f"{PANEL}Config@10 Key Region Assign@"
 XPT = f"{PANEL}Xpt Assign@"
 SET, CLEAR, DEFAULT = 52, 53, 54
-YES = (200 + 97 + 20, 140 + 247 + 15)
 
 
-class PanelSetup(DeskCase):
-    def open(self, number):
-        self.open_page(number, "put TopMenu@SubMenuSite#false")
-        self.desk.wire()
-
-    def push(self, key):
-        self.desk.touch(*grid(key), settle=0.2)
-
-    def row(self, n, x=480, y=76):
-        self.desk.touch(x, y + 22 * (n + 1) + 10, settle=0.15)
-
+class PanelSetup(SetupCase):
     def pad(self, button):
         self.desk.touch(112 + 70 * ((button - 1) % 4) + 20, 212 + 46 * ((button - 1) // 4) + 20, settle=0.15)
-
-    def popup(self, place, columns, rows):
-        width, height = 78 * columns + 26, 43 * rows + 76
-        self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
-                        300 - height // 2 + 50 + 43 * (place // columns))
 
     def puts(self):
         time.sleep(0.2)
@@ -45,7 +29,7 @@ class PanelSetup(DeskCase):
         self.open("7321.34")
         for button, path in ((9, "09"), (10, "10")):
             self.pad(button)
-            self.row(6)  # Shotbox
+            self.row(6, 480)  # Shotbox
             self.push(SET)
             self.assertEqual(self.puts(), [f"put {PAD}{path}@Operation@Common@1#6,1,Shotbox"])
             self.assertEqual(self.desk.value(f"{PAD}{path}@Operation@Common@1"), "6,1,Shotbox")
@@ -64,7 +48,7 @@ class PanelSetup(DeskCase):
         for number in (1, 2):
             self.desk.touch(104 + 68 * (number - 1) + 20, 84 + 36)
         self.desk.touch(456 + 61 + 20, 120)  # the second slot
-        self.row(2, y=154)  # M/E1
+        self.row(2, 480, 154)  # M/E1
         self.push(SET)
         self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@1"), "1,0,,M/E-1,,")
         self.assertEqual(self.desk.value(f"{TENKEY}Common@Region@Common@2"), "2,0,M/E-2,M/E-1,,")
@@ -74,13 +58,8 @@ class PanelSetup(DeskCase):
 
     def rows(self, path):
         """All rows of a list that the server holds."""
-        out = os.path.join(self.desk.work, "sim.out")
-        seen = os.path.getsize(out)
-        self.desk.console(f"get {path}")
-        time.sleep(0.3)
-        with open(out, encoding="latin-1") as file:
-            file.seek(seen)
-            return [line[len(path) + 1:] for line in file.read().split("\n") if line.startswith(path + "#")]
+        said = self.asked(f"get {path}").split("\n")
+        return [line[len(path) + 1:] for line in said if line.startswith(path + "#")]
 
     def buttons(self, *numbers):
         """What lies on crosspoint buttons: video, key."""
@@ -89,8 +68,8 @@ class PanelSetup(DeskCase):
 
     def test_3_a_crosspoint_table_by_insert_and_delete_and_back(self):
         self.open("7322.1")
-        self.row(1, x=150)
-        self.row(4)  # CAM5
+        self.row(1)
+        self.row(4, 480)  # CAM5
         self.push(36)
         self.assertEqual(self.puts(), [f"put {XPT}Insert VK#2,5,0"])
         self.assertEqual(self.buttons(1, 2, 3, 32, 129), ["1,1", "5,5", "2,2", "31,31", "1,1"])
@@ -107,12 +86,10 @@ class PanelSetup(DeskCase):
     def test_4_a_key_2_bus_button_runs_a_macro(self):
         self.open("7324.2")
         self.push(37)
-        self.row(1)
+        self.row(1, 480)
         self.push(SET)
         self.desk.wait_wire(f"put {PANEL}Prefs/Utility@Xpt Module Assign@Action Set@1@1#2,2")
-        self.desk.console("macro key2 1 1")
-        with open(os.path.join(self.desk.work, "sim.out"), encoding="latin-1") as file:
-            self.assertIn("macro 2 runs", file.read())
+        self.assertIn("macro 2 runs", self.asked("macro key2 1 1"))
         self.push(CLEAR)
         self.assertEqual(self.desk.value(f"{PANEL}Prefs/Utility@Xpt Module Assign@Action Set@1@1"), "0,0")
 
@@ -120,10 +97,9 @@ class PanelSetup(DeskCase):
         self.open_page("1110", "add M/E-1@Key1@Type@Signal Select@Fill")
         before = self.desk.part(97, 73, 702, 526)
         self.open("7322.4")
-        self.row(0, x=150)
+        self.row(0)
         self.push(33)
-        self.desk.touch(39 + 12 + 54 + 25, 115 + 91 + 54 + 25)  # a letter more
-        self.desk.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25)  # Enter
+        self.type("a")
         self.push(54)
         self.assertEqual(len(self.puts()), 1)
         self.assertNotIn("1,CAM1", self.rows(f"{XPT}Source@List"))
@@ -134,7 +110,7 @@ class PanelSetup(DeskCase):
     def test_6_a_contact_is_set_and_fired(self):
         gpi = f"{PANEL}Device Interface@GPI Output@"
         self.open("7325.4")
-        self.row(2, x=150)
+        self.row(2)
         self.push(34)
         self.popup(1, 4, 4)  # Cut
         self.push(54)

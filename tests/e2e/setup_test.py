@@ -6,67 +6,18 @@ import os
 import time
 import unittest
 
-from desk import INITIAL_READ_END, grid
-from deskcase import DeskCase
+from desk import INITIAL_READ_END
+from deskcase import OK, YES, SetupCase
 
 FORMAT = "Engineering Setup@System@Format@"
-YES, OK = (200 + 97 + 20, 140 + 247 + 15), (200 + 153 + 20, 140 + 247 + 15)
-ENTRY, WELL = (52, 160, 744, 196), b"\x00\x32\x41"  # of the keyboard, and its ground
 PANE, ALERT = (215, 300), (232, 162)  # its ground, the middle of its icon
 GROUND, AMBER, TABLE = b"\xe6\xe6\xe6", b"\xe4\x8b\x1b", b"\x00\x5a\x6e"
 LOAD, EFFECT = (405, 475), (510, 210, 560, 240)  # of the page of all categories
-CHANGED = b"\xff\xff\x00"
-CHANGED_SELECTED = b"\xa0\xe6\x32"
-LETTERS = {c: (row, first + i) for row, (first, keys) in
-           enumerate([(0, "`1234567890-="), (0, "qwertyuiop[]\\"), (0, "asdfghjkl;'"), (2, "zxcvbnm,./")])
-           for i, c in enumerate(keys)}
 
 
-class Setup(DeskCase):
-    def open(self, number):
-        self.open_page(number, "put TopMenu@SubMenuSite#false")
-        self.desk.wire()
-
-    def push(self, key):
-        self.desk.touch(*grid(key))
-
-    def row(self, n):
-        self.desk.touch(150, 76 + 22 * (n + 1) + 10)
-
-    def popup(self, place, columns, rows):
-        width, height = 78 * columns + 26, 43 * rows + 76
-        self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
-                        300 - height // 2 + 50 + 43 * (place // columns))
-
-    def changes(self):
-        """Cells of the list that differ from what the server has."""
-        pixels = b"".join(self.desk.part(100, 98, 649, 339))
-        triples = {pixels[i:i + 3] for i in range(0, len(pixels), 3)}
-        return CHANGED in triples or CHANGED_SELECTED in triples
-
-    def type(self, text):
-        """Letters, then Enter. A machine under load may lose a touch: each letter is seen before the next."""
-        def key(row, column, settle=0.15):
-            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, settle)
-        self.until(lambda: self.desk.part(*ENTRY)[18][-3:] == WELL)
-        for c in text:
-            before = self.desk.part(*ENTRY)
-            if c.isupper():
-                self.desk.touch(100, 391, settle=0.15)  # shift, for one letter
-            for _ in range(3):
-                key(*LETTERS[c.lower()])
-                if self.desk.part(*ENTRY) != before:
-                    break
-        key(2, 11.5, settle=0.6)
-
+class Setup(SetupCase):
     def pixel(self, x, y):
         return self.desk.part(x, y, x, y)[0]
-
-    def until(self, is_so, timeout=5.0):
-        end = time.monotonic() + timeout
-        while not is_so():
-            self.assertLess(time.monotonic(), end)
-            time.sleep(0.05)
 
     def calls(self):
         """What programs of the device were called with since the last time."""
@@ -81,7 +32,7 @@ class Setup(DeskCase):
 
     def wait_calls(self, *calls):
         seen = []
-        self.until(lambda: seen.extend(self.calls()) or len(seen) >= len(calls))
+        self.wait_until(lambda: seen.extend(self.calls()) or len(seen) >= len(calls))
         self.assertEqual(seen, list(calls))
 
     def lock_file(self):
@@ -187,7 +138,7 @@ class Setup(DeskCase):
                 time.sleep(0.3)
                 self.assertEqual((self.calls(), self.pixel(*PANE)), ([], GROUND), "not that of the time before")
                 # The failure is told.
-                self.until(lambda: self.pixel(*PANE) == TABLE if outcome == "OK" else self.pixel(*ALERT) == AMBER)
+                self.wait_until(lambda: self.pixel(*PANE) == TABLE if outcome == "OK" else self.pixel(*ALERT) == AMBER)
                 self.assertEqual(self.desk.value(network + path), outcome)
                 self.wait_calls(*restart if outcome == "OK" else ())
                 time.sleep(0.3)  # until the key looks released
@@ -243,13 +194,13 @@ class Setup(DeskCase):
             self.push(51)
             self.desk.touch(*YES)
             self.wait_calls(*calls)
-            self.until(lambda: self.pixel(*PANE) == GROUND)
+            self.wait_until(lambda: self.pixel(*PANE) == GROUND)
             self.assertEqual(self.pixel(*ALERT) == AMBER, len(calls) == 1)
             self.desk.touch(*OK)
         self.push(38)
         lines = self.desk.wait_wire("put File@Access@USB Storage Refresh#", starts=True)
         self.assertIn("put File@Access@USB Storage Reload#", " ".join(lines))
-        self.until(lambda: self.pixel(*PANE) != GROUND)
+        self.wait_until(lambda: self.pixel(*PANE) != GROUND)
 
     def test_8_the_network_drive_is_mounted(self):
         way = ["umount [/var/nfs]", "ping [-c] [1] [192.168.10.100]", "rpcinfo2 [-p] [192.168.10.100]",
@@ -269,7 +220,7 @@ class Setup(DeskCase):
             self.assertEqual(self.desk.part(*status) != before, is_mounted)
         self.push(37)
         self.wait_calls("umount [/var/nfs]")
-        self.until(lambda: self.desk.part(*status) == before)
+        self.wait_until(lambda: self.desk.part(*status) == before)
         self.assertIsNone(self.desk.app_status())
 
     def test_9_a_locked_category_is_not_loaded(self):

@@ -6,14 +6,13 @@ usage: setup_units_test.py BUILD_DIR [TEST...]
 import time
 import unittest
 
-from deskcase import SetupCase
+from deskcase import YES, SetupCase
 
 SETUP = "Engineering Setup@"
 GPI = f"{SETUP}DME@Device Interface@DME2 GPI Output@"
 SERIAL = f"{SETUP}DCU@Serial Port@DCU1@Device@"
 ENABLE = f"{SETUP}Tally@Tally Enable@"
 EXECUTE = 54
-YES = (200 + 97 + 20, 140 + 247 + 15)
 
 
 class SetupUnits(SetupCase):

@@ -5,12 +5,12 @@ import time
 import unittest
 
 from desk import grid
-from deskcase import DeskCase, bottom_tab, cell, face, left_tab, list_row
+from deskcase import OK, YES, DeskCase, bottom_tab, cell, face, left_tab, list_row
 
 TITLE, TIMELINE = (200, 35), (650, 35)
 TIMELINE_AREA = 510, 8, 794, 62
 TOP_MENU, TOP_MENU_OF_BANK = 6, 54  # the key on the first page of a menu
-SAVE, LOAD, YES, OK = (290, 475), (405, 475), (344, 407), (400, 407)
+SAVE, LOAD = (290, 475), (405, 475)
 SHOW = "/mnt/data/user/root/SYSTEM/"
 DSK, WIPE, CCR, DEVICE = "PGM/PST@DSK1@", "M/E-1@Wipe@", "CCR@CCR1@", "Device@DDR/VTR@Dev2@"
 ROUTED = "Router@Status@Xpt Assign@Dest3@Level1"
@@ -52,12 +52,6 @@ class Shift(DeskCase):
     def turn(self, knob, detents, path, expected):
         self.desk.console(f"knob {knob} {detents:+d}")
         self.wait_value(path, expected)
-
-    def wait(self, is_so, what, timeout=8.0):
-        end = time.monotonic() + timeout
-        while not is_so():
-            self.assertLess(time.monotonic(), end, what)
-            time.sleep(0.1)
 
     def test_01_a_title_is_keyed_on_air(self):
         self.from_home(1, 6, f"add {DSK}Type@Key Type", TOP_MENU_OF_BANK)
@@ -164,8 +158,8 @@ class Shift(DeskCase):
         self.touch(YES)
         for file in ("EFFECT/SWR000D001/ME1/SLIDE IN.ME1_002.SKF", "SETUP/CTRLCPU/SETUP.GUI_0000.PST",
                      "FMEMFOL/Graphics/SWR000D001/Mbackdrop.FMEM_003.SFM"):
-            self.wait(lambda f=file: os.path.exists(self.desk.root + SHOW + f), f"{file} was not saved")
-        self.wait(lambda: self.desk.part(100, 130, 600, 175) == page, "the pane does not close")
+            self.wait_until(lambda f=file: os.path.exists(self.desk.root + SHOW + f), f"{file} was not saved")
+        self.wait_until(lambda: self.desk.part(100, 130, 600, 175) == page, "the pane does not close")
 
     def test_09_the_show_is_loaded(self):
         self.assertIn("SLIDE IN", self.asked("list effect M/E-1"))
@@ -177,7 +171,7 @@ class Shift(DeskCase):
         self.desk.wait_wire("put 16@Frame Mem@Folder@Move Still#0,Mbackdrop,1", 20)  # among the last
         self.assertIn("SLIDE IN", self.asked("list effect M/E-1"))
         self.touch(OK)  # the locked registers, which stay as they are
-        self.wait(lambda: self.desk.part(100, 130, 600, 175) == page, "the pane does not close")
+        self.wait_until(lambda: self.desk.part(100, 130, 600, 175) == page, "the pane does not close")
 
     def test_10_why_a_fan_is_loud(self):
         self.touch(TITLE)

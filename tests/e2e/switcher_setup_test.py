@@ -5,51 +5,23 @@ usage: switcher_setup_test.py BUILD_DIR [TEST...]
 import time
 import unittest
 
-from desk import grid
-from deskcase import DeskCase
+from deskcase import OK, YES, SetupCase
 
 SWITCHER = "Engineering Setup@Switcher@"
-YES, OK = (200 + 97 + 20, 140 + 247 + 15), (200 + 153 + 20, 140 + 247 + 15)
 CLEAR, EXECUTE = 53, 54
-CHANGED = (b"\xff\xff\x00", b"\xa0\xe6\x32")  # a cell that differs, and the same while it is selected
 
 
-class SwitcherSetup(DeskCase):
-    def open(self, number):
-        self.desk.wire()
-        self.desk.console(f"page {number}")
-        self.desk.wait_wire("put TopMenu@SubMenuSite#false")
-        time.sleep(0.15)
-        self.desk.wire()
-
-    def push(self, key):
-        self.desk.touch(*grid(key), settle=0.15)
-
-    def row(self, n):
-        self.desk.touch(150, 76 + 22 * (n + 1) + 10, settle=0.1)
-
+class SwitcherSetup(SetupCase):
     def choose(self, key, place, columns, count):
         """A text of the popup behind a key."""
         self.push(key)
-        rows = (count + columns - 1) // columns
-        self.desk.touch(400 - (78 * columns + 26) // 2 + 15 + 78 * (place % columns) + 30,
-                        300 - (43 * rows + 76) // 2 + 50 + 43 * (place // columns), settle=0.15)
+        self.popup(place, columns, -(-count // columns))
 
     def execute(self, line, asks=True):
         self.push(EXECUTE)
         if asks:
             self.desk.touch(*YES, settle=0.1)
         self.desk.wait_wire(f"put {SWITCHER}{line}")
-
-    def changes(self):
-        pixels = b"".join(self.desk.part(100, 98, 649, 339))
-        return any(pixels[i:i + 3] in CHANGED for i in range(0, len(pixels), 3))
-
-    def becomes(self, path, value, timeout=3.0):
-        end = time.monotonic() + timeout
-        while (now := self.desk.value(path)) != value and time.monotonic() < end:
-            time.sleep(0.05)
-        self.assertEqual(now, value, path)
 
     def put(self, path, value):
         self.desk.console(f"put {path}#{value}")
@@ -75,7 +47,7 @@ class SwitcherSetup(DeskCase):
         self.choose(33, 1, 3, 6)
         self.assertTrue(self.changes())
         self.execute("Config@Logical M/E#M/E-2,M/E-1,M/E-3,M/E-4,M/E-5,P/P,")
-        self.becomes("Engineering Setup@Panel@Config@M/E Assign@1st Row", "M/E-2")
+        self.wait_value("Engineering Setup@Panel@Config@M/E Assign@1st Row", "M/E-2")
         self.put(f"{SWITCHER}Config@Logical M/E", "M/E-1,M/E-1,M/E-3,M/E-4,M/E-5,P/P,")
         self.assertTrue(self.desk.value(f"{SWITCHER}Config@Logical M/E").startswith("M/E-2,M/E-1"))
 
@@ -85,9 +57,9 @@ class SwitcherSetup(DeskCase):
         self.choose(33, 1, 3, 9)  # FM1 to User2
         self.push(EXECUTE)
         self.desk.wait_wire(f"put {user}2#FM1,FM5,FM6,FM7,FM8,Aux3,Aux4")
-        self.becomes(user + "1", "FM2,FM3,FM4,Aux1,Aux2")
+        self.wait_value(user + "1", "FM2,FM3,FM4,Aux1,Aux2")
         self.put(user + "3", "FM1,Nothing")
-        self.becomes(user + "3", "")
+        self.wait_value(user + "3", "")
         self.assertFalse(self.changes())
 
     def test_4_another_panel_changes_what_is_not_in_hand(self):
@@ -100,7 +72,7 @@ class SwitcherSetup(DeskCase):
         self.desk.console("knob 0 +4")
         self.push(36)  # Bus Toggle off
         self.execute("Transition@Default Rate@M/E-1#31")
-        self.becomes("M/E-1@Misc@Transition@Flip-Flop", "false")
+        self.wait_value("M/E-1@Misc@Transition@Flip-Flop", "false")
         self.assertIsNone(self.desk.app_status())
 
     def test_5_a_curve_is_drawn_and_runs_the_transition(self):
@@ -129,7 +101,7 @@ class SwitcherSetup(DeskCase):
         self.push(35)
         self.execute("Link@Key Link#1,M/E-1 Key1,M/E-2 Key3,true")
         self.put("M/E-1@Key1@Status@Key ON", "true")
-        self.becomes("M/E-2@Key3@Status@Key ON", "true")
+        self.wait_value("M/E-2@Key3@Status@Key ON", "true")
         self.row(1)
         self.choose(33, 3, 8, 49)
         self.choose(34, 3, 8, 49)
@@ -146,9 +118,9 @@ class SwitcherSetup(DeskCase):
         self.row(2)
         self.choose(33, 1, 3, 2)
         self.execute("Config@Key Config#M/E-3,Key3 Key PVW")
-        self.becomes("M/E-3@Key4@Status@Key ON", "false")
+        self.wait_value("M/E-3@Key4@Status@Key ON", "false")
         self.put("M/E-3@Key4@Status@Key ON", "true")
-        self.becomes("M/E-3@Key4@Status@Key ON", "false")
+        self.wait_value("M/E-3@Key4@Status@Key ON", "false")
 
     def test_8_a_bus_follows_by_a_table(self):
         self.open("7336.3")
@@ -169,9 +141,9 @@ class SwitcherSetup(DeskCase):
         self.push(33)
         self.execute("Link@Internal Bus Link@Link#1,M/E-1 A,M/E-2 B,2,true")
         self.put("M/E-1@Status@Xpt Assign@A", "CAM5")
-        self.becomes("M/E-2@Status@Xpt Assign@B", "CAM7")
+        self.wait_value("M/E-2@Status@Xpt Assign@B", "CAM7")
         self.put("M/E-1@Status@Xpt Assign@A", "CAM6")
-        self.becomes("M/E-2@Status@Xpt Assign@B", "CAM6")
+        self.wait_value("M/E-2@Status@Xpt Assign@B", "CAM6")
         self.assertIsNone(self.desk.app_status())
 
 
