@@ -13,6 +13,7 @@
 #include "window.h"
 #include <algorithm>
 #include <set>
+#include <utility>
 
 struct TablePage : testing::Test {
     using Lines = std::vector<std::string>;
@@ -56,12 +57,6 @@ struct TablePage : testing::Test {
             (void)Tell(path + line);
     }
     static void Pass(int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
-    // All that is to be drawn, be it some time later.
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
     // What a touch sends.
     static Lines Touch(int x, int y, int button = 1)
     {
@@ -74,6 +69,20 @@ struct TablePage : testing::Test {
         const BT_MEM* b = bt_find(id);
         EXPECT_TRUE(b) << id;
         return b ? Touch(b->x1 + 5, b->y1 + 5) : Lines{};
+    }
+    // The page that a press asks for, 0 none.
+    static uint32_t PageBy(int id)
+    {
+        GL_CreatePage = 0;
+        (void)Press(id);
+        return std::exchange(GL_CreatePage, 0);
+    }
+    // What the choice of a row sends.
+    static Lines ChooseRow(int list, int row)
+    {
+        (void)TakeQueuedCommands();
+        SendMessage(LMSG_LISTSEL, list, row, 0, 0);
+        return TakeQueuedCommands();
     }
     // The default key of a box's knob, in slots from 1.
     static Lines Default(int slot) { return Touch(750, 68 + 82 * slot, 2); }

@@ -163,7 +163,7 @@ TEST_F(Devices, LinksOf1080p)
 
 TEST_F(Devices, AnswersOfTheServerCompleteTheTables)
 {
-    // type: of SWR1 afterwards
+    // The type is that of SWR1 afterwards.
     static const std::tuple<const char*, const char*, int, DEVTYPE> cases[] = {
         {"Info@Board Config@Unit Model@SWR1", "12", 1, DEVTYPE_NTR40},
         {"Info@Board Config@Unit Model@SWR1", "99999999999", 1, DEVTYPE_NTR40},

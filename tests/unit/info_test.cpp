@@ -179,7 +179,7 @@ TEST_F(Info, TheOperationLogFollowsThePanelsOptionUnlessTheSetupSaysSo)
 {
     static constexpr char log[] = SYSTEM "Panel Operation Log";
     static constexpr char option[] = "Info@Board Config@Board Exist Set@PNL1";
-    // sent: empty: nothing
+    // Sent: nothing where it is empty.
     static const std::tuple<const char*, const char*, const char*> steps[] = {
         {option, "2", ""}, // nothing has been said of the log
         {log, "1", "#true"},

@@ -1,6 +1,5 @@
 // The pages of one of many, on the aux buses: which one the keys are about, and what the list keeps
 // showing of the others.
-#include "a_ls.h"
 #include "pc_aux_mon.h"
 #include "table_page.h"
 #include <set>
@@ -22,12 +21,6 @@ struct AuxPage : TablePage {
         TellAll("Engineering Setup@Panel@Xpt Assign@Source@List#", {"3,", "7,", "9,"});
         TablePage::TearDown();
     }
-    static Lines Choose(int row, int list = 1)
-    {
-        (void)TakeQueuedCommands();
-        SendMessage(LMSG_LISTSEL, list, row, 0, 0);
-        return TakeQueuedCommands();
-    }
 };
 
 // What is subscribed after these lines, when it was before.
@@ -46,7 +39,7 @@ TEST_F(AuxPage, TheKeysAreAboutTheChosenBusAndTheListGoesOnShowingTheOthers)
 {
     std::set<std::string> held = After({}, Open(AUX));
     EXPECT_THAT(Press(KEY_LINK), Contains("put " + BUS + "Aux 1@Key Link#true"));
-    held = After(held, Choose(2));
+    held = After(held, ChooseRow(1, 2));
     Pass(1000);
     EXPECT_THAT(Press(KEY_LINK), Contains("put " + BUS + "Aux 3@Key Link#true"));
     EXPECT_STREQ(GL_NowTree[2], "Aux 3");
@@ -58,31 +51,30 @@ TEST_F(AuxPage, TheKeysAreAboutTheChosenBusAndTheListGoesOnShowingTheOthers)
 
     TellAll(BUS, {"Aux 1@Source#CG 1", "Aux 3@Mix#true", "Aux 48@Key Link#true", "Aux 49@Mix#true",
                   "Aux 4x@Mix#true", "@Mix#true"});
-    EXPECT_STREQ(LS_GetData(1, 0, 1), "CG 1");
-    EXPECT_STREQ(LS_GetData(1, 2, 2), "O");
-    EXPECT_STREQ(LS_GetData(1, 47, 3), "O");
-    EXPECT_STREQ(LS_GetData(1, 3, 2), "");
+    EXPECT_EQ(Cell(1, 0, 1), "CG 1");
+    EXPECT_EQ(Cell(1, 2, 2) + Cell(1, 47, 3), "OO");
+    EXPECT_EQ(Cell(1, 3, 2), "");
     EXPECT_EQ(BT_GetStatus(KEY_MIX), BT_ON);
 
     EXPECT_EQ(After(held, Leave()), std::set<std::string>{"TopMenu"});
     EXPECT_THAT(Open(AUX), Contains("add " + BUS + "Aux 3@Aspect")) << "where it was left";
-    EXPECT_EQ(Choose(2).size() + Choose(48).size() + Choose(-1).size(), 0u);
+    EXPECT_EQ(ChooseRow(1, 2).size() + ChooseRow(1, 48).size() + ChooseRow(1, -1).size(), 0u);
 }
 
 TEST_F(AuxPage, ATouchPutsASignalOnTheChosenBus)
 {
     (void)Open(MON);
-    (void)Choose(7);
-    EXPECT_THAT(Choose(1, 2), ElementsAre("put Aux/Mon@Monitor@Mon 8@Source#CG 1"));
+    (void)ChooseRow(1, 7);
+    EXPECT_THAT(ChooseRow(2, 1), ElementsAre("put Aux/Mon@Monitor@Mon 8@Source#CG 1"));
     EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "only the answer changes what is shown";
     (void)Tell("Aux/Mon@Monitor@Mon 8@Source#CG 1");
-    EXPECT_STREQ(LS_GetData(2, 1, 2), "O");
+    EXPECT_EQ(Cell(2, 1, 2), "O");
     EXPECT_EQ(LS_IsSelected(2, 1, 0), 1) << "and in view";
     EXPECT_EQ(LS_IsSelected(2, 0, 0) + LS_IsSelected(2, 2, 0), 0);
-    EXPECT_STREQ(LS_GetData(2, 2, 1), "X");
-    (void)Choose(0);
+    EXPECT_EQ(Cell(2, 2, 1), "X");
+    (void)ChooseRow(1, 0);
     EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "nothing is known of the first one's";
-    EXPECT_EQ(Choose(9, 2).size(), 0u) << "no such signal";
+    EXPECT_EQ(ChooseRow(2, 9).size(), 0u) << "no such signal";
 }
 
 TEST_F(AuxPage, WhatAnotherPageAskedForIsTheOneThatOpens)

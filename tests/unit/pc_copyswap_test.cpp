@@ -1,5 +1,4 @@
 // The copy and swap pages: what they send for a choice, and what they refuse.
-#include "a_ls.h"
 #include "table_page.h"
 
 constexpr uint32_t ME = 0x31110000, KEY = 0x31120000, CHANNEL = 0x31160000, EFFECT = 0x31210000;
@@ -13,9 +12,8 @@ struct CopyPage : TablePage {
     }
     static void Choose(int from, int to)
     {
-        SendMessage(LMSG_LISTSEL, 1, from, 0, 0);
-        SendMessage(LMSG_LISTSEL, 2, to, 0, 0);
-        (void)TakeQueuedCommands();
+        (void)ChooseRow(1, from);
+        (void)ChooseRow(2, to);
         Pass(2000);
     }
 };
@@ -23,13 +21,7 @@ struct CopyPage : TablePage {
 TEST_F(CopyPage, OneCommandCarriesTheWholeChoice)
 {
     const std::string path = "put Copy/Swap@";
-    static const struct {
-        uint32_t page;
-        int from, to;
-        std::vector<int> parts;
-        int key;
-        const char* sent;
-    } cases[] = {
+    static const std::tuple<uint32_t, int, int, std::vector<int>, int, const char*> cases[] = {
         {ME, 0, 5, {}, COPY, "M/E@Copy#M/E-1,PGM/PST,All"},
         {ME, 5, 0, {SECOND}, SWAP, "M/E@Swap#PGM/PST,M/E-1,Keys"},
         {KEY, 7, 40, {FIRST, SECOND}, COPY, "Key@Copy#M/E-1@Key8,PGM/PST@DSK1,Type,Edge"},
@@ -52,14 +44,14 @@ TEST_F(CopyPage, OneCommandCarriesTheWholeChoice)
         {CHANNEL, 0, 3, {}, COPY, "DME Channel@Copy#1,4,All"},
         {EFFECT, 2, 1, {SECOND}, COPY, "DME Effect@Copy#3,2,Video"},
     };
-    for (const auto& c : cases) {
-        (void)Open(c.page);
-        Choose(c.from, c.to);
-        for (const int part : c.parts) {
+    for (const auto& [page, from, to, parts, key, sent] : cases) {
+        (void)Open(page);
+        Choose(from, to);
+        for (const int part : parts) {
             (void)Press(part);
             Pass(2000);
         }
-        EXPECT_THAT(Puts(Press(c.key)), ElementsAre(path + c.sent)) << std::hex << c.page;
+        EXPECT_THAT(Puts(Press(key)), ElementsAre(path + sent)) << std::hex << page;
     }
 }
 
@@ -84,10 +76,10 @@ TEST_F(CopyPage, OnlyWhatTheSystemHasIsOffered)
     GL_KeyMax[0] = 4;
     (void)Open(ME);
     EXPECT_EQ(LS_GetNData(1), 4);
-    EXPECT_STREQ(LS_GetData(2, 3, 0), "P/P");
+    EXPECT_EQ(Cell(2, 3, 0), "P/P");
     (void)Open(KEY);
     EXPECT_EQ(LS_GetNData(1), 4 + 8 + 8 + 8);
-    EXPECT_STREQ(LS_GetData(1, 4, 0), "M/E-2 Key1");
+    EXPECT_EQ(Cell(1, 4, 0), "M/E-2 Key1");
 }
 
 TEST_F(CopyPage, BothListsShowWhatTheThingsAreAndUndoWhatTheServerCanUndo)
@@ -95,10 +87,8 @@ TEST_F(CopyPage, BothListsShowWhatTheThingsAreAndUndoWhatTheServerCanUndo)
     const Lines opened = Open(KEY);
     EXPECT_EQ(Held(opened, "M/E-2@Key3@Type@Key Type"), 1);
     TellAll("M/E-2@Key3@", {"Type@Key Type#Key Wipe Pattern", "Status@Source Name#CG 1"});
-    for (const int list : {1, 2}) {
-        EXPECT_STREQ(LS_GetData(list, 10, 1), "Key Wipe");
-        EXPECT_STREQ(LS_GetData(list, 10, 2), "CG 1");
-    }
+    for (const int list : {1, 2})
+        EXPECT_EQ(Cells(list, 10, 1, 2), "Key Wipe|CG 1");
     (void)Tell("Copy/Swap@Key@Undo Enable#false");
     EXPECT_EQ(Usable({UNDO}), std::vector<int>{});
     (void)Tell("Copy/Swap@Key@Undo Enable#true");

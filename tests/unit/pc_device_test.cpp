@@ -1,5 +1,4 @@
 // The device pages: whose files are listed, what loads one, which page asks the server to tell.
-#include "a_ls.h"
 #include "table_page.h"
 
 constexpr uint32_t CONTROL = 0x53210000, FILES = 0x53230000, GPI = 0x53310000;
@@ -7,12 +6,7 @@ constexpr int LIST_FILES = 2, KEY_LOAD = 50, KEY_LOAD_CUE = 51, KEY_RECORD = 22,
 const std::string MACHINE = "Device@DDR/VTR@", LIST = "Device@DDR/VTR@File List";
 
 struct DevicePage : TablePage {
-    static Lines Choose(int list, int row)
-    {
-        (void)TakeQueuedCommands();
-        SendMessage(LMSG_LISTSEL, list, row, 0, 0);
-        return Puts(TakeQueuedCommands());
-    }
+    static Lines Choose(int list, int row) { return Puts(ChooseRow(list, row)); }
 };
 
 TEST_F(DevicePage, TheFilesOfTheChosenDeviceAreListedAndLoaded)
@@ -25,7 +19,7 @@ TEST_F(DevicePage, TheFilesOfTheChosenDeviceAreListedAndLoaded)
     TellAll(LIST + "#", {"Dev1,3,LATE,1", "KILL", "Dev3,1,A,1", "Dev3,3,GAP,1", "Dev3,2,B,1",
                          "Dev3,0,ZERO,1", "Dev3,,NONE,1", "Dev3,3", "", "Dev3,3,,1"});
     ASSERT_EQ(LS_GetNData(LIST_FILES), 2);
-    EXPECT_STREQ(LS_GetData(LIST_FILES, 1, 1), "B");
+    EXPECT_EQ(Cell(LIST_FILES, 1, 1), "B");
     EXPECT_THAT(Puts(Press(KEY_LOAD)), IsEmpty()) << "nothing is chosen yet";
     Pass(1000);
     (void)Choose(LIST_FILES, 1);

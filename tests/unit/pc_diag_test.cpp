@@ -1,5 +1,4 @@
 // The Diag pages: what they show of the reports, and what is deleted from the history.
-#include "a_ls.h"
 #include "page_table/diag.h"
 #include "pane.h"
 #include "selfdiag.h"
@@ -11,21 +10,12 @@ struct DiagPage : TablePage {
     static constexpr const char* PNL = "INFORMATION@PNL Self Diagnosis Notice@";
     static constexpr const char* SWR = "INFORMATION@SWR Self Diagnosis Notice@";
 
-    static void Paint()
-    {
-        Pass(600);
-        Pass(10);
-    }
     static Lines Rows()
     {
         Paint();
         Lines rows;
-        for (int r = 0; r < LS_GetNData(1); r++) {
-            std::string row;
-            for (int c = 0; c < 4 && LS_GetData(1, r, c); c++)
-                row += (c ? "|" : "") + std::string(LS_GetData(1, r, c));
-            rows.push_back(row);
-        }
+        for (int r = 0; r < LS_GetNData(1); r++)
+            rows.push_back(Cells(1, r, 0, 4));
         return rows;
     }
     static void Fan(const std::string& words)

@@ -1,10 +1,6 @@
 // The engineering pages: what their switches change, and what they show of the state.
-#include "a_bt.h"
-#include "a_ls.h"
-#include "a_nb.h"
 #include "a_st_draw.h"
 #include "debug.h"
-#include "device.h"
 #include "hsl.h"
 #include "log.h"
 #include "loop.h"
@@ -14,7 +10,6 @@
 #include "selfdiag.h"
 #include "table_page.h"
 #include "text.h"
-#include <set>
 
 struct Engineering : TablePage {
     static constexpr const char* LOG = "/var/log2/eng_test.log";
@@ -177,10 +172,8 @@ TEST_F(Engineering, TheCheckerSetsTheGroundOfTheCellsAndBringsItBack)
 TEST_F(Engineering, ReportsAreKeptWhateverPageIsShown)
 {
     Open(PAGE_TOP);
-    (void)Tell("Info@Status Report#true");
-    (void)Tell("Info@Status Report@SWR1#NG Fan 2");
-    (void)Tell("Info@Status Report#Server restarted");
-    (void)Tell("Info@Status Reports@SWR9#none of them");
+    TellAll("Info@Status Report",
+            {"#true", "@SWR1#NG Fan 2", "#Server restarted", "s@SWR9#none of them"});
     Open(0x99980000);
     EXPECT_THAT(Column(1, 1), ElementsAre("Server", "SWR1"));
     EXPECT_THAT(Column(1, 2), ElementsAre("Server restarted", "NG Fan 2"));
@@ -189,8 +182,8 @@ TEST_F(Engineering, ReportsAreKeptWhateverPageIsShown)
         (void)Tell("Info@Status Report@DME1#" + std::to_string(n));
     Pass(10);
     EXPECT_EQ(LS_GetNData(1), 200);
-    EXPECT_STREQ(LS_GetData(1, 0, 2), "204");
-    EXPECT_STREQ(LS_GetData(1, 199, 2), "5");
+    EXPECT_EQ(Cell(1, 0, 2), "204");
+    EXPECT_EQ(Cell(1, 199, 2), "5");
     Press(49); // clear
     EXPECT_EQ(LS_GetNData(1), 0);
     const std::vector<uint32_t> reporting = PixelsIn({104, 392, 697, 409});
@@ -210,12 +203,10 @@ TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
     fclose(fp);
     Open(0x99930003);
     EXPECT_EQ(LS_GetNData(1), 1000) << "no more than the list takes";
-    EXPECT_STREQ(LS_GetData(1, 0, 2), "[cut");
-    EXPECT_STREQ(LS_GetData(1, 1, 0), "Mar 05 07:08:10");
-    EXPECT_STREQ(LS_GetData(1, 1, 1), "15");
-    EXPECT_STREQ(LS_GetData(1, 1, 2), "the link [text]");
-    EXPECT_STREQ(LS_GetData(1, 2, 2), "M/E-1@Key1@Type#Luminance");
-    EXPECT_STREQ(LS_GetData(1, 3, 2), "line 4999 of the pages, to fill the file");
+    EXPECT_EQ(Cell(1, 0, 2), "[cut");
+    EXPECT_EQ(Cells(1, 1, 0, 3), "Mar 05 07:08:10|15|the link [text]");
+    EXPECT_EQ(Cell(1, 2, 2), "M/E-1@Key1@Type#Luminance");
+    EXPECT_EQ(Cell(1, 3, 2), "line 4999 of the pages, to fill the file");
     EXPECT_EQ(BT_GetStatus(51), BT_OFF);
     Press(37); // links
     EXPECT_THAT(Column(1, 2), ElementsAre("the link [text]"));
@@ -240,11 +231,8 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     ASSERT_TRUE(server.Accept());
     MainPass();
     Open(0x99990000);
-    EXPECT_STREQ(LS_GetData(1, 0, 2), "Up");
-    EXPECT_STREQ(LS_GetData(1, 1, 2), "Down");
-    EXPECT_STREQ(LS_GetData(1, 2, 2), "Not used");
-    EXPECT_STREQ(LS_GetData(1, 0, 7), "waiting");
-    EXPECT_STREQ(LS_GetData(1, 1, 7), "--") << "it has nothing to ask";
+    EXPECT_THAT(Column(1, 2), ElementsAre("Up", "Down", "Not used"));
+    EXPECT_THAT(Column(1, 7), ElementsAre("waiting", "--", "")) << "two have nothing to ask";
     EXPECT_EQ(LS_GetStatus(1, 0, 2), 0);
     EXPECT_EQ(LS_GetStatus(1, 1, 2), 2) << "red";
     Press(50); // repeat
@@ -258,11 +246,11 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     Press(49); // ping; nobody answers
     for (int pass = 0; pass < 400; pass++)
         MainPass();
-    EXPECT_STREQ(LS_GetData(1, 0, 7), "none");
-    EXPECT_STREQ(LS_GetData(2, 1, 1), "--");
+    EXPECT_EQ(Cell(1, 0, 7), "none");
+    EXPECT_EQ(Cell(2, 1, 1), "--");
     GL_ProcStatus[1] = 1;
     Pass(600);
-    EXPECT_STREQ(LS_GetData(2, 1, 1), "Up");
+    EXPECT_EQ(Cell(2, 1, 1), "Up");
     GL_ProcStatus[1] = 0;
     server.Drop();
     server.StopListening();
@@ -272,25 +260,22 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
 TEST_F(Engineering, BoardsOfUnitsThatAreThereAreListed)
 {
     Open(0x99910001);
-    EXPECT_STREQ(LS_GetData(1, 0, 1), "--");
+    EXPECT_EQ(Cell(1, 0, 1), "--");
     CopyText(DEV_Swr[0].name, "SWR1");
     SYS_SwrMax = 1;
     CopyText(GL_CircuitBoard[0][0], "MIX-12");
     CopyText(GL_CircuitBoard[1][0], "MIX-13"); // of a unit that has gone
     Pass(600);
-    EXPECT_STREQ(LS_GetData(1, 0, 1), "MIX-12");
-    EXPECT_STREQ(LS_GetData(1, 0, 2), "--");
-    EXPECT_STREQ(LS_GetData(1, 1, 1), "--") << "nothing told";
+    EXPECT_EQ(Cells(1, 0, 1, 2), "MIX-12|--");
+    EXPECT_EQ(Cell(1, 1, 1), "--") << "nothing told";
     CopyText(DEV_Swr[0].id, "SWR001D001");
     DEV_MySwr[0] = &DEV_Swr[0];
     SYS_MySwrMax = 1;
     Open(0x99910003);
     (void)Tell("INFORMATION@SWR Self Diagnosis Notice@Fan Speed#SWR1,OK,NG");
     Pass(600);
-    EXPECT_STREQ(LS_GetData(1, 0, 1), "OK");
-    EXPECT_STREQ(LS_GetData(1, 1, 1), "NG");
+    EXPECT_EQ(Cell(1, 0, 1) + Cell(1, 1, 1) + Cell(1, 2, 1), "OKNG--") << "the report named two";
     EXPECT_EQ(LS_GetStatus(1, 1, 1), 2) << "red";
-    EXPECT_STREQ(LS_GetData(1, 2, 1), "--") << "the report named two";
 }
 
 TEST_F(Engineering, WhatArrivesIsListedTheNewestOnTop)
@@ -309,8 +294,8 @@ TEST_F(Engineering, WhatArrivesIsListedTheNewestOnTop)
         (void)Tell("Panel@Common@Knob1#" + std::to_string(n));
     Pass(10);
     EXPECT_EQ(LS_GetNData(1), 200);
-    EXPECT_STREQ(LS_GetData(1, 0, 2), "Panel@Common@Knob1  counts 204");
-    EXPECT_STREQ(LS_GetData(1, 199, 2), "Panel@Common@Knob1  counts 5");
+    EXPECT_EQ(Cell(1, 0, 2), "Panel@Common@Knob1  counts 204");
+    EXPECT_EQ(Cell(1, 199, 2), "Panel@Common@Knob1  counts 5");
 }
 
 TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)

@@ -7,11 +7,6 @@ struct PanelSetup : PanelTest {
     {
         (void)Touch(112 + 70 * ((button - 1) % 4) + 20, 212 + 46 * ((button - 1) / 4) + 20);
     }
-    static std::string Cell(int row, int col, int list = 1)
-    {
-        const char* const text = LS_GetData(list, row, col);
-        return text ? text : "";
-    }
 };
 
 TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
@@ -79,10 +74,10 @@ TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
     TouchPad(10);
     EXPECT_THAT(Push(BTN_ASSIGN_SET),
                 ElementsAre("put " PAD "@Button Assign@10@Operation@Common@1#4,1,Snapshot"));
-    EXPECT_EQ(Cell(4, 1), "") << "what is pressed is not what is";
+    EXPECT_EQ(Cell(1, 4, 1), "") << "what is pressed is not what is";
     (void)Tell(PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot");
     (void)Tell(PAD "@Button Assign@10@Operation@Common@1#4,1,Snapshot");
-    EXPECT_EQ(Cell(4, 1), "9,10");
+    EXPECT_EQ(Cell(1, 4, 1), "9,10");
     EXPECT_THAT(Push(BTN_ASSIGN_CLEAR),
                 ElementsAre("put " PAD "@Button Assign@10@Operation@Common@1#0,1,NO ASSIGN"));
     EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT),
@@ -90,7 +85,7 @@ TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
     for (const char* rubbish : {"4,1,No Such Thing", "4,1", "", ",,", "4"}) {
         (void)Tell(PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot");
         (void)Tell(std::string(PAD "@Button Assign@09@Operation@Common@1#") + rubbish);
-        EXPECT_EQ(Cell(4, 1), "10") << rubbish;
+        EXPECT_EQ(Cell(1, 4, 1), "10") << rubbish;
     }
 }
 
@@ -147,7 +142,7 @@ TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
                                       {"2,1002", "1"},
                                       {"", ""}}) {
         (void)Tell(std::string(KEY2 "Action Set@1@1#") + value);
-        EXPECT_EQ(Cell(1, 1), mark) << value;
+        EXPECT_EQ(Cell(1, 1, 1), mark) << value;
     }
 }
 
@@ -158,11 +153,11 @@ TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReached)
     (void)Open(0x73240002);
     EXPECT_THAT(PushIn(3, BTN_ASSIGN_SET), ElementsAre("put " KEY2 "Action Set@1@35#1,3"));
     (void)Tell(KEY2 "Action Set@1@40#1,3");
-    EXPECT_EQ(Cell(3, 1), "40");
+    EXPECT_EQ(Cell(1, 3, 1), "40");
     Lines lines = Push(BTN_ACTION_RANGE);
     EXPECT_EQ(Held(lines, KEY2 "Action Set@1@40"), -1);
     EXPECT_EQ(Held(lines, KEY2 "Action Set@1@1"), 1) << "after the last the first";
-    EXPECT_EQ(Cell(3, 1), "") << "of these nothing has been told";
+    EXPECT_EQ(Cell(1, 3, 1), "") << "of these nothing has been told";
     (void)Touch(112 + 70 + 20, 98 + 20); // M/E-1
     lines = Touch(112 + 70 + 20, 98 + 20);
     EXPECT_EQ(Held(lines, KEY2 "Action Set@2@16"), -1);
@@ -248,7 +243,7 @@ TEST_F(PanelSetup, ATableShowsWhatIsToldOfItsSide)
     EXPECT_EQ(Row(1, 5), "2||||") << "no such sources";
     (void)Tell(XPT "Source@List#1,GUEST");
     EXPECT_EQ(Row(0, 5), "1|GUEST|CAM2||");
-    EXPECT_EQ(Cell(0, 1, 2), "GUEST");
+    EXPECT_EQ(Cell(2, 0, 1), "GUEST");
     SelectRow(0, 2);
     EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " XPT "Insert VK#129,1,1"));
 }
@@ -265,7 +260,7 @@ TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
     for (const auto& [page, path] : tables) {
         EXPECT_EQ(Held(Open(page), path), 1) << path;
         (void)Tell(path + "#2,1");
-        EXPECT_EQ(Cell(1, 1), Cell(0, 1, 2)) << path;
+        EXPECT_EQ(Cell(1, 1, 1), Cell(2, 0, 1)) << path;
         EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " + path + "@Insert#1,1"));
         EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " + path + "@Overwrite#2,1"));
         EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " + path + "@Delete#3"));

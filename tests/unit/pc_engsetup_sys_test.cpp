@@ -413,12 +413,12 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
 {
     ASSERT_EQ(::system("mkdir -p /mnt/usb/usb1 /mnt/usb/usb3 /mnt/data"), 0);
     (void)Open(0x73170000);
-    EXPECT_STREQ(LS_GetData(1, 0, 0), "For displaying device information,");
+    EXPECT_EQ(Cell(1, 0, 0), "For displaying device information,");
     EXPECT_THAT(Usable({BTN_MAINTENANCE_FORMAT, BTN_MAINTENANCE_PRIMARY}), IsEmpty());
     (void)Push(35);
-    EXPECT_STREQ(LS_GetData(1, 0, 0), "Local Drive");
+    EXPECT_EQ(Cell(1, 0, 0), "Local Drive");
     EXPECT_GT(atoi(LS_GetData(1, 0, 2)), 0);
-    EXPECT_STREQ(LS_GetData(1, 1, 2), "") << "not mounted";
+    EXPECT_EQ(Cell(1, 1, 2), "") << "not mounted";
     GL_NFS_Mounted = 1;
     ASSERT_EQ(::system("mkdir -p /var/nfs"), 0);
     (void)Push(35);
@@ -429,7 +429,7 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     EXPECT_THAT(Push(BTN_MAINTENANCE_PRIMARY),
                 ElementsAre("put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"));
     (void)Tell("Info@Operation Setup Data@Import Path#/mnt/usb/usb3/");
-    EXPECT_STREQ(LS_GetData(2, 1, 0), "Removable 2 (Primary)");
+    EXPECT_EQ(Cell(2, 1, 0), "Removable 2 (Primary)");
     EXPECT_THAT(Choose(BTN_MAINTENANCE_FORMAT, NO), IsEmpty());
     EXPECT_EQ(Pane_GetActiveID(), 0) << "nothing was done";
     ASSERT_EQ(::system("rm -rf /var/tmp/device*; mkdir -p /var/tmp/device"), 0);
@@ -466,7 +466,7 @@ TEST_F(SystemPage, TheDriverOfTheSticksIsReloadedThenTheDrivesAreReadAnew)
     EXPECT_EQ(LS_GetData(1, 0, 0), unread) << "not yet";
     (void)end(sent, "Refresh", "OK");
     EXPECT_EQ(Pane_GetActiveID(), 0);
-    EXPECT_STREQ(LS_GetData(1, 0, 0), "Local Drive");
+    EXPECT_EQ(Cell(1, 0, 0), "Local Drive");
     Pass(1000);
     sent = Push(38);
     (void)Answer(0); // Cancel

@@ -262,12 +262,7 @@ TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
     Own("Crop Mode@Crop", CROP);
     const std::string crop = root + "@Modify@Crop Mode@Crop@";
-    static const struct {
-        const char* told;
-        int rest_ms;
-        const char* turn;
-        Lines edges;
-    } steps[] = {
+    static const std::tuple<const char*, int, const char*, Lines> steps[] = {
         {"", 0, "0#3", {}}, // no value yet
         {"Left@1#-50", 0, "0#3", {"Right@1#49.24", "Left@1#-49.24"}},
         {"", 0, "0#3", {"Right@1#48.48", "Left@1#-48.48"}}, // faster than the server: they add up
@@ -279,13 +274,13 @@ TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
         // the same sense crops, though this value falls
         {"Top@1#50", 0, "1#3", {"Bottom@1#-49.24", "Top@1#49.24"}},
     };
-    for (const auto& s : steps) {
-        if (*s.told)
-            Tell(crop + s.told);
-        Pass(s.rest_ms);
-        EXPECT_EQ(Tell(std::string("Panel@Common@Knob") + s.turn),
-                  Sent("put", s.edges, "Crop Mode@Crop@"))
-            << s.turn;
+    for (const auto& [told, rest_ms, turn, edges] : steps) {
+        if (*told)
+            Tell(crop + told);
+        Pass(rest_ms);
+        EXPECT_EQ(Tell(std::string("Panel@Common@Knob") + turn),
+                  Sent("put", edges, "Crop Mode@Crop@"))
+            << turn;
     }
 }
 

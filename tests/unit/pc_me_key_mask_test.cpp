@@ -82,7 +82,6 @@ TEST_F(KeyMaskPages, TheSubMaskShowsThePatternOfItsBank)
     for (const auto& [page, key, target] : cases) {
         Open(page);
         TellAll(key, {"@Sub Mask@Sub Mask#true", "@Sub Mask@Mask Source#Pattern"});
-        (void)Press(37);
-        EXPECT_EQ(GL_CreatePage, target) << key;
+        EXPECT_EQ(PageBy(37), target) << key;
     }
 }

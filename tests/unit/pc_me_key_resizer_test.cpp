@@ -6,7 +6,6 @@ using KeyResizerPages = TablePage;
 TEST_F(KeyResizerPages, WhatIsGreyFollowsSettingsOfSeveralPages)
 {
     const std::string border = "Border/Crop@", effect = "Enhanced Effect@";
-    // lines: of the key's resizer
     const std::tuple<uint32_t, Lines, std::set<int>> cases[] = {
         {0x12350000, {"Resizer#false"}, {18, 20, 21, 33, 34, 35, 49, 50, 51, 52, 53}},
         {0x12350000, {"Resizer#true", "Combine#true"}, {51, 53}},
@@ -71,27 +70,20 @@ TEST_F(KeyResizerPages, TheBorderOfAGeneratorIsAskedForAfterwards)
 
 TEST_F(KeyResizerPages, TwoEdgesAtOnceKeepTheirSense)
 {
-    static const struct {
-        uint32_t page;
-        const char* path;
-        int slot;
-        int x; // of the drag
-        const char* value;
-    } cases[] = {
+    static const std::tuple<uint32_t, std::string, int, int, const char*> cases[] = {
         {0x11150002, "M/E-1@Key1@Resizer@Border/Crop@Crop@H", 1, 714, "-100.00"},
         {0x16450002, "M/E-2@Key8@Resizer@Border/Crop@Crop@All", 3, 734, "-75.00"},
         {0x16450002, "M/E-2@Key8@Resizer@Border/Crop@Crop@All", 3, 799, "0.00"},
         {0x82150002, "M/E-5@Key1@Resizer@Border/Crop@Crop@V", 2, 734, "75.00"},
     };
-    for (const auto& c : cases) {
-        const std::string path = c.path;
-        Open(c.page);
+    for (const auto& [page, path, slot, x, value] : cases) {
+        Open(page);
         Tell(path.substr(0, path.rfind('@')) + "#true");
         (void)Press(33);
         if (NB_GetLayer() == 0)
             NextLayer();
         Tell(path + "#10");
-        EXPECT_THAT(Drag(c.slot, c.x), ElementsAre("put " + path + "#" + c.value, "read " + path));
+        EXPECT_THAT(Drag(slot, x), ElementsAre("put " + path + "#" + value, "read " + path));
     }
 }
 
@@ -135,7 +127,7 @@ TEST_F(KeyResizerPages, TheRotationOfAKeyIsNotGivenBack)
 
 TEST_F(KeyResizerPages, AShownColumnFollowsTheRotation)
 {
-    // turned: a value that there is only while the key turns
+    // A button, and a value that there is only while the key turns.
     static const std::tuple<uint32_t, int, const char*> cases[] = {
         {0x15250000, 17, "Resizer@Depth"},
         {0x15250004, 17, "Resizer@Mask@Box@Angle"},

@@ -1,7 +1,6 @@
 // The type pages of a key as the table opens them: their own lines on the wire, what they show
 // after tallies.
 #include "a_ba.h"
-#include "a_ls.h"
 #include "a_st.h"
 #include "pane.h"
 #include "table_page.h"
@@ -30,26 +29,20 @@ TEST_F(KeyTypePage, SettingsOfEachTypeAreFollowedAndTheChosenOnesShown)
 
 TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
 {
-    static const struct {
-        uint32_t page;
-        const char* setting;
-        int button;
-        uint32_t target;
-        int assign; // GL_FillSourceAssignMode on the way; 7 untouched
-    } cases[] = {
+    // The last column: GL_FillSourceAssignMode on the way; 7 untouched
+    static const std::tuple<uint32_t, const char*, int, uint32_t, int> cases[] = {
         {0x12310000, "M/E-2@Key3@Type@Key Type#Luminance", 38, 0x12310003, 1},
         {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 38, 0x81510000, 7},
         {0x12310000, "M/E-2@Key3@Type@Key Type#Key Wipe Pattern", 38, 0x12370002, 7},
         {0x85210000, "M/E-4@Key6@Type@Key Fill#Key Bus", 51, 0x85210003, 0},
         {0x14410000, "PGM/PST@DSK4@Type@Key Fill#Matte", 51, 0x14410002, 7},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        Tell(c.setting);
+    for (const auto& [page, setting, button, target, assign] : cases) {
+        Open(page);
+        Tell(setting);
         GL_FillSourceAssignMode = 7;
-        Press(c.button);
-        EXPECT_EQ(GL_CreatePage, c.target) << c.setting;
-        EXPECT_EQ(GL_FillSourceAssignMode, c.assign) << c.setting;
+        EXPECT_EQ(PageBy(button), target) << setting;
+        EXPECT_EQ(GL_FillSourceAssignMode, assign) << setting;
     }
 }
 
@@ -164,26 +157,22 @@ using KeyMattePage = TablePage;
 
 TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
 {
-    static const struct {
-        uint32_t page;
-        const char *mode, *edge;
-        std::vector<int> usable; // of mode, second colour, pattern
-        const char* color;
-    } cases[] = {
-        {0x12210002, "Flat", "Emboss", {17}, "Color 1"}, // the edge is not the fill's
-        {0x12210002, "Mix", "Normal", {17, 20, 33, 37}, "Color 1"},
-        {0x12220001, "Flat", "Border", {17}, "Color 1"},
-        {0x12220001, "Mix", "Border", {17, 20, 33, 37}, "Color 1"},
-        {0x12220001, "Mix", "Emboss", {20}, "Light"},
-        {0x12220001, "Flat", "Emboss", {20}, "Light"},
-    };
-    for (const auto& c : cases) {
-        Open(c.page);
-        const string group = c.page == 0x12210002 ? "Type" : "Edge";
-        TellAll("M/E-2@Key2@",
-                {group + "@Matte Adjust@Mode#" + c.mode, string("Edge@Edge#") + c.edge});
-        EXPECT_EQ(Usable({17, 20, 33, 37}), c.usable) << group << c.mode << " " << c.edge;
-        EXPECT_EQ(Caption(19), c.color) << group << c.mode << " " << c.edge;
+    // Usable of mode, second colour, pattern
+    static const std::tuple<uint32_t, const char*, const char*, std::vector<int>, const char*>
+        cases[] = {
+            {0x12210002, "Flat", "Emboss", {17}, "Color 1"}, // the edge is not the fill's
+            {0x12210002, "Mix", "Normal", {17, 20, 33, 37}, "Color 1"},
+            {0x12220001, "Flat", "Border", {17}, "Color 1"},
+            {0x12220001, "Mix", "Border", {17, 20, 33, 37}, "Color 1"},
+            {0x12220001, "Mix", "Emboss", {20}, "Light"},
+            {0x12220001, "Flat", "Emboss", {20}, "Light"},
+        };
+    for (const auto& [page, mode, edge, usable, color] : cases) {
+        Open(page);
+        const string group = page == 0x12210002 ? "Type" : "Edge";
+        TellAll("M/E-2@Key2@", {group + "@Matte Adjust@Mode#" + mode, string("Edge@Edge#") + edge});
+        EXPECT_EQ(Usable({17, 20, 33, 37}), usable) << group << mode << " " << edge;
+        EXPECT_EQ(Caption(19), color) << group << mode << " " << edge;
     }
 }
 
@@ -201,8 +190,7 @@ TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
         Tell(string(path) + "none");
         EXPECT_EQ(Caption(button), "Pattern\nSelect");
         TellAll("M/E-", {"4@Key7@Edge@Matte Adjust@Mode#Mix", "1@Key3@Type@Matte Adjust@Mode#Mix"});
-        Press(button);
-        EXPECT_EQ(GL_CreatePage, target);
+        EXPECT_EQ(PageBy(button), target);
     }
 }
 

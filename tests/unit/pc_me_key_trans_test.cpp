@@ -28,7 +28,6 @@ TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
 
 TEST_F(KeyTransitionPage, PatternSelectLeadsToWhatTheTypeIsMadeOf)
 {
-    // type: of which way, and the line that tells it
     static const std::tuple<uint32_t, const char*, int, uint32_t> cases[] = {
         {0x11170100, "M/E-1@Key1@Transition@ON Transition Type#Wipe", 36, 0x11170004},
         {0x82470100, "M/E-5@Key4@Transition@ON Transition Type#DME Wipe", 36, 0x82470006},
@@ -39,8 +38,7 @@ TEST_F(KeyTransitionPage, PatternSelectLeadsToWhatTheTypeIsMadeOf)
     for (const auto& [page, type, button, target] : cases) {
         Open(page);
         Tell(type);
-        (void)Press(button);
-        EXPECT_EQ(GL_CreatePage, target) << type;
+        EXPECT_EQ(PageBy(button), target) << type;
     }
 }
 

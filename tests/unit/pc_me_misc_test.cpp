@@ -18,18 +18,18 @@ struct MeMisc : TablePage {
     }
 };
 
-static const struct {
-    uint32_t bank; // of the page's id
-    const char* word;
-} two_banks[] = {{0x12000000, "M/E-2"}, {0x85000000, "M/E-4 SUB"}};
+// Of the page's id and of the paths.
+static const std::pair<uint32_t, std::string> two_banks[] = {{0x12000000, "M/E-2"},
+                                                             {0x85000000, "M/E-4 SUB"}};
 
 // --- Transition ---
 
-TEST_F(MeMisc, ATypeOfTransitionTakesThePlaceOfTheOneBefore)
+TEST_F(MeMisc, ATypeOfTransitionTakesThePlaceOfTheOneBeforeAndLimitIsASwitch)
 {
-    for (const auto& b : two_banks) {
-        const std::string path = std::string(b.word) + "@Misc@Transition@";
-        EXPECT_THAT(Open(b.bank + 0x710000), Contains("add " + path + "Super Mix"));
+    for (const auto& [bank, word] : two_banks) {
+        const std::string path = word + "@Misc@Transition@", mode = path + "Transition Mode";
+        EXPECT_THAT(Open(bank + 0x710000),
+                    AllOf(Contains("add " + path + "Super Mix"), Contains("add " + mode)));
         EXPECT_THAT(Puts(Press(1)), ElementsAre("put " + path + "Mix#true")) << "there was none";
         TellAll(path, {"Mix#false", "Wipe#true"});
         EXPECT_EQ(BT_GetStatus(17), BT_ON);
@@ -43,49 +43,34 @@ TEST_F(MeMisc, ATypeOfTransitionTakesThePlaceOfTheOneBefore)
         const Lines sent = Press(3);
         EXPECT_THAT(sent, Contains("add " + path + "Super Mix@A Video"));
         EXPECT_THAT(Puts(sent), IsEmpty());
-    }
-}
 
-TEST_F(MeMisc, LimitIsOneSwitchForAWordOfTheServer)
-{
-    for (const auto& b : two_banks) {
-        const std::string path = std::string(b.word) + "@Misc@Transition@Transition Mode";
-        EXPECT_THAT(Open(b.bank + 0x710000), Contains("add " + path));
-        EXPECT_THAT(Puts(Press(5)), ElementsAre("put " + path + "#Limit"));
+        EXPECT_THAT(Puts(Press(5)), ElementsAre("put " + mode + "#Limit"));
         EXPECT_NE(BT_GetStatus(5), BT_ON) << "the server has not said so";
-        Tell(path + "#Limit");
+        Tell(mode + "#Limit");
         EXPECT_EQ(BT_GetStatus(5), BT_ON);
-        EXPECT_THAT(Puts(Press(5)), ElementsAre("put " + path + "#Full"));
-        EXPECT_THAT(Leave(), Contains("remove " + path));
+        EXPECT_THAT(Puts(Press(5)), ElementsAre("put " + mode + "#Full"));
+        EXPECT_THAT(Leave(), Contains("remove " + mode));
     }
 }
 
 TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
 {
-    static const struct {
-        uint32_t page;
-        int bank; // in GL_KeyMax
-        int key5; // its button
-        const char *caption, *rate, *no_rate;
-    } cases[] = {
-        {0x13710000, 2, 50, "Key5", "M/E-3@Key8", "M/E-3@DSK8"},
-        {0x14710000, 5, 50, "DSK5", "PGM/PST@DSK8", "PGM/PST@Key8"},
-    };
-    for (const auto& c : cases)
+    for (const auto& [page, index, bank, word, other] :
+         {std::tuple{0x13710000u, 2, "M/E-3@", "Key", "DSK"},
+          {0x14710000u, 5, "PGM/PST@", "DSK", "Key"}})
         for (const int keys : {8, 4}) {
-            const auto add = [](const char* key) {
-                return std::string("add ") + key + "@Transition@ON Transition Rate";
-            };
-            GL_KeyMax[c.bank] = keys;
-            Open(c.page);
-            EXPECT_EQ(BT_GetVisible(c.key5), keys == 8 ? BT_ENABLED : BT_CUTOFF) << c.caption;
-            EXPECT_EQ(Caption(c.key5), c.caption);
+            GL_KeyMax[index] = keys;
+            Open(page);
+            EXPECT_EQ(BT_GetVisible(50), keys == 8 ? BT_ENABLED : BT_CUTOFF) << word;
+            EXPECT_EQ(Caption(50), std::string(word) + "5");
             const Lines sent = Press(22);
-            EXPECT_EQ(std::ranges::count(sent, add(c.rate)), keys == 8) << c.rate;
-            EXPECT_THAT(sent, Not(Contains(add(c.no_rate))));
-            Open(c.page); // it remembers who had the knobs
+            const std::string add = std::string("add ") + bank,
+                              rate = "8@Transition@ON Transition Rate";
+            EXPECT_EQ(std::ranges::count(sent, add + word + rate), keys == 8) << word;
+            EXPECT_THAT(sent, Not(Contains(add + other + rate)));
+            Open(page); // it remembers who had the knobs
             NextLayer();
-            EXPECT_EQ(NB_GetLayer(), keys == 8) << c.rate;
+            EXPECT_EQ(NB_GetLayer(), keys == 8) << word;
             NextLayer();
         }
 }
@@ -119,9 +104,9 @@ TEST_F(MeMisc, WithoutClipsThereIsNeitherTheirTypeNorTheirTab)
 
 TEST_F(MeMisc, UnityPutsTheGainsOfTheOwnBankAndSide)
 {
-    for (const auto& b : two_banks) {
-        const std::string path = std::string(b.word) + "@Misc@Video Process@";
-        Open(b.bank + 0x720000);
+    for (const auto& [bank, word] : two_banks) {
+        const std::string path = word + "@Misc@Video Process@";
+        Open(bank + 0x720000);
         Tell(path + "Video Process#true");
         EXPECT_THAT(Press(2),
                     ElementsAre("put " + path + "Luminance#100.00", "put " + path + "Chroma#100.00",
@@ -187,11 +172,7 @@ TEST_F(MeMisc, APressMovesOneKeyAndShiftsTheOthersWhenTheOrderIsKnown)
 
 TEST_F(MeMisc, TheNormalOrderIsThatOfThePagesOwnKeys)
 {
-    static const struct {
-        uint32_t page;
-        const char *bank, *value, *sent;
-        int button;
-    } cases[] = {
+    static const std::tuple<uint32_t, const char*, const char*, const char*, int> cases[] = {
         {0x11730000, "M/E-1", "4,3,2,1,4,3,2,1", "1,2,3,4,4,3,2,1", 22},
         {0x11730000, "M/E-1", "4,3,2,1", "1,2,3,4", 22},
         {0x11730000, "M/E-1", "", "1,2,3,4", 22},
@@ -199,12 +180,12 @@ TEST_F(MeMisc, TheNormalOrderIsThatOfThePagesOwnKeys)
         {0x14730001, "PGM/PST", "", "1,2,3,4,1,2,3,4", 22},
         {0x86730000, "M/E-5 SUB", "4,3,2,1,4,3,2,1", "4,3,2,1,1,2,3,4", 6},
     };
-    for (const auto& c : cases) {
-        const std::string path = std::string(c.bank) + "@Misc@Key Priority@Key Priority";
-        Open(c.page);
-        if (c.value[0])
-            Tell(path + "#" + c.value);
-        EXPECT_THAT(Press(c.button), ElementsAre("put " + path + "#" + c.sent)) << c.bank;
+    for (const auto& [page, bank, value, sent, button] : cases) {
+        const std::string path = std::string(bank) + "@Misc@Key Priority@Key Priority";
+        Open(page);
+        if (value[0])
+            Tell(path + "#" + value);
+        EXPECT_THAT(Press(button), ElementsAre("put " + path + "#" + sent)) << bank;
     }
 }
 
@@ -227,7 +208,6 @@ TEST_F(MeMisc, TheMatrixGivesBackBothListsWhicheverWasShown)
 // The bar lies on the line of the key whose page it is.
 TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
 {
-    // line: -1 none
     static const std::tuple<uint32_t, const char*, int> cases[] = {
         {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#2,1,3,4", 1},
         {0x14410000, "PGM/PST@Misc@Key Priority@Key Priority#2,4,3,1,1,2,3,4", 0},
@@ -258,8 +238,7 @@ TEST_F(MeMisc, TheOrderOfTheSubSidesKeysIsTheSameOnAllPages)
         EXPECT_EQ(MarkedLine(), line) << enable << " of key 5";
 
         Open(0x11730000);
-        (void)Press(53);
-        EXPECT_EQ(std::exchange(GL_CreatePage, 0), 0x15730000u);
+        EXPECT_EQ(PageBy(53), 0x15730000u);
 
         const Lines opened = Open(0x11730001);
         tell_orders(enable);
@@ -369,11 +348,8 @@ TEST_F(MeMisc, TheMonitorIsMarkedOnlyForAChannelOfTheKey)
 
 TEST_F(MeMisc, TheTwoSwitchesOfAKeyAreOneWord)
 {
-    static const struct {
-        const char* word;
-        int main, sub; // the buttons' states
-        const char *after_main, *after_sub;
-    } cases[] = {
+    // The word, how the two switches look, and what each of them sends then.
+    static const std::tuple<const char*, int, int, const char*, const char*> cases[] = {
         {"Main", BT_ON, BT_OFF, "Off", "Both"}, {"Sub", BT_OFF, BT_ON, "Both", "Off"},
         {"Both", BT_ON, BT_ON, "Sub", "Main"},  {"Off", BT_OFF, BT_OFF, "Main", "Sub"},
         {"?", BT_ON, BT_OFF, "Off", "Both"}, // as the setup says
@@ -381,12 +357,12 @@ TEST_F(MeMisc, TheTwoSwitchesOfAKeyAreOneWord)
     const std::string path = "PGM/PST@Misc@Key Assign@Key6";
     Open(0x14740000);
     EXPECT_EQ(Caption(18), "DSK6");
-    for (const auto& c : cases) {
-        Tell(path + "#" + c.word);
-        EXPECT_EQ(BT_GetStatus(18), c.main) << c.word;
-        EXPECT_EQ(BT_GetStatus(50), c.sub) << c.word;
-        EXPECT_THAT(Press(18), ElementsAre("put " + path + "#" + c.after_main));
-        EXPECT_THAT(Press(50), ElementsAre("put " + path + "#" + c.after_sub));
+    for (const auto& [word, main, sub, after_main, after_sub] : cases) {
+        Tell(path + "#" + word);
+        EXPECT_EQ(BT_GetStatus(18), main) << word;
+        EXPECT_EQ(BT_GetStatus(50), sub) << word;
+        EXPECT_THAT(Press(18), ElementsAre("put " + path + "#" + after_main));
+        EXPECT_THAT(Press(50), ElementsAre("put " + path + "#" + after_sub));
     }
 }
 
@@ -397,7 +373,7 @@ TEST_F(MeMisc, AKeyThatNobodyAssignedFollowsTheSetup)
             {"M/E Output Assign@List#M/E-2,1,Main", "M/E Output Assign@List#M/E-2,2,Sub",
              "PGM Config@List#M/E-2,1,03",   // keys 1 and 2
              "PGM Config@List#M/E-2,2,42"}); // keys 2 and 7
-    // sub: buttons
+    // The buttons of the main and the sub side.
     static const std::tuple<int, int, bool, bool> keys[] = {
         {1, 33, true, false}, {2, 34, true, true}, {3, 35, false, false}, {19, 51, false, true}};
     for (const auto& [main, sub, is_main, is_sub] : keys) {
@@ -453,7 +429,7 @@ TEST_F(MeMisc, TheTwoTimesLieInTheClipThatIsLoaded)
     EXPECT_THAT(Usable({37, 53}), IsEmpty());
     Tell(path + "Clip Name#GOAL");
     EXPECT_THAT(Usable({37, 53}), ElementsAre(37, 53));
-    // sent: after a value far beyond
+    // What a value far beyond becomes.
     static const std::pair<const char*, double> cases[] = {
         {"250", 249}, {"-5", 215999}, {"x", 215999}, {"1", 215999}};
     for (const auto& [duration, sent] : cases) {
@@ -494,7 +470,7 @@ TEST_F(MeMisc, AllHoldTellsNoneSomeAndAllAndSetsTheRest)
 
 TEST_F(MeMisc, TheOverviewLeadsToTheKeysAndPagesOfItsOwnBankAndSide)
 {
-    // y: a cell or a button
+    // A place of a cell or a button.
     static const std::tuple<uint32_t, int, int, uint32_t> cases[] = {
         {0x12000000, 150, 120, 0x12110000},                                     // key 1, type
         {0x14000000, 450, 390, 0x14440000},                                     // key 4, sub mask

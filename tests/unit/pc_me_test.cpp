@@ -11,26 +11,21 @@ using BankOfPage = TablePage;
 
 TEST_F(BankOfPage, TheBankOfAPageHasOneWordAndOneRegion)
 {
-    static const struct {
-        uint32_t page;
-        int index;
-        const char* word; // of its paths
-        int region;
-        unsigned bits;
-    } cases[] = {
+    // The word is that of its paths.
+    static const std::tuple<uint32_t, int, const char*, int, unsigned> cases[] = {
         {0x11510000, 0, "M/E-1", 0, 0x2},   {0x16510000, 1, "M/E-2 SUB", 7, 0x2000000},
         {0x81670000, 3, "M/E-4", 3, 0x10},  {0x86510000, 4, "M/E-5 SUB", 10, 0x10000000},
         {0x14710000, 5, "PGM/PST", 5, 0x1}, {0x18510000, 5, "PGM/PST SUB", 11, 0x800000},
         {0x16110000, 1, "M/E-2", 1, 0x4}, // keys 5 to 8 are keys of the bank, not of its sub side
     };
-    for (const auto& c : cases) {
-        ASSERT_EQ(CreatePage(c.page), 0) << std::hex << c.page;
-        char word[16];
-        ME_BankWord(word);
-        EXPECT_STREQ(word, c.word);
-        EXPECT_EQ(Now_disp_draw(), c.index) << c.word;
-        EXPECT_EQ(ME_SnapshotRegion(), c.region) << c.word;
-        EXPECT_EQ(DMEWipeSSRegion[size_t(ME_SnapshotRegion())].bitmap, c.bits) << c.word;
+    for (const auto& [page, index, word, region, bits] : cases) {
+        ASSERT_EQ(CreatePage(page), 0) << std::hex << page;
+        char told[16];
+        ME_BankWord(told);
+        EXPECT_STREQ(told, word);
+        EXPECT_EQ(Now_disp_draw(), index) << word;
+        EXPECT_EQ(ME_SnapshotRegion(), region) << word;
+        EXPECT_EQ(DMEWipeSSRegion[size_t(ME_SnapshotRegion())].bitmap, bits) << word;
     }
     CreatePage(PAGE_TOP); // no bank: the first one
     EXPECT_EQ(Now_disp_draw(), 0);
@@ -75,7 +70,7 @@ TEST_F(BankOfPage, ABoardInFourBanksLeavesEachWithFourKeys)
 
 TEST_F(BankOfPage, DefaultRecallFromATabStaysOnItsSide)
 {
-    // multi: the bank has a sub side
+    // The slot of the tab; whether the bank has a sub side.
     static const std::tuple<uint32_t, int, int, const char*> cases[] = {
         {0x15510000, 5, 1, "default M/E-1 SUB@Wipe"},     {0x15110000, 1, 1, "default M/E-1@Key5"},
         {0x86710000, 6, 1, "default M/E-5 SUB@DME Wipe"}, {0x15110000, 5, 0, "default M/E-1@Wipe"},

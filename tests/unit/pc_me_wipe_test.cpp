@@ -142,8 +142,7 @@ TEST_F(MeWipe, MatteAdjustIsThatOfTheSameSide)
 {
     for (const uint32_t page : {0x82540000u, 0x16540000u}) {
         Open(page);
-        (void)Press(36);
-        EXPECT_EQ(GL_CreatePage, page + 1);
+        EXPECT_EQ(PageBy(36), page + 1);
     }
 }
 
@@ -180,49 +179,32 @@ TEST_F(MeWipeSnapshot, EachKeyRecallsItsRegisterAndPattern)
 {
     const std::string wipe = "Snapshot@Wipe Snapshot@", dme = "Snapshot@DME Snapshot@",
                       key = "Snapshot@Key Snapshot@Attribute@",
-                      recall_key = "Snapshot@Key Snapshot@Recall#";
-    const struct {
-        uint32_t page;
-        std::string list, line;
-        int key;
-        Lines sent;
-    } cases[] = {
+                      recall = "Snapshot@Key Snapshot@Recall#";
+    const std::tuple<uint32_t, std::string, int, Lines> cases[] = {
         {0x12570000,
-         wipe + "M/E-2@List",
-         "7,CIRCLE,S,67",
+         wipe + "M/E-2@List#7,CIRCLE,S,67",
          KEY_7,
-         {"put " + wipe + "Recall#4,7", "put M/E-2@Wipe@Main Pattern@Pattern#67"}},
-        {0x85570000,
-         wipe + "M/E-4 Sub@List",
-         "5,OLD,L",
-         KEY_5,
-         {"put " + wipe + "Recall#8000000,5"}},
-        {0x14570000, wipe + "P/P@List", "10,BIG,S,1000", KEY_10, {"put " + wipe + "Recall#1,10"}},
-        {0x14570000, wipe + "P/P@List", "10,EMPTY,E,5", KEY_10, {}},
+         {wipe + "Recall#4,7", "M/E-2@Wipe@Main Pattern@Pattern#67"}},
+        {0x85570000, wipe + "M/E-4 Sub@List#5,OLD,L", KEY_5, {wipe + "Recall#8000000,5"}},
+        {0x14570000, wipe + "P/P@List#10,BIG,S,1000", KEY_10, {wipe + "Recall#1,10"}},
+        {0x14570000, wipe + "P/P@List#10,EMPTY,E,5", KEY_10, {}},
         {0x18670000,
-         dme + "P/P Sub@List",
-         "1,PUSH,S,1011",
+         dme + "P/P Sub@List#1,PUSH,S,1011",
          KEY_1,
-         {"put " + dme + "Recall#800000,1",
-          "put PGM/PST SUB@DME Wipe@Pattern Select@Pattern#1011"}},
-        {0x81670000, dme + "M/E-4@List", "1,SMALL,S,1000", KEY_1, {"put " + dme + "Recall#10,1"}},
-        {0x81670000, wipe + "M/E-4@List", "1,OTHER,S,67", KEY_1, {}},
+         {dme + "Recall#800000,1", "PGM/PST SUB@DME Wipe@Pattern Select@Pattern#1011"}},
+        {0x81670000, dme + "M/E-4@List#1,SMALL,S,1000", KEY_1, {dme + "Recall#10,1"}},
+        {0x81670000, wipe + "M/E-4@List#1,OTHER,S,67", KEY_1, {}},
         // Those of a key stand in a row, the first where the bank's have 7.
-        {0x12410005,
-         key + "M/E-2@Key4@List",
-         "1,TITLE,S",
-         KEY_7,
-         {"put " + recall_key + "0000000000000800, 1"}},
-        {0x18110005,
-         key + "P/P@Key5@List",
-         "1,50,S",
-         KEY_7,
-         {"put " + recall_key + "0000100000000000, 1"}},
+        {0x12410005, key + "M/E-2@Key4@List#1,TITLE,S", KEY_7, {recall + "0000000000000800, 1"}},
+        {0x18110005, key + "P/P@Key5@List#1,50,S", KEY_7, {recall + "0000100000000000, 1"}},
     };
-    for (const auto& c : cases) {
+    for (auto [page, line, button, puts] : cases) {
         Register_Free();
-        OpenWith(c.page, c.list, {c.line});
-        EXPECT_EQ(Press(c.key), c.sent) << c.line;
+        Open(page);
+        Tell(line);
+        for (std::string& put : puts)
+            put.insert(0, "put ");
+        EXPECT_EQ(Press(button), puts) << line;
     }
 }
 
@@ -232,7 +214,7 @@ TEST_F(MeWipeSnapshot, AModeStoresOrDeletesOnceAndThenRecallsAgain)
     OpenWith(0x11570000, wipe + "M/E-1@List", {"7,CIRCLE,S", "5,BOX,L"});
     EXPECT_THAT(Press(KEY_1), IsEmpty()) << "empty";
 
-    // after: status of the mode key
+    // The mode, a register's key, what that sends, how the mode's key looks then.
     const std::tuple<int, int, Lines, int> cases[] = {
         {STORE, KEY_1, {"put " + wipe + "Store#2,1"}, BT_OFF},
         {STORE, KEY_7, {"put " + wipe + "Store#2,7"}, BT_OFF},

@@ -1,7 +1,4 @@
 // The router's pages: what a touch on a source or a destination sends, and when it sends nothing.
-#include "a_ls.h"
-#include "a_nb.h"
-#include "device.h"
 #include "pane.h"
 #include "table_page.h"
 
@@ -30,22 +27,17 @@ struct RouterPage : TablePage {
             (void)Tell(list + "Dst Name List#" + number + "," + destination + number);
         }
     }
-    static Lines Choose(int list, int row)
-    {
-        (void)TakeQueuedCommands();
-        SendMessage(LMSG_LISTSEL, list, row, 0, 0);
-        return Puts(TakeQueuedCommands());
-    }
+    static Lines Choose(int list, int row) { return Puts(ChooseRow(list, row)); }
 };
 
 TEST_F(RouterPage, ASourceIsThePresetOfTheChosenDestinationUnlessItIsNotOursToChange)
 {
     (void)Open(DESTINATION);
-    EXPECT_STREQ(LS_GetData(1, 2, 1), "DST 3");
+    EXPECT_EQ(Cell(1, 2, 1), "DST 3");
     Names("NEW ", "OLD ");
     Pass(10);
-    EXPECT_STREQ(LS_GetData(1, 2, 1), "OLD 3");
-    EXPECT_STREQ(LS_GetData(2, 3, 1), "NEW 4");
+    EXPECT_EQ(Cell(1, 2, 1), "OLD 3");
+    EXPECT_EQ(Cell(2, 3, 1), "NEW 4");
     Names("SRC ", "DST ");
     Pass(10);
     (void)Choose(1, 2);

@@ -76,7 +76,7 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
 
 TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
 {
-    // knobs: a motion is read as soon as it has one
+    // The last column: its knobs; a motion is read as soon as it has one.
     static const std::tuple<uint32_t, std::vector<const char*>, const char*> cases[] = {
         {FC_PAGE, {"Convert Mode@0#0"}, ""},
         {FC_PAGE, {"Convert Mode@0#3"}, "Motion Sel@0"},

@@ -24,7 +24,7 @@ TEST_F(SpPage, ALineDrawsItsBarsWithinTheScaleAndNothingElseDoes)
 {
     const Lines opened = Open(METER);
     EXPECT_EQ(Held(opened, "SP@SP8@Meter"), 1);
-    // lit: percent
+    // How much is lit, in percent, and whether it is over.
     static const std::tuple<const char*, int, bool> cases[] = {
         {"SP@SP1@Meter#50,0,0,0", 50, false}, {"SP@SP1@Meter#104,1,1,1", 100, true},
         {"SP@SP1@Meter#999", 100, true},      {"SP@SP1@Meter#-7,x", 0, false},

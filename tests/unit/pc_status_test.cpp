@@ -1,6 +1,5 @@
 // The overviews and the pages that only some installations have: what is shown, where it leads.
 #include "a_hf.h"
-#include "a_ls.h"
 #include "table_page.h"
 
 constexpr uint32_t ME = 0x33110000, KEY = 0x33120000, WIPE = 0x33130000, OUTPUTS = 0x33140001,
@@ -13,14 +12,6 @@ struct StatusPage : TablePage {
     {
         SYS_MEOperation[0] = 0;
         TablePage::TearDown();
-    }
-    static uint32_t PageBy(int key)
-    {
-        GL_CreatePage = 0;
-        (void)Press(key);
-        const uint32_t page = GL_CreatePage;
-        GL_CreatePage = 0;
-        return page;
     }
 };
 
@@ -59,14 +50,12 @@ TEST_F(StatusPage, ALineShowsWhatTheServerSaysOfItsThing)
     TellAll("PGM/PST@DSK8@",
             {"Status@Key ON#true", "Type@Key Type#Color Vector", "Edge@Edge#Shadow"});
     (void)Tell("PGM/PST@DSK8@Edge@Edge@Width#5");
-    EXPECT_STREQ(LS_GetData(1, 47, 0), "P/P DSK8");
-    EXPECT_STREQ(LS_GetData(1, 47, 1), "O");
-    EXPECT_STREQ(LS_GetData(1, 47, 2), "Color Vct");
-    EXPECT_STREQ(LS_GetData(1, 47, 5), "Shadow");
-    EXPECT_STREQ(LS_GetData(1, 46, 5), "");
+    EXPECT_EQ(Cells(1, 47, 0, 3), "P/P DSK8|O|Color Vct");
+    EXPECT_EQ(Cell(1, 47, 5), "Shadow");
+    EXPECT_EQ(Cell(1, 46, 5), "");
     (void)Open(EFFECTS);
     (void)Tell("DME@Status@Channel@2#M/E-1@Key3");
-    EXPECT_STREQ(LS_GetData(1, 1, 1), "M/E-1 Key3");
+    EXPECT_EQ(Cell(1, 1, 1), "M/E-1 Key3");
 }
 
 TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
@@ -75,17 +64,13 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
     GL_ClipStoreSupportMode = 1;
     const Lines opened = Open(OUTPUTS);
     EXPECT_EQ(std::count(opened.begin(), opened.end(), "add " + status), 1) << "of three columns";
-    static const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
-        {"2,/NEWS/OPENING", "Recall", "OPENING", "NEWS"},
-        {"2,/OPENING", "Recall", "OPENING", ""},
-        {"1,", "Through", "", ""},
-        {"0,", "Black", "", ""},
-        {"", "", "", ""}};
-    for (const auto& [value, state, name, folder] : cases) {
+    for (const auto& [value, shown] : {std::pair{"2,/NEWS/OPENING", "Recall|OPENING|NEWS"},
+                                       {"2,/OPENING", "Recall|OPENING|"},
+                                       {"1,", "Through||"},
+                                       {"0,", "Black||"},
+                                       {"", "||"}}) {
         (void)Tell(status + "#" + value);
-        EXPECT_STREQ(LS_GetData(1, 11, 1), state) << value;
-        EXPECT_STREQ(LS_GetData(1, 11, 2), name) << value;
-        EXPECT_STREQ(LS_GetData(1, 11, 3), folder) << value;
+        EXPECT_EQ(Cells(1, 11, 1, 3), shown) << value;
     }
     LS_SetNowLine(1, 11);
     EXPECT_THAT(Press(49), Contains("put Frame Mem 2@Clip/Still@Out Pair Select#FM11&12"));
@@ -93,7 +78,7 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
     GL_ClipStoreSupportMode = 0;
     (void)Open(OUTPUTS); // what was followed is left, whatever has become of the memory
     (void)Tell("Frame Mem@Recall@Recall Thumbnail@FM8#MOPENING");
-    EXPECT_STREQ(LS_GetData(1, 7, 2), "MOPENING");
+    EXPECT_EQ(Cell(1, 7, 2), "MOPENING");
     LS_SetNowLine(1, 7);
     Pass(1000);
     EXPECT_THAT(Press(49), Contains("put Frame Mem@Recall@Recall Thumbnail@Select#FM7&8"));
@@ -102,12 +87,11 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
 TEST_F(StatusPage, ACellLeadsToItsBankWhateverPageItStandsOn)
 {
     (void)Open(ME);
-    (void)Touch(CELL_X, CELL_Y);
-    EXPECT_EQ(GL_CreatePage, 0x11000000u);
-    GL_CreatePage = 0;
-    (void)Touch(CELL_X + 400, CELL_Y + 176);
-    EXPECT_EQ(GL_CreatePage, 0x14000000u);
-    GL_CreatePage = 0;
+    for (const auto& [x, y, page] :
+         {std::tuple{CELL_X, CELL_Y, 0x11000000u}, {CELL_X + 400, CELL_Y + 176, 0x14000000u}}) {
+        (void)Touch(x, y);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0), page);
+    }
 }
 
 TEST_F(StatusPage, TheRatesOfABankCountTheKeysThatItHas)

@@ -65,35 +65,32 @@ struct SelfDiag : BusTest {
 TEST_F(SelfDiag, EveryGroupHasItsTextCodeAndTag)
 {
     DEV_Pnl[0].type = DEVTYPE_QRD11B;
-    static const struct {
-        const char *path, *group, *value;
-        int status;
-        const char *entry, *syslog;
-    } rows[] = {
-        {PNL, "Board Temperature", "PNL1,OK,NG", 128, "PNL1 I/F Board Temperature Error",
-         "SIU010100 [diag] SIU-BOARDTEMP-I/FBoard:I/F Board Temperature Error"},
-        {PNL, "Circuit Board Function", "PNL1,--,--,--,--,--,--,NG", 128, "PNL1 Fuse Error",
-         "SIU010100 [diag] SIU-FUSE:Fuse Error"},
-        {PNL, "PSU Status", "PNL1,Exist,OK,OK,OK,Exist,NG,OK,OK", 128, "PNL1 PowerB AC Error",
-         "SIU010100 [diag] SIU-PSUAC-PowerB:PowerB AC Error"},
-        {PNL, "PSU Status", "DCU2,Exist,OK,OK,NG", 128, "DCU2 PowerA FAN Error",
-         "SIU010100 [diag] SIU-PSUFAN-PowerA:PowerA FAN Error"},
-        {SWR, "Reference Status", "SWR1,OK,None", 128, "SWR1 No Reference",
-         "SWR010100 [diag] SWR-REFEXIST:No Reference"},
-        {SWR, "Fan Speed", "SWR1,--,NG(Max)", 130, "SWR1 FAN-2 Control Function Error (Max)",
-         "SWR010100 [diag] SWR-FANSPEED-FAN-2:FAN-2 Control Function Error (Max)"},
-        {MPE, "MPE1", "0,3", 133, "MPE1 Reference Error (Format Mismatch)",
-         "SIU010100 [diag] MPE-REFSTATUS:Reference Error (Format Mismatch)"},
-    };
+    static const std::tuple<const char*, const char*, const char*, int, const char*, const char*>
+        rows[] = {
+            {PNL, "Board Temperature", "PNL1,OK,NG", 128, "PNL1 I/F Board Temperature Error",
+             "SIU010100 [diag] SIU-BOARDTEMP-I/FBoard:I/F Board Temperature Error"},
+            {PNL, "Circuit Board Function", "PNL1,--,--,--,--,--,--,NG", 128, "PNL1 Fuse Error",
+             "SIU010100 [diag] SIU-FUSE:Fuse Error"},
+            {PNL, "PSU Status", "PNL1,Exist,OK,OK,OK,Exist,NG,OK,OK", 128, "PNL1 PowerB AC Error",
+             "SIU010100 [diag] SIU-PSUAC-PowerB:PowerB AC Error"},
+            {PNL, "PSU Status", "DCU2,Exist,OK,OK,NG", 128, "DCU2 PowerA FAN Error",
+             "SIU010100 [diag] SIU-PSUFAN-PowerA:PowerA FAN Error"},
+            {SWR, "Reference Status", "SWR1,OK,None", 128, "SWR1 No Reference",
+             "SWR010100 [diag] SWR-REFEXIST:No Reference"},
+            {SWR, "Fan Speed", "SWR1,--,NG(Max)", 130, "SWR1 FAN-2 Control Function Error (Max)",
+             "SWR010100 [diag] SWR-FANSPEED-FAN-2:FAN-2 Control Function Error (Max)"},
+            {MPE, "MPE1", "0,3", 133, "MPE1 Reference Error (Format Mismatch)",
+             "SIU010100 [diag] MPE-REFSTATUS:Reference Error (Format Mismatch)"},
+        };
     int errors = 0;
-    for (const auto& r : rows) {
-        EXPECT_EQ(Logged(std::string(r.path) + r.group, r.value), r.syslog);
-        ASSERT_EQ(SelfDiag_GetLogMax(), ++errors) << r.entry;
-        EXPECT_EQ(Entry(0), r.entry);
+    for (const auto& [path, group, value, status, entry, syslog] : rows) {
+        EXPECT_EQ(Logged(std::string(path) + group, value), syslog);
+        ASSERT_EQ(SelfDiag_GetLogMax(), ++errors) << entry;
+        EXPECT_EQ(Entry(0), entry);
         EXPECT_EQ(SelfDiag_LogIsError(0), 1);
         const SELFDIAG* const it = Item(SelfDiag_GetLog(0)->message);
-        ASSERT_TRUE(it) << r.entry;
-        EXPECT_EQ(it->status, r.status) << r.entry;
+        ASSERT_TRUE(it) << entry;
+        EXPECT_EQ(it->status, status) << entry;
         EXPECT_EQ(GL_ErrorExist, errors);
     }
     EXPECT_THAT(FileText(MAINTENANCE), HasSubstr("[DCU2]SIU-PSUFAN-PowerA:PowerA FAN Error"));
