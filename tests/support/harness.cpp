@@ -1,17 +1,8 @@
 #include "harness.h"
 #include "a_ba.h"
-#include "a_bt.h"
-#include "a_dw.h"
 #include "a_fl.h"
-#include "a_hf.h"
 #include "a_kf.h"
-#include "a_kp.h"
-#include "a_ls.h"
-#include "a_nb.h"
-#include "a_pc.h"
-#include "a_ps.h"
 #include "a_st.h"
-#include "a_vf.h"
 #include "autoload.h"
 #include "bus.h"
 #include "device.h"
@@ -27,7 +18,7 @@
 #include "me_config.h"
 #include "menu_macro.h"
 #include "netio.h"
-#include "page.h"
+#include "page_family.h"
 #include "pane.h"
 #include "pane_private.h"
 #include "pc_file_all.h"
@@ -48,7 +39,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <netinet/in.h>
+#include <map>
 #include <png.h>
 #include <poll.h>
 #include <sys/socket.h>
@@ -73,10 +64,6 @@ void Harness_Video()
 {
     if (Screen)
         return;
-    if (chdir(TEST_RUN_DIR) != 0) {
-        perror(TEST_RUN_DIR);
-        exit(1);
-    }
     setenv("SDL_VIDEODRIVER", "dummy", 1);
     setenv("SDL_AUDIODRIVER", "dummy", 1);
     SDL_Surface* surface = nullptr;
@@ -87,24 +74,6 @@ void Harness_Video()
         exit(1);
     }
     LoadGraphics();
-}
-
-// The objects of the page that is left; its rows may live in a test that ends.
-static void empty_page()
-{
-    PC_Create(nullptr, 0);
-    KF_Create(nullptr, 0);
-    NB_Create(nullptr, nullptr);
-    LS_Create(nullptr, 0);
-    DW_Create(nullptr, 0);
-    KP_Create(nullptr, 0);
-    PS_Create(nullptr, 0);
-    ST_Create(nullptr, 0);
-    HF_Create(nullptr, 0);
-    VF_Create(nullptr, 0);
-    BT_Create(nullptr, 0);
-    BA_Create(nullptr, 0);
-    CloseScrollBarAll();
 }
 
 // What tests set of the settings and the system's state.
@@ -123,28 +92,20 @@ static void reset_state()
     GL_KeyRowMode = GL_DebugMode = GL_DskInhibit = GL_AllPageDisplayMode = GL_MenuMacro_Edit = 0;
     GL_MenuMacro_Run = GL_Macro_Offline_Store = GL_Macro_Online_TrueOrFalse = 0;
     GL_TimelineDisplayPriority = GL_ContinuousLoad = GL_SSver_PVW = GL_SSver_Shown = 0;
-    std::fill(std::begin(FileProc_Prog), std::end(FileProc_Prog), 0);
     GL_FileProcessing = 0;
     GL_ErrorPopup_On = GL_ErrorExist = GL_InitRead = GL_InitProgress = GL_InitReadStatus_Busy = 0;
     GL_MouseSliderControl = GL_MouseWheelDirection = GL_FM_Find_Window = GL_FM_Find_PaneID = 0;
     GL_ClipStoreSupportMode = SetupMenu_Max = 0;
-    for (int* me : {SYS_MEOperation, multiprogram2_me, me_config_type})
-        std::fill_n(me, ME_COUNT, 0);
-    for (int* units : {GL_DmeModel, GL_DmeSdiIF})
-        std::fill_n(units, 4, 0);
-    for (int* channels : {SYS_Combine, SYS_CombineCh})
-        std::fill_n(channels, 8, 0);
-    for (int* status : {GL_ProcStatus, GL_InitReadStatus})
-        std::fill_n(status, 7, 0);
-    std::fill_n(GL_BoardMESplit, 5, 0);
-    std::fill_n(GL_KeyMax, ME_COUNT, 8);
-    std::fill_n(GL_MEAssign, PANEL_ROWS, -1);
-    std::fill_n(GL_MainSubAssign, PANEL_ROWS, 0);
+    const auto clear = [](auto&... arrays) { (std::ranges::fill(arrays, 0), ...); };
+    clear(SYS_MEOperation, multiprogram2_me, me_config_type, GL_DmeModel, GL_DmeSdiIF, SYS_Combine,
+          SYS_CombineCh, GL_ProcStatus, GL_InitReadStatus, GL_BoardMESplit, GL_MainSubAssign,
+          FileProc_Prog, SYS_RefSwrScreenAspect);
+    std::ranges::fill(GL_KeyMax, 8);
+    std::ranges::fill(GL_MEAssign, -1);
     SYS_FrameRate = 60;
     GL_ChatteringTime = 130;
     SYS_FmemV6 = SYS_SignalFormat = SYS_ScreenAspect = 1;
     SYS_DWSubEnable = GL_FillSourceAssignMode = 0;
-    std::fill_n(SYS_RefSwrScreenAspect, 7, 0);
     GL_InitialPage = PAGE_TOP;
     SetupLock = {};
     BA_SetDefaultButton(0);
@@ -176,16 +137,11 @@ static void fill_house()
 // Every selector of regions as at the process start.
 static void reset_regions()
 {
-    static std::vector<int> first; // the selections, group by group
-    const bool is_first = first.empty();
-    size_t n = 0;
+    static std::map<BTNSEL*, int> first;
     for (int grp = 0; grp < REGION_GROUPS; grp++)
-        for (int i = 0; i < RegionBtn[grp].cells; i++, n++) {
-            BTNSEL& cell = RegionBtn[grp].btnsel[i];
-            if (is_first)
-                first.push_back(cell.select);
-            else
-                cell.select = first[n];
+        for (int i = 0; i < RegionBtn[grp].cells; i++) {
+            BTNSEL* const cell = &RegionBtn[grp].btnsel[i];
+            cell->select = first.emplace(cell, cell->select).first->second;
         }
 }
 
@@ -198,8 +154,9 @@ void Harness_Reset()
     SDL_ShowCursor(0);
     while (Pane_GetActiveID())
         Pane_Quit(Pane_GetActiveID());
-    (void)CloseWindow(); // none is open: fine
-    empty_page();
+    (void)CloseWindow();   // none is open: fine
+    PageFamily_EmptyAll(); // rows may live in a test that ends
+    CloseScrollBarAll();
     Page_Reset();
     Loop_Reset();
     Held_Reset();
@@ -229,37 +186,34 @@ void Harness_Reset()
 }
 
 FullHouse::FullHouse()
-    : switcher(SYS_RefSwrType), frame_memory(SYS_FmemV6), clip_store(GL_ClipStoreSupportMode)
 {
-    static_assert(sizeof multi == sizeof multiprogram2_me && sizeof keys == sizeof GL_KeyMax);
-    std::copy_n(multiprogram2_me, ME_COUNT, multi);
-    std::copy_n(GL_KeyMax, ME_COUNT, keys);
     full_houses++;
     fill_house();
 }
 
 FullHouse::~FullHouse()
 {
-    full_houses--;
-    std::copy_n(multi, ME_COUNT, multiprogram2_me);
-    std::copy_n(keys, ME_COUNT, GL_KeyMax);
-    SYS_RefSwrType = switcher;
-    SYS_FmemV6 = frame_memory;
-    GL_ClipStoreSupportMode = clip_store;
-    SYS_DWSubEnable = 0;
+    if (--full_houses == 0)
+        reset_state();
 }
 
-Peer::Peer(int port)
+sockaddr_in LocalAddress(int port)
 {
-    listen_fd = socket(AF_INET, SOCK_STREAM, 0);
-    const int on = 1;
-    setsockopt(listen_fd, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
     sockaddr_in a{};
     a.sin_family = AF_INET;
     a.sin_port = htons(uint16_t(port));
     a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return a;
+}
+
+Peer::Peer(int port, int backlog)
+{
+    listen_fd = socket(AF_INET, SOCK_STREAM, 0);
+    const int on = 1;
+    setsockopt(listen_fd, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    sockaddr_in a = LocalAddress(port);
     if (bind(listen_fd, reinterpret_cast<sockaddr*>(&a), sizeof a) != 0 ||
-        listen(listen_fd, 4) != 0)
+        listen(listen_fd, backlog) != 0)
         ADD_FAILURE() << "cannot listen on port " << port << ": " << strerror(errno);
 }
 
@@ -306,7 +260,7 @@ void Peer::StopListening()
     listen_fd = -1;
 }
 
-std::vector<std::string> Peer::Lines(int wait_ms)
+Strings Peer::Lines(int wait_ms)
 {
     pollfd p{fd, POLLIN, 0};
     char buf[4096];
@@ -317,28 +271,28 @@ std::vector<std::string> Peer::Lines(int wait_ms)
         received.append(buf, size_t(n));
         wait_ms = 5;
     }
-    std::vector<std::string> lines;
+    Strings lines;
     for (size_t end; (end = received.find('\n')) != std::string::npos; received.erase(0, end + 1))
         lines.push_back(received.substr(0, end));
     return lines;
 }
 
-std::vector<std::string> TakeQueuedCommands()
+template <typename Take> static Strings queued(Take take)
 {
-    std::vector<std::string> commands;
-    char text[CMD_SIZE];
-    while (Net_TakeQueued(text, sizeof text))
-        commands.emplace_back(text);
-    return commands;
-}
-
-std::vector<std::string> TakeQueuedHubLines()
-{
-    std::vector<std::string> lines;
-    char text[CMD_SIZE];
-    while (Net_TakeQueuedSHP(text, sizeof text))
+    Strings lines;
+    for (char text[CMD_SIZE]; take(text, sizeof text);)
         lines.emplace_back(text);
     return lines;
+}
+
+Strings TakeQueuedCommands()
+{
+    return queued(Net_TakeQueued);
+}
+
+Strings TakeQueuedHubLines()
+{
+    return queued(Net_TakeQueuedSHP);
 }
 
 std::string FileText(const std::string& path)
@@ -375,8 +329,7 @@ struct Picture {
 Picture Grab(SDL_Surface* s, const Rect& r)
 {
     Picture p{r.x2 - r.x1 + 1, r.y2 - r.y1 + 1, {}};
-    p.rgb.reserve(size_t(p.w * p.h * 3));
-    for (int y = r.y1; y <= r.y2; y++) {
+    for (int y = r.y1; y <= r.y2; y++)
         for (int x = r.x1; x <= r.x2; x++) {
             const auto* at = static_cast<const uint8_t*>(s->pixels) + y * s->pitch +
                              x * s->format->BytesPerPixel;
@@ -386,7 +339,6 @@ Picture Grab(SDL_Surface* s, const Rect& r)
             SDL_GetRGB(pixel, s->format, &c[0], &c[1], &c[2]);
             p.rgb.insert(p.rgb.end(), c, c + 3);
         }
-    }
     return p;
 }
 

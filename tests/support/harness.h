@@ -4,6 +4,7 @@
 #include "types.h"
 #include <SDL.h>
 #include <gmock/gmock.h>
+#include <netinet/in.h>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,7 @@ using Strings = std::vector<std::string>;
 extern uint32_t Clock_ms;
 extern bool Clock_IsReal; // SDL_Delay takes its time: somebody else is to do something meanwhile
 
-// SDL, the drawing layer and the bitmaps, once a process. The working directory is build/run.
+// SDL, the drawing layer and the bitmaps, once a process.
 void Harness_Video();
 // Every module's state as at process start, as far as tests lean on it; the screen black.
 void Harness_Reset();
@@ -30,9 +31,8 @@ void Harness_Reset();
 // both sides of every bank with all wipes, eight keys, the large switcher, the newest frame memory,
 // a clip store.
 struct FullHouse {
-    int multi[6], keys[6], switcher, frame_memory, clip_store;
     FullHouse();
-    ~FullHouse();
+    ~FullHouse(); // the state as at process start
     FullHouse(const FullHouse&) = delete;
     FullHouse& operator=(const FullHouse&) = delete;
 };
@@ -43,7 +43,7 @@ struct Peer {
     int fd = -1;
     std::string received;
 
-    explicit Peer(int port);
+    explicit Peer(int port, int backlog = 4);
     ~Peer();
     Peer(const Peer&) = delete;
     Peer& operator=(const Peer&) = delete;
@@ -52,13 +52,14 @@ struct Peer {
     void Drop();                        // close the connection, keep listening
     void StopListening();
     // Everything that has arrived and the whole lines of it, without their ends; the rest stays.
-    std::vector<std::string> Lines(int wait_ms = 50);
+    Strings Lines(int wait_ms = 50);
 };
+sockaddr_in LocalAddress(int port);
 
 // The commands that the application has queued since the last call, as they would go over the wire.
 // Takes them off the queue: for tests without a peer.
-std::vector<std::string> TakeQueuedCommands();
-std::vector<std::string> TakeQueuedHubLines(); // the same for the hub
+Strings TakeQueuedCommands();
+Strings TakeQueuedHubLines(); // the same for the hub
 
 // What a file holds; nothing when it is not there.
 std::string FileText(const std::string& path);
