@@ -25,6 +25,7 @@ inline BT_TBL Button(int id, int type, std::initializer_list<const char*> cmd,
 
 struct ButtonPage : HandPage {
     static inline std::vector<std::string> told; // "path value flag" of each LMSG_BTNSEL
+    BT_TBL rows[BT_MAX + 3];                     // of a test; ends at the first that it leaves out
 
     ButtonPage()
     {
@@ -44,18 +45,17 @@ struct ButtonPage : HandPage {
         GL_NextVersion = 2;
         told.clear();
     }
-    void Open(const BT_TBL* rows)
+    void Open(const BT_TBL* table)
     {
         BT_Create(nullptr, 0);
+        page.obj[2].addr = table;
+        BT_Create(table, 0);
         (void)TakeQueuedCommands();
-        page.obj[2].addr = rows;
-        BT_Create(rows, 0);
     }
-    void OpenTree(std::initializer_list<const char*> tree, uint32_t id, const BT_TBL* rows)
+    void OpenTree(std::initializer_list<const char*> tree, uint32_t id, const BT_TBL* table)
     {
         SetTree(tree, id);
-        Open(rows);
-        (void)TakeQueuedCommands();
+        Open(table);
     }
 
     static void Press(int id)

@@ -3,7 +3,6 @@
 #include <cstring>
 
 struct ButtonFamily : ButtonPage {
-    BT_TBL rows[BT_MAX + 1];
     char dependency[BT_COMMANDS][32];
 
     // One button with a tally function of the family; its dependencies are "~@1" to "~@7" with
@@ -12,7 +11,6 @@ struct ButtonFamily : ButtonPage {
                    std::initializer_list<const char*> conditions)
     {
         rows[0] = Button(17, BT_TOGGLE, {"~@0#*"});
-        rows[1] = {.id = -1};
         rows[0].tally_func = tally;
         int n = 1;
         for (const char* condition : conditions) {
@@ -21,13 +19,10 @@ struct ButtonFamily : ButtonPage {
             n++;
         }
         Open(rows);
-        (void)TakeQueuedCommands();
     }
     static void Dependency(int n, const char* value)
     {
-        char path[64];
-        PrintText(path, "M/E-1@Key1@Type@%d", n);
-        Tally(path, value);
+        Tally(("M/E-1@Key1@Type@" + std::to_string(n)).c_str(), value);
     }
 };
 
@@ -39,8 +34,7 @@ TEST_F(ButtonFamily, VisibilityFollowsTheRuleOfTheFamily)
     static const struct {
         const char* name;
         int (*tally)(BT_MEM*, int, const char*, const char*);
-        const char* usable;
-        const char* disabled;
+        const char *usable, *disabled;
     } cases[] = {
         {"trans", bt_tly_trans_dmewipeadj, "x-", "xx"},
         {"any", bt_tly_normal, "-------", "------x"},
@@ -77,14 +71,17 @@ TEST_F(ButtonFamily, AWipeHasSizeAndTransparencyByItsNumber)
         {"1394", false, true},  {"1396", false, true},  {"", false, false},
         {"7201", true, true},   {"7000", false, false}, {"7031", false, true}, // other channels
     };
-    for (const auto& c : cases) {
-        OpenTally(bt_tly_dmewipe_size, {""});
-        Dependency(1, c.number);
-        EXPECT_EQ(BT_GetVisible(17), c.size ? BT_ENABLED : BT_DISABLED) << c.number;
-        OpenTally(bt_tly_dmewipe_trans, {""});
-        Dependency(1, c.number);
-        EXPECT_EQ(BT_GetVisible(17), c.transparency ? BT_ENABLED : BT_DISABLED) << c.number;
-    }
+    for (const auto& c : cases)
+        for (const auto& [tally, is_usable] :
+             {std::pair{&bt_tly_dmewipe_size, c.size}, {&bt_tly_dmewipe_trans, c.transparency}}) {
+            OpenTally(tally, {""});
+            Dependency(1, c.number);
+            EXPECT_EQ(BT_GetVisible(17), is_usable ? BT_ENABLED : BT_DISABLED) << c.number;
+        }
+    OpenTally(bt_tly_dmewipe_size, {""});
+    BT_SetDisable(17, 1); // page code: what it puts out stays out
+    Dependency(1, "1201");
+    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
 }
 
 TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
@@ -110,7 +107,6 @@ TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
 
 TEST_F(ButtonFamily, AShadowHasASourceBesideItsOwnOnlyInFourCombinedChannels)
 {
-    const int combined[] = {SYS_CombineCh[1], SYS_CombineCh[2], SYS_CombineCh[3]};
     for (const bool four : {true, false}) {
         SYS_CombineCh[1] = SYS_CombineCh[2] = 1;
         SYS_CombineCh[3] = four;
@@ -124,14 +120,10 @@ TEST_F(ButtonFamily, AShadowHasASourceBesideItsOwnOnlyInFourCombinedChannels)
         Dependency(3, "x");
         EXPECT_EQ(BT_GetVisible(17), BT_ENABLED) << "the third one has no part in it";
     }
-    std::copy(std::begin(combined), std::end(combined), SYS_CombineCh + 1);
 }
 
 TEST_F(ButtonFamily, AFreezeNeedsAUnitThatHoldsThePicture)
 {
-    const auto line = SYS_RefSwrActiveLine;
-    const auto unit = SYS_MyDme1;
-    const auto type = DEV_Dme[0].type;
     SYS_MyDme1 = 0;
     for (const bool is_large : {true, false}) {
         DEV_Dme[0].type = is_large ? DEVTYPE_ZRD52 : DEVTYPE_UNKNOWN;
@@ -146,17 +138,6 @@ TEST_F(ButtonFamily, AFreezeNeedsAUnitThatHoldsThePicture)
             EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
         }
     }
-    SYS_RefSwrActiveLine = line;
-    SYS_MyDme1 = unit;
-    DEV_Dme[0].type = type;
-}
-
-TEST_F(ButtonFamily, WhatPageCodePutsOutStaysOut)
-{
-    OpenTally(bt_tly_dmewipe_size, {""});
-    BT_SetDisable(17, 1);
-    Dependency(1, "1201"); // this wipe has a size
-    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
 }
 
 // --- Select ---
@@ -171,7 +152,6 @@ TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBank)
                  {"Aux", 0x11730000}};
     rows[0] = Button(17, BT_JUMP, {"#11730000"});
     rows[0].select_func = bt_sel_jmptokeypriority;
-    rows[1] = {.id = -1};
     for (const auto& c : cases) {
         OpenTree({c.bank, "X"}, 0x11110000, rows);
         Press(17);
@@ -184,7 +164,6 @@ TEST_F(ButtonFamily, TheBorderIsReadBackBehindItsPress)
 {
     rows[0] = Button(17, BT_TOGGLE, {"~@Border#*"});
     rows[0].select_func = bt_sel_cgborder;
-    rows[1] = {.id = -1};
     OpenTree({"M/E-1", "X"}, 0x11110000, rows);
     Press(17);
     EXPECT_THAT(TakeQueuedCommands(),
@@ -199,25 +178,19 @@ TEST_F(ButtonFamily, ALightThatIsActiveHasABar)
     rows[0] = Button(17, BT_JUMP, {"#11110000"});
     rows[0].caption = "Light 2";
     rows[0].draw_func = bt_drw_normal_light;
-    rows[1] = {.id = -1};
     GL_LightActive[1] = 1;
-    static const struct {
-        int reference;
-        int model; // of the first unit; 5 has no lighting
-        bool bar;
-    } cases[] = {{0x01, 1, true}, {0x01, 5, false}, {0x00, 1, false}, {0x10, 5, true}};
-    for (const auto& c : cases) {
-        SYS_DMEReference = c.reference;
-        GL_DmeModel[0] = c.model;
+    for (const auto& [reference, model, bar] : // model: of the first unit; 5 has no lighting
+         {std::tuple{0x01, 1, true}, {0x01, 5, false}, {0x00, 1, false}, {0x10, 5, true}}) {
+        SYS_DMEReference = reference;
+        GL_DmeModel[0] = model;
         GL_DmeModel[1] = 1;
         Open(rows);
         Pass(10);
         const BT_MEM* b = bt_find(17);
-        EXPECT_EQ(PixelAt(b->x1 + 40, b->y1 + 54) == ORANGE, c.bar) << c.reference << c.model;
-        EXPECT_EQ(PixelAt(b->x1 + 40, b->y1 + 55) == DARK, c.bar);
+        EXPECT_EQ(PixelAt(b->x1 + 40, b->y1 + 54) == ORANGE, bar) << reference << model;
+        EXPECT_EQ(PixelAt(b->x1 + 40, b->y1 + 55) == DARK, bar);
     }
     GL_LightActive[1] = 0;
-    SYS_DMEReference = GL_DmeModel[0] = GL_DmeModel[1] = 0;
 }
 
 TEST_F(ButtonFamily, DevelopersSeeWhatWasNeverAnswered)
@@ -225,7 +198,6 @@ TEST_F(ButtonFamily, DevelopersSeeWhatWasNeverAnswered)
     const auto marks = [&](int type, int debug) {
         GL_DebugMode = debug;
         rows[0] = Button(17, type, {"~@0#*"});
-        rows[1] = {.id = -1};
         Open(rows);
         Pass(10);
         const auto pixels = PixelsIn({rows[0].x1 + 70, rows[0].y1 + 35, rows[0].x2, rows[0].y2});
@@ -235,7 +207,6 @@ TEST_F(ButtonFamily, DevelopersSeeWhatWasNeverAnswered)
     EXPECT_FALSE(marks(BT_TOGGLE, 0));
     EXPECT_FALSE(marks(BT_JUMP, 1)) << "expects no answer";
     EXPECT_TRUE(marks(BT_FIND, 1));
-    GL_DebugMode = 0;
 }
 
 TEST_F(ButtonFamily, AButtonOfTheNextVersionThatIsCutOffStaysSo)
@@ -243,11 +214,9 @@ TEST_F(ButtonFamily, AButtonOfTheNextVersionThatIsCutOffStaysSo)
     rows[0] = Button(17, BT_TOGGLE, {"~@0#*"});
     rows[0].draw_func = bt_drw_normal_nextver;
     rows[0].select_func = bt_sel_normal_nextver;
-    rows[1] = {.id = -1};
     for (const int version : {2, 1}) {
         GL_NextVersion = version;
         Open(rows);
-        (void)TakeQueuedCommands();
         Press(17);
         EXPECT_EQ(TakeQueuedCommands().size(), version == 2) << "it acts from its version on";
         Pass(10);

@@ -14,16 +14,12 @@
 constexpr int LAST_NUMBER = 130;
 
 struct KnobLinks : ButtonPage {
-    BT_TBL rows[2];
-
     // One button with this link and these dependencies.
     void OpenLink(int number, std::initializer_list<const char*> dependencies)
     {
         rows[0] = Button(17, BT_KNOB_ONLY, {"~@0#*"}, SpecialKnob(number));
         std::copy(dependencies.begin(), dependencies.end(), rows[0].cmd + 1);
-        rows[1] = {.id = -1};
         Open(rows);
-        (void)TakeQueuedCommands();
     }
     static const NB_TBL* Chosen() { return special_knob_table(bt_find(17)); }
 
@@ -46,23 +42,15 @@ static bool SameBoxes(const NB_TBL* a, const NB_TBL* b)
     return a->id < 1 && b->id < 1;
 }
 
-TEST_F(KnobLinks, EveryNumberChoosesAmongTablesThatDiffer)
+TEST_F(KnobLinks, EveryNumberChoosesAmongTablesThatDifferWithTheirBoxesInSlotsFromTheFirst)
 {
     for (int number = 1; number <= LAST_NUMBER; number++) {
         const auto tables = TablesOf(number);
         EXPECT_NE(tables.size(), 1u) << number;
-        for (size_t i = 0; i < tables.size(); i++)
+        for (size_t i = 0; i < tables.size(); i++) {
+            const NB_TBL* const table = tables[i];
             for (size_t k = 0; k < i; k++)
-                EXPECT_FALSE(SameBoxes(tables[i], tables[k]))
-                    << number << ": " << k << " and " << i;
-    }
-    EXPECT_EQ(TablesOf(0).size() + TablesOf(LAST_NUMBER + 1).size() + TablesOf(255).size(), 0u);
-}
-
-TEST_F(KnobLinks, EveryTableHasItsBoxesInSlotsFromTheFirst)
-{
-    for (int number = 1; number <= LAST_NUMBER; number++)
-        for (const NB_TBL* table : TablesOf(number)) {
+                EXPECT_FALSE(SameBoxes(table, tables[k])) << number << ": " << k << " and " << i;
             std::set<int> ids;
             ASSERT_GE(table->id, 1) << number << " is empty";
             for (const NB_TBL* nb = table; nb->id >= 1; nb++) {
@@ -73,34 +61,30 @@ TEST_F(KnobLinks, EveryTableHasItsBoxesInSlotsFromTheFirst)
             EXPECT_LE(ids.size(), size_t(NB_MAX)) << number;
             EXPECT_TRUE(ids.count(1) || number == 23) << number << " begins at another slot";
         }
+    }
+    EXPECT_EQ(TablesOf(0).size() + TablesOf(LAST_NUMBER + 1).size() + TablesOf(255).size(), 0u);
 }
 
 // --- What decides ---
 
 TEST_F(KnobLinks, TheAspectIsThatOfThePagesBank)
 {
-    static const struct {
-        const char* bank;
-        int entry;
-    } cases[] = {{"M/E-1", 0}, {"M/E-2", 1}, {"M/E-3", 2},
-                 {"M/E-4", 3}, {"M/E-5", 4}, {"PGM/PST", 5}};
-    for (const auto& c : cases)
+    static const char* const banks[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "PGM/PST"};
+    for (size_t i = 0; i < std::size(banks); i++)
         for (int wide : {0, 1}) {
             std::fill_n(SYS_RefSwrScreenAspect, 7, !wide);
-            SYS_RefSwrScreenAspect[c.entry] = wide;
-            SetTree({c.bank, "Wipe", "Main Modify"}, 0x11550000);
+            SYS_RefSwrScreenAspect[i] = wide;
+            SetTree({banks[i], "Wipe", "Main Modify"}, 0x11550000);
             OpenLink(34, {});
-            EXPECT_EQ(Chosen(), nb_me_wipe_aspect.variant[wide]) << c.bank << wide;
-            EXPECT_EQ(Chosen()->max, wide ? 100 : 75) << c.bank;
+            EXPECT_EQ(Chosen(), nb_me_wipe_aspect.variant[wide]) << banks[i] << wide;
+            EXPECT_EQ(Chosen()->max, wide ? 100 : 75) << banks[i];
         }
 }
 
 TEST_F(KnobLinks, TheEffectsUnitGoesByFormatAndAspectOfTheScreen)
 {
     static const struct {
-        int number;
-        int hd;
-        int wide;
+        int number, hd, wide;
         const NB_TBL* table;
     } cases[] = {
         {5, 0, 0, nb_dme_edge_bordercrop_border1}, {5, 0, 1, nb_dme_edge_bordercrop_border2},
@@ -169,8 +153,7 @@ TEST_F(KnobLinks, TheBorderOfAKeyGoesByItsTypeItsSplitAndWhatHalvesIt)
 TEST_F(KnobLinks, AKeyThatTurnsHasItsOwnBoxes)
 {
     static const struct {
-        const char* bank;
-        const char* key;
+        const char *bank, *key;
         const char* turning; // what the server says to turn
         bool turns;
     } cases[] = {
@@ -303,36 +286,29 @@ TEST_F(DmePages, TheKnobsOfARollFollowItsSplit)
 TEST_F(DmePages, ACornerGoesAsFarAsModeFormatAndAspectLetIt)
 {
     static const struct {
-        int hd;
-        int wide;
-        const char* linear[2]; // H and V
-        const char* perspective[2];
+        int hd, wide;
+        const char *linear[2], *perspective[2]; // H and V
     } cases[] = {
         {0, 0, {"4.00", "3.00"}, {"2.00", "1.50"}},
         {0, 1, {"5.33", "3.00"}, {"2.67", "1.50"}},
         {1, 0, {"4.00", "4.00"}, {"2.00", "2.00"}},
         {1, 1, {"5.33", "4.00"}, {"2.67", "2.00"}},
     };
-    constexpr struct {
-        int button;
-        const char* path[2];
-    } corners[] = {
-        {33, {"Top Left@H", "Top Left@V"}},
-        {34, {"Top Right@H", "Top Right@V"}},
-        {49, {"Bottom Left@H", "Bottom Left@V"}},
-        {50, {"Bottom Right@H", "Bottom Right@V"}},
-        {36, {"All@H", "All@V"}},
-    };
+    constexpr std::pair<int, const char*> corners[] = {{33, "Top Left"},
+                                                       {34, "Top Right"},
+                                                       {49, "Bottom Left"},
+                                                       {50, "Bottom Right"},
+                                                       {36, "All"}};
     const std::string path = "DME@Transform@Corner Pinning@";
     for (const auto& c : cases) {
         SYS_SignalFormat = c.hd;
         SYS_ScreenAspect = c.wide;
         Open(0x41720000);
         TellAll(path, {"Corner Pinning#true", "Mode#Linear"});
-        for (const auto& corner : corners) {
-            (void)Press(corner.button);
-            for (int k = 0; k < 2; k++)
-                EXPECT_EQ(Farthest(k + 1), "put " + path + corner.path[k] + "#" + c.linear[k]);
+        for (const auto& [button, corner] : corners) {
+            (void)Press(button);
+            EXPECT_EQ(Farthest(1), "put " + path + corner + "@H#" + c.linear[0]);
+            EXPECT_EQ(Farthest(2), "put " + path + corner + "@V#" + c.linear[1]);
         }
         EXPECT_THAT(Tell(path + "Mode#Perspective"), IsEmpty()) << "the column was opened anew";
         EXPECT_EQ(Farthest(1), "put " + path + "All@H#" + c.perspective[0]);
