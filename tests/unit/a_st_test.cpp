@@ -3,7 +3,8 @@
 #include "page_table/st_me_key.h"
 #include "page_table/st_me_misc.h"
 #include "page_table/st_me_wipe.h"
-#include <iterator>
+#include "page_walk.h"
+#include <cstring>
 
 constexpr uint32_t LIT = 0x0B3A46;
 constexpr uint32_t WHITE = 0xFFFFFF;
@@ -72,9 +73,9 @@ TEST_F(StatusCells, AFullCellKeepsEachOfItsPathsAndItsTextsInBounds)
 TEST_F(StatusCells, CellsOfEffectsUnitsArePaintedAnewWhenAPairIsCombined)
 {
     const ST_TBL rows[] = {Cell(1, {"~2@A"}), ST_END};
-    const char* value = "true";
-    for (const auto& [id, paints] :
-         {std::pair{0x41110000u, 1}, {0x42110000u, 1}, {0x33110000u, 0}}) {
+    for (const auto& [id, value, paints] : {std::tuple{0x41110000u, "true", 1},
+                                            {0x42110000u, "false", 1},
+                                            {0x33110000u, "true", 0}}) {
         SetTree({"M/E-1", "Key1"}, id);
         Open(rows);
         Pass();
@@ -82,9 +83,7 @@ TEST_F(StatusCells, CellsOfEffectsUnitsArePaintedAnewWhenAPairIsCombined)
         Tally("Global Effect@Ch1-Ch2@Combine@Ch2", value);
         Pass();
         EXPECT_EQ(painted, paints) << std::hex << id;
-        value = *value == 't' ? "false" : "true";
     }
-    Tally("Global Effect@Ch1-Ch2@Combine@Ch2", "false");
 }
 
 // --- Which rows stand ---
@@ -93,25 +92,18 @@ TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)
 {
     const ST_TBL rows[] = {Cell(1, {"~2@1"}), Cell(2, {"~2@2"}), Cell(97, {"~2@97"}),
                            Cell(98, {"~2@98"}), ST_END};
-    static const struct {
-        int dual, mode_4k;
-        const char* key;
-        std::vector<std::string> words;
-    } cases[] = {
-        {0, 0, "Key3", {"1", "2", "97"}},
-        {1, 0, "Key3", {"1", "2", "98"}},
-        {0, 1, "Key3", {"1", "97"}},
-        {0, 1, "Key1", {"1", "2", "97"}},
-    };
-    for (const auto& c : cases) {
-        SYS_DualProc = c.dual;
-        SYS_4KMode = c.mode_4k;
-        SetTree({"M/E-1", c.key, "Type"}, 0x11310000);
+    for (const auto& [dual, mode_4k, key, ids] : {std::tuple{0, 0, "Key3", "1 2 97 "},
+                                                  {1, 0, "Key3", "1 2 98 "},
+                                                  {0, 1, "Key3", "1 97 "},
+                                                  {0, 1, "Key1", "1 2 97 "}}) {
+        SYS_DualProc = dual;
+        SYS_4KMode = mode_4k;
+        SetTree({"M/E-1", key, "Type"}, 0x11310000);
         Open(rows);
-        std::vector<std::string> expected;
-        for (const auto& word : c.words)
-            expected.push_back("add M/E-1@" + std::string(c.key) + "@" + word);
-        EXPECT_EQ(TakeQueuedCommands(), expected) << c.dual << c.mode_4k << c.key;
+        std::string added;
+        for (const auto& line : TakeQueuedCommands())
+            added += line.substr(strlen("add M/E-1@Key1@")) + " ";
+        EXPECT_EQ(added, ids) << dual << mode_4k << key;
     }
 }
 
@@ -119,20 +111,16 @@ TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)
 
 TEST_F(StatusCells, ATargetTakesTheBankAndForKeyPagesTheKeyOfThePage)
 {
-    static const struct {
-        uint32_t page, base, target;
-    } cases[] = {
-        {0x12310000, 0x11120000, 0x12320000}, // bank 2, key 3
-        {0x15510000, 0x11650000, 0x15650000},
-        {0x12000000, 0x11340000, 0x12340000}, // above the keys the cell names the key
-        {0x15310000, 0x11730000, 0x11730000}, // keys 5 to 8: the one page of the bank
-        {0x15710000, 0x11730000, 0x15730000}, // no key page
-    };
-    for (const auto& c : cases) {
-        SetTree({"M/E-1", "Key1"}, c.page);
-        const ST_TBL rows[] = {Cell(1, {}, c.base), ST_END};
+    for (const auto& [id, template_id, target] :
+         {std::tuple{0x12310000u, 0x11120000u, 0x12320000u}, // bank 2, key 3
+          {0x15510000u, 0x11650000u, 0x15650000u},
+          {0x12000000u, 0x11340000u, 0x12340000u},    // above the keys the cell names the key
+          {0x15310000u, 0x11730000u, 0x11730000u},    // keys 5 to 8: the one page of the bank
+          {0x15710000u, 0x11730000u, 0x15730000u}}) { // no key page
+        SetTree({"M/E-1", "Key1"}, id);
+        const ST_TBL rows[] = {Cell(1, {}, template_id), ST_END};
         Open(rows);
-        EXPECT_EQ(PageOfCell(rows[0]), c.target) << std::hex << c.page << " " << c.base;
+        EXPECT_EQ(PageOfCell(rows[0]), target) << std::hex << id << " " << template_id;
     }
 }
 
@@ -195,24 +183,18 @@ constexpr const char* TYPE = "M/E-1@Key1@Type@Key Type";
 
 TEST_F(StatusCells, OnlyTheCellOfThePageInViewIsLit)
 {
-    static const struct {
-        uint32_t page;
-        std::initializer_list<const char*> tree;
-        int lit_cell;
-    } cases[] = {
-        {0x11120000, {"M/E-1", "Key1"}, 2},  {0x82310000, {"M/E-1", "Key1"}, 0},
-        {0x11110001, {"M/E-1", "Key1"}, -1}, {0x11510000, {"M/E-1", "Wipe"}, -1},
-        {0x11110003, {"M/E-1", "Key1"}, 6},
-    };
-    for (const auto& c : cases) {
-        SetTree(c.tree, c.page);
+    for (const auto& [id, word, lit] : {std::tuple{0x11120000u, "Key1", "..x....."},
+                                        {0x82310000u, "Key1", "xx......"},
+                                        {0x11110001u, "Key1", "........"},
+                                        {0x11510000u, "Wipe", "........"},
+                                        {0x11110003u, "Key1", "......x."}}) {
+        SetTree({"M/E-1", word}, id);
         GL_ProcStatus[1] = 1;
         Open(st_me_key);
         Pass();
         for (int i = 0; i < 8; i++)
-            EXPECT_EQ(PixelAt(st_me_key[i].x1 + 4, st_me_key[i].y2 - 4),
-                      i == c.lit_cell || (c.lit_cell == 0 && i == 1) ? LIT : 0u)
-                << std::hex << c.page << " " << i;
+            EXPECT_EQ(PixelAt(st_me_key[i].x1 + 4, st_me_key[i].y2 - 4), lit[i] == 'x' ? LIT : 0)
+                << std::hex << id << " " << i;
     }
 }
 
@@ -289,25 +271,21 @@ TEST_F(StatusCells, AnUnknownWordOrPatternLeavesTheFrameEmpty)
 
 TEST_F(StatusCells, TheCrossHairStandsWhereTheWipeDoes)
 {
-    static const struct {
-        const char *h, *v;
-        int px, py; // from the corner of the cell
-    } cases[] = {
-        {"200", "200", 74, 26},
-        {"300", "0", 86, 44},                    // outside the frame
-        {"99999999999", "-99999999999", -1, -1}, // nowhere, and no fault
-    };
     SetTree({"M/E-1", "Wipe"}, 0x11520000);
-    for (const auto& c : cases) {
+    for (const auto& [h, v, px, py] :
+         {// from the corner of the cell
+          std::tuple{"200", "200", 74, 26},
+          {"300", "0", 86, 44},                       // outside the frame
+          {"99999999999", "-99999999999", -1, -1}}) { // nowhere, and no fault
         Open(st_me_wipe);
-        Tally("M/E-1@Wipe@Main Pattern@Position@H", c.h);
-        Tally("M/E-1@Wipe@Main Pattern@Position@V", c.v);
+        Tally("M/E-1@Wipe@Main Pattern@Position@H", h);
+        Tally("M/E-1@Wipe@Main Pattern@Position@V", v);
         Pass();
-        if (c.px < 0)
+        if (px < 0)
             continue;
-        EXPECT_EQ(Count({200 + c.px, 75 + 27, 200 + c.px, 75 + 61}, WHITE), 35) << c.h;
-        EXPECT_EQ(Count({200 + 27, 75 + c.py, 200 + 73, 75 + c.py}, WHITE), 47) << c.v;
-        EXPECT_EQ(PixelAt(200 + c.px + 1, 75 + c.py + 1), WHITE) << "the dot";
+        EXPECT_EQ(Count({200 + px, 75 + 27, 200 + px, 75 + 61}, WHITE), 35) << h;
+        EXPECT_EQ(Count({200 + 27, 75 + py, 200 + 73, 75 + py}, WHITE), 47) << v;
+        EXPECT_EQ(PixelAt(200 + px + 1, 75 + py + 1), WHITE) << "the dot";
     }
 }
 
@@ -318,36 +296,23 @@ static bool Overlap(const ST_TBL& c, const BT_TBL& b)
     return c.x1 <= b.x2 && b.x1 <= c.x2 && c.y1 <= b.y2 && b.y1 <= c.y2;
 }
 
-static const void* TableOf(const PAGE& page, int type)
-{
-    for (const auto& object : page.obj)
-        if (object.type == type)
-            return object.addr;
-    return nullptr;
-}
-
 TEST_F(StatusCells, EachCellOfEachPageLeadsToAPageAndCoversNoButton)
 {
     int cells = 0;
-    for (PAGE* p = PageTable; p->id != PAGE_END; p++) {
-        const auto* rows = static_cast<const ST_TBL*>(TableOf(*p, OBJ_ST));
-        if (!rows)
-            continue;
-        Page = p;
-        GL_NowPage = p->id;
-        GL_NowTree = p->tree;
-        Open(rows);
-        for (const ST_TBL* c = rows; c->id >= 1; c++) {
-            cells++;
-            EXPECT_TRUE(c->draw_func) << std::hex << p->id;
+    page_walk::ForEachPage([&](PAGE& p) {
+        const auto* c = static_cast<const ST_TBL*>(page_walk::TableOf(p, OBJ_ST));
+        if (!c)
+            return;
+        page_walk::Show(p);
+        for (Open(c); c->id >= 1; c++, cells++) {
+            EXPECT_TRUE(c->draw_func) << std::hex << p.id;
             const uint32_t id = PageOfCell(*c);
             const bool is_there = SearchPageTable_Free_ALL(PageTable, id) || SearchPageTable(id);
             EXPECT_TRUE(!c->jamp_id_base || is_there) // as a row or as a variant of one
-                << std::hex << p->id << " " << id;
-            const auto* b = static_cast<const BT_TBL*>(TableOf(*p, OBJ_BT));
-            for (; b && b->id >= 1; b++)
-                EXPECT_FALSE(Overlap(*c, *b)) << std::hex << p->id << " " << b->caption;
+                << std::hex << p.id << " " << id;
+            for (const BT_TBL* b = page_walk::ButtonsOf(p); b && b->id >= 1; b++)
+                EXPECT_FALSE(Overlap(*c, *b)) << std::hex << p.id << " " << b->caption;
         }
-    }
+    });
     EXPECT_GT(cells, 4000);
 }

@@ -2,15 +2,15 @@
 #include "a_nb.h"
 #include "a_pc.h"
 #include "bus_tally.h"
-#include "command.h"
 #include "global.h"
 #include "harness.h"
 #include "initread.h"
 #include "log.h"
+#include "me_bank.h"
 #include "memory.h"
 #include "message.h"
 #include "netio.h"
-#include "page.h"
+#include "page_walk.h"
 #include "pane.h"
 #include "tdl.h"
 #include "text.h"
@@ -35,9 +35,8 @@ struct Books {
     {
         Net_DropBinQueue(); // no link is up to take them
         for (const std::string& line : TakeQueuedCommands()) {
-            const size_t space = line.find(' ');
-            const std::string verb = line.substr(0, space);
-            const std::string path = space == std::string::npos ? "" : line.substr(space + 1);
+            const size_t space = std::min(line.find(' '), line.size() - 1);
+            const std::string verb = line.substr(0, space), path = line.substr(space + 1);
             if (verb == "add") {
                 open[path]++;
                 held.insert(path);
@@ -62,10 +61,11 @@ void Pass(int elapsed_ms)
 void OthersAreLeftTheirs(uint32_t page)
 {
     constexpr char PATH[] = "Nobody@Has@This";
-    for (const int msg : {int(MSG_TALLY), int(LMSG_BTNSEL)})
-        EXPECT_EQ(PC_Proc(msg, Arg(PATH), Arg(""), Hash(PATH), 0), 0) << std::hex << page;
-    EXPECT_EQ(PC_Proc(LMSG_KNOBCREATE, 999, Arg(""), 0, 0), 0) << std::hex << page;
-    EXPECT_EQ(PC_Proc(MSG_KEY, 0, 0, 0, 0), 0) << std::hex << page;
+    for (const int result :
+         {PC_Proc(MSG_TALLY, Arg(PATH), Arg(""), Hash(PATH), 0),
+          PC_Proc(LMSG_BTNSEL, Arg(PATH), Arg(""), Hash(PATH), 0),
+          PC_Proc(LMSG_KNOBCREATE, 999, Arg(""), 0, 0), PC_Proc(MSG_KEY, 0, 0, 0, 0)})
+        EXPECT_EQ(result, 0) << std::hex << page;
 }
 
 // Messages that bring numbers, from objects that are empty or have more rows than a page thinks. A
@@ -82,10 +82,8 @@ void OddNumbersDoNoHarm(uint32_t page)
         LMSG_FMFRAMECHANGE, LMSG_FFCRNTCHANGE, LMSG_FFLISTCHANGE};
     for (const int msg : numbers)
         for (const int id : {0, -1, 1, 2, 5000}) // two lists are the most that a page has
-            for (const int number : {0, -1, 5000}) {
-                const bool is_titled = msg == LMSG_KNOBCREATE;
-                SendMessage(msg, id, is_titled ? Arg("") : number, number, 0);
-            }
+            for (const int number : {0, -1, 5000})
+                SendMessage(msg, id, msg == LMSG_KNOBCREATE ? Arg("") : number, number, 0);
     EXPECT_EQ(GL_NowPage, page);
 }
 
@@ -115,10 +113,6 @@ struct AllPages : testing::Test {
         return result == 0;
     }
     void TearDown() override { Harness_Reset(); }
-    static bool HasColumn(const PAGE& row)
-    {
-        return std::ranges::any_of(row.obj, [](const auto& o) { return o.type == OBJ_NB; });
-    }
     static inline std::set<std::string> titles; // over the columns of the pages that were walked
 
     // Opens every page, each from the top menu and back to it, and
@@ -134,7 +128,7 @@ struct AllPages : testing::Test {
             if (!Open(row->id))
                 continue;
             opened++;
-            if (HasColumn(*row))
+            if (page_walk::TableOf(*row, OBJ_NB))
                 titles.insert(NB_GetTitle());
             Pass(10);
             Pass(10);
@@ -157,7 +151,7 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
 {
     std::set<std::string> before;
     int faults = 0;
-    std::set<uint32_t> shown;
+    int banks = 0; // pages of them
     std::set<std::string> removed;
     Tally_FollowCombine(); // as the mode of the panel does
     for (const std::string& line : TakeQueuedCommands())
@@ -165,7 +159,7 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
     Tally_FollowCombine();
     const int opened = Walk([&](const PAGE& row, Books& books) {
         removed = books.removed;
-        shown.insert(row.id);
+        banks += MeBank_OfPage(row.id) != nullptr;
         for (const std::string& path : books.held)
             if (path != "TopMenu" && !before.contains(path) && faults++ < 40)
                 ADD_FAILURE() << std::hex << row.id << " leaves " << path;
@@ -175,12 +169,10 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
         before = books.held;
     });
     EXPECT_EQ(faults, 0);
-    EXPECT_EQ(std::ranges::count_if(before,
-                                    [](const std::string& path) {
-                                        return path.starts_with("Global Effect@Ch") &&
-                                               path.find("@Combine@Ch") != path.npos;
-                                    }),
-              12)
+    const auto combines = [](const std::string& path) {
+        return path.starts_with("Global Effect@Ch") && path.find("@Combine@Ch") != path.npos;
+    };
+    EXPECT_EQ(std::ranges::count_if(before, combines), 12)
         << "a page has ended what is followed all the time";
     InitialCommand0();
     InitialCommand1();
@@ -190,16 +182,10 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
         EXPECT_FALSE(BeginsWith(line.c_str(), "add ") && removed.contains(line.substr(4)))
             << line << ": a page ends what is followed all the time";
     for (const std::string& title : titles)
-        if (title.find('\n') == std::string::npos) {
-            EXPECT_LE(TDL_GetSymbolWidth(title.c_str(), 1), 84u) << title << " is cut";
-        }
+        EXPECT_TRUE(title.find('\n') != title.npos || TDL_GetSymbolWidth(title.c_str(), 1) <= 84)
+            << title << " is cut";
     EXPECT_EQ(opened, PageTable_Rows - 1);
-    const auto is_bank = [](uint32_t id) {
-        const uint32_t byte = id >> 24;
-        return (byte >= 0x11 && byte <= 0x18) || byte == 0x81 || byte == 0x82 || byte == 0x85 ||
-               byte == 0x86;
-    };
-    EXPECT_EQ(std::count_if(shown.begin(), shown.end(), is_bank), 1789);
+    EXPECT_EQ(banks, 1789);
 }
 
 TEST_F(AllPages, NoneKeepsMemoryOrLacksABitmap)

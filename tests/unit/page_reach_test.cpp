@@ -2,7 +2,6 @@
 // same of a value as all others that show it.
 #include "a_kp.h"
 #include "a_st.h"
-#include "command.h"
 #include "device.h"
 #include "global.h"
 #include "harness.h"
@@ -64,21 +63,6 @@ bool IsByCode(uint32_t id)
     return std::ranges::any_of(by_code, [&](const ByCode& c) { return (id & c.mask) == c.id; });
 }
 
-template <typename Row, typename Visit> void ForEachRow(const PAGE& page, int type, Visit visit)
-{
-    for (const auto& object : page.obj)
-        if (object.type == type)
-            for (auto* row = static_cast<const Row*>(object.addr); row && row->id >= 1; row++)
-                visit(*row);
-}
-
-// A page with a list on each side, of which either opens its Detail.
-bool IsDualList(const PAGE& page)
-{
-    return std::ranges::any_of(
-        page.obj, [](const auto& o) { return o.type == OBJ_PC && o.addr == &pc_file_dual; });
-}
-
 // What a touch on the page may ask for.
 std::set<uint32_t> LeadsTo(PAGE& page)
 {
@@ -87,23 +71,21 @@ std::set<uint32_t> LeadsTo(PAGE& page)
         if (IsJump(*b))
             ids.insert(TargetOf(page, *b));
     ForEachTab(page, [&](int, int, const char*, uint32_t target, bool) { ids.insert(target); });
-    Page = &page;
-    GL_NowTree = page.tree;
-    GL_NowPage = page.id;
-    ForEachRow<ST_TBL>(page, OBJ_ST, [&](const ST_TBL& cell) {
-        uint32_t id = cell.jamp_id_base;
+    Show(page);
+    auto* cell = static_cast<const ST_TBL*>(TableOf(page, OBJ_ST));
+    for (; cell && cell->id >= 1; cell++) {
+        uint32_t id = cell->jamp_id_base;
         AddPageOffset(&id);
         ids.insert(id);
-    });
-    for (const auto& object : page.obj)
-        if (object.type == OBJ_KP)
-            for (auto* row = static_cast<const KP_TBL*>(object.addr); row->caption; row++)
-                ids.insert(row->jump);
+    }
+    auto* path = static_cast<const KP_TBL*>(TableOf(page, OBJ_KP));
+    for (; path && path->caption; path++)
+        ids.insert(path->jump);
     ids.insert(page.id & 0xFF000000); // the title
     if (isNowPageMeKey(page.id) == 1 || isNowPageME(page.id) == 1)
         ids.insert(page.id + TO_SUB_BANK); // the other side, Key Change
-    if (page.obj[0].type == OBJ_BA && IsDualList(page))
-        ids.insert(page.id + 1); // Detail
+    if (TableOf(page, OBJ_PC) == &pc_file_dual)
+        ids.insert(page.id + 1); // the Detail that either of its lists opens
     return ids;
 }
 
@@ -223,8 +205,7 @@ using Links = std::map<std::string, std::vector<Link>>; // by path
 void LookAt(Links* links, PAGE& page, const NB_TBL* const* tables, int count, const char* title)
 {
     std::map<std::string, std::set<std::string>> says;
-    GL_NowTree = page.tree;
-    GL_NowPage = page.id;
+    Show(page);
     for (int i = 0; i < count; i++)
         for (const NB_TBL* nb = tables[i]; nb && nb->id >= 1; nb++) {
             char path[CMD_SIZE], text[128];
@@ -253,17 +234,14 @@ TEST_F(PageReach, AllBoxesOfAValueSayTheSame)
         LookAt(&links, page, tables, count, b.caption);
     });
     ForEachPage([&](PAGE& page) {
-        for (const auto& o : page.obj)
-            if (o.type == OBJ_NB) {
-                const auto* table = static_cast<const NB_TBL*>(o.addr);
-                LookAt(&links, page, &table, 1, "");
-            }
+        const auto* table = static_cast<const NB_TBL*>(TableOf(page, OBJ_NB));
+        LookAt(&links, page, &table, 1, "");
     });
     EXPECT_GT(links.size(), 1000u);
     for (const auto& [path, shown] : links) {
-        if (path.ends_with(
-                "@ON Transition Rate") ||           // where several stand, it is said whose or when
-            path.ends_with("@Wipe@Edge@Soft@Soft")) // without a border there is room for more of it
+        // Where several rates stand, it is said whose or when; without a border there is room for
+        // more softness.
+        if (path.ends_with("@ON Transition Rate") || path.ends_with("@Wipe@Edge@Soft@Soft"))
             continue;
         for (const Link& link : shown)
             EXPECT_EQ(link.says, shown[0].says)
@@ -273,13 +251,11 @@ TEST_F(PageReach, AllBoxesOfAValueSayTheSame)
 
 TEST_F(PageReach, AllKeysOfACommandAreCalledTheSame)
 {
-    std::map<std::string, std::map<std::string, uint32_t>>
-        captions; // of a command, each with a page
+    std::map<std::string, std::map<std::string, uint32_t>> captions; // of a command: with a page
     ForEachButton([&](PAGE& page, const BT_TBL& b) {
         if (!b.cmd[0] || !*b.caption || IsLocal(b.cmd[0]) || b.cmd[0][0] == '#')
             return;
-        GL_NowTree = page.tree;
-        GL_NowPage = page.id;
+        Show(page);
         char command[CMD_SIZE];
         DecodeCommandWithVar(command, b.cmd[0], "", sizeof command);
         // Places in an order have a key of each candidate; where a group is called Auto Chroma its

@@ -1,21 +1,14 @@
 // What must hold for every row of the page table, also for pages that nobody thought of when a rule
 // was written.
-#include "a_bt.h"
-#include "a_hf.h"
-#include "a_nb.h"
-#include "a_vf.h"
 #include "bus.h"
-#include "command.h"
 #include "file.h"
 #include "harness.h"
 #include "message.h"
-#include "page.h"
 #include "page_table/me_tabs.h"
 #include "page_walk.h"
 #include "pane.h"
 #include "tdl.h"
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <set>
 
@@ -24,8 +17,7 @@ using namespace page_walk;
 TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
 {
     std::set<uint32_t> ids;
-    ForEachPage(
-        [&](PAGE& page) { EXPECT_TRUE(ids.insert(page.id).second) << std::hex << page.id; });
+    ForEachPage([&](PAGE& p) { EXPECT_TRUE(ids.insert(p.id).second) << std::hex << p.id; });
     EXPECT_EQ(int(ids.size()) + 1, PageTable_Rows);
     EXPECT_EQ(PageTable_Rows, 2528) << "a page came or went: which one, and who leads to it?";
     EXPECT_EQ(PageTable[PageTable_Rows - 1].id, PAGE_END);
@@ -148,11 +140,9 @@ TEST(PageTable, NoCaptionIsCutByItsButton)
     ForEachButton([](PAGE& page, const BT_TBL& b) {
         const int width = b.x2 - b.x1 + 1 - 10; // the caption begins 10 pixels in
         const int lines = TDL_GetSymbolLine(width, b.caption, 3);
-        int written = 1;
-        for (const char* c = b.caption; *c; c++)
-            written += *c == '\n';
-        EXPECT_EQ(lines, written) << std::hex << page.id << " \"" << b.caption
-                                  << "\" is broken by the machine";
+        const auto written = 1 + std::ranges::count(std::string_view(b.caption), '\n');
+        EXPECT_EQ(lines, written) << std::hex << page.id
+                                  << ": broken by the machine: " << b.caption;
         EXPECT_LE(lines, 3) << b.caption;
     });
 }
@@ -181,12 +171,11 @@ TEST(PageTable, GroupFramesDoNotReachIntoOneAnother)
             const char* title = a.title.c_str() + (strchr("@#$%&", a.title[0]) != nullptr);
             EXPECT_LE(a.r.x1 + 10 + int(TDL_GetSymbolWidth(title, 3)), a.r.x2 + 3)
                 << std::hex << page.id << ": \"" << title << "\" is wider than its frame";
-        }
-        for (const Frame& a : frames)
             for (const Frame& b : frames)
                 EXPECT_TRUE(&a == &b || a.r.x1 > b.r.x2 || b.r.x1 > a.r.x2 || a.r.y1 > b.r.y2 ||
                             b.r.y1 > a.r.y2)
                     << std::hex << page.id << ": \"" << a.title << "\" and \"" << b.title << "\"";
+        }
     });
 }
 
@@ -222,25 +211,23 @@ TEST(PageTable, WhileATransferRunsEveryPageLeadsToOneThatSaysSo)
         EXPECT_TRUE(SearchPageTable(tab | 0x12345)) << std::hex << tab;
 
     // It says so, and makes way when the transfer is over.
+    const auto asked_when_over = [] {
+        (void)Pane_Quit(Pane_GetActiveID());
+        BkgdFileTransfer_Set(0x71310000, 0);
+        SendMessage(LMSG_FILESTATUS, 0, 0, 0, 0);
+        BkgdFileTransfer_Set(0x71310000, 1);
+        return std::exchange(GL_CreatePage, 0);
+    };
     CreatePage(0x71320000);
     EXPECT_EQ(Page->id, 0x71300000u);
     for (int i = 0; i < 3; i++)
         SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-    const int pane = Pane_GetActiveID();
-    EXPECT_NE(pane, 0);
+    EXPECT_NE(Pane_GetActiveID(), 0);
     EXPECT_EQ(GL_CreatePage, 0u) << "the transfer goes on";
-    (void)Pane_Quit(pane);
-    BkgdFileTransfer_Set(0x71310000, 0);
-    SendMessage(LMSG_FILESTATUS, 0, 0, 0, 0);
-    EXPECT_EQ(GL_CreatePage, 0x71320000u);
-    GL_CreatePage = 0;
-    BkgdFileTransfer_Set(0x71310000, 1);
+    EXPECT_EQ(asked_when_over(), 0x71320000u);
     CreatePage(0x71398765);
+    EXPECT_EQ(asked_when_over(), 0x71310000u) << "what was asked for is nowhere";
     BkgdFileTransfer_Set(0x71310000, 0);
-    SendMessage(LMSG_FILESTATUS, 0, 0, 0, 0);
-    EXPECT_EQ(GL_CreatePage, 0x71310000u) << "what was asked for is nowhere";
-    GL_CreatePage = 0;
     CreatePage(0x12700000);
-    EXPECT_EQ(GL_CreatePage, 0x12710000u) << "in its own bank";
-    GL_CreatePage = 0;
+    EXPECT_EQ(std::exchange(GL_CreatePage, 0), 0x12710000u) << "in its own bank";
 }

@@ -13,7 +13,6 @@
 #include "page.h"
 #include "page_family.h"
 #include "window.h"
-#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -59,31 +58,24 @@ struct PageTest : testing::Test {
         const size_t at = log.find("Can't find ID: ");
         return at == std::string::npos ? 0 : uint32_t(std::stoul(log.substr(at + 15), nullptr, 16));
     }
+    // The page that a step back asks for; it is opened.
+    static uint32_t StepBack()
+    {
+        EXPECT_EQ(HistoryBack(1), 0);
+        CreatePage(GL_CreatePage);
+        return GL_CreatePage;
+    }
     size_t log_read = 0;
 };
 
-struct Navigation {
-    uint32_t now, before, front, back, front_before, back_before;
-    int side, is_turned, me_key, front_at, front_end, back_at, back_end;
-    bool operator==(const Navigation&) const = default;
-};
-Navigation WhereWeAre()
+auto WhereWeAre()
 {
-    return {GL_NowPage,
-            GL_PrevPage,
-            GL_OmoteNowPage,
-            GL_UraNowPage,
-            GL_OmotePrevPage,
-            GL_UraPrevPage,
-            OmoteFlag,
-            OmoteChange,
-            MeKeyTpye,
-            Omote_History_NowPtr,
-            Omote_History_MaxPtr,
-            Ura_History_NowPtr,
-            Ura_History_MaxPtr};
+    return std::make_tuple(GL_NowPage, GL_PrevPage, GL_OmoteNowPage, GL_UraNowPage,
+                           GL_OmotePrevPage, GL_UraPrevPage, OmoteFlag, OmoteChange, MeKeyTpye,
+                           Omote_History_NowPtr, Omote_History_MaxPtr, Ura_History_NowPtr,
+                           Ura_History_MaxPtr);
 }
-const Navigation at_start = WhereWeAre(); // before anything has run
+const auto at_start = WhereWeAre(); // before anything has run
 
 // A page that no table brings, for the words of its path.
 struct FakePage {
@@ -124,7 +116,7 @@ TEST_F(PageTest, OpeningAPageTakesItsRow)
 
 TEST_F(PageTest, TheProcessStartsAtTheFrontOfTheTopMenu)
 {
-    EXPECT_EQ(at_start, (Navigation{0, 0, PAGE_TOP, PAGE_TOP, 0, 0, 1, 0, 0, -1, -1, -1, -1}));
+    EXPECT_EQ(at_start, std::make_tuple(0, 0, PAGE_TOP, PAGE_TOP, 0, 0, 1, 0, 0, -1, -1, -1, -1));
     CreatePage(KeyPage(0));
     OmoteFlag = 0;
     OmoteChange = 1;
@@ -141,18 +133,14 @@ TEST_F(PageTest, TheProcessStartsAtTheFrontOfTheTopMenu)
 TEST_F(PageTest, TheDisplayGoesFromPageToPageInOneStep)
 {
     static std::vector<uint32_t> first;
-    const auto now = [] { return PixelsIn({0, 0, SCREEN_W - 1, SCREEN_H - 1}); };
+    static const auto now = [] { return PixelsIn({0, 0, SCREEN_W - 1, SCREEN_H - 1}); };
     CreatePage(KeyPage(0));
     {
         const Display display;
         CreatePage(0x71210000); // a list and its scroll bar
         EXPECT_EQ(Display::Lacks(), "");
     }
-    first.clear();
-    TDL_WatchFlush([](int, int, int, int) {
-        if (first.empty())
-            first = PixelsIn({0, 0, SCREEN_W - 1, SCREEN_H - 1});
-    });
+    TDL_WatchFlush([](int, int, int, int) { first = first.empty() ? now() : first; });
     CreateWindow(WINDOW_PAGE_JUMP, "");
     first.clear();
     CreatePage(KeyPage(1));
@@ -166,18 +154,17 @@ TEST_F(PageTest, TheDisplayGoesFromPageToPageInOneStep)
 // With a page of the global effect goes the subscription that says which pages there are.
 TEST_F(PageTest, CombinedChannelsAreFollowedOnOtherPages)
 {
-    static const struct {
-        uint32_t page;
-        bool has_them;
-    } cases[] = {{0x42110000, true}, {0x33110000, true}, {0x41110000, false}, {0x32110000, false}};
-    for (const auto& c : cases) {
-        ASSERT_EQ(CreatePage(c.page), 0);
+    for (const auto& [page, has_them] : {std::pair{0x42110000u, true},
+                                         {0x33110000u, true},
+                                         {0x41110000u, false},
+                                         {0x32110000u, false}}) {
+        ASSERT_EQ(CreatePage(page), 0);
         (void)TakeQueuedCommands();
         ASSERT_EQ(CreatePage(PAGE_TOP), 0);
         const Strings sent = TakeQueuedCommands();
-        EXPECT_EQ(std::ranges::count(sent, "add Global Effect@Ch5-Ch8@Combine@Ch8"), c.has_them)
-            << std::hex << c.page;
-        EXPECT_THAT(sent.back(), testing::StartsWith(c.has_them ? "add " : "")) << "the last word";
+        EXPECT_EQ(std::ranges::count(sent, "add Global Effect@Ch5-Ch8@Combine@Ch8"), has_them)
+            << std::hex << page;
+        EXPECT_THAT(sent.back(), testing::StartsWith(has_them ? "add " : "")) << "the last word";
     }
 }
 
@@ -220,12 +207,11 @@ TEST_F(PageTest, WhatWatchesTheProgramIsFilledWhenItsPageOpens)
     constexpr char file[] = "/var/log2/tm3err.log";
     Err_Clear();
     (void)Err_Add("something");
-    unlink(file);
-    CreatePage(0x99000000);
-    EXPECT_THAT(FileText(file), HasSubstr("something"));
-    unlink(file);
-    CreatePage(PAGE_TOP);
-    EXPECT_EQ(FileText(file), "");
+    for (const uint32_t page : {0x99000000u, uint32_t(PAGE_TOP)}) {
+        unlink(file);
+        CreatePage(page);
+        EXPECT_EQ(FileText(file).find("something") != std::string::npos, page == 0x99000000);
+    }
     Err_Clear();
     for (const int is_on : {1, 0}) {
         GL_LoopCounter = is_on;
@@ -257,19 +243,16 @@ TEST_F(PageTest, ARequestWithoutAPageLeavesAllAsItWas)
 
 TEST_F(PageTest, MenuKeysReopenTheirLastPage)
 {
+    // The sixth is of a system without clip store; the last covers the page, which stays
+    // remembered.
     static const struct {
         uint32_t visit;
         int row;
         uint32_t reopens;
     } steps[] = {
-        {0x11210000, 0, 0x11210000},
-        {0x16110000, 1, 0x16110000},
-        {0x86110000, 4, 0x86110000},
-        {0x18410000, 5, 0x18410000},
-        {0x21110000, 6, 0x21110000},
-        {0x25110000, 6, 0x25110000}, // of a system without clip store
-        {0x21110000, 6, 0x21110000},
-        {0x99000000, 6, 0x21110000}, // covers the page, which stays remembered
+        {0x11210000, 0, 0x11210000}, {0x16110000, 1, 0x16110000}, {0x86110000, 4, 0x86110000},
+        {0x18410000, 5, 0x18410000}, {0x21110000, 6, 0x21110000}, {0x25110000, 6, 0x25110000},
+        {0x21110000, 6, 0x21110000}, {0x99000000, 6, 0x21110000},
     };
     for (const auto& s : steps) {
         ASSERT_EQ(CreatePage(s.visit), 0) << std::hex << s.visit;
@@ -302,11 +285,8 @@ TEST_F(PageTest, HistoryGoesBackAndForward)
     EXPECT_EQ(HistoryFwd(1), -1);
 
     EXPECT_EQ(GetHistoryBack(1), KeyPage(2));
-    for (int n = 2; n >= 1; n--) {
-        ASSERT_EQ(HistoryBack(1), 0);
-        EXPECT_EQ(GL_CreatePage, KeyPage(n));
-        CreatePage(GL_CreatePage);
-    }
+    for (int n = 2; n >= 1; n--)
+        ASSERT_EQ(StepBack(), KeyPage(n));
     EXPECT_EQ(GetHistoryFwd(1), KeyPage(2));
     EXPECT_EQ(HistoryFwd(1), 0);
     CreatePage(GL_CreatePage);
@@ -340,11 +320,8 @@ TEST_F(PageTest, TheFiftyFirstPageDropsTheOldest)
 {
     for (int n = 0; n < HISTORY_DEPTH + 1; n++)
         ASSERT_EQ(CreatePage(KeyPage(n)), 0) << n;
-    for (int n = HISTORY_DEPTH - 1; n >= 1; n--) {
-        ASSERT_EQ(HistoryBack(1), 0);
-        EXPECT_EQ(GL_CreatePage, KeyPage(n));
-        CreatePage(GL_CreatePage);
-    }
+    for (int n = HISTORY_DEPTH - 1; n >= 1; n--)
+        ASSERT_EQ(StepBack(), KeyPage(n));
     EXPECT_TRUE(IsTopHistory(1));
 }
 
@@ -379,8 +356,7 @@ TEST_F(PageTest, RequestsAreCorrectedBeforeTheLookUp)
         GL_MainSubAssign[13] = side;
     };
     static const struct {
-        uint32_t request;
-        uint32_t opens;
+        uint32_t request, opens;
         void (*when)() = nullptr;
     } cases[] = {
         {0x15210000, 0x11210000, four_keys},
@@ -453,8 +429,7 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
     static const struct {
         uint32_t now;
         const char* tree[2];
-        uint32_t id;
-        uint32_t moved;
+        uint32_t id, moved;
     } cases[] = {
         {0x12310000, {"M/E-2", "Key3"}, 0x11170002, 0x12370002},
         {0x81210000, {"M/E-4", "Key2"}, 0x11110000, 0x81210000},
@@ -486,8 +461,9 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
 TEST_F(PageTest, TheNearestPageIsOneThatExists)
 {
     const FullHouse all;
-    EXPECT_EQ(Page_Nearest(0x11120000), 0x11120000u);
-    EXPECT_EQ(Page_Nearest(0x11121234), 0x11120000u);
-    EXPECT_EQ(Page_Nearest(0x11FE0000), 0x11110000u);
-    EXPECT_EQ(Page_Nearest(0xEEEE0000), uint32_t(PAGE_TOP));
+    for (const auto& [meant, nearest] : {std::pair{0x11120000u, 0x11120000u},
+                                         {0x11121234u, 0x11120000u},
+                                         {0x11FE0000u, 0x11110000u},
+                                         {0xEEEE0000u, PAGE_TOP}})
+        EXPECT_EQ(Page_Nearest(meant), nearest) << std::hex << meant;
 }

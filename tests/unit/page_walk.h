@@ -10,12 +10,21 @@
 
 namespace page_walk
 {
-inline const BT_TBL* ButtonsOf(const PAGE& page)
+// The table of a family on a page, null when it has none.
+inline const void* TableOf(const PAGE& page, int type, uint32_t* selected = nullptr)
 {
     for (const auto& object : page.obj)
-        if (object.type == OBJ_BT)
-            return static_cast<const BT_TBL*>(object.addr);
+        if (object.type == type) {
+            if (selected)
+                *selected = object.var;
+            return object.addr;
+        }
     return nullptr;
+}
+
+inline const BT_TBL* ButtonsOf(const PAGE& page)
+{
+    return static_cast<const BT_TBL*>(TableOf(page, OBJ_BT));
 }
 
 template <typename Visit> void ForEachPage(Visit visit)
@@ -39,27 +48,23 @@ inline bool IsJump(const BT_TBL& b)
             b.type == BT_JUMP_POPUP);
 }
 
-// The page that a jump of this page requests, as the button works it out.
-inline uint32_t TargetOf(PAGE& page, const BT_TBL& b)
+// As if it were open.
+inline void Show(PAGE& page)
 {
     Page = &page;
     GL_NowTree = page.tree;
     GL_NowPage = page.id;
+}
+
+// The page that a jump of this page requests, as the button works it out.
+inline uint32_t TargetOf(PAGE& page, const BT_TBL& b)
+{
+    Show(page);
     const char* number = b.cmd[0] + 1;
     uint32_t id = uint32_t(strtoul(*number == '+' ? number + 1 : number, nullptr, 16));
     if (*number == '+')
         AddPageOffset(&id);
     return id;
-}
-
-inline const void* TableOf(const PAGE& page, int type, uint32_t* selected)
-{
-    for (const auto& object : page.obj)
-        if (object.type == type) {
-            *selected = object.var;
-            return object.addr;
-        }
-    return nullptr;
 }
 
 // Both kinds of tabs of a page, as (id, caption, page, is chosen).
