@@ -13,18 +13,12 @@
 namespace
 {
 constexpr uint32_t NONE = 0;
-// A point in the middle of each zone.
+// A point in the middle of each zone. The side key is part of the title where there is none.
 struct Point {
-    int x;
-    int y;
+    int x, y;
 };
-constexpr Point TITLE = {150, 30};
-constexpr Point SIDE_KEY = {330, 30}; // part of the title where there is no side key
-constexpr Point BACK = {400, 30};
-constexpr Point FWD = {470, 30};
-constexpr Point TOP_RIGHT = {650, 30};
-constexpr Point LOWER_LEFT = {40, 560};
-constexpr Point PREV = {750, 580};
+constexpr Point TITLE = {150, 30}, SIDE_KEY = {330, 30}, BACK = {400, 30}, FWD = {470, 30},
+                TOP_RIGHT = {650, 30}, LOWER_LEFT = {40, 560}, PREV = {750, 580};
 } // namespace
 
 struct BaseAreaTest : ButtonPage {
@@ -39,6 +33,13 @@ struct BaseAreaTest : ButtonPage {
         SetTree(tree, id);
         BA_Create(&table, 0);
         (void)TakeQueuedCommands();
+    }
+    void OpenKeyType() { OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000); }
+    // What a touch of the lower left arms or lets go.
+    static int Armed()
+    {
+        Touch(LOWER_LEFT);
+        return BA_IsDefaultButton();
     }
     static void Touch(Point p) { BA_Proc(MSG_PRESS, p.x, p.y, 1, 0); }
     static void Pass(int elapsed_ms) { BA_Proc(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
@@ -56,7 +57,7 @@ struct BaseAreaTest : ButtonPage {
 
 TEST_F(BaseAreaTest, EachZoneLeadsToItsPage)
 {
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    OpenKeyType();
     GL_PrevPage = 0x33110000;
     EXPECT_EQ(PageOf(TITLE), 0x11000000u);
     EXPECT_EQ(PageOf(SIDE_KEY), 0x11000000u) << "the band is long";
@@ -87,11 +88,10 @@ TEST_F(BaseAreaTest, PagesOfOneBranchHaveTitlesThatDiffer)
 
 TEST_F(BaseAreaTest, HistoryStepsEndAtBothEnds)
 {
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    OpenKeyType();
     EXPECT_EQ(PageOf(BACK), NONE);
-    Omote_History[0] = 0x00110000;
-    Omote_History[1] = 0x11110000;
-    Omote_History[2] = 0x33110000;
+    constexpr uint32_t visited[] = {0x00110000, 0x11110000, 0x33110000};
+    std::ranges::copy(visited, Omote_History);
     Omote_History_NowPtr = 1;
     Omote_History_MaxPtr = 2;
     EXPECT_EQ(PageOf(FWD), 0x33110000u);
@@ -101,7 +101,7 @@ TEST_F(BaseAreaTest, HistoryStepsEndAtBothEnds)
 
 TEST_F(BaseAreaTest, ATimerDoesNotOutliveItsPage)
 {
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    OpenKeyType();
     Touch(TITLE);
     Touch(LOWER_LEFT);
     OpenBase({"File", "All"}, 0x71110000);
@@ -112,33 +112,24 @@ TEST_F(BaseAreaTest, ATimerDoesNotOutliveItsPage)
 
 TEST_F(BaseAreaTest, ArmedDefaultRecallStopsAllButItself)
 {
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 1);
+    OpenKeyType();
+    EXPECT_EQ(Armed(), 1);
     for (Point p : {TITLE, SIDE_KEY, BACK, FWD, TOP_RIGHT, PREV})
         EXPECT_EQ(PageOf(p), NONE) << p.x;
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 0);
+    EXPECT_EQ(Armed(), 0);
     EXPECT_EQ(PageOf(TITLE), 0x11000000u);
 }
 
 TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
 {
-    static const struct {
-        const char* section;
-        uint32_t page;
-        bool recall;
-    } cases[] = {
-        {"M/E-1", 0x11110000, true},
-        {"M/E-4", 0x81730000, true},  // key priority while nothing is locked
-        {"M/E-1", 0x15510000, false}, // the sub side
-        {"M/E-1", 0x11570000, false}, // a keypad of stored wipes
-        {"Engineering Setup", 0x73110000, false},
-    };
-    for (const auto& c : cases) {
-        OpenBase({c.section, "X"}, c.page);
-        Touch(LOWER_LEFT);
-        EXPECT_EQ(BA_IsDefaultButton(), c.recall) << c.section << std::hex << c.page;
+    for (const auto& [section, id, recall] :
+         {std::tuple{"M/E-1", 0x11110000u, true},
+          {"M/E-4", 0x81730000u, true},  // key priority while nothing is locked
+          {"M/E-1", 0x15510000u, false}, // the sub side
+          {"M/E-1", 0x11570000u, false}, // a keypad of stored wipes
+          {"Engineering Setup", 0x73110000u, false}}) {
+        OpenBase({section, "X"}, id);
+        EXPECT_EQ(Armed(), recall) << section << std::hex << id;
     }
 }
 
@@ -164,6 +155,11 @@ struct SetupLockKey : BaseAreaTest {
 TEST_F(SetupLockKey, ATouchPutsThePageIntoTheLockSetAndTheFile)
 {
     OpenBase({"Engineering Setup", "System", "X"}, 0x73120101); // a variant of the second row
+    SetupLock.lock = 1; // while it is on a touch changes nothing
+    Touch(LOWER_LEFT);
+    EXPECT_EQ(SetupMenu[1].lock, 0);
+    EXPECT_FALSE(std::filesystem::exists(SETUP_LOCK_FILE));
+    SetupLock.lock = 0;
     Touch(LOWER_LEFT);
     EXPECT_EQ(SetupMenu[1].lock, 1);
     SetupLock = {};
@@ -174,15 +170,6 @@ TEST_F(SetupLockKey, ATouchPutsThePageIntoTheLockSetAndTheFile)
     Touch(LOWER_LEFT);
     EXPECT_EQ(SetupMenu[1].lock, 0);
     EXPECT_EQ(SetupLock.num, 1);
-}
-
-TEST_F(SetupLockKey, WhileTheLockIsOnATouchChangesNothing)
-{
-    SetupLock.lock = 1;
-    OpenBase({"Engineering Setup", "System", "X"}, 0x73120001);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(SetupMenu[1].lock, 0);
-    EXPECT_FALSE(std::filesystem::exists(SETUP_LOCK_FILE));
 }
 
 // The key priority pages that there are, of all banks.
@@ -199,8 +186,7 @@ TEST_F(SetupLockKey, KeyPriorityShowsTheLockInPlaceOfDefaultRecall)
             SetupLock.lock = lock;
             OpenBase({row->tree[0], row->tree[1], row->tree[2]}, row->id);
             const bool is_sub = isNowPageME(0) == 2;
-            Touch(LOWER_LEFT);
-            EXPECT_EQ(BA_IsDefaultButton(), !lock && !is_sub) << std::hex << row->id;
+            EXPECT_EQ(Armed(), !lock && !is_sub) << std::hex << row->id;
             EXPECT_EQ(ba.SetupLock_enable, lock && !is_sub) << std::hex << row->id;
         }
     }
@@ -220,22 +206,17 @@ TEST_F(SetupLockKey, AFileThatCannotBeWrittenIsToldToTheOperator)
 
 TEST_F(BaseAreaTest, ATouchOfTheTitleStepsTheChannelOfAnMpe)
 {
-    static const struct {
-        int available, reference;
-        const char* digits;
-    } cases[] = {
-        {0x31, 0x10, "00100000"}, // channel 5, then 6
-        {0x31, 0x20, "00000001"}, // behind the last comes the first
-        {0x31, 0x00, "00000001"},
-        {0x10, 0x10, "00010000"},
-    };
     OpenBase({"MPE", "Fx"}, 0x44110000);
-    for (const auto& c : cases) {
-        SYS_MPEChannel = c.available;
-        SYS_MPEReference = c.reference;
+    for (const auto& [available, reference, digits] :
+         {std::tuple{0x31, 0x10, "00100000"}, // channel 5, then 6
+          {0x31, 0x20, "00000001"},           // behind the last comes the first
+          {0x31, 0x00, "00000001"},
+          {0x10, 0x10, "00010000"}}) {
+        SYS_MPEChannel = available;
+        SYS_MPEReference = reference;
         Touch(TITLE);
         EXPECT_THAT(TakeQueuedCommands(),
-                    ElementsAre(std::string("put MPE@Fx@Channel@Reference#") + c.digits));
+                    ElementsAre(std::string("put MPE@Fx@Channel@Reference#") + digits));
     }
     SYS_MPEChannel = 0;
     EXPECT_EQ(PageOf(TITLE), NONE);
@@ -249,14 +230,14 @@ TEST_F(BaseAreaTest, AnErrorTakesTheTitleOfThePageInView)
 {
     static constexpr Rect BAND = {89, 6, 370, 63};
     OpenBase({"M/E-1", "Wipe"}, 0x11510000);
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    HandPage::Pass();
     const auto before = PixelsIn(BAND);
     (void)PaneMessage_Create("Title", PANE_INFO, "Text");
     GL_ErrorPopup_On = GL_ErrorExist = 1;
     BA_DrawError();
     EXPECT_EQ(PixelsIn(BAND), before);
     (void)Pane_Quit(Pane_GetActiveID());
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    HandPage::Pass();
     const auto marked = PixelsIn(BAND);
     EXPECT_NE(marked, before);
     GL_ErrorExist = 2;
@@ -286,8 +267,7 @@ TEST_F(FileBase, WhileArmedOnlyTheStepsThroughTheHistoryStandStill)
     CloseWindow();
     BA_SetDefaultButton(0);
     EXPECT_EQ(PageOf(PREV), 0x33110000u);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 0) << "there is no such key";
+    EXPECT_EQ(Armed(), 0) << "there is no such key";
 }
 
 TEST_F(FileBase, TheRegionAreaOpensItsSelectorAndTellsItsEnd)
@@ -307,9 +287,9 @@ TEST_F(FileBase, TheRegionAreaOpensItsSelectorAndTellsItsEnd)
     ASSERT_GT(pane, 0);
     SendMessage(LMSG_PANEQUIT, pane + 1, 0, 0, 0);
     EXPECT_EQ(ends, 0) << "another pane's end";
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-    SendMessage(MSG_PRESS, 20, 300, 1, 0); // beside it
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    HandPage::Pass();
+    HandPage::Touch(20, 300); // beside it
+    HandPage::Pass();
     EXPECT_EQ(Pane_GetActiveID(), 0);
     EXPECT_EQ(ends, 1);
     PC_Create(nullptr, 0);
@@ -329,10 +309,8 @@ TEST_F(BaseAreaTest, ARecordedMenuMacroTakesTheKeysOver)
     EXPECT_EQ(PageOf(LOWER_LEFT), 0x71440002u);
     OpenBase({"File", "Menu Macro"}, 0x71440002);
     EXPECT_EQ(PageOf(PREV), 0x33110000u);
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 1) << "default recall keeps its place";
-    GL_MenuMacro_Edit = 0;
+    OpenKeyType();
+    EXPECT_EQ(Armed(), 1) << "default recall keeps its place";
 }
 
 TEST_F(BaseAreaTest, TheTimelineIsItsOwnPage)
@@ -340,8 +318,7 @@ TEST_F(BaseAreaTest, TheTimelineIsItsOwnPage)
     OpenBase({"Key Frame", "Timeline"}, 0x61110000, base_kf_tl);
     EXPECT_EQ(PageOf(TOP_RIGHT), NONE);
     EXPECT_EQ(PageOf(TITLE), 0x61000000u);
-    Touch(LOWER_LEFT);
-    EXPECT_EQ(BA_IsDefaultButton(), 0);
+    EXPECT_EQ(Armed(), 0);
 }
 
 // --- Lamps ---
@@ -349,7 +326,7 @@ TEST_F(BaseAreaTest, TheTimelineIsItsOwnPage)
 TEST_F(BaseAreaTest, LampsTellWhoIsAtTheDisks)
 {
     constexpr uint32_t OFF = 0x282828, RED = 0xFF0000, GREEN = 0x00FF00;
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
+    OpenKeyType();
     const auto lamps = [] { return std::pair{PixelAt(75, 18), PixelAt(60, 18)}; };
     EXPECT_EQ(lamps(), std::pair(OFF, OFF));
     BA_SetFtpAccess(1);
@@ -367,18 +344,16 @@ TEST_F(BaseAreaTest, LampsTellWhoIsAtTheDisks)
 // The label of a step has room for what the page button shows, and no more.
 TEST_F(BaseAreaTest, TheHistoryNamesAPageWithoutItsVariant)
 {
-    OpenBase({"M/E-1", "Key1", "Type"}, 0x11110000);
-    Omote_History_NowPtr = 1;
-    Omote_History_MaxPtr = 1;
-    Omote_History[0] = 0x61130001;
-    (void)ba_drw_back();
-    const auto plain = PixelsIn(ZONE_BACK);
-    Omote_History[0] = 0x61131001;
-    (void)ba_drw_back();
-    EXPECT_EQ(PixelsIn(ZONE_BACK), plain);
-    Omote_History[0] = 0x61130002;
-    (void)ba_drw_back();
-    EXPECT_NE(PixelsIn(ZONE_BACK), plain);
+    OpenKeyType();
+    Omote_History_NowPtr = Omote_History_MaxPtr = 1;
+    const auto label = [](uint32_t page_before) {
+        Omote_History[0] = page_before;
+        (void)ba_drw_back();
+        return PixelsIn(ZONE_BACK);
+    };
+    const auto plain = label(0x61130001);
+    EXPECT_EQ(label(0x61131001), plain);
+    EXPECT_NE(label(0x61130002), plain);
 }
 
 // --- Side keys ---

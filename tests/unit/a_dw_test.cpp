@@ -31,9 +31,10 @@ struct WipeLists : TabPage {
         (void)TakeQueuedCommands();
         DW_Create(&table, knob_row);
     }
-    static std::string Number(int column, int row)
+    // What a touch sends, by its number; of the first cell when none is given.
+    static std::string Number(int x = X(0), int y = Y(0))
     {
-        const auto lines = Sent(X(column), Y(row));
+        const auto lines = Sent(x, y);
         return lines.empty() ? "" : lines[0].substr(lines[0].find('#') + 1);
     }
 };
@@ -43,36 +44,26 @@ TEST_F(WipeLists, APressSendsTheNumberOfItsCell)
     EXPECT_THAT(Sent(X(0), Y(0)), ElementsAre(std::string("put ") + PATH + "#1001"));
     static const struct {
         int x, y;
-        const char* number; // null: sends nothing
+        const char* number; // empty: sends nothing
     } cases[] = {
-        {X(1), Y(1), "1008"}, {X(2), Y(1), nullptr},    {X(0), Y(2), "1921"},  {228, Y(0), "1001"},
-        {229, Y(0), nullptr}, {X(0), 89 + 69, nullptr}, {X(6), Y(0), nullptr},
+        {X(1), Y(1), "1008"}, {X(2), Y(1), ""},    {X(0), Y(2), "1921"}, {228, Y(0), "1001"},
+        {229, Y(0), ""},      {X(0), 89 + 69, ""}, {X(6), Y(0), ""},
     };
-    for (const auto& c : cases) {
-        const auto sent = Sent(c.x, c.y);
-        ASSERT_EQ(sent.empty(), !c.number) << c.x << "," << c.y;
-        if (c.number) {
-            EXPECT_EQ(sent[0].substr(sent[0].find('#') + 1), c.number);
-        }
-    }
+    for (const auto& c : cases)
+        EXPECT_EQ(Number(c.x, c.y), c.number) << c.x << "," << c.y;
     BA_SetDefaultButton(1);
     EXPECT_THAT(Sent(X(0), Y(0)), IsEmpty());
 }
 
 TEST_F(WipeLists, TheNumbersOfUserProgramsMoveWithBankAndKey)
 {
-    static const struct {
-        const char *bank, *key, *user;
-    } cases[] = {
-        {"PGM/PST", "DSK2", "1911"},
-        {"M/E-1", "Key1", "1921"},
-        {"M/E-2", "Key2", "1951"},
-        {"M/E-3", "Key3", "1901"},
-    };
-    for (const auto& c : cases) {
-        Open({c.bank, c.key, "Transition", "Adjust"}, 0);
-        EXPECT_EQ(Number(0, 2), c.user) << c.bank << " " << c.key;
-        EXPECT_EQ(Number(0, 0), "1001") << c.bank << " " << c.key;
+    for (const auto& [bank, key, user] : {std::tuple{"PGM/PST", "DSK2", "1911"},
+                                          {"M/E-1", "Key1", "1921"},
+                                          {"M/E-2", "Key2", "1951"},
+                                          {"M/E-3", "Key3", "1901"}}) {
+        Open({bank, key, "Transition", "Adjust"}, 0);
+        EXPECT_EQ(Number(X(0), Y(2)), user) << bank << " " << key;
+        EXPECT_EQ(Number(), "1001") << bank << " " << key;
     }
 }
 
@@ -88,39 +79,33 @@ TEST_F(WipeLists, TheWindowStaysInsideTheList)
     };
     for (const auto& c : cases) {
         SendMessage(LMSG_SBSEL, c.kind, c.bar, c.value, 0);
-        EXPECT_EQ(Number(0, 0), c.first) << c.kind << " " << c.value;
-        SB_INFO bar;
-        SB_GetInfo(&bar, 0);
-        EXPECT_EQ(bar.total, 7);
+        EXPECT_EQ(Number(), c.first) << c.kind << " " << c.value;
     }
+    SB_INFO bar;
+    SB_GetInfo(&bar, 0);
+    EXPECT_EQ(bar.total, 7);
+    // A wheel step becomes a press on an arrow.
+    int x = 700, y = Y(0);
+    EXPECT_EQ(DW_ConvPosForWheel(&x, &y, 4), 0) << "beside the list";
+    x = X(0);
+    ASSERT_EQ(DW_ConvPosForWheel(&x, &y, 5), 1);
+    Touch(x, y);
+    EXPECT_EQ(Number(), "1007");
 }
 
 TEST_F(WipeLists, TheChosenCellComesIntoView)
 {
-    static const struct {
-        const char *number, *first;
-    } cases[] = {
-        {"1007", "1001"}, {"1930", "1001"}, // in view already
-        {"1331", "1927"},                   // the last line
-        {"7003", "7001"}, {"1999", "1001"}, // not in the list
-    };
-    for (const auto& c : cases) {
-        SendDummyTally((std::string(PATH) + "#" + c.number).c_str());
-        EXPECT_EQ(Number(0, 0), c.first) << c.number;
+    for (const auto& [number, first] : {std::pair{"1007", "1001"},
+                                        {"1930", "1001"}, // in view already
+                                        {"1331", "1927"}, // the last line
+                                        {"7003", "7001"},
+                                        {"1999", "1001"}}) { // not in the list
+        Tally(PATH, number);
+        EXPECT_EQ(Number(), first) << number;
     }
     SendMessage(LMSG_SBSEL, SB_DOWN, 0, 1, 0);
-    SendDummyTally((std::string(PATH) + "#1999").c_str());
-    EXPECT_EQ(Number(0, 0), "1007") << "told the same once more";
-}
-
-TEST_F(WipeLists, AWheelStepBecomesAPressOnAnArrow)
-{
-    int beside = 700, above = Y(0);
-    EXPECT_EQ(DW_ConvPosForWheel(&beside, &above, 4), 0);
-    int x = X(0), y = Y(0);
-    ASSERT_EQ(DW_ConvPosForWheel(&x, &y, 5), 1);
-    Touch(x, y);
-    EXPECT_EQ(Number(0, 0), "1007");
+    Tally(PATH, "1999");
+    EXPECT_EQ(Number(), "1007") << "told the same once more";
 }
 
 TEST_F(WipeLists, TheVeilFollowsTheTally)

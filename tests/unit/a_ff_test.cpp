@@ -32,7 +32,7 @@ struct FileFolder : TablePage {
         (void)Open(PAGE_LOAD);
         (void)FF_ChangeDirectory(0, "/");
         FF_ClearCheckedObjectList(0);
-        Clear();
+        (void)TakeQueuedHubLines();
     }
     void TearDown() override
     {
@@ -41,7 +41,6 @@ struct FileFolder : TablePage {
         SYS_MySwrMax = switchers;
         TablePage::TearDown();
     }
-    static void Clear() { (void)TakeQueuedHubLines(); }
     static void Hub(const std::string& verb, const std::string& table, const std::string& row)
     {
         std::string v = verb, t = "CS1." + table, r = row;
@@ -81,13 +80,6 @@ struct FileFolder : TablePage {
     {
         FF_OBJECT object;
         return FF_GetSelectedObject(0, &object) == 0 ? object.name : "";
-    }
-    static int Surfaces()
-    {
-        int count = 0;
-        for (int n = 0; n < ff.area[0].file_list.rec_num; n++)
-            count += ff.area[0].file_list.cell[n]->is_looked_for;
-        return count;
     }
 };
 
@@ -187,24 +179,18 @@ TEST_F(FileFolder, ChecksAndLoadsWhatIsChecked)
     EXPECT_EQ(FF_GetCheckedObjectNum(0), 0);
 }
 
-TEST_F(FileFolder, ForgetsARequestThatWasCancelled)
+TEST_F(FileFolder, ForgetsARequestThatWasCancelledAndAllWhenTheHubHasGone)
 {
     Key(FF_KEY_ALL);
     (void)Press(BTN_FMEM_UNLOAD);
-    const int pane = Pane_GetActiveID();
+    int pane = Pane_GetActiveID();
     SendMessage(LMSG_PANEQUIT, pane, 1, 0, 0);
     (void)Pane_Quit(pane);
     Result("UnRegister root/OPENING.SFH:7F");
-    Clear();
+    (void)TakeQueuedHubLines();
     (void)Press(BTN_FMEM_LOAD);
     EXPECT_EQ(TakeQueuedHubLines().size(), 2u);
-}
-
-TEST_F(FileFolder, WaitsForNothingWhenTheHubHasGone)
-{
-    Key(FF_KEY_ALL);
-    (void)Press(BTN_FMEM_LOAD);
-    const int pane = Pane_GetActiveID();
+    pane = Pane_GetActiveID();
     EXPECT_NE(pane, 0);
     FMCtrl3_HubLost();
     EXPECT_FALSE(Pane_Exist(pane));
@@ -218,7 +204,10 @@ TEST_F(FileFolder, HoldsPicturesOfWhatIsInViewOnly)
     for (int row : {0, 50, 1000}) {
         (void)FF_SetScrollBarPosition(0, row);
         Pass(10);
-        EXPECT_EQ(Surfaces(), 12);
+        int pictures = 0;
+        for (int n = 0; n < ff.area[0].file_list.rec_num; n++)
+            pictures += ff.area[0].file_list.cell[n]->is_looked_for;
+        EXPECT_EQ(pictures, 12);
     }
     EXPECT_EQ(FF_GetNBVar(0), 97);
     EXPECT_EQ(FF_GetChildObjectNum("/", OBJECT_TYPE_FILE, ELEMENT_PLACE_STORAGE, 0, true), 402);

@@ -9,24 +9,18 @@ static const std::string ROOT = "/tmp/file_list_test/user/root";
 
 static constexpr FL_TBL sides = {
     {{.device = FL_DIRDATA_LOCAL_DRIVE}, {.device = FL_DIRDATA_STORAGE_ROOT}}};
-static constexpr LS_TBL lists[] = {
-    {.id = 1,
-     .hn = 5,
-     .vn = 8,
-     .head = {"", "Name", "", "", ""},
-     .width = {20, 90, 30, 30, 90},
-     .sb_bottom = 198,
-     .block = 1},
-    {.id = 2,
-     .hn = 5,
-     .vn = 8,
-     .x = 400,
-     .head = {"", "Name", "", "", ""},
-     .width = {20, 90, 30, 30, 90},
-     .sb_bottom = 198,
-     .block = 1},
-    LS_END,
-};
+constexpr LS_TBL List(int id)
+{
+    return {.id = id,
+            .hn = 5,
+            .vn = 8,
+            .x = 400 * (id - 1),
+            .head = {"", "Name", "", "", ""},
+            .width = {20, 90, 30, 30, 90},
+            .sb_bottom = 198,
+            .block = 1};
+}
+static constexpr LS_TBL lists[] = {List(1), List(2), LS_END};
 
 struct FileList : FileTest {
     uint32_t dirs = 0, files = 0; // labels of the left side's searches
@@ -66,10 +60,7 @@ struct FileList : FileTest {
     static std::string Head(int format, int pair, int is_4k)
     {
         std::string head(SFH_BYTES, '\xEE');
-        head[4] = char(format);
-        head[5] = char(pair);
-        head[6] = char(is_4k);
-        return head;
+        return head.replace(4, 3, {char(format), char(pair), char(is_4k)});
     }
     // The page's list, a line a row: name, frames, pair, time.
     static Strings Shown(int list)
@@ -78,10 +69,9 @@ struct FileList : FileTest {
         FL_Proc(MSG_REDRAW, 10, 0, 0, 0);
         Strings rows;
         for (int row = 0; row < LS_GetNData(list); row++) {
-            std::string text;
-            for (int col = 0; col < 5; col++)
-                text += (col ? "|" : "") + std::string(LS_GetData(list, row, col));
-            rows.push_back(text);
+            rows.push_back(LS_GetData(list, row, 0));
+            for (int col = 1; col < 5; col++)
+                rows.back() += std::string("|") + LS_GetData(list, row, col);
         }
         return rows;
     }
@@ -132,32 +122,30 @@ TEST_F(FileList, AFolderIsAskedForAndShownWithItsClips)
 TEST_F(FileList, RowsThatAreNoClipsLeaveNothing)
 {
     (void)Told(0);
-    static const std::string long_name(33, 'n');
-    const std::string rows[] = {
-        "",
-        ROOT,
-        ROOT + "/",
-        ROOT + "/.SFH",
-        ROOT + "/a.TIF",
-        ROOT + "/a.SFH.bak",
-        ROOT + "x/a.SFH",
-        "/etc/a.SFH",
-        ROOT + "/../a.SFH",
-        ROOT + "/" + long_name + ".SFH",
-        ROOT + "/" + std::string(300, 'p') + ".SFH",
-        ROOT + "/a:b.SFH",
-        ROOT + "/clip.SFH/clip#00000a.SFH",
-        ROOT + "/clip.SFH/clip#0000000.SFH",
-        ROOT + "/clip.SFH/clip#00000.SFH",
-        ROOT + "/clip.SFH/clip000000.SFH",
-        ROOT + "/clip.SFH/other#000000.SFH",
-        ROOT + "/clip.SFH/x/clip#000000.SFH",
-        ROOT + "/NEWS/a.SFH",
-        ROOT + "/1/2/3/4/5/a.SFH",
-    };
-    for (const std::string& row : rows) {
-        file_find_tly(row.c_str(), "Nov.25.2026 09:20", FL_L_LIST);
-        EXPECT_EQ(fl.list[0].count, 0) << row;
+    const std::string long_name(33, 'n');
+    const std::string names[] = {"",
+                                 "/",
+                                 "/.SFH",
+                                 "/a.TIF",
+                                 "/a.SFH.bak",
+                                 "x/a.SFH",
+                                 "/../a.SFH",
+                                 "/" + long_name + ".SFH",
+                                 "/" + std::string(300, 'p') + ".SFH",
+                                 "/a:b.SFH",
+                                 "/clip.SFH/clip#00000a.SFH",
+                                 "/clip.SFH/clip#0000000.SFH",
+                                 "/clip.SFH/clip#00000.SFH",
+                                 "/clip.SFH/clip000000.SFH",
+                                 "/clip.SFH/other#000000.SFH",
+                                 "/clip.SFH/x/clip#000000.SFH",
+                                 "/NEWS/a.SFH",
+                                 "/1/2/3/4/5/a.SFH"};
+    file_find_tly("", "Nov.25.2026 09:20", FL_L_LIST);
+    file_find_tly("/etc/a.SFH", "Nov.25.2026 09:20", FL_L_LIST);
+    for (const std::string& name : names) {
+        file_find_tly((ROOT + name).c_str(), "Nov.25.2026 09:20", FL_L_LIST);
+        EXPECT_EQ(fl.list[0].count, 0) << name;
     }
     file_find_tly((ROOT + "/a.SFH").c_str(), "", FL_R_LIST); // the store's side
     EXPECT_EQ(fl.list[1].count, 0);
@@ -237,8 +225,7 @@ TEST(ElementRow, OnlyWholeRowsAreTaken)
 {
     static const struct {
         const char* row;
-        int type;
-        int result;
+        int type, result;
     } cases[] = {
         {"root/a:1,0,0,0,2026-13-01 00:00,1,1", ELEMENT_TYPE_FILE, 0},
         {"root/1/2/3/4/a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, 0},

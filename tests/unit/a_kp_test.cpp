@@ -41,14 +41,12 @@ struct PathLists : TabPage {
         for (SDL_Surface* s : {G_PATH_none, G_PATH_mixed, G_PATH_xpt_hold, G_PATH_xpt_change,
                                G_PATH_hue_ccw, G_PATH_curve_off, G_PATH_curve_step,
                                G_PATH_curve_linear, G_PATH_curve_s, G_PATH_curve_spline})
-            if (Looks(s, x, Y(row) - 18))
+            if (s->pixels && Looks(s, x, Y(row) - 18)) // else it was never drawn
                 return s;
         return nullptr;
     }
     static bool Looks(const SDL_Surface* s, int x, int y)
     {
-        if (!s->pixels) // never drawn
-            return false;
         for (int dy = 0; dy < s->h; dy++)
             for (int dx = 0; dx < s->w; dx++) {
                 uint32_t pixel;
@@ -110,8 +108,7 @@ TEST_F(PathLists, APressOnACellOpensTheWindowWhoseAnswerGoesOut)
         {CURVE_X, 2, 340, 0, nullptr},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(Choose(c.x, Y(c.row), c.window_x, c.place),
-                  c.put ? std::vector<std::string>{c.put} : std::vector<std::string>{})
+        EXPECT_EQ(Choose(c.x, Y(c.row), c.window_x, c.place), c.put ? Strings{c.put} : Strings{})
             << c.x << " row " << c.row;
         EXPECT_EQ(GetWindow(), WINDOW_NONE);
     }
@@ -122,10 +119,8 @@ TEST_F(PathLists, APressOnACellOpensTheWindowWhoseAnswerGoesOut)
 
 TEST_F(PathLists, ACaptionOpensThePageOfItsRow)
 {
-    EXPECT_EQ(Asked(CAPTION_X, Y(0)), 0x61130000u);
-    EXPECT_EQ(Asked(CAPTION_X, Y(1)), 0x61130501u);
-    EXPECT_EQ(Asked(CAPTION_X, Y(2)), 0u);
-    EXPECT_EQ(Asked(CAPTION_X, Y(3)), 0u);
+    for (const auto& [row, asked] : {std::pair{0, 0x61130000u}, {1, 0x61130501u}, {2, 0u}, {3, 0u}})
+        EXPECT_EQ(Asked(CAPTION_X, Y(row)), asked) << row;
     Pass(0);
     EXPECT_EQ(PixelAt(106, Y(0)), 0x003241u); // felt,
     Pass(150);
@@ -135,10 +130,10 @@ TEST_F(PathLists, ACaptionOpensThePageOfItsRow)
 TEST_F(PathLists, TheListScrollsAndTheWheelIsItsArrow)
 {
     static KP_TBL many[KP_MAX + 2];
-    static std::vector<std::string> prefix(KP_MAX + 1);
-    for (int i = 0; i <= KP_MAX; i++) {
-        prefix[size_t(i)] = "Row" + std::to_string(i) + "@";
-        many[i] = {"Row", 1, 0, 0, 0, prefix[size_t(i)].c_str(), 0};
+    static Strings prefix(KP_MAX + 1);
+    for (size_t i = 0; i <= KP_MAX; i++) {
+        prefix[i] = "Row" + std::to_string(i) + "@";
+        many[i] = {"Row", 1, 0, 0, 0, prefix[i].c_str(), 0};
     }
     KP_Create(many, 0);
     SB_INFO bar;

@@ -2,6 +2,7 @@
 #include "loop.h"
 #include "tdl.h"
 #include "window.h"
+#include <array>
 #include <climits>
 
 // Rows of 22 pixels from y 100 on; the first row begins at 122. Five rows, the bar at x 202.
@@ -27,14 +28,6 @@ template <typename Change> static const LS_TBL* With(Change change)
     return rows;
 }
 
-static const LS_TBL* Split()
-{
-    return With([](LS_TBL& l) { l.split = 1; });
-}
-static const LS_TBL* Block()
-{
-    return With([](LS_TBL& l) { l.block = 1; });
-}
 constexpr int PLURAL_X = 190, BLOCK_X = 126, KEY_Y = 242; // the keys' top left
 
 struct Lists : ListPage {
@@ -65,8 +58,7 @@ struct Lists : ListPage {
 TEST_F(Lists, ATouchTellsTheCellAndTheList)
 {
     static const struct {
-        int x, y;
-        int top;
+        int x, y, top;
         std::vector<std::string> said;
     } cases[] = {
         {119, 143, 2, {"SEL 1 2 0", "AREA 1"}}, // cells end where the next begin
@@ -91,17 +83,13 @@ TEST_F(Lists, ATouchTellsTheCellAndTheList)
 
 TEST_F(Lists, ABouncingContactDoesNotTakeBackWhatItDid)
 {
-    static const struct {
-        uint32_t pause_ms;
-        const char* after;
-    } cases[] = {{0, "x.........."}, {150, "x.........."}, {151, "..........."}};
-    for (const auto& c : cases) {
+    for (const auto& [pause_ms, after] : {std::pair{0u, 'x'}, {150u, 'x'}, {151u, '.'}}) {
         Open(plain, 5);
         LS_SetMS(1, 1);
         TouchLine(0);
-        Clock_ms += c.pause_ms;
+        Clock_ms += pause_ms;
         Press(150, RowY(0));
-        EXPECT_EQ(Picture()[0], c.after[0]) << c.pause_ms;
+        EXPECT_EQ(Picture()[0], after) << pause_ms;
         Release();
     }
 }
@@ -150,13 +138,12 @@ TEST_F(Lists, ABlockStaysOneRun)
         const char* after;
     } cases[] = {
         {{3, 1, 2}, ".xx......."},    // row 1 began a new block
-        {{1, 2, 3, 2}, ".x........"}, // cut in two: the upper part
-                                      // stays
+        {{1, 2, 3, 2}, ".x........"}, // cut in two: the upper part stays
         {{1, 2, 3, 3}, ".xx......."},
         {{0, 1, 0}, ".x........"}, // at the first row
     };
     for (const auto& c : cases) {
-        Open(Block(), 5);
+        Open(With([](LS_TBL& l) { l.block = 1; }), 5);
         LS_SetMS(1, 1);
         for (int line : c.touches)
             TouchLine(line);
@@ -197,7 +184,7 @@ TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
 
 TEST_F(Lists, ASplitListSelectsCells)
 {
-    Open(Split(), 5);
+    Open(With([](LS_TBL& l) { l.split = 1; }), 5);
     TouchLine(1, 130);
     TouchLine(2, 180);
     EXPECT_EQ(LS_GetSplitSel(1), 2);
@@ -253,17 +240,12 @@ TEST_F(Lists, ArrowsMoveTheCurrentRowAndKeepItInside)
 
 TEST_F(Lists, TheWheelIsAPressOnAnArrow)
 {
-    static const struct {
-        int x, y, dir;
-        int taken, at_x, at_y;
-    } cases[] = {
-        {100, 100, 4, 1, 202, 100}, {199, 231, 5, 1, 202, 231}, {201, 150, 4, 0, 201, 150}};
-    for (const auto& c : cases) {
-        Open(plain, 20);
-        int x = c.x, y = c.y;
-        EXPECT_EQ(LS_ConvPosForWheel(&x, &y, c.dir), c.taken) << c.x << " " << c.y;
-        EXPECT_EQ(x, c.at_x);
-        EXPECT_EQ(y, c.at_y);
+    Open(plain, 20);
+    for (auto [x, y, dir, taken, at_x, at_y] : {std::array{100, 100, 4, 1, 202, 100},
+                                                {199, 231, 5, 1, 202, 231},
+                                                {201, 150, 4, 0, 201, 150}}) {
+        EXPECT_EQ(LS_ConvPosForWheel(&x, &y, dir), taken);
+        EXPECT_EQ(std::pair(x, y), std::pair(at_x, at_y));
     }
     Touch(202, 231);
     EXPECT_EQ(LS_GetNowLine(1), 1);
@@ -353,5 +335,3 @@ TEST_F(Lists, PageCodeMayDropTheListsInAnswer)
         EXPECT_EQ(LS_GetNData(1), -1);
     }
 }
-
-// --- Painting ---

@@ -1,10 +1,9 @@
 #include "a_nb_column.h"
-#include "global.h"
 #include "pane.h"
 #include "setup_index.h"
 #include <array>
 
-using Lines = std::vector<std::string>;
+using Lines = Strings;
 
 // Every kind of path; two layers.
 static const NB_TBL table[] = {
@@ -23,6 +22,7 @@ static const NB_TBL one[] = {
 };
 constexpr char CLIP[] = "M/E-1@Key1@Type@Chroma@Clip";
 constexpr char LEVEL[] = "M/E-1@Key1@Type@Level";
+static const std::string clip = CLIP;
 
 // --- Tables and layers ---
 
@@ -53,10 +53,10 @@ TEST_F(KnobColumn, ATableTakesTheKnobsAndTheNextOneGivesThemBackFirst)
 
 TEST_F(KnobColumn, ALockedSetupPageRefusesEveryWayToMoveAValue)
 {
-    const uint32_t before = GL_NowPage;
     GL_NowPage = 0x73170000;
     SetupIndex_Build();
-    SetupMenu[SetupIndex_Find(GL_NowPage)].lock = 1;
+    int& lock = SetupMenu[SetupIndex_Find(GL_NowPage)].lock;
+    lock = 1;
     for (const bool is_locked : {true, false}) {
         SetupLock.lock = is_locked;
         NB_Create(table, "Chroma");
@@ -81,9 +81,7 @@ TEST_F(KnobColumn, ALockedSetupPageRefusesEveryWayToMoveAValue)
         PressTitle();
     }
     (void)CloseWindow();
-    SetupLock.lock = 0;
-    SetupMenu[SetupIndex_Find(GL_NowPage)].lock = 0;
-    GL_NowPage = before;
+    lock = 0;
 }
 
 TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
@@ -96,14 +94,14 @@ TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
                             "assign Knob0#M/E-1@Key1@Type@Level",
                             "assign Knob1#M/E-1@Key1@Type@Time"));
     EXPECT_THAT(Told(), ElementsAre("layer 1"));
-    const Rect title = {706, 73, 799, 124};
-    Pass(149);
-    const auto pushed = PixelsIn(title);
-    Pass(0);
-    EXPECT_EQ(PixelsIn(title), pushed) << "for 150 ms";
+    const auto look = [](int ms) {
+        Pass(ms);
+        return PixelsIn({706, 73, 799, 124});
+    };
+    const auto pushed = look(149);
+    EXPECT_EQ(look(0), pushed) << "for 150 ms";
     Pass(1);
-    Pass(0);
-    EXPECT_NE(PixelsIn(title), pushed);
+    EXPECT_NE(look(0), pushed);
     PressTitle();
     EXPECT_EQ(NB_GetLayer(), 0);
     Open(one);
@@ -111,14 +109,23 @@ TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
     EXPECT_THAT(Told(), IsEmpty());
 }
 
-TEST_F(KnobColumn, RowsComeAndGoByThemselves)
+TEST_F(KnobColumn, RowsComeAndGoByThemselvesAndLeaveTheirSlotsEmpty)
 {
-    static const NB_TBL extra[] = {Box(2, "Extra", 0, 0, 0, "~2@Extra"), NB_END};
+    static const NB_TBL extra[] = {Box(2, "Extra", NB_2, 0, 1, "~2@Extra"), NB_END};
     static const NB_TBL twin[] = {Box(19, "Twin", 0, 0, 0, "~2@Extra"), NB_END};
+    const Rect slot = {706, 209, 799, 288};
     Open(one, "Gain");
+    Pass();
+    const auto empty = PixelsIn(slot);
     EXPECT_EQ(NB_AddTable(extra), 0);
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("add M/E-1@Key1@Extra", "assign Knob1#M/E-1@Key1@Extra"));
+    Pass();
+    EXPECT_NE(PixelsIn(slot), empty);
+    NB_DeleteTable(2);
+    Pass();
+    EXPECT_EQ(PixelsIn(slot), empty);
+    NB_AddTable(extra);
     NB_PushTable(twin);
     Forget();
     // The other box of the path still needs the subscription.
@@ -151,8 +158,7 @@ TEST_F(KnobColumn, AnotherCommandTakesTheKnobAlongAndForgetsTheValue)
 TEST_F(KnobColumn, APathDecidesWhatATallyDoes)
 {
     static const struct {
-        const char* path;
-        const char* value;
+        const char *path, *value;
         Lines heard;
     } cases[] = {
         {CLIP, "37.5", {}},
@@ -173,30 +179,26 @@ TEST_F(KnobColumn, APathDecidesWhatATallyDoes)
 
 TEST_F(KnobColumn, WhatWasToldOrTurnedIsAValueAndIsPainted)
 {
-    static const struct {
-        const char *path, *value;
-        int slot;
-    } cases[] = {{CLIP, "37.5", 1}, {CLIP, "38.5", 1}, {"Panel@Common@Knob1", "14", 2}};
-    Open(table);
-    Pass();
-    for (const auto& c : cases) {
-        const Rect slot = {706, Middle(c.slot) - 30, 799, Middle(c.slot) + 30};
-        const auto before = PixelsIn(slot);
-        Tally(c.path, c.value);
+    const auto look = [](int slot) {
         Pass();
-        EXPECT_NE(PixelsIn(slot), before) << c.path << " " << c.value;
-        NB_SetSelect(c.slot);
+        return PixelsIn({706, Middle(slot) - 30, 799, Middle(slot) + 30});
+    };
+    Open(table);
+    for (const auto& [path, value, slot] :
+         {std::tuple{CLIP, "37.5", 1}, {CLIP, "38.5", 1}, {"Panel@Common@Knob1", "14", 2}}) {
+        const auto before = look(slot);
+        Tally(path, value);
+        EXPECT_NE(look(slot), before) << path << " " << value;
+        NB_SetSelect(slot);
         EXPECT_EQ(NB_SendTrimValue(0), 0);
         NB_SetSelect(0);
     }
     for (void (*const change)() :
          {+[] { NB_AddMinMax(1, 0, 40); }, +[] { NB_SetSelect(1); }, +[] { NB_SetSelect(0); },
           +[] { NB_SetCaption(1, "Other"); }, +[] { NB_InvalidVar(1); }}) {
-        Pass();
-        const auto before = PixelsIn({706, Middle(1) - 30, 799, Middle(1) + 30});
+        const auto before = look(1);
         change();
-        Pass();
-        EXPECT_NE(PixelsIn({706, Middle(1) - 30, 799, Middle(1) + 30}), before);
+        EXPECT_NE(look(1), before);
     }
 }
 
@@ -260,11 +262,8 @@ TEST_F(KnobColumn, KnobsOfAnotherLayerAndUnderAPaneAreDead)
 // What the recorder of menu macros tells a turn by.
 TEST_F(KnobColumn, ATurnIsMarkedWhileThePageHearsOfIt)
 {
-    static int marked;
-    answer = [](int msg) {
-        if (msg == LMSG_KNOBVAR || msg == LMSG_KNOBFVAR)
-            marked += GL_MM_Knob_Protcol;
-    };
+    int marked = 0;
+    answer = [&](int) { marked += GL_MM_Knob_Protcol; };
     Open(table);
     marked = 0;
     Tally("Panel@Common@Knob1", "14");
@@ -290,21 +289,6 @@ TEST_F(KnobColumn, TheOldestLayerIsForgottenFirst)
     layer_of(REMEMBERED);
     EXPECT_EQ(layer_of(0), 0);
     EXPECT_EQ(layer_of(REMEMBERED), 0);
-}
-
-TEST_F(KnobColumn, ABoxThatGoesLeavesItsSlotEmpty)
-{
-    static const NB_TBL extra[] = {Box(2, "Extra", NB_2, 0, 1, "~2@Extra"), NB_END};
-    const Rect slot = {706, 209, 799, 288};
-    Open(one, "Gain");
-    Pass(10);
-    const auto empty = PixelsIn(slot);
-    NB_PushTable(extra);
-    Pass(10);
-    EXPECT_NE(PixelsIn(slot), empty);
-    NB_DeleteTable(2);
-    Pass(10);
-    EXPECT_EQ(PixelsIn(slot), empty);
 }
 
 TEST_F(KnobColumn, PageCodeMayChangeValueAndTableWhileItHearsOfATurn)
@@ -350,9 +334,8 @@ TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
         Pass(10);
     }
     EXPECT_THAT(PixelsIn({600, 73, 705, 545}), testing::Each(0x123456u));
-    EXPECT_EQ(NB_SetVar(1, NAN), -1);
-    EXPECT_EQ(NB_SetDispVar(1, INFINITY), -1);
-    EXPECT_EQ(NB_SendValue2(1, NAN), -1);
+    for (const int result : {NB_SetVar(1, NAN), NB_SetDispVar(1, INFINITY), NB_SendValue2(1, NAN)})
+        EXPECT_EQ(result, -1);
 }
 
 // --- The operator's changes ---
@@ -360,22 +343,22 @@ TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
 TEST_F(KnobColumn, ALateTallyDoesNotUpsetStepsThatAddUp)
 {
     Open(table);
+    const auto step = [](int ms) {
+        Clock_ms += uint32_t(ms);
+        Wheel(MSG_WHEELDOWN, 1);
+    };
     Wheel(MSG_WHEELUP, 1); // set the times of the last steps
-    Wheel(MSG_WHEELDOWN, 1);
+    step(0);
     Pass(500);
     Tally(CLIP, "50");
-    Clock_ms += 1000;
-    Wheel(MSG_WHEELDOWN, 1);
-    Clock_ms += 10;
-    Wheel(MSG_WHEELDOWN, 1);
+    step(1000);
+    step(10);
     Forget();
     EXPECT_EQ(Shown("Clip"), 50); // until the server says so
     Tally(CLIP, "50.01");
     EXPECT_EQ(Shown("Clip"), 50.01);
-    Clock_ms += 10;
-    Wheel(MSG_WHEELDOWN, 1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Chroma@Clip#52.01",
-                                                  "read M/E-1@Key1@Type@Chroma@Clip"));
+    step(10);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + clip + "#52.01", "read " + clip));
 }
 
 TEST_F(KnobColumn, TheWheelStepsByItsSpeedAndByOnesWhereOnesCount)
@@ -383,8 +366,7 @@ TEST_F(KnobColumn, TheWheelStepsByItsSpeedAndByOnesWhereOnesCount)
     static const struct {
         int type;
         double min, max;
-        int pause_ms;
-        int msg;
+        int pause_ms, msg;
         const char* sent;
     } cases[] = {
         {NB_2, 0, 200, 10, MSG_WHEELDOWN, "put V#52.00"},
@@ -428,8 +410,7 @@ TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
     Drag(734, true, false); // the mouse has followed
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     Drag(754, true, false);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Chroma@Clip#50.00",
-                                                  "read M/E-1@Key1@Type@Chroma@Clip"));
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + clip + "#50.00", "read " + clip));
     Drag(754, true, false);
     Drag(774, false, false);
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
@@ -498,27 +479,20 @@ TEST_F(KnobColumn, ABoxWithoutAValueSendsNoneMadeOfNothing)
 
 TEST_F(KnobColumn, SomePagesBendADraggedValue)
 {
-    static const struct {
-        uint32_t page;
-        const char* cmd;
-        int x;
-        const char* sent;
-    } cases[] = {
-        {0x41110000, "D@Border/Crop@Crop@H", 794, "0.00"},
-        {0x41110000, "D@Border/Crop@Crop@All", 714, "-10.00"},
-        {0x1A350002, "D@Border/Crop@Crop@V", 714, "0.00"},
-        {0x1A350003, "D@Border/Crop@Crop@V", 714, "-10.00"},
-    };
+    const std::string crop = "D@Border/Crop@Crop@";
     GL_MouseSliderControl = 1;
-    for (const auto& c : cases) {
-        const NB_TBL rows[] = {Box(1, "", NB_2, -10, 10, c.cmd), NB_END};
-        GL_NowPage = c.page;
+    for (const auto& [id, box, x, sent] : {std::tuple{0x41110000u, "H", 794, "#0.00"},
+                                           {0x41110000u, "All", 714, "#-10.00"},
+                                           {0x1A350002u, "V", 714, "#0.00"},
+                                           {0x1A350003u, "V", 714, "#-10.00"}}) {
+        const std::string cmd = crop + box;
+        const NB_TBL rows[] = {Box(1, "", NB_2, -10, 10, cmd.c_str()), NB_END};
+        GL_NowPage = id;
         Open(rows);
         NB_SetVar(1, 5);
         PressSlot(1, 3);
-        Drag(c.x, false, true);
-        EXPECT_THAT(TakeQueuedCommands(),
-                    Contains("put " + std::string(c.cmd) + "#" + std::string(c.sent)));
+        Drag(x, false, true);
+        EXPECT_THAT(TakeQueuedCommands(), Contains("put " + cmd + sent));
     }
 }
 
@@ -557,8 +531,7 @@ TEST_F(KnobColumn, TheMiddleButtonAndTheArmedKeyRecallADefault)
             PressSlot(slot, armed ? 1 : 2);
             EXPECT_EQ(BA_IsDefaultButton(), 0) << slot;
         }
-        EXPECT_THAT(TakeQueuedCommands(), ElementsAre("default M/E-1@Key1@Type@Chroma@Clip",
-                                                      "read M/E-1@Key1@Type@Chroma@Clip"));
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre("default " + clip, "read " + clip));
         EXPECT_THAT(Told(), ElementsAre("default 2", "default 3", "default 4"));
     }
 }

@@ -8,11 +8,14 @@ namespace
 constexpr const char* PATH = "M/E-1@Key1@Main Mask@Ptn Select@Pattern";
 const PS_TBL& table = ps_me_key_mainmask_maskptnsel;
 
-Rect Cell(int i)
+// The upper left corner of a cell.
+constexpr int X(int cell)
 {
-    const int x = 120 + i % 6 * 95;
-    const int y = 80 + i / 6 * 55;
-    return {x, y, x + 94, y + 54};
+    return 120 + cell % 6 * 95;
+}
+constexpr int Y(int cell)
+{
+    return 80 + cell / 6 * 55;
 }
 } // namespace
 
@@ -46,7 +49,7 @@ struct PatternSelect : TabPage {
     static bool IsChosen(int i)
     {
         Pass();
-        return PixelAt(Cell(i).x1, Cell(i).y1) == 0x00DDD4;
+        return PixelAt(X(i), Y(i)) == 0x00DDD4;
     }
 };
 
@@ -94,7 +97,7 @@ TEST_F(PatternSelect, TheChosenCellFollowsItsTallyIntoItsLayer)
         {"9999", -1, "33"},
         {"304", 31, "273"},
         {"x", -1, "273"},
-        {"-99999999999", -1, "273"},
+        {"-9999999999", -1, "273"},
     };
     for (const auto& c : cases) {
         Tally(PATH, c.value);
@@ -104,10 +107,7 @@ TEST_F(PatternSelect, TheChosenCellFollowsItsTallyIntoItsLayer)
     }
     Tally("M/E-1@Key2@Main Mask@Ptn Select@Pattern", "7");
     EXPECT_EQ(FirstNumber(), "273");
-}
-
-TEST_F(PatternSelect, ALayerKeyShowsItsLayerUntilAnotherPatternIsChosen)
-{
+    // A layer key shows its layer until another pattern is chosen.
     Tally(PATH, "5");
     TouchLayer(9);
     EXPECT_EQ(FirstNumber(), "273");
@@ -124,8 +124,7 @@ TEST_F(PatternSelect, PageAndBankDecideWhichLayersThereAre)
 {
     static const struct {
         std::initializer_list<const char*> tree;
-        int split;
-        int last; // the last layer key that works
+        int split, last; // the last layer key that works
     } cases[] = {
         {{"M/E-1", "Key1", "Main Mask", "Ptn Select"}, 4, 9},
         {{"M/E-1", "Wipe", "Sub Pattern"}, 0, 7},
@@ -134,10 +133,10 @@ TEST_F(PatternSelect, PageAndBankDecideWhichLayersThereAre)
     for (const auto& c : cases) {
         GL_BoardMESplit[4] = c.split;
         Open(c.tree);
-        TouchLayer(c.last);
-        EXPECT_EQ(FirstNumber(), std::to_string(LayerName[c.last].first)) << *c.tree.begin();
-        TouchLayer(c.last + 1);
-        EXPECT_EQ(FirstNumber(), std::to_string(LayerName[c.last].first)) << *c.tree.begin();
+        for (int key : {c.last, c.last + 1}) {
+            TouchLayer(key);
+            EXPECT_EQ(FirstNumber(), std::to_string(LayerName[c.last].first)) << c.last << key;
+        }
     }
 }
 
@@ -146,7 +145,7 @@ TEST_F(PatternSelect, APictureIsTheOneThatIsLoadedNow)
 {
     const auto ground = [](uint32_t colour) {
         Pass();
-        return PixelAt(Cell(6).x1 + 6, Cell(6).y1 + 6) == colour;
+        return PixelAt(X(6) + 6, Y(6) + 6) == colour;
     };
     for (const uint32_t colour : {0xAA0000u, 0x00AA00u}) {
         SDL_FreeSurface(G_WipePtn[7]);

@@ -81,20 +81,16 @@ TEST_F(LeftTabs, ABoxThatGoesLeavesTheTabsTheirPaths)
 
 TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
 {
-    static const struct {
-        int slot;
-        std::vector<std::string> sent;
-    } cases[] = {
-        {2, {"default M/E-1@Key2"}}, {7, {"default M/E-1"}}, {4, {}}, {5, {}}, {6, {}},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [slot, sent] : {std::pair<int, Strings>{2, {"default M/E-1@Key2"}},
+                                     {7, {"default M/E-1"}},
+                                     {4, {}},
+                                     {5, {}},
+                                     {6, {}}}) {
         BA_SetDefaultButton(1);
-        EXPECT_EQ(Sent(X, Slot(c.slot)), c.sent) << c.slot;
+        EXPECT_EQ(Sent(X, Slot(slot)), sent) << slot;
         EXPECT_EQ(GL_CreatePage, 0u);
-        EXPECT_EQ(BA_IsDefaultButton(), c.sent.empty()) << c.slot;
-        BA_SetDefaultButton(0);
+        EXPECT_EQ(BA_IsDefaultButton(), sent.empty()) << slot;
     }
-    BA_SetDefaultButton(1);
     VF_SetDisplay(2, 0);
     EXPECT_THAT(Sent(X, Slot(2)), IsEmpty());
 }
