@@ -50,9 +50,7 @@ TEST(Command, ValuesAreCutAtTheirSeparator)
 TEST(Command, TheValueBeginsBehindTheFirstMark)
 {
     static const struct {
-        const char* text;
-        const char* var;
-        const char* row;
+        const char *text, *var, *row;
     } cases[] = {
         {"A@B#c#d", "c#d", ""},           {"A@B#", "", ""}, {"A@B", "", ""}, {"", "", ""},
         {"CS1.File:a:b#c", "c", "a:b#c"},
@@ -64,12 +62,6 @@ TEST(Command, TheValueBeginsBehindTheFirstMark)
     }
 }
 
-static void ShowPage(uint32_t id, const char* const* tree)
-{
-    GL_NowPage = id;
-    GL_NowTree = tree;
-}
-
 TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
 {
     static const char* const key[PAGE_DEPTH] = {"M/E-1", "Key1", "Type"};
@@ -79,9 +71,7 @@ TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
     static const struct {
         uint32_t page;
         const char* const* tree;
-        const char* text;
-        const char* var;
-        const char* path;
+        const char *text, *var, *path;
     } cases[] = {
         {main_key, key, "~@Key Type#Luminance", "", "M/E-1@Key1@Type@Key Type#Luminance"},
         {main_key, key, "A~@B", "", "A~@B"}, // only at the start
@@ -97,7 +87,8 @@ TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
         {main_key, key, "A#$$B", nullptr, "A#B"},
     };
     for (const auto& c : cases) {
-        ShowPage(c.page, c.tree);
+        GL_NowPage = c.page;
+        GL_NowTree = c.tree;
         char path[CMD_SIZE];
         DecodeCommandWithVar(path, c.text, c.var, sizeof path);
         EXPECT_STREQ(path, c.path) << c.text;
@@ -111,38 +102,36 @@ TEST(Command, TemplatesBecomePathsOfTheCurrentPage)
 TEST(Command, ABufferThatIsShortGetsTheBeginning)
 {
     static const char* const key[PAGE_DEPTH] = {"M/E-1", "Key1"};
-    ShowPage(0x11110000, key);
+    GL_NowPage = 0x11110000;
+    GL_NowTree = key;
     static const struct {
-        const char *text, *var;
+        const char *text, *var; // null: without one
         std::string path;
-    } cases[] = {
-        {"~@Type", "", "M/E-1@Key1@Type"},
-        {"~1@$@X", "55", "M/E-1@55@X"},
-        {"A@B#c", "", "A@B#c"},
-        {nullptr, "", ""},
-    };
+    } cases[] = {{"~@Type", "", "M/E-1@Key1@Type"},
+                 {"~@Type", nullptr, "M/E-1@Key1@Type"},
+                 {"~1@$@X", "55", "M/E-1@55@X"},
+                 {"A@B#c", "", "A@B#c"},
+                 {"A@B#c", nullptr, "A@B#c"},
+                 {nullptr, "", ""},
+                 {nullptr, nullptr, ""}};
     for (const auto& c : cases)
-        for (size_t size = 0; size <= c.path.size() + 2; size++)
-            for (const bool has_var : {true, false}) {
-                if (!has_var && c.text && strchr(c.text, '$'))
-                    continue;
-                std::string buffer(32, '*');
-                if (has_var)
-                    DecodeCommandWithVar(buffer.data(), c.text, c.var, int(size));
-                else
-                    DecodeCommand(buffer.data(), c.text, int(size));
-                EXPECT_EQ(buffer.substr(size), std::string(32 - size, '*')) << size;
-                if (size > 0) {
-                    EXPECT_EQ(buffer.c_str(), c.path.substr(0, size - 1)) << size;
-                }
+        for (size_t size = 0; size <= c.path.size() + 2; size++) {
+            std::string buffer(32, '*');
+            if (c.var)
+                DecodeCommandWithVar(buffer.data(), c.text, c.var, int(size));
+            else
+                DecodeCommand(buffer.data(), c.text, int(size));
+            EXPECT_EQ(buffer.substr(size), std::string(32 - size, '*')) << size;
+            if (size > 0) {
+                EXPECT_EQ(buffer.c_str(), c.path.substr(0, size - 1)) << size;
             }
+        }
 }
 
 TEST(Command, AConditionDisablesAtItsValues)
 {
     static const struct {
-        const char* cond;
-        const char* var;
+        const char *cond, *var;
         int disabled;
     } cases[] = {
         {"Off, Auto", "Auto", 1},
@@ -169,6 +158,5 @@ TEST(Command, SumsSwitchesAndOwnPaths)
     EXPECT_STREQ(Bool(7), "true");
     EXPECT_STREQ(ToggleBool(7), "false");
     EXPECT_TRUE(IsLocal("LOCAL@A"));
-    EXPECT_FALSE(IsLocal("M/E-1@LOCAL"));
-    EXPECT_FALSE(IsLocal(nullptr));
+    EXPECT_FALSE(IsLocal("M/E-1@LOCAL") || IsLocal(nullptr));
 }

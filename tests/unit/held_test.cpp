@@ -9,17 +9,9 @@
 
 namespace
 {
-const LS_TBL list[] = {
-    {.id = 1,
-     .hn = 1,
-     .vn = 5,
-     .x = 100,
-     .y = 100,
-     .width = {100},
-     .sb_top = 100,
-     .sb_bottom = 232},
-    LS_END,
-};
+constexpr LS_TBL rows = {
+    .id = 1, .hn = 1, .vn = 5, .x = 100, .y = 100, .width = {100}, .sb_top = 100, .sb_bottom = 232};
+const LS_TBL list[] = {rows, LS_END};
 const NB_TBL boxes[] = {
     {.id = 1, .caption = "Gain", .type = NB_2, .min = -100, .max = 100, .cmd = "Gain"}, NB_END};
 
@@ -66,14 +58,9 @@ struct Held : ListPage {
         Open(list, 100);
         LS_SetMS(1, 1);
         Pass();
-        Rest();
+        (void)Effects();
     }
-    // All that a touch can bring about.
-    static void Rest()
-    {
-        (void)TakeQueuedCommands();
-        Told();
-    }
+    // All that a touch has brought about.
     static size_t Effects() { return TakeQueuedCommands().size() + Told().size(); }
 };
 
@@ -82,7 +69,7 @@ TEST_F(Held, WhatIsHeldFollowsTheFinger)
     for (const Hold& h : holds) {
         Clock_ms += 1000;
         Press(h.x, h.y);
-        Rest();
+        (void)Effects();
         Pass(300);
         Drag(h.to_x, h.to_y);
         EXPECT_GT(Effects(), 0u) << h.name;
@@ -99,7 +86,7 @@ TEST_F(Held, WhateverTakesTheReleaseEndsTheHold)
         for (const Hold& h : holds) {
             SetUp();
             Press(h.x, h.y);
-            Rest();
+            (void)Effects();
             t.comes();
             Pass();
             Release(); // goes to what has come, if anything
@@ -107,7 +94,7 @@ TEST_F(Held, WhateverTakesTheReleaseEndsTheHold)
                 Press(h.x, h.y); // and once more, with nothing between
             t.goes();
             Pass(1000);
-            Rest();
+            (void)Effects();
             Pass(1000);
             Drag(h.to_x, h.to_y);
             EXPECT_EQ(Effects(), 0u) << h.name << " goes on behind a " << t.name;
@@ -122,8 +109,7 @@ TEST_F(Held, ALossIsToldOnceAndToNobodyWhoHoldsNothing)
     static const std::map<char, int> messages = {
         {'p', MSG_PRESS}, {'r', MSG_RELEASE}, {'d', MSG_DRAG}, {'w', MSG_REDRAW}, {'k', MSG_KEY}};
     static const struct {
-        const char* sequence;
-        const char* lost;
+        const char *sequence, *lost;
     } cases[] = {
         {"p", ""},     {"xdwr", ""},  {"pdwr", ""},  {"prxd", ""}, {"pxwd", "w"},
         {"pxdd", "d"}, {"pxrd", "r"}, {"pxkd", "d"}, {"ppd", "p"}, {"pprpd", "p"},

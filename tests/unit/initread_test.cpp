@@ -38,23 +38,16 @@ TEST_F(InitialReadTest, OnlyTheServersOwnEndStartsOurs)
 // By the first lines of their logs; each once, in their order, and again after a restart.
 TEST_F(InitialReadTest, TheStagesRunWhenTheirPassesHaveGoneBy)
 {
-    static const struct {
-        uint32_t pass;
-        const char* line; // that only this stage sends
-    } stages[] = {
-        {101, "put Info@Status Report#true"},
-        {301, "put Info@Menu Macro@Report#true"},
-        {2001, "add Info@Operation Setup Data@Auto Load"},
-    };
     for (int restart = 0; restart < 2; restart++) {
         InitialRead();
         (void)TakeQueuedCommands();
-        for (uint32_t pass = 1; pass <= 2100; pass++) {
+        for (int pass = 1; pass <= 2100; pass++) {
             MainPass();
             const Strings sent = TakeQueuedCommands();
-            for (const auto& s : stages)
-                EXPECT_EQ(std::count(sent.begin(), sent.end(), s.line), s.pass == pass)
-                    << "pass " << pass << ": " << s.line;
+            for (const auto& [line, its_pass] : {std::pair{"put Info@Status Report#true", 101},
+                                                 {"put Info@Menu Macro@Report#true", 301},
+                                                 {"add Info@Operation Setup Data@Auto Load", 2001}})
+                EXPECT_EQ(std::ranges::count(sent, line), pass == its_pass) << pass << ": " << line;
         }
     }
 }
@@ -70,20 +63,16 @@ TEST_F(InitialReadTest, ASecondTimedProgressTakesThePlaceOfTheFirst)
 
 TEST_F(InitialReadTest, APaneStandsWhileSomeUnitReads)
 {
-    static const struct {
-        uint32_t page;
-        int disabled;
-        bool opens;
-    } cases[] = {{0x11110000, 0, true}, {0x11110000, 1, false}, {0x99990000, 0, false}};
     constexpr char status[] = "Info@Initial Read Status";
-    for (const auto& c : cases) {
-        GL_NowPage = c.page;
-        GL_InitialReadPopupDisable = c.disabled;
+    for (const auto& [page, disabled, opens] :
+         {std::tuple{0x11110000u, 0, true}, {0x11110000u, 1, false}, {0x99990000u, 0, false}}) {
+        GL_NowPage = page;
+        GL_InitialReadPopupDisable = disabled;
         Deliver(status, "3,start");
-        EXPECT_EQ(Pane_GetActiveID() != 0, c.opens) << std::hex << c.page;
+        EXPECT_EQ(Pane_GetActiveID() != 0, opens) << std::hex << page;
         Deliver(status, "4,progress");
         Deliver(status, "3,end");
-        EXPECT_EQ(Pane_GetActiveID() != 0, c.opens) << "one unit still reads";
+        EXPECT_EQ(Pane_GetActiveID() != 0, opens) << "one unit still reads";
         Deliver(status, "4,end");
         EXPECT_EQ(Pane_GetActiveID(), 0);
     }
@@ -109,8 +98,7 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
         EXPECT_THAT(sent, Contains(line));
     EXPECT_THAT(sent, Not(Contains("add 16@Frame Mem@Status@Register Status@45")));
     // A shortcut stands right behind its group.
-    const auto group =
-        std::find(sent.begin(), sent.end(), "add Info@Operation Setup Data@Group Name@10");
+    const auto group = std::ranges::find(sent, "add Info@Operation Setup Data@Group Name@10");
     ASSERT_NE(group, sent.end());
     EXPECT_EQ(*(group + 1), "add Info@Operation Setup Data@Shortcut Name@10");
     EXPECT_EQ(std::set<std::string>(sent.begin(), sent.end()).size(), sent.size()) << "sent twice";
@@ -122,28 +110,23 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
 // The server has forgotten what the page follows.
 TEST_F(InitialReadTest, ThePageThatIsUpIsOpenedAnewAfterTheSecondStage)
 {
-    static const struct {
-        uint32_t page, asked, then;
-    } cases[] = {
-        {0x11110000, 0, 0x11110000},
-        {0x11110000, 0x31110000, 0x31110000}, // another request stands
-        {0x71420003, 0, 0},                   // the macro editor is in the middle of something
-    };
-    for (const auto& c : cases) {
-        GL_NowPage = c.page;
-        GL_CreatePage = c.asked;
+    for (const auto& [page, asked, then] :
+         {std::tuple{0x11110000u, 0u, 0x11110000u},
+          {0x11110000u, 0x31110000u, 0x31110000u}, // another request stands
+          {0x71420003u, 0u, 0u}}) {                // the macro editor is in the middle of something
+        GL_NowPage = page;
+        GL_CreatePage = asked;
         InitialCommand1();
-        EXPECT_EQ(GL_CreatePage, c.then) << std::hex << c.page;
+        EXPECT_EQ(GL_CreatePage, then) << std::hex << page;
     }
-    GL_CreatePage = 0;
 }
 
 // A sub side's streams mean nothing to a server that has not been asked for the streams themselves.
 TEST_F(InitialReadTest, SubSidesAreSubscribedOnceAndAgainBehindTheSecondStage)
 {
     const auto subs = [] {
-        const Strings sent = TakeQueuedCommands();
-        return std::count(sent.begin(), sent.end(), "add Effect@Effect@Attribute@List@M/E-1 Sub");
+        return std::ranges::count(TakeQueuedCommands(),
+                                  "add Effect@Effect@Attribute@List@M/E-1 Sub");
     };
     DeviceStructure(); // no bank has a sub side
     (void)TakeQueuedCommands();
@@ -173,18 +156,16 @@ TEST_F(InitialReadTest, TheHubIsAskedForTheTablesOfTheOwnUnits)
     DEV_MySwr[0] = &switcher;
     DEV_MyPnl[0] = &panel;
     SYS_MySwrMax = SYS_MyPnlMax = 1;
-    Strings tables = {"CS2.ClipStoreInfo", "CS2.ClipStoreFolder", "CS2.ClipStoreFile", "PNL3.File",
-                      "CS1.File",          "SWR1.File",           "CS2.File",          "SWR2.File"};
     (void)TakeQueuedHubLines();
-    InitialCommandSHP();
-    const Strings asked = TakeQueuedHubLines();
-    DeathCommandSHP();
-    const Strings ended = TakeQueuedHubLines();
-    for (const auto& [verb, lines] : {std::pair{"Listen#", asked}, {"Unlisten#", ended}}) {
-        Strings expected = tables;
+    for (const auto& [verb, command] :
+         {std::pair{"Listen#", &InitialCommandSHP}, {"Unlisten#", &DeathCommandSHP}}) {
+        Strings expected = {
+            "CS2.ClipStoreInfo", "CS2.ClipStoreFolder", "CS2.ClipStoreFile", "PNL3.File",
+            "CS1.File",          "SWR1.File",           "CS2.File",          "SWR2.File"};
         for (std::string& line : expected)
             line.insert(0, verb);
-        EXPECT_THAT(lines, testing::UnorderedElementsAreArray(expected));
+        command();
+        EXPECT_THAT(TakeQueuedHubLines(), testing::UnorderedElementsAreArray(expected));
     }
     DeviceStructure();
 }
@@ -192,25 +173,19 @@ TEST_F(InitialReadTest, TheHubIsAskedForTheTablesOfTheOwnUnits)
 // What a stage adds, its opposite removes; what it only asked once or set leaves nothing behind.
 TEST_F(InitialReadTest, AStageAndItsOppositeCancel)
 {
-    static const struct {
-        void (*initial)();
-        void (*death)();
-    } stages[] = {
-        {InitialCommand0, DeathCommand0},
-        {[] { // the lists of the sub sides come later, but end here
-             InitialCommand1();
-             InitialCommand_MP2();
-         },
-         DeathCommand1},
-        {InitialCommand2, DeathCommand2},
-    };
-    for (const auto& stage : stages) {
+    using Stage = std::pair<void (*)(), void (*)()>;
+    const auto second = [] {
+        InitialCommand1(), InitialCommand_MP2();
+    }; // the lists of the sub sides come later, but end here
+    for (const auto& [initial, death] : {Stage{InitialCommand0, DeathCommand0},
+                                         {second, DeathCommand1},
+                                         {InitialCommand2, DeathCommand2}}) {
         std::set<std::string> added, removed;
-        stage.initial();
+        initial();
         for (const auto& line : TakeQueuedCommands())
             if (line.starts_with("add "))
                 added.insert(line.substr(4));
-        stage.death();
+        death();
         for (const auto& line : TakeQueuedCommands()) {
             if (line.starts_with("remove "))
                 removed.insert(line.substr(7));

@@ -32,8 +32,7 @@ static Strings Feed(const std::string& bytes)
 TEST_F(Netio, ALineComesWhenItsEndHasCome)
 {
     static const struct {
-        Strings pieces;
-        Strings lines;
+        Strings pieces, lines;
     } cases[] = {
         {{"A#1\rB#2\r\nC#3\n\nD#4\n"}, {"A#1", "B#2", "C#3", "D#4"}},
         {{"A#", "1", "\n"}, {"A#1"}},

@@ -68,8 +68,7 @@ TEST_F(Regions, EveryGroupIsSound)
         for (int i = 0; i < g.cells; i++) {
             if (g.btnsel[i].id <= 0)
                 continue;
-            EXPECT_TRUE(cells.insert(g.btnsel[i].id).second)
-                << grp << ": id " << g.btnsel[i].id << " twice";
+            EXPECT_TRUE(cells.insert(g.btnsel[i].id).second) << grp << ": " << g.btnsel[i].id;
             EXPECT_STRNE(g.btnsel[i].caption, "") << grp;
             references += g.btnsel[i].select == 2;
         }
@@ -86,10 +85,8 @@ TEST_F(Regions, EveryGroupIsSound)
                 EXPECT_EQ(found_main, main);
                 EXPECT_EQ(found_sub, sub);
                 const bool has_files = grp != 24 && grp != 25 && grp != 46;
-                EXPECT_EQ(*PaneRegion_GetGrpFIRegion(grp, main, sub) != 0, has_files)
-                    << grp << " " << id;
-                EXPECT_EQ(strlen(PaneRegion_GetGrpFIExt(grp, main, sub)), has_files ? 3U : 0U)
-                    << grp << " " << id;
+                EXPECT_EQ(*PaneRegion_GetGrpFIRegion(grp, main, sub) != 0, has_files) << grp << id;
+                EXPECT_EQ(strlen(PaneRegion_GetGrpFIExt(grp, main, sub)), has_files ? 3U : 0U);
             }
         }
         EXPECT_EQ(named, cells) << "group " << grp << ": the area names what the selector offers";
@@ -103,30 +100,24 @@ TEST_F(Regions, EveryGroupIsSound)
 
 TEST_F(Regions, CellsOfUnitsAreNamedAfterThem)
 {
-    static const struct {
-        int grp;
-        std::vector<std::string> cells; // "id caption ext", from the first
-    } cases[] = {
-        {0,
-         {"896 SWR1 SST", "897 SWR1\n   FC SFS", "898 SWR1\n CCR SCC", "899 SWR2 SST",
-          "900 SWR2\n   FC SFS", "901 SWR2\n CCR SCC"}},
-        {41,
-         {"896 SWR1 SUS", "897 SWR1\nUsrSrc SUN", "898 SWR1\nPatch SUP", "899 SWR2 SUS",
-          "900 SWR2\nUsrSrc SUN", "901 SWR2\nPatch SUP"}},
+    const auto cells = [](int grp) { // "id caption ext" of the first six
+        PaneRegion_InitID(grp);
+        Strings cells_of_grp;
+        for (int i = 0; i < 6; i++) {
+            const BTNSEL& b = RegionBtn[grp].btnsel[i];
+            int main = 0, sub = 0;
+            EXPECT_EQ(PaneRegion_GetGrpMainSub(grp, b.id, &main, &sub), 0);
+            cells_of_grp.push_back(std::to_string(b.id) + " " + b.caption + " " +
+                                   PaneRegion_GetGrpFIExt(grp, main, sub));
+        }
+        return cells_of_grp;
     };
     Units(2, 1);
-    for (const auto& c : cases) {
-        PaneRegion_InitID(c.grp);
-        std::vector<std::string> cells;
-        for (size_t i = 0; i < c.cells.size(); i++) {
-            const BTNSEL& b = RegionBtn[c.grp].btnsel[i];
-            int main = 0, sub = 0;
-            EXPECT_EQ(PaneRegion_GetGrpMainSub(c.grp, b.id, &main, &sub), 0);
-            cells.push_back(std::to_string(b.id) + " " + b.caption + " " +
-                            PaneRegion_GetGrpFIExt(c.grp, main, sub));
-        }
-        EXPECT_EQ(cells, c.cells) << c.grp;
-    }
+    EXPECT_THAT(cells(0), ElementsAre("896 SWR1 SST", "897 SWR1\n   FC SFS", "898 SWR1\n CCR SCC",
+                                      "899 SWR2 SST", "900 SWR2\n   FC SFS", "901 SWR2\n CCR SCC"));
+    EXPECT_THAT(cells(41),
+                ElementsAre("896 SWR1 SUS", "897 SWR1\nUsrSrc SUN", "898 SWR1\nPatch SUP",
+                            "899 SWR2 SUS", "900 SWR2\nUsrSrc SUN", "901 SWR2\nPatch SUP"));
     PaneRegion_InitID(1);
     EXPECT_EQ(RegionBtn[1].btnsel[0].id, 896);
     EXPECT_EQ(RegionBtn[1].btnsel[4].id, 1152);
@@ -152,11 +143,8 @@ TEST_F(Regions, WithoutASwitcherTheFirstChannelLeads)
 TEST_F(Regions, FilesOfARegionHaveItsWord)
 {
     static const struct {
-        int grp;
-        int id;
-        const char* word;
-        const char* dual; // where two processors share the effects units
-        const char* ext;
+        int grp, id;
+        const char *word, *dual, *ext; // dual: where two processors share the effects units
     } cases[] = {
         {8, 292, "CHF", "CHF", "DKF"},
         {13, 295, "CH4", "CH2", "DSS"},
@@ -169,8 +157,7 @@ TEST_F(Regions, FilesOfARegionHaveItsWord)
         int main = -1, sub = -1;
         ASSERT_EQ(PaneRegion_GetGrpMainSub(c.grp, c.id, &main, &sub), 0) << c.grp << " " << c.id;
         EXPECT_STREQ(PaneRegion_GetGrpFIRegion(c.grp, main, sub), c.word) << c.grp << " " << c.id;
-        EXPECT_STREQ(PaneRegion_GetGrpFIRegion_DualProc(c.grp, main, sub), c.dual)
-            << c.grp << " " << c.id;
+        EXPECT_STREQ(PaneRegion_GetGrpFIRegion_DualProc(c.grp, main, sub), c.dual);
         EXPECT_STREQ(PaneRegion_GetGrpFIExt(c.grp, main, sub), c.ext) << c.grp << " " << c.id;
     }
 }
@@ -229,16 +216,12 @@ TEST_F(Regions, TheLastOneTouchedIsTheReference)
     Units(2, 2);
     for (const auto& c : cases) {
         PaneRegion_InitID(c.grp);
-        if (c.grp == 24)
-            Select(c.grp, {});
-        else
-            Select(c.grp, {{0, 2}});
+        Select(c.grp, {{0, c.grp == 24 ? 0 : 2}});
         (void)PaneRegion_Create(c.grp, 0);
         for (const int cell : c.touches)
             TouchCell(c.grp, cell);
         Enter(c.grp);
-        EXPECT_EQ(Selected(c.grp), c.selected)
-            << c.grp << ": " << testing::PrintToString(c.touches);
+        EXPECT_EQ(Selected(c.grp), c.selected) << c.grp << testing::PrintToString(c.touches);
     }
     Select(4, {});
     EXPECT_EQ(PaneRegion_GetRef(4), 0);
@@ -273,21 +256,22 @@ TEST_F(Regions, ASingleSelectorAnswersWithTheRegion)
 {
     Units(2, 2);
     Select(4, {{0, 2}});
-    int id = PaneRegion_Create(4, 1);
-    TouchCell(4, 10, 1);
-    EXPECT_EQ(Last(), Quit(id, 274));
-    id = PaneRegion_Create(4, 1);
-    TouchCell(4, 6, 1); // a hole between the cells
-    EXPECT_EQ(Last(), Quit(id, 0));
-    id = PaneRegion_Create(4, 1);
+    const auto answer = [](int grp, int cell) {
+        const int id = PaneRegion_Create(grp, 1);
+        TouchCell(grp, cell, 1);
+        const std::string last = Last();
+        EXPECT_EQ(last.substr(0, last.rfind(' ')), "quit " + std::to_string(id));
+        return last.substr(last.rfind(' ') + 1);
+    };
+    EXPECT_EQ(answer(4, 10), "274");
+    EXPECT_EQ(answer(4, 6), "0") << "a hole between the cells";
+    const int id = PaneRegion_Create(4, 1);
     Touch(5, 5);
     EXPECT_EQ(Last(), Quit(id, 0));
     Units(1, 0);
     PaneRegion_InitID(23);
     Units(2, 0); // the second one has come meanwhile
-    id = PaneRegion_Create(23, 1);
-    TouchCell(23, 1, 1);
-    EXPECT_EQ(Last(), Quit(id, 897));
+    EXPECT_EQ(answer(23, 1), "897");
     EXPECT_EQ(Selected(4), "0*");
 }
 
@@ -295,8 +279,7 @@ TEST_F(Regions, AllKeysSelectAndClear)
 {
     static const struct {
         const char* name;
-        int grp;
-        int switchers;
+        int grp, switchers;
         std::vector<std::pair<int, int>> before;
         int key;
         const char* selected;
@@ -304,12 +287,7 @@ TEST_F(Regions, AllKeysSelectAndClear)
         {"all", 17, 1, {}, ALL, "0* 1 2 3 4 5"},
         {"any off", 17, 1, {{3, 1}}, ALL, ""},
         {"the third cell", 34, 1, {}, ALL, "0 1 2* 3 4 5 8 10 11 12 13 18 19 20 21"},
-        {"banks on, one reference",
-         13,
-         1,
-         {{16, 2}},
-         SWR_ALL,
-         "0* 1 2 3 4 5 8 9 10 11 12 13 14 15 16"},
+        {"one reference", 13, 1, {{16, 2}}, SWR_ALL, "0* 1 2 3 4 5 8 9 10 11 12 13 14 15 16"},
         {"banks off", 13, 1, {{2, 2}, {17, 1}, {18, 1}}, SWR_ALL, "17* 18"},
         {"switchers among units", 24, 1, {{0, 0}}, SWR_UNITS, "0 1 2 3 4 5 6 7"},
         {"effects units, the others stay", 25, 1, {{1, 1}}, DME_UNITS, "1 10 11 12 13 14 15 16 17"},

@@ -13,10 +13,15 @@ constexpr int ARROW_X = 200 + 340, DOWN_Y = 140 + 205, PROGRESS_UP_Y = 140 + 125
 
 std::string Lines(int n)
 {
-    std::string text;
-    for (int i = 1; i <= n; i++)
-        text += (i > 1 ? "\n" : "") + std::to_string(i);
-    return text;
+    return n > 1 ? Lines(n - 1) + "\n" + std::to_string(n) : "1";
+}
+
+std::vector<BTNSEL> Choices(int n) // with ids from 1
+{
+    std::vector<BTNSEL> items;
+    while (int(items.size()) < n)
+        items.push_back({int(items.size()) + 1, "Item", 0});
+    return items;
 }
 
 std::vector<uint32_t> Well()
@@ -32,9 +37,7 @@ TEST_F(Panes, AnswersAreTheResult)
     static const struct {
         const char* name;
         int (*open)();
-        int x;
-        int y;
-        int result;
+        int x, y, result;
     } cases[] = {
         {"OK", [] { return PaneMessage_Create("C", PANE_INFO, "m"); }, OK_X, OK_Y, 0},
         {"No", [] { return PaneYesNo_Create("C", PANE_ALERT, "m"); }, NO_X, OK_Y, 2},
@@ -98,9 +101,15 @@ TEST_F(Panes, ClosedByCodeTheyTellNobody)
     EXPECT_EQ(PaneMessage_Create("C", PANE_INFO, "m"), 1) << "0 is no pane";
 }
 
-TEST_F(Panes, ThePageMayCloseThePaneThatItHearsFrom)
+TEST_F(Panes, TheFirstAnswerCountsAndThePageMayCloseThePaneThatItHearsFrom)
 {
-    const int id = PaneYesNo_Create("C", PANE_INFO, "m");
+    int id = PaneYesNo_Create("C", PANE_INFO, "m");
+    Pass();
+    Press(YES_X, OK_Y);
+    Press(NO_X, OK_Y);
+    Pass(400);
+    EXPECT_THAT(Told(), ElementsAre("button 1", Quit(id, 1)));
+    id = PaneYesNo_Create("C", PANE_INFO, "m");
     on_button = [] { Pane_Quit(Pane_GetActiveID()); };
     Touch(YES_X, OK_Y);
     EXPECT_THAT(Told(), ElementsAre("button 1"));
@@ -140,31 +149,16 @@ TEST_F(Panes, TheGroundIsThatOfTheWholePass)
     EXPECT_EQ(PixelAt(310, 260), 0x123456U);
 }
 
-TEST_F(Panes, TheFirstAnswerCounts)
-{
-    const int id = PaneYesNo_Create("C", PANE_INFO, "m");
-    Pass();
-    Press(YES_X, OK_Y);
-    Press(NO_X, OK_Y);
-    Pass(400);
-    EXPECT_THAT(Told(), ElementsAre("button 1", Quit(id, 1)));
-}
-
 TEST_F(Panes, HeldArrowsRepeat)
 {
     (void)PaneMessage_Create("C", PANE_INFO, Lines(40).c_str());
     Pass();
     Press(ARROW_X, DOWN_Y);
     EXPECT_THAT(Told(), ElementsAre("button 3")) << "at once";
-    Pass(299);
-    EXPECT_THAT(Told(), IsEmpty());
-    Pass(1);
-    EXPECT_THAT(Told(), ElementsAre("button 3"));
-    Pass(49);
-    EXPECT_THAT(Told(), IsEmpty());
-    Pass(1);
-    Pass(50);
-    EXPECT_THAT(Told(), ElementsAre("button 3", "button 3"));
+    for (const auto& [ms, times] : {std::pair{299, 0u}, {1, 1u}, {49, 0u}, {1, 1u}, {50, 1u}}) {
+        Pass(ms);
+        EXPECT_EQ(Told(), Strings(times, "button 3")) << ms;
+    }
     Release(5, 5); // off the arrow
     Pass(400);
     EXPECT_THAT(Told(), IsEmpty());
@@ -263,36 +257,29 @@ static const BTNSEL choices[] = {{11, "One", 0}, {12, "Two", 1}, {0, "", 0}, {14
 TEST_F(Panes, AChoiceIsTheResult)
 {
     static const struct {
-        const char* name;
         int (*open)();
-        int x; // of the first choice
-        int y;
-        int cancel_x;
-        int cancel_y;
+        int first, x, y; // the first choice
+        int cancel_x, cancel_y;
         int beside; // does a press beside all buttons close it?
     } cases[] = {
-        {"pull-down", [] { return PanePullDown_Create(600, 100, 4, choices); }, 601, 120, -1, -1,
-         1},
-        {"select", [] { return PaneSelect_Create(2, 2, choices); }, 350, 240, 400, 340, 0},
-        {"directory", [] { return PaneDirectory_Create(4, choices); }, 150, 100, 400, 490, 0},
-        {"folder", [] { return PaneDirectory_Create_FolderPopup(4, choices); }, 150, 135, 400, 450,
-         0},
-        {"router level", [] { return PaneRTRLvl_Create(1); }, 150, 410, -1, -1, 1},
+        {[] { return PanePullDown_Create(600, 100, 4, choices); }, 11, 601, 120, -1, -1, 1},
+        {[] { return PaneSelect_Create(2, 2, choices); }, 11, 350, 240, 400, 340, 0},
+        {[] { return PaneDirectory_Create(4, choices); }, 11, 150, 100, 400, 490, 0},
+        {[] { return PaneDirectory_Create_FolderPopup(4, choices); }, 11, 150, 135, 400, 450, 0},
+        {[] { return PaneRTRLvl_Create(1); }, 1, 150, 410, -1, -1, 1},
     };
     for (const auto& c : cases) {
         int id = c.open();
-        ASSERT_GT(id, 0) << c.name;
+        ASSERT_GT(id, 0) << &c - cases;
         Touch(c.x, c.y);
-        const int first = std::string(c.name) == "router level" ? 1 : 11;
-        EXPECT_THAT(Told(), ElementsAre("button " + std::to_string(first), Quit(id, first)))
-            << c.name;
+        EXPECT_THAT(Told(), ElementsAre("button " + std::to_string(c.first), Quit(id, c.first)));
         id = c.open();
         Touch(2, 2);
-        EXPECT_EQ(Pane_Exist(id), !c.beside) << c.name;
+        EXPECT_EQ(Pane_Exist(id), !c.beside) << &c - cases;
         if (c.cancel_x >= 0)
             Touch(c.cancel_x, c.cancel_y);
-        EXPECT_EQ(Last(), Quit(id, 0)) << c.name;
-        EXPECT_EQ(Pane_Exist(id), 0) << c.name;
+        EXPECT_EQ(Last(), Quit(id, 0)) << &c - cases;
+        EXPECT_EQ(Pane_Exist(id), 0) << &c - cases;
     }
     EXPECT_EQ(PaneSelect_Create(0, 3, choices), 0);
     EXPECT_EQ(PanePullDown_Create(0, 0, 0, choices), 0);
@@ -301,9 +288,7 @@ TEST_F(Panes, AChoiceIsTheResult)
 
 TEST_F(Panes, APullDownThatIsTooLongEndsAtTheScreen)
 {
-    std::vector<BTNSEL> items;
-    for (int i = 1; i <= 80; i++)
-        items.push_back({i, "Item", 0});
+    const auto items = Choices(80);
     const int id = PanePullDown_Create(600, 100, 80, items.data());
     ASSERT_GT(id, 0);
     EXPECT_GE(pane_find(id)->x, 0);
@@ -357,9 +342,7 @@ TEST_F(Panes, ButtonsOfThePopupOnTopCanBeTakenAway)
 
 TEST_F(Panes, DirectoriesTurnTheirPages)
 {
-    std::vector<BTNSEL> entries;
-    for (int i = 1; i <= 81; i++)
-        entries.push_back({i, "Entry", 0});
+    const auto entries = Choices(81);
     constexpr int PREV_X = 590, NEXT_X = PREV_X + 48, TURN_Y = 490;
     for (const auto& [next, prev, first] :
          {std::tuple{1, 0, 41}, {5, 0, 81}, {5, 1, 41}, {1, 2, 1}}) {
@@ -375,7 +358,7 @@ TEST_F(Panes, DirectoriesTurnTheirPages)
     // At an end the key that leads nowhere looks so.
     const int id = PaneDirectory_Create(81, entries.data());
     const auto key = [](int x) {
-        SendMessage(MSG_REDRAW, 1000, 0, 0, 0);
+        Pass(1000);
         return PixelsIn({x - 15, TURN_Y - 5, x + 15, TURN_Y + 20});
     };
     const auto no_prev = key(PREV_X), next = key(NEXT_X);

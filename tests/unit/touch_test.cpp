@@ -10,14 +10,6 @@
 
 namespace
 {
-void Calibrate(int ax, int ay, int bx, int by)
-{
-    SYS_TouchScreen_AX = ax;
-    SYS_TouchScreen_AY = ay;
-    SYS_TouchScreen_BX = bx;
-    SYS_TouchScreen_BY = by;
-}
-
 // All events that wait in SDL's queue.
 std::vector<SDL_Event> Events()
 {
@@ -46,7 +38,9 @@ struct Touch : testing::Test {
             close(Touch_FD); // another test's passes may have found the panel
         Touch_FD = -1;
         Touch_Resolution = 1023;
-        Calibrate(50, 50, 750, 550);
+        SYS_TouchScreen_AX = SYS_TouchScreen_AY = 50;
+        SYS_TouchScreen_BX = 750;
+        SYS_TouchScreen_BY = 550;
         Events();
     }
 };
@@ -67,7 +61,8 @@ TEST_F(Touch, RawPointsBecomeScreenPointsInTruncatedSteps)
     };
     for (const auto& c : cases) {
         Touch_Resolution = c.resolution;
-        Calibrate(c.ax, 50, c.bx, 550);
+        SYS_TouchScreen_AX = c.ax;
+        SYS_TouchScreen_BX = c.bx;
         Finger(c.raw, 0, 1);
         const auto events = Events();
         ASSERT_FALSE(events.empty());
@@ -160,18 +155,17 @@ TEST_F(Touch, CalibrationOutOfRangeFallsBackValueByValue)
 {
     static const struct {
         unsigned char bytes[8];
-        int ax, ay, bx, by;
+        int points[4];
     } cases[] = {
-        {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, 50, 70, 740, 540},
-        {{0, 150, 0, 0, 2, 0x89, 1, 0xC1}, 150, 0, 750, 550}, // 649, 449
+        {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, {50, 70, 740, 540}},
+        {{0, 150, 0, 0, 2, 0x89, 1, 0xC1}, {150, 0, 750, 550}}, // 649, 449
     };
     for (const auto& c : cases) {
         ASSERT_EQ(I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, 8, c.bytes), 8);
         Touch_LoadCalibration();
-        EXPECT_EQ(SYS_TouchScreen_AX, c.ax);
-        EXPECT_EQ(SYS_TouchScreen_AY, c.ay);
-        EXPECT_EQ(SYS_TouchScreen_BX, c.bx);
-        EXPECT_EQ(SYS_TouchScreen_BY, c.by);
+        EXPECT_THAT((std::vector{SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX,
+                                 SYS_TouchScreen_BY}),
+                    ElementsAreArray(c.points));
         EXPECT_EQ(Touch_StoreCalibration(), 0);
         EXPECT_EQ(I2cEepromService_IsCrc32Valid(2), 1);
     }
