@@ -72,6 +72,7 @@ struct FileTest : BusTest {
         SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), Hash(v.c_str()),
                     verb == "Ready" ? 0 : Arg(r.c_str()));
     }
+    static void Cancel() { SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0); }
     static void Notify(const std::string& row, const std::string& table = "SWR1.File")
     {
         Hub("Notify", table, row);
@@ -89,6 +90,18 @@ struct FileTest : BusTest {
 // The same with a list of items.
 struct FileListTest : FileTest {
     FILEXFERLIST* list = nullptr;
+    std::string ended; // "status message;" of each item, as the page is told at the end
+    void SetUp() override
+    {
+        FileTest::SetUp();
+        ended.clear();
+        probe::answer = [this](const probe::Seen& s) {
+            if (s.msg == LMSG_FILESTATUS && s.cx == Arg(&list))
+                for (const FILEXFERLIST* i = list; i; i = i->next)
+                    ended += std::to_string(i->status) + " " + i->mesg + ";";
+            return 0;
+        };
+    }
     void TearDown() override
     {
         File_XferList_RemoveAll(&list);

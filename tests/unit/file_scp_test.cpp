@@ -8,7 +8,7 @@
 struct FileRemote : FileListTest {
     void SetUp() override
     {
-        FileTest::SetUp();
+        FileListTest::SetUp();
         CopyText(DEV_Swr[0].id, "SWR000D001");
         DeviceStructure();
         for (const char* target : {"SWR1", "SWR2", "CS1", "PNL1"}) {
@@ -17,24 +17,28 @@ struct FileRemote : FileListTest {
         }
         (void)HubSent();
     }
-    void AddGet(const char* name, const char* category = "SETUP", const char* target = "SWR1")
+    void Add(const std::string& name, const char* category = "SETUP", const char* target = "SWR1",
+             bool is_put = false)
     {
-        File_XferList_SCPAdd(&list,
-                             (std::string("SWR000D001:" WORK) + category + "/SWR1/" + name).c_str(),
-                             (std::string("MYHOST:/d/") + name).c_str(), category, target);
+        const std::string here = "MYHOST:/d/" + name,
+                          there = std::string("SWR000D001:" WORK) + category + "/SWR1/" + name;
+        File_XferList_SCPAdd(&list, (is_put ? here : there).c_str(),
+                             (is_put ? there : here).c_str(), category, target);
     }
-    void AddPut(const char* name, const char* category = "SETUP", const char* target = "SWR1")
+    void BeginGet(const Strings& names = {"a.SST"}, int tag = 0)
     {
-        File_XferList_SCPAdd(&list, (std::string("MYHOST:/d/") + name).c_str(),
-                             (std::string("SWR000D001:" WORK) + category + "/SWR1/" + name).c_str(),
-                             category, target);
-    }
-    void BeginGet(int tag = 0)
-    {
-        AddGet("a.SST");
+        for (const std::string& name : names)
+            Add(name);
         File_TransSCPdirGetList(&list, List, tag);
     }
-    void BeginPut() { File_TransSCPdirPutList(&list, List, 0); }
+    void BeginPut(const Strings& names = {"a.SST"}) // and holds the category
+    {
+        for (const std::string& name : names)
+            Add(name, "SETUP", "SWR1", true);
+        File_TransSCPdirPutList(&list, List, 0);
+        (void)HubSent();
+        Notify("SETUP.USER_ID:MENU1");
+    }
     static void HoldForGet()
     {
         Notify("SETUP.USER_ID:MENU1");
@@ -77,9 +81,7 @@ struct FileRemote : FileListTest {
 
 TEST_F(FileRemote, AGetAsksHoldsReadsTheListCopiesAndGivesBack)
 {
-    AddGet("a.SST");
-    AddGet("b.SST");
-    File_TransSCPdirGetList(&list, List, 4);
+    BeginGet({"a.SST", "b.SST"}, 4);
     EXPECT_THAT(Sent(), IsEmpty());
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
     EXPECT_EQ(check_category_target_status("SETUP", "SWR1", FILE_CATEGORY_STATUS_WAIT_USER), 0);
@@ -88,10 +90,9 @@ TEST_F(FileRemote, AGetAsksHoldsReadsTheListCopiesAndGivesBack)
     EXPECT_EQ(check_category_target_status("SETUP", "SWR1", FILE_CATEGORY_STATUS_WAIT_GET), 1);
     Notify("SETUP.STATUS:Get");
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_RESULT);
-    const Strings fetch = Sent();
-    EXPECT_THAT(fetch, ElementsAre("put File@Remote Access@SCP Dir Get#L4,SWR000D001:" WORK
-                                   "SETUP/SWR1/result.lst,MYHOST:/var/tmp/FILE/"
-                                   "SETUP.SWR1.Get.result.lst,SETUP"));
+    EXPECT_THAT(Sent(), ElementsAre("put File@Remote Access@SCP Dir Get#L4,SWR000D001:" WORK
+                                    "SETUP/SWR1/result.lst,MYHOST:/var/tmp/FILE/"
+                                    "SETUP.SWR1.Get.result.lst,SETUP"));
     Result("a.SST,ok\r\nb.SST,OK \r\n");
     Answer(4, "OK");
     EXPECT_EQ(SentOne(), "Remote Access@SCP Dir Get#L1,SWR000D001:" WORK
@@ -111,11 +112,7 @@ TEST_F(FileRemote, AGetAsksHoldsReadsTheListCopiesAndGivesBack)
 
 TEST_F(FileRemote, APutIsCheckedByTheDeviceAndCountsHalfUntilThen)
 {
-    AddPut("a.SST");
-    AddPut("b.SST");
-    BeginPut();
-    (void)HubSent();
-    Notify("SETUP.USER_ID:MENU1");
+    BeginPut({"a.SST", "b.SST"});
     EXPECT_EQ(Sent().size(), 2u);
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_SCPPUT);
     Answer(1, "OK");
@@ -124,9 +121,8 @@ TEST_F(FileRemote, APutIsCheckedByTheDeviceAndCountsHalfUntilThen)
     Answer(2, "OK");
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Put"));
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_PUT);
-    Notify("SETUP.STATUS:Put,elsewhere/x.SST");
-    EXPECT_THAT(Sent(), IsEmpty());
-    Notify("SETUP.STATUS:Put,a.SS");
+    for (const char* other : {"elsewhere/x.SST", "a.SS"})
+        Notify(std::string("SETUP.STATUS:Put,") + other);
     EXPECT_THAT(Sent(), IsEmpty());
     Notify("SETUP.STATUS:Put,/a");
     const uint32_t fetch = FetchLabel();
@@ -160,9 +156,7 @@ TEST_F(FileRemote, WhatIsNoResultLineIsPassedOver)
         {std::string("\0\0,a.SST,OK\na.SST,OK", 20), FILESTATUS_REQ},
     };
     for (const auto& c : cases) {
-        AddGet("a.SST");
-        AddGet("keeps the job.SST");
-        File_TransSCPdirGetList(&list, List, 0);
+        BeginGet({"a.SST", "keeps the job.SST"});
         HoldForGet();
         const uint32_t fetch = FetchLabel();
         Result(c.text + "\nkeeps the job.SST,OK\n");
@@ -183,9 +177,8 @@ TEST_F(FileRemote, AListThatCannotBeFetchedIsTriedThreeTimesMore)
     HoldForGet();
     (void)HubSent();
     for (int i = 0; i < 4; i++) {
-        const uint32_t fetch = FetchLabel();
         EXPECT_THAT(HubSent(), IsEmpty());
-        Answer(fetch, "NG(x)");
+        Answer(FetchLabel(), "NG(x)");
     }
     EXPECT_THAT(Sent(), IsEmpty());
     EXPECT_STREQ(list->mesg, "a.SST: NG([ERROR] Result File Error.)");
@@ -202,19 +195,13 @@ TEST_F(FileRemote, AListThatCannotBeFetchedIsTriedThreeTimesMore)
 
 TEST_F(FileRemote, WhatCannotBeginFailsAtOnce)
 {
-    AddGet("a.SST", "SETUP", "PNL2"); // never ready
-    AddGet("b.SST", "NOTHING");
-    AddGet("c.SST", "SETUP", "SWR9");
-    std::string lines;
-    probe::answer = [&](const probe::Seen& s) {
-        if (s.msg == LMSG_FILESTATUS)
-            for (FILEXFERLIST* i = *reinterpret_cast<FILEXFERLIST**>(s.cx); i; i = i->next)
-                lines += std::string(i->mesg) + ";";
-        return 0;
-    };
+    Add("a.SST", "SETUP", "PNL2"); // never ready
+    Add("b.SST", "NOTHING");
+    Add("c.SST", "SETUP", "SWR9");
     File_TransSCPdirGetList(&list, List, 0);
-    EXPECT_EQ(lines, "a.SST: NG([ERROR] Server Not Ready.);b.SST: NG([ERROR] Internal Error.);"
-                     "c.SST: NG([ERROR] Internal Error.);");
+    EXPECT_EQ(ended, "129 a.SST: NG([ERROR] Server Not Ready.);"
+                     "129 b.SST: NG([ERROR] Internal Error.);"
+                     "129 c.SST: NG([ERROR] Internal Error.);");
     EXPECT_EQ(list, nullptr);
     PANE* pane = pane_find(Pane_GetActiveID()); // until the operator has read it
     ASSERT_NE(pane, nullptr);
@@ -247,7 +234,7 @@ TEST_F(FileRemote, AnotherUserIsWaitedFor)
 TEST_F(FileRemote, TheOtherDirectionWaitsUntilTheTargetIsFree)
 {
     FILEXFERLIST* puts = nullptr;
-    BeginGet(1);
+    BeginGet({"a.SST"}, 1);
     File_XferList_SCPAdd(&puts, "MYHOST:/d/k.SKM", "SWR000D001:/k.SKM", "KEYMEM", "SWR1");
     File_XferList_SCPAdd(&puts, "MYHOST:/d/v.SVM", "SWR000D001:/v.SVM", "VPROCMEM", "SWR1");
     File_TransSCPdirPutList(&puts, List, 2);
@@ -268,13 +255,13 @@ TEST_F(FileRemote, TheOtherDirectionWaitsUntilTheTargetIsFree)
 TEST_F(FileRemote, JobsOfOneDirectionFollowEachOther)
 {
     FILEXFERLIST* more[2] = {};
-    BeginGet(1);
+    BeginGet({"a.SST"}, 1);
     File_XferList_SCPAdd(&more[0], "SWR000D001:/k.SKM", "MYHOST:/d/k.SKM", "KEYMEM", "SWR1");
     File_TransSCPdirGetList(&more[0], List, 2);
     File_XferList_SCPAdd(&more[1], "SWR000D001:/b.SST", "MYHOST:/d/b.SST", "SETUP", "SWR1");
     File_TransSCPdirGetList(&more[1], List, 3);
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
-    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Cancel();
     Notify("SETUP.USER_ID:MENU1");
     Notify("SETUP.STATUS:Standby");
     (void)HubSent();
@@ -287,21 +274,19 @@ TEST_F(FileRemote, JobsOfOneDirectionFollowEachOther)
 
 TEST_F(FileRemote, AllCategoriesOfAJobEndBeforeItDoes)
 {
-    AddGet("a.SST");
-    AddGet("b.SKM", "KEYMEM");
-    File_TransSCPdirGetList(&list, List, 0);
+    Add("b.SKM", "KEYMEM");
+    BeginGet();
     for (const char* c : {"SETUP", "KEYMEM"}) {
         Notify(std::string(c) + ".USER_ID:MENU1");
         Notify(std::string(c) + ".STATUS:Get");
-        Result(std::string(c) == "SETUP" ? "a.SST,OK" : "b.SKM,OK", "Get",
-               (std::string(c) + ".SWR1").c_str());
+        Result("a.SST,OK\nb.SKM,OK", "Get", (std::string(c) + ".SWR1").c_str());
         Answer(FetchLabel(), "OK");
         (void)Sent();
     }
-    Answer(1, "OK");
+    Answer(2, "OK");
     Notify("SETUP.STATUS:Standby");
     EXPECT_THAT(told, IsEmpty());
-    Answer(2, "NG(no)");
+    Answer(1, "NG(no)");
     // The holder goes before the word "Standby" comes: that is an answer, too.
     Notify("KEYMEM.USER_ID:Non");
     EXPECT_EQ(told.size(), 1u);
@@ -312,7 +297,7 @@ TEST_F(FileRemote, ACancelBeforeTheAnswerWaitsForIt)
 {
     BeginGet();
     (void)HubSent();
-    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Cancel();
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_USER_CANCEL);
     EXPECT_THAT(told, IsEmpty());
     EXPECT_THAT(HubSent(), IsEmpty());
@@ -322,26 +307,23 @@ TEST_F(FileRemote, ACancelBeforeTheAnswerWaitsForIt)
     EXPECT_EQ(told.size(), 1u);
     // Somebody else got it instead.
     BeginGet();
-    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Cancel();
     Notify("SETUP.USER_ID:PANEL3");
     EXPECT_EQ(told.size(), 2u);
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_NO);
     // Waiting behind another user: nothing is owed.
     BeginGet();
-    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Cancel();
     EXPECT_EQ(told.size(), 3u);
 }
 
 TEST_F(FileRemote, ACancelInTheMiddleGivesTheCategoryBack)
 {
-    AddPut("a.SST");
-    AddPut("b.SST");
-    BeginPut();
-    Notify("SETUP.USER_ID:MENU1");
+    BeginPut({"a.SST", "b.SST"});
     Ack(1, 71);
     (void)Sent();
     (void)HubSent();
-    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Cancel();
     EXPECT_EQ(SentOne(), "Access@Cancel#Lx,71");
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.STATUS:Standby"));
     Status(71, "OK");
@@ -355,10 +337,7 @@ TEST_F(FileRemote, ACancelInTheMiddleGivesTheCategoryBack)
 
 TEST_F(FileRemote, WhatTheHubTookAwayIsNotGivenBack)
 {
-    AddPut("a.SST");
     BeginPut();
-    Notify("SETUP.USER_ID:MENU1");
-    (void)HubSent();
     Notify("SETUP.USER_ID:PANEL3");
     Answer(1, "NG(no)");
     EXPECT_THAT(HubSent(), IsEmpty());
@@ -397,42 +376,37 @@ TEST_F(FileRemote, ADisconnectEndsTheJobWhereverItIs)
 
 TEST_F(FileRemote, AHubThatHasFallenEndsAllAndLetsNothingBegin)
 {
-    AddGet("a.SST");
-    AddGet("p.PST", "SETUP", "PNL1");
-    File_TransSCPdirGetList(&list, List, 0);
+    Add("p.PST", "SETUP", "PNL1");
+    BeginGet();
     File_HubLost();
     EXPECT_EQ(told.size(), 1u);
     EXPECT_EQ(QueueRoot, nullptr);
     (void)HubSent();
-    AddGet("a.SST");
-    File_TransSCPdirGetList(&list, List, 0);
+    BeginGet();
     EXPECT_EQ(told.size(), 2u) << "it would wait for ever";
     EXPECT_THAT(HubSent(), IsEmpty());
 }
 
 TEST_F(FileRemote, ADisconnectLeavesTheOtherTargetItsWork)
 {
-    AddGet("a.SST");
-    AddGet("p.PST", "SETUP", "PNL1");
-    File_TransSCPdirGetList(&list, List, 0);
+    Add("p.PST", "SETUP", "PNL1");
+    BeginGet();
     Hub("Disconnect", "SWR1.File");
     EXPECT_THAT(told, IsEmpty());
-    EXPECT_EQ(At(0)->status, FILESTATUS_CANCEL);
-    EXPECT_EQ(At(1)->status, FILESTATUS_WAIT);
+    EXPECT_EQ(At(1)->status, FILESTATUS_CANCEL);
+    EXPECT_EQ(At(0)->status, FILESTATUS_WAIT);
     Notify("SETUP.USER_ID:MENU1", "PNL1.File");
     EXPECT_EQ(State("SETUP", 4), FILE_CATEGORY_STATUS_WAIT_GET);
     Hub("Disconnect", "PNL1.File");
     EXPECT_EQ(told.size(), 1u);
     PANE* pane = pane_find(Pane_GetActiveID());
     ASSERT_NE(pane, nullptr) << "nobody has touched Cancel";
-    EXPECT_STREQ(pane_text_in_view(pane), "a.SST: Canceled\np.PST: Canceled\n");
+    EXPECT_STREQ(pane_text_in_view(pane), "p.PST: Canceled\na.SST: Canceled\n");
 }
 
 TEST_F(FileRemote, ReadyInTheMiddleAsksAgainAndGoesOn)
 {
-    AddPut("a.SST");
     BeginPut();
-    Notify("SETUP.USER_ID:MENU1");
     Answer(1, "OK");
     (void)Sent();
     (void)HubSent();
@@ -473,16 +447,15 @@ TEST_F(FileRemote, ALargeResultListIsReadInOnePass)
 {
     constexpr int N = 2000;
     std::string text;
+    Strings names;
     for (int i = N; i-- > 0;) {
-        const std::string name = "f" + std::to_string(i) + ".SST";
-        AddGet(name.c_str());
-        text += name + (i % 2 ? ",OK\r\n" : ",NG(bad)\r\n");
+        names.push_back("f" + std::to_string(i) + ".SST");
+        text += names.back() + (i % 2 ? ",OK\r\n" : ",NG(bad)\r\n");
     }
-    File_TransSCPdirGetList(&list, List, 0);
+    BeginGet(names);
     HoldForGet();
     Result(text);
-    const uint32_t fetch = FetchLabel();
-    Answer(fetch, "OK");
+    Answer(FetchLabel(), "OK");
     EXPECT_EQ(Sent().size(), size_t(N / 2));
     EXPECT_EQ(QueueRoot->finished, N / 2);
 }
@@ -493,11 +466,17 @@ struct FileStore : FileRemote {
     void SetUp() override
     {
         FileRemote::SetUp();
-        for (DEVICE* dev : {&DEV_Swr[0]}) {
-            dev->format_size = 3;
-            dev->format_freq = 6;
-            dev->format_scan = 0;
-        }
+        DEV_Swr[0].format_size = 3;
+        DEV_Swr[0].format_freq = 6;
+        DEV_Swr[0].format_scan = 0;
+    }
+    void BeginPut(const Strings& names)
+    {
+        for (const std::string& name : names)
+            AddPicture(name, true);
+        File_TransSCPdirPutList_FM(&list, List, 0);
+        Store("USER_ID::MENU1");
+        (void)HubSent();
     }
     static void Store(const std::string& row) { Notify("FRAMEMEM." + row, "CS1.File"); }
     static void Listed(const char* name, const char* way)
@@ -572,11 +551,7 @@ TEST_F(FileStore, AnExportFromAStoreThatWasNeverThereFails)
 // Folders first, each once in a row; the files one at a time, each checked by the store.
 TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
 {
-    for (const char* name : {"A/x", "A/y", "B/z"})
-        AddPicture(name, true);
-    File_TransSCPdirPutList_FM(&list, List, 0);
-    Store("USER_ID::MENU1");
-    (void)HubSent();
+    BeginPut({"A/x", "A/y", "B/z"});
     EXPECT_EQ(SentOne(), "Remote Access@Make Dir#L5,SWR000D001:/A,FRAMEMEM");
     EXPECT_EQ(list->status, FILESTATUS_WAIT_REQ);
     Answer(5, "OK");
@@ -591,8 +566,7 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
     EXPECT_EQ(list->status, FILESTATUS_OK);
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,")) << "the folder is there";
     Answer(2, "NG(x)");
-    const std::string folder = SentOne();
-    EXPECT_THAT(folder, HasSubstr("Make Dir#L7,SWR000D001:/B,FRAMEMEM"));
+    EXPECT_THAT(SentOne(), HasSubstr("Make Dir#L7,SWR000D001:/B,FRAMEMEM"));
     Answer(7, "NG(x)");
     EXPECT_STREQ(At(2)->mesg, "z.SFH: NG([ERROR] Make Folder failed.)");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Standby"));
@@ -600,10 +574,7 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
 
 TEST_F(FileStore, APicturesOwnFolderIsNoneToBeMade)
 {
-    for (const char* name : {"A/m.SFH/m", "A/n.SFH/n"})
-        AddPicture(name, true);
-    File_TransSCPdirPutList_FM(&list, List, 0);
-    Store("USER_ID::MENU1");
+    BeginPut({"A/m.SFH/m", "A/n.SFH/n"});
     EXPECT_THAT(SentOne(), HasSubstr("Make Dir#L4"));
     Answer(4, "OK");
     (void)Sent();

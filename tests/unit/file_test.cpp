@@ -6,8 +6,7 @@
 
 constexpr char ROW_DATE[] = "Wed Nov 25 09:20:08 2026";
 
-struct FileJobs : FileTest {
-};
+using FileJobs = FileTest;
 
 TEST_F(FileJobs, ASingleJobLivesFromItsCommandToItsReply)
 {
@@ -96,11 +95,9 @@ TEST_F(FileJobs, RowsOfSixAndSevenFieldsKeepTheirJob)
     Ack(2, 12);
     Status(11, "a,b,c,d,e,f");
     Status(12, "a,b,c,d,e,f,g");
-    EXPECT_THAT(told, ElementsAre("1 0 a,b,c,d,e,f", "2 0 a,b,c,d,e,f,g"));
     Status(11, "OK");
     Status(12, "OK");
-    EXPECT_THAT(told, testing::Contains("1 0 OK"));
-    EXPECT_EQ(told.back(), "2 0 (null)");
+    EXPECT_THAT(told, ElementsAre("1 0 a,b,c,d,e,f", "2 0 a,b,c,d,e,f,g", "1 0 OK", "2 0 (null)"));
     EXPECT_EQ(QueueRoot, nullptr);
 }
 
@@ -202,14 +199,17 @@ TEST_F(FileLists, ItemsKeepTheirOrderAndLeaveByTheirTexts)
     EXPECT_EQ(File_XferList_Add(&list, "near the end", "n"), 0);
     EXPECT_EQ(File_XferList_Move(&list, list, &other), 0);
     EXPECT_EQ(File_XferList_Add(&list, "last", "l"), 0);
-    EXPECT_STREQ(list->src, "MYHOST:/s/f2");
-    EXPECT_STREQ(list->next->src, "near the end");
-    EXPECT_STREQ(list->next->next->src, "last");
-    EXPECT_STREQ(other->next->src, "MYHOST:/s/f0");
-    EXPECT_EQ(other->next->next, nullptr);
+    const auto sources = [](const FILEXFERLIST* item) {
+        Strings paths;
+        for (; item; item = item->next)
+            paths.push_back(item->src);
+        return paths;
+    };
+    EXPECT_THAT(sources(list), ElementsAre("MYHOST:/s/f2", "near the end", "last"));
+    EXPECT_THAT(sources(other), ElementsAre("x", "MYHOST:/s/f0"));
     const std::string path(300, 'p');
     File_XferList_Add(&other, path.c_str(), path.c_str());
-    EXPECT_EQ(strlen(other->next->next->src), 256u);
+    EXPECT_EQ(sources(other)[2], path.substr(0, 256));
     File_XferList_RemoveAll(&other);
     EXPECT_EQ(other, nullptr);
 }
@@ -355,16 +355,9 @@ TEST_F(FileLists, CancelStopsWhatRunsAndEndsAtOnce)
     Status(21, "OK");
     SendMessage(LMSG_PANEQUIT, 12345, 1, 0, 0);
     EXPECT_THAT(told, IsEmpty());
-    std::string lines;
-    probe::answer = [&](const probe::Seen& s) {
-        if (s.msg == LMSG_FILESTATUS)
-            for (FILEXFERLIST* i = *reinterpret_cast<FILEXFERLIST**>(s.cx); i; i = i->next)
-                lines += std::to_string(i->status) + i->mesg + ";";
-        return 0;
-    };
-    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Cancel();
     EXPECT_EQ(SentOne(), "Access@Cancel#Lx,22");
-    EXPECT_EQ(lines, "128f0: OK;130f1: Canceled;130f2: Canceled;");
+    EXPECT_EQ(ended, "128 f0: OK;130 f1: Canceled;130 f2: Canceled;");
     EXPECT_EQ(told.size(), 1u);
     EXPECT_EQ(QueueRoot, nullptr);
     Status(22, "NG(cancelled)");
@@ -374,11 +367,10 @@ TEST_F(FileLists, CancelStopsWhatRunsAndEndsAtOnce)
 
 TEST_F(FileLists, ACallbackMayEmptyItsListAndBeginAnew)
 {
-    static FILEXFERLIST* again;
+    static FILEXFERLIST *again, **own;
     again = nullptr;
-    Fill(1);
-    static FILEXFERLIST** own;
     own = &list;
+    Fill(1);
     File_ExecCopyList(
         &list,
         [](uint32_t, int) {
@@ -453,27 +445,43 @@ struct FileBackground : FileLists {
     {
         FileLists::TearDown();
         (void)PaneProgress_RestoreQuit(); // nothing may be open
-        GL_NowPage = PAGE_TOP;
+    }
+    // A copy that goes on without its page.
+    void BeginAndLeave(int items)
+    {
+        Fill(items);
+        GL_NowPage = 0x71210000;
+        BkgdFileTransfer_Set(0x71210000, 1);
+        MM_File_ExecCopyList(&list, List, 0, 1); // with a title of its own
+        EXPECT_TRUE(Pane_Exist(QueueRoot->paneid));
+        BkgdFileTransfer_PaneQuit();
+        EXPECT_EQ(Pane_GetActiveID(), 0);
+        GL_NowPage = 0x11110000;
     }
 };
 
 TEST_F(FileBackground, EachPageOfTheMenuHasItsBit)
 {
-    EXPECT_EQ(BkgdFileTransfer_Check(0), 0);
-    EXPECT_EQ(BkgdFileTransfer_Set(0x71220300, 1), 0);
-    EXPECT_EQ(BkgdFileTransfer_Check(0x71220000), 1);
-    EXPECT_EQ(BkgdFileTransfer_Check(0x71220500), 1);
-    EXPECT_EQ(BkgdFileTransfer_Check(0x71210000), 0);
-    EXPECT_EQ(BkgdFileTransfer_Check(0x12345678), 0);
+    static const struct {
+        uint32_t set;
+        int on, result;
+        uint32_t page;
+        int is_set;
+    } steps[] = {{0x71220000, 0, 0, 0, 0},
+                 {0x71220300, 1, 0, 0x71220000, 1},
+                 {0x71220300, 1, 0, 0x71220500, 1},
+                 {0x71220300, 1, 0, 0x71210000, 0},
+                 {0x12345678, 1, -1, 0x12345678, 0},
+                 {0, 2, -1, 0, 1},
+                 {0x71220000, 0, 0, 0, 0},
+                 {0, 1, 0, 0x71510000, 1},
+                 {0, 1, 0, 0x71620000, 0}};
+    for (const auto& s : steps) {
+        EXPECT_EQ(BkgdFileTransfer_Set(s.set, s.on), s.result) << std::hex << s.set;
+        EXPECT_EQ(BkgdFileTransfer_Check(s.page), s.is_set) << std::hex << s.page;
+    }
     EXPECT_EQ(BkgdFileTransfer_PagePermitted(0x71220000), 1);
     EXPECT_EQ(BkgdFileTransfer_PagePermitted(0x21110000), 0);
-    EXPECT_EQ(BkgdFileTransfer_Set(0x12345678, 1), -1);
-    EXPECT_EQ(BkgdFileTransfer_Set(0, 2), -1);
-    EXPECT_EQ(BkgdFileTransfer_Set(0x71220000, 0), 0);
-    EXPECT_EQ(BkgdFileTransfer_Check(0), 0);
-    BkgdFileTransfer_Set(0, 1);
-    EXPECT_EQ(BkgdFileTransfer_Check(0x71510000), 1);
-    EXPECT_EQ(BkgdFileTransfer_Check(0x71620000), 0);
     BkgdHDDTransfer_Set(0x25620000, 1);
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
     EXPECT_EQ(BkgdHDDTransfer_Check(0x25620000), 1);
@@ -482,14 +490,7 @@ TEST_F(FileBackground, EachPageOfTheMenuHasItsBit)
 
 TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
 {
-    Fill(4);
-    GL_NowPage = 0x71210000;
-    BkgdFileTransfer_Set(0x71210000, 1);
-    MM_File_ExecCopyList(&list, List, 0, 1); // with a title of its own
-    const int first = QueueRoot->paneid;
-    BkgdFileTransfer_PaneQuit();
-    EXPECT_FALSE(Pane_Exist(first));
-    GL_NowPage = 0x11110000;
+    BeginAndLeave(4);
     Answer(1, "OK");
     Answer(2, "NG(no)");
     EXPECT_EQ(Pane_GetActiveID(), 0);
@@ -502,18 +503,13 @@ TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
     ASSERT_TRUE(Pane_Exist(second));
     EXPECT_STREQ(pane_find(second)->caption, "Transfer");
     EXPECT_EQ(BkgdFileTransfer_PaneRestore(), second);
-    SendMessage(LMSG_PANEQUIT, second, 1, 0, 0);
+    Cancel();
     EXPECT_EQ(told.size(), 1u) << "cancelled from the pane that came back";
 }
 
 TEST_F(FileBackground, AFallenLinkOpensNoMessageOverOtherWork)
 {
-    Fill(2);
-    GL_NowPage = 0x71210000;
-    BkgdFileTransfer_Set(0x71210000, 1);
-    File_ExecCopyList(&list, List, 0);
-    BkgdFileTransfer_PaneQuit();
-    GL_NowPage = 0x11110000;
+    BeginAndLeave(2);
     File_LinkLost();
     EXPECT_EQ(told.size(), 1u);
     EXPECT_EQ(Pane_GetActiveID(), 0);

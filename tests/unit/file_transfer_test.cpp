@@ -9,7 +9,7 @@ struct FileSteps : FileListTest {
 
     void SetUp() override
     {
-        FileTest::SetUp();
+        FileListTest::SetUp();
         CopyText(DEV_Swr[0].id, "SWR000D001");
         CopyText(DEV_Swr[0].name, "SWR1");
         DeviceStructure();
@@ -22,47 +22,52 @@ struct FileSteps : FileListTest {
         const int job = entry(&list, List, 0);
         const uint32_t label = uint32_t(job) - 1;
         for (int i = 0; i < 10 && list; i++) {
-            const std::string one = SentOne();
-            commands.push_back(one);
+            std::string one = SentOne();
+            const size_t at = one.find("#L");
+            commands.push_back(one.replace(at, one.find(',', at) - at, "#"));
             Answer(label, "OK");
         }
         EXPECT_EQ(told.size(), 1u);
         told.clear();
-        for (std::string& c : commands) {
-            const size_t at = c.find("#L");
-            c.replace(at, c.find(',', at) - at, "#");
-        }
         return commands;
+    }
+    Strings Transfer(const char* src, const char* dst)
+    {
+        return Run(File_ExecTransferList, src, dst);
+    }
+    void Add(const Strings& names, const std::string& from, const std::string& to)
+    {
+        for (const std::string& name : names)
+            File_XferList_Add(&list, (from + name).c_str(), (to + name).c_str());
     }
 };
 
 TEST_F(FileSteps, AFileTakesTheWayOfItsEnds)
 {
     SYS_FmemV6 = 0;
-    const Entry transfer = File_ExecTransferList;
-    EXPECT_THAT(Run(transfer, "MYHOST:/a/x.SSS", "SWR000D001:/b/x.SSS"),
+    EXPECT_THAT(Transfer("MYHOST:/a/x.SSS", "SWR000D001:/b/x.SSS"),
                 ElementsAre("Transfer@Transfer#,MYHOST:/a/x.SSS,SWR000D001:/b/x.SSS"));
     EXPECT_THAT(
-        Run(transfer, "SWR000D001:/b/x.SSS", "MYHOST:/mnt/usb/usb1/d/x.SSS"),
+        Transfer("SWR000D001:/b/x.SSS", "MYHOST:/mnt/usb/usb1/d/x.SSS"),
         ElementsAre("Transfer@Transfer#,SWR000D001:/b/x.SSS,MYHOST:/var/tmp/usb1/d/x.SSS",
                     "Access@Copy#,MYHOST:/var/tmp/usb1/d/x.SSS,MYHOST:/mnt/usb/usb1/d/x.SSS",
                     "Access@Remove#,MYHOST:/var/tmp/usb1/d/x.SSS"));
-    EXPECT_THAT(Run(transfer, "MYHOST:/mnt/usb/usb1/x.SSS", "SWR000D001:/b/x.SSS"),
+    EXPECT_THAT(Transfer("MYHOST:/mnt/usb/usb1/x.SSS", "SWR000D001:/b/x.SSS"),
                 ElementsAre("Access@Copy#,MYHOST:/mnt/usb/usb1/x.SSS,MYHOST:/var/tmp/usb1/x.SSS",
                             "Transfer@Transfer#,MYHOST:/var/tmp/usb1/x.SSS,SWR000D001:/b/x.SSS",
                             "Access@Remove#,MYHOST:/var/tmp/usb1/x.SSS"));
     EXPECT_THAT(
-        Run(transfer, "MYHOST:/a/Mx.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
+        Transfer("MYHOST:/a/Mx.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
         ElementsAre("Frame Memory@PutV3#,MYHOST:/a/Mx.FMEM_001.SFM,SWR000D001:FMEM_001.SFM"));
-    EXPECT_THAT(Run(transfer, "SWR000D001:FMEM_001.SFM", "MYHOST:/a/Mx.FMEM_001.SFM"),
+    EXPECT_THAT(Transfer("SWR000D001:FMEM_001.SFM", "MYHOST:/a/Mx.FMEM_001.SFM"),
                 ElementsAre("Frame Memory@Get#,SWR000D001:FMEM_001.SFM,MYHOST:/a/Mx.FMEM_001.SFM"));
     EXPECT_THAT(
-        Run(transfer, "MYHOST:/mnt/usb/usb1/M.SFM", "SWR000D001:FMEM_001.SFM"),
+        Transfer("MYHOST:/mnt/usb/usb1/M.SFM", "SWR000D001:FMEM_001.SFM"),
         ElementsAre("Access@Copy#,MYHOST:/mnt/usb/usb1/M.SFM,MYHOST:/var/tmp/usb1/M.SFM",
                     "Frame Memory@PutV3#,MYHOST:/var/tmp/usb1/M.SFM,SWR000D001:FMEM_001.SFM",
                     "Access@Remove#,MYHOST:/var/tmp/usb1/M.SFM"));
     std::filesystem::remove_all("/var/tmp/MenuMacro");
-    EXPECT_THAT(Run(transfer, "MYHOST:/a/x.MMR", "MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"),
+    EXPECT_THAT(Transfer("MYHOST:/a/x.MMR", "MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"),
                 ElementsAre("Access@Copy#,MYHOST:/a/x.MMR,MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"));
     EXPECT_TRUE(FileExist("/var/tmp/MenuMacro")) << "the copy has a place to go to";
 }
@@ -71,12 +76,12 @@ TEST_F(FileSteps, ThePicturesOfTheNewFrameMemoryArePacked)
 {
     SYS_FmemV6 = 1;
     const std::string put = "MYHOST:/var/tmp/FMXfer/SWR000D001FMEM_001.SF2";
-    EXPECT_THAT(Run(File_ExecTransferList, "MYHOST:/a/M.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
+    EXPECT_THAT(Transfer("MYHOST:/a/M.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
                 ElementsAre("Frame Memory@Compress#,MYHOST:/a/M.FMEM_001.SFM," + put,
                             "Frame Memory@PutV3#," + put + ",SWR000D001:FMEM_001.SF2",
                             "Access@Remove#," + put));
     const std::string got = "MYHOST:/var/tmp/FMXfer/SWR000D001FMEX_002.SF4";
-    EXPECT_THAT(Run(File_ExecTransferList, "SWR000D001:FMEX_002.SFA", "MYHOST:/mnt/usb/usb1/M.SFA"),
+    EXPECT_THAT(Transfer("SWR000D001:FMEX_002.SFA", "MYHOST:/mnt/usb/usb1/M.SFA"),
                 ElementsAre("Frame Memory@Get#,SWR000D001:FMEX_002.SF4," + got,
                             "Frame Memory@Uncompress#," + got + ",MYHOST:/mnt/usb/usb1/M.SFA",
                             "Access@Remove#," + got));
@@ -111,7 +116,7 @@ TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
     GL_DataGokan = 1;
     DEV_Swr[0].type = DEVTYPE_KTR40;
     CopyText(DEV_Swr[0].version, "5.42");
-    EXPECT_THAT(Run(File_ExecTransferList, "MYHOST:/mnt/d/x.SSS", "SWR000D001:/b/x.SSS"),
+    EXPECT_THAT(Transfer("MYHOST:/mnt/d/x.SSS", "SWR000D001:/b/x.SSS"),
                 ElementsAre("Access@Raw#,MYHOST:/usr/local/sbin/dg_snapshot 5.42 /mnt/d/x.SSS "
                             "/var/tmp/mnt/d/x.SSS",
                             "Transfer@Transfer#,MYHOST:/var/tmp/mnt/d/x.SSS,SWR000D001:/b/x.SSS",
@@ -119,7 +124,7 @@ TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
     // What the server's shell could take apart is not said to it.
     for (const char* name : {"MYHOST:/d/$(x).SSS", "MYHOST:/d/a b.SSS", "MYHOST:/d/a;b.SSS"})
         EXPECT_THAT(
-            Run(File_ExecTransferList, name, "SWR000D001:/b/x.SSS"),
+            Transfer(name, "SWR000D001:/b/x.SSS"),
             ElementsAre(std::string("Transfer@Transfer#,") + name + ",SWR000D001:/b/x.SSS"));
     File_XferList_Add(&list, "MYHOST:/d/x.SKF", "SWR000D001:/b/x.SKF");
     File_ExecTransferList(&list, List, 0);
@@ -131,16 +136,13 @@ TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
     File_XferList_RemoveAll(&list);
     for (const char* version : {"5.41", "6.00", "5.4"}) {
         CopyText(DEV_Swr[0].version, version);
-        EXPECT_EQ(Run(File_ExecTransferList, "MYHOST:/d/x.SSS", "SWR000D001:/b/x.SSS").size(), 1u)
-            << version;
+        EXPECT_EQ(Transfer("MYHOST:/d/x.SSS", "SWR000D001:/b/x.SSS").size(), 1u) << version;
     }
 }
 
 TEST_F(FileSteps, AFailedStepLeavesNoTemporary)
 {
-    File_XferList_Add(&list, "SWR000D001:/b/x.SSS", "MYHOST:/mnt/usb/usb1/x.SSS");
-    File_XferList_Add(&list, "SWR000D001:/b/y.SSS", "MYHOST:/mnt/usb/usb1/y.SSS");
-    File_XferList_Add(&list, "SWR000D001:/b/z.SSS", "MYHOST:/mnt/usb/usb1/z.SSS");
+    Add({"x.SSS", "y.SSS", "z.SSS"}, "SWR000D001:/b/", "MYHOST:/mnt/usb/usb1/");
     File_ExecTransferList(&list, List, 0);
     (void)Sent();
     Answer(1, "OK");
@@ -157,9 +159,7 @@ TEST_F(FileSteps, AFailedStepLeavesNoTemporary)
 
 TEST_F(FileSteps, ACancelLeavesNothingOnTheStagingPaths)
 {
-    for (const char* name : {"w", "x", "y", "z"})
-        File_XferList_Add(&list, (std::string("SWR000D001:/b/") + name + ".SSS").c_str(),
-                          (std::string("MYHOST:/mnt/usb/usb1/") + name + ".SSS").c_str());
+    Add({"w.SSS", "x.SSS", "y.SSS", "z.SSS"}, "SWR000D001:/b/", "MYHOST:/mnt/usb/usb1/");
     File_ExecTransferList(&list, List, 0);
     Ack(1, 21);
     Answer(2, "OK"); // to be copied to the stick
@@ -167,7 +167,7 @@ TEST_F(FileSteps, ACancelLeavesNothingOnTheStagingPaths)
     Answer(3, "OK"); // it is there, and what was staged is being removed
     Answer(4, "NG(x)");
     (void)Sent();
-    SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0);
+    Cancel();
     EXPECT_THAT(Sent(), ElementsAre("put File@Transfer@Cancel#Lx,21",
                                     "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/w.SSS",
                                     "put File@Access@Remove#Lx,MYHOST:/var/tmp/usb1/x.SSS",
@@ -203,9 +203,7 @@ TEST_F(FileSteps, EightPicturesAreUnderWayAndOneOnARamDisk)
     Answer(list->label, "NG(x)");
     EXPECT_EQ(Sent().size(), 1u);
     File_XferList_RemoveAll(&list);
-    for (const char* name : {"a", "b"})
-        File_XferList_Add(&list, (std::string("MYHOST:/a/") + name + ".SFM").c_str(),
-                          (std::string("SWR000D001:FMEM_00") + name + ".SFM").c_str());
+    Add({"a.SFM", "b.SFM"}, "MYHOST:/a/", "SWR000D001:FMEM_00");
     File_ExecTransferList(&list, List, 0);
     EXPECT_EQ(Sent().size(), 1u);
 }
@@ -243,16 +241,33 @@ struct FileImport : FileSteps {
     }
     void TearDown() override
     {
+        Converted(false, false);
+        FileSteps::TearDown();
+    }
+    // The sides of the picture that the converter leaves.
+    void Converted(bool has_first, bool has_second)
+    {
         std::remove(first.c_str());
         std::remove(second.c_str());
-        FileSteps::TearDown();
+        if (has_first)
+            WriteFile(first, "x");
+        if (has_second)
+            WriteFile(second, "x");
+    }
+    // The picture of that kind begins.
+    void Begin(const char* kind, int info = 0)
+    {
+        File_XferList_Add(&list, (std::string("MYHOST:/mnt/usb/usb1/abcdefgh.") + kind).c_str(),
+                          "SWR000D001");
+        list->info = info;
+        File_ExecFmImportList(&list, List, 0);
+        (void)Sent();
     }
 };
 
 TEST_F(FileImport, BothSidesAreStoredUnderTheirRegistersAndRemoved)
 {
-    WriteFile(first, "x");
-    WriteFile(second, "x");
+    Converted(true, true);
     const std::string a = "MYHOST:" + first;
     const std::string b = "MYHOST:" + second;
     EXPECT_THAT(Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefghij.tif", "SWR000D001"),
@@ -266,65 +281,51 @@ TEST_F(FileImport, BothSidesAreStoredUnderTheirRegistersAndRemoved)
 
 TEST_F(FileImport, ASideThatIsMissingIsPassedOver)
 {
-    const std::string b = "MYHOST:" + second;
-    WriteFile(second, "x");
-    Strings steps = Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
-    steps.erase(steps.begin());
-    EXPECT_THAT(steps, ElementsAre("Frame Memory@PutV3#," + b + ",SWR000D001:FMEM_012.SF2",
-                                   "Access@Remove#," + b));
-    std::remove(second.c_str());
-    const std::string main_side = "MYHOST:" + first;
-    WriteFile(first, "x");
-    steps = Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
-    steps.erase(steps.begin());
-    EXPECT_THAT(steps, ElementsAre("Frame Memory@PutV3#," + main_side + ",SWR000D001:FMEM1000.SF2",
-                                   "Access@Remove#," + main_side));
-    std::remove(first.c_str());
-    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
-    int status = 0;
-    probe::answer = [&](const probe::Seen& s) {
-        if (s.msg == LMSG_FILESTATUS)
-            status = (*reinterpret_cast<FILEXFERLIST**>(s.cx))->status;
-        return 0;
-    };
-    const int job = File_ExecFmImportList(&list, List, 0);
-    (void)Sent();
-    Answer(uint32_t(job) - 1, "OK");
-    EXPECT_EQ(status, FILESTATUS_NG);
+    for (const bool is_first : {false, true}) {
+        const std::string side = "MYHOST:" + (is_first ? first : second),
+                          number = is_first ? "1000" : "_012";
+        Converted(is_first, !is_first);
+        const Strings steps =
+            Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
+        EXPECT_THAT(
+            steps, ElementsAre(HasSubstr("PNG2SFM"),
+                               "Frame Memory@PutV3#," + side + ",SWR000D001:FMEM" + number + ".SF2",
+                               "Access@Remove#," + side));
+    }
+    Converted(false, false);
+    ended.clear();
+    Begin("PNG");
+    Answer(list->label, "OK");
+    EXPECT_THAT(ended, testing::StartsWith("129 ")) << "there is none";
     EXPECT_EQ(list, nullptr);
 }
 
 TEST_F(FileImport, AKeyThatIsNotWantedTakesNoRegister)
 {
-    WriteFile(first, "x");
-    WriteFile(second, "x");
+    Converted(true, true);
     int key = 0;
     probe::answer = [&](const probe::Seen& s) {
         if (s.msg == LMSG_FILESTATUS)
             key = (*reinterpret_cast<FILEXFERLIST**>(s.cx))->import_no[1];
         return 0;
     };
-    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
-    list->info = 1;
-    File_ExecFmImportList(&list, List, 0);
+    Begin("PNG", 1);
     Strings sent;
     for (int i = 0; i < 4; i++) {
         Answer(1, "OK");
         for (const std::string& line : Sent())
             sent.push_back(line.substr(line.find(',') + 1));
     }
-    EXPECT_THAT(sent, testing::Contains(testing::HasSubstr("SWR000D001:FMEM_012.SF2")).Times(1));
-    EXPECT_THAT(sent, testing::Not(testing::Contains(testing::HasSubstr("SWR000D001:FMEM1000"))));
+    EXPECT_THAT(sent, Contains(HasSubstr("SWR000D001:FMEM_012.SF2")).Times(1));
+    EXPECT_THAT(sent, Not(Contains(HasSubstr("SWR000D001:FMEM1000"))));
     EXPECT_THAT(sent, testing::IsSupersetOf({"MYHOST:" + first, "MYHOST:" + second})) << "removed";
     EXPECT_EQ(key, IMPORT_KEY_LEFT_OUT);
 }
 
 TEST_F(FileImport, AStoreThatFailsTakesBothTemporariesAway)
 {
-    WriteFile(first, "x");
-    WriteFile(second, "x");
-    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.BMP", "SWR000D001");
-    File_ExecFmImportList(&list, List, 0);
+    Converted(true, true);
+    Begin("BMP");
     Answer(1, "OK");
     EXPECT_STREQ(list->mesg, "abcdefgh.BMP [1/3]");
     (void)Sent();
@@ -339,9 +340,7 @@ TEST_F(FileImport, WhatHasNoRegisterIsTakenAway)
         File_ExecFmImportRegNoSet(-1, i);
     File_ExecFmImportStartRegNoSet(1);
     WriteFile(first, "x");
-    File_XferList_Add(&list, "MYHOST:/mnt/usb/usb1/abcdefgh.BMP", "SWR000D001");
-    File_ExecFmImportList(&list, List, 0);
-    (void)Sent();
+    Begin("BMP");
     Answer(1, "OK");
     EXPECT_THAT(Sent(), ElementsAre("put File@Access@Remove#Lx,MYHOST:" + first));
     EXPECT_EQ(told.size(), 1u);
@@ -437,5 +436,5 @@ TEST_F(FileSteps, TheDataPortIsAskedForWhereItMayBeUsed)
     EXPECT_EQ(GL_FMDataPortStatus[0], 1);
     File_XferList_Add(&list, "MYHOST:/a/x.SFM", "SWR000D001:FMEM_001.SFM");
     File_ExecFmPutList(&list, List, 0);
-    EXPECT_THAT(Sent(), testing::Contains(HasSubstr("Status@FM Data Port Status@SWR1#L")));
+    EXPECT_THAT(Sent(), Contains(HasSubstr("Status@FM Data Port Status@SWR1#L")));
 }
