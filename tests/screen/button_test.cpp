@@ -1,4 +1,3 @@
-#include "a_ba.h"
 #include "a_bt_page.h"
 #include "a_pc.h"
 #include "favorites.h"

@@ -1,11 +1,8 @@
 // The pages of two lists in the File menu, filled and partly selected, and a detail page.
-#include "a_ls.h"
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
 #include "server_page.h"
 
-namespace
-{
 struct FilePictures : ServerPage {
     static void Registers()
     {
@@ -38,7 +35,6 @@ struct FilePictures : ServerPage {
             LS_SetSelected(list, row, 0, std::ranges::count(rows, row) != 0);
     }
 };
-} // namespace
 
 TEST_F(FilePictures, DualPage)
 {

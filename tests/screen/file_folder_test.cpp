@@ -3,14 +3,11 @@
 #include "a_ff_private.h"
 #include "a_fm.h"
 #include "fmctrl3.h"
-#include "global.h"
 #include "table_page.h"
 #include "text.h"
 #include <filesystem>
 #include <utility>
 
-namespace
-{
 namespace fs = std::filesystem;
 constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
 
@@ -65,7 +62,6 @@ struct FolderPictures : TablePage {
                                  std::to_string(exist) + ", 1");
     }
 };
-} // namespace
 
 TEST_F(FolderPictures, Browser)
 {

@@ -2,8 +2,6 @@
 #include "pc_file_idcopy.h"
 #include "server_page.h"
 
-namespace
-{
 struct SmallFilePictures : ServerPage {
     static constexpr const char* ROOT = "/mnt/data/user/root/";
 
@@ -15,7 +13,6 @@ struct SmallFilePictures : ServerPage {
         ServerPage::TearDown();
     }
 };
-} // namespace
 
 TEST_F(SmallFilePictures, Directory)
 {

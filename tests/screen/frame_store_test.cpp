@@ -7,8 +7,6 @@
 #include "text.h"
 #include <filesystem>
 
-namespace
-{
 namespace fs = std::filesystem;
 constexpr const char* LOCAL = "/mnt/sys/FrameMemory/";
 
@@ -56,7 +54,6 @@ struct StorePictures : TablePage {
         SendMessage(MSG_SHPTALLY, Arg("Insert"), Arg(table), 0, Arg(row.c_str()));
     }
 };
-} // namespace
 
 TEST_F(StorePictures, AClipAndItsFrame)
 {

@@ -1,11 +1,8 @@
 // The pages of Install/Unit Config with a stick that has something for them.
-#include "a_ls.h"
 #include "install_stick.h"
 #include "table_page.h"
 #include "texture_stick.h"
 
-namespace
-{
 struct InstallPictures : TablePage {
     std::unique_ptr<InstallStick> stick;
 
@@ -30,7 +27,6 @@ struct InstallPictures : TablePage {
             Pass(1000);
     }
 };
-} // namespace
 
 TEST_F(InstallPictures, NewInstall)
 {

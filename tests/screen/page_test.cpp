@@ -11,7 +11,6 @@
 #include "tdl.h"
 #include "test_dirs.h"
 #include "text.h"
-#include "types.h"
 #include <algorithm>
 #include <functional>
 #include <iterator>
@@ -19,15 +18,13 @@
 #include <sstream>
 #include <string_view>
 
-namespace
-{
 struct Shot {
     std::string name;
     uint32_t page = 0;
     std::vector<std::string> steps;
 };
 
-std::vector<Shot> ReadShots()
+static std::vector<Shot> ReadShots()
 {
     std::vector<Shot> shots;
     std::istringstream in(FileText(TEST_SOURCE_DIR "/screen/pages.txt"));
@@ -46,7 +43,7 @@ std::vector<Shot> ReadShots()
     return shots;
 }
 
-void Take(const std::string& step)
+static void Take(const std::string& step)
 {
     int x = 0, y = 0;
     if (sscanf(step.c_str(), "press %d,%d", &x, &y) == 2) {
@@ -57,7 +54,6 @@ void Take(const std::string& step)
         SendDummyTally(step.c_str());
     }
 }
-} // namespace
 
 TEST(PagePicture, EachLooksAsItWasJudged)
 {
@@ -80,12 +76,10 @@ TEST(PagePicture, EachLooksAsItWasJudged)
 
 // --- From one page to another ---
 
-namespace
-{
-std::vector<uint8_t> flushes; // of each pixel
-size_t flushed_pixels = 0;
+static std::vector<uint8_t> flushes; // of each pixel
+static size_t flushed_pixels = 0;
 
-void Count(int x, int y, int w, int h)
+static void Count(int x, int y, int w, int h)
 {
     for (int row = y; row < y + h; row++)
         for (int column = x; column < x + w; column++)
@@ -93,7 +87,7 @@ void Count(int x, int y, int w, int h)
     flushed_pixels += size_t(w) * size_t(h);
 }
 
-std::vector<uint32_t> PixelsNow()
+static std::vector<uint32_t> PixelsNow()
 {
     std::vector<uint32_t> pixels;
     for (int y = 0; y < SCREEN_H; y++) {
@@ -103,7 +97,6 @@ std::vector<uint32_t> PixelsNow()
     }
     return pixels;
 }
-} // namespace
 
 // The display is written while the operator looks at it: what belongs to neither of two pages must
 // not be seen between them.

@@ -1,6 +1,5 @@
 // The windows as they look, over a page of keys.
 #include "a_bt_page.h"
-#include "bus.h"
 #include "tdl.h"
 #include "window.h"
 #include <filesystem>

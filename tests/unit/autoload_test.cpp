@@ -2,7 +2,6 @@
 #include "err.h"
 #include "file_page.h"
 #include "fmctrl.h"
-#include "pane.h"
 #include "pc_file.h"
 #include <algorithm>
 #include <map>

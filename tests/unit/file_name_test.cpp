@@ -8,8 +8,6 @@
 #include "text.h"
 #include <cstring>
 
-namespace
-{
 struct FileName : testing::Test {
     const FullHouse all;
     void SetUp() override
@@ -43,7 +41,6 @@ struct FileName : testing::Test {
         return name2info(path.c_str(), to);
     }
 };
-} // namespace
 
 // Every region of every group, first and last register, with the unit's short and whole id.
 TEST_F(FileName, EveryRegionOfEveryGroupComesBack)

@@ -1,6 +1,5 @@
 #include "access.h"
 #include "file_page.h"
-#include "page.h"
 #include "pane_private.h"
 #include <chrono>
 

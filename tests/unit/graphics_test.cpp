@@ -6,8 +6,6 @@
 #include "test_dirs.h"
 #include <filesystem>
 
-namespace
-{
 // A working directory with its own graphics folder; the bitmaps that were loaded before are back at
 // its end.
 struct GraphicsFolder {
@@ -33,19 +31,19 @@ struct GraphicsFolder {
 };
 
 // A bitmap that is known again by its width.
-void SaveBitmap(const std::string& name, int width)
+static void SaveBitmap(const std::string& name, int width)
 {
     SDL_Surface* s = SDL_CreateRGBSurface(SDL_SWSURFACE, width, 1, 24, 0xFF0000, 0xFF00, 0xFF, 0);
     ASSERT_EQ(SDL_SaveBMP(s, ("graphics/" + name + ".bmp").c_str()), 0);
     SDL_FreeSurface(s);
 }
 
-int WidthOf(const SDL_Surface* s)
+static int WidthOf(const SDL_Surface* s)
 {
     return s ? s->w : 0;
 }
 
-int LogLinesWith(const std::string& part)
+static int LogLinesWith(const std::string& part)
 {
     const std::string log = FileText("graphics.log");
     int count = 0;
@@ -53,7 +51,6 @@ int LogLinesWith(const std::string& part)
         count++;
     return count;
 }
-} // namespace
 
 TEST(Graphics, AMissingFileIsANullBitmapAndALogLine)
 {

@@ -1,8 +1,6 @@
 // Installs from a stick: what each step calls, and what stands in the error list when one fails.
 #include "install_stick.h"
 
-namespace
-{
 struct Install : testing::Test {
     std::unique_ptr<InstallStick> stick;
 
@@ -32,7 +30,6 @@ struct Install : testing::Test {
     static std::string Logged() { return FileText("/var/log2/install.log"); }
 };
 constexpr const char* ADVICE = "    Please check the file on your memory card, and try again.";
-} // namespace
 
 TEST_F(Install, EachKeywordCallsItsProgram)
 {

@@ -6,14 +6,11 @@
 #include "pc_file_all_frames.h"
 #include "register.h"
 #include "server_page.h"
-#include "window.h"
 #include <map>
 #include <unistd.h>
 
 using testing::EndsWith, testing::SizeIs, testing::UnorderedElementsAre;
 
-namespace
-{
 constexpr uint32_t ALL_PAGE = 0x71110000;
 const std::string ROOT = "MYHOST:/mnt/data/user/root/SYSTEM/";
 const std::string CLEAR = "Info@Operation Setup Data@Clear Before Load";
@@ -115,7 +112,6 @@ struct FileAllPage : ServerPage {
             (void)Tell(memory + "File Name Sense#" + std::to_string(number) + ",81," + name);
     }
 };
-} // namespace
 
 TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
 {

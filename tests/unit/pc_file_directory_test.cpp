@@ -1,7 +1,5 @@
 // The Directory page against a server that lists, makes and deletes folders.
-#include "a_ls.h"
 #include "server_page.h"
-#include "window.h"
 #include <unistd.h>
 
 using testing::EndsWith;

@@ -1,13 +1,9 @@
 // The pages of two lists in the File menu, through touches, lines and what goes over the wire.
-#include "a_ls.h"
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
 #include "register.h"
 #include "server_page.h"
-#include "window.h"
 
-namespace
-{
 constexpr uint32_t SNAPSHOT_PAGE = 0x71310000;
 constexpr uint32_t SETUP_PAGE = 0x71120000;
 
@@ -46,7 +42,6 @@ struct FileDualPage : ServerPage {
         return texts;
     }
 };
-} // namespace
 
 TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
 {

@@ -1,10 +1,7 @@
 // The Field Invert page, against a server that reads the headers of frames.
-#include "a_ls.h"
 #include "pc_file_fieldinvert.h"
 #include "server_page.h"
 
-namespace
-{
 constexpr const char* DIR = "/mnt/data/user/root/SYSTEM/FRAMEMEM/";
 
 struct FieldInvertPage : ServerPage {
@@ -28,7 +25,6 @@ struct FieldInvertPage : ServerPage {
         return text;
     }
 };
-} // namespace
 
 TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
 {

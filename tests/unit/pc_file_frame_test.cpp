@@ -1,19 +1,16 @@
 // The file pages of the frame memory: registers and folders to drives and back, names, folders.
 #include "frame_page.h"
 
-namespace
-{
 constexpr uint32_t OLD = 0x71510100, NEW = 0x71510200, FOLDERS_PAGE = 0x71520000;
 constexpr const char* DRIVE = "MYHOST:/mnt/data/user/root/SYSTEM/";
 constexpr const char* DUPLICATE =
     "Some requests are skipped. \nFollowing operation is not permitted.\n"
     "  - Loading that will cause duplicate\n    register name.";
 
-std::string OnDrive(const std::string& rest)
+static std::string OnDrive(const std::string& rest)
 {
     return DRIVE + rest;
 }
-} // namespace
 
 TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
 {

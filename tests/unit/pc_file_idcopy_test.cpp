@@ -1,12 +1,9 @@
 // Copies of a unit's and a group's files, against a server that lists, clears and copies.
-#include "a_ls.h"
 #include "pc_file_idcopy.h"
 #include "server_page.h"
 
 using testing::EndsWith;
 
-namespace
-{
 constexpr uint32_t UNIT_PAGE = 0x71720000;
 constexpr uint32_t GROUP_PAGE = 0x71730000;
 constexpr int DME2 = 1297; // region id
@@ -60,7 +57,6 @@ struct FileIdCopyPage : ServerPage {
         return copies;
     }
 };
-} // namespace
 
 TEST_F(FileIdCopyPage, ShowsWhatTheDirectoriesHold)
 {

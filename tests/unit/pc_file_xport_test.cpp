@@ -4,13 +4,10 @@
 #include "file_xport.h"
 #include "fmctrl3.h"
 #include "frame_page.h"
-#include "pane_private.h"
 #include "pc_file_xport.h"
 
 using testing::EndsWith;
 
-namespace
-{
 constexpr uint32_t NEW = 0x71610000, OLD = 0x71610100, CLIPS = 0x71620000;
 constexpr const char* STICK = "MYHOST:/mnt/usb/usb1/SYSTEM/";
 const std::string NOT_PERMITTED =
@@ -128,7 +125,6 @@ struct XportPage : FramePage {
             (void)!::system(("touch /var/tmp/XPORT/SWR001D001/" + file).c_str());
     }
 };
-} // namespace
 
 TEST_F(XportPage, SearchesTheChosenKindInEverySpelling)
 {

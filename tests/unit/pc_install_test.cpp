@@ -1,12 +1,9 @@
 // The page New Install with a stick and three units that say what they run.
-#include "a_ls.h"
 #include "install_stick.h"
 #include "pane.h"
 #include "pc_install.h"
 #include "table_page.h"
 
-namespace
-{
 struct NewInstall : TablePage {
     static constexpr int REFRESH = 49, INSTALL = 50, UNITS = 1, PACKAGES = 2;
     std::unique_ptr<InstallStick> stick;
@@ -106,7 +103,6 @@ struct NewInstall : TablePage {
         return Rows(UNITS, {4})[size_t(RowOf(unit))];
     }
 };
-} // namespace
 
 TEST_F(NewInstall, EachUnitIsOfferedTheNewestPackageThatFits)
 {

@@ -1,5 +1,4 @@
 // The textures of the effects unit: what a touch uses, and what it leaves.
-#include "a_ls.h"
 #include "table_page.h"
 
 using TexturePages = TablePage;

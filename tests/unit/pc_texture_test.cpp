@@ -1,12 +1,9 @@
 // The page Texture Package with bitmaps on the removable drive.
-#include "a_ls.h"
 #include "pane.h"
 #include "table_page.h"
 #include "text.h"
 #include "texture_stick.h"
 
-namespace
-{
 struct TexturePage : TablePage {
     static constexpr int ADD = 36, REMOVE = 37, REFRESH = 38, LOAD = 52, SAVE = 53;
     static constexpr int BITMAPS = 1, PATTERNS = 2;
@@ -64,7 +61,6 @@ struct TexturePage : TablePage {
     }
     static bool Close() { return Answer(400); }
 };
-} // namespace
 
 TEST_F(TexturePage, ComposesStoresAndLoadsAPackage)
 {

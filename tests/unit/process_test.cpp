@@ -7,24 +7,21 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace
-{
-volatile int signals_seen = 0;
-void CountSignal(int)
+static volatile int signals_seen = 0;
+static void CountSignal(int)
 {
     signals_seen = signals_seen + 1;
 }
 
 // The program's own handler takes the tracked child: it must not find one that ktr_system waits
 // for.
-volatile int tracked_seen = 0;
-void ReapTracked(int)
+static volatile int tracked_seen = 0;
+static void ReapTracked(int)
 {
     signals_seen = signals_seen + 1;
     if (cpid)
         tracked_seen = tracked_seen + 1;
 }
-} // namespace
 
 TEST(Process, WordsRunWithoutAShell)
 {

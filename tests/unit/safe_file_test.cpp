@@ -12,8 +12,6 @@ extern "C" int fsync(int fd)
     return int(syscall(SYS_fsync, fd));
 }
 
-namespace
-{
 constexpr char FILE_NAME[] = "/var/tmp/safe_file";
 constexpr char BESIDE[] = "/var/tmp/safe_file.new";
 
@@ -30,7 +28,6 @@ struct SafeFiles : testing::Test {
         unlink(FILE_NAME);
     }
 };
-} // namespace
 
 TEST_F(SafeFiles, TheOldFileStandsUntilTheNewOneIsWhole)
 {

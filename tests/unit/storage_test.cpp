@@ -6,9 +6,6 @@
 #include <filesystem>
 #include <sys/statvfs.h>
 
-namespace
-{
-
 constexpr char LOG[] = "/var/log2/storage.log";
 
 struct Storage : testing::Test {
@@ -28,7 +25,6 @@ struct Storage : testing::Test {
     }
     void TearDown() override { Log_Init(nullptr, LOG_FILE_SIZE); }
 };
-} // namespace
 
 TEST_F(Storage, FreeSpaceIsTheSystemsOwnFigure)
 {

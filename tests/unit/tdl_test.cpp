@@ -3,14 +3,11 @@
 #include <climits>
 #include <gtest/gtest.h>
 
-namespace
-{
 constexpr int DEPTHS[] = {8, 16, 24, 32};
 constexpr unsigned RED = 0xFF0000; // exact at every depth
 constexpr unsigned WHITE = 0xFFFFFF;
 
-SDL_Surface* Source; // of the bitmap verbs
-} // namespace
+static SDL_Surface* Source; // of the bitmap verbs
 
 TEST(Drawing, TheScreenEdgeCutsOrRefuses)
 {
@@ -73,12 +70,10 @@ TEST(Drawing, AFlushIsCutAtTheScreenAndNeverEmpty)
     }
 }
 
-namespace
-{
-SDL_Surface* Shown; // what has been handed over to the display
-int Handed;         // pixels
+static SDL_Surface* Shown; // what has been handed over to the display
+static int Handed;         // pixels
 
-void HandOver(int x, int y, int w, int h)
+static void HandOver(int x, int y, int w, int h)
 {
     SDL_Rect from = {Sint16(x), Sint16(y), Uint16(w), Uint16(h)};
     SDL_Rect to = from;
@@ -86,12 +81,11 @@ void HandOver(int x, int y, int w, int h)
     Handed += w * h;
 }
 
-template <int COUNT> void Dots()
+template <int COUNT> static void Dots()
 {
     for (int i = 0; i < COUNT; i++)
         TDL_FillRect(8 * (i % 90), 8 * (i / 90), 8 * (i % 90), 8 * (i / 90), RED);
 }
-} // namespace
 
 TEST(Drawing, TheDisplayGetsWhatDiffersFromItAndNothingTwice)
 {
@@ -165,14 +159,12 @@ TEST(Drawing, AlphaFillBlendsLikeTheLibrary)
     }
 }
 
-namespace
-{
-SDL_Surface* PlainSource()
+static SDL_Surface* PlainSource()
 {
     return NoiseSurface(85, 66, 99);
 }
 
-SDL_Surface* KeyedSource()
+static SDL_Surface* KeyedSource()
 {
     SDL_Surface* s = NoiseSurface(85, 66, 98);
     SDL_Rect window = {10, 10, 30, 30};
@@ -181,7 +173,7 @@ SDL_Surface* KeyedSource()
     return s;
 }
 
-SDL_Surface* PixelAlphaSource()
+static SDL_Surface* PixelAlphaSource()
 {
     SDL_Surface* s =
         SDL_CreateRGBSurface(SDL_SRCALPHA, 85, 66, 32, 0xFF0000, 0xFF00, 0xFF, 0xFF000000);
@@ -189,13 +181,12 @@ SDL_Surface* PixelAlphaSource()
     return s;
 }
 
-SDL_Surface* FaintSource()
+static SDL_Surface* FaintSource()
 {
     SDL_Surface* s = PlainSource();
     SDL_SetAlpha(s, SDL_SRCALPHA, 100);
     return s;
 }
-} // namespace
 
 TEST(Drawing, BitmapsAreCutAndBlendedLikeTheLibraryDoes)
 {

@@ -3,7 +3,6 @@
 #include "text.h"
 #include <cstring>
 #include <gtest/gtest.h>
-#include <string>
 
 namespace
 {

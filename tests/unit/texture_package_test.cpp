@@ -2,8 +2,6 @@
 // nothing.
 #include "texture_stick.h"
 
-namespace
-{
 constexpr const char* ZSP = TEXTURE_STICK "UserTexture/UserTexture.zsp";
 
 struct TexturePackage : testing::Test {
@@ -18,7 +16,6 @@ struct TexturePackage : testing::Test {
         return TexturePackage_Add(t);
     }
 };
-} // namespace
 
 TEST_F(TexturePackage, OnlyBitmapsOfASizeThatTheMemoryKnowsArePatterns)
 {
