@@ -31,9 +31,7 @@ struct InstallPictures : TablePage {
 TEST_F(InstallPictures, NewInstall)
 {
     static const struct {
-        const char* title;
-        const char* version;
-        const char* target;
+        const char *title, *version, *target;
     } packages[] = {
         {"KTR40G Upgrade", "5.10 (Nov.02.2026)", "SWR"},
         {"KTR40G Full", "5.10 (Nov.02.2026)", "SWR"},

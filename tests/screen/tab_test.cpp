@@ -91,9 +91,7 @@ TEST_F(TabPictures, ListOfPaths)
     };
     Tree({"Key Frame", "M/E-1"}, 0x61130000, OBJ_KP);
     KP_Create(rows, 0);
-    static const struct {
-        const char *path, *value;
-    } tallies[] = {
+    static const std::pair<const char*, const char*> tallies[] = {
         {"All@Xpt", "Mixed"},
         {"All@Hue", "Short"},
         {"All@Curve", "Linear"},
@@ -105,8 +103,8 @@ TEST_F(TabPictures, ListOfPaths)
         {"Key1@Curve@Spline@Cont", "-1"},
         {"Wipe@Curve", "Step"},
     };
-    for (const auto& t : tallies)
-        Tally((std::string("Key Frame@M/E-1@") + t.path).c_str(), t.value);
+    for (const auto& [path, value] : tallies)
+        Tally((std::string("Key Frame@M/E-1@") + path).c_str(), value);
     Touch(150, 104 + 50); // the caption of the second row is felt
     Pass(0);
     EXPECT_TRUE(MatchesGolden("path_list", {97, 73, 702, 526}));

@@ -94,8 +94,7 @@ TEST_F(AutoLoad, EachLockedCategoryIsLeftOutOfTheSearch)
     const Strings folders = {"DSNAP",    "EFFECT",  "FRAMEMEM", "KSNAP", "MACRO",
                              "MACROATC", "SHOTBOX", "SNAPSHOT", "WSNAP"};
     const struct {
-        const char* unit;
-        const char* folder;
+        const char *unit, *folder;
         int v6;
         int lock; // -1 none
         const char* left_out;

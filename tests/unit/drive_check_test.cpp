@@ -8,10 +8,7 @@
 TEST(DriveCheck, AMountIsThereWhenTheSecondLineNamesADevice)
 {
     constexpr char file[] = "/var/tmp/drive_check";
-    static const struct {
-        const char* text;
-        int is_missing;
-    } cases[] = {
+    static const std::pair<const char*, int> cases[] = {
         {"Filesystem 1M-blocks\n/dev/sda3 1000 10 990 1% /mnt/data\n", 0},
         {"Filesystem 1M-blocks\n/dev/sda3", 0},
         {"Filesystem 1M-blocks\ntmpfs 1000 10 990 1% /\n", 1}, // the mount point lies elsewhere
@@ -20,12 +17,12 @@ TEST(DriveCheck, AMountIsThereWhenTheSecondLineNamesADevice)
         {"a\nb\n/dev/sda3\n", 1},
         {"", 1},
     };
-    for (const auto& c : cases) {
+    for (const auto& [text, is_missing] : cases) {
         FILE* fp = fopen(file, "w");
         ASSERT_NE(fp, nullptr);
-        fputs(c.text, fp);
+        fputs(text, fp);
         fclose(fp);
-        EXPECT_EQ(DriveCheck_IsMissing(file), c.is_missing) << c.text;
+        EXPECT_EQ(DriveCheck_IsMissing(file), is_missing) << text;
     }
     unlink(file);
     EXPECT_EQ(DriveCheck_IsMissing(file), 1);

@@ -348,10 +348,7 @@ TEST_F(FileImport, WhatHasNoRegisterIsTakenAway)
 
 TEST_F(FileImport, OnlyKnownImagesFromKnownDrivesAreTaken)
 {
-    static const struct {
-        const char* src;
-        const char* dst;
-    } refused[] = {
+    static const std::pair<const char*, const char*> refused[] = {
         {"MYHOST:/mnt/data/a.TIF", "SWR000D001"},
         {"MYHOST:/mnt/usb/../data/a.TIF", "SWR000D001"},
         {"MYHOST:/mnt/usb/usb1/a.TIF", "SWR000D009"},
@@ -359,8 +356,8 @@ TEST_F(FileImport, OnlyKnownImagesFromKnownDrivesAreTaken)
         {"MYHOST:/mnt/usb/usb1/a.tIF", "SWR000D001"},
         {"MYHOST:/mnt/sys/FMLoad/FM1/a.TIF", "SWR000D001"},
     };
-    for (const auto& r : refused)
-        File_XferList_ImportAdd(&list, r.src, r.dst, 0);
+    for (const auto& [src, dst] : refused)
+        File_XferList_ImportAdd(&list, src, dst, 0);
     File_ExecFmImportList(&list, List, 0);
     EXPECT_THAT(Sent(), IsEmpty());
     EXPECT_EQ(list, nullptr) << "nothing is left to wait for";
@@ -391,8 +388,7 @@ TEST_F(FileImport, ThumbnailsWaitForWhatGoesOverTheDataPort)
     static constexpr char PLACE[] = "SWR000D001:FMEM_001.SFM";
     static const struct {
         Entry entry;
-        const char* src;
-        const char* dst;
+        const char *src, *dst;
         bool goes_over_it = true;
     } cases[] = {
         {File_ExecTransferList, "MYHOST:/a/x.SSS", "SWR000D001:/b/x.SSS", false},

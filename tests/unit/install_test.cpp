@@ -33,10 +33,7 @@ constexpr const char* ADVICE = "    Please check the file on your memory card, a
 
 TEST_F(Install, EachKeywordCallsItsProgram)
 {
-    static const struct {
-        const char* cfg;
-        Strings calls;
-    } cases[] = {
+    static const std::pair<const char*, Strings> cases[] = {
         {"INSTALL a.bin APP 5.10\n", {"ui_install [" STICK "/pkg/a.bin] [APP]"}},
         {"install\ta.bin  APP\r\n", {"ui_install [" STICK "/pkg/a.bin] [APP]"}},
         {"INSTALL a.bin LINUX Version 2.10#3 (Mar.01.2013)\n", {}},
@@ -55,19 +52,18 @@ TEST_F(Install, EachKeywordCallsItsProgram)
         {"EXECS one\nSPUT a.bin /x\nEXECS two\n",
          {"scs_exec [one]", "scs_transfer [put] [" STICK "/pkg/a.bin] [/x]", "scs_exec [two]"}},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Run(c.cfg), 0) << c.cfg;
-        EXPECT_EQ(InstallStick::Calls(), c.calls) << c.cfg;
-        EXPECT_THAT(InstallStick::Errors(), IsEmpty()) << c.cfg;
-        EXPECT_EQ(GetWindow(), WINDOW_NONE) << c.cfg;
+    for (const auto& [cfg, calls] : cases) {
+        EXPECT_EQ(Run(cfg), 0) << cfg;
+        EXPECT_EQ(InstallStick::Calls(), calls) << cfg;
+        EXPECT_THAT(InstallStick::Errors(), IsEmpty()) << cfg;
+        EXPECT_EQ(GetWindow(), WINDOW_NONE) << cfg;
     }
 }
 
 TEST_F(Install, AStepThatFailsEndsItAndIsTold)
 {
     static const struct {
-        const char* step;
-        const char* script;
+        const char *step, *script;
         int status;
         bool is_told_by_server;
     } cases[] = {
@@ -106,24 +102,21 @@ TEST_F(Install, OneDigitOfTheUnitsNumberGoesIntoACommand)
 
 TEST_F(Install, ACommandInTheBackgroundIsWaitedForWhateverWasEstimated)
 {
-    static const struct {
-        const char* status;
-        int polls;
-    } cases[] = {
+    static const std::pair<const char*, int> cases[] = {
         {"2", 30},
         {"1", 90}, // longer than estimated
         {"0", 3},
         {"101", 3},
     };
-    for (const auto& c : cases) {
-        InstallStick::Ends("scs_exec", std::string(c.status) + "\n0");
+    for (const auto& [status, polls] : cases) {
+        InstallStick::Ends("scs_exec", std::string(status) + "\n0");
         InstallStick::Put("result", "OK done\n");
-        InstallStick::Put("after", std::to_string(c.polls - 1));
+        InstallStick::Put("after", std::to_string(polls - 1));
         const uint32_t begin = Clock_ms;
-        EXPECT_EQ(Run("EXECS size time\nEXECS_BG copy\n"), 0) << c.status;
-        EXPECT_EQ(Clock_ms - begin, uint32_t(c.polls) * 1000) << "one look a second";
+        EXPECT_EQ(Run("EXECS size time\nEXECS_BG copy\n"), 0) << status;
+        EXPECT_EQ(Clock_ms - begin, uint32_t(polls) * 1000) << "one look a second";
         EXPECT_THAT(InstallStick::Errors(), IsEmpty());
-        EXPECT_THAT(Logged(), HasSubstr("install_scs:: remain = " + std::string(c.status)));
+        EXPECT_THAT(Logged(), HasSubstr("install_scs:: remain = " + std::string(status)));
     }
 }
 

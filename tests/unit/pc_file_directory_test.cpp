@@ -112,17 +112,14 @@ TEST_F(DirectoryPage, TakesNoMoreThanADriveMayHold)
 TEST_F(DirectoryPage, RefusesNamesThatCannotBe)
 {
     ListLocal();
-    static const struct {
-        const char* name;
-        bool is_made;
-    } cases[] = {
+    static const std::pair<const char*, bool> cases[] = {
         {"aux", false},   {"COM0", false}, {"lpt9", false}, {"pwon_ld", false}, {"NEWS", false},
         {"system", true}, {"con.", true},  {"", false},     {"WEATHER", true},
     };
-    for (const auto& c : cases) {
+    for (const auto& [name, is_made] : cases) {
         File_Reset();
-        EXPECT_EQ(Make(c.name).size(), c.is_made ? 1u : 0u) << c.name;
-        if (!c.is_made)
+        EXPECT_EQ(Make(name).size(), is_made ? 1u : 0u) << name;
+        if (!is_made)
             (void)Answer(0);
     }
 }
@@ -141,13 +138,11 @@ TEST_F(DirectoryPage, MakesADirectoryAndStandsOnIt)
 TEST_F(DirectoryPage, DeletesOnYesAndTellsWhyItCouldNot)
 {
     List(opened, {"SPORT", "NEWS", "A#B", "Q?", "LATE"});
-    static const struct {
-        int row;
-        bool is_deletable;
-    } rows[] = {{1, false}, {2, true}, {4, false}, {3, true}}; // A#B, LATE, Q?, NEWS
-    for (const auto& r : rows) {
-        (void)Touch(120, 78 + 22 * (r.row + 1) + 5);
-        EXPECT_EQ(Disabled().count(DELETE), !r.is_deletable) << LS_GetData(1, r.row, 0);
+    static const std::pair<int, bool> rows[] = {
+        {1, false}, {2, true}, {4, false}, {3, true}}; // A#B, LATE, Q?, NEWS
+    for (const auto& [row, is_deletable] : rows) {
+        (void)Touch(120, 78 + 22 * (row + 1) + 5);
+        EXPECT_EQ(Disabled().count(DELETE), !is_deletable) << LS_GetData(1, row, 0);
     }
     EXPECT_TRUE(Choose(DELETE).empty());
     EXPECT_THAT(Answer(2), IsEmpty()) << "No";

@@ -219,8 +219,7 @@ TEST_F(FileDualPage, EveryFamilyHasItsOwnCommands)
     static const struct {
         FILEPAGE page;
         int region;
-        const char* rename;
-        const char* remove;
+        const char *rename, *remove;
     } cases[] = {
         {FILEPAGE_EFFECT, 288, "put Effect@Effect@Rename@Rename#0000000000101000,3,N",
          "put Effect@Effect@Delete@Delete#0000000000101000,3,3"},

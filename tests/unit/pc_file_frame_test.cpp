@@ -218,9 +218,7 @@ TEST_F(FramePage, FoldersAreMadeNamedAndDeleted)
     EXPECT_STREQ(LS_GetData(1, 0, 2), "1");
     EXPECT_EQ(Usable({49, 50, 51}), std::vector{49}); // the switcher's own folder stays
     static const struct {
-        const char* entered;
-        const char* sent;
-        const char* says;
+        const char *entered, *sent, *says;
     } cases[] = {
         {"News", "put Frame Mem@Folder@Rename#2,News", ""},
         {"Too long a name", "put Frame Mem@Folder@Rename#2,Too_long", ""},

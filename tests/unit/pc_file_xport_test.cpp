@@ -477,8 +477,7 @@ TEST(XportNames, RowsOfASearch)
     static const struct {
         std::string path;
         bool is_taken;
-        const char* name;
-        const char* clip;
+        const char *name, *clip;
         int frame;
         const char* register_name;
     } cases[] = {

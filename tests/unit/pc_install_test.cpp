@@ -135,9 +135,7 @@ TEST_F(NewInstall, EachUnitIsOfferedTheNewestPackageThatFits)
 TEST_F(NewInstall, VersionFilesAreReadUpToTheirOddities)
 {
     static const struct {
-        const char* line;
-        const char* shown;
-        const char* full;
+        const char *line, *shown, *full;
     } cases[] = {
         {"SWR:   Version 5.9#3 (Mar.01)\nmore", "5.9 (Mar.01)", "5.9#3 (Mar.01)"},
         {"no colon\n", "no colon", "no colon"},

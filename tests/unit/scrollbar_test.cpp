@@ -72,16 +72,14 @@ TEST_F(ScrollBars, ATouchTellsItsOwnerWhereTo)
 
 TEST_F(ScrollBars, AHeldArrowWaitsOnceAndThenRepeats)
 {
-    static const struct {
-        int elapsed_ms;
-        size_t steps;
-    } passes[] = {{299, 0}, {1, 1}, {49, 0}, {1, 1}, {50, 1}, {5000, 1}, {0, 0}, {50, 1}};
+    static const std::pair<int, size_t> passes[] = {{299, 0}, {1, 1},    {49, 0}, {1, 1},
+                                                    {50, 1},  {5000, 1}, {0, 0},  {50, 1}};
     for (int y : {UP, DOWN}) {
         Press(X, y);
         EXPECT_EQ(Told().size(), 1u) << "the first step comes at once";
-        for (const auto& p : passes) {
-            Redraw(p.elapsed_ms);
-            EXPECT_EQ(Told().size(), p.steps) << p.elapsed_ms;
+        for (const auto& [elapsed_ms, steps] : passes) {
+            Redraw(elapsed_ms);
+            EXPECT_EQ(Told().size(), steps) << elapsed_ms;
         }
         Release();
         Redraw(5000);

@@ -44,19 +44,16 @@ void PutEntry(std::vector<uint8_t>* table, int font, int code, uint32_t value)
 void WriteFonts()
 {
     std::vector<uint8_t> table(5120), image;
-    static const struct {
-        int font;
-        int height;
-    } fonts[] = {{FONT_SOLID, 10}, {FONT_COVERAGE, 16}};
-    for (const auto& f : fonts) {
-        PutEntry(&table, f.font, 0, uint32_t(f.height));
+    static const std::pair<int, int> fonts[] = {{FONT_SOLID, 10}, {FONT_COVERAGE, 16}};
+    for (const auto& [font, height] : fonts) {
+        PutEntry(&table, font, 0, uint32_t(height));
         for (int code = 1; code <= 127; code++) {
-            PutEntry(&table, f.font, code, uint32_t(image.size()));
+            PutEntry(&table, font, code, uint32_t(image.size()));
             if (code == 127)
                 break;
-            for (int row = 0; row < f.height; row++)
-                for (int i = 0; i < WidthOf(f.font, code); i++)
-                    image.push_back(uint8_t(f.font == FONT_SOLID ? 255 : 16 * row + i));
+            for (int row = 0; row < height; row++)
+                for (int i = 0; i < WidthOf(font, code); i++)
+                    image.push_back(uint8_t(font == FONT_SOLID ? 255 : 16 * row + i));
         }
     }
     PutEntry(&table, FONT_RUBBISH, 0, 20);

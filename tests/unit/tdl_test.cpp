@@ -13,8 +13,7 @@ TEST(Drawing, TheScreenEdgeCutsOrRefuses)
 {
     static const struct {
         Verb verb;
-        int result;
-        int painted;
+        int result, painted;
     } cases[] = {
         {BOTH(TDL_LineH, 800, 5, 3, RED), 1, 0},
         {BOTH(TDL_LineH, 790, 5, 20, RED), 0, 10},
@@ -53,20 +52,17 @@ TEST(Drawing, TheScreenEdgeCutsOrRefuses)
 
 TEST(Drawing, AFlushIsCutAtTheScreenAndNeverEmpty)
 {
-    static const struct {
-        Rect r;
-        const char* flushed;
-    } cases[] = {
+    static const std::pair<Rect, const char*> cases[] = {
         {{-5, -6, 10, 20}, "0,0-10,20"},
         {{790, 590, 900, 900}, "790,590-799,599"},
         {{800, 0, 900, 9}, ""}, // the library takes a width of 0 for the whole screen
         {{9, 0, 8, 9}, ""},
     };
     const TestDisplay display;
-    for (const auto& c : cases) {
+    for (const auto& [r, flushed] : cases) {
         Flushed.clear();
-        EXPECT_EQ(TDL_UpdateRect(c.r.x1, c.r.y1, c.r.x2, c.r.y2), 0);
-        EXPECT_EQ(Flushed.empty() ? "" : RectText(Flushed[0]), c.flushed);
+        EXPECT_EQ(TDL_UpdateRect(r.x1, r.y1, r.x2, r.y2), 0);
+        EXPECT_EQ(Flushed.empty() ? "" : RectText(Flushed[0]), flushed);
     }
 }
 

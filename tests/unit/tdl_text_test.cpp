@@ -71,10 +71,7 @@ TEST(DrawnText, EveryCoverageBlendsLikeTheLibrary)
 // clang-format off
 TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
 {
-    static const struct {
-        Verb verb;
-        std::vector<Cell> cells;
-    } cases[] = {
+    static const std::pair<Verb, std::vector<Cell>> cases[] = {
         {BOTH(TDL_Symbol, 10, 20, "aWi", 1, WHITE), {{10, 20}, {16, 20, 9}, {25, 20, 2}}},
         {BOTH(TDL_Symbol, 10, 20, "a\n\nbc", 1, WHITE), {{10, 20}, {10, 40}, {16, 40}}},
         {BOTH(TDL_Symbol, 10, 20, "", 1, WHITE), {}},
@@ -115,10 +112,10 @@ TEST(DrawnText, GlyphsStandWhereTheWalkPutsThem)
         {BOTH(TDL_SymbolB, 10, 10, 99, 99, "ABCDEFGW", FONT_RUBBISH, WHITE, 0), {}},
     };
     const TestDisplay display;
-    for (const auto& c : cases) {
-        const Drawn drawn = Draw(c.verb);
-        EXPECT_EQ(drawn.result, 0) << c.verb.text;
-        EXPECT_EQ(Difference(drawn.pixels, PictureOf(c.cells)), "nothing") << c.verb.text;
+    for (const auto& [verb, cells] : cases) {
+        const Drawn drawn = Draw(verb);
+        EXPECT_EQ(drawn.result, 0) << verb.text;
+        EXPECT_EQ(Difference(drawn.pixels, PictureOf(cells)), "nothing") << verb.text;
     }
 }
 
@@ -147,8 +144,7 @@ TEST(DrawnText, Measures)
 {
     static const struct {
         const char* text;
-        int lines;
-        int width;
+        int lines, width;
         int chars; // in the longest line
         int wrapped_at_13;
     } cases[] = {

@@ -69,8 +69,7 @@ TEST(Text, NamesLoseWhatTheirKindMayNotHold)
 {
     static const struct {
         int (*make)(char*);
-        const char* text;
-        const char* result;
+        const char *text, *result;
     } cases[] = {
         {.make = StrFileName, .text = "a b\\c/d:e,f;g*h?i\"j", .result = "a_b_c_d_e_f_g_h_i_j"},
         {.make = StrFileName, .text = "con.", .result = "con_"},

@@ -30,8 +30,7 @@ TEST(Timecode, FramesBecomeText)
 {
     SYS_FrameRate = 25;
     static const struct {
-        int frame;
-        int n;
+        int frame, n;
         const char* text;
     } cases[] = {
         {.frame = 30, .n = 1, .text = "05"},
