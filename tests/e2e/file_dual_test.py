@@ -1,15 +1,12 @@
-"""The pages of two lists and the Directory page at the desk: registers, drives, and what goes wrong between them.
-
-usage: file_dual_test.py BUILD_DIR [TEST...]
-"""
-
+"""The pages of two lists and the Directory page at the desk: registers, drives, and what goes wrong between them."""
 import os
 import shutil
 import time
 import unittest
 
 from desk import Desk, grid
-from deskcase import BUILD, DeskCase
+from deskcase import BUILD
+from drivecase import DriveCase
 
 DEVICE_A, DEVICE_B = (150, 98), (455, 98)
 L_TO_R, R_TO_L, DETAIL_A = (290, 478), (405, 478), grid(49)
@@ -24,7 +21,7 @@ KEYS = (("`1234567890-=", 75, 229), ("qwertyuiop[]\\", 75, 283), ("asdfghjkl;'",
 FIND = "put File@Access@Find#"
 
 
-class FilePages(DeskCase):
+class FilePages(DriveCase):
     @classmethod
     def make_desk(cls):
         desk = Desk(BUILD, server=False)
@@ -55,16 +52,10 @@ class FilePages(DeskCase):
             time.sleep(0.03)
         raise AssertionError(f"{text!r} did not come; the log said {log[-1500:]}")
 
-    def path(self, path):
-        return self.desk.root + path
-
-    def lay(self, path, count, content=b"x" * 1000):
-        """Snapshots of M/E-1 with the numbers from 1."""
-        folder = self.path(path + "SNAPSHOT/SWR000D001/ME1/")
-        os.makedirs(folder, exist_ok=True)
+    def lay_shots(self, count):
+        """Snapshots of M/E-1 with the numbers from 1 on the local drive."""
         for n in range(1, count + 1):
-            with open(f"{folder}SHOT {n}.ME1_{n:03d}.SSS", "wb") as out:
-                out.write(content)
+            self.lay(f"{LOCAL}SNAPSHOT/SWR000D001/ME1/SHOT {n}.ME1_{n:03d}.SSS", b"x" * 1000)
 
     def files(self, path):
         found = []
@@ -162,7 +153,7 @@ class FilePages(DeskCase):
         self.assertEqual(self.files(LOCAL), [])
 
     def test_the_stick_is_pulled(self):
-        self.lay(LOCAL, 20)
+        self.lay_shots(20)
         self.snapshots(1, 2)
         self.desk.touch(*ALL_ROWS_A)
         self.desk.console("slow 40")
@@ -179,7 +170,7 @@ class FilePages(DeskCase):
         self.assertEqual(self.files(STICK), self.files(LOCAL))
 
     def test_a_transfer_outlives_its_page_and_is_cancelled(self):
-        self.lay(LOCAL, 10)
+        self.lay_shots(10)
         self.snapshots(1, 2)
         self.desk.touch(*ALL_ROWS_A)
         self.desk.console("slow 400")
@@ -207,7 +198,7 @@ class FilePages(DeskCase):
         self.assertIn("SNAPSHOT/SWR000D001/ME1/TWO SHOT.ME1_001.SSS", self.files(LOCAL))
 
     def test_rubbish_from_the_server_moves_nothing_else(self):
-        self.lay(LOCAL, 10)
+        self.lay_shots(10)
         self.snapshots(1, 2)
         self.desk.touch(*ALL_ROWS_A)
         self.desk.console("slow 40")

@@ -1,14 +1,10 @@
-"""The All page of the File menu at the desk: what is saved, changed and loaded again, copied, stopped and refused.
-
-usage: file_page_test.py BUILD_DIR [TEST...]
-"""
+"""The All page of the File menu at the desk: what is saved, changed and loaded again, copied, stopped and refused."""
 import os
-import shutil
 import time
 import unittest
 
 from desk import grid
-from deskcase import DeskCase
+from drivecase import DriveCase
 
 LOCAL = "/mnt/data/user/root/SYSTEM/"
 STICK = "/mnt/usb/usb1/SYSTEM/"
@@ -31,7 +27,7 @@ def key(category):
     return grid(place // 6 << 4 | place % 6 + 1)
 
 
-class AllPage(DeskCase):
+class AllPage(DriveCase):
     """Test 1 lays the files that the others work with."""
 
     @classmethod
@@ -48,18 +44,6 @@ class AllPage(DeskCase):
         self.desk.console("page 0011")
         self.desk.wait_wire("remove Info@Operation Setup Data@Clear Before Load")
 
-    def path(self, path):
-        return self.desk.root + path
-
-    def exists(self, path):
-        return os.path.exists(self.path(path))
-
-    def wait(self, done, what, seconds=8.0):
-        end = time.monotonic() + seconds
-        while not done():
-            self.assertLess(time.monotonic(), end, what)
-            time.sleep(0.05)
-
     def wait_calm(self):
         self.wait(lambda: self.desk.part(*PAGE) == self.calm, "the panes did not close")
 
@@ -72,14 +56,13 @@ class AllPage(DeskCase):
                 self.desk.touch(*key(category), settle=0.14)
         self.desk.console(f"put {CLIP}#42")
         self.desk.console("put Snapshot@Snapshot@Store#2,7,MINE")
-        stale = self.path(LOCAL + "SNAPSHOT/SWR000D001/ME1/STALE.ME1_050.SSS")
-        os.makedirs(os.path.dirname(stale), exist_ok=True)
-        open(stale, "wb").close()
+        stale = LOCAL + "SNAPSHOT/SWR000D001/ME1/STALE.ME1_050.SSS"
+        self.lay(stale)
         self.desk.touch(*L_TO_R)
         self.desk.touch(*YES)
         self.wait(lambda: self.exists(LOCAL + PICTURE_FILE), "no picture was saved")
         self.wait_calm()
-        self.assertFalse(os.path.exists(stale), "the directory was not cleared")
+        self.assertFalse(self.exists(stale), "the directory was not cleared")
         self.assertTrue(self.exists(LOCAL + SNAPSHOT_FILE) and self.exists(LOCAL + "SETUP/CTRLCPU/SETUP.GUI_0000.PST"))
         # The desk goes on.
         self.desk.console(f"put {CLIP}#3")
@@ -119,13 +102,10 @@ class AllPage(DeskCase):
     def test_3_automation_loads_by_a_marker_in_its_folder(self):
         self.desk.console("page 0011")
         self.desk.console("put Snapshot@Snapshot@Delete#2,7,7")
-        file = IMPORT + MINE_FILE
-        os.makedirs(os.path.dirname(self.path(file)))
-        shutil.copy(self.path(LOCAL + MINE_FILE), self.path(file))
-        open(self.path(COMMAND + "allload.cmd"), "wb").close()
+        self.lay(IMPORT + MINE_FILE, self.content(LOCAL + MINE_FILE))
+        self.lay(COMMAND + "allload.cmd")
         self.wait(lambda: self.exists(COMMAND + "allload.res"), "no answer")
-        with open(self.path(COMMAND + "allload.res"), "rb") as answer:
-            self.assertEqual(answer.read(), b"OK\n")
+        self.assertEqual(self.content(COMMAND + "allload.res"), b"OK\n")
         self.assertFalse(self.exists(COMMAND + "allload.cmd"))
         self.desk.console(f"put {CLIP}#3")
         self.desk.console("put Snapshot@Snapshot@Recall#2,7")

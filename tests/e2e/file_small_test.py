@@ -1,61 +1,28 @@
-"""The small pages of the File menu at the desk, up to what lies on the drives.
-
-usage: file_small_test.py BUILD_DIR [TEST...]
-"""
-import os
-import struct
+"""The small pages of the File menu at the desk, up to what lies on the drives."""
 import time
 import unittest
-import zlib
 
 from desk import grid
-from deskcase import DeskCase
+from drivecase import DriveCase, frame
 
-LOCAL = "mnt/data/user/root/SYSTEM"
-STICK = "mnt/usb/usb1/SYSTEM"
+LOCAL = "/mnt/data/user/root/SYSTEM"
+STICK = "/mnt/usb/usb1/SYSTEM"
 YES = (200 + 97 + 20, 140 + 247 + 15)
 OK_KEY = (200 + 153 + 20, 140 + 247 + 15)
 TEXT_WELL = (230, 205, 560, 370)  # of a pane
 
 
-def frame(name):
-    """A frame-memory file: 64 bytes of header, a BMP of 8 x 8."""
-    body = bytes(range(8 * 8 * 3))
-    bmp = b"BM" + struct.pack("<IIIIiiHHIIiiII", 54 + len(body), 0, 54, 40, 8, 8, 1, 24, 0, len(body), 0, 0, 0, 0) + body
-    head = (b"SFMD" + bytes([3, 0, 0, 0, 0]).ljust(12, b"\0") + name.encode()).ljust(60, b"\0")
-    return head + struct.pack(">I", zlib.crc32(head)) + bmp
-
-
-class SmallPages(DeskCase):
+class SmallPages(DriveCase):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
         cls.desk.console("stick in")
 
-    def lay(self, path, content=b"some bytes"):
-        path = os.path.join(self.desk.root, path)
-        os.makedirs(os.path.dirname(path), exist_ok=True)
-        with open(path, "wb") as out:
-            out.write(content)
-
-    def content(self, path):
-        try:
-            with open(os.path.join(self.desk.root, path), "rb") as file:
-                return file.read()
-        except FileNotFoundError:
-            return None
-
-    def wait(self, is_there, timeout=12.0):
-        end = time.monotonic() + timeout
-        while not is_there():
-            self.assertLess(time.monotonic(), end)
-            time.sleep(0.05)
-
     def open_file_page(self, number, command):
         """The search that the page begins with, as far as its label."""
         self.desk.wire()
         self.desk.console(f"page {number}")
-        self.wait(lambda: any(line.startswith(command) for line in self.desk.wire()))
+        self.desk.wait_wire(command, 12, starts=True)
         time.sleep(0.5)
 
     def test_1_a_units_files_go_to_another_unit(self):
@@ -74,7 +41,7 @@ class SmallPages(DeskCase):
         self.wait(lambda: self.content(f"{STICK}/SETUP/SWR000D002/A.DEV_0000.SST") == b"some bytes")
         time.sleep(0.5)
         self.assertIsNone(self.content(f"{STICK}/SETUP/SWR000D003/OLD.DEV_0000.SST"))
-        self.assertFalse(os.path.exists(os.path.join(desk.root, STICK, "SNAPSHOT/DME000D001")))
+        self.assertFalse(self.exists(f"{STICK}/SNAPSHOT/DME000D001"))
 
     def test_2_the_fields_of_a_frame_change_places(self):
         path = f"{LOCAL}/FMEMFOL/DEFAULT/SWR000D001/Mbars.FMEM_200.SFM"
@@ -128,4 +95,4 @@ class SmallPages(DeskCase):
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=1)
+    unittest.main()

@@ -1,13 +1,10 @@
-"""Installs and texture packages at the desk, with the device's scripts stood in for.
-
-usage: install_test.py BUILD_DIR [TEST...]
-"""
+"""Installs and texture packages at the desk, with the device's scripts stood in for."""
 import os
 import time
 import unittest
 
 from desk import grid
-from deskcase import DeskCase
+from drivecase import DriveCase
 
 YES = (200 + 97 + 20, 140 + 247 + 15)
 OK_KEY = (400, 150 + 247 + 15)
@@ -18,7 +15,7 @@ UNITS = {"SCS": 0, "Menu/UI": 1, "PNL1": 2, "SWR1": 5}
 PICTURES = os.environ.get("TM3_INSTALL_PICTURES")  # a folder for pictures to look at
 
 
-class Installs(DeskCase):
+class Installs(DriveCase):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
@@ -29,28 +26,15 @@ class Installs(DeskCase):
         self.desk.console("put Info@Operation Setup Data@Import Path#/mnt/usb/usb1/")
         time.sleep(0.2)
 
-    def path(self, name):
-        return os.path.join(self.desk.root, name)
-
     def calls(self):
         """What the scripts were called with since the last time, without the handling of results."""
-        try:
-            with open(self.path("var/tmp/device.log"), encoding="latin-1") as file:
-                lines = file.read().splitlines()
-            os.remove(self.path("var/tmp/device.log"))
-        except FileNotFoundError:
-            return []
+        lines = (self.content("/var/tmp/device.log") or b"").decode().splitlines()
+        self.lay("/var/tmp/device.log", b"")
         return [line for line in lines if "[rm " not in line and "[get]" not in line]
 
     def show(self, name):
         if PICTURES:
             self.desk.shot(os.path.join(PICTURES, f"install_{name}.png"))
-
-    def until(self, is_so, timeout=15.0):
-        end = time.monotonic() + timeout
-        while not is_so():
-            self.assertLess(time.monotonic(), end)
-            time.sleep(0.1)
 
     def logged(self, text):
         return self.desk.log().count(text)
@@ -58,7 +42,7 @@ class Installs(DeskCase):
     def open_install(self):
         before = self.logged("Execute: /usr/bin/find")
         self.desk.console("page 7316.10")
-        self.until(lambda: self.logged("Execute: /usr/bin/find") > before)
+        self.wait(lambda: self.logged("Execute: /usr/bin/find") > before)
         time.sleep(0.8)
 
     def install(self, unit):
@@ -70,7 +54,7 @@ class Installs(DeskCase):
         return before
 
     def ended(self, before):
-        self.until(lambda: self.logged("INSTALL_RESULT") > before, 40)
+        self.wait(lambda: self.logged("INSTALL_RESULT") > before, "no result", 40)
         time.sleep(2.5)  # all that is read again comes at once
         return self.desk.log().split("INSTALL_RESULT: ")[-1].split("\n")[0]
 
@@ -103,7 +87,7 @@ class Installs(DeskCase):
         self.assertEqual(self.calls(), ["ui_install [/mnt/usb/usb1/MENU/menu.bin] [APP]",
                                         "ui_install [/mnt/usb/usb1/MENU/linux.bin] [LINUX]",
                                         "fpga_updater [/mnt/usb/usb1/MENU/fpga.bin] [3]"])
-        self.until(lambda: os.path.exists(self.path("var/tmp/installed")), 1)
+        self.wait(lambda: self.exists("/var/tmp/installed"), "not installed", 1)
         self.desk.touch(*OK_KEY)
         self.desk.console("script fpga_updater 9")
         self.assertEqual(self.ended(self.install("Menu/UI")), "[Menu/UI] (result -1)")
@@ -112,16 +96,14 @@ class Installs(DeskCase):
         self.desk.touch(*OK_KEY)
         time.sleep(0.5)
         self.show("errors")
-        with open(self.path("var/log2/tm3err.log"), encoding="latin-1") as file:
-            self.assertIn("[Error] Install failure : code = [9]", file.read())
+        self.assertIn(b"[Error] Install failure : code = [9]", self.content("/var/log2/tm3err.log"))
 
     def test_a_package_that_is_not_whole_or_gone_with_its_stick(self):
         self.open_install()
         self.calls()
         self.assertEqual(self.ended(self.install("SCS")), "[SCS] (result -1)")
         time.sleep(0.5)
-        with open(self.path("var/log2/tm3err.log"), encoding="latin-1") as file:
-            self.assertIn("/mnt/usb/usb1/BROKEN/missing.bin", file.read())
+        self.assertIn(b"/mnt/usb/usb1/BROKEN/missing.bin", self.content("/var/log2/tm3err.log"))
         self.open_install()
         self.desk.console("stick out")
         self.assertEqual(self.ended(self.install("PNL1")), "[PNL1] (result -1)")
@@ -136,9 +118,9 @@ class Installs(DeskCase):
             self.desk.touch(*ADD)
         self.show("textures")
         self.desk.touch(*SAVE)
-        self.until(lambda: os.path.exists(self.path("mnt/usb/usb1/UserTexture/install.cfg")))
-        with open(self.path("mnt/usb/usb1/UserTexture/UserTexture.zsp"), "rb") as file:
-            self.assertTrue(file.read().startswith(b"# Bitmap User List\nBRICK,0,0,4,4,"))
+        self.wait(lambda: self.exists("/mnt/usb/usb1/UserTexture/install.cfg"))
+        package = self.content("/mnt/usb/usb1/UserTexture/UserTexture.zsp")
+        self.assertTrue(package.startswith(b"# Bitmap User List\nBRICK,0,0,4,4,"))
         self.desk.touch(400, 140 + 247 + 15)
         picture = self.desk.part(100, 306, 308, 514)
         self.desk.touch(450, 78 + 22 + 8)
