@@ -77,8 +77,8 @@ TEST(Graphics, OnlyNumbersInRangeBecomePatterns)
     const GraphicsFolder folder;
     std::filesystem::create_directories("graphics/ptn/dir");
     int width = 10;
-    for (const char* file : {"0", "49e", "3999", "4000", "99999999999999999999", "9.old", "-5",
-                             "dir/12", "31 "})
+    for (const char* file :
+         {"0", "49e", "3999", "4000", "99999999999999999999", "9.old", "-5", "dir/12", "31 "})
         SaveBitmap(std::string("ptn/") + file, width++);
     SaveBitmap("ptn/9", 99); // what the cut name 9.old leads to
     LoadGraphics();
