@@ -1,7 +1,6 @@
 """What the end-to-end tests share that look at what lies on the drives of their desk."""
 import os
 import struct
-import time
 import zlib
 
 from deskcase import DeskCase
@@ -34,9 +33,3 @@ class DriveCase(DeskCase):
                 return file.read()
         except FileNotFoundError:
             return None
-
-    def wait(self, is_so, what="", seconds=12.0):
-        end = time.monotonic() + seconds
-        while not is_so():
-            self.assertLess(time.monotonic(), end, what)
-            time.sleep(0.05)

@@ -5,7 +5,7 @@ import time
 import unittest
 
 from desk import Desk, grid
-from deskcase import BUILD
+from deskcase import BUILD, OK, YES, SetupCase
 from drivecase import DriveCase
 
 DEVICE_A, DEVICE_B = (150, 98), (455, 98)
@@ -13,11 +13,8 @@ L_TO_R, R_TO_L, DETAIL_A = (290, 478), (405, 478), grid(49)
 ALL_ROWS_A = (303, 417)
 DRIVES = [270, 348, 426, 504]  # keys of the drive pane: register, local drive, stick, network
 FIRST_DIRECTORY = (195, 105)
-OK = CANCEL = (400, 407)  # of a message, of a progress
-YES = (340, 407)
 HOME = "add M/E-1@Key1@Type@Key Type"
 LOCAL, STICK = "/mnt/data/user/root/SYSTEM/", "/mnt/usb/usb1/SYSTEM/"
-KEYS = (("`1234567890-=", 75, 229), ("qwertyuiop[]\\", 75, 283), ("asdfghjkl;'", 75, 337), ("zxcvbnm,./", 183, 391))
 FIND = "put File@Access@Find#"
 
 
@@ -91,14 +88,7 @@ class FilePages(DriveCase):
         self.choose(DEVICE_A, left)
         self.choose(DEVICE_B, right)
 
-    def type(self, text):
-        for c in text:
-            if c.isupper():
-                self.desk.touch(100, 391, settle=0.1)
-            for keys, x, y in KEYS:
-                if c.lower() in keys:
-                    self.desk.touch(x + 54 * keys.index(c.lower()), y, settle=0.1)
-        self.desk.touch(697, 337, settle=0.5)
+    type = SetupCase.type
 
     def has_pane(self):
         """A message or a progress stands over the page: its ground is the light one of a box."""
@@ -181,7 +171,7 @@ class FilePages(DriveCase):
         time.sleep(0.5)
         self.assertTrue(self.has_pane())
         since = self.log_size()
-        self.desk.touch(*CANCEL)
+        self.desk.touch(*OK)  # Cancel
         self.assertEqual(self.await_log("Copy@Status#", since).count("put File@Access@Cancel#Lx,"), 10)
         self.assertFalse(self.has_pane())
         self.assertEqual(self.files(STICK), [])

@@ -4,6 +4,7 @@ import time
 import unittest
 
 from desk import grid
+from deskcase import OK, YES
 from drivecase import DriveCase
 
 LOCAL = "/mnt/data/user/root/SYSTEM/"
@@ -18,7 +19,6 @@ PICTURE_FILE = "FMEMFOL/Graphics/SWR000D001/Mbackdrop.FMEM_003.SFM"
 CLIP = "M/E-1@Key1@Clip"
 L_TO_R, R_TO_L = (290, 475), (405, 475)
 DEVICE_A, STICK_KEY, FIRST_DIRECTORY = (150, 98), (438, 275), (195, 115)
-YES, CANCEL, OK = (344, 407), (400, 407), (400, 407)
 PAGE = 100, 130, 600, 175  # of the page, covered by every pane
 
 
@@ -45,7 +45,7 @@ class AllPage(DriveCase):
         self.desk.wait_wire("remove Info@Operation Setup Data@Clear Before Load")
 
     def wait_calm(self):
-        self.wait(lambda: self.desk.part(*PAGE) == self.calm, "the panes did not close")
+        self.wait_until(lambda: self.desk.part(*PAGE) == self.calm, "the panes did not close")
 
     def count(self, folder):
         return sum(len(files) for _, _, files in os.walk(self.path(folder)))
@@ -60,7 +60,7 @@ class AllPage(DriveCase):
         self.lay(stale)
         self.desk.touch(*L_TO_R)
         self.desk.touch(*YES)
-        self.wait(lambda: self.exists(LOCAL + PICTURE_FILE), "no picture was saved")
+        self.wait_until(lambda: self.exists(LOCAL + PICTURE_FILE), "no picture was saved")
         self.wait_calm()
         self.assertFalse(self.exists(stale), "the directory was not cleared")
         self.assertTrue(self.exists(LOCAL + SNAPSHOT_FILE) and self.exists(LOCAL + "SETUP/CTRLCPU/SETUP.GUI_0000.PST"))
@@ -76,7 +76,7 @@ class AllPage(DriveCase):
         self.desk.touch(*OK)
         self.wait_calm()
         self.desk.console("put Snapshot@Snapshot@Recall#2,7")
-        self.wait(lambda: self.desk.value(CLIP) == "42", "the snapshot did not come back")
+        self.wait_until(lambda: self.desk.value(CLIP) == "42", "the snapshot did not come back")
 
     def test_2_a_copy_to_the_stick_is_told_what_failed_and_can_be_stopped(self):
         self.desk.touch(*DEVICE_A)
@@ -85,7 +85,7 @@ class AllPage(DriveCase):
         self.calm = self.desk.part(*PAGE)
         os.makedirs(self.path(STICK + SNAPSHOT_FILE))  # in the way of one file
         self.desk.touch(*R_TO_L)
-        self.wait(lambda: self.count(STICK) == self.count(LOCAL) - 1, "not all but one came to the stick")
+        self.wait_until(lambda: self.count(STICK) == self.count(LOCAL) - 1, "not all but one came to the stick")
         time.sleep(0.3)
         self.assertNotEqual(self.desk.part(*PAGE), self.calm, "nobody was told of the one that failed")
         self.desk.touch(*OK)
@@ -94,7 +94,7 @@ class AllPage(DriveCase):
         self.desk.console("slow 200")
         self.desk.touch(*R_TO_L)
         self.desk.wire()
-        self.desk.touch(*CANCEL)
+        self.desk.touch(*OK)  # Cancel
         self.desk.console("slow 0")
         self.wait_calm()
         self.assertFalse(any(line.startswith("put File@Access@Copy#") for line in self.desk.wire()))
@@ -104,12 +104,12 @@ class AllPage(DriveCase):
         self.desk.console("put Snapshot@Snapshot@Delete#2,7,7")
         self.lay(IMPORT + MINE_FILE, self.content(LOCAL + MINE_FILE))
         self.lay(COMMAND + "allload.cmd")
-        self.wait(lambda: self.exists(COMMAND + "allload.res"), "no answer")
+        self.wait_until(lambda: self.exists(COMMAND + "allload.res"), "no answer")
         self.assertEqual(self.content(COMMAND + "allload.res"), b"OK\n")
         self.assertFalse(self.exists(COMMAND + "allload.cmd"))
         self.desk.console(f"put {CLIP}#3")
         self.desk.console("put Snapshot@Snapshot@Recall#2,7")
-        self.wait(lambda: self.desk.value(CLIP) == "42", "the snapshot was not loaded")
+        self.wait_until(lambda: self.desk.value(CLIP) == "42", "the snapshot was not loaded")
 
 
 if __name__ == "__main__":

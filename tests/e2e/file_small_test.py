@@ -3,12 +3,11 @@ import time
 import unittest
 
 from desk import grid
+from deskcase import OK, YES
 from drivecase import DriveCase, frame
 
 LOCAL = "/mnt/data/user/root/SYSTEM"
 STICK = "/mnt/usb/usb1/SYSTEM"
-YES = (200 + 97 + 20, 140 + 247 + 15)
-OK_KEY = (200 + 153 + 20, 140 + 247 + 15)
 TEXT_WELL = (230, 205, 560, 370)  # of a pane
 
 
@@ -37,8 +36,8 @@ class SmallPages(DriveCase):
         desk.touch(400, 300 - 126 + 252 - 40)
         desk.touch(347, 478)  # Copy
         desk.touch(*YES)
-        self.wait(lambda: self.content(f"{STICK}/SNAPSHOT/SWR000D002/ME1/A.ME1_001.SSS") == b"snapshot one")
-        self.wait(lambda: self.content(f"{STICK}/SETUP/SWR000D002/A.DEV_0000.SST") == b"some bytes")
+        self.wait_until(lambda: self.content(f"{STICK}/SNAPSHOT/SWR000D002/ME1/A.ME1_001.SSS") == b"snapshot one")
+        self.wait_until(lambda: self.content(f"{STICK}/SETUP/SWR000D002/A.DEV_0000.SST") == b"some bytes")
         time.sleep(0.5)
         self.assertIsNone(self.content(f"{STICK}/SETUP/SWR000D003/OLD.DEV_0000.SST"))
         self.assertFalse(self.exists(f"{STICK}/SNAPSHOT/DME000D001"))
@@ -51,7 +50,7 @@ class SmallPages(DriveCase):
         self.desk.touch(200, 157)
         self.desk.touch(*grid(49))
         self.desk.touch(*YES)
-        self.wait(lambda: self.content(path) != frame("Mbars"))
+        self.wait_until(lambda: self.content(path) != frame("Mbars"))
         time.sleep(1.5)
         self.assertEqual(self.content(path)[8], 1)  # inverted, says the header
         self.assertNotEqual(self.desk.part(610, 146, 648, 167), before)
@@ -67,11 +66,11 @@ class SmallPages(DriveCase):
         time.sleep(0.8)
         self.assertNotIn("put File@Access@Find#", "".join(desk.wire()))
         barred = desk.part(*TEXT_WELL)
-        desk.touch(*OK_KEY)
+        desk.touch(*OK)
         self.assertNotEqual(desk.part(*TEXT_WELL), barred)
         desk.touch(45, 170)  # the tab of the transfer's page: its pane is back
         time.sleep(0.5)
-        desk.touch(*OK_KEY)  # "Cancel"
+        desk.touch(*OK)  # "Cancel"
         desk.console("slow 1")
         self.open_file_page("7132", "put File@Access@Find#")
 
@@ -84,10 +83,10 @@ class SmallPages(DriveCase):
         time.sleep(1.0)
         waiting = desk.part(*TEXT_WELL)
         desk._box("stop", "sim")
-        self.wait(lambda: "The link has fallen." in desk.log())
+        self.wait_until(lambda: "The link has fallen." in desk.log())
         time.sleep(1.0)
         self.assertNotEqual(desk.part(*TEXT_WELL), waiting)
-        desk.touch(*OK_KEY)
+        desk.touch(*OK)
         desk.seen = 0  # the log of the new one begins anew
         desk.start_sim()
         time.sleep(1.5)  # the link comes back

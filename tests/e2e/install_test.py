@@ -1,18 +1,15 @@
 """Installs and texture packages at the desk, with the device's scripts stood in for."""
-import os
 import time
 import unittest
 
 from desk import grid
+from deskcase import OK, YES
 from drivecase import DriveCase
 
-YES = (200 + 97 + 20, 140 + 247 + 15)
-OK_KEY = (400, 150 + 247 + 15)
 MESSAGE = (230, 205, 560, 385)  # the well of a window's text
-REFRESH, INSTALL = grid(49), grid(50)
+INSTALL = grid(50)
 ADD, REMOVE, LOAD, SAVE = grid(36), grid(37), grid(52), grid(53)
 UNITS = {"SCS": 0, "Menu/UI": 1, "PNL1": 2, "SWR1": 5}
-PICTURES = os.environ.get("TM3_INSTALL_PICTURES")  # a folder for pictures to look at
 
 
 class Installs(DriveCase):
@@ -32,17 +29,13 @@ class Installs(DriveCase):
         self.lay("/var/tmp/device.log", b"")
         return [line for line in lines if "[rm " not in line and "[get]" not in line]
 
-    def show(self, name):
-        if PICTURES:
-            self.desk.shot(os.path.join(PICTURES, f"install_{name}.png"))
-
     def logged(self, text):
         return self.desk.log().count(text)
 
     def open_install(self):
         before = self.logged("Execute: /usr/bin/find")
         self.desk.console("page 7316.10")
-        self.wait(lambda: self.logged("Execute: /usr/bin/find") > before)
+        self.wait_until(lambda: self.logged("Execute: /usr/bin/find") > before)
         time.sleep(0.8)
 
     def install(self, unit):
@@ -54,23 +47,19 @@ class Installs(DriveCase):
         return before
 
     def ended(self, before):
-        self.wait(lambda: self.logged("INSTALL_RESULT") > before, "no result", 40)
+        self.wait_until(lambda: self.logged("INSTALL_RESULT") > before, "no result", 40)
         time.sleep(2.5)  # all that is read again comes at once
         return self.desk.log().split("INSTALL_RESULT: ")[-1].split("\n")[0]
 
     def test_a_switcher_takes_its_steps_with_progress_and_is_read_again(self):
         self.open_install()
-        self.show("list")
         self.desk.wire()
         before = self.install("SWR1")
         time.sleep(1.5)
-        self.show("estimate")
         first = self.desk.part(*MESSAGE)
         time.sleep(5)
-        self.show("percent")
         self.assertTrue(self.desk.part(*MESSAGE) != first)
         self.assertEqual(self.ended(before), "[SWR1] (result 0)")
-        self.show("done")
         calls = self.calls()
         self.assertEqual(calls[:4], ["scs_transfer [put] [/mnt/usb/usb1/KTR40X_UP/swr.bin] [/tmp/]",
                                      "scs_exec [swr_update UID1 time]", "scs_exec [swr_update UID1 -b]",
@@ -79,7 +68,7 @@ class Installs(DriveCase):
         wire = self.desk.wait_wire("add Engineering Setup@System@Network Config@List", 5)
         self.assertLess(wire.index("remove Engineering Setup@System@Network Config@List"),
                         wire.index("put Info@Status Report#true"))
-        self.desk.touch(*OK_KEY)
+        self.desk.touch(*OK)
 
     def test_this_machine_and_a_step_that_fails(self):
         self.open_install()
@@ -87,15 +76,13 @@ class Installs(DriveCase):
         self.assertEqual(self.calls(), ["ui_install [/mnt/usb/usb1/MENU/menu.bin] [APP]",
                                         "ui_install [/mnt/usb/usb1/MENU/linux.bin] [LINUX]",
                                         "fpga_updater [/mnt/usb/usb1/MENU/fpga.bin] [3]"])
-        self.wait(lambda: self.exists("/var/tmp/installed"), "not installed", 1)
-        self.desk.touch(*OK_KEY)
+        self.wait_until(lambda: self.exists("/var/tmp/installed"), "not installed", 1)
+        self.desk.touch(*OK)
         self.desk.console("script fpga_updater 9")
         self.assertEqual(self.ended(self.install("Menu/UI")), "[Menu/UI] (result -1)")
-        self.show("failed")
         self.desk.wire()
-        self.desk.touch(*OK_KEY)
+        self.desk.touch(*OK)
         time.sleep(0.5)
-        self.show("errors")
         self.assertIn(b"[Error] Install failure : code = [9]", self.content("/var/log2/tm3err.log"))
 
     def test_a_package_that_is_not_whole_or_gone_with_its_stick(self):
@@ -116,9 +103,8 @@ class Installs(DriveCase):
         for row in (0, 1, 6):  # BRICK, CANVAS, WOOD
             self.desk.touch(150, 78 + 22 * (1 + row) + 8)
             self.desk.touch(*ADD)
-        self.show("textures")
         self.desk.touch(*SAVE)
-        self.wait(lambda: self.exists("/mnt/usb/usb1/UserTexture/install.cfg"))
+        self.wait_until(lambda: self.exists("/mnt/usb/usb1/UserTexture/install.cfg"))
         package = self.content("/mnt/usb/usb1/UserTexture/UserTexture.zsp")
         self.assertTrue(package.startswith(b"# Bitmap User List\nBRICK,0,0,4,4,"))
         self.desk.touch(400, 140 + 247 + 15)

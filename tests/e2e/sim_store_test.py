@@ -1,7 +1,4 @@
-"""The simulator's stored registers: their lists, and what store, recall and the other commands do to them.
-
-usage: sim_store_test.py BUILD_DIR [TEST...]
-"""
+"""The simulator's stored registers: their lists, and what store, recall and the other commands do to them."""
 
 import time
 

@@ -7,55 +7,31 @@
 extern const PC_TBL pc_favorites;
 static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
 
-namespace
-{
-// How one cell of the sheet is brought about.
-struct Cell {
-    const char* caption;
-    int type;
-    int status = BT_OFF;
-    bool pushed = false;
-    bool disabled = false;
-    const NB_TBL* nb = nullptr;
-    bool owner = false;
-    bool undecided = false;
-    int (*draw)(BT_MEM*) = bt_drw_normal;
-    int id = 17;
-};
-
-constexpr Cell WithKnobs(Cell c)
-{
-    c.nb = boxes;
-    return c;
-}
-constexpr Cell Owner(Cell c)
-{
-    c.owner = true;
-    return WithKnobs(c);
-}
-constexpr Cell Undecided(Cell c)
-{
-    c.undecided = true;
-    return c;
-}
-constexpr Cell By(int (*draw)(BT_MEM*), Cell c)
-{
-    c.draw = draw;
-    return c;
-}
-} // namespace
-
 struct ButtonSheet : ButtonPage {
+    // How one cell of the sheet is brought about.
+    struct Cell {
+        const char* caption;
+        int type;
+        int status = BT_OFF;
+        bool pushed = false;
+        bool disabled = false;
+        const NB_TBL* nb = nullptr;
+        bool owner = false;
+        bool undecided = false;
+        int (*draw)(BT_MEM*) = bt_drw_normal;
+        int id = 17;
+    };
     static void Draw(int x, int y, const Cell& c)
     {
-        BT_TBL rows[] = {Button(c.id, c.type, {"~@X#*"}, c.nb), {.id = -1}};
-        rows[0].caption = c.caption;
-        rows[0].draw_func = c.draw;
-        rows[0].x1 = x;
-        rows[0].y1 = y;
-        rows[0].x2 = x + 84;
-        rows[0].y2 = y + 65;
-        BT_Create(rows, 0);
+        BT_TBL row = Button(c.id, c.type, {"~@X#*"}, c.nb);
+        row.caption = c.caption;
+        row.draw_func = c.draw;
+        row.x1 = x;
+        row.y1 = y;
+        row.x2 = x + 84;
+        row.y2 = y + 65;
+        const BT_TBL table[] = {row, {.id = -1}};
+        BT_Create(table, 0);
         BT_MEM* b = bt_find(c.id);
         BT_SetStatus(c.id, c.status);
         if (c.owner)
@@ -75,13 +51,13 @@ TEST_F(ButtonSheet, KeysWithAState)
 {
     static const Cell kinds[] = {
         {"Toggle", BT_TOGGLE},
-        WithKnobs({"Knobs", BT_RADIO}),
-        Owner({"Knobs\nheld", BT_RADIO}),
-        Undecided({"Key\nFill", BT_RADIO}),
+        {.caption = "Knobs", .type = BT_RADIO, .nb = boxes},
+        {.caption = "Knobs\nheld", .type = BT_RADIO, .nb = boxes, .owner = true},
+        {.caption = "Key\nFill", .type = BT_RADIO, .undecided = true},
         {"Action", BT_ACTION_STATE},
         {"Pull-down", BT_PULLDOWN},
         {"Copy", BT_TRANSFER_RIGHT},
-        By(bt_drw_tab, {"Tab", BT_TAB}),
+        {.caption = "Tab", .type = BT_TAB, .draw = bt_drw_tab},
     };
     int y = 4;
     for (const Cell& kind : kinds) {
@@ -100,30 +76,35 @@ TEST_F(ButtonSheet, KeysWithAState)
 
 TEST_F(ButtonSheet, KeysThatLeadAndKeysOfTheFamily)
 {
-    constexpr Cell jumps[] = {
-        {"Page", BT_JUMP},         {"Ten key", BT_JUMP_10KEY}, {"Keyboard", BT_JUMP_KEYBOARD},
-        {"Pop-up", BT_JUMP_POPUP}, {"Find", BT_FIND},          {"New", BT_NEW}};
-    for (int i = 0; i < 6; i++) {
-        Draw(4 + 98 * i, 4, jumps[i]);
-        Cell c = jumps[i];
+    int x = 4;
+    for (const Cell& jump : {Cell{"Page", BT_JUMP},
+                             {"Ten key", BT_JUMP_10KEY},
+                             {"Keyboard", BT_JUMP_KEYBOARD},
+                             {"Pop-up", BT_JUMP_POPUP},
+                             {"Find", BT_FIND},
+                             {"New", BT_NEW}}) {
+        Cell c = jump;
+        Draw(x, 4, c);
         c.pushed = true;
-        Draw(4 + 98 * i, 76, c);
+        Draw(x, 76, c);
         c.pushed = false;
         c.disabled = true;
-        Draw(4 + 98 * i, 148, c);
+        Draw(x, 148, c);
+        x += 98;
     }
 
     // Which transport mark a key has follows from its id.
-    for (int id = 34; id <= 38; id++) {
-        Cell c = By(id == 38 ? bt_drw_clip_record : bt_drw_clip_playrec, {"Clip", BT_ACTION_STATE});
-        c.id = id;
-        Draw(4 + 98 * (id - 34), 220, c);
-        c.disabled = true;
-        Draw(4 + 98 * (id - 34), 292, c);
-    }
+    for (int id = 34; id <= 38; id++)
+        for (const bool disabled : {false, true})
+            Draw(4 + 98 * (id - 34), disabled ? 292 : 220,
+                 {.caption = "Clip",
+                  .type = BT_ACTION_STATE,
+                  .disabled = disabled,
+                  .draw = id == 38 ? bt_drw_clip_record : bt_drw_clip_playrec,
+                  .id = id});
 
     // Trigger inputs are drawn, other captions written.
-    int x = 4;
+    x = 4;
     for (const char* caption : {"_RISING", "_FALLING", "_LEVEL", "_ANY", "_OTHER"}) {
         Draw(x, 364, {caption, BT_TOGGLE});
         x += 98;
@@ -132,42 +113,40 @@ TEST_F(ButtonSheet, KeysThatLeadAndKeysOfTheFamily)
     // The operator's own key in each of its colours.
     shortcut_menu_data_tally(1, "11110000,Key 1");
     for (int color = 0; color < 8; color++) {
-        char value[8];
-        PrintText(value, "%d", color + 1);
         pc_favorites.proc_func(MSG_TALLY, Arg("Info@Operation Setup Data@Color Select@1"),
-                               Arg(value), 0, 0);
-        Cell c = By(bt_drw_color_select, {"M/E-1\nKey 1", BT_JUMP});
-        c.id = 1;
-        c.pushed = color == 7;
-        Draw(4 + 98 * color, 436, c);
+                               Arg(std::to_string(color + 1).c_str()), 0, 0);
+        Draw(4 + 98 * color, 436,
+             {.caption = "M/E-1\nKey 1",
+              .type = BT_JUMP,
+              .pushed = color == 7,
+              .draw = bt_drw_color_select,
+              .id = 1});
     }
     EXPECT_TRUE(MatchesGolden("button_family"));
 }
 
 TEST_F(ButtonSheet, GroupsFrameWhatBelongsTogether)
 {
-    BT_TBL rows[] = {
-        Button(17, BT_RADIO, {"~@Key Type#Luminance"}, boxes),
-        Button(18, BT_RADIO, {"~@Key Type#Linear"}, boxes),
-        Button(19, BT_RADIO, {"~@Key Type#Chroma"}, boxes),
-        Button(33, BT_TOGGLE, {"~@Key Invert#*"}),
-        Button(34, BT_TOGGLE, {"~@Clean Mode#*", "~@Key Type#!Luminance"}),
-        Button(35, BT_ACTION, {"~@Auto Chroma#*", "~@Key Type#!Chroma"}),
-        Button(36, BT_JUMP, {"#+11110001"}),
-        Button(37, BT_TOGGLE, {"~@Gone#*"}),
+    const auto key = [](const char* caption, const char* group, BT_TBL row) {
+        row.caption = caption;
+        row.group = group;
+        return row;
+    };
+    const BT_TBL keys[] = {
+        key("Luminance", "Key Type", Button(17, BT_RADIO, {"~@Key Type#Luminance"}, boxes)),
+        key("Linear", "Key Type", Button(18, BT_RADIO, {"~@Key Type#Linear"}, boxes)),
+        key("Chroma", "Key Type", Button(19, BT_RADIO, {"~@Key Type#Chroma"}, boxes)),
+        key("Key\nInvert", "@Chroma", Button(33, BT_TOGGLE, {"~@Key Invert#*"})),
+        key("Clean\nMode", "@Chroma",
+            Button(34, BT_TOGGLE, {"~@Clean Mode#*", "~@Key Type#!Luminance"})),
+        key("Auto\nChroma", "#Chroma",
+            Button(35, BT_ACTION, {"~@Auto Chroma#*", "~@Key Type#!Chroma"})),
+        key("Chroma\nAdjust", "#Chroma", Button(36, BT_JUMP, {"#+11110001"})),
+        key("Gone", "Gone", Button(37, BT_TOGGLE, {"~@Gone#*"})),
         {.id = -1},
     };
-    static const char* const texts[][2] = {
-        {"Luminance", "Key Type"},     {"Linear", "Key Type"},     {"Chroma", "Key Type"},
-        {"Key\nInvert", "@Chroma"},    {"Clean\nMode", "@Chroma"}, {"Auto\nChroma", "#Chroma"},
-        {"Chroma\nAdjust", "#Chroma"}, {"Gone", "Gone"},
-    };
-    for (int i = 0; i < 8; i++) {
-        rows[i].caption = texts[i][0];
-        rows[i].group = texts[i][1];
-    }
     TDL_FillRectS(97, 73, 702, 526, 0x303030); // what the erasing has to clear
-    BT_Create(rows, 0);
+    BT_Create(keys, 0);
     Tally("M/E-1@Key1@Type@Key Type", "Luminance");
     Tally("M/E-1@Key1@Type@Clean Mode", "true");
     BT_SetCutoff(37, 1);

@@ -21,17 +21,12 @@ struct InstallPictures : TablePage {
         stick.reset();
         TablePage::TearDown();
     }
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
 };
 
 TEST_F(InstallPictures, NewInstall)
 {
     static const struct {
-        const char *title, *version, *target;
+        std::string title, version, target;
     } packages[] = {
         {"KTR40G Upgrade", "5.10 (Nov.02.2026)", "SWR"},
         {"KTR40G Full", "5.10 (Nov.02.2026)", "SWR"},
@@ -39,10 +34,10 @@ TEST_F(InstallPictures, NewInstall)
         {"Menu Upgrade", "5.11", "MENU"},
         {"FXU50 Upgrade", "2.02", "DME"},
     };
-    for (const auto& p : packages)
-        InstallStick::Put(std::string("usb/") + p.title + "/install.cfg",
-                          std::string("TITLE ") + p.title + "\nVERSION " + p.version + "\nTARGET " +
-                              p.target + "\nEXEC step\n");
+    for (const auto& [title, version, target] : packages)
+        InstallStick::Put("usb/" + title + "/install.cfg", "TITLE " + title + "\nVERSION " +
+                                                               version + "\nTARGET " + target +
+                                                               "\nEXEC step\n");
     (void)!::system("mkdir -p /var/tmp/version1; "
                     "echo 'X: Version 5.09 (Mar.01.2026)' >/var/tmp/version1/SWR010100");
     CopyText(GL_Version, "5.10");

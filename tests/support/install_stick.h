@@ -45,8 +45,7 @@ exit "$s"
                                  "bin/killall", "bin/step"})
             std::filesystem::create_symlink(STICK "/script/scs_exec.sh",
                                             std::string(STICK "/") + name);
-        // The programs' folder is the stick from here on: bitmaps that are shown first are there,
-        // too.
+        // The programs' folder is the stick from here on, with the bitmaps.
         std::filesystem::create_symlink(before + "/graphics", STICK "/graphics");
         std::filesystem::current_path(STICK);
         ::setenv("PATH", (STICK "/bin:" + search).c_str(), 1);

@@ -89,9 +89,4 @@ struct ServerPage : TablePage {
                 return *job->xferlist;
         return nullptr;
     }
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
 };

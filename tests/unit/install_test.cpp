@@ -20,12 +20,12 @@ struct Install : testing::Test {
         Harness_Reset();
     }
     static int Run(const std::string& cfg, int type = TARGET_SWR, int uid = 1,
-                   const char* folder = "pkg")
+                   const std::string& folder = "pkg")
     {
-        InstallStick::Put(std::string(folder) + "/install.cfg", cfg);
+        InstallStick::Put(folder + "/install.cfg", cfg);
         (void)unlink(STICK "/calls");
         Err_Clear();
-        return SystemInstall((std::string(STICK "/") + folder + "/install.cfg").c_str(), type, uid);
+        return SystemInstall((STICK "/" + folder + "/install.cfg").c_str(), type, uid);
     }
     static std::string Logged() { return FileText("/var/log2/install.log"); }
 };
@@ -58,6 +58,11 @@ TEST_F(Install, EachKeywordCallsItsProgram)
         EXPECT_THAT(InstallStick::Errors(), IsEmpty()) << cfg;
         EXPECT_EQ(GetWindow(), WINDOW_NONE) << cfg;
     }
+    // One digit of the unit's number goes into a command, once.
+    EXPECT_EQ(Run("EXECS up %UID %UID\n", TARGET_SWR, 0x2B), 0);
+    EXPECT_THAT(InstallStick::Calls(), ElementsAre("scs_exec [up UID2 %UID]"));
+    EXPECT_THAT(Logged(), AllOf(HasSubstr("install_scs:: %UID detected"),
+                                HasSubstr("install_scs:: -> up UID2 %UID")));
 }
 
 TEST_F(Install, AStepThatFailsEndsItAndIsTold)
@@ -92,14 +97,6 @@ TEST_F(Install, AStepThatFailsEndsItAndIsTold)
     EXPECT_EQ(Run("EXEC step; exit 3\n"), 0) << "nobody asks what came of an EXEC";
 }
 
-TEST_F(Install, OneDigitOfTheUnitsNumberGoesIntoACommand)
-{
-    EXPECT_EQ(Run("EXECS up %UID %UID\n", TARGET_SWR, 0x2B), 0);
-    EXPECT_THAT(InstallStick::Calls(), ElementsAre("scs_exec [up UID2 %UID]"));
-    EXPECT_THAT(Logged(), HasSubstr("install_scs:: %UID detected"));
-    EXPECT_THAT(Logged(), HasSubstr("install_scs:: -> up UID2 %UID"));
-}
-
 TEST_F(Install, ACommandInTheBackgroundIsWaitedForWhateverWasEstimated)
 {
     static const std::pair<const char*, int> cases[] = {
@@ -123,8 +120,6 @@ TEST_F(Install, ACommandInTheBackgroundIsWaitedForWhateverWasEstimated)
 TEST_F(Install, AStepInTheBackgroundEndsAsItsResultSays)
 {
     static const std::string failed = "[Error] Install failure : code = [-1]";
-    static const std::string advice =
-        "    Please check the file on your memory card, and try again.";
     static const struct {
         const char* result;
         int expected;
@@ -132,8 +127,8 @@ TEST_F(Install, AStepInTheBackgroundEndsAsItsResultSays)
     } cases[] = {
         {"OK\n", 0, {}},
         {"note\nOKAY\nnever read\n", 0, {"note"}},
-        {"bad block\nno OK", -1, {"bad block", "no OK", failed, "copy", advice}},
-        {"", -1, {failed, "copy", advice}},
+        {"bad block\nno OK", -1, {"bad block", "no OK", failed, "copy", ADVICE}},
+        {"", -1, {failed, "copy", ADVICE}},
     };
     for (const auto& c : cases) {
         InstallStick::Put("result", c.result);
@@ -192,14 +187,15 @@ TEST_F(Install, NothingRunsFromAPackageThatIsNotWhole)
     EXPECT_EQ(Install_FailedCode(), 0);
 }
 
-TEST_F(Install, AFolderWithABlankIsOneWord)
+TEST_F(Install, AFolderWithABlankIsOneWordAndOneForTheShellIsNone)
 {
-    InstallStick::Put("My Pkg/a.bin", "a");
-    EXPECT_EQ(Run("INSTALL a.bin APP\n", TARGET_UI, 1, "My Pkg"), 0);
-    EXPECT_THAT(InstallStick::Calls(), ElementsAre("ui_install [" STICK "/My Pkg/a.bin] [APP]"));
-    InstallStick::Put("a`reboot`/a.bin", "a");
-    EXPECT_EQ(Run("INSTALL a.bin APP\n", TARGET_UI, 1, "a`reboot`"), -1);
-    EXPECT_THAT(InstallStick::Calls(), IsEmpty());
+    for (const std::string folder : {"My Pkg", "a`reboot`"}) {
+        const bool is_good = folder == "My Pkg";
+        InstallStick::Put(folder + "/a.bin", "a");
+        EXPECT_EQ(Run("INSTALL a.bin APP\n", TARGET_UI, 1, folder), is_good ? 0 : -1);
+        EXPECT_EQ(InstallStick::Calls(),
+                  is_good ? Strings{"ui_install [" STICK "/My Pkg/a.bin] [APP]"} : Strings{});
+    }
 }
 
 TEST_F(Install, PackageFileIsReadAsItStands)

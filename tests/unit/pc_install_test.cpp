@@ -5,7 +5,7 @@
 #include "table_page.h"
 
 struct NewInstall : TablePage {
-    static constexpr int REFRESH = 49, INSTALL = 50, UNITS = 1, PACKAGES = 2;
+    static constexpr int REFRESH = 49, INSTALL = 50, UNITS = 1, PACKAGES = 2, OFFER = 3, RESULT = 4;
     std::unique_ptr<InstallStick> stick;
 
     void SetUp() override
@@ -33,18 +33,14 @@ struct NewInstall : TablePage {
     {
         std::ofstream("/var/tmp/version1/" + file) << line;
     }
-    static void Package(const std::string& folder, const std::string& cfg)
-    {
-        InstallStick::Put("usb/" + folder + "/install.cfg", cfg);
-    }
     // A title and a version for a kind of unit, and one step.
     static void Package(const std::string& title, const std::string& version,
                         const std::string& target, const std::string& step = "EXEC step")
     {
         static int n = 0;
-        Package("p" + std::to_string(++n), "TITLE\t" + title + "\nVERSION " + version +
-                                               "\nTARGET " + target + "\n" + step + " " + target +
-                                               version + "\n");
+        InstallStick::Put("usb/p" + std::to_string(++n) + "/install.cfg",
+                          "TITLE\t" + title + "\nVERSION " + version + "\nTARGET " + target + "\n" +
+                              step + " " + target + version + "\n");
     }
     static void Show()
     {
@@ -52,38 +48,37 @@ struct NewInstall : TablePage {
         Pass(10);
         Pass(10);
     }
-    static Strings Rows(int list, const std::vector<int>& columns)
+    // So many cells of each row.
+    static Strings Rows(int list, int columns)
     {
         Strings rows;
-        for (int row = 0; row < LS_GetNData(list); row++) {
-            std::string text;
-            for (int column : columns) {
-                const char* cell = LS_GetData(list, row, column);
-                text += std::string(text.empty() ? "" : " | ") + (cell ? cell : "");
-            }
-            rows.push_back(text);
-        }
+        for (int row = 0; row < LS_GetNData(list); row++)
+            rows.push_back(Cells(list, row, 0, columns));
         return rows;
+    }
+    // A cell of a unit's row.
+    static std::string Of(const std::string& unit, int column)
+    {
+        return Cell(UNITS, RowOf(unit), column);
     }
     static int RowOf(const std::string& unit)
     {
-        const Strings names = Rows(UNITS, {0});
+        const Strings names = Rows(UNITS, 1);
         return int(std::ranges::find(names, unit) - names.begin());
+    }
+    static void TouchRow(int y, int row)
+    {
+        (void)Touch(150, y + 22 * (1 + row) + 5);
+        SendMessage(MSG_RELEASE, 150, 100, 0, 0);
+        Clock_ms += 500;
     }
     static void Choose(const std::string& unit)
     {
         const int row = RowOf(unit);
         LS_SetTopLine(UNITS, row);
-        (void)Touch(150, 78 + 22 * (1 + row - LS_GetTopLine(UNITS)) + 5);
-        SendMessage(MSG_RELEASE, 150, 100, 0, 0);
-        Clock_ms += 500;
+        TouchRow(78, row - LS_GetTopLine(UNITS));
     }
-    static void ChoosePackage(int row)
-    {
-        (void)Touch(150, 284 + 22 * (1 + row) + 5);
-        SendMessage(MSG_RELEASE, 150, 100, 0, 0);
-        Clock_ms += 500;
-    }
+    static void ChoosePackage(int row) { TouchRow(284, row); }
     // Install, and "Yes".
     static Lines Install()
     {
@@ -98,10 +93,6 @@ struct NewInstall : TablePage {
         EXPECT_EQ(Pane_GetActiveID(), 0);
         return TakeQueuedCommands();
     }
-    static std::string Result(const std::string& unit)
-    {
-        return Rows(UNITS, {4})[size_t(RowOf(unit))];
-    }
 };
 
 TEST_F(NewInstall, EachUnitIsOfferedTheNewestPackageThatFits)
@@ -114,21 +105,19 @@ TEST_F(NewInstall, EachUnitIsOfferedTheNewestPackageThatFits)
     Package("Menu", "V5.11 #2", "MENU CPU");
     Package("Camera", "1", "CAM");
     Show();
-    EXPECT_THAT(Rows(UNITS, {0, 1, 2, 3}),
-                ElementsAre("SCS | -- | -- | ", "Menu/UI | -- | V5.10 | V5.11 #2",
-                            "PNL1 | -- | -- | 2.0", "DCU1 | -- | -- | ", "DCU2 | -- | -- | ",
-                            "SWR1 | KTR40GSF | 5.9 (Mar.01.2013) | 5.10", "DME1 | -- | -- | "));
+    EXPECT_THAT(Rows(UNITS, 4), ElementsAre("SCS|--|--|", "Menu/UI|--|V5.10|V5.11 #2",
+                                            "PNL1|--|--|2.0", "DCU1|--|--|", "DCU2|--|--|",
+                                            "SWR1|KTR40GSF|5.9 (Mar.01.2013)|5.10", "DME1|--|--|"));
     Choose("SWR1");
-    EXPECT_THAT(Rows(PACKAGES, {0, 1, 2, 3}),
-                ElementsAre("KTR40X UPGRADE | Upgrade | 6.0 | SWR",
-                            "KTR40G Upgrade | Upgrade | 5.10 | SWR",
-                            "KTR40G Full | Full | 5.10 | SWR", "KTR40G full | Full | 5.9 | SWR"));
+    EXPECT_THAT(Rows(PACKAGES, 4),
+                ElementsAre("KTR40X UPGRADE|Upgrade|6.0|SWR", "KTR40G Upgrade|Upgrade|5.10|SWR",
+                            "KTR40G Full|Full|5.10|SWR", "KTR40G full|Full|5.9|SWR"));
     EXPECT_EQ(LS_IsSelected(PACKAGES, 1, 0), 1);
     ChoosePackage(3);
-    EXPECT_EQ(Rows(UNITS, {3})[5], "5.9");
+    EXPECT_EQ(Of("SWR1", OFFER), "5.9");
     EXPECT_THAT(Disabled(), IsEmpty());
     Choose("DME1");
-    EXPECT_THAT(Rows(PACKAGES, {0}), IsEmpty());
+    EXPECT_EQ(LS_GetNData(PACKAGES), 0);
     EXPECT_THAT(Disabled(), ElementsAre(INSTALL));
 }
 
@@ -188,17 +177,18 @@ TEST_F(NewInstall, AllIsReadAgainAroundAnInstall)
     GL_InitialReadPopupDisable = 0;
     const Lines sent = Install();
     EXPECT_THAT(InstallStick::Calls(), ElementsAre("step [SWR5.10]"));
-    EXPECT_EQ(Result("SWR1"), "OK");
+    EXPECT_EQ(Of("SWR1", RESULT), "OK");
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
     EXPECT_EQ(GL_CreatePage, 0u);
     EXPECT_EQ(GL_InitialReadPopupDisable, 0);
-    const auto at = [&](const char* line) { return std::ranges::find(sent, line) - sent.begin(); };
-    const char* const list = "Engineering Setup@System@Network Config@List";
-    EXPECT_LT(at((std::string("remove ") + list).c_str()),
-              at("put Info@Initial Read Status#false"));
-    EXPECT_LT(at("put Info@Initial Read Status#false"), at("put Info@Status Report#true"));
-    EXPECT_LT(at("put Info@Status Report#true"), at((std::string("add ") + list).c_str()));
-    EXPECT_LT(at((std::string("add ") + list).c_str()), std::ssize(sent));
+    const std::string list = "Engineering Setup@System@Network Config@List";
+    auto at = sent.begin(); // in this order
+    for (const std::string& line :
+         {"remove " + list, std::string("put Info@Initial Read Status#false"),
+          std::string("put Info@Status Report#true"), "add " + list}) {
+        at = std::find(at, sent.end(), line);
+        EXPECT_NE(at, sent.end()) << line;
+    }
 }
 
 TEST_F(NewInstall, AFailureDoesNotKeepTheNextUnitFromItsInstall)
@@ -211,13 +201,13 @@ TEST_F(NewInstall, AFailureDoesNotKeepTheNextUnitFromItsInstall)
     LS_SetMS(UNITS, 1);
     for (const char* unit : {"SCS", "PNL1", "SWR1"})
         Choose(unit);
-    EXPECT_EQ(Rows(UNITS, {3})[size_t(RowOf("SWR1"))], "") << "of another model";
+    EXPECT_EQ(Of("SWR1", OFFER), "") << "of another model";
     ChoosePackage(0);
-    EXPECT_EQ(Rows(UNITS, {3})[size_t(RowOf("SWR1"))], "6.0");
+    EXPECT_EQ(Of("SWR1", OFFER), "6.0");
     (void)Install();
-    EXPECT_EQ(Result("SCS"), "OK");
-    EXPECT_EQ(Result("PNL1"), "7");
-    EXPECT_EQ(Result("SWR1"), "Cancel");
+    EXPECT_EQ(Of("SCS", RESULT), "OK");
+    EXPECT_EQ(Of("PNL1", RESULT), "7");
+    EXPECT_EQ(Of("SWR1", RESULT), "Cancel");
     EXPECT_THAT(InstallStick::Calls(), ElementsAre("step [SCS3.0]", "scs_exec [PNL2.0]"));
     EXPECT_THAT(InstallStick::Errors(),
                 ElementsAre("Install failed.", "[Error] The selected device is  KTR40GSF,",
@@ -226,5 +216,5 @@ TEST_F(NewInstall, AFailureDoesNotKeepTheNextUnitFromItsInstall)
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "of the step that failed";
     (void)CloseWindow();
     Show();
-    EXPECT_EQ(Result("PNL1"), "7") << "still there after a look at the error list";
+    EXPECT_EQ(Of("PNL1", RESULT), "7") << "still there after a look at the error list";
 }
