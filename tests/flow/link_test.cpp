@@ -51,6 +51,27 @@ static void Connect(Peer& peer)
     (void)Net_ReceiveSHPCommand();
 }
 
+// With a server on one of the links from the beginning.
+template <int PORT> struct LinkTo : Link {
+    Peer peer{PORT};
+
+    void SetUp() override
+    {
+        Link::SetUp();
+        GL_ClipStoreSupportMode = PORT == HUB_PORT;
+        Connect(peer);
+    }
+    void TearDown() override
+    {
+        peer.Drop();
+        peer.StopListening();
+        Link::TearDown();
+    }
+};
+using TextLink = LinkTo<NET_TEXT_PORT>;
+using BinLink = LinkTo<NET_BIN_PORT>;
+using HubLink = LinkTo<HUB_PORT>;
+
 // Everything that arrives within a moment; a loopback needs some.
 template <typename Receive> static Strings ReceiveAll(Receive receive, size_t count)
 {
@@ -77,10 +98,8 @@ static void ComeBack(Peer& peer, int* keep = nullptr)
     EXPECT_EQ(GL_NetReConnect, 1);
 }
 
-TEST_F(Link, APassReadsWhatHadComeWhenItAsked)
+TEST_F(TextLink, APassReadsWhatHadComeWhenItAsked)
 {
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
     Ready_Ask();
     peer.Send("A#1\nB#2\n");
     usleep(20000);
@@ -113,10 +132,8 @@ static std::string Numbered(int i)
     return "put A@B#" + std::to_string(100000 + i);
 }
 
-TEST_F(Link, APassSends33ItemsAndPausesAreAmongThem)
+TEST_F(TextLink, APassSends33ItemsAndPausesAreAmongThem)
 {
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
     Net_SendCommand("TM3WAIT#0");
     Net_SendCommand("TM3WAIT#250");
     Net_SendCommand("TM3WAIT#-1");
@@ -131,10 +148,8 @@ TEST_F(Link, APassSends33ItemsAndPausesAreAmongThem)
     EXPECT_EQ(Net_QueueLength(), 10);
 }
 
-TEST_F(Link, ACommandOf1023CharactersHasNoRoomForItsEnd)
+TEST_F(TextLink, ACommandOf1023CharactersHasNoRoomForItsEnd)
 {
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
     Net_SendCommand(std::string(1022, 'a').c_str());
     Net_SendCommand(std::string(1030, 'b').c_str());
     Net_SendCommand("c");
@@ -173,10 +188,8 @@ TEST_F(Link, WhatWasQueuedWhileTheServerWasAwayGoesOutInOrder)
     EXPECT_EQ(received, sent);
 }
 
-TEST_F(Link, AWriteToADeadSocketKeepsTheCommand)
+TEST_F(TextLink, AWriteToADeadSocketKeepsTheCommand)
 {
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
     peer.Drop();
     usleep(20000);
     Net_SendCommand("put A#1"); // the kernel takes it and learns of the reset
@@ -190,10 +203,8 @@ TEST_F(Link, AWriteToADeadSocketKeepsTheCommand)
     EXPECT_THAT(peer.Lines(), ElementsAre("put A#2"));
 }
 
-TEST_F(Link, AReturningServerIsReadUnderAnyDescriptorAndFromItsFirstByte)
+TEST_F(TextLink, AReturningServerIsReadUnderAnyDescriptorAndFromItsFirstByte)
 {
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
     peer.Send("A#1\nhalf a li");
     EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("A#1"));
     int keep = -1;
@@ -410,10 +421,8 @@ static void ExpectTraffic(NetLink link, const NetState& since, uint32_t sent, ui
     EXPECT_EQ(now.received - since.received, received);
 }
 
-TEST_F(Link, AFrameGoesOutLowByteFirstAndComesInHighByteFirst)
+TEST_F(BinLink, AFrameGoesOutLowByteFirstAndComesInHighByteFirst)
 {
-    Peer peer(NET_BIN_PORT);
-    Connect(peer);
     const NetState before = Net_State(NET_LINK_BIN);
     unsigned char data[1025] = {1, 'D', 1, 0};
     EXPECT_EQ(Net_SendBinCommand(1, 0x000200AA, nullptr, 0), 0);
@@ -437,18 +446,16 @@ TEST_F(Link, AFrameGoesOutLowByteFirstAndComesInHighByteFirst)
 
 constexpr uint32_t FRAMES = 6000; // more than the kernel holds
 
-static void QueueFrames(Peer& peer)
+static void QueueFrames()
 {
-    Connect(peer);
     const unsigned char data[1024] = {};
     for (uint32_t i = 0; i < FRAMES; i++)
         EXPECT_EQ(Net_SendBinCommand(5, i, data, sizeof data), 0);
 }
 
-TEST_F(Link, FramesWaitForAServerThatIsBehindWithItsReading)
+TEST_F(BinLink, FramesWaitForAServerThatIsBehindWithItsReading)
 {
-    Peer peer(NET_BIN_PORT);
-    QueueFrames(peer);
+    QueueFrames();
     for (uint32_t i = 0; i < FRAMES; i++) {
         EXPECT_EQ(Net_SendBinCommandQueue(), 0);
         const std::string frame = Bytes(peer, 1033);
@@ -457,10 +464,9 @@ TEST_F(Link, FramesWaitForAServerThatIsBehindWithItsReading)
     }
 }
 
-TEST_F(Link, AFrameThatWasCutByALossIsSentWholeAgain)
+TEST_F(BinLink, AFrameThatWasCutByALossIsSentWholeAgain)
 {
-    Peer peer(NET_BIN_PORT);
-    QueueFrames(peer);
+    QueueFrames();
     EXPECT_EQ(Net_SendBinCommandQueue(), 0);
     peer.Drop();
     usleep(20000);
@@ -476,10 +482,8 @@ TEST_F(Link, AFrameThatWasCutByALossIsSentWholeAgain)
     Net_DropBinQueue();
 }
 
-TEST_F(Link, FramesAreInStepAgainAfterALoss)
+TEST_F(BinLink, FramesAreInStepAgainAfterALoss)
 {
-    Peer peer(NET_BIN_PORT);
-    Connect(peer);
     Log_Init("/tmp/bin_link.log", 1000000);
     (void)Net_SendBinCommand(4, 0x12345678, reinterpret_cast<const unsigned char*>("A"), 1);
     EXPECT_EQ(Net_SendBinCommandQueue(), 0);
@@ -492,9 +496,8 @@ TEST_F(Link, FramesAreInStepAgainAfterALoss)
     const std::string frame("\0\7\x84\xAA\0\2\0\xFF\xFF", 9);
     peer.Send(frame + frame.substr(0, 4));
     EXPECT_EQ(ReceiveFrame(), frame);
-    Net_SendBinCommand(1, 0, nullptr, 0);
-    EXPECT_EQ(Net_SendBinCommandQueue(),
-              0); // never read: the drop is then a reset, and read fails with -1
+    Net_SendBinCommand(1, 0, nullptr, 0); // never read: the drop is then a reset, and read fails
+    EXPECT_EQ(Net_SendBinCommandQueue(), 0);
     usleep(20000);
     peer.Drop();
     usleep(20000);
@@ -526,10 +529,8 @@ static Strings SentFrames(Peer& peer)
     return frames;
 }
 
-TEST_F(Link, TheStreamsAreSubscribedBeforeTheirRegionsJoin)
+TEST_F(BinLink, TheStreamsAreSubscribedBeforeTheirRegionsJoin)
 {
-    Peer peer(NET_BIN_PORT);
-    Connect(peer);
     Net_DropBinQueue();
     InitialCommand1();
     const Strings frames = SentFrames(peer);
@@ -546,10 +547,8 @@ TEST_F(Link, TheStreamsAreSubscribedBeforeTheirRegionsJoin)
 
 // Both ends of the count: what the length bytes say when they are read the other way round is less
 // than what came for some of them.
-TEST_F(Link, AnEffectArrivesWholeWhateverItsCountOfKeyframes)
+TEST_F(BinLink, AnEffectArrivesWholeWhateverItsCountOfKeyframes)
 {
-    Peer peer(NET_BIN_PORT);
-    Connect(peer);
     SYS_FrameRate = 30;
     KF_Init();
     for (const int count : {0, 1, 104, 105, 106, 233, 234, 235, 361, 362, 489, 490, 491, 496}) {
@@ -580,11 +579,8 @@ TEST_F(Link, AnEffectArrivesWholeWhateverItsCountOfKeyframes)
 
 // --- Hub link ---
 
-TEST_F(Link, TheHubGetsOneLineEach100ms)
+TEST_F(HubLink, TheHubGetsOneLineEach100ms)
 {
-    GL_ClipStoreSupportMode = 1;
-    Peer peer(HUB_PORT);
-    Connect(peer);
     EXPECT_EQ(Net_SendSHPCommandQueue(10), 0);
     const NetState before = Net_State(NET_LINK_HUB);
     Log_Init("/tmp/hub_link.log", 1000000);
@@ -633,11 +629,8 @@ TEST_F(Link, AHubThatIsNotThereIsLeftAloneFor6000Calls)
     ASSERT_TRUE(peer.Accept());
 }
 
-TEST_F(Link, HubLinesEndWithAnyLowControlByte)
+TEST_F(HubLink, HubLinesEndWithAnyLowControlByte)
 {
-    GL_ClipStoreSupportMode = 1;
-    Peer peer(HUB_PORT);
-    Connect(peer);
     peer.Send("Ready#CS1.File\x01\x0F\x7FNotify#CS1.File:a\tb\n\x10\n\nlast\n");
     usleep(20000);
     for (const char* line : {"Ready#CS1.File", "Notify#CS1.File:a", "b", "\x10", "last"})
@@ -669,12 +662,9 @@ TEST_F(Link, AHubThatHasFallenIsToldOnce)
     }
 }
 
-TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)
+TEST_F(HubLink, ARequestToTheOwnClipStoreIsNumbered)
 {
     DEVICE first{.id = "SWR001D001"}, second{.id = "SWR001D003"};
-    GL_ClipStoreSupportMode = 1;
-    Peer peer(HUB_PORT);
-    Connect(peer);
     SYS_MySwrMax = 2;
     DEV_MySwr[0] = &first;
     DEV_MySwr[1] = &second;
@@ -694,10 +684,8 @@ TEST_F(Link, ARequestToTheOwnClipStoreIsNumbered)
                                           "Read#CS2.File:c", "InitRead#CS*.File"));
 }
 
-TEST_F(Link, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)
+TEST_F(TextLink, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)
 {
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
     peer.Send(std::string(500, 'x')); // 95 of them wait in the socket, behind what can be read
     EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), IsEmpty());
     Clock_ms += 9000;
@@ -713,16 +701,10 @@ TEST_F(Link, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)
 }
 
 // The install pumps the link itself until the server has answered.
-TEST_F(Link, AFileOfTheInstallIsWaitedFor)
+TEST_F(TextLink, AFileOfTheInstallIsWaitedFor)
 {
-    static const struct {
-        const char* reply;
-        int result;
-    } cases[] = {{"OK", 0}, {"NG(no)", -1}, {"OK", 0}};
-    Peer peer(NET_TEXT_PORT);
-    Connect(peer);
     Clock_IsReal = true;
-    for (const auto& c : cases) {
+    for (const std::string reply : {"OK", "NG(no)", "OK"}) {
         std::string line;
         std::thread server([&] {
             for (int i = 0; i < 200 && line.empty(); i++)
@@ -731,9 +713,9 @@ TEST_F(Link, AFileOfTheInstallIsWaitedFor)
                         line = sent;
             const size_t label = line.find('#');
             peer.Send("File@Transfer@Transfer" + line.substr(label, line.find(',') - label) +
-                      ",7\nFile@Transfer@Transfer@Status#7," + c.reply + "\n");
+                      ",7\nFile@Transfer@Transfer@Status#7," + reply + "\n");
         });
-        EXPECT_EQ(File_InstallPut("/a", "/b", "10.0.0.1"), c.result) << c.reply;
+        EXPECT_EQ(File_InstallPut("/a", "/b", "10.0.0.1"), reply == "OK" ? 0 : -1) << reply;
         server.join();
         EXPECT_THAT(line, testing::MatchesRegex("put File@Transfer@Transfer#L[0-9]+,MYHOST:/a,"
                                                 "10.0.0.1:/b"));

@@ -1,6 +1,5 @@
 #include "a_bt_page.h"
 #include "device.h"
-#include <cstring>
 
 struct ButtonFamily : ButtonPage {
     char dependency[BT_COMMANDS][32];

@@ -254,25 +254,21 @@ TEST_F(DmePages, EveryNumberedLinkHasTheDependenciesThatItsTableGoesBy)
 
 TEST_F(DmePages, TheKnobsOfARollFollowItsSplit)
 {
-    static constexpr struct {
-        int button;
-        const char* value;
-        const NB_TBL* table;
-    } splits[] = {{33, "H", nb_dme_nonlinear_type_roll_roll1},
-                  {34, "V", nb_dme_nonlinear_type_roll_roll2},
-                  {35, "H&V", nb_dme_nonlinear_type_roll_roll3}};
     const std::string split = "DME@Nonlinear@Roll@Split#";
     Open(0x41320000);
     Tell("DME@Nonlinear@Type@Type#Roll");
     (void)Press(17);
     ASSERT_EQ(BT_GetKnobAssign(), 17);
     EXPECT_TRUE(IsShown(nb_dme_nonlinear_type_roll_roll4));
-    for (const auto& s : splits) {
-        EXPECT_THAT(Press(s.button), Contains("put " + split + s.value));
-        EXPECT_TRUE(IsShown(s.table)) << "at the press, " << s.value;
-        Tell(split + s.value);
-        EXPECT_TRUE(IsShown(s.table)) << "at the tally, " << s.value;
-        EXPECT_THAT(Press(s.button), Contains("put " + split + "null")); // takes the split off
+    for (const auto& [button, value, table] :
+         {std::tuple{33, "H", nb_dme_nonlinear_type_roll_roll1},
+          {34, "V", nb_dme_nonlinear_type_roll_roll2},
+          {35, "H&V", nb_dme_nonlinear_type_roll_roll3}}) {
+        EXPECT_THAT(Press(button), Contains("put " + split + value));
+        EXPECT_TRUE(IsShown(table)) << "at the press, " << value;
+        Tell(split + value);
+        EXPECT_TRUE(IsShown(table)) << "at the tally, " << value;
+        EXPECT_THAT(Press(button), Contains("put " + split + "null")); // takes the split off
         EXPECT_TRUE(IsShown(nb_dme_nonlinear_type_roll_roll4)) << "off again";
         Tell(split + "null");
     }

@@ -64,28 +64,28 @@ TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
 
 TEST_F(Buttons, APressSendsWhatItsTypeSays)
 {
-    static const struct {
-        int id, status;
-        const char* sent;
-    } cases[] = {
-        {20, BT_NO_TALLY, "put M/E-1@Key1@Invert#true"},
-        {20, BT_ON, "put M/E-1@Key1@Invert#false"},
-        {19, BT_OFF, "put M/E-1@Key1@Type@Force#Black"},
-        {19, BT_ON, "put M/E-1@Key1@Type@Force#null"},
-        {21, BT_NO_TALLY, "put M/E-1@Key1@Type@Auto#true"},
-        {18, BT_OFF, "put M/E-1@Key1@Type@Key Type#Linear"},
-    };
-    for (const auto& c : cases) {
-        BT_SetStatus(c.id, c.status);
+    for (const auto& [id, status, sent] :
+         {std::tuple{20, BT_NO_TALLY, "put M/E-1@Key1@Invert#true"},
+          {20, BT_ON, "put M/E-1@Key1@Invert#false"},
+          {19, BT_OFF, "put M/E-1@Key1@Type@Force#Black"},
+          {19, BT_ON, "put M/E-1@Key1@Type@Force#null"},
+          {21, BT_NO_TALLY, "put M/E-1@Key1@Type@Auto#true"},
+          {18, BT_OFF, "put M/E-1@Key1@Type@Key Type#Linear"}}) {
+        BT_SetStatus(id, status);
         GL_CreatePage = 7;
-        Press(c.id);
-        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), 7u) << c.id << " leads nowhere";
-        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.sent)) << c.id;
-        EXPECT_EQ(BT_GetStatus(c.id), c.status) << "a press changes no state";
+        Press(id);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), 7u) << id << " leads nowhere";
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(sent)) << id;
+        EXPECT_EQ(BT_GetStatus(id), status) << "a press changes no state";
     }
     for (int id : {33, 35, 37, 38, 49}) {
         Press(id);
         EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << id;
+    }
+    OpenTree({"M/E-2", "Key3", "Type"}, 0x12310000, table);
+    for (const auto& [id, asked] : {std::pair{33, 0x00220000u}, {34, 0x12310001u}}) {
+        Press(id);
+        EXPECT_EQ(GL_CreatePage, asked) << "as it stands, or for the key that is shown";
     }
 }
 
@@ -97,15 +97,6 @@ TEST_F(Buttons, APressThatLeadsToMoreIsPaintedAtOnce)
         Press(id);
         EXPECT_EQ(bt_find(id)->redraw, id == 20 || id == 33 || id == 18) << id;
     }
-}
-
-TEST_F(Buttons, AJumpIsRequestedAsItStandsOrForTheShownKey)
-{
-    OpenTree({"M/E-2", "Key3", "Type"}, 0x12310000, table);
-    Press(33);
-    EXPECT_EQ(GL_CreatePage, 0x00220000u);
-    Press(34);
-    EXPECT_EQ(GL_CreatePage, 0x12310001u);
 }
 
 TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
@@ -121,19 +112,6 @@ TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
     BA_SetDefaultButton(0);
     Press(20);
     EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(1));
-}
-
-TEST_F(Buttons, ThePushedLookLastsItsTimeAndNoLonger)
-{
-    const BT_MEM* const b = bt_find(20);
-    Press(20);
-    Pass(149);
-    EXPECT_GT(b->pushed, 0);
-    Pass(1);
-    EXPECT_EQ(b->pushed, 0);
-    EXPECT_EQ(b->redraw, 1) << "it comes back up";
-    Pass(10);
-    EXPECT_EQ(b->redraw, 0);
 }
 
 TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
@@ -236,16 +214,15 @@ TEST_F(SpecialRows, WhatIsReadOnceIsNeitherAddedNorRemoved)
 TEST_F(SpecialRows, AnOlderFrameMemoryHasNoResizerToFollow)
 {
     rows[0] = Button(17, BT_TOGGLE, {"~@Resizer@Mode#*", "~@Rszr#", "~@Other#"});
-    for (const int v6 : {0, 1}) {
-        SYS_FmemV6 = v6;
-        BT_Create(rows, 0);
-        const auto sent = TakeQueuedCommands();
-        EXPECT_EQ(sent.size(), v6 ? 3u : 1u);
-        EXPECT_THAT(sent, Contains("add M/E-1@Key1@Type@Other"));
+    for (const size_t paths : {1, 3}) {
+        SYS_FmemV6 = paths == 3;
         BT_Create(nullptr, 0);
         (void)TakeQueuedCommands();
+        BT_Create(rows, 0);
+        const auto sent = TakeQueuedCommands();
+        EXPECT_EQ(sent.size(), paths);
+        EXPECT_THAT(sent, Contains("add M/E-1@Key1@Type@Other"));
     }
-    SYS_FmemV6 = 0;
 }
 
 TEST_F(SpecialRows, APageHasThirtyTwoButtonsAndNoMore)
@@ -258,28 +235,28 @@ TEST_F(SpecialRows, APageHasThirtyTwoButtonsAndNoMore)
     EXPECT_EQ(bt_first()[BT_MAX].id, -1);
 }
 
-TEST_F(SpecialRows, ALongActionLooksPushedForASecond)
+TEST_F(SpecialRows, TheLookIsPushedForItsTimeAndALongActionForASecond)
 {
     rows[0] = Button(17, BT_ACTION, {"~@A#*"});
     rows[1] = Button(18, BT_TOGGLE, {"~@B#*"});
+    rows[2] = Button(17 + 64, BT_ACTION, {"~@C#*"});
     OpenTree({"Copy", "X"}, 0x31160000, rows);
+    const BT_MEM *const action = bt_find(17), *const toggle = bt_find(18);
     Press(17);
     Press(18);
-    Pass(999);
-    EXPECT_GT(bt_find(17)->pushed, 0);
-    EXPECT_EQ(bt_find(18)->pushed, 0) << "only actions run that long";
-    Pass(1);
-    EXPECT_EQ(bt_find(17)->pushed, 0);
-}
-
-TEST_F(SpecialRows, ButtonsThatOverlapBothAct)
-{
-    rows[0] = Button(17, BT_ACTION, {"~@A#*"});
-    rows[1] = Button(17 + 64, BT_ACTION, {"~@B#*"});
-    Open(rows);
-    Press(17);
     EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("put M/E-1@Key1@Type@A#true", "put M/E-1@Key1@Type@B#true"));
+                ElementsAre("put Copy@X@A#true", "put Copy@X@C#true", "put Copy@X@B#true"))
+        << "two that overlap both act";
+    Pass(149);
+    EXPECT_GT(toggle->pushed, 0);
+    Pass(1);
+    EXPECT_EQ(toggle->pushed, 0) << "only actions run longer";
+    EXPECT_EQ(toggle->redraw, 1) << "it comes back up";
+    Pass(849);
+    EXPECT_EQ(toggle->redraw, 0);
+    EXPECT_GT(action->pushed, 0);
+    Pass(1);
+    EXPECT_EQ(action->pushed, 0);
 }
 
 // --- What changes on a page that stands ---

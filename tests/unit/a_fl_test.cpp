@@ -122,31 +122,20 @@ TEST_F(FileList, AFolderIsAskedForAndShownWithItsClips)
 TEST_F(FileList, RowsThatAreNoClipsLeaveNothing)
 {
     (void)Told(0);
-    const std::string long_name(33, 'n');
-    const std::string names[] = {"",
-                                 "/",
-                                 "/.SFH",
-                                 "/a.TIF",
-                                 "/a.SFH.bak",
-                                 "x/a.SFH",
-                                 "/../a.SFH",
-                                 "/" + long_name + ".SFH",
-                                 "/" + std::string(300, 'p') + ".SFH",
-                                 "/a:b.SFH",
-                                 "/clip.SFH/clip#00000a.SFH",
-                                 "/clip.SFH/clip#0000000.SFH",
-                                 "/clip.SFH/clip#00000.SFH",
-                                 "/clip.SFH/clip000000.SFH",
-                                 "/clip.SFH/other#000000.SFH",
-                                 "/clip.SFH/x/clip#000000.SFH",
-                                 "/NEWS/a.SFH",
-                                 "/1/2/3/4/5/a.SFH"};
-    file_find_tly("", "Nov.25.2026 09:20", FL_L_LIST);
-    file_find_tly("/etc/a.SFH", "Nov.25.2026 09:20", FL_L_LIST);
-    for (const std::string& name : names) {
-        file_find_tly((ROOT + name).c_str(), "Nov.25.2026 09:20", FL_L_LIST);
-        EXPECT_EQ(fl.list[0].count, 0) << name;
-    }
+    const auto leaves_nothing = [](const std::string& row) {
+        file_find_tly(row.c_str(), "Nov.25.2026 09:20", FL_L_LIST);
+        EXPECT_EQ(fl.list[0].count, 0) << row;
+    };
+    for (const char* name :
+         {"", "/", "/.SFH", "/a.TIF", "/a.SFH.bak", "x/a.SFH", "/../a.SFH", "/a:b.SFH",
+          "/clip.SFH/clip#00000a.SFH", "/clip.SFH/clip#0000000.SFH", "/clip.SFH/clip#00000.SFH",
+          "/clip.SFH/clip000000.SFH", "/clip.SFH/other#000000.SFH", "/clip.SFH/x/clip#000000.SFH",
+          "/NEWS/a.SFH", "/1/2/3/4/5/a.SFH"})
+        leaves_nothing(ROOT + name);
+    for (const size_t length : {33, 300})
+        leaves_nothing(ROOT + "/" + std::string(length, 'n') + ".SFH");
+    leaves_nothing("");
+    leaves_nothing("/etc/a.SFH");
     file_find_tly((ROOT + "/a.SFH").c_str(), "", FL_R_LIST); // the store's side
     EXPECT_EQ(fl.list[1].count, 0);
     // What only looks like a file is not read, and its row stays with zeros.
@@ -223,25 +212,20 @@ TEST_F(FileList, ASearchWrapsOnceAndTheSelectionFollowsItsName)
 
 TEST(ElementRow, OnlyWholeRowsAreTaken)
 {
-    static const struct {
-        const char* row;
-        int type, result;
-    } cases[] = {
-        {"root/a:1,0,0,0,2026-13-01 00:00,1,1", ELEMENT_TYPE_FILE, 0},
-        {"root/1/2/3/4/a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, 0},
-        {"root/1/2/3/4/5/a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, -1},
-        {"root/a:1,0,0,0,,1", ELEMENT_TYPE_FILE, -1},
-        {"root/a:1,0,0,0,,1,1,1", ELEMENT_TYPE_FILE, -1},
-        {"root/a", ELEMENT_TYPE_FILE, -1},
-        {"a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, -1},
-        {"root/A:1", ELEMENT_TYPE_FOLDER, 0},
-        {"root/A:,", ELEMENT_TYPE_FOLDER, -1},
-        {"root//a:1", ELEMENT_TYPE_FOLDER, -1},
-        {"", ELEMENT_TYPE_FOLDER, -1},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [row, type, result] :
+         {std::tuple{"root/a:1,0,0,0,2026-13-01 00:00,1,1", ELEMENT_TYPE_FILE, 0},
+          {"root/1/2/3/4/a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, 0},
+          {"root/1/2/3/4/5/a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, -1},
+          {"root/a:1,0,0,0,,1", ELEMENT_TYPE_FILE, -1},
+          {"root/a:1,0,0,0,,1,1,1", ELEMENT_TYPE_FILE, -1},
+          {"root/a", ELEMENT_TYPE_FILE, -1},
+          {"a:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, -1},
+          {"root/A:1", ELEMENT_TYPE_FOLDER, 0},
+          {"root/A:,", ELEMENT_TYPE_FOLDER, -1},
+          {"root//a:1", ELEMENT_TYPE_FOLDER, -1},
+          {"", ELEMENT_TYPE_FOLDER, -1}}) {
         ELEMENT e;
-        EXPECT_EQ(FMCtrl3_ReadRow(c.row, c.type, &e), c.result) << c.row;
+        EXPECT_EQ(FMCtrl3_ReadRow(row, type, &e), result) << row;
         EXPECT_STREQ(e.create_time, "");
     }
 }

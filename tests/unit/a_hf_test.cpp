@@ -83,20 +83,15 @@ TEST_F(BottomTabs, EachPathIsFollowedOnceWhileTheTabsStand)
 
 TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)
 {
-    static const struct {
-        const char *path, *value;
-        bool edge, mask;
-    } cases[] = {
-        {"M/E-1@Key1@Edge@Edge Type", "Border", true, false},
-        {"M/E-1@Key1@Edge@Soft Edge", "true", true, true},
-        {"M/E-1@Key1@Edge@Edge Type", "Normal", true, true},
-        {"M/E-1@Key1@Edge@Edge Type", "Shadow", true, true},
-        {"M/E-1@Key1@Edge@Soft Edge", "", true, false},
-        {"M/E-1@Key1@Edge@Edge Type", "Shadow2", false, false},
-    };
-    for (const auto& c : cases) {
-        Tally(c.path, c.value);
-        EXPECT_EQ(IsLit(2), c.edge) << c.path << "#" << c.value;
-        EXPECT_EQ(IsLit(4), c.mask) << c.path << "#" << c.value;
+    for (const auto& [path, value, edge, mask] :
+         {std::tuple{"M/E-1@Key1@Edge@Edge Type", "Border", true, false},
+          {"M/E-1@Key1@Edge@Soft Edge", "true", true, true},
+          {"M/E-1@Key1@Edge@Edge Type", "Normal", true, true},
+          {"M/E-1@Key1@Edge@Edge Type", "Shadow", true, true},
+          {"M/E-1@Key1@Edge@Soft Edge", "", true, false},
+          {"M/E-1@Key1@Edge@Edge Type", "Shadow2", false, false}}) {
+        Tally(path, value);
+        EXPECT_EQ(IsLit(2), edge) << path << "#" << value;
+        EXPECT_EQ(IsLit(4), mask) << path << "#" << value;
     }
 }

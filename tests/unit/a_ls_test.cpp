@@ -1,6 +1,5 @@
 #include "a_ls_page.h"
 #include "loop.h"
-#include "tdl.h"
 #include "window.h"
 #include <array>
 #include <climits>
@@ -57,23 +56,18 @@ struct Lists : ListPage {
 
 TEST_F(Lists, ATouchTellsTheCellAndTheList)
 {
-    static const struct {
-        int x, y, top;
-        std::vector<std::string> said;
-    } cases[] = {
-        {119, 143, 2, {"SEL 1 2 0", "AREA 1"}}, // cells end where the next begin
-        {120, 144, 2, {"SEL 1 3 1", "AREA 1"}},
-        {170, 231, 2, {"SEL 1 6 2", "AREA 1"}},
-        {150, 121, 0, {"AREA 1"}}, // the header
-        {99, 130, 0, {}},
-        {200, 130, 0, {}},
-        {150, 232, 0, {}},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [x, y, top, said] :
+         {std::tuple{119, 143, 2, Strings{"SEL 1 2 0", "AREA 1"}}, // cells end where the next begin
+          {120, 144, 2, {"SEL 1 3 1", "AREA 1"}},
+          {170, 231, 2, {"SEL 1 6 2", "AREA 1"}},
+          {150, 121, 0, {"AREA 1"}}, // the header
+          {99, 130, 0, {}},
+          {200, 130, 0, {}},
+          {150, 232, 0, {}}}) {
         Open(plain, 8);
-        LS_SetTopLine(1, c.top);
-        Touch(c.x, c.y);
-        EXPECT_EQ(told, c.said) << c.x << " " << c.y;
+        LS_SetTopLine(1, top);
+        Touch(x, y);
+        EXPECT_EQ(told, said) << x << " " << y;
     }
     Open(plain, 2);
     TouchLine(2);
@@ -153,29 +147,23 @@ TEST_F(Lists, ABlockStaysOneRun)
 
 TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
 {
-    static const struct {
-        const char* before;
-        int press;
-        std::vector<int> moves;
-        const char* after;
-    } cases[] = {
-        {"..........", 4, {0}, "xxxxx....."},    // too quick for the panel: rows between count
-        {"xxxxx.....", 1, {2, 3}, "x...x....."}, // a touch that takes out goes on taking out
-        {"..........", 3, {9, 2}, "..xx......"}, // off the list and back
-    };
-    for (const auto& c : cases) {
+    for (const auto& [marks, press, moves, after] :
+         {std::tuple{"..........", 4, std::vector<int>{0},
+                     "xxxxx....."},                   // too quick for the panel: rows between count
+          {"xxxxx.....", 1, {2, 3}, "x...x....."},    // a touch that takes out goes on taking out
+          {"..........", 3, {9, 2}, "..xx......"}}) { // off the list and back
         Open(plain, 5);
         LS_SetMS(1, 1);
         for (int row = 0; row < 5; row++)
-            LS_SetSelected(1, row, 0, c.before[row] == 'x');
+            LS_SetSelected(1, row, 0, marks[row] == 'x');
         Clock_ms += 1000;
-        Press(150, RowY(c.press));
-        for (int line : c.moves)
+        Press(150, RowY(press));
+        for (int line : moves)
             Drag(150, RowY(line));
-        EXPECT_EQ(Picture(), c.after);
+        EXPECT_EQ(Picture(), after);
         Release();
         Drag(150, RowY(0));
-        EXPECT_EQ(Picture(), c.after) << "the finger is up";
+        EXPECT_EQ(Picture(), after) << "the finger is up";
     }
     EXPECT_THAT(Told(), ElementsAre("SEL 1 3 1", "SEL 1 2 1"));
 }

@@ -157,20 +157,15 @@ TEST_F(KnobColumn, AnotherCommandTakesTheKnobAlongAndForgetsTheValue)
 
 TEST_F(KnobColumn, APathDecidesWhatATallyDoes)
 {
-    static const struct {
-        const char *path, *value;
-        Lines heard;
-    } cases[] = {
-        {CLIP, "37.5", {}},
-        {"Panel@Common@Knob1", "14", {"var 2 2", "fvar 2 2.00"}},
-        {"Panel@Common@Knob2", "-3", {"diff 3 -1.50"}},
-        {"Panel@Common@Knob3", "1", {}},
-        {"LOCAL", "5", {}},
-    };
     Open(table);
-    for (const auto& c : cases) {
-        Tally(c.path, c.value);
-        EXPECT_EQ(Told(), c.heard) << c.path << " " << c.value;
+    for (const auto& [path, value, heard] :
+         {std::tuple<const char*, const char*, Lines>{CLIP, "37.5", {}},
+          {"Panel@Common@Knob1", "14", {"var 2 2", "fvar 2 2.00"}},
+          {"Panel@Common@Knob2", "-3", {"diff 3 -1.50"}},
+          {"Panel@Common@Knob3", "1", {}},
+          {"LOCAL", "5", {}}}) {
+        Tally(path, value);
+        EXPECT_EQ(Told(), heard) << path << " " << value;
     }
     EXPECT_EQ(Shown("Clip"), 37.5);
     EXPECT_EQ(Shown("Pages"), 0);
@@ -499,26 +494,21 @@ TEST_F(KnobColumn, SomePagesBendADraggedValue)
 // Its page code takes the value whole or not at all.
 TEST_F(KnobColumn, TheRotationOfAWipeIsToldExactlyAndOnce)
 {
-    static const struct {
-        uint32_t page;
-        const char* caption;
-        double min;
-        bool exact;
-    } cases[] = {
-        {0x12260003, "H", -100, true},   {0x13650000, "V", 100, true},
-        {0x13650000, "All", -100, true}, {0x13650000, "V", -100, false},
-        {0x13650000, "H", 100, false},   {0x13650000, "D", -100, false},
-        {0x12260002, "H", -100, false},
-    };
-    for (const auto& c : cases) {
-        const NB_TBL rows[] = {Box(1, c.caption, NB_2, c.min, -c.min, "LOCAL"), NB_END};
-        GL_NowPage = c.page;
+    for (const auto& [id, caption, min, exact] : {std::tuple{0x12260003u, "H", -100, true},
+                                                  {0x13650000u, "V", 100, true},
+                                                  {0x13650000u, "All", -100, true},
+                                                  {0x13650000u, "V", -100, false},
+                                                  {0x13650000u, "H", 100, false},
+                                                  {0x13650000u, "D", -100, false},
+                                                  {0x12260002u, "H", -100, false}}) {
+        const NB_TBL rows[] = {Box(1, caption, NB_2, min, -min, "LOCAL"), NB_END};
+        GL_NowPage = id;
         Open(rows);
-        exact_var = c.exact;
+        exact_var = exact;
         EXPECT_EQ(NB_SendValue2(1, 12.75), 0);
-        EXPECT_EQ(Told(), c.exact ? Lines({"var 1 12.75"})
-                                  : Lines({"var 1 13 screen", "fvar 1 12.75 screen"}))
-            << std::hex << c.page << " " << c.caption;
+        EXPECT_EQ(Told(), exact ? Lines({"var 1 12.75"})
+                                : Lines({"var 1 13 screen", "fvar 1 12.75 screen"}))
+            << std::hex << id << " " << caption;
     }
 }
 

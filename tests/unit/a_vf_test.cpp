@@ -31,21 +31,15 @@ struct LeftTabs : TabPage {
 
 TEST_F(LeftTabs, APressAsksForThePageOfItsSlot)
 {
-    static const struct {
-        int x, y;
-        uint32_t page;
-    } cases[] = {
-        {X, Slot(2) - 1, 0x11110000},
-        {X, Slot(2), 0x11210000},
-        {93, Slot(2), 0x11210000},
-        {94, Slot(2), 0},
-        {X, Slot(4), 0},
-        {X, Slot(6), 0},
-        {X, 527, 0x11000000},
-        {X, 528, 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Asked(c.x, c.y), c.page) << c.x << "," << c.y;
+    for (const auto& [x, y, id] : {std::tuple<int, int, uint32_t>{X, Slot(2) - 1, 0x11110000u},
+                                   {X, Slot(2), 0x11210000u},
+                                   {93, Slot(2), 0x11210000u},
+                                   {94, Slot(2), 0u},
+                                   {X, Slot(4), 0u},
+                                   {X, Slot(6), 0u},
+                                   {X, 527, 0x11000000u},
+                                   {X, 528, 0u}})
+        EXPECT_EQ(Asked(x, y), id) << x << "," << y;
     SYS_RefSwrType = 256; // keys 3 and 4 have no edge
     EXPECT_EQ(Asked(X, Slot(3)), 0x11310000u);
     SYS_RefSwrType = 0;
@@ -99,42 +93,24 @@ TEST_F(LeftTabs, ArmedDefaultRecallTakesTheGroupOnceAndStays)
 TEST_F(LeftTabs, ARecallOfAWipeTakesItsKnobsAway)
 {
     static const VF_TBL wipe[] = {{.id = 1, .caption = "Wipe", .page = 0x15510000}, VF_END};
-    static const struct {
-        uint32_t page;
-        int has_sub, owner;
-        const char* sent;
-        int owner_then;
-    } cases[] = {
-        {0x11510000, 0, 33, "default M/E-1@Wipe", -1},
-        {0x15510000, 1, 34, "default M/E-1 SUB@Wipe", -1},
-        {0x15510000, 1, 35, "default M/E-1 SUB@Wipe", 35},
-        {0x15710000, 1, 33, "default M/E-1 SUB@Wipe", 33}, // no page of a wipe
-    };
-    for (const auto& c : cases) {
-        multiprogram2_me[1] = c.has_sub;
-        SetTree({"M/E-1", "Wipe"}, c.page);
+    for (const auto& [id, has_sub, owner, sent, owner_then] :
+         {std::tuple{0x11510000u, 0, 33, "default M/E-1@Wipe", -1},
+          {0x15510000u, 1, 34, "default M/E-1 SUB@Wipe", -1},
+          {0x15510000u, 1, 35, "default M/E-1 SUB@Wipe", 35},
+          {0x15710000u, 1, 33, "default M/E-1 SUB@Wipe", 33}}) { // no page of a wipe
+        multiprogram2_me[1] = has_sub;
+        SetTree({"M/E-1", "Wipe"}, id);
         VF_Create(wipe, 1);
-        BT_SetKnobAssign(c.owner);
+        BT_SetKnobAssign(owner);
         BA_SetDefaultButton(1);
-        EXPECT_THAT(Sent(X, Slot(1)), Contains(c.sent)) << std::hex << c.page;
-        EXPECT_EQ(BT_GetKnobAssign(), c.owner_then) << std::hex << c.page;
+        EXPECT_THAT(Sent(X, Slot(1)), Contains(sent)) << std::hex << id;
+        EXPECT_EQ(BT_GetKnobAssign(), owner_then) << std::hex << id;
     }
     BT_SetKnobAssign(-1);
 }
 
 TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
 {
-    static const struct {
-        uint32_t page;
-        const char *main, *further;
-    } cases[] = {
-        {0x11110000, "Main", ""},    // key 1: output 1
-        {0x11210000, "Main", "Sub"}, // key 2: both
-        {0x11310000, "", "Sub"},     // key 3: output 2
-        {0x11410000, "", ""},        // key 4: no output
-        {0x12410000, "Main", ""},    // a bank of one side
-        {0x11510000, "", ""},        // no key page
-    };
     multiprogram2_me[0] = multiprogram2_me[1] = multiprogram2_me[4] = 1;
     constexpr Rect second = {0, Slot(2), 93, Slot(3) - 1};
     Pass();
@@ -151,10 +127,15 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
         Tally(OUTPUT_LIST, row);
         Tally(PGM_LIST, row);
     }
-    for (const auto& c : cases) {
-        const KeyAssignText text = keyassign_str_get(c.page);
-        EXPECT_STREQ(text.main, c.main) << std::hex << c.page;
-        EXPECT_STREQ(text.further, c.further) << std::hex << c.page;
+    for (const auto& [id, main, further] : {std::tuple{0x11110000u, "Main", ""}, // key 1: output 1
+                                            {0x11210000u, "Main", "Sub"},        // key 2: both
+                                            {0x11310000u, "", "Sub"},            // key 3: output 2
+                                            {0x11410000u, "", ""},               // key 4: no output
+                                            {0x12410000u, "Main", ""}, // a bank of one side
+                                            {0x11510000u, "", ""}}) {  // no key page
+        const KeyAssignText text = keyassign_str_get(id);
+        EXPECT_STREQ(text.main, main) << std::hex << id;
+        EXPECT_STREQ(text.further, further) << std::hex << id;
     }
     Tally(PGM_LIST, "KILL");
     EXPECT_STREQ(keyassign_str_get(0x11310000).main, "Main");

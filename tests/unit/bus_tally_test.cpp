@@ -234,30 +234,26 @@ TEST_F(BusTally, TheOwnAddressEndsInThePanelNumber)
 
 TEST_F(BusTally, AnotherSwitcherOfTheOwnPanelRenewsTheHubTables)
 {
-    static const struct {
-        const char* value;
-        int first, second, renewed;
-    } cases[] = {
-        {"1,1,0,0,0,0", 1, 0, 0},     // as before
-        {"2,7,8,9,9,9", 1, 0, 0},     // another panel
-        {"1,3,4,0,0", 1, 0, 0},       // a part is missing
-        {"1,258,513,0,0,0", 2, 1, 1}, // 8 bits each
-        {"256,9,9,9,9,9", 2, 1, 0},   {"KILL", 0, 0, 0},
-        {"1,2,1,0,0,0", 2, 1, 1}, // the hub has not been asked before
-    };
-    for (const auto& c : cases) {
+    for (const auto& [value, first, second, renewed] :
+         {std::tuple{"1,1,0,0,0,0", 1, 0, 0}, // as before
+          {"2,7,8,9,9,9", 1, 0, 0},           // another panel
+          {"1,3,4,0,0", 1, 0, 0},             // a part is missing
+          {"1,258,513,0,0,0", 2, 1, 1},       // 8 bits each
+          {"256,9,9,9,9,9", 2, 1, 0},
+          {"KILL", 0, 0, 0},
+          {"1,2,1,0,0,0", 2, 1, 1}}) { // the hub has not been asked before
         GL_InitReadSHP = 0;
         (void)TakeQueuedHubLines();
-        Deliver(SYSTEM_CONFIG "Panel Assign", c.value);
+        Deliver(SYSTEM_CONFIG "Panel Assign", value);
         const Strings hub = TakeQueuedHubLines();
-        EXPECT_EQ(hub.empty(), !c.renewed) << c.value;
-        if (c.renewed) { // what the old ones had goes first
-            EXPECT_EQ(hub.front().substr(0, 9), "Unlisten#") << c.value;
-            EXPECT_EQ(hub.back().substr(0, 7), "Listen#") << c.value;
+        EXPECT_EQ(hub.empty(), !renewed) << value;
+        if (renewed) { // what the old ones had goes first
+            EXPECT_EQ(hub.front().substr(0, 9), "Unlisten#") << value;
+            EXPECT_EQ(hub.back().substr(0, 7), "Listen#") << value;
         }
-        EXPECT_EQ(SYS_PnlAssign[1][0], c.first) << c.value;
-        EXPECT_EQ(SYS_PnlAssign[1][1], c.second) << c.value;
-        EXPECT_EQ(GL_InitReadSHP, c.renewed) << c.value;
+        EXPECT_EQ(SYS_PnlAssign[1][0], first) << value;
+        EXPECT_EQ(SYS_PnlAssign[1][1], second) << value;
+        EXPECT_EQ(GL_InitReadSHP, renewed) << value;
     }
     EXPECT_EQ(SYS_PnlAssign[2][0] + SYS_PnlAssign[255][0], 0); // the list has been told anew
     const int blocks = UsedMemPtr;                             // what is queued for the hub counts
@@ -349,19 +345,15 @@ TEST_F(BusTally, APageIsReloadedOrLeftByTheSettingsItDependsOn)
 
 TEST_F(BusTally, ABankThatIsDisabledIsLeftForTheNext)
 {
-    static const struct {
-        const char* bank;
-        uint32_t page, now, request;
-    } cases[] = {
-        {"M/E-2", 0x11110000, 0x11110000, 0},          // another bank's page
-        {"M/E-1", 0x15230000, 0x13110000, 0x13110000}, // M/E-2 is off already; sub side
-        {"M/E-5", 0x82110000, 0x14110000, 0x14110000}, {"P/P", 0x18110000, PAGE_TOP, PAGE_TOP},
-        {"M/E-4", 0x81110000, PAGE_TOP, PAGE_TOP}, // none is left
-    };
-    for (const auto& c : cases) {
-        const std::string path = std::string(PANEL "Config@M/E Operation@") + c.bank;
-        EXPECT_EQ(Asked(c.page, path, "Disable"), c.request) << c.bank;
-        EXPECT_EQ(GL_NowPage, c.now) << c.bank;
+    for (const auto& [bank, id, now, request] :
+         {std::tuple{"M/E-2", 0x11110000u, 0x11110000u, 0u}, // another bank's page
+          {"M/E-1", 0x15230000u, 0x13110000u, 0x13110000u},  // M/E-2 is off already; sub side
+          {"M/E-5", 0x82110000u, 0x14110000u, 0x14110000u},
+          {"P/P", 0x18110000u, PAGE_TOP, PAGE_TOP},
+          {"M/E-4", 0x81110000u, PAGE_TOP, PAGE_TOP}}) { // none is left
+        const std::string path = std::string(PANEL "Config@M/E Operation@") + bank;
+        EXPECT_EQ(Asked(id, path, "Disable"), request) << bank;
+        EXPECT_EQ(GL_NowPage, now) << bank;
     }
 }
 
@@ -562,33 +554,26 @@ TEST_F(BusTally, ThePanelsAssignButtonsOpenTheirPage)
 
 TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
 {
-    static const struct {
-        const char* value;
-        uint32_t request;
-        int device;
-    } cases[] = {
-        {"1111", 0x11110000, 5},
-        {"7316.8", 0x73160008, 5},
-        {"7316.1f,F8", 0x7316001F, 7},
-        {"7316.1f,D1", 0x7316001F, 0},
-        {"7316.1f,D2", 0x7316001F, 1},
-        {"1111,D0", 0x11110000, 1},
-        {"1111,E3", 0x11110000, 1},
-        {"aBcF", 0xABCF0000, 1},
-        {"12", 0x00120000, 1},
-        {"1.2", 0x00010002, 1},
-        {" 1111", 0x11110000, 1},
-        {"1111.", 0x11110000, 1},
-        {"11112", 0x11110000, 1}, // four digits are taken
-        {"1111,D9", 0x11110000, 1},
-        {"1111,Dffffffffffffffffff", 0x11110000, 1},
-        {"", 0, 1},
-        {"-1", 0, 1},
-    };
     GL_DeviceNo = 5;
-    for (const auto& c : cases) {
-        EXPECT_EQ(Asked(PAGE_TOP, "Page", c.value), c.request) << c.value;
-        EXPECT_EQ(GL_DeviceNo, c.device) << c.value;
+    for (const auto& [value, request, device] : {std::tuple{"1111", 0x11110000u, 5},
+                                                 {"7316.8", 0x73160008u, 5},
+                                                 {"7316.1f,F8", 0x7316001Fu, 7},
+                                                 {"7316.1f,D1", 0x7316001Fu, 0},
+                                                 {"7316.1f,D2", 0x7316001Fu, 1},
+                                                 {"1111,D0", 0x11110000u, 1},
+                                                 {"1111,E3", 0x11110000u, 1},
+                                                 {"aBcF", 0xABCF0000u, 1},
+                                                 {"12", 0x00120000u, 1},
+                                                 {"1.2", 0x00010002u, 1},
+                                                 {" 1111", 0x11110000u, 1},
+                                                 {"1111.", 0x11110000u, 1},
+                                                 {"11112", 0x11110000u, 1}, // four digits are taken
+                                                 {"1111,D9", 0x11110000u, 1},
+                                                 {"1111,Dffffffffffffffffff", 0x11110000u, 1},
+                                                 {"", 0u, 1},
+                                                 {"-1", 0u, 1}}) {
+        EXPECT_EQ(Asked(PAGE_TOP, "Page", value), request) << value;
+        EXPECT_EQ(GL_DeviceNo, device) << value;
     }
 }
 
@@ -596,52 +581,38 @@ TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
 
 TEST_F(BusTally, NoValueOnAnyPathDoesHarm)
 {
-    static const char* const paths[] = {
-        "TopMenu",
-        "Page",
-        "Info@DME@RefCH",
-        FORMAT "Video Format@PNL1",
-        FORMAT "Switcher Aspect",
-        network_list,
-        "Info@IP Address@Menu CPU",
-        SYSTEM_CONFIG "Panel Assign",
-        OPERATION_MODE,
-        "Global Effect@Ch1-Ch4@Combine@Ch",
-        "Info@Processor Status@1",
-        "Info@Initial Read Status",
-        "INFORMATION@DME File Process Progress",
-        "Info@Operation Setup Data@Timeline Region Display",
-        "Info@Operation Setup Data@Timeline Region Priority",
-        "Info@Operation Setup Data@Group Name@",
-        "Info@Operation Setup Data@Shortcut Name@-1",
-        SWITCHER "Config@M/E Config@",
-        PANEL "Config@M/E Assign@",
-        PANEL "Config@MP2 Main/Sub Assign@Main/Sub Assign@1st Row",
-        PANEL "Config@Compact Key Module Assign@KY Unit Config@14",
-        PANEL "Config@M/E Operation@",
-        PANEL "Xpt Assign@Source@List",
-        PANEL "Xpt Assign@Assign",
-        PANEL "Prefs/Utility@Panel Select",
-        SWITCHER "SDI I/F@DME1",
-        FORMAT "FC Format",
-        PANEL "Config@10 Key Region Assign@Common@Region@Common@",
-        "16@Engineering Setup@System@Install@Unit Config@CCR Config",
-        "Info@System Setup Data@FM Data Port Disable@SWR1"};
-    const std::string values[] = {
-        "",
-        ",",
-        "#",
-        "KILL",
-        "-1",
-        "99999999999999999999,99999999999999999999,99999999999999999999,9,9,9,9,9,9",
-        "-99999999999999999999,-99999999999999999999,0,0,0,0",
-        std::string(1023, ','),
-        std::string(3000, '9')};
-    for (const char* path : paths) {
-        for (const std::string& value : values)
-            Deliver(path, value);
-        EXPECT_LE(SYS_PnlMax, DEVICE_MAX);
-        EXPECT_TRUE(SYS_MyPnl >= 0 && SYS_MyPnl < UNIT_MAX) << path;
-        EXPECT_TRUE(GL_DeviceNo >= 0 && GL_DeviceNo < DEVICE_MAX) << path;
-    }
+    static const std::pair<std::string, Strings> paths[] = {
+        {"",
+         {"TopMenu", "Page", "16@Engineering Setup@System@Install@Unit Config@CCR Config",
+          "Global Effect@Ch1-Ch4@Combine@Ch", "INFORMATION@DME File Process Progress", network_list,
+          OPERATION_MODE}},
+        {"Info@",
+         {"DME@RefCH", "IP Address@Menu CPU", "Processor Status@1", "Initial Read Status",
+          "System Setup Data@FM Data Port Disable@SWR1"}},
+        {"Info@Operation Setup Data@",
+         {"Timeline Region Display", "Timeline Region Priority", "Group Name@",
+          "Shortcut Name@-1"}},
+        {FORMAT, {"Video Format@PNL1", "Switcher Aspect", "FC Format"}},
+        {SYSTEM_CONFIG, {"Panel Assign"}},
+        {SWITCHER, {"Config@M/E Config@", "SDI I/F@DME1"}},
+        {PANEL,
+         {"Config@M/E Assign@", "Config@M/E Operation@", "Xpt Assign@Source@List",
+          "Xpt Assign@Assign", "Prefs/Utility@Panel Select"}},
+        {PANEL "Config@",
+         {"MP2 Main/Sub Assign@Main/Sub Assign@1st Row",
+          "Compact Key Module Assign@KY Unit Config@14",
+          "10 Key Region Assign@Common@Region@Common@"}},
+    };
+    const std::string n(20, '9');
+    Strings values = {"", ",", "#", "KILL", "-1", std::string(1023, ','), std::string(3000, '9')};
+    values.push_back(n + "," + n + "," + n + ",9,9,9,9,9,9");
+    values.push_back("-" + n + ",-" + n + ",0,0,0,0");
+    for (const auto& [prefix, names] : paths)
+        for (const std::string& name : names) {
+            for (const std::string& value : values)
+                Deliver(prefix + name, value);
+            EXPECT_LE(SYS_PnlMax, DEVICE_MAX);
+            EXPECT_TRUE(SYS_MyPnl >= 0 && SYS_MyPnl < UNIT_MAX) << name;
+            EXPECT_TRUE(GL_DeviceNo >= 0 && GL_DeviceNo < DEVICE_MAX) << name;
+        }
 }

@@ -130,26 +130,20 @@ TEST(Command, ABufferThatIsShortGetsTheBeginning)
 
 TEST(Command, AConditionDisablesAtItsValues)
 {
-    static const struct {
-        const char *cond, *var;
-        int disabled;
-    } cases[] = {
-        {"Off, Auto", "Auto", 1},
-        {"Off", "Off2", 0},
-        {"!On", "Off", 1},
-        {"!On", "On", 0},
-        {"!A,!B", "A", 1},
-        {"!A,B", "A", 0},
-        {"", "", 1},
-        {"A,", "", 1},
-        {nullptr, "", 0},
-        {"", nullptr, 1},
-        {"Off, Auto", "uto", 0},
-        {"XOn", "On", 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(IsDisableCondition(c.cond, c.var), c.disabled)
-            << (c.cond ? c.cond : "null") << " at " << (c.var ? c.var : "null");
+    for (const auto& [cond, var, disabled] : {std::tuple{"Off, Auto", "Auto", 1},
+                                              {"Off", "Off2", 0},
+                                              {"!On", "Off", 1},
+                                              {"!On", "On", 0},
+                                              {"!A,!B", "A", 1},
+                                              {"!A,B", "A", 0},
+                                              {"", "", 1},
+                                              {"A,", "", 1},
+                                              {nullptr, "", 0},
+                                              {"", nullptr, 1},
+                                              {"Off, Auto", "uto", 0},
+                                              {"XOn", "On", 0}})
+        EXPECT_EQ(IsDisableCondition(cond, var), disabled)
+            << (cond ? cond : "null") << " at " << (var ? var : "null");
 }
 
 TEST(Command, SumsSwitchesAndOwnPaths)

@@ -52,17 +52,15 @@ TEST_F(InitialReadTest, TheStagesRunWhenTheirPassesHaveGoneBy)
     }
 }
 
-TEST_F(InitialReadTest, ASecondTimedProgressTakesThePlaceOfTheFirst)
+TEST_F(InitialReadTest, OnePaneStandsWhileSomeUnitReads)
 {
     InitialProgress(0);
     const int first = GL_InitProgress_PaneID;
     InitialProgress(0);
     EXPECT_EQ(Pane_Exist(first), 0);
     EXPECT_EQ(Pane_Exist(GL_InitProgress_PaneID), 1);
-}
-
-TEST_F(InitialReadTest, APaneStandsWhileSomeUnitReads)
-{
+    Pane_Quit(GL_InitProgress_PaneID);
+    GL_InitProgress = 0;
     constexpr char status[] = "Info@Initial Read Status";
     for (const auto& [page, disabled, opens] :
          {std::tuple{0x11110000u, 0, true}, {0x11110000u, 1, false}, {0x99990000u, 0, false}}) {
@@ -174,9 +172,8 @@ TEST_F(InitialReadTest, TheHubIsAskedForTheTablesOfTheOwnUnits)
 TEST_F(InitialReadTest, AStageAndItsOppositeCancel)
 {
     using Stage = std::pair<void (*)(), void (*)()>;
-    const auto second = [] {
-        InitialCommand1(), InitialCommand_MP2();
-    }; // the lists of the sub sides come later, but end here
+    // The lists of the sub sides come later, but end with the second stage.
+    const auto second = [] { InitialCommand1(), InitialCommand_MP2(); };
     for (const auto& [initial, death] : {Stage{InitialCommand0, DeathCommand0},
                                          {second, DeathCommand1},
                                          {InitialCommand2, DeathCommand2}}) {

@@ -31,23 +31,19 @@ static Strings Feed(const std::string& bytes)
 
 TEST_F(Netio, ALineComesWhenItsEndHasCome)
 {
-    static const struct {
-        Strings pieces, lines;
-    } cases[] = {
-        {{"A#1\rB#2\r\nC#3\n\nD#4\n"}, {"A#1", "B#2", "C#3", "D#4"}},
-        {{"A#", "1", "\n"}, {"A#1"}},
-        {{"A#1\r", "\nB#2\n"}, {"A#1", "B#2"}}, // CRLF in two pieces is no empty line
-        {{"\n\r\n", "A#1\n"}, {"A#1"}},
-        {{"no mark\n"}, {"no mark"}},
-        {{std::string(404, 'a'), "\n"}, {std::string(404, 'a')}},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [pieces, expected] :
+         {std::pair{Strings{"A#1\rB#2\r\nC#3\n\nD#4\n"}, Strings{"A#1", "B#2", "C#3", "D#4"}},
+          {{"A#", "1", "\n"}, {"A#1"}},
+          {{"A#1\r", "\nB#2\n"}, {"A#1", "B#2"}}, // CRLF in two pieces is no empty line
+          {{"\n\r\n", "A#1\n"}, {"A#1"}},
+          {{"no mark\n"}, {"no mark"}},
+          {{std::string(404, 'a'), "\n"}, {std::string(404, 'a')}}}) {
         Net_Init();
         Strings lines;
-        for (const auto& piece : c.pieces)
+        for (const auto& piece : pieces)
             for (const auto& line : Feed(piece))
                 lines.push_back(line);
-        EXPECT_EQ(lines, c.lines) << c.pieces[0];
+        EXPECT_EQ(lines, expected) << pieces[0];
     }
 }
 

@@ -145,18 +145,14 @@ TEST_F(PageRules, VariantsOfOperationPages)
 
 TEST_F(PageRules, TransitionPagesFollowTheFlagOfTheirBank)
 {
-    static const struct {
-        uint32_t bank;
-        int* flag;
-    } banks[] = {{0x11000000, &SYS_KeyTransitionME1},
-                 {0x14000000, &SYS_KeyTransitionPP},
-                 {0x82000000, &SYS_KeyTransitionME5}};
-    for (const auto& b : banks) {
+    for (const auto& [bank, flag] : {std::pair<uint32_t, int*>{0x11000000u, &SYS_KeyTransitionME1},
+                                     {0x14000000u, &SYS_KeyTransitionPP},
+                                     {0x82000000u, &SYS_KeyTransitionME5}}) {
         for (uint32_t page :
-             {b.bank + 0x00170000, b.bank + 0x00470000, b.bank + 0x04270000, b.bank + 0x04370000}) {
+             {bank + 0x00170000, bank + 0x00470000, bank + 0x04270000, bank + 0x04370000}) {
             Standard();
             EXPECT_EQ(ResolvePageId(page), page + 0x0100) << std::hex << page;
-            *b.flag = 1;
+            *flag = 1;
             EXPECT_EQ(ResolvePageId(page), page + 0x0200) << std::hex << page;
             EXPECT_EQ(ResolvePageId(page + 2), page + 2) << "a sub page stays";
         }

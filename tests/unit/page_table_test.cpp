@@ -25,15 +25,11 @@ TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
         EXPECT_TRUE(ids.count(id)) << std::hex << id << ", which has a bank or number of its own";
 }
 
-TEST(PageTable, EveryMenuKeyOpensAPage)
+TEST(PageTable, EveryPageHasItsBaseFirstAndASectionToGoBackToAndEveryMenuKeyAPage)
 {
     Harness_Reset();
     for (const TOPMENU* top = TopMenu; top->caption; top++)
         EXPECT_TRUE(SearchPageTable(top->page)) << top->caption << " " << std::hex << top->page;
-}
-
-TEST(PageTable, EveryPageHasItsBaseFirstAndASectionToGoBackTo)
-{
     ForEachPage([](PAGE& page) {
         constexpr uint32_t CALIBRATION = 0x73270001; // has the whole screen
         EXPECT_EQ(page.obj[0].type == OBJ_BA, page.id != CALIBRATION) << std::hex << page.id;
@@ -122,21 +118,19 @@ TEST(PageTable, ATabIsLeftOutOnlyWhileItsPageDoesNotExist)
         EXPECT_TRUE(agrees(tab.row.page, tab.where)) << tab.row.caption;
 }
 
-TEST(PageTable, NoCaptionOfATabIsCut)
+TEST(PageTable, NoCaptionIsCutByItsTabBoxOrButtonAndTheLimitsOfABoxDiffer)
 {
     Harness_Video();
     ForEachPage([](PAGE& page) {
         ForEachTab(page, [&](int kind, int, const char* caption, uint32_t, bool) {
-            EXPECT_LE(TDL_GetSymbolWidth(caption, kind == OBJ_VF ? 3 : 4),
-                      kind == OBJ_VF ? 78u : 76u)
-                << caption;
+            const auto [font, room] = kind == OBJ_VF ? std::pair{3, 78u} : std::pair{4, 76u};
+            EXPECT_LE(TDL_GetSymbolWidth(caption, font), room) << caption;
         });
     });
-}
-
-TEST(PageTable, NoCaptionIsCutByItsButton)
-{
-    Harness_Video();
+    ForEachBox([](PAGE& page, const BT_TBL&, const NB_TBL& nb) {
+        EXPECT_NE(nb.min, nb.max) << std::hex << page.id << " " << nb.caption;
+        EXPECT_LE(TDL_GetSymbolWidth(nb.caption, 3), 74u) << nb.caption;
+    });
     ForEachButton([](PAGE& page, const BT_TBL& b) {
         const int width = b.x2 - b.x1 + 1 - 10; // the caption begins 10 pixels in
         const int lines = TDL_GetSymbolLine(width, b.caption, 3);
@@ -176,15 +170,6 @@ TEST(PageTable, GroupFramesDoNotReachIntoOneAnother)
                             b.r.y1 > a.r.y2)
                     << std::hex << page.id << ": \"" << a.title << "\" and \"" << b.title << "\"";
         }
-    });
-}
-
-TEST(PageTable, EveryBoxHasLimitsThatDifferAndACaptionThatFits)
-{
-    Harness_Video();
-    ForEachBox([](PAGE& page, const BT_TBL&, const NB_TBL& nb) {
-        EXPECT_NE(nb.min, nb.max) << std::hex << page.id << " " << nb.caption;
-        EXPECT_LE(TDL_GetSymbolWidth(nb.caption, 3), 74u) << nb.caption;
     });
 }
 

@@ -1,7 +1,6 @@
 #include "a_bt.h"
 #include "a_nb.h"
 #include "bus.h"
-#include "command.h"
 #include "device.h"
 #include "display.h"
 #include "err.h"

@@ -5,7 +5,6 @@
 #include "screen_capture.h"
 #include "text.h"
 #include <sys/stat.h>
-#include <unistd.h>
 
 TEST(ScreenCapture, FillsNineNamesOfThePageAndLeavesWhatIsThere)
 {

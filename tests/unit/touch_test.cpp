@@ -1,7 +1,6 @@
 #include "global.h"
 #include "harness.h"
 #include "i2c.h"
-#include "log.h"
 #include "ready.h"
 #include "touch.h"
 #include <fcntl.h>

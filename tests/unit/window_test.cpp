@@ -28,21 +28,15 @@ void TouchAt(Place window, Place key)
 
 constexpr Place KNOB_WINDOW = {446, 140};
 
-Place TenKeyPlace(const std::string& key)
+// Where a key stands in rows of keys, the named ones by their first letters.
+Place KeyIn(const Strings& rows, char key, Place first, Place pitch)
 {
-    static const struct {
-        const char* key;
-        Place place;
-    } others[] = {
-        {"0", {17, 310}},      {".", {71, 310}},     {":", {71, 310}},       {"+/-", {125, 310}},
-        {"Clear", {179, 133}}, {"Trim", {179, 192}}, {"Cancel", {179, 251}}, {"Enter", {179, 310}},
-    };
-    for (const auto& o : others)
-        if (key == o.key)
-            return o.place;
-    const int n = key[0] - '1';
-    return {17 + 54 * (n % 3), 251 - 59 * (n / 3)};
+    for (size_t row = 0; row < rows.size(); row++)
+        if (const size_t at = rows[row].find(key); at != std::string::npos)
+            return {first.x + pitch.x * int(at), first.y + pitch.y * int(row)};
+    return {};
 }
+const Strings TEN_KEYS = {"789C", "456T", "123X", "0.+E"};
 
 void Stroke(int sym, int mod = 0)
 {
@@ -51,27 +45,11 @@ void Stroke(int sym, int mod = 0)
 
 constexpr Place KEYBOARD_WINDOW = {(800 - 722) / 2, (600 - 369) / 2 - 3};
 
-Place KeyboardPlace(const std::string& key)
+Place KeyboardPlace(const char* key)
 {
-    static const struct {
-        const char* key;
-        int column, row;
-    } others[] = {{"Enter", 11, 2}, {"Shift", 0, 3}, {"Del", 12, 3}, {"Caps", 0, 4},   {" ", 2, 4},
-                  {"Left", 7, 4},   {"Right", 8, 4}, {"BS", 9, 4},   {"Cancel", 11, 4}};
-    for (const auto& o : others)
-        if (key == o.key)
-            return {12 + 54 * o.column, 91 + 54 * o.row};
-    static const struct {
-        const char* keys;
-        int first, row;
-    } rows[] = {{"`1234567890-=", 0, 0},
-                {"qwertyuiop[]\\", 0, 1},
-                {"asdfghjkl;'", 0, 2},
-                {"zxcvbnm,./", 2, 3}};
-    for (const auto& r : rows)
-        if (const char* at = strchr(r.keys, key[0]))
-            return {12 + 54 * (r.first + int(at - r.keys)), 91 + 54 * r.row};
-    return {};
+    static const Strings rows = {"`1234567890-=", "qwertyuiop[]\\", "asdfghjkl;'E",
+                                 "S\tzxcvbnm,./D", "C\t \t\t\t\tLRB"};
+    return KeyIn(rows, *key, {12, 91}, {54, 54});
 }
 
 void TouchKeyboard(const Keys& keys)
@@ -276,30 +254,24 @@ TEST_F(Windows, EveryTypeGivesTheScreenBack)
 TEST_F(Windows, AReservedQuitIsAnsweredAtTheNextPassAsItsKeyWould)
 {
     static const char* const cells[] = {"A", "B", "C"};
-    static const struct {
-        int type, var;
-        std::vector<std::string> heard;
-    } cases[] = {
-        {WINDOW_KEYBOARD, 0, {"text abc"}},
-        {WINDOW_MESSAGE, 0, {"value 7"}},
-        {WINDOW_MESSAGE, 1, {}},
-        {WINDOW_HEX, 2, {"value ABC"}},
-        {WINDOW_PULLDOWN, 3, {"pull-down Any 2"}},
-        {WINDOW_PULLDOWN, 0, {}},
-        {WINDOW_SELECT, 1, {"select Any 0"}},
-        {WINDOW_PATH, 4, {"path 2 3"}},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [type, var, heard] : {std::tuple{WINDOW_KEYBOARD, 0, Strings{"text abc"}},
+                                           {WINDOW_MESSAGE, 0, {"value 7"}},
+                                           {WINDOW_MESSAGE, 1, {}},
+                                           {WINDOW_HEX, 2, {"value ABC"}},
+                                           {WINDOW_PULLDOWN, 3, {"pull-down Any 2"}},
+                                           {WINDOW_PULLDOWN, 0, {}},
+                                           {WINDOW_SELECT, 1, {"select Any 0"}},
+                                           {WINDOW_PATH, 4, {"path 2 3"}}}) {
         WindowArgs args{.value = "abc", .rows = 3, .captions = cells, .path_type = PATHSEL_CURVE0};
         args.ok = HearValue;
         args.ok_var = 7;
         args.ok_text = HearText;
-        CreateWindow(c.type, "Any", args);
-        Window_ReserveQuit(c.var);
-        EXPECT_EQ(GetWindow(), c.type);
+        CreateWindow(type, "Any", args);
+        Window_ReserveQuit(var);
+        EXPECT_EQ(GetWindow(), type);
         Pass();
-        EXPECT_EQ(GetWindow(), 0) << c.type;
-        EXPECT_EQ(Heard(), c.heard) << c.type << " " << c.var;
+        EXPECT_EQ(GetWindow(), 0) << type;
+        EXPECT_EQ(Heard(), heard) << type << " " << var;
     }
     Window_ReserveQuit(0); // nobody is there
     CreateWindow(WINDOW_MESSAGE, "Next");
@@ -323,27 +295,21 @@ TEST_F(Windows, AnAnswerMayOpenTheNextWindow)
 
 TEST_F(Windows, TheKeyboardWritesWhatIsTouched)
 {
-    static const struct {
-        const char* value;
-        Keys keys;
-        const char* text;
-    } cases[] = {
-        {"", {"a", "Shift", "a", "a"}, "aAa"},
-        {"", {"Caps", "a", "1", "Shift", "1", "a"}, "A1!A"},
-        {"", {"Caps", "Shift", "a", "Caps", "a"}, "Aa"},
-        {"", {"Shift", "`", "Shift", "\\", "Shift", "'", ";", "Shift", "/", "="}, "~|\";?="},
-        {"ab", {"Left", "c"}, "acb"},
-        {"ab", {"Left", "BS", "BS", "BS"}, "b"},
-        {"ab", {"Left", "Left", "Left", "Del", "x"}, "xb"},
-        {"ab", {"Right", "Right", "Del", "c"}, "abc"},
-        {"", {"a", " ", "b"}, "a b"},
-        {"as it was", {}, "as it was"},
-    };
-    for (const auto& c : cases) {
-        CreateWindow(WINDOW_KEYBOARD, "Name", {.value = c.value, .ok_text = HearText});
-        TouchKeyboard(c.keys);
+    for (const auto& [value, keys, text] :
+         {std::tuple<const char*, Keys, const char*>{"", {"a", "Shift", "a", "a"}, "aAa"},
+          {"", {"Caps", "a", "1", "Shift", "1", "a"}, "A1!A"},
+          {"", {"Caps", "Shift", "a", "Caps", "a"}, "Aa"},
+          {"", {"Shift", "`", "Shift", "\\", "Shift", "'", ";", "Shift", "/", "="}, "~|\";?="},
+          {"ab", {"Left", "c"}, "acb"},
+          {"ab", {"Left", "BS", "BS", "BS"}, "b"},
+          {"ab", {"Left", "Left", "Left", "Del", "x"}, "xb"},
+          {"ab", {"Right", "Right", "Del", "c"}, "abc"},
+          {"", {"a", " ", "b"}, "a b"},
+          {"as it was", {}, "as it was"}}) {
+        CreateWindow(WINDOW_KEYBOARD, "Name", {.value = value, .ok_text = HearText});
+        TouchKeyboard(keys);
         TouchKeyboard({"Enter"});
-        EXPECT_THAT(Heard(), ElementsAre(std::string("text ") + c.text));
+        EXPECT_THAT(Heard(), ElementsAre(std::string("text ") + text));
     }
 }
 
@@ -542,12 +508,8 @@ struct PageJump : Windows {
 TEST_F(PageJump, EnterOpensThePageThatWasTyped)
 {
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
-    for (const char key : {'7', '3', '1', '6', '.', '1', '0'})
-        TouchAt(CORNER, key == '.' ? Place{429, 371}
-                        : key == '0'
-                            ? Place{375, 371}
-                            : Place{375 + 54 * ((key - '1') % 3), 312 - 59 * ((key - '1') / 3)});
-    TouchAt(CORNER, {537, 371});
+    for (const char key : std::string("7316.10E"))
+        TouchAt(CORNER, KeyIn(TEN_KEYS, key, {375, 194}, {54, 59}));
     EXPECT_EQ(GL_CreatePage, 0x73160010u);
     EXPECT_EQ(GetWindow(), 0);
 }
@@ -659,8 +621,10 @@ struct KnobInput : KnobColumn {
     }
     static void Hit(const Keys& keys)
     {
-        for (const char* key : keys)
-            TouchAt(KNOB_WINDOW, TenKeyPlace(key));
+        for (const std::string key : keys) {
+            const char c = key == "Cancel" ? 'X' : key == ":" ? '.' : key[0];
+            TouchAt(KNOB_WINDOW, KeyIn(TEN_KEYS, c, {17, 133}, {54, 59}));
+        }
     }
     // What an entry into a box sends.
     static std::vector<std::string> Sent(int slot, const Keys& keys)
@@ -731,19 +695,15 @@ TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
 // The value of a box on the air: what nobody has typed does not change it.
 TEST_F(KnobInput, EnterAsTheFirstKeyLeavesEveryValueAsItWas)
 {
-    static const struct {
-        int slot;
-        const char* tally;
-        std::vector<std::string> sent;
-    } cases[] = {
-        {1, "-12.34", {"put Clip#-12.34"}}, {1, "-12.345", {}}, // its text would be another value
-        {1, "250", {"put Clip#250.00"}},                        // beyond the limits of the box
-        {3, "45", {"put Rate#00:01:15"}},   {3, "126000", {"put Rate#01:10:00:00"}},
-    };
     static const char* const paths[] = {"", "Clip", "Level", "Rate"};
-    for (const auto& c : cases) {
-        Tally(paths[c.slot], c.tally);
-        EXPECT_EQ(Sent(c.slot, {"Enter"}), c.sent) << c.tally;
+    for (const auto& [slot, tally, sent] :
+         {std::tuple{1, "-12.34", Strings{"put Clip#-12.34"}},
+          {1, "-12.345", {}},              // its text would be another value
+          {1, "250", {"put Clip#250.00"}}, // beyond the limits of the box
+          {3, "45", {"put Rate#00:01:15"}},
+          {3, "126000", {"put Rate#01:10:00:00"}}}) {
+        Tally(paths[slot], tally);
+        EXPECT_EQ(Sent(slot, {"Enter"}), sent) << tally;
         EXPECT_EQ(GetWindow(), 0);
     }
     Open(boxes, "No value"); // another title: told anew
