@@ -4,11 +4,6 @@
 namespace
 {
 struct EffectPictures : TablePage {
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
 };
 } // namespace
 

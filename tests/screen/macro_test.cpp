@@ -18,11 +18,6 @@ struct MacroPictures : TablePage {
         TablePage::TearDown();
         unlink(MACRO_EDIT_FILE);
     }
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
-    }
 };
 } // namespace
 

@@ -1,5 +1,4 @@
 // The pages of the menu macros: the editor with its display in the base area, and a run.
-#include "a_ls.h"
 #include "menu_macro_private.h"
 #include "table_page.h"
 #include "text.h"
@@ -18,11 +17,6 @@ struct MenuMacroPictures : TablePage {
             mm_read_line(reader, line);
         reg_data[number - 1] = reader.reg;
         RegDataWaitList[number - 1].time = seconds * 1000;
-    }
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
     }
 };
 } // namespace

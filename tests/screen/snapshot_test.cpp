@@ -1,6 +1,5 @@
 // The snapshot pages with registers of every state: the attributes, the overview, the hold of a
 // bank, two lists, a master that is edited.
-#include "a_ls.h"
 #include "pc_snapshot.h"
 #include "table_page.h"
 
@@ -28,11 +27,6 @@ struct SnapshotPictures : TablePage {
             Tell(std::string("Snapshot@Snapshot@Attribute@") + line);
         Tell("Snapshot@Master Snapshot@Store/Recall@List#1,SHOW ONE,S,U,1,2,,4,,99,,,,,,,12,,,,,,,,"
              "3,3,,,,,,,5,");
-    }
-    static void Paint()
-    {
-        for (int i = 0; i < 4; i++)
-            Pass(1000);
     }
 };
 } // namespace

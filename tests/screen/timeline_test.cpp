@@ -113,7 +113,7 @@ struct KeyframePictures : KeyframePage {
 TEST_F(KeyframePictures, TimelineAssign)
 {
     KF_SetRegionDisplay(1, 1);
-    Open(0x61150000);
+    CreatePage(0x61150000);
     Paint();
     EXPECT_TRUE(MatchesGolden("timeline_assign"));
 }
@@ -122,7 +122,7 @@ TEST_F(KeyframePictures, TimelineAssign)
 TEST_F(KeyframePictures, RegionSelect)
 {
     SYS_3DMode = 1;
-    Open(0x61170000);
+    CreatePage(0x61170000);
     TenKey(1, "M/E-1,M/E-2,DME4,");
     TenKey(2, "P/P,,,");
     TenKey(3, "User1,User2,Dev12,MACRO");

@@ -94,24 +94,15 @@ inline int Select(std::initializer_list<int> bytes)
     return Send(SELECTION, f);
 }
 
-// Every region of the table, on twenty of the ten-key buttons.
+// Every region of the table, four to a ten-key button.
 inline void AssignAll()
 {
-    static const char* const buttons[] = {
-        "M/E-1,M/E-1 Sub,M/E-2,M/E-2 Sub",
-        "M/E-3,M/E-3 Sub,M/E-4,M/E-4 Sub",
-        "M/E-5,M/E-5 Sub,P/P,P/P Sub",
-        "User1,User2,User3,User4",
-        "User5,User6,User7,User8",
-        "DME1,DME2,DME3,DME4",
-        "DME5,DME6,DME7,DME8",
-        "Dev1,Dev2,Dev3,Dev4",
-        "Dev5,Dev6,Dev7,Dev8",
-        "Dev9,Dev10,Dev11,Dev12",
-        "P-Bus,GPI,MACRO,RTR",
-    };
     int row = 0;
-    for (const char* value : buttons)
-        KF_RegionAssignTally(++row, value);
+    for (const char* regions :
+         {"M/E-1,M/E-1 Sub,M/E-2,M/E-2 Sub", "M/E-3,M/E-3 Sub,M/E-4,M/E-4 Sub",
+          "M/E-5,M/E-5 Sub,P/P,P/P Sub", "User1,User2,User3,User4", "User5,User6,User7,User8",
+          "DME1,DME2,DME3,DME4", "DME5,DME6,DME7,DME8", "Dev1,Dev2,Dev3,Dev4",
+          "Dev5,Dev6,Dev7,Dev8", "Dev9,Dev10,Dev11,Dev12", "P-Bus,GPI,MACRO,RTR"})
+        KF_RegionAssignTally(++row, regions);
 }
 } // namespace kf

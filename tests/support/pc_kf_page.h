@@ -11,17 +11,12 @@ struct KeyframePage : TablePage {
         TablePage::SetUp();
         SYS_FrameRate = 30;
     }
-    static void Open(uint32_t id)
-    {
-        ASSERT_EQ(CreatePage(id), 0);
-        (void)TakeQueuedCommands();
-    }
     static void Press(int x, int y)
     {
         Clock_ms += 1000;
         SendMessage(MSG_PRESS, x, y, 1, 0);
         SendMessage(MSG_RELEASE, x, y, 0, 0);
-        SendMessage(MSG_REDRAW, 200, 0, 0, 0);
+        Pass(200);
     }
     static void Button(int id)
     {
@@ -30,7 +25,7 @@ struct KeyframePage : TablePage {
         Press(b->x1 + 5, b->y1 + 5);
     }
     // What the page itself has sent, without the subscriptions and what a change of page brings.
-    static std::vector<std::string> Sent(const char* verb = "put")
+    static Lines Sent(const char* verb = "put")
     {
         Lines lines = TakeQueuedCommands();
         std::erase_if(lines, [&](const std::string& line) {

@@ -169,6 +169,11 @@ struct TablePage : testing::Test {
         Pass(10);
         return TakeQueuedCommands();
     }
+    static std::vector<uint32_t> Seen(const Rect& part)
+    {
+        Pass(10);
+        return PixelsIn(part);
+    }
     // Until also what is painted bit by bit stands.
     static void Paint()
     {

@@ -3,6 +3,7 @@
 #include "a_kf_private.h"
 #include "hand_page.h"
 #include "tdl.h"
+#include <array>
 #include <iterator>
 
 namespace
@@ -74,22 +75,15 @@ TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
 {
     EXPECT_EQ(kf::Send(kf::DATA, kf::DataFrame(opening)), 0);
     const KF_REGION& r = R(ME1);
-    EXPECT_EQ(r.regnum, 312);
     EXPECT_STREQ(r.regname, "OPENING ");
-    EXPECT_EQ(r.lock, 1);
-    EXPECT_EQ(r.freekf, 986);
-    EXPECT_EQ(r.kfnum, 3);
-    EXPECT_EQ(r.dtime, 15);
+    EXPECT_THAT((std::array{r.regnum, r.lock, r.freekf, r.kfnum, r.dtime, r.duration, r.loopstart,
+                            r.loopend, r.loopnum}),
+                ElementsAre(312, 1, 986, 3, 15, 9 * RATE + 15, 2, 3, 7));
     EXPECT_EQ(r.stime, HOUR) << "the delay comes before the first keyframe";
     EXPECT_EQ(r.etime, HOUR + 10 * RATE);
-    EXPECT_EQ(r.duration, 9 * RATE + 15);
-    EXPECT_EQ(r.loopstart, 2);
-    EXPECT_EQ(r.loopend, 3);
-    EXPECT_EQ(r.loopnum, 7);
-    EXPECT_EQ(r.kf[1].duration, 45);
-    EXPECT_EQ(r.kf[2].duration, 0x7FF);
+    EXPECT_THAT((std::array{r.kf[1].duration, r.kf[2].duration, r.kf[3].duration}),
+                ElementsAre(45, 0x7FF, 30));
     EXPECT_EQ(r.kf[2].pause, 0);
-    EXPECT_EQ(r.kf[3].duration, 30);
     EXPECT_EQ(r.kf[3].pause, 1);
     EXPECT_THAT(told, ElementsAre("STATUS 0"));
     tlSETime_redraw = 0;
@@ -105,7 +99,7 @@ TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
     EXPECT_EQ(r.kf[2].duration, 0x7FF) << "a frame without keyframes leaves the old list";
 }
 
-TEST_F(Keyframes, ARegionFrameMayEndAnywhere)
+TEST_F(Keyframes, ARegionFrameIsBelievedAsFarAsItReaches)
 {
     const kf::Bytes whole = kf::DataFrame(opening);
     constexpr size_t HEAD = 39;
@@ -118,10 +112,6 @@ TEST_F(Keyframes, ARegionFrameMayEndAnywhere)
         EXPECT_EQ(r.kf[2].duration, n < HEAD + 4 ? 0 : 0x7FF) << n;
         EXPECT_EQ(r.kf[3].duration, 0) << n;
     }
-}
-
-TEST_F(Keyframes, CountsBeyondTheDataAndTheListAreNotBelieved)
-{
     kf::Data d = opening;
     d.kfnum = 0xFFFF;
     kf::Send(kf::DATA, kf::DataFrame(d));
@@ -157,11 +147,9 @@ TEST_F(Keyframes, AStatusFrameMovesTheCursorAndTellsOfNewKeyframesOnly)
                                               .keyframe = 258,
                                               .run = run,
                                               .loop = 0x83}));
-    EXPECT_EQ(R(DME1).runstat, -1);
-    EXPECT_EQ(R(DME1).loopon, 1);
-    EXPECT_EQ(R(DME1).loopremain, 3);
-    EXPECT_EQ(R(DME1).ctime, -(4 * RATE + 12));
-    EXPECT_EQ(R(DME1).ckfnum, 258);
+    const KF_REGION& r = R(DME1);
+    EXPECT_THAT((std::array{r.runstat, r.loopon, r.loopremain, r.ctime, r.ckfnum}),
+                ElementsAre(-1, 1, 3, -(4 * RATE + 12), 258));
     EXPECT_THAT(told, ElementsAre("STATUS 14"));
 }
 
@@ -212,29 +200,22 @@ TEST_F(Keyframes, ASelectionIsToldOncePerChange)
 
 // --- Assignment and order ---
 
-TEST_F(Keyframes, RegionsOfTheTenKeysAreThoseOfTheSystem)
+TEST_F(Keyframes, RegionsOfTheTenKeysAreThoseOfTheSystemAndNothingBeyond)
 {
     KF_RegionAssignTally(1, "M/E-1,User1,No Assign,");
     KF_RegionAssignTally(23, "DME1,,,rubbish");
     KF_RegionAssignTally(0, "M/E-2,,,");
     KF_RegionAssignTally(24, "M/E-2,,,");
-    std::vector<int> assigned;
     for (int i = 0; i < KF_REGIONS; i++)
-        if (KF_IsRegionAssigned(i))
-            assigned.push_back(i);
-    EXPECT_THAT(assigned, ElementsAre(ME1, 6, DME1, DME1_GLB));
-}
-
-TEST_F(Keyframes, WhatIsOutOfBoundsHasNoRegion)
-{
+        EXPECT_EQ(KF_IsRegionAssigned(i), i == ME1 || i == 6 || i == DME1 || i == DME1_GLB) << i;
     for (const int region : {-1, 64, 9999}) {
-        EXPECT_EQ(KF_IsRegionAssigned(region), 0);
-        EXPECT_EQ(KF_SetRegionAssigned(region, 1), -1);
-        EXPECT_EQ(KF_GetRegionDisplay(region), 2);
-        EXPECT_EQ(KF_SetRegionDisplay(region, 1), -1);
-        EXPECT_EQ(KF_GetRegionPriority(region), 255);
-        EXPECT_EQ(KF_SetRegionPriority(region, 1), -1);
-        EXPECT_EQ(KF_InsertRegionPriority(0, region), -1);
+        EXPECT_THAT((std::array{KF_IsRegionAssigned(region), KF_GetRegionDisplay(region),
+                                KF_GetRegionPriority(region)}),
+                    ElementsAre(0, 2, 255));
+        EXPECT_THAT(
+            (std::array{KF_SetRegionAssigned(region, 1), KF_SetRegionDisplay(region, 1),
+                        KF_SetRegionPriority(region, 1), KF_InsertRegionPriority(0, region)}),
+            Each(-1));
         EXPECT_EQ(KF_GetRegionName(region), nullptr);
         EXPECT_EQ(KF_GetRegionStatus(region), nullptr);
     }
@@ -291,23 +272,19 @@ TEST_F(Keyframes, AnOrderThatComesBeforeTheAssignmentsIsKept)
 TEST_F(Keyframes, AnInsertedRegionLeavesItsOldPlace)
 {
     KF_RegionAssignTally(1, "M/E-1,M/E-2,M/E-3,P/P");
-    static const struct {
-        int place, region;
-        std::vector<int> order;
-    } cases[] = {
+    static const std::tuple<int, int, std::vector<int>> cases[] = {
         {0, PP, {PP, 0, 1, 2, 255}},
         {3, 0, {1, 2, 0, PP, 255}}, // its old place, before the new one, closes up
         {4, 0, {1, 2, PP, 0, 255}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [place, region, order] : cases) {
         KF_DefaultRegionPriority();
-        int place = 0;
-        for (const int v : {0, 1, 2, PP})
-            KF_SetRegionPriority(place++, v);
-        KF_SetRegionDisplay(c.region, 1);
-        EXPECT_EQ(KF_InsertRegionPriority(c.place, c.region), 0);
-        EXPECT_THAT(Order(5), ElementsAreArray(c.order)) << c.place << " " << c.region;
-        EXPECT_EQ(KF_GetRegionDisplay(c.region), 0);
+        for (int i = 0; i < 4; i++)
+            KF_SetRegionPriority(i, std::array{0, 1, 2, PP}[size_t(i)]);
+        KF_SetRegionDisplay(region, 1);
+        EXPECT_EQ(KF_InsertRegionPriority(place, region), 0);
+        EXPECT_THAT(Order(5), ElementsAreArray(order)) << place << " " << region;
+        EXPECT_EQ(KF_GetRegionDisplay(region), 0);
     }
 }
 

@@ -1,59 +1,27 @@
-#include "bus_probe.h"
-#include "fmctrl3.h"
+#include "clip_store.h"
+#include "fetches.h"
 #include "netio.h"
 #include "tdl.h"
-#include "text.h"
-#include <algorithm>
-#include <filesystem>
 #include <fstream>
-#include <utility>
 
 namespace
 {
 namespace fs = std::filesystem;
 constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
 
-struct ClipStore : BusTest {
-    DEVICE* first_switcher = nullptr;
-    int switchers = 0;
-
+struct ClipStore : ClipStoreTest<BusTest> {
     void SetUp() override
     {
-        BusTest::SetUp();
-        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
-        switchers = std::exchange(SYS_MySwrMax, 1);
-        CopyText(DEV_Swr[0].id, "SWR000D001");
-        GL_NowPage = 0x21110000;
         fs::remove_all(FM_FOLDER);
-        FMCtrl3_Init();
+        ClipStoreTest::SetUp();
+        GL_NowPage = 0x21110000;
         (void)TakeQueuedCommands();
     }
     void TearDown() override
     {
-        FMCtrl3_Finalize();
+        ClipStoreTest::TearDown();
         GL_NowPage = 0;
-        DEV_MySwr[0] = first_switcher;
-        SYS_MySwrMax = switchers;
         fs::remove_all(FM_FOLDER);
-        BusTest::TearDown();
-    }
-
-    static void Hub(const std::string& verb, const std::string& table, const std::string& row)
-    {
-        std::string v = verb, t = "CS1." + table, r = row;
-        SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), Hash(v.c_str()),
-                    row.empty() ? 0 : Arg(r.c_str()));
-    }
-    static void Folder(const std::string& path)
-    {
-        Hub("Insert", "ClipStoreFolder", "root/" + path + ":1");
-    }
-    static void File(const std::string& path, int frames = 1, int thumbnail = 0,
-                     const std::string& time = "2026-01-31 23:59:00")
-    {
-        Hub("Insert", "ClipStoreFile",
-            "root/" + path + ".SFH:" + std::to_string(frames) + ", 0, 0, 3, " + time + ", 1, " +
-                std::to_string(thumbnail));
     }
     static Strings Tree()
     {
@@ -83,21 +51,9 @@ struct ClipStore : BusTest {
         return e ? e->element : none;
     }
 
-    struct Get {
-        std::string label, remote, local;
-    };
     static std::vector<Get> Gets()
     {
-        std::vector<Get> gets;
-        const std::string command = "put File@Remote Access@SCP Dir Get#";
-        for (const std::string& line : TakeQueuedCommands()) {
-            if (!line.starts_with(command))
-                continue;
-            const size_t a = line.find(','), b = line.find(',', a + 1), c = line.find(',', b + 1);
-            gets.push_back({line.substr(command.size(), a - command.size()),
-                            line.substr(a + 1, b - a - 1), line.substr(b + 1, c - b - 1)});
-        }
-        return gets;
+        return ::Gets(TakeQueuedCommands(), "File@Remote Access@SCP Dir Get");
     }
     static Strings Remotes(const std::vector<Get>& gets)
     {
@@ -118,28 +74,17 @@ struct ClipStore : BusTest {
     // The server carries a fetch out.
     static void Answer(const Get& get, const std::string& reply)
     {
-        static int work = 500;
         if (reply == "OK")
             Put(get.local.substr(get.local.rfind('/') + 1), 6966);
-        const std::string ack = std::to_string(++work);
-        Deliver("File@Remote Access@SCP Dir Get", get.label + "," + ack);
-        Deliver("File@Remote Access@SCP Dir Get@Status", ack + "," + reply);
+        Serve(get.line, {reply});
     }
     static constexpr char NOTE[] = "a.b.SFH.THM.of";
-    static std::string Note()
-    {
-        std::ifstream file(std::string(FM_FOLDER) + NOTE);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    static std::string Note() { return FileText(std::string(FM_FOLDER) + NOTE); }
     // Without the notes of which clip they are.
     static Strings Files()
     {
-        Strings names;
-        std::error_code none;
-        for (const auto& entry : fs::directory_iterator(FM_FOLDER, none))
-            if (entry.path().extension() != ".of")
-                names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
+        Strings names = FilesIn(FM_FOLDER);
+        std::erase_if(names, [](const std::string& name) { return name.ends_with(".of"); });
         return names;
     }
     static void Passes(int ms)
@@ -150,10 +95,10 @@ struct ClipStore : BusTest {
 };
 } // namespace
 
-TEST_F(ClipStore, ElementsStandInTheOrderOfTheTree)
+TEST_F(ClipStore, ElementsStandInTheOrderOfTheTreeHoweverManyComeAtOnce)
 {
     for (const char* path : {"B/two", "zoo", "B/A/deep", "A/x", "B/one", "alpha", "A.B/y"})
-        File(path);
+        Clip(path);
     for (const char* path : {"B", "B/A", "A", "A.B", "C", "alpha"})
         Folder(path);
     EXPECT_THAT(Tree(), ElementsAre("/", "/A", "/A/x", "/A.B", "/A.B/y", "/B", "/B/A", "/B/A/deep",
@@ -178,18 +123,25 @@ TEST_F(ClipStore, ElementsStandInTheOrderOfTheTree)
     EXPECT_THAT(children("/"), ElementsAre("alpha", "zoo"));
     FMCtrl3_Clear(0);
     EXPECT_THAT(Tree(), ElementsAre("/"));
+
+    for (int i = 0; i < 10000; i++)
+        Clip("F" + std::to_string(i * 7919 % 97) + "/c" + std::to_string(i), 1 + i % 3, 1);
+    EXPECT_EQ(Tree().size(), 10001u);
+    EXPECT_LE(Gets().size(), 1u);
+    for (int i = 0; i < 10000; i += 2)
+        Hub("Delete", "ClipStoreFile",
+            "root/F" + std::to_string(i * 7919 % 97) + "/c" + std::to_string(i) + ".SFH");
+    EXPECT_EQ(Tree().size(), 5001u);
+    EXPECT_TRUE(FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FILE, "/F62/c1"));
 }
 
 TEST_F(ClipStore, RowsThatAreNotWholeChangeNothing)
 {
     const std::string n32(32, 'n'), values = ":1,0,0,3,,1,0";
     Folder("A");
-    File("A/x", 7);
+    Clip("A/x", 7);
     (void)Changes();
-    static const struct {
-        const char *verb, *table;
-        std::string row;
-    } rows[] = {
+    const std::tuple<const char*, const char*, std::string> rows[] = {
         {"Insert", "ClipStoreFile", "root/y:1,0,0,3,,1"},
         {"Insert", "ClipStoreFile", "root/1/2/3/4/5/y" + values},
         {"Insert", "ClipStoreFile", "root/" + n32 + "n" + values},
@@ -213,20 +165,20 @@ TEST_F(ClipStore, RowsThatAreNotWholeChangeNothing)
         {"Result", "ClipStoreFile", "Copy root/A/x.SFH 0 2 3:7F"},
         {"Result", "ClipStoreFile", "Trim:7F"},
     };
-    for (const auto& r : rows) {
-        Hub(r.verb, r.table, r.row);
-        EXPECT_THAT(Changes(), IsEmpty()) << r.verb << " " << r.row;
+    for (const auto& [verb, table, row] : rows) {
+        Hub(verb, table, row);
+        EXPECT_THAT(Changes(), IsEmpty()) << verb << " " << row;
     }
     EXPECT_THAT(Tree(), ElementsAre("/", "/A", "/A/x"));
     EXPECT_EQ(At("/A/x").duration, 7);
-    File(n32);
+    Clip(n32);
     EXPECT_EQ(At(("/" + n32).c_str()).name, n32);
 }
 
 TEST_F(ClipStore, ChangesAreToldToFrameMemoryPagesAlone)
 {
     Folder("A");
-    File("A/x", 3);
+    Clip("A/x", 3);
     EXPECT_THAT(Changes(), ElementsAre("1 A 0 0", "1 x 0 0"));
     for (const auto& [word, column] : {std::pair{"pairfile:1", 2},
                                        {"format4k:1", 3},
@@ -239,7 +191,7 @@ TEST_F(ClipStore, ChangesAreToldToFrameMemoryPagesAlone)
     const ELEMENT& x = At("/A/x");
     EXPECT_TRUE(x.is_pair == 1 && x.format4k == 1 && x.format == 5 && x.exist == 3);
     EXPECT_STREQ(x.create_time, "2027 Feb.01 10:11");
-    File("A/x", 4);
+    Clip("A/x", 4);
     EXPECT_THAT(Changes(), ElementsAre("2 x 0 0")) << "told anew";
     GL_NowPage = 0x11110000;
     Hub("Delete", "ClipStoreFile", "root/A/x.SFH");
@@ -255,14 +207,10 @@ TEST_F(ClipStore, AViewMovesThroughTheTree)
 {
     for (const char* path : {"A", "A/B", "A/B/C", "A/B/C/D", "root"})
         Folder(path);
-    File("A/x");
+    Clip("A/x");
     CURRENT_INFO info;
     FMCtrl3_InitCurrentInfo(&info);
-    static const struct {
-        const char* directory;
-        int result;
-        const char* path;
-    } steps[] = {
+    static const std::tuple<const char*, int, const char*> steps[] = {
         {"..", -1, "/root/"},       {"A", 0, "/root/A"},
         {"x", -1, "/root/A"},       {"../..", -1, "/root/A"},
         {"B", 0, "/root/A/B"},      {"/A/B/C/D", 0, "/root/A/B/C/D"},
@@ -273,9 +221,9 @@ TEST_F(ClipStore, AViewMovesThroughTheTree)
         {"..", 0, "/root/"},        {"/root", 0, "/root/"},
         {"/", 0, "/root/"},         {"", -1, "/root/"},
     };
-    for (const auto& s : steps) {
-        EXPECT_EQ(FMCtrl3_ChangeDirectory(&info, s.directory), s.result) << s.directory;
-        EXPECT_STREQ(info.path, s.path) << s.directory;
+    for (const auto& [directory, result, path] : steps) {
+        EXPECT_EQ(FMCtrl3_ChangeDirectory(&info, directory), result) << directory;
+        EXPECT_STREQ(info.path, path) << directory;
     }
     (void)FMCtrl3_ChangeDirectory(&info, "/A/B");
     Hub("Delete", "ClipStoreFolder", "root/A/B");
@@ -287,10 +235,10 @@ TEST_F(ClipStore, AViewMovesThroughTheTree)
 TEST_F(ClipStore, ASearchGoesRoundBothWays)
 {
     Folder("Goals");
-    File("Goals/goal1");
-    File("Goals/save");
-    Hub("Insert", "ClipStoreFile", "root/goal2.SFH:1, 1, 0, 3, 2026-01-31 23:59:00, 1, 0");
-    File("Lost/goal3"); // its folder is not known
+    Clip("Goals/goal1");
+    Clip("Goals/save");
+    Clip("goal2", 1, 0, TIME, 1);
+    Clip("Lost/goal3"); // its folder is not known
     SEARCH_CONFIG config;
     CopyText(config.text, "GOAL");
     const auto walk = [&](SEARCH_DIR dir) {
@@ -314,11 +262,11 @@ TEST_F(ClipStore, ASearchGoesRoundBothWays)
 TEST_F(ClipStore, MiddlesOfClipsAreFetchedFirstThirtyAtOnce)
 {
     Folder("A");
-    File("still", 1, 1);
+    Clip("still", 1, 1);
     auto gets = Gets();
     ASSERT_THAT(Remotes(gets), ElementsAre("still.SFH.THM"));
-    File("A/clip", 40, 1);
-    File("last", 5, 1);
+    Clip("A/clip", 40, 1);
+    Clip("last", 5, 1);
     EXPECT_THAT(Gets(), IsEmpty()) << "one is in flight";
     (void)Changes();
     Answer(gets[0], "OK");
@@ -347,7 +295,7 @@ TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgain)
     Put("c.SFH#000001.THM", 6965);
     Put("c.SFH#000002.THM", 21222);
     Put("c.SFH#000003.THM", 6967);
-    File("c", 4, 1);
+    Clip("c", 4, 1);
     Strings asked;
     for (int i = 0; i < 4; i++) {
         Passes(500);
@@ -363,7 +311,7 @@ TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgain)
 
 TEST_F(ClipStore, AFetchIsRetriedFiveTimes)
 {
-    File("a", 1, 0);
+    Clip("a", 1, 0);
     EXPECT_THAT(Gets(), IsEmpty());
     Hub("Notify", "ClipStoreFile", "root/a.SFH:thumbnail:1");
     int fetches = 0;
@@ -386,7 +334,7 @@ TEST_F(ClipStore, ATrimRenumbersThumbnails)
     const auto clip = [](const char* name) {
         for (int i = 0; i < 6; i++)
             Put(name + (".SFH#00000" + std::to_string(i)) + ".THM", i % 2 ? 6966 : 21222);
-        File(name, 6, 1);
+        Clip(name, 6, 1);
     };
     clip("a b");
     Passes(1000);
@@ -422,8 +370,8 @@ TEST_F(ClipStore, OfALongClipOnlyTheFilesThereAreTouched)
                              "a.SFH#000301.THM", "a.SFH#000299.THM", "a2.SFH#000300.THM"})
         Put(name, 6966);
     Put("a.SFH#000302.THM", 21222);
-    File("a", FRAMES, 1);
-    File("a2", 400, 1);
+    Clip("a", FRAMES, 1);
+    Clip("a2", 400, 1);
     const clock_t begun = clock();
     Hub("Result", "ClipStoreFile", "Trim root/a.SFH 300 80299 80000:7F");
     EXPECT_THAT(Files(), ElementsAre("a.SFH#000000.THM", "a.SFH#000001.THM", "a.SFH#000002.THM",
@@ -435,47 +383,38 @@ TEST_F(ClipStore, OfALongClipOnlyTheFilesThereAreTouched)
     EXPECT_LT(clock() - begun, CLOCKS_PER_SEC / 20) << "not every name there may be is tried";
 }
 
-TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnew)
+TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnewByTheirNote)
 {
-    static const struct {
-        const char* note; // what the files are of; null: from before there were notes
-        int frames;       // of the clip that is told now
-        const char* time;
-        bool are_kept;
-    } cases[] = {
-        {"3 2026 Jan.31 23:59", 3, "2026-01-31 23:59:00", true},
-        {nullptr, 3, "2026-01-31 23:59:00", true},
-        {"6 2026 Jan.31 23:59", 3, "2026-01-31 23:59:00", false}, // trimmed meanwhile
-        {"3 2026 Jan.31 23:59", 1, "2026-01-31 23:59:00", false},
-        {"3 2026 Jan.31 23:58", 3, "2026-01-31 23:59:00", false}, // recorded meanwhile
-        {"3 2026 Jan.", 3, "2026-01-31 23:59:00", false},         // broken off
-        {"", 3, "2026-01-31 23:59:00", false},
-        {"-1", 3, "2026-01-31 23:59:00", false},
+    static const std::tuple<const char*, int, bool> cases[] = {
+        // what the files are of (null: from before there were notes), the clip that is told now
+        {"3 2026 Jan.31 23:59", 3, true},
+        {nullptr, 3, true},
+        {"6 2026 Jan.31 23:59", 3, false}, // trimmed meanwhile
+        {"3 2026 Jan.31 23:59", 1, false},
+        {"3 2026 Jan.31 23:58", 3, false}, // recorded meanwhile
+        {"3 2026 Jan.", 3, false},         // broken off
+        {"", 3, false},
+        {"-1", 3, false},
     };
     Folder("a");
-    for (const auto& c : cases) {
+    for (const auto& [note, frames, are_kept] : cases) {
         for (int i = 0; i < 3; i++)
             Put("a.b.SFH#00000" + std::to_string(i) + ".THM", 6966);
-        if (c.note)
-            PutText(NOTE, c.note);
-        File("a/b", c.frames, 1, c.time);
-        EXPECT_EQ(Gets().size(), c.are_kept ? 0u : 1u) << c.note;
-        EXPECT_EQ(Files().size(), c.are_kept ? 3u : 0u) << c.note;
-        const std::string of = std::to_string(c.frames) + " 2026 Jan.31 23:59";
-        EXPECT_EQ(Note(), of) << c.note;
+        if (note)
+            PutText(NOTE, note);
+        Clip("a/b", frames, 1);
+        EXPECT_EQ(Gets().size(), are_kept ? 0u : 1u) << note;
+        EXPECT_EQ(Files().size(), are_kept ? 3u : 0u) << note;
+        EXPECT_EQ(Note(), std::to_string(frames) + " 2026 Jan.31 23:59") << note;
         FMCtrl3_Init(); // as after a start
         (void)TakeQueuedCommands();
         fs::remove_all(FM_FOLDER);
         Folder("a");
     }
-}
 
-TEST_F(ClipStore, ANoteFollowsItsClip)
-{
     for (int i = 0; i < 6; i++)
         Put("a.b.SFH#00000" + std::to_string(i) + ".THM", 6966);
-    Folder("a");
-    File("a/b", 6, 1);
+    Clip("a/b", 6, 1);
     EXPECT_EQ(Note(), "6 2026 Jan.31 23:59");
     Hub("Result", "ClipStoreFile", "Trim root/a/b.SFH 1 4 4:7F");
     EXPECT_EQ(Note(), "4 2026 Jan.31 23:59");
@@ -484,7 +423,7 @@ TEST_F(ClipStore, ANoteFollowsItsClip)
     (void)Changes(); // while its clip is there
     FMCtrl3_HubLost();
     Folder("a");
-    File("a/b", 4, 1, "2026-02-01 01:02:03");
+    Clip("a/b", 4, 1, "2026-02-01 01:02:03");
     Passes(1000);
     EXPECT_THAT(Gets(), IsEmpty());
     EXPECT_EQ(Note(), "4 2026 Feb.01 01:02");
@@ -496,8 +435,8 @@ TEST_F(ClipStore, ANoteFollowsItsClip)
 TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
 {
     Folder("A");
-    File("A/b", 3);
-    File("A.b", 1);
+    Clip("A/b", 3);
+    Clip("A.b", 1);
     for (const char* name : {"A.b.SFH#000002.THM", "A.b.SFH.THM"})
         Put(name, 6966);
     for (const char* name : {"A.b.SFH#000003.THM", "A.b.SFH#00002.THM", "b.SFH#000000.THM",
@@ -525,7 +464,7 @@ TEST_F(ClipStore, TablesComeAndGo)
                 ElementsAre("Read#CS1.ClipStoreInfo:CAPACITY:", "InitRead#CS1.ClipStoreFolder",
                             "InitRead#CS1.ClipStoreFile"));
     Folder("A");
-    File("A/x");
+    Clip("A/x");
     Hub("Notify", "ClipStoreInfo", "CAPACITY::900,800,70,60,7f");
     EXPECT_EQ(std::make_pair(SYS_StoreTotal, SYS_StoreFree), std::make_pair(900, 800));
     EXPECT_EQ(std::make_pair(SYS_MemoryTotal, SYS_MemoryFree), std::make_pair(70, 60));
@@ -543,17 +482,4 @@ TEST_F(ClipStore, TablesComeAndGo)
         EXPECT_EQ(SYS_StoreTotal + SYS_StoreFree + SYS_MemoryTotal + SYS_MemoryFree, 0);
         Hub("Notify", "ClipStoreInfo", "CAPACITY::9,8,7,6,7f");
     }
-}
-
-TEST_F(ClipStore, ABurstOfElementsIsTakenWhole)
-{
-    for (int i = 0; i < 10000; i++)
-        File("F" + std::to_string(i * 7919 % 97) + "/c" + std::to_string(i), 1 + i % 3, 1);
-    EXPECT_EQ(Tree().size(), 10001u);
-    EXPECT_LE(Gets().size(), 1u);
-    for (int i = 0; i < 10000; i += 2)
-        Hub("Delete", "ClipStoreFile",
-            "root/F" + std::to_string(i * 7919 % 97) + "/c" + std::to_string(i) + ".SFH");
-    EXPECT_EQ(Tree().size(), 5001u);
-    EXPECT_TRUE(FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FILE, "/F62/c1"));
 }

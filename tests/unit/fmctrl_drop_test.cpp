@@ -1,7 +1,7 @@
+#include "fetches.h"
 #include "file.h"
 #include "fmctrl_page.h"
 #include "fmctrl_private.h"
-#include <algorithm>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,8 +11,6 @@ namespace fs = std::filesystem;
 using testing::SizeIs;
 
 struct DropFolders : FrameMemory {
-    int work = 500;
-
     void SetUp() override
     {
         FrameMemory::SetUp();
@@ -40,8 +38,7 @@ struct DropFolders : FrameMemory {
     {
         usleep(30000); // file times move in steps
         (void)TakeQueuedCommands();
-        Pass(2000);
-        Strings lines = TakeQueuedCommands();
+        Strings lines = After(2000);
         for (int i = 0; i < 20; i++) {
             if (lines.empty())
                 return;
@@ -50,11 +47,15 @@ struct DropFolders : FrameMemory {
         }
         FAIL() << "the search does not end";
     }
+    static Strings After(int ms)
+    {
+        Pass(ms);
+        return TakeQueuedCommands();
+    }
     static Strings Look()
     {
         (void)TakeQueuedCommands();
-        Pass(1000);
-        return TakeQueuedCommands();
+        return After(1000);
     }
     static void Drop(const std::string& path, const std::string& text = "image")
     {
@@ -62,30 +63,20 @@ struct DropFolders : FrameMemory {
         std::ofstream("/mnt/sys/FMLoad/" + path) << text;
         usleep(30000);
     }
-    static std::string Label(const std::string& line)
+    // What the application sends when the server takes a command and reports on it.
+    static Strings Served(const std::string& line, const Strings& reports)
     {
-        const size_t at = line.find('#') + 1;
-        return line.substr(at, line.find(',') - at);
+        (void)TakeQueuedCommands();
+        Serve(line, reports);
+        return TakeQueuedCommands();
     }
-    // The server takes a command and reports by it; what the application sends then.
-    Strings Serve(const std::string& line, const Strings& reports)
-    {
-        const std::string path = line.substr(4, line.find('#') - 4);
-        const std::string ack = std::to_string(++work);
-        (void)Tell(path, Label(line) + "," + ack);
-        Strings sent;
-        for (const std::string& report : reports)
-            for (const std::string& more : Tell(path + "@Status", ack + "," + report))
-                sent.push_back(more);
-        return sent;
-    }
-    Strings Found(const Strings& search, const Strings& paths)
+    static Strings Found(const Strings& search, const Strings& paths)
     {
         Strings rows;
         for (const std::string& path : paths)
             rows.push_back("/mnt/sys/FMLoad/" + path + ",Sat Apr  4 12:34:56 2020");
         rows.push_back("OK");
-        return search.empty() ? Strings{} : Serve(search[0], rows);
+        return search.empty() ? Strings{} : Served(search[0], rows);
     }
     // The two files of a conversion lie where its command says.
     static void Convert(const std::string& line)
@@ -99,7 +90,7 @@ struct DropFolders : FrameMemory {
         }
     }
     // Every file command is carried out, to the end of all.
-    Strings Finish(Strings lines, const std::string& reply = "OK")
+    static Strings Finish(Strings lines, const std::string& reply = "OK")
     {
         Strings all;
         for (size_t i = 0; i < lines.size() && i < 20000; i++) {
@@ -107,7 +98,7 @@ struct DropFolders : FrameMemory {
             if (reply == "OK" && lines[i].find("2SFM") != std::string::npos)
                 Convert(lines[i]);
             if (lines[i].starts_with("put File@"))
-                for (const std::string& more : Serve(lines[i], {reply}))
+                for (const std::string& more : Served(lines[i], {reply}))
                     lines.push_back(more);
             if (i + 1 == lines.size()) { // the end of a job waits for the drives
                 for (int pass = 0; pass < 20; pass++)
@@ -146,10 +137,8 @@ TEST_F(DropFolders, AnImageIsImportedShownAndRemoved)
     EXPECT_THAT(search[0], HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4,*.*"));
     EXPECT_THAT(Found(search, {"FM4/logo.2.png"}),
                 ElementsAre("put Frame Mem@File@Delete Thumbnail@Single#Mlogo"));
-    Pass(499);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    Pass(1);
-    const Strings sent = Finish(TakeQueuedCommands());
+    EXPECT_THAT(After(499), IsEmpty());
+    const Strings sent = Finish(After(1));
     ASSERT_FALSE(sent.empty());
     EXPECT_THAT(sent[0], HasSubstr("PNG2SFM with Compress#"));
     EXPECT_THAT(sent[0], HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4/logo.2.png,"));
@@ -170,8 +159,7 @@ TEST_F(DropFolders, GraphicsWithoutRecallGoIntoTheirFolder)
     EXPECT_THAT(Found(search, {"NoRecall/b.TGA", "NoRecall/Mclip.FMEM_001.SFM",
                                "NoRecall/readme.txt", "NoRecall/.png"}),
                 ElementsAre("put Frame Mem@Folder@Rename#2,Graphics"));
-    Pass(500);
-    const Strings sent = Finish(TakeQueuedCommands());
+    const Strings sent = Finish(After(500));
     EXPECT_THAT(sent, Contains(HasSubstr("SWR000D001:FMEM_003.SF2")));
     Strings others = Others(sent);
     std::sort(others.begin(), others.end());
@@ -183,16 +171,14 @@ TEST_F(DropFolders, GraphicsWithoutRecallGoIntoTheirFolder)
     Settle();
     Drop("NoRecall/c.bmp");
     EXPECT_THAT(Found(Look(), {"NoRecall/c.bmp"}), IsEmpty());
-    Pass(500);
-    EXPECT_THAT(Finish(TakeQueuedCommands()), Contains("put Frame Mem@Folder@Move Still#0,Mc,2"));
+    EXPECT_THAT(Finish(After(500)), Contains("put Frame Mem@Folder@Move Still#0,Mc,2"));
 }
 
 TEST_F(DropFolders, WhatCannotBeImportedIsNeitherShownNorKept)
 {
     Drop("FM1/bad.bmp");
     (void)Found(Look(), {"FM1/bad.bmp"});
-    Pass(500);
-    EXPECT_THAT(Others(Finish(TakeQueuedCommands(), "NG([ERROR] no image.)")), IsEmpty());
+    EXPECT_THAT(Others(Finish(After(500), "NG([ERROR] no image.)")), IsEmpty());
     EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM1/bad.bmp"));
 }
 
@@ -202,11 +188,9 @@ TEST_F(DropFolders, AnImageThatIsStillArrivingIsWaitedFor)
     (void)Found(Look(), {"FM1/big.bmp"});
     for (const char* text : {"ab", "abc"}) {
         Drop("FM1/big.bmp", text);
-        Pass(500);
-        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << text;
+        EXPECT_THAT(After(500), IsEmpty()) << text;
     }
-    Pass(500);
-    EXPECT_EQ(Finish(TakeQueuedCommands()).empty(), false);
+    EXPECT_THAT(Finish(After(500)), Not(IsEmpty()));
 }
 
 TEST_F(DropFolders, NamesThatCouldLeaveTheFolderOrTheCommandAreRefused)
@@ -223,8 +207,7 @@ TEST_F(DropFolders, NamesThatCouldLeaveTheFolderOrTheCommandAreRefused)
                      "FM1/-rf.png",        "FM1/",
                      "FM1/a\tb.png",       "FM1/" + std::string(300, 'a') + ".png"};
     EXPECT_THAT(Found(search, paths), IsEmpty());
-    Pass(500);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(After(500), IsEmpty());
     EXPECT_TRUE(Exists(kept));
     EXPECT_TRUE(Exists("/mnt/sys/FMLoad/FM1/a.png")) << "nobody told of it";
 }
@@ -243,8 +226,7 @@ TEST_F(DropFolders, ThreeHundredImagesTakeTheEmptyRegistersAndNoneMore)
     }
     usleep(30000);
     (void)Found(Look(), paths);
-    Pass(500);
-    const Strings sent = Finish(TakeQueuedCommands());
+    const Strings sent = Finish(After(500));
     const auto count = [&](const char* part) {
         return std::ranges::count_if(
             sent, [=](const std::string& l) { return l.find(part) != std::string::npos; });
@@ -264,12 +246,10 @@ TEST_F(DropFolders, TheWorkAreaOfTheOlderFrameMemoryIsLeftAlone)
     for (int n = 1; n <= 222; n++)
         (void)Sense(n, "81", "Mused" + std::to_string(n));
     Pass(2000);
-    for (const char* name : {"FM8/a.png", "FM8/b.png"})
-        std::ofstream(std::string("/mnt/sys/FMLoad/") + name) << "image";
-    usleep(30000);
+    Drop("FM8/a.png");
+    Drop("FM8/b.png");
     (void)Found(Look(), {"FM8/a.png", "FM8/b.png"});
-    Pass(500);
-    EXPECT_THAT(Others(Finish(TakeQueuedCommands())), SizeIs(2)) << "a picture of two is shown";
+    EXPECT_THAT(Others(Finish(After(500))), SizeIs(2)) << "a picture of two is shown";
     EXPECT_TRUE(Exists("/mnt/sys/FMLoad/FM8/b.png"));
 }
 
@@ -279,28 +259,22 @@ TEST_F(DropFolders, NothingIsTakenBeforeTheRegistersAreKnown)
     Drop("FM1/a.png");
     EXPECT_THAT(Look(), IsEmpty());
     (void)Sense(1, "81", "Mused");
-    Pass(1000);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << "one was told meanwhile";
-    Pass(1000);
-    EXPECT_EQ(TakeQueuedCommands().size(), 1u);
+    EXPECT_THAT(After(1000), IsEmpty()) << "one was told meanwhile";
+    EXPECT_THAT(After(1000), SizeIs(1));
     // The server that was to answer has gone: it is asked again.
     Max(5662);
-    Pass(2000);
-    Strings again = TakeQueuedCommands();
+    Strings again = After(2000);
     std::erase_if(again, [](const std::string& l) { return !l.starts_with("put File@"); });
     EXPECT_EQ(again.size(), 1u);
     // And once more while it was to import what has been found.
     (void)Found(again, {"FM1/a.png"});
-    Pass(500);
-    EXPECT_EQ(TakeQueuedCommands().size(), 1u);
+    EXPECT_THAT(After(500), SizeIs(1));
     Max(5662);
     EXPECT_EQ(QueueRoot, nullptr) << "nothing waits for an answer";
-    Pass(2000);
-    again = TakeQueuedCommands();
+    again = After(2000);
     std::erase_if(again, [](const std::string& l) { return !l.starts_with("put File@"); });
     (void)Found(again, {"FM1/a.png"});
-    Pass(500);
-    EXPECT_THAT(Others(Finish(TakeQueuedCommands())), SizeIs(2));
+    EXPECT_THAT(Others(Finish(After(500))), SizeIs(2));
     EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM1/a.png"));
 }
 
@@ -331,28 +305,20 @@ TEST_F(CommandFolder, AllClearAnswersWhenTheDeletionHasEnded)
 
 TEST_F(CommandFolder, EveryMarkerIsAnsweredOnce)
 {
-    static const struct {
-        const char* marker;
-        const char* text;
-        const char* reply;
-        const char* answer;
-    } cases[] = {
-        {.marker = "makelog.cmd", .text = "", .reply = "makelog.res", .answer = "Error\n"},
-        {.marker = "nfsmount.cmd", .text = "", .reply = "nfsmount.res", .answer = "Error\n"},
-        {.marker = "nfsmount.cmd",
-         .text = "/export;touch /tmp/owned\n",
-         .reply = "nfsmount.res",
-         .answer = "Error\n"},
-        {.marker = "nfsunmount.cmd", .text = "", .reply = "nfsunmount.res", .answer = "Error\n"},
+    static const std::pair<std::string, const char*> cases[] = {
+        {"makelog", ""},
+        {"nfsmount", ""},
+        {"nfsmount", "/export;touch /tmp/owned\n"},
+        {"nfsunmount", ""},
     };
-    for (const auto& c : cases) {
-        Mark(c.marker, c.text);
+    for (const auto& [name, text] : cases) {
+        Mark(name + ".cmd", text);
         (void)Look();
-        EXPECT_EQ(FileText(folder + c.reply), c.answer) << c.marker;
-        EXPECT_FALSE(Exists(folder + c.marker)) << c.marker;
-        fs::remove(folder + c.reply);
+        EXPECT_EQ(FileText(folder + name + ".res"), "Error\n") << name;
+        EXPECT_FALSE(Exists(folder + name + ".cmd")) << name;
+        fs::remove(folder + name + ".res");
         (void)Look();
-        EXPECT_FALSE(Exists(folder + c.reply)) << c.marker;
+        EXPECT_FALSE(Exists(folder + name + ".res")) << name;
     }
     EXPECT_FALSE(Exists("/tmp/owned"));
 }
@@ -362,21 +328,18 @@ TEST_F(CommandFolder, ALoadAndASaveOfAllFollowEachOther)
     for (const char* name : {"allload.res", "allsave.res"})
         fs::remove(folder + name);
     Mark("allload.cmd");
-    const Strings load = Look();
+    Strings sent = Look();
     EXPECT_FALSE(Exists(folder + "allload.cmd"));
     Mark("allsave.cmd");
-    const Strings more = Look();
+    std::ranges::copy(Look(), std::back_inserter(sent));
     EXPECT_TRUE(Exists(folder + "allsave.cmd")) << "it waits for its turn";
-    Strings sent = load;
-    sent.insert(sent.end(), more.begin(), more.end());
     EXPECT_THAT(Finish(sent), Each(HasSubstr(",MYHOST:/tmp/FTPIF/Import/")));
     EXPECT_EQ(FileText(folder + "allload.res"), "Error\n") << "there is nothing to be loaded";
     Strings saved = Look();
     EXPECT_FALSE(Exists(folder + "allsave.cmd"));
     for (int i = 0; i < 100 && !Exists(folder + "allsave.res"); i++) {
         Pass(10);
-        for (const std::string& line : Finish(TakeQueuedCommands()))
-            saved.push_back(line);
+        std::ranges::copy(Finish(TakeQueuedCommands()), std::back_inserter(saved));
     }
     EXPECT_THAT(saved, Contains(HasSubstr("MYHOST:/tmp/FTPIF/Export/")));
     EXPECT_EQ(FileText(folder + "allsave.res"), "Error\n") << "the hub is not there";

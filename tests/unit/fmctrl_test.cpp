@@ -1,4 +1,5 @@
 #include "fmctrl_page.h"
+#include <array>
 #include <map>
 #include <random>
 #include <set>
@@ -15,34 +16,23 @@ struct FrameMemoryLists : FrameMemory {
     }
 };
 
-struct FrameMemoryFolders : FrameMemoryLists {
-};
+using FrameMemoryFolders = FrameMemoryLists;
 } // namespace
 
 TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammar)
 {
-    static const struct {
-        const char* name;
-        const char* clip; // null: no frame
-        const char* frame;
-    } cases[] = {
-        {.name = "M12345", .clip = "1", .frame = "2345"},
-        {.name = "M1234", .clip = nullptr, .frame = ""},
-        {.name = "Sabcd0001", .clip = "abcd", .frame = "0001"},
-        {.name = "mabc0001", .clip = nullptr, .frame = ""},
-        {.name = "Mabc001", .clip = nullptr, .frame = ""},
-        {.name = "Mabc0001x", .clip = nullptr, .frame = ""},
-        {.name = "Mabc00 1", .clip = nullptr, .frame = ""},
-        {.name = "", .clip = nullptr, .frame = ""},
-    };
-    for (const auto& c : cases) {
-        char clip[8] = "?";
-        char frame[8] = "?";
-        EXPECT_EQ(FMCtrl_DivClipName(c.name, clip, frame, sizeof clip, sizeof frame),
-                  c.clip ? 0 : -1)
-            << c.name;
-        EXPECT_STREQ(clip, c.clip ? c.clip : "") << c.name;
-        EXPECT_STREQ(frame, c.frame) << c.name;
+    static const std::tuple<const char*, const char*, const char*> cases[] = {
+        // "": no frame
+        {"M12345", "1", "2345"}, {"M1234", "", ""},   {"Sabcd0001", "abcd", "0001"},
+        {"mabc0001", "", ""},    {"Mabc001", "", ""}, {"Mabc0001x", "", ""},
+        {"Mabc00 1", "", ""},    {"", "", ""}};
+    for (const auto& [name, of_clip, of_frame] : cases) {
+        char clip[8] = "?", frame[8] = "?";
+        EXPECT_EQ(FMCtrl_DivClipName(name, clip, frame, sizeof clip, sizeof frame),
+                  *of_clip ? 0 : -1)
+            << name;
+        EXPECT_STREQ(clip, of_clip) << name;
+        EXPECT_STREQ(frame, of_frame) << name;
     }
     char narrow[3];
     EXPECT_EQ(FMCtrl_DivClipName("Mabcd0001", narrow, nullptr, sizeof narrow, 0), 0);
@@ -54,7 +44,7 @@ TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammar)
                 ElementsAre(": - 5", "1234: 0 -", "12345: 1 -", "abc0001: 3 2", "abcdefgh: 4 -"));
 }
 
-TEST_F(FrameMemoryLists, AStillIsAPairWhicheverSideComesFirst)
+TEST_F(FrameMemoryLists, AStillIsAPairOfTheLastSidesThatWereTold)
 {
     Store({"Slogo"});
     EXPECT_THAT(Stills(), ElementsAre("logo: - 0"));
@@ -70,10 +60,8 @@ TEST_F(FrameMemoryLists, AStillIsAPairWhicheverSideComesFirst)
     (void)Sense(1, "0", "");
     EXPECT_THAT(Stills(), ElementsAre("logo: x7 -"));
     EXPECT_EQ(FMCtrl_GetStillIdx("Slogo"), -1);
-}
 
-TEST_F(FrameMemoryLists, ANamesakeWaitsForThePlaceOfTheLast)
-{
+    Max(300);
     Store({"Mlogo", "Mlogo"});
     Store({"Mlogo"}, 16384 + 1);
     EXPECT_THAT(Stills(), ElementsAre("logo: x0 -"));
@@ -84,7 +72,7 @@ TEST_F(FrameMemoryLists, ANamesakeWaitsForThePlaceOfTheLast)
     EXPECT_THAT(Stills(), ElementsAre("logo: 1 -", "new: 0 -"));
 }
 
-TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndOneDoesNot)
+TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndTheShownOneMovesWithinIt)
 {
     Store({"Mabc0002"});
     EXPECT_THAT(Clips(), IsEmpty());
@@ -104,10 +92,8 @@ TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndOneDoesNot)
     EXPECT_THAT(Sense(4, "81", "Sabc0007"),
                 ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Sabc"));
     EXPECT_THAT(Clips(), ElementsAre("abc: 0 / 2 3"));
-}
 
-TEST_F(FrameMemoryLists, TheShownFrameMovesWithinItsClip)
-{
+    Max(300);
     Store({"Mabc0001", "Mabc0002", "Mabc0003", "Mabc0004", "Mabc0005"});
     EXPECT_EQ(FMCtrl_GetClipFrameIdx(0, 0), 2);
     EXPECT_EQ(FMCtrl_MoveClipFrame(0, 0, 100), 0);
@@ -239,48 +225,43 @@ TEST_F(FrameMemoryLists, FollowAStormAsAPlainRecountWould)
     const auto pick = [&](int n) { return int(random() % unsigned(n)); };
     std::map<int, std::string> model; // by index
     const auto recount = [&] {
-        std::map<std::string, std::set<int>> side; // 'M' or 'S' and the bare name
+        std::map<std::string, std::set<int>> sides[2]; // by the bare name
         std::set<std::string> names;
         for (const auto& [index, name] : model) {
-            side[(name[0] == 'M' ? "M" : "S") + name.substr(1)].insert(index);
+            sides[name[0] != 'M'][name.substr(1)].insert(index);
             names.insert(name.substr(1));
         }
         ASSERT_EQ(FMCtrl_GetStillNum(), int(names.size()));
-        std::map<std::string, std::map<std::string, int>> frames[2]; // clip, frame, register
+        std::map<std::string, std::array<std::map<std::string, int>, 2>>
+            frames; // of a clip's sides
         int i = 0;
         for (const std::string& name : names) {
             ASSERT_EQ(FMCtrl_GetStillName(i), name);
             for (int is_sub : {0, 1}) {
-                const auto& all = side[(is_sub ? "S" : "M") + name];
+                const auto& all = sides[is_sub][name];
                 const int index = FMCtrl_GetStillRegId(i, is_sub);
-                ASSERT_EQ(index >= 0, !all.empty()) << name;
-                if (index < 0)
-                    continue;
-                ASSERT_TRUE(all.count(index)) << name;
+                ASSERT_TRUE(index < 0 ? all.empty() : all.count(index) > 0) << name;
                 char clip[12], frame[12];
-                if (FMCtrl_DivClipName(model[index].c_str(), clip, frame, 12, 12) == 0)
-                    frames[is_sub][clip][frame] = index;
+                if (index >= 0 &&
+                    FMCtrl_DivClipName(model[index].c_str(), clip, frame, 12, 12) == 0)
+                    frames[clip][size_t(is_sub)][frame] = index;
             }
             i++;
         }
-        std::set<std::string> clips;
-        for (const auto& one_side : frames)
-            for (const auto& [clip, list] : one_side)
-                if (list.size() > 1)
-                    clips.insert(clip);
-        ASSERT_EQ(FMCtrl_GetClipNum2(), int(clips.size()));
-        int c = 0;
-        for (const std::string& clip : clips) {
-            ASSERT_EQ(FMCtrl_GetClipName(c), clip);
+        Strings clips;
+        for (const auto& [clip, both] : frames) {
+            if (both[0].size() < 2 && both[1].size() < 2)
+                continue;
+            const int c = int(clips.size());
+            clips.push_back(clip + ":");
             for (int is_sub : {0, 1}) {
-                std::string expected;
-                for (const auto& [frame, index] : frames[is_sub][clip])
-                    expected += " " + Number(index);
-                ASSERT_EQ(Frames(c, is_sub), expected) << clip;
-                ASSERT_EQ(FMCtrl_GetClipFrameIdx(c, is_sub), int(frames[is_sub][clip].size()) / 2);
+                clips.back() += is_sub ? " /" : "";
+                for (const auto& [frame, index] : both[size_t(is_sub)])
+                    clips.back() += " " + Number(index);
+                ASSERT_EQ(FMCtrl_GetClipFrameIdx(c, is_sub), int(both[size_t(is_sub)].size()) / 2);
             }
-            c++;
         }
+        ASSERT_EQ(Clips(), clips);
     };
     const char* words[] = {"a", "ab", "abc0", "1", "A", "a000"};
     for (int step = 0; step < 30000; step++) {
@@ -335,17 +316,15 @@ TEST_F(FrameMemoryFolders, FolderStatusMovesStillsAndClips)
     EXPECT_EQ(FMCtrl_GetRegFolderId(5), 0) << "nothing behind what is no number";
     EXPECT_STREQ(FMCtrl_GetStillFolderName(FMCtrl_GetStillIdx("Mlogo")), "art");
     EXPECT_EQ(FMCtrl_GetClipFolderId(0), 11) << "that of the frame moved last";
-    EXPECT_EQ(FMCtrl_GetFolderAllStillNum(11), 2);
-    EXPECT_EQ(FMCtrl_GetFolderStillNum(11), 1);
-    EXPECT_EQ(FMCtrl_GetFolderClipNum(11), 1);
-    EXPECT_EQ(FMCtrl_GetFolderExtClipNum(11), 0);
+    EXPECT_THAT((std::array{FMCtrl_GetFolderAllStillNum(11), FMCtrl_GetFolderStillNum(11),
+                            FMCtrl_GetFolderClipNum(11), FMCtrl_GetFolderExtClipNum(11)}),
+                ElementsAre(2, 1, 1, 0));
     (void)Tell("16@Frame Mem@Status@Folder Status@0", "0B010B03");
     EXPECT_THAT(Changes(), IsEmpty()) << "nothing has changed";
 
     (void)Tell("Frame Mem@Folder@Move Still", "0,Mlogo,A");
     EXPECT_EQ(FMCtrl_GetRegFolderId(0), 10);
-    (void)Tell("Frame Mem@Folder@Move Still",
-               "0,Mlogo,11"); // the application's own way to write it
+    (void)Tell("Frame Mem@Folder@Move Still", "0,Mlogo,11"); // as the application writes it
     EXPECT_EQ(FMCtrl_GetRegFolderId(0), 11);
     for (const char* value : {"0,Mlogo,12", "0,Mlogo,", "0,Mnone,1", "0,Mlogo", ""})
         (void)Tell("Frame Mem@Folder@Move Still", value);

@@ -1,7 +1,7 @@
+#include "fetches.h"
 #include "file.h"
 #include "fmctrl_page.h"
 #include "tdl.h"
-#include <algorithm>
 
 namespace
 {
@@ -32,8 +32,6 @@ struct Bmp {
 };
 
 struct FrameMemoryThumbnails : FrameMemory {
-    int work = 100; // the server's numbers
-
     void SetUp() override
     {
         FrameMemory::SetUp();
@@ -44,21 +42,9 @@ struct FrameMemoryThumbnails : FrameMemory {
         (void)Changes();
     }
 
-    struct Get {
-        std::string label, remote, local;
-    };
     static std::vector<Get> Gets(const Strings& lines)
     {
-        std::vector<Get> gets;
-        const std::string command = "put File@Frame Memory@Get#";
-        for (const std::string& line : lines) {
-            if (!line.starts_with(command))
-                continue;
-            const size_t a = line.find(','), b = line.find(',', a + 1);
-            gets.push_back({line.substr(command.size(), a - command.size()),
-                            line.substr(a + 1, b - a - 1), line.substr(b + 1)});
-        }
-        return gets;
+        return ::Gets(lines, "File@Frame Memory@Get");
     }
     // The registers of the fetches, by number.
     static Strings Numbers(const std::vector<Get>& gets)
@@ -69,22 +55,20 @@ struct FrameMemoryThumbnails : FrameMemory {
         return numbers;
     }
     // The server carries a fetch out; what the application sends then.
-    Strings Answer(const Get& get, const std::string& reply, const std::string& picture)
+    static Strings Answer(const Get& get, const std::string& reply, const std::string& picture)
     {
         if (!picture.empty())
             std::ofstream(get.local.substr(get.local.find(':') + 1), std::ios::binary)
                 << std::string(64, 'h') << picture;
-        const std::string ack = std::to_string(++work);
-        (void)Tell("File@Frame Memory@Get", get.label + "," + ack);
-        return Tell("File@Frame Memory@Get@Status", ack + "," + reply);
+        (void)TakeQueuedCommands();
+        Serve(get.line, {reply});
+        return TakeQueuedCommands();
     }
-    static Strings Files()
+    static Strings Files() { return FilesIn(THUMBNAILS); }
+    static int Width(int number, int size) // 0: there is none
     {
-        Strings names;
-        for (const auto& entry : fs::directory_iterator(THUMBNAILS))
-            names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
-        return names;
+        const SDL_Surface* const thumbnail = FMCtrl_GetThumbnail(number - 1, size);
+        return thumbnail ? thumbnail->w : 0;
     }
 };
 } // namespace
@@ -95,19 +79,17 @@ TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFile)
     ASSERT_EQ(gets.size(), 1u);
     EXPECT_EQ(gets[0].remote, "SWR000D001:FMEM_001.SFT");
     EXPECT_EQ(gets[0].local, "MYHOST:/mnt/sys/FrameMemory/FM_0001.SFT");
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL), nullptr);
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
     (void)Changes();
     (void)Answer(gets[0], "OK", Bmp{}.Bytes());
     EXPECT_THAT(Changes(), ElementsAre("0, 1"));
     EXPECT_THAT(Files(), ElementsAre("FM_0001.BMP"));
-    ASSERT_TRUE(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL));
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL)->w, 8);
-    ASSERT_TRUE(FMCtrl_GetThumbnail(0, THUMBSIZE_FULL));
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_FULL)->w, 16);
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 8);
+    EXPECT_EQ(Width(1, THUMBSIZE_FULL), 16);
 
     (void)Sense(1, "0", "");
     EXPECT_THAT(Files(), IsEmpty());
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL), nullptr);
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
 }
 
 TEST_F(FrameMemoryThumbnails, OlderFrameMemoryKeepsTheWholePicture)
@@ -117,10 +99,8 @@ TEST_F(FrameMemoryThumbnails, OlderFrameMemoryKeepsTheWholePicture)
     ASSERT_THAT(Numbers(gets), ElementsAre("M_1200.SFT"));
     (void)Answer(gets[0], "OK", Bmp{}.Bytes());
     EXPECT_THAT(Files(), IsEmpty());
-    ASSERT_TRUE(FMCtrl_GetThumbnail(1199, THUMBSIZE_FULL));
-    EXPECT_EQ(FMCtrl_GetThumbnail(1199, THUMBSIZE_FULL)->w, 16);
-    ASSERT_TRUE(FMCtrl_GetThumbnail(1199, THUMBSIZE_SMALL));
-    EXPECT_EQ(FMCtrl_GetThumbnail(1199, THUMBSIZE_SMALL)->w, 8);
+    EXPECT_EQ(Width(1200, THUMBSIZE_FULL), 16);
+    EXPECT_EQ(Width(1200, THUMBSIZE_SMALL), 8);
 }
 
 TEST_F(FrameMemoryThumbnails, NamesOfTheFilesFollowTheStoreAndTheNumber)
@@ -205,12 +185,12 @@ TEST_F(FrameMemoryThumbnails, AnImageThatChangedMeanwhileIsFetchedAnew)
     std::ofstream(std::string(THUMBNAILS) + "FM_0001.SFT") << std::string(64, 'h') << Bmp{}.Bytes();
     (void)Changes();
     const auto gets = Gets(Tell("File@Frame Memory@Get@Status", "7,OK"));
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL), nullptr);
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
     EXPECT_THAT(Files(), IsEmpty()) << "the old image's file";
     EXPECT_THAT(Changes(), IsEmpty());
     ASSERT_EQ(gets.size(), 1u);
     (void)Answer(gets[0], "CACHED", ""); // the bitmap is to be there, and is not
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL), nullptr);
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
 }
 
 TEST_F(FrameMemoryThumbnails, WaitForWhatMayNotBeDisturbedAndComeByThemselves)
@@ -242,9 +222,9 @@ TEST_F(FrameMemoryThumbnails, AServerThatForgotThemIsAskedAgain)
     ASSERT_EQ(gets.size(), 1u);
     EXPECT_NE(gets[0].label, lost[0].label);
     (void)Answer(lost[0], "OK", Bmp{}.Bytes()); // after all
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL), nullptr);
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
     (void)Answer(gets[0], "OK", Bmp{}.Bytes());
-    EXPECT_TRUE(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL));
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 8);
 }
 
 TEST_F(FrameMemoryThumbnails, AllAnewTakesEveryRegisterInSlices)
@@ -266,7 +246,7 @@ TEST_F(FrameMemoryThumbnails, AllAnewTakesEveryRegisterInSlices)
     gets = Gets(TakeQueuedCommands());
     EXPECT_EQ(gets.size(), 30u);
     EXPECT_EQ(gets[1].remote, "SWR000D001:FMEX1900.SFT");
-    EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL), nullptr);
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
 }
 
 TEST_F(FrameMemoryThumbnails, APictureThatIsNotWhatItSaysIsRefused)
@@ -288,12 +268,12 @@ TEST_F(FrameMemoryThumbnails, APictureThatIsNotWhatItSaysIsRefused)
     for (const Bmp& bmp : rubbish) {
         ASSERT_EQ(gets.size(), 1u);
         gets = Gets(Answer(gets[0], "OK", bmp.Bytes()));
-        EXPECT_EQ(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL), nullptr)
+        EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0)
             << bmp.width << "x" << bmp.height << " " << bmp.bits;
         EXPECT_THAT(Files(), IsEmpty());
         if (gets.empty())
             gets = Gets(Sense(1, "1", "Mlogo")); // given up
     }
     (void)Answer(gets[0], "OK", Bmp{}.Bytes());
-    EXPECT_TRUE(FMCtrl_GetThumbnail(0, THUMBSIZE_SMALL));
+    EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 8);
 }

@@ -1,10 +1,8 @@
 // The recorder of menu macros: what a touch leaves behind, what a file holds, what a run sends.
-#include "a_ls.h"
 #include "memory.h"
 #include "menu_macro.h"
 #include "menu_macro_private.h"
 #include "netio.h"
-#include "page.h"
 #include "pane.h"
 #include "pc_file_dual.h"
 #include "pc_file_kind.h"
@@ -12,7 +10,6 @@
 #include "pc_register.h"
 #include "table_page.h"
 #include "text.h"
-#include "window.h"
 #include <filesystem>
 #include <fstream>
 
@@ -64,18 +61,17 @@ struct MenuMacro : TablePage {
         return events;
     }
     static Lines Recorded() { return Events(mm_edit.list); }
-    static std::string File(int number)
+    static std::string Path(const char* dir, int number)
     {
         char path[64];
-        PrintText(path, "%smm_reg%02d.tmp", BACKUP, number);
-        return FileText(path);
+        PrintText(path, "%smm_reg%02d.tmp", dir, number);
+        return path;
     }
+    static std::string File(int number) { return FileText(Path(BACKUP, number)); }
     static void Write(const char* dir, int number, const std::string& text)
     {
         std::filesystem::create_directories(dir);
-        char path[64];
-        PrintText(path, "%smm_reg%02d.tmp", dir, number);
-        std::ofstream(path) << text;
+        std::ofstream(Path(dir, number)) << text;
     }
     static void Load(int number, const std::string& events)
     {
@@ -105,8 +101,7 @@ TEST_F(MenuMacro, TheTapTellsTheOperatorsCommandsFromTheProgramsOwn)
 {
     static const struct {
         const char* line;
-        int result;
-        int unrestricted;
+        int result, unrestricted;
         uint32_t page = PAGE_TOP;
     } cases[] = {
         {"put M/E-1@Key1@Type@Key Type#Chroma", 0, 0},
@@ -134,7 +129,7 @@ TEST_F(MenuMacro, TheTapTellsTheOperatorsCommandsFromTheProgramsOwn)
     GL_MenuMacroUnrestrict = 0;
 }
 
-TEST_F(MenuMacro, ATouchIsAnEventAndNothingIsRecordedUnasked)
+TEST_F(MenuMacro, ATouchIsAnEventALongOneSeveralAndNothingIsRecordedUnasked)
 {
     Sends({"put A#1"});
     Record();
@@ -157,10 +152,6 @@ TEST_F(MenuMacro, ATouchIsAnEventAndNothingIsRecordedUnasked)
     mm_edit_close();
     Sends({"put G#7"});
     EXPECT_THAT(Recorded(), IsEmpty());
-}
-
-TEST_F(MenuMacro, ALongTouchGoesOnInANewEvent)
-{
     Record();
     Sends(Lines(256, "put A#1"));
     ASSERT_EQ(Recorded().size(), 2u);
@@ -178,19 +169,19 @@ TEST_F(MenuMacro, AFullListSaysSoOnce)
     Sends({"put A#1", "put B#2"});
     EXPECT_EQ(int(Recorded().size()), MENU_MACRO_EVENTS);
     EXPECT_EQ(Recorded().back(), "put A#1\n") << "no part of a touch";
-    Pass(10);
-    EXPECT_NE(Pane_GetActiveID(), 0);
+    const auto says = [] {
+        Pass(10);
+        return Pane_GetActiveID() != 0;
+    };
+    EXPECT_TRUE(says());
     Pane_Quit(Pane_GetActiveID());
-    Pass(10);
-    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_FALSE(says());
     mm_event_delete(0, true);
     Sends({"put B#2"});
     EXPECT_EQ(int(Recorded().size()), MENU_MACRO_EVENTS);
-    Pass(10);
-    EXPECT_EQ(Pane_GetActiveID(), 0) << "there was room";
+    EXPECT_FALSE(says()) << "there was room";
     Sends({"put C#3"});
-    Pass(10);
-    EXPECT_NE(Pane_GetActiveID(), 0);
+    EXPECT_TRUE(says());
 }
 
 TEST_F(MenuMacro, WithoutAutoInsertTheKeyOfTheBaseAreaTakesTheLastTouch)
@@ -201,13 +192,10 @@ TEST_F(MenuMacro, WithoutAutoInsertTheKeyOfTheBaseAreaTakesTheLastTouch)
     Record(false);
     EXPECT_EQ(mm_display().events, 2);
     EXPECT_EQ(mm_display().event, 2) << "what comes goes behind the last";
-    const auto strip = [] {
-        Pass(10);
-        return PixelsIn({508, 6, 797, 65});
-    };
-    const auto before = strip();
+    constexpr Rect STRIP = {508, 6, 797, 65};
+    const auto before = Seen(STRIP);
     Sends({"put A#1"});
-    EXPECT_NE(strip(), before) << "what the key would take is shown";
+    EXPECT_NE(Seen(STRIP), before) << "what the key would take is shown";
     Sends({"put B#2", "put C#3"});
     EXPECT_STREQ(mm_display().command, "B#2");
     EXPECT_EQ(Recorded().size(), 2u);
@@ -258,7 +246,7 @@ TEST_F(MenuMacro, AFileIsWrittenAsItIsRead)
     ASSERT_EQ(mm_macro_file_save(6), 0);
     EXPECT_EQ(File(7), file);
     EXPECT_EQ(mm_macro_tmpfile_save("MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"), 0);
-    EXPECT_EQ(FileText(std::string(TRANSFER) + "mm_reg07.tmp"), file);
+    EXPECT_EQ(FileText(Path(TRANSFER, 7)), file);
 }
 
 TEST_F(MenuMacro, ARegisterIsNotTakenForEmptyBeforeTheStartHasReadIt)
@@ -276,11 +264,7 @@ TEST_F(MenuMacro, ARegisterIsNotTakenForEmptyBeforeTheStartHasReadIt)
 
 TEST_F(MenuMacro, AStrangeFileHarmsNothing)
 {
-    static const struct {
-        const char* text;
-        const char* name;
-        int events, commands;
-    } cases[] = {
+    static const std::tuple<const char*, const char*, int, int> cases[] = {
         {"", "MMCR3", 0, 0},
         {"#Event:put A#1\n", "MMCR3", 0, 0},
         {"Header:,0,9\nEvent:put A#1", "MMCR3", 1, 1},
@@ -290,11 +274,11 @@ TEST_F(MenuMacro, AStrangeFileHarmsNothing)
         {"Contnue:put A#1\nPause:1\nContnue:put B#2\n", "MMCR3", 3, 3},
         {"Wait Time:700\nPause:-3\nPause:nan\nPause:\n", "MMCR3", 3, 3},
     };
-    for (const auto& c : cases) {
-        Load(3, c.text);
-        EXPECT_EQ(mm_register_table(2).protcol_event_max, c.events) << c.text;
-        EXPECT_EQ(reg_data[2].register_protcol_max, c.commands) << c.text;
-        EXPECT_STREQ(mm_register_table(2).name, c.name) << c.text;
+    for (const auto& [text, name, events, commands] : cases) {
+        Load(3, text);
+        EXPECT_EQ(mm_register_table(2).protcol_event_max, events) << text;
+        EXPECT_EQ(reg_data[2].register_protcol_max, commands) << text;
+        EXPECT_STREQ(mm_register_table(2).name, name) << text;
     }
     EXPECT_EQ(mm_register_interval(2), 700);
     std::string many;
@@ -318,7 +302,7 @@ TEST_F(MenuMacro, ATransferCopyBecomesTheRegisterUnderItsNameOnTheDrive)
     Write(TRANSFER, 1, "Event:put A#1\n");
     EXPECT_EQ(mm_macro_tmpfile_load(src, first), 0);
     EXPECT_EQ(mm_macro_tmpfile_save(first), 0);
-    EXPECT_THAT(FileText(std::string(TRANSFER) + "mm_reg01.tmp"), HasSubstr("Header:SHOW,0,1\n"));
+    EXPECT_THAT(FileText(Path(TRANSFER, 1)), HasSubstr("Header:SHOW,0,1\n"));
     mm_lock_exec(5, 5, true);
     EXPECT_EQ(mm_macro_tmpfile_load(src, tmp), -1) << "locked";
     mm_lock_exec(5, 5, false);
@@ -365,7 +349,7 @@ TEST_F(MenuMacro, ARunStopsInAPauseAndGoesOnThere)
     EXPECT_EQ(mm_current_macro_status().event, 0) << "rewound";
 }
 
-TEST_F(MenuMacro, ARunGoesOnUnderPagesWindowsAndTheSaver)
+TEST_F(MenuMacro, ARunHoldsForNothingButALinkThatIsDown)
 {
     Load(2, "Interval:100\nEvent:put A#1\nEvent:put B#2\nEvent:put C#3\nEvent:put D#4\n");
     mm_macro_run(2);
@@ -378,16 +362,12 @@ TEST_F(MenuMacro, ARunGoesOnUnderPagesWindowsAndTheSaver)
     GL_ScreenSaver_Now = 1;
     EXPECT_EQ(Run(100), Lines{"50:put D#4"});
     GL_ScreenSaver_Now = 0;
-}
 
-TEST_F(MenuMacro, WhileTheLinkIsDownARunHolds)
-{
-    Load(2, "Interval:100\nEvent:put A#1\nEvent:put B#2\nEvent:put C#3\n");
     mm_macro_run(2);
     for (int i = 0; i < 100; i++)
         Pass(100); // nobody takes what is queued
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put A#1"));
-    EXPECT_THAT(Run(1000), ElementsAre("90:put B#2", "100:put C#3")) << "no burst";
+    EXPECT_THAT(Run(1000), ElementsAre("90:put B#2", "100:put C#3", "100:put D#4")) << "no burst";
     mm_macro_run(2);
     Pass(10);
     MM_macro_ext_stop();
@@ -402,8 +382,7 @@ TEST_F(MenuMacro, ALocalActionMayBeginAnotherRun)
     Load(2, "Interval:100\nEvent:put A#1\nLocal:LOCAL@Menu Macro@Register@Exec@Recall_Run\n"
             "Contnue:put B#2\n");
     (void)Open(EXEC);
-    LS_SetNowLine(1, 2);
-    LS_SetSelected(1, 2, 0, 1);
+    Cursor(1, 2);
     mm_macro_run(2);
     EXPECT_THAT(Run(1000), ElementsAre("0:put A#1", HasSubstr(":put C#3")));
 }
@@ -432,44 +411,34 @@ TEST_F(MenuMacro, TheEditorEditsAndStores)
     EXPECT_STREQ(LS_GetData(1, 2, 3), "C#3");
     (void)Press(BTN_MENU_MACRO_EVENT); // single commands
     LS_SetNowLine(1, 0);
-    Pass(200);
-    (void)Press(DELETE_KEY);
+    (void)Puts(DELETE_KEY);
     EXPECT_THAT(Recorded(), ElementsAre("put B#2\n", "put C#3\n"));
-    Pass(200);
-    (void)Press(BTN_MENU_MACRO_EVENT);
+    (void)Puts(BTN_MENU_MACRO_EVENT);
     (void)Press(PAUSE_SET);
     EXPECT_THAT(Recorded(), ElementsAre("put B#2\n", "Event@Pause Set#0.5\n", "put C#3\n"));
     Sends({"put X#9"});
-    Pass(200);
     LS_SetNowLine(1, 2);
-    Pass(10);
-    (void)Press(MODIFY);
+    (void)Puts(MODIFY);
     EXPECT_THAT(Recorded(), ElementsAre("put B#2\n", "Event@Pause Set#0.5\n", "put X#9\n"));
     (void)Press(BEFORE);
     LS_SetNowLine(1, 0);
-    Pass(200);
-    (void)Press(BEFORE);
+    (void)Puts(BEFORE);
     EXPECT_EQ(Recorded().front(), "put X#9\n");
     EXPECT_EQ(File(1).find("put X"), std::string::npos);
     (void)Press(STORE);
     EXPECT_EQ(Events(reg_data[0].register_data), Recorded());
     EXPECT_THAT(File(1), HasSubstr("Event:put X#9\n"));
     (void)Tell("Panel@Common@Knob0#1"); // register 2
-    Pass(200);
-    (void)Press(STORE);
+    (void)Puts(STORE);
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "locked";
     CloseWindow();
-    Pass(200);
-    (void)Press(BTN_MENU_MACRO_ALL);
-    Pass(200);
-    (void)Press(DELETE_KEY);
+    (void)Puts(BTN_MENU_MACRO_ALL);
+    (void)Puts(DELETE_KEY);
     EXPECT_THAT(Recorded(), IsEmpty());
-    Pass(200);
-    (void)Press(EXIT);
+    (void)Puts(EXIT);
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "not stored";
     EXPECT_EQ(GL_MenuMacro_Edit, 1);
-    Window_ReserveQuit(0);
-    Pass(10);
+    (void)Confirm();
     EXPECT_EQ(GL_MenuMacro_Edit, 0);
     EXPECT_EQ(GL_CreatePage, 0x54310000u);
 }
@@ -479,8 +448,7 @@ TEST_F(MenuMacro, TheFileMenuLeadsToTheEditorOfItsRow)
     Load(7, "Event:put A#1\n");
     (void)Open(0x71440001);
     EXPECT_STREQ(LS_GetData(1, 6, 0), "7"); // files count from 0, the operator does not
-    LS_SetNowLine(1, 6);
-    LS_SetSelected(1, 6, 0, 1);
+    Cursor(1, 6);
     (void)Press(BTN_FILE_EDIT);
     ASSERT_EQ(GL_CreatePage, EDIT);
     (void)Open(GL_CreatePage);
@@ -501,16 +469,14 @@ TEST_F(MenuMacro, TheRegisterPagesWorkOnListAndFile)
     EXPECT_THAT(File(5), HasSubstr("Event:put A#1\n"));
     mm_lock_exec(2, 2, true);
     LS_SetNowLine(2, 1);
-    Pass(200);
-    (void)Press(49);
+    (void)Puts(49);
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "locked";
     EXPECT_STREQ(mm_register_table(1).name, "TWO");
     CloseWindow();
     (void)Open(DELETE);
     LS_SetNowLine(1, 0);
     (void)Press(49);
-    Window_ReserveQuit(0);
-    Pass(10);
+    (void)Confirm();
     EXPECT_EQ(mm_register_table(0).empty, 1);
     EXPECT_STREQ(mm_register_table(0).name, "MMCR1");
     EXPECT_EQ(File(1), "") << "it would be back after a restart";
@@ -536,8 +502,7 @@ TEST_F(MenuMacro, TheFirstPageRecallsRunsAndStops)
     (void)Press(RUN);
     EXPECT_THAT(Run(500), ElementsAre(HasSubstr("put A#1")));
     (void)Press(STOP);
-    Pass(200);
-    (void)Press(REWIND);
+    (void)Puts(REWIND);
     (void)Press(RUN);
     EXPECT_THAT(Run(500), ElementsAre(HasSubstr("put A#1")));
     (void)Press(RECALL_RUN);
@@ -558,19 +523,16 @@ TEST_F(MenuMacro, TheIntervalPageWritesWhatWasTurnedOnce)
         Pass(10);
         return Shown("Interval\nseconds");
     };
-    const auto strip = [] {
-        Pass(10);
-        return PixelsIn({100, 352, 590, 412});
-    };
+    constexpr Rect STRIP = {100, 352, 590, 412};
     EXPECT_EQ(at(0), "0.3");
-    const auto one = strip();
+    const auto one = Seen(STRIP);
     EXPECT_EQ(at(1), "0.7");
-    EXPECT_NE(strip(), one);
+    EXPECT_NE(Seen(STRIP), one);
     EXPECT_EQ(at(0), "0.3");
     const std::string before = File(1);
     for (const double seconds : {0.4, 0.5})
         SendMessage(LMSG_KNOBFVAR, 1, Arg(&seconds), 0, 0);
-    EXPECT_NE(strip(), one);
+    EXPECT_NE(Seen(STRIP), one);
     EXPECT_EQ(File(1), before) << "not for every step";
     EXPECT_EQ(at(1), "0.7");
     EXPECT_THAT(File(1), HasSubstr("Interval:500\n"));

@@ -1,11 +1,9 @@
 // The pages of the effects and shotboxes: what goes over the wire for every kind and every key, and
 // what the lists show of the mirror.
 #include "a_bt.h"
-#include "a_ls.h"
 #include "pc_effect.h"
 #include "pc_shotbox.h"
 #include "table_page.h"
-#include "window.h"
 #include <cstring>
 #include <map>
 
@@ -22,27 +20,15 @@ struct EffectPages : TablePage {
     static void Open3To5(uint32_t page) // from register 3 to register 5, where there are two lists
     {
         Open(page);
-        LS_SetNowLine(1, 2);
-        LS_SetSelected(1, 2, 0, 1);
+        Cursor(1, 2);
         LS_SetNowLine(2, 4);
-        Pass(10);
-    }
-    static Lines Puts(int id) { return TablePage::Puts(Press(id)); }
-    static std::string Cell(int list, int row, int column)
-    {
-        const char* const text = LS_GetData(list, row, column);
-        return text ? text : "";
     }
 };
 } // namespace
 
 TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
 {
-    static const struct {
-        uint32_t page;
-        int button;
-        const char* command;
-    } cases[] = {
+    static const std::tuple<uint32_t, int, const char*> cases[] = {
         {0x62110000, 49, "put Master@Effect@Recall@Recall#3"},
         {0x62110000, 50, "put Effect@Master Timeline@Store/Recall@Store#3"},
         {0x62120000, 50, "put Effect@Master Timeline@Lock@Lock#3,3,true"},
@@ -57,10 +43,9 @@ TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
         {0x64120000, 50, "put Shotbox@Register@Lock#3,3"},
         {0x64130000, 49, "put Shotbox@Register@Copy#3,3,5,false"},
     };
-    for (const auto& c : cases) {
-        Open3To5(c.page);
-        EXPECT_THAT(Puts(c.button), ElementsAre(c.command))
-            << std::hex << c.page << " " << c.button;
+    for (const auto& [page, button, command] : cases) {
+        Open3To5(page);
+        EXPECT_THAT(Puts(button), ElementsAre(command)) << std::hex << page << " " << button;
     }
 }
 
@@ -71,20 +56,16 @@ TEST_F(EffectPages, AnEffectShowsItsStateAndWhichRegionsHoldIt)
     Deliver(EFFECTS + "Dev1", "3,S,ROLL,U,N,0");
     Deliver(EFFECTS + "DME1", "203,S,PAGE,U,D,7");
     Deliver(EFFECTS + "DME5", "303,S,CUBE,L,N,0"); // of the other group than the list's
-    static const struct {
-        uint32_t page;
-        std::vector<std::string> cells; // from the name on
-    } cases[] = {
-        {0x62210000, {"OPENING", "L", "45", "O", "", "O", "O", "", "", ""}},
-        {0x62310000, {"", "", "", ""}},
-        {0x62410000, {"PAGE", "", "7", "O"}},
-        {0x62510000, {"", "", "", "O"}},
-        {0x62610000, {"", "", "", "O", ""}},
-    };
-    for (const auto& c : cases) {
-        Open(c.page);
-        for (size_t i = 0; i < c.cells.size(); i++)
-            EXPECT_EQ(Cell(1, 2, int(i) + 1), c.cells[i]) << std::hex << c.page << " " << i;
+    static const std::tuple<uint32_t, int, const char*> cases[] = {
+        // cells from the name on
+        {0x62210000, 10, "OPENING|L|45|O||O|O|||"},
+        {0x62310000, 4, "|||"},
+        {0x62410000, 4, "PAGE||7|O"},
+        {0x62510000, 4, "|||O"},
+        {0x62610000, 5, "|||O|"}};
+    for (const auto& [page, columns, cells] : cases) {
+        Open(page);
+        EXPECT_EQ(Cells(1, 2, 1, columns), cells) << std::hex << page;
     }
     Open(0x62310000); // registers of a run of channels
     EXPECT_EQ(Caption(BTN_REGISTER_REGION), "Region\nDME\n1-4ch");
@@ -105,29 +86,27 @@ TEST_F(EffectPages, AnEmptyEffectCountsItsOtherRegionsWhileSeveralAreChosen)
 
 TEST_F(EffectPages, ADissolveTakesTheTimeOfTheKnobAndALockKeepsItsOwn)
 {
-    static const struct {
-        const char* line;
-        int knob;
-        const char* value; // of the command, "" none
-    } cases[] = {
+    static const std::tuple<std::string, int, const char*> cases[] = {
+        // of the command, or none
         {"3,S,A,U,N,0", 30, "true,30"},   {"3,S,A,U,D,20", 30, "true,30"},
         {"3,S,A,U,D,30", 30, "false,30"}, {"3,S,A,U,D,20", 0, "false,20"},
         {"3,S,A,U,D,20", 1, "true,1"},    {"3,S,A,L,N,0", 30, ""},
     };
     Open3To5(0x62210000);
-    for (const auto& c : cases) {
-        Deliver(EFFECTS + "M/E-1", c.line);
-        Deliver("Effect@Effect@Attribute@Temporary Duration@M/E-1", std::to_string(c.knob));
+    for (const auto& [line, knob, value] : cases) {
+        Deliver(EFFECTS + "M/E-1", line);
+        Deliver("Effect@Effect@Attribute@Temporary Duration@M/E-1", std::to_string(knob));
         Pass(10);
-        EXPECT_EQ(BT_GetStatus(BTN_EFFECT_DISSOLVE) == BT_ON, strstr(c.line, ",D,") != nullptr);
+        EXPECT_EQ(BT_GetStatus(BTN_EFFECT_DISSOLVE) == BT_ON,
+                  line.find(",D,") != std::string::npos);
         const Lines sent = Puts(BTN_EFFECT_DISSOLVE);
-        if (!*c.value)
-            EXPECT_THAT(sent, IsEmpty()) << c.line;
+        if (!*value)
+            EXPECT_THAT(sent, IsEmpty()) << line;
         else
             EXPECT_THAT(sent, ElementsAre("put Effect@Effect@Attribute@Effect Dissolve#"
                                           "0000000000000002,3,3," +
-                                          std::string(c.value)))
-                << c.line;
+                                          std::string(value)))
+                << line;
     }
 }
 
@@ -147,13 +126,8 @@ TEST_F(EffectPages, AShotboxShowsWhatItLinks)
         line += "," + one;
     Deliver(SHOTS, line);
     Open(0x64110000);
-    const std::vector<std::string> cells = {"INTRO", "L", "On",  "1", "S12", "...", "", "",
-                                            "",      "5", "...", "",  "",    "",    "", "S8"};
-    for (size_t i = 0; i < cells.size(); i++)
-        EXPECT_EQ(Cell(1, 2, int(i) + 1), cells[i]) << i;
-    LS_SetNowLine(1, 2);
-    LS_SetSelected(1, 2, 0, 1);
-    Pass(10);
+    EXPECT_EQ(Cells(1, 2, 1, 16), "INTRO|L|On|1|S12|...||||5|...|||||S8");
+    Cursor(1, 2);
     EXPECT_EQ(BT_GetStatus(BTN_SHOTBOX_AUTO_RUN), BT_ON);
     EXPECT_THAT(Puts(BTN_SHOTBOX_AUTO_RUN), IsEmpty()); // it is locked
     EXPECT_THAT(Puts(50), IsEmpty());

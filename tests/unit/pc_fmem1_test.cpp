@@ -40,10 +40,11 @@ struct FrameMemoryPage : FramePage {
         }
         return rows;
     }
-    static Lines PressLater(int id) // a second touch would be the first one's tremble
+    static Lines Headed(const std::string& head, Lines lines)
     {
-        Pass(1000);
-        return Puts(Press(id));
+        for (std::string& line : lines)
+            line.insert(0, head);
+        return lines;
     }
 };
 } // namespace
@@ -58,7 +59,7 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
     EXPECT_THAT(List(), ElementsAre("20|beach|M|", "1|logo|M|S", "*4|title||S", "*3|zebra|M|"));
     Tell("Frame Mem@Folder@Move Still#0,Stitle,2");
     EXPECT_THAT(List(), ElementsAre("20|beach|M|", "1|logo|M|S", "*3|zebra|M|"));
-    PressLater(BTN_FMEM1_FOLDER);
+    Puts(BTN_FMEM1_FOLDER);
     Quit(2);
     EXPECT_EQ(Caption(BTN_FMEM1_FOLDER), "News");
     EXPECT_THAT(List(), ElementsAre(HasSubstr("4|title||S")));
@@ -68,12 +69,10 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
     EXPECT_THAT(List(), ElementsAre("*6|run|3|2"));
 }
 
-TEST_F(FrameMemoryPage, KeysWorkOnWhatIsSelected)
+TEST_F(FrameMemoryPage, KeysAndTabsAreThereForWhatIsSelectedAndInstalled)
 {
-    static const struct {
-        uint32_t page;
-        std::vector<int> rows, usable;
-    } cases[] = {
+    static const std::tuple<uint32_t, std::vector<int>, std::vector<int>> cases[] = {
+        // rows that are selected, keys that can be used
         {STILL_FILES, {}, {}},
         {STILL_FILES,
          {0},
@@ -89,11 +88,11 @@ TEST_F(FrameMemoryPage, KeysWorkOnWhatIsSelected)
     };
     const std::vector<int> keys = {BTN_FMEM1_RENAME, BTN_FMEM1_DELETE,   BTN_FMEM1_MOVE,
                                    BTN_FMEM1_COUPLE, BTN_FMEM1_SEPARATE, BTN_FMEM1_ANCILLARY};
-    for (const auto& c : cases) {
-        Open(c.page);
-        Select(1, c.rows);
-        SendMessage(LMSG_LISTSEL, 1, c.rows.empty() ? 0 : c.rows.back(), 0, 0);
-        EXPECT_EQ(Usable(keys), c.usable) << testing::PrintToString(c.rows);
+    for (const auto& [page, rows, usable] : cases) {
+        Open(page);
+        Select(1, rows);
+        SendMessage(LMSG_LISTSEL, 1, rows.empty() ? 0 : rows.back(), 0, 0);
+        EXPECT_EQ(Usable(keys), usable) << testing::PrintToString(rows);
     }
     // Without a switcher, or with one folder only, nothing can be sent anywhere.
     const std::vector<int> places = {BTN_FMEM1_RECALL_A, BTN_FMEM1_RECALL_B, BTN_FMEM1_MOVE,
@@ -109,6 +108,14 @@ TEST_F(FrameMemoryPage, KeysWorkOnWhatIsSelected)
     EXPECT_EQ(Usable(places), std::vector<int>{});
     Open(STILLS);
     EXPECT_EQ(Usable(places), std::vector<int>({BTN_FMEM1_RECALL_A, BTN_FMEM1_RECALL_B}));
+    for (const int v6 : {0, 1}) {
+        SYS_FmemV6 = v6;
+        Open(STILL_FILES);
+        GL_CreatePage = 0;
+        Touch(97 + 2 * 86 + 40, 560);
+        EXPECT_EQ(GL_CreatePage, v6 ? 0x25130000u : 0u);
+    }
+    GL_CreatePage = 0;
 }
 
 TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
@@ -148,26 +155,10 @@ TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
                                        "remove " + path + "FM8"}));
 }
 
-TEST_F(FrameMemoryPage, AnOldFrameMemoryHasNoTabOfFolders)
-{
-    for (const int v6 : {0, 1}) {
-        SYS_FmemV6 = v6;
-        Open(STILL_FILES);
-        GL_CreatePage = 0;
-        Touch(97 + 2 * 86 + 40, 560);
-        EXPECT_EQ(GL_CreatePage, v6 ? 0x25130000u : 0u);
-    }
-    GL_CreatePage = 0;
-}
-
 TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
 {
-    static const struct {
-        int row;
-        bool is_pair;
-        int key;
-        Lines lines;
-    } cases[] = {
+    static const std::tuple<int, bool, int, Lines> cases[] = {
+        // row, as a pair, key, lines
         {0, false, BTN_FMEM1_RECALL_A, {"FM3#Mlogo"}},
         {0, false, BTN_FMEM1_RECALL_B, {"FM4#Slogo"}},
         {1, false, BTN_FMEM1_RECALL_B, {"FM4#Mpic"}},
@@ -176,36 +167,33 @@ TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
         {1, true, BTN_FMEM1_RECALL_A, {"FM3#Mpic"}},
     };
     bool is_pair_on = false;
-    for (const auto& c : cases) {
+    for (const auto& [row, is_pair, key, lines] : cases) {
         Open(STILLS);
         Tell(RECALL.substr(4) + "Select#FM3&4");
         EXPECT_EQ(Caption(BTN_FMEM1_RECALL_A) + Caption(BTN_FMEM1_RECALL_B),
                   "Recall\nFM3Recall\nFM4");
         EXPECT_EQ(Caption(BTN_FMEM1_OUT), "FM3-FM4");
-        LS_SetNowLine(1, c.row);
-        if (c.is_pair != is_pair_on)
-            PressLater(BTN_FMEM1_PAIR);
-        is_pair_on = c.is_pair;
-        Lines wanted;
-        for (const std::string& line : c.lines)
-            wanted.push_back(RECALL + line);
-        EXPECT_EQ(PressLater(c.key), wanted) << c.row << c.is_pair;
+        LS_SetNowLine(1, row);
+        if (is_pair != is_pair_on)
+            Puts(BTN_FMEM1_PAIR);
+        is_pair_on = is_pair;
+        EXPECT_EQ(Puts(key), Headed(RECALL, lines)) << row << is_pair;
     }
     EXPECT_EQ(Usable({BTN_FMEM1_RECALL_B}), std::vector<int>{}); // the pair takes both outputs
     EXPECT_EQ(BT_GetStatus(BTN_FMEM1_PAIR), BT_ON);
-    PressLater(BTN_FMEM1_PAIR);
+    Puts(BTN_FMEM1_PAIR);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM1_PAIR), BT_OFF);
-    PressLater(BTN_FMEM1_OUT);
+    Puts(BTN_FMEM1_OUT);
     EXPECT_THAT(Quit(0), IsEmpty()); // "Cancel"
-    PressLater(BTN_FMEM1_OUT);
+    Puts(BTN_FMEM1_OUT);
     EXPECT_THAT(Quit(4), ElementsAre(RECALL + "Select#FM7&8"));
     // Of a clip the frame that is shown.
     Open(CLIPS);
-    PressLater(BTN_FMEM1_FORWARD);
-    PressLater(BTN_FMEM1_FORWARD); // the last one already
-    EXPECT_THAT(PressLater(BTN_FMEM1_RECALL_A), ElementsAre(RECALL + "FM3#Mrun0003"));
-    PressLater(BTN_FMEM1_BACK);
-    EXPECT_THAT(PressLater(BTN_FMEM1_RECALL_A), ElementsAre(RECALL + "FM3#Mrun0002"));
+    Puts(BTN_FMEM1_FORWARD);
+    Puts(BTN_FMEM1_FORWARD); // the last one already
+    EXPECT_THAT(Puts(BTN_FMEM1_RECALL_A), ElementsAre(RECALL + "FM3#Mrun0003"));
+    Puts(BTN_FMEM1_BACK);
+    EXPECT_THAT(Puts(BTN_FMEM1_RECALL_A), ElementsAre(RECALL + "FM3#Mrun0002"));
 }
 
 TEST_F(FrameMemoryPage, DeletionAsksAndTakesAllFramesThatAreStillThere)
@@ -217,14 +205,14 @@ TEST_F(FrameMemoryPage, DeletionAsksAndTakesAllFramesThatAreStillThere)
     EXPECT_EQ(Usable({BTN_FMEM1_DELETE, BTN_FMEM1_MOVE, BTN_FMEM1_RENAME}), std::vector<int>{});
     Select(1, {0, 1});
     SendMessage(LMSG_LISTSEL, 1, 0, 0, 0);
-    PressLater(BTN_FMEM1_DELETE);
+    Puts(BTN_FMEM1_DELETE);
     EXPECT_THAT(Message(), HasSubstr("which is being used"));
     EXPECT_THAT(Quit(2), Not(Contains(HasSubstr("Delete"))));
-    PressLater(BTN_FMEM1_DELETE);
+    Puts(BTN_FMEM1_DELETE);
     Tell("16@Frame Mem@Status@File Name Sense#3,0,"); // gone while the operator thinks
     EXPECT_THAT(Quit(1), ElementsAre(DELETE + "Mlogo", DELETE + "Slogo"));
     Open(CLIP_FILES);
-    PressLater(BTN_FMEM1_DELETE);
+    Puts(BTN_FMEM1_DELETE);
     EXPECT_THAT(Message(), HasSubstr("cause the data to be"));
     EXPECT_THAT(Quit(1), ElementsAre(DELETE + "Mrun0001", DELETE + "Mrun0002", DELETE + "Mrun0003",
                                      DELETE + "Srun0002", DELETE + "Srun0003"));
@@ -234,43 +222,34 @@ TEST_F(FrameMemoryPage, NamesKeepTheirSideAndFrame)
 {
     Store({"Mgo0001", "Mgo0002"}, 30);
     Pass(10);
-    static const struct {
-        uint32_t page;
-        int row;
-        int key;
-        const char* text;
-        Lines lines;
-        const char* says;
-    } cases[] = {
-        {STILL_FILES, 0, BTN_FMEM1_RENAME, "sky", {"Mlogo,Msky", "Slogo,Ssky"}, "no pane"},
-        {STILL_FILES, 2, BTN_FMEM1_RENAME, "sky", {"Stitle,Ssky"}, "no pane"},
-        {STILL_FILES, 0, BTN_FMEM1_RENAME, "logo", {}, "no pane"},
-        {STILL_FILES, 1, BTN_FMEM1_RENAME, "logo", {}, "already existing"},
-        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "key", {"Slogo,Skey"}, "no pane"},
-        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "pic", {}, "already existing"},
-        {STILL_FILES, 1, BTN_FMEM1_RENAME, "abcdefghi", {"Mpic,Mabcdefgh"}, "no pane"},
-        {STILL_FILES, 0, BTN_FMEM1_RENAME, "", {}, "Empty"},
-        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "", {}, "Empty"},
-        {CLIP_FILES, 1, BTN_FMEM1_RENAME, "go", {}, "already existing"},
-        {CLIP_FILES, 1, BTN_FMEM1_RENAME, "run", {}, "no pane"},
+    static const std::tuple<uint32_t, int, int, const char*, const char*, Lines> cases[] = {
+        // page, row, key, what is typed, what a pane says, lines
+        {STILL_FILES, 0, BTN_FMEM1_RENAME, "sky", "no pane", {"Mlogo,Msky", "Slogo,Ssky"}},
+        {STILL_FILES, 2, BTN_FMEM1_RENAME, "sky", "no pane", {"Stitle,Ssky"}},
+        {STILL_FILES, 0, BTN_FMEM1_RENAME, "logo", "no pane", {}},
+        {STILL_FILES, 1, BTN_FMEM1_RENAME, "logo", "already existing", {}},
+        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "key", "no pane", {"Slogo,Skey"}},
+        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "pic", "already existing", {}},
+        {STILL_FILES, 1, BTN_FMEM1_RENAME, "abcdefghi", "no pane", {"Mpic,Mabcdefgh"}},
+        {STILL_FILES, 0, BTN_FMEM1_RENAME, "", "Empty", {}},
+        {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "", "Empty", {}},
+        {CLIP_FILES, 1, BTN_FMEM1_RENAME, "go", "already existing", {}},
+        {CLIP_FILES, 1, BTN_FMEM1_RENAME, "run", "no pane", {}},
         {CLIP_FILES,
          1,
          BTN_FMEM1_RENAME,
          "jumped",
+         "no pane",
          {"Mrun0001,Mjump0001", "Mrun0002,Mjump0002", "Mrun0003,Mjump0003", "Srun0002,Sjump0002",
-          "Srun0003,Sjump0003"},
-         "no pane"},
+          "Srun0003,Sjump0003"}},
     };
-    for (const auto& c : cases) {
-        Open(c.page);
-        LS_SetNowLine(1, c.row);
-        SendMessage(LMSG_LISTSEL, 1, c.row, 0, 0);
-        PressLater(c.key);
-        Lines wanted;
-        for (const std::string& line : c.lines)
-            wanted.push_back(RENAME + line);
-        EXPECT_EQ(Puts(Enter(c.text)), wanted) << c.text;
-        EXPECT_THAT(Message(), HasSubstr(c.says)) << c.text;
+    for (const auto& [page, row, key, text, says, lines] : cases) {
+        Open(page);
+        LS_SetNowLine(1, row);
+        SendMessage(LMSG_LISTSEL, 1, row, 0, 0);
+        Puts(key);
+        EXPECT_EQ(Puts(Enter(text)), Headed(RENAME, lines)) << text;
+        EXPECT_THAT(Message(), HasSubstr(says)) << text;
         while (Pane_GetActiveID())
             Pane_Quit(Pane_GetActiveID());
     }
@@ -282,21 +261,21 @@ TEST_F(FrameMemoryPage, TwoSidesBecomeAPairAndFoldersTakeEveryFrame)
     EXPECT_EQ(Usable({BTN_FMEM1_COUPLE, BTN_FMEM1_SEPARATE}), std::vector<int>{BTN_FMEM1_SEPARATE});
     Select(1, {1, 2});
     SendMessage(LMSG_LISTSEL, 1, 2, 0, 0);
-    EXPECT_THAT(PressLater(BTN_FMEM1_COUPLE), ElementsAre(RENAME + "Stitle,Spic"));
+    EXPECT_THAT(Puts(BTN_FMEM1_COUPLE), ElementsAre(RENAME + "Stitle,Spic"));
     Open(CLIP_FILES);
-    PressLater(BTN_FMEM1_MOVE);
+    Puts(BTN_FMEM1_MOVE);
     EXPECT_THAT(Quit(2), ElementsAre(MOVE + "Mrun0001,2", MOVE + "Mrun0002,2", MOVE + "Mrun0003,2",
                                      MOVE + "Srun0002,2", MOVE + "Srun0003,2"));
-    PressLater(BTN_FMEM1_MOVE);
+    Puts(BTN_FMEM1_MOVE);
     EXPECT_THAT(Quit(0), IsEmpty()); // "Cancel"
-    PressLater(BTN_FMEM1_MOVE);
+    Puts(BTN_FMEM1_MOVE);
     EXPECT_THAT(Quit(1), Contains(MOVE + "Mrun0001,0"));
-    EXPECT_THAT(PressLater(BTN_FMEM1_ANCILLARY),
+    EXPECT_THAT(Puts(BTN_FMEM1_ANCILLARY),
                 ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,1"));
     Tell("Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,1");
     (void)List();
     EXPECT_EQ(BT_GetStatus(BTN_FMEM1_ANCILLARY), BT_ON);
-    EXPECT_THAT(PressLater(BTN_FMEM1_ANCILLARY),
+    EXPECT_THAT(Puts(BTN_FMEM1_ANCILLARY),
                 ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mrun,0"));
 }
 
@@ -304,28 +283,28 @@ TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
 {
     const std::string freeze = "Frame Mem@Edit@Freeze@Freeze@Field@PROC2#";
     Open(FREEZE_PAGE);
-    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1),
+    EXPECT_THAT(Puts(BTN_FMEM1_STORE1),
                 ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC1#10,Mimage")));
-    EXPECT_THAT(PressLater(BTN_FMEM1_STORE2),
+    EXPECT_THAT(Puts(BTN_FMEM1_STORE2),
                 ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC2#10,Mimage")));
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty()); // somebody else's, and not asked for
     Tell(freeze + "false");
-    PressLater(BTN_FMEM1_AUTO_STORE);
+    Puts(BTN_FMEM1_AUTO_STORE);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM1_AUTO_STORE), BT_ON);
-    EXPECT_THAT(PressLater(20), ElementsAre("put " + freeze + "true"));
+    EXPECT_THAT(Puts(20), ElementsAre("put " + freeze + "true"));
     EXPECT_THAT(Tell(freeze + "true"), ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC2#")));
-    PressLater(20);
+    Puts(20);
     EXPECT_THAT(Tell(freeze + "false"), IsEmpty());
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty());
     Tell("16@Frame Mem@Status@File Name Sense#1,0,");
-    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1), ElementsAre(HasSubstr("PROC1#1,Mimage")));
+    EXPECT_THAT(Puts(BTN_FMEM1_STORE1), ElementsAre(HasSubstr("PROC1#1,Mimage")));
     Store({"Mlogo"});
     Tell("16@Frame Mem@Status@Max Register#9"); // all of them hold something
-    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1), IsEmpty());
+    EXPECT_THAT(Puts(BTN_FMEM1_STORE1), IsEmpty());
     EXPECT_THAT(Message(), HasSubstr("no empty register"));
     Pane_Quit(Pane_GetActiveID());
     Tell("Frame Mem@Status@Extended Capacity#1");
-    EXPECT_THAT(PressLater(BTN_FMEM1_STORE1), ElementsAre(HasSubstr("PROC1#16385,Mimage")));
+    EXPECT_THAT(Puts(BTN_FMEM1_STORE1), ElementsAre(HasSubstr("PROC1#16385,Mimage")));
     Tell("Frame Mem@Status@Extended Capacity#0");
 }
 
@@ -333,41 +312,29 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
 {
     constexpr uint32_t HDD = 0x25620000;
     const std::string PATH = "16@Frame Mem@External HDD@";
-    const auto answer = [](int result) {
-        const int pane = Pane_GetActiveID();
-        ASSERT_NE(pane, 0);
-        (void)Pane_Quit(pane);
-        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
-    };
     Open(HDD);
-    const auto seen = [](const Rect& part) {
-        Pass(10);
-        return PixelsIn(part);
-    };
     constexpr Rect state = {112, 124, 480, 186}, pane = {200, 140, 599, 459};
-    const auto ready = seen(state);
+    const auto ready = Seen(state);
     Tell(PATH + "Busy#true");
-    EXPECT_NE(seen(state), ready);
+    EXPECT_NE(Seen(state), ready);
     Tell(PATH + "Busy#false");
-    EXPECT_EQ(seen(state), ready);
-    EXPECT_THAT(PressLater(BTN_FMEM1_HDD_LOAD), IsEmpty());
-    answer(2); // "No"
+    EXPECT_EQ(Seen(state), ready);
+    EXPECT_THAT(Puts(BTN_FMEM1_HDD_LOAD), IsEmpty());
+    Quit(2); // "No"
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
-    (void)PressLater(BTN_FMEM1_HDD_SAVE);
-    (void)TakeQueuedCommands();
-    answer(1);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + PATH + "Save#true"));
+    (void)Puts(BTN_FMEM1_HDD_SAVE);
+    EXPECT_THAT(Quit(1), ElementsAre("put " + PATH + "Save#true"));
     Tell(PATH + "Busy#true");
-    const auto begun = seen(pane);
+    const auto begun = Seen(pane);
     Tell("32@Frame Mem@External HDD@Progress#60");
-    EXPECT_EQ(seen(pane), begun) << "another one's";
+    EXPECT_EQ(Seen(pane), begun) << "another one's";
     Tell(PATH + "Progress#60");
-    EXPECT_NE(seen(pane), begun);
+    EXPECT_NE(Seen(pane), begun);
     Tell("32@Frame Mem@External HDD@Busy#false"); // another one's
     BkgdHDDTransfer_PaneQuit();
     Open(STILLS); // the top of its tab, which says why
     EXPECT_TRUE(Page && Page->id == 0x25100000);
-    answer(0);
+    Quit(0);
     EXPECT_EQ(Pane_GetActiveID(), 0);
     Open(HDD); // the pane is back
     EXPECT_NE(Pane_GetActiveID(), 0);
@@ -375,19 +342,16 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     EXPECT_EQ(Pane_GetActiveID(), 0);
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
 
-    (void)PressLater(BTN_FMEM1_HDD_LOAD);
-    answer(1);
+    (void)Puts(BTN_FMEM1_HDD_LOAD);
+    Quit(1);
     Pass(4000);
-    (void)TakeQueuedCommands();
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
     Pass(2000); // nobody has begun
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
     EXPECT_NE(Pane_GetActiveID(), 0); // says so
-    answer(0);
-    (void)PressLater(BTN_FMEM1_HDD_LOAD);
-    answer(1);
-    (void)TakeQueuedCommands();
-    answer(1); // "Cancel"
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + PATH + "Cancel#true"));
+    Quit(0);
+    (void)Puts(BTN_FMEM1_HDD_LOAD);
+    Quit(1);
+    EXPECT_THAT(Quit(1), ElementsAre("put " + PATH + "Cancel#true")); // "Cancel"
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
 }

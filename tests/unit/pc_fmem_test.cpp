@@ -2,8 +2,8 @@
 // the hub, what is refused, and what a queue of file operations does one after another.
 #include "a_ff_private.h"
 #include "a_fm.h"
+#include "clip_store.h"
 #include "display.h"
-#include "fmctrl3.h"
 #include "netio.h"
 #include "page_table/fmem_clip.h"
 #include "pane.h"
@@ -11,25 +11,15 @@
 #include "pc_fmem.h"
 #include "table_page.h"
 #include "tdl.h"
-#include "text.h"
-#include "window.h"
-#include <utility>
 
 namespace
 {
-const std::string TREE = FM_TREE;
+const std::string TREE = FM_TREE, PUT = "put " + TREE;
 
-struct ClipPages : TablePage {
-    DEVICE* first_switcher = nullptr;
-    int switchers = 0;
-
+struct ClipPages : ClipStoreTest<TablePage> {
     void SetUp() override
     {
-        TablePage::SetUp();
-        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
-        switchers = std::exchange(SYS_MySwrMax, 1);
-        CopyText(DEV_Swr[0].id, "SWR000D001");
-        FMCtrl3_Init();
+        ClipStoreTest::SetUp();
         for (const char* folder :
              {"NEWS", "NEWS/A", "NEWS/A/B", "NEWS/A/B/C", "SPORT", "TALL", "TALL/ER"})
             Folder(folder);
@@ -43,38 +33,16 @@ struct ClipPages : TablePage {
             (void)Tell(TREE + "Play@FM" + std::to_string(n + 1) + "#0,0,0,0");
         }
     }
-    void TearDown() override
-    {
-        FMCtrl3_Finalize();
-        DEV_MySwr[0] = first_switcher;
-        SYS_MySwrMax = switchers;
-        TablePage::TearDown();
-    }
-    static void Hub(const std::string& verb, const std::string& table, const std::string& row)
-    {
-        std::string v = verb, t = "CS1." + table, r = row;
-        SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), 0, Arg(r.c_str()));
-    }
-    static void Folder(const std::string& path)
-    {
-        Hub("Insert", "ClipStoreFolder", "root/" + path + ":1");
-    }
-    static void Clip(const std::string& path, int frames, int pair = 0)
-    {
-        Hub("Insert", "ClipStoreFile",
-            "root/" + path + ".SFH:" + std::to_string(frames) + ", " + std::to_string(pair) +
-                ", 0, 3, 2026-01-31 23:59:00, 1, 0");
-    }
     static void Show(int output, const std::string& status)
     {
         (void)Tell(TREE + "Output Status@FM" + std::to_string(output + 1) + "#" + status);
     }
-    // What the hub is asked for, without the head of the line.
+    // What the hub is asked for: "File:Move root/A.SFH root/B.SFH".
     static Strings Asked()
     {
         Strings asked;
         for (const std::string& line : TakeQueuedHubLines())
-            asked.push_back(line.substr(line.find('.') + 1));
+            asked.push_back(line.substr(line.find("ClipStore") + 9));
         return asked;
     }
     // Every request is granted until there is none any more; all of them.
@@ -85,7 +53,8 @@ struct ClipPages : TablePage {
             for (const std::string& line : some) {
                 all.push_back(line);
                 const size_t colon = line.find(':');
-                Hub("Result", line.substr(0, colon), line.substr(colon + 1) + ":" + status);
+                Hub("Result", "ClipStore" + line.substr(0, colon),
+                    line.substr(colon + 1) + ":" + status);
             }
         return all;
     }
@@ -97,6 +66,14 @@ struct ClipPages : TablePage {
         Pass(200); // the key that led to it may be pressed again
         SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
     }
+    static void Enter(const std::string& text) // in the keyboard window
+    {
+        for (const char c : text)
+            SendMessage(MSG_KEY, tolower(c), isupper(c) ? KMOD_LSHIFT : 0, 0, 0);
+        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+        for (int i = 0; i < 4; i++)
+            Pass(100);
+    }
     static void OpenPage(uint32_t id)
     {
         (void)Open(id);
@@ -105,10 +82,11 @@ struct ClipPages : TablePage {
         FF_ClearCheckedObjectList(0);
         (void)Asked();
     }
-    static const char* SelectedName()
+    static void Choose(const char* name) // in the first area, where it is not the selection
     {
-        static FF_OBJECT object;
-        return FF_GetSelectedObject(0, &object) == 0 ? object.name : "";
+        FF_OBJECT object;
+        if (FF_GetSelectedObject(0, &object) != 0 || strcmp(object.name, name) != 0)
+            Cell(0, name);
     }
     // The cell of a name becomes the selection, or is checked while that is on.
     static void Cell(int area, const char* name)
@@ -134,11 +112,7 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
 {
     (void)Open(RECALL);
     FM_OBJECT o;
-    static const struct {
-        const char* value;
-        int status;
-        const char* name;
-    } steps[] = {
+    static const std::tuple<const char*, int, const char*> steps[] = {
         {"2,/OPENING.SFH", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
         {"3,/STILL.SFH", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
         {"2,", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
@@ -148,11 +122,11 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
         {"2,/NEWS/GONE.SFH", FMOUT_STATUS_FREEZE_RECALL, "/root/NEWS/GONE"},
         {"0,", FMOUT_STATUS_BLACK, ""},
     };
-    for (const auto& s : steps) {
-        Show(19, s.value);
+    for (const auto& [value, status, name] : steps) {
+        Show(19, value);
         EXPECT_EQ(FM_GetRecalledObject(19, &o), 0);
-        EXPECT_EQ(o.fmout_status, s.status) << s.value;
-        EXPECT_STREQ(o.name, s.name) << s.value;
+        EXPECT_EQ(o.fmout_status, status) << value;
+        EXPECT_STREQ(o.name, name) << value;
     }
     Show(20, "1,");
     EXPECT_EQ(FM_GetRecalledObject(20, &o), -1);
@@ -171,29 +145,26 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
 TEST_F(ClipPages, APairWorksOnItsEvenOutput)
 {
     OpenPage(RECALL);
-    const Rect second = {115, 226, 215, 271};
-    (void)Touch(second.x1 + 10, second.y1 + 10);
+    (void)Touch(115 + 10, 226 + 10); // the second output
     EXPECT_EQ(FM_GetSelect(), 1);
-    EXPECT_THAT(Touch(160, 446), ElementsAre("put " + TREE + "Pair@FM1&2#true"));
+    EXPECT_THAT(Touch(160, 446), ElementsAre(PUT + "Pair@FM1&2#true"));
     EXPECT_EQ(FM_GetSelect(), 1); // by the tally, not by the press
     (void)Tell(TREE + "Pair@FM1&2#true");
     EXPECT_EQ(FM_GetSelect(), 0);
     Cell(0, "NEWS");
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_RECALL), BT_DISABLED);
     Cell(0, "OPENING");
-    EXPECT_THAT(Press(BTN_FMEM_RECALL),
-                ElementsAre("put " + TREE + "Recall@FM1#1,0,1,0,/OPENING.SFH",
-                            "put Macro@Clip Recall@FM1#1,/OPENING.SFH"));
+    EXPECT_THAT(Press(BTN_FMEM_RECALL), ElementsAre(PUT + "Recall@FM1#1,0,1,0,/OPENING.SFH",
+                                                    "put Macro@Clip Recall@FM1#1,/OPENING.SFH"));
     // Once more, it stays at its frame; a still has none.
     Show(0, "2,/OPENING.SFH");
     (void)Tell(TREE + "Play@FM1#0,7,0,99");
     Pass(200);
-    EXPECT_THAT(Press(BTN_FMEM_RECALL),
-                Contains("put " + TREE + "Recall@FM1#1,0,1,7,/OPENING.SFH"));
+    EXPECT_THAT(Press(BTN_FMEM_RECALL), Contains(PUT + "Recall@FM1#1,0,1,7,/OPENING.SFH"));
     Cell(0, "STILL");
     Pass(200);
-    EXPECT_THAT(Press(BTN_FMEM_RECALL), Contains("put " + TREE + "Recall@FM1#1,0,0,0,/STILL.SFH"));
-    EXPECT_THAT(Press(BTN_FMEM_BLACK), ElementsAre("put " + TREE + "Record@Through@FM1#1,0"));
+    EXPECT_THAT(Press(BTN_FMEM_RECALL), Contains(PUT + "Recall@FM1#1,0,0,0,/STILL.SFH"));
+    EXPECT_THAT(Press(BTN_FMEM_BLACK), ElementsAre(PUT + "Record@Through@FM1#1,0"));
     (void)Tell(TREE + "Pair@FM1&2#false");
     (void)Tell(TREE + "Out Pair Select#FM5&6");
     EXPECT_EQ(FM_GetSelect(), 4);
@@ -202,29 +173,24 @@ TEST_F(ClipPages, APairWorksOnItsEvenOutput)
 
 TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
 {
+    const auto put = [](const std::string& rest) { return ElementsAre(PUT + "Play@" + rest); };
     EXPECT_THAT(Open(PLAY), testing::IsSupersetOf({"read  " + TREE + "Output Status@FM1#",
                                                    "read  " + TREE + "Play@FM20#"}));
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_PLAY), BT_DISABLED);
     Show(0, "2,/OPENING.SFH");
     (void)Tell(TREE + "Play@FM1#0,7,20,80");
-    EXPECT_THAT(Press(BTN_FMEM_PLAY), ElementsAre("put " + TREE + "Play@FM1#0,0,20,80"));
-    EXPECT_THAT(Press(BTN_FMEM_STOP), ElementsAre("put " + TREE + "Play@FM1#0,1,20,80"));
-    EXPECT_THAT(Press(BTN_FMEM_START_SET), ElementsAre("put " + TREE + "Play@Start TC@FM1#0,0"));
-    EXPECT_THAT(Press(BTN_FMEM_STOP_RESET), ElementsAre("put " + TREE + "Play@Stop TC@FM1#0,6"));
-    EXPECT_THAT(Press(BTN_FMEM_LOOP), ElementsAre("put " + TREE + "Play@Play Mode@FM1#0,1"));
+    static const std::pair<int, const char*> keys[] = {
+        {BTN_FMEM_PLAY, "FM1#0,0,20,80"},         {BTN_FMEM_STOP, "FM1#0,1,20,80"},
+        {BTN_FMEM_START_SET, "Start TC@FM1#0,0"}, {BTN_FMEM_STOP_RESET, "Stop TC@FM1#0,6"},
+        {BTN_FMEM_LOOP, "Play Mode@FM1#0,1"},     {BTN_FMEM_REW, "Jump Frame@FM1#0,0"},
+        {BTN_FMEM_FF, "Jump Frame@FM1#0,1"},      {BTN_FMEM_MIDDLE, "Jump Frame@FM1#0,2"},
+        {BTN_FMEM_PINGPONG, "Play Mode@FM1#0,2"}, {BTN_FMEM_SPEED, "Variable Speed@FM1#0,50"}};
+    for (const auto& [key, sent] : keys)
+        EXPECT_THAT(Press(key), put(sent));
     (void)Tell(TREE + "Play@Play Mode@FM1#1");
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_LOOP), BT_ON);
-    EXPECT_THAT(Press(BTN_FMEM_LOOP), ElementsAre("put " + TREE + "Play@Play Mode@FM1#0,0"));
-    EXPECT_THAT(Touch(690, 130), ElementsAre("put " + TREE + "Play@Jump Frame@FM1#0,4,99"));
-    static const std::pair<int, const char*> jumps[] = {
-        {BTN_FMEM_REW, "0,0"}, {BTN_FMEM_FF, "0,1"}, {BTN_FMEM_MIDDLE, "0,2"}};
-    for (const auto& [key, value] : jumps)
-        EXPECT_THAT(Press(key), ElementsAre("put " + TREE + "Play@Jump Frame@FM1#" + value));
-    const auto put = [](const std::string& rest) {
-        return ElementsAre("put " + TREE + "Play@" + rest);
-    };
-    EXPECT_THAT(Press(BTN_FMEM_PINGPONG), put("Play Mode@FM1#0,2"));
-    EXPECT_THAT(Press(BTN_FMEM_SPEED), put("Variable Speed@FM1#0,50"));
+    EXPECT_THAT(Press(BTN_FMEM_LOOP), put("Play Mode@FM1#0,0"));
+    EXPECT_THAT(Touch(690, 130), put("Jump Frame@FM1#0,4,99"));
     for (const char* other : {"FM2#-75", "FM21#-75", "FM0#-75"})
         (void)Tell(TREE + "Play@Variable Speed@" + other);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_OFF);
@@ -232,16 +198,14 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_ON);
     Pass(200);
     EXPECT_THAT(Press(BTN_FMEM_SPEED), put("Variable Speed@FM1#0,0"));
-    static const struct {
-        int box, value;
-        const char* sent;
-    } boxes[] = {{NB_FMEM_START, 12, "Start TC@FM1#0,4,12"},
-                 {NB_FMEM_STOP, 90, "Stop TC@FM1#0,4,90"},
-                 {NB_FMEM_FRAME, 33, "Jump Frame@FM1#0,4,33"},
-                 {NB_FMEM_SPEED, 50, "Variable Speed@FM1#0,50"}};
-    for (const auto& b : boxes) {
-        SendMessage(LMSG_KNOBVAR, b.box, b.value, 0, 0);
-        EXPECT_THAT(TakeQueuedCommands(), put(b.sent));
+    static const std::tuple<int, int, const char*> boxes[] = {
+        {NB_FMEM_START, 12, "Start TC@FM1#0,4,12"},
+        {NB_FMEM_STOP, 90, "Stop TC@FM1#0,4,90"},
+        {NB_FMEM_FRAME, 33, "Jump Frame@FM1#0,4,33"},
+        {NB_FMEM_SPEED, 50, "Variable Speed@FM1#0,50"}};
+    for (const auto& [box, value, sent] : boxes) {
+        SendMessage(LMSG_KNOBVAR, box, value, 0, 0);
+        EXPECT_THAT(TakeQueuedCommands(), put(sent));
     }
     (void)Tell(TREE + "Play@Variable Speed@FM1#0");
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_OFF);
@@ -252,8 +216,7 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     for (const int answer : {NO, YES}) {
         (void)Press(BTN_FMEM_TRIM);
         Answer(answer);
-        EXPECT_EQ(Asked(),
-                  answer == NO ? Strings{} : Strings{"ClipStoreFile:Trim root/OPENING.SFH 20 80"});
+        EXPECT_EQ(Asked(), answer == NO ? Strings{} : Strings{"File:Trim root/OPENING.SFH 20 80"});
     }
     fmem_drop();
     (void)Tell(TREE + "Play@FM1#0,7,80,20");
@@ -265,9 +228,8 @@ TEST_F(ClipPages, RecordsUnderAFreeName)
 {
     OpenPage(RECORD);
     Clip("img0000", 5);
-    EXPECT_THAT(Press(BTN_FMEM_REC),
-                ElementsAre("put " + TREE + "Record@Freeze/Rec Name@FM1#0,/img0001.SFH",
-                            "put  " + TREE + "Record@FM1#1,0,300,1"));
+    EXPECT_THAT(Press(BTN_FMEM_REC), ElementsAre(PUT + "Record@Freeze/Rec Name@FM1#0,/img0001.SFH",
+                                                 "put  " + TREE + "Record@FM1#1,0,300,1"));
     (void)Tell(TREE + "Record@PROC1#1,10,300,1");
     EXPECT_THAT(Press(BTN_FMEM_REC), IsEmpty());
     EXPECT_THAT(Press(BTN_FMEM_REC_STOP), ElementsAre("put  " + TREE + "Record@FM1#1,0,300,0"));
@@ -277,58 +239,54 @@ TEST_F(ClipPages, RecordsUnderAFreeName)
     (void)Open(FREEZE);
     (void)Press(BTN_FMEM_FIELD);
     EXPECT_THAT(Press(BTN_FMEM_FREEZE),
-                ElementsAre("put " + TREE + "Record@Freeze/Rec Name@FM1#0,/img0002.SFH",
-                            "put " + TREE + "Record@Freeze@FM1#0,1"));
-    static const struct {
-        const char* told; // by another panel
-        const char* next;
-    } names[] = {{"/NEWS/take09.SFH", "take09"},
-                 {"1,/OPENING.SFH", "OPENING0000"},
-                 {"/img0001.SFH", "img0002"},
-                 {",", "img0002"},
-                 {"0,20261125183322_1", "img0002"},
-                 {"/a012345678901234567890123456789.SFH", "a012345678901234567890123456789"}};
-    for (const auto& n : names) {
-        (void)Tell(TREE + "Record@Freeze/Rec Name@PROC1#" + n.told);
+                ElementsAre(PUT + "Record@Freeze/Rec Name@FM1#0,/img0002.SFH",
+                            PUT + "Record@Freeze@FM1#0,1"));
+    static const std::pair<const char*, std::string> names[] = {
+        // told by another panel, and the next one
+        {"/NEWS/take09.SFH", "take09"},
+        {"1,/OPENING.SFH", "OPENING0000"},
+        {"/img0001.SFH", "img0002"},
+        {",", "img0002"},
+        {"0,20261125183322_1", "img0002"},
+        {"/a012345678901234567890123456789.SFH", "a012345678901234567890123456789"}};
+    for (const auto& [told, next] : names) {
+        (void)Tell(TREE + "Record@Freeze/Rec Name@PROC1#" + told);
         Pass(200);
-        EXPECT_THAT(Press(BTN_FMEM_FREEZE).front(),
-                    HasSubstr("#0,/" + std::string(n.next) + ".SFH"));
+        EXPECT_THAT(Press(BTN_FMEM_FREEZE).front(), HasSubstr("#0,/" + next + ".SFH"));
     }
     EXPECT_THAT(Press(BTN_FMEM_FREEZE_TIME),
                 ElementsAre(testing::MatchesRegex("put " + TREE +
                                                   "Record@Freeze/Rec Name@PROC1#0,20[0-9]{12}_1"),
-                            "put " + TREE + "Record@Freeze@PROC1#0,1"));
+                            PUT + "Record@Freeze@PROC1#0,1"));
     (void)Press(BTN_FMEM_FRAME);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_FRAME), BT_ON);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_FIELD), BT_OFF);
     Pass(200);
-    EXPECT_THAT(Press(BTN_FMEM_FREEZE), Contains("put " + TREE + "Record@Freeze@FM1#0,0"));
+    EXPECT_THAT(Press(BTN_FMEM_FREEZE), Contains(PUT + "Record@Freeze@FM1#0,0"));
 }
 
 TEST_F(ClipPages, TheLengthOfARecordingIsThatOfItsProcessor)
 {
     OpenPage(RECORD);
-    const auto length = [] {
+    const auto record = [] { // name and command
         Pass(200);
-        const Lines sent = Press(BTN_FMEM_REC);
-        return sent.empty() ? "" : sent.back();
+        Lines sent = Press(BTN_FMEM_REC);
+        sent.resize(2);
+        return sent;
     };
-    static const struct {
-        const char* told;
-        int length;
-    } cases[] = {{"PROC1#0,125", 125},
-                 {"PROC2#0,7", 125},
-                 {"PROC1#0", 125},
-                 {"PROC1#1000000", 125},
-                 {"PROC1#1", 1}};
-    for (const auto& c : cases) {
-        (void)Tell(TREE + "Record@Rec Len@" + c.told);
-        EXPECT_EQ(length(), "put  " + TREE + "Record@FM1#1,0," + std::to_string(c.length) + ",1")
-            << c.told;
+    static const std::pair<const char*, int> cases[] = {{"PROC1#0,125", 125},
+                                                        {"PROC2#0,7", 125},
+                                                        {"PROC1#0", 125},
+                                                        {"PROC1#1000000", 125},
+                                                        {"PROC1#1", 1}};
+    for (const auto& [told, length] : cases) {
+        (void)Tell(TREE + "Record@Rec Len@" + told);
+        EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0," + std::to_string(length) + ",1")
+            << told;
     }
     SendMessage(LMSG_KNOBVAR, NB_FMEM_LENGTH, 300, 0, 0);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put  " + TREE + "Record@Rec Len@FM1#0,300"));
-    EXPECT_EQ(length(), "put  " + TREE + "Record@FM1#1,0,300,1");
+    EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,300,1");
     // Another output of the same processor records: neither of them is touched here.
     (void)Tell(TREE + "Record@PROC1#1,10,300,2");
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC), BT_DISABLED);
@@ -339,22 +297,13 @@ TEST_F(ClipPages, TheLengthOfARecordingIsThatOfItsProcessor)
     (void)Tell(TREE + "Record@PROC1#0,10,300,0");
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC), BT_ENABLED);
     // A name that is entered is the next one.
-    const auto named = [] {
-        Pass(200);
-        const Lines sent = Press(BTN_FMEM_REC);
-        return sent.empty() ? "" : sent.front();
-    };
-    const std::string before = named();
+    const std::string before = record()[0];
     std::string longer = before;
     longer.insert(longer.rfind('.'), "z");
-    for (const int key : {int('z'), int(SDLK_BACKSPACE)}) {
-        Pass(200);
-        (void)Press(BTN_FMEM_REC_NAME);
-        SendMessage(MSG_KEY, key, 0, 0, 0);
-        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
-        for (int i = 0; i < 4; i++)
-            Pass(100);
-        EXPECT_EQ(named(), key == 'z' ? longer : before);
+    for (const char* text : {"z", "\b"}) {
+        (void)Puts(BTN_FMEM_REC_NAME);
+        Enter(text);
+        EXPECT_EQ(record()[0], *text == 'z' ? longer : before);
     }
     EXPECT_THAT(Leave(),
                 testing::IsSupersetOf({"remove " + TREE + "Record@Rec Len@PROC1",
@@ -373,11 +322,10 @@ TEST_F(ClipPages, CopiesATreeAndMovesOneWithItsFolders)
     Cell(0, "A");
     (void)Press(BTN_FMEM_COPY);
     EXPECT_THAT(Grant(),
-                ElementsAre("ClipStoreFolder:MakeFolder root/SPORT/A",
-                            "ClipStoreFolder:MakeFolder root/SPORT/A/B",
-                            "ClipStoreFolder:MakeFolder root/SPORT/A/B/C",
-                            "ClipStoreFile:Copy root/NEWS/A/B/TWO.SFH root/SPORT/A/B/TWO.SFH",
-                            "ClipStoreFile:Copy root/NEWS/A/ONE.SFH root/SPORT/A/ONE.SFH"));
+                ElementsAre("Folder:MakeFolder root/SPORT/A", "Folder:MakeFolder root/SPORT/A/B",
+                            "Folder:MakeFolder root/SPORT/A/B/C",
+                            "File:Copy root/NEWS/A/B/TWO.SFH root/SPORT/A/B/TWO.SFH",
+                            "File:Copy root/NEWS/A/ONE.SFH root/SPORT/A/ONE.SFH"));
     Pass(10);
     EXPECT_EQ(Pane_GetActiveID(), 0);
     Folder("SPORT/A"); // and now it is there
@@ -390,10 +338,10 @@ TEST_F(ClipPages, CopiesATreeAndMovesOneWithItsFolders)
     (void)Press(BTN_FMEM_MOVE);
     EXPECT_THAT(Asked(), IsEmpty());
     Answer(YES); // over the one that is there; a refusal does not stop the rest
-    EXPECT_THAT(Grant("80"), ElementsAre("ClipStoreFolder:MakeFolder root/B/C",
-                                         "ClipStoreFile:Move root/NEWS/A/B/TWO.SFH root/B/TWO.SFH",
-                                         "ClipStoreFolder:DeleteFolder root/NEWS/A/B/C",
-                                         "ClipStoreFolder:DeleteFolder root/NEWS/A/B"));
+    EXPECT_THAT(Grant("80"), ElementsAre("Folder:MakeFolder root/B/C",
+                                         "File:Move root/NEWS/A/B/TWO.SFH root/B/TWO.SFH",
+                                         "Folder:DeleteFolder root/NEWS/A/B/C",
+                                         "Folder:DeleteFolder root/NEWS/A/B"));
     EXPECT_FALSE(fmfileope_is_busy());
 }
 
@@ -413,14 +361,13 @@ TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
     (void)Tell(TREE + "Play@FM6#0,0,0,9");
     for (const bool goes_black : {true, false}) {
         OpenPage(DELETE_RENAME);
-        if (strcmp(SelectedName(), "NEWS") != 0)
-            Cell(0, "NEWS");
+        Choose("NEWS");
         Show(5, "2,/NEWS/A/ONE.SFH");
         (void)Press(BTN_FMEM_DELETE);
         Answer(YES);
         (void)TakeQueuedCommands();
         Answer(YES); // all the same
-        EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + TREE + "Record@Through@FM6#0,0"));
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(PUT + "Record@Through@FM6#0,0"));
         Pass(goes_black ? 10 : 1990);
         EXPECT_THAT(Asked(), IsEmpty()); // not before it is black
         if (goes_black)
@@ -429,52 +376,39 @@ TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
             Pass(10);
         const Strings asked = Grant();
         ASSERT_EQ(asked.size(), 6u); // two clips, four folders
-        EXPECT_EQ(asked.back(), "ClipStoreFolder:DeleteFolder root/NEWS");
+        EXPECT_EQ(asked.back(), "Folder:DeleteFolder root/NEWS");
     }
 }
 
 TEST_F(ClipPages, NamesAreCheckedBeforeAnythingIsAsked)
 {
-    static const struct {
-        uint32_t page;
-        const char* cell; // null: none
-        int key;
-        const char* typed; // behind what stands there
-        bool is_refused;
-        const char* asked; // null: nothing
-    } cases[] = {
-        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "", false, nullptr}, // the same name
+    static const std::tuple<uint32_t, const char*, int, const char*, bool, const char*> cases[] = {
+        // page, cell, key, typed behind what stands there, is refused, asked
+        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "", false, ""}, // the same name
         {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "2", false,
-         "ClipStoreFile:Move root/STILL.SFH root/STILL2.SFH"},
-        {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, "2", false,
-         "ClipStoreFile:Move root/SPORT root/SPORT2"},
-        {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, " 2", false,
-         "ClipStoreFile:Move root/SPORT root/SPORT_2"},
-        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "ED", true, nullptr}, // it is there
-        {COPY_MOVE, "STILL", BTN_FMEM_DUPLICATE, "", true, nullptr},
+         "File:Move root/STILL.SFH root/STILL2.SFH"},
+        {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, "2", false, "File:Move root/SPORT root/SPORT2"},
+        {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, " 2", false, "File:Move root/SPORT root/SPORT_2"},
+        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "ED", true, ""}, // it is there
+        {COPY_MOVE, "STILL", BTN_FMEM_DUPLICATE, "", true, ""},
         {COPY_MOVE, "STILL", BTN_FMEM_DUPLICATE, "_b", false,
-         "ClipStoreFile:Copy root/STILL.SFH root/STILL_b.SFH"},
-        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "", true, nullptr},
-        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "TALL", true, nullptr},
-        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "DAY", false,
-         "ClipStoreFolder:MakeFolder root/DAY"},
+         "File:Copy root/STILL.SFH root/STILL_b.SFH"},
+        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "", true, ""},
+        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "TALL", true, ""},
+        {COPY_MOVE, nullptr, BTN_FMEM_NEW_FOLDER, "DAY", false, "Folder:MakeFolder root/DAY"},
     };
     Clip("STILLED", 1);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.typed);
-        OpenPage(c.page);
-        if (c.cell && strcmp(SelectedName(), c.cell) != 0)
-            Cell(0, c.cell);
-        (void)Press(c.key);
-        for (const char* p = c.typed; *p; p++)
-            SendMessage(MSG_KEY, tolower(*p), isupper(*p) ? KMOD_LSHIFT : 0, 0, 0);
-        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
-        for (int i = 0; i < 4; i++)
-            Pass(100);
+    for (const auto& [page, cell, key, typed, is_refused, ask] : cases) {
+        SCOPED_TRACE(typed);
+        OpenPage(page);
+        if (cell)
+            Choose(cell);
+        (void)Press(key);
+        Enter(typed);
         const Strings asked = Asked();
-        EXPECT_EQ(asked.empty() ? "" : asked.front(), c.asked ? c.asked : "");
-        EXPECT_EQ(Pane_GetActiveID() != 0, c.is_refused || fmfileope_is_busy());
-        if (c.is_refused) {
+        EXPECT_EQ(asked.empty() ? "" : asked.front(), ask);
+        EXPECT_EQ(Pane_GetActiveID() != 0, is_refused || fmfileope_is_busy());
+        if (is_refused) {
             Answer(0); // and the name is asked for again
             EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
             (void)CloseWindow();
@@ -485,6 +419,7 @@ TEST_F(ClipPages, NamesAreCheckedBeforeAnythingIsAsked)
 
 TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
 {
+    const std::string move = "Move root/STILL.SFH root/NEW.SFH";
     const auto rename = [] {
         EXPECT_EQ(fmfileope_start(FMFILEOPE_RENAME, OBJECT_TYPE_FILE, "/root/STILL", "/root/NEW"),
                   0);
@@ -496,16 +431,14 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
               -1);
     rename();
     Hub("Result", "ClipStoreFile", "Move root/OTHER.SFH root/NEW.SFH:7F");
-    Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:40");
-    for (const char* end : {"", ":", ":x"})
-        Hub("Result", "ClipStoreFile", std::string("Move root/STILL.SFH root/NEW.SFH") + end);
+    for (const char* end : {":40", "", ":", ":x"})
+        Hub("Result", "ClipStoreFile", move + end);
     for (const char* table : {"ClipStoreFile", "CS1.ClipStoreFolder"})
-        SendMessage(MSG_SHPTALLY, Arg("Result"), Arg(table), 0,
-                    Arg("Move root/STILL.SFH root/NEW.SFH:7F"));
+        SendMessage(MSG_SHPTALLY, Arg("Result"), Arg(table), 0, Arg((move + ":7F").c_str()));
     EXPECT_TRUE(fmfileope_is_busy());
     Answer(1); // "Cancel"
     EXPECT_FALSE(fmfileope_is_busy());
-    Hub("Result", "ClipStoreFile", "Move root/STILL.SFH root/NEW.SFH:7F");
+    Hub("Result", "ClipStoreFile", move + ":7F");
     rename();
     FMCtrl3_HubLost();
     EXPECT_FALSE(fmfileope_is_busy());
@@ -519,7 +452,7 @@ TEST_F(ClipPages, LoadsOrUnloadsTheClipsAmongWhatIsChecked)
 {
     for (const auto& [key, verb] :
          {std::pair{BTN_FMEM_LOAD, "Register"}, {BTN_FMEM_UNLOAD, "UnRegister"}}) {
-        const std::string asked = std::string("ClipStoreFile:") + verb;
+        const std::string asked = std::string("File:") + verb;
         OpenPage(0x21120000);
         (void)Open(0x21120000);
         EXPECT_EQ(BT_GetVisible(key), BT_DISABLED);
@@ -579,20 +512,18 @@ TEST_F(ClipPages, TheRoomInMemoryIsShownOnceTheHubHasToldIt)
 TEST_F(ClipPages, CouplesWhatFits)
 {
     Clip("KEY", 100);
-    Clip("BOTH", 100, 1);
+    Clip("BOTH", 100, 0, TIME, 1);
     OpenPage(PAIR);
     Cell(0, "OPENING");
-    static const struct {
-        const char* key;
-        bool can;
-    } cases[] = {{"STILL", false}, {"OPENING", false}, {"BOTH", false}, {"KEY", true}};
-    for (const auto& c : cases) {
-        Cell(1, c.key);
-        EXPECT_EQ(BT_GetVisible(BTN_FMEM_COUPLE) == BT_ENABLED, c.can) << c.key;
+    static const std::pair<const char*, bool> cases[] = {
+        {"STILL", false}, {"OPENING", false}, {"BOTH", false}, {"KEY", true}};
+    for (const auto& [key, can] : cases) {
+        Cell(1, key);
+        EXPECT_EQ(BT_GetVisible(BTN_FMEM_COUPLE) == BT_ENABLED, can) << key;
     }
     (void)Press(BTN_FMEM_COUPLE);
-    EXPECT_THAT(Grant(), ElementsAre("ClipStoreFile:Couple root/OPENING.SFH root/KEY.SFH"));
+    EXPECT_THAT(Grant(), ElementsAre("File:Couple root/OPENING.SFH root/KEY.SFH"));
     Cell(0, "BOTH");
     (void)Press(BTN_FMEM_SEPARATE);
-    EXPECT_THAT(Grant(), ElementsAre("ClipStoreFile:Separate root/BOTH.SFH"));
+    EXPECT_THAT(Grant(), ElementsAre("File:Separate root/BOTH.SFH"));
 }

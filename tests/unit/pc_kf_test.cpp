@@ -1,6 +1,5 @@
 #include "a_kf_private.h"
 #include "a_kp.h"
-#include "a_ls.h"
 #include "display.h"
 #include "pane.h"
 #include "pc_kf.h"
@@ -21,15 +20,14 @@ struct TimelinePage : KeyframePage {
         for (int row = 0; row < 10; row++)
             TDL_FillRectS(X, RowY(row), X, RowY(row), 0x123456);
     }
-    static void Redraw(int ms) { SendMessage(MSG_REDRAW, ms, 0, 0, 0); }
     void SetUp() override
     {
         KeyframePage::SetUp();
         kf::AssignAll();
         KF_DefaultRegionPriority();
         Open(0x61110000);
-        Redraw(1000);
-        Redraw(1000);
+        Pass(1000);
+        Pass(1000);
     }
     static void Region(int code, int start_s, int end_s, int cursor_s = 0)
     {
@@ -53,15 +51,15 @@ TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPainted)
 {
     Smear();
     TDL_FillRectS(50, 110, 50, 110, 0x123456); // in the first row's block
-    Redraw(1000);
+    Pass(1000);
     EXPECT_FALSE(IsPainted(0)) << "nothing has come";
     kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
-    Redraw(1000);
+    Pass(1000);
     EXPECT_TRUE(IsPainted(0));
     EXPECT_EQ(PixelAt(50, 110), 0x123456u) << "the name stands";
     EXPECT_FALSE(IsPainted(2));
     kf::Send(kf::DATA, kf::DataFrame({.code = 2}));
-    Redraw(1000);
+    Pass(1000);
     EXPECT_TRUE(IsPainted(2));
     EXPECT_FALSE(IsPainted(3));
 }
@@ -75,16 +73,14 @@ TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
                                       .keyframes = {30}})); // MACRO: place 51
     const char* knob = "Region\nScroll";
     EXPECT_EQ(Shown(knob), "0");
-    const struct {
-        int msg;
-        MsgArg ax, bx;
-    } passes[] = {{MSG_WHEELUP, 0, 0},  {MSG_REDRAW, 1, 0},   {MSG_REDRAW, 1000, 0},
-                  {LMSG_KNOBVAR, 1, 0}, {LMSG_KNOBVAR, 2, 0}, {MSG_PRESS, 300, 300}};
-    for (const auto& p : passes)
-        EXPECT_EQ(KF_Proc(p.msg, p.ax, p.bx, 0, 0), 0) << "the others are asked as well";
+    const std::tuple<int, MsgArg, MsgArg> passes[] = {{MSG_WHEELUP, 0, 0},   {MSG_REDRAW, 1, 0},
+                                                      {MSG_REDRAW, 1000, 0}, {LMSG_KNOBVAR, 1, 0},
+                                                      {LMSG_KNOBVAR, 2, 0},  {MSG_PRESS, 300, 300}};
+    for (const auto& [msg, ax, bx] : passes)
+        EXPECT_EQ(KF_Proc(msg, ax, bx, 0, 0), 0) << "the others are asked as well";
     turn(42);
-    Redraw(1000);
-    Redraw(1000);
+    Pass(1000);
+    Pass(1000);
     EXPECT_EQ(PixelAt(160, 9 * 45 + 91), 0x606060u) << "MACRO is the last row";
     Open(0x61110000);
     EXPECT_EQ(Shown(knob), "42") << "the page comes back where it was left";
@@ -101,10 +97,8 @@ TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
 TEST_F(TimelinePage, TheAxisReachesFromTheFirstStartToTheLastEnd)
 {
     constexpr Rect START = {117, 535, 187, 546}, END = {617, 535, 687, 546};
-    static const struct {
-        int code, start_s, end_s; // what is told of a region
-        int from_s, to_s;         // the axis then
-    } steps[] = {
+    static const std::tuple<int, int, int, int, int> steps[] = {
+        // a region and what is told of it, the axis then
         {1, 20, 40, 20, 40}, {2, 10, 30, 10, 40}, {3, 15, 50, 10, 50},
         {2, 12, 30, 12, 50}, {1, 0, 45, 12, 50}, // without a start of its own
         {3, 0, 0, 12, 45},   {2, 0, 0, 0, 45},    {1, 0, 0, 0, 0},
@@ -112,18 +106,18 @@ TEST_F(TimelinePage, TheAxisReachesFromTheFirstStartToTheLastEnd)
     const Display display;
     int from_s = 0, to_s = 0;
     auto start = Seen(START), end = Seen(END), rows = Seen(ROWS);
-    for (const auto& s : steps) {
-        Region(s.code, s.start_s, s.end_s);
-        EXPECT_EQ(Seen(START) == start, s.from_s == from_s) << s.from_s;
+    for (const auto& [code, start_s, end_s, axis_from_s, axis_to_s] : steps) {
+        Region(code, start_s, end_s);
+        EXPECT_EQ(Seen(START) == start, axis_from_s == from_s) << axis_from_s;
         start = Seen(START);
-        EXPECT_EQ(Seen(END) == end, s.to_s == to_s) << s.to_s;
+        EXPECT_EQ(Seen(END) == end, axis_to_s == to_s) << axis_to_s;
         end = Seen(END);
-        EXPECT_NE(Seen(ROWS), rows) << s.from_s << "-" << s.to_s;
+        EXPECT_NE(Seen(ROWS), rows) << axis_from_s << "-" << axis_to_s;
         rows = PixelsIn(ROWS);
-        EXPECT_EQ(tlSTime, s.from_s * 30);
-        EXPECT_EQ(tlETime, s.to_s * 30);
-        from_s = s.from_s;
-        to_s = s.to_s;
+        from_s = axis_from_s;
+        to_s = axis_to_s;
+        EXPECT_EQ(tlSTime, from_s * 30);
+        EXPECT_EQ(tlETime, to_s * 30);
         // Painted as a page that is opened paints it.
         (void)CreatePage(0x61110000);
         EXPECT_EQ(Seen(ROWS), rows);
@@ -198,19 +192,13 @@ struct AssignPage : KeyframePage {
         KF_DefaultRegionPriority();
         Open(0x61150000);
     }
-    // The cells of a list, row by row.
-    static std::vector<std::string> Cells(int list, int columns)
+    static Lines Order()
     {
-        std::vector<std::string> rows;
-        for (int row = 0; row < LS_GetNData(list); row++) {
-            std::string line;
-            for (int col = 0; col < columns; col++)
-                line += (col ? " " : "") + std::string(LS_GetData(list, row, col));
-            rows.push_back(line);
-        }
+        Lines rows;
+        for (int row = 0; row < LS_GetNData(1); row++)
+            rows.push_back(Cell(1, row, 0) + " " + Cell(1, row, 1) + " " + Cell(1, row, 2));
         return rows;
     }
-    static std::vector<std::string> Order() { return Cells(1, 3); }
 };
 
 TEST_F(AssignPage, ShowsWhatAnotherPanelHasChosen)
@@ -218,15 +206,8 @@ TEST_F(AssignPage, ShowsWhatAnotherPanelHasChosen)
     Tally("Info@Operation Setup Data@Timeline Region Priority", "1,6");
     Tally("Info@Operation Setup Data@Timeline Region Priority", "4,0");
     Tally("Info@Operation Setup Data@Timeline Region Display", "46,1");
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    Pass(10);
     EXPECT_THAT(Order(), ElementsAre("1 USER1 ON", "2 M/E-1 Sub ", "3 P/P ON", "4 M/E-1 ON", "  "));
-}
-
-TEST_F(AssignPage, SavesNothingBeforeTheServerHasToldItsRegions)
-{
-    KF_Init();
-    CreatePage(PAGE_TOP);
-    EXPECT_THAT(Sent(), IsEmpty());
 }
 
 TEST_F(AssignPage, TheKeysWorkAtTheCursors)
@@ -274,7 +255,7 @@ TEST_F(AssignPage, WithActiveRegionTheSelectionDecides)
     EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED) << "changed elsewhere";
 }
 
-TEST_F(AssignPage, ClosingSavesAllRows)
+TEST_F(AssignPage, ClosingSavesAllRowsOnceTheServerHasToldItsRegions)
 {
     LS_SetNowLine(1, 2);
     Button(DISPLAY);
@@ -284,6 +265,11 @@ TEST_F(AssignPage, ClosingSavesAllRows)
     EXPECT_EQ(sent[0], "put Info@Operation Setup Data@Timeline Region Display#1,0");
     EXPECT_EQ(sent[10], "put Info@Operation Setup Data@Timeline Region Display#6,1");
     EXPECT_EQ(sent[127], "put Info@Operation Setup Data@Timeline Region Priority#64,255");
+    CreatePage(0x61150000);
+    KF_Init();
+    (void)TakeQueuedCommands();
+    CreatePage(PAGE_TOP);
+    EXPECT_THAT(Sent(), IsEmpty());
 }
 
 // --- DME User PGM ---
@@ -302,18 +288,15 @@ struct ProgramPage : KeyframePage {
 
 TEST_F(ProgramPage, TheSelectedProgramsDecideWhichModesThereAre)
 {
-    static const struct {
-        int reg1, reg2;
-        std::vector<int> enabled;
-    } cases[] = {
+    static const std::tuple<int, int, std::vector<int>> cases[] = {
         {1, 99, {}},
         {201, 0, {19, 20, 34}},
         {101, 0, {17, 18, 20, 33, 34, 35, 36}},
         {250, 199, {17, 18, 19, 20, 33, 34, 35, 36}},
     };
-    for (const auto& c : cases) {
-        Load(c.reg1, c.reg2);
-        EXPECT_EQ(Enabled(), c.enabled) << c.reg1 << " " << c.reg2;
+    for (const auto& [reg1, reg2, enabled] : cases) {
+        Load(reg1, reg2);
+        EXPECT_EQ(Enabled(), enabled) << reg1 << " " << reg2;
     }
     Load(101, 201);
     kf::Select({16, 0, 0, 0, 0, 0, 0, 0});
@@ -323,24 +306,22 @@ TEST_F(ProgramPage, TheSelectedProgramsDecideWhichModesThereAre)
 
 TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgram)
 {
-    constexpr char path[] = "Key Frame@DME User PGM@Transition Mode@150";
+    const std::string path = "Key Frame@DME User PGM@Transition Mode@150";
     Load(150, 201);
-    EXPECT_THAT(Sent("add Key Frame"), ElementsAre(std::string("add ") + path));
-    static const struct {
-        int button, value;
-    } cases[] = {{17, 0}, {18, 8}, {19, 1}, {20, 5}, {33, 3}, {34, 2}, {35, 6}, {36, 7}};
-    for (const auto& c : cases) {
-        Button(c.button);
-        EXPECT_THAT(Sent(),
-                    ElementsAre("put " + std::string(path) + "#" + std::to_string(c.value)));
-        Tally(path, std::to_string(c.value).c_str());
-        EXPECT_EQ(BT_GetStatus(c.button), BT_ON) << c.button;
+    EXPECT_THAT(Sent("add Key Frame"), ElementsAre("add " + path));
+    static const std::pair<int, const char*> cases[] = {{17, "0"}, {18, "8"}, {19, "1"}, {20, "5"},
+                                                        {33, "3"}, {34, "2"}, {35, "6"}, {36, "7"}};
+    for (const auto& [button, value] : cases) {
+        Button(button);
+        EXPECT_THAT(Sent(), ElementsAre("put " + path + "#" + value));
+        Tally(path, value);
+        EXPECT_EQ(BT_GetStatus(button), BT_ON) << button;
     }
     for (const char* wild : {"9", "-1", "", "x"})
         Tally(path, wild);
     EXPECT_EQ(BT_GetStatus(36), BT_ON) << "ignored";
     CreatePage(PAGE_TOP);
-    EXPECT_THAT(Sent("remove Key Frame"), ElementsAre(std::string("remove ") + path));
+    EXPECT_THAT(Sent("remove Key Frame"), ElementsAre("remove " + path));
 }
 
 // A running region tells of every keyframe, many times a second.
@@ -365,6 +346,8 @@ TEST_F(ProgramPage, OnlyAnotherProgramOpensThePageAnewAndNeverOverAnotherRequest
 // --- Region Select ---
 
 struct RegionPage : KeyframePage {
+    static inline const std::string ENABLE = "put Key Frame@Region Select@Region Enable@";
+
     // Of the key with this number, of its regions: the reference row and the selection row.
     static void Key(int number)
     {
@@ -387,11 +370,11 @@ TEST_F(RegionPage, EntryAndExitTellThePanel)
     EXPECT_THAT(Sent(), ElementsAre(pcx));
     CreatePage(0x61170000);
     const auto sent = TakeQueuedCommands();
-    EXPECT_THAT(sent, testing::Contains(pcx));
+    EXPECT_THAT(sent, Contains(pcx));
     for (const char* n : {"1", "23"})
-        EXPECT_THAT(sent, testing::Contains(std::string("read Engineering Setup@Panel@Config@10 "
-                                                        "Key Region Assign@Common@Region@Common@") +
-                                            n));
+        EXPECT_THAT(sent, Contains(std::string("read Engineering Setup@Panel@Config@10 Key Region "
+                                               "Assign@Common@Region@Common@") +
+                                   n));
 }
 
 TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
@@ -401,8 +384,7 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
     Selection(0);
     Selection(1);
     Selection(2); // nobody's
-    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@M/E-1#false",
-                                    "put Key Frame@Region Select@Region Enable@M/E-2#true"));
+    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "M/E-1#false", ENABLE + "M/E-2#true"));
     Reference(0);
     Reference(1); // not selected: it cannot be the reference
     Reference(3);
@@ -410,7 +392,7 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
                                     "put Key Frame@Region Select@Ref Region Set#P/P"));
     Key(7);
     Selection(0);
-    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@User3#true"));
+    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "User3#true"));
     Key(22);
     Selection(0);
     EXPECT_THAT(Sent(), IsEmpty());
@@ -419,7 +401,7 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
 TEST_F(RegionPage, TheLampsFollowTheSelection)
 {
     const auto lamps = [](int slot) {
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        Pass(10);
         const int x = 456 + 61 * slot;
         return std::array{PixelsIn({x, 120, x + 50, 170}), PixelsIn({x, 210, x + 50, 260})};
     };
@@ -432,7 +414,7 @@ TEST_F(RegionPage, TheLampsFollowTheSelection)
     EXPECT_NE(lamps(1)[1], second[1]);
 }
 
-TEST_F(RegionPage, RegionsThatTheModeTakesAwayTakeNoPress)
+TEST_F(RegionPage, WhatTheModeTakesAwayOrALockHoldsTakesNoPress)
 {
     TenKey(1, "M/E-3,DME3,,");
     SYS_3DMode = 1;
@@ -446,11 +428,7 @@ TEST_F(RegionPage, RegionsThatTheModeTakesAwayTakeNoPress)
     SYS_DualProc = 0;
     Selection(0);
     Selection(1);
-    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@DME3#true"));
-}
-
-TEST_F(RegionPage, TheLockSetTakesNoPress)
-{
+    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "DME3#true"));
     TenKey(1, "M/E-1,,,");
     SetupMenu[0] = {.page = 0x61170000, .lock = 1};
     SetupMenu_Max = 1;
@@ -471,7 +449,7 @@ TEST_F(RegionPage, RubbishOnTheKeysIsNoAssign)
                   number,
               "1,0,P/P,,,");
     Selection(0);
-    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@M/E-1#false"));
+    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "M/E-1#false"));
     for (const char* regions : {",,,", "No Assign,,,", "M/E-9,,,", "M/E-1x"}) {
         TenKey(1, regions);
         Selection(0);
@@ -493,6 +471,5 @@ TEST_F(RegionPage, TheNewestPanelHasItsKeysOnTwoModules)
     Selection(0);
     Key(15);
     Selection(0);
-    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Region Enable@User1#true",
-                                    "put Key Frame@Region Select@Region Enable@User2#true"));
+    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "User1#true", ENABLE + "User2#true"));
 }

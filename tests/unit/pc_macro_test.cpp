@@ -73,7 +73,9 @@ TEST_F(MacroPages, AListShowsWhatTheServerTold)
 
 namespace
 {
-constexpr char HEAD[] = "PNL 0001PNL_0003.PMROPENING\n";
+const std::string HEAD = "PNL 0001PNL_0003.PMROPENING\n";
+const std::string STOP = "Event?,Stop,Device?,Dev1\n", CUT = "Event?,MECut,ME?,P/P\n",
+                  CUT_ME1 = "Event?,MECut,ME?,M/E-1\n";
 
 struct MacroOfflinePage : MacroPages {
     void SetUp() override
@@ -117,21 +119,23 @@ struct MacroOfflinePage : MacroPages {
         Pass(10);
         return lines;
     }
-    // The word in list 2, as by a touch.
-    static void Choose(const std::string& word)
+    // Words in list 2, as by a touch; each choice goes on to the next column.
+    static void Choose(const Lines& words)
     {
-        for (int row = 0; row < LS_GetNData(LIST_MACRO_VALUES); row++)
-            if (Cell(LIST_MACRO_VALUES, row, 0) == word) {
-                SendMessage(LMSG_LISTSEL, LIST_MACRO_VALUES, row, 0, 0);
-                Pass(10);
-                return;
-            }
-        ADD_FAILURE() << word << " cannot be chosen";
+        for (const std::string& word : words) {
+            int row = LS_GetNData(LIST_MACRO_VALUES) - 1;
+            while (row >= 0 && Cell(LIST_MACRO_VALUES, row, 0) != word)
+                row--;
+            EXPECT_GE(row, 0) << word << " cannot be chosen";
+            SendMessage(LMSG_LISTSEL, LIST_MACRO_VALUES, row, 0, 0);
+            Pass(10);
+        }
     }
-    static void At(int row, int column)
+    static void At(int row, int column, const Lines& words = {})
     {
         SendMessage(LMSG_LISTSEL, LIST_MACRO_EVENTS, row, column, 0);
         Pass(10);
+        Choose(words);
     }
     static void Enter(int value) { SendMessage(LMSG_KNOBVAR, NB_MACRO_VALUE, value, 1, 0); }
     static void Turn(int value) { SendMessage(LMSG_KNOBVAR, NB_MACRO_VALUE, value, 0, 0); }
@@ -159,23 +163,18 @@ TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
 {
     OpenWith("");
     EXPECT_EQ(Events(), "Event 1");
-    At(0, MACRO_COL_SYMBOL);
-    Choose("KeyAutoTransition"); // from here on each choice goes on to the next column
-    Choose("P/P");
-    Choose("Key2");
+    At(0, MACRO_COL_SYMBOL, {"KeyAutoTransition", "P/P", "Key2"});
     EXPECT_EQ(Events(), "Event 1 KeyAutoTransition P/P Key2 - -");
     Enter(30);
-    Choose("Reverse");
+    Choose({"Reverse"});
     (void)Key(BTN_MACRO_INSERT_AFTER);
-    Choose("Cue");
-    Choose("Dev2");
+    Choose({"Cue", "Dev2"});
     Turn(1); // a knob stays with its value
     Turn(0);
     (void)Key(BTN_MACRO_GROUP_3 + 2);
     Enter(5);
     (void)Key(BTN_MACRO_INSERT_AFTER);
-    At(2, MACRO_COL_CONTENTS);
-    Choose("#");
+    At(2, MACRO_COL_CONTENTS, {"#"});
     (void)Key(BTN_MACRO_GROUP_3);
     ASSERT_EQ(GetWindow(), WINDOW_KEYBOARD);
     CloseWindow();
@@ -183,35 +182,31 @@ TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
                         "00:00:00:00 5|# -");
     (void)Key(BTN_MACRO_DELETE);
     EXPECT_EQ(Stored(),
-              std::string(HEAD) +
-                  "Event?,KeyAutoTransition,ME?,P/P,Key?,Key2,Time?,30,Direction?,Reverse\n"
-                  "Event?,Cue,Device?,Dev2,Timecode?,00:00:00:00,Preroll?,5\n");
+              HEAD + "Event?,KeyAutoTransition,ME?,P/P,Key?,Key2,Time?,30,Direction?,Reverse\n"
+                     "Event?,Cue,Device?,Dev2,Timecode?,00:00:00:00,Preroll?,5\n");
 }
 
 TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollow)
 {
-    const std::string play = "Event?,Stop,Device?,Dev1\n", cut = "Event?,MECut,ME?,P/P\n";
     static const std::tuple<std::string, int, bool> cases[] = {
-        {play + play, 1, true}, {play + "#?,x\n" + play, 2, true}, {play + play, 0, false},
-        {cut + play, 1, false}, {"#?,x\n" + play, 1, false},
+        {STOP + STOP, 1, true}, {STOP + "#?,x\n" + STOP, 2, true}, {STOP + STOP, 0, false},
+        {CUT + STOP, 1, false}, {"#?,x\n" + STOP, 1, false},
     };
     for (const auto& [events, row, may] : cases) {
         OpenWith(events);
         At(row, MACRO_COL_CONTENTS);
         EXPECT_EQ(LS_GetStatus(LIST_MACRO_VALUES, 1, 0) == 0, may) << events;
-        Choose("Continue");
+        Choose({"Continue"});
         EXPECT_EQ(Cell(LIST_MACRO_EVENTS, row, 0) == "Continue", may) << events;
     }
     // A symbol that may not follow stays as it is. A line that has none yet is offered those that
     // may.
-    OpenWith(play + cut);
-    At(1, MACRO_COL_CONTENTS);
-    Choose("Continue");
+    OpenWith(STOP + CUT);
+    At(1, MACRO_COL_CONTENTS, {"Continue"});
     EXPECT_EQ(Events(), "Event 1 Stop Dev1|Event 2 MECut P/P");
     At(0, 0);
     (void)Key(BTN_MACRO_INSERT_AFTER);
-    At(1, MACRO_COL_CONTENTS);
-    Choose("Continue");
+    At(1, MACRO_COL_CONTENTS, {"Continue"});
     EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue|Event 2 MECut P/P");
     EXPECT_EQ(LS_GetNData(LIST_MACRO_VALUES), CONTINUE_ROWS - 1);
 }
@@ -219,80 +214,56 @@ TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollow)
 TEST_F(MacroOfflinePage, WhatFollowsALineThatGoesBecomesAnEvent)
 {
     const std::string next = "Continue?,Stop,Device?,Dev2\n";
-    OpenWith("Event?,Stop,Device?,Dev1\n" + next);
+    OpenWith(STOP + next);
     (void)Key(BTN_MACRO_DELETE);
     EXPECT_EQ(Events(), "Event 1 Stop Dev2");
     (void)Key(BTN_MACRO_DELETE);
     EXPECT_EQ(Events(), "Event 1") << "a blank line stays";
 
-    OpenWith("Event?,Stop,Device?,Dev1\n" + next + next);
+    OpenWith(STOP + next + next);
     At(1, 0);
     (void)Key(BTN_MACRO_DELETE);
     EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue Stop Dev2");
 
     // What was read may stand behind what it may not follow, and stays, also when a value changes.
-    OpenWith("Event?,MECut,ME?,P/P\nContinue?,AuxXpt,AuxBus?,Aux1,Xpt?,2,VideoKey?,Video\n");
-    At(0, MACRO_COL_SLOT);
-    Choose("M/E-1");
-    EXPECT_EQ(Stored(), std::string(HEAD) +
-                            "Event?,MECut,ME?,M/E-1\n"
-                            "Continue?,AuxXpt,AuxBus?,Aux1,Xpt?,2,VideoKey?,Video\n");
-}
-
-TEST_F(MacroOfflinePage, ThePageThatIsBuiltAnewKeepsWhatIsInHand)
-{
-    OpenWith("Event?,MECut,ME?,P/P\n");
-    for (const char* value : {"P/P", "M/E-1"}) { // unchanged, then changed
-        At(0, MACRO_COL_SLOT);
-        Choose(value);
-        EXPECT_EQ(CreatePage(PAGE_MACRO_OFFLINE), 0);
-        Pass(10);
-        EXPECT_EQ(Pane_GetActiveID(), 0) << "nobody leaves";
-        EXPECT_EQ(Events(), std::string("Event 1 MECut ") + value);
-    }
-    EXPECT_EQ(Stored(), std::string(HEAD) + "Event?,MECut,ME?,M/E-1\n");
+    const std::string aux = "Continue?,AuxXpt,AuxBus?,Aux1,Xpt?,2,VideoKey?,Video\n";
+    OpenWith(CUT + aux);
+    At(0, MACRO_COL_SLOT, {"M/E-1"});
+    EXPECT_EQ(Stored(), HEAD + CUT_ME1 + aux);
 }
 
 TEST_F(MacroOfflinePage, ALineThatIsNotCompleteIsNotStored)
 {
-    const std::string cut = "Event?,MECut,ME?,P/P\n", next = "Event?,NextTransition,ME?,";
-    static const struct {
-        std::string line;
-        const char* choice; // made of the second line's first value; null: nothing
-        bool is_leaving;
-        int column; // that gets the cursor; 0: it is stored
-    } cases[] = {
-        {next + "M/E-1,BKGD?,On\n", nullptr, false, 0}, // as a panel has recorded it
-        {next + "M/E-1,BKGD?,On\n", nullptr, true, MACRO_COL_SLOT + 1},
-        {next + "M/E-1,BKGD?,On\n", "P/P", false, MACRO_COL_SLOT + 1},
-        {"#?\n", nullptr, true, MACRO_COL_SLOT},
+    const std::string next = "Event?,NextTransition,ME?,", bkgd = next + "M/E-1,BKGD?,On\n";
+    const std::tuple<std::string, Lines, bool, int> cases[] = {
+        // what is chosen in it, by leaving, the column that gets the cursor; 0: it is stored
+        {bkgd, {}, false, 0}, // as a panel has recorded it
+        {bkgd, {}, true, MACRO_COL_SLOT + 1},
+        {bkgd, {"P/P"}, false, MACRO_COL_SLOT + 1},
+        {"#?\n", {}, true, MACRO_COL_SLOT},
     };
-    for (const auto& c : cases) {
-        OpenWith(cut + c.line);
-        At(1, MACRO_COL_SLOT);
-        if (c.choice)
-            Choose(c.choice);
-        At(0, MACRO_COL_SLOT);
-        Choose("M/E-1");
+    for (const auto& [line, choice, is_leaving, column] : cases) {
+        OpenWith(CUT + line);
+        At(1, MACRO_COL_SLOT, choice);
+        At(0, MACRO_COL_SLOT, {"M/E-1"});
         const std::string before = FileText(MACRO_EDIT_FILE);
-        if (c.is_leaving) {
+        if (is_leaving) {
             (void)CreatePage(PAGE_TOP);
             (void)Answer(1); // store
         } else {
             (void)Key(BTN_MACRO_STORE);
         }
-        const std::string stored = HEAD + std::string("Event?,MECut,ME?,M/E-1\n") + c.line;
-        EXPECT_EQ(FileText(MACRO_EDIT_FILE), c.column ? before : stored) << c.line;
+        EXPECT_EQ(FileText(MACRO_EDIT_FILE), column ? before : HEAD + CUT_ME1 + line) << line;
         EXPECT_EQ(GL_NowPage, PAGE_MACRO_OFFLINE);
-        if (c.column == 0)
+        if (column == 0)
             continue;
-        EXPECT_EQ(LS_GetNowLine(LIST_MACRO_EVENTS), 1) << c.line;
-        EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), c.column) << c.line;
+        EXPECT_EQ(LS_GetNowLine(LIST_MACRO_EVENTS), 1) << line;
+        EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), column) << line;
     }
     // Blank lines are left out.
-    OpenWith("Event?,MECut,ME?,P/P\n");
+    OpenWith(CUT);
     (void)Key(BTN_MACRO_INSERT_BEFORE);
-    EXPECT_EQ(Stored(), std::string(HEAD) + "Event?,MECut,ME?,P/P\n");
+    EXPECT_EQ(Stored(), HEAD + CUT);
 }
 
 TEST_F(MacroOfflinePage, TheParametersMoveBelowTheFocus)
@@ -304,7 +275,7 @@ TEST_F(MacroOfflinePage, TheParametersMoveBelowTheFocus)
     EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT);
     (void)Key(BTN_MACRO_GROUP_7); // the second of the two
     EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT + 1);
-    Choose("On");
+    Choose({"On"});
     EXPECT_EQ(BT_GetStatus(BTN_MACRO_GROUP_7 + 1), BT_ON) << "on to key 3, which has no value";
     (void)Key(BTN_MACRO_GROUP_7 + 3);
     (void)Key(BTN_MACRO_GROUP_7 + 3);
@@ -314,42 +285,35 @@ TEST_F(MacroOfflinePage, TheParametersMoveBelowTheFocus)
 
 TEST_F(MacroOfflinePage, AStoreGoesToItsRegister)
 {
-    const std::string event = "Event?,MECut,ME?,P/P\n";
-    (void)Tell("Macro@Register@List#5,S,NEWS,U,0,0");
-    (void)Tell("Macro@Register@List#6,S,NEWS,L,0,0");
-    static const struct {
-        int target;
-        bool asks;
-        const char* head;
-    } cases[] = {
+    TellAll("Macro@Register@List#", {"5,S,NEWS,U,0,0", "6,S,NEWS,L,0,0"});
+    const std::tuple<int, bool, std::string> cases[] = {
         {3, false, HEAD},
         {4, false, "PNL 0001PNL_0004.PMRMCRO4\n"},
         {5, true, "PNL 0001PNL_0005.PMRMCRO5\n"},
         {6, false, HEAD}, // locked
     };
-    for (const auto& c : cases) {
-        OpenWith(event);
-        SendMessage(LMSG_KNOBVAR, NB_MACRO_REGISTER, c.target, 1, 0);
+    for (const auto& [target, asks, head] : cases) {
+        OpenWith(CUT);
+        SendMessage(LMSG_KNOBVAR, NB_MACRO_REGISTER, target, 1, 0);
         (void)Key(BTN_MACRO_STORE);
-        EXPECT_EQ(GetWindow() == WINDOW_MESSAGE, c.asks) << c.target;
-        if (c.asks)
+        EXPECT_EQ(GetWindow() == WINDOW_MESSAGE, asks) << target;
+        if (asks)
             (void)Confirm();
-        EXPECT_EQ(FileText(MACRO_EDIT_FILE), c.head + event) << c.target;
-        EXPECT_EQ(MacroOffLine_StoreModel == STOREMODEL_LOCKED, c.target == 6);
-        EXPECT_EQ(Pane_GetActiveID() != 0, c.target != 6) << "a job is under way";
+        EXPECT_EQ(FileText(MACRO_EDIT_FILE), head + CUT) << target;
+        EXPECT_EQ(MacroOffLine_StoreModel == STOREMODEL_LOCKED, target == 6);
+        EXPECT_EQ(Pane_GetActiveID() != 0, target != 6) << "a job is under way";
     }
 }
 
-TEST_F(MacroOfflinePage, AChangeIsNotLostByLeaving)
+TEST_F(MacroOfflinePage, AChangeIsNotLostByLeavingOrBuildingThePageAnew)
 {
-    OpenWith("Event?,MECut,ME?,P/P\n");
+    OpenWith(CUT);
     EXPECT_EQ(CreatePage(PAGE_TOP), 0);
     EXPECT_EQ(GL_NowPage, PAGE_TOP) << "nothing has changed";
     EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
 
-    OpenWith("Event?,MECut,ME?,P/P\n");
-    At(0, MACRO_COL_SLOT);
-    Choose("M/E-1");
+    OpenWith(CUT);
+    At(0, MACRO_COL_SLOT, {"M/E-1"});
     EXPECT_EQ(CreatePage(PAGE_TOP), 0);
     EXPECT_EQ(GL_NowPage, PAGE_MACRO_OFFLINE);
     const int pane = Pane_GetActiveID();
@@ -361,13 +325,23 @@ TEST_F(MacroOfflinePage, AChangeIsNotLostByLeaving)
     EXPECT_EQ(CreatePage(PAGE_MACRO_REGISTERS), 0);
     (void)Answer(2); // discard
     EXPECT_EQ(GL_CreatePage, PAGE_MACRO_REGISTERS);
+
+    // Nobody leaves a page that is built anew.
+    OpenWith(CUT);
+    for (const char* value : {"P/P", "M/E-1"}) { // unchanged, then changed
+        At(0, MACRO_COL_SLOT, {value});
+        EXPECT_EQ(CreatePage(PAGE_MACRO_OFFLINE), 0);
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID(), 0);
+        EXPECT_EQ(Events(), std::string("Event 1 MECut ") + value);
+    }
+    EXPECT_EQ(Stored(), HEAD + CUT_ME1);
 }
 
-TEST_F(MacroOfflinePage, AFailedStoreKeepsTheListAndSaysSo)
+TEST_F(MacroOfflinePage, AStoreGoesOnWithoutItsPageAndKeepsTheListWhenItFails)
 {
-    OpenWith("Event?,MECut,ME?,P/P\n");
-    At(0, MACRO_COL_SLOT);
-    Choose("M/E-1");
+    OpenWith(CUT);
+    At(0, MACRO_COL_SLOT, {"M/E-1"});
     (void)Key(BTN_MACRO_STORE);
     EXPECT_EQ(GetWindow(), WINDOW_NONE);
     Hub("Disconnect");
@@ -388,6 +362,18 @@ TEST_F(MacroOfflinePage, AFailedStoreKeepsTheListAndSaysSo)
         Pass(10);
     }
     EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0);
+
+    // The page may be left meanwhile.
+    OpenWith(CUT);
+    (void)Key(BTN_MACRO_STORE);
+    EXPECT_EQ(CreatePage(PAGE_MACRO_REGISTERS), 0);
+    EXPECT_EQ(GL_NowPage, PAGE_MACRO_REGISTERS);
+    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "the job still reads it";
+    (void)Pane_Quit(Pane_GetActiveID());
+    (void)Key(BTN_MACRO_OFFLINE);
+    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "nothing else is begun meanwhile";
+    Hub("Disconnect");
+    EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
 }
 
 namespace
@@ -445,8 +431,7 @@ TEST_F(MacroAttachPage, TheListIsInTheOrderOfThePanels)
     EXPECT_EQ(Row(2, 5), "M/E-1 XPT|KEY 7 XPT 2|Only|12|OPENING");
     const auto detail = [](int row) {
         LS_SetNowLine(1, row);
-        Pass(10);
-        return PixelsIn({100, 284, 566, 326});
+        return TablePage::Seen({100, 284, 566, 326});
     };
     EXPECT_NE(detail(0), detail(2));
     EXPECT_EQ(LS_GetNData(1), 6);
@@ -500,8 +485,7 @@ TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
         EXPECT_THAT(Puts(50), ElementsAre("put " + path + "#0"));
         const auto strip = [&](const char* number) {
             (void)Tell(path + "#" + number);
-            Pass(10);
-            return PixelsIn({100, 371, 566, 395});
+            return TablePage::Seen({100, 371, 566, 395});
         };
         const auto none = strip("0");
         EXPECT_NE(strip("1"), none);
@@ -512,20 +496,6 @@ TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
     }
 }
 
-TEST_F(MacroOfflinePage, AStoreGoesOnWhenThePageIsLeft)
-{
-    OpenWith("Event?,MECut,ME?,P/P\n");
-    (void)Key(BTN_MACRO_STORE);
-    EXPECT_EQ(CreatePage(PAGE_MACRO_REGISTERS), 0);
-    EXPECT_EQ(GL_NowPage, PAGE_MACRO_REGISTERS);
-    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "the job still reads it";
-    (void)Pane_Quit(Pane_GetActiveID());
-    (void)Key(BTN_MACRO_OFFLINE);
-    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "nothing else is begun meanwhile";
-    Hub("Disconnect");
-    EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
-}
-
 // Through the page: every event, the first word, lowest number or a text for each parameter.
 TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
 {
@@ -534,12 +504,11 @@ TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
         const char* const symbol = EVNT[i].paramvalue;
         if (i > 1)
             (void)Key(BTN_MACRO_INSERT_AFTER);
-        At(i - 1, MACRO_COL_SYMBOL);
-        Choose(symbol);
+        At(i - 1, MACRO_COL_SYMBOL, {symbol});
         const MACROPARAM* const slots = MacroSymbol_Find(symbol);
         for (int slot = 0; slot < get_param_count(symbol); slot++) {
             switch (const MACROPARAM& p = slots[slot]; p.entry) {
-            case MACROENTRY_LIST: Choose(p.paramvaluetbl[0].paramvalue); break;
+            case MACROENTRY_LIST: Choose({p.paramvaluetbl[0].paramvalue}); break;
             case MACROENTRY_NUMBER: Enter(p.min); break;
             case MACROENTRY_TIMECODE: Enter(1); break;
             case MACROENTRY_TEXT:

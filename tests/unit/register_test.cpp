@@ -2,6 +2,7 @@
 #include "memory.h"
 #include "register.h"
 #include "snapshot_region.h"
+#include <array>
 #include <climits>
 
 namespace
@@ -121,9 +122,7 @@ TEST_F(Registers, ALineLandsInItsPlace)
 TEST_F(Registers, RubbishIsDropped)
 {
     const int used = UsedMemPtr;
-    static const struct {
-        std::string path, value;
-    } lines[] = {
+    const std::pair<std::string, std::string> lines[] = {
         {MACRO, ""},
         {SHOTBOX, Commas(60)},
         {MASTER_TIMELINE, std::string(5000, '9') + Commas(60)},
@@ -139,9 +138,9 @@ TEST_F(Registers, RubbishIsDropped)
         {MASTER_TIMELINE, "1,Show,D,L" + Commas(42)},
         {CLIP + "User1@List", "FM1,1,ON,ON,ON,clip,1"},
     };
-    for (const auto& line : lines) {
-        Deliver(line.path, line.value);
-        EXPECT_THAT(Told(), ElementsAre()) << line.path << "#" << line.value;
+    for (const auto& [path, value] : lines) {
+        Deliver(path, value);
+        EXPECT_THAT(Told(), IsEmpty()) << path << "#" << value;
     }
     RegisterProc(MSG_TALLY, 0, 0, 0, 0);
     EXPECT_EQ(UsedMemPtr, used);
@@ -183,20 +182,25 @@ TEST_F(Registers, WhoIsToldReadsTheNewStateAndMayPlayItOn)
     EXPECT_EQ(Told().size(), 2u);
 }
 
-TEST_F(Registers, TwoLinksMakeFourGroupsOfChannels)
+TEST_F(Registers, TwoLinksMakeFourGroupsOfChannelsAndAHundredNumbersEach)
 {
-    static const struct {
-        const char* region;
-        int together, dual;
-    } cases[] = {{"DME1", 0, 0}, {"DME4", 0, 1}, {"DME5", 1, 2}, {"DME8", 1, 3}};
+    static const std::tuple<const char*, int, int> cases[] = {
+        {"DME1", 0, 0}, {"DME4", 0, 1}, {"DME5", 1, 2}, {"DME8", 1, 3}};
     for (const bool dual : {false, true}) {
         DualLink(dual);
-        for (const auto& c : cases) {
+        for (const auto& [region, one, two] : cases) {
             Register_Free();
-            Deliver(EFFECT + c.region, "301,D,x,U,N,0");
-            EXPECT_THAT(Told(), ElementsAre(Place{3, dual ? c.dual : c.together, 0})) << c.region;
+            Deliver(EFFECT + region, "301,D,x,U,N,0");
+            EXPECT_THAT(Told(), ElementsAre(Place{3, dual ? two : one, 0})) << region;
         }
     }
+    for (const auto& [reg, index] : {std::pair{1, 0}, {99, 98}, {101, 99}, {399, 395}}) {
+        EXPECT_EQ(Reg2Index(reg), index);
+        EXPECT_EQ(Index2Reg(index), reg);
+    }
+    for (const int reg : {-1, 0, 100, 300, 400})
+        EXPECT_EQ(Reg2Index(reg), -1) << reg;
+    EXPECT_EQ(Index2Reg(396), -1);
 }
 
 // --- Clip events ---
@@ -207,22 +211,19 @@ TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
     Deliver(CLIP + "User8@List", value);
     EXPECT_THAT(Told(), ElementsAre(Place{10, 7, 19, 98}));
     EXPECT_STREQ(ClipEvent_Tally_Name(7, 19, 98), "a");
-    EXPECT_EQ(ClipEvent_Tally_Event(7, 19, 98), 1);
-    EXPECT_EQ(ClipEvent_Tally_AutoPlay(7, 19, 98), 0);
-    EXPECT_EQ(ClipEvent_Tally_Loop(7, 19, 98), 1);
-    EXPECT_EQ(ClipEvent_Tally_Start_TC(7, 19, 98), -7);
-    EXPECT_EQ(ClipEvent_Tally_Stop_TC(7, 19, 98), INT_MAX);
+    EXPECT_THAT((std::array{ClipEvent_Tally_Event(7, 19, 98), ClipEvent_Tally_AutoPlay(7, 19, 98),
+                            ClipEvent_Tally_Loop(7, 19, 98), ClipEvent_Tally_Start_TC(7, 19, 98),
+                            ClipEvent_Tally_Stop_TC(7, 19, 98)}),
+                ElementsAre(1, 0, 1, -7, INT_MAX));
     Deliver(CLIP + "User1@List", "FM21,1,on,ON,,b,0,1");
     EXPECT_THAT(Told(), ElementsAre(Place{10})) << "the stranger is the first";
-    static const struct {
-        int size, scan, freq;
-        int start; // of 7 frames
-    } formats[] = {{2, 2, 5, 3}, {3, 2, 6, 3}, {3, 1, 5, 7}, {3, 2, 4, 7}, {1, 2, 5, 7}};
+    static const std::tuple<int, int, int, int> formats[] = {
+        {2, 2, 5, 3}, {3, 2, 6, 3}, {3, 1, 5, 7}, {3, 2, 4, 7}, {1, 2, 5, 7}};
     Deliver(CLIP + "User2@List", "FM1,1,ON,ON,ON,b,7,9");
-    for (const auto& f : formats) {
-        SYS_Format_Size = f.size, SYS_Format_Scan = f.scan, SYS_Format_Freq = f.freq;
-        EXPECT_EQ(ClipEvent_Tally_Start_TC(1, 0, 0), f.start) << f.size << f.scan << f.freq;
-        EXPECT_EQ(ClipEvent_Tally_Stop_TC(1, 0, 0), f.start + (f.start == 3 ? 1 : 2));
+    for (const auto& [size, scan, freq, start] : formats) {
+        SYS_Format_Size = size, SYS_Format_Scan = scan, SYS_Format_Freq = freq;
+        EXPECT_EQ(ClipEvent_Tally_Start_TC(1, 0, 0), start) << size << scan << freq;
+        EXPECT_EQ(ClipEvent_Tally_Stop_TC(1, 0, 0), start + (start == 3 ? 1 : 2));
     }
     Register_Free();
     EXPECT_STREQ(ClipEvent_Tally_Name(1, 0, 0), "");
@@ -286,22 +287,6 @@ TEST_F(Registers, AReturningEffectsUnitIsReadAgain)
 
     Deliver(EFFECT + "DME1", "5,D,old,L,N,0"); // as before, and yet a change
     EXPECT_EQ(Told().size(), 1u);
-}
-
-// --- Numbers and maps ---
-
-TEST_F(Registers, UserNumbersAndIndices)
-{
-    static const struct {
-        int reg, index;
-    } cases[] = {{1, 0}, {99, 98}, {101, 99}, {399, 395}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(Reg2Index(c.reg), c.index);
-        EXPECT_EQ(Index2Reg(c.index), c.reg);
-    }
-    for (const int reg : {-1, 0, 100, 300, 400})
-        EXPECT_EQ(Reg2Index(reg), -1) << reg;
-    EXPECT_EQ(Index2Reg(396), -1);
 }
 
 TEST_F(Registers, RegionsWithARegisterHaveTheirBitInTheMap)
