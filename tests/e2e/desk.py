@@ -208,17 +208,24 @@ class Desk:
         """The pixels of a rectangle, its edges included: two looks at it can be compared."""
         return [row[3 * x1:3 * x2 + 3] for row in self.pixels()[y1:y2 + 1]]
 
-    def log(self):
-        """The application's log."""
+    @staticmethod
+    def _text(path):
         try:
-            with open(os.path.join(self.root, "var", "log2", "tm3.log"), encoding="latin-1") as f:
+            with open(path, encoding="latin-1") as f:
                 return f.read()
         except FileNotFoundError:
             return ""
 
+    def log(self):
+        """The application's log."""
+        return self._text(os.path.join(self.root, "var", "log2", "tm3.log"))
+
     def output(self):
-        with open(self.out, encoding="latin-1") as f:
-            return f.read()
+        return self._text(self.out)
+
+    def sim_text(self):
+        """The whole of the simulator's log."""
+        return self._text(self.sim_log)
 
     def lines(self):
         """The lines of the simulator's log since the last call."""

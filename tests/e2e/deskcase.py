@@ -41,6 +41,7 @@ def list_row(number, top=76):
 
 class DeskCase(unittest.TestCase):
     """One start-up serves all tests."""
+    settles = 0  # seconds after which the last of the start's progress has gone
 
     @classmethod
     def make_desk(cls):
@@ -53,12 +54,20 @@ class DeskCase(unittest.TestCase):
         cls.desk.start_app()
         cls.desk.wait_wire(INITIAL_READ_END, 20)
         cls.desk.touch(400, 407)  # Cancel: the rest of the timed progress need not be watched
+        time.sleep(cls.settles)
 
     def open_page(self, number, sign):
         self.desk.wire()
         self.desk.console(f"page {number}")
         self.desk.wait_wire(sign)
         time.sleep(0.3)
+
+    def open(self, number):
+        self.open_page(number, "put TopMenu@SubMenuSite#false")  # every page says its side
+        self.desk.wire()
+
+    def path(self, path):
+        return os.path.join(self.desk.root, path)
 
     def asked(self, line):
         """What the simulator prints for a command of its console."""
@@ -84,39 +93,20 @@ class DeskCase(unittest.TestCase):
         self.wait_until(lambda: self.desk.part(*rect) != before, f"nothing changes in {rect}", timeout)
         return self.desk.part(*rect)
 
-
-class SetupCase(DeskCase):
-    """Pages of engineering setup: a list above two rows of keys."""
-
-    CHANGED = (b"\xff\xff\x00", b"\xa0\xe6\x32")  # a cell that differs, and the same while it is selected
-
-    def open(self, number):
-        self.open_page(number, "put TopMenu@SubMenuSite#false")
-        self.desk.wire()
-
-    def push(self, key):
-        self.desk.touch(*grid(key), settle=0.25)
-
-    def row(self, n, x=150, y=76):
-        self.desk.touch(x, y + 22 * (n + 1) + 10, settle=0.2)
-
-    def popup(self, place, columns, rows):
+    def popup(self, place, columns, rows=1):
         width, height = 78 * columns + 26, 43 * rows + 76
         self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,
                         300 - height // 2 + 50 + 43 * (place // columns), settle=0.25)
 
-    def changes(self):
-        """Whether the list has cells that differ from what the server has."""
-        pixels = b"".join(self.desk.part(100, 98, 649, 339))
-        return any(pixels[i:i + 3] in self.CHANGED for i in range(0, len(pixels), 3))
-
-    def type(self, text):
+    def type(self, text, erase=0):
         """Letters, then Enter. A machine under load may lose a touch: each letter is seen before the next."""
         entry, ground = (52, 160, 744, 196), b"\x00\x32\x41"  # of the keyboard
 
         def key(row, column, settle=0.15):
             self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, settle)
         self.wait_until(lambda: self.desk.part(*entry)[18][-3:] == ground)
+        for _ in range(erase):
+            key(4, 9.5)
         for c in text:
             before = self.desk.part(*entry)
             if c.isupper():
@@ -126,6 +116,23 @@ class SetupCase(DeskCase):
                 if self.desk.part(*entry) != before:
                     break
         key(2, 11.5, settle=0.6)
+
+
+class SetupCase(DeskCase):
+    """Pages of engineering setup: a list above two rows of keys."""
+
+    CHANGED = (b"\xff\xff\x00", b"\xa0\xe6\x32")  # a cell that differs, and the same while it is selected
+
+    def push(self, key):
+        self.desk.touch(*grid(key), settle=0.25)
+
+    def row(self, n, x=150, y=76):
+        self.desk.touch(x, y + 22 * (n + 1) + 10, settle=0.2)
+
+    def changes(self):
+        """Whether the list has cells that differ from what the server has."""
+        pixels = b"".join(self.desk.part(100, 98, 649, 339))
+        return any(pixels[i:i + 3] in self.CHANGED for i in range(0, len(pixels), 3))
 
     def listed(self, path, row):
         """A row of a list that the server holds, without its number."""

@@ -3,10 +3,11 @@
 usage: fmem_test.py BUILD_DIR [TEST...]
 """
 import os
+import re
 import time
 import unittest
 
-from deskcase import BUILD, DeskCase
+from deskcase import BUILD, YES, DeskCase
 from desk import Desk
 
 STORE = "var/units/SWR1/vorn/FM/1/"
@@ -14,8 +15,6 @@ HEAD = "Frame Mem 2@Clip/Still@"
 KEYS = 490  # the row of keys
 SOURCE, TARGET = (100, 120, 2), (402, 120, 2)  # the folders of the copy page: left edge, pitch, columns
 BESIDE, WIDE = (244, 132, 3), (104, 132, 4)
-YES = (200 + 97 + 30, 140 + 247 + 15)
-OK = (400, 407)  # of a message
 
 
 class ClipStore(DeskCase):
@@ -25,40 +24,18 @@ class ClipStore(DeskCase):
         desk.start_sim("--lay")
         return desk
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.wait_hub("InitRead#CS1.ClipStoreFile", 15)
-        time.sleep(0.3)
+    def setUp(self):
+        self.wait_hub("InitRead#CS1.ClipStoreFile", 15)
 
-    @classmethod
-    def hub(cls):
+    def hub(self):
         """What the hub has been asked for."""
-        with open(cls.desk.sim_log, encoding="latin-1") as log:
-            return [line.split("< hub ", 1)[1].rstrip("\n") for line in log if "< hub " in line]
+        return re.findall("< hub (.*)", self.desk.sim_text())
 
-    @classmethod
-    def wait_hub(cls, line, timeout=5.0):
-        end = time.monotonic() + timeout
-        while line not in cls.hub():
-            assert time.monotonic() < end, (line, cls.hub()[-8:])
-            time.sleep(0.05)
-
-    def wait_for(self, what, timeout=5.0):
-        end = time.monotonic() + timeout
-        while not what():
-            self.assertLess(time.monotonic(), end)
-            time.sleep(0.05)
+    def wait_hub(self, line, timeout=5.0):
+        self.wait_until(lambda: line in self.hub(), line, timeout)
 
     def has(self, name):
-        return os.path.exists(os.path.join(self.desk.root, STORE + name + ".SFH"))
-
-    def show(self, number):
-        self.desk.wire()
-        self.desk.console(f"page {number}")
-        self.desk.wait_wire("put TopMenu@SubMenuSite#false")
-        time.sleep(0.3)
-        self.desk.wire()
+        return os.path.exists(self.path(STORE + name + ".SFH"))
 
     def touch(self, x, y=KEYS):
         self.desk.touch(x, y, 0.2)
@@ -74,134 +51,133 @@ class ClipStore(DeskCase):
         return [int(x) for x in self.desk.value(f"{HEAD}Play@FM1").split(",")]
 
     def test_1_a_clip_is_recalled_and_plays_in_a_loop(self):
-        self.show("2111")
+        self.open("2111")
         self.cell(BESIDE, 2)
         self.touch(466)
         self.desk.wait_wire(f"put {HEAD}Recall@FM1#0,0,1,0,/BREAK.SFH")
-        self.wait_for(lambda: self.status() == "2,/BREAK.SFH")
-        self.show("2113")
+        self.wait_until(lambda: self.status() == "2,/BREAK.SFH")
+        self.open("2113")
         self.touch(690, 130)  # the end of the time line
-        self.wait_for(lambda: self.play()[1] == 74)
+        self.wait_until(lambda: self.play()[1] == 74)
         self.touch(292, 480)
         self.touch(384, 370)
-        self.wait_for(lambda: self.play()[0] == 1 and self.play()[1] < 60)
+        self.wait_until(lambda: self.play()[0] == 1 and self.play()[1] < 60)
         before = self.desk.part(100, 120, 230, 200)
         time.sleep(0.4)
         self.assertNotEqual(before, self.desk.part(100, 120, 230, 200))  # the thumbnail moves
         self.touch(476, 370)
-        self.wait_for(lambda: self.play()[0] == 0)
+        self.wait_until(lambda: self.play()[0] == 0)
         self.touch(292, 260)  # it starts where it stands
-        self.wait_for(lambda: self.play()[2] == self.play()[1])
+        self.wait_until(lambda: self.play()[2] == self.play()[1])
 
     def test_2_a_recording_and_a_freeze_are_in_the_folder(self):
-        self.show("2114")
+        self.open("2114")
         self.touch(466)
         self.desk.wait_wire(f"put  {HEAD}Record@FM1#1,0,300,1")
         time.sleep(0.5)
         self.touch(560)
-        self.wait_for(lambda: self.has("img0000") and self.status() == "2,/img0000.SFH")
-        self.show("2115")
+        self.wait_until(lambda: self.has("img0000") and self.status() == "2,/img0000.SFH")
+        self.open("2115")
         self.touch(466)
-        self.wait_for(lambda: self.has("img0001") and self.status() == "2,/img0001.SFH")
+        self.wait_until(lambda: self.has("img0001") and self.status() == "2,/img0001.SFH")
 
     def test_3_a_folder_is_copied_into_another_and_over_itself(self):
-        self.show("2121")
+        self.open("2121")
         self.cell(TARGET, 1)
         self.cell(TARGET, 1)  # NEWS
         self.cell(SOURCE, 0)  # LOGOS
         self.touch(382)
         self.wait_hub("Execute#CS1.ClipStoreFile:Copy root/LOGOS/SPONSOR.SFH root/NEWS/LOGOS/SPONSOR.SFH")
-        self.wait_for(lambda: self.has("NEWS/LOGOS/SPONSOR"))
+        self.wait_until(lambda: self.has("NEWS/LOGOS/SPONSOR"))
         time.sleep(0.5)
         count = len(self.hub())
         self.touch(382)
         self.touch(*YES)
-        self.wait_for(lambda: sum("Copy root/LOGOS/" in line for line in self.hub()[count:]) == 2)
+        self.wait_until(lambda: sum("Copy root/LOGOS/" in line for line in self.hub()[count:]) == 2)
         self.assertFalse(any("MakeFolder" in line for line in self.hub()[count:]))
         time.sleep(1)
 
     def test_4_what_is_shown_goes_to_black_before_it_goes(self):
-        self.show("2122")
+        self.open("2122")
         self.cell(WIDE, 5)  # img0001, on FM1
         self.touch(612)
         self.touch(*YES)
         self.assertTrue(self.has("img0001"))
         self.touch(*YES)  # it is in use
         self.desk.wait_wire(f"put {HEAD}Record@Through@FM1#0,0")
-        self.wait_for(lambda: not self.has("img0001"))
+        self.wait_until(lambda: not self.has("img0001"))
         self.assertEqual(self.status(), "0,")
         time.sleep(0.6)
 
     def test_5_a_clip_gets_another_name(self):
-        self.show("2122")
+        self.open("2122")
         self.cell(WIDE, 4)  # img0000
         self.touch(522)
         time.sleep(0.3)
-        self.touch(39 + 12 + 54 + 25, 115 + 91 + 54 * 1 + 25)  # a letter more
-        self.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25)  # Enter
-        self.wait_for(lambda: not self.has("img0000"))
+        self.type("w")
+        self.wait_until(lambda: not self.has("img0000"))
         moved = [line for line in self.hub() if "Move root/img0000.SFH" in line]
         self.assertTrue(self.has(moved[-1].split("root/")[-1][:-4]), moved)
 
     def test_6_a_video_and_a_key_become_a_pair_and_two_clips_again(self):
         self.desk.console("clip make A 10")
         self.desk.console("clip make B 10")
-        self.show("2123")
+        self.open("2123")
         self.cell(SOURCE, 2)
         self.cell(TARGET, 3)
         self.touch(562)
         self.wait_hub("Execute#CS1.ClipStoreFile:Couple root/A.SFH root/B.SFH")
-        self.wait_for(lambda: not self.has("B"))
+        self.wait_until(lambda: not self.has("B"))
         time.sleep(1.0)  # its progress has gone
         self.touch(652)
         self.wait_hub("Execute#CS1.ClipStoreFile:Separate root/A.SFH")
-        self.wait_for(lambda: self.has("A_K"))
+        self.wait_until(lambda: self.has("A_K"))
         time.sleep(0.6)
 
     def test_7_a_tree_with_a_playing_clip_is_deleted_when_it_has_stopped(self):
-        self.show("2111")
+        self.open("2111")
         self.cell(BESIDE, 1)
         self.cell(BESIDE, 1)  # NEWS
         self.cell(BESIDE, 2)
         self.touch(466)
-        self.wait_for(lambda: self.status() == "2,/NEWS/OPENING.SFH")
-        self.show("2113")
+        self.wait_until(lambda: self.status() == "2,/NEWS/OPENING.SFH")
+        self.open("2113")
         self.touch(384, 370)
-        self.wait_for(lambda: self.play()[0] == 1)
-        self.show("2122")
+        self.wait_until(lambda: self.play()[0] == 1)
+        self.open("2122")
         self.cell(WIDE, 1)
         self.touch(612)
         self.touch(*YES)
         self.touch(400, 402)  # it plays
         self.assertTrue(self.has("NEWS/OPENING"))
-        self.show("2113")
+        self.open("2113")
         self.touch(476, 370)
-        self.show("2122")
+        self.open("2122")
         self.touch(612)
         self.touch(*YES)
         self.touch(*YES)  # it is in use
         self.wait_hub("Execute#CS1.ClipStoreFolder:DeleteFolder root/NEWS", 10)
-        self.wait_for(lambda: not os.path.exists(os.path.join(self.desk.root, STORE + "NEWS")))
+        self.wait_until(lambda: not os.path.exists(self.path(STORE + "NEWS")))
         self.assertEqual(self.status(), "0,")
         time.sleep(0.6)
 
     def test_8_the_hub_goes_while_clips_are_loaded(self):
-        self.show("2112")
+        self.open("2112")
         self.touch(292)
         self.desk.console("hub slow 100")
         self.touch(482)
         count = len(self.hub())
         self.desk.console("hub drop")
-        self.wait_for(lambda: "InitRead#CS1.ClipStoreFile" in self.hub()[count:], 15)
+        self.wait_until(lambda: "InitRead#CS1.ClipStoreFile" in self.hub()[count:])
         self.desk.console("hub slow 1")
         time.sleep(0.6)
         count = len(self.hub())
         self.touch(482)  # a message that the load has ended stands over the page
         self.assertEqual(len(self.hub()), count)
-        self.touch(*OK)
+        self.touch(400, 407)
         self.touch(292)
         self.touch(482)  # nothing does any more, and the tree is there
-        self.wait_for(lambda: any("Register root/STATION.SFH" in line for line in self.hub()[count:]))
+        self.wait_until(lambda: any("Register root/STATION.SFH" in line for line in self.hub()[count:]))
 
 
 if __name__ == "__main__":

@@ -8,14 +8,12 @@ import time
 import unittest
 
 from desk import Desk
-from deskcase import BUILD, DeskCase
+from deskcase import BUILD, YES, DeskCase
 
 STORE = "put File@Frame Memory@PutV3#"
 DELETE, RENAME = "put Frame Mem@File@Delete Thumbnail@Single#", "put Frame Mem@File@Rename#"
 FOLDER = "mnt/data/user/root/SYSTEM/FMEMFOL/"
 ROW = 22
-KEYS = {key: (row, column) for row, keys in enumerate(("`1234567890-=", "qwertyuiop[]", "asdfghjkl", "  zxcvbnm"))
-        for column, key in enumerate(keys)}
 
 
 def bmp(width, height):
@@ -25,45 +23,11 @@ def bmp(width, height):
 
 
 class FrameCase(DeskCase):
-    def path(self, path):
-        return os.path.join(self.desk.root, path)
-
-    def wait_line(self, begin, timeout=5.0):
-        """The lines up to now, once one of them begins so."""
-        lines, end = [], time.monotonic() + timeout
-        while time.monotonic() < end:
-            lines += self.desk.wire()
-            if any(line.startswith(begin) for line in lines):
-                return lines
-            time.sleep(0.05)
-        self.fail(f"{begin!r} did not come; the wire said {lines[-8:]}")
-
     def touch(self, x, y):
         self.desk.touch(x, y, 0.15)
 
-    def show(self, number):
-        self.desk.console(f"page {number}")
-        time.sleep(0.4)
-        self.desk.wire()
-
-    def popup(self, place, of):
-        """A cell of a pop-up of one row."""
-        self.touch(400 - (78 * of + 26) // 2 + 15 + 78 * place + 30, 300 - (43 + 76) // 2 + 50)
-
-    def yes(self):
-        self.touch(200 + 97 + 30, 140 + 247 + 15)
-
-    def type(self, text, erase=0):
-        def key(row, column):
-            self.desk.touch(39 + 12 + int(54 * column) + 25, 115 + 91 + 54 * row + 25, 0.1)
-        for _ in range(erase):
-            key(4, 9.5)
-        for c in text:
-            key(*KEYS[c])
-        key(2, 11.5)
-
     def settle(self, begin, timeout=5.0):
-        lines = self.wait_line(begin, timeout)
+        lines = self.desk.wait_wire(begin, timeout, starts=True)
         time.sleep(0.4)  # the pane closes, the lists are read anew
         return lines + self.desk.wire()
 
@@ -73,11 +37,11 @@ class FramePages(FrameCase):
         os.makedirs(self.path("mnt/usb/usb1/SYSTEM"), exist_ok=True)
         with open(self.path("mnt/usb/usb1/SYSTEM/beach.BMP"), "wb") as out:
             out.write(bmp(64, 36))
-        self.show(7161)
+        self.open(7161)
         time.sleep(1)  # the store is being read
         self.touch(540, 478)
         self.popup(1, 4)
-        self.wait_line("put File@Access@Find#")
+        self.desk.wait_wire("put File@Access@Find#", starts=True)
         time.sleep(0.5)
         self.touch(470, 124 + ROW + 10)
         self.touch(400, 478)
@@ -90,10 +54,10 @@ class FramePages(FrameCase):
         self.touch(400, 400)
 
     def test_2_a_register_becomes_a_picture(self):
-        self.show(7161)
+        self.open(7161)
         self.touch(540, 478)
         self.popup(3, 4)
-        self.wait_line("put File@Access@Find#")
+        self.desk.wait_wire("put File@Access@Find#", starts=True)
         time.sleep(0.3)
         self.touch(290, 478)  # the first register is selected
         self.settle("put File@Access@Find#")  # the job has ended
@@ -101,7 +65,7 @@ class FramePages(FrameCase):
             self.assertEqual(file.read(8), b"\x89PNG\r\n\x1a\n")
 
     def test_3_stills_are_saved_deleted_and_loaded_into_a_folder(self):
-        self.show(7151)
+        self.open(7151)
         rows = 3  # of folders
         self.touch(170, 124 + ROW * (1 + rows) + 10)
         self.touch(290, 478)
@@ -112,9 +76,9 @@ class FramePages(FrameCase):
         time.sleep(0.4)
         self.touch(170, 124 + ROW * (1 + rows) + 10)
         self.touch(240, 480)
-        self.yes()
-        self.wait_line(DELETE + "Mlogo")
-        self.show(7151)
+        self.touch(*YES)
+        self.desk.wait_wire(DELETE + "Mlogo", starts=True)
+        self.open(7151)
         self.touch(170, 124 + ROW * 3 + 10)  # News
         self.touch(520, 124 + ROW * (1 + rows) + 10)
         self.touch(400, 478)
@@ -127,44 +91,38 @@ class FramePages(FrameCase):
         self.touch(400, 400)
 
     def test_4_a_still_gets_another_name(self):
-        self.show(7151)
+        self.open(7151)
         self.touch(170, 124 + ROW + 10)
         self.touch(150, 480)
         time.sleep(0.4)
         self.touch(170, 124 + ROW * 4 + 10)
         self.touch(150, 480)
         self.type("sky", erase=5)
-        lines = self.wait_line(RENAME)
+        lines = self.desk.wait_wire(RENAME, starts=True)
         self.assertTrue(any(line.startswith(RENAME) and line.endswith("sky") for line in lines), lines)
 
     def test_5_folders(self):
-        self.show(7152)
+        self.open(7152)
         self.touch(150, 480)
         self.type("show")
-        self.wait_line("put Frame Mem@Folder@Rename#3,show")
+        self.desk.wait_wire("put Frame Mem@Folder@Rename#3,show", starts=True)
         self.assertIn(",3,show,", self.desk.value("16@Frame Mem@Status@Folder Name Sense"))
         self.touch(200, 78 + ROW * 4 + 10)
         self.touch(350, 480)
-        self.yes()
-        self.wait_line("put Frame Mem@Folder@Delete#3")
+        self.touch(*YES)
+        self.desk.wait_wire("put Frame Mem@Folder@Delete#3", starts=True)
 
     def wait_hub(self, text, timeout=20.0):
         """A line of the hub's link: it goes at its own pace."""
-        end = time.monotonic() + timeout
-        while time.monotonic() < end:
-            with open(self.desk.sim_log, errors="replace", encoding="utf-8") as log:
-                if text in log.read():
-                    return
-            time.sleep(0.1)
-        self.fail(f"the hub did not say {text!r}")
+        self.wait_until(lambda: text in self.desk.sim_text(), f"the hub did not say {text!r}", timeout)
 
     def test_6_a_clip_goes_out_and_comes_back_into_another_folder(self):
         self.wait_hub("InitRead#CS1.ClipStoreFile")
         self.desk.console("clip make NEWS/SHOW 3")
-        self.show(7162)
+        self.open(7162)
         self.touch(540, 478)
         self.popup(3, 5)  # PNG
-        self.wait_line("put File@Access@Find#")
+        self.desk.wait_wire("put File@Access@Find#", starts=True)
         for _ in ("NEWS", "SHOW"):
             self.touch(170, 124 + ROW + 10)
             time.sleep(0.3)
@@ -183,7 +141,7 @@ class FramePages(FrameCase):
     def test_7_a_clip_is_saved_in_its_own_form_and_loaded_again(self):
         local = self.path("mnt/data/user/root")
         self.desk.console("clip make OTHER/STILL 1")
-        self.show(7162)
+        self.open(7162)
         self.touch(540, 478)
         self.popup(4, 5)  # SFH
         time.sleep(0.3)
@@ -221,50 +179,50 @@ class RegisterPages(FrameCase):
 
     def test_1_stills_go_to_the_outputs(self):
         time.sleep(1.0)  # the catalogue comes
-        self.show("2111")  # the menu's key leads to them
+        self.open("2111")  # the menu's key leads to them
         self.row(2)  # logo
         self.key(1)
-        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@FM2#Slogo")
+        self.desk.wait_wire("put Frame Mem@Recall@Recall Thumbnail@FM2#Slogo", starts=True)
         self.key(2)  # Pair
         self.touch(450, 98)
         self.popup(1, 4)  # FM3-FM4
-        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@Select#FM3&4")
+        self.desk.wait_wire("put Frame Mem@Recall@Recall Thumbnail@Select#FM3&4", starts=True)
         time.sleep(0.3)
         self.key(0)
-        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@FM4#Slogo")
+        self.desk.wait_wire("put Frame Mem@Recall@Recall Thumbnail@FM4#Slogo", starts=True)
         self.assertEqual([self.recalled(n) for n in (2, 3, 4)], ["Slogo", "Mlogo", "Slogo"])
 
     def test_2_a_recalled_still_is_renamed_and_deleted(self):
-        self.show("2512")
+        self.open("2512")
         self.row(2)
         self.key(0)
         self.type("sky", erase=5)
-        self.wait_line(RENAME + "Slogo,Ssky")
+        self.desk.wait_wire(RENAME + "Slogo,Ssky", starts=True)
         time.sleep(0.4)
         self.row(2)
         self.key(1)
-        self.yes()
-        lines = self.wait_line(DELETE + "Ssky")
+        self.touch(*YES)
+        lines = self.desk.wait_wire(DELETE + "Ssky", starts=True)
         self.assertIn(DELETE + "Msky", lines)
 
     def test_3_a_clip_goes_to_another_folder_and_shows_its_frames(self):
-        self.show("2521")
+        self.open("2521")
         self.touch(150, 98)
         self.touch(385, 150)  # News
         time.sleep(0.3)
         self.row(0)
         self.key(4)
         self.key(0)
-        self.wait_line("put Frame Mem@Recall@Recall Thumbnail@FM3#Mnews0004")
-        self.show("2522")
+        self.desk.wait_wire("put Frame Mem@Recall@Recall Thumbnail@FM3#Mnews0004", starts=True)
+        self.open("2522")
         self.row(0)
         self.key(2)
         self.touch(180, 150)  # the first folder
-        lines = self.wait_line("put 16@Frame Mem@Folder@Move Still#0,Snews0002,0")
+        lines = self.desk.wait_wire("put 16@Frame Mem@Folder@Move Still#0,Snews0002,0", starts=True)
         self.assertEqual(sum("Move Still#0," in line for line in lines), 6)
 
     def test_4_a_freeze_is_stored(self):
-        self.show("2531")
+        self.open("2531")
         self.touch(640, 395)  # Auto Store
         self.key(0)
         lines = self.settle("put Frame Mem@Edit@Store@PROC1#")

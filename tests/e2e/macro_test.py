@@ -2,7 +2,6 @@
 
 usage: macro_test.py BUILD_DIR [TEST...]
 """
-import os
 import time
 import unittest
 
@@ -40,27 +39,14 @@ EVERY_EVENT = (  # in the order in which the editor offers them
 class Macros(DeskCase):
     """The tests build on one another, in the order of their names."""
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        time.sleep(1)  # the last of the start's progress has gone
+    settles = 1
 
     def content(self):
         try:
-            with open(os.path.join(self.desk.root, EDIT), "rb") as file:
+            with open(self.path(EDIT), "rb") as file:
                 return file.read()
         except FileNotFoundError:
             return None
-
-    def sim_log(self):
-        with open(self.desk.sim_log, encoding="latin-1") as log:
-            return log.read()
-
-    def wait(self, is_so, timeout=15.0):
-        end = time.monotonic() + timeout
-        while not is_so():
-            self.assertLess(time.monotonic(), end)
-            time.sleep(0.05)
 
     def touch(self, *places):
         for place in places:
@@ -69,11 +55,8 @@ class Macros(DeskCase):
     def value(self, *rows):
         self.touch(*[(VALUES[0], VALUES[1] + 22 * row) for row in rows])
 
-    def page(self, number):
-        self.open_page(number, "put TopMenu@SubMenuSite#false")
-
     def open_editor(self, register):
-        self.page(5412)
+        self.open(5412)
         self.touch((REGISTERS[0], REGISTERS[1] + 22 * (register - 1)))
         self.desk.wire()
         self.desk.touch(*OFFLINE)
@@ -94,10 +77,10 @@ class Macros(DeskCase):
         self.value(1)  # Continue
         desk.wire()
         self.touch(STORE)
-        self.wait(lambda: any("SCP Dir Put" in line for line in desk.wire()))
+        self.wait_until(lambda: any("SCP Dir Put" in line for line in desk.wire()))
         self.assertEqual(self.content(), made)
         time.sleep(2.0)
-        self.page(5412)  # nothing is asked: it is stored
+        self.open(5412)  # nothing is asked: it is stored
         self.assertIsNone(self.content())
         self.open_editor(9)
         self.assertEqual(self.content(), made)
@@ -115,7 +98,7 @@ class Macros(DeskCase):
     def test_3_attachments_go_one_by_one_and_all_at_once(self):
         desk = self.desk
         entry = "9,2,1,0,9,0,0,0,0,0,0,0,0"  # M/E-1 Trans
-        self.page(5421)
+        self.open(5421)
         before = desk.part(100, 122, 650, 270)
         desk.console("attach " + entry)
         time.sleep(0.5)
@@ -135,7 +118,7 @@ class Macros(DeskCase):
 
     def test_4_a_register_is_edited_in_place(self):
         desk, edit = self.desk, "put Macro@Reg@On Line Edit@"
-        self.page(5412)
+        self.open(5412)
         self.touch(REGISTERS)  # register 1
         desk.wire()
         desk.touch(*ONLINE)
@@ -182,21 +165,21 @@ class Macros(DeskCase):
         self.touch(DELETE)
         desk.console("ng next 1 Disk")
         self.touch(STORE)
-        self.wait(lambda: "NG(Disk)" in self.sim_log())
+        self.wait_until(lambda: "NG(Disk)" in desk.sim_text())
         time.sleep(1)
         self.assertIn(b"PMRALL", self.content())  # nothing is lost
         self.touch((400, 413), (600, 450))  # its window
         desk.wire()
-        before_store = len(self.sim_log())
+        before_store = len(desk.sim_text())
         self.touch(STORE)
-        self.wait(lambda: any("SCP Dir Put" in line for line in desk.wire()))
-        self.wait(lambda: "STATUS:Standby" in self.sim_log()[before_store:])  # not that of the store that failed
+        self.wait_until(lambda: any("SCP Dir Put" in line for line in desk.wire()))
+        self.wait_until(lambda: "STATUS:Standby" in desk.sim_text()[before_store:])  # not that of the store that failed
         stored = [line for line in self.content().decode().splitlines() if not line.startswith("Event?,Pause")]
         self.assertEqual(stored, [before[0]] + before[2:])
         desk.console("attach 8,6,1,0,8,0,0,0,0,0,0,0,0")
         desk.console("macro press 8 6 1")
-        self.wait(lambda: "macro 8 has ended" in self.sim_log(), 30)
-        ran = [line.split("macro 8: ")[1] for line in self.sim_log().splitlines() if "macro 8: " in line]
+        self.wait_until(lambda: "macro 8 has ended" in desk.sim_text(), timeout=30)
+        ran = [line.split("macro 8: ")[1] for line in desk.sim_text().splitlines() if "macro 8: " in line]
         self.assertEqual([e for e in ran if not e.startswith("Pause")], [e for e in EVERY_EVENT[1:] if "Pause" not in e])
         self.assertEqual(desk.value("Device@Dev1@Command"), "DeviceRecord")
         self.assertEqual(desk.value("Panel@Xpt Pad@Aux@Page"), "Page2")

@@ -1,10 +1,10 @@
 """A person records twenty touches with a pause, edits and stores them; after a restart the run sends the same."""
-import datetime
 import os
 import re
 import statistics
 import time
 import unittest
+from datetime import datetime
 
 from desk import INITIAL_READ_END, grid
 from deskcase import DeskCase
@@ -25,44 +25,27 @@ class MenuMacro(DeskCase):
 
     def key_types(self, since=0):
         """(seconds, line) of each key type that was sent; lines from the log, whoever has read the wire."""
-        with open(self.desk.sim_log, encoding="latin-1") as log:
-            lines = re.findall(rf"^(\S+) .*?< ({re.escape(KEY_TYPE)}.*)$", log.read(), re.M)
-        return [(self.seconds(stamp), line) for stamp, line in lines][since:]
-
-    @staticmethod
-    def seconds(stamp):
-        clock = datetime.datetime.strptime(stamp.strip("[]"), "%H:%M:%S.%f")
-        return clock.hour * 3600 + clock.minute * 60 + clock.second + clock.microsecond / 1e6
-
-    def page(self, number):
-        self.desk.console(f"page {number}")
-        time.sleep(0.5)
-
-    def run_once(self):
-        """What a run sends."""
-        before = len(self.key_types())
-        self.desk.console("send Info@Menu Macro@Run#1")
-        time.sleep(9)
-        return self.key_types(before)
+        lines = re.findall(rf"^(\S+) .*?< ({re.escape(KEY_TYPE)}.*)$", self.desk.sim_text(), re.M)
+        return [(datetime.strptime(stamp, "%H:%M:%S.%f").timestamp(), line) for stamp, line in lines][since:]
 
     def test_01_record_and_store(self):
         time.sleep(3)  # the initial read ends with a pause in which nothing is touched
-        self.page("5431")
+        self.open("5431")
         self.desk.touch(*grid(54))
         for key in ("Auto Insert", "Pause Auto Insert"):
             self.desk.touch(*EDITOR_KEYS[key])
-        self.page("1111")
+        self.open("1111")
         for n in range(20):
             if n == 10:
                 time.sleep(PAUSE)
             self.desk.touch(*grid((LINEAR, LUMINANCE)[n % 2]), settle=0.15)
         type(self).touches = self.key_types()
         self.assertEqual(len(self.touches), 20)
-        self.page("7144.102")
+        self.open("7144.102")
         self.desk.touch(*EDITOR_KEYS["Delete"])  # the cursor stands at the last event
         self.desk.touch(*EDITOR_KEYS["Store"])
         self.desk.touch(*EDITOR_KEYS["Exit"])
-        with open(f"{self.desk.root}/mnt/data/Menu_Macro_tmp/mm_reg01.tmp", encoding="ascii") as file:
+        with open(self.path("mnt/data/Menu_Macro_tmp/mm_reg01.tmp"), encoding="ascii") as file:
             text = file.read()
         self.assertEqual(text.count("\nEvent:put "), 19)
         self.assertEqual(text.count("\nPause:"), 19)
@@ -73,7 +56,10 @@ class MenuMacro(DeskCase):
         self.desk.wait_wire(INITIAL_READ_END, 20)
         self.desk.touch(400, 407)  # Cancel
         time.sleep(3)
-        ran = self.run_once()
+        before = len(self.key_types())
+        self.desk.console("send Info@Menu Macro@Run#1")
+        time.sleep(9)
+        ran = self.key_types(before)
         recorded = self.touches[:-1]
         self.assertEqual([line for _, line in ran], [line for _, line in recorded])
         waits, were = ([t[n][0] - t[n - 1][0] for n in range(1, len(t))] for t in (ran, recorded))
@@ -83,9 +69,9 @@ class MenuMacro(DeskCase):
 
     def test_03_another_page_and_a_pane_do_not_hold_it_up(self):
         before = len(self.key_types())
-        self.page("5431")
+        self.open("5431")
         self.desk.touch(*grid(RECALL_RUN))
-        self.page("6411")
+        self.open("6411")
         self.desk.touch(45, 35)  # the page window
         time.sleep(8)
         self.desk.touch(*PAGE_CANCEL)  # no page comes up beneath the window
@@ -94,57 +80,48 @@ class MenuMacro(DeskCase):
     def test_04_stop_in_the_pause(self):
         before = len(self.key_types())
         self.desk.console("send Info@Menu Macro@Run#1")
-        end = time.monotonic() + 10
-        while len(self.key_types(before)) < 10 and time.monotonic() < end:
-            time.sleep(0.05)
+        self.wait_until(lambda: len(self.key_types(before)) >= 10)
         time.sleep(0.7)
         self.desk.console("send Info@Menu Macro@Run#0")
         time.sleep(4)
         self.assertEqual(len(self.key_types(before)), 10)
 
     def test_05_a_link_that_falls_gives_no_burst(self):
-        before, end = len(self.key_types()), time.monotonic() + 60
+        before = len(self.key_types())
         self.desk.console("send Info@Menu Macro@Run#1")
-        while len(self.key_types(before)) < 4:
-            time.sleep(0.05)
-            self.assertLess(time.monotonic(), end)
+        self.wait_until(lambda: len(self.key_types(before)) >= 4)
         self.desk.console("drop text 2000")
-        while len(self.key_types(before)) < 18:  # what was under way when it fell may be lost
-            time.sleep(0.2)
-            self.assertLess(time.monotonic(), end, "the run goes on")
+        # What was under way when it fell may be lost.
+        self.wait_until(lambda: len(self.key_types(before)) >= 18, "the run goes on", 60)
         ran = self.key_types(before)
         waits = [ran[n][0] - ran[n - 1][0] for n in range(1, len(ran))]
         self.assertGreater(min(waits), 0.1)
         self.assertGreater(max(waits), 2)
 
     def test_06_a_register_goes_to_a_drive_and_comes_back(self):
-        register = f"{self.desk.root}/mnt/data/Menu_Macro_tmp/mm_reg01.tmp"
-        drive = f"{self.desk.root}/mnt/data/user/root/SYSTEM/MENUMACRO/CTRLCPU/MMCR1.GUI_0000.MMR"
+        register = self.path("mnt/data/Menu_Macro_tmp/mm_reg01.tmp")
+        drive = self.path("mnt/data/user/root/SYSTEM/MENUMACRO/CTRLCPU/MMCR1.GUI_0000.MMR")
         left, right, to_right, to_left = (150, 157), (450, 157), (290, 478), (405, 478)
         with open(register, encoding="ascii") as file:
             text = file.read()
-        self.page("7144")
-        time.sleep(0.5)
+        self.open("7144")
         for place in (left, to_right):
             self.desk.touch(*place)
         self.assertEqual(self.text_of(drive), text)
-        time.sleep(1)
-        self.page("5436")
+        time.sleep(2)
+        self.open("5436")
         self.desk.touch(300, 111)
         self.desk.touch(*grid(49))
         self.desk.touch(341, 414)  # Yes
         self.assertFalse(os.path.exists(register))
-        os.rmdir(f"{self.desk.root}/var/tmp/MenuMacro")  # empty, and gone as after a start
-        self.page("7144")
-        time.sleep(0.5)
+        os.rmdir(self.path("var/tmp/MenuMacro"))  # empty, and gone as after a start
+        self.open("7144")
         for place in (right, left, to_left):
             self.desk.touch(*place)
         self.assertEqual(self.text_of(register), text)
 
     def text_of(self, path):
-        end = time.monotonic() + 8
-        while not os.path.exists(path) and time.monotonic() < end:
-            time.sleep(0.1)
+        self.wait_until(lambda: os.path.exists(path))
         with open(path, encoding="ascii") as file:
             return file.read()
 

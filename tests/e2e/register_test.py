@@ -27,13 +27,13 @@ REGION, RECALL = 49, 50
 class Registers(DeskCase):
     """The tests build on one another, in the order of their names: one start-up serves all."""
 
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        time.sleep(1)  # the last of the start's progress has gone
+    settles = 1
 
-    def page(self, number):
-        self.open_page(number, "put TopMenu@SubMenuSite#false")  # every page says its side
+    def open(self, number, *rows):
+        """A page, and a touch on a row of its list, or on one in each of two."""
+        super().open(number)
+        for row, (x, top) in zip(rows, ((A, DUAL_TOP), (B, DUAL_TOP)) if rows[1:] else ((A, TOP),)):
+            self.row(row, x, top)
 
     def row(self, number, x=A, top=TOP):
         self.desk.touch(x, top + 22 * number + 11, settle=0.2)
@@ -90,7 +90,7 @@ class Registers(DeskCase):
 
     def test_1_two_banks_come_back_but_for_the_key_under_hold(self):
         self.set_all("Linear")
-        self.page(6321)
+        self.open(6321)
         self.press(REGION)
         self.desk.touch(240, 208)  # M/E-2 beside M/E-1: now the reference
         self.desk.touch(*ENTER)
@@ -99,41 +99,34 @@ class Registers(DeskCase):
         self.press(37)  # to the crosspoint hold
         self.row(3)  # below the two backgrounds: key 1
         self.press(49, SNAPSHOTS + "Attribute@Xpt Hold#6,4,4,1")
-        self.page(6321)
+        self.open(6321)
         self.set_all("Chroma")
         self.press(RECALL, SNAPSHOTS + "Recall#6, 4")
         self.assertEqual(self.values(), ["Chroma", "Linear", "Linear"])
 
     def test_2_a_lock_refuses_and_a_name_shows(self):
-        self.page(6322)
-        self.row(4)
+        self.open(6322, 4)
         self.press(51, SNAPSHOTS + "Lock#6,4,4")
-        self.page(6326)
-        self.row(4)
+        self.open(6326, 4)
         self.delete()
         self.assert_changes("panel rename snapshot 4 M/E-2 LATE", [], [4])  # there it is refused, too
-        self.page(6322)
+        self.open(6322)
         self.press(51, SNAPSHOTS + "UnLock#6,4,4")
         self.assert_changes("panel rename snapshot 4 M/E-2 LATE", [4], [1, 2, 3, 5])
 
     def test_3_copies_a_swap_and_a_range_in_two_regions(self):
-        self.page(6323)
-        self.row(4, A, DUAL_TOP)
-        self.row(6, B, DUAL_TOP)
+        self.open(6323, 4, 6)
         self.press(49, SNAPSHOTS + "Copy#6,4,4,6,6,false")
         self.press(50)  # without the name
         self.row(7, B, DUAL_TOP)
         self.press(49, SNAPSHOTS + "Copy#6,4,4,6,7,true")
-        self.page(6325)
-        self.row(1, A, DUAL_TOP)
-        self.row(7, B, DUAL_TOP)
+        self.open(6325, 1, 7)
         self.press(49, SNAPSHOTS + "Swap#6,1,1,6,7,true")
-        self.page(6326)
-        self.row(4)
+        self.open(6326, 4)
         self.desk.touch(*PLURAL)
         for number in (5, 6, 7):
             self.row(number)
-        before = self.shown(4), self.shown(6), self.shown(7)
+        before = [self.shown(number) for number in (4, 6, 7)]
         self.delete(SNAPSHOTS + "Delete#6,4,7")
         time.sleep(0.3)
         for old, number in zip(before, (4, 6, 7)):
@@ -142,11 +135,9 @@ class Registers(DeskCase):
 
     def test_4_a_master_brings_back_what_its_regions_had(self):
         self.set_all("Linear")
-        self.page(6321)
-        self.row(5)
+        self.open(6321, 5)
         self.press(51, SNAPSHOTS + "Store#6,5")
-        self.page(6311)
-        self.row(4)
+        self.open(6311, 4)
         self.press(50, MASTER + "Store/Recall@Store#4")
         self.set_all("Chroma")
         self.press(49, MASTER + "Store/Recall@Recall#4")
@@ -161,27 +152,23 @@ class Registers(DeskCase):
         self.assertEqual(self.links(54, MASTER + "Store/Recall@Edit@Store#4"), ["5"] + stored[1:])
 
     def test_5_an_effect_is_recalled_dissolved_copied_and_merged(self):
-        self.page(6221)
-        self.row(2)
+        self.open(6221, 2)
         self.press(RECALL, EFFECTS + f"Recall@Recall#{ME1}, 2")
         self.desk.console("put Effect@Effect@Attribute@Temporary Duration@M/E-1#25")
         time.sleep(0.2)
         before = self.shown(2)
         self.press(33, EFFECTS + f"Attribute@Effect Dissolve#{ME1},2,2,true,25")
         self.assertNotEqual(self.shown(2), before)
-        self.page(6223)
-        self.row(2, A, DUAL_TOP)
-        self.row(5, B, DUAL_TOP)
+        self.open(6223, 2, 5)
         self.press(49, EFFECTS + f"Copy/Merge@Copy#{ME1},2,2,{ME1},5,false")
         self.press(52, EFFECTS + f"Copy/Merge@Merge#{ME1},2,{ME1},5")
-        self.page(6231)
+        self.open(6231)
         self.press(RECALL, EFFECTS + "Recall@Recall#0000000000101000, 101")
-        self.page(6261)
+        self.open(6261)
         self.assert_changes("panel store effect 3 P-Bus CUE", [3], [1, 2, 4])
 
     def test_6_a_shotbox_runs_what_it_links(self):
-        self.page(6411)
-        self.row(1)
+        self.open(6411, 1)
         self.press(49, SHOTBOX + "Store/Recall@Recall#1")
         self.assertEqual(self.desk.value("Key Frame@Timeline@Run"), "true")
         before = self.shown(1)
@@ -194,7 +181,7 @@ class Registers(DeskCase):
         self.press(50)  # a snapshot
         self.press(51)
         self.assertEqual(self.links(53, SHOTBOX + "Store/Recall@Edit@Store#3")[1], "S1")
-        self.page(6411)
+        self.open(6411)
         self.desk.console("set M/E-2@Misc@Transition@Transition Rate#99")
         self.press(49, SHOTBOX + "Store/Recall@Recall#3")
         self.assertEqual(self.desk.value("M/E-2@Misc@Transition@Transition Rate"), "30")
@@ -206,8 +193,7 @@ class Registers(DeskCase):
                 (6221, "panel store effect 8 M/E-1 NIGHT", [8]), (6221, "panel delete effect 8 M/E-1", [8]),
                 (6211, "panel store mastereffect 6 NIGHT", [6]), (6411, "panel store shotbox 6 NIGHT", [6]),
                 (6411, "panel copy shotbox 6 9", [9])):
-            self.page(page)
-            self.row(1)
+            self.open(page, 1)
             self.assert_changes(command, rows, [row for row in (2, 7, 8, 9) if row not in rows])
 
     def test_8_a_new_name_of_an_effect_shows_everywhere_and_a_lock_holds_it(self):
@@ -217,61 +203,45 @@ class Registers(DeskCase):
 
         def looks():
             for page, place in places:
-                self.page(page)
+                self.open(page)
                 yield self.desk.part(*place)
 
         before = list(looks())
-        self.page(6227)
-        self.row(9)
+        self.open(6227, 9)
         self.desk.touch(*grid(51))
-        self.desk.touch(39 + 12 + int(54 * 4) + 25, 115 + 91 + 54 * 3 + 25, settle=0.2)  # a letter of the third row
         self.desk.wire()
-        self.desk.touch(39 + 12 + int(54 * 11.5) + 25, 115 + 91 + 54 * 2 + 25, settle=0.2)  # Enter
+        self.type("c")
         self.assert_puts(EFFECTS + f"Rename@Rename#{ME1},9,Ac")
         for page, old, new in zip(places, before, looks()):
             self.assertNotEqual(old, new, page)
-        self.page(6222)
-        self.row(9)
+        self.open(6222, 9)
         self.press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,true")
-        self.page(6226)
-        self.row(9)
+        self.open(6226, 9)
         self.delete()
-        self.page(6225)
-        self.row(2, A, DUAL_TOP)
-        self.row(9, B, DUAL_TOP)
+        self.open(6225, 2, 9)
         self.press(49)  # nothing goes into a locked one
-        self.page(6222)
-        self.row(9)
+        self.open(6222, 9)
         self.press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,false")
         for page, word in ((6225, "Swap"), (6224, "Move")):
-            self.page(page)
-            self.row(2, A, DUAL_TOP)
-            self.row(9, B, DUAL_TOP)
+            self.open(page, 2, 9)
             self.press(49, EFFECTS + f"{word}@{word}#{ME1},2,2,{ME1},9,false")
-        self.page(6226)
-        self.row(9)
+        self.open(6226, 9)
         self.delete(EFFECTS + f"Delete@Delete#{ME1},9,9")
 
     def test_9_a_shotbox_is_locked_copied_swapped_and_deleted(self):
         self.desk.console("panel store shotbox 3 NOON")
-        self.page(6412)
-        self.row(3)
+        self.open(6412, 3)
         self.press(50, SHOTBOX + "Lock#3,3")
-        self.page(6416)
-        self.row(3)
+        self.open(6416, 3)
         self.delete(key=50)
-        self.page(6412)
-        self.row(3)
+        self.open(6412, 3)
         self.press(50, SHOTBOX + "UnLock#3,3")
         for page, word in ((6413, "Copy"), (6415, "Swap")):
-            self.page(page)
-            self.row(3, A, DUAL_TOP)
-            self.row(10, B, DUAL_TOP)
+            self.open(page, 3, 10)
             before = self.shown(10, top=DUAL_TOP)
             self.press(49, SHOTBOX + f"{word}#3,3,10,false")
             self.assertEqual(self.shown(10, top=DUAL_TOP) != before, word == "Copy")  # then they are alike
-        self.page(6416)
-        self.row(10)
+        self.open(6416, 10)
         before = self.shown(10)
         self.delete(SHOTBOX + "Delete#10,10", key=50)
         self.assertNotEqual(self.shown(10), before)
@@ -279,7 +249,7 @@ class Registers(DeskCase):
     def test_a_a_snapshot_of_a_user_plays_its_clip(self):
         event, output = SNAPSHOTS + "Clip Event@User1@FM1@AutoPlay#1,", "Frame Mem 2@Clip/Still@Output Status@FM1"
         self.desk.console("clip make BREAK 75")
-        self.page(6321)
+        self.open(6321)
         self.press(REGION)
         self.desk.touch(176, 253)  # User1: the reference now
         self.desk.touch(*ENTER)
@@ -288,7 +258,7 @@ class Registers(DeskCase):
             self.press(38)  # to its clips
             before = self.desk.part(100, 387, 566, 428)
             self.press(49, event + on)
-            self.page(6321)
+            self.open(6321)
             self.desk.wire()
             self.desk.touch(*grid(RECALL))
             (recall,) = self.puts(1)

@@ -26,17 +26,14 @@ class ClipTest(FileTest):
         """All lines up to the last result, which is returned first."""
         self.hub.send(f"Execute#{table}:{request}")
         lines = []
-        while True:
-            line = self.hub.line(5)
-            self.assertIsNotNone(line, f"{request} after {lines[-3:]}")
+        for line in iter(lambda: self.hub.line(5), None):
             lines.append(line)
-            if line.startswith("Result#"):
-                result = int(line.rsplit(":", 1)[1], 16)
-                if result >= 0x7F:
-                    return result, lines
+            if line.startswith("Result#") and (result := int(line.rsplit(":", 1)[1], 16)) >= 0x7F:
+                return result, lines
+        self.fail(f"{request} after {lines[-3:]}")
 
-    def wait_for(self, head):
-        while not (line := self.hub.line(5) or self.fail(f"no {head}")).startswith(head):
+    def wait_for(self, head, client=None):
+        while not (line := (client or self.hub).line(5) or self.fail(f"no {head}")).startswith(head):
             pass
         return line
 
@@ -55,7 +52,7 @@ class ClipTest(FileTest):
 
 
 class Tables(ClipTest):
-    def test_rows_files_and_capacity(self):
+    def test_rows_files_and_capacity_also_of_an_import(self):
         files, folders = self.rows(FILES), self.rows(FOLDERS)
         self.assertIn("NEWS/SPORT/GOALS/FIRST", folders)
         self.assertRegex(files["NEWS/OPENING.SFH"], r"^100, 0, 0, 3, \d{4}-\d\d-\d\d \d\d:\d\d:\d\d, 1, 1$")
@@ -64,8 +61,6 @@ class Tables(ClipTest):
         clip, still = self.files("BREAK.SFH"), self.files("STATION.SFH")
         self.assertEqual(len(clip), 76)
         self.assertEqual((clip["#000074.THM"], still[".THM"]), (6966, 21222))
-
-    def test_an_import_appears(self):
         self.do("clip make NEW/ONE 3")
         self.hub.until("Insert#CS1.ClipStoreFolder:root/NEW:1")
         self.wait_for("Insert#CS1.ClipStoreFile:root/NEW/ONE.SFH:3, ")
@@ -98,7 +93,7 @@ class Requests(ClipTest):
         self.assertEqual(self.execute(FOLDERS, "DeleteFolder LOGOS/NEW")[0], 0x7F)
         self.assertNotIn("NEWS/SPORT", self.rows(FOLDERS))
 
-    def test_what_cannot_be_says_why(self):
+    def test_what_cannot_be_says_why_and_tables_come_back(self):
         for table, request, wanted in (
                 (FILES, "Register NONE.SFH", 0x81), (FILES, "Copy BREAK.SFH NONE/x.SFH", 0x80),
                 (FILES, "Copy BREAK.SFH ../x.SFH", 0x80), (FILES, "Copy BREAK.SFH " + "x" * 33 + ".SFH", 0x80),
@@ -122,14 +117,11 @@ class Requests(ClipTest):
                      "InitRead#CS1.", "Read#CS1.ClipStoreInfo:X", f"Execute#{FILES}:MakeFolder x"):
             self.hub.send(line)
         self.assertIn("BREAK.SFH", self.rows(FILES))
-
-    def test_tables_leave_and_come_back(self):
         self.do("hub ready off")
         self.hub.until(f"Disconnect#{FILES}")
         self.do("hub ready on")
         self.hub.until(f"Ready#{FILES}")
         self.assertIn("BREAK.SFH", self.rows(FILES))
-
 
 
 class Outputs(ClipTest):
@@ -140,13 +132,8 @@ class Outputs(ClipTest):
 
     def frames(self, output, count):
         """State and frame of the next tallies of an output."""
-        head, got = f"{self.HEAD}Play@{output}#", []
-        while len(got) < count:
-            line = self.panel.line(5)
-            self.assertIsNotNone(line, got)
-            if line.startswith(head):
-                got.append(tuple(int(x) for x in line[len(head):].split(",")[:2]))
-        return got
+        head = f"{self.HEAD}Play@{output}#"
+        return [tuple(map(int, self.wait_for(head, self.panel)[len(head):].split(",")[:2])) for _ in range(count)]
 
     def test_a_clip_plays_in_every_mode(self):
         self.panel.send(f"add {self.HEAD}Output Status@FM3", f"add {self.HEAD}Play@FM3", f"add {self.HEAD}Output Status@FM4")

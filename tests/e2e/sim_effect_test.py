@@ -65,10 +65,7 @@ class Panel:
     def frame(self, seconds=3):
         """Id and data of the next frame, None when none comes in time."""
         end = time.monotonic() + seconds
-        while True:
-            have = self.client.bytes
-            if len(have) >= 2 and len(have) >= word(have, 0) + 2:  # high byte first on the way to a panel
-                break
+        while len(have := self.client.bytes) < 2 or len(have) < word(have, 0) + 2:  # high byte first to a panel
             if not self.client._fill(end - time.monotonic()):
                 return None
         length = word(have, 0)
@@ -79,12 +76,10 @@ class Panel:
     def next(self, number, seconds=3):
         """The data of the next frame with this id; others are left out."""
         end = time.monotonic() + seconds
-        while True:
-            frame = self.frame(end - time.monotonic())
-            if frame is None:
-                raise AssertionError(f"no frame {number:06X}")
+        while frame := self.frame(end - time.monotonic()):
             if frame[0] == number:
                 return frame[1]
+        raise AssertionError(f"no frame {number:06X}")
 
     def selection(self):
         return self.next(SELECTION)
