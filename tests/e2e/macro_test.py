@@ -1,7 +1,4 @@
-"""Macros at the desk: a register made offline, stored, opened again.
-
-usage: macro_test.py BUILD_DIR [TEST...]
-"""
+"""Macros at the desk: a register made offline, stored, opened again."""
 import time
 import unittest
 
@@ -59,7 +56,7 @@ class Macros(DeskCase):
         self.open(5412)
         self.touch((REGISTERS[0], REGISTERS[1] + 22 * (register - 1)))
         self.desk.wire()
-        self.desk.touch(*OFFLINE)
+        self.touch(OFFLINE)
         self.desk.wait_wire("put TopMenu@SubMenuSite#false", 15)
         time.sleep(0.3)
 

@@ -1,8 +1,5 @@
 """A person works the pages of the stored registers: stores what two banks are, brings it back but for what is under
-hold, locks, renames, copies, deletes and swaps; masters, effects and shotboxes; another panel that does the same.
-
-usage: register_test.py BUILD_DIR [TEST...]
-"""
+hold, locks, renames, copies, deletes and swaps; masters, effects and shotboxes; another panel that does the same."""
 import re
 import time
 import unittest

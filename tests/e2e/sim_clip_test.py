@@ -1,7 +1,4 @@
-"""The simulator as the hub of the clip stores: tables, requests with their results, faults on request.
-
-usage: sim_clip_test.py BUILD_DIR [TEST...]
-"""
+"""The simulator as the hub of the clip stores: tables, requests with their results, faults on request."""
 
 import os
 

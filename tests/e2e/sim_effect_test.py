@@ -1,7 +1,4 @@
-"""The simulator's regions: the frames of the binary link, byte by byte, and what makes them move.
-
-usage: sim_effect_test.py BUILD_DIR [TEST...]
-"""
+"""The simulator's regions: the frames of the binary link, byte by byte, and what makes them move."""
 
 import time
 
@@ -13,7 +10,7 @@ JOIN, SEND = 0x008200AA, 0x008100AA
 PP, ME1, ME2, ME4, DME2 = 0, 1, 2, 80, 17
 HOUR = 3600 * 30  # frames; every time axis begins there
 RUN = "Key Frame@Timeline@"
-SELECT = "Key Frame@Region Select@"
+REF, ENABLE = "Key Frame@Region Select@Ref Region Set", "Key Frame@Region Select@Region Enable@"
 
 
 def word(data, at):
@@ -100,6 +97,11 @@ class Panel:
 
 
 class StreamTest(SimTest):
+    def setUp(self):
+        super().setUp()
+        self.text = self.client()  # commands
+        self.other = self.client()  # only hears
+
     def panel(self, *codes, streams=(SELECTION, POSITION, EFFECT)):
         panel = Panel(self.client(BIN))
         for stream in streams:
@@ -116,6 +118,10 @@ class StreamTest(SimTest):
             while (line := self.sim.stdout.readline()) != "Settled#\n":
                 self.assertTrue(line, "the simulator has ended")
         return list(iter(lambda: panel.frame(0), None))
+
+    def load(self, panel, *commands):
+        self.do(*commands)
+        self.settle(panel)
 
     def told(self, client, *lines):
         """The client hears these lines next, in any order."""
@@ -158,44 +164,35 @@ class Streams(StreamTest):
 
 
 class Running(StreamTest):
-    def setUp(self):
-        super().setUp()
-        self.text = self.client()
-        self.panel1 = self.panel(ME1)
-
-    def load(self, *commands):
-        self.do(*commands)
-        self.settle(self.panel1)
-
     def test_a_run_moves_the_cursor_by_one_frame_at_the_rate_of_the_format(self):
-        self.load("kf M/E-1 3 20")
+        panel = self.panel(ME1)
+        self.load(panel, "kf M/E-1 3 20")
         started = time.monotonic()
         self.do("run M/E-1")
-        run = self.panel1.run_until(lambda p: p.run == 0)
+        run = panel.run_until(lambda p: p.run == 0)
         took = time.monotonic() - started
         self.assertEqual([p.time for p in run], list(range(41)))
         self.assertEqual([run[at].key for at in (0, 19, 20, 39, 40)], [1, 1, 2, 2, 3])
         self.assertEqual({p.run for p in run[:-1]}, {1})
         self.assertGreater(took, 40 / 30 - 0.05)
         self.assertLess(took, 2 * 40 / 30)
-
-    def test_reverse_and_the_jumps_to_both_ends(self):
-        self.load("kf M/E-1 3 5")
+        self.load(panel, "kf M/E-1 3 5")  # in reverse, and both ends
         self.do("ff M/E-1")
-        self.assertEqual(self.panel1.position().time, 10)
+        self.assertEqual(panel.position().time, 10)
         self.do("reverse M/E-1")
-        run = self.panel1.run_until(lambda p: p.run == 0)
+        run = panel.run_until(lambda p: p.run == 0)
         self.assertEqual([p.time for p in run], list(range(10, -1, -1)))
         self.assertEqual({p.run for p in run[:-1]}, {0x11})
         self.do("kf M/E-1 2 300", "run M/E-1")
-        self.panel1.run_until(lambda p: p.time > 3)
+        panel.run_until(lambda p: p.time > 3)
         self.do("rewind M/E-1")
-        self.assertEqual(self.panel1.run_until(lambda p: p.time == 0)[-1].run, 0)
+        self.assertEqual(panel.run_until(lambda p: p.time == 0)[-1].run, 0)
 
     def test_a_loop_counts_its_passes_down_and_goes_on(self):
-        self.load("kf M/E-1 4 4", "loop M/E-1 2 3 3")
+        panel = self.panel(ME1)
+        self.load(panel, "kf M/E-1 4 4", "loop M/E-1 2 3 3")
         self.do("run M/E-1")
-        run = self.panel1.run_until(lambda p: p.run == 0)
+        run = panel.run_until(lambda p: p.run == 0)
         self.assertEqual([p.time for p in run], [*range(8), *range(4, 8), *range(4, 13)])
         self.assertEqual({p.loop_on for p in run}, {1})
         self.assertEqual([run[at].loops_left for at in (0, 7, 8, 11, 12, 16)], [3, 3, 2, 2, 1, 0])
@@ -204,15 +201,9 @@ class Running(StreamTest):
 class Keys(StreamTest):
     """The text commands of the timeline pages."""
 
-    def setUp(self):
-        super().setUp()
-        self.text = self.client()
-        self.other = self.client()
-
     def test_the_run_keys_act_on_the_selected_regions_and_show_what_runs(self):
         panel = self.panel(ME1, ME2, PP)
-        self.do("kf M/E-1 2 12", "kf M/E-2 2 12", "kf P/P 2 300")
-        self.settle(panel)
+        self.load(panel, "kf M/E-1 2 12", "kf M/E-2 2 12", "kf P/P 2 300")
         self.other.send(f"add {RUN}Run", f"add {RUN}Reverse", f"add {RUN}Stop")
         self.assertEqual(self.other.sync(), [f"{RUN}{key}#false" for key in ("Run", "Reverse", "Stop")])
         self.text.send(f"put {RUN}Run#true")
@@ -229,32 +220,28 @@ class Keys(StreamTest):
 
     def test_a_region_is_selected_and_made_the_reference_by_name(self):
         panel = self.panel()
-        self.other.send(f"add {SELECT}Ref Region Set", f"add {SELECT}Region Enable@DME2",
-                        f"add {SELECT}Region Enable@DME2 GLB", f"add {SELECT}Region Enable@M/E-1")
-        self.assertEqual(self.other.sync(), [f"{SELECT}Ref Region Set#M/E-1", f"{SELECT}Region Enable@DME2#false",
-                                             f"{SELECT}Region Enable@DME2 GLB#false",
-                                             f"{SELECT}Region Enable@M/E-1#true"])
-        self.text.send(f"put {SELECT}Ref Region Set#DME2")
-        self.assertEqual(self.text.line(), f"{SELECT}Ref Region Set#DME2")
-        self.told(self.other, f"{SELECT}Region Enable@DME2#true", f"{SELECT}Region Enable@DME2 GLB#true",
-                  f"{SELECT}Ref Region Set#DME2")
+        self.other.send(f"add {REF}", f"add {ENABLE}DME2", f"add {ENABLE}DME2 GLB", f"add {ENABLE}M/E-1")
+        self.assertEqual(self.other.sync(), [f"{REF}#M/E-1", f"{ENABLE}DME2#false", f"{ENABLE}DME2 GLB#false",
+                                             f"{ENABLE}M/E-1#true"])
+        self.text.send(f"put {REF}#DME2")
+        self.assertEqual(self.text.line(), f"{REF}#DME2")
+        self.told(self.other, f"{ENABLE}DME2#true", f"{ENABLE}DME2 GLB#true", f"{REF}#DME2")
         data = panel.selection()
         while data[0] != DME2:  # selected first, then made the reference
             data = panel.selection()
         self.assertEqual((data[0], data[1], data[3]), (DME2, 0b11, 0b10))
-        self.text.send(f"put {SELECT}Region Enable@DME2#false")  # the reference goes to one that is still selected
+        self.text.send(f"put {ENABLE}DME2#false")  # the reference goes to one that is still selected
         while data[0] != ME1:
             data = panel.selection()
         self.assertEqual(data, bytes([ME1, 0b11, 0, 0, 0, 0, 0, 0]))
-        self.text.send(f"put {SELECT}Ref Region Set#Nowhere", f"put {SELECT}Region Enable@M/E-1#maybe")
+        self.text.send(f"put {REF}#Nowhere", f"put {ENABLE}M/E-1#maybe")
         self.text.line()
-        self.assertEqual(self.text.lines(2), [f"{SELECT}Ref Region Set#M/E-1", f"{SELECT}Region Enable@M/E-1#true"])
+        self.assertEqual(self.text.lines(2), [f"{REF}#M/E-1", f"{ENABLE}M/E-1#true"])
         self.assertEqual(self.settle(panel), [])
 
     def test_edits_change_the_keyframe_at_the_cursor_and_can_be_undone(self):
         panel = self.panel(ME1)
-        self.do("select P/P off", "kf M/E-1 3 40")
-        self.settle(panel)
+        self.load(panel, "select P/P off", "kf M/E-1 3 40")
 
         def keys(command):
             self.text.send(f"put {RUN}{command}#true")

@@ -1,7 +1,4 @@
-"""The simulator's macros: runs that change the desk, recordings, the editing in place, attachments.
-
-usage: sim_macro_test.py BUILD_DIR [TEST...]
-"""
+"""The simulator's macros: runs that change the desk, recordings, the editing in place, attachments."""
 
 import re
 import time

@@ -221,7 +221,7 @@ TEST_F(Keyframes, RegionsOfTheTenKeysAreThoseOfTheSystemAndNothingBeyond)
     }
 }
 
-TEST_F(Keyframes, NewRegionsComeToTheFrontAndThoseThatWentLeaveTheOrder)
+TEST_F(Keyframes, NewRegionsComeToTheFrontAndAnInsertedOneLeavesItsOldPlace)
 {
     KF_RegionAssignTally(1, "M/E-1,P/P,MACRO");
     KF_InitPriority();
@@ -233,6 +233,23 @@ TEST_F(Keyframes, NewRegionsComeToTheFrontAndThoseThatWentLeaveTheOrder)
     KF_SetRegionDisplay(PP, 1);
     KF_InitPriority();
     EXPECT_THAT(Order(4), ElementsAre(ME2, PP, MACRO, 255)) << "one that is hidden keeps its place";
+
+    KF_RegionAssignTally(2, "");
+    KF_RegionAssignTally(1, "M/E-1,M/E-2,M/E-3,P/P");
+    static const std::tuple<int, int, std::vector<int>> cases[] = {
+        {0, PP, {PP, 0, 1, 2, 255}},
+        {3, 0, {1, 2, 0, PP, 255}}, // its old place, before the new one, closes up
+        {4, 0, {1, 2, PP, 0, 255}},
+    };
+    for (const auto& [place, region, order] : cases) {
+        KF_DefaultRegionPriority();
+        for (int i = 0; i < 4; i++)
+            KF_SetRegionPriority(i, std::array{0, 1, 2, PP}[size_t(i)]);
+        KF_SetRegionDisplay(region, 1);
+        EXPECT_EQ(KF_InsertRegionPriority(place, region), 0);
+        EXPECT_THAT(Order(5), ElementsAreArray(order)) << place << " " << region;
+        EXPECT_EQ(KF_GetRegionDisplay(region), 0);
+    }
 }
 
 // As at every start: the order comes, then a selection, and only then which regions there are.
@@ -267,25 +284,6 @@ TEST_F(Keyframes, AnOrderThatComesBeforeTheAssignmentsIsKept)
     KF_InitPriority();
     EXPECT_FALSE(KF_IsOrderStale());
     EXPECT_THAT(Order(7), ElementsAre(6, 30, DME1_GLB, 1, 14, 0, 255)) << "6 has lost its place";
-}
-
-TEST_F(Keyframes, AnInsertedRegionLeavesItsOldPlace)
-{
-    KF_RegionAssignTally(1, "M/E-1,M/E-2,M/E-3,P/P");
-    static const std::tuple<int, int, std::vector<int>> cases[] = {
-        {0, PP, {PP, 0, 1, 2, 255}},
-        {3, 0, {1, 2, 0, PP, 255}}, // its old place, before the new one, closes up
-        {4, 0, {1, 2, PP, 0, 255}},
-    };
-    for (const auto& [place, region, order] : cases) {
-        KF_DefaultRegionPriority();
-        for (int i = 0; i < 4; i++)
-            KF_SetRegionPriority(i, std::array{0, 1, 2, PP}[size_t(i)]);
-        KF_SetRegionDisplay(region, 1);
-        EXPECT_EQ(KF_InsertRegionPriority(place, region), 0);
-        EXPECT_THAT(Order(5), ElementsAreArray(order)) << place << " " << region;
-        EXPECT_EQ(KF_GetRegionDisplay(region), 0);
-    }
 }
 
 // --- The strip ---

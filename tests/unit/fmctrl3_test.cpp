@@ -289,7 +289,7 @@ TEST_F(ClipStore, MiddlesOfClipsAreFetchedFirstThirtyAtOnce)
     EXPECT_EQ(Files().size(), 46u);
 }
 
-TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgain)
+TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgainFiveTimesAtMost)
 {
     Put("c.SFH#000000.THM", 6966);
     Put("c.SFH#000001.THM", 6965);
@@ -307,10 +307,7 @@ TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgain)
     EXPECT_THAT(asked, ElementsAre("c.SFH#000001.THM", "c.SFH#000003.THM"));
     Hub("Notify", "ClipStoreFile", "root/c.SFH:thumbnail:0");
     EXPECT_THAT(Files(), IsEmpty()) << "it has none any more";
-}
 
-TEST_F(ClipStore, AFetchIsRetriedFiveTimes)
-{
     Clip("a", 1, 0);
     EXPECT_THAT(Gets(), IsEmpty());
     Hub("Notify", "ClipStoreFile", "root/a.SFH:thumbnail:1");

@@ -174,15 +174,7 @@ TEST_F(DropFolders, GraphicsWithoutRecallGoIntoTheirFolder)
     EXPECT_THAT(Finish(After(500)), Contains("put Frame Mem@Folder@Move Still#0,Mc,2"));
 }
 
-TEST_F(DropFolders, WhatCannotBeImportedIsNeitherShownNorKept)
-{
-    Drop("FM1/bad.bmp");
-    (void)Found(Look(), {"FM1/bad.bmp"});
-    EXPECT_THAT(Others(Finish(After(500), "NG([ERROR] no image.)")), IsEmpty());
-    EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM1/bad.bmp"));
-}
-
-TEST_F(DropFolders, AnImageThatIsStillArrivingIsWaitedFor)
+TEST_F(DropFolders, AnImageThatIsStillArrivingIsWaitedForAndABadOneIsNotKept)
 {
     Drop("FM1/big.bmp", "a");
     (void)Found(Look(), {"FM1/big.bmp"});
@@ -191,6 +183,11 @@ TEST_F(DropFolders, AnImageThatIsStillArrivingIsWaitedFor)
         EXPECT_THAT(After(500), IsEmpty()) << text;
     }
     EXPECT_THAT(Finish(After(500)), Not(IsEmpty()));
+    Settle();
+    Drop("FM1/bad.bmp");
+    (void)Found(Look(), {"FM1/bad.bmp"});
+    EXPECT_THAT(Others(Finish(After(500), "NG([ERROR] no image.)")), IsEmpty());
+    EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM1/bad.bmp"));
 }
 
 TEST_F(DropFolders, NamesThatCouldLeaveTheFolderOrTheCommandAreRefused)

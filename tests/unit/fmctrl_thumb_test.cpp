@@ -73,9 +73,9 @@ struct FrameMemoryThumbnails : FrameMemory {
 };
 } // namespace
 
-TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFile)
+TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFileUnlessTheyAreOlder)
 {
-    const auto gets = Gets(Sense(1, "1", "Mlogo"));
+    auto gets = Gets(Sense(1, "1", "Mlogo"));
     ASSERT_EQ(gets.size(), 1u);
     EXPECT_EQ(gets[0].remote, "SWR000D001:FMEM_001.SFT");
     EXPECT_EQ(gets[0].local, "MYHOST:/mnt/sys/FrameMemory/FM_0001.SFT");
@@ -90,12 +90,9 @@ TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFile)
     (void)Sense(1, "0", "");
     EXPECT_THAT(Files(), IsEmpty());
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
-}
 
-TEST_F(FrameMemoryThumbnails, OlderFrameMemoryKeepsTheWholePicture)
-{
     SYS_FmemV6 = 0;
-    const auto gets = Gets(Sense(1200, "1", "Mlogo"));
+    gets = Gets(Sense(1200, "1", "Mlogo"));
     ASSERT_THAT(Numbers(gets), ElementsAre("M_1200.SFT"));
     (void)Answer(gets[0], "OK", Bmp{}.Bytes());
     EXPECT_THAT(Files(), IsEmpty());

@@ -1,24 +1,15 @@
 // frame_page: the file pages of the frame memory in front of a store with a few registers, and what
 // a server answers to jobs.
 #pragma once
-#include "a_ls.h"
-#include "file.h"
-#include "file_dir.h"
 #include "fmctrl.h"
-#include "pane.h"
-#include "pane_private.h"
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
-#include "table_page.h"
-#include "text.h"
-#include "window.h"
+#include "server_page.h"
 
-struct FramePage : TablePage {
-    static inline int ack = 900;
-
+struct FramePage : ServerPage {
     void SetUp() override
     {
-        TablePage::SetUp();
+        ServerPage::SetUp();
         DeviceStructure();
         File_Reset();
         FileDual_Reset();
@@ -33,7 +24,7 @@ struct FramePage : TablePage {
         File_Reset();
         File_ReplaceSync(nullptr);
         FMCtrl_Quit();
-        TablePage::TearDown();
+        ServerPage::TearDown();
     }
     // Registers from number on.
     static void Store(const Lines& names, int number = 1)
@@ -45,24 +36,14 @@ struct FramePage : TablePage {
     {
         Tell("16@Frame Mem@Status@Folder Name Sense#" + names);
     }
-    static int Label(const std::string& line) { return ::atoi(line.c_str() + line.find("#L") + 2); }
-    // Acknowledge the one line of that kind and give it these rows and its end.
+    // Acknowledge the lines of that kind, and give them these rows and their end.
     static Lines Answer(const Lines& sent, const std::string& kind, const Lines& rows,
                         const std::string& end = "OK")
     {
-        Lines after;
-        for (const std::string& line : sent) {
-            if (!line.starts_with("put File@" + kind + "#L"))
-                continue;
-            const std::string number = std::to_string(++ack);
-            Tell("File@" + kind + "#L" + std::to_string(Label(line)) + "," + number);
-            for (const std::string& row : rows)
-                Tell("File@" + kind + "@Status#" + number + "," + row +
-                     ",Wed Nov 25 10:30:00 2026");
-            for (const std::string& next : Tell("File@" + kind + "@Status#" + number + "," + end))
-                after.push_back(next);
-        }
-        return after;
+        (void)TakeQueuedCommands();
+        for (const std::string& line : sent)
+            (void)Serve(line, kind, rows, end);
+        return TakeQueuedCommands();
     }
     // Answer whatever goes out with OK until nothing does; all lines that went out.
     static Lines Run(Lines sent)
@@ -104,20 +85,7 @@ struct FramePage : TablePage {
         for (int no = 0; no < LS_GetNData(list); no++)
             LS_SetSelected(list, no, 0, std::ranges::count(rows, no) != 0);
     }
-    static std::string Message() // of the pane on top
-    {
-        PANE* const pane = pane_top();
-        return pane ? pane_text_in_view(pane) : "no pane";
-    }
-    static Lines Quit(int result) // the pane on top
-    {
-        (void)TakeQueuedCommands();
-        const int pane = Pane_GetActiveID();
-        EXPECT_NE(pane, 0);
-        Pane_Quit(pane);
-        SendMessage(LMSG_PANEQUIT, pane, result, 0, 0);
-        return TakeQueuedCommands();
-    }
+    static Lines Quit(int result) { return ServerPage::Answer(result); } // the pane on top
     // What entering a text in the keyboard sends.
     static Lines Enter(const std::string& text)
     {

@@ -111,7 +111,7 @@ TEST_F(MacroFiles, TheFirstLineEndIsKept)
     }
 }
 
-TEST_F(MacroFiles, AFileWithoutItsHeaderIsNone)
+TEST_F(MacroFiles, AFileWithoutItsHeaderIsNoneAndAStoreThatFailsLeavesTheOldOne)
 {
     const std::string event = "\nEvent?,MECut,ME?,P/P\n";
     for (const std::string head : {"", "PNL", "PNL 0001PNL_0001.PM", "PNX 0001PNL_0001.PMRNAME",
@@ -127,6 +127,13 @@ TEST_F(MacroFiles, AFileWithoutItsHeaderIsNone)
     unlink(PATH);
     EXPECT_EQ(MacroFile_Read(PATH, list), -1);
     EXPECT_EQ(MacroFile_Write(PATH, list), -1) << "there must be a file to replace";
+
+    const std::string old = lines(1, "Event?,MECut,ME?,P/P");
+    ASSERT_EQ(Read(old), 0);
+    (void)add_node(list, list.pTail); // blank: no symbol
+    EXPECT_EQ(MacroFile_Write(PATH, list), -1);
+    EXPECT_EQ(FileText(PATH), old);
+    EXPECT_NE(access((std::string(PATH) + ".new").c_str(), F_OK), 0);
 }
 
 TEST_F(MacroFiles, LimitsCutWhatIsTooMuch)
@@ -143,16 +150,6 @@ TEST_F(MacroFiles, LimitsCutWhatIsTooMuch)
         EXPECT_EQ(list.pHead->Data[0], std::string("P/P").substr(0, size_t(3 - more))) << more;
         EXPECT_EQ(list.count, 2) << "the rest of a long line is no line";
     }
-}
-
-TEST_F(MacroFiles, AStoreThatFailsLeavesTheOldFile)
-{
-    const std::string old = lines(1, "Event?,MECut,ME?,P/P");
-    ASSERT_EQ(Read(old), 0);
-    (void)add_node(list, list.pTail); // blank: no symbol
-    EXPECT_EQ(MacroFile_Write(PATH, list), -1);
-    EXPECT_EQ(FileText(PATH), old);
-    EXPECT_NE(access((std::string(PATH) + ".new").c_str(), F_OK), 0);
 }
 
 TEST_F(MacroFiles, TheCursorOutlivesItsLine)

@@ -230,15 +230,10 @@ TEST_F(MenuMacro, MeasuredPausesGoBetweenTouches)
 TEST_F(MenuMacro, AFileIsWrittenAsItIsRead)
 {
     const std::string file = "#FName: mm_reg07.tmp.##################\n"
-                             "Header:OPENING,1,4\n"
-                             "Interval:250\n"
-                             "DME CH:00000011,0000000F\n"
-                             "Event:put A@B#true\n"
-                             "Contnue:default C\n"
-                             "DME CH:00000000,00000000\n"
-                             "Pause:1.5\n"
-                             "DME CH:00000000,00000000\n"
-                             "Local:LOCAL@X@Y\n";
+                             "Header:OPENING,1,4\nInterval:250\n"
+                             "DME CH:00000011,0000000F\nEvent:put A@B#true\nContnue:default C\n"
+                             "DME CH:00000000,00000000\nPause:1.5\n"
+                             "DME CH:00000000,00000000\nLocal:LOCAL@X@Y\n";
     Load(7, file);
     EXPECT_EQ(mm_register_table(6).protcol_event_max, 3);
     EXPECT_STREQ(mm_register_table(6).name, "OPENING");
@@ -316,7 +311,7 @@ TEST_F(MenuMacro, ATransferCopyBecomesTheRegisterUnderItsNameOnTheDrive)
 
 // --- Run ---
 
-TEST_F(MenuMacro, ARunSendsTheGroupsWithTheirWaits)
+TEST_F(MenuMacro, ARunSendsTheGroupsWithTheirWaitsAndMayBeStoppedInThem)
 {
     Load(2, "Interval:300\nEvent:put Z#0\nPause:0\nEvent:put A#1\nContnue:put B#2\n"
             "Event:put C#3\nPause:1.0\nDME CH:00000001,00000003\nEvent:put D#4\n");
@@ -333,10 +328,7 @@ TEST_F(MenuMacro, ARunSendsTheGroupsWithTheirWaits)
     EXPECT_EQ(mm_current_macro_status().remain, 100) << "by events where nothing is waited for";
     (void)Run(100);
     SYS_DMEReference = SYS_DMEChannel = 0;
-}
 
-TEST_F(MenuMacro, ARunStopsInAPauseAndGoesOnThere)
-{
     constexpr int LAST = MENU_MACRO_REGISTERS;
     Load(LAST, "Event:put A#1\nPause:2.0\nEvent:put B#2\n");
     (void)Tell("Info@Menu Macro@Run#" + std::to_string(LAST));

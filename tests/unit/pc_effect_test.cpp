@@ -49,7 +49,7 @@ TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
     }
 }
 
-TEST_F(EffectPages, AnEffectShowsItsStateAndWhichRegionsHoldIt)
+TEST_F(EffectPages, AnEffectShowsItsStateAndWhichOrHowManyRegionsHoldIt)
 {
     Deliver(EFFECTS + "M/E-1", "3,S,OPENING,L,D,45");
     Deliver(EFFECTS + "DME2", "3,S,SPIN,U,N,0");
@@ -69,10 +69,7 @@ TEST_F(EffectPages, AnEffectShowsItsStateAndWhichRegionsHoldIt)
     }
     Open(0x62310000); // registers of a run of channels
     EXPECT_EQ(Caption(BTN_REGISTER_REGION), "Region\nDME\n1-4ch");
-}
 
-TEST_F(EffectPages, AnEmptyEffectCountsItsOtherRegionsWhileSeveralAreChosen)
-{
     Deliver(EFFECTS + "M/E-2", "4,S,A,U,N,0");
     Deliver(EFFECTS + "GPI", "4,S,A,U,N,0");
     Open(0x62210000);

@@ -72,7 +72,6 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
 TEST_F(FrameMemoryPage, KeysAndTabsAreThereForWhatIsSelectedAndInstalled)
 {
     static const std::tuple<uint32_t, std::vector<int>, std::vector<int>> cases[] = {
-        // rows that are selected, keys that can be used
         {STILL_FILES, {}, {}},
         {STILL_FILES,
          {0},
@@ -158,7 +157,6 @@ TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
 TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
 {
     static const std::tuple<int, bool, int, Lines> cases[] = {
-        // row, as a pair, key, lines
         {0, false, BTN_FMEM1_RECALL_A, {"FM3#Mlogo"}},
         {0, false, BTN_FMEM1_RECALL_B, {"FM4#Slogo"}},
         {1, false, BTN_FMEM1_RECALL_B, {"FM4#Mpic"}},
@@ -223,7 +221,6 @@ TEST_F(FrameMemoryPage, NamesKeepTheirSideAndFrame)
     Store({"Mgo0001", "Mgo0002"}, 30);
     Pass(10);
     static const std::tuple<uint32_t, int, int, const char*, const char*, Lines> cases[] = {
-        // page, row, key, what is typed, what a pane says, lines
         {STILL_FILES, 0, BTN_FMEM1_RENAME, "sky", "no pane", {"Mlogo,Msky", "Slogo,Ssky"}},
         {STILL_FILES, 2, BTN_FMEM1_RENAME, "sky", "no pane", {"Stitle,Ssky"}},
         {STILL_FILES, 0, BTN_FMEM1_RENAME, "logo", "no pane", {}},
@@ -344,7 +341,7 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
 
     (void)Puts(BTN_FMEM1_HDD_LOAD);
     Quit(1);
-    Pass(4000);
+    Pass(3000);
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
     Pass(2000); // nobody has begun
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);

@@ -383,7 +383,6 @@ TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
 TEST_F(ClipPages, NamesAreCheckedBeforeAnythingIsAsked)
 {
     static const std::tuple<uint32_t, const char*, int, const char*, bool, const char*> cases[] = {
-        // page, cell, key, typed behind what stands there, is refused, asked
         {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "", false, ""}, // the same name
         {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "2", false,
          "File:Move root/STILL.SFH root/STILL2.SFH"},

@@ -1,6 +1,7 @@
 #include "a_kf_private.h"
 #include "a_kp.h"
 #include "display.h"
+#include "page_walk.h"
 #include "pane.h"
 #include "pc_kf.h"
 #include "pc_kf_page.h"
@@ -159,24 +160,21 @@ TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
     Device_Init();
     DeviceStructure();
     int jumps = 0;
-    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
-        for (const auto& object : page->obj) {
-            if (object.type != OBJ_KP || page->id >> 24 != 0x61)
+    page_walk::ForEachPage([&](const PAGE& page) {
+        auto row = static_cast<const KP_TBL*>(page_walk::TableOf(page, OBJ_KP));
+        for (; row && row->caption; row++) {
+            if (!row->jump)
                 continue;
-            for (auto row = static_cast<const KP_TBL*>(object.addr); row->caption; row++) {
-                if (!row->jump)
-                    continue;
-                jumps++;
-                const PAGE* const target = SearchPageTable(row->jump);
-                ASSERT_TRUE(target) << std::hex << page->id << " " << row->caption;
-                EXPECT_NE(target, page) << std::hex << page->id << " " << row->caption;
-                // From the list of regions to the region of that name.
-                if (!page->tree[2]) {
-                    EXPECT_STREQ(target->tree[2], row->caption);
-                }
+            jumps++;
+            const PAGE* const target = SearchPageTable(row->jump);
+            ASSERT_TRUE(target) << std::hex << page.id << " " << row->caption;
+            EXPECT_NE(target, &page) << std::hex << page.id << " " << row->caption;
+            // From the list of regions to the region of that name.
+            if (!page.tree[2]) {
+                EXPECT_STREQ(target->tree[2], row->caption);
             }
         }
-    }
+    });
     EXPECT_GT(jumps, 50);
 }
 
@@ -201,13 +199,24 @@ struct AssignPage : KeyframePage {
     }
 };
 
-TEST_F(AssignPage, ShowsWhatAnotherPanelHasChosen)
+TEST_F(AssignPage, ShowsWhatAnotherPanelHasChosenAndWhenTheSelectionDecides)
 {
     Tally("Info@Operation Setup Data@Timeline Region Priority", "1,6");
     Tally("Info@Operation Setup Data@Timeline Region Priority", "4,0");
     Tally("Info@Operation Setup Data@Timeline Region Display", "46,1");
     Pass(10);
     EXPECT_THAT(Order(), ElementsAre("1 USER1 ON", "2 M/E-1 Sub ", "3 P/P ON", "4 M/E-1 ON", "  "));
+    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_OFF);
+    (void)Sent();
+    Button(ACTIVE);
+    EXPECT_EQ(GL_TimelineDisplayPriority, 1);
+    EXPECT_THAT(Sent(), ElementsAre("put Info@Operation Setup Data@Timeline Display Priority#1"));
+    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_ON);
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED);
+    Button(ACTIVE);
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_ENABLED);
+    Tally("Info@Operation Setup Data@Timeline Display Priority", "1");
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED) << "changed elsewhere";
 }
 
 TEST_F(AssignPage, TheKeysWorkAtTheCursors)
@@ -239,20 +248,6 @@ TEST_F(AssignPage, TheKeysWorkAtTheCursors)
     EXPECT_THAT(Order(),
                 ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ON", "3 P/P ON", "4 USER1 ON", "  "));
     EXPECT_THAT(Sent(), IsEmpty());
-}
-
-TEST_F(AssignPage, WithActiveRegionTheSelectionDecides)
-{
-    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_OFF);
-    Button(ACTIVE);
-    EXPECT_EQ(GL_TimelineDisplayPriority, 1);
-    EXPECT_THAT(Sent(), ElementsAre("put Info@Operation Setup Data@Timeline Display Priority#1"));
-    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_ON);
-    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED);
-    Button(ACTIVE);
-    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_ENABLED);
-    Tally("Info@Operation Setup Data@Timeline Display Priority", "1");
-    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED) << "changed elsewhere";
 }
 
 TEST_F(AssignPage, ClosingSavesAllRowsOnceTheServerHasToldItsRegions)
@@ -304,7 +299,7 @@ TEST_F(ProgramPage, TheSelectedProgramsDecideWhichModesThereAre)
     EXPECT_THAT(Enabled(), IsEmpty()) << "none is selected";
 }
 
-TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgram)
+TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgramAndAnotherOpensThePageAnew)
 {
     const std::string path = "Key Frame@DME User PGM@Transition Mode@150";
     Load(150, 201);
@@ -322,11 +317,8 @@ TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgram)
     EXPECT_EQ(BT_GetStatus(36), BT_ON) << "ignored";
     CreatePage(PAGE_TOP);
     EXPECT_THAT(Sent("remove Key Frame"), ElementsAre("remove " + path));
-}
 
-// A running region tells of every keyframe, many times a second.
-TEST_F(ProgramPage, OnlyAnotherProgramOpensThePageAnewAndNeverOverAnotherRequest)
-{
+    // A running region tells of every keyframe, many times a second.
     const auto keyframe = [](int code, int number) {
         kf::Send(kf::STATUS, kf::StatusFrame({.code = code, .keyframe = number, .run = 1}));
     };

@@ -24,55 +24,7 @@ struct MacroPages : SetupTest {
         unlink(MACRO_EDIT_FILE);
     }
 };
-} // namespace
 
-// Register 3 holds data and is at the cursor; the second list is at row 4 or 5.
-TEST_F(MacroPages, EveryKeySendsItsCommand)
-{
-    TellAll("Macro@Register@List#", {"3,S,OPENING,U,0,0", "5,S,NEWS,U,0,0"});
-    static const std::tuple<uint32_t, int, bool, const char*> cases[] = {
-        {0x54120000, 3, false, "put Macro@Register@Lock@Lock#0000100000000000,3,3,true"},
-        {0x54130000, 4, true,
-         "put Macro@Register@Copy@Copy#0000100000000000,3,3,0000100000000000,5,false"},
-        {0x54170000, 3, true, "put Macro@Register@Rename@Rename#0000100000000000,3,OPENING"},
-    };
-    for (const auto& [page, target, has_window, command] : cases) {
-        Open(page);
-        Cursor(1, 2);
-        Cursor(2, target);
-        Lines sent = Puts(49);
-        EXPECT_EQ(GetWindow() != WINDOW_NONE, has_window) << command;
-        if (has_window) {
-            EXPECT_THAT(sent, IsEmpty()) << command;
-            sent = Confirm();
-        }
-        EXPECT_THAT(sent, ElementsAre(command));
-    }
-}
-
-TEST_F(MacroPages, AListShowsWhatTheServerTold)
-{
-    Open(PAGE_MACRO_REGISTERS);
-    static const std::pair<const char*, const char*> cases[] = {
-        {"7,S,OPENING,U,0,0", "7|OPENING|"},
-        {"7,S,OPENING,L,0,0", "7|OPENING|L"},
-        {"7,E,,U,0,0", "7||E"},
-        {"7,e,,U,0,0", "7||E"},
-        {"7,S,TWELVE_CHARS,U", "7|TWELVE_CHAR|"},
-        {"251,S,A,U,0,0", "7|TWELVE_CHAR|"},
-        {"0,S,A,U,0,0", "7|TWELVE_CHAR|"},
-        {"7,S,A", "7|TWELVE_CHAR|"},
-        {"", "7|TWELVE_CHAR|"},
-    };
-    for (const auto& [line, row] : cases) {
-        (void)Tell(std::string("Macro@Register@List#") + line);
-        EXPECT_EQ(Row(6, 3), row) << line;
-    }
-    EXPECT_EQ(LS_GetNData(1), 250);
-}
-
-namespace
-{
 const std::string HEAD = "PNL 0001PNL_0003.PMROPENING\n";
 const std::string STOP = "Event?,Stop,Device?,Dev1\n", CUT = "Event?,MECut,ME?,P/P\n",
                   CUT_ME1 = "Event?,MECut,ME?,M/E-1\n";
@@ -157,7 +109,83 @@ struct MacroOfflinePage : MacroPages {
         return FileText(MACRO_EDIT_FILE);
     }
 };
+
+const std::string ATTACHMENT = "Macro@Attachment@List#";
+const std::string PLACE = ",1,2,3,4,5,6"; // where on the panel
+
+struct MacroAttachPage : MacroPages {
+    static void OpenWith(const Lines& lines)
+    {
+        Open(0x54210000);
+        (void)Tell("Macro@Register@List#12,S,OPENING,U,0,0");
+        for (const std::string& line : lines)
+            (void)Tell(ATTACHMENT + line + PLACE);
+        Pass(200);
+    }
+};
+
+const std::string ONLINE = "Macro@Reg@On Line Edit@";
+
+struct MacroOnlinePage : MacroPages {
+    void SetUp() override
+    {
+        MacroPages::SetUp();
+        GL_MacroEditNo = 3;
+        GL_Macro_Online_TrueOrFalse = 1;
+        Open(PAGE_MACRO_ONLINE);
+        TellAll(ONLINE, {"Macro Edit Mode#true", "Remain Macro Event Cell#1000",
+                         "Current Macro Register Info#3,OPENING,U,4,1",
+                         "Macro Event Edit Range#1,4", "Insert Enable Flag#true"});
+    }
+    static void Records(const Lines& lines)
+    {
+        TellAll(ONLINE + "Current Work Register Event Data#", lines);
+        Pass(10);
+    }
+};
 } // namespace
+
+// Register 3 holds data and is at the cursor; the second list is at row 4 or 5.
+TEST_F(MacroPages, AListShowsWhatTheServerToldAndEveryKeySendsItsCommand)
+{
+    TellAll("Macro@Register@List#", {"3,S,OPENING,U,0,0", "5,S,NEWS,U,0,0"});
+    static const std::tuple<uint32_t, int, bool, const char*> cases[] = {
+        {0x54120000, 3, false, "put Macro@Register@Lock@Lock#0000100000000000,3,3,true"},
+        {0x54130000, 4, true,
+         "put Macro@Register@Copy@Copy#0000100000000000,3,3,0000100000000000,5,false"},
+        {0x54170000, 3, true, "put Macro@Register@Rename@Rename#0000100000000000,3,OPENING"},
+    };
+    for (const auto& [page, target, has_window, command] : cases) {
+        Open(page);
+        Cursor(1, 2);
+        Cursor(2, target);
+        Lines sent = Puts(49);
+        EXPECT_EQ(GetWindow() != WINDOW_NONE, has_window) << command;
+        if (has_window) {
+            EXPECT_THAT(sent, IsEmpty()) << command;
+            sent = Confirm();
+        }
+        EXPECT_THAT(sent, ElementsAre(command));
+    }
+
+    Open(PAGE_MACRO_REGISTERS);
+    static const std::pair<const char*, const char*> lines[] = {
+        {"7,S,OPENING,U,0,0", "7|OPENING|"},
+        {"7,S,OPENING,L,0,0", "7|OPENING|L"},
+        {"7,E,,U,0,0", "7||E"},
+        {"7,e,,U,0,0", "7||E"},
+        {"7,S,TWELVE_CHARS,U", "7|TWELVE_CHAR|"},
+        {"251,S,A,U,0,0", "7|TWELVE_CHAR|"},
+        {"0,S,A,U,0,0", "7|TWELVE_CHAR|"},
+        {"7,S,A", "7|TWELVE_CHAR|"},
+        {"", "7|TWELVE_CHAR|"},
+    };
+    for (const auto& [line, row] : lines) {
+        (void)Tell(std::string("Macro@Register@List#") + line);
+        EXPECT_EQ(Row(6, 3), row) << line;
+    }
+    EXPECT_EQ(LS_GetNData(1), 250);
+}
 
 TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
 {
@@ -186,7 +214,7 @@ TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
                      "Event?,Cue,Device?,Dev2,Timecode?,00:00:00:00,Preroll?,5\n");
 }
 
-TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollow)
+TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollowAndIsOneWhenThatGoes)
 {
     static const std::tuple<std::string, int, bool> cases[] = {
         {STOP + STOP, 1, true}, {STOP + "#?,x\n" + STOP, 2, true}, {STOP + STOP, 0, false},
@@ -209,10 +237,7 @@ TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollow)
     At(1, MACRO_COL_CONTENTS, {"Continue"});
     EXPECT_EQ(Events(), "Event 1 Stop Dev1|Continue|Event 2 MECut P/P");
     EXPECT_EQ(LS_GetNData(LIST_MACRO_VALUES), CONTINUE_ROWS - 1);
-}
 
-TEST_F(MacroOfflinePage, WhatFollowsALineThatGoesBecomesAnEvent)
-{
     const std::string next = "Continue?,Stop,Device?,Dev2\n";
     OpenWith(STOP + next);
     (void)Key(BTN_MACRO_DELETE);
@@ -376,24 +401,7 @@ TEST_F(MacroOfflinePage, AStoreGoesOnWithoutItsPageAndKeepsTheListWhenItFails)
     EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
 }
 
-namespace
-{
-const std::string ATTACHMENT = "Macro@Attachment@List#";
-const std::string PLACE = ",1,2,3,4,5,6"; // where on the panel
-
-struct MacroAttachPage : MacroPages {
-    static void OpenWith(const Lines& lines)
-    {
-        Open(0x54210000);
-        (void)Tell("Macro@Register@List#12,S,OPENING,U,0,0");
-        for (const std::string& line : lines)
-            (void)Tell(ATTACHMENT + line + PLACE);
-        Pass(200);
-    }
-};
-} // namespace
-
-TEST_F(MacroAttachPage, AnEntryIsShownInWords)
+TEST_F(MacroAttachPage, EntriesAreShownInWordsAndInTheOrderOfThePanels)
 {
     static const std::pair<const char*, const char*> cases[] = {
         // block, buttons, mode, register, pair
@@ -420,10 +428,7 @@ TEST_F(MacroAttachPage, AnEntryIsShownInWords)
         OpenWith({fields});
         EXPECT_EQ(LS_GetNData(1), 0) << fields;
     }
-}
 
-TEST_F(MacroAttachPage, TheListIsInTheOrderOfThePanels)
-{
     OpenWith({"66,1,0,0,12,0,0", "8,9,2,0,12,0,0", "1,7,2,0,12,0,0", "8,9,1,0,12,0,0",
               "1,7,1,0,12,0,0", "8,2,9,0,12,0,0"});
     EXPECT_EQ(Row(0, 5) + Row(1, 5), "P/P XPT|BKGD A XPT 7|Only|12|OPENING"
@@ -595,31 +600,6 @@ TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
     unlink(MACRO_EDIT_DIR);
 }
-
-// --- The online editor ---
-
-namespace
-{
-const std::string ONLINE = "Macro@Reg@On Line Edit@";
-
-struct MacroOnlinePage : MacroPages {
-    void SetUp() override
-    {
-        MacroPages::SetUp();
-        GL_MacroEditNo = 3;
-        GL_Macro_Online_TrueOrFalse = 1;
-        Open(PAGE_MACRO_ONLINE);
-        TellAll(ONLINE, {"Macro Edit Mode#true", "Remain Macro Event Cell#1000",
-                         "Current Macro Register Info#3,OPENING,U,4,1",
-                         "Macro Event Edit Range#1,4", "Insert Enable Flag#true"});
-    }
-    static void Records(const Lines& lines)
-    {
-        TellAll(ONLINE + "Current Work Register Event Data#", lines);
-        Pass(10);
-    }
-};
-} // namespace
 
 TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
 {

@@ -126,7 +126,6 @@ TEST_F(RegisterPages, TheAttributesOfARegisterTurnOver)
 TEST(RegisterRegions, BitsAndIds)
 {
     static const std::tuple<size_t, int, uint64_t, uint64_t> cases[] = {
-        // row, id, bits
         {0, 257, 0x2, 0x2},
         {5, 256, 0x1, 0x1},
         {10, 267, 0x10000000, 0x20000000000000},
@@ -238,7 +237,6 @@ TEST_F(RegisterPages, ALineShowsItsAttributesInItsRegionOnly)
 TEST_F(RegisterPages, TheStripShowsWhichRegionsHoldTheRegister)
 {
     static const std::tuple<uint32_t, const char*, const char*, const char*> cases[] = {
-        // a region that is not the reference, its line without and with a register
         {0x63220000, "Snapshot@Snapshot@Attribute@P/P@List", "1,,E,,n,n,n", "1,A,S,,n,n,n"},
         {0x63320000, "Snapshot@Wipe Snapshot@P/P@List", "1,,E", "1,A,S"},
         {0x63520000, "Snapshot@Key Snapshot@Attribute@M/E-1@Key2@List", "1,,E", "1,A,S"},
@@ -339,7 +337,6 @@ TEST_F(RegisterPages, OneRegionMayGoToAnotherOfItsSort)
 TEST_F(RegisterPages, TheHoldPageWritesWhatItsRowsSay)
 {
     static const std::tuple<int, int, const char*, const char*, int, std::string> cases[] = {
-        // region, row, its line, levels of the router, what is sent
         {257, 2, "M/E-1", "1,A,S,B2,n,n,n", 0, "2,1,1,B12"},
         {257, 10, "M/E-1", "1,A,S,B2,n,n,n", 0, "2,1,1,B2U1"},
         {261, 0, "M/E-1 Sub", "1,A,S,2,n,n,n", 0, "1000000,1,1,12"},
@@ -368,7 +365,7 @@ TEST_F(RegisterPages, TheHoldPageWritesWhatItsRowsSay)
     }
 }
 
-TEST_F(RegisterPages, AnExtraBusIsListedWhereItExistsOrIsHeld)
+TEST_F(RegisterPages, AnExtraBusIsListedWhereItExistsAndQuickTouchesDoNotTakeEachOtherBack)
 {
     const std::string row = "Engineering Setup@Panel@Config@MP2 Main/Sub Assign@Main/Sub Assign@"
                             "8th Row#";
@@ -389,13 +386,9 @@ TEST_F(RegisterPages, AnExtraBusIsListedWhereItExistsOrIsHeld)
     EXPECT_EQ(LS_GetNData(1), HOLD_ME_MARKS - 2);
     (void)Tell(row + "Main");
     EXPECT_EQ(Cell(1, 12, 0), "Util 3");
-}
 
-// The second touch comes before the server's line of the first.
-TEST_F(RegisterPages, QuickTouchesDoNotTakeEachOtherBack)
-{
+    // The second touch comes before the server's line of the first.
     Store("M/E-1", 1, "A,S,,n,n,n");
-    Open(PAGE_SNAPSHOT_XPTHOLD);
     Cursor(1, 0);
     (void)Press(49);
     Cursor(1, 1);

@@ -7,34 +7,21 @@
 
 namespace
 {
-struct Place {
-    int kind = -1;
-    int row = 0;
-    int index = 0;
-    int extra = 0;
-    bool operator==(const Place&) const = default;
-};
-std::ostream& operator<<(std::ostream& out, const Place& p)
-{
-    return out << "{" << p.kind << ", " << p.row << ", " << p.index << ", " << p.extra << "}";
-}
+using Place = std::array<int, 4>; // kind, row, index, extra
 
 struct Reader {
-    int kind;
     int (*exist)(int, int);
     int (*lock)(int, int);
     const char* (*name)(int, int);
     const char* (*tally)(int, int);
 };
-#define READER(number, kind)                                                                       \
+#define READER(kind)                                                                               \
     {                                                                                              \
-        number, Register_Exist_##kind, Register_Lock_##kind, Register_Name_##kind,                 \
-            Register_Tally_##kind                                                                  \
+        Register_Exist_##kind, Register_Lock_##kind, Register_Name_##kind, Register_Tally_##kind   \
     }
-const Reader readers[] = {READER(0, Effect), READER(1, Eff100),   READER(2, Eff200),
-                          READER(3, Eff300), READER(4, Snapshot), READER(5, WipeSS),
-                          READER(6, DMESS),  READER(7, KeySS),    READER(8, Shotbox),
-                          READER(9, Macro)};
+const Reader readers[] = {READER(Effect),   READER(Eff100), READER(Eff200), READER(Eff300),
+                          READER(Snapshot), READER(WipeSS), READER(DMESS),  READER(KeySS),
+                          READER(Shotbox),  READER(Macro)};
 #undef READER
 
 const std::string EFFECT = "Effect@Effect@Attribute@List@";
@@ -44,11 +31,6 @@ const char* const MASTER_TIMELINE = "Effect@Master Timeline@Store/Recall@List";
 const char* const MASTER_SNAPSHOT = "Snapshot@Master Snapshot@Store/Recall@List";
 const char* const SHOTBOX = "Shotbox@Register@Store/Recall@List";
 const char* const MACRO = "Macro@Register@List";
-
-std::string Commas(int n)
-{
-    return std::string(size_t(n), ',');
-}
 
 // What the page was told since the last call.
 std::vector<Place> Told()
@@ -93,24 +75,23 @@ TEST_F(Registers, ALineLandsInItsPlace)
     } cases[] = {
         {EFFECT + "M/E-1", "1, D, First, U, N, 30", {0, 0, 0}, 1, 0, "First"},
         {EFFECT + "DME1", "250,D,x,U,N,0", {2, 0, 49}, 1, 0, "x"},
-        {MASTER_TIMELINE, "99,Show,D,L" + Commas(43), {0, 43, 98}, 1, 1, "Show"},
+        {MASTER_TIMELINE, "99,Show,D,L" + std::string(43, ','), {0, 43, 98}, 1, 1, "Show"},
         {SNAPSHOT + "RTR@List", "1,,L," + std::string(400, 'F') + ",,,", {4, 28, 0}, 1, 1, ""},
         {SNAPSHOT + "RTR@List", "1,,E,,,,", {4, 28, 0}, 0, 0, ""}, // the lock goes with the data
-        {MASTER_SNAPSHOT, "3,All,E,L" + Commas(30), {4, 29, 2}, 0, 1, "All"},
+        {MASTER_SNAPSHOT, "3,All,E,L" + std::string(30, ','), {4, 29, 2}, 0, 1, "All"},
         {"Snapshot@Wipe Snapshot@P/P Sub@List", "10,Wipe,L", {5, 11, 9}, 1, 1, "Wipe"},
         {"Snapshot@DME Snapshot@P/P Sub@List", "2,Fly,L", {6, 11, 1}, 1, 1, "Fly"},
         {"Snapshot@Key Snapshot@Attribute@P/P@Key8@List", "1,Key,L", {7, 47, 0}, 1, 1, "Key"},
         {EFFECT + "DME8", "399,D,Last,U,N,0", {3, 1, 98}, 1, 0, "Last"},
-        {SHOTBOX, "99,Shot,U,,1" + Commas(43), {8, 0, 98}, 1, 0, "Shot"},
-        {SHOTBOX, "98,Shot,U,," + Commas(43), {8, 0, 97}, 0, 0, "Shot"}, // nothing in it
+        {SHOTBOX, "99,Shot,U,,1" + std::string(43, ','), {8, 0, 98}, 1, 0, "Shot"},
+        {SHOTBOX, "98,Shot,U,," + std::string(43, ','), {8, 0, 97}, 0, 0, "Shot"}, // nothing in it
         {MACRO, "250,D,Run,L", {9, 0, 249}, 1, 1, "Run"},
     };
     for (const auto& c : cases) {
         Deliver(c.path, c.value);
         EXPECT_THAT(Told(), ElementsAre(c.place)) << c.path << "#" << c.value;
-        const Reader& read = readers[c.place.kind];
-        const int row = c.place.row;
-        const int index = c.place.index;
+        const auto& [kind, row, index, extra] = c.place;
+        const Reader& read = readers[kind];
         EXPECT_EQ(read.exist(row, index), c.exist) << c.path << "#" << c.value;
         EXPECT_EQ(read.lock(row, index), c.lock) << c.path << "#" << c.value;
         EXPECT_STREQ(read.name(row, index), c.name) << c.path << "#" << c.value;
@@ -124,9 +105,10 @@ TEST_F(Registers, RubbishIsDropped)
     const int used = UsedMemPtr;
     const std::pair<std::string, std::string> lines[] = {
         {MACRO, ""},
-        {SHOTBOX, Commas(60)},
-        {MASTER_TIMELINE, std::string(5000, '9') + Commas(60)},
-        {EFFECT + "M/E-1", "1" + std::string(5000, ' ') + Commas(60)}, // the rest is out of reach
+        {SHOTBOX, std::string(60, ',')},
+        {MASTER_TIMELINE, std::string(5000, '9') + std::string(60, ',')},
+        {EFFECT + "M/E-1",
+         "1" + std::string(5000, ' ') + std::string(60, ',')}, // the rest is out of reach
         {EFFECT + "M/E-1", "100,D,x,U,N,0"},
         {EFFECT + "DME1", "100,D,x,U,N,0"},
         {EFFECT + "M/E-1", "1,D,x,U,N"},
@@ -135,7 +117,7 @@ TEST_F(Registers, RubbishIsDropped)
         {SNAPSHOT + "M/E-1@List", "1,x,D,,,"},
         {SNAPSHOT + "M/E-1@List", "1,x,D," + std::string(510, 'F') + ",,,"},
         {"Snapshot@Key Snapshot@Attribute@M/E-1@Key9@List", "1,x,D"},
-        {MASTER_TIMELINE, "1,Show,D,L" + Commas(42)},
+        {MASTER_TIMELINE, "1,Show,D,L" + std::string(42, ',')},
         {CLIP + "User1@List", "FM1,1,ON,ON,ON,clip,1"},
     };
     for (const auto& [path, value] : lines) {
@@ -146,7 +128,7 @@ TEST_F(Registers, RubbishIsDropped)
     EXPECT_EQ(UsedMemPtr, used);
 }
 
-TEST_F(Registers, EveryLineIsToldWhileSomebodyLooks)
+TEST_F(Registers, EveryLineIsToldWhileSomebodyLooksAndMayBePlayedOn)
 {
     const std::string path = EFFECT + "M/E-1";
     const int used = UsedMemPtr;
@@ -164,10 +146,8 @@ TEST_F(Registers, EveryLineIsToldWhileSomebodyLooks)
     Deliver(path, "1,E,,U,N,0");
     EXPECT_EQ(Told().size(), 0u);
     EXPECT_EQ(Register_Exist_Effect(0, 0), 0);
-}
 
-TEST_F(Registers, WhoIsToldReadsTheNewStateAndMayPlayItOn)
-{
+    Register_StatusReport(1);
     static std::string name;
     probe::answer = [](const probe::Seen& s) {
         if (s.msg != LMSG_REGISTER || s.bx != 0)
@@ -280,8 +260,8 @@ TEST_F(Registers, AReturningEffectsUnitIsReadAgain)
         {0, SS_REGION_DME1, 4}, {2, 1, 4}, {4, SS_REGION_DME8, 4}, {1, 3, 98}, {3, 0, 0},
         {0, SS_REGION_DME8, 98}};
     for (const Place& p : gone) {
-        EXPECT_EQ(readers[p.kind].exist(p.row, p.index), 0) << p;
-        EXPECT_STREQ(readers[p.kind].tally(p.row, p.index), "") << p;
+        EXPECT_EQ(readers[p[0]].exist(p[1], p[2]), 0) << testing::PrintToString(p);
+        EXPECT_STREQ(readers[p[0]].tally(p[1], p[2]), "") << testing::PrintToString(p);
     }
     EXPECT_EQ(Register_Exist_Snapshot(SS_REGION_USER8, 4), 1);
 
