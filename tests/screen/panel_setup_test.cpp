@@ -8,10 +8,9 @@ TEST_F(PanelPictures, ButtonsOfAModuleInABank)
     (void)Open(0x73210034);
     (void)Touch(112 + 70 + 20, 98 + 20); // M/E-1, whose sub side is chosen
     (void)Push(BTN_ASSIGN_SUB);
-    TellAll(PAD "@Button Assign@",
-            {"01@Operation@Common@10#1,10,Key", "02@Operation@Common@10#5,10,Master Effect",
-             "03@Operation@Common@10#0,10,NO ASSIGN", "09@Operation@Common@10#22,10,Bank11",
-             "10@Operation@Common@10#1,10,Key"});
+    TellAll(PAD "", {"01@Operation@Common@10#1,10,Key", "02@Operation@Common@10#5,10,Master Effect",
+                     "03@Operation@Common@10#0,10,NO ASSIGN", "09@Operation@Common@10#22,10,Bank11",
+                     "10@Operation@Common@10#1,10,Key"});
     (void)Touch(112 + 20, 212 + 46 * 2 + 20);
     SelectRow(6);
     Paint();
@@ -21,9 +20,9 @@ TEST_F(PanelPictures, ButtonsOfAModuleInABank)
 TEST_F(PanelPictures, RegionsOnTheTenKeys)
 {
     (void)Open(0x73210001);
-    TellAll(TENKEY "@", {"Common@Region@Common@1#1,0,M/E-1,M/E-1 Sub,DME3,",
-                         "Common@Region@Common@2#2,0,DME3,,,", "Common@Region@Common@4#4,0,P/P,,,",
-                         "Select@1#true", "Select@4#true"});
+    TellAll(TENKEY "", {"Common@Region@Common@1#1,0,M/E-1,M/E-1 Sub,DME3,",
+                        "Common@Region@Common@2#2,0,DME3,,,", "Common@Region@Common@4#4,0,P/P,,,",
+                        "Select@1#true", "Select@4#true"});
     SelectRow(2);
     Paint();
     EXPECT_TRUE(MatchesGolden("panel_tenkeys", WITHOUT_LEFT_TABS));

@@ -4,8 +4,9 @@
 #include "setup_desk.h"
 
 #define PANEL "Engineering Setup@Panel@"
-#define PAD PANEL "Config@Program Button@Flexi Pad Module"
-#define TENKEY PANEL "Config@10 Key Region Assign"
+#define PAD PANEL "Config@Program Button@Flexi Pad Module@Button Assign@"
+#define TENKEY PANEL "Config@10 Key Region Assign@"
+#define REGION TENKEY "Common@Region@Common@"
 #define XPT PANEL "Xpt Assign@"
 #define KEY2 PANEL "Prefs/Utility@Xpt Module Assign@"
 

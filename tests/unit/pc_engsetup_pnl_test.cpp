@@ -2,6 +2,8 @@
 #include "panel_desk.h"
 #include "tdl.h"
 
+#define RTR PANEL "Aux Assign@RTR Mode Set@"
+
 struct PanelSetup : PanelTest {
     static void TouchPad(int button)
     {
@@ -44,25 +46,18 @@ TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
     }
 }
 
-TEST_F(PanelSetup, TheKeyToTheKeyControlButtonsStaysUsable)
-{
-    (void)Open(0x73210035);
-    EXPECT_THAT(Disabled(), IsEmpty());
-}
-
 TEST_F(PanelSetup, AKeyToAPageThatIsNotThereIsDisabled)
 {
-    (void)Open(0x73220000);
-    EXPECT_THAT(Disabled(), IsEmpty());
-    const DEVTYPE panel = SYS_RefPnlType, target = SYS_TargetSwrType;
+    for (const uint32_t page : {0x73210035u, 0x73220000u}) {
+        (void)Open(page);
+        EXPECT_THAT(Disabled(), IsEmpty()) << std::hex << page;
+    }
     SYS_TargetSwrType = DEVTYPE_LTR50;
     (void)Open(0x73220000);
     EXPECT_THAT(Disabled(), ElementsAre(21)) << "the audio mixer's";
     SYS_RefPnlType = DEVTYPE_QRD21;
     (void)Open(0x73240000);
     EXPECT_THAT(Disabled(), ElementsAre(34)) << "the key 2 bus's";
-    SYS_RefPnlType = panel;
-    SYS_TargetSwrType = target;
 }
 
 TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
@@ -70,21 +65,20 @@ TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
     (void)Open(0x73210034);
     TouchPad(9);
     EXPECT_THAT(PushIn(4, BTN_ASSIGN_SET),
-                ElementsAre("put " PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot"));
+                ElementsAre("put " PAD "09@Operation@Common@1#4,1,Snapshot"));
     TouchPad(10);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET),
-                ElementsAre("put " PAD "@Button Assign@10@Operation@Common@1#4,1,Snapshot"));
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre("put " PAD "10@Operation@Common@1#4,1,Snapshot"));
     EXPECT_EQ(Cell(1, 4, 1), "") << "what is pressed is not what is";
-    (void)Tell(PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot");
-    (void)Tell(PAD "@Button Assign@10@Operation@Common@1#4,1,Snapshot");
+    for (const char* button : {"09", "10"})
+        (void)Tell(std::string(PAD) + button + "@Operation@Common@1#4,1,Snapshot");
     EXPECT_EQ(Cell(1, 4, 1), "9,10");
     EXPECT_THAT(Push(BTN_ASSIGN_CLEAR),
-                ElementsAre("put " PAD "@Button Assign@10@Operation@Common@1#0,1,NO ASSIGN"));
+                ElementsAre("put " PAD "10@Operation@Common@1#0,1,NO ASSIGN"));
     EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT),
-                ElementsAre("put " PAD "@Button Assign@10@Operation@Common@Default#4,1,Snapshot"));
+                ElementsAre("put " PAD "10@Operation@Common@Default#4,1,Snapshot"));
     for (const char* rubbish : {"4,1,No Such Thing", "4,1", "", ",,", "4"}) {
-        (void)Tell(PAD "@Button Assign@09@Operation@Common@1#4,1,Snapshot");
-        (void)Tell(std::string(PAD "@Button Assign@09@Operation@Common@1#") + rubbish);
+        (void)Tell(PAD "09@Operation@Common@1#4,1,Snapshot");
+        (void)Tell(std::string(PAD "09@Operation@Common@1#") + rubbish);
         EXPECT_EQ(Cell(1, 4, 1), "10") << rubbish;
     }
 }
@@ -94,14 +88,14 @@ TEST_F(PanelSetup, ABankWithoutTheModuleTakesNothingAndOneInTwoProgramsHasTwoSid
     (void)Open(0x73210034);
     EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SUB), BT_DISABLED) << "P/P runs one program";
     Lines lines = Touch(112 + 70 + 20, 98 + 20); // M/E-1
-    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@1"), -1);
-    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@2"), 1);
+    EXPECT_EQ(Held(lines, PAD "01@Operation@Common@1"), -1);
+    EXPECT_EQ(Held(lines, PAD "01@Operation@Common@2"), 1);
     (void)Push(BTN_ASSIGN_SUB);
     EXPECT_THAT(PushIn(1, BTN_ASSIGN_SET),
-                ElementsAre("put " PAD "@Button Assign@01@Operation@Common@10#1,10,Key"));
+                ElementsAre("put " PAD "01@Operation@Common@10#1,10,Key"));
     lines = Tell(PANEL "Config@MP2 Main/Sub Assign@Main/Sub Assign@1st Row#Main");
-    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@10"), -1);
-    EXPECT_EQ(Held(lines, PAD "@Button Assign@01@Operation@Common@2"), 1) << "no sub side now";
+    EXPECT_EQ(Held(lines, PAD "01@Operation@Common@10"), -1);
+    EXPECT_EQ(Held(lines, PAD "01@Operation@Common@2"), 1) << "no sub side now";
     (void)Touch(112 + 140 + 20, 98 + 20); // M/E-2
     EXPECT_THAT(Push(BTN_ASSIGN_SET), IsEmpty());
     EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SET), BT_DISABLED);
@@ -117,8 +111,7 @@ TEST_F(PanelSetup, ALockedPageTakesNoTouchOfItsPicture)
     SetupLock.lock = 1;
     TouchPad(5);
     SetupLock.lock = 0;
-    EXPECT_THAT(Push(BTN_ASSIGN_SET),
-                ElementsAre("put " PAD "@Button Assign@01@Operation@Common@1#1,1,Key"));
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre("put " PAD "01@Operation@Common@1#1,1,Key"));
 }
 
 TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
@@ -134,15 +127,11 @@ TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
     EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT), ElementsAre("put " KEY2 "Action Set@1@Default#1"));
     EXPECT_THAT(PushType(BTN_ACTION_NAME, "intro"),
                 ElementsAre("put " PANEL "Prefs/Utility@Key2 Bus Button Assign@Name@1@1#intro"));
-    for (const auto& [value, mark] : {std::pair{"2,1002", "1"},
-                                      {"2,251", ""},
-                                      {"2,1002", "1"},
-                                      {"2,1100", ""},
-                                      {"2", ""},
-                                      {"2,1002", "1"},
-                                      {"", ""}}) {
-        (void)Tell(std::string(KEY2 "Action Set@1@1#") + value);
-        EXPECT_EQ(Cell(1, 1, 1), mark) << value;
+    for (const char* none : {"2,251", "2,1100", "2", ""}) {
+        (void)Tell(KEY2 "Action Set@1@1#2,1002");
+        EXPECT_EQ(Cell(1, 1, 1), "1");
+        (void)Tell(std::string(KEY2 "Action Set@1@1#") + none);
+        EXPECT_EQ(Cell(1, 1, 1), "") << none;
     }
 }
 
@@ -179,35 +168,32 @@ TEST_F(PanelSetup, ThePanelAsksForAButton)
 TEST_F(PanelSetup, ChosenKeysTakeARegionTogetherAndEachOnce)
 {
     const Lines opened = Open(0x73210001);
-    EXPECT_EQ(std::ranges::count(opened, "put " TENKEY "@Pcx#40"), 1);
-    EXPECT_EQ(std::ranges::count(opened, "read " TENKEY "@Common@Region@Common@23"), 1);
-    EXPECT_EQ(Held(opened, TENKEY "@Select@23"), 1);
+    EXPECT_EQ(std::ranges::count(opened, "put " TENKEY "Pcx#40"), 1);
+    EXPECT_EQ(std::ranges::count(opened, "read " REGION "23"), 1);
+    EXPECT_EQ(Held(opened, TENKEY "Select@23"), 1);
     EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SET), BT_DISABLED) << "no key is chosen";
-    EXPECT_THAT(Touch(104 + 20, 84 + 36), ElementsAre("put " TENKEY "@Select@1#true"));
-    TellAll(TENKEY "@", {"Select@1#true", "Select@9#true", "Common@Region@Common@1#1,0,M/E-1,,,",
-                         "Common@Region@Common@9#9,5,User1,no region,P/P,DME1"});
+    EXPECT_THAT(Touch(104 + 20, 84 + 36), ElementsAre("put " TENKEY "Select@1#true"));
+    TellAll(TENKEY "", {"Select@1#true", "Select@9#true", "Common@Region@Common@1#1,0,M/E-1,,,",
+                        "Common@Region@Common@9#9,5,User1,no region,P/P,DME1"});
     SelectRow(1); // P/P
     (void)Touch(456 + 61 + 20, 120);
-    EXPECT_THAT(Push(BTN_ASSIGN_SET),
-                ElementsAre("put " TENKEY "@Common@Region@Common@1#1,0,M/E-1,P/P,,",
-                            "put " TENKEY "@Common@Region@Common@9#9,5,User1,P/P,,DME1"));
-    EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT),
-                ElementsAre("put " TENKEY "@Common@Region@Common@Default#1,0,M/E-1,,,",
-                            "put " TENKEY "@Common@Region@Common@Default#9,5,User1,,P/P,DME1"));
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre("put " REGION "1#1,0,M/E-1,P/P,,",
+                                                  "put " REGION "9#9,5,User1,P/P,,DME1"));
+    EXPECT_THAT(Push(BTN_ASSIGN_DEFAULT), ElementsAre("put " REGION "Default#1,0,M/E-1,,,",
+                                                      "put " REGION "Default#9,5,User1,,P/P,DME1"));
     const std::vector<uint32_t> second_slot = PixelsIn({456, 100, 456 + 2 * 61, 140});
     (void)Touch(456 + 2 * 61 + 20, 120);
     Pass(10);
     EXPECT_NE(PixelsIn({456, 100, 456 + 2 * 61, 140}), second_slot) << "no longer the lit one";
     EXPECT_THAT(Push(BTN_ASSIGN_CLEAR),
-                ElementsAre("put " TENKEY "@Common@Region@Common@1#1,0,M/E-1,,,",
-                            "put " TENKEY "@Common@Region@Common@9#9,5,User1,,,DME1"));
+                ElementsAre("put " REGION "1#1,0,M/E-1,,,", "put " REGION "9#9,5,User1,,,DME1"));
     EXPECT_EQ(Push(BTN_TENKEY_ALL).size(), 21u) << "those that are not chosen yet";
     EXPECT_EQ(BT_GetStatus(BTN_TENKEY_ALL), BT_OFF) << "the server chooses them";
     for (int key = 1; key <= 23; key++)
-        (void)Tell(TENKEY "@Select@" + std::to_string(key) + "#true");
+        (void)Tell(TENKEY "Select@" + std::to_string(key) + "#true");
     EXPECT_EQ(BT_GetStatus(BTN_TENKEY_ALL), BT_ON);
     EXPECT_EQ(Push(BTN_TENKEY_ALL).size(), 23u) << "and none again";
-    EXPECT_THAT(Choose(BTN_TENKEY_RECALL, 1), ElementsAre("put " TENKEY "@Default Recall#true"));
+    EXPECT_THAT(Choose(BTN_TENKEY_RECALL, 1), ElementsAre("put " TENKEY "Default Recall#true"));
 }
 
 // --- Tables ---
@@ -250,13 +236,11 @@ TEST_F(PanelSetup, ATableShowsWhatIsToldOfItsSide)
 
 TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
 {
-    const std::string aux = PANEL "Aux Assign@";
     (void)Tell(PANEL "Config@External Bus Link@S-BUS Src Name List#1,VTR1");
-    const std::pair<uint32_t, std::string> tables[] = {
-        {0x73220010, XPT "Mixer Xpt Assign"},
-        {0x73230000, aux + "Aux Button"},
-        {0x73230003, aux + "RTR Mode Set@Source Table@1"},
-        {0x73230004, aux + "RTR Mode Set@Lvl Btn"}};
+    const std::pair<uint32_t, std::string> tables[] = {{0x73220010, XPT "Mixer Xpt Assign"},
+                                                       {0x73230000, PANEL "Aux Assign@Aux Button"},
+                                                       {0x73230003, RTR "Source Table@1"},
+                                                       {0x73230004, RTR "Lvl Btn"}};
     for (const auto& [page, path] : tables) {
         EXPECT_EQ(Held(Open(page), path), 1) << path;
         (void)Tell(path + "#2,1");
@@ -267,41 +251,34 @@ TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
         EXPECT_THAT(Choose(BTN_XPT_DEFAULT, 1), ElementsAre("put " + path + "@Default#true"));
     }
     (void)Open(0x73230003);
-    EXPECT_THAT(Push(50), ElementsAre("remove " + aux + "RTR Mode Set@Source Table@1",
-                                      "add " + aux + "RTR Mode Set@Source Table@4"));
-    EXPECT_EQ(Held(Leave(), aux + "RTR Mode Set@Source Table@4"), -1);
+    EXPECT_THAT(Push(50), ElementsAre("remove " RTR "Source Table@1", "add " RTR "Source Table@4"));
+    EXPECT_EQ(Held(Leave(), RTR "Source Table@4"), -1);
 }
 
 TEST_F(PanelSetup, WhatIsPreparedGoesWithExecute)
 {
-    TellSources();
-    const std::tuple<uint32_t, std::string, int, std::string> pages[] = {
-        {0x73220004, XPT "Source@Color#1,4", 35, XPT "Source@Color#1,0"},
-        {0x73220005, XPT "User Color@User 1@Brightness#Low", 35,
-         XPT "User Color@User 1@Brightness#High"},
-        {0x73220006, XPT "Name Export@Router#false", 33, XPT "Name Export@Router#true"},
-        {0x73220007, XPT "Side Flags Button Assign#1,false", 33,
-         XPT "Side Flags Button Assign#1,true"},
-        {0x73220008, XPT "Shift Mode@M/E-1#Hold", 34, XPT "Shift Mode@M/E-1#Lock"},
-        {0x73230001, PANEL "Aux Assign@RTR Mode Set@Mode@1st AUX#Aux", 34,
-         PANEL "Aux Assign@RTR Mode Set@Mode@1st AUX#Router"},
-        {0x73230002, PANEL "Aux Assign@RTR Mode Set@Source Table Assign@RTR Dest 1#Table 1", 36,
-         PANEL "Aux Assign@RTR Mode Set@Source Table Assign@RTR Dest 1#Table 4"},
+    static const std::tuple<uint32_t, std::string, const char*, int, const char*> pages[] = {
+        {0x73220004, XPT "Source@Color#1,", "4", 35, "0"},
+        {0x73220005, XPT "User Color@User 1@Brightness#", "Low", 35, "High"},
+        {0x73220006, XPT "Name Export@Router#", "false", 33, "true"},
+        {0x73220007, XPT "Side Flags Button Assign#1,", "false", 33, "true"},
+        {0x73220008, XPT "Shift Mode@M/E-1#", "Hold", 34, "Lock"},
+        {0x73230001, RTR "Mode@1st AUX#", "Aux", 34, "Router"},
+        {0x73230002, RTR "Source Table Assign@RTR Dest 1#Table ", "1", 36, "4"},
     };
-    for (const auto& [page, told, key, put] : pages) {
+    for (const auto& [page, line, told, key, put] : pages) {
         (void)Open(page);
-        if (page == 0x73220004)
-            TellAll(XPT, {"Source@List#1,CAM1", "Source@List#2,CAM2"});
-        (void)Tell(told);
-        EXPECT_THAT(PushIn(0, key), IsEmpty()) << put;
-        EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + put));
+        TellSources();
+        (void)Tell(line + told);
+        EXPECT_THAT(PushIn(0, key), IsEmpty()) << line;
+        EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + line + put));
     }
 }
 
 TEST_F(PanelSetup, ANameIsMadeFitAndExecuted)
 {
     (void)Open(0x73220004);
-    TellAll(XPT, {"Source@List#1,CAM1", "Source@List#2,CAM2"});
+    TellSources();
     SelectRow(1);
     EXPECT_THAT(PushType(33, "b"), IsEmpty());
     EXPECT_EQ(Row(1, 2), "2|CAM2b*");

@@ -11,10 +11,10 @@
 #include <sys/resource.h>
 
 constexpr char MAINTENANCE[] = "/mnt/sys/log/maintenance.log";
-constexpr char PNL[] = "INFORMATION@PNL Self Diagnosis Notice@";
-constexpr char SWR[] = "INFORMATION@SWR Self Diagnosis Notice@";
-constexpr char DME[] = "INFORMATION@DME Self Diagnosis Notice@";
-constexpr char MPE[] = "Info@Self Diagnosis Notice@MPE Status@";
+#define PNL "INFORMATION@PNL Self Diagnosis Notice@"
+#define SWR "INFORMATION@SWR Self Diagnosis Notice@"
+#define DME "INFORMATION@DME Self Diagnosis Notice@"
+#define MPE "Info@Self Diagnosis Notice@MPE Status@"
 
 struct SelfDiag : BusTest {
     void SetUp() override
@@ -65,26 +65,25 @@ struct SelfDiag : BusTest {
 TEST_F(SelfDiag, EveryGroupHasItsTextCodeAndTag)
 {
     DEV_Pnl[0].type = DEVTYPE_QRD11B;
-    static const std::tuple<const char*, const char*, const char*, int, const char*, const char*>
-        rows[] = {
-            {PNL, "Board Temperature", "PNL1,OK,NG", 128, "PNL1 I/F Board Temperature Error",
-             "SIU010100 [diag] SIU-BOARDTEMP-I/FBoard:I/F Board Temperature Error"},
-            {PNL, "Circuit Board Function", "PNL1,--,--,--,--,--,--,NG", 128, "PNL1 Fuse Error",
-             "SIU010100 [diag] SIU-FUSE:Fuse Error"},
-            {PNL, "PSU Status", "PNL1,Exist,OK,OK,OK,Exist,NG,OK,OK", 128, "PNL1 PowerB AC Error",
-             "SIU010100 [diag] SIU-PSUAC-PowerB:PowerB AC Error"},
-            {PNL, "PSU Status", "DCU2,Exist,OK,OK,NG", 128, "DCU2 PowerA FAN Error",
-             "SIU010100 [diag] SIU-PSUFAN-PowerA:PowerA FAN Error"},
-            {SWR, "Reference Status", "SWR1,OK,None", 128, "SWR1 No Reference",
-             "SWR010100 [diag] SWR-REFEXIST:No Reference"},
-            {SWR, "Fan Speed", "SWR1,--,NG(Max)", 130, "SWR1 FAN-2 Control Function Error (Max)",
-             "SWR010100 [diag] SWR-FANSPEED-FAN-2:FAN-2 Control Function Error (Max)"},
-            {MPE, "MPE1", "0,3", 133, "MPE1 Reference Error (Format Mismatch)",
-             "SIU010100 [diag] MPE-REFSTATUS:Reference Error (Format Mismatch)"},
-        };
+    static const std::tuple<const char*, const char*, int, const char*, const char*> rows[] = {
+        {PNL "Board Temperature", "PNL1,OK,NG", 128, "PNL1 I/F Board Temperature Error",
+         "SIU010100 [diag] SIU-BOARDTEMP-I/FBoard:I/F Board Temperature Error"},
+        {PNL "Circuit Board Function", "PNL1,--,--,--,--,--,--,NG", 128, "PNL1 Fuse Error",
+         "SIU010100 [diag] SIU-FUSE:Fuse Error"},
+        {PNL "PSU Status", "PNL1,Exist,OK,OK,OK,Exist,NG,OK,OK", 128, "PNL1 PowerB AC Error",
+         "SIU010100 [diag] SIU-PSUAC-PowerB:PowerB AC Error"},
+        {PNL "PSU Status", "DCU2,Exist,OK,OK,NG", 128, "DCU2 PowerA FAN Error",
+         "SIU010100 [diag] SIU-PSUFAN-PowerA:PowerA FAN Error"},
+        {SWR "Reference Status", "SWR1,OK,None", 128, "SWR1 No Reference",
+         "SWR010100 [diag] SWR-REFEXIST:No Reference"},
+        {SWR "Fan Speed", "SWR1,--,NG(Max)", 130, "SWR1 FAN-2 Control Function Error (Max)",
+         "SWR010100 [diag] SWR-FANSPEED-FAN-2:FAN-2 Control Function Error (Max)"},
+        {MPE "MPE1", "0,3", 133, "MPE1 Reference Error (Format Mismatch)",
+         "SIU010100 [diag] MPE-REFSTATUS:Reference Error (Format Mismatch)"},
+    };
     int errors = 0;
-    for (const auto& [path, group, value, status, entry, syslog] : rows) {
-        EXPECT_EQ(Logged(std::string(path) + group, value), syslog);
+    for (const auto& [path, value, status, entry, syslog] : rows) {
+        EXPECT_EQ(Logged(path, value), syslog);
         ASSERT_EQ(SelfDiag_GetLogMax(), ++errors) << entry;
         EXPECT_EQ(Entry(0), entry);
         EXPECT_EQ(SelfDiag_LogIsError(0), 1);
@@ -98,24 +97,13 @@ TEST_F(SelfDiag, EveryGroupHasItsTextCodeAndTag)
 
 TEST_F(SelfDiag, WhatIsNoReportChangesNothing)
 {
-    static const std::pair<const char*, const char*> rows[] = {
-        {"Fan Speed", ""},
-        {"Fan Speed", "PNL1"},
-        {"Fan Speed", "PNL7,NG"},
-        {"Fan Speed", "PNL1,Ng"},
-        {"Fan Speed", ",NG"},
-        {"Fan Speed", "SWR1,NG"},
-        {"Nothing", "PNL1,NG"},
-        {"", "PNL1,NG"},
-        {"Fan Speed", "DCU3,NG"},
-        {"Fan Speed", "PNL1,--"},
-        {"FAN Operation Hours", "PNL1,NG"},
-    };
-    for (const auto& [path, value] : rows)
-        Report(std::string(PNL) + path, value);
-    EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", "1"), -1);
-    EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", "1,x"), -1);
-    EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", "1,-2"), -1);
+    for (const char* value :
+         {"", "PNL1", "PNL7,NG", "PNL1,Ng", ",NG", "SWR1,NG", "DCU3,NG", "PNL1,--"})
+        Report(PNL "Fan Speed", value);
+    for (const char* group : {"Nothing", "", "FAN Operation Hours"})
+        Report(std::string(PNL) + group, "PNL1,NG");
+    for (const char* value : {"1", "1,x", "1,-2"})
+        EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", value), -1) << value;
     EXPECT_EQ(SelfDiag_MPE_Tally("MPE2", "1,1"), -2);
     EXPECT_EQ(SelfDiag_GetLogMax(), 0);
     EXPECT_EQ(probe::Count(LMSG_SELFDIAGCHANGE), 0);
@@ -124,14 +112,14 @@ TEST_F(SelfDiag, WhatIsNoReportChangesNothing)
     std::string many = "PNL1";
     for (int i = 0; i < 90; i++)
         many += ",NG";
-    Report(std::string(PNL) + "Fan Speed", many);
+    Report(PNL "Fan Speed", many);
     EXPECT_EQ(SelfDiag_GetLogMax(), 2 + 4) << "a panel has four fans";
 }
 
 // The time of an item is that of its last change, so a second report must not move it.
 TEST_F(SelfDiag, OnlyAChangeIsLogged)
 {
-    const std::string path = std::string(PNL) + "Fan Speed";
+    const std::string path = PNL "Fan Speed";
     Report(path, "PNL1,OK,OK");
     EXPECT_EQ(SelfDiag_GetLogMax(), 0) << "that it is well from the start is no event";
     EXPECT_EQ(probe::Count(LMSG_SELFDIAGCHANGE), 1);
@@ -173,8 +161,8 @@ TEST_F(SelfDiag, ARefreshAsksTheUnitsOfThisPanel)
     CopyText(GL_Fan[0][0], "OK");
     SelfDiag_Init();
     EXPECT_STREQ(GL_Fan[0][0], "NG") << "what has not reported yet";
-    Report(std::string(SWR) + "Fan Speed", "SWR1,OK");
-    Report(std::string(DME) + "Fan Speed", "DME1,OK");
+    Report(SWR "Fan Speed", "SWR1,OK");
+    Report(DME "Fan Speed", "DME1,OK");
     for (const int unit : {0, 4})
         EXPECT_STREQ(GL_Fan[unit][0], "OK");
     SelfDiag_Refresh_All();
@@ -190,26 +178,24 @@ TEST_F(SelfDiag, ARefreshAsksTheUnitsOfThisPanel)
 
 TEST_F(SelfDiag, ABoardIsCalledByItsId)
 {
-    Report(std::string(SWR) + "Circuit Board ID", "SWR1,CPU-31,,XPT-44");
+    Report(SWR "Circuit Board ID", "SWR1,CPU-31,,XPT-44");
     EXPECT_STREQ(GL_CircuitBoard[0][0], "CPU-31");
     EXPECT_STREQ(GL_CircuitBoard[0][1], "NG");
-    Report(std::string(DME) + "Circuit Board ID", "DME1,FXC-12");
+    Report(DME "Circuit Board ID", "DME1,FXC-12");
     EXPECT_STREQ(GL_CircuitBoard[4][0], "FXC-12");
-    Report(std::string(SWR) + "Board Temperature", "SWR1,OK,NG,NG");
+    Report(SWR "Board Temperature", "SWR1,OK,NG,NG");
     EXPECT_EQ(Entry(0), "SWR1 XPT-44 Temperature Error");
     EXPECT_EQ(Entry(1), "SWR1 Slot 2 Temperature Error");
-    Report(std::string(SWR) + "PSU Status", "SWR1,Exist,OK,OK,OK,Exist,OK,NG,OK,None");
-    EXPECT_STREQ(GL_PSU[0][0], "OK");
-    EXPECT_STREQ(GL_PSU[0][1], "NG");
-    EXPECT_STREQ(GL_PSU[0][2], "NG");
+    Report(SWR "PSU Status", "SWR1,Exist,OK,OK,OK,Exist,OK,NG,OK,None");
+    EXPECT_EQ(std::string(GL_PSU[0][0]) + GL_PSU[0][1] + GL_PSU[0][2], "OKNGNG");
     ASSERT_TRUE(Item("PowerC Not Exist"));
     EXPECT_EQ(GL_ErrorExist, 3) << "a power supply that is not there is no error";
 }
 
 TEST_F(SelfDiag, TheOldestOf1025EntriesIsDropped)
 {
-    const std::string path = std::string(PNL) + "Reference Status";
-    Report(std::string(PNL) + "Fan Speed", "PNL1,NG");
+    const std::string path = PNL "Reference Status";
+    Report(PNL "Fan Speed", "PNL1,NG");
     for (int i = 0; i < SELFDIAG_LOGS - 1; i++)
         Report(path, i % 2 ? "PNL1,OK" : "PNL1,NG");
     ASSERT_EQ(SelfDiag_GetLogMax(), SELFDIAG_LOGS);
@@ -234,7 +220,7 @@ TEST_F(SelfDiag, AnErrorTakesTheTitleWhereItIsNotShownAnyway)
                                                           {1, 0x74120000, 0},
                                                           {1, 0x74110002, 1},
                                                           {1, PAGE_TOP, 1}};
-    const std::string path = std::string(PNL) + "Reference Status";
+    const std::string path = PNL "Reference Status";
     for (const auto& [wanted, page, popup] : rows) {
         GL_ErrorPopup = wanted;
         GL_NowPage = page;
@@ -249,8 +235,6 @@ TEST_F(SelfDiag, AnErrorTakesTheTitleWhereItIsNotShownAnyway)
 
 // --- The menu's own board ---
 
-namespace
-{
 constexpr char IMAGE[] = "/dev/i2c-0";
 
 // While it lives a write beyond so many bytes fails.
@@ -309,7 +293,6 @@ struct MenuBoard : SelfDiag {
         return hours;
     }
 };
-} // namespace
 
 TEST_F(MenuBoard, HoursTickAtOnceAndThenEachHour)
 {
@@ -358,7 +341,7 @@ TEST_F(MenuBoard, AMemoryThatComesBackCountsOn)
 
 TEST_F(MenuBoard, AUnitThatLeavesTakesItsErrorsAlong)
 {
-    Report(std::string(SWR) + "Fan Speed", "SWR1,NG,NG");
+    Report(SWR "Fan Speed", "SWR1,NG,NG");
     EXPECT_EQ(GL_ErrorExist, 2);
     SYS_PnlAssign[1][0] = 0;
     DeviceStructure();
