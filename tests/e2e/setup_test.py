@@ -22,12 +22,11 @@ class Setup(SetupCase):
     def calls(self):
         """What programs of the device were called with since the last time."""
         path = os.path.join(self.desk.root, "var/tmp/device.log")
-        try:
-            with open(path, encoding="latin-1") as file:
-                lines = file.read().splitlines()
-            os.remove(path)
-        except FileNotFoundError:
+        if not os.path.exists(path):
             return []
+        with open(path, encoding="latin-1") as file:
+            lines = file.read().splitlines()
+        os.remove(path)
         return lines
 
     def wait_calls(self, *calls):

@@ -24,7 +24,7 @@ Copy/Swap@Key@Undo\taction
 """
 
 
-class Values(MeTest):
+class Rules(MeTest):
     def test_a_relative_put_counts_hundredths_and_stops_at_the_limit(self):
         path = "M/E-2 SUB@DME Wipe@Modify@Position@Position@H@1"
         cases = (("8.00", "0.08"), ("-76", "-0.68"), ("11536.00", "114.68"), ("11536.00", "200.00"), ("", "200.00"))
@@ -42,8 +42,6 @@ class Values(MeTest):
         self.text.send(f"put {path}#2,1,4,3,4,3,2,1")
         self.assertEqual(self.text.line(), f"{path}#2,1,4,3,4,3,2,1")
 
-
-class Rules(MeTest):
     def test_one_change_brings_the_others_in_its_own_key_alone(self):
         crop, wipe = KEY + "Resizer@Border/Crop@Crop@", "M/E-1 SUB@Wipe@Direction@"
         effect, matte = KEY + "Resizer@Enhanced Effect@", KEY + "Edge@Matte Adjust@"
@@ -91,7 +89,6 @@ class Rules(MeTest):
         self.assertEqual(self.put(KEY + "Type@Auto Chroma", "true"), [f"{hue}#117.50"])
         self.assertEqual(self.put(KEY + "Type@Chroma Adjust@Undo", "true"), [f"{hue}#200"])
 
-
     def test_a_stored_key_comes_back_with_the_signal_that_cuts_it(self):
         kind, clip, fill = KEY + "Type@Key Type", KEY + "Type@Key Type@Linear@Clip", KEY + "Type@Signal Select@Fill"
         late, other = KEY + "Type@Key Invert", "M/E-4@Key5@Type@Key Type"
@@ -111,8 +108,6 @@ class Rules(MeTest):
         self.put(clip, "50.00")
         self.assertNotIn(clip + "#33.00", self.put(fill, "CAM7"))
 
-
-class Misc(MeTest):
     def test_a_user_gets_back_what_he_has_stored(self):
         click, user = "Misc@Panel@Key Click", "Misc@User@User"
         gpi = "Misc@Port@Enable GPI@DCU"
@@ -239,7 +234,7 @@ class Transitions(MeTest):
         self.assertEqual(self.heard(f"{ftb}FTB#false", ftb + "Busy"), [f"{ftb}Busy#true"])
 
 
-class Channels(MeTest):
+class ChannelsAndRegisters(MeTest):
     def test_a_channel_has_one_key_until_another_overrides(self):
         mine, his = KEY + "Processed Key@", "M/E-2@Key1@Processed Key@"
         self.follow(STATUS, mine + "DME Select@DME3")
@@ -263,8 +258,6 @@ class Channels(MeTest):
         self.text.send("put M/E-1@Misc@Transition@DME Wipe#true", f"read {STATUS}")
         self.text.until(f"{STATUS}#M/E-1@DME Wipe,M/E-1@DME Wipe,M/E-4@Key6" + ",Free" * 5)
 
-
-class WipeRegisters(MeTest):
     def test_a_wipe_of_a_sub_side_comes_back_with_its_pattern(self):
         pattern, soft = "M/E-1 SUB@Wipe@Main Pattern@Pattern", "M/E-1 SUB@Wipe@Edge@Soft@Soft"
         path = WIPES + "M/E-1 Sub@List"

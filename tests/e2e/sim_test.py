@@ -209,32 +209,31 @@ class Verbs(SimTest):
         panel.socket.sendall(b"put Evil#1\r\nadd Good\r\n")
         self.assertEqual(panel.sync(), ["Good#"])
 
-
-def announcement(lines):
-    head = "Info@Initial Read Status#"
-    return [line[len(head):].split(",") for line in lines if line.startswith(head)]
+    def test_a_turn_moves_the_bound_value_by_its_resolution_up_to_the_stop(self):
+        panel = self.client()
+        clip = "M/E-1@Key1@Clip"
+        panel.send(f"add {clip}", f"assign Knob2#{clip}")
+        panel.sync()
+        self.do("knob 2 +3", "knob 1 +3", "knob 2 -1", "knob 2 +99999", "knob 2 +1")
+        self.assertEqual(panel.until(f"{clip}#109.59"), [f"{clip}#{v}" for v in ("0.03", "0.02", "109.59")])
 
 
 class Announcement(SimTest):
     END = "Info@Initial Read Status#0,end"
 
     def check(self, lines):
-        steps = announcement(lines)
+        head = "Info@Initial Read Status#"
+        steps = [line[len(head):].split(",") for line in lines if line.startswith(head)]
         self.assertEqual(steps[0], ["0", "start"])
         for unit in "0123456":
             self.assertLess(steps.index([unit, "start"]), steps.index([unit, "end"]))
         self.assertEqual(len(steps), 14)
 
-    def test_asked_for_it_comes_whole_and_only_to_who_asked(self):
+    def test_it_comes_whole_to_who_asks_and_unasked_to_the_panel_that_lost_its_link(self):
         panel, other = self.client(), self.client()
         panel.send("put Info@Initial Read Status#true")
         self.check(panel.until(self.END))
         self.assertEqual(other.sync(), [])
-
-    def test_a_panel_that_lost_its_link_is_announced_to_without_asking(self):
-        panel = self.client()
-        panel.send("put Info@Initial Read Status#true")
-        panel.until(self.END)
         self.do("drop text")
         self.assertTrue(panel.has_ended())
         again, stranger = self.client(), self.client()
@@ -251,18 +250,6 @@ class Announcement(SimTest):
         self.check(lines)
         self.do("set A 5", "knob 0 +1")
         self.assertEqual(panel.sync(), [])
-
-
-class Knobs(SimTest):
-    values = VALUES
-
-    def test_a_turn_moves_the_bound_value_by_its_resolution_up_to_the_stop(self):
-        panel = self.client()
-        clip = "M/E-1@Key1@Clip"
-        panel.send(f"add {clip}", f"assign Knob2#{clip}")
-        panel.sync()
-        self.do("knob 2 +3", "knob 1 +3", "knob 2 -1", "knob 2 +99999", "knob 2 +1")
-        self.assertEqual(panel.until(f"{clip}#109.59"), [f"{clip}#{v}" for v in ("0.03", "0.02", "109.59")])
 
 
 class Faults(SimTest):
@@ -298,8 +285,6 @@ class Faults(SimTest):
         for _ in range(25):
             panel.until("Clean")
 
-
-class OtherLinks(SimTest):
     FRAME = bytes([7, 0, 1, 0xAA, 0, 2, 0, 0xFF, 0xFF])
 
     def test_frames_are_cut_and_a_bad_one_does_not_stop_the_next(self):
@@ -315,8 +300,6 @@ class OtherLinks(SimTest):
         link.socket.sendall(b"\x08\x00" + self.FRAME[2:7] + b"\x44\xff\xff")
         self.wait_for_log("(?s)(bad frame.*){3}< bin 08 00 01 AA 00 02 00 44 FF FF\n")
 
-
-class Life(SimTest):
     def test_a_mistake_on_the_console_ends_nothing(self):
         self.do("bogus", "knob 9 +1", "get A")
         output = self.output()

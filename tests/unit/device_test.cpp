@@ -63,10 +63,8 @@ TEST_F(Devices, TheAssignmentRowsDecideWhatBelongsToThePanel)
     EXPECT_EQ(SYS_RefPnlType, DEVTYPE_QRD33);
     EXPECT_EQ(SYS_RefSwrType, DEVTYPE_KTR40X);
     EXPECT_EQ(SYS_TargetSwrType, DEVTYPE_NTR40);
-    EXPECT_EQ(SYS_MyDme1, 0);
-    EXPECT_EQ(SYS_MyDme2, 1);
-    EXPECT_EQ(SYS_MyDme1S, 2);
-    EXPECT_EQ(SYS_MyDme2S, 3);
+    EXPECT_THAT((std::vector{SYS_MyDme1, SYS_MyDme2, SYS_MyDme1S, SYS_MyDme2S}),
+                ElementsAre(0, 1, 2, 3));
 }
 
 TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
@@ -130,34 +128,26 @@ TEST_F(Devices, ReferenceChannelPicksTheUnit)
 // Which questions hold for 1080p, by switcher model, processors and effects model.
 TEST_F(Devices, LinksOf1080p)
 {
-    static const struct {
-        DEVTYPE swr;
-        int dual;
-        DEVTYPE dme;
-        double rate;
-        int dual_link, dual_link_dme, on_3g, on_3g_dme, zrd52;
-    } cases[] = {
-        {DEVTYPE_KTR40A, 0, DEVTYPE_FXU50, 29.97, 0, 0, 0, 0, 0}, // too old for 3G
-        {DEVTYPE_KTR40G, 0, DEVTYPE_FXU50, 29.97, 0, 0, 1, 1, 0},
-        {DEVTYPE_KTR40G, 1, DEVTYPE_FXU50, 29.97, 1, 1, 0, 0, 0},
-        {DEVTYPE_KTR40G, 1, DEVTYPE_ZRD52, 29.97, 1, 0, 0, 0, 1},
-        {DEVTYPE_KTR40G, 1, DEVTYPE_ZRD52, 24.0, 0, 0, 0, 0, 0}, // one link is enough
+    // The links of the switcher and of the effects unit, in two or as 3G; the adapter.
+    static const std::tuple<DEVTYPE, int, DEVTYPE, double, std::vector<int>> cases[] = {
+        {DEVTYPE_KTR40A, 0, DEVTYPE_FXU50, 29.97, {0, 0, 0, 0, 0}}, // too old for 3G
+        {DEVTYPE_KTR40G, 0, DEVTYPE_FXU50, 29.97, {0, 0, 1, 1, 0}},
+        {DEVTYPE_KTR40G, 1, DEVTYPE_FXU50, 29.97, {1, 1, 0, 0, 0}},
+        {DEVTYPE_KTR40G, 1, DEVTYPE_ZRD52, 29.97, {1, 0, 0, 0, 1}},
+        {DEVTYPE_KTR40G, 1, DEVTYPE_ZRD52, 24.0, {0, 0, 0, 0, 0}}, // one link is enough
     };
-    for (const auto& c : cases) {
+    for (const auto& [swr, dual, dme, rate, links] : cases) {
         Run1080p(DEV_Swr[0]);
         Run1080p(DEV_Dme[0]);
-        DEV_Swr[0].type = c.swr;
-        DEV_Dme[0].type = c.dme;
-        DEV_Swr[0].framerate = DEV_Dme[0].framerate = c.rate;
-        SYS_DualProc = c.dual;
+        DEV_Swr[0].type = swr;
+        DEV_Dme[0].type = dme;
+        DEV_Swr[0].framerate = DEV_Dme[0].framerate = rate;
+        SYS_DualProc = dual;
         DeviceStructure();
-        SCOPED_TRACE(testing::Message()
-                     << c.swr << " dual " << c.dual << " dme " << c.dme << " " << c.rate);
-        EXPECT_EQ(isDualProc_DualLink(), c.dual_link);
-        EXPECT_EQ(isDualProc_DualLink_DME(), c.dual_link_dme);
-        EXPECT_EQ(is1080P_3G(), c.on_3g);
-        EXPECT_EQ(is1080P_3G_DME(), c.on_3g_dme);
-        EXPECT_EQ(is1080P_ZRD52_DME(), c.zrd52);
+        EXPECT_THAT((std::vector{isDualProc_DualLink(), isDualProc_DualLink_DME(), is1080P_3G(),
+                                 is1080P_3G_DME(), is1080P_ZRD52_DME()}),
+                    ElementsAreArray(links))
+            << swr << " dual " << dual << " dme " << dme << " " << rate;
     }
 }
 

@@ -81,6 +81,9 @@ TEST_F(I2c, ElementsAreReadAndWrittenWhole)
     EXPECT_EQ(ImageByte(0x53, 70), 0x25);
     EXPECT_EQ(ImageByte(0x53, 71), 0x1C);
     EXPECT_EQ(ImageByte(0x53, 72), 0) << "the next element";
+    const unsigned char ones[32] = {1};
+    EXPECT_EQ(I2cEepromService_WriteElem(17, 32, ones), -1) << "the other program's element";
+    EXPECT_EQ(ImageByte(0x53, 16), 0);
     unsigned char in[4] = {9, 9, 9, 9};
     EXPECT_EQ(I2cEepromService_ReadElem(EEPROM_SHP_PORT, 1, in), -1) << "buffer too small";
     EXPECT_EQ(in[0], 9);
@@ -98,14 +101,6 @@ TEST_F(I2c, ElementsAreReadAndWrittenWhole)
         EXPECT_EQ(I2cEepromService_WriteElem(none, 200, in), -1);
         EXPECT_EQ(I2cEepromService_GetElemSize(none, &size), -1);
     }
-}
-
-TEST_F(I2c, TheOtherProgramsElementStaysUntouched)
-{
-    FillDevice(0x53, 0x11);
-    const unsigned char zeros[32] = {};
-    EXPECT_EQ(I2cEepromService_WriteElem(17, 32, zeros), -1);
-    EXPECT_EQ(ImageByte(0x53, 16), 0x11);
 }
 
 TEST_F(I2c, EachRegionHasItsCrc)

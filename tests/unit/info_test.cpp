@@ -1,7 +1,6 @@
 #include "a_kf.h"
 #include "bus_probe.h"
 #include "info.h"
-#include <algorithm>
 #include <iterator>
 
 #define OPERATION "Info@Operation Setup Data@"

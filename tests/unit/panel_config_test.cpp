@@ -1,5 +1,5 @@
-// The panel's links, modules, device interfaces, operation and maintenance: that every key does
-// something, what goes on the wire; the calibration of the touch panel.
+// The panel's links, modules, device interfaces, operation and maintenance: what goes on
+// the wire; the calibration of the touch panel.
 #include "i2c.h"
 #include "panel_desk.h"
 #include "touch.h"
@@ -7,38 +7,6 @@
 
 constexpr int YES = 1, NO = 2, EXECUTE = 54;
 using PanelConfig = PanelTest;
-
-TEST_F(PanelConfig, WhatIsFollowedAllTheTimeOutlivesThePage)
-{
-    EXPECT_THAT(Open(0x73210015), Contains("read " PANEL "Config@M/E Operation@P/P"));
-    for (const std::string& line : Leave())
-        EXPECT_EQ(line.find("M/E Operation@"), line.npos) << line;
-}
-
-TEST_F(PanelConfig, EveryKeyDoesSomething)
-{
-    int keys = 0;
-    for (const PAGE* page = PageTable; page->id != PAGE_END; page++) {
-        const bool is_ours = (page->id >> 16 >= 0x7325 && page->id >> 16 <= 0x7327) ||
-                             (page->id >= 0x73210003 && page->id < 0x73210030);
-        if (!is_ours || page->id == 0x73210012 || SearchPageTable(page->id) != page)
-            continue;
-        (void)Open(page->id);
-        (void)Tell(PANEL "Config@External Bus Link@Master Bus List#1,BUS1");
-        SelectRow(LS_GetNData(1) - 1); // has nothing in hand
-        std::vector<int> ids;
-        for (const BT_MEM* b = bt_first(); b->id > 0; b++)
-            ids.push_back(b->id);
-        for (const int key : ids) {
-            if (Usable({key}).empty() || BT_GetVisible(key) != BT_ENABLED)
-                continue;
-            EXPECT_TRUE(HasEffect(key)) << std::hex << page->id << " key " << std::dec << key;
-            keys++;
-        }
-        (void)Leave();
-    }
-    EXPECT_GT(keys, 120);
-}
 
 TEST_F(PanelConfig, AnExternalLinkTakesItsBusesFromTheirLists)
 {
@@ -120,14 +88,12 @@ TEST_F(PanelConfig, TheValuesOfAGpiPort)
 constexpr uint32_t CALIBRATION = 0x73270001, MAINTENANCE = 0x73270000;
 
 struct Calibration : PanelTest {
-    TouchPoints before;
     void SetUp() override
     {
         PanelTest::SetUp();
         Touch_Reset();
         Touch_Resolution = 1023;
         Touch_SetCalibration({50, 50, 750, 550});
-        before = Touch_GetCalibration();
         Touch_FD = 0; // a panel is there
         const uint8_t none[8] = {};
         (void)I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, sizeof none, none);

@@ -2,7 +2,6 @@
 // showing of the others.
 #include "pc_aux_mon.h"
 #include "table_page.h"
-#include <set>
 
 namespace
 {

@@ -4,7 +4,6 @@
 #include "selfdiag.h"
 #include "table_page.h"
 #include "text.h"
-#include <utility>
 
 struct DiagPage : TablePage {
     static constexpr const char* PNL = "INFORMATION@PNL Self Diagnosis Notice@";

@@ -60,10 +60,13 @@ TEST_F(PanelSetup, AKeyToAPageThatIsNotThereIsDisabled)
     EXPECT_THAT(Disabled(), ElementsAre(34)) << "the key 2 bus's";
 }
 
-TEST_F(PanelSetup, AButtonIsSetClearedAndPutBack)
+TEST_F(PanelSetup, AButtonIsSetClearedAndPutBackAndTakesNoTouchWhenLocked)
 {
     (void)Open(0x73210034);
     TouchPad(9);
+    SetupMenu[SetupIndex_Find(0x73210034)].lock = SetupLock.lock = 1;
+    TouchPad(5);
+    SetupLock.lock = 0;
     EXPECT_THAT(PushIn(4, BTN_ASSIGN_SET),
                 ElementsAre("put " PAD "09@Operation@Common@1#4,1,Snapshot"));
     TouchPad(10);
@@ -101,17 +104,6 @@ TEST_F(PanelSetup, ABankWithoutTheModuleTakesNothingAndOneInTwoProgramsHasTwoSid
     EXPECT_EQ(BT_GetVisible(BTN_ASSIGN_SET), BT_DISABLED);
     (void)Tell(PANEL "Config@Compact Key Module Assign@KY Unit Config@1#FP,--,--,--,--,--,--,--");
     EXPECT_EQ(Push(BTN_ASSIGN_SET).size(), 1u) << "it has been fitted";
-}
-
-TEST_F(PanelSetup, ALockedPageTakesNoTouchOfItsPicture)
-{
-    (void)Open(0x73210034);
-    SelectRow(1);
-    SetupMenu[SetupIndex_Find(0x73210034)].lock = 1;
-    SetupLock.lock = 1;
-    TouchPad(5);
-    SetupLock.lock = 0;
-    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre("put " PAD "01@Operation@Common@1#1,1,Key"));
 }
 
 TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)

@@ -27,11 +27,13 @@ struct SwitcherSetup : SetupTest {
 
 TEST_F(SwitcherSetup, WhatIsFollowedAllTheTimeOutlivesThePage)
 {
-    for (const auto& [page, path] : {std::pair{0x73310000u, "Config@M/E Config@P/P"},
-                                     {0x73310002u, "Config@PGM Config@List"},
-                                     {0x73350000u, "Key/Wipe@FM Auto Store"}}) {
-        EXPECT_THAT(Open(page), Contains("read " + SWITCHER + path));
-        EXPECT_THAT(Leave(), Not(Contains("remove " + SWITCHER + path)));
+    for (const auto& [page, path] : {std::pair{0x73310000u, "Switcher@Config@M/E Config@"},
+                                     {0x73310002u, "Switcher@Config@PGM Config@List"},
+                                     {0x73350000u, "Switcher@Key/Wipe@FM Auto Store"},
+                                     {0x73210015u, "Panel@Config@M/E Operation@"}}) {
+        EXPECT_THAT(Open(page),
+                    Contains(testing::StartsWith("read Engineering Setup@" + std::string(path))));
+        EXPECT_THAT(Leave(), Not(Contains(HasSubstr(path))));
     }
 }
 

@@ -136,11 +136,6 @@ struct LockPage : SetupTest {
         SetupIndex_LoadLock();
         (void)Open(LOCK_PAGE);
     }
-    void TearDown() override
-    {
-        remove(SETUP_LOCK_FILE);
-        SetupTest::TearDown();
-    }
     static int RowOf(const char* menu)
     {
         for (int row = 0; row < LS_GetNData(1); row++)

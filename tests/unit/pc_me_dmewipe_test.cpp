@@ -425,8 +425,14 @@ TEST_F(MeDmeWipe, A4To3CropNeedsAPictureThatIsWider)
                 Contains("read Engineering Setup@System@Format@DME Aspect"));
 }
 
-TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannel)
+TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannelAndAnOlderSwitcherRemovesNothing)
 {
+    constexpr int REMOVE_BEGIN = 54;
+    Open(MODIFY_ME4);
+    EXPECT_TRUE(Enabled(REMOVE_BEGIN));
+    SYS_FmemV6 = 0;
+    Open(MODIFY_ME4);
+    EXPECT_EQ(BT_GetVisible(REMOVE_BEGIN), BT_CUTOFF);
     SYS_RefPnlType = DEVTYPE_QRD33;
     OpenWith(0x14650000, "PGM/PST@DME Wipe", "3003");
     EXPECT_EQ(BT_GetVisible(CH3), BT_CUTOFF);
@@ -436,16 +442,6 @@ TEST_F(MeDmeWipe, TheSmallPanelHasNoThirdChannel)
     SYS_RefSwrScreenAspect[5] = 0;
     Tell("PGM/PST@DME Wipe@Pattern Select@Pattern#2003");
     EXPECT_FALSE(Enabled(CROP_4_3)); // here PGM/PST goes by its own aspect
-}
-
-TEST_F(MeDmeWipe, AnOlderSwitcherHasNoWayToWhatItCannotRemove)
-{
-    constexpr int REMOVE_BEGIN = 54;
-    Open(MODIFY_ME4);
-    EXPECT_TRUE(Enabled(REMOVE_BEGIN));
-    SYS_FmemV6 = 0;
-    Open(MODIFY_ME4);
-    EXPECT_EQ(BT_GetVisible(REMOVE_BEGIN), BT_CUTOFF);
 }
 
 TEST_F(MeDmeWipe, AKeyIsAdjustedWhileEitherOfItsTransitionsIsSuchAWipe)

@@ -1,7 +1,6 @@
 // The edge pages of a key: which buttons are of use by what the key and its edge are.
 #include "page_table/nb_edge.h"
 #include "table_page.h"
-#include "window.h"
 
 using std::string;
 

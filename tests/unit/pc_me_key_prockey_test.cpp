@@ -24,9 +24,12 @@ TEST_F(KeyProcessPages, AChannelOfAnotherKeyIsTakenOnlyByOverride)
     EXPECT_THAT(Press(34), ElementsAre("put M/E-4@Key3@Processed Key@DME Select@DME2#true"));
 }
 
-TEST_F(KeyProcessPages, AChannelIsOnWhenTheServerSaysSo)
+TEST_F(KeyProcessPages, AChannelIsOnWhenTheServerSaysSoInAStatusOfEight)
 {
     Open(0x16260000);
+    TellAll(STATUS, {"None,M/E-2@Key1,Free,Free,Free,Free,Free,Free", "", "Free",
+                     "Free,Free,Free,Free,Free,Free,Free", ",,,"});
+    EXPECT_EQ(Disabled(), (std::set<int>{33, 34}));
     Tell(ALL_FREE);
     (void)Press(49);
     Tell("M/E-2@Key5@Processed Key@DME Select@DME5#true"); // of another key
@@ -34,14 +37,6 @@ TEST_F(KeyProcessPages, AChannelIsOnWhenTheServerSaysSo)
     Tell("M/E-2@Key6@Processed Key@DME Select@DME5#true");
     EXPECT_EQ(BT_GetStatus(49), BT_ON);
     EXPECT_THAT(Press(49), ElementsAre("put M/E-2@Key6@Processed Key@DME Select@DME5#false"));
-}
-
-TEST_F(KeyProcessPages, AStatusThatIsNotOfEightChannelsIsIgnored)
-{
-    Open(0x11160000);
-    TellAll(STATUS, {"None,M/E-2@Key1,Free,Free,Free,Free,Free,Free", "", "Free",
-                     "Free,Free,Free,Free,Free,Free,Free", ",,,"});
-    EXPECT_EQ(Disabled(), (std::set<int>{33, 34}));
 }
 
 TEST_F(KeyProcessPages, OneMonitorServesAllBanks)

@@ -51,12 +51,19 @@ TEST_F(KeyResizerPages, WithoutTheLargeFrameMemoryThereIsNone)
     }
 }
 
-TEST_F(KeyResizerPages, ASubPageFollowsWhatNoneOfItsButtonsHas)
+// The rotation is followed for the life of the process: to remove it here would end that.
+TEST_F(KeyResizerPages, ASubPageFollowsWhatNoneOfItsButtonsHasAndLeavesTheRotation)
 {
-    const std::string combine = "M/E-4@Key6@Resizer@Combine";
-    for (const uint32_t page : {0x85250000u, 0x85250003u}) {
-        EXPECT_EQ(Held(Open(page), combine), 1) << std::hex << page;
-        EXPECT_EQ(Held(Leave(), combine), -1) << std::hex << page;
+    const std::string resizer = "@Resizer@Combine", rotation = "@Processed Key@Rotation";
+    for (const auto& [page, key, follows] : {std::tuple{0x85250000u, "M/E-4@Key6", 1},
+                                             {0x85250003u, "M/E-4@Key6", 1},
+                                             {0x11150004u, "M/E-1@Key1", 0},
+                                             {0x11150005u, "M/E-1@Key1", 1},
+                                             {0x11160000u, "M/E-1@Key1", 0}}) {
+        EXPECT_EQ(Held(Open(page), key + resizer), follows) << std::hex << page;
+        const Lines left = Leave();
+        EXPECT_EQ(Held(left, key + resizer), -follows) << std::hex << page;
+        EXPECT_THAT(left, Not(Contains("remove " + (key + rotation)))) << std::hex << page;
     }
 }
 
@@ -114,15 +121,6 @@ TEST_F(KeyResizerPages, TheRotationComesBackWithTheAxesItHad)
     EXPECT_EQ(BT_GetStatus(20), BT_OFF);
     EXPECT_TRUE(Disabled().contains(20));
     EXPECT_THAT(Press(17), Contains("put M/E-1@Key1@Processed Key@Rotation#2"));
-}
-
-// It is followed for the life of the process: to remove it here would end that.
-TEST_F(KeyResizerPages, TheRotationOfAKeyIsNotGivenBack)
-{
-    for (uint32_t page : {0x11150000, 0x11150004, 0x11150005, 0x11160000}) {
-        Open(page);
-        EXPECT_THAT(Leave(), Not(Contains("remove M/E-1@Key1@Processed Key@Rotation")));
-    }
 }
 
 TEST_F(KeyResizerPages, AShownColumnFollowsTheRotation)

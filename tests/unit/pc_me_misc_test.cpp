@@ -75,29 +75,21 @@ TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
         }
 }
 
-TEST_F(MeMisc, ASubSideHasADmeWipeOnlyWhenItIsSetUp)
-{
-    for (const int is_set_up : {0, 1}) {
-        SYS_DWSubEnable = is_set_up;
-        Open(0x16710000);
-        EXPECT_EQ(BT_GetVisible(18), is_set_up ? BT_ENABLED : BT_DISABLED);
-        Open(0x12710000);
-        EXPECT_EQ(BT_GetVisible(18), BT_ENABLED);
-    }
-}
-
-TEST_F(MeMisc, WithoutClipsThereIsNeitherTheirTypeNorTheirTab)
+TEST_F(MeMisc, WithoutClipsOrTheSubSidesDmeWipeThereIsNeitherTheirTypeNorTheirTab)
 {
     constexpr int TAB_X = 97 + 4 * 86 + 40;
-    for (const int has_clips : {1, 0}) {
-        SYS_FmemV6 = has_clips;
-        Open(0x81710000);
-        EXPECT_EQ(BT_GetVisible(19), has_clips ? BT_ENABLED : BT_DISABLED);
+    for (const int has_it : {1, 0}) {
+        SYS_FmemV6 = SYS_DWSubEnable = has_it;
+        for (const auto& [page, type] :
+             {std::pair{0x81710000u, 19}, {0x16710000u, 18}, {0x12710000u, 18}}) {
+            const bool is_there = has_it || page == 0x12710000; // the main side has its own wipe
+            Open(page);
+            EXPECT_EQ(BT_GetVisible(type), is_there ? BT_ENABLED : BT_DISABLED) << type;
+        }
         for (const uint32_t id : {0x81710000u, 0x81710001u, 0x81730000u, 0x81770000u}) {
             Open(id);
-            SendMessage(MSG_PRESS, TAB_X, 550, 1, 0);
-            EXPECT_EQ(std::exchange(GL_CreatePage, 0), has_clips ? 0x81760000u : 0u)
-                << std::hex << id;
+            (void)Touch(TAB_X, 550);
+            EXPECT_EQ(std::exchange(GL_CreatePage, 0), has_it ? 0x81760000u : 0u) << std::hex << id;
         }
     }
 }

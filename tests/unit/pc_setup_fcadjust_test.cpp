@@ -1,5 +1,4 @@
 // Format converters: which inputs are on the page, which knobs a mode has, what goes out.
-#include "a_nb.h"
 #include "setup_desk.h"
 
 const std::string ADJUST = "Engineering Setup@Switcher@Input@FC Adjust@";

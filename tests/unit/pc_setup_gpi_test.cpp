@@ -28,7 +28,7 @@ TEST_F(Gpi, EachPortIsAskedForWithBothKindsOfActionAndLeftAgain)
     EXPECT_THAT(opened, Not(Contains("add " + PORTS + "Trigger Type@9")));
 }
 
-TEST_F(Gpi, APortHasEightValuesOfWhichTheEmptyPathSaysNothing)
+TEST_F(Gpi, APortHasEightValuesOfWhichTheEmptyPathSaysNothingAndIsFiredByItsNumber)
 {
     OpenOutput();
     EXPECT_EQ(Row(0, 7), "1|Rising Edge|2|10|Key On|M/E-1 Key3|");
@@ -44,6 +44,7 @@ TEST_F(Gpi, APortHasEightValuesOfWhichTheEmptyPathSaysNothing)
     EXPECT_EQ(Row(1, 6), "2|Level|0|255|Xpt Hold|M/E-2 Key3 Key4") << "another bank";
     (void)Tell("Engineering Setup@Switcher@Config@Key Config#M/E-2,Key3 Key PVW");
     EXPECT_EQ(Row(1, 6), "2|Level|0|255|Xpt Hold|M/E-2 Key3 Key PVW");
+    EXPECT_THAT(PushIn(4, KEY_TEST), ElementsAre("put " + PORTS + "Test Fire@5#"));
 }
 
 TEST_F(Gpi, ExecuteSendsWhatHasChangedInTheFormOfItsAction)
@@ -68,12 +69,6 @@ TEST_F(Gpi, ExecuteSendsWhatHasChangedInTheFormOfItsAction)
                             "put " + PORTS + "Trigger Type@1#Any Edge,0x02,0xFF"));
     (void)Push(BTN_SHEET_CLEAR);
     EXPECT_EQ(Row(1, 7), "2|Level|0|255|Effect Recall|User1|12");
-}
-
-TEST_F(Gpi, TestFireGoesToTheSelectedPortWithAnEmptyValue)
-{
-    OpenOutput();
-    EXPECT_THAT(PushIn(4, KEY_TEST), ElementsAre("put " + PORTS + "Test Fire@5#"));
 }
 
 TEST_F(Gpi, InputsHaveTheirOwnPlaceAndAConverterItsTwoSides)

@@ -1,20 +1,12 @@
 // The screen saver, through the loop's door: when it starts, what it hides and gives back, what
 // each pattern shows.
 #include "a_ba.h"
-#include "a_ls.h"
-#include "bus.h"
-#include "device.h"
-#include "global.h"
-#include "harness.h"
 #include "loop.h"
-#include "message.h"
-#include "page.h"
 #include "pane.h"
 #include "saver.h"
+#include "table_page.h"
 #include "tdl.h"
 #include "text.h"
-#include "window.h"
-#include <algorithm>
 #include <chrono>
 #include <climits>
 #include <cstring>
@@ -42,10 +34,10 @@ long Light()
 
 } // namespace
 
-struct Saver : testing::Test {
+struct Saver : TablePage {
     void SetUp() override
     {
-        Harness_Reset();
+        TablePage::SetUp();
         ASSERT_EQ(CreatePage(KEY_PAGE), 0);
         GL_ScreenSaverInterval = 1;
         EndScreenSaver(); // counts from here
@@ -55,7 +47,7 @@ struct Saver : testing::Test {
     {
         std::filesystem::remove_all(FOLDER);
         std::filesystem::remove(SETTINGS);
-        Harness_Reset();
+        TablePage::TearDown();
     }
 
     // The pointer that comes back with the page would stand in the pictures.
@@ -448,8 +440,11 @@ struct SaverSetup : Saver {
     }
 };
 
-TEST_F(SaverSetup, KnobsSetThePatternAndItsTimes)
+TEST_F(SaverSetup, KnobsSetThePatternAndItsTimesWhichAreSavedWhenThePageIsLeft)
 {
+    CreatePage(KEY_PAGE);
+    EXPECT_FALSE(std::filesystem::exists(SETTINGS)) << "nothing was changed";
+    CreatePage(0x99930000);
     static const std::tuple<int, int, const int*, int> cases[] = {
         {1, 0, &GL_ScreenSaverPTN_Mode, 0},        {1, 99, &GL_ScreenSaverPTN_Mode, 17},
         {2, 10, &GL_ScreenSaverVariable_speed, 9}, {2, -5, &GL_ScreenSaverVariable_speed, 0},
@@ -459,18 +454,11 @@ TEST_F(SaverSetup, KnobsSetThePatternAndItsTimes)
         SendMessage(LMSG_KNOBVAR, knob, value, 1, 0);
         EXPECT_EQ(*setting, expected) << knob << " " << value;
     }
-}
-
-TEST_F(SaverSetup, IsSavedWhenThePageIsLeftAndOnlyThen)
-{
     CreatePage(KEY_PAGE);
-    EXPECT_FALSE(std::filesystem::exists(SETTINGS)) << "nothing was changed";
-    CreatePage(0x99930000);
-    SendMessage(LMSG_KNOBVAR, 2, 7, 1, 0);
-    CreatePage(KEY_PAGE);
-    GL_ScreenSaverVariable_speed = 0;
+    GL_ScreenSaverPTN_Mode = GL_ScreenSaverVariable_speed = 5;
     Saver_LoadSettings();
-    EXPECT_EQ(GL_ScreenSaverVariable_speed, 6);
+    EXPECT_EQ(GL_ScreenSaverPTN_Mode, 17);
+    EXPECT_EQ(GL_ScreenSaverVariable_speed, 0);
 }
 
 // Into the keyboard that is open, in place of what it holds.

@@ -1,7 +1,5 @@
 #include "bus_probe.h"
 #include "i2c.h"
-#include "page.h"
-#include "pane.h"
 #include "selfdiag.h"
 #include "text.h"
 #include "xsyslog.h"

@@ -63,10 +63,7 @@ std::string LockFileOfOnePage()
 
 TEST_F(SetupIndex, HasOneRowForAPageInEveryVariantGroupedByTab)
 {
-    static const struct {
-        uint32_t page;
-        const char *menu, *name;
-    } rows[] = {
+    static const std::tuple<uint32_t, std::string, std::string> rows[] = {
         {0x73110000, "7311", "Network Config"},
         {0x73160008, "7316.8", "Unit Config"},
         {0x73110099, "7311.99", "last sub page number"},
@@ -76,11 +73,8 @@ TEST_F(SetupIndex, HasOneRowForAPageInEveryVariantGroupedByTab)
         {0x737F0000, "737F", "a name of more than forty-seven characters, to "},
     };
     ASSERT_EQ(SetupMenu_Max, int(std::size(rows)));
-    for (size_t i = 0; i < std::size(rows); i++) {
-        EXPECT_EQ(SetupMenu[i].page, rows[i].page);
-        EXPECT_STREQ(SetupMenu[i].menu, rows[i].menu);
-        EXPECT_STREQ(SetupMenu[i].name, rows[i].name);
-    }
+    for (size_t i = 0; i < std::size(rows); i++)
+        EXPECT_EQ(std::tuple(SetupMenu[i].page, SetupMenu[i].menu, SetupMenu[i].name), rows[i]);
     EXPECT_EQ(SetupMenuTbl[6].off, 5);
     EXPECT_EQ(SetupMenuTbl[6].num, 2);
 }
@@ -103,7 +97,7 @@ TEST_F(SetupIndex, LocksSurviveARestart)
     EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73110000)].lock, 0);
 }
 
-TEST_F(SetupIndex, AMissingOrCutLockFileLocksNothing)
+TEST_F(SetupIndex, AMissingOrCutLockFileLocksNothingAndOneOfRubbishStaysInBounds)
 {
     EXPECT_EQ(SetupLock_New, 1);
     WriteLockFile(LockFileOfOnePage().substr(0, 795));
@@ -111,10 +105,6 @@ TEST_F(SetupIndex, AMissingOrCutLockFileLocksNothing)
     EXPECT_EQ(SetupLock_New, 1);
     EXPECT_EQ(SetupLock.lock, 0);
     EXPECT_EQ(SetupMenu[SetupIndex_Find(0x73110000)].lock, 0);
-}
-
-TEST_F(SetupIndex, ALockFileOfRubbishStaysInBounds)
-{
     for (const char byte : {'\x7F', '\xFF'}) { // a count far too high, and a negative one
         WriteLockFile(std::string(796, byte));
         SetupIndex_LoadLock();
@@ -123,7 +113,7 @@ TEST_F(SetupIndex, ALockFileOfRubbishStaysInBounds)
     }
 }
 
-TEST_F(SetupIndex, TheLockFileIsTheSameOnEveryMachine)
+TEST_F(SetupIndex, TheLockFileIsTheSameOnEveryMachineAndStaysOnAFullDisk)
 {
     WriteLockFile(LockFileOfOnePage());
     SetupIndex_LoadLock();
@@ -132,12 +122,6 @@ TEST_F(SetupIndex, TheLockFileIsTheSameOnEveryMachine)
     unlink(SETUP_LOCK_FILE);
     ASSERT_EQ(SetupIndex_SaveLock(), 0);
     EXPECT_EQ(FileText(SETUP_LOCK_FILE), LockFileOfOnePage());
-}
-
-TEST_F(SetupIndex, AFullDiskLeavesTheLocksOfTheLastTime)
-{
-    WriteLockFile(LockFileOfOnePage());
-    SetupIndex_LoadLock();
     SetupMenu[SetupIndex_Find(0x73710000)].lock = 1;
     ASSERT_EQ(symlink("/dev/full", SETUP_LOCK_FILE ".new"), 0);
     EXPECT_EQ(SetupIndex_SaveLock(), -1);
