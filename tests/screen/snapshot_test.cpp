@@ -10,21 +10,14 @@ struct SnapshotPictures : TablePage {
     {
         TablePage::SetUp();
         DeviceStructure();
-        static const char* const lines[] = {
-            "M/E-1@List#1,OPENING,S,AB12U1,30,n,n",
-            "M/E-1@List#2,HEADLINE,L,AB12345678U1U2U3,n,15,1",
-            "M/E-1@List#3,OTS LEFT,S,,n,n,n",
-            "M/E-1@List#5,OTS RIGHT,S,12,25,25,n",
-            "M/E-1@List#7,WEATHER,S,,n,n,n",
-            "M/E-1@List#35,,S,,n,n,n",
-            "P/P@List#1,OPENING,S,,n,n,n",
-            "P/P@List#12,CREDITS,L,,n,n,n",
-            "User1@List#1,OPENING,S,00000001,n,n,n",
-            "DME2@List#7,FLY IN,S,,n,n,n",
-            "RTR@List#1,OPENING,S,,n,n,n",
-        };
-        for (const char* line : lines)
-            Tell(std::string("Snapshot@Snapshot@Attribute@") + line);
+        TellAll("Snapshot@Snapshot@Attribute@",
+                {"M/E-1@List#1,OPENING,S,AB12U1,30,n,n",
+                 "M/E-1@List#2,HEADLINE,L,AB12345678U1U2U3,n,15,1",
+                 "M/E-1@List#3,OTS LEFT,S,,n,n,n", "M/E-1@List#5,OTS RIGHT,S,12,25,25,n",
+                 "M/E-1@List#7,WEATHER,S,,n,n,n", "M/E-1@List#35,,S,,n,n,n",
+                 "P/P@List#1,OPENING,S,,n,n,n", "P/P@List#12,CREDITS,L,,n,n,n",
+                 "User1@List#1,OPENING,S,00000001,n,n,n", "DME2@List#7,FLY IN,S,,n,n,n",
+                 "RTR@List#1,OPENING,S,,n,n,n"});
         Tell("Snapshot@Master Snapshot@Store/Recall@List#1,SHOW ONE,S,U,1,2,,4,,99,,,,,,,12,,,,,,,,"
              "3,3,,,,,,,5,");
     }

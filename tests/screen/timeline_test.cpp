@@ -36,12 +36,10 @@ struct TimelinePictures : testing::Test {
     static void Pass() { KF_Proc(MSG_REDRAW, 1000, 0, 0, 0); }
 };
 
-// BCD of a time in frames from 1:00:00:00 on, less than a minute away.
+// A time in frames from 1:00:00:00 on.
 static kf::Code At(int frames)
 {
-    const int t = 3600 * 30 + frames;
-    const auto bcd = [](int v) { return static_cast<unsigned char>(v / 10 << 4 | v % 10); };
-    return {bcd(t / 108000), bcd(t / 1800 % 60), bcd(t / 30 % 60), bcd(t % 30)};
+    return kf::At(3600 * 30 + frames);
 }
 
 // A running loop under the cursor, a delay, a pause ahead of the cursor, one keyframe, a keyframe
@@ -66,22 +64,20 @@ static void SendRegions()
         {69, 44, 60, 60, 180, {P | 60, 0, 0, 60, 60}, 90, 1},
     };
     for (const auto& r : rows) {
-        const kf::Code delay = {0, 0, At(r.delay).s, At(r.delay).f};
-        const kf::Code length = {0, 0, At(r.length).s, At(r.length).f};
-        kf::Send(kf::DATA, kf::DataFrame({.code = r.code,
-                                          .regnum = r.regnum,
-                                          .regname = "OPENING ",
-                                          .flags = r.flags,
-                                          .freekf = 986,
-                                          .start = At(r.start),
-                                          .delay = delay,
-                                          .end = At(r.start + r.length),
-                                          .duration = length,
-                                          .loopstart = r.loopstart,
-                                          .loopend = r.loopend,
-                                          .loopnum = r.loopnum,
-                                          .keyframes = r.keyframes}));
-        kf::Send(kf::STATUS, kf::StatusFrame({r.code, At(r.cursor), r.keyframe, r.run, r.loop}));
+        kf::Send(kf::Data{.code = r.code,
+                          .regnum = r.regnum,
+                          .regname = "OPENING ",
+                          .flags = r.flags,
+                          .freekf = 986,
+                          .start = At(r.start),
+                          .delay = kf::At(r.delay),
+                          .end = At(r.start + r.length),
+                          .duration = kf::At(r.length),
+                          .loopstart = r.loopstart,
+                          .loopend = r.loopend,
+                          .loopnum = r.loopnum,
+                          .keyframes = r.keyframes});
+        kf::Send(kf::Status{r.code, At(r.cursor), r.keyframe, r.run, r.loop});
     }
 }
 
@@ -105,8 +101,8 @@ struct KeyframePictures : KeyframePage {
     }
     static void Paint()
     {
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        Pass(10);
+        Pass(10);
     }
 };
 

@@ -18,16 +18,16 @@ constexpr uint32_t STATUS = 0x1000AA;
 struct Code { // BCD hours, minutes, seconds, frames
     unsigned char h = 0, m = 0, s = 0, f = 0;
 };
+inline Code At(int frames)
+{
+    const auto bcd = [](int v) { return static_cast<unsigned char>(v / 10 << 4 | v % 10); };
+    return {bcd(frames / 108000), bcd(frames / 1800 % 60), bcd(frames / 30 % 60), bcd(frames % 30)};
+}
 
 inline void Add16(Bytes& to, int v)
 {
     to.push_back(static_cast<unsigned char>(v >> 8));
     to.push_back(static_cast<unsigned char>(v));
-}
-
-inline void AddCode(Bytes& to, const Code& c)
-{
-    to.insert(to.end(), {c.h, c.m, c.s, c.f});
 }
 
 struct Data {
@@ -53,7 +53,7 @@ inline Bytes DataFrame(const Data& d)
     Add16(f, 0);
     Add16(f, d.kfnum < 0 ? int(d.keyframes.size()) : d.kfnum);
     for (const Code& c : {d.start, d.delay, d.end, d.duration})
-        AddCode(f, c);
+        f.insert(f.end(), {c.h, c.m, c.s, c.f});
     Add16(f, d.loopstart);
     Add16(f, d.loopend);
     f.push_back(static_cast<unsigned char>(d.loopnum));
@@ -73,7 +73,7 @@ struct Status {
 inline Bytes StatusFrame(const Status& s)
 {
     Bytes f = {static_cast<unsigned char>(s.code), 0, 0};
-    AddCode(f, s.time);
+    f.insert(f.end(), {s.time.h, s.time.m, s.time.s, s.time.f});
     Add16(f, s.keyframe);
     f.insert(f.end(), {static_cast<unsigned char>(s.run), 0, static_cast<unsigned char>(s.loop)});
     return f;
@@ -86,12 +86,18 @@ inline int Send(uint32_t id, const Bytes& frame)
     return KF_Proc(MSG_BINTALLY, MsgArg(id), Arg(exact.data()), MsgArg(exact.size()), 0);
 }
 
-inline int Select(std::initializer_list<int> bytes)
+inline int Send(const Data& data)
 {
-    Bytes f;
-    for (const int b : bytes)
-        f.push_back(static_cast<unsigned char>(b));
-    return Send(SELECTION, f);
+    return Send(DATA, DataFrame(data));
+}
+inline int Send(const Status& status)
+{
+    return Send(STATUS, StatusFrame(status));
+}
+
+inline int Select(std::initializer_list<unsigned char> bytes)
+{
+    return Send(SELECTION, Bytes(bytes));
 }
 
 // Every region of the table, four to a ten-key button.

@@ -73,7 +73,7 @@ static const kf::Data opening = {
 
 TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
 {
-    EXPECT_EQ(kf::Send(kf::DATA, kf::DataFrame(opening)), 0);
+    EXPECT_EQ(kf::Send(opening), 0);
     const KF_REGION& r = R(ME1);
     EXPECT_STREQ(r.regname, "OPENING ");
     EXPECT_THAT((std::array{r.regnum, r.lock, r.freekf, r.kfnum, r.dtime, r.duration, r.loopstart,
@@ -87,13 +87,13 @@ TEST_F(Keyframes, ARegionFrameIsStoredFieldByField)
     EXPECT_EQ(r.kf[3].pause, 1);
     EXPECT_THAT(told, ElementsAre("STATUS 0"));
     tlSETime_redraw = 0;
-    kf::Send(kf::DATA, kf::DataFrame(opening));
+    kf::Send(opening);
     EXPECT_EQ(tlSETime_redraw, 1) << "the axis may be another";
     EXPECT_THAT(told, ElementsAre("STATUS 0")) << "neither register nor count has changed";
     kf::Data strange = opening;
     strange.regname = "A\nB\x80\x7F\x1B C";
     strange.keyframes.clear();
-    kf::Send(kf::DATA, kf::DataFrame(strange));
+    kf::Send(strange);
     EXPECT_STREQ(r.regname, "A B    C") << "a name cannot break its line";
     EXPECT_EQ(r.kfnum, 0);
     EXPECT_EQ(r.kf[2].duration, 0x7FF) << "a frame without keyframes leaves the old list";
@@ -114,10 +114,10 @@ TEST_F(Keyframes, ARegionFrameIsBelievedAsFarAsItReaches)
     }
     kf::Data d = opening;
     d.kfnum = 0xFFFF;
-    kf::Send(kf::DATA, kf::DataFrame(d));
+    kf::Send(d);
     EXPECT_EQ(R(ME1).kf[4].duration, 0) << "what did not come is not stored";
     d.keyframes.assign(1200, 9);
-    kf::Send(kf::DATA, kf::DataFrame(d));
+    kf::Send(d);
     EXPECT_EQ(R(ME1).kf[KF_KEYFRAMES - 1].duration, 9);
     EXPECT_STREQ(R(ME2).regname, "--------");
     EXPECT_EQ(R(ME1).redraw, 1) << "what lies behind the list is untouched";
@@ -128,8 +128,8 @@ TEST_F(Keyframes, UnknownRegionsAndIdsAreDropped)
     for (const int code : {24, 67, 68, 84, 240, 254, 255}) {
         kf::Data d = opening;
         d.code = code;
-        EXPECT_EQ(kf::Send(kf::DATA, kf::DataFrame(d)), 0);
-        EXPECT_EQ(kf::Send(kf::STATUS, kf::StatusFrame({.code = code, .keyframe = 3})), 0);
+        EXPECT_EQ(kf::Send(d), 0);
+        EXPECT_EQ(kf::Send(kf::Status{.code = code, .keyframe = 3}), 0);
     }
     EXPECT_EQ(kf::Send(0x1200AA, kf::DataFrame(opening)), 1);
     for (int i = 0; i < KF_REGIONS; i++)
@@ -142,11 +142,8 @@ TEST_F(Keyframes, UnknownRegionsAndIdsAreDropped)
 TEST_F(Keyframes, AStatusFrameMovesTheCursorAndTellsOfNewKeyframesOnly)
 {
     for (const int run : {0x01, 0x11})
-        kf::Send(kf::STATUS, kf::StatusFrame({.code = 16,
-                                              .time = {0x80, 0, 0x04, 0x12},
-                                              .keyframe = 258,
-                                              .run = run,
-                                              .loop = 0x83}));
+        kf::Send(kf::Status{
+            .code = 16, .time = {0x80, 0, 0x04, 0x12}, .keyframe = 258, .run = run, .loop = 0x83});
     const KF_REGION& r = R(DME1);
     EXPECT_THAT((std::array{r.runstat, r.loopon, r.loopremain, r.ctime, r.ckfnum}),
                 ElementsAre(-1, 1, 3, -(4 * RATE + 12), 258));
@@ -305,10 +302,10 @@ TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNews)
     EXPECT_TRUE(StripPaints(150)) << "pushed";
     EXPECT_FALSE(StripPaints(90)) << "still pushed";
     EXPECT_TRUE(StripPaints(KF_DRAW_ANEW));
-    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
+    kf::Send(kf::Status{.code = 1});
     EXPECT_TRUE(StripPaints(0));
     GL_NowPage = 0x61110000;
-    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1, .keyframe = 7}));
+    kf::Send(kf::Status{.code = 1, .keyframe = 7});
     EXPECT_TRUE(StripPaints(0));
     EXPECT_EQ(R(ME1).redraw_tl, 1) << "the rows of the timeline need it";
     EXPECT_FALSE(StripPaints(0)) << "they have not been painted yet, the strip has";

@@ -141,34 +141,28 @@ TEST_F(ClipStore, RowsThatAreNotWholeChangeNothing)
     Folder("A");
     Clip("A/x", 7);
     (void)Changes();
-    const std::tuple<const char*, const char*, std::string> rows[] = {
-        {"Insert", "ClipStoreFile", "root/y:1,0,0,3,,1"},
-        {"Insert", "ClipStoreFile", "root/1/2/3/4/5/y" + values},
-        {"Insert", "ClipStoreFile", "root/" + n32 + "n" + values},
-        {"Insert", "ClipStoreFile", "root/" + n32 + "nn" + values},
-        {"Insert", "ClipStoreFile", "root/y.SFH"},
-        {"Insert", "ClipStoreFile", "1,0,0,3,,1,0"},
-        {"Insert", "ClipStoreFolder", "root/B"},
-        {"Insert", "ClipStoreFolder", "root/B:,"},
-        {"Insert", "ClipStoreFolder", "root:1"},
-        {"Insert", "ClipStoreInfo", "root/B:1"},
-        {"Delete", "ClipStoreFolder", "root"},
-        {"Delete", "ClipStoreFolder", "root/"},
-        {"Delete", "ClipStoreFolder", ""},
-        {"Delete", "ClipStoreFile", "root/A"},
-        {"Notify", "ClipStoreFile", "root/A/x.SFH:frames:9"},
-        {"Notify", "ClipStoreFile", "root/A/x.SFH:status"},
-        {"Notify", "ClipStoreFolder", "root/A/x.SFH:status:3"},
-        {"Result", "ClipStoreFile", "Trim root/A/x.SFH 0 2 3:80"},
-        {"Result", "ClipStoreFile", "Trim root/A/x.SFH 0 2 3:7E"},
-        {"Result", "ClipStoreFile", "Trim root/A/x.SFH 2 3:7F"},
-        {"Result", "ClipStoreFile", "Copy root/A/x.SFH 0 2 3:7F"},
-        {"Result", "ClipStoreFile", "Trim:7F"},
+    const std::tuple<const char*, const char*, Strings> cases[] = {
+        {"Insert",
+         "ClipStoreFile",
+         {"root/y:1,0,0,3,,1", "root/1/2/3/4/5/y" + values, "root/" + n32 + "n" + values,
+          "root/" + n32 + "nn" + values, "root/" + n32.substr(15) + "/y" + values, "root/y.SFH",
+          "1,0,0,3,,1,0"}},
+        {"Insert", "ClipStoreFolder", {"root/B", "root/B:,", "root:1"}},
+        {"Insert", "ClipStoreInfo", {"root/B:1"}},
+        {"Delete", "ClipStoreFolder", {"root", "root/", ""}},
+        {"Delete", "ClipStoreFile", {"root/A"}},
+        {"Notify", "ClipStoreFile", {"root/A/x.SFH:frames:9", "root/A/x.SFH:status"}},
+        {"Notify", "ClipStoreFolder", {"root/A/x.SFH:status:3"}},
+        {"Result",
+         "ClipStoreFile",
+         {"Trim root/A/x.SFH 0 2 3:80", "Trim root/A/x.SFH 0 2 3:7E", "Trim root/A/x.SFH 2 3:7F",
+          "Copy root/A/x.SFH 0 2 3:7F", "Trim:7F"}},
     };
-    for (const auto& [verb, table, row] : rows) {
-        Hub(verb, table, row);
-        EXPECT_THAT(Changes(), IsEmpty()) << verb << " " << row;
-    }
+    for (const auto& [verb, table, rows] : cases)
+        for (const std::string& row : rows) {
+            Hub(verb, table, row);
+            EXPECT_THAT(Changes(), IsEmpty()) << verb << " " << row;
+        }
     EXPECT_THAT(Tree(), ElementsAre("/", "/A", "/A/x"));
     EXPECT_EQ(At("/A/x").duration, 7);
     Clip(n32);
@@ -191,6 +185,13 @@ TEST_F(ClipStore, ChangesAreToldToFrameMemoryPagesAlone)
     const ELEMENT& x = At("/A/x");
     EXPECT_TRUE(x.is_pair == 1 && x.format4k == 1 && x.format == 5 && x.exist == 3);
     EXPECT_STREQ(x.create_time, "2027 Feb.01 10:11");
+    for (const auto& [time, shown] : {std::pair{"2027-12-31 00:00:00", "2027 Dec.31 00:00"},
+                                      {"2027-13-31 00:00:00", ""},
+                                      {"2027-00-31 00:00:00", ""}}) {
+        Hub("Notify", "ClipStoreFile", std::string("root/A/x.SFH:timestamp:") + time);
+        EXPECT_STREQ(x.create_time, shown) << time;
+    }
+    (void)Changes();
     Clip("A/x", 4);
     EXPECT_THAT(Changes(), ElementsAre("2 x 0 0")) << "told anew";
     GL_NowPage = 0x11110000;

@@ -133,15 +133,14 @@ TEST_F(DropFolders, AnImageIsImportedShownAndRemoved)
     Pass(2000);
     Drop("FM4/logo.2.png");
     const Strings search = Look();
-    ASSERT_EQ(search.size(), 1u);
-    EXPECT_THAT(search[0], HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4,*.*"));
+    EXPECT_THAT(search, ElementsAre(HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4,*.*")));
     EXPECT_THAT(Found(search, {"FM4/logo.2.png"}),
                 ElementsAre("put Frame Mem@File@Delete Thumbnail@Single#Mlogo"));
     EXPECT_THAT(After(499), IsEmpty());
     const Strings sent = Finish(After(1));
     ASSERT_FALSE(sent.empty());
-    EXPECT_THAT(sent[0], HasSubstr("PNG2SFM with Compress#"));
-    EXPECT_THAT(sent[0], HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4/logo.2.png,"));
+    EXPECT_THAT(sent[0], AllOf(HasSubstr("PNG2SFM with Compress#"),
+                               HasSubstr(",MYHOST:/mnt/sys/FMLoad/FM4/logo.2.png,")));
     EXPECT_THAT(Others(sent), ElementsAre("put Frame Mem@Recall@Recall Thumbnail@Select#FM3&4",
                                           "put Frame Mem@Recall@Recall Thumbnail@FM4#Mlogo"));
     EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM4/logo.2.png"));
@@ -154,18 +153,16 @@ TEST_F(DropFolders, GraphicsWithoutRecallGoIntoTheirFolder)
     Drop("NoRecall/b.TGA");
     Drop("NoRecall/Mclip.FMEM_001.SFM");
     const Strings search = Look();
-    ASSERT_EQ(search.size(), 1u);
-    EXPECT_THAT(search[0], HasSubstr("FMLoad/NoRecall,"));
+    EXPECT_THAT(search, ElementsAre(HasSubstr("FMLoad/NoRecall,")));
     EXPECT_THAT(Found(search, {"NoRecall/b.TGA", "NoRecall/Mclip.FMEM_001.SFM",
                                "NoRecall/readme.txt", "NoRecall/.png"}),
                 ElementsAre("put Frame Mem@Folder@Rename#2,Graphics"));
     const Strings sent = Finish(After(500));
     EXPECT_THAT(sent, Contains(HasSubstr("SWR000D001:FMEM_003.SF2")));
-    Strings others = Others(sent);
-    std::sort(others.begin(), others.end());
-    EXPECT_THAT(others, ElementsAre("put Frame Mem@Folder@Move Still#0,Mb,2",
-                                    "put Frame Mem@Folder@Move Still#0,Mclip,2",
-                                    "put Frame Mem@Folder@Move Still#0,Sb,2"));
+    EXPECT_THAT(Others(sent),
+                testing::UnorderedElementsAre("put Frame Mem@Folder@Move Still#0,Mb,2",
+                                              "put Frame Mem@Folder@Move Still#0,Mclip,2",
+                                              "put Frame Mem@Folder@Move Still#0,Sb,2"));
     // The folder is known by now.
     (void)Tell("16@Frame Mem@Status@Folder Name Sense", "2,Graphics");
     Settle();

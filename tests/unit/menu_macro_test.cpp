@@ -99,33 +99,31 @@ struct MenuMacro : TablePage {
 
 TEST_F(MenuMacro, TheTapTellsTheOperatorsCommandsFromTheProgramsOwn)
 {
-    static const struct {
-        const char* line;
-        int result, unrestricted;
-        uint32_t page = PAGE_TOP;
-    } cases[] = {
-        {"put M/E-1@Key1@Type@Key Type#Chroma", 0, 0},
-        {"default M/E-1@Key1@Edge@Width", 0, 0},
-        {"Event@Pause Set#1.5", 1, 1},
-        {"read M/E-1@Key1@Type@Key Type", -1, -1},
-        {"read Frame Mem@File@Delete Thumbnail@Single", -1, -1, 0x25120000},
-        {"add M/E-1@Key1@Type@Key Type", -1, -1},
-        {"remove M/E-1@Key1@Type@Key Type", -1, -1},
-        {"put Engineering Setup@System@Format#1", -1, 0},
-        {"put Frame Mem@Clip@Delete@All#1", -1, 0},
-        {"put Frame Mem@File@Delete Thumbnail@Single#X", -1, 0},
-        {"put Frame Mem@File@Delete Thumbnail@Single#X", 0, 0, 0x25120000},
-        {"put TopMenu@SubMenuSite#1", -1, -1},
-        {"putM/E-1#1", -1, -1},
-        {"", -1, -1},
+    static const std::tuple<uint32_t, int, int, Lines> cases[] = {
+        {PAGE_TOP, 0, 0, {"put M/E-1@Key1@Type@Key Type#Chroma", "default M/E-1@Key1@Edge@Width"}},
+        {PAGE_TOP, 1, 1, {"Event@Pause Set#1.5"}},
+        {PAGE_TOP,
+         -1,
+         -1,
+         {"read M/E-1@Key1@Type@Key Type", "add M/E-1@Key1@Type@Key Type",
+          "remove M/E-1@Key1@Type@Key Type", "put TopMenu@SubMenuSite#1", "putM/E-1#1", ""}},
+        {PAGE_TOP,
+         -1,
+         0,
+         {"put Engineering Setup@System@Format#1", "put Frame Mem@Clip@Delete@All#1",
+          "put Frame Mem@File@Delete Thumbnail@Single#X"}},
+        {0x25120000, 0, 0, {"put Frame Mem@File@Delete Thumbnail@Single#X"}},
+        {0x21210000, 0, 0, {"put Frame Mem@File@Delete Thumbnail@Single#X"}},
+        {0x25120000, -1, -1, {"read Frame Mem@File@Delete Thumbnail@Single"}},
     };
-    for (const auto& c : cases) {
-        GL_NowPage = c.page;
-        GL_MenuMacroUnrestrict = 0;
-        EXPECT_EQ(mm_protcol_invalid_check(c.line), c.result) << c.line;
-        GL_MenuMacroUnrestrict = 1;
-        EXPECT_EQ(mm_protcol_invalid_check(c.line), c.unrestricted) << c.line;
-    }
+    for (const auto& [page, result, unrestricted, lines] : cases)
+        for (const std::string& line : lines) {
+            GL_NowPage = page;
+            GL_MenuMacroUnrestrict = 0;
+            EXPECT_EQ(mm_protcol_invalid_check(line.c_str()), result) << line;
+            GL_MenuMacroUnrestrict = 1;
+            EXPECT_EQ(mm_protcol_invalid_check(line.c_str()), unrestricted) << line;
+        }
     GL_MenuMacroUnrestrict = 0;
 }
 
@@ -489,7 +487,14 @@ TEST_F(MenuMacro, TheFirstPageRecallsRunsAndStops)
     Load(1, "Interval:1000\nEvent:put A#1\nEvent:put B#2\n");
     (void)Open(EXEC);
     EXPECT_STREQ(LS_GetData(1, 0, 3), "2");
-    EXPECT_THAT(Press(RECALL), IsEmpty());
+    Cursor(1, 5);
+    for (const int key : {RUN, RECALL, RECALL_RUN}) {
+        (void)Puts(key);
+        EXPECT_EQ(CloseWindow(), 0) << "there is nothing in it";
+    }
+    EXPECT_EQ(GL_MenuMacro_Run, 0);
+    Cursor(1, 0);
+    EXPECT_THAT(Puts(RECALL), IsEmpty());
     EXPECT_EQ(GL_MenuMacro_Run, 0);
     (void)Press(RUN);
     EXPECT_THAT(Run(500), ElementsAre(HasSubstr("put A#1")));

@@ -51,11 +51,9 @@ TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
 
 TEST_F(EffectPages, AnEffectShowsItsStateAndWhichOrHowManyRegionsHoldIt)
 {
-    Deliver(EFFECTS + "M/E-1", "3,S,OPENING,L,D,45");
-    Deliver(EFFECTS + "DME2", "3,S,SPIN,U,N,0");
-    Deliver(EFFECTS + "Dev1", "3,S,ROLL,U,N,0");
-    Deliver(EFFECTS + "DME1", "203,S,PAGE,U,D,7");
-    Deliver(EFFECTS + "DME5", "303,S,CUBE,L,N,0"); // of the other group than the list's
+    TellAll(EFFECTS, {"M/E-1#3,S,OPENING,L,D,45", "DME2#3,S,SPIN,U,N,0", "Dev1#3,S,ROLL,U,N,0",
+                      "DME1#203,S,PAGE,U,D,7",
+                      "DME5#303,S,CUBE,L,N,0"}); // of the other group than the list's
     static const std::tuple<uint32_t, int, const char*> cases[] = {
         // cells from the name on
         {0x62210000, 10, "OPENING|L|45|O||O|O|||"},
@@ -70,8 +68,7 @@ TEST_F(EffectPages, AnEffectShowsItsStateAndWhichOrHowManyRegionsHoldIt)
     Open(0x62310000); // registers of a run of channels
     EXPECT_EQ(Caption(BTN_REGISTER_REGION), "Region\nDME\n1-4ch");
 
-    Deliver(EFFECTS + "M/E-2", "4,S,A,U,N,0");
-    Deliver(EFFECTS + "GPI", "4,S,A,U,N,0");
+    TellAll(EFFECTS, {"M/E-2#4,S,A,U,N,0", "GPI#4,S,A,U,N,0"});
     Open(0x62210000);
     EXPECT_EQ(Cell(1, 3, 2), ""); // no line has said yet that it is empty here
     for (const int count : {0, 1}) {
@@ -208,10 +205,8 @@ TEST_F(EffectPages, AllCellsOrTheSwitchersAreChosenTogether)
 
 TEST_F(EffectPages, TheOverviewCopiesEachRegionThatHoldsTheRegister)
 {
-    Deliver(EFFECTS + "M/E-1", "7,S,A,U,N,0");
-    Deliver(EFFECTS + "GPI", "7,S,B,U,N,0");
-    Deliver(EFFECTS + "DME5", "7,S,B,U,N,0");      // whether a unit for it is there or not
-    Deliver(EFFECTS + "M/E-1 Sub", "7,S,B,U,N,0"); // a side that is not run
+    TellAll(EFFECTS, {"M/E-1#7,S,A,U,N,0", "GPI#7,S,B,U,N,0", "DME5#7,S,B,U,N,0",
+                      "M/E-1 Sub#7,S,B,U,N,0"}); // a side that is not run
     multiprogram2_me[1] = 0;
     Open(0x62000000);
     SendMessage(LMSG_KNOBVAR, 1, 7, 0, 0);

@@ -32,13 +32,12 @@ struct TimelinePage : KeyframePage {
     }
     static void Region(int code, int start_s, int end_s, int cursor_s = 0)
     {
-        const auto bcd = [](int v) { return static_cast<unsigned char>(v / 10 << 4 | v % 10); };
-        kf::Send(kf::DATA, kf::DataFrame({.code = code,
-                                          .start = {0, 0, bcd(start_s), 0},
-                                          .end = {0, 0, bcd(end_s), 0},
-                                          .duration = {0, 0, bcd(end_s - start_s), 0},
-                                          .keyframes = {30, 60}}));
-        kf::Send(kf::STATUS, kf::StatusFrame({.code = code, .time = {0, 0, bcd(cursor_s), 0}}));
+        kf::Send(kf::Data{.code = code,
+                          .start = kf::At(start_s * 30),
+                          .end = kf::At(end_s * 30),
+                          .duration = kf::At((end_s - start_s) * 30),
+                          .keyframes = {30, 60}});
+        kf::Send(kf::Status{.code = code, .time = kf::At(cursor_s * 30)});
     }
     static std::vector<uint32_t> Seen(const Rect& part, int elapsed_ms = 1000)
     {
@@ -54,12 +53,12 @@ TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPainted)
     TDL_FillRectS(50, 110, 50, 110, 0x123456); // in the first row's block
     Pass(1000);
     EXPECT_FALSE(IsPainted(0)) << "nothing has come";
-    kf::Send(kf::STATUS, kf::StatusFrame({.code = 1}));
+    kf::Send(kf::Status{.code = 1});
     Pass(1000);
     EXPECT_TRUE(IsPainted(0));
     EXPECT_EQ(PixelAt(50, 110), 0x123456u) << "the name stands";
     EXPECT_FALSE(IsPainted(2));
-    kf::Send(kf::DATA, kf::DataFrame({.code = 2}));
+    kf::Send(kf::Data{.code = 2});
     Pass(1000);
     EXPECT_TRUE(IsPainted(2));
     EXPECT_FALSE(IsPainted(3));
@@ -68,10 +67,10 @@ TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPainted)
 TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
 {
     const auto turn = [](int to) { return SendMessage(LMSG_KNOBVAR, 1, to, 0, 0); };
-    kf::Send(kf::DATA, kf::DataFrame({.code = 69,
-                                      .start = {1, 0, 0, 0},
-                                      .end = {1, 0, 4, 0},
-                                      .keyframes = {30}})); // MACRO: place 51
+    kf::Send(kf::Data{.code = 69,
+                      .start = {1, 0, 0, 0},
+                      .end = {1, 0, 4, 0},
+                      .keyframes = {30}}); // MACRO: place 51
     const char* knob = "Region\nScroll";
     EXPECT_EQ(Shown(knob), "0");
     const std::tuple<int, MsgArg, MsgArg> passes[] = {{MSG_WHEELUP, 0, 0},   {MSG_REDRAW, 1, 0},
@@ -273,8 +272,8 @@ struct ProgramPage : KeyframePage {
     // Select DME1 (and DME2) with these registers.
     static void Load(int regnum1, int regnum2)
     {
-        kf::Send(kf::DATA, kf::DataFrame({.code = 16, .regnum = regnum1}));
-        kf::Send(kf::DATA, kf::DataFrame({.code = 17, .regnum = regnum2}));
+        kf::Send(kf::Data{.code = 16, .regnum = regnum1});
+        kf::Send(kf::Data{.code = 17, .regnum = regnum2});
         kf::Select({16, 0, 0, 3, 0, 0, 0, 0});
         CreatePage(0x61140000);
     }
@@ -320,17 +319,17 @@ TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgramAndAnotherOpensThePag
 
     // A running region tells of every keyframe, many times a second.
     const auto keyframe = [](int code, int number) {
-        kf::Send(kf::STATUS, kf::StatusFrame({.code = code, .keyframe = number, .run = 1}));
+        kf::Send(kf::Status{.code = code, .keyframe = number, .run = 1});
     };
     Load(150, 201);
     GL_CreatePage = 0;
     keyframe(16, 1);
     keyframe(1, 2);
     EXPECT_EQ(GL_CreatePage, 0u);
-    kf::Send(kf::DATA, kf::DataFrame({.code = 16, .regnum = 151}));
+    kf::Send(kf::Data{.code = 16, .regnum = 151});
     EXPECT_EQ(GL_CreatePage, 0x61140000u);
     GL_CreatePage = 0x11110000;
-    kf::Send(kf::DATA, kf::DataFrame({.code = 16, .regnum = 152}));
+    kf::Send(kf::Data{.code = 16, .regnum = 152});
     EXPECT_EQ(GL_CreatePage, 0x11110000u) << "the operator's wish";
     GL_CreatePage = 0;
 }

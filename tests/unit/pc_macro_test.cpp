@@ -175,15 +175,13 @@ TEST_F(MacroPages, AListShowsWhatTheServerToldAndEveryKeySendsItsCommand)
         {"7,E,,U,0,0", "7||E"},
         {"7,e,,U,0,0", "7||E"},
         {"7,S,TWELVE_CHARS,U", "7|TWELVE_CHAR|"},
-        {"251,S,A,U,0,0", "7|TWELVE_CHAR|"},
-        {"0,S,A,U,0,0", "7|TWELVE_CHAR|"},
-        {"7,S,A", "7|TWELVE_CHAR|"},
-        {"", "7|TWELVE_CHAR|"},
     };
     for (const auto& [line, row] : lines) {
         (void)Tell(std::string("Macro@Register@List#") + line);
         EXPECT_EQ(Row(6, 3), row) << line;
     }
+    TellAll("Macro@Register@List#", {"251,S,A,U,0,0", "0,S,A,U,0,0", "7,S,A", ""});
+    EXPECT_EQ(Row(6, 3), "7|TWELVE_CHAR|");
     EXPECT_EQ(LS_GetNData(1), 250);
 }
 
@@ -444,6 +442,9 @@ TEST_F(MacroAttachPage, EntriesAreShownInWordsAndInTheOrderOfThePanels)
     Pass(10);
     EXPECT_EQ(LS_GetNData(1), 6);
     EXPECT_EQ(Row(0, 5), "P/P XPT|BKGD A XPT 7|Post|13|");
+    (void)Tell("Macro@Register@List#13,S,NEWS,U,0,0");
+    Pass(10);
+    EXPECT_EQ(Row(0, 5), "P/P XPT|BKGD A XPT 7|Post|13|NEWS");
     (void)Press(BTN_ATTACH_BLOCK + 1);
     EXPECT_EQ(LS_GetNowLine(1), 2);
     (void)Press(BTN_ATTACH_BLOCK_7 + 1);
@@ -452,7 +453,8 @@ TEST_F(MacroAttachPage, EntriesAreShownInWordsAndInTheOrderOfThePanels)
     (void)Tell(ATTACHMENT + "KILL");
     Pass(10);
     EXPECT_EQ(LS_GetNData(1), 0);
-    EXPECT_EQ(BT_GetVisible(BTN_ATTACH_BLOCK), BT_DISABLED);
+    EXPECT_EQ(Usable({BTN_ATTACH_BLOCK, BTN_ATTACH_DELETE, BTN_ATTACH_ALL_CLEAR}),
+              std::vector<int>{});
 }
 
 TEST_F(MacroAttachPage, WhatClearsDataAsksFirst)
@@ -475,10 +477,14 @@ TEST_F(MacroAttachPage, WhatClearsDataAsksFirst)
         }
     }
     EXPECT_EQ(BT_GetStatus(BTN_ATTACH_BUTTON_MODE), BT_ON) << "until the server says otherwise";
+    (void)Tell("Macro@Attachment@Xpt Attachment Mode#Pair Mode");
+    EXPECT_EQ(BT_GetStatus(BTN_ATTACH_PAIR_MODE), BT_ON);
+    EXPECT_EQ(BT_GetStatus(BTN_ATTACH_BUTTON_MODE), BT_OFF);
 }
 
 TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
 {
+    constexpr Rect STRIP = {100, 371, 566, 395};
     const std::string head = "Device@MACRO Timeline@";
     for (const auto& [page, name] :
          {std::pair{0x54410000u, "Action Assign"}, {0x54410001u, "Rewind Action"}}) {
@@ -490,12 +496,19 @@ TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
         EXPECT_THAT(Puts(50), ElementsAre("put " + path + "#0"));
         const auto strip = [&](const char* number) {
             (void)Tell(path + "#" + number);
-            return TablePage::Seen({100, 371, 566, 395});
+            return TablePage::Seen(STRIP);
         };
         const auto none = strip("0");
         EXPECT_NE(strip("1"), none);
         EXPECT_EQ(strip("251"), none) << "no register";
-        EXPECT_NE(strip("250"), none);
+        auto seen = strip("250");
+        EXPECT_NE(seen, none);
+        for (const char* number : {"249", "250"}) {
+            (void)Tell("Macro@Register@List#" + std::string(number) + ",S," + name + ",U,0,0");
+            const auto now = TablePage::Seen(STRIP);
+            EXPECT_EQ(now != seen, number[2] == '0') << number;
+            seen = now;
+        }
         EXPECT_THAT(Leave(),
                     testing::IsSupersetOf({"put " + head + "Tally Back#false", "remove " + path}));
     }

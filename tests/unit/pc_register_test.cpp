@@ -414,6 +414,9 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     EXPECT_THAT(TakeQueuedCommands(),
                 AllOf(Contains("add " + status + "1"), Not(Contains("add " + status + "0"))));
     Cursor(1, 2);
+    EXPECT_EQ(Cells(1, 2, 0, 7), "FM3|On|CLIP||00:00:00:00|00:00:00:10|");
+    EXPECT_EQ(Cells(1, 3, 0, 7), "FM4||||||");
+    EXPECT_EQ(BT_GetStatus(BTN_CLIP_AUTO_PLAY), BT_ON);
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), ElementsAre(PUT + "Clip Event@User2@FM3@AutoPlay#9,OFF"));
     static const std::pair<const char*, const char*> outputs[] = {
         {"FM3#2,/NEWS/OPENING.SFH", "OPENING"},
@@ -437,6 +440,10 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), testing::SizeIs(1));
     Cursor(1, 3); // no clip there
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), IsEmpty());
+    Cursor(1, 2);
+    Store("User2", 9, "A,L,,n,n,n"); // locked
+    EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), IsEmpty());
+    EXPECT_THAT(Leave(), Contains("remove " + status + "1"));
 }
 
 TEST_F(RegisterPages, TheRecallModesOfAKeyTurnOverOneByOne)
@@ -444,11 +451,10 @@ TEST_F(RegisterPages, TheRecallModesOfAKeyTurnOverOneByOne)
     Choose(REGKIND_KEYSS, {513, 512});
     EXPECT_THAT(Open(0x63510000),
                 Contains("add Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2"));
-    (void)Tell("Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key2,true,false,true");
-    (void)Tell("Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key1,false,false,false");
+    const std::string put = "put Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key";
+    TellAll(put.substr(4), {"2,true,false,true", "1,false,false,false"});
     const char* const turned[] = {"false,false,true", "true,true,true", "true,false,false"};
     for (int m = 0; m < 3; m++) {
-        const std::string put = "put Snapshot@Key Snapshot@Attribute@Recall Mode#M/E-1@Key";
         EXPECT_THAT(Puts(BTN_KEYSS_MODIFIER + m),
                     ElementsAre(put + "1," + turned[m], put + "2," + turned[m]));
     }

@@ -4,7 +4,7 @@
 
 constexpr uint32_t ME = 0x33110000, KEY = 0x33120000, WIPE = 0x33130000, OUTPUTS = 0x33140001,
                    EFFECTS = 0x33160000;
-constexpr uint32_t MISC = 0x32110000, RATE = 0x32160000;
+constexpr uint32_t MISC_TOP = 0x32000000, MISC = 0x32110000, RATE = 0x32160000;
 constexpr int CELL_X = 250, CELL_Y = 120; // in the first one
 
 struct StatusPage : TablePage {
@@ -117,9 +117,13 @@ TEST_F(StatusPage, APageThatTheInstallationLacksHasNoTab)
     (void)Touch(TAB_X, TAB_Y);
     const bool has_option = hasPanelOption();
     EXPECT_EQ(GL_CreatePage, has_option ? 0x32120000u : 0u);
+    (void)Open(MISC_TOP);
+    EXPECT_EQ(Usable({18, 19}), has_option ? std::vector<int>({18, 19}) : std::vector<int>{19});
     DEV_MyPnl[0] = &DEV_Pnl[0];
     SYS_MyPnlMax = 1;
     DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = 2;
+    (void)Open(MISC_TOP);
+    EXPECT_EQ(Usable({18, 19}), std::vector<int>({18, 19}));
     (void)Open(MISC);
     (void)Touch(TAB_X, TAB_Y);
     EXPECT_EQ(GL_CreatePage, 0x32120000u);
@@ -127,4 +131,11 @@ TEST_F(StatusPage, APageThatTheInstallationLacksHasNoTab)
     DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = 0;
     DEV_MyPnl[0] = nullptr;
     SYS_MyPnlMax = 0;
+}
+
+TEST_F(StatusPage, APageOfAnEffectsUnitFollowsTheReference)
+{
+    const std::string path = "DME@Status@3D Param@Mode Status@Reference";
+    EXPECT_THAT(Open(0x41710000), Contains("add " + path));
+    EXPECT_THAT(Leave(), Contains("remove " + path));
 }
