@@ -272,8 +272,6 @@ TEST_F(Link, ACommandThatWasCutByALossIsSentWholeAgain)
     ExpectRest(peer, queued - left, queued);
 }
 
-// --- Hosts that are switched off ---
-
 // A port that answers nothing, as a host without power: its queue of connections is full, and the
 // kernel drops whatever else comes.
 struct DeadPort : Peer {
@@ -391,8 +389,6 @@ TEST_F(Link, AServerMayBeGivenByName)
     EXPECT_EQ(GL_NetReConnect, 0);
     strcpy(GL_ServerAddress, "127.0.0.1");
 }
-
-// --- Binary link ---
 
 static std::string Bytes(Peer& peer, size_t count)
 {
@@ -576,8 +572,6 @@ TEST_F(BinLink, AnEffectArrivesWholeWhateverItsCountOfKeyframes)
     }
     KF_Init();
 }
-
-// --- Hub link ---
 
 TEST_F(HubLink, TheHubGetsOneLineEach100ms)
 {

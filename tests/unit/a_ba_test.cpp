@@ -128,8 +128,6 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
     }
 }
 
-// --- Setup lock ---
-
 struct SetupLockKey : BaseAreaTest {
     void SetUp() override
     {
@@ -167,7 +165,6 @@ TEST_F(SetupLockKey, ATouchPutsThePageIntoTheLockSetAndTheFile)
     EXPECT_EQ(SetupLock.num, 1);
 }
 
-// The key priority pages that there are, of all banks.
 TEST_F(SetupLockKey, KeyPriorityShowsTheLockInPlaceOfDefaultRecall)
 {
     int pages = 0;
@@ -196,8 +193,6 @@ TEST_F(SetupLockKey, AFileThatCannotBeWrittenIsToldToTheOperator)
     EXPECT_EQ(std::exchange(GL_CreatePage, NONE), 0x99000000u);
     EXPECT_EQ(Err_GetMax(), 1) << "the page has a line to show";
 }
-
-// --- Effects processor ---
 
 TEST_F(BaseAreaTest, ATouchOfTheTitleStepsTheChannelOfAnMpe)
 {
@@ -239,8 +234,6 @@ TEST_F(BaseAreaTest, AnErrorTakesTheTitleOfThePageInView)
     BA_DrawError();
     EXPECT_NE(PixelsIn(BAND), marked) << "at once, with the count of the errors";
 }
-
-// --- File pages ---
 
 struct FileBase : BaseAreaTest {
     void SetUp() override
@@ -290,8 +283,6 @@ TEST_F(FileBase, TheRegionAreaOpensItsSelectorAndTellsItsEnd)
     PC_Create(nullptr, 0);
 }
 
-// --- While a menu macro is recorded ---
-
 TEST_F(BaseAreaTest, ARecordedMenuMacroTakesTheKeysOver)
 {
     GL_MenuMacro_Edit = 1;
@@ -315,8 +306,6 @@ TEST_F(BaseAreaTest, TheTimelineIsItsOwnPage)
     EXPECT_EQ(PageOf(TITLE), 0x61000000u);
     EXPECT_EQ(Armed(), 0);
 }
-
-// --- Lamps ---
 
 TEST_F(BaseAreaTest, LampsTellWhoIsAtTheDisks)
 {
@@ -350,8 +339,6 @@ TEST_F(BaseAreaTest, TheHistoryNamesAPageWithoutItsVariant)
     EXPECT_EQ(label(0x61131001), plain);
     EXPECT_NE(label(0x61130002), plain);
 }
-
-// --- Side keys ---
 
 TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)
 {

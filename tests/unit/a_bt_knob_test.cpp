@@ -75,6 +75,11 @@ TEST_F(KnobLinks, TheAspectIsThatOfThePagesBank)
             std::fill_n(SYS_RefSwrScreenAspect, 7, !wide);
             SYS_RefSwrScreenAspect[i] = wide;
             SetTree({banks[i], "Wipe", "Main Modify"}, 0x11550000);
+            for (const auto& [number, family] :
+                 {std::pair{11, &nb_me_key_mask_box_aspect}, {21, &nb_me_key_mask_box_aspect}}) {
+                OpenLink(number, {});
+                EXPECT_EQ(Chosen(), family->variant[wide]) << number << banks[i];
+            }
             OpenLink(34, {});
             EXPECT_EQ(Chosen(), nb_me_wipe_aspect.variant[wide]) << banks[i] << wide;
             EXPECT_EQ(Chosen()->max, wide ? 100 : 75) << banks[i];
@@ -87,9 +92,15 @@ TEST_F(KnobLinks, TheEffectsUnitGoesByFormatAndAspectOfTheScreen)
         int number, hd, wide;
         const NB_TBL* table;
     } cases[] = {
-        {5, 0, 0, nb_dme_edge_bordercrop_border1}, {5, 0, 1, nb_dme_edge_bordercrop_border2},
-        {5, 1, 0, nb_dme_edge_bordercrop_border3}, {5, 1, 1, nb_dme_edge_bordercrop_border4},
-        {71, 1, 0, nb_dme_edge_bevel.variant[1]},  {62, 0, 1, nb_dme_trans_axis.variant[1]},
+        {5, 0, 0, nb_dme_edge_bordercrop_border1},
+        {5, 0, 1, nb_dme_edge_bordercrop_border2},
+        {5, 1, 0, nb_dme_edge_bordercrop_border3},
+        {5, 1, 1, nb_dme_edge_bordercrop_border4},
+        {71, 1, 0, nb_dme_edge_bevel.variant[1]},
+        {62, 0, 1, nb_dme_trans_axis.variant[1]},
+        {8, 1, 0, nb_me_key_edge_key_drop.variant[1]},
+        {19, 1, 0, nb_me_key_resizer_mosaic_tiles.variant[1]},
+        {26, 1, 0, nb_me_key_type_phase.variant[1]},
     };
     for (const auto& c : cases) {
         SYS_SignalFormat = c.hd;
@@ -110,16 +121,25 @@ TEST_F(KnobLinks, ATallyIsFoundByItsPathAndUnknownWordsChooseTheFirst)
         {4, "Fine Key#true", nb_me_key_edge_edge_outline.variant[1]},
         {4, "Separate Edge#maybe", nb_me_key_edge_edge_outline.variant[0]},
         {4, "Other#true", nb_me_key_edge_edge_outline.variant[0]},
+        {2, "Fine Key#true", nb_me_key_edge_edge_drop.variant[1]},
+        {2, "Separate Edge#true", nb_me_key_edge_edge_drop_sep.variant[0]},
+        {3, "Separate Edge#true", nb_me_key_edge_edge_shadow_sep.variant[0]},
+        {6, "Fine Key#true", nb_me_key_edge_edge_emboss.variant[1]},
+        {7, "Separate Edge#true", nb_me_key_edge_soft_edge_sep.row},
+        {16, "Border@Separate#true", nb_me_key_resizer_border_sep.variant[0]},
+        {17, "Aspect#true", nb_me_key_resizer_aspect_sep.row},
+        {20, "Defocus@Separate#true", nb_me_key_resizer_defocus_sep.row},
+        {25, "Aspect#true", nb_me_key_prockey_size_sep.row},
+        {30, "Y Balance#true", nb_me_key_chroma_cancel_y.row},
         {92, "Split#H&V", nb_dme_nonlinear_type_pageturn_pageturn3},
         {92, "Split#null", nb_dme_nonlinear_type_pageturn_pageturn4},
     };
     for (const auto& c : cases) {
         // Behind another one, and with the question's second dependency before or after it.
+        const std::string line = c.line, path = line.substr(0, line.find('#') + 1);
         OpenLink(c.number, {"~@Nothing#", "~@Fine Key#", "~@Split#", "~@Key Type#", "~@Mode#",
-                            "~@Separate Edge#"});
-        const std::string line = std::string("M/E-1@Key1@Type@") + c.line;
-        const size_t hash = line.find('#');
-        Tally(line.substr(0, hash).c_str(), line.c_str() + hash + 1);
+                            "~@Separate Edge#", ("~@" + path).c_str()});
+        SendDummyTally(("M/E-1@Key1@Type@" + line).c_str());
         EXPECT_EQ(Chosen(), c.table) << c.number << " " << c.line;
     }
 }
@@ -195,8 +215,6 @@ TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumn)
     double value;
     EXPECT_EQ(NB_GetKnob_info("Angle\ndeg", path, &value, sizeof path), -1);
 }
-
-// --- On the pages of the effects unit ---
 
 struct DmePages : TablePage {
     static bool IsShown(const NB_TBL* table)

@@ -2,7 +2,6 @@
 
 static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
 
-// One button of each kind that the tests press, on the standard grid.
 static const BT_TBL table[] = {
     Button(17, BT_RADIO, {"~@Key Type#Luminance"}, boxes),
     Button(18, BT_RADIO, {"~@Key Type#Linear"}, boxes),
@@ -30,8 +29,6 @@ struct Buttons : ButtonPage {
         Open(table);
     }
 };
-
-// --- Subscriptions ---
 
 TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgain)
 {
@@ -196,8 +193,6 @@ TEST_F(Buttons, AButtonThatCannotBeUsedLetsGoOfTheKnobs)
     EXPECT_EQ(BT_GetKnobAssign(), 37) << "the page remembers who had them";
 }
 
-// --- Subscriptions that differ ---
-
 using SpecialRows = ButtonPage;
 
 TEST_F(SpecialRows, WhatIsReadOnceIsNeitherAddedNorRemoved)
@@ -259,8 +254,6 @@ TEST_F(SpecialRows, TheLookIsPushedForItsTimeAndALongActionForASecond)
     EXPECT_EQ(action->pushed, 0);
 }
 
-// --- What changes on a page that stands ---
-
 TEST_F(SpecialRows, WhatMovesOrGoesIsPaintedInOnePass)
 {
     rows[0] = Button(17, BT_TOGGLE, {""});
@@ -302,8 +295,6 @@ TEST_F(Buttons, AllButtonsGoOutTogetherAndNobodyKeepsTheKnobs)
         EXPECT_EQ(BT_GetVisible(18), BT_ENABLED);
     }
 }
-
-// --- Operations ---
 
 TEST_F(Buttons, ACommandCanBeReplaced)
 {

@@ -42,7 +42,6 @@ struct FileList : FileTest {
         CopyText(GL_RegistDataPath, path_before);
         FileTest::TearDown();
     }
-    // What the left side has asked for.
     Strings TakeLabels()
     {
         dirs = fl.now[0].dir_label;
@@ -99,6 +98,8 @@ TEST_F(FileList, AFolderIsAskedForAndShownWithItsClips)
     EXPECT_THAT(TakeLabels(),
                 ElementsAre(HasSubstr("Access@ListDir#L"), HasSubstr("Access@Find2#L")));
     EXPECT_THAT(Shown(1), ElementsAre("|Reading...|||"));
+    EXPECT_THAT(Shown(2),
+                ElementsAre(GL_ClipStoreSupportMode ? "|No clips|||" : "|No clip store|||"));
     WriteFile(ROOT + "/logo.SFH", Head(4, 1, 1) + "picture");
     WriteFile(ROOT + "/short.SFH", Head(4, 1, 1).substr(0, 63));
     WriteFile(ROOT + "/run.SFH/run#000000.SFH", Head(3, 1, 0));
@@ -193,8 +194,12 @@ TEST_F(FileList, FoldersAreEnteredAndLeftAndAnOldAnswerIsNotTaken)
 
 TEST_F(FileList, ASearchWrapsOnceAndTheSelectionFollowsItsName)
 {
+    (void)!::system(("mkdir -p " + ROOT).c_str());
     Rows(dirs, {});
-    Rows(files, {"/b1.SFH", "/b3.SFH", "/c.SFH"});
+    Rows(files, {});
+    EXPECT_THAT(Shown(1), ElementsAre("|No clips|||"));
+    for (const char* name : {"/c.SFH", "/b1.SFH", "/b3.SFH"})
+        file_find_tly((ROOT + name).c_str(), "", FL_L_LIST);
     (void)Shown(1);
     EXPECT_EQ(FL_Find(FL_L_LIST, "", 1), -1);
     EXPECT_EQ(FL_Find(FL_L_LIST, "x", 1), -1);
@@ -208,6 +213,31 @@ TEST_F(FileList, ASearchWrapsOnceAndTheSelectionFollowsItsName)
     file_find_tly((ROOT + "/b2.SFH").c_str(), "", FL_L_LIST); // before it
     EXPECT_EQ(Shown(1).size(), 4u);
     EXPECT_EQ(LS_GetSelected(1, 0), 2);
+    LS_SetMS(1, 1);
+    LS_SetSelected(1, 3, 0, 1);
+    file_find_tly((ROOT + "/a.SFH").c_str(), "", FL_L_LIST);
+    EXPECT_EQ(Shown(1).size(), 5u);
+    for (const int row : {0, 1, 2, 3, 4})
+        EXPECT_EQ(LS_IsSelected(1, row, 0), row >= 3) << row;
+}
+
+TEST_F(FileList, AListOfMoreThan500IsShownEveryTenthPass)
+{
+    int count = 0;
+    const auto add = [&] {
+        const std::string name = std::to_string(++count);
+        file_find_tly((ROOT + "/" + name + ".SFH").c_str(), "", FL_L_LIST);
+    };
+    while (count < 499)
+        add();
+    FL_Proc(MSG_REDRAW, 10, 0, 0, 0);
+    for (const int expected : {1, 1, 10}) {
+        add();
+        int passes = 0;
+        for (; LS_GetNData(1) < count && passes < 99; passes++)
+            FL_Proc(MSG_REDRAW, 10, 0, 0, 0);
+        EXPECT_EQ(passes, expected) << count;
+    }
 }
 
 TEST(ElementRow, OnlyWholeRowsAreTaken)

@@ -52,8 +52,6 @@ struct Lists : ListPage {
     }
 };
 
-// --- Touch ---
-
 TEST_F(Lists, ATouchTellsTheCellAndTheList)
 {
     for (const auto& [x, y, top, said] :
@@ -167,8 +165,6 @@ TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
     }
     EXPECT_THAT(Told(), ElementsAre("SEL 1 3 1", "SEL 1 2 1"));
 }
-
-// --- Columns ---
 
 TEST_F(Lists, ASplitListSelectsCells)
 {

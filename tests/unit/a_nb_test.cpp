@@ -526,8 +526,6 @@ TEST_F(KnobColumn, TheMiddleButtonAndTheArmedKeyRecallADefault)
     }
 }
 
-// --- For page code ---
-
 TEST_F(KnobColumn, AShownValueBecomesTheValueAfterHalfASecond)
 {
     Open(table);

@@ -37,8 +37,6 @@ struct StatusCells : CellPage {
     }
 };
 
-// --- Subscriptions ---
-
 TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceAndUpdatesBoth)
 {
     const ST_TBL rows[] = {Cell(1, {"~2@A", "~1@B"}), Cell(3, {"~2@A", "LOCAL@C", "~2@D"}), ST_END};
@@ -85,8 +83,6 @@ TEST_F(StatusCells, CellsOfEffectsUnitsArePaintedAnewWhenAPairIsCombined)
         EXPECT_EQ(painted, paints) << std::hex << id;
     }
 }
-
-// --- Which rows stand ---
 
 TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)
 {
@@ -154,8 +150,6 @@ TEST_F(StatusCells, ATransitionOrClipCellLeadsWhereItsTallySays)
         EXPECT_EQ(PageOfCell(clip), target);
     }
 }
-
-// --- The reference of the effects units ---
 
 constexpr const char* REFERENCE = "DME@Status@3D Param@Mode Status@Reference";
 
@@ -288,8 +282,6 @@ TEST_F(StatusCells, TheCrossHairStandsWhereTheWipeDoes)
         EXPECT_EQ(PixelAt(200 + px + 1, 75 + py + 1), WHITE) << "the dot";
     }
 }
-
-// --- The cells of all pages ---
 
 static bool Overlap(const ST_TBL& c, const BT_TBL& b)
 {

@@ -87,7 +87,6 @@ void OddNumbersDoNoHarm(uint32_t page)
     EXPECT_EQ(GL_NowPage, page);
 }
 
-// Windows and panes that a page opens by itself would stand over the next one.
 void CloseAll()
 {
     (void)CloseWindow(); // none may be open

@@ -30,8 +30,6 @@ struct BusTally : BusTest {
     }
 };
 
-// --- Single values ---
-
 TEST_F(BusTally, AValueLandsInItsPlace)
 {
     static const struct {
@@ -109,7 +107,6 @@ TEST_F(BusTally, AValueLandsInItsPlace)
 
 // --- Units ---
 
-// The page hears of another reference, once, and not of the tally itself.
 TEST_F(BusTally, AChangeOfTheEffectsReferenceIsTold)
 {
     Deliver("Info@DME@RefCH", "1");
@@ -121,7 +118,6 @@ TEST_F(BusTally, AChangeOfTheEffectsReferenceIsTold)
     EXPECT_EQ(probe::Count(MSG_TALLY), 0);
 }
 
-// What the hub says of a data port is asked for where one is told to be out of use.
 TEST_F(BusTally, ADataPortThatIsOutOfUseIsAskedFor)
 {
     std::fill(std::begin(GL_FMDataPortDisable), std::end(GL_FMDataPortDisable), 0);
@@ -377,8 +373,6 @@ TEST_F(BusTally, ADisabledBankIsNotReachedAgain)
     EXPECT_EQ(CreatePage(0x15210000), 0);
 }
 
-// --- Buses ---
-
 TEST_F(BusTally, ANameReplacesTheEntryOfItsBus)
 {
     static const struct {
@@ -436,9 +430,11 @@ TEST_F(BusTally, AMenuKeyReopensItsPageUnlessSomethingIsToBeAnswered)
         EXPECT_EQ(Asked(PAGE_TOP, "TopMenu", none), 0u);
         EXPECT_EQ(Deliver("TopMenu", none), 1);
     }
-    EXPECT_EQ(Deliver("TopMenu", "DME"), 1);
-    SYS_4KMode = 1;
-    EXPECT_EQ(Deliver("TopMenu", "DME"), -1);
+    for (const int mode_4k : {0, 1}) {
+        SYS_4KMode = mode_4k;
+        for (const char* menu : {"Frame Memory", "Status", "DME", "Global Effect"})
+            EXPECT_EQ(Deliver("TopMenu", menu), mode_4k ? -1 : 1) << menu;
+    }
     EXPECT_EQ(Deliver("TopMenu", "M/E-2"), 1);
     GL_CreatePage = 0;
     const int pane = PaneMessage_Create("Title", 2, "text");
@@ -460,7 +456,8 @@ TEST_F(BusTally, AMenuKeyLeavesATransferBehind)
     const int pane = PaneMessage_Create("Title", 2, "text");
     (void)BkgdFileTransfer_Set(0x71220000, 1);
     GL_NowPage = 0x71220000;
-    EXPECT_EQ(Deliver("TopMenu", "File"), -1);
+    for (const char* menu : {"SP", "File", "User setup"})
+        EXPECT_EQ(Deliver("TopMenu", menu), -1) << menu;
     EXPECT_EQ(Deliver("TopMenu", "M/E-2"), 1);
     EXPECT_EQ(GL_CreatePage, 0x12110000u);
     EXPECT_EQ(Deliver("Page", "1311"), 1);
@@ -469,7 +466,8 @@ TEST_F(BusTally, AMenuKeyLeavesATransferBehind)
     EXPECT_EQ(Deliver("Page", "1411"), -1) << "a pane is to be answered";
     (void)BkgdHDDTransfer_Set(0x25620000, 1);
     GL_NowPage = 0x25620000;
-    EXPECT_EQ(Deliver("TopMenu", "User setup"), -1);
+    for (const char* menu : {"SP", "User setup"})
+        EXPECT_EQ(Deliver("TopMenu", menu), -1) << menu;
     EXPECT_EQ(Deliver("TopMenu", "File"), 1);
     EXPECT_EQ(Deliver("Page", "1411"), 1);
     EXPECT_EQ(GL_CreatePage, 0x14110000u);
@@ -492,6 +490,10 @@ TEST_F(BusTally, WhatATransferShowsMakesWayForAJump)
         } else {
             (void)BkgdFileTransfer_Set(GL_NowPage, 1);
             BkgdFileTransfer_SetPaneID(pane);
+        }
+        if (is_hdd && n % 2 == 0) {
+            EXPECT_EQ(Deliver("TopMenu", "Frame Memory"), 1);
+            EXPECT_TRUE(Pane_Exist(pane)) << "its pages are those of the transfer";
         }
         EXPECT_EQ(jump(), 1);
         EXPECT_FALSE(Pane_Exist(pane)) << n;
@@ -546,6 +548,7 @@ TEST_F(BusTally, ThePanelsAssignButtonsOpenTheirPage)
     EXPECT_EQ(GL_ShortCutMenu, 0x12110000u);
     EXPECT_EQ(asked("1023,2"), 0x73240002u);
     EXPECT_EQ(GL_XptAsgnSelectButtonID, 1023);
+    EXPECT_EQ(GL_XptAsgnShortCutMenu, 0x12110000u);
     EXPECT_EQ(asked("0,1"), 0x73240001u);
     EXPECT_EQ(GL_UtlAsgnSelectButtonID, 0);
     for (const char* none : {"1024,0", "-1,0", "7,3", "7,-1", "7"})
@@ -576,8 +579,6 @@ TEST_F(BusTally, APageNumberIsReadAsItIsPrinted)
         EXPECT_EQ(GL_DeviceNo, device) << value;
     }
 }
-
-// --- Rubbish ---
 
 TEST_F(BusTally, NoValueOnAnyPathDoesHarm)
 {

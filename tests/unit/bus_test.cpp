@@ -92,8 +92,6 @@ TEST_F(Bus, WhileTheFindIsOpenNoInputReachesThePage)
     EXPECT_EQ(probe::seen.size(), 4u);
 }
 
-// --- Played tallies ---
-
 TEST_F(Bus, APlayedTallyIsOneFromTheServer)
 {
     static const struct {
@@ -238,8 +236,6 @@ TEST_F(BusHub, APassTakesAtMost129RowsAndSendsWhatIsForTheHub)
     MainPass();
     EXPECT_THAT(hub.Lines(), Contains("Notify#PNL1.File"));
 }
-
-// --- Page code ---
 
 TEST_F(Bus, PageCodeHearsWhatIsSentWhileItOpensAndCloses)
 {

@@ -145,7 +145,6 @@ TEST_F(InitialReadTest, SubSidesAreSubscribedOnceAndAgainBehindTheSecondStage)
     EXPECT_EQ(subs(), 0);
 }
 
-// Of the units that are this panel's own; all of it is given back.
 TEST_F(InitialReadTest, TheHubIsAskedForTheTablesOfTheOwnUnits)
 {
     DEVICE switcher, panel;

@@ -63,7 +63,6 @@ struct Loop : BusTest {
             ms = s.msg == MSG_REDRAW ? int(s.ax) : ms;
         return ms;
     }
-    // One event through the whole pass.
     static void Pass(SDL_Event e)
     {
         SDL_PushEvent(&e);

@@ -58,8 +58,6 @@ TEST_F(Netio, AFreezeIsNotedWhileAStoreWaitsForIt)
     EXPECT_EQ(GL_FreezeStore_Exec, 1);
 }
 
-// --- Frames ---
-
 TEST(NetioFrame, AnImpossibleLengthIsSeenInItsTwoBytes)
 {
     unsigned char buf[8192] = {1040 >> 8, 1040 & 0xFF};

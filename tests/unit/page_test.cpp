@@ -57,7 +57,6 @@ struct PageTest : testing::Test {
         const size_t at = log.find("Can't find ID: ");
         return at == std::string::npos ? 0 : uint32_t(std::stoul(log.substr(at + 15), nullptr, 16));
     }
-    // The page that a step back asks for; it is opened.
     static uint32_t StepBack()
     {
         EXPECT_EQ(HistoryBack(1), 0);
@@ -166,8 +165,6 @@ TEST_F(PageTest, CombinedChannelsAreFollowedOnOtherPages)
         EXPECT_THAT(sent.back(), testing::StartsWith(has_them ? "add " : "")) << "the last word";
     }
 }
-
-// --- The families of objects ---
 
 TEST_F(PageTest, TheColumnIsThePagesUnlessAButtonHasTakenIt)
 {
@@ -434,29 +431,32 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
         {0x81210000, {"M/E-4", "Key2"}, 0x11110000, 0x81210000},
         {0x81110000, {"M/E-4", "Key8"}, 0x11110000, 0x85410000},
         {0x14110000, {"PGM/PST", "DSK6"}, 0x11110000, 0x18210000},
-        {0x11110000, {"M/E-1", "Key2"}, 0x11110000, 0x11210000},
-        {0x11110000, {"M/E-1", "DSK3"}, 0x11110000, 0x11310000},
-        {0x11110000, {"M/E-1", "Key4"}, 0x11110000, 0x11410000},
-        {0x11110000, {"M/E-1", "DSK5"}, 0x11110000, 0x15110000},
-        {0x11110000, {"M/E-1", "Key6"}, 0x11110000, 0x15210000},
-        {0x11110000, {"M/E-1", "Key7"}, 0x11110000, 0x15310000},
         {0x11110000, {"M/E-1", "CCR2"}, 0x11110000, 0x11210000},
         {0x11610000, {"M/E-1", "DME Wipe"}, 0x11610000, 0x11610000},
         {0x16610000, {"M/E-2", "DME Wipe"}, 0x11610000, 0x16610000},
         {0x85710000, {"M/E-4", "Misc"}, 0x11730000, 0x85730000},
+        {0x15710000, {"M/E-1", "Misc"}, 0x11730000, 0x15730000},
         {0x15710000, {"M/E-1", "Misc"}, 0x15730000, 0x15730000}, // already there
         {0x12000000, {"M/E-2", nullptr}, 0x11110000, 0x12110000},
         {0x12110000, {nullptr, "Key3"}, 0x11110000, 0x11110000},
     };
-    for (const auto& c : cases) {
-        const FakePage page(c.now, c.tree[0], c.tree[1]);
-        uint32_t id = c.id;
+    const auto moved = [](uint32_t now, const char* word0, const char* word1, uint32_t id) {
+        const FakePage page(now, word0, word1);
         AddPageOffset(&id);
-        EXPECT_EQ(id, c.moved) << std::hex << c.now << " " << c.id;
-    }
+        return id;
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(moved(c.now, c.tree[0], c.tree[1], c.id), c.moved) << std::hex << c.now;
+    for (uint32_t n = 2; n <= 8; n++)
+        for (const char* kind : {"Key", "DSK"}) {
+            const std::string key = kind + std::to_string(n);
+            const uint32_t first = n <= 4 ? 0x11110000 : 0x15110000; // of its half of the keys
+            EXPECT_EQ(moved(0x11110000, "M/E-1", key.c_str(), 0x11110000),
+                      first + ((n - 1) % 4 << 20))
+                << key;
+        }
 }
 
-// A page of the bank is looked for when the one that was meant is not there.
 TEST_F(PageTest, TheNearestPageIsOneThatExists)
 {
     const FullHouse all;

@@ -56,7 +56,6 @@ struct Regions : PanePage {
     }
 };
 
-// One walk over all tables: what must hold in every group.
 TEST_F(Regions, EveryGroupIsSound)
 {
     Units(2, 8);

@@ -1,6 +1,7 @@
 #include "memory.h"
 #include "pane_page.h"
 #include "pane_private.h"
+#include "pane_search.h"
 #include <chrono>
 #include <climits>
 
@@ -190,7 +191,6 @@ TEST_F(Panes, TextScrollsToItsEndsAndNoFurther)
     EXPECT_EQ(Well(), first);
 }
 
-// However a text came together, its end is shown alike.
 TEST_F(Panes, AppendedTextIsTheTextInOnePiece)
 {
     const std::string wide(90, 'W');
@@ -283,7 +283,8 @@ TEST_F(Panes, AChoiceIsTheResult)
     }
     EXPECT_EQ(PaneSelect_Create(0, 3, choices), 0);
     EXPECT_EQ(PanePullDown_Create(0, 0, 0, choices), 0);
-    EXPECT_EQ(PaneDirectory_Create(3, nullptr), 0);
+    EXPECT_EQ(PaneDirectory_Create(3, nullptr) + PaneDirectory_Create(-1, choices), 0);
+    Pane_Quit(PaneDirectory_Create(0, nullptr)); // an empty one has its Cancel
 }
 
 TEST_F(Panes, APullDownThatIsTooLongEndsAtTheScreen)
@@ -291,9 +292,19 @@ TEST_F(Panes, APullDownThatIsTooLongEndsAtTheScreen)
     const auto items = Choices(80);
     const int id = PanePullDown_Create(600, 100, 80, items.data());
     ASSERT_GT(id, 0);
-    EXPECT_GE(pane_find(id)->x, 0);
-    Touch(pane_find(id)->x + 20, pane_find(id)->y + 20);
+    const PANE place = *pane_find(id); // its right edge is at 691, six columns of nine fit
+    EXPECT_THAT((std::vector{place.x, place.y, place.w, place.h}), ElementsAre(56, 77, 636, 450));
+    Touch(place.x + 20, place.y + 20);
     EXPECT_EQ(Last(), Quit(id, 1));
+    const int again = PanePullDown_Create(600, 100, 80, items.data());
+    Touch(place.x + 5 * 103 + 20, place.y + 8 * 48 + 20);
+    EXPECT_EQ(Last(), Quit(again, 54));
+    for (const auto& [y, top] : {std::pair{0, 73}, {100, 100}, {900, 527 - 4 * 48 - 18}}) {
+        const int four = PanePullDown_Create(0, y, 4, items.data());
+        EXPECT_EQ(pane_find(four)->y, top) << y;
+        EXPECT_EQ(pane_find(four)->x, 691 - 103 - 18 + 1);
+        Pane_Quit(four);
+    }
 }
 
 // The choices of a popup are a radio: one is on, and it says nothing when it is pressed again.
@@ -355,6 +366,12 @@ TEST_F(Panes, DirectoriesTurnTheirPages)
         Touch(150, 100);
         EXPECT_EQ(Last(), Quit(id, first)) << next << " on, " << prev << " back";
     }
+    for (const auto& [entries_of_it, first] : {std::pair{30, 1}, {31, 31}}) { // 30 a page
+        const int id = PaneDirectory_Create_FolderPopup(entries_of_it, entries.data());
+        Touch(590 + 48 + 5, 450);
+        Touch(150, 135);
+        EXPECT_EQ(Last(), Quit(id, first)) << entries_of_it;
+    }
     // At an end the key that leads nowhere looks so.
     const int id = PaneDirectory_Create(81, entries.data());
     const auto key = [](int x) {
@@ -370,8 +387,6 @@ TEST_F(Panes, DirectoriesTurnTheirPages)
     (void)Pane_Quit(id);
 }
 
-// --- Router level ---
-
 TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
 {
     PaneRTRLvl_SetSelect(0x105);
@@ -383,6 +398,8 @@ TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x84);
     PaneRTRLvl_LvlSetSelect(0, 1);
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x85);
+    for (const auto& [level, is_on] : {std::pair{-1, 0}, {0, 1}, {1, 0}, {7, 1}, {8, 0}})
+        EXPECT_EQ(PaneRTRLvl_IsSelected(level), is_on) << level;
 
     const int id = PaneRTRLvl_Create(0); // (131, 335)
     Touch(131 + 20, 335 + 20);
@@ -402,7 +419,45 @@ TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
     PaneRTRLvl_SetSelect(0);
 }
 
-// --- Find, run control ---
+TEST_F(Panes, TheFindDialogTakesATextAndSearchesBothWays)
+{
+    static char text[ELEMENT_NAME_SIZE] = "";
+    static Strings done;
+    done.clear();
+    const PANESEARCH owner = {.text = &text,
+                              .begin = [] { done.push_back("begin"); },
+                              .step =
+                                  [](SEARCH_DIR dir) {
+                                      EXPECT_EQ(PixelAt(301, 201), 0x00DDD4u)
+                                          << "the lamp is on meanwhile";
+                                      done.push_back(dir == SEARCH_DIR_NEXT ? "next" : "previous");
+                                  }};
+    const auto press = [](int id) { PaneSearch_Proc(LMSG_PANEBTNSEL, id); };
+    ASSERT_TRUE(PaneSearch_Open(owner));
+    Pass();
+    press(PANEFIND_PREV);
+    press(PANEFIND_NEXT);
+    press(PANEFIND_TEXT);
+    const std::string longest(ELEMENT_NAME_SIZE - 1, 'a');
+    for (const char c : longest + "a\r")
+        SendMessage(MSG_KEY, c, 0, 0, 0);
+    EXPECT_EQ(text, longest);
+    EXPECT_NE(PixelAt(301, 201), 0x00DDD4u);
+    const int id = GL_FM_Find_PaneID;
+    PaneSearch_Proc(LMSG_PANEQUIT, id + 1); // another one's
+    press(PANEFIND_NEXT);
+    EXPECT_THAT(std::exchange(done, {}), ElementsAre("previous", "next", "begin", "next", "next"));
+    press(PANEFIND_CLOSE);
+    Pass();
+    EXPECT_EQ(Pane_Exist(id), 0);
+    PaneSearch_Proc(LMSG_PANEQUIT, id);
+    EXPECT_EQ(GL_FM_Find_PaneID, 0);
+    press(PANEFIND_NEXT);
+    EXPECT_THAT(done, IsEmpty());
+    ASSERT_TRUE(PaneSearch_Open(owner));
+    PaneSearch_Close();
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+}
 
 TEST_F(Panes, FindTakesNoPressWhileItSearches)
 {
@@ -444,8 +499,6 @@ TEST_F(Panes, RunControlSendsAndShowsTheTally)
     EXPECT_THAT(TakeQueuedCommands(), testing::Contains("remove Key Frame@Timeline@Run"));
     SendDummyTally("Key Frame@Timeline@Run#true"); // nobody is there any more
 }
-
-// --- Progress without a pane ---
 
 TEST_F(Panes, AProgressComesBackWithWhatWasNoted)
 {

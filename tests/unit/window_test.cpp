@@ -107,8 +107,6 @@ struct Windows : BusTest {
     static void Pass(int elapsed_ms = 10) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
 };
 
-// --- The one window ---
-
 TEST_F(Windows, ThePageHearsTalliesAndNothingElseUntilTheWindowHasGone)
 {
     EXPECT_EQ(CloseWindow(), -1);
@@ -140,8 +138,6 @@ TEST_F(Windows, WhatCannotOpenLeavesThePageItsInput)
     Pass();
     EXPECT_EQ(probe::Count(MSG_REDRAW), 1) << "the page has been silenced";
 }
-
-// --- A window above a pane ---
 
 struct WindowOverPane : Windows {
     int pane = 0;
@@ -224,9 +220,6 @@ TEST_F(WindowOverPane, APaneThatOpensClosesIt)
     EXPECT_EQ(Painted({0, 0, 799, 599}), 0);
 }
 
-// --- Opening and closing ---
-
-// What stood under a window comes back, whichever way it goes and whatever it did meanwhile.
 TEST_F(Windows, EveryTypeGivesTheScreenBack)
 {
     static const char* const cells[] = {"A", "B"};
@@ -299,7 +292,6 @@ TEST_F(Windows, TheKeyboardWritesWhatIsTouched)
          {std::tuple<const char*, Keys, const char*>{"", {"a", "Shift", "a", "a"}, "aAa"},
           {"", {"Caps", "a", "1", "Shift", "1", "a"}, "A1!A"},
           {"", {"Caps", "Shift", "a", "Caps", "a"}, "Aa"},
-          {"", {"Shift", "`", "Shift", "\\", "Shift", "'", ";", "Shift", "/", "="}, "~|\";?="},
           {"ab", {"Left", "c"}, "acb"},
           {"ab", {"Left", "BS", "BS", "BS"}, "b"},
           {"ab", {"Left", "Left", "Left", "Del", "x"}, "xb"},
@@ -310,6 +302,18 @@ TEST_F(Windows, TheKeyboardWritesWhatIsTouched)
         TouchKeyboard(keys);
         TouchKeyboard({"Enter"});
         EXPECT_THAT(Heard(), ElementsAre(std::string("text ") + text));
+    }
+    const std::string plain = "`1234567890-=qwertyuiop[]\\asdfghjkl;'zxcvbnm,./";
+    const std::string shifted = "~!@#$%^&*()_+QWERTYUIOP{}|ASDFGHJKL:\"ZXCVBNM<>?";
+    for (const std::string& text : {plain, shifted}) {
+        CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "", .input_max = 63, .ok_text = HearText});
+        for (const char& key : plain) {
+            if (text == shifted)
+                TouchKeyboard({"Shift"});
+            TouchKeyboard({&key});
+        }
+        TouchKeyboard({"Enter"});
+        EXPECT_THAT(Heard(), ElementsAre("text " + text));
     }
 }
 
@@ -344,9 +348,14 @@ TEST_F(Windows, KeysOfAKeyboardWriteAsOnTheScreenAndStrayOnesNothing)
         if (sym != SDLK_RETURN && sym != SDLK_ESCAPE && sym != SDLK_BACKSPACE)
             Stroke(sym);
     for (int sym : {int(SDLK_LEFT), int(SDLK_DELETE), int(SDLK_F1), int(SDLK_UP),
-                    int(SDLK_CAPSLOCK), int(SDLK_LSHIFT), 200, -1, 100000, int(SDLK_RETURN)})
+                    int(SDLK_CAPSLOCK), int(SDLK_LSHIFT), 200, -1, 100000, int(SDLK_HOME), int('x'),
+                    int(SDLK_END), int('y'), int('"'), int(SDLK_KP_ENTER)})
         Stroke(sym);
-    EXPECT_THAT(Heard(), ElementsAre("text bc!D"));
+    EXPECT_THAT(Heard(), ElementsAre("text xbc!Dy\""));
+    CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "ab", .ok_text = HearText});
+    Stroke(SDLK_ESCAPE);
+    EXPECT_EQ(GetWindow(), 0);
+    EXPECT_THAT(Heard(), IsEmpty());
 }
 
 TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
@@ -475,8 +484,6 @@ TEST_F(Windows, ABoxAnswersWithTheKeysThatItHas)
     MBox_RedrawMessage(std::string(3000, 'x').c_str());
 }
 
-// --- Page jump and its favourites ---
-
 struct PageJump : Windows {
     static constexpr char DIRECTORY[] = "/mnt/data/TopMenu";
     void SetUp() override
@@ -586,8 +593,6 @@ TEST_F(PageJump, StoredKeysAndColoursAreInTheFileAtOnce)
     EXPECT_EQ(GL_CreatePage, 0x11110002u);
 }
 
-// --- Names ---
-
 TEST(WindowNames, ReservedNamesAreKnownInAnyCase)
 {
     for (const char* name :
@@ -597,8 +602,6 @@ TEST(WindowNames, ReservedNamesAreKnownInAnyCase)
         EXPECT_EQ(InvalidFileNameCheck(name), 0) << name;
     EXPECT_EQ(InvalidFileNameCheck(nullptr), 0);
 }
-
-// --- Knob input, with the boxes behind it ---
 
 static const NB_TBL boxes[] = {
     {.id = 1, .caption = "Clip", .type = NB_2, .min = -100, .max = 100, .cmd = "Clip"},
@@ -779,8 +782,6 @@ TEST_F(KnobInput, TheTenKeysStayWithTheirBox)
     for (const auto& line : TakeQueuedCommands())
         EXPECT_THAT(line, testing::Not(testing::StartsWith("put")));
 }
-
-// --- From a tab on a real page to the wire ---
 
 using WindowPullDown = TablePage;
 
