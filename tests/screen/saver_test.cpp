@@ -1,20 +1,15 @@
 // One frame of each pattern of the screen saver, and its setup page.
 #include "a_ba.h"
-#include "bus.h"
-#include "device.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
 #include "saver.h"
+#include "table_page.h"
 #include "text.h"
 #include <cstdlib>
 #include <filesystem>
 
-struct SaverPicture : testing::Test {
+struct SaverPicture : TablePage {
     void SetUp() override
     {
-        Harness_Reset();
+        TablePage::SetUp();
         ASSERT_EQ(CreatePage(PAGE_TOP), 0);
         GL_ScreenSaverInterval = 1;
         SYS_RefSwrType = DEVTYPE_KTR40E;
@@ -22,7 +17,6 @@ struct SaverPicture : testing::Test {
         CopyText(GL_Scr_disp_name[2], "OB UNIT");
         srand(4); // the place of the fading text
     }
-    void TearDown() override { Harness_Reset(); }
     static void Run(int mode, int passes)
     {
         EndScreenSaver();
@@ -64,7 +58,7 @@ TEST_F(SaverPicture, OneFrameOfEachPatternOfPictures)
 TEST_F(SaverPicture, SetupPage)
 {
     ASSERT_EQ(CreatePage(0x99930000), 0);
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-    SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    Pass(10);
+    Pass(10);
     EXPECT_TRUE(MatchesGolden("saver_setup"));
 }

@@ -63,10 +63,7 @@ TEST_F(Config, KeysFillTheirVariablesAndAreEchoed)
 TEST_F(Config, OtherLinesChangeNothing)
 {
     GL_DebugMode = 1;
-    static const char* const lines[] = {
-        "#DebugMode=0", "DebugMode", " DebugMode=0", "=", "\r\n",
-    };
-    for (const char* line : lines) {
+    for (const char* line : {"#DebugMode=0", "DebugMode", " DebugMode=0", "=", "\r\n"}) {
         EXPECT_EQ(Load(line), "") << line;
         EXPECT_EQ(GL_DebugMode, 1) << line;
     }

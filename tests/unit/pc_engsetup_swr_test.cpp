@@ -110,31 +110,25 @@ TEST_F(SwitcherSetup, APointOfACurveStaysBetweenItsNeighbours)
 
 TEST_F(SwitcherSetup, OnlyLinksThatMakeSenseAreApplied)
 {
-    struct {
-        const char* links[2]; // what is told
-        int master, linked;   // of the popup of the banks, for row 2; 0 leaves it
-        bool is_sent;
-    } const cases[] = {
-        {{"1,None,None,Off", "2,None,None,Off"}, 1, 0, false},    // half
-        {{"1,None,None,Off", "2,None,None,Off"}, 3, 3, false},    // itself
-        {{"1,M/E-1,M/E-2,All", "2,None,None,Off"}, 3, 2, false},  // two masters
-        {{"1,M/E-1,M/E-2,All", "2,None,None,Off"}, 1, 3, true},   // one master of two
-        {{"1,M/E-1,M/E-2,All", "2,M/E-3,M/E-4,Off"}, 7, 7, true}, // deleted
+    // Two links as told; master and linked of the popup of the banks for the second, 0 leaves it.
+    static const std::tuple<const char*, const char*, int, int, bool> cases[] = {
+        {"1,None,None,Off", "2,None,None,Off", 1, 0, false},    // half
+        {"1,None,None,Off", "2,None,None,Off", 3, 3, false},    // itself
+        {"1,M/E-1,M/E-2,All", "2,None,None,Off", 3, 2, false},  // two masters
+        {"1,M/E-1,M/E-2,All", "2,None,None,Off", 1, 3, true},   // one master of two
+        {"1,M/E-1,M/E-2,All", "2,M/E-3,M/E-4,Off", 7, 7, true}, // deleted
     };
-    for (const auto& c : cases) {
+    for (const auto& [first, second, master, linked, is_sent] : cases) {
         SetupPage_Forget(SetupSheet_Table<engsetup_switcher_link_melink>);
-        Start(0x73360002, "Link@M/E Link#", {c.links[0], c.links[1]});
+        Start(0x73360002, "Link@M/E Link#", {first, second});
         SelectRow(1);
-        for (const auto& [key, choice] : {std::pair{33, c.master}, std::pair{34, c.linked}})
-            if (choice) {
-                (void)Choose(key, choice);
-            }
-        (void)Push(EXECUTE);
-        const Lines sent = Puts(Answer(YES)); // or the message that says why not
-        EXPECT_EQ(sent.size(), c.is_sent ? 1u : 0u) << c.links[0] << " " << c.master << c.linked;
-        if (!c.is_sent) {
-            EXPECT_NE(BT_GetVisible(EXECUTE), BT_DISABLED) << "it is still in hand";
-        }
+        (void)Choose(33, master);
+        if (linked)
+            (void)Choose(34, linked);
+        const Lines sent = Puts(Choose(EXECUTE, YES)); // or the message that says why not
+        EXPECT_EQ(sent.size(), is_sent ? 1u : 0u) << first << " " << master << linked;
+        // What isn't sent is still in hand.
+        EXPECT_TRUE(is_sent || BT_GetVisible(EXECUTE) != BT_DISABLED) << master << linked;
     }
 }
 

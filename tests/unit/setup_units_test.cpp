@@ -36,10 +36,7 @@ TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
                              "DME2 Ch4";
     const std::string dual = "DME1 Ch1,DME1 Ch2,DME2 Ch1,DME2 Ch2,DME3 Ch1,DME3 Ch2,DME4 Ch1,"
                              "DME4 Ch2";
-    const struct {
-        uint32_t page;
-        std::string single, dual;
-    } cases[] = {
+    const std::tuple<uint32_t, std::string, std::string> cases[] = {
         {0x73410001, pair, dual},
         {0x73440001, pair, dual},
         {0x73430000, "DME1,DME2", "DME1,DME2,DME3,DME4"},
@@ -49,20 +46,17 @@ TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
         {0x73440007, "", "1,2,3,4,5,6,7,8"},
         {0x73440010, "", "1,2,3,4,5,6,7,8"},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(SearchPageTable(c.page) != nullptr, !c.single.empty()) << std::hex << c.page;
-        if (c.single.empty())
-            continue;
-        (void)Open(c.page);
-        EXPECT_EQ(Keys(), c.single) << std::hex << c.page;
-        (void)Leave();
-    }
-    BecomeDual();
-    for (const auto& c : cases) {
-        ASSERT_NE(SearchPageTable(c.page), nullptr) << std::hex << c.page;
-        (void)Open(c.page);
-        EXPECT_EQ(Keys(), c.dual) << std::hex << c.page;
-        (void)Leave();
+    for (const bool is_dual : {false, true}) {
+        if (is_dual)
+            BecomeDual();
+        for (const auto& [page, of_single, of_dual] : cases) {
+            const std::string& keys = is_dual ? of_dual : of_single;
+            ASSERT_EQ(SearchPageTable(page) != nullptr, !keys.empty()) << std::hex << page;
+            if (keys.empty())
+                continue;
+            (void)Open(page);
+            EXPECT_EQ(Keys(), keys) << std::hex << page;
+        }
     }
 }
 
