@@ -79,6 +79,10 @@ class DeskCase(unittest.TestCase):
             f.seek(seen)
             return f.read()
 
+    def sim_says(self, text):
+        with open(self.desk.sim_log, encoding="latin-1") as f:
+            return text in f.read()
+
     def wait_until(self, is_so, what=None, timeout=12.0):
         end = time.monotonic() + timeout
         while not is_so():

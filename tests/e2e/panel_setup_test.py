@@ -117,8 +117,7 @@ class PanelSetup(SetupCase):
         self.assertEqual(self.puts(), [f"put {gpi}Action Type@3@1#1,0,0,1"])
         self.assertEqual(self.desk.value(f"{gpi}Action Type@3@1"), "1,0,0,1")
         self.push(37)
-        with open(os.path.join(self.desk.work, "sim.out"), encoding="latin-1") as file:
-            self.assertIn("GPI output 3: test fire", file.read())
+        self.assertTrue(self.sim_says("GPI output 3: test fire"))
 
     def test_7_the_transition_of_a_key_takes_another_along(self):
         self.desk.console(f"put {PANEL}Config@Key Trans Link#1,M/E-1 Key1,M/E-1 Key2,true")

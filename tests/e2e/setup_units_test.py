@@ -16,10 +16,6 @@ EXECUTE = 54
 
 
 class SetupUnits(SetupCase):
-    def sim_says(self, text):
-        with open(self.desk.sim_log, encoding="latin-1") as f:
-            return text in f.read()
-
     def test_1_a_port_of_a_unit_fires_while_its_ports_are_enabled(self):
         desk = self.desk
         self.open("7344.6")

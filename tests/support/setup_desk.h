@@ -29,9 +29,9 @@ struct SetupTest : TablePage {
                        "DME002D002,DME2,10.0.0.5,10.0.1.5,10.0.2.5",
                        "DME003D003,DME3,10.0.0.6,10.0.1.6,10.0.2.6"});
         (void)Tell("Info@IP Address@Menu CPU#10.0.0.1");
-        (void)Tell("Engineering Setup@System@System Config@Panel Assign#1,1,2,0,0,0");
-        (void)Tell("Engineering Setup@System@System Config@Switcher Assign#1,1,2,0,0");
-        (void)Tell("Engineering Setup@System@System Config@Switcher Assign#2,3,0,0,0");
+        TellAll(
+            "Engineering Setup@System@System Config@",
+            {"Panel Assign#1,1,2,0,0,0", "Switcher Assign#1,1,2,0,0", "Switcher Assign#2,3,0,0,0"});
     }
     void TearDown() override
     {
@@ -59,11 +59,9 @@ struct SetupTest : TablePage {
     static std::string Row(int row, int columns, int list = 1)
     {
         std::string text;
-        for (int col = 0; col < columns; col++) {
-            const char* cell = LS_GetData(list, row, col);
-            text += (col ? "|" : "") + std::string(cell ? cell : "") +
+        for (int col = 0; col < columns; col++)
+            text += (col ? "|" : "") + Cell(list, row, col) +
                     (LS_GetStatus(list, row, col) == 3 ? "*" : "");
-        }
         return text;
     }
     static void SelectRow(int row, int list = 1)

@@ -1,5 +1,4 @@
 #include "i2c.h"
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -31,14 +30,12 @@ void Spoil(int device, int address)
     image.put(char(old ^ 1));
 }
 
-// Make every byte of a device the same.
-void FillDevice(int device, unsigned char value)
+void EmptyDevice(int device)
 {
-    unsigned char bytes[256];
-    memset(bytes, value, sizeof bytes);
+    const unsigned char zeros[256] = {};
     i2c_address_set(device);
     ASSERT_EQ(i2c_open(), 0);
-    ASSERT_EQ(i2c_wr(0, 256, bytes), 256);
+    ASSERT_EQ(i2c_wr(0, 256, zeros), 256);
     i2c_close();
 }
 } // namespace
@@ -75,7 +72,7 @@ TEST_F(I2c, EachOpenIsClosed)
 
 TEST_F(I2c, ElementsAreReadAndWrittenWhole)
 {
-    FillDevice(0x53, 0);
+    EmptyDevice(0x53);
     const unsigned char port[3] = {0x25, 0x1C, 0x77};
     EXPECT_EQ(I2cEepromService_WriteElem(EEPROM_SHP_PORT, 3, port), 2);
     EXPECT_EQ(ImageByte(0x53, 70), 0x25);
@@ -105,8 +102,8 @@ TEST_F(I2c, ElementsAreReadAndWrittenWhole)
 
 TEST_F(I2c, EachRegionHasItsCrc)
 {
-    FillDevice(0x57, 0);
-    FillDevice(0x53, 0);
+    EmptyDevice(0x57);
+    EmptyDevice(0x53);
     // The first byte of the CRC of 124 and of 60 zero bytes.
     static const struct {
         int device, crc_address, first;

@@ -48,7 +48,7 @@ struct Log : testing::Test {
 };
 } // namespace
 
-TEST_F(Log, AFullFileRotatesBeforeTheNextLine)
+TEST_F(Log, AFullFileRotatesBeforeTheNextLineAndTheOldestOfTenGoes)
 {
     Fill(LOG, std::string(99, 'a'));
     Log_Output(1, 1, "same file");
@@ -60,10 +60,7 @@ TEST_F(Log, AFullFileRotatesBeforeTheNextLine)
     EXPECT_THAT(FileText(LOG), MatchesRegex("\\[[^]]*:[0-9][0-9]\\]\\[  7\\] new file\n"));
     EXPECT_THAT(FileText(LOG),
                 testing::AnyOf(testing::StartsWith(before), testing::StartsWith(Minute())));
-}
 
-TEST_F(Log, TenOldFilesRemainAndTheOldestGoes)
-{
     for (int i = 0; i < 10; i++)
         Fill(LOG + std::string(".") + std::to_string(i), "old " + std::to_string(i));
     Fill(LOG, std::string(150, 'c'));

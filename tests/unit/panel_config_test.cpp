@@ -72,17 +72,6 @@ TEST_F(PanelConfig, APadOfABusIsSetAndAllItsPagesAreDefaultedWhenThatIsMeant)
     EXPECT_THAT(Choose(51, YES), ElementsAre("put " + pad + "M/E-1@Default@1#true"));
 }
 
-TEST_F(PanelConfig, TheValuesOfAGpiPort)
-{
-    const std::string gpi = PANEL "Device Interface@GPI Output@";
-    (void)Open(0x73250004);
-    TellAll(gpi, {"Trigger Type@3#None,0x00,0x01", "Action Type@3@1#0,0,0,0"});
-    SelectRow(2);
-    (void)Choose(34, 2); // Cut
-    EXPECT_THAT(Push(EXECUTE), ElementsAre("put " + gpi + "Action Type@3@1#1,0,0,1"));
-    EXPECT_THAT(Push(37), ElementsAre("put " + gpi + "Test Fire@3#"));
-}
-
 // --- The touch panel ---
 
 constexpr uint32_t CALIBRATION = 0x73270001, MAINTENANCE = 0x73270000;

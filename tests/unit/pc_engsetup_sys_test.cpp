@@ -406,7 +406,7 @@ TEST_F(SystemPage, TheClockRunsUntilAKnobTakesIt)
 
 TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
 {
-    ASSERT_EQ(::system("mkdir -p /mnt/usb/usb1 /mnt/usb/usb3 /mnt/data"), 0);
+    ASSERT_EQ(::system("mkdir -p /mnt/usb/usb1 /mnt/usb/usb3 /mnt/data /var/nfs"), 0);
     (void)Open(0x73170000);
     EXPECT_EQ(Cell(1, 0, 0), "For displaying device information,");
     EXPECT_THAT(Usable({BTN_MAINTENANCE_FORMAT, BTN_MAINTENANCE_PRIMARY}), IsEmpty());
@@ -415,7 +415,6 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     EXPECT_GT(atoi(LS_GetData(1, 0, 2)), 0);
     EXPECT_EQ(Cell(1, 1, 2), "") << "not mounted";
     GL_NFS_Mounted = 1;
-    ASSERT_EQ(::system("mkdir -p /var/nfs"), 0);
     (void)Push(35);
     EXPECT_GT(atoi(LS_GetData(1, 1, 2)), 0);
     GL_NFS_Mounted = 0;
@@ -427,15 +426,15 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     EXPECT_EQ(Cell(2, 1, 0), "Removable 2 (Primary)");
     EXPECT_THAT(Choose(BTN_MAINTENANCE_FORMAT, NO), IsEmpty());
     EXPECT_EQ(Pane_GetActiveID(), 0) << "nothing was done";
-    ASSERT_EQ(::system("rm -rf /var/tmp/device*; mkdir -p /var/tmp/device"), 0);
-    ASSERT_EQ(::system("echo 1 > /var/tmp/device/usb_format"), 0) << "it will fail";
+    ASSERT_EQ(::system("rm -rf /var/tmp/device*; mkdir -p /var/tmp/device;"
+                       "echo 1 > /var/tmp/device/usb_format"), // it will fail
+              0);
     (void)Choose(BTN_MAINTENANCE_FORMAT, YES);
     EXPECT_EQ(FileText("/var/tmp/device.log"), "usb_format [/dev/sdb]\n");
     EXPECT_NE(Pane_GetActiveID(), 0);
     EXPECT_EQ(GetWindow(), WINDOW_NONE) << "it is no longer busy";
     Dismiss();
-    ASSERT_EQ(::system("rm -rf /var/tmp/device*"), 0);
-    ASSERT_EQ(::system("rmdir /mnt/usb/usb1 /mnt/usb/usb3"), 0);
+    ASSERT_EQ(::system("rm -rf /var/tmp/device*; rmdir /mnt/usb/usb1 /mnt/usb/usb3"), 0);
 }
 
 TEST_F(SystemPage, TheDriverOfTheSticksIsReloadedThenTheDrivesAreReadAnew)

@@ -247,16 +247,6 @@ TEST_F(MeDmeWipe, ACropKnobMovesOppositeEdgesInwards)
     }
 }
 
-TEST_F(MeDmeWipe, AChannelThatIsNotCroppedStaysAsItIs)
-{
-    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "2003");
-    Own("Crop Mode@Crop", CROP);
-    (void)Press(CH2);
-    EXPECT_EQ(Enter(1, -10).size(), 2u); // the server hasn't switched the second on
-    Tell(root + "@Modify@Crop Mode@Crop@2#true");
-    EXPECT_EQ(Enter(1, -10).size(), 4u);
-}
-
 TEST_F(MeDmeWipe, ATurnOfTheCropStartsFromWhatIsShownAndEndsAtItsLimits)
 {
     OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
@@ -300,7 +290,7 @@ TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
 
 // --- Modify: keys ---
 
-TEST_F(MeDmeWipe, KeysSendForTheChosenChannels)
+TEST_F(MeDmeWipe, KeysSendForTheChosenChannelsAndACropForThoseThatHaveIt)
 {
     static const std::pair<int, Lines> cases[] = {
         {CROP, {"Crop Mode@Crop@1#false", "Crop Mode@Crop@2#false"}}, // it is on and has the knobs
@@ -315,6 +305,9 @@ TEST_F(MeDmeWipe, KeysSendForTheChosenChannels)
     (void)Press(CH2);
     Own("Crop Mode@Crop", CROP);
     Tell(ASPECT + "1,16:9,4,8");
+    EXPECT_EQ(Enter(1, -10).size(), 2u); // the server hasn't switched the second on
+    Tell(root + "@Modify@Crop Mode@Crop@2#true");
+    EXPECT_EQ(Enter(1, -10).size(), 4u);
     for (const auto& [button, puts] : cases)
         EXPECT_EQ(Puts(Press(button)), Sent("put", puts)) << button;
 }

@@ -15,7 +15,7 @@ struct StatusPage : TablePage {
     }
 };
 
-TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpens)
+TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpensAndACellItself)
 {
     static const std::tuple<uint32_t, int, int, uint32_t> cases[] = {
         {KEY, 0, 49, 0x11110000},         {KEY, 5, 50, 0x15220000},
@@ -28,6 +28,12 @@ TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpens)
         LS_SetNowLine(1, row);
         EXPECT_EQ(PageBy(key), opened) << std::hex << page << " " << row;
         EXPECT_NE(SearchPageTable(opened), nullptr) << std::hex << opened;
+    }
+    (void)Open(ME);
+    for (const auto& [x, y, page] :
+         {std::tuple{CELL_X, CELL_Y, 0x11000000u}, {CELL_X + 400, CELL_Y + 176, 0x14000000u}}) {
+        (void)Touch(x, y);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0), page);
     }
 }
 
@@ -82,16 +88,6 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
     LS_SetNowLine(1, 7);
     Pass(1000);
     EXPECT_THAT(Press(49), Contains("put Frame Mem@Recall@Recall Thumbnail@Select#FM7&8"));
-}
-
-TEST_F(StatusPage, ACellLeadsToItsBankWhateverPageItStandsOn)
-{
-    (void)Open(ME);
-    for (const auto& [x, y, page] :
-         {std::tuple{CELL_X, CELL_Y, 0x11000000u}, {CELL_X + 400, CELL_Y + 176, 0x14000000u}}) {
-        (void)Touch(x, y);
-        EXPECT_EQ(std::exchange(GL_CreatePage, 0), page);
-    }
 }
 
 TEST_F(StatusPage, TheRatesOfABankCountTheKeysThatItHas)

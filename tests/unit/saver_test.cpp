@@ -148,7 +148,7 @@ TEST_F(Saver, IsBarredWithoutLosingItsCount)
     }
 }
 
-TEST_F(Saver, HidesThePageAndGivesItBackWhole)
+TEST_F(Saver, HidesThePageAndGivesItBackWholeOrTheTopMenuWhenItIsGone)
 {
     CreatePage(KEY_PAGE);
     SendMessage(MSG_REDRAW, 0, 0, 0, 0);
@@ -165,6 +165,11 @@ TEST_F(Saver, HidesThePageAndGivesItBackWhole)
         EXPECT_EQ(Wake(), 1);
         EXPECT_TRUE(PixelsIn(SCREEN) == before) << "mode " << mode;
     }
+    Start(1);
+    SYS_MEOperation[0] = 1;
+    EXPECT_EQ(Wake(), 1);
+    SYS_MEOperation[0] = 0;
+    EXPECT_EQ(GL_CreatePage, PAGE_TOP);
 }
 
 TEST_F(Saver, SwallowsTheTouchThatWakesIt)
@@ -185,15 +190,6 @@ TEST_F(Saver, SwallowsTheTouchThatWakesIt)
     Event(SDL_MOUSEBUTTONDOWN, key.x1 + 5, key.y1 + 5);
     EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Key Type#Luminance"));
     MBDown = 0;
-}
-
-TEST_F(Saver, OpensTheTopMenuWhenThePageIsGone)
-{
-    Start(1);
-    SYS_MEOperation[0] = 1;
-    EXPECT_EQ(Wake(), 1);
-    SYS_MEOperation[0] = 0;
-    EXPECT_EQ(GL_CreatePage, PAGE_TOP);
 }
 
 // --- Texts ---
@@ -325,7 +321,7 @@ static std::string BmpHeads(int info, int bits, int colours, int rows, int compr
 }
 
 // The kinds that paint programs write, with a dark row above a light one.
-TEST_F(SaverPictures, EveryKindOfBitmapIsShown)
+TEST_F(SaverPictures, EveryKindOfBitmapIsShownButNoneThatSaysMoreThanItHolds)
 {
     constexpr uint32_t DARK = 0x102030, LIGHT = 0x405060;
     static const struct {
@@ -357,11 +353,7 @@ TEST_F(SaverPictures, EveryKindOfBitmapIsShown)
     EXPECT_EQ(part->w, SCREEN_W);
     EXPECT_EQ(part->h, SCREEN_H - 1);
     SDL_FreeSurface(part);
-}
-
-// Be it a bitmap of the user interface, or one that it reads at its first use.
-TEST_F(SaverPictures, ABitmapIsNotReadThatSaysMoreThanItHolds)
-{
+    // Be it a bitmap of the user interface, or one that it reads at its first use.
     for (const int rows : {INT_MIN, -5000, 0, 3, INT_MAX}) {
         const std::string file = BmpHeads(40, 24, 0, rows, 0) + le(0) + le(0);
         std::ofstream(Path("SSrc_1.bmp"), std::ios::binary) << file;

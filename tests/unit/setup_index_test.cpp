@@ -1,7 +1,7 @@
 #include "harness.h"
 #include "setup_index.h"
-#include <cstdio>
 #include <cstring>
+#include <fstream>
 #include <unistd.h>
 
 namespace
@@ -42,10 +42,7 @@ struct SetupIndex : testing::Test {
     void TearDown() override { unlink(SETUP_LOCK_FILE ".new"); }
     static void WriteLockFile(const std::string& bytes)
     {
-        FILE* fp = fopen(SETUP_LOCK_FILE, "wb");
-        ASSERT_NE(fp, nullptr);
-        fwrite(bytes.data(), bytes.size(), 1, fp);
-        fclose(fp);
+        std::ofstream(SETUP_LOCK_FILE, std::ios::binary) << bytes;
     }
 };
 
