@@ -1,11 +1,5 @@
 // The timeline as it looks: every state of a row, the strip at top right.
 #include "a_ba.h"
-#include "a_kf.h"
-#include "a_kf_frames.h"
-#include "global.h"
-#include "harness.h"
-#include "message.h"
-#include "page.h"
 #include "pc_kf_page.h"
 
 struct TimelinePictures : testing::Test {
@@ -88,8 +82,6 @@ TEST_F(TimelinePictures, Page)
     Open();
     EXPECT_TRUE(MatchesGolden("timeline"));
 }
-
-// --- The pages around it ---
 
 struct KeyframePictures : KeyframePage {
     void SetUp() override

@@ -6,6 +6,9 @@
 #include "table_page.h"
 
 struct KeyframePage : TablePage {
+    static inline const std::string TENKEY =
+        "Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@";
+
     void SetUp() override
     {
         TablePage::SetUp();
@@ -40,7 +43,6 @@ struct KeyframePage : TablePage {
     static void TenKey(int number, const char* regions)
     {
         const std::string n = std::to_string(number);
-        Tally("Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@" + n,
-              (n + ",0," + regions).c_str());
+        Tally(TENKEY + n, (n + ",0," + regions).c_str());
     }
 };

@@ -3,7 +3,6 @@
 #include "a_kf_private.h"
 #include "hand_page.h"
 #include "tdl.h"
-#include <array>
 #include <iterator>
 
 namespace
@@ -52,8 +51,6 @@ struct Keyframes : HandPage {
         told.clear();
     }
 };
-
-// --- Region data ---
 
 static const kf::Data opening = {
     .code = 1,
@@ -134,10 +131,8 @@ TEST_F(Keyframes, UnknownRegionsAndIdsAreDropped)
     EXPECT_EQ(kf::Send(0x1200AA, kf::DataFrame(opening)), 1);
     for (int i = 0; i < KF_REGIONS; i++)
         EXPECT_EQ(R(i).regnum + R(i).ckfnum, 0) << i;
-    EXPECT_THAT(told, ElementsAre());
+    EXPECT_THAT(told, IsEmpty());
 }
-
-// --- Run status ---
 
 TEST_F(Keyframes, AStatusFrameMovesTheCursorAndTellsOfNewKeyframesOnly)
 {
@@ -149,8 +144,6 @@ TEST_F(Keyframes, AStatusFrameMovesTheCursorAndTellsOfNewKeyframesOnly)
                 ElementsAre(-1, 1, 3, -(4 * RATE + 12), 258));
     EXPECT_THAT(told, ElementsAre("STATUS 14"));
 }
-
-// --- Selection ---
 
 TEST_F(Keyframes, EachSelectionBitMeansItsRegions)
 {
@@ -194,8 +187,6 @@ TEST_F(Keyframes, ASelectionIsToldOncePerChange)
     EXPECT_EQ(KF_RefRegionCode(), 0) << "a frame without its last byte";
     EXPECT_TRUE(KF_IsRegionSelected(PP));
 }
-
-// --- Assignment and order ---
 
 TEST_F(Keyframes, RegionsOfTheTenKeysAreThoseOfTheSystemAndNothingBeyond)
 {
@@ -283,8 +274,6 @@ TEST_F(Keyframes, AnOrderThatComesBeforeTheAssignmentsIsKept)
     EXPECT_THAT(Order(7), ElementsAre(6, 30, DME1_GLB, 1, 14, 0, 255)) << "6 has lost its place";
 }
 
-// --- The strip ---
-
 static bool StripPaints(int pushed)
 {
     constexpr uint32_t MARK = 0x123456;
@@ -294,7 +283,7 @@ static bool StripPaints(int pushed)
     return std::any_of(pixels.begin(), pixels.end(), [](uint32_t p) { return p != MARK; });
 }
 
-TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNews)
+TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNewsAndKnowsWhatHasNoPlaceInIt)
 {
     kf::Select({1, 0x02, 0, 0, 0, 0, 0, 0});
     EXPECT_TRUE(StripPaints(0));
@@ -309,11 +298,8 @@ TEST_F(Keyframes, TheStripIsPaintedOnlyWhenThereIsNews)
     EXPECT_TRUE(StripPaints(0));
     EXPECT_EQ(R(ME1).redraw_tl, 1) << "the rows of the timeline need it";
     EXPECT_FALSE(StripPaints(0)) << "they have not been painted yet, the strip has";
-}
 
-// The router has no timeline to show, and a menu macro that is recorded has keys in this place.
-TEST_F(Keyframes, TheStripKnowsWhatHasNoPlaceInIt)
-{
+    // The router has no timeline to show, and a menu macro that is recorded has keys here.
     const auto of_reference = [](unsigned char code) {
         kf::Select({code, 0x02, 0, 0, 0, 0, 0, 0});
         KF_DrawTopArea(KF_DRAW_ANEW);

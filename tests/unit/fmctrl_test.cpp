@@ -6,6 +6,9 @@
 
 namespace
 {
+const std::string STATUS = "16@Frame Mem@Status@", SENSE = "put " + STATUS + "File Name Sense#",
+                  ANCILLARY = "Frame Mem@Clip@Ancillary Playback Enable";
+
 struct FrameMemoryLists : FrameMemory {
     void SetUp() override
     {
@@ -76,8 +79,7 @@ TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndTheShownOneMovesWithinIt)
 {
     Store({"Mabc0002"});
     EXPECT_THAT(Clips(), IsEmpty());
-    EXPECT_THAT(Sense(2, "81", "Mabc0001"),
-                ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Mabc"));
+    EXPECT_THAT(Sense(2, "81", "Mabc0001"), ElementsAre("put " + ANCILLARY + "#0,Mabc"));
     EXPECT_THAT(Clips(), ElementsAre("abc: 1 0 /"));
     EXPECT_EQ(FMCtrl_GetClipAncillary(0), ANCILLARY_UNKNOWN);
     EXPECT_EQ(FMCtrl_GetClipMidRegId(0, 0), 0);
@@ -89,8 +91,7 @@ TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndTheShownOneMovesWithinIt)
     EXPECT_THAT(Clips(), IsEmpty());
     EXPECT_THAT(Stills(), ElementsAre("abc0002: 0 2"));
     // The other side makes the clip, and asks by its own prefix.
-    EXPECT_THAT(Sense(4, "81", "Sabc0007"),
-                ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Sabc"));
+    EXPECT_THAT(Sense(4, "81", "Sabc0007"), ElementsAre("put " + ANCILLARY + "#0,Sabc"));
     EXPECT_THAT(Clips(), ElementsAre("abc: 0 / 2 3"));
 
     Max(300);
@@ -110,9 +111,8 @@ TEST_F(FrameMemoryLists, AncillaryIsOfTheClipOfThatName)
 {
     Store({"Mabc0001", "Mabc0002", "Mxyz0001", "Mxyz0002", "Mlogo"});
     (void)Changes();
-    (void)Tell("Frame Mem@Clip@Ancillary Playback Enable", "0,Mxyz,1");
-    (void)Tell("Frame Mem@Clip@Ancillary Playback Enable", "0,Mnone,1");
-    (void)Tell("Frame Mem@Clip@Ancillary Playback Enable", "0,M");
+    for (const char* value : {"0,Mxyz,1", "0,Mnone,1", "0,M"})
+        (void)Tell(ANCILLARY, value);
     EXPECT_THAT(Changes(), ElementsAre("1, 2"));
     EXPECT_EQ(FMCtrl_GetClipAncillary(1), 1);
     EXPECT_EQ(FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx("Mxyz0001")), 1);
@@ -125,37 +125,34 @@ TEST_F(FrameMemoryLists, RegisterStatusAsksForTheSetAndEmptiesTheClearThatThereA
     Store({"Ma", "Mb"});
     Store({"Mc"}, 16384 + 129);
     (void)Changes();
-    EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@0", "80000000000000000000000100000001"),
-                ElementsAre("put 16@Frame Mem@Status@File Name Sense#1",
-                            "put 16@Frame Mem@Status@File Name Sense#33",
-                            "put 16@Frame Mem@Status@File Name Sense#128"));
+    EXPECT_THAT(Tell(STATUS + "Register Status@0", "80000000000000000000000100000001"),
+                ElementsAre(SENSE + "1", SENSE + "33", SENSE + "128"));
     EXPECT_THAT(Changes(), ElementsAre("1, 0"));
     EXPECT_THAT(Stills(), ElementsAre("a: 0 -", "c: x128 -"));
     EXPECT_STREQ(FMCtrl_GetRegName(1), "");
 
     const std::string none(32, '0');
-    EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@129", none.substr(1) + "2"),
-                ElementsAre("put 16@Frame Mem@Status@File Name Sense#16514"));
+    EXPECT_THAT(Tell(STATUS + "Register Status@129", none.substr(1) + "2"),
+                ElementsAre(SENSE + "16514"));
     EXPECT_FALSE(FMCtrl2_IsRegStore(128));
     // 300 registers: the third bank ends with the 44th of it.
-    EXPECT_EQ(Tell("16@Frame Mem@Status@Register Status@2", std::string(32, 'F')).size(), 44u);
+    EXPECT_EQ(Tell(STATUS + "Register Status@2", std::string(32, 'F')).size(), 44u);
 
     for (const char* value : {"", "0000000", "0000000G", "0x000000", "0000,000"})
-        EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@0", value), IsEmpty());
+        EXPECT_THAT(Tell(STATUS + "Register Status@0", value), IsEmpty());
     for (const char* bank : {"3", "127", "-1", "256", "99999999999", "x", ""})
-        EXPECT_THAT(
-            Tell(std::string("16@Frame Mem@Status@Register Status@") + bank, std::string(32, 'F')),
-            IsEmpty());
+        EXPECT_THAT(Tell(STATUS + "Register Status@" + bank, std::string(32, 'F')), IsEmpty());
     EXPECT_TRUE(FMCtrl_IsRegStore(0));
     (void)Tell("Frame Mem@Status@Extended Capacity", "0");
-    EXPECT_THAT(Tell("16@Frame Mem@Status@Register Status@128", std::string(32, 'F')), IsEmpty());
+    EXPECT_THAT(Tell(STATUS + "Register Status@128", std::string(32, 'F')), IsEmpty());
 
     Max(300);
+    (void)Tell("Frame Mem@Status@Extended Capacity", "1");
     for (const char* value : {"0,81,Mx", "301,81,Mx", "16384,81,Mx", "16685,81,Mx", "-1,81,Mx",
                               "x,81,Mx", "", ",,", "1", "99999999999999999999,81,Mx"})
-        (void)Tell("16@Frame Mem@Status@File Name Sense", value);
+        (void)Tell(STATUS + "File Name Sense", value);
     for (const char* value : {"-1", "16385", "x", ""})
-        (void)Tell("16@Frame Mem@Status@Max Register", value);
+        (void)Tell(STATUS + "Max Register", value);
     EXPECT_THAT(Stills(), IsEmpty());
     EXPECT_EQ(SYS_FmemRegMax, 300);
     (void)Sense(1, "81", "Ma name that is too long,and a comma");
@@ -166,10 +163,10 @@ TEST_F(FrameMemoryLists, MaxRegisterBeginsAnew)
 {
     Store({"Mabc0001", "Mabc0002"});
     (void)Changes();
-    const Strings sent = Tell("16@Frame Mem@Status@Max Register", "2");
+    const Strings sent = Tell(STATUS + "Max Register", "2");
     EXPECT_EQ(sent.size(), 46u);
-    EXPECT_THAT(sent, Contains("read 16@Frame Mem@Status@Folder Status@44"));
-    EXPECT_THAT(sent, Contains("read 16@Frame Mem@Status@Folder Name Sense"));
+    EXPECT_THAT(sent, Contains("read " + STATUS + "Folder Status@44"));
+    EXPECT_THAT(sent, Contains("read " + STATUS + "Folder Name Sense"));
     EXPECT_THAT(Changes(), ElementsAre("0, 0"));
     EXPECT_THAT(Stills(), IsEmpty());
     (void)Sense(2, "81", "Mabc0002"); // the same names as before
@@ -286,7 +283,7 @@ TEST_F(FrameMemoryLists, FollowAStormAsAPlainRecountWould)
 
 TEST_F(FrameMemoryFolders, NamesAreSortedTheUnusedLast)
 {
-    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "0,Default.,1,news,2,,3,Zoo,11,art");
+    (void)Tell(STATUS + "Folder Name Sense", "0,Default.,1,news,2,,3,Zoo,11,art");
     Strings names;
     for (int row = 0; row < 6; row++)
         names.push_back(std::to_string(FMCtrl_GetFolderId(row)) + FMCtrl_GetFolder(row)->name);
@@ -298,7 +295,7 @@ TEST_F(FrameMemoryFolders, NamesAreSortedTheUnusedLast)
     EXPECT_TRUE(FMCtrl_ExistFolderName("art"));
     EXPECT_FALSE(FMCtrl_ExistFolderName("")) << "the unused have no name";
     // An id that no folder has ends the line.
-    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "1,a name too long,99,x,3,Zebra");
+    (void)Tell(STATUS + "Folder Name Sense", "1,a name too long,99,x,3,Zebra");
     EXPECT_STREQ(FMCtrl_GetFolder(2)->name, "a name t");
     EXPECT_FALSE(FMCtrl_ExistFolderName("Zebra"));
 }
@@ -306,9 +303,9 @@ TEST_F(FrameMemoryFolders, NamesAreSortedTheUnusedLast)
 TEST_F(FrameMemoryFolders, FolderStatusMovesStillsAndClips)
 {
     Store({"Mlogo", "Mabc0001", "Mabc0002"});
-    (void)Tell("16@Frame Mem@Status@Folder Name Sense", "11,art");
+    (void)Tell(STATUS + "Folder Name Sense", "11,art");
     (void)Changes();
-    (void)Tell("16@Frame Mem@Status@Folder Status@0", "0B010b03Gx01");
+    (void)Tell(STATUS + "Folder Status@0", "0B010b03Gx01");
     EXPECT_THAT(Changes(), ElementsAre("0, 0", "1, 0", "2, 0"));
     EXPECT_EQ(FMCtrl_GetRegFolderId(3), 3) << "kept for the image that comes";
     EXPECT_EQ(FMCtrl_GetRegFolderId(5), 0) << "nothing behind what is no number";
@@ -317,7 +314,7 @@ TEST_F(FrameMemoryFolders, FolderStatusMovesStillsAndClips)
     EXPECT_THAT((std::array{FMCtrl_GetFolderAllStillNum(11), FMCtrl_GetFolderStillNum(11),
                             FMCtrl_GetFolderClipNum(11), FMCtrl_GetFolderExtClipNum(11)}),
                 ElementsAre(2, 1, 1, 0));
-    (void)Tell("16@Frame Mem@Status@Folder Status@0", "0B010B03");
+    (void)Tell(STATUS + "Folder Status@0", "0B010B03");
     EXPECT_THAT(Changes(), IsEmpty()) << "nothing has changed";
 
     (void)Tell("Frame Mem@Folder@Move Still", "0,Mlogo,A");
@@ -328,6 +325,6 @@ TEST_F(FrameMemoryFolders, FolderStatusMovesStillsAndClips)
         (void)Tell("Frame Mem@Folder@Move Still", value);
     EXPECT_EQ(FMCtrl_GetRegFolderId(0), 11);
     Store({"Mext"}, 16384 + 2);
-    (void)Tell("16@Frame Mem@Status@Folder Status@128", "0007");
+    (void)Tell(STATUS + "Folder Status@128", "0007");
     EXPECT_EQ(FMCtrl_GetRegFolderId(FMEM_EXTENDED + 1), 7);
 }

@@ -307,8 +307,6 @@ TEST_F(MenuMacro, ATransferCopyBecomesTheRegisterUnderItsNameOnTheDrive)
         EXPECT_EQ(mm_macro_tmpfile_save(path), -1) << path;
 }
 
-// --- Run ---
-
 TEST_F(MenuMacro, ARunSendsTheGroupsWithTheirWaitsAndMayBeStoppedInThem)
 {
     Load(2, "Interval:300\nEvent:put Z#0\nPause:0\nEvent:put A#1\nContnue:put B#2\n"
@@ -387,8 +385,6 @@ TEST_F(MenuMacro, ARunThatIsRecycledIsRecordedAsItRan)
     (void)Run(2000);
     EXPECT_EQ(Recorded(), Events(reg_data[1].register_data)) << "without the channels' commands";
 }
-
-// --- Pages ---
 
 TEST_F(MenuMacro, TheEditorEditsAndStores)
 {

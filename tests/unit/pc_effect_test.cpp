@@ -1,6 +1,5 @@
 // The pages of the effects and shotboxes: what goes over the wire for every kind and every key, and
 // what the lists show of the mirror.
-#include "a_bt.h"
 #include "pc_effect.h"
 #include "pc_shotbox.h"
 #include "table_page.h"

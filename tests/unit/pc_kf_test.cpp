@@ -7,9 +7,6 @@
 #include "pc_kf_page.h"
 #include "setup_index.h"
 #include "tdl.h"
-#include <array>
-
-// --- Time Line ---
 
 struct TimelinePage : KeyframePage {
     static constexpr int X = 400; // in every row's bar
@@ -177,8 +174,6 @@ TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
     EXPECT_GT(jumps, 50);
 }
 
-// --- Timeline Assign ---
-
 struct AssignPage : KeyframePage {
     enum : int { ACTIVE = 49, DISPLAY = 50, INSERT = 52, DELETE_KEY = 53, DEFAULT = 54 };
 
@@ -189,11 +184,11 @@ struct AssignPage : KeyframePage {
         KF_DefaultRegionPriority();
         Open(0x61150000);
     }
-    static Lines Order()
+    static std::string Order()
     {
-        Lines rows;
+        std::string rows;
         for (int row = 0; row < LS_GetNData(1); row++)
-            rows.push_back(Cell(1, row, 0) + " " + Cell(1, row, 1) + " " + Cell(1, row, 2));
+            rows += (row ? ", " : "") + Cells(1, row, 0, 3);
         return rows;
     }
 };
@@ -204,7 +199,7 @@ TEST_F(AssignPage, ShowsWhatAnotherPanelHasChosenAndWhenTheSelectionDecides)
     Tally("Info@Operation Setup Data@Timeline Region Priority", "4,0");
     Tally("Info@Operation Setup Data@Timeline Region Display", "46,1");
     Pass(10);
-    EXPECT_THAT(Order(), ElementsAre("1 USER1 ON", "2 M/E-1 Sub ", "3 P/P ON", "4 M/E-1 ON", "  "));
+    EXPECT_EQ(Order(), "1|USER1|ON, 2|M/E-1 Sub|, 3|P/P|ON, 4|M/E-1|ON, ||");
     EXPECT_EQ(BT_GetStatus(ACTIVE), BT_OFF);
     (void)Sent();
     Button(ACTIVE);
@@ -225,27 +220,25 @@ TEST_F(AssignPage, TheKeysWorkAtTheCursors)
     EXPECT_EQ(BT_GetStatus(DISPLAY), BT_ON);
     Button(DISPLAY);
     EXPECT_EQ(BT_GetStatus(DISPLAY), BT_OFF);
-    EXPECT_THAT(Order(), ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ", "3 P/P ON", "4 USER1 ON", "  "));
+    EXPECT_EQ(Order(), "1|M/E-1|ON, 2|M/E-1 Sub|, 3|P/P|ON, 4|USER1|ON, ||");
     Button(DISPLAY);
     LS_SetNowLine(1, 4); // behind the last
     LS_SetNowLine(2, 0);
     Button(INSERT);
-    EXPECT_THAT(Order(),
-                ElementsAre("1 M/E-1 Sub ON", "2 P/P ON", "3 USER1 ON", "4 M/E-1 ON", "  "));
+    EXPECT_EQ(Order(), "1|M/E-1 Sub|ON, 2|P/P|ON, 3|USER1|ON, 4|M/E-1|ON, ||");
     LS_SetNowLine(1, 0);
     LS_SetNowLine(2, 3);
     Button(INSERT);
     LS_SetNowLine(1, 2);
     Button(DELETE_KEY);
-    EXPECT_THAT(Order(), ElementsAre("1 USER1 ON", "2 M/E-1 Sub ON", "3 M/E-1 ON", "  "));
+    EXPECT_EQ(Order(), "1|USER1|ON, 2|M/E-1 Sub|ON, 3|M/E-1|ON, ||");
     EXPECT_EQ(KF_GetRegionDisplay(5), 2);
     LS_SetNowLine(1, 3);
     Button(DELETE_KEY); // on the empty row: nothing
     Button(DISPLAY);
-    EXPECT_EQ(Order().size(), 4u);
+    EXPECT_EQ(LS_GetNData(1), 4);
     Button(DEFAULT);
-    EXPECT_THAT(Order(),
-                ElementsAre("1 M/E-1 ON", "2 M/E-1 Sub ON", "3 P/P ON", "4 USER1 ON", "  "));
+    EXPECT_EQ(Order(), "1|M/E-1|ON, 2|M/E-1 Sub|ON, 3|P/P|ON, 4|USER1|ON, ||");
     EXPECT_THAT(Sent(), IsEmpty());
 }
 
@@ -265,8 +258,6 @@ TEST_F(AssignPage, ClosingSavesAllRowsOnceTheServerHasToldItsRegions)
     CreatePage(PAGE_TOP);
     EXPECT_THAT(Sent(), IsEmpty());
 }
-
-// --- DME User PGM ---
 
 struct ProgramPage : KeyframePage {
     // Select DME1 (and DME2) with these registers.
@@ -334,8 +325,6 @@ TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgramAndAnotherOpensThePag
     GL_CreatePage = 0;
 }
 
-// --- Region Select ---
-
 struct RegionPage : KeyframePage {
     static inline const std::string ENABLE = "put Key Frame@Region Select@Region Enable@";
 
@@ -344,8 +333,14 @@ struct RegionPage : KeyframePage {
     {
         Press(104 + 68 * ((number - 1) % 5) + 10, 84 + 70 * ((number - 1) / 5) + 30);
     }
-    static void Reference(int slot) { Press(456 + 61 * slot + 10, 120 + 10); }
-    static void Selection(int slot) { Press(456 + 61 * slot + 10, 210 + 10); }
+    static Lines Touched(const std::vector<int>& slots, int y)
+    {
+        for (const int slot : slots)
+            Press(456 + 61 * slot + 10, y + 10);
+        return Sent();
+    }
+    static Lines Reference(const std::vector<int>& slots) { return Touched(slots, 120); }
+    static Lines Selection(const std::vector<int>& slots = {0}) { return Touched(slots, 210); }
     void SetUp() override
     {
         KeyframePage::SetUp();
@@ -363,30 +358,22 @@ TEST_F(RegionPage, EntryAndExitTellThePanel)
     const auto sent = TakeQueuedCommands();
     EXPECT_THAT(sent, Contains(pcx));
     for (const char* n : {"1", "23"})
-        EXPECT_THAT(sent, Contains(std::string("read Engineering Setup@Panel@Config@10 Key Region "
-                                               "Assign@Common@Region@Common@") +
-                                   n));
+        EXPECT_THAT(sent, Contains("read " + TENKEY + n));
 }
 
 TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
 {
     TenKey(1, "M/E-1,M/E-2,No Assign,P/P");
     TenKey(7, "User3,DME1,,");
-    Selection(0);
-    Selection(1);
-    Selection(2); // nobody's
-    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "M/E-1#false", ENABLE + "M/E-2#true"));
-    Reference(0);
-    Reference(1); // not selected: it cannot be the reference
-    Reference(3);
-    EXPECT_THAT(Sent(), ElementsAre("put Key Frame@Region Select@Ref Region Set#M/E-1",
-                                    "put Key Frame@Region Select@Ref Region Set#P/P"));
+    EXPECT_THAT(Selection({0, 1, 2}), // the last is nobody's
+                ElementsAre(ENABLE + "M/E-1#false", ENABLE + "M/E-2#true"));
+    EXPECT_THAT(Reference({0, 1, 3}), // one that is not selected cannot be the reference
+                ElementsAre("put Key Frame@Region Select@Ref Region Set#M/E-1",
+                            "put Key Frame@Region Select@Ref Region Set#P/P"));
     Key(7);
-    Selection(0);
-    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "User3#true"));
+    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "User3#true"));
     Key(22);
-    Selection(0);
-    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_THAT(Selection(), IsEmpty());
 }
 
 TEST_F(RegionPage, TheLampsFollowTheSelection)
@@ -409,24 +396,19 @@ TEST_F(RegionPage, WhatTheModeTakesAwayOrALockHoldsTakesNoPress)
 {
     TenKey(1, "M/E-3,DME3,,");
     SYS_3DMode = 1;
-    Selection(0);
-    Selection(1);
-    EXPECT_THAT(Sent(), IsEmpty());
+    EXPECT_THAT(Selection({0, 1}), IsEmpty());
     SYS_3DMode = 0;
     SYS_RefSwrType = DEVTYPE_UNKNOWN; // the large one has links of 3 Gb/s
     DEV_MySwr[0]->activeline = 6;
     DEV_MySwr[0]->framerate = 25.0;
     SYS_DualProc = 0;
-    Selection(0);
-    Selection(1);
-    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "DME3#true"));
+    EXPECT_THAT(Selection({0, 1}), ElementsAre(ENABLE + "DME3#true"));
     TenKey(1, "M/E-1,,,");
     SetupMenu[0] = {.page = 0x61170000, .lock = 1};
     SetupMenu_Max = 1;
-    Selection(0);
-    EXPECT_EQ(Sent().size(), 1u) << "the lock is off";
+    EXPECT_EQ(Selection().size(), 1u) << "the lock is off";
     SetupLock.lock = 1;
-    Selection(0);
+    EXPECT_THAT(Selection(), IsEmpty());
     Key(2);
     EXPECT_THAT(Sent(), IsEmpty());
 }
@@ -435,16 +417,11 @@ TEST_F(RegionPage, RubbishOnTheKeysIsNoAssign)
 {
     TenKey(1, "M/E-1,,,");
     for (const char* number : {"0", "24", "-1", "", "x", "99999999999"})
-        Tally(std::string(
-                  "Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@") +
-                  number,
-              "1,0,P/P,,,");
-    Selection(0);
-    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "M/E-1#false"));
+        Tally(TENKEY + number, "1,0,P/P,,,");
+    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "M/E-1#false"));
     for (const char* regions : {",,,", "No Assign,,,", "M/E-9,,,", "M/E-1x"}) {
         TenKey(1, regions);
-        Selection(0);
-        EXPECT_THAT(Sent(), IsEmpty()) << regions;
+        EXPECT_THAT(Selection(), IsEmpty()) << regions;
     }
 }
 
@@ -459,8 +436,7 @@ TEST_F(RegionPage, TheNewestPanelHasItsKeysOnTwoModules)
     Button(54); // the second module: its first key has the number 8
     EXPECT_EQ(BT_GetStatus(54), BT_ON);
     Key(1);
-    Selection(0);
+    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "User1#true"));
     Key(15);
-    Selection(0);
-    EXPECT_THAT(Sent(), ElementsAre(ENABLE + "User1#true", ENABLE + "User2#true"));
+    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "User2#true"));
 }

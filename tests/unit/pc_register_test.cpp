@@ -1,6 +1,5 @@
 // The pages of the stored registers: what goes over the wire for every kind and every key, and what
 // the lists show of the mirror.
-#include "a_bt.h"
 #include "colours.h"
 #include "pane.h"
 #include "pane_private.h"

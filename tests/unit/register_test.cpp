@@ -183,8 +183,6 @@ TEST_F(Registers, TwoLinksMakeFourGroupsOfChannelsAndAHundredNumbersEach)
     EXPECT_EQ(Index2Reg(396), -1);
 }
 
-// --- Clip events ---
-
 TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
 {
     const std::string value = "FM20, 99, ON, OFF, ON, a, -7, 99999999999";
@@ -208,8 +206,6 @@ TEST_F(Registers, AClipEventIsKeptEvenForAStranger)
     Register_Free();
     EXPECT_STREQ(ClipEvent_Tally_Name(1, 0, 0), "");
 }
-
-// --- Subscriptions ---
 
 static Strings Sent(void (*send)())
 {
