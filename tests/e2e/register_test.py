@@ -31,6 +31,7 @@ class Registers(DeskCase):
         super().open(number)
         for row, (x, top) in zip(rows, ((A, DUAL_TOP), (B, DUAL_TOP)) if rows[1:] else ((A, TOP),)):
             self.row(row, x, top)
+        return self
 
     def row(self, number, x=A, top=TOP):
         self.desk.touch(x, top + 22 * number + 11, settle=0.2)
@@ -41,9 +42,12 @@ class Registers(DeskCase):
 
     def press(self, button_id, *lines):
         """A touch on a button, and all puts that follow: these lines."""
+        self.assertEqual(self.pressed(button_id, len(lines)), list(lines))
+
+    def pressed(self, button_id, count):
         self.desk.wire()
         self.desk.touch(*grid(button_id), settle=0.3)
-        self.assert_puts(*lines)
+        return self.puts(count)
 
     def puts(self, count):
         """So many puts of registers, if they come in time; with 0 some time without any."""
@@ -58,9 +62,7 @@ class Registers(DeskCase):
 
     def links(self, button_id, head):
         """What a key of an edit page stores."""
-        self.desk.wire()
-        self.desk.touch(*grid(button_id), settle=0.3)
-        (line,) = self.puts(1)
+        (line,) = self.pressed(button_id, 1)
         self.assertTrue(line.startswith(head + ","), line)
         return line[len(head) + 1:].split(",")
 
@@ -87,8 +89,7 @@ class Registers(DeskCase):
 
     def test_1_two_banks_come_back_but_for_the_key_under_hold(self):
         self.set_all("Linear")
-        self.open(6321)
-        self.press(REGION)
+        self.open(6321).press(REGION)
         self.desk.touch(240, 208)  # M/E-2 beside M/E-1: now the reference
         self.desk.touch(*ENTER)
         self.row(4)
@@ -102,23 +103,18 @@ class Registers(DeskCase):
         self.assertEqual(self.values(), ["Chroma", "Linear", "Linear"])
 
     def test_2_a_lock_refuses_and_a_name_shows(self):
-        self.open(6322, 4)
-        self.press(51, SNAPSHOTS + "Lock#6,4,4")
-        self.open(6326, 4)
-        self.delete()
+        self.open(6322, 4).press(51, SNAPSHOTS + "Lock#6,4,4")
+        self.open(6326, 4).delete()
         self.assert_changes("panel rename snapshot 4 M/E-2 LATE", [], [4])  # there it is refused, too
-        self.open(6322)
-        self.press(51, SNAPSHOTS + "UnLock#6,4,4")
+        self.open(6322).press(51, SNAPSHOTS + "UnLock#6,4,4")
         self.assert_changes("panel rename snapshot 4 M/E-2 LATE", [4], [1, 2, 3, 5])
 
     def test_3_copies_a_swap_and_a_range_in_two_regions(self):
-        self.open(6323, 4, 6)
-        self.press(49, SNAPSHOTS + "Copy#6,4,4,6,6,false")
+        self.open(6323, 4, 6).press(49, SNAPSHOTS + "Copy#6,4,4,6,6,false")
         self.press(50)  # without the name
         self.row(7, B, DUAL_TOP)
         self.press(49, SNAPSHOTS + "Copy#6,4,4,6,7,true")
-        self.open(6325, 1, 7)
-        self.press(49, SNAPSHOTS + "Swap#6,1,1,6,7,true")
+        self.open(6325, 1, 7).press(49, SNAPSHOTS + "Swap#6,1,1,6,7,true")
         self.open(6326, 4)
         self.desk.touch(*PLURAL)
         for number in (5, 6, 7):
@@ -132,10 +128,8 @@ class Registers(DeskCase):
 
     def test_4_a_master_brings_back_what_its_regions_had(self):
         self.set_all("Linear")
-        self.open(6321, 5)
-        self.press(51, SNAPSHOTS + "Store#6,5")
-        self.open(6311, 4)
-        self.press(50, MASTER + "Store/Recall@Store#4")
+        self.open(6321, 5).press(51, SNAPSHOTS + "Store#6,5")
+        self.open(6311, 4).press(50, MASTER + "Store/Recall@Store#4")
         self.set_all("Chroma")
         self.press(49, MASTER + "Store/Recall@Recall#4")
         self.assertEqual(self.values(), ["Linear"] * 3)
@@ -149,24 +143,20 @@ class Registers(DeskCase):
         self.assertEqual(self.links(54, MASTER + "Store/Recall@Edit@Store#4"), ["5"] + stored[1:])
 
     def test_5_an_effect_is_recalled_dissolved_copied_and_merged(self):
-        self.open(6221, 2)
-        self.press(RECALL, EFFECTS + f"Recall@Recall#{ME1}, 2")
+        self.open(6221, 2).press(RECALL, EFFECTS + f"Recall@Recall#{ME1}, 2")
         self.desk.console("put Effect@Effect@Attribute@Temporary Duration@M/E-1#25")
         time.sleep(0.2)
         before = self.shown(2)
         self.press(33, EFFECTS + f"Attribute@Effect Dissolve#{ME1},2,2,true,25")
         self.assertNotEqual(self.shown(2), before)
-        self.open(6223, 2, 5)
-        self.press(49, EFFECTS + f"Copy/Merge@Copy#{ME1},2,2,{ME1},5,false")
+        self.open(6223, 2, 5).press(49, EFFECTS + f"Copy/Merge@Copy#{ME1},2,2,{ME1},5,false")
         self.press(52, EFFECTS + f"Copy/Merge@Merge#{ME1},2,{ME1},5")
-        self.open(6231)
-        self.press(RECALL, EFFECTS + "Recall@Recall#0000000000101000, 101")
+        self.open(6231).press(RECALL, EFFECTS + "Recall@Recall#0000000000101000, 101")
         self.open(6261)
         self.assert_changes("panel store effect 3 P-Bus CUE", [3], [1, 2, 4])
 
     def test_6_a_shotbox_runs_what_it_links(self):
-        self.open(6411, 1)
-        self.press(49, SHOTBOX + "Store/Recall@Recall#1")
+        self.open(6411, 1).press(49, SHOTBOX + "Store/Recall@Recall#1")
         self.assertEqual(self.desk.value("Key Frame@Timeline@Run"), "true")
         before = self.shown(1)
         self.press(33, SHOTBOX + "Attribute@Auto Run#1,1,false")
@@ -211,28 +201,19 @@ class Registers(DeskCase):
         self.assert_puts(EFFECTS + f"Rename@Rename#{ME1},9,Ac")
         for page, old, new in zip(places, before, looks()):
             self.assertNotEqual(old, new, page)
-        self.open(6222, 9)
-        self.press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,true")
-        self.open(6226, 9)
-        self.delete()
-        self.open(6225, 2, 9)
-        self.press(49)  # nothing goes into a locked one
-        self.open(6222, 9)
-        self.press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,false")
+        self.open(6222, 9).press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,true")
+        self.open(6226, 9).delete()
+        self.open(6225, 2, 9).press(49)  # nothing goes into a locked one
+        self.open(6222, 9).press(51, EFFECTS + f"Lock@Lock#{ME1},9,9,false")
         for page, word in ((6225, "Swap"), (6224, "Move")):
-            self.open(page, 2, 9)
-            self.press(49, EFFECTS + f"{word}@{word}#{ME1},2,2,{ME1},9,false")
-        self.open(6226, 9)
-        self.delete(EFFECTS + f"Delete@Delete#{ME1},9,9")
+            self.open(page, 2, 9).press(49, EFFECTS + f"{word}@{word}#{ME1},2,2,{ME1},9,false")
+        self.open(6226, 9).delete(EFFECTS + f"Delete@Delete#{ME1},9,9")
 
     def test_9_a_shotbox_is_locked_copied_swapped_and_deleted(self):
         self.desk.console("panel store shotbox 3 NOON")
-        self.open(6412, 3)
-        self.press(50, SHOTBOX + "Lock#3,3")
-        self.open(6416, 3)
-        self.delete(key=50)
-        self.open(6412, 3)
-        self.press(50, SHOTBOX + "UnLock#3,3")
+        self.open(6412, 3).press(50, SHOTBOX + "Lock#3,3")
+        self.open(6416, 3).delete(key=50)
+        self.open(6412, 3).press(50, SHOTBOX + "UnLock#3,3")
         for page, word in ((6413, "Copy"), (6415, "Swap")):
             self.open(page, 3, 10)
             before = self.shown(10, top=DUAL_TOP)
@@ -246,8 +227,7 @@ class Registers(DeskCase):
     def test_a_a_snapshot_of_a_user_plays_its_clip(self):
         event, output = SNAPSHOTS + "Clip Event@User1@FM1@AutoPlay#1,", "Frame Mem 2@Clip/Still@Output Status@FM1"
         self.desk.console("clip make BREAK 75")
-        self.open(6321)
-        self.press(REGION)
+        self.open(6321).press(REGION)
         self.desk.touch(176, 253)  # User1: the reference now
         self.desk.touch(*ENTER)
         self.row(1)
@@ -256,9 +236,7 @@ class Registers(DeskCase):
             before = self.desk.part(100, 387, 566, 428)
             self.press(49, event + on)
             self.open(6321)
-            self.desk.wire()
-            self.desk.touch(*grid(RECALL))
-            (recall,) = self.puts(1)
+            (recall,) = self.pressed(RECALL, 1)
             self.assertRegex(recall, SNAPSHOTS + "Recall#4[26], 1$")  # with the banks of the first test or one
             self.assertEqual(self.desk.value(output), shows)
         self.press(38)

@@ -1,11 +1,8 @@
 // The effect and shotbox pages with registers of every state.
 #include "table_page.h"
 
-namespace
-{
 struct EffectPictures : TablePage {
 };
-} // namespace
 
 TEST_F(EffectPictures, Attributes)
 {

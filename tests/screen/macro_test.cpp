@@ -9,8 +9,6 @@
 #include <fstream>
 #include <unistd.h>
 
-namespace
-{
 struct MacroPictures : TablePage {
     void TearDown() override
     {
@@ -19,7 +17,6 @@ struct MacroPictures : TablePage {
         unlink(MACRO_EDIT_FILE);
     }
 };
-} // namespace
 
 TEST_F(MacroPictures, OfflineInTheMiddleOfAnEvent)
 {

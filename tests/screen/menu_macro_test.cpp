@@ -3,8 +3,6 @@
 #include "table_page.h"
 #include "text.h"
 
-namespace
-{
 struct MenuMacroPictures : TablePage {
     static void Fill(int number, const char* name, int seconds)
     {
@@ -19,7 +17,6 @@ struct MenuMacroPictures : TablePage {
         RegDataWaitList[number - 1].time = seconds * 1000;
     }
 };
-} // namespace
 
 TEST_F(MenuMacroPictures, Edit)
 {

@@ -3,8 +3,6 @@
 #include "pc_snapshot.h"
 #include "table_page.h"
 
-namespace
-{
 struct SnapshotPictures : TablePage {
     void SetUp() override
     {
@@ -22,7 +20,6 @@ struct SnapshotPictures : TablePage {
              "3,3,,,,,,,5,");
     }
 };
-} // namespace
 
 TEST_F(SnapshotPictures, Attributes)
 {

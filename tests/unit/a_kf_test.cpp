@@ -5,26 +5,23 @@
 #include "tdl.h"
 #include <iterator>
 
-namespace
-{
 constexpr int ME1 = 0, ME2 = 1, PP = 5, DME1 = 14, DME1_GLB = 22, MACRO = 51;
 constexpr int RATE = 30;
 constexpr int HOUR = 3600 * RATE;
 
-const KF_REGION& R(int region)
+static const KF_REGION& R(int region)
 {
     return *KF_GetRegionStatus(region);
 }
 
 // The first n places of the order.
-std::vector<int> Order(int n)
+static std::vector<int> Order(int n)
 {
     std::vector<int> order;
     for (int i = 0; i < n; i++)
         order.push_back(KF_GetRegionPriority(i));
     return order;
 }
-} // namespace
 
 struct Keyframes : HandPage {
     static inline std::vector<std::string> told; // "STATUS 14", "SELECTION"

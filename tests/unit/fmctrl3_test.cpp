@@ -4,8 +4,6 @@
 #include "tdl.h"
 #include <fstream>
 
-namespace
-{
 namespace fs = std::filesystem;
 constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
 
@@ -93,7 +91,6 @@ struct ClipStore : ClipStoreTest<BusTest> {
             SendMessage(MSG_REDRAW, 500, 0, 0, 0);
     }
 };
-} // namespace
 
 TEST_F(ClipStore, ElementsStandInTheOrderOfTheTreeHoweverManyComeAtOnce)
 {

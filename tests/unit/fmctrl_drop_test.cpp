@@ -5,8 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace
-{
 namespace fs = std::filesystem;
 using testing::SizeIs;
 
@@ -34,7 +32,7 @@ struct DropFolders : FrameMemory {
         FrameMemory::TearDown();
     }
     // All folders are as they were last seen, and the registers are known.
-    void Settle()
+    static void Settle()
     {
         usleep(30000); // file times move in steps
         (void)TakeQueuedCommands();
@@ -46,11 +44,6 @@ struct DropFolders : FrameMemory {
             lines = Look();
         }
         FAIL() << "the search does not end";
-    }
-    static Strings After(int ms)
-    {
-        Pass(ms);
-        return TakeQueuedCommands();
     }
     static Strings Look()
     {
@@ -77,6 +70,12 @@ struct DropFolders : FrameMemory {
             rows.push_back("/mnt/sys/FMLoad/" + path + ",Sat Apr  4 12:34:56 2020");
         rows.push_back("OK");
         return search.empty() ? Strings{} : Served(search[0], rows);
+    }
+    // A file that is dropped and found; what the application sends then.
+    static Strings Bring(const std::string& path, const std::string& text = "image")
+    {
+        Drop(path, text);
+        return Found(Look(), {path});
     }
     // The two files of a conversion lie where its command says.
     static void Convert(const std::string& line)
@@ -124,7 +123,6 @@ struct CommandFolder : DropFolders {
         std::ofstream(folder + name) << text;
     }
 };
-} // namespace
 
 TEST_F(DropFolders, AnImageIsImportedShownAndRemoved)
 {
@@ -166,23 +164,20 @@ TEST_F(DropFolders, GraphicsWithoutRecallGoIntoTheirFolder)
     // The folder is known by now.
     (void)Tell("16@Frame Mem@Status@Folder Name Sense", "2,Graphics");
     Settle();
-    Drop("NoRecall/c.bmp");
-    EXPECT_THAT(Found(Look(), {"NoRecall/c.bmp"}), IsEmpty());
+    EXPECT_THAT(Bring("NoRecall/c.bmp"), IsEmpty());
     EXPECT_THAT(Finish(After(500)), Contains("put Frame Mem@Folder@Move Still#0,Mc,2"));
 }
 
 TEST_F(DropFolders, AnImageThatIsStillArrivingIsWaitedForAndABadOneIsNotKept)
 {
-    Drop("FM1/big.bmp", "a");
-    (void)Found(Look(), {"FM1/big.bmp"});
+    (void)Bring("FM1/big.bmp", "a");
     for (const char* text : {"ab", "abc"}) {
         Drop("FM1/big.bmp", text);
         EXPECT_THAT(After(500), IsEmpty()) << text;
     }
     EXPECT_THAT(Finish(After(500)), Not(IsEmpty()));
     Settle();
-    Drop("FM1/bad.bmp");
-    (void)Found(Look(), {"FM1/bad.bmp"});
+    (void)Bring("FM1/bad.bmp");
     EXPECT_THAT(Others(Finish(After(500), "NG([ERROR] no image.)")), IsEmpty());
     EXPECT_FALSE(Exists("/mnt/sys/FMLoad/FM1/bad.bmp"));
 }

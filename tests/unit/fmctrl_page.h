@@ -51,6 +51,11 @@ struct FrameMemory : BusTest {
             (void)Sense(number++, "81", name);
     }
     static void Pass(int elapsed_ms) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
+    static Strings After(int ms) // what it makes the application send
+    {
+        Pass(ms);
+        return TakeQueuedCommands();
+    }
     // "register, what" of each change that was told since the last call.
     static Strings Changes()
     {

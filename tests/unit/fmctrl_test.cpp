@@ -4,8 +4,6 @@
 #include <random>
 #include <set>
 
-namespace
-{
 const std::string STATUS = "16@Frame Mem@Status@", SENSE = "put " + STATUS + "File Name Sense#",
                   ANCILLARY = "Frame Mem@Clip@Ancillary Playback Enable";
 
@@ -20,7 +18,6 @@ struct FrameMemoryLists : FrameMemory {
 };
 
 using FrameMemoryFolders = FrameMemoryLists;
-} // namespace
 
 TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammar)
 {

@@ -3,16 +3,13 @@
 #include "fmctrl_page.h"
 #include "tdl.h"
 
-namespace
-{
 namespace fs = std::filesystem;
 constexpr const char* THUMBNAILS = "/mnt/sys/FrameMemory/";
 
 // A bitmap as the server draws them; fields for the rubbish.
-struct Bmp {
-    int width = 16, height = 8, bits = 24, colours = 0, compression = 0, pixels_at = 54;
-    int info = 40;
-    int bytes_missing = 0;
+struct ThumbnailBmp {
+    int width = 16, height = 8, bits = 24, colours = 0, compression = 0, pixels_at = 54, info = 40,
+        bytes_missing = 0;
     std::string Bytes() const
     {
         const auto le = [](long long v, int n) {
@@ -55,7 +52,8 @@ struct FrameMemoryThumbnails : FrameMemory {
         return numbers;
     }
     // The server carries a fetch out; what the application sends then.
-    static Strings Answer(const Get& get, const std::string& reply, const std::string& picture)
+    static Strings Answer(const Get& get, const std::string& reply = "OK",
+                          const std::string& picture = ThumbnailBmp{}.Bytes())
     {
         if (!picture.empty())
             std::ofstream(get.local.substr(get.local.find(':') + 1), std::ios::binary)
@@ -71,7 +69,6 @@ struct FrameMemoryThumbnails : FrameMemory {
         return thumbnail ? thumbnail->w : 0;
     }
 };
-} // namespace
 
 TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFileUnlessTheyAreOlder)
 {
@@ -81,7 +78,7 @@ TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFileUnlessThey
     EXPECT_EQ(gets[0].local, "MYHOST:/mnt/sys/FrameMemory/FM_0001.SFT");
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
     (void)Changes();
-    (void)Answer(gets[0], "OK", Bmp{}.Bytes());
+    (void)Answer(gets[0]);
     EXPECT_THAT(Changes(), ElementsAre("0, 1"));
     EXPECT_THAT(Files(), ElementsAre("FM_0001.BMP"));
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 8);
@@ -94,7 +91,7 @@ TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFileUnlessThey
     SYS_FmemV6 = 0;
     gets = Gets(Sense(1200, "1", "Mlogo"));
     ASSERT_THAT(Numbers(gets), ElementsAre("M_1200.SFT"));
-    (void)Answer(gets[0], "OK", Bmp{}.Bytes());
+    (void)Answer(gets[0]);
     EXPECT_THAT(Files(), IsEmpty());
     EXPECT_EQ(Width(1200, THUMBSIZE_FULL), 16);
     EXPECT_EQ(Width(1200, THUMBSIZE_SMALL), 8);
@@ -106,9 +103,9 @@ TEST_F(FrameMemoryThumbnails, NamesOfTheFilesFollowTheStoreAndTheNumber)
     ASSERT_THAT(Numbers(gets), ElementsAre("M1000.SFT"));
     for (int n : {999, 1000})
         EXPECT_THAT(Sense(16384 + n, "1", "Mb" + std::to_string(n)), IsEmpty()) << "waits";
-    gets = Gets(Answer(gets[0], "OK", Bmp{}.Bytes()));
+    gets = Gets(Answer(gets[0]));
     EXPECT_THAT(Numbers(gets), ElementsAre("X_999.SFT", "X1000.SFT"));
-    (void)Answer(gets[1], "OK", Bmp{}.Bytes());
+    (void)Answer(gets[1]);
     EXPECT_THAT(Files(), ElementsAre("FM_1000.BMP", "FX_1000.BMP"));
     EXPECT_TRUE(FMCtrl2_GetThumbnail(999, THUMBSIZE_SMALL));
     EXPECT_EQ(FMCtrl2_GetThumbnail(999, THUMBSIZE_SMALL),
@@ -128,7 +125,7 @@ TEST_F(FrameMemoryThumbnails, ComeByTheirUse)
     const auto finish = [&] {
         std::vector<Get> next;
         for (const Get& get : gets)
-            for (const Get& more : Gets(Answer(get, "OK", Bmp{}.Bytes())))
+            for (const Get& more : Gets(Answer(get)))
                 next.push_back(more);
         gets = next;
         return Numbers(gets);
@@ -149,13 +146,13 @@ TEST_F(FrameMemoryThumbnails, AtMostThirtyAreFetchedAtOnce)
         (void)Sense(n, "1", "Mb" + std::to_string(n));
     for (int n = 1; n <= 10; n++)
         (void)Sense(16384 + n, "1", "Mc" + std::to_string(n));
-    gets = Gets(Answer(gets[0], "OK", Bmp{}.Bytes()));
+    gets = Gets(Answer(gets[0]));
     EXPECT_EQ(gets.size(), 30u);
     EXPECT_THAT(Numbers(gets), Not(Contains("X_001.SFT")));
-    EXPECT_THAT(Gets(Answer(gets[0], "OK", Bmp{}.Bytes())), IsEmpty()) << "29 are in flight";
+    EXPECT_THAT(Gets(Answer(gets[0])), IsEmpty()) << "29 are in flight";
     for (int i = 1; i < 29; i++)
-        (void)Answer(gets[size_t(i)], "OK", Bmp{}.Bytes());
-    gets = Gets(Answer(gets[29], "OK", Bmp{}.Bytes()));
+        (void)Answer(gets[size_t(i)]);
+    gets = Gets(Answer(gets[29]));
     EXPECT_EQ(gets.size(), 19u);
 }
 
@@ -168,8 +165,7 @@ TEST_F(FrameMemoryThumbnails, SixTriesAndNoMore)
     }
     ASSERT_EQ(gets.size(), 1u);
     EXPECT_THAT(Answer(gets[0], "NG(no)", ""), IsEmpty());
-    Pass(1000);
-    EXPECT_THAT(Gets(TakeQueuedCommands()), IsEmpty());
+    EXPECT_THAT(Gets(After(1000)), IsEmpty());
     EXPECT_EQ(Gets(Sense(1, "1", "Mlogo")).size(), 1u) << "a change tries again";
     EXPECT_THAT(Files(), IsEmpty());
 }
@@ -179,7 +175,8 @@ TEST_F(FrameMemoryThumbnails, AnImageThatChangedMeanwhileIsFetchedAnew)
     const auto old = Gets(Sense(1, "1", "Mlogo"));
     (void)Tell("File@Frame Memory@Get", old[0].label + ",7");
     EXPECT_THAT(Sense(1, "1", "Mlogo"), ElementsAre("put File@Transfer@Cancel#Lx,7"));
-    std::ofstream(std::string(THUMBNAILS) + "FM_0001.SFT") << std::string(64, 'h') << Bmp{}.Bytes();
+    std::ofstream(std::string(THUMBNAILS) + "FM_0001.SFT")
+        << std::string(64, 'h') << ThumbnailBmp{}.Bytes();
     (void)Changes();
     const auto gets = Gets(Tell("File@Frame Memory@Get@Status", "7,OK"));
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
@@ -194,11 +191,9 @@ TEST_F(FrameMemoryThumbnails, WaitForWhatMayNotBeDisturbedAndComeByThemselves)
 {
     (void)Tell("Frame Mem@Clip@Rec@PROC2", "true");
     EXPECT_THAT(Sense(1, "1", "Mlogo"), IsEmpty());
-    Pass(10);
-    EXPECT_THAT(Gets(TakeQueuedCommands()), IsEmpty());
+    EXPECT_THAT(Gets(After(10)), IsEmpty());
     (void)Tell("Frame Mem@Clip@Rec@PROC2", "false");
-    Pass(10);
-    EXPECT_EQ(Gets(TakeQueuedCommands()).size(), 1u);
+    EXPECT_EQ(Gets(After(10)).size(), 1u);
     GL_FMThumbnailGetAfter = 1;
     (void)Sense(2, "1", "Mother");
     FMCtrl_GetWaitThumbnailAll();
@@ -214,20 +209,19 @@ TEST_F(FrameMemoryThumbnails, AServerThatForgotThemIsAskedAgain)
     const auto lost = gets;
     Max(2000);
     EXPECT_EQ(QueueRoot, nullptr) << "nothing waits for an answer";
-    Pass(10);
-    gets = Gets(TakeQueuedCommands());
+    gets = Gets(After(10));
     ASSERT_EQ(gets.size(), 1u);
     EXPECT_NE(gets[0].label, lost[0].label);
-    (void)Answer(lost[0], "OK", Bmp{}.Bytes()); // after all
+    (void)Answer(lost[0]); // after all
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0);
-    (void)Answer(gets[0], "OK", Bmp{}.Bytes());
+    (void)Answer(gets[0]);
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 8);
 }
 
 TEST_F(FrameMemoryThumbnails, AllAnewTakesEveryRegisterInSlices)
 {
     auto gets = Gets(Sense(1, "1", "Ma"));
-    (void)Answer(gets[0], "OK", Bmp{}.Bytes());
+    (void)Answer(gets[0]);
     for (int n = 0; n < 35; n++)
         (void)Sense(16384 + 1900 + n, "81", "Mz" + std::to_string(n));
     (void)Changes();
@@ -249,7 +243,7 @@ TEST_F(FrameMemoryThumbnails, AllAnewTakesEveryRegisterInSlices)
 TEST_F(FrameMemoryThumbnails, APictureThatIsNotWhatItSaysIsRefused)
 {
     auto gets = Gets(Sense(1, "1", "Mlogo"));
-    const Bmp rubbish[] = {
+    const ThumbnailBmp rubbish[] = {
         {.width = 0},         {.width = -16},
         {.width = 801},       {.height = 601},
         {.height = INT_MIN},  {.height = INT_MAX},
@@ -262,7 +256,7 @@ TEST_F(FrameMemoryThumbnails, APictureThatIsNotWhatItSaysIsRefused)
         {.bytes_missing = 1}, {.bytes_missing = 384 + 1},
         {.bits = 32},
     };
-    for (const Bmp& bmp : rubbish) {
+    for (const ThumbnailBmp& bmp : rubbish) {
         ASSERT_EQ(gets.size(), 1u);
         gets = Gets(Answer(gets[0], "OK", bmp.Bytes()));
         EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 0)
@@ -271,6 +265,6 @@ TEST_F(FrameMemoryThumbnails, APictureThatIsNotWhatItSaysIsRefused)
         if (gets.empty())
             gets = Gets(Sense(1, "1", "Mlogo")); // given up
     }
-    (void)Answer(gets[0], "OK", Bmp{}.Bytes());
+    (void)Answer(gets[0]);
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 8);
 }

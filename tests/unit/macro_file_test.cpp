@@ -4,8 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace
-{
 constexpr char PATH[] = "/var/tmp/macro_file.PMR";
 constexpr char HEAD[] = "PNL 0001PNL_0001.PMRMACROREG";
 
@@ -41,14 +39,13 @@ struct MacroFiles : testing::Test {
     }
 };
 
-std::string lines(int n, const std::string& line)
+static std::string lines(int n, const std::string& line)
 {
     std::string all = std::string(HEAD) + "\n";
     for (int i = 0; i < n; i++)
         all += line + "\n";
     return all;
 }
-} // namespace
 
 TEST_F(MacroFiles, LinesBecomeEventsAndGoBack)
 {

@@ -13,8 +13,6 @@
 #include <filesystem>
 #include <fstream>
 
-namespace
-{
 constexpr char BACKUP[] = "/mnt/data/Menu_Macro_tmp/";
 constexpr char TRANSFER[] = "/var/tmp/MenuMacro/";
 constexpr uint32_t EXEC = 0x54310000, COPY = 0x54330000, DELETE = 0x54360000, EDIT = 0x71440102,
@@ -95,7 +93,6 @@ struct MenuMacro : TablePage {
         return groups;
     }
 };
-} // namespace
 
 TEST_F(MenuMacro, TheTapTellsTheOperatorsCommandsFromTheProgramsOwn)
 {

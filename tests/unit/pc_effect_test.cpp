@@ -6,8 +6,6 @@
 #include <cstring>
 #include <map>
 
-namespace
-{
 const std::string EFFECTS = "Effect@Effect@Attribute@List@";
 const char* const SHOTS = "Shotbox@Register@Store/Recall@List";
 
@@ -23,7 +21,6 @@ struct EffectPages : TablePage {
         LS_SetNowLine(2, 4);
     }
 };
-} // namespace
 
 TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
 {

@@ -3,8 +3,6 @@
 #include "frame_page.h"
 #include "page_table/fmem_store.h"
 
-namespace
-{
 constexpr uint32_t STILLS = 0x25110000, STILL_FILES = 0x25120000, CLIPS = 0x25210000,
                    CLIP_FILES = 0x25220000, FREEZE_PAGE = 0x25310000;
 const std::string RECALL = "put Frame Mem@Recall@Recall Thumbnail@";
@@ -47,7 +45,6 @@ struct FrameMemoryPage : FramePage {
         return lines;
     }
 };
-} // namespace
 
 TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
 {

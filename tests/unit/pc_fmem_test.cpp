@@ -12,8 +12,6 @@
 #include "table_page.h"
 #include "tdl.h"
 
-namespace
-{
 const std::string TREE = FM_TREE, PUT = "put " + TREE;
 
 struct ClipPages : ClipStoreTest<TablePage> {
@@ -106,7 +104,6 @@ struct ClipPages : ClipStoreTest<TablePage> {
 constexpr int YES = 1, NO = 2;
 constexpr uint32_t RECALL = 0x21110000, PLAY = 0x21130000, RECORD = 0x21140000, FREEZE = 0x21150000,
                    COPY_MOVE = 0x21210000, DELETE_RENAME = 0x21220000, PAIR = 0x21230000;
-} // namespace
 
 TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
 {

@@ -15,8 +15,6 @@
 #include <fstream>
 #include <unistd.h>
 
-namespace
-{
 struct MacroPages : SetupTest {
     void TearDown() override
     {
@@ -143,7 +141,6 @@ struct MacroOnlinePage : MacroPages {
         Pass(10);
     }
 };
-} // namespace
 
 // Register 3 holds data and is at the cursor; the second list is at row 4 or 5.
 TEST_F(MacroPages, AListShowsWhatTheServerToldAndEveryKeySendsItsCommand)

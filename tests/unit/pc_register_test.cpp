@@ -11,8 +11,6 @@
 #include <array>
 #include <cstring>
 
-namespace
-{
 const std::string LIST = "Snapshot@Snapshot@Attribute@", PUT = "put Snapshot@Snapshot@";
 
 struct RegisterPages : TablePage {
@@ -38,7 +36,6 @@ struct RegisterPages : TablePage {
             LS_SetSelected(1, row, 0, 1);
     }
 };
-} // namespace
 
 // Register 3 is at the cursor, 4 in the second list.
 TEST_F(RegisterPages, EveryKeyOfEveryKindSendsItsCommand)

@@ -5,11 +5,9 @@
 #include <array>
 #include <climits>
 
-namespace
-{
 using Place = std::array<int, 4>; // kind, row, index, extra
 
-struct Reader {
+struct RegisterReader {
     int (*exist)(int, int);
     int (*lock)(int, int);
     const char* (*name)(int, int);
@@ -19,9 +17,9 @@ struct Reader {
     {                                                                                              \
         Register_Exist_##kind, Register_Lock_##kind, Register_Name_##kind, Register_Tally_##kind   \
     }
-const Reader readers[] = {READER(Effect),   READER(Eff100), READER(Eff200), READER(Eff300),
-                          READER(Snapshot), READER(WipeSS), READER(DMESS),  READER(KeySS),
-                          READER(Shotbox),  READER(Macro)};
+const RegisterReader readers[] = {READER(Effect),   READER(Eff100), READER(Eff200), READER(Eff300),
+                                  READER(Snapshot), READER(WipeSS), READER(DMESS),  READER(KeySS),
+                                  READER(Shotbox),  READER(Macro)};
 #undef READER
 
 const std::string EFFECT = "Effect@Effect@Attribute@List@";
@@ -33,7 +31,7 @@ const char* const SHOTBOX = "Shotbox@Register@Store/Recall@List";
 const char* const MACRO = "Macro@Register@List";
 
 // What the page was told since the last call.
-std::vector<Place> Told()
+static std::vector<Place> Told()
 {
     std::vector<Place> told;
     for (const auto& s : probe::seen)
@@ -42,7 +40,6 @@ std::vector<Place> Told()
     probe::seen.clear();
     return told;
 }
-} // namespace
 
 struct Registers : BusTest {
     void SetUp() override
@@ -91,7 +88,7 @@ TEST_F(Registers, ALineLandsInItsPlace)
         Deliver(c.path, c.value);
         EXPECT_THAT(Told(), ElementsAre(c.place)) << c.path << "#" << c.value;
         const auto& [kind, row, index, extra] = c.place;
-        const Reader& read = readers[kind];
+        const RegisterReader& read = readers[kind];
         EXPECT_EQ(read.exist(row, index), c.exist) << c.path << "#" << c.value;
         EXPECT_EQ(read.lock(row, index), c.lock) << c.path << "#" << c.value;
         EXPECT_STREQ(read.name(row, index), c.name) << c.path << "#" << c.value;
