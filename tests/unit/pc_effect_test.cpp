@@ -131,8 +131,7 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
         for (const auto& [column, line] : cells)
             (void)Touch(146 + 70 * column, 110 + 55 * line);
         SendMessage(LMSG_KNOBVAR, 1, knob, 0, 0);
-        (void)Press(ASSIGN);
-        Pass(1000); // the key is up again
+        (void)Puts(ASSIGN);
         for (const auto& [column, line] : cells)
             (void)Touch(146 + 70 * column, 110 + 55 * line);
     };
@@ -155,11 +154,9 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
                                                        {EFF_REGION_MASTER, "S7"}},
                                                       REGISTER_LINKS)));
     EXPECT_THAT(Puts(UNDO), IsEmpty()); // no line of the server has come: it holds what it held
-    Pass(1000);
     Deliver(SHOTS, "1,SHOT1,U,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
     EXPECT_EQ(CloseWindow(), 0); // it says that this is not what was stored
     EXPECT_THAT(Puts(UNDO), ElementsAre(edit + links({}, REGISTER_LINKS)));
-    Pass(1000);
     Deliver(SHOTS, "1,SHOT1,L,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
     (void)CloseWindow();
     EXPECT_THAT(Puts(STORE), IsEmpty()); // it is locked
@@ -182,19 +179,15 @@ TEST_F(EffectPages, AllCellsOrTheSwitchersAreChosenTogether)
         return text;
     };
     const auto assign = [](std::initializer_list<int> keys, int knob) {
-        for (const int key : keys) {
-            (void)Press(key);
-            Pass(200);
-        }
+        for (const int key : keys)
+            (void)Puts(key);
         SendMessage(LMSG_KNOBVAR, 1, knob, 0, 0);
-        (void)Press(ASSIGN);
-        Pass(200);
+        (void)Puts(ASSIGN);
     };
     std::fill(std::begin(multiprogram2_me), std::end(multiprogram2_me), 0);
     Open(0x62110001);
     assign({ALL}, 5);
     EXPECT_THAT(Puts(STORE), ElementsAre(stored(5, 5)));
-    Pass(200);
     assign({ALL, SWR_ALL}, 7); // all were on: off, then the switcher's
     EXPECT_THAT(Puts(STORE), ElementsAre(stored(7, 5)));
 }

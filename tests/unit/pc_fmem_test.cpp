@@ -156,14 +156,11 @@ TEST_F(ClipPages, APairWorksOnItsEvenOutput)
     // Once more, it stays at its frame; a still has none.
     Show(0, "2,/OPENING.SFH");
     (void)Tell(TREE + "Play@FM1#0,7,0,99");
-    Pass(200);
-    EXPECT_THAT(Press(BTN_FMEM_RECALL), Contains(PUT + "Recall@FM1#1,0,1,7,/OPENING.SFH"));
+    EXPECT_THAT(Puts(BTN_FMEM_RECALL), Contains(PUT + "Recall@FM1#1,0,1,7,/OPENING.SFH"));
     Cell(0, "STILL");
-    Pass(200);
-    EXPECT_THAT(Press(BTN_FMEM_RECALL), Contains(PUT + "Recall@FM1#1,0,0,0,/STILL.SFH"));
+    EXPECT_THAT(Puts(BTN_FMEM_RECALL), Contains(PUT + "Recall@FM1#1,0,0,0,/STILL.SFH"));
     EXPECT_THAT(Press(BTN_FMEM_BLACK), ElementsAre(PUT + "Record@Through@FM1#1,0"));
-    (void)Tell(TREE + "Pair@FM1&2#false");
-    (void)Tell(TREE + "Out Pair Select#FM5&6");
+    TellAll(TREE, {"Pair@FM1&2#false", "Out Pair Select#FM5&6"});
     EXPECT_EQ(FM_GetSelect(), 4);
     (void)Tell(TREE + "Out Pair Select#FM1&2");
 }
@@ -193,8 +190,7 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_OFF);
     (void)Tell(TREE + "Play@Variable Speed@FM1#0,-75");
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_ON);
-    Pass(200);
-    EXPECT_THAT(Press(BTN_FMEM_SPEED), put("Variable Speed@FM1#0,0"));
+    EXPECT_THAT(Puts(BTN_FMEM_SPEED), put("Variable Speed@FM1#0,0"));
     static const std::tuple<int, int, const char*> boxes[] = {
         {NB_FMEM_START, 12, "Start TC@FM1#0,4,12"},
         {NB_FMEM_STOP, 90, "Stop TC@FM1#0,4,90"},
@@ -206,8 +202,7 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     }
     (void)Tell(TREE + "Play@Variable Speed@FM1#0");
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_OFF);
-    (void)Tell(TREE + "Play@Start TC@FM1#0,30");
-    (void)Tell(TREE + "Play@Stop TC@FM1#70");
+    TellAll(TREE, {"Play@Start TC@FM1#0,30", "Play@Stop TC@FM1#70"});
     EXPECT_THAT(Press(BTN_FMEM_STOP), put("FM1#0,1,30,70"));
     (void)Tell(TREE + "Play@FM1#0,8,20,80");
     for (const int answer : {NO, YES}) {
@@ -248,8 +243,7 @@ TEST_F(ClipPages, RecordsUnderAFreeName)
         {"/a012345678901234567890123456789.SFH", "a012345678901234567890123456789"}};
     for (const auto& [told, next] : names) {
         (void)Tell(TREE + "Record@Freeze/Rec Name@PROC1#" + told);
-        Pass(200);
-        EXPECT_THAT(Press(BTN_FMEM_FREEZE).front(), HasSubstr("#0,/" + next + ".SFH"));
+        EXPECT_THAT(Puts(BTN_FMEM_FREEZE).front(), HasSubstr("#0,/" + next + ".SFH"));
     }
     EXPECT_THAT(Press(BTN_FMEM_FREEZE_TIME),
                 ElementsAre(testing::MatchesRegex("put " + TREE +
@@ -258,36 +252,29 @@ TEST_F(ClipPages, RecordsUnderAFreeName)
     (void)Press(BTN_FMEM_FRAME);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_FRAME), BT_ON);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_FIELD), BT_OFF);
-    Pass(200);
-    EXPECT_THAT(Press(BTN_FMEM_FREEZE), Contains(PUT + "Record@Freeze@FM1#0,0"));
+    EXPECT_THAT(Puts(BTN_FMEM_FREEZE), Contains(PUT + "Record@Freeze@FM1#0,0"));
 }
 
 TEST_F(ClipPages, TheLengthOfARecordingIsThatOfItsProcessor)
 {
     OpenPage(RECORD);
     const auto record = [] { // name and command
-        Pass(200);
-        Lines sent = Press(BTN_FMEM_REC);
+        Lines sent = Puts(BTN_FMEM_REC);
         sent.resize(2);
         return sent;
     };
-    static const std::pair<const char*, int> cases[] = {{"PROC1#0,125", 125},
-                                                        {"PROC2#0,7", 125},
-                                                        {"PROC1#0", 125},
-                                                        {"PROC1#1000000", 125},
-                                                        {"PROC1#1", 1}};
-    for (const auto& [told, length] : cases) {
+    for (const char* told : {"PROC1#0,125", "PROC2#0,7", "PROC1#0", "PROC1#1000000"}) {
         (void)Tell(TREE + "Record@Rec Len@" + told);
-        EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0," + std::to_string(length) + ",1")
-            << told;
+        EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,125,1") << told;
     }
+    (void)Tell(TREE + "Record@Rec Len@PROC1#1");
+    EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,1,1");
     SendMessage(LMSG_KNOBVAR, NB_FMEM_LENGTH, 300, 0, 0);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put  " + TREE + "Record@Rec Len@FM1#0,300"));
     EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,300,1");
     // Another output of the same processor records: neither of them is touched here.
     (void)Tell(TREE + "Record@PROC1#1,10,300,2");
-    EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC), BT_DISABLED);
-    EXPECT_EQ(BT_GetVisible(BTN_FMEM_REC_STOP), BT_DISABLED);
+    EXPECT_EQ(Usable({BTN_FMEM_REC, BTN_FMEM_REC_STOP}), std::vector<int>{});
     (void)Open(FREEZE);
     EXPECT_EQ(Usable({BTN_FMEM_FREEZE, BTN_FMEM_FREEZE_TIME}), std::vector<int>{});
     (void)Open(RECORD);
