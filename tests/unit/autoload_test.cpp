@@ -7,23 +7,22 @@
 #include <map>
 #include <utility>
 
+using testing::Key;
+
 static const std::string ROOT = "/mnt/data/user/root/PWON_LD/";
 static const std::string EXIST = "put Info@Auto Load@Data Exist@";
 static const std::string START = "put Info@Auto Load@Start@";
 
 struct AutoLoad : FileTest {
-    int is_v6 = 0;
-
     void SetUp() override
     {
         FileTest::SetUp();
         GL_AutoLoad = 1;
-        is_v6 = std::exchange(SYS_FmemV6, 0);
+        SYS_FmemV6 = 0;
     }
     void TearDown() override
     {
         std::fill_n(GL_FileLock, FILE_LOCKS, 0);
-        SYS_FmemV6 = is_v6;
         FMCtrl_Quit();
         Err_Clear();
         FileTest::TearDown();
@@ -58,22 +57,33 @@ struct AutoLoad : FileTest {
             Rows(label, files.count(folder) ? files.at(folder) : Strings{});
         return Sent();
     }
-    // The same where the newer frame memory's default folder has these pictures and no other has
-    // any.
+    // Ask with the newer frame memory; only the list of its folders, this one, is waited for then.
+    static uint32_t AskForFolders(const char* unit)
+    {
+        uint32_t list = 0;
+        EXPECT_EQ(AutoLoad_DataExist(unit), AUTOLOAD_SEARCHING);
+        for (const auto& [folder, label] : Searches())
+            if (folder == "FMEMFOL/")
+                list = label;
+            else
+                Rows(label, {});
+        EXPECT_THAT(Sent(), IsEmpty());
+        return list;
+    }
+    // Its default folder has these pictures and no other has any.
     static Strings AskForPictures(const char* unit, const std::string& folder, const Strings& names)
     {
-        EXPECT_EQ(AutoLoad_DataExist(unit), AUTOLOAD_SEARCHING);
-        auto searches = Searches();
-        const uint32_t list = searches.at("FMEMFOL/");
-        searches.erase("FMEMFOL/");
-        for (const auto& [path, label] : searches)
-            Rows(label, {});
-        Rows(list, {"FMEMFOL/DEFAULT"});
+        Rows(AskForFolders(unit), {"FMEMFOL/DEFAULT"});
         Strings paths;
         for (const std::string& name : names)
             paths.push_back("FMEMFOL/DEFAULT/" + folder + "/" + name);
         Rows(Searches().at("FMEMFOL/DEFAULT/" + folder + "/"), paths);
         return Sent();
+    }
+    static void ClosePanes()
+    {
+        while (int pane = Pane_GetActiveID())
+            Pane_Quit(pane);
     }
     // The transfers that a start sends, "<source> <target>", with their labels.
     static std::map<std::string, uint32_t> Start(const char* unit, Strings* all)
@@ -172,12 +182,9 @@ TEST_F(AutoLoad, FilesGoToTheirPlacesAndTheServerHearsOfBothEnds)
     auto items = Start("SWR1", &all);
     EXPECT_EQ(all[0], START + "SWR1#true");
     const std::string unit = DEV_MySwr[0]->id, work = ":/vorn/tmp/file/";
-    Strings lines;
-    for (const auto& [line, label] : items)
-        lines.push_back(line);
-    EXPECT_THAT(lines, ElementsAre(open + "," + unit + work + "EFFECT/SWR1/OPEN.ME1_001.SKF",
-                                   logo + "," + unit + ":Mlogo.FMEM_017.SFM",
-                                   key + "," + unit + work + "KSNAP/SWR1/K.ME1_2_04.SKS"));
+    EXPECT_THAT(items, ElementsAre(Key(open + "," + unit + work + "EFFECT/SWR1/OPEN.ME1_001.SKF"),
+                                   Key(logo + "," + unit + ":Mlogo.FMEM_017.SFM"),
+                                   Key(key + "," + unit + work + "KSNAP/SWR1/K.ME1_2_04.SKS")));
     EXPECT_NE(Pane_GetActiveID(), 0) << "the notice";
     EXPECT_TRUE(BkgdFileTransfer_Check(0x71310000));
     EXPECT_FALSE(BkgdFileTransfer_Check(0x71620000));
@@ -222,13 +229,7 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
     FMCtrl_InitClipStillList();
     Deliver("16@Frame Mem@Status@Folder Name Sense", "0,Default.,1,Old,3,Gone");
     Deliver("Frame Mem@Status@Extended Capacity", "1");
-    AutoLoad_DataExist("SWR1");
-    auto searches = Searches();
-    const uint32_t list = searches.at(root);
-    searches.erase(root);
-    for (const auto& [folder, label] : searches)
-        Rows(label, {});
-    EXPECT_THAT(Sent(), IsEmpty());
+    const uint32_t list = AskForFolders("SWR1");
     Rows(list, {root + "Sport", root + "DEFAULT", root + "A name that is too long", root + "News"});
 
     const std::string sub = "/SWR000D001/";
@@ -237,9 +238,8 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
         {"Sport", {"Mgoal.FMEM_200.SFA", "Mextra.FMEX_001.SFM", "Mgoal.FMEM_003.TIF"}},
         {"News", {}}};
     for (const char* name : {"DEFAULT", "Sport", "News"}) { // one at a time
-        searches = Searches();
-        ASSERT_EQ(searches.size(), 1u) << name;
-        EXPECT_EQ(searches.begin()->first, root + name + sub);
+        const auto searches = Searches();
+        ASSERT_THAT(searches, ElementsAre(Key(root + name + sub)));
         Strings paths;
         for (const std::string& file : files.at(name))
             paths.push_back(root + name + sub + file);
@@ -253,13 +253,12 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
     Strings all;
     const auto items = Start("SWR1", &all);
     const std::string staging = "MYHOST:/var/tmp/FMXfer/" + std::string(DEV_MySwr[0]->id);
-    ASSERT_EQ(items.size(), 3u) << testing::PrintToString(all);
-    EXPECT_EQ(items.begin()->first,
-              root + "DEFAULT" + sub + "Mbars.FMEM_009.SFM," + staging + "Mbars.FMEM_001.SF2");
-    EXPECT_EQ(std::next(items.begin())->first,
-              root + "Sport" + sub + "Mextra.FMEX_001.SFM," + staging + "Mextra.FMEX_001.SF2");
-    EXPECT_EQ(items.rbegin()->first,
-              root + "Sport" + sub + "Mgoal.FMEM_200.SFA," + staging + "Mgoal.FMEM_002.SF4");
+    ASSERT_THAT(
+        items,
+        ElementsAre(
+            Key(root + "DEFAULT" + sub + "Mbars.FMEM_009.SFM," + staging + "Mbars.FMEM_001.SF2"),
+            Key(root + "Sport" + sub + "Mextra.FMEX_001.SFM," + staging + "Mextra.FMEX_001.SF2"),
+            Key(root + "Sport" + sub + "Mgoal.FMEM_200.SFA," + staging + "Mgoal.FMEM_002.SF4")));
     for (const char* step : {"compressed", "stored", "staging removed"})
         for (const auto& [line, label] : items)
             Answer(label, step[0] == 's' && step[2] == 'o' && line.find("Mbars") != line.npos
@@ -296,8 +295,7 @@ TEST_F(AutoLoad, AFullStoreTakesNoMoreAndTheSecondUnitDoesNotEmptyIt)
     SYS_FmemRegMax = registers;
     AutoLoad_LinkLost();
     File_LinkLost();
-    while (int pane = Pane_GetActiveID())
-        Pane_Quit(pane);
+    ClosePanes();
     (void)Sent();
     EXPECT_THAT(AskForPictures("SWR2", "SWR000D002", {"Mother.FMEM_001.SFM"}), Contains(clear))
         << "of what the store was given nothing is known any more";
@@ -313,12 +311,7 @@ TEST_F(AutoLoad, AFullStoreTakesNoMoreAndTheSecondUnitDoesNotEmptyIt)
 TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
 {
     SYS_FmemV6 = 1;
-    AutoLoad_DataExist("SWR1");
-    auto searches = Searches();
-    for (const auto& [folder, label] : searches)
-        if (folder != "FMEMFOL/")
-            Rows(label, {});
-    Rows(searches.at("FMEMFOL/"), {}, "NG(Directory Not Exist)");
+    Rows(AskForFolders("SWR1"), {}, "NG(Directory Not Exist)");
     EXPECT_THAT(Sent(), ElementsAre(EXIST + "SWR1#false"));
 
     AutoLoad_DataExist("SWR1");
@@ -330,9 +323,9 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
     const uint32_t old = Searches().begin()->second;
     Deliver("CONNECT@Status", "NG");
     EXPECT_EQ(QueueRoot, nullptr);
-    Rows(old, {"EFFECT/SWR000D001/ME1/OPEN.ME1_001.SKF"});
-    EXPECT_THAT(Sent(), IsEmpty());
     const std::string open = "EFFECT/SWR000D001/ME1/OPEN.ME1_001.SKF";
+    Rows(old, {open});
+    EXPECT_THAT(Sent(), IsEmpty());
     EXPECT_THAT(Ask("SWR1", {{"EFFECT/SWR000D001/", {open}}}), ElementsAre(EXIST + "SWR1#true"));
     Strings all;
     EXPECT_EQ(Start("SWR1", &all).size(), 1u);
@@ -340,8 +333,7 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
     File_LinkLost();
     EXPECT_FALSE(BkgdFileTransfer_Check(0));
     EXPECT_EQ(Err_GetMax(), 1);
-    while (int pane = Pane_GetActiveID())
-        Pane_Quit(pane);
+    ClosePanes();
     (void)Sent();
     EXPECT_THAT(Ask("SWR1", {}), ElementsAre(EXIST + "SWR1#false"));
     // What waits goes with the link, and with nothing else.
@@ -356,9 +348,7 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
     // So does the search of a folder.
     SYS_FmemV6 = 1;
     (void)Sent();
-    AutoLoad_DataExist("SWR1");
-    for (const auto& [folder, label] : Searches())
-        Rows(label, folder == "FMEMFOL/" ? Strings{"FMEMFOL/DEFAULT"} : Strings{});
+    Rows(AskForFolders("SWR1"), {"FMEMFOL/DEFAULT"});
     EXPECT_NE(AutoLoadFindID, 0u);
     AutoLoad_LinkLost();
     EXPECT_EQ(QueueRoot, nullptr);

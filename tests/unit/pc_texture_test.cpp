@@ -34,7 +34,7 @@ struct TexturePage : TablePage {
     {
         Strings rows;
         for (int row = 0; row < LS_GetNData(list); row++)
-            rows.push_back(std::string(LS_GetData(list, row, 0)) + " " + LS_GetData(list, row, 1));
+            rows.push_back(Cells(list, row, 0, 2));
         return rows;
     }
     static void Choose(int list, int row)
@@ -44,19 +44,22 @@ struct TexturePage : TablePage {
         Clock_ms += 500;
         Pass(10);
     }
+    static void Settle()
+    {
+        for (int i = 0; i < 3; i++)
+            Pass(200);
+    }
     static void Do(int key)
     {
         (void)Press(key);
-        for (int i = 0; i < 3; i++)
-            Pass(200);
+        Settle();
     }
     // Whether a pane is up, which is then answered with its left button, or its only one.
     static bool Answer(int x = 200 + 97 + 5)
     {
         const bool is_up = Pane_GetActiveID() != 0;
         (void)Touch(x, 140 + 247 + 5);
-        for (int i = 0; i < 3; i++)
-            Pass(200);
+        Settle();
         return is_up;
     }
     static bool Close() { return Answer(400); }
@@ -65,7 +68,7 @@ struct TexturePage : TablePage {
 TEST_F(TexturePage, ComposesStoresAndLoadsAPackage)
 {
     EXPECT_THAT(Rows(BITMAPS),
-                ElementsAre("BRICK 8 x 4", "odd 100x64 px", "SAND 8 x 2", "WOOD 8 x 4"));
+                ElementsAre("BRICK|8 x 4", "odd|100x64 px", "SAND|8 x 2", "WOOD|8 x 4"));
     EXPECT_EQ(Disabled(), (std::set<int>{ADD, REMOVE, SAVE}));
     Choose(BITMAPS, 1);
     EXPECT_EQ(Disabled(), (std::set<int>{ADD, REMOVE, SAVE})) << "no size of a pattern";
@@ -80,18 +83,18 @@ TEST_F(TexturePage, ComposesStoresAndLoadsAPackage)
     Choose(BITMAPS, 2);
     Do(ADD);
     EXPECT_TRUE(Close()) << "no room";
-    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK 8 x 4", "WOOD 8 x 4"));
+    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK|8 x 4", "WOOD|8 x 4"));
     Do(SAVE);
     EXPECT_TRUE(Close()) << "stored";
     Choose(PATTERNS, 0);
     Do(REMOVE);
-    EXPECT_THAT(Rows(PATTERNS), ElementsAre("WOOD 8 x 4"));
+    EXPECT_THAT(Rows(PATTERNS), ElementsAre("WOOD|8 x 4"));
     Do(LOAD);
     EXPECT_TRUE(Answer()) << "the list is not empty";
-    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK 8 x 4", "WOOD 8 x 4"));
+    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK|8 x 4", "WOOD|8 x 4"));
     (void)Leave();
     (void)Open(0x73160005);
-    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK 8 x 4", "WOOD 8 x 4"));
+    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK|8 x 4", "WOOD|8 x 4"));
 }
 
 TEST_F(TexturePage, APulledStickIsTold)
@@ -106,7 +109,7 @@ TEST_F(TexturePage, APulledStickIsTold)
         }
         EXPECT_TRUE(Close()) << key;
     }
-    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK 8 x 4"));
+    EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK|8 x 4"));
     Do(REFRESH);
     EXPECT_THAT(Rows(BITMAPS), IsEmpty());
 }
