@@ -8,7 +8,6 @@ extern const PC_TBL pc_favorites;
 static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
 
 struct ButtonSheet : ButtonPage {
-    // How one cell of the sheet is brought about.
     struct Cell {
         const char* caption;
         int type;

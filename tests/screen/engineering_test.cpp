@@ -1,4 +1,3 @@
-// The engineering pages that are judged by eye.
 #include "device.h"
 #include "harness.h"
 #include "page.h"

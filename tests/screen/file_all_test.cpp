@@ -1,4 +1,3 @@
-// The All page of the File menu: a part of the categories, and a copy that goes on with failures.
 #include "pc_file_all.h"
 #include "server_page.h"
 
@@ -25,7 +24,7 @@ TEST_F(FileAllPictures, PartOfTheCategoriesAndACopyWithFailures)
     const Lines found = Below("/var/nfs/user/root/SYSTEM/SNAPSHOT/SWR000D001/ME1/",
                               {"OPENING.ME1_001.SSS", "HEADLINE.ME1_002.SSS", "OTS L.ME1_003.SSS",
                                "OTS R.ME1_004.SSS", "WEATHER.ME1_005.SSS"});
-    for (int i = 0; i < 20 && !Items(FILEWORK_ACCESS_COPYLIST); i++) {
+    for (int i = 0; i < 20 && !ListOf(FILEWORK_ACCESS_COPYLIST); i++) {
         for (const std::string& line : TakeQueuedCommands())
             (void)Serve(line, "Access@Find", found);
         Pass(10);

@@ -1,4 +1,3 @@
-// The pages of two lists in the File menu, filled and partly selected, and a detail page.
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
 #include "server_page.h"
@@ -16,7 +15,6 @@ struct FilePictures : ServerPage {
             no += no == 3 ? 2 : 1;
         }
     }
-    // The newer frame memory, with a few registers.
     static void Frames(const Lines& in_folder)
     {
         const std::string memory = "16@Frame Mem@Status@";
@@ -60,7 +58,6 @@ TEST_F(FilePictures, DetailPage)
     EXPECT_TRUE(MatchesGolden("file_detail"));
 }
 
-// Folders on both sides, another than the first one open at the left.
 TEST_F(FilePictures, FrameMemoryPage)
 {
     Frames({"Mlogo", "Slogo", "Mbeach"});

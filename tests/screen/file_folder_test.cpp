@@ -1,5 +1,3 @@
-// The pages of the clip store: its browser with thumbnails, marks, checks and a found clip; the
-// outputs; a playback; two folders side by side.
 #include "a_ff_private.h"
 #include "a_fm.h"
 #include "fmctrl3.h"

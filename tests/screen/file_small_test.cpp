@@ -1,4 +1,3 @@
-// The pages of the File menu that have one list, or two that only show, filled by a server.
 #include "pc_file_idcopy.h"
 #include "server_page.h"
 

@@ -1,4 +1,3 @@
-// The pages that show what the switcher's frame memory and clip store hold as lists.
 #include "a_fl.h"
 #include "fmctrl.h"
 #include "fmctrl3.h"

@@ -1,4 +1,3 @@
-// The pages of Install/Unit Config with a stick that has something for them.
 #include "install_stick.h"
 #include "table_page.h"
 #include "texture_stick.h"

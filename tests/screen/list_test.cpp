@@ -1,4 +1,3 @@
-// Lists as they look: every colour class, header, marks, keys and thumb.
 #include "a_ls_page.h"
 
 struct ListPictures : ListPage {

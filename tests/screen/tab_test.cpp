@@ -1,4 +1,3 @@
-// The tabs of a page, the pattern grid and the two scrolling lists as they look.
 #include "a_dw.h"
 #include "a_hf.h"
 #include "a_kp.h"

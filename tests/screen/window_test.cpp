@@ -1,4 +1,3 @@
-// The windows as they look, over a page of keys.
 #include "a_bt_page.h"
 #include "tdl.h"
 #include "window.h"

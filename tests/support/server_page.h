@@ -9,6 +9,38 @@
 #include "table_page.h"
 #include "text.h"
 
+// The list of the first job of that kind.
+inline FILEXFERLIST* ListOf(int worktype)
+{
+    for (const QUEUE* job = QueueRoot; job; job = job->next)
+        if (job->worktype == worktype)
+            return *job->xferlist;
+    return nullptr;
+}
+
+// Its items as "target source > destination", and of a frame its number and how many there are; of
+// one that a companion travels with, "sub". Roots by a short name.
+inline Strings Items(int worktype)
+{
+    static const std::pair<std::string, const char*> roots[] = {
+        {"SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/", "store:"},
+        {"SWR001D001:/vorn/tmp/file/", "unit:"},
+        {"MYHOST:/mnt/data/user/root/SYSTEM/", "local:"},
+        {"MYHOST:/mnt/usb/usb1/", "stick:"}};
+    Strings items;
+    for (const FILEXFERLIST* i = ListOf(worktype); i; i = i->next) {
+        std::string item = std::string(i->target) + " " + i->src + " > " + i->dst;
+        if (i->import_no[1])
+            item += " " + std::to_string(i->import_no[0]) + "/" + std::to_string(i->import_no[1]);
+        item += i->info ? " sub" : "";
+        for (const auto& [root, name] : roots)
+            for (size_t at; (at = item.find(root)) != item.npos;)
+                item.replace(at, root.size(), name);
+        items.push_back(item);
+    }
+    return items;
+}
+
 struct ServerPage : TablePage {
     static inline int ack = 900;
 
@@ -81,12 +113,5 @@ struct ServerPage : TablePage {
             Hub("Ready", std::string(target) + ".File");
         }
         (void)TakeQueuedHubLines();
-    }
-    static FILEXFERLIST* Items(int worktype) // of the first job of that kind
-    {
-        for (const QUEUE* job = QueueRoot; job; job = job->next)
-            if (job->worktype == worktype)
-                return *job->xferlist;
-        return nullptr;
     }
 };

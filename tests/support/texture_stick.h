@@ -48,7 +48,6 @@ struct TextureStick {
         std::ofstream(path, std::ios::binary) << bytes;
         return path;
     }
-    // A pattern of so many units.
     static std::string Put(const std::string& name, int width, int height, char fill = 'x')
     {
         return Put(name, BitmapBytes(width * TEXTURE_UNIT_PX, height * TEXTURE_UNIT_PX, 24, fill));

@@ -1,4 +1,3 @@
-// What assetgen leaves in the run directory, read as the application reads it.
 #include "../../assets/wipe_numbers.h"
 #include "harness.h"
 #include "test_dirs.h"

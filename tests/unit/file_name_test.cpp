@@ -1,4 +1,3 @@
-// Names of files: what a path names, and how it is made.
 #include "device.h"
 #include "file_name.h"
 #include "global.h"
@@ -13,7 +12,6 @@ struct FileName : testing::Test {
     void SetUp() override
     {
         Harness_Reset();
-        // A second switcher, and the four places of effects units.
         SYS_SwrMax = 2;
         SYS_DmeMax = 4;
         for (int i = 0; i < 4; i++) {

@@ -83,11 +83,9 @@ struct FileTest : BusTest {
         ::system(("mkdir -p '" + path.substr(0, end) + "'").c_str());
         std::ofstream(path, std::ios::binary) << text;
     }
-    // Messages with this number that the page saw.
     static int Seen(int msg) { return probe::Count(msg); }
 };
 
-// The same with a list of items.
 struct FileListTest : FileTest {
     FILEXFERLIST* list = nullptr;
     std::string ended; // "status message;" of each item, as the page is told at the end

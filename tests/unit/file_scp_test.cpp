@@ -63,7 +63,6 @@ struct FileRemote : FileListTest {
     {
         WriteFile(std::string("/var/tmp/FILE/") + who + "." + way + ".result.lst", text);
     }
-    // The label of the command that fetches the list; it must be the only one that went out.
     static uint32_t FetchLabel()
     {
         const std::string one = SentOne();

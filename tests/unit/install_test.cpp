@@ -1,4 +1,3 @@
-// Installs from a stick: what each step calls, and what stands in the error list when one fails.
 #include "install_stick.h"
 
 struct Install : testing::Test {

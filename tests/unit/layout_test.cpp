@@ -1,5 +1,3 @@
-// The packer of the texture memory: places that were worked out by hand, and what must hold for any
-// package.
 #include "harness.h"
 #include "layout.h"
 #include <algorithm>

@@ -1,5 +1,3 @@
-// The All page of the File menu against a server that has files: what is gathered from where, what
-// is given to which job, and what automation gets.
 #include "fmctrl.h"
 #include "pc_file.h"
 #include "pc_file_all.h"
@@ -86,13 +84,6 @@ struct FileAllPage : ServerPage {
         return Run(Answer(1));
     }
     Lines Load() { return Run(Press(BTN_ALL_R_TO_L)); }
-    static Lines Items(int worktype)
-    {
-        Lines items;
-        for (const FILEXFERLIST* i = ServerPage::Items(worktype); i; i = i->next)
-            items.push_back(std::string(i->target) + " " + i->src + " > " + i->dst);
-        return items;
-    }
     static void HubGoes()
     {
         File_SHP_All_Clear();
@@ -124,16 +115,15 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
     EXPECT_THAT(Run(Answer(2)), IsEmpty()) << "not before the operator agrees";
     EXPECT_THAT(Do(BTN_ALL_L_TO_R), ElementsAre("Rmdir MYHOST:/mnt/data/user/root/SYSTEM",
                                                 "Mkdir MYHOST:/mnt/data/user/root/SYSTEM"));
-    const std::string work = "SWR1 SWR001D001:/vorn/tmp/file/";
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
-                ElementsAre(work + "EFFECT/SWR1/VTR.DEV1_007.SKF > " + ROOT +
-                                "EFFECT/SWR000D001/DEV1/VTR.DEV1_007.SKF",
-                            work + "EFFECT/SWR1/LAST.DEV12_001.SKF > " + ROOT +
-                                "EFFECT/SWR000D001/DEV12/LAST.DEV12_001.SKF",
-                            work + "EFFECT/SWR1/CUE.DEV1_250.SKF > " + ROOT +
-                                "EFFECT/SWR000D001/DEV1/CUE.DEV1_250.SKF",
-                            work + "SNAPSHOT/SWR1/OPENING.ME1_003.SSS > " + ROOT +
-                                "SNAPSHOT/SWR000D001/ME1/OPENING.ME1_003.SSS"));
+                ElementsAre("SWR1 unit:EFFECT/SWR1/VTR.DEV1_007.SKF > "
+                            "local:EFFECT/SWR000D001/DEV1/VTR.DEV1_007.SKF",
+                            "SWR1 unit:EFFECT/SWR1/LAST.DEV12_001.SKF > "
+                            "local:EFFECT/SWR000D001/DEV12/LAST.DEV12_001.SKF",
+                            "SWR1 unit:EFFECT/SWR1/CUE.DEV1_250.SKF > "
+                            "local:EFFECT/SWR000D001/DEV1/CUE.DEV1_250.SKF",
+                            "SWR1 unit:SNAPSHOT/SWR1/OPENING.ME1_003.SSS > "
+                            "local:SNAPSHOT/SWR000D001/ME1/OPENING.ME1_003.SSS"));
     // While it runs nothing else begins, for automation neither; the operator may leave and come
     // back.
     EXPECT_EQ(AllSave(), -1);
@@ -216,7 +206,6 @@ TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
     EXPECT_NE(Pane_GetActiveID(), 0);
 }
 
-// Nothing is cleared for nothing.
 TEST_F(FileAllPage, AnEmptySaveLeavesTheDirectoryAlone)
 {
     Select({"MENUMACRO"});
@@ -243,12 +232,10 @@ TEST_F(FileAllPage, ALoadSearchesWhatIsSelectedAndLeavesOutWhatIsLocked)
                 ElementsAre("Find " + ROOT + "SETUP/,*.*.*", "Find " + ROOT + "SNAPSHOT/,*.*.*"));
     EXPECT_EQ(AllLoadCount, 0);
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
-                ElementsAre("PNL1 " + ROOT +
-                                "SETUP/CTRLCPU/SETUP.PNL_0000.PST > "
-                                "PNL001D001:/vorn/tmp/file/SETUP/PNL1/SETUP.PNL_0000.PST",
-                            "SWR1 " + ROOT +
-                                "SNAPSHOT/SWR000D001/ME1/NEWS.ME1_007.SSS > "
-                                "SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/NEWS.ME1_007.SSS"));
+                ElementsAre("PNL1 local:SETUP/CTRLCPU/SETUP.PNL_0000.PST > "
+                            "PNL001D001:/vorn/tmp/file/SETUP/PNL1/SETUP.PNL_0000.PST",
+                            "SWR1 local:SNAPSHOT/SWR000D001/ME1/NEWS.ME1_007.SSS > "
+                            "unit:SNAPSHOT/SWR1/NEWS.ME1_007.SSS"));
     // Cancelled, it may have arrived all the same.
     sent.clear();
     const Lines after = Answer(1);
@@ -270,12 +257,11 @@ TEST_F(FileAllPage, OfARegisterSavedUnderSeveralNamesTheNewestIsTaken)
         "SWR000D001/ME2/OLD.ME2_007.SSS" + eve,  "SWR000D001/ME1/LAST.ME1_008.SSS" + day};
     Select({"SNAPSHOT"});
     (void)Load();
-    const std::string from = "SWR1 " + ROOT + "SNAPSHOT/SWR00";
-    const std::string work = " > SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/";
+    const std::string from = "SWR1 local:SNAPSHOT/SWR00", to = " > unit:SNAPSHOT/SWR1/";
     EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRPUTLIST),
-                ElementsAre(from + "1D001/ME1/NEW.ME1_007.SSS" + work + "NEW.ME1_007.SSS",
-                            from + "0D001/ME1/LAST.ME1_008.SSS" + work + "LAST.ME1_008.SSS",
-                            from + "0D001/ME2/OLD.ME2_007.SSS" + work + "OLD.ME2_007.SSS"));
+                ElementsAre(from + "1D001/ME1/NEW.ME1_007.SSS" + to + "NEW.ME1_007.SSS",
+                            from + "0D001/ME1/LAST.ME1_008.SSS" + to + "LAST.ME1_008.SSS",
+                            from + "0D001/ME2/OLD.ME2_007.SSS" + to + "OLD.ME2_007.SSS"));
 }
 
 // A category that the directory does not have is empty; one that cannot be read is said.
@@ -379,12 +365,12 @@ TEST_F(FileAllPage, ACopyGoesToAnotherDirectoryOnly)
     GL_FileLock[FILELOCK_CATEGORY_MACRO] = 1; // of no meaning here
     Select({"MACRO", "FRAMEMEM"});
     (void)Run(Press(BTN_ALL_L_TO_R));
-    const std::string stick = " > MYHOST:/mnt/usb/usb1/SYSTEM/";
-    EXPECT_THAT(Items(FILEWORK_ACCESS_COPYLIST),
-                UnorderedElementsAre(" " + ROOT + "MACRO/CTRLCPU/A?B.PNL_0012.PMR" + stick +
-                                         "MACRO/CTRLCPU/A_B.PNL_0012.PMR",
-                                     " " + ROOT + "FMEMFOL/News/SWR000D001/Mlogo.FMEM_012.SFM" +
-                                         stick + "FMEMFOL/News/SWR000D001/Mlogo.FMEM_012.SFM"));
+    EXPECT_THAT(
+        Items(FILEWORK_ACCESS_COPYLIST),
+        UnorderedElementsAre(
+            " local:MACRO/CTRLCPU/A?B.PNL_0012.PMR > stick:SYSTEM/MACRO/CTRLCPU/A_B.PNL_0012.PMR",
+            " local:FMEMFOL/News/SWR000D001/Mlogo.FMEM_012.SFM > "
+            "stick:SYSTEM/FMEMFOL/News/SWR000D001/Mlogo.FMEM_012.SFM"));
 }
 
 TEST_F(FileAllPage, PicturesAreSavedByFolderAndStore)
@@ -394,14 +380,12 @@ TEST_F(FileAllPage, PicturesAreSavedByFolderAndStore)
     (void)TakeQueuedCommands();
     Select({"FRAMEMEM"});
     (void)Do(BTN_ALL_L_TO_R);
-    const std::string folder = ROOT + "FMEMFOL/";
-    // The job has turned the first names into those of the packed kind.
-    EXPECT_THAT(
+    EXPECT_THAT( // the job has turned the first names into those of the packed kind
         Items(FILEWORK_TRANSFERLIST),
         ElementsAre(
-            " SWR001D001:FMEM_001.SF2 > " + folder + "News/SWR000D001/Mlogo.FMEM_001.SFM",
-            " SWR001D001:FMEM1200.SF2 > " + folder + "DEFAULT/SWR000D001/Sbug.FMEM_1200.SFM",
-            " SWR001D001:FMEX_003.SF2 > " + folder + "DEFAULT/SWR000D001/Mext.FMEX_003.SFM"));
+            " SWR001D001:FMEM_001.SF2 > local:FMEMFOL/News/SWR000D001/Mlogo.FMEM_001.SFM",
+            " SWR001D001:FMEM1200.SF2 > local:FMEMFOL/DEFAULT/SWR000D001/Sbug.FMEM_1200.SFM",
+            " SWR001D001:FMEX_003.SF2 > local:FMEMFOL/DEFAULT/SWR000D001/Mext.FMEX_003.SFM"));
 }
 
 TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
@@ -439,7 +423,7 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
     // What was under way does not stay where it was prepared.
     (void)!::system(
         "mkdir -p /var/tmp/FMXfer /var/tmp/XPORT; touch /var/tmp/FMXfer/left /tmp/other");
-    FILEXFERLIST* const item = ServerPage::Items(FILEWORK_TRANSFERLIST);
+    FILEXFERLIST* const item = ListOf(FILEWORK_TRANSFERLIST);
     ASSERT_TRUE(item && item->next);
     CopyText(item->tmp, "MYHOST:/var/tmp/FMXfer/left");
     CopyText(item->next->tmp, "MYHOST:/tmp/other"); // not ours

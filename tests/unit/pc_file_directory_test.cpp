@@ -1,4 +1,3 @@
-// The Directory page against a server that lists, makes and deletes folders.
 #include "server_page.h"
 #include <unistd.h>
 
@@ -38,7 +37,6 @@ struct DirectoryPage : ServerPage {
             rows.push_back(LS_GetData(1, i, 0));
         return rows;
     }
-    // What entering a name for a new directory sends.
     static Lines Make(const std::string& name)
     {
         (void)Press(NEW);

@@ -1,4 +1,3 @@
-// The pages of two lists in the File menu, through touches, lines and what goes over the wire.
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
 #include "register.h"
@@ -32,7 +31,6 @@ struct FileDualPage : ServerPage {
     {
         return std::string("MYHOST:/mnt/data/user/root/SYSTEM/") + rest;
     }
-    // The list of errors, as its page has it.
     static Strings ErrorsShown()
     {
         Strings texts;
@@ -66,7 +64,6 @@ TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
     EXPECT_EQ(Row(1, 2), "|");
 }
 
-// Rows 3 and 4 to row 10 and 11, region by region; the hub is asked for the category.
 TEST_F(FileDualPage, SaveGoesFromTheFirstSelectedRowOfTheTarget)
 {
     Open(SNAPSHOT_PAGE);
@@ -75,14 +72,11 @@ TEST_F(FileDualPage, SaveGoesFromTheFirstSelectedRowOfTheTarget)
     (void)TakeQueuedHubLines();
     Press(BTN_FILE_L_TO_R);
     EXPECT_THAT(TakeQueuedHubLines(), ElementsAre("Request#SWR1.File:SNAPSHOT.USER_ID:MENU1"));
-    const FILEXFERLIST* const item = Items(FILEWORK_RMTACCESS_SCPDIRGETLIST);
-    ASSERT_TRUE(item);
-    EXPECT_STREQ(item->src, "SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/OPENING.ME1_003.SSS");
-    EXPECT_EQ(item->dst, Drive("SNAPSHOT/SWR000D001/ME1/OPENING.ME1_010.SSS"));
-    EXPECT_STREQ(item->target, "SWR1");
-    ASSERT_TRUE(item->next);
-    EXPECT_EQ(item->next->dst, Drive("SNAPSHOT/SWR000D001/ME1/CLOSE.ME1_011.SSS"));
-    EXPECT_FALSE(item->next->next);
+    EXPECT_THAT(Items(FILEWORK_RMTACCESS_SCPDIRGETLIST),
+                ElementsAre("SWR1 unit:SNAPSHOT/SWR1/OPENING.ME1_003.SSS > "
+                            "local:SNAPSHOT/SWR000D001/ME1/OPENING.ME1_010.SSS",
+                            "SWR1 unit:SNAPSHOT/SWR1/CLOSE.ME1_004.SSS > "
+                            "local:SNAPSHOT/SWR000D001/ME1/CLOSE.ME1_011.SSS"));
     EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 1);
 }
 
@@ -152,7 +146,6 @@ TEST_F(FileDualPage, NothingMovesOntoItselfOrIntoAProtectedDirectory)
 {
     Open(SNAPSHOT_PAGE);
     EXPECT_EQ(BT_GetVisible(BTN_FILE_L_TO_R), BT_ENABLED);
-    // Both sides the running system: no way at all.
     Press(BTN_FILE_DEVICE_B);
     Answer(FILE_REGISTER + 1);
     EXPECT_EQ(BT_GetVisible(BTN_FILE_L_TO_R), BT_DISABLED);
@@ -177,12 +170,10 @@ TEST_F(FileDualPage, DirectoryIsChosenBehindTheDevice)
     EXPECT_THAT(Answer(2), Contains(HasSubstr("MYHOST:/var/nfs/user/root/MORNING/SNAPSHOT/")));
     EXPECT_EQ(Caption(BTN_FILE_DEVICE_B), "Network");
     EXPECT_EQ(Caption(BTN_FILE_DIR_B), "MORNING");
-    // It is remembered.
     Open(SNAPSHOT_PAGE);
     EXPECT_EQ(Caption(BTN_FILE_DIR_B), "MORNING");
 }
 
-// From the drive to the running system: the locked region stays out, after a question.
 TEST_F(FileDualPage, LockedSetupRegionsAreLeftOutAfterAQuestion)
 {
     GL_FileLock[FILELOCK_CATEGORY_SWR_SETUP] = 1;
@@ -213,7 +204,6 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     EXPECT_THAT(Answer(1), ElementsAre("put Snapshot@Snapshot@Delete#2,4,4"));
 }
 
-// The commands of all kinds that have some.
 TEST_F(FileDualPage, EveryFamilyHasItsOwnCommands)
 {
     static const struct {

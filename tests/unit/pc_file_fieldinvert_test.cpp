@@ -1,4 +1,3 @@
-// The Field Invert page, against a server that reads the headers of frames.
 #include "pc_file_fieldinvert.h"
 #include "server_page.h"
 

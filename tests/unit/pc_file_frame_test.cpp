@@ -1,4 +1,3 @@
-// The file pages of the frame memory: registers and folders to drives and back, names, folders.
 #include "frame_page.h"
 
 constexpr uint32_t OLD = 0x71510100, NEW = 0x71510200, FOLDERS_PAGE = 0x71520000;
@@ -42,7 +41,6 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     Store({"Mlogo"});
     Pass(200);
     EXPECT_TRUE(LS_IsSelected(1, 4, 0) == 1 && LS_IsSelected(1, 3, 0) == 0);
-    // A still that is moved leaves, and is in the other folder.
     Tell("Frame Mem@Folder@Move Still#0,Mlogo,3");
     Pass(200);
     EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar"));

@@ -1,4 +1,3 @@
-// Copies of a unit's and a group's files, against a server that lists, clears and copies.
 #include "pc_file_idcopy.h"
 #include "server_page.h"
 

@@ -1,10 +1,10 @@
-// The Import/Export pages: which files are shown, what becomes of them, and what is refused.
 #include "a_fl.h"
 #include "file_scp.h"
 #include "file_xport.h"
 #include "fmctrl3.h"
 #include "frame_page.h"
 #include "pc_file_xport.h"
+#include "server_page.h"
 
 using testing::EndsWith;
 
@@ -91,28 +91,6 @@ struct XportPage : FramePage {
         Filescp_trnasferlist_init("CS1");
         SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
     }
-    // Of a job of that kind, "target source > destination frame/frames", and whether a companion
-    // travels along. "store:" and "stick:" stand for the roots.
-    static Lines Items(FILEWORKTYPE work)
-    {
-        static const std::pair<std::string, const char*> roots[] = {
-            {"SWR000D001:/vorn/tmp/file/FRAMEMEM/CS1/", "store:"},
-            {"MYHOST:/mnt/usb/usb1/", "stick:"}};
-        Lines items;
-        for (const QUEUE* job = QueueRoot; job; job = job->next)
-            for (const FILEXFERLIST* i = job->worktype == work ? *job->xferlist : nullptr; i;
-                 i = i->next) {
-                std::string item = std::string(i->target) + " " + i->src + " > " + i->dst + " " +
-                                   std::to_string(i->import_no[0]) + "/" +
-                                   std::to_string(i->import_no[1]) + (i->info ? " sub" : "");
-                for (const auto& [root, name] : roots)
-                    for (size_t at; (at = item.find(root)) != item.npos;)
-                        item.replace(at, root.size(), name);
-                items.push_back(item);
-            }
-        return items;
-    }
-    // The lines that have this in them.
     static Lines With(const char* part, Lines lines)
     {
         std::erase_if(lines, [&](const std::string& s) { return s.find(part) == s.npos; });
@@ -141,7 +119,6 @@ TEST_F(XportPage, SearchesTheChosenKindInEverySpelling)
     EXPECT_THAT(Files(), IsEmpty());
     Found(sent, files);
     EXPECT_THAT(Files(), ElementsAre("x.BMP", "x.BMP.SUB"));
-    // The local drive takes pictures and gives none.
     Pass(1000);
     Press(BTN_XPORT_DEVICE_B);
     Answer(Quit(FILE_LOCAL + 1), "Access@ListDir", {});
@@ -456,7 +433,6 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
         ASSERT_NE(Pane_GetActiveID(), 0);
         Pane_Quit(Pane_GetActiveID());
     }
-    // And back: old is there already.
     while (Pane_GetActiveID())
         Pane_Quit(Pane_GetActiveID());
     list_drive(after);

@@ -1,4 +1,3 @@
-// The page New Install with a stick and three units that say what they run.
 #include "install_stick.h"
 #include "pane.h"
 #include "pc_install.h"
@@ -33,7 +32,6 @@ struct NewInstall : TablePage {
     {
         std::ofstream("/var/tmp/version1/" + file) << line;
     }
-    // A title and a version for a kind of unit, and one step.
     static void Package(const std::string& title, const std::string& version,
                         const std::string& target, const std::string& step = "EXEC step")
     {
@@ -48,7 +46,6 @@ struct NewInstall : TablePage {
         Pass(10);
         Pass(10);
     }
-    // So many cells of each row.
     static Strings Rows(int list, int columns)
     {
         Strings rows;
@@ -56,7 +53,6 @@ struct NewInstall : TablePage {
             rows.push_back(Cells(list, row, 0, columns));
         return rows;
     }
-    // A cell of a unit's row.
     static std::string Of(const std::string& unit, int column)
     {
         return Cell(UNITS, RowOf(unit), column);

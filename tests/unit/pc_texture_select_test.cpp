@@ -1,4 +1,3 @@
-// The textures of the effects unit: what a touch uses, and what it leaves.
 #include "table_page.h"
 
 using TexturePages = TablePage;

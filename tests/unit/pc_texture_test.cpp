@@ -1,4 +1,3 @@
-// The page Texture Package with bitmaps on the removable drive.
 #include "pane.h"
 #include "table_page.h"
 #include "text.h"

@@ -8,7 +8,6 @@ namespace
 {
 constexpr unsigned WHITE = 0xFFFFFF;
 
-// A verb that only has the silent form.
 #define SILENT(verb, ...)                                                                          \
     {                                                                                              \
 #verb "(" #__VA_ARGS__ ")", nullptr, [] { return verb(__VA_ARGS__); }                      \

@@ -1,5 +1,3 @@
-// The package of user textures: what fits stays, what is written comes back, rubbish changes
-// nothing.
 #include "texture_stick.h"
 
 constexpr const char* ZSP = TEXTURE_STICK "UserTexture/UserTexture.zsp";
