@@ -1,6 +1,5 @@
 #include "file_page.h"
 #include "process.h"
-#include <cstdlib>
 #include <filesystem>
 
 // What an item sends from its start to its end when every command ends well, without "put File@".

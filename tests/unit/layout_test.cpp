@@ -1,6 +1,5 @@
 #include "harness.h"
 #include "layout.h"
-#include <algorithm>
 #include <map>
 #include <numeric>
 #include <random>
