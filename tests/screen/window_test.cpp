@@ -8,13 +8,10 @@ struct WindowPictures : ButtonPage {
     void SetUp() override
     {
         ButtonPage::SetUp();
-        static BT_TBL table[25];
-        int n = 0;
-        for (int row = 0; row < 4; row++)
-            for (int column = 1; column <= 6; column++)
-                table[n++] = Button(row * 16 + column, BT_TOGGLE, {"Test#*"});
-        table[n] = {.id = -1};
-        Open(table);
+        for (int n = 0; n < 24; n++)
+            rows[n] = Button(n / 6 * 16 + n % 6 + 1, BT_TOGGLE, {"Test#*"});
+        rows[24] = {.id = -1};
+        Open(rows);
         Redraw();
     }
     static void Redraw(int elapsed_ms = 0) { SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0); }
@@ -56,14 +53,14 @@ TEST_F(WindowPictures, PageJumpWithFavorites)
 {
     std::filesystem::create_directories("/mnt/data/TopMenu");
     std::string file(29 * 24, '\0');
-    file.replace(0, 24,
+    file.replace(0, 15,
                  std::string("\x11\x11\0\0\x07\x01"
-                             "1111\nType\0\0\0\0\0\0\0\0\0",
-                             24));
-    file.replace(24 * 6, 24,
+                             "1111\nType",
+                             15));
+    file.replace(24 * 6, 17,
                  std::string("\x33\x11\0\0\x01\x02"
-                             "3311\nStatus\0\0\0\0\0\0\0",
-                             24));
+                             "3311\nStatus",
+                             17));
     std::ofstream("/mnt/data/TopMenu/user_date1.usr", std::ios::binary) << file;
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
     Type({'1', '2', '2', '1'});

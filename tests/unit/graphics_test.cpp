@@ -97,10 +97,9 @@ TEST(Graphics, TheSmallerModelReplacesItsOwnPictures)
 {
     const TestDisplay display;
     const GraphicsFolder folder;
-    SaveBitmap("ptn/1001", 20);
-    SaveBitmap("ptn/2001", 21);
-    SaveBitmap("ptn/2001e", 22);
-    SaveBitmap("ptn/2002", 23);
+    int width = 20;
+    for (const char* name : {"1001", "2001", "2001e", "2002"})
+        SaveBitmap(std::string("ptn/") + name, width++);
     LoadGraphics();
     EXPECT_EQ(WidthOf(WipePtn(2001)), 21);
     LoadDmeWipePtn_KTR20();
@@ -129,8 +128,8 @@ TEST(Graphics, PixelsComeWithTheFirstUseAndAChangedFileIsBlack)
     EXPECT_EQ(G_EXE_p0o0->pixels, nullptr);
     ClearScreen();
     EXPECT_EQ(TDL_PutS(10, 20, G_EXE_p0o0), 0);
-    EXPECT_EQ(PixelsOf(Screen)[20 * 800 + 12], PixelOf(0xC0FFEE));
-    EXPECT_EQ(PixelsOf(Screen)[21 * 800 + 10], PixelOf(0x102030));
+    EXPECT_EQ(PixelAt(12, 20), 0xC0FFEEu);
+    EXPECT_EQ(PixelAt(10, 21), 0x102030u);
     EXPECT_EQ(Painted(), 6);
 
     SaveBitmap("EXE_p0o1", 50); // another size than at the start

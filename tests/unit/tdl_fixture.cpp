@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -28,11 +29,8 @@ int WidthOf(int font, int code)
 
 void SaveFile(const char* name, const std::vector<uint8_t>& data)
 {
-    FILE* fp = fopen(name, "wb");
-    if (!fp || fwrite(data.data(), 1, data.size(), fp) != data.size())
-        perror(name);
-    if (fp)
-        fclose(fp);
+    std::ofstream(name, std::ios::binary)
+        .write(reinterpret_cast<const char*>(data.data()), std::streamsize(data.size()));
 }
 
 void PutEntry(std::vector<uint8_t>* table, int font, int code, uint32_t value)
@@ -56,12 +54,12 @@ void WriteFonts()
                     image.push_back(uint8_t(font == FONT_SOLID ? 255 : 16 * row + i));
         }
     }
-    PutEntry(&table, FONT_RUBBISH, 0, 20);
-    PutEntry(&table, FONT_RUBBISH, 'A', 119990); // ends behind the file
-    PutEntry(&table, FONT_RUBBISH, 'B', 120990);
-    PutEntry(&table, FONT_RUBBISH, 'C', 300); // begins behind its end
-    PutEntry(&table, FONT_RUBBISH, 'E', 0xFFFFFFF0);
-    PutEntry(&table, FONT_RUBBISH, 'G', 20 * 65); // 'F' has 65 columns
+    static const std::pair<int, uint32_t> rubbish[] = {
+        {0, 20},       {'A', 119990},     {'B', 120990}, // ends behind the file
+        {'C', 300},    {'E', 0xFFFFFFF0},                // begins behind its end
+        {'G', 20 * 65}};                                 // 'F' has 65 columns
+    for (const auto& [code, value] : rubbish)
+        PutEntry(&table, FONT_RUBBISH, code, value);
     SaveFile("font.dat", image);
     SaveFile("font_ofs.dat", table);
 }
@@ -71,26 +69,19 @@ SDL_Surface* SetDepth(int bits_per_pixel)
     setenv("SDL_VIDEODRIVER", "dummy", 1);
     if (!SDL_WasInit(SDL_INIT_VIDEO))
         SDL_Init(SDL_INIT_VIDEO);
-    SDL_Surface* surface = SDL_SetVideoMode(SCREEN_W, SCREEN_H, bits_per_pixel, 0);
-    if (!surface) {
-        fprintf(stderr, "no video: %s\n", SDL_GetError());
-        exit(1);
-    }
-    return surface;
+    return SDL_SetVideoMode(SCREEN_W, SCREEN_H, bits_per_pixel, 0);
 }
 } // namespace
 
 TestDisplay::TestDisplay(int bits_per_pixel) : had_screen(Screen != nullptr)
 {
     char name[] = "/tmp/tdl.XXXXXX";
-    if (!mkdtemp(name) || chdir(name) != 0)
-        perror(name);
+    EXPECT_TRUE(mkdtemp(name) && chdir(name) == 0) << name;
     dir = name;
     WriteFonts();
     if (had_screen)
         TDL_Quit();
-    if (TDL_Init(SetDepth(bits_per_pixel)) != 0)
-        fprintf(stderr, "no fonts in %s\n", name);
+    EXPECT_EQ(TDL_Init(SetDepth(bits_per_pixel)), 0);
     ClearScreen();
     Flushed.clear();
 }
@@ -99,11 +90,9 @@ TestDisplay::~TestDisplay()
 {
     TDL_Quit();
     Screen = nullptr;
-    if (chdir(TEST_RUN_DIR) != 0)
-        perror(TEST_RUN_DIR);
+    EXPECT_EQ(chdir(TEST_RUN_DIR), 0);
     std::filesystem::remove_all(dir);
-    if (had_screen && TDL_Init(SetDepth(32)) != 0)
-        fprintf(stderr, "no fonts in the run folder\n");
+    EXPECT_TRUE(!had_screen || TDL_Init(SetDepth(32)) == 0);
 }
 
 std::vector<uint32_t> PixelsOf(SDL_Surface* s)

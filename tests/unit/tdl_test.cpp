@@ -155,32 +155,23 @@ TEST(Drawing, AlphaFillBlendsLikeTheLibrary)
     }
 }
 
-static SDL_Surface* PlainSource()
-{
-    return NoiseSurface(85, 66, 99);
-}
+enum class Kind { PLAIN, KEYED, PIXEL_ALPHA, FAINT };
 
-static SDL_Surface* KeyedSource()
-{
-    SDL_Surface* s = NoiseSurface(85, 66, 98);
-    SDL_Rect window = {10, 10, 30, 30};
-    SDL_FillRect(s, &window, PixelOf(0xFFFF00));
-    SDL_SetColorKey(s, SDL_SRCCOLORKEY, PixelOf(0xFFFF00));
-    return s;
-}
-
-static SDL_Surface* PixelAlphaSource()
+static SDL_Surface* MakeSource(Kind kind)
 {
     SDL_Surface* s =
-        SDL_CreateRGBSurface(SDL_SRCALPHA, 85, 66, 32, 0xFF0000, 0xFF00, 0xFF, 0xFF000000);
-    SDL_FillRect(s, nullptr, 0x80FF2010);
-    return s;
-}
-
-static SDL_Surface* FaintSource()
-{
-    SDL_Surface* s = PlainSource();
-    SDL_SetAlpha(s, SDL_SRCALPHA, 100);
+        kind == Kind::PIXEL_ALPHA
+            ? SDL_CreateRGBSurface(SDL_SRCALPHA, 85, 66, 32, 0xFF0000, 0xFF00, 0xFF, 0xFF000000)
+            : NoiseSurface(85, 66, 99);
+    SDL_Rect window = {10, 10, 30, 30};
+    if (kind == Kind::PIXEL_ALPHA)
+        SDL_FillRect(s, nullptr, 0x80FF2010);
+    if (kind == Kind::FAINT)
+        SDL_SetAlpha(s, SDL_SRCALPHA, 100);
+    if (kind == Kind::KEYED) {
+        SDL_FillRect(s, &window, PixelOf(0xFFFF00));
+        SDL_SetColorKey(s, SDL_SRCCOLORKEY, PixelOf(0xFFFF00));
+    }
     return s;
 }
 
@@ -192,9 +183,9 @@ TEST(Drawing, BitmapsAreCutAndBlendedLikeTheLibraryDoes)
                   {-84, -65, -1},  {-85, 0, -1},   {800, 0, -1},   {7, 599, -1},
                   {200, 100, 255}, {-40, 300, 77}, {790, 100, 1},  {300, -60, 128}};
     for (const int depth : DEPTHS) {
-        for (auto* make : {PlainSource, KeyedSource, PixelAlphaSource, FaintSource}) {
+        for (const Kind kind : {Kind::PLAIN, Kind::KEYED, Kind::PIXEL_ALPHA, Kind::FAINT}) {
             const TestDisplay display(depth);
-            SDL_Surface* source = make();
+            SDL_Surface* source = MakeSource(kind);
             SDL_Surface* twin = NoisyTwin();
             SDL_Surface* scratch = NoiseSurface(85, 66, 3);
             for (const auto& at : places) {
