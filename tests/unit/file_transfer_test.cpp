@@ -2,7 +2,8 @@
 #include "process.h"
 #include <filesystem>
 
-// What an item sends from its start to its end when every command ends well, without "put File@".
+using testing::EndsWith, testing::StartsWith;
+
 struct FileSteps : FileListTest {
     using Entry = int (*)(FILEXFERLIST**, FILE_LIST_FUNC, int);
 
@@ -14,25 +15,37 @@ struct FileSteps : FileListTest {
         DeviceStructure();
         ASSERT_TRUE(DEV_MySwr[0]);
     }
-    Strings Run(Entry entry, const char* src, const char* dst)
+    // What an item sends from its start to its end when every command ends well, without "put
+    // File@" and labels. Short for roots: "stick/", "tmp/", "SWR:"; what has none is on this
+    // machine.
+    std::string Run(Entry entry, const std::string& src, const std::string& dst)
     {
-        Strings commands;
-        File_XferList_Add(&list, src, dst);
-        const int job = entry(&list, List, 0);
-        const uint32_t label = uint32_t(job) - 1;
+        static const std::pair<const char*, std::string> roots[] = {
+            {"stick/", "MYHOST:/mnt/usb/usb1/"},
+            {"tmp/", "MYHOST:/var/tmp/"},
+            {"SWR:", "SWR000D001:"},
+            {"", "MYHOST:"}};
+        const auto whole = [](const std::string& path) {
+            for (const auto& [name, root] : roots)
+                if (path.starts_with(name) && path != "SWR000D001")
+                    return root + path.substr(strlen(name));
+            return path;
+        };
+        std::string steps;
+        File_XferList_Add(&list, whole(src).c_str(), whole(dst).c_str());
+        const uint32_t label = uint32_t(entry(&list, List, 0)) - 1;
         for (int i = 0; i < 10 && list; i++) {
             std::string one = SentOne();
             const size_t at = one.find("#L");
-            commands.push_back(one.replace(at, one.find(',', at) - at, "#"));
+            steps += (i ? " | " : "") + one.replace(at, one.find(',', at) - at, "#");
             Answer(label, "OK");
         }
         EXPECT_EQ(told.size(), 1u);
         told.clear();
-        return commands;
-    }
-    Strings Transfer(const char* src, const char* dst)
-    {
-        return Run(File_ExecTransferList, src, dst);
+        for (const auto& [name, root] : roots)
+            for (size_t at; (at = steps.find(root)) != steps.npos;)
+                steps.replace(at, root.size(), name);
+        return steps;
     }
     void Add(const Strings& names, const std::string& from, const std::string& to)
     {
@@ -43,71 +56,58 @@ struct FileSteps : FileListTest {
 
 TEST_F(FileSteps, AFileTakesTheWayOfItsEnds)
 {
-    SYS_FmemV6 = 0;
-    EXPECT_THAT(Transfer("MYHOST:/a/x.SSS", "SWR000D001:/b/x.SSS"),
-                ElementsAre("Transfer@Transfer#,MYHOST:/a/x.SSS,SWR000D001:/b/x.SSS"));
-    EXPECT_THAT(
-        Transfer("SWR000D001:/b/x.SSS", "MYHOST:/mnt/usb/usb1/d/x.SSS"),
-        ElementsAre("Transfer@Transfer#,SWR000D001:/b/x.SSS,MYHOST:/var/tmp/usb1/d/x.SSS",
-                    "Access@Copy#,MYHOST:/var/tmp/usb1/d/x.SSS,MYHOST:/mnt/usb/usb1/d/x.SSS",
-                    "Access@Remove#,MYHOST:/var/tmp/usb1/d/x.SSS"));
-    EXPECT_THAT(Transfer("MYHOST:/mnt/usb/usb1/x.SSS", "SWR000D001:/b/x.SSS"),
-                ElementsAre("Access@Copy#,MYHOST:/mnt/usb/usb1/x.SSS,MYHOST:/var/tmp/usb1/x.SSS",
-                            "Transfer@Transfer#,MYHOST:/var/tmp/usb1/x.SSS,SWR000D001:/b/x.SSS",
-                            "Access@Remove#,MYHOST:/var/tmp/usb1/x.SSS"));
-    EXPECT_THAT(
-        Transfer("MYHOST:/a/Mx.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
-        ElementsAre("Frame Memory@PutV3#,MYHOST:/a/Mx.FMEM_001.SFM,SWR000D001:FMEM_001.SFM"));
-    EXPECT_THAT(Transfer("SWR000D001:FMEM_001.SFM", "MYHOST:/a/Mx.FMEM_001.SFM"),
-                ElementsAre("Frame Memory@Get#,SWR000D001:FMEM_001.SFM,MYHOST:/a/Mx.FMEM_001.SFM"));
-    EXPECT_THAT(
-        Transfer("MYHOST:/mnt/usb/usb1/M.SFM", "SWR000D001:FMEM_001.SFM"),
-        ElementsAre("Access@Copy#,MYHOST:/mnt/usb/usb1/M.SFM,MYHOST:/var/tmp/usb1/M.SFM",
-                    "Frame Memory@PutV3#,MYHOST:/var/tmp/usb1/M.SFM,SWR000D001:FMEM_001.SFM",
-                    "Access@Remove#,MYHOST:/var/tmp/usb1/M.SFM"));
+    static const struct {
+        int is_v6;
+        Entry entry;
+        const char *src, *dst, *steps;
+    } cases[] = {
+        {0, File_ExecTransferList, "/a/x.SSS", "SWR:/b/x.SSS",
+         "Transfer@Transfer#,/a/x.SSS,SWR:/b/x.SSS"},
+        {0, File_ExecTransferList, "SWR:/b/x.SSS", "stick/d/x.SSS",
+         "Transfer@Transfer#,SWR:/b/x.SSS,tmp/usb1/d/x.SSS | "
+         "Access@Copy#,tmp/usb1/d/x.SSS,stick/d/x.SSS | Access@Remove#,tmp/usb1/d/x.SSS"},
+        {0, File_ExecTransferList, "stick/x.SSS", "SWR:/b/x.SSS",
+         "Access@Copy#,stick/x.SSS,tmp/usb1/x.SSS | "
+         "Transfer@Transfer#,tmp/usb1/x.SSS,SWR:/b/x.SSS | Access@Remove#,tmp/usb1/x.SSS"},
+        {0, File_ExecTransferList, "/a/Mx.FMEM_001.SFM", "SWR:FMEM_001.SFM",
+         "Frame Memory@PutV3#,/a/Mx.FMEM_001.SFM,SWR:FMEM_001.SFM"},
+        {0, File_ExecTransferList, "SWR:FMEM_001.SFM", "/a/Mx.FMEM_001.SFM",
+         "Frame Memory@Get#,SWR:FMEM_001.SFM,/a/Mx.FMEM_001.SFM"},
+        {0, File_ExecTransferList, "stick/M.SFM", "SWR:FMEM_001.SFM",
+         "Access@Copy#,stick/M.SFM,tmp/usb1/M.SFM | "
+         "Frame Memory@PutV3#,tmp/usb1/M.SFM,SWR:FMEM_001.SFM | Access@Remove#,tmp/usb1/M.SFM"},
+        {0, File_ExecTransferList, "/a/x.MMR", "tmp/MenuMacro/mm_reg07.tmp",
+         "Access@Copy#,/a/x.MMR,tmp/MenuMacro/mm_reg07.tmp"},
+        {0, File_ExecFmExportList, "SWR:FMEM_002.SFM", "/x/a.TGA.SUB",
+         "Frame Memory@Get#,SWR:FMEM_002.SFM,tmp/Sa.FMEM_000.SFM | "
+         "Frame Memory@SFM2TGA#,tmp/Sa.FMEM_000.SFM,/x/a.TGA.SUB | "
+         "Access@Remove#,tmp/Sa.FMEM_000.SFM"},
+        // The pictures of the newer frame memory are packed.
+        {1, File_ExecTransferList, "/a/M.FMEM_001.SFM", "SWR:FMEM_001.SFM",
+         "Frame Memory@Compress#,/a/M.FMEM_001.SFM,tmp/FMXfer/SWR000D001FMEM_001.SF2 | "
+         "Frame Memory@PutV3#,tmp/FMXfer/SWR000D001FMEM_001.SF2,SWR:FMEM_001.SF2 | "
+         "Access@Remove#,tmp/FMXfer/SWR000D001FMEM_001.SF2"},
+        {1, File_ExecTransferList, "SWR:FMEX_002.SFA", "stick/M.SFA",
+         "Frame Memory@Get#,SWR:FMEX_002.SF4,tmp/FMXfer/SWR000D001FMEX_002.SF4 | "
+         "Frame Memory@Uncompress#,tmp/FMXfer/SWR000D001FMEX_002.SF4,stick/M.SFA | "
+         "Access@Remove#,tmp/FMXfer/SWR000D001FMEX_002.SF4"},
+        {1, File_ExecTransferList_AutoLoad, "/mnt/sys/FMLoad/FM1/M.SFM", "SWR:FMEM_001.SFM",
+         "Frame Memory@Compress#,/mnt/sys/FMLoad/FM1/M.SFM,tmp/FMXfer/SWR000D001FMEM_001.SF2 | "
+         "Frame Memory@PutV3#,tmp/FMXfer/SWR000D001FMEM_001.SF2,SWR:FMEM_001.SF2 | "
+         "Access@Remove#,tmp/FMXfer/SWR000D001FMEM_001.SF2"},
+        {1, File_ExecFmExportList, "SWR:FMEM_001.SFM", "stick/picture12.PNG",
+         "Frame Memory@Get#,SWR:FMEM_001.SF2,tmp/Mpicture1.FMEM_000.SF2 | "
+         "Frame Memory@Uncompress#,tmp/Mpicture1.FMEM_000.SF2,tmp/Mpicture1.FMEM_000.SFM | "
+         "Access@Remove#,tmp/Mpicture1.FMEM_000.SF2 | "
+         "Frame Memory@SFM2PNG#,tmp/Mpicture1.FMEM_000.SFM,stick/picture12.PNG | "
+         "Access@Remove#,tmp/Mpicture1.FMEM_000.SFM"},
+    };
     std::filesystem::remove_all("/var/tmp/MenuMacro");
-    EXPECT_THAT(Transfer("MYHOST:/a/x.MMR", "MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"),
-                ElementsAre("Access@Copy#,MYHOST:/a/x.MMR,MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"));
+    for (const auto& c : cases) {
+        SYS_FmemV6 = c.is_v6;
+        EXPECT_EQ(Run(c.entry, c.src, c.dst), c.steps);
+    }
     EXPECT_TRUE(FileExist("/var/tmp/MenuMacro")) << "the copy has a place to go to";
-}
-
-TEST_F(FileSteps, ThePicturesOfTheNewFrameMemoryArePacked)
-{
-    SYS_FmemV6 = 1;
-    const std::string put = "MYHOST:/var/tmp/FMXfer/SWR000D001FMEM_001.SF2";
-    EXPECT_THAT(Transfer("MYHOST:/a/M.FMEM_001.SFM", "SWR000D001:FMEM_001.SFM"),
-                ElementsAre("Frame Memory@Compress#,MYHOST:/a/M.FMEM_001.SFM," + put,
-                            "Frame Memory@PutV3#," + put + ",SWR000D001:FMEM_001.SF2",
-                            "Access@Remove#," + put));
-    const std::string got = "MYHOST:/var/tmp/FMXfer/SWR000D001FMEX_002.SF4";
-    EXPECT_THAT(Transfer("SWR000D001:FMEX_002.SFA", "MYHOST:/mnt/usb/usb1/M.SFA"),
-                ElementsAre("Frame Memory@Get#,SWR000D001:FMEX_002.SF4," + got,
-                            "Frame Memory@Uncompress#," + got + ",MYHOST:/mnt/usb/usb1/M.SFA",
-                            "Access@Remove#," + got));
-    EXPECT_THAT(Run(File_ExecTransferList_AutoLoad, "MYHOST:/mnt/sys/FMLoad/FM1/M.SFM",
-                    "SWR000D001:FMEM_001.SFM"),
-                ElementsAre("Frame Memory@Compress#,MYHOST:/mnt/sys/FMLoad/FM1/M.SFM," + put,
-                            "Frame Memory@PutV3#," + put + ",SWR000D001:FMEM_001.SF2",
-                            "Access@Remove#," + put));
-}
-
-TEST_F(FileSteps, AStillBecomesAnImageOfTheWantedKind)
-{
-    SYS_FmemV6 = 1;
-    const std::string tmp = "MYHOST:/var/tmp/Mpicture1.FMEM_000.SF2";
-    const std::string plain = "MYHOST:/var/tmp/Mpicture1.FMEM_000.SFM";
-    EXPECT_THAT(
-        Run(File_ExecFmExportList, "SWR000D001:FMEM_001.SFM", "MYHOST:/mnt/usb/usb1/picture12.PNG"),
-        ElementsAre("Frame Memory@Get#,SWR000D001:FMEM_001.SF2," + tmp,
-                    "Frame Memory@Uncompress#," + tmp + "," + plain, "Access@Remove#," + tmp,
-                    "Frame Memory@SFM2PNG#," + plain + ",MYHOST:/mnt/usb/usb1/picture12.PNG",
-                    "Access@Remove#," + plain));
-    SYS_FmemV6 = 0;
-    const std::string old = "MYHOST:/var/tmp/Sa.FMEM_000.SFM";
-    EXPECT_THAT(Run(File_ExecFmExportList, "SWR000D001:FMEM_002.SFM", "MYHOST:/x/a.TGA.SUB"),
-                ElementsAre("Frame Memory@Get#,SWR000D001:FMEM_002.SFM," + old,
-                            "Frame Memory@SFM2TGA#," + old + ",MYHOST:/x/a.TGA.SUB",
-                            "Access@Remove#," + old));
 }
 
 TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
@@ -115,16 +115,13 @@ TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
     GL_DataGokan = 1;
     DEV_Swr[0].type = DEVTYPE_KTR40;
     CopyText(DEV_Swr[0].version, "5.42");
-    EXPECT_THAT(Transfer("MYHOST:/mnt/d/x.SSS", "SWR000D001:/b/x.SSS"),
-                ElementsAre("Access@Raw#,MYHOST:/usr/local/sbin/dg_snapshot 5.42 /mnt/d/x.SSS "
-                            "/var/tmp/mnt/d/x.SSS",
-                            "Transfer@Transfer#,MYHOST:/var/tmp/mnt/d/x.SSS,SWR000D001:/b/x.SSS",
-                            "Access@Remove#,MYHOST:/var/tmp/mnt/d/x.SSS"));
+    EXPECT_EQ(Run(File_ExecTransferList, "/mnt/d/x.SSS", "SWR:/b/x.SSS"),
+              "Access@Raw#,/usr/local/sbin/dg_snapshot 5.42 /mnt/d/x.SSS /var/tmp/mnt/d/x.SSS | "
+              "Transfer@Transfer#,tmp/mnt/d/x.SSS,SWR:/b/x.SSS | Access@Remove#,tmp/mnt/d/x.SSS");
     // What the server's shell could take apart is not said to it.
-    for (const char* name : {"MYHOST:/d/$(x).SSS", "MYHOST:/d/a b.SSS", "MYHOST:/d/a;b.SSS"})
-        EXPECT_THAT(
-            Transfer(name, "SWR000D001:/b/x.SSS"),
-            ElementsAre(std::string("Transfer@Transfer#,") + name + ",SWR000D001:/b/x.SSS"));
+    for (const std::string name : {"/d/$(x).SSS", "/d/a b.SSS", "/d/a;b.SSS"})
+        EXPECT_EQ(Run(File_ExecTransferList, name, "SWR:/b/x.SSS"),
+                  "Transfer@Transfer#," + name + ",SWR:/b/x.SSS");
     File_XferList_Add(&list, "MYHOST:/d/x.SKF", "SWR000D001:/b/x.SKF");
     File_ExecTransferList(&list, List, 0);
     EXPECT_THAT(SentOne(), HasSubstr("dg_keyframe"));
@@ -135,7 +132,8 @@ TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
     File_XferList_RemoveAll(&list);
     for (const char* version : {"5.41", "6.00", "5.4"}) {
         CopyText(DEV_Swr[0].version, version);
-        EXPECT_EQ(Transfer("MYHOST:/d/x.SSS", "SWR000D001:/b/x.SSS").size(), 1u) << version;
+        EXPECT_EQ(Run(File_ExecTransferList, "/d/x.SSS", "SWR:/b/x.SSS"),
+                  "Transfer@Transfer#,/d/x.SSS,SWR:/b/x.SSS");
     }
 }
 
@@ -267,35 +265,29 @@ struct FileImport : FileSteps {
 TEST_F(FileImport, BothSidesAreStoredUnderTheirRegistersAndRemoved)
 {
     Converted(true, true);
-    const std::string a = "MYHOST:" + first;
-    const std::string b = "MYHOST:" + second;
-    EXPECT_THAT(Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefghij.tif", "SWR000D001"),
-                ElementsAre("Frame Memory@TIF2SFM with Compress#,"
-                            "MYHOST:/mnt/usb/usb1/abcdefghij.tif," +
-                                a + "," + b + ",3,0,0",
-                            "Frame Memory@PutV3#," + a + ",SWR000D001:FMEM_012.SF2",
-                            "Frame Memory@PutV3#," + b + ",SWR000D001:FMEM1000.SF2",
-                            "Access@Remove#," + a, "Access@Remove#," + b));
+    const std::string a = "tmp" + first.substr(8), b = "tmp" + second.substr(8);
+    EXPECT_EQ(Run(File_ExecFmImportList, "stick/abcdefghij.tif", "SWR000D001"),
+              "Frame Memory@TIF2SFM with Compress#,stick/abcdefghij.tif," + a + "," + b +
+                  ",3,0,0 | Frame Memory@PutV3#," + a + ",SWR:FMEM_012.SF2 | Frame Memory@PutV3#," +
+                  b + ",SWR:FMEM1000.SF2 | Access@Remove#," + a + " | Access@Remove#," + b);
 }
 
 TEST_F(FileImport, ASideThatIsMissingIsPassedOver)
 {
     for (const bool is_first : {false, true}) {
-        const std::string side = "MYHOST:" + (is_first ? first : second),
-                          number = is_first ? "1000" : "_012";
+        const std::string side = "tmp" + (is_first ? first : second).substr(8);
         Converted(is_first, !is_first);
-        const Strings steps =
-            Run(File_ExecFmImportList, "MYHOST:/mnt/usb/usb1/abcdefgh.PNG", "SWR000D001");
         EXPECT_THAT(
-            steps, ElementsAre(HasSubstr("PNG2SFM"),
-                               "Frame Memory@PutV3#," + side + ",SWR000D001:FMEM" + number + ".SF2",
-                               "Access@Remove#," + side));
+            Run(File_ExecFmImportList, "stick/abcdefgh.PNG", "SWR000D001"),
+            AllOf(StartsWith("Frame Memory@PNG2SFM"),
+                  EndsWith(",3,0,0 | Frame Memory@PutV3#," + side + ",SWR:FMEM" +
+                           (is_first ? "1000" : "_012") + ".SF2 | Access@Remove#," + side)));
     }
     Converted(false, false);
     ended.clear();
     Begin("PNG");
     Answer(list->label, "OK");
-    EXPECT_THAT(ended, testing::StartsWith("129 ")) << "there is none";
+    EXPECT_THAT(ended, StartsWith("129 ")) << "there is none";
     EXPECT_EQ(list, nullptr);
 }
 
