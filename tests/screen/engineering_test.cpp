@@ -2,16 +2,9 @@
 #include "harness.h"
 #include "page.h"
 
-namespace
+TEST(EngineeringPicture, TheMenuLeadsToAllThatThereIs)
 {
-struct EngineeringPicture : testing::Test {
-    void SetUp() override { Harness_Reset(); }
-    void TearDown() override { Harness_Reset(); }
-};
-} // namespace
-
-TEST_F(EngineeringPicture, TheMenuLeadsToAllThatThereIs)
-{
+    Harness_Reset();
     DEV_Swr[0].type = DEVTYPE_KTR40GSF; // the first generation has a smaller one
     DEV_MySwr[0] = &DEV_Swr[0];
     SYS_MySwrMax = 1;
@@ -19,8 +12,9 @@ TEST_F(EngineeringPicture, TheMenuLeadsToAllThatThereIs)
     EXPECT_TRUE(MatchesGolden("engineering_menu"));
 }
 
-TEST_F(EngineeringPicture, AFontChartHasEveryGlyphWithItsCode)
+TEST(EngineeringPicture, AFontChartHasEveryGlyphWithItsCode)
 {
+    Harness_Reset();
     ASSERT_EQ(CreatePage(0x99960005), 0);
     EXPECT_TRUE(MatchesGolden("engineering_fonts"));
 }

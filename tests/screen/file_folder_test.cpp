@@ -4,37 +4,30 @@
 #include "table_page.h"
 #include "text.h"
 #include <filesystem>
-#include <utility>
 
 namespace fs = std::filesystem;
 constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
 
 struct FolderPictures : TablePage {
-    DEVICE* first_switcher = nullptr;
-    int switchers = 0;
     unsigned seed = 0; // of the next picture
 
     void SetUp() override
     {
         TablePage::SetUp();
-        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
-        switchers = std::exchange(SYS_MySwrMax, 1);
+        DEV_MySwr[0] = &DEV_Swr[0];
+        SYS_MySwrMax = 1;
         CopyText(DEV_Swr[0].id, "SWR000D001");
         fs::create_directories(FM_FOLDER);
-        FMCtrl3_Init();
     }
     void TearDown() override
     {
-        FMCtrl3_Finalize();
-        fs::remove_all(FM_FOLDER);
-        DEV_MySwr[0] = first_switcher;
-        SYS_MySwrMax = switchers;
         TablePage::TearDown();
+        fs::remove_all(FM_FOLDER);
     }
     static void Hub(const std::string& table, const std::string& row)
     {
-        std::string v = "Insert", t = "CS1." + table, r = row;
-        SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), 0, Arg(r.c_str()));
+        SendMessage(MSG_SHPTALLY, Arg("Insert"), Arg(("CS1." + table).c_str()), 0,
+                    Arg(row.c_str()));
     }
     // A sky that grows lighter towards a ground, in colours of the clip's own: 112 x 63, 24 bit.
     static void Thumbnail(const std::string& file, unsigned seed)
@@ -66,17 +59,15 @@ TEST_F(FolderPictures, Browser)
     Hub("ClipStoreFolder", "root/NEWS:1");
     Hub("ClipStoreFolder", "root/NEWS/ARCHIVE:1");
     Hub("ClipStoreFolder", "root/NEWS/WEATHER:1");
-    const struct {
-        const char* name;
-        int frames, exist, pair;
-    } clips[] = {{"HEADLINE", 2, 3, 0}, {"LOGO KEY", 1, 3, 1},
-                 {"OPENING", 3, 1, 0},  {"OTS LEFT", 1, 1, 1},
-                 {"SKYLINE", 1, 2, 0},  {"SPORT BUMPER", 3, 3, 0},
-                 {"STING", 2, 1, 1},    {"STUDIO WIDE NIGHT", 1, 1, 0},
-                 {"TRAFFIC", 2, 3, 0},  {"WEATHER LOOP", 3, 1, 0},
-                 {"WIPE", 2, 1, 1},     {"ZOOM IN", 1, 1, 0}};
-    for (const auto& c : clips)
-        Clip(c.name, c.frames, c.exist, c.pair);
+    static const std::tuple<const char*, int, int, int> clips[] = {
+        {"HEADLINE", 2, 3, 0}, {"LOGO KEY", 1, 3, 1},
+        {"OPENING", 3, 1, 0},  {"OTS LEFT", 1, 1, 1},
+        {"SKYLINE", 1, 2, 0},  {"SPORT BUMPER", 3, 3, 0},
+        {"STING", 2, 1, 1},    {"STUDIO WIDE NIGHT", 1, 1, 0},
+        {"TRAFFIC", 2, 3, 0},  {"WEATHER LOOP", 3, 1, 0},
+        {"WIPE", 2, 1, 1},     {"ZOOM IN", 1, 1, 0}};
+    for (const auto& [name, frames, exist, pair] : clips)
+        Clip(name, frames, exist, pair);
     SYS_MemoryFree = 2640;
     SYS_MemoryTotal = 3000;
     (void)Open(0x21120000);
@@ -86,8 +77,7 @@ TEST_F(FolderPictures, Browser)
     const Rect g = ff_grid(ff.area[0].parts);
     for (int n : {2, 7})
         (void)Touch(g.x1 + n % 4 * ff.area[0].parts.h_gap + 50, g.y1 + n / 4 * FF_CELL_H + 40);
-    for (int i = 0; i < 4; i++)
-        Pass(1000);
+    Paint();
     EXPECT_TRUE(MatchesGolden("file_folder"));
     SYS_MemoryFree = SYS_MemoryTotal = 0;
 }
@@ -104,8 +94,7 @@ TEST_F(FolderPictures, OutputsPlaybackAndTwoFolders)
                       "Output Status@FM2#2,/NEWS/LOGO KEY.SFH", "Play@FM2#0,0,0,0",
                       "Ancillary Enable@FM1#1,1", "Out Pair Select#FM1&2", "Pair@FM1&2#false"});
     (void)FF_ChangeDirectory(0, "/NEWS");
-    for (int i = 0; i < 4; i++)
-        Pass(1000);
+    Paint();
     EXPECT_TRUE(MatchesGolden("fmem_recall"));
 
     (void)Open(0x21130000);

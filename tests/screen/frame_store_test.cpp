@@ -13,19 +13,14 @@ struct StorePictures : TablePage {
     void SetUp() override
     {
         TablePage::SetUp();
-        DeviceStructure();
         FMCtrl_Quit();
         FMCtrl_InitClipStillList();
-        FMCtrl3_Init();
-        FL_Init_File();
         Fmem1_Reset();
         fs::create_directories(LOCAL);
     }
     void TearDown() override
     {
         (void)Leave();
-        FL_Init_File();
-        FMCtrl3_Finalize();
         FMCtrl_Quit();
         fs::remove_all(LOCAL);
         TablePage::TearDown();
@@ -44,10 +39,6 @@ struct StorePictures : TablePage {
         SDL_SaveBMP(s, (std::string(LOCAL) + name).c_str());
         FmemReg[number - 1].thumb = s; // small or not: the page asks for the file's
     }
-    static void Register(int number, const std::string& name)
-    {
-        Tell("16@Frame Mem@Status@File Name Sense#" + std::to_string(number) + ",81," + name);
-    }
     static void Hub(const char* table, const std::string& row)
     {
         SendMessage(MSG_SHPTALLY, Arg("Insert"), Arg(table), 0, Arg(row.c_str()));
@@ -57,22 +48,23 @@ struct StorePictures : TablePage {
 TEST_F(StorePictures, AClipAndItsFrame)
 {
     Tell("16@Frame Mem@Status@Max Register#300");
-    for (const char* clip : {"cut", "goal", "run", "wave"})
+    int number = 0;
+    for (const std::string clip : {"cut", "goal", "run", "wave"})
         for (int frame = 1; frame <= 6; frame++)
-            for (const char side : {'M', 'S'})
-                if (side == 'M' || clip[0] == 'g') {
-                    static int number = 0;
-                    Register(++number, side + std::string(clip) + "000" + std::to_string(frame));
-                    if (clip[0] == 'g' && side == 'M')
-                        Picture(number, frame);
-                }
+            for (const char* side : {"M", "S"}) {
+                if (*side == 'S' && clip != "goal")
+                    continue;
+                Tell("16@Frame Mem@Status@File Name Sense#" + std::to_string(++number) + ",81," +
+                     side + clip + "000" + std::to_string(frame));
+                if (*side == 'M' && clip == "goal")
+                    Picture(number, frame);
+            }
     Tell("Frame Mem@Clip@Ancillary Playback Enable#0,Mgoal,1");
     Pass(10);
     (void)Open(0x25210000);
     (void)Touch(170, 124 + 22 * 2 + 10);
-    Tell("Frame Mem@Recall@Recall Thumbnail@Select#FM3&4");
-    Tell("Frame Mem@Recall@Recall Thumbnail@FM3#Mgoal0002");
-    Tell("Frame Mem@Recall@Recall Thumbnail@FM8#Mbackdrop");
+    TellAll("Frame Mem@Recall@Recall Thumbnail@",
+            {"Select#FM3&4", "FM3#Mgoal0002", "FM8#Mbackdrop"});
     Pass(200);
     EXPECT_TRUE(MatchesGolden("frame_store_clip"));
 }

@@ -16,7 +16,6 @@ struct InstallPictures : TablePage {
         (void)Leave();
         CopyText(GL_ImportDataPath, "");
         CopyText(GL_Version, "--");
-        Device_Init();
         stick.reset();
         TablePage::TearDown();
     }

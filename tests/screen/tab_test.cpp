@@ -8,15 +8,6 @@
 #include "tab_page.h"
 
 struct TabPictures : TabPage {
-    void TearDown() override
-    {
-        VF_Create(nullptr, 0);
-        HF_Create(nullptr, 0);
-        PS_Create(nullptr, 0);
-        DW_Create(nullptr, 0);
-        KP_Create(nullptr, 0);
-        TabPage::TearDown();
-    }
     void Tree(std::initializer_list<const char*> tree, uint32_t id, int kind)
     {
         SetTree(tree, id, kind);
@@ -26,16 +17,14 @@ struct TabPictures : TabPage {
 
 TEST_F(TabPictures, LeftTabsOfAKey)
 {
-    static const VF_TBL tabs[] = {
-        {.id = 1, .caption = "Key1", .page = 0x11110000},
-        {.id = 2, .caption = "Key2", .page = 0x11210000},
-        {.id = 3, .caption = "Key3", .page = 0x11310000},
-        {.id = 4, .caption = "Key4", .page = 0x11410000},
-        {.id = 5, .caption = "Wipe", .page = 0x11510000},
-        {.id = 6, .caption = "Hidden", .page = 0x11610000},
-        {.id = 7, .caption = "Misc", .page = 0x11710000},
-        VF_END,
-    };
+    VF_TBL tabs[8] = {};
+    int id = 0;
+    for (const char* caption : {"Key1", "Key2", "Key3", "Key4", "Wipe", "Hidden", "Misc"}) {
+        tabs[id] = {
+            .id = id + 1, .caption = caption, .page = 0x11110000 + 0x100000u * unsigned(id)};
+        id++;
+    }
+    tabs[id] = VF_END;
     Tree({"M/E-1", "Key2", "Type"}, 0x11210000, OBJ_VF);
     VF_Create(tabs, 2);
     VF_SetDisplay(6, 0);
@@ -90,18 +79,16 @@ TEST_F(TabPictures, ListOfPaths)
     };
     Tree({"Key Frame", "M/E-1"}, 0x61130000, OBJ_KP);
     KP_Create(rows, 0);
-    static const std::pair<const char*, const char*> tallies[] = {
-        {"All@Xpt", "Mixed"},
-        {"All@Hue", "Short"},
-        {"All@Curve", "Linear"},
-        {"Bkgd/Util@Xpt", "Change"},
-        {"Bkgd/Util@Hue", "CCW"},
-        {"Key1@Xpt", "Hold"},
-        {"Key1@Curve", "Spline"},
-        {"Key1@Curve@Spline@Tens", "0.5"},
-        {"Key1@Curve@Spline@Cont", "-1"},
-        {"Wipe@Curve", "Step"},
-    };
+    static const std::pair<const char*, const char*> tallies[] = {{"All@Xpt", "Mixed"},
+                                                                  {"All@Hue", "Short"},
+                                                                  {"All@Curve", "Linear"},
+                                                                  {"Bkgd/Util@Xpt", "Change"},
+                                                                  {"Bkgd/Util@Hue", "CCW"},
+                                                                  {"Key1@Xpt", "Hold"},
+                                                                  {"Key1@Curve", "Spline"},
+                                                                  {"Key1@Curve@Spline@Tens", "0.5"},
+                                                                  {"Key1@Curve@Spline@Cont", "-1"},
+                                                                  {"Wipe@Curve", "Step"}};
     for (const auto& [path, value] : tallies)
         Tally((std::string("Key Frame@M/E-1@") + path).c_str(), value);
     Touch(150, 104 + 50); // the caption of the second row is felt

@@ -515,7 +515,7 @@ TEST_F(FileStore, PicturesAreGotOneAtATime)
     EXPECT_EQ(told.size(), 1u);
 }
 
-TEST_F(FileStore, AnExportComesAsTheWantedKind)
+TEST_F(FileStore, AnExportComesAsTheWantedKindFromAStoreThatIsThere)
 {
     AddExport("SWR000D001", "x.TIF", "CS1");
     (void)HubSent();
@@ -525,26 +525,25 @@ TEST_F(FileStore, AnExportComesAsTheWantedKind)
     Listed("/A/x.TIF", "Get");
     EXPECT_EQ(SentOne(), "Remote Access@SCP Dir Get#L1,SWR000D001:" WORK
                          "FRAMEMEM/CS1/A/x.TIF,MYHOST:/mnt/usb/usb1/x.TIF,FRAMEMEM");
+    Answer(1, "OK");
+    Store("STATUS::Standby");
+    EXPECT_EQ(told.size(), 1u);
+    Scp_TrnasferList[3] = {}; // as at process start
+    AddExport("SWR000D002", "x.TIF", "CS2");
+    EXPECT_EQ(told.size(), 2u);
+    EXPECT_STREQ(Scp_TrnasferList[3].host, "SWR000D002:");
 }
 
 TEST_F(FileStore, AnExportNamesItsPictureWhoeverHoldsTheStore)
 {
     FILEXFERLIST* puts = nullptr;
-    File_XferList_SCPAdd_FM(&puts, "MYHOST:/d/p.SFH", "SWR000D001:/p.SFH", "FRAMEMEM", "CS1", 0, "",
-                            0, 0);
+    AddPicture("p", true);
+    std::swap(list, puts);
     File_TransSCPdirPutList_FM(&puts, List, 0);
     Store("USER_ID::MENU1");
     AddExport("SWR000D001", "q.TIF", "CS1");
     EXPECT_THAT(list->cmd, HasSubstr(",SWR000D001:" WORK "FRAMEMEM/CS1/A/x.TIF,"));
     File_XferList_RemoveAll(&puts);
-}
-
-TEST_F(FileStore, AnExportFromAStoreThatWasNeverThereFails)
-{
-    Scp_TrnasferList[3] = {}; // as at process start
-    AddExport("SWR000D002", "x.TIF", "CS2");
-    EXPECT_EQ(told.size(), 1u);
-    EXPECT_STREQ(Scp_TrnasferList[3].host, "SWR000D002:");
 }
 
 // Folders first, each once in a row; the files one at a time, each checked by the store.
@@ -569,16 +568,15 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
     Answer(7, "NG(x)");
     EXPECT_STREQ(At(2)->mesg, "z.SFH: NG([ERROR] Make Folder failed.)");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Standby"));
-}
-
-TEST_F(FileStore, APicturesOwnFolderIsNoneToBeMade)
-{
+    // A picture's own folder is none to be made.
+    Store("STATUS::Standby");
     BeginPut({"A/m.SFH/m", "A/n.SFH/n"});
-    EXPECT_THAT(SentOne(), HasSubstr("Make Dir#L4"));
-    Answer(4, "OK");
+    const uint32_t first = list->label;
+    EXPECT_THAT(SentOne(), HasSubstr("Make Dir#L" + std::to_string(first + 3)));
+    Answer(first + 3, "OK");
     (void)Sent();
-    Answer(1, "NG(x)");
-    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,"));
+    Answer(first, "NG(x)");
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L" + std::to_string(first + 1) + ","));
 }
 
 TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)
@@ -614,12 +612,12 @@ TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)
 TEST_F(FileStore, TheStoreHearsTheFormatOfItsSwitcher)
 {
     EXPECT_EQ(file_scp_get_systemformat("SWR000D001:"), 4);
-    SYS_Format_Size = 2;
     SYS_Format_Freq = 5;
     SYS_Format_Scan = 2;
-    EXPECT_EQ(file_scp_get_systemformat(nullptr), 11);
-    SYS_Format_Size = 4;
-    EXPECT_EQ(file_scp_get_systemformat(nullptr), -1);
+    for (const auto& [size, format] : {std::pair{2, 11}, {4, -1}}) {
+        SYS_Format_Size = size;
+        EXPECT_EQ(file_scp_get_systemformat(nullptr), format);
+    }
     DEVICE& swr = DEV_Swr[0];
     swr.format_freq = 5;
     swr.format_scan = 2;

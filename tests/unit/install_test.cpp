@@ -14,7 +14,6 @@ struct Install : testing::Test {
     }
     void TearDown() override
     {
-        Log_Init(nullptr, LOG_FILE_SIZE);
         stick.reset();
         Harness_Reset();
     }

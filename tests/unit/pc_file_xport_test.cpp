@@ -263,9 +263,6 @@ struct ClipXportPage : XportPage {
     void SetUp() override
     {
         XportPage::SetUp();
-        FL_Init_File();
-        FMCtrl3_Init();
-        GL_ClipStoreSupportMode = 1;
         CopyText(DEV_Swr[0].id, "SWR000D001");
         StoreIsThere();
         OpenWith(CLIPS, {"still.TIF", "intro#000000.TIF", "intro#000001.TIF"});
@@ -274,12 +271,6 @@ struct ClipXportPage : XportPage {
         Clip("goal", 25);
         Clip("NEWS/still", 1);
         Clip("NEWS/A/deep", 2);
-    }
-    void TearDown() override
-    {
-        FMCtrl3_Finalize();
-        FL_Init_File();
-        XportPage::TearDown();
     }
 };
 

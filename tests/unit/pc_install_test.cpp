@@ -21,10 +21,8 @@ struct NewInstall : TablePage {
     }
     void TearDown() override
     {
-        Log_Init(nullptr, LOG_FILE_SIZE);
         CopyText(GL_ImportDataPath, "");
         CopyText(GL_Version, "--");
-        Device_Init();
         stick.reset();
         TablePage::TearDown();
     }
