@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <numeric>
@@ -31,6 +32,7 @@ constexpr int RETRIES = 5;
 constexpr int LOOKS_A_PASS = 128;   // files
 constexpr int FRAMES_BY_NAME = 128; // of a clip that has no more, each name is tried
 constexpr int QUIET_MS = 5000;      // without a new element: the tree has been told
+constexpr time_t FRESH_S = 3;       // what came so shortly before a trim was told may come after it
 constexpr long SMALL_BYTES = 6966;  // 64 x 36
 constexpr long LARGE_BYTES = 21222; // 112 x 63
 constexpr char FOLDER[] = "/mnt/sys/FM/";
@@ -123,6 +125,13 @@ static bool has_frame(const ELEMENT& e, int frame)
     char path[PATH_SIZE];
     path_of_frame(path, e, frame);
     return is_thumbnail_file(path);
+}
+
+// A clock that was set back makes all fresh for a while: then they are fetched once more.
+static bool is_fresh(const char* path)
+{
+    struct stat s;
+    return stat(path, &s) == 0 && s.st_mtime >= time(nullptr) - FRESH_S;
 }
 
 static void remove_frame(const ELEMENT& e, int frame)
@@ -255,8 +264,9 @@ void clip_thumbnails_same(const ELEMENT& e)
         (void)write_note(e); // at the worst they are fetched once more
 }
 
-// The note says the old length until all have their new numbers: where the program ends in between,
-// they are fetched anew.
+// The store tells of a trim when it is done: a frame that was fetched in between has its new number
+// already. The note says the old length until all have their new numbers: where the program ends in
+// between, they are fetched anew.
 bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
 {
     if (!e.thumbnail || !DEV_MySwr[0])
@@ -271,7 +281,7 @@ bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
         char to[PATH_SIZE];
         path_of_frame(from, e, frame);
         path_of_frame(to, kept, frame - first);
-        if (frame < first || frame > last)
+        if (frame < first || frame > last || is_fresh(from))
             (void)unlink(from);
         else if (strcmp(from, to) != 0 && rename(from, to) != 0)
             (void)unlink(to); // the frame that had this number before

@@ -32,6 +32,7 @@
 #include <SDL.h>
 #include <algorithm>
 #include <arpa/inet.h>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -363,7 +364,7 @@ static int FrameOf(int number)
     return text.empty() ? -1 : text[0];
 }
 
-// Pictures that arrive, each whole.
+// Pictures that arrive, each whole, long before the trim: what just came is fetched anew.
 static void PutFrames()
 {
     constexpr int BYTES = 6966;
@@ -371,6 +372,7 @@ static void PutFrames()
         char name[16];
         PrintText(name, "#%06d.THM", i);
         std::ofstream(CLIP_FILES, std::ios::binary) << std::string(BYTES, char(i));
+        fs::last_write_time(CLIP_FILES, fs::file_time_type::clock::now() - std::chrono::hours(1));
         fs::rename(CLIP_FILES, CLIP_FILES + name);
     }
 }

@@ -65,9 +65,11 @@ struct ClipStore : ClipStoreTest<BusTest> {
         fs::create_directories(FM_FOLDER);
         std::ofstream(FM_FOLDER + name, std::ios::binary) << text;
     }
-    static void Put(const std::string& name, size_t bytes)
+    static void Put(const std::string& name, size_t bytes, int seconds_ago = 10)
     {
         PutText(name, std::string(bytes, 't'));
+        fs::last_write_time(FM_FOLDER + name,
+                            fs::file_time_type::clock::now() - std::chrono::seconds(seconds_ago));
     }
     // The server carries a fetch out.
     static void Answer(const Get& get, const std::string& reply)
@@ -365,6 +367,7 @@ TEST_F(ClipStore, OfALongClipOnlyTheFilesThereAreTouched)
                              "a.SFH#000301.THM", "a.SFH#000299.THM", "a2.SFH#000300.THM"})
         Put(name, 6966);
     Put("a.SFH#000302.THM", 21222);
+    Put("a.SFH#000303.THM", 6966, 2); // it may have come after the store's trim
     Clip("a", FRAMES, 1);
     Clip("a2", 400, 1);
     const clock_t begun = clock();
