@@ -1,10 +1,9 @@
 // The effect and shotbox pages with registers of every state.
 #include "table_page.h"
 
-struct EffectPictures : TablePage {
-};
+using EffectPictures = TablePage;
 
-TEST_F(EffectPictures, Attributes)
+TEST_F(EffectPictures, EffectsAndShotboxes)
 {
     TellAll("Effect@Effect@Attribute@List@",
             {"M/E-1#1,S,OPENING,U,N,0", "M/E-1#2,S,SLIDE IN,U,D,45", "M/E-1#3,S,LOGO LOOP,L,N,0",
@@ -15,10 +14,7 @@ TEST_F(EffectPictures, Attributes)
     Tell("Effect@Effect@Attribute@Temporary Duration@M/E-1#30");
     Paint();
     EXPECT_TRUE(MatchesGolden("effect_attribute"));
-}
 
-TEST_F(EffectPictures, ShotboxStore)
-{
     TellAll("Shotbox@Register@Store/Recall@List#",
             {"1,INTRO,U,A,1,S12,,,,99,,,,,,,5,5,,,,,,,2,3,,,,,,,250,,,,,,,,,,,,,,,S7",
              "2,BREAK,L,,,,,,,2,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,7,S1"});

@@ -21,32 +21,23 @@ struct SnapshotPictures : TablePage {
     }
 };
 
-TEST_F(SnapshotPictures, Attributes)
+TEST_F(SnapshotPictures, AttributesOverviewHoldListsAndMaster)
 {
+    Open(PAGE_SNAPSHOT_XPTHOLD);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("snapshot_xpthold"));
+
     Open(PAGE_SNAPSHOT_ATTRIBUTE);
     Touch(200, 130); // the second row
     Tell("Snapshot@Snapshot@Attribute@M/E-1@Temporary Duration#45");
     Paint();
     EXPECT_TRUE(MatchesGolden("snapshot_attribute"));
-}
 
-TEST_F(SnapshotPictures, Overview)
-{
     Open(0x63000000);
     Touch(119 + 58 + 10, 164 + 2 * 26 + 10); // 12
     Paint();
     EXPECT_TRUE(MatchesGolden("snapshot_status"));
-}
 
-TEST_F(SnapshotPictures, CrosspointHold)
-{
-    Open(PAGE_SNAPSHOT_XPTHOLD);
-    Paint();
-    EXPECT_TRUE(MatchesGolden("snapshot_xpthold"));
-}
-
-TEST_F(SnapshotPictures, TwoLists)
-{
     Open(0x63230000);
     LS_SetMS(1, 1);
     for (const int row : {0, 1, 2, 4})
@@ -54,10 +45,7 @@ TEST_F(SnapshotPictures, TwoLists)
     LS_SetNowLine(2, 7);
     Paint();
     EXPECT_TRUE(MatchesGolden("snapshot_copy"));
-}
 
-TEST_F(SnapshotPictures, MasterEdit)
-{
     Open(0x63110001);
     Touch(138 + 2 * 70 + 10, 112);
     Touch(138 + 3 * 70 + 10, 112);

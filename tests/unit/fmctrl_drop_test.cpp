@@ -292,7 +292,7 @@ TEST_F(CommandFolder, AllClearAnswersWhenTheDeletionHasEnded)
     EXPECT_EQ(FileText(folder + "allclear.res"), "OK\n") << "5 seconds without any sign of it";
 }
 
-TEST_F(CommandFolder, EveryMarkerIsAnsweredOnce)
+TEST_F(CommandFolder, EveryMarkerThatIsAPlainFileIsAnsweredOnce)
 {
     static const std::pair<std::string, const char*> cases[] = {
         {"makelog", ""},
@@ -310,6 +310,23 @@ TEST_F(CommandFolder, EveryMarkerIsAnsweredOnce)
         EXPECT_FALSE(Exists(folder + name + ".res")) << name;
     }
     EXPECT_FALSE(Exists("/tmp/owned"));
+
+    fs::create_directory(folder + "allclear.cmd");
+    fs::create_symlink("/etc/hostname", folder + "makelog.cmd");
+    EXPECT_THAT(Look(), IsEmpty());
+    EXPECT_TRUE(Exists(folder + "allclear.cmd"));
+    EXPECT_FALSE(Exists(folder + "makelog.res"));
+    fs::remove(folder + "allclear.cmd");
+    fs::remove(folder + "makelog.cmd");
+
+    // A reply does not go where a link in its place leads.
+    std::ofstream("/tmp/precious") << "precious";
+    for (const char* name : {"nfsunmount.res", "nfsunmount.res.new"})
+        fs::create_symlink("/tmp/precious", folder + name);
+    Mark("nfsunmount.cmd");
+    (void)Look();
+    EXPECT_EQ(FileText("/tmp/precious"), "precious");
+    EXPECT_EQ(FileText(folder + "nfsunmount.res"), "Error\n");
 }
 
 TEST_F(CommandFolder, ALoadAndASaveOfAllFollowEachOther)
@@ -332,24 +349,4 @@ TEST_F(CommandFolder, ALoadAndASaveOfAllFollowEachOther)
     }
     EXPECT_THAT(saved, Contains(HasSubstr("MYHOST:/tmp/FTPIF/Export/")));
     EXPECT_EQ(FileText(folder + "allsave.res"), "Error\n") << "the hub is not there";
-}
-
-TEST_F(CommandFolder, WhatIsNoPlainFileStaysAndDoesNothing)
-{
-    fs::create_directory(folder + "allclear.cmd");
-    fs::create_symlink("/etc/hostname", folder + "makelog.cmd");
-    EXPECT_THAT(Look(), IsEmpty());
-    EXPECT_TRUE(Exists(folder + "allclear.cmd"));
-    EXPECT_FALSE(Exists(folder + "makelog.res"));
-    fs::remove(folder + "allclear.cmd");
-    fs::remove(folder + "makelog.cmd");
-
-    // A reply does not go where a link in its place leads.
-    std::ofstream("/tmp/precious") << "precious";
-    for (const char* name : {"nfsunmount.res", "nfsunmount.res.new"})
-        fs::create_symlink("/tmp/precious", folder + name);
-    Mark("nfsunmount.cmd");
-    (void)Look();
-    EXPECT_EQ(FileText("/tmp/precious"), "precious");
-    EXPECT_EQ(FileText(folder + "nfsunmount.res"), "Error\n");
 }

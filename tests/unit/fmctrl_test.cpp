@@ -72,7 +72,7 @@ TEST_F(FrameMemoryLists, AStillIsAPairOfTheLastSidesThatWereTold)
     EXPECT_THAT(Stills(), ElementsAre("logo: 1 -", "new: 0 -"));
 }
 
-TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndTheShownOneMovesWithinIt)
+TEST_F(FrameMemoryLists, TwoFramesMakeAClipWithAShownOneAndAncillaryOfItsName)
 {
     Store({"Mabc0002"});
     EXPECT_THAT(Clips(), IsEmpty());
@@ -102,10 +102,8 @@ TEST_F(FrameMemoryLists, TwoFramesMakeAClipAndTheShownOneMovesWithinIt)
     EXPECT_EQ(FMCtrl_MoveClipFrame(0, 0, INT_MIN), 0);
     EXPECT_EQ(FMCtrl_GetClipFrameIdx(0, 0), 0);
     EXPECT_EQ(FMCtrl_MoveClipFrame(1, 0, 1), -1);
-}
 
-TEST_F(FrameMemoryLists, AncillaryIsOfTheClipOfThatName)
-{
+    Max(300);
     Store({"Mabc0001", "Mabc0002", "Mxyz0001", "Mxyz0002", "Mlogo"});
     (void)Changes();
     for (const char* value : {"0,Mxyz,1", "0,Mnone,1", "0,M"})
@@ -156,7 +154,7 @@ TEST_F(FrameMemoryLists, RegisterStatusAsksForTheSetAndEmptiesTheClearThatThereA
     EXPECT_STREQ(FMCtrl_GetRegName(0), "Ma name t");
 }
 
-TEST_F(FrameMemoryLists, MaxRegisterBeginsAnew)
+TEST_F(FrameMemoryLists, MaxRegisterBeginsAnewAndTheExtendedStoreIsEmptiedInSlices)
 {
     Store({"Mabc0001", "Mabc0002"});
     (void)Changes();
@@ -177,10 +175,8 @@ TEST_F(FrameMemoryLists, MaxRegisterBeginsAnew)
     EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 0), -1);
     EXPECT_STREQ(FMCtrl_GetStillFolderName(0), "");
     EXPECT_FALSE(FmemReg || FmemReg2);
-}
 
-TEST_F(FrameMemoryLists, AllAtOnceIsEmptiedInSlices)
-{
+    Max(300);
     for (int n = 1; n <= 300; n++)
         (void)Sense(16384 + n, "81", "Mx" + std::to_string(n));
     Store({"Mmain"});

@@ -133,7 +133,7 @@ TEST_F(MacroFiles, AFileWithoutItsHeaderIsNoneAndAStoreThatFailsLeavesTheOldOne)
     EXPECT_NE(access((std::string(PATH) + ".new").c_str(), F_OK), 0);
 }
 
-TEST_F(MacroFiles, LimitsCutWhatIsTooMuch)
+TEST_F(MacroFiles, LimitsCutWhatIsTooMuchAndTheCursorOutlivesItsLine)
 {
     ASSERT_EQ(Read(lines(1023, "Event?,MECut,ME?,P/P") + "Event?,MECut,ME?,M/E-1\n"), 0);
     EXPECT_EQ(list.count, 1023);
@@ -147,10 +147,7 @@ TEST_F(MacroFiles, LimitsCutWhatIsTooMuch)
         EXPECT_EQ(list.pHead->Data[0], std::string("P/P").substr(0, size_t(3 - more))) << more;
         EXPECT_EQ(list.count, 2) << "the rest of a long line is no line";
     }
-}
 
-TEST_F(MacroFiles, TheCursorOutlivesItsLine)
-{
     ASSERT_EQ(Read(lines(3, "Event?,MECut,ME?,P/P")), 0);
     MacroEvent* const last = list.pTail;
     list.pMacroEventEditList = last->pPrev;

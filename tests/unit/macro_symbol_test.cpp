@@ -5,7 +5,7 @@
 #include <vector>
 
 // A word that the grammar could not carry would be lost in a file.
-TEST(MacroSymbols, EveryWordFitsTheFile)
+TEST(MacroSymbols, EveryWordFitsTheFileAndEverySymbolIsAnEventThatMayFollowOrMayNot)
 {
     MacroSymbols_ForSystem();
     for (const auto& row : SymbolParamTable)
@@ -23,11 +23,7 @@ TEST(MacroSymbols, EveryWordFitsTheFile)
             }
             EXPECT_LE(i, 97);
         }
-}
 
-TEST(MacroSymbols, EverySymbolIsAnEventAndMayFollowOrMayNot)
-{
-    MacroSymbols_ForSystem();
     int may_follow = 0;
     for (int i = 1; i <= MACRO_SYMBOLS; i++) {
         EXPECT_GT(get_param_count(EVNT[i].paramvalue), 0) << EVNT[i].paramvalue;
@@ -57,7 +53,7 @@ static const MACROPARAM& parameter(const char* symbol, const char* name)
     return none;
 }
 
-TEST(MacroSymbols, ValuesAreCheckedByTheirKind)
+TEST(MacroSymbols, ValuesAreCheckedByTheirKindAndAPatternLimitShowsWhatItDoes)
 {
     MacroSymbols_ForSystem();
     static const struct {
@@ -77,6 +73,15 @@ TEST(MacroSymbols, ValuesAreCheckedByTheirKind)
         for (const char* text : c.others)
             EXPECT_FALSE(MacroValue_IsLegal(parameter(c.symbol, c.name), text)) << text;
     }
+
+    EXPECT_STREQ(MacroValue_Shown("PatternLimit", 1, "On"), "ToOff");
+    EXPECT_STREQ(MacroValue_Shown("PatternLimit", 1, "Off"), "ToOn");
+    EXPECT_STREQ(MacroValue_Shown("AuxMix", 1, "On"), "On");
+    EXPECT_STREQ(MacroValue_Shown("PatternLimit", 0, "On"), "On");
+    for (const char* stored : {"On", "Off", "-", "rubbish"})
+        EXPECT_STREQ(
+            MacroValue_Stored("PatternLimit", 1, MacroValue_Shown("PatternLimit", 1, stored)),
+            stored);
 }
 
 TEST(MacroSymbols, TheSystemDecidesWhichWordsThereAre)
@@ -100,16 +105,4 @@ TEST(MacroSymbols, TheSystemDecidesWhichWordsThereAre)
         EXPECT_TRUE(has("AuxXpt", "AuxBus", ("Aux" + std::to_string(bus)).c_str())) << bus;
     EXPECT_FALSE(has("MEXpt", "ME", "M/E-1 Sub"));
     EXPECT_FALSE(has("Snapshot", "Region", "M/E-1 Sub"));
-}
-
-TEST(MacroSymbols, APatternLimitShowsWhatItDoes)
-{
-    EXPECT_STREQ(MacroValue_Shown("PatternLimit", 1, "On"), "ToOff");
-    EXPECT_STREQ(MacroValue_Shown("PatternLimit", 1, "Off"), "ToOn");
-    EXPECT_STREQ(MacroValue_Shown("AuxMix", 1, "On"), "On");
-    EXPECT_STREQ(MacroValue_Shown("PatternLimit", 0, "On"), "On");
-    for (const char* stored : {"On", "Off", "-", "rubbish"})
-        EXPECT_STREQ(
-            MacroValue_Stored("PatternLimit", 1, MacroValue_Shown("PatternLimit", 1, stored)),
-            stored);
 }

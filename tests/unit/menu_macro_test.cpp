@@ -222,7 +222,7 @@ TEST_F(MenuMacro, MeasuredPausesGoBetweenTouches)
                                         "Event@Pause Set#1.5\n", "put C#3\n", "put D#4\n"));
 }
 
-TEST_F(MenuMacro, AFileIsWrittenAsItIsRead)
+TEST_F(MenuMacro, AFileIsWrittenAsItIsReadAlsoBeforeTheStartHasReadIt)
 {
     const std::string file = "#FName: mm_reg07.tmp.##################\n"
                              "Header:OPENING,1,4\nInterval:250\n"
@@ -237,17 +237,14 @@ TEST_F(MenuMacro, AFileIsWrittenAsItIsRead)
     EXPECT_EQ(File(7), file);
     EXPECT_EQ(mm_macro_tmpfile_save("MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"), 0);
     EXPECT_EQ(FileText(Path(TRANSFER, 7)), file);
-}
 
-TEST_F(MenuMacro, ARegisterIsNotTakenForEmptyBeforeTheStartHasReadIt)
-{
-    const std::string file = "Header:OPENING,1,1\nEvent:put A#1\n";
-    Write(BACKUP, 8, file);
+    const std::string opening = "Header:OPENING,1,1\nEvent:put A#1\n";
+    Write(BACKUP, 8, opening);
     EXPECT_STREQ(mm_register_table(7).name, "OPENING");
-    Write(BACKUP, 9, file);
+    Write(BACKUP, 9, opening);
     mm_edit_open(9);
     EXPECT_EQ(mm_current_register_store(9), -1) << "locked";
-    Write(BACKUP, 10, file);
+    Write(BACKUP, 10, opening);
     mm_lock_exec(10, 10, false);
     EXPECT_THAT(File(10), HasSubstr("Header:OPENING,0,1\n"));
 }
@@ -360,19 +357,7 @@ TEST_F(MenuMacro, ARunHoldsForNothingButALinkThatIsDown)
     EXPECT_THAT(Run(1000), IsEmpty());
 }
 
-// It stands where the page may end the run that sends it.
-TEST_F(MenuMacro, ALocalActionMayBeginAnotherRun)
-{
-    Load(3, "Event:put C#3\n");
-    Load(2, "Interval:100\nEvent:put A#1\nLocal:LOCAL@Menu Macro@Register@Exec@Recall_Run\n"
-            "Contnue:put B#2\n");
-    (void)Open(EXEC);
-    Cursor(1, 2);
-    mm_macro_run(2);
-    EXPECT_THAT(Run(1000), ElementsAre("0:put A#1", HasSubstr(":put C#3")));
-}
-
-TEST_F(MenuMacro, ARunThatIsRecycledIsRecordedAsItRan)
+TEST_F(MenuMacro, ARunIsRecordedAsItRanAndMayBeginAnother)
 {
     Load(2, "Interval:100\nDME CH:00000001,00000000\nEvent:put A#1\nContnue:put B#2\n"
             "Event:put C#3\nPause:0.4\nEvent:put D#4\n");
@@ -381,6 +366,17 @@ TEST_F(MenuMacro, ARunThatIsRecycledIsRecordedAsItRan)
     mm_macro_run(2);
     (void)Run(2000);
     EXPECT_EQ(Recorded(), Events(reg_data[1].register_data)) << "without the channels' commands";
+
+    // A local action stands where the page may end the run that sends it.
+    SL_Reg_Recycle = 0;
+    mm_edit_close();
+    Load(3, "Event:put C#3\n");
+    Load(2, "Interval:100\nEvent:put A#1\nLocal:LOCAL@Menu Macro@Register@Exec@Recall_Run\n"
+            "Contnue:put B#2\n");
+    (void)Open(EXEC);
+    Cursor(1, 2);
+    mm_macro_run(2);
+    EXPECT_THAT(Run(1000), ElementsAre("0:put A#1", HasSubstr(":put C#3")));
 }
 
 TEST_F(MenuMacro, TheEditorEditsAndStores)

@@ -44,7 +44,7 @@ struct TimelinePage : KeyframePage {
     }
 };
 
-TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPainted)
+TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPaintedAndItsNameBringsTheKeysOfARun)
 {
     Smear();
     TDL_FillRectS(50, 110, 50, 110, 0x123456); // in the first row's block
@@ -59,6 +59,12 @@ TEST_F(TimelinePage, OnlyTheBarOfTheRowThatMovesIsPainted)
     Pass(1000);
     EXPECT_TRUE(IsPainted(2));
     EXPECT_FALSE(IsPainted(3));
+
+    for (const auto& [x, y, has_keys] :
+         {std::tuple{50, 70, false}, {150, 300, false}, {50, 300, true}}) {
+        Press(x, y);
+        EXPECT_EQ(Pane_GetActiveID() != 0, has_keys) << x << "," << y;
+    }
 }
 
 TEST_F(TimelinePage, TheKnobScrollsAsFarAsThereAreRows)
@@ -139,15 +145,6 @@ TEST_F(TimelinePage, RowsArePaintedOnceTheirIntervalIsOver)
     // What was painted is not painted again.
     TDL_FillRect(ROWS.x1, ROWS.y1, ROWS.x2, ROWS.y2, 0x123456);
     EXPECT_THAT(Seen(ROWS), Each(0x123456u));
-}
-
-TEST_F(TimelinePage, ATouchOnTheNamesBringsTheKeysOfARun)
-{
-    for (const auto& [x, y, has_keys] :
-         {std::tuple{50, 70, false}, {150, 300, false}, {50, 300, true}}) {
-        Press(x, y);
-        EXPECT_EQ(Pane_GetActiveID() != 0, has_keys) << x << "," << y;
-    }
 }
 
 TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
@@ -361,7 +358,7 @@ TEST_F(RegionPage, EntryAndExitTellThePanel)
         EXPECT_THAT(sent, Contains("read " + TENKEY + n));
 }
 
-TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
+TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKeyThatRubbishDoesNotChange)
 {
     TenKey(1, "M/E-1,M/E-2,No Assign,P/P");
     TenKey(7, "User3,DME1,,");
@@ -374,6 +371,16 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKey)
     EXPECT_THAT(Selection(), ElementsAre(ENABLE + "User3#true"));
     Key(22);
     EXPECT_THAT(Selection(), IsEmpty());
+
+    Key(1);
+    TenKey(1, "M/E-1,,,");
+    for (const char* number : {"0", "24", "-1", "", "x", "99999999999"})
+        Tally(TENKEY + number, "1,0,P/P,,,");
+    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "M/E-1#false"));
+    for (const char* regions : {",,,", "No Assign,,,", "M/E-9,,,", "M/E-1x"}) {
+        TenKey(1, regions);
+        EXPECT_THAT(Selection(), IsEmpty()) << regions;
+    }
 }
 
 TEST_F(RegionPage, TheLampsFollowTheSelection)
@@ -411,18 +418,6 @@ TEST_F(RegionPage, WhatTheModeTakesAwayOrALockHoldsTakesNoPress)
     EXPECT_THAT(Selection(), IsEmpty());
     Key(2);
     EXPECT_THAT(Sent(), IsEmpty());
-}
-
-TEST_F(RegionPage, RubbishOnTheKeysIsNoAssign)
-{
-    TenKey(1, "M/E-1,,,");
-    for (const char* number : {"0", "24", "-1", "", "x", "99999999999"})
-        Tally(TENKEY + number, "1,0,P/P,,,");
-    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "M/E-1#false"));
-    for (const char* regions : {",,,", "No Assign,,,", "M/E-9,,,", "M/E-1x"}) {
-        TenKey(1, regions);
-        EXPECT_THAT(Selection(), IsEmpty()) << regions;
-    }
 }
 
 TEST_F(RegionPage, TheNewestPanelHasItsKeysOnTwoModules)
