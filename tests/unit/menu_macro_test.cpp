@@ -5,9 +5,7 @@
 #include "netio.h"
 #include "pane.h"
 #include "pc_file_dual.h"
-#include "pc_file_kind.h"
 #include "pc_menu_macro_edit.h"
-#include "pc_register.h"
 #include "table_page.h"
 #include "text.h"
 #include <filesystem>

@@ -4,13 +4,10 @@
 #include "a_fm.h"
 #include "clip_store.h"
 #include "display.h"
-#include "netio.h"
 #include "page_table/fmem_clip.h"
-#include "pane.h"
 #include "pane_private.h"
 #include "pc_fmem.h"
 #include "table_page.h"
-#include "tdl.h"
 
 const std::string TREE = FM_TREE, PUT = "put " + TREE;
 

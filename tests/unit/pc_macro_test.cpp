@@ -1,8 +1,6 @@
 // The pages of the macro registers and the offline editor: what goes over the wire, what the lists
 // show, what stands in the file.
 #include "command.h"
-#include "file.h"
-#include "file_scp.h"
 #include "netio.h"
 #include "pc_file_dual.h"
 #include "pc_macro.h"

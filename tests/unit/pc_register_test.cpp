@@ -1,12 +1,10 @@
 // The pages of the stored registers: what goes over the wire for every kind and every key, and what
 // the lists show of the mirror.
 #include "colours.h"
-#include "pane.h"
 #include "pane_private.h"
 #include "pc_register.h"
 #include "pc_snapshot.h"
 #include "pc_snapshot_hold.h"
-#include "register_region.h"
 #include "table_page.h"
 #include <array>
 #include <cstring>
