@@ -25,12 +25,9 @@ def middle(rect):
 
 def key_of(pad, key):
     """The middle of a key of a ten-key window whose zero stands at pad."""
-    row_and_column = {"0": (0, 0), ".": (0, 1), "+/-": (0, 2), "Enter": (0, 3), "Cancel": (1, 3)}
-    if key in row_and_column:
-        row, column = row_and_column[key]
-    else:
-        row, column = (int(key) + 2) // 3, (int(key) - 1) % 3
-    return pad[0] + 54 * column + 24, pad[1] - 59 * row + 24
+    rows = ["0", ".", "+/-", "Enter"], ["1", "2", "3"], ["4", "5", "6"], ["7", "8", "9"]
+    row, keys = next((row, keys) for row, keys in enumerate(rows) if key in keys)
+    return pad[0] + 54 * keys.index(key) + 24, pad[1] - 59 * row + 24
 
 
 class Objects(DeskCase):

@@ -64,6 +64,11 @@ struct ButtonPage : HandPage {
         ASSERT_TRUE(b) << id;
         BT_Proc(MSG_PRESS, b->x1 + 5, b->y1 + 5, 1, 0);
     }
+    static Strings Pressed(int id) // what it sends
+    {
+        Press(id);
+        return TakeQueuedCommands();
+    }
     static void Tally(const char* path, const char* value)
     {
         BT_Proc(MSG_TALLY, Arg(path), Arg(value), MsgArg(Hash(path)), 0);

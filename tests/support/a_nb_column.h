@@ -81,8 +81,17 @@ struct KnobColumn : HandPage {
     {
         SendMessage(MSG_PRESS, 750, Middle(slot), button, 0);
     }
-    static void PressTitle() { SendMessage(MSG_PRESS, 750, 100, 1, 0); }
+    static int PressTitle() // the layer then
+    {
+        SendMessage(MSG_PRESS, 750, 100, 1, 0);
+        return NB_GetLayer();
+    }
     static void Drag(int x, bool left, bool right) { SendMessage(MSG_DRAG, x, 300, left, right); }
+    static Strings Dragged(int x, bool left, bool right) // what it sends
+    {
+        Drag(x, left, right);
+        return TakeQueuedCommands();
+    }
     static void Wheel(int msg, int slot) { SendMessage(msg, 750, Middle(slot), 0, 0); }
 
     // The shown value of a box by its caption; NAN for none of that caption.

@@ -53,11 +53,21 @@ struct PanePage : HandPage {
         Release(x, y);
         Pass(150);
     }
-    static std::vector<std::string> Told() { return std::exchange(told, {}); }
+    static Strings Told() { return std::exchange(told, {}); }
+    static Strings Told(int x, int y) // behind a touch
+    {
+        Touch(x, y);
+        return Told();
+    }
     static std::string Last() // and forget all
     {
         const auto all = Told();
         return all.empty() ? "nothing" : all.back();
+    }
+    static std::string Last(int x, int y) // behind a touch
+    {
+        Touch(x, y);
+        return Last();
     }
     static std::string Quit(int id, int result)
     {

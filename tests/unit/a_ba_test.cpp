@@ -10,8 +10,6 @@
 #include <cstring>
 #include <filesystem>
 
-namespace
-{
 constexpr uint32_t NONE = 0;
 // A point in the middle of each zone. The side key is part of the title where there is none.
 struct Point {
@@ -19,7 +17,6 @@ struct Point {
 };
 constexpr Point TITLE = {150, 30}, SIDE_KEY = {330, 30}, BACK = {400, 30}, FWD = {470, 30},
                 TOP_RIGHT = {650, 30}, LOWER_LEFT = {40, 560}, PREV = {750, 580};
-} // namespace
 
 struct BaseAreaTest : ButtonPage {
     void SetUp() override

@@ -19,9 +19,10 @@ struct ButtonFamily : ButtonPage {
         }
         Open(rows);
     }
-    static void Dependency(int n, const char* value)
+    static int Dependency(int n, const char* value) // whether the button can be seen and used then
     {
         Tally(("M/E-1@Key1@Type@" + std::to_string(n)).c_str(), value);
+        return BT_GetVisible(17);
     }
 };
 
@@ -74,13 +75,11 @@ TEST_F(ButtonFamily, AWipeHasSizeAndTransparencyByItsNumber)
         for (const auto& [tally, is_usable] :
              {std::pair{&bt_tly_dmewipe_size, c.size}, {&bt_tly_dmewipe_trans, c.transparency}}) {
             OpenTally(tally, {""});
-            Dependency(1, c.number);
-            EXPECT_EQ(BT_GetVisible(17), is_usable ? BT_ENABLED : BT_DISABLED) << c.number;
+            EXPECT_EQ(Dependency(1, c.number), is_usable ? BT_ENABLED : BT_DISABLED) << c.number;
         }
     OpenTally(bt_tly_dmewipe_size, {""});
     BT_SetDisable(17, 1); // page code: what it puts out stays out
-    Dependency(1, "1201");
-    EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+    EXPECT_EQ(Dependency(1, "1201"), BT_DISABLED);
 }
 
 TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
@@ -99,8 +98,7 @@ TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
     for (const auto& c : cases) {
         OpenTally(c.tally, {"", ""});
         Dependency(1, c.first);
-        Dependency(2, c.second);
-        EXPECT_EQ(BT_GetVisible(17), c.visible) << c.first << " " << c.second;
+        EXPECT_EQ(Dependency(2, c.second), c.visible) << c.first << " " << c.second;
     }
 }
 
@@ -110,14 +108,10 @@ TEST_F(ButtonFamily, AShadowHasASourceBesideItsOwnOnlyInFourCombinedChannels)
         SYS_CombineCh[1] = SYS_CombineCh[2] = 1;
         SYS_CombineCh[3] = four;
         OpenTally(bt_tly_globaleffect_shadow_source, {"x", "x", "x"});
-        Dependency(1, "x");
-        EXPECT_EQ(BT_GetVisible(17), four ? BT_ENABLED : BT_DISABLED);
-        Dependency(2, "x");
-        EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
-        Dependency(1, "");
-        EXPECT_EQ(BT_GetVisible(17), BT_ENABLED);
-        Dependency(3, "x");
-        EXPECT_EQ(BT_GetVisible(17), BT_ENABLED) << "the third one has no part in it";
+        EXPECT_EQ(Dependency(1, "x"), four ? BT_ENABLED : BT_DISABLED);
+        EXPECT_EQ(Dependency(2, "x"), BT_DISABLED);
+        EXPECT_EQ(Dependency(1, ""), BT_ENABLED);
+        EXPECT_EQ(Dependency(3, "x"), BT_ENABLED) << "the third one has no part in it";
     }
 }
 
@@ -129,12 +123,10 @@ TEST_F(ButtonFamily, AFreezeNeedsAUnitThatHoldsThePicture)
         for (const bool is_1080p : {true, false}) {
             SYS_RefSwrActiveLine = is_1080p ? 6 : 5;
             OpenTally(bt_tly_freeze, {"x"});
-            Dependency(0, "true");
-            EXPECT_EQ(BT_GetVisible(17), is_1080p && !is_large ? BT_DISABLED : BT_ENABLED)
+            EXPECT_EQ(Dependency(0, "true"), is_1080p && !is_large ? BT_DISABLED : BT_ENABLED)
                 << "its own tally decides, too";
             EXPECT_EQ(BT_GetOnOff(17), 1);
-            Dependency(1, "x");
-            EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);
+            EXPECT_EQ(Dependency(1, "x"), BT_DISABLED);
         }
     }
 }
@@ -164,9 +156,7 @@ TEST_F(ButtonFamily, TheBorderIsReadBackBehindItsPress)
     rows[0] = Button(17, BT_TOGGLE, {"~@Border#*"});
     rows[0].select_func = bt_sel_cgborder;
     OpenTree({"M/E-1", "X"}, 0x11110000, rows);
-    Press(17);
-    EXPECT_THAT(TakeQueuedCommands(),
-                ElementsAre("put M/E-1@X@Border#true", "read M/E-1@X@Border"));
+    EXPECT_THAT(Pressed(17), ElementsAre("put M/E-1@X@Border#true", "read M/E-1@X@Border"));
 }
 
 // --- Draw ---
@@ -216,8 +206,7 @@ TEST_F(ButtonFamily, AButtonOfTheNextVersionThatIsCutOffStaysSo)
     for (const int version : {2, 1}) {
         GL_NextVersion = version;
         Open(rows);
-        Press(17);
-        EXPECT_EQ(TakeQueuedCommands().size(), version == 2) << "it acts from its version on";
+        EXPECT_EQ(Pressed(17).size(), version == 2) << "it acts from its version on";
         Pass(10);
     }
     EXPECT_EQ(BT_GetVisible(17), BT_DISABLED);

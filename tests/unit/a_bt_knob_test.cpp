@@ -14,12 +14,13 @@
 constexpr int LAST_NUMBER = 130;
 
 struct KnobLinks : ButtonPage {
-    // One button with this link and these dependencies.
-    void OpenLink(int number, std::initializer_list<const char*> dependencies)
+    // One button with this link and these dependencies; the table that is chosen.
+    const NB_TBL* OpenLink(int number, std::initializer_list<const char*> dependencies)
     {
         rows[0] = Button(17, BT_KNOB_ONLY, {"~@0#*"}, SpecialKnob(number));
         std::copy(dependencies.begin(), dependencies.end(), rows[0].cmd + 1);
         Open(rows);
+        return Chosen();
     }
     static const NB_TBL* Chosen() { return special_knob_table(bt_find(17)); }
 
@@ -77,11 +78,9 @@ TEST_F(KnobLinks, TheAspectIsThatOfThePagesBank)
             SetTree({banks[i], "Wipe", "Main Modify"}, 0x11550000);
             for (const auto& [number, family] :
                  {std::pair{11, &nb_me_key_mask_box_aspect}, {21, &nb_me_key_mask_box_aspect}}) {
-                OpenLink(number, {});
-                EXPECT_EQ(Chosen(), family->variant[wide]) << number << banks[i];
+                EXPECT_EQ(OpenLink(number, {}), family->variant[wide]) << number << banks[i];
             }
-            OpenLink(34, {});
-            EXPECT_EQ(Chosen(), nb_me_wipe_aspect.variant[wide]) << banks[i] << wide;
+            EXPECT_EQ(OpenLink(34, {}), nb_me_wipe_aspect.variant[wide]) << banks[i] << wide;
             EXPECT_EQ(Chosen()->max, wide ? 100 : 75) << banks[i];
         }
 }
@@ -105,8 +104,7 @@ TEST_F(KnobLinks, TheEffectsUnitGoesByFormatAndAspectOfTheScreen)
     for (const auto& c : cases) {
         SYS_SignalFormat = c.hd;
         SYS_ScreenAspect = c.wide;
-        OpenLink(c.number, {});
-        EXPECT_EQ(Chosen(), c.table) << c.number << " " << c.hd << c.wide;
+        EXPECT_EQ(OpenLink(c.number, {}), c.table) << c.number << " " << c.hd << c.wide;
     }
 }
 
@@ -172,24 +170,20 @@ TEST_F(KnobLinks, TheBorderOfAKeyGoesByItsTypeItsSplitAndWhatHalvesIt)
 
 TEST_F(KnobLinks, AKeyThatTurnsHasItsOwnBoxes)
 {
-    static const struct {
-        const char *bank, *key;
-        const char* turning; // what the server says to turn
-        bool turns;
-    } cases[] = {
-        {"M/E-1", "Key1", "M/E-1@Key1", true},     {"M/E-1", "Key1", "M/E-2@Key1", false},
-        {"M/E-5", "Key8", "M/E-5@Key8", true},     {"M/E-5", "Key8", "M/E-5@Key7", false},
-        {"PGM/PST", "DSK3", "PGM/PST@DSK3", true}, {"PGM/PST", "DSK3", "M/E-1@Key3", false},
-        {"M/E-1", "Wipe", "M/E-1@Key1", false},
-    };
-    for (const auto& c : cases) {
+    // turning: what the server says to turn
+    for (const auto& [bank, key, turning, turns] : {std::tuple{"M/E-1", "Key1", "M/E-1@Key1", true},
+                                                    {"M/E-1", "Key1", "M/E-2@Key1", false},
+                                                    {"M/E-5", "Key8", "M/E-5@Key8", true},
+                                                    {"M/E-5", "Key8", "M/E-5@Key7", false},
+                                                    {"PGM/PST", "DSK3", "PGM/PST@DSK3", true},
+                                                    {"PGM/PST", "DSK3", "M/E-1@Key3", false},
+                                                    {"M/E-1", "Wipe", "M/E-1@Key1", false}}) {
         me_config_reset();
-        GL_ProcKey_Rotation((std::string(c.turning) + "@Processed Key@Rotation").c_str(), "true");
-        SetTree({c.bank, c.key, "Processed Key"}, 0x11160000);
-        OpenLink(23, {});
-        EXPECT_EQ(Chosen(),
-                  c.turns ? nb_me_key_prockey_rotation.row : nb_me_key_prockey_rotation_flat.row)
-            << c.bank << c.key << " " << c.turning;
+        GL_ProcKey_Rotation((std::string(turning) + "@Processed Key@Rotation").c_str(), "true");
+        SetTree({bank, key, "Processed Key"}, 0x11160000);
+        EXPECT_EQ(OpenLink(23, {}),
+                  turns ? nb_me_key_prockey_rotation.row : nb_me_key_prockey_rotation_flat.row)
+            << bank << key << " " << turning;
     }
 }
 
@@ -206,8 +200,7 @@ TEST_F(KnobLinks, AShownColumnFollowsTheRotationOfTheKey)
 TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumn)
 {
     OpenLink(35, {"~@Speed#"});
-    Press(17);
-    EXPECT_THAT(TakeQueuedCommands(), Contains("assign Knob0#M/E-1@Key1@Type@Angle@Angle"));
+    EXPECT_THAT(Pressed(17), Contains("assign Knob0#M/E-1@Key1@Type@Angle@Angle"));
     OpenLink(18, {}); // a number that no case has
     Press(17);
     EXPECT_EQ(BT_GetKnobAssign(), 17);

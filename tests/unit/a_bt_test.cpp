@@ -76,8 +76,7 @@ TEST_F(Buttons, APressSendsWhatItsTypeSays)
         EXPECT_EQ(BT_GetStatus(id), status) << "a press changes no state";
     }
     for (int id : {33, 35, 37, 38, 49}) {
-        Press(id);
-        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << id;
+        EXPECT_THAT(Pressed(id), IsEmpty()) << id;
     }
     OpenTree({"M/E-2", "Key3", "Type"}, 0x12310000, table);
     for (const auto& [id, asked] : {std::pair{33, 0x00220000u}, {34, 0x12310001u}}) {
@@ -104,11 +103,9 @@ TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
     Press(21);
     BT_SetDisable(20, 0);
     BA_SetDefaultButton(1);
-    Press(20);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Pressed(20), IsEmpty());
     BA_SetDefaultButton(0);
-    Press(20);
-    EXPECT_THAT(TakeQueuedCommands(), testing::SizeIs(1));
+    EXPECT_THAT(Pressed(20), testing::SizeIs(1));
 }
 
 TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
@@ -154,11 +151,9 @@ TEST_F(Buttons, ADependencyDisablesAndEnables)
 TEST_F(Buttons, TheFirstTouchOfAButtonThatIsOnOnlyFetchesItsKnobs)
 {
     Tally("M/E-1@Key1@Type@Key Type", "Luminance");
-    Press(17);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Pressed(17), IsEmpty());
     EXPECT_EQ(BT_GetKnobAssign(), 17);
-    Press(17);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put M/E-1@Key1@Type@Key Type#Luminance"));
+    EXPECT_THAT(Pressed(17), ElementsAre("put M/E-1@Key1@Type@Key Type#Luminance"));
 
     BT_SetStatus(35, BT_ON);
     Press(35);
@@ -238,8 +233,7 @@ TEST_F(SpecialRows, TheLookIsPushedForItsTimeAndALongActionForASecond)
     OpenTree({"Copy", "X"}, 0x31160000, rows);
     const BT_MEM *const action = bt_find(17), *const toggle = bt_find(18);
     Press(17);
-    Press(18);
-    EXPECT_THAT(TakeQueuedCommands(),
+    EXPECT_THAT(Pressed(18),
                 ElementsAre("put Copy@X@A#true", "put Copy@X@C#true", "put Copy@X@B#true"))
         << "two that overlap both act";
     Pass(149);

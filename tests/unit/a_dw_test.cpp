@@ -1,21 +1,18 @@
 #include "a_dw.h"
 #include "tab_page.h"
 
-namespace
-{
 const DW_TBL table = {.cmd = "~4@Pattern Select@Pattern", .grpid = {17, 0, 36, 22, 99}};
 constexpr const char* PATH = "M/E-1@Key1@Transition@Adjust@Pattern Select@Pattern";
 
 // The middle of a cell of the window.
-constexpr int X(int column)
+static constexpr int X(int column)
 {
     return 160 + 76 * column + 34;
 }
-constexpr int Y(int row)
+static constexpr int Y(int row)
 {
     return 89 + 76 * row + 34;
 }
-} // namespace
 
 // The lines of this list: slide 8 (two), user 10 (two), roll 16 (three).
 struct WipeLists : TabPage {
@@ -69,17 +66,14 @@ TEST_F(WipeLists, TheNumbersOfUserProgramsMoveWithBankAndKey)
 
 TEST_F(WipeLists, TheWindowStaysInsideTheList)
 {
-    static const struct {
-        int kind, bar, value;
-        const char* first;
-    } cases[] = {
-        {SB_UP, 0, -1, "1001"},    {SB_DOWN, 0, 1, "1007"}, {SB_DOWN, 1, 1, "1007"},
-        {SB_THUMB, 0, 6, "1927"},  {SB_DOWN, 0, 1, "1927"}, // 7 lines, 4 shown
-        {SB_THUMB, 0, -4, "1001"},
-    };
-    for (const auto& c : cases) {
-        SendMessage(LMSG_SBSEL, c.kind, c.bar, c.value, 0);
-        EXPECT_EQ(Number(), c.first) << c.kind << " " << c.value;
+    for (const auto& [kind, bar, value, first] : {std::tuple{SB_UP, 0, -1, "1001"},
+                                                  {SB_DOWN, 0, 1, "1007"},
+                                                  {SB_DOWN, 1, 1, "1007"},
+                                                  {SB_THUMB, 0, 6, "1927"},
+                                                  {SB_DOWN, 0, 1, "1927"}, // 7 lines, 4 shown
+                                                  {SB_THUMB, 0, -4, "1001"}}) {
+        SendMessage(LMSG_SBSEL, kind, bar, value, 0);
+        EXPECT_EQ(Number(), first) << kind << " " << value;
     }
     SB_INFO bar;
     SB_GetInfo(&bar, 0);

@@ -10,8 +10,6 @@
 #include "window.h"
 #include <utility>
 
-namespace
-{
 struct FileFolder : TablePage {
     static constexpr uint32_t PAGE_LOAD = 0x21120000;
     DEVICE* first_switcher = nullptr;
@@ -212,4 +210,3 @@ TEST_F(FileFolder, HoldsPicturesOfWhatIsInViewOnly)
     EXPECT_EQ(FF_GetNBVar(0), 97);
     EXPECT_EQ(FF_GetChildObjectNum("/", OBJECT_TYPE_FILE, ELEMENT_PLACE_STORAGE, 0, true), 402);
 }
-} // namespace

@@ -1,8 +1,6 @@
 #include "a_hf.h"
 #include "tab_page.h"
 
-namespace
-{
 const HF_TBL tabs[] = {
     {.id = 1, .caption = "Type", .page = 0x11110000},
     {.id = 2,
@@ -15,12 +13,11 @@ const HF_TBL tabs[] = {
     HF_END,
 };
 
-constexpr int Cell(int id)
+static constexpr int Cell(int id)
 {
     return 97 + 86 * (id - 1);
 }
 constexpr int Y = 560;
-} // namespace
 
 struct BottomTabs : TabPage {
     void SetUp() override
@@ -40,15 +37,13 @@ struct BottomTabs : TabPage {
 
 TEST_F(BottomTabs, APressAsksForThePageOfItsCell)
 {
-    static const struct {
-        int x, y;
-        uint32_t page;
-    } cases[] = {
-        {Cell(2) - 1, Y, 0x11110000}, {Cell(2), Y, 0x11120000}, {Cell(2), 530, 0}, {Cell(3), Y, 0},
-        {Cell(8) - 1, Y, 0x11170000}, {Cell(8), Y, 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Asked(c.x, c.y), c.page) << c.x << "," << c.y;
+    for (const auto& [x, y, id] : {std::tuple<int, int, uint32_t>{Cell(2) - 1, Y, 0x11110000u},
+                                   {Cell(2), Y, 0x11120000u},
+                                   {Cell(2), 530, 0u},
+                                   {Cell(3), Y, 0u},
+                                   {Cell(8) - 1, Y, 0x11170000u},
+                                   {Cell(8), Y, 0u}})
+        EXPECT_EQ(Asked(x, y), id) << x << "," << y;
     BA_SetDefaultButton(1);
     EXPECT_THAT(Sent(Cell(2), Y), IsEmpty());
     EXPECT_EQ(GL_CreatePage, 0u);

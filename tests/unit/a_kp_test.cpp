@@ -4,8 +4,6 @@
 #include "tdl.h"
 #include "window.h"
 
-namespace
-{
 const KP_TBL rows[] = {
     {"M/E-1 All", 1, 1, 1, 0, "~@All@", 0x61130000},
     {"Bkgd/Util", 1, 0, 1, 3, "~@Bkgd/Util@All@", 0x61130501},
@@ -13,11 +11,10 @@ const KP_TBL rows[] = {
     KP_END,
 };
 constexpr int XPT_X = 300, HUE_X = 390, CURVE_X = 480, CAPTION_X = 150;
-constexpr int Y(int row)
+static constexpr int Y(int row)
 {
     return 104 + 40 * row + 20;
 }
-} // namespace
 
 struct PathLists : TabPage {
     void SetUp() override
@@ -97,19 +94,15 @@ TEST_F(PathLists, WhatIsNoNumberIsNotPaintedAgain)
 
 TEST_F(PathLists, APressOnACellOpensTheWindowWhoseAnswerGoesOut)
 {
-    static const struct {
-        int x, row, window_x, place;
-        const char* put; // null: no window
-    } cases[] = {
-        {XPT_X, 0, 160, 1, "put Key Frame@Path@All@Xpt#Change"},
-        {HUE_X, 0, 250, 2, "put Key Frame@Path@All@Hue#CW"},
-        {CURVE_X, 1, 340, 1, "put Key Frame@Path@Bkgd/Util@All@Curve#Step"},
-        {HUE_X, 1, 250, 0, nullptr},
-        {CURVE_X, 2, 340, 0, nullptr},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Choose(c.x, Y(c.row), c.window_x, c.place), c.put ? Strings{c.put} : Strings{})
-            << c.x << " row " << c.row;
+    // null: no window
+    for (const auto& [x, row, window_x, place, put] :
+         {std::tuple{XPT_X, 0, 160, 1, "put Key Frame@Path@All@Xpt#Change"},
+          {HUE_X, 0, 250, 2, "put Key Frame@Path@All@Hue#CW"},
+          {CURVE_X, 1, 340, 1, "put Key Frame@Path@Bkgd/Util@All@Curve#Step"},
+          {HUE_X, 1, 250, 0, nullptr},
+          {CURVE_X, 2, 340, 0, nullptr}}) {
+        EXPECT_EQ(Choose(x, Y(row), window_x, place), put ? Strings{put} : Strings{})
+            << x << " row " << row;
         EXPECT_EQ(GetWindow(), WINDOW_NONE);
     }
     BA_SetDefaultButton(1);
@@ -139,17 +132,14 @@ TEST_F(PathLists, TheListScrollsAndTheWheelIsItsArrow)
     SB_INFO bar;
     SB_GetInfo(&bar, 0);
     EXPECT_EQ(bar.total, KP_MAX); // one more has no place
-    static const struct {
-        int kind, value;
-        const char* first;
-    } cases[] = {
-        {SB_DOWN, 1, "Row1@"},  {SB_THUMB, 60, "Row54@"}, {SB_UP, -1, "Row53@"},
-        {SB_THUMB, 0, "Row0@"}, {SB_UP, -1, "Row0@"},
-    };
-    for (const auto& c : cases) {
-        SendMessage(LMSG_SBSEL, c.kind, 0, c.value, 0);
+    for (const auto& [kind, value, first] : {std::tuple{SB_DOWN, 1, "Row1@"},
+                                             {SB_THUMB, 60, "Row54@"},
+                                             {SB_UP, -1, "Row53@"},
+                                             {SB_THUMB, 0, "Row0@"},
+                                             {SB_UP, -1, "Row0@"}}) {
+        SendMessage(LMSG_SBSEL, kind, 0, value, 0);
         EXPECT_THAT(Choose(XPT_X, Y(0), 160, 0),
-                    ElementsAre(std::string("put ") + c.first + "Xpt#Hold"));
+                    ElementsAre(std::string("put ") + first + "Xpt#Hold"));
     }
     int x = CAPTION_X, y = Y(5);
     ASSERT_EQ(KP_ConvPosForWheel(&x, &y, 5), 1);

@@ -125,21 +125,17 @@ TEST_F(Lists, BlockTurnsAllRowsOverAndKeepsThemInOnePiece)
 
 TEST_F(Lists, ABlockStaysOneRun)
 {
-    static const struct {
-        std::vector<int> touches; // lines in the window
-        const char* after;
-    } cases[] = {
-        {{3, 1, 2}, ".xx......."},    // row 1 began a new block
-        {{1, 2, 3, 2}, ".x........"}, // cut in two: the upper part stays
-        {{1, 2, 3, 3}, ".xx......."},
-        {{0, 1, 0}, ".x........"}, // at the first row
-    };
-    for (const auto& c : cases) {
+    // touches: lines in the window
+    for (const auto& [touches, after] :
+         {std::pair{std::vector<int>{3, 1, 2}, ".xx......."}, // row 1 began a new block
+          {{1, 2, 3, 2}, ".x........"},                       // cut in two: the upper part stays
+          {{1, 2, 3, 3}, ".xx......."},
+          {{0, 1, 0}, ".x........"}}) { // at the first row
         Open(With([](LS_TBL& l) { l.block = 1; }), 5);
         LS_SetMS(1, 1);
-        for (int line : c.touches)
+        for (int line : touches)
             TouchLine(line);
-        EXPECT_EQ(Picture(), c.after);
+        EXPECT_EQ(Picture(), after);
     }
 }
 

@@ -76,8 +76,7 @@ TEST_F(KnobColumn, ALockedSetupPageRefusesEveryWayToMoveAValue)
         EXPECT_EQ(Told().empty(), is_locked);
         PressSlot(1);
         EXPECT_EQ(GetWindow() == WINDOW_NONE, is_locked);
-        PressTitle();
-        EXPECT_EQ(NB_GetLayer(), 1) << "looking is free";
+        EXPECT_EQ(PressTitle(), 1) << "looking is free";
         PressTitle();
     }
     (void)CloseWindow();
@@ -87,8 +86,7 @@ TEST_F(KnobColumn, ALockedSetupPageRefusesEveryWayToMoveAValue)
 TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
 {
     Open(table);
-    PressTitle();
-    EXPECT_EQ(NB_GetLayer(), 1);
+    EXPECT_EQ(PressTitle(), 1);
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("assign Knob0#null", "assign Knob1#null", "assign Knob2#null",
                             "assign Knob0#M/E-1@Key1@Type@Level",
@@ -102,8 +100,7 @@ TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
     EXPECT_EQ(look(0), pushed) << "for 150 ms";
     Pass(1);
     EXPECT_NE(look(0), pushed);
-    PressTitle();
-    EXPECT_EQ(NB_GetLayer(), 0);
+    EXPECT_EQ(PressTitle(), 0);
     Open(one);
     PressTitle();
     EXPECT_THAT(Told(), IsEmpty());
@@ -402,30 +399,24 @@ TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
     EXPECT_EQ(x, 734);
     EXPECT_EQ(y, 167);
     Forget();
-    Drag(734, true, false); // the mouse has followed
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    // the mouse has followed
+    EXPECT_THAT(Dragged(734, true, false), IsEmpty());
+    EXPECT_THAT(Dragged(754, true, false), ElementsAre("put " + clip + "#50.00", "read " + clip));
     Drag(754, true, false);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + clip + "#50.00", "read " + clip));
-    Drag(754, true, false);
-    Drag(774, false, false);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    Drag(2000, false, true);
-    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#100.00"));
+    EXPECT_THAT(Dragged(774, false, false), IsEmpty());
+    EXPECT_THAT(Dragged(2000, false, true), Contains("put M/E-1@Key1@Type@Chroma@Clip#100.00"));
     SendMessage(MSG_RELEASE, 0, 0, 0, 0);
-    Drag(754, false, true);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Dragged(754, false, true), IsEmpty());
     // The release went to a pane: the next press, wherever it is, ends the hold.
     PressSlot(1);
     SendMessage(MSG_PRESS, 300, 300, 1, 0);
-    Drag(754, true, false);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+    EXPECT_THAT(Dragged(754, true, false), IsEmpty());
     // A bar that runs backwards, on the other layer.
     PressTitle();
     NB_SetVar(17, 50);
     PressSlot(1, 3);
     Forget();
-    Drag(734, false, true);
-    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Level#80.37"));
+    EXPECT_THAT(Dragged(734, false, true), Contains("put M/E-1@Key1@Type@Level#80.37"));
 }
 
 // With the panel a touch is a press and a motion to the same place, some pixels off and on.
@@ -442,16 +433,14 @@ TEST_F(KnobColumn, AFingerMovesTheValueAndATapDoesNot)
         EXPECT_THAT(TakeQueuedCommands(), testing::Not(Contains(testing::StartsWith("put")))) << x;
     }
     SendMessage(MSG_PRESS, 790, Middle(1), 1, 0);
-    Drag(768, true, false); // 16 of 80 pixels behind the tremble
-    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#13.30"));
+    // 16 of 80 pixels behind the tremble
+    EXPECT_THAT(Dragged(768, true, false), Contains("put M/E-1@Key1@Type@Chroma@Clip#13.30"));
     // The right button is a mouse, which the grab has put on the mark: 33.3 is nearest to pixel 27.
     NB_SetVar(1, 33.3);
     PressSlot(1, 3);
     Forget();
-    Drag(714 + 27, false, true);
-    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
-    Drag(714 + 40, false, true);
-    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Chroma@Clip#50.00"));
+    EXPECT_THAT(Dragged(714 + 27, false, true), IsEmpty());
+    EXPECT_THAT(Dragged(714 + 40, false, true), Contains("put M/E-1@Key1@Type@Chroma@Clip#50.00"));
 }
 
 TEST_F(KnobColumn, ABoxWithoutAValueSendsNoneMadeOfNothing)
@@ -468,8 +457,7 @@ TEST_F(KnobColumn, ABoxWithoutAValueSendsNoneMadeOfNothing)
     EXPECT_THAT(Told(), IsEmpty());
     Tally("M/E-1@Key1@Type@Never told@Clip", "50");
     PressSlot(1, 3);
-    Drag(774, false, true);
-    EXPECT_THAT(TakeQueuedCommands(), Contains("put M/E-1@Key1@Type@Never told@Clip#75.00"));
+    EXPECT_THAT(Dragged(774, false, true), Contains("put M/E-1@Key1@Type@Never told@Clip#75.00"));
 }
 
 TEST_F(KnobColumn, SomePagesBendADraggedValue)
@@ -486,8 +474,7 @@ TEST_F(KnobColumn, SomePagesBendADraggedValue)
         Open(rows);
         NB_SetVar(1, 5);
         PressSlot(1, 3);
-        Drag(x, false, true);
-        EXPECT_THAT(TakeQueuedCommands(), Contains("put " + cmd + sent));
+        EXPECT_THAT(Dragged(x, false, true), Contains("put " + cmd + sent));
     }
 }
 

@@ -3,21 +3,18 @@
 #include "page_table/patterns.h"
 #include "tab_page.h"
 
-namespace
-{
 constexpr const char* PATH = "M/E-1@Key1@Main Mask@Ptn Select@Pattern";
-const PS_TBL& table = ps_me_key_mainmask_maskptnsel;
+static const PS_TBL& table = ps_me_key_mainmask_maskptnsel;
 
 // The upper left corner of a cell.
-constexpr int X(int cell)
+static constexpr int X(int cell)
 {
     return 120 + cell % 6 * 95;
 }
-constexpr int Y(int cell)
+static constexpr int Y(int cell)
 {
     return 80 + cell / 6 * 55;
 }
-} // namespace
 
 struct PatternSelect : TabPage {
     void SetUp() override
@@ -86,24 +83,18 @@ TEST_F(PatternSelect, AKnobTableComesWithTheCellThatHasOne)
 TEST_F(PatternSelect, TheChosenCellFollowsItsTallyIntoItsLayer)
 {
     EXPECT_EQ(TakeQueuedCommands().back(), std::string("add ") + PATH);
-    static const struct {
-        const char* value;
-        int cell; // -1: none of those shown
-        const char* first;
-    } cases[] = {
-        {"5", 4, "1"},
-        {"32", 31, "1"},
-        {"33", 0, "33"},
-        {"9999", -1, "33"},
-        {"304", 31, "273"},
-        {"x", -1, "273"},
-        {"-9999999999", -1, "273"},
-    };
-    for (const auto& c : cases) {
-        Tally(PATH, c.value);
+    // -1: none of those shown
+    for (const auto& [value, cell, first] : {std::tuple{"5", 4, "1"},
+                                             {"32", 31, "1"},
+                                             {"33", 0, "33"},
+                                             {"9999", -1, "33"},
+                                             {"304", 31, "273"},
+                                             {"x", -1, "273"},
+                                             {"-9999999999", -1, "273"}}) {
+        Tally(PATH, value);
         for (int i = 0; i < PS_CELLS; i++)
-            EXPECT_EQ(IsChosen(i), i == c.cell) << c.value << " cell " << i;
-        EXPECT_EQ(FirstNumber(), c.first) << c.value;
+            EXPECT_EQ(IsChosen(i), i == cell) << value << " cell " << i;
+        EXPECT_EQ(FirstNumber(), first) << value;
     }
     Tally("M/E-1@Key2@Main Mask@Ptn Select@Pattern", "7");
     EXPECT_EQ(FirstNumber(), "273");

@@ -2,8 +2,6 @@
 #include "a_vf.h"
 #include "tab_page.h"
 
-namespace
-{
 const VF_TBL tabs[] = {
     {.id = 1, .caption = "Key1", .page = 0x11110000, .statcmd = "~2@Enable#true"},
     {.id = 2, .caption = "Key2", .page = 0x11210000, .statcmd = "~2@Enable#false"},
@@ -15,11 +13,10 @@ const VF_TBL tabs[] = {
 };
 
 constexpr int X = 40;
-constexpr int Slot(int id)
+static constexpr int Slot(int id)
 {
     return 73 + 65 * (id - 1);
 }
-} // namespace
 
 struct LeftTabs : TabPage {
     void SetUp() override

@@ -19,8 +19,6 @@
 #include <map>
 #include <set>
 
-namespace
-{
 constexpr char LOG[] = "/var/log2/all_pages.log";
 
 // What is still subscribed after the commands of a walk. The server keeps one subscription of a
@@ -52,13 +50,13 @@ struct Books {
     }
 };
 
-void Pass(int elapsed_ms)
+static void Pass(int elapsed_ms)
 {
     SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
 }
 
 // What is meant for somebody else goes on to him.
-void OthersAreLeftTheirs(uint32_t page)
+static void OthersAreLeftTheirs(uint32_t page)
 {
     constexpr char PATH[] = "Nobody@Has@This";
     for (const int result :
@@ -70,7 +68,7 @@ void OthersAreLeftTheirs(uint32_t page)
 
 // Messages that bring numbers, from objects that are empty or have more rows than a page thinks. A
 // title is not a number, and rows and boxes may be asked for that nobody has.
-void OddNumbersDoNoHarm(uint32_t page)
+static void OddNumbersDoNoHarm(uint32_t page)
 {
     constexpr int numbers[] = {
         MSG_REDRAW,         MSG_KEY,           LMSG_LISTSEL,     LMSG_SBSEL,
@@ -87,13 +85,12 @@ void OddNumbersDoNoHarm(uint32_t page)
     EXPECT_EQ(GL_NowPage, page);
 }
 
-void CloseAll()
+static void CloseAll()
 {
     (void)CloseWindow(); // none may be open
     while (int id = Pane_GetActiveID())
         Pane_Quit(id);
 }
-} // namespace
 
 struct AllPages : testing::Test {
     const FullHouse all;

@@ -312,29 +312,26 @@ TEST_F(BusTally, CombinedChannelsAreThoseThatHangTogether)
 
 TEST_F(BusTally, APageIsReloadedOrLeftByTheSettingsItDependsOn)
 {
-    static const struct {
-        const char *path, *value;
-        uint32_t page, request;
-    } cases[] = {
-        {OPERATION_MODE "PNL1", "Single Proc", 0x13110000, 0},          // no change
-        {OPERATION_MODE "PNL1", "Single Simul", 0x11110000, PAGE_TOP},  // M/E-1 is hidden in it
-        {OPERATION_MODE "PNL1", "Single Proc", 0x13110000, 0x13110000}, // still there: built anew
-        {OPERATION_MODE "PNL1", "Dual Simul", 0x13110001, 0x13110001},
-        {OPERATION_MODE "PNL1", "Single Proc", 0x131100AA, 0x13110000}, // gone: its tab
-        {"Global Effect@Ch1-Ch4@Combine@Ch2", "true", 0x42170000, 0x42170000},
-        {"Global Effect@Ch3-Ch4@Combine@Ch2", "true", 0x42170000, 0x42170000},
-        {"Global Effect@Ch5-Ch6@Combine@Ch2", "true", 0x42260000, 0},
-        {"Global Effect@Ch7-Ch8@Combine@Ch2", "true", 0x42270000, 0x42270000},
-        {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000, 0x11170000},
-        {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000, 0},
-        {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000, 0x73130000},
-        {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000, 0},
-        {FORMAT "FC Format", "3,6,9,9,9", 0x73130000, 0},
-    };
     std::fill(std::begin(SYS_CombineDP), std::end(SYS_CombineDP), 0);
     SYS_KeyTransitionME1 = 0;
-    for (const auto& c : cases)
-        EXPECT_EQ(Asked(c.page, c.path, c.value), c.request) << c.path << "#" << c.value;
+    for (const auto& [path, value, id, request] :
+         {std::tuple<const char*, const char*, uint32_t, uint32_t>{
+              OPERATION_MODE "PNL1", "Single Proc", 0x13110000u, 0u},     // no change
+          {OPERATION_MODE "PNL1", "Single Simul", 0x11110000u, PAGE_TOP}, // M/E-1 is hidden in it
+          {OPERATION_MODE "PNL1", "Single Proc", 0x13110000u,
+           0x13110000u}, // still there: built anew
+          {OPERATION_MODE "PNL1", "Dual Simul", 0x13110001u, 0x13110001u},
+          {OPERATION_MODE "PNL1", "Single Proc", 0x131100AAu, 0x13110000u}, // gone: its tab
+          {"Global Effect@Ch1-Ch4@Combine@Ch2", "true", 0x42170000u, 0x42170000u},
+          {"Global Effect@Ch3-Ch4@Combine@Ch2", "true", 0x42170000u, 0x42170000u},
+          {"Global Effect@Ch5-Ch6@Combine@Ch2", "true", 0x42260000u, 0u},
+          {"Global Effect@Ch7-Ch8@Combine@Ch2", "true", 0x42270000u, 0x42270000u},
+          {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000u, 0x11170000u},
+          {SWITCHER "Transition@Key Transition@M/E-1", "true", 0x11170000u, 0u},
+          {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000u, 0x73130000u},
+          {FORMAT "FC Format", "3,6,1,2,3,4", 0x73130000u, 0u},
+          {FORMAT "FC Format", "3,6,9,9,9", 0x73130000u, 0u}})
+        EXPECT_EQ(Asked(id, path, value), request) << path << "#" << value;
     EXPECT_EQ(SYS_FrameDelayMode2[0], 1);
     EXPECT_EQ(SYS_FrameDelayMode2[3], 4);
 }

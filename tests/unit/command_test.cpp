@@ -104,26 +104,23 @@ TEST(Command, ABufferThatIsShortGetsTheBeginning)
     static const char* const key[PAGE_DEPTH] = {"M/E-1", "Key1"};
     GL_NowPage = 0x11110000;
     GL_NowTree = key;
-    static const struct {
-        const char *text, *var; // null: without one
-        std::string path;
-    } cases[] = {{"~@Type", "", "M/E-1@Key1@Type"},
-                 {"~@Type", nullptr, "M/E-1@Key1@Type"},
-                 {"~1@$@X", "55", "M/E-1@55@X"},
-                 {"A@B#c", "", "A@B#c"},
-                 {"A@B#c", nullptr, "A@B#c"},
-                 {nullptr, "", ""},
-                 {nullptr, nullptr, ""}};
-    for (const auto& c : cases)
-        for (size_t size = 0; size <= c.path.size() + 2; size++) {
+    // null: without one
+    for (const auto& [text, var, path] : {std::tuple{"~@Type", "", std::string("M/E-1@Key1@Type")},
+                                          {"~@Type", nullptr, "M/E-1@Key1@Type"},
+                                          {"~1@$@X", "55", "M/E-1@55@X"},
+                                          {"A@B#c", "", "A@B#c"},
+                                          {"A@B#c", nullptr, "A@B#c"},
+                                          {nullptr, "", ""},
+                                          {nullptr, nullptr, ""}})
+        for (size_t size = 0; size <= path.size() + 2; size++) {
             std::string buffer(32, '*');
-            if (c.var)
-                DecodeCommandWithVar(buffer.data(), c.text, c.var, int(size));
+            if (var)
+                DecodeCommandWithVar(buffer.data(), text, var, int(size));
             else
-                DecodeCommand(buffer.data(), c.text, int(size));
+                DecodeCommand(buffer.data(), text, int(size));
             EXPECT_EQ(buffer.substr(size), std::string(32 - size, '*')) << size;
             if (size > 0) {
-                EXPECT_EQ(buffer.c_str(), c.path.substr(0, size - 1)) << size;
+                EXPECT_EQ(buffer.c_str(), path.substr(0, size - 1)) << size;
             }
         }
 }

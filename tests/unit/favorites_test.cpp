@@ -1,8 +1,6 @@
 // The operator's own pages: opening, storing, colouring, clearing.
 #include "table_page.h"
 
-namespace
-{
 constexpr uint32_t FAVORITES = 0x00220000;
 constexpr int FIRST = 1, LAST = 37, BTN_COLOR = 52, BTN_CLEAR = 53, BTN_STORE = 54;
 const std::string DATA = "Info@Operation Setup Data@";
@@ -38,7 +36,6 @@ struct Favorites : TablePage {
         return Again(key);
     }
 };
-} // namespace
 
 TEST_F(Favorites, AKeyOpensItsPageUnlessSomethingElseIsMeant)
 {

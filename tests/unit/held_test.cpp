@@ -7,16 +7,14 @@
 #include "window.h"
 #include <map>
 
-namespace
-{
 constexpr LS_TBL rows = {
     .id = 1, .hn = 1, .vn = 5, .x = 100, .y = 100, .width = {100}, .sb_top = 100, .sb_bottom = 232};
 const LS_TBL list[] = {rows, LS_END};
 const NB_TBL boxes[] = {
     {.id = 1, .caption = "Gain", .type = NB_2, .min = -100, .max = 100, .cmd = "Gain"}, NB_END};
 
-int pane = 0;
-PAGE other_page;
+static int pane = 0;
+static PAGE other_page;
 
 // Ways to lose a release. What has come over the page goes again without one.
 struct Thief {
@@ -45,7 +43,6 @@ constexpr Hold holds[] = {
     {"arrow", 220, 225, 220, 225},
     {"thumb", 220, 150, 220, 190},
 };
-} // namespace
 
 struct Held : ListPage {
     void SetUp() override

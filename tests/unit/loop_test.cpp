@@ -14,9 +14,7 @@
 #include <filesystem>
 #include <unistd.h>
 
-namespace
-{
-SDL_Event Button(int type, int x, int y, int button = SDL_BUTTON_LEFT)
+static SDL_Event Button(int type, int x, int y, int button = SDL_BUTTON_LEFT)
 {
     SDL_Event e{};
     e.type = uint8_t(type);
@@ -26,7 +24,7 @@ SDL_Event Button(int type, int x, int y, int button = SDL_BUTTON_LEFT)
     return e;
 }
 
-SDL_Event Motion(int x, int y, int state)
+static SDL_Event Motion(int x, int y, int state)
 {
     SDL_Event e{};
     e.type = SDL_MOUSEMOTION;
@@ -36,7 +34,7 @@ SDL_Event Motion(int x, int y, int state)
     return e;
 }
 
-SDL_Event Key(SDLKey key)
+static SDL_Event Key(SDLKey key)
 {
     SDL_Event e{};
     e.type = SDL_KEYDOWN;
@@ -69,7 +67,6 @@ struct Loop : BusTest {
         MainPass();
     }
 };
-} // namespace
 
 TEST_F(Loop, APassServesEveryLinkAndTheBoardEachFiveSeconds)
 {
@@ -212,21 +209,17 @@ TEST_F(Loop, TheWheelTurnsTheWayTheOperatorChoseAndNothingThatNobodySees)
 
 TEST_F(Loop, APassLastsTenMillisecondsAndItsStepIsClamped)
 {
-    static const struct {
-        int step_ms; // the clock's step since the last pass
-        int elapsed_ms, waited_ms;
-    } cases[] = {
-        {.step_ms = 3, .elapsed_ms = 10, .waited_ms = 7},
-        {.step_ms = 5000, .elapsed_ms = 5000, .waited_ms = 0},
-        {.step_ms = 60000, .elapsed_ms = 5000, .waited_ms = 0},
-        {.step_ms = -2000, .elapsed_ms = 10, .waited_ms = 10}, // the clock was set back
-    };
-    for (const auto& c : cases) {
-        Clock_ms = TickBefore + uint32_t(c.step_ms);
+    // step_ms: the clock's step since the last pass
+    for (const auto& [step_ms, elapsed_ms, waited_ms] :
+         {std::tuple{3, 10, 7},
+          {5000, 5000, 0},
+          {60000, 5000, 0},
+          {-2000, 10, 10}}) { // the clock was set back
+        Clock_ms = TickBefore + uint32_t(step_ms);
         const uint32_t before = Clock_ms;
         MainPass();
-        EXPECT_EQ(Elapsed_ms(), c.elapsed_ms) << c.step_ms;
-        EXPECT_EQ(int(Clock_ms - before), c.waited_ms) << c.step_ms;
+        EXPECT_EQ(Elapsed_ms(), elapsed_ms) << step_ms;
+        EXPECT_EQ(int(Clock_ms - before), waited_ms) << step_ms;
     }
 }
 

@@ -92,16 +92,13 @@ TEST_F(MissingPages, PageCodeDoesNotMakeAKeyUsableThatLeadsNowhere)
 TEST_F(MissingPages, TheTitleIsAKeyWhereItsSectionHasATopPage)
 {
     constexpr int FELT_MS = 160;
-    static const struct {
-        uint32_t page;
-        int is_error;
-        uint32_t asked;
-    } cases[] = {{0x33120000, 0, 0x33000000}, {0x77770000, 0, 0}, {0x77770000, 1, 0x74120000}};
-    for (const auto& c : cases) {
-        (void)Open(c.page);
-        GL_ErrorPopup_On = c.is_error;
+    for (const auto& [id, is_error, asked] : {std::tuple{0x33120000u, 0, 0x33000000u},
+                                              {0x77770000u, 0, 0u},
+                                              {0x77770000u, 1, 0x74120000u}}) {
+        (void)Open(id);
+        GL_ErrorPopup_On = is_error;
         (void)Touch(150, 30);
         Pass(FELT_MS);
-        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), c.asked) << std::hex << c.page;
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), asked) << std::hex << id;
     }
 }

@@ -16,8 +16,6 @@
 
 using namespace page_walk;
 
-namespace
-{
 constexpr uint32_t NO_VARIANT = 0xFFFF00FF;
 
 // Pages that no row of a table leads to, but something that the application does.
@@ -58,13 +56,13 @@ constexpr ByCode by_code[] = {
     {0x74300000, ""},
 };
 
-bool IsByCode(uint32_t id)
+static bool IsByCode(uint32_t id)
 {
     return std::ranges::any_of(by_code, [&](const ByCode& c) { return (id & c.mask) == c.id; });
 }
 
 // What a touch on the page may ask for.
-std::set<uint32_t> LeadsTo(PAGE& page)
+static std::set<uint32_t> LeadsTo(PAGE& page)
 {
     std::set<uint32_t> ids;
     for (const BT_TBL* b = ButtonsOf(page); b && b->id >= 1; b++)
@@ -90,7 +88,7 @@ std::set<uint32_t> LeadsTo(PAGE& page)
 }
 
 // The numbers, without a variant, of all that can be reached from the top menu.
-std::set<uint32_t> Reached()
+static std::set<uint32_t> Reached()
 {
     std::multimap<uint32_t, PAGE*> rows;
     ForEachPage([&](PAGE& page) { rows.emplace(page.id & NO_VARIANT, &page); });
@@ -120,7 +118,6 @@ std::set<uint32_t> Reached()
     }
     return reached;
 }
-} // namespace
 
 struct PageReach : testing::Test {
     const FullHouse all;
@@ -188,15 +185,14 @@ TEST_F(PageReach, EveryVariantIsOpenedInSomeInstallation)
         ADD_FAILURE() << std::hex << id;
 }
 
-namespace
-{
 struct Link {
     std::string says; // of all tables that it may show: which of them follows from the formats
     uint32_t page;
 };
 using Links = std::map<std::string, std::vector<Link>>; // by path
 
-void LookAt(Links* links, PAGE& page, const NB_TBL* const* tables, int count, const char* title)
+static void LookAt(Links* links, PAGE& page, const NB_TBL* const* tables, int count,
+                   const char* title)
 {
     std::map<std::string, std::set<std::string>> says;
     Show(page);
@@ -215,7 +211,6 @@ void LookAt(Links* links, PAGE& page, const NB_TBL* const* tables, int count, co
         (*links)[path].push_back({all, page.id});
     }
 }
-} // namespace
 
 TEST_F(PageReach, AllBoxesOfAValueSayTheSame)
 {

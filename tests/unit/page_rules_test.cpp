@@ -3,51 +3,49 @@
 #include "harness.h"
 #include "page.h"
 
-namespace
-{
-void Switcher(DEVTYPE type)
+static void Switcher(DEVTYPE type)
 {
     DEV_Swr[0].type = type;
     DeviceStructure();
 }
 
-void Dme(int model)
+static void Dme(int model)
 {
     std::fill_n(GL_DmeModel, 4, 3);
     GL_DmeModel[0] = model; // the first one's is asked for
     DeviceStructure();
 }
 
-void Panel(DEVTYPE type)
+static void Panel(DEVTYPE type)
 {
     DEV_Pnl[0].type = type;
     DeviceStructure();
 }
 
-void Run1080p()
+static void Run1080p()
 {
     DEV_Swr[0].activeline = DEV_Dme[0].activeline = 6;
     DeviceStructure();
 }
 
-void Dual()
+static void Dual()
 {
     SYS_DualProc = 1;
     Run1080p();
 }
 
-void In3D()
+static void In3D()
 {
     SYS_3DMode = 1;
 }
 
-void Install(const char* unit)
+static void Install(const char* unit)
 {
     snprintf(Page_InstallUnit, sizeof Page_InstallUnit, "%s", unit);
 }
 
 // One switcher of the middle generation, one effects unit, one panel, nothing special on.
-void Standard()
+static void Standard()
 {
     Harness_Reset();
     Dme(3); // FXU50
@@ -62,7 +60,7 @@ struct To {
     uint32_t request, opens; // 0: hidden
 };
 
-template <typename... Rows> void Check(void (*when)(), Rows... rows)
+template <typename... Rows> static void Check(void (*when)(), Rows... rows)
 {
     for (const auto& [request, opens] : {rows...}) {
         Standard();
@@ -70,7 +68,6 @@ template <typename... Rows> void Check(void (*when)(), Rows... rows)
         EXPECT_EQ(ResolvePageId(request), opens) << std::hex << request << " expected " << opens;
     }
 }
-} // namespace
 
 TEST_F(PageRules, GlobalEffectFollowsProcessorsAndModels)
 {

@@ -15,13 +15,11 @@
 #include <cstdio>
 #include <unistd.h>
 
-namespace
-{
 constexpr char LOG_FILE[] = "/tmp/page_test.log";
 
 // The n-th page of a long list of pages that exist: first page of each key of each bank, then the
 // next tab.
-uint32_t KeyPage(int n)
+static uint32_t KeyPage(int n)
 {
     static const uint32_t banks[] = {0x11, 0x12, 0x13, 0x14, 0x15, 0x16,
                                      0x17, 0x18, 0x81, 0x82, 0x85, 0x86};
@@ -66,7 +64,7 @@ struct PageTest : testing::Test {
     size_t log_read = 0;
 };
 
-auto WhereWeAre()
+static auto WhereWeAre()
 {
     return std::make_tuple(GL_NowPage, GL_PrevPage, GL_OmoteNowPage, GL_UraNowPage,
                            GL_OmotePrevPage, GL_UraPrevPage, OmoteFlag, OmoteChange, MeKeyTpye,
@@ -87,7 +85,6 @@ struct FakePage {
     }
     ~FakePage() { Page_Reset(); }
 };
-} // namespace
 
 TEST_F(PageTest, OpeningAPageTakesItsRow)
 {

@@ -141,23 +141,18 @@ TEST_F(Regions, WithoutASwitcherTheFirstChannelLeads)
 
 TEST_F(Regions, FilesOfARegionHaveItsWord)
 {
-    static const struct {
-        int grp, id;
-        const char *word, *dual, *ext; // dual: where two processors share the effects units
-    } cases[] = {
-        {8, 292, "CHF", "CHF", "DKF"},
-        {13, 295, "CH4", "CH2", "DSS"},
-        {19, 512 + 9, "ME2_2", "ME2_2", "SKS"},
-        {30, 260, "PP_SUB", "PP_SUB", "SWS"},
-    };
     Units(1, 1);
-    for (const auto& c : cases) {
-        PaneRegion_InitID(c.grp);
+    // dual: where two processors share the effects units
+    for (const auto& [grp, id, word, dual, ext] : {std::tuple{8, 292, "CHF", "CHF", "DKF"},
+                                                   {13, 295, "CH4", "CH2", "DSS"},
+                                                   {19, 512 + 9, "ME2_2", "ME2_2", "SKS"},
+                                                   {30, 260, "PP_SUB", "PP_SUB", "SWS"}}) {
+        PaneRegion_InitID(grp);
         int main = -1, sub = -1;
-        ASSERT_EQ(PaneRegion_GetGrpMainSub(c.grp, c.id, &main, &sub), 0) << c.grp << " " << c.id;
-        EXPECT_STREQ(PaneRegion_GetGrpFIRegion(c.grp, main, sub), c.word) << c.grp << " " << c.id;
-        EXPECT_STREQ(PaneRegion_GetGrpFIRegion_DualProc(c.grp, main, sub), c.dual);
-        EXPECT_STREQ(PaneRegion_GetGrpFIExt(c.grp, main, sub), c.ext) << c.grp << " " << c.id;
+        ASSERT_EQ(PaneRegion_GetGrpMainSub(grp, id, &main, &sub), 0) << grp << " " << id;
+        EXPECT_STREQ(PaneRegion_GetGrpFIRegion(grp, main, sub), word) << grp << " " << id;
+        EXPECT_STREQ(PaneRegion_GetGrpFIRegion_DualProc(grp, main, sub), dual);
+        EXPECT_STREQ(PaneRegion_GetGrpFIExt(grp, main, sub), ext) << grp << " " << id;
     }
 }
 
@@ -200,27 +195,22 @@ TEST_F(Regions, AUnitThatGoesIsNoReferenceAndComesBackAsIt)
 
 TEST_F(Regions, TheLastOneTouchedIsTheReference)
 {
-    static const struct {
-        int grp;
-        std::vector<int> touches;
-        const char* selected; // "*": the reference
-    } cases[] = {
-        {4, {1, 1}, "0*"},   // off: the first that is on takes over
-        {4, {6, 7}, "0*"},   // empty cells
-        {24, {0, 1}, "0 1"}, // units have no reference
-        {32, {1}, "1*"},     // one at a time
-        {39, {0}, "0*"},     // the reference stays
-        {39, {1}, "0 1*"},
-    };
     Units(2, 2);
-    for (const auto& c : cases) {
-        PaneRegion_InitID(c.grp);
-        Select(c.grp, {{0, c.grp == 24 ? 0 : 2}});
-        (void)PaneRegion_Create(c.grp, 0);
-        for (const int cell : c.touches)
-            TouchCell(c.grp, cell);
-        Enter(c.grp);
-        EXPECT_EQ(Selected(c.grp), c.selected) << c.grp << testing::PrintToString(c.touches);
+    // "*": the reference
+    for (const auto& [grp, touches, selected] :
+         {std::tuple{4, std::vector<int>{1, 1}, "0*"}, // off: the first that is on takes over
+          {4, {6, 7}, "0*"},                           // empty cells
+          {24, {0, 1}, "0 1"},                         // units have no reference
+          {32, {1}, "1*"},                             // one at a time
+          {39, {0}, "0*"},                             // the reference stays
+          {39, {1}, "0 1*"}}) {
+        PaneRegion_InitID(grp);
+        Select(grp, {{0, grp == 24 ? 0 : 2}});
+        (void)PaneRegion_Create(grp, 0);
+        for (const int cell : touches)
+            TouchCell(grp, cell);
+        Enter(grp);
+        EXPECT_EQ(Selected(grp), selected) << grp << testing::PrintToString(touches);
     }
     Select(4, {});
     EXPECT_EQ(PaneRegion_GetRef(4), 0);
@@ -240,8 +230,7 @@ TEST_F(Regions, OnlyEnterChangesTheSelection)
     EXPECT_NE(PixelsIn(cell), off);
     Touch(Left(4) + 15 + 62, Top(4, 0) + 30); // between two cells
     EXPECT_EQ(Pane_Exist(id), 1) << "a touch that missed loses nothing";
-    Touch(5, 5);
-    EXPECT_EQ(Last(), Quit(id, 0)) << "the way out";
+    EXPECT_EQ(Last(5, 5), Quit(id, 0)) << "the way out";
     EXPECT_EQ(Selected(4), "0*");
     Pane_Quit(PaneRegion_Create(4, 0));
     EXPECT_EQ(Selected(4), "0*");
@@ -265,8 +254,7 @@ TEST_F(Regions, ASingleSelectorAnswersWithTheRegion)
     EXPECT_EQ(answer(4, 10), "274");
     EXPECT_EQ(answer(4, 6), "0") << "a hole between the cells";
     const int id = PaneRegion_Create(4, 1);
-    Touch(5, 5);
-    EXPECT_EQ(Last(), Quit(id, 0));
+    EXPECT_EQ(Last(5, 5), Quit(id, 0));
     Units(1, 0);
     PaneRegion_InitID(23);
     Units(2, 0); // the second one has come meanwhile

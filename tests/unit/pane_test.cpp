@@ -5,19 +5,17 @@
 #include <chrono>
 #include <climits>
 
-namespace
-{
 // Of the message box at (200, 140).
 constexpr int OK_X = 200 + 160, OK_Y = 140 + 255;
 constexpr int YES_X = 200 + 100, NO_X = 200 + 215;
 constexpr int ARROW_X = 200 + 340, DOWN_Y = 140 + 205, PROGRESS_UP_Y = 140 + 125;
 
-std::string Lines(int n)
+static std::string Lines(int n)
 {
     return n > 1 ? Lines(n - 1) + "\n" + std::to_string(n) : "1";
 }
 
-std::vector<BTNSEL> Choices(int n) // with ids from 1
+static std::vector<BTNSEL> Choices(int n) // with ids from 1
 {
     std::vector<BTNSEL> items;
     while (int(items.size()) < n)
@@ -25,11 +23,10 @@ std::vector<BTNSEL> Choices(int n) // with ids from 1
     return items;
 }
 
-std::vector<uint32_t> Well()
+static std::vector<uint32_t> Well()
 {
     return PixelsIn({231, 206, 500, 374});
 }
-} // namespace
 
 using Panes = PanePage;
 
@@ -62,13 +59,10 @@ TEST_F(Panes, OnlyTheTopOneTakesInput)
     const int lower = PaneYesNo_Create("Lower", PANE_INFO, "m");
     const int upper = PaneMessage_Create("Upper", PANE_INFO, "m");
     EXPECT_EQ(Pane_GetActiveID(), upper);
-    Touch(YES_X + 5, OK_Y); // where both have something or nothing
-    EXPECT_THAT(Told(), IsEmpty());
-    Touch(OK_X + 20, OK_Y);
-    EXPECT_THAT(Told(), ElementsAre("button 1", Quit(upper, 0)));
+    EXPECT_THAT(Told(YES_X + 5, OK_Y), IsEmpty()) << "where both have something or nothing";
+    EXPECT_THAT(Told(OK_X + 20, OK_Y), ElementsAre("button 1", Quit(upper, 0)));
     EXPECT_EQ(Pane_GetActiveID(), lower);
-    Touch(NO_X, OK_Y);
-    EXPECT_THAT(Told(), ElementsAre("button 2", Quit(lower, 2)));
+    EXPECT_THAT(Told(NO_X, OK_Y), ElementsAre("button 2", Quit(lower, 2)));
 }
 
 TEST_F(Panes, ThePageBeneathOnlyTicks)
@@ -112,8 +106,7 @@ TEST_F(Panes, TheFirstAnswerCountsAndThePageMayCloseThePaneThatItHearsFrom)
     EXPECT_THAT(Told(), ElementsAre("button 1", Quit(id, 1)));
     id = PaneYesNo_Create("C", PANE_INFO, "m");
     on_button = [] { Pane_Quit(Pane_GetActiveID()); };
-    Touch(YES_X, OK_Y);
-    EXPECT_THAT(Told(), ElementsAre("button 1"));
+    EXPECT_THAT(Told(YES_X, OK_Y), ElementsAre("button 1"));
     EXPECT_EQ(Pane_Exist(id), 0);
 }
 
@@ -271,8 +264,8 @@ TEST_F(Panes, AChoiceIsTheResult)
     for (const auto& c : cases) {
         int id = c.open();
         ASSERT_GT(id, 0) << &c - cases;
-        Touch(c.x, c.y);
-        EXPECT_THAT(Told(), ElementsAre("button " + std::to_string(c.first), Quit(id, c.first)));
+        EXPECT_THAT(Told(c.x, c.y),
+                    ElementsAre("button " + std::to_string(c.first), Quit(id, c.first)));
         id = c.open();
         Touch(2, 2);
         EXPECT_EQ(Pane_Exist(id), !c.beside) << &c - cases;
@@ -294,11 +287,9 @@ TEST_F(Panes, APullDownThatIsTooLongEndsAtTheScreen)
     ASSERT_GT(id, 0);
     const PANE place = *pane_find(id); // its right edge is at 691, six columns of nine fit
     EXPECT_THAT((std::vector{place.x, place.y, place.w, place.h}), ElementsAre(56, 77, 636, 450));
-    Touch(place.x + 20, place.y + 20);
-    EXPECT_EQ(Last(), Quit(id, 1));
+    EXPECT_EQ(Last(place.x + 20, place.y + 20), Quit(id, 1));
     const int again = PanePullDown_Create(600, 100, 80, items.data());
-    Touch(place.x + 5 * 103 + 20, place.y + 8 * 48 + 20);
-    EXPECT_EQ(Last(), Quit(again, 54));
+    EXPECT_EQ(Last(place.x + 5 * 103 + 20, place.y + 8 * 48 + 20), Quit(again, 54));
     for (const auto& [y, top] : {std::pair{0, 73}, {100, 100}, {900, 527 - 4 * 48 - 18}}) {
         const int four = PanePullDown_Create(0, y, 4, items.data());
         EXPECT_EQ(pane_find(four)->y, top) << y;
@@ -321,8 +312,7 @@ TEST_F(Panes, TheChoiceOfAPopupThatStandsSaysNothing)
     for (const auto& c : cases) {
         const int id = c.open(2, 2, choices); // the second one is on
         Pass();
-        Touch(c.second_x, c.y);
-        EXPECT_THAT(Told(), IsEmpty()) << c.name;
+        EXPECT_THAT(Told(c.second_x, c.y), IsEmpty()) << c.name;
         EXPECT_EQ(Pane_Exist(id), 1) << c.name;
         Press(c.first_x, c.y);
         EXPECT_EQ(pane_find(id)->button[1].onoff, 0) << c.name << ": the old choice goes off";
@@ -341,14 +331,11 @@ TEST_F(Panes, ButtonsOfThePopupOnTopCanBeTakenAway)
     EXPECT_EQ(PanePopup_BtnCutOff(14, 1), 0);
     EXPECT_EQ(PanePopup_BtnCutOff(99, 1), -1);
     Touch(330, 240);
-    Touch(440, 290);
-    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_THAT(Told(440, 290), IsEmpty());
     EXPECT_EQ(PixelAt(440, 290), 0x2A2F32u) << "the ground shows where it was";
     EXPECT_EQ(PanePopup_BtnDisable(11, 0), 0);
-    Touch(330, 240);
-    EXPECT_EQ(Last(), Quit(upper, 11));
-    Touch(354, 250);
-    EXPECT_EQ(Last(), Quit(lower, 11)) << "the lower one was not meant";
+    EXPECT_EQ(Last(330, 240), Quit(upper, 11));
+    EXPECT_EQ(Last(354, 250), Quit(lower, 11)) << "the lower one was not meant";
 }
 
 TEST_F(Panes, DirectoriesTurnTheirPages)
@@ -363,14 +350,12 @@ TEST_F(Panes, DirectoriesTurnTheirPages)
         for (int i = 0; i < prev; i++)
             Touch(PREV_X, TURN_Y);
         EXPECT_THAT(Told(), IsEmpty()) << "turning reports nothing";
-        Touch(150, 100);
-        EXPECT_EQ(Last(), Quit(id, first)) << next << " on, " << prev << " back";
+        EXPECT_EQ(Last(150, 100), Quit(id, first)) << next << " on, " << prev << " back";
     }
     for (const auto& [entries_of_it, first] : {std::pair{30, 1}, {31, 31}}) { // 30 a page
         const int id = PaneDirectory_Create_FolderPopup(entries_of_it, entries.data());
         Touch(590 + 48 + 5, 450);
-        Touch(150, 135);
-        EXPECT_EQ(Last(), Quit(id, first)) << entries_of_it;
+        EXPECT_EQ(Last(150, 135), Quit(id, first)) << entries_of_it;
     }
     // At an end the key that leads nowhere looks so.
     const int id = PaneDirectory_Create(81, entries.data());
@@ -405,16 +390,14 @@ TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
     Touch(131 + 20, 335 + 20);
     Touch(131 + 20 + 64, 335 + 20);
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x85);
-    Touch(400, 335 + 80);
-    EXPECT_EQ(Last(), Quit(id, 1));
+    EXPECT_EQ(Last(400, 335 + 80), Quit(id, 1));
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x86);
 
     const int again = PaneRTRLvl_Create(0);
     Touch(131 + 20, 335 + 20);
     Touch(131 + 20, 335 + 80); // on the pane, beside its keys
     EXPECT_EQ(Pane_Exist(again), 1);
-    Touch(5, 5);
-    EXPECT_EQ(Last(), Quit(again, 0));
+    EXPECT_EQ(Last(5, 5), Quit(again, 0));
     EXPECT_EQ(PaneRTRLvl_Selected(), 0x86) << "left without a result";
     PaneRTRLvl_SetSelect(0);
 }
@@ -466,12 +449,10 @@ TEST_F(Panes, FindTakesNoPressWhileItSearches)
     EXPECT_EQ(PixelAt(201, 201), 0x505050U);
     EXPECT_EQ(PaneFind_Indicator(1), 0);
     EXPECT_EQ(PixelAt(201, 201), 0x00DDD4U) << "at once: the search may hold the loop up";
-    Touch(340, 250);
-    EXPECT_THAT(Told(), IsEmpty());
+    EXPECT_THAT(Told(340, 250), IsEmpty());
     EXPECT_EQ(PaneFind_Indicator(0), 0);
     Touch(340, 250);
-    Touch(320, 320);
-    EXPECT_THAT(Told(), ElementsAre("button 2", "button 4", Quit(id, 0)));
+    EXPECT_THAT(Told(320, 320), ElementsAre("button 2", "button 4", Quit(id, 0)));
 }
 
 TEST_F(Panes, RunControlSendsAndShowsTheTally)
@@ -494,8 +475,7 @@ TEST_F(Panes, RunControlSendsAndShowsTheTally)
     EXPECT_NE(PixelAt(RUN_X, ROW1), off);
     Touch(LOOP_X, ROW2);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Key Frame@Timeline@Loop#false"));
-    Touch(CLOSE_X, ROW2);
-    EXPECT_EQ(Last(), Quit(id, 0));
+    EXPECT_EQ(Last(CLOSE_X, ROW2), Quit(id, 0));
     EXPECT_THAT(TakeQueuedCommands(), testing::Contains("remove Key Frame@Timeline@Run"));
     SendDummyTally("Key Frame@Timeline@Run#true"); // nobody is there any more
 }

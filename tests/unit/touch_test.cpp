@@ -7,10 +7,8 @@
 #include <linux/input.h>
 #include <unistd.h>
 
-namespace
-{
 // All events that wait in SDL's queue.
-std::vector<SDL_Event> Events()
+static std::vector<SDL_Event> Events()
 {
     std::vector<SDL_Event> events;
     SDL_Event e;
@@ -20,7 +18,7 @@ std::vector<SDL_Event> Events()
     return events;
 }
 
-void Finger(int x, int y, int contact)
+static void Finger(int x, int y, int contact)
 {
     Touch_Record(EV_ABS, ABS_X, x);
     Touch_Record(EV_ABS, ABS_Y, y);
@@ -43,7 +41,6 @@ struct Touch : testing::Test {
         Events();
     }
 };
-} // namespace
 
 TEST_F(Touch, RawPointsBecomeScreenPointsInTruncatedSteps)
 {

@@ -11,8 +11,6 @@
 
 // --- Hands: the same keys by touch and on a keyboard ---
 
-namespace
-{
 using Keys = std::vector<const char*>;
 
 struct Place {
@@ -21,7 +19,7 @@ struct Place {
 };
 
 // Of a 50 pixel key, from the window's corner.
-void TouchAt(Place window, Place key)
+static void TouchAt(Place window, Place key)
 {
     SendMessage(MSG_PRESS, window.x + key.x + 25, window.y + key.y + 25, 1, 0);
 }
@@ -29,7 +27,7 @@ void TouchAt(Place window, Place key)
 constexpr Place KNOB_WINDOW = {446, 140};
 
 // Where a key stands in rows of keys, the named ones by their first letters.
-Place KeyIn(const Strings& rows, char key, Place first, Place pitch)
+static Place KeyIn(const Strings& rows, char key, Place first, Place pitch)
 {
     for (size_t row = 0; row < rows.size(); row++)
         if (const size_t at = rows[row].find(key); at != std::string::npos)
@@ -38,21 +36,22 @@ Place KeyIn(const Strings& rows, char key, Place first, Place pitch)
 }
 const Strings TEN_KEYS = {"789C", "456T", "123X", "0.+E"};
 
-void Stroke(int sym, int mod = 0)
+static int Stroke(int sym, int mod = 0) // the window that is open then
 {
     SendMessage(MSG_KEY, sym, mod, 0, 0);
+    return GetWindow();
 }
 
 constexpr Place KEYBOARD_WINDOW = {(800 - 722) / 2, (600 - 369) / 2 - 3};
 
-Place KeyboardPlace(const char* key)
+static Place KeyboardPlace(const char* key)
 {
     static const Strings rows = {"`1234567890-=", "qwertyuiop[]\\", "asdfghjkl;'E",
                                  "S\tzxcvbnm,./D", "C\t \t\t\t\tLRB"};
     return KeyIn(rows, *key, {12, 91}, {54, 54});
 }
 
-void TouchKeyboard(const Keys& keys)
+static void TouchKeyboard(const Keys& keys)
 {
     for (const char* key : keys)
         TouchAt(KEYBOARD_WINDOW, KeyboardPlace(key));
@@ -60,27 +59,27 @@ void TouchKeyboard(const Keys& keys)
 
 constexpr uint32_t GROUND = 0x102030;
 // Pixels of an area that are not the ground.
-long Painted(const Rect& r)
+static long Painted(const Rect& r)
 {
     const auto pixels = PixelsIn(r);
     return long(pixels.size()) - std::count(pixels.begin(), pixels.end(), GROUND);
 }
 
-std::vector<std::string> heard; // what came back, in order
+static std::vector<std::string> heard; // what came back, in order
 
-int HearText(const char* text)
+static int HearText(const char* text)
 {
     heard.push_back(std::string("text ") + text + (GetWindow() ? " too early" : ""));
     return 0;
 }
-int HearValue(int value)
+static int HearValue(int value)
 {
     char line[32];
     snprintf(line, sizeof line, "value %X%s", unsigned(value), GetWindow() ? " too early" : "");
     heard.push_back(line);
     return 0;
 }
-int HearMessage(const probe::Seen& s)
+static int HearMessage(const probe::Seen& s)
 {
     const std::string numbers = std::to_string(s.bx) + (GetWindow() ? " too early" : "");
     if (s.msg == LMSG_PULLDOWNSEL)
@@ -91,11 +90,10 @@ int HearMessage(const probe::Seen& s)
         heard.push_back("path " + std::to_string(s.ax) + " " + numbers);
     return 0;
 }
-std::vector<std::string> Heard()
+static std::vector<std::string> Heard()
 {
     return std::exchange(heard, {});
 }
-} // namespace
 
 struct Windows : BusTest {
     void SetUp() override
@@ -247,14 +245,14 @@ TEST_F(Windows, EveryTypeGivesTheScreenBack)
 TEST_F(Windows, AReservedQuitIsAnsweredAtTheNextPassAsItsKeyWould)
 {
     static const char* const cells[] = {"A", "B", "C"};
-    for (const auto& [type, var, heard] : {std::tuple{WINDOW_KEYBOARD, 0, Strings{"text abc"}},
-                                           {WINDOW_MESSAGE, 0, {"value 7"}},
-                                           {WINDOW_MESSAGE, 1, {}},
-                                           {WINDOW_HEX, 2, {"value ABC"}},
-                                           {WINDOW_PULLDOWN, 3, {"pull-down Any 2"}},
-                                           {WINDOW_PULLDOWN, 0, {}},
-                                           {WINDOW_SELECT, 1, {"select Any 0"}},
-                                           {WINDOW_PATH, 4, {"path 2 3"}}}) {
+    for (const auto& [type, var, answers] : {std::tuple{WINDOW_KEYBOARD, 0, Strings{"text abc"}},
+                                             {WINDOW_MESSAGE, 0, {"value 7"}},
+                                             {WINDOW_MESSAGE, 1, {}},
+                                             {WINDOW_HEX, 2, {"value ABC"}},
+                                             {WINDOW_PULLDOWN, 3, {"pull-down Any 2"}},
+                                             {WINDOW_PULLDOWN, 0, {}},
+                                             {WINDOW_SELECT, 1, {"select Any 0"}},
+                                             {WINDOW_PATH, 4, {"path 2 3"}}}) {
         WindowArgs args{.value = "abc", .rows = 3, .captions = cells, .path_type = PATHSEL_CURVE0};
         args.ok = HearValue;
         args.ok_var = 7;
@@ -264,7 +262,7 @@ TEST_F(Windows, AReservedQuitIsAnsweredAtTheNextPassAsItsKeyWould)
         EXPECT_EQ(GetWindow(), type);
         Pass();
         EXPECT_EQ(GetWindow(), 0) << type;
-        EXPECT_EQ(Heard(), heard) << type << " " << var;
+        EXPECT_EQ(Heard(), answers) << type << " " << var;
     }
     Window_ReserveQuit(0); // nobody is there
     CreateWindow(WINDOW_MESSAGE, "Next");
@@ -276,10 +274,8 @@ TEST_F(Windows, AnAnswerMayOpenTheNextWindow)
 {
     const auto next = [](const char*) { return CreateWindow(WINDOW_MESSAGE, "Next"); };
     CreateWindow(WINDOW_KEYBOARD, "Password", {.ok_text = next});
-    Stroke(SDLK_RETURN);
-    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
-    Stroke(SDLK_RETURN);
-    EXPECT_EQ(GetWindow(), 0);
+    EXPECT_EQ(Stroke(SDLK_RETURN), WINDOW_MESSAGE);
+    EXPECT_EQ(Stroke(SDLK_RETURN), 0);
     Pass();
     EXPECT_EQ(probe::Count(MSG_REDRAW), 1);
 }
@@ -353,8 +349,7 @@ TEST_F(Windows, KeysOfAKeyboardWriteAsOnTheScreenAndStrayOnesNothing)
         Stroke(sym);
     EXPECT_THAT(Heard(), ElementsAre("text xbc!Dy\""));
     CreateWindow(WINDOW_KEYBOARD, "Name", {.value = "ab", .ok_text = HearText});
-    Stroke(SDLK_ESCAPE);
-    EXPECT_EQ(GetWindow(), 0);
+    EXPECT_EQ(Stroke(SDLK_ESCAPE), 0);
     EXPECT_THAT(Heard(), IsEmpty());
 }
 
@@ -419,31 +414,26 @@ TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
 TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
 {
     static const char* const cells[] = {"A", "B", nullptr, "D", "", "F"};
-    static const struct {
-        int type;
-        int x, y; // in the window at (100, 100)
-        std::vector<std::string> heard;
-    } cases[] = {
-        {WINDOW_PULLDOWN, 20, 20, {"pull-down LOCAL@List 0"}},
-        {WINDOW_PULLDOWN, 120, 80, {"pull-down LOCAL@List 5"}},
-        {WINDOW_PULLDOWN, -10, 20, {}},
-        {WINDOW_SELECT, 100, 60 + 2 * 43, {"select LOCAL@List 5"}},
-        {WINDOW_SELECT, 400, 400, {}},
-        {WINDOW_PATH, 20, 20, {"path 4 0"}},
-        {WINDOW_PATH, 20 + 2 * 68, 20, {"path 4 4"}}, // no S, no spline
-        {WINDOW_PATH, 20 + 4 * 68, 20, {}},
-    };
     const WindowArgs grid{.x = 100,
                           .y = 100,
                           .columns = 2,
                           .rows = 3,
                           .captions = cells,
                           .path_type = PATHSEL_CURVE2};
-    for (const auto& c : cases) {
-        CreateWindow(c.type, "LOCAL@List", grid);
-        SendMessage(MSG_PRESS, 100 + c.x, 100 + c.y, 1, 0);
-        EXPECT_EQ(GetWindow(), 0) << c.type;
-        EXPECT_EQ(Heard(), c.heard) << c.type;
+    // y: in the window at (100, 100)
+    for (const auto& [type, x, y, answers] :
+         {std::tuple{WINDOW_PULLDOWN, 20, 20, Strings{"pull-down LOCAL@List 0"}},
+          {WINDOW_PULLDOWN, 120, 80, {"pull-down LOCAL@List 5"}},
+          {WINDOW_PULLDOWN, -10, 20, {}},
+          {WINDOW_SELECT, 100, 60 + 2 * 43, {"select LOCAL@List 5"}},
+          {WINDOW_SELECT, 400, 400, {}},
+          {WINDOW_PATH, 20, 20, {"path 4 0"}},
+          {WINDOW_PATH, 20 + 2 * 68, 20, {"path 4 4"}}, // no S, no spline
+          {WINDOW_PATH, 20 + 4 * 68, 20, {}}}) {
+        CreateWindow(type, "LOCAL@List", grid);
+        SendMessage(MSG_PRESS, 100 + x, 100 + y, 1, 0);
+        EXPECT_EQ(GetWindow(), 0) << type;
+        EXPECT_EQ(Heard(), answers) << type;
     }
     CreateWindow(WINDOW_SELECT, "Corner", {.x = 790, .y = 590, .captions = cells});
     SendMessage(MSG_PRESS, 750, 560, 1, 0); // it has been moved onto the screen
@@ -455,26 +445,19 @@ TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
 
 TEST_F(Windows, ABoxAnswersWithTheKeysThatItHas)
 {
-    static const struct {
-        WindowArgs args;
-        int type, sym, window; // the one that is open afterwards
-        size_t heard;
-    } cases[] = {
-        {{}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 1},
-        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_RETURN, 0, 1},
-        {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 0},
-        {{.no_button = true}, WINDOW_MESSAGE, SDLK_ESCAPE, WINDOW_MESSAGE, 0},
-        {{}, WINDOW_PROGRESS, SDLK_RETURN, WINDOW_PROGRESS, 0},
-        {{}, WINDOW_PROGRESS, SDLK_ESCAPE, 0, 1},
-    };
-    for (const auto& c : cases) {
-        WindowArgs args = c.args;
+    // window: the one that is open afterwards
+    for (auto [args, type, sym, window, answers] :
+         {std::tuple<WindowArgs, int, int, int, size_t>{{}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 1},
+          {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_RETURN, 0, 1},
+          {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 0},
+          {{.no_button = true}, WINDOW_MESSAGE, SDLK_ESCAPE, WINDOW_MESSAGE, 0},
+          {{}, WINDOW_PROGRESS, SDLK_RETURN, WINDOW_PROGRESS, 0},
+          {{}, WINDOW_PROGRESS, SDLK_ESCAPE, 0, 1}}) {
         args.ok = HearValue;
-        CreateWindow(c.type, "Box", args);
+        CreateWindow(type, "Box", args);
         Stroke('x');
-        Stroke(c.sym);
-        EXPECT_EQ(GetWindow(), c.window);
-        EXPECT_EQ(Heard().size(), c.heard);
+        EXPECT_EQ(Stroke(sym), window);
+        EXPECT_EQ(Heard().size(), answers);
     }
     CreateWindow(WINDOW_PROGRESS, "Nobody hears of a cancel");
     Stroke(SDLK_ESCAPE);
@@ -497,9 +480,10 @@ struct PageJump : Windows {
         std::filesystem::remove_all(DIRECTORY);
     }
     static constexpr Place CORNER = {(800 - 604) / 2, (600 - 443) / 2};
-    static void PressFavorite(int n)
+    static int PressFavorite(int n) // the window that is open then
     {
         TouchAt(CORNER, {17 + 86 * (n % 4), 55 + 43 * (n / 4) - 10});
+        return GetWindow();
     }
     static std::string Path(int set)
     {
@@ -531,22 +515,18 @@ TEST_F(PageJump, AFavouriteOpensItsPage)
     for (const auto& [n, page] : {std::pair{5, 0x11110002u}, {28, 0x73160010u}}) {
         GL_CreatePage = 0;
         CreateWindow(WINDOW_PAGE_JUMP, "Page");
-        PressFavorite(0); // a free one
-        EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
-        PressFavorite(n);
-        EXPECT_EQ(GetWindow(), 0);
+        EXPECT_EQ(PressFavorite(0), WINDOW_PAGE_JUMP) << "a free one";
+        EXPECT_EQ(PressFavorite(n), 0);
         EXPECT_EQ(GL_CreatePage, page);
     }
     SYS_MEOperation[0] = 1; // M/E-1 has no pages then
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
-    PressFavorite(5);
-    EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
+    EXPECT_EQ(PressFavorite(5), WINDOW_PAGE_JUMP);
     SYS_MEOperation[0] = 0;
     (void)CloseWindow();
     WriteFile(1, file.substr(0, 28 * 24 + 23)); // cut: none of it
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
-    PressFavorite(5);
-    EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
+    EXPECT_EQ(PressFavorite(5), WINDOW_PAGE_JUMP);
 }
 
 // Place of the keys under the favourites: set, store, colour.
@@ -585,8 +565,7 @@ TEST_F(PageJump, StoredKeysAndColoursAreInTheFileAtOnce)
     for (int set = 1; set < 5; set++) {
         TouchAt(CORNER, {17 + 86, 346});
         EXPECT_NE(look()[0], 0u) << "a free key";
-        PressFavorite(1);
-        EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP) << "set " << set + 1 << " is empty";
+        EXPECT_EQ(PressFavorite(1), WINDOW_PAGE_JUMP) << "set " << set + 1 << " is empty";
     }
     TouchAt(CORNER, {17 + 86, 346}); // round again
     PressFavorite(1);
@@ -641,31 +620,26 @@ struct KnobInput : KnobColumn {
 
 TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
 {
-    static const struct {
-        int slot;
-        Keys keys;
-        std::vector<std::string> sent;
-    } cases[] = {
-        {1, {"Enter"}, {"put Clip#-12.50"}}, // as it was
-        {1, {"Cancel"}, {}},
-        {1, {"5", "+/-", "+/-", "Enter"}, {"put Clip#5.00"}},
-        {1, {".", "5", ".", "2", "Enter"}, {"put Clip#0.52"}},
-        {1, {"1", "2", "+/-", "Clear", "7", "Enter"}, {"put Clip#7.00"}},
-        {1, {"1", "2", "3", "4", "Enter"}, {"put Clip#100.00"}},
-        {1, {"Trim", "2", "Trim"}, {"put Clip#-10.50"}}, // the first has nothing to add
-        {1, {"+/-", "9", "0", "Trim"}, {"put Clip#-100.00"}},
-        {2, {"2", "0", "0", "Enter"}, {"put Level#109.5"}}, // limits the other way round
-        {3, {"Enter"}, {"put Rate#00:03:00"}},
-        {3, {"2", "5", "1", "2", "Enter"}, {"put Rate#00:25:12"}},
-        {3, {"5", "+/-", "Enter"}, {"put Rate#-00:00:05"}},
-        {3, {"1", ":", "1", "2", "Enter"}, {"put Rate#00:01:12"}},
-        {3, {"2", "3", ":", "0", ":", "0", ":", "0", "Enter"}, {"put Rate#01:00:00"}},
-        {3, {"4", "5", "Enter", "Clear", "1", "5", "Enter"}, {"put Rate#00:00:15"}},
-        // A colon opens a field of two digits; the next one moves all on.
-        {3, {"5", ":", "1", "2", "3", "Enter"}, {"put Rate#00:51:23"}},
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Sent(c.slot, c.keys), c.sent) << c.keys[0];
+    // In a time code a colon opens a field of two digits; the next digit moves all on.
+    for (const auto& [slot, keys, sent] :
+         {std::tuple<int, Keys, std::vector<std::string>>{
+              1, {"Enter"}, Strings{"put Clip#-12.50"}}, // as it was
+          {1, {"Cancel"}, {}},
+          {1, {"5", "+/-", "+/-", "Enter"}, {"put Clip#5.00"}},
+          {1, {".", "5", ".", "2", "Enter"}, {"put Clip#0.52"}},
+          {1, {"1", "2", "+/-", "Clear", "7", "Enter"}, {"put Clip#7.00"}},
+          {1, {"1", "2", "3", "4", "Enter"}, {"put Clip#100.00"}},
+          {1, {"Trim", "2", "Trim"}, {"put Clip#-10.50"}}, // the first has nothing to add
+          {1, {"+/-", "9", "0", "Trim"}, {"put Clip#-100.00"}},
+          {2, {"2", "0", "0", "Enter"}, {"put Level#109.5"}}, // limits the other way round
+          {3, {"Enter"}, {"put Rate#00:03:00"}},
+          {3, {"2", "5", "1", "2", "Enter"}, {"put Rate#00:25:12"}},
+          {3, {"5", "+/-", "Enter"}, {"put Rate#-00:00:05"}},
+          {3, {"1", ":", "1", "2", "Enter"}, {"put Rate#00:01:12"}},
+          {3, {"2", "3", ":", "0", ":", "0", ":", "0", "Enter"}, {"put Rate#01:00:00"}},
+          {3, {"4", "5", "Enter", "Clear", "1", "5", "Enter"}, {"put Rate#00:00:15"}},
+          {3, {"5", ":", "1", "2", "3", "Enter"}, {"put Rate#00:51:23"}}}) {
+        EXPECT_EQ(Sent(slot, keys), sent) << keys[0];
         EXPECT_EQ(GetWindow(), 0);
         EXPECT_EQ(NB_SendValue(1), -1) << "a box is still selected";
     }
