@@ -132,8 +132,13 @@ static std::string Numbered(int i)
     return "put A@B#" + std::to_string(100000 + i);
 }
 
-TEST_F(TextLink, APassSends33ItemsAndPausesAreAmongThem)
+TEST_F(TextLink, APassSends33ItemsAndACommandOf1023CharactersHasNoRoomForItsEnd)
 {
+    Net_SendCommand(std::string(1022, 'a').c_str());
+    Net_SendCommand(std::string(1030, 'b').c_str());
+    Net_SendCommand("c");
+    EXPECT_EQ(Net_SendCommandQueue(), 0);
+    EXPECT_THAT(peer.Lines(), ElementsAre(std::string(1022, 'a'), std::string(1023, 'b') + "c"));
     Net_SendCommand("TM3WAIT#0");
     Net_SendCommand("TM3WAIT#250");
     Net_SendCommand("TM3WAIT#-1");
@@ -146,15 +151,6 @@ TEST_F(TextLink, APassSends33ItemsAndPausesAreAmongThem)
     ASSERT_EQ(lines.size(), 30u);
     EXPECT_EQ(lines[0], Numbered(0));
     EXPECT_EQ(Net_QueueLength(), 10);
-}
-
-TEST_F(TextLink, ACommandOf1023CharactersHasNoRoomForItsEnd)
-{
-    Net_SendCommand(std::string(1022, 'a').c_str());
-    Net_SendCommand(std::string(1030, 'b').c_str());
-    Net_SendCommand("c");
-    EXPECT_EQ(Net_SendCommandQueue(), 0);
-    EXPECT_THAT(peer.Lines(), ElementsAre(std::string(1022, 'a'), std::string(1023, 'b') + "c"));
 }
 
 TEST_F(Link, WhatWasQueuedWhileTheServerWasAwayGoesOutInOrder)

@@ -83,7 +83,7 @@ TEST_F(BaseAreaTest, PagesOfOneBranchHaveTitlesThatDiffer)
     EXPECT_EQ(titles.size(), std::size(last));
 }
 
-TEST_F(BaseAreaTest, HistoryStepsEndAtBothEnds)
+TEST_F(BaseAreaTest, HistoryStepsEndAtBothEndsAndNameThePageWithoutItsVariant)
 {
     OpenKeyType();
     EXPECT_EQ(PageOf(BACK), NONE);
@@ -94,6 +94,16 @@ TEST_F(BaseAreaTest, HistoryStepsEndAtBothEnds)
     EXPECT_EQ(PageOf(FWD), 0x33110000u);
     Omote_History_NowPtr = 1;
     EXPECT_EQ(PageOf(BACK), 0x00110000u);
+    // The label of a step has room for what the page button shows, and no more.
+    Omote_History_NowPtr = Omote_History_MaxPtr = 1;
+    const auto label = [](uint32_t page_before) {
+        Omote_History[0] = page_before;
+        (void)ba_drw_back();
+        return PixelsIn(ZONE_BACK);
+    };
+    const auto plain = label(0x61130001);
+    EXPECT_EQ(label(0x61131001), plain);
+    EXPECT_NE(label(0x61130002), plain);
 }
 
 TEST_F(BaseAreaTest, ArmedDefaultRecallStopsAllButItselfAndEndsWithItsPage)
@@ -112,7 +122,7 @@ TEST_F(BaseAreaTest, ArmedDefaultRecallStopsAllButItselfAndEndsWithItsPage)
     EXPECT_EQ(BA_IsDefaultButton(), 0);
 }
 
-TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
+TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecallNotOnTheTimeline)
 {
     for (const auto& [section, id, recall] :
          {std::tuple{"M/E-1", 0x11110000u, true},
@@ -123,6 +133,10 @@ TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecall)
         OpenBase({section, "X"}, id);
         EXPECT_EQ(Armed(), recall) << section << std::hex << id;
     }
+    OpenBase({"Key Frame", "Timeline"}, 0x61110000, base_kf_tl);
+    EXPECT_EQ(PageOf(TOP_RIGHT), NONE);
+    EXPECT_EQ(PageOf(TITLE), 0x61000000u);
+    EXPECT_EQ(Armed(), 0);
 }
 
 struct SetupLockKey : BaseAreaTest {
@@ -296,14 +310,6 @@ TEST_F(BaseAreaTest, ARecordedMenuMacroTakesTheKeysOver)
     EXPECT_EQ(Armed(), 1) << "default recall keeps its place";
 }
 
-TEST_F(BaseAreaTest, TheTimelineIsItsOwnPage)
-{
-    OpenBase({"Key Frame", "Timeline"}, 0x61110000, base_kf_tl);
-    EXPECT_EQ(PageOf(TOP_RIGHT), NONE);
-    EXPECT_EQ(PageOf(TITLE), 0x61000000u);
-    EXPECT_EQ(Armed(), 0);
-}
-
 TEST_F(BaseAreaTest, LampsTellWhoIsAtTheDisks)
 {
     constexpr uint32_t OFF = 0x282828, RED = 0xFF0000, GREEN = 0x00FF00;
@@ -320,21 +326,6 @@ TEST_F(BaseAreaTest, LampsTellWhoIsAtTheDisks)
     BA_SetFtpAccess(0);
     BA_SetHDDAccess(0);
     EXPECT_EQ(lamps(), std::pair(OFF, OFF));
-}
-
-// The label of a step has room for what the page button shows, and no more.
-TEST_F(BaseAreaTest, TheHistoryNamesAPageWithoutItsVariant)
-{
-    OpenKeyType();
-    Omote_History_NowPtr = Omote_History_MaxPtr = 1;
-    const auto label = [](uint32_t page_before) {
-        Omote_History[0] = page_before;
-        (void)ba_drw_back();
-        return PixelsIn(ZONE_BACK);
-    };
-    const auto plain = label(0x61130001);
-    EXPECT_EQ(label(0x61131001), plain);
-    EXPECT_NE(label(0x61130002), plain);
 }
 
 TEST_F(BaseAreaTest, KeyChangeStepsBetweenTheHalvesOfABank)

@@ -133,7 +133,7 @@ TEST_F(ButtonFamily, AFreezeNeedsAUnitThatHoldsThePicture)
 
 // --- Select ---
 
-TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBank)
+TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBankAndABorderIsReadBack)
 {
     static const struct {
         const char* bank;
@@ -148,11 +148,7 @@ TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBank)
         Press(17);
         EXPECT_EQ(std::exchange(GL_CreatePage, 0u), c.page) << c.bank;
     }
-}
-
-// The server tells of it only when it is asked.
-TEST_F(ButtonFamily, TheBorderIsReadBackBehindItsPress)
-{
+    // The server tells of it only when it is asked.
     rows[0] = Button(17, BT_TOGGLE, {"~@Border#*"});
     rows[0].select_func = bt_sel_cgborder;
     OpenTree({"M/E-1", "X"}, 0x11110000, rows);

@@ -187,17 +187,7 @@ TEST_F(KnobLinks, AKeyThatTurnsHasItsOwnBoxes)
     }
 }
 
-TEST_F(KnobLinks, AShownColumnFollowsTheRotationOfTheKey)
-{
-    SetTree({"M/E-1", "Key1", "Processed Key"}, 0x11160000);
-    OpenLink(23, {"~2@Processed Key@Rotation#"});
-    Press(17);
-    (void)TakeQueuedCommands();
-    SendDummyTally("M/E-1@Key1@Processed Key@Rotation#true");
-    EXPECT_THAT(TakeQueuedCommands(), Contains("assign Knob0#M/E-1@Key1@Processed Key@Rotation@X"));
-}
-
-TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumn)
+TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumnAndAShownOneFollowsItsKey)
 {
     OpenLink(35, {"~@Speed#"});
     EXPECT_THAT(Pressed(17), Contains("assign Knob0#M/E-1@Key1@Type@Angle@Angle"));
@@ -207,6 +197,12 @@ TEST_F(KnobLinks, ALinkWithoutATableBlanksTheColumn)
     char path[CMD_SIZE];
     double value;
     EXPECT_EQ(NB_GetKnob_info("Angle\ndeg", path, &value, sizeof path), -1);
+    SetTree({"M/E-1", "Key1", "Processed Key"}, 0x11160000);
+    OpenLink(23, {"~2@Processed Key@Rotation#"});
+    Press(17);
+    (void)TakeQueuedCommands();
+    SendDummyTally("M/E-1@Key1@Processed Key@Rotation#true");
+    EXPECT_THAT(TakeQueuedCommands(), Contains("assign Knob0#M/E-1@Key1@Processed Key@Rotation@X"));
 }
 
 struct DmePages : TablePage {
@@ -326,7 +322,7 @@ TEST_F(DmePages, ACornerGoesAsFarAsModeFormatAndAspectLetIt)
     }
 }
 
-TEST_F(DmePages, TheCropHasOneSenseOnItsPage)
+TEST_F(DmePages, TheCropHasOneSenseAndTheCellsAreThoseOfTheTransformThatIsTurned)
 {
     const std::string path = "DME@Edge@Border/Crop@Crop";
     Open(0x41110000);
@@ -336,10 +332,6 @@ TEST_F(DmePages, TheCropHasOneSenseOnItsPage)
     EXPECT_EQ(Farthest(2), "put " + path + "@V#4.00");
     Tell(path + "@Separate#true");
     EXPECT_EQ(Farthest(2), "put " + path + "@Left#5.33");
-}
-
-TEST_F(DmePages, TheCellsAreThoseOfTheTransformThatIsTurned)
-{
     const std::string status = "DME@Status@3D Param@";
     EXPECT_THAT(Open(0x41710000), Contains("add " + status + "Mode Status@Reference"));
     EXPECT_THAT(Tell(status + "Mode Status@Reference#12,5,0"),

@@ -30,7 +30,7 @@ struct Buttons : ButtonPage {
     }
 };
 
-TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgain)
+TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgainUnlessItIsOnlyRead)
 {
     rows[0] = Button(17, BT_RADIO, {"~@Key Type#Luminance"});
     rows[1] = Button(18, BT_RADIO, {"~@Key Type#Linear", "~2@Invert#true", "LOCAL@Test@Mode#1"});
@@ -42,6 +42,14 @@ TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgain)
     EXPECT_EQ(BT_Create(nullptr, 0), 1);
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("remove M/E-1@Key1@Type@Key Type", "remove M/E-1@Key1@Invert"));
+    std::fill(std::begin(rows), std::end(rows), BT_TBL{});
+    rows[0] = Button(17, BT_TOGGLE, {"~@A#*", "~@B#", "~@C#"});
+    rows[0].no_add = 2; // from the second command on
+    BT_Create(rows, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@A", "read M/E-1@Key1@Type@B",
+                                                  "read M/E-1@Key1@Type@C"));
+    BT_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
 }
 
 TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
@@ -122,7 +130,7 @@ TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
 
 // --- Tallies ---
 
-TEST_F(Buttons, ATallyOfItsPathAndNotThePressSetsTheState)
+TEST_F(Buttons, ATallyOfItsPathSetsTheStateAndThatOfADependencyTheUse)
 {
     BT_Proc(MSG_TALLY, Arg("M/E-1@Key1@Invetr"), Arg("true"), MsgArg(Hash("M/E-1@Key1@Invert")), 0);
     EXPECT_EQ(BT_GetStatus(20), BT_NO_TALLY) << "the same sum is not the same path";
@@ -133,10 +141,6 @@ TEST_F(Buttons, ATallyOfItsPathAndNotThePressSetsTheState)
     EXPECT_EQ(BT_GetOnOff(20), 1);
     Tally("M/E-1@Key1@Type@Auto", "true");
     EXPECT_EQ(BT_GetStatus(21), BT_NO_TALLY) << "an action has no state";
-}
-
-TEST_F(Buttons, ADependencyDisablesAndEnables)
-{
     Tally("M/E-1@Key1@Type@Key Type", "Linear");
     EXPECT_EQ(BT_GetVisible(20), BT_DISABLED);
     Tally("M/E-1@Key1@Type@Key Type", "Chroma");
@@ -148,7 +152,7 @@ TEST_F(Buttons, ADependencyDisablesAndEnables)
 
 // --- Knobs ---
 
-TEST_F(Buttons, TheFirstTouchOfAButtonThatIsOnOnlyFetchesItsKnobs)
+TEST_F(Buttons, TheFirstTouchOfAButtonThatIsOnFetchesTheKnobsAndTheyGoWithItsState)
 {
     Tally("M/E-1@Key1@Type@Key Type", "Luminance");
     EXPECT_THAT(Pressed(17), IsEmpty());
@@ -160,10 +164,6 @@ TEST_F(Buttons, TheFirstTouchOfAButtonThatIsOnOnlyFetchesItsKnobs)
     Press(35);
     EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Mode 1 1", "LOCAL@Test@Mode 1 0"));
     EXPECT_EQ(BT_GetKnobAssign(), 35);
-}
-
-TEST_F(Buttons, TheKnobsGoWithTheStateOfTheirOwner)
-{
     Press(18);
     EXPECT_EQ(BT_GetKnobAssign(), 18);
     Tally("M/E-1@Key1@Type@Key Type", "Luminance");
@@ -189,17 +189,6 @@ TEST_F(Buttons, AButtonThatCannotBeUsedLetsGoOfTheKnobs)
 }
 
 using SpecialRows = ButtonPage;
-
-TEST_F(SpecialRows, WhatIsReadOnceIsNeitherAddedNorRemoved)
-{
-    rows[0] = Button(17, BT_TOGGLE, {"~@A#*", "~@B#", "~@C#"});
-    rows[0].no_add = 2; // from the second command on
-    BT_Create(rows, 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Type@A", "read M/E-1@Key1@Type@B",
-                                                  "read M/E-1@Key1@Type@C"));
-    BT_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
-}
 
 TEST_F(SpecialRows, AnOlderFrameMemoryHasNoResizerToFollow)
 {

@@ -36,7 +36,7 @@ struct WipeLists : TabPage {
     }
 };
 
-TEST_F(WipeLists, APressSendsTheNumberOfItsCell)
+TEST_F(WipeLists, APressSendsTheNumberOfItsCellWhichForUserProgramsMovesWithBankAndKey)
 {
     EXPECT_THAT(Sent(X(0), Y(0)), ElementsAre(std::string("put ") + PATH + "#1001"));
     static const struct {
@@ -50,10 +50,7 @@ TEST_F(WipeLists, APressSendsTheNumberOfItsCell)
         EXPECT_EQ(Number(c.x, c.y), c.number) << c.x << "," << c.y;
     BA_SetDefaultButton(1);
     EXPECT_THAT(Sent(X(0), Y(0)), IsEmpty());
-}
-
-TEST_F(WipeLists, TheNumbersOfUserProgramsMoveWithBankAndKey)
-{
+    BA_SetDefaultButton(0);
     for (const auto& [bank, key, user] : {std::tuple{"PGM/PST", "DSK2", "1911"},
                                           {"M/E-1", "Key1", "1921"},
                                           {"M/E-2", "Key2", "1951"},

@@ -102,7 +102,7 @@ TEST_F(FileFolder, FollowsTheCatalogueAndKeepsTheSelection)
     EXPECT_THAT(Names(), ElementsAre("BACK"));
 }
 
-TEST_F(FileFolder, OpensFoldersAndGoesBack)
+TEST_F(FileFolder, OpensFoldersGoesBackAndLeavesALostOne)
 {
     Cell(0);
     EXPECT_STREQ(FF_GetCurrentPath(0), "/root/");
@@ -117,10 +117,6 @@ TEST_F(FileFolder, OpensFoldersAndGoesBack)
     (void)FF_ChangeDirectory(0, "/NEWS/A/B/C");
     Ancestor(0);
     EXPECT_STREQ(FF_GetCurrentPath(0), "/root/");
-}
-
-TEST_F(FileFolder, RemembersThePageAndLeavesALostFolder)
-{
     (void)FF_ChangeDirectory(0, "/NEWS/A/B/C");
     Cell(0);
     (void)Open(PAGE_LOAD);

@@ -68,16 +68,10 @@ TEST_F(BottomTabs, ATabWithoutAPageIsBlankButTheChosenOne)
     EXPECT_EQ(Asked(Cell(2), Y), 0x11120000u);
 }
 
-TEST_F(BottomTabs, EachPathIsFollowedOnceWhileTheTabsStand)
+TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValueEachFollowedOnce)
 {
-    const std::string edge = "M/E-1@Key1@Edge@Edge Type", soft = "M/E-1@Key1@Edge@Soft Edge";
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add " + edge, "add " + soft));
-    HF_Create(nullptr, 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove " + edge, "remove " + soft));
-}
-
-TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)
-{
+    const std::string edge_type = "M/E-1@Key1@Edge@Edge Type", soft = "M/E-1@Key1@Edge@Soft Edge";
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add " + edge_type, "add " + soft));
     for (const auto& [path, value, edge, mask] :
          {std::tuple{"M/E-1@Key1@Edge@Edge Type", "Border", true, false},
           {"M/E-1@Key1@Edge@Soft Edge", "true", true, true},
@@ -89,4 +83,6 @@ TEST_F(BottomTabs, ATabIsLitWhileAnyOfItsPathsHasItsValue)
         EXPECT_EQ(IsLit(2), edge) << path << "#" << value;
         EXPECT_EQ(IsLit(4), mask) << path << "#" << value;
     }
+    HF_Create(nullptr, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove " + edge_type, "remove " + soft));
 }

@@ -106,7 +106,7 @@ TEST_F(Lists, PluralAddsAndTakesAwayUntilItIsLeft)
     EXPECT_EQ(Picture(), "..........") << "unless it was taken out";
 }
 
-TEST_F(Lists, BlockTurnsAllRowsOverAndKeepsThemInOnePiece)
+TEST_F(Lists, BlockTurnsAllRowsOverAndKeepsThemOneRun)
 {
     Open(plain, 5);
     BlockKey();
@@ -121,10 +121,6 @@ TEST_F(Lists, BlockTurnsAllRowsOverAndKeepsThemInOnePiece)
     Plural();
     EXPECT_EQ(LS_GetALL(1), 0) << "all rows are no selection of one";
     EXPECT_EQ(Picture(), "...x......") << "the current row";
-}
-
-TEST_F(Lists, ABlockStaysOneRun)
-{
     // touches: lines in the window
     for (const auto& [touches, after] :
          {std::pair{std::vector<int>{3, 1, 2}, ".xx......."}, // row 1 began a new block
@@ -218,7 +214,7 @@ TEST_F(Lists, ArrowsMoveTheCurrentRowAndKeepItInside)
     EXPECT_THAT(Told("SB"), IsEmpty());
 }
 
-TEST_F(Lists, TheWheelIsAPressOnAnArrow)
+TEST_F(Lists, TheWheelIsAPressOnAnArrowAndNoneBesideWhatStandsOverThem)
 {
     Open(plain, 20);
     for (auto [x, y, dir, taken, at_x, at_y] : {std::array{100, 100, 4, 1, 202, 100},
@@ -229,10 +225,6 @@ TEST_F(Lists, TheWheelIsAPressOnAnArrow)
     }
     Touch(202, 231);
     EXPECT_EQ(LS_GetNowLine(1), 1);
-}
-
-TEST_F(Lists, TheWheelIsNoPressBesideWhatStandsOverThem)
-{
     static const char* const captions[] = {"M/E-1", "M/E-2"};
     Open(plain, 20);
     CreateWindow(WINDOW_PULLDOWN, "Bank", {.x = 400, .y = 100, .rows = 2, .captions = captions});

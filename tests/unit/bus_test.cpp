@@ -32,7 +32,7 @@ TEST_F(Bus, TheRowIsWalkedToItsFirstEmptyPlace)
     EXPECT_EQ(SendMessage(MSG_KEY, 0, 0, 0, 0), 0);
 }
 
-TEST_F(Bus, AConsumedMessageGoesNoFurtherAndStillReturns0)
+TEST_F(Bus, AConsumedMessageGoesNoFurtherAndANestedOneFirst)
 {
     probe::page.obj[1] = probe::page.obj[0];
     std::vector<std::vector<MsgArg>> seen;
@@ -42,11 +42,8 @@ TEST_F(Bus, AConsumedMessageGoesNoFurtherAndStillReturns0)
     };
     EXPECT_EQ(SendMessage(MSG_PRESS, 10, 20, 1, 0), 0);
     EXPECT_THAT(seen, ElementsAre(ElementsAre(10, 20, 1, 0)));
-}
-
-TEST_F(Bus, ANestedMessageIsDeliveredBeforeTheOuterOneGoesOn)
-{
-    probe::page.obj[1] = probe::page.obj[0];
+    SendMessage(MSG_RELEASE, 10, 20, 0, 0);
+    probe::seen.clear();
     probe::answer = [](const probe::Seen& s) {
         if (s.msg == MSG_PRESS && probe::Count(MSG_PRESS) == 1)
             SendMessage(LMSG_BTNSEL, 0, 0, 0, 0);
@@ -92,7 +89,7 @@ TEST_F(Bus, WhileTheFindIsOpenNoInputReachesThePage)
     EXPECT_EQ(probe::seen.size(), 4u);
 }
 
-TEST_F(Bus, APlayedTallyIsOneFromTheServer)
+TEST_F(Bus, APlayedTallyIsOneFromTheServerAndMayBePlayedWithinAnother)
 {
     static const struct {
         std::string text, path, value;
@@ -120,10 +117,6 @@ TEST_F(Bus, APlayedTallyIsOneFromTheServer)
     EXPECT_EQ(SendMessage(MSG_TALLY, 0, 0, 0, 0), 0);
     EXPECT_EQ(SendMessage(MSG_TALLY, Arg("Page"), 0, Hash("Page"), 0), 0);
     EXPECT_EQ(GL_CreatePage, 0u);
-}
-
-TEST_F(Bus, ATallyPlayedWithinATallyLeavesTheOuterOneWhole)
-{
     Strings values;
     probe::answer = [&](const probe::Seen& s) {
         const std::string path = Text(s.ax);

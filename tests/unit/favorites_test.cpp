@@ -69,7 +69,7 @@ TEST_F(Favorites, AKeyOpensItsPageUnlessSomethingElseIsMeant)
     EXPECT_EQ(Usable({FIRST}), std::vector<int>{});
 }
 
-TEST_F(Favorites, OnlyOneThingIsMeantAtATime)
+TEST_F(Favorites, OnlyOneThingIsMeantAtATimeAndALostPageIsOnlyCleared)
 {
     (void)Press(BTN_STORE);
     (void)Press(BTN_CLEAR);
@@ -79,10 +79,6 @@ TEST_F(Favorites, OnlyOneThingIsMeantAtATime)
     (void)Press(FIRST);
     EXPECT_EQ(GL_CreatePage, 0x13110000u);
     GL_CreatePage = 0;
-}
-
-TEST_F(Favorites, APageThatTheInstallationHasLostIsNotOpenedButCleared)
-{
     SYS_MEOperation[2] = 1; // M/E-3
     EXPECT_EQ(CreatePage(FAVORITES), 0);
     EXPECT_EQ(Usable({FIRST}), std::vector<int>{});

@@ -268,7 +268,7 @@ TEST_F(PageTest, MenuKeysReopenTheirLastPage)
         EXPECT_EQ(TopMenu[s.row].page, s.row == 6 ? 0x21110000 : s.reopens);
 }
 
-TEST_F(PageTest, HistoryGoesBackAndForward)
+TEST_F(PageTest, HistoryGoesBackAndForwardAndKeepsFiftyPages)
 {
     for (int n = 0; n < 4; n++)
         CreatePage(KeyPage(n));
@@ -289,6 +289,11 @@ TEST_F(PageTest, HistoryGoesBackAndForward)
     CreatePage(KeyPage(9)); // a visit cuts what was ahead
     EXPECT_EQ(GetHistoryFwd(1), 0u);
     EXPECT_EQ(HistoryBack(0), -1); // the other side has its own
+    for (int n = 0; n < HISTORY_DEPTH + 1; n++)
+        ASSERT_EQ(CreatePage(KeyPage(n)), 0) << n;
+    for (int n = HISTORY_DEPTH - 1; n >= 1; n--)
+        ASSERT_EQ(StepBack(), KeyPage(n));
+    EXPECT_TRUE(IsTopHistory(1));
 }
 
 TEST_F(PageTest, AStepBackFromAnErrorPageReturnsToTheCoveredPage)
@@ -307,15 +312,6 @@ TEST_F(PageTest, AStepBackFromAnErrorPageReturnsToTheCoveredPage)
         CreatePage(KeyPage(2));
         EXPECT_EQ(GL_PrevPage, KeyPage(1)) << "nobody goes back to an error page";
     }
-}
-
-TEST_F(PageTest, TheFiftyFirstPageDropsTheOldest)
-{
-    for (int n = 0; n < HISTORY_DEPTH + 1; n++)
-        ASSERT_EQ(CreatePage(KeyPage(n)), 0) << n;
-    for (int n = HISTORY_DEPTH - 1; n >= 1; n--)
-        ASSERT_EQ(StepBack(), KeyPage(n));
-    EXPECT_TRUE(IsTopHistory(1));
 }
 
 TEST_F(PageTest, EachSideKeepsItsOwnPages)

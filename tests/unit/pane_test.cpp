@@ -54,18 +54,7 @@ TEST_F(Panes, AnswersAreTheResult)
     }
 }
 
-TEST_F(Panes, OnlyTheTopOneTakesInput)
-{
-    const int lower = PaneYesNo_Create("Lower", PANE_INFO, "m");
-    const int upper = PaneMessage_Create("Upper", PANE_INFO, "m");
-    EXPECT_EQ(Pane_GetActiveID(), upper);
-    EXPECT_THAT(Told(YES_X + 5, OK_Y), IsEmpty()) << "where both have something or nothing";
-    EXPECT_THAT(Told(OK_X + 20, OK_Y), ElementsAre("button 1", Quit(upper, 0)));
-    EXPECT_EQ(Pane_GetActiveID(), lower);
-    EXPECT_THAT(Told(NO_X, OK_Y), ElementsAre("button 2", Quit(lower, 2)));
-}
-
-TEST_F(Panes, ThePageBeneathOnlyTicks)
+TEST_F(Panes, OnlyTheTopOneTakesInputAndThePageBeneathTicks)
 {
     (void)PaneMessage_Create("C", PANE_INFO, "m");
     for (int msg : {MSG_PRESS, MSG_RELEASE, MSG_DRAG, MSG_KEY, MSG_WHEELUP, MSG_WHEELDOWN})
@@ -79,6 +68,13 @@ TEST_F(Panes, ThePageBeneathOnlyTicks)
     Press(5, 5);
     EXPECT_EQ(inputs, 2);
     EXPECT_EQ(ticks, 1);
+    const int lower = PaneYesNo_Create("Lower", PANE_INFO, "m");
+    const int upper = PaneMessage_Create("Upper", PANE_INFO, "m");
+    EXPECT_EQ(Pane_GetActiveID(), upper);
+    EXPECT_THAT(Told(YES_X + 5, OK_Y), IsEmpty()) << "where both have something or nothing";
+    EXPECT_THAT(Told(OK_X + 20, OK_Y), ElementsAre("button 1", Quit(upper, 0)));
+    EXPECT_EQ(Pane_GetActiveID(), lower);
+    EXPECT_THAT(Told(NO_X, OK_Y), ElementsAre("button 2", Quit(lower, 2)));
 }
 
 TEST_F(Panes, ClosedByCodeTheyTellNobody)
@@ -110,7 +106,7 @@ TEST_F(Panes, TheFirstAnswerCountsAndThePageMayCloseThePaneThatItHearsFrom)
     EXPECT_EQ(Pane_Exist(id), 0);
 }
 
-TEST_F(Panes, TheScreenComesBackWithTheLastOne)
+TEST_F(Panes, TheScreenComesBackWithTheLastOneAsThePassLeftIt)
 {
     TDL_FillRectS(97, 73, 702, 526, 0x123456);
     const int lower = PaneMessage_Create("Lower", PANE_INFO, "m");
@@ -127,18 +123,13 @@ TEST_F(Panes, TheScreenComesBackWithTheLastOne)
     Pane_Quit(lower);
     for (const uint32_t pixel : PixelsIn({97, 73, 702, 526}))
         ASSERT_EQ(pixel, 0x123456U);
-}
-
-// An object that stands behind the opener in the row paints after it, in the same pass.
-TEST_F(Panes, TheGroundIsThatOfTheWholePass)
-{
-    TDL_FillRectS(97, 73, 702, 526, 0x123456);
-    const int lower = PaneMessage_Create("Lower", PANE_INFO, "m");
+    // An object that stands behind the opener in the row paints after it, in the same pass.
+    const int one = PaneMessage_Create("Lower", PANE_INFO, "m");
     Pane_Quit(PaneMessage_Create("Gone again", PANE_INFO, "m"));
     TDL_FillRectS(250, 200, 300, 250, 0x654321);
     Pass();
     EXPECT_NE(PixelAt(260, 210), 0x654321U);
-    Pane_Quit(lower);
+    Pane_Quit(one);
     EXPECT_EQ(PixelAt(260, 210), 0x654321U);
     EXPECT_EQ(PixelAt(310, 260), 0x123456U);
 }
@@ -402,47 +393,7 @@ TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)
     PaneRTRLvl_SetSelect(0);
 }
 
-TEST_F(Panes, TheFindDialogTakesATextAndSearchesBothWays)
-{
-    static char text[ELEMENT_NAME_SIZE] = "";
-    static Strings done;
-    done.clear();
-    const PANESEARCH owner = {.text = &text,
-                              .begin = [] { done.push_back("begin"); },
-                              .step =
-                                  [](SEARCH_DIR dir) {
-                                      EXPECT_EQ(PixelAt(301, 201), 0x00DDD4u)
-                                          << "the lamp is on meanwhile";
-                                      done.push_back(dir == SEARCH_DIR_NEXT ? "next" : "previous");
-                                  }};
-    const auto press = [](int id) { PaneSearch_Proc(LMSG_PANEBTNSEL, id); };
-    ASSERT_TRUE(PaneSearch_Open(owner));
-    Pass();
-    press(PANEFIND_PREV);
-    press(PANEFIND_NEXT);
-    press(PANEFIND_TEXT);
-    const std::string longest(ELEMENT_NAME_SIZE - 1, 'a');
-    for (const char c : longest + "a\r")
-        SendMessage(MSG_KEY, c, 0, 0, 0);
-    EXPECT_EQ(text, longest);
-    EXPECT_NE(PixelAt(301, 201), 0x00DDD4u);
-    const int id = GL_FM_Find_PaneID;
-    PaneSearch_Proc(LMSG_PANEQUIT, id + 1); // another one's
-    press(PANEFIND_NEXT);
-    EXPECT_THAT(std::exchange(done, {}), ElementsAre("previous", "next", "begin", "next", "next"));
-    press(PANEFIND_CLOSE);
-    Pass();
-    EXPECT_EQ(Pane_Exist(id), 0);
-    PaneSearch_Proc(LMSG_PANEQUIT, id);
-    EXPECT_EQ(GL_FM_Find_PaneID, 0);
-    press(PANEFIND_NEXT);
-    EXPECT_THAT(done, IsEmpty());
-    ASSERT_TRUE(PaneSearch_Open(owner));
-    PaneSearch_Close();
-    EXPECT_EQ(Pane_GetActiveID(), 0);
-}
-
-TEST_F(Panes, FindTakesNoPressWhileItSearches)
+TEST_F(Panes, TheFindDialogTakesATextSearchesBothWaysAndNoPressMeanwhile)
 {
     const int id = PaneFind_Create(200, 200, 0);
     Pass();
@@ -453,6 +404,39 @@ TEST_F(Panes, FindTakesNoPressWhileItSearches)
     EXPECT_EQ(PaneFind_Indicator(0), 0);
     Touch(340, 250);
     EXPECT_THAT(Told(320, 320), ElementsAre("button 2", "button 4", Quit(id, 0)));
+    static char text[ELEMENT_NAME_SIZE] = "";
+    static Strings done;
+    done.clear();
+    PANESEARCH owner = {.text = &text, .begin = [] { done.push_back("begin"); }};
+    owner.step = [](SEARCH_DIR dir) {
+        EXPECT_EQ(PixelAt(301, 201), 0x00DDD4u) << "the lamp is on meanwhile";
+        done.push_back(dir == SEARCH_DIR_NEXT ? "next" : "previous");
+    };
+    const auto press = [](int key) { PaneSearch_Proc(LMSG_PANEBTNSEL, key); };
+    ASSERT_TRUE(PaneSearch_Open(owner));
+    Pass();
+    press(PANEFIND_PREV);
+    press(PANEFIND_NEXT);
+    press(PANEFIND_TEXT);
+    const std::string longest(ELEMENT_NAME_SIZE - 1, 'a');
+    for (const char c : longest + "a\r")
+        SendMessage(MSG_KEY, c, 0, 0, 0);
+    EXPECT_EQ(text, longest);
+    EXPECT_NE(PixelAt(301, 201), 0x00DDD4u);
+    const int dialog = GL_FM_Find_PaneID;
+    PaneSearch_Proc(LMSG_PANEQUIT, dialog + 1); // another one's
+    press(PANEFIND_NEXT);
+    EXPECT_THAT(std::exchange(done, {}), ElementsAre("previous", "next", "begin", "next", "next"));
+    press(PANEFIND_CLOSE);
+    Pass();
+    EXPECT_EQ(Pane_Exist(dialog), 0);
+    PaneSearch_Proc(LMSG_PANEQUIT, dialog);
+    EXPECT_EQ(GL_FM_Find_PaneID, 0);
+    press(PANEFIND_NEXT);
+    EXPECT_THAT(done, IsEmpty());
+    ASSERT_TRUE(PaneSearch_Open(owner));
+    PaneSearch_Close();
+    EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
 TEST_F(Panes, RunControlSendsAndShowsTheTally)

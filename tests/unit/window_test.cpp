@@ -496,17 +496,13 @@ struct PageJump : Windows {
     }
 };
 
-TEST_F(PageJump, EnterOpensThePageThatWasTyped)
+TEST_F(PageJump, EnterOpensThePageThatWasTypedAndAFavouriteItsOwn)
 {
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
     for (const char key : std::string("7316.10E"))
         TouchAt(CORNER, KeyIn(TEN_KEYS, key, {375, 194}, {54, 59}));
     EXPECT_EQ(GL_CreatePage, 0x73160010u);
     EXPECT_EQ(GetWindow(), 0);
-}
-
-TEST_F(PageJump, AFavouriteOpensItsPage)
-{
     std::string file(29 * 24, '\0');
     file.replace(24 * 5, 24,
                  std::string("\x11\x11\x00\x02\x03\x01", 6) + std::string(18, 'W')); // no end
