@@ -1,5 +1,6 @@
 // The panel's links, modules, device interfaces, operation and maintenance: what goes on
 // the wire; the calibration of the touch panel.
+#include "colours.h"
 #include "i2c.h"
 #include "panel_desk.h"
 #include "touch.h"
@@ -128,21 +129,26 @@ TEST_F(Calibration, TwoCrossesAndACheckAreStored)
 {
     EXPECT_THAT(Usable({BTN_CALIBRATION_OK, BTN_CALIBRATION_CANCEL}),
                 ElementsAre(BTN_CALIBRATION_CANCEL));
-    // The last pixel of an arm of each cross, and the one behind it.
+    // The last pixels of the four arms of each cross that are lit, and those behind them.
     const auto arms = [] {
         std::string lit;
         for (const int at : {0, 1, 2})
-            for (const int reach : {20, 21})
-                lit += PixelAt(50 + 350 * at, 50 + 250 * at + reach) == 0xFFFFFF ? "+" : ".";
+            for (const int reach : {20, 21}) {
+                const int x = 50 + 350 * at, y = 50 + 250 * at;
+                lit +=
+                    char('0' + (PixelAt(x, y + reach) == WHITE) + (PixelAt(x, y - reach) == WHITE) +
+                         (PixelAt(x + reach, y) == WHITE) + (PixelAt(x - reach, y) == WHITE));
+            }
         return lit;
     };
     Pass(10);
-    EXPECT_EQ(arms(), "+.....");
+    EXPECT_EQ(arms(), "400000");
     Finger(70, 60);
-    EXPECT_EQ(arms(), "....+.");
+    EXPECT_EQ(arms(), "000040");
     Finger(730, 540);
     EXPECT_THAT(Counting(), ElementsAre(70, 60, 730, 540));
-    EXPECT_EQ(arms(), "..+...");
+    EXPECT_EQ(arms(), "004000");
+    (void)Press(BTN_CALIBRATION_OK); // its place is no touch beside the cross
     Finger(400, 300);
     EXPECT_EQ(PixelAt(400, 320), 0x00FFFFu) << "where the finger was";
     (void)Push(BTN_CALIBRATION_OK);
@@ -166,9 +172,21 @@ TEST_F(Calibration, ATouchBesideACrossIsNotTaken)
     Finger(200, 300); // the check fails: everything as before, from the first cross on
     EXPECT_THAT(Counting(), ElementsAre(50, 50, 750, 550));
     EXPECT_THAT(Usable({BTN_CALIBRATION_OK}), IsEmpty());
-    Finger(60, 55);
-    Finger(745, 545);
-    EXPECT_THAT(Counting(), ElementsAre(60, 55, 745, 545));
+    SetupMenu[SetupIndex_Find(CALIBRATION)].lock = 1;
+    for (const auto& [x, y, lock, is_done] : {std::tuple{416, 300, 0, false},
+                                              {400, 316, 0, false},
+                                              {415, 285, 1, false},
+                                              {415, 285, 0, true}}) {
+        Finger(60, 55);
+        Finger(745, 545);
+        EXPECT_THAT(Counting(), ElementsAre(60, 55, 745, 545));
+        SetupLock.lock = lock;
+        (void)Touch(x, y);
+        SetupLock.lock = 0;
+        EXPECT_EQ(Usable({BTN_CALIBRATION_OK}).size(), is_done) << x << "," << y;
+        if (lock)
+            (void)Touch(0, 0); // beside: again from the first on
+    }
 }
 
 TEST_F(Calibration, WhatIsNotKeptIsTakenBack)
@@ -178,10 +196,15 @@ TEST_F(Calibration, WhatIsNotKeptIsTakenBack)
         Finger(70, 60);
         Finger(730, 540);
         Finger(400, 300);
-        if (by_time)
-            for (int i = 0; i < 61; i++)
-                Pass(1000);
-        else
+        if (by_time) {
+            for (const int seconds : {59, 60}) { // a touch begins the minute anew
+                (void)Touch(0, 0);
+                for (int i = 0; i < seconds; i++)
+                    Pass(1000);
+                EXPECT_EQ(GL_CreatePage, 0u);
+            }
+            Pass(1);
+        } else
             (void)Push(BTN_CALIBRATION_CANCEL);
         EXPECT_EQ(GL_CreatePage, MAINTENANCE) << by_time;
         (void)Open(CALIBRATION);

@@ -10,6 +10,7 @@
 #include "selfdiag.h"
 #include "table_page.h"
 #include "text.h"
+#include <fstream>
 
 struct Engineering : TablePage {
     static constexpr const char* LOG = "/var/log2/eng_test.log";
@@ -191,12 +192,10 @@ TEST_F(Engineering, ReportsAreKeptWhateverPageIsShown)
 TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
 {
     CopyText(GL_LogFileName, LOG);
-    FILE* fp = fopen(LOG, "w");
-    ASSERT_NE(fp, nullptr);
+    std::ofstream file(LOG);
     for (int n = 0; n < 5000; n++)
-        fprintf(fp, "[Mar 05 07:08:09][ 16] line %d of the pages, to fill the file\n", n);
-    fputs("M/E-1@Key1@Type#Luminance\n[Mar 05 07:08:10][ 15] the link [text]\n[cut", fp);
-    fclose(fp);
+        file << "[Mar 05 07:08:09][ 16] line " << n << " of the pages, to fill the file\n";
+    file << "M/E-1@Key1@Type#Luminance\n[Mar 05 07:08:10][ 15] the link [text]\n[cut" << std::flush;
     Open(0x99930003);
     EXPECT_EQ(LS_GetNData(1), 1000) << "no more than the list takes";
     EXPECT_EQ(Cell(1, 0, 2), "[cut");
@@ -206,12 +205,27 @@ TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
     EXPECT_EQ(BT_GetStatus(51), BT_OFF);
     Press(37); // links
     EXPECT_THAT(Column(1, 2), ElementsAre("the link [text]"));
-    fp = fopen(LOG, "a");
-    ASSERT_NE(fp, nullptr);
-    fputs("\n[Mar 05 07:08:11][ 15] one more\n", fp);
-    fclose(fp);
+    file << "\n[Mar 05 07:08:11][ 15] one more\n" << std::flush;
     Pass(600);
     EXPECT_THAT(Column(1, 2), ElementsAre("one more", "the link [text]")) << "it follows";
+    Press(51); // find
+    for (const int key : {SDLK_m, SDLK_o, SDLK_r, SDLK_RETURN})
+        SendMessage(MSG_KEY, key, 0, 0, 0);
+    for (int pass = 0; pass < 10; pass++)
+        Pass(100);
+    EXPECT_THAT(Column(1, 2), ElementsAre("one more"));
+    Press(51);
+    EXPECT_EQ(LS_GetNData(1), 2) << "it lets go of the text";
+    Press(52); // follow no longer
+    file << "[Mar 05 07:08:12][ 15] too late\n" << std::flush;
+    Pass(600);
+    EXPECT_EQ(LS_GetNData(1), 2);
+    Press(52);
+    (void)SelfDiag_AddLog("SWR1", "fan %d", 1);
+    Press(34); // maintenance
+    EXPECT_EQ(Cells(1, 0, 1, 2), "SWR1|fan 1");
+    EXPECT_THAT(Disabled(), ElementsAre(36, 37, 38, 49, 50)) << "it has no modules";
+    Press(33);
     Press(36); // all
     remove(LOG);
     Pass(600);
@@ -229,8 +243,9 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     Open(0x99990000);
     EXPECT_THAT(Column(1, 2), ElementsAre("Up", "Down", "Not used"));
     EXPECT_THAT(Column(1, 7), ElementsAre("waiting", "--", "")) << "two have nothing to ask";
-    EXPECT_EQ(LS_GetStatus(1, 0, 2), 0);
-    EXPECT_EQ(LS_GetStatus(1, 1, 2), 2) << "red";
+    EXPECT_EQ(Cells(1, 0, 0, 2) + Cell(1, 1, 1), "Text|127.0.0.1:10001127.0.0.1:10000");
+    for (const int link : {0, 1, 2}) // as it is, red, grey
+        EXPECT_EQ(LS_GetStatus(1, link, 2), (3 - link) % 3) << link;
     Press(50); // repeat
     for (int pass = 0; pass < 4; pass++)
         MainPass();
@@ -238,16 +253,20 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     (void)Tell("Engineering Setup@System@Format@4K Mode#Off");
     MainPass();
     EXPECT_THAT(LS_GetData(1, 0, 7), testing::EndsWith(" ms"));
+    for (int pass = 0; pass < 101; pass++)
+        MainPass();
+    EXPECT_EQ(server.Lines().size(), 1u) << "once a second";
     Press(50);
     Press(49); // ping; nobody answers
     for (int pass = 0; pass < 400; pass++)
         MainPass();
     EXPECT_EQ(Cell(1, 0, 7), "none");
-    EXPECT_EQ(Cell(2, 1, 1), "--");
-    GL_ProcStatus[1] = 1;
+    EXPECT_EQ(LS_GetStatus(1, 0, 7), 2) << "red";
+    EXPECT_EQ(Cells(2, 1, 0, 3), "Processor 1|--|Idle");
+    GL_ProcStatus[1] = GL_InitReadStatus[1] = 1;
     Pass(600);
-    EXPECT_EQ(Cell(2, 1, 1), "Up");
-    GL_ProcStatus[1] = 0;
+    EXPECT_EQ(Cells(2, 1, 0, 3), "Processor 1|Up|Reading");
+    GL_ProcStatus[1] = GL_InitReadStatus[1] = 0;
     server.Drop();
     server.StopListening();
     Net_Init();
@@ -292,6 +311,17 @@ TEST_F(Engineering, WhatArrivesIsListedTheNewestOnTop)
     EXPECT_EQ(LS_GetNData(1), 200);
     EXPECT_EQ(Cell(1, 0, 2), "Panel@Common@Knob1  counts 204");
     EXPECT_EQ(Cell(1, 199, 2), "Panel@Common@Knob1  counts 5");
+    Press(50); // clear
+    for (const int msg : {MSG_PRESS, MSG_DRAG, MSG_RELEASE, MSG_WHEELUP, MSG_WHEELDOWN})
+        SendMessage(msg, 640, 460, 1, 0);
+    Press(49); // hold
+    (void)Tell("Panel@Common@Knob1#1");
+    EXPECT_EQ(BT_GetOnOff(49), 1);
+    Pass(10);
+    EXPECT_THAT(Column(1, 1), ElementsAre("Press", "Wheel down", "Wheel up", "Release", "Move",
+                                          "Press", "Release"));
+    EXPECT_EQ(Cell(1, 3, 2), "x 640  y 460  button 0");
+    EXPECT_EQ(Cell(1, 5, 2), "x 640  y 460  button 1");
 }
 
 TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)
@@ -314,4 +344,11 @@ TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)
     EXPECT_EQ(PixelAt(335, 235), ground);
     (void)Touch(310, 210);
     EXPECT_NE(PixelsIn(READOUT), first) << "the second touch";
+    SendMessage(MSG_RELEASE, -1, -1, 0, 0); // has gone to somebody else
+    (void)Touch(690, 430);                  // the edge cuts its cross
+    EXPECT_THAT(
+        (std::vector{PixelAt(699, 430), PixelAt(700, 430), PixelAt(690, 436), PixelAt(690, 437)}),
+        ElementsAre(DOWN, Not(DOWN), DOWN, Not(DOWN)));
+    Press(49); // clear
+    EXPECT_EQ(PixelAt(310, 210), ground);
 }

@@ -178,10 +178,17 @@ TEST_F(LockPage, ItemsAreOfOneGroupAndGoIntoTheFile)
     (void)Push(34);
     EXPECT_EQ(RowOf("7313"), -1);
     EXPECT_EQ(BT_GetStatus(34), BT_ON);
+    for (const char* group : {"7", "-1", "x", ""}) // there are seven
+        SendMessage(LMSG_BTNSEL, Arg("LOCAL@SetupOpeLock@VF Group"), Arg(group), 0, 0);
+    EXPECT_EQ(BT_GetStatus(34), BT_ON);
     (void)Push(33);
     (void)PushIn(RowOf("7313"), BTN_LOCK_ITEM);
     EXPECT_EQ(InFile().num, 0);
+    (void)LS_SetMS(1, 1);
+    (void)LS_SetSelected(1, 0, 0, 1);
     (void)Push(BTN_LOCK_ITEM);
+    (void)Choose(BTN_LOCK_ITEM_CLEAR, NO);
+    EXPECT_EQ(InFile().num, 2);
     (void)Choose(BTN_LOCK_ITEM_CLEAR, YES);
     EXPECT_EQ(InFile().num, 0);
     EXPECT_EQ(Row(RowOf("7313"), 4), "7313|System|Format|");
@@ -213,7 +220,10 @@ TEST_F(LockPage, PasswordsOpenItOrDoNot)
     EXPECT_EQ(InFile().lock, 1);
     const int row = RowOf("7313");
     SelectRow(row);
-    SendMessage(LMSG_BTNSEL, Arg("LOCAL@SetupOpeLock@Lock Item Select"), Arg(""), 0, 0);
+    for (const char* command : {"Lock Item Select", "Lock Item All Clear"})
+        SendMessage(LMSG_BTNSEL, Arg(("LOCAL@SetupOpeLock@" + std::string(command)).c_str()),
+                    Arg(""), 0, 0);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
     EXPECT_EQ(Row(row, 4), "7313|System|Format|") << "while the lock is on";
     EXPECT_EQ(Lock("QPD7300WREN"), 0);
 }
@@ -399,6 +409,9 @@ TEST_F(SystemPage, TheClockRunsUntilAKnobTakesIt)
     EXPECT_EQ(Shown("Year") + " " + Shown("Day") + " " + Shown("Hour"), "2024 29 7");
     SendMessage(LMSG_KNOBVAR, 1, 2023, 0, 0);
     EXPECT_EQ(Caption(BTN_MAINTENANCE_TIME), "Feb 28\n07:08:00\n2023");
+    EXPECT_THAT(Push(34), IsEmpty());
+    EXPECT_NE(Pane_GetActiveID(), 0) << "nobody may set the clock of this machine";
+    Dismiss();
     (void)Push(49);
     Pass(10);
     EXPECT_NE(Caption(BTN_MAINTENANCE_TIME), "Feb 28\n07:08:00\n2023");
@@ -429,11 +442,14 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
     ASSERT_EQ(::system("rm -rf /var/tmp/device*; mkdir -p /var/tmp/device;"
                        "echo 1 > /var/tmp/device/usb_format"), // it will fail
               0);
-    (void)Choose(BTN_MAINTENANCE_FORMAT, YES);
-    EXPECT_EQ(FileText("/var/tmp/device.log"), "usb_format [/dev/sdb]\n");
-    EXPECT_NE(Pane_GetActiveID(), 0);
-    EXPECT_EQ(GetWindow(), WINDOW_NONE) << "it is no longer busy";
-    Dismiss();
+    for (const int stick : {1, 0}) {
+        SelectRow(stick, 2);
+        (void)Choose(BTN_MAINTENANCE_FORMAT, YES);
+        EXPECT_NE(Pane_GetActiveID(), 0);
+        EXPECT_EQ(GetWindow(), WINDOW_NONE) << "it is no longer busy";
+        Dismiss();
+    }
+    EXPECT_EQ(FileText("/var/tmp/device.log"), "usb_format [/dev/sdb]\nusb_format [/dev/sda]\n");
     ASSERT_EQ(::system("rm -rf /var/tmp/device*; rmdir /mnt/usb/usb1 /mnt/usb/usb3"), 0);
 }
 

@@ -53,10 +53,12 @@ TEST_F(KeyMaskPages, OnAWideScreenThePatternOfTheMaskMovesFurther)
         Open(0x13430001);
         Tell("M/E-3@Key4@Main Mask@Pattern Mask@H Position#1");
         (void)NB_SetSelect(3);
-        (void)NB_SendTrimValue(1000);
-        EXPECT_THAT(TakeQueuedCommands(),
-                    Contains(std::string("put M/E-3@Key4@Main Mask@Pattern Mask@H Position#") +
-                             (aspect ? "133.33" : "100.00")));
+        for (const auto& [far, sign] : {std::pair{1000, ""}, {-1000, "-"}}) {
+            (void)NB_SendTrimValue(far);
+            EXPECT_THAT(TakeQueuedCommands(),
+                        Contains("put M/E-3@Key4@Main Mask@Pattern Mask@H Position#" +
+                                 (sign + std::string(aspect ? "133.33" : "100.00"))));
+        }
     }
     SYS_RefSwrScreenAspect[2] = 0;
 }

@@ -193,13 +193,15 @@ using KeyChromaPage = TablePage;
 TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
 {
     const string mark = "M/E-3@Key4@Type@Chroma Adjust@Sample Mark";
-    for (const bool is_on : {true, false}) {
+    for (const bool is_on : {false, true}) {
         Open(0x13410001);
         Tell("M/E-3@Key4@Type@Key Type#Chroma");
         Tell(mark + (is_on ? "#true" : "#false"));
         EXPECT_EQ(Usable({50}).size(), is_on ? 1u : 0u);
         EXPECT_EQ(std::ranges::count(Leave(), "put " + mark + "#false"), is_on);
     }
+    Open(0x13410001);
+    EXPECT_THAT(Leave(), Not(Contains("put " + mark + "#false"))) << "nothing is known of it";
 }
 
 TEST_F(KeyChromaPage, TheBackingIsChosenFromItsPullDown)

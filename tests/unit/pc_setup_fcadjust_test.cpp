@@ -17,10 +17,10 @@ struct FcAdjust : SetupTest {
         }
         return text;
     }
-    static double MaxOf(int box)
+    static double FarOf(int box, int there)
     {
         (void)NB_SetSelect(box);
-        (void)NB_SendTrimValue(1000);
+        (void)NB_SendTrimValue(there);
         const Lines lines = TakeQueuedCommands();
         return lines.empty() ? -1 : atof(lines.back().substr(lines.back().find('#') + 1).c_str());
     }
@@ -75,30 +75,30 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
 
 TEST_F(FcAdjust, AModeHasItsKnobsOfTheCurrentInput)
 {
-    // The last column: its knobs; a motion is read as soon as it has one.
-    static const std::tuple<uint32_t, std::vector<const char*>, const char*> cases[] = {
-        {FC_PAGE, {"Convert Mode@0#0"}, ""},
-        {FC_PAGE, {"Convert Mode@0#3"}, "Motion Sel@0"},
-        {FC_PAGE,
-         {"Convert Mode@0#1", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#0"},
-         "Motion Sel@0"},
-        {FC_PAGE,
-         {"Convert Mode@0#2", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#1"},
-         "Motion Sel@0 EC Pos@0"},
-        {FC6_PAGE,
-         {"Convert Mode@0#2", "Aspect Type@0#Letter Box", "LB Pos Mode@0#1"},
-         "Motion Sel@0 LB Pos@0"},
-    };
-    for (const auto& [page, lines, knobs] : cases) {
+    // The mode, the type and its position; knobs and keys: a motion is read as soon as it has one.
+    static const std::tuple<uint32_t, std::string, std::string, std::string, std::string,
+                            std::vector<int>>
+        cases[] = {
+            {FC_PAGE, "0", "", "EC Pos Mode@0#0", "", {}},
+            {FC_PAGE, "3", "", "EC Pos Mode@0#0", "Motion Sel@0", {}},
+            {FC_PAGE, "1", "Edge Crop", "EC Pos Mode@0#0", "Motion Sel@0", {49, 37}},
+            {FC_PAGE, "2", "Edge Crop", "EC Pos Mode@0#1", "Motion Sel@0 EC Pos@0", {49, 37, 38}},
+            {FC6_PAGE, "2", "Letter Box", "LB Pos Mode@0#1", "Motion Sel@0 LB Pos@0", {49, 53, 54}},
+        };
+    for (const auto& [page, mode, type, position, knobs, keys] : cases) {
         SetupFcAdjust_Reset();
         (void)Open(page);
         Lines sent;
-        for (const char* line : lines)
+        for (const std::string& line :
+             {"Convert Mode@0#" + mode, "Aspect Type@0#" + type, position})
             for (const std::string& command : Tell(ADJUST + line))
                 sent.push_back(command);
-        EXPECT_EQ(Knobs(), knobs) << lines[0];
-        EXPECT_EQ(testing::Value(sent, Contains("read " + ADJUST + "Motion Sel@0")), *knobs != 0)
-            << lines[0];
+        EXPECT_EQ(Knobs(), knobs) << mode << type;
+        EXPECT_EQ(Usable({BTN_FCADJUST_TYPE, BTN_FCADJUST_EC_MODE, BTN_FCADJUST_EC_CENTER,
+                          BTN_FCADJUST_LB_MODE, BTN_FCADJUST_LB_CENTER}),
+                  keys)
+            << mode << type;
+        EXPECT_EQ(std::ranges::count(sent, "read " + ADJUST + "Motion Sel@0") > 0, !knobs.empty());
         (void)Leave();
     }
     (void)Open(FC_PAGE);
@@ -121,13 +121,14 @@ TEST_F(FcAdjust, TheAspectLimitsThePositions)
     (void)Open(FC_PAGE);
     TellAll(ADJUST, {"Convert Mode@0#2", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#1", "Aspect@0#0",
                      "EC Pos@0#3"});
-    EXPECT_EQ(MaxOf(2), 100);
+    EXPECT_EQ(FarOf(2, 1000), 100);
     (void)Tell(ADJUST + "EC Pos Center@0#false");
     EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_EC_CENTER), BT_OFF);
     (void)Tell(ADJUST + "EC Pos Center@0#true");
     EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_EC_CENTER), BT_ON);
     (void)Tell(ADJUST + "Aspect@0#1");
-    EXPECT_EQ(MaxOf(2), 40);
+    EXPECT_EQ(FarOf(2, 1000), 40);
+    EXPECT_EQ(FarOf(2, -1000), -40);
     EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_ASPECT), BT_ON);
 }
 
