@@ -184,7 +184,7 @@ TEST_F(Link, WhatWasQueuedWhileTheServerWasAwayGoesOutInOrder)
     EXPECT_EQ(received, sent);
 }
 
-TEST_F(TextLink, AWriteToADeadSocketKeepsTheCommand)
+TEST_F(TextLink, AWriteToADeadSocketKeepsTheCommandAndAReturningServerIsReadFromItsFirstByte)
 {
     peer.Drop();
     usleep(20000);
@@ -197,10 +197,6 @@ TEST_F(TextLink, AWriteToADeadSocketKeepsTheCommand)
     ComeBack(peer);
     EXPECT_EQ(Net_SendCommandQueue(), 0);
     EXPECT_THAT(peer.Lines(), ElementsAre("put A#2"));
-}
-
-TEST_F(TextLink, AReturningServerIsReadUnderAnyDescriptorAndFromItsFirstByte)
-{
     peer.Send("A#1\nhalf a li");
     EXPECT_THAT(ReceiveAll(Net_ReceiveCommand, 1), ElementsAre("A#1"));
     int keep = -1;
@@ -619,7 +615,7 @@ TEST_F(Link, AHubThatIsNotThereIsLeftAloneFor6000Calls)
     ASSERT_TRUE(peer.Accept());
 }
 
-TEST_F(HubLink, HubLinesEndWithAnyLowControlByte)
+TEST_F(HubLink, HubLinesEndWithAnyLowControlByteAndRequestsToTheOwnClipStoreAreNumbered)
 {
     peer.Send("Ready#CS1.File\x01\x0F\x7FNotify#CS1.File:a\tb\n\x10\n\nlast\n");
     usleep(20000);
@@ -632,28 +628,6 @@ TEST_F(HubLink, HubLinesEndWithAnyLowControlByte)
     EXPECT_THAT(ReceiveAll(Net_ReceiveSHPCommand, 1), IsEmpty());
     peer.Send("A#1\n");
     EXPECT_THAT(ReceiveAll(Net_ReceiveSHPCommand, 1), ElementsAre("A#1"));
-}
-
-TEST_F(Link, AHubThatHasFallenIsToldOnce)
-{
-    GL_ClipStoreSupportMode = 1;
-    for (const bool is_new : {false, true}) {
-        auto peer = std::make_unique<Peer>(HUB_PORT);
-        Connect(*peer);
-        EXPECT_EQ(Net_TakeHubLoss(), 0);
-        peer.reset();
-        usleep(20000);
-        for (int i = 0; i < 3; i++) {
-            (void)Net_ReceiveSHPCommand();
-            if (is_new)
-                Net_Init(); // all begins anew
-            EXPECT_EQ(Net_TakeHubLoss(), i == 0 && !is_new) << "and not for a try that fails";
-        }
-    }
-}
-
-TEST_F(HubLink, ARequestToTheOwnClipStoreIsNumbered)
-{
     DEVICE first{.id = "SWR001D001"}, second{.id = "SWR001D003"};
     SYS_MySwrMax = 2;
     DEV_MySwr[0] = &first;
@@ -672,6 +646,24 @@ TEST_F(HubLink, ARequestToTheOwnClipStoreIsNumbered)
         Net_SendSHPCommandQueue(100);
     EXPECT_THAT(peer.Lines(), ElementsAre("Read#CS1.File:a", "Read#CS1.File:b", "Read#CS3.File:b",
                                           "Read#CS2.File:c", "InitRead#CS*.File"));
+}
+
+TEST_F(Link, AHubThatHasFallenIsToldOnce)
+{
+    GL_ClipStoreSupportMode = 1;
+    for (const bool is_new : {false, true}) {
+        auto peer = std::make_unique<Peer>(HUB_PORT);
+        Connect(*peer);
+        EXPECT_EQ(Net_TakeHubLoss(), 0);
+        peer.reset();
+        usleep(20000);
+        for (int i = 0; i < 3; i++) {
+            (void)Net_ReceiveSHPCommand();
+            if (is_new)
+                Net_Init(); // all begins anew
+            EXPECT_EQ(Net_TakeHubLoss(), i == 0 && !is_new) << "and not for a try that fails";
+        }
+    }
 }
 
 TEST_F(TextLink, ALineWithoutEndIsHeldForAWhileAndThenGivenUp)

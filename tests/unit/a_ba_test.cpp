@@ -52,22 +52,6 @@ struct BaseAreaTest : ButtonPage {
     }
 };
 
-TEST_F(BaseAreaTest, EachZoneLeadsToItsPage)
-{
-    OpenKeyType();
-    GL_PrevPage = 0x33110000;
-    EXPECT_EQ(PageOf(TITLE), 0x11000000u);
-    EXPECT_EQ(PageOf(SIDE_KEY), 0x11000000u) << "the band is long";
-    EXPECT_EQ(PageOf(PREV), 0x33110000u);
-    EXPECT_EQ(PageOf(TOP_RIGHT), 0x61110000u);
-    EXPECT_EQ(PageOf({400, 300}), NONE);
-
-    GL_ErrorPopup_On = 1;
-    EXPECT_EQ(PageOf(TITLE), 0x74120000u);
-    GL_ErrorExist = 2;
-    EXPECT_EQ(PageOf(TITLE), 0x74110000u);
-}
-
 // Where the line of a tree is too long for the band, its last word is what tells pages apart.
 TEST_F(BaseAreaTest, PagesOfOneBranchHaveTitlesThatDiffer)
 {
@@ -106,7 +90,7 @@ TEST_F(BaseAreaTest, HistoryStepsEndAtBothEndsAndNameThePageWithoutItsVariant)
     EXPECT_NE(label(0x61130002), plain);
 }
 
-TEST_F(BaseAreaTest, ArmedDefaultRecallStopsAllButItselfAndEndsWithItsPage)
+TEST_F(BaseAreaTest, EachZoneLeadsToItsPageUnlessDefaultRecallIsArmed)
 {
     OpenKeyType();
     EXPECT_EQ(Armed(), 1);
@@ -120,6 +104,18 @@ TEST_F(BaseAreaTest, ArmedDefaultRecallStopsAllButItselfAndEndsWithItsPage)
     Pass(1000);
     EXPECT_EQ(GL_CreatePage, NONE) << "nor does the timer of a key go on";
     EXPECT_EQ(BA_IsDefaultButton(), 0);
+    OpenKeyType();
+    GL_PrevPage = 0x33110000;
+    EXPECT_EQ(PageOf(TITLE), 0x11000000u);
+    EXPECT_EQ(PageOf(SIDE_KEY), 0x11000000u) << "the band is long";
+    EXPECT_EQ(PageOf(PREV), 0x33110000u);
+    EXPECT_EQ(PageOf(TOP_RIGHT), 0x61110000u);
+    EXPECT_EQ(PageOf({400, 300}), NONE);
+
+    GL_ErrorPopup_On = 1;
+    EXPECT_EQ(PageOf(TITLE), 0x74120000u);
+    GL_ErrorExist = 2;
+    EXPECT_EQ(PageOf(TITLE), 0x74110000u);
 }
 
 TEST_F(BaseAreaTest, DefaultRecallExistsWhereThereIsSomethingToRecallNotOnTheTimeline)

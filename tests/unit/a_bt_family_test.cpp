@@ -102,7 +102,7 @@ TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
     }
 }
 
-TEST_F(ButtonFamily, AShadowHasASourceBesideItsOwnOnlyInFourCombinedChannels)
+TEST_F(ButtonFamily, AShadowsSourceNeedsFourCombinedChannelsAndAFreezeAUnitThatHoldsThePicture)
 {
     for (const bool four : {true, false}) {
         SYS_CombineCh[1] = SYS_CombineCh[2] = 1;
@@ -113,10 +113,6 @@ TEST_F(ButtonFamily, AShadowHasASourceBesideItsOwnOnlyInFourCombinedChannels)
         EXPECT_EQ(Dependency(1, ""), BT_ENABLED);
         EXPECT_EQ(Dependency(3, "x"), BT_ENABLED) << "the third one has no part in it";
     }
-}
-
-TEST_F(ButtonFamily, AFreezeNeedsAUnitThatHoldsThePicture)
-{
     SYS_MyDme1 = 0;
     for (const bool is_large : {true, false}) {
         DEV_Dme[0].type = is_large ? DEVTYPE_ZRD52 : DEVTYPE_UNKNOWN;

@@ -67,7 +67,7 @@ TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
 
 // --- Presses ---
 
-TEST_F(Buttons, APressSendsWhatItsTypeSays)
+TEST_F(Buttons, APressSendsWhatItsTypeSaysAndIsPaintedAtOnceWhenItLeadsToMore)
 {
     for (const auto& [id, status, sent] :
          {std::tuple{20, BT_NO_TALLY, "put M/E-1@Key1@Invert#true"},
@@ -91,11 +91,7 @@ TEST_F(Buttons, APressSendsWhatItsTypeSays)
         Press(id);
         EXPECT_EQ(GL_CreatePage, asked) << "as it stands, or for the key that is shown";
     }
-}
-
-// What follows such a press takes its time.
-TEST_F(Buttons, APressThatLeadsToMoreIsPaintedAtOnce)
-{
+    // What follows such a press takes its time.
     Pass(10);
     for (int id : {20, 33, 18, 21, 38, 49, 50, 51, 52}) {
         Press(id);
@@ -103,7 +99,7 @@ TEST_F(Buttons, APressThatLeadsToMoreIsPaintedAtOnce)
     }
 }
 
-TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
+TEST_F(Buttons, WhatCannotBeUsedTakesNoPressAndAChatteringActionOne)
 {
     BT_SetDisable(20, 1);
     BT_SetCutoff(21, 1);
@@ -114,10 +110,6 @@ TEST_F(Buttons, TheButtonsThatCannotBeUsedTakeNoPress)
     EXPECT_THAT(Pressed(20), IsEmpty());
     BA_SetDefaultButton(0);
     EXPECT_THAT(Pressed(20), testing::SizeIs(1));
-}
-
-TEST_F(Buttons, AChatteringActionReachesPageCodeOnce)
-{
     Press(36);
     Press(36);
     Pass(100);

@@ -55,7 +55,7 @@ struct PathLists : TabPage {
     }
 };
 
-TEST_F(PathLists, ACellShowsItsTally)
+TEST_F(PathLists, ACellShowsItsTallyAndIsNotPaintedAgainForWhatIsNoNumber)
 {
     EXPECT_THAT(TakeQueuedCommands(), testing::Contains("add Key Frame@Path@All@Xpt"));
     static const struct {
@@ -75,10 +75,6 @@ TEST_F(PathLists, ACellShowsItsTally)
         EXPECT_EQ(Shown(c.x, c.row), *c.shown) << c.path << "#" << c.value;
     }
     EXPECT_EQ(Shown(360, 1), nullptr); // the second row has no hue
-}
-
-TEST_F(PathLists, WhatIsNoNumberIsNotPaintedAgain)
-{
     constexpr char TENS[] = "Key Frame@Path@All@Curve@Spline@Tens";
     constexpr uint32_t MARK = 0xFF00FF; // stays as long as nobody paints the row
     const int x = 520, y = Y(0) - 10;
@@ -92,8 +88,14 @@ TEST_F(PathLists, WhatIsNoNumberIsNotPaintedAgain)
     }
 }
 
-TEST_F(PathLists, APressOnACellOpensTheWindowWhoseAnswerGoesOut)
+TEST_F(PathLists, ACaptionOpensThePageOfItsRowAndACellTheWindowWhoseAnswerGoesOut)
 {
+    for (const auto& [row, asked] : {std::pair{0, 0x61130000u}, {1, 0x61130501u}, {2, 0u}, {3, 0u}})
+        EXPECT_EQ(Asked(CAPTION_X, Y(row)), asked) << row;
+    Pass(0);
+    EXPECT_EQ(PixelAt(106, Y(0)), 0x003241u); // felt,
+    Pass(150);
+    EXPECT_EQ(PixelAt(106, Y(0)), 0x000000u); // and let go
     // null: no window
     for (const auto& [x, row, window_x, place, put] :
          {std::tuple{XPT_X, 0, 160, 1, "put Key Frame@Path@All@Xpt#Change"},
@@ -108,16 +110,6 @@ TEST_F(PathLists, APressOnACellOpensTheWindowWhoseAnswerGoesOut)
     BA_SetDefaultButton(1);
     EXPECT_THAT(Sent(XPT_X, Y(0)), IsEmpty());
     EXPECT_EQ(GetWindow(), WINDOW_NONE);
-}
-
-TEST_F(PathLists, ACaptionOpensThePageOfItsRow)
-{
-    for (const auto& [row, asked] : {std::pair{0, 0x61130000u}, {1, 0x61130501u}, {2, 0u}, {3, 0u}})
-        EXPECT_EQ(Asked(CAPTION_X, Y(row)), asked) << row;
-    Pass(0);
-    EXPECT_EQ(PixelAt(106, Y(0)), 0x003241u); // felt,
-    Pass(150);
-    EXPECT_EQ(PixelAt(106, Y(0)), 0x000000u); // and let go
 }
 
 TEST_F(PathLists, TheListScrollsAndTheWheelIsItsArrow)

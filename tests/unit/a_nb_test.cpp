@@ -252,7 +252,7 @@ TEST_F(KnobColumn, KnobsOfAnotherLayerAndUnderAPaneAreDead)
 }
 
 // What the recorder of menu macros tells a turn by.
-TEST_F(KnobColumn, ATurnIsMarkedWhileThePageHearsOfIt)
+TEST_F(KnobColumn, ATurnIsMarkedWhileThePageHearsOfItAndMayChangeValueAndTable)
 {
     int marked = 0;
     answer = [&](int) { marked += GL_MM_Knob_Protcol; };
@@ -262,6 +262,22 @@ TEST_F(KnobColumn, ATurnIsMarkedWhileThePageHearsOfIt)
     EXPECT_EQ(marked, 2);
     Wheel(MSG_WHEELDOWN, 2);
     EXPECT_EQ(marked, 2) << "the screen is no knob";
+    answer = [](int msg) {
+        if (msg == LMSG_KNOBUPPER)
+            NB_SetVar(2, 0); // goes round
+    };
+    Open(table);
+    NB_SetVar(2, 8);
+    Tally("Panel@Common@Knob1", "14");
+    EXPECT_THAT(Told(), ElementsAre("upper 2 9", "var 2 0", "fvar 2 0.00"));
+    // The boxes of the new table do not count the turn again.
+    static const NB_TBL next[] = {Box(2, "Again", NB_INT, 0, 9, "Panel@Common@Knob1", 1), NB_END};
+    answer = [](int msg) {
+        if (msg == LMSG_KNOBVAR && told.size() == 1) // the first time
+            NB_Create(next, "");
+    };
+    Tally("Panel@Common@Knob1", "7");
+    EXPECT_EQ(Shown("Again"), 0);
 }
 
 TEST_F(KnobColumn, TheOldestLayerIsForgottenFirst)
@@ -281,26 +297,6 @@ TEST_F(KnobColumn, TheOldestLayerIsForgottenFirst)
     layer_of(REMEMBERED);
     EXPECT_EQ(layer_of(0), 0);
     EXPECT_EQ(layer_of(REMEMBERED), 0);
-}
-
-TEST_F(KnobColumn, PageCodeMayChangeValueAndTableWhileItHearsOfATurn)
-{
-    answer = [](int msg) {
-        if (msg == LMSG_KNOBUPPER)
-            NB_SetVar(2, 0); // goes round
-    };
-    Open(table);
-    NB_SetVar(2, 8);
-    Tally("Panel@Common@Knob1", "14");
-    EXPECT_THAT(Told(), ElementsAre("upper 2 9", "var 2 0", "fvar 2 0.00"));
-    // The boxes of the new table do not count the turn again.
-    static const NB_TBL next[] = {Box(2, "Again", NB_INT, 0, 9, "Panel@Common@Knob1", 1), NB_END};
-    answer = [](int msg) {
-        if (msg == LMSG_KNOBVAR && told.size() == 1) // the first time
-            NB_Create(next, "");
-    };
-    Tally("Panel@Common@Knob1", "7");
-    EXPECT_EQ(Shown("Again"), 0);
 }
 
 TEST_F(KnobColumn, NothingFromTheWireBreaksABox)

@@ -37,7 +37,7 @@ struct StatusCells : CellPage {
     }
 };
 
-TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceAndUpdatesBoth)
+TEST_F(StatusCells, APathIsAddedOnceAndUpdatesEachCellWhichKeepsItsTextsInBounds)
 {
     const ST_TBL rows[] = {Cell(1, {"~2@A", "~1@B"}), Cell(3, {"~2@A", "LOCAL@C", "~2@D"}), ST_END};
     Open(rows);
@@ -51,16 +51,13 @@ TEST_F(StatusCells, APathOfTwoCellsIsAddedOnceAndUpdatesBoth)
     GL_ST_area_update_draw();
     Pass();
     EXPECT_EQ(painted, 4);
-}
-
-TEST_F(StatusCells, AFullCellKeepsEachOfItsPathsAndItsTextsInBounds)
-{
+    painted = 0;
     ST_TBL row = Cell(1, {});
     std::fill(std::begin(row.cmd), std::end(row.cmd), "~2@A");
     const std::string path(2 * CMD_SIZE, 'p');
     row.cmd[ST_COMMANDS - 1] = path.c_str();
-    const ST_TBL rows[] = {row, ST_END};
-    Open(rows);
+    const ST_TBL full[] = {row, ST_END};
+    Open(full);
     const std::string cut = path.substr(0, CMD_SIZE - 1);
     Tally(cut.c_str(), path.c_str());
     Tally("M/E-1@Key1@A", path.c_str());
@@ -105,7 +102,7 @@ TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)
 
 // --- Jumps ---
 
-TEST_F(StatusCells, ATargetTakesTheBankAndForKeyPagesTheKeyOfThePage)
+TEST_F(StatusCells, ATargetTakesTheBankAndKeyOfThePageAndThePressIsInsideTheBorder)
 {
     for (const auto& [id, template_id, target] :
          {std::tuple{0x12310000u, 0x11120000u, 0x12320000u}, // bank 2, key 3
@@ -118,10 +115,7 @@ TEST_F(StatusCells, ATargetTakesTheBankAndForKeyPagesTheKeyOfThePage)
         Open(rows);
         EXPECT_EQ(PageOfCell(rows[0]), target) << std::hex << id << " " << template_id;
     }
-}
-
-TEST_F(StatusCells, ThePressIsInsideTheBorderAndWaitsForNoOtherRequest)
-{
+    SetTree({"M/E-1", "Key1", "Type"}, 0x11110000);
     const ST_TBL rows[] = {Cell(1, {}, 0x11120000), Cell(3, {}, 0x11130000), ST_END};
     Open(rows);
     const ST_TBL& c = rows[0];

@@ -61,7 +61,7 @@ struct Held : ListPage {
     static size_t Effects() { return TakeQueuedCommands().size() + Told().size(); }
 };
 
-TEST_F(Held, WhatIsHeldFollowsTheFinger)
+TEST_F(Held, WhatIsHeldFollowsTheFingerUntilSomethingTakesTheRelease)
 {
     for (const Hold& h : holds) {
         Clock_ms += 1000;
@@ -75,10 +75,6 @@ TEST_F(Held, WhatIsHeldFollowsTheFinger)
         Drag(h.x, h.y);
         EXPECT_EQ(Effects(), 0u) << h.name << " goes on behind its release";
     }
-}
-
-TEST_F(Held, WhateverTakesTheReleaseEndsTheHold)
-{
     for (const Thief& t : thieves) {
         for (const Hold& h : holds) {
             SetUp();

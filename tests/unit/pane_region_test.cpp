@@ -97,7 +97,7 @@ TEST_F(Regions, EveryGroupIsSound)
     }
 }
 
-TEST_F(Regions, CellsOfUnitsAreNamedAfterThem)
+TEST_F(Regions, CellsOfUnitsAreNamedAfterThemAndFilesHaveTheWordOfTheirRegion)
 {
     const auto cells = [](int grp) { // "id caption ext" of the first six
         PaneRegion_InitID(grp);
@@ -121,26 +121,6 @@ TEST_F(Regions, CellsOfUnitsAreNamedAfterThem)
     EXPECT_EQ(RegionBtn[1].btnsel[0].id, 896);
     EXPECT_EQ(RegionBtn[1].btnsel[4].id, 1152);
     EXPECT_EQ(RegionBtn[1].btnsel[5].id, 0) << "there is no second effects unit";
-}
-
-TEST_F(Regions, WithoutASwitcherTheFirstChannelLeads)
-{
-    constexpr int M_E_1 = 0, ROUTER = 6, CHANNEL_1 = 16, CHANNEL_2 = 17;
-    Units(1, 1);
-    Select(14, {{M_E_1, 2}, {ROUTER, 1}});
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
-    EXPECT_EQ(Selected(14), "0* 6") << "there is a switcher";
-    Units(0, 1);
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
-    EXPECT_EQ(Selected(14), "6 16*") << "the router is none of its cells";
-    Select(14, {{M_E_1, 1}, {CHANNEL_1, 1}, {CHANNEL_2, 2}});
-    PaneRegion_SetDefaultSelected(14);
-    EXPECT_EQ(Selected(14), "16* 17");
-    EXPECT_EQ(PaneRegion_SetDefaultSelected(REGION_GROUPS), -1);
-}
-
-TEST_F(Regions, FilesOfARegionHaveItsWord)
-{
     Units(1, 1);
     // dual: where two processors share the effects units
     for (const auto& [grp, id, word, dual, ext] : {std::tuple{8, 292, "CHF", "CHF", "DKF"},
@@ -154,6 +134,33 @@ TEST_F(Regions, FilesOfARegionHaveItsWord)
         EXPECT_STREQ(PaneRegion_GetGrpFIRegion_DualProc(grp, main, sub), dual);
         EXPECT_STREQ(PaneRegion_GetGrpFIExt(grp, main, sub), ext) << grp << " " << id;
     }
+}
+
+TEST_F(Regions, WithoutASwitcherTheFirstChannelLeadsAndAUnitComesBackAsTheReference)
+{
+    constexpr int M_E_1 = 0, ROUTER = 6, CHANNEL_1 = 16, CHANNEL_2 = 17;
+    Units(1, 1);
+    Select(14, {{M_E_1, 2}, {ROUTER, 1}});
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
+    EXPECT_EQ(Selected(14), "0* 6") << "there is a switcher";
+    Units(0, 1);
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
+    EXPECT_EQ(Selected(14), "6 16*") << "the router is none of its cells";
+    Select(14, {{M_E_1, 1}, {CHANNEL_1, 1}, {CHANNEL_2, 2}});
+    PaneRegion_SetDefaultSelected(14);
+    EXPECT_EQ(Selected(14), "16* 17");
+    EXPECT_EQ(PaneRegion_SetDefaultSelected(REGION_GROUPS), -1);
+    Units(2, 0);
+    PaneRegion_InitID(23);
+    Select(23, {{0, 1}, {1, 2}});
+    EXPECT_EQ(PaneRegion_GetRef(23), 897);
+    Units(1, 0);
+    PaneRegion_InitID(23);
+    EXPECT_EQ(PaneRegion_GetRef(23), 0);
+    EXPECT_EQ(PaneRegion_IsSelected(23, 897), 0);
+    Units(2, 0);
+    PaneRegion_InitID(23);
+    EXPECT_EQ(PaneRegion_GetRef(23), 897);
 }
 
 TEST_F(Regions, UnknownPlacesAnswerNothing)
@@ -176,21 +183,6 @@ TEST_F(Regions, UnknownPlacesAnswerNothing)
     EXPECT_EQ(PaneRegion_IsSelected(4, 0), 0);
     EXPECT_STREQ(PaneRegion_GetCaption(4, 0), "");
     EXPECT_EQ(main, 7);
-}
-
-TEST_F(Regions, AUnitThatGoesIsNoReferenceAndComesBackAsIt)
-{
-    Units(2, 0);
-    PaneRegion_InitID(23);
-    Select(23, {{0, 1}, {1, 2}});
-    EXPECT_EQ(PaneRegion_GetRef(23), 897);
-    Units(1, 0);
-    PaneRegion_InitID(23);
-    EXPECT_EQ(PaneRegion_GetRef(23), 0);
-    EXPECT_EQ(PaneRegion_IsSelected(23, 897), 0);
-    Units(2, 0);
-    PaneRegion_InitID(23);
-    EXPECT_EQ(PaneRegion_GetRef(23), 897);
 }
 
 TEST_F(Regions, TheLastOneTouchedIsTheReference)

@@ -270,7 +270,7 @@ TEST_F(Windows, AReservedQuitIsAnsweredAtTheNextPassAsItsKeyWould)
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
 }
 
-TEST_F(Windows, AnAnswerMayOpenTheNextWindow)
+TEST_F(Windows, ABoxAnswersWithTheKeysThatItHasAndMayOpenTheNextOne)
 {
     const auto next = [](const char*) { return CreateWindow(WINDOW_MESSAGE, "Next"); };
     CreateWindow(WINDOW_KEYBOARD, "Password", {.ok_text = next});
@@ -278,6 +278,26 @@ TEST_F(Windows, AnAnswerMayOpenTheNextWindow)
     EXPECT_EQ(Stroke(SDLK_RETURN), 0);
     Pass();
     EXPECT_EQ(probe::Count(MSG_REDRAW), 1);
+    // window: the one that is open afterwards
+    for (auto [args, type, sym, window, answers] :
+         {std::tuple<WindowArgs, int, int, int, size_t>{{}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 1},
+          {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_RETURN, 0, 1},
+          {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 0},
+          {{.no_button = true}, WINDOW_MESSAGE, SDLK_ESCAPE, WINDOW_MESSAGE, 0},
+          {{}, WINDOW_PROGRESS, SDLK_RETURN, WINDOW_PROGRESS, 0},
+          {{}, WINDOW_PROGRESS, SDLK_ESCAPE, 0, 1}}) {
+        args.ok = HearValue;
+        CreateWindow(type, "Box", args);
+        Stroke('x');
+        EXPECT_EQ(Stroke(sym), window);
+        EXPECT_EQ(Heard().size(), answers);
+    }
+    CreateWindow(WINDOW_PROGRESS, "Nobody hears of a cancel");
+    Stroke(SDLK_ESCAPE);
+    SendMessage(MSG_PRESS, 400, 420, 1, 0);
+    EXPECT_EQ(GetWindow(), WINDOW_PROGRESS);
+    ProgBox_RedrawProgress(1000);
+    MBox_RedrawMessage(std::string(3000, 'x').c_str());
 }
 
 // --- Keyboard ---
@@ -353,7 +373,7 @@ TEST_F(Windows, KeysOfAKeyboardWriteAsOnTheScreenAndStrayOnesNothing)
     EXPECT_THAT(Heard(), IsEmpty());
 }
 
-TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
+TEST_F(Windows, ATextStopsAtItsLimitAndTheCursorStaysInTheWell)
 {
     std::string text;
     for (int i = 0; i < 80; i++)
@@ -368,13 +388,9 @@ TEST_F(Windows, ATextStopsAtItsLimitWhereverTheCursorIs)
         TouchKeyboard({"Enter"});
         EXPECT_THAT(Heard(), ElementsAre("text " + text.substr(0, size_t(length))));
     }
-}
-
-// The cursor is the only thing of its colour in the well.
-TEST_F(Windows, TheCursorOfALongTextStaysInTheWell)
-{
-    const std::string text(63, 'W');
-    CreateWindow(WINDOW_KEYBOARD, "Name", {.value = text.c_str(), .input_max = 63});
+    // The cursor is the only thing of its colour in the well.
+    const std::string wide(63, 'W');
+    CreateWindow(WINDOW_KEYBOARD, "Name", {.value = wide.c_str(), .input_max = 63});
     for (int left = 0; left <= 63; left++) {
         int cursor = 0;
         for (int x = KEYBOARD_WINDOW.x + 12; x <= KEYBOARD_WINDOW.x + 709; x++)
@@ -441,30 +457,6 @@ TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
     CreateWindow(WINDOW_SELECT, "Huge", {.columns = 1000, .rows = 1000});
     CreateWindow(WINDOW_PATH, "Strange", {.path_type = 99});
     EXPECT_THAT(Heard(), IsEmpty());
-}
-
-TEST_F(Windows, ABoxAnswersWithTheKeysThatItHas)
-{
-    // window: the one that is open afterwards
-    for (auto [args, type, sym, window, answers] :
-         {std::tuple<WindowArgs, int, int, int, size_t>{{}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 1},
-          {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_RETURN, 0, 1},
-          {{.is_yes_no = true}, WINDOW_MESSAGE, SDLK_ESCAPE, 0, 0},
-          {{.no_button = true}, WINDOW_MESSAGE, SDLK_ESCAPE, WINDOW_MESSAGE, 0},
-          {{}, WINDOW_PROGRESS, SDLK_RETURN, WINDOW_PROGRESS, 0},
-          {{}, WINDOW_PROGRESS, SDLK_ESCAPE, 0, 1}}) {
-        args.ok = HearValue;
-        CreateWindow(type, "Box", args);
-        Stroke('x');
-        EXPECT_EQ(Stroke(sym), window);
-        EXPECT_EQ(Heard().size(), answers);
-    }
-    CreateWindow(WINDOW_PROGRESS, "Nobody hears of a cancel");
-    Stroke(SDLK_ESCAPE);
-    SendMessage(MSG_PRESS, 400, 420, 1, 0);
-    EXPECT_EQ(GetWindow(), WINDOW_PROGRESS);
-    ProgBox_RedrawProgress(1000);
-    MBox_RedrawMessage(std::string(3000, 'x').c_str());
 }
 
 struct PageJump : Windows {
@@ -649,7 +641,7 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
 }
 
 // A press on another box moves the window there; the page under it is still saved.
-TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
+TEST_F(KnobInput, AnotherBoxTakesTheWindowOverAndATimeCodeThatDoesNotExistIsSentNowhere)
 {
     TDL_FillRectS(440, 130, 705, 535, GROUND);
     PressSlot(1);
@@ -663,6 +655,17 @@ TEST_F(KnobInput, AnotherBoxTakesTheWindowOver)
     Hit({"5", "Trim"});
     EXPECT_EQ(GetWindow(), WINDOW_KNOB);
     EXPECT_THAT(Sent(1, {"1", "Trim"}), ElementsAre("put Clip#-11.50"));
+    for (const Keys& keys : {Keys{"4", "5", "Enter"},
+                             {"7", "5", "0", "0", "Enter"},
+                             {"9", "9", "9", "9", "9", "9", "Enter"}}) {
+        EXPECT_THAT(Sent(3, keys), IsEmpty());
+        EXPECT_EQ(GetWindow(), WINDOW_KNOB) << "what was typed can be mended";
+        EXPECT_THAT(PixelsIn({446, 140, 700, 270}), Contains(RED));
+        Window_ReserveQuit(2); // code has its way
+        Pass(10);
+        EXPECT_EQ(GetWindow(), 0);
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << keys[0];
+    }
 }
 
 // The value of a box on the air: what nobody has typed does not change it.
@@ -705,21 +708,6 @@ TEST_F(KnobInput, ATimeCodeGoesBackByTheRateThatShowedIt)
         EXPECT_EQ(GetWindow() != 0, rate == 25);
         CloseWindow();
         EXPECT_THAT(Sent(3, {"Enter"}), Contains(sent));
-    }
-}
-
-TEST_F(KnobInput, ATimeCodeThatDoesNotExistIsSentNowhere)
-{
-    for (const Keys& keys : {Keys{"4", "5", "Enter"},
-                             {"7", "5", "0", "0", "Enter"},
-                             {"9", "9", "9", "9", "9", "9", "Enter"}}) {
-        EXPECT_THAT(Sent(3, keys), IsEmpty());
-        EXPECT_EQ(GetWindow(), WINDOW_KNOB) << "what was typed can be mended";
-        EXPECT_THAT(PixelsIn({446, 140, 700, 270}), Contains(RED));
-        Window_ReserveQuit(2); // code has its way
-        Pass(10);
-        EXPECT_EQ(GetWindow(), 0);
-        EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << keys[0];
     }
 }
 
