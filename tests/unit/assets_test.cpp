@@ -18,20 +18,9 @@ uint32_t little_endian(const Bytes& bytes, size_t at, int count = 4)
     return value;
 }
 
-struct Picture {
-    int width = 0, height = 0;
-    Bytes file;
-};
-
-Picture read_picture(const std::string& name)
+Bytes bitmap(const std::string& name)
 {
-    Picture p;
-    p.file = FileText(RUN_DIR + "/graphics/" + name + ".bmp");
-    if (p.file.size() > 54) {
-        p.width = int(little_endian(p.file, 18));
-        p.height = int(little_endian(p.file, 22));
-    }
-    return p;
+    return FileText(RUN_DIR + "/graphics/" + name + ".bmp");
 }
 
 int text_width(const Bytes& offsets, int font, const char* text)
@@ -70,15 +59,15 @@ TEST(Assets, EveryWipeNumberHasAPicture)
     size_t files = 0;
     for (const NumberRange& r : WIPE_NUMBERS)
         for (int n = r.first; n <= r.last; n++, files++) {
-            const Picture p = read_picture("ptn/" + std::to_string(n));
-            ASSERT_EQ(p.width, 60) << n;
-            ASSERT_EQ(p.height, 48) << n;
+            const Bytes picture = bitmap("ptn/" + std::to_string(n));
+            ASSERT_EQ(little_endian(picture, 18), 60u) << n;
+            ASSERT_EQ(little_endian(picture, 22), 48u) << n;
         }
     for (const NumberRange& r : WIPE_NUMBERS_SMALL_MODEL)
         for (int n = r.first; n <= r.last; n++, files++) {
-            const Bytes small = read_picture("ptn/" + std::to_string(n) + "e").file;
-            EXPECT_NE(small, read_picture("ptn/" + std::to_string(n)).file) << n;
-            EXPECT_EQ(small, read_picture("ptn/" + std::to_string(n - 1000)).file) << n;
+            const Bytes small = bitmap("ptn/" + std::to_string(n) + "e");
+            EXPECT_NE(small, bitmap("ptn/" + std::to_string(n))) << n;
+            EXPECT_EQ(small, bitmap("ptn/" + std::to_string(n - 1000))) << n;
         }
     const fs::directory_iterator folder(RUN_DIR + "/graphics/ptn");
     EXPECT_EQ(size_t(std::distance(begin(folder), end(folder))), files)

@@ -80,43 +80,37 @@ TEST_F(FileName, PathsOfDrivesAndUnits)
     CopyText(GL_RegistDataPath, "/mnt/data/");
     CopyText(GL_ImportDataPath, "");
     static const struct {
-        FILEINFO info;
+        int grp, main, sub, no, unit;
+        const char* name;
         int device;
         const char* path;
     } cases[] = {
-        {{13, 0, 0, 0, 0, "OPEN"},
-         FILE_LOCAL,
+        {13, 0, 0, 0, 0, "OPEN", FILE_LOCAL,
          "MYHOST:/mnt/data/user/root/SYSTEM/SNAPSHOT/SWR000D001/ME1/OPEN.ME1_001.SSS"},
-        {{13, 0, 0, 98, FILE_WHOLE_ID, "a/b,c"},
-         FILE_NETWORK,
+        {13, 0, 0, 98, FILE_WHOLE_ID, "a/b,c", FILE_NETWORK,
          "MYHOST:/var/nfs/user/root/SYSTEM/SNAPSHOT/SWR001D001/ME1/a_b_c.ME1_099.SSS"},
-        {{13, 3, 5, 0, 1, "x.y z"},
-         FILE_REMOVABLE,
+        {13, 3, 5, 0, 1, "x.y z", FILE_REMOVABLE,
          "MYHOST:/mnt/usb/usb1/SYSTEM/SNAPSHOT/DME000D002/CH2/x_y z.CH2_0001.DSS"},
-        {{0, 0, 4, 0, 1, "S"},
-         FILE_LOCAL,
+        {0, 0, 4, 0, 1, "S", FILE_LOCAL,
          "MYHOST:/mnt/data/user/root/SYSTEM/SETUP/SWR000D002/S.DEV_0000.SFS"},
-        {{21, 0, 0, 249, 0, "M"},
-         FILE_REMOTE_PNL,
+        {21, 0, 0, 249, 0, "M", FILE_REMOTE_PNL,
          "PNL001D001:/mnt/data/user/root/SYSTEM/MACRO/CTRLCPU/M.PNL_0250.PMR"},
-        {{21, 0, 0, 0, 0, "M"},
-         FILE_REGISTER,
-         "PNL001D001:/vorn/tmp/file/MACRO/PNL1/M.PNL_0001.PMR"},
-        {{13, 1, 0, 0, 0, "P"},
-         FILE_REGISTER,
+        {21, 0, 0, 0, 0, "M", FILE_REGISTER, "PNL001D001:/vorn/tmp/file/MACRO/PNL1/M.PNL_0001.PMR"},
+        {13, 1, 0, 0, 0, "P", FILE_REGISTER,
          "SWR001D001:/vorn/tmp/file/SNAPSHOT/SWR1/P.PP_001.SSS"},
-        {{8, 0, 1, 0, 2, "W"},
-         FILE_REGISTER,
-         "DME001D002:/vorn/tmp/file/EFFECT/SWR1/W.CHF_0101.DKF"},
-        {{33, 0, 0, 6, 0, "MMCR7"}, FILE_REGISTER, "MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"},
+        {8, 0, 1, 0, 2, "W", FILE_REGISTER, "DME001D002:/vorn/tmp/file/EFFECT/SWR1/W.CHF_0101.DKF"},
+        {33, 0, 0, 6, 0, "MMCR7", FILE_REGISTER, "MYHOST:/var/tmp/MenuMacro/mm_reg07.tmp"},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Path(c.info, c.device), c.path);
+    for (const auto& c : cases) {
+        FILEINFO info = {c.grp, c.main, c.sub, c.no, c.unit};
+        CopyText(info.name, c.name);
+        EXPECT_EQ(Path(info, c.device), c.path);
+    }
     char target[8];
-    EXPECT_EQ(File_Target(cases[5].path, target, sizeof target), 0);
-    EXPECT_STREQ(target, "PNL1");
-    EXPECT_EQ(File_Target(cases[7].path, target, sizeof target), 0);
-    EXPECT_STREQ(target, "SWR1");
+    for (const auto& [n, expected] : {std::pair{5, "PNL1"}, {7, "SWR1"}}) {
+        EXPECT_EQ(File_Target(cases[n].path, target, sizeof target), 0);
+        EXPECT_STREQ(target, expected);
+    }
     EXPECT_EQ(File_Target(cases[8].path, target, sizeof target), -1);
 }
 

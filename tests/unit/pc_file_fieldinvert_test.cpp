@@ -16,13 +16,6 @@ struct FieldInvertPage : ServerPage {
         FileFieldInvert_Reset();
         ServerPage::TearDown();
     }
-    static std::string Row(int n)
-    {
-        std::string text;
-        for (int column = 0; column < 8; column++)
-            text += std::string(column ? "|" : "") + LS_GetData(1, n, column);
-        return text;
-    }
 };
 
 TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
@@ -36,15 +29,15 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
                  logo + tail + "0,0",
                  std::string("/etc/SWR000D001/MBACK.FMEM_013.SFM") + tail + "0,0"});
     ASSERT_EQ(LS_GetNData(1), 2);
-    EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i|||") << "by number";
-    EXPECT_EQ(Row(1), "012|MBACK|Nov.25.2026 10:30|1|1080i||O|O");
+    EXPECT_EQ(Cells(1, 0, 0, 8), "007|MLOGO|Nov.25.2026 10:30|1|1080i|||") << "by number";
+    EXPECT_EQ(Cells(1, 1, 0, 8), "012|MBACK|Nov.25.2026 10:30|1|1080i||O|O");
     (void)Touch(200, 124 + 22 + 5);
     (void)Press(BTN_INVERT_EXEC);
     const Lines sent = Answer(1);
     EXPECT_THAT(sent, ElementsAre(testing::EndsWith(",MYHOST:" + logo)));
     const Lines again = Reply(sent, "Frame Memory@FieldInvert", {});
     (void)Reply(again, "Access@FindSFM", {logo + tail + "1,1"});
-    EXPECT_EQ(Row(0), "007|MLOGO|Nov.25.2026 10:30|1|1080i||O|O");
+    EXPECT_EQ(Cells(1, 0, 0, 8), "007|MLOGO|Nov.25.2026 10:30|1|1080i||O|O");
     (void)Open(0x71540000);
     EXPECT_NE(QueueRoot, nullptr);
     (void)Leave();

@@ -66,10 +66,9 @@ TEST_F(FileIdCopyPage, ShowsWhatTheDirectoriesHold)
                      "FMEMFOL/ART/DME002D001/X.CH1_0001.DKF", "SETUP/SWR000D0011/A.DEV_0000.SST"}));
     Lines rows;
     for (int i = 0; i < LS_GetNData(1); i++)
-        rows.push_back(std::string(LS_GetData(1, i, 0)) + " " + LS_GetData(1, i, 1) + " " +
-                       LS_GetData(1, i, 2));
+        rows.push_back(Cells(1, i, 0, 3));
     EXPECT_THAT(rows,
-                ElementsAre("SWR000D001 SETUP 1", "SWR000D001 SNAPSHOT 2", "DME002D001 FMEMFOL 1"));
+                ElementsAre("SWR000D001|SETUP|1", "SWR000D001|SNAPSHOT|2", "DME002D001|FMEMFOL|1"));
     EXPECT_TRUE(Disabled().count(BTN_IDCOPY_COPY)) << "for nobody";
 }
 
