@@ -41,6 +41,13 @@ inline Strings Items(int worktype)
     return items;
 }
 
+inline Strings Below(const std::string& folder, Strings files)
+{
+    for (std::string& file : files)
+        file.insert(0, folder);
+    return files;
+}
+
 struct ServerPage : TablePage {
     static inline int ack = 900;
 
@@ -78,12 +85,6 @@ struct ServerPage : TablePage {
             served += Serve(line, kind, rows, end);
         EXPECT_GT(served, 0) << "no " << kind << " in " << testing::PrintToString(sent);
         return TakeQueuedCommands();
-    }
-    static Lines Below(const std::string& folder, Lines files)
-    {
-        for (std::string& file : files)
-            file.insert(0, folder);
-        return files;
     }
     // The pane on top goes with this result, and the key that led to it is up again.
     static Lines Answer(int result)

@@ -1,7 +1,9 @@
 #include "access.h"
 #include "file_page.h"
 #include "pane_private.h"
+#include "process.h"
 #include <chrono>
+#include <csignal>
 
 constexpr char ROW_DATE[] = "Wed Nov 25 09:20:08 2026";
 
@@ -392,18 +394,8 @@ TEST_F(FileLists, ACallbackMayEmptyItsListAndBeginAnew)
 
 TEST_F(FileLists, TheDrivesAreWrittenBeforeTheJobEnds)
 {
-    static int pipe_ends[2];
-    ASSERT_EQ(pipe(pipe_ends), 0);
-    File_ReplaceSync([] {
-        const int pid = fork();
-        if (pid == 0) {
-            char c;
-            close(pipe_ends[1]);
-            (void)!read(pipe_ends[0], &c, 1);
-            _exit(0);
-        }
-        return pid;
-    });
+    static int sync;
+    File_ReplaceSync([] { return sync = ktr_start("/bin/sleep 60"); });
     Fill(1);
     File_ExecCopyList(&list, List, 0);
     Answer(1, "OK");
@@ -411,13 +403,12 @@ TEST_F(FileLists, TheDrivesAreWrittenBeforeTheJobEnds)
         SendMessage(MSG_REDRAW, 10, 0, 0, 0);
     EXPECT_THAT(told, IsEmpty());
     EXPECT_TRUE(Pane_Exist(QueueRoot->paneid));
-    close(pipe_ends[1]);
+    kill(sync, SIGTERM);
     for (int i = 0; i < 500 && QueueRoot; i++) {
         usleep(10000);
         SendMessage(MSG_REDRAW, 10, 0, 0, 0);
     }
     EXPECT_EQ(told.size(), 1u);
-    close(pipe_ends[0]);
 }
 
 TEST_F(FileLists, AMemorySizedJobAnswersInTime)

@@ -1,4 +1,5 @@
 #include "frame_page.h"
+#include "server_page.h"
 
 constexpr uint32_t OLD = 0x71510100, NEW = 0x71510200, FOLDERS_PAGE = 0x71520000;
 constexpr const char* DRIVE = "MYHOST:/mnt/data/user/root/SYSTEM/";
@@ -6,10 +7,8 @@ constexpr const char* DUPLICATE =
     "Some requests are skipped. \nFollowing operation is not permitted.\n"
     "  - Loading that will cause duplicate\n    register name.";
 
-static std::string OnDrive(const std::string& rest)
-{
-    return DRIVE + rest;
-}
+constexpr const char* TAKEN = "This name is already existing.\nPlease enter other name.";
+const std::string DEFAULT = DRIVE + std::string("FMEMFOL/DEFAULT/SWR000D001/");
 
 TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
 {
@@ -21,14 +20,10 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo", "2 Slogo", "3 Mbeach", "X12 Mfar"));
     EXPECT_STREQ(LS_GetData(1, 1, COL_NAME) + 7, "Sport");
     // The drive: what has no name of the grammar is not there.
-    Answer(opened, "Access@ListDir",
-           {OnDrive("FMEMFOL/ARCHIVE"), OnDrive("FMEMFOL/TOO LONG A NAME")});
+    Answer(opened, "Access@ListDir", Below(DRIVE, {"FMEMFOL/ARCHIVE", "FMEMFOL/TOO LONG A NAME"}));
     Answer(opened, "Access@Find",
-           {OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mold.FMEM_1234.SFM"),
-            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Sanc.FMEX_007.SFA"),
-            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mlow.FMEM_002.SFM"),
-            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mbad.FMEM_5663.SFM"),
-            OnDrive("FMEMFOL/DEFAULT/SWR000D001/rubbish.txt")});
+           Below(DEFAULT, {"Mold.FMEM_1234.SFM", "Sanc.FMEX_007.SFA", "Mlow.FMEM_002.SFM",
+                           "Mbad.FMEM_5663.SFM", "rubbish.txt"}));
     EXPECT_THAT(Rows(2), ElementsAre("2 Mlow", "1234 Mold", "X7 Sanc"));
     EXPECT_STREQ(LS_GetData(2, 1, COL_NAME) + 7, "ARCHIVE");
     EXPECT_EQ(LS_GetNData(2), 3 + 3);
@@ -60,10 +55,9 @@ TEST_F(FramePage, SaveNamesTheRegisterItsNumberAndTheFolder)
     const Lines sent = Run(Press(BTN_FILE_L_TO_R));
     EXPECT_THAT(sent, Contains(HasSubstr("Get#")).Times(2));
     EXPECT_THAT(sent, Contains(HasSubstr(",SWR001D001:Mlogo.FMEM_001.SF2,")));
-    EXPECT_THAT(sent,
-                Contains(HasSubstr("," + OnDrive("FMEMFOL/Sport/SWR000D001/Mlogo.FMEM_001.SFM"))));
-    EXPECT_THAT(sent,
-                Contains(HasSubstr("," + OnDrive("FMEMFOL/Sport/SWR000D001/Mlate.FMEM_300.SFM"))));
+    for (const std::string file : {"Mlogo.FMEM_001.SFM", "Mlate.FMEM_300.SFM"})
+        EXPECT_THAT(sent, Contains(HasSubstr(std::string(",") + DRIVE +
+                                             "FMEMFOL/Sport/SWR000D001/" + file)));
     EXPECT_THAT(sent, Not(Contains(HasSubstr("Move Still"))));
 }
 
@@ -73,9 +67,7 @@ TEST_F(FramePage, LoadTakesEmptyRegistersAndPutsThemIntoTheFolder)
     Folders("0,Default.,3,Sport");
     const Lines opened = Open(NEW);
     Answer(opened, "Access@Find",
-           {OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mlogo.FMEM_009.SFM"),
-            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mnew.FMEM_001.SFM"),
-            OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mnew.FMEM_002.SFM")});
+           Below(DEFAULT, {"Mlogo.FMEM_009.SFM", "Mnew.FMEM_001.SFM", "Mnew.FMEM_002.SFM"}));
     (void)Touch(180, 124 + 22 * 2 + 5); // Sport
     Select(2, {0, 2, 3, 4});
     const Lines sent = Run(Press(BTN_FILE_R_TO_L));
@@ -89,8 +81,7 @@ TEST_F(FramePage, LoadTakesEmptyRegistersAndPutsThemIntoTheFolder)
 TEST_F(FramePage, PicturesFromElsewhereAreFoundAgain)
 {
     Store({"Mold_name"});
-    const Lines files = {OnDrive("FMEMFOL/DEFAULT/SWR000D001/My background.FMEM_7.SFM"),
-                         OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mold name.FMEM_008.SFM")};
+    const Lines files = Below(DEFAULT, {"My background.FMEM_7.SFM", "Mold name.FMEM_008.SFM"});
     Answer(Open(NEW), "Access@Find", files);
     EXPECT_THAT(Rows(2), ElementsAre("7 My background", "8 Mold name"));
     Select(2, {1, 2});
@@ -113,7 +104,7 @@ TEST_F(FramePage, FullStoreSaysSo)
 {
     for (int i = 0; i < 300; i++)
         Store({"Mr" + std::to_string(i) + "x"}, i + 1);
-    Answer(Open(NEW), "Access@Find", {OnDrive("FMEMFOL/DEFAULT/SWR000D001/Mnew.FMEM_001.SFM")});
+    Answer(Open(NEW), "Access@Find", {DEFAULT + "Mnew.FMEM_001.SFM"});
     Select(2, {1});
     EXPECT_THAT(Press(BTN_FILE_R_TO_L), IsEmpty());
     EXPECT_THAT(Message(), HasSubstr("no empty register"));
@@ -144,11 +135,10 @@ TEST_F(FramePage, OlderMemoryLoadsByRow)
     EXPECT_EQ(LS_GetNData(1), 224);
     EXPECT_STREQ(LS_GetData(1, 2, COL_NAME), "Mbeach");
     Answer(opened, "Access@Find",
-           {OnDrive("FRAMEMEM/SWR000D001/Mbeach.FMEM_001.SFM"),
-            OnDrive("FRAMEMEM/SWR000D001/Slogo.FMEM_002.SFM")});
+           Below(DRIVE, {"FRAMEMEM/SWR000D001/Mbeach.FMEM_001.SFM",
+                         "FRAMEMEM/SWR000D001/Slogo.FMEM_002.SFM"}));
     Select(2, {0, 1});
-    LS_SetNowLine(
-        1, 2); // the first onto the register of its name, the second under a name that is taken
+    LS_SetNowLine(1, 2); // the first onto the register of its name, the second's name is taken
     const Lines sent = Run(Press(BTN_FILE_R_TO_L));
     EXPECT_THAT(sent, Contains(HasSubstr("PutV3#")).Times(1));
     EXPECT_THAT(sent, Contains(HasSubstr(",SWR001D001:Mbeach.FMEM_003.SFM")));
@@ -172,19 +162,17 @@ TEST_F(FramePage, RenameKeepsTheSideAndGivesNoNameTwice)
     Store({"Mlogo", "Slogo", "Mbeach"});
     static const struct {
         std::vector<int> rows;
-        const char* entered;
-        Lines sent;
+        std::string entered;
+        Lines sent; // renames
     } cases[] = {
-        {{1, 2},
-         "Mclock",
-         {"put Frame Mem@File@Rename#Mlogo,Mclock", "put Frame Mem@File@Rename#Slogo,Sclock"}},
-        {{2}, "clock", {"put Frame Mem@File@Rename#Slogo,Sclock"}},
-        {{1}, "Mtoolonganame", {"put Frame Mem@File@Rename#Mlogo,Mtoolonga"}},
+        {{1, 2}, "Mclock", {"Mlogo,Mclock", "Slogo,Sclock"}},
+        {{2}, "clock", {"Slogo,Sclock"}},
+        {{1}, "Mtoolonganame", {"Mlogo,Mtoolonga"}},
         {{1}, "Mbeach", {}}, // taken
         {{1}, "Mlogo", {}},  // as it is
         {{1}, "Mimage001", {}},
         {{1}, "image123", {}},
-        {{1, 3}, "Mtwice", {"put Frame Mem@File@Rename#Mlogo,Mtwice"}},
+        {{1, 3}, "Mtwice", {"Mlogo,Mtwice"}},
     };
     for (const auto& c : cases) {
         Open(NEW + 1);
@@ -192,11 +180,9 @@ TEST_F(FramePage, RenameKeepsTheSideAndGivesNoNameTwice)
         LS_SetNowLine(1, c.rows[0]);
         Select(1, c.rows);
         Press(BTN_FILE_RENAME);
-        EXPECT_EQ(Enter(c.entered), c.sent) << c.entered;
-        const std::string entered = c.entered;
-        const bool says = entered == "Mbeach" || entered == "Mtwice";
-        EXPECT_EQ(Message() == "This name is already existing.\nPlease enter other name.", says)
-            << c.entered;
+        EXPECT_EQ(Enter(c.entered), Below("put Frame Mem@File@Rename#", c.sent)) << c.entered;
+        const bool says = c.entered == "Mbeach" || c.entered == "Mtwice";
+        EXPECT_EQ(Message() == TAKEN, says) << c.entered;
         if (says)
             Quit(0);
     }
@@ -212,16 +198,15 @@ TEST_F(FramePage, FoldersAreMadeNamedAndDeleted)
     Open(FOLDERS_PAGE);
     Pass(10);
     EXPECT_EQ(LS_GetNData(1), 2);
-    EXPECT_STREQ(LS_GetData(1, 0, 1), "1"); // a still and a clip
-    EXPECT_STREQ(LS_GetData(1, 0, 2), "1");
+    EXPECT_EQ(Cells(1, 0, 1, 2), "1|1") << "a still and a clip";
     EXPECT_EQ(Usable({49, 50, 51}), std::vector{49}); // the switcher's own folder stays
     static const struct {
         const char *entered, *sent, *says;
     } cases[] = {
         {"News", "put Frame Mem@Folder@Rename#2,News", ""},
         {"Too long a name", "put Frame Mem@Folder@Rename#2,Too_long", ""},
-        {"Sport", "", "This name is already existing.\nPlease enter other name."},
-        {"default", "", "This name is already existing.\nPlease enter other name."},
+        {"Sport", "", TAKEN},
+        {"default", "", TAKEN},
         {"", "", "Empty..."},
     };
     for (const auto& c : cases) {
