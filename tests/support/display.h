@@ -22,8 +22,6 @@ struct Display {
         TDL_WatchFlush(nullptr);
         SDL_FreeSurface(shown);
     }
-    Display(const Display&) = delete;
-    Display& operator=(const Display&) = delete;
 
     // The frame of what is drawn and not on the display, "x1,y1-x2,y2"; "" when all is.
     static std::string Lacks()

@@ -38,8 +38,6 @@ struct TextureStick {
         std::filesystem::remove_all(TEXTURE_STICK);
         TexturePackage_Clear();
     }
-    TextureStick(const TextureStick&) = delete;
-    TextureStick& operator=(const TextureStick&) = delete;
 
     static std::string Put(const std::string& name, const std::string& bytes)
     {

@@ -9,7 +9,9 @@
 // A working directory with its own graphics folder; the bitmaps that were loaded before are back at
 // its end.
 struct GraphicsFolder {
-    GraphicsFolder() : had_graphics(G_EXE_p0o0 != nullptr)
+    const bool had_graphics = G_EXE_p0o0 != nullptr;
+
+    GraphicsFolder()
     {
         FreeGraphics();
         std::filesystem::create_directories("graphics/ptn");
@@ -20,14 +22,10 @@ struct GraphicsFolder {
     {
         FreeGraphics();
         Log_Init(nullptr, LOG_FILE_SIZE);
-        if (!had_graphics)
-            return;
         std::filesystem::current_path(TEST_RUN_DIR);
-        LoadGraphics();
+        if (had_graphics)
+            LoadGraphics();
     }
-    GraphicsFolder(const GraphicsFolder&) = delete;
-    GraphicsFolder& operator=(const GraphicsFolder&) = delete;
-    bool had_graphics;
 };
 
 // A bitmap that is known again by its width.

@@ -11,8 +11,6 @@ extern std::vector<Rect> Flushed; // what SDL_UpdateRect was asked for since the
 struct TestDisplay {
     explicit TestDisplay(int bits_per_pixel = 32);
     ~TestDisplay(); // the tests of other modules find the screen as it was
-    TestDisplay(const TestDisplay&) = delete;
-    TestDisplay& operator=(const TestDisplay&) = delete;
 
     std::string dir; // the working directory while this lives
     bool had_screen = false;
