@@ -1,0 +1,93 @@
+#include "a_st_draw.h"
+#include "table_page.h"
+
+using GalleryPages = TablePage;
+
+TEST_F(GalleryPages, TheTopRowPutsAllKeysIntoAState)
+{
+    static const std::pair<int, const char*> states[] = {
+        // Status and visibility of a key that can be on, and of one that cannot.
+        {66, "1/0 2/0"}, {67, "3/0 2/0"}, {70, "2/2 2/2"}, {68, "2/1 2/1"},
+        {69, "1/1 2/1"}, {70, "2/2 2/2"}, {65, "2/0 2/0"}};
+    (void)Open(0x99920000);
+    EXPECT_EQ(BT_GetStatus(65), BT_ON) << "Off";
+    for (const auto& [key, expected] : states) {
+        (void)Press(key);
+        Pass(200);
+        std::string shown;
+        for (const int id : {50, 6})
+            shown += (id == 6 ? " " : "") + std::to_string(BT_GetStatus(id)) + "/" +
+                     std::to_string(BT_GetVisible(id));
+        EXPECT_EQ(shown, expected) << key;
+        EXPECT_EQ(BT_GetStatus(key), BT_ON);
+    }
+    for (const bool on : {true, false}) {
+        for (const int key : {1, 4, 51})
+            (void)Press(key);
+        Pass(200);
+        EXPECT_EQ(BT_GetStatus(1) == BT_ON, on);
+        EXPECT_EQ(BT_GetStatus(4) == BT_ON, on);
+        EXPECT_EQ(bt_find(51)->undecided, on);
+    }
+    for (const int key : {2, 3, 5}) {
+        (void)Press(key);
+        for (const int other : {2, 3, 5})
+            EXPECT_EQ(BT_GetStatus(other) == BT_ON, other == key) << key;
+    }
+}
+
+TEST_F(GalleryPages, BoxesAndListsAreFilledAsTheirKeysSay)
+{
+    (void)Open(0x99920001);
+    (void)Press(17);
+    EXPECT_EQ(Shown("4 Decimals"), "0.5");
+    (void)Press(18);
+    static const std::pair<int, Strings> values[] = {{33, {"100", "0", "-50"}},
+                                                     {35, {"-100", "10", "0"}},
+                                                     {34, {"0", "5", "-25"}},
+                                                     {36, {"-150", "12.5", "12.5"}}};
+    for (const auto& [key, expected] : values) {
+        (void)Press(key);
+        EXPECT_THAT((Strings{Shown("Backwards"), Shown("Two\nlines"), Shown("One side")}),
+                    ElementsAreArray(expected));
+    }
+    (void)Open(0x99920002);
+    for (const auto& [key, rows] : {std::pair{50, 30}, {49, 0}, {51, 12000}}) {
+        (void)Press(key);
+        Pass(200);
+        for (const int list : {1, 2})
+            EXPECT_EQ(LS_GetNData(list), rows);
+    }
+    for (const auto& [row, cells] :
+         {std::pair{8, "9|A NAME THAT IS TOO LONG|0|A|B"}, {15, "16|OPENING|127|A|B"}}) {
+        EXPECT_EQ(Cells(1, row, 0, 5), cells);
+        EXPECT_EQ(Cells(2, row, 0, 3), std::to_string(row + 1) + "|M/E-1|P/P");
+    }
+}
+
+TEST_F(GalleryPages, CellsAndTabsFollowTheirKeysAndForgetThemWithThePage)
+{
+    for (int visit = 0; visit < 2; visit++) {
+        (void)Open(0x99920003);
+        int key = 49;
+        for (int* value : {&bgcen, &inven, &gryen, &s_font}) {
+            for (const int on : {0, 1, 0, 1}) {
+                EXPECT_EQ(*value, on) << key;
+                EXPECT_EQ(BT_GetStatus(key) == BT_ON, on) << key;
+                (void)Press(key);
+                Pass(200);
+            }
+            (void)Press(key++);
+        }
+        (void)Leave();
+        EXPECT_EQ(s_font, 0) << "it would follow to other pages";
+        (void)Open(0x99920004);
+        for (const bool on : {false, true, false}) {
+            for (const int tab : {17, 18}) {
+                EXPECT_EQ(BT_GetStatus(tab) == BT_ON, on) << tab;
+                (void)Press(tab);
+            }
+            Pass(200);
+        }
+    }
+}
