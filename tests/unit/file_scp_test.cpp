@@ -376,10 +376,13 @@ TEST_F(FileRemote, ADisconnectEndsTheJobWhereverItIs)
 TEST_F(FileRemote, AHubThatHasFallenEndsAllAndLetsNothingBegin)
 {
     Add("p.PST", "SETUP", "PNL1");
-    BeginGet();
+    BeginGet(Strings(299, "a.SST"));
     File_HubLost();
     EXPECT_EQ(told.size(), 1u);
     EXPECT_EQ(QueueRoot, nullptr);
+    const std::string text = pane_text_in_view(pane_top());
+    EXPECT_TRUE(text.starts_with("p.PST: Canceled\na.SST: Canceled\n"));
+    EXPECT_TRUE(text.ends_with("a.SST: Canceled\nand 47 more.\n")) << "more is not shown at once";
     (void)HubSent();
     BeginGet();
     EXPECT_EQ(told.size(), 2u) << "it would wait for ever";

@@ -472,6 +472,20 @@ TEST_F(FileBackground, EachPageOfTheMenuHasItsBit)
     }
     EXPECT_EQ(BkgdFileTransfer_PagePermitted(0x71220000), 1);
     EXPECT_EQ(BkgdFileTransfer_PagePermitted(0x21110000), 0);
+    for (const auto& [page, on] : {std::pair{0x25620001u, 1}, {0x25620000u, 2}, {0u, -1}})
+        EXPECT_EQ(BkgdHDDTransfer_Set(page, on), -1);
+    EXPECT_FALSE(BkgdHDDTransfer_IsUnanswered(9999)) << "nothing was begun";
+    BkgdHDDTransfer_Begin(1);
+    EXPECT_EQ(BkgdHDDTransfer_Switcher(), 1);
+    EXPECT_FALSE(BkgdHDDTransfer_IsUnanswered(4999));
+    BkgdHDDTransfer_Busy(0, true); // another one's drive
+    EXPECT_TRUE(BkgdHDDTransfer_IsUnanswered(1));
+    BkgdHDDTransfer_Busy(1, false);
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 1) << "it has not begun";
+    BkgdHDDTransfer_Busy(1, true);
+    EXPECT_FALSE(BkgdHDDTransfer_IsUnanswered(9999));
+    BkgdHDDTransfer_Busy(1, false);
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
     BkgdHDDTransfer_Set(0x25620000, 1);
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
     EXPECT_EQ(BkgdHDDTransfer_Check(0x25620000), 1);
@@ -490,8 +504,11 @@ TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)
     EXPECT_EQ(Pane_GetActiveID(), 0) << "the page is not painted yet";
     SendMessage(MSG_REDRAW, 10, 0, 0, 0);
     const int second = QueueRoot->paneid;
-    ASSERT_TRUE(Pane_Exist(second));
-    EXPECT_STREQ(pane_find(second)->caption, "Transfer");
+    PANE* const pane = pane_find(second);
+    ASSERT_TRUE(pane);
+    EXPECT_STREQ(pane->caption, "Transfer");
+    EXPECT_EQ(pane->each.progress.prog, 50);
+    EXPECT_STREQ(pane_text_in_view(pane), "f1: NG(no)\n");
     EXPECT_EQ(BkgdFileTransfer_PaneRestore(), second);
     Cancel();
     EXPECT_EQ(told.size(), 1u) << "cancelled from the pane that came back";

@@ -18,7 +18,8 @@ struct FileSteps : FileListTest {
     // What an item sends from its start to its end when every command ends well, without "put
     // File@" and labels. Short for roots: "stick/", "tmp/", "SWR:"; what has none is on this
     // machine.
-    std::string Run(Entry entry, const std::string& src, const std::string& dst)
+    std::string Run(Entry entry, const std::string& src, const std::string& dst,
+                    int is_extended = 0)
     {
         static const std::pair<const char*, std::string> roots[] = {
             {"stick/", "MYHOST:/mnt/usb/usb1/"},
@@ -33,6 +34,7 @@ struct FileSteps : FileListTest {
         };
         std::string steps;
         File_XferList_Add(&list, whole(src).c_str(), whole(dst).c_str());
+        list->fmext = is_extended;
         const uint32_t label = uint32_t(entry(&list, List, 0)) - 1;
         for (int i = 0; i < 10 && list; i++) {
             std::string one = SentOne();
@@ -264,12 +266,53 @@ struct FileImport : FileSteps {
 
 TEST_F(FileImport, BothSidesAreStoredUnderTheirRegistersAndRemoved)
 {
-    Converted(true, true);
-    const std::string a = "tmp" + first.substr(8), b = "tmp" + second.substr(8);
-    EXPECT_EQ(Run(File_ExecFmImportList, "stick/abcdefghij.tif", "SWR000D001"),
-              "Frame Memory@TIF2SFM with Compress#,stick/abcdefghij.tif," + a + "," + b +
-                  ",3,0,0 | Frame Memory@PutV3#," + a + ",SWR:FMEM_012.SF2 | Frame Memory@PutV3#," +
-                  b + ",SWR:FMEM1000.SF2 | Access@Remove#," + a + " | Access@Remove#," + b);
+    static const struct {
+        int is_v6, is_extended;
+        const char *ext, *first, *second;
+    } cases[] = {{1, 0, "SF2", "FMEM_012", "FMEM1000"},
+                 {1, 1, "SF2", "FMEX_012", "FMEX1000"},
+                 {0, 1, "SFM", "FMEM_012", "FMEM_1000"}};
+    for (const auto& c : cases) {
+        const std::string ext = c.ext, name = "tmp/XPORT/SWR000D001/", put = "Frame Memory@PutV3#,",
+                          a = name + "Mabcdefgh.FMEM_001." + ext,
+                          b = name + "Sabcdefgh.FMEM_002." + ext;
+        SYS_FmemV6 = c.is_v6;
+        File_ExecFmImportStartRegNoSet(1);
+        for (const std::string& path : {a, b})
+            WriteFile("/var/" + path, "x");
+        EXPECT_EQ(Run(File_ExecFmImportList, "stick/abcdefghij.tif", "SWR000D001", c.is_extended),
+                  std::string("Frame Memory@TIF2SFM") + (c.is_v6 ? " with Compress" : "") +
+                      "#,stick/abcdefghij.tif," + a + "," + b + ",3,0,0 | " + put + a +
+                      ",SWR:" + c.first + "." + ext + " | " + put + b + ",SWR:" + c.second + "." +
+                      ext + " | Access@Remove#," + a + " | Access@Remove#," + b);
+    }
+}
+
+TEST_F(FileImport, TheConverterHearsTheKindTheSideAndTheFormat)
+{
+    static const struct {
+        const char *file, *verb, *sides;
+        int activeline;
+        double framerate;
+        int format;
+    } cases[] = {
+        {"a.Tif", "TIF", "MS", 1, 0, 1},      {"a.bmp", "BMP", "MS", 2, 0, 2},
+        {"a.Bmp.SUB", "BMP", "SM", 3, 0, 4},  {"a.TGA", "TGA", "MS", 6, 25, 5},
+        {"a.tga.SUB", "TGA", "SM", 6, 50, 6}, {"a.png", "PNG", "MS", 5, 0, 3},
+    };
+    for (const auto& c : cases) {
+        DEV_Swr[0].activeline = c.activeline;
+        DEV_Swr[0].framerate = c.framerate;
+        File_XferList_Add(&list, (std::string("MYHOST:/mnt/usb/usb1/") + c.file).c_str(),
+                          "SWR000D001");
+        File_ExecFmImportList(&list, List, 0);
+        const std::string place = ",MYHOST:/var/tmp/XPORT/SWR000D001/";
+        EXPECT_THAT(SentOne(),
+                    AllOf(HasSubstr(c.verb + std::string("2SFM")),
+                          EndsWith(place + c.sides[0] + "a.FMEM_001.SF2" + place + c.sides[1] +
+                                   "a.FMEM_002.SF2," + std::to_string(c.format) + ",0,0")));
+        File_XferList_RemoveAll(&list);
+    }
 }
 
 TEST_F(FileImport, ASideThatIsMissingIsPassedOver)
@@ -370,6 +413,13 @@ TEST_F(FileImport, FourAreUnderWayAndOneFollowsEachThatEnds)
     list->next->usb = 0; // as in its last step
     Answer(2, "OK");
     EXPECT_EQ(Sent().size(), 2u);
+    File_XferList_RemoveAll(&list);
+    GL_IsRamDisk = 1;
+    Add({"i1.TIF", "i2.TIF"}, "MYHOST:/mnt/usb/usb1/", "");
+    for (FILEXFERLIST* i = list; i; i = i->next)
+        CopyText(i->dst, "SWR000D001");
+    File_ExecFmImportList(&list, List, 0);
+    EXPECT_EQ(Sent().size(), 1u);
 }
 
 // --- Lamps and thumbnails ---
