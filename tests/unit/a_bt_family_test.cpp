@@ -84,21 +84,17 @@ TEST_F(ButtonFamily, AWipeHasSizeAndTransparencyByItsNumber)
 
 TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
 {
-    static const struct {
-        int (*tally)(BT_MEM*, int, const char*, const char*);
-        const char *first, *second;
-        int visible;
-    } cases[] = {{bt_tly_lightptnbar, "true", "null", BT_ENABLED},
-                 {bt_tly_lightptnbar, "false", "null", BT_DISABLED},
-                 {bt_tly_lightptnbar, "true", "3", BT_DISABLED},
-                 {bt_tly_lightptnbar, "true", "", BT_DISABLED},
-                 {bt_tly_edge, "true", "Chroma", BT_DISABLED},
-                 {bt_tly_edge, "true", "Linear", BT_ENABLED},
-                 {bt_tly_edge, "false", "Chroma", BT_ENABLED}};
-    for (const auto& c : cases) {
-        OpenTally(c.tally, {"", ""});
-        Dependency(1, c.first);
-        EXPECT_EQ(Dependency(2, c.second), c.visible) << c.first << " " << c.second;
+    for (const auto& [tally, first, second, visible] :
+         {std::tuple{&bt_tly_lightptnbar, "true", "null", BT_ENABLED},
+          {&bt_tly_lightptnbar, "false", "null", BT_DISABLED},
+          {&bt_tly_lightptnbar, "true", "3", BT_DISABLED},
+          {&bt_tly_lightptnbar, "true", "", BT_DISABLED},
+          {&bt_tly_edge, "true", "Chroma", BT_DISABLED},
+          {&bt_tly_edge, "true", "Linear", BT_ENABLED},
+          {&bt_tly_edge, "false", "Chroma", BT_ENABLED}}) {
+        OpenTally(tally, {"", ""});
+        Dependency(1, first);
+        EXPECT_EQ(Dependency(2, second), visible) << first << " " << second;
     }
 }
 

@@ -144,27 +144,21 @@ TEST_F(KnobLinks, ATallyIsFoundByItsPathAndUnknownWordsChooseTheFirst)
 
 TEST_F(KnobLinks, TheBorderOfAKeyGoesByItsTypeItsSplitAndWhatHalvesIt)
 {
-    static const struct {
-        const char *type, *separate, *fine, *drop;
-        const NB_TBL* table;
-    } cases[] = {
-        {"Linear", "false", "false", "false", nb_me_key_edge_edge_border1},
-        {"Linear", "false", "true", "false", nb_me_key_edge_edge_border1h},
-        {"Linear", "true", "true", "true", nb_me_key_edge_edge_border2},
-        {"Linear", "", "false", "false", nb_me_key_edge_edge_border2},
-        {"Linear", "true", "true", "false", nb_me_key_edge_edge_border2h},
-        {"Wipe Pattern", "true", "true", "false", nb_me_key_edge_edge_border3},
-        {"Key Wipe Pattern", "false", "false", "false", nb_me_key_edge_edge_border3},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [type, separate, fine, drop, table] :
+         {std::tuple{"Linear", "false", "false", "false", nb_me_key_edge_edge_border1},
+          {"Linear", "false", "true", "false", nb_me_key_edge_edge_border1h},
+          {"Linear", "true", "true", "true", nb_me_key_edge_edge_border2},
+          {"Linear", "", "false", "false", nb_me_key_edge_edge_border2},
+          {"Linear", "true", "true", "false", nb_me_key_edge_edge_border2h},
+          {"Wipe Pattern", "true", "true", "false", nb_me_key_edge_edge_border3},
+          {"Key Wipe Pattern", "false", "false", "false", nb_me_key_edge_edge_border3}}) {
         OpenLink(1, {"~@Key Type#", "~@Separate Edge#", "~@Fine Key#", "~@Key Drop#"});
-        Tally("M/E-1@Key1@Type@Key Type", c.type);
-        if (*c.separate)
-            Tally("M/E-1@Key1@Type@Separate Edge", c.separate);
-        Tally("M/E-1@Key1@Type@Fine Key", c.fine);
-        Tally("M/E-1@Key1@Type@Key Drop", c.drop);
-        EXPECT_EQ(Chosen(), c.table)
-            << c.type << " " << c.separate << " " << c.fine << " " << c.drop;
+        Tally("M/E-1@Key1@Type@Key Type", type);
+        if (*separate)
+            Tally("M/E-1@Key1@Type@Separate Edge", separate);
+        Tally("M/E-1@Key1@Type@Fine Key", fine);
+        Tally("M/E-1@Key1@Type@Key Drop", drop);
+        EXPECT_EQ(Chosen(), table) << type << " " << separate << " " << fine << " " << drop;
     }
 }
 

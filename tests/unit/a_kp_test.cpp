@@ -58,21 +58,15 @@ struct PathLists : TabPage {
 TEST_F(PathLists, ACellShowsItsTallyAndIsNotPaintedAgainForWhatIsNoNumber)
 {
     EXPECT_THAT(TakeQueuedCommands(), testing::Contains("add Key Frame@Path@All@Xpt"));
-    static const struct {
-        const char *path, *value;
-        int x, row;
-        SDL_Surface** shown;
-    } cases[] = {
-        {"Key Frame@Path@All@Xpt", "Mixed", 270, 0, &G_PATH_mixed},
-        {"Key Frame@Path@All@Xpt", "Step", 270, 0, &G_PATH_none}, // no word of this column
-        {"Key Frame@Path@All@Hue", "CCW", 360, 0, &G_PATH_hue_ccw},
-        {"Key Frame@Path@Bkgd/Util@All@Curve", "Step", 450, 1, &G_PATH_curve_step},
-        {"Key Frame@Path@Bkgd/Util@All@Curve", "Spline", 450, 1, &G_PATH_none}, // not of type 3
-        {"Key Frame@Path@All@Xpt", "Hold", 270, 0, &G_PATH_xpt_hold},
-    };
-    for (const auto& c : cases) {
-        Tally(c.path, c.value);
-        EXPECT_EQ(Shown(c.x, c.row), *c.shown) << c.path << "#" << c.value;
+    for (const auto& [path, value, x, row, shown] :
+         {std::tuple{"Key Frame@Path@All@Xpt", "Mixed", 270, 0, &G_PATH_mixed},
+          {"Key Frame@Path@All@Xpt", "Step", 270, 0, &G_PATH_none}, // no word of this column
+          {"Key Frame@Path@All@Hue", "CCW", 360, 0, &G_PATH_hue_ccw},
+          {"Key Frame@Path@Bkgd/Util@All@Curve", "Step", 450, 1, &G_PATH_curve_step},
+          {"Key Frame@Path@Bkgd/Util@All@Curve", "Spline", 450, 1, &G_PATH_none}, // not of type 3
+          {"Key Frame@Path@All@Xpt", "Hold", 270, 0, &G_PATH_xpt_hold}}) {
+        Tally(path, value);
+        EXPECT_EQ(Shown(x, row), *shown) << path << "#" << value;
     }
     EXPECT_EQ(Shown(360, 1), nullptr); // the second row has no hue
     constexpr char TENS[] = "Key Frame@Path@All@Curve@Spline@Tens";

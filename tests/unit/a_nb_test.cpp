@@ -196,27 +196,20 @@ TEST_F(KnobColumn, WhatWasToldOrTurnedIsAValueAndIsPainted)
 
 TEST_F(KnobColumn, ATurnStopsAtTheLimitsAndSaysWhich)
 {
-    static const struct {
-        double min, max, from;
-        const char* counts;
-        Lines heard;
-        double to;
-    } cases[] = {
-        {0, 9, 8.5, "70", {"upper 1 9", "fvar 1 9.00"}, 9},
-        {9, 0, 8.4, "70", {"upper 1 0", "var 1 9", "fvar 1 9.00"}, 9},
-        {0, 9, 0.5, "-70", {"lower 1 0", "var 1 0", "fvar 1 0.00"}, 0},
-        {9, 0, 0.5, "-70", {"lower 1 9", "var 1 0", "fvar 1 0.00"}, 0},
-        {-9, 0, -0.6, "-1", {"fvar 1 -0.70"}, -0.7}, // both round to -1
-        {0, 9, 4, "1e308", {"upper 1 9", "var 1 9", "fvar 1 9.00"}, 9},
-    };
-    for (const auto& c : cases) {
-        const NB_TBL rows[] = {Box(1, "Turn", NB_INT, c.min, c.max, "Panel@Common@Knob0", 10),
-                               NB_END};
+    for (const auto& [min, max, from, counts, heard, to] :
+         {std::tuple<double, double, double, const char*, Lines, double>{
+              0, 9, 8.5, "70", {"upper 1 9", "fvar 1 9.00"}, 9},
+          {9, 0, 8.4, "70", {"upper 1 0", "var 1 9", "fvar 1 9.00"}, 9},
+          {0, 9, 0.5, "-70", {"lower 1 0", "var 1 0", "fvar 1 0.00"}, 0},
+          {9, 0, 0.5, "-70", {"lower 1 9", "var 1 0", "fvar 1 0.00"}, 0},
+          {-9, 0, -0.6, "-1", {"fvar 1 -0.70"}, -0.7}, // both round to -1
+          {0, 9, 4, "1e308", {"upper 1 9", "var 1 9", "fvar 1 9.00"}, 9}}) {
+        const NB_TBL rows[] = {Box(1, "Turn", NB_INT, min, max, "Panel@Common@Knob0", 10), NB_END};
         Open(rows);
-        NB_SetVar(1, c.from);
-        Tally("Panel@Common@Knob0", c.counts);
-        EXPECT_EQ(Told(), c.heard) << c.min << " " << c.max << " " << c.counts;
-        EXPECT_NEAR(Shown("Turn"), c.to, 1e-9);
+        NB_SetVar(1, from);
+        Tally("Panel@Common@Knob0", counts);
+        EXPECT_EQ(Told(), heard) << min << " " << max << " " << counts;
+        EXPECT_NEAR(Shown("Turn"), to, 1e-9);
     }
 }
 
@@ -351,33 +344,26 @@ TEST_F(KnobColumn, ALateTallyDoesNotUpsetStepsThatAddUp)
 
 TEST_F(KnobColumn, TheWheelStepsByItsSpeedAndByOnesWhereOnesCount)
 {
-    static const struct {
-        int type;
-        double min, max;
-        int pause_ms, msg;
-        const char* sent;
-    } cases[] = {
-        {NB_2, 0, 200, 10, MSG_WHEELDOWN, "put V#52.00"},
-        {NB_2, 0, 200, 0, MSG_WHEELDOWN, "put V#70.00"}, // a step in the same ms: 1 ms
-        {NB_2, 200, 0, 10, MSG_WHEELDOWN, "put V#48.00"},
-        {NB_INT, 0, 200, 1, MSG_WHEELDOWN, "put V#51"},
-        {NB_INT, 200, 0, 1, MSG_WHEELDOWN, "put V#49"},
-        {NB_TC, 0, 200, 1, MSG_WHEELUP, "put V#00:01:19"},
-        {NB_1, 60, 49.8, 1, MSG_WHEELDOWN, "put V#49.8"},
-    };
     SYS_FrameRate = 30;
     SYS_Format_Size = 0; // 30 frames a second
-    for (const auto& c : cases) {
-        const NB_TBL rows[] = {Box(1, "V", c.type, c.min, c.max, "V"), NB_END};
+    for (const auto& [type, min, max, pause_ms, msg, sent] :
+         {std::tuple{NB_2, 0.0, 200.0, 10, MSG_WHEELDOWN, "put V#52.00"},
+          {NB_2, 0, 200, 0, MSG_WHEELDOWN, "put V#70.00"}, // a step in the same ms: 1 ms
+          {NB_2, 200, 0, 10, MSG_WHEELDOWN, "put V#48.00"},
+          {NB_INT, 0, 200, 1, MSG_WHEELDOWN, "put V#51"},
+          {NB_INT, 200, 0, 1, MSG_WHEELDOWN, "put V#49"},
+          {NB_TC, 0, 200, 1, MSG_WHEELUP, "put V#00:01:19"},
+          {NB_1, 60, 49.8, 1, MSG_WHEELDOWN, "put V#49.8"}}) {
+        const NB_TBL rows[] = {Box(1, "V", type, min, max, "V"), NB_END};
         Open(rows);
         Clock_ms += 1000;
-        Wheel(c.msg, 1); // sets the time of the last step
+        Wheel(msg, 1); // sets the time of the last step
         Pass(500);
         Tally("V", "50");
         Forget();
-        Clock_ms += uint32_t(c.pause_ms);
-        Wheel(c.msg, 1);
-        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(c.sent, "read V")) << c.min << " " << c.max;
+        Clock_ms += uint32_t(pause_ms);
+        Wheel(msg, 1);
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(sent, "read V")) << min << " " << max;
         EXPECT_THAT(Told(), IsEmpty()) << "it is the server's";
     }
     for (int msg : {MSG_WHEELUP, MSG_WHEELDOWN, MSG_PRESS, MSG_DRAG, MSG_RELEASE})

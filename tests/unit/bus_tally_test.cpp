@@ -130,39 +130,33 @@ TEST_F(BusTally, ADataPortThatIsOutOfUseIsAskedFor)
 
 TEST_F(BusTally, AVideoFormatSetsTheUnitsRateAndLines)
 {
-    static const struct {
-        const char *unit, *value;
-        double framerate;
-        int activeline, frame_rate;
-    } cases[] = {
-        {"PNL1", "30/60,1080i", 30.0, 4, 30},
-        {"PNL1", "23.976,1080p", 23.976, 6, 24},
-        {"PNL1", "---,720p", 30.0, 3, 60},
-        {"PNL1", "25/50,3840x2160p", 25.0, 3, 30}, // unknown size
-        {"PNL1", "30/60,1080i", 30.0, 4, 30},
-        {"PNL1", "25/50", 25.0, 4, 30}, // no size
-        {"PNL1", "", 25.0, 4, 30},
-        {"PNL1", "25/50,720p", 25.0, 3, 25},
-        {"PNL1", "29.97/59.94,480i", 29.97, 1, 30},
-        {"PNL1", "24,576i", 24.0, 2, 24},
-        {"PNL1", "24,1080PsF", 24.0, 5, 24},
-        {"PNL1", "---,720p", 30.0, 3, 60},
-        {"PNL1", "25/50", 25.0, 3, 30},
-        {"SWR1", "24,480i", 24.0, 1, 30}, // only a panel sets the rate of the time codes
-        {"SWR1", "---,720p", 30.0, 3, 30},
-        {"DME1", "24,480i", 24.0, 1, 30},
-        {"DME1", "---,720p", 24.0, 3, 30}, // these keep a rate that nobody knows
-        {"MPE1", "25/50,480i", 25.0, 1, 30},
-        {"MPE1", "---,720p", 25.0, 3, 30},
-    };
     Deliver(network_list, "MPE001D001,MPE1,a,b,c");
-    for (const auto& c : cases) {
-        const DEVICE* const unit = Device_ByName(c.unit);
-        ASSERT_TRUE(unit) << c.unit;
-        Deliver(std::string(FORMAT "Video Format@") + c.unit, c.value);
-        EXPECT_EQ(unit->framerate, c.framerate) << c.value;
-        EXPECT_EQ(unit->activeline, c.activeline) << c.value;
-        EXPECT_EQ(SYS_FrameRate, c.frame_rate) << c.value;
+    for (const auto& [name, value, framerate, activeline, frame_rate] :
+         {std::tuple{"PNL1", "30/60,1080i", 30.0, 4, 30},
+          {"PNL1", "23.976,1080p", 23.976, 6, 24},
+          {"PNL1", "---,720p", 30.0, 3, 60},
+          {"PNL1", "25/50,3840x2160p", 25.0, 3, 30}, // unknown size
+          {"PNL1", "30/60,1080i", 30.0, 4, 30},
+          {"PNL1", "25/50", 25.0, 4, 30}, // no size
+          {"PNL1", "", 25.0, 4, 30},
+          {"PNL1", "25/50,720p", 25.0, 3, 25},
+          {"PNL1", "29.97/59.94,480i", 29.97, 1, 30},
+          {"PNL1", "24,576i", 24.0, 2, 24},
+          {"PNL1", "24,1080PsF", 24.0, 5, 24},
+          {"PNL1", "---,720p", 30.0, 3, 60},
+          {"PNL1", "25/50", 25.0, 3, 30},
+          {"SWR1", "24,480i", 24.0, 1, 30}, // only a panel sets the rate of the time codes
+          {"SWR1", "---,720p", 30.0, 3, 30},
+          {"DME1", "24,480i", 24.0, 1, 30},
+          {"DME1", "---,720p", 24.0, 3, 30}, // these keep a rate that nobody knows
+          {"MPE1", "25/50,480i", 25.0, 1, 30},
+          {"MPE1", "---,720p", 25.0, 3, 30}}) {
+        const DEVICE* const unit = Device_ByName(name);
+        ASSERT_TRUE(unit) << name;
+        Deliver(std::string(FORMAT "Video Format@") + name, value);
+        EXPECT_EQ(unit->framerate, framerate) << value;
+        EXPECT_EQ(unit->activeline, activeline) << value;
+        EXPECT_EQ(SYS_FrameRate, frame_rate) << value;
     }
     EXPECT_EQ(SYS_RefPnlActiveLine, 3);
     // Only a unit that is there is set at all.
@@ -372,27 +366,21 @@ TEST_F(BusTally, ADisabledBankIsNotReachedAgain)
 
 TEST_F(BusTally, ANameReplacesTheEntryOfItsBus)
 {
-    static const struct {
-        const char* path;
-        char** names;
-        int count;
-    } buses[] = {
-        {PANEL "Xpt Assign@Source@List", BUS_XptSrc, BUS_XPT_SRC},
-        {PANEL "Config@External Bus Link@Master Bus List", BUS_ExtMaster, BUS_EXT_MASTER},
-        {SWITCHER "Link@Internal Bus Link@Master Bus List", BUS_IntMaster, BUS_INT_MASTER},
-        {PANEL "Config@External Bus Link@S-BUS Src Name List", BUS_SBusSrc, BUS_SBUS},
-        {PANEL "Config@External Bus Link@S-BUS Dst Name List", BUS_SBusDst, BUS_SBUS},
-    };
-    for (const auto& bus : buses) {
+    for (const auto& [path, names, count] :
+         {std::tuple{PANEL "Xpt Assign@Source@List", BUS_XptSrc, BUS_XPT_SRC},
+          {PANEL "Config@External Bus Link@Master Bus List", BUS_ExtMaster, BUS_EXT_MASTER},
+          {SWITCHER "Link@Internal Bus Link@Master Bus List", BUS_IntMaster, BUS_INT_MASTER},
+          {PANEL "Config@External Bus Link@S-BUS Src Name List", BUS_SBusSrc, BUS_SBUS},
+          {PANEL "Config@External Bus Link@S-BUS Dst Name List", BUS_SBusDst, BUS_SBUS}}) {
         const int blocks = UsedMemPtr;
-        Deliver(bus.path, "0,Cam 1");
+        Deliver(path, "0,Cam 1");
         for (const std::string& value :
-             {std::to_string(bus.count - 1) + ",a,b", std::to_string(bus.count) + ",x",
-              std::string("-1,x"), std::string("x,y"), std::string("0")})
-            Deliver(bus.path, value);
-        EXPECT_STREQ(bus.names[0], "Cam 1") << bus.path;
-        EXPECT_STREQ(bus.names[bus.count - 1], "a,b") << bus.path;
-        EXPECT_STREQ(bus.names[1], "") << bus.path;
+             {std::to_string(count - 1) + ",a,b", std::to_string(count) + ",x", std::string("-1,x"),
+              std::string("x,y"), std::string("0")})
+            Deliver(path, value);
+        EXPECT_STREQ(names[0], "Cam 1") << path;
+        EXPECT_STREQ(names[count - 1], "a,b") << path;
+        EXPECT_STREQ(names[1], "") << path;
         EXPECT_EQ(UsedMemPtr, blocks) << "the old name is freed";
     }
 }

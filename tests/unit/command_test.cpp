@@ -23,24 +23,18 @@ static Parts Cut(int (*split)(char*, char**, int), std::string text, int vn)
 
 TEST(Command, ValuesAreCutAtTheirSeparator)
 {
-    static const struct {
-        int (*split)(char*, char**, int);
-        const char* text;
-        int vn;
-        Parts parts;
-    } cases[] = {
-        {SplitVars, "a,b, c", 8, {"a", "b", "c"}},
-        {SplitVars, "a,b,c", 2, {"a", "b,c"}},
-        {SplitVars, ",b", 1, {",b"}},
-        {SplitVars, "", 4, {""}},
-        {SplitVars, "a,", 4, {"a", ""}},
-        {SplitVars, "a,  b", 4, {"a", " b"}}, // one blank is the operator's, two are the value's
-        {SplitVars, "a,b", 0, {}},
-        {SplitCmds, "M/E-1@Key 1@ Type", 8, {"M/E-1", "Key 1", " Type"}},
-        {SplitSHPValues, "CAPACITY:: 1,2", 8, {"CAPACITY", "", "1,2"}},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Cut(c.split, c.text, c.vn), c.parts) << c.text;
+    for (const auto& [split, text, vn, parts] :
+         {std::tuple<int (*)(char*, char**, int), const char*, int, Parts>{
+              &SplitVars, "a,b, c", 8, {"a", "b", "c"}},
+          {&SplitVars, "a,b,c", 2, {"a", "b,c"}},
+          {&SplitVars, ",b", 1, {",b"}},
+          {&SplitVars, "", 4, {""}},
+          {&SplitVars, "a,", 4, {"a", ""}},
+          {&SplitVars, "a,  b", 4, {"a", " b"}}, // one blank is the operator's, two are the value's
+          {&SplitVars, "a,b", 0, {}},
+          {&SplitCmds, "M/E-1@Key 1@ Type", 8, {"M/E-1", "Key 1", " Type"}},
+          {&SplitSHPValues, "CAPACITY:: 1,2", 8, {"CAPACITY", "", "1,2"}}})
+        EXPECT_EQ(Cut(split, text, vn), parts) << text;
     char some[] = "x";
     char* v[] = {some, some};
     EXPECT_EQ(SplitVars(nullptr, v, 2), 0);

@@ -32,25 +32,20 @@ using Panes = PanePage;
 
 TEST_F(Panes, AnswersAreTheResult)
 {
-    static const struct {
-        const char* name;
-        int (*open)();
-        int x, y, result;
-    } cases[] = {
-        {"OK", [] { return PaneMessage_Create("C", PANE_INFO, "m"); }, OK_X, OK_Y, 0},
-        {"No", [] { return PaneYesNo_Create("C", PANE_ALERT, "m"); }, NO_X, OK_Y, 2},
-        {"Cancel", [] { return PaneProgress_Create("C", "m", 1); }, OK_X, OK_Y, 1},
-    };
-    for (const auto& c : cases) {
-        const int id = c.open();
-        ASSERT_GT(id, 0) << c.name;
+    for (const auto& [name, open, x, y, result] :
+         {std::tuple<const char*, int (*)(), int, int, int>{
+              "OK", [] { return PaneMessage_Create("C", PANE_INFO, "m"); }, OK_X, OK_Y, 0},
+          {"No", [] { return PaneYesNo_Create("C", PANE_ALERT, "m"); }, NO_X, OK_Y, 2},
+          {"Cancel", [] { return PaneProgress_Create("C", "m", 1); }, OK_X, OK_Y, 1}}) {
+        const int id = open();
+        ASSERT_GT(id, 0) << name;
         Pass();
-        Press(c.x, c.y);
+        Press(x, y);
         Pass(149);
-        EXPECT_THAT(Told(), IsEmpty()) << c.name << ": the pushed look shows first";
+        EXPECT_THAT(Told(), IsEmpty()) << name << ": the pushed look shows first";
         Pass(1);
-        EXPECT_EQ(Pane_Exist(id), 0) << c.name;
-        EXPECT_EQ(Last(), Quit(id, c.result)) << c.name;
+        EXPECT_EQ(Pane_Exist(id), 0) << name;
+        EXPECT_EQ(Last(), Quit(id, result)) << name;
     }
 }
 
@@ -292,24 +287,18 @@ TEST_F(Panes, APullDownThatIsTooLongEndsAtTheScreen)
 // The choices of a popup are a radio: one is on, and it says nothing when it is pressed again.
 TEST_F(Panes, TheChoiceOfAPopupThatStandsSaysNothing)
 {
-    static const struct {
-        const char* name;
-        int (*open)(int, int, const BTNSEL*);
-        int first_x, second_x, y;
-    } cases[] = {
-        {"popup", PanePopup_Create, 354, 432, 250},
-        {"frame memory out", FMOutPopup_Create, 330, 440, 240},
-    };
-    for (const auto& c : cases) {
-        const int id = c.open(2, 2, choices); // the second one is on
+    for (const auto& [name, open, first_x, second_x, y] :
+         {std::tuple{"popup", &PanePopup_Create, 354, 432, 250},
+          {"frame memory out", &FMOutPopup_Create, 330, 440, 240}}) {
+        const int id = open(2, 2, choices); // the second one is on
         Pass();
-        EXPECT_THAT(Told(c.second_x, c.y), IsEmpty()) << c.name;
-        EXPECT_EQ(Pane_Exist(id), 1) << c.name;
-        Press(c.first_x, c.y);
-        EXPECT_EQ(pane_find(id)->button[1].onoff, 0) << c.name << ": the old choice goes off";
-        EXPECT_EQ(pane_find(id)->button[0].onoff, 1) << c.name;
+        EXPECT_THAT(Told(second_x, y), IsEmpty()) << name;
+        EXPECT_EQ(Pane_Exist(id), 1) << name;
+        Press(first_x, y);
+        EXPECT_EQ(pane_find(id)->button[1].onoff, 0) << name << ": the old choice goes off";
+        EXPECT_EQ(pane_find(id)->button[0].onoff, 1) << name;
         Pass(150);
-        EXPECT_EQ(Last(), Quit(id, 11)) << c.name;
+        EXPECT_EQ(Last(), Quit(id, 11)) << name;
     }
 }
 
@@ -466,35 +455,26 @@ TEST_F(Panes, RunControlSendsAndShowsTheTally)
 
 TEST_F(Panes, AProgressComesBackWithWhatWasNoted)
 {
-    static const struct {
-        int (*create)(const char*, const char*, int);
-        int (*init)();
-        int (*prog)(int, const char*);
-        int (*lamp)(int);
-        int (*append)(const char*);
-        int (*quit)();
-    } cases[] = {
-        {PaneProgress_RestoreCreate, PaneProgress_RestoreInit, PaneProgress_RestoreSetProg,
-         PaneProgress_RestoreSetRouteLamp, PaneProgress_RestoreAppendMessage,
-         PaneProgress_RestoreQuit},
-        {PaneProgress_HDD_RestoreCreate, PaneProgress_HDD_RestoreInit,
-         PaneProgress_HDD_RestoreSetProg, PaneProgress_HDD_RestoreSetRouteLamp,
-         PaneProgress_HDD_RestoreAppendMessage, PaneProgress_HDD_RestoreQuit},
-    };
     const int before = UsedMemPtr;
-    for (const auto& c : cases) {
-        EXPECT_EQ(c.init(), 0);
-        EXPECT_EQ(c.append("a: NG\n"), 0);
-        EXPECT_EQ(c.lamp(ROUTE_LAMP_CONTROL), 0);
-        EXPECT_EQ(c.prog(100, "10/10"), 0);
+    for (const auto& [create, init, prog, lamp, append, quit] :
+         {std::tuple{&PaneProgress_RestoreCreate, &PaneProgress_RestoreInit,
+                     &PaneProgress_RestoreSetProg, &PaneProgress_RestoreSetRouteLamp,
+                     &PaneProgress_RestoreAppendMessage, &PaneProgress_RestoreQuit},
+          {&PaneProgress_HDD_RestoreCreate, &PaneProgress_HDD_RestoreInit,
+           &PaneProgress_HDD_RestoreSetProg, &PaneProgress_HDD_RestoreSetRouteLamp,
+           &PaneProgress_HDD_RestoreAppendMessage, &PaneProgress_HDD_RestoreQuit}}) {
+        EXPECT_EQ(init(), 0);
+        EXPECT_EQ(append("a: NG\n"), 0);
+        EXPECT_EQ(lamp(ROUTE_LAMP_CONTROL), 0);
+        EXPECT_EQ(prog(100, "10/10"), 0);
         EXPECT_EQ(Pane_GetActiveID(), 0) << "noting opens nothing";
-        const int id = c.create("Load", "", 1);
+        const int id = create("Load", "", 1);
         Pass();
         EXPECT_EQ(PixelAt(567, 215), 0x00DDD4U) << "full";
         EXPECT_EQ(pane_top()->each.progress.lamp, ROUTE_LAMP_CONTROL);
-        EXPECT_EQ(c.quit(), 0);
+        EXPECT_EQ(quit(), 0);
         EXPECT_EQ(Pane_Exist(id), 0);
-        EXPECT_EQ(c.quit(), -1);
+        EXPECT_EQ(quit(), -1);
         EXPECT_THAT(Told(), IsEmpty());
     }
     EXPECT_EQ(UsedMemPtr, before);

@@ -402,26 +402,20 @@ TEST_F(Windows, ATextStopsAtItsLimitAndTheCursorStaysInTheWell)
 
 TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
 {
-    static const struct {
-        int type;
-        const char* keys;
-        std::vector<std::string> heard;
-    } cases[] = {
-        {WINDOW_BANK, "1.-2", {"value C"}},
-        {WINDOW_BANK, "99999999999", {"value 7FFFFFFF"}},
-        {WINDOW_HEX, "fffffffffff", {"value FFFF"}}, // the limit
-        {WINDOW_HEX, "1", {"value 10"}},             // the other one
-        {WINDOW_PAGE_GET, "7316.10", {"value 73160010"}},
-        {WINDOW_PAGE_GET, "22..3", {"value 220003"}},
-        {WINDOW_PAGE_GET, "123456789.123456", {"value 12341234"}}, // the rest finds no room
-        {WINDOW_PAGE_GET, "", {}},
-    };
-    for (const auto& c : cases) {
-        CreateWindow(c.type, "Number", {.min_text = "10", .max_text = "ffff", .ok = HearValue});
-        for (const char* key = c.keys; *key; key++)
+    for (const auto& [type, keys, answers] :
+         {std::tuple{WINDOW_BANK, "1.-2", Strings{"value C"}},
+          {WINDOW_BANK, "99999999999", {"value 7FFFFFFF"}},
+          {WINDOW_HEX, "fffffffffff", {"value FFFF"}}, // the limit
+          {WINDOW_HEX, "1", {"value 10"}},             // the other one
+          {WINDOW_PAGE_GET, "7316.10", {"value 73160010"}},
+          {WINDOW_PAGE_GET, "22..3", {"value 220003"}},
+          {WINDOW_PAGE_GET, "123456789.123456", {"value 12341234"}}, // the rest finds no room
+          {WINDOW_PAGE_GET, "", {}}}) {
+        CreateWindow(type, "Number", {.min_text = "10", .max_text = "ffff", .ok = HearValue});
+        for (const char* key = keys; *key; key++)
             Stroke(*key);
         Stroke(SDLK_RETURN);
-        EXPECT_EQ(Heard(), c.heard) << c.type << " " << c.keys;
+        EXPECT_EQ(Heard(), answers) << type << " " << keys;
     }
 }
 
