@@ -1,3 +1,4 @@
+#include "pc_file.h"
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
 #include "register.h"
@@ -136,6 +137,27 @@ TEST_F(FileDualPage, WhatFailsWithoutItsPageIsInTheListOfErrors)
     EXPECT_EQ(BkgdFileTransfer_Check(SNAPSHOT_PAGE), 0);
     EXPECT_EQ(Pane_GetActiveID(), 0) << "over other work nothing opens";
     EXPECT_THAT(ErrorsShown(), ElementsAre(HasSubstr("OPENING.ME1_003.SSS")));
+}
+
+TEST_F(FileDualPage, ATransferBarsTheOtherPagesUntilItEnds)
+{
+    LS_SetNowLine(1, 2);
+    Press(BTN_FILE_L_TO_R);
+    BkgdFileTransfer_PaneQuit();
+    EXPECT_EQ(CreatePage(0x71320000), 0);
+    const uint32_t barred = Page->id;
+    EXPECT_EQ(Message(), FILE_INHIBITED);
+    (void)Answer(0);
+    EXPECT_EQ(Message(), "no pane") << "it is said once";
+    EXPECT_EQ(GL_CreatePage, 0u);
+    Hub("Disconnect", "SWR1.File");
+    EXPECT_EQ(std::exchange(GL_CreatePage, 0), 0x71320000u) << "the page that was asked for";
+    BkgdFileTransfer_Set(SNAPSHOT_PAGE, 1);
+    EXPECT_EQ(CreatePage(barred), 0);
+    EXPECT_EQ(GL_CreatePage, 0u);
+    BkgdFileTransfer_Set(0, 0);
+    (void)Answer(0);
+    EXPECT_EQ(GL_CreatePage, 0x71310000u) << "the first of its tab";
 }
 
 TEST_F(FileDualPage, ADirectoryIsChosenBehindItsDeviceAndNothingMovesOntoItself)
