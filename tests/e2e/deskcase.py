@@ -97,6 +97,12 @@ class DeskCase(unittest.TestCase):
         self.wait_until(lambda: self.desk.part(*rect) != before, f"nothing changes in {rect}", timeout)
         return self.desk.part(*rect)
 
+    def touch(self, *places, puts=None, starts=False):
+        """One place after the other; all lines up to the put that this brings."""
+        for place in places:
+            self.desk.touch(*place, settle=0.2)
+        return puts and self.desk.wait_wire(puts, starts=starts)
+
     def popup(self, place, columns, rows=1):
         width, height = 78 * columns + 26, 43 * rows + 76
         self.desk.touch(400 - width // 2 + 15 + 78 * (place % columns) + 30,

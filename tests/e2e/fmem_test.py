@@ -42,10 +42,6 @@ class ClipStore(DeskCase):
     def has(self, name):
         return os.path.exists(self.path(STORE + name + ".SFH"))
 
-    def touch(self, *places):
-        for place in places:
-            self.desk.touch(*place, settle=0.2)
-
     def status(self, output="FM1"):
         return self.desk.value(f"{HEAD}Output Status@{output}")
 
@@ -54,8 +50,7 @@ class ClipStore(DeskCase):
 
     def test_1_a_clip_is_recalled_and_plays_in_a_loop(self):
         self.open("2111")
-        self.touch(cell(BESIDE, 2), key(466))
-        self.desk.wait_wire(f"put {HEAD}Recall@FM1#0,0,1,0,/BREAK.SFH")
+        self.touch(cell(BESIDE, 2), key(466), puts=f"put {HEAD}Recall@FM1#0,0,1,0,/BREAK.SFH")
         self.wait_until(lambda: self.status() == "2,/BREAK.SFH")
         self.open("2113")
         self.touch((690, 130))  # the end of the time line
@@ -72,8 +67,7 @@ class ClipStore(DeskCase):
 
     def test_2_a_recording_and_a_freeze_are_in_the_folder(self):
         self.open("2114")
-        self.touch(key(466))
-        self.desk.wait_wire(f"put  {HEAD}Record@FM1#1,0,300,1")
+        self.touch(key(466), puts=f"put  {HEAD}Record@FM1#1,0,300,1")
         time.sleep(0.5)
         self.touch(key(560))
         self.wait_until(lambda: self.has("img0000") and self.status() == "2,/img0000.SFH")
@@ -100,8 +94,7 @@ class ClipStore(DeskCase):
         self.touch(cell(WIDE, 5))  # img0001, on FM1
         self.touch(key(612), YES)
         self.assertTrue(self.has("img0001"))
-        self.touch(YES)  # it is in use
-        self.desk.wait_wire(f"put {HEAD}Record@Through@FM1#0,0")
+        self.touch(YES, puts=f"put {HEAD}Record@Through@FM1#0,0")  # it is in use
         self.wait_until(lambda: not self.has("img0001"))
         self.assertEqual(self.status(), "0,")
         time.sleep(0.6)

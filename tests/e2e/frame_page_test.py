@@ -36,10 +36,6 @@ def key(column):
 
 
 class FrameCase(DeskCase):
-    def touch(self, *places):
-        for place in places:
-            self.desk.touch(*place, settle=0.15)
-
     def stick(self, place, of):
         """The right list shows the stick, in one of its forms."""
         self.touch(RIGHT_DEVICE)
@@ -89,8 +85,7 @@ class FramePages(FrameCase):
         self.assertTrue(os.path.isfile(self.path(FOLDER + "DEFAULT/SWR000D001/Mlogo.FMEM_001.SFM")))
         self.touch(DETAIL)
         time.sleep(0.4)
-        self.touch(left(1 + rows), DELETE_KEY, YES)
-        self.desk.wait_wire(DELETE + "Mlogo", starts=True)
+        self.touch(left(1 + rows), DELETE_KEY, YES, puts=DELETE + "Mlogo", starts=True)
         self.open(7151)
         self.touch(left(3))  # News
         self.touch(right(1 + rows), TO_LEFT)
@@ -116,8 +111,7 @@ class FramePages(FrameCase):
         self.type("show")
         self.desk.wait_wire("put Frame Mem@Folder@Rename#3,show", starts=True)
         self.assertIn(",3,show,", self.desk.value("16@Frame Mem@Status@Folder Name Sense"))
-        self.touch((200, 78 + 22 * 4 + 10), (350, 480), YES)
-        self.desk.wait_wire("put Frame Mem@Folder@Delete#3", starts=True)
+        self.touch((200, 78 + 22 * 4 + 10), (350, 480), YES, puts="put Frame Mem@Folder@Delete#3", starts=True)
 
     def wait_hub(self, text, timeout=20.0):
         """A line of the hub's link: it goes at its own pace."""
@@ -174,15 +168,13 @@ class RegisterPages(FrameCase):
         time.sleep(1.0)  # the catalogue comes
         self.open("2111")  # the menu's key leads to them
         self.touch(left(3))  # logo
-        self.touch(key(1))
-        self.desk.wait_wire(RECALL + "FM2#Slogo", starts=True)
+        self.touch(key(1), puts=RECALL + "FM2#Slogo", starts=True)
         self.touch(key(2))  # Pair
         self.touch(LEFT_DEVICE)
         self.popup(1, 4)  # FM3-FM4
         self.desk.wait_wire(RECALL + "Select#FM3&4", starts=True)
         time.sleep(0.3)
-        self.touch(key(0))
-        self.desk.wait_wire(RECALL + "FM4#Slogo", starts=True)
+        self.touch(key(0), puts=RECALL + "FM4#Slogo", starts=True)
         self.assertEqual([self.recalled(n) for n in (2, 3, 4)], ["Slogo", "Mlogo", "Slogo"])
 
     def test_2_a_recalled_still_is_renamed_and_deleted(self):
@@ -191,16 +183,14 @@ class RegisterPages(FrameCase):
         self.type("sky", erase=5)
         self.desk.wait_wire(RENAME + "Slogo,Ssky", starts=True)
         time.sleep(0.4)
-        self.touch(left(3), key(1), YES)
-        lines = self.desk.wait_wire(DELETE + "Ssky", starts=True)
+        lines = self.touch(left(3), key(1), YES, puts=DELETE + "Ssky", starts=True)
         self.assertIn(DELETE + "Msky", lines)
 
     def test_3_a_clip_goes_to_another_folder_and_shows_its_frames(self):
         self.open("2521")
         self.touch((150, 98), (385, 150))  # News
         time.sleep(0.3)
-        self.touch(left(1), key(4), key(0))
-        self.desk.wait_wire(RECALL + "FM3#Mnews0004", starts=True)
+        self.touch(left(1), key(4), key(0), puts=RECALL + "FM3#Mnews0004", starts=True)
         self.open("2522")
         self.touch(left(1), key(2), (180, 150))  # the first folder
         lines = self.desk.wait_wire("put 16@Frame Mem@Folder@Move Still#0,Snews0002,0", starts=True)

@@ -45,10 +45,6 @@ class Macros(DeskCase):
         except FileNotFoundError:
             return None
 
-    def touch(self, *places):
-        for place in places:
-            self.desk.touch(*place, settle=0.25)
-
     def value(self, *rows):
         self.touch(*[(VALUES[0], VALUES[1] + 22 * row) for row in rows])
 
@@ -103,13 +99,11 @@ class Macros(DeskCase):
         self.assertNotEqual(after, before)
         desk.touch(300, 111 + 22 * 4)  # in the panels' order behind M/E-1 XPT
         desk.wire()
-        self.touch(grid(53), YES)
-        desk.wait_wire("put Macro@Attachment@Delete#" + entry)
+        self.touch(grid(53), YES, puts="put Macro@Attachment@Delete#" + entry)
         time.sleep(0.5)
         self.touch(grid(52), YES)  # pair mode: the crosspoint buttons lose theirs
         desk.wait_wire("put Macro@Attachment@Xpt Attachment Mode#Pair Mode")
-        self.touch(grid(54), YES)
-        desk.wait_wire("put Macro@Attachment@All Clear#true")
+        self.touch(grid(54), YES, puts="put Macro@Attachment@All Clear#true")
         time.sleep(0.5)
         self.assertEqual(len(set(desk.part(110, 125, 120, 138))), 1)  # nothing in the first row
 

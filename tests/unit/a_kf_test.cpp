@@ -3,7 +3,6 @@
 #include "a_kf_private.h"
 #include "hand_page.h"
 #include "tdl.h"
-#include <iterator>
 
 constexpr int ME1 = 0, ME2 = 1, PP = 5, DME1 = 14, DME1_GLB = 22, MACRO = 51;
 constexpr int RATE = 30;

@@ -1,7 +1,5 @@
 #include "clip_store.h"
 #include "fetches.h"
-#include "netio.h"
-#include "tdl.h"
 #include <fstream>
 
 namespace fs = std::filesystem;

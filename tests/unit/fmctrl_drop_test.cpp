@@ -2,7 +2,6 @@
 #include "file.h"
 #include "fmctrl_page.h"
 #include "fmctrl_private.h"
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;

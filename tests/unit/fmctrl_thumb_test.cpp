@@ -1,7 +1,6 @@
 #include "fetches.h"
 #include "file.h"
 #include "fmctrl_page.h"
-#include "tdl.h"
 
 namespace fs = std::filesystem;
 constexpr const char* THUMBNAILS = "/mnt/sys/FrameMemory/";

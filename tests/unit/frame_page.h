@@ -49,23 +49,16 @@ struct FramePage : ServerPage {
     static Lines Run(Lines sent)
     {
         Lines all_sent;
-        for (int i = 0; i < 100; i++) {
+        for (int i = 0; i < 100 && !sent.empty(); i++) {
             Lines next;
-            for (const std::string& line : sent) {
-                all_sent.push_back(line);
-                if (!line.starts_with("put File@"))
-                    continue;
-                const std::string kind = line.substr(9, line.find('#') - 9);
-                if (line.find("#Lx") != std::string::npos || kind.find("Find") != std::string::npos)
-                    continue;
-                for (const std::string& more : Answer({line}, kind, {}))
-                    next.push_back(more);
-            }
+            for (const std::string& line : sent)
+                if (line.starts_with("put File@") && line.find("#Lx") == line.npos &&
+                    line.find("Find") == line.npos)
+                    std::ranges::copy(Answer({line}, line.substr(9, line.find('#') - 9), {}),
+                                      std::back_inserter(next));
             Pass(10);
-            for (const std::string& more : TakeQueuedCommands())
-                next.push_back(more);
-            if (next.empty())
-                break;
+            std::ranges::copy(TakeQueuedCommands(), std::back_inserter(next));
+            all_sent.insert(all_sent.end(), sent.begin(), sent.end());
             sent = next;
         }
         return all_sent;
@@ -74,9 +67,8 @@ struct FramePage : ServerPage {
     {
         Lines rows;
         for (int no = 0; no < LS_GetNData(list); no++)
-            if (*LS_GetData(list, no, COL_NO))
-                rows.push_back(std::string(LS_GetData(list, no, COL_NO)) + " " +
-                               LS_GetData(list, no, COL_NAME));
+            if (!Cell(list, no, COL_NO).empty())
+                rows.push_back(Cell(list, no, COL_NO) + " " + Cell(list, no, COL_NAME));
         return rows;
     }
     static void Select(int list, const std::vector<int>& rows)
@@ -92,13 +84,10 @@ struct FramePage : ServerPage {
         for (int i = 0; i < 10; i++)
             Pass(50);
         EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
-        for (int i = 0; i < 32; i++)
-            for (int key : {SDLK_BACKSPACE, SDLK_DELETE})
-                SendMessage(MSG_KEY, key, 0, 0, 0);
-        for (char c : text) {
-            const bool is_shifted = c >= 'A' && c <= 'Z';
-            SendMessage(MSG_KEY, ::tolower(c), is_shifted ? KMOD_LSHIFT : 0, 0, 0);
-        }
+        for (int i = 0; i < 64; i++)
+            SendMessage(MSG_KEY, i % 2 ? SDLK_DELETE : SDLK_BACKSPACE, 0, 0, 0);
+        for (char c : text)
+            SendMessage(MSG_KEY, ::tolower(c), isupper(c) ? KMOD_LSHIFT : 0, 0, 0);
         (void)TakeQueuedCommands();
         SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
         for (int i = 0; i < 40; i++)

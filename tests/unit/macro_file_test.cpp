@@ -1,7 +1,6 @@
 #include "harness.h"
 #include "macro_file.h"
 #include <fstream>
-#include <sys/stat.h>
 #include <unistd.h>
 
 constexpr char PATH[] = "/var/tmp/macro_file.PMR";

@@ -3,7 +3,6 @@
 #include "pc_effect.h"
 #include "pc_shotbox.h"
 #include "table_page.h"
-#include <cstring>
 #include <map>
 
 const std::string EFFECTS = "Effect@Effect@Attribute@List@";

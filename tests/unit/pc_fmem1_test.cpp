@@ -30,12 +30,8 @@ struct FrameMemoryPage : FramePage {
     {
         Pass(200);
         Lines rows;
-        for (int row = 0; row < LS_GetNData(1); row++) {
-            std::string text = LS_IsSelected(1, row, 0) == 1 ? "*" : "";
-            for (int col = 0; col < 4; col++)
-                text += (col ? "|" : "") + std::string(LS_GetData(1, row, col));
-            rows.push_back(text);
-        }
+        for (int row = 0; row < LS_GetNData(1); row++)
+            rows.push_back((LS_IsSelected(1, row, 0) == 1 ? "*" : "") + Cells(1, row, 0, 4));
         return rows;
     }
     static Lines Headed(const std::string& head, Lines lines)

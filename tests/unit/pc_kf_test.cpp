@@ -6,7 +6,6 @@
 #include "pc_kf.h"
 #include "pc_kf_page.h"
 #include "setup_index.h"
-#include "tdl.h"
 
 struct TimelinePage : KeyframePage {
     static constexpr int X = 400; // in every row's bar

@@ -120,7 +120,7 @@ struct MacroAttachPage : MacroPages {
     }
 };
 
-const std::string ONLINE = "Macro@Reg@On Line Edit@";
+const std::string ONLINE = "Macro@Reg@On Line Edit@", PUT_ONLINE = "put " + ONLINE;
 
 struct MacroOnlinePage : MacroPages {
     void SetUp() override
@@ -626,7 +626,7 @@ TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
     (void)TakeQueuedCommands();
     SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 2, 0, 0);
     SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 5, 0, 0); // there is none
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put " + ONLINE + "Macro Event Edit Range#2,0"));
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(PUT_ONLINE + "Macro Event Edit Range#2,0"));
     Records({"KILL"});
     EXPECT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 0);
 }
@@ -636,18 +636,18 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
     Records({"KILL", "1,0,Event,MECut,ME,P/P", "1,1,Continue,Stop,Device,Dev1",
              "2,0,Event,MECut,ME,P/P", "3,0,Event,MECut,ME,P/P", "4,0,Event,MECut,ME,P/P"});
     EXPECT_EQ(LS_GetSelected(LIST_MACRO_ONLINE, 0), 0) << "what Delete takes can be seen";
-    EXPECT_THAT(Puts(BTN_ONLINE_AFTER), ElementsAre("put " + ONLINE + "Insert#1,1"));
-    EXPECT_THAT(Puts(BTN_ONLINE_NEXT), ElementsAre("put " + ONLINE + "Macro Event Edit Range#2,0"));
+    EXPECT_THAT(Puts(BTN_ONLINE_AFTER), ElementsAre(PUT_ONLINE + "Insert#1,1"));
+    EXPECT_THAT(Puts(BTN_ONLINE_NEXT), ElementsAre(PUT_ONLINE + "Macro Event Edit Range#2,0"));
     EXPECT_EQ(LS_GetNowLine(LIST_MACRO_ONLINE), 2) << "its line";
     (void)LS_SetMS(LIST_MACRO_ONLINE, 1);
     for (int row : {0, 2, 4})
         (void)LS_SetSelected(LIST_MACRO_ONLINE, row, 0, 1);
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
-                ElementsAre("put " + ONLINE + "Delete#4,0,1", "put " + ONLINE + "Delete#2,0,1",
-                            "put " + ONLINE + "Delete#1,0,1"));
+                ElementsAre(PUT_ONLINE + "Delete#4,0,1", PUT_ONLINE + "Delete#2,0,1",
+                            PUT_ONLINE + "Delete#1,0,1"));
     (void)LS_SetSelected(LIST_MACRO_ONLINE, 1, 0, 1);
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
-                ElementsAre("put " + ONLINE + "Delete#4,0,1", "put " + ONLINE + "Delete#1,0,3"));
+                ElementsAre(PUT_ONLINE + "Delete#4,0,1", PUT_ONLINE + "Delete#1,0,3"));
     // Nothing is taken twice while the link is down.
     Pass(200);
     Net_SendCommand("put X#1");
