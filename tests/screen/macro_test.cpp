@@ -12,7 +12,6 @@
 struct MacroPictures : TablePage {
     void TearDown() override
     {
-        GL_Macro_Offline_Store = 0;
         TablePage::TearDown();
         unlink(MACRO_EDIT_FILE);
     }

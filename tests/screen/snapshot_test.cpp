@@ -7,7 +7,6 @@ struct SnapshotPictures : TablePage {
     void SetUp() override
     {
         TablePage::SetUp();
-        DeviceStructure();
         TellAll("Snapshot@Snapshot@Attribute@",
                 {"M/E-1@List#1,OPENING,S,AB12U1,30,n,n",
                  "M/E-1@List#2,HEADLINE,L,AB12345678U1U2U3,n,15,1",

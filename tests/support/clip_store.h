@@ -8,27 +8,16 @@
 #include "harness.h"
 #include "message.h"
 #include "text.h"
-#include <utility>
 
 template <class Base> struct ClipStoreTest : Base {
     static constexpr char TIME[] = "2026-01-31 23:59:00";
-    DEVICE* first_switcher = nullptr;
-    int switchers = 0;
 
     void SetUp() override
     {
         Base::SetUp();
-        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
-        switchers = std::exchange(SYS_MySwrMax, 1);
+        DEV_MySwr[0] = &DEV_Swr[0];
+        SYS_MySwrMax = 1;
         CopyText(DEV_Swr[0].id, "SWR000D001");
-        FMCtrl3_Init();
-    }
-    void TearDown() override
-    {
-        FMCtrl3_Finalize();
-        DEV_MySwr[0] = first_switcher;
-        SYS_MySwrMax = switchers;
-        Base::TearDown();
     }
     // Without a row where it is empty.
     static void Hub(const std::string& verb, const std::string& table, const std::string& row)

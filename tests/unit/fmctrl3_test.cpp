@@ -16,7 +16,6 @@ struct ClipStore : ClipStoreTest<BusTest> {
     void TearDown() override
     {
         ClipStoreTest::TearDown();
-        GL_NowPage = 0;
         fs::remove_all(FM_FOLDER);
     }
     static Strings Tree()

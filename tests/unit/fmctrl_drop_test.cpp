@@ -11,7 +11,6 @@ struct DropFolders : FrameMemory {
     void SetUp() override
     {
         FrameMemory::SetUp();
-        File_ReplaceSync([] { return 0; });
         for (int i = 0; i < 5000 && !fm_drop_is_set_up(); i++) {
             Pass(1); // the folders are made, at the first test of the process, beside the passes
             usleep(1000);
@@ -27,7 +26,6 @@ struct DropFolders : FrameMemory {
     void TearDown() override
     {
         Settle();
-        File_ReplaceSync(nullptr);
         FrameMemory::TearDown();
     }
     // All folders are as they were last seen, and the registers are known.

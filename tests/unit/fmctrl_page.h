@@ -9,21 +9,18 @@
 #include <utility>
 
 struct FrameMemory : BusTest {
-    DEVICE* first_switcher = nullptr;
-
     void SetUp() override
     {
         BusTest::SetUp();
         FMCtrl_Quit();
         FMCtrl_InitClipStillList();
-        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
+        DEV_MySwr[0] = &DEV_Swr[0];
         CopyText(DEV_Swr[0].id, "SWR000D001");
         GL_UnnecessaryThumb = GL_FMThumbnailGetAfter = GL_FileProcessing = 0;
     }
     void TearDown() override
     {
         FMCtrl_Quit();
-        DEV_MySwr[0] = first_switcher;
         BusTest::TearDown();
     }
 

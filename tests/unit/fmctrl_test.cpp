@@ -271,7 +271,6 @@ TEST_F(FrameMemoryLists, FollowAStormAsAPlainRecountWould)
                 FAIL() << "at step " << step;
         }
     }
-    FMCtrl_Quit();
 }
 
 TEST_F(FrameMemoryFolders, NamesAreSortedTheUnusedLast)

@@ -10,19 +10,12 @@ struct FramePage : ServerPage {
     void SetUp() override
     {
         ServerPage::SetUp();
-        DeviceStructure();
-        File_Reset();
-        FileDual_Reset();
-        File_ReplaceSync([] { return 0; });
         FMCtrl_Quit();
         FMCtrl_InitClipStillList();
         Tell("16@Frame Mem@Status@Max Register#300");
     }
     void TearDown() override
     {
-        FileDual_Reset();
-        File_Reset();
-        File_ReplaceSync(nullptr);
         FMCtrl_Quit();
         ServerPage::TearDown();
     }

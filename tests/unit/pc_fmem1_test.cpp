@@ -21,11 +21,6 @@ struct FrameMemoryPage : FramePage {
                "Srun0003"});
         Pass(10); // stills and clips are made of them
     }
-    void TearDown() override
-    {
-        GL_FreezeStore = GL_FreezeStore_Exec = 0;
-        FramePage::TearDown();
-    }
     static Lines List()
     {
         Pass(200);

@@ -149,8 +149,6 @@ TEST_F(TimelinePage, RowsArePaintedOnceTheirIntervalIsOver)
 TEST(PathPages, EveryRowThatLeadsOnLeadsToAPage)
 {
     Harness_Reset();
-    Device_Init();
-    DeviceStructure();
     int jumps = 0;
     page_walk::ForEachPage([&](const PAGE& page) {
         auto row = static_cast<const KP_TBL*>(page_walk::TableOf(page, OBJ_KP));
@@ -318,7 +316,6 @@ TEST_F(ProgramPage, APressAndATallyCarryTheModeOfTheProgramAndAnotherOpensThePag
     GL_CreatePage = 0x11110000;
     kf::Send(kf::Data{.code = 16, .regnum = 152});
     EXPECT_EQ(GL_CreatePage, 0x11110000u) << "the operator's wish";
-    GL_CreatePage = 0;
 }
 
 struct RegionPage : KeyframePage {

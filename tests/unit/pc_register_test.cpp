@@ -191,7 +191,6 @@ TEST_F(RegisterPages, HoldGoesToMarksAndBack)
         EXPECT_EQ(shown, c.shown) << c.text;
         EXPECT_EQ(snapshot_xpthold_flag(c.region, c.text.c_str()), c.flag) << c.text;
     }
-    GL_KeyMax[5] = 8;
     // In a format of half the keys there are four.
     for (const auto& [size, scan, keys] : {std::array{4, 4, 4}, {4, 3, 8}, {3, 4, 8}}) {
         SYS_Format_Size = size;

@@ -45,13 +45,11 @@ struct Registers : BusTest {
     void SetUp() override
     {
         BusTest::SetUp();
-        Register_Free();
         Register_StatusReport(1);
     }
     void TearDown() override
     {
         Register_StatusReport(0);
-        Register_Free();
         BusTest::TearDown();
     }
     static void DualLink(bool on)
