@@ -8,6 +8,7 @@
 #include "device.h"
 #include "file.h"
 #include "file_dir.h"
+#include "fmctrl.h"
 #include "fmctrl3.h"
 #include "global.h"
 #include "graphics.h"
@@ -23,6 +24,7 @@
 #include "pane_private.h"
 #include "pc_file_all.h"
 #include "pc_file_dual.h"
+#include "pc_macro_offline.h"
 #include "pc_register.h"
 #include "register.h"
 #include "saver.h"
@@ -173,7 +175,10 @@ void Harness_Reset()
     File_Reset();
     FileDual_Reset();
     FileAll_Reset();
+    FMCtrl_Quit();
     FMCtrl3_Init();
+    MacroOffline_Reset();
+    Register_StatusReport(0);
     Register_Free();
     RegisterPages_Reset();
     mm_registers_free();

@@ -12,16 +12,10 @@ struct FrameMemory : BusTest {
     void SetUp() override
     {
         BusTest::SetUp();
-        FMCtrl_Quit();
         FMCtrl_InitClipStillList();
         DEV_MySwr[0] = &DEV_Swr[0];
         CopyText(DEV_Swr[0].id, "SWR000D001");
         GL_UnnecessaryThumb = GL_FMThumbnailGetAfter = GL_FileProcessing = 0;
-    }
-    void TearDown() override
-    {
-        FMCtrl_Quit();
-        BusTest::TearDown();
     }
 
     // What a line makes the application send.

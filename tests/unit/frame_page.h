@@ -10,14 +10,8 @@ struct FramePage : ServerPage {
     void SetUp() override
     {
         ServerPage::SetUp();
-        FMCtrl_Quit();
         FMCtrl_InitClipStillList();
         Tell("16@Frame Mem@Status@Max Register#300");
-    }
-    void TearDown() override
-    {
-        FMCtrl_Quit();
-        ServerPage::TearDown();
     }
     // Registers from number on.
     static void Store(const Lines& names, int number = 1)

@@ -13,13 +13,7 @@
 #include <fstream>
 #include <unistd.h>
 
-struct MacroPages : SetupTest {
-    void TearDown() override
-    {
-        SetupTest::TearDown();
-        unlink(MACRO_EDIT_FILE);
-    }
-};
+using MacroPages = SetupTest;
 
 const std::string HEAD = "PNL 0001PNL_0003.PMROPENING\n";
 const std::string STOP = "Event?,Stop,Device?,Dev1\n", CUT = "Event?,MECut,ME?,P/P\n",
@@ -38,8 +32,8 @@ struct MacroOfflinePage : MacroPages {
     }
     void TearDown() override
     {
-        MacroOffline_Reset();
         MacroPages::TearDown();
+        unlink(MACRO_EDIT_FILE);
     }
     static void OpenWith(const std::string& events)
     {

@@ -47,11 +47,6 @@ struct Registers : BusTest {
         BusTest::SetUp();
         Register_StatusReport(1);
     }
-    void TearDown() override
-    {
-        Register_StatusReport(0);
-        BusTest::TearDown();
-    }
     static void DualLink(bool on)
     {
         SYS_DualProc = on;
