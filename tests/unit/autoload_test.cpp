@@ -3,9 +3,9 @@
 #include "file_page.h"
 #include "fmctrl.h"
 #include "pc_file.h"
-#include <algorithm>
+#include "server_page.h"
 #include <map>
-#include <utility>
+#include <regex>
 
 using testing::Key;
 
@@ -27,19 +27,20 @@ struct AutoLoad : FileTest {
         Err_Clear();
         FileTest::TearDown();
     }
-    // The labels of the searches and lists that went out, by their paths below the directory.
-    static std::map<std::string, uint32_t> Searches()
+    // What stands behind the directory in lines of that form, and their labels.
+    static std::map<std::string, uint32_t> Labels(const Strings& lines, const std::string& form)
     {
         std::map<std::string, uint32_t> found;
-        for (const std::string& line : Sent()) {
-            const size_t label = line.find("#L"), host = line.find("MYHOST:" + ROOT);
-            if (line.find("put File@Access@") != 0 || host == std::string::npos)
-                continue;
-            const size_t begin = host + strlen("MYHOST:") + ROOT.size();
-            found[line.substr(begin, line.find(',', begin) - begin)] =
-                uint32_t(std::stoul(line.substr(label + 2)));
-        }
+        std::smatch m;
+        const std::regex wanted("put File@" + form);
+        for (const std::string& line : lines)
+            if (std::regex_match(line, m, wanted))
+                found[m[2]] = uint32_t(std::stoul(m[1]));
         return found;
+    }
+    static std::map<std::string, uint32_t> Searches()
+    {
+        return Labels(Sent(), "Access@.*#L(\\d+),MYHOST:" + ROOT + "([^,]*).*");
     }
     static void Rows(uint32_t label, const Strings& paths, const char* end = "OK")
     {
@@ -74,10 +75,8 @@ struct AutoLoad : FileTest {
     static Strings AskForPictures(const char* unit, const std::string& folder, const Strings& names)
     {
         Rows(AskForFolders(unit), {"FMEMFOL/DEFAULT"});
-        Strings paths;
-        for (const std::string& name : names)
-            paths.push_back("FMEMFOL/DEFAULT/" + folder + "/" + name);
-        Rows(Searches().at("FMEMFOL/DEFAULT/" + folder + "/"), paths);
+        const std::string path = "FMEMFOL/DEFAULT/" + folder + "/";
+        Rows(Searches().at(path), Below(path, names));
         return Sent();
     }
     static void ClosePanes()
@@ -89,13 +88,8 @@ struct AutoLoad : FileTest {
     static std::map<std::string, uint32_t> Start(const char* unit, Strings* all)
     {
         Deliver(std::string("Info@Auto Load@Start@") + unit, "true");
-        std::map<std::string, uint32_t> items;
         *all = Sent();
-        for (const std::string& line : *all)
-            if (const size_t host = line.find(",MYHOST:" + ROOT); host != std::string::npos)
-                items[line.substr(host + strlen(",MYHOST:") + ROOT.size())] =
-                    uint32_t(std::stoul(line.substr(line.find("#L") + 2)));
-        return items;
+        return Labels(*all, ".*#L(\\d+),MYHOST:" + ROOT + "(.*)");
     }
 };
 
@@ -119,14 +113,12 @@ TEST_F(AutoLoad, EachLockedCategoryIsLeftOutOfTheSearch)
         if (c.lock >= 0)
             GL_FileLock[c.lock] = 1;
         EXPECT_EQ(AutoLoad_DataExist(c.unit), AUTOLOAD_SEARCHING);
-        Strings expected, searched;
+        std::vector<testing::Matcher<std::pair<const std::string, uint32_t>>> expected;
         for (const std::string& word : folders)
             if (word != c.left_out)
-                expected.push_back(word + "/" + c.folder + "/");
+                expected.push_back(Key(word + "/" + c.folder + "/"));
         const auto searches = Searches();
-        for (const auto& [folder, label] : searches)
-            searched.push_back(folder);
-        EXPECT_EQ(searched, expected) << c.unit;
+        EXPECT_THAT(searches, ElementsAreArray(expected)) << c.unit;
         EXPECT_EQ(AutoLoad_DataExist("SWR2"), AUTOLOAD_BUSY);
         for (const auto& [folder, label] : searches) {
             EXPECT_THAT(Sent(), IsEmpty()) << "answered before the last search has ended";
@@ -240,10 +232,7 @@ TEST_F(AutoLoad, PicturesOfTheNewStoreGetNumbersAndFoldersInTheOrderFound)
     for (const char* name : {"DEFAULT", "Sport", "News"}) { // one at a time
         const auto searches = Searches();
         ASSERT_THAT(searches, ElementsAre(Key(root + name + sub)));
-        Strings paths;
-        for (const std::string& file : files.at(name))
-            paths.push_back(root + name + sub + file);
-        Rows(searches.begin()->second, paths);
+        Rows(searches.begin()->second, Below(root + name + sub, files.at(name)));
     }
     EXPECT_THAT(Sent(),
                 ElementsAre("put Frame Mem@File@Delete Thumbnail@All#true",
