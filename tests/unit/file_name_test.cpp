@@ -116,11 +116,7 @@ TEST_F(FileName, PathsOfDrivesAndUnits)
 
 TEST_F(FileName, EveryStepThatFailsHasItsNumber)
 {
-    static const struct {
-        int grp;
-        const char* path;
-        int result;
-    } cases[] = {
+    static const std::tuple<int, const char*, int> cases[] = {
         {13, "", NAME_NO_EXT},
         {13, "SWR000D001/ME1/A", NAME_NO_EXT},
         {13, "SWR000D001/ME1/A.SSS", NAME_NO_NUMBER},
@@ -148,8 +144,8 @@ TEST_F(FileName, EveryStepThatFailsHasItsNumber)
         {46, "/SWR000D001/ME1/A.ME1_001.SSS", NAME_UNKNOWN_REGION},
         {-1, "/SWR000D001/ME1/A.ME1_001.SSS", NAME_UNKNOWN_REGION},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Parse(c.grp, c.path), c.result) << c.grp << " " << c.path;
+    for (const auto& [grp, path, result] : cases)
+        EXPECT_EQ(Parse(grp, path), result) << grp << " " << path;
     SYS_MyDme2 = -1;
     EXPECT_EQ(Parse(8, "/DME000D001/CHF/A.CHF_0101.DKF"), 0);
     SYS_MyDme1 = -1;

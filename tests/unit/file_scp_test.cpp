@@ -137,10 +137,8 @@ TEST_F(FileRemote, APutIsCheckedByTheDeviceAndCountsHalfUntilThen)
 TEST_F(FileRemote, WhatIsNoResultLineIsPassedOver)
 {
     const std::string longest(1024 - 3, 'x');
-    static const struct {
-        std::string text;
-        int status; // of a.SST
-    } cases[] = {
+    static const std::pair<std::string, int> cases[] = {
+        // the status is that of a.SST
         {"a.SST,OK", FILESTATUS_REQ},
         {"\r\n\r\na.SST,Ok\r\n", FILESTATUS_REQ},
         {"a.SST,OK\ra.SST,NG\r", FILESTATUS_REQ}, // the first counts
@@ -154,14 +152,14 @@ TEST_F(FileRemote, WhatIsNoResultLineIsPassedOver)
         {std::string(1017, 'x') + "a.SST,OK\n", FILESTATUS_NG},               // its end is no line
         {std::string("\0\0,a.SST,OK\na.SST,OK", 20), FILESTATUS_REQ},
     };
-    for (const auto& c : cases) {
+    for (const auto& [text, status] : cases) {
         BeginGet({"a.SST", "keeps the job.SST"});
         HoldForGet();
         const uint32_t fetch = FetchLabel();
-        Result(c.text + "\nkeeps the job.SST,OK\n");
+        Result(text + "\nkeeps the job.SST,OK\n");
         Answer(fetch, "OK");
         ASSERT_TRUE(list);
-        EXPECT_EQ(list->status, c.status) << c.text.substr(0, 60);
+        EXPECT_EQ(list->status, status) << text.substr(0, 60);
         (void)Sent();
         Hub("Disconnect", "SWR1.File");
         Hub("Ready", "SWR1.File");
@@ -627,15 +625,11 @@ TEST_F(FileStore, TheStoreHearsTheFormatOfItsSwitcher)
     swr.activeline = ACTIVELINE_1080P;
     swr.framerate = 25.0;
     DeviceStructure();
-    static const struct {
-        int dual;
-        DEVTYPE type;
-        int format;
-    } cases[] = {{0, DEVTYPE_KTR40, 128}, {1, DEVTYPE_KTR40, 130}, {0, DEVTYPE_KTR40G, 132}};
-    for (const auto& c : cases) {
-        SYS_DualProc = c.dual;
-        swr.type = c.type;
+    for (const auto& [dual, type, format] :
+         {std::tuple{0, DEVTYPE_KTR40, 128}, {1, DEVTYPE_KTR40, 130}, {0, DEVTYPE_KTR40G, 132}}) {
+        SYS_DualProc = dual;
+        swr.type = type;
         DeviceStructure();
-        EXPECT_EQ(file_scp_get_systemformat("SWR000D001:"), c.format);
+        EXPECT_EQ(file_scp_get_systemformat("SWR000D001:"), format);
     }
 }

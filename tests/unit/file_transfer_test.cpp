@@ -395,6 +395,7 @@ TEST_F(FileImport, OnlyKnownImagesFromKnownDrivesAreTaken)
     File_ExecFmImportList(&list, List, 0);
     EXPECT_THAT(Sent(), IsEmpty());
     EXPECT_EQ(list, nullptr) << "nothing is left to wait for";
+    EXPECT_THAT(ended, StartsWith("130 a.TIF: Canceled;130 a.TIF: Canceled;"));
     EXPECT_EQ(told.size(), 1u);
     File_XferList_ImportAdd(&list, "MYHOST:/mnt/sys/FMLoad/FM1/a.TIF", "SWR000D001", 0);
     File_ExecFmImportList_AutoLoad(&list, List, 0);

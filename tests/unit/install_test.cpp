@@ -139,24 +139,21 @@ TEST_F(Install, AStepInTheBackgroundEndsAsItsResultSays)
 
 TEST_F(Install, AStepThatCanBeAskedIsPolled)
 {
-    static const struct {
-        const char* states; // one a look
-        int expected;
-        uint32_t seconds;
-    } cases[] = {
+    // States, one a look; what comes of it; how long it takes.
+    static const std::tuple<const char*, int, uint32_t> cases[] = {
         {"100", 0, 1},
         {"0\n37\n99\n100", 0, 4},
         {"50\n101", -1, 2},
         {"255", -1, 1},
     };
-    for (const auto& c : cases) {
-        InstallStick::Ends("scs_exec", c.states);
+    for (const auto& [states, expected, seconds] : cases) {
+        InstallStick::Ends("scs_exec", states);
         const uint32_t begin = Clock_ms;
-        EXPECT_EQ(Run("EXECS_BG ktrPwsUpdate a.bin\n"), c.expected) << c.states;
-        EXPECT_EQ(Clock_ms - begin, c.seconds * 1000) << c.states;
+        EXPECT_EQ(Run("EXECS_BG ktrPwsUpdate a.bin\n"), expected) << states;
+        EXPECT_EQ(Clock_ms - begin, seconds * 1000) << states;
         EXPECT_EQ(std::ranges::count(InstallStick::Calls(), "scs_exec [ktrPwsUpdate a.binStatus]"),
-                  c.seconds);
-        EXPECT_EQ(InstallStick::Errors(), c.expected ? Strings{"Install failed."} : Strings{});
+                  seconds);
+        EXPECT_EQ(InstallStick::Errors(), expected ? Strings{"Install failed."} : Strings{});
     }
 }
 

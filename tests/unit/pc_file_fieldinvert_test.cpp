@@ -46,10 +46,7 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
 
 TEST_F(FieldInvertPage, RowsThatAreNone)
 {
-    static const struct {
-        const char* row;
-        bool is_frame;
-    } cases[] = {
+    static const std::pair<const char*, bool> cases[] = {
         {"/d/U/MA.FMEM_001.SFM,,1,3,0,0,0", true},    {"MYHOST:/d/U/MA.FMEX1234.SF2,x,,,,,", true},
         {"/d/U/MA.FMEM_001.SFM,,1,3,0,0", false},     {"/d/U/MA.FMEM_001.SFM,,1,3,0,0,0,", false},
         {"/e/U/MA.FMEM_001.SFM,,1,3,0,0,0", false},   {"/d/../MA.FMEM_001.SFM,,1,3,0,0,0", false},
@@ -58,8 +55,8 @@ TEST_F(FieldInvertPage, RowsThatAreNone)
         {"/d/U/MA.FMEM_001.SST,,1,3,0,0,0", false},   {"", false},
     };
     FILELIST_FI row;
-    for (const auto& c : cases)
-        EXPECT_EQ(File_ReadFrameRow(c.row, "MYHOST:/d/", &row) == 0, c.is_frame) << c.row;
+    for (const auto& [text, is_frame] : cases)
+        EXPECT_EQ(File_ReadFrameRow(text, "MYHOST:/d/", &row) == 0, is_frame) << text;
     const std::string far = "/d/" + std::string(300, 'x') + "/MA.FMEM_001.SFM,,1,3,0,0,0";
     EXPECT_EQ(File_ReadFrameRow(far.c_str(), "MYHOST:/d/", &row), -1);
 }

@@ -160,11 +160,8 @@ TEST_F(FramePage, OlderMemoryHasNoTabOfFolders)
 TEST_F(FramePage, RenameKeepsTheSideAndGivesNoNameTwice)
 {
     Store({"Mlogo", "Slogo", "Mbeach"});
-    static const struct {
-        std::vector<int> rows;
-        std::string entered;
-        Lines sent; // renames
-    } cases[] = {
+    // The rows, the name, the renames.
+    static const std::tuple<std::vector<int>, std::string, Lines> cases[] = {
         {{1, 2}, "Mclock", {"Mlogo,Mclock", "Slogo,Sclock"}},
         {{2}, "clock", {"Slogo,Sclock"}},
         {{1}, "Mtoolonganame", {"Mlogo,Mtoolonga"}},
@@ -174,15 +171,15 @@ TEST_F(FramePage, RenameKeepsTheSideAndGivesNoNameTwice)
         {{1}, "image123", {}},
         {{1, 3}, "Mtwice", {"Mlogo,Mtwice"}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [rows, entered, sent] : cases) {
         Open(NEW + 1);
-        Select(1, c.rows);
-        LS_SetNowLine(1, c.rows[0]);
-        Select(1, c.rows);
+        Select(1, rows);
+        LS_SetNowLine(1, rows[0]);
+        Select(1, rows);
         Press(BTN_FILE_RENAME);
-        EXPECT_EQ(Enter(c.entered), Below("put Frame Mem@File@Rename#", c.sent)) << c.entered;
-        const bool says = c.entered == "Mbeach" || c.entered == "Mtwice";
-        EXPECT_EQ(Message() == TAKEN, says) << c.entered;
+        EXPECT_EQ(Enter(entered), Below("put Frame Mem@File@Rename#", sent)) << entered;
+        const bool says = entered == "Mbeach" || entered == "Mtwice";
+        EXPECT_EQ(Message() == TAKEN, says) << entered;
         if (says)
             Quit(0);
     }
