@@ -17,20 +17,11 @@ constexpr uint32_t EXEC = 0x54310000, COPY = 0x54330000, DELETE = 0x54360000, ED
                    SETUP = 0x54310099;
 
 struct MenuMacro : TablePage {
-    void SetUp() override
-    {
-        TablePage::SetUp();
-        RemoveFiles();
-    }
     void TearDown() override
-    {
-        RemoveFiles();
-        TablePage::TearDown();
-    }
-    static void RemoveFiles()
     {
         for (const char* dir : {BACKUP, TRANSFER})
             std::filesystem::remove_all(dir);
+        TablePage::TearDown();
     }
     // What one touch sends.
     static void Sends(const Lines& commands)
