@@ -48,11 +48,8 @@ static std::string lines(int n, const std::string& line)
 
 TEST_F(MacroFiles, LinesBecomeEventsAndGoBack)
 {
-    static const struct {
-        std::string line;
-        std::string shown;
-        const char* stored; // null: as it was
-    } cases[] = {
+    static const std::tuple<std::string, std::string, const char*> cases[] = {
+        // null: as it was
         {"Event?,MECut,ME?,P/P", "Event 1 MECut P/P", nullptr},
         {"Continue?,AuxXpt,AuxBus?,Aux1,Xpt?,5", "Continue AuxXpt Aux1 5 -", nullptr},
         {"Event?,KeySnapshot,ME?,P/P,Register?,3", "Event 1 KeySnapshot P/P - 3", nullptr},
@@ -75,11 +72,11 @@ TEST_F(MacroFiles, LinesBecomeEventsAndGoBack)
         {"", "", ""},
         {"?,?,?", "", ""},
     };
-    for (const auto& c : cases) {
-        ASSERT_EQ(Read(std::string(HEAD) + "\n" + c.line + "\n"), 0);
-        EXPECT_EQ(Shown(), c.shown) << c.line;
-        const std::string back = c.stored ? c.stored : c.line;
-        if (c.shown.empty() || !back.empty()) {
+    for (const auto& [line, shown, stored] : cases) {
+        ASSERT_EQ(Read(std::string(HEAD) + "\n" + line + "\n"), 0);
+        EXPECT_EQ(Shown(), shown) << line;
+        const std::string back = stored ? stored : line;
+        if (shown.empty() || !back.empty()) {
             EXPECT_EQ(Stored(), std::string(HEAD) + "\n" + back + (back.empty() ? "" : "\n"));
         }
     }
@@ -87,23 +84,15 @@ TEST_F(MacroFiles, LinesBecomeEventsAndGoBack)
 
 TEST_F(MacroFiles, TheFirstLineEndIsKept)
 {
-    static const struct {
-        const char* name;
-        std::string first, second, stored;
-    } cases[] = {
-        {"LF", "\n", "\n", "\n"},
-        {"CR", "\r", "\r", "\r"},
-        {"CR LF", "\r\n", "\r\n", "\r\n"},
-        {"mixed, CR LF first", "\r\n", "\n", "\r\n"},
-        {"mixed, LF first", "\n", "\r\n", "\n"},
-        {"mixed, CR first", "\r", "\r\n", "\r"},
-        {"no last end", "\r\n", "", "\r\n"},
-    };
-    for (const auto& c : cases) {
-        const std::string event = "Event?,MECut,ME?,P/P";
-        ASSERT_EQ(Read(HEAD + c.first + event + c.first + event + c.second), 0) << c.name;
-        EXPECT_EQ(Shown(), "Event 1 MECut P/P|Event 2 MECut P/P") << c.name;
-        EXPECT_EQ(Stored(), HEAD + c.stored + event + c.stored + event + c.stored) << c.name;
+    const std::string event = "Event?,MECut,ME?,P/P";
+    static const std::tuple<std::string, std::string> cases[] = {
+        // of the last line: another, none
+        {"\n", "\n"},   {"\r", "\r"},   {"\r\n", "\r\n"}, {"\r\n", "\n"},
+        {"\n", "\r\n"}, {"\r", "\r\n"}, {"\r\n", ""}};
+    for (const auto& [first, second] : cases) {
+        ASSERT_EQ(Read(HEAD + first + event + first + event + second), 0);
+        EXPECT_EQ(Shown(), "Event 1 MECut P/P|Event 2 MECut P/P");
+        EXPECT_EQ(Stored(), HEAD + first + event + first + event + first);
     }
 }
 

@@ -38,11 +38,9 @@ struct RegisterPages : TablePage {
 // Register 3 is at the cursor, 4 in the second list.
 TEST_F(RegisterPages, EveryKeyOfEveryKindSendsItsCommand)
 {
-    static const struct {
-        uint32_t group;
-        const char *head, *mask; // of the first region, with its comma
-        const char *recall, *line;
-    } kinds[] = {
+    using Text = const char*;
+    static const std::tuple<uint32_t, Text, Text, Text, Text> kinds[] = {
+        // the mask is that of the first region, with its comma
         {0x63100000, "Master Snapshot@", "", "Store/Recall@Recall#3",
          "Store/Recall@List#3,SHOW,S,U,,,,,,,,,,,,,,,,,,,,,,,,,,,,,,"},
         {0x63200000, "Snapshot@", "2,", "Recall#2, 3", "Attribute@M/E-1@List#3,SHOW,S,,n,n,n"},
@@ -51,35 +49,29 @@ TEST_F(RegisterPages, EveryKeyOfEveryKindSendsItsCommand)
         {0x63500000, "Key Snapshot@", "0000000000000001,", "Recall#0000000000000001, 3",
          "Attribute@M/E-1@Key1@List#3,SHOW,S"},
     };
-    static const struct {
-        uint32_t shape;
-        int key; // of a kind with regions; without them the keys stand one place further left
-        bool has_window;
-        const char *verb, *rest;
-        int masks;
-    } actions[] = {
+    static const std::tuple<uint32_t, int, bool, Text, std::string, int> actions[] = {
+        // keys of a kind with regions; without them they stand one place further left
         {0x20000, 51, false, "Lock#", "3,3", 1},     {0x30000, 49, false, "Copy#", "4,false", 2},
         {0x40000, 49, false, "Move#", "4,false", 2}, {0x50000, 49, false, "Swap#", "4,false", 2},
         {0x60000, 51, true, "Delete#", "3,3", 1},    {0x70000, 51, true, "Rename#", "3,SHOW", 1},
     };
-    for (const auto& k : kinds) {
-        const bool has_regions = *k.mask;
-        const std::string head = std::string("put Snapshot@") + k.head;
-        (void)Tell(head.substr(4) + k.line);
-        for (const auto& a : actions) {
-            Open(k.group + a.shape);
+    for (const auto& [group, name, mask, recall, line] : kinds) {
+        const bool has_regions = *mask;
+        const std::string head = std::string("put Snapshot@") + name;
+        (void)Tell(head.substr(4) + line);
+        for (const auto& [shape, key, has_window, verb, rest, masks] : actions) {
+            Open(group + shape);
             Cursor(1, 2);
             Cursor(2, 3);
-            Lines sent = Puts(a.masks == 1 && !has_regions ? a.key - 1 : a.key);
-            if (a.has_window)
+            Lines sent = Puts(masks == 1 && !has_regions ? key - 1 : key);
+            if (has_window)
                 sent = Confirm();
-            const std::string runs =
-                a.masks == 2 ? std::string("3,3,") + k.mask + a.rest : std::string(a.rest);
-            EXPECT_THAT(sent, ElementsAre(head + a.verb + k.mask + runs)) << k.head << a.verb;
+            const std::string runs = masks == 2 ? std::string("3,3,") + mask + rest : rest;
+            EXPECT_THAT(sent, ElementsAre(head + verb + mask + runs)) << head << verb;
         }
-        Open(k.group + 0x10000);
+        Open(group + 0x10000);
         Cursor(1, 2);
-        EXPECT_THAT(Puts(has_regions ? 50 : 49), ElementsAre(head + k.recall));
+        EXPECT_THAT(Puts(has_regions ? 50 : 49), ElementsAre(head + recall));
     }
 }
 
@@ -276,7 +268,7 @@ TEST_F(RegisterPages, OperationsGoToAllSelectedRegionsInRuns)
     }
 }
 
-TEST_F(RegisterPages, RunsKeepTheirGapsAndStayInTheList)
+TEST_F(RegisterPages, RunsKeepTheirGapsAndGoToARegionOfTheirSort)
 {
     Choose(REGKIND_SNAPSHOT, {257});
     Open(0x63230000);
@@ -296,13 +288,10 @@ TEST_F(RegisterPages, RunsKeepTheirGapsAndStayInTheList)
         EXPECT_THAT(Puts(BTN_REGISTER_AUTO_CORRECT),
                     ElementsAre(PUT + "Copy@Direction@Reverse#" + on));
     EXPECT_EQ(BT_GetStatus(BTN_REGISTER_AUTO_CORRECT), BT_ON);
-}
 
-TEST_F(RegisterPages, OneRegionMayGoToAnotherOfItsSort)
-{
-    Choose(REGKIND_SNAPSHOT, {257});
     Store("P/P", 6, "TARGET,S,,n,n,n");
     Open(0x63230000);
+    Cursor(1, 0);
     const auto go_to = [](int id) {
         (void)Press(BTN_REGISTER_REGION_2);
         SendMessage(LMSG_PANEQUIT, Pane_GetActiveID(), id, 0, 0);
