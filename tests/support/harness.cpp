@@ -110,10 +110,8 @@ static void reset_state()
     SYS_DWSubEnable = GL_FillSourceAssignMode = 0;
     GL_InitialPage = PAGE_TOP;
     SetupLock = {};
-    BA_SetDefaultButton(0);
-    BA_SetUsbAccess(0);
-    BA_SetFtpAccess(0);
-    BA_SetHDDAccess(0);
+    for (const auto set : {BA_SetDefaultButton, BA_SetUsbAccess, BA_SetFtpAccess, BA_SetHDDAccess})
+        set(0);
     UnHackMessage(0);
     GL_ScreenSaverInterval = 1200;
     GL_ScreenSaverPTN_Mode = SAVER_PATTERNS;

@@ -26,8 +26,6 @@ struct ButtonFamily : ButtonPage {
     }
 };
 
-// --- Tally ---
-
 TEST_F(ButtonFamily, VisibilityFollowsTheRuleOfTheFamily)
 {
     // Each digit of a combination is the verdict of one dependency, from the first; "x" disables.
@@ -115,15 +113,12 @@ TEST_F(ButtonFamily, AShadowsSourceNeedsFourCombinedChannelsAndAFreezeAUnitThatH
         for (const bool is_1080p : {true, false}) {
             SYS_RefSwrActiveLine = is_1080p ? 6 : 5;
             OpenTally(bt_tly_freeze, {"x"});
-            EXPECT_EQ(Dependency(0, "true"), is_1080p && !is_large ? BT_DISABLED : BT_ENABLED)
-                << "its own tally decides, too";
+            EXPECT_EQ(Dependency(0, "true"), is_1080p && !is_large ? BT_DISABLED : BT_ENABLED);
             EXPECT_EQ(BT_GetOnOff(17), 1);
             EXPECT_EQ(Dependency(1, "x"), BT_DISABLED);
         }
     }
 }
-
-// --- Select ---
 
 TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBankAndABorderIsReadBack)
 {
@@ -146,8 +141,6 @@ TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBankAndABorderIsReadBack)
     OpenTree({"M/E-1", "X"}, 0x11110000, rows);
     EXPECT_THAT(Pressed(17), ElementsAre("put M/E-1@X@Border#true", "read M/E-1@X@Border"));
 }
-
-// --- Draw ---
 
 TEST_F(ButtonFamily, ALightThatIsActiveHasABar)
 {

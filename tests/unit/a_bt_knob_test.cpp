@@ -32,8 +32,6 @@ struct KnobLinks : ButtonPage {
     }
 };
 
-// --- What holds for all of them ---
-
 static bool SameBoxes(const NB_TBL* a, const NB_TBL* b)
 {
     for (; a->id >= 1 && b->id >= 1; a++, b++)
@@ -65,8 +63,6 @@ TEST_F(KnobLinks, EveryNumberChoosesAmongTablesThatDifferWithTheirBoxesInSlotsFr
     }
     EXPECT_EQ(TablesOf(0).size() + TablesOf(LAST_NUMBER + 1).size() + TablesOf(255).size(), 0u);
 }
-
-// --- What decides ---
 
 TEST_F(KnobLinks, TheAspectIsThatOfThePagesBank)
 {

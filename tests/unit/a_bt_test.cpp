@@ -65,8 +65,6 @@ TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
     BT_UndecidedRequest(path.c_str(), 1);
 }
 
-// --- Presses ---
-
 TEST_F(Buttons, APressSendsWhatItsTypeSaysAndIsPaintedAtOnceWhenItLeadsToMore)
 {
     for (const auto& [id, status, sent] :
@@ -120,8 +118,6 @@ TEST_F(Buttons, WhatCannotBeUsedTakesNoPressAndAChatteringActionOne)
     EXPECT_THAT(Told(), ElementsAre("LOCAL@Test@Go 2 0"));
 }
 
-// --- Tallies ---
-
 TEST_F(Buttons, ATallyOfItsPathSetsTheStateAndThatOfADependencyTheUse)
 {
     BT_Proc(MSG_TALLY, Arg("M/E-1@Key1@Invetr"), Arg("true"), MsgArg(Hash("M/E-1@Key1@Invert")), 0);
@@ -141,8 +137,6 @@ TEST_F(Buttons, ATallyOfItsPathSetsTheStateAndThatOfADependencyTheUse)
     Tally("M/E-1@Key1@Type@Key Type", "Linear");
     EXPECT_EQ(BT_GetVisible(20), BT_CUTOFF) << "a tally does not bring it back";
 }
-
-// --- Knobs ---
 
 TEST_F(Buttons, TheFirstTouchOfAButtonThatIsOnFetchesTheKnobsAndTheyGoWithItsState)
 {

@@ -7,8 +7,6 @@
 #include "pane.h"
 #include "table_page.h"
 #include "text.h"
-#include "window.h"
-#include <utility>
 
 struct FileFolder : TablePage {
     static constexpr uint32_t PAGE_LOAD = 0x21120000;

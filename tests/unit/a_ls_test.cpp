@@ -86,8 +86,6 @@ TEST_F(Lists, ABouncingContactDoesNotTakeBackWhatItDid)
     }
 }
 
-// --- Multi-select ---
-
 TEST_F(Lists, PluralAddsAndTakesAwayUntilItIsLeft)
 {
     Open(plain, 5);
@@ -182,8 +180,6 @@ TEST_F(Lists, ASplitListSelectsCells)
     Release();
 }
 
-// --- Scrolling ---
-
 TEST_F(Lists, ArrowsMoveTheCurrentRowAndKeepItInside)
 {
     static const struct {
@@ -239,8 +235,6 @@ TEST_F(Lists, TheWheelIsAPressOnAnArrowAndNoneBesideWhatStandsOverThem)
     Loop_Event(&wheel);
     EXPECT_EQ(LS_GetNowLine(1), 1);
 }
-
-// --- Cells and page code ---
 
 TEST_F(Lists, FewerRowsTakeSelectionAndWindowAlong)
 {

@@ -100,8 +100,6 @@ TEST_F(StatusCells, RowsOfAnotherSystemAreSkippedAndTheSlotsCloseUp)
     }
 }
 
-// --- Jumps ---
-
 TEST_F(StatusCells, ATargetTakesTheBankAndKeyOfThePageAndThePressIsInsideTheBorder)
 {
     for (const auto& [id, template_id, target] :
@@ -163,8 +161,6 @@ TEST_F(StatusCells, TheReferenceChoosesTheTableOfADmePage)
         EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << value;
     }
 }
-
-// --- Painting ---
 
 constexpr Rect FIRST = {100, 75, 199, 164};
 constexpr const char* TYPE = "M/E-1@Key1@Type@Key Type";

@@ -1,5 +1,4 @@
 // The walk over all pages: every row is opened, drawn and left again, in the order of the table.
-#include "a_nb.h"
 #include "a_pc.h"
 #include "bus_tally.h"
 #include "global.h"
@@ -168,8 +167,7 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
     const auto combines = [](const std::string& path) {
         return path.starts_with("Global Effect@Ch") && path.find("@Combine@Ch") != path.npos;
     };
-    EXPECT_EQ(std::ranges::count_if(before, combines), 12)
-        << "a page has ended what is followed all the time";
+    EXPECT_EQ(std::ranges::count_if(before, combines), 12) << "a page has ended one of them";
     InitialCommand0();
     InitialCommand1();
     InitialCommand2();

@@ -269,12 +269,9 @@ TEST_F(BusTally, TheOperationModeIsThatOfTheOwnPanel)
         (void)TakeQueuedCommands();
         Deliver(std::string(OPERATION_MODE) + c.panel, c.value);
         EXPECT_THAT((std::vector{SYS_DualProc, SYS_Simul, SYS_DualSimul}),
-                    ElementsAre(c.dual_proc, c.simul, c.dual_simul))
-            << c.value;
+                    ElementsAre(c.dual_proc, c.simul, c.dual_simul));
         const Strings sent = TakeQueuedCommands();
-        EXPECT_EQ(std::count(sent.begin(), sent.end(), "add Engineering Setup@DME@Model@DME4"),
-                  c.second_pair)
-            << c.value;
+        EXPECT_EQ(std::ranges::count(sent, "add Engineering Setup@DME@Model@DME4"), c.second_pair);
     }
 }
 
@@ -294,8 +291,7 @@ TEST_F(BusTally, CombinedChannelsAreThoseThatHangTogether)
                             "@Combine@Ch" + std::to_string(first + ch),
                         strchr(c.on, '0' + ch) && *c.on ? "true" : "false");
             for (int i = 0; i < 4; i++)
-                EXPECT_EQ(SYS_Combine[first + i], c.combined[i])
-                    << c.on << " channel " << first + i + 1;
+                EXPECT_EQ(SYS_Combine[first + i], c.combined[i]) << c.on << first + i;
         }
     }
     for (const char* rubbish : {"Ch0", "Ch5", "Ch", "Ch99999999999"})

@@ -129,8 +129,6 @@ TEST_F(Bus, APlayedTallyIsOneFromTheServerAndMayBePlayedWithinAnother)
     EXPECT_THAT(values, ElementsAre("Inner=2", "Outer=1"));
 }
 
-// --- The drain ---
-
 static void Receive(const std::string& lines)
 {
     ASSERT_EQ(Net_FeedText(lines.data(), int(lines.size())), int(lines.size()));

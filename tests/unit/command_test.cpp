@@ -133,8 +133,7 @@ TEST(Command, AConditionDisablesAtItsValues)
                                               {"", nullptr, 1},
                                               {"Off, Auto", "uto", 0},
                                               {"XOn", "On", 0}})
-        EXPECT_EQ(IsDisableCondition(cond, var), disabled)
-            << (cond ? cond : "null") << " at " << (var ? var : "null");
+        EXPECT_EQ(IsDisableCondition(cond, var), disabled) << testing::PrintToString(cond);
 }
 
 TEST(Command, SumsSwitchesAndOwnPaths)

@@ -106,8 +106,7 @@ TEST_F(PageRules, CombinedChannelsPickThePageOfTheirGroup)
             std::copy_n(c.c, 4, SYS_Combine + 4 * group);
             SYS_CombineCh[2 + 4 * group] = c.third;
             const uint32_t page = group ? 0x42210000 : 0x42110000;
-            EXPECT_EQ(ResolvePageId(page), page + c.variant)
-                << c.c[0] << c.c[1] << c.c[2] << c.c[3] << c.third;
+            EXPECT_EQ(ResolvePageId(page), page + c.variant) << testing::PrintToString(c.c);
             EXPECT_EQ(ResolvePageId(group ? 0x42110000 : 0x42210000),
                       (group ? 0x42110100u : 0x42210100u));
         }

@@ -63,8 +63,7 @@ TEST(PageTable, EveryJumpLeadsToAPage)
         EXPECT_TRUE(target) << std::hex << page.id << " button " << b.id << " to " << id;
         // A relative jump stays in its bank, its key and its side.
         if (target && b.cmd[0][1] == '+') {
-            EXPECT_EQ(target->id & 0xFF000000, page.id & 0xFF000000)
-                << std::hex << page.id << " to " << id;
+            EXPECT_EQ(target->id & 0xFF000000, page.id & 0xFF000000) << std::hex << page.id;
             const bool is_over_all = (page.id & 0x00F00000) == 0; // of the keys of a bank
             if (page.tree[1] && !is_over_all) {
                 EXPECT_STREQ(target->tree[1], page.tree[1]);
@@ -135,8 +134,7 @@ TEST(PageTable, NoCaptionIsCutByItsTabBoxOrButtonAndTheLimitsOfABoxDiffer)
         const int width = b.x2 - b.x1 + 1 - 10; // the caption begins 10 pixels in
         const int lines = TDL_GetSymbolLine(width, b.caption, 3);
         const auto written = 1 + std::ranges::count(std::string_view(b.caption), '\n');
-        EXPECT_EQ(lines, written) << std::hex << page.id
-                                  << ": broken by the machine: " << b.caption;
+        EXPECT_EQ(lines, written) << std::hex << page.id << " breaks " << b.caption;
         EXPECT_LE(lines, 3) << b.caption;
     });
 }

@@ -229,8 +229,6 @@ TEST_F(Panes, ProgressTellsWhatIsAndWhatIsNotOne)
     EXPECT_EQ(PaneProgress_SetProg(message, 1, ""), -2);
 }
 
-// --- Choices ---
-
 static const BTNSEL choices[] = {{11, "One", 0}, {12, "Two", 1}, {0, "", 0}, {14, "Four", 0}};
 
 TEST_F(Panes, AChoiceIsTheResult)

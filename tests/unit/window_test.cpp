@@ -221,11 +221,10 @@ TEST_F(WindowOverPane, APaneThatOpensClosesIt)
 TEST_F(Windows, EveryTypeGivesTheScreenBack)
 {
     static const char* const cells[] = {"A", "B"};
+    const WindowArgs args{.x = 180, .y = 60, .columns = 2, .captions = cells};
     TDL_FillRectS(0, 0, 799, 599, GROUND);
     for (int type = WINDOW_PAGE_JUMP; type <= WINDOW_KNOB_TRIM; type++) {
-        ASSERT_EQ(
-            CreateWindow(type, "Window", {.x = 180, .y = 60, .columns = 2, .captions = cells}), 0)
-            << type;
+        ASSERT_EQ(CreateWindow(type, "Window", args), 0) << type;
         EXPECT_NE(PixelAt(190, 70), GROUND) << type;
         Stroke('1');
         Pass(200);
