@@ -68,9 +68,7 @@ struct FileTest : BusTest {
     }
     static void Hub(const std::string& verb, const std::string& table, const std::string& row = "")
     {
-        std::string v = verb, t = table, r = row;
-        SendMessage(MSG_SHPTALLY, Arg(v.c_str()), Arg(t.c_str()), Hash(v.c_str()),
-                    verb == "Ready" ? 0 : Arg(r.c_str()));
+        SendMessage(MSG_SHPTALLY, Arg(verb.c_str()), Arg(table.c_str()), 0, Arg(row.c_str()));
     }
     static void Cancel() { SendMessage(LMSG_PANEQUIT, QueueRoot->paneid, 1, 0, 0); }
     static void Notify(const std::string& row, const std::string& table = "SWR1.File")
@@ -83,7 +81,6 @@ struct FileTest : BusTest {
         ::system(("mkdir -p '" + path.substr(0, end) + "'").c_str());
         std::ofstream(path, std::ios::binary) << text;
     }
-    static int Seen(int msg) { return probe::Count(msg); }
 };
 
 struct FileListTest : FileTest {

@@ -443,23 +443,6 @@ TEST_F(FileRemote, RubbishFromTheHubChangesNothing)
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_NON);
 }
 
-TEST_F(FileRemote, ALargeResultListIsReadInOnePass)
-{
-    constexpr int N = 2000;
-    std::string text;
-    Strings names;
-    for (int i = N; i-- > 0;) {
-        names.push_back("f" + std::to_string(i) + ".SST");
-        text += names.back() + (i % 2 ? ",OK\r\n" : ",NG(bad)\r\n");
-    }
-    BeginGet(names);
-    HoldForGet();
-    Result(text);
-    Answer(FetchLabel(), "OK");
-    EXPECT_EQ(Sent().size(), size_t(N / 2));
-    EXPECT_EQ(QueueRoot->finished, N / 2);
-}
-
 // --- Frame memory ---
 
 struct FileStore : FileRemote {

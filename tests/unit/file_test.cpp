@@ -19,7 +19,7 @@ TEST_F(FileJobs, ASingleJobLivesFromItsCommandToItsReply)
     EXPECT_THAT(told, IsEmpty());
     Status(50, "NG(full)");
     EXPECT_THAT(told, ElementsAre("1 7 NG(full)"));
-    ASSERT_EQ(Seen(LMSG_FILESTATUS), 1);
+    ASSERT_EQ(probe::Count(LMSG_FILESTATUS), 1);
     EXPECT_EQ(QueueRoot, nullptr);
     EXPECT_EQ(FileCounter, 0);
     Status(50, "OK");
@@ -80,11 +80,11 @@ TEST_F(FileJobs, ASearchPassesItsRowsOnAndThenEnds)
     Status(9, std::string("/d/a,b.SSS,") + ROW_DATE); // could not be said back to the server
     Status(9, "/d/b.SSS,yesterday");
     EXPECT_THAT(told, ElementsAre("/d/a.SSS|/d/a.SSS|Nov.25.2026 09:20", "/d/b.SSS|/d/b.SSS|"));
-    EXPECT_EQ(Seen(LMSG_FILESTATUS), 2);
-    EXPECT_EQ(Seen(LMSG_FINDSTATUS), 0);
+    EXPECT_EQ(probe::Count(LMSG_FILESTATUS), 2);
+    EXPECT_EQ(probe::Count(LMSG_FINDSTATUS), 0);
     Status(9, "NG(no such, directory)");
     EXPECT_EQ(told.back(), "end");
-    EXPECT_EQ(Seen(LMSG_FINDSTATUS), 1);
+    EXPECT_EQ(probe::Count(LMSG_FINDSTATUS), 1);
     EXPECT_EQ(QueueRoot, nullptr);
 }
 
@@ -296,7 +296,7 @@ TEST_F(FileLists, RepliesInAnyOrderEndTheJobOnce)
     EXPECT_THAT(told, ElementsAre("4 5"));
     EXPECT_EQ(list, nullptr);
     EXPECT_FALSE(Pane_Exist(pane));
-    EXPECT_EQ(Seen(LMSG_FILESTATUS), 1);
+    EXPECT_EQ(probe::Count(LMSG_FILESTATUS), 1);
 }
 
 TEST_F(FileLists, ANoThatMayPassIsTriedThreeTimesMore)
