@@ -40,6 +40,15 @@ class StoreTest(SimTest):
         self.text.until(f"{path}#{value}")
         return self.other.sync()
 
+    def puts(self, *pairs):
+        for path, value in pairs:
+            self.put(path, value)
+
+    def done(self, command):
+        """Of the console, and heard."""
+        self.do(command)
+        self.wait_for_log("console: " + command)
+
 
 class Lists(StoreTest):
     def test_each_list_answers_with_all_its_numbers_and_fields(self):
@@ -97,10 +106,8 @@ class Commands(StoreTest):
         self.assertEqual(names()[1], {**copied, 20: "OPENING"})
 
     def test_a_copy_is_at_home_in_its_new_region(self):
-        self.put(KEY_TYPE, "kept")
-        self.put("Snapshot@Snapshot@Store", "2,30,HERE")
-        self.put("Snapshot@Snapshot@Copy", "2,30,30,4,31,false")
-        self.put(KEY_TYPE, "new")
+        self.puts((KEY_TYPE, "kept"), ("Snapshot@Snapshot@Store", "2,30,HERE"),
+                  ("Snapshot@Snapshot@Copy", "2,30,30,4,31,false"), (KEY_TYPE, "new"))
         self.follow(KEY_TYPE, KEY_TYPE.replace("M/E-1", "M/E-2"))
         self.assertEqual(self.put("Snapshot@Snapshot@Recall", "4, 31"), [KEY_TYPE.replace("M/E-1", "M/E-2") + "#kept"])
 
@@ -108,15 +115,14 @@ class Commands(StoreTest):
         attribute = "Snapshot@Snapshot@Attribute@"
         puts = ((attribute + "Xpt Hold", "A1U2"), (attribute + "Effect Dissolve", "true"), (attribute + "Duration", "40"),
                 (attribute + "Auto Transition", "true"), (attribute + "GPI", "1"))
-        for path, value in puts:
-            self.put(path, f"2,1,2,{value}")  # the second is locked
+        self.puts(*((path, f"2,1,2,{value}") for path, value in puts))  # the second is locked
         self.put("Snapshot@Snapshot@Store", "2,1")
         rows = self.rows(SNAPSHOTS + "M/E-1@List")
         self.assertEqual(rows[1], ["1", "TWO SHOT", "S", "A1U2", "40", "40", "1"])
         self.assertEqual(rows[2], ["2", "WIDE", "L", "", "n", "n", "n"])
         self.put("Snapshot@Snapshot@UnLock", "2,1,2")
-        for path, value in ((puts[0][0], "false"), (puts[1][0], "false"), (puts[3][0], "false"), (puts[4][0], "null")):
-            self.put(path, f"2,1,2,{value}")
+        self.puts(*((attribute + name, "2,1,2," + value) for name, value in (
+            ("Xpt Hold", "false"), ("Effect Dissolve", "false"), ("Auto Transition", "false"), ("GPI", "null"))))
         self.assertEqual(self.rows(SNAPSHOTS + "M/E-1@List")[1], ["1", "TWO SHOT", "S", "", "n", "n", "n"])
 
     def test_what_another_panel_does_is_told_to_this_list_only(self):
@@ -135,8 +141,7 @@ class Commands(StoreTest):
                  ("delete snapshot 1-3 M/E-1", [f"{one}#{empty[0]}", f"{one}#2,,E,,n,n,n", f"{one}#{empty[1]}"]),
                  ("rename mastersnapshot 1 DAWN", [f"{master}#1,DAWN,S,U,1,1,,,,1" + "," * 24]))
         for command, told in cases:
-            self.do("panel " + command)
-            self.wait_for_log("console: panel " + command)
+            self.done("panel " + command)
             self.assertEqual(self.other.sync(), told, command)
 
     def test_a_master_is_edited_without_its_regions(self):
@@ -187,11 +192,9 @@ class Recall(StoreTest, StreamTest):
         for path in (KEY_TYPE, "M/E-1@Key2@Position", "M/E-2@Key1@Type@Key Type", other):
             self.text.send(f"put {path}#old")
         self.text.sync()
-        self.do("store snapshot M/E-1 20 KEPT")
-        self.wait_for_log("console: store snapshot")
+        self.done("store snapshot M/E-1 20 KEPT")
         self.follow(KEY_TYPE, "M/E-1@Key2@Position", "M/E-1@Late", "M/E-2@Key1@Type@Key Type", other)
-        for path in (KEY_TYPE, "M/E-1@Late", "M/E-2@Key1@Type@Key Type", other):
-            self.put(path, "new")
+        self.puts(*((path, "new") for path in (KEY_TYPE, "M/E-1@Late", "M/E-2@Key1@Type@Key Type", other)))
         told = self.put("Snapshot@Snapshot@Recall", "2, 20")
         self.assertEqual(sorted(told), sorted([f"{KEY_TYPE}#old", "M/E-1@Late#"]))
         self.assertEqual(self.put("Snapshot@Snapshot@Recall", "2, 21"), [])
@@ -205,12 +208,9 @@ class Recall(StoreTest, StreamTest):
                  ("RTR", "400000", "0081", [f"Router{xpt}Dest2@Level1", f"Router{xpt}Dest2@Level8"], [f"Router{xpt}Dest1@Level1"]),
                  ("DME1", "4000", "FvFkBvBk", [f"DME{xpt}Fv"], ["DME@Free"]))
         for region, mask, hold, held, free in cases:
-            for path in held + free:
-                self.put(path, "old")
-            self.put("Snapshot@Snapshot@Store", mask + ",60")
-            self.put("Snapshot@Snapshot@Attribute@Xpt Hold", f"{mask},60,60,{hold}")
-            for path in held + free:
-                self.put(path, "new")
+            self.puts(*((path, "old") for path in held + free), ("Snapshot@Snapshot@Store", mask + ",60"),
+                      ("Snapshot@Snapshot@Attribute@Xpt Hold", f"{mask},60,60,{hold}"),
+                      *((path, "new") for path in held + free))
             self.follow(*held, *free)
             self.assertEqual(sorted(self.put("Snapshot@Snapshot@Recall", mask + ", 60")),
                              sorted(path + "#old" for path in free), region)
@@ -218,27 +218,20 @@ class Recall(StoreTest, StreamTest):
     def test_a_key_brings_back_what_its_recall_mode_says(self):
         key = "M/E-1@Key4@"
         parts = key + "Edge@Free", key + "Transition@Free", key + "Type@Signal Select@Fill"
-        for path in parts:
-            self.put(path, "old")
-        self.put("Snapshot@Key Snapshot@Store", "8,1")
+        self.puts(*((path, "old") for path in parts), ("Snapshot@Key Snapshot@Store", "8,1"))
         self.follow(*parts)
         for mode in ("true,true,true", "true,false,false", "false,true,false", "false,false,true"):
-            self.put("Snapshot@Key Snapshot@Attribute@Recall Mode", "M/E-1@Key4," + mode)
-            for path in parts:
-                self.put(path, "new")
+            self.puts(("Snapshot@Key Snapshot@Attribute@Recall Mode", "M/E-1@Key4," + mode),
+                      *((path, "new") for path in parts))
             self.assertEqual(sorted(self.put("Snapshot@Key Snapshot@Recall", "8, 1")),
                              [path + "#old" for path, back in zip(parts, mode.split(",")) if back == "true"], mode)
 
     def test_a_dissolve_moves_numbers_in_the_temporary_duration(self):
         number, word = "M/E-1@Wipe@Main Pattern@Pattern", "M/E-1@Word"
-        for path, value in ((number, "100"), (word, "old")):
-            self.put(path, value)
-        self.put("Snapshot@Snapshot@Store", "2,70")
-        self.put("Snapshot@Snapshot@Attribute@Effect Dissolve", "2,70,70,true")
-        self.put("Snapshot@Snapshot@Attribute@Duration", "2,70,70,900")
-        self.put("Snapshot@Snapshot@Attribute@M/E-1@Temporary Duration", "6")
-        self.put(number, "10")
-        self.put(word, "new")
+        self.puts((number, "100"), (word, "old"), ("Snapshot@Snapshot@Store", "2,70"),
+                  ("Snapshot@Snapshot@Attribute@Effect Dissolve", "2,70,70,true"),
+                  ("Snapshot@Snapshot@Attribute@Duration", "2,70,70,900"),
+                  ("Snapshot@Snapshot@Attribute@M/E-1@Temporary Duration", "6"), (number, "10"), (word, "new"))
         self.follow(number, word)
         self.text.send("put Snapshot@Snapshot@Recall#2, 70")
         told = self.other.until(f"{number}#100")
@@ -254,11 +247,9 @@ class Recall(StoreTest, StreamTest):
 
     def test_an_auto_transition_follows_the_recall(self):
         preset = "M/E-1@Status@Xpt Assign@B"
-        self.put(preset, "CAM7")
-        self.put("Snapshot@Snapshot@Store", "2,71")
-        self.put("Snapshot@Snapshot@Attribute@Auto Transition", "2,71,71,true")
-        self.put("Snapshot@Snapshot@Attribute@Duration", "2,71,71,3")
-        self.put(preset, "CAM2")
+        self.puts((preset, "CAM7"), ("Snapshot@Snapshot@Store", "2,71"),
+                  ("Snapshot@Snapshot@Attribute@Auto Transition", "2,71,71,true"),
+                  ("Snapshot@Snapshot@Attribute@Duration", "2,71,71,3"), (preset, "CAM2"))
         self.follow(preset, "M/E-1@Status@Xpt Assign@A", "M/E-1@Misc@Transition@Auto Trans")
         self.text.send("put Snapshot@Snapshot@Recall#2, 71")
         self.assertEqual(self.other.until("M/E-1@Misc@Transition@Auto Trans#false"),
@@ -267,12 +258,10 @@ class Recall(StoreTest, StreamTest):
 
     def test_a_recall_ends_the_transition_that_is_under_way(self):
         on = "M/E-1@Key1@Status@Key ON"
-        self.put(on, "true")
-        self.put("Snapshot@Snapshot@Store", "2,72")
+        self.puts((on, "true"), ("Snapshot@Snapshot@Store", "2,72"))
         self.follow(on)
-        for path, value in (("M/E-1@Key1@Transition@ON Transition Rate", "6"), ("M/E-1@Key1@Transition@Auto Trans", "true"),
-                            ("Snapshot@Snapshot@Recall", "2, 72")):
-            self.put(path, value)
+        self.puts(("M/E-1@Key1@Transition@ON Transition Rate", "6"), ("M/E-1@Key1@Transition@Auto Trans", "true"),
+                  ("Snapshot@Snapshot@Recall", "2, 72"))
         time.sleep(0.4)
         self.assertEqual(self.other.sync(), [])
 
