@@ -272,8 +272,10 @@ TEST_F(FileLists, EveryListSaysItsCommandUnderItsTitle)
         EXPECT_EQ(pane ? pane->each.progress.lamp : ROUTE_LAMP_NONE,
                   c.has_lamp ? ROUTE_LAMP_CONTROL : ROUTE_LAMP_NONE)
             << c.command;
-        (void)Pane_Quit(QueueRoot->paneid);
-        File_XferList_RemoveAll(&list);
+        ended.clear();
+        Answer(list->label, "NG(no)");
+        EXPECT_EQ(ended, c.entry == File_ExecListDirList ? "" : "129 f0: NG(no);") << c.command;
+        ASSERT_EQ(list, nullptr);
     }
 }
 
