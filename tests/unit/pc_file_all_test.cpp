@@ -140,8 +140,7 @@ TEST_F(FileAllPage, ASaveClearsTheDirectoryAndTakesEveryRegisterOnce)
     Pass(10);
     EXPECT_EQ(Pane_GetActiveID(), 0);
     (void)Open(ALL_PAGE);
-    Pass(10);
-    Pass(10);
+    Paint();
     EXPECT_NE(Pane_GetActiveID(), 0);
     SendMessage(LMSG_PANEQUIT, Pane_GetActiveID(), 1, 0, 0); // cancelled before its turn came
     HubGoes();

@@ -33,8 +33,7 @@ struct FileIdCopyPage : ServerPage {
                             300 - 126 + 15 + 44 * (cell / 5) + 20);
         }
         (void)Touch(400 - 20, 300 - 126 + 252 - 40);
-        for (int i = 0; i < 30; i++)
-            Pass(10);
+        Paint();
         EXPECT_FALSE(Pane_Exist(pane));
         (void)TakeQueuedCommands();
     }

@@ -41,8 +41,7 @@ struct NewInstall : TablePage {
     static void Show()
     {
         (void)Open(0x73160010);
-        Pass(10);
-        Pass(10);
+        Paint();
     }
     static Strings Rows(int list, int columns)
     {
@@ -77,13 +76,11 @@ struct NewInstall : TablePage {
     static Lines Install()
     {
         (void)Press(INSTALL);
-        for (int i = 0; i < 3; i++)
-            Pass(100);
+        Paint();
         (void)TakeQueuedCommands();
         EXPECT_NE(Pane_GetActiveID(), 0);
         (void)Touch(200 + 97 + 5, 140 + 247 + 5);
-        for (int i = 0; i < 5; i++)
-            Pass(100);
+        Paint();
         EXPECT_EQ(Pane_GetActiveID(), 0);
         return TakeQueuedCommands();
     }
@@ -156,8 +153,7 @@ TEST_F(NewInstall, AnEmptyStickIsTold)
         CopyText(GL_ImportDataPath, path);
         Pass(200); // the key has come back up
         (void)Press(REFRESH);
-        Pass(10);
-        Pass(10);
+        Paint();
         EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << path;
         (void)CloseWindow();
     }

@@ -43,22 +43,17 @@ struct TexturePage : TablePage {
         Clock_ms += 500;
         Pass(10);
     }
-    static void Settle()
-    {
-        for (int i = 0; i < 3; i++)
-            Pass(200);
-    }
     static void Do(int key)
     {
         (void)Press(key);
-        Settle();
+        Paint();
     }
     // Whether a pane is up, which is then answered with its left button, or its only one.
     static bool Answer(int x = 200 + 97 + 5)
     {
         const bool is_up = Pane_GetActiveID() != 0;
         (void)Touch(x, 140 + 247 + 5);
-        Settle();
+        Paint();
         return is_up;
     }
     static bool Close() { return Answer(400); }
