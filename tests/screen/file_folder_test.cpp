@@ -1,19 +1,18 @@
 #include "a_ff_private.h"
 #include "a_fm.h"
 #include "fmctrl3.h"
-#include "table_page.h"
-#include "text.h"
+#include "server_page.h"
 #include <filesystem>
 
 namespace fs = std::filesystem;
 constexpr const char* FM_FOLDER = "/mnt/sys/FM/1/";
 
-struct FolderPictures : TablePage {
+struct FolderPictures : ServerPage {
     unsigned seed = 0; // of the next picture
 
     void SetUp() override
     {
-        TablePage::SetUp();
+        ServerPage::SetUp();
         DEV_MySwr[0] = &DEV_Swr[0];
         SYS_MySwrMax = 1;
         CopyText(DEV_Swr[0].id, "SWR000D001");
@@ -21,13 +20,8 @@ struct FolderPictures : TablePage {
     }
     void TearDown() override
     {
-        TablePage::TearDown();
+        ServerPage::TearDown();
         fs::remove_all(FM_FOLDER);
-    }
-    static void Hub(const std::string& table, const std::string& row)
-    {
-        SendMessage(MSG_SHPTALLY, Arg("Insert"), Arg(("CS1." + table).c_str()), 0,
-                    Arg(row.c_str()));
     }
     // A sky that grows lighter towards a ground, in colours of the clip's own: 112 x 63, 24 bit.
     static void Thumbnail(const std::string& file, unsigned seed)
@@ -48,17 +42,17 @@ struct FolderPictures : TablePage {
     void Clip(const std::string& name, int frames, int exist, int pair = 0)
     {
         Thumbnail("NEWS." + name + ".SFH" + (frames > 1 ? "#000000" : "") + ".THM", seed++ % 8);
-        Hub("ClipStoreFile", "root/NEWS/" + name + ".SFH:" + std::to_string(frames) + ", " +
-                                 std::to_string(pair) + ", 0, 3, 2026-11-25 09:20:00, " +
-                                 std::to_string(exist) + ", 1");
+        Hub("Insert", "CS1.ClipStoreFile",
+            "root/NEWS/" + name + ".SFH:" + std::to_string(frames) + ", " + std::to_string(pair) +
+                ", 0, 3, 2026-11-25 09:20:00, " + std::to_string(exist) + ", 1");
     }
 };
 
 TEST_F(FolderPictures, Browser)
 {
-    Hub("ClipStoreFolder", "root/NEWS:1");
-    Hub("ClipStoreFolder", "root/NEWS/ARCHIVE:1");
-    Hub("ClipStoreFolder", "root/NEWS/WEATHER:1");
+    Hub("Insert", "CS1.ClipStoreFolder", "root/NEWS:1");
+    Hub("Insert", "CS1.ClipStoreFolder", "root/NEWS/ARCHIVE:1");
+    Hub("Insert", "CS1.ClipStoreFolder", "root/NEWS/WEATHER:1");
     static const std::tuple<const char*, int, int, int> clips[] = {
         {"HEADLINE", 2, 3, 0}, {"LOGO KEY", 1, 3, 1},
         {"OPENING", 3, 1, 0},  {"OTS LEFT", 1, 1, 1},
@@ -84,8 +78,8 @@ TEST_F(FolderPictures, Browser)
 
 TEST_F(FolderPictures, OutputsPlaybackAndTwoFolders)
 {
-    Hub("ClipStoreFolder", "root/NEWS:1");
-    Hub("ClipStoreFolder", "root/SPORT:1");
+    Hub("Insert", "CS1.ClipStoreFolder", "root/NEWS:1");
+    Hub("Insert", "CS1.ClipStoreFolder", "root/SPORT:1");
     Clip("LOGO KEY", 1, 3, 1);
     Clip("OPENING", 100, 1);
     Clip("OTS LEFT", 1, 1);

@@ -2,17 +2,16 @@
 #include "fmctrl.h"
 #include "fmctrl3.h"
 #include "page_table/fmem_store.h"
-#include "table_page.h"
-#include "text.h"
+#include "server_page.h"
 #include <filesystem>
 
 namespace fs = std::filesystem;
 constexpr const char* LOCAL = "/mnt/sys/FrameMemory/";
 
-struct StorePictures : TablePage {
+struct StorePictures : ServerPage {
     void SetUp() override
     {
-        TablePage::SetUp();
+        ServerPage::SetUp();
         FMCtrl_Quit();
         FMCtrl_InitClipStillList();
         Fmem1_Reset();
@@ -23,7 +22,7 @@ struct StorePictures : TablePage {
         (void)Leave();
         FMCtrl_Quit();
         fs::remove_all(LOCAL);
-        TablePage::TearDown();
+        ServerPage::TearDown();
     }
     // A sun over a ground, further on with each frame.
     static void Picture(int number, int frame)
@@ -38,10 +37,6 @@ struct StorePictures : TablePage {
         PrintText(name, "FM_%04d.BMP", number);
         SDL_SaveBMP(s, (std::string(LOCAL) + name).c_str());
         FmemReg[number - 1].thumb = s; // small or not: the page asks for the file's
-    }
-    static void Hub(const char* table, const std::string& row)
-    {
-        SendMessage(MSG_SHPTALLY, Arg("Insert"), Arg(table), 0, Arg(row.c_str()));
     }
 };
 
@@ -72,9 +67,9 @@ TEST_F(StorePictures, AClipAndItsFrame)
 TEST_F(StorePictures, ClipsOfAFolderForExport)
 {
     for (const char* folder : {"NEWS", "NEWS/MORNING", "NEWS/SPORT"})
-        Hub("CS1.ClipStoreFolder", std::string("root/") + folder + ":1");
-    Hub("CS1.ClipStoreFile", "root/NEWS/OPENING.SFH:100,1,0,3,2026-01-31 23:59:00,1,0");
-    Hub("CS1.ClipStoreFile", "root/NEWS/STATION.SFH:1,0,0,3,2026-01-31 23:59:00,1,0");
+        Hub("Insert", "CS1.ClipStoreFolder", std::string("root/") + folder + ":1");
+    Hub("Insert", "CS1.ClipStoreFile", "root/NEWS/OPENING.SFH:100,1,0,3,2026-01-31 23:59:00,1,0");
+    Hub("Insert", "CS1.ClipStoreFile", "root/NEWS/STATION.SFH:1,0,0,3,2026-01-31 23:59:00,1,0");
     (void)Open(0x71620000);
     (void)FL_ChangeDirectory(FL_L_LIST, "/NEWS");
     Pass(200);

@@ -1,23 +1,22 @@
 #include "install_stick.h"
-#include "table_page.h"
+#include "server_page.h"
 #include "texture_stick.h"
 
-struct InstallPictures : TablePage {
+struct InstallPictures : ServerPage {
     std::unique_ptr<InstallStick> stick;
 
     void SetUp() override
     {
-        TablePage::SetUp();
+        ServerPage::SetUp();
         stick = std::make_unique<InstallStick>();
         CopyText(GL_ImportDataPath, STICK "/usb/");
     }
     void TearDown() override
     {
         (void)Leave();
-        CopyText(GL_ImportDataPath, "");
         CopyText(GL_Version, "--");
         stick.reset();
-        TablePage::TearDown();
+        ServerPage::TearDown();
     }
 };
 

@@ -1,15 +1,14 @@
 #include "install_stick.h"
-#include "pane.h"
 #include "pc_install.h"
-#include "table_page.h"
+#include "server_page.h"
 
-struct NewInstall : TablePage {
+struct NewInstall : ServerPage {
     static constexpr int REFRESH = 49, INSTALL = 50, UNITS = 1, PACKAGES = 2, OFFER = 3, RESULT = 4;
     std::unique_ptr<InstallStick> stick;
 
     void SetUp() override
     {
-        TablePage::SetUp();
+        ServerPage::SetUp();
         stick = std::make_unique<InstallStick>();
         (void)!::system("rm -rf /var/tmp/version1; mkdir -p /var/tmp/version1");
         CopyText(GL_ImportDataPath, STICK "/usb/");
@@ -21,10 +20,9 @@ struct NewInstall : TablePage {
     }
     void TearDown() override
     {
-        CopyText(GL_ImportDataPath, "");
         CopyText(GL_Version, "--");
         stick.reset();
-        TablePage::TearDown();
+        ServerPage::TearDown();
     }
     static void Unit(const std::string& file, const std::string& line)
     {

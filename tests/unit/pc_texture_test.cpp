@@ -1,16 +1,14 @@
-#include "pane.h"
-#include "table_page.h"
-#include "text.h"
+#include "server_page.h"
 #include "texture_stick.h"
 
-struct TexturePage : TablePage {
+struct TexturePage : ServerPage {
     static constexpr int ADD = 36, REMOVE = 37, REFRESH = 38, LOAD = 52, SAVE = 53;
     static constexpr int BITMAPS = 1, PATTERNS = 2;
     std::unique_ptr<TextureStick> stick;
 
     void SetUp() override
     {
-        TablePage::SetUp();
+        ServerPage::SetUp();
         stick = std::make_unique<TextureStick>();
         CopyText(GL_ImportDataPath, TEXTURE_STICK);
         TextureStick::Put("WOOD.bmp", 8, 4);
@@ -25,9 +23,8 @@ struct TexturePage : TablePage {
     void TearDown() override
     {
         (void)Leave();
-        CopyText(GL_ImportDataPath, "");
         stick.reset();
-        TablePage::TearDown();
+        ServerPage::TearDown();
     }
     static Strings Rows(int list)
     {
