@@ -1,43 +1,16 @@
 #include "install_stick.h"
-#include "server_page.h"
 #include "texture_stick.h"
 
-struct InstallPictures : ServerPage {
-    std::unique_ptr<InstallStick> stick;
-
-    void SetUp() override
-    {
-        ServerPage::SetUp();
-        stick = std::make_unique<InstallStick>();
-        CopyText(GL_ImportDataPath, STICK "/usb/");
-    }
-    void TearDown() override
-    {
-        (void)Leave();
-        CopyText(GL_Version, "--");
-        stick.reset();
-        ServerPage::TearDown();
-    }
-};
+using InstallPictures = InstallPage;
 
 TEST_F(InstallPictures, NewInstall)
 {
-    static const struct {
-        std::string title, version, target;
-    } packages[] = {
-        {"KTR40G Upgrade", "5.10 (Nov.02.2026)", "SWR"},
-        {"KTR40G Full", "5.10 (Nov.02.2026)", "SWR"},
-        {"KTR40X Upgrade", "6.00", "SWR"},
-        {"Menu Upgrade", "5.11", "MENU"},
-        {"FXU50 Upgrade", "2.02", "DME"},
-    };
-    for (const auto& [title, version, target] : packages)
-        InstallStick::Put("usb/" + title + "/install.cfg", "TITLE " + title + "\nVERSION " +
-                                                               version + "\nTARGET " + target +
-                                                               "\nEXEC step\n");
-    (void)!::system("mkdir -p /var/tmp/version1; "
-                    "echo 'X: Version 5.09 (Mar.01.2026)' >/var/tmp/version1/SWR010100");
-    CopyText(GL_Version, "5.10");
+    Package("KTR40G Upgrade", "5.10 (Nov.02.2026)", "SWR");
+    Package("KTR40G Full", "5.10 (Nov.02.2026)", "SWR");
+    Package("KTR40X Upgrade", "6.00", "SWR");
+    Package("Menu Upgrade", "5.11", "MENU");
+    Package("FXU50 Upgrade", "2.02", "DME");
+    Unit("SWR010100", "X: Version 5.09 (Mar.01.2026)\n");
     DEV_Swr[0].type = DEVTYPE_KTR40G;
     DEV_Dme[0].type = DEVTYPE_FXU50;
     DeviceStructure();

@@ -5,6 +5,7 @@
 #include "harness.h"
 #include "install.h"
 #include "log.h"
+#include "server_page.h"
 #include "text.h"
 #include "version.h"
 #include "window.h"
@@ -91,5 +92,40 @@ exit "$s"
         for (std::string line; std::getline(file, line);)
             lines.push_back(line.substr(line.find("] ") + 2));
         return lines;
+    }
+};
+
+// The pages of Install/Unit Config with the stick, and what the units say that they run.
+struct InstallPage : ServerPage {
+    std::unique_ptr<InstallStick> stick;
+
+    void SetUp() override
+    {
+        ServerPage::SetUp();
+        stick = std::make_unique<InstallStick>();
+        std::filesystem::remove_all("/var/tmp/version1");
+        CopyText(GL_ImportDataPath, STICK "/usb/");
+        CopyText(GL_Version, "5.10");
+    }
+    void TearDown() override
+    {
+        (void)Leave();
+        CopyText(GL_Version, "--");
+        stick.reset();
+        ServerPage::TearDown();
+    }
+    static void Unit(const std::string& file, const std::string& line)
+    {
+        std::filesystem::create_directories("/var/tmp/version1");
+        std::ofstream("/var/tmp/version1/" + file) << line;
+    }
+    // A title and a version for a kind of unit, and one step.
+    static void Package(const std::string& title, const std::string& version,
+                        const std::string& target, const std::string& step = "EXEC step")
+    {
+        static int n = 0;
+        InstallStick::Put("usb/p" + std::to_string(++n) + "/install.cfg",
+                          "TITLE\t" + title + "\nVERSION " + version + "\nTARGET " + target + "\n" +
+                              step + " " + target + version + "\n");
     }
 };

@@ -1,40 +1,16 @@
 #include "install_stick.h"
 #include "pc_install.h"
-#include "server_page.h"
 
-struct NewInstall : ServerPage {
+struct NewInstall : InstallPage {
     static constexpr int REFRESH = 49, INSTALL = 50, UNITS = 1, PACKAGES = 2, OFFER = 3, RESULT = 4;
-    std::unique_ptr<InstallStick> stick;
 
     void SetUp() override
     {
-        ServerPage::SetUp();
-        stick = std::make_unique<InstallStick>();
-        (void)!::system("rm -rf /var/tmp/version1; mkdir -p /var/tmp/version1");
-        CopyText(GL_ImportDataPath, STICK "/usb/");
-        CopyText(GL_Version, "5.10");
+        InstallPage::SetUp();
         DEV_Swr[0].type = DEVTYPE_KTR40GSF;
         DeviceStructure();
         Unit("SWR010100", "SWR: Version 5.9#3 (Mar.01.2013)\n");
         Log_Init("/var/log2/install.log", LOG_FILE_SIZE);
-    }
-    void TearDown() override
-    {
-        CopyText(GL_Version, "--");
-        stick.reset();
-        ServerPage::TearDown();
-    }
-    static void Unit(const std::string& file, const std::string& line)
-    {
-        std::ofstream("/var/tmp/version1/" + file) << line;
-    }
-    static void Package(const std::string& title, const std::string& version,
-                        const std::string& target, const std::string& step = "EXEC step")
-    {
-        static int n = 0;
-        InstallStick::Put("usb/p" + std::to_string(++n) + "/install.cfg",
-                          "TITLE\t" + title + "\nVERSION " + version + "\nTARGET " + target + "\n" +
-                              step + " " + target + version + "\n");
     }
     static void Show()
     {
