@@ -17,8 +17,6 @@ struct FrameMemoryLists : FrameMemory {
     }
 };
 
-using FrameMemoryFolders = FrameMemoryLists;
-
 TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammar)
 {
     static const std::tuple<const char*, const char*, const char*> cases[] = {
@@ -273,7 +271,7 @@ TEST_F(FrameMemoryLists, FollowAStormAsAPlainRecountWould)
     }
 }
 
-TEST_F(FrameMemoryFolders, NamesAreSortedTheUnusedLast)
+TEST_F(FrameMemoryLists, FoldersAreSortedTheUnusedLastAndTheirStatusMovesStillsAndClips)
 {
     (void)Tell(STATUS + "Folder Name Sense", "0,Default.,1,news,2,,3,Zoo,11,art");
     Strings names;
@@ -290,10 +288,8 @@ TEST_F(FrameMemoryFolders, NamesAreSortedTheUnusedLast)
     (void)Tell(STATUS + "Folder Name Sense", "1,a name too long,99,x,3,Zebra");
     EXPECT_STREQ(FMCtrl_GetFolder(2)->name, "a name t");
     EXPECT_FALSE(FMCtrl_ExistFolderName("Zebra"));
-}
 
-TEST_F(FrameMemoryFolders, FolderStatusMovesStillsAndClips)
-{
+    Max(300);
     Store({"Mlogo", "Mabc0001", "Mabc0002"});
     (void)Tell(STATUS + "Folder Name Sense", "11,art");
     (void)Changes();

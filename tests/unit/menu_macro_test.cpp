@@ -237,7 +237,7 @@ TEST_F(MenuMacro, AFileIsWrittenAsItIsReadAlsoBeforeTheStartHasReadIt)
     EXPECT_THAT(File(10), HasSubstr("Header:OPENING,0,1\n"));
 }
 
-TEST_F(MenuMacro, AStrangeFileHarmsNothing)
+TEST_F(MenuMacro, AStrangeFileHarmsNothingAndATransferCopyBecomesTheRegisterOfItsName)
 {
     static const std::tuple<const char*, const char*, int, int> cases[] = {
         {"", "MMCR3", 0, 0},
@@ -263,10 +263,7 @@ TEST_F(MenuMacro, AStrangeFileHarmsNothing)
     EXPECT_EQ(reg_data[2].register_protcol_max, MENU_MACRO_LINES);
     EXPECT_EQ(mm_macro_file_load(98), -1);
     EXPECT_EQ(mm_macro_file_load(99), -1);
-}
 
-TEST_F(MenuMacro, ATransferCopyBecomesTheRegisterUnderItsNameOnTheDrive)
-{
     const char* const tmp = "MYHOST:/var/tmp/MenuMacro/mm_reg05.tmp";
     const char* const src = "MYHOST:/mnt/data/root/SYSTEM/MENUMACRO/CTRLCPU/SHOW.GUI_0004.MMR";
     Write(TRANSFER, 5, "Header:OLD,0,1\nEvent:put A#1\n");

@@ -244,17 +244,54 @@ TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollowAndIsOneWhenThatGoe
     EXPECT_EQ(Stored(), HEAD + CUT_ME1 + aux);
 }
 
-TEST_F(MacroOfflinePage, ALineThatIsNotCompleteIsNotStored)
+TEST_F(MacroOfflinePage, TheParametersMoveBelowTheFocus)
 {
+    OpenWith("Event?,NextTransition,ME?,P/P,All?,On,Key1?,On,Key2?,Off,Key8?,On\n");
+    EXPECT_EQ(Events(), "Event 1 NextTransition P/P On - -");
+    (void)Key(BTN_MACRO_GROUP_7); // "Key 1/2"
+    EXPECT_EQ(Events(), "Event 1 NextTransition On Off - -");
+    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT);
+    (void)Key(BTN_MACRO_GROUP_7); // the second of the two
+    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT + 1);
+    Choose({"On"});
+    EXPECT_EQ(BT_GetStatus(BTN_MACRO_GROUP_7 + 1), BT_ON) << "on to key 3, which has no value";
+    (void)Key(BTN_MACRO_GROUP_7 + 3);
+    (void)Key(BTN_MACRO_GROUP_7 + 3);
+    EXPECT_EQ(Events(), "Event 1 NextTransition - - - On");
+    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT + 3);
+}
+
+TEST_F(MacroOfflinePage, AStoreGoesToItsRegisterUnlessALineIsNotComplete)
+{
+    TellAll("Macro@Register@List#", {"5,S,NEWS,U,0,0", "6,S,NEWS,L,0,0"});
+    const std::tuple<int, bool, std::string> cases[] = {
+        {3, false, HEAD},
+        {4, false, "PNL 0001PNL_0004.PMRMCRO4\n"},
+        {5, true, "PNL 0001PNL_0005.PMRMCRO5\n"},
+        {6, false, HEAD}, // locked
+    };
+    for (const auto& [target, asks, head] : cases) {
+        OpenWith(CUT);
+        SendMessage(LMSG_KNOBVAR, NB_MACRO_REGISTER, target, 1, 0);
+        (void)Key(BTN_MACRO_STORE);
+        EXPECT_EQ(GetWindow() == WINDOW_MESSAGE, asks) << target;
+        if (asks)
+            (void)Confirm();
+        EXPECT_EQ(FileText(MACRO_EDIT_FILE), head + CUT) << target;
+        EXPECT_EQ(MacroOffLine_StoreModel == STOREMODEL_LOCKED, target == 6);
+        EXPECT_EQ(Pane_GetActiveID() != 0, target != 6) << "a job is under way";
+    }
+
     const std::string next = "Event?,NextTransition,ME?,", bkgd = next + "M/E-1,BKGD?,On\n";
-    const std::tuple<std::string, Lines, bool, int> cases[] = {
+    GL_MacroEditNo = 3;
+    const std::tuple<std::string, Lines, bool, int> lines[] = {
         // what is chosen in it, by leaving, the column that gets the cursor; 0: it is stored
         {bkgd, {}, false, 0}, // as a panel has recorded it
         {bkgd, {}, true, MACRO_COL_SLOT + 1},
         {bkgd, {"P/P"}, false, MACRO_COL_SLOT + 1},
         {"#?\n", {}, true, MACRO_COL_SLOT},
     };
-    for (const auto& [line, choice, is_leaving, column] : cases) {
+    for (const auto& [line, choice, is_leaving, column] : lines) {
         OpenWith(CUT + line);
         At(1, MACRO_COL_SLOT, choice);
         At(0, MACRO_COL_SLOT, {"M/E-1"});
@@ -276,45 +313,6 @@ TEST_F(MacroOfflinePage, ALineThatIsNotCompleteIsNotStored)
     OpenWith(CUT);
     (void)Key(BTN_MACRO_INSERT_BEFORE);
     EXPECT_EQ(Stored(), HEAD + CUT);
-}
-
-TEST_F(MacroOfflinePage, TheParametersMoveBelowTheFocus)
-{
-    OpenWith("Event?,NextTransition,ME?,P/P,All?,On,Key1?,On,Key2?,Off,Key8?,On\n");
-    EXPECT_EQ(Events(), "Event 1 NextTransition P/P On - -");
-    (void)Key(BTN_MACRO_GROUP_7); // "Key 1/2"
-    EXPECT_EQ(Events(), "Event 1 NextTransition On Off - -");
-    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT);
-    (void)Key(BTN_MACRO_GROUP_7); // the second of the two
-    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT + 1);
-    Choose({"On"});
-    EXPECT_EQ(BT_GetStatus(BTN_MACRO_GROUP_7 + 1), BT_ON) << "on to key 3, which has no value";
-    (void)Key(BTN_MACRO_GROUP_7 + 3);
-    (void)Key(BTN_MACRO_GROUP_7 + 3);
-    EXPECT_EQ(Events(), "Event 1 NextTransition - - - On");
-    EXPECT_EQ(LS_GetSplitSel(LIST_MACRO_EVENTS), MACRO_COL_SLOT + 3);
-}
-
-TEST_F(MacroOfflinePage, AStoreGoesToItsRegister)
-{
-    TellAll("Macro@Register@List#", {"5,S,NEWS,U,0,0", "6,S,NEWS,L,0,0"});
-    const std::tuple<int, bool, std::string> cases[] = {
-        {3, false, HEAD},
-        {4, false, "PNL 0001PNL_0004.PMRMCRO4\n"},
-        {5, true, "PNL 0001PNL_0005.PMRMCRO5\n"},
-        {6, false, HEAD}, // locked
-    };
-    for (const auto& [target, asks, head] : cases) {
-        OpenWith(CUT);
-        SendMessage(LMSG_KNOBVAR, NB_MACRO_REGISTER, target, 1, 0);
-        (void)Key(BTN_MACRO_STORE);
-        EXPECT_EQ(GetWindow() == WINDOW_MESSAGE, asks) << target;
-        if (asks)
-            (void)Confirm();
-        EXPECT_EQ(FileText(MACRO_EDIT_FILE), head + CUT) << target;
-        EXPECT_EQ(MacroOffLine_StoreModel == STOREMODEL_LOCKED, target == 6);
-        EXPECT_EQ(Pane_GetActiveID() != 0, target != 6) << "a job is under way";
-    }
 }
 
 TEST_F(MacroOfflinePage, AChangeIsNotLostByLeavingOrBuildingThePageAnew)
@@ -388,7 +386,7 @@ TEST_F(MacroOfflinePage, AStoreGoesOnWithoutItsPageAndKeepsTheListWhenItFails)
     EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
 }
 
-TEST_F(MacroAttachPage, EntriesAreShownInWordsAndInTheOrderOfThePanels)
+TEST_F(MacroAttachPage, EntriesAreShownInTheOrderOfThePanelsAndAreNotClearedUnasked)
 {
     static const std::pair<const char*, const char*> cases[] = {
         // block, buttons, mode, register, pair
@@ -444,20 +442,17 @@ TEST_F(MacroAttachPage, EntriesAreShownInWordsAndInTheOrderOfThePanels)
     EXPECT_EQ(LS_GetNData(1), 0);
     EXPECT_EQ(Usable({BTN_ATTACH_BLOCK, BTN_ATTACH_DELETE, BTN_ATTACH_ALL_CLEAR}),
               std::vector<int>{});
-}
 
-TEST_F(MacroAttachPage, WhatClearsDataAsksFirst)
-{
     OpenWith({"1,7,2,0,12,0,0", "8,9,1,0,12,3,4"});
     (void)Tell("Macro@Attachment@Xpt Attachment Mode#Button Mode");
     EXPECT_EQ(BT_GetStatus(BTN_ATTACH_BUTTON_MODE), BT_ON);
-    static const std::pair<int, const char*> cases[] = {
+    static const std::pair<int, const char*> keys[] = {
         {BTN_ATTACH_DELETE, "put Macro@Attachment@Delete#8,9,1,0,12,3,4,1,2,3,4,5,6"},
         {BTN_ATTACH_ALL_CLEAR, "put Macro@Attachment@All Clear#true"},
         {BTN_ATTACH_PAIR_MODE, "put Macro@Attachment@Xpt Attachment Mode#Pair Mode"},
         {BTN_ATTACH_BUTTON_MODE, nullptr}, // nothing is asked
     };
-    for (const auto& [key, command] : cases) {
+    for (const auto& [key, command] : keys) {
         Cursor(1, 1);
         EXPECT_THAT(Puts(key), IsEmpty());
         EXPECT_EQ(GetWindow() != WINDOW_NONE, command != nullptr) << key;

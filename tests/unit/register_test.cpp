@@ -204,7 +204,7 @@ static Strings Sent(void (*send)())
     return TakeQueuedCommands();
 }
 
-TEST_F(Registers, ListsAreSubscribedInOrderAndSubSidesApart)
+TEST_F(Registers, ListsAreSubscribedInOrderAndThoseOfAReturningEffectsUnitReadAgain)
 {
     const Strings main = Sent(Register_InitCommand);
     // 37 effects, 23 snapshots, six banks twice, 48 keys, 20 clip lists, four single ones.
@@ -221,10 +221,7 @@ TEST_F(Registers, ListsAreSubscribedInOrderAndSubSidesApart)
     for (std::string& line : added)
         line.replace(0, 3, "remove");
     EXPECT_THAT(Sent(Register_DeathCommand), testing::UnorderedElementsAreArray(added));
-}
 
-TEST_F(Registers, AReturningEffectsUnitIsReadAgain)
-{
     Deliver(EFFECT + "DME1", "5,D,old,L,N,0");
     Deliver(EFFECT + "DME8", "205,D,old,L,N,0");
     Deliver(SNAPSHOT + "DME8@List", "5,old,L,,,,");
