@@ -95,14 +95,13 @@ class Macros(DeskCase):
         before = desk.part(100, 122, 650, 270)
         desk.console("attach " + entry)
         time.sleep(0.5)
-        after = desk.part(100, 122, 650, 270)
-        self.assertNotEqual(after, before)
+        self.assertNotEqual(desk.part(100, 122, 650, 270), before)
         desk.touch(300, 111 + 22 * 4)  # in the panels' order behind M/E-1 XPT
         desk.wire()
         self.touch(grid(53), YES, puts="put Macro@Attachment@Delete#" + entry)
         time.sleep(0.5)
-        self.touch(grid(52), YES)  # pair mode: the crosspoint buttons lose theirs
-        desk.wait_wire("put Macro@Attachment@Xpt Attachment Mode#Pair Mode")
+        # In pair mode the crosspoint buttons lose theirs.
+        self.touch(grid(52), YES, puts="put Macro@Attachment@Xpt Attachment Mode#Pair Mode")
         self.touch(grid(54), YES, puts="put Macro@Attachment@All Clear#true")
         time.sleep(0.5)
         self.assertEqual(len(set(desk.part(110, 125, 120, 138))), 1)  # nothing in the first row
@@ -112,16 +111,14 @@ class Macros(DeskCase):
         self.open(5412)
         self.touch(REGISTERS)  # register 1
         desk.wire()
-        desk.touch(*ONLINE)
-        desk.wait_wire(edit + "Current Work Register Event Data#1", 5)
+        self.touch(ONLINE, puts=edit + "Current Work Register Event Data#1")
         for event, key, command in (("Stop,Device,Dev1", 52, "Insert#1,1"), ("MECut,ME,M/E-2", 53, "Modify#2,0,1"),
                                     ("", 54, "Delete#2,0,1")):
             if event:
                 desk.console("macro operate " + event)
                 time.sleep(0.4)
             desk.wire()
-            desk.touch(*grid(key))
-            desk.wait_wire(edit + command, 5)
+            self.touch(grid(key), puts=edit + command)
             time.sleep(0.5)
 
     def test_5_the_online_editor_goes_on_when_the_server_is_back(self):
@@ -137,8 +134,7 @@ class Macros(DeskCase):
         time.sleep(2)
         desk.console("macro operate Stop,Device,Dev1")
         time.sleep(0.4)
-        desk.touch(*grid(52))
-        desk.wait_wire(edit + "Insert#1,1", 5)
+        self.touch(grid(52), puts=edit + "Insert#1,1")
 
     def test_6_every_kind_of_event_goes_through_the_offline_editor_and_runs(self):
         desk = self.desk
@@ -150,8 +146,7 @@ class Macros(DeskCase):
         before = [line for line in self.content().decode().splitlines() if not line.startswith("Event?,Pause")]
         self.assertEqual([line.replace("?", "") for line in before[1:]], ["Event," + e for e in EVERY_EVENT if "Pause" not in e])
         self.touch(DELETE, BEFORE)  # the first one; it comes again with another source
-        self.value(0)
-        for row in (0, 0):  # M/E-1, BkgdA
+        for row in (0, 0, 0):  # the symbol, M/E-1, BkgdA
             self.value(row)
         self.touch(DELETE)
         desk.console("ng next 1 Disk")

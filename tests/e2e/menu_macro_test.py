@@ -31,9 +31,8 @@ class MenuMacro(DeskCase):
     def test_01_record_and_store(self):
         time.sleep(3)  # the initial read ends with a pause in which nothing is touched
         self.open("5431")
-        self.desk.touch(*grid(54))
-        for key in ("Auto Insert", "Pause Auto Insert"):
-            self.desk.touch(*EDITOR_KEYS[key])
+        self.touch(grid(54))
+        self.touch(EDITOR_KEYS["Auto Insert"], EDITOR_KEYS["Pause Auto Insert"])
         self.open("1111")
         for n in range(20):
             if n == 10:
@@ -42,9 +41,8 @@ class MenuMacro(DeskCase):
         type(self).touches = self.key_types()
         self.assertEqual(len(self.touches), 20)
         self.open("7144.102")
-        self.desk.touch(*EDITOR_KEYS["Delete"])  # the cursor stands at the last event
-        self.desk.touch(*EDITOR_KEYS["Store"])
-        self.desk.touch(*EDITOR_KEYS["Exit"])
+        # The cursor stands at the last event.
+        self.touch(EDITOR_KEYS["Delete"], EDITOR_KEYS["Store"], EDITOR_KEYS["Exit"])
         with open(self.path("mnt/data/Menu_Macro_tmp/mm_reg01.tmp"), encoding="ascii") as file:
             text = file.read()
         self.assertEqual(text.count("\nEvent:put "), 19)
@@ -105,19 +103,15 @@ class MenuMacro(DeskCase):
         with open(register, encoding="ascii") as file:
             text = file.read()
         self.open("7144")
-        for place in (left, to_right):
-            self.desk.touch(*place)
+        self.touch(left, to_right)
         self.assertEqual(self.text_of(drive), text)
         time.sleep(2)
         self.open("5436")
-        self.desk.touch(300, 111)
-        self.desk.touch(*grid(49))
-        self.desk.touch(341, 414)  # Yes
+        self.touch((300, 111), grid(49), (341, 414))  # Yes
         self.assertFalse(os.path.exists(register))
         os.rmdir(self.path("var/tmp/MenuMacro"))  # empty, and gone as after a start
         self.open("7144")
-        for place in (right, left, to_left):
-            self.desk.touch(*place)
+        self.touch(right, left, to_left)
         self.assertEqual(self.text_of(register), text)
 
     def text_of(self, path):

@@ -90,8 +90,7 @@ class Registers(DeskCase):
     def test_1_two_banks_come_back_but_for_the_key_under_hold(self):
         self.set_all("Linear")
         self.open(6321).press(REGION)
-        self.desk.touch(240, 208)  # M/E-2 beside M/E-1: now the reference
-        self.desk.touch(*ENTER)
+        self.touch((240, 208), ENTER)  # M/E-2 beside M/E-1: now the reference
         self.row(4)
         self.press(51, SNAPSHOTS + "Store#6,4")
         self.press(37)  # to the crosspoint hold
@@ -228,8 +227,7 @@ class Registers(DeskCase):
         event, output = SNAPSHOTS + "Clip Event@User1@FM1@AutoPlay#1,", "Frame Mem 2@Clip/Still@Output Status@FM1"
         self.desk.console("clip make BREAK 75")
         self.open(6321).press(REGION)
-        self.desk.touch(176, 253)  # User1: the reference now
-        self.desk.touch(*ENTER)
+        self.touch((176, 253), ENTER)  # User1: the reference now
         self.row(1)
         for on, shows in (("OFF", "0,"), ("ON", "2,/BREAK.SFH")):
             self.press(38)  # to its clips

@@ -124,8 +124,8 @@ class Requests(ClipTest):
 class Outputs(ClipTest):
     HEAD = "Frame Mem 2@Clip/Still@"
 
-    def put(self, line):
-        self.panel.send("put " + self.HEAD + line)
+    def put(self, *lines):
+        self.panel.send(*("put " + self.HEAD + line for line in lines))
 
     def frames(self, output, count):
         """State and frame of the next tallies of an output."""
@@ -143,16 +143,13 @@ class Outputs(ClipTest):
         self.put("Play@FM3#0,0,0,0")
         self.assertEqual(self.frames("FM3", 4), [(1, 1), (1, 2), (1, 3), (0, 3)])
         for mode, wanted in ((1, [1, 2, 3, 1, 2, 3]), (2, [1, 2, 3, 2, 1, 2])):
-            self.put("Play@Jump Frame@FM3#0,0")
-            self.put(f"Play@Play Mode@FM3#0,{mode}")
-            self.put("Play@FM3#0,0,0,0")
+            self.put("Play@Jump Frame@FM3#0,0", f"Play@Play Mode@FM3#0,{mode}", "Play@FM3#0,0,0,0")
             frames = [frame for state, frame in self.frames("FM3", 9) if state == 1]
             self.assertIn(",".join(map(str, wanted)), ",".join(map(str, frames)))
             self.put("Play@FM3#0,1,0,0")
             while self.frames("FM3", 1)[0][0]:
                 pass
-        self.put("Recall@FM3#0,0,0,0,NONE.SFH")
-        self.put("Record@Through@FM3#0,1")
+        self.put("Recall@FM3#0,0,0,0,NONE.SFH", "Record@Through@FM3#0,1")
         self.panel.until(f"{self.HEAD}Output Status@FM3#1,")
 
     def test_a_snapshot_of_a_user_plays_its_clips(self):
@@ -174,8 +171,7 @@ class Outputs(ClipTest):
         self.panel.until(f"{self.HEAD}Record@PROC1#1,0,5,2")
         self.panel.until(f"{self.HEAD}Output Status@FM2#2,/LOGOS/take1.SFH")
         self.assertEqual(self.rows(FILES)["LOGOS/take1.SFH"].split(",")[0], "5")
-        self.put("Record@FM99#1,0,5,1")
-        self.put("Recall@FM2#x")
+        self.put("Record@FM99#1,0,5,1", "Recall@FM2#x")
         self.panel.sync()
 
 

@@ -342,7 +342,7 @@ struct RegionPage : KeyframePage {
     }
 };
 
-TEST_F(RegionPage, EntryAndExitTellThePanel)
+TEST_F(RegionPage, EntryAndExitTellThePanelAndTheLampsFollowTheSelection)
 {
     constexpr char pcx[] = "put Engineering Setup@Panel@Config@10 Key Region Assign@Pcx#40";
     CreatePage(PAGE_TOP);
@@ -352,6 +352,19 @@ TEST_F(RegionPage, EntryAndExitTellThePanel)
     EXPECT_THAT(sent, Contains(pcx));
     for (const char* n : {"1", "23"})
         EXPECT_THAT(sent, Contains("read " + TENKEY + n));
+
+    const auto lamps = [](int slot) {
+        Pass(10);
+        const int x = 456 + 61 * slot;
+        return std::array{PixelsIn({x, 120, x + 50, 170}), PixelsIn({x, 210, x + 50, 260})};
+    };
+    TenKey(1, "M/E-1,DME1,,");
+    const auto first = lamps(0), second = lamps(1);
+    kf::Select({16, 0x02, 0, 0x01, 0, 0, 0, 0}); // DME1, the reference, comes to M/E-1
+    EXPECT_NE(lamps(0)[0], first[0]);
+    EXPECT_EQ(lamps(0)[1], first[1]);
+    EXPECT_NE(lamps(1)[0], second[0]);
+    EXPECT_NE(lamps(1)[1], second[1]);
 }
 
 TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKeyThatRubbishDoesNotChange)
@@ -377,22 +390,6 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKeyThatRubbishDoesNotChange)
         TenKey(1, regions);
         EXPECT_THAT(Selection(), IsEmpty()) << regions;
     }
-}
-
-TEST_F(RegionPage, TheLampsFollowTheSelection)
-{
-    const auto lamps = [](int slot) {
-        Pass(10);
-        const int x = 456 + 61 * slot;
-        return std::array{PixelsIn({x, 120, x + 50, 170}), PixelsIn({x, 210, x + 50, 260})};
-    };
-    TenKey(1, "M/E-1,DME1,,");
-    const auto first = lamps(0), second = lamps(1);
-    kf::Select({16, 0x02, 0, 0x01, 0, 0, 0, 0}); // DME1, the reference, comes to M/E-1
-    EXPECT_NE(lamps(0)[0], first[0]);
-    EXPECT_EQ(lamps(0)[1], first[1]);
-    EXPECT_NE(lamps(1)[0], second[0]);
-    EXPECT_NE(lamps(1)[1], second[1]);
 }
 
 TEST_F(RegionPage, WhatTheModeTakesAwayOrALockHoldsTakesNoPress)

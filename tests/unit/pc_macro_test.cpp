@@ -174,7 +174,7 @@ TEST_F(MacroPages, AListShowsWhatTheServerToldAndEveryKeySendsItsCommand)
     EXPECT_EQ(LS_GetNData(1), 250);
 }
 
-TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
+TEST_F(MacroOfflinePage, EveryEventIsMadeStepByStepAndReadsBack)
 {
     OpenWith("");
     EXPECT_EQ(Events(), "Event 1");
@@ -199,6 +199,38 @@ TEST_F(MacroOfflinePage, AnEventIsMadeStepByStep)
     EXPECT_EQ(Stored(),
               HEAD + "Event?,KeyAutoTransition,ME?,P/P,Key?,Key2,Time?,30,Direction?,Reverse\n"
                      "Event?,Cue,Device?,Dev2,Timecode?,00:00:00:00,Preroll?,5\n");
+
+    // Through the page: every event, the first word, lowest number or a text for each parameter.
+    OpenWith("");
+    for (int i = 1; i <= MACRO_SYMBOLS; i++) {
+        const char* const symbol = EVNT[i].paramvalue;
+        if (i > 1)
+            (void)Key(BTN_MACRO_INSERT_AFTER);
+        At(i - 1, MACRO_COL_SYMBOL, {symbol});
+        const MACROPARAM* const slots = MacroSymbol_Find(symbol);
+        for (int slot = 0; slot < get_param_count(symbol); slot++) {
+            switch (const MACROPARAM& p = slots[slot]; p.entry) {
+            case MACROENTRY_LIST: Choose({p.paramvaluetbl[0].paramvalue}); break;
+            case MACROENTRY_NUMBER: Enter(p.min); break;
+            case MACROENTRY_TIMECODE: Enter(1); break;
+            case MACROENTRY_TEXT:
+                (void)Key(slot < 4 ? BTN_MACRO_GROUP_3 + slot : BTN_MACRO_GROUP_7 + slot - 4);
+                ASSERT_EQ(GetWindow(), WINDOW_KEYBOARD) << symbol;
+                (void)Type("a,b");
+            }
+        }
+    }
+    const std::string stored = Stored();
+    EXPECT_THAT(stored, testing::HasSubstr("Event?,DiskFileLoad,Device?,Dev1,FileName?,a_b,"
+                                           "Timecode?,00:00:00:01\n"));
+    MacroEventList list;
+    ASSERT_EQ(MacroFile_Read(MACRO_EDIT_FILE, list), 0);
+    EXPECT_EQ(list.count, MACRO_SYMBOLS);
+    for (const MacroEvent* e = list.pHead; e; e = e->pNext)
+        for (int slot = 0; slot < get_param_count(e->Symbol); slot++)
+            EXPECT_TRUE(MacroValue_IsLegal(MacroSymbol_Find(e->Symbol)[slot], e->Data[slot]))
+                << e->Symbol << " " << slot << " " << e->Data[slot];
+    MacroList_Clear(list);
 }
 
 TEST_F(MacroOfflinePage, AContinueNeedsAnEventThatItMayFollowAndIsOneWhenThatGoes)
@@ -496,41 +528,6 @@ TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
         EXPECT_THAT(Leave(),
                     testing::IsSupersetOf({"put " + head + "Tally Back#false", "remove " + path}));
     }
-}
-
-// Through the page: every event, the first word, lowest number or a text for each parameter.
-TEST_F(MacroOfflinePage, EveryEventCanBeMadeAndReadsBack)
-{
-    OpenWith("");
-    for (int i = 1; i <= MACRO_SYMBOLS; i++) {
-        const char* const symbol = EVNT[i].paramvalue;
-        if (i > 1)
-            (void)Key(BTN_MACRO_INSERT_AFTER);
-        At(i - 1, MACRO_COL_SYMBOL, {symbol});
-        const MACROPARAM* const slots = MacroSymbol_Find(symbol);
-        for (int slot = 0; slot < get_param_count(symbol); slot++) {
-            switch (const MACROPARAM& p = slots[slot]; p.entry) {
-            case MACROENTRY_LIST: Choose({p.paramvaluetbl[0].paramvalue}); break;
-            case MACROENTRY_NUMBER: Enter(p.min); break;
-            case MACROENTRY_TIMECODE: Enter(1); break;
-            case MACROENTRY_TEXT:
-                (void)Key(slot < 4 ? BTN_MACRO_GROUP_3 + slot : BTN_MACRO_GROUP_7 + slot - 4);
-                ASSERT_EQ(GetWindow(), WINDOW_KEYBOARD) << symbol;
-                (void)Type("a,b");
-            }
-        }
-    }
-    const std::string stored = Stored();
-    EXPECT_THAT(stored, testing::HasSubstr("Event?,DiskFileLoad,Device?,Dev1,FileName?,a_b,"
-                                           "Timecode?,00:00:00:01\n"));
-    MacroEventList list;
-    ASSERT_EQ(MacroFile_Read(MACRO_EDIT_FILE, list), 0);
-    EXPECT_EQ(list.count, MACRO_SYMBOLS);
-    for (const MacroEvent* e = list.pHead; e; e = e->pNext)
-        for (int slot = 0; slot < get_param_count(e->Symbol); slot++)
-            EXPECT_TRUE(MacroValue_IsLegal(MacroSymbol_Find(e->Symbol)[slot], e->Data[slot]))
-                << e->Symbol << " " << slot << " " << e->Data[slot];
-    MacroList_Clear(list);
 }
 
 TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
