@@ -56,10 +56,8 @@ static const MACROPARAM& parameter(const char* symbol, const char* name)
 TEST(MacroSymbols, ValuesAreCheckedByTheirKindAndAPatternLimitShowsWhatItDoes)
 {
     MacroSymbols_ForSystem();
-    static const struct {
-        const char *symbol, *name;
-        std::vector<const char*> legal, others;
-    } cases[] = {
+    using Texts = std::vector<const char*>;
+    static const std::tuple<const char*, const char*, Texts, Texts> cases[] = {
         {"MECut", "ME", {"P/P"}, {"M/E-6", "-", ""}},
         {"Play", "Speed", {"-400"}, {"-401", "-", "10x"}},
         {"Pause", "Time", {"1"}, {"0", " 5", "99999999999999999999"}},
@@ -67,11 +65,11 @@ TEST(MacroSymbols, ValuesAreCheckedByTheirKindAndAPatternLimitShowsWhatItDoes)
         {"Cue", "Timecode", {"23:59:59:29"}, {"24:00:00:00", "1:00:00:00", "00:00:00;00"}},
         {"DiskFileLoad", "FileName", {"sixteen_chars_16"}, {"", "seventeen_chars17", "a,b"}},
     };
-    for (const auto& c : cases) {
-        for (const char* text : c.legal)
-            EXPECT_TRUE(MacroValue_IsLegal(parameter(c.symbol, c.name), text)) << text;
-        for (const char* text : c.others)
-            EXPECT_FALSE(MacroValue_IsLegal(parameter(c.symbol, c.name), text)) << text;
+    for (const auto& [symbol, name, legal, others] : cases) {
+        for (const char* text : legal)
+            EXPECT_TRUE(MacroValue_IsLegal(parameter(symbol, name), text)) << text;
+        for (const char* text : others)
+            EXPECT_FALSE(MacroValue_IsLegal(parameter(symbol, name), text)) << text;
     }
 
     EXPECT_STREQ(MacroValue_Shown("PatternLimit", 1, "On"), "ToOff");

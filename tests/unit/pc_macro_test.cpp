@@ -665,10 +665,7 @@ TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
     }
     enum : int { MODIFY = BTN_ONLINE_MODIFY, DELETE = BTN_ONLINE_DELETE };
     const std::vector<int> editing = {BTN_ONLINE_BEFORE, BTN_ONLINE_AFTER, MODIFY, DELETE};
-    static const struct {
-        const char *told, *back; // and then told to be as before
-        std::vector<int> usable;
-    } keys[] = {
+    static const std::tuple<const char*, const char*, std::vector<int>> keys[] = {
         {"Macro Insert Mode#Auto Insert", "Macro Insert Mode#Edit Insert", {DELETE}},
         {"Insert Enable Flag#false", "Insert Enable Flag#true", {DELETE}},
         {"Remain Macro Event Cell#0", "Remain Macro Event Cell#1", {MODIFY, DELETE}},
@@ -676,13 +673,13 @@ TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
         {"Current Macro Register Info#3,A,L,4,1", "Current Macro Register Info#3,A,U,4,1", {}},
         {"Current Macro Register Info#4,OTHER,L,0,1", "Macro Edit Mode#true", editing},
     };
-    for (const auto& k : keys) {
-        (void)Tell(ONLINE + k.told);
+    for (const auto& [told, back, usable] : keys) {
+        (void)Tell(ONLINE + told);
         Pass(10);
-        EXPECT_EQ(Usable(editing), k.usable) << k.told;
-        (void)Tell(ONLINE + k.back);
+        EXPECT_EQ(Usable(editing), usable) << told;
+        (void)Tell(ONLINE + back); // as before
         Pass(10);
-        EXPECT_EQ(Usable(editing), editing) << k.back;
+        EXPECT_EQ(Usable(editing), editing) << back;
     }
     static const std::pair<const char*, std::vector<int>> places[] = {
         {"1", {BTN_ONLINE_NEXT}},

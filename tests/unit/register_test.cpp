@@ -57,12 +57,7 @@ struct Registers : BusTest {
 
 TEST_F(Registers, ALineLandsInItsPlace)
 {
-    static const struct {
-        std::string path, value;
-        Place place;
-        int exist, lock;
-        const char* name;
-    } cases[] = {
+    static const std::tuple<std::string, std::string, Place, int, int, const char*> cases[] = {
         {EFFECT + "M/E-1", "1, D, First, U, N, 30", {0, 0, 0}, 1, 0, "First"},
         {EFFECT + "DME1", "250,D,x,U,N,0", {2, 0, 49}, 1, 0, "x"},
         {MASTER_TIMELINE, "99,Show,D,L" + std::string(43, ','), {0, 43, 98}, 1, 1, "Show"},
@@ -77,15 +72,15 @@ TEST_F(Registers, ALineLandsInItsPlace)
         {SHOTBOX, "98,Shot,U,," + std::string(43, ','), {8, 0, 97}, 0, 0, "Shot"}, // nothing in it
         {MACRO, "250,D,Run,L", {9, 0, 249}, 1, 1, "Run"},
     };
-    for (const auto& c : cases) {
-        Deliver(c.path, c.value);
-        EXPECT_THAT(Told(), ElementsAre(c.place)) << c.path << "#" << c.value;
-        const auto& [kind, row, index, extra] = c.place;
+    for (const auto& [path, value, place, exist, lock, name] : cases) {
+        Deliver(path, value);
+        EXPECT_THAT(Told(), ElementsAre(place)) << path << "#" << value;
+        const auto& [kind, row, index, extra] = place;
         const RegisterReader& read = readers[kind];
-        EXPECT_EQ(read.exist(row, index), c.exist) << c.path << "#" << c.value;
-        EXPECT_EQ(read.lock(row, index), c.lock) << c.path << "#" << c.value;
-        EXPECT_STREQ(read.name(row, index), c.name) << c.path << "#" << c.value;
-        EXPECT_STREQ(read.tally(row, index), c.value.c_str()) << c.path;
+        EXPECT_EQ(read.exist(row, index), exist) << path << "#" << value;
+        EXPECT_EQ(read.lock(row, index), lock) << path << "#" << value;
+        EXPECT_STREQ(read.name(row, index), name) << path << "#" << value;
+        EXPECT_STREQ(read.tally(row, index), value.c_str()) << path;
     }
 }
 
