@@ -17,7 +17,7 @@ struct FrameMemoryLists : FrameMemory {
     }
 };
 
-TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammar)
+TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammarAndDefaultOnesThatPassThoseInUse)
 {
     static const std::tuple<const char*, const char*, const char*> cases[] = {
         // "": no frame
@@ -40,6 +40,18 @@ TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammar)
     EXPECT_THAT(Clips(), IsEmpty());
     EXPECT_THAT(Stills(),
                 ElementsAre(": - 5", "1234: 0 -", "12345: 1 -", "abc0001: 3 2", "abcdefgh: 4 -"));
+
+    Max(300);
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 1);
+    Store({"Mimage002", "Simage003", "Mimage004"});
+    Store({"Ximage004", "Simage003"}, 16384 + 1);
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 2) << "free in the extended store";
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 4) << "3 is taken in both";
+    (void)Tell("Frame Mem@Status@Extended Capacity", "0");
+    for (int n = 5; n <= 999; n++)
+        EXPECT_EQ(FMCtrl_GetDefaultImageNum(), n);
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 1) << "and without an extended store";
+    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 5);
 }
 
 TEST_F(FrameMemoryLists, AStillIsAPairOfTheLastSidesThatWereTold)
@@ -186,20 +198,6 @@ TEST_F(FrameMemoryLists, MaxRegisterBeginsAnewAndTheExtendedStoreIsEmptiedInSlic
     Pass(0);
     Pass(0);
     EXPECT_THAT(Stills(), ElementsAre("main: 0 -", "new: x299 -"));
-}
-
-TEST_F(FrameMemoryLists, DefaultImageNumbersRiseAndPassThoseInUse)
-{
-    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 1);
-    Store({"Mimage002", "Simage003", "Mimage004"});
-    Store({"Ximage004", "Simage003"}, 16384 + 1);
-    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 2) << "free in the extended store";
-    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 4) << "3 is taken in both";
-    (void)Tell("Frame Mem@Status@Extended Capacity", "0");
-    for (int n = 5; n <= 999; n++)
-        EXPECT_EQ(FMCtrl_GetDefaultImageNum(), n);
-    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 1) << "and without an extended store";
-    EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 5);
 }
 
 // Registers are stored, renamed and emptied at random, with few names for many registers. What the

@@ -113,7 +113,7 @@ TEST_F(MenuMacro, TheTapTellsTheOperatorsCommandsFromTheProgramsOwn)
     GL_MenuMacroUnrestrict = 0;
 }
 
-TEST_F(MenuMacro, ATouchIsAnEventALongOneSeveralAndNothingIsRecordedUnasked)
+TEST_F(MenuMacro, ATouchIsAnEventALongOneSeveralPausesGoBetweenAndNothingIsRecordedUnasked)
 {
     Sends({"put A#1"});
     Record();
@@ -143,6 +143,18 @@ TEST_F(MenuMacro, ATouchIsAnEventALongOneSeveralAndNothingIsRecordedUnasked)
     EXPECT_EQ(Recorded()[1], "put A#1\n");
     Sends(Lines(100, "put " + std::string(1000, 'x'))); // more bytes than an event has
     EXPECT_EQ(Recorded().size(), 4u);
+
+    mm_edit_close();
+    Load(1, "Event:put A#1\n");
+    Record();
+    GL_MM_Pause_AT_Insert = 1;
+    Pass(700);
+    Sends({"put B#2"});
+    Pass(1500);
+    Sends({"put C#3"});
+    Sends({"put D#4"});
+    EXPECT_THAT(Recorded(), ElementsAre("put A#1\n", "Event@Pause Set#0.5\n", "put B#2\n",
+                                        "Event@Pause Set#1.5\n", "put C#3\n", "put D#4\n"));
 }
 
 TEST_F(MenuMacro, AFullListSaysSoOnce)
@@ -194,20 +206,6 @@ TEST_F(MenuMacro, WithoutAutoInsertTheKeyOfTheBaseAreaTakesTheLastTouch)
     EXPECT_EQ(Recorded().size(), 2u) << "a touch of another recording";
     mm_edit_close();
     EXPECT_EQ(UsedMemPtr, blocks);
-}
-
-TEST_F(MenuMacro, MeasuredPausesGoBetweenTouches)
-{
-    Load(1, "Event:put A#1\n");
-    Record();
-    GL_MM_Pause_AT_Insert = 1;
-    Pass(700);
-    Sends({"put B#2"});
-    Pass(1500);
-    Sends({"put C#3"});
-    Sends({"put D#4"});
-    EXPECT_THAT(Recorded(), ElementsAre("put A#1\n", "Event@Pause Set#0.5\n", "put B#2\n",
-                                        "Event@Pause Set#1.5\n", "put C#3\n", "put D#4\n"));
 }
 
 TEST_F(MenuMacro, AFileIsWrittenAsItIsReadAlsoBeforeTheStartHasReadIt)

@@ -93,7 +93,7 @@ constexpr int YES = 1, NO = 2;
 constexpr uint32_t RECALL = 0x21110000, PLAY = 0x21130000, RECORD = 0x21140000, FREEZE = 0x21150000,
                    COPY_MOVE = 0x21210000, DELETE_RENAME = 0x21220000, PAIR = 0x21230000;
 
-TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
+TEST_F(ClipPages, OutputsFollowTheirTalliesAndAPairWorksOnItsEvenOne)
 {
     (void)Open(RECALL);
     FM_OBJECT o;
@@ -125,10 +125,7 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndRefuseTheRest)
     Hub("Delete", "ClipStoreFile", "root/NEWS/A/ONE.SFH");
     FM_GetRecalledObject(2, &o);
     EXPECT_EQ(o.frame, 0);
-}
 
-TEST_F(ClipPages, APairWorksOnItsEvenOutput)
-{
     OpenPage(RECALL);
     (void)Touch(115 + 10, 226 + 10); // the second output
     EXPECT_EQ(FM_GetSelect(), 1);
@@ -204,7 +201,7 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     EXPECT_NE(Pane_GetActiveID(), 0);
 }
 
-TEST_F(ClipPages, RecordsUnderAFreeName)
+TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
 {
     OpenPage(RECORD);
     Clip("img0000", 5);
@@ -241,10 +238,7 @@ TEST_F(ClipPages, RecordsUnderAFreeName)
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_FRAME), BT_ON);
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_FIELD), BT_OFF);
     EXPECT_THAT(Puts(BTN_FMEM_FREEZE), Contains(PUT + "Record@Freeze@FM1#0,0"));
-}
 
-TEST_F(ClipPages, TheLengthOfARecordingIsThatOfItsProcessor)
-{
     OpenPage(RECORD);
     const auto record = [] { // name and command
         Lines sent = Puts(BTN_FMEM_REC);
@@ -416,7 +410,7 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
     EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
-TEST_F(ClipPages, LoadsOrUnloadsTheClipsAmongWhatIsChecked)
+TEST_F(ClipPages, LoadsUnloadsAndCouplesWhatFits)
 {
     for (const auto& [key, verb] :
          {std::pair{BTN_FMEM_LOAD, "Register"}, {BTN_FMEM_UNLOAD, "UnRegister"}}) {
@@ -444,6 +438,22 @@ TEST_F(ClipPages, LoadsOrUnloadsTheClipsAmongWhatIsChecked)
         (void)Leave();
         EXPECT_FALSE(fmem_progress_is_busy()) << "it ends with its page";
     }
+
+    Clip("KEY", 100);
+    Clip("BOTH", 100, 0, TIME, 1);
+    OpenPage(PAIR);
+    Cell(0, "OPENING");
+    static const std::pair<const char*, bool> cases[] = {
+        {"STILL", false}, {"OPENING", false}, {"BOTH", false}, {"KEY", true}};
+    for (const auto& [key, can] : cases) {
+        Cell(1, key);
+        EXPECT_EQ(BT_GetVisible(BTN_FMEM_COUPLE) == BT_ENABLED, can) << key;
+    }
+    (void)Press(BTN_FMEM_COUPLE);
+    EXPECT_THAT(Grant(), ElementsAre("File:Couple root/OPENING.SFH root/KEY.SFH"));
+    Cell(0, "BOTH");
+    (void)Press(BTN_FMEM_SEPARATE);
+    EXPECT_THAT(Grant(), ElementsAre("File:Separate root/BOTH.SFH"));
 }
 
 TEST_F(ClipPages, TheRoomInMemoryIsShownOnceTheHubHasToldIt)
@@ -475,23 +485,4 @@ TEST_F(ClipPages, TheRoomInMemoryIsShownOnceTheHubHasToldIt)
     Pass(10);
     EXPECT_THAT(PixelsIn(WHOLE), Each(0x123456u));
     SYS_MemoryFree = SYS_MemoryTotal = 0;
-}
-
-TEST_F(ClipPages, CouplesWhatFits)
-{
-    Clip("KEY", 100);
-    Clip("BOTH", 100, 0, TIME, 1);
-    OpenPage(PAIR);
-    Cell(0, "OPENING");
-    static const std::pair<const char*, bool> cases[] = {
-        {"STILL", false}, {"OPENING", false}, {"BOTH", false}, {"KEY", true}};
-    for (const auto& [key, can] : cases) {
-        Cell(1, key);
-        EXPECT_EQ(BT_GetVisible(BTN_FMEM_COUPLE) == BT_ENABLED, can) << key;
-    }
-    (void)Press(BTN_FMEM_COUPLE);
-    EXPECT_THAT(Grant(), ElementsAre("File:Couple root/OPENING.SFH root/KEY.SFH"));
-    Cell(0, "BOTH");
-    (void)Press(BTN_FMEM_SEPARATE);
-    EXPECT_THAT(Grant(), ElementsAre("File:Separate root/BOTH.SFH"));
 }
