@@ -54,35 +54,7 @@ TEST_F(FrameMemoryLists, NamesAtTheEdgeOfTheGrammarAndDefaultOnesThatPassThoseIn
     EXPECT_EQ(FMCtrl_GetDefaultImageNum(), 5);
 }
 
-TEST_F(FrameMemoryLists, AStillIsAPairOfTheLastSidesThatWereTold)
-{
-    Store({"Slogo"});
-    EXPECT_THAT(Stills(), ElementsAre("logo: - 0"));
-    EXPECT_FALSE(FMCtrl_IsStillMain(0) || FMCtrl_IsStillPair(0));
-    Store({"Mlogo"}, 16384 + 8);
-    EXPECT_THAT(Stills(), ElementsAre("logo: x7 0"));
-    EXPECT_TRUE(FMCtrl_IsStillPair(0) && FMCtrl_IsStillExtended(0));
-    EXPECT_THAT(Changes(), ElementsAre("0, 0", "16391, 0, extended"));
-    EXPECT_EQ(FMCtrl_GetStillIdx("Mlogo"), 0);
-    EXPECT_EQ(FMCtrl_GetRegIndex("Mlogo"), -1);
-    EXPECT_EQ(FMCtrl2_GetRegIndex("Mlogo"), 16391);
-
-    (void)Sense(1, "0", "");
-    EXPECT_THAT(Stills(), ElementsAre("logo: x7 -"));
-    EXPECT_EQ(FMCtrl_GetStillIdx("Slogo"), -1);
-
-    Max(300);
-    Store({"Mlogo", "Mlogo"});
-    Store({"Mlogo"}, 16384 + 1);
-    EXPECT_THAT(Stills(), ElementsAre("logo: x0 -"));
-    EXPECT_EQ(FMCtrl2_GetRegIndex("Mlogo"), 0) << "the lower number, main before extended";
-    (void)Sense(16384 + 1, "0", "");
-    EXPECT_THAT(Stills(), ElementsAre("logo: 0 -")) << "the lowest of those that are left";
-    Store({"Mnew"});
-    EXPECT_THAT(Stills(), ElementsAre("logo: 1 -", "new: 0 -"));
-}
-
-TEST_F(FrameMemoryLists, TwoFramesMakeAClipWithAShownOneAndAncillaryOfItsName)
+TEST_F(FrameMemoryLists, StillsArePairsOfTheLastSidesAndTwoFramesMakeAClip)
 {
     Store({"Mabc0002"});
     EXPECT_THAT(Clips(), IsEmpty());
@@ -123,6 +95,33 @@ TEST_F(FrameMemoryLists, TwoFramesMakeAClipWithAShownOneAndAncillaryOfItsName)
     EXPECT_EQ(FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx("Mxyz0001")), 1);
     EXPECT_EQ(FMCtrl_GetClipAncillary(0), ANCILLARY_UNKNOWN);
     EXPECT_EQ(FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx("Mlogo")), 0);
+
+    Max(300);
+    (void)Changes();
+    Store({"Slogo"});
+    EXPECT_THAT(Stills(), ElementsAre("logo: - 0"));
+    EXPECT_FALSE(FMCtrl_IsStillMain(0) || FMCtrl_IsStillPair(0));
+    Store({"Mlogo"}, 16384 + 8);
+    EXPECT_THAT(Stills(), ElementsAre("logo: x7 0"));
+    EXPECT_TRUE(FMCtrl_IsStillPair(0) && FMCtrl_IsStillExtended(0));
+    EXPECT_THAT(Changes(), ElementsAre("0, 0", "16391, 0, extended"));
+    EXPECT_EQ(FMCtrl_GetStillIdx("Mlogo"), 0);
+    EXPECT_EQ(FMCtrl_GetRegIndex("Mlogo"), -1);
+    EXPECT_EQ(FMCtrl2_GetRegIndex("Mlogo"), 16391);
+
+    (void)Sense(1, "0", "");
+    EXPECT_THAT(Stills(), ElementsAre("logo: x7 -"));
+    EXPECT_EQ(FMCtrl_GetStillIdx("Slogo"), -1);
+
+    Max(300);
+    Store({"Mlogo", "Mlogo"});
+    Store({"Mlogo"}, 16384 + 1);
+    EXPECT_THAT(Stills(), ElementsAre("logo: x0 -"));
+    EXPECT_EQ(FMCtrl2_GetRegIndex("Mlogo"), 0) << "the lower number, main before extended";
+    (void)Sense(16384 + 1, "0", "");
+    EXPECT_THAT(Stills(), ElementsAre("logo: 0 -")) << "the lowest of those that are left";
+    Store({"Mnew"});
+    EXPECT_THAT(Stills(), ElementsAre("logo: 1 -", "new: 0 -"));
 }
 
 TEST_F(FrameMemoryLists, RegisterStatusAsksForTheSetAndEmptiesTheClearThatThereAre)

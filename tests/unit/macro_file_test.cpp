@@ -46,7 +46,7 @@ static std::string lines(int n, const std::string& line)
     return all;
 }
 
-TEST_F(MacroFiles, LinesBecomeEventsAndGoBack)
+TEST_F(MacroFiles, LinesBecomeEventsAndGoBackWithTheFirstLineEnd)
 {
     static const std::tuple<std::string, std::string, const char*> cases[] = {
         // null: as it was
@@ -80,16 +80,13 @@ TEST_F(MacroFiles, LinesBecomeEventsAndGoBack)
             EXPECT_EQ(Stored(), std::string(HEAD) + "\n" + back + (back.empty() ? "" : "\n"));
         }
     }
-}
 
-TEST_F(MacroFiles, TheFirstLineEndIsKept)
-{
     const std::string event = "Event?,MECut,ME?,P/P";
-    static const std::tuple<std::string, std::string> cases[] = {
+    static const std::tuple<std::string, std::string> ends[] = {
         // of the last line: another, none
         {"\n", "\n"},   {"\r", "\r"},   {"\r\n", "\r\n"}, {"\r\n", "\n"},
         {"\n", "\r\n"}, {"\r", "\r\n"}, {"\r\n", ""}};
-    for (const auto& [first, second] : cases) {
+    for (const auto& [first, second] : ends) {
         ASSERT_EQ(Read(HEAD + first + event + first + event + second), 0);
         EXPECT_EQ(Shown(), "Event 1 MECut P/P|Event 2 MECut P/P");
         EXPECT_EQ(Stored(), HEAD + first + event + first + event + first);

@@ -6,13 +6,9 @@
 #include <map>
 
 const std::string EFFECTS = "Effect@Effect@Attribute@List@";
-const char* const SHOTS = "Shotbox@Register@Store/Recall@List";
+const std::string SHOTS = "Shotbox@Register@Store/Recall@List";
 
 struct EffectPages : TablePage {
-    static void Deliver(const std::string& path, const std::string& value)
-    {
-        (void)Tell(path + "#" + value);
-    }
     static void Open3To5(uint32_t page) // from register 3 to register 5, where there are two lists
     {
         Open(page);
@@ -44,7 +40,7 @@ TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
     }
 }
 
-TEST_F(EffectPages, AnEffectShowsItsStateAndWhichOrHowManyRegionsHoldIt)
+TEST_F(EffectPages, AnEffectShowsItsStateAndTheRegionsThatHoldItAndTheirOverviewCopiesThem)
 {
     TellAll(EFFECTS, {"M/E-1#3,S,OPENING,L,D,45", "DME2#3,S,SPIN,U,N,0", "Dev1#3,S,ROLL,U,N,0",
                       "DME1#203,S,PAGE,U,D,7",
@@ -68,9 +64,20 @@ TEST_F(EffectPages, AnEffectShowsItsStateAndWhichOrHowManyRegionsHoldIt)
     EXPECT_EQ(Cell(1, 3, 2), ""); // no line has said yet that it is empty here
     for (const int count : {0, 1}) {
         Region_Count = count;
-        Deliver(EFFECTS + "M/E-1", "4,E,,U,N,0");
+        (void)Tell(EFFECTS + "M/E-1#4,E,,U,N,0");
         EXPECT_EQ(Cell(1, 3, 2), count ? "E2" : "E");
     }
+
+    TellAll(EFFECTS, {"M/E-1#7,S,A,U,N,0", "GPI#7,S,B,U,N,0", "DME5#7,S,B,U,N,0",
+                      "M/E-1 Sub#7,S,B,U,N,0"}); // a side that is not run
+    multiprogram2_me[1] = 0;
+    Open(0x62000000);
+    SendMessage(LMSG_KNOBVAR, 1, 7, 0, 0);
+    EXPECT_THAT(Puts(52), IsEmpty());
+    SendMessage(LMSG_KNOBVAR, 1, 9, 0, 0);
+    EXPECT_THAT(Puts(53), ElementsAre("put Effect@Effect@Copy/Merge@Copy#M/E-1,7,7,M/E-1,9,false",
+                                      "put Effect@Effect@Copy/Merge@Copy#DME5,7,7,DME5,9,false",
+                                      "put Effect@Effect@Copy/Merge@Copy#GPI,7,7,GPI,9,false"));
 }
 
 TEST_F(EffectPages, ADissolveTakesTheTimeOfTheKnobAndALockKeepsItsOwn)
@@ -83,8 +90,8 @@ TEST_F(EffectPages, ADissolveTakesTheTimeOfTheKnobAndALockKeepsItsOwn)
     };
     Open3To5(0x62210000);
     for (const auto& [line, knob, value] : cases) {
-        Deliver(EFFECTS + "M/E-1", line);
-        Deliver("Effect@Effect@Attribute@Temporary Duration@M/E-1", std::to_string(knob));
+        (void)Tell(EFFECTS + "M/E-1#" + line);
+        (void)Tell("Effect@Effect@Attribute@Temporary Duration@M/E-1#" + std::to_string(knob));
         Pass(10);
         EXPECT_EQ(BT_GetStatus(BTN_EFFECT_DISSOLVE) == BT_ON,
                   line.find(",D,") != std::string::npos);
@@ -113,7 +120,7 @@ TEST_F(EffectPages, AShotboxShowsWhatItLinks)
     std::string line = "3,INTRO,L,A";
     for (const std::string& one : link)
         line += "," + one;
-    Deliver(SHOTS, line);
+    (void)Tell(SHOTS + "#" + line);
     Open(0x64110000);
     EXPECT_EQ(Cells(1, 2, 1, 16), "INTRO|L|On|1|S12|...||||5|...|||||S8");
     Cursor(1, 2);
@@ -153,10 +160,10 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
                                                        {EFF_REGION_MASTER, "S7"}},
                                                       REGISTER_LINKS)));
     EXPECT_THAT(Puts(UNDO), IsEmpty()); // no line of the server has come: it holds what it held
-    Deliver(SHOTS, "1,SHOT1,U,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
+    (void)Tell(SHOTS + "#1,SHOT1,U,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
     EXPECT_EQ(CloseWindow(), 0); // it says that this is not what was stored
     EXPECT_THAT(Puts(UNDO), ElementsAre(edit + links({}, REGISTER_LINKS)));
-    Deliver(SHOTS, "1,SHOT1,L,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
+    (void)Tell(SHOTS + "#1,SHOT1,L,,S7,12" + std::string(REGISTER_LINKS - 2, ','));
     (void)CloseWindow();
     EXPECT_THAT(Puts(STORE), IsEmpty()); // it is locked
     Open(0x62110001);
@@ -189,18 +196,4 @@ TEST_F(EffectPages, AllCellsOrTheSwitchersAreChosenTogether)
     EXPECT_THAT(Puts(STORE), ElementsAre(stored(5, 5)));
     assign({ALL, SWR_ALL}, 7); // all were on: off, then the switcher's
     EXPECT_THAT(Puts(STORE), ElementsAre(stored(7, 5)));
-}
-
-TEST_F(EffectPages, TheOverviewCopiesEachRegionThatHoldsTheRegister)
-{
-    TellAll(EFFECTS, {"M/E-1#7,S,A,U,N,0", "GPI#7,S,B,U,N,0", "DME5#7,S,B,U,N,0",
-                      "M/E-1 Sub#7,S,B,U,N,0"}); // a side that is not run
-    multiprogram2_me[1] = 0;
-    Open(0x62000000);
-    SendMessage(LMSG_KNOBVAR, 1, 7, 0, 0);
-    EXPECT_THAT(Puts(52), IsEmpty());
-    SendMessage(LMSG_KNOBVAR, 1, 9, 0, 0);
-    EXPECT_THAT(Puts(53), ElementsAre("put Effect@Effect@Copy/Merge@Copy#M/E-1,7,7,M/E-1,9,false",
-                                      "put Effect@Effect@Copy/Merge@Copy#DME5,7,7,DME5,9,false",
-                                      "put Effect@Effect@Copy/Merge@Copy#GPI,7,7,GPI,9,false"));
 }

@@ -187,27 +187,7 @@ struct AssignPage : KeyframePage {
     }
 };
 
-TEST_F(AssignPage, ShowsWhatAnotherPanelHasChosenAndWhenTheSelectionDecides)
-{
-    Tally("Info@Operation Setup Data@Timeline Region Priority", "1,6");
-    Tally("Info@Operation Setup Data@Timeline Region Priority", "4,0");
-    Tally("Info@Operation Setup Data@Timeline Region Display", "46,1");
-    Pass(10);
-    EXPECT_EQ(Order(), "1|USER1|ON, 2|M/E-1 Sub|, 3|P/P|ON, 4|M/E-1|ON, ||");
-    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_OFF);
-    (void)Sent();
-    Button(ACTIVE);
-    EXPECT_EQ(GL_TimelineDisplayPriority, 1);
-    EXPECT_THAT(Sent(), ElementsAre("put Info@Operation Setup Data@Timeline Display Priority#1"));
-    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_ON);
-    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED);
-    Button(ACTIVE);
-    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_ENABLED);
-    Tally("Info@Operation Setup Data@Timeline Display Priority", "1");
-    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED) << "changed elsewhere";
-}
-
-TEST_F(AssignPage, TheKeysWorkAtTheCursors)
+TEST_F(AssignPage, TheKeysWorkAtTheCursorsAndAnotherPanelsChoiceIsShown)
 {
     LS_SetNowLine(1, 1);
     SendMessage(LMSG_LISTSEL, 1, 1, 0, 0);
@@ -234,6 +214,23 @@ TEST_F(AssignPage, TheKeysWorkAtTheCursors)
     Button(DEFAULT);
     EXPECT_EQ(Order(), "1|M/E-1|ON, 2|M/E-1 Sub|ON, 3|P/P|ON, 4|USER1|ON, ||");
     EXPECT_THAT(Sent(), IsEmpty());
+
+    Tally("Info@Operation Setup Data@Timeline Region Priority", "1,6");
+    Tally("Info@Operation Setup Data@Timeline Region Priority", "4,0");
+    Tally("Info@Operation Setup Data@Timeline Region Display", "46,1");
+    Pass(10);
+    EXPECT_EQ(Order(), "1|USER1|ON, 2|M/E-1 Sub|, 3|P/P|ON, 4|M/E-1|ON, ||");
+    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_OFF);
+    (void)Sent();
+    Button(ACTIVE);
+    EXPECT_EQ(GL_TimelineDisplayPriority, 1);
+    EXPECT_THAT(Sent(), ElementsAre("put Info@Operation Setup Data@Timeline Display Priority#1"));
+    EXPECT_EQ(BT_GetStatus(ACTIVE), BT_ON);
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED);
+    Button(ACTIVE);
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_ENABLED);
+    Tally("Info@Operation Setup Data@Timeline Display Priority", "1");
+    EXPECT_EQ(BT_GetVisible(DISPLAY), BT_DISABLED) << "changed elsewhere";
 }
 
 TEST_F(AssignPage, ClosingSavesAllRowsOnceTheServerHasToldItsRegions)
