@@ -405,19 +405,6 @@ TEST_F(MenuMacro, TheEditorEditsAndStores)
     EXPECT_EQ(GL_CreatePage, 0x54310000u);
 }
 
-TEST_F(MenuMacro, TheFileMenuLeadsToTheEditorOfItsRow)
-{
-    Load(7, "Event:put A#1\n");
-    (void)Open(0x71440001);
-    EXPECT_STREQ(LS_GetData(1, 6, 0), "7"); // files count from 0, the operator does not
-    Cursor(1, 6);
-    (void)Press(BTN_FILE_EDIT);
-    ASSERT_EQ(GL_CreatePage, EDIT);
-    (void)Open(GL_CreatePage);
-    EXPECT_EQ(mm_edit.reg, 7);
-    EXPECT_THAT(Recorded(), ElementsAre("put A#1\n"));
-}
-
 TEST_F(MenuMacro, TheRegisterPagesWorkOnListAndFile)
 {
     Load(1, "Header:ONE,0,1\nEvent:put A#1\n");
@@ -453,7 +440,7 @@ TEST_F(MenuMacro, TheRegisterPagesWorkOnListAndFile)
     EXPECT_EQ(mm_macro_file_load(1), -1);
 }
 
-TEST_F(MenuMacro, TheFirstPageRecallsRunsAndStops)
+TEST_F(MenuMacro, TheFirstPageRecallsRunsAndStopsAndTheFileMenuLeadsToTheEditor)
 {
     enum { REWIND = 49, RUN, STOP, RECALL, RECALL_RUN };
     Load(1, "Interval:1000\nEvent:put A#1\nEvent:put B#2\n");
@@ -478,6 +465,16 @@ TEST_F(MenuMacro, TheFirstPageRecallsRunsAndStops)
     const int pane = PaneMessage_Create("x", PANE_INFO, "x"); // a pane does not hold it up
     EXPECT_EQ(Run(1500).size(), 2u);
     (void)Pane_Quit(pane);
+
+    Load(7, "Event:put A#1\n");
+    (void)Open(0x71440001);
+    EXPECT_STREQ(LS_GetData(1, 6, 0), "7"); // files count from 0, the operator does not
+    Cursor(1, 6);
+    (void)Press(BTN_FILE_EDIT);
+    ASSERT_EQ(GL_CreatePage, EDIT);
+    (void)Open(GL_CreatePage);
+    EXPECT_EQ(mm_edit.reg, 7);
+    EXPECT_THAT(Recorded(), ElementsAre("put A#1\n"));
 }
 
 // The knob turns the interval of the register at the cursor; the file follows when the cursor or

@@ -530,8 +530,25 @@ TEST_F(MacroPages, ATimelineActionIsAssignedAndFollowed)
     }
 }
 
-TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
+// From the list of the registers in the File menu, too.
+TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditorAndARegisterThatHoldsDataIsFetchedBefore)
 {
+    Open(0x71420001);
+    SendMessage(LMSG_LISTSEL, 1, 6, 0, 0);
+    Cursor(1, 6);
+    (void)Key(BTN_FILE_EDIT);
+    EXPECT_EQ(GL_CreatePage, PAGE_MACRO_OFFLINE);
+    EXPECT_EQ(FileText(MACRO_EDIT_FILE), "PNL 0001PNL_0007.PMRM7\n");
+    EXPECT_STREQ(GL_MacroEditNoName, "7  Name: MCRO7");
+    // Where no file can be made it is said.
+    ASSERT_EQ(unlink(MACRO_EDIT_FILE) + rmdir(MACRO_EDIT_DIR), 0);
+    std::ofstream(MACRO_EDIT_DIR) << "in the way";
+    GL_CreatePage = 0;
+    (void)Key(BTN_FILE_EDIT);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    unlink(MACRO_EDIT_DIR);
+
+    CloseWindow();
     (void)Tell("Macro@Register@List#7,S,ELEVEN_CHRS,U,0,0");
     static const std::tuple<int, int, uint32_t, uint32_t> cases[] = {
         {FILESTATUS_OK, 7, PAGE_MACRO_REGISTERS, PAGE_MACRO_OFFLINE},
@@ -574,25 +591,6 @@ TEST_F(MacroOfflinePage, ARegisterThatHoldsDataIsFetchedBeforeItIsEdited)
     begin(BTN_MACRO_OFFLINE);
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
     EXPECT_EQ(QueueRoot, nullptr);
-}
-
-// From the list of the registers in the File menu, too.
-TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditor)
-{
-    Open(0x71420001);
-    SendMessage(LMSG_LISTSEL, 1, 6, 0, 0);
-    Cursor(1, 6);
-    (void)Key(BTN_FILE_EDIT);
-    EXPECT_EQ(GL_CreatePage, PAGE_MACRO_OFFLINE);
-    EXPECT_EQ(FileText(MACRO_EDIT_FILE), "PNL 0001PNL_0007.PMRM7\n");
-    EXPECT_STREQ(GL_MacroEditNoName, "7  Name: MCRO7");
-    // Where no file can be made it is said.
-    ASSERT_EQ(unlink(MACRO_EDIT_FILE) + rmdir(MACRO_EDIT_DIR), 0);
-    std::ofstream(MACRO_EDIT_DIR) << "in the way";
-    GL_CreatePage = 0;
-    (void)Key(BTN_FILE_EDIT);
-    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
-    unlink(MACRO_EDIT_DIR);
 }
 
 TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)

@@ -191,9 +191,30 @@ TEST_F(RegisterPages, HoldGoesToMarksAndBack)
     }
 }
 
-// Field by field: status, hold, dissolve, transition, GPI.
-TEST_F(RegisterPages, ALineShowsItsAttributesInItsRegionOnly)
+// Below the list: the regions in grey, but orange where they hold the register at the cursor and
+// are not chosen.
+TEST_F(RegisterPages, TheStripShowsWhichRegionsHoldTheRegisterAndALineItsAttributes)
 {
+    static const std::tuple<uint32_t, const char*, const char*, const char*> cases[] = {
+        {0x63220000, "Snapshot@Snapshot@Attribute@P/P@List", "1,,E,,n,n,n", "1,A,S,,n,n,n"},
+        {0x63320000, "Snapshot@Wipe Snapshot@P/P@List", "1,,E", "1,A,S"},
+        {0x63520000, "Snapshot@Key Snapshot@Attribute@M/E-1@Key2@List", "1,,E", "1,A,S"},
+        {0x62220000, "Effect@Effect@Attribute@List@GPI", "1,E,,U,N,0", "1,S,A,U,N,0"},
+        {0x62320000, "Effect@Effect@Attribute@List@DME5", "101,E,,U,N,0", "101,S,A,U,N,0"},
+    };
+    for (const auto& [page, region, empty, stored] : cases) {
+        Open(page);
+        Cursor(1, 0);
+        const auto orange = [path = region + std::string("#")](const char* line) {
+            (void)Tell(path + line);
+            return std::ranges::count(Seen({102, 373, 564, 426}), ORANGE);
+        };
+        const auto before = orange(empty);
+        EXPECT_GT(orange(stored), before) << region;
+        EXPECT_EQ(orange(empty), before) << region;
+    }
+
+    // Field by field: status, hold, dissolve, transition, GPI.
     const std::string read = "read " + LIST + "M/E-1@List";
     EXPECT_THAT(Open(0x63210000), Contains(read));
     for (int no = 1; no <= 99; no++)
@@ -215,30 +236,6 @@ TEST_F(RegisterPages, ALineShowsItsAttributesInItsRegionOnly)
     EXPECT_EQ(Cell(1, 6, 6), "On");
     (void)Tell("Snapshot@Snapshot@Clip Event@User1@List#FM5,7,ON,OFF,OFF,CLIP,0,10");
     EXPECT_EQ(Cell(1, 6, 6), "");
-}
-
-// Below the list: the regions in grey, but orange where they hold the register at the cursor and
-// are not chosen.
-TEST_F(RegisterPages, TheStripShowsWhichRegionsHoldTheRegister)
-{
-    static const std::tuple<uint32_t, const char*, const char*, const char*> cases[] = {
-        {0x63220000, "Snapshot@Snapshot@Attribute@P/P@List", "1,,E,,n,n,n", "1,A,S,,n,n,n"},
-        {0x63320000, "Snapshot@Wipe Snapshot@P/P@List", "1,,E", "1,A,S"},
-        {0x63520000, "Snapshot@Key Snapshot@Attribute@M/E-1@Key2@List", "1,,E", "1,A,S"},
-        {0x62220000, "Effect@Effect@Attribute@List@GPI", "1,E,,U,N,0", "1,S,A,U,N,0"},
-        {0x62320000, "Effect@Effect@Attribute@List@DME5", "101,E,,U,N,0", "101,S,A,U,N,0"},
-    };
-    for (const auto& [page, region, empty, stored] : cases) {
-        Open(page);
-        Cursor(1, 0);
-        const auto orange = [path = region + std::string("#")](const char* line) {
-            (void)Tell(path + line);
-            return std::ranges::count(Seen({102, 373, 564, 426}), ORANGE);
-        };
-        const auto before = orange(empty);
-        EXPECT_GT(orange(stored), before) << region;
-        EXPECT_EQ(orange(empty), before) << region;
-    }
 }
 
 TEST_F(RegisterPages, OperationsGoToAllSelectedRegionsInRuns)
