@@ -10,6 +10,7 @@
 // One at a time; follows while it lives.
 struct Display {
     static inline SDL_Surface* shown = nullptr;
+    static inline int handed = 0; // pixels
 
     Display()
     {
@@ -27,13 +28,14 @@ struct Display {
     static std::string Lacks()
     {
         int x1 = Screen->w, y1 = Screen->h, x2 = -1, y2 = -1;
+        const size_t bytes = Screen->format->BytesPerPixel;
         for (int y = 0; y < Screen->h; y++) {
-            if (memcmp(at(Screen, 0, y), at(shown, 0, y), size_t(Screen->w) * 4) == 0)
+            if (memcmp(at(Screen, 0, y), at(shown, 0, y), size_t(Screen->w) * bytes) == 0)
                 continue;
             y1 = std::min(y1, y);
             y2 = y;
             for (int x = 0; x < Screen->w; x++)
-                if (memcmp(at(Screen, x, y), at(shown, x, y), 4) != 0) {
+                if (memcmp(at(Screen, x, y), at(shown, x, y), bytes) != 0) {
                     x1 = std::min(x1, x);
                     x2 = std::max(x2, x);
                 }
@@ -46,12 +48,13 @@ struct Display {
   private:
     static const uint8_t* at(const SDL_Surface* s, int x, int y)
     {
-        return static_cast<const uint8_t*>(s->pixels) + y * s->pitch + 4 * x;
+        return static_cast<const uint8_t*>(s->pixels) + y * s->pitch + s->format->BytesPerPixel * x;
     }
     static void hand_over(int x, int y, int w, int h)
     {
         SDL_Rect from = {Sint16(x), Sint16(y), Uint16(w), Uint16(h)};
         SDL_Rect to = from;
         SDL_BlitSurface(Screen, &from, shown, &to);
+        handed += w * h;
     }
 };
