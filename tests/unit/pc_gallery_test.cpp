@@ -63,6 +63,14 @@ TEST_F(GalleryPages, BoxesAndListsAreFilledAsTheirKeysSay)
         EXPECT_EQ(Cells(1, row, 0, 5), cells);
         EXPECT_EQ(Cells(2, row, 0, 3), std::to_string(row + 1) + "|M/E-1|P/P");
     }
+    const Rect title = {320, 78, 349, 97}; // of the column "A"
+    Paint();
+    const auto plain = PixelsIn(title);
+    for (const bool is_grey : {true, false}) {
+        (void)Press(52);
+        Pass(200);
+        EXPECT_EQ(PixelsIn(title) != plain, is_grey);
+    }
 }
 
 TEST_F(GalleryPages, CellsAndTabsFollowTheirKeysAndForgetThemWithThePage)
