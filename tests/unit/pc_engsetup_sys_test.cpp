@@ -170,6 +170,7 @@ struct LockPage : SetupTest {
 
 TEST_F(LockPage, ItemsAreOfOneGroupAndGoIntoTheFile)
 {
+    EXPECT_EQ(RowOf("7311"), 0);
     EXPECT_EQ(RowOf("7317.1"), -1) << "the lock's own page";
     (void)PushIn(RowOf("7313"), BTN_LOCK_ITEM);
     EXPECT_EQ(Row(RowOf("7313"), 4), "7313|System|Format|Lock");

@@ -37,6 +37,29 @@ TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpensAndACellItself)
     }
 }
 
+TEST_F(StatusPage, EachThingThatThereIsHasItsLine)
+{
+    GL_ClipStoreSupportMode = 0;
+    SYS_MyDme2 = 1;
+    for (const auto& [page, count, first, last] : {std::tuple{KEY, 48, "M/E-1 Key1", "P/P DSK8"},
+                                                   {WIPE, 12, "M/E-1", "P/P Sub"},
+                                                   {0x33140000u, 48, "Aux 1", "Aux 48"},
+                                                   {OUTPUTS, 8, "FM1", "FM8"},
+                                                   {0x33150000u, 8, "Mon 1", "Mon 8"},
+                                                   {EFFECTS, 8, "DME1", "DME8"},
+                                                   {0x33170000u, 3, "PNL1", "DME1"},
+                                                   {0x33170001u, 12, "Dev1", "Dev12"}}) {
+        (void)Open(page);
+        EXPECT_EQ(LS_GetNData(1), count) << first;
+        EXPECT_EQ(Cell(1, 0, 0), first);
+        EXPECT_EQ(Cell(1, count - 1, 0), last);
+        (void)Tell("Global Effect@Ch5-Ch8@Priority@Ch5#3");
+        EXPECT_EQ(Cell(1, 4, 3) == "3", page == EFFECTS) << first;
+    }
+    SYS_MyDme2 = -1;
+    EXPECT_THAT(Leave(), Contains("put Device@DDR/VTR@Cueup&Play@Tally Back#false"));
+}
+
 TEST_F(StatusPage, APageAboutOneOfManyOpensAboutTheChosenOne)
 {
     for (const uint32_t list : {0x33140000u, 0x33150000u}) {
@@ -78,13 +101,15 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
         (void)Tell(status + "#" + value);
         EXPECT_EQ(Cells(1, 11, 1, 3), shown) << value;
     }
+    (void)Tell("Frame Mem 2@Clip/Still@Play@FM12#1,30");
+    EXPECT_EQ(Cell(1, 11, 4), "O");
     LS_SetNowLine(1, 11);
     EXPECT_THAT(Press(49), Contains("put Frame Mem 2@Clip/Still@Out Pair Select#FM11&12"));
     EXPECT_EQ(GL_CreatePage, 0x21110000u);
     GL_ClipStoreSupportMode = 0;
     (void)Open(OUTPUTS); // what was followed is left, whatever has become of the memory
     (void)Tell("Frame Mem@Recall@Recall Thumbnail@FM8#MOPENING");
-    EXPECT_EQ(Cell(1, 7, 2), "MOPENING");
+    EXPECT_EQ(Cells(1, 7, 1, 2), "Recall|MOPENING");
     LS_SetNowLine(1, 7);
     Pass(1000);
     EXPECT_THAT(Press(49), Contains("put Frame Mem@Recall@Recall Thumbnail@Select#FM7&8"));
