@@ -60,13 +60,22 @@ TEST_F(Config, KeysFillTheirVariablesAndAreEchoed)
                     "tm3.ini: LogLevel = [2]\n");
 }
 
-TEST_F(Config, OtherLinesChangeNothing)
+TEST_F(Config, OtherLinesChangeNothingAndTheRestOfALongOneIsNone)
 {
     GL_DebugMode = 1;
     for (const char* line : {"#DebugMode=0", "DebugMode", " DebugMode=0", "=", "\r\n"}) {
         EXPECT_EQ(Load(line), "") << line;
         EXPECT_EQ(GL_DebugMode, 1) << line;
     }
+
+    GL_DebugMode = 0;
+    const std::string head = "I/FAddress=";
+    Load(head + std::string(256 - head.size(), 'a') + "DebugMode=1\nChatteringTime=7\n");
+    EXPECT_STREQ(GL_ServerAddress, std::string(63, 'a').c_str());
+    EXPECT_EQ(GL_DebugMode, 0);
+    EXPECT_EQ(GL_ChatteringTime, 7);
+    Load("ChatteringTime=99999999999999999999\n");
+    EXPECT_EQ(GL_ChatteringTime, 2147483647);
 }
 
 TEST_F(Config, DebugKeysOfTheEffectsUnitsNeedTheirModeBeforeThem)
@@ -77,15 +86,4 @@ TEST_F(Config, DebugKeysOfTheEffectsUnitsNeedTheirModeBeforeThem)
     EXPECT_EQ(GL_DmeModel[1], 8);
     EXPECT_EQ(Load("DMEDebugSdiIF1=1\n"), "") << "the mode does not outlive its load";
     EXPECT_EQ(GL_DmeSdiIF[0], 0);
-}
-
-TEST_F(Config, LongLinesAreCutAndTheirRestIsNoLine)
-{
-    const std::string head = "I/FAddress=";
-    Load(head + std::string(256 - head.size(), 'a') + "DebugMode=1\nChatteringTime=7\n");
-    EXPECT_STREQ(GL_ServerAddress, std::string(63, 'a').c_str());
-    EXPECT_EQ(GL_DebugMode, 0);
-    EXPECT_EQ(GL_ChatteringTime, 7);
-    Load("ChatteringTime=99999999999999999999\n");
-    EXPECT_EQ(GL_ChatteringTime, 2147483647);
 }

@@ -79,9 +79,8 @@ TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
     }
     DEV_Swr[0].aspect[2] = DEV_Swr[1].aspect[3] = 0; // the second switcher's has no part
     DEV_Dme[0].aspect[1] = DEV_Dme[1].aspect[3] = 0; // channels 2 and 8
-    static const std::pair<int, int> channels[] = {{0, 1},    {1, 1},    {2, 0},   {0x82, 0},
-                                                   {0x80, 0}, {0x90, 1}, {0x40, 1}};
-    for (const auto& [reference, wide] : channels) {
+    for (const auto& [reference, wide] :
+         {std::pair{0, 1}, {1, 1}, {2, 0}, {0x82, 0}, {0x80, 0}, {0x90, 1}, {0x40, 1}}) {
         SYS_DMEReference = reference;
         DeviceStructure();
         EXPECT_EQ(SYS_ScreenAspect, wide) << std::hex << reference;
@@ -115,10 +114,9 @@ TEST_F(Devices, RubbishInTheTablesIsPassedOver)
 
 TEST_F(Devices, ReferenceChannelPicksTheUnit)
 {
-    static const std::pair<int, int> cases[] = {
-        {0x00, 1}, {0x08, 1}, {0x80, 2}, {0x90, 2}, {0x18, 1}};
     DeviceStructure();
-    for (const auto& [channels, unit] : cases) {
+    for (const auto& [channels, unit] :
+         {std::pair{0x00, 1}, {0x08, 1}, {0x80, 2}, {0x90, 2}, {0x18, 1}}) {
         SYS_DMEReference = channels;
         EXPECT_EQ(getDmeReferenceUnit(), unit) << std::hex << channels;
         EXPECT_EQ(getDmeReferenceModel(), 1 << unit) << std::hex << channels;

@@ -110,17 +110,15 @@ TEST_F(Info, ALostServerTakesAllProcessorsWithIt)
 
 TEST_F(Info, ProgressOnlyGrowsUntilItIsCleared)
 {
-    static const std::tuple<const char*, const char*, int, int> cases[] = {
-        {"INFORMATION@PNL" PROGRESS, "40,100", 0, 16384},
-        {"INFORMATION@PNL" PROGRESS, "20,100", 0, 16384}, // late
-        {"INFORMATION@PNL" PROGRESS, "200,100", 0, 65536},
-        {"INFORMATION@PNL" PROGRESS, "0,0", 0, 0},
-        {"INFORMATION@SWR" PROGRESS, "SWR2,80,100", 2, 32768},
-        {"INFORMATION@SWR" PROGRESS, "SWR1,fffffffe,ffffffff", 1, 65535},
-        {"INFORMATION@DME" PROGRESS, "DME4,80,100", 6, 32768},
-        {"INFORMATION@DME" PROGRESS, "DME4,-1,-1", 6, 0},
-    };
-    for (const auto& [path, value, unit, expected] : cases) {
+    for (const auto& [path, value, unit, expected] :
+         {std::tuple{"INFORMATION@PNL" PROGRESS, "40,100", 0, 16384},
+          {"INFORMATION@PNL" PROGRESS, "20,100", 0, 16384}, // late
+          {"INFORMATION@PNL" PROGRESS, "200,100", 0, 65536},
+          {"INFORMATION@PNL" PROGRESS, "0,0", 0, 0},
+          {"INFORMATION@SWR" PROGRESS, "SWR2,80,100", 2, 32768},
+          {"INFORMATION@SWR" PROGRESS, "SWR1,fffffffe,ffffffff", 1, 65535},
+          {"INFORMATION@DME" PROGRESS, "DME4,80,100", 6, 32768},
+          {"INFORMATION@DME" PROGRESS, "DME4,-1,-1", 6, 0}}) {
         Deliver(path, value);
         EXPECT_EQ(FileProc_Prog[unit], expected) << path << "#" << value;
     }

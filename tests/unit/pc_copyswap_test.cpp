@@ -55,9 +55,9 @@ TEST_F(CopyPage, OneCommandCarriesTheWholeChoice)
     }
 }
 
-TEST_F(CopyPage, NothingIsGivenToItself)
+TEST_F(CopyPage, NothingIsGivenToItselfAndUndoIsWhatTheServerCanUndo)
 {
-    (void)Open(KEY);
+    const Lines opened = Open(KEY);
     EXPECT_EQ(Usable({COPY, SWAP}), std::vector<int>{}) << "nothing is chosen yet";
     EXPECT_EQ(LS_GetStatus(2, 0, 0), 1) << "grey";
     Choose(2, 1);
@@ -68,6 +68,18 @@ TEST_F(CopyPage, NothingIsGivenToItself)
     EXPECT_EQ(Press(COPY).size() + Press(SWAP).size(), 0u);
     Choose(1, 48);
     EXPECT_EQ(Usable({COPY}), std::vector<int>{}) << "no such row";
+
+    EXPECT_EQ(Held(opened, "M/E-2@Key3@Type@Key Type"), 1);
+    TellAll("M/E-2@Key3@", {"Type@Key Type#Key Wipe Pattern", "Status@Source Name#CG 1"});
+    for (const int list : {1, 2})
+        EXPECT_EQ(Cells(list, 10, 1, 2), "Key Wipe|CG 1");
+    (void)Tell("Copy/Swap@Key@Undo Enable#false");
+    EXPECT_EQ(Usable({UNDO}), std::vector<int>{});
+    (void)Tell("Copy/Swap@Key@Undo Enable#true");
+    EXPECT_THAT(Press(UNDO), ElementsAre("put Copy/Swap@Key@Undo#true"));
+    EXPECT_EQ(Held(opened, "M/E-5@Key8@Status@Source Name") +
+                  Held(Leave(), "M/E-5@Key8@Status@Source Name"),
+              0);
 }
 
 TEST_F(CopyPage, OnlyWhatTheSystemHasIsOffered)
@@ -80,20 +92,4 @@ TEST_F(CopyPage, OnlyWhatTheSystemHasIsOffered)
     (void)Open(KEY);
     EXPECT_EQ(LS_GetNData(1), 4 + 8 + 8 + 8);
     EXPECT_EQ(Cell(1, 4, 0), "M/E-2 Key1");
-}
-
-TEST_F(CopyPage, BothListsShowWhatTheThingsAreAndUndoWhatTheServerCanUndo)
-{
-    const Lines opened = Open(KEY);
-    EXPECT_EQ(Held(opened, "M/E-2@Key3@Type@Key Type"), 1);
-    TellAll("M/E-2@Key3@", {"Type@Key Type#Key Wipe Pattern", "Status@Source Name#CG 1"});
-    for (const int list : {1, 2})
-        EXPECT_EQ(Cells(list, 10, 1, 2), "Key Wipe|CG 1");
-    (void)Tell("Copy/Swap@Key@Undo Enable#false");
-    EXPECT_EQ(Usable({UNDO}), std::vector<int>{});
-    (void)Tell("Copy/Swap@Key@Undo Enable#true");
-    EXPECT_THAT(Press(UNDO), ElementsAre("put Copy/Swap@Key@Undo#true"));
-    EXPECT_EQ(Held(opened, "M/E-5@Key8@Status@Source Name") +
-                  Held(Leave(), "M/E-5@Key8@Status@Source Name"),
-              0);
 }

@@ -43,12 +43,10 @@ TEST_F(DevicePage, TheFilesOfTheChosenDeviceAreListedAndLoaded)
 
 TEST_F(DevicePage, TheServerTellsWhileThePageStands)
 {
-    static const std::pair<uint32_t, const char*> cases[] = {
-        {CONTROL, "Device@DDR/VTR@Cueup&Play@Tally Back"},
-        {0x53220000, "Device@DDR/VTR@Timeline@Tally Back"},
-        {0x53120000, "Device@P-BUS Timeline@Tally Back"},
-        {0x53320000, "Device@GPI Timeline@Tally Back"}};
-    for (const auto& [page, path] : cases) {
+    for (const auto& [page, path] : {std::pair{CONTROL, "Device@DDR/VTR@Cueup&Play@Tally Back"},
+                                     {0x53220000, "Device@DDR/VTR@Timeline@Tally Back"},
+                                     {0x53120000, "Device@P-BUS Timeline@Tally Back"},
+                                     {0x53320000, "Device@GPI Timeline@Tally Back"}}) {
         const std::string put = std::string("put ") + path;
         EXPECT_THAT(Puts(Open(page)), Contains(put + "#true"));
         EXPECT_GE(LS_GetNData(1), 8) << path;

@@ -40,7 +40,7 @@ struct DiagPage : TablePage {
     }
 };
 
-TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAll)
+TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAllAndRefreshWaitsForTheUnits)
 {
     Fan("OK,NG");
     (void)Tell(std::string(SWR) + "Reference Status#SWR1,OK,None");
@@ -57,6 +57,16 @@ TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAll)
     Fan("OK,OK");
     (void)Tell(std::string(SWR) + "Reference Status#SWR1,OK,Exist");
     EXPECT_THAT(Rows(), IsEmpty());
+
+    Fan("NG");
+    EXPECT_EQ(Rows().size(), 1u);
+    EXPECT_THAT(Press(49), Contains("put Info@Self Diagnosis Notice@PNL#true"));
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 1);
+    Fan("NG,NG");
+    Pass(10);
+    EXPECT_EQ(LS_GetNData(1), 1);
+    EXPECT_EQ(Rows().size(), 2u);
 }
 
 TEST_F(DiagPage, AClassShowsWhatItsUnitsHaveReported)
@@ -81,21 +91,6 @@ TEST_F(DiagPage, AClassShowsWhatItsUnitsHaveReported)
     DEV_MySwr[0] = switcher;
     SYS_MySwrMax = switchers;
     EXPECT_EQ(Rows().size(), 1u);
-}
-
-// While the units answer the list stands still: it must not blink.
-TEST_F(DiagPage, RefreshWaitsForTheUnits)
-{
-    Fan("NG");
-    Open(PAGE_DIAG_STATUS);
-    EXPECT_EQ(Rows().size(), 1u);
-    EXPECT_THAT(Press(49), Contains("put Info@Self Diagnosis Notice@PNL#true"));
-    Pass(10);
-    EXPECT_EQ(LS_GetNData(1), 1);
-    Fan("NG,NG");
-    Pass(10);
-    EXPECT_EQ(LS_GetNData(1), 1);
-    EXPECT_EQ(Rows().size(), 2u);
 }
 
 TEST_F(DiagPage, WhatWasTouchedIsDeletedWhateverComesMeanwhile)

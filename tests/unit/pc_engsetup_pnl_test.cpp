@@ -127,7 +127,7 @@ TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
     }
 }
 
-TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReached)
+TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReachedAndThePanelAsksForOne)
 {
     GL_XptButtonCount = 40;
     (void)Tell(PANEL "Prefs/Utility@Panel Select#35,2");
@@ -144,10 +144,7 @@ TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReached)
     EXPECT_EQ(Held(lines, KEY2 "Action Set@2@16"), -1);
     EXPECT_EQ(Held(lines, KEY2 "Action Set@10@16"), 1) << "its sub side";
     GL_XptButtonCount = GL_XptAsgnSelectButtonID = 0;
-}
 
-TEST_F(PanelSetup, ThePanelAsksForAButton)
-{
     (void)Tell(PANEL "Prefs/Utility@Panel Select#7,1");
     (void)Open(0x73240001);
     EXPECT_THAT(PushIn(2, BTN_ASSIGN_SET),

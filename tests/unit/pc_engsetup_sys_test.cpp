@@ -197,19 +197,17 @@ TEST_F(LockPage, ItemsAreOfOneGroupAndGoIntoTheFile)
 
 TEST_F(LockPage, PasswordsOpenItOrDoNot)
 {
-    static const std::tuple<const char*, const char*, bool> cases[] = {
-        {"", "", true},
-        {"", "x", false},
-        {"secret", "secret", true},
-        {"secret", "Secret", false},
-        {"secret", "secret1", false},
-        {"secret", "QPD7300WREN", true},
-        {"secret", "QPD7300WRENX", false},
-        {"secret", "", false},
-        {"1234567890123456", "12345678901234567", true}, // cut at 16
-        {"1234567890123456", "123456789012345", false},
-    };
-    for (const auto& [stored, entered, is_right] : cases) {
+    for (const auto& [stored, entered, is_right] :
+         {std::tuple{"", "", true},
+          {"", "x", false},
+          {"secret", "secret", true},
+          {"secret", "Secret", false},
+          {"secret", "secret1", false},
+          {"secret", "QPD7300WREN", true},
+          {"secret", "QPD7300WRENX", false},
+          {"secret", "", false},
+          {"1234567890123456", "12345678901234567", true}, // cut at 16
+          {"1234567890123456", "123456789012345", false}}) {
         SetupLock.lock = 0;
         snprintf(SetupLock.password, sizeof SetupLock.password, "%s", stored);
         EXPECT_EQ(Lock(entered), is_right) << stored << " " << entered;
@@ -331,17 +329,14 @@ TEST_F(SystemPage, TextsForTheNetworkDriveAreExamined)
 {
     (void)Open(0x73110098);
     // Sent behind "put Info@System Setup Data@NFS "; empty: refused.
-    static const std::tuple<int, const char*, const char*> cases[] = {
-        {33, "10.0.0.9", "Server#10.0.0.9"},
-        {33, "a;b", ""},
-        {33, "a b", ""},
-        {33, "-h", ""},
-        {34, "/files", "Mount Point#/files"},
-        {34, "/a b", ""},
-        {35, "soft,ro", "Mount Option#soft,ro"},
-        {35, "soft;x", ""},
-    };
-    for (const auto& [key, text, sent] : cases) {
+    for (const auto& [key, text, sent] : {std::tuple{33, "10.0.0.9", "Server#10.0.0.9"},
+                                          {33, "a;b", ""},
+                                          {33, "a b", ""},
+                                          {33, "-h", ""},
+                                          {34, "/files", "Mount Point#/files"},
+                                          {34, "/a b", ""},
+                                          {35, "soft,ro", "Mount Option#soft,ro"},
+                                          {35, "soft;x", ""}}) {
         (void)Push(key);
         for (int i = 0; i < 40; i++)
             SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);

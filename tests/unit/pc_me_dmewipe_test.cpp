@@ -179,7 +179,7 @@ TEST_F(MeDmeWipe, LampsAndBoxesAreThoseOfTheLeadingChannel)
 
 // --- Modify: knobs ---
 
-TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsSteps)
+TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsStepsAndACornerIsLit)
 {
     static const std::pair<const char*, const char*> cases[] = {
         {"1", "8.00"},      {"-2", "-32.00"},     {"18", "11536.00"},
@@ -190,6 +190,16 @@ TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsSteps)
         EXPECT_EQ(Tell(std::string("Panel@Common@Knob1#") + counts),
                   Sent("put", {std::string("Position@Position@V@1#diff") + value}));
     EXPECT_THAT(Tell("Panel@Common@Knob1#0"), IsEmpty());
+
+    static const std::tuple<const char*, const char*, int> corners[] = {
+        {"-100", "100", 33}, {"100", "100", 34},  {"-100.00", "-100.00", 49},
+        {"100", "-100", 50}, {"100", "-99.9", 0}, {"nan", "-100", 50}};
+    for (const auto& [h, v, lit] : corners) {
+        TellAll(root + "@Modify@Position@Position@",
+                {std::string("H@1#") + h, std::string("V@1#") + v});
+        for (int id : {33, 34, 49, 50})
+            EXPECT_EQ(BT_GetOnOff(id), id == lit) << h << "," << v;
+    }
 }
 
 TEST_F(MeDmeWipe, AllChosenChannelsFollowAKnob)
@@ -310,20 +320,6 @@ TEST_F(MeDmeWipe, KeysSendForTheChosenChannelsAndACropForThoseThatHaveIt)
     EXPECT_EQ(Enter(1, -10).size(), 4u);
     for (const auto& [button, puts] : cases)
         EXPECT_EQ(Puts(Press(button)), Sent("put", puts)) << button;
-}
-
-TEST_F(MeDmeWipe, ACornerIsLitWhileThePictureStandsInIt)
-{
-    static const std::tuple<const char*, const char*, int> cases[] = {
-        {"-100", "100", 33}, {"100", "100", 34},  {"-100.00", "-100.00", 49},
-        {"100", "-100", 50}, {"100", "-99.9", 0}, {"nan", "-100", 50}};
-    OpenWith(MODIFY_ME1, "M/E-1@DME Wipe", "1003");
-    for (const auto& [h, v, lit] : cases) {
-        TellAll(root + "@Modify@Position@Position@",
-                {std::string("H@1#") + h, std::string("V@1#") + v});
-        for (int id : {33, 34, 49, 50})
-            EXPECT_EQ(BT_GetOnOff(id), id == lit) << h << "," << v;
-    }
 }
 
 // --- Modify: which wipe there is ---
@@ -540,14 +536,13 @@ TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
 
 TEST_F(MeDmeWipe, TheListShowsWhatIsAskedForAndStaysOnItsSetOfChannels)
 {
-    static const std::tuple<int, const char*, const char*> cases[] = {{33, "1003", "1001"},
-                                                                      {34, "1003", "2001"},
-                                                                      {35, "9001", "9001"},
-                                                                      {34, "8251", "8001"},
-                                                                      {33, "2003", "1001"}};
     const std::string path = "M/E-5@DME Wipe@Pattern Select@Pattern#";
     Open(0x82610000);
-    for (const auto& [button, pattern, number] : cases) {
+    for (const auto& [button, pattern, number] : {std::tuple{33, "1003", "1001"},
+                                                  {34, "1003", "2001"},
+                                                  {35, "9001", "9001"},
+                                                  {34, "8251", "8001"},
+                                                  {33, "2003", "1001"}}) {
         Tell(path + pattern);
         (void)Press(button);
         EXPECT_THAT(Touch(160 + 20, 89 + 20), Contains("put " + path + number)); // first cell

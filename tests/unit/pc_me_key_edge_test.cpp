@@ -41,22 +41,15 @@ TEST_F(KeyEdgePage, OffersWhatThisEdgeOfThisKeyHas)
 }
 
 // The edge comes back when either setting goes, whichever was told last.
-TEST_F(KeyEdgePage, ALostEdgeComesBack)
+TEST_F(KeyEdgePage, ALostEdgeComesBackAndANumberBeingEnteredOutlivesATallyOfOtherThings)
 {
     Open(0x11120000);
     TellAll("M/E-1@Key1@", {"Edge@Edge#Border", "Edge@Fine Key#true", "Type@Key Type#Chroma"});
     EXPECT_THAT(Usable({18, 20, 21, 49}), IsEmpty());
     Tell("M/E-1@Key1@Type@Key Type#Linear");
     EXPECT_THAT(Usable({18, 20, 21, 49}), ElementsAre(18, 20, 21, 49));
-}
-
-// The operator enters a width while the edge changes elsewhere.
-TEST_F(KeyEdgePage, ANumberBeingEnteredOutlivesATallyThatLeavesTheBoxesAsTheyAre)
-{
     const string edge = "M/E-1@Key1@Edge@";
-    Open(0x11120000);
-    TellAll("M/E-1@Key1@", {"Type@Key Type#Linear", "Edge@Separate Edge#false",
-                            "Edge@Fine Key#false", "Edge@Edge#Border"});
+    TellAll(edge, {"Separate Edge#false", "Fine Key#false"});
     (void)Press(18);
     Tell(edge + "Edge Type@Border@Width#20");
     (void)Touch(750, 68 + 82);

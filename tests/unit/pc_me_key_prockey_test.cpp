@@ -92,9 +92,8 @@ TEST_F(KeyProcessCrop, TheFillNeedsABorderAndItsSecondColorAMix)
 // The banks of the two page groups are told in different ways: by address, or rounded and exact.
 TEST_F(KeyProcessCrop, OneValueBecomesTheEdges)
 {
-    static const std::pair<uint32_t, const char*> pages[] = {{0x11160003, "M/E-1@Key1"},
-                                                             {0x82360003, "M/E-5@Key3"}};
-    for (const auto& [page, key] : pages) {
+    for (const auto& [page, key] :
+         {std::pair{0x11160003u, "M/E-1@Key1"}, {0x82360003, "M/E-5@Key3"}}) {
         OpenCrop(page, key);
         TellAll(path, {"@Left#-20", "@Top#60"});
         EXPECT_EQ(Drag(1, 735), PutOf({"Right#73.75", "Left#-73.75"}));

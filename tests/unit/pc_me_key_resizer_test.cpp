@@ -110,7 +110,7 @@ TEST_F(KeyResizerPages, TheButtonsOfTheRotationShareOneSumOfAxes)
     }
 }
 
-TEST_F(KeyResizerPages, TheRotationComesBackWithTheAxesItHad)
+TEST_F(KeyResizerPages, TheRotationComesBackWithTheAxesItHadAndAnAxisThatDoesNotTurnHasNoRange)
 {
     Open(0x11150005);
     Tell("M/E-1@Key1@Processed Key@Rotation#2");
@@ -121,30 +121,7 @@ TEST_F(KeyResizerPages, TheRotationComesBackWithTheAxesItHad)
     EXPECT_EQ(BT_GetStatus(20), BT_OFF);
     EXPECT_TRUE(Disabled().contains(20));
     EXPECT_THAT(Press(17), Contains("put M/E-1@Key1@Processed Key@Rotation#2"));
-}
 
-TEST_F(KeyResizerPages, AShownColumnFollowsTheRotation)
-{
-    // A button, and a value that there is only while the key turns.
-    static const std::tuple<uint32_t, int, const char*> cases[] = {
-        {0x15250000, 17, "Resizer@Depth"},
-        {0x15250004, 17, "Resizer@Mask@Box@Angle"},
-        {0x15260000, 18, "Processed Key@Location@Z"},
-        {0x15260000, 19, "Processed Key@Rotation@X"},
-    };
-    const std::string key = "M/E-1@Key6@";
-    for (const auto& [page, button, turned] : cases) {
-        const std::string add = "add " + key + turned;
-        Tell(key + "Processed Key@Rotation#0");
-        Open(page);
-        TellAll(key, {"Processed Key@Resizer#true", "Processed Key@Processed Key#true"});
-        EXPECT_THAT(Press(button), Not(Contains(add)));
-        EXPECT_THAT(Tell(key + "Processed Key@Rotation#3"), Contains(add));
-    }
-}
-
-TEST_F(KeyResizerPages, AnAxisThatDoesNotTurnHasNoRange)
-{
     Tell("M/E-1@Key1@Processed Key@Rotation#1");
     Open(0x11150005);
     (void)Press(19);
@@ -154,4 +131,21 @@ TEST_F(KeyResizerPages, AnAxisThatDoesNotTurnHasNoRange)
     EXPECT_THAT(Drag(2, 794), Not(Contains(testing::StartsWith("put"))));
     Tell("M/E-1@Key1@Processed Key@Rotation#3");
     EXPECT_THAT(Drag(2, 794), Contains("put " + path + "Y#360.00"));
+}
+
+TEST_F(KeyResizerPages, AShownColumnFollowsTheRotation)
+{
+    const std::string key = "M/E-1@Key6@";
+    // A button, and a value that there is only while the key turns.
+    for (const auto& [page, button, turned] : {std::tuple{0x15250000u, 17, "Resizer@Depth"},
+                                               {0x15250004, 17, "Resizer@Mask@Box@Angle"},
+                                               {0x15260000, 18, "Processed Key@Location@Z"},
+                                               {0x15260000, 19, "Processed Key@Rotation@X"}}) {
+        const std::string add = "add " + key + turned;
+        Tell(key + "Processed Key@Rotation#0");
+        Open(page);
+        TellAll(key, {"Processed Key@Resizer#true", "Processed Key@Processed Key#true"});
+        EXPECT_THAT(Press(button), Not(Contains(add)));
+        EXPECT_THAT(Tell(key + "Processed Key@Rotation#3"), Contains(add));
+    }
 }

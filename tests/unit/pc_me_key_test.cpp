@@ -30,14 +30,12 @@ TEST_F(KeyTypePage, SettingsOfEachTypeAreFollowedAndTheChosenOnesShown)
 TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
 {
     // The last column: GL_FillSourceAssignMode on the way; 7 untouched
-    static const std::tuple<uint32_t, const char*, int, uint32_t, int> cases[] = {
-        {0x12310000, "M/E-2@Key3@Type@Key Type#Luminance", 38, 0x12310003, 1},
-        {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 38, 0x81510000, 7},
-        {0x12310000, "M/E-2@Key3@Type@Key Type#Key Wipe Pattern", 38, 0x12370002, 7},
-        {0x85210000, "M/E-4@Key6@Type@Key Fill#Key Bus", 51, 0x85210003, 0},
-        {0x14410000, "PGM/PST@DSK4@Type@Key Fill#Matte", 51, 0x14410002, 7},
-    };
-    for (const auto& [page, setting, button, target, assign] : cases) {
+    for (const auto& [page, setting, button, target, assign] :
+         {std::tuple{0x12310000u, "M/E-2@Key3@Type@Key Type#Luminance", 38, 0x12310003u, 1},
+          {0x85210000, "M/E-4@Key6@Type@Key Type#Wipe Pattern", 38, 0x81510000, 7},
+          {0x12310000, "M/E-2@Key3@Type@Key Type#Key Wipe Pattern", 38, 0x12370002, 7},
+          {0x85210000, "M/E-4@Key6@Type@Key Fill#Key Bus", 51, 0x85210003, 0},
+          {0x14410000, "PGM/PST@DSK4@Type@Key Fill#Matte", 51, 0x14410002, 7}}) {
         Open(page);
         Tell(setting);
         GL_FillSourceAssignMode = 7;
@@ -105,10 +103,8 @@ struct KeySignals : TablePage {
 
 TEST_F(KeySignals, ATouchIsPutToTheBusThatIsAssigned)
 {
-    static const std::pair<uint32_t, const char*> cases[] = {
-        {0x11100000, "put M/E-1@Key1@Type@Signal Select@"},
-        {0x85310003, "put M/E-4@Key7@Type@Signal Select@"}};
-    for (const auto& [page, path] : cases) {
+    for (const auto& [page, path] : {std::pair{0x11100000u, "put M/E-1@Key1@Type@Signal Select@"},
+                                     {0x85310003, "put M/E-4@Key7@Type@Signal Select@"}}) {
         GL_FillSourceAssignMode = 1; // as the key type page or a cell leaves it
         Open(page);
         EXPECT_EQ(BT_GetStatus(38), BT_ON);
@@ -172,12 +168,11 @@ TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
 
 TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
 {
-    static const std::tuple<uint32_t, const char*, int, uint32_t> cases[] = {
-        {0x11310002, "M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern#", 37, 0x11310004},
-        {0x85320001, "M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern#", 37, 0x85320002},
-        {0x14220003, "PGM/PST@DSK2@Edge@Zabton@Pattern#", 21, 0x14220004},
-    };
-    for (const auto& [page, path, button, target] : cases) {
+    for (const auto& [page, path, button, target] :
+         {std::tuple{0x11310002u, "M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern#", 37,
+                     0x11310004u},
+          {0x85320001, "M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern#", 37, 0x85320002},
+          {0x14220003, "PGM/PST@DSK2@Edge@Zabton@Pattern#", 21, 0x14220004}}) {
         Open(page);
         Tell(string(path) + "67");
         EXPECT_EQ(Caption(button), "Pattern\nSelect\n67");

@@ -28,14 +28,12 @@ TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
 
 TEST_F(KeyTransitionPage, PatternSelectLeadsToWhatTheTypeIsMadeOf)
 {
-    static const std::tuple<uint32_t, const char*, int, uint32_t> cases[] = {
-        {0x11170100, "M/E-1@Key1@Transition@ON Transition Type#Wipe", 36, 0x11170004},
-        {0x82470100, "M/E-5@Key4@Transition@ON Transition Type#DME Wipe", 36, 0x82470006},
-        {0x14270200, "PGM/PST@DSK2@Transition@ON Transition Type#Wipe", 22, 0x14270004},
-        {0x14270200, "PGM/PST@DSK2@Transition@OFF Transition Type#Wipe", 38, 0x14270005},
-        {0x15370200, "M/E-1@Key7@Transition@OFF Transition Type#DME Wipe", 38, 0x15370006},
-    };
-    for (const auto& [page, type, button, target] : cases) {
+    for (const auto& [page, type, button, target] :
+         {std::tuple{0x11170100u, "M/E-1@Key1@Transition@ON Transition Type#Wipe", 36, 0x11170004u},
+          {0x82470100, "M/E-5@Key4@Transition@ON Transition Type#DME Wipe", 36, 0x82470006},
+          {0x14270200, "PGM/PST@DSK2@Transition@ON Transition Type#Wipe", 22, 0x14270004},
+          {0x14270200, "PGM/PST@DSK2@Transition@OFF Transition Type#Wipe", 38, 0x14270005},
+          {0x15370200, "M/E-1@Key7@Transition@OFF Transition Type#DME Wipe", 38, 0x15370006}}) {
         Open(page);
         Tell(type);
         EXPECT_EQ(PageBy(button), target) << type;

@@ -164,15 +164,13 @@ TEST_F(MeMisc, APressMovesOneKeyAndShiftsTheOthersWhenTheOrderIsKnown)
 
 TEST_F(MeMisc, TheNormalOrderIsThatOfThePagesOwnKeys)
 {
-    static const std::tuple<uint32_t, const char*, const char*, const char*, int> cases[] = {
-        {0x11730000, "M/E-1", "4,3,2,1,4,3,2,1", "1,2,3,4,4,3,2,1", 22},
-        {0x11730000, "M/E-1", "4,3,2,1", "1,2,3,4", 22},
-        {0x11730000, "M/E-1", "", "1,2,3,4", 22},
-        {0x14730001, "PGM/PST", "4,3,2,1,4,3,2,1", "4,3,2,1,1,2,3,4", 22},
-        {0x14730001, "PGM/PST", "", "1,2,3,4,1,2,3,4", 22},
-        {0x86730000, "M/E-5 SUB", "4,3,2,1,4,3,2,1", "4,3,2,1,1,2,3,4", 6},
-    };
-    for (const auto& [page, bank, value, sent, button] : cases) {
+    for (const auto& [page, bank, value, sent, button] :
+         {std::tuple{0x11730000u, "M/E-1", "4,3,2,1,4,3,2,1", "1,2,3,4,4,3,2,1", 22},
+          {0x11730000, "M/E-1", "4,3,2,1", "1,2,3,4", 22},
+          {0x11730000, "M/E-1", "", "1,2,3,4", 22},
+          {0x14730001, "PGM/PST", "4,3,2,1,4,3,2,1", "4,3,2,1,1,2,3,4", 22},
+          {0x14730001, "PGM/PST", "", "1,2,3,4,1,2,3,4", 22},
+          {0x86730000, "M/E-5 SUB", "4,3,2,1,4,3,2,1", "4,3,2,1,1,2,3,4", 6}}) {
         const std::string path = std::string(bank) + "@Misc@Key Priority@Key Priority";
         Open(page);
         if (value[0])
@@ -200,15 +198,13 @@ TEST_F(MeMisc, TheMatrixGivesBackBothListsWhicheverWasShown)
 // The bar lies on the line of the key whose page it is.
 TEST_F(MeMisc, AKeysOwnPlaceIsMarkedInItsPriorityCell)
 {
-    static const std::tuple<uint32_t, const char*, int> cases[] = {
-        {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#2,1,3,4", 1},
-        {0x14410000, "PGM/PST@Misc@Key Priority@Key Priority#2,4,3,1,1,2,3,4", 0},
-        {0x85310000, "M/E-4@Misc@Key Priority@Key Priority#1,2,3,4,1,2,4,3", 3},
-        {0x85310000, "M/E-4@Misc@Key Priority@Key Priority#1,2,3,4", -1},
-        {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#1,1,3,4", -1},
-        {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#1,2,9,4", -1},
-    };
-    for (const auto& [page, tally, line] : cases) {
+    for (const auto& [page, tally, line] :
+         {std::tuple{0x11110000u, "M/E-1@Misc@Key Priority@Key Priority#2,1,3,4", 1},
+          {0x14410000, "PGM/PST@Misc@Key Priority@Key Priority#2,4,3,1,1,2,3,4", 0},
+          {0x85310000, "M/E-4@Misc@Key Priority@Key Priority#1,2,3,4,1,2,4,3", 3},
+          {0x85310000, "M/E-4@Misc@Key Priority@Key Priority#1,2,3,4", -1},
+          {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#1,1,3,4", -1},
+          {0x11110000, "M/E-1@Misc@Key Priority@Key Priority#1,2,9,4", -1}}) {
         Open(page);
         Tell(tally);
         EXPECT_EQ(MarkedLine(), line) << tally;

@@ -42,12 +42,11 @@ TEST_F(RouterPage, ASourceIsThePresetOfTheChosenDestinationUnlessItIsNotOursToCh
     Pass(10);
     (void)Choose(1, 2);
     EXPECT_THAT(Choose(2, 1), ElementsAre("put " + DEST + "Dest3@Preset#SRC 2"));
-    static const std::tuple<const char*, const char*, bool> cases[] = {{"Protect", "PNL2", false},
-                                                                       {"Protect", "PNL1", true},
-                                                                       {"Lock", "PNL1", false},
-                                                                       {"Lock", "", false},
-                                                                       {"Free", "", true}};
-    for (const auto& [lock, owner, is_sent] : cases) {
+    for (const auto& [lock, owner, is_sent] : {std::tuple{"Protect", "PNL2", false},
+                                               {"Protect", "PNL1", true},
+                                               {"Lock", "PNL1", false},
+                                               {"Lock", "", false},
+                                               {"Free", "", true}}) {
         TellAll(DEST, {std::string("Dest3@Lock#") + lock, std::string("Dest3@Owner#") + owner});
         EXPECT_EQ(Choose(2, 0).size(), is_sent ? 1u : 0u) << lock << owner;
         EXPECT_EQ(Pane_GetActiveID() != 0, !is_sent) << lock << owner;

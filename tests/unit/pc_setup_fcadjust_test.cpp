@@ -29,8 +29,7 @@ struct FcAdjust : SetupTest {
 TEST_F(FcAdjust, AnInputOfAnotherConverterHasNoPlace)
 {
     FCInput = 1;
-    static const std::pair<int, int> cases[] = {{4, 0}, {7, 3}, {3, -1}, {8, -1}, {-1, -1}};
-    for (const auto& [n, id] : cases)
+    for (const auto& [n, id] : {std::pair{4, 0}, {7, 3}, {3, -1}, {8, -1}, {-1, -1}})
         EXPECT_EQ(fcadjust_n_to_id(n), id) << n;
 }
 
@@ -138,13 +137,10 @@ TEST_F(FcAdjust, APressGoesOutAtOnceAndOnlyTheAnswerShowsIt)
     TellAll(ADJUST, {"Convert Mode@2#2", "Aspect Type@2#Edge Crop", "EC Pos Mode@2#1",
                      "FC Signal Format#0,1,0"});
     SelectRow(2);
-    static const std::pair<int, const char*> cases[] = {
-        {34, "Convert Mode@2#1"},
-        {BTN_FCADJUST_TYPE + 1, "Aspect Type@2#Letter Box"},
-        {BTN_FCADJUST_EC_MODE, "EC Pos Mode@2#0"},
-        {BTN_FCADJUST_EC_CENTER, "EC Pos@2#0"},
-    };
-    for (const auto& [key, line] : cases)
+    for (const auto& [key, line] : {std::pair{34, "Convert Mode@2#1"},
+                                    {BTN_FCADJUST_TYPE + 1, "Aspect Type@2#Letter Box"},
+                                    {BTN_FCADJUST_EC_MODE, "EC Pos Mode@2#0"},
+                                    {BTN_FCADJUST_EC_CENTER, "EC Pos@2#0"}})
         EXPECT_THAT(Push(key), ElementsAre("put " + ADJUST + line));
     EXPECT_EQ(Row(2, 5), "3||Down||Edge Crop");
     EXPECT_THAT(Push(22), AllOf(Contains("put " + ADJUST + "Default#2"),

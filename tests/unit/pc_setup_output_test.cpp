@@ -19,17 +19,12 @@ struct OutputAssign : SetupTest {
     }
 };
 
-TEST_F(OutputAssign, ABusIsSetThenExecutedWithTheConverterItHas)
+TEST_F(OutputAssign, ABusIsSetThenExecutedAndAnInhibitedOutputRefuses)
 {
     EXPECT_EQ(Usable({BTN_OUTPUT_SET}), std::vector<int>{}) << "no bus in hand";
     Set(1, 49 + 5);
     EXPECT_EQ(Row(1, 4), "2|M/E-2 PVW*|CAM7|---");
     EXPECT_EQ(Caption(BTN_OUTPUT_BUS), "Output\nAssign\nM/E-2 PVW");
-    EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + OUTPUT + "Assign#2,M/E-2 PVW,3"));
-}
-
-TEST_F(OutputAssign, AnInhibitedOutputRefusesUntilItIsFreed)
-{
     Set(2, 9);
     EXPECT_EQ(Row(2, 4), "3|AUX3||Inhibit");
     Dismiss();
@@ -39,6 +34,7 @@ TEST_F(OutputAssign, AnInhibitedOutputRefusesUntilItIsFreed)
     (void)Push(BTN_OUTPUT_INHIBIT);
     EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + OUTPUT + "Inhibit#3,false",
                                                      "put " + OUTPUT + "Assign#1,AUX9,0",
+                                                     "put " + OUTPUT + "Assign#2,M/E-2 PVW,3",
                                                      "put " + OUTPUT + "Assign#3,AUX9,0",
                                                      "put " + OUTPUT + "Inhibit#1,true"));
 }

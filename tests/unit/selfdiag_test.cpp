@@ -213,13 +213,12 @@ TEST_F(SelfDiag, TheOldestOf1025EntriesIsDropped)
 
 TEST_F(SelfDiag, AnErrorTakesTheTitleWhereItIsNotShownAnyway)
 {
-    static const std::tuple<int, uint32_t, int> rows[] = {{0, PAGE_TOP, 0},
-                                                          {1, 0x74110000, 0},
-                                                          {1, 0x74120000, 0},
-                                                          {1, 0x74110002, 1},
-                                                          {1, PAGE_TOP, 1}};
     const std::string path = PNL "Reference Status";
-    for (const auto& [wanted, page, popup] : rows) {
+    for (const auto& [wanted, page, popup] : {std::tuple{0, PAGE_TOP, 0},
+                                              {1, 0x74110000, 0},
+                                              {1, 0x74120000, 0},
+                                              {1, 0x74110002, 1},
+                                              {1, PAGE_TOP, 1}}) {
         GL_ErrorPopup = wanted;
         GL_NowPage = page;
         GL_ErrorPopup_On = 0;
@@ -337,21 +336,16 @@ TEST_F(MenuBoard, AMemoryThatComesBackCountsOn)
     EXPECT_EQ(Hours(29), 1001) << "counted from what is there";
 }
 
-TEST_F(MenuBoard, AUnitThatLeavesTakesItsErrorsAlong)
+TEST_F(MenuBoard, AWrongCrcIsMendedAndAUnitThatLeavesTakesItsErrorsAlong)
 {
+    Byte(83, 188, Byte(83, 188) ^ 1);
+    Hours(30, -1); // never written
     Report(SWR "Fan Speed", "SWR1,NG,NG");
     EXPECT_EQ(GL_ErrorExist, 2);
     SYS_PnlAssign[1][0] = 0;
     DeviceStructure();
     SelfDiag_I2C_Update(5000);
     EXPECT_EQ(GL_ErrorExist, 0);
-}
-
-TEST_F(MenuBoard, AWrongCrcIsMended)
-{
-    Byte(83, 188, Byte(83, 188) ^ 1);
-    Hours(30, -1); // never written
-    SelfDiag_I2C_Update(5000);
     EXPECT_EQ(Hours(29), 1001);
     EXPECT_EQ(Hours(30), 0);
     EXPECT_EQ(I2cEepromService_IsCrc32Valid(3), 1);
