@@ -142,17 +142,16 @@ TEST_F(Info, TheBarOfASilentUnitFalls)
 
 TEST_F(Info, ANewBankSettingReloadsThePageButForFour)
 {
-    static const std::tuple<uint32_t, const char*, uint32_t> cases[] = {
-        {0x11110000, "Multi Program 2", 0x11110000},
-        {0x11110000, "Multi Program 2", 0},
-        {0x73310000, "Standard", 0},
-        {0x71610000, "Multi Program 2", 0},
-        {0x73160010, "Standard", 0},
-        {0x55550000, "Multi Program 2", 0},
-        {0x11110001, "Standard", 0x11110001},
-        {0x11110000, "DSK", 0}, // the same pages as before
-    };
-    for (const auto& [page, value, request] : cases) {
+    for (const auto& [page, value, request] :
+         {std::tuple{0x11110000u, "Multi Program 2", 0x11110000u},
+          {0x11110000, "Multi Program 2", 0},
+          {0x73310000, "Standard", 0},
+          {0x71610000, "Multi Program 2", 0},
+          {0x73160010, "Standard", 0},
+          {0x55550000, "Multi Program 2", 0},
+          {0x11110001, "Standard", 0x11110001},
+          // the same pages as before
+          {0x11110000, "DSK", 0}}) {
         GL_NowPage = page;
         GL_CreatePage = 0;
         Deliver(ME_CONFIG "M/E-3", value);

@@ -21,30 +21,28 @@ struct CopyPage : TablePage {
 TEST_F(CopyPage, OneCommandCarriesTheWholeChoice)
 {
     const std::string path = "put Copy/Swap@";
-    static const std::tuple<uint32_t, int, int, std::vector<int>, int, const char*> cases[] = {
-        {ME, 0, 5, {}, COPY, "M/E@Copy#M/E-1,PGM/PST,All"},
-        {ME, 5, 0, {SECOND}, SWAP, "M/E@Swap#PGM/PST,M/E-1,Keys"},
-        {KEY, 7, 40, {FIRST, SECOND}, COPY, "Key@Copy#M/E-1@Key8,PGM/PST@DSK1,Type,Edge"},
-        {KEY, 1, 0, {FIRST, FIRST}, COPY, "Key@Copy#M/E-1@Key2,M/E-1@Key1,All"},
-        {KEY, 1, 0, {FIRST, ALL}, COPY, "Key@Copy#M/E-1@Key2,M/E-1@Key1,All"},
-        {0x31130000, 0, 2, {}, SWAP, "Wipe@Swap#M/E-1@Wipe,M/E-2@Wipe,All"},
-        {0x31140000, 0, 1, {}, COPY, "DME Wipe@Copy#M/E-1@DME Wipe,M/E-1 SUB@DME Wipe,All"},
-        {0x31150000,
-         1,
-         4,
-         {},
-         COPY,
-         "Matte/Color@Copy#Color Bkgd@Bkgd 2,M/E-1@Key1@Type@Matte Adjust,All"},
-        {0x31170000,
-         0,
-         1,
-         {FIRST},
-         SWAP,
-         "Color Bkgd@Swap#Color Bkgd@Bkgd 1,Color Bkgd@Bkgd 2,Color 1"},
-        {CHANNEL, 0, 3, {}, COPY, "DME Channel@Copy#1,4,All"},
-        {EFFECT, 2, 1, {SECOND}, COPY, "DME Effect@Copy#3,2,Video"},
-    };
-    for (const auto& [page, from, to, parts, key, sent] : cases) {
+    for (const auto& [page, from, to, parts, key, sent] :
+         {std::tuple{ME, 0, 5, std::vector<int>{}, COPY, "M/E@Copy#M/E-1,PGM/PST,All"},
+          {ME, 5, 0, {SECOND}, SWAP, "M/E@Swap#PGM/PST,M/E-1,Keys"},
+          {KEY, 7, 40, {FIRST, SECOND}, COPY, "Key@Copy#M/E-1@Key8,PGM/PST@DSK1,Type,Edge"},
+          {KEY, 1, 0, {FIRST, FIRST}, COPY, "Key@Copy#M/E-1@Key2,M/E-1@Key1,All"},
+          {KEY, 1, 0, {FIRST, ALL}, COPY, "Key@Copy#M/E-1@Key2,M/E-1@Key1,All"},
+          {0x31130000, 0, 2, {}, SWAP, "Wipe@Swap#M/E-1@Wipe,M/E-2@Wipe,All"},
+          {0x31140000, 0, 1, {}, COPY, "DME Wipe@Copy#M/E-1@DME Wipe,M/E-1 SUB@DME Wipe,All"},
+          {0x31150000,
+           1,
+           4,
+           {},
+           COPY,
+           "Matte/Color@Copy#Color Bkgd@Bkgd 2,M/E-1@Key1@Type@Matte Adjust,All"},
+          {0x31170000,
+           0,
+           1,
+           {FIRST},
+           SWAP,
+           "Color Bkgd@Swap#Color Bkgd@Bkgd 1,Color Bkgd@Bkgd 2,Color 1"},
+          {CHANNEL, 0, 3, {}, COPY, "DME Channel@Copy#1,4,All"},
+          {EFFECT, 2, 1, {SECOND}, COPY, "DME Effect@Copy#3,2,Video"}}) {
         (void)Open(page);
         Choose(from, to);
         for (const int part : parts) {

@@ -15,20 +15,18 @@ TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
 {
     const std::string program = PANEL "Config@Program Button@";
     const std::string utility = PANEL "Prefs/Utility";
-    const std::tuple<uint32_t, std::string, int, int> modules[] = {
-        {0x73210031, program + "Transition Module", 20, 42},
-        {0x73210035, program + "Key Control Module", 8, 16},
-        {0x73210036, program + "Key Control Module@Key Control Button Assign", 20, 24},
-        {0x73210038, program + "Menu Panel", 24, 30},
-        {0x73210040, program + "Joystick/Trackball", 12, 24},
-        {0x73210044, program + "Compact Key Trans Module", 8, 29},
-        {0x73210012, program + "Extension Panel", 28, 43},
-        {0x73210048, program + "Multi Module@Mode Select Assign", 8, 17},
-        {0x73240000, utility, 16, 28},
-        {0x73240001, utility + "@Utility Module Assign", 16, 24},
-        {0x73240003, utility + "@Trans Rate Mode Assign", 8, 17},
-    };
-    for (const auto& [page, place, buttons, rows] : modules) {
+    for (const auto& [page, place, buttons, rows] :
+         {std::tuple{0x73210031u, program + "Transition Module", 20, 42},
+          {0x73210035, program + "Key Control Module", 8, 16},
+          {0x73210036, program + "Key Control Module@Key Control Button Assign", 20, 24},
+          {0x73210038, program + "Menu Panel", 24, 30},
+          {0x73210040, program + "Joystick/Trackball", 12, 24},
+          {0x73210044, program + "Compact Key Trans Module", 8, 29},
+          {0x73210012, program + "Extension Panel", 28, 43},
+          {0x73210048, program + "Multi Module@Mode Select Assign", 8, 17},
+          {0x73240000, utility, 16, 28},
+          {0x73240001, utility + "@Utility Module Assign", 16, 24},
+          {0x73240003, utility + "@Trans Rate Mode Assign", 8, 17}}) {
         const Lines lines = Open(page);
         const bool is_action = page >= 0x73240000;
         const std::string bank = page == 0x73210044 ? "2" : "1"; // the first with such a module
@@ -226,11 +224,10 @@ TEST_F(PanelSetup, ATableShowsWhatIsToldOfItsSide)
 TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
 {
     (void)Tell(PANEL "Config@External Bus Link@S-BUS Src Name List#1,VTR1");
-    const std::pair<uint32_t, std::string> tables[] = {{0x73220010, XPT "Mixer Xpt Assign"},
-                                                       {0x73230000, PANEL "Aux Assign@Aux Button"},
-                                                       {0x73230003, RTR "Source Table@1"},
-                                                       {0x73230004, RTR "Lvl Btn"}};
-    for (const auto& [page, path] : tables) {
+    for (const auto& [page, path] : {std::pair{0x73220010u, std::string(XPT "Mixer Xpt Assign")},
+                                     {0x73230000, PANEL "Aux Assign@Aux Button"},
+                                     {0x73230003, RTR "Source Table@1"},
+                                     {0x73230004, RTR "Lvl Btn"}}) {
         EXPECT_EQ(Held(Open(page), path), 1) << path;
         (void)Tell(path + "#2,1");
         EXPECT_EQ(Cell(1, 1, 1), Cell(2, 0, 1)) << path;
@@ -246,16 +243,14 @@ TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
 
 TEST_F(PanelSetup, WhatIsPreparedGoesWithExecute)
 {
-    static const std::tuple<uint32_t, std::string, const char*, int, const char*> pages[] = {
-        {0x73220004, XPT "Source@Color#1,", "4", 35, "0"},
-        {0x73220005, XPT "User Color@User 1@Brightness#", "Low", 35, "High"},
-        {0x73220006, XPT "Name Export@Router#", "false", 33, "true"},
-        {0x73220007, XPT "Side Flags Button Assign#1,", "false", 33, "true"},
-        {0x73220008, XPT "Shift Mode@M/E-1#", "Hold", 34, "Lock"},
-        {0x73230001, RTR "Mode@1st AUX#", "Aux", 34, "Router"},
-        {0x73230002, RTR "Source Table Assign@RTR Dest 1#Table ", "1", 36, "4"},
-    };
-    for (const auto& [page, line, told, key, put] : pages) {
+    for (const auto& [page, line, told, key, put] :
+         {std::tuple{0x73220004u, std::string(XPT "Source@Color#1,"), "4", 35, "0"},
+          {0x73220005, XPT "User Color@User 1@Brightness#", "Low", 35, "High"},
+          {0x73220006, XPT "Name Export@Router#", "false", 33, "true"},
+          {0x73220007, XPT "Side Flags Button Assign#1,", "false", 33, "true"},
+          {0x73220008, XPT "Shift Mode@M/E-1#", "Hold", 34, "Lock"},
+          {0x73230001, RTR "Mode@1st AUX#", "Aux", 34, "Router"},
+          {0x73230002, RTR "Source Table Assign@RTR Dest 1#Table ", "1", 36, "4"}}) {
         (void)Open(page);
         TellSources();
         (void)Tell(line + told);

@@ -111,14 +111,13 @@ TEST_F(SwitcherSetup, APointOfACurveStaysBetweenItsNeighbours)
 TEST_F(SwitcherSetup, OnlyLinksThatMakeSenseAreApplied)
 {
     // Two links as told; master and linked of the popup of the banks for the second, 0 leaves it.
-    static const std::tuple<const char*, const char*, int, int, bool> cases[] = {
-        {"1,None,None,Off", "2,None,None,Off", 1, 0, false},    // half
-        {"1,None,None,Off", "2,None,None,Off", 3, 3, false},    // itself
-        {"1,M/E-1,M/E-2,All", "2,None,None,Off", 3, 2, false},  // two masters
-        {"1,M/E-1,M/E-2,All", "2,None,None,Off", 1, 3, true},   // one master of two
-        {"1,M/E-1,M/E-2,All", "2,M/E-3,M/E-4,Off", 7, 7, true}, // deleted
-    };
-    for (const auto& [first, second, master, linked, is_sent] : cases) {
+    for (const auto& [first, second, master, linked, is_sent] :
+         {std::tuple{"1,None,None,Off", "2,None,None,Off", 1, 0, false}, // half
+          {"1,None,None,Off", "2,None,None,Off", 3, 3, false},           // itself
+          {"1,M/E-1,M/E-2,All", "2,None,None,Off", 3, 2, false},         // two masters
+          {"1,M/E-1,M/E-2,All", "2,None,None,Off", 1, 3, true},          // one master of two
+          // deleted
+          {"1,M/E-1,M/E-2,All", "2,M/E-3,M/E-4,Off", 7, 7, true}}) {
         SetupPage_Forget(SetupSheet_Table<engsetup_switcher_link_melink>);
         Start(0x73360002, "Link@M/E Link#", {first, second});
         SelectRow(1);

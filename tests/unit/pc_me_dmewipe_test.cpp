@@ -60,12 +60,11 @@ struct MeDmeWipe : TablePage {
 
 TEST_F(MeDmeWipe, WhatModifyAddsItRemovesInThisOrder)
 {
-    static const std::tuple<uint32_t, const char*, const char*, int> cases[] = {
-        {MODIFY_ME4, "M/E-4@DME Wipe", "2003", 2},
-        {0x15650000, "M/E-1 SUB@DME Wipe", "9001", 3},
-        {0x14470003, "PGM/PST@DSK4@Transition@DME Wipe", "2003", 1}, // a key has one channel
-    };
-    for (const auto& [page, path, pattern, channels] : cases) {
+    for (const auto& [page, path, pattern, channels] :
+         {std::tuple{MODIFY_ME4, "M/E-4@DME Wipe", "2003", 2},
+          {0x15650000, "M/E-1 SUB@DME Wipe", "9001", 3},
+          // a key has one channel
+          {0x14470003, "PGM/PST@DSK4@Transition@DME Wipe", "2003", 1}}) {
         const Lines opened = OpenWith(page, path, pattern);
         Lines ends;
         for (int ch = 1; ch <= channels; ch++)
@@ -483,17 +482,15 @@ TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
 TEST_F(MeDmeWipe, APatternDoesNotAllowWhatTheRowForbids)
 {
     // The tallies that forbid; the pattern is told after them, then the last one.
-    static const std::tuple<uint32_t, const char*, Lines, int> cases[] = {
-        {0x13640000,
-         "M/E-3@",
-         {"DME Wipe@Edge/Direction@Shadow#false", "DME Wipe@Edge/Direction@Shadow#true"},
-         50},
-        {0x13170007,
-         "M/E-3@Key1@Transition@",
-         {"ON Transition Type#Mix", "OFF Transition Type#Mix", "OFF Transition Type#DME Wipe"},
-         17},
-    };
-    for (const auto& [page, path, lines, button] : cases) {
+    for (const auto& [page, path, lines, button] :
+         {std::tuple{
+              0x13640000u, "M/E-3@",
+              Lines{"DME Wipe@Edge/Direction@Shadow#false", "DME Wipe@Edge/Direction@Shadow#true"},
+              50},
+          {0x13170007,
+           "M/E-3@Key1@Transition@",
+           {"ON Transition Type#Mix", "OFF Transition Type#Mix", "OFF Transition Type#DME Wipe"},
+           17}}) {
         Open(page);
         TellAll(path, {lines.begin(), lines.end() - 1});
         Tell(std::string(path) + "DME Wipe@Pattern Select@Pattern#1001");

@@ -75,15 +75,13 @@ struct KeyProcessCrop : TablePage {
 
 TEST_F(KeyProcessCrop, TheFillNeedsABorderAndItsSecondColorAMix)
 {
-    static const std::pair<const char*, std::set<int>> steps[] = {
-        {"Border#false", {20, 21, 22, 34, 36, 37, 38}},
-        {"Border Fill#Mix", {20, 21, 22, 34, 36, 37, 38}},
-        {"Border#true", {34}},
-        {"Border Fill#Flat", {22, 34, 37, 38}},
-        {"Crop#true", {22, 37, 38}},
-    };
     Open(0x12160003);
-    for (const auto& [line, disabled] : steps) {
+    for (const auto& [line, disabled] :
+         {std::pair{"Border#false", std::set<int>{20, 21, 22, 34, 36, 37, 38}},
+          {"Border Fill#Mix", {20, 21, 22, 34, 36, 37, 38}},
+          {"Border#true", {34}},
+          {"Border Fill#Flat", {22, 34, 37, 38}},
+          {"Crop#true", {22, 37, 38}}}) {
         Tell(std::string("M/E-2@Key1@Processed Key@Border/Crop@") + line);
         EXPECT_EQ(Disabled(), disabled) << line;
     }

@@ -77,13 +77,12 @@ TEST_F(KeyResizerPages, TheBorderOfAGeneratorIsAskedForAfterwards)
 
 TEST_F(KeyResizerPages, TwoEdgesAtOnceKeepTheirSense)
 {
-    static const std::tuple<uint32_t, std::string, int, int, const char*> cases[] = {
-        {0x11150002, "M/E-1@Key1@Resizer@Border/Crop@Crop@H", 1, 714, "-100.00"},
-        {0x16450002, "M/E-2@Key8@Resizer@Border/Crop@Crop@All", 3, 734, "-75.00"},
-        {0x16450002, "M/E-2@Key8@Resizer@Border/Crop@Crop@All", 3, 799, "0.00"},
-        {0x82150002, "M/E-5@Key1@Resizer@Border/Crop@Crop@V", 2, 734, "75.00"},
-    };
-    for (const auto& [page, path, slot, x, value] : cases) {
+    for (const auto& [page, path, slot, x, value] :
+         {std::tuple{0x11150002u, std::string("M/E-1@Key1@Resizer@Border/Crop@Crop@H"), 1, 714,
+                     "-100.00"},
+          {0x16450002, "M/E-2@Key8@Resizer@Border/Crop@Crop@All", 3, 734, "-75.00"},
+          {0x16450002, "M/E-2@Key8@Resizer@Border/Crop@Crop@All", 3, 799, "0.00"},
+          {0x82150002, "M/E-5@Key1@Resizer@Border/Crop@Crop@V", 2, 734, "75.00"}}) {
         Open(page);
         Tell(path.substr(0, path.rfind('@')) + "#true");
         (void)Press(33);

@@ -148,16 +148,14 @@ using KeyMattePage = TablePage;
 TEST_F(KeyMattePage, OffersWhatTheMatteIsMadeOf)
 {
     // Usable of mode, second colour, pattern
-    static const std::tuple<uint32_t, const char*, const char*, std::vector<int>, const char*>
-        cases[] = {
-            {0x12210002, "Flat", "Emboss", {17}, "Color 1"}, // the edge is not the fill's
-            {0x12210002, "Mix", "Normal", {17, 20, 33, 37}, "Color 1"},
-            {0x12220001, "Flat", "Border", {17}, "Color 1"},
-            {0x12220001, "Mix", "Border", {17, 20, 33, 37}, "Color 1"},
-            {0x12220001, "Mix", "Emboss", {20}, "Light"},
-            {0x12220001, "Flat", "Emboss", {20}, "Light"},
-        };
-    for (const auto& [page, mode, edge, usable, color] : cases) {
+    for (const auto& [page, mode, edge, usable, color] :
+         {std::tuple{0x12210002u, "Flat", "Emboss", std::vector<int>{17},
+                     "Color 1"}, // the edge is not the fill's
+          {0x12210002, "Mix", "Normal", {17, 20, 33, 37}, "Color 1"},
+          {0x12220001, "Flat", "Border", {17}, "Color 1"},
+          {0x12220001, "Mix", "Border", {17, 20, 33, 37}, "Color 1"},
+          {0x12220001, "Mix", "Emboss", {20}, "Light"},
+          {0x12220001, "Flat", "Emboss", {20}, "Light"}}) {
         Open(page);
         const string group = page == 0x12210002 ? "Type" : "Edge";
         TellAll("M/E-2@Key2@", {group + "@Matte Adjust@Mode#" + mode, string("Edge@Edge#") + edge});

@@ -8,16 +8,14 @@ constexpr uint32_t SAME = 0x12370100, INDEPENDENT = 0x12370200;
 
 TEST_F(KeyTransitionPage, WhatCanBeAdjustedFollowsTheTypesThatGovern)
 {
-    static const std::tuple<uint32_t, const char*, const char*, std::set<int>> cases[] = {
-        {SAME, "Cut", "Wipe", {33, 34, 35, 36, 37, 51}}, // off has no say
-        {SAME, "Mix", "Wipe", {33, 34, 35, 36, 37}},
-        {SAME, "Wipe", "Cut", {37}},
-        {SAME, "DME Wipe", "Cut", {}},
-        {INDEPENDENT, "Mix", "Cut", {22, 38, 53, 54}},
-        {INDEPENDENT, "Wipe", "Cut", {38, 53}},
-        {INDEPENDENT, "Stinger", "DME Wipe", {22}},
-    };
-    for (const auto& [page, on, off, disabled] : cases) {
+    for (const auto& [page, on, off, disabled] :
+         {std::tuple{SAME, "Cut", "Wipe", std::set<int>{33, 34, 35, 36, 37, 51}}, // off has no say
+          {SAME, "Mix", "Wipe", {33, 34, 35, 36, 37}},
+          {SAME, "Wipe", "Cut", {37}},
+          {SAME, "DME Wipe", "Cut", {}},
+          {INDEPENDENT, "Mix", "Cut", {22, 38, 53, 54}},
+          {INDEPENDENT, "Wipe", "Cut", {38, 53}},
+          {INDEPENDENT, "Stinger", "DME Wipe", {22}}}) {
         Open(page);
         TellAll("M/E-2@Key3@", {"Video Process@Video Process#true",
                                 std::string("Transition@ON Transition Type#") + on,

@@ -34,15 +34,14 @@ TEST_F(BankOfPage, TheBankOfAPageHasOneWordAndOneRegion)
 // Beside what its buttons and boxes follow.
 TEST_F(BankOfPage, APageFollowsWhatItsCodeShowsOfItsOwnBank)
 {
-    static const std::pair<uint32_t, Lines> cases[] = {
-        {0x85320001, {"M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern", "M/E-4@Key7@Edge@Edge"}},
-        {0x11310002, {"M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern"}},
-        {0x82760000,
-         {"M/E-5@Misc@Clip Transition@Clip Name", "M/E-5@Misc@Clip Transition@Clip Duration"}},
-        {0x12740000, {"M/E-2@Misc@Key Assign@Key1", "M/E-2@Misc@Key Assign@Key8"}},
-        {0x12540000, {"M/E-2@Wipe@Direction@Normal", "M/E-2@Wipe@Direction@Reverse"}},
-    };
-    for (const auto& [page, paths] : cases) {
+    for (const auto& [page, paths] :
+         {std::pair{0x85320001u, Lines{"M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern",
+                                       "M/E-4@Key7@Edge@Edge"}},
+          {0x11310002, {"M/E-1@Key3@Type@Matte Adjust@Mix Pattern@Pattern"}},
+          {0x82760000,
+           {"M/E-5@Misc@Clip Transition@Clip Name", "M/E-5@Misc@Clip Transition@Clip Duration"}},
+          {0x12740000, {"M/E-2@Misc@Key Assign@Key1", "M/E-2@Misc@Key Assign@Key8"}},
+          {0x12540000, {"M/E-2@Wipe@Direction@Normal", "M/E-2@Wipe@Direction@Reverse"}}}) {
         const Lines opened = Open(page);
         ASSERT_EQ(GL_NowPage, page);
         const Lines left = Leave();
@@ -56,13 +55,12 @@ TEST_F(BankOfPage, APageFollowsWhatItsCodeShowsOfItsOwnBank)
 TEST_F(BankOfPage, ABoardInFourBanksLeavesEachWithFourKeys)
 {
     Tell("Engineering Setup@System@Install@Unit Config@M/E Split#1,4,2,1,1");
-    static const std::pair<uint32_t, uint32_t> cases[] = {
-        {0x15130000, 0x15130000}, // M/E-1 has eight
-        {0x16330000, 0x12330000}, // M/E-2: the same page of its first four
-        {0x17110000, 0x17110000}, // two banks: eight each
-        {0x16510000, 0x16510000}, // the limit is one of keys
-    };
-    for (const auto& [asked, opened] : cases) {
+    for (const auto& [asked, opened] :
+         {std::pair{0x15130000u, 0x15130000u}, // M/E-1 has eight
+          {0x16330000, 0x12330000},            // M/E-2: the same page of its first four
+          {0x17110000, 0x17110000},            // two banks: eight each
+          // the limit is one of keys
+          {0x16510000, 0x16510000}}) {
         EXPECT_EQ(CreatePage(asked), 0);
         EXPECT_EQ(GL_NowPage, opened) << std::hex << asked;
     }

@@ -10,16 +10,15 @@ using MeWipe = TablePage;
 
 TEST_F(MeWipe, APatternWithoutAMiddleHasNoPosition)
 {
-    static const std::tuple<uint32_t, const char*, bool> cases[] = {
-        {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#3", true},
-        {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#33", false},
-        {0x11510000, "M/E-1@Wipe@Sub Pattern@Pattern#3", false}, // of the other page
-        {0x12520000, "M/E-2@Wipe@Sub Pattern@Pattern#150", true},
-        {0x15510000, "M/E-1 SUB@Wipe@Main Pattern@Pattern#180", true},
-        {0x15510000, "M/E-1@Wipe@Main Pattern@Pattern#180", false}, // of the other side
-        {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#900", false}, // not in the catalogue
-    };
-    for (const auto& [page, line, disabled] : cases) {
+    for (const auto& [page, line, disabled] :
+         {std::tuple{0x11510000u, "M/E-1@Wipe@Main Pattern@Pattern#3", true},
+          {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#33", false},
+          {0x11510000, "M/E-1@Wipe@Sub Pattern@Pattern#3", false}, // of the other page
+          {0x12520000, "M/E-2@Wipe@Sub Pattern@Pattern#150", true},
+          {0x15510000, "M/E-1 SUB@Wipe@Main Pattern@Pattern#180", true},
+          {0x15510000, "M/E-1@Wipe@Main Pattern@Pattern#180", false}, // of the other side
+          // not in the catalogue
+          {0x11510000, "M/E-1@Wipe@Main Pattern@Pattern#900", false}}) {
         Open(page);
         Tell(line);
         EXPECT_EQ(Usable({53, 54}).size(), disabled ? 0u : 2u) << line;
@@ -93,15 +92,14 @@ TEST_F(MeWipe, OnlyTwoPatternsOfOneOutlineEachCanMorph)
 
 TEST_F(MeWipe, TheModifiersOfAPatternAreThoseThatItHas)
 {
-    static const std::tuple<uint32_t, std::string, std::set<int>> cases[] = {
-        {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#67", {36, 37, 54}},
-        {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#1", {17, 18, 19, 20}},
-        {0x13560000, "M/E-3@Wipe@Sub Pattern@Pattern#1", {17, 18, 19, 20}},
-        {0x13560000, "M/E-3@Wipe@Main Pattern@Pattern#1", {}},
-        {0x17550000, "M/E-3 SUB@Wipe@Main Pattern@Pattern#81", {36, 37, 49, 50, 51, 52, 54}},
-        {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#500", {}},
-    };
-    for (const auto& [page, line, disabled] : cases) {
+    for (const auto& [page, line, disabled] :
+         {std::tuple{0x13550000u, std::string("M/E-3@Wipe@Main Pattern@Pattern#67"),
+                     std::set<int>{36, 37, 54}},
+          {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#1", {17, 18, 19, 20}},
+          {0x13560000, "M/E-3@Wipe@Sub Pattern@Pattern#1", {17, 18, 19, 20}},
+          {0x13560000, "M/E-3@Wipe@Main Pattern@Pattern#1", {}},
+          {0x17550000, "M/E-3 SUB@Wipe@Main Pattern@Pattern#81", {36, 37, 49, 50, 51, 52, 54}},
+          {0x13550000, "M/E-3@Wipe@Main Pattern@Pattern#500", {}}}) {
         const Lines opened = Open(page);
         Tell(line);
         EXPECT_EQ(Disabled(), disabled) << line;

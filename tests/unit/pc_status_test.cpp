@@ -96,6 +96,7 @@ TEST_F(StatusPage, AnOutputOfTheFrameMemoryShowsWhatItHas)
     for (const auto& [value, shown] : {std::pair{"2,/NEWS/OPENING", "Recall|OPENING|NEWS"},
                                        {"2,/OPENING", "Recall|OPENING|"},
                                        {"1,", "Through||"},
+                                       {"3,/OPENING", "|OPENING|"},
                                        {"0,", "Black||"},
                                        {"", "||"}}) {
         (void)Tell(status + "#" + value);
