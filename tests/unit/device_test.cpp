@@ -69,13 +69,11 @@ TEST_F(Devices, TheAssignmentRowsDecideWhatBelongsToThePanel)
 
 TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
 {
-    static const struct {
-        int line, hd;
-    } lines[] = {{1, 0}, {2, 0}, {0, 0}, {3, 1}, {6, 1}, {0, 1}}; // 0: not told, as it was
-    for (const auto& c : lines) {
-        DEV_Swr[0].activeline = c.line;
+    // 0: not told, as it was
+    for (const auto& [line, hd] : {std::pair{1, 0}, {2, 0}, {0, 0}, {3, 1}, {6, 1}, {0, 1}}) {
+        DEV_Swr[0].activeline = line;
         DeviceStructure();
-        EXPECT_EQ(SYS_SignalFormat, c.hd) << c.line;
+        EXPECT_EQ(SYS_SignalFormat, hd) << line;
     }
     DEV_Swr[0].aspect[2] = DEV_Swr[1].aspect[3] = 0; // the second switcher's has no part
     DEV_Dme[0].aspect[1] = DEV_Dme[1].aspect[3] = 0; // channels 2 and 8

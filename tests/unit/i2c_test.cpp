@@ -105,18 +105,18 @@ TEST_F(I2c, EachRegionHasItsCrc)
     EmptyDevice(0x57);
     EmptyDevice(0x53);
     // The first byte of the CRC of 124 and of 60 zero bytes.
-    static const struct {
-        int device, crc_address, first;
-    } regions[] = {{0x57, 124, 0x15}, {0x57, 252, 0x15}, {0x53, 124, 0x15}, {0x53, 188, 0x04}};
+    static const std::tuple<int, int, int> regions[] = {
+        {0x57, 124, 0x15}, {0x57, 252, 0x15}, {0x53, 124, 0x15}, {0x53, 188, 0x04}};
     for (int region = 0; region < 4; region++) {
-        const auto& r = regions[region];
+        const auto& [device, crc_address, first] = regions[region];
         EXPECT_EQ(I2cEepromService_IsCrc32Valid(region), 0);
         EXPECT_EQ(I2cEepromService_UpdateCrc32(region), 0);
         EXPECT_EQ(I2cEepromService_IsCrc32Valid(region), 1);
-        EXPECT_EQ(ImageByte(r.device, r.crc_address), r.first) << region;
+        EXPECT_EQ(ImageByte(device, crc_address), first) << region;
     }
     for (int region = 0; region < 4; region++) {
-        Spoil(regions[region].device, regions[region].crc_address - 1); // the region's last byte
+        const auto& [device, crc_address, first] = regions[region];
+        Spoil(device, crc_address - 1); // the region's last byte
         for (int other = 0; other < 4; other++)
             EXPECT_EQ(I2cEepromService_IsCrc32Valid(other), other > region) << region << other;
     }

@@ -78,19 +78,14 @@ TEST_F(AuxPage, ATouchPutsASignalOnTheChosenBus)
 
 TEST_F(AuxPage, WhatAnotherPageAskedForIsTheOneThatOpens)
 {
-    static const struct {
-        uint32_t page;
-        void (*ask)(int);
-        int number, beyond;
-        const char* word;
-    } cases[] = {{AUX, AuxBus_OpenNext, 4, AUX_BUSES, "Aux 5"},
-                 {AUX, AuxBus_OpenNext, 0, AUX_BUSES, "Aux 1"},
-                 {MON, Monitor_OpenNext, 7, MONITORS, "Mon 8"},
-                 {MON, Monitor_OpenNext, 0, MONITORS, "Mon 1"}};
-    for (const auto& c : cases) {
-        for (const int number : {c.number, -1, c.beyond}) // there are none such
-            c.ask(number);
-        (void)Open(c.page);
-        EXPECT_STREQ(GL_NowTree[2], c.word);
+    for (const auto& [page, ask, number, beyond, word] :
+         {std::tuple{AUX, &AuxBus_OpenNext, 4, AUX_BUSES, "Aux 5"},
+          {AUX, AuxBus_OpenNext, 0, AUX_BUSES, "Aux 1"},
+          {MON, Monitor_OpenNext, 7, MONITORS, "Mon 8"},
+          {MON, Monitor_OpenNext, 0, MONITORS, "Mon 1"}}) {
+        for (const int n : {number, -1, beyond}) // there are none such
+            ask(n);
+        (void)Open(page);
+        EXPECT_STREQ(GL_NowTree[2], word);
     }
 }

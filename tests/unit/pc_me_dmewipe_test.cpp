@@ -372,42 +372,33 @@ TEST_F(MeDmeWipe, ASideWithoutItsWipeTakesNoTouch)
 TEST_F(MeDmeWipe, A4To3CropNeedsAPictureThatIsWider)
 {
     const char *const me1 = "M/E-1@DME Wipe", *const pp = "PGM/PST@DME Wipe";
-    const struct {
-        uint32_t page;
-        const char *root, *pattern;
-        Lines dmes;
-        int bank_aspect; // of the bank itself
-        std::vector<int> presses;
-        bool usable;
-    } cases[] = {
-        {MODIFY_ME1, me1, "1003", {"3,16:9,1,8"}, 0, {}, true},
-        {MODIFY_ME1, me1, "1003", {"3,4:3,1,8"}, 1, {}, false},
-        {MODIFY_ME1, me1, "1003", {"3,16:9,1,9"}, 1, {}, false}, // the sub side's
-        {MODIFY_ME1, me1, "1003", {"3,16:9,2,8"}, 1, {}, false}, // of M/E-2
-        {MODIFY_ME1, me1, "1003", {"9,16:9,1,8", "0,16:9,1,8"}, 1, {}, false},
-        {0x15650000, "M/E-1 SUB@DME Wipe", "1003", {"8,16:9,1,9"}, 0, {}, true},
-        {0x14650000, pp, "1003", {"1,16:9,0,8"}, 0, {}, true},
-        {0x15270003, "M/E-1@Key6@Transition@DME Wipe", "1003", {"2,16:9,1,5"}, 0, {}, true},
-        // the second channel, and the third, go by the DME behind the first
-        {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {}, false},
-        {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH1}, true},
-        {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,3,8"}, 0, {CH1}, false},
-        {MODIFY_ME1, me1, "2003", {"4,4:3,1,8", "5,16:9,1,8"}, 0, {CH1}, false},
-        {MODIFY_ME1, me1, "3003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH3, CH1}, true},
-        // the second set of channels has the bank's own aspect
-        {MODIFY_ME1, me1, "7003", {"3,16:9,1,8"}, 0, {}, false},
-        {MODIFY_ME1, me1, "7003", {}, 1, {}, true},
-    };
-    for (const auto& c : cases) {
-        Open(c.page);
-        TellAll(ASPECT, c.dmes);
-        std::fill_n(SYS_RefSwrScreenAspect, 7, !c.bank_aspect); // each line has set them anew
-        SYS_RefSwrScreenAspect[c.root == pp ? 5 : 0] = c.bank_aspect;
-        Tell(std::string(c.root) + "@Pattern Select@Pattern#" + c.pattern);
-        for (int id : c.presses)
+    // The aspect of the bank itself before the keys that are pressed.
+    for (const auto& [page, path, pattern, dmes, bank_aspect, presses, usable] :
+         {std::tuple{MODIFY_ME1, me1, "1003", Lines{"3,16:9,1,8"}, 0, std::vector<int>{}, true},
+          {MODIFY_ME1, me1, "1003", {"3,4:3,1,8"}, 1, {}, false},
+          {MODIFY_ME1, me1, "1003", {"3,16:9,1,9"}, 1, {}, false}, // the sub side's
+          {MODIFY_ME1, me1, "1003", {"3,16:9,2,8"}, 1, {}, false}, // of M/E-2
+          {MODIFY_ME1, me1, "1003", {"9,16:9,1,8", "0,16:9,1,8"}, 1, {}, false},
+          {0x15650000, "M/E-1 SUB@DME Wipe", "1003", {"8,16:9,1,9"}, 0, {}, true},
+          {0x14650000, pp, "1003", {"1,16:9,0,8"}, 0, {}, true},
+          {0x15270003, "M/E-1@Key6@Transition@DME Wipe", "1003", {"2,16:9,1,5"}, 0, {}, true},
+          // the second channel, and the third, go by the DME behind the first
+          {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {}, false},
+          {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH1}, true},
+          {MODIFY_ME1, me1, "2003", {"1,4:3,1,8", "2,16:9,3,8"}, 0, {CH1}, false},
+          {MODIFY_ME1, me1, "2003", {"4,4:3,1,8", "5,16:9,1,8"}, 0, {CH1}, false},
+          {MODIFY_ME1, me1, "3003", {"1,4:3,1,8", "2,16:9,1,8"}, 0, {CH3, CH1}, true},
+          // the second set of channels has the bank's own aspect
+          {MODIFY_ME1, me1, "7003", {"3,16:9,1,8"}, 0, {}, false},
+          {MODIFY_ME1, me1, "7003", {}, 1, {}, true}}) {
+        Open(page);
+        TellAll(ASPECT, dmes);
+        std::fill_n(SYS_RefSwrScreenAspect, 7, !bank_aspect); // each line has set them anew
+        SYS_RefSwrScreenAspect[path == pp ? 5 : 0] = bank_aspect;
+        Tell(std::string(path) + "@Pattern Select@Pattern#" + pattern);
+        for (int id : presses)
             (void)Press(id);
-        EXPECT_EQ(Enabled(CROP_4_3), c.usable)
-            << c.root << " " << c.pattern << " " << c.dmes.size();
+        EXPECT_EQ(Enabled(CROP_4_3), usable) << path << " " << pattern << " " << dmes.size();
     }
     EXPECT_THAT(Tell("M/E-1@Key1@Processed Key@DME Status#anything"),
                 Contains("read Engineering Setup@System@Format@DME Aspect"));
@@ -453,29 +444,26 @@ TEST_F(MeDmeWipe, AKeyIsAdjustedWhileEitherOfItsTransitionsIsSuchAWipe)
 
 TEST_F(MeDmeWipe, APatternHasTheKeysOfItsMove)
 {
-    static const struct {
-        uint32_t page;
-        const char *root, *pattern;
-        std::vector<int> usable, dead;
-    } cases[] = {
-        {0x13630000, "M/E-3", "1203", {17, 18, 54}, {20, 21, 22, 34, 35, 49, 52}},
-        {0x13630000, "M/E-3", "1301", {21, 22, 34, 35}, {17, 18, 20, 49, 54}},
-        {0x13630000, "M/E-3", "7391", {18, 20, 22, 54}, {17, 21, 49}},
-        {0x13630000, "M/E-3", "2001", {49, 50, 51}, {17, 20, 52}},
-        {0x13630000, "M/E-3", "3401", {20, 22, 49, 52}, {21}},
-        {0x13630000, "M/E-3", "1336", {21, 22}, {20, 54}}, // the last of its kind
-        {0x13630000, "M/E-3", "1418", {20, 22, 54}, {21}},
-        {0x13640000, "M/E-3", "1310", {17, 37, 38}, {49, 50}},
-        {0x13640000, "M/E-3", "1905", {17, 18}, {37, 38, 49}},
-        {0x13640000, "M/E-3", "1001", {17, 37, 49}, {}},
-        {0x86270003, "M/E-5@Key6@Transition", "1394", {52}, {51}}, // of a key: transparency alone
-    };
-    for (const auto& c : cases) {
-        Open(c.page);
-        TellAll(c.root, {"@DME Wipe@Edge/Direction@Shadow#true",
-                         std::string("@DME Wipe@Pattern Select@Pattern#") + c.pattern});
-        EXPECT_EQ(Usable(c.usable), c.usable) << c.pattern;
-        EXPECT_THAT(Usable(c.dead), IsEmpty()) << c.pattern;
+    using Keys = std::vector<int>;
+    for (const auto& [page, path, pattern, usable, dead] :
+         {std::tuple{0x13630000u, "M/E-3", "1203", Keys{17, 18, 54},
+                     Keys{20, 21, 22, 34, 35, 49, 52}},
+          {0x13630000, "M/E-3", "1301", {21, 22, 34, 35}, {17, 18, 20, 49, 54}},
+          {0x13630000, "M/E-3", "7391", {18, 20, 22, 54}, {17, 21, 49}},
+          {0x13630000, "M/E-3", "2001", {49, 50, 51}, {17, 20, 52}},
+          {0x13630000, "M/E-3", "3401", {20, 22, 49, 52}, {21}},
+          {0x13630000, "M/E-3", "1336", {21, 22}, {20, 54}}, // the last of its kind
+          {0x13630000, "M/E-3", "1418", {20, 22, 54}, {21}},
+          {0x13640000, "M/E-3", "1310", {17, 37, 38}, {49, 50}},
+          {0x13640000, "M/E-3", "1905", {17, 18}, {37, 38, 49}},
+          {0x13640000, "M/E-3", "1001", {17, 37, 49}, {}},
+          // of a key: transparency alone
+          {0x86270003, "M/E-5@Key6@Transition", "1394", {52}, {51}}}) {
+        Open(page);
+        TellAll(path, {"@DME Wipe@Edge/Direction@Shadow#true",
+                       std::string("@DME Wipe@Pattern Select@Pattern#") + pattern});
+        EXPECT_EQ(Usable(usable), usable) << pattern;
+        EXPECT_THAT(Usable(dead), IsEmpty()) << pattern;
     }
 }
 

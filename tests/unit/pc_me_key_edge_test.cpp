@@ -13,30 +13,25 @@ TEST_F(KeyEdgePage, OffersWhatThisEdgeOfThisKeyHas)
         {'B', 18}, {'S', 20}, {'E', 34}, {'Z', 35}, {'P', 21},
         {'O', 37}, {'D', 38}, {'U', 49}, {'M', 51}, {'A', 52},
     };
-    static const struct {
-        const char *edge, *type, *fine, *soft, *fill, *usable;
-    } cases[] = {
-        {"Normal", "Linear", "false", "false", "Matte", "BSEZO"},
-        {"Normal", "Linear", "false", "true", "Matte", "BSEZPO"},
-        {"Border", "Linear", "true", "false", "Matte", "BSEZPODUMA"},
-        {"Border", "Chroma", "false", "false", "Utility 1", "BSEZPODUM"},
-        {"Border", "Chroma", "true", "true", "Matte", "Z"}, // no edge
-        {"Border", "Wipe Pattern", "false", "false", "Matte", "BSEZPOUMA"},
-        {"Outline", "Linear", "false", "false", "Matte", "BSEZPOD"},
-        {"Emboss", "Linear", "false", "false", "Utility 1", "BSEZOMA"},
-        {"Zabton", "Chroma", "true", "false", "Matte", "ZUMA"},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [edge, type, fine, soft, fill, offered] :
+         {std::tuple{"Normal", "Linear", "false", "false", "Matte", "BSEZO"},
+          {"Normal", "Linear", "false", "true", "Matte", "BSEZPO"},
+          {"Border", "Linear", "true", "false", "Matte", "BSEZPODUMA"},
+          {"Border", "Chroma", "false", "false", "Utility 1", "BSEZPODUM"},
+          {"Border", "Chroma", "true", "true", "Matte", "Z"}, // no edge
+          {"Border", "Wipe Pattern", "false", "false", "Matte", "BSEZPOUMA"},
+          {"Outline", "Linear", "false", "false", "Matte", "BSEZPOD"},
+          {"Emboss", "Linear", "false", "false", "Utility 1", "BSEZOMA"},
+          {"Zabton", "Chroma", "true", "false", "Matte", "ZUMA"}}) {
         Open(0x82420000);
-        TellAll("M/E-5@Key4@",
-                {string("Type@Key Type#") + c.type, string("Edge@Soft Edge#") + c.soft,
-                 string("Edge@Edge Fill#") + c.fill, string("Edge@Edge#") + c.edge,
-                 string("Edge@Fine Key#") + c.fine});
+        TellAll("M/E-5@Key4@", {string("Type@Key Type#") + type, string("Edge@Soft Edge#") + soft,
+                                string("Edge@Edge Fill#") + fill, string("Edge@Edge#") + edge,
+                                string("Edge@Fine Key#") + fine});
         string usable;
         for (const auto& [letter, id] : buttons)
             if (BT_GetVisible(id) == BT_ENABLED)
                 usable += letter;
-        EXPECT_EQ(usable, c.usable) << c.edge << " " << c.type << " " << c.fine;
+        EXPECT_EQ(usable, offered) << edge << " " << type << " " << fine;
     }
 }
 

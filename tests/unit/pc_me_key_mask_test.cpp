@@ -5,21 +5,15 @@ using KeyMaskPages = TablePage;
 
 TEST_F(KeyMaskPages, AUtilityBusIsNamedByTheSourceOfItsOwnBank)
 {
-    static const struct {
-        uint32_t page;
-        const char* line;
-        const char* captions[2]; // of the two buses
-    } cases[] = {
-        {0x12140000, "M/E-2@Status@Xpt Assign@UTIL1#CAM 3", {"Utility 1\nCAM 3", "Utility 2\nBus"}},
-        {0x14230000, "PGM/PST@Status@Xpt Assign@UTIL2#VTR", {"Utility 1\nBus", "Utility 2\nVTR"}},
-        {0x16330000, "M/E-2@Status@Xpt Assign@UTIL1#", {"Utility 1\nBus", "Utility 2\nBus"}},
-        {0x11140000, "M/E-2@Status@Xpt Assign@UTIL1#X", {"Utility 1\nBus", "Utility 2\nBus"}},
-    };
-    for (const auto& c : cases) {
-        Open(c.page);
-        Tell(c.line);
-        EXPECT_EQ(Caption(35), c.captions[0]) << c.line;
-        EXPECT_EQ(Caption(36), c.captions[1]) << c.line;
+    for (const auto& [page, line, first, second] :
+         {std::tuple{0x12140000u, "M/E-2@Status@Xpt Assign@UTIL1#CAM 3", "CAM 3", "Bus"},
+          {0x14230000, "PGM/PST@Status@Xpt Assign@UTIL2#VTR", "Bus", "VTR"},
+          {0x16330000, "M/E-2@Status@Xpt Assign@UTIL1#", "Bus", "Bus"},
+          {0x11140000, "M/E-2@Status@Xpt Assign@UTIL1#X", "Bus", "Bus"}}) {
+        Open(page);
+        Tell(line);
+        EXPECT_EQ(Caption(35), std::string("Utility 1\n") + first) << line;
+        EXPECT_EQ(Caption(36), std::string("Utility 2\n") + second) << line;
     }
     Tell("M/E-1@Status@Xpt Assign@UTIL1#A Name Too Long");
     EXPECT_LT(Caption(35).size(), strlen("Utility 1\nA Name Too Long"));

@@ -326,10 +326,9 @@ TEST_F(SaverPictures, EveryKindOfBitmapIsShownButNoneThatSaysMoreThanItHolds)
     constexpr uint32_t DARK = 0x102030, LIGHT = 0x405060;
     static const struct {
         int info, bits, colours, rows, compression = 0;
-    } cases[] = {
-        {40, 1, 0, 2},   {40, 1, 2, -2},   {40, 4, 0, 2},  {40, 8, 2, 2},   {40, 8, 0, -2},
-        {108, 24, 0, 2}, {124, 24, 0, -2}, {40, 24, 7, 2}, {124, 32, 0, 2}, {124, 32, 0, 2, 3},
-    };
+    } cases[] = {{40, 1, 0, 2},   {40, 1, 2, -2},    {40, 4, 0, 2},    {40, 8, 2, 2},
+                 {40, 8, 0, -2},  {108, 24, 0, 2},   {124, 24, 0, -2}, {40, 24, 7, 2},
+                 {124, 32, 0, 2}, {124, 32, 0, 2, 3}};
     for (const auto& c : cases) {
         const int colours = c.bits > 8 ? 0 : c.colours ? c.colours : 1 << c.bits;
         std::string file = BmpHeads(c.info, c.bits, c.colours, c.rows, c.compression);
