@@ -67,7 +67,7 @@ TEST_F(Devices, TheAssignmentRowsDecideWhatBelongsToThePanel)
                 ElementsAre(0, 1, 2, 3));
 }
 
-TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
+TEST_F(Devices, KnobTablesGoByTheReferenceUnitsThatTheirChannelsPick)
 {
     // 0: not told, as it was
     for (const auto& [line, hd] : {std::pair{1, 0}, {2, 0}, {0, 0}, {3, 1}, {6, 1}, {0, 1}}) {
@@ -85,6 +85,13 @@ TEST_F(Devices, KnobTablesGoByTheReferenceUnits)
     }
     EXPECT_EQ(SYS_RefSwrScreenAspect[2], 0);
     EXPECT_EQ(SYS_RefSwrScreenAspect[3], 1);
+
+    for (const auto& [channels, unit] :
+         {std::pair{0x00, 1}, {0x08, 1}, {0x80, 2}, {0x90, 2}, {0x18, 1}}) {
+        SYS_DMEReference = channels;
+        EXPECT_EQ(getDmeReferenceUnit(), unit) << std::hex << channels;
+        EXPECT_EQ(getDmeReferenceModel(), 1 << unit) << std::hex << channels;
+    }
 }
 
 TEST_F(Devices, RubbishInTheTablesIsPassedOver)
@@ -108,17 +115,6 @@ TEST_F(Devices, RubbishInTheTablesIsPassedOver)
     memcpy(DEV_Swr[0].id, "SWR9", 5); // too short for a number
     DeviceStructure();
     EXPECT_EQ(SYS_MySwrMax, 0);
-}
-
-TEST_F(Devices, ReferenceChannelPicksTheUnit)
-{
-    DeviceStructure();
-    for (const auto& [channels, unit] :
-         {std::pair{0x00, 1}, {0x08, 1}, {0x80, 2}, {0x90, 2}, {0x18, 1}}) {
-        SYS_DMEReference = channels;
-        EXPECT_EQ(getDmeReferenceUnit(), unit) << std::hex << channels;
-        EXPECT_EQ(getDmeReferenceModel(), 1 << unit) << std::hex << channels;
-    }
 }
 
 // Which questions hold for 1080p, by switcher model, processors and effects model.

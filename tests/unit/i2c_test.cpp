@@ -40,7 +40,7 @@ void EmptyDevice(int device)
 }
 } // namespace
 
-TEST_F(I2c, AFailedReadLeavesTheBytes)
+TEST_F(I2c, AFailedReadLeavesTheBytesAndEachOpenIsClosed)
 {
     unsigned char in[4] = {9, 9, 9, 9};
     i2c_address_set(0x60);
@@ -52,10 +52,7 @@ TEST_F(I2c, AFailedReadLeavesTheBytes)
     i2c_close();
     for (const unsigned char byte : in)
         EXPECT_EQ(byte, 9);
-}
 
-TEST_F(I2c, EachOpenIsClosed)
-{
     const int free_fd = open("/dev/null", O_RDONLY);
     close(free_fd);
     i2c_address_set(128);

@@ -108,7 +108,7 @@ TEST_F(Info, ALostServerTakesAllProcessorsWithIt)
     EXPECT_THAT(GL_ProcStatus, ElementsAre(0, 0, 0, 0, 0, 0, 0));
 }
 
-TEST_F(Info, ProgressOnlyGrowsUntilItIsCleared)
+TEST_F(Info, ProgressOnlyGrowsUntilItIsClearedOrAUnitFallsSilent)
 {
     for (const auto& [path, value, unit, expected] :
          {std::tuple{"INFORMATION@PNL" PROGRESS, "40,100", 0, 16384},
@@ -122,10 +122,8 @@ TEST_F(Info, ProgressOnlyGrowsUntilItIsCleared)
         Deliver(path, value);
         EXPECT_EQ(FileProc_Prog[unit], expected) << path << "#" << value;
     }
-}
 
-TEST_F(Info, TheBarOfASilentUnitFalls)
-{
+    GL_FileProcessing = 0;
     FileProc_Prog[1] = 20000;
     FileProc_Timeout = 100;
     SendMessage(MSG_REDRAW, 5000, 0, 0, 0);

@@ -201,7 +201,7 @@ TEST_F(MeDmeWipe, AQuickTurnOfThePositionIsWorthMoreThanItsStepsAndACornerIsLit)
     }
 }
 
-TEST_F(MeDmeWipe, AllChosenChannelsFollowAKnob)
+TEST_F(MeDmeWipe, AllChosenChannelsFollowAKnobAndRelativeOnesMoveAgainstEachOther)
 {
     OpenWith(0x15650000, "M/E-1 SUB@DME Wipe", "3001");
     Own("Size", SIZE);
@@ -209,10 +209,7 @@ TEST_F(MeDmeWipe, AllChosenChannelsFollowAKnob)
     EXPECT_EQ(Tell("Panel@Common@Knob0#2"),
               Sent("put", {"Size@Size@1#diff32.00", "Size@Size@3#diff32.00"}));
     EXPECT_EQ(Enter(1, 12.5), Sent("put", {"Size@Size@1#12.50", "Size@Size@3#12.50"}));
-}
 
-TEST_F(MeDmeWipe, RelativeChannelsMoveAgainstEachOther)
-{
     const std::string pos = "M/E-4@DME Wipe@Modify@Position@Position@";
     OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", "2003");
     Own("Position@Position", POSITION);

@@ -44,7 +44,7 @@ TEST_F(KeyTypePage, EachSelectButtonLeadsToWhatItsSettingIsMadeOf)
     }
 }
 
-TEST_F(KeyTypePage, In4KKey3LosesEightButtonsAndKey2None)
+TEST_F(KeyTypePage, In4KKey3LosesEightButtonsAndTheSmallPanelSelectsPatternsAlone)
 {
     SYS_4KMode = 1;
     for (const DEVTYPE panel : {DEVTYPE_UNKNOWN, DEVTYPE_QRD33})
@@ -57,10 +57,7 @@ TEST_F(KeyTypePage, In4KKey3LosesEightButtonsAndKey2None)
                 hidden += b->visible == BT_CUTOFF;
             EXPECT_EQ(hidden, page == 0x11310000 ? 8 : 0) << panel;
         }
-}
 
-TEST_F(KeyTypePage, TheSmallPanelSelectsPatternsAndNoSignals)
-{
     SYS_RefPnlType = DEVTYPE_QRD33;
     Open(0x11110000);
     EXPECT_THAT(Usable({38}), IsEmpty());
@@ -183,7 +180,7 @@ TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
 
 using KeyChromaPage = TablePage;
 
-TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
+TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPageAndTheBackingIsChosenFromItsPullDown)
 {
     const string mark = "M/E-3@Key4@Type@Chroma Adjust@Sample Mark";
     for (const bool is_on : {false, true}) {
@@ -195,10 +192,7 @@ TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPage)
     }
     Open(0x13410001);
     EXPECT_THAT(Leave(), Not(Contains("put " + mark + "#false"))) << "nothing is known of it";
-}
 
-TEST_F(KeyChromaPage, TheBackingIsChosenFromItsPullDown)
-{
     const string backing = "M/E-4@Key2@Type@Chroma Adjust@Backing";
     Open(0x81210001);
     Tell("M/E-4@Key2@Type@Key Type#Chroma");

@@ -264,7 +264,7 @@ TEST_F(MeMisc, AWipeOfTheInternalChannelsHasItsPictureInTheCells)
 
 // --- Other cells of a key ---
 
-TEST_F(MeMisc, TheCellOfTheCutTellsInversionAndThePositionOfItsType)
+TEST_F(MeMisc, TheCellsOfAKeyTellInversionPositionAndTheMonitorOfItsChannels)
 {
     const std::string type = "M/E-1@Key1@Type@";
     const auto lit = [] {
@@ -279,6 +279,14 @@ TEST_F(MeMisc, TheCellOfTheCutTellsInversionAndThePositionOfItsType)
     EXPECT_EQ(lit(), "p");
     TellAll(type, {"Key Invert#true", "Key Type#Chroma"});
     EXPECT_EQ(lit(), "i");
+
+    Open(0x81210000);
+    Tell("M/E-4@Key2@Processed Key@DME Select@DME3#true");
+    for (const char* monitor : {"3", "2", "0", "9", "x", "-1"}) {
+        Tell(std::string("M/E-1@Key1@Processed Key@Monitor#") + monitor);
+        Pass(10);
+        EXPECT_EQ(PixelAt(508, 165 + 22 + 15) == 0xFFFFFF, monitor[0] == '3') << monitor;
+    }
 }
 
 // Without that cell the fill and the source still say which of them is assigned.
@@ -309,17 +317,6 @@ TEST_F(MeMisc, TheCellOfGoingShowsHowTheKeyReallyGoes)
         Pass(10);
         const bool is_alike = PixelsIn({305, 190, 394, 229}) == PixelsIn({405, 190, 494, 229});
         EXPECT_EQ(is_alike, !has_own);
-    }
-}
-
-TEST_F(MeMisc, TheMonitorIsMarkedOnlyForAChannelOfTheKey)
-{
-    Open(0x81210000);
-    Tell("M/E-4@Key2@Processed Key@DME Select@DME3#true");
-    for (const char* monitor : {"3", "2", "0", "9", "x", "-1"}) {
-        Tell(std::string("M/E-1@Key1@Processed Key@Monitor#") + monitor);
-        Pass(10);
-        EXPECT_EQ(PixelAt(508, 165 + 22 + 15) == 0xFFFFFF, monitor[0] == '3') << monitor;
     }
 }
 

@@ -91,7 +91,7 @@ struct SetupPage : SetupTest {
 };
 } // namespace
 
-TEST_F(SetupPage, AsksForEachPathOnceAndLeavesItWithThePage)
+TEST_F(SetupPage, AsksForEachPathOnceAndKeepsWhatIsInHandBeyondThePage)
 {
     Start(page);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add Setup@Mode@U1@Now", "add Setup@Mode@U3@Now",
@@ -100,6 +100,15 @@ TEST_F(SetupPage, AsksForEachPathOnceAndLeavesItWithThePage)
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("remove Setup@Mode@U1@Now", "remove Setup@Mode@U3@Now",
                             "remove Setup@Limits", "remove Setup@Order"));
+
+    Start(page);
+    SetupPage_Set(page, 2, 1, "much too long for it");
+    SetupPage_Close(page);
+    SetupPage_Open(page);
+    EXPECT_STREQ(SetupPage_Text(page, 2, 1), "much to");
+    EXPECT_TRUE(SetupPage_Differs(page));
+    EXPECT_STREQ(SetupPage_Text(page, 3, 1), "");
+    EXPECT_EQ(SetupPage_Row(page, "U3"), 2);
 }
 
 TEST_F(SetupPage, AnotherPanelsChangeLeavesWhatIsInHand)
@@ -150,16 +159,4 @@ TEST_F(SetupPage, RowsThatLinesMakeComeBackAfterKillWithTheirEdits)
          {"KILL", "a key that is cut as too long,1", "a key that is cut as too long,2"})
         Hear("Setup@Limits", line);
     EXPECT_EQ(LowLimits(), "a key that is cut as to=2(2) ");
-}
-
-TEST_F(SetupPage, WhatIsInHandOutlivesThePageAndATooLongTextIsCut)
-{
-    Start(page);
-    SetupPage_Set(page, 2, 1, "much too long for it");
-    SetupPage_Close(page);
-    SetupPage_Open(page);
-    EXPECT_STREQ(SetupPage_Text(page, 2, 1), "much to");
-    EXPECT_TRUE(SetupPage_Differs(page));
-    EXPECT_STREQ(SetupPage_Text(page, 3, 1), "");
-    EXPECT_EQ(SetupPage_Row(page, "U3"), 2);
 }
