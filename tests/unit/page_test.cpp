@@ -450,8 +450,11 @@ TEST_F(PageTest, TemplateIdsMoveToTheBankAndKeyOfThePage)
         }
 }
 
-TEST_F(PageTest, TheNearestPageIsOneThatExists)
+TEST_F(PageTest, TheNearestPageIsOneThatExistsWhichIsLookedForTwiceASecond)
 {
+    PageLook look;
+    for (const auto& [ms, is_due] : {std::pair{10, true}, {250, false}, {249, false}, {1, true}})
+        EXPECT_EQ(PageLook_IsDue(look, ms), is_due) << ms;
     const FullHouse all;
     for (const auto& [meant, nearest] : {std::pair{0x11120000u, 0x11120000u},
                                          {0x11121234u, 0x11120000u},
