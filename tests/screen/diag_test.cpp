@@ -9,16 +9,6 @@ struct DiagPictures : TablePage {
     {
         (void)Tell("INFORMATION@" + unit_class + " Self Diagnosis Notice@" + report);
     }
-    // The same time in every run.
-    static void StopTheClock()
-    {
-        DiagUnit unit;
-        for (int c = 0; c < DIAG_CLASSES; c++)
-            for (int n = 0; SelfDiag_Unit(DIAG_CLASS(c), n, &unit); n++)
-                for (int i = 0; i < unit.items; i++)
-                    if (unit.item[i].status)
-                        PrintText(unit.item[i].time, "Nov.25.2026 20:%02d:%02d", 15 + c, i % 60);
-    }
     static void Faults()
     {
         Report("PNL", "FAN Operation Hours#PNL1,8760,12345,8760,8760");
@@ -29,7 +19,13 @@ struct DiagPictures : TablePage {
         Report("SWR", "Board Temperature#SWR1,OK,OK,NG");
         Report("SWR", "Reference Status#SWR1,OK,None");
         Report("DME", "Circuit Board Function#DME1,OK,OK,OK,NG");
-        StopTheClock();
+        // The same time in every run.
+        DiagUnit unit;
+        for (int c = 0; c < DIAG_CLASSES; c++)
+            for (int n = 0; SelfDiag_Unit(DIAG_CLASS(c), n, &unit); n++)
+                for (int i = 0; i < unit.items; i++)
+                    if (unit.item[i].status)
+                        PrintText(unit.item[i].time, "Nov.25.2026 20:%02d:%02d", 15 + c, i % 60);
     }
 };
 

@@ -405,9 +405,6 @@ TEST_F(SystemPage, TheClockRunsUntilAKnobTakesIt)
     EXPECT_EQ(Shown("Year") + " " + Shown("Day") + " " + Shown("Hour"), "2024 29 7");
     SendMessage(LMSG_KNOBVAR, 1, 2023, 0, 0);
     EXPECT_EQ(Caption(BTN_MAINTENANCE_TIME), "Feb 28\n07:08:00\n2023");
-    EXPECT_THAT(Push(34), IsEmpty());
-    EXPECT_NE(Pane_GetActiveID(), 0) << "nobody may set the clock of this machine";
-    Dismiss();
     (void)Push(49);
     Pass(10);
     EXPECT_NE(Caption(BTN_MAINTENANCE_TIME), "Feb 28\n07:08:00\n2023");

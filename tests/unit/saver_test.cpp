@@ -141,9 +141,9 @@ TEST_F(Saver, IsBarredWithoutLosingItsCount)
         c.bar(); // a pane wakes the saver: the count begins here
         EXPECT_EQ(ScreenSaver(5000), c.answer) << c.what;
         c.lift();
-        EXPECT_EQ(ScreenSaver(900), 0) << c.what;
+        EXPECT_EQ(ScreenSaver(1000), 0) << c.what;
         EXPECT_FALSE(IsSaver()) << c.what;
-        ScreenSaver(101);
+        ScreenSaver(1);
         EXPECT_TRUE(IsSaver()) << c.what;
     }
 }

@@ -14,20 +14,6 @@ struct SetupUnits : SetupTest {
         SYS_DualProc = 0;
         SetupTest::TearDown();
     }
-    // Two processors as one: four effects units.
-    static void BecomeDual()
-    {
-        SYS_DualProc = 1;
-        DEV_Swr[0].activeline = DEV_Dme[0].activeline = 6;
-        DeviceStructure();
-    }
-    static std::string Keys()
-    {
-        std::string keys;
-        for (int row = 0; row < LS_GetNData(1); row++)
-            keys += (row ? "," : "") + std::string(LS_GetData(1, row, 0));
-        return keys;
-    }
 };
 
 TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
@@ -47,15 +33,19 @@ TEST_F(SetupUnits, APageHasTheUnitsAndChannelsOfItsInstallation)
         {0x73440010, "", "1,2,3,4,5,6,7,8"},
     };
     for (const bool is_dual : {false, true}) {
-        if (is_dual)
-            BecomeDual();
+        SYS_DualProc = is_dual; // two processors as one: four effects units
+        DEV_Swr[0].activeline = DEV_Dme[0].activeline = is_dual ? 6 : 0;
+        DeviceStructure();
         for (const auto& [page, of_single, of_dual] : cases) {
             const std::string& keys = is_dual ? of_dual : of_single;
             ASSERT_EQ(SearchPageTable(page) != nullptr, !keys.empty()) << std::hex << page;
             if (keys.empty())
                 continue;
             (void)Open(page);
-            EXPECT_EQ(Keys(), keys) << std::hex << page;
+            std::string shown;
+            for (int row = 0; row < LS_GetNData(1); row++)
+                shown += (row ? "," : "") + Cell(1, row, 0);
+            EXPECT_EQ(shown, keys) << std::hex << page;
         }
     }
 }
