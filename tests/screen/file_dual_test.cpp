@@ -15,7 +15,7 @@ struct FilePictures : ServerPage {
             no += no == 3 ? 2 : 1;
         }
     }
-    static void Frames(const Lines& in_folder)
+    static void Frames()
     {
         const std::string memory = "16@Frame Mem@Status@";
         Tell(memory + "Max Register#200");
@@ -23,8 +23,7 @@ struct FilePictures : ServerPage {
         for (const char* name : {"Mlogo", "Slogo", "Mskyline", "Mnews0001", "Mnews0002", "Mbeach"})
             Tell(memory + "File Name Sense#" + std::to_string(++number) + ",81," + name);
         Tell(memory + "Folder Name Sense#0,Default.,1,Sport,2,Graphics,3,News");
-        for (const std::string& name : in_folder)
-            Tell("Frame Mem@Folder@Move Still#0," + name + ",2");
+        TellAll("Frame Mem@Folder@Move Still#0,", {"Mlogo,2", "Slogo,2", "Mbeach,2"});
     }
     static void Select(int list, const std::vector<int>& rows)
     {
@@ -60,7 +59,7 @@ TEST_F(FilePictures, DetailPage)
 
 TEST_F(FilePictures, FrameMemoryPage)
 {
-    Frames({"Mlogo", "Slogo", "Mbeach"});
+    Frames();
     (void)Reply(Open(0x71510000), "Access@Find",
                 Below("MYHOST:/mnt/data/user/root/SYSTEM/FMEMFOL/DEFAULT/SWR000D001/",
                       {"Mclock.FMEM_001.SFM", "Mlogo.FMEM_012.SFM", "Sbg2.FMEX_1234.SFA"}));
@@ -74,7 +73,7 @@ TEST_F(FilePictures, FrameMemoryPage)
 
 TEST_F(FilePictures, ImportExportPage)
 {
-    Frames({});
+    Frames();
     for (const std::string& line : Open(0x71610000)) {
         const bool is_upper = line.ends_with("*.TIF"); // one spelling of the extension is enough
         (void)Serve(line, "Access@Find",

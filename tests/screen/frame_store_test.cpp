@@ -12,7 +12,6 @@ struct StorePictures : ServerPage {
     void SetUp() override
     {
         ServerPage::SetUp();
-        FMCtrl_Quit();
         FMCtrl_InitClipStillList();
         Fmem1_Reset();
         fs::create_directories(LOCAL);
@@ -20,7 +19,6 @@ struct StorePictures : ServerPage {
     void TearDown() override
     {
         (void)Leave();
-        FMCtrl_Quit();
         fs::remove_all(LOCAL);
         ServerPage::TearDown();
     }

@@ -23,7 +23,6 @@ struct AutoLoad : FileTest {
     void TearDown() override
     {
         std::fill_n(GL_FileLock, FILE_LOCKS, 0);
-        FMCtrl_Quit();
         Err_Clear();
         FileTest::TearDown();
     }

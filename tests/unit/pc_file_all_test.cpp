@@ -21,17 +21,11 @@ struct FileAllPage : ServerPage {
     void SetUp() override
     {
         ServerPage::SetUp();
-        FMCtrl_Quit();
         FMCtrl_InitClipStillList();
         CopyText(SYS_SHP_MyUserID, "MENU1");
         CopyText(GL_ImportDataPath, "/mnt/usb/usb1/");
         HubIsThere();
         (void)Open(ALL_PAGE);
-    }
-    void TearDown() override
-    {
-        FMCtrl_Quit();
-        ServerPage::TearDown();
     }
     static void Select(const std::set<std::string>& categories)
     {
