@@ -1,5 +1,4 @@
 #include "frame_page.h"
-#include "server_page.h"
 
 constexpr uint32_t OLD = 0x71510100, NEW = 0x71510200, FOLDERS_PAGE = 0x71520000;
 constexpr const char* DRIVE = "MYHOST:/mnt/data/user/root/SYSTEM/";

@@ -4,7 +4,6 @@
 #include "fmctrl3.h"
 #include "frame_page.h"
 #include "pc_file_xport.h"
-#include "server_page.h"
 
 using testing::EndsWith;
 
@@ -187,6 +186,12 @@ TEST_F(XportPage, ExtendedStoreTakesWhatTheMainOneCannot)
     const Lines sent = Run(Press(BTN_XPORT_IMPORT));
     EXPECT_THAT(sent, Contains(HasSubstr("Mbeach.FMEM_001.SF2,SWR001D001:FMEX_002.SF2")));
     EXPECT_THAT(sent, Contains(HasSubstr("Sbeach.FMEM_002.SF2,SWR001D001:FMEX_003.SF2")));
+    Store({"Md"}, 3);
+    Store({"Me", "Mf"}, 16384 + 2);
+    OpenWith(NEW, {"sea.TIF"});
+    Select(2, {0});
+    Press(BTN_XPORT_IMPORT);
+    EXPECT_THAT(Message(), HasSubstr("There is no empty register left."));
 }
 
 TEST_F(XportPage, WhatIsNotPermittedIsSkippedAndSaid)

@@ -1,3 +1,4 @@
+#include "a_fl.h"
 #include "a_st_draw.h"
 #include "table_page.h"
 
@@ -98,4 +99,17 @@ TEST_F(GalleryPages, CellsAndTabsFollowTheirKeysAndForgetThemWithThePage)
             Pass(200);
         }
     }
+}
+
+TEST_F(GalleryPages, EachSideOfTheFilesGoesRoundTheDrives)
+{
+    (void)Open(0x9992000B);
+    for (const int device : {FL_DIRDATA_REMOVABLE_DRIVE, FL_DIRDATA_STORAGE_ROOT}) {
+        (void)Press(33);
+        Pass(200);
+        EXPECT_EQ(FL_GetDevice(FL_L_LIST), device);
+    }
+    (void)Press(36);
+    EXPECT_EQ(FL_GetDevice(FL_R_LIST), FL_DIRDATA_STORAGE_ROOT + 1);
+    EXPECT_EQ(FL_GetDevice(FL_L_LIST), FL_DIRDATA_STORAGE_ROOT);
 }
