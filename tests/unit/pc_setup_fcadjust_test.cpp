@@ -26,13 +26,6 @@ struct FcAdjust : SetupTest {
     }
 };
 
-TEST_F(FcAdjust, AnInputOfAnotherConverterHasNoPlace)
-{
-    FCInput = 1;
-    for (const auto& [n, id] : {std::pair{4, 0}, {7, 3}, {3, -1}, {8, -1}, {-1, -1}})
-        EXPECT_EQ(fcadjust_n_to_id(n), id) << n;
-}
-
 TEST(FcFormatCheck, AChangeOfFormatNeedsItsKindOfConversion)
 {
     static const struct {
@@ -60,6 +53,8 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
     const Lines changed = Choose(BTN_FCADJUST_GROUP, 2);
     EXPECT_THAT(changed, Contains("remove " + ADJUST + "H/V@0"));
     EXPECT_THAT(changed, Contains("add " + ADJUST + "H/V@7"));
+    for (const auto& [n, id] : {std::pair{4, 0}, {7, 3}, {3, -1}, {8, -1}, {-1, -1}})
+        EXPECT_EQ(fcadjust_n_to_id(n), id) << n;
     TellAll(ADJUST, {"Convert Mode@4#1", "Convert Mode@0#2", "Aspect Type@7#Squeeze",
                      "Convert Mode@99#1", "Convert Mode@#1"});
     EXPECT_EQ(Row(0, 4), "5||Up|");

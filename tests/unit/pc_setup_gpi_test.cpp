@@ -16,7 +16,7 @@ struct Gpi : SetupTest {
     }
 };
 
-TEST_F(Gpi, EachPortIsAskedForWithBothKindsOfActionAndLeftAgain)
+TEST_F(Gpi, EachPortIsAskedForWithItsEightValuesLeftAgainAndFiredByItsNumber)
 {
     const Lines opened = Open(OUTPUT_PAGE);
     const Lines left = Leave();
@@ -26,10 +26,7 @@ TEST_F(Gpi, EachPortIsAskedForWithBothKindsOfActionAndLeftAgain)
         EXPECT_THAT(left, Contains("remove " + PORTS + path));
     }
     EXPECT_THAT(opened, Not(Contains("add " + PORTS + "Trigger Type@9")));
-}
 
-TEST_F(Gpi, APortHasEightValuesOfWhichTheEmptyPathSaysNothingAndIsFiredByItsNumber)
-{
     OpenOutput();
     EXPECT_EQ(Row(0, 7), "1|Rising Edge|2|10|Key On|M/E-1 Key3|");
     EXPECT_EQ(Row(1, 7), "2|Level|0|255|Effect Recall|User1|12");

@@ -64,7 +64,9 @@ TEST_F(SpPage, TheStripShowsTheChosenChannel)
         EXPECT_EQ(now != before, changes) << line;
         before = now;
     }
+    EXPECT_EQ(Cell(1, 0, 0), "SP1");
     (void)ChooseRow(1, 1);
+    EXPECT_STREQ(GL_NowTree[1], "SP2");
     EXPECT_NE(strip(), before) << "the second has been told another level";
 }
 
