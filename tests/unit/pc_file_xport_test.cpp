@@ -42,9 +42,7 @@ struct XportPage : FramePage {
     }
     static void Found(const Lines& sent, const Lines& files)
     {
-        for (const std::string& line : sent) {
-            if (!line.starts_with("put File@Access@Find#"))
-                continue;
+        for (const std::string& line : With("put File@Access@Find#", sent)) {
             const std::string ext = line.substr(line.rfind('*') + 1);
             Lines rows;
             for (const std::string& file : files)
@@ -64,10 +62,8 @@ struct XportPage : FramePage {
     static void Hub(const char* verb, const std::string& path, const std::string& values = "")
     {
         const bool is_clip = path.ends_with(".SFH");
-        const std::string row = "root/" + path + (values.empty() ? "" : ":" + values);
-        SendMessage(MSG_SHPTALLY, Arg(verb),
-                    Arg(is_clip ? "CS1.ClipStoreFile" : "CS1.ClipStoreFolder"), 0,
-                    Arg(row.c_str()));
+        ServerPage::Hub(verb, is_clip ? "CS1.ClipStoreFile" : "CS1.ClipStoreFolder",
+                        "root/" + path + (values.empty() ? "" : ":" + values));
     }
     static void Clip(const std::string& path, int frames)
     {
@@ -79,16 +75,15 @@ struct XportPage : FramePage {
         Pass(10);
         Lines rows;
         for (int row = 0; row < LS_GetNData(1); row++)
-            rows.push_back((LS_IsSelected(1, row, 1) == 1 ? "*" : "") +
-                           std::string(LS_GetData(1, row, 0)) + LS_GetData(1, row, 1) + " " +
-                           LS_GetData(1, row, 2));
+            rows.push_back((LS_IsSelected(1, row, 1) == 1 ? "*" : "") + Cell(1, row, 0) +
+                           Cell(1, row, 1) + " " + Cell(1, row, 2));
         return rows;
     }
     static void TouchClip(int row) { (void)Touch(170, 124 + 22 * (row + 1) + 10); }
     static void StoreIsThere()
     {
         Filescp_trnasferlist_init("CS1");
-        SendMessage(MSG_SHPTALLY, Arg("Ready"), Arg("CS1.File"), 0, 0);
+        ServerPage::Hub("Ready", "CS1.File");
     }
     static Lines With(const char* part, Lines lines)
     {
@@ -417,7 +412,7 @@ TEST_F(ClipXportPage, ClipsAreSavedAndLoadedAsTheyAre)
             "CS1 store:NEWS/still.SFH > stick:still.SFH 0/1"));
     // The hub goes half way: what looks like a clip does, too.
     (void)TakeQueuedCommands();
-    SendMessage(MSG_SHPTALLY, Arg("Disconnect"), Arg("CS1.File"), 0, 0);
+    ServerPage::Hub("Disconnect", "CS1.File");
     const Lines after = TakeQueuedCommands();
     EXPECT_THAT(With("Access@Rmdir#", after),
                 ElementsAre(EndsWith(",MYHOST:/mnt/usb/usb1/intro.SFH")));
