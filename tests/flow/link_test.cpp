@@ -438,7 +438,7 @@ static void QueueFrames()
         EXPECT_EQ(Net_SendBinCommand(5, i, data, sizeof data), 0);
 }
 
-TEST_F(BinLink, FramesWaitForAServerThatIsBehindWithItsReading)
+TEST_F(BinLink, FramesWaitForAServerThatIsBehindAndACutOneIsSentWholeAgain)
 {
     QueueFrames();
     for (uint32_t i = 0; i < FRAMES; i++) {
@@ -447,10 +447,6 @@ TEST_F(BinLink, FramesWaitForAServerThatIsBehindWithItsReading)
         ASSERT_EQ(uint8_t(frame.at(3)) | uint8_t(frame.at(4)) << 8, int(i));
         ASSERT_EQ(frame.substr(1031), "\xFF\xFF");
     }
-}
-
-TEST_F(BinLink, AFrameThatWasCutByALossIsSentWholeAgain)
-{
     QueueFrames();
     EXPECT_EQ(Net_SendBinCommandQueue(), 0);
     peer.Drop();

@@ -30,7 +30,7 @@ struct Buttons : ButtonPage {
     }
 };
 
-TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgainUnlessItIsOnlyRead)
+TEST_F(ButtonPage, EachPathThatThereIsIsSubscribedOnceAndRemovedAgainUnlessItIsOnlyRead)
 {
     rows[0] = Button(17, BT_RADIO, {"~@Key Type#Luminance"});
     rows[1] = Button(18, BT_RADIO, {"~@Key Type#Linear", "~2@Invert#true", "LOCAL@Test@Mode#1"});
@@ -50,19 +50,16 @@ TEST_F(ButtonPage, EachPathIsSubscribedOnceAndRemovedAgainUnlessItIsOnlyRead)
                                                   "read M/E-1@Key1@Type@C"));
     BT_Create(nullptr, 0);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("remove M/E-1@Key1@Type@A"));
-}
-
-TEST_F(ButtonPage, TextsOfAnyLengthStayInTheirBuffers)
-{
-    const std::string path(2 * CMD_SIZE, 'p');
-    rows[0] = Button(17, BT_RADIO, {path.c_str(), "~@A#x"});
-    Open(rows);
-    const std::string cut = path.substr(0, CMD_SIZE - 1);
-    EXPECT_EQ(bt_find(17)->cmd[0], cut);
-    Press(17);
-    Tally("M/E-1@Key1@Type@A", path.c_str());
-    EXPECT_EQ(bt_find(17)->tally[1], cut);
-    BT_UndecidedRequest(path.c_str(), 1);
+    rows[0] = Button(17, BT_TOGGLE, {"~@Resizer@Mode#*", "~@Rszr#", "~@Other#"});
+    for (const size_t paths : {1, 3}) {
+        SYS_FmemV6 = paths == 3;
+        BT_Create(nullptr, 0);
+        (void)TakeQueuedCommands();
+        BT_Create(rows, 0);
+        const auto sent = TakeQueuedCommands();
+        EXPECT_EQ(sent.size(), paths);
+        EXPECT_THAT(sent, Contains("add M/E-1@Key1@Type@Other"));
+    }
 }
 
 TEST_F(Buttons, APressSendsWhatItsTypeSaysAndIsPaintedAtOnceWhenItLeadsToMore)
@@ -176,21 +173,7 @@ TEST_F(Buttons, AButtonThatCannotBeUsedLetsGoOfTheKnobs)
 
 using SpecialRows = ButtonPage;
 
-TEST_F(SpecialRows, AnOlderFrameMemoryHasNoResizerToFollow)
-{
-    rows[0] = Button(17, BT_TOGGLE, {"~@Resizer@Mode#*", "~@Rszr#", "~@Other#"});
-    for (const size_t paths : {1, 3}) {
-        SYS_FmemV6 = paths == 3;
-        BT_Create(nullptr, 0);
-        (void)TakeQueuedCommands();
-        BT_Create(rows, 0);
-        const auto sent = TakeQueuedCommands();
-        EXPECT_EQ(sent.size(), paths);
-        EXPECT_THAT(sent, Contains("add M/E-1@Key1@Type@Other"));
-    }
-}
-
-TEST_F(SpecialRows, APageHasThirtyTwoButtonsAndNoMore)
+TEST_F(SpecialRows, APageHasThirtyTwoButtonsAndTextsStayInTheirBuffers)
 {
     for (int i = 0; i < BT_MAX + 2; i++)
         rows[i] = Button(17 + i, BT_TOGGLE, {""});
@@ -198,6 +181,16 @@ TEST_F(SpecialRows, APageHasThirtyTwoButtonsAndNoMore)
     EXPECT_TRUE(bt_find(17 + BT_MAX - 1));
     EXPECT_FALSE(bt_find(17 + BT_MAX));
     EXPECT_EQ(bt_first()[BT_MAX].id, -1);
+    std::fill(std::begin(rows), std::end(rows), BT_TBL{});
+    const std::string path(2 * CMD_SIZE, 'p');
+    rows[0] = Button(17, BT_RADIO, {path.c_str(), "~@A#x"});
+    Open(rows);
+    const std::string cut = path.substr(0, CMD_SIZE - 1);
+    EXPECT_EQ(bt_find(17)->cmd[0], cut);
+    Press(17);
+    Tally("M/E-1@Key1@Type@A", path.c_str());
+    EXPECT_EQ(bt_find(17)->tally[1], cut);
+    BT_UndecidedRequest(path.c_str(), 1);
 }
 
 TEST_F(SpecialRows, TheLookIsPushedForItsTimeAndALongActionForASecond)

@@ -35,7 +35,7 @@ struct BottomTabs : TabPage {
     }
 };
 
-TEST_F(BottomTabs, APressAsksForThePageOfItsCell)
+TEST_F(BottomTabs, APressAsksForThePageOfItsCellUnlessTheTabHasNone)
 {
     for (const auto& [x, y, id] : {std::tuple<int, int, uint32_t>{Cell(2) - 1, Y, 0x11110000u},
                                    {Cell(2), Y, 0x11120000u},
@@ -55,10 +55,6 @@ TEST_F(BottomTabs, APressAsksForThePageOfItsCell)
     HF_Create(tabs, 1 | HF_LOW);
     EXPECT_EQ(Asked(Cell(2), 555), 0u);
     EXPECT_EQ(Asked(Cell(2), 556), 0x11120000u);
-}
-
-TEST_F(BottomTabs, ATabWithoutAPageIsBlankButTheChosenOne)
-{
     SYS_MEOperation[0] = 1; // M/E-1 has no pages then
     HF_Create(tabs, 1);
     EXPECT_EQ(Asked(Cell(2), Y), 0u);

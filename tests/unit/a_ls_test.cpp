@@ -73,19 +73,6 @@ TEST_F(Lists, ATouchTellsTheCellAndTheList)
     EXPECT_EQ(Picture(), "..........");
 }
 
-TEST_F(Lists, ABouncingContactDoesNotTakeBackWhatItDid)
-{
-    for (const auto& [pause_ms, after] : {std::pair{0u, 'x'}, {150u, 'x'}, {151u, '.'}}) {
-        Open(plain, 5);
-        LS_SetMS(1, 1);
-        TouchLine(0);
-        Clock_ms += pause_ms;
-        Press(150, RowY(0));
-        EXPECT_EQ(Picture()[0], after) << pause_ms;
-        Release();
-    }
-}
-
 TEST_F(Lists, PluralAddsAndTakesAwayUntilItIsLeft)
 {
     Open(plain, 5);
@@ -133,7 +120,7 @@ TEST_F(Lists, BlockTurnsAllRowsOverAndKeepsThemOneRun)
     }
 }
 
-TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
+TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlongAndABouncingOneNothingBack)
 {
     for (const auto& [marks, press, moves, after] :
          {std::tuple{"..........", 4, std::vector<int>{0},
@@ -154,6 +141,15 @@ TEST_F(Lists, AFingerThatMovesOnTakesTheRowsAlong)
         EXPECT_EQ(Picture(), after) << "the finger is up";
     }
     EXPECT_THAT(Told(), ElementsAre("SEL 1 3 1", "SEL 1 2 1"));
+    for (const auto& [pause_ms, after] : {std::pair{0u, 'x'}, {150u, 'x'}, {151u, '.'}}) {
+        Open(plain, 5);
+        LS_SetMS(1, 1);
+        TouchLine(0);
+        Clock_ms += pause_ms;
+        Press(150, RowY(0));
+        EXPECT_EQ(Picture()[0], after) << pause_ms;
+        Release();
+    }
 }
 
 TEST_F(Lists, ASplitListSelectsCells)

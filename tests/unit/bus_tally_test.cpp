@@ -107,7 +107,7 @@ TEST_F(BusTally, AValueLandsInItsPlace)
 
 // --- Units ---
 
-TEST_F(BusTally, AChangeOfTheEffectsReferenceIsTold)
+TEST_F(BusTally, AnotherReferenceIsToldToThePageAndADataPortOutOfUseAskedFor)
 {
     Deliver("Info@DME@RefCH", "1");
     probe::seen.clear();
@@ -116,10 +116,6 @@ TEST_F(BusTally, AChangeOfTheEffectsReferenceIsTold)
     EXPECT_EQ(probe::Count(LMSG_DMEREFCHANGE), 2);
     EXPECT_EQ(Deliver("Info@DME@SelCH", "1"), 1);
     EXPECT_EQ(probe::Count(MSG_TALLY), 0);
-}
-
-TEST_F(BusTally, ADataPortThatIsOutOfUseIsAskedFor)
-{
     std::fill(std::begin(GL_FMDataPortDisable), std::end(GL_FMDataPortDisable), 0);
     (void)TakeQueuedCommands();
     Deliver("Info@System Setup Data@FM Data Port Disable@SWR1", "1,0");

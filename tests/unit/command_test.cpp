@@ -21,7 +21,7 @@ static Parts Cut(int (*split)(char*, char**, int), std::string text, int vn)
     return parts;
 }
 
-TEST(Command, ValuesAreCutAtTheirSeparator)
+TEST(Command, ValuesBeginBehindTheFirstMarkAndAreCutAtTheirSeparator)
 {
     for (const auto& [split, text, vn, parts] :
          {std::tuple<int (*)(char*, char**, int), const char*, int, Parts>{
@@ -39,10 +39,6 @@ TEST(Command, ValuesAreCutAtTheirSeparator)
     char* v[] = {some, some};
     EXPECT_EQ(SplitVars(nullptr, v, 2), 0);
     EXPECT_TRUE(!v[0] && !v[1]);
-}
-
-TEST(Command, TheValueBeginsBehindTheFirstMark)
-{
     static const struct {
         const char *text, *var, *row;
     } cases[] = {

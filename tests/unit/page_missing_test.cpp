@@ -72,7 +72,7 @@ TEST_F(MissingPages, OfACellThatLeadsNowhereTheNameIsDimmedToo)
 }
 
 // Page code puts keys out for reasons of its own, and lets them go again.
-TEST_F(MissingPages, PageCodeDoesNotMakeAKeyUsableThatLeadsNowhere)
+TEST_F(MissingPages, PageCodeDoesNotMakeAKeyUsableThatLeadsNowhereNorIsTheTitleOne)
 {
     constexpr int KEY = 2; // M/E-2
     SYS_MEOperation[1] = 1;
@@ -87,10 +87,6 @@ TEST_F(MissingPages, PageCodeDoesNotMakeAKeyUsableThatLeadsNowhere)
     BT_SetCommand(KEY, 0, "#11110000");
     (void)Press(KEY);
     EXPECT_EQ(GL_CreatePage, 0x11110000u) << "it leads elsewhere now";
-}
-
-TEST_F(MissingPages, TheTitleIsAKeyWhereItsSectionHasATopPage)
-{
     constexpr int FELT_MS = 160;
     for (const auto& [id, is_error, asked] : {std::tuple{0x33120000u, 0, 0x33000000u},
                                               {0x77770000u, 0, 0u},

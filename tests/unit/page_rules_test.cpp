@@ -226,19 +226,7 @@ TEST_F(PageRules, BanksThatAreNotInUseAreHidden)
     Check([] { Switcher(DEVTYPE_KTR40), multiprogram2_me[4] = 1; }, To{0x85600007, 0x85600007});
 }
 
-TEST_F(PageRules, ATransferFoldsATabIntoItsFirstPage)
-{
-    static const struct {
-        uint32_t page, first;
-    } cases[] = {
-        {0x21670203, 0x21600000}, {0x71510200, 0x71500000}, {0x71810000, 0x71810000},
-        {0x73110099, 0x73100000}, {0x86760000, 0x86700000}, {0x11750000, 0x11750000},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Page_FirstOfTab(c.page), c.first) << std::hex << c.page;
-}
-
-TEST_F(PageRules, TheWalkThroughAllPagesSkipsTheRules)
+TEST_F(PageRules, TheWalkThroughAllPagesSkipsTheRulesAndATransferFoldsATabIntoItsFirstPage)
 {
     Standard();
     SYS_Simul = 1;
@@ -250,4 +238,12 @@ TEST_F(PageRules, TheWalkThroughAllPagesSkipsTheRules)
     ASSERT_NE(SearchPageTable(0x33110000), nullptr);
     EXPECT_EQ(SearchPageTable(0x33110000)->id, 0x33110100u);
     EXPECT_EQ(SearchPageTable(PAGE_END), nullptr);
+    static const struct {
+        uint32_t page, first;
+    } cases[] = {
+        {0x21670203, 0x21600000}, {0x71510200, 0x71500000}, {0x71810000, 0x71810000},
+        {0x73110099, 0x73100000}, {0x86760000, 0x86700000}, {0x11750000, 0x11750000},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Page_FirstOfTab(c.page), c.first) << std::hex << c.page;
 }

@@ -14,7 +14,7 @@
 
 using namespace page_walk;
 
-TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
+TEST(PageTable, EveryIdStandsOnceHasItsBaseFirstAndASectionToGoBackTo)
 {
     std::set<uint32_t> ids;
     ForEachPage([&](PAGE& p) { EXPECT_TRUE(ids.insert(p.id).second) << std::hex << p.id; });
@@ -23,10 +23,6 @@ TEST(PageTable, EveryIdStandsOnceAndTheLastRowEndsIt)
     EXPECT_EQ(PageTable[PageTable_Rows - 1].id, PAGE_END);
     for (const uint32_t id : {0x55550000u, 0x77770000u, 0x88880000u, 0x99995555u})
         EXPECT_TRUE(ids.count(id)) << std::hex << id << ", which has a bank or number of its own";
-}
-
-TEST(PageTable, EveryPageHasItsBaseFirstAndASectionToGoBackToAndEveryMenuKeyAPage)
-{
     Harness_Reset();
     for (const TOPMENU* top = TopMenu; top->caption; top++)
         EXPECT_TRUE(SearchPageTable(top->page)) << top->caption << " " << std::hex << top->page;

@@ -72,22 +72,7 @@ TEST_F(Panes, OnlyTheTopOneTakesInputAndThePageBeneathTicks)
     EXPECT_THAT(Told(NO_X, OK_Y), ElementsAre("button 2", Quit(lower, 2)));
 }
 
-TEST_F(Panes, ClosedByCodeTheyTellNobody)
-{
-    EXPECT_EQ(Pane_Quit(4711), -1);
-    EXPECT_EQ(Pane_SetQuitFlag(4711), -1);
-    const int lower = PaneYesNo_Create("C", PANE_INFO, "m");
-    const int upper = PaneProgress_Create("C", "m", 1);
-    EXPECT_EQ(Pane_Quit(upper), 0);
-    EXPECT_EQ(Pane_SetQuitFlag(lower), 0);
-    Pass();
-    EXPECT_EQ(Pane_GetActiveID(), 0);
-    EXPECT_THAT(Told(), IsEmpty());
-    PaneID = INT_MAX;
-    EXPECT_EQ(PaneMessage_Create("C", PANE_INFO, "m"), 1) << "0 is no pane";
-}
-
-TEST_F(Panes, TheFirstAnswerCountsAndThePageMayCloseThePaneThatItHearsFrom)
+TEST_F(Panes, TheFirstAnswerCountsAndPanesThatCodeClosesTellNobody)
 {
     int id = PaneYesNo_Create("C", PANE_INFO, "m");
     Pass();
@@ -99,6 +84,17 @@ TEST_F(Panes, TheFirstAnswerCountsAndThePageMayCloseThePaneThatItHearsFrom)
     on_button = [] { Pane_Quit(Pane_GetActiveID()); };
     EXPECT_THAT(Told(YES_X, OK_Y), ElementsAre("button 1"));
     EXPECT_EQ(Pane_Exist(id), 0);
+    EXPECT_EQ(Pane_Quit(4711), -1);
+    EXPECT_EQ(Pane_SetQuitFlag(4711), -1);
+    const int lower = PaneYesNo_Create("C", PANE_INFO, "m");
+    const int upper = PaneProgress_Create("C", "m", 1);
+    EXPECT_EQ(Pane_Quit(upper), 0);
+    EXPECT_EQ(Pane_SetQuitFlag(lower), 0);
+    Pass();
+    EXPECT_EQ(Pane_GetActiveID(), 0);
+    EXPECT_THAT(Told(), IsEmpty());
+    PaneID = INT_MAX;
+    EXPECT_EQ(PaneMessage_Create("C", PANE_INFO, "m"), 1) << "0 is no pane";
 }
 
 TEST_F(Panes, TheScreenComesBackWithTheLastOneAsThePassLeftIt)
