@@ -10,14 +10,11 @@
 
 struct FileFolder : TablePage {
     static constexpr uint32_t PAGE_LOAD = 0x21120000;
-    DEVICE* first_switcher = nullptr;
-    int switchers = 0;
-
     void SetUp() override
     {
         TablePage::SetUp();
-        first_switcher = std::exchange(DEV_MySwr[0], &DEV_Swr[0]);
-        switchers = std::exchange(SYS_MySwrMax, 1);
+        DEV_MySwr[0] = &DEV_Swr[0];
+        SYS_MySwrMax = 1;
         CopyText(DEV_Swr[0].id, "SWR000D001");
         FMCtrl3_Init();
         for (const char* folder : {"NEWS", "NEWS/A", "NEWS/A/B", "NEWS/A/B/C", "SPORT"})
@@ -33,8 +30,6 @@ struct FileFolder : TablePage {
     void TearDown() override
     {
         FMCtrl3_Finalize();
-        DEV_MySwr[0] = first_switcher;
-        SYS_MySwrMax = switchers;
         TablePage::TearDown();
     }
     static void Hub(const std::string& verb, const std::string& table, const std::string& row)

@@ -29,13 +29,14 @@ static uint32_t PageOfCell(const ST_TBL& row)
     return CellPage::Asked(row.x1 + 50, row.y1 + 45);
 }
 
-struct StatusCells : CellPage {
-    void SetUp() override
-    {
-        CellPage::SetUp();
-        painted = 0;
-    }
-};
+static int Painted() // in a pass
+{
+    painted = 0;
+    CellPage::Pass();
+    return painted;
+}
+
+using StatusCells = CellPage;
 
 TEST_F(StatusCells, APathIsAddedOnceAndUpdatesEachCellWhichKeepsItsTextsInBounds)
 {
@@ -44,14 +45,10 @@ TEST_F(StatusCells, APathIsAddedOnceAndUpdatesEachCellWhichKeepsItsTextsInBounds
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("add M/E-1@Key1@A", "add M/E-1@B", "add M/E-1@Key1@D"));
     Tally("M/E-1@Key1@A", "x");
-    Pass();
-    EXPECT_EQ(painted, 2);
-    Pass();
-    EXPECT_EQ(painted, 2) << "nothing new";
+    EXPECT_EQ(Painted(), 2);
+    EXPECT_EQ(Painted(), 0) << "nothing new";
     GL_ST_area_update_draw();
-    Pass();
-    EXPECT_EQ(painted, 4);
-    painted = 0;
+    EXPECT_EQ(Painted(), 2);
     ST_TBL row = Cell(1, {});
     std::fill(std::begin(row.cmd), std::end(row.cmd), "~2@A");
     const std::string path(2 * CMD_SIZE, 'p');
@@ -61,8 +58,7 @@ TEST_F(StatusCells, APathIsAddedOnceAndUpdatesEachCellWhichKeepsItsTextsInBounds
     const std::string cut = path.substr(0, CMD_SIZE - 1);
     Tally(cut.c_str(), path.c_str());
     Tally("M/E-1@Key1@A", path.c_str());
-    Pass();
-    EXPECT_EQ(painted, 1);
+    EXPECT_EQ(Painted(), 1);
 }
 
 TEST_F(StatusCells, CellsOfEffectsUnitsArePaintedAnewWhenAPairIsCombined)
@@ -74,10 +70,8 @@ TEST_F(StatusCells, CellsOfEffectsUnitsArePaintedAnewWhenAPairIsCombined)
         SetTree({"M/E-1", "Key1"}, id);
         Open(rows);
         Pass();
-        painted = 0;
         Tally("Global Effect@Ch1-Ch2@Combine@Ch2", value);
-        Pass();
-        EXPECT_EQ(painted, paints) << std::hex << id;
+        EXPECT_EQ(Painted(), paints) << std::hex << id;
     }
 }
 

@@ -5,13 +5,7 @@
 #include <algorithm>
 #include <set>
 
-struct InitialReadTest : BusTest {
-    void SetUp() override
-    {
-        BusTest::SetUp();
-        GL_MainCounter = 50;
-    }
-};
+using InitialReadTest = BusTest;
 
 TEST_F(InitialReadTest, OnlyTheServersOwnEndStartsOurs)
 {

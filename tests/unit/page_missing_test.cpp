@@ -3,12 +3,6 @@
 #include "table_page.h"
 
 struct MissingPages : TablePage {
-    void TearDown() override
-    {
-        (void)Leave();
-        SYS_MEOperation[1] = GL_DmeModel[0] = GL_ErrorPopup_On = 0;
-        TablePage::TearDown();
-    }
     static uint32_t Asked(int x, int y)
     {
         GL_CreatePage = 0;
