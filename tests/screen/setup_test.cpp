@@ -1,13 +1,7 @@
 // The pages of engineering setup, told by a server and with edits in hand.
 #include "setup_desk.h"
 
-struct SetupPictures : SetupTest {
-    void SetUp() override
-    {
-        SetupTest::SetUp();
-        SetupIndex_Build();
-    }
-};
+using SetupPictures = SetupTest;
 
 TEST_F(SetupPictures, FormatWithDifferences)
 {

@@ -17,7 +17,6 @@ struct PanelTest : SetupTest {
     void SetUp() override
     {
         SetupTest::SetUp();
-        SetupIndex_Build();
         TellAll(PANEL "Config@M/E Assign@",
                 {"1st Row#M/E-1", "2nd Row#M/E-2", "3rd Row#M/E-3", "4th Row#P/P"});
         TellAll(PANEL "Config@Compact Key Module Assign@KY Unit Config@",

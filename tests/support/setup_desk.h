@@ -19,6 +19,7 @@ struct SetupTest : TablePage {
     void SetUp() override
     {
         TablePage::SetUp();
+        SetupIndex_Build();
         Forget();
         Device_Init();
         const std::string list = "Engineering Setup@System@Network Config@List#";

@@ -85,7 +85,6 @@ TEST_F(FormatPage, AWordThatTwoFormatsShareMeansTheOneInHandOrTheSwitchers)
 
 TEST_F(FormatPage, ALockedPageRefusesAllButTheWayOut)
 {
-    SetupIndex_Build();
     SetupMenu[SetupIndex_Find(FORMAT_PAGE)].lock = 1;
     SetupLock.lock = 1;
     (void)Open(FORMAT_PAGE);
@@ -132,7 +131,6 @@ struct LockPage : SetupTest {
     {
         SetupTest::SetUp();
         remove(SETUP_LOCK_FILE);
-        SetupIndex_Build();
         SetupIndex_LoadLock();
         (void)Open(LOCK_PAGE);
     }
