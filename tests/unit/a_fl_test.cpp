@@ -37,8 +37,6 @@ struct FileList : FileTest {
     }
     void TearDown() override
     {
-        FL_Create(nullptr, 0);
-        LS_Create(nullptr, 0);
         CopyText(GL_RegistDataPath, path_before);
         FileTest::TearDown();
     }

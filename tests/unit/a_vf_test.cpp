@@ -103,7 +103,6 @@ TEST_F(LeftTabs, ARecallOfAWipeTakesItsKnobsAway)
         EXPECT_THAT(Sent(X, Slot(1)), Contains(sent)) << std::hex << id;
         EXPECT_EQ(BT_GetKnobAssign(), owner_then) << std::hex << id;
     }
-    BT_SetKnobAssign(-1);
 }
 
 TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)

@@ -430,7 +430,7 @@ TEST_F(BusTally, AMenuKeyReopensItsPageUnlessSomethingIsToBeAnswered)
 // A transfer's own pane makes way, but not for what would disturb it.
 TEST_F(BusTally, AMenuKeyLeavesATransferBehind)
 {
-    const int pane = PaneMessage_Create("Title", 2, "text");
+    (void)PaneMessage_Create("Title", 2, "text");
     (void)BkgdFileTransfer_Set(0x71220000, 1);
     GL_NowPage = 0x71220000;
     for (const char* menu : {"SP", "File", "User setup"})
@@ -449,7 +449,6 @@ TEST_F(BusTally, AMenuKeyLeavesATransferBehind)
     EXPECT_EQ(Deliver("Page", "1411"), 1);
     EXPECT_EQ(GL_CreatePage, 0x14110000u);
     (void)BkgdHDDTransfer_Set(0, 0);
-    Pane_Quit(pane);
 }
 
 TEST_F(BusTally, WhatATransferShowsMakesWayForAJump)

@@ -83,5 +83,4 @@ TEST_F(Favorites, OnlyOneThingIsMeantAtATimeAndALostPageIsOnlyCleared)
     EXPECT_EQ(CreatePage(FAVORITES), 0);
     EXPECT_EQ(Usable({FIRST}), std::vector<int>{});
     EXPECT_EQ(Work(BTN_CLEAR, FIRST), Lines{"put " + DATA + "Shortcut Name@1#0,"});
-    SYS_MEOperation[2] = 0;
 }

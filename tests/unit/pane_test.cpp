@@ -371,7 +371,7 @@ TEST_F(Panes, DirectoriesTurnTheirPages)
         EXPECT_EQ(Last(150, 135), Quit(id, first)) << entries_of_it;
     }
     // At an end the key that leads nowhere looks so.
-    const int id = PaneDirectory_Create(81, entries.data());
+    (void)PaneDirectory_Create(81, entries.data());
     const auto key = [](int x) {
         Pass(1000);
         return PixelsIn({x - 15, TURN_Y - 5, x + 15, TURN_Y + 20});
@@ -382,7 +382,6 @@ TEST_F(Panes, DirectoriesTurnTheirPages)
     EXPECT_EQ(key(NEXT_X), next);
     Touch(NEXT_X, TURN_Y);
     EXPECT_NE(key(NEXT_X), next);
-    (void)Pane_Quit(id);
 }
 
 TEST_F(Panes, RouterLevelsAreTakenOverByEnterAlone)

@@ -200,7 +200,6 @@ TEST_F(WindowOverPane, APaneThatClosesBeneathLeavesTheWindow)
         pane = PaneProgress_Create("Load", "Text", 1);
         Pass();
     }
-    Pane_Quit(pane);
 }
 
 TEST_F(WindowOverPane, APaneThatOpensClosesIt)
@@ -345,7 +344,6 @@ TEST_F(Windows, ATouchedKeyLooksPushedForAMoment)
     EXPECT_NE(look(), up);
     Pass(100);
     EXPECT_EQ(look(), up);
-    CloseWindow();
 }
 
 TEST_F(Windows, KeysOfAKeyboardWriteAsOnTheScreenAndStrayOnesNothing)
