@@ -428,7 +428,7 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
 TEST_F(FileAllPage, AutomationGetsItsAnswer)
 {
     const std::string command = "/tmp/FTPIF/Command/";
-    (void)!::system("rm -rf /tmp/FTPIF; mkdir -p /tmp/FTPIF/Command");
+    (void)!::system("mkdir -p /mnt/sys/FTPIF/Command; ln -sfn /mnt/sys/FTPIF /tmp/FTPIF");
     Select({}); // of the page: not of automation
     EXPECT_EQ(AllLoad(), 0);
     EXPECT_EQ(AllLoad(), -1) << "one at a time";
@@ -460,7 +460,7 @@ TEST_F(FileAllPage, AutomationGetsItsAnswer)
     (*QueueRoot->xferlist)->status = FILESTATUS_OK;
     QueueRoot->retfunc.list(QueueRoot->label, QueueRoot->tag);
     EXPECT_EQ(FileText(command + "allload.res"), "OK\n");
-    (void)!::system("rm -rf /tmp/FTPIF");
+    (void)!::system("rm -f /tmp/FTPIF/Command/*"); // the folder is the process' own
 }
 
 TEST_F(FileAllPage, ClearBeforeLoadFollowsTheTally)
