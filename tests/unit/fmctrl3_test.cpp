@@ -400,6 +400,7 @@ TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnewByTheirNote)
         EXPECT_EQ(Files().size(), are_kept ? 3u : 0u) << note;
         EXPECT_EQ(Note(), std::to_string(frames) + " 2026 Jan.31 23:59") << note;
         FMCtrl3_Init(); // as after a start
+        probe::seen.clear();
         (void)TakeQueuedCommands();
         fs::remove_all(FM_FOLDER);
         Folder("a");
