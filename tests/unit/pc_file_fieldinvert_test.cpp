@@ -24,13 +24,13 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
     const std::string tail = ",Wed Nov 25 10:30:00 2026,1,3,0,";
     const Lines opened = Open(0x71540000);
     EXPECT_THAT(opened, Contains(HasSubstr(std::string(",MYHOST:") + DIR + ",*.*.*")));
-    (void)Reply(opened, "Access@FindSFM",
-                {std::string(DIR) + "SWR000D001/MBACK.FMEM_012.SFA" + tail + "1,1",
-                 logo + tail + "0,0",
-                 std::string("/etc/SWR000D001/MBACK.FMEM_013.SFM") + tail + "0,0"});
+    (void)Reply(
+        opened, "Access@FindSFM",
+        {std::string(DIR) + "SWR000D001/MBACK.FMEM_012.SFA,Wed Nov 25 10:30:00 2026,1,3,1,1,1",
+         logo + tail + "0,0", std::string("/etc/SWR000D001/MBACK.FMEM_013.SFM") + tail + "0,0"});
     ASSERT_EQ(LS_GetNData(1), 2);
     EXPECT_EQ(Cells(1, 0, 0, 8), "007|MLOGO|Nov.25.2026 10:30|1|1080i|||") << "by number";
-    EXPECT_EQ(Cells(1, 1, 0, 8), "012|MBACK|Nov.25.2026 10:30|1|1080i||O|O");
+    EXPECT_EQ(Cells(1, 1, 0, 8), "012|MBACK|Nov.25.2026 10:30|1|1080i|4K|O|O");
     (void)Touch(200, 124 + 22 + 5);
     (void)Press(BTN_INVERT_EXEC);
     const Lines sent = Answer(1);
