@@ -27,28 +27,25 @@ constexpr double RUN_SECONDS = 0.01;
 constexpr int CHECK_ROUNDS = 30; // a processor that others use is slow for some seconds at a time
 constexpr int CHECK_PAUSE_S = 2; // between two rounds
 
-// In this order whatever else is linked: words whose addresses end alike would wait for each other.
-struct {
-    alignas(4096) uint32_t from[SCREEN_BYTES / 4];
-    uint32_t to[SCREEN_BYTES / 4];
-} copied;
+uint32_t copy_from[SCREEN_BYTES / 4];
+uint32_t copy_to[SCREEN_BYTES / 4];
 
 void copy_screen()
 {
-    uint32_t* to = copied.to;
+    uint32_t* to = copy_to;
     benchmark::DoNotOptimize(to); // or nobody reads it, and nothing is copied
-    memcpy(to, copied.from, SCREEN_BYTES);
+    memcpy(to, copy_from, SCREEN_BYTES);
     benchmark::ClobberMemory();
 }
 
 void copy_words()
 {
-    const volatile uint32_t* from = copied.from;             // one at a time
-    for (size_t i = 0; i < std::size(copied.from); i += 4) { // where the loop lies weighs less
-        copied.to[i] = from[i];
-        copied.to[i + 1] = from[i + 1];
-        copied.to[i + 2] = from[i + 2];
-        copied.to[i + 3] = from[i + 3];
+    const volatile uint32_t* from = copy_from;             // one at a time
+    for (size_t i = 0; i < std::size(copy_from); i += 4) { // where the loop lies weighs less
+        copy_to[i] = from[i];
+        copy_to[i + 1] = from[i + 1];
+        copy_to[i + 2] = from[i + 2];
+        copy_to[i + 3] = from[i + 3];
     }
     benchmark::ClobberMemory();
 }
@@ -183,7 +180,7 @@ int Bench_Main(int argc, char** argv, const BenchCase* cases, int count)
     if (benchmark::ReportUnrecognizedArguments(rest_count, rest.data()))
         return 2;
 
-    memset(copied.from, 1, sizeof copied.from); // so that both have memory of their own
+    memset(copy_from, 1, sizeof copy_from); // so that both have memory of their own
     add_benchmark(YARDSTICK, copy_screen);
     add_benchmark(BY_WORDS, copy_words);
     for (int i = 0; i < count; i++)

@@ -67,7 +67,8 @@ class DeskCase(unittest.TestCase):
         self.desk.wire()
 
     def path(self, path):
-        return os.path.join(self.desk.root, path)
+        """Of a file of the device, from its root on."""
+        return os.path.join(self.desk.root, path.lstrip("/"))
 
     def asked(self, line):
         """What the simulator prints for a command of its console."""
@@ -78,10 +79,6 @@ class DeskCase(unittest.TestCase):
         with open(out, encoding="latin-1") as f:
             f.seek(seen)
             return f.read()
-
-    def sim_says(self, text):
-        with open(self.desk.sim_log, encoding="latin-1") as f:
-            return text in f.read()
 
     def wait_until(self, is_so, what=None, timeout=12.0):
         end = time.monotonic() + timeout

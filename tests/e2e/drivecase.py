@@ -15,9 +15,6 @@ def frame(name):
 
 
 class DriveCase(DeskCase):
-    def path(self, path):
-        return self.desk.root + path
-
     def exists(self, path):
         return os.path.exists(self.path(path))
 

@@ -117,7 +117,7 @@ class PanelSetup(SetupCase):
         self.assertEqual(self.puts(), [f"put {gpi}Action Type@3@1#1,0,0,1"])
         self.assertEqual(self.desk.value(f"{gpi}Action Type@3@1"), "1,0,0,1")
         self.push(37)
-        self.assertTrue(self.sim_says("GPI output 3: test fire"))
+        self.assertIn("GPI output 3: test fire", self.desk.sim_text())
 
     def test_7_the_transition_of_a_key_takes_another_along(self):
         self.desk.console(f"put {PANEL}Config@Key Trans Link#1,M/E-1 Key1,M/E-1 Key2,true")

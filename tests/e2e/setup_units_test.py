@@ -22,12 +22,12 @@ class SetupUnits(SetupCase):
         self.row(2)
         self.push(37)
         desk.wait_wire(f"put {GPI}Test Fire@3#")
-        self.assertTrue(self.sim_says("DME2 GPI output 3: test fire, None,0x00,0x01"))
+        self.assertIn("DME2 GPI output 3: test fire, None,0x00,0x01", self.desk.sim_text())
         self.push(36)  # disable
         self.assertEqual(desk.value(f"{GPI}GPI Enable"), "false")
         self.push(37)
         time.sleep(0.2)
-        self.assertTrue(self.sim_says(f"setup refused: {GPI}Test Fire@3#(disabled)"))
+        self.assertIn(f"setup refused: {GPI}Test Fire@3#(disabled)", self.desk.sim_text())
 
     def test_2_a_device_hangs_on_one_port(self):
         desk = self.desk

@@ -61,6 +61,8 @@ exit "$s"
         (void)CloseWindow();
         Err_Clear();
     }
+    InstallStick(const InstallStick&) = delete;
+    InstallStick& operator=(const InstallStick&) = delete;
 
     static void Put(const std::string& path, const std::string& text)
     {

@@ -332,6 +332,23 @@ TEST_F(FileRemote, ACancelInTheMiddleGivesTheCategoryBack)
     EXPECT_EQ(told.size(), 1u);
 }
 
+TEST_F(FileRemote, ALargeResultListIsReadInOnePass)
+{
+    constexpr int N = 2000;
+    Strings names;
+    std::string text;
+    for (int i = N; i-- > 0;) {
+        names.push_back("f" + std::to_string(i) + ".SST");
+        text += names.back() + (i % 2 ? ",OK\r\n" : ",NG(bad)\r\n");
+    }
+    BeginGet(names);
+    HoldForGet();
+    Result(text);
+    Answer(FetchLabel(), "OK");
+    EXPECT_EQ(Sent().size(), size_t(N / 2));
+    EXPECT_EQ(QueueRoot->finished, N / 2);
+}
+
 TEST_F(FileRemote, WhatTheHubTookAwayIsNotGivenBack)
 {
     BeginPut();
