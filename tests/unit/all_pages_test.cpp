@@ -1,6 +1,9 @@
 // The walk over all pages: every row is opened, drawn and left again, in the order of the table.
+#include "a_bt.h"
 #include "a_pc.h"
+#include "a_st.h"
 #include "bus_tally.h"
+#include "command.h"
 #include "global.h"
 #include "harness.h"
 #include "initread.h"
@@ -54,29 +57,20 @@ static void Pass(int elapsed_ms)
     SendMessage(MSG_REDRAW, elapsed_ms, 0, 0, 0);
 }
 
-// What is meant for somebody else goes on to him.
-static void OthersAreLeftTheirs(uint32_t page)
-{
-    constexpr char PATH[] = "Nobody@Has@This";
-    for (const int result :
-         {PC_Proc(MSG_TALLY, Arg(PATH), Arg(""), Hash(PATH), 0),
-          PC_Proc(LMSG_BTNSEL, Arg(PATH), Arg(""), Hash(PATH), 0),
-          PC_Proc(LMSG_KNOBCREATE, 999, Arg(""), 0, 0), PC_Proc(MSG_KEY, 0, 0, 0, 0)})
-        EXPECT_EQ(result, 0) << std::hex << page;
-}
+// Messages that bring numbers.
+constexpr int numbers[] = {
+    MSG_REDRAW,         MSG_KEY,           LMSG_LISTSEL,     LMSG_SBSEL,
+    LMSG_LISTAREASEL,   LMSG_REGSELCHANGE, LMSG_PATHSELSEL,  LMSG_LISTFLASH,
+    LMSG_KNOBUPPER,     LMSG_KNOBLOWER,    LMSG_KNOBCREATE,  LMSG_KNOBDEFAULT,
+    LMSG_FMPAIRCHANGE,  LMSG_FMSELCHANGE,  LMSG_FMOUTCHANGE, LMSG_FMREGSEL,
+    LMSG_FMCTRLCHANGE,  LMSG_PANEQUIT,     LMSG_PANEREGION,  LMSG_REGISTER,
+    LMSG_DMEREFCHANGE,  LMSG_KNOBRELEASE,  LMSG_FFSELCHANGE, LMSG_FLCURDIRCHANGE,
+    LMSG_FMFRAMECHANGE, LMSG_FFCRNTCHANGE, LMSG_FFLISTCHANGE};
 
-// Messages that bring numbers, from objects that are empty or have more rows than a page thinks. A
-// title is not a number, and rows and boxes may be asked for that nobody has.
+// They come from objects that are empty or have more rows than a page thinks. A title is not a
+// number, and rows and boxes may be asked for that nobody has.
 static void OddNumbersDoNoHarm(uint32_t page)
 {
-    constexpr int numbers[] = {
-        MSG_REDRAW,         MSG_KEY,           LMSG_LISTSEL,     LMSG_SBSEL,
-        LMSG_LISTAREASEL,   LMSG_REGSELCHANGE, LMSG_PATHSELSEL,  LMSG_LISTFLASH,
-        LMSG_KNOBUPPER,     LMSG_KNOBLOWER,    LMSG_KNOBCREATE,  LMSG_KNOBDEFAULT,
-        LMSG_FMPAIRCHANGE,  LMSG_FMSELCHANGE,  LMSG_FMOUTCHANGE, LMSG_FMREGSEL,
-        LMSG_FMCTRLCHANGE,  LMSG_PANEQUIT,     LMSG_PANEREGION,  LMSG_REGISTER,
-        LMSG_DMEREFCHANGE,  LMSG_KNOBRELEASE,  LMSG_FFSELCHANGE, LMSG_FLCURDIRCHANGE,
-        LMSG_FMFRAMECHANGE, LMSG_FFCRNTCHANGE, LMSG_FFLISTCHANGE};
     for (const int msg : numbers)
         for (const int id : {0, -1, 1, 2, 5000}) // two lists are the most that a page has
             for (const int number : {0, -1, 5000})
@@ -89,6 +83,55 @@ static void CloseAll()
     (void)CloseWindow(); // none may be open
     while (int id = Pane_GetActiveID())
         Pane_Quit(id);
+}
+
+// Whoever takes a message or a tally lets those behind him hear it, too, and says of nothing that
+// it has failed.
+static void NothingIsKeptFromOthers(const PAGE& row)
+{
+    const auto heard = [&](int msg, MsgArg ax, MsgArg bx, MsgArg cx) {
+        EXPECT_EQ(PC_Proc(msg, ax, bx, cx, 0), 0) << std::hex << row.id << ", message " << msg;
+    };
+    const auto named = [&](int msg, const char* name, const char* value) {
+        heard(msg, Arg(name), Arg(value), Hash(name));
+    };
+    for (const int msg : numbers)
+        for (const int id : {-1, 1, 2})
+            heard(msg, id, msg == LMSG_KNOBCREATE ? Arg("") : 0, 0);
+    if (row.id != 0x73270001) // it has the whole screen for itself
+        for (const int msg : {MSG_PRESS, MSG_RELEASE, MSG_DRAG})
+            heard(msg, -1, -1, 0);
+    for (const int msg : {int(MSG_TALLY), int(LMSG_BTNSEL)})
+        named(msg, "Nobody@Has@This", "");
+    for (const std::string& line : TakeQueuedCommands())
+        if (BeginsWith(line.c_str(), "add "))
+            for (const char* value : {"", "1", "true"})
+                named(MSG_TALLY, line.c_str() + strlen("add "), value);
+    for (BT_MEM* b = bt_first(); b->id >= 1; b++) {
+        EXPECT_EQ(b->draw_func ? b->draw_func(b) : 0, 0)
+            << std::hex << row.id << " draws " << b->id;
+        EXPECT_LE(b->tally_func ? b->tally_func(b, 0, b->cmd[0], "1") : 0, 0)
+            << std::hex << row.id << " tells " << b->id;
+    }
+    uint32_t var = 0;
+    const auto* code = static_cast<const PC_TBL*>(page_walk::TableOf(row, OBJ_PC, &var));
+    EXPECT_EQ(code && code->create_func ? code->create_func(1, var) : 0, 0)
+        << std::hex << row.id << " is opened once more";
+    for (BT_MEM* b = bt_first(); b->id >= 1; b++)
+        if (IsLocal(b->cmd[0])) {
+            named(LMSG_BTNSEL, b->cmd[0], b->cmd_var[0]);
+            CloseAll();
+        }
+    const auto* cells = static_cast<const ST_TBL*>(page_walk::TableOf(row, OBJ_ST));
+    static ST_MEM cell;
+    for (; cells && cells->id >= 1; cells++)
+        for (const char* value : {"0", "1", "true"}) {
+            cell = {.x1 = cells->x1, .y1 = cells->y1, .x2 = cells->x2, .y2 = cells->y2};
+            cell.used = ST_COMMANDS;
+            for (auto& tally : cell.tally)
+                CopyText(tally, value);
+            EXPECT_LE(cells->draw_func(&cell), 0) << std::hex << row.id << ", cell " << cells->id;
+        }
 }
 
 struct AllPages : testing::Test {
@@ -127,7 +170,6 @@ struct AllPages : testing::Test {
                 titles.insert(NB_GetTitle());
             Pass(10);
             Pass(10);
-            OthersAreLeftTheirs(row->id);
             OddNumbersDoNoHarm(GL_NowPage);
             CloseAll();
             (void)CreatePage(PAGE_TOP); // it was there before
@@ -180,6 +222,16 @@ TEST_F(AllPages, EachGivesBackWhatItSubscribed)
             << title << " is cut";
     EXPECT_EQ(opened, PageTable_Rows - 1);
     EXPECT_EQ(banks, 1789);
+}
+
+TEST_F(AllPages, EachLetsTheOthersHearWhatItHears)
+{
+    for (const PAGE* row = PageTable; row->id != PAGE_END; row++) {
+        ASSERT_TRUE(Open(row->id)) << std::hex << row->id;
+        NothingIsKeptFromOthers(*row);
+        CloseAll();
+        GL_CreatePage = 0;
+    }
 }
 
 TEST_F(AllPages, NoneKeepsMemoryOrLacksABitmap)
