@@ -145,6 +145,8 @@ static_assert(FirstItem(dcu_kind, RUNS) == dcu_kind.items);
 static_assert(FirstItem(switcher_kind, RUNS) <= switcher_kind.items);
 static_assert(FirstItem(dme_kind, RUNS) == dme_kind.items);
 static_assert(switcher_kind.count[RUN_BOARD] == DIAG_BOARDS &&
+              switcher_kind.count[RUN_TEMPERATURE] == DIAG_BOARDS &&
+              switcher_kind.count[RUN_BOARD_STATUS] == DIAG_BOARDS && // no other has more
               switcher_kind.count[RUN_FAN] == DIAG_FANS &&
               switcher_kind.count[RUN_PSU_EXIST] == DIAG_PSUS);
 
@@ -191,8 +193,7 @@ static bool is_panel(const Reporter& r)
 // A board is called by its id where the unit has told it.
 static void name_board(const Reporter& r, int i, char (&name)[NAME_SIZE])
 {
-    const char* const id =
-        r.word_row >= 0 && i < DIAG_BOARDS ? GL_CircuitBoard[r.word_row][i] : "NG";
+    const char* const id = r.word_row >= 0 ? GL_CircuitBoard[r.word_row][i] : "NG";
     if (is_panel(r))
         CopyText(name, panel_boards[i]);
     else if (Same(id, "NG"))

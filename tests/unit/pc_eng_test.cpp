@@ -1,6 +1,7 @@
 // The engineering pages: what their switches change, and what they show of the state.
 #include "a_st_draw.h"
 #include "debug.h"
+#include "display.h"
 #include "hsl.h"
 #include "log.h"
 #include "loop.h"
@@ -160,10 +161,38 @@ TEST_F(Engineering, TheCheckerSetsTheGroundOfTheCellsAndBringsItBack)
     EXPECT_EQ(st_ground(1), 0x80FF00u);
     Pass(10);
     EXPECT_EQ(PixelAt(150, 158), 0x80FF00u) << "in a cell";
+    EXPECT_EQ(Shown("Green"), "255");
+    SendMessage(LMSG_BTNSEL, Arg("LOCAL@Engineering@Color@Ground"), Arg("FF01FFFF"), 0, 0);
+    EXPECT_EQ(st_ground(1), 0x01FFFFu);
+    for (const int key : {49, 50, 51, 52}) {
+        const int before = BT_GetOnOff(key);
+        Press(key);
+        EXPECT_EQ(BT_GetOnOff(key), !before) << key;
+    }
     Press(38); // default
     EXPECT_EQ(st_ground(1), usual);
     Open(PAGE_TOP);
-    EXPECT_EQ(bgcen, 0) << "only the page itself lights cells";
+    EXPECT_EQ(bgcen | inven | gryen | s_font, 0) << "only the page itself changes cells";
+}
+
+TEST_F(Engineering, AColourIsMixedOfHueSaturationAndLuminanceAndStays)
+{
+    Open(0x88880000);
+    const Display display;
+    const std::vector<uint32_t> figures = PixelsIn({112, 246, 697, 300});
+    Press(37); // blue
+    EXPECT_EQ(PixelAt(684, 225), 0x0000FFu);
+    EXPECT_EQ(Shown("Hue"), "240");
+    EXPECT_EQ(Display::Lacks(), "");
+    (void)NB_SendValue2(1, 210);
+    (void)NB_SendValue2(2, 50);
+    (void)NB_SendValue2(3, 40);
+    EXPECT_EQ(PixelAt(113, 93), 0x336699u);
+    EXPECT_NE(PixelsIn({112, 246, 697, 300}), figures);
+    EXPECT_EQ(Display::Lacks(), "");
+    Open(PAGE_TOP);
+    Open(0x88880000);
+    EXPECT_EQ(PixelAt(113, 93), 0x336699u);
 }
 
 TEST_F(Engineering, ReportsAreKeptWhateverPageIsShown)
@@ -329,17 +358,21 @@ TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)
     constexpr Rect READOUT = {104, 79, 400, 95};
     constexpr uint32_t DOWN = 0x00FFFF, WAY = 0xFFFFFF;
     Open(0x99950000);
+    Pass(10);
+    const Display display;
     const uint32_t ground = PixelAt(320, 220);
     SendMessage(MSG_DRAG, 320, 220, 0, 1);
     EXPECT_EQ(PixelAt(320, 220), ground) << "no finger is down";
     (void)Touch(310, 210);
     EXPECT_EQ(PixelAt(310, 210), DOWN);
     EXPECT_EQ(PixelAt(322, 210), DOWN) << "the arm of its cross";
+    EXPECT_EQ(Display::Lacks(), "");
     const std::vector<uint32_t> first = PixelsIn(READOUT);
     SendMessage(MSG_DRAG, 330, 230, 1, 1);
     EXPECT_EQ(PixelAt(320, 220), WAY);
     SendMessage(MSG_RELEASE, 330, 230, 0, 0);
     EXPECT_NE(PixelAt(330, 230), WAY) << "a cross of another colour";
+    EXPECT_EQ(Display::Lacks(), "");
     SendMessage(MSG_DRAG, 340, 240, 1, 1);
     EXPECT_EQ(PixelAt(335, 235), ground);
     (void)Touch(310, 210);
@@ -351,4 +384,5 @@ TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)
         ElementsAre(DOWN, Not(DOWN), DOWN, Not(DOWN)));
     Press(49); // clear
     EXPECT_EQ(PixelAt(310, 210), ground);
+    EXPECT_EQ(Display::Lacks(), "");
 }

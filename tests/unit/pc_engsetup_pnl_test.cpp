@@ -268,3 +268,24 @@ TEST_F(PanelSetup, ANameIsMadeFitAndExecuted)
     EXPECT_EQ(Row(1, 2), "2|CAM2b*");
     EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " XPT "Source@List#2,CAM2b"));
 }
+
+TEST_F(PanelSetup, AColourIsOneOfNine)
+{
+    for (const auto& [page, key, line] :
+         {std::tuple{0x73220004u, 34, std::string(XPT "Source@Color#1,")},
+          {0x73220005, 33, XPT "User Color@User 1@Color#"}}) {
+        (void)Open(page);
+        TellSources();
+        (void)Tell(line + "2");
+        SelectRow(0);
+        (void)Push(key);
+        SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 1, 4, 0, 0); // of somebody else
+        (void)Touch(487, 350);                                       // the last in three rows
+        SendMessage(MSG_RELEASE, 487, 350, 0, 0);
+        Pass(1000);
+        EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + line + "9"));
+        (void)Tell(line + "9");
+        (void)Choose(key, 0);
+        EXPECT_THAT(Push(BTN_SETUP_EXECUTE), IsEmpty()) << "cancelled";
+    }
+}

@@ -169,11 +169,13 @@ TEST_F(MeDmeWipe, LampsAndBoxesAreThoseOfTheLeadingChannel)
     Own("Crop Mode@Crop", CROP);
     TellAll(root + "@Modify@",
             {"Crop Mode@Crop@2#true", "Crop Mode@Crop@Left@1#-20", "Crop Mode@Crop@Left@2#-70",
-             "Position@Position@H@1#-100", "Position@Position@V@1#100"});
+             "Size@2#true", "Position@Position@H@1#-100", "Position@Position@V@1#100"});
     EXPECT_EQ(BT_GetStatus(33), BT_ON);
+    EXPECT_EQ(BT_GetStatus(SIZE), BT_OFF);
     (void)Press(CH1); // the second leads, with its position off; all its values are known
     EXPECT_EQ(Shown("H"), "-70");
     EXPECT_EQ(BT_GetStatus(33), BT_OFF);
+    EXPECT_EQ(BT_GetStatus(SIZE), BT_ON);
 }
 
 // --- Modify: knobs ---

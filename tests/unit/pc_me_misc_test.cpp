@@ -73,6 +73,11 @@ TEST_F(MeMisc, ABankOfFourKeysShowsFourAndProgramCallsThemDsk)
             EXPECT_EQ(NB_GetLayer(), keys == 8) << word;
             NextLayer();
         }
+    for (const auto& [page, first] : {std::pair{0x14710000u, 1}, {0x18710000u, 5}}) {
+        Open(page);
+        for (int key = 0; key < 4; key++)
+            EXPECT_EQ(Caption(34 + key), "DSK" + std::to_string(first + key));
+    }
 }
 
 TEST_F(MeMisc, WithoutClipsOrTheSubSidesDmeWipeThereIsNeitherTheirTypeNorTheirTab)

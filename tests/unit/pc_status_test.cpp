@@ -130,27 +130,24 @@ TEST_F(StatusPage, TheRatesOfABankCountTheKeysThatItHas)
     (void)Tell("M/E-2@Key4@Transition@ON Transition Rate#7");
     EXPECT_EQ(Shown("Key4 ON\nframes"), "7");
     EXPECT_EQ(Shown("Key5 ON\nframes"), "no box");
+    (void)Open(RATE); // it remembers who had the knobs
+    EXPECT_STREQ(NB_GetTitle(), "M/E-2");
+    EXPECT_EQ(Shown("Key5 ON\nframes"), "no box");
 }
 
 TEST_F(StatusPage, APageThatTheInstallationLacksHasNoTab)
 {
     constexpr int TAB_X = 225, TAB_Y = 560;
-    (void)Open(MISC);
-    (void)Touch(TAB_X, TAB_Y);
-    const bool has_option = hasPanelOption();
-    EXPECT_EQ(GL_CreatePage, has_option ? 0x32120000u : 0u);
-    (void)Open(MISC_TOP);
-    EXPECT_EQ(Usable({18, 19}), has_option ? std::vector<int>({18, 19}) : std::vector<int>{19});
     DEV_MyPnl[0] = &DEV_Pnl[0];
     SYS_MyPnlMax = 1;
-    DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = 2;
-    (void)Open(MISC_TOP);
-    EXPECT_EQ(Usable({18, 19}), std::vector<int>({18, 19}));
-    (void)Open(MISC);
-    (void)Touch(TAB_X, TAB_Y);
-    EXPECT_EQ(GL_CreatePage, 0x32120000u);
-    GL_CreatePage = 0;
-    DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = 0;
+    for (const int option : {2, 0}) {
+        DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = option;
+        (void)Open(MISC);
+        (void)Touch(TAB_X, TAB_Y);
+        EXPECT_EQ(std::exchange(GL_CreatePage, 0), option ? 0x32120000u : 0u);
+        (void)Open(MISC_TOP);
+        EXPECT_EQ(Usable({18, 19}), option ? std::vector<int>({18, 19}) : std::vector<int>{19});
+    }
     DEV_MyPnl[0] = nullptr;
     SYS_MyPnlMax = 0;
 }

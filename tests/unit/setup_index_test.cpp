@@ -18,10 +18,10 @@ PAGE Row(uint32_t id, const char* word)
 // Not in order, so that a group's rows are apart.
 const PAGE small_table[] = {
     Row(0x73100000, "the group's own page"),
-    Row(0x73110000, "Network Config"),
-    Row(0x73210012, "Extension Panel"),
     Row(0x73160008, "Unit Config"),
     Row(0x73160108, "Unit Config"),
+    Row(0x73110000, "Network Config"),
+    Row(0x73210012, "Extension Panel"),
     Row(0x73310102, "exists as a variant only"),
     Row(0x73110099, "last sub page number"),
     Row(0x73160308, "Unit Config"),
@@ -61,8 +61,8 @@ std::string LockFileOfOnePage()
 TEST_F(SetupIndex, HasOneRowForAPageInEveryVariantGroupedByTab)
 {
     static const std::tuple<uint32_t, std::string, std::string> rows[] = {
-        {0x73110000, "7311", "Network Config"},
         {0x73160008, "7316.8", "Unit Config"},
+        {0x73110000, "7311", "Network Config"},
         {0x73110099, "7311.99", "last sub page number"},
         {0x73210012, "7321.12", "Extension Panel"},
         {0x73310002, "7331.2", "exists as a variant only"},
