@@ -1,16 +1,19 @@
 // The engineering pages: what their switches change, and what they show of the state.
 #include "a_st_draw.h"
+#include "colours.h"
 #include "debug.h"
 #include "display.h"
 #include "hsl.h"
 #include "log.h"
 #include "loop.h"
+#include "memory.h"
 #include "netio.h"
 #include "pane.h"
 #include "pc_eng.h"
 #include "selfdiag.h"
 #include "table_page.h"
 #include "text.h"
+#include "touch.h"
 #include <fstream>
 
 struct Engineering : TablePage {
@@ -320,6 +323,94 @@ TEST_F(Engineering, BoardsOfUnitsThatAreThereAreListed)
     Pass(600);
     EXPECT_EQ(Cell(1, 0, 1) + Cell(1, 1, 1) + Cell(1, 2, 1), "OKNG--") << "the report named two";
     EXPECT_EQ(LS_GetStatus(1, 1, 1), 2) << "red";
+    Open(0x99910004);
+    (void)Tell("INFORMATION@SWR Self Diagnosis Notice@PSU Status#SWR1,Exist,OK,OK,NG");
+    Pass(600);
+    EXPECT_EQ(Cells(1, 0, 0, 2) + Cell(1, 1, 1), "Supply 1|NG--");
+    CopyText(DEV_Dme[0].name, "DME1");
+    SYS_DmeMax = 1;
+    CopyText(GL_CircuitBoard[4][30], "XPT-9");
+    Open(0x99910002);
+    EXPECT_EQ(Cells(1, 30, 0, 3), "Slot 31|XPT-9|--");
+    Open(0x99910009);
+    EXPECT_EQ(Cells(1, 0, 0, 2) + Cells(1, LS_GetNData(1) - 1, 0, 2),
+              "PNL1|PNL001D001DME1|DME001D001");
+}
+
+TEST_F(Engineering, TheSelfTestsSayWhatTheyFind)
+{
+    using testing::EndsWith, testing::StartsWith;
+    const auto round = [] {
+        for (int test = 0; test < 12; test++)
+            Pass(10);
+    };
+    remove(LOG);
+    Log_Init(LOG, LOG_FILE_SIZE);
+    GL_ClipStoreSupportMode = GL_IsRamDisk = 0;
+    GL_ErrorExist = 2;
+    const int touch_fd = std::exchange(Touch_FD, -1);
+    Open(0x55550000);
+    EXPECT_THAT(Column(1, 1), Each("--"));
+    const Display display;
+    Press(49); // start
+    round();
+    EXPECT_THAT(Column(1, 1), ElementsAre("OK", "OK", "OK", "Error", "Error", "Left out", "OK",
+                                          "OK", "OK", "Error", "Error", "OK"));
+    EXPECT_THAT(Column(1, 3),
+                ElementsAre("ten fonts, 94 glyphs each", EndsWith(" bitmaps"),
+                            EndsWith(" pictures"), StartsWith("down, "), StartsWith("down, "), "",
+                            StartsWith("written, "), StartsWith("written, "), "4 regions",
+                            "none found", "2 errors in the Diag menu",
+                            EndsWith("live, +0 since the start")));
+    EXPECT_EQ(LS_GetStatus(1, 3, 1), 2) << "red";
+    EXPECT_EQ(LS_GetStatus(1, 5, 1), 1) << "grey";
+    EXPECT_THAT(PixelsIn({104, 372, 697, 388}), Contains(RED)) << "errors";
+    EXPECT_EQ(Display::Lacks(), "");
+    EXPECT_THAT(FileText(LOG), HasSubstr("Self test: Units: 2 errors in the Diag menu"));
+    GL_ErrorExist = 0;
+    Press(51); // repeat
+    Press(49);
+    round();
+    GL_ErrorExist = 1;
+    Pass(500);
+    EXPECT_EQ(Cell(1, 10, 1), "OK") << "it pauses";
+    Pass(500);
+    round();
+    EXPECT_EQ(Cell(1, 10, 1), "Error");
+    Press(50); // stop
+    GL_ErrorExist = 0;
+    Pass(2000);
+    round();
+    EXPECT_EQ(Cell(1, 10, 1), "Error");
+    Touch_FD = touch_fd;
+}
+
+TEST_F(Engineering, TheFiguresAreThoseSinceTheReset)
+{
+    using testing::MatchesRegex;
+    Open(0x99930002);
+    MainPass();
+    Press(49); // reset
+    for (const uint32_t page : {0x12110000u, 0x99930002u}) {
+        GL_CreatePage = page;
+        MainPass();
+    }
+    Clock_ms += 3723000;
+    MainPass();
+    Pass(1000);
+    EXPECT_EQ(Cells(1, 0, 0, 2), "Measured for|1:02:03");
+    EXPECT_EQ(Cells(1, 1, 0, 2), "Passes|3, 0 a second");
+    EXPECT_EQ(Cells(1, 5, 0, 2), "Page change, last|0 ms, page 9993.2");
+    EXPECT_EQ(Cell(1, 4, 1), "2");
+    EXPECT_EQ(Cell(1, 10, 1), std::to_string(UsedMemPtr));
+    for (const int row : {7, 8, 9, 12, 13})
+        EXPECT_THAT(Cell(1, row, 1), MatchesRegex("[1-9][0-9]*\\.[0-9] MB")) << row;
+    const std::string open = Cell(1, 11, 1);
+    const std::ifstream one_more("/dev/null");
+    Pass(999);
+    EXPECT_EQ(Cell(1, 11, 1), open) << "once a second";
+    Pass(1);
+    EXPECT_EQ(Cell(1, 11, 1), std::to_string(std::stoi(open) + 1));
 }
 
 TEST_F(Engineering, WhatArrivesIsListedTheNewestOnTop)
