@@ -4,6 +4,7 @@
 #include "debug.h"
 #include "display.h"
 #include "hsl.h"
+#include "i2c.h"
 #include "log.h"
 #include "loop.h"
 #include "memory.h"
@@ -110,6 +111,10 @@ TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
     EXPECT_EQ(places(), before) << "the operator's own way is as it was";
     Open(0x99970001);
     EXPECT_GE(LS_GetNData(ENG_LIST), int(rows)) << "each has its figures";
+    Press(50); // by table
+    EXPECT_EQ(Cell(1, 0, 0), "0011");
+    LS_SetNowLine(1, 1);
+    EXPECT_EQ(PageBy(52), PageTable[1].id); // open
 }
 
 TEST_F(Engineering, TheKeysOfTheWalkHoldItAndStepBothWays)
@@ -349,6 +354,8 @@ TEST_F(Engineering, TheSelfTestsSayWhatTheyFind)
     GL_ClipStoreSupportMode = GL_IsRamDisk = 0;
     GL_ErrorExist = 2;
     const int touch_fd = std::exchange(Touch_FD, -1);
+    for (int region = 0; region < 4; region++)
+        (void)I2cEepromService_UpdateCrc32(region);
     Open(0x55550000);
     EXPECT_THAT(Column(1, 1), Each("--"));
     const Display display;

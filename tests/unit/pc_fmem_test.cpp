@@ -205,6 +205,7 @@ TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
 {
     OpenPage(RECORD);
     Clip("img0000", 5);
+    TellAll(TREE + "Record@", {"Rec Len@PROC1#0,300", "Freeze/Rec Name@PROC1#0,/img0000.SFH"});
     EXPECT_THAT(Press(BTN_FMEM_REC), ElementsAre(PUT + "Record@Freeze/Rec Name@FM1#0,/img0001.SFH",
                                                  "put  " + TREE + "Record@FM1#1,0,300,1"));
     (void)Tell(TREE + "Record@PROC1#1,10,300,1");
