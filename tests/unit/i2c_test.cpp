@@ -47,6 +47,9 @@ TEST_F(I2c, AFailedReadLeavesTheBytesAndEachOpenIsClosed)
     EXPECT_EQ(i2c_rd(0, 4, in), -1) << "closed";
     ASSERT_EQ(i2c_open(), 0);
     EXPECT_EQ(i2c_rd(253, 4, in), -1) << "past the device";
+    EXPECT_EQ(i2c_wr(253, 4, in), -1) << "past the device";
+    EXPECT_EQ(i2c_rd(0, 4, nullptr), -1);
+    EXPECT_EQ(i2c_wr(0, 4, nullptr), -1);
     std::filesystem::resize_file(IMAGE, 0x60 * 256 + 2);
     EXPECT_EQ(i2c_rd(0, 4, in), -1) << "cut in the middle";
     i2c_close();
