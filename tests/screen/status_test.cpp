@@ -1,7 +1,9 @@
 #include "a_st_page.h"
+#include "me_bank.h"
 #include "page_table/st_dme.h"
 #include "page_table/st_globaleffect.h"
 #include "page_table/st_me_key.h"
+#include "page_table/st_status.h"
 
 constexpr Rect two_lines = {97, 73, 702, 256};
 constexpr Rect work_area = {97, 73, 702, 526};
@@ -55,6 +57,44 @@ TEST_F(StatusPicture, ChannelsAndTheirCombiners)
          "Ch5-Ch8@Brick@Ch5#true", "Ch5-Ch8@Brick@Faces#4", "Ch5-Ch8@Combine@Ch6#true"});
     Pass();
     EXPECT_TRUE(MatchesGolden("status_global", work_area));
+    // Units of pairs, which speak for themselves, of two channels, and for two eyes.
+    const auto open_alone = [](const ST_TBL* cells) {
+        TDL_FillRectS(work_area.x1, work_area.y1, work_area.x2, work_area.y2, 0);
+        Open(cells);
+    };
+    open_alone(st_globaleffect_status_dp);
+    Say("Global Effect@",
+        {"Ch1-Ch2@Combine@Ch2#true", "Ch1-Ch2@Trail@Ch2#Pre", "Ch3-Ch4@Combine@Ch2#false",
+         "Ch3-Ch4@Priority@Ch2#2", "Ch5-Ch6@Combine@Ch2#true", "Ch5-Ch6@Brick@Ch2#false",
+         "Ch7-Ch8@Combine@Ch2#true", "Ch7-Ch8@Trail@Ch2#Post", "Ch7-Ch8@Brick@Ch2#true",
+         "Ch7-Ch8@Brick@Faces#3"});
+    Pass();
+    EXPECT_TRUE(MatchesGolden("status_global_pairs", work_area));
+    for (const auto& [name, cells] : {std::pair{"small", &st_globaleffect_status_e[0]},
+                                      {"eyes", &st_globaleffect_status_3D[0]}}) {
+        Open(cells);
+        Say("Global Effect@",
+            {"Ch1-Ch4@Combine@Ch1#true", "Ch1-Ch4@Combine@Ch2#false", "Ch1-Ch4@Trail@Ch1#Post",
+             "Ch5-Ch8@Combine@Ch6#true", "Ch5-Ch8@Trail@Ch6#Pre"});
+        Pass();
+        EXPECT_TRUE(MatchesGolden(std::string("status_global_") + name, two_lines));
+    }
+}
+
+TEST_F(StatusPicture, BanksWithFourAndWithEightKeys)
+{
+    const MeBank* const second = MeBank_OfCaption("M/E-2");
+    GL_ProcStatus[1] = 1;
+    GL_KeyMax[second->place] = 4;
+    Open(st_misc_rates);
+    for (const std::string bank : {"M/E-1@", "M/E-2@"}) {
+        Say(bank, {"Misc@Transition@Transition Rate#30"});
+        for (const char key : {'1', '2', '4', '5', '8'})
+            Say(bank + "Key" + key + "@Transition@", {std::string("ON Transition Rate#6") + key});
+    }
+    Pass();
+    GL_KeyMax[second->place] = 8;
+    EXPECT_TRUE(MatchesGolden("status_rates", two_lines));
 }
 
 TEST_F(StatusPicture, TablesOfTransforms)

@@ -267,6 +267,39 @@ TEST_F(StatusCells, TheCrossHairStandsWhereTheWipeDoes)
     }
 }
 
+TEST_F(StatusCells, WhatIsOffLiesUnderAVeil)
+{
+    static const struct {
+        const ST_TBL* rows;
+        int place;
+        Strings tallies; // below the bank
+        bool is_grey;
+    } cases[] = {
+        {st_me_wipe, 1, {"Wipe@Main Pattern@Position#false"}, true},
+        {st_me_wipe, 1, {"Wipe@Main Pattern@Position#true"}, false},
+        {st_me_wipe, 10, {"Wipe@Pattern Mix@Pattern Mix#Off"}, true},
+        {st_me_wipe, 10, {"Wipe@Pattern Mix@Pattern Mix#Mix"}, false},
+        {st_me_wipe, 5, {"Wipe@Edge@Border#false", "Wipe@Edge@Soft#false"}, true},
+        {st_me_wipe, 5, {"Wipe@Edge@Border#true"}, false},
+        {st_me_wipe, 5, {"Wipe@Edge@Soft#true"}, false},
+        {st_me_misc, 5, {"Misc@Video Process@Video Process#false"}, true},
+        {st_me_misc, 5, {"Misc@Video Process@Video Process#true"}, false},
+        {st_me_misc_sub, 1, {"Misc@Key Priority@Enable#false"}, true},
+        {st_me_misc_sub, 1, {"Misc@Key Priority@Enable#true"}, false},
+    };
+    for (const auto& c : cases) {
+        Open(c.rows);
+        for (const std::string& tally : c.tallies)
+            SendDummyTally(("M/E-1@" + tally).c_str());
+        Pass();
+        const ST_TBL& cell = c.rows[c.place];
+        const auto inside = PixelsIn({cell.x1 + 3, cell.y1 + 19, cell.x2 - 3, cell.y2 - 3});
+        const bool is_bright =
+            std::ranges::any_of(inside, [](uint32_t pixel) { return (pixel >> 8 & 0xFF) > 0x70; });
+        EXPECT_NE(is_bright, c.is_grey) << c.tallies[0];
+    }
+}
+
 static bool Overlap(const ST_TBL& c, const BT_TBL& b)
 {
     return c.x1 <= b.x2 && b.x1 <= c.x2 && c.y1 <= b.y2 && b.y1 <= c.y2;
