@@ -72,7 +72,7 @@ TEST_F(StatusPicture, ChannelsAndTheirCombiners)
     EXPECT_TRUE(MatchesGolden("status_global_pairs", work_area));
     for (const auto& [name, cells] : {std::pair{"small", &st_globaleffect_status_e[0]},
                                       {"eyes", &st_globaleffect_status_3D[0]}}) {
-        Open(cells);
+        open_alone(cells);
         Say("Global Effect@",
             {"Ch1-Ch4@Combine@Ch1#true", "Ch1-Ch4@Combine@Ch2#false", "Ch1-Ch4@Trail@Ch1#Post",
              "Ch5-Ch8@Combine@Ch6#true", "Ch5-Ch8@Trail@Ch6#Pre"});
