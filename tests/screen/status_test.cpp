@@ -3,6 +3,7 @@
 #include "page_table/st_dme.h"
 #include "page_table/st_globaleffect.h"
 #include "page_table/st_me_key.h"
+#include "page_table/st_me_misc.h"
 #include "page_table/st_status.h"
 
 constexpr Rect two_lines = {97, 73, 702, 256};
@@ -95,6 +96,23 @@ TEST_F(StatusPicture, BanksWithFourAndWithEightKeys)
     Pass();
     GL_KeyMax[second->place] = 8;
     EXPECT_TRUE(MatchesGolden("status_rates", two_lines));
+}
+
+TEST_F(StatusPicture, ABankAndItsClipTransition)
+{
+    SetTree({"M/E-1", "Misc"}, 0x11710000);
+    GL_ProcStatus[1] = 1;
+    Open(st_me_misc);
+    Say("M/E-1@Misc@",
+        {"Transition@Super Mix#true", "Key Priority@Key Priority#2,1,3,4,1,2,4,3",
+         "Key Priority@Next Key Priority#4,3,2,1", "Key Assign@Key1#Main", "Key Assign@Key6#Sub",
+         "Video Process@Luminance#100.00", "Clip Transition@Bkgd#B",
+         "Clip Transition@Bkgd Name#CAM 2", "Clip Transition@Output#FM1",
+         "Clip Transition@Clip Name#OPENING", "Clip Transition@Player#Play",
+         "Clip Transition@Time Code#00:00:10:05", "Clip Transition@Position#40",
+         "Clip Transition@Start#25", "Clip Transition@End#75"});
+    Pass();
+    EXPECT_TRUE(MatchesGolden("status_misc", two_lines));
 }
 
 TEST_F(StatusPicture, TablesOfTransforms)
