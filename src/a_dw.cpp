@@ -290,5 +290,5 @@ int DW_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg)
 
 int DW_ConvPosForWheel(int* x, int* y, int button)
 {
-    return dw.cmd[0] ? SB_ConvPosForWheel(0, area(), x, y, button) : 0;
+    return SB_ConvPosForWheel(0, area(), x, y, button);
 }

@@ -174,6 +174,7 @@ TEST_F(FileList, FoldersAreEnteredAndLeftAndAnOldAnswerIsNotTaken)
     EXPECT_EQ(FL_GetDirectoryName(&where, 0, &names), -1);
     // The page closes and opens: the side is where it was left. Then its folder goes.
     FL_Create(nullptr, 0);
+    EXPECT_EQ(fl.list[0].count, 0);
     FL_Create(&sides, 0);
     EXPECT_STREQ(FL_GetCurrentPath(FL_L_LIST), "/NEWS");
     TakeLabels();

@@ -289,6 +289,7 @@ TEST_F(ClipXportPage, TheStoreSideFollowsTheCatalogue)
     LS_SetMS(1, 0);
     TouchClip(1);
     EXPECT_THAT(ShownClips(), ElementsAre("_FolderA ", "still 1"));
+    EXPECT_EQ(LS_GetNowLine(1), 0) << "another folder's list begins at the top";
     TouchClip(0);
     EXPECT_THAT(ShownClips(), ElementsAre("deep 2"));
     EXPECT_EQ(Caption(BTN_XPORT_FOLDER_A), "A");
