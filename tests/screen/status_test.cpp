@@ -1,5 +1,6 @@
 #include "a_st_page.h"
 #include "me_bank.h"
+#include "page_table/engineering.h"
 #include "page_table/st_dme.h"
 #include "page_table/st_globaleffect.h"
 #include "page_table/st_me_key.h"
@@ -113,6 +114,18 @@ TEST_F(StatusPicture, ABankAndItsClipTransition)
          "Clip Transition@Start#25", "Clip Transition@End#75"});
     Pass();
     EXPECT_TRUE(MatchesGolden("status_misc", two_lines));
+}
+
+// As the developer's page has them, plain and with all its switches on.
+TEST_F(StatusPicture, ThePartsOfCells)
+{
+    for (const int on : {0, 1}) {
+        bgcen = inven = gryen = s_font = on;
+        Open(st_eng_checker);
+        Pass();
+        EXPECT_TRUE(MatchesGolden("status_parts_" + std::to_string(on), two_lines));
+    }
+    bgcen = inven = gryen = 0;
 }
 
 TEST_F(StatusPicture, TablesOfTransforms)
