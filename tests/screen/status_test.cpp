@@ -122,6 +122,7 @@ TEST_F(StatusPicture, ThePartsOfCells)
     for (const int on : {0, 1}) {
         bgcen = inven = gryen = s_font = on;
         Open(st_eng_checker);
+        GL_ST_area_update_draw();
         Pass();
         EXPECT_TRUE(MatchesGolden("status_parts_" + std::to_string(on), two_lines));
     }
