@@ -153,7 +153,7 @@ struct WindowOverPane : Windows {
 
 TEST_F(WindowOverPane, ItIsAnsweredFirstAndThePaneGoesOn)
 {
-    constexpr Rect ABOVE = {205, 141, 595, 148}; // of the pane, above the message
+    constexpr Rect ABOVE = {205, 141, 595, 148};         // of the pane, above the message
     for (int type : {WINDOW_MESSAGE, WINDOW_KEYBOARD}) { // inside the saved ground, and beyond it
         const auto alone = Picture(), strip = PixelsIn(ABOVE);
         ASSERT_EQ(CreateWindow(type, "Install", {.message = "All is well."}), 0);
