@@ -12,9 +12,12 @@ TEST(EngineeringPicture, TheMenuLeadsToAllThatThereIs)
     EXPECT_TRUE(MatchesGolden("engineering_menu"));
 }
 
-TEST(EngineeringPicture, AFontChartHasEveryGlyphWithItsCode)
+TEST(EngineeringPicture, TheChartsHaveEveryColourAndEveryGlyphWithItsCode)
 {
-    Harness_Reset();
-    ASSERT_EQ(CreatePage(0x99960005), 0);
-    EXPECT_TRUE(MatchesGolden("engineering_fonts"));
+    for (const auto& [page, picture] :
+         {std::pair{0x99960000u, "engineering_colours"}, {0x99960005, "engineering_fonts"}}) {
+        Harness_Reset();
+        ASSERT_EQ(CreatePage(page), 0);
+        EXPECT_TRUE(MatchesGolden(picture));
+    }
 }

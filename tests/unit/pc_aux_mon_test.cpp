@@ -62,18 +62,22 @@ TEST_F(AuxPage, TheKeysAreAboutTheChosenBusAndTheListGoesOnShowingTheOthers)
 
 TEST_F(AuxPage, ATouchPutsASignalOnTheChosenBus)
 {
-    (void)Open(MON);
-    (void)ChooseRow(1, 7);
-    EXPECT_THAT(ChooseRow(2, 1), ElementsAre("put Aux/Mon@Monitor@Mon 8@Source#CG 1"));
-    EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "only the answer changes what is shown";
-    (void)Tell("Aux/Mon@Monitor@Mon 8@Source#CG 1");
-    EXPECT_EQ(Cell(2, 1, 2), "O");
-    EXPECT_EQ(LS_IsSelected(2, 1, 0), 1) << "and in view";
-    EXPECT_EQ(LS_IsSelected(2, 0, 0) + LS_IsSelected(2, 2, 0), 0);
-    EXPECT_EQ(Cell(2, 2, 1), "X");
-    (void)ChooseRow(1, 0);
-    EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "nothing is known of the first one's";
-    EXPECT_EQ(ChooseRow(2, 9).size(), 0u) << "no such signal";
+    for (const auto& [page, source] :
+         {std::pair{MON, std::string("Aux/Mon@Monitor@Mon 8@Source#CG 1")},
+          {AUX, BUS + "Aux 8@Source#CG 1"}}) {
+        (void)Open(page);
+        (void)ChooseRow(1, 7);
+        EXPECT_THAT(ChooseRow(2, 1), ElementsAre("put " + source));
+        EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "only the answer changes what is shown";
+        (void)Tell(source);
+        EXPECT_EQ(Cell(2, 1, 2), "O");
+        EXPECT_EQ(LS_IsSelected(2, 1, 0), 1) << "and in view";
+        EXPECT_EQ(LS_IsSelected(2, 0, 0) + LS_IsSelected(2, 2, 0), 0);
+        EXPECT_EQ(Cell(2, 2, 1), "X");
+        (void)ChooseRow(1, 6);
+        EXPECT_EQ(LS_GetData(2, 1, 2), nullptr) << "nothing is known of this one's";
+        EXPECT_EQ(ChooseRow(2, 9).size(), 0u) << "no such signal";
+    }
 }
 
 TEST_F(AuxPage, WhatAnotherPageAskedForIsTheOneThatOpens)

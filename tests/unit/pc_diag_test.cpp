@@ -1,4 +1,5 @@
 // The Diag pages: what they show of the reports, and what is deleted from the history.
+#include "display.h"
 #include "page_table/diag.h"
 #include "pane.h"
 #include "selfdiag.h"
@@ -48,9 +49,12 @@ TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAllAndRefreshWaitsForTheUnits)
     GL_ErrorPopup_On = 1;
     Open(PAGE_DIAG_STATUS);
     EXPECT_EQ(GL_ErrorPopup_On, 0) << "looking answers the popup";
+    const Display display;
     EXPECT_THAT(Rows(), ElementsAre("PNL1|Error|FAN-2 Control Function Error|20 h",
                                     "SWR1|Error|No Reference|"));
     TouchRow(1);
+    Paint();
+    EXPECT_EQ(Display::Lacks(), "");
     Fan("NG,NG"); // above the current row
     EXPECT_EQ(Rows().size(), 3u);
     EXPECT_EQ(LS_GetNowLine(1), 2) << "stays on its item";

@@ -15,6 +15,7 @@
 #include "table_page.h"
 #include "text.h"
 #include "touch.h"
+#include <filesystem>
 #include <fstream>
 
 struct Engineering : TablePage {
@@ -71,6 +72,7 @@ TEST_F(Engineering, TheSwitchesDecideWhatIsLogged)
 
 TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
 {
+    constexpr Rect SUMMARY = {112, 92, 697, 158};
     // What a page of these asks for becomes another one as long as nothing is being edited.
     const std::set<uint32_t> guarded = {0x71420002, 0x71420003, 0x71440002};
     std::set<uint32_t> left, seen;
@@ -89,6 +91,7 @@ TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
         return all_places;
     };
     const auto before = places();
+    const auto not_begun = PixelsIn(SUMMARY);
     Press(17); // 10 passes a page
     EXPECT_EQ(GL_AllPageDisplayMsec, 10);
     GL_AllPageDisplayMsec = 1;
@@ -108,6 +111,7 @@ TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
     EXPECT_GE(seen.size(), rows);
     MainPass();
     EXPECT_EQ(GL_NowPage, PAGE_WALK);
+    EXPECT_NE(PixelsIn(SUMMARY), not_begun);
     EXPECT_EQ(places(), before) << "the operator's own way is as it was";
     Open(0x99970001);
     EXPECT_GE(LS_GetNData(ENG_LIST), int(rows)) << "each has its figures";
@@ -206,12 +210,13 @@ TEST_F(Engineering, AColourIsMixedOfHueSaturationAndLuminanceAndStays)
 TEST_F(Engineering, ReportsAreKeptWhateverPageIsShown)
 {
     Open(PAGE_TOP);
-    TellAll("Info@Status Report",
-            {"#true", "@SWR1#NG Fan 2", "#Server restarted", "s@SWR9#none of them"});
+    TellAll("Info@Status Report", {"#true", "@DME1#OK->NG", "@DME2#Bus Error", "@SWR1#NG Fan 2",
+                                   "#Server restarted", "s@SWR9#none of them"});
     Open(0x99980000);
-    EXPECT_THAT(Column(1, 1), ElementsAre("Server", "SWR1"));
-    EXPECT_THAT(Column(1, 2), ElementsAre("Server restarted", "NG Fan 2"));
-    EXPECT_EQ(LS_GetStatus(1, 1, 2), 2) << "an error is red";
+    EXPECT_THAT(Column(1, 1), ElementsAre("Server", "SWR1", "DME2", "DME1"));
+    EXPECT_THAT(Column(1, 2), ElementsAre("Server restarted", "NG Fan 2", "Bus Error", "OK->NG"));
+    for (const int row : {0, 1, 2, 3})
+        EXPECT_EQ(LS_GetStatus(1, row, 2), row ? 2 : 0) << "an error is red";
     for (int n = 0; n < 205; n++)
         (void)Tell("Info@Status Report@DME1#" + std::to_string(n));
     Pass(10);
@@ -240,6 +245,10 @@ TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
     EXPECT_EQ(Cell(1, 2, 2), "M/E-1@Key1@Type#Luminance");
     EXPECT_EQ(Cell(1, 3, 2), "line 4999 of the pages, to fill the file");
     EXPECT_EQ(BT_GetStatus(51), BT_OFF);
+    const auto whole_line = [] { return Seen({100, 302, 697, 338}); };
+    const auto newest = whole_line();
+    (void)Touch(200, 78 + 22 * 3 + 5);
+    EXPECT_NE(whole_line(), newest);
     Press(37); // links
     EXPECT_THAT(Column(1, 2), ElementsAre("the link [text]"));
     file << "\n[Mar 05 07:08:11][ 15] one more\n" << std::flush;
@@ -273,6 +282,8 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
 {
     GL_ClipStoreSupportMode = 0;
     CopyText(GL_ServerAddress, "127.0.0.1");
+    CopyText(SYS_StatusHubAddress, "10.1.2.3");
+    SYS_StatusHubPort = 9501;
     Peer server(NET_TEXT_PORT);
     Net_Init();
     ASSERT_TRUE(server.Accept());
@@ -281,6 +292,7 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     EXPECT_THAT(Column(1, 2), ElementsAre("Up", "Down", "Not used"));
     EXPECT_THAT(Column(1, 7), ElementsAre("waiting", "--", "")) << "two have nothing to ask";
     EXPECT_EQ(Cells(1, 0, 0, 2) + Cell(1, 1, 1), "Text|127.0.0.1:10001127.0.0.1:10000");
+    EXPECT_EQ(Cell(1, 2, 1), "10.1.2.3:9501");
     for (const int link : {0, 1, 2}) // as it is, red, grey
         EXPECT_EQ(LS_GetStatus(1, link, 2), (3 - link) % 3) << link;
     Press(50); // repeat
@@ -295,9 +307,11 @@ TEST_F(Engineering, TheTextLinkIsTimedByItsAnswer)
     EXPECT_EQ(server.Lines().size(), 1u) << "once a second";
     Press(50);
     Press(49); // ping; nobody answers
-    for (int pass = 0; pass < 400; pass++)
-        MainPass();
-    EXPECT_EQ(Cell(1, 0, 7), "none");
+    for (const char* answer : {"waiting", "none"}) {
+        for (int pass = 0; pass < 200; pass++)
+            MainPass();
+        EXPECT_EQ(Cell(1, 0, 7), answer);
+    }
     EXPECT_EQ(LS_GetStatus(1, 0, 7), 2) << "red";
     EXPECT_EQ(Cells(2, 1, 0, 3), "Processor 1|--|Idle");
     GL_ProcStatus[1] = GL_InitReadStatus[1] = 1;
@@ -320,6 +334,7 @@ TEST_F(Engineering, BoardsOfUnitsThatAreThereAreListed)
     Pass(600);
     EXPECT_EQ(Cells(1, 0, 1, 2), "MIX-12|--");
     EXPECT_EQ(Cell(1, 1, 1), "--") << "nothing told";
+    EXPECT_EQ(LS_GetStatus(1, 1, 1), 1) << "grey";
     CopyText(DEV_Swr[0].id, "SWR001D001");
     DEV_MySwr[0] = &DEV_Swr[0];
     SYS_MySwrMax = 1;
@@ -379,11 +394,17 @@ TEST_F(Engineering, TheSelfTestsSayWhatTheyFind)
     Press(49);
     round();
     GL_ErrorExist = 1;
+    GL_IsRamDisk = 1;
+    std::filesystem::create_directory("/var/log2/.tm3test.new"); // in the way of a file
     Pass(500);
     EXPECT_EQ(Cell(1, 10, 1), "OK") << "it pauses";
     Pass(500);
     round();
+    std::filesystem::remove("/var/log2/.tm3test.new");
     EXPECT_EQ(Cell(1, 10, 1), "Error");
+    EXPECT_EQ(Cells(1, 7, 0, 2) + Cell(1, 7, 3), "Data drive|Left out");
+    EXPECT_EQ(Cell(1, 6, 1), "Error");
+    EXPECT_THAT(Cell(1, 6, 3), StartsWith("cannot be written"));
     Press(50); // stop
     GL_ErrorExist = 0;
     Pass(2000);
@@ -449,6 +470,9 @@ TEST_F(Engineering, WhatArrivesIsListedTheNewestOnTop)
                                           "Press", "Release"));
     EXPECT_EQ(Cell(1, 3, 2), "x 640  y 460  button 0");
     EXPECT_EQ(Cell(1, 5, 2), "x 640  y 460  button 1");
+    Open(0x99940000);
+    Press(49);
+    EXPECT_THAT(Column(1, 1), ElementsAre("Press")) << "a visit begins anew, and is not held";
 }
 
 TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)

@@ -116,6 +116,7 @@ TEST_F(FcAdjust, TheAspectLimitsThePositions)
     TellAll(ADJUST, {"Convert Mode@0#2", "Aspect Type@0#Edge Crop", "EC Pos Mode@0#1", "Aspect@0#0",
                      "EC Pos@0#3"});
     EXPECT_EQ(FarOf(2, 1000), 100);
+    EXPECT_EQ(FarOf(2, -1000), -100);
     (void)Tell(ADJUST + "EC Pos Center@0#false");
     EXPECT_EQ(BT_GetStatus(BTN_FCADJUST_EC_CENTER), BT_OFF);
     (void)Tell(ADJUST + "EC Pos Center@0#true");

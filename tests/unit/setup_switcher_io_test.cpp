@@ -102,4 +102,9 @@ TEST_F(SetupKeys, EveryKeyDoesSomething)
     }
     BUS_SBusSrc[1] = nullptr;
     EXPECT_GT(keys, 450);
+    SetupLink_Reset();
+    (void)Open(0x73360004);
+    EXPECT_THAT(Usable({33, 34, 35}), ElementsAre(33, 34)) << "no link in hand to set it to";
+    (void)Open(0x73360005);
+    EXPECT_THAT(Usable({33, 34}), IsEmpty());
 }
