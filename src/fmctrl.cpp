@@ -145,21 +145,20 @@ int FMCtrlProc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 }
 
 // The processors tell whether they record; thumbnails wait meanwhile.
-int framememory_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+void framememory_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     constexpr char REC[] = "Clip@Rec@PROC";
     if (msg != MSG_TALLY || !ax || !bx)
-        return 0;
+        return;
     const char* rest = fm_path(Text(ax));
     if (!rest || !BeginsWith(rest, REC))
-        return 0;
+        return;
     const int proc = IndexFrom1(rest + sizeof REC - 1, 2);
     if (proc < 0)
-        return 0;
+        return;
     GL_FMRec &= ~(1 << proc);
     if (SwitchOrNumber(Text(bx)))
         GL_FMRec |= 1 << proc;
-    return 0;
 }
 
 // --- Life ---

@@ -205,6 +205,6 @@ int FMCtrlProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx); // returns 
 // Leave the answer to a command of the automation's folder there, "OK" or "Error", as the file
 // name.
 void FMCtrl_FtpAnswer(const char* name, int is_good);
-int framememory_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+void framememory_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 void FMCtrl_InitClipStillList(); // at start-up
 void FMCtrl_Quit();              // all as before the first line

@@ -305,20 +305,19 @@ static void take_capacity(const char* row)
     SendMessage(LMSG_FMLOAD, SYS_StoreFree, SYS_MemoryFree, 0, 0);
 }
 
-int clipstore_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
+void clipstore_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
 {
     if (msg != MSG_SHPTALLY || !ax || !bx)
-        return 0;
+        return;
     const auto* const verb = reinterpret_cast<const char*>(ax);
     const auto* const table = reinterpret_cast<const char*>(bx);
     const StoreTable* const t = store_table(table);
     if (!t || !is_refCS_command(table))
-        return 0;
+        return;
     if (Same(verb, "Ready"))
         table_is_ready(table, *t);
     else if (Same(verb, "Disconnect"))
         clear_table(*t);
     else if (Same(verb, "Notify") && t->type == ELEMENT_TYPE_NONE)
         take_capacity(reinterpret_cast<const char*>(dx));
-    return 0;
 }

@@ -148,5 +148,5 @@ void FMCtrl3_Finalize(); // all memory is given back
 // on the drive do.
 void FMCtrl3_Clear(int type);
 void FMCtrl3_HubLost(); // nothing is known of the store any more
-// Capacity and coming and going of the followed store's tables. Returns 0.
-int clipstore_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+// Capacity and coming and going of the followed store's tables.
+void clipstore_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);

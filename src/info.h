@@ -7,10 +7,10 @@
 int InfoProc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx); // returns 0
 
 // The parts of InfoProc, each a subject of its own.
-int operationsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
-int systemsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
-int meassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
-int mainsubassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+void operationsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+void systemsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+void meassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+void mainsubassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 
 // Progress of file work by unit: 0 panel, 1 and 2 switchers, 3 to 6 effects units.
 constexpr int FILE_PROG_UNITS = 7;

@@ -116,25 +116,23 @@ static int assigned_to(const char* word)
     return bank ? bank->me : number_of(aux_words, word, -1);
 }
 
-int meassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+void meassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg != MSG_TALLY || !ax || !bx)
-        return 0;
+        return;
     const int row = row_of_path(Text(ax), "Engineering Setup@Panel@Config@M/E Assign@");
     if (row >= 0)
         GL_MEAssign[row] = assigned_to(Text(bx));
-    return 0;
 }
 
-int mainsubassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+void mainsubassign_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg != MSG_TALLY || !ax || !bx)
-        return 0;
+        return;
     const int row = row_of_path(
         Text(ax), "Engineering Setup@Panel@Config@MP2 Main/Sub Assign@Main/Sub Assign@");
     if (row >= 0)
         GL_MainSubAssign[row] = number_of(side_words, Text(bx), GL_MainSubAssign[row]);
-    return 0;
 }
 
 // --- Modules in the panel rows ---

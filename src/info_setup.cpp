@@ -125,18 +125,17 @@ static bool take_numbered(const char* rest, const char* prefix, int count, const
 
 static constexpr char OPERATION_PATH[] = "Info@Operation Setup Data@";
 
-int operationsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+void operationsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg != MSG_TALLY || !ax || !bx || !BeginsWith(Text(ax), OPERATION_PATH))
-        return 0;
+        return;
     const char* rest = Text(ax) + sizeof OPERATION_PATH - 1;
     const char* value = Text(bx);
     if (take_numbered(rest, "Group Name@", SHORTCUT_GROUPS, value,
                       shortcut_menu_group_name_tally) ||
         take_numbered(rest, "Shortcut Name@", SHORTCUTS, value, shortcut_menu_data_tally))
-        return 0;
+        return;
     take_row(operation_rows, rest, value);
-    return 0;
 }
 
 // --- The system ---
@@ -216,14 +215,13 @@ static constexpr SetupRow system_rows[] = {
 static constexpr char SYSTEM_PATH[] = "Info@System Setup Data@";
 static constexpr char PANEL_BOARDS_PATH[] = "Info@Board Config@Board Exist Set@PNL";
 
-int systemsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
+void systemsetup_proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg)
 {
     if (msg != MSG_TALLY || !ax || !bx)
-        return 0;
+        return;
     if (BeginsWith(Text(ax), PANEL_BOARDS_PATH))
         follow_panel_option(); // the word itself has been taken with the units
     if (!BeginsWith(Text(ax), SYSTEM_PATH))
-        return 0;
+        return;
     take_row(system_rows, Text(ax) + sizeof SYSTEM_PATH - 1, Text(bx));
-    return 0;
 }

@@ -100,7 +100,7 @@ void mm_macro_tmpfile_del(int n); // the temporary of register n (0..98)
 void mm_macro_run(int reg);
 void MM_macro_ext_stop(); // from anywhere; where it stands is kept
 // For info: the time of a run, and the stop key of other pages.
-int menu_macro_run_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
+void menu_macro_run_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx);
 // Take a register for running, or start what was taken, from where it stands.
 int mm_current_macro_recall(int reg); // 0, or -1: it is empty
 void mm_current_macro_run();

@@ -227,7 +227,7 @@ void mm_run_reset()
     GL_MenuMacro_Run = 0;
 }
 
-int menu_macro_run_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
+void menu_macro_run_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
 {
     if (msg == MSG_REDRAW) {
         mm_clock_pass(int(ax));
@@ -236,5 +236,4 @@ int menu_macro_run_proc(int msg, MsgArg ax, MsgArg, MsgArg, MsgArg)
     } else if (msg == LMSG_BTNSEL && ax && Same(Text(ax), "LOCAL@MenuMacro@Stop")) {
         MM_macro_ext_stop();
     }
-    return 0;
 }
