@@ -268,7 +268,6 @@ static void analyze_scpget_resultfile_fmem(const Scp& s)
 
 static void analyze_scpput_resultfile_fmem(const Scp& s)
 {
-    s.cat.status = FILE_CATEGORY_STATUS_SCPPUT;
     FILEXFERLIST* item = fmem_current(s);
     if (item && item->status == FILESTATUS_CHKRESULT) {
         const int listed = listed_current(s, item);

@@ -53,7 +53,7 @@ struct Way {
 // A touch of a button, by its command.
 struct Touch {
     const char* command;
-    int (*act)();
+    void (*act)();
 };
 } // namespace
 
@@ -714,35 +714,34 @@ static void side_chosen(int)
         show_all();
 }
 
-static int device_a_sel()
+static void device_a_sel()
 {
-    return FileSelect_Device(&AllDir[SIDE_A], FILE_DRIVES_ALL, side_chosen, SIDE_A);
+    (void)FileSelect_Device(&AllDir[SIDE_A], FILE_DRIVES_ALL, side_chosen, SIDE_A);
 }
-static int device_b_sel()
+static void device_b_sel()
 {
-    return FileSelect_Device(&AllDir[SIDE_B], FILE_DRIVES_ALL, side_chosen, SIDE_B);
+    (void)FileSelect_Device(&AllDir[SIDE_B], FILE_DRIVES_ALL, side_chosen, SIDE_B);
 }
-static int dir_a_sel()
+static void dir_a_sel()
 {
-    return FileSelect_Dir(&AllDir[SIDE_A], side_chosen, SIDE_A);
+    (void)FileSelect_Dir(&AllDir[SIDE_A], side_chosen, SIDE_A);
 }
-static int dir_b_sel()
+static void dir_b_sel()
 {
-    return FileSelect_Dir(&AllDir[SIDE_B], side_chosen, SIDE_B);
+    (void)FileSelect_Dir(&AllDir[SIDE_B], side_chosen, SIDE_B);
 }
 
-static int all_select_sel()
+static void all_select_sel()
 {
     for (ALLTBL& row : AllTbl)
         row.onoff = 1;
     show_all();
-    return 0;
 }
 
-static int clear_sel()
+static void clear_sel()
 {
-    return Net_SendCommandFormat("put " CLEAR_BEFORE_LOAD "#%d",
-                                 fa.clear_before_load == CLEAR_YES ? CLEAR_NO : CLEAR_YES);
+    (void)Net_SendCommandFormat("put " CLEAR_BEFORE_LOAD "#%d",
+                                fa.clear_before_load == CLEAR_YES ? CLEAR_NO : CLEAR_YES);
 }
 
 // --- Transfers ---
@@ -764,14 +763,14 @@ static bool all_file_load_lock()
     return was_locked;
 }
 
-static int load_sel(const FILESIDE& from, const FILESIDE& to)
+static void load_sel(const FILESIDE& from, const FILESIDE& to)
 {
     if (!all_file_load_lock()) {
         begin(ALL_LOAD, from, to);
-        return 0;
+        return;
     }
     show_all();
-    return CreateWindow(
+    (void)CreateWindow(
         WINDOW_MESSAGE, "Load",
         {.message =
              "The categories set on the \"File Load Lock\n(Menu 7317.2)\" cannot be loaded.\n"
@@ -786,19 +785,18 @@ static bool is_same_directory(const FILESIDE& a, const FILESIDE& b)
     return a.device == FILE_REMOVABLE ? StrICmp(a.dir, b.dir) == 0 : strcmp(a.dir, b.dir) == 0;
 }
 
-static int copy_sel(const FILESIDE& from, const FILESIDE& to)
+static void copy_sel(const FILESIDE& from, const FILESIDE& to)
 {
     if (is_same_directory(from, to)) {
         PaneMessage_Create("All Copy", PANE_ALERT,
                            "\"Source\" and \"Target\" are the same directory.\n\n"
                            "Please change the \"Source\" or the \"Target\"\ndirectory.");
-        return -1;
+        return;
     }
     begin(ALL_COPY, from, to);
-    return 0;
 }
 
-static int save_sel(int from, int to)
+static void save_sel(int from, int to)
 {
     fa.from = from;
     fa.to = to;
@@ -806,25 +804,28 @@ static int save_sel(int from, int to)
                                     "This operation will cause the contents of \ntarget directory "
                                     "will be cleared before saving\n"
                                     "files.\n\n\nContinue?");
-    return 0;
 }
 
-static int transfer_sel(int from, int to)
+static void transfer_sel(int from, int to)
 {
-    if (!may_transfer(AllDir[from], AllDir[to]))
-        return -1;
-    if (AllDir[from].device == FILE_REGISTER)
-        return save_sel(from, to);
-    return AllDir[to].device == FILE_REGISTER ? load_sel(AllDir[from], AllDir[to])
-                                              : copy_sel(AllDir[from], AllDir[to]);
+    const FILESIDE& source = AllDir[from];
+    const FILESIDE& target = AllDir[to];
+    if (!may_transfer(source, target))
+        return;
+    if (source.device == FILE_REGISTER)
+        save_sel(from, to);
+    else if (target.device == FILE_REGISTER)
+        load_sel(source, target);
+    else
+        copy_sel(source, target);
 }
-static int all_a2b_sel()
+static void all_a2b_sel()
 {
-    return transfer_sel(SIDE_A, SIDE_B);
+    transfer_sel(SIDE_A, SIDE_B);
 }
-static int all_b2a_sel()
+static void all_b2a_sel()
 {
-    return transfer_sel(SIDE_B, SIDE_A);
+    transfer_sel(SIDE_B, SIDE_A);
 }
 
 // --- Messages ---
@@ -860,7 +861,7 @@ static int button_pressed(const char* command)
         if (is_busy())
             PaneMessage_Create("File", PANE_ALERT, INHIBITED);
         else
-            (void)touch.act(); // a refusal changes nothing
+            touch.act();
     }
     return 0;
 }

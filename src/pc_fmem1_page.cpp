@@ -234,7 +234,7 @@ static int folder_popup()
         CopyText(fm1.folder_name[row], FMCtrl_GetFolder(row)->name);
         cells[row] = {row + 1, fm1.folder_name[row], row == open};
     }
-    return rows > 0 ? PaneDirectory_Create_FolderPopup(rows, cells) : 0;
+    return PaneDirectory_Create_FolderPopup(rows, cells);
 }
 
 // The folder of a cell by its name: rows may have changed their places. -1: it has gone.

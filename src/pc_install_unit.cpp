@@ -15,7 +15,6 @@
 namespace
 {
 #define VERSION_DIR "/var/tmp/version1/"
-constexpr int NAMES_MAX = 3;
 
 // A model, and the names of packages that it takes. The models with one format alone take those of
 // their full sisters.
@@ -23,7 +22,7 @@ struct Model {
     const char* unit = nullptr; // class, as the unit's name begins
     DEVTYPE type = DEVTYPE_UNKNOWN;
     const char* model = nullptr;
-    const char* names[NAMES_MAX] = {};
+    const char* names[2] = {};
 };
 constexpr Model models[] = {
     {"PNL", DEVTYPE_QRD11, "QRD11", {"QRD11"}},
