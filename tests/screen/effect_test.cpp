@@ -21,4 +21,8 @@ TEST_F(EffectPictures, EffectsAndShotboxes)
     Open(0x64110000);
     Paint();
     EXPECT_TRUE(MatchesGolden("shotbox_store"));
+
+    Open(0x64110001);
+    Paint();
+    EXPECT_TRUE(MatchesGolden("shotbox_edit"));
 }

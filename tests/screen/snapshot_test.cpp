@@ -1,12 +1,13 @@
 // The snapshot pages with registers of every state: the attributes, the overview, the hold of a
 // bank, two lists, a master that is edited.
+#include "fmctrl3.h"
 #include "pc_snapshot.h"
-#include "table_page.h"
+#include "register_page.h"
 
-struct SnapshotPictures : TablePage {
+struct SnapshotPictures : RegisterDesk {
     void SetUp() override
     {
-        TablePage::SetUp();
+        RegisterDesk::SetUp();
         TellAll("Snapshot@Snapshot@Attribute@",
                 {"M/E-1@List#1,OPENING,S,AB12U1,30,n,n",
                  "M/E-1@List#2,HEADLINE,L,AB12345678U1U2U3,n,15,1",
@@ -50,4 +51,22 @@ TEST_F(SnapshotPictures, AttributesOverviewHoldListsAndMaster)
     Touch(138 + 3 * 70 + 10, 112);
     Paint();
     EXPECT_TRUE(MatchesGolden("snapshot_master_edit"));
+}
+
+TEST_F(SnapshotPictures, ClipsOfAUser)
+{
+    const auto hub = [](const char* table, const char* row) {
+        SendMessage(MSG_SHPTALLY, Arg("Insert"), Arg(table), 0, Arg(row));
+    };
+    hub("CS1.ClipStoreFolder", "root/NEWS:1");
+    hub("CS1.ClipStoreFile", "root/OPENING.SFH:100, 0, 0, 3, 2026-11-25 09:20:00, 3, 1");
+    hub("CS1.ClipStoreFile", "root/NEWS/LOGO KEY.SFH:1, 1, 0, 3, 2026-11-25 09:20:00, 3, 1");
+    Choose(REGKIND_SNAPSHOT, {272});
+    TellAll("Snapshot@Snapshot@Clip Event@User1@List#",
+            {"FM1,1,ON,OFF,ON,/OPENING.SFH,10,85", "FM2,1,ON,ON,OFF,LOGO KEY,0,0"});
+    Open(PAGE_SNAPSHOT_ATTRIBUTE);
+    Open(PAGE_SNAPSHOT_CLIP);
+    TellAll("Frame Mem 2@Clip/Still@Output Status@FM", {"1#2,/NEWS/LOGO KEY.SFH", "2#1,"});
+    Paint();
+    EXPECT_TRUE(MatchesGolden("snapshot_clip"));
 }

@@ -2,13 +2,13 @@
 // what the lists show of the mirror.
 #include "pc_effect.h"
 #include "pc_shotbox.h"
-#include "table_page.h"
+#include "register_page.h"
 #include <map>
 
 const std::string EFFECTS = "Effect@Effect@Attribute@List@";
 const std::string SHOTS = "Shotbox@Register@Store/Recall@List";
 
-struct EffectPages : TablePage {
+struct EffectPages : RegisterDesk {
     static void Open3To5(uint32_t page) // from register 3 to register 5, where there are two lists
     {
         Open(page);
@@ -27,6 +27,8 @@ TEST_F(EffectPages, EveryKeyOfEveryKindSendsItsCommand)
         {0x62210000, 50, "put Effect@Effect@Recall@Recall#0000000000000002, 3"},
         {0x62230000, 49,
          "put Effect@Effect@Copy/Merge@Copy#0000000000000002,3,3,0000000000000002,5,false"},
+        {0x62230000, 52,
+         "put Effect@Effect@Copy/Merge@Merge#0000000000000002,3,0000000000000002,5"},
         {0x62320000, 51, "put Effect@Effect@Lock@Lock#0000000000101000,103,103,true"},
         {0x62510000, 50, "put Effect@Effect@Recall@Recall#0000000000101000, 303"},
         {0x64110000, 33, "put Shotbox@Register@Attribute@Auto Run#3,3,true"},
@@ -99,6 +101,14 @@ TEST_F(EffectPages, ADissolveTakesTheTimeOfTheKnobAndALockKeepsItsOwn)
                   line.find(",D,") != std::string::npos);
         EXPECT_EQ(Puts(BTN_EFFECT_DISSOLVE), *value ? Lines{DISSOLVE + value} : Lines{}) << line;
     }
+    (void)Puts(BTN_REGISTER_REGION);
+    Choose(REGKIND_EFFECT, {258});
+    SendMessage(LMSG_PANEQUIT, Pane_GetActiveID(), 1, 0, 0);
+    Pane_Quit(Pane_GetActiveID());
+    Pass(10);
+    const Lines sent = TakeQueuedCommands();
+    EXPECT_EQ(Held(sent, "Effect@Effect@Attribute@Temporary Duration@M/E-1"), -1);
+    EXPECT_EQ(Held(sent, "Effect@Effect@Attribute@Temporary Duration@M/E-2"), 1);
 }
 
 TEST_F(EffectPages, AShotboxShowsWhatItLinks)
@@ -170,11 +180,14 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
 TEST_F(EffectPages, AllCellsOrTheSwitchersAreChosenTogether)
 {
     enum : int { ALL = 49, SWR_ALL = 50, ASSIGN = 51, STORE = 53 };
-    const auto stored = [](int switchers, int others) {
+    const auto stored = [](int switchers, int others, int channels = 8) {
         std::string text = "put Effect@Master Timeline@Store/Recall@Edit@Store#1";
         for (int region = 0; region < EFF_REGION_MASTER; region++) {
             const bool is_sub = region >= SS_REGION_ME1_SUB && region <= SS_REGION_PP_SUB;
-            const int link = is_sub ? 0 : region <= SS_REGION_USER8 ? switchers : others;
+            const bool is_missing = region >= SS_REGION_DME1 + channels && region <= SS_REGION_DME8;
+            const int link = is_sub || is_missing        ? 0
+                             : region <= SS_REGION_USER8 ? switchers
+                                                         : others;
             text += "," + std::to_string(link);
         }
         return text;
@@ -191,4 +204,9 @@ TEST_F(EffectPages, AllCellsOrTheSwitchersAreChosenTogether)
     EXPECT_THAT(Puts(STORE), ElementsAre(stored(5, 5)));
     assign({ALL, SWR_ALL}, 7); // all were on: off, then the switcher's
     EXPECT_THAT(Puts(STORE), ElementsAre(stored(7, 5)));
+    GL_DmeModel[0] = 5; // of two channels
+    Open(0x62110001);
+    assign({ALL}, 6);
+    EXPECT_THAT(Puts(STORE), ElementsAre(stored(6, 6, 2)));
+    GL_DmeModel[0] = 0;
 }

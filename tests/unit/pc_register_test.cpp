@@ -1,26 +1,15 @@
 // The pages of the stored registers: what goes over the wire for every kind and every key, and what
 // the lists show of the mirror.
 #include "colours.h"
-#include "pane_private.h"
-#include "pc_register.h"
 #include "pc_snapshot.h"
 #include "pc_snapshot_hold.h"
-#include "table_page.h"
+#include "register_page.h"
 #include <array>
 #include <cstring>
 
 const std::string LIST = "Snapshot@Snapshot@Attribute@", PUT = "put Snapshot@Snapshot@";
 
-struct RegisterPages : TablePage {
-    // Regions by id; the first is the reference.
-    static void Choose(REGKIND kind, const std::vector<int>& ids)
-    {
-        const REGIONBTN& g = RegionBtn[register_kinds[kind].group()];
-        for (int i = 0; i < g.cells; i++) {
-            const auto at = std::ranges::find(ids, g.btnsel[i].id);
-            g.btnsel[i].select = at == ids.end() ? 0 : at == ids.begin() ? 2 : 1;
-        }
-    }
+struct RegisterPages : RegisterDesk {
     // A line of a snapshot, behind its number.
     static void Store(const std::string& region, int no, const std::string& rest)
     {
@@ -377,16 +366,25 @@ TEST_F(RegisterPages, AnExtraBusIsListedWhereItExistsAndQuickTouchesDoNotTakeEac
     Pass(10);
     EXPECT_EQ(BT_GetStatus(49), BT_ON);
     EXPECT_EQ(Cell(1, 0, 1), "ON");
+    Store("M/E-1", 1, "A,S,A1,n,n,n"); // those on either side of the cursor
+    Pass(10);
+    EXPECT_EQ(BT_GetStatus(49), BT_OFF);
 }
 
 TEST_F(RegisterPages, AClipOfAUserIsSwitched)
 {
+    for (const auto& [region, has_clips] :
+         {std::pair{257, false}, {272, true}, {279, true}, {288, false}}) {
+        Choose(REGKIND_SNAPSHOT, {region});
+        Open(PAGE_SNAPSHOT_ATTRIBUTE);
+        Pass(10);
+        EXPECT_EQ(BT_GetVisible(BTN_SNAPSHOT_CLIP) == BT_ENABLED, has_clips) << region;
+    }
     Choose(REGKIND_SNAPSHOT, {273});
     Open(PAGE_SNAPSHOT_ATTRIBUTE);
     Cursor(1, 8);
     (void)Tell("Snapshot@Snapshot@Clip Event@User2@List#FM3,9,ON,ON,OFF,CLIP,0,10");
-    (void)Press(BTN_SNAPSHOT_CLIP);
-    GL_CreatePage = 0;
+    EXPECT_EQ(PageBy(BTN_SNAPSHOT_CLIP), PAGE_SNAPSHOT_CLIP);
     (void)TakeQueuedCommands();
     EXPECT_EQ(CreatePage(PAGE_SNAPSHOT_CLIP), 0);
     const std::string status = "Frame Mem 2@Clip/Still@Output Status@FM";
@@ -453,6 +451,10 @@ TEST_F(RegisterPages, TheOverviewActsOnEveryRegionThatHoldsTheRegister)
     touch(1, 2);
     EXPECT_THAT(Puts(50), ElementsAre(PUT + "Lock#3,12,12"));
     EXPECT_THAT(Puts(49), ElementsAre(PUT + "Recall#3, 12"));
+    for (const auto& [key, command] : {std::pair{51, "Rename#3,12,BOTH"}, {54, "Delete#3,12,12"}}) {
+        EXPECT_THAT(Puts(key), IsEmpty());
+        EXPECT_THAT(Confirm(), ElementsAre(PUT + command));
+    }
     (void)Press(52);
     touch(0, 0); // no register
     Touch(119 + 54, 200);

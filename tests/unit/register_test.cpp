@@ -217,6 +217,7 @@ TEST_F(Registers, ListsAreSubscribedInOrderAndThoseOfAReturningEffectsUnitReadAg
         line.replace(0, 3, "remove");
     EXPECT_THAT(Sent(Register_DeathCommand), testing::UnorderedElementsAreArray(added));
 
+    const int used = UsedMemPtr;
     Deliver(EFFECT + "DME1", "5,D,old,L,N,0");
     Deliver(EFFECT + "DME8", "205,D,old,L,N,0");
     Deliver(SNAPSHOT + "DME8@List", "5,old,L,,,,");
@@ -233,6 +234,7 @@ TEST_F(Registers, ListsAreSubscribedInOrderAndThoseOfAReturningEffectsUnitReadAg
     EXPECT_EQ(sent[0], "read Snapshot@Snapshot@Attribute@DME1@List");
     EXPECT_EQ(sent[15], "read Effect@Effect@Attribute@List@DME8");
     EXPECT_EQ(Told().size(), 0u);
+    EXPECT_EQ(UsedMemPtr, used + 2) << "of the user and of the device";
 
     static const Place gone[] = {
         {0, SS_REGION_DME1, 4}, {2, 1, 4}, {4, SS_REGION_DME8, 4}, {1, 3, 98}, {3, 0, 0},
