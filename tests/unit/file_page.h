@@ -4,6 +4,7 @@
 #include "bus_probe.h"
 #include "file.h"
 #include "file_scp.h"
+#include "memory.h"
 #include "text.h"
 #include <fstream>
 #include <sys/stat.h>
@@ -86,9 +87,11 @@ struct FileTest : BusTest {
 struct FileListTest : FileTest {
     FILEXFERLIST* list = nullptr;
     std::string ended; // "status message;" of each item, as the page is told at the end
+    int blocks = 0;    // of memory, before the test
     void SetUp() override
     {
         FileTest::SetUp();
+        blocks = UsedMemPtr;
         ended.clear();
         probe::answer = [this](const probe::Seen& s) {
             if (s.msg == LMSG_FILESTATUS && s.cx == Arg(&list))
@@ -101,6 +104,7 @@ struct FileListTest : FileTest {
     {
         File_XferList_RemoveAll(&list);
         FileTest::TearDown();
+        EXPECT_EQ(UsedMemPtr, blocks);
     }
     FILEXFERLIST* At(int n)
     {

@@ -433,8 +433,10 @@ TEST_F(FileLists, AMemorySizedJobAnswersInTime)
 struct FileBackground : FileLists {
     void TearDown() override
     {
-        FileLists::TearDown();
+        while (Pane_GetActiveID())
+            (void)Pane_Quit(Pane_GetActiveID());
         (void)PaneProgress_RestoreQuit(); // nothing may be open
+        FileLists::TearDown();
     }
     // A copy that goes on without its page.
     void BeginAndLeave(int items)

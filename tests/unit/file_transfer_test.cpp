@@ -110,6 +110,10 @@ TEST_F(FileSteps, AFileTakesTheWayOfItsEnds)
         EXPECT_EQ(Run(c.entry, c.src, c.dst), c.steps);
     }
     EXPECT_TRUE(FileExist("/var/tmp/MenuMacro")) << "the copy has a place to go to";
+    const std::string copy = "/var/tmp/MenuMacro/mm_reg07.tmp";
+    WriteFile(copy, "no macro\n");
+    (void)Run(File_ExecTransferList, "/a/x.MMR", copy);
+    EXPECT_FALSE(FileExist(copy.c_str())) << "it has done its duty";
 }
 
 TEST_F(FileSteps, AnOldSwitcherGetsConvertedFiles)
