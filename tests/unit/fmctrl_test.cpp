@@ -150,6 +150,15 @@ TEST_F(FrameMemoryLists, RegisterStatusAsksForTheSetAndEmptiesTheClearThatThereA
     (void)Tell("Frame Mem@Status@Extended Capacity", "0");
     EXPECT_THAT(Tell(STATUS + "Register Status@128", std::string(32, 'F')), IsEmpty());
 
+    Max(16384);
+    for (const auto& [bank, register_no] : {std::pair{127, "16384"}, {255, "32768"}}) {
+        (void)Tell("Frame Mem@Status@Extended Capacity", "1");
+        EXPECT_THAT(Tell(STATUS + "Register Status@" + std::to_string(bank), "8" + none.substr(1)),
+                    ElementsAre(SENSE + register_no));
+    }
+    const Strings banks = Tell("Frame Mem@Status@Extended Capacity", "1");
+    EXPECT_EQ(banks.size(), 45u);
+    EXPECT_EQ(banks.back(), "read " + STATUS + "Register Status@172");
     Max(300);
     (void)Tell("Frame Mem@Status@Extended Capacity", "1");
     for (const char* value : {"0,81,Mx", "301,81,Mx", "16384,81,Mx", "16685,81,Mx", "-1,81,Mx",

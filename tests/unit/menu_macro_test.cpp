@@ -230,6 +230,7 @@ TEST_F(MenuMacro, AFileIsWrittenAsItIsReadAlsoBeforeTheStartHasReadIt)
     Write(BACKUP, 9, opening);
     mm_edit_open(9);
     EXPECT_EQ(mm_current_register_store(9), -1) << "locked";
+    EXPECT_EQ(mm_current_register_store(11), 0);
     Write(BACKUP, 10, opening);
     mm_lock_exec(10, 10, false);
     EXPECT_THAT(File(10), HasSubstr("Header:OPENING,0,1\n"));

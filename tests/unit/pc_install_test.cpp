@@ -69,9 +69,10 @@ TEST_F(NewInstall, EachUnitIsOfferedTheNewestPackageThatFits)
     Package("PNL software", "2.0", "");
     Package("Menu", "V5.11 #2", "MENU CPU");
     Package("Camera", "1", "CAM");
+    Unit("SIU010200", "DCU: Version 1.2\n");
     Show();
     EXPECT_THAT(Rows(UNITS, 4), ElementsAre("SCS|--|--|", "Menu/UI|--|V5.10|V5.11 #2",
-                                            "PNL1|--|--|2.0", "DCU1|--|--|", "DCU2|--|--|",
+                                            "PNL1|--|--|2.0", "DCU1|--|--|", "DCU2|--|1.2|",
                                             "SWR1|KTR40GSF|5.9 (Mar.01.2013)|5.10", "DME1|--|--|"));
     Choose("SWR1");
     EXPECT_THAT(Rows(PACKAGES, 4),

@@ -6,6 +6,7 @@
 #include "pc_kf.h"
 #include "pc_kf_page.h"
 #include "setup_index.h"
+#include <array>
 
 struct TimelinePage : KeyframePage {
     static constexpr int X = 400; // in every row's bar
@@ -373,7 +374,11 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKeyThatRubbishDoesNotChange)
     EXPECT_THAT(Reference({0, 1, 3}), // one that is not selected cannot be the reference
                 ElementsAre("put Key Frame@Region Select@Ref Region Set#M/E-1",
                             "put Key Frame@Region Select@Ref Region Set#P/P"));
+    constexpr Rect parts[] = {{104, 84, 171, 153}, {172, 154, 239, 223}, {450, 84, 701, 260}};
+    const std::array before = {Seen(parts[0]), Seen(parts[1]), Seen(parts[2])};
     Key(7);
+    for (int i = 0; i < 3; i++) // both keys, and the regions
+        EXPECT_NE(Seen(parts[i]), before[size_t(i)]) << i;
     EXPECT_THAT(Selection(), ElementsAre(ENABLE + "User3#true"));
     Key(22);
     EXPECT_THAT(Selection(), IsEmpty());

@@ -1,5 +1,6 @@
 // The pages of the macro registers and the offline editor: what goes over the wire, what the lists
 // show, what stands in the file.
+#include "a_ls_private.h"
 #include "command.h"
 #include "netio.h"
 #include "pc_file_dual.h"
@@ -178,6 +179,10 @@ TEST_F(MacroOfflinePage, EveryEventIsMadeStepByStepAndReadsBack)
 {
     OpenWith("");
     EXPECT_EQ(Events(), "Event 1");
+    for (int column = 0; column <= MACRO_COL_SYMBOL; column++) {
+        At(0, column);
+        EXPECT_STREQ(ls_find(LIST_MACRO_VALUES)->head[0], ls_find(LIST_MACRO_EVENTS)->head[column]);
+    }
     At(0, MACRO_COL_SYMBOL, {"KeyAutoTransition", "P/P", "Key2"});
     EXPECT_EQ(Events(), "Event 1 KeyAutoTransition P/P Key2 - -");
     Enter(30);

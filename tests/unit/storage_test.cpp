@@ -53,6 +53,11 @@ TEST_F(Storage, ScanTakesTheFirstStickAndTellsTheServer)
          {"usb5", "usb3"},
          "/mnt/usb/usb3/",
          {"put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"}},
+        {1,
+         {"usb8"},
+         "/mnt/usb/usb8/",
+         {"put Info@Operation Setup Data@Import Path#/mnt/usb/usb8/"}},
+        {1, {"usb9"}, "/mnt/usb/usb1/", {}},
     };
     for (const auto& c : cases) {
         SetUp();
