@@ -140,14 +140,17 @@ TEST_F(StatusPage, APageThatTheInstallationLacksHasNoTab)
     constexpr int TAB_X = 225, TAB_Y = 560;
     DEV_MyPnl[0] = &DEV_Pnl[0];
     SYS_MyPnlMax = 1;
+    std::set<std::vector<uint32_t>> looks;
     for (const int option : {2, 0}) {
         DEV_Pnl[0].function[FUNCTION_OPTION_WORD] = option;
         (void)Open(MISC);
+        looks.insert(Seen({TAB_X - 30, TAB_Y - 20, TAB_X + 30, TAB_Y + 20}));
         (void)Touch(TAB_X, TAB_Y);
         EXPECT_EQ(std::exchange(GL_CreatePage, 0), option ? 0x32120000u : 0u);
         (void)Open(MISC_TOP);
         EXPECT_EQ(Usable({18, 19}), option ? std::vector<int>({18, 19}) : std::vector<int>{19});
     }
+    EXPECT_EQ(looks.size(), 2u);
     DEV_MyPnl[0] = nullptr;
     SYS_MyPnlMax = 0;
 }
