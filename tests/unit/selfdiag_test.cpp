@@ -156,12 +156,13 @@ TEST_F(SelfDiag, ARefreshAsksTheUnitsOfThisPanel)
     EXPECT_STREQ(GL_Fan[0][0], "NG") << "what has not reported yet";
     Report(SWR "Fan Speed", "SWR1,OK");
     Report(DME "Fan Speed", "DME1,OK");
+    Report(PNL "Fan Speed", "DCU2,OK");
     for (const int unit : {0, 4})
         EXPECT_STREQ(GL_Fan[unit][0], "OK");
     SelfDiag_Refresh_All();
     for (const int unit : {0, 4})
         EXPECT_STREQ(GL_Fan[unit][0], "NG");
-    EXPECT_EQ(Item("FAN-1 Speed OK"), nullptr) << "of neither of them";
+    EXPECT_EQ(Item("FAN-1 Speed OK"), nullptr) << "of none of them";
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("put Info@Self Diagnosis Notice@SWR1#true",
                             "put Info@Self Diagnosis Notice@DME1#true",
@@ -294,6 +295,7 @@ TEST_F(MenuBoard, HoursTickAtOnceAndThenEachHour)
     EXPECT_EQ(I2cEepromService_IsCrc32Valid(3), 1);
     EXPECT_EQ(Byte(104, 14), 28);
     EXPECT_EQ(SelfDiag_GetUI(1)->value, 1001);
+    EXPECT_EQ(Item(SelfDiag_GetUI(1)->message), SelfDiag_GetUI(1)) << "a unit as all others";
     for (int ms = 0; ms < 3600000; ms += 5000)
         SelfDiag_I2C_Update(5000);
     EXPECT_EQ(Hours(29), 1001) << "not before the hour is over";
