@@ -108,6 +108,7 @@ static void reset_state()
     GL_ChatteringTime = 130;
     SYS_FmemV6 = SYS_SignalFormat = SYS_ScreenAspect = 1;
     SYS_DWSubEnable = GL_FillSourceAssignMode = 0;
+    GL_ImportDataPath[0] = '\0';
     GL_InitialPage = PAGE_TOP;
     SetupLock = {};
     for (const auto set : {BA_SetDefaultButton, BA_SetUsbAccess, BA_SetFtpAccess, BA_SetHDDAccess})

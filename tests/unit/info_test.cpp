@@ -75,7 +75,6 @@ TEST_F(Info, AValueLandsInItsPlace)
     Deliver(OPERATION "Import Path", "/mnt/usb/usb2/");
     EXPECT_STREQ(GL_NFS_MountOption, "ro");
     EXPECT_STREQ(GL_ImportDataPath, "/mnt/usb/usb2/");
-    GL_ImportDataPath[0] = '\0';
     Deliver(OPERATION "Timeline Region Display", "2,1");
     EXPECT_EQ(KF_GetRegionDisplay(1), 1);
     for (const char* place : {"1,3", "2,0"})

@@ -169,7 +169,6 @@ TEST_F(Loop, KeysOfTheDeveloperWorkInDebugModeOnly)
     }
     EXPECT_EQ(Count(MSG_KEY), 5u);
     GL_DebugMode = GL_ScreenCapture = 0;
-    GL_ImportDataPath[0] = '\0';
 }
 
 TEST_F(Loop, ARefreshShowsWhatHadBeenPaintedInSilence)
