@@ -16,7 +16,8 @@ struct Point {
     int x, y;
 };
 constexpr Point TITLE = {150, 30}, SIDE_KEY = {330, 30}, BACK = {400, 30}, FWD = {470, 30},
-                TOP_RIGHT = {650, 30}, LOWER_LEFT = {40, 560}, PREV = {750, 580};
+                TOP_RIGHT = {650, 30}, LOWER_LEFT = {40, 560}, PREV = {750, 580},
+                PAGE_BUTTON = {40, 30};
 
 struct BaseAreaTest : ButtonPage {
     void SetUp() override
@@ -94,9 +95,13 @@ TEST_F(BaseAreaTest, EachZoneLeadsToItsPageUnlessDefaultRecallIsArmed)
 {
     OpenKeyType();
     EXPECT_EQ(Armed(), 1);
-    for (Point p : {TITLE, SIDE_KEY, BACK, FWD, TOP_RIGHT, PREV})
+    for (Point p : {TITLE, SIDE_KEY, BACK, FWD, TOP_RIGHT, PREV, PAGE_BUTTON})
         EXPECT_EQ(PageOf(p), NONE) << p.x;
+    EXPECT_EQ(GetWindow(), WINDOW_NONE);
     EXPECT_EQ(Armed(), 0);
+    Touch(PAGE_BUTTON);
+    EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
+    CloseWindow();
     EXPECT_EQ(PageOf(TITLE), 0x11000000u);
     Touch(TITLE);
     Touch(LOWER_LEFT);
@@ -257,7 +262,7 @@ TEST_F(FileBase, WhileArmedOnlyTheStepsThroughTheHistoryStandStill)
     BA_SetDefaultButton(1);
     EXPECT_EQ(PageOf(PREV), NONE);
     EXPECT_EQ(PageOf(TITLE), 0x71000000u);
-    Touch({40, 30});
+    Touch(PAGE_BUTTON);
     EXPECT_EQ(GetWindow(), WINDOW_PAGE_JUMP);
     CloseWindow();
     BA_SetDefaultButton(0);

@@ -79,6 +79,10 @@ TEST_F(FileFolder, FollowsTheCatalogueAndKeepsTheSelection)
     EXPECT_THAT(Names(), ElementsAre("NEWS", "SPORT", "OPENING", "STILL"));
     Cell(2);
     EXPECT_EQ(Selected(), "OPENING");
+    Clip("OPENING", 50, 1);
+    FF_OBJECT object;
+    EXPECT_EQ(FF_GetSelectedObject(0, &object), 0);
+    EXPECT_EQ(object.frame, 50);
     Clip("AAA", 5, 1);
     Hub("Insert", "ClipStoreFolder", "root/ART:1");
     EXPECT_THAT(Names(), ElementsAre("ART", "NEWS", "SPORT", "AAA", "OPENING", "STILL"));
@@ -138,12 +142,26 @@ TEST_F(FileFolder, FindsFromThereRoundTheEnds)
     const FM2_FILE_LIST& list = ff.area[0].file_list;
     ASSERT_GE(list.found_idx, 0);
     EXPECT_STREQ(list.cell[list.found_idx]->element.name, "OPENING") << "its mark goes with it";
+    Key(FF_KEY_FIND);
+    SendMessage(LMSG_PANEBTNSEL, PANEFIND_TEXT, 0, 0, 0);
+    for (const char key : {'s', 'p', char(SDLK_RETURN)})
+        SendMessage(MSG_KEY, key, 0, 0, 0);
+    Pass(1000);
+    EXPECT_EQ(Selected(), "SPORT");
+    SendMessage(LMSG_PANEBTNSEL, PANEFIND_CLOSE, 0, 0, 0);
+    Pass(10);
+    EXPECT_EQ(Pane_GetActiveID(), 0);
 }
 
 TEST_F(FileFolder, ChecksAndLoadsWhatIsChecked)
 {
     EXPECT_TRUE(BT_GetVisible(BTN_FMEM_LOAD) == BT_DISABLED);
     Key(FF_KEY_SELECT);
+    Cell(2);
+    EXPECT_TRUE(BT_GetVisible(BTN_FMEM_LOAD) == BT_ENABLED);
+    Hub("Delete", "ClipStoreFile", "root/OPENING.SFH");
+    EXPECT_TRUE(BT_GetVisible(BTN_FMEM_LOAD) == BT_DISABLED) << "it was the only one";
+    Clip("OPENING", 100, 1);
     Cell(2);
     EXPECT_EQ(ff.area[0].select_mode, SELECT_MODE_SELECT);
     for (int n : {0, 1, 3})

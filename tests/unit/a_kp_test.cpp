@@ -58,6 +58,11 @@ struct PathLists : TabPage {
 TEST_F(PathLists, ACellShowsItsTallyAndIsNotPaintedAgainForWhatIsNoNumber)
 {
     EXPECT_THAT(TakeQueuedCommands(), testing::Contains("add Key Frame@Path@All@Xpt"));
+    for (const auto& [path, is_followed] : {std::pair{"Key Frame@Path@All@Xpt", 1},
+                                            {"Key Frame@Path@All@Curve@Spline@Tens", 1},
+                                            {"Key Frame@Path@All@", 0},
+                                            {"Key Frame@Path@M/E-1@Xpt", 0}})
+        EXPECT_EQ(KP_Follows(path), is_followed) << path;
     for (const auto& [path, value, x, row, shown] :
          {std::tuple{"Key Frame@Path@All@Xpt", "Mixed", 270, 0, &G_PATH_mixed},
           {"Key Frame@Path@All@Xpt", "Step", 270, 0, &G_PATH_none}, // no word of this column

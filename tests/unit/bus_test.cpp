@@ -1,4 +1,5 @@
 #include "bus_probe.h"
+#include "fmctrl3.h"
 #include "loop.h"
 #include "netio.h"
 #include <cstring>
@@ -212,6 +213,19 @@ TEST_F(BusHub, OnlyFileTablesAndTheOwnClipStorePass)
     for (const char* table : {static_cast<const char*>(nullptr), "", "CS", "SWR1.File"})
         EXPECT_EQ(is_refCS_command(table), 0);
     EXPECT_EQ(is_refCS_command("CS1"), 1);
+}
+
+TEST_F(BusHub, NothingOfALostHubStays)
+{
+    FMCtrl3_Init();
+    (void)Drain("Insert#CS1.ClipStoreFolder:root/NEWS:1\n");
+    const auto is_there = [] { return FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FOLDER, "/NEWS"); };
+    EXPECT_TRUE(is_there());
+    hub.Drop();
+    usleep(20000);
+    ReceiveCommand_Management();
+    EXPECT_FALSE(is_there());
+    FMCtrl3_Finalize();
 }
 
 TEST_F(BusHub, APassTakesAtMost129RowsAndSendsWhatIsForTheHub)

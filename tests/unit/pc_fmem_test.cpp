@@ -131,8 +131,21 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndAPairWorksOnItsEvenOne)
     EXPECT_EQ(FM_GetSelect(), 1);
     EXPECT_THAT(Touch(160, 446), ElementsAre(PUT + "Pair@FM1&2#true"));
     EXPECT_EQ(FM_GetSelect(), 1); // by the tally, not by the press
+    EXPECT_THAT(Touch(160, 496), ElementsAre(PUT + "Ancillary Enable@FM2#1,1"));
     (void)Tell(TREE + "Pair@FM1&2#true");
     EXPECT_EQ(FM_GetSelect(), 0);
+    TellAll(TREE, {"Ancillary Enable@FM1#1,1"});
+    EXPECT_THAT(Touch(160, 496),
+                ElementsAre(PUT + "Ancillary Enable@FM1#0,0", PUT + "Ancillary Enable@FM2#0,0"));
+    for (const bool is_other : {false, true}) {
+        (void)Touch(160, 396);
+        const int popup = Pane_GetActiveID();
+        ASSERT_NE(popup, 0);
+        (void)TakeQueuedCommands();
+        (void)Pane_Quit(popup);
+        SendMessage(LMSG_PANEQUIT, popup, is_other ? 3 : 1, 0, 0);
+        EXPECT_EQ(TakeQueuedCommands(), is_other ? Lines{PUT + "Out Pair Select#FM5&6"} : Lines{});
+    }
     Cell(0, "NEWS");
     EXPECT_EQ(BT_GetVisible(BTN_FMEM_RECALL), BT_DISABLED);
     Cell(0, "OPENING");
