@@ -99,6 +99,11 @@ TEST_F(KeyframePictures, TimelineAssign)
     CreatePage(0x61150000);
     Paint();
     EXPECT_TRUE(MatchesGolden("timeline_assign"));
+    for (const auto& [name, reference] : {std::pair{"sub", 5}, {"macro", 69}}) {
+        kf::Select({static_cast<unsigned char>(reference), 0x07, 0x01, 0x04, 0, 0, 0, 0});
+        Paint();
+        EXPECT_TRUE(MatchesGolden(std::string("timeline_of_") + name, {508, 6, 797, 65}));
+    }
 }
 
 // A reference, a selected region, one of two, none, a grey one that is half selected.

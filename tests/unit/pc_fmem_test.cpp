@@ -131,6 +131,7 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndAPairWorksOnItsEvenOne)
     EXPECT_EQ(FM_GetSelect(), 1);
     EXPECT_THAT(Touch(160, 446), ElementsAre(PUT + "Pair@FM1&2#true"));
     EXPECT_EQ(FM_GetSelect(), 1); // by the tally, not by the press
+    (void)Tell(TREE + "Ancillary Enable@FM2#1,0");
     EXPECT_THAT(Touch(160, 496), ElementsAre(PUT + "Ancillary Enable@FM2#1,1"));
     (void)Tell(TREE + "Pair@FM1&2#true");
     EXPECT_EQ(FM_GetSelect(), 0);

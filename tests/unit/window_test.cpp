@@ -585,6 +585,10 @@ struct KnobInput : KnobColumn {
     static void Hit(const Keys& keys)
     {
         for (const std::string key : keys) {
+            if (key == "BS") {
+                Stroke(SDLK_BACKSPACE);
+                continue;
+            }
             const char c = key == "Cancel" ? 'X' : key == ":" ? '.' : key[0];
             TouchAt(KNOB_WINDOW, KeyIn(TEN_KEYS, c, {17, 133}, {54, 59}));
         }
@@ -610,6 +614,9 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
           {1, {".", "5", ".", "2", "Enter"}, {"put Clip#0.52"}},
           {1, {"1", "2", "+/-", "Clear", "7", "Enter"}, {"put Clip#7.00"}},
           {1, {"1", "2", "3", "4", "Enter"}, {"put Clip#100.00"}},
+          {1, {"1", "2", "BS", "Enter"}, {"put Clip#1.00"}},
+          {1, {"+/-", "BS", "5", "Enter"}, {"put Clip#5.00"}},
+          {3, {"2", "1", "2", "9", "BS", "Enter"}, {"put Rate#00:02:12"}},
           {1, {"Trim", "2", "Trim"}, {"put Clip#-10.50"}}, // the first has nothing to add
           {1, {"+/-", "9", "0", "Trim"}, {"put Clip#-100.00"}},
           {2, {"2", "0", "0", "Enter"}, {"put Level#109.5"}}, // limits the other way round
