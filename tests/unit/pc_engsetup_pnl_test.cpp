@@ -219,6 +219,14 @@ TEST_F(PanelSetup, ATableShowsWhatIsToldOfItsSide)
     EXPECT_EQ(Cell(2, 0, 1), "GUEST");
     SelectRow(0, 2);
     EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " XPT "Insert VK#129,1,1"));
+    (void)Open(0x73220003); // both sides
+    EXPECT_EQ(Row(0, 5) + Row(1, 5), "1|CG 1|CG 1|GUEST|CAM22||||");
+    (void)Tell(XPT "Assign#2,2,1");
+    EXPECT_EQ(Row(1, 5), "2|CAM2|GUEST||");
+    for (const auto& [key, order] : {std::pair{49, "Main,Sub"}, {50, "Sub,Main"}}) {
+        EXPECT_THAT(Choose(key, 0), IsEmpty());
+        EXPECT_THAT(Choose(key, 1), ElementsAre("put " XPT "Copy#" + std::string(order)));
+    }
 }
 
 TEST_F(PanelSetup, OtherTablesHaveTheirPaths)

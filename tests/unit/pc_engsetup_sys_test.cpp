@@ -326,6 +326,7 @@ TEST_F(SystemPage, AutoConfigThatFailsOrIsNotAnsweredSaysSo)
 TEST_F(SystemPage, TextsForTheNetworkDriveAreExamined)
 {
     (void)Open(0x73110098);
+    EXPECT_EQ(Cell(1, 3, 1), "Not mounted");
     // Sent behind "put Info@System Setup Data@NFS "; empty: refused.
     for (const auto& [key, text, sent] : {std::tuple{33, "10.0.0.9", "Server#10.0.0.9"},
                                           {33, "a;b", ""},
