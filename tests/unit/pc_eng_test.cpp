@@ -401,6 +401,7 @@ TEST_F(Engineering, TheSelfTestsSayWhatTheyFind)
     Pass(500);
     round();
     std::filesystem::remove("/var/log2/.tm3test.new");
+    GL_IsRamDisk = 0;
     EXPECT_EQ(Cell(1, 10, 1), "Error");
     EXPECT_EQ(Cells(1, 7, 0, 2) + Cell(1, 7, 3), "Data drive|Left out");
     EXPECT_EQ(Cell(1, 6, 1), "Error");
