@@ -174,6 +174,9 @@ TEST_F(Lists, ASplitListSelectsCells)
     EXPECT_EQ(Picture(1), "x.........");
     EXPECT_EQ(Picture(2), "xx..x.....");
     Release();
+    LS_SetSplit(1, 0);
+    EXPECT_EQ(Picture(1), ".x........") << "of all that was selected the current row";
+    EXPECT_EQ(Picture(2), ".x........");
 }
 
 TEST_F(Lists, ArrowsMoveTheCurrentRowAndKeepItInside)

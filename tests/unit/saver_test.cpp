@@ -172,8 +172,13 @@ TEST_F(Saver, HidesThePageAndGivesItBackWholeOrTheTopMenuWhenItIsGone)
     EXPECT_EQ(GL_CreatePage, PAGE_TOP);
 }
 
-TEST_F(Saver, SwallowsTheTouchThatWakesIt)
+TEST_F(Saver, SwallowsTheTouchThatWakesItAndYieldsToAnError)
 {
+    Start(1);
+    GL_ErrorPopup_On = 1;
+    MainPass();
+    GL_ErrorPopup_On = 0;
+    EXPECT_FALSE(IsSaver());
     const Rect key = {112, 272, 196, 337}; // "Luminance": a press puts
     for (int type : {SDL_MOUSEBUTTONDOWN, SDL_MOUSEMOTION}) {
         Start(1);
@@ -303,6 +308,31 @@ TEST_F(SaverPictures, AnEmptyFolderShowsTheTextUntilAPictureComes)
         Passes(350);
         EXPECT_NE(Middle() & 0xFF, 0x60u) << "the picture stays behind the text of mode " << mode;
         EXPECT_GT(Light(), 0) << mode;
+        Wake();
+    }
+}
+
+TEST_F(SaverPictures, OnePictureFadesIntoTheNextThroughTheDarkOrThroughBoth)
+{
+    constexpr uint32_t RED = 0xC00000, BLUE = 0x0000C0;
+    Put("SSrc_0.bmp", RED);
+    Put("SSrc_1.bmp", BLUE);
+    for (const auto& [mode, is_dark, is_mixed] :
+         {std::tuple{13, true, false}, {15, false, true}, {16, false, true}}) {
+        Start(mode);
+        ASSERT_GE(PassesUntil(RED), 0) << mode;
+        bool was_dark = false, was_mixed = false, was_held = true;
+        for (int pass = 0; pass < 2000 && Middle() != BLUE; pass++) {
+            ScreenSaver(10);
+            was_held = pass > 90 || Middle() == RED;
+            was_dark |= Middle() == 0;
+            was_mixed |= (Middle() >> 16) > 8 && (Middle() & 0xFF) > 8;
+        }
+        EXPECT_EQ(Middle(), BLUE) << mode;
+        EXPECT_TRUE(was_held) << mode;
+        EXPECT_EQ(was_dark, is_dark) << mode;
+        EXPECT_EQ(was_mixed, is_mixed) << mode;
+        EXPECT_GE(PassesUntil(RED), 90) << mode << ": the second one is held as well";
         Wake();
     }
 }
