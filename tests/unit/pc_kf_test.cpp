@@ -399,15 +399,12 @@ TEST_F(RegionPage, WhatTheModeTakesAwayOrALockHoldsTakesNoPress)
     TenKey(1, "M/E-3,DME3,,");
     SYS_3DMode = 1;
     EXPECT_THAT(Selection({0, 1}), IsEmpty());
-    const int panel_before = SYS_RefPnlType;
-    for (const auto& [panel, regions, is_grey] : {std::tuple{int(DEVTYPE_QRD11B), "M/E-2,,,", true},
-                                                  {int(DEVTYPE_QRD11B), "M/E-4,,,", false},
-                                                  {panel_before, "M/E-2,,,", false},
-                                                  {panel_before, "M/E-4,,,", true}}) {
-        SYS_RefPnlType = panel;
-        TenKey(1, regions);
-        EXPECT_EQ(Selection().empty(), is_grey) << panel << " " << regions;
+    const auto panel_before = std::exchange(SYS_RefPnlType, DEVTYPE_QRD11B);
+    for (const std::string bank : {"M/E-2", "M/E-4"}) {
+        TenKey(1, bank.c_str());
+        EXPECT_EQ(Selection().empty(), bank == "M/E-2") << "this panel has other keys";
     }
+    SYS_RefPnlType = panel_before;
     TenKey(1, "M/E-3,DME3,,");
     SYS_3DMode = 0;
     SYS_RefSwrType = DEVTYPE_UNKNOWN; // the large one has links of 3 Gb/s
