@@ -6,6 +6,7 @@
 #include "page_table/fmem_clip.h"
 #include "pane.h"
 #include "table_page.h"
+#include "tdl.h"
 #include "text.h"
 
 struct FileFolder : TablePage {
@@ -77,7 +78,15 @@ struct FileFolder : TablePage {
 TEST_F(FileFolder, FollowsTheCatalogueAndKeepsTheSelection)
 {
     EXPECT_THAT(Names(), ElementsAre("NEWS", "SPORT", "OPENING", "STILL"));
+    static bool is_shown = false;
+    TDL_WatchFlush([](int x, int y, int w, int h) {
+        const POSITION line = ff.area[0].parts.name_status.pos;
+        is_shown |= Inside({x, y, x + w - 1, y + h - 1}, line.x + 20, line.y + 10);
+    });
     Cell(2);
+    Pass(10);
+    TDL_WatchFlush(nullptr);
+    EXPECT_TRUE(is_shown) << "the line with its name";
     EXPECT_EQ(Selected(), "OPENING");
     Clip("OPENING", 50, 1);
     FF_OBJECT object;

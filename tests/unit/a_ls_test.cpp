@@ -273,7 +273,7 @@ TEST_F(Lists, AnIndexThatNoListHasIsRefused)
           LS_SetHeadStr(1, -1, "x"), LS_HeaderDisable(1, 17, 1), LS_SetGrouplin(1, 17, 1),
           LS_SetSplitSel(1, 17), LS_ChangeSelByStr(1, -1, "x"), LS_SetSelected(1, 12000, 0, 1),
           LS_SetSelected(1, 0, 3, 1), LS_SetNData(1, 12001), LS_SetNData(1, -1),
-          LS_SetStatus(1, 0, 0, 128), LS_SetDataFolder(1, 0, 1, 2)})
+          LS_SetStatus(1, 0, 0, 128), LS_SetDataFolder(1, 0, 1, 2), LS_ClearData(2)})
         EXPECT_EQ(result, -1);
     EXPECT_EQ(LS_SetData(1, 11999, 16, "x"), 0);
     EXPECT_STREQ(LS_GetData(1, 11999, 16), "x");
