@@ -80,6 +80,8 @@ TEST_F(FileSteps, AFileTakesTheWayOfItsEnds)
          "Frame Memory@PutV3#,tmp/usb1/M.SFM,SWR:FMEM_001.SFM | Access@Remove#,tmp/usb1/M.SFM"},
         {0, File_ExecTransferList, "/a/x.MMR", "tmp/MenuMacro/mm_reg07.tmp",
          "Access@Copy#,/a/x.MMR,tmp/MenuMacro/mm_reg07.tmp"},
+        {0, File_ExecTransferList, "/a/x.MMR", "SWR:/b/x.MMR",
+         "Transfer@Transfer#,/a/x.MMR,SWR:/b/x.MMR"}, // no register's
         {0, File_ExecFmExportList, "SWR:FMEM_002.SFM", "/x/a.TGA.SUB",
          "Frame Memory@Get#,SWR:FMEM_002.SFM,tmp/Sa.FMEM_000.SFM | "
          "Frame Memory@SFM2TGA#,tmp/Sa.FMEM_000.SFM,/x/a.TGA.SUB | "

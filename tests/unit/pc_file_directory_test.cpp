@@ -82,6 +82,20 @@ TEST_F(DirectoryPage, ShowsTheDirectoriesByNameBehindTheFixedOne)
     EXPECT_EQ(Disabled(), std::set<int>{DELETE}) << "the fixed one stays";
 }
 
+TEST_F(DirectoryPage, WhoeverWaitsForADriveIsToldOnce)
+{
+    static std::vector<int> told;
+    told.clear();
+    const auto one = [](int tag) { told.push_back(tag); };
+    const auto other = [](int tag) { told.push_back(-tag); };
+    ListLocal();
+    for (const auto& [done, tag] :
+         {std::pair<void (*)(int), int>{one, 7}, {one, 7}, {other, 7}, {one, 8}})
+        EXPECT_EQ(File_DirRead(FILE_LOCAL, done, tag), 0);
+    List(TakeQueuedCommands(), {"NEWS"});
+    EXPECT_THAT(told, testing::UnorderedElementsAre(7, -7, 8));
+}
+
 TEST_F(DirectoryPage, TakesNoMoreThanADriveMayHold)
 {
     Lines names;

@@ -53,6 +53,7 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
     EXPECT_THAT(List(), ElementsAre(HasSubstr("4|title||S")));
     Folders("0,Default.,2,"); // it goes, and what was in it
     EXPECT_EQ(Caption(BTN_FMEM1_FOLDER), "Default.");
+    EXPECT_THAT(List(), testing::SizeIs(3));
     Open(CLIPS);
     EXPECT_THAT(List(), ElementsAre("*6|run|3|2"));
 }
