@@ -59,7 +59,7 @@ struct FrameTargets {
 // A touch of a button, by its command.
 struct Touch {
     const char* command;
-    int (*act)();
+    void (*act)();
 };
 } // namespace
 
@@ -173,52 +173,51 @@ static void side_chosen(int side)
     FileSide_Refresh(side);
 }
 
-static int choose_device(int side)
+static void choose_device(int side)
 {
-    return FileSelect_Device(&memory_of(side).side, FILE_DRIVES_ALL, side_chosen, side);
+    (void)FileSelect_Device(&memory_of(side).side, FILE_DRIVES_ALL, side_chosen, side);
 }
-static int choose_dir(int side)
+static void choose_dir(int side)
 {
-    return FileSelect_Dir(&memory_of(side).side, side_chosen, side);
+    (void)FileSelect_Dir(&memory_of(side).side, side_chosen, side);
 }
-static int device_a_sel()
+static void device_a_sel()
 {
-    return choose_device(SIDE_A);
+    choose_device(SIDE_A);
 }
-static int device_b_sel()
+static void device_b_sel()
 {
-    return choose_device(SIDE_B);
+    choose_device(SIDE_B);
 }
-static int device_c_sel()
+static void device_c_sel()
 {
-    return choose_device(SIDE_C);
+    choose_device(SIDE_C);
 }
-static int dir_a_sel()
+static void dir_a_sel()
 {
-    return choose_dir(SIDE_A);
+    choose_dir(SIDE_A);
 }
-static int dir_b_sel()
+static void dir_b_sel()
 {
-    return choose_dir(SIDE_B);
+    choose_dir(SIDE_B);
 }
-static int dir_c_sel()
+static void dir_c_sel()
 {
-    return choose_dir(SIDE_C);
+    choose_dir(SIDE_C);
 }
 
-static int open_detail(int side)
+static void open_detail(int side)
 {
     visit().c = memory_of(side);
     GL_CreatePage = fd.kind->id + 1;
-    return 0;
 }
-static int detail_a_sel()
+static void detail_a_sel()
 {
-    return open_detail(SIDE_A);
+    open_detail(SIDE_A);
 }
-static int detail_b_sel()
+static void detail_b_sel()
 {
-    return open_detail(SIDE_B);
+    open_detail(SIDE_B);
 }
 
 // --- Transfers ---
@@ -274,7 +273,7 @@ static void dual_b2a_result(uint32_t label, int page)
     dual_result(label, page);
 }
 
-static int transfer_exec(int from, int to)
+static void transfer_exec(int from, int to)
 {
     Visits& v = visit();
     const int page = fd.kind->page;
@@ -282,7 +281,7 @@ static int transfer_exec(int from, int to)
     const bool is_load = FileSide_Where(to).device == FILE_REGISTER;
     const FILE_LIST_FUNC result = from == SIDE_A ? dual_a2b_result : dual_b2a_result;
     if (!v.list)
-        return -1;
+        return;
     (void)BkgdFileTransfer_Set(fd.kind->id, 1);
     int label = -1;
     if (fd.kind->way == FILEWAY_MACRO)
@@ -295,11 +294,10 @@ static int transfer_exec(int from, int to)
         label = File_TransSCPdirGetList(&v.list, result, page);
     else
         label = File_TransSCPdirPutList(&v.list, result, page);
-    if (label >= 0)
-        return 0;
-    (void)BkgdFileTransfer_Set(fd.kind->id, 0);
-    File_XferList_RemoveAll(&v.list);
-    return -1;
+    if (label < 0) {
+        (void)BkgdFileTransfer_Set(fd.kind->id, 0);
+        File_XferList_RemoveAll(&v.list);
+    }
 }
 
 static int path_of(int side, const FILEINFO& info, char (&path)[FILE_PATH_SIZE])
@@ -413,7 +411,7 @@ static Skipped gather(int from, int to)
 }
 
 // From one folder of the running system to another.
-static int move_selected(int from, int to)
+static void move_selected(int from, int to)
 {
     const int folder_id = FileSide_FolderId(to);
     for (int i = 0, no; (no = LS_GetSelected(list_of(from), i)) >= 0; i++) {
@@ -421,7 +419,6 @@ static int move_selected(int from, int to)
         if (row && row->cell && FileSide_InView(*row->cell))
             FMCtrl_MoveStill(DEV_MySwr[0], FMCtrl2_GetRegNameMulti(row->cell->no), folder_id);
     }
-    return 0;
 }
 
 static void tell_skipped(const Skipped& skipped)
@@ -438,55 +435,58 @@ static void tell_skipped(const Skipped& skipped)
                            "  - Loading that will cause duplicate\n    register name.");
 }
 
-static int transfer_sel(int from, int to, const char* lock_question)
+static void transfer_sel(int from, int to, const char* lock_question)
 {
     if (visit().list)
-        return -1; // the job of the page is still there
+        return; // the job of the page is still there
     if (!may_transfer(from, to))
-        return -1;
+        return;
     if (is_same_place(memory_of(from), memory_of(to)) &&
         (fd.kind->has_folders || first_row(from) == first_row(to)))
-        return -1;
-    if (is_register(from) && is_register(to))
-        return move_selected(from, to);
+        return;
+    if (is_register(from) && is_register(to)) {
+        move_selected(from, to);
+        return;
+    }
     const Skipped skipped = gather(from, to);
     visit().folder_id = FileSide_FolderId(to);
     tell_skipped(skipped);
-    if (!skipped.is_locked)
-        return transfer_exec(from, to);
+    if (!skipped.is_locked) {
+        transfer_exec(from, to);
+        return;
+    }
     fd.from = from;
     fd.to = to;
     fd.lock_pane = PaneYesNo_Create("Load", PANE_ALERT, lock_question);
-    return 0;
 }
 
-static int dual_a2b_sel()
+static void dual_a2b_sel()
 {
-    return transfer_sel(SIDE_A, SIDE_B,
-                        "There are some setup regions locked on\nMenu7317.2(File Load Lock).\n"
-                        "Locked setup regions are not loaded.\n\nAre you sure");
+    transfer_sel(SIDE_A, SIDE_B,
+                 "There are some setup regions locked on\nMenu7317.2(File Load Lock).\n"
+                 "Locked setup regions are not loaded.\n\nAre you sure");
 }
 
 // One line break less than the other way. That is meant: keep it.
-static int dual_b2a_sel()
+static void dual_b2a_sel()
 {
-    return transfer_sel(SIDE_B, SIDE_A,
-                        "There are some setup regions locked on\nMenu7317.2(File Load Lock).\n"
-                        "Locked setup regions are not loaded.\nAre you sure");
+    transfer_sel(SIDE_B, SIDE_A,
+                 "There are some setup regions locked on\nMenu7317.2(File Load Lock).\n"
+                 "Locked setup regions are not loaded.\nAre you sure");
 }
 
-static int lock_answer(int result)
+static void lock_answer(int result)
 {
     constexpr int YES = 1;
     if (result == YES)
-        return transfer_exec(fd.from, fd.to);
-    File_XferList_RemoveAll(&visit().list);
-    return 0;
+        transfer_exec(fd.from, fd.to);
+    else
+        File_XferList_RemoveAll(&visit().list);
 }
 
-static int patch_link_sel()
+static void patch_link_sel()
 {
-    return Net_SendCommandFormat("put " PATCH_LINK "#%s", Bool(!Same(fd.patch_link, "true")));
+    (void)Net_SendCommandFormat("put " PATCH_LINK "#%s", Bool(!Same(fd.patch_link, "true")));
 }
 
 // --- Rename and delete ---
@@ -597,33 +597,32 @@ static int single_rename_exec(const char* text)
     return File_ExecMoveList(&visit().list, single_result, fd.kind->page) < 0 ? -1 : 0;
 }
 
-static int single_rename_sel()
+static void single_rename_sel()
 {
     const FILELIST* const row = FileSide_Row(SIDE_C, first_row(SIDE_C));
     if (row && row->type == FILEROW_FOLDER)
-        return -1;
+        return;
     const FILECELL* const cell = row ? first_in_view(*row) : nullptr;
-    return CreateWindow(WINDOW_KEYBOARD, "Name",
-                        {.value = cell ? cell->name : "", // whole: a row may show less of it
-                         .input_max = FILE_NAME_SIZE - 1,
-                         .ok_text = single_rename_exec});
+    (void)CreateWindow(WINDOW_KEYBOARD, "Name",
+                       {.value = cell ? cell->name : "", // whole: a row may show less of it
+                        .input_max = FILE_NAME_SIZE - 1,
+                        .ok_text = single_rename_exec});
 }
 
-static int single_delete_sel()
+static void single_delete_sel()
 {
     if (visit().list)
-        return -1;
+        return;
     if (FileSide_Where(SIDE_C).device != FILE_REGISTER) {
         gather_files(nullptr);
         if (!visit().list)
-            return -1;
+            return;
     }
     fd.delete_pane = PaneYesNo_Create(
         "Delete", PANE_ALERT, "This operation will cause the data to be\ndeleted.\n\nContinue?");
-    return 0;
 }
 
-static int delete_answer(int result)
+static void delete_answer(int result)
 {
     constexpr int YES = 1;
     if (result != YES)
@@ -631,25 +630,24 @@ static int delete_answer(int result)
     else if (FileSide_Where(SIDE_C).device == FILE_REGISTER)
         single_delete_reg();
     else
-        return File_ExecRemoveList(&visit().list, single_result, fd.kind->page) < 0 ? -1 : 0;
-    return 0;
+        (void)File_ExecRemoveList(&visit().list, single_result, fd.kind->page);
 }
 
 // A row of the registers is a register, empty or not.
-static int edit_sel(FILEPAGE page, int (*edit)(int number))
+static void edit_sel(FILEPAGE page, int (*edit)(int number))
 {
     const bool is_macro = fd.kind->page == page && fd.is_detail;
     if (!is_macro || FileSide_Where(SIDE_C).device != FILE_REGISTER)
-        return -1;
-    return edit(std::max(first_row(SIDE_C), 0) + 1);
+        return;
+    (void)edit(std::max(first_row(SIDE_C), 0) + 1);
 }
-static int offline_edit_sel()
+static void offline_edit_sel()
 {
-    return edit_sel(FILEPAGE_MACRO, Macro_OfflineEdit);
+    edit_sel(FILEPAGE_MACRO, Macro_OfflineEdit);
 }
-static int menu_macro_edit_sel()
+static void menu_macro_edit_sel()
 {
-    return edit_sel(FILEPAGE_MENU_MACRO, MenuMacro_Edit);
+    edit_sel(FILEPAGE_MENU_MACRO, MenuMacro_Edit);
 }
 
 // --- Messages ---
@@ -680,7 +678,7 @@ static int button_pressed(const char* command)
         if (BkgdFileTransfer_Check(fd.kind->id))
             PaneMessage_Create("File", PANE_ALERT, FILE_INHIBITED);
         else
-            (void)touch.act(); // a refusal changes nothing
+            touch.act();
         return 0;
     }
     return 0;
@@ -692,10 +690,10 @@ static int pane_closed(int pane, int result)
         return 0;
     if (pane == fd.lock_pane) {
         fd.lock_pane = 0;
-        (void)lock_answer(result); // an empty list is no job
+        lock_answer(result); // an empty list is no job
     } else if (pane == fd.delete_pane) {
         fd.delete_pane = 0;
-        (void)delete_answer(result);
+        delete_answer(result);
     }
     return 0;
 }
