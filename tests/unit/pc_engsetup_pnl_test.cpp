@@ -287,13 +287,17 @@ TEST_F(PanelSetup, AColourIsOneOfNine)
         (void)Tell(line + "2");
         SelectRow(0);
         (void)Push(key);
-        SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 1, 4, 0, 0); // of somebody else
-        (void)Touch(487, 350);                                       // the last in three rows
+        (void)Touch(487, 350); // the last in three rows
         SendMessage(MSG_RELEASE, 487, 350, 0, 0);
         Pass(1000);
         EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " + line + "9"));
         (void)Tell(line + "9");
         (void)Choose(key, 0);
+        (void)Push(key);
+        const int pane = Pane_GetActiveID();
+        Pane_Quit(pane); // by "Cancel", which says nothing
+        SendMessage(LMSG_PANEQUIT, pane + 1, 4, 0, 0);
+        Pass(1000);
         EXPECT_THAT(Push(BTN_SETUP_EXECUTE), IsEmpty()) << "cancelled";
     }
 }
