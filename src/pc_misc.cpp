@@ -1,6 +1,5 @@
 #include "pc_misc.h"
 #include "a_bt.h"
-#include "a_hf.h"
 #include "overview.h"
 #include "page.h"
 #include "page_table/misc.h"
@@ -11,13 +10,12 @@ static_assert(std::size(misc_key_rates_4) == ME_COUNT);
 
 namespace
 {
-// A page that not every installation has; its tab and its key on the first page of the menu.
+// A page that not every installation has and its key on the first page of the menu.
 struct Option {
     uint32_t page;
-    int tab;
     int button;
 };
-constexpr Option options[] = {{0x32120000, 2, 18}, {0x32130000, 3, 19}};
+constexpr Option options[] = {{0x32120000, 18}, {0x32130000, 19}};
 constexpr int KEYS_4 = 4;
 } // namespace
 
@@ -26,14 +24,6 @@ static int misc_top_create(int on, uint32_t)
     for (const Option& o : options)
         if (on)
             BT_SetDisable(o.button, !SearchPageTable(o.page));
-    return !on;
-}
-
-static int misc_create(int on, uint32_t)
-{
-    for (const Option& o : options)
-        if (on)
-            (void)HF_SetDisplay(o.tab, SearchPageTable(o.page) != nullptr); // all pages have both
     return !on;
 }
 
@@ -52,19 +42,13 @@ static void show_rates_of(const MeBank& bank)
         NB_Create(misc_key_rates_4[bank.place], bank.caption);
 }
 
-static int misc_rate_create(int on, uint32_t var)
+static int misc_rate_create(int on, uint32_t)
 {
     for (const MeBank& bank : me_bank)
         if (on)
             show_rates_of(bank);
-    return misc_create(on, var);
+    return !on;
 }
 
 const PC_TBL pc_misc_top = {.create_func = misc_top_create};
-const PC_TBL pc_misc = {.create_func = misc_create};
-static int misc_side_flags_proc(int msg, MsgArg ax, MsgArg bx, MsgArg cx, MsgArg dx)
-{
-    return pc_pulldown.proc_func(msg, ax, bx, cx, dx);
-}
-const PC_TBL pc_misc_side_flags = {.proc_func = misc_side_flags_proc, .create_func = misc_create};
 const PC_TBL pc_misc_rate = {.create_func = misc_rate_create};

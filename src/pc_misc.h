@@ -7,6 +7,4 @@ constexpr int BTN_RATE_BANK = 17; // of the first bank, the others in me_bank's 
 constexpr int BTN_RATE_KEYS = 33;
 
 extern const PC_TBL pc_misc_top;
-extern const PC_TBL pc_misc;
-extern const PC_TBL pc_misc_side_flags;
 extern const PC_TBL pc_misc_rate;

@@ -227,23 +227,24 @@ inline constexpr BT_TBL bt_misc_top[] = {
 };
 static_assert(ButtonsAreSound(bt_misc_top));
 
-constexpr PAGE MiscTab(uint32_t id, const char* word, const BT_TBL* keys, const PC_TBL& code, const ST_TBL* cells = nullptr)
+constexpr PAGE MiscTab(uint32_t id, const char* word, const BT_TBL* keys, const ST_TBL* cells = nullptr)
 {
     PAGE page = {.id = id, .tree = {"Misc", word},
-                 .obj = {Base(base_main), BottomTabs(hf_misc, id >> 16 & 0xF), Buttons(keys), Boxes(NB_Non), Code(code)}};
+                 .obj = {Base(base_main), BottomTabs(hf_misc, id >> 16 & 0xF), Buttons(keys), Boxes(NB_Non)}};
     if (cells)
-        page.obj[5] = Cells(cells);
+        page.obj[4] = Cells(cells);
     return page;
 }
 inline constexpr PAGE misc_pages[] = {
     {.id = 0x32000000, .tree = {"Misc"}, .obj = {Base(base_main), Buttons(bt_misc_top), Code(pc_misc_top)}},
-    MiscTab(0x32110000, "Port", bt_misc_port, pc_misc),
-    MiscTab(0x32110100, "Port", bt_misc_port_dual, pc_misc),
-    MiscTab(0x32120000, "Panel", bt_misc_panel, pc_misc, st_misc_panel),
-    MiscTab(0x32130000, "Output", bt_misc_output, pc_misc, st_misc_output),
-    MiscTab(0x32140000, "Preview", bt_misc_preview, pc_misc, st_misc_preview),
-    MiscTab(0x32150000, "Side Flags", bt_misc_side_flags, pc_misc_side_flags, st_misc_side_flags),
+    MiscTab(0x32110000, "Port", bt_misc_port),
+    MiscTab(0x32110100, "Port", bt_misc_port_dual),
+    MiscTab(0x32120000, "Panel", bt_misc_panel, st_misc_panel),
+    MiscTab(0x32130000, "Output", bt_misc_output, st_misc_output),
+    MiscTab(0x32140000, "Preview", bt_misc_preview, st_misc_preview),
+    {.id = 0x32150000, .tree = {"Misc", "Side Flags"},
+     .obj = {Base(base_main), BottomTabs(hf_misc, 5), Buttons(bt_misc_side_flags), Boxes(NB_Non), Code(pc_pulldown), Cells(st_misc_side_flags)}},
     {.id = 0x32160000, .tree = {"Misc", "Rate"},
      .obj = {Base(base_main), BottomTabs(hf_misc, 6), Buttons(bt_misc_rate), Boxes(NB_Non), Cells(st_misc_rates), Code(pc_misc_rate)}},
-    MiscTab(0x32170000, "User", bt_misc_user, pc_misc),
+    MiscTab(0x32170000, "User", bt_misc_user),
 };
