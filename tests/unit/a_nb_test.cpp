@@ -124,10 +124,14 @@ TEST_F(KnobColumn, RowsComeAndGoByThemselvesAndLeaveTheirSlotsEmpty)
     EXPECT_EQ(PixelsIn(slot), empty);
     NB_AddTable(extra);
     NB_PushTable(twin);
+    EXPECT_EQ(PressTitle(), 1);
     Forget();
     // The other box of the path still needs the subscription.
     EXPECT_EQ(NB_PopTable(), 0);
-    EXPECT_THAT(TakeQueuedCommands(), testing::Not(Contains("remove M/E-1@Key1@Extra")));
+    const auto sent = TakeQueuedCommands();
+    EXPECT_THAT(sent, testing::Not(Contains("remove M/E-1@Key1@Extra")));
+    EXPECT_THAT(sent, Contains("assign Knob1#M/E-1@Key1@Extra"));
+    EXPECT_EQ(NB_GetLayer(), 0) << "the layer of the one that went has gone with it";
     EXPECT_EQ(NB_DeleteTable(1), 0);
     EXPECT_EQ(NB_DeleteTable(1), -1);
 }
