@@ -90,7 +90,7 @@ TEST_F(DirectoryPage, WhoeverWaitsForADriveIsToldOnce)
     const auto other = [](int tag) { told.push_back(-tag); };
     ListLocal();
     for (const auto& [done, tag] :
-         {std::pair<void (*)(int), int>{one, 7}, {one, 7}, {other, 7}, {one, 8}})
+         {std::pair<void (*)(int), int>{one, 7}, {other, 7}, {one, 7}, {one, 8}})
         EXPECT_EQ(File_DirRead(FILE_LOCAL, done, tag), 0);
     List(TakeQueuedCommands(), {"NEWS"});
     EXPECT_THAT(told, testing::UnorderedElementsAre(7, -7, 8));
