@@ -52,8 +52,11 @@ TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAllAndRefreshWaitsForTheUnits)
     const Display display;
     EXPECT_THAT(Rows(), ElementsAre("PNL1|Error|FAN-2 Control Function Error|20 h",
                                     "SWR1|Error|No Reference|"));
+    constexpr Rect STRIP = {100, 372, 697, 414};
+    const auto strip = PixelsIn(STRIP);
     TouchRow(1);
     Paint();
+    EXPECT_NE(PixelsIn(STRIP), strip);
     EXPECT_EQ(Display::Lacks(), "");
     Fan("NG,NG"); // above the current row
     EXPECT_EQ(Rows().size(), 3u);

@@ -244,6 +244,8 @@ TEST_F(PanelSetup, OtherTablesHaveTheirPaths)
         EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " + path + "@Delete#3"));
         EXPECT_THAT(Choose(BTN_XPT_DEFAULT, 1), ElementsAre("put " + path + "@Default#true"));
     }
+    (void)Open(0x73220010);
+    EXPECT_EQ(Cell(2, 0, 1), "Input 1");
     (void)Open(0x73230003);
     EXPECT_THAT(Push(50), ElementsAre("remove " RTR "Source Table@1", "add " RTR "Source Table@4"));
     EXPECT_EQ(Held(Leave(), RTR "Source Table@4"), -1);
@@ -269,12 +271,17 @@ TEST_F(PanelSetup, WhatIsPreparedGoesWithExecute)
 
 TEST_F(PanelSetup, ANameIsMadeFitAndExecuted)
 {
-    (void)Open(0x73220004);
-    TellSources();
-    SelectRow(1);
-    EXPECT_THAT(PushType(33, "b"), IsEmpty());
-    EXPECT_EQ(Row(1, 2), "2|CAM2b*");
-    EXPECT_THAT(Push(BTN_SETUP_EXECUTE), ElementsAre("put " XPT "Source@List#2,CAM2b"));
+    for (const int row : {0, 1}) {
+        (void)Open(0x73220004);
+        TellSources();
+        SelectRow(row);
+        EXPECT_THAT(PushType(33, "b"), IsEmpty());
+        const std::string n = std::to_string(row + 1), name = "CAM" + n + "b";
+        EXPECT_EQ(Row(row, 2), n + "|" + name + "*");
+        EXPECT_THAT(Push(BTN_SETUP_EXECUTE),
+                    ElementsAre("put " XPT "Source@List#" + n + "," + name));
+        (void)Tell(XPT "Source@List#" + n + "," + name);
+    }
 }
 
 TEST_F(PanelSetup, AColourIsOneOfNine)
