@@ -364,6 +364,19 @@ TEST_F(ClipXportPage, ExportTakesEachFrameOfTheSelectedClips)
                     "CS1 store:NEWS/A/one.SFH > stick:SYSTEM/one.PNG 0/1"));
 }
 
+TEST_F(ClipXportPage, AJobTakes12000FramesAndSaysThatThereAreMore)
+{
+    Clip("NEWS/A/long", 11998); // behind the two of "deep"
+    Clip("NEWS/A/one", 1);
+    (void)FL_ChangeDirectory(FL_L_LIST, "/NEWS/A");
+    (void)ShownClips();
+    Select(1, {0, 1, 2});
+    Press(BTN_XPORT_EXPORT);
+    EXPECT_EQ(Items(FILEWORK_RMTACCESS_SCPEXPORTLIST).size(), 12000u);
+    Pane_Quit(Pane_GetActiveID());
+    EXPECT_THAT(Message(), HasSubstr("too many frames"));
+}
+
 TEST_F(ClipXportPage, AnImportGoesIntoTheShownFolderAndReplacesNothing)
 {
     TouchClip(0); // the notice of an empty list
