@@ -151,10 +151,12 @@ TEST_F(Registers, TwoLinksMakeFourGroupsOfChannelsAndAHundredNumbersEach)
 {
     static const std::tuple<const char*, int, int> cases[] = {
         {"DME1", 0, 0}, {"DME4", 0, 1}, {"DME5", 1, 2}, {"DME8", 1, 3}};
+    const int used = UsedMemPtr;
     for (const bool dual : {false, true}) {
         DualLink(dual);
         for (const auto& [region, one, two] : cases) {
             Register_Free();
+            EXPECT_EQ(UsedMemPtr, used);
             Deliver(EFFECT + region, "301,D,x,U,N,0");
             EXPECT_THAT(Told(), ElementsAre(Place{3, dual ? two : one, 0})) << region;
         }
