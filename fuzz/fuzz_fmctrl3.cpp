@@ -74,8 +74,9 @@ static void TakeLine(const std::string& head, const std::string& row)
         return;
     const std::string verb = head.substr(0, blank);
     const std::string table = head.substr(blank + 1);
-    for (const auto take : {FMCtrl3_Proc, clipstore_proc})
-        (void)take(MSG_SHPTALLY, Arg(verb.c_str()), Arg(table.c_str()), 0, Arg(row.c_str()));
+    const MsgArg words[] = {Arg(verb.c_str()), Arg(table.c_str()), Arg(row.c_str())};
+    (void)FMCtrl3_Proc(MSG_SHPTALLY, words[0], words[1], 0, words[2]);
+    clipstore_proc(MSG_SHPTALLY, words[0], words[1], 0, words[2]);
     char sent[CMD_SIZE];
     while (Net_TakeQueued(sent, sizeof sent) || Net_TakeQueuedSHP(sent, sizeof sent)) {
     }
