@@ -215,7 +215,6 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
 TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
 {
     OpenPage(RECORD);
-    TellAll(TREE, {"Record@Freeze/Rec Name@PROC1#0,/img0000.SFH", "Record@Rec Len@PROC1#0,300"});
     Clip("img0000", 5);
     TellAll(TREE + "Record@", {"Rec Len@PROC1#0,300", "Freeze/Rec Name@PROC1#0,/img0000.SFH"});
     EXPECT_THAT(Press(BTN_FMEM_REC), ElementsAre(PUT + "Record@Freeze/Rec Name@FM1#0,/img0001.SFH",

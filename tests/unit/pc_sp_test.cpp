@@ -73,9 +73,6 @@ TEST_F(SpPage, TheStripShowsTheChosenChannel)
 TEST_F(SpPage, APeakFallsAfterAWhileUnlessItIsHeld)
 {
     (void)Open(METER);
-    if (BT_GetStatus(KEY_HOLD) == BT_ON) // another visit's
-        (void)Press(KEY_HOLD);
-    Pass(200);
     for (const bool is_held : {true, false}) {
         while ((BT_GetStatus(KEY_HOLD) == BT_ON) != is_held)
             (void)Press(KEY_HOLD);

@@ -324,7 +324,7 @@ TEST_F(SaverPictures, OnePictureFadesIntoTheNextThroughTheDarkOrThroughBoth)
         bool was_dark = false, was_mixed = false, was_held = true;
         for (int pass = 0; pass < 2000 && Middle() != BLUE; pass++) {
             ScreenSaver(10);
-            was_held = pass > 90 || Middle() == RED;
+            was_held &= pass > 90 || Middle() == RED;
             was_dark |= Middle() == 0;
             was_mixed |= (Middle() >> 16) > 8 && (Middle() & 0xFF) > 8;
         }
