@@ -183,7 +183,8 @@ TEST_F(ClipStore, ChangesAreToldToFrameMemoryPagesAlone)
     EXPECT_STREQ(x.create_time, "2027 Feb.01 10:11");
     for (const auto& [time, shown] : {std::pair{"2027-12-31 00:00:00", "2027 Dec.31 00:00"},
                                       {"2027-13-31 00:00:00", ""},
-                                      {"2027-00-31 00:00:00", ""}}) {
+                                      {"2027-00-31 00:00:00", ""},
+                                      {"2027-12-31", ""}}) {
         Hub("Notify", "ClipStoreFile", std::string("root/A/x.SFH:timestamp:") + time);
         EXPECT_STREQ(x.create_time, shown) << time;
     }

@@ -247,10 +247,11 @@ TEST_F(FileAllPage, ALoadSearchesWhatIsSelectedAndLeavesOutWhatIsLocked)
 // The old one must neither go last and win nor make a copy on which nothing tells them apart.
 TEST_F(FileAllPage, OfARegisterSavedUnderSeveralNamesTheNewestIsTaken)
 {
-    const std::string day = ",Wed Nov 25 10:30:00 2026", eve = ",Tue Dec 30 23:59:00 2025";
+    const std::string day = ",Wed Nov 25 10:30:00 2026", eve = ",Tue Dec 30 23:59:00 2025",
+                      week = ",Wed Nov 18 10:30:00 2026";
     files[ROOT + "SNAPSHOT/"] = {
         "SWR000D001/ME1/OLD.ME1_007.SSS" + eve,  "SWR001D001/ME1/NEW.ME1_007.SSS" + day,
-        "SWR000D001/ME1/NEWS.ME1_008.SSS" + day, "SWR000D001/ME1/OLDER.ME1_007.SSS" + eve,
+        "SWR000D001/ME1/NEWS.ME1_008.SSS" + day, "SWR000D001/ME1/OLDER.ME1_007.SSS" + week,
         "SWR000D001/ME2/OLD.ME2_007.SSS" + eve,  "SWR000D001/ME1/LAST.ME1_008.SSS" + day};
     Select({"SNAPSHOT"});
     (void)Load();

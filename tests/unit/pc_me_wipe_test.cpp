@@ -109,9 +109,9 @@ TEST_F(MeWipe, TheModifiersOfAPatternAreThoseThatItHas)
     }
     // and the next pattern gives back what the last one lacked
     Tell("M/E-3@Wipe@Main Pattern@Pattern#300");
-    EXPECT_THAT(Usable({17, 33, 49}), IsEmpty());
+    EXPECT_THAT(Usable({17, 33, 38, 49}), IsEmpty());
     Tell("M/E-3@Wipe@Main Pattern@Pattern#33");
-    EXPECT_EQ(Usable({17, 33, 49}).size(), 3u);
+    EXPECT_EQ(Usable({17, 33, 38, 49}).size(), 4u);
 }
 
 // --- Edge and direction ---
