@@ -2,6 +2,7 @@
 #include "pane_private.h"
 #include <cstring>
 #include <set>
+#include <span>
 
 struct Regions : PanePage {
     static void Select(int grp, std::initializer_list<std::pair<int, int>> cells)
@@ -134,6 +135,13 @@ TEST_F(Regions, CellsOfUnitsAreNamedAfterThemAndFilesHaveTheWordOfTheirRegion)
         EXPECT_STREQ(PaneRegion_GetGrpFIRegion_DualProc(grp, main, sub), dual);
         EXPECT_STREQ(PaneRegion_GetGrpFIExt(grp, main, sub), ext) << grp << " " << id;
     }
+    // No number stands for two regions of a row.
+    for (const REGIONBTN& group : RegionBtn)
+        for (const REGIONGRP& row : std::span(group.regiongrp, REGION_GRP_ROWS)) {
+            const int* const end = std::find(row.id, std::end(row.id), 0);
+            EXPECT_EQ(std::set<int>(row.id, end).size(), size_t(end - row.id))
+                << group.no << " " << (row.name ? row.name : "");
+        }
 }
 
 TEST_F(Regions, WithoutASwitcherTheFirstChannelLeadsAndAUnitComesBackAsTheReference)
