@@ -157,12 +157,16 @@ TEST_F(SelfDiag, ARefreshAsksTheUnitsOfThisPanel)
     Report(SWR "Fan Speed", "SWR1,OK");
     Report(DME "Fan Speed", "DME1,OK");
     Report(PNL "Fan Speed", "DCU2,OK");
+    EXPECT_EQ(SelfDiag_MPE_Tally("MPE1", "0,3"), 0);
+    const std::string mismatch = "Reference Error (Format Mismatch)";
+    EXPECT_NE(Item(mismatch), nullptr);
     for (const int unit : {0, 4})
         EXPECT_STREQ(GL_Fan[unit][0], "OK");
     SelfDiag_Refresh_All();
     for (const int unit : {0, 4})
         EXPECT_STREQ(GL_Fan[unit][0], "NG");
-    EXPECT_EQ(Item("FAN-1 Speed OK"), nullptr) << "of none of them";
+    for (const std::string& text : {std::string("FAN-1 Speed OK"), mismatch})
+        EXPECT_EQ(Item(text), nullptr) << "of none of them";
     EXPECT_THAT(TakeQueuedCommands(),
                 ElementsAre("put Info@Self Diagnosis Notice@SWR1#true",
                             "put Info@Self Diagnosis Notice@DME1#true",
