@@ -10,7 +10,7 @@ static_assert(std::size(misc_key_rates_4) == ME_COUNT);
 
 namespace
 {
-// A page that not every installation has and its key on the first page of the menu.
+// A page that not every installation has, and its key on the first page of the menu.
 struct Option {
     uint32_t page;
     int button;
