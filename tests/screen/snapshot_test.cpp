@@ -1,6 +1,6 @@
 // The snapshot pages with registers of every state: the attributes, the overview, the hold of a
 // bank, two lists, a master that is edited.
-#include "fmctrl3.h"
+#include "clip_store.h"
 #include "pc_snapshot.h"
 #include "register_page.h"
 
@@ -55,12 +55,10 @@ TEST_F(SnapshotPictures, AttributesOverviewHoldListsAndMaster)
 
 TEST_F(SnapshotPictures, ClipsOfAUser)
 {
-    const auto hub = [](const char* table, const char* row) {
-        SendMessage(MSG_SHPTALLY, Arg("Insert"), Arg(table), 0, Arg(row));
-    };
-    hub("CS1.ClipStoreFolder", "root/NEWS:1");
-    hub("CS1.ClipStoreFile", "root/OPENING.SFH:100, 0, 0, 3, 2026-11-25 09:20:00, 3, 1");
-    hub("CS1.ClipStoreFile", "root/NEWS/LOGO KEY.SFH:1, 1, 0, 3, 2026-11-25 09:20:00, 3, 1");
+    using Store = ClipStoreTest<RegisterDesk>;
+    Store::Folder("NEWS");
+    Store::Clip("OPENING", 100, 1);
+    Store::Clip("NEWS/LOGO KEY", 1, 1, Store::TIME, 1);
     Choose(REGKIND_SNAPSHOT, {272});
     TellAll("Snapshot@Snapshot@Clip Event@User1@List#",
             {"FM1,1,ON,OFF,ON,/OPENING.SFH,10,85", "FM2,1,ON,ON,OFF,LOGO KEY,0,0"});
