@@ -35,15 +35,18 @@ static void CheckCommand(const std::string& line)
     Check(output >= 1 && output <= 20, line);
 }
 
-// "Execute#CS1.ClipStoreFile:Delete root/..."
+// "Execute#CS1.ClipStoreFile:Delete root/...": something is named below the root, and not by the
+// way up again.
 static void CheckRequest(const std::string& line)
 {
     if (!line.starts_with("Execute#"))
         return;
-    const size_t path = line.find(" root/");
-    Check(path != std::string::npos && path + 6 < line.size() && line[path + 6] != '.' &&
-              line[path + 6] != '/' && line[path + 6] != ' ',
-          line);
+    constexpr char ROOT[] = " root/";
+    const size_t path = line.find(ROOT);
+    Check(path != std::string::npos, line);
+    std::string name = line.substr(path + strlen(ROOT));
+    name = name.substr(0, name.find('/'));
+    Check(name.find_first_not_of(". ") != std::string::npos, line);
 }
 
 static void TakeCommands()

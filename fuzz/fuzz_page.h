@@ -18,7 +18,7 @@ inline void Check(bool ok, const std::string& what)
 {
     if (ok)
         return;
-    fprintf(stderr, "%s\n", what.c_str());
+    fprintf(stderr, "must not be: %s\n", what.c_str());
     abort();
 }
 

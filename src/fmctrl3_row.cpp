@@ -38,7 +38,8 @@ void convert_create_time_format(const char* text, char* dst, size_t size)
         (void)snprintf(dst, size, "%s %s.%s %s", year, Month_Name(number), day, time);
 }
 
-// The path's last word is the name; false when there are too many words, or one is too long.
+// The path's last word is the name; false when there are too many words, or one is too long, or is
+// nothing but dots and blanks: that may be the folder itself, or the one above.
 static bool read_path(const char* path, ELEMENT* e)
 {
     constexpr int WORDS = ELEMENT_DEPTH + 2; // the root and the name
@@ -47,7 +48,7 @@ static bool read_path(const char* path, ELEMENT* e)
         const size_t length = strcspn(word, "/");
         const bool is_last = word[length] == '\0';
         const size_t room = is_last ? ELEMENT_NAME_SIZE : ELEMENT_FOLDER_SIZE;
-        if (length == 0 || length >= room)
+        if (strspn(word, ". ") >= length || length >= room)
             return false;
         if (n == 0 &&
             (is_last || length != strlen(ELEMENT_ROOT) || !BeginsWith(word, ELEMENT_ROOT)))
