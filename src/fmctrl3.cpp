@@ -241,13 +241,13 @@ int FMCtrl3_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
 
 void FMCtrl3_Init()
 {
-    clip_thumbnails_forget_all();
+    clip_thumbnails_end();
     clip_tree_init();
 }
 
 void FMCtrl3_Finalize()
 {
-    clip_thumbnails_forget_all();
+    clip_thumbnails_end();
     clip_tree_free();
 }
 

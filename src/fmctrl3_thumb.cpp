@@ -1,6 +1,7 @@
 // Thumbnails of the clip store: files on the local drive, one a frame, fetched from the switcher.
 // Two queues of elements wait: for their middle frame, and for all others. What is on the drive
-// already is found out when an element's turn comes, a few files a pass.
+// already is found out when an element's turn comes, a few files a pass; and the files of a long
+// clip go so, too.
 #include "bus.h"
 #include "device.h"
 #include "file.h"
@@ -18,6 +19,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <deque>
 #include <dirent.h>
 #include <fcntl.h>
 #include <numeric>
@@ -30,7 +32,9 @@
 constexpr int FETCHES_MAX = 30; // at once: the server's file link is slow
 constexpr int RETRIES = 5;
 constexpr int LOOKS_A_PASS = 128;   // files
-constexpr int FRAMES_BY_NAME = 128; // of a clip that has no more, each name is tried
+constexpr int FRAMES_BY_NAME = 128; // of a clip that has no more, each name is tried at once
+constexpr int REMOVED_A_PASS = 32;
+constexpr int NAMES_A_PASS = 512;   // of the folder
 constexpr int QUIET_MS = 5000;      // without a new element: the tree has been told
 constexpr time_t FRESH_S = 3;       // what came so shortly before a trim was told may come after it
 constexpr long SMALL_BYTES = 6966;  // 64 x 36
@@ -60,6 +64,10 @@ struct Queue {
     CLIP_NODE* first = nullptr;
     CLIP_NODE* last = nullptr;
 };
+struct Removal {
+    ELEMENT of;
+    DIR* folder = nullptr; // null: not begun
+};
 } // namespace
 
 static struct {
@@ -71,6 +79,7 @@ static struct {
 } th;
 
 static int ThumbGetting = 0; // in flight
+static std::deque<Removal> removals;
 
 // --- Names ---
 
@@ -141,6 +150,15 @@ static void remove_frame(const ELEMENT& e, int frame)
     (void)unlink(path); // it may not be there
 }
 
+// Of which frame of a clip with this name a file is; -1: of none.
+static int frame_of_file(const char* file, const char* name_of_first)
+{
+    const size_t head = strcspn(name_of_first, "#") + strlen("#");
+    if (strncmp(file, name_of_first, head) != 0 || strlen(file) != strlen(name_of_first))
+        return -1;
+    return int(strtol(file + head, nullptr, 10));
+}
+
 // The frames that may have a file, in their order. A long clip has far more names than files, and
 // to ask for each of them would hold up the screen: its files are looked for in the folder.
 static std::vector<int> frames_to_try(const ELEMENT& e)
@@ -155,13 +173,9 @@ static std::vector<int> frames_to_try(const ELEMENT& e)
     char name[NAME_SIZE];
     local_path(folder, "");
     local_name(name, e, 0);
-    const size_t head = strcspn(name, "#") + strlen("#");
-    const size_t length = strlen(name);
     DIR* const dir = opendir(folder);
     for (const dirent* entry = nullptr; dir && (entry = readdir(dir));) {
-        if (strncmp(entry->d_name, name, head) != 0 || strlen(entry->d_name) != length)
-            continue;
-        const int frame = int(strtol(entry->d_name + head, nullptr, 10));
+        const int frame = frame_of_file(entry->d_name, name);
         if (frame >= 0 && frame < e.duration)
             frames.push_back(frame);
     }
@@ -169,12 +183,6 @@ static std::vector<int> frames_to_try(const ELEMENT& e)
         (void)closedir(dir);
     std::sort(frames.begin(), frames.end());
     return frames;
-}
-
-static void remove_frames(const ELEMENT& e)
-{
-    for (const int frame : frames_to_try(e))
-        remove_frame(e, frame);
 }
 
 // --- What the files are of ---
@@ -224,12 +232,29 @@ static bool write_note(const ELEMENT& e)
 }
 
 // The note goes last: what is broken off here is found again.
-static void remove_all(const ELEMENT& e)
+static void remove_note(const ELEMENT& e)
 {
     char path[PATH_SIZE];
-    remove_frames(e);
     path_of_note(path, e);
     (void)unlink(path); // there may be none
+}
+
+static bool is_being_removed(const ELEMENT& e)
+{
+    return std::any_of(removals.begin(), removals.end(),
+                       [&](const Removal& r) { return Same(r.of.full_name, e.full_name); });
+}
+
+static void remove_all(const ELEMENT& e)
+{
+    if (e.duration > FRAMES_BY_NAME) {
+        if (!is_being_removed(e))
+            removals.push_back({.of = e});
+        return;
+    }
+    for (int frame = 0; frame < e.duration; frame++)
+        remove_frame(e, frame);
+    remove_note(e);
 }
 
 // True when the files may stay and the note says so. Files without a note are left: they are from
@@ -246,7 +271,7 @@ static bool drop_what_is_of_another(const ELEMENT& e)
     Log_Output(LOG_LINK, MOD_CLIP, "thumbnails of %s are of another clip: %s", e.full_name, is);
     ELEMENT before = e;
     before.duration = int(NumberIn(is, 0, ELEMENT_FRAMES_MAX));
-    remove_frames(before);
+    remove_all(before);
     remove_all(e);
     return false;
 }
@@ -260,7 +285,7 @@ void clip_thumbnails_remove(const ELEMENT& e)
 void clip_thumbnails_same(const ELEMENT& e)
 {
     char is[NOTE_SIZE];
-    if (e.type == ELEMENT_TYPE_FILE && DEV_MySwr[0] && read_note(e, is))
+    if (e.type == ELEMENT_TYPE_FILE && DEV_MySwr[0] && !is_being_removed(e) && read_note(e, is))
         (void)write_note(e); // at the worst they are fetched once more
 }
 
@@ -272,7 +297,7 @@ bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
     if (!e.thumbnail || !DEV_MySwr[0])
         return true;
     char note[NOTE_SIZE];
-    if (!has_frame(e, first) || (!read_note(e, note) && !write_note(e)))
+    if (is_being_removed(e) || !has_frame(e, first) || (!read_note(e, note) && !write_note(e)))
         return false;
     ELEMENT kept = e;
     kept.duration = last - first + 1;
@@ -292,7 +317,8 @@ bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
 
 SDL_Surface* FMCtrl3_GetThumbnail(const ELEMENT* element, int frame)
 {
-    if (!element || element->type != ELEMENT_TYPE_FILE || frame < 0 || frame >= element->duration)
+    if (!element || element->type != ELEMENT_TYPE_FILE || frame < 0 || frame >= element->duration ||
+        is_being_removed(*element))
         return nullptr;
     char path[PATH_SIZE];
     path_of_frame(path, *element, frame);
@@ -532,8 +558,9 @@ void clip_thumbnails_want(CLIP_NODE* node)
     const ELEMENT& e = node->list.element;
     if (e.type != ELEMENT_TYPE_FILE || e.thumbnail != 1 || !DEV_MySwr[0])
         return;
-    node->has_note = drop_what_is_of_another(e);
-    if (e.duration < 1)
+    if (!is_being_removed(e))
+        node->has_note = drop_what_is_of_another(e);
+    if (e.duration < 1 || is_being_removed(e)) // it is wanted again when they have gone
         return;
     node->next_frame = 0;
     queue_append(WANTED_MID, node);
@@ -552,6 +579,48 @@ void clip_thumbnails_forget(CLIP_NODE* node)
             th.task[i].node = nullptr;
 }
 
+// --- Removing by and by ---
+
+// Some files of it. True at the end.
+static bool remove_some(Removal& r)
+{
+    if (!r.folder) {
+        char path[PATH_SIZE];
+        local_path(path, "");
+        r.folder = opendir(path);
+    }
+    char name[NAME_SIZE];
+    local_name(name, r.of, 0);
+    for (int names = 0, removed = 0; names < NAMES_A_PASS && removed < REMOVED_A_PASS; names++) {
+        const dirent* const entry = r.folder ? readdir(r.folder) : nullptr;
+        if (!entry)
+            return true;
+        if (frame_of_file(entry->d_name, name) < 0)
+            continue;
+        (void)unlinkat(dirfd(r.folder), entry->d_name, 0); // the next start finds what stays
+        removed++;
+    }
+    return false;
+}
+
+static void removal_end(const Removal& r)
+{
+    if (r.folder)
+        (void)closedir(r.folder);
+    removals.pop_front();
+}
+
+static void removal_pass()
+{
+    if (removals.empty() || !remove_some(removals.front()))
+        return;
+    const ELEMENT of = removals.front().of;
+    remove_note(of);
+    removal_end(removals.front());
+    if (CLIP_NODE* const node = clip_tree_find(of.full_name, ELEMENT_TYPE_FILE))
+        clip_thumbnails_want(node);
+}
+
 void clip_thumbnails_forget_all()
 {
     for (int i = 0; i < ThumbGetting; i++)
@@ -559,6 +628,13 @@ void clip_thumbnails_forget_all()
     end_cleanup();
     th = {.has_cleaned = th.has_cleaned};
     ThumbGetting = 0;
+}
+
+void clip_thumbnails_end()
+{
+    clip_thumbnails_forget_all();
+    while (!removals.empty())
+        removal_end(removals.front());
 }
 
 static void tell_received(const CLIP_NODE* node, int frame)
@@ -609,6 +685,7 @@ static void thumbnail_getted(uint32_t label, int, const char* reply)
 
 void clip_thumbnails_pass(int elapsed_ms)
 {
+    removal_pass();
     if (ThumbGetting > 0)
         return;
     cleanup_pass(elapsed_ms);

@@ -373,10 +373,32 @@ TEST_F(ClipStore, ATrimRenumbersTheThumbnailsThatAreThere)
     EXPECT_THAT(Files(), ElementsAre("a.SFH#000000.THM", "a.SFH#000001.THM", "a.SFH#000002.THM",
                                      "a2.SFH#000300.THM"));
     EXPECT_EQ(fs::file_size(FM_FOLDER + std::string("a.SFH#000002.THM")), 21222u);
-    (void)Changes(); // while their clip is there
-    Hub("Delete", "ClipStoreFile", "root/a.SFH");
-    EXPECT_THAT(Files(), ElementsAre("a2.SFH#000300.THM"));
     EXPECT_LT(clock() - begun, CLOCKS_PER_SEC / 20) << "not every name there may be is tried";
+}
+
+TEST_F(ClipStore, ThumbnailsOfALongClipGoByAndByAndANewOneOfItsNameWaits)
+{
+    for (int i = 0; i < 100; i++)
+        Put("a.b.SFH#" + std::to_string(100000 + i * 7) + ".THM", 6966);
+    Put("a.b2.SFH#000300.THM", 6966);
+    PutText(NOTE, "200002 2026 Jan.31 23:59");
+    Folder("a");
+    Clip("a/b", 200002, 1);
+    const auto passes = [](int n) {
+        for (; n > 0; n--)
+            SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    };
+    (void)Changes(); // while its clip is there
+    Hub("Delete", "ClipStoreFile", "root/a/b.SFH");
+    EXPECT_EQ(Files().size(), 101u);
+    passes(2);
+    EXPECT_EQ(Files().size(), 101u - 64u);
+    Clip("a/b", 200, 1); // another one
+    EXPECT_THAT(Gets(), IsEmpty());
+    passes(3);
+    EXPECT_THAT(Files(), ElementsAre("a.b2.SFH#000300.THM"));
+    EXPECT_EQ(Remotes(Gets()).front(), "a/b.SFH#000099.THM");
+    EXPECT_EQ(Note(), "200 2026 Jan.31 23:59");
 }
 
 TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnewByTheirNote)
