@@ -13,7 +13,6 @@
 extern const PC_TBL pc_engsetup_switcher_config;
 extern const PC_TBL pc_engsetup_switcher_config_pgm;
 extern const PC_TBL pc_engsetup_switcher_config_user;
-enum : int { BTN_SWR_DMECONFIG = 51 }; // leads to a page that not every installation has
 
 void EngSetupSwitcher_Reset(); // as at process start; for tests
 

@@ -30,16 +30,7 @@ static constexpr SETUPCHOICE me_choices[] = {{LOCAL_CONFIG "M/E Config", 0}};
 static constexpr SETUPTABLE me_page = SwrTable(me_rows, SwrWords<swr_banks>, me_fields, me_choices,
                                                {.question = swr_on_air_question});
 
-static int pc_engsetup_switcher_config_create(int on, uint32_t)
-{
-    (void)SetupPage_CreateOf<me_page>(on, 0);
-    constexpr uint32_t dme_config = 0x73310015;
-    if (on)
-        (void)BT_SetDisable(BTN_SWR_DMECONFIG, !SearchPageTable(dme_config));
-    return !on;
-}
-const PC_TBL pc_engsetup_switcher_config = {.proc_func = SetupPage_ProcOf<me_page>,
-                                            .create_func = pc_engsetup_switcher_config_create};
+const PC_TBL pc_engsetup_switcher_config = SetupPage_Code<me_page>;
 
 // --- The outputs of a bank that runs two programs: their side, and the keys in them ---
 

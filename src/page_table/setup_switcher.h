@@ -55,7 +55,7 @@ inline constexpr BT_TBL bt_engsetup_switcher_config[] = {
     Jump( {.id = 38, .caption = "CG\nBorder", .cmd = {"#73310008"}}),
     Jump( {.id = 49, .caption = "Key PVW", .cmd = {"#73310009"}}),
     Jump( {.id = 50, .caption = "3D\nConfig", .cmd = {"#73310010"}}),
-    Jump( {.id = BTN_SWR_DMECONFIG, .caption = "DME\nConfig", .cmd = {"#73310015"}}),
+    Jump( {.id = 51, .caption = "DME\nConfig", .cmd = {"#73310015"}}),
     SWR_CLEAR_EXECUTE,
     BT_END,
 };
