@@ -274,14 +274,11 @@ static void remove_cell(int index, int n)
 {
     FM2_FILE_LIST& list = ff.area[index].file_list;
     const bool was_selected = list.selected_idx == n;
-    const bool was_checked = list.cell[n]->select;
     ff_list_remove(list, n);
     set_top(index, ff.area[index].top);
     tell_list(index);
     if (was_selected)
         SendMessage(LMSG_FFSELCHANGE, index, 0, 0, 0);
-    if (was_checked)
-        SendMessage(LMSG_FFCHKCHNAGE, index, 0, 0, 0);
 }
 
 static void element_changed(int index, const ELEMENT& e)

@@ -92,7 +92,8 @@ int FF_ConvPosForWheel(int* x, int* y, int button);
 
 // --- For page code: index is the number of an area, from 0 ---
 // What changes is told with that number: LMSG_FFCRNTCHANGE another folder, LMSG_FFSELCHANGE another
-// selection, LMSG_FFCHKCHNAGE a check, LMSG_FFLISTCHANGE (and the count) an element came or went.
+// selection, LMSG_FFCHKCHNAGE a check, LMSG_FFLISTCHANGE (and the count) an element came, or went
+// with its check.
 
 const char* FF_GetCurrentPath(int index); // "/root/NEWS"; "" for an area that the page has not
 int FF_GetNBMax(int index);               // rows that the grid can be moved by, for a knob

@@ -84,8 +84,7 @@ bool ff_list_insert(FM2_FILE_LIST& list, const ELEMENT& e)
 
 void ff_drop_surface(FM2_FILE& cell)
 {
-    if (cell.surface)
-        SDL_FreeSurface(cell.surface);
+    SDL_FreeSurface(cell.surface);
     cell.surface = nullptr;
     cell.is_looked_for = false;
 }

@@ -164,10 +164,8 @@ TEST_F(FileFolder, FindsFromThereRoundTheEnds)
 
 TEST_F(FileFolder, ChecksAndLoadsWhatIsChecked)
 {
-    EXPECT_TRUE(BT_GetVisible(BTN_FMEM_LOAD) == BT_DISABLED);
     Key(FF_KEY_SELECT);
     Cell(2);
-    EXPECT_TRUE(BT_GetVisible(BTN_FMEM_LOAD) == BT_ENABLED);
     Hub("Delete", "ClipStoreFile", "root/OPENING.SFH");
     EXPECT_TRUE(BT_GetVisible(BTN_FMEM_LOAD) == BT_DISABLED) << "it was the only one";
     Clip("OPENING", 100, 1);
