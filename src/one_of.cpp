@@ -122,7 +122,7 @@ static void fill_signals(const ONEOF& t)
 
 const char* OneOf_Name(const ONEOF& t)
 {
-    return t.state->count > 0 ? t.state->name[t.state->cursor] : "";
+    return t.state->name[t.state->cursor];
 }
 
 const char* OneOf_Cell(const ONEOF& t, int row, int column)

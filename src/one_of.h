@@ -51,7 +51,7 @@ void OneOf_Open(const ONEOF& t);
 void OneOf_Close(const ONEOF& t);
 // Tallies, both lists, renamed signals. Non-zero when the message was one of its own.
 int OneOf_Proc(const ONEOF& t, int msg, MsgArg ax, MsgArg bx);
-// The name in the tree; "" without rows.
+// The name in the tree. Only for a page that has rows.
 const char* OneOf_Name(const ONEOF& t);
 const char* OneOf_Cell(const ONEOF& t, int row, int column); // "" for what is not there
 void OneOf_Choose(const ONEOF& t, int row);                  // out of range: nothing
