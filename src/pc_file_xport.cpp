@@ -63,11 +63,12 @@ struct Visit {
     int folder_id = 0;            // of the newer frame memory: where its images go
 };
 
-// What was left out of an import.
+// What was left out of a job.
 struct Skipped {
     bool is_work_area = false;
     bool is_duplicate = false;
     bool is_full = false;
+    int frames = 0; // of the clips that were not
 };
 
 // The registers that an import may take, and the names that it gives.
@@ -806,6 +807,15 @@ static int selected_clip(int id, int n, FF_OBJECT* clip)
            FL_GetFoundObject(id, full_name, OBJECT_TYPE_FILE, clip) != 0;
 }
 
+// Of a job that is put together: whether it can have that many frames more.
+static bool has_room(Skipped& job, int frames)
+{
+    const bool is_full = job.frames + frames > EXPORT_MAX;
+    job.is_full |= is_full;
+    job.frames += is_full ? 0 : frames;
+    return !is_full;
+}
+
 static bool is_on_side(int id, const char* name)
 {
     char full_name[FL_PATH_SIZE];
@@ -864,17 +874,13 @@ static Skipped gather_clip_export(const char* folder)
 {
     Skipped skipped;
     FF_OBJECT clip;
-    int frames = 0;
     for (int i = 0, result; (result = selected_clip(FL_L_LIST, i, &clip)) >= 0; i++) {
         const int more = std::max(1, clip.frame);
         if (result != 0)
             continue;
         if (is_sfh() && is_on_side(FL_R_LIST, clip.name)) {
             skipped.is_duplicate = true; // frames of both would be one clip
-        } else if (frames + more > EXPORT_MAX) {
-            skipped.is_full = true;
-        } else {
-            frames += more;
+        } else if (has_room(skipped, more)) {
             if (is_sfh())
                 make_clip_folder(clip.name, more);
             add_clip_export(clip.name, more, folder);
@@ -903,7 +909,6 @@ static Skipped gather_sfh_import()
 {
     Skipped skipped;
     FF_OBJECT clip;
-    int frames = 0;
     for (int i = 0, result; (result = selected_clip(FL_R_LIST, i, &clip)) >= 0; i++) {
         char path[PATH_SIZE];
         if (result != 0 || !clip_place(path, clip.name))
@@ -911,10 +916,7 @@ static Skipped gather_sfh_import()
         const int more = std::max(1, clip.frame);
         if (is_on_side(FL_L_LIST, clip.name)) {
             skipped.is_duplicate = true;
-        } else if (frames + more > EXPORT_MAX) {
-            skipped.is_full = true;
-        } else {
-            frames += more;
+        } else if (has_room(skipped, more)) {
             add_sfh_import(clip, path);
         }
     }
