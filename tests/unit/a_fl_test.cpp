@@ -96,8 +96,6 @@ TEST_F(FileList, AFolderIsAskedForAndShownWithItsClips)
     EXPECT_THAT(TakeLabels(),
                 ElementsAre(HasSubstr("Access@ListDir#L"), HasSubstr("Access@Find2#L")));
     EXPECT_THAT(Shown(1), ElementsAre("|Reading...|||"));
-    EXPECT_THAT(Shown(2),
-                ElementsAre(GL_ClipStoreSupportMode ? "|No clips|||" : "|No clip store|||"));
     WriteFile(ROOT + "/logo.SFH", Head(4, 1, 1) + "picture");
     WriteFile(ROOT + "/short.SFH", Head(4, 1, 1).substr(0, 63));
     WriteFile(ROOT + "/run.SFH/run#000000.SFH", Head(3, 1, 0));
@@ -116,6 +114,18 @@ TEST_F(FileList, AFolderIsAskedForAndShownWithItsClips)
     EXPECT_EQ(FL_GutClipFrameCount(FL_L_LIST, FL_DIRDATA_LOCAL_DRIVE, "/run"), 2);
     EXPECT_EQ(FL_GutClipFrameCount(FL_L_LIST, FL_DIRDATA_REMOVABLE_DRIVE, "/run"), -1);
     EXPECT_EQ(fl_list_of_name(0, "/root/logo", ELEMENT_TYPE_FILE)->file.element.format4k, 1);
+    ELEMENT clip;
+    (void)FMCtrl3_ReadRow("root/take:1,0,0,0,,1,1", ELEMENT_TYPE_FILE, &clip);
+    for (const auto& [change, frames, row] :
+         {std::tuple<int, int, std::string>{FMCTRL_MSG_ELEMENT_INSERT, 1, "|take|1||"},
+          {FMCTRL_MSG_ELEMENT_NOTIFY, 7, "|take|7||"},
+          {FMCTRL_MSG_ELEMENT_DELETE, 7,
+           GL_ClipStoreSupportMode ? "|No clips|||" : "|No clip store|||"}}) {
+        clip.duration = frames;
+        FL_Proc(LMSG_FMCTRL3CHANGE, change, Arg(&clip), 0, 0);
+        EXPECT_THAT(Shown(2), ElementsAre(row));
+    }
+    EXPECT_THAT(Told(LMSG_FLLISTCHANGE), ElementsAre("1,1,3", "1,0,3"));
 }
 
 TEST_F(FileList, RowsThatAreNoClipsLeaveNothing)

@@ -185,22 +185,12 @@ TEST_F(FileAllPage, TheKeysFollowWhatTheSidesAre)
     EXPECT_EQ(sides(), "Register |Register :");
     Choose(BTN_ALL_DEVICE_A, FILE_REMOVABLE);
     EXPECT_EQ(sides(), "Removable\nDrive SYSTEM|Register :A><");
-    // A save goes from right to left as well; a copy not into itself.
+    (void)Run(Press(BTN_ALL_DIR_A));
+    (void)Answer(2); // a directory that has gone meanwhile
+    EXPECT_EQ(sides(), "Removable\nDrive SYSTEM|Register :A><");
+    // A save goes from right to left as well.
     Select({"KEYMEM"});
     EXPECT_THAT(Do(BTN_ALL_R_TO_L), Contains("Rmdir MYHOST:/mnt/usb/usb1/SYSTEM"));
-    FileAll_LinkLost();
-    File_LinkLost();
-    File_SHP_All_Clear();
-    (void)Run();
-    FileAll_Reset();
-    ClosePanes();
-    (void)BkgdFileTransfer_Set(0, 0);
-    (void)Open(ALL_PAGE);
-    Pass(1000);
-    Choose(BTN_ALL_DEVICE_A, FILE_REMOVABLE);
-    Choose(BTN_ALL_DEVICE_B, FILE_REMOVABLE);
-    EXPECT_THAT(Load(), IsEmpty());
-    EXPECT_NE(Pane_GetActiveID(), 0);
 }
 
 TEST_F(FileAllPage, AnEmptySaveLeavesTheDirectoryAlone)
@@ -348,8 +338,10 @@ TEST_F(FileAllPage, AFallenLinkEndsIt)
 TEST_F(FileAllPage, ACopyGoesToAnotherDirectoryOnly)
 {
     Choose(BTN_ALL_DEVICE_A, FILE_LOCAL);
-    EXPECT_THAT(Run(Press(BTN_ALL_L_TO_R)), IsEmpty());
-    (void)Answer(0);
+    for (const int key : {BTN_ALL_L_TO_R, BTN_ALL_R_TO_L}) {
+        EXPECT_THAT(Run(Press(key)), IsEmpty());
+        (void)Answer(0);
+    }
     Choose(BTN_ALL_DEVICE_B, FILE_REMOVABLE);
     files[ROOT + "MACRO/"] = {"CTRLCPU/A?B.PNL_0012.PMR", "CTRLCPU/A.PNL_0251.PMR"};
     Frames({});
@@ -368,7 +360,7 @@ TEST_F(FileAllPage, ACopyGoesToAnotherDirectoryOnly)
 
 TEST_F(FileAllPage, PicturesAreSavedByFolderAndStore)
 {
-    Frames({{1, "Mlogo"}, {1200, "Sbug"}, {16384 + 3, "Mext"}});
+    Frames({{1, "Mlogo"}, {1000, "Sbug"}, {16384 + 999, "Mext"}});
     SendDummyTally("16@Frame Mem@Status@Folder Status@0#04");
     (void)TakeQueuedCommands();
     Select({"FRAMEMEM"});
@@ -377,15 +369,17 @@ TEST_F(FileAllPage, PicturesAreSavedByFolderAndStore)
         Items(FILEWORK_TRANSFERLIST),
         ElementsAre(
             " SWR001D001:FMEM_001.SF2 > local:FMEMFOL/News/SWR000D001/Mlogo.FMEM_001.SFM",
-            " SWR001D001:FMEM1200.SF2 > local:FMEMFOL/DEFAULT/SWR000D001/Sbug.FMEM_1200.SFM",
-            " SWR001D001:FMEX_003.SF2 > local:FMEMFOL/DEFAULT/SWR000D001/Mext.FMEX_003.SFM"));
+            " SWR001D001:FMEM1000.SF2 > local:FMEMFOL/DEFAULT/SWR000D001/Sbug.FMEM_1000.SFM",
+            " SWR001D001:FMEX_999.SF2 > local:FMEMFOL/DEFAULT/SWR000D001/Mext.FMEX_999.SFM"));
 }
 
 TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
 {
     Frames({{1, "Mold"}, {2, "Mlogo"}});
+    Tell("16@Frame Mem@Status@Folder Name Sense#0,Default.,1,a,2,b,3,c,4,News,5,d,6,e,7,f,8,g,9,h,"
+         "10,i");
     const std::string folder = ROOT + "FMEMFOL/";
-    files[folder] = {"News", "Sport", "a#b", "DEFAULT"};
+    files[folder] = {"News", "Sport", "Zoo", "a#b", "DEFAULT"};
     files[folder + "DEFAULT/"] = {
         "SWR000D001/Mold.FMEM_1300.SFM",       "SWR000D002/Mx.FMEM_003.SFM",
         "SWR000D001/Mx#1.FMEM_004.SFM",        "SWR000D001/Mx.FMEM_1501.SFM",
@@ -393,17 +387,21 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
         "SWR000D001/Mnametoolong.FMEM_006.SFM"};
     files[folder + "News/"] = {"SWR000D001/Mlogo.FMEM_002.SFM"};
     files[folder + "Sport/"] = {"SWR000D001/Mball.FMEX_007.SFA"};
+    files[folder + "Zoo/"] = {"SWR000D001/Mlast.FMEM_008.SFM"};
     Select({"FRAMEMEM"});
     EXPECT_THAT(Load(),
                 ElementsAre("ListDir " + folder, "Find " + folder + "DEFAULT/,*.*.*",
-                            "Find " + folder + "News/,*.*.*", "Find " + folder + "Sport/,*.*.*"));
+                            "Find " + folder + "News/,*.*.*", "Find " + folder + "Sport/,*.*.*",
+                            "Find " + folder + "Zoo/,*.*.*"));
     EXPECT_THAT(Items(FILEWORK_TRANSFERLIST),
                 ElementsAre(EndsWith("Mold.FMEM_1300.SFM > SWR001D001:Mold.FMEM1300.SF2"),
                             EndsWith("Mlogo.FMEM_002.SFM > SWR001D001:Mlogo.FMEM_002.SF2"),
-                            EndsWith("Mball.FMEX_007.SFA > SWR001D001:Mball.FMEX_007.SF4")));
+                            EndsWith("Mball.FMEX_007.SFA > SWR001D001:Mball.FMEX_007.SF4"),
+                            EndsWith("Mlast.FMEM_008.SFM > SWR001D001:Mlast.FMEM_008.SF2")));
     EXPECT_THAT(sent, AllOf(Contains("put Frame Mem@File@Delete Thumbnail@Single#Mold"),
-                            Contains("put Frame Mem@Folder@Rename#1,Sport"),
-                            Not(Contains(HasSubstr("Single#Mlogo")))));
+                            Contains("put Frame Mem@Folder@Rename#11,Sport"),
+                            Not(Contains(HasSubstr("Single#Mlogo"))),
+                            Not(Contains(HasSubstr(",Zoo"))))); // no folder is left
     // What has arrived goes into its folder.
     FILEXFERLIST arrived, failed;
     CopyText(arrived.src, (folder + "Sport/SWR000D001/Mball.FMEX_007.SFA").c_str());
@@ -412,7 +410,7 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
     failed.status = FILESTATUS_NG;
     failed.next = &arrived;
     AllFrames_Place(&failed);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put 16@Frame Mem@Folder@Move Still#0,Mball,1"));
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put 16@Frame Mem@Folder@Move Still#0,Mball,11"));
     // What was under way does not stay where it was prepared.
     (void)!::system(
         "mkdir -p /var/tmp/FMXfer /var/tmp/XPORT; touch /var/tmp/FMXfer/left /tmp/other");

@@ -204,7 +204,6 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     LS_SetNowLine(1, 3);
     SendMessage(LMSG_LISTSEL, 1, 3, 0, 0);
     Press(BTN_FILE_DETAIL_A);
-    EXPECT_EQ(GL_CreatePage, SNAPSHOT_PAGE + 1);
     EXPECT_EQ(CreatePage(SNAPSHOT_PAGE + 1), 0);
     EXPECT_EQ(Row(1, 3), "CLOSE|");
     EXPECT_STREQ(LS_GetData(1, 3, COL_REGIONS), "O");
@@ -212,6 +211,13 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     EXPECT_THAT(Answer(2), IsEmpty());
     Press(BTN_FILE_DELETE);
     EXPECT_THAT(Answer(1), ElementsAre("put Snapshot@Snapshot@Delete#2,4,4"));
+    for (const FileKind& kind : file_kinds) {
+        (void)Open(kind.id);
+        EXPECT_EQ(PageBy(BTN_FILE_DETAIL_A), kind.id + 1);
+    }
+    const std::string stick = "MYHOST:/mnt/usb/usb1/SYSTEM/USRSETUP/SWR000D001/";
+    (void)Reply(Open(0x71750000), "Access@Find", {stick + "NAMES.DEV_0000.SUN"});
+    EXPECT_EQ(Row(1, 0), "NAMES|Nov.25.2026 10:30");
 }
 
 TEST_F(FileDualPage, EveryFamilyHasItsOwnCommands)

@@ -200,6 +200,8 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_SPEED), BT_OFF);
     TellAll(TREE, {"Play@Start TC@FM1#0,30", "Play@Stop TC@FM1#70"});
     EXPECT_THAT(Press(BTN_FMEM_STOP), put("FM1#0,1,30,70"));
+    TellAll(TREE, {"Play@Start TC@FM1#x", "Play@Stop TC@FM1#0,-1"});
+    EXPECT_THAT(Puts(BTN_FMEM_STOP), put("FM1#0,1,0,0"));
     (void)Tell(TREE + "Play@FM1#0,8,20,80");
     for (const int answer : {NO, YES}) {
         (void)Press(BTN_FMEM_TRIM);
