@@ -501,14 +501,14 @@ static void folder_chosen(int id)
 
 // --- Import ---
 
-static void tell_skipped(const Skipped& skipped, bool is_all)
+static void tell_skipped(const char* title, const Skipped& skipped, bool is_all)
 {
     char text[CMD_SIZE] = "";
     if (is_clip_store() && skipped.is_full)
-        (void)PaneMessage_Create("Export", PANE_ALERT,
+        (void)PaneMessage_Create(title, PANE_ALERT,
                                  "Some requests are skipped. \nThere are too many frames.");
     else if (skipped.is_full)
-        (void)PaneMessage_Create("Import", PANE_ALERT,
+        (void)PaneMessage_Create(title, PANE_ALERT,
                                  "Some requests are skipped. \nThere is no empty register left.");
     if (!skipped.is_work_area && !skipped.is_duplicate)
         return;
@@ -516,7 +516,7 @@ static void tell_skipped(const Skipped& skipped, bool is_all)
               "%sFollowing operation is not permitted.\n  - Loading to WORK AREA.\n"
               "  - Loading that will cause duplicate\n    register name.",
               is_all ? "" : "Some requests are skipped. \n");
-    (void)PaneMessage_Create("Import", PANE_ALERT, text);
+    (void)PaneMessage_Create(title, PANE_ALERT, text);
 }
 
 static void move_to_folder(const FILEXFERLIST* item, int folder_id)
@@ -558,7 +558,7 @@ static void xport_result(uint32_t, int page)
     if (page == XPORTPAGE_CLIP)
         remove_incomplete(v.list);
     if (has_key_left_out(v.list))
-        tell_skipped({.is_duplicate = true}, false);
+        tell_skipped("Import", {.is_duplicate = true}, false);
     for (const FILEXFERLIST* item = v.list; page == XPORTPAGE_FMEM_V6 && item; item = item->next)
         if (item->status == FILESTATUS_OK)
             move_to_folder(item, v.folder_id);
@@ -942,7 +942,7 @@ static void import_sel()
     const Skipped skipped = is_sfh()          ? gather_sfh_import()
                             : is_clip_store() ? gather_clips()
                                               : gather_import();
-    tell_skipped(skipped, !v.list);
+    tell_skipped("Import", skipped, !v.list);
     v.folder_id = FileSide_FolderId(SIDE_A);
     start(is_sfh() ? File_TransSCPdirPutList_FM : xp.kind->import_list);
 }
@@ -981,7 +981,7 @@ static void export_sel()
     if (v.list || !DEV_MySwr[0] || is_protected() || (!is_sfh() && !drive_folder(folder)))
         return;
     if (is_clip_store())
-        tell_skipped(gather_clip_export(folder), false);
+        tell_skipped("Export", gather_clip_export(folder), false);
     else
         gather_export(folder);
     start(is_sfh()          ? File_TransSCPdirGetList_FM
