@@ -241,7 +241,7 @@ int FMCtrl3_Proc(int msg, MsgArg ax, MsgArg bx, MsgArg, MsgArg dx)
 
 void FMCtrl3_Init()
 {
-    clip_thumbnails_end();
+    clip_thumbnails_init();
     clip_tree_init();
 }
 

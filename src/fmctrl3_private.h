@@ -49,7 +49,8 @@ int clip_frames(const char* text); // a number of frames, within its limits
 void clip_thumbnails_want(CLIP_NODE* node);
 void clip_thumbnails_forget(CLIP_NODE* node); // nothing more is fetched of it
 void clip_thumbnails_forget_all();
-void clip_thumbnails_end();                    // and nothing more is removed
+void clip_thumbnails_init(); // the end, and the folder has not been cleaned up yet
+void clip_thumbnails_end();  // and nothing more is removed
 void clip_thumbnails_remove(const ELEMENT& e); // the files; those of a long clip in passes to come
 void clip_thumbnails_same(const ELEMENT& e);   // another time, the same pictures
 // Frames first to last are what is left of a clip, and its first is now 0. False when its first

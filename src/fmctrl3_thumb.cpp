@@ -637,6 +637,12 @@ void clip_thumbnails_end()
         removal_end(removals.front());
 }
 
+void clip_thumbnails_init()
+{
+    clip_thumbnails_end();
+    th.has_cleaned = false;
+}
+
 static void tell_received(const CLIP_NODE* node, int frame)
 {
     if (isNowPageFM(0))

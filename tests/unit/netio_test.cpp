@@ -8,7 +8,7 @@ struct Netio : testing::Test {
     void SetUp() override
     {
         strcpy(GL_ServerAddress, "127.0.0.1");
-        GL_ClipStoreSupportMode = 0;
+        GL_ClipStoreSupportMode = GL_FreezeStore = GL_FreezeStore_Exec = 0;
         Net_Init();
         (void)TakeQueuedCommands();
     }
@@ -16,7 +16,6 @@ struct Netio : testing::Test {
     {
         Net_Init(); // a full buffer takes no line of the next test
         (void)TakeQueuedCommands();
-        GL_FreezeStore = GL_FreezeStore_Exec = 0;
     }
 };
 

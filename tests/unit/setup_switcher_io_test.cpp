@@ -38,6 +38,7 @@ TEST_F(SwitcherIo, ANumberThatMayBeNoneSaysSo)
     const std::string output = SWITCHER + "Output@FC Output Assign@1";
     (void)Open(0x73330009);
     (void)Tell(output + "#0");
+    SelectRow(0); // it has the line of the visit before
     EXPECT_EQ(Row(0, 2), "1|None");
     SendMessage(LMSG_KNOBVAR, 1, 7, 0, 0);
     EXPECT_EQ(Row(0, 2), "1|7*");
