@@ -12,7 +12,7 @@
 #include "safeguards.h"
 
 constexpr int FOLDER_BANKS = 45;
-constexpr int BANK_MAX = 255;
+constexpr int BANKS = 2 * FM_EXTENDED_BANK; // of both stores
 constexpr int EXTENDED_BANK_LAST = 172;
 constexpr int PASS_MAX_MS = 5000; // no pass tells of more
 
@@ -107,7 +107,7 @@ static void fm_tally(const char* path, const char* value)
     for (const BankRow& row : bank_rows) {
         if (!BeginsWith(rest, row.path))
             continue;
-        const int bank = Index(rest + strlen(row.path), BANK_MAX + 1);
+        const int bank = Index(rest + strlen(row.path), BANKS);
         if (bank >= 0)
             row.take(bank, value);
         fm_drop_registers_told();

@@ -67,8 +67,7 @@ static void set_folder(int index, int folder_id)
 
 void fm_take_folder_status(int bank, const char* value)
 {
-    const int base = bank >= FM_EXTENDED_BANK ? FMEM_EXTENDED + (bank - FM_EXTENDED_BANK) * FM_BANK
-                                              : bank * FM_BANK;
+    const int base = bank * FM_BANK;
     for (int i = 0; i < FM_BANK; i++) {
         const int folder_id = two_digits(value + 2 * i); // false at the end of the text
         if (folder_id < 0 || !fm_register(base + i))

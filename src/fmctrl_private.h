@@ -8,9 +8,9 @@
 #include "global.h"
 #include "types.h"
 
-constexpr int MOD_FM = 22;            // area of the log
-constexpr int FM_BANK = 128;          // registers of one status line
-constexpr int FM_EXTENDED_BANK = 128; // the first bank of the extended store
+constexpr int MOD_FM = 22;                                // area of the log
+constexpr int FM_BANK = 128;                              // registers of one status line
+constexpr int FM_EXTENDED_BANK = FMEM_EXTENDED / FM_BANK; // the first bank of the extended store
 
 // --- Registers (fmctrl_register.cpp) ---
 FMEMREG* fm_register(int index); // null for an index that no register has

@@ -308,16 +308,14 @@ static bool status_word(const char* value, int length, int word, uint32_t* bits)
 
 void fm_take_register_status(int bank, const char* value)
 {
-    const bool extended = bank >= FM_EXTENDED_BANK;
-    if (extended && Extended_Capacity == 0)
+    if (bank >= FM_EXTENDED_BANK && Extended_Capacity == 0)
         return;
     const int length = int(strlen(value));
     if (int(strspn(value, "0123456789ABCDEFabcdef")) != length) {
         Log_Output(LOG_LINK, MOD_FM, "Register Status@%d refused [%.40s]", bank, value);
         return;
     }
-    const int base =
-        extended ? FMEM_EXTENDED + (bank - FM_EXTENDED_BANK) * FM_BANK : bank * FM_BANK;
+    const int base = bank * FM_BANK;
     for (int word = 0; word < STATUS_WORDS; word++) {
         uint32_t bits = 0;
         if (!status_word(value, length, word, &bits))
