@@ -126,19 +126,6 @@ TEST_F(TextLink, APassReadsWhatHadComeWhenItAsked)
     EXPECT_STREQ(Net_ReceiveCommand(), "C#3");
 }
 
-TEST_F(TextLink, ALossEndsTheFileJobsThatWaitForAnAnswer)
-{
-    static int ended;
-    ended = 0;
-    const auto result = [](uint32_t, int, const char* name, const char* const*) { ended += !name; };
-    EXPECT_GT(File_ExecListDir("MYHOST:/d", result, 0), 0);
-    peer.Drop();
-    usleep(20000);
-    Ready_Ask();
-    ReceiveCommand_Management();
-    EXPECT_EQ(ended, 1);
-}
-
 static std::string Numbered(int i)
 {
     return "put A@B#" + std::to_string(100000 + i);

@@ -2,6 +2,7 @@
 #include "err.h"
 #include "file_page.h"
 #include "fmctrl.h"
+#include "lost_server.h"
 #include "pc_file.h"
 #include "server_page.h"
 #include <map>
@@ -281,8 +282,7 @@ TEST_F(AutoLoad, AFullStoreTakesNoMoreAndTheSecondUnitDoesNotEmptyIt)
         items++;
     EXPECT_EQ(items, 66);
     SYS_FmemRegMax = registers;
-    AutoLoad_LinkLost();
-    File_LinkLost();
+    LoseServer();
     ClosePanes();
     (void)Sent();
     EXPECT_THAT(AskForPictures("SWR2", "SWR000D002", {"Mother.FMEM_001.SFM"}), Contains(clear))
@@ -317,8 +317,7 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
     EXPECT_THAT(Ask("SWR1", {{"EFFECT/SWR000D001/", {open}}}), ElementsAre(EXIST + "SWR1#true"));
     Strings all;
     EXPECT_EQ(Start("SWR1", &all).size(), 1u);
-    AutoLoad_LinkLost(); // in the middle of the load
-    File_LinkLost();
+    LoseServer(); // in the middle of the load
     EXPECT_FALSE(BkgdFileTransfer_Check(0));
     EXPECT_EQ(Err_GetMax(), 1);
     ClosePanes();
@@ -330,7 +329,7 @@ TEST_F(AutoLoad, AnEmptySearchLeavesTheStoreAndALostLinkAllowsANewQuestion)
     Deliver("Info@Auto Load@Data Exist@SWR1", "false"); // the server has taken the answer
     EXPECT_THAT(Sent(), IsEmpty());
     EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_FOUND);
-    AutoLoad_LinkLost();
+    LoseServer();
     EXPECT_EQ(AutoLoad_DataExist("SWR1"), AUTOLOAD_SEARCHING);
     AutoLoad_LinkLost();
     // So does the search of a folder.

@@ -1,4 +1,5 @@
 #include "bus_probe.h"
+#include "file_scp.h"
 #include "fmctrl3.h"
 #include "loop.h"
 #include "netio.h"
@@ -218,13 +219,15 @@ TEST_F(BusHub, OnlyFileTablesAndTheOwnClipStorePass)
 TEST_F(BusHub, NothingOfALostHubStays)
 {
     FMCtrl3_Init();
-    (void)Drain("Insert#CS1.ClipStoreFolder:root/NEWS:1\n");
+    (void)Drain("Insert#CS1.ClipStoreFolder:root/NEWS:1\nReady#SWR1.File\n");
+    EXPECT_EQ(Scp_TrnasferList[0].connect, FILE_CONNECT);
     const auto is_there = [] { return FMCtrl3_FindPath(nullptr, ELEMENT_TYPE_FOLDER, "/NEWS"); };
     EXPECT_TRUE(is_there());
     hub.Drop();
     usleep(20000);
     ReceiveCommand_Management();
     EXPECT_FALSE(is_there());
+    EXPECT_EQ(Scp_TrnasferList[0].connect, FILE_DISCONNECT);
     FMCtrl3_Finalize();
 }
 

@@ -1,4 +1,5 @@
 #include "fmctrl.h"
+#include "lost_server.h"
 #include "pc_file.h"
 #include "pc_file_all.h"
 #include "pc_file_all_frames.h"
@@ -310,8 +311,7 @@ TEST_F(FileAllPage, PreparingCanBeCancelledAndEndsWithThePage)
 TEST_F(FileAllPage, AFallenLinkEndsIt)
 {
     const auto fall = [] {
-        FileAll_LinkLost();
-        File_LinkLost();
+        LoseServer();
         (void)TakeQueuedCommands();
     };
     Frames({{1, "Mlogo"}});
