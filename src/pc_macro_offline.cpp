@@ -43,7 +43,7 @@ constexpr NB_TBL nb_time_code = {.id = NB_MACRO_VALUE,
                                  .caption = "Time\nCode",
                                  .type = NB_TC,
                                  .min = 0,
-                                 .max = 24 * 60 * 60 * 60 - 1,
+                                 .max = 1,
                                  .cmd = "Panel@Common@Knob1",
                                  .scale = 1};
 } // namespace
@@ -316,8 +316,8 @@ static void set_V4_enable()
         return;
     (void)NB_PushTable2(is_time_code ? &nb_time_code : &nb_number);
     const char* const value = value_of_focus(*cursor());
-    if (!is_time_code)
-        (void)NB_AddMinMax(NB_MACRO_VALUE, p->min, p->max);
+    const int day = 24 * 60 * 60 * SYS_FrameRate; // frames
+    (void)NB_AddMinMax(NB_MACRO_VALUE, is_time_code ? 0 : p->min, is_time_code ? day - 1 : p->max);
     if (!MacroValue_IsLegal(*p, value))
         (void)NB_InvalidVar(NB_MACRO_VALUE);
     else

@@ -2,6 +2,7 @@
 // show, what stands in the file.
 #include "a_ls_private.h"
 #include "command.h"
+#include "lost_server.h"
 #include "netio.h"
 #include "pc_file_dual.h"
 #include "pc_macro.h"
@@ -204,6 +205,17 @@ TEST_F(MacroOfflinePage, EveryEventIsMadeStepByStepAndReadsBack)
     EXPECT_EQ(Stored(),
               HEAD + "Event?,KeyAutoTransition,ME?,P/P,Key?,Key2,Time?,30,Direction?,Reverse\n"
                      "Event?,Cue,Device?,Dev2,Timecode?,00:00:00:00,Preroll?,5\n");
+
+    // A knob goes frame by frame through one day.
+    SYS_FrameRate = 25;
+    OpenWith("Event?,Cue,Device?,Dev2,Timecode?,00:00:00:02,Preroll?,5\n");
+    At(0, MACRO_COL_SLOT + 1);
+    for (const std::string turn : {"-9 00:00:00:00", "3 00:00:00:03", "9999999 23:59:59:24"}) {
+        (void)Tell("Panel@Common@Knob1#" + turn.substr(0, turn.find(' ')));
+        Pass(10);
+        EXPECT_EQ(Events(), "Event 1 Cue Dev2" + turn.substr(turn.find(' ')) + " 5");
+    }
+    SYS_FrameRate = 60;
 
     // Through the page: every event, the first word, lowest number or a text for each parameter.
     OpenWith("");
@@ -698,4 +710,6 @@ TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
         EXPECT_THAT(left, Contains("remove " + ONLINE + path));
         EXPECT_THAT(opened, Contains("add " + ONLINE + path));
     }
+    LoseServer();
+    EXPECT_EQ(GL_CreatePage, PAGE_MACRO_ONLINE) << "empty, until the server answers again";
 }
