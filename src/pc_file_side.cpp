@@ -261,10 +261,10 @@ static void restore_selection(const Side& s)
         if (s.row[no].cell->no == s.was_now)
             line = no;
     const int top = LS_GetTopLine(id);
+    for (int no = 0; LS_GetMS(id) == 1 && no < s.rows; no++) // takes the cursor and the view along
+        (void)LS_SetSelected(id, no, 0, s.row[no].cell && s.was_selected[s.row[no].cell->no]);
     (void)LS_SetNowLine(id, line);
     (void)LS_SetTopLine(id, top);
-    for (int no = 0; LS_GetMS(id) == 1 && no < s.rows; no++)
-        (void)LS_SetSelected(id, no, 0, s.row[no].cell && s.was_selected[s.row[no].cell->no]);
 }
 
 static void show_folder_rows(Side& s)

@@ -32,6 +32,7 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     Pass(200);
     EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar"));
     EXPECT_TRUE(LS_IsSelected(1, 3, 0) == 1 && LS_IsSelected(1, 4, 0) == 0);
+    EXPECT_EQ(LS_GetNowLine(1), 3);
     Store({"Mlogo"});
     Pass(200);
     EXPECT_TRUE(LS_IsSelected(1, 4, 0) == 1 && LS_IsSelected(1, 3, 0) == 0);
@@ -104,6 +105,10 @@ TEST_F(FramePage, FullStoreSaysSo)
     for (int i = 0; i < 300; i++)
         Store({"Mr" + std::to_string(i) + "x"}, i + 1);
     Answer(Open(NEW), "Access@Find", {DEFAULT + "Mnew.FMEM_001.SFM"});
+    (void)LS_SetTopLine(1, 100);
+    Store({"Mother"});
+    Pass(200);
+    EXPECT_EQ(LS_GetTopLine(1), 100) << "whatever has changed";
     Select(2, {1});
     EXPECT_THAT(Press(BTN_FILE_R_TO_L), IsEmpty());
     EXPECT_THAT(Message(), HasSubstr("no empty register"));
