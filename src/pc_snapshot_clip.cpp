@@ -106,8 +106,7 @@ static bool plays(int sub)
 
 static int autoplay_sel()
 {
-    const int cursor = std::max(LS_GetNowLine(LIST), 0);
-    const bool on = !plays(cursor);
+    const bool on = !plays(LS_GetNowLine(LIST));
     if (Register_Lock_Snapshot(SS_REGION_USER1 + cp.user, cp.no))
         return 0;
     for (int i = 0, sub; (sub = LS_GetSelected(LIST, i)) >= 0; i++)
@@ -230,7 +229,7 @@ static void draw_clip(const char* label, const CE_FMCLIP& clip, int y)
 
 static void draw_detail()
 {
-    const CE_FMCLIP_INFO info = clips_at(std::max(cp.cursor, 0));
+    const CE_FMCLIP_INFO info = clips_at(cp.cursor);
     RegisterStrip_DrawGround(DETAIL);
     draw_clip("Event", info.clip[0], DETAIL.y1 + 5);
     draw_clip("Output", info.clip[1], DETAIL.y1 + 22);
@@ -251,7 +250,7 @@ static void draw_head()
 
 static int clip_redraw()
 {
-    const int cursor = std::clamp(LS_GetNowLine(LIST), 0, SUB_REGIONS - 1);
+    const int cursor = LS_GetNowLine(LIST); // all rows are there while the page is
     if (cursor != cp.cursor) {
         cp.cursor = cursor;
         cp.head_redraw = true;
