@@ -1,6 +1,6 @@
 // fmctrl3_private: what the files of the clip-store catalogue share. Nobody else includes it.
 // fmctrl3.cpp takes the hub's lines, fmctrl3_row.cpp reads rows, fmctrl3_tree.cpp keeps the
-// elements, fmctrl3_thumb.cpp their thumbnails.
+// elements, fmctrl3_thumb.cpp fetches their thumbnails, fmctrl3_file.cpp has them on the drive.
 #pragma once
 #include "fmctrl3.h"
 
@@ -43,19 +43,39 @@ CLIP_NODE* clip_tree_find(const char* full_name, int type);
 bool clip_read_path(const char* row_path, ELEMENT* element);
 int clip_frames(const char* text); // a number of frames, within its limits
 
+// --- fmctrl3_file.cpp ---
+constexpr int CLIP_FILE_SIZE = ELEMENT_PATH_SIZE + 20;
+constexpr char CLIP_NOTE_END[] = ".of"; // "NEWS.OPENING.SFH.THM.of"
+// On the switcher "NEWS/OPENING.SFH#000012.THM", here "NEWS.OPENING.SFH#000012.THM".
+void clip_remote_name(char (&text)[CLIP_FILE_SIZE], const ELEMENT& e, int frame);
+void clip_local_name(char (&text)[CLIP_FILE_SIZE], const ELEMENT& e, int frame);
+void clip_folder(char (&text)[PATH_SIZE]); // without a "/" at its end
+void clip_local_path(char (&text)[PATH_SIZE], const char* name);
+bool clip_is_thumbnail_file(const char* path); // by its size
+bool clip_has_frame(const ELEMENT& e, int frame);
+void clip_remove_frame(const ELEMENT& e, int frame);
+bool clip_write_note(const ELEMENT& e); // that the files here are of this clip; false: it can't
+// True when the note says so. Files of another clip begin to go.
+bool clip_files_are_of(const ELEMENT& e);
+// Files of a clip of this name are going or getting other numbers: until then nothing of them is
+// shown, and nothing is fetched. At the end it is wanted anew.
+bool clip_files_change(const ELEMENT& e);
+void clip_files_pass();
+void clip_files_end();
+void clip_thumbnails_remove(const ELEMENT& e); // in the passes to come
+void clip_thumbnails_same(const ELEMENT& e);   // another time, the same pictures
+// Frames first to last are what is left of a clip, and its first gets 0, in the passes to come.
+// False when its first picture is missing, or its files are changing: then none is left.
+bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last);
+
 // --- fmctrl3_thumb.cpp ---
 // What is not on the drive is fetched: its middle first. Files of a clip that was another one, by
-// its length or its time, are removed.
+// its length or its time, are removed before.
 void clip_thumbnails_want(CLIP_NODE* node);
 void clip_thumbnails_forget(CLIP_NODE* node); // nothing more is fetched of it
 void clip_thumbnails_forget_all();
-void clip_thumbnails_init(); // the end, and the folder has not been cleaned up yet
+void clip_thumbnails_init(); // as after a start
 void clip_thumbnails_end();  // and nothing more is removed
-void clip_thumbnails_remove(const ELEMENT& e); // the files; those of a long clip in passes to come
-void clip_thumbnails_same(const ELEMENT& e);   // another time, the same pictures
-// Frames first to last are what is left of a clip, and its first is now 0. False when its first
-// picture is missing: then none is left.
-bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last);
 void clip_thumbnails_pass(int elapsed_ms);
 void clip_thumbnails_inserted(); // the tree is being told
 // Whether a file of this name belongs to an element; any other is removed once after a start.
