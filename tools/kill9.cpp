@@ -339,9 +339,13 @@ constexpr int CLIP_LAST = 34;
 static const std::string CLIP_FILES = "/mnt/sys/FM/1/OPENING.SFH";
 static const std::string CLIP_STORE = "/var/tmp/store"; // how many frames the store has
 
+// Told, and with the passes in which its files change.
 static void TellOfClip(const char* verb, const std::string& row)
 {
+    constexpr int PASSES = 30;
     (void)FMCtrl3_Proc(MSG_SHPTALLY, Arg(verb), Arg("CS1.ClipStoreFile"), 0, Arg(row.c_str()));
+    for (int i = 0; i < PASSES; i++)
+        (void)FMCtrl3_Proc(MSG_REDRAW, 10, 0, 0, 0);
 }
 
 static void TellClip(int frames)
