@@ -16,8 +16,9 @@ struct SnapshotPictures : RegisterDesk {
                  "P/P@List#1,OPENING,S,,n,n,n", "P/P@List#12,CREDITS,L,,n,n,n",
                  "User1@List#1,OPENING,S,00000001,n,n,n", "DME2@List#7,FLY IN,S,,n,n,n",
                  "RTR@List#1,OPENING,S,,n,n,n"});
-        Tell("Snapshot@Master Snapshot@Store/Recall@List#1,SHOW ONE,S,U,1,2,,4,,99,,,,,,,12,,,,,,,,"
-             "3,3,,,,,,,5,");
+        Tell(
+            "Snapshot@Master Snapshot@Store/Recall@List#12,SHOW ONE,S,L,1,2,,4,,99,,,,,,,12,,,,,,,,"
+            "3,3,,,,,,,5,");
     }
 };
 
@@ -46,6 +47,8 @@ TEST_F(SnapshotPictures, AttributesOverviewHoldListsAndMaster)
     Paint();
     EXPECT_TRUE(MatchesGolden("snapshot_copy"));
 
+    Open(0x63110000);
+    Cursor(1, 11);
     Open(0x63110001);
     Touch(138 + 2 * 70 + 10, 112);
     Touch(138 + 3 * 70 + 10, 112);

@@ -63,6 +63,9 @@ TEST_F(Info, AValueLandsInItsPlace)
     for (const auto& [path, value, state, expected] : cases) {
         Deliver(path, value);
         EXPECT_EQ(*state, expected) << path << "#" << value;
+        if (state == &GL_TouchBuzz) { // what went to the buzzer last
+            EXPECT_EQ(FileText("/dev/ttyS2"), expected ? "GO7\r" : "GO6\r");
+        }
     }
     for (const char* page : {"12110000", "0"}) // the second is none
         Deliver(OPERATION "Initial Menu Set", page);
