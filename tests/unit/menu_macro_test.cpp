@@ -150,11 +150,11 @@ TEST_F(MenuMacro, ATouchIsAnEventALongOneSeveralPausesGoBetweenAndNothingIsRecor
     GL_MM_Pause_AT_Insert = 1;
     Pass(700);
     Sends({"put B#2"});
-    Pass(1500);
+    Pass(60000);
     Sends({"put C#3"});
     Sends({"put D#4"});
     EXPECT_THAT(Recorded(), ElementsAre("put A#1\n", "Event@Pause Set#0.5\n", "put B#2\n",
-                                        "Event@Pause Set#1.5\n", "put C#3\n", "put D#4\n"));
+                                        "Event@Pause Set#60.0\n", "put C#3\n", "put D#4\n"));
 }
 
 TEST_F(MenuMacro, AFullListSaysSoOnce)

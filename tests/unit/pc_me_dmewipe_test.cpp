@@ -211,7 +211,14 @@ TEST_F(MeDmeWipe, AllChosenChannelsFollowAKnobAndRelativeOnesMoveAgainstEachOthe
     EXPECT_EQ(Tell("Panel@Common@Knob0#2"),
               Sent("put", {"Size@Size@1#diff32.00", "Size@Size@3#diff32.00"}));
     EXPECT_EQ(Enter(1, 12.5), Sent("put", {"Size@Size@1#12.50", "Size@Size@3#12.50"}));
-
+    Own("Position@Position", POSITION);
+    (void)Press(RELATIVE);
+    for (const int key : {CH2, CH1, CH1, CH2}) { // only the first two alone are a pair
+        (void)Press(key);
+        (void)Tell(root + "@Modify@Position@Position@2#true");
+        EXPECT_THAT(Tell("Panel@Common@Knob0#1"),
+                    AllOf(Not(IsEmpty()), Each(HasSubstr("#diff8.00"))));
+    }
     const std::string pos = "M/E-4@DME Wipe@Modify@Position@Position@";
     OpenWith(MODIFY_ME4, "M/E-4@DME Wipe", "2003");
     Own("Position@Position", POSITION);
