@@ -1,4 +1,5 @@
 // The engineering pages: what their switches change, and what they show of the state.
+#include "a_pc.h"
 #include "a_st_draw.h"
 #include "colours.h"
 #include "debug.h"
@@ -17,6 +18,7 @@
 #include "touch.h"
 #include <filesystem>
 #include <fstream>
+#include <sys/mman.h>
 
 struct Engineering : TablePage {
     static constexpr const char* LOG = "/var/log2/eng_test.log";
@@ -417,19 +419,38 @@ TEST_F(Engineering, TheSelfTestsSayWhatTheyFind)
 TEST_F(Engineering, TheFiguresAreThoseSinceTheReset)
 {
     using testing::MatchesRegex;
+    static int slow_ms; // of a pass, and to leave a page
+    static constexpr PC_TBL slow = {.proc_func =
+                                        [](int msg, MsgArg, MsgArg, MsgArg, MsgArg) {
+                                            Clock_ms += msg == MSG_REDRAW ? uint32_t(slow_ms) : 0;
+                                            return 0;
+                                        },
+                                    .create_func =
+                                        [](int on, uint32_t) {
+                                            Clock_ms += on ? 0 : uint32_t(slow_ms);
+                                            return 0;
+                                        }};
     Open(0x99930002);
     MainPass();
     Press(49); // reset
-    for (const uint32_t page : {0x12110000u, 0x99930002u}) {
+    for (const auto& [page, ms] : {std::pair{0u, 90}, {0x12110000u, 40}, {0x99930002u, 7}}) {
+        PC_Create(&slow, 0);
+        slow_ms = ms;
         GL_CreatePage = page;
         MainPass();
     }
     Clock_ms += 3723000;
     MainPass();
+    void* const most = mmap(nullptr, 64 << 20, PROT_READ | PROT_WRITE,
+                            MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
+    munmap(most, 64 << 20);
     Pass(1000);
+    EXPECT_GT(std::stod(Cell(1, 8, 1)), std::stod(Cell(1, 7, 1)) + 40) << "the most, resident";
     EXPECT_EQ(Cells(1, 0, 0, 2), "Measured for|1:02:03");
-    EXPECT_EQ(Cells(1, 1, 0, 2), "Passes|3, 0 a second");
-    EXPECT_EQ(Cells(1, 5, 0, 2), "Page change, last|0 ms, page 9993.2");
+    EXPECT_EQ(Cells(1, 1, 0, 2), "Passes|4, 0 a second");
+    EXPECT_EQ(Cells(1, 3, 0, 2), "Pass, longest|90 ms, page 9993.2");
+    EXPECT_EQ(Cells(1, 5, 0, 2), "Page change, last|7 ms, page 9993.2");
+    EXPECT_EQ(Cells(1, 6, 0, 2), "Page change, longest|40 ms, page 1211");
     EXPECT_EQ(Cell(1, 4, 1), "2");
     EXPECT_EQ(Cell(1, 10, 1), std::to_string(UsedMemPtr));
     for (const int row : {7, 8, 9, 12, 13})
