@@ -7,6 +7,7 @@
 #include "netio.h"
 #include "pane.h"
 #include "text.h"
+#include <algorithm>
 #include <cstring>
 #include <initializer_list>
 
@@ -234,8 +235,9 @@ static void end_list(QUEUE* job)
 {
     if (job->sync_pid != 0)
         return;
-    job->sync_pid = file_sync_start();
-    if (job->sync_pid == 0 && file_sync_is_done(0))
+    const int pid = file_sync_start();
+    job->sync_pid = std::max(pid, 0);
+    if (pid <= 0 && file_sync_is_done(pid))
         file_finish(job);
 }
 

@@ -93,7 +93,7 @@ const char* file_local_path(const char* path);     // without "MYHOST:"
 bool file_cut_row(char* text, char** name, char** date);
 
 // --- file_sync ---
-int file_sync_start(); // the child that syncs, 0 none
+int file_sync_start(); // the child that syncs; 0: nothing to wait for; -1: none can be made
 bool file_sync_is_done(int pid);
 void file_sync_release(int pid); // nobody asks for it any more
 void file_sync_tick();

@@ -11,16 +11,13 @@
 #include "safeguards.h"
 
 // Spawned: behind a fork each page of memory that is written costs a fault, and the next change of
-// the screen writes hundreds. Where no process can be made, the screen waits: "gone" must be true.
+// the screen writes hundreds.
 static int start_child()
 {
     const int pid = ktr_start("/bin/sh -c \"/bin/sync; /bin/sync\"");
-    if (pid > 0)
-        return pid;
-    Log_Output(LOG_ALWAYS, MOD_FILE, "no process for sync, errno=%d", errno);
-    sync();
-    sync();
-    return 0;
+    if (pid < 0)
+        Log_Output(LOG_ALWAYS, MOD_FILE, "no process for sync, errno=%d", errno);
+    return pid;
 }
 
 static int (*sync_start)() = start_child;
@@ -31,10 +28,16 @@ int file_sync_start()
     return sync_start();
 }
 
+// Where there is no process or no program for it, the screen waits: "gone" must be true.
 bool file_sync_is_done(int pid)
 {
-    if (pid > 0 && waitpid(pid, nullptr, WNOHANG) == 0)
+    int status = 0;
+    if (pid > 0 && !ktr_has_ended(pid, &status))
         return false;
+    if (pid < 0 || (WIFEXITED(status) && WEXITSTATUS(status) != 0)) {
+        sync();
+        sync();
+    }
     Log_Output(LOG_TRACE, MOD_FILE, "...done");
     return true;
 }

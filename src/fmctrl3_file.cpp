@@ -12,6 +12,7 @@
 #include "tally_value.h"
 #include "text.h"
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
@@ -26,7 +27,7 @@
 #include "safeguards.h"
 
 constexpr int FRAMES_BY_NAME = 128; // of a clip that has no more, each name is tried
-constexpr int NAMES_A_PASS = 1024;  // of the folder, looked at
+constexpr int NAMES_A_PASS = 4096;  // of the folder, looked at
 constexpr int FILES_A_PASS = 32;    // given another name
 constexpr int REMOVAL_COSTS = 4;    // as many of them
 constexpr time_t FRESH_S = 3;       // what came so shortly before a trim was told may come after it
@@ -39,7 +40,8 @@ namespace
 {
 // What is to become of the files of a clip.
 struct Change {
-    ELEMENT of; // as it was
+    int unit = 0; // whose store the clip was in
+    ELEMENT of;   // as it was
     bool is_trim = false;
     int first = 0; // of a trim: what is left
     int last = 0;
@@ -76,9 +78,14 @@ static int store_unit()
     return DEV_MySwr[0] ? Device_UnitNumber(*DEV_MySwr[0]) : 0;
 }
 
+static void folder_of(char (&text)[PATH_SIZE], int unit)
+{
+    PrintText(text, "%s%d", FOLDER, unit);
+}
+
 void clip_folder(char (&text)[PATH_SIZE])
 {
-    PrintText(text, "%s%d", FOLDER, store_unit());
+    folder_of(text, store_unit());
 }
 
 void clip_local_path(char (&text)[PATH_SIZE], const char* name)
@@ -88,11 +95,18 @@ void clip_local_path(char (&text)[PATH_SIZE], const char* name)
     AppendText(text, name);
 }
 
-static void path_of_frame(char (&text)[PATH_SIZE], const ELEMENT& e, int frame)
+static void path_in(char (&text)[PATH_SIZE], int unit, const ELEMENT& e, int frame)
 {
     char name[CLIP_FILE_SIZE];
     clip_local_name(name, e, frame);
-    clip_local_path(text, name);
+    folder_of(text, unit);
+    AppendText(text, "/");
+    AppendText(text, name);
+}
+
+static void path_of_frame(char (&text)[PATH_SIZE], const ELEMENT& e, int frame)
+{
+    path_in(text, store_unit(), e, frame);
 }
 
 // --- Files ---
@@ -129,11 +143,11 @@ void clip_remove_frame(const ELEMENT& e, int frame)
 // and its time. A clip that was trimmed or recorded anew while nobody here took note of it (the
 // program was off, it ended before it had renumbered them, the link was down) has another one.
 
-static void path_of_note(char (&text)[PATH_SIZE], const ELEMENT& e)
+static void path_of_note(char (&text)[PATH_SIZE], int unit, const ELEMENT& e)
 {
     ELEMENT still = e;
     still.duration = 1;
-    path_of_frame(text, still, 0);
+    path_in(text, unit, still, 0);
     AppendText(text, CLIP_NOTE_END);
 }
 
@@ -146,7 +160,7 @@ static void note_text(char (&text)[NOTE_SIZE], const ELEMENT& e)
 static bool read_note(const ELEMENT& e, char (&text)[NOTE_SIZE])
 {
     char path[PATH_SIZE];
-    path_of_note(path, e);
+    path_of_note(path, store_unit(), e);
     const int fd = open(path, O_RDONLY | O_CLOEXEC);
     if (fd < 0)
         return false;
@@ -156,13 +170,12 @@ static bool read_note(const ELEMENT& e, char (&text)[NOTE_SIZE])
     return true;
 }
 
-// Not through a file beside it, and without waiting for the disk: half a text is of no clip.
-bool clip_write_note(const ELEMENT& e)
+// Not through a file beside it, and without waiting for the disk: half a text is of no clip, and
+// neither is an empty one.
+static bool put_note(int unit, const ELEMENT& e, const char* text)
 {
     char path[PATH_SIZE];
-    char text[NOTE_SIZE];
-    path_of_note(path, e);
-    note_text(text, e);
+    path_of_note(path, unit, e);
     const int fd = open(path, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (fd < 0)
         return false;
@@ -170,18 +183,33 @@ bool clip_write_note(const ELEMENT& e)
     return close(fd) == 0 && is_written;
 }
 
-static void remove_note(const ELEMENT& e)
+static bool write_note_in(int unit, const ELEMENT& e)
+{
+    char text[NOTE_SIZE];
+    note_text(text, e);
+    return put_note(unit, e, text);
+}
+
+bool clip_write_note(const ELEMENT& e)
+{
+    return write_note_in(store_unit(), e);
+}
+
+static bool remove_note(int unit, const ELEMENT& e)
 {
     char path[PATH_SIZE];
-    path_of_note(path, e);
-    (void)unlink(path); // there may be none
+    path_of_note(path, unit, e);
+    return unlink(path) == 0 || errno == ENOENT;
 }
 
 // --- What is to become of them ---
 
 static Change* change_of(const ELEMENT& e)
 {
-    const auto is_of = [&](const Change& c) { return Same(c.of.full_name, e.full_name); };
+    const int unit = store_unit();
+    const auto is_of = [&](const Change& c) {
+        return c.unit == unit && Same(c.of.full_name, e.full_name);
+    };
     const auto found = std::find_if(changes.begin(), changes.end(), is_of);
     return found == changes.end() ? nullptr : &*found;
 }
@@ -191,6 +219,11 @@ bool clip_files_change(const ELEMENT& e)
     return change_of(e) != nullptr;
 }
 
+bool clip_files_wait()
+{
+    return !changes.empty();
+}
+
 static void close_folder(Change& c)
 {
     if (c.folder)
@@ -198,7 +231,8 @@ static void close_folder(Change& c)
     c.folder = nullptr;
 }
 
-// One that is under way, a trim as well, begins anew with all the names that it may have left.
+// One that is under way, a trim as well, begins anew with all the names that it may have left. An
+// empty note says from now on that the files are of no clip, should the program end before.
 static void remove_all(const ELEMENT& e)
 {
     Change* c = change_of(e);
@@ -209,7 +243,8 @@ static void remove_all(const ELEMENT& e)
     } else {
         c = &changes.emplace_back();
     }
-    *c = {.of = of};
+    *c = {.unit = store_unit(), .of = of};
+    (void)put_note(c->unit, of, ""); // where it can't be, the files can't go either
 }
 
 // Files without a note are left: they are from before there were notes.
@@ -238,23 +273,44 @@ void clip_thumbnails_remove(const ELEMENT& e)
 void clip_thumbnails_same(const ELEMENT& e)
 {
     char is[NOTE_SIZE];
-    if (e.type == ELEMENT_TYPE_FILE && DEV_MySwr[0] && !clip_files_change(e) && read_note(e, is))
+    if (e.type != ELEMENT_TYPE_FILE || !DEV_MySwr[0])
+        return;
+    if (Change* const c = change_of(e))
+        CopyText(c->of.create_time, e.create_time); // of what a trim leaves
+    else if (read_note(e, is))
         (void)clip_write_note(e); // at the worst they are fetched once more
+}
+
+// A trim of what a trim will leave, while that one has its old numbers.
+static bool trim_again(Change& c, int first, int last)
+{
+    char path[PATH_SIZE];
+    path_in(path, c.unit, c.of, c.first + first);
+    if (!c.is_trim || c.done > 0 || !clip_is_thumbnail_file(path))
+        return false;
+    c.last = c.first + last;
+    c.first += first;
+    return true;
 }
 
 // The store tells of a trim when it is done: a frame that was fetched in between has its new number
 // already. The note says the old length until all have their new numbers: where the program ends in
-// between, they are fetched anew.
+// between, they are fetched anew. An operator waits for it: it goes before what else is waiting.
 bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last)
 {
     if (!e.thumbnail || !DEV_MySwr[0])
         return true;
     char note[NOTE_SIZE];
-    if (clip_files_change(e) || !clip_has_frame(e, first) ||
-        (!read_note(e, note) && !clip_write_note(e)))
+    if (Change* const c = change_of(e))
+        return trim_again(*c, first, last);
+    if (!clip_has_frame(e, first) || (!read_note(e, note) && !clip_write_note(e)))
         return false;
-    changes.push_back(
-        {.of = e, .is_trim = true, .first = first, .last = last, .told = time(nullptr)});
+    changes.insert(changes.begin() + (changes.empty() ? 0 : 1), {.unit = store_unit(),
+                                                                 .of = e,
+                                                                 .is_trim = true,
+                                                                 .first = first,
+                                                                 .last = last,
+                                                                 .told = time(nullptr)});
     return true;
 }
 
@@ -273,10 +329,14 @@ SDL_Surface* FMCtrl3_GetThumbnail(const ELEMENT* element, int frame)
 // Of which frame of a clip with this name a file is; -1: of none.
 static int frame_of_file(const char* file, const char* name_of_first)
 {
-    const size_t head = strcspn(name_of_first, "#") + strlen("#");
-    if (strncmp(file, name_of_first, head) != 0 || strlen(file) != strlen(name_of_first))
+    constexpr size_t DIGITS = 6;
+    constexpr size_t TAIL = DIGITS + strlen(".THM");
+    const size_t length = strlen(name_of_first);
+    const char* const number = file + length - TAIL;
+    if (strlen(file) != length || strncmp(file, name_of_first, length - TAIL) != 0 ||
+        strspn(number, "0123456789") != DIGITS || strcmp(number + DIGITS, ".THM") != 0)
         return -1;
-    return int(strtol(file + head, nullptr, 10));
+    return int(strtol(number, nullptr, 10));
 }
 
 // A long clip has far more names than files: its files are looked for in the folder, some names at
@@ -309,7 +369,7 @@ static void find_frames(Change& c)
     }
     if (!c.folder) {
         char path[PATH_SIZE];
-        clip_folder(path);
+        folder_of(path, c.unit);
         c.folder = opendir(path); // without a folder there are no files
     }
     look_for_files(c);
@@ -327,58 +387,68 @@ static int change_frame(const Change& c, const ELEMENT& kept, int frame)
 {
     char from[PATH_SIZE];
     char to[PATH_SIZE];
-    path_of_frame(from, c.of, frame);
-    path_of_frame(to, kept, frame - c.first);
-    if (!c.is_trim || frame < c.first || frame > c.last || is_fresh(from, c.told)) {
-        (void)unlink(from); // it may not be there
-        return REMOVAL_COSTS;
-    }
+    path_in(from, c.unit, c.of, frame);
+    path_in(to, c.unit, kept, frame - c.first);
+    if (!c.is_trim || frame < c.first || frame > c.last || is_fresh(from, c.told))
+        return unlink(from) == 0 ? REMOVAL_COSTS : 1; // it may not be there
     if (strcmp(from, to) != 0 && rename(from, to) != 0)
         (void)unlink(to); // the frame that had this number before
     return 1;
 }
 
-// True at the end.
-static bool change_some(Change& c)
+// True at the end, unless that cost as much as a pass may.
+static bool change_some(Change& c, int* cost)
 {
-    if (!c.has_frames)
+    if (!c.has_frames) {
         find_frames(c);
+        *cost += c.of.duration > FRAMES_BY_NAME ? FILES_A_PASS / 2 : 0;
+    }
     if (!c.has_frames)
         return false;
     const ELEMENT kept = what_is_left(c);
-    for (int cost = 0; cost < FILES_A_PASS && c.done < c.frames.size(); c.done++)
-        cost += change_frame(c, kept, c.frames[c.done]);
+    for (; *cost < FILES_A_PASS && c.done < c.frames.size(); c.done++)
+        *cost += change_frame(c, kept, c.frames[c.done]);
     return c.done == c.frames.size();
 }
 
-// The note goes last: what is broken off before is found again.
-static void write_what_is_left(const Change& c, const CLIP_NODE* node)
+// The note goes last: what is broken off before is found again. False when it stays as it was.
+static bool write_what_is_left(const Change& c)
 {
     const ELEMENT kept = what_is_left(c);
-    if (!c.is_trim) {
-        clip_remove_frame(kept, 0); // of a trim to one frame that was broken off
-        remove_note(c.of);
-    } else if (node && node->list.element.duration == kept.duration) {
-        (void)clip_write_note(node->list.element); // its time may have been told since
-    } else {
-        (void)clip_write_note(kept); // at the worst they are fetched once more
-    }
+    if (c.is_trim)
+        return write_note_in(c.unit, kept);
+    char path[PATH_SIZE];
+    path_in(path, c.unit, kept, 0);
+    (void)unlink(path); // of a trim to one frame that was broken off
+    return remove_note(c.unit, c.of);
 }
 
-void clip_files_pass()
+static void end_change(const Change& c)
 {
-    if (changes.empty() || !change_some(changes.front()))
-        return;
-    const Change c = std::move(changes.front());
-    changes.pop_front();
-    CLIP_NODE* const node = clip_tree_find(c.of.full_name, ELEMENT_TYPE_FILE);
-    write_what_is_left(c, node);
-    if (!node)
+    const bool is_done = write_what_is_left(c);
+    if (!is_done)
+        Log_Output(LOG_LINK, MOD_CLIP, "thumbnails of %s can't be changed, errno=%d",
+                   c.of.full_name, errno);
+    CLIP_NODE* const node =
+        c.unit == store_unit() ? clip_tree_find(c.of.full_name, ELEMENT_TYPE_FILE) : nullptr;
+    if (!node || !is_done)
         return;
     clip_thumbnails_want(node);
     if (isNowPageFM(0))
         SendMessage(LMSG_FMCTRL3CHANGE, FMCTRL_MSG_THUMBNAIL_CHANGE, Arg(&node->list.element), 0,
                     FMCtrl3_MidFrame(node->list.element));
+}
+
+void clip_files_pass()
+{
+    for (int cost = 0; cost < FILES_A_PASS && !changes.empty();) {
+        if (!change_some(changes.front(), &cost))
+            return;
+        const Change c = std::move(changes.front());
+        changes.pop_front();
+        cost++;
+        end_change(c);
+    }
 }
 
 void clip_files_end()

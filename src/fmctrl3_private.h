@@ -60,12 +60,13 @@ bool clip_files_are_of(const ELEMENT& e);
 // Files of a clip of this name are going or getting other numbers: until then nothing of them is
 // shown, and nothing is fetched. At the end it is wanted anew.
 bool clip_files_change(const ELEMENT& e);
+bool clip_files_wait(); // those of any clip
 void clip_files_pass();
 void clip_files_end();
 void clip_thumbnails_remove(const ELEMENT& e); // in the passes to come
 void clip_thumbnails_same(const ELEMENT& e);   // another time, the same pictures
 // Frames first to last are what is left of a clip, and its first gets 0, in the passes to come.
-// False when its first picture is missing, or its files are changing: then none is left.
+// False when its first picture is missing, or its files are going: then none is left.
 bool clip_thumbnails_renumber(const ELEMENT& e, int first, int last);
 
 // --- fmctrl3_thumb.cpp ---

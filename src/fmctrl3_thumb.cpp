@@ -160,11 +160,11 @@ static void cleanup_thumbnail()
 {
     char command[PATH_SIZE + 16];
     char folder[PATH_SIZE];
-    th.has_cleaned = true;
     clip_folder(folder);
     PrintText(command, "/bin/ls -1 %s", folder);
     (void)ktr_system_and_redirect(command, LIST_FILE); // no folder: nothing to clean up
     th.list = fopen(LIST_FILE, "re");
+    th.has_cleaned = !th.list;
 }
 
 // Some files of the list. The end of it ends the clean-up.
@@ -174,6 +174,7 @@ static void cleanup_some()
     for (int looks = 0, removals = 0; looks < LOOKS_A_PASS && removals < REMOVALS_A_PASS; looks++) {
         if (!fgets(name, sizeof name, th.list)) {
             end_cleanup();
+            th.has_cleaned = true;
             return;
         }
         name[strcspn(name, "\n")] = '\0';
@@ -186,9 +187,12 @@ static void cleanup_some()
     }
 }
 
-// A file that is being fetched has not its size yet: only while nothing is under way.
+// A file that is being fetched has not its size yet, one of a trim not its number: only while
+// nothing is under way.
 static void cleanup_pass(int elapsed_ms)
 {
+    if (clip_files_wait())
+        return;
     if (th.list) {
         cleanup_some();
     } else if (th.quiet_ms >= 0 && !th.has_cleaned && DEV_MySwr[0]) {

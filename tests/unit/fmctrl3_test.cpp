@@ -402,21 +402,38 @@ TEST_F(ClipStore, ThumbnailsOfALongClipGoByAndByAndANewOneOfItsNameWaits)
     (void)Changes(); // while its clip is there
     Hub("Result", "ClipStoreFile", "Trim root/a/b.SFH 0 9 10:7F");
     Work(1);
-    EXPECT_EQ(Files().size(), 151u - 6u) << "ten are looked at, and some are gone";
+    EXPECT_EQ(Files().size(), 151u - 2u) << "ten are looked at, and some are gone";
     EXPECT_EQ(Note(), "150 2026 Feb.01 01:02");
     (void)Changes(); // while its clip is there
     Hub("Delete", "ClipStoreFile", "root/a/b.SFH");
     Work(2);
-    EXPECT_EQ(Files().size(), 151u - 6u - 16u) << "all go now";
+    EXPECT_EQ(Files().size(), 151u - 2u - 12u) << "all go now";
     Clip("a/b", 200, 1); // another one
     EXPECT_THAT(Gets(), IsEmpty());
-    Work(15);
+    Work(16);
     EXPECT_EQ(Files().size(), 9u);
+    EXPECT_EQ(Note(), "") << "they are of no clip already";
     Work(1);
     EXPECT_THAT(Files(), ElementsAre("a.b2.SFH#000300.THM"));
     EXPECT_EQ(Remotes(Gets()).front(), "a/b.SFH#000099.THM");
     EXPECT_EQ(Note(), "200 2026 Jan.31 23:59");
     EXPECT_EQ(Changes().back(), "5 b 0 99");
+
+    (void)TakeQueuedCommands();
+    for (const char* frame : {"100", "101", "103"})
+        Put("take#5.SFH#000" + std::string(frame) + ".THM", 6966);
+    Put("take#6.SFH#000100.THM", 6966);
+    Clip("take#5", 200, 1);
+    Hub("Result", "ClipStoreFile", "Trim root/take#5.SFH 100 149 50:7F");
+    HubWorks("Result", "Trim root/take#5.SFH 1 40 40:7F"); // of what is left
+    EXPECT_THAT(Files(), ElementsAre("a.b2.SFH#000300.THM", "take#5.SFH#000000.THM",
+                                     "take#5.SFH#000002.THM", "take#6.SFH#000100.THM"));
+    (void)Changes(); // while its clip is there
+    Hub("Delete", "ClipStoreFile", "root/take#5.SFH");
+    CopyText(DEV_MySwr[0]->id, "SWR000D002"); // what is left to do stays in the folder of the first
+    Work();
+    CopyText(DEV_MySwr[0]->id, "SWR000D001");
+    EXPECT_THAT(Files(), ElementsAre("a.b2.SFH#000300.THM", "take#6.SFH#000100.THM"));
 }
 
 TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnewByTheirNote)
