@@ -330,7 +330,7 @@ SDL_Surface* FMCtrl3_GetThumbnail(const ELEMENT* element, int frame)
 static int frame_of_file(const char* file, const char* name_of_first)
 {
     constexpr size_t DIGITS = 6;
-    constexpr size_t TAIL = DIGITS + strlen(".THM");
+    constexpr size_t TAIL = DIGITS + sizeof ".THM" - 1;
     const size_t length = strlen(name_of_first);
     const char* const number = file + length - TAIL;
     if (strlen(file) != length || strncmp(file, name_of_first, length - TAIL) != 0 ||
