@@ -88,20 +88,23 @@ void clip_folder(char (&text)[PATH_SIZE])
     folder_of(text, store_unit());
 }
 
-void clip_local_path(char (&text)[PATH_SIZE], const char* name)
+static void path_of(char (&text)[PATH_SIZE], int unit, const char* name)
 {
-    clip_folder(text);
+    folder_of(text, unit);
     AppendText(text, "/");
     AppendText(text, name);
+}
+
+void clip_local_path(char (&text)[PATH_SIZE], const char* name)
+{
+    path_of(text, store_unit(), name);
 }
 
 static void path_in(char (&text)[PATH_SIZE], int unit, const ELEMENT& e, int frame)
 {
     char name[CLIP_FILE_SIZE];
     clip_local_name(name, e, frame);
-    folder_of(text, unit);
-    AppendText(text, "/");
-    AppendText(text, name);
+    path_of(text, unit, name);
 }
 
 static void path_of_frame(char (&text)[PATH_SIZE], const ELEMENT& e, int frame)
@@ -332,9 +335,10 @@ static int frame_of_file(const char* file, const char* name_of_first)
     constexpr size_t DIGITS = 6;
     constexpr size_t TAIL = DIGITS + sizeof ".THM" - 1;
     const size_t length = strlen(name_of_first);
+    if (strlen(file) != length || strncmp(file, name_of_first, length - TAIL) != 0)
+        return -1;
     const char* const number = file + length - TAIL;
-    if (strlen(file) != length || strncmp(file, name_of_first, length - TAIL) != 0 ||
-        strspn(number, "0123456789") != DIGITS || strcmp(number + DIGITS, ".THM") != 0)
+    if (strspn(number, "0123456789") != DIGITS || strcmp(number + DIGITS, ".THM") != 0)
         return -1;
     return int(strtol(number, nullptr, 10));
 }
