@@ -44,8 +44,7 @@ class ViewDesk:
         raise AssertionError(f"{text!r} did not come")
 
     def interrupt(self):
-        """Ctrl-C; returns the processes that are left of the desk. Files of its own are in left_behind."""
-        children = processes_of(self.process.pid)
+        """Ctrl-C; returns the processes that were left of the desk. Files of its own are in left_behind."""
         os.killpg(self.process.pid, signal.SIGINT)
         self.process.wait(timeout=15)
         self.process.stdout.close()
@@ -53,33 +52,26 @@ class ViewDesk:
             name for name in os.listdir(os.path.join(BUILD, "desk")) if name.startswith("cookies")]
         self.folder.cleanup()
         end = time.monotonic() + 5
-        while any(map(alive, children)) and time.monotonic() < end:
+        while self.processes() and time.monotonic() < end:
             time.sleep(0.1)
-        return [pid for pid in children if alive(pid)]
+        left = self.processes()
+        for pid in left:  # or whoever waits for the end of what is printed waits for good
+            os.kill(int(pid), signal.SIGKILL)
+        return left
+
+    def processes(self):
+        """Whoever runs with the folder of this desk, whatever has become of the one that started it."""
+        mark = f"TMPDIR={self.folder.name}".encode()
+        return [pid for pid in os.listdir("/proc") if pid.isdigit() and mark in content(f"/proc/{pid}/environ")]
 
 
-def stat_of(pid):
-    """The state and the parent of a process, or None."""
+def content(path):
+    """What is in a file; nothing when it is gone meanwhile, or nobody's any more."""
     try:
-        with open(f"/proc/{pid}/stat", encoding="latin-1") as f:
-            state, parent = f.read().rsplit(")", 1)[1].split()[:2]
-            return state, int(parent)
-    except (FileNotFoundError, ProcessLookupError):
-        return None
-
-
-def alive(pid):
-    stat = stat_of(pid)
-    return stat is not None and stat[0] != "Z"
-
-
-def processes_of(pid):
-    """This process and all below it."""
-    parents = {int(p): stat_of(p) for p in os.listdir("/proc") if p.isdigit()}
-    found = [pid]
-    for one in found:
-        found += [p for p, stat in parents.items() if stat and stat[1] == one]
-    return found
+        with open(path, "rb") as f:
+            return f.read()
+    except (FileNotFoundError, ProcessLookupError, PermissionError):
+        return b""
 
 
 class Viewer:
@@ -186,8 +178,10 @@ class View(unittest.TestCase):
 
     def test_4_the_next_start_has_another_password(self):
         desk = ViewDesk()
-        self.addCleanup(desk.interrupt)
+        self.addCleanup(lambda: desk.process.poll() is None and desk.interrupt())
+        self.assertTrue(desk.processes())
         self.assertFalse(self.viewer(desk).let_in(VNC_AUTH, self.desk.password))
+        self.assertEqual(desk.interrupt(), [], "while its sandbox starts")
 
 
 if __name__ == "__main__":
