@@ -1,4 +1,5 @@
 """The desk in a browser: who has the printed address is let in, nobody else, and nothing is left behind."""
+import glob
 import os
 import re
 import signal
@@ -26,12 +27,17 @@ class ViewDesk:
             os.remove(self.sim_log)
         except FileNotFoundError:
             pass
+        self.cookies_before = self.cookies()
         self.process = subprocess.Popen([os.path.join(SOURCE, "tools", "desk"), BUILD], env=env, text=True,
                                         stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, start_new_session=True)
         self.address = self.process.stdout.readline()
         self.port, self.password = re.search(r"http://127\.0\.0\.1:(\d+)/\S*#password=(\S+) ", self.address).groups()
 
     sim_log = os.path.join(BUILD, "desk", "sim.log")
+
+    @staticmethod
+    def cookies():
+        return set(glob.glob(os.path.join(BUILD, "desk", "cookies*")))
 
     def wait_wire(self, text, timeout):
         end = time.monotonic() + timeout
@@ -48,8 +54,7 @@ class ViewDesk:
         os.killpg(self.process.pid, signal.SIGINT)
         self.process.wait(timeout=15)
         self.process.stdout.close()
-        self.left_behind = os.listdir(self.folder.name) + [
-            name for name in os.listdir(os.path.join(BUILD, "desk")) if name.startswith("cookies")]
+        self.left_behind = os.listdir(self.folder.name) + sorted(self.cookies() - self.cookies_before)
         self.folder.cleanup()
         end = time.monotonic() + 5
         while self.processes() and time.monotonic() < end:
