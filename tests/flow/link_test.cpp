@@ -7,7 +7,7 @@
 #include "harness.h"
 #include "initread.h"
 #include "log.h"
-#include "netio.h"
+#include "netio_private.h"
 #include "page.h"
 #include "ready.h"
 #include <chrono>
@@ -377,6 +377,76 @@ TEST_F(Link, AServerMayBeGivenByName)
     EXPECT_LT(SlowPass_ms(300), 10.0) << "the resolver is waited for";
     EXPECT_EQ(GL_NetReConnect, 0);
     strcpy(GL_ServerAddress, "127.0.0.1");
+}
+
+// Until the attempt has come to its end.
+static int Dial(NetDial& dial, const char* host, int* fd)
+{
+    int state = NET_PENDING;
+    for (int i = 0; i < 2000 && state == NET_PENDING; i++, usleep(1000))
+        state = net_dial(&dial, host, HUB_PORT, fd);
+    return state;
+}
+
+// Whether the next call begins a look-up; an attempt that it begins instead is refused.
+static bool LooksUp(NetDial& dial, const char* host)
+{
+    int fd = 0;
+    (void)net_dial(&dial, host, HUB_PORT, &fd);
+    const bool looks_up = dial.lookup_pid != 0;
+    if (dial.fd > 0) {
+        EXPECT_EQ(Dial(dial, host, &fd), NET_FAILED);
+    }
+    return looks_up;
+}
+
+static auto OpenFiles()
+{
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+}
+
+// Each look-up is a process.
+TEST_F(Link, ANameIsLookedUpAfterAPauseWhenItHadNoAddressAndAnewWhenItsHostMayHaveMoved)
+{
+    static constexpr char nobody[] = "no-such-host.invalid";
+    NetDial dial{.owner = READY_HUB};
+    int fd = 0;
+    Clock_ms += 20000;
+    EXPECT_EQ(net_dial(&dial, "", HUB_PORT, &fd), NET_FAILED);
+    Clock_ms += 1000;
+    EXPECT_EQ(Dial(dial, nobody, &fd), NET_FAILED);
+    const auto files = OpenFiles();
+    Clock_ms += 999;
+    EXPECT_FALSE(LooksUp(dial, nobody));
+    Clock_ms += 1;
+    EXPECT_TRUE(LooksUp(dial, nobody));
+
+    EXPECT_EQ(Dial(dial, "localhost", &fd), NET_FAILED) << "refused";
+    EXPECT_FALSE(LooksUp(dial, "localhost"));
+    Clock_ms += 10001;
+    EXPECT_FALSE(LooksUp(dial, "localhost")) << "only what comes of this one tells";
+    EXPECT_TRUE(LooksUp(dial, "localhost"));
+    Peer peer(HUB_PORT);
+    for (const char* host : {"127.0.0.1", "localhost"}) { // the first without waiting for a name
+        EXPECT_EQ(Dial(dial, host, &fd), 1) << host;
+        ASSERT_TRUE(peer.Accept());
+        peer.Drop();
+        close(fd);
+    }
+    EXPECT_EQ(Dial(dial, "127.0.0.2", &fd), NET_FAILED) << "where nobody listens";
+    peer.StopListening();
+    EXPECT_EQ(Dial(dial, nobody, &fd), NET_FAILED);
+    net_hang_up(&dial);
+    EXPECT_TRUE(LooksUp(dial, "localhost")) << "nothing is remembered";
+    net_hang_up(&dial);
+    {
+        const DeadPort port(HUB_PORT);
+        const auto before = OpenFiles();
+        EXPECT_EQ(net_dial(&dial, "127.0.0.1", HUB_PORT, &fd), NET_PENDING);
+        net_hang_up(&dial);
+        EXPECT_EQ(OpenFiles(), before);
+    }
+    EXPECT_EQ(OpenFiles(), files);
 }
 
 static std::string Bytes(Peer& peer, size_t count)

@@ -46,6 +46,46 @@ TEST_F(Netio, ALineComesWhenItsEndHasCome)
     }
 }
 
+TEST(NetioLine, ALineHasRoomForItsEnd)
+{
+    const auto is_end = [](unsigned char c) { return c == '\n'; };
+    char line[NET_LINE_MAX];
+    for (const auto& [length, taken] :
+         {std::pair{NET_LINE_MAX - 1, NET_LINE_MAX - 1}, {NET_LINE_MAX, NET_LINE_TOO_LONG}}) {
+        std::string text = std::string(size_t(length), 'a') + "\n";
+        EXPECT_EQ(net_take_line(text.data(), line, is_end), taken);
+    }
+}
+
+// The kernel takes it in pieces; then the link is lost.
+TEST(NetioQueue, AnItemIsWholeAgainAfterALoss)
+{
+    NetQueue queue;
+    for (const char* item : {"abcdef", "ghi"})
+        ASSERT_TRUE(net_queue_append(&queue, item, int(strlen(item))));
+    const auto first = [&] {
+        return std::string(reinterpret_cast<char*>(queue.first->data_array),
+                           size_t(queue.first->length));
+    };
+    for (uint32_t loss = 0; loss < 2; loss++) { // also a second time
+        EXPECT_EQ(net_queue_sent(&queue, 2, "test"), 0);
+        EXPECT_EQ(net_queue_sent(&queue, 3, "test"), 0);
+        EXPECT_EQ(first(), "f");
+        net_queue_restart(&queue);
+        EXPECT_EQ(first(), "abcdef");
+        EXPECT_EQ(net_state_of(0, queue, 0).connects, loss + 1);
+        net_queue_restart(&queue);
+        EXPECT_EQ(first(), "abcdef") << "nothing had gone this time";
+        queue.connects--;
+    }
+    EXPECT_EQ(net_queue_sent(&queue, 1, "test"), 0);
+    EXPECT_EQ(net_queue_sent(&queue, 5, "test"), 1);
+    net_queue_restart(&queue);
+    EXPECT_EQ(first(), "ghi") << "what has gone belongs to another item";
+    EXPECT_FALSE(net_state_of(0, queue, 0).is_up);
+    net_queue_remove(&queue);
+}
+
 TEST_F(Netio, AFreezeIsNotedWhileAStoreWaitsForIt)
 {
     Net_SendCommand("put Frame Mem@Edit@Freeze@Freeze@Frame@PROC#1");
