@@ -430,7 +430,7 @@ static bool refuse_entry()
 static void knobinput_sel(int id)
 {
     win.is_refused = false;
-    if ((id == KEY_ENTER || id == KEY_TRIM) && refuse_entry())
+    if (id == KEY_ENTER && refuse_entry())
         return;
     if (!begin_input(id)) {
         knobinput_quit(id == KEY_ENTER ? 2 : 0);
@@ -544,8 +544,6 @@ static void page_open(const WindowArgs& args)
     add_bottom(1, KEY_POINT, ".", LOOK_DIGIT);
     add_bottom(2, KEY_BACKSPACE, "BS", LOOK_CLEAR);
     show_value(args.value);
-    if (is_empty(win))
-        win.FirstInput = 0;
 }
 
 static void pagejump_open(const WindowArgs& args)

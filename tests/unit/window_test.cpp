@@ -1,6 +1,7 @@
 #include "a_nb_column.h"
 #include "bus_probe.h"
 #include "colours.h"
+#include "display.h"
 #include "table_page.h"
 #include "timecode.h"
 #include <cstdio>
@@ -404,11 +405,16 @@ TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
     for (const auto& [type, keys, answers] :
          {std::tuple{WINDOW_BANK, "1.-2", Strings{"value C"}},
           {WINDOW_BANK, "99999999999", {"value 7FFFFFFF"}},
+          {WINDOW_BANK, "12\033", {}},
+          {WINDOW_HEX, "aF0.", {"value AF0"}},
+          {WINDOW_HEX, "12\033", {}},
           {WINDOW_HEX, "fffffffffff", {"value FFFF"}}, // the limit
           {WINDOW_HEX, "1", {"value 10"}},             // the other one
           {WINDOW_PAGE_GET, "7316.10", {"value 73160010"}},
           {WINDOW_PAGE_GET, "22..3", {"value 220003"}},
           {WINDOW_PAGE_GET, "123456789.123456", {"value 12341234"}}, // the rest finds no room
+          {WINDOW_PAGE_GET, "1234\1775", {"value 50000"}},           // there is room again
+          {WINDOW_PAGE_GET, "7316\033", {}},
           {WINDOW_PAGE_GET, "", {}}}) {
         CreateWindow(type, "Number", {.min_text = "10", .max_text = "ffff", .ok = HearValue});
         for (const char* key = keys; *key; key++)
@@ -483,8 +489,12 @@ struct PageJump : Windows {
 
 TEST_F(PageJump, EnterOpensThePageThatWasTypedAndAFavouriteItsOwn)
 {
+    CreateWindow(WINDOW_PAGE_GET, "Page");
+    for (const char key : std::string("1111"))
+        Stroke(key);
+    EXPECT_THAT(PixelsIn({172, 126, 381, 205}), AllOf(Contains(TEAL), Contains(ORANGE))) << "tree";
     CreateWindow(WINDOW_PAGE_JUMP, "Page");
-    for (const char key : std::string("7316.10E"))
+    for (const char key : std::string("7316.19+0E")) // the "+" is "BS" here
         TouchAt(CORNER, KeyIn(TEN_KEYS, key, {375, 194}, {54, 59}));
     EXPECT_EQ(GL_CreatePage, 0x73160010u);
     EXPECT_EQ(GetWindow(), 0);
@@ -617,8 +627,10 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
           {1, {"1", "2", "BS", "Enter"}, {"put Clip#1.00"}},
           {1, {"+/-", "BS", "5", "Enter"}, {"put Clip#5.00"}},
           {3, {"2", "1", "2", "9", "BS", "Enter"}, {"put Rate#00:02:12"}},
+          {3, {"1", ":", "1", "BS", "2", "Enter"}, {"put Rate#00:01:02"}},
           {1, {"Trim", "2", "Trim"}, {"put Clip#-10.50"}}, // the first has nothing to add
           {1, {"+/-", "9", "0", "Trim"}, {"put Clip#-100.00"}},
+          {2, {"1", "0", "+/-", "Trim"}, {"put Level#10.0"}}, // a difference may be below the limit
           {2, {"2", "0", "0", "Enter"}, {"put Level#109.5"}}, // limits the other way round
           {3, {"Enter"}, {"put Rate#00:03:00"}},
           {3, {"2", "5", "1", "2", "Enter"}, {"put Rate#00:25:12"}},
@@ -632,12 +644,20 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
         EXPECT_EQ(NB_SendValue(1), -1) << "a box is still selected";
     }
     // The ten keys of a keyboard.
-    PressSlot(1);
-    Forget();
-    for (int sym : {int(SDLK_KP1), int(SDLK_DELETE), int(SDLK_KP_MINUS), int(SDLK_KP9), int('.'),
-                    int(SDLK_KP0), int(SDLK_KP5), int(SDLK_KP_ENTER)})
-        Stroke(sym);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put Clip#-9.05"));
+    for (const auto& [slot, strokes, sent] :
+         {std::tuple<int, std::vector<int>, const char*>{
+              1,
+              {SDLK_KP1, SDLK_DELETE, SDLK_KP_MINUS, SDLK_KP9, ':', '.', SDLK_KP0, SDLK_KP5},
+              "put Clip#-9.05"},
+          {3, {'1', '.', '2'}, "put Rate#00:00:12"},
+          {3, {'1', ';', '2'}, "put Rate#00:01:02"}}) {
+        PressSlot(slot);
+        Forget();
+        for (const int sym : strokes)
+            Stroke(sym);
+        Stroke(SDLK_KP_ENTER);
+        EXPECT_THAT(TakeQueuedCommands(), ElementsAre(sent));
+    }
 }
 
 // A press on another box moves the window there; the page under it is still saved.
@@ -661,11 +681,42 @@ TEST_F(KnobInput, AnotherBoxTakesTheWindowOverAndATimeCodeThatDoesNotExistIsSent
         EXPECT_THAT(Sent(3, keys), IsEmpty());
         EXPECT_EQ(GetWindow(), WINDOW_KNOB) << "what was typed can be mended";
         EXPECT_THAT(PixelsIn({446, 140, 700, 270}), Contains(RED));
+        Hit({"+/-"});
+        EXPECT_THAT(PixelsIn({446, 140, 700, 270}), Not(Contains(RED)));
         Window_ReserveQuit(2); // code has its way
         Pass(10);
         EXPECT_EQ(GetWindow(), 0);
         EXPECT_THAT(TakeQueuedCommands(), IsEmpty()) << keys[0];
     }
+}
+
+TEST_F(KnobInput, AWindowThatHasMovedOnLooksAsOneThatWasOpened)
+{
+    const Display display;
+    const auto look = [](int slot) {
+        PressSlot(slot);
+        Pass(200);
+        EXPECT_EQ(Display::Lacks(), "") << slot;
+        return PixelsIn({446, 140, 691, 521});
+    };
+    for (const auto& [from, to, keys] : {std::tuple{1, 3, Keys{"9", "+/-"}},
+                                         {3, 1, {"4", "5", "Enter"}},
+                                         {1, 2, {}},
+                                         {2, 1, {"1"}}}) {
+        const auto opened = look(to);
+        EXPECT_THAT(opened, Contains(BOX_VALUE)) << "nobody has typed yet";
+        CloseWindow();
+        PressSlot(from);
+        Hit(keys);
+        EXPECT_EQ(look(to), opened) << from << " " << to;
+        CloseWindow();
+    }
+    const auto point_key = [&](int slot) {
+        (void)look(slot);
+        return PixelsIn({517, 450, 566, 499});
+    };
+    EXPECT_NE(point_key(1), point_key(3)) << "a colon";
+    EXPECT_EQ(point_key(1), point_key(2));
 }
 
 // The value of a box on the air: what nobody has typed does not change it.
@@ -677,7 +728,8 @@ TEST_F(KnobInput, EnterAsTheFirstKeyLeavesEveryValueAsItWas)
           {1, "-12.345", {}},              // its text would be another value
           {1, "250", {"put Clip#250.00"}}, // beyond the limits of the box
           {3, "45", {"put Rate#00:01:15"}},
-          {3, "126000", {"put Rate#01:10:00:00"}}}) {
+          {3, "126000", {"put Rate#01:10:00:00"}},
+          {3, "-126000", {"put Rate#-01:10:00:00"}}}) { // longer than the entry
         Tally(paths[slot], tally);
         EXPECT_EQ(Sent(slot, {"Enter"}), sent) << tally;
         EXPECT_EQ(GetWindow(), 0);
@@ -689,6 +741,8 @@ TEST_F(KnobInput, EnterAsTheFirstKeyLeavesEveryValueAsItWas)
         EXPECT_STREQ(GL_KnobSetVar, "");
         CloseWindow();
     }
+    EXPECT_THAT(Sent(3, {"Enter"}), IsEmpty());
+    EXPECT_EQ(GetWindow(), 0);
 }
 
 // Shown and entered by the same rate, whatever the two formats say.
