@@ -172,6 +172,7 @@ static void copy_row(int from, int to, bool wo_name)
     CopyText(name, wo_name ? rs.status[to].name : rs.status[from].name);
     rs.status[to] = rs.status[from];
     rs.status[to].islock = false;
+    rs.status[to].free_bitmap = rs.status[to].region_bitmap;
     CopyText(rs.status[to].name, name);
     rs.redraw[to] = true;
     rs.Status_Detail_Redraw = true;

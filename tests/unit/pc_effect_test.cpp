@@ -146,7 +146,8 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
         for (const auto& [column, line] : cells)
             (void)Touch(146 + 70 * column, 110 + 55 * line);
     };
-    const std::pair<int, int> me1 = {0, 0}, me2 = {1, 0}, rtr = {6, 0}, dev1 = {0, 4};
+    const std::pair<int, int> me1 = {0, 0}, me2 = {1, 0}, rtr = {6, 0}, dev1 = {0, 4},
+                              dev2 = {1, 4}, pbus = {4, 5}, gpi = {5, 5}, dme8 = {7, 3};
     const auto links = [](std::map<int, std::string> some, int n) {
         std::string text;
         for (int i = 0; i < n; i++)
@@ -155,13 +156,19 @@ TEST_F(EffectPages, LinksAreAssignedWhereTheRegionHasSuchARegister)
     };
     static const std::string edit = "put Shotbox@Register@Store/Recall@Edit@Store#1";
     Open(0x64110001);
-    assign(200, {me1, dev1}); // a bank has 99 registers
-    assign(12, {me2, rtr});   // the router has snapshots only
+    assign(200, {me1, dev1, dev2, pbus, gpi}); // a bank has 99 registers
+    assign(12, {me2, rtr});                    // the router has snapshots only
+    EXPECT_EQ(BT_GetStatus(SNAPSHOT), BT_OFF);
     (void)Press(SNAPSHOT);
-    assign(7, {me1, rtr, dev1}); // a device has none
+    EXPECT_EQ(BT_GetStatus(SNAPSHOT), BT_ON);
+    assign(7, {me1, rtr, dev1, dme8}); // a device has none
+    assign(0, {dev2});
+    assign(100, {me2});
     EXPECT_THAT(Puts(STORE), ElementsAre(edit + links({{SS_REGION_ME1, "S7"},
                                                        {SS_REGION_ME2, "12"},
+                                                       {SS_REGION_DME8, "S7"},
                                                        {EFF_REGION_DEV1, "200"},
+                                                       {EFF_REGION_PBUS, "200"},
                                                        {EFF_REGION_MASTER, "S7"}},
                                                       REGISTER_LINKS)));
     EXPECT_THAT(Puts(UNDO), IsEmpty()); // no line of the server has come: it holds what it held

@@ -142,13 +142,17 @@ TEST_F(RegisterPages, HoldGoesToMarksAndBack)
         {0, "AB1234567U1U2U3", " A B 1 2 3 4 5 6 7 U1 U2 U3", "AB1234567U1U2U3", " x"},
         {0, "AB1234U1U2U3", " A B 1 2 3 4 U1 U2 U3", "AB1234U1U2U3", " X", 4},
         {0, "AB123U1U2U3", " A B 1 2 3 U1 U2 U3", "AB123U1U2U3", " x", 4},
+        {0, "AB12345U1U2U3", " A B 1 2 3 4 5 U1 U2 U3", "AB12345U1U2U3", " x", 5},
         {0, "A5U1", " A U", "A5U1", " x", 4, DEVTYPE_QRD33, DEVTYPE_NTR40},
         {0, "AB12345678U1U2U3D2", " A B 1 2 3 4 5 6 7 8 U U2 U3 D2", "AB12345678U1U2U3D2", " x", 8,
          DEVTYPE_QRD33}, // exactly 13 there
         {5, "AB1234U1U2U3", " A B 1 2 3 4 U1 U2 U3", "AB1234U1U2U3", " X", 4},
         {6, "AB12345678U1U2U3", " 1 2 3 4 5 6 7 8 U1 U2 U3", "12345678U1U2U3", " X"},
+        {6, "12345678U1U2U3D2", " 1 2 3 4 5 6 7 8 U U2 U3 D2", "12345678U1U2U3D2", " X", 8,
+         DEVTYPE_QRD33}, // of a sub side that does
         {6, "AB1234U1U2U3", " 1 2 3 4 U1 U2 U3", "1234U1U2U3", " X", 4},
         {12, "000000010000", " Aux", "0000000100000000", " x"},
+        {12, "00f0a90A0000", " Aux", "00F0A90A00000000", " x"},
         {12, "FFFFFFFF0000FFFF", " Aux", "FFFFFFFF0000FFFF", " X"},
         {12, "0000000000010000", "", "0000000000010000", " x"}, // behind the aux buses
         {27, "FvFkBvBk", " Fv Fk Bv Bk", "FvFkBvBk", " X"},
@@ -177,6 +181,17 @@ TEST_F(RegisterPages, HoldGoesToMarksAndBack)
         SYS_Format_Size = size;
         SYS_Format_Scan = scan;
         EXPECT_EQ(snapshot_xpthold_keys(0), keys) << size << scan;
+    }
+    // Boards of a small switcher that are split further show the keys that their banks have.
+    for (const auto& [type, split, max, keys] : {std::array{int(DEVTYPE_NTR40), 3, 6, 6},
+                                                 {DEVTYPE_NTR40, 3, 9, 8},
+                                                 {DEVTYPE_NTR40, 2, 4, 4},
+                                                 {DEVTYPE_NTR40, 2, 6, 8},
+                                                 {switcher, 3, 4, 8}}) {
+        SYS_RefSwrType = type;
+        std::fill(std::begin(GL_BoardMESplit), std::end(GL_BoardMESplit), split);
+        GL_KeyMax[0] = max;
+        EXPECT_EQ(snapshot_xpthold_keys(0), keys) << split << max;
     }
 }
 
@@ -465,8 +480,99 @@ TEST_F(RegisterPages, TheOverviewActsOnEveryRegionThatHoldsTheRegister)
     touch(2, 1);
     EXPECT_THAT(Puts(53),
                 ElementsAre(PUT + "Copy#2,12,12,2,21,false", PUT + "Copy#1,12,12,1,21,false"));
+    // Shown at once; the server has said nothing yet.
+    EXPECT_THAT(Puts(49), ElementsAre(PUT + "Recall#3, 21"));
     touch(9, 9);
-    EXPECT_THAT(Puts(50), IsEmpty()); // nothing there
+    for (const int key : {49, 50, 51, 54}) {
+        EXPECT_THAT(Puts(key), IsEmpty()) << "nothing there";
+        EXPECT_EQ(GetWindow(), WINDOW_NONE) << key;
+    }
+}
+
+TEST_F(RegisterPages, TheOverviewLeavesALockedRegisterAsItIs)
+{
+    constexpr Rect CELLS[] = {{119, 424 - 26, 169, 418}, {119 + 58, 164 + 26, 227, 210}}; // 9, 11
+    Choose(REGKIND_SNAPSHOT, {257});
+    Store("M/E-1", 9, "ONE,L,,n,n,n");
+    Store("P/P", 9, "TWO,S,,n,n,n");
+    Store("M/E-1", 10, "ALL,L,,n,n,n");
+    Open(0x63210000);
+    Cursor(1, 8);
+    Open(0x63000000);
+    EXPECT_EQ(Shown("Register"), "9") << "as in the list";
+    const auto turn = [](int number) { SendMessage(LMSG_KNOBVAR, 1, number, 0, 0); };
+    for (const auto& [to, shown] : {std::pair{0, "1"}, {100, "99"}, {9, "9"}}) {
+        turn(to);
+        EXPECT_EQ(Shown("Register"), shown);
+    }
+    EXPECT_THAT(Puts(50), ElementsAre(PUT + "UnLock#3,9,9")) << "one of its regions is locked";
+    for (const auto& [key, command] : {std::pair{51, "Rename#1,9,ONE"}, {54, "Delete#1,9,9"}}) {
+        (void)Press(key);
+        EXPECT_THAT(Confirm(), ElementsAre(PUT + command));
+        Pass(200);
+    }
+    Store("M/E-1", 12, ",S,,n,n,n");
+    turn(12);
+    (void)Press(51);
+    EXPECT_THAT(Confirm(), IsEmpty()) << "no name";
+    (void)Puts(52);
+    EXPECT_THAT(Puts(53), IsEmpty()) << "onto itself";
+    (void)Puts(52);
+    turn(9);
+    EXPECT_THAT(Seen({177, 216, 227, 236}), Not(Each(0x005A6Eu))) << "its number";
+    // From, and again: not from there after all.
+    for (const bool is_on : {true, false, true}) {
+        (void)Puts(52);
+        EXPECT_EQ(BT_GetStatus(52) == BT_THIRD, is_on);
+        EXPECT_EQ(BT_GetVisible(53) == BT_ENABLED, is_on);
+    }
+    turn(10);
+    for (const int key : {51, 53, 54}) {
+        EXPECT_THAT(Puts(key), IsEmpty());
+        EXPECT_EQ(GetWindow(), WINDOW_NONE) << key;
+    }
+    const auto look = [&](int cell) { return Seen(CELLS[cell]); };
+    const auto locked = look(0);
+    EXPECT_THAT(locked, Contains(0x005A6Eu));
+    const auto empty = look(1);
+    EXPECT_THAT(empty, Contains(0x14323Cu));
+    turn(11);
+    const auto chosen = look(1);
+    EXPECT_THAT(chosen, Contains(0x00C8F0u));
+    EXPECT_THAT(Puts(53),
+                ElementsAre(PUT + "Copy#2,9,9,2,11,false", PUT + "Copy#1,9,9,1,11,false"));
+    EXPECT_NE(look(1), chosen) << "its name";
+    EXPECT_EQ(BT_GetStatus(52), BT_OFF);
+    EXPECT_EQ(BT_GetVisible(53), BT_DISABLED);
+    EXPECT_THAT(Puts(50), ElementsAre(PUT + "Lock#3,11,11")) << "the copy is not";
+    (void)Press(51);
+    EXPECT_THAT(Confirm(), ElementsAre(PUT + "Rename#3,11,ONE"));
+    turn(9);
+    EXPECT_THAT(look(1), Contains(0x005A6Eu));
+    constexpr Rect DETAIL = {100, 76, 701, 141};
+    EXPECT_THAT(Seen(DETAIL), Contains(YELLOW)) << "Lock";
+    Store("M/E-1", 9, "ONE,S,,n,n,n");
+    const auto both = Seen(DETAIL);
+    EXPECT_THAT(both, Not(Contains(YELLOW)));
+    Store("P/P", 9, ",E,,n,n,n");
+    EXPECT_NE(Seen(DETAIL), both) << "the strip of its regions";
+    Store("M/E-1", 9, ",E,,n,n,n");
+    EXPECT_EQ(PixelAt(CELLS[0].x1, CELLS[0].y1), 0x00C8F0u);
+    turn(8);
+    EXPECT_THAT(look(0), Contains(0x14323Cu));
+    for (const auto& [lock, is_as_before] : {std::pair{"U", false}, {"L", true}}) {
+        Store("M/E-1", 9, std::string("ONE,") + lock + ",,n,n,n");
+        EXPECT_EQ(look(0) == locked, is_as_before) << lock;
+    }
+    Open(0x63230000);
+    (void)Press(BTN_REGISTER_WO_NAME);
+    Open(0x63000000);
+    turn(10);
+    (void)Puts(52);
+    turn(12);
+    EXPECT_THAT(Puts(53), ElementsAre(PUT + "Copy#2,10,10,2,12,true"));
+    (void)Press(51);
+    EXPECT_THAT(Confirm(), IsEmpty()) << "it still has no name";
 }
 
 TEST_F(RegisterPages, AMasterIsEditedStoredAndUndone)
@@ -479,6 +585,8 @@ TEST_F(RegisterPages, AMasterIsEditedStoredAndUndone)
         zeros += ",0";
     (void)Tell(master + "U,1,8" + none);
     Open(0x63110001);
+    EXPECT_EQ(Shown("Register"), "1");
+    EXPECT_THAT(Puts(54), IsEmpty()) << "it is as it was";
     (void)Puts(51); // no cell is chosen: nothing is edited
     (void)Tell(master + "U,7,8" + none);
     Pass(200);
@@ -498,8 +606,64 @@ TEST_F(RegisterPages, AMasterIsEditedStoredAndUndone)
     Pass(200); // nothing has come of it
     EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
     (void)CloseWindow();
-    EXPECT_THAT(Puts(52), ElementsAre("put Snapshot@Master Snapshot@Store/Recall@Edit@Recall#1"));
+    const std::string recall = "put Snapshot@Master Snapshot@Store/Recall@Edit@Recall#";
+    EXPECT_THAT(Puts(52), ElementsAre(recall + "1"));
+    const auto assign = [](int link) { // the cell is still chosen
+        SendMessage(LMSG_KNOBVAR, 1, link, 0, 0);
+        (void)Puts(51);
+    };
+    assign(43);
+    (void)Tell(master + "U,9,8" + none); // another panel's store
+    EXPECT_THAT(Puts(53), ElementsAre(store + ",7,43" + zeros)) << "what is edited stays";
+    (void)Tell("Snapshot@Master Snapshot@Store/Recall@List#2,SHOW,S,U,7,43" + none);
+    Pass(3100);
+    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "that was another register";
+    (void)CloseWindow();
+    (void)Puts(53);
+    (void)Tell(master + "U,7,43" + none);
+    (void)Tell(master + "U,6,43" + none);
+    Pass(3100);
+    EXPECT_EQ(GetWindow(), WINDOW_NONE) << "it has been stored, and changed since";
+    EXPECT_THAT(Puts(53), ElementsAre(store + ",6,43" + zeros));
+    (void)Tell(master + "U,6,43" + none);
+    assign(44);
+    (void)Puts(52);
+    EXPECT_THAT(Puts(53), ElementsAre(store + ",6,43" + zeros)) << "recalled";
+    (void)Tell(master + "U,6,43" + none);
+    assign(44);
+    (void)Puts(52);
     (void)Tell(master + "L,7,8" + none);
-    EXPECT_THAT(Puts(53), IsEmpty());
-    EXPECT_EQ(GetWindow(), WINDOW_MESSAGE);
+    for (const int key : {53, 54}) {
+        EXPECT_THAT(Puts(key), IsEmpty());
+        EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << key;
+        (void)CloseWindow();
+    }
+    (void)Tell(master + "U,7,8" + none);
+    EXPECT_THAT(Puts(53), ElementsAre(store + ",7,8" + zeros)) << "nothing was edited";
+    const std::string current = "Snapshot@Master Snapshot@Store/Recall@Current Register";
+    constexpr Rect HEAD = {100, 76, 701, 98}, CELL = {208, 102, 274, 152};
+    auto look = Seen(HEAD);
+    for (const std::string& line : {current + "#5", master + "L,7,8" + none}) {
+        (void)Tell(line);
+        EXPECT_NE(Seen(HEAD), look) << line;
+        look = PixelsIn(HEAD);
+    }
+    (void)Tell(master + "U,7,8" + none);
+    const auto linked = Seen(CELL);
+    (void)Touch(278 + 10, 102 + 10); // M/E-3 looks pushed for a moment
+    for (const int ms : {10, 200}) {
+        Pass(ms);
+        EXPECT_EQ(PixelAt(278, 102) == WHITE, ms == 10) << ms;
+    }
+    (void)Touch(278 + 10, 102 + 10);
+    EXPECT_EQ(PixelAt(138 + 2, 102 + 2), 0x005A6Eu) << "M/E-1 has a link";
+    assign(45);
+    EXPECT_NE(Seen(CELL), linked);
+    (void)Puts(52);
+    EXPECT_EQ(Seen(CELL), linked);
+    EXPECT_THAT(Leave(), Contains("remove " + current));
+    Open(0x63110000);
+    Cursor(1, 2);
+    Open(0x63110001);
+    EXPECT_THAT(Puts(52), ElementsAre(recall + "3")) << "as in the list";
 }
