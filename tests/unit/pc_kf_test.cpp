@@ -1,11 +1,15 @@
 #include "a_kf_private.h"
 #include "a_kp.h"
+#include "colours.h"
 #include "display.h"
+#include "netio.h"
 #include "page_walk.h"
 #include "pane.h"
 #include "pc_kf.h"
 #include "pc_kf_page.h"
 #include "setup_index.h"
+#include "tenkey.h"
+#include "text.h"
 #include <array>
 
 struct TimelinePage : KeyframePage {
@@ -345,7 +349,10 @@ TEST_F(RegionPage, EntryAndExitTellThePanelAndTheLampsFollowTheSelection)
     constexpr char pcx[] = "put Engineering Setup@Panel@Config@10 Key Region Assign@Pcx#40";
     CreatePage(PAGE_TOP);
     EXPECT_THAT(Sent(), ElementsAre(pcx));
+    const int frames = Net_State(NET_LINK_BIN).waiting;
     CreatePage(0x61170000);
+    EXPECT_EQ(Net_State(NET_LINK_BIN).waiting, frames + 1) << "the selection is read";
+    EXPECT_NE(BT_GetVisible(53), BT_ENABLED) << "this panel has one module";
     const auto sent = TakeQueuedCommands();
     EXPECT_THAT(sent, Contains(pcx));
     for (const char* n : {"1", "23"})
@@ -363,6 +370,57 @@ TEST_F(RegionPage, EntryAndExitTellThePanelAndTheLampsFollowTheSelection)
     EXPECT_EQ(lamps(0)[1], first[1]);
     EXPECT_NE(lamps(1)[0], second[0]);
     EXPECT_NE(lamps(1)[1], second[1]);
+    kf::Select({1, 0x02, 0, 0x01, 0, 0, 0, 0}); // the reference alone changes
+    EXPECT_EQ(lamps(0)[0], first[0]);
+    EXPECT_EQ(lamps(1)[0], second[0]);
+    kf::Select({1, 0x02, 0, 0, 0, 0, 0, 0});
+    EXPECT_EQ(lamps(1)[1], second[1]);
+}
+
+TEST_F(RegionPage, AKeyHasTheColourOfItsFirstRegionAndALineWhereTheyDiffer)
+{
+    SYS_3DMode = 1; // takes M/E-3 away
+    static const std::tuple<const char*, unsigned, bool> cases[] = {
+        {"M/E-1,,,", GREEN, false}, {"M/E-1,M/E-2,,", GREEN, true},
+        {",P/P,,", ORANGE, false},  {"M/E-2,P/P,,", ORANGE, true},
+        {"M/E-2,,,", WHITE, false}, {"M/E-3,,,", 0x787878, false},
+    };
+    for (const auto& [regions, colour, differ] : cases) {
+        TenKey(1, regions);
+        const auto cap = Seen({106, 102, 161, 137});
+        EXPECT_THAT(cap, Contains(colour)) << regions;
+        EXPECT_EQ(std::ranges::count(cap, RED) > 0, differ) << regions;
+    }
+    SYS_3DMode = 0;
+}
+
+TEST_F(RegionPage, EveryRegionOfTheSelectionIsOnTheKeyWithItsName)
+{
+    int named = 0;
+    for (unsigned bit = 0; bit < 56; bit++) {
+        const auto select = [bit](int reference) {
+            kf::Bytes bytes(8, 0);
+            bytes[0] = static_cast<unsigned char>(reference);
+            bytes[1 + bit / 8] = static_cast<unsigned char>(1 << bit % 8);
+            kf::Send(kf::SELECTION, bytes);
+        };
+        select(1);
+        for (int n = 0; const regnametbl* const name = TenKey_Region(n); n++) {
+            int region = 0;
+            while (region < KF_REGIONS && StrICmp(KF_GetRegionName(region), name->tally) != 0)
+                region++;
+            if (!KF_IsRegionSelected(region))
+                continue;
+            named++;
+            select(KF_GetRegionStatus(region)->code);
+            const std::string other = std::string(name->tally) == "GPI" ? "MACRO" : "GPI";
+            TenKey(1, (std::string(name->tally) + "," + other + ",,").c_str());
+            EXPECT_THAT(Selection({0, 1}),
+                        ElementsAre(ENABLE + name->tally + "#false", ENABLE + other + "#true"));
+            EXPECT_THAT(Seen({106, 102, 161, 137}), Contains(GREEN)) << name->tally;
+        }
+    }
+    EXPECT_EQ(named, 44);
 }
 
 TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKeyThatRubbishDoesNotChange)
@@ -384,7 +442,9 @@ TEST_F(RegionPage, APressSendsTheRegionOfTheChosenKeyThatRubbishDoesNotChange)
     EXPECT_THAT(Selection(), IsEmpty());
 
     Key(1);
-    TenKey(1, "M/E-1,,,");
+    TenKey(1, "P/P,,,");
+    TenKey(1, "M/E-1");
+    Tally(TENKEY + "1", "1,0");
     for (const char* number : {"0", "24", "-1", "", "x", "99999999999"})
         Tally(TENKEY + number, "1,0,P/P,,,");
     EXPECT_THAT(Selection(), ElementsAre(ENABLE + "M/E-1#false"));
@@ -436,4 +496,20 @@ TEST_F(RegionPage, TheNewestPanelHasItsKeysOnTwoModules)
     EXPECT_THAT(Selection(), ElementsAre(ENABLE + "User1#true"));
     Key(15);
     EXPECT_THAT(Selection(), ElementsAre(ENABLE + "User2#true"));
+    TenKey(7, "M/E-2,,,");
+    Pass(10);
+    Button(53);
+    EXPECT_EQ(BT_GetStatus(53), BT_ON);
+    Key(8); // not on this module
+    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "M/E-2#true")) << "the last of its keys";
+    EXPECT_THAT(Seen({240, 154, 307, 220}), Each(0u)) << "nor painted";
+    SetupMenu[0] = {.page = 0x61170000, .lock = 1};
+    SetupMenu_Max = 1;
+    SetupLock.lock = 1;
+    Button(54);
+    EXPECT_EQ(BT_GetStatus(53), BT_ON);
+    SetupLock.lock = 0;
+    Open(0x61170000);
+    TenKey(1, "M/E-1,,,");
+    EXPECT_THAT(Selection(), ElementsAre(ENABLE + "M/E-1#false")) << "it begins with the first";
 }
