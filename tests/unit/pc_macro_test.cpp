@@ -1,6 +1,7 @@
 // The pages of the macro registers and the offline editor: what goes over the wire, what the lists
 // show, what stands in the file.
 #include "a_ls_private.h"
+#include "colours.h"
 #include "command.h"
 #include "lost_server.h"
 #include "netio.h"
@@ -133,6 +134,11 @@ struct MacroOnlinePage : MacroPages {
     {
         TellAll(ONLINE + "Current Work Register Event Data#", lines);
         Pass(10);
+    }
+    static std::vector<uint32_t> Look(const Rect& part)
+    {
+        Pass(10);
+        return PixelsIn(part);
     }
 };
 
@@ -624,12 +630,28 @@ TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
     Records({"2,0,#,Another"});
     EXPECT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 5) << "a line that comes again";
     EXPECT_EQ(Cell(LIST_MACRO_ONLINE, 2, ONLINE_COL_SYMBOL), "Another");
+    Records({"1,0,Event,MECut,ME,P/P", "0,0,Event,Stop,Device,Dev1"});
+    EXPECT_EQ(Row(0, 3), "Event 1|MECut|P/P ");
+    EXPECT_EQ(Row(1, 3), "Continue|Stop|Dev1 ");
+    EXPECT_EQ(Row(5, 3), "Event|Stop|Dev1 ") << "it has no number yet";
     (void)TakeQueuedCommands();
     SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 2, 0, 0);
-    SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 5, 0, 0); // there is none
+    SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 6, 0, 0); // there is none
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre(PUT_ONLINE + "Macro Event Edit Range#2,0"));
+    constexpr Rect DETAIL = {100, 302, 540, 322}; // the line at the cursor
+    (void)LS_SetNowLine(LIST_MACRO_ONLINE, 1);
+    (void)ChooseRow(LIST_MACRO_ONLINE, 1);
+    EXPECT_THAT(Look(DETAIL), Contains(TEAL));
+    (void)LS_SetNowLine(LIST_MACRO_ONLINE, 2); // a comment has no values
+    (void)ChooseRow(LIST_MACRO_ONLINE, 2);
+    EXPECT_THAT(Look(DETAIL), Not(Contains(TEAL)));
+    (void)LS_SetNowLine(LIST_MACRO_ONLINE, 1);
     Records({"KILL"});
     EXPECT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 0);
+    EXPECT_THAT(PixelsIn(DETAIL), Not(Contains(TEAL)));
+    EXPECT_EQ(Usable({BTN_ONLINE_BEFORE, BTN_ONLINE_AFTER, BTN_ONLINE_MODIFY, BTN_ONLINE_DELETE}),
+              (std::vector<int>{BTN_ONLINE_BEFORE, BTN_ONLINE_AFTER}));
+    EXPECT_THAT(Puts(BTN_ONLINE_BEFORE), ElementsAre(PUT_ONLINE + "Insert#0,0"));
 }
 
 TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
@@ -640,9 +662,17 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
     EXPECT_THAT(Puts(BTN_ONLINE_AFTER), ElementsAre(PUT_ONLINE + "Insert#1,1"));
     EXPECT_THAT(Puts(BTN_ONLINE_NEXT), ElementsAre(PUT_ONLINE + "Macro Event Edit Range#2,0"));
     EXPECT_EQ(LS_GetNowLine(LIST_MACRO_ONLINE), 2) << "its line";
+    (void)LS_SetNowLine(LIST_MACRO_ONLINE, 1);
+    (void)LS_SetSelected(LIST_MACRO_ONLINE, 1, 0, 1);
+    (void)ChooseRow(LIST_MACRO_ONLINE, 1);
+    (void)Tell(ONLINE + "Current Work Register Modify Flag#1");
+    Pass(10);
+    EXPECT_EQ(LS_GetNowLine(LIST_MACRO_ONLINE), 1) << "another line of the same event";
     (void)LS_SetMS(LIST_MACRO_ONLINE, 1);
     for (int row : {0, 2, 4})
         (void)LS_SetSelected(LIST_MACRO_ONLINE, row, 0, 1);
+    (void)LS_SetSelected(LIST_MACRO_ONLINE, 1, 0, 0);
+    EXPECT_THAT(Puts(BTN_ONLINE_MODIFY), ElementsAre(PUT_ONLINE + "Modify#4,0,1"));
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
                 ElementsAre(PUT_ONLINE + "Delete#4,0,1", PUT_ONLINE + "Delete#2,0,1",
                             PUT_ONLINE + "Delete#1,0,1"));
@@ -650,11 +680,28 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
                 ElementsAre(PUT_ONLINE + "Delete#4,0,1", PUT_ONLINE + "Delete#1,0,3"));
     // Nothing is taken twice while the link is down.
-    Pass(200);
+    constexpr Rect TOP_LINE = {100, 75, 700, 95};
+    const auto plain = Look(TOP_LINE);
     Net_SendCommand("put X#1");
-    const std::string key = "LOCAL@" + ONLINE + "Delete";
-    SendMessage(LMSG_BTNSEL, Arg(key.c_str()), Arg(""), 0, 0);
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put X#1"));
+    const auto touch = [](const char* key) {
+        const std::string command = "LOCAL@" + ONLINE + key;
+        SendMessage(LMSG_BTNSEL, Arg(command.c_str()), Arg(""), 0, 0);
+        return TakeQueuedCommands();
+    };
+    EXPECT_THAT(touch("Delete"), ElementsAre("put X#1"));
+    EXPECT_NE(Look(TOP_LINE), plain) << "it is said";
+    (void)Tell(ONLINE + "Macro Edit Mode#true");
+    EXPECT_EQ(Look(TOP_LINE), plain);
+    for (const char* line : {"Remain Macro Event Cell#999", "Current Macro Register Info#3,A,U,4,1",
+                             "Current Macro Register Info#3,A,L,4,1"}) {
+        const auto before = PixelsIn(TOP_LINE);
+        (void)Tell(ONLINE + line);
+        EXPECT_NE(Look(TOP_LINE), before) << line;
+    }
+    for (const auto& [at, key] : {std::pair{"1", "Previous"}, {"4", "Next"}}) { // touched quickly
+        (void)Tell(std::string(ONLINE + "Current Macro Register Info#3,A,U,4,") + at);
+        EXPECT_THAT(touch(key), IsEmpty());
+    }
     (void)Tell(ONLINE + "Current Macro Register Info#3,OPENING,L,4,1");
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE), IsEmpty());
 }
@@ -705,11 +752,33 @@ TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
         Pass(10);
         EXPECT_EQ(Usable({BTN_ONLINE_PREVIOUS, BTN_ONLINE_NEXT}), usable) << at;
     }
-    const Lines left = Leave(), opened = Open(PAGE_MACRO_ONLINE);
+    for (const auto& [count, runs] : {std::pair{"4", 1}, {"0", 0}, {"x", 0}}) {
+        (void)Tell(std::string(ONLINE + "Current Macro Register Info#3,OPENING,U,") + count + ",x");
+        Pass(10);
+        EXPECT_EQ(Usable({BTN_ONLINE_RUN}).size(), size_t(runs)) << count;
+        EXPECT_THAT(Usable({BTN_ONLINE_PREVIOUS}), IsEmpty());
+    }
+    const Lines left = Leave();
+    LoseServer();
+    EXPECT_EQ(GL_CreatePage, 0u) << "the page is closed";
+    const Lines opened = Open(PAGE_MACRO_ONLINE);
     for (const char* path : {"Macro Edit Mode", "Current Work Register Event Data"}) {
         EXPECT_THAT(left, Contains("remove " + ONLINE + path));
         EXPECT_THAT(opened, Contains("add " + ONLINE + path));
     }
+    EXPECT_THAT(left, Contains(PUT_ONLINE + "Macro Edit Mode#false"));
+    for (const char* put :
+         {"Recall#3", "Macro Edit Mode#true", "Current Work Register Event Data#1"})
+        EXPECT_THAT(opened, Contains(PUT_ONLINE + put));
+    EXPECT_THAT(opened, Contains("read " + ONLINE + "Macro Edit Mode"));
     LoseServer();
     EXPECT_EQ(GL_CreatePage, PAGE_MACRO_ONLINE) << "empty, until the server answers again";
+    GL_CreatePage = PAGE_TOP;
+    LoseServer();
+    EXPECT_EQ(GL_CreatePage, PAGE_TOP) << "the operator's wish";
+    (void)Open(PAGE_MACRO_ONLINE);
+    constexpr Rect NOTE = {310, 75, 560, 95};
+    EXPECT_THAT(Look(NOTE), Contains(ORANGE)) << "the server does not answer";
+    (void)Tell(ONLINE + "Macro Edit Mode#true");
+    EXPECT_THAT(Look(NOTE), Not(Contains(ORANGE)));
 }
