@@ -3,12 +3,12 @@
 #include "a_nb.h"
 #include "a_pc.h"
 #include "colours.h"
-#include "global.h"
 #include "message.h"
 #include "page_table/gallery_shared.h"
 #include "pane.h"
 #include "tdl.h"
 #include "text.h"
+#include "timecode.h"
 #include "window.h"
 #include <cstring>
 #include <iterator>
@@ -20,6 +20,7 @@ namespace
 constexpr int PROGRESS_STEP_MS = 50; // a percent
 constexpr int INDICATOR_MS = 3000;
 constexpr Rect ANSWER = {112, 100, 690, 116};
+constexpr char BOX_TIME[] = "00:12:34:15";
 constexpr int ENTRIES = 85; // more than two pages of a directory
 
 // A key of the page and what it opens; returns the id of a pane, or nothing of use for a window.
@@ -240,7 +241,7 @@ static int open_knob(int type, int box)
     NB_SetSelect(box);
     if (box == 2)
         return CreateWindow(type, "Time Code",
-                            {.value = "00:12:34:15",
+                            {.value = BOX_TIME,
                              .min_text = "00:00:00:00",
                              .max_text = "23:59:59:29",
                              .is_timecode = true});
@@ -339,7 +340,7 @@ static int pc_gallery_windows_create(int on, uint32_t)
     if (!on)
         return 1;
     NB_SetVar(1, 12.5);
-    NB_SetVar(2, (12 * 60 + 34) * SYS_FrameRate + 15);
+    NB_SetVar(2, TC2Frame_SWR(BOX_TIME, 0));
     return 0;
 }
 

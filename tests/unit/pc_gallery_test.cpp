@@ -1,6 +1,8 @@
 #include "a_fl.h"
 #include "a_st_draw.h"
+#include "pane.h"
 #include "table_page.h"
+#include "timecode.h"
 
 using GalleryPages = TablePage;
 
@@ -112,4 +114,78 @@ TEST_F(GalleryPages, EachSideOfTheFilesGoesRoundTheDrives)
     (void)Press(36);
     EXPECT_EQ(FL_GetDevice(FL_R_LIST), FL_DIRDATA_STORAGE_ROOT + 1);
     EXPECT_EQ(FL_GetDevice(FL_L_LIST), FL_DIRDATA_STORAGE_ROOT);
+}
+
+constexpr Rect ANSWER = {112, 100, 690, 116}; // how the last one was answered
+
+TEST_F(GalleryPages, PanesOpenByTheirKeysAndCloseByThemByCodeOrInTime)
+{
+    (void)Open(0x99920006);
+    for (const BT_MEM* b = bt_first(); b->id >= 1; b++) {
+        const int id = b->id;
+        if (*b->cmd[0] != 'L')
+            continue;
+        Pass(200);
+        (void)Press(id);
+        EXPECT_NE(Pane_GetActiveID(), 0) << id;
+        while (const int pane = Pane_GetActiveID())
+            (void)Pane_Quit(pane);
+    }
+    for (const int progress : {17, 18}) {
+        const auto before = Seen(ANSWER);
+        Pass(200);
+        (void)Press(progress);
+        Pass(4990);
+        EXPECT_NE(Pane_GetActiveID(), 0);
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID(), 0);
+        EXPECT_NE(Seen(ANSWER), before) << "said";
+    }
+    Pass(200);
+    (void)Press(20);
+    for (const int key : {PANEFIND_NEXT, PANEFIND_CLOSE}) {
+        SendMessage(LMSG_PANEBTNSEL, key, 0, 0, 0);
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID() != 0, key == PANEFIND_NEXT);
+    }
+    Pass(200);
+    (void)Press(21);
+    Pass(2990);
+    const auto lit = PixelsIn({0, 0, 799, 599});
+    Pass(10);
+    Pass(10);
+    EXPECT_NE(PixelsIn({0, 0, 799, 599}), lit) << "the indicator goes out";
+    (void)Pane_Quit(Pane_GetActiveID());
+}
+
+TEST_F(GalleryPages, WindowsOpenByTheirKeysAndAnswerToTheirBoxOrTheLine)
+{
+    const auto enter = [](int key, const std::string& text) {
+        Pass(200);
+        (void)Press(key);
+        EXPECT_NE(GetWindow(), WINDOW_NONE) << key;
+        for (const char c : text + "\r")
+            SendMessage(MSG_KEY, c, 0, 0, 0);
+        EXPECT_EQ(GetWindow(), WINDOW_NONE) << key;
+    };
+    (void)Open(0x99920007);
+    EXPECT_EQ(Shown("Value"), "12.5");
+    EXPECT_EQ(Shown("Time Code"), std::to_string((12 * 60 + 34) * GetFrameNum_SWR(0) + 15));
+    enter(1, "7");
+    EXPECT_EQ(Shown("Value"), "7");
+    enter(2, "1:0");
+    EXPECT_EQ(Shown("Time Code"), std::to_string(GetFrameNum_SWR(0)));
+    auto before = Seen(ANSWER);
+    for (const auto& [key, text] :
+         {std::pair{4, "5"}, {5, "6"}, {6, "X"}, {18, "1111"}, {19, "1112"}, {20, ""}, {21, ""}}) {
+        enter(key, text);
+        EXPECT_NE(Seen(ANSWER), before) << key;
+        before = PixelsIn(ANSWER);
+    }
+    for (const int key : {3, 17, 22, 33, 34, 49, 50, 51, 52}) {
+        Pass(200);
+        (void)Press(key);
+        EXPECT_NE(GetWindow(), WINDOW_NONE) << key;
+        (void)CloseWindow();
+    }
 }
