@@ -726,8 +726,3 @@ int FileSide_FolderId(int n)
             return FMCtrl_GetFolderId(row);
     return 0;
 }
-
-bool FileSide_IsBusy(int n)
-{
-    return is_side(n) && sides[n].search != NOT_SEARCHING;
-}

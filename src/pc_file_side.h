@@ -59,5 +59,4 @@ inline bool FileSide_InView(const FILECELL& cell)
 FILEINFO FileSide_Info(int n, const FILECELL& cell, int no);
 // Where the side's drive has the cell's file. 0, or -1 as info2name.
 int FileSide_Path(int n, const FILECELL& cell, char* path, int size);
-bool FileSide_IsBusy(int n);  // its search is running
 int FileSide_FolderId(int n); // of the frame memory's open folder, 0 the default one

@@ -1,3 +1,4 @@
+#include "pane_private.h"
 #include "pc_file.h"
 #include "pc_file_dual.h"
 #include "pc_file_side.h"
@@ -31,6 +32,13 @@ struct FileDualPage : ServerPage {
         for (const int no : rows)
             LS_SetSelected(1, no, 0, 1);
     }
+    static void Region(int id) // the only one from now on
+    {
+        const REGIONBTN& g = RegionBtn[FileKind_Group(file_kinds[FILEPAGE_SNAPSHOT])];
+        for (int i = 0; i < g.cells; i++)
+            g.btnsel[i].select = g.btnsel[i].id == id ? 2 : 0;
+        SendMessage(LMSG_PANEREGION, 0, 0, 0, 0);
+    }
     static std::string Drive(const char* rest)
     {
         return std::string("MYHOST:/mnt/data/user/root/SYSTEM/") + rest;
@@ -53,17 +61,54 @@ TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
     EXPECT_EQ(LS_GetStatus(1, 0, 0), 1);
     (void)Reply(opened, "Access@Find",
                 Below(Drive("SNAPSHOT/SWR000D001/"),
-                      {"ME1/NEWS.ME1_007.SSS", "ME1/rubbish.txt", "ME2/OTHER.ME2_008.SSS",
-                       "ME1/NEW.ME1_010.SSS", "ME1/OLD.ME1_010.SSS,Tue Feb  3 23:59:00 2026"}));
+                      {"ME1/NEWS.ME1_007.SSS", "ME1/LAST.ME1_099.SSS", "ME1/rubbish.txt",
+                       "ME2/OTHER.ME2_008.SSS", "ME1/NEW.ME1_010.SSS",
+                       "ME1/OLD.ME1_010.SSS,Tue Feb  3 23:59:00 2026"}));
     EXPECT_EQ(Row(2, 6), "NEWS|Nov.25.2026 10:30");
     EXPECT_EQ(Row(2, 9), "NEW|Nov.25.2026 10:30") << "saved before under another name";
     EXPECT_EQ(Row(2, 7), "|") << "its region is not selected";
+    EXPECT_EQ(Row(2, 98), "LAST|Nov.25.2026 10:30");
     EXPECT_STREQ(LS_GetData(2, 98, COL_NO), "99");
     // A register that comes while the page stands, and one that goes.
     Tell("Snapshot@Snapshot@Attribute@M/E-1@List#9,LATE,,,,,");
     Tell("Snapshot@Snapshot@Attribute@M/E-1@List#3,OPENING,E,,,,");
     EXPECT_EQ(Row(1, 8), "LATE|");
     EXPECT_EQ(Row(1, 2), "|");
+    EXPECT_EQ(Row(2, 8), "|") << "not onto the drive";
+    Region(256); // P/P
+    Tell("Snapshot@Snapshot@Attribute@M/E-1@List#20,LATER,,,,,");
+    for (const auto& [row, shown] : {std::pair{3, "CLOSE PP|"}, {8, "|"}, {19, "|"}}) {
+        EXPECT_EQ(Row(1, row), shown) << row;
+        EXPECT_EQ(LS_GetStatus(1, row, 0), row == 3 ? 0 : 1) << row;
+    }
+    EXPECT_EQ(Row(2, 6), "|");
+    Region(258);
+    EXPECT_EQ(Row(2, 7), "OTHER|Nov.25.2026 10:30");
+    Region(257);
+    EXPECT_EQ(Row(1, 19), "LATER|");
+    EXPECT_EQ(Row(2, 6), "NEWS|Nov.25.2026 10:30");
+}
+
+TEST_F(FileDualPage, AListComesBackAsItWasLeft)
+{
+    Select({2, 40});
+    LS_SetTopLine(1, 30);
+    SendMessage(LMSG_LISTSEL, 1, 40, 0, 0);
+    Open(SNAPSHOT_PAGE);
+    EXPECT_EQ(LS_GetMS(1), 1);
+    EXPECT_EQ(LS_GetTopLine(1), 30);
+    EXPECT_EQ(LS_GetNowLine(1), 40);
+    for (const int row : {2, 3, 40})
+        EXPECT_EQ(LS_IsSelected(1, row, 0), row != 3) << row;
+    LS_SetMS(1, 0);
+    LS_SetNowLine(1, 5);
+    LS_SetSelected(1, 5, 0, 1);
+    SendMessage(LMSG_LISTSEL, 1, 5, 0, 0);
+    Open(SNAPSHOT_PAGE);
+    EXPECT_EQ(LS_GetMS(1), 0);
+    EXPECT_EQ(LS_GetNowLine(1), 5);
+    for (const int row : {2, 5, 40})
+        EXPECT_EQ(LS_IsSelected(1, row, 0), row == 5) << row;
 }
 
 TEST_F(FileDualPage, SaveGoesFromTheFirstSelectedRowOfTheTarget)
@@ -207,6 +252,10 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     EXPECT_EQ(CreatePage(SNAPSHOT_PAGE + 1), 0);
     EXPECT_EQ(Row(1, 3), "CLOSE|");
     EXPECT_STREQ(LS_GetData(1, 3, COL_REGIONS), "O");
+    std::string marks;
+    for (int region = 0; region < 10; region++)
+        marks += Cell(1, 3, COL_REGIONS + region);
+    EXPECT_EQ(marks, "O") << "P/P has it, but is not selected";
     Press(BTN_FILE_DELETE);
     EXPECT_THAT(Answer(2), IsEmpty());
     Press(BTN_FILE_DELETE);

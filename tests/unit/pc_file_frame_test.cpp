@@ -19,13 +19,17 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo", "2 Slogo", "3 Mbeach", "X12 Mfar"));
     EXPECT_STREQ(LS_GetData(1, 1, COL_NAME) + 7, "Sport");
     // The drive: what has no name of the grammar is not there.
-    Answer(opened, "Access@ListDir", Below(DRIVE, {"FMEMFOL/ARCHIVE", "FMEMFOL/TOO LONG A NAME"}));
+    Answer(opened, "Access@ListDir",
+           Below(DRIVE, {"FMEMFOL/ARCHIVE", "FMEMFOL/TOO LONG A NAME", "FMEMFOL/Sport",
+                         "FMEMFOL/.trash", "FMEMFOL/"}));
     Answer(opened, "Access@Find",
            Below(DEFAULT, {"Mold.FMEM_1234.SFM", "Sanc.FMEX_007.SFA", "Mlow.FMEM_002.SFM",
-                           "Mbad.FMEM_5663.SFM", "rubbish.txt"}));
-    EXPECT_THAT(Rows(2), ElementsAre("2 Mlow", "1234 Mold", "X7 Sanc"));
+                           "Mabc.FMEM_002.SFM", "Mbad.FMEM_5663.SFM", "rubbish.txt"}));
+    const auto drive = ElementsAre("2 Mabc", "2 Mlow", "1234 Mold", "X7 Sanc");
+    EXPECT_THAT(Rows(2), drive);
+    EXPECT_EQ(Cell(2, 3, COL_TIME), "Nov.25.2026");
     EXPECT_STREQ(LS_GetData(2, 1, COL_NAME) + 7, "ARCHIVE");
-    EXPECT_EQ(LS_GetNData(2), 3 + 3);
+    EXPECT_EQ(LS_GetNData(2), 3 + 4);
     // What is selected stays so while others before it go and come.
     Select(1, {4});
     Tell("16@Frame Mem@Status@File Name Sense#1,0,");
@@ -39,9 +43,18 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     Tell("Frame Mem@Folder@Move Still#0,Mlogo,3");
     Pass(200);
     EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar"));
+    EXPECT_THAT(Rows(2), drive);
     (void)Touch(180, 124 + 22 * 2 + 5);
     EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo"));
-    EXPECT_THAT(Touch(560, 124 + 22 * 2 + 5), Contains(HasSubstr("SYSTEM/FMEMFOL/ARCHIVE/,*.*.*")));
+    EXPECT_EQ(LS_GetNowLine(1), 1) << "the open folder";
+    (void)Touch(180, 124 + 22 + 5);
+    EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar")) << "the default one";
+    Select(2, {3});
+    const Lines asked = Touch(560, 124 + 22 * 2 + 5);
+    EXPECT_THAT(asked, Contains(HasSubstr("SYSTEM/FMEMFOL/ARCHIVE/,*.*.*")));
+    Answer(asked, "Access@Find", Below(DRIVE, {"FMEMFOL/ARCHIVE/SWR000D001/Mx.FMEM_002.SFM"}));
+    EXPECT_THAT(Rows(2), ElementsAre("2 Mx"));
+    EXPECT_EQ(LS_IsSelected(2, LS_GetNData(2) - 1, 0), 0) << "that was in another folder";
 }
 
 TEST_F(FramePage, SaveNamesTheRegisterItsNumberAndTheFolder)
@@ -82,7 +95,9 @@ TEST_F(FramePage, PicturesFromElsewhereAreFoundAgain)
 {
     Store({"Mold_name"});
     const Lines files = Below(DEFAULT, {"My background.FMEM_7.SFM", "Mold name.FMEM_008.SFM"});
-    Answer(Open(NEW), "Access@Find", files);
+    Lines told = files; // and one that does not lie there
+    told.push_back(DEFAULT + "../../My other.FMEM_9.SFM");
+    Answer(Open(NEW), "Access@Find", told);
     EXPECT_THAT(Rows(2), ElementsAre("7 My background", "8 Mold name"));
     Select(2, {1, 2});
     const Lines sent = Run(Press(BTN_FILE_R_TO_L));
