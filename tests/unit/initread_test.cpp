@@ -1,7 +1,9 @@
 #include "bus_probe.h"
 #include "initread.h"
 #include "loop.h"
+#include "netio.h"
 #include "text.h"
+#include "window.h"
 #include <algorithm>
 #include <set>
 
@@ -13,10 +15,10 @@ TEST_F(InitialReadTest, OnlyTheServersOwnEndStartsOurs)
         const char* value;
         int unit, flag, busy, started;
     } cases[] = {
-        {"3,start", 3, 1, 1, 0}, {"0,progress", 0, 1, 1, 0}, {"3,end", 3, 0, 1, 0},
-        {"7,start", 6, 0, 1, 0}, {"-1,start", 0, 1, 1, 0},   {"0", 0, 1, 1, 0},
-        {"x,end", 0, 1, 1, 0},   {"", 0, 1, 1, 0},           {"0,", 0, 1, 1, 0},
-        {"0,end", 0, 0, 0, 1},   {"6,start", 6, 1, 1, 0},
+        {"3,start", 3, 1, 1, 0},   {"0,progress", 0, 1, 1, 0}, {"3,end", 3, 0, 1, 0},
+        {"7,start", 6, 0, 1, 0},   {"-1,start", 0, 1, 1, 0},   {"0", 0, 1, 1, 0},
+        {"x,end", 0, 1, 1, 0},     {"", 0, 1, 1, 0},           {"0,", 0, 1, 1, 0},
+        {"5,start,1", 5, 0, 1, 0}, {"0,end", 0, 0, 0, 1},      {"6,start", 6, 1, 1, 0},
     };
     for (const auto& c : cases) {
         GL_InitRead = 0;
@@ -69,6 +71,26 @@ TEST_F(InitialReadTest, OnePaneStandsWhileSomeUnitReads)
         EXPECT_EQ(Pane_GetActiveID(), 0);
     }
     GL_InitialReadPopupDisable = 0;
+    GL_NowPage = 0x11110000;
+    CreateWindow(WINDOW_MESSAGE, "First");
+    Deliver(status, "3,start");
+    EXPECT_EQ(Pane_GetActiveID(), 0) << "the operator is asked something else";
+    CloseWindow();
+    Deliver(status, "3,end");
+}
+
+TEST_F(InitialReadTest, TheTimedPaneHasTheScreenUntilAPageIsAskedFor)
+{
+    GL_NowPage = 0x11110000;
+    InitialProgress(0);
+    for (const auto& [asked, has] :
+         {std::pair{0u, true}, {0x11110000u, true}, {0x31110000u, false}}) {
+        GL_CreatePage = asked; // the page that is up is only built anew
+        EXPECT_EQ(InitialProgress_HasScreen(), has) << std::hex << asked;
+    }
+    GL_CreatePage = 0;
+    Pane_Quit(GL_InitProgress_PaneID);
+    GL_InitProgress = 0;
 }
 
 TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
@@ -85,8 +107,8 @@ TEST_F(InitialReadTest, TheSecondStageReachesBothEndsOfItsRows)
          {"add Info@Processor Status@6", "add Info@Operation Setup Data@Color Select@12",
           "add Engineering Setup@System@Format@Reference@PNL4",
           "add Engineering Setup@Panel@Config@10 Key Region Assign@Common@Region@Common@23",
-          "add PGM/PST@DSK1@Processed Key@Rotation", "add Info@Board Config@Board Exist Set@PNL1",
-          "read Engineering Setup@DME@Model@DME2"})
+          "add PGM/PST@DSK1@Processed Key@Rotation", "add M/E-5@Key8@Processed Key@Rotation",
+          "add Info@Board Config@Board Exist Set@PNL1", "read Engineering Setup@DME@Model@DME2"})
         EXPECT_THAT(sent, Contains(line));
     EXPECT_THAT(sent, Not(Contains("add 16@Frame Mem@Status@Register Status@45")));
     // A shortcut stands right behind its group.
@@ -105,6 +127,7 @@ TEST_F(InitialReadTest, ThePageThatIsUpIsOpenedAnewAfterTheSecondStage)
     for (const auto& [page, asked, then] :
          {std::tuple{0x11110000u, 0u, 0x11110000u},
           {0x11110000u, 0x31110000u, 0x31110000u}, // another request stands
+          {0x71420002u, 0u, 0x71420002u},          // the online editor's list is at the server
           {0x71420003u, 0u, 0u}}) {                // the macro editor is in the middle of something
         GL_NowPage = page;
         GL_CreatePage = asked;
@@ -130,11 +153,15 @@ TEST_F(InitialReadTest, SubSidesAreSubscribedOnceAndAgainBehindTheSecondStage)
     Deliver("Info@Initial Read Status", "0,end");
     DeviceStructure();
     EXPECT_EQ(subs(), 0) << "not yet";
+    int frames = Net_State(NET_LINK_BIN).waiting;
     DeathCommand1(); // the lists go with it
+    EXPECT_EQ(Net_State(NET_LINK_BIN).waiting, frames + 3) << "and the streams";
     InitialCommand1();
     EXPECT_EQ(subs(), 0);
+    frames = Net_State(NET_LINK_BIN).waiting;
     DeviceStructure();
     EXPECT_EQ(subs(), 1);
+    EXPECT_GT(Net_State(NET_LINK_BIN).waiting, frames) << "their timelines";
     Deliver(config, "Standard");
     EXPECT_EQ(subs(), 0);
 }
@@ -158,6 +185,15 @@ TEST_F(InitialReadTest, TheHubIsAskedForTheTablesOfTheOwnUnits)
         command();
         EXPECT_THAT(TakeQueuedHubLines(), testing::UnorderedElementsAreArray(expected));
     }
+    DEVICE second = switcher;
+    second.id[9] = '4';
+    DEV_MySwr[1] = &second;
+    SYS_MySwrMax = 2;
+    InitialCommandSHP();
+    EXPECT_THAT(TakeQueuedHubLines(), Not(Contains("Listen#CS4.ClipStoreFile")))
+        << "the first has it";
+    DeathCommandSHP();
+    EXPECT_THAT(TakeQueuedHubLines(), Contains("Unlisten#CS4.ClipStoreFile"));
     DeviceStructure();
 }
 
@@ -167,6 +203,7 @@ TEST_F(InitialReadTest, AStageAndItsOppositeCancel)
     using Stage = std::pair<void (*)(), void (*)()>;
     // The lists of the sub sides come later, but end with the second stage.
     const auto second = [] { InitialCommand1(), InitialCommand_MP2(); };
+    Strings put; // besides
     for (const auto& [initial, death] : {Stage{InitialCommand0, DeathCommand0},
                                          {second, DeathCommand1},
                                          {InitialCommand2, DeathCommand2}}) {
@@ -180,9 +217,15 @@ TEST_F(InitialReadTest, AStageAndItsOppositeCancel)
             if (line.starts_with("remove "))
                 removed.insert(line.substr(7));
             else
-                EXPECT_TRUE(line.starts_with("put ") && line.ends_with("#false")) << line;
+                put.push_back(line);
         }
         EXPECT_EQ(added, removed);
         EXPECT_FALSE(added.empty());
     }
+    Strings ended = {"Status Report", "Initial Read Status"};
+    for (const char* unit : {"PNL", "SWR1", "SWR2", "DME1", "DME2", "DME3", "DME4"})
+        ended.push_back(std::string("Self Diagnosis Notice@") + unit);
+    for (std::string& line : ended)
+        line = "put Info@" + line + "#false";
+    EXPECT_EQ(put, ended);
 }
