@@ -606,10 +606,10 @@ static void restore_list(const Side& s)
         return;
     }
     (void)LS_SetMS(id, m.is_plural);
-    (void)LS_SetNowLine(id, m.now);
-    for (int no = 0; no < s.rows; no++)
+    for (int no = 0; no < s.rows; no++) // takes the cursor and the view along
         if (m.is_plural || m.selected[no])
             (void)LS_SetSelected(id, no, 0, m.selected[no]);
+    (void)LS_SetNowLine(id, m.now);
     (void)LS_SetTopLine(id, m.top);
 }
 

@@ -92,14 +92,15 @@ TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
 TEST_F(FileDualPage, AListComesBackAsItWasLeft)
 {
     Select({2, 40});
-    LS_SetTopLine(1, 30);
-    SendMessage(LMSG_LISTSEL, 1, 40, 0, 0);
+    LS_SetNowLine(1, 2);
+    LS_SetTopLine(1, 36);
+    SendMessage(LMSG_LISTSEL, 1, 2, 0, 0);
     Open(SNAPSHOT_PAGE);
     EXPECT_EQ(LS_GetMS(1), 1);
-    EXPECT_EQ(LS_GetTopLine(1), 30);
-    EXPECT_EQ(LS_GetNowLine(1), 40);
-    for (const int row : {2, 3, 40})
-        EXPECT_EQ(LS_IsSelected(1, row, 0), row != 3) << row;
+    EXPECT_EQ(LS_GetTopLine(1), 36);
+    EXPECT_EQ(LS_GetNowLine(1), 2);
+    for (const int row : {0, 2, 3, 40})
+        EXPECT_EQ(LS_IsSelected(1, row, 0), row == 2 || row == 40) << row;
     LS_SetMS(1, 0);
     LS_SetNowLine(1, 5);
     LS_SetSelected(1, 5, 0, 1);
