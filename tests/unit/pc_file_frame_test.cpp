@@ -30,6 +30,12 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     EXPECT_EQ(Cell(2, 3, COL_TIME), "Nov.25.2026");
     EXPECT_STREQ(LS_GetData(2, 1, COL_NAME) + 7, "ARCHIVE");
     EXPECT_EQ(LS_GetNData(2), 3 + 4);
+    // A folder stands where a register stood, and goes again.
+    for (const char* const folder : {"4,News", "4,"}) {
+        Folders(folder);
+        Pass(200);
+        EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo", "2 Slogo", "3 Mbeach", "X12 Mfar")) << folder;
+    }
     // What is selected stays so while others before it go and come.
     Select(1, {4});
     Tell("16@Frame Mem@Status@File Name Sense#1,0,");
@@ -43,6 +49,7 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     Tell("Frame Mem@Folder@Move Still#0,Mlogo,3");
     Pass(200);
     EXPECT_THAT(Rows(1), ElementsAre("2 Slogo", "3 Mbeach", "X12 Mfar"));
+    Pass(200);
     EXPECT_THAT(Rows(2), drive);
     (void)Touch(180, 124 + 22 * 2 + 5);
     EXPECT_THAT(Rows(1), ElementsAre("1 Mlogo"));
@@ -52,23 +59,31 @@ TEST_F(FramePage, ListsWhatTheOpenFolderHolds)
     Select(2, {3});
     const Lines asked = Touch(560, 124 + 22 * 2 + 5);
     EXPECT_THAT(asked, Contains(HasSubstr("SYSTEM/FMEMFOL/ARCHIVE/,*.*.*")));
+    EXPECT_THAT(Rows(2), IsEmpty());
     Answer(asked, "Access@Find", Below(DRIVE, {"FMEMFOL/ARCHIVE/SWR000D001/Mx.FMEM_002.SFM"}));
     EXPECT_THAT(Rows(2), ElementsAre("2 Mx"));
     EXPECT_EQ(LS_IsSelected(2, LS_GetNData(2) - 1, 0), 0) << "that was in another folder";
+    EXPECT_THAT(Answer(Open(NEW), "Access@ListDir", {}),
+                Contains(HasSubstr("SYSTEM/FMEMFOL/DEFAULT/,*.*.*")))
+        << "the open folder is no longer there";
+    EXPECT_EQ(LS_GetMS(2), 1) << "as it was left";
 }
 
 TEST_F(FramePage, SaveNamesTheRegisterItsNumberAndTheFolder)
 {
     Store({"Mlogo", "Slogo"});
+    Store({"Mxyz0001", "Mxyz0002"}, 20);
+    Tell("Frame Mem@Clip@Ancillary Playback Enable#0,Mxyz,1");
     Store({"Mlate"}, 300);
     Folders("0,Default.,3,Sport");
     Answer(Open(NEW), "Access@Find", {});
     (void)Touch(560, 124 + 22 * 2 + 5); // Sport, which the drive does not have yet
-    Select(1, {2, 4});
+    Select(1, {2, 4, 6});
     const Lines sent = Run(Press(BTN_FILE_L_TO_R));
-    EXPECT_THAT(sent, Contains(HasSubstr("Get#")).Times(2));
+    EXPECT_THAT(sent, Contains(HasSubstr("Get#")).Times(3));
     EXPECT_THAT(sent, Contains(HasSubstr(",SWR001D001:Mlogo.FMEM_001.SF2,")));
-    for (const std::string file : {"Mlogo.FMEM_001.SFM", "Mlate.FMEM_300.SFM"})
+    for (const std::string file :
+         {"Mlogo.FMEM_001.SFM", "Mxyz0001.FMEM_020.SFA", "Mlate.FMEM_300.SFM"})
         EXPECT_THAT(sent, Contains(HasSubstr(std::string(",") + DRIVE +
                                              "FMEMFOL/Sport/SWR000D001/" + file)));
     EXPECT_THAT(sent, Not(Contains(HasSubstr("Move Still"))));
@@ -96,7 +111,7 @@ TEST_F(FramePage, PicturesFromElsewhereAreFoundAgain)
     Store({"Mold_name"});
     const Lines files = Below(DEFAULT, {"My background.FMEM_7.SFM", "Mold name.FMEM_008.SFM"});
     Lines told = files; // and one that does not lie there
-    told.push_back(DEFAULT + "../../My other.FMEM_9.SFM");
+    told.push_back(DEFAULT + "../SWR000D001/My other.FMEM_9.SFM");
     Answer(Open(NEW), "Access@Find", told);
     EXPECT_THAT(Rows(2), ElementsAre("7 My background", "8 Mold name"));
     Select(2, {1, 2});
@@ -113,6 +128,18 @@ TEST_F(FramePage, PicturesFromElsewhereAreFoundAgain)
     Pass(1000);
     Press(BTN_FILE_DELETE);
     EXPECT_THAT(Quit(1), Contains(testing::EndsWith("," + files[0])));
+}
+
+TEST_F(FramePage, AFolderMayHoldMoreThanThePanelWouldNameOtherwise)
+{
+    for (const auto& [name, count] :
+         {std::pair{"Mnew", 250}, {"My background", 150}, {"Mine too long", 150}}) {
+        Lines files;
+        for (int i = 0; i < count; i++)
+            files.push_back(DEFAULT + name + ".FMEM_" + std::to_string(100 + i) + ".SFM");
+        Answer(Open(NEW), "Access@Find", files);
+        EXPECT_EQ(Rows(2).size(), size_t(count)) << name;
+    }
 }
 
 TEST_F(FramePage, FullStoreSaysSo)
