@@ -619,7 +619,7 @@ TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditorAndARegisterThatHoldsDataIsF
 TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
 {
     Records({"KILL", "1,0,Event,PatternLimit,ME,P/P,Status,Off", "1,1,Continue,Stop,Device,Dev1",
-             "2,0,#,A comment", "", "x", "2", "3,0,Event", "3,0,Perhaps,MECut", "-1,0,Event,MECut",
+             "2,0,#,A comment", "", "x", "2", "3,0,Event", "5,0,Perhaps,MECut", "-1,0,Event,MECut",
              "9999,0,Event,MECut", "3,0,Event,MECut,ME",
              "3,0,Event,Stop,Device," + std::string(600, 'x'), "4,0,Event,PatternLimit,Status,On"});
     ASSERT_EQ(LS_GetNData(LIST_MACRO_ONLINE), 5);
@@ -672,6 +672,11 @@ TEST_F(MacroOnlinePage, KeysSendWhatIsSelected)
     for (int row : {0, 2, 4})
         (void)LS_SetSelected(LIST_MACRO_ONLINE, row, 0, 1);
     (void)LS_SetSelected(LIST_MACRO_ONLINE, 1, 0, 0);
+    for (const char* const at : {"3", "2"}) { // the cursor alone moves
+        (void)Tell(ONLINE + "Current Macro Register Info#3,OPENING,U,4," + at);
+        Pass(10);
+    }
+    EXPECT_EQ(LS_IsSelected(LIST_MACRO_ONLINE, 3, 0), 0);
     EXPECT_THAT(Puts(BTN_ONLINE_MODIFY), ElementsAre(PUT_ONLINE + "Modify#4,0,1"));
     EXPECT_THAT(Puts(BTN_ONLINE_DELETE),
                 ElementsAre(PUT_ONLINE + "Delete#4,0,1", PUT_ONLINE + "Delete#2,0,1",
@@ -758,6 +763,7 @@ TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
         EXPECT_EQ(Usable({BTN_ONLINE_RUN}).size(), size_t(runs)) << count;
         EXPECT_THAT(Usable({BTN_ONLINE_PREVIOUS}), IsEmpty());
     }
+    EXPECT_THAT(Puts(BTN_ONLINE_AFTER), ElementsAre(PUT_ONLINE + "Insert#1,1"));
     const Lines left = Leave();
     LoseServer();
     EXPECT_EQ(GL_CreatePage, 0u) << "the page is closed";
@@ -776,7 +782,9 @@ TEST_F(MacroOnlinePage, MarksAndKeysFollowWhatTheServerSays)
     GL_CreatePage = PAGE_TOP;
     LoseServer();
     EXPECT_EQ(GL_CreatePage, PAGE_TOP) << "the operator's wish";
+    CopyText(GL_MacroEditNoName, "3  Name: OPENING");
     (void)Open(PAGE_MACRO_ONLINE);
+    EXPECT_THAT(Look({104, 75, 300, 95}), Contains(TEAL)) << "its name is known already";
     constexpr Rect NOTE = {310, 75, 560, 95};
     EXPECT_THAT(Look(NOTE), Contains(ORANGE)) << "the server does not answer";
     (void)Tell(ONLINE + "Macro Edit Mode#true");
