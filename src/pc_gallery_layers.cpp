@@ -190,8 +190,6 @@ static int panes_tick(int elapsed_ms)
 static int pane_button(int id)
 {
     say("button", id);
-    if (strcmp(layers.name, "Find") == 0 && id == PANEFIND_CLOSE)
-        Pane_SetQuitFlag(layers.pane);
     return 0;
 }
 
