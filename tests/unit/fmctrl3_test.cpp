@@ -1,5 +1,6 @@
 #include "clip_store.h"
 #include "fetches.h"
+#include "file.h"
 #include <fstream>
 
 namespace fs = std::filesystem;
@@ -293,11 +294,18 @@ TEST_F(ClipStore, MiddlesOfClipsAreFetchedFirstThirtyAtOnce)
     gets = Gets();
     EXPECT_EQ(gets.size(), 15u);
     EXPECT_EQ(Remotes(gets).back(), "last.SFH#000004.THM");
+    (void)Changes();
+    GL_NowPage = 0x11110000;
     for (const Get& get : gets)
         Answer(get, "OK");
+    EXPECT_THAT(Changes(), IsEmpty()) << "no page of the frame memory is open";
     Passes(1000);
     EXPECT_THAT(Gets(), IsEmpty());
     EXPECT_EQ(Files().size(), 46u);
+    Clip("more", 1, 1);
+    EXPECT_EQ(Gets().size(), 1u);
+    FMCtrl3_HubLost();
+    EXPECT_EQ(QueueRoot, nullptr) << "nothing waits for an answer";
 }
 
 TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgainFiveTimesAtMost)
@@ -318,7 +326,18 @@ TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgainFiveTimesAtMost)
     EXPECT_THAT(asked, ElementsAre("c.SFH#000001.THM", "c.SFH#000003.THM"));
     HubWorks("Notify", "root/c.SFH:thumbnail:0");
     EXPECT_THAT(Files(), IsEmpty()) << "it has none any more";
+    HubWorks("Notify", "root/c.SFH:thumbnail:1");
+    for (const size_t some : {1u, 3u}) { // all anew, the middle first
+        const auto anew = Gets();
+        EXPECT_EQ(anew.size(), some);
+        for (const Get& get : anew)
+            Answer(get, "OK");
+    }
+    HubWorks("Notify", "root/c.SFH:thumbnail:0");
 
+    Clip("a", 1, 0);
+    Hub("Delete", "ClipStoreFile", "root/a.SFH");
+    EXPECT_FALSE(fs::exists(FM_FOLDER + std::string("a.SFH.THM.of"))) << "nothing of it is here";
     Clip("a", 1, 0);
     EXPECT_THAT(Gets(), IsEmpty());
     Hub("Notify", "ClipStoreFile", "root/a.SFH:thumbnail:1");
@@ -424,6 +443,7 @@ TEST_F(ClipStore, ThumbnailsOfALongClipGoByAndByAndANewOneOfItsNameWaits)
         Put("take#5.SFH#000" + std::string(frame) + ".THM", 6966);
     Put("take#6.SFH#000100.THM", 6966);
     Clip("take#5", 200, 1);
+    Put("take#5.SFH#000141.THM", 6966);
     Hub("Result", "ClipStoreFile", "Trim root/take#5.SFH 100 149 50:7F");
     HubWorks("Result", "Trim root/take#5.SFH 1 40 40:7F"); // of what is left
     EXPECT_THAT(Files(), ElementsAre("a.b2.SFH#000300.THM", "take#5.SFH#000000.THM",
@@ -471,8 +491,14 @@ TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnewByTheirNote)
         Put("a.b.SFH#00000" + std::to_string(i) + ".THM", 6966);
     Clip("a/b", 6, 1);
     EXPECT_EQ(Note(), "6 2026 Jan.31 23:59");
-    HubWorks("Result", "Trim root/a/b.SFH 1 4 4:7F");
-    EXPECT_EQ(Note(), "4 2026 Jan.31 23:59");
+    Hub("Result", "ClipStoreFile", "Trim root/a/b.SFH 1 4 4:7F");
+    Hub("Notify", "ClipStoreFile", "root/a/b.SFH:timestamp:2026-02-01 01:01:03");
+    EXPECT_EQ(Note(), "6 2026 Jan.31 23:59") << "until all have their new numbers";
+    Work();
+    EXPECT_EQ(Note(), "4 2026 Feb.01 01:01");
+    Folder("a/b"); // beside the clip of this name
+    Hub("Notify", "ClipStoreFolder", "root/a/b:timestamp:2026-03-01 01:02:03");
+    EXPECT_EQ(Note(), "4 2026 Feb.01 01:01");
     Hub("Notify", "ClipStoreFile", "root/a/b.SFH:timestamp:2026-02-01 01:02:03");
     EXPECT_EQ(Note(), "4 2026 Feb.01 01:02");
     (void)Changes(); // while its clip is there
@@ -487,6 +513,77 @@ TEST_F(ClipStore, ThumbnailsOfAnotherClipOfThisNameAreFetchedAnewByTheirNote)
     EXPECT_TRUE(fs::is_empty(FM_FOLDER));
 }
 
+TEST_F(ClipStore, ATrimIsNotKeptWaitingAndASecondOneMeanwhileLeavesNoWrongNumbers)
+{
+    const auto clip = [](const std::string& name, int frames) {
+        for (int i = 0; i < frames; i++)
+            Put(name + ".SFH#" + std::to_string(1000000 + i).substr(1) + ".THM", 6966);
+        Clip(name, frames, 1);
+    };
+    const auto count = [](const std::string& name) {
+        return std::ranges::count_if(
+            Files(), [&](const std::string& file) { return file.starts_with(name + ".SFH"); });
+    };
+    for (const char* name : {"first", "next"})
+        clip(name, 10);
+    clip("cut", 4);
+    clip("again", 100);
+    clip("hole", 9);
+    Passes(2000);
+    ASSERT_THAT(Gets(), IsEmpty());
+    (void)Changes(); // while all clips are there
+    for (const char* name : {"first", "next"})
+        Hub("Delete", "ClipStoreFile", std::string("root/") + name + ".SFH");
+    Hub("Result", "ClipStoreFile", "Trim root/cut.SFH 1 2 2:7F");
+    Work(2);
+    EXPECT_GT(count("next"), 0);
+    EXPECT_THAT(Files(), Contains("cut.SFH#000001.THM"));
+    EXPECT_EQ(count("cut"), 2);
+    Work();
+    EXPECT_EQ(count("next"), 0);
+    // Another switcher's store has a clip of that name.
+    probe::seen.clear();
+    Hub("Delete", "ClipStoreFile", "root/cut.SFH");
+    CopyText(DEV_MySwr[0]->id, "SWR000D002");
+    Clip("cut", 1, 1);
+    const auto gets = Gets();
+    ASSERT_EQ(gets.size(), 1u) << "nothing goes of it there";
+    probe::seen.clear();
+    Work();
+    EXPECT_THAT(Changes(), IsEmpty());
+    Answer(gets[0], "OK");
+    probe::seen.clear();
+    Hub("Delete", "ClipStoreFile", "root/cut.SFH");
+    CopyText(DEV_MySwr[0]->id, "SWR000D001");
+    fs::remove_all("/mnt/sys/FM/2");
+
+    // What can't be removed is not taken for that of another clip, over and over.
+    fs::create_directories(FM_FOLDER + std::string("stuck.SFH.THM.of"));
+    Clip("stuck", 1, 1);
+    Work();
+    EXPECT_THAT(Gets(), IsEmpty());
+
+    fs::remove(FM_FOLDER + std::string("again.SFH#000051.THM"));
+    Hub("Result", "ClipStoreFile", "Trim root/again.SFH 50 99 50:7F");
+    Work(1);
+    Put("again.SFH#000001.THM", 6966); // of what was frame 1, and comes late
+    Work();
+    EXPECT_EQ(count("again"), 49);
+    EXPECT_THAT(Files(), Not(Contains("again.SFH#000001.THM"))) << "51 was not there";
+    Hub("Result", "ClipStoreFile", "Trim root/again.SFH 10 49 40:7F");
+    Work(2);
+    Hub("Result", "ClipStoreFile", "Trim root/again.SFH 0 29 30:7F");
+    Work();
+    EXPECT_EQ(count("again"), 0) << "some had their new numbers, and some the old ones";
+    // A trim of what is left, whose first picture is not there.
+    fs::remove(FM_FOLDER + std::string("hole.SFH#000003.THM"));
+    Hub("Result", "ClipStoreFile", "Trim root/hole.SFH 1 8 8:7F");
+    Hub("Result", "ClipStoreFile", "Trim root/hole.SFH 2 7 6:7F");
+    Work();
+    EXPECT_EQ(count("hole"), 0);
+    probe::seen.clear(); // their clips go with the test
+}
+
 TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
 {
     Folder("A");
@@ -498,15 +595,34 @@ TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
                              "A.b.SFH#000001.BMP", "A.b.THM"})
         Put(name, 6966);
     Put("A.b.SFH#000000.THM", 6965);
+    const std::string longest(ELEMENT_FOLDER_SIZE - 1, 'f');
+    for (const std::string& path :
+         {std::string("A/B"), std::string("A/B/C"), std::string("A/B/C/D"), longest})
+        Folder(path);
+    Clip("A/d", 3);
+    for (const std::string& path : {std::string("A/B/C/D/e"), longest + "/e", std::string("x#5")})
+        Clip(path);
+    for (const std::string& name : // four folders deep, the longest name, a name with a "#"
+         {std::string("A.B.C.D.e"), longest + ".e", std::string("x#5")})
+        Put(name + ".SFH.THM", 6966);
+    for (const std::string& name :
+         {longest + "f.e.SFH.THM", std::string("A.d.SFH.THM"), std::string("x#5.SFH#000000.THM"),
+          std::string("A.d.SFH#00000x.THM"), std::string("A.d.SFH#000001x.THM")})
+        Put(name, 6966);
     for (const char* name : {"A.b.SFH.THM.of", "A.c.SFH.THM.of", "A.b.of"})
         PutText(name, "");
     Passes(4000);
-    EXPECT_EQ(Files().size(), 8u) << "the tree may not be whole yet";
+    EXPECT_EQ(Files().size(), 16u) << "the tree may not be whole yet";
     Passes(3000);
-    EXPECT_THAT(Files(), ElementsAre("A.b.SFH#000002.THM", "A.b.SFH.THM"));
+    EXPECT_THAT(Files(), ElementsAre("A.B.C.D.e.SFH.THM", "A.b.SFH#000002.THM", "A.b.SFH.THM",
+                                     longest + ".e.SFH.THM", "x#5.SFH.THM"));
     fs::remove(FM_FOLDER + std::string("A.b.SFH.THM.of"));
     for (const auto& entry : fs::directory_iterator(FM_FOLDER))
         EXPECT_NE(entry.path().extension(), ".of") << entry;
+    Put("later.SFH.THM", 6966);
+    Clip("one more");
+    Passes(7000);
+    EXPECT_THAT(Files(), Contains("later.SFH.THM")) << "not before the next start";
 }
 
 TEST_F(ClipStore, TablesComeAndGo)
