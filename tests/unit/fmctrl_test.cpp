@@ -80,6 +80,7 @@ TEST_F(FrameMemoryLists, StillsArePairsOfTheLastSidesAndTwoFramesMakeAClip)
     EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 0), 4);
     EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 1), -1);
     EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, -4), 0);
+    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, -5), -1);
     EXPECT_EQ(FMCtrl_GetClipMidRegId(0, 0), 2) << "the middle is not moved";
     EXPECT_EQ(FMCtrl_MoveClipFrame(0, 0, INT_MIN), 0);
     EXPECT_EQ(FMCtrl_GetClipFrameIdx(0, 0), 0);
@@ -95,6 +96,13 @@ TEST_F(FrameMemoryLists, StillsArePairsOfTheLastSidesAndTwoFramesMakeAClip)
     EXPECT_EQ(FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx("Mxyz0001")), 1);
     EXPECT_EQ(FMCtrl_GetClipAncillary(0), ANCILLARY_UNKNOWN);
     EXPECT_EQ(FMCtrl_GetStillAncillary(FMCtrl_GetStillIdx("Mlogo")), 0);
+    (void)Sense(4, "0", "");
+    SYS_FmemV6 = 0;
+    EXPECT_THAT(Sense(4, "81", "Mxyz0002"), IsEmpty()) << "the older one can't say";
+    SYS_FmemV6 = 1;
+    EXPECT_EQ(FMCtrl_GetClipAncillary(1), ANCILLARY_UNKNOWN) << "it is a clip anew";
+    EXPECT_EQ(FMCtrl_GetClipIdx("Mxyz0002"), 1);
+    EXPECT_EQ(FMCtrl_GetClipIdx("Mxyzlogo"), -1) << "no frame";
 
     Max(300);
     (void)Changes();
@@ -112,6 +120,8 @@ TEST_F(FrameMemoryLists, StillsArePairsOfTheLastSidesAndTwoFramesMakeAClip)
     (void)Sense(1, "0", "");
     EXPECT_THAT(Stills(), ElementsAre("logo: x7 -"));
     EXPECT_EQ(FMCtrl_GetStillIdx("Slogo"), -1);
+    EXPECT_EQ(FMCtrl_GetStillRegId(-1, 0), -1);
+    EXPECT_EQ(FMCtrl_GetClipFolderId(-1), -1);
 
     Max(300);
     Store({"Mlogo", "Mlogo"});
@@ -238,13 +248,37 @@ TEST_F(FrameMemoryLists, FollowAStormAsAPlainRecountWould)
                     FMCtrl_DivClipName(model[index].c_str(), clip, frame, 12, 12) == 0)
                     frames[clip][size_t(is_sub)][frame] = index;
             }
+            const int main_id = FMCtrl_GetStillRegId(i, 0), sub_id = FMCtrl_GetStillRegId(i, 1);
+            ASSERT_EQ(FMCtrl_IsStillMain(i), main_id >= 0) << name;
+            ASSERT_EQ(FMCtrl_IsStillSub(i), sub_id >= 0) << name;
+            ASSERT_EQ(FMCtrl_IsStillPair(i), main_id >= 0 && sub_id >= 0) << name;
+            ASSERT_EQ(FMCtrl_IsStillExtended(i), std::max(main_id, sub_id) >= FMEM_EXTENDED);
             i++;
         }
         Strings clips;
         for (const auto& [clip, both] : frames) {
-            if (both[0].size() < 2 && both[1].size() < 2)
+            const bool is_clip = both[0].size() > 1 || both[1].size() > 1;
+            const int c = is_clip ? int(clips.size()) : -1;
+            bool is_extended = false;
+            for (int is_sub : {0, 1}) {
+                const auto& side = both[size_t(is_sub)];
+                for (const auto& [frame, index] : side) {
+                    ASSERT_EQ(FMCtrl_GetClipIdx(model[index].c_str()), c);
+                    ASSERT_EQ(FMCtrl_IsStillFrame(FMCtrl_GetStillIdx(model[index].c_str())),
+                              is_clip);
+                    ASSERT_EQ(FMCtrl_GetClipMidRegId2(index),
+                              is_clip ? std::next(side.begin(), long(side.size() / 2))->second
+                                      : -1);
+                    is_extended |= index >= FMEM_EXTENDED;
+                }
+                ASSERT_EQ(FMCtrl_GetClipFirstRegId(c, is_sub),
+                          !is_clip || side.empty() ? -1 : side.begin()->second);
+            }
+            if (!is_clip)
                 continue;
-            const int c = int(clips.size());
+            ASSERT_EQ(FMCtrl_IsClipMain(c), !both[0].empty());
+            ASSERT_EQ(FMCtrl_IsClipSub(c), !both[1].empty());
+            ASSERT_EQ(FMCtrl_IsClipExtended(c), is_extended);
             clips.push_back(clip + ":");
             for (int is_sub : {0, 1}) {
                 clips.back() += is_sub ? " /" : "";
@@ -308,6 +342,12 @@ TEST_F(FrameMemoryLists, FoldersAreSortedTheUnusedLastAndTheirStatusMovesStillsA
     EXPECT_THAT((std::array{FMCtrl_GetFolderAllStillNum(11), FMCtrl_GetFolderStillNum(11),
                             FMCtrl_GetFolderClipNum(11), FMCtrl_GetFolderExtClipNum(11)}),
                 ElementsAre(2, 1, 1, 0));
+    Store({"Mnew0001", "Mnew0002"}, 4);
+    EXPECT_EQ(FMCtrl_GetClipFolderId(1), 3) << "that of its first frame";
+    EXPECT_THAT((std::array{FMCtrl_GetFolderAllStillNum(3), FMCtrl_GetFolderStillNum(3),
+                            FMCtrl_GetFolderClipNum(3), FMCtrl_GetFolderExtClipNum(3)}),
+                ElementsAre(1, 0, 1, 0));
+    (void)Changes();
     (void)Tell(STATUS + "Folder Status@0", "0B010B03");
     EXPECT_THAT(Changes(), IsEmpty()) << "nothing has changed";
 
@@ -321,4 +361,10 @@ TEST_F(FrameMemoryLists, FoldersAreSortedTheUnusedLastAndTheirStatusMovesStillsA
     Store({"Mext"}, 16384 + 2);
     (void)Tell(STATUS + "Folder Status@128", "0007");
     EXPECT_EQ(FMCtrl_GetRegFolderId(FMEM_EXTENDED + 1), 7);
+    Store({"Mlong0001", "Mlong0002"}, 16384 + 2);
+    EXPECT_EQ(FMCtrl_GetFolderExtClipNum(7), 1);
+    EXPECT_EQ(FMCtrl_GetFolderExtClipNum(11), 0);
+    (void)Sense(9, "81", "Mlogo"); // takes the place of the first of its name
+    (void)Tell(STATUS + "Folder Status@0", "05");
+    EXPECT_EQ(FMCtrl_GetFolderAllStillNum(5), 0);
 }
