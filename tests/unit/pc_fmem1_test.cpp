@@ -56,10 +56,18 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
     EXPECT_THAT(List(), testing::SizeIs(3));
     Open(CLIPS);
     EXPECT_THAT(List(), ElementsAre("*6|run|3|2"));
+    Folders("0,Default.,2,News");
+    Puts(BTN_FMEM1_FOLDER);
+    Quit(2);
+    EXPECT_THAT(Usable({BTN_FMEM1_RECALL_A, BTN_FMEM1_RECALL_B, BTN_FMEM1_BACK, BTN_FMEM1_FORWARD}),
+                testing::IsEmpty())
+        << "nothing is in it";
 }
 
 TEST_F(FrameMemoryPage, KeysAndTabsAreThereForWhatIsSelectedAndInstalled)
 {
+    Store({"Mzap", "Mzoo", "Szoo"}, 20);
+    Pass(10);
     static const std::tuple<uint32_t, std::vector<int>, std::vector<int>> cases[] = {
         {STILL_FILES, {}, {}},
         {STILL_FILES,
@@ -69,6 +77,8 @@ TEST_F(FrameMemoryPage, KeysAndTabsAreThereForWhatIsSelectedAndInstalled)
         {STILL_FILES, {1, 2}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE, BTN_FMEM1_COUPLE}},
         {STILL_FILES, {0, 1}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE}},
         {STILL_FILES, {0, 1, 2}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE}},
+        {STILL_FILES, {1, 2, 3}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE}},
+        {STILL_FILES, {1, 4}, {BTN_FMEM1_DELETE, BTN_FMEM1_MOVE}},
         {CLIP_FILES, {}, {}},
         {CLIP_FILES,
          {0},
@@ -131,6 +141,11 @@ TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
             Tell(path + line);
             EXPECT_EQ(seen(), before) << line;
         }
+        constexpr Rect PICTURES = {405, 124, 702, 343};
+        const auto first = Seen(PICTURES);
+        LS_SetNowLine(1, 1);
+        SendMessage(LMSG_LISTSEL, 1, 1, 0, 0);
+        EXPECT_NE(Seen(PICTURES), first);
         Open(FREEZE_PAGE); // has the number of empty registers in their place
         before = seen();
         Tell("Frame Mem@Status@Store Number Sense#" + std::to_string(SYS_StoreFree + 1));
@@ -174,6 +189,8 @@ TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
     EXPECT_THAT(Quit(0), IsEmpty()); // "Cancel"
     Puts(BTN_FMEM1_OUT);
     EXPECT_THAT(Quit(4), ElementsAre(RECALL + "Select#FM7&8"));
+    Puts(BTN_FMEM1_OUT);
+    EXPECT_THAT(Quit(1), ElementsAre(RECALL + "Select#FM1&2"));
     // Of a clip the frame that is shown.
     Open(CLIPS);
     Puts(BTN_FMEM1_FORWARD);
@@ -248,6 +265,22 @@ TEST_F(FrameMemoryPage, TwoSidesBecomeAPairAndFoldersTakeEveryFrame)
     Select(1, {1, 2});
     SendMessage(LMSG_LISTSEL, 1, 2, 0, 0);
     EXPECT_THAT(Puts(BTN_FMEM1_COUPLE), ElementsAre(RENAME + "Stitle,Spic"));
+    Store({"Mzap"}, 20);
+    Store({"Sgo0001", "Sgo0002"}, 30); // a clip of one side
+    Open(STILL_FILES);
+    Select(1, {2, 3});
+    SendMessage(LMSG_LISTSEL, 1, 3, 0, 0);
+    EXPECT_THAT(Puts(BTN_FMEM1_COUPLE), ElementsAre(RENAME + "Mzap,Mtitle"));
+    Select(1, {0});
+    SendMessage(LMSG_LISTSEL, 1, 0, 0, 0);
+    Puts(BTN_FMEM1_MOVE);
+    EXPECT_THAT(Quit(2), ElementsAre(MOVE + "Mlogo,2", MOVE + "Slogo,2"));
+    Open(CLIP_FILES);
+    EXPECT_THAT(Puts(BTN_FMEM1_ANCILLARY),
+                ElementsAre("put Frame Mem@Clip@Ancillary Playback Enable#0,Sgo,1"));
+    for (const char* number : {"30", "31"})
+        Tell("16@Frame Mem@Status@File Name Sense#" + std::string(number) + ",0,");
+    Pass(200);
     Open(CLIP_FILES);
     Puts(BTN_FMEM1_MOVE);
     EXPECT_THAT(Quit(2), ElementsAre(MOVE + "Mrun0001,2", MOVE + "Mrun0002,2", MOVE + "Mrun0003,2",
@@ -279,6 +312,9 @@ TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
     EXPECT_EQ(BT_GetStatus(BTN_FMEM1_AUTO_STORE), BT_ON);
     EXPECT_THAT(Puts(20), ElementsAre("put " + freeze + "true"));
     EXPECT_THAT(Tell(freeze + "true"), ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC2#")));
+    Puts(20);
+    Open(FREEZE_PAGE); // it was left meanwhile
+    EXPECT_THAT(Tell(freeze + "true"), IsEmpty());
     Puts(20);
     EXPECT_THAT(Tell(freeze + "false"), IsEmpty());
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty());

@@ -214,6 +214,100 @@ TEST_F(ClipPages, PlaysBetweenPointsThatAreInOrder)
     EXPECT_NE(Pane_GetActiveID(), 0);
 }
 
+TEST_F(ClipPages, WhatIsPlayedIsOfAClipAndItsBoxesKeysAndLineFollowIt)
+{
+    const auto all_of = [](const char* verb) {
+        return testing::IsSupersetOf({verb + ("  " + TREE) + "Play@Start TC@FM1#",
+                                      verb + ("  " + TREE) + "Play@Jump Frame@FM20#"});
+    };
+    EXPECT_THAT(Open(PLAY), all_of("add"));
+    (void)Tell(TREE + "Play@Play Mode@FM1#2");
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_PINGPONG), BT_ON);
+    const std::vector<int> keys = {BTN_FMEM_REW, BTN_FMEM_PLAY, BTN_FMEM_STOP_SET, BTN_FMEM_SPEED};
+    Show(0, "2,/STILL.SFH");
+    (void)Tell(TREE + "Play@FM1#0,0,20,80");
+    EXPECT_THAT(Usable(keys), testing::IsEmpty());
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_TRIM), BT_DISABLED);
+    SendMessage(LMSG_KNOBVAR, NB_FMEM_START, 0, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), testing::IsEmpty());
+    EXPECT_THAT(Touch(690, 130), testing::IsEmpty());
+    Clip("SHORT", 2);
+    Show(0, "2,/SHORT.SFH");
+    EXPECT_EQ(Usable(keys), keys);
+
+    Show(0, "2,/OPENING.SFH"); // 100 frames
+    static const std::tuple<const char*, bool, const char*> cases[] = {
+        // runs, frame, points; can be trimmed; what Play asks for
+        {"0,7,20,80", true, "0,20,80"}, {"1,7,20,80", false, "0,20,80"},
+        {"0,7,80,20", false, ""},       {"0,7,20,20", true, "0,20,20"},
+        {"0,7,20,80", true, "0,20,80"}, {"0,7,0,99", false, "0,0,99"},
+        {"0,7,0,80", true, "0,0,80"},   {"0,7,0,99", false, "0,0,99"},
+        {"0,7,20,99", true, "0,20,99"},
+    };
+    for (const auto& [told, can, asked] : cases) {
+        (void)Tell(TREE + "Play@FM1#" + told);
+        EXPECT_EQ(BT_GetVisible(BTN_FMEM_TRIM) == BT_ENABLED, can) << told;
+        EXPECT_EQ(BT_GetStatus(BTN_FMEM_PLAY), *told == '1' ? BT_ON : BT_OFF) << told;
+        const Lines sent = Puts(BTN_FMEM_PLAY);
+        EXPECT_EQ(sent, *asked ? Lines{PUT + "Play@FM1#0," + asked} : Lines{}) << told;
+        if (!*asked)
+            (void)Answer(0);
+    }
+    constexpr Rect MIDDLE = {440, 130, 445, 135}; // of the line, without a mark
+    (void)Tell(TREE + "Play@FM1#0,33,80,20");
+    const auto without = Seen(MIDDLE);
+    (void)Tell(TREE + "Play@FM1#0,33,20,80");
+    EXPECT_NE(Seen(MIDDLE), without) << "what plays stands out";
+    EXPECT_THAT(Drag(1, 794), Contains(PUT + "Play@Start TC@FM1#0,4,99")); // the last one
+    EXPECT_EQ(Shown("Start TC") + Shown("Stop TC") + Shown("Jump\nFrame"), "208033");
+    SendMessage(LMSG_KNOBVAR, NB_FMEM_START, 0, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(PUT + "Play@Start TC@FM1#0,4,0"));
+    for (const int speed : {30, 0}) { // it is not variable now: nothing is told
+        SendMessage(LMSG_KNOBVAR, NB_FMEM_SPEED, speed, 0, 0);
+        EXPECT_THAT(TakeQueuedCommands(), testing::IsEmpty());
+        EXPECT_THAT(Puts(BTN_FMEM_SPEED), ElementsAre(PUT + "Play@Variable Speed@FM1#0,30"));
+    }
+    (void)Tell(TREE + "Play@Variable Speed@FM1#0,70");
+    EXPECT_EQ(Shown("Speed"), "70");
+
+    const Display display;
+    const std::vector<Rect> parts = {{250, 88, 690, 109},
+                                     {248, 116, 692, 151},
+                                     {250, 166, 379, 205},
+                                     {405, 166, 534, 205},
+                                     {561, 166, 690, 205}}; // name, line, start, now, stop
+    const auto seen = [&] {
+        std::vector<std::vector<uint32_t>> pictures;
+        for (const Rect& part : parts)
+            pictures.push_back(Seen(part));
+        EXPECT_EQ(Display::Lacks(), "");
+        return pictures;
+    };
+    auto before = seen();
+    static const std::pair<const char*, std::vector<bool>> lines[] = {
+        {"Play@FM1#0,50,20,80", {false, true, false, true, false}},
+        {"Play@FM1#1,50,20,80", {false, false, false, true, false}},
+        {"Play@Start TC@FM1#0,40", {false, true, true, false, false}},
+        {"Play@Stop TC@FM1#0,70", {false, true, false, false, true}},
+        {"Output Status@FM1#2,/STILL.SFH", {true, true, true, true, true}},
+        {"Play@Start TC@FM2#0,10", {false, false, false, false, false}},
+    };
+    for (const auto& [line, changed] : lines) {
+        (void)Tell(TREE + line);
+        const auto now = seen();
+        for (size_t i = 0; i < parts.size(); i++)
+            EXPECT_EQ(now[i] != before[i], changed[i]) << line << " " << i;
+        before = now;
+    }
+    Show(0, "2,/OPENING.SFH");
+    (void)Tell(TREE + "Play@FM1#0,7,20,80");
+    (void)Press(BTN_FMEM_TRIM);
+    Show(0, "2,/STILL.SFH"); // while the operator thinks
+    (void)Answer(YES);
+    EXPECT_THAT(Asked(), testing::IsEmpty());
+    EXPECT_THAT(Leave(), all_of("remove"));
+}
+
 TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
 {
     OpenPage(RECORD);
@@ -239,7 +333,9 @@ TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
         {"/img0001.SFH", "img0002"},
         {",", "img0002"},
         {"0,20261125183322_1", "img0002"},
-        {"/a012345678901234567890123456789.SFH", "a012345678901234567890123456789"}};
+        {"0,20261125183322", "20261125183322"}, // no time's name
+        {"/a012345678901234567890123456789.SFH", "a012345678901234567890123456789"},
+        {"/b0123456789012345678901234567890123.SFH", "a012345678901234567890123456789"}};
     for (const auto& [told, next] : names) {
         (void)Tell(TREE + "Record@Freeze/Rec Name@PROC1#" + told);
         EXPECT_THAT(Puts(BTN_FMEM_FREEZE).front(), HasSubstr("#0,/" + next + ".SFH"));
@@ -253,7 +349,9 @@ TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
     EXPECT_EQ(BT_GetStatus(BTN_FMEM_FIELD), BT_OFF);
     EXPECT_THAT(Puts(BTN_FMEM_FREEZE), Contains(PUT + "Record@Freeze@FM1#0,0"));
 
-    OpenPage(RECORD);
+    EXPECT_THAT(Open(RECORD), testing::IsSupersetOf({"read " + TREE + "Record@PROC1",
+                                                     "read " + TREE + "Record@PROC2",
+                                                     "read  " + TREE + "Output Status@FM1#"}));
     const auto record = [] { // name and command
         Lines sent = Puts(BTN_FMEM_REC);
         sent.resize(2);
@@ -263,11 +361,27 @@ TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
         (void)Tell(TREE + "Record@Rec Len@" + told);
         EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,125,1") << told;
     }
+    (void)Tell(TREE + "Out Pair Select#FM11&12"); // of the other half
+    EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM11#2,0,125,1");
+    (void)Tell(TREE + "Out Pair Select#FM1&2");
+    (void)Open(RECORD);
+    EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,125,1") << "kept from the last visit";
+    EXPECT_EQ(Shown("Rec Len"), "125");
     (void)Tell(TREE + "Record@Rec Len@PROC1#1");
     EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,1,1");
     SendMessage(LMSG_KNOBVAR, NB_FMEM_LENGTH, 300, 0, 0);
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put  " + TREE + "Record@Rec Len@FM1#0,300"));
     EXPECT_EQ(record()[1], "put  " + TREE + "Record@FM1#1,0,300,1");
+    constexpr Rect LINE = {244, 430, 690, 451};
+    const auto waiting = Seen(LINE);
+    (void)Tell(TREE + "Record@PROC1#1,10,300"); // of no output: that is this one
+    EXPECT_EQ(Usable({BTN_FMEM_REC, BTN_FMEM_REC_STOP}),
+              std::vector<int>({BTN_FMEM_REC, BTN_FMEM_REC_STOP}));
+    EXPECT_EQ(BT_GetStatus(BTN_FMEM_REC), BT_ON);
+    const auto recorded = Seen(LINE);
+    EXPECT_NE(recorded, waiting);
+    (void)Tell(TREE + "Record@PROC1#1,20,300");
+    EXPECT_NE(Seen(LINE), recorded);
     // Another output of the same processor records: neither of them is touched here.
     (void)Tell(TREE + "Record@PROC1#1,10,300,2");
     EXPECT_EQ(Usable({BTN_FMEM_REC, BTN_FMEM_REC_STOP}), std::vector<int>{});
@@ -285,6 +399,17 @@ TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
         Enter(text);
         EXPECT_EQ(record()[0], *text == 'z' ? longer : before);
     }
+    (void)Tell(TREE + "Record@Freeze/Rec Name@PROC1#/rush.SFH");
+    (void)Puts(BTN_FMEM_REC_NAME);
+    Enter("a");
+    (void)Open(FREEZE); // nothing was recorded under it
+    EXPECT_THAT(Puts(BTN_FMEM_FREEZE).front(), HasSubstr("#0,/rush0000a0000.SFH"));
+    (void)Open(RECORD);
+    Clip("rush0000a0000b", 5);
+    (void)Puts(BTN_FMEM_REC_NAME);
+    Enter("b"); // there is one
+    EXPECT_THAT(record()[0], HasSubstr("#0,/rush0000a0000b0000.SFH"));
+    (void)Open(RECORD);
     EXPECT_THAT(Leave(),
                 testing::IsSupersetOf({"remove " + TREE + "Record@Rec Len@PROC1",
                                        "remove " + TREE + "Record@Freeze/Rec Name@PROC2"}));
@@ -293,11 +418,14 @@ TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
 TEST_F(ClipPages, CopiesATreeAndMovesOneWithItsFolders)
 {
     OpenPage(COPY_MOVE);
+    Folder("NEWS/Z"); // behind the deep one
     (void)FF_ChangeDirectory(1, "/SPORT");
     Cell(0, "NEWS");
     (void)Press(BTN_FMEM_COPY); // NEWS/A/B/C is as deep as can be
     EXPECT_THAT(Asked(), IsEmpty());
+    EXPECT_THAT(Message(), HasSubstr("upper limit"));
     (void)Answer(0);
+    Hub("Delete", "ClipStoreFolder", "root/NEWS/Z");
     (void)FF_ChangeDirectory(0, "/NEWS");
     Cell(0, "A");
     (void)Press(BTN_FMEM_COPY);
@@ -325,6 +453,120 @@ TEST_F(ClipPages, CopiesATreeAndMovesOneWithItsFolders)
     EXPECT_FALSE(fmfileope_is_busy());
 }
 
+TEST_F(ClipPages, KeysAreThereForWhatIsChosenAndWorkOnAllThatIsChecked)
+{
+    const auto keys = [] {
+        return Usable({BTN_FMEM_COPY, BTN_FMEM_MOVE, BTN_FMEM_DUPLICATE, BTN_FMEM_NEW_FOLDER,
+                       BTN_FMEM_DELETE, BTN_FMEM_STORE, BTN_FMEM_RENAME});
+    };
+    const std::vector<int> usable = {BTN_FMEM_COPY, BTN_FMEM_MOVE, BTN_FMEM_DUPLICATE,
+                                     BTN_FMEM_NEW_FOLDER};
+    OpenPage(COPY_MOVE);
+    Choose("STILL");
+    EXPECT_THAT(keys(), ElementsAre(BTN_FMEM_DUPLICATE, BTN_FMEM_NEW_FOLDER)) << "the same folder";
+    for (const char* right : {"/SPORT", "/NEWS/A/B"}) {
+        (void)FF_ChangeDirectory(1, right);
+        EXPECT_EQ(keys(), usable) << right;
+    }
+    (void)FF_ChangeDirectory(1, "/NEWS/A/B/C"); // no folder below it
+    EXPECT_THAT(keys(), ElementsAre(BTN_FMEM_COPY, BTN_FMEM_MOVE, BTN_FMEM_DUPLICATE));
+    (void)Press(BTN_FMEM_COPY); // but a clip
+    EXPECT_THAT(Grant(), ElementsAre("File:Copy root/STILL.SFH root/NEWS/A/B/C/STILL.SFH"));
+    (void)FF_ChangeDirectory(0, "/TALL/ER"); // nothing is in it
+    EXPECT_THAT(keys(), IsEmpty());
+    (void)FF_ChangeDirectory(1, "/SPORT");
+    Pass(1000);
+    (void)Press(BTN_FMEM_NEW_FOLDER);
+    Enter("DAY");
+    EXPECT_THAT(Asked(), ElementsAre("Folder:MakeFolder root/SPORT/DAY"));
+
+    OpenPage(DELETE_RENAME);
+    (void)FF_ChangeDirectory(0, "/TALL/ER");
+    EXPECT_THAT(keys(), IsEmpty());
+    (void)FF_ChangeDirectory(0, "/");
+    (void)FF_SetSelectMode(0, SELECT_MODE_SELECT);
+    Cell(0, "OPENING");
+    EXPECT_THAT(keys(), ElementsAre(BTN_FMEM_DELETE, BTN_FMEM_STORE, BTN_FMEM_RENAME));
+    Cell(0, "STILL");
+    EXPECT_THAT(keys(), ElementsAre(BTN_FMEM_DELETE, BTN_FMEM_STORE));
+    (void)Press(BTN_FMEM_STORE);
+    EXPECT_NE(Pane_GetActiveID(), 0) << "its progress";
+    EXPECT_THAT(Grant(), ElementsAre("File:Store root/OPENING.SFH", "File:Store root/STILL.SFH"));
+    EXPECT_EQ(FF_GetCheckedObjectNum(0), 0);
+    Pass(1000);
+    Cell(0, "STILL");
+    (void)Press(BTN_FMEM_DELETE);
+    (void)Answer(YES);
+    EXPECT_THAT(Grant(), ElementsAre("File:Delete root/STILL.SFH"));
+    EXPECT_EQ(FF_GetCheckedObjectNum(0), 0);
+}
+
+TEST_F(ClipPages, TheProgressCountsEveryStepAndWhatIsRefusedIsNoneOfThem)
+{
+    static const std::tuple<int, const char*, const char*> cases[] = {
+        {FMFILEOPE_COPY, "/root/SPORT/A", "(0/5)\n"}, // the folder, what is in it
+        {FMFILEOPE_MOVE, "/root/SPORT/A", "(0/8)\n"}, // and three folders that go
+        {FMFILEOPE_DELETE, nullptr, "(3/8)\n"},       // with nothing to be asked for three
+        {FMFILEOPE_RENAME, "/root/NEWS/D", "(0/1)\n"},
+    };
+    const auto text = [] {
+        const PANE* const pane = pane_top();
+        return std::string(pane && pane->each.progress.progmes ? pane->each.progress.progmes : "");
+    };
+    OpenPage(COPY_MOVE);
+    for (const auto& [cmd, to, says] : cases) {
+        EXPECT_EQ(fmfileope_start(cmd, OBJECT_TYPE_FOLDER, "/root/NEWS/A", to), 0);
+        fmfileope_do(nullptr);
+        EXPECT_EQ(text(), says) << cmd;
+        (void)Grant();
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID(), 0) << cmd;
+    }
+    for (const int cmd : {-1, int(FMFILEOPE_CMDS)})
+        EXPECT_EQ(fmfileope_start(cmd, OBJECT_TYPE_FILE, "/root/STILL", nullptr), -1);
+    EXPECT_EQ(fmfileope_start(FMFILEOPE_DELETE, OBJECT_TYPE_FILE, "/root/NONE", nullptr), -1);
+
+    // Of three the first one plays, on the first output.
+    Show(0, "2,/OPENING.SFH");
+    (void)Tell(TREE + "Play@FM1#1,0,0,99");
+    for (const char* name : {"/root/OPENING", "/root/STILL", "/root/NEWS/A/ONE"})
+        EXPECT_EQ(fmfileope_start(FMFILEOPE_DELETE, OBJECT_TYPE_FILE, name, nullptr), 0);
+    fmfileope_do(nullptr);
+    EXPECT_THAT(Message(), HasSubstr("Cannot delete while playing back"));
+    (void)Answer(YES); // it is no question
+    EXPECT_EQ(text(), "(0/2)\n");
+    EXPECT_THAT(Asked(), ElementsAre("File:Delete root/STILL.SFH"));
+    Hub("Result", "ClipStoreFile", "Delete root/STILL.SFH:7F");
+    EXPECT_EQ(text(), "(1/2)\n");
+    EXPECT_EQ(pane_top()->each.progress.prog, 50);
+    (void)Grant();
+
+    // What is copied may be shown; what it would replace, not unasked.
+    (void)Tell(TREE + "Play@FM1#0,0,0,99");
+    const auto copy = [](int type, const char* from, const char* to) {
+        EXPECT_EQ(fmfileope_start(FMFILEOPE_COPY, type, from, to), 0);
+        fmfileope_do(nullptr);
+    };
+    copy(OBJECT_TYPE_FILE, "/root/OPENING", "/root/SPORT/OPENING");
+    EXPECT_THAT(Grant(), ElementsAre("File:Copy root/OPENING.SFH root/SPORT/OPENING.SFH"));
+    Pass(10);
+    copy(OBJECT_TYPE_FILE, "/root/STILL", "/root/OPENING");
+    EXPECT_THAT(Message(), HasSubstr("already existing"));
+    SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 100, YES, 0, 0); // another pane
+    EXPECT_THAT(Message(), HasSubstr("already existing"));
+    (void)Answer(YES);
+    EXPECT_THAT(Message(), HasSubstr("which is being used"));
+    (void)Answer(NO);
+    EXPECT_THAT(Asked(), IsEmpty());
+    EXPECT_FALSE(fmfileope_is_busy());
+    Folder("SPORTS");
+    copy(OBJECT_TYPE_FOLDER, "/root/SPORT", "/root/SPORT/SPORT");
+    EXPECT_THAT(Message(), HasSubstr("into itself"));
+    (void)Answer(0);
+    copy(OBJECT_TYPE_FOLDER, "/root/SPORT", "/root/SPORTS/SPORT"); // its name is only alike
+    EXPECT_THAT(Grant(), ElementsAre("Folder:MakeFolder root/SPORTS/SPORT"));
+}
+
 TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
 {
     OpenPage(DELETE_RENAME);
@@ -346,6 +588,8 @@ TEST_F(ClipPages, WhatIsInUseIsAskedAboutOrRefused)
         (void)Press(BTN_FMEM_DELETE);
         (void)Answer(YES);
         EXPECT_THAT(Answer(YES), ElementsAre(PUT + "Record@Through@FM6#0,0")); // all the same
+        for (const char* other : {"1,", "0,", "1,"})
+            Show(8, other); // takes no time
         Pass(goes_black ? 10 : 990);
         EXPECT_THAT(Asked(), IsEmpty()); // not before it is black
         if (goes_black)
@@ -367,6 +611,10 @@ TEST_F(ClipPages, NamesAreCheckedBeforeAnythingIsAsked)
         {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, "2", false, "File:Move root/SPORT root/SPORT2"},
         {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, " 2", false, "File:Move root/SPORT root/SPORT_2"},
         {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "ED", true, ""}, // it is there
+        {DELETE_RENAME, "STILL", BTN_FMEM_RENAME, "6789012345678901", false,
+         "File:Move root/STILL.SFH root/STILL6789012345678901.SFH"},
+        {DELETE_RENAME, "SPORT", BTN_FMEM_RENAME, "6789012345678901", false,
+         "File:Move root/SPORT root/SPORT67890123456"},
         {COPY_MOVE, "STILL", BTN_FMEM_DUPLICATE, "", true, ""},
         {COPY_MOVE, "STILL", BTN_FMEM_DUPLICATE, "_b", false,
          "File:Copy root/STILL.SFH root/STILL_b.SFH"},
@@ -412,6 +660,8 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
         Hub("Result", "ClipStoreFile", move + end);
     for (const char* table : {"ClipStoreFile", "CS1.ClipStoreFolder"})
         SendMessage(MSG_SHPTALLY, Arg("Result"), Arg(table), 0, Arg((move + ":7F").c_str()));
+    Folder("LATE");
+    Pass(10);
     EXPECT_TRUE(fmfileope_is_busy());
     (void)Answer(1); // "Cancel"
     EXPECT_FALSE(fmfileope_is_busy());
@@ -421,7 +671,8 @@ TEST_F(ClipPages, WaitsForItsOwnResultUntilCancelOrTheHubsEnd)
     EXPECT_FALSE(fmfileope_is_busy());
     EXPECT_THAT(Message(), HasSubstr("STILL: NG([ERROR] Server Not Ready.)"));
     (void)Answer(0);
-    EXPECT_EQ(Pane_GetActiveID(), 0);
+    FMCtrl3_HubLost();
+    EXPECT_EQ(Pane_GetActiveID(), 0) << "nothing was under way";
 }
 
 TEST_F(ClipPages, LoadsUnloadsAndCouplesWhatFits)
@@ -463,9 +714,12 @@ TEST_F(ClipPages, LoadsUnloadsAndCouplesWhatFits)
         Cell(1, key);
         EXPECT_EQ(BT_GetVisible(BTN_FMEM_COUPLE) == BT_ENABLED, can) << key;
     }
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_SEPARATE), BT_DISABLED) << "it is no pair";
     (void)Press(BTN_FMEM_COUPLE);
     EXPECT_THAT(Grant(), ElementsAre("File:Couple root/OPENING.SFH root/KEY.SFH"));
     Cell(0, "BOTH");
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_COUPLE), BT_DISABLED) << "it has its key";
+    EXPECT_EQ(BT_GetVisible(BTN_FMEM_SEPARATE), BT_ENABLED);
     (void)Press(BTN_FMEM_SEPARATE);
     EXPECT_THAT(Grant(), ElementsAre("File:Separate root/BOTH.SFH"));
 }
