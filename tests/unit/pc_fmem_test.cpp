@@ -381,7 +381,21 @@ TEST_F(ClipPages, RecordsUnderAFreeNameAsLongAsItsProcessorSays)
     const auto recorded = Seen(LINE);
     EXPECT_NE(recorded, waiting);
     (void)Tell(TREE + "Record@PROC1#1,20,300");
-    EXPECT_NE(Seen(LINE), recorded);
+    const auto further = Seen(LINE);
+    EXPECT_NE(further, recorded);
+    (void)Tell(TREE + "Record@Freeze/Rec Name@PROC1#/other7.SFH");
+    EXPECT_EQ(Seen(LINE), further) << "a name stays while it is recorded";
+    (void)Tell(TREE + "Record@PROC1#0,20,300");
+    EXPECT_THAT(record()[0], HasSubstr("#0,/other7.SFH"));
+    auto before_that = Seen(LINE);
+    for (const char* told : {"Rec Len@PROC1#40", "Freeze/Rec Name@PROC1#/third.SFH"}) {
+        (void)Tell(TREE + "Record@" + told);
+        EXPECT_NE(Seen(LINE), before_that) << told;
+        before_that = Seen(LINE);
+    }
+    SendMessage(LMSG_KNOBVAR, NB_FMEM_LENGTH, 50, 0, 0);
+    EXPECT_NE(Seen(LINE), before_that);
+    (void)TakeQueuedCommands();
     // Another output of the same processor records: neither of them is touched here.
     (void)Tell(TREE + "Record@PROC1#1,10,300,2");
     EXPECT_EQ(Usable({BTN_FMEM_REC, BTN_FMEM_REC_STOP}), std::vector<int>{});
