@@ -495,6 +495,9 @@ TEST_F(FileStore, PicturesAreGotOneAtATime)
     Store("USER_ID::MENU1");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x"));
     EXPECT_EQ(list->status, FILESTATUS_GET_START);
+    Hub("Ready", "CS1.File"); // it has been away
+    Store("USER_ID::MENU1");
+    EXPECT_THAT(HubSent(), Contains("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x"));
     Store("STATUS::Get,/y.SFH"); // another one's
     EXPECT_THAT(Sent(), IsEmpty());
     Store("STATUS::Get,A/x.SFH");
@@ -578,6 +581,31 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
     (void)Sent();
     Answer(first, "NG(x)");
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L" + std::to_string(first + 1) + ","));
+}
+
+TEST_F(FileStore, AFolderIsAskedForAnewAfterAHubThatWasAwayAndADeepOneIsAnother)
+{
+    const auto again = [] {
+        Hub("Ready", "CS1.File");
+        Store("USER_ID::MENU1");
+    };
+    const auto folder_made = [](const char* folder) {
+        const std::string one = SentOne();
+        EXPECT_THAT(one, HasSubstr(std::string(",SWR000D001:/") + folder + ",FRAMEMEM"));
+        return uint32_t(strtoul(one.c_str() + one.find("#L") + 2, nullptr, 10));
+    };
+    BeginPut({"r", "A/B/C/x", "A/B/D/y"});
+    Answer(folder_made(""), "OK");
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L1,"));
+    Answer(1, "NG(x)");
+    (void)folder_made("A/B/C");
+    again();
+    Answer(folder_made("A/B/C"), "OK");
+    EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,"));
+    again();
+    EXPECT_THAT(Sent(), IsEmpty()) << "it is on its way";
+    Answer(2, "NG(x)");
+    (void)folder_made("A/B/D");
 }
 
 TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)
