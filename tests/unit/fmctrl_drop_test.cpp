@@ -255,25 +255,38 @@ TEST_F(DropFolders, ARegisterFileTakesTheFirstEmptyPlaceAndThatOfItsName)
         << "nobody has told that it is taken";
 }
 
-TEST_F(DropFolders, TheWorkAreaOfTheOlderFrameMemoryIsLeftAlone)
-{
-    SYS_FmemV6 = 0;
-    const auto fill = [](int registers) {
+struct OlderDropFolders : DropFolders {
+    static void Fill(int registers)
+    {
+        SYS_FmemV6 = 0;
         Max(256);
         for (int n = 1; n <= registers; n++)
             (void)Sense(n, "81", "Mused" + std::to_string(n));
         Pass(2000);
-        Settle();
-    };
-    fill(222);
+    }
+};
+
+TEST_F(OlderDropFolders, LeaveTheWorkAreaAlone)
+{
+    Fill(222);
     Drop("FM8/a.png");
     Drop("FM8/b.png");
     (void)Found(Look(), {"FM8/a.png", "FM8/b.png"});
     EXPECT_THAT(Others(Finish(After(500))), SizeIs(2)) << "a picture of two is shown";
     EXPECT_TRUE(Exists("/mnt/sys/FMLoad/FM8/b.png"));
-    fill(223); // one is left, and the work area behind it
-    (void)Bring("FM8/c.png");
+}
+
+TEST_F(OlderDropFolders, ThatHaveOneRegisterLeftTakeARegisterFileAndNoPicture)
+{
+    Fill(223);
+    Drop("FM7/c.png");
+    const Strings search = Look();
+    ASSERT_THAT(search, SizeIs(1));
+    (void)Found(search, {"FM7/c.png"});
     EXPECT_THAT(After(500), IsEmpty());
+    Settle();
+    (void)Bring("FM7/Md.sfa");
+    EXPECT_THAT(Finish(After(500)), Contains(HasSubstr("SWR000D001:FMEM_224.SFA")));
 }
 
 TEST_F(DropFolders, NothingIsTakenBeforeTheRegistersAreKnown)
