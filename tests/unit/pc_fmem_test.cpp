@@ -305,6 +305,7 @@ TEST_F(ClipPages, WhatIsPlayedIsOfAClipAndItsBoxesKeysAndLineFollowIt)
     Show(0, "2,/STILL.SFH"); // while the operator thinks
     (void)Answer(YES);
     EXPECT_THAT(Asked(), testing::IsEmpty());
+    TellAll(TREE + "Play@", {"Variable Speed@FM1#0,50", "Variable Speed@FM1#0", "Play Mode@FM1#0"});
     EXPECT_THAT(Leave(), all_of("remove"));
 }
 
