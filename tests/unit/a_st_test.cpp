@@ -1,8 +1,12 @@
 #include "a_st_page.h"
 #include "graphics.h"
+#include "page_table/color_bkgd.h"
+#include "page_table/st_ccr.h"
+#include "page_table/st_me_dmewipe.h"
 #include "page_table/st_me_key.h"
 #include "page_table/st_me_misc.h"
 #include "page_table/st_me_wipe.h"
+#include "page_table/st_status.h"
 #include "page_walk.h"
 #include <cstring>
 
@@ -114,7 +118,7 @@ TEST_F(StatusCells, ATargetTakesTheBankAndKeyOfThePageAndThePressIsInsideTheBord
     EXPECT_EQ(Asked(c.x2, 100), 0u);
     EXPECT_EQ(Asked(c.x2 - 1, c.y2 - 1), 0x11120000u);
     GL_CreatePage = 0x00110000;
-    ST_Proc(MSG_PRESS, c.x1 + 50, c.y1 + 45, 1, 0);
+    EXPECT_EQ(ST_Proc(MSG_PRESS, c.x1 + 50, c.y1 + 45, 1, 0), 0) << "others may have a part in it";
     EXPECT_EQ(GL_CreatePage, 0x00110000u);
 }
 
@@ -286,6 +290,60 @@ TEST_F(StatusCells, WhatIsOffLiesUnderAVeil)
                       value != off)
                 << path;
         }
+}
+
+// "2=27": the third path of the cell brings that value; "~" and it is seen to change nothing.
+TEST_F(StatusCells, WhatIsNewInACellIsSeen)
+{
+    static const std::pair<const ST_TBL*, Strings> cases[] = {
+        {&st_me_dmewipe[2], {"1=false", "0=false", "2=false"}},
+        {&st_me_dmewipe[3], {"0=Normal", "1=false", "2=false", "0=Reverse"}},
+        {&st_me_wipe[4], {"0=true", "1=false", "2=false", "3=false", "1=true"}},
+        {&st_me_key[0], {"0=Wipe Pattern", "4=27", "3=true", "0=Chroma", "2=Additive Mix"}},
+        {std::ranges::find(st_me_key, 8, &ST_TBL::id),
+         {"0=Matte", "1=Flat", "0=Key Bus", "2=CAM1"}},
+        {&st_me_misc[0], {"0=true", "~0=false", "1=true", "~1=false", "4=true", "7=27"}},
+        {&st_color_bkgd[0], {"0=Flat", "0=Mix", "1=27"}},
+        {&st_color_bkgd[2], {"1=50", "2=60", "3=70", "0=Flat"}},
+        {&st_ccr[0][0], {"1=Input", "2=7", "2=8", "0=false"}},
+        {&st_ccr[0][1], {"1=50", "2=60", "3=70", "4=80", "0=false"}},
+        {&st_ccr[0][9], {"0=true", "1=true", "2=true"}},
+        {st_status_me, {"0=CAM1", "1=CAM2", "2=CAM3", "3=CAM4"}}};
+    for (const auto& [cell, news] : cases) {
+        const ST_TBL rows[] = {*cell, ST_END};
+        const auto look = [&rows] {
+            Pass();
+            return PixelsIn({rows[0].x1, rows[0].y1, rows[0].x2, rows[0].y2});
+        };
+        Open(rows);
+        const Strings added = TakeQueuedCommands();
+        auto last = look();
+        for (const std::string& line : news) {
+            const bool is_same = line[0] == '~';
+            const char* const text = line.c_str() + is_same;
+            Tally(added[size_t(text[0] - '0')].c_str() + strlen("add "), text + 2);
+            const auto now = look();
+            EXPECT_EQ(now == last, is_same) << added[0] << " " << line;
+            last = now;
+        }
+    }
+}
+
+TEST_F(StatusCells, ACellNamesItsSourceUnlessItIsThatOfThePage)
+{
+    std::vector<std::vector<uint32_t>> names;
+    for (const char* source : {"CCR1", "CCR2"}) {
+        SetTree({"CCR", source}, 0x24110000);
+        Open(st_ccr_top);
+        for (const int cell : {0, 5}) { // the first one of each source
+            Tally(st_ccr_top[cell].cmd[0], "true");
+            Pass();
+            const int x = st_ccr_top[cell].x1, y = st_ccr_top[cell].y1;
+            names.push_back(PixelsIn({x + 5, y + 5, x + 95, y + 18}));
+        }
+    }
+    EXPECT_EQ(names[0], names[3]) << "without one";
+    EXPECT_EQ(std::set(names.begin(), names.end()).size(), 3u);
 }
 
 static bool Overlap(const ST_TBL& c, const BT_TBL& b)

@@ -37,6 +37,19 @@ TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpensAndACellItself)
     }
 }
 
+TEST_F(StatusPage, ABankShowsWhichKeysAreOn)
+{
+    (void)Open(ME);
+    std::vector<long> dark;
+    for (const char* line :
+         {"Key1@Status@Key ON#false", "Key1@Status@Key ON#true", "Key8@Status@Key ON#true"}) {
+        (void)Tell(std::string("M/E-1@") + line);
+        dark.push_back(std::ranges::count(Seen({103, 94, 290, 240}), 0u));
+    }
+    EXPECT_GT(dark[0], dark[1]) << "a number in the place of a dash";
+    EXPECT_GT(dark[1], dark[2]);
+}
+
 TEST_F(StatusPage, EachThingThatThereIsHasItsLine)
 {
     GL_ClipStoreSupportMode = 0;
@@ -153,11 +166,4 @@ TEST_F(StatusPage, APageThatTheInstallationLacksHasNoTab)
     EXPECT_EQ(looks.size(), 2u);
     DEV_MyPnl[0] = nullptr;
     SYS_MyPnlMax = 0;
-}
-
-TEST_F(StatusPage, APageOfAnEffectsUnitFollowsTheReference)
-{
-    const std::string path = "DME@Status@3D Param@Mode Status@Reference";
-    EXPECT_THAT(Open(0x41710000), Contains("add " + path));
-    EXPECT_THAT(Leave(), Contains("remove " + path));
 }
