@@ -2,6 +2,7 @@
 #include "a_bt_page.h"
 #include "a_pc.h"
 #include "device.h"
+#include "display.h"
 #include "err.h"
 #include "me_bank.h"
 #include "pane.h"
@@ -94,7 +95,11 @@ TEST_F(BaseAreaTest, HistoryStepsEndAtBothEndsAndNameThePageWithoutItsVariant)
 TEST_F(BaseAreaTest, EachZoneLeadsToItsPageUnlessDefaultRecallIsArmed)
 {
     OpenKeyType();
+    Pass(10);
+    const Display display;
     EXPECT_EQ(Armed(), 1);
+    Pass(10);
+    EXPECT_EQ(Display::Lacks(), "");
     for (Point p : {TITLE, SIDE_KEY, BACK, FWD, TOP_RIGHT, PREV, PAGE_BUTTON})
         EXPECT_EQ(PageOf(p), NONE) << p.x;
     EXPECT_EQ(GetWindow(), WINDOW_NONE);

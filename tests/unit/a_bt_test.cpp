@@ -1,4 +1,5 @@
 #include "a_bt_page.h"
+#include "window.h"
 
 static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
 
@@ -160,8 +161,10 @@ TEST_F(Buttons, AButtonThatCannotBeUsedLetsGoOfTheKnobs)
     for (auto disable : {BT_SetDisable, BT_SetCutoff, BT_SetCutoffEx}) {
         Press(17);
         ASSERT_EQ(BT_GetKnobAssign(), 17);
+        ASSERT_EQ(CreateWindow(WINDOW_KNOB_TRIM, "Clip"), 0);
         disable(17, 1);
         EXPECT_EQ(BT_GetKnobAssign(), -1);
+        EXPECT_EQ(GetWindow(), WINDOW_NONE) << "a number for them is no longer entered";
         disable(17, 0);
     }
     Press(37);
@@ -261,8 +264,10 @@ TEST_F(Buttons, AllButtonsGoOutTogetherAndNobodyKeepsTheKnobs)
 TEST_F(Buttons, ACommandCanBeReplaced)
 {
     BT_SetStatus(20, BT_ON);
+    Pass(10);
     EXPECT_EQ(BT_SetCommand(20, 0, "~@Other#*"), 0);
     EXPECT_EQ(BT_GetStatus(20), BT_NO_TALLY);
+    EXPECT_EQ(bt_find(20)->redraw, 1);
     EXPECT_EQ(BT_SetCommand(99, 0, "~@X#*"), -1);
     EXPECT_EQ(BT_SetCommand(20, BT_COMMANDS, "~@X#*"), -1);
     EXPECT_THAT(TakeQueuedCommands(),

@@ -48,6 +48,9 @@ TEST_F(WipeLists, APressSendsTheNumberOfItsCellWhichForUserProgramsMovesWithBank
     };
     for (const auto& c : cases)
         EXPECT_EQ(Number(c.x, c.y), c.number) << c.x << "," << c.y;
+    static const NB_TBL box[] = {{.id = 1, .caption = "", .cmd = "~2@Own"}, NB_END};
+    NB_Create(box, "");
+    EXPECT_THAT(Sent(X(0), Y(0)), Contains("remove M/E-1@Key1@Own")) << "it has no knobs";
     BA_SetDefaultButton(1);
     EXPECT_THAT(Sent(X(0), Y(0)), IsEmpty());
     BA_SetDefaultButton(0);

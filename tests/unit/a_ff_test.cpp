@@ -104,6 +104,7 @@ TEST_F(FileFolder, FollowsTheCatalogueAndKeepsTheSelection)
     EXPECT_THAT(Names(), ElementsAre("NEWS", "SPORT", "AAA", "STILL"));
     FMCtrl3_HubLost();
     EXPECT_THAT(Names(), IsEmpty());
+    EXPECT_THAT(Seen(ff_grid(ff.area[0].parts)), Each(0u)) << "nor is anything left to see";
     Clip("BACK", 5, 1);
     EXPECT_THAT(Names(), ElementsAre("BACK"));
 }
@@ -111,6 +112,8 @@ TEST_F(FileFolder, FollowsTheCatalogueAndKeepsTheSelection)
 TEST_F(FileFolder, OpensFoldersGoesBackAndLeavesALostOne)
 {
     Cell(0);
+    const POSITION line = ff.area[0].parts.name_status.pos;
+    EXPECT_THAT(Seen({line.x, line.y, line.x + 140, line.y + 21}), Contains(0xFFFFFFu));
     EXPECT_STREQ(FF_GetCurrentPath(0), "/root/");
     Cell(0);
     EXPECT_STREQ(FF_GetCurrentPath(0), "/root/NEWS");
@@ -222,5 +225,10 @@ TEST_F(FileFolder, HoldsPicturesOfWhatIsInViewOnly)
         EXPECT_EQ(pictures, 12);
     }
     EXPECT_EQ(FF_GetNBVar(0), 97);
-    EXPECT_EQ(FF_GetChildObjectNum("/", OBJECT_TYPE_FILE, ELEMENT_PLACE_STORAGE, 0, true), 402);
+    SendMessage(LMSG_SBSEL, SB_UP, 0, -1, 0);
+    EXPECT_EQ(FF_GetNBVar(0), 96);
+    for (int i = 0; i < 8; i++)
+        Hub("Delete", "ClipStoreFile", "root/SPORT/CLIP" + std::to_string(1000 + i) + ".SFH");
+    EXPECT_EQ(FF_GetNBVar(0), 95);
+    EXPECT_EQ(FF_GetChildObjectNum("/", OBJECT_TYPE_FILE, ELEMENT_PLACE_STORAGE, 0, true), 394);
 }

@@ -63,6 +63,7 @@ TEST_F(PathLists, ACellShowsItsTallyAndIsNotPaintedAgainForWhatIsNoNumber)
                                             {"Key Frame@Path@All@", 0},
                                             {"Key Frame@Path@M/E-1@Xpt", 0}})
         EXPECT_EQ(KP_Follows(path), is_followed) << path;
+    EXPECT_EQ(KP_Proc(MSG_RELEASE, 0, 0, 0, 0), 0) << "others may have a part in it";
     for (const auto& [path, value, x, row, shown] :
          {std::tuple{"Key Frame@Path@All@Xpt", "Mixed", 270, 0, &G_PATH_mixed},
           {"Key Frame@Path@All@Xpt", "Step", 270, 0, &G_PATH_none}, // no word of this column

@@ -1,7 +1,6 @@
 #include "a_nb_column.h"
 #include "pane.h"
 #include "setup_index.h"
-#include <array>
 
 using Lines = Strings;
 
@@ -100,6 +99,9 @@ TEST_F(KnobColumn, APressOnTheTitleMovesTheKnobsToTheNextLayerAndRound)
     EXPECT_EQ(look(0), pushed) << "for 150 ms";
     Pass(1);
     EXPECT_NE(look(0), pushed);
+    const auto title = look(0);
+    NB_SetTitle("Other");
+    EXPECT_NE(look(0), title);
     EXPECT_EQ(PressTitle(), 0);
     Open(one);
     PressTitle();
@@ -277,25 +279,6 @@ TEST_F(KnobColumn, ATurnIsMarkedWhileThePageHearsOfItAndMayChangeValueAndTable)
     EXPECT_EQ(Shown("Again"), 0);
 }
 
-TEST_F(KnobColumn, TheOldestLayerIsForgottenFirst)
-{
-    constexpr size_t REMEMBERED = 256;
-    static std::vector<std::array<NB_TBL, 3>> tables(
-        REMEMBERED + 1, {Box(1, "Low", NB_2, 0, 1, ""), Box(17, "High", NB_2, 0, 1, ""), NB_END});
-    const auto layer_of = [](size_t n) {
-        NB_Create(tables[n].data(), "");
-        return NB_GetLayer();
-    };
-    layer_of(0);
-    PressTitle();
-    for (size_t n = 1; n < REMEMBERED; n++)
-        layer_of(n);
-    EXPECT_EQ(layer_of(0), 1);
-    layer_of(REMEMBERED);
-    EXPECT_EQ(layer_of(0), 0);
-    EXPECT_EQ(layer_of(REMEMBERED), 0);
-}
-
 TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
 {
     Open(table);
@@ -319,7 +302,8 @@ TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
         Pass(10);
     }
     EXPECT_THAT(PixelsIn({600, 73, 705, 545}), testing::Each(0x123456u));
-    for (const int result : {NB_SetVar(1, NAN), NB_SetDispVar(1, INFINITY), NB_SendValue2(1, NAN)})
+    for (const int result : {NB_SetVar(1, NAN), NB_SetDispVar(1, INFINITY), NB_SendValue2(1, NAN),
+                             NB_SetMinMax(1, NAN, 1)})
         EXPECT_EQ(result, -1);
 }
 
@@ -391,7 +375,13 @@ TEST_F(KnobColumn, AGrabPutsTheMouseOnTheMarkAndAnyHeldButtonDrags)
     Drag(754, true, false);
     EXPECT_THAT(Dragged(774, false, false), IsEmpty());
     EXPECT_THAT(Dragged(2000, false, true), Contains("put M/E-1@Key1@Type@Chroma@Clip#100.00"));
+    const auto edge = [] { // of the bar
+        Pass();
+        return PixelsIn({714, Middle(1) - 6, 794, Middle(1) - 6});
+    };
+    const auto held = edge();
     SendMessage(MSG_RELEASE, 0, 0, 0, 0);
+    EXPECT_NE(edge(), held);
     EXPECT_THAT(Dragged(754, false, true), IsEmpty());
     // The release went to a pane: the next press, wherever it is, ends the hold.
     PressSlot(1);
@@ -510,10 +500,14 @@ TEST_F(KnobColumn, AShownValueBecomesTheValueAfterHalfASecond)
     EXPECT_THAT(Told(), ElementsAre("var 2 6", "fvar 2 6.00"));
     EXPECT_EQ(Shown("Lines"), 8);
     Pass(499);
-    Tally("Panel@Common@Knob1", "0");
+    Tally("Panel@Common@Knob1", "7");
+    EXPECT_THAT(Told(), ElementsAre("var 2 7", "fvar 2 7.00"));
     Pass(499);
-    Told();
     Pass(1);
     Tally("Panel@Common@Knob1", "7");
     EXPECT_THAT(Told(), ElementsAre("var 2 9", "fvar 2 9.00"));
+    NB_SetDispVar(2, 5);
+    NB_InvalidVar(2);
+    Pass(500);
+    EXPECT_EQ(Shown("Lines"), 0) << "no value comes back from the display";
 }

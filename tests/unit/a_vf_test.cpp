@@ -53,6 +53,7 @@ TEST_F(LeftTabs, ABoxThatGoesLeavesTheTabsTheirPaths)
                                    {.id = 2, .caption = "", .cmd = "~2@Soft"},
                                    {.id = 3, .caption = "", .cmd = "~2@Own"},
                                    NB_END};
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre("add M/E-1@Key1@Enable"));
     HF_Create(bottom, 1);
     NB_Create(boxes, "");
     (void)TakeQueuedCommands();
