@@ -80,22 +80,6 @@ TEST_F(ButtonFamily, AWipeHasSizeAndTransparencyByItsNumber)
     EXPECT_EQ(Dependency(1, "1201"), BT_DISABLED);
 }
 
-TEST_F(ButtonFamily, TwoTalliesTogetherDecide)
-{
-    for (const auto& [tally, first, second, visible] :
-         {std::tuple{&bt_tly_lightptnbar, "true", "null", BT_ENABLED},
-          {&bt_tly_lightptnbar, "false", "null", BT_DISABLED},
-          {&bt_tly_lightptnbar, "true", "3", BT_DISABLED},
-          {&bt_tly_lightptnbar, "true", "", BT_DISABLED},
-          {&bt_tly_edge, "true", "Chroma", BT_DISABLED},
-          {&bt_tly_edge, "true", "Linear", BT_ENABLED},
-          {&bt_tly_edge, "false", "Chroma", BT_ENABLED}}) {
-        OpenTally(tally, {"", ""});
-        Dependency(1, first);
-        EXPECT_EQ(Dependency(2, second), visible) << first << " " << second;
-    }
-}
-
 TEST_F(ButtonFamily, AShadowsSourceNeedsFourCombinedChannelsAndAFreezeAUnitThatHoldsThePicture)
 {
     for (const bool four : {true, false}) {
@@ -118,28 +102,6 @@ TEST_F(ButtonFamily, AShadowsSourceNeedsFourCombinedChannelsAndAFreezeAUnitThatH
             EXPECT_EQ(Dependency(1, "x"), BT_DISABLED);
         }
     }
-}
-
-TEST_F(ButtonFamily, AJumpToKeyPriorityKeepsTheBankAndABorderIsReadBack)
-{
-    static const struct {
-        const char* bank;
-        uint32_t page;
-    } cases[] = {{"M/E-1", 0x11730000}, {"M/E-2", 0x12730000}, {"M/E-3", 0x13730000},
-                 {"M/E-4", 0x81730000}, {"M/E-5", 0x82730000}, {"PGM/PST", 0x14730000},
-                 {"Aux", 0x11730000}};
-    rows[0] = Button(17, BT_JUMP, {"#11730000"});
-    rows[0].select_func = bt_sel_jmptokeypriority;
-    for (const auto& c : cases) {
-        OpenTree({c.bank, "X"}, 0x11110000, rows);
-        Press(17);
-        EXPECT_EQ(std::exchange(GL_CreatePage, 0u), c.page) << c.bank;
-    }
-    // The server tells of it only when it is asked.
-    rows[0] = Button(17, BT_TOGGLE, {"~@Border#*"});
-    rows[0].select_func = bt_sel_cgborder;
-    OpenTree({"M/E-1", "X"}, 0x11110000, rows);
-    EXPECT_THAT(Pressed(17), ElementsAre("put M/E-1@X@Border#true", "read M/E-1@X@Border"));
 }
 
 TEST_F(ButtonFamily, ALightThatIsActiveHasABar)

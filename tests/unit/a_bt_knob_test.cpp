@@ -46,6 +46,8 @@ TEST_F(KnobLinks, EveryNumberChoosesAmongTablesThatDifferWithTheirBoxesInSlotsFr
     for (int number = 1; number <= LAST_NUMBER; number++) {
         const auto tables = TablesOf(number);
         EXPECT_NE(tables.size(), 1u) << number;
+        const NB_TBL* one[1];
+        EXPECT_LE(special_knob_tables(number, one, 1), 1) << number;
         for (size_t i = 0; i < tables.size(); i++) {
             const NB_TBL* const table = tables[i];
             for (size_t k = 0; k < i; k++)
@@ -62,46 +64,6 @@ TEST_F(KnobLinks, EveryNumberChoosesAmongTablesThatDifferWithTheirBoxesInSlotsFr
         }
     }
     EXPECT_EQ(TablesOf(0).size() + TablesOf(LAST_NUMBER + 1).size() + TablesOf(255).size(), 0u);
-}
-
-TEST_F(KnobLinks, TheAspectIsThatOfThePagesBank)
-{
-    static const char* const banks[] = {"M/E-1", "M/E-2", "M/E-3", "M/E-4", "M/E-5", "PGM/PST"};
-    for (size_t i = 0; i < std::size(banks); i++)
-        for (int wide : {0, 1}) {
-            std::fill_n(SYS_RefSwrScreenAspect, 7, !wide);
-            SYS_RefSwrScreenAspect[i] = wide;
-            SetTree({banks[i], "Wipe", "Main Modify"}, 0x11550000);
-            for (const auto& [number, family] :
-                 {std::pair{11, &nb_me_key_mask_box_aspect}, {21, &nb_me_key_mask_box_aspect}}) {
-                EXPECT_EQ(OpenLink(number, {}), family->variant[wide]) << number << banks[i];
-            }
-            EXPECT_EQ(OpenLink(34, {}), nb_me_wipe_aspect.variant[wide]) << banks[i] << wide;
-            EXPECT_EQ(Chosen()->max, wide ? 100 : 75) << banks[i];
-        }
-}
-
-TEST_F(KnobLinks, TheEffectsUnitGoesByFormatAndAspectOfTheScreen)
-{
-    static const struct {
-        int number, hd, wide;
-        const NB_TBL* table;
-    } cases[] = {
-        {5, 0, 0, nb_dme_edge_bordercrop_border1},
-        {5, 0, 1, nb_dme_edge_bordercrop_border2},
-        {5, 1, 0, nb_dme_edge_bordercrop_border3},
-        {5, 1, 1, nb_dme_edge_bordercrop_border4},
-        {71, 1, 0, nb_dme_edge_bevel.variant[1]},
-        {62, 0, 1, nb_dme_trans_axis.variant[1]},
-        {8, 1, 0, nb_me_key_edge_key_drop.variant[1]},
-        {19, 1, 0, nb_me_key_resizer_mosaic_tiles.variant[1]},
-        {26, 1, 0, nb_me_key_type_phase.variant[1]},
-    };
-    for (const auto& c : cases) {
-        SYS_SignalFormat = c.hd;
-        SYS_ScreenAspect = c.wide;
-        EXPECT_EQ(OpenLink(c.number, {}), c.table) << c.number << " " << c.hd << c.wide;
-    }
 }
 
 TEST_F(KnobLinks, ATallyIsFoundByItsPathAndUnknownWordsChooseTheFirst)
