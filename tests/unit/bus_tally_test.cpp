@@ -38,6 +38,7 @@ TEST_F(BusTally, AValueLandsInItsPlace)
         int expected;
     } cases[] = {
         {"Info@DME@SelCH", "ffffffffffff", &SYS_DMEChannel, INT_MAX},
+        {"Info@DME@SelCH", "1F", &SYS_DMEChannel, 0x1F},
         {FORMAT "Reference@SWR1", "BB", &DEV_Swr[0].refinputformat, 1},
         {FORMAT "Switcher Aspect", "SWR1,16:9,4:3,16:9", &DEV_Swr[0].aspect[0], 1},
         {FORMAT "Switcher Aspect", "SWR1,4:3", &DEV_Swr[0].aspect[2], 1}, // no part, no change
@@ -109,7 +110,9 @@ TEST_F(BusTally, AValueLandsInItsPlace)
 
 TEST_F(BusTally, AnotherReferenceIsToldToThePageAndADataPortOutOfUseAskedFor)
 {
+    DEV_Dme[0].aspect[0] = !SYS_ScreenAspect;
     Deliver("Info@DME@RefCH", "1");
+    EXPECT_EQ(SYS_ScreenAspect, DEV_Dme[0].aspect[0]);
     probe::seen.clear();
     for (const char* value : {"3", "3", "0"})
         EXPECT_EQ(Deliver("Info@DME@RefCH", value), 1);
@@ -168,6 +171,7 @@ TEST_F(BusTally, TheListOfUnitsIsClearedFilledAndUpdated)
     for (const int known : {4, 4, 0}) { // what was told of a unit is not told again
         Deliver(network_list, "KILL");
         EXPECT_EQ(SYS_PnlMax + SYS_SwrMax + SYS_DmeMax + SYS_MpeMax, 0);
+        EXPECT_EQ(Device_ByName("SWR1"), nullptr);
         Deliver(network_list, known ? "SWR001D001,SWR1,a,b,c" : "SWR009D001,SWR9,a,b,c");
         if (known)
             Deliver(FORMAT "Video Format@SWR1", "30/60,1080i");
@@ -184,6 +188,7 @@ TEST_F(BusTally, TheListOfUnitsIsClearedFilledAndUpdated)
     EXPECT_STREQ(DEV_Swr[0].name, "SWR7");
     EXPECT_STREQ(DEV_Swr[0].periip, "3,4");
     EXPECT_STREQ(DEV_Swr[1].id, "SWR002D001");
+    EXPECT_STREQ(DEV_Swr[1].dataip, "10.129.2.2");
 
     const std::string longest(100, 'x');
     const std::string unit = "MPE" + longest + "," + longest + "," + longest + ",d,p";

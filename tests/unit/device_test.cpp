@@ -76,9 +76,9 @@ TEST_F(Devices, KnobTablesGoByTheReferenceUnitsThatTheirChannelsPick)
         EXPECT_EQ(SYS_SignalFormat, hd) << line;
     }
     DEV_Swr[0].aspect[2] = DEV_Swr[1].aspect[3] = 0; // the second switcher's has no part
-    DEV_Dme[0].aspect[1] = DEV_Dme[1].aspect[3] = 0; // channels 2 and 8
+    DEV_Dme[0].aspect[1] = DEV_Dme[1].aspect[0] = DEV_Dme[1].aspect[3] = 0; // channels 2, 5, 8
     for (const auto& [reference, wide] :
-         {std::pair{0, 1}, {1, 1}, {2, 0}, {0x82, 0}, {0x80, 0}, {0x90, 1}, {0x40, 1}}) {
+         {std::pair{0, 1}, {1, 1}, {2, 0}, {0x82, 0}, {0x80, 0}, {0x90, 0}, {0x10, 0}, {0x40, 1}}) {
         SYS_DMEReference = reference;
         DeviceStructure();
         EXPECT_EQ(SYS_ScreenAspect, wide) << std::hex << reference;

@@ -55,7 +55,7 @@ TEST(DriveCheck, WithoutADriveThePaneStandsAtTheStart)
     ASSERT_EQ(rename("/mnt/data", "/mnt/gone"), 0);
     DriveCheck();
     rename("/mnt/gone", "/mnt/data");
-    EXPECT_EQ(GL_SSD_Data_Error, 1);
+    EXPECT_EQ(GL_SSD_Data_Error + GL_SSD_Sys_Error, 2);
     EXPECT_NE(Pane_GetActiveID(), 0);
     Harness_Reset();
 }

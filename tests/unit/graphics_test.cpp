@@ -1,3 +1,4 @@
+#include "bmp_check.h"
 #include "graphics.h"
 #include "harness.h"
 #include "log.h"
@@ -121,6 +122,8 @@ TEST(Graphics, PixelsComeWithTheFirstUseAndAChangedFileIsBlack)
         ASSERT_EQ(SDL_SaveBMP(s, ("graphics/" + std::string(name) + ".bmp").c_str()), 0);
         SDL_FreeSurface(s);
     }
+    EXPECT_TRUE(Bmp_IsSound("graphics/EXE_p0o0.bmp", 3, 2));
+    EXPECT_FALSE(Bmp_IsSound("graphics/EXE_p0o0.bmp", 3, 1));
     LoadGraphics();
     ASSERT_TRUE(G_EXE_p0o0 && G_EXE_p0o1);
     EXPECT_EQ(G_EXE_p0o0->pixels, nullptr);

@@ -60,12 +60,14 @@ TEST_F(Engineering, TheSwitchesDecideWhatIsLogged)
     EXPECT_EQ(BT_GetOnOff(1), 0);
     EXPECT_EQ(BT_GetOnOff(5), 1);
     Press(20); // links
+    EXPECT_EQ(BT_GetOnOff(20), 0);
     EXPECT_EQ(Log_Output(LOG_LIFE, MOD_LINK, "of the links"), 2);
     EXPECT_EQ(Log_Output(LOG_LIFE, MOD_PAGE, "of the pages"), 0);
     Press(22); // all modules
+    EXPECT_EQ(BT_GetOnOff(20), 1);
     EXPECT_EQ(Log_Output(LOG_LIFE, MOD_LINK, "again"), 0);
     Press(34);
-    EXPECT_EQ(GL_LoopCounter, 1);
+    EXPECT_EQ(GL_LoopCounter + BT_GetOnOff(34), 2);
     Press(34);
     EXPECT_EQ(GL_LoopCounter, 0);
     EXPECT_THAT(FileText(LOG),

@@ -2,6 +2,7 @@
 // the hub, what is refused, and what a queue of file operations does one after another.
 #include "a_ff_private.h"
 #include "a_fm.h"
+#include "a_fm_private.h"
 #include "clip_store.h"
 #include "display.h"
 #include "page_table/fmem_clip.h"
@@ -127,6 +128,12 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndAPairWorksOnItsEvenOne)
     EXPECT_EQ(o.frame, 0);
 
     OpenPage(RECALL);
+    const Rect box = fm_box(0);
+    const Rect beside = {box.x1 + (FM_BOX_W + 112) / 2, box.y1 + 116, box.x2, box.y1 + 129};
+    const auto before = Seen(beside);
+    const Display display;
+    Show(0, "2,/WWWWWWWWWWWWWWWW.SFH");
+    EXPECT_EQ(Seen(beside), before) << "its name is cut";
     (void)Touch(115 + 10, 226 + 10); // the second output
     EXPECT_EQ(FM_GetSelect(), 1);
     EXPECT_THAT(Touch(160, 446), ElementsAre(PUT + "Pair@FM1&2#true"));
@@ -135,6 +142,8 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndAPairWorksOnItsEvenOne)
     EXPECT_THAT(Touch(160, 496), ElementsAre(PUT + "Ancillary Enable@FM2#1,1"));
     (void)Tell(TREE + "Pair@FM1&2#true");
     EXPECT_EQ(FM_GetSelect(), 0);
+    Pass(10);
+    EXPECT_EQ(Display::Lacks(), "");
     TellAll(TREE, {"Ancillary Enable@FM1#1,1"});
     EXPECT_THAT(Touch(160, 496),
                 ElementsAre(PUT + "Ancillary Enable@FM1#0,0", PUT + "Ancillary Enable@FM2#0,0"));
@@ -297,6 +306,9 @@ TEST_F(ClipPages, WhatIsPlayedIsOfAClipAndItsBoxesKeysAndLineFollowIt)
         const auto now = seen();
         for (size_t i = 0; i < parts.size(); i++)
             EXPECT_EQ(now[i] != before[i], changed[i]) << line << " " << i;
+        Display::handed = 0;
+        Pass(10);
+        EXPECT_EQ(Display::handed, 0) << line;
         before = now;
     }
     Show(0, "2,/OPENING.SFH");

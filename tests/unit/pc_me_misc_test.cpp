@@ -156,6 +156,10 @@ TEST_F(MeMisc, APressMovesOneKeyAndShiftsTheOthersWhenTheOrderIsKnown)
     Open(0x13730000);
     Tell(path + "1,2,3,");
     EXPECT_EQ(BT_GetStatus(0x11), BT_NO_TALLY) << "too short";
+    Tell(path + "1,2,3,4");
+    BT_SetStatus(0x21, BT_ON);
+    BT_SetStatus(0x22, BT_OFF); // key 2 has no place
+    EXPECT_THAT(Press(0x12), IsEmpty());
 }
 
 TEST_F(MeMisc, TheNormalOrderIsThatOfThePagesOwnKeys)
@@ -383,9 +387,9 @@ TEST_F(MeMisc, TheAssignCellTellsTheOutputsOfABankOfOneSide)
     Open(0x14740000);
     Tell(list + "KILL");
     EXPECT_EQ(told("", ""), told("Main", "Main")) << "not known";
-    TellAll(list, {"P/P,1,FD", "PGM/PST,3,FF", "M/E-1,2,FF", "P/P,9,FF", "P/P,2"});
-    EXPECT_EQ(told("", ""), told("1,3", "3"));
-    EXPECT_NE(told("", ""), told("1,3", "1,3"));
+    TellAll(list, {"P/P,1,FD", "PGM/PST,8,FF", "M/E-1,2,FF", "P/P,9,FF", "P/P,2"});
+    EXPECT_EQ(told("", ""), told("1,8", "8"));
+    EXPECT_NE(told("", ""), told("1,8", "1,8"));
 }
 
 TEST_F(MeMisc, ABankOfOneSideHasNoSubToAssignTo)
