@@ -134,6 +134,11 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
         EXPECT_STREQ(text.main, main) << std::hex << id;
         EXPECT_STREQ(text.further, further) << std::hex << id;
     }
+    Tally(OUTPUT_LIST, "M/E-1,2,Main");
+    EXPECT_STREQ(keyassign_str_get(0x11310000).main, "Main");
+    Tally(OUTPUT_LIST, "KILL");
+    EXPECT_STREQ(keyassign_str_get(0x11410000).main, "Main");
+    Tally(OUTPUT_LIST, "M/E-1,2,Sub");
     Tally(PGM_LIST, "KILL");
     EXPECT_STREQ(keyassign_str_get(0x11310000).main, "Main");
 }

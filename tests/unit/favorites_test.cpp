@@ -42,8 +42,9 @@ TEST_F(Favorites, AKeyOpensItsPageUnlessSomethingElseIsMeant)
     EXPECT_EQ(Usable({FIRST, LAST}), std::vector<int>{FIRST}) << "a free key opens nothing";
     EXPECT_EQ(Caption(FIRST), "M/E-3\nType");
     EXPECT_EQ(Caption(LAST), "");
-    TellAll(DATA, {"Group Name@1#News", "Group Name@11#None"});
+    TellAll(DATA, {"Group Name@1#News", "Group Name@10#Sport", "Group Name@11#None"});
     EXPECT_STREQ(bt_find(FIRST)->group, "News");
+    EXPECT_STREQ(bt_find(LAST)->group, "Sport");
     (void)Again(BTN_STORE);
     EXPECT_THAT(Usable({FIRST, LAST}), testing::SizeIs(2));
     EXPECT_THAT(Again(LAST),

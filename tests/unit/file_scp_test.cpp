@@ -53,7 +53,7 @@ struct FileRemote : FileListTest {
     }
     void AddExport(const char* host, const char* image, const char* store)
     {
-        File_XferList_SCPAdd_FM(&list, (std::string(host) + ":/A/x.SFH").c_str(),
+        File_XferList_SCPAdd_FM(&list, (std::string(host) + "/A/x.SFH").c_str(),
                                 (std::string("MYHOST:/mnt/usb/usb1/") + image).c_str(), "FRAMEMEM",
                                 store, 1, "", 0, 0);
         File_ExecFmExportList2(&list, List, 0);
@@ -211,11 +211,13 @@ TEST_F(FileRemote, WhatCannotBeginFailsAtOnce)
 TEST_F(FileRemote, AnotherUserIsWaitedFor)
 {
     Notify("SETUP.USER_ID:PANEL7");
+    Add("b.SST", "NOTHING");
     BeginGet();
     EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_NON);
     EXPECT_THAT(HubSent(), IsEmpty());
-    const PANE* pane = pane_find(Pane_GetActiveID());
+    PANE* pane = pane_find(Pane_GetActiveID());
     ASSERT_NE(pane, nullptr);
+    EXPECT_STREQ(pane_text_in_view(pane), "b.SST: NG([ERROR] Internal Error.)\n");
     EXPECT_STREQ(pane->each.progress.progmes, "SETUP of SWR1 is used by PANEL7.");
     Notify("SETUP.USER_ID:Non");
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
@@ -265,8 +267,10 @@ TEST_F(FileRemote, JobsOfOneDirectionFollowEachOther)
     // Of those that wait, the one that wants the free category is the first.
     Notify("SETUP.USER_ID:Non");
     EXPECT_THAT(HubSent(), ElementsAre("Request#SWR1.File:SETUP.USER_ID:MENU1"));
-    for (FILEXFERLIST*& one : more)
-        File_XferList_RemoveAll(&one);
+    File_XferList_RemoveAll(&more[0]); // takes nothing from the other one
+    Notify("SETUP.USER_ID:MENU1");
+    EXPECT_EQ(State(), FILE_CATEGORY_STATUS_WAIT_GET);
+    File_XferList_RemoveAll(&more[1]);
 }
 
 TEST_F(FileRemote, AllCategoriesOfAJobEndBeforeItDoes)
@@ -479,16 +483,16 @@ struct FileStore : FileRemote {
         (void)HubSent();
     }
     static void Store(const std::string& row) { Notify("FRAMEMEM." + row, "CS1.File"); }
-    static void Listed(const char* name, const char* way)
+    static void Listed(const char* name, const char* way, const char* result = "OK")
     {
-        Result(std::string(name) + ",OK\n", way, "FRAMEMEM.CS1");
+        Result(std::string(name) + "," + result + "\n", way, "FRAMEMEM.CS1");
         Answer(FetchLabel(), "OK");
     }
 };
 
 TEST_F(FileStore, PicturesAreGotOneAtATime)
 {
-    for (const char* name : {"A/x", "y.1", "z"})
+    for (const char* name : {"A/x", "y.1", "z", "w"})
         AddPicture(name, false);
     File_TransSCPdirGetList_FM(&list, List, 0);
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.USER_ID::MENU1"));
@@ -511,9 +515,13 @@ TEST_F(FileStore, PicturesAreGotOneAtATime)
     EXPECT_STREQ(At(1)->mesg, "y.1.SFH: NG([ERROR] File Not Exist.)");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/z"));
     Store("STATUS::Get,/z.SFH");
-    Listed("/z", "Get");
+    Listed("/z", "Get", "NG(bad)");
+    EXPECT_STREQ(pane_find(QueueRoot->paneid)->each.progress.progmes, "z.SFH: NG(bad)");
+    EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/w"));
+    Store("STATUS::Get,/w.SFH");
+    Listed("/w", "Get");
     (void)Sent();
-    Answer(3, "NG(x)");
+    Answer(4, "NG(x)");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Standby"));
     Store("STATUS::Standby");
     EXPECT_EQ(told.size(), 1u);
@@ -521,7 +529,7 @@ TEST_F(FileStore, PicturesAreGotOneAtATime)
 
 TEST_F(FileStore, AnExportComesAsTheWantedKindFromAStoreThatIsThere)
 {
-    AddExport("SWR000D001", "x.TIF", "CS1");
+    AddExport("SWR000D001:" WORK "FRAMEMEM/CS1", "x.TIF", "CS1");
     (void)HubSent();
     Store("USER_ID::MENU1");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x,TIF"));
@@ -533,7 +541,7 @@ TEST_F(FileStore, AnExportComesAsTheWantedKindFromAStoreThatIsThere)
     Store("STATUS::Standby");
     EXPECT_EQ(told.size(), 1u);
     Scp_TrnasferList[3] = {}; // as at process start
-    AddExport("SWR000D002", "x.TIF", "CS2");
+    AddExport("SWR000D002:", "x.TIF", "CS2");
     EXPECT_EQ(told.size(), 2u);
     EXPECT_STREQ(Scp_TrnasferList[3].host, "SWR000D002:");
 }
@@ -545,7 +553,7 @@ TEST_F(FileStore, AnExportNamesItsPictureWhoeverHoldsTheStore)
     std::swap(list, puts);
     File_TransSCPdirPutList_FM(&puts, List, 0);
     Store("USER_ID::MENU1");
-    AddExport("SWR000D001", "q.TIF", "CS1");
+    AddExport("SWR000D001:", "q.TIF", "CS1");
     EXPECT_THAT(list->cmd, HasSubstr(",SWR000D001:" WORK "FRAMEMEM/CS1/A/x.TIF,"));
     File_XferList_RemoveAll(&puts);
 }
@@ -581,6 +589,10 @@ TEST_F(FileStore, PicturesArePutIntoFoldersThatAreMadeFirst)
     (void)Sent();
     Answer(first, "NG(x)");
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L" + std::to_string(first + 1) + ","));
+    Answer(first + 1, "OK");
+    Store("STATUS::Put,/A/n.SFH/n.SFH");
+    Listed("/A/n.SFH/n", "Put", "NG(bad)");
+    EXPECT_EQ(At(1)->status, FILESTATUS_NG);
 }
 
 TEST_F(FileStore, AFolderIsAskedForAnewAfterAHubThatWasAwayAndADeepOneIsAnother)
@@ -614,8 +626,8 @@ TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)
         File_XferList_ImportAdd2(
             &list, ("MYHOST:/mnt/usb/usb1/c" + std::to_string(frame) + ".TIF").c_str(),
             ("SWR000D001:/c.SFH/c#00000" + std::to_string(frame) + ".SFH").c_str(), 0, "c", frame,
-            2, frame == 0, "FRAMEMEM", "CS1");
-    File_ExecFmImportList2(&list, List, 0);
+            2, 1, "FRAMEMEM", "CS1");
+    EXPECT_EQ(File_ExecFmImportList2(&list, List, 0), 3);
     Store("USER_ID::MENU1");
     (void)HubSent();
     EXPECT_EQ(SentOne(), "Remote Access@Make Dir#L4,SWR000D001:/c.SFH,FRAMEMEM");
@@ -632,6 +644,8 @@ TEST_F(FileStore, AClipMakesItsFolderAtItsFirstFrame)
     Store("STATUS::Put,/c.SFH/c#000000.SFH");
     Listed("/c.SFH/c#000000.SFH", "Put");
     EXPECT_THAT(SentOne(), HasSubstr("SCP Dir Put#L2,")) << "no second folder";
+    Answer(2, "OK"); // the companion
+    EXPECT_THAT(SentOne(), HasSubstr("#L2,MYHOST:/mnt/usb/usb1/c1.TIF,"));
     DEV_Swr[0].format_size = 9;
     Answer(2, "OK");
     EXPECT_STREQ(At(1)->mesg, "c1.TIF: NG([ERROR] Internal Error.)");

@@ -4,6 +4,7 @@
 #include "process.h"
 #include <chrono>
 #include <csignal>
+#include <sys/wait.h>
 
 constexpr char ROW_DATE[] = "Wed Nov 25 09:20:08 2026";
 
@@ -228,6 +229,15 @@ TEST_F(FileLists, AnEmptyListIsNoJobAndASecondCallIsNoSecondOne)
     EXPECT_EQ(SentOne(), "Access@Remove#L4,MYHOST:/s/f0");
     EXPECT_EQ(QueueRoot->next, nullptr);
     EXPECT_EQ(FileCounter, 1);
+    Answer(2, "OK"); // and leaves the list
+    EXPECT_EQ(File_XferList_Remove(&list, "MYHOST:/s/f1", "MYHOST:/d/f1"), 0);
+    Fill(1);
+    EXPECT_EQ(File_ExecRemoveList(&list, List, 5), label);
+    for (const uint32_t item : {1u, 4u, 5u}) {
+        EXPECT_THAT(told, IsEmpty());
+        Answer(item, "OK");
+    }
+    EXPECT_EQ(told.size(), 1u) << "each counts once";
 }
 
 TEST_F(FileLists, EveryListSaysItsCommandUnderItsTitle)
@@ -284,15 +294,15 @@ TEST_F(FileLists, RepliesInAnyOrderEndTheJobOnce)
     const int pane = QueueRoot->paneid;
     EXPECT_TRUE(Pane_Exist(pane));
     for (uint32_t l = 1; l <= 3; l++)
-        Ack(l, 10 + l);
-    Status(13, "OK");
-    Status(11, "NG(no)");
-    Status(11, "OK"); // too late
+        Ack(l, l);
+    Status(3, "OK");
+    Status(1, "NG(no)");
+    Status(1, "OK"); // too late
     EXPECT_EQ(At(0)->status, FILESTATUS_NG);
     EXPECT_STREQ(At(0)->mesg, "f0: NG(no)");
     EXPECT_EQ(At(1)->status, FILESTATUS_EXEC);
     EXPECT_THAT(told, IsEmpty());
-    Status(12, "Canceled");
+    Status(2, "Canceled");
     EXPECT_THAT(told, ElementsAre("4 5"));
     EXPECT_EQ(list, nullptr);
     EXPECT_FALSE(Pane_Exist(pane));
@@ -304,9 +314,12 @@ TEST_F(FileLists, ANoThatMayPassIsTriedThreeTimesMore)
     Fill(1);
     File_ExecMoveList(&list, List, 0);
     const std::string command = SentOne();
-    for (int i = 0; i < 3; i++) {
-        Answer(1, "NG(busy.)");
+    for (uint32_t i = 0; i < 3; i++) {
+        Ack(1, 50 + i);
+        Status(50 + i, "NG(busy.)");
         EXPECT_EQ(SentOne(), command) << i;
+        Status(50 + i, "OK"); // of what is over
+        ASSERT_NE(list, nullptr);
         EXPECT_EQ(list->status, FILESTATUS_REQ);
     }
     Answer(1, "NG(busy.)");
@@ -396,19 +409,26 @@ TEST_F(FileLists, TheDrivesAreWrittenBeforeTheJobEnds)
 {
     static int sync;
     File_ReplaceSync([] { return sync = ktr_start("/bin/sleep 60"); });
-    Fill(1);
-    File_ExecCopyList(&list, List, 0);
-    Answer(1, "OK");
-    for (int i = 0; i < 5; i++)
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
-    EXPECT_THAT(told, IsEmpty());
-    EXPECT_TRUE(Pane_Exist(QueueRoot->paneid));
-    kill(sync, SIGTERM);
-    for (int i = 0; i < 500 && QueueRoot; i++) {
-        usleep(10000);
-        SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+    const int other = ktr_start("/bin/true");
+    for (const bool is_dropped : {false, true}) {
+        Fill(1);
+        File_ExecCopyList(&list, List, 0);
+        Answer(list->label, "OK");
+        for (int i = 0; i < 5; i++)
+            SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        EXPECT_EQ(told.size(), is_dropped) << "the first one";
+        EXPECT_TRUE(Pane_Exist(QueueRoot->paneid));
+        if (is_dropped)
+            File_XferList_RemoveAll(&list);
+        kill(sync, SIGTERM);
+        for (int i = 0; i < 500 && kill(sync, 0) == 0; i++) {
+            usleep(10000);
+            SendMessage(MSG_REDRAW, 10, 0, 0, 0);
+        }
+        EXPECT_NE(kill(sync, 0), 0) << "the dead child is left";
+        EXPECT_EQ(told.size(), 1u);
     }
-    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(waitpid(other, nullptr, 0), other) << "nobody else's is taken";
 }
 
 TEST_F(FileLists, AMemorySizedJobAnswersInTime)
@@ -489,9 +509,8 @@ TEST_F(FileBackground, EachPageOfTheMenuHasItsBit)
     BkgdHDDTransfer_Busy(1, false);
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
     BkgdHDDTransfer_Set(0x25620000, 1);
-    EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
-    EXPECT_EQ(BkgdHDDTransfer_Check(0x25620000), 1);
-    EXPECT_EQ(BkgdHDDTransfer_Check(0x25620001), 0);
+    for (const auto& [page, is_busy] : {std::pair{0u, 1}, {0x25620000u, 1}, {0x25620001u, 0}})
+        EXPECT_EQ(BkgdHDDTransfer_Check(page), is_busy) << std::hex << page;
 }
 
 TEST_F(FileBackground, ThePaneIsLeftAndComesBackWithWhatHappened)

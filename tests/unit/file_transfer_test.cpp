@@ -28,7 +28,7 @@ struct FileSteps : FileListTest {
             {"", "MYHOST:"}};
         const auto whole = [](const std::string& path) {
             for (const auto& [name, root] : roots)
-                if (path.starts_with(name) && path != "SWR000D001")
+                if (path.starts_with(name) && !path.starts_with("SWR000D"))
                     return root + path.substr(strlen(name));
             return path;
         };
@@ -292,6 +292,12 @@ TEST_F(FileImport, BothSidesAreStoredUnderTheirRegistersAndRemoved)
                       ",SWR:" + c.first + "." + ext + " | " + put + b + ",SWR:" + c.second + "." +
                       ext + " | Access@Remove#," + a + " | Access@Remove#," + b);
     }
+    CopyText(DEV_Swr[1].id, "SWR000D002");
+    DEV_MySwr[1] = &DEV_Swr[1];
+    File_ExecFmImportStartRegNoSet(1);
+    WriteFile("/var/tmp/XPORT/SWR000D002/Mabcdefgh.FMEM_001.SFM", "x");
+    EXPECT_THAT(Run(File_ExecFmImportList, "stick/abcdefghij.tif", "SWR000D002"),
+                HasSubstr(",SWR000D002:FMEM_012.SFM"));
 }
 
 TEST_F(FileImport, TheConverterHearsTheKindTheSideAndTheFormat)

@@ -1,6 +1,7 @@
 #include "clip_store.h"
 #include "fetches.h"
 #include "file.h"
+#include "memory.h"
 #include <fstream>
 
 namespace fs = std::filesystem;
@@ -103,6 +104,7 @@ struct ClipStore : ClipStoreTest<BusTest> {
 
 TEST_F(ClipStore, ElementsStandInTheOrderOfTheTreeHoweverManyComeAtOnce)
 {
+    const int blocks = UsedMemPtr;
     for (const char* path : {"B/two", "zoo", "B/A/deep", "A/x", "B/one", "alpha", "A.B/y"})
         Clip(path);
     for (const char* path : {"B", "B/A", "A", "A.B", "C", "alpha"})
@@ -129,6 +131,8 @@ TEST_F(ClipStore, ElementsStandInTheOrderOfTheTreeHoweverManyComeAtOnce)
     EXPECT_THAT(children("/"), ElementsAre("alpha", "zoo"));
     FMCtrl3_Clear(0);
     EXPECT_THAT(Tree(), ElementsAre("/"));
+    EXPECT_EQ(ElementListBottom, ElementListTop.next);
+    EXPECT_EQ(UsedMemPtr, blocks);
 
     for (int i = 0; i < 10000; i++)
         Clip("F" + std::to_string(i * 7919 % 97) + "/c" + std::to_string(i), 1 + i % 3, 1);
@@ -275,6 +279,7 @@ TEST_F(ClipStore, MiddlesOfClipsAreFetchedFirstThirtyAtOnce)
     Clip("still", 1, 1);
     auto gets = Gets();
     ASSERT_THAT(Remotes(gets), ElementsAre("still.SFH.THM"));
+    EXPECT_TRUE(fs::exists(FM_FOLDER));
     Clip("A/clip", 40, 1);
     Clip("last", 5, 1);
     EXPECT_THAT(Gets(), IsEmpty()) << "one is in flight";
@@ -318,6 +323,7 @@ TEST_F(ClipStore, OnlyFilesOfAnotherSizeAreFetchedAgainFiveTimesAtMost)
         Passes(500);
         for (const Get& get : Gets()) {
             asked.push_back(Remotes({get})[0]);
+            EXPECT_THAT(Files(), Not(Contains(asked.back()))) << "one that is wrong is no use";
             Answer(get, "OK");
         }
     }
@@ -385,7 +391,6 @@ TEST_F(ClipStore, ATrimRenumbersTheThumbnailsThatAreThere)
     Answer(gets[0], "OK");
     EXPECT_THAT(Changes(), IsEmpty()) << "it is the first of what was";
 
-    (void)Changes();
     HubWorks("Delete", "root/c.SFH");
     for (const char* name : {"a.SFH#000010.THM", "a.SFH#000300.THM", "a.SFH#089000.THM",
                              "a.SFH#000301.THM", "a.SFH#000299.THM", "a2.SFH#000300.THM",
@@ -534,7 +539,6 @@ TEST_F(ClipStore, ATrimIsNotKeptWaitingAndASecondOneMeanwhileLeavesNoWrongNumber
     Work();
     EXPECT_EQ(count("next"), 0);
     // Another switcher's store has a clip of that name.
-    (void)Changes();
     Hub("Delete", "ClipStoreFile", "root/cut.SFH");
     CopyText(DEV_MySwr[0]->id, "SWR000D002");
     Clip("cut", 1, 1);
@@ -544,7 +548,6 @@ TEST_F(ClipStore, ATrimIsNotKeptWaitingAndASecondOneMeanwhileLeavesNoWrongNumber
     Work();
     EXPECT_THAT(Changes(), IsEmpty());
     Answer(gets[0], "OK");
-    (void)Changes();
     Hub("Delete", "ClipStoreFile", "root/cut.SFH");
     CopyText(DEV_MySwr[0]->id, "SWR000D001");
     fs::remove_all("/mnt/sys/FM/2");
@@ -582,26 +585,22 @@ TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
     Folder("A");
     Clip("A/b", 3);
     Clip("A.b", 1);
-    for (const char* name : {"A.b.SFH#000002.THM", "A.b.SFH.THM"})
-        Put(name, 6966);
-    for (const char* name : {"A.b.SFH#000003.THM", "A.b.SFH#00002.THM", "b.SFH#000000.THM",
-                             "A.b.SFH#000001.BMP", "A.b.THM"})
+    for (const char* name :
+         {"A.b.SFH#000002.THM", "A.b.SFH.THM", "A.b.SFH#000003.THM", "A.b.SFH#00002.THM",
+          "b.SFH#000000.THM", "A.b.SFH#000001.BMP", "A.b.THM"})
         Put(name, 6966);
     Put("A.b.SFH#000000.THM", 6965);
     const std::string longest(ELEMENT_FOLDER_SIZE - 1, 'f');
-    for (const std::string& path :
-         {std::string("A/B"), std::string("A/B/C"), std::string("A/B/C/D"), longest})
+    for (const std::string& path : Strings{"A/B", "A/B/C", "A/B/C/D", longest})
         Folder(path);
     Clip("A/d", 3);
-    for (const std::string& path : {std::string("A/B/C/D/e"), longest + "/e", std::string("x#5")})
+    for (const std::string& path : Strings{"A/B/C/D/e", longest + "/e", "x#5"})
         Clip(path);
-    for (const std::string& name : // four folders deep, the longest name, a name with a "#"
-         {std::string("A.B.C.D.e"), longest + ".e", std::string("x#5")})
-        Put(name + ".SFH.THM", 6966);
+    // Four folders deep, the longest name, a name with a "#"; and files of none.
     for (const std::string& name :
-         {longest + "f.e.SFH.THM", std::string("A.d.SFH.THM"), std::string("x#5.SFH#000000.THM"),
-          std::string("A.d.SFH#00000x.THM"), std::string("A.d.SFH#000001x.THM")})
-        Put(name, 6966);
+         Strings{"A.B.C.D.e.SFH", longest + ".e.SFH", "x#5.SFH", longest + "f.e.SFH", "A.d.SFH",
+                 "x#5.SFH#000000", "A.d.SFH#00000x", "A.d.SFH#000001x"})
+        Put(name + ".THM", 6966);
     for (const char* name : {"A.b.SFH.THM.of", "A.c.SFH.THM.of", "A.b.of"})
         PutText(name, "");
     Passes(4000);
@@ -621,9 +620,8 @@ TEST_F(ClipStore, FilesOfNoElementAreRemovedOnce)
 TEST_F(ClipStore, TablesComeAndGo)
 {
     (void)TakeQueuedHubLines();
-    Hub("Ready", "ClipStoreInfo", "");
-    Hub("Ready", "ClipStoreFolder", "");
-    Hub("Ready", "ClipStoreFile", "");
+    for (const char* table : {"ClipStoreInfo", "ClipStoreFolder", "ClipStoreFile"})
+        Hub("Ready", table, "");
     EXPECT_THAT(TakeQueuedHubLines(),
                 ElementsAre("Read#CS1.ClipStoreInfo:CAPACITY:", "InitRead#CS1.ClipStoreFolder",
                             "InitRead#CS1.ClipStoreFile"));

@@ -77,10 +77,8 @@ TEST_F(FrameMemoryLists, StillsArePairsOfTheLastSidesAndTwoFramesMakeAClip)
     Store({"Mabc0001", "Mabc0002", "Mabc0003", "Mabc0004", "Mabc0005"});
     EXPECT_EQ(FMCtrl_GetClipFrameIdx(0, 0), 2);
     EXPECT_EQ(FMCtrl_MoveClipFrame(0, 0, 100), 0);
-    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 0), 4);
-    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 1), -1);
-    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, -4), 0);
-    EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, -5), -1);
+    for (const auto& [offset, index] : {std::pair{0, 4}, {1, -1}, {-4, 0}, {-5, -1}})
+        EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, offset), index) << offset;
     EXPECT_EQ(FMCtrl_GetClipMidRegId(0, 0), 2) << "the middle is not moved";
     EXPECT_EQ(FMCtrl_MoveClipFrame(0, 0, INT_MIN), 0);
     EXPECT_EQ(FMCtrl_GetClipFrameIdx(0, 0), 0);
@@ -200,6 +198,7 @@ TEST_F(FrameMemoryLists, MaxRegisterBeginsAnewAndTheExtendedStoreIsEmptiedInSlic
     EXPECT_EQ(FMCtrl2_GetRegIndex("Mabc0001"), -1);
     EXPECT_EQ(FMCtrl2_EmptyRegNo(0), -1);
     EXPECT_STREQ(FMCtrl2_GetRegNameMulti(0), "");
+    EXPECT_FALSE(FMCtrl_IsRegStore(0));
     EXPECT_EQ(FMCtrl_GetClipRegId(0, 0, 0), -1);
     EXPECT_STREQ(FMCtrl_GetStillFolderName(0), "");
     EXPECT_FALSE(FmemReg || FmemReg2);

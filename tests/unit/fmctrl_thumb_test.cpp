@@ -30,9 +30,8 @@ struct ThumbnailBmp {
 struct FrameMemoryThumbnails : FrameMemory {
     void SetUp() override
     {
-        FrameMemory::SetUp();
         fs::remove_all(THUMBNAILS);
-        fs::create_directories(THUMBNAILS);
+        FrameMemory::SetUp();
         Max(2000);
         (void)Tell("Frame Mem@Status@Extended Capacity", "1");
         (void)Changes();
@@ -71,6 +70,8 @@ struct FrameMemoryThumbnails : FrameMemory {
 
 TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFileByItsStoreAndNumber)
 {
+    const auto open_files = [] { return FilesIn("/proc/self/fd").size(); };
+    const size_t open_before = open_files();
     auto gets = Gets(Sense(1, "1", "Mlogo"));
     ASSERT_EQ(gets.size(), 1u);
     EXPECT_EQ(gets[0].remote, "SWR000D001:FMEM_001.SFT");
@@ -80,6 +81,7 @@ TEST_F(FrameMemoryThumbnails, AFetchBecomesASmallPictureAndABitmapFileByItsStore
     (void)Answer(gets[0]);
     EXPECT_THAT(Changes(), ElementsAre("0, 1"));
     EXPECT_THAT(Files(), ElementsAre("FM_0001.BMP"));
+    EXPECT_EQ(open_files(), open_before);
     EXPECT_EQ(Width(1, THUMBSIZE_SMALL), 8);
     EXPECT_EQ(Width(1, THUMBSIZE_FULL), 16);
 

@@ -1,3 +1,4 @@
+#include "display.h"
 #include "install_stick.h"
 
 struct Install : testing::Test {
@@ -93,6 +94,12 @@ TEST_F(Install, AStepThatFailsEndsItAndIsTold)
         InstallStick::Ends(c.script, "0");
     }
     EXPECT_EQ(Run("EXEC step; exit 3\n"), 0) << "nobody asks what came of an EXEC";
+    TDL_Hold(); // within a pass, the first thing is seen before the rest is done
+    const Display display;
+    Display::handed = 0;
+    display_progress("Install", 30, "Searching");
+    EXPECT_GT(Display::handed, 0);
+    TDL_Release();
 }
 
 TEST_F(Install, ACommandInTheBackgroundIsWaitedForWhateverWasEstimated)

@@ -17,20 +17,14 @@
 static SDL_Event Button(int type, int x, int y, int button = SDL_BUTTON_LEFT)
 {
     SDL_Event e{};
-    e.type = uint8_t(type);
-    e.button.button = uint8_t(button);
-    e.button.x = uint16_t(x);
-    e.button.y = uint16_t(y);
+    e.button = {uint8_t(type), 0, uint8_t(button), 0, uint16_t(x), uint16_t(y)};
     return e;
 }
 
 static SDL_Event Motion(int x, int y, int state)
 {
     SDL_Event e{};
-    e.type = SDL_MOUSEMOTION;
-    e.motion.x = uint16_t(x);
-    e.motion.y = uint16_t(y);
-    e.motion.state = uint8_t(state);
+    e.motion = {SDL_MOUSEMOTION, 0, uint8_t(state), uint16_t(x), uint16_t(y), 0, 0};
     return e;
 }
 
@@ -61,10 +55,10 @@ struct Loop : BusTest {
             ms = s.msg == MSG_REDRAW ? int(s.ax) : ms;
         return ms;
     }
-    static void Pass(SDL_Event e)
+    static int Pass(SDL_Event e) // whether it was the last one
     {
         SDL_PushEvent(&e);
-        MainPass();
+        return MainPass();
     }
 };
 
@@ -162,12 +156,13 @@ TEST_F(Loop, KeysOfTheDeveloperWorkInDebugModeOnly)
         GL_DebugMode = GL_ScreenCapture = c.mode;
         MainPass();
         Clock_ms += 1000;
-        Pass(c.event);
+        EXPECT_FALSE(Pass(c.event));
         EXPECT_EQ(KF_GetRegionDisplay(0), c.display) << &c - cases;
         const std::filesystem::directory_iterator files(captures);
         EXPECT_EQ(std::distance(begin(files), end(files)), c.captures) << &c - cases;
     }
     EXPECT_EQ(Count(MSG_KEY), 5u);
+    EXPECT_TRUE(Pass({.type = SDL_QUIT})) << "the window was closed";
     GL_DebugMode = GL_ScreenCapture = 0;
 }
 
@@ -266,7 +261,7 @@ TEST_F(Loop, AQuietDisplayHoldsBackNoTouchAndWhatNobodyTellsOfIsFoundSoon)
     int passes = 0;
     for (; Count(MSG_RELEASE) == 0 && passes < 100; passes++)
         MainPass();
-    EXPECT_LE(passes, 16);
+    EXPECT_THAT(passes, AllOf(testing::Gt(3), testing::Le(16)));
     Pass(e); // there may be more where that came from
     EXPECT_EQ(Count(MSG_RELEASE), 2u);
     Ready_Watch(READY_DISPLAY, 0);

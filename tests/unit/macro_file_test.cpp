@@ -1,6 +1,7 @@
 #include "harness.h"
 #include "macro_file.h"
 #include <fstream>
+#include <sys/stat.h>
 #include <unistd.h>
 
 constexpr char PATH[] = "/var/tmp/macro_file.PMR";
@@ -112,10 +113,14 @@ TEST_F(MacroFiles, AFileWithoutItsHeaderIsNoneAndAStoreThatFailsLeavesTheOldOne)
 
     const std::string old = lines(1, "Event?,MECut,ME?,P/P");
     ASSERT_EQ(Read(old), 0);
+    const std::string beside = std::string(PATH) + ".new";
+    mkdir(beside.c_str(), 0755);
+    EXPECT_EQ(MacroFile_Write(PATH, list), -1) << "there is no place for a new one";
+    rmdir(beside.c_str());
     (void)add_node(list, list.pTail); // blank: no symbol
     EXPECT_EQ(MacroFile_Write(PATH, list), -1);
     EXPECT_EQ(FileText(PATH), old);
-    EXPECT_NE(access((std::string(PATH) + ".new").c_str(), F_OK), 0);
+    EXPECT_NE(access(beside.c_str(), F_OK), 0);
 }
 
 TEST_F(MacroFiles, LimitsCutWhatIsTooMuchAndTheCursorOutlivesItsLine)

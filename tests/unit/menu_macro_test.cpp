@@ -334,9 +334,11 @@ TEST_F(MenuMacro, ARunHoldsForNothingButALinkThatIsDown)
         Pass(100); // nobody takes what is queued
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put A#1"));
     EXPECT_THAT(Run(1000), ElementsAre("90:put B#2", "100:put C#3", "100:put D#4")) << "no burst";
+    Record();
     mm_macro_run(2);
-    Pass(10);
+    const auto runs = Seen({508, 6, 797, 65});
     MM_macro_ext_stop();
+    EXPECT_NE(Seen({508, 6, 797, 65}), runs) << "of another state";
     EXPECT_THAT(TakeQueuedCommands(), ElementsAre("put A#1"));
     EXPECT_THAT(Run(1000), IsEmpty());
 }
@@ -390,6 +392,7 @@ TEST_F(MenuMacro, TheEditorEditsAndStores)
     EXPECT_EQ(File(1).find("put X"), std::string::npos);
     (void)Press(STORE);
     EXPECT_EQ(Events(reg_data[0].register_data), Recorded());
+    EXPECT_EQ(reg_data[0].register_protcol_max, int(Recorded().size()));
     EXPECT_THAT(File(1), HasSubstr("Event:put X#9\n"));
     (void)Tell("Panel@Common@Knob0#1"); // register 2
     (void)Puts(STORE);
@@ -436,8 +439,10 @@ TEST_F(MenuMacro, TheRegisterPagesWorkOnListAndFile)
     mm_rename_exec(5, "ONE");
     mm_copy_exec(4, 5, 5, false); // the runs overlap
     EXPECT_STREQ(mm_register_table(5).name, "ONE");
+    mm_copy_exec(6, 6, 1, false);
     MM_Register_Data_All_Delete();
-    EXPECT_EQ(mm_register_table(1).empty, 1) << "locked or not";
+    for (const int no : {0, 1})
+        EXPECT_EQ(mm_register_table(no).empty, 1) << "locked or not";
     EXPECT_EQ(mm_macro_file_load(1), -1);
 }
 

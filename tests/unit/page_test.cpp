@@ -299,6 +299,7 @@ TEST_F(PageTest, HistoryGoesBackAndForwardAndKeepsFiftyPages)
 TEST_F(PageTest, AStepBackFromAnErrorPageReturnsToTheCoveredPage)
 {
     EXPECT_TRUE(IsTopHistory(1));
+    EXPECT_EQ(GetHistoryBack(1), 0u);
     EXPECT_EQ(HistoryBack(1), -1);
     CreatePage(KeyPage(0));
     CreatePage(KeyPage(1));

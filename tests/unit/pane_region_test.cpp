@@ -93,6 +93,10 @@ TEST_F(Regions, EveryGroupIsSound)
         const int pane = PaneRegion_Create(grp, 0);
         Pass();
         EXPECT_GE(Top(grp, 0), 73) << "the saved ground reaches no higher";
+        const Rect word = {Left(grp) + 20, Top(grp, 0) + 24, Left(grp) + 50, Top(grp, 0) + 34};
+        if (grp == 24 || grp == 25) {
+            EXPECT_THAT(PixelsIn(word), testing::Contains(0xFFFFFFu)) << "beside its row";
+        }
         Enter(grp);
         EXPECT_EQ(Last(), Quit(pane, 1)) << grp;
     }
@@ -152,6 +156,8 @@ TEST_F(Regions, WithoutASwitcherTheFirstChannelLeadsAndAUnitComesBackAsTheRefere
     EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
     EXPECT_EQ(Selected(14), "0* 6") << "there is a switcher";
     Units(0, 1);
+    PaneRegion_InitID(0);
+    EXPECT_EQ(RegionBtn[0].btnsel[0].id, 0);
     EXPECT_EQ(PaneRegion_SetDefaultSelected(14), 0);
     EXPECT_EQ(Selected(14), "6 16*") << "the router is none of its cells";
     Select(14, {{M_E_1, 1}, {CHANNEL_1, 1}, {CHANNEL_2, 2}});

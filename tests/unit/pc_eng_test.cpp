@@ -160,7 +160,7 @@ TEST(Hsl, BecomesRedGreenAndBlue)
         {240, 100, 50, 0x0000FF},       {300, 100, 25, 0x800080},  {0, 0, 50, 0x808080},
         {210, 50, 40, 0x336699},        {0, 100, 100, 0xFFFFFF},   {200, 100, 0, 0x000000},
         {360, 100, 50, 0xFF0000},       {-120, 100, 50, 0x0000FF}, {0, 900, 50, 0xFF0000},
-        {double(NAN), 0, 50, 0x808080}, {1e300, 0, 200, 0xFFFFFF},
+        {0, double(NAN), 50, 0x808080}, {1e300, 0, 200, 0xFFFFFF}, {double(NAN), 0, 50, 0x808080},
     };
     for (const auto& [hue, saturation, luminance, rgb] : cases)
         EXPECT_EQ(RgbOfHsl(hue, saturation, luminance), rgb)

@@ -470,7 +470,7 @@ TEST_F(MacroAttachPage, EntriesAreShownInTheOrderOfThePanelsAndAreNotClearedUnas
     }
 
     OpenWith({"66,1,0,0,12,0,0", "8,9,2,0,12,0,0", "1,7,2,0,12,0,0", "8,9,1,0,12,0,0",
-              "1,7,1,0,12,0,0", "8,2,9,0,12,0,0"});
+              "1,7,1,0,12,0,1", "8,2,9,0,12,0,0"});
     EXPECT_EQ(Row(0, 5) + Row(1, 5), "P/P XPT|BKGD A XPT 7|Only|12|OPENING"
                                      "P/P XPT|BKGD B XPT 7|Only|12|OPENING");
     EXPECT_EQ(Row(2, 5), "M/E-1 XPT|KEY 7 XPT 2|Only|12|OPENING");
@@ -480,7 +480,7 @@ TEST_F(MacroAttachPage, EntriesAreShownInTheOrderOfThePanelsAndAreNotClearedUnas
     };
     EXPECT_NE(detail(0), detail(2));
     EXPECT_EQ(LS_GetNData(1), 6);
-    (void)Tell(ATTACHMENT + "1,7,1,2,13,0,0" + PLACE); // the button has another macro
+    (void)Tell(ATTACHMENT + "1,7,1,2,13,0,1" + PLACE); // the button has another macro
     Pass(10);
     EXPECT_EQ(LS_GetNData(1), 6);
     EXPECT_EQ(Row(0, 5), "P/P XPT|BKGD A XPT 7|Post|13|");
