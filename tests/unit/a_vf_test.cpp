@@ -128,6 +128,7 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
                                             {0x11210000u, "Main", "Sub"},        // key 2: both
                                             {0x11310000u, "", "Sub"},            // key 3: output 2
                                             {0x11410000u, "", ""},               // key 4: no output
+                                            {0x14110000u, "", "Sub"},            // the last output
                                             {0x12410000u, "Main", ""}, // a bank of one side
                                             {0x11510000u, "", ""}}) {  // no key page
         const KeyAssignText text = keyassign_str_get(id);

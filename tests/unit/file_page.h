@@ -38,7 +38,9 @@ struct FileTest : BusTest {
     }
     static void Found(uint32_t, int, const char* name, const char* const* pair)
     {
-        told.push_back(name ? std::string(name) + "|" + pair[0] + "|" + pair[1] : "end");
+        told.push_back(name                ? std::string(name) + "|" + pair[0] + "|" + pair[1]
+                       : File_FindFailed() ? "failed"
+                                           : "end");
     }
 
     static Strings Sent() { return TakeQueuedCommands(); }

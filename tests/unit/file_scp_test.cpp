@@ -35,7 +35,7 @@ struct FileRemote : FileListTest {
     {
         for (const std::string& name : names)
             Add(name, "SETUP", "SWR1", true);
-        File_TransSCPdirPutList(&list, List, 0);
+        EXPECT_GT(File_TransSCPdirPutList(&list, List, 0), 0);
         (void)HubSent();
         Notify("SETUP.USER_ID:MENU1");
     }
@@ -56,17 +56,17 @@ struct FileRemote : FileListTest {
         File_XferList_SCPAdd_FM(&list, (std::string(host) + "/A/x.SFH").c_str(),
                                 (std::string("MYHOST:/mnt/usb/usb1/") + image).c_str(), "FRAMEMEM",
                                 store, 1, "", 0, 0);
-        File_ExecFmExportList2(&list, List, 0);
+        EXPECT_GT(File_ExecFmExportList2(&list, List, 0), 0);
     }
     static void Result(const std::string& text, const char* way = "Get",
                        const char* who = "SETUP.SWR1")
     {
         WriteFile(std::string("/var/tmp/FILE/") + who + "." + way + ".result.lst", text);
     }
-    static uint32_t FetchLabel()
+    static uint32_t FetchLabel(const std::string& of = "result.lst")
     {
         const std::string one = SentOne();
-        EXPECT_THAT(one, HasSubstr("result.lst"));
+        EXPECT_THAT(one, HasSubstr(of));
         return uint32_t(strtoul(one.c_str() + one.find("#L") + 2, nullptr, 10));
     }
     static int State(const char* category = "SETUP", int target = 0)
@@ -478,7 +478,7 @@ struct FileStore : FileRemote {
     {
         for (const std::string& name : names)
             AddPicture(name, true);
-        File_TransSCPdirPutList_FM(&list, List, 0);
+        EXPECT_GT(File_TransSCPdirPutList_FM(&list, List, 0), 0);
         Store("USER_ID::MENU1");
         (void)HubSent();
     }
@@ -494,7 +494,7 @@ TEST_F(FileStore, PicturesAreGotOneAtATime)
 {
     for (const char* name : {"A/x", "y.1", "z", "w"})
         AddPicture(name, false);
-    File_TransSCPdirGetList_FM(&list, List, 0);
+    EXPECT_GT(File_TransSCPdirGetList_FM(&list, List, 0), 0);
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.USER_ID::MENU1"));
     Store("USER_ID::MENU1");
     EXPECT_THAT(HubSent(), ElementsAre("Request#CS1.File:FRAMEMEM.STATUS::Get,/A/x"));
@@ -601,10 +601,8 @@ TEST_F(FileStore, AFolderIsAskedForAnewAfterAHubThatWasAwayAndADeepOneIsAnother)
         Hub("Ready", "CS1.File");
         Store("USER_ID::MENU1");
     };
-    const auto folder_made = [](const char* folder) {
-        const std::string one = SentOne();
-        EXPECT_THAT(one, HasSubstr(std::string(",SWR000D001:/") + folder + ",FRAMEMEM"));
-        return uint32_t(strtoul(one.c_str() + one.find("#L") + 2, nullptr, 10));
+    const auto folder_made = [](const std::string& folder) {
+        return FetchLabel(",SWR000D001:/" + folder + ",FRAMEMEM");
     };
     BeginPut({"r", "A/B/C/x", "A/B/D/y"});
     Answer(folder_made(""), "OK");

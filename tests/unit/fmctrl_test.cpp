@@ -270,13 +270,9 @@ TEST_F(FrameMemoryLists, FollowAStormAsAPlainRecountWould)
                                       : -1);
                     is_extended |= index >= FMEM_EXTENDED;
                 }
-                ASSERT_EQ(FMCtrl_GetClipFirstRegId(c, is_sub),
-                          !is_clip || side.empty() ? -1 : side.begin()->second);
             }
             if (!is_clip)
                 continue;
-            ASSERT_EQ(FMCtrl_IsClipMain(c), !both[0].empty());
-            ASSERT_EQ(FMCtrl_IsClipSub(c), !both[1].empty());
             ASSERT_EQ(FMCtrl_IsClipExtended(c), is_extended);
             clips.push_back(clip + ":");
             for (int is_sub : {0, 1}) {
@@ -360,9 +356,6 @@ TEST_F(FrameMemoryLists, FoldersAreSortedTheUnusedLastAndTheirStatusMovesStillsA
     Store({"Mext"}, 16384 + 2);
     (void)Tell(STATUS + "Folder Status@128", "0007");
     EXPECT_EQ(FMCtrl_GetRegFolderId(FMEM_EXTENDED + 1), 7);
-    Store({"Mlong0001", "Mlong0002"}, 16384 + 2);
-    EXPECT_EQ(FMCtrl_GetFolderExtClipNum(7), 1);
-    EXPECT_EQ(FMCtrl_GetFolderExtClipNum(11), 0);
     (void)Sense(9, "81", "Mlogo"); // takes the place of the first of its name
     (void)Tell(STATUS + "Folder Status@0", "05");
     EXPECT_EQ(FMCtrl_GetFolderAllStillNum(5), 0);

@@ -4,7 +4,6 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <unistd.h>
-#include <utility>
 
 namespace
 {
@@ -87,16 +86,9 @@ TEST_F(I2c, ElementsAreReadAndWrittenWhole)
     EXPECT_EQ(I2cEepromService_ReadElem(EEPROM_SHP_PORT, 4, in), 2);
     EXPECT_EQ(in[1], 0x1C);
     EXPECT_EQ(in[2], 9);
-    int size = 0;
-    for (const auto& [elem, bytes] : {std::pair{0, 4}, {int(EEPROM_SHP_PORT), 2}, {34, 4}}) {
-        EXPECT_EQ(I2cEepromService_GetElemSize(elem, &size), 0);
-        EXPECT_EQ(size, bytes) << elem;
-    }
-    EXPECT_EQ(I2cEepromService_GetElemSize(EEPROM_SHP_PORT, nullptr), -1);
     for (const int none : {-1, 35}) {
         EXPECT_EQ(I2cEepromService_ReadElem(none, 200, in), -1);
         EXPECT_EQ(I2cEepromService_WriteElem(none, 200, in), -1);
-        EXPECT_EQ(I2cEepromService_GetElemSize(none, &size), -1);
     }
 }
 

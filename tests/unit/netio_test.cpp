@@ -1,6 +1,7 @@
 #include "global.h"
 #include "harness.h"
 #include "netio_private.h"
+#include "text.h"
 #include <cstring>
 
 // Nobody listens: the links are down, lines are fed and commands taken by hand.
@@ -54,6 +55,11 @@ TEST(NetioLine, ALineHasRoomForItsEnd)
          {std::pair{NET_LINE_MAX - 1, NET_LINE_MAX - 1}, {NET_LINE_MAX, NET_LINE_TOO_LONG}}) {
         std::string text = std::string(size_t(length), 'a') + "\n";
         EXPECT_EQ(net_take_line(text.data(), line, is_end), taken);
+    }
+    for (const char* rest : {"", "A#1\n"}) { // what has come whole before a loss stays
+        PrintText(line, "%sB#2", rest);
+        net_drop_open_line(line, is_end);
+        EXPECT_STREQ(line, rest);
     }
 }
 
