@@ -27,6 +27,7 @@ TEST_F(Info, AValueLandsInItsPlace)
         {"Info@Processor Status@2", "NG->OK", &GL_ProcStatus[2], 1},
         {"Engineering Setup@System@System Config@Setup Target", "1", &SYS_SetupTarget, 1},
         {"Engineering Setup@System@System Config@Setup Target", "x", &SYS_SetupTarget, 1},
+        {"Engineering Setup@System@System Config@Setup Target", "0", &SYS_SetupTarget, 0},
         {ME_CONFIG "M/E-5", "DSK", &me_config_type[5], 4},
         {ME_CONFIG "P/P", "Multi Program 2", &multiprogram2_me[0], 1},
         {MAIN_SUB "3rd Row", "Main/Sub", &GL_MainSubAssign[2], 2},

@@ -501,6 +501,7 @@ TEST_F(Panes, AProgressComesBackWithWhatWasNoted)
         Pass();
         EXPECT_EQ(PixelAt(567, 215), 0x00DDD4U) << "full";
         EXPECT_EQ(pane_top()->each.progress.lamp, ROUTE_LAMP_CONTROL);
+        EXPECT_EQ(init(), 0); // the next one begins
         EXPECT_EQ(quit(), 0);
         EXPECT_EQ(Pane_Exist(id), 0);
         EXPECT_EQ(quit(), -1);
