@@ -140,6 +140,7 @@ TEST_F(LeftTabs, TheTabOfAKeySaysItsSidesAsSoonAsTheListsDo)
     Tally(OUTPUT_LIST, "KILL");
     EXPECT_STREQ(keyassign_str_get(0x11410000).main, "Main");
     Tally(OUTPUT_LIST, "M/E-1,2,Sub");
+    EXPECT_STREQ(keyassign_str_get(0x11110000).main, "") << "output 1 has not come again";
     Tally(PGM_LIST, "KILL");
     EXPECT_STREQ(keyassign_str_get(0x11310000).main, "Main");
 }

@@ -366,6 +366,7 @@ TEST_F(ClipStore, ATrimRenumbersTheThumbnailsThatAreThere)
             Put(name + (".SFH#00000" + std::to_string(i)) + ".THM", i % 2 ? 6966 : 21222);
         Clip(name, 6, 1);
     };
+    const size_t open_before = FilesIn("/proc/self/fd").size();
     clip("a b");
     Passes(1000);
     HubWorks("Result", "Trim root/a b.SFH 3 5 3:7F");
@@ -406,6 +407,7 @@ TEST_F(ClipStore, ATrimRenumbersTheThumbnailsThatAreThere)
                                      "a.SFH#000002.THM", "a.SFH#000301.BMP", "a2.SFH#000300.THM"));
     EXPECT_EQ(fs::file_size(FM_FOLDER + std::string("a.SFH#000002.THM")), 21222u);
     EXPECT_LT(clock() - begun, CLOCKS_PER_SEC / 20) << "not every name there may be is tried";
+    EXPECT_EQ(FilesIn("/proc/self/fd").size(), open_before);
 }
 
 TEST_F(ClipStore, ThumbnailsOfALongClipGoByAndByAndANewOneOfItsNameWaits)
