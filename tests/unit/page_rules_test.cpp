@@ -242,7 +242,7 @@ TEST_F(PageRules, TheWalkThroughAllPagesSkipsTheRulesAndATransferFoldsATabIntoIt
         uint32_t page, first;
     } cases[] = {
         {0x21670203, 0x21600000}, {0x71510200, 0x71500000}, {0x71810000, 0x71810000},
-        {0x73110099, 0x73100000}, {0x86760000, 0x86700000}, {0x11750000, 0x11750000},
+        {0x73110099, 0x73100000}, {0x86760000, 0x86700000}, {0x11770000, 0x11770000},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Page_FirstOfTab(c.page), c.first) << std::hex << c.page;
