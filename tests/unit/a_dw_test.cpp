@@ -83,7 +83,11 @@ TEST_F(WipeLists, TheWindowStaysInsideTheList)
     EXPECT_EQ(DW_ConvPosForWheel(&x, &y, 4), 0) << "beside the list";
     x = X(0);
     ASSERT_EQ(DW_ConvPosForWheel(&x, &y, 5), 1);
+    Pass();
+    const auto top = PixelsIn({X(0) - 25, Y(0) - 25, X(0) + 25, Y(0) + 25});
     Touch(x, y);
+    Pass();
+    EXPECT_NE(PixelsIn({X(0) - 25, Y(0) - 25, X(0) + 25, Y(0) + 25}), top);
     EXPECT_EQ(Number(), "1007");
 }
 

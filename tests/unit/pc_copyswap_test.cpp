@@ -50,6 +50,9 @@ TEST_F(CopyPage, OneCommandCarriesTheWholeChoice)
             Pass(2000);
         }
         EXPECT_THAT(Puts(Press(key)), ElementsAre(path + sent)) << std::hex << page;
+        if (parts == std::vector{FIRST, SECOND}) {
+            EXPECT_TRUE(BT_GetStatus(FIRST) == BT_ON && BT_GetStatus(ALL) == BT_OFF);
+        }
     }
 }
 
@@ -87,6 +90,8 @@ TEST_F(CopyPage, OnlyWhatTheSystemHasIsOffered)
     (void)Open(ME);
     EXPECT_EQ(LS_GetNData(1), 4);
     EXPECT_EQ(Cell(2, 3, 0), "P/P");
+    (void)Open(CHANNEL);
+    EXPECT_EQ(Cell(1, 3, 0), "DME4");
     (void)Open(KEY);
     EXPECT_EQ(LS_GetNData(1), 4 + 8 + 8 + 8);
     EXPECT_EQ(Cell(1, 4, 0), "M/E-2 Key1");

@@ -17,10 +17,11 @@ TEST_F(DevicePage, TheFilesOfTheChosenDeviceAreListedAndLoaded)
     EXPECT_THAT(Open(FILES), testing::IsSupersetOf({"add " + LIST, "put " + LIST + "#Dev1"}));
     TellAll(LIST + "#", {"KILL", "Dev1,1,OPENING,00:00:20:00", "Dev1,2,CLOSER,00:00:09:00"});
     EXPECT_THAT(Choose(1, 2), ElementsAre("put " + LIST + "#Dev3"));
+    (void)Tell(LIST + "#Dev3,3,GAP,1");
     EXPECT_EQ(LS_GetNData(LIST_FILES), 0) << "they are not this one's";
     (void)Tell(MACHINE + "Dev3@Type#DDR");
-    TellAll(LIST + "#", {"Dev1,3,LATE,1", "KILL", "Dev3,1,A,1", "Dev3,3,GAP,1", "Dev3,2,B,1",
-                         "Dev3,0,ZERO,1", "Dev3,,NONE,1", "Dev3,3", "", "Dev3,3,,1"});
+    TellAll(LIST + "#", {"Dev1,3,LATE,1", "KILL", "Dev3,1,A,1", "Dev3,2,B,1", "Dev3,0,ZERO,1",
+                         "Dev3,,NONE,1", "Dev3,3", "", "Dev3,3,,1"});
     ASSERT_EQ(LS_GetNData(LIST_FILES), 2);
     EXPECT_EQ(Cell(LIST_FILES, 1, 1), "B");
     EXPECT_THAT(Puts(Press(KEY_LOAD)), IsEmpty()) << "nothing is chosen yet";

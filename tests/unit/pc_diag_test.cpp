@@ -64,6 +64,7 @@ TEST_F(DiagPage, TheFirstPageShowsTheErrorsOfAllAndRefreshWaitsForTheUnits)
     Fan("OK,OK");
     (void)Tell(std::string(SWR) + "Reference Status#SWR1,OK,Exist");
     EXPECT_THAT(Rows(), IsEmpty());
+    EXPECT_THAT(Seen(STRIP), Contains(0xFFFFFFu)) << "it says that there is none";
 
     Fan("NG");
     EXPECT_EQ(Rows().size(), 1u);

@@ -17,6 +17,7 @@ TEST_F(PanelSetup, EveryModuleHasItsPathAndItsButtonsWithTwoDigits)
     const std::string utility = PANEL "Prefs/Utility";
     for (const auto& [page, place, buttons, rows] :
          {std::tuple{0x73210031u, program + "Transition Module", 20, 42},
+          {0x73210032, program + "Simple Transition Module", 12, 22},
           {0x73210035, program + "Key Control Module", 8, 16},
           {0x73210036, program + "Key Control Module@Key Control Button Assign", 20, 24},
           {0x73210038, program + "Menu Panel", 24, 30},
@@ -110,6 +111,8 @@ TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
     const std::string first = "put " KEY2 "Action Set@1@1#";
     EXPECT_THAT(PushIn(3, BTN_ASSIGN_SET), ElementsAre(first + "1,3"));
     (void)Push(BTN_ACTION_MACRO);
+    (void)Tell("Macro@Register@List#2,S,NEWS,U,0,0");
+    EXPECT_THAT(Cell(1, 1, 0), HasSubstr("NEWS"));
     EXPECT_THAT(PushIn(249, BTN_ASSIGN_SET), ElementsAre(first + "2,250"));
     (void)Push(BTN_ACTION_SHOTBOX);
     EXPECT_THAT(PushIn(1, BTN_ASSIGN_SET), ElementsAre(first + "2,1002"));
@@ -128,9 +131,11 @@ TEST_F(PanelSetup, AnActionIsAFunctionOrARegister)
 TEST_F(PanelSetup, EveryKey2BusButtonOfARowAndOfItsTwoSidesIsReachedAndThePanelAsksForOne)
 {
     GL_XptButtonCount = 40;
-    (void)Tell(PANEL "Prefs/Utility@Panel Select#35,2");
+    (void)Tell(PANEL "Prefs/Utility@Panel Select#32,2");
     (void)Open(0x73240002);
-    EXPECT_THAT(PushIn(3, BTN_ASSIGN_SET), ElementsAre("put " KEY2 "Action Set@1@35#1,3"));
+    EXPECT_THAT(PushIn(3, BTN_ASSIGN_SET), ElementsAre("put " KEY2 "Action Set@1@32#1,3"));
+    (void)Push(BTN_ACTION_RANGE);
+    EXPECT_THAT(Push(BTN_ASSIGN_SET), ElementsAre("put " KEY2 "Action Set@1@40#1,3")) << "the last";
     (void)Tell(KEY2 "Action Set@1@40#1,3");
     EXPECT_EQ(Cell(1, 3, 1), "40");
     Lines lines = Push(BTN_ACTION_RANGE);
@@ -190,12 +195,15 @@ TEST_F(PanelSetup, ACrosspointIsEditedByHalvesOrAsAPair)
     TellSources();
     (void)Open(0x73220001);
     SelectRow(1, 2);
+    EXPECT_EQ(PageBy(BTN_XPT_SHIFT), 0x73220008u);
     EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " XPT "Insert VK#1,2,0"));
     EXPECT_THAT(Push(BTN_XPT_OVERWRITE), ElementsAre("put " XPT "Insert VK#2,2,1"));
     (void)Push(BTN_XPT_KEY);
     EXPECT_THAT(Push(BTN_XPT_INSERT), ElementsAre("put " XPT "Insert V#3,2,0"));
     (void)Push(BTN_XPT_VIDEO); // the other takes over
     EXPECT_THAT(Push(BTN_XPT_DELETE), ElementsAre("put " XPT "Delete K#4"));
+    EXPECT_THAT(Push(BTN_XPT_PAIR),
+                ElementsAre("put Info@Operation Setup Data@V/K Pair Assign#true"));
     (void)Tell(XPT "Inhibit#4,true");
     EXPECT_THAT(Push(BTN_XPT_INHIBIT), ElementsAre("put " XPT "Inhibit#4,false"));
     (void)Tell("Info@Operation Setup Data@V/K Pair Assign#true");
@@ -224,7 +232,10 @@ TEST_F(PanelSetup, ATableShowsWhatIsToldOfItsSide)
     (void)Tell(XPT "Assign#2,2,1");
     EXPECT_EQ(Row(1, 5), "2|CAM2|GUEST||");
     for (const auto& [key, order] : {std::pair{49, "Main,Sub"}, {50, "Sub,Main"}}) {
-        EXPECT_THAT(Choose(key, 0), IsEmpty());
+        (void)Push(key);
+        SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 1, 1, 0, 0); // another one's "Yes"
+        EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
+        EXPECT_THAT(Answer(0), IsEmpty());
         EXPECT_THAT(Choose(key, 1), ElementsAre("put " XPT "Copy#" + std::string(order)));
     }
 }
@@ -271,6 +282,8 @@ TEST_F(PanelSetup, WhatIsPreparedGoesWithExecute)
 
 TEST_F(PanelSetup, ANameIsMadeFitAndExecuted)
 {
+    (void)Open(0x73220006);
+    EXPECT_THAT(Choose(49, 1), ElementsAre("put " XPT "Name Export@Execute#true"));
     for (const int row : {0, 1}) {
         (void)Open(0x73220004);
         TellSources();

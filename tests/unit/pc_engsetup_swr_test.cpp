@@ -1,5 +1,6 @@
 // The Switcher pages of engineering setup: what they ask for, how rows depend on one another, what
 // Execute sends.
+#include "display.h"
 #include "page_table/setup_switcher.h"
 #include "setup_desk.h"
 
@@ -91,13 +92,18 @@ TEST_F(SwitcherSetup, APointOfACurveStaysBetweenItsNeighbours)
     Start(0x73340003, "Transition@Transition Curve@Fader Curve#", {"Curve1,10,25,50,75,90"});
     Pass(10);
     const auto straight = PixelsIn({440, 84, 690, 334});
+    const Display display;
     (void)Push(BTN_CURVE_POINTS);
     Turn(2, 400); // far beyond the next
     EXPECT_EQ(Row(0, 6), "Curve1|10|25|75*|75|90");
     EXPECT_EQ(Shown("At 50%"), "75");
+    Turn(2, -400);
+    EXPECT_EQ(Shown("At 50%"), "25");
+    Turn(2, 400);
     Turn(0, -400);
     Pass(10);
     EXPECT_NE(PixelsIn({440, 84, 690, 334}), straight) << "the plot follows";
+    EXPECT_EQ(Display::Lacks(), "");
     EXPECT_THAT(Execute(),
                 ElementsAre("put " + SWITCHER +
                             "Transition@Transition Curve@Fader Curve#Curve1,0,25,75,75,90"));
@@ -129,6 +135,8 @@ TEST_F(SwitcherSetup, OnlyLinksThatMakeSenseAreApplied)
         // What isn't sent is still in hand.
         EXPECT_TRUE(is_sent || BT_GetVisible(EXECUTE) != BT_DISABLED) << master << linked;
     }
+    (void)Choose(35, 2);
+    EXPECT_EQ(Cell(1, 1, 3), "Transition");
 }
 
 TEST_F(SwitcherSetup, ABusAndATableAreChosenOnTheirPagesForTheLinkInHand)
@@ -157,4 +165,7 @@ TEST_F(SwitcherSetup, ABusAndATableAreChosenOnTheirPagesForTheLinkInHand)
     (void)Push(35);
     (void)Open(GL_CreatePage);
     EXPECT_EQ(Row(1, 5), "2|None|M/E-1 B*|3*|Off");
+    (void)Push(BTN_LINK_DELETE);
+    EXPECT_EQ(Row(1, 5), "2|None|None|3*|Off");
+    EXPECT_EQ(BT_GetVisible(BTN_LINK_DELETE), BT_DISABLED) << "there is nothing to delete";
 }

@@ -283,6 +283,7 @@ TEST_F(SystemPage, IdsSetTheAddressesThatDefineSends)
     EXPECT_EQ(Row(1, 5), "SWR001D001|SWR1|192.168.13.77*|192.168.23.77*|192.168.33.77*");
     SelectRow(0);
     (void)PushType(34, "255");
+    EXPECT_NE(Pane_GetActiveID(), 0) << "it says why not";
     Dismiss();
     EXPECT_EQ(Row(0, 5), "PNL001D001|PNL1|192.168.10.1|192.168.20.1|none");
     EXPECT_THAT(Choose(50, NO), IsEmpty());
@@ -341,6 +342,7 @@ TEST_F(SystemPage, TextsForTheNetworkDriveAreExamined)
             SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
         const std::string put = std::string("put Info@System Setup Data@NFS ") + sent;
         EXPECT_EQ(Type(text), *sent ? Lines{put} : Lines{}) << text;
+        EXPECT_EQ(Pane_GetActiveID() != 0, !*sent) << text;
         Dismiss();
     }
     (void)Tell("Info@System Setup Data@NFS Server#10.9.9.9");
@@ -366,10 +368,14 @@ TEST_F(SystemPage, APanelsSwitchersGoAsOneLine)
     (void)PushIn(1, 49);
     EXPECT_EQ(Row(0, 5), "PNL1|Dual Simul*|SWR1|---*|*") << "one panel has the tally";
     EXPECT_EQ(Row(1, 5), "PNL2||||Master*");
+    EXPECT_THAT(Push(BTN_SYSCONF_SYSTEM1), ElementsAre("put " + CONFIG + "Setup Target#0"));
     EXPECT_THAT(Push(BTN_SYSCONF_SYSTEM2), ElementsAre("put " + CONFIG + "Setup Target#1"));
     (void)Tell(CONFIG + "Setup Target#1");
     EXPECT_EQ(BT_GetStatus(BTN_SYSCONF_SYSTEM2), BT_ON);
     EXPECT_EQ(BT_GetStatus(BTN_SYSCONF_SYSTEM1), BT_OFF);
+    (void)Open(0x73120001);
+    TellAll(CONFIG + "Switcher Assign#", {"1,1,2,0,0", "2,3,0,0,0"});
+    EXPECT_EQ(Row(0, 3) + " " + Row(1, 2), "SWR1|DME1|DME2 SWR2|DME3");
 }
 
 TEST_F(SystemPage, InitializeTellsEachChosenUnitOnceAndForgets)
@@ -429,6 +435,7 @@ TEST_F(SystemPage, DrivesAreListedAndOneBecomesPrimary)
                 ElementsAre("put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"));
     (void)Tell("Info@Operation Setup Data@Import Path#/mnt/usb/usb3/");
     EXPECT_EQ(Cell(2, 1, 0), "Removable 2 (Primary)");
+    EXPECT_TRUE(atoi(LS_GetData(2, 1, 2)) > 0 && atoi(LS_GetData(2, 1, 4)) > 0);
     EXPECT_THAT(Choose(BTN_MAINTENANCE_FORMAT, NO), IsEmpty());
     EXPECT_EQ(Pane_GetActiveID(), 0) << "nothing was done";
     ASSERT_EQ(::system("rm -rf /var/tmp/device*; mkdir -p /var/tmp/device;"

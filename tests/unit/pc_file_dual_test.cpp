@@ -39,6 +39,21 @@ struct FileDualPage : ServerPage {
             g.btnsel[i].select = g.btnsel[i].id == id ? 2 : 0;
         SendMessage(LMSG_PANEREGION, 0, 0, 0, 0);
     }
+    static Lines Rename(const char* name)
+    {
+        Press(BTN_FILE_RENAME);
+        EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
+        (void)TakeQueuedCommands();
+        SendMessage(MSG_KEY, SDLK_END, 0, 0, 0);
+        for (int i = 0; *name && i < 32; i++)
+            SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
+        for (const char* p = name; *p; p++)
+            SendMessage(MSG_KEY, *p, 0, 0, 0);
+        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
+        for (int i = 0; i < 100 && GetWindow(); i++)
+            SendMessage(MSG_REDRAW, 50, 0, 0, 0);
+        return TakeQueuedCommands();
+    }
     static std::string Drive(const char* rest)
     {
         return std::string("MYHOST:/mnt/data/user/root/SYSTEM/") + rest;
@@ -91,7 +106,7 @@ TEST_F(FileDualPage, RegistersAtTheLeftTheDriveAtTheRight)
 
 TEST_F(FileDualPage, AListComesBackAsItWasLeft)
 {
-    Select({2, 40});
+    Select({0, 2, 40});
     LS_SetNowLine(1, 2);
     LS_SetTopLine(1, 36);
     SendMessage(LMSG_LISTSEL, 1, 2, 0, 0);
@@ -100,7 +115,7 @@ TEST_F(FileDualPage, AListComesBackAsItWasLeft)
     EXPECT_EQ(LS_GetTopLine(1), 36);
     EXPECT_EQ(LS_GetNowLine(1), 2);
     for (const int row : {0, 2, 3, 40})
-        EXPECT_EQ(LS_IsSelected(1, row, 0), row == 2 || row == 40) << row;
+        EXPECT_EQ(LS_IsSelected(1, row, 0), row != 3) << row;
     LS_SetMS(1, 0);
     LS_SetNowLine(1, 5);
     LS_SetSelected(1, 5, 0, 1);
@@ -257,6 +272,7 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     for (int region = 0; region < 10; region++)
         marks += Cell(1, 3, COL_REGIONS + region);
     EXPECT_EQ(marks, "O") << "P/P has it, but is not selected";
+    EXPECT_THAT(Rename("n"), ElementsAre("put Snapshot@Snapshot@Rename#2,4,n"));
     Press(BTN_FILE_DELETE);
     EXPECT_THAT(Answer(2), IsEmpty());
     Press(BTN_FILE_DELETE);
@@ -264,6 +280,14 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     for (const FileKind& kind : file_kinds) {
         (void)Open(kind.id);
         EXPECT_EQ(PageBy(BTN_FILE_DETAIL_A), kind.id + 1);
+    }
+    (void)Open(SETUP_PAGE + 1);
+    EXPECT_THAT(Usable({BTN_FILE_RENAME, BTN_FILE_DELETE}), IsEmpty()) << "it has no registers";
+    (void)Open(file_kinds[FILEPAGE_EFFECT].id);
+    for (const auto& [now, next] : {std::pair{"true", "false"}, {"false", "true"}}) {
+        (void)Tell(std::string("File@Src Patch Link#") + now);
+        EXPECT_THAT(Puts(BTN_FILE_PATCH_LINK),
+                    ElementsAre(std::string("put File@Src Patch Link#") + next));
     }
     const std::string stick = "MYHOST:/mnt/usb/usb1/SYSTEM/USRSETUP/SWR000D001/";
     (void)Reply(Open(0x71750000), "Access@Find", {stick + "NAMES.DEV_0000.SUN"});
@@ -309,25 +333,11 @@ TEST_F(FileDualPage, RenameOfFilesSkipsWhatKeepsItsName)
     (void)Reply(TakeQueuedCommands(), "Access@Find",
                 Below(Drive("SNAPSHOT/SWR000D001/ME1/"),
                       {"NEWS.ME1_001.SSS", "A_NAME_LONGER_THAN_ITS_ROW.ME1_002.SSS"}));
-    const auto rename = [](const char* name) {
-        Press(BTN_FILE_RENAME);
-        EXPECT_EQ(GetWindow(), WINDOW_KEYBOARD);
-        (void)TakeQueuedCommands();
-        SendMessage(MSG_KEY, SDLK_END, 0, 0, 0);
-        for (int i = 0; *name && i < 32; i++)
-            SendMessage(MSG_KEY, SDLK_BACKSPACE, 0, 0, 0);
-        for (const char* p = name; *p; p++)
-            SendMessage(MSG_KEY, *p, 0, 0, 0);
-        SendMessage(MSG_KEY, SDLK_RETURN, 0, 0, 0);
-        for (int i = 0; i < 100 && GetWindow(); i++)
-            SendMessage(MSG_REDRAW, 50, 0, 0, 0);
-        return TakeQueuedCommands();
-    };
     LS_SetNowLine(1, 1);
-    EXPECT_THAT(rename(""), IsEmpty()) << "entered as it stood";
+    EXPECT_THAT(Rename(""), IsEmpty()) << "entered as it stood";
     LS_SetNowLine(1, 0);
     Pass(1000);
-    EXPECT_THAT(rename("tom.b"),
+    EXPECT_THAT(Rename("tom.b"),
                 ElementsAre(AllOf(HasSubstr("put File@Access@Move#L"),
                                   HasSubstr("NEWS.ME1_001.SSS"), HasSubstr("tom_b.ME1_001.SSS"))));
 }

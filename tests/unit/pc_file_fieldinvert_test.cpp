@@ -38,6 +38,9 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
     const Lines again = Reply(sent, "Frame Memory@FieldInvert", {});
     (void)Reply(again, "Access@FindSFM", {logo + tail + "1,1"});
     EXPECT_EQ(Cells(1, 0, 0, 8), "007|MLOGO|Nov.25.2026 10:30|1|1080i||O|O");
+    (void)Press(BTN_INVERT_DEVICE);
+    EXPECT_NE(Pane_GetActiveID(), 0);
+    (void)Answer(0);
     (void)Open(0x71540000);
     EXPECT_NE(QueueRoot, nullptr);
     (void)Leave();

@@ -169,6 +169,9 @@ TEST_F(FileIdCopyPage, NothingIsClearedForNothing)
     (void)Press(BTN_IDCOPY_DEVICE_B);
     (void)Reply(Answer(FILE_LOCAL + 1), "Access@ListDir", {});
     (void)Reply(Answer(1), "Access@Find", {});
+    EXPECT_EQ(Caption(BTN_IDCOPY_DEVICE_B), "Local Drive");
     (void)Press(BTN_IDCOPY_COPY);
     EXPECT_THAT(Answer(1), IsEmpty());
+    (void)Press(BTN_IDCOPY_DEVICE_A);
+    EXPECT_NE(Pane_GetActiveID(), 0);
 }

@@ -342,6 +342,8 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     Tell(PATH + "Busy#false");
     EXPECT_EQ(Seen(state), ready);
     EXPECT_THAT(Puts(BTN_FMEM1_HDD_LOAD), IsEmpty());
+    SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 1, 1, 0, 0); // another one's "Yes"
+    EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     Quit(2); // "No"
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
     (void)Puts(BTN_FMEM1_HDD_SAVE);

@@ -97,6 +97,7 @@ constexpr uint32_t RECALL = 0x21110000, PLAY = 0x21130000, RECORD = 0x21140000, 
 TEST_F(ClipPages, OutputsFollowTheirTalliesAndAPairWorksOnItsEvenOne)
 {
     (void)Open(RECALL);
+    EXPECT_THAT(Usable({BTN_FMEM_RECALL}), IsEmpty());
     FM_OBJECT o;
     static const std::tuple<const char*, int, const char*> steps[] = {
         {"2,/OPENING.SFH", FMOUT_STATUS_FREEZE_RECALL, "/root/OPENING"},
@@ -165,6 +166,7 @@ TEST_F(ClipPages, OutputsFollowTheirTalliesAndAPairWorksOnItsEvenOne)
     Cell(0, "STILL");
     EXPECT_THAT(Puts(BTN_FMEM_RECALL), Contains(PUT + "Recall@FM1#1,0,0,0,/STILL.SFH"));
     EXPECT_THAT(Press(BTN_FMEM_BLACK), ElementsAre(PUT + "Record@Through@FM1#1,0"));
+    EXPECT_THAT(Press(BTN_FMEM_THROUGH), ElementsAre(PUT + "Record@Through@FM1#1,1"));
     TellAll(TREE, {"Pair@FM1&2#false", "Out Pair Select#FM5&6"});
     EXPECT_EQ(FM_GetSelect(), 4);
     (void)Tell(TREE + "Out Pair Select#FM1&2");

@@ -177,8 +177,10 @@ TEST_F(MacroPages, AListShowsWhatTheServerToldAndEveryKeySendsItsCommand)
         (void)Tell(std::string("Macro@Register@List#") + line);
         EXPECT_EQ(Row(6, 3), row) << line;
     }
-    TellAll("Macro@Register@List#", {"251,S,A,U,0,0", "0,S,A,U,0,0", "7,S,A", ""});
+    TellAll("Macro@Register@List#",
+            {"1,S,FIRST,L,0,0", "251,S,A,U,0,0", "0,S,A,U,0,0", "7,S,A", ""});
     EXPECT_EQ(Row(6, 3), "7|TWELVE_CHAR|");
+    EXPECT_EQ(Row(0, 3), "1|FIRST|L");
     EXPECT_EQ(LS_GetNData(1), 250);
 }
 
@@ -637,7 +639,9 @@ TEST_F(MacroOnlinePage, RecordsThatAreNoneAreLeftOut)
     (void)TakeQueuedCommands();
     SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 2, 0, 0);
     SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 6, 0, 0); // there is none
-    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(PUT_ONLINE + "Macro Event Edit Range#2,0"));
+    SendMessage(LMSG_LISTSEL, LIST_MACRO_ONLINE, 0, 0, 0);
+    EXPECT_THAT(TakeQueuedCommands(), ElementsAre(PUT_ONLINE + "Macro Event Edit Range#2,0",
+                                                  PUT_ONLINE + "Macro Event Edit Range#1,0"));
     constexpr Rect DETAIL = {100, 302, 540, 322}; // the line at the cursor
     (void)LS_SetNowLine(LIST_MACRO_ONLINE, 1);
     (void)ChooseRow(LIST_MACRO_ONLINE, 1);

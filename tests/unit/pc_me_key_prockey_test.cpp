@@ -31,6 +31,7 @@ TEST_F(KeyProcessPages, AChannelIsOnWhenTheServerSaysSoInAStatusOfEight)
                      "Free,Free,Free,Free,Free,Free,Free", ",,,"});
     EXPECT_EQ(Disabled(), (std::set<int>{33, 34}));
     Tell(ALL_FREE);
+    EXPECT_THAT(Disabled(), IsEmpty());
     (void)Press(49);
     Tell("M/E-2@Key5@Processed Key@DME Select@DME5#true"); // of another key
     EXPECT_EQ(BT_GetStatus(49), BT_OFF);
@@ -41,13 +42,15 @@ TEST_F(KeyProcessPages, AChannelIsOnWhenTheServerSaysSoInAStatusOfEight)
 
 TEST_F(KeyProcessPages, OneMonitorServesAllBanks)
 {
-    Open(0x14460001);
+    const Lines opened = Open(0x14460001);
     Tell(STATUS + "M/E-2@Key1,Free,Free,Free,Free,Free,Free,None");
     EXPECT_EQ(Disabled(), (std::set<int>{36}));
     Tell("M/E-1@Key1@Processed Key@Monitor#3");
     EXPECT_EQ(BT_GetStatus(19), BT_ON);
     EXPECT_THAT(Press(17), ElementsAre("put M/E-1@Key1@Processed Key@Monitor#1"));
     EXPECT_THAT(Press(19), ElementsAre("put M/E-1@Key1@Processed Key@Monitor#0"));
+    const std::string status = STATUS.substr(0, STATUS.size() - 1);
+    EXPECT_EQ(Held(opened, status) + Held(Leave(), status), 0);
 }
 
 // --- Border and crop ---

@@ -2,7 +2,7 @@
 // after tallies.
 #include "a_ba.h"
 #include "a_st.h"
-#include "pane.h"
+#include "pane_private.h"
 #include "table_page.h"
 
 using std::string;
@@ -119,6 +119,7 @@ TEST_F(KeySignals, ATouchIsPutToTheBusThatIsAssigned)
 TEST_F(KeySignals, TheRowsFollowTalliesAndNeitherTouchesNorTheArrows)
 {
     Open(0x12210003);
+    EXPECT_EQ(Cell(1, 2, 0), "7");
     TellAll("M/E-2@Key2@Type@Signal Select@", {"Fill#CAM 2", "Source#VTR"});
     TouchRow(0);
     EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F* VTR:S");
@@ -168,13 +169,15 @@ TEST_F(KeyMattePage, TheButtonOfThePatternTellsItsNumber)
                      0x11310004u},
           {0x85320001, "M/E-4@Key7@Edge@Matte Adjust@Mix Pattern@Pattern#", 37, 0x85320002},
           {0x14220003, "PGM/PST@DSK2@Edge@Zabton@Pattern#", 21, 0x14220004}}) {
-        Open(page);
+        const Lines opened = Open(page);
         Tell(string(path) + "67");
         EXPECT_EQ(Caption(button), "Pattern\nSelect\n67");
         Tell(string(path) + "none");
         EXPECT_EQ(Caption(button), "Pattern\nSelect");
         TellAll("M/E-", {"4@Key7@Edge@Matte Adjust@Mode#Mix", "1@Key3@Type@Matte Adjust@Mode#Mix"});
         EXPECT_EQ(PageBy(button), target);
+        const string followed = string(path).substr(0, string(path).size() - 1);
+        EXPECT_EQ(Held(opened, followed) + Held(Leave(), followed), 0) << path;
     }
 }
 
@@ -199,7 +202,8 @@ TEST_F(KeyChromaPage, TheSampleMarkGoesWithTheChromaPageAndTheBackingIsChosenFro
     Tell(backing + "#Green");
     EXPECT_EQ(Caption(54), "Green");
     EXPECT_THAT(Press(54), IsEmpty()) << "the choice is in the pane";
-    ASSERT_NE(Pane_GetActiveID(), 0);
+    ASSERT_TRUE(pane_top());
+    EXPECT_TRUE(pane_top()->button[0].onoff && !pane_top()->button[1].onoff);
     const auto touch_pane = [](int x, int y) {
         Pass(10);
         SendMessage(MSG_PRESS, x, y, 1, 0);

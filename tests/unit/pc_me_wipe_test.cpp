@@ -84,8 +84,9 @@ TEST_F(MeWipe, OnlyTwoPatternsOfOneOutlineEachCanMorph)
     for (const auto& [main, sub, disabled] : cases) {
         EXPECT_THAT(Open(0x14530000), AllOf(Contains("add PGM/PST@Wipe@Main Pattern@Pattern"),
                                             Contains("add PGM/PST@Wipe@Sub Pattern@Pattern")));
-        TellAll("PGM/PST@Wipe@", {std::string("Main Pattern@Pattern#") + main,
-                                  std::string("Sub Pattern@Pattern#") + sub});
+        TellAll("PGM/PST@Wipe@",
+                {std::string("Main Pattern@Pattern#") + main,
+                 std::string("Sub Pattern@Pattern#") + sub, "Main Pattern@Size#113"}); // no pattern
         EXPECT_EQ(Disabled(), disabled ? std::set{21} : std::set<int>{}) << main << " and " << sub;
     }
 }
@@ -145,6 +146,10 @@ TEST_F(MeWipe, TheKnobsOfTheMatteMixFollowItsPattern)
     (void)Press(19); // the knobs are a colour's now, and stay with it
     TellAll(matte, {"Mix Pattern#Diagonal", "Mix Pattern#Box"});
     EXPECT_STREQ(NB_GetTitle(), "Color 1");
+    (void)Press(18);
+    EXPECT_NE(Shown("V"), "no box");
+    Open(0x86540001); // which tells the same pattern once more
+    TellAll(matte, {"Mode#Mix", "Mix Pattern#Box"});
     (void)Press(18);
     EXPECT_NE(Shown("V"), "no box");
 }

@@ -244,23 +244,23 @@ TEST_F(RegisterPages, TheStripShowsWhichRegionsHoldTheRegisterAndALineItsAttribu
 
 TEST_F(RegisterPages, OperationsGoToAllSelectedRegionsInRuns)
 {
-    Choose(REGKIND_SNAPSHOT, {258, 257, 352});
+    Choose(REGKIND_SNAPSHOT, {258, 257, 259, 352});
     Store("M/E-2", 4, "LOCKED,L,,n,n,n");
     Open(0x63260000); // delete; the locked one stays
     SelectRows({1, 2, 3, 4, 8});
     (void)Press(51);
-    EXPECT_THAT(Confirm(), ElementsAre(PUT + "Delete#400006,2,3", PUT + "Delete#400006,5,5",
-                                       PUT + "Delete#400006,9,9"));
+    EXPECT_THAT(Confirm(), ElementsAre(PUT + "Delete#40000E,2,3", PUT + "Delete#40000E,5,5",
+                                       PUT + "Delete#40000E,9,9"));
     Open(0x63220000); // the register at the cursor says which way
     Cursor(1, 3);
-    EXPECT_THAT(Puts(51), ElementsAre(PUT + "UnLock#400006,4,4"));
+    EXPECT_THAT(Puts(51), ElementsAre(PUT + "UnLock#40000E,4,4"));
     Open(0x63270000);
     Cursor(1, 3);
     (void)Press(51); // locked: no window
     EXPECT_EQ(GetWindow(), WINDOW_NONE);
     Store("M/E-2", 4, "FREE,S,,n,n,n");
     (void)Puts(51);
-    EXPECT_THAT(Confirm(), ElementsAre(PUT + "Rename#400006,4,FREE"));
+    EXPECT_THAT(Confirm(), ElementsAre(PUT + "Rename#40000E,4,FREE"));
     SYS_MySwrMax = 0; // then a channel leads
     for (const auto& [chosen, mask] : {std::pair{257, "4000"}, {289, "8000"}}) {
         Choose(REGKIND_SNAPSHOT, {chosen});
@@ -323,16 +323,16 @@ TEST_F(RegisterPages, RunsKeepTheirGapsAndGoToARegionOfTheirSort)
 TEST_F(RegisterPages, TheHoldPageWritesWhatItsRowsSay)
 {
     static const std::tuple<int, int, const char*, const char*, int, std::string> cases[] = {
-        {257, 2, "M/E-1", "1,A,S,B2,n,n,n", 0, "2,1,1,B12"},
-        {257, 10, "M/E-1", "1,A,S,B2,n,n,n", 0, "2,1,1,B2U1"},
-        {261, 0, "M/E-1 Sub", "1,A,S,2,n,n,n", 0, "1000000,1,1,12"},
+        {257, 2, "M/E-1", "1,A,S,B2,n,n,n", 0, "6,1,1,B12"},
+        {257, 10, "M/E-1", "1,A,S,B2,n,n,n", 0, "6,1,1,B2U1"},
+        {261, 0, "M/E-1 Sub", "1,A,S,2,n,n,n", 0, "1000004,1,1,12"},
         {272, 33, "User1", "1,A,S,00000001,n,n,n", 0, "40,1,1,0000000100000002"},
         {288, 0, "DME1", "1,A,S,false,n,n,n", 0, "4000,1,1,FvFkBvBk"},
         {352, 1, "RTR", "1,A,S,,n,n,n", 0x81, "400000,1,1,0081"},
         {257, 2, "M/E-1", "1,A,L,B2,n,n,n", 0, ""}, // locked
     };
     for (const auto& [id, row, region, line, levels, put] : cases) {
-        Choose(REGKIND_SNAPSHOT, {id});
+        Choose(REGKIND_SNAPSHOT, {id, 258}); // the other one where it is of the same sort
         (void)Tell(LIST + region + "@List#" + line);
         Open(PAGE_SNAPSHOT_ATTRIBUTE);
         Cursor(1, 0);
@@ -407,7 +407,8 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     EXPECT_EQ(CreatePage(PAGE_SNAPSHOT_CLIP), 0);
     const std::string status = "Frame Mem 2@Clip/Still@Output Status@FM";
     EXPECT_THAT(TakeQueuedCommands(),
-                AllOf(Contains("add " + status + "1"), Not(Contains("add " + status + "0"))));
+                AllOf(Contains("add Engineering Setup@Switcher@Config@User1-8 Config@User2"),
+                      Contains("add " + status + "1"), Not(Contains("add " + status + "0"))));
     Cursor(1, 2);
     EXPECT_EQ(Cells(1, 2, 0, 7), "FM3|On|CLIP||00:00:00:00|00:00:00:10|");
     EXPECT_EQ(Cells(1, 3, 0, 7), "FM4||||||");
@@ -492,6 +493,7 @@ TEST_F(RegisterPages, TheOverviewActsOnEveryRegionThatHoldsTheRegister)
 TEST_F(RegisterPages, TheOverviewLeavesALockedRegisterAsItIs)
 {
     constexpr Rect CELLS[] = {{119, 424 - 26, 169, 418}, {119 + 58, 164 + 26, 227, 210}}; // 9, 11
+    constexpr Rect DETAIL = {100, 76, 701, 141};
     Choose(REGKIND_SNAPSHOT, {257});
     Store("M/E-1", 9, "ONE,L,,n,n,n");
     Store("P/P", 9, "TWO,S,,n,n,n");
@@ -539,9 +541,11 @@ TEST_F(RegisterPages, TheOverviewLeavesALockedRegisterAsItIs)
     turn(11);
     const auto chosen = look(1);
     EXPECT_THAT(chosen, Contains(0x00C8F0u));
+    const auto nothing = Seen(DETAIL);
     EXPECT_THAT(Puts(53),
                 ElementsAre(PUT + "Copy#2,9,9,2,11,false", PUT + "Copy#1,9,9,1,11,false"));
     EXPECT_NE(look(1), chosen) << "its name";
+    EXPECT_NE(Seen(DETAIL), nothing);
     EXPECT_EQ(BT_GetStatus(52), BT_OFF);
     EXPECT_EQ(BT_GetVisible(53), BT_DISABLED);
     EXPECT_THAT(Puts(50), ElementsAre(PUT + "Lock#3,11,11")) << "the copy is not";
@@ -549,7 +553,6 @@ TEST_F(RegisterPages, TheOverviewLeavesALockedRegisterAsItIs)
     EXPECT_THAT(Confirm(), ElementsAre(PUT + "Rename#3,11,ONE"));
     turn(9);
     EXPECT_THAT(look(1), Contains(0x005A6Eu));
-    constexpr Rect DETAIL = {100, 76, 701, 141};
     EXPECT_THAT(Seen(DETAIL), Contains(YELLOW)) << "Lock";
     Store("M/E-1", 9, "ONE,S,,n,n,n");
     const auto both = Seen(DETAIL);

@@ -82,6 +82,8 @@ TEST_F(RouterPage, OnlyTheLevelsThatWereChangedAreSentAndTheColumnIsHeadedByItsS
 {
     (void)Open(LEVEL);
     TellAll("Router@Level@Level", {"1#true", "2#false", "8#true", "9#true"});
+    (void)Tell("Router@Status@Xpt Assign@Dest3@Level1#SRC 4");
+    EXPECT_EQ(Cell(1, 2, 1), "SRC 4");
     (void)Choose(1, 1);
     EXPECT_EQ(Caption(KEY_LEVELS), "Levels\n18") << "are those of all destinations";
     PaneRTRLvl_SetSelect(0x40); // the snapshots' choice

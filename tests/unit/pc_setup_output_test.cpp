@@ -1,4 +1,5 @@
 // The buses of the outputs: set, executed, refused while inhibited.
+#include "pane_private.h"
 #include "setup_desk.h"
 
 const std::string OUTPUT = "Engineering Setup@Switcher@Output@";
@@ -22,6 +23,9 @@ struct OutputAssign : SetupTest {
 TEST_F(OutputAssign, ABusIsSetThenExecutedAndAnInhibitedOutputRefuses)
 {
     EXPECT_EQ(Usable({BTN_OUTPUT_SET}), std::vector<int>{}) << "no bus in hand";
+    (void)Push(BTN_OUTPUT_BUS);
+    EXPECT_STREQ(pane_top()->button[0].caption, "AUX1");
+    (void)Answer(0);
     Set(1, 49 + 5);
     EXPECT_EQ(Row(1, 4), "2|M/E-2 PVW*|CAM7|---");
     EXPECT_EQ(Caption(BTN_OUTPUT_BUS), "Output\nAssign\nM/E-2 PVW");

@@ -22,6 +22,8 @@ TEST_F(SpPage, ALineDrawsItsBarsWithinTheScaleAndNothingElseDoes)
 {
     const Lines opened = Open(METER);
     EXPECT_EQ(Held(opened, "SP@SP8@Meter"), 1);
+    Pass(10);
+    EXPECT_FALSE(IsLit(X1, PEAK)) << "no level, no peak";
     // How much is lit, in percent, and whether it is over.
     static const std::tuple<const char*, int, bool> cases[] = {
         {"SP@SP1@Meter#50,0,0,0", 50, false}, {"SP@SP1@Meter#104,1,1,1", 100, true},
@@ -43,12 +45,12 @@ TEST_F(SpPage, ALineDrawsItsBarsWithinTheScaleAndNothingElseDoes)
                       IsLit(At(10 * bar + 10) + 3, LIT, 7, bar),
                   1)
             << bar;
-    EXPECT_EQ(Held(Leave(), "SP@SP8@Meter"), -1);
+    EXPECT_EQ(Held(opened, "SP@SP8@Meter") + Held(Leave(), "SP@SP8@Meter"), 0);
 }
 
 TEST_F(SpPage, TheStripShowsTheChosenChannel)
 {
-    (void)Open(SOURCE);
+    EXPECT_EQ(Held(Open(SOURCE), "SP@Meter Mode"), 1);
     const auto strip = [] {
         Pass(10);
         return PixelsIn({100, 281, 697, 337});

@@ -22,6 +22,7 @@ TEST_F(StatusPage, TheChosenLineSaysWhichPageAKeyOpensAndACellItself)
         {KEY, 8 * 3 + 6, 54, 0x85370000}, {KEY, 8 * 5 + 3, 53, 0x14460000},
         {WIPE, 0, 49, 0x11710000},        {WIPE, 1, 50, 0x15510000},
         {WIPE, 10, 52, 0x14610000},       {EFFECTS, 0, 49, 0x42110000},
+        {0x33170001, 2, 49, 0x53210000},
     };
     for (const auto& [page, row, key, opened] : cases) {
         (void)Open(page);

@@ -15,9 +15,11 @@ TEST_F(TexturePages, ATouchUsesATextureAndAnEmptyPlaceIsNone)
     EXPECT_EQ(GL_CreatePage, TEXTURE);
 
     const Lines opened = Open(TEXTURE);
-    TellAll("DME@Status@Texture Name@", {"2#WOOD", "64#RAIN", "65#TOO FAR"});
-    (void)Tell(light + "Texture@Number#64");
-    EXPECT_EQ(LS_GetNowLine(1), 63);
+    TellAll("DME@Status@Texture Name@", {"2#W", "64#RAIN", "65#TOO FAR"});
+    for (const int row : {63, 0, 63}) {
+        (void)Tell(light + "Texture@Number#" + std::to_string(row + 1));
+        EXPECT_EQ(LS_GetNowLine(1), row);
+    }
     for (const char* wrong : {"0", "65", "", "x"})
         (void)Tell(light + "Texture@Number#" + wrong);
     EXPECT_EQ(LS_GetNowLine(1), 63);

@@ -76,7 +76,8 @@ TEST_F(TexturePage, ComposesStoresAndLoadsAPackage)
     EXPECT_TRUE(Close()) << "no room";
     EXPECT_THAT(Rows(PATTERNS), ElementsAre("BRICK|8 x 4", "WOOD|8 x 4"));
     Do(SAVE);
-    EXPECT_TRUE(Close()) << "stored";
+    EXPECT_THAT(Message(), HasSubstr("has been stored"));
+    EXPECT_TRUE(Close());
     Choose(PATTERNS, 0);
     Do(REMOVE);
     EXPECT_THAT(Rows(PATTERNS), ElementsAre("WOOD|8 x 4"));

@@ -48,7 +48,7 @@ TEST(Process, TheChildsSignalsDoNotReachTheParent)
     signal(SIGINT, CountSignal);
     signal(SIGCHLD, ReapTracked);
     signals_seen = 0;
-    EXPECT_EQ(ktr_system("/bin/sh -c \"kill -INT $PPID; exit 4\""), 4 << 8);
+    EXPECT_EQ(ktr_system("/bin/sh -c \"kill -INT $PPID; kill -QUIT $PPID; exit 4\""), 4 << 8);
     EXPECT_EQ(signals_seen, 1) << "only SIGCHLD, once the status was taken";
     EXPECT_EQ(tracked_seen, 0);
     EXPECT_EQ(cpid, 0);

@@ -1,5 +1,6 @@
 #include "harness.h"
 #include "safe_file.h"
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -44,8 +45,12 @@ TEST_F(SafeFiles, TheOldFileStandsUntilTheNewOneIsWhole)
 
     ASSERT_EQ(SafeFile_Open(file, FILE_NAME), 0);
     fprintf(file.fp, "thought better of it");
+    const int descriptor = fileno(file.fp);
     SafeFile_Abandon(file);
+    EXPECT_EQ(fcntl(descriptor, F_GETFD), -1) << "it stays open";
     EXPECT_EQ(SafeFile_Commit(file), -1) << "it is given up";
+    EXPECT_EQ(SafeFile_Write("/var/tmp/one_byte", "1", 1), 0);
+    EXPECT_EQ(FileText("/var/tmp/one_byte"), "1");
     EXPECT_EQ(FileText(FILE_NAME), "half and half");
     EXPECT_NE(access(BESIDE, F_OK), 0);
 }

@@ -154,7 +154,7 @@ TEST_F(Saver, HidesThePageAndGivesItBackWholeOrTheTopMenuWhenItIsGone)
     SendMessage(MSG_REDRAW, 0, 0, 0, 0);
     const auto before = PixelsIn(SCREEN);
     const long page_light = Light();
-    for (int mode = 0; mode <= SAVER_PATTERNS; mode++) {
+    for (int mode = 0; mode <= SAVER_PATTERNS + 1; mode++) { // of the last none knows
         Start(mode);
         EXPECT_LT(Light(), page_light / 8) << "mode " << mode;
         Passes(100);
@@ -470,6 +470,9 @@ TEST_F(SaverSetup, KnobsSetThePatternAndItsTimesWhichAreSavedWhenThePageIsLeft)
     CreatePage(KEY_PAGE);
     EXPECT_FALSE(std::filesystem::exists(SETTINGS)) << "nothing was changed";
     CreatePage(0x99930000);
+    const std::string pattern = Cell(1, SAVER_NAMES, 1);
+    SendMessage(LMSG_KNOBVAR, 1, 4, 1, 0);
+    EXPECT_NE(Cell(1, SAVER_NAMES, 1), pattern);
     static const std::tuple<int, int, const int*, int> cases[] = {
         {1, 0, &GL_ScreenSaverPTN_Mode, 0},        {1, 99, &GL_ScreenSaverPTN_Mode, 17},
         {2, 10, &GL_ScreenSaverVariable_speed, 9}, {2, -5, &GL_ScreenSaverVariable_speed, 0},
@@ -508,19 +511,19 @@ static void Button(const char* name)
 
 TEST_F(SaverSetup, ANameIsTheOneThatTheListStandsOn)
 {
-    CopyText(GL_Scr_disp_name[0], "first");
-    LS_SetNowLine(1, 2);
+    CopyText(GL_Scr_disp_name[2], "third");
+    LS_SetNowLine(1, 0);
     Button("Rename");
     TypeAndEnter("STUDIO 4");
-    EXPECT_STREQ(GL_Scr_disp_name[2], "STUDIO 4");
+    EXPECT_STREQ(GL_Scr_disp_name[0], "STUDIO 4");
     Button("Default");
-    EXPECT_STREQ(GL_Scr_disp_name[2], "KTR-20");
+    EXPECT_STREQ(GL_Scr_disp_name[0], "KTR-20");
 
     LS_SetNowLine(1, 11); // the folder has no name
     Button("Default");
     Button("Rename");
     EXPECT_EQ(GetWindow(), 0);
-    EXPECT_STREQ(GL_Scr_disp_name[0], "first");
+    EXPECT_STREQ(GL_Scr_disp_name[2], "third");
 
     Button("Path");
     TypeAndEnter("/mnt/x");

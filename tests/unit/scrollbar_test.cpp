@@ -74,7 +74,9 @@ TEST_F(ScrollBars, AHeldArrowWaitsOnceAndThenRepeats)
 {
     static const std::pair<int, size_t> passes[] = {{299, 0}, {1, 1},    {49, 0}, {1, 1},
                                                     {50, 1},  {5000, 1}, {0, 0},  {50, 1}};
+    Redraw();
     for (int y : {UP, DOWN}) {
+        const auto arrow = PixelsIn({X, y - 15, X + 45, y + 15});
         Press(X, y);
         EXPECT_EQ(Told().size(), 1u) << "the first step comes at once";
         for (const auto& [elapsed_ms, steps] : passes) {
@@ -84,6 +86,7 @@ TEST_F(ScrollBars, AHeldArrowWaitsOnceAndThenRepeats)
         Release();
         Redraw(5000);
         EXPECT_THAT(Told(), IsEmpty());
+        EXPECT_EQ(PixelsIn({X, y - 15, X + 45, y + 15}), arrow) << "it is let go";
     }
 }
 

@@ -299,6 +299,7 @@ TEST_F(MenuBoard, HoursTickAtOnceAndThenEachHour)
     EXPECT_EQ(I2cEepromService_IsCrc32Valid(3), 1);
     EXPECT_EQ(Byte(104, 14), 28);
     EXPECT_EQ(SelfDiag_GetUI(1)->value, 1001);
+    EXPECT_EQ(SelfDiag_GetUI(1)->status, SELFDIAG_OK);
     EXPECT_EQ(Item(SelfDiag_GetUI(1)->message), SelfDiag_GetUI(1)) << "a unit as all others";
     for (int ms = 0; ms < 3600000; ms += 5000)
         SelfDiag_I2C_Update(5000);

@@ -20,6 +20,7 @@ TEST_F(SwitcherIo, OnlyTheGroupOfInputsThatIsChosenIsShownAndFollowed)
     const Lines lines = Choose(BTN_SHEET_GROUP, 9);
     EXPECT_THAT(lines, Contains("remove " + gain + "16"));
     EXPECT_THAT(lines, Contains("add " + gain + "136"));
+    EXPECT_THAT(Caption(BTN_SHEET_GROUP), HasSubstr("\n129-136"));
     EXPECT_EQ(LS_GetNData(1), 8);
     EXPECT_EQ(Row(0, 4), "129|||") << "nothing of input 1 is left";
     (void)Tell(gain + "129#70");

@@ -65,8 +65,9 @@ TEST_F(TexturePackage, WhatIsWrittenComesBackAndGoesOnFromThere)
     EXPECT_EQ(TexturePackage_Write(TEXTURE_STICK), 0);
     const std::string zsp = FileText(ZSP);
     EXPECT_EQ(zsp.find("# Bitmap User List\nWOOD,0,1,2,2,49206\nSTONE,0,0,4,1,49206\n\nBM"), 0u);
-    EXPECT_THAT(FileText(TEXTURE_STICK "UserTexture/install.cfg"),
-                HasSubstr("TARGET DME\nINSTALL UserTexture.zsp "));
+    EXPECT_EQ(
+        FileText(TEXTURE_STICK "UserTexture/install.cfg"),
+        "TITLE User Texture\nVERSION 1.00\nTARGET DME\nINSTALL UserTexture.zsp TEXTURE 1.00\n");
 
     std::filesystem::remove(TEXTURE_STICK "WOOD.bmp"); // no longer needed
     std::filesystem::remove(TEXTURE_STICK "STONE.bmp");

@@ -69,7 +69,7 @@ TEST(Timecode, SwitcherRateFollowsItsFormat)
     EXPECT_EQ(TC2Frame_SWR("1:30", 1), 80);
     EXPECT_EQ(TC2Frame_SWR("1:30", 0), TC_BAD);
     EXPECT_STREQ(Frame2TC_SWR(80, 3, 0), "00:03:05");
-    EXPECT_EQ(TC2BTC("1:23:45:12"), 0x01234512u);
+    EXPECT_EQ(TC2BTC("1:23:45:20"), 0x01234520u);
     EXPECT_EQ(TC2BTC("-45:12"), 0x80004512u);
     EXPECT_EQ(TC2BTC("45:60"), unsigned(TC_BAD));
     for (const auto& [n, text] :

@@ -63,6 +63,7 @@ TEST_F(Touch, RawPointsBecomeScreenPointsInTruncatedSteps)
         const auto events = Events();
         ASSERT_FALSE(events.empty());
         EXPECT_EQ(events[0].button.x, c.x) << c.raw << " at " << c.ax << ".." << c.bx;
+        EXPECT_EQ(events[0].button.y, 0);
     }
 }
 
@@ -149,8 +150,8 @@ TEST_F(Touch, CalibrationOutOfRangeFallsBackValueByValue)
         unsigned char bytes[8];
         int points[4];
     } cases[] = {
-        {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, {50, 70, 740, 540}},
         {{0, 150, 0, 0, 2, 0x89, 1, 0xC1}, {150, 0, 750, 550}}, // 649, 449
+        {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, {50, 70, 740, 540}},
     };
     for (const auto& c : cases) {
         ASSERT_EQ(I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, 8, c.bytes), 8);

@@ -346,9 +346,9 @@ TEST_F(Windows, ATouchedKeyLooksPushedForAMoment)
     const auto up = look();
     TouchKeyboard({"a"});
     EXPECT_NE(look(), up) << "at once";
-    Pass(100);
+    Pass(149);
     EXPECT_NE(look(), up);
-    Pass(100);
+    Pass(1);
     EXPECT_EQ(look(), up);
 }
 
@@ -453,6 +453,9 @@ TEST_F(Windows, AChoiceIsThePlaceInTheGridAndAPressBesideNone)
     CreateWindow(WINDOW_SELECT, "Corner", {.x = 790, .y = 590, .captions = cells});
     SendMessage(MSG_PRESS, 750, 560, 1, 0); // it has been moved onto the screen
     EXPECT_THAT(Heard(), ElementsAre("select Corner 0"));
+    CreateWindow(WINDOW_SELECT, "LOCAL@List", grid);
+    SendMessage(MSG_KEY, SDLK_ESCAPE, 0, 0, 0);
+    EXPECT_EQ(GetWindow(), 0);
     CreateWindow(WINDOW_SELECT, "Huge", {.columns = 1000, .rows = 1000});
     CreateWindow(WINDOW_PATH, "Strange", {.path_type = 99});
     EXPECT_THAT(Heard(), IsEmpty());
