@@ -62,6 +62,7 @@ TEST_F(SwitcherSetup, AFunctionMovesFromOneUserRegionToAnother)
     Start(0x73310001, "Config@User1-8 Config@User",
           {"1#FM2,Aux1", "2#FM3", "3#FM6,FM7,FM8,FM9,FM10,FM11,FM12,FM13,FM14,FM15", "9#FM5", "x"});
     EXPECT_EQ(Row(0, 2), "FM1|None");
+    EXPECT_THAT(Open(0x73310001), Contains("add " + SWITCHER + "Config@User1-8 Config@User8"));
     EXPECT_EQ(Row(1, 2), "FM2|User1");
     EXPECT_EQ(Row(2, 2), "FM3|User2");
     EXPECT_EQ(Row(14, 2), "FM15|User3");

@@ -400,9 +400,10 @@ TEST_F(FileDualPage, WhatALoadHasChangedIsReadOnceAndFailuresAreCounted)
             (void)TakeQueuedCommands();
             xferlist_result_display(items);
             const bool reads = *c.reads && status == FILESTATUS_OK;
-            EXPECT_EQ(Puts(TakeQueuedCommands()),
-                      reads ? Lines{"put " + std::string(c.reads)} : Lines{})
-                << c.dst;
+            const Lines sent = TakeQueuedCommands();
+            EXPECT_EQ(Puts(sent), reads ? Lines{"put " + std::string(c.reads)} : Lines{}) << c.dst;
+            EXPECT_EQ(std::ranges::count(sent, "read Snapshot@Snapshot@Attribute@M/E-1@List"),
+                      reads && &c == cases);
             for (const int good : {2, 1}) { // the last one that failed is alone
                 Err_Clear();
                 xferlist_errors_add(items);

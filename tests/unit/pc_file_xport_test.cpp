@@ -102,8 +102,14 @@ TEST_F(XportPage, SearchesTheChosenKindInEverySpelling)
 {
     const Lines files = {"b.TIF", "a.tif",     "c.Tif",     "b.TIF.SUB",
                          "x.BMP", "x.BMP.SUB", "news/d.TIF"};
+    (void)Open(0x71510200);
+    Press(BTN_FILE_DEVICE_B);
+    (void)Quit(FILE_REGISTER + 1); // the stills are at both sides there
     const Lines opened = Open(NEW);
     Found(opened, files);
+    Store({"Mlate"});
+    Pass(200); // a side a pass
+    Pass(200);
     EXPECT_THAT(Files(), ElementsAre("a.tif", "b.TIF", "b.TIF.SUB", "c.Tif", "d.TIF"));
     Press(BTN_XPORT_TYPE);
     const Lines sent = Quit(XPORT_BMP + 1);

@@ -512,6 +512,8 @@ TEST_F(MeDmeWipe, WhatIsRemovedBeginsBeforeItEnds)
     for (const auto& [page, path, pattern, button, ch] :
          {std::tuple{0x12600007u, "M/E-2@DME Wipe", "2003", 18, std::string("2")},
           {0x12170007u, "M/E-2@Key1@Transition@DME Wipe", "1003", 17, "1"}}) {
+        Open(page);
+        EXPECT_THAT(Usable({17, 18, 19}), IsEmpty()) << "no pattern yet";
         OpenWith(page, path, pattern);
         EXPECT_STREQ(NB_GetTitle(), "Remove");
         EXPECT_FALSE(Enabled(19));
