@@ -226,7 +226,7 @@ TEST_F(FileDualPage, ADirectoryIsChosenBehindItsDeviceAndNothingMovesOntoItself)
     EXPECT_EQ(BT_GetVisible(BTN_FILE_L_TO_R), BT_ENABLED);
     Press(BTN_FILE_DEVICE_B);
     Answer(FILE_REGISTER + 1);
-    EXPECT_EQ(Usable({BTN_FILE_L_TO_R, BTN_FILE_R_TO_L}), std::vector<int>{});
+    EXPECT_THAT(Usable({BTN_FILE_L_TO_R, BTN_FILE_R_TO_L, BTN_FILE_DIR_B}), IsEmpty());
     EXPECT_EQ(Caption(BTN_FILE_DEVICE_B), "Register");
     EXPECT_EQ(Row(2, 2), "OPENING|");
     Press(BTN_FILE_DEVICE_B);
@@ -283,7 +283,7 @@ TEST_F(FileDualPage, DetailRenamesAndDeletesRegistersOfTheSelectedRegions)
     }
     (void)Open(SETUP_PAGE + 1);
     EXPECT_THAT(Usable({BTN_FILE_RENAME, BTN_FILE_DELETE}), IsEmpty()) << "it has no registers";
-    (void)Open(file_kinds[FILEPAGE_EFFECT].id);
+    EXPECT_THAT(Open(file_kinds[FILEPAGE_EFFECT].id), Contains("add File@Src Patch Link"));
     for (const auto& [now, next] : {std::pair{"true", "false"}, {"false", "true"}}) {
         (void)Tell(std::string("File@Src Patch Link#") + now);
         EXPECT_THAT(Puts(BTN_FILE_PATCH_LINK),
@@ -337,9 +337,11 @@ TEST_F(FileDualPage, RenameOfFilesSkipsWhatKeepsItsName)
     EXPECT_THAT(Rename(""), IsEmpty()) << "entered as it stood";
     LS_SetNowLine(1, 0);
     Pass(1000);
-    EXPECT_THAT(Rename("tom.b"),
+    const Lines sent = Rename("tom.b");
+    EXPECT_THAT(sent,
                 ElementsAre(AllOf(HasSubstr("put File@Access@Move#L"),
                                   HasSubstr("NEWS.ME1_001.SSS"), HasSubstr("tom_b.ME1_001.SSS"))));
+    EXPECT_THAT(Reply(sent, "Access@Move", {}), Contains(HasSubstr("put File@Access@Find#L")));
 }
 
 TEST_F(FileDualPage, TheRegionsFollowTheInstallation)

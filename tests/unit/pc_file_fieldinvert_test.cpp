@@ -29,6 +29,7 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
         {std::string(DIR) + "SWR000D001/MBACK.FMEM_012.SFA,Wed Nov 25 10:30:00 2026,1,3,1,1,1",
          logo + tail + "0,0", std::string("/etc/SWR000D001/MBACK.FMEM_013.SFM") + tail + "0,0"});
     ASSERT_EQ(LS_GetNData(1), 2);
+    EXPECT_THAT(Usable({BTN_INVERT_EXEC}), IsEmpty()) << "nothing is selected";
     EXPECT_EQ(Cells(1, 0, 0, 8), "007|MLOGO|Nov.25.2026 10:30|1|1080i|||") << "by number";
     EXPECT_EQ(Cells(1, 1, 0, 8), "012|MBACK|Nov.25.2026 10:30|1|1080i|4K|O|O");
     (void)Touch(200, 124 + 22 + 5);
@@ -39,8 +40,9 @@ TEST_F(FieldInvertPage, InvertsWhatIsSelectedAndShowsTheResult)
     (void)Reply(again, "Access@FindSFM", {logo + tail + "1,1"});
     EXPECT_EQ(Cells(1, 0, 0, 8), "007|MLOGO|Nov.25.2026 10:30|1|1080i||O|O");
     (void)Press(BTN_INVERT_DEVICE);
-    EXPECT_NE(Pane_GetActiveID(), 0);
-    (void)Answer(0);
+    (void)Reply(Answer(FILE_NETWORK + 1), "Access@ListDir", {});
+    (void)Answer(1);
+    EXPECT_EQ(Caption(BTN_INVERT_DEVICE), "Network");
     (void)Open(0x71540000);
     EXPECT_NE(QueueRoot, nullptr);
     (void)Leave();

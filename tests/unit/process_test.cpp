@@ -34,6 +34,7 @@ TEST(Process, WordsRunWithoutAShell)
         EXPECT_EQ(ktr_system(cmd), exit_status << 8) << cmd;
     const int child = ktr_start("/bin/sh -c \"sleep 0.1; exit 3\"");
     int status = 0;
+    ASSERT_GT(child, 0);
     EXPECT_FALSE(ktr_has_ended(child, &status)) << "nobody waits for it";
     while (!ktr_has_ended(child, &status))
         usleep(1000);
