@@ -718,6 +718,7 @@ TEST_F(ClipPages, LoadsUnloadsAndCouplesWhatFits)
         Cell(0, "OPENING");
         Cell(0, "STILL");
         (void)Press(key);
+        SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 1, 0, 0, 0); // not its progress
         EXPECT_THAT(Grant("85"),
                     ElementsAre(asked + " root/OPENING.SFH", asked + " root/STILL.SFH"));
         if (key == BTN_FMEM_LOAD)

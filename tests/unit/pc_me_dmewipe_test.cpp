@@ -301,6 +301,10 @@ TEST_F(MeDmeWipe, TheDefaultKeyNamesWhatTheKnobTurns)
         Own(function, button);
         EXPECT_EQ(Default(box), Sent("default", paths));
     }
+    Own("Position@Position", POSITION);
+    (void)TakeQueuedCommands();
+    (void)NB_SendValue2(2, 12);
+    EXPECT_EQ(TakeQueuedCommands(), Sent("put", {"Position@Position@V@1#12.00"}));
 }
 
 // --- Modify: keys ---

@@ -118,7 +118,7 @@ TEST_F(KeySignals, ATouchIsPutToTheBusThatIsAssigned)
 
 TEST_F(KeySignals, TheRowsFollowTalliesAndNeitherTouchesNorTheArrows)
 {
-    Open(0x12210003);
+    const Lines opened = Open(0x12210003);
     EXPECT_EQ(Cell(1, 2, 0), "7");
     TellAll("M/E-2@Key2@Type@Signal Select@", {"Fill#CAM 2", "Source#VTR"});
     TouchRow(0);
@@ -136,7 +136,9 @@ TEST_F(KeySignals, TheRowsFollowTalliesAndNeitherTouchesNorTheArrows)
     EXPECT_EQ(Rows(), "CAM 1:- CAM 2:F VTR:S*");
     TellAll(SOURCE, {"5,GRAPHIC", "2,STUDIO"}); // a new name moves them at once
     EXPECT_THAT(Rows(), MatchesRegex("CAM 1:-\\*? STUDIO:-\\*? GRAPHIC:-\\*? VTR:S\\*?"));
-    EXPECT_THAT(TouchRow(2), ElementsAre("put M/E-2@Key2@Type@Signal Select@Source#GRAPHIC"));
+    const string source = "M/E-2@Key2@Type@Signal Select@Source";
+    EXPECT_THAT(TouchRow(2), ElementsAre("put " + source + "#GRAPHIC"));
+    EXPECT_EQ(Held(opened, source) + Held(Leave(), source), 0);
 }
 
 // --- Matte and chroma ---

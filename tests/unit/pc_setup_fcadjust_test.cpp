@@ -62,6 +62,8 @@ TEST_F(FcAdjust, OnlyTheInputsOfTheConverterAreSubscribedAndShown)
     TellAll("Engineering Setup@Switcher@Input@FC Input Select@",
             {"FC1#1-4", "FC2#9-12", "FC2#none", "FC22#1-4"});
     EXPECT_EQ(Row(0, 4), "9|CAM 9|Up|") << "the sources that were chosen for it";
+    EXPECT_THAT(Choose(BTN_FCADJUST_GROUP, 1), Contains("add " + ADJUST + "H/V@0"));
+    (void)Choose(BTN_FCADJUST_GROUP, 2);
     const Lines left = Leave();
     EXPECT_THAT(left, Contains("remove " + ADJUST + "Convert Mode@4"));
     EXPECT_THAT(left, Contains("remove " + ADJUST + "FC Signal Format"));
