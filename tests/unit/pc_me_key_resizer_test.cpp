@@ -121,14 +121,14 @@ TEST_F(KeyResizerPages, TheRotationComesBackWithTheAxesItHadAndAnAxisThatDoesNot
     EXPECT_TRUE(Disabled().contains(20));
     EXPECT_THAT(Press(17), Contains("put M/E-1@Key1@Processed Key@Rotation#2"));
 
-    Tell("M/E-1@Key1@Processed Key@Rotation#1");
-    Open(0x11150005);
+    Tell("M/E-1@Key8@Processed Key@Rotation#1");
+    Open(0x15450005);
     (void)Press(19);
-    const std::string path = "M/E-1@Key1@Resizer@Rotation@";
+    const std::string path = "M/E-1@Key8@Resizer@Rotation@";
     TellAll(path, {"X#0", "Y#0"});
     EXPECT_THAT(Drag(1, 794), Contains("put " + path + "X#360.00"));
     EXPECT_THAT(Drag(2, 794), Not(Contains(testing::StartsWith("put"))));
-    Tell("M/E-1@Key1@Processed Key@Rotation#3");
+    Tell("M/E-1@Key8@Processed Key@Rotation#3");
     EXPECT_THAT(Drag(2, 794), Contains("put " + path + "Y#360.00"));
 }
 
