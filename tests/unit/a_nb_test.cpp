@@ -279,6 +279,25 @@ TEST_F(KnobColumn, ATurnIsMarkedWhileThePageHearsOfItAndMayChangeValueAndTable)
     EXPECT_EQ(Shown("Again"), 0);
 }
 
+TEST_F(KnobColumn, TheOldestLayerIsForgottenFirst)
+{
+    constexpr size_t REMEMBERED = 256;
+    static std::vector<std::array<NB_TBL, 3>> tables(
+        REMEMBERED + 1, {Box(1, "Low", NB_2, 0, 1, ""), Box(17, "High", NB_2, 0, 1, ""), NB_END});
+    const auto layer_of = [](size_t n) {
+        NB_Create(tables[n].data(), "");
+        return NB_GetLayer();
+    };
+    layer_of(0);
+    PressTitle();
+    for (size_t n = 1; n < REMEMBERED; n++)
+        layer_of(n);
+    EXPECT_EQ(layer_of(0), 1);
+    layer_of(REMEMBERED);
+    EXPECT_EQ(layer_of(0), 0);
+    EXPECT_EQ(layer_of(REMEMBERED), 0);
+}
+
 TEST_F(KnobColumn, NothingFromTheWireBreaksABox)
 {
     Open(table);

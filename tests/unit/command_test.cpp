@@ -131,3 +131,12 @@ TEST(Command, AConditionDisablesAtItsValues)
                                               {"XOn", "On", 0}})
         EXPECT_EQ(IsDisableCondition(cond, var), disabled) << testing::PrintToString(cond);
 }
+
+TEST(Command, SumsSwitchesAndOwnPaths)
+{
+    EXPECT_EQ(Hash("a\xFF"), 97u + 255);
+    EXPECT_STREQ(Bool(7), "true");
+    EXPECT_STREQ(ToggleBool(7), "false");
+    EXPECT_TRUE(IsLocal("LOCAL@A"));
+    EXPECT_FALSE(IsLocal("M/E-1@LOCAL") || IsLocal(nullptr));
+}

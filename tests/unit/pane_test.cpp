@@ -266,17 +266,31 @@ TEST_F(Panes, AChoiceIsTheResult)
 TEST_F(Panes, AChoiceStandsInItsGrid)
 {
     const auto many = Choices(81);
-    const auto plan = [](int id) { // the pane, and its sixth button
+    const auto plan = [](int id) { // the pane, its first and seventh button, its last three
         const PANE& p = *pane_find(id);
-        const BUTTON& b = p.button[5];
-        const std::vector<int> numbers = {p.x, p.y, p.w, p.h, b.x1, b.y1};
+        std::vector<int> numbers = {p.x, p.y, p.w, p.h};
+        BUTTON* end = p.button;
+        while (end->id != BUTTON_END)
+            end++;
+        for (BUTTON* b : {p.button, p.button + 6, end - 3, end - 2, end - 1})
+            numbers.insert(numbers.end(), {b->id, b->x1, b->y1});
         Pane_Quit(id);
-        return numbers;
+        return testing::PrintToString(numbers);
     };
-    EXPECT_THAT(plan(PaneSelect_Color_Button_Create(3, 2, many.data())),
-                ElementsAre(254, 192, 293, 216, 193, 85));
-    EXPECT_THAT(plan(FMOutPopup_Create(2, 3, many.data())),
-                ElementsAre(230, 212, 341, 176, 225, 65));
+    EXPECT_EQ(plan(PaneSelect_Color_Button_Create(3, 2, many.data())),
+              "{ 254, 192, 293, 216, 1, 15, 15, 32768, 116, 166, 5, 104, 85, 6, 193, 85, 32768, "
+              "116, 166 }");
+    EXPECT_EQ(plan(PanePopup_Create(2, 3, many.data())),
+              "{ 270, 219, 260, 162, 1, 15, 15, 32768, 100, 112, 5, 93, 58, 6, 171, 58, 32768, "
+              "100, 112 }");
+    EXPECT_EQ(plan(FMOutPopup_Create(2, 3, many.data())),
+              "{ 230, 212, 341, 176, 1, 15, 15, 32768, 140, 126, 5, 120, 65, 6, 225, 65, 32768, "
+              "140, 126 }");
+    EXPECT_EQ(plan(PaneDirectory_Create_FolderPopup(31, many.data())),
+              "{ 125, 112, 551, 376, 1, 15, 15, 7, 120, 65, 32768, 245, 326, 32774, 450, 326, "
+              "32775, 498, 326 }");
+    EXPECT_EQ(plan(PaneRTRLvl_Create(1)),
+              "{ 131, 390, 538, 70, 1, 15, 15, 7, 399, 15, 6, 335, 15, 7, 399, 15, 8, 463, 15 }");
 }
 
 TEST_F(Panes, APullDownThatIsTooLongEndsAtTheScreen)

@@ -1,9 +1,43 @@
+#include "a_fl.h"
 #include "a_st_draw.h"
 #include "pane.h"
 #include "table_page.h"
 #include "timecode.h"
 
 using GalleryPages = TablePage;
+
+TEST_F(GalleryPages, TheTopRowPutsAllKeysIntoAState)
+{
+    static const std::pair<int, const char*> states[] = {
+        // Status and visibility of a key that can be on, and of one that cannot.
+        {66, "1/0 2/0"}, {67, "3/0 2/0"}, {70, "2/2 2/2"}, {68, "2/1 2/1"},
+        {69, "1/1 2/1"}, {70, "2/2 2/2"}, {65, "2/0 2/0"}};
+    (void)Open(0x99920000);
+    EXPECT_EQ(BT_GetStatus(65), BT_ON) << "Off";
+    for (const auto& [key, expected] : states) {
+        (void)Press(key);
+        Pass(200);
+        std::string shown;
+        for (const int id : {50, 6})
+            shown += (id == 6 ? " " : "") + std::to_string(BT_GetStatus(id)) + "/" +
+                     std::to_string(BT_GetVisible(id));
+        EXPECT_EQ(shown, expected) << key;
+        EXPECT_EQ(BT_GetStatus(key), BT_ON);
+    }
+    for (const bool on : {true, false}) {
+        for (const int key : {1, 4, 51})
+            (void)Press(key);
+        Pass(200);
+        EXPECT_EQ(BT_GetStatus(1) == BT_ON, on);
+        EXPECT_EQ(BT_GetStatus(4) == BT_ON, on);
+        EXPECT_EQ(bt_find(51)->undecided, on);
+    }
+    for (const int key : {2, 3, 5}) {
+        (void)Press(key);
+        for (const int other : {2, 3, 5})
+            EXPECT_EQ(BT_GetStatus(other) == BT_ON, other == key) << key;
+    }
+}
 
 TEST_F(GalleryPages, BoxesAndListsAreFilledAsTheirKeysSay)
 {
@@ -27,9 +61,22 @@ TEST_F(GalleryPages, BoxesAndListsAreFilledAsTheirKeysSay)
         for (const int list : {1, 2})
             EXPECT_EQ(LS_GetNData(list), rows);
     }
+    for (const auto& [row, cells] :
+         {std::pair{8, "9|A NAME THAT IS TOO LONG|0|A|B"}, {15, "16|OPENING|127|A|B"}}) {
+        EXPECT_EQ(Cells(1, row, 0, 5), cells);
+        EXPECT_EQ(Cells(2, row, 0, 3), std::to_string(row + 1) + "|M/E-1|P/P");
+    }
+    const Rect title = {320, 78, 349, 97}; // of the column "A"
+    Paint();
+    const auto plain = PixelsIn(title);
+    for (const bool is_grey : {true, false}) {
+        (void)Press(52);
+        Pass(200);
+        EXPECT_EQ(PixelsIn(title) != plain, is_grey);
+    }
 }
 
-TEST_F(GalleryPages, CellsFollowTheirKeysAndForgetThemWithThePage)
+TEST_F(GalleryPages, CellsAndTabsFollowTheirKeysAndForgetThemWithThePage)
 {
     for (int visit = 0; visit < 2; visit++) {
         (void)Open(0x99920003);
@@ -45,12 +92,33 @@ TEST_F(GalleryPages, CellsFollowTheirKeysAndForgetThemWithThePage)
         }
         (void)Leave();
         EXPECT_EQ(s_font, 0) << "it would follow to other pages";
+        (void)Open(0x99920004);
+        for (const bool on : {false, true, false}) {
+            for (const int tab : {17, 18}) {
+                EXPECT_EQ(BT_GetStatus(tab) == BT_ON, on) << tab;
+                (void)Press(tab);
+            }
+            Pass(200);
+        }
     }
+}
+
+TEST_F(GalleryPages, EachSideOfTheFilesGoesRoundTheDrives)
+{
+    (void)Open(0x9992000B);
+    for (const int device : {FL_DIRDATA_REMOVABLE_DRIVE, FL_DIRDATA_STORAGE_ROOT}) {
+        (void)Press(33);
+        Pass(200);
+        EXPECT_EQ(FL_GetDevice(FL_L_LIST), device);
+    }
+    (void)Press(36);
+    EXPECT_EQ(FL_GetDevice(FL_R_LIST), FL_DIRDATA_STORAGE_ROOT + 1);
+    EXPECT_EQ(FL_GetDevice(FL_L_LIST), FL_DIRDATA_STORAGE_ROOT);
 }
 
 constexpr Rect ANSWER = {112, 100, 690, 116}; // how the last one was answered
 
-TEST_F(GalleryPages, PanesOpenByTheirKeys)
+TEST_F(GalleryPages, PanesOpenByTheirKeysAndCloseByThemByCodeOrInTime)
 {
     (void)Open(0x99920006);
     for (const BT_MEM* b = bt_first(); b->id >= 1; b++) {
@@ -63,6 +131,31 @@ TEST_F(GalleryPages, PanesOpenByTheirKeys)
         while (const int pane = Pane_GetActiveID())
             (void)Pane_Quit(pane);
     }
+    for (const int progress : {17, 18}) {
+        const auto before = Seen(ANSWER);
+        Pass(200);
+        (void)Press(progress);
+        Pass(4990);
+        EXPECT_NE(Pane_GetActiveID(), 0);
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID(), 0);
+        EXPECT_NE(Seen(ANSWER), before) << "said";
+    }
+    Pass(200);
+    (void)Press(20);
+    for (const int key : {PANEFIND_NEXT, PANEFIND_CLOSE}) {
+        SendMessage(LMSG_PANEBTNSEL, key, 0, 0, 0);
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID() != 0, key == PANEFIND_NEXT);
+    }
+    Pass(200);
+    (void)Press(21);
+    Pass(2990);
+    const auto lit = PixelsIn({0, 0, 799, 599});
+    Pass(10);
+    Pass(10);
+    EXPECT_NE(PixelsIn({0, 0, 799, 599}), lit) << "the indicator goes out";
+    (void)Pane_Quit(Pane_GetActiveID());
 }
 
 TEST_F(GalleryPages, WindowsOpenByTheirKeysAndAnswerToTheirBoxOrTheLine)
@@ -88,5 +181,11 @@ TEST_F(GalleryPages, WindowsOpenByTheirKeysAndAnswerToTheirBoxOrTheLine)
         enter(key, text);
         EXPECT_NE(Seen(ANSWER), before) << key;
         before = PixelsIn(ANSWER);
+    }
+    for (const int key : {3, 17, 22, 33, 34, 49, 50, 51, 52}) {
+        Pass(200);
+        (void)Press(key);
+        EXPECT_NE(GetWindow(), WINDOW_NONE) << key;
+        (void)CloseWindow();
     }
 }
