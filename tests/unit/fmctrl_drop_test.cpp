@@ -192,8 +192,8 @@ TEST_F(DropFolders, NamesThatCouldLeaveTheFolderOrTheCommandAreRefused)
     Strings paths = {"FM1/../../kept.png", "FM2/other.png", "FM1/sub/x.png",
                      "../kept.png",        "FM1/$(id).png", "FM1/`id`.png",
                      "FM1/-rf.png",        "FM1/",          "FM1a.png"};
-    for (const std::string& part : {"\\", "&", "|", "<", ">", "*", "?", "#", ";", "'", "\"", "\t"})
-        paths.push_back("FM1/a" + part + "b.png");
+    for (const char* const part : {"\\", "&", "|", "<", ">", "*", "?", "#", ";", "'", "\"", "\t"})
+        paths.push_back(std::string("FM1/a") + part + "b.png");
     paths.push_back("FM1/" + std::string(300, 'a') + ".png");
     EXPECT_THAT(Found(search, paths), IsEmpty());
     EXPECT_THAT(After(500), IsEmpty());
