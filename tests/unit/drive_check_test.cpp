@@ -52,9 +52,13 @@ TEST(DriveCheck, WithoutADriveThePaneStandsAtTheStart)
 {
     Harness_Reset();
     GL_SSD_Data_Error = GL_SSD_Sys_Error = 0;
-    ASSERT_EQ(rename("/mnt/data", "/mnt/gone"), 0);
+    for (const char* part : {"data", "sys"})
+        ASSERT_EQ(
+            rename((std::string("/mnt/") + part).c_str(), (std::string("/mnt/no_") + part).c_str()),
+            0);
     DriveCheck();
-    rename("/mnt/gone", "/mnt/data");
+    for (const char* part : {"data", "sys"})
+        rename((std::string("/mnt/no_") + part).c_str(), (std::string("/mnt/") + part).c_str());
     EXPECT_EQ(GL_SSD_Data_Error + GL_SSD_Sys_Error, 2);
     EXPECT_NE(Pane_GetActiveID(), 0);
     Harness_Reset();
