@@ -52,13 +52,13 @@ TEST(DriveCheck, WithoutADriveThePaneStandsAtTheStart)
 {
     Harness_Reset();
     GL_SSD_Data_Error = GL_SSD_Sys_Error = 0;
-    for (const char* part : {"data", "sys"})
-        ASSERT_EQ(
-            rename((std::string("/mnt/") + part).c_str(), (std::string("/mnt/no_") + part).c_str()),
-            0);
+    static const std::pair<const char*, const char*> parts[] = {{"/mnt/data", "/mnt/no_data"},
+                                                                {"/mnt/sys", "/mnt/no_sys"}};
+    for (const auto& [there, away] : parts)
+        ASSERT_EQ(rename(there, away), 0);
     DriveCheck();
-    for (const char* part : {"data", "sys"})
-        rename((std::string("/mnt/no_") + part).c_str(), (std::string("/mnt/") + part).c_str());
+    for (const auto& [there, away] : parts)
+        rename(away, there);
     EXPECT_EQ(GL_SSD_Data_Error + GL_SSD_Sys_Error, 2);
     EXPECT_NE(Pane_GetActiveID(), 0);
     Harness_Reset();

@@ -1,3 +1,4 @@
+#include "drop_folders.h"
 #include "fetches.h"
 #include "file.h"
 #include "fmctrl_page.h"
@@ -11,10 +12,7 @@ struct DropFolders : FrameMemory {
     void SetUp() override
     {
         FrameMemory::SetUp();
-        for (int i = 0; i < 5000 && !fm_drop_is_set_up(); i++) {
-            Pass(1); // the folders are made, at the first test of the process, beside the passes
-            usleep(1000);
-        }
+        AwaitDropFolders();
         for (const char* folder : {"/mnt/sys/FMLoad", "/mnt/sys/FTPIF/Command"})
             for (const auto& entry : fs::recursive_directory_iterator(folder))
                 if (!entry.is_directory())

@@ -1,4 +1,4 @@
-#include "fmctrl_private.h"
+#include "drop_folders.h"
 #include "lost_server.h"
 #include "pc_file.h"
 #include "pc_file_all.h"
@@ -428,10 +428,7 @@ TEST_F(FileAllPage, PicturesAreLoadedIntoTheirFolders)
 TEST_F(FileAllPage, AutomationGetsItsAnswer)
 {
     const std::string command = "/tmp/FTPIF/Command/";
-    for (int i = 0; i < 5000 && !fm_drop_is_set_up(); i++) {
-        Pass(1); // its folder is made beside the first passes of the process
-        usleep(1000);
-    }
+    AwaitDropFolders();
     Select({}); // of the page: not of automation
     EXPECT_EQ(AllLoad(), 0);
     EXPECT_EQ(AllLoad(), -1) << "one at a time";
