@@ -5,6 +5,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <syslog.h>
+#include <unistd.h>
 
 namespace
 {
@@ -136,6 +140,30 @@ TEST_F(Log, WhatIsOfLevelFiveGoesToTheSystemLogToo)
     const std::string lines = testing::internal::GetCapturedStderr();
     xsys_closelog();
     EXPECT_THAT(lines, MatchesRegex("unit\\[[0-9]+\\]: 11 \\[info\\] fan 2\n"));
+}
+
+// Who says it, how bad it is, and with the process id where the one that opens asks for it.
+TEST_F(Log, TheCollectorHearsEachLineWithItsSender)
+{
+    const int collector = socket(AF_UNIX, SOCK_DGRAM, 0);
+    const sockaddr_un at{AF_UNIX, "/dev/log"};
+    ASSERT_EQ(bind(collector, reinterpret_cast<const sockaddr*>(&at), sizeof at), 0);
+    const auto heard = [collector] {
+        char line[256];
+        const ssize_t n = recv(collector, line, sizeof line, MSG_DONTWAIT);
+        return std::string(line, size_t(std::max<ssize_t>(n, 0)));
+    };
+    EXPECT_EQ(xsys_openlog("menu", LOG_PID, LOG_USER), 0);
+    xsys_tagsyslog(LOG_INFO, "11", "info", "fan %d", 2);
+    EXPECT_THAT(heard(), MatchesRegex("<14>.*:[0-9][0-9] menu\\[[0-9]+\\]: 11 \\[info\\] fan 2"));
+    xsys_tagsyslog(LOG_INFO, "11", "info", "%s", "");
+    EXPECT_THAT(heard(), EndsWith(": 11 [info] "));
+    xsys_closelog();
+    xsys_tagsyslog(LOG_ERR, "SWR1", "diag", "fan");
+    EXPECT_THAT(heard(), MatchesRegex("<131>.*:[0-9][0-9] tm3_unit: SWR1 \\[diag\\] fan"));
+    xsys_closelog();
+    close(collector);
+    unlink(at.sun_path);
 }
 
 TEST_F(Log, MaintenanceLogNeedsARealDisk)

@@ -263,5 +263,14 @@ TEST(Drawing, WhatIsDrawnOutsideAHoldIsShownByTheNextAndPaintedOver)
         TDL_FillRectS(0, 0, side - 1, side - 1, RED);
         EXPECT_EQ(hold(0), side * side);
     }
+    for (const unsigned colour : {RED, WHITE}) { // after the first everything has been shown
+        TDL_FillRectS(0, 64, 31, 95, colour);
+        TDL_FillRectS(64, 0, 95, 31, colour); // to the right of what is marked, and above it
+        flushed = 0;
+        TDL_Hold();
+        TDL_UpdateScreen();
+        TDL_Release();
+        EXPECT_EQ(flushed, 2 * 32 * 32);
+    }
     TDL_WatchFlush(nullptr);
 }
