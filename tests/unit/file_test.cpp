@@ -1,11 +1,20 @@
 #include "access.h"
 #include "file_page.h"
+#include "file_private.h"
 #include "pane_private.h"
 #include "process.h"
 #include <csignal>
 #include <sys/wait.h>
 
 constexpr char ROW_DATE[] = "Wed Nov 25 09:20:08 2026";
+
+static int syncs;
+
+// Takes the place of the host's.
+extern "C" void sync() noexcept
+{
+    syncs++;
+}
 
 using FileJobs = FileTest;
 
@@ -428,6 +437,19 @@ TEST_F(FileLists, TheDrivesAreWrittenBeforeTheJobEnds)
         EXPECT_EQ(told.size(), 1u);
     }
     EXPECT_EQ(waitpid(other, nullptr, 0), other) << "nobody else's is taken";
+}
+
+TEST_F(FileLists, WhereNoProgramWritesTheDrivesThisOneDoes)
+{
+    const auto written = [](int pid) {
+        syncs = 0;
+        while (!file_sync_is_done(pid))
+            usleep(1000);
+        return syncs;
+    };
+    EXPECT_EQ(written(ktr_start("/bin/true")), 0);
+    EXPECT_EQ(written(ktr_start("/bin/false")), 2);
+    EXPECT_EQ(written(-1), 2);
 }
 
 // --- In the background ---

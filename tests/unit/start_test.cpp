@@ -1,9 +1,11 @@
 // What is made ready before the first page.
+#include "device.h"
 #include "global.h"
 #include "harness.h"
 #include "i2c.h"
 #include "start.h"
 #include "text.h"
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 
@@ -32,16 +34,26 @@ TEST(Start, TheEepromSaysWhichUnitThisIsAndWhereItsHub)
 }
 
 // In a process of its own, as it is done once in the life of one.
-TEST(Start, ADiskThatCannotBeUsedIsReplacedByMemory)
+TEST(Start, ADiskThatCannotBeUsedIsReplacedByMemoryButNotWhenDebugging)
 {
     constexpr char MARK[] = "/mnt/data/.HARDDISK_IS_AVAILABLE_1.0.0";
     std::ofstream(MARK) << "\n"; // of a disk that has gone since
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto start = [] {
+    const auto start = [](const char* ini) {
+        const std::filesystem::path there = "/tmp/start";
+        std::filesystem::create_directory(there);
+        for (const auto& file : std::filesystem::directory_iterator("."))
+            if (file.path().filename() != "tm3.ini")
+                create_symlink(absolute(file.path()), there / file.path().filename());
+        std::ofstream(there / "tm3.ini") << FileText("tm3.ini") << ini;
+        current_path(there);
         setenv("SDL_VIDEODRIVER", "dummy", 1);
         Start_Init(32);
-        _exit(10 + GL_IsRamDisk);
+        std::filesystem::remove_all(there);
+        const bool is_ready = strcmp(DEV_Pnl[0].name, "PNL1") == 0 && BUS_XptSrc[0];
+        _exit((is_ready ? 10 : 0) + GL_IsRamDisk);
     };
-    EXPECT_EXIT(start(), testing::ExitedWithCode(11), "");
+    EXPECT_EXIT(start(""), testing::ExitedWithCode(11), "");
+    EXPECT_EXIT(start("DebugMode=1\n"), testing::ExitedWithCode(10), "");
     std::filesystem::remove(MARK);
 }
