@@ -236,12 +236,12 @@ TEST_F(FramePage, RenameKeepsTheSideAndGivesNoNameTwice)
 
 TEST_F(FramePage, FoldersAreMadeNamedAndDeleted)
 {
-    Store({"Mlogo", "Mnews0001", "Mnews0002"});
     Folders("0,Default.,1,Sport,2,");
     Open(FOLDERS_PAGE);
+    Store({"Mlogo", "Mpic", "Mnews0001", "Mnews0002"});
     Pass(10);
     EXPECT_EQ(LS_GetNData(1), 2);
-    EXPECT_EQ(Cells(1, 0, 1, 2), "1|1") << "a still and a clip";
+    EXPECT_EQ(Cells(1, 0, 1, 2), "2|1") << "stills and a clip";
     EXPECT_EQ(Usable({49, 50, 51}), std::vector{49}); // the switcher's own folder stays
     static const struct {
         const char *entered, *sent, *says;
@@ -264,15 +264,14 @@ TEST_F(FramePage, FoldersAreMadeNamedAndDeleted)
     Press(50);
     EXPECT_THAT(Enter("Arts"), ElementsAre("put Frame Mem@Folder@Rename#1,Arts"));
     Folders("0,Default.,1,Arts,2,News"); // it stays on the folder, wherever it stands
-    Folders("0,Default.,1,Zoo,2,News");
+    Folders("0,Default.,1,Z,2,News");
     EXPECT_EQ(LS_GetNowLine(1), 2);
-    Pass(1000);
     Press(51);
     EXPECT_THAT(Quit(2), IsEmpty());
-    Pass(1000);
     Press(51);
     EXPECT_THAT(Quit(1), ElementsAre("put Frame Mem@Folder@Delete#1"));
-    Folders("0,Default.,1,Arts,2,News");
+    Folders("0,Default.,1,Arts,2,News,3,A,4,B,5,C,6,D,7,E,8,F,9,G,10,H,11,I");
     Pass(10);
-    EXPECT_EQ(LS_GetNData(1), 3);
+    EXPECT_EQ(LS_GetNData(1), 12);
+    EXPECT_THAT(Usable({49}), IsEmpty()) << "none is left";
 }

@@ -4,8 +4,8 @@
 #include "page_table/fmem_store.h"
 
 constexpr uint32_t STILLS = 0x25110000, STILL_FILES = 0x25120000, CLIPS = 0x25210000,
-                   CLIP_FILES = 0x25220000, FREEZE_PAGE = 0x25310000;
-const std::string RECALL = "put Frame Mem@Recall@Recall Thumbnail@";
+                   CLIP_FILES = 0x25220000, FREEZE_PAGE = 0x25310000, HDD = 0x25620000;
+const std::string OUTPUTS = "Frame Mem@Recall@Recall Thumbnail@", RECALL = "put " + OUTPUTS;
 const std::string RENAME = "put Frame Mem@File@Rename#";
 const std::string DELETE = "put Frame Mem@File@Delete Thumbnail@Single#";
 const std::string MOVE = "put 16@Frame Mem@Folder@Move Still#0,";
@@ -118,10 +118,9 @@ TEST_F(FrameMemoryPage, KeysAndTabsAreThereForWhatIsSelectedAndInstalled)
 
 TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
 {
-    const std::string path = "Frame Mem@Recall@Recall Thumbnail@";
     EXPECT_THAT(Open(STILLS),
-                testing::IsSupersetOf(
-                    {"add " + path + "Select", "add " + path + "FM1", "add " + path + "FM8"}));
+                testing::IsSupersetOf({"add " + OUTPUTS + "Select", "add " + OUTPUTS + "FM1",
+                                       "add " + OUTPUTS + "FM8"}));
     Pass(10);
     {
         const Display display;
@@ -132,13 +131,13 @@ TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
         };
         auto before = seen();
         for (const char* line : {"FM1#Mlogo", "FM8#Slogo", "Select#FM7&8", "FM8#"}) {
-            Tell(path + line);
+            Tell(OUTPUTS + line);
             EXPECT_NE(seen(), before) << line;
             before = seen();
         }
         for (const char* line : {"FM9#Mlogo", "FM0#Mlogo", "FM12#Mpic", "Select#FM9&10",
                                  "Select#FM0&1", "Select#XY3&4", "FM1#Mlogo"}) {
-            Tell(path + line);
+            Tell(OUTPUTS + line);
             EXPECT_EQ(seen(), before) << line;
         }
         constexpr Rect PICTURES = {405, 124, 702, 343};
@@ -151,11 +150,11 @@ TEST_F(FrameMemoryPage, OutputsAreShownWithWhatTheyHold)
         Tell("Frame Mem@Status@Store Number Sense#" + std::to_string(SYS_StoreFree + 1));
         EXPECT_NE(seen(), before);
     }
-    Tell(path + "FM1#");
-    Tell(path + "Select#FM1&2");
+    Tell(OUTPUTS + "FM1#");
+    Tell(OUTPUTS + "Select#FM1&2");
     EXPECT_THAT(Leave(),
-                testing::IsSupersetOf({"remove " + path + "Select", "remove " + path + "FM1",
-                                       "remove " + path + "FM8"}));
+                testing::IsSupersetOf({"remove " + OUTPUTS + "Select", "remove " + OUTPUTS + "FM1",
+                                       "remove " + OUTPUTS + "FM8"}));
 }
 
 TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
@@ -171,7 +170,7 @@ TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
     bool is_pair_on = false;
     for (const auto& [row, is_pair, key, lines] : cases) {
         Open(STILLS);
-        Tell(RECALL.substr(4) + "Select#FM3&4");
+        Tell(OUTPUTS + "Select#FM3&4");
         EXPECT_EQ(Caption(BTN_FMEM1_RECALL_A) + Caption(BTN_FMEM1_RECALL_B),
                   "Recall\nFM3Recall\nFM4");
         EXPECT_EQ(Caption(BTN_FMEM1_OUT), "FM3-FM4");
@@ -203,7 +202,7 @@ TEST_F(FrameMemoryPage, RecallGivesEachOutputItsSide)
 TEST_F(FrameMemoryPage, DeletionAsksAndTakesAllFramesThatAreStillThere)
 {
     Open(STILL_FILES);
-    Tell(RECALL.substr(4) + "FM5#Slogo");
+    Tell(OUTPUTS + "FM5#Slogo");
     Select(1, {0, 1});
     SendMessage(LMSG_LISTSEL, 1, 0, 0, 0);
     Puts(BTN_FMEM1_DELETE);
@@ -227,6 +226,8 @@ TEST_F(FrameMemoryPage, NamesKeepTheirSideAndFrame)
 {
     Store({"Mgo0001", "Mgo0002"}, 30);
     Pass(10);
+    static const Lines frames = {"Mrun0001,Mjump0001", "Mrun0002,Mjump0002", "Mrun0003,Mjump0003",
+                                 "Srun0002,Sjump0002", "Srun0003,Sjump0003"};
     static const std::tuple<uint32_t, int, int, const char*, const char*, Lines> cases[] = {
         {STILL_FILES, 0, BTN_FMEM1_RENAME, "sky", "no pane", {"Mlogo,Msky", "Slogo,Ssky"}},
         {STILL_FILES, 2, BTN_FMEM1_RENAME, "sky", "no pane", {"Stitle,Ssky"}},
@@ -239,13 +240,7 @@ TEST_F(FrameMemoryPage, NamesKeepTheirSideAndFrame)
         {STILL_FILES, 0, BTN_FMEM1_SEPARATE, "", "Empty", {}},
         {CLIP_FILES, 1, BTN_FMEM1_RENAME, "go", "already existing", {}},
         {CLIP_FILES, 1, BTN_FMEM1_RENAME, "run", "no pane", {}},
-        {CLIP_FILES,
-         1,
-         BTN_FMEM1_RENAME,
-         "jumped",
-         "no pane",
-         {"Mrun0001,Mjump0001", "Mrun0002,Mjump0002", "Mrun0003,Mjump0003", "Srun0002,Sjump0002",
-          "Srun0003,Sjump0003"}},
+        {CLIP_FILES, 1, BTN_FMEM1_RENAME, "jumped", "no pane", frames},
     };
     for (const auto& [page, row, key, text, says, lines] : cases) {
         Open(page);
@@ -304,8 +299,7 @@ TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
     Open(FREEZE_PAGE);
     EXPECT_THAT(Puts(BTN_FMEM1_STORE1),
                 ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC1#10,Mimage")));
-    EXPECT_THAT(Puts(BTN_FMEM1_STORE2),
-                ElementsAre(HasSubstr("put Frame Mem@Edit@Store@PROC2#10,Mimage")));
+    EXPECT_THAT(Puts(BTN_FMEM1_STORE2), ElementsAre(HasSubstr("Store@PROC2#10,Mimage")));
     EXPECT_THAT(Tell(freeze + "true"), IsEmpty()); // somebody else's, and not asked for
     Tell(freeze + "false");
     Puts(BTN_FMEM1_AUTO_STORE);
@@ -332,9 +326,9 @@ TEST_F(FrameMemoryPage, AFreezeIsStoredWhenItStands)
 
 TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
 {
-    constexpr uint32_t HDD = 0x25620000;
     const std::string PATH = "16@Frame Mem@External HDD@";
-    Open(HDD);
+    EXPECT_THAT(Open(HDD), AllOf(Contains("add 32@Frame Mem@External HDD@Progress"),
+                                 Contains("read " + PATH + "Busy")));
     constexpr Rect state = {112, 124, 480, 186}, pane = {200, 140, 599, 459};
     const auto ready = Seen(state);
     Tell(PATH + "Busy#true");
@@ -345,9 +339,9 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 1, 1, 0, 0); // another one's "Yes"
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     Quit(2); // "No"
-    EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
     (void)Puts(BTN_FMEM1_HDD_SAVE);
     EXPECT_THAT(Quit(1), ElementsAre("put " + PATH + "Save#true"));
+    EXPECT_THAT(Usable({BTN_FMEM1_HDD_SAVE, BTN_FMEM1_HDD_LOAD}), IsEmpty()) << "at once";
     Tell(PATH + "Busy#true");
     const auto begun = Seen(pane);
     Tell("32@Frame Mem@External HDD@Progress#60");
@@ -356,6 +350,7 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     EXPECT_NE(Seen(pane), begun);
     Tell("32@Frame Mem@External HDD@Busy#false"); // another one's
     BkgdHDDTransfer_PaneQuit();
+    EXPECT_EQ(Pane_GetActiveID(), 0);
     Open(STILLS); // the top of its tab, which says why
     EXPECT_TRUE(Page && Page->id == 0x25100000);
     Quit(0);
@@ -372,10 +367,17 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
     Pass(2000); // nobody has begun
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
-    EXPECT_NE(Pane_GetActiveID(), 0); // says so
-    Quit(0);
+    Quit(0); // to what says so
+    EXPECT_THAT(Usable({BTN_FMEM1_HDD_SAVE, BTN_FMEM1_HDD_LOAD}), testing::SizeIs(2));
+
+    BTNSEL* const unit = RegionBtn[32].btnsel; // the operator chooses the second switcher
+    unit[1].id = REGION_ID_SWITCHER + 1;
+    std::swap(unit[0].select, unit[1].select);
+    SendMessage(LMSG_PANEREGION, 0, 0, 0, 0);
+    EXPECT_NE(Seen(state), ready) << "its name";
     (void)Puts(BTN_FMEM1_HDD_LOAD);
-    Quit(1);
-    EXPECT_THAT(Quit(1), ElementsAre("put " + PATH + "Cancel#true")); // "Cancel"
+    EXPECT_THAT(Quit(1), ElementsAre("put 32@Frame Mem@External HDD@Load#true"));
+    EXPECT_THAT(Quit(1), ElementsAre("put 32@Frame Mem@External HDD@Cancel#true")); // "Cancel"
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
+    std::swap(unit[0].select, unit[1].select);
 }

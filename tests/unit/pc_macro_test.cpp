@@ -191,6 +191,7 @@ TEST_F(MacroOfflinePage, EveryEventIsMadeStepByStepAndReadsBack)
     for (int column = 0; column <= MACRO_COL_SYMBOL; column++) {
         At(0, column);
         EXPECT_STREQ(ls_find(LIST_MACRO_VALUES)->head[0], ls_find(LIST_MACRO_EVENTS)->head[column]);
+        EXPECT_EQ(BT_GetStatus(BTN_MACRO_GROUP_1 + column), BT_ON);
     }
     At(0, MACRO_COL_SYMBOL, {"KeyAutoTransition", "P/P", "Key2"});
     EXPECT_EQ(Events(), "Event 1 KeyAutoTransition P/P Key2 - -");
@@ -438,7 +439,7 @@ TEST_F(MacroOfflinePage, AStoreGoesOnWithoutItsPageAndKeepsTheListWhenItFails)
     EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "the job still reads it";
     (void)Pane_Quit(Pane_GetActiveID());
     (void)Key(BTN_MACRO_OFFLINE);
-    EXPECT_EQ(access(MACRO_EDIT_FILE, F_OK), 0) << "nothing else is begun meanwhile";
+    EXPECT_EQ(FileText(MACRO_EDIT_FILE), HEAD + CUT) << "nothing else is begun meanwhile";
     Hub("Disconnect");
     EXPECT_NE(access(MACRO_EDIT_FILE, F_OK), 0);
 }
@@ -599,6 +600,7 @@ TEST_F(MacroOfflinePage, TheFileMenuLeadsToTheEditorAndARegisterThatHoldsDataIsF
         ASSERT_TRUE(QueueRoot);
         FILEXFERLIST* const item = *QueueRoot->xferlist;
         EXPECT_THAT(item->src, HasSubstr(":/vorn/tmp/file/MACRO/PNL1/PNL_0007.PMR"));
+        EXPECT_EQ(item->dst, std::string("MYHOST:") + MACRO_EDIT_FILE);
         const int told = std::exchange(item->status, status);
         GL_NowPage = page;
         GL_MacroEditNo = number;

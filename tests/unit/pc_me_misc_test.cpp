@@ -416,11 +416,14 @@ TEST_F(MeMisc, TheTwoTimesLieInTheClipThatIsLoaded)
     EXPECT_THAT(Usable({37, 53}), ElementsAre(37, 53));
     // What a value far beyond becomes.
     static const std::pair<const char*, double> cases[] = {
-        {"250", 249}, {"-5", 215999}, {"x", 215999}, {"1", 215999}};
+        {"250", 249}, {"-5", 215999}, {"x", 215999}, {"1", 215999}, {"5184000", 5183999}};
     for (const auto& [duration, sent] : cases) {
         Open(0x82760000);
+        if (sent != 249) // the boxes may be there before
+            (void)Press(37);
         Tell(path + "Clip Duration#" + duration);
-        (void)Press(37);
+        if (sent == 249)
+            (void)Press(37);
         Tell(path + "Start TC#0");
         (void)NB_SetSelect(1);
         (void)NB_SendTrimValue(9999999);

@@ -414,6 +414,8 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     EXPECT_EQ(Cells(1, 3, 0, 7), "FM4||||||");
     EXPECT_EQ(BT_GetStatus(BTN_CLIP_AUTO_PLAY), BT_ON);
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), ElementsAre(PUT + "Clip Event@User2@FM3@AutoPlay#9,OFF"));
+    (void)Tell("Snapshot@Snapshot@Clip Event@User2@List#FM3,9,ON,OFF,ON,CLIP,0,12");
+    EXPECT_EQ(Cells(1, 2, 0, 7), "FM3||CLIP|On|00:00:00:00|00:00:00:12|");
     static const std::pair<const char*, const char*> outputs[] = {
         {"FM3#2,/NEWS/OPENING.SFH", "OPENING"},
         {"FM3#x", "OPENING"},
@@ -434,7 +436,9 @@ TEST_F(RegisterPages, AClipOfAUserIsSwitched)
     EXPECT_EQ(LS_GetStatus(1, 2, 0), 1);
     (void)Tell(config + "2#FM3");
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), testing::SizeIs(1));
+    const auto detail = Seen({100, 387, 566, 428});
     Cursor(1, 3); // no clip there
+    EXPECT_NE(Seen({100, 387, 566, 428}), detail);
     EXPECT_THAT(Puts(BTN_CLIP_AUTO_PLAY), IsEmpty());
     Cursor(1, 2);
     Store("User2", 9, "A,L,,n,n,n"); // locked

@@ -21,7 +21,7 @@ struct RouterPage : TablePage {
     static void Names(const std::string& source, const std::string& destination)
     {
         const std::string list = "Engineering Setup@Panel@Config@External Bus Link@S-BUS ";
-        for (int n = 1; n <= 4; n++) {
+        for (int n = 0; n <= 4; n++) { // they count from 1
             const std::string number = std::to_string(n);
             (void)Tell(list + "Src Name List#" + number + "," + source + number);
             (void)Tell(list + "Dst Name List#" + number + "," + destination + number);
@@ -63,12 +63,13 @@ TEST_F(RouterPage, OneSourceGoesToEachDestinationThatIsTouchedAndItsPlacesAreMar
     (void)Choose(2, 3);
     EXPECT_THAT(Choose(1, 0), ElementsAre("put " + DEST + "Dest1@Preset#SRC 4"));
     EXPECT_THAT(Choose(1, 127), ElementsAre("put " + DEST + "Dest128@Preset#SRC 4"));
+    Pass(10);
     (void)Tell(DEST + "Dest128@Preset#SRC 4");
     (void)Tell("Router@Status@Xpt Assign@Dest7@Level1#SRC 4");
     Pass(10);
     for (int row : {0, 6, 127})
         EXPECT_EQ(LS_GetData(1, row, 5) != nullptr, row != 0) << row;
-    (void)Choose(2, 0);
+    (void)Choose(2, 2);
     Pass(10);
     EXPECT_EQ(LS_GetData(1, 6, 5), nullptr) << "another source";
     EXPECT_EQ(Choose(2, 4).size() + Choose(1, 128).size() + Choose(1, -1).size(), 0u);
@@ -76,11 +77,13 @@ TEST_F(RouterPage, OneSourceGoesToEachDestinationThatIsTouchedAndItsPlacesAreMar
     EXPECT_STREQ(GL_NowTree[2], "Dest128") << "it stays from page to page";
     EXPECT_EQ(Held(opened, DEST + "Dest128@Owner"), 1);
     EXPECT_EQ(Held(Leave(), DEST + "Dest128@Owner"), -1);
+    (void)Open(SOURCE);
+    EXPECT_EQ(LS_GetNowLine(2), 2) << "as does the source";
 }
 
 TEST_F(RouterPage, OnlyTheLevelsThatWereChangedAreSentAndTheColumnIsHeadedByItsSalvo)
 {
-    (void)Open(LEVEL);
+    EXPECT_THAT(Open(LEVEL), Contains("add Router@Level@Level8"));
     TellAll("Router@Level@Level", {"1#true", "2#false", "8#true", "9#true"});
     (void)Tell("Router@Status@Xpt Assign@Dest3@Level1#SRC 4");
     EXPECT_EQ(Cell(1, 2, 1), "SRC 4");
