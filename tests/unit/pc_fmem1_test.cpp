@@ -54,6 +54,15 @@ TEST_F(FrameMemoryPage, TheListFollowsItsFolderAndKeepsWhatIsSelected)
     Folders("0,Default.,2,"); // it goes, and what was in it
     EXPECT_EQ(Caption(BTN_FMEM1_FOLDER), "Default.");
     EXPECT_THAT(List(), testing::SizeIs(3));
+    Lines names;
+    for (const char letter : std::string("abcdefghijklmnopqrstuvwxyz"))
+        names.push_back(std::string("M") + letter);
+    Store(names, 30);
+    (void)List();
+    (void)LS_SetTopLine(1, 9);
+    Store({"Mlast"}, 60);
+    EXPECT_THAT(List(), testing::SizeIs(30));
+    EXPECT_EQ(LS_GetTopLine(1), 9) << "the operator has gone there";
     Open(CLIPS);
     EXPECT_THAT(List(), ElementsAre("*6|run|3|2"));
     Folders("0,Default.,2,News");
