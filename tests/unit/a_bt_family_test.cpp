@@ -29,52 +29,41 @@ struct ButtonFamily : ButtonPage {
 TEST_F(ButtonFamily, VisibilityFollowsTheRuleOfTheFamily)
 {
     // Each digit of a combination is the verdict of one dependency, from the first; "x" disables.
-    static const struct {
-        const char* name;
-        int (*tally)(BT_MEM*, int, const char*, const char*);
-        const char *usable, *disabled;
-    } cases[] = {
-        {"trans", bt_tly_trans_dmewipeadj, "x-", "xx"},
-        {"any", bt_tly_normal, "-------", "------x"},
-        {"edgeadj, no second", bt_tly_edgeadj, "x--xx", "xx-x-"},
-        {"edgeadj, no third", bt_tly_edgeadj, "xxx--", "x-x-x"},
-        {"keydrop, pair", bt_tly_keydrop, "--x-", "-xx-"},
-        {"keydrop, the other half", bt_tly_keydrop, "-x--", "-xx-"},
-        {"keydrop, fourth", bt_tly_keydrop, "----", "---x"},
-    };
-    for (const auto& c : cases) {
-        OpenTally(c.tally, {"x", "x", "x", "x", "x", "x", "x"});
-        for (const char* combination : {c.usable, c.disabled}) {
-            for (int i = 0; combination[i]; i++)
-                Dependency(i + 1, combination[i] == 'x' ? "x" : "");
-            EXPECT_EQ(BT_GetVisible(17), combination == c.disabled) << c.name << " " << combination;
+    using Rule = int (*)(BT_MEM*, int, const char*, const char*);
+    for (const auto& [name, tally, usable, disabled] :
+         {std::tuple<const char*, Rule, std::string, std::string>{"trans", bt_tly_trans_dmewipeadj,
+                                                                  "x-", "xx"},
+          {"any", bt_tly_normal, "-------", "------x"},
+          {"edgeadj, no second", bt_tly_edgeadj, "x--xx", "xx-x-"},
+          {"edgeadj, no third", bt_tly_edgeadj, "xxx--", "x-x-x"},
+          {"keydrop, pair", bt_tly_keydrop, "--x-", "-xx-"},
+          {"keydrop, the other half", bt_tly_keydrop, "-x--", "-xx-"},
+          {"keydrop, fourth", bt_tly_keydrop, "----", "---x"}}) {
+        OpenTally(tally, {"x", "x", "x", "x", "x", "x", "x"});
+        for (const std::string& combination : {usable, disabled}) {
+            for (int i = 0; i < int(combination.size()); i++)
+                Dependency(i + 1, combination[size_t(i)] == 'x' ? "x" : "");
+            EXPECT_EQ(BT_GetVisible(17), combination == disabled) << name << " " << combination;
         }
         Dependency(0, "true");
-        EXPECT_EQ(BT_GetOnOff(17), 1) << c.name << ": the own state as usual";
+        EXPECT_EQ(BT_GetOnOff(17), 1) << name << ": the own state as usual";
     }
 }
 
 TEST_F(ButtonFamily, AWipeHasSizeAndTransparencyByItsNumber)
 {
-    static const struct {
-        const char* number;
-        bool size, transparency;
-    } cases[] = {
-        {"1200", false, false}, {"1201", true, true},   {"1208", true, true},
-        {"1209", false, false}, {"1220", false, false}, {"1221", true, true},
-        {"1224", true, true},   {"1225", false, false}, {"1251", true, true},
-        {"1900", false, false}, {"1901", true, true},   {"1999", true, true},
-        {"2000", false, false}, {"1031", false, true},  {"1381", false, true},
-        {"1391", false, true},  {"1392", false, false}, {"1393", false, true},
-        {"1394", false, true},  {"1396", false, true},  {"", false, false},
-        {"7201", true, true},   {"7000", false, false}, {"7031", false, true}, // other channels
-    };
-    for (const auto& c : cases)
-        for (const auto& [tally, is_usable] :
-             {std::pair{&bt_tly_dmewipe_size, c.size}, {&bt_tly_dmewipe_trans, c.transparency}}) {
-            OpenTally(tally, {""});
-            EXPECT_EQ(Dependency(1, c.number), is_usable ? BT_ENABLED : BT_DISABLED) << c.number;
-        }
+    for (const auto& [size, transparency, numbers] :
+         {std::tuple{true, true,
+                     Strings{"1201", "1208", "1221", "1224", "1251", "1901", "1999", "7201"}},
+          {false, true, {"1031", "1381", "1391", "1393", "1394", "1396", "7031"}},
+          {false, false, {"1200", "1209", "1220", "1225", "1392", "1900", "2000", "7000", ""}}})
+        for (const std::string& number : numbers)
+            for (const auto& [tally, is_usable] :
+                 {std::pair{&bt_tly_dmewipe_size, size}, {&bt_tly_dmewipe_trans, transparency}}) {
+                OpenTally(tally, {""});
+                EXPECT_EQ(Dependency(1, number.c_str()), is_usable ? BT_ENABLED : BT_DISABLED)
+                    << number;
+            }
     OpenTally(bt_tly_dmewipe_size, {""});
     BT_SetDisable(17, 1); // page code: what it puts out stays out
     EXPECT_EQ(Dependency(1, "1201"), BT_DISABLED);

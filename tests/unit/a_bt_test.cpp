@@ -1,4 +1,5 @@
 #include "a_bt_page.h"
+#include "display.h"
 #include "window.h"
 
 static const NB_TBL boxes[] = {{.id = 1, .caption = "Clip", .type = NB_2, .max = 100}, NB_END};
@@ -230,14 +231,14 @@ TEST_F(SpecialRows, WhatMovesOrGoesIsPaintedInOnePass)
     const auto key = PixelsIn(first);
     const auto black = std::vector<uint32_t>(key.size(), 0);
     EXPECT_EQ(PixelAt(rows[0].x1 - 5, rows[0].y1 + 10), 0x3C3C3Cu) << "the frame";
-
+    const Display display;
     BT_SetCutoff(18, 1);
     Pass(10);
     EXPECT_EQ(PixelsIn(first), key) << "no black field between";
     EXPECT_EQ(PixelsIn({rows[1].x1, rows[1].y1, rows[1].x2, rows[1].y2}), black);
     EXPECT_EQ(PixelAt(rows[0].x2 + 4, rows[0].y1 + 10), 0x3C3C3Cu) << "the frame is narrower";
     EXPECT_EQ(bt_find(17)->redraw, 0) << "and nothing is painted twice";
-
+    EXPECT_EQ(Display::Lacks(), "");
     BT_SetPosition(17, 400, 400, 484, 465);
     BT_SetGroup(17, "");
     Pass(10);

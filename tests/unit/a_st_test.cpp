@@ -298,6 +298,10 @@ TEST_F(StatusCells, WhatIsNewInACellIsSeen)
     static const std::pair<const ST_TBL*, Strings> cases[] = {
         {&st_me_dmewipe[2], {"1=false", "0=false", "2=false"}},
         {&st_me_dmewipe[3], {"0=Normal", "1=false", "2=false", "0=Reverse"}},
+        {&st_me_wipe[0], {"0=1", "0=4001", "0=4002"}}, // the last two have no picture
+        {&st_me_wipe[2], {"0=1", "1=2", "2=3"}},
+        {&st_me_wipe[10], {"0=Mix", "1=1"}},
+        {&st_me_wipe[5], {"0=true", "1=true"}},
         {&st_me_wipe[4], {"0=true", "1=false", "2=false", "3=false", "1=true"}},
         {&st_me_key[0], {"0=Wipe Pattern", "4=27", "3=true", "0=Chroma", "2=Additive Mix"}},
         {std::ranges::find(st_me_key, 8, &ST_TBL::id),
@@ -327,6 +331,23 @@ TEST_F(StatusCells, WhatIsNewInACellIsSeen)
             last = now;
         }
     }
+}
+
+// The rate is shown as it is told: the other lines must look like those texts.
+TEST_F(StatusCells, ABankNamesItsTransitionWithThePatternAndTheKeysThatAreOn)
+{
+    const auto looks_like = [](int line, const char* text) {
+        Tally("M/E-1@Misc@Transition@Transition Rate", text);
+        Pass();
+        const auto value = [](int n) { return PixelsIn({150, 97 + 15 * n, 290, 110 + 15 * n}); };
+        return value(line) == value(5);
+    };
+    Open(st_status_me);
+    EXPECT_TRUE(looks_like(6, "-"));
+    for (const char* on : {"Key1@Status@Key ON", "Key8@Status@Key ON", "Misc@Transition@Wipe"})
+        Tally((std::string("M/E-1@") + on).c_str(), "true");
+    Tally("M/E-1@Wipe@Main Pattern@Pattern", "27");
+    EXPECT_TRUE(looks_like(6, "1 8") && looks_like(4, "Wipe 27"));
 }
 
 TEST_F(StatusCells, ACellNamesItsSourceUnlessItIsThatOfThePage)

@@ -97,7 +97,7 @@ TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
     const auto before = places();
     const auto not_begun = PixelsIn(SUMMARY);
     Press(17); // 10 passes a page
-    EXPECT_EQ(GL_AllPageDisplayMsec, 10);
+    EXPECT_EQ(GL_AllPageDisplayMsec * BT_GetOnOff(17), 10);
     GL_AllPageDisplayMsec = 1;
     Press(33); // once
     Press(49); // start
@@ -120,7 +120,8 @@ TEST_F(Engineering, TheWalkOpensEveryRowOnceAndEndsWhereItBegan)
     Open(0x99970001);
     EXPECT_GE(LS_GetNData(ENG_LIST), int(rows)) << "each has its figures";
     Press(50); // by table
-    EXPECT_EQ(Cell(1, 0, 0), "0011");
+    EXPECT_EQ(Cell(1, 0, 0) + " " + Cell(1, 0, 3), "0011 0") << "milliseconds";
+    EXPECT_EQ(BT_GetOnOff(50), 1);
     LS_SetNowLine(1, 1);
     EXPECT_EQ(PageBy(52), PageTable[1].id); // open
 }
@@ -137,6 +138,7 @@ TEST_F(Engineering, TheKeysOfTheWalkHoldItAndStepBothWays)
     GL_AllPageDisplayMsec = 1000;
     press_strip(RUN);
     EXPECT_EQ(GL_NowPage, PageTable[0].id);
+    EXPECT_NE(PixelAt(508 + 6 + 55, 20), 0x2A2F32u) << "a key stands out";
     press_strip(NEXT);
     press_strip(NEXT);
     EXPECT_EQ(GL_NowPage, PageTable[2].id);
@@ -239,12 +241,14 @@ TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
     std::ofstream file(LOG);
     for (int n = 0; n < 5000; n++)
         file << "[Mar 05 07:08:09][ 16] line " << n << " of the pages, to fill the file\n";
-    file << "M/E-1@Key1@Type#Luminance\n[Mar 05 07:08:10][ 15] the link [text]\n[cut" << std::flush;
+    file << "M/E-1@Key1" << '\0' << "Type#Luminance\n[Mar 05 07:08:10][ 15] the link [text]\n[cut"
+         << std::flush;
     Open(0x99930003);
     EXPECT_EQ(LS_GetNData(1), 1000) << "no more than the list takes";
+    EXPECT_EQ(LS_GetSelected(1, 0), 0);
     EXPECT_EQ(Cell(1, 0, 2), "[cut");
     EXPECT_EQ(Cells(1, 1, 0, 3), "Mar 05 07:08:10|15|the link [text]");
-    EXPECT_EQ(Cell(1, 2, 2), "M/E-1@Key1@Type#Luminance");
+    EXPECT_EQ(Cell(1, 2, 2), "M/E-1@Key1 Type#Luminance");
     EXPECT_EQ(Cell(1, 3, 2), "line 4999 of the pages, to fill the file");
     EXPECT_EQ(BT_GetStatus(51), BT_OFF);
     const auto whole_line = [] { return Seen({100, 302, 697, 338}); };
@@ -262,6 +266,7 @@ TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
     for (int pass = 0; pass < 10; pass++)
         Pass(100);
     EXPECT_THAT(Column(1, 2), ElementsAre("one more"));
+    EXPECT_EQ(BT_GetStatus(51), BT_ON);
     Press(51);
     EXPECT_EQ(LS_GetNData(1), 2) << "it lets go of the text";
     Press(52); // follow no longer
@@ -271,6 +276,7 @@ TEST_F(Engineering, TheLogIsShownFromItsEndAndFiltered)
     Press(52);
     (void)SelfDiag_AddLog("SWR1", "fan %d", 1);
     Press(34); // maintenance
+    EXPECT_EQ(BT_GetOnOff(34), 1);
     EXPECT_EQ(Cells(1, 0, 1, 2), "SWR1|fan 1");
     EXPECT_THAT(Disabled(), ElementsAre(36, 37, 38, 49, 50)) << "it has no modules";
     Press(33);
@@ -490,6 +496,8 @@ TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)
     Pass(10);
     const Display display;
     const uint32_t ground = PixelAt(320, 220);
+    EXPECT_EQ(PixelAt(320, 150), 0x203038u) << "the grid";
+    EXPECT_NE(PixelAt(bt_find(49)->x1 + 8, bt_find(49)->y1 + 8), 0u) << "keys are painted too";
     SendMessage(MSG_DRAG, 320, 220, 0, 1);
     EXPECT_EQ(PixelAt(320, 220), ground) << "no finger is down";
     (void)Touch(310, 210);
@@ -498,6 +506,7 @@ TEST_F(Engineering, TheFieldShowsWhereTheFingerWentAndTheLineAboveItHowOften)
     const std::vector<uint32_t> first = PixelsIn(READOUT);
     SendMessage(MSG_DRAG, 330, 230, 1, 1);
     EXPECT_EQ(PixelAt(320, 220), WAY);
+    EXPECT_NE(PixelsIn(READOUT), first) << "the place goes along";
     SendMessage(MSG_RELEASE, 330, 230, 0, 0);
     EXPECT_NE(PixelAt(330, 230), WAY) << "a cross of another colour";
     EXPECT_EQ(Display::Lacks(), "");

@@ -107,7 +107,7 @@ TEST_F(FormatPage, ALockedPageRefusesAllButTheWayOut)
     EXPECT_EQ(Row(1, 4), "SWR1|1080i/59.94|16:9|Tri Sync*");
 }
 
-TEST_F(FormatPage, AuxiliaryOutputsTakeTheirFormatsInOnePut)
+TEST_F(FormatPage, AuxiliaryOutputsTakeTheirFormatsInOnePutAndUnitsTheirLevels)
 {
     (void)Open(0x73130005);
     (void)Tell("Engineering Setup@Switcher@Output@Signal Format#0,1,0,0,");
@@ -120,6 +120,12 @@ TEST_F(FormatPage, AuxiliaryOutputsTakeTheirFormatsInOnePut)
         formats += "0,"; // those that were not told, too
     EXPECT_THAT(Choose(BTN_SETUP_EXECUTE, YES),
                 ElementsAre("put Engineering Setup@Switcher@Output@Signal Format#" + formats));
+    (void)Open(0x73130099);
+    TellAll(FORMAT + "Level A/B@", {"SWR2#Level B", "DME3#Level A"});
+    EXPECT_EQ(Row(1, 2) + " " + Row(4, 2), "SWR2|Level B DME3|Level A");
+    (void)PushIn(4, 34);
+    EXPECT_THAT(Choose(BTN_SETUP_EXECUTE, YES),
+                ElementsAre("put " + FORMAT + "Level A/B@DME3#Level B"));
 }
 
 // --- The locks ---
@@ -162,6 +168,7 @@ struct LockPage : SetupTest {
         for (const char* text : {old_password, new_password, again})
             if (GetWindow() == WINDOW_KEYBOARD)
                 Type(text);
+        EXPECT_EQ(GetWindow(), WINDOW_MESSAGE) << "it says what came of it";
         Dismiss();
     }
 };
@@ -176,6 +183,7 @@ TEST_F(LockPage, ItemsAreOfOneGroupAndGoIntoTheFile)
     EXPECT_EQ(InFile().page[0], FORMAT_PAGE);
     (void)Push(34);
     EXPECT_EQ(RowOf("7313"), -1);
+    EXPECT_EQ(LS_GetSelected(1, 0), 0);
     EXPECT_EQ(BT_GetStatus(34), BT_ON);
     for (const char* group : {"7", "-1", "x", ""}) // there are seven
         SendMessage(LMSG_BTNSEL, Arg("LOCAL@SetupOpeLock@VF Group"), Arg(group), 0, 0);
@@ -188,8 +196,10 @@ TEST_F(LockPage, ItemsAreOfOneGroupAndGoIntoTheFile)
     (void)Push(BTN_LOCK_ITEM);
     (void)Choose(BTN_LOCK_ITEM_CLEAR, NO);
     EXPECT_EQ(InFile().num, 2);
+    (void)Push(34);
     (void)Choose(BTN_LOCK_ITEM_CLEAR, YES);
-    EXPECT_EQ(InFile().num, 0);
+    EXPECT_EQ(InFile().num, 0) << "of all groups";
+    (void)Push(33);
     EXPECT_EQ(Row(RowOf("7313"), 4), "7313|System|Format|");
 }
 

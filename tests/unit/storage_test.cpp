@@ -4,6 +4,7 @@
 #include "storage.h"
 #include "text.h"
 #include <filesystem>
+#include <fstream>
 #include <sys/statvfs.h>
 
 constexpr char LOG[] = "/var/log2/storage.log";
@@ -41,41 +42,33 @@ TEST_F(Storage, FreeSpaceIsTheSystemsOwnFigureAndOfNoDirectoryAFailureWithOneLin
 
 TEST_F(Storage, ScanTakesTheFirstStickAndTellsTheServer)
 {
-    static const struct {
-        int scans;
-        std::vector<const char*> sticks;
-        const char* path;
-        Strings told;
-    } cases[] = {
-        {1, {}, "/mnt/usb/usb1/", {}},
-        {0, {"usb0"}, "/mnt/usb/usb1/", {}},
-        {1,
-         {"usb5", "usb3"},
-         "/mnt/usb/usb3/",
-         {"put Info@Operation Setup Data@Import Path#/mnt/usb/usb3/"}},
-        {1,
-         {"usb8"},
-         "/mnt/usb/usb8/",
-         {"put Info@Operation Setup Data@Import Path#/mnt/usb/usb8/"}},
-        {1, {"usb9"}, "/mnt/usb/usb1/", {}},
-    };
-    for (const auto& c : cases) {
+    for (const auto& [scans, sticks, path] : {std::tuple{1, Strings{}, ""},
+                                              {0, {"usb0"}, ""},
+                                              {1, {"usb5", "usb3"}, "/mnt/usb/usb3/"},
+                                              {1, {"usb8"}, "/mnt/usb/usb8/"},
+                                              {1, {"usb9"}, ""}}) {
         SetUp();
-        for (const char* stick : c.sticks)
-            std::filesystem::create_directories(std::string("/mnt/usb/") + stick);
-        GL_USB_AutoScan = c.scans;
+        for (const std::string& stick : sticks)
+            std::filesystem::create_directories("/mnt/usb/" + stick);
+        GL_USB_AutoScan = scans;
         Usb_Auto_Scan();
-        EXPECT_STREQ(GL_ImportDataPath, c.path);
-        EXPECT_EQ(TakeQueuedCommands(), c.told);
+        for (int n = 0; n < 200; n++)
+            UsbSync();
+        EXPECT_STREQ(GL_ImportDataPath, *path ? path : "/mnt/usb/usb1/");
+        const std::string put = "put Info@Operation Setup Data@Import Path#";
+        EXPECT_EQ(TakeQueuedCommands(), *path ? Strings{put + path} : Strings{});
     }
+    EXPECT_FALSE(std::filesystem::exists("/proc/self/fd/200")) << "descriptors are left";
 }
 
 TEST_F(Storage, NfsMountLogsItsStepsAndStopsAtTheFirstFailure)
 {
     // Nothing here answers: the sandbox has no ping, and if it had, there is no NFS server.
-    GL_NFS_Mounted = 1;
-    EXPECT_EQ(NFS_Mount(), -1);
-    EXPECT_EQ(GL_NFS_Mounted, 0);
+    for (int (*const step)() : {NFS_Mount, NFS_UnMountEx}) {
+        GL_NFS_Mounted = 1;
+        EXPECT_EQ(step(), -1);
+        EXPECT_EQ(GL_NFS_Mounted, 0);
+    }
     EXPECT_THAT(FileText(LOG),
                 AllOf(HasSubstr("NFS Mount: /bin/mkdir -p /var/nfs\n"),
                       HasSubstr("NFS Mount: --> 0\n"),
@@ -83,9 +76,19 @@ TEST_F(Storage, NfsMountLogsItsStepsAndStopsAtTheFirstFailure)
                       HasSubstr("NFS Mount: /bin/ping -c 1"), Not(HasSubstr("/bin/mount -t nfs"))));
 }
 
+TEST_F(Storage, TheBoardIsKnownByItsKernelOrAsTheEnvironmentSays)
+{
+    std::ofstream("/var/tmp/cpuinfo") << "processor\t: 0\nHardware\t: MPU-302\nSerial\t: 0\n";
+    EXPECT_EQ(Storage_NamesMPU302("/var/tmp/cpuinfo"), 1);
+    EXPECT_EQ(IsMPU302(), 0) << "a desk";
+    setenv("TM3BOARD", "MPU302", 1);
+    EXPECT_EQ(IsMPU302(), 1);
+    unsetenv("TM3BOARD");
+}
+
 TEST_F(Storage, NfsSettingsThatAreMoreThanAWordAreRefused)
 {
-    for (const char* server : {"h;touch$IFS/mnt/data/run", "-f", "h -f", "\"h"}) {
+    for (const char* server : {"h;touch$IFS/mnt/data/run", "-f", "h -f", "\"h", ""}) {
         CopyText(GL_NFS_Server, server);
         GL_NFS_Mounted = 1;
         remove(LOG);

@@ -5,6 +5,7 @@
 #include "touch.h"
 #include <fcntl.h>
 #include <linux/input.h>
+#include <termios.h>
 #include <unistd.h>
 
 // All events that wait in SDL's queue.
@@ -65,12 +66,16 @@ TEST_F(Touch, RawPointsBecomeScreenPointsInTruncatedSteps)
         EXPECT_EQ(events[0].button.x, c.x) << c.raw << " at " << c.ax << ".." << c.bx;
         EXPECT_EQ(events[0].button.y, 0);
     }
+    SYS_TouchScreen_AY = 60;
+    Finger(0, 700, 1);
+    EXPECT_EQ(Events().at(1).motion.y, 407);
 }
 
 TEST_F(Touch, ContactComesBeforeMotionAndAReleaseIsNotLostInAFullQueue)
 {
     Touch_Record(EV_ABS, ABS_X, 512);
     Touch_Record(EV_KEY, BTN_LEFT, 1);
+    Touch_Record(EV_KEY, BTN_TOOL_FINGER, 0); // no contact
     EXPECT_TRUE(Events().empty());
     Touch_Record(EV_SYN, 0, 0);
     auto events = Events();
@@ -90,7 +95,8 @@ TEST_F(Touch, ContactComesBeforeMotionAndAReleaseIsNotLostInAFullQueue)
     filler.type = SDL_USEREVENT;
     while (SDL_PushEvent(&filler) == 0) {
     }
-    Finger(100, 100, 0);
+    Touch_Record(EV_KEY, BTN_TOUCH, 0);
+    Touch_Record(EV_SYN, 0, 0);
     for (const SDL_Event& e : Events())
         ASSERT_NE(e.type, SDL_MOUSEBUTTONUP) << "the queue was not full";
     Touch_Poll(10);
@@ -101,31 +107,39 @@ TEST_F(Touch, ContactComesBeforeMotionAndAReleaseIsNotLostInAFullQueue)
 
 TEST_F(Touch, PanelIsFoundGrabbedAndLostAndFoundAgain)
 {
-    // The sandbox's panel is a pipe. Nobody writes: it is open and silent.
+    // A device with the kernel's records, as on the controller. The sandbox's own is a pipe.
+    constexpr char own[] = "/dev/input/usb-TSC-30_DMC-event", away[] = "/dev/input/away";
+    constexpr char other[] = "/dev/input/usb-Elo_TouchSystems-event";
+    const int panel = posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_TRUE(grantpt(panel) == 0 && unlockpt(panel) == 0);
+    const termios raw = {};
+    tcsetattr(panel, TCSANOW, &raw);
+    rename(own, away);
+    EXPECT_EQ(symlink(ptsname(panel), other), 0);
     EXPECT_EQ(touch_open(), 0);
+    unlink(other);
+    rename(away, own);
     ASSERT_GE(Touch_FD, 0);
-    EXPECT_EQ(Touch_Resolution, 1023);
+    EXPECT_EQ(Touch_Resolution, 4095);
     EXPECT_EQ(touch_open(), -1); // already open
 
-    const int writer = open("/dev/input/usb-TSC-30_DMC-event", O_WRONLY | O_NONBLOCK);
-    ASSERT_GE(writer, 0);
-    const struct {
-        uint32_t sec, usec;
-        uint16_t type, code;
-        int32_t value;
-    } records[] = {{0, 0, EV_ABS, ABS_X, 512}, {0, 0, EV_KEY, BTN_TOUCH, 1}, {0, 0, EV_SYN, 0, 0}};
-    static_assert(sizeof records == 48);
+    Touch_Record(EV_KEY, BTN_TOUCH, 1);
+    Touch_Reset();
+    const input_event records[] = {{.type = EV_ABS, .code = ABS_X, .value = 2048},
+                                   {.type = EV_KEY, .code = BTN_TOUCH, .value = 1},
+                                   {.type = EV_SYN}};
     Ready_Ask();
-    ASSERT_EQ(write(writer, records, sizeof records), ssize_t(sizeof records));
+    ASSERT_EQ(write(panel, records, sizeof records), ssize_t(sizeof records));
     Touch_Poll(10);
     EXPECT_TRUE(Events().empty()) << "nothing had come when the pass asked";
-    Ready_Ask();
-    Touch_Poll(10);
+    for (int i = 0; i < 500 && !Touch_IsDown(); i++, usleep(2000)) { // the line takes its time
+        Ready_Ask();
+        Touch_Poll(10);
+    }
     auto events = Events();
-    ASSERT_FALSE(events.empty());
-    EXPECT_EQ(events[0].type, SDL_MOUSEBUTTONDOWN);
-    EXPECT_EQ(events[0].button.x, 400);
-    close(writer);
+    EXPECT_EQ(events.at(0).type, SDL_MOUSEBUTTONDOWN);
+    EXPECT_EQ(events.at(0).button.x, 400);
+    close(panel);
 
     // The panel dies under the descriptor: reading a directory is an error.
     const int dir = open("/dev/input", O_RDONLY | O_DIRECTORY);
@@ -146,19 +160,15 @@ TEST_F(Touch, PanelIsFoundGrabbedAndLostAndFoundAgain)
 
 TEST_F(Touch, CalibrationOutOfRangeFallsBackValueByValue)
 {
-    static const struct {
-        unsigned char bytes[8];
-        int points[4];
-    } cases[] = {
-        {{0, 150, 0, 0, 2, 0x89, 1, 0xC1}, {150, 0, 750, 550}}, // 649, 449
-        {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, {50, 70, 740, 540}},
-    };
-    for (const auto& c : cases) {
-        ASSERT_EQ(I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, 8, c.bytes), 8);
+    using Bytes = std::vector<unsigned char>;
+    for (const auto& [bytes, points] :
+         {std::pair{Bytes{0, 150, 0, 0, 2, 0x89, 1, 0xC1}, std::vector{150, 0, 750, 550}},
+          {{0, 151, 0, 70, 2, 0xE4, 2, 0x1C}, {50, 70, 740, 540}}}) { // beyond 649, 449 and below
+        ASSERT_EQ(I2cEepromService_WriteElem(EEPROM_TOUCH_CALIBRATION, 8, bytes.data()), 8);
         Touch_LoadCalibration();
         EXPECT_THAT((std::vector{SYS_TouchScreen_AX, SYS_TouchScreen_AY, SYS_TouchScreen_BX,
                                  SYS_TouchScreen_BY}),
-                    ElementsAreArray(c.points));
+                    ElementsAreArray(points));
         EXPECT_EQ(Touch_StoreCalibration(), 0);
         EXPECT_EQ(I2cEepromService_IsCrc32Valid(2), 1);
     }

@@ -417,6 +417,7 @@ TEST_F(Windows, NumbersAndPagesAreWhatWasTyped)
           {WINDOW_PAGE_GET, "7316\033", {}},
           {WINDOW_PAGE_GET, "", {}}}) {
         CreateWindow(type, "Number", {.min_text = "10", .max_text = "ffff", .ok = HearValue});
+        EXPECT_EQ(PixelAt(400, 30), 0u) << "it stands in the middle";
         for (const char* key = keys; *key; key++)
             Stroke(*key);
         Stroke(SDLK_RETURN);
@@ -652,6 +653,7 @@ TEST_F(KnobInput, WhatIsEnteredIsSentWithinTheLimits)
               1,
               {SDLK_KP1, SDLK_DELETE, SDLK_KP_MINUS, SDLK_KP9, ':', '.', SDLK_KP0, SDLK_KP5},
               "put Clip#-9.05"},
+          {1, {'x', SDLK_F1, SDLK_UP}, "put Clip#-12.50"}, // strange ones leave what is shown
           {3, {'1', '.', '2'}, "put Rate#00:00:12"},
           {3, {'1', ';', '2'}, "put Rate#00:01:02"}}) {
         PressSlot(slot);
