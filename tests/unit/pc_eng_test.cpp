@@ -431,8 +431,9 @@ TEST_F(Engineering, TheFiguresAreThoseSinceTheReset)
     }
     Clock_ms += 446523000;
     MainPass();
-    void* const most = mmap(nullptr, 64 << 20, PROT_READ | PROT_WRITE,
-                            MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
+    void* const most =
+        mmap(nullptr, 64 << 20, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    memset(most, 1, 64 << 20);
     munmap(most, 64 << 20);
     Pass(1000);
     EXPECT_GT(std::stod(Cell(1, 8, 1)), std::stod(Cell(1, 7, 1)) + 40) << "the most, resident";
