@@ -10,6 +10,8 @@ struct Install : testing::Test {
         stick = std::make_unique<InstallStick>();
         InstallStick::Put("pkg/a.bin", "a");
         CopyText(GL_MenuDetailInfoFull[1], "Version 2.10#3 (Mar.01.2013)");
+        Log_Init("/var/log2/install.log", LOG_FILE_SIZE);
+        (void)unlink("/var/log2/install.log");
     }
     void TearDown() override
     {
@@ -24,6 +26,7 @@ struct Install : testing::Test {
         Err_Clear();
         return SystemInstall((STICK "/" + folder + "/install.cfg").c_str(), type, uid);
     }
+    static std::string Logged() { return FileText("/var/log2/install.log"); }
 };
 constexpr const char* ADVICE = "    Please check the file on your memory card, and try again.";
 
@@ -57,6 +60,8 @@ TEST_F(Install, EachKeywordCallsItsProgram)
     // One digit of the unit's number goes into a command, once.
     EXPECT_EQ(Run("EXECS up %UID %UID\n", TARGET_SWR, 0x2B), 0);
     EXPECT_THAT(InstallStick::Calls(), ElementsAre("scs_exec [up UID2 %UID]"));
+    EXPECT_THAT(Logged(), AllOf(HasSubstr("install_scs:: %UID detected"),
+                                HasSubstr("install_scs:: -> up UID2 %UID")));
 }
 
 TEST_F(Install, AStepThatFailsEndsItAndIsTold)
@@ -111,6 +116,7 @@ TEST_F(Install, ACommandInTheBackgroundIsWaitedForWhateverWasEstimated)
         EXPECT_EQ(Run("EXECS size time\nEXECS_BG copy\n"), 0) << status;
         EXPECT_EQ(Clock_ms - begin, uint32_t(polls) * 1000) << "one look a second";
         EXPECT_THAT(InstallStick::Errors(), IsEmpty());
+        EXPECT_THAT(Logged(), HasSubstr("install_scs:: remain = " + std::string(status)));
     }
 }
 
@@ -194,6 +200,10 @@ TEST_F(Install, PackageFileIsReadAsItStands)
     ASSERT_TRUE(info);
     EXPECT_STREQ(info->title->str, "SWR  Upgrade");
     EXPECT_STREQ(info->version->str, "1.2");
+    EXPECT_EQ(info->target, TARGET_DME);
+    EXPECT_STREQ(info->dirname, STICK "/pkg");
+    ASSERT_EQ(g_list_length(info->command), 1u);
+    EXPECT_STREQ(static_cast<const char*>(info->command->data), "Execs_bg");
     EXPECT_STREQ(static_cast<const char*>(info->rest->data), "a  b");
     clear_cfg_info(info);
     EXPECT_FALSE(parse_cfgfile(STICK "/none.cfg", TARGET_DME));

@@ -348,6 +348,7 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     SendMessage(LMSG_PANEQUIT, Pane_GetActiveID() + 1, 1, 0, 0); // another one's "Yes"
     EXPECT_THAT(TakeQueuedCommands(), IsEmpty());
     Quit(2); // "No"
+    EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
     (void)Puts(BTN_FMEM1_HDD_SAVE);
     EXPECT_THAT(Quit(1), ElementsAre("put " + PATH + "Save#true"));
     EXPECT_THAT(Usable({BTN_FMEM1_HDD_SAVE, BTN_FMEM1_HDD_LOAD}), IsEmpty()) << "at once";
@@ -376,7 +377,8 @@ TEST_F(FrameMemoryPage, TheExternalDriveWorksOnWhileTheOperatorIsElsewhere)
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 1);
     Pass(2000); // nobody has begun
     EXPECT_EQ(BkgdHDDTransfer_Check(0), 0);
-    Quit(0); // to what says so
+    EXPECT_NE(Pane_GetActiveID(), 0); // says so
+    Quit(0);
     EXPECT_THAT(Usable({BTN_FMEM1_HDD_SAVE, BTN_FMEM1_HDD_LOAD}), testing::SizeIs(2));
 
     BTNSEL* const unit = RegionBtn[32].btnsel; // the operator chooses the second switcher

@@ -161,6 +161,13 @@ TEST_F(GalleryPages, PanesOpenByTheirKeysAndCloseByThemByCodeOrInTime)
     }
     EXPECT_FALSE(Says("Nothing")) << "or it is painted in every pass";
     Pass(200);
+    (void)Press(20);
+    for (const int key : {PANEFIND_NEXT, PANEFIND_CLOSE}) {
+        SendMessage(LMSG_PANEBTNSEL, key, 0, 0, 0);
+        Pass(10);
+        EXPECT_EQ(Pane_GetActiveID() != 0, key == PANEFIND_NEXT);
+    }
+    Pass(200);
     (void)Press(21);
     Pass(2990);
     const auto lit = PixelsIn({0, 0, 799, 599});
