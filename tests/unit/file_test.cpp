@@ -10,7 +10,7 @@ constexpr char ROW_DATE[] = "Wed Nov 25 09:20:08 2026";
 
 static int syncs;
 
-// Takes the place of the host's.
+// Takes the place of the library's in the whole test program: no test waits for the host's drives.
 extern "C" void sync() noexcept
 {
     syncs++;

@@ -195,6 +195,7 @@ TEST_F(GalleryPages, WindowsOpenByTheirKeysAndAnswerToTheirBoxOrTheLine)
     enter(1, "7");
     EXPECT_EQ(Shown("Value"), "7");
     enter(2, "1:0");
+    EXPECT_EQ(Shown("Time Code"), std::to_string(GetFrameNum_SWR(0)));
     EXPECT_TRUE(Says("Box 2: " + std::to_string(GetFrameNum_SWR(0)) + ".00"));
     for (const auto& [key, text, answer] : {std::tuple{4, "5", "Bank: answered with 5"},
                                             {5, "6", "Hex: answered with 6"},

@@ -153,7 +153,25 @@ TEST_F(Touch, PanelIsFoundGrabbedAndLostAndFoundAgain)
     EXPECT_EQ(events[0].type, SDL_MOUSEBUTTONUP);
     EXPECT_FALSE(Touch_IsDown());
     Touch_Poll(5000);
-    EXPECT_GE(Touch_FD, 0);
+    ASSERT_GE(Touch_FD, 0);
+
+    // It is the sandbox's own now: a pipe, with records as short on every processor.
+    EXPECT_EQ(Touch_Resolution, 1023);
+    const struct {
+        uint32_t sec, usec;
+        uint16_t type, code;
+        int32_t value;
+    } of_pipe[] = {{0, 0, EV_ABS, ABS_X, 512}, {0, 0, EV_KEY, BTN_TOUCH, 1}, {0, 0, EV_SYN, 0, 0}};
+    static_assert(sizeof of_pipe == 48);
+    const int writer = open(own, O_WRONLY | O_NONBLOCK);
+    ASSERT_EQ(write(writer, of_pipe, sizeof of_pipe), ssize_t(sizeof of_pipe));
+    Ready_Ask();
+    Touch_Poll(10);
+    events = Events();
+    EXPECT_EQ(events.at(0).type, SDL_MOUSEBUTTONDOWN);
+    EXPECT_EQ(events.at(0).button.x, 400);
+    close(writer);
+    Touch_Reset();
     close(Touch_FD);
     Touch_FD = -1;
 }
